@@ -21,6 +21,14 @@
 extern "C" {
 #endif
 
+/* The fast paths below are small and called from generated code many times per message:
+   they are always inlined. */
+#if defined(__GNUC__) || defined(__clang__)
+#define RT_INLINE static inline __attribute__((always_inline))
+#else
+#define RT_INLINE static inline
+#endif
+
 /* ---- Statuses ------------------------------------------------------------------------- */
 
 #define RT_OK 0
@@ -69,6 +77,10 @@ typedef struct rtxErrInfo {
   rtxErrLoc locs[RT_MAX_ERR_LOCS];
   uint32_t nparms;
   char parms[RT_MAX_ERR_PARMS][RT_ERR_PARM_LEN];
+  /* Names recorded by the generated code on its way out of a failure, innermost first;
+     they continue the pushed path (rtxCtxtGetPath joins both). */
+  uint32_t nunwound;
+  rtxNameEntry unwound[RT_MAX_PATH];
 } rtxErrInfo;
 
 typedef struct rtxHeapBlock rtxHeapBlock; /* malloc'd overflow block, private to the runtime */
@@ -118,7 +130,7 @@ void rtxCopyContext(rtxContext* dst, const rtxContext* src);
 void* rtxMemHeapAllocSlow(rtxContext* ctx, size_t size);
 
 /* Memory from the context heap, 8-byte aligned, contents undefined; null on exhaustion. */
-static inline void* rtxMemHeapAlloc(rtxContext* ctx, size_t size) {
+RT_INLINE void* rtxMemHeapAlloc(rtxContext* ctx, size_t size) {
   size_t rounded = (size + 7u) & ~(size_t)7u;
   rtxMemHeap* h = &ctx->heap;
   if (size <= RT_HEAP_INLINE && (size_t)(h->end - h->cur) >= rounded && (h->limit == 0 || h->used + rounded <= h->limit)) {
@@ -131,7 +143,7 @@ static inline void* rtxMemHeapAlloc(rtxContext* ctx, size_t size) {
   return rtxMemHeapAllocSlow(ctx, size);
 }
 
-static inline void* rtxMemHeapAllocZ(rtxContext* ctx, size_t size) {
+RT_INLINE void* rtxMemHeapAllocZ(rtxContext* ctx, size_t size) {
   void* p = rtxMemHeapAlloc(ctx, size);
   if (p) memset(p, 0, size);
   return p;
@@ -159,13 +171,13 @@ typedef struct rtxDList {
   rtxDListNode* tail;
 } rtxDList;
 
-static inline void rtxDListInit(rtxDList* list) {
+RT_INLINE void rtxDListInit(rtxDList* list) {
   list->count = 0;
   list->head = 0;
   list->tail = 0;
 }
 
-static inline void rtxDListAppendNode(rtxDList* list, rtxDListNode* node) {
+RT_INLINE void rtxDListAppendNode(rtxDList* list, rtxDListNode* node) {
   node->next = 0;
   node->prev = list->tail;
   if (list->tail) list->tail->next = node;
@@ -193,7 +205,7 @@ typedef struct rtxDynOctStr {
 
 /* ---- Name path ------------------------------------------------------------------------ */
 
-static inline void rtxCtxtPushName(rtxContext* ctx, const char* name, int32_t index, uint32_t kind) {
+RT_INLINE void rtxCtxtPushName(rtxContext* ctx, const char* name, int32_t index, uint32_t kind) {
   uint32_t d = ctx->path_depth;
   if (d < RT_MAX_PATH) {
     ctx->path[d].name = name;
@@ -202,20 +214,20 @@ static inline void rtxCtxtPushName(rtxContext* ctx, const char* name, int32_t in
   }
   ctx->path_depth = d + 1;
 }
-static inline void rtxCtxtPopName(rtxContext* ctx) {
+RT_INLINE void rtxCtxtPopName(rtxContext* ctx) {
   if (ctx->path_depth) ctx->path_depth--;
 }
-static inline void rtxCtxtPushTypeName(rtxContext* ctx, const char* name) { rtxCtxtPushName(ctx, name, -1, 0); }
-static inline void rtxCtxtPopTypeName(rtxContext* ctx) { rtxCtxtPopName(ctx); }
-static inline void rtxCtxtPushElemName(rtxContext* ctx, const char* name) { rtxCtxtPushName(ctx, name, -1, 1); }
-static inline void rtxCtxtPopElemName(rtxContext* ctx) { rtxCtxtPopName(ctx); }
-static inline void rtxCtxtPushArrayElemName(rtxContext* ctx, const char* name, uint32_t index) {
+RT_INLINE void rtxCtxtPushTypeName(rtxContext* ctx, const char* name) { rtxCtxtPushName(ctx, name, -1, 0); }
+RT_INLINE void rtxCtxtPopTypeName(rtxContext* ctx) { rtxCtxtPopName(ctx); }
+RT_INLINE void rtxCtxtPushElemName(rtxContext* ctx, const char* name) { rtxCtxtPushName(ctx, name, -1, 1); }
+RT_INLINE void rtxCtxtPopElemName(rtxContext* ctx) { rtxCtxtPopName(ctx); }
+RT_INLINE void rtxCtxtPushArrayElemName(rtxContext* ctx, const char* name, uint32_t index) {
   rtxCtxtPushName(ctx, name, (int32_t)index, 2);
 }
-static inline void rtxCtxtPopArrayElemName(rtxContext* ctx) { rtxCtxtPopName(ctx); }
+RT_INLINE void rtxCtxtPopArrayElemName(rtxContext* ctx) { rtxCtxtPopName(ctx); }
 
 /* The path as text, "MasterInformationBlock.plmn-Type.PLMN-Type.gsm-MAP..." with array
-   elements as "Name[3]". Returns the number of characters written (truncated to size-1). */
+   elements as "Name[3]": the pushed names, then those recorded by a failure. Returns the number of characters written (truncated to size-1). */
 size_t rtxCtxtGetPath(const rtxContext* ctx, char* buf, size_t size);
 
 /* ---- Errors --------------------------------------------------------------------------- */
@@ -223,6 +235,12 @@ size_t rtxCtxtGetPath(const rtxContext* ctx, char* buf, size_t size);
 /* Record status and source position; the first status wins, each level adds its position.
    Returns `status`. */
 int rtxErrSetData(rtxContext* ctx, int status, const char* file, int line);
+/* rtxErrSetData, then the names of the level that fails, innermost first: the type of a
+   scalar read in line, the element (with its array index, or -1), the type whose decoder or
+   encoder this is; null names are skipped. The generated code builds the name path this way,
+   on the way out of a failure, so that a message that decodes pays nothing for it. */
+int rtxErrUnwind(rtxContext* ctx, int status, const char* file, int line, const char* inner, const char* elem,
+                 int32_t index, const char* outer);
 int rtxErrAddElemNameParm(rtxContext* ctx);
 int rtxErrAddUIntParm(rtxContext* ctx, uint32_t value);
 int rtxErrAddIntParm(rtxContext* ctx, int32_t value);
@@ -242,17 +260,17 @@ size_t rtxErrGetText(const rtxContext* ctx, char* buf, size_t size);
 int pu_setBuffer(rtxContext* ctx, const uint8_t* data, uint32_t size, uint8_t aligned);
 
 /* Absolute bit position of the next read or write. */
-static inline uint64_t rtxBitPos(const rtxContext* ctx) {
+RT_INLINE uint64_t rtxBitPos(const rtxContext* ctx) {
   return (uint64_t)ctx->byte_index * 8u + (uint64_t)(8 - ctx->bit_offset);
 }
 
-static inline void rtxSetBitPos(rtxContext* ctx, uint64_t pos) {
+RT_INLINE void rtxSetBitPos(rtxContext* ctx, uint64_t pos) {
   ctx->byte_index = (uint32_t)(pos >> 3);
   ctx->bit_offset = (int16_t)(8 - (int)(pos & 7u));
 }
 
 /* Host word to big-endian order and back. */
-static inline uint64_t rtxBigEndian64(uint64_t w) {
+RT_INLINE uint64_t rtxBigEndian64(uint64_t w) {
 #if defined(__BYTE_ORDER__) && __BYTE_ORDER__ == __ORDER_BIG_ENDIAN__
   return w;
 #elif defined(__GNUC__) || defined(__clang__)
@@ -266,7 +284,7 @@ static inline uint64_t rtxBigEndian64(uint64_t w) {
 }
 
 /* Big-endian window of 64 bits starting at byte `bi`, zero past the end. */
-static inline uint64_t rtxLoadWindow(const rtxContext* ctx, uint32_t bi) {
+RT_INLINE uint64_t rtxLoadWindow(const rtxContext* ctx, uint32_t bi) {
   const uint8_t* p = ctx->buffer_data + bi;
   uint64_t w;
   if ((uint64_t)bi + 8u <= ctx->buffer_size) {
@@ -281,7 +299,7 @@ static inline uint64_t rtxLoadWindow(const rtxContext* ctx, uint32_t bi) {
 }
 
 /* Read `nbits` (0..32) as an unsigned number, first bit most significant. */
-static inline int rtxDecBitsFast(rtxContext* ctx, uint32_t* pvalue, uint32_t nbits) {
+RT_INLINE int rtxDecBitsFast(rtxContext* ctx, uint32_t* pvalue, uint32_t nbits) {
   uint64_t pos = rtxBitPos(ctx);
   uint64_t endpos = pos + nbits;
   if (endpos > (uint64_t)ctx->buffer_size * 8u) return RT_ERR_ENDOFBUF;
@@ -301,17 +319,21 @@ int rtxDecBit(rtxContext* ctx, uint8_t* pvalue);
 int rtxDecBits(rtxContext* ctx, uint32_t* pvalue, uint32_t nbits);
 
 /* Number of bits PER gives to a constrained whole number of the range 0..range. */
-static inline uint32_t rtxRangeBits(uint64_t range) {
+RT_INLINE uint32_t rtxRangeBits(uint64_t range) {
+#if defined(__GNUC__) || defined(__clang__)
+  return range ? 64u - (uint32_t)__builtin_clzll(range) : 0u;
+#else
   uint32_t n = 0;
   while (range) {
     n++;
     range >>= 1;
   }
   return n;
+#endif
 }
 
 /* Read one presence or BOOLEAN bit: inline while the buffer lasts, rtxDecBit at its end. */
-static inline int rtxDecBitInline(rtxContext* ctx, uint8_t* pbit) {
+RT_INLINE int rtxDecBitInline(rtxContext* ctx, uint8_t* pbit) {
   if (ctx->byte_index >= ctx->buffer_size) return rtxDecBit(ctx, pbit);
   {
     uint8_t byte = ctx->buffer_data[ctx->byte_index];
@@ -331,7 +353,7 @@ int pd_ConsUnsignedSlow(rtxContext* ctx, uint64_t* pvalue, uint64_t lower, uint6
 
 /* Constrained whole number lower..upper. The value is not tested against `upper` here: a
    CHOICE index or ENUMERATED value is tested (or not) by the generated code. */
-static inline int pd_ConsUnsigned(rtxContext* ctx, uint32_t* pvalue, uint64_t lower, uint64_t upper) {
+RT_INLINE int pd_ConsUnsigned(rtxContext* ctx, uint32_t* pvalue, uint64_t lower, uint64_t upper) {
   uint64_t range = upper - lower;
   if (range <= 0xFFFFFFFFull) {
     uint32_t raw;
@@ -347,60 +369,53 @@ static inline int pd_ConsUnsigned(rtxContext* ctx, uint32_t* pvalue, uint64_t lo
   }
 }
 
-/* Integer reads: the value must lie within lower..upper, else RT_ERR_CONSVIO. */
-static inline int rtxDecConsRange(rtxContext* ctx, uint64_t* praw, uint64_t range) {
+/* Integer reads: the value must lie within lower..upper, else RT_ERR_CONSVIO. Ranges wider
+   than 32 bits take the out-of-line path. */
+int rtxDecConsRangeWide(rtxContext* ctx, uint64_t* praw, uint64_t range);
+
+RT_INLINE int rtxDecConsRange(rtxContext* ctx, uint64_t* praw, uint64_t range) {
   uint32_t nbits = rtxRangeBits(range);
-  if (nbits <= 32) {
-    uint32_t raw;
-    int stat = rtxDecBitsFast(ctx, &raw, nbits);
-    if (stat != 0) return stat;
-    if (raw > range) return RT_ERR_CONSVIO;
-    *praw = raw;
-    return 0;
-  } else {
-    uint32_t hi, lo;
-    int stat;
-    if (rtxBitPos(ctx) + nbits > (uint64_t)ctx->buffer_size * 8u) return RT_ERR_ENDOFBUF;
-    stat = rtxDecBitsFast(ctx, &hi, nbits - 32);
-    if (stat == 0) stat = rtxDecBitsFast(ctx, &lo, 32);
-    if (stat != 0) return stat;
-    *praw = ((uint64_t)hi << 32) | lo;
-    if (*praw > range) return RT_ERR_CONSVIO;
-    return 0;
-  }
+  uint32_t raw;
+  int stat;
+  if (nbits > 32) return rtxDecConsRangeWide(ctx, praw, range);
+  stat = rtxDecBitsFast(ctx, &raw, nbits);
+  if (stat != 0) return stat;
+  if (raw > range) return RT_ERR_CONSVIO;
+  *praw = raw;
+  return 0;
 }
 
-static inline int pd_ConsUInt8(rtxContext* ctx, uint8_t* pvalue, uint64_t lower, uint64_t upper) {
+RT_INLINE int pd_ConsUInt8(rtxContext* ctx, uint8_t* pvalue, uint64_t lower, uint64_t upper) {
   uint64_t raw;
   int stat = rtxDecConsRange(ctx, &raw, upper - lower);
   if (stat == 0) *pvalue = (uint8_t)(lower + raw);
   return stat;
 }
-static inline int pd_ConsUInt16(rtxContext* ctx, uint16_t* pvalue, uint64_t lower, uint64_t upper) {
+RT_INLINE int pd_ConsUInt16(rtxContext* ctx, uint16_t* pvalue, uint64_t lower, uint64_t upper) {
   uint64_t raw;
   int stat = rtxDecConsRange(ctx, &raw, upper - lower);
   if (stat == 0) *pvalue = (uint16_t)(lower + raw);
   return stat;
 }
-static inline int pd_ConsUInt32(rtxContext* ctx, uint32_t* pvalue, uint64_t lower, uint64_t upper) {
+RT_INLINE int pd_ConsUInt32(rtxContext* ctx, uint32_t* pvalue, uint64_t lower, uint64_t upper) {
   uint64_t raw;
   int stat = rtxDecConsRange(ctx, &raw, upper - lower);
   if (stat == 0) *pvalue = (uint32_t)(lower + raw);
   return stat;
 }
-static inline int pd_ConsInt8(rtxContext* ctx, int8_t* pvalue, int64_t lower, int64_t upper) {
+RT_INLINE int pd_ConsInt8(rtxContext* ctx, int8_t* pvalue, int64_t lower, int64_t upper) {
   uint64_t raw;
   int stat = rtxDecConsRange(ctx, &raw, (uint64_t)upper - (uint64_t)lower);
   if (stat == 0) *pvalue = (int8_t)(lower + (int64_t)raw);
   return stat;
 }
-static inline int pd_ConsInt16(rtxContext* ctx, int16_t* pvalue, int64_t lower, int64_t upper) {
+RT_INLINE int pd_ConsInt16(rtxContext* ctx, int16_t* pvalue, int64_t lower, int64_t upper) {
   uint64_t raw;
   int stat = rtxDecConsRange(ctx, &raw, (uint64_t)upper - (uint64_t)lower);
   if (stat == 0) *pvalue = (int16_t)(lower + (int64_t)raw);
   return stat;
 }
-static inline int pd_ConsInteger(rtxContext* ctx, int32_t* pvalue, int64_t lower, int64_t upper) {
+RT_INLINE int pd_ConsInteger(rtxContext* ctx, int32_t* pvalue, int64_t lower, int64_t upper) {
   uint64_t raw;
   int stat = rtxDecConsRange(ctx, &raw, (uint64_t)upper - (uint64_t)lower);
   if (stat == 0) *pvalue = (int32_t)(lower + (int64_t)raw);
@@ -434,7 +449,7 @@ int rtxEncGrow(rtxContext* ctx, uint64_t endbit);
 /* Append `nbits` (0..57: with up to 7 bits already used in the current byte, the write
    fits one 64-bit window) of `value`, most significant first. Bytes past the write position
    are kept zero, so bits are OR-ed in. */
-static inline int rtxEncBitsFast(rtxContext* ctx, uint64_t value, uint32_t nbits) {
+RT_INLINE int rtxEncBitsFast(rtxContext* ctx, uint64_t value, uint32_t nbits) {
   uint64_t pos, endpos;
   uint32_t bi;
   if (nbits == 0) return 0;
@@ -468,7 +483,7 @@ static inline int rtxEncBitsFast(rtxContext* ctx, uint64_t value, uint32_t nbits
   return 0;
 }
 
-static inline int rtxEncBit(rtxContext* ctx, uint8_t bit) {
+RT_INLINE int rtxEncBit(rtxContext* ctx, uint8_t bit) {
   return rtxEncBitsFast(ctx, bit ? 1u : 0u, 1);
 }
 int rtxEncBits(rtxContext* ctx, uint32_t value, uint32_t nbits);
@@ -476,13 +491,13 @@ int rtxEncBits(rtxContext* ctx, uint32_t value, uint32_t nbits);
 /* Constrained whole numbers; a value outside lower..upper fails with RT_ERR_CONSVIO before
    any bit is written. */
 int pe_ConsUInt64Slow(rtxContext* ctx, uint64_t value, uint64_t lower, uint64_t upper);
-static inline int pe_ConsUInt64(rtxContext* ctx, uint64_t value, uint64_t lower, uint64_t upper) {
+RT_INLINE int pe_ConsUInt64(rtxContext* ctx, uint64_t value, uint64_t lower, uint64_t upper) {
   uint64_t range = upper - lower;
   if (value < lower || value > upper) return RT_ERR_CONSVIO;
   if (range <= 0x01FFFFFFFFFFFFFFull) return rtxEncBitsFast(ctx, value - lower, rtxRangeBits(range));
   return pe_ConsUInt64Slow(ctx, value, lower, upper);
 }
-static inline int pe_ConsInt64(rtxContext* ctx, int64_t value, int64_t lower, int64_t upper) {
+RT_INLINE int pe_ConsInt64(rtxContext* ctx, int64_t value, int64_t lower, int64_t upper) {
   uint64_t range = (uint64_t)upper - (uint64_t)lower;
   if (value < lower || value > upper) return RT_ERR_CONSVIO;
   if (range <= 0x01FFFFFFFFFFFFFFull)

@@ -263,7 +263,11 @@ TEST(CodecFailures, TruncatedEncodingsFailAtEveryCut) {
       char path[512];
       rtxCtxtGetPath(&d.ctx, path, sizeof path);
       EXPECT_EQ(std::string(path).rfind(info->name, 0), 0u) << path;
-      EXPECT_GT(d.ctx.path_depth, 0u);
+      // With nothing to read the type fails on its own preamble; past that, the path
+      // goes down to the element being read.
+      if (cut > 0)
+        EXPECT_GT(std::string(path).size(), std::string(info->name).size())
+            << "the path names the failing element: " << type << " cut " << cut;
       checked++;
     }
   }

@@ -1,4 +1,9 @@
 // Decoder family: asn1PD_UMTS_<T>, one function per type, straight-line PER steps.
+//
+// A decoder pushes no names while it works: each failure site names its own level (the type
+// of a scalar read in line, the element, the function's type) as the failure travels up, so
+// that the context's name path ends at the failing element while a message that decodes pays
+// nothing for it.
 #include <stdexcept>
 
 #include "emit.h"
@@ -10,7 +15,11 @@ class DecodeEmitter {
  public:
   std::string function(const Def* d) {
     Writer& w = w_;
-    w.line("int asn1PD_UMTS_" + d->c_name + "(rtxContext* ctx, " + d->c_name + "* pvalue)");
+    own_ = d->named ? quote(d->asn_name) : "0";
+    elem_ = "0";
+    index_ = "-1";
+    inner_ = "0";
+    w.line("int asn1PD_UMTS_" + d->c_name + "(rtxContext* RT_RESTRICT ctx, " + d->c_name + "* RT_RESTRICT pvalue)");
     w.open("{");
     switch (d->kind) {
       case Kind::Sequence:
@@ -27,25 +36,19 @@ class DecodeEmitter {
       case Kind::Enumerated:
       case Kind::Boolean:
         w.line("int stat;");
-        pushType(d);
         scalarRead(d, "*pvalue");
-        popType(d);
         w.line("return 0;");
         break;
       case Kind::BitString:
       case Kind::OctetString:
         w.line("int stat;");
-        pushType(d);
         string(d, "pvalue", "pvalue->");
-        popType(d);
         w.line("return 0;");
         break;
       case Kind::Alias:
         w.line("int stat;");
-        pushType(d);
         w.line("stat = asn1PD_UMTS_" + d->target->c_name + "(ctx, pvalue);");
-        w.line("RT_CHECK(ctx, stat);");
-        popType(d);
+        check();
         w.line("return 0;");
         break;
       case Kind::Null:
@@ -57,28 +60,27 @@ class DecodeEmitter {
 
  private:
   Writer w_;
+  // Names of the level that a failure site reports, as C literals or "0".
+  std::string own_, elem_, index_, inner_;
   bool in_array_ = false;  // a failing array element cuts the count back first
+
+  std::string names() const { return inner_ + ", " + elem_ + ", " + index_ + ", " + own_; }
 
   void check() {
     if (!in_array_) {
-      w_.line("RT_CHECK(ctx, stat);");
+      w_.line("RT_CHECK(ctx, stat, " + names() + ");");
       return;
     }
     w_.open("if (stat != 0) {");
     w_.line("pvalue->n = i + 1;");
-    w_.line("RT_RAISE(ctx, stat);");
+    w_.line("RT_FAIL(ctx, stat, " + names() + ");");
     w_.close("}");
   }
 
+  void fail(const std::string& status) { w_.line("RT_FAIL(ctx, " + status + ", " + names() + ");"); }
+
   // Address of an lvalue: "*pvalue" is "pvalue", "pvalue->x" is "&pvalue->x".
   static std::string addr(const std::string& lv) { return lv[0] == '*' ? lv.substr(1) : "&" + lv; }
-
-  void pushType(const Def* d) {
-    if (d->named) w_.line("rtxCtxtPushTypeName(ctx, " + quote(d->asn_name) + ");");
-  }
-  void popType(const Def* d) {
-    if (d->named) w_.line("rtxCtxtPopTypeName(ctx);");
-  }
 
   // Reads an INTEGER, ENUMERATED or BOOLEAN value of type t into `lv`.
   void scalarRead(const Def* t, const std::string& lv) {
@@ -124,21 +126,20 @@ class DecodeEmitter {
   }
 
   // Decodes a value of type t in place at `lv`. Scalars of a type of their own are read in
-  // line, with the type name pushed as their own decoder would.
+  // line, their type named as their own decoder would.
   void value(const Def* t, const std::string& lv) {
-    Writer& w = w_;
     if (t->kind == Kind::Integer || t->kind == Kind::Enumerated || t->kind == Kind::Boolean) {
-      pushType(t);
+      inner_ = t->named ? quote(t->asn_name) : "0";
       scalarRead(t, lv);
-      popType(t);
+      inner_ = "0";
       return;
     }
     if (isInlineString(t)) {
       string(t, "&" + lv, lv + ".");
       return;
     }
-    w.line("stat = asn1PD_UMTS_" + t->c_name + "(ctx, &" + lv + ");");
-    w.line("RT_CHECK(ctx, stat);");
+    w_.line("stat = asn1PD_UMTS_" + t->c_name + "(ctx, &" + lv + ");");
+    check();
   }
 
   // Reads a BIT or OCTET STRING into the record at `ptr`, whose members are `mem` + name.
@@ -147,7 +148,7 @@ class DecodeEmitter {
     bool bits = d->kind == Kind::BitString;
     if (!d->sized) {
       w.line(std::string("stat = ") + (bits ? "pd_DynBitString" : "pd_DynOctetString") + "(ctx, " + ptr + ");");
-      w.line("RT_CHECK(ctx, stat);");
+      check();
       return;
     }
     w.line("RT_SET_SIZE(ctx, " + num(d->size_lo) + ", " + num(d->size_hi) + ");");
@@ -158,7 +159,7 @@ class DecodeEmitter {
     } else {
       w.line("stat = pd_OctetString(ctx, &" + mem + "numocts, " + mem + "data, sizeof(" + mem + "data));");
     }
-    w.line("RT_CHECK(ctx, stat);");
+    check();
   }
 
   void sequence(const Def* d) {
@@ -168,20 +169,19 @@ class DecodeEmitter {
     w.line("int stat = 0;");
     int k = d->preamble_bits;
     if (k > 0) w.line(k > 32 ? "uint64_t present;" : "uint32_t present;");
-    pushType(d);
     if (d->has_m) w.line("pvalue->m = 0;");
     if (k > 0) {
       w.line("/* presence bits of the OPTIONAL and DEFAULT elements, in schema order */");
       if (k <= 32) {
         w.line("stat = rtxDecBitsFast(ctx, &present, " + std::to_string(k) + ");");
-        w.line("RT_CHECK(ctx, stat);");
+        check();
       } else {
         w.open("{");
         w.line("uint32_t hi, lo;");
         w.line("stat = rtxDecBitsFast(ctx, &hi, " + std::to_string(k - 32) + ");");
-        w.line("RT_CHECK(ctx, stat);");
+        check();
         w.line("stat = rtxDecBitsFast(ctx, &lo, 32);");
-        w.line("RT_CHECK(ctx, stat);");
+        check();
         w.line("present = ((uint64_t)hi << 32) | lo;");
         w.close("}");
       }
@@ -189,18 +189,16 @@ class DecodeEmitter {
     int pos = 0;
     for (const Field& f : d->fields) {
       bool flagged = f.optional || f.has_default;
-      std::string test;
+      w.line("/* " + f.asn_name + " */");
       if (flagged) {
         int shift = k - 1 - pos++;
-        test = "present & ((" + std::string(k > 32 ? "uint64_t" : "uint32_t") + ")1 << " + std::to_string(shift) + ")";
+        w.open("if (present & ((" + std::string(k > 32 ? "uint64_t" : "uint32_t") + ")1 << " + std::to_string(shift) + ")) {");
       }
-      w.line("/* " + f.asn_name + " */");
-      if (flagged) w.open("if (" + test + ") {");
-      w.line("rtxCtxtPushElemName(ctx, " + quote(f.asn_name) + ");");
+      elem_ = quote(f.asn_name);
       if (f.optional) w.line("pvalue->m |= " + presenceBit(f.opt_bit) + ";");
       if (f.containing) carrier(f);
       else if (base(f.type)->kind != Kind::Null) value(f.type, "pvalue->" + f.c_name);
-      w.line("rtxCtxtPopElemName(ctx);");
+      elem_ = "0";
       if (f.has_default) {
         w.close("}");
         w.open("else {");
@@ -210,10 +208,8 @@ class DecodeEmitter {
         w.close("}");
       }
     }
-    popType(d);
     w.line(carriers ? "return stat;" : "return 0;");
   }
-
 
   // An element that carries a complete encoding of its type in a BIT or OCTET STRING.
   void carrier(const Field& f) {
@@ -223,14 +219,14 @@ class DecodeEmitter {
     w.line(std::string(octs ? "rtxDynOctStr" : "rtxDynBitStr") + " carrier;");
     w.line("rtxContext outer;");
     w.line(std::string("stat = ") + (octs ? "pd_DynOctetString" : "pd_DynBitString") + "(ctx, &carrier);");
-    w.line("RT_CHECK(ctx, stat);");
+    check();
     w.line("rtxCopyContext(&outer, ctx);");
     if (octs) w.line("stat = pu_setBuffer(ctx, carrier.data, carrier.numocts, ctx->aligned);");
     else w.line("stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);");
     w.open("if (stat == 0) {");
     w.line("/* a failure leaves the context on the inner buffer: nothing goes on decoding on it */");
     w.line("stat = asn1PD_UMTS_" + f.type->c_name + "(ctx, &pvalue->" + f.c_name + ");");
-    w.line("RT_CHECK(ctx, stat);");
+    check();
     w.close("}");
     w.line("rtxCopyContext(ctx, &outer);");
     w.line("rtxMemHeapFreePtr(ctx, (void*)carrier.data);");
@@ -242,16 +238,15 @@ class DecodeEmitter {
     size_t n = d->fields.size();
     w.line("int stat;");
     w.line("uint32_t ui;");
-    pushType(d);
     w.line("stat = pd_ConsUnsigned(ctx, &ui, 0, " + std::to_string(n - 1) + ");");
-    w.line("RT_CHECK(ctx, stat);");
+    check();
     w.line("pvalue->t = ui + 1;");
     w.open("switch (ui) {");
     for (size_t i = 0; i < n; i++) {
       const Field& f = d->fields[i];
       const Def* b = base(f.type);
-      w.open("case " + std::to_string(i) + ":");
-      w.line("rtxCtxtPushElemName(ctx, " + quote(f.asn_name) + ");");
+      w.open("case " + std::to_string(i) + ": /* " + f.asn_name + " */");
+      elem_ = quote(f.asn_name);
       std::string lv = "pvalue->u." + f.c_name;
       if (b->kind == Kind::Null) {
         // nothing on the wire
@@ -260,30 +255,25 @@ class DecodeEmitter {
       } else if (isInlineString(f.type)) {
         std::string ct = cType(f.type);
         w.line(lv + " = (" + ct + "*)rtxMemHeapAlloc(ctx, sizeof(" + ct + "));");
-        w.line("if (" + lv + " == 0) RT_RAISE(ctx, RT_ERR_NOMEM);");
+        w.line("if (" + lv + " == 0) RT_FAIL(ctx, RT_ERR_NOMEM, " + names() + ");");
         string(f.type, lv, lv + "->");
       } else {
         const std::string& ct = f.type->c_name;
-        if (f.type->has_init) {
-          w.line(lv + " = (" + ct + "*)rtxMemHeapAlloc(ctx, sizeof(" + ct + "));");
-          w.line("if (" + lv + " == 0) RT_RAISE(ctx, RT_ERR_NOMEM);");
-          w.line("asn1Init_UMTS_" + ct + "(" + lv + ");");
-        } else {
-          w.line(lv + " = (" + ct + "*)rtxMemHeapAllocZ(ctx, sizeof(" + ct + "));");
-          w.line("if (" + lv + " == 0) RT_RAISE(ctx, RT_ERR_NOMEM);");
-        }
+        w.line(lv + " = (" + ct + "*)" + (f.type->has_init ? "rtxMemHeapAlloc" : "rtxMemHeapAllocZ") + "(ctx, sizeof(" +
+               ct + "));");
+        w.line("if (" + lv + " == 0) RT_FAIL(ctx, RT_ERR_NOMEM, " + names() + ");");
+        if (f.type->has_init) w.line("asn1Init_UMTS_" + ct + "(" + lv + ");");
         w.line("stat = asn1PD_UMTS_" + ct + "(ctx, " + lv + ");");
-        w.line("RT_CHECK(ctx, stat);");
+        check();
       }
-      w.line("rtxCtxtPopElemName(ctx);");
+      elem_ = "0";
       w.line("break;");
       w.outdent();
     }
     w.open("default:");
-    w.line("RT_RAISE(ctx, RT_ERR_INVOPT);");
+    fail("RT_ERR_INVOPT");
     w.outdent();
     w.close("}");
-    popType(d);
     w.line("return 0;");
   }
 
@@ -295,26 +285,26 @@ class DecodeEmitter {
     const std::string& ct = e->c_name;
     w.line("int stat;");
     w.line("uint32_t count, i;");
-    pushType(d);
     w.line("RT_SET_SIZE(ctx, " + num(d->size_lo) + ", " + num(d->size_hi) + ");");
     w.line("stat = pd_Length(ctx, &count);");
-    w.line("RT_CHECK(ctx, stat);");
+    check();
     w.line("rtxDListInit(pvalue);");
     w.open("for (i = 0; i < count; i++) {");
     w.line("rtxDListNode* node;");
     w.line(ct + "* elem;");
-    w.line("rtxCtxtPushArrayElemName(ctx, " + quote(elementName(e)) + ", i);");
+    elem_ = quote(elementName(e));
+    index_ = "(int32_t)i";
     w.line("node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(" + ct + "));");
-    w.line("if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);");
+    w.line("if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, " + names() + ");");
     w.line("elem = (" + ct + "*)(node + 1);");
     w.line("node->data = elem;");
     if (e->has_init) w.line("asn1Init_UMTS_" + ct + "(elem);");
     w.line("rtxDListAppendNode(pvalue, node);");
     w.line("stat = asn1PD_UMTS_" + ct + "(ctx, elem);");
-    w.line("RT_CHECK(ctx, stat);");
-    w.line("rtxCtxtPopArrayElemName(ctx);");
+    check();
+    elem_ = "0";
+    index_ = "-1";
     w.close("}");
-    popType(d);
     w.line("return 0;");
   }
 
@@ -323,7 +313,6 @@ class DecodeEmitter {
     const Def* e = d->element;
     w.line("int stat;");
     w.line("uint32_t i;");
-    pushType(d);
     if (d->size_lo == d->size_hi) {
       w.line("pvalue->n = " + num(d->size_hi) + ";");
     } else {
@@ -331,41 +320,29 @@ class DecodeEmitter {
       w.open("{");
       w.line("uint32_t raw;");
       w.line("stat = rtxDecBits(ctx, &raw, " + std::to_string(rangeBits(static_cast<unsigned long long>(range))) + ");");
-      w.line("RT_CHECK(ctx, stat);");
+      check();
       w.line("pvalue->n = raw + " + num(d->size_lo) + ";");
       w.open("if (raw > " + num(range) + ") {");
-      w.line("rtxErrAddElemNameParm(ctx);");
+      w.line("rtxErrAddStrParm(ctx, " + quote(d->asn_name) + ");");
       w.line("rtxErrAddUIntParm(ctx, pvalue->n);");
-      w.line("RT_RAISE(ctx, RT_ERR_CONSVIO);");
+      fail("RT_ERR_CONSVIO");
       w.close("}");
       w.close("}");
     }
     w.open("for (i = 0; i < pvalue->n; i++) {");
-    w.line("rtxCtxtPushArrayElemName(ctx, " + quote(elementName(e)) + ", i);");
     std::string lv = "pvalue->elem[i]";
     if (e->has_init) w.line("asn1Init_UMTS_" + e->c_name + "(&" + lv + ");");
     else if (isScalar(e)) w.line(lv + " = 0;");
-    // A failing element leaves n at the number of elements reached, itself counted.
-    const Def* eb = e;
-    if (eb->kind == Kind::Integer || eb->kind == Kind::Enumerated || eb->kind == Kind::Boolean) {
-      pushType(eb);
-      in_array_ = true;
-      scalarRead(eb, lv);
-      in_array_ = false;
-      popType(eb);
-    } else {
-      w.line("stat = asn1PD_UMTS_" + e->c_name + "(ctx, &" + lv + ");");
-      w.open("if (stat != 0) {");
-      w.line("pvalue->n = i + 1;");
-      w.line("RT_RAISE(ctx, stat);");
-      w.close("}");
-    }
-    w.line("rtxCtxtPopArrayElemName(ctx);");
+    elem_ = quote(elementName(e));
+    index_ = "(int32_t)i";
+    in_array_ = true;
+    value(e, lv);
+    in_array_ = false;
+    elem_ = "0";
+    index_ = "-1";
     w.close("}");
-    popType(d);
     w.line("return 0;");
   }
-
 };
 
 }  // namespace

@@ -1,4 +1,5 @@
-// Encoder family: asn1PE_UMTS_<T>, the mirror of the decoders.
+// Encoder family: asn1PE_UMTS_<T>, the mirror of the decoders, with the same way of naming
+// the failing element on the way out of a failure.
 #include <algorithm>
 #include <stdexcept>
 
@@ -12,11 +13,15 @@ class EncodeEmitter {
   std::string function(const Def* d) {
     Writer& w = w_;
     const std::string& c = d->c_name;
-    if (passedByValue(d)) w.line("int asn1PE_UMTS_" + c + "(rtxContext* ctx, " + c + " value)");
-    else w.line("int asn1PE_UMTS_" + c + "(rtxContext* ctx, const " + c + "* pvalue)");
+    if (passedByValue(d)) w.line("int asn1PE_UMTS_" + c + "(rtxContext* RT_RESTRICT ctx, " + c + " value)");
+    else w.line("int asn1PE_UMTS_" + c + "(rtxContext* RT_RESTRICT ctx, const " + c + "* RT_RESTRICT pvalue)");
     w.open("{");
+    own_ = d->named ? quote(d->asn_name) : "0";
+    elem_ = "0";
+    index_ = "-1";
+    inner_ = "0";
     w.line("int stat = 0;");
-    if (!passedByValue(d)) w.line("if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);");
+    if (!passedByValue(d)) w.line("if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, " + names() + ");");
     switch (d->kind) {
       case Kind::Sequence:
         sequence(d);
@@ -31,24 +36,18 @@ class EncodeEmitter {
       case Kind::Integer:
       case Kind::Enumerated:
       case Kind::Boolean:
-        pushType(d);
         scalarWrite(d, "value");
-        popType(d);
         w.line("return 0;");
         break;
       case Kind::BitString:
       case Kind::OctetString:
-        pushType(d);
         if (passedByValue(d)) string(d, "&value", "value.");
         else string(d, "pvalue", "pvalue->");
-        popType(d);
         w.line("return 0;");
         break;
       case Kind::Alias:
-        pushType(d);
         w.line("stat = asn1PE_UMTS_" + d->target->c_name + (passedByValue(d) ? "(ctx, value);" : "(ctx, pvalue);"));
-        w.line("RT_CHECK(ctx, stat);");
-        popType(d);
+        check();
         w.line("return 0;");
         break;
       case Kind::Null:
@@ -60,13 +59,14 @@ class EncodeEmitter {
 
  private:
   Writer w_;
+  // Names of the level that a failure site reports, as C literals or "0".
+  std::string own_, elem_, index_, inner_;
 
-  void pushType(const Def* d) {
-    if (d->named) w_.line("rtxCtxtPushTypeName(ctx, " + quote(d->asn_name) + ");");
-  }
-  void popType(const Def* d) {
-    if (d->named) w_.line("rtxCtxtPopTypeName(ctx);");
-  }
+  std::string names() const { return inner_ + ", " + elem_ + ", " + index_ + ", " + own_; }
+  void check() { w_.line("RT_CHECK(ctx, stat, " + names() + ");"); }
+  void fail(const std::string& status) { w_.line("RT_FAIL(ctx, " + status + ", " + names() + ");"); }
+  // The name that a parameter of a failing value reports: the innermost one known.
+  std::string topName() const { return inner_ != "0" ? inner_ : elem_ != "0" ? elem_ : own_; }
 
   // Writes an INTEGER, ENUMERATED or BOOLEAN value; the value is tested before any bit.
   void scalarWrite(const Def* t, const std::string& v) {
@@ -82,9 +82,9 @@ class EncodeEmitter {
         if (t->lo < 0) {
           if (!fills) {
             w.open("if (" + v + " < " + num(t->lo) + " || " + v + " > " + num(t->hi) + ") {");
-            w.line("rtxErrAddElemNameParm(ctx);");
+            w.line("rtxErrAddStrParm(ctx, " + topName() + ");");
             w.line("rtxErrAddIntParm(ctx, " + v + ");");
-            w.line("RT_RAISE(ctx, RT_ERR_CONSVIO);");
+            fail("RT_ERR_CONSVIO");
             w.close("}");
           }
           w.line("stat = pe_ConsInt64(ctx, " + v + ", " + num(t->lo) + ", " + num(t->hi) + ");");
@@ -94,29 +94,29 @@ class EncodeEmitter {
                                           : "(uint64_t)(" + v + " - " + num(t->lo) + ") > " +
                                                 unum(static_cast<unsigned long long>(t->hi - t->lo)) + "u";
             w.open("if (" + test + ") {");
-            w.line("rtxErrAddElemNameParm(ctx);");
+            w.line("rtxErrAddStrParm(ctx, " + topName() + ");");
             w.line("rtxErrAddUIntParm(ctx, " + v + ");");
-            w.line("RT_RAISE(ctx, RT_ERR_CONSVIO);");
+            fail("RT_ERR_CONSVIO");
             w.close("}");
           }
           w.line("stat = pe_ConsUInt64(ctx, " + v + ", " + num(t->lo) + ", " + unum(static_cast<unsigned long long>(t->hi)) + ");");
         }
-        w.line("RT_CHECK(ctx, stat);");
+        check();
         break;
       }
       case Kind::Enumerated: {
         std::string top = std::to_string(t->enumerators.size() - 1);
         w.open("if (" + v + " > " + top + ") {");
         w.line("rtxErrAddUIntParm(ctx, " + v + ");");
-        w.line("RT_RAISE(ctx, RT_ERR_INVENUM);");
+        fail("RT_ERR_INVENUM");
         w.close("}");
         w.line("stat = pe_ConsUInt64(ctx, " + v + ", 0, " + top + ");");
-        w.line("RT_CHECK(ctx, stat);");
+        check();
         break;
       }
       case Kind::Boolean:
         w.line("stat = rtxEncBit(ctx, " + v + ");");
-        w.line("RT_CHECK(ctx, stat);");
+        check();
         break;
       default:
         throw std::logic_error("not a scalar");
@@ -127,9 +127,9 @@ class EncodeEmitter {
   void value(const Def* t, const std::string& lv) {
     Writer& w = w_;
     if (t->kind == Kind::Integer || t->kind == Kind::Enumerated || t->kind == Kind::Boolean) {
-      pushType(t);
+      inner_ = t->named ? quote(t->asn_name) : "0";
       scalarWrite(t, lv);
-      popType(t);
+      inner_ = "0";
       return;
     }
     if (isInlineString(t)) {
@@ -138,7 +138,7 @@ class EncodeEmitter {
     }
     if (passedByValue(t)) w.line("stat = asn1PE_UMTS_" + t->c_name + "(ctx, " + lv + ");");
     else w.line("stat = asn1PE_UMTS_" + t->c_name + "(ctx, &" + lv + ");");
-    w.line("RT_CHECK(ctx, stat);");
+    check();
   }
 
   // Writes a BIT or OCTET STRING held in the record at `ptr`, whose members are `mem` + name.
@@ -150,7 +150,7 @@ class EncodeEmitter {
     if (!d->sized) {
       w.line("RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);");
       w.line(std::string("stat = ") + op + "(ctx, " + size + ", " + mem + "data);");
-      w.line("RT_CHECK(ctx, stat);");
+      check();
       return;
     }
     if (bits && bitStringKind(d) == "32") {
@@ -160,7 +160,7 @@ class EncodeEmitter {
         w.line("int32_t last = rtxLastBitSet(" + mem + "data, " + mem + "numbits > 32 ? 32 : " + mem + "numbits);");
         w.line("uint32_t used = (uint32_t)(last + 1);");
         w.line(mem + "numbits = used <= " + num(d->size_hi) + " ? " + num(d->size_hi) + " : used;");
-        w.line("if (last < -1) RT_RAISE(ctx, RT_ERR_CONSVIO);");
+        w.line("if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, " + names() + ");");
         w.close("}");
       }
       w.line("RT_SET_SIZE(ctx, " + num(d->size_lo) + ", " + num(d->size_hi) + ");");
@@ -170,14 +170,13 @@ class EncodeEmitter {
       w.line("RT_SET_SIZE(ctx, " + num(d->size_lo) + ", " + num(d->size_hi) + ");");
       w.line(std::string("stat = ") + op + "(ctx, " + size + ", " + mem + "data);");
     }
-    w.line("RT_CHECK(ctx, stat);");
+    check();
   }
 
   void sequence(const Def* d) {
     Writer& w = w_;
     bool carriers = false;
     for (const Field& f : d->fields) carriers |= f.containing;
-    pushType(d);
     int k = d->preamble_bits;
     if (k > 0) {
       w.line("/* presence bits of the OPTIONAL and DEFAULT elements, in schema order */");
@@ -196,7 +195,7 @@ class EncodeEmitter {
           expr += (expr.empty() ? "" : " |\n      ") + term;
         }
         w.line("stat = rtxEncBitsFast(ctx, " + expr + ", " + std::to_string(count) + ");");
-        w.line("RT_CHECK(ctx, stat);");
+        check();
       }
     }
     for (const Field& f : d->fields) {
@@ -209,13 +208,12 @@ class EncodeEmitter {
         w.open("if (pvalue->" + f.c_name + " != " + num(f.default_value) + ") {");
         block = true;
       }
-      w.line("rtxCtxtPushElemName(ctx, " + quote(f.asn_name) + ");");
+      elem_ = quote(f.asn_name);
       if (f.containing) carrier(f);
       else if (base(f.type)->kind != Kind::Null) value(f.type, "pvalue->" + f.c_name);
-      w.line("rtxCtxtPopElemName(ctx);");
+      elem_ = "0";
       if (block) w.close("}");
     }
-    popType(d);
     w.line(carriers ? "return stat;" : "return 0;");
   }
 
@@ -231,9 +229,9 @@ class EncodeEmitter {
     w.line("uint32_t len;");
     w.line("rtxCopyContext(&outer, ctx);");
     w.line("stat = rtxInitContextBuffer(ctx, 0, 0);");
-    w.line("RT_CHECK(ctx, stat);");
+    check();
     w.line("stat = asn1PE_UMTS_" + f.type->c_name + "(ctx, &pvalue->" + f.c_name + ");");
-    w.line("RT_CHECK(ctx, stat);");
+    check();
     w.line("data = ctx->buffer_data;");
     if (octs) w.line("len = pu_getMsgLen(ctx);");
     else w.line("len = ctx->byte_index * 8 + 8 - ctx->bit_offset;");
@@ -241,7 +239,7 @@ class EncodeEmitter {
     w.line("RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);");
     w.line(std::string("stat = ") + (octs ? "pe_OctetString" : "pe_BitString") + "(ctx, len, data);");
     w.line("rtxMemHeapFreePtr(ctx, (void*)data);");
-    w.line("RT_CHECK(ctx, stat);");
+    check();
     w.close("}");
   }
 
@@ -249,32 +247,31 @@ class EncodeEmitter {
     Writer& w = w_;
     size_t n = d->fields.size();
     std::string top = std::to_string(n - 1);
-    pushType(d);
-    w.line("rtxCtxtPushElemName(ctx, \"t\");");
+    elem_ = "\"t\"";
     w.line("stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, " + top + ");");
-    w.line("RT_CHECK(ctx, stat);");
-    w.line("rtxCtxtPopElemName(ctx);");
-    w.line("if (pvalue->t - 1 > " + top + ") RT_RAISE(ctx, RT_ERR_INVOPT);");
+    check();
+    elem_ = "0";
+    w.line("if (pvalue->t - 1 > " + top + ") RT_FAIL(ctx, RT_ERR_INVOPT, " + names() + ");");
     w.open("switch (pvalue->t) {");
     for (size_t i = 0; i < n; i++) {
       const Field& f = d->fields[i];
       const Def* b = base(f.type);
       w.open("case " + std::to_string(i + 1) + ":");
-      w.line("rtxCtxtPushElemName(ctx, " + quote(f.asn_name) + ");");
+      elem_ = quote(f.asn_name);
       std::string lv = "pvalue->u." + f.c_name;
       if (b->kind == Kind::Null) {
       } else if (isScalar(f.type)) {
         value(f.type, lv);
       } else if (isInlineString(f.type)) {
-        w.line("if (" + lv + " == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);");
+        w.line("if (" + lv + " == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, " + names() + ");");
         string(f.type, lv, lv + "->");
       } else {
-        w.line("if (" + lv + " == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);");
+        w.line("if (" + lv + " == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, " + names() + ");");
         if (passedByValue(f.type)) w.line("stat = asn1PE_UMTS_" + f.type->c_name + "(ctx, *" + lv + ");");
         else w.line("stat = asn1PE_UMTS_" + f.type->c_name + "(ctx, " + lv + ");");
-        w.line("RT_CHECK(ctx, stat);");
+        check();
       }
-      w.line("rtxCtxtPopElemName(ctx);");
+      elem_ = "0";
       w.line("break;");
       w.outdent();
     }
@@ -282,7 +279,6 @@ class EncodeEmitter {
     w.line("break;");
     w.outdent();
     w.close("}");
-    popType(d);
     w.line("return 0;");
   }
 
@@ -294,19 +290,19 @@ class EncodeEmitter {
     const std::string& ct = e->c_name;
     w.line("const rtxDListNode* node;");
     w.line("uint32_t i;");
-    pushType(d);
     w.line("RT_SET_SIZE(ctx, " + num(d->size_lo) + ", " + num(d->size_hi) + ");");
     w.line("stat = pe_Length(ctx, pvalue->count);");
-    w.line("if (stat < 0) RT_RAISE(ctx, stat);");
+    w.line("if (stat < 0) RT_FAIL(ctx, stat, " + names() + ");");
     w.open("for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {");
-    w.line("rtxCtxtPushArrayElemName(ctx, " + quote(elementName(e)) + ", i);");
-    w.line("if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);");
+    elem_ = quote(elementName(e));
+    index_ = "(int32_t)i";
+    w.line("if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, " + names() + ");");
     if (passedByValue(e)) w.line("stat = asn1PE_UMTS_" + ct + "(ctx, *(const " + ct + "*)node->data);");
     else w.line("stat = asn1PE_UMTS_" + ct + "(ctx, (const " + ct + "*)node->data);");
-    w.line("RT_CHECK(ctx, stat);");
-    w.line("rtxCtxtPopArrayElemName(ctx);");
+    check();
+    elem_ = "0";
+    index_ = "-1";
     w.close("}");
-    popType(d);
     w.line("return 0;");
   }
 
@@ -314,25 +310,25 @@ class EncodeEmitter {
     Writer& w = w_;
     const Def* e = d->element;
     w.line("uint32_t i;");
-    pushType(d);
     if (d->size_lo == d->size_hi) {
       // A fixed count is not on the wire; a record that holds another count cannot be written.
       w.open("if (pvalue->n != " + num(d->size_hi) + ") {");
-      w.line("rtxErrAddElemNameParm(ctx);");
+      w.line("rtxErrAddStrParm(ctx, " + topName() + ");");
       w.line("rtxErrAddUIntParm(ctx, pvalue->n);");
-      w.line("RT_RAISE(ctx, RT_ERR_CONSVIO);");
+      fail("RT_ERR_CONSVIO");
       w.close("}");
     } else {
       w.line("RT_SET_SIZE(ctx, " + num(d->size_lo) + ", " + num(d->size_hi) + ");");
       w.line("stat = pe_Length(ctx, pvalue->n);");
-      w.line("if (stat < 0) RT_RAISE(ctx, stat);");
+      w.line("if (stat < 0) RT_FAIL(ctx, stat, " + names() + ");");
     }
     w.open("for (i = 0; i < pvalue->n; i++) {");
-    w.line("rtxCtxtPushArrayElemName(ctx, " + quote(elementName(e)) + ", i);");
+    elem_ = quote(elementName(e));
+    index_ = "(int32_t)i";
     value(e, "pvalue->elem[i]");
-    w.line("rtxCtxtPopArrayElemName(ctx);");
+    elem_ = "0";
+    index_ = "-1";
     w.close("}");
-    popType(d);
     w.line("return 0;");
   }
 };

@@ -47,7 +47,7 @@ std::vector<Unit> emitNames(const Model& m) {
     w.line("return 0;");
     w.close("}");
     w.line("rtxErrAddStrnParm(ctx, text, length);");
-    w.line("RT_RAISE(ctx, RT_ERR_INVENUM);");
+    w.line("RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);");
     w.close("}");
     w.line();
     w.line("int UMTS_" + c + "_ToEnum(rtxContext* ctx, const char* text, " + c + "* pvalue)");

@@ -16,10 +16,6 @@ set(UMTS_GENERATED_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_dec_13.cpp
   ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_dec_14.cpp
   ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_dec_15.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_dec_16.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_dec_17.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_dec_18.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_dec_19.cpp
   ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_enc_00.cpp
   ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_enc_01.cpp
   ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_enc_02.cpp
@@ -36,11 +32,6 @@ set(UMTS_GENERATED_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_enc_13.cpp
   ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_enc_14.cpp
   ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_enc_15.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_enc_16.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_enc_17.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_enc_18.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_enc_19.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_enc_20.cpp
   ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_print_00.cpp
   ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_print_01.cpp
   ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_print_02.cpp

@@ -9,16 +9,25 @@
 
 #include "umts_rrc.h"
 
-/* Every failure site records its status and position and returns at once. */
 #if defined(__GNUC__) || defined(__clang__)
 #define RT_UNLIKELY(x) __builtin_expect(!!(x), 0)
 #else
 #define RT_UNLIKELY(x) (x)
 #endif
-#define RT_RAISE(ctx, stat) return rtxErrSetData((ctx), (stat), RT_CODEC_SRC, __LINE__)
-#define RT_CHECK(ctx, stat) \
+/* The record being decoded never overlaps the context. */
+#if defined(__GNUC__) || defined(__clang__)
+#define RT_RESTRICT __restrict
+#else
+#define RT_RESTRICT
+#endif
+/* A failure of one level: its status and source position, and the names of the level,
+   innermost first: the type of a scalar read in line, the element (with its array index,
+   or -1), the type of this function; 0 leaves a name out. */
+#define RT_FAIL(ctx, stat, inner, elem, index, outer) \
+   return rtxErrUnwind((ctx), (stat), RT_CODEC_SRC, __LINE__, (inner), (elem), (index), (outer))
+#define RT_CHECK(ctx, stat, inner, elem, index, outer) \
    do { \
-      if (RT_UNLIKELY((stat) != 0)) RT_RAISE(ctx, stat); \
+      if (RT_UNLIKELY((stat) != 0)) RT_FAIL(ctx, stat, inner, elem, index, outer); \
    } while (0)
 /* The size constraint that the next length or string operation applies. */
 #define RT_SET_SIZE(ctx, lo, hi) \

@@ -6,2919 +6,79 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PD_UMTS_ExplicitTFCS_Configuration_replacement(rtxContext* ctx, ExplicitTFCS_Configuration_replacement* pvalue)
+int asn1PD_UMTS_PagingIndicatorLength(rtxContext* RT_RESTRICT ctx, PagingIndicatorLength* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* tfcsRemoval */
-   rtxCtxtPushElemName(ctx, "tfcsRemoval");
-   stat = asn1PD_UMTS_TFCS_RemovalList(ctx, &pvalue->tfcsRemoval);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tfcsAdd */
-   rtxCtxtPushElemName(ctx, "tfcsAdd");
-   stat = asn1PD_UMTS_TFCS_ReconfAdd(ctx, &pvalue->tfcsAdd);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ExplicitTFCS_Configuration(rtxContext* ctx, ExplicitTFCS_Configuration* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "ExplicitTFCS-Configuration");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "complete");
-         pvalue->u.complete = (TFCS_ReconfAdd*)rtxMemHeapAlloc(ctx, sizeof(TFCS_ReconfAdd));
-         if (pvalue->u.complete == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_TFCS_ReconfAdd(pvalue->u.complete);
-         stat = asn1PD_UMTS_TFCS_ReconfAdd(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "addition");
-         pvalue->u.addition = (TFCS_ReconfAdd*)rtxMemHeapAlloc(ctx, sizeof(TFCS_ReconfAdd));
-         if (pvalue->u.addition == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_TFCS_ReconfAdd(pvalue->u.addition);
-         stat = asn1PD_UMTS_TFCS_ReconfAdd(ctx, pvalue->u.addition);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "removal");
-         pvalue->u.removal = (TFCS_RemovalList*)rtxMemHeapAlloc(ctx, sizeof(TFCS_RemovalList));
-         if (pvalue->u.removal == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_TFCS_RemovalList(pvalue->u.removal);
-         stat = asn1PD_UMTS_TFCS_RemovalList(ctx, pvalue->u.removal);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "replacement");
-         pvalue->u.replacement = (ExplicitTFCS_Configuration_replacement*)rtxMemHeapAlloc(ctx, sizeof(ExplicitTFCS_Configuration_replacement));
-         if (pvalue->u.replacement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_ExplicitTFCS_Configuration_replacement(pvalue->u.replacement);
-         stat = asn1PD_UMTS_ExplicitTFCS_Configuration_replacement(ctx, pvalue->u.replacement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SplitType(rtxContext* ctx, SplitType* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "SplitType");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TFCS_InfoForDSCH(rtxContext* ctx, TFCS_InfoForDSCH* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "TFCS-InfoForDSCH");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 6);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "ctfc2bit");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.ctfc2bit, 0, 3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "ctfc4bit");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.ctfc4bit, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ctfc6bit");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.ctfc6bit, 0, 63);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "ctfc8bit");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.ctfc8bit, 0, 255);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "ctfc12bit");
-         stat = pd_ConsUInt16(ctx, &pvalue->u.ctfc12bit, 0, 4095);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "ctfc16bit");
-         stat = pd_ConsUInt16(ctx, &pvalue->u.ctfc16bit, 0, 65535);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "ctfc24bit");
-         stat = pd_ConsUInt32(ctx, &pvalue->u.ctfc24bit, 0, 16777215);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TFCI_Range(rtxContext* ctx, TFCI_Range* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TFCI-Range");
-   /* maxTFCIField2Value */
-   rtxCtxtPushElemName(ctx, "maxTFCIField2Value");
-   stat = pd_ConsUInt16(ctx, &pvalue->maxTFCIField2Value, 1, 1023);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tfcs-InfoForDSCH */
-   rtxCtxtPushElemName(ctx, "tfcs-InfoForDSCH");
-   stat = asn1PD_UMTS_TFCS_InfoForDSCH(ctx, &pvalue->tfcs_InfoForDSCH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TFCI_RangeList(rtxContext* ctx, TFCI_RangeList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "TFCI-RangeList");
-   RT_SET_SIZE(ctx, 1, 256);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      TFCI_Range* elem;
-      rtxCtxtPushArrayElemName(ctx, "TFCI-Range", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TFCI_Range));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (TFCI_Range*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_TFCI_Range(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_TFCI_Range(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TFCI_Field2_Information(rtxContext* ctx, TFCI_Field2_Information* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "TFCI-Field2-Information");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "tfci-Range");
-         pvalue->u.tfci_Range = (TFCI_RangeList*)rtxMemHeapAlloc(ctx, sizeof(TFCI_RangeList));
-         if (pvalue->u.tfci_Range == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_TFCI_RangeList(pvalue->u.tfci_Range);
-         stat = asn1PD_UMTS_TFCI_RangeList(ctx, pvalue->u.tfci_Range);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "explicit-config");
-         pvalue->u.explicit_config = (ExplicitTFCS_Configuration*)rtxMemHeapAlloc(ctx, sizeof(ExplicitTFCS_Configuration));
-         if (pvalue->u.explicit_config == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_ExplicitTFCS_Configuration(pvalue->u.explicit_config);
-         stat = asn1PD_UMTS_ExplicitTFCS_Configuration(ctx, pvalue->u.explicit_config);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SplitTFCI_Signalling(rtxContext* ctx, SplitTFCI_Signalling* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SplitTFCI-Signalling");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* splitType */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "splitType");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "SplitType");
-      stat = pd_ConsUnsigned(ctx, &pvalue->splitType, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tfci-Field2-Length */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "tfci-Field2-Length");
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->tfci_Field2_Length, 1, 10);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tfci-Field1-Information */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "tfci-Field1-Information");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_ExplicitTFCS_Configuration(ctx, &pvalue->tfci_Field1_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tfci-Field2-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "tfci-Field2-Information");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_TFCI_Field2_Information(ctx, &pvalue->tfci_Field2_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TFCS(rtxContext* ctx, TFCS* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "TFCS");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "normalTFCI-Signalling");
-         pvalue->u.normalTFCI_Signalling = (ExplicitTFCS_Configuration*)rtxMemHeapAlloc(ctx, sizeof(ExplicitTFCS_Configuration));
-         if (pvalue->u.normalTFCI_Signalling == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_ExplicitTFCS_Configuration(pvalue->u.normalTFCI_Signalling);
-         stat = asn1PD_UMTS_ExplicitTFCS_Configuration(ctx, pvalue->u.normalTFCI_Signalling);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "dummy");
-         pvalue->u.dummy = (SplitTFCI_Signalling*)rtxMemHeapAlloc(ctx, sizeof(SplitTFCI_Signalling));
-         if (pvalue->u.dummy == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_SplitTFCI_Signalling(pvalue->u.dummy);
-         stat = asn1PD_UMTS_SplitTFCI_Signalling(ctx, pvalue->u.dummy);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCH_SysInfo(rtxContext* ctx, PUSCH_SysInfo* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PUSCH-SysInfo");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* pusch-Identity */
-   rtxCtxtPushElemName(ctx, "pusch-Identity");
-   rtxCtxtPushTypeName(ctx, "PUSCH-Identity");
-   stat = pd_ConsUInt8(ctx, &pvalue->pusch_Identity, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* pusch-Info */
-   rtxCtxtPushElemName(ctx, "pusch-Info");
-   stat = asn1PD_UMTS_PUSCH_Info(ctx, &pvalue->pusch_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* usch-TFS */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "usch-TFS");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->usch_TFS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* usch-TFCS */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "usch-TFCS");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_TFCS(ctx, &pvalue->usch_TFCS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DurationTimeInfo(rtxContext* ctx, DurationTimeInfo* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "DurationTimeInfo");
-   stat = pd_ConsUInt16(ctx, pvalue, 1, 4096);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SFN_TimeInfo(rtxContext* ctx, SFN_TimeInfo* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SFN-TimeInfo");
-   /* activationTimeSFN */
-   rtxCtxtPushElemName(ctx, "activationTimeSFN");
-   stat = pd_ConsUInt16(ctx, &pvalue->activationTimeSFN, 0, 4095);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* physChDuration */
-   rtxCtxtPushElemName(ctx, "physChDuration");
-   rtxCtxtPushTypeName(ctx, "DurationTimeInfo");
-   stat = pd_ConsUInt16(ctx, &pvalue->physChDuration, 1, 4096);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCH_SysInfoList_SFN_element(rtxContext* ctx, PUSCH_SysInfoList_SFN_element* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* pusch-SysInfo */
-   rtxCtxtPushElemName(ctx, "pusch-SysInfo");
-   stat = asn1PD_UMTS_PUSCH_SysInfo(ctx, &pvalue->pusch_SysInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sfn-TimeInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "sfn-TimeInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCH_SysInfoList_SFN(rtxContext* ctx, PUSCH_SysInfoList_SFN* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "PUSCH-SysInfoList-SFN");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PUSCH_SysInfoList_SFN_element* elem;
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PUSCH_SysInfoList_SFN_element));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (PUSCH_SysInfoList_SFN_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PUSCH_SysInfoList_SFN_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PUSCH_SysInfoList_SFN_element(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PDSCH_Identity(rtxContext* ctx, PDSCH_Identity* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "PDSCH-Identity");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_TS_ChannelisationCode(rtxContext* ctx, DL_TS_ChannelisationCode* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "DL-TS-ChannelisationCode");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation_consecutive(rtxContext* ctx, DL_TS_ChannelisationCodesShort_codesRepresentation_consecutive* pvalue)
-{
-   int stat = 0;
-   /* firstChannelisationCode */
-   rtxCtxtPushElemName(ctx, "firstChannelisationCode");
-   rtxCtxtPushTypeName(ctx, "DL-TS-ChannelisationCode");
-   stat = pd_ConsUnsigned(ctx, &pvalue->firstChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* lastChannelisationCode */
-   rtxCtxtPushElemName(ctx, "lastChannelisationCode");
-   rtxCtxtPushTypeName(ctx, "DL-TS-ChannelisationCode");
-   stat = pd_ConsUnsigned(ctx, &pvalue->lastChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap(rtxContext* ctx, DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap* pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, pvalue, 16, 16);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation(rtxContext* ctx, DL_TS_ChannelisationCodesShort_codesRepresentation* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "consecutive");
-         pvalue->u.consecutive = (DL_TS_ChannelisationCodesShort_codesRepresentation_consecutive*)rtxMemHeapAllocZ(ctx, sizeof(DL_TS_ChannelisationCodesShort_codesRepresentation_consecutive));
-         if (pvalue->u.consecutive == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation_consecutive(ctx, pvalue->u.consecutive);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "bitmap");
-         pvalue->u.bitmap = (DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap*)rtxMemHeapAlloc(ctx, sizeof(DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap));
-         if (pvalue->u.bitmap == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap(pvalue->u.bitmap);
-         stat = asn1PD_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap(ctx, pvalue->u.bitmap);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_TS_ChannelisationCodesShort(rtxContext* ctx, DL_TS_ChannelisationCodesShort* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DL-TS-ChannelisationCodesShort");
-   /* codesRepresentation */
-   rtxCtxtPushElemName(ctx, "codesRepresentation");
-   stat = asn1PD_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation(ctx, &pvalue->codesRepresentation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DownlinkAdditionalTimeslots_parameters_sameAsLast(rtxContext* ctx, DownlinkAdditionalTimeslots_parameters_sameAsLast* pvalue)
-{
-   int stat = 0;
-   /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DownlinkAdditionalTimeslots_parameters_newParameters(rtxContext* ctx, DownlinkAdditionalTimeslots_parameters_newParameters* pvalue)
-{
-   int stat = 0;
-   /* individualTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "individualTimeslotInfo");
-   stat = asn1PD_UMTS_IndividualTimeslotInfo(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-TS-ChannelisationCodesShort */
-   rtxCtxtPushElemName(ctx, "dl-TS-ChannelisationCodesShort");
-   stat = asn1PD_UMTS_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DownlinkAdditionalTimeslots_parameters(rtxContext* ctx, DownlinkAdditionalTimeslots_parameters* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "sameAsLast");
-         pvalue->u.sameAsLast = (DownlinkAdditionalTimeslots_parameters_sameAsLast*)rtxMemHeapAllocZ(ctx, sizeof(DownlinkAdditionalTimeslots_parameters_sameAsLast));
-         if (pvalue->u.sameAsLast == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_DownlinkAdditionalTimeslots_parameters_sameAsLast(ctx, pvalue->u.sameAsLast);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "newParameters");
-         pvalue->u.newParameters = (DownlinkAdditionalTimeslots_parameters_newParameters*)rtxMemHeapAlloc(ctx, sizeof(DownlinkAdditionalTimeslots_parameters_newParameters));
-         if (pvalue->u.newParameters == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_DownlinkAdditionalTimeslots_parameters_newParameters(pvalue->u.newParameters);
-         stat = asn1PD_UMTS_DownlinkAdditionalTimeslots_parameters_newParameters(ctx, pvalue->u.newParameters);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DownlinkAdditionalTimeslots(rtxContext* ctx, DownlinkAdditionalTimeslots* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DownlinkAdditionalTimeslots");
-   /* parameters */
-   rtxCtxtPushElemName(ctx, "parameters");
-   stat = asn1PD_UMTS_DownlinkAdditionalTimeslots_parameters(ctx, &pvalue->parameters);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* ctx, DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 13);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DownlinkAdditionalTimeslots* elem;
-      rtxCtxtPushArrayElemName(ctx, "DownlinkAdditionalTimeslots", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DownlinkAdditionalTimeslots));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (DownlinkAdditionalTimeslots*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DownlinkAdditionalTimeslots(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DownlinkAdditionalTimeslots(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots(rtxContext* ctx, DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "consecutive");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.consecutive, 1, 13);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "timeslotList");
-         pvalue->u.timeslotList = (DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList*)rtxMemHeapAlloc(ctx, sizeof(DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList));
-         if (pvalue->u.timeslotList == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList(pvalue->u.timeslotList);
-         stat = asn1PD_UMTS_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DownlinkTimeslotsCodes_moreTimeslots(rtxContext* ctx, DownlinkTimeslotsCodes_moreTimeslots* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "noMore");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "additionalTimeslots");
-         pvalue->u.additionalTimeslots = (DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots*)rtxMemHeapAlloc(ctx, sizeof(DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots));
-         if (pvalue->u.additionalTimeslots == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots(pvalue->u.additionalTimeslots);
-         stat = asn1PD_UMTS_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DownlinkTimeslotsCodes(rtxContext* ctx, DownlinkTimeslotsCodes* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DownlinkTimeslotsCodes");
-   /* firstIndividualTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "firstIndividualTimeslotInfo");
-   stat = asn1PD_UMTS_IndividualTimeslotInfo(ctx, &pvalue->firstIndividualTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-TS-ChannelisationCodesShort */
-   rtxCtxtPushElemName(ctx, "dl-TS-ChannelisationCodesShort");
-   stat = asn1PD_UMTS_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* moreTimeslots */
-   rtxCtxtPushElemName(ctx, "moreTimeslots");
-   stat = asn1PD_UMTS_DownlinkTimeslotsCodes_moreTimeslots(ctx, &pvalue->moreTimeslots);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PDSCH_Info(rtxContext* ctx, PDSCH_Info* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PDSCH-Info");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* tfcs-ID */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "tfcs-ID");
-      rtxCtxtPushTypeName(ctx, "TFCS-IdentityPlain");
-      stat = pd_ConsUInt8(ctx, &pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->tfcs_ID = 1;
-   }
-   /* commonTimeslotInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "commonTimeslotInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdsch-TimeslotsCodes */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "pdsch-TimeslotsCodes");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DownlinkTimeslotsCodes(ctx, &pvalue->pdsch_TimeslotsCodes);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PDSCH_SysInfo(rtxContext* ctx, PDSCH_SysInfo* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PDSCH-SysInfo");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* pdsch-Identity */
-   rtxCtxtPushElemName(ctx, "pdsch-Identity");
-   rtxCtxtPushTypeName(ctx, "PDSCH-Identity");
-   stat = pd_ConsUInt8(ctx, &pvalue->pdsch_Identity, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* pdsch-Info */
-   rtxCtxtPushElemName(ctx, "pdsch-Info");
-   stat = asn1PD_UMTS_PDSCH_Info(ctx, &pvalue->pdsch_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dsch-TFS */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dsch-TFS");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->dsch_TFS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dsch-TFCS */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dsch-TFCS");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_TFCS(ctx, &pvalue->dsch_TFCS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PDSCH_SysInfoList_SFN_element(rtxContext* ctx, PDSCH_SysInfoList_SFN_element* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* pdsch-SysInfo */
-   rtxCtxtPushElemName(ctx, "pdsch-SysInfo");
-   stat = asn1PD_UMTS_PDSCH_SysInfo(ctx, &pvalue->pdsch_SysInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sfn-TimeInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "sfn-TimeInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PDSCH_SysInfoList_SFN(rtxContext* ctx, PDSCH_SysInfoList_SFN* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "PDSCH-SysInfoList-SFN");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PDSCH_SysInfoList_SFN_element* elem;
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PDSCH_SysInfoList_SFN_element));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (PDSCH_SysInfoList_SFN_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PDSCH_SysInfoList_SFN_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PDSCH_SysInfoList_SFN_element(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PrimaryCCPCH_TX_Power(rtxContext* ctx, PrimaryCCPCH_TX_Power* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-   stat = pd_ConsUInt8(ctx, pvalue, 6, 43);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Alpha(rtxContext* ctx, Alpha* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "Alpha");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ConstantValueTdd(rtxContext* ctx, ConstantValueTdd* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "ConstantValueTdd");
-   stat = pd_ConsInt8(ctx, pvalue, -35, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_OpenLoopPowerControl_TDD(rtxContext* ctx, OpenLoopPowerControl_TDD* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "OpenLoopPowerControl-TDD");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* primaryCCPCH-TX-Power */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* alpha */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "alpha");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "Alpha");
-      stat = pd_ConsUInt8(ctx, &pvalue->alpha, 0, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* prach-ConstantValue */
-   rtxCtxtPushElemName(ctx, "prach-ConstantValue");
-   rtxCtxtPushTypeName(ctx, "ConstantValueTdd");
-   stat = pd_ConsInt8(ctx, &pvalue->prach_ConstantValue, -35, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dpch-ConstantValue */
-   rtxCtxtPushElemName(ctx, "dpch-ConstantValue");
-   rtxCtxtPushTypeName(ctx, "ConstantValueTdd");
-   stat = pd_ConsInt8(ctx, &pvalue->dpch_ConstantValue, -35, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* pusch-ConstantValue */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "pusch-ConstantValue");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "ConstantValueTdd");
-      stat = pd_ConsInt8(ctx, &pvalue->pusch_ConstantValue, -35, 10);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_modeSpecificInfo_tdd(rtxContext* ctx, SysInfoType5_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* pusch-SysInfoList-SFN */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "pusch-SysInfoList-SFN");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PUSCH_SysInfoList_SFN(ctx, &pvalue->pusch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdsch-SysInfoList-SFN */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "pdsch-SysInfoList-SFN");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PDSCH_SysInfoList_SFN(ctx, &pvalue->pdsch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* openLoopPowerControl-TDD */
-   rtxCtxtPushElemName(ctx, "openLoopPowerControl-TDD");
-   stat = asn1PD_UMTS_OpenLoopPowerControl_TDD(ctx, &pvalue->openLoopPowerControl_TDD);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_modeSpecificInfo(rtxContext* ctx, SysInfoType5_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (SysInfoType5_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(SysInfoType5_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_SysInfoType5_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (SysInfoType5_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(SysInfoType5_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_SysInfoType5_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_SysInfoType5_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PrimaryCCPCH_Info_fdd(rtxContext* ctx, PrimaryCCPCH_Info_fdd* pvalue)
-{
-   int stat = 0;
-   /* tx-DiversityIndicator */
-   rtxCtxtPushElemName(ctx, "tx-DiversityIndicator");
-   stat = rtxDecBitInline(ctx, &pvalue->tx_DiversityIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PrimaryCCPCH_Info_tdd_syncCase_syncCase1(rtxContext* ctx, PrimaryCCPCH_Info_tdd_syncCase_syncCase1* pvalue)
-{
-   int stat = 0;
-   /* timeslot */
-   rtxCtxtPushElemName(ctx, "timeslot");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TimeslotSync2(rtxContext* ctx, TimeslotSync2* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "TimeslotSync2");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PrimaryCCPCH_Info_tdd_syncCase_syncCase2(rtxContext* ctx, PrimaryCCPCH_Info_tdd_syncCase_syncCase2* pvalue)
-{
-   int stat = 0;
-   /* timeslotSync2 */
-   rtxCtxtPushElemName(ctx, "timeslotSync2");
-   rtxCtxtPushTypeName(ctx, "TimeslotSync2");
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotSync2, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PrimaryCCPCH_Info_tdd_syncCase(rtxContext* ctx, PrimaryCCPCH_Info_tdd_syncCase* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "syncCase1");
-         pvalue->u.syncCase1 = (PrimaryCCPCH_Info_tdd_syncCase_syncCase1*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCCPCH_Info_tdd_syncCase_syncCase1));
-         if (pvalue->u.syncCase1 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_PrimaryCCPCH_Info_tdd_syncCase_syncCase1(ctx, pvalue->u.syncCase1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "syncCase2");
-         pvalue->u.syncCase2 = (PrimaryCCPCH_Info_tdd_syncCase_syncCase2*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCCPCH_Info_tdd_syncCase_syncCase2));
-         if (pvalue->u.syncCase2 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_PrimaryCCPCH_Info_tdd_syncCase_syncCase2(ctx, pvalue->u.syncCase2);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellParametersID(rtxContext* ctx, CellParametersID* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "CellParametersID");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PrimaryCCPCH_Info_tdd(rtxContext* ctx, PrimaryCCPCH_Info_tdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* syncCase */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "syncCase");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PrimaryCCPCH_Info_tdd_syncCase(ctx, &pvalue->syncCase);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellParametersID */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cellParametersID");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "CellParametersID");
-      stat = pd_ConsUInt8(ctx, &pvalue->cellParametersID, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sctd-Indicator */
-   rtxCtxtPushElemName(ctx, "sctd-Indicator");
-   stat = rtxDecBitInline(ctx, &pvalue->sctd_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PrimaryCCPCH_Info(rtxContext* ctx, PrimaryCCPCH_Info* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-Info");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (PrimaryCCPCH_Info_fdd*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCCPCH_Info_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_PrimaryCCPCH_Info_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (PrimaryCCPCH_Info_tdd*)rtxMemHeapAlloc(ctx, sizeof(PrimaryCCPCH_Info_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PrimaryCCPCH_Info_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_PrimaryCCPCH_Info_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_AvailableSignatures(rtxContext* ctx, AvailableSignatures* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "AvailableSignatures");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, pvalue, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SF_PRACH(rtxContext* ctx, SF_PRACH* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "SF-PRACH");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PreambleScramblingCodeWordNumber(rtxContext* ctx, PreambleScramblingCodeWordNumber* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "PreambleScramblingCodeWordNumber");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_AvailableSubChannelNumbers(rtxContext* ctx, AvailableSubChannelNumbers* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "AvailableSubChannelNumbers");
-   RT_SET_SIZE(ctx, 12, 12);
-   stat = pd_BitString32(ctx, pvalue, 12, 12);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PRACH_RACH_Info_modeSpecificInfo_fdd(rtxContext* ctx, PRACH_RACH_Info_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   /* availableSignatures */
-   rtxCtxtPushElemName(ctx, "availableSignatures");
-   stat = asn1PD_UMTS_AvailableSignatures(ctx, &pvalue->availableSignatures);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* availableSF */
-   rtxCtxtPushElemName(ctx, "availableSF");
-   rtxCtxtPushTypeName(ctx, "SF-PRACH");
-   stat = pd_ConsUnsigned(ctx, &pvalue->availableSF, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* preambleScramblingCodeWordNumber */
-   rtxCtxtPushElemName(ctx, "preambleScramblingCodeWordNumber");
-   rtxCtxtPushTypeName(ctx, "PreambleScramblingCodeWordNumber");
-   stat = pd_ConsUInt8(ctx, &pvalue->preambleScramblingCodeWordNumber, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* puncturingLimit */
-   rtxCtxtPushElemName(ctx, "puncturingLimit");
-   rtxCtxtPushTypeName(ctx, "PuncturingLimit");
-   stat = pd_ConsUnsigned(ctx, &pvalue->puncturingLimit, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* availableSubChannelNumbers */
-   rtxCtxtPushElemName(ctx, "availableSubChannelNumbers");
-   stat = asn1PD_UMTS_AvailableSubChannelNumbers(ctx, &pvalue->availableSubChannelNumbers);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TDD_PRACH_CCode8(rtxContext* ctx, TDD_PRACH_CCode8* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "TDD-PRACH-CCode8");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TDD_PRACH_CCodeList_sf8(rtxContext* ctx, TDD_PRACH_CCodeList_sf8* pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 7) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "TDD-PRACH-CCode8", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "TDD-PRACH-CCode8");
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 7);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_TDD_PRACH_CCode16(rtxContext* ctx, TDD_PRACH_CCode16* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "TDD-PRACH-CCode16");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TDD_PRACH_CCodeList_sf16(rtxContext* ctx, TDD_PRACH_CCodeList_sf16* pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 7) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "TDD-PRACH-CCode16", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "TDD-PRACH-CCode16");
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 15);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_TDD_PRACH_CCodeList(rtxContext* ctx, TDD_PRACH_CCodeList* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "TDD-PRACH-CCodeList");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "sf8");
-         pvalue->u.sf8 = (TDD_PRACH_CCodeList_sf8*)rtxMemHeapAlloc(ctx, sizeof(TDD_PRACH_CCodeList_sf8));
-         if (pvalue->u.sf8 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_TDD_PRACH_CCodeList_sf8(pvalue->u.sf8);
-         stat = asn1PD_UMTS_TDD_PRACH_CCodeList_sf8(ctx, pvalue->u.sf8);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "sf16");
-         pvalue->u.sf16 = (TDD_PRACH_CCodeList_sf16*)rtxMemHeapAlloc(ctx, sizeof(TDD_PRACH_CCodeList_sf16));
-         if (pvalue->u.sf16 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_TDD_PRACH_CCodeList_sf16(pvalue->u.sf16);
-         stat = asn1PD_UMTS_TDD_PRACH_CCodeList_sf16(ctx, pvalue->u.sf16);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PRACH_Midamble(rtxContext* ctx, PRACH_Midamble* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "PRACH-Midamble");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PRACH_RACH_Info_modeSpecificInfo_tdd(rtxContext* ctx, PRACH_RACH_Info_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   /* timeslot */
-   rtxCtxtPushElemName(ctx, "timeslot");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* channelisationCodeList */
-   rtxCtxtPushElemName(ctx, "channelisationCodeList");
-   stat = asn1PD_UMTS_TDD_PRACH_CCodeList(ctx, &pvalue->channelisationCodeList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* prach-Midamble */
-   rtxCtxtPushElemName(ctx, "prach-Midamble");
-   rtxCtxtPushTypeName(ctx, "PRACH-Midamble");
-   stat = pd_ConsUnsigned(ctx, &pvalue->prach_Midamble, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PRACH_RACH_Info_modeSpecificInfo(rtxContext* ctx, PRACH_RACH_Info_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (PRACH_RACH_Info_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(PRACH_RACH_Info_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PRACH_RACH_Info_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_PRACH_RACH_Info_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (PRACH_RACH_Info_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(PRACH_RACH_Info_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PRACH_RACH_Info_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_PRACH_RACH_Info_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PRACH_RACH_Info(rtxContext* ctx, PRACH_RACH_Info* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PRACH-RACH-Info");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_PRACH_RACH_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TransportChannelIdentity(rtxContext* ctx, TransportChannelIdentity* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_AccessServiceClass_FDD_assignedSubChannelNumber(rtxContext* ctx, AccessServiceClass_FDD_assignedSubChannelNumber* pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pd_BitString32(ctx, pvalue, 4, 4);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_AccessServiceClass_FDD(rtxContext* ctx, AccessServiceClass_FDD* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "AccessServiceClass-FDD");
-   /* availableSignatureStartIndex */
-   rtxCtxtPushElemName(ctx, "availableSignatureStartIndex");
-   stat = pd_ConsUInt8(ctx, &pvalue->availableSignatureStartIndex, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* availableSignatureEndIndex */
-   rtxCtxtPushElemName(ctx, "availableSignatureEndIndex");
-   stat = pd_ConsUInt8(ctx, &pvalue->availableSignatureEndIndex, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* assignedSubChannelNumber */
-   rtxCtxtPushElemName(ctx, "assignedSubChannelNumber");
-   stat = asn1PD_UMTS_AccessServiceClass_FDD_assignedSubChannelNumber(ctx, &pvalue->assignedSubChannelNumber);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ASCSetting_FDD(rtxContext* ctx, ASCSetting_FDD* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "ASCSetting-FDD");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* accessServiceClass-FDD */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "accessServiceClass-FDD");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AccessServiceClass_FDD(ctx, &pvalue->accessServiceClass_FDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PRACH_Partitioning_fdd(rtxContext* ctx, PRACH_Partitioning_fdd* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      ASCSetting_FDD* elem;
-      rtxCtxtPushArrayElemName(ctx, "ASCSetting-FDD", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(ASCSetting_FDD));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (ASCSetting_FDD*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_ASCSetting_FDD(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_ASCSetting_FDD(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_AccessServiceClass_TDD_channelisationCodeIndices(rtxContext* ctx, AccessServiceClass_TDD_channelisationCodeIndices* pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, pvalue, 8, 8);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_AccessServiceClass_TDD_subchannelSize_size2_subchannels(rtxContext* ctx, AccessServiceClass_TDD_subchannelSize_size2_subchannels* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_AccessServiceClass_TDD_subchannelSize_size2(rtxContext* ctx, AccessServiceClass_TDD_subchannelSize_size2* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* subchannels */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "subchannels");
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->subchannels, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_AccessServiceClass_TDD_subchannelSize_size4_subchannels(rtxContext* ctx, AccessServiceClass_TDD_subchannelSize_size4_subchannels* pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pd_BitString32(ctx, pvalue, 4, 4);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_AccessServiceClass_TDD_subchannelSize_size4(rtxContext* ctx, AccessServiceClass_TDD_subchannelSize_size4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* subchannels */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "subchannels");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AccessServiceClass_TDD_subchannelSize_size4_subchannels(ctx, &pvalue->subchannels);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_AccessServiceClass_TDD_subchannelSize_size8_subchannels(rtxContext* ctx, AccessServiceClass_TDD_subchannelSize_size8_subchannels* pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, pvalue, 8, 8);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_AccessServiceClass_TDD_subchannelSize_size8(rtxContext* ctx, AccessServiceClass_TDD_subchannelSize_size8* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* subchannels */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "subchannels");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AccessServiceClass_TDD_subchannelSize_size8_subchannels(ctx, &pvalue->subchannels);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_AccessServiceClass_TDD_subchannelSize(rtxContext* ctx, AccessServiceClass_TDD_subchannelSize* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "size1");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "size2");
-         pvalue->u.size2 = (AccessServiceClass_TDD_subchannelSize_size2*)rtxMemHeapAlloc(ctx, sizeof(AccessServiceClass_TDD_subchannelSize_size2));
-         if (pvalue->u.size2 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_AccessServiceClass_TDD_subchannelSize_size2(pvalue->u.size2);
-         stat = asn1PD_UMTS_AccessServiceClass_TDD_subchannelSize_size2(ctx, pvalue->u.size2);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "size4");
-         pvalue->u.size4 = (AccessServiceClass_TDD_subchannelSize_size4*)rtxMemHeapAlloc(ctx, sizeof(AccessServiceClass_TDD_subchannelSize_size4));
-         if (pvalue->u.size4 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_AccessServiceClass_TDD_subchannelSize_size4(pvalue->u.size4);
-         stat = asn1PD_UMTS_AccessServiceClass_TDD_subchannelSize_size4(ctx, pvalue->u.size4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "size8");
-         pvalue->u.size8 = (AccessServiceClass_TDD_subchannelSize_size8*)rtxMemHeapAlloc(ctx, sizeof(AccessServiceClass_TDD_subchannelSize_size8));
-         if (pvalue->u.size8 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_AccessServiceClass_TDD_subchannelSize_size8(pvalue->u.size8);
-         stat = asn1PD_UMTS_AccessServiceClass_TDD_subchannelSize_size8(ctx, pvalue->u.size8);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_AccessServiceClass_TDD(rtxContext* ctx, AccessServiceClass_TDD* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "AccessServiceClass-TDD");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* channelisationCodeIndices */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "channelisationCodeIndices");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AccessServiceClass_TDD_channelisationCodeIndices(ctx, &pvalue->channelisationCodeIndices);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* subchannelSize */
-   rtxCtxtPushElemName(ctx, "subchannelSize");
-   stat = asn1PD_UMTS_AccessServiceClass_TDD_subchannelSize(ctx, &pvalue->subchannelSize);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ASCSetting_TDD(rtxContext* ctx, ASCSetting_TDD* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "ASCSetting-TDD");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* accessServiceClass-TDD */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "accessServiceClass-TDD");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AccessServiceClass_TDD(ctx, &pvalue->accessServiceClass_TDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PRACH_Partitioning_tdd(rtxContext* ctx, PRACH_Partitioning_tdd* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      ASCSetting_TDD* elem;
-      rtxCtxtPushArrayElemName(ctx, "ASCSetting-TDD", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(ASCSetting_TDD));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (ASCSetting_TDD*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_ASCSetting_TDD(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_ASCSetting_TDD(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PRACH_Partitioning(rtxContext* ctx, PRACH_Partitioning* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "PRACH-Partitioning");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (PRACH_Partitioning_fdd*)rtxMemHeapAlloc(ctx, sizeof(PRACH_Partitioning_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PRACH_Partitioning_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_PRACH_Partitioning_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (PRACH_Partitioning_tdd*)rtxMemHeapAlloc(ctx, sizeof(PRACH_Partitioning_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PRACH_Partitioning_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_PRACH_Partitioning_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PersistenceScalingFactor(rtxContext* ctx, PersistenceScalingFactor* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "PersistenceScalingFactor");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PersistenceScalingFactorList(rtxContext* ctx, PersistenceScalingFactorList* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "PersistenceScalingFactorList");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 5) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "PersistenceScalingFactor", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "PersistenceScalingFactor");
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 7);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_AC_To_ASC_Mapping(rtxContext* ctx, AC_To_ASC_Mapping* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "AC-To-ASC-Mapping");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_AC_To_ASC_MappingTable(rtxContext* ctx, AC_To_ASC_MappingTable* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "AC-To-ASC-MappingTable");
-   pvalue->n = 7;
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "AC-To-ASC-Mapping", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "AC-To-ASC-Mapping");
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 7);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PrimaryCPICH_TX_Power(rtxContext* ctx, PrimaryCPICH_TX_Power* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "PrimaryCPICH-TX-Power");
-   stat = pd_ConsInt8(ctx, pvalue, -10, 50);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ConstantValue(rtxContext* ctx, ConstantValue* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "ConstantValue");
-   stat = pd_ConsInt8(ctx, pvalue, -35, -10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PowerRampStep(rtxContext* ctx, PowerRampStep* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "PowerRampStep");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PreambleRetransMax(rtxContext* ctx, PreambleRetransMax* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "PreambleRetransMax");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PRACH_PowerOffset(rtxContext* ctx, PRACH_PowerOffset* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PRACH-PowerOffset");
-   /* powerRampStep */
-   rtxCtxtPushElemName(ctx, "powerRampStep");
-   rtxCtxtPushTypeName(ctx, "PowerRampStep");
-   stat = pd_ConsUInt8(ctx, &pvalue->powerRampStep, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* preambleRetransMax */
-   rtxCtxtPushElemName(ctx, "preambleRetransMax");
-   rtxCtxtPushTypeName(ctx, "PreambleRetransMax");
-   stat = pd_ConsUInt8(ctx, &pvalue->preambleRetransMax, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NB01(rtxContext* ctx, NB01* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "NB01");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 50);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RACH_TransmissionParameters(rtxContext* ctx, RACH_TransmissionParameters* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RACH-TransmissionParameters");
-   /* mmax */
-   rtxCtxtPushElemName(ctx, "mmax");
-   stat = pd_ConsUInt8(ctx, &pvalue->mmax, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nb01Min */
-   rtxCtxtPushElemName(ctx, "nb01Min");
-   rtxCtxtPushTypeName(ctx, "NB01");
-   stat = pd_ConsUInt8(ctx, &pvalue->nb01Min, 0, 50);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* nb01Max */
-   rtxCtxtPushElemName(ctx, "nb01Max");
-   rtxCtxtPushTypeName(ctx, "NB01");
-   stat = pd_ConsUInt8(ctx, &pvalue->nb01Max, 0, 50);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ChannelisationCode256(rtxContext* ctx, ChannelisationCode256* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "ChannelisationCode256");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_AICH_TransmissionTiming(rtxContext* ctx, AICH_TransmissionTiming* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "AICH-TransmissionTiming");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_AICH_Info(rtxContext* ctx, AICH_Info* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "AICH-Info");
-   /* channelisationCode256 */
-   rtxCtxtPushElemName(ctx, "channelisationCode256");
-   rtxCtxtPushTypeName(ctx, "ChannelisationCode256");
-   stat = pd_ConsUInt8(ctx, &pvalue->channelisationCode256, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* sttd-Indicator */
-   rtxCtxtPushElemName(ctx, "sttd-Indicator");
-   stat = rtxDecBitInline(ctx, &pvalue->sttd_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* aich-TransmissionTiming */
-   rtxCtxtPushElemName(ctx, "aich-TransmissionTiming");
-   rtxCtxtPushTypeName(ctx, "AICH-TransmissionTiming");
-   stat = pd_ConsUnsigned(ctx, &pvalue->aich_TransmissionTiming, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PRACH_SystemInformation_modeSpecificInfo_fdd(rtxContext* ctx, PRACH_SystemInformation_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat);
-   /* primaryCPICH-TX-Power */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-TX-Power");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "PrimaryCPICH-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->primaryCPICH_TX_Power, -10, 50);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* constantValue */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "constantValue");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "ConstantValue");
-      stat = pd_ConsInt8(ctx, &pvalue->constantValue, -35, -10);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* prach-PowerOffset */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "prach-PowerOffset");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_PRACH_PowerOffset(ctx, &pvalue->prach_PowerOffset);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rach-TransmissionParameters */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "rach-TransmissionParameters");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_RACH_TransmissionParameters(ctx, &pvalue->rach_TransmissionParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* aich-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "aich-Info");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_AICH_Info(ctx, &pvalue->aich_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PRACH_SystemInformation_modeSpecificInfo(rtxContext* ctx, PRACH_SystemInformation_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (PRACH_SystemInformation_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(PRACH_SystemInformation_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PRACH_SystemInformation_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_PRACH_SystemInformation_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PRACH_SystemInformation(rtxContext* ctx, PRACH_SystemInformation* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PRACH-SystemInformation");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat);
-   /* prach-RACH-Info */
-   rtxCtxtPushElemName(ctx, "prach-RACH-Info");
-   stat = asn1PD_UMTS_PRACH_RACH_Info(ctx, &pvalue->prach_RACH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* transportChannelIdentity */
-   rtxCtxtPushElemName(ctx, "transportChannelIdentity");
-   rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-   stat = pd_ConsUInt8(ctx, &pvalue->transportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* rach-TransportFormatSet */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "rach-TransportFormatSet");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->rach_TransportFormatSet);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rach-TFCS */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "rach-TFCS");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_TFCS(ctx, &pvalue->rach_TFCS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* prach-Partitioning */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "prach-Partitioning");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_PRACH_Partitioning(ctx, &pvalue->prach_Partitioning);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* persistenceScalingFactorList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "persistenceScalingFactorList");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_PersistenceScalingFactorList(ctx, &pvalue->persistenceScalingFactorList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ac-To-ASC-MappingTable */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ac-To-ASC-MappingTable");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_AC_To_ASC_MappingTable(ctx, &pvalue->ac_To_ASC_MappingTable);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_PRACH_SystemInformation_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PRACH_SystemInformationList(rtxContext* ctx, PRACH_SystemInformationList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "PRACH-SystemInformationList");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PRACH_SystemInformation* elem;
-      rtxCtxtPushArrayElemName(ctx, "PRACH-SystemInformation", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PRACH_SystemInformation));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (PRACH_SystemInformation*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PRACH_SystemInformation(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PRACH_SystemInformation(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PCPICH_UsageForChannelEst(rtxContext* ctx, PCPICH_UsageForChannelEst* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "PCPICH-UsageForChannelEst");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryScramblingCode(rtxContext* ctx, SecondaryScramblingCode* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "SecondaryScramblingCode");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryCPICH_Info(rtxContext* ctx, SecondaryCPICH_Info* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SecondaryCPICH-Info");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* secondaryDL-ScramblingCode */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "secondaryDL-ScramblingCode");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "SecondaryScramblingCode");
-      stat = pd_ConsUInt8(ctx, &pvalue->secondaryDL_ScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* channelisationCode */
-   rtxCtxtPushElemName(ctx, "channelisationCode");
-   rtxCtxtPushTypeName(ctx, "ChannelisationCode256");
-   stat = pd_ConsUInt8(ctx, &pvalue->channelisationCode, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SF256_AndCodeNumber(rtxContext* ctx, SF256_AndCodeNumber* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "SF256-AndCodeNumber");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 6);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "sf4");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sf4, 0, 3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "sf8");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sf8, 0, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "sf16");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sf16, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "sf32");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sf32, 0, 31);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "sf64");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sf64, 0, 63);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "sf128");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sf128, 0, 127);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "sf256");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sf256, 0, 255);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PositionFixedOrFlexible(rtxContext* ctx, PositionFixedOrFlexible* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "PositionFixedOrFlexible");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TimingOffset(rtxContext* ctx, TimingOffset* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "TimingOffset");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 149);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryCCPCH_Info_modeSpecificInfo_fdd(rtxContext* ctx, SecondaryCCPCH_Info_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* dummy1 */
-   rtxCtxtPushElemName(ctx, "dummy1");
-   rtxCtxtPushTypeName(ctx, "PCPICH-UsageForChannelEst");
-   stat = pd_ConsUnsigned(ctx, &pvalue->dummy1, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dummy2 */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "dummy2");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SecondaryCPICH_Info(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* secondaryScramblingCode */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "secondaryScramblingCode");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "SecondaryScramblingCode");
-      stat = pd_ConsUInt8(ctx, &pvalue->secondaryScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sttd-Indicator */
-   rtxCtxtPushElemName(ctx, "sttd-Indicator");
-   stat = rtxDecBitInline(ctx, &pvalue->sttd_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sf-AndCodeNumber */
-   rtxCtxtPushElemName(ctx, "sf-AndCodeNumber");
-   stat = asn1PD_UMTS_SF256_AndCodeNumber(ctx, &pvalue->sf_AndCodeNumber);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* pilotSymbolExistence */
-   rtxCtxtPushElemName(ctx, "pilotSymbolExistence");
-   stat = rtxDecBitInline(ctx, &pvalue->pilotSymbolExistence);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tfci-Existence */
-   rtxCtxtPushElemName(ctx, "tfci-Existence");
-   stat = rtxDecBitInline(ctx, &pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* positionFixedOrFlexible */
-   rtxCtxtPushElemName(ctx, "positionFixedOrFlexible");
-   rtxCtxtPushTypeName(ctx, "PositionFixedOrFlexible");
-   stat = pd_ConsUnsigned(ctx, &pvalue->positionFixedOrFlexible, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timingOffset */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "timingOffset");
-      rtxCtxtPushTypeName(ctx, "TimingOffset");
-      stat = pd_ConsUInt8(ctx, &pvalue->timingOffset, 0, 149);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->timingOffset = 0;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod2(rtxContext* ctx, RepetitionPeriodLengthAndOffset_repetitionPeriod2* pvalue)
-{
-   int stat = 0;
-   /* length */
-   rtxCtxtPushElemName(ctx, "length");
-   rtxCtxtPopElemName(ctx);
-   /* offset */
-   rtxCtxtPushElemName(ctx, "offset");
-   stat = pd_ConsUInt8(ctx, &pvalue->offset, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod4(rtxContext* ctx, RepetitionPeriodLengthAndOffset_repetitionPeriod4* pvalue)
-{
-   int stat = 0;
-   /* length */
-   rtxCtxtPushElemName(ctx, "length");
-   stat = pd_ConsUInt8(ctx, &pvalue->length, 1, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* offset */
-   rtxCtxtPushElemName(ctx, "offset");
-   stat = pd_ConsUInt8(ctx, &pvalue->offset, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod8(rtxContext* ctx, RepetitionPeriodLengthAndOffset_repetitionPeriod8* pvalue)
-{
-   int stat = 0;
-   /* length */
-   rtxCtxtPushElemName(ctx, "length");
-   stat = pd_ConsUInt8(ctx, &pvalue->length, 1, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* offset */
-   rtxCtxtPushElemName(ctx, "offset");
-   stat = pd_ConsUInt8(ctx, &pvalue->offset, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod16(rtxContext* ctx, RepetitionPeriodLengthAndOffset_repetitionPeriod16* pvalue)
-{
-   int stat = 0;
-   /* length */
-   rtxCtxtPushElemName(ctx, "length");
-   stat = pd_ConsUInt8(ctx, &pvalue->length, 1, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* offset */
-   rtxCtxtPushElemName(ctx, "offset");
-   stat = pd_ConsUInt8(ctx, &pvalue->offset, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod32(rtxContext* ctx, RepetitionPeriodLengthAndOffset_repetitionPeriod32* pvalue)
-{
-   int stat = 0;
-   /* length */
-   rtxCtxtPushElemName(ctx, "length");
-   stat = pd_ConsUInt8(ctx, &pvalue->length, 1, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* offset */
-   rtxCtxtPushElemName(ctx, "offset");
-   stat = pd_ConsUInt8(ctx, &pvalue->offset, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod64(rtxContext* ctx, RepetitionPeriodLengthAndOffset_repetitionPeriod64* pvalue)
-{
-   int stat = 0;
-   /* length */
-   rtxCtxtPushElemName(ctx, "length");
-   stat = pd_ConsUInt8(ctx, &pvalue->length, 1, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* offset */
-   rtxCtxtPushElemName(ctx, "offset");
-   stat = pd_ConsUInt8(ctx, &pvalue->offset, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RepetitionPeriodLengthAndOffset(rtxContext* ctx, RepetitionPeriodLengthAndOffset* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "RepetitionPeriodLengthAndOffset");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 6);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "repetitionPeriod1");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "repetitionPeriod2");
-         pvalue->u.repetitionPeriod2 = (RepetitionPeriodLengthAndOffset_repetitionPeriod2*)rtxMemHeapAllocZ(ctx, sizeof(RepetitionPeriodLengthAndOffset_repetitionPeriod2));
-         if (pvalue->u.repetitionPeriod2 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod2(ctx, pvalue->u.repetitionPeriod2);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "repetitionPeriod4");
-         pvalue->u.repetitionPeriod4 = (RepetitionPeriodLengthAndOffset_repetitionPeriod4*)rtxMemHeapAllocZ(ctx, sizeof(RepetitionPeriodLengthAndOffset_repetitionPeriod4));
-         if (pvalue->u.repetitionPeriod4 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod4(ctx, pvalue->u.repetitionPeriod4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "repetitionPeriod8");
-         pvalue->u.repetitionPeriod8 = (RepetitionPeriodLengthAndOffset_repetitionPeriod8*)rtxMemHeapAllocZ(ctx, sizeof(RepetitionPeriodLengthAndOffset_repetitionPeriod8));
-         if (pvalue->u.repetitionPeriod8 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod8(ctx, pvalue->u.repetitionPeriod8);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "repetitionPeriod16");
-         pvalue->u.repetitionPeriod16 = (RepetitionPeriodLengthAndOffset_repetitionPeriod16*)rtxMemHeapAllocZ(ctx, sizeof(RepetitionPeriodLengthAndOffset_repetitionPeriod16));
-         if (pvalue->u.repetitionPeriod16 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod16(ctx, pvalue->u.repetitionPeriod16);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "repetitionPeriod32");
-         pvalue->u.repetitionPeriod32 = (RepetitionPeriodLengthAndOffset_repetitionPeriod32*)rtxMemHeapAllocZ(ctx, sizeof(RepetitionPeriodLengthAndOffset_repetitionPeriod32));
-         if (pvalue->u.repetitionPeriod32 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod32(ctx, pvalue->u.repetitionPeriod32);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "repetitionPeriod64");
-         pvalue->u.repetitionPeriod64 = (RepetitionPeriodLengthAndOffset_repetitionPeriod64*)rtxMemHeapAllocZ(ctx, sizeof(RepetitionPeriodLengthAndOffset_repetitionPeriod64));
-         if (pvalue->u.repetitionPeriod64 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod64(ctx, pvalue->u.repetitionPeriod64);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CommonTimeslotInfoSCCPCH(rtxContext* ctx, CommonTimeslotInfoSCCPCH* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CommonTimeslotInfoSCCPCH");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* secondInterleavingMode */
-   rtxCtxtPushElemName(ctx, "secondInterleavingMode");
-   rtxCtxtPushTypeName(ctx, "SecondInterleavingMode");
-   stat = pd_ConsUnsigned(ctx, &pvalue->secondInterleavingMode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* tfci-Coding */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "tfci-Coding");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "TFCI-Coding");
-      stat = pd_ConsUnsigned(ctx, &pvalue->tfci_Coding, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* puncturingLimit */
-   rtxCtxtPushElemName(ctx, "puncturingLimit");
-   rtxCtxtPushTypeName(ctx, "PuncturingLimit");
-   stat = pd_ConsUnsigned(ctx, &pvalue->puncturingLimit, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* repetitionPeriodLengthAndOffset */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "repetitionPeriodLengthAndOffset");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RepetitionPeriodLengthAndOffset(ctx, &pvalue->repetitionPeriodLengthAndOffset);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SCCPCH_ChannelisationCode(rtxContext* ctx, SCCPCH_ChannelisationCode* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "SCCPCH-ChannelisationCode");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SCCPCH_ChannelisationCodeList(rtxContext* ctx, SCCPCH_ChannelisationCodeList* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "SCCPCH-ChannelisationCodeList");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 15) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "SCCPCH-ChannelisationCode", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "SCCPCH-ChannelisationCode");
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 15);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryCCPCH_Info_modeSpecificInfo_tdd(rtxContext* ctx, SecondaryCCPCH_Info_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   /* commonTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "commonTimeslotInfo");
-   stat = asn1PD_UMTS_CommonTimeslotInfoSCCPCH(ctx, &pvalue->commonTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* individualTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "individualTimeslotInfo");
-   stat = asn1PD_UMTS_IndividualTimeslotInfo(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* channelisationCode */
-   rtxCtxtPushElemName(ctx, "channelisationCode");
-   stat = asn1PD_UMTS_SCCPCH_ChannelisationCodeList(ctx, &pvalue->channelisationCode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryCCPCH_Info_modeSpecificInfo(rtxContext* ctx, SecondaryCCPCH_Info_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (SecondaryCCPCH_Info_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCH_Info_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_SecondaryCCPCH_Info_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_SecondaryCCPCH_Info_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (SecondaryCCPCH_Info_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCH_Info_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_SecondaryCCPCH_Info_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_SecondaryCCPCH_Info_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryCCPCH_Info(rtxContext* ctx, SecondaryCCPCH_Info* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SecondaryCCPCH-Info");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_SecondaryCCPCH_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_FACH_PCH_Information(rtxContext* ctx, FACH_PCH_Information* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "FACH-PCH-Information");
-   /* transportFormatSet */
-   rtxCtxtPushElemName(ctx, "transportFormatSet");
-   stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->transportFormatSet);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* transportChannelIdentity */
-   rtxCtxtPushElemName(ctx, "transportChannelIdentity");
-   rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-   stat = pd_ConsUInt8(ctx, &pvalue->transportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ctch-Indicator */
-   rtxCtxtPushElemName(ctx, "ctch-Indicator");
-   stat = rtxDecBitInline(ctx, &pvalue->ctch_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_FACH_PCH_InformationList(rtxContext* ctx, FACH_PCH_InformationList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "FACH-PCH-InformationList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      FACH_PCH_Information* elem;
-      rtxCtxtPushArrayElemName(ctx, "FACH-PCH-Information", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(FACH_PCH_Information));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (FACH_PCH_Information*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_FACH_PCH_Information(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_FACH_PCH_Information(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PI_CountPerFrame(rtxContext* ctx, PI_CountPerFrame* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "PI-CountPerFrame");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PICH_Info_fdd(rtxContext* ctx, PICH_Info_fdd* pvalue)
-{
-   int stat = 0;
-   /* channelisationCode256 */
-   rtxCtxtPushElemName(ctx, "channelisationCode256");
-   rtxCtxtPushTypeName(ctx, "ChannelisationCode256");
-   stat = pd_ConsUInt8(ctx, &pvalue->channelisationCode256, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* pi-CountPerFrame */
-   rtxCtxtPushElemName(ctx, "pi-CountPerFrame");
-   rtxCtxtPushTypeName(ctx, "PI-CountPerFrame");
-   stat = pd_ConsUnsigned(ctx, &pvalue->pi_CountPerFrame, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* sttd-Indicator */
-   rtxCtxtPushElemName(ctx, "sttd-Indicator");
-   stat = rtxDecBitInline(ctx, &pvalue->sttd_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TDD_PICH_CCode(rtxContext* ctx, TDD_PICH_CCode* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "TDD-PICH-CCode");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RepPerLengthOffset_PICH(rtxContext* ctx, RepPerLengthOffset_PICH* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "RepPerLengthOffset-PICH");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 8);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "rpp4-2");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.rpp4_2, 0, 3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "rpp8-2");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.rpp8_2, 0, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "rpp8-4");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.rpp8_4, 0, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "rpp16-2");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.rpp16_2, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "rpp16-4");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.rpp16_4, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "rpp32-2");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.rpp32_2, 0, 31);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "rpp32-4");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.rpp32_4, 0, 31);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "rpp64-2");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.rpp64_2, 0, 63);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 8:
-         rtxCtxtPushElemName(ctx, "rpp64-4");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.rpp64_4, 0, 63);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PagingIndicatorLength(rtxContext* ctx, PagingIndicatorLength* pvalue)
-{
    int stat;
-   rtxCtxtPushTypeName(ctx, "PagingIndicatorLength");
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PagingIndicatorLength");
    return 0;
 }
 
-int asn1PD_UMTS_N_GAP(rtxContext* ctx, N_GAP* pvalue)
+int asn1PD_UMTS_N_GAP(rtxContext* RT_RESTRICT ctx, N_GAP* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "N-GAP");
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "N-GAP");
    return 0;
 }
 
-int asn1PD_UMTS_N_PCH(rtxContext* ctx, N_PCH* pvalue)
+int asn1PD_UMTS_N_PCH(rtxContext* RT_RESTRICT ctx, N_PCH* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "N-PCH");
    stat = pd_ConsUInt8(ctx, pvalue, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "N-PCH");
    return 0;
 }
 
-int asn1PD_UMTS_PICH_Info_tdd(rtxContext* ctx, PICH_Info_tdd* pvalue)
+int asn1PD_UMTS_PICH_Info_tdd(rtxContext* RT_RESTRICT ctx, PICH_Info_tdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* channelisationCode */
    if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "channelisationCode");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "TDD-PICH-CCode");
       stat = pd_ConsUnsigned(ctx, &pvalue->channelisationCode, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "TDD-PICH-CCode", "channelisationCode", -1, 0);
    }
    /* timeslot */
    if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "timeslot");
       pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "TimeslotNumber");
       stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 0, 14);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, 0);
    }
    /* midambleShiftAndBurstType */
-   rtxCtxtPushElemName(ctx, "midambleShiftAndBurstType");
    stat = asn1PD_UMTS_MidambleShiftAndBurstType(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, 0);
    /* repetitionPeriodLengthOffset */
    if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "repetitionPeriodLengthOffset");
       pvalue->m |= 0x4u;
       stat = asn1PD_UMTS_RepPerLengthOffset_PICH(ctx, &pvalue->repetitionPeriodLengthOffset);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "repetitionPeriodLengthOffset", -1, 0);
    }
    /* pagingIndicatorLength */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "pagingIndicatorLength");
-      rtxCtxtPushTypeName(ctx, "PagingIndicatorLength");
       stat = pd_ConsUnsigned(ctx, &pvalue->pagingIndicatorLength, 0, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "PagingIndicatorLength", "pagingIndicatorLength", -1, 0);
    }
    else {
       pvalue->pagingIndicatorLength = 0;
    }
    /* n-GAP */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "n-GAP");
-      rtxCtxtPushTypeName(ctx, "N-GAP");
       stat = pd_ConsUnsigned(ctx, &pvalue->n_GAP, 0, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "N-GAP", "n-GAP", -1, 0);
    }
    else {
       pvalue->n_GAP = 1;
    }
    /* n-PCH */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "n-PCH");
-      rtxCtxtPushTypeName(ctx, "N-PCH");
       stat = pd_ConsUInt8(ctx, &pvalue->n_PCH, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "N-PCH", "n-PCH", -1, 0);
    }
    else {
       pvalue->n_PCH = 2;
@@ -2926,2496 +86,1950 @@ int asn1PD_UMTS_PICH_Info_tdd(rtxContext* ctx, PICH_Info_tdd* pvalue)
    return 0;
 }
 
-int asn1PD_UMTS_PICH_Info(rtxContext* ctx, PICH_Info* pvalue)
+int asn1PD_UMTS_PICH_Info(rtxContext* RT_RESTRICT ctx, PICH_Info* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "PICH-Info");
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PICH-Info");
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
+      case 0: /* fdd */
          pvalue->u.fdd = (PICH_Info_fdd*)rtxMemHeapAllocZ(ctx, sizeof(PICH_Info_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, "PICH-Info");
          stat = asn1PD_UMTS_PICH_Info_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "PICH-Info");
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
+      case 1: /* tdd */
          pvalue->u.tdd = (PICH_Info_tdd*)rtxMemHeapAlloc(ctx, sizeof(PICH_Info_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, "PICH-Info");
          asn1Init_UMTS_PICH_Info_tdd(pvalue->u.tdd);
          stat = asn1PD_UMTS_PICH_Info_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "PICH-Info");
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PICH-Info");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_SCCPCH_SystemInformation(rtxContext* ctx, SCCPCH_SystemInformation* pvalue)
+int asn1PD_UMTS_SCCPCH_SystemInformation(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SCCPCH-SystemInformation");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SCCPCH-SystemInformation");
    /* secondaryCCPCH-Info */
-   rtxCtxtPushElemName(ctx, "secondaryCCPCH-Info");
    stat = asn1PD_UMTS_SecondaryCCPCH_Info(ctx, &pvalue->secondaryCCPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "secondaryCCPCH-Info", -1, "SCCPCH-SystemInformation");
    /* tfcs */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "tfcs");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_TFCS(ctx, &pvalue->tfcs);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "tfcs", -1, "SCCPCH-SystemInformation");
    }
    /* fach-PCH-InformationList */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "fach-PCH-InformationList");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_FACH_PCH_InformationList(ctx, &pvalue->fach_PCH_InformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "fach-PCH-InformationList", -1, "SCCPCH-SystemInformation");
    }
    /* pich-Info */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "pich-Info");
       pvalue->m |= 0x4u;
       stat = asn1PD_UMTS_PICH_Info(ctx, &pvalue->pich_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pich-Info", -1, "SCCPCH-SystemInformation");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_SCCPCH_SystemInformationList(rtxContext* ctx, SCCPCH_SystemInformationList* pvalue)
+int asn1PD_UMTS_SCCPCH_SystemInformationList(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformationList* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "SCCPCH-SystemInformationList");
    RT_SET_SIZE(ctx, 1, 16);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SCCPCH-SystemInformationList");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       SCCPCH_SystemInformation* elem;
-      rtxCtxtPushArrayElemName(ctx, "SCCPCH-SystemInformation", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SCCPCH_SystemInformation));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "SCCPCH-SystemInformation", (int32_t)i, "SCCPCH-SystemInformationList");
       elem = (SCCPCH_SystemInformation*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_SCCPCH_SystemInformation(elem);
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_SCCPCH_SystemInformation(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "SCCPCH-SystemInformation", (int32_t)i, "SCCPCH-SystemInformationList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_CBS_DRX_Level1Information(rtxContext* ctx, CBS_DRX_Level1Information* pvalue)
+int asn1PD_UMTS_CBS_DRX_Level1Information(rtxContext* RT_RESTRICT ctx, CBS_DRX_Level1Information* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CBS-DRX-Level1Information");
    /* ctch-AllocationPeriod */
-   rtxCtxtPushElemName(ctx, "ctch-AllocationPeriod");
    stat = pd_ConsUInt16(ctx, &pvalue->ctch_AllocationPeriod, 1, 256);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "ctch-AllocationPeriod", -1, "CBS-DRX-Level1Information");
    /* cbs-FrameOffset */
-   rtxCtxtPushElemName(ctx, "cbs-FrameOffset");
    stat = pd_ConsUInt8(ctx, &pvalue->cbs_FrameOffset, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "cbs-FrameOffset", -1, "CBS-DRX-Level1Information");
    return 0;
 }
 
-int asn1PD_UMTS_PNBSCH_Allocation_r4_numberOfRepetitionsPerSFNPeriod(rtxContext* ctx, PNBSCH_Allocation_r4_numberOfRepetitionsPerSFNPeriod* pvalue)
+int asn1PD_UMTS_PNBSCH_Allocation_r4_numberOfRepetitionsPerSFNPeriod(rtxContext* RT_RESTRICT ctx, PNBSCH_Allocation_r4_numberOfRepetitionsPerSFNPeriod* RT_RESTRICT pvalue)
 {
    int stat;
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 23);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_PNBSCH_Allocation_r4(rtxContext* ctx, PNBSCH_Allocation_r4* pvalue)
+int asn1PD_UMTS_PNBSCH_Allocation_r4(rtxContext* RT_RESTRICT ctx, PNBSCH_Allocation_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PNBSCH-Allocation-r4");
    /* numberOfRepetitionsPerSFNPeriod */
-   rtxCtxtPushElemName(ctx, "numberOfRepetitionsPerSFNPeriod");
    stat = pd_ConsUnsigned(ctx, &pvalue->numberOfRepetitionsPerSFNPeriod, 0, 23);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "numberOfRepetitionsPerSFNPeriod", -1, "PNBSCH-Allocation-r4");
    return 0;
 }
 
-int asn1PD_UMTS_MaxPowerIncrease_r4(rtxContext* ctx, MaxPowerIncrease_r4* pvalue)
+int asn1PD_UMTS_MaxPowerIncrease_r4(rtxContext* RT_RESTRICT ctx, MaxPowerIncrease_r4* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "MaxPowerIncrease-r4");
    stat = pd_ConsUInt8(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxPowerIncrease-r4");
    return 0;
 }
 
-int asn1PD_UMTS_OpenLoopPowerControl_IPDL_TDD_r4(rtxContext* ctx, OpenLoopPowerControl_IPDL_TDD_r4* pvalue)
+int asn1PD_UMTS_OpenLoopPowerControl_IPDL_TDD_r4(rtxContext* RT_RESTRICT ctx, OpenLoopPowerControl_IPDL_TDD_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "OpenLoopPowerControl-IPDL-TDD-r4");
    /* ipdl-alpha */
-   rtxCtxtPushElemName(ctx, "ipdl-alpha");
-   rtxCtxtPushTypeName(ctx, "Alpha");
    stat = pd_ConsUInt8(ctx, &pvalue->ipdl_alpha, 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "Alpha", "ipdl-alpha", -1, "OpenLoopPowerControl-IPDL-TDD-r4");
    /* maxPowerIncrease */
-   rtxCtxtPushElemName(ctx, "maxPowerIncrease");
-   rtxCtxtPushTypeName(ctx, "MaxPowerIncrease-r4");
    stat = pd_ConsUInt8(ctx, &pvalue->maxPowerIncrease, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "MaxPowerIncrease-r4", "maxPowerIncrease", -1, "OpenLoopPowerControl-IPDL-TDD-r4");
    return 0;
 }
 
-int asn1PD_UMTS_Sync_UL_Codes_Bitmap(rtxContext* ctx, Sync_UL_Codes_Bitmap* pvalue)
+int asn1PD_UMTS_Sync_UL_Codes_Bitmap(rtxContext* RT_RESTRICT ctx, Sync_UL_Codes_Bitmap* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "Sync-UL-Codes-Bitmap");
    RT_SET_SIZE(ctx, 8, 8);
    stat = pd_BitString32(ctx, pvalue, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Sync-UL-Codes-Bitmap");
    return 0;
 }
 
-int asn1PD_UMTS_SYNC_UL_Info_r4_max_SYNC_UL_Transmissions(rtxContext* ctx, SYNC_UL_Info_r4_max_SYNC_UL_Transmissions* pvalue)
+int asn1PD_UMTS_SYNC_UL_Info_r4_max_SYNC_UL_Transmissions(rtxContext* RT_RESTRICT ctx, SYNC_UL_Info_r4_max_SYNC_UL_Transmissions* RT_RESTRICT pvalue)
 {
    int stat;
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_SYNC_UL_Info_r4(rtxContext* ctx, SYNC_UL_Info_r4* pvalue)
+int asn1PD_UMTS_SYNC_UL_Info_r4(rtxContext* RT_RESTRICT ctx, SYNC_UL_Info_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SYNC-UL-Info-r4");
    /* sync-UL-Codes-Bitmap */
-   rtxCtxtPushElemName(ctx, "sync-UL-Codes-Bitmap");
    stat = asn1PD_UMTS_Sync_UL_Codes_Bitmap(ctx, &pvalue->sync_UL_Codes_Bitmap);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sync-UL-Codes-Bitmap", -1, "SYNC-UL-Info-r4");
    /* prxUpPCHdes */
-   rtxCtxtPushElemName(ctx, "prxUpPCHdes");
    stat = pd_ConsUInt8(ctx, &pvalue->prxUpPCHdes, 0, 62);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "prxUpPCHdes", -1, "SYNC-UL-Info-r4");
    /* powerRampStep */
-   rtxCtxtPushElemName(ctx, "powerRampStep");
    stat = pd_ConsUInt8(ctx, &pvalue->powerRampStep, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "powerRampStep", -1, "SYNC-UL-Info-r4");
    /* max-SYNC-UL-Transmissions */
-   rtxCtxtPushElemName(ctx, "max-SYNC-UL-Transmissions");
    stat = pd_ConsUnsigned(ctx, &pvalue->max_SYNC_UL_Transmissions, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "max-SYNC-UL-Transmissions", -1, "SYNC-UL-Info-r4");
    /* mmax */
-   rtxCtxtPushElemName(ctx, "mmax");
    stat = pd_ConsUInt8(ctx, &pvalue->mmax, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "mmax", -1, "SYNC-UL-Info-r4");
    return 0;
 }
 
-int asn1PD_UMTS_TimeslotNumber_PRACH_LCR_r4(rtxContext* ctx, TimeslotNumber_PRACH_LCR_r4* pvalue)
+int asn1PD_UMTS_TimeslotNumber_PRACH_LCR_r4(rtxContext* RT_RESTRICT ctx, TimeslotNumber_PRACH_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-PRACH-LCR-r4");
    stat = pd_ConsUInt8(ctx, pvalue, 1, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimeslotNumber-PRACH-LCR-r4");
    return 0;
 }
 
-int asn1PD_UMTS_TDD_PRACH_CCode_LCR_r4(rtxContext* ctx, TDD_PRACH_CCode_LCR_r4* pvalue)
+int asn1PD_UMTS_TDD_PRACH_CCode_LCR_r4(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCode_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "TDD-PRACH-CCode-LCR-r4");
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 27);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TDD-PRACH-CCode-LCR-r4");
    return 0;
 }
 
-int asn1PD_UMTS_PRACH_ChanCodes_LCR_r4(rtxContext* ctx, PRACH_ChanCodes_LCR_r4* pvalue)
+int asn1PD_UMTS_PRACH_ChanCodes_LCR_r4(rtxContext* RT_RESTRICT ctx, PRACH_ChanCodes_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "PRACH-ChanCodes-LCR-r4");
    {
       uint32_t raw;
       stat = rtxDecBits(ctx, &raw, 2);
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-ChanCodes-LCR-r4");
       pvalue->n = raw + 1;
       if (raw > 3) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "PRACH-ChanCodes-LCR-r4");
          rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PRACH-ChanCodes-LCR-r4");
       }
    }
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "TDD-PRACH-CCode-LCR-r4", i);
       pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "TDD-PRACH-CCode-LCR-r4");
       stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 27);
       if (stat != 0) {
          pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
+         RT_FAIL(ctx, stat, "TDD-PRACH-CCode-LCR-r4", "TDD-PRACH-CCode-LCR-r4", (int32_t)i, "PRACH-ChanCodes-LCR-r4");
       }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode_ueSpecificMidamble* pvalue)
+int asn1PD_UMTS_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
    stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleShift", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode(rtxContext* ctx, MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode* pvalue)
+int asn1PD_UMTS_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
+      case 0: /* defaultMidamble */
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "commonMidamble");
-         rtxCtxtPopElemName(ctx);
+      case 1: /* commonMidamble */
          break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
+      case 2: /* ueSpecificMidamble */
          pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
          stat = asn1PD_UMTS_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_LCR_r4(rtxContext* ctx, MidambleShiftAndBurstType_LCR_r4* pvalue)
+int asn1PD_UMTS_MidambleShiftAndBurstType_LCR_r4(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MidambleShiftAndBurstType-LCR-r4");
    /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
    stat = asn1PD_UMTS_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "MidambleShiftAndBurstType-LCR-r4");
    /* midambleConfiguration */
-   rtxCtxtPushElemName(ctx, "midambleConfiguration");
    stat = pd_ConsUInt8(ctx, &pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "MidambleShiftAndBurstType-LCR-r4");
    return 0;
 }
 
-int asn1PD_UMTS_TimeslotNumber_LCR_r4(rtxContext* ctx, TimeslotNumber_LCR_r4* pvalue)
+int asn1PD_UMTS_TimeslotNumber_LCR_r4(rtxContext* RT_RESTRICT ctx, TimeslotNumber_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-LCR-r4");
    stat = pd_ConsUInt8(ctx, pvalue, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimeslotNumber-LCR-r4");
    return 0;
 }
 
-int asn1PD_UMTS_TDD_FPACH_CCode16_r4(rtxContext* ctx, TDD_FPACH_CCode16_r4* pvalue)
+int asn1PD_UMTS_TDD_FPACH_CCode16_r4(rtxContext* RT_RESTRICT ctx, TDD_FPACH_CCode16_r4* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "TDD-FPACH-CCode16-r4");
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TDD-FPACH-CCode16-r4");
    return 0;
 }
 
-int asn1PD_UMTS_Wi_LCR(rtxContext* ctx, Wi_LCR* pvalue)
+int asn1PD_UMTS_Wi_LCR(rtxContext* RT_RESTRICT ctx, Wi_LCR* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "Wi-LCR");
    stat = pd_ConsUInt8(ctx, pvalue, 1, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Wi-LCR");
    return 0;
 }
 
-int asn1PD_UMTS_FPACH_Info_r4(rtxContext* ctx, FPACH_Info_r4* pvalue)
+int asn1PD_UMTS_FPACH_Info_r4(rtxContext* RT_RESTRICT ctx, FPACH_Info_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "FPACH-Info-r4");
    /* timeslot */
-   rtxCtxtPushElemName(ctx, "timeslot");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-LCR-r4");
    stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslot", -1, "FPACH-Info-r4");
    /* channelisationCode */
-   rtxCtxtPushElemName(ctx, "channelisationCode");
-   rtxCtxtPushTypeName(ctx, "TDD-FPACH-CCode16-r4");
    stat = pd_ConsUnsigned(ctx, &pvalue->channelisationCode, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TDD-FPACH-CCode16-r4", "channelisationCode", -1, "FPACH-Info-r4");
    /* midambleShiftAndBurstType */
-   rtxCtxtPushElemName(ctx, "midambleShiftAndBurstType");
    stat = asn1PD_UMTS_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "FPACH-Info-r4");
    /* wi */
-   rtxCtxtPushElemName(ctx, "wi");
-   rtxCtxtPushTypeName(ctx, "Wi-LCR");
    stat = pd_ConsUInt8(ctx, &pvalue->wi, 1, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "Wi-LCR", "wi", -1, "FPACH-Info-r4");
    return 0;
 }
 
-int asn1PD_UMTS_PRACH_Definition_LCR_r4(rtxContext* ctx, PRACH_Definition_LCR_r4* pvalue)
+int asn1PD_UMTS_PRACH_Definition_LCR_r4(rtxContext* RT_RESTRICT ctx, PRACH_Definition_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PRACH-Definition-LCR-r4");
    /* timeslot */
-   rtxCtxtPushElemName(ctx, "timeslot");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-PRACH-LCR-r4");
    stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 1, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TimeslotNumber-PRACH-LCR-r4", "timeslot", -1, "PRACH-Definition-LCR-r4");
    /* prach-ChanCodes-LCR */
-   rtxCtxtPushElemName(ctx, "prach-ChanCodes-LCR");
    stat = asn1PD_UMTS_PRACH_ChanCodes_LCR_r4(ctx, &pvalue->prach_ChanCodes_LCR);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "prach-ChanCodes-LCR", -1, "PRACH-Definition-LCR-r4");
    /* midambleShiftAndBurstType */
-   rtxCtxtPushElemName(ctx, "midambleShiftAndBurstType");
    stat = asn1PD_UMTS_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "PRACH-Definition-LCR-r4");
    /* fpach-Info */
-   rtxCtxtPushElemName(ctx, "fpach-Info");
    stat = asn1PD_UMTS_FPACH_Info_r4(ctx, &pvalue->fpach_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "fpach-Info", -1, "PRACH-Definition-LCR-r4");
    return 0;
 }
 
-int asn1PD_UMTS_PRACH_RACH_Info_LCR_r4_prach_DefinitionList(rtxContext* ctx, PRACH_RACH_Info_LCR_r4_prach_DefinitionList* pvalue)
+int asn1PD_UMTS_PRACH_RACH_Info_LCR_r4_prach_DefinitionList(rtxContext* RT_RESTRICT ctx, PRACH_RACH_Info_LCR_r4_prach_DefinitionList* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 8);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       PRACH_Definition_LCR_r4* elem;
-      rtxCtxtPushArrayElemName(ctx, "PRACH-Definition-LCR-r4", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PRACH_Definition_LCR_r4));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PRACH-Definition-LCR-r4", (int32_t)i, 0);
       elem = (PRACH_Definition_LCR_r4*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_PRACH_Definition_LCR_r4(elem);
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_PRACH_Definition_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "PRACH-Definition-LCR-r4", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_PRACH_RACH_Info_LCR_r4(rtxContext* ctx, PRACH_RACH_Info_LCR_r4* pvalue)
+int asn1PD_UMTS_PRACH_RACH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, PRACH_RACH_Info_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PRACH-RACH-Info-LCR-r4");
    /* sync-UL-Info */
-   rtxCtxtPushElemName(ctx, "sync-UL-Info");
    stat = asn1PD_UMTS_SYNC_UL_Info_r4(ctx, &pvalue->sync_UL_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sync-UL-Info", -1, "PRACH-RACH-Info-LCR-r4");
    /* prach-DefinitionList */
-   rtxCtxtPushElemName(ctx, "prach-DefinitionList");
    stat = asn1PD_UMTS_PRACH_RACH_Info_LCR_r4_prach_DefinitionList(ctx, &pvalue->prach_DefinitionList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "prach-DefinitionList", -1, "PRACH-RACH-Info-LCR-r4");
    return 0;
 }
 
-int asn1PD_UMTS_CommonTransChTFS_LCR_tti(rtxContext* ctx, CommonTransChTFS_LCR_tti* pvalue)
+int asn1PD_UMTS_CommonTransChTFS_LCR_tti(rtxContext* RT_RESTRICT ctx, CommonTransChTFS_LCR_tti* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 5);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "tti5");
+      case 0: /* tti5 */
          pvalue->u.tti5 = (CommonDynamicTF_InfoList*)rtxMemHeapAlloc(ctx, sizeof(CommonDynamicTF_InfoList));
-         if (pvalue->u.tti5 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.tti5 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tti5", -1, 0);
          asn1Init_UMTS_CommonDynamicTF_InfoList(pvalue->u.tti5);
          stat = asn1PD_UMTS_CommonDynamicTF_InfoList(ctx, pvalue->u.tti5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tti5", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tti10");
+      case 1: /* tti10 */
          pvalue->u.tti10 = (CommonDynamicTF_InfoList*)rtxMemHeapAlloc(ctx, sizeof(CommonDynamicTF_InfoList));
-         if (pvalue->u.tti10 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.tti10 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tti10", -1, 0);
          asn1Init_UMTS_CommonDynamicTF_InfoList(pvalue->u.tti10);
          stat = asn1PD_UMTS_CommonDynamicTF_InfoList(ctx, pvalue->u.tti10);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tti10", -1, 0);
          break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tti20");
+      case 2: /* tti20 */
          pvalue->u.tti20 = (CommonDynamicTF_InfoList*)rtxMemHeapAlloc(ctx, sizeof(CommonDynamicTF_InfoList));
-         if (pvalue->u.tti20 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.tti20 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tti20", -1, 0);
          asn1Init_UMTS_CommonDynamicTF_InfoList(pvalue->u.tti20);
          stat = asn1PD_UMTS_CommonDynamicTF_InfoList(ctx, pvalue->u.tti20);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tti20", -1, 0);
          break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "tti40");
+      case 3: /* tti40 */
          pvalue->u.tti40 = (CommonDynamicTF_InfoList*)rtxMemHeapAlloc(ctx, sizeof(CommonDynamicTF_InfoList));
-         if (pvalue->u.tti40 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.tti40 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tti40", -1, 0);
          asn1Init_UMTS_CommonDynamicTF_InfoList(pvalue->u.tti40);
          stat = asn1PD_UMTS_CommonDynamicTF_InfoList(ctx, pvalue->u.tti40);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tti40", -1, 0);
          break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "tti80");
+      case 4: /* tti80 */
          pvalue->u.tti80 = (CommonDynamicTF_InfoList*)rtxMemHeapAlloc(ctx, sizeof(CommonDynamicTF_InfoList));
-         if (pvalue->u.tti80 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.tti80 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tti80", -1, 0);
          asn1Init_UMTS_CommonDynamicTF_InfoList(pvalue->u.tti80);
          stat = asn1PD_UMTS_CommonDynamicTF_InfoList(ctx, pvalue->u.tti80);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tti80", -1, 0);
          break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "dynamic");
+      case 5: /* dynamic */
          pvalue->u.dynamic = (CommonDynamicTF_InfoList_DynamicTTI*)rtxMemHeapAlloc(ctx, sizeof(CommonDynamicTF_InfoList_DynamicTTI));
-         if (pvalue->u.dynamic == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.dynamic == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dynamic", -1, 0);
          asn1Init_UMTS_CommonDynamicTF_InfoList_DynamicTTI(pvalue->u.dynamic);
          stat = asn1PD_UMTS_CommonDynamicTF_InfoList_DynamicTTI(ctx, pvalue->u.dynamic);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "dynamic", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CommonTransChTFS_LCR(rtxContext* ctx, CommonTransChTFS_LCR* pvalue)
+int asn1PD_UMTS_CommonTransChTFS_LCR(rtxContext* RT_RESTRICT ctx, CommonTransChTFS_LCR* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CommonTransChTFS-LCR");
    /* tti */
-   rtxCtxtPushElemName(ctx, "tti");
    stat = asn1PD_UMTS_CommonTransChTFS_LCR_tti(ctx, &pvalue->tti);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "tti", -1, "CommonTransChTFS-LCR");
    /* semistaticTF-Information */
-   rtxCtxtPushElemName(ctx, "semistaticTF-Information");
    stat = asn1PD_UMTS_SemistaticTF_Information(ctx, &pvalue->semistaticTF_Information);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "semistaticTF-Information", -1, "CommonTransChTFS-LCR");
    return 0;
 }
 
-int asn1PD_UMTS_TransportFormatSet_LCR(rtxContext* ctx, TransportFormatSet_LCR* pvalue)
+int asn1PD_UMTS_TransportFormatSet_LCR(rtxContext* RT_RESTRICT ctx, TransportFormatSet_LCR* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "TransportFormatSet-LCR");
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportFormatSet-LCR");
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "dedicatedTransChTFS");
+      case 0: /* dedicatedTransChTFS */
          pvalue->u.dedicatedTransChTFS = (DedicatedTransChTFS*)rtxMemHeapAlloc(ctx, sizeof(DedicatedTransChTFS));
-         if (pvalue->u.dedicatedTransChTFS == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.dedicatedTransChTFS == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dedicatedTransChTFS", -1, "TransportFormatSet-LCR");
          asn1Init_UMTS_DedicatedTransChTFS(pvalue->u.dedicatedTransChTFS);
          stat = asn1PD_UMTS_DedicatedTransChTFS(ctx, pvalue->u.dedicatedTransChTFS);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "dedicatedTransChTFS", -1, "TransportFormatSet-LCR");
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "commonTransChTFS-LCR");
+      case 1: /* commonTransChTFS-LCR */
          pvalue->u.commonTransChTFS_LCR = (CommonTransChTFS_LCR*)rtxMemHeapAlloc(ctx, sizeof(CommonTransChTFS_LCR));
-         if (pvalue->u.commonTransChTFS_LCR == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.commonTransChTFS_LCR == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "commonTransChTFS-LCR", -1, "TransportFormatSet-LCR");
          asn1Init_UMTS_CommonTransChTFS_LCR(pvalue->u.commonTransChTFS_LCR);
          stat = asn1PD_UMTS_CommonTransChTFS_LCR(ctx, pvalue->u.commonTransChTFS_LCR);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "commonTransChTFS-LCR", -1, "TransportFormatSet-LCR");
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TransportFormatSet-LCR");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_availableSYNC_UlCodesIndics(rtxContext* ctx, AccessServiceClass_TDD_LCR_r4_availableSYNC_UlCodesIndics* pvalue)
+int asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_availableSYNC_UlCodesIndics(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_availableSYNC_UlCodesIndics* RT_RESTRICT pvalue)
 {
    int stat;
    RT_SET_SIZE(ctx, 8, 8);
    stat = pd_BitString32(ctx, pvalue, 8, 8);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size2_subchannels(rtxContext* ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size2_subchannels* pvalue)
+int asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size2_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size2_subchannels* RT_RESTRICT pvalue)
 {
    int stat;
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size2(rtxContext* ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size2* pvalue)
+int asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size2(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size2* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* subchannels */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "subchannels");
       pvalue->m |= 0x1u;
       stat = pd_ConsUnsigned(ctx, &pvalue->subchannels, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4_subchannels(rtxContext* ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size4_subchannels* pvalue)
+int asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size4_subchannels* RT_RESTRICT pvalue)
 {
    int stat;
    RT_SET_SIZE(ctx, 4, 4);
    stat = pd_BitString32(ctx, pvalue, 4, 4);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4(rtxContext* ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size4* pvalue)
+int asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size4* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* subchannels */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "subchannels");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4_subchannels(ctx, &pvalue->subchannels);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8_subchannels(rtxContext* ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size8_subchannels* pvalue)
+int asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size8_subchannels* RT_RESTRICT pvalue)
 {
    int stat;
    RT_SET_SIZE(ctx, 8, 8);
    stat = pd_BitString32(ctx, pvalue, 8, 8);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8(rtxContext* ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size8* pvalue)
+int asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size8* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* subchannels */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "subchannels");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8_subchannels(ctx, &pvalue->subchannels);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize(rtxContext* ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize* pvalue)
+int asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "size1");
-         rtxCtxtPopElemName(ctx);
+      case 0: /* size1 */
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "size2");
+      case 1: /* size2 */
          pvalue->u.size2 = (AccessServiceClass_TDD_LCR_r4_subchannelSize_size2*)rtxMemHeapAlloc(ctx, sizeof(AccessServiceClass_TDD_LCR_r4_subchannelSize_size2));
-         if (pvalue->u.size2 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.size2 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "size2", -1, 0);
          asn1Init_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size2(pvalue->u.size2);
          stat = asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size2(ctx, pvalue->u.size2);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "size2", -1, 0);
          break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "size4");
+      case 2: /* size4 */
          pvalue->u.size4 = (AccessServiceClass_TDD_LCR_r4_subchannelSize_size4*)rtxMemHeapAlloc(ctx, sizeof(AccessServiceClass_TDD_LCR_r4_subchannelSize_size4));
-         if (pvalue->u.size4 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.size4 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "size4", -1, 0);
          asn1Init_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4(pvalue->u.size4);
          stat = asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4(ctx, pvalue->u.size4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "size4", -1, 0);
          break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "size8");
+      case 3: /* size8 */
          pvalue->u.size8 = (AccessServiceClass_TDD_LCR_r4_subchannelSize_size8*)rtxMemHeapAlloc(ctx, sizeof(AccessServiceClass_TDD_LCR_r4_subchannelSize_size8));
-         if (pvalue->u.size8 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.size8 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "size8", -1, 0);
          asn1Init_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8(pvalue->u.size8);
          stat = asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8(ctx, pvalue->u.size8);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "size8", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4(rtxContext* ctx, AccessServiceClass_TDD_LCR_r4* pvalue)
+int asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "AccessServiceClass-TDD-LCR-r4");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AccessServiceClass-TDD-LCR-r4");
    /* availableSYNC-UlCodesIndics */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "availableSYNC-UlCodesIndics");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_availableSYNC_UlCodesIndics(ctx, &pvalue->availableSYNC_UlCodesIndics);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "availableSYNC-UlCodesIndics", -1, "AccessServiceClass-TDD-LCR-r4");
    }
    /* subchannelSize */
-   rtxCtxtPushElemName(ctx, "subchannelSize");
    stat = asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize(ctx, &pvalue->subchannelSize);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "subchannelSize", -1, "AccessServiceClass-TDD-LCR-r4");
    return 0;
 }
 
-int asn1PD_UMTS_ASCSetting_TDD_LCR_r4(rtxContext* ctx, ASCSetting_TDD_LCR_r4* pvalue)
+int asn1PD_UMTS_ASCSetting_TDD_LCR_r4(rtxContext* RT_RESTRICT ctx, ASCSetting_TDD_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "ASCSetting-TDD-LCR-r4");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ASCSetting-TDD-LCR-r4");
    /* accessServiceClass-TDD-LCR */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "accessServiceClass-TDD-LCR");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_AccessServiceClass_TDD_LCR_r4(ctx, &pvalue->accessServiceClass_TDD_LCR);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "accessServiceClass-TDD-LCR", -1, "ASCSetting-TDD-LCR-r4");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_PRACH_Partitioning_LCR_r4(rtxContext* ctx, PRACH_Partitioning_LCR_r4* pvalue)
+int asn1PD_UMTS_PRACH_Partitioning_LCR_r4(rtxContext* RT_RESTRICT ctx, PRACH_Partitioning_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "PRACH-Partitioning-LCR-r4");
    RT_SET_SIZE(ctx, 1, 8);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-Partitioning-LCR-r4");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       ASCSetting_TDD_LCR_r4* elem;
-      rtxCtxtPushArrayElemName(ctx, "ASCSetting-TDD-LCR-r4", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(ASCSetting_TDD_LCR_r4));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ASCSetting-TDD-LCR-r4", (int32_t)i, "PRACH-Partitioning-LCR-r4");
       elem = (ASCSetting_TDD_LCR_r4*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_ASCSetting_TDD_LCR_r4(elem);
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_ASCSetting_TDD_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ASCSetting-TDD-LCR-r4", (int32_t)i, "PRACH-Partitioning-LCR-r4");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_PRACH_SystemInformation_LCR_r4(rtxContext* ctx, PRACH_SystemInformation_LCR_r4* pvalue)
+int asn1PD_UMTS_PRACH_SystemInformation_LCR_r4(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformation_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PRACH-SystemInformation-LCR-r4");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-SystemInformation-LCR-r4");
    /* prach-RACH-Info-LCR */
-   rtxCtxtPushElemName(ctx, "prach-RACH-Info-LCR");
    stat = asn1PD_UMTS_PRACH_RACH_Info_LCR_r4(ctx, &pvalue->prach_RACH_Info_LCR);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "prach-RACH-Info-LCR", -1, "PRACH-SystemInformation-LCR-r4");
    /* rach-TransportFormatSet-LCR */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "rach-TransportFormatSet-LCR");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_TransportFormatSet_LCR(ctx, &pvalue->rach_TransportFormatSet_LCR);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "rach-TransportFormatSet-LCR", -1, "PRACH-SystemInformation-LCR-r4");
    }
    /* prach-Partitioning-LCR */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "prach-Partitioning-LCR");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_PRACH_Partitioning_LCR_r4(ctx, &pvalue->prach_Partitioning_LCR);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "prach-Partitioning-LCR", -1, "PRACH-SystemInformation-LCR-r4");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_PRACH_SystemInformationList_LCR_r4(rtxContext* ctx, PRACH_SystemInformationList_LCR_r4* pvalue)
+int asn1PD_UMTS_PRACH_SystemInformationList_LCR_r4(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformationList_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "PRACH-SystemInformationList-LCR-r4");
    RT_SET_SIZE(ctx, 1, 16);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-SystemInformationList-LCR-r4");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       PRACH_SystemInformation_LCR_r4* elem;
-      rtxCtxtPushArrayElemName(ctx, "PRACH-SystemInformation-LCR-r4", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PRACH_SystemInformation_LCR_r4));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PRACH-SystemInformation-LCR-r4", (int32_t)i, "PRACH-SystemInformationList-LCR-r4");
       elem = (PRACH_SystemInformation_LCR_r4*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_PRACH_SystemInformation_LCR_r4(elem);
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_PRACH_SystemInformation_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "PRACH-SystemInformation-LCR-r4", (int32_t)i, "PRACH-SystemInformationList-LCR-r4");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_IndividualTimeslotInfo_LCR_r4_modulation(rtxContext* ctx, IndividualTimeslotInfo_LCR_r4_modulation* pvalue)
+int asn1PD_UMTS_IndividualTimeslotInfo_LCR_r4_modulation(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4_modulation* RT_RESTRICT pvalue)
 {
    int stat;
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_IndividualTimeslotInfo_LCR_r4_ss_TPC_Symbols(rtxContext* ctx, IndividualTimeslotInfo_LCR_r4_ss_TPC_Symbols* pvalue)
+int asn1PD_UMTS_IndividualTimeslotInfo_LCR_r4_ss_TPC_Symbols(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4_ss_TPC_Symbols* RT_RESTRICT pvalue)
 {
    int stat;
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_IndividualTimeslotInfo_LCR_r4(rtxContext* ctx, IndividualTimeslotInfo_LCR_r4* pvalue)
+int asn1PD_UMTS_IndividualTimeslotInfo_LCR_r4(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IndividualTimeslotInfo-LCR-r4");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IndividualTimeslotInfo-LCR-r4");
    /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-LCR-r4");
    stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "IndividualTimeslotInfo-LCR-r4");
    /* tfci-Existence */
-   rtxCtxtPushElemName(ctx, "tfci-Existence");
    stat = rtxDecBitInline(ctx, &pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, "IndividualTimeslotInfo-LCR-r4");
    /* midambleShiftAndBurstType */
-   rtxCtxtPushElemName(ctx, "midambleShiftAndBurstType");
    stat = asn1PD_UMTS_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "IndividualTimeslotInfo-LCR-r4");
    /* modulation */
-   rtxCtxtPushElemName(ctx, "modulation");
    stat = pd_ConsUnsigned(ctx, &pvalue->modulation, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "modulation", -1, "IndividualTimeslotInfo-LCR-r4");
    /* ss-TPC-Symbols */
-   rtxCtxtPushElemName(ctx, "ss-TPC-Symbols");
    stat = pd_ConsUnsigned(ctx, &pvalue->ss_TPC_Symbols, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "ss-TPC-Symbols", -1, "IndividualTimeslotInfo-LCR-r4");
    /* additionalSS-TPC-Symbols */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "additionalSS-TPC-Symbols");
       pvalue->m |= 0x1u;
       stat = pd_ConsUInt8(ctx, &pvalue->additionalSS_TPC_Symbols, 1, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "additionalSS-TPC-Symbols", -1, "IndividualTimeslotInfo-LCR-r4");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_consecutive(rtxContext* ctx, UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_consecutive* pvalue)
+int asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_consecutive(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_consecutive* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* numAdditionalTimeslots */
-   rtxCtxtPushElemName(ctx, "numAdditionalTimeslots");
    stat = pd_ConsUInt8(ctx, &pvalue->numAdditionalTimeslots, 1, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "numAdditionalTimeslots", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_UplinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast(rtxContext* ctx, UplinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast* pvalue)
+int asn1PD_UMTS_UplinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
    stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters(rtxContext* ctx, UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters* pvalue)
+int asn1PD_UMTS_UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* individualTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "individualTimeslotInfo");
    stat = asn1PD_UMTS_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
    /* ul-TS-ChannelisationCodeList */
-   rtxCtxtPushElemName(ctx, "ul-TS-ChannelisationCodeList");
    stat = asn1PD_UMTS_UL_TS_ChannelisationCodeList(ctx, &pvalue->ul_TS_ChannelisationCodeList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_UplinkAdditionalTimeslots_LCR_r4_parameters(rtxContext* ctx, UplinkAdditionalTimeslots_LCR_r4_parameters* pvalue)
+int asn1PD_UMTS_UplinkAdditionalTimeslots_LCR_r4_parameters(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_LCR_r4_parameters* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "sameAsLast");
+      case 0: /* sameAsLast */
          pvalue->u.sameAsLast = (UplinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast*)rtxMemHeapAllocZ(ctx, sizeof(UplinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast));
-         if (pvalue->u.sameAsLast == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.sameAsLast == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sameAsLast", -1, 0);
          stat = asn1PD_UMTS_UplinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast(ctx, pvalue->u.sameAsLast);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "newParameters");
+      case 1: /* newParameters */
          pvalue->u.newParameters = (UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters*)rtxMemHeapAlloc(ctx, sizeof(UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters));
-         if (pvalue->u.newParameters == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.newParameters == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "newParameters", -1, 0);
          asn1Init_UMTS_UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters(pvalue->u.newParameters);
          stat = asn1PD_UMTS_UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters(ctx, pvalue->u.newParameters);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UplinkAdditionalTimeslots_LCR_r4(rtxContext* ctx, UplinkAdditionalTimeslots_LCR_r4* pvalue)
+int asn1PD_UMTS_UplinkAdditionalTimeslots_LCR_r4(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UplinkAdditionalTimeslots-LCR-r4");
    /* parameters */
-   rtxCtxtPushElemName(ctx, "parameters");
    stat = asn1PD_UMTS_UplinkAdditionalTimeslots_LCR_r4_parameters(ctx, &pvalue->parameters);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "parameters", -1, "UplinkAdditionalTimeslots-LCR-r4");
    return 0;
 }
 
-int asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* ctx, UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList* pvalue)
+int asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 5);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       UplinkAdditionalTimeslots_LCR_r4* elem;
-      rtxCtxtPushArrayElemName(ctx, "UplinkAdditionalTimeslots-LCR-r4", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UplinkAdditionalTimeslots_LCR_r4));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UplinkAdditionalTimeslots-LCR-r4", (int32_t)i, 0);
       elem = (UplinkAdditionalTimeslots_LCR_r4*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_UplinkAdditionalTimeslots_LCR_r4(elem);
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_UplinkAdditionalTimeslots_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "UplinkAdditionalTimeslots-LCR-r4", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(rtxContext* ctx, UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots* pvalue)
+int asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "consecutive");
+      case 0: /* consecutive */
          pvalue->u.consecutive = (UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_consecutive*)rtxMemHeapAllocZ(ctx, sizeof(UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_consecutive));
-         if (pvalue->u.consecutive == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.consecutive == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "consecutive", -1, 0);
          stat = asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_consecutive(ctx, pvalue->u.consecutive);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "timeslotList");
+      case 1: /* timeslotList */
          pvalue->u.timeslotList = (UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList*)rtxMemHeapAlloc(ctx, sizeof(UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList));
-         if (pvalue->u.timeslotList == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.timeslotList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "timeslotList", -1, 0);
          asn1Init_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(pvalue->u.timeslotList);
          stat = asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots(rtxContext* ctx, UplinkTimeslotsCodes_LCR_r4_moreTimeslots* pvalue)
+int asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r4_moreTimeslots* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "noMore");
-         rtxCtxtPopElemName(ctx);
+      case 0: /* noMore */
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "additionalTimeslots");
+      case 1: /* additionalTimeslots */
          pvalue->u.additionalTimeslots = (UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots*)rtxMemHeapAlloc(ctx, sizeof(UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots));
-         if (pvalue->u.additionalTimeslots == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.additionalTimeslots == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "additionalTimeslots", -1, 0);
          asn1Init_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(pvalue->u.additionalTimeslots);
          stat = asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "additionalTimeslots", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r4(rtxContext* ctx, UplinkTimeslotsCodes_LCR_r4* pvalue)
+int asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r4(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UplinkTimeslotsCodes-LCR-r4");
    /* dynamicSFusage */
-   rtxCtxtPushElemName(ctx, "dynamicSFusage");
    stat = rtxDecBitInline(ctx, &pvalue->dynamicSFusage);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "dynamicSFusage", -1, "UplinkTimeslotsCodes-LCR-r4");
    /* firstIndividualTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "firstIndividualTimeslotInfo");
    stat = asn1PD_UMTS_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->firstIndividualTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "UplinkTimeslotsCodes-LCR-r4");
    /* ul-TS-ChannelisationCodeList */
-   rtxCtxtPushElemName(ctx, "ul-TS-ChannelisationCodeList");
    stat = asn1PD_UMTS_UL_TS_ChannelisationCodeList(ctx, &pvalue->ul_TS_ChannelisationCodeList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, "UplinkTimeslotsCodes-LCR-r4");
    /* moreTimeslots */
-   rtxCtxtPushElemName(ctx, "moreTimeslots");
    stat = asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots(ctx, &pvalue->moreTimeslots);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "UplinkTimeslotsCodes-LCR-r4");
    return 0;
 }
 
-int asn1PD_UMTS_PUSCH_Info_LCR_r4(rtxContext* ctx, PUSCH_Info_LCR_r4* pvalue)
+int asn1PD_UMTS_PUSCH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, PUSCH_Info_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PUSCH-Info-LCR-r4");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-Info-LCR-r4");
    /* tfcs-ID */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "tfcs-ID");
-      rtxCtxtPushTypeName(ctx, "TFCS-IdentityPlain");
       stat = pd_ConsUInt8(ctx, &pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PUSCH-Info-LCR-r4");
    }
    else {
       pvalue->tfcs_ID = 1;
    }
    /* commonTimeslotInfo */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "commonTimeslotInfo");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "PUSCH-Info-LCR-r4");
    }
    /* pusch-TimeslotsCodes */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "pusch-TimeslotsCodes");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r4(ctx, &pvalue->pusch_TimeslotsCodes);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pusch-TimeslotsCodes", -1, "PUSCH-Info-LCR-r4");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_PUSCH_SysInfo_LCR_r4(rtxContext* ctx, PUSCH_SysInfo_LCR_r4* pvalue)
+int asn1PD_UMTS_PUSCH_SysInfo_LCR_r4(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfo_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PUSCH-SysInfo-LCR-r4");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-SysInfo-LCR-r4");
    /* pusch-Identity */
-   rtxCtxtPushElemName(ctx, "pusch-Identity");
-   rtxCtxtPushTypeName(ctx, "PUSCH-Identity");
    stat = pd_ConsUInt8(ctx, &pvalue->pusch_Identity, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "PUSCH-Identity", "pusch-Identity", -1, "PUSCH-SysInfo-LCR-r4");
    /* pusch-Info */
-   rtxCtxtPushElemName(ctx, "pusch-Info");
    stat = asn1PD_UMTS_PUSCH_Info_LCR_r4(ctx, &pvalue->pusch_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "pusch-Info", -1, "PUSCH-SysInfo-LCR-r4");
    /* usch-TFS */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "usch-TFS");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->usch_TFS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "usch-TFS", -1, "PUSCH-SysInfo-LCR-r4");
    }
    /* usch-TFCS */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "usch-TFCS");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_TFCS(ctx, &pvalue->usch_TFCS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "usch-TFCS", -1, "PUSCH-SysInfo-LCR-r4");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_PUSCH_SysInfoList_SFN_LCR_r4_element(rtxContext* ctx, PUSCH_SysInfoList_SFN_LCR_r4_element* pvalue)
+int asn1PD_UMTS_PUSCH_SysInfoList_SFN_LCR_r4_element(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_SFN_LCR_r4_element* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* pusch-SysInfo */
-   rtxCtxtPushElemName(ctx, "pusch-SysInfo");
    stat = asn1PD_UMTS_PUSCH_SysInfo_LCR_r4(ctx, &pvalue->pusch_SysInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "pusch-SysInfo", -1, 0);
    /* sfn-TimeInfo */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "sfn-TimeInfo");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_PUSCH_SysInfoList_SFN_LCR_r4(rtxContext* ctx, PUSCH_SysInfoList_SFN_LCR_r4* pvalue)
+int asn1PD_UMTS_PUSCH_SysInfoList_SFN_LCR_r4(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_SFN_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "PUSCH-SysInfoList-SFN-LCR-r4");
    RT_SET_SIZE(ctx, 1, 8);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-SysInfoList-SFN-LCR-r4");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       PUSCH_SysInfoList_SFN_LCR_r4_element* elem;
-      rtxCtxtPushArrayElemName(ctx, "element", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PUSCH_SysInfoList_SFN_LCR_r4_element));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN-LCR-r4");
       elem = (PUSCH_SysInfoList_SFN_LCR_r4_element*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_PUSCH_SysInfoList_SFN_LCR_r4_element(elem);
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_PUSCH_SysInfoList_SFN_LCR_r4_element(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN-LCR-r4");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_DownlinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast(rtxContext* ctx, DownlinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast* pvalue)
+int asn1PD_UMTS_DownlinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-LCR-r4");
    stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_DownlinkAdditionalTimeslots_LCR_r4_parameters_newParameters(rtxContext* ctx, DownlinkAdditionalTimeslots_LCR_r4_parameters_newParameters* pvalue)
+int asn1PD_UMTS_DownlinkAdditionalTimeslots_LCR_r4_parameters_newParameters(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_LCR_r4_parameters_newParameters* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* individualTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "individualTimeslotInfo");
    stat = asn1PD_UMTS_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
    /* dl-TS-ChannelisationCodesShort */
-   rtxCtxtPushElemName(ctx, "dl-TS-ChannelisationCodesShort");
    stat = asn1PD_UMTS_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_DownlinkAdditionalTimeslots_LCR_r4_parameters(rtxContext* ctx, DownlinkAdditionalTimeslots_LCR_r4_parameters* pvalue)
+int asn1PD_UMTS_DownlinkAdditionalTimeslots_LCR_r4_parameters(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_LCR_r4_parameters* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "sameAsLast");
+      case 0: /* sameAsLast */
          pvalue->u.sameAsLast = (DownlinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast*)rtxMemHeapAllocZ(ctx, sizeof(DownlinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast));
-         if (pvalue->u.sameAsLast == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.sameAsLast == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sameAsLast", -1, 0);
          stat = asn1PD_UMTS_DownlinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast(ctx, pvalue->u.sameAsLast);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "newParameters");
+      case 1: /* newParameters */
          pvalue->u.newParameters = (DownlinkAdditionalTimeslots_LCR_r4_parameters_newParameters*)rtxMemHeapAlloc(ctx, sizeof(DownlinkAdditionalTimeslots_LCR_r4_parameters_newParameters));
-         if (pvalue->u.newParameters == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.newParameters == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "newParameters", -1, 0);
          asn1Init_UMTS_DownlinkAdditionalTimeslots_LCR_r4_parameters_newParameters(pvalue->u.newParameters);
          stat = asn1PD_UMTS_DownlinkAdditionalTimeslots_LCR_r4_parameters_newParameters(ctx, pvalue->u.newParameters);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_DownlinkAdditionalTimeslots_LCR_r4(rtxContext* ctx, DownlinkAdditionalTimeslots_LCR_r4* pvalue)
+int asn1PD_UMTS_DownlinkAdditionalTimeslots_LCR_r4(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DownlinkAdditionalTimeslots-LCR-r4");
    /* parameters */
-   rtxCtxtPushElemName(ctx, "parameters");
    stat = asn1PD_UMTS_DownlinkAdditionalTimeslots_LCR_r4_parameters(ctx, &pvalue->parameters);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "parameters", -1, "DownlinkAdditionalTimeslots-LCR-r4");
    return 0;
 }
 
-int asn1PD_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* ctx, DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList* pvalue)
+int asn1PD_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 5);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       DownlinkAdditionalTimeslots_LCR_r4* elem;
-      rtxCtxtPushArrayElemName(ctx, "DownlinkAdditionalTimeslots-LCR-r4", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DownlinkAdditionalTimeslots_LCR_r4));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DownlinkAdditionalTimeslots-LCR-r4", (int32_t)i, 0);
       elem = (DownlinkAdditionalTimeslots_LCR_r4*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_DownlinkAdditionalTimeslots_LCR_r4(elem);
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_DownlinkAdditionalTimeslots_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "DownlinkAdditionalTimeslots-LCR-r4", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(rtxContext* ctx, DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots* pvalue)
+int asn1PD_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "consecutive");
+      case 0: /* consecutive */
          stat = pd_ConsUInt8(ctx, &pvalue->u.consecutive, 1, 5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "timeslotList");
+      case 1: /* timeslotList */
          pvalue->u.timeslotList = (DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList*)rtxMemHeapAlloc(ctx, sizeof(DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList));
-         if (pvalue->u.timeslotList == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.timeslotList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "timeslotList", -1, 0);
          asn1Init_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(pvalue->u.timeslotList);
          stat = asn1PD_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots(rtxContext* ctx, DownlinkTimeslotsCodes_LCR_r4_moreTimeslots* pvalue)
+int asn1PD_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_LCR_r4_moreTimeslots* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "noMore");
-         rtxCtxtPopElemName(ctx);
+      case 0: /* noMore */
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "additionalTimeslots");
+      case 1: /* additionalTimeslots */
          pvalue->u.additionalTimeslots = (DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots*)rtxMemHeapAlloc(ctx, sizeof(DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots));
-         if (pvalue->u.additionalTimeslots == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.additionalTimeslots == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "additionalTimeslots", -1, 0);
          asn1Init_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(pvalue->u.additionalTimeslots);
          stat = asn1PD_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "additionalTimeslots", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_DownlinkTimeslotsCodes_LCR_r4(rtxContext* ctx, DownlinkTimeslotsCodes_LCR_r4* pvalue)
+int asn1PD_UMTS_DownlinkTimeslotsCodes_LCR_r4(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DownlinkTimeslotsCodes-LCR-r4");
    /* firstIndividualTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "firstIndividualTimeslotInfo");
    stat = asn1PD_UMTS_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->firstIndividualTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "DownlinkTimeslotsCodes-LCR-r4");
    /* dl-TS-ChannelisationCodesShort */
-   rtxCtxtPushElemName(ctx, "dl-TS-ChannelisationCodesShort");
    stat = asn1PD_UMTS_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, "DownlinkTimeslotsCodes-LCR-r4");
    /* moreTimeslots */
-   rtxCtxtPushElemName(ctx, "moreTimeslots");
    stat = asn1PD_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots(ctx, &pvalue->moreTimeslots);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "DownlinkTimeslotsCodes-LCR-r4");
    return 0;
 }
 
-int asn1PD_UMTS_PDSCH_Info_LCR_r4(rtxContext* ctx, PDSCH_Info_LCR_r4* pvalue)
+int asn1PD_UMTS_PDSCH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, PDSCH_Info_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PDSCH-Info-LCR-r4");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-Info-LCR-r4");
    /* tfcs-ID */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "tfcs-ID");
-      rtxCtxtPushTypeName(ctx, "TFCS-IdentityPlain");
       stat = pd_ConsUInt8(ctx, &pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PDSCH-Info-LCR-r4");
    }
    else {
       pvalue->tfcs_ID = 1;
    }
    /* commonTimeslotInfo */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "commonTimeslotInfo");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "PDSCH-Info-LCR-r4");
    }
    /* pdsch-TimeslotsCodes */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "pdsch-TimeslotsCodes");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->pdsch_TimeslotsCodes);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pdsch-TimeslotsCodes", -1, "PDSCH-Info-LCR-r4");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_PDSCH_SysInfo_LCR_r4(rtxContext* ctx, PDSCH_SysInfo_LCR_r4* pvalue)
+int asn1PD_UMTS_PDSCH_SysInfo_LCR_r4(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfo_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PDSCH-SysInfo-LCR-r4");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-SysInfo-LCR-r4");
    /* pdsch-Identity */
-   rtxCtxtPushElemName(ctx, "pdsch-Identity");
-   rtxCtxtPushTypeName(ctx, "PDSCH-Identity");
    stat = pd_ConsUInt8(ctx, &pvalue->pdsch_Identity, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "PDSCH-Identity", "pdsch-Identity", -1, "PDSCH-SysInfo-LCR-r4");
    /* pdsch-Info */
-   rtxCtxtPushElemName(ctx, "pdsch-Info");
    stat = asn1PD_UMTS_PDSCH_Info_LCR_r4(ctx, &pvalue->pdsch_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "pdsch-Info", -1, "PDSCH-SysInfo-LCR-r4");
    /* dsch-TFS */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dsch-TFS");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->dsch_TFS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dsch-TFS", -1, "PDSCH-SysInfo-LCR-r4");
    }
    /* dsch-TFCS */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dsch-TFCS");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_TFCS(ctx, &pvalue->dsch_TFCS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dsch-TFCS", -1, "PDSCH-SysInfo-LCR-r4");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_PDSCH_SysInfoList_SFN_LCR_r4_element(rtxContext* ctx, PDSCH_SysInfoList_SFN_LCR_r4_element* pvalue)
+int asn1PD_UMTS_PDSCH_SysInfoList_SFN_LCR_r4_element(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList_SFN_LCR_r4_element* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* pdsch-SysInfo */
-   rtxCtxtPushElemName(ctx, "pdsch-SysInfo");
    stat = asn1PD_UMTS_PDSCH_SysInfo_LCR_r4(ctx, &pvalue->pdsch_SysInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "pdsch-SysInfo", -1, 0);
    /* sfn-TimeInfo */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "sfn-TimeInfo");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_PDSCH_SysInfoList_SFN_LCR_r4(rtxContext* ctx, PDSCH_SysInfoList_SFN_LCR_r4* pvalue)
+int asn1PD_UMTS_PDSCH_SysInfoList_SFN_LCR_r4(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList_SFN_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "PDSCH-SysInfoList-SFN-LCR-r4");
    RT_SET_SIZE(ctx, 1, 8);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-SysInfoList-SFN-LCR-r4");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       PDSCH_SysInfoList_SFN_LCR_r4_element* elem;
-      rtxCtxtPushArrayElemName(ctx, "element", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PDSCH_SysInfoList_SFN_LCR_r4_element));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "PDSCH-SysInfoList-SFN-LCR-r4");
       elem = (PDSCH_SysInfoList_SFN_LCR_r4_element*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_PDSCH_SysInfoList_SFN_LCR_r4_element(elem);
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_PDSCH_SysInfoList_SFN_LCR_r4_element(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PDSCH-SysInfoList-SFN-LCR-r4");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_PrimaryCCPCH_Info_LCR_r4_ext(rtxContext* ctx, PrimaryCCPCH_Info_LCR_r4_ext* pvalue)
+int asn1PD_UMTS_PrimaryCCPCH_Info_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_LCR_r4_ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-Info-LCR-r4-ext");
    /* tstd-Indicator */
-   rtxCtxtPushElemName(ctx, "tstd-Indicator");
    stat = rtxDecBitInline(ctx, &pvalue->tstd_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "tstd-Indicator", -1, "PrimaryCCPCH-Info-LCR-r4-ext");
    return 0;
 }
 
-int asn1PD_UMTS_IndividualTimeslotInfo_LCR_r4_ext_modulation(rtxContext* ctx, IndividualTimeslotInfo_LCR_r4_ext_modulation* pvalue)
+int asn1PD_UMTS_IndividualTimeslotInfo_LCR_r4_ext_modulation(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4_ext_modulation* RT_RESTRICT pvalue)
 {
    int stat;
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_IndividualTimeslotInfo_LCR_r4_ext_ss_TPC_Symbols(rtxContext* ctx, IndividualTimeslotInfo_LCR_r4_ext_ss_TPC_Symbols* pvalue)
+int asn1PD_UMTS_IndividualTimeslotInfo_LCR_r4_ext_ss_TPC_Symbols(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4_ext_ss_TPC_Symbols* RT_RESTRICT pvalue)
 {
    int stat;
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_IndividualTimeslotInfo_LCR_r4_ext(rtxContext* ctx, IndividualTimeslotInfo_LCR_r4_ext* pvalue)
+int asn1PD_UMTS_IndividualTimeslotInfo_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4_ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "IndividualTimeslotInfo-LCR-r4-ext");
    /* midambleShiftAndBurstType */
-   rtxCtxtPushElemName(ctx, "midambleShiftAndBurstType");
    stat = asn1PD_UMTS_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "IndividualTimeslotInfo-LCR-r4-ext");
    /* modulation */
-   rtxCtxtPushElemName(ctx, "modulation");
    stat = pd_ConsUnsigned(ctx, &pvalue->modulation, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "modulation", -1, "IndividualTimeslotInfo-LCR-r4-ext");
    /* ss-TPC-Symbols */
-   rtxCtxtPushElemName(ctx, "ss-TPC-Symbols");
    stat = pd_ConsUnsigned(ctx, &pvalue->ss_TPC_Symbols, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "ss-TPC-Symbols", -1, "IndividualTimeslotInfo-LCR-r4-ext");
    return 0;
 }
 
-int asn1PD_UMTS_SecondaryCCPCH_Info_LCR_r4_ext(rtxContext* ctx, SecondaryCCPCH_Info_LCR_r4_ext* pvalue)
+int asn1PD_UMTS_SecondaryCCPCH_Info_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_LCR_r4_ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SecondaryCCPCH-Info-LCR-r4-ext");
    /* individualTimeslotLCR-Ext */
-   rtxCtxtPushElemName(ctx, "individualTimeslotLCR-Ext");
    stat = asn1PD_UMTS_IndividualTimeslotInfo_LCR_r4_ext(ctx, &pvalue->individualTimeslotLCR_Ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotLCR-Ext", -1, "SecondaryCCPCH-Info-LCR-r4-ext");
    return 0;
 }
 
-int asn1PD_UMTS_PichChannelisationCodeList_LCR_r4(rtxContext* ctx, PichChannelisationCodeList_LCR_r4* pvalue)
+int asn1PD_UMTS_PichChannelisationCodeList_LCR_r4(rtxContext* RT_RESTRICT ctx, PichChannelisationCodeList_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "PichChannelisationCodeList-LCR-r4");
    {
       uint32_t raw;
       stat = rtxDecBits(ctx, &raw, 1);
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, "PichChannelisationCodeList-LCR-r4");
       pvalue->n = raw + 1;
       if (raw > 1) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "PichChannelisationCodeList-LCR-r4");
          rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PichChannelisationCodeList-LCR-r4");
       }
    }
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "DL-TS-ChannelisationCode", i);
       pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "DL-TS-ChannelisationCode");
       stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 15);
       if (stat != 0) {
          pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
+         RT_FAIL(ctx, stat, "DL-TS-ChannelisationCode", "DL-TS-ChannelisationCode", (int32_t)i, "PichChannelisationCodeList-LCR-r4");
       }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_PICH_Info_LCR_r4(rtxContext* ctx, PICH_Info_LCR_r4* pvalue)
+int asn1PD_UMTS_PICH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, PICH_Info_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PICH-Info-LCR-r4");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PICH-Info-LCR-r4");
    /* timeslot */
    if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "timeslot");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "TimeslotNumber-LCR-r4");
       stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 0, 6);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslot", -1, "PICH-Info-LCR-r4");
    }
    /* pichChannelisationCodeList-LCR-r4 */
-   rtxCtxtPushElemName(ctx, "pichChannelisationCodeList-LCR-r4");
    stat = asn1PD_UMTS_PichChannelisationCodeList_LCR_r4(ctx, &pvalue->pichChannelisationCodeList_LCR_r4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "pichChannelisationCodeList-LCR-r4", -1, "PICH-Info-LCR-r4");
    /* midambleShiftAndBurstType */
-   rtxCtxtPushElemName(ctx, "midambleShiftAndBurstType");
    stat = asn1PD_UMTS_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "PICH-Info-LCR-r4");
    /* repetitionPeriodLengthOffset */
    if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "repetitionPeriodLengthOffset");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_RepPerLengthOffset_PICH(ctx, &pvalue->repetitionPeriodLengthOffset);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "repetitionPeriodLengthOffset", -1, "PICH-Info-LCR-r4");
    }
    /* pagingIndicatorLength */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "pagingIndicatorLength");
-      rtxCtxtPushTypeName(ctx, "PagingIndicatorLength");
       stat = pd_ConsUnsigned(ctx, &pvalue->pagingIndicatorLength, 0, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "PagingIndicatorLength", "pagingIndicatorLength", -1, "PICH-Info-LCR-r4");
    }
    else {
       pvalue->pagingIndicatorLength = 0;
    }
    /* n-GAP */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "n-GAP");
-      rtxCtxtPushTypeName(ctx, "N-GAP");
       stat = pd_ConsUnsigned(ctx, &pvalue->n_GAP, 0, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "N-GAP", "n-GAP", -1, "PICH-Info-LCR-r4");
    }
    else {
       pvalue->n_GAP = 1;
    }
    /* n-PCH */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "n-PCH");
-      rtxCtxtPushTypeName(ctx, "N-PCH");
       stat = pd_ConsUInt8(ctx, &pvalue->n_PCH, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "N-PCH", "n-PCH", -1, "PICH-Info-LCR-r4");
    }
    else {
       pvalue->n_PCH = 2;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_SCCPCH_SystemInformation_LCR_r4_ext(rtxContext* ctx, SCCPCH_SystemInformation_LCR_r4_ext* pvalue)
+int asn1PD_UMTS_SCCPCH_SystemInformation_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation_LCR_r4_ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SCCPCH-SystemInformation-LCR-r4-ext");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SCCPCH-SystemInformation-LCR-r4-ext");
    /* secondaryCCPCH-LCR-Extensions */
-   rtxCtxtPushElemName(ctx, "secondaryCCPCH-LCR-Extensions");
    stat = asn1PD_UMTS_SecondaryCCPCH_Info_LCR_r4_ext(ctx, &pvalue->secondaryCCPCH_LCR_Extensions);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "secondaryCCPCH-LCR-Extensions", -1, "SCCPCH-SystemInformation-LCR-r4-ext");
    /* pich-Info */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "pich-Info");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_PICH_Info_LCR_r4(ctx, &pvalue->pich_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pich-Info", -1, "SCCPCH-SystemInformation-LCR-r4-ext");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_SCCPCH_SystemInformationList_LCR_r4_ext(rtxContext* ctx, SCCPCH_SystemInformationList_LCR_r4_ext* pvalue)
+int asn1PD_UMTS_SCCPCH_SystemInformationList_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformationList_LCR_r4_ext* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "SCCPCH-SystemInformationList-LCR-r4-ext");
    RT_SET_SIZE(ctx, 1, 16);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SCCPCH-SystemInformationList-LCR-r4-ext");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       SCCPCH_SystemInformation_LCR_r4_ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "SCCPCH-SystemInformation-LCR-r4-ext", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SCCPCH_SystemInformation_LCR_r4_ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "SCCPCH-SystemInformation-LCR-r4-ext", (int32_t)i, "SCCPCH-SystemInformationList-LCR-r4-ext");
       elem = (SCCPCH_SystemInformation_LCR_r4_ext*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_SCCPCH_SystemInformation_LCR_r4_ext(elem);
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_SCCPCH_SystemInformation_LCR_r4_ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "SCCPCH-SystemInformation-LCR-r4-ext", (int32_t)i, "SCCPCH-SystemInformationList-LCR-r4-ext");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_SysInfoType5_v4b0ext_IEs_tdd128SpecificInfo(rtxContext* ctx, SysInfoType5_v4b0ext_IEs_tdd128SpecificInfo* pvalue)
+int asn1PD_UMTS_SysInfoType5_v4b0ext_IEs_tdd128SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0ext_IEs_tdd128SpecificInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* pusch-SysInfoList-SFN */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "pusch-SysInfoList-SFN");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_PUSCH_SysInfoList_SFN_LCR_r4(ctx, &pvalue->pusch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
    }
    /* pdsch-SysInfoList-SFN */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "pdsch-SysInfoList-SFN");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_PDSCH_SysInfoList_SFN_LCR_r4(ctx, &pvalue->pdsch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
    }
    /* pCCPCH-LCR-Extensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "pCCPCH-LCR-Extensions");
       pvalue->m |= 0x4u;
       stat = asn1PD_UMTS_PrimaryCCPCH_Info_LCR_r4_ext(ctx, &pvalue->pCCPCH_LCR_Extensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pCCPCH-LCR-Extensions", -1, 0);
    }
    /* sCCPCH-LCR-ExtensionsList */
-   rtxCtxtPushElemName(ctx, "sCCPCH-LCR-ExtensionsList");
    stat = asn1PD_UMTS_SCCPCH_SystemInformationList_LCR_r4_ext(ctx, &pvalue->sCCPCH_LCR_ExtensionsList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sCCPCH-LCR-ExtensionsList", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_RadioFrequencyBandFDD(rtxContext* ctx, RadioFrequencyBandFDD* pvalue)
+int asn1PD_UMTS_RadioFrequencyBandFDD(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandFDD* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandFDD");
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioFrequencyBandFDD");
    return 0;
 }
 
-int asn1PD_UMTS_SysInfoType5_v4b0ext_IEs(rtxContext* ctx, SysInfoType5_v4b0ext_IEs* pvalue)
+int asn1PD_UMTS_SysInfoType5_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType5-v4b0ext-IEs");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5-v4b0ext-IEs");
    /* pNBSCH-Allocation-r4 */
    if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "pNBSCH-Allocation-r4");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_PNBSCH_Allocation_r4(ctx, &pvalue->pNBSCH_Allocation_r4);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pNBSCH-Allocation-r4", -1, "SysInfoType5-v4b0ext-IEs");
    }
    /* openLoopPowerControl-IPDL-TDD */
    if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "openLoopPowerControl-IPDL-TDD");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_OpenLoopPowerControl_IPDL_TDD_r4(ctx, &pvalue->openLoopPowerControl_IPDL_TDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "openLoopPowerControl-IPDL-TDD", -1, "SysInfoType5-v4b0ext-IEs");
    }
    /* prach-SystemInformationList-LCR-r4 */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "prach-SystemInformationList-LCR-r4");
       pvalue->m |= 0x4u;
       stat = asn1PD_UMTS_PRACH_SystemInformationList_LCR_r4(ctx, &pvalue->prach_SystemInformationList_LCR_r4);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "prach-SystemInformationList-LCR-r4", -1, "SysInfoType5-v4b0ext-IEs");
    }
    /* tdd128SpecificInfo */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "tdd128SpecificInfo");
       pvalue->m |= 0x8u;
       stat = asn1PD_UMTS_SysInfoType5_v4b0ext_IEs_tdd128SpecificInfo(ctx, &pvalue->tdd128SpecificInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "tdd128SpecificInfo", -1, "SysInfoType5-v4b0ext-IEs");
    }
    /* frequencyBandIndicator */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "frequencyBandIndicator");
       pvalue->m |= 0x10u;
-      rtxCtxtPushTypeName(ctx, "RadioFrequencyBandFDD");
       stat = pd_ConsUnsigned(ctx, &pvalue->frequencyBandIndicator, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "RadioFrequencyBandFDD", "frequencyBandIndicator", -1, "SysInfoType5-v4b0ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_USCH_TransportChannelsInfo_element(rtxContext* ctx, USCH_TransportChannelsInfo_element* pvalue)
+int asn1PD_UMTS_USCH_TransportChannelsInfo_element(rtxContext* RT_RESTRICT ctx, USCH_TransportChannelsInfo_element* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* usch-TransportChannelIdentity */
-   rtxCtxtPushElemName(ctx, "usch-TransportChannelIdentity");
-   rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
    stat = pd_ConsUInt8(ctx, &pvalue->usch_TransportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "usch-TransportChannelIdentity", -1, 0);
    /* usch-TFS */
-   rtxCtxtPushElemName(ctx, "usch-TFS");
    stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->usch_TFS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "usch-TFS", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_USCH_TransportChannelsInfo(rtxContext* ctx, USCH_TransportChannelsInfo* pvalue)
+int asn1PD_UMTS_USCH_TransportChannelsInfo(rtxContext* RT_RESTRICT ctx, USCH_TransportChannelsInfo* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "USCH-TransportChannelsInfo");
    RT_SET_SIZE(ctx, 1, 32);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "USCH-TransportChannelsInfo");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       USCH_TransportChannelsInfo_element* elem;
-      rtxCtxtPushArrayElemName(ctx, "element", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(USCH_TransportChannelsInfo_element));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "USCH-TransportChannelsInfo");
       elem = (USCH_TransportChannelsInfo_element*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_USCH_TransportChannelsInfo_element(elem);
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_USCH_TransportChannelsInfo_element(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "USCH-TransportChannelsInfo");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_PUSCH_SysInfo_HCR_r5(rtxContext* ctx, PUSCH_SysInfo_HCR_r5* pvalue)
+int asn1PD_UMTS_PUSCH_SysInfo_HCR_r5(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfo_HCR_r5* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PUSCH-SysInfo-HCR-r5");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-SysInfo-HCR-r5");
    /* pusch-Identity */
-   rtxCtxtPushElemName(ctx, "pusch-Identity");
-   rtxCtxtPushTypeName(ctx, "PUSCH-Identity");
    stat = pd_ConsUInt8(ctx, &pvalue->pusch_Identity, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "PUSCH-Identity", "pusch-Identity", -1, "PUSCH-SysInfo-HCR-r5");
    /* pusch-Info */
-   rtxCtxtPushElemName(ctx, "pusch-Info");
    stat = asn1PD_UMTS_PUSCH_Info(ctx, &pvalue->pusch_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "pusch-Info", -1, "PUSCH-SysInfo-HCR-r5");
    /* usch-TransportChannelsInfo */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "usch-TransportChannelsInfo");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_USCH_TransportChannelsInfo(ctx, &pvalue->usch_TransportChannelsInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "usch-TransportChannelsInfo", -1, "PUSCH-SysInfo-HCR-r5");
    }
    /* usch-TFCS */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "usch-TFCS");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_TFCS(ctx, &pvalue->usch_TFCS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "usch-TFCS", -1, "PUSCH-SysInfo-HCR-r5");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_PUSCH_SysInfoList_SFN_HCR_r5_element(rtxContext* ctx, PUSCH_SysInfoList_SFN_HCR_r5_element* pvalue)
+int asn1PD_UMTS_PUSCH_SysInfoList_SFN_HCR_r5_element(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_SFN_HCR_r5_element* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* pusch-SysInfo */
-   rtxCtxtPushElemName(ctx, "pusch-SysInfo");
    stat = asn1PD_UMTS_PUSCH_SysInfo_HCR_r5(ctx, &pvalue->pusch_SysInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "pusch-SysInfo", -1, 0);
    /* sfn-TimeInfo */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "sfn-TimeInfo");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_PUSCH_SysInfoList_SFN_HCR_r5(rtxContext* ctx, PUSCH_SysInfoList_SFN_HCR_r5* pvalue)
+int asn1PD_UMTS_PUSCH_SysInfoList_SFN_HCR_r5(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_SFN_HCR_r5* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "PUSCH-SysInfoList-SFN-HCR-r5");
    RT_SET_SIZE(ctx, 1, 8);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-SysInfoList-SFN-HCR-r5");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       PUSCH_SysInfoList_SFN_HCR_r5_element* elem;
-      rtxCtxtPushArrayElemName(ctx, "element", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PUSCH_SysInfoList_SFN_HCR_r5_element));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN-HCR-r5");
       elem = (PUSCH_SysInfoList_SFN_HCR_r5_element*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_PUSCH_SysInfoList_SFN_HCR_r5_element(elem);
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_PUSCH_SysInfoList_SFN_HCR_r5_element(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN-HCR-r5");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_DSCH_TransportChannelsInfo_element(rtxContext* ctx, DSCH_TransportChannelsInfo_element* pvalue)
+int asn1PD_UMTS_DSCH_TransportChannelsInfo_element(rtxContext* RT_RESTRICT ctx, DSCH_TransportChannelsInfo_element* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* dsch-transport-channel-identity */
-   rtxCtxtPushElemName(ctx, "dsch-transport-channel-identity");
-   rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
    stat = pd_ConsUInt8(ctx, &pvalue->dsch_transport_channel_identity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "dsch-transport-channel-identity", -1, 0);
    /* dsch-TFS */
-   rtxCtxtPushElemName(ctx, "dsch-TFS");
    stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->dsch_TFS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "dsch-TFS", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_DSCH_TransportChannelsInfo(rtxContext* ctx, DSCH_TransportChannelsInfo* pvalue)
+int asn1PD_UMTS_DSCH_TransportChannelsInfo(rtxContext* RT_RESTRICT ctx, DSCH_TransportChannelsInfo* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "DSCH-TransportChannelsInfo");
    RT_SET_SIZE(ctx, 1, 32);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DSCH-TransportChannelsInfo");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       DSCH_TransportChannelsInfo_element* elem;
-      rtxCtxtPushArrayElemName(ctx, "element", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DSCH_TransportChannelsInfo_element));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "DSCH-TransportChannelsInfo");
       elem = (DSCH_TransportChannelsInfo_element*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_DSCH_TransportChannelsInfo_element(elem);
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_DSCH_TransportChannelsInfo_element(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "DSCH-TransportChannelsInfo");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_PDSCH_SysInfo_HCR_r5(rtxContext* ctx, PDSCH_SysInfo_HCR_r5* pvalue)
+int asn1PD_UMTS_PDSCH_SysInfo_HCR_r5(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfo_HCR_r5* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PDSCH-SysInfo-HCR-r5");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-SysInfo-HCR-r5");
    /* pdsch-Identity */
-   rtxCtxtPushElemName(ctx, "pdsch-Identity");
-   rtxCtxtPushTypeName(ctx, "PDSCH-Identity");
    stat = pd_ConsUInt8(ctx, &pvalue->pdsch_Identity, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "PDSCH-Identity", "pdsch-Identity", -1, "PDSCH-SysInfo-HCR-r5");
    /* pdsch-Info */
-   rtxCtxtPushElemName(ctx, "pdsch-Info");
    stat = asn1PD_UMTS_PDSCH_Info(ctx, &pvalue->pdsch_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "pdsch-Info", -1, "PDSCH-SysInfo-HCR-r5");
    /* dsch-TransportChannelsInfo */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dsch-TransportChannelsInfo");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_DSCH_TransportChannelsInfo(ctx, &pvalue->dsch_TransportChannelsInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dsch-TransportChannelsInfo", -1, "PDSCH-SysInfo-HCR-r5");
    }
    /* dsch-TFCS */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dsch-TFCS");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_TFCS(ctx, &pvalue->dsch_TFCS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dsch-TFCS", -1, "PDSCH-SysInfo-HCR-r5");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_PDSCH_SysInfoList_SFN_HCR_r5_element(rtxContext* ctx, PDSCH_SysInfoList_SFN_HCR_r5_element* pvalue)
+int asn1PD_UMTS_PDSCH_SysInfoList_SFN_HCR_r5_element(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList_SFN_HCR_r5_element* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* pdsch-SysInfo */
-   rtxCtxtPushElemName(ctx, "pdsch-SysInfo");
    stat = asn1PD_UMTS_PDSCH_SysInfo_HCR_r5(ctx, &pvalue->pdsch_SysInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "pdsch-SysInfo", -1, 0);
    /* sfn-TimeInfo */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "sfn-TimeInfo");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_PDSCH_SysInfoList_SFN_HCR_r5(rtxContext* ctx, PDSCH_SysInfoList_SFN_HCR_r5* pvalue)
+int asn1PD_UMTS_PDSCH_SysInfoList_SFN_HCR_r5(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList_SFN_HCR_r5* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "PDSCH-SysInfoList-SFN-HCR-r5");
    RT_SET_SIZE(ctx, 1, 8);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-SysInfoList-SFN-HCR-r5");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       PDSCH_SysInfoList_SFN_HCR_r5_element* elem;
-      rtxCtxtPushArrayElemName(ctx, "element", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PDSCH_SysInfoList_SFN_HCR_r5_element));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "PDSCH-SysInfoList-SFN-HCR-r5");
       elem = (PDSCH_SysInfoList_SFN_HCR_r5_element*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_PDSCH_SysInfoList_SFN_HCR_r5_element(elem);
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_PDSCH_SysInfoList_SFN_HCR_r5_element(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PDSCH-SysInfoList-SFN-HCR-r5");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_SysInfoType5_v590ext_IEs_hcr_r5_SpecificInfo(rtxContext* ctx, SysInfoType5_v590ext_IEs_hcr_r5_SpecificInfo* pvalue)
+int asn1PD_UMTS_SysInfoType5_v590ext_IEs_hcr_r5_SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType5_v590ext_IEs_hcr_r5_SpecificInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* pusch-SysInfoList-SFN */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "pusch-SysInfoList-SFN");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_PUSCH_SysInfoList_SFN_HCR_r5(ctx, &pvalue->pusch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
    }
    /* pdsch-SysInfoList-SFN */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "pdsch-SysInfoList-SFN");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_PDSCH_SysInfoList_SFN_HCR_r5(ctx, &pvalue->pdsch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_SysInfoType5_v590ext_IEs(rtxContext* ctx, SysInfoType5_v590ext_IEs* pvalue)
+int asn1PD_UMTS_SysInfoType5_v590ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v590ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType5-v590ext-IEs");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5-v590ext-IEs");
    /* hcr-r5-SpecificInfo */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "hcr-r5-SpecificInfo");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_SysInfoType5_v590ext_IEs_hcr_r5_SpecificInfo(ctx, &pvalue->hcr_r5_SpecificInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "hcr-r5-SpecificInfo", -1, "SysInfoType5-v590ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_RadioFrequencyBandFDD2(rtxContext* ctx, RadioFrequencyBandFDD2* pvalue)
+int asn1PD_UMTS_RadioFrequencyBandFDD2(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandFDD2* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandFDD2");
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioFrequencyBandFDD2");
    return 0;
 }
 
-int asn1PD_UMTS_SysInfoType5_v650ext_IEs(rtxContext* ctx, SysInfoType5_v650ext_IEs* pvalue)
+int asn1PD_UMTS_SysInfoType5_v650ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v650ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SysInfoType5-v650ext-IEs");
    /* frequencyBandIndicator2 */
-   rtxCtxtPushElemName(ctx, "frequencyBandIndicator2");
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandFDD2");
    stat = pd_ConsUnsigned(ctx, &pvalue->frequencyBandIndicator2, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "RadioFrequencyBandFDD2", "frequencyBandIndicator2", -1, "SysInfoType5-v650ext-IEs");
    return 0;
 }
 
-int asn1PD_UMTS_SysInfoType5_v680ext_IEs_hsdpa_CellIndicator(rtxContext* ctx, SysInfoType5_v680ext_IEs_hsdpa_CellIndicator* pvalue)
+int asn1PD_UMTS_SysInfoType5_v680ext_IEs_hsdpa_CellIndicator(rtxContext* RT_RESTRICT ctx, SysInfoType5_v680ext_IEs_hsdpa_CellIndicator* RT_RESTRICT pvalue)
 {
    int stat;
    {
       uint32_t ui;
       stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
       stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
       *pvalue = ui;
    }
    return 0;
 }
 
-int asn1PD_UMTS_SysInfoType5_v680ext_IEs(rtxContext* ctx, SysInfoType5_v680ext_IEs* pvalue)
+int asn1PD_UMTS_SysInfoType5_v680ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v680ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType5-v680ext-IEs");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5-v680ext-IEs");
    /* hsdpa-CellIndicator */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "hsdpa-CellIndicator");
       pvalue->m |= 0x1u;
       {
          uint32_t ui;
          stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
+         RT_CHECK(ctx, stat, 0, "hsdpa-CellIndicator", -1, "SysInfoType5-v680ext-IEs");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
+         RT_CHECK(ctx, stat, 0, "hsdpa-CellIndicator", -1, "SysInfoType5-v680ext-IEs");
          pvalue->hsdpa_CellIndicator = ui;
       }
-      rtxCtxtPopElemName(ctx);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_SysInfoType5_v690ext_IEs_edch_CellIndicator(rtxContext* ctx, SysInfoType5_v690ext_IEs_edch_CellIndicator* pvalue)
+int asn1PD_UMTS_SysInfoType5_v690ext_IEs_edch_CellIndicator(rtxContext* RT_RESTRICT ctx, SysInfoType5_v690ext_IEs_edch_CellIndicator* RT_RESTRICT pvalue)
 {
    int stat;
    {
       uint32_t ui;
       stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
       stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
       *pvalue = ui;
    }
    return 0;
 }
 
-int asn1PD_UMTS_DL_UM_RLC_LI_size(rtxContext* ctx, DL_UM_RLC_LI_size* pvalue)
+int asn1PD_UMTS_DL_UM_RLC_LI_size(rtxContext* RT_RESTRICT ctx, DL_UM_RLC_LI_size* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "DL-UM-RLC-LI-size");
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-UM-RLC-LI-size");
    return 0;
 }
 
-int asn1PD_UMTS_TimerOSD_r6(rtxContext* ctx, TimerOSD_r6* pvalue)
+int asn1PD_UMTS_TimerOSD_r6(rtxContext* RT_RESTRICT ctx, TimerOSD_r6* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "TimerOSD-r6");
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 13);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimerOSD-r6");
    return 0;
 }
 
-int asn1PD_UMTS_WindowSizeOSD_r6(rtxContext* ctx, WindowSizeOSD_r6* pvalue)
+int asn1PD_UMTS_WindowSizeOSD_r6(rtxContext* RT_RESTRICT ctx, WindowSizeOSD_r6* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "WindowSizeOSD-r6");
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "WindowSizeOSD-r6");
    return 0;
 }
 
-int asn1PD_UMTS_UM_RLC_OutOSeqDelivery_Info_r6(rtxContext* ctx, UM_RLC_OutOSeqDelivery_Info_r6* pvalue)
+int asn1PD_UMTS_UM_RLC_OutOSeqDelivery_Info_r6(rtxContext* RT_RESTRICT ctx, UM_RLC_OutOSeqDelivery_Info_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UM-RLC-OutOSeqDelivery-Info-r6");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UM-RLC-OutOSeqDelivery-Info-r6");
    /* timer-OSD */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "timer-OSD");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "TimerOSD-r6");
       stat = pd_ConsUnsigned(ctx, &pvalue->timer_OSD, 0, 13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "TimerOSD-r6", "timer-OSD", -1, "UM-RLC-OutOSeqDelivery-Info-r6");
    }
    /* windowSize-OSD */
-   rtxCtxtPushElemName(ctx, "windowSize-OSD");
-   rtxCtxtPushTypeName(ctx, "WindowSizeOSD-r6");
    stat = pd_ConsUnsigned(ctx, &pvalue->windowSize_OSD, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "WindowSizeOSD-r6", "windowSize-OSD", -1, "UM-RLC-OutOSeqDelivery-Info-r6");
    return 0;
 }
 
-int asn1PD_UMTS_RLC_Info_MCCH_r6(rtxContext* ctx, RLC_Info_MCCH_r6* pvalue)
+int asn1PD_UMTS_RLC_Info_MCCH_r6(rtxContext* RT_RESTRICT ctx, RLC_Info_MCCH_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RLC-Info-MCCH-r6");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-Info-MCCH-r6");
    /* dl-UM-RLC-LI-size */
-   rtxCtxtPushElemName(ctx, "dl-UM-RLC-LI-size");
-   rtxCtxtPushTypeName(ctx, "DL-UM-RLC-LI-size");
    stat = pd_ConsUnsigned(ctx, &pvalue->dl_UM_RLC_LI_size, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "RLC-Info-MCCH-r6");
    /* dl-UM-RLC-OutOSeqDelivery-Info */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-UM-RLC-OutOSeqDelivery-Info");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_UM_RLC_OutOSeqDelivery_Info_r6(ctx, &pvalue->dl_UM_RLC_OutOSeqDelivery_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dl-UM-RLC-OutOSeqDelivery-Info", -1, "RLC-Info-MCCH-r6");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_MBMS_TCTF_Presence(rtxContext* ctx, MBMS_TCTF_Presence* pvalue)
+int asn1PD_UMTS_MBMS_TCTF_Presence(rtxContext* RT_RESTRICT ctx, MBMS_TCTF_Presence* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "MBMS-TCTF-Presence");
    {
       uint32_t ui;
       stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-TCTF-Presence");
       stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-TCTF-Presence");
       *pvalue = ui;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_MBMS_MCCH_ConfigurationInfo_r6(rtxContext* ctx, MBMS_MCCH_ConfigurationInfo_r6* pvalue)
+int asn1PD_UMTS_MBMS_MCCH_ConfigurationInfo_r6(rtxContext* RT_RESTRICT ctx, MBMS_MCCH_ConfigurationInfo_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MBMS-MCCH-ConfigurationInfo-r6");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-MCCH-ConfigurationInfo-r6");
    /* accessInfoPeriodCoefficient */
-   rtxCtxtPushElemName(ctx, "accessInfoPeriodCoefficient");
    stat = pd_ConsUInt8(ctx, &pvalue->accessInfoPeriodCoefficient, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "accessInfoPeriodCoefficient", -1, "MBMS-MCCH-ConfigurationInfo-r6");
    /* repetitionPeriodCoefficient */
-   rtxCtxtPushElemName(ctx, "repetitionPeriodCoefficient");
    stat = pd_ConsUInt8(ctx, &pvalue->repetitionPeriodCoefficient, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "repetitionPeriodCoefficient", -1, "MBMS-MCCH-ConfigurationInfo-r6");
    /* modificationPeriodCoefficient */
-   rtxCtxtPushElemName(ctx, "modificationPeriodCoefficient");
    stat = pd_ConsUInt8(ctx, &pvalue->modificationPeriodCoefficient, 7, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "modificationPeriodCoefficient", -1, "MBMS-MCCH-ConfigurationInfo-r6");
    /* rlc-Info */
-   rtxCtxtPushElemName(ctx, "rlc-Info");
    stat = asn1PD_UMTS_RLC_Info_MCCH_r6(ctx, &pvalue->rlc_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "MBMS-MCCH-ConfigurationInfo-r6");
    /* tctf-Presence */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "tctf-Presence");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "MBMS-TCTF-Presence");
       {
          uint32_t ui;
          stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
+         RT_CHECK(ctx, stat, "MBMS-TCTF-Presence", "tctf-Presence", -1, "MBMS-MCCH-ConfigurationInfo-r6");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
+         RT_CHECK(ctx, stat, "MBMS-TCTF-Presence", "tctf-Presence", -1, "MBMS-MCCH-ConfigurationInfo-r6");
          pvalue->tctf_Presence = ui;
       }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd(rtxContext* ctx, SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd* pvalue)
+int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* secondaryScramblingCode */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "secondaryScramblingCode");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "SecondaryScramblingCode");
       stat = pd_ConsUInt8(ctx, &pvalue->secondaryScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, 0);
    }
    /* sttd-Indicator */
-   rtxCtxtPushElemName(ctx, "sttd-Indicator");
    stat = rtxDecBitInline(ctx, &pvalue->sttd_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sttd-Indicator", -1, 0);
    /* sf-AndCodeNumber */
-   rtxCtxtPushElemName(ctx, "sf-AndCodeNumber");
    stat = asn1PD_UMTS_SF256_AndCodeNumber(ctx, &pvalue->sf_AndCodeNumber);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sf-AndCodeNumber", -1, 0);
    /* timingOffset */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "timingOffset");
-      rtxCtxtPushTypeName(ctx, "TimingOffset");
       stat = pd_ConsUInt8(ctx, &pvalue->timingOffset, 0, 149);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "TimingOffset", "timingOffset", -1, 0);
    }
    else {
       pvalue->timingOffset = 0;
@@ -5423,3608 +2037,6978 @@ int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd(rtxContext* ctx,
    return 0;
 }
 
-int asn1PD_UMTS_CommonTimeslotInfoMBMS(rtxContext* ctx, CommonTimeslotInfoMBMS* pvalue)
+int asn1PD_UMTS_CommonTimeslotInfoMBMS(rtxContext* RT_RESTRICT ctx, CommonTimeslotInfoMBMS* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CommonTimeslotInfoMBMS");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CommonTimeslotInfoMBMS");
    /* secondInterleavingMode */
-   rtxCtxtPushElemName(ctx, "secondInterleavingMode");
-   rtxCtxtPushTypeName(ctx, "SecondInterleavingMode");
    stat = pd_ConsUnsigned(ctx, &pvalue->secondInterleavingMode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "SecondInterleavingMode", "secondInterleavingMode", -1, "CommonTimeslotInfoMBMS");
    /* tfci-Coding */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "tfci-Coding");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "TFCI-Coding");
       stat = pd_ConsUnsigned(ctx, &pvalue->tfci_Coding, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "TFCI-Coding", "tfci-Coding", -1, "CommonTimeslotInfoMBMS");
    }
    /* puncturingLimit */
-   rtxCtxtPushElemName(ctx, "puncturingLimit");
-   rtxCtxtPushTypeName(ctx, "PuncturingLimit");
    stat = pd_ConsUnsigned(ctx, &pvalue->puncturingLimit, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "PuncturingLimit", "puncturingLimit", -1, "CommonTimeslotInfoMBMS");
    return 0;
 }
 
-int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd384(rtxContext* ctx, SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd384* pvalue)
+int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd384* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* commonTimeslotInfoMBMS */
-   rtxCtxtPushElemName(ctx, "commonTimeslotInfoMBMS");
    stat = asn1PD_UMTS_CommonTimeslotInfoMBMS(ctx, &pvalue->commonTimeslotInfoMBMS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "commonTimeslotInfoMBMS", -1, 0);
    /* downlinkTimeslotsCodes */
-   rtxCtxtPushElemName(ctx, "downlinkTimeslotsCodes");
    stat = asn1PD_UMTS_DownlinkTimeslotsCodes(ctx, &pvalue->downlinkTimeslotsCodes);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "downlinkTimeslotsCodes", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd128(rtxContext* ctx, SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd128* pvalue)
+int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* commonTimeslotInfoMBMS */
-   rtxCtxtPushElemName(ctx, "commonTimeslotInfoMBMS");
    stat = asn1PD_UMTS_CommonTimeslotInfoMBMS(ctx, &pvalue->commonTimeslotInfoMBMS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "commonTimeslotInfoMBMS", -1, 0);
    /* downlinkTimeslotsCodes */
-   rtxCtxtPushElemName(ctx, "downlinkTimeslotsCodes");
    stat = asn1PD_UMTS_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->downlinkTimeslotsCodes);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "downlinkTimeslotsCodes", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo(rtxContext* ctx, SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo* pvalue)
+int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
+      case 0: /* fdd */
          pvalue->u.fdd = (SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
          asn1Init_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd(pvalue->u.fdd);
          stat = asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
+      case 1: /* tdd384 */
          pvalue->u.tdd384 = (SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd384*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
          asn1Init_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd384(pvalue->u.tdd384);
          stat = asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
          break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
+      case 2: /* tdd128 */
          pvalue->u.tdd128 = (SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd128*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
          asn1Init_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd128(pvalue->u.tdd128);
          stat = asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r6(rtxContext* ctx, SecondaryCCPCHInfo_MBMS_r6* pvalue)
+int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r6(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SecondaryCCPCHInfo-MBMS-r6");
    /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
    stat = asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SecondaryCCPCHInfo-MBMS-r6");
    return 0;
 }
 
-int asn1PD_UMTS_SCCPCH_SystemInformation_MBMS_r6_fachCarryingMCCH(rtxContext* ctx, SCCPCH_SystemInformation_MBMS_r6_fachCarryingMCCH* pvalue)
+int asn1PD_UMTS_SCCPCH_SystemInformation_MBMS_r6_fachCarryingMCCH(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation_MBMS_r6_fachCarryingMCCH* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* mcch-transportFormatSet */
-   rtxCtxtPushElemName(ctx, "mcch-transportFormatSet");
    stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->mcch_transportFormatSet);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "mcch-transportFormatSet", -1, 0);
    /* mcch-ConfigurationInfo */
-   rtxCtxtPushElemName(ctx, "mcch-ConfigurationInfo");
    stat = asn1PD_UMTS_MBMS_MCCH_ConfigurationInfo_r6(ctx, &pvalue->mcch_ConfigurationInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "mcch-ConfigurationInfo", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_MBMS_FACHCarryingMTCH_List(rtxContext* ctx, MBMS_FACHCarryingMTCH_List* pvalue)
+int asn1PD_UMTS_MBMS_FACHCarryingMTCH_List(rtxContext* RT_RESTRICT ctx, MBMS_FACHCarryingMTCH_List* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MBMS-FACHCarryingMTCH-List");
    RT_SET_SIZE(ctx, 1, 8);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-FACHCarryingMTCH-List");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       TransportFormatSet* elem;
-      rtxCtxtPushArrayElemName(ctx, "TransportFormatSet", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TransportFormatSet));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "TransportFormatSet", (int32_t)i, "MBMS-FACHCarryingMTCH-List");
       elem = (TransportFormatSet*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_TransportFormatSet(elem);
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_TransportFormatSet(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "TransportFormatSet", (int32_t)i, "MBMS-FACHCarryingMTCH-List");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_MBMS_MSCHSchedulingInfo(rtxContext* ctx, MBMS_MSCHSchedulingInfo* pvalue)
+int asn1PD_UMTS_MBMS_MSCHSchedulingInfo(rtxContext* RT_RESTRICT ctx, MBMS_MSCHSchedulingInfo* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "MBMS-MSCHSchedulingInfo");
    stat = pd_ConsUnsigned(ctx, &ui, 0, 5);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-MSCHSchedulingInfo");
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "schedulingPeriod-32-Offset");
+      case 0: /* schedulingPeriod-32-Offset */
          stat = pd_ConsUInt8(ctx, &pvalue->u.schedulingPeriod_32_Offset, 0, 31);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "schedulingPeriod-32-Offset", -1, "MBMS-MSCHSchedulingInfo");
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "schedulingPeriod-64-Offset");
+      case 1: /* schedulingPeriod-64-Offset */
          stat = pd_ConsUInt8(ctx, &pvalue->u.schedulingPeriod_64_Offset, 0, 63);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "schedulingPeriod-64-Offset", -1, "MBMS-MSCHSchedulingInfo");
          break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "schedulingPeriod-128-Offset");
+      case 2: /* schedulingPeriod-128-Offset */
          stat = pd_ConsUInt8(ctx, &pvalue->u.schedulingPeriod_128_Offset, 0, 127);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "schedulingPeriod-128-Offset", -1, "MBMS-MSCHSchedulingInfo");
          break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "schedulingPeriod-256-Offset");
+      case 3: /* schedulingPeriod-256-Offset */
          stat = pd_ConsUInt8(ctx, &pvalue->u.schedulingPeriod_256_Offset, 0, 255);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "schedulingPeriod-256-Offset", -1, "MBMS-MSCHSchedulingInfo");
          break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "schedulingPeriod-512-Offset");
+      case 4: /* schedulingPeriod-512-Offset */
          stat = pd_ConsUInt16(ctx, &pvalue->u.schedulingPeriod_512_Offset, 0, 511);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "schedulingPeriod-512-Offset", -1, "MBMS-MSCHSchedulingInfo");
          break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "schedulingPeriod-1024-Offset");
+      case 5: /* schedulingPeriod-1024-Offset */
          stat = pd_ConsUInt16(ctx, &pvalue->u.schedulingPeriod_1024_Offset, 0, 1023);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "schedulingPeriod-1024-Offset", -1, "MBMS-MSCHSchedulingInfo");
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MBMS-MSCHSchedulingInfo");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_RLC_Info_MSCH_r6(rtxContext* ctx, RLC_Info_MSCH_r6* pvalue)
+int asn1PD_UMTS_RLC_Info_MSCH_r6(rtxContext* RT_RESTRICT ctx, RLC_Info_MSCH_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RLC-Info-MSCH-r6");
    /* dl-UM-RLC-LI-size */
-   rtxCtxtPushElemName(ctx, "dl-UM-RLC-LI-size");
-   rtxCtxtPushTypeName(ctx, "DL-UM-RLC-LI-size");
    stat = pd_ConsUnsigned(ctx, &pvalue->dl_UM_RLC_LI_size, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "RLC-Info-MSCH-r6");
    return 0;
 }
 
-int asn1PD_UMTS_MBMS_MSCH_ConfigurationInfo_r6(rtxContext* ctx, MBMS_MSCH_ConfigurationInfo_r6* pvalue)
+int asn1PD_UMTS_MBMS_MSCH_ConfigurationInfo_r6(rtxContext* RT_RESTRICT ctx, MBMS_MSCH_ConfigurationInfo_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MBMS-MSCH-ConfigurationInfo-r6");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-MSCH-ConfigurationInfo-r6");
    /* mschShedulingInfo */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "mschShedulingInfo");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_MBMS_MSCHSchedulingInfo(ctx, &pvalue->mschShedulingInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "mschShedulingInfo", -1, "MBMS-MSCH-ConfigurationInfo-r6");
    }
    /* rlc-Info */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "rlc-Info");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_RLC_Info_MSCH_r6(ctx, &pvalue->rlc_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "MBMS-MSCH-ConfigurationInfo-r6");
    }
    /* tctf-Presence */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "tctf-Presence");
       pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "MBMS-TCTF-Presence");
       {
          uint32_t ui;
          stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
+         RT_CHECK(ctx, stat, "MBMS-TCTF-Presence", "tctf-Presence", -1, "MBMS-MSCH-ConfigurationInfo-r6");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
+         RT_CHECK(ctx, stat, "MBMS-TCTF-Presence", "tctf-Presence", -1, "MBMS-MSCH-ConfigurationInfo-r6");
          pvalue->tctf_Presence = ui;
       }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_SCCPCH_SystemInformation_MBMS_r6_fachCarryingMSCH(rtxContext* ctx, SCCPCH_SystemInformation_MBMS_r6_fachCarryingMSCH* pvalue)
+int asn1PD_UMTS_SCCPCH_SystemInformation_MBMS_r6_fachCarryingMSCH(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation_MBMS_r6_fachCarryingMSCH* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* msch-transportFormatSet */
-   rtxCtxtPushElemName(ctx, "msch-transportFormatSet");
    stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->msch_transportFormatSet);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "msch-transportFormatSet", -1, 0);
    /* dummy */
-   rtxCtxtPushElemName(ctx, "dummy");
    stat = asn1PD_UMTS_MBMS_MSCH_ConfigurationInfo_r6(ctx, &pvalue->dummy);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_SCCPCH_SystemInformation_MBMS_r6(rtxContext* ctx, SCCPCH_SystemInformation_MBMS_r6* pvalue)
+int asn1PD_UMTS_SCCPCH_SystemInformation_MBMS_r6(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation_MBMS_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SCCPCH-SystemInformation-MBMS-r6");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SCCPCH-SystemInformation-MBMS-r6");
    /* secondaryCCPCHInfo-MBMS */
-   rtxCtxtPushElemName(ctx, "secondaryCCPCHInfo-MBMS");
    stat = asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r6(ctx, &pvalue->secondaryCCPCHInfo_MBMS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "secondaryCCPCHInfo-MBMS", -1, "SCCPCH-SystemInformation-MBMS-r6");
    /* transportFormatCombinationSet */
-   rtxCtxtPushElemName(ctx, "transportFormatCombinationSet");
    stat = asn1PD_UMTS_TFCS(ctx, &pvalue->transportFormatCombinationSet);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "transportFormatCombinationSet", -1, "SCCPCH-SystemInformation-MBMS-r6");
    /* fachCarryingMCCH */
-   rtxCtxtPushElemName(ctx, "fachCarryingMCCH");
    stat = asn1PD_UMTS_SCCPCH_SystemInformation_MBMS_r6_fachCarryingMCCH(ctx, &pvalue->fachCarryingMCCH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "fachCarryingMCCH", -1, "SCCPCH-SystemInformation-MBMS-r6");
    /* fachCarryingMTCH-List */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "fachCarryingMTCH-List");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_MBMS_FACHCarryingMTCH_List(ctx, &pvalue->fachCarryingMTCH_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "fachCarryingMTCH-List", -1, "SCCPCH-SystemInformation-MBMS-r6");
    }
    /* fachCarryingMSCH */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "fachCarryingMSCH");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_SCCPCH_SystemInformation_MBMS_r6_fachCarryingMSCH(ctx, &pvalue->fachCarryingMSCH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "fachCarryingMSCH", -1, "SCCPCH-SystemInformation-MBMS-r6");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_SysInfoType5_v690ext_IEs_sccpch_SystemInformation_MBMS(rtxContext* ctx, SysInfoType5_v690ext_IEs_sccpch_SystemInformation_MBMS* pvalue)
+int asn1PD_UMTS_SysInfoType5_v690ext_IEs_sccpch_SystemInformation_MBMS(rtxContext* RT_RESTRICT ctx, SysInfoType5_v690ext_IEs_sccpch_SystemInformation_MBMS* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "mcchOnSCCPCHusedForNonMBMS");
+      case 0: /* mcchOnSCCPCHusedForNonMBMS */
          pvalue->u.mcchOnSCCPCHusedForNonMBMS = (MBMS_MCCH_ConfigurationInfo_r6*)rtxMemHeapAlloc(ctx, sizeof(MBMS_MCCH_ConfigurationInfo_r6));
-         if (pvalue->u.mcchOnSCCPCHusedForNonMBMS == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.mcchOnSCCPCHusedForNonMBMS == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "mcchOnSCCPCHusedForNonMBMS", -1, 0);
          asn1Init_UMTS_MBMS_MCCH_ConfigurationInfo_r6(pvalue->u.mcchOnSCCPCHusedForNonMBMS);
          stat = asn1PD_UMTS_MBMS_MCCH_ConfigurationInfo_r6(ctx, pvalue->u.mcchOnSCCPCHusedForNonMBMS);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "mcchOnSCCPCHusedForNonMBMS", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "mcchOnSCCPCHusedOnlyForMBMS");
+      case 1: /* mcchOnSCCPCHusedOnlyForMBMS */
          pvalue->u.mcchOnSCCPCHusedOnlyForMBMS = (SCCPCH_SystemInformation_MBMS_r6*)rtxMemHeapAlloc(ctx, sizeof(SCCPCH_SystemInformation_MBMS_r6));
-         if (pvalue->u.mcchOnSCCPCHusedOnlyForMBMS == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.mcchOnSCCPCHusedOnlyForMBMS == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "mcchOnSCCPCHusedOnlyForMBMS", -1, 0);
          asn1Init_UMTS_SCCPCH_SystemInformation_MBMS_r6(pvalue->u.mcchOnSCCPCHusedOnlyForMBMS);
          stat = asn1PD_UMTS_SCCPCH_SystemInformation_MBMS_r6(ctx, pvalue->u.mcchOnSCCPCHusedOnlyForMBMS);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "mcchOnSCCPCHusedOnlyForMBMS", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_DynamicTFInformationCCCH(rtxContext* ctx, DynamicTFInformationCCCH* pvalue)
+int asn1PD_UMTS_DynamicTFInformationCCCH(rtxContext* RT_RESTRICT ctx, DynamicTFInformationCCCH* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DynamicTFInformationCCCH");
    /* octetModeRLC-SizeInfoType2 */
-   rtxCtxtPushElemName(ctx, "octetModeRLC-SizeInfoType2");
    stat = asn1PD_UMTS_OctetModeRLC_SizeInfoType2(ctx, &pvalue->octetModeRLC_SizeInfoType2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "octetModeRLC-SizeInfoType2", -1, "DynamicTFInformationCCCH");
    return 0;
 }
 
-int asn1PD_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH_IEs(rtxContext* ctx, AdditionalPRACH_TF_and_TFCS_CCCH_IEs* pvalue)
+int asn1PD_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH_IEs(rtxContext* RT_RESTRICT ctx, AdditionalPRACH_TF_and_TFCS_CCCH_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "AdditionalPRACH-TF-and-TFCS-CCCH-IEs");
    /* powerOffsetInformation */
-   rtxCtxtPushElemName(ctx, "powerOffsetInformation");
    stat = asn1PD_UMTS_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, "AdditionalPRACH-TF-and-TFCS-CCCH-IEs");
    /* dynamicTFInformationCCCH */
-   rtxCtxtPushElemName(ctx, "dynamicTFInformationCCCH");
    stat = asn1PD_UMTS_DynamicTFInformationCCCH(ctx, &pvalue->dynamicTFInformationCCCH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "dynamicTFInformationCCCH", -1, "AdditionalPRACH-TF-and-TFCS-CCCH-IEs");
    return 0;
 }
 
-int asn1PD_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH(rtxContext* ctx, AdditionalPRACH_TF_and_TFCS_CCCH* pvalue)
+int asn1PD_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH(rtxContext* RT_RESTRICT ctx, AdditionalPRACH_TF_and_TFCS_CCCH* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "AdditionalPRACH-TF-and-TFCS-CCCH");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AdditionalPRACH-TF-and-TFCS-CCCH");
    /* additionalPRACH-TF-and-TFCS-CCCH-IEs */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "additionalPRACH-TF-and-TFCS-CCCH-IEs");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH_IEs(ctx, &pvalue->additionalPRACH_TF_and_TFCS_CCCH_IEs);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "additionalPRACH-TF-and-TFCS-CCCH-IEs", -1, "AdditionalPRACH-TF-and-TFCS-CCCH");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH_List(rtxContext* ctx, AdditionalPRACH_TF_and_TFCS_CCCH_List* pvalue)
+int asn1PD_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH_List(rtxContext* RT_RESTRICT ctx, AdditionalPRACH_TF_and_TFCS_CCCH_List* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "AdditionalPRACH-TF-and-TFCS-CCCH-List");
    RT_SET_SIZE(ctx, 1, 16);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AdditionalPRACH-TF-and-TFCS-CCCH-List");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       AdditionalPRACH_TF_and_TFCS_CCCH* elem;
-      rtxCtxtPushArrayElemName(ctx, "AdditionalPRACH-TF-and-TFCS-CCCH", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(AdditionalPRACH_TF_and_TFCS_CCCH));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "AdditionalPRACH-TF-and-TFCS-CCCH", (int32_t)i, "AdditionalPRACH-TF-and-TFCS-CCCH-List");
       elem = (AdditionalPRACH_TF_and_TFCS_CCCH*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH(elem);
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "AdditionalPRACH-TF-and-TFCS-CCCH", (int32_t)i, "AdditionalPRACH-TF-and-TFCS-CCCH-List");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_CBS_DRX_Level1Information_extension_r6(rtxContext* ctx, CBS_DRX_Level1Information_extension_r6* pvalue)
+int asn1PD_UMTS_CBS_DRX_Level1Information_extension_r6(rtxContext* RT_RESTRICT ctx, CBS_DRX_Level1Information_extension_r6* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "CBS-DRX-Level1Information-extension-r6");
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CBS-DRX-Level1Information-extension-r6");
    return 0;
 }
 
-int asn1PD_UMTS_SysInfoType5_v690ext_IEs(rtxContext* ctx, SysInfoType5_v690ext_IEs* pvalue)
+int asn1PD_UMTS_SysInfoType5_v690ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v690ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType5-v690ext-IEs");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5-v690ext-IEs");
    /* edch-CellIndicator */
    if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "edch-CellIndicator");
       pvalue->m |= 0x1u;
       {
          uint32_t ui;
          stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
+         RT_CHECK(ctx, stat, 0, "edch-CellIndicator", -1, "SysInfoType5-v690ext-IEs");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
+         RT_CHECK(ctx, stat, 0, "edch-CellIndicator", -1, "SysInfoType5-v690ext-IEs");
          pvalue->edch_CellIndicator = ui;
       }
-      rtxCtxtPopElemName(ctx);
    }
    /* sccpch-SystemInformation-MBMS */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "sccpch-SystemInformation-MBMS");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_SysInfoType5_v690ext_IEs_sccpch_SystemInformation_MBMS(ctx, &pvalue->sccpch_SystemInformation_MBMS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "sccpch-SystemInformation-MBMS", -1, "SysInfoType5-v690ext-IEs");
    }
    /* additionalPRACH-TF-and-TFCS-CCCH-List */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "additionalPRACH-TF-and-TFCS-CCCH-List");
       pvalue->m |= 0x4u;
       stat = asn1PD_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH_List(ctx, &pvalue->additionalPRACH_TF_and_TFCS_CCCH_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "additionalPRACH-TF-and-TFCS-CCCH-List", -1, "SysInfoType5-v690ext-IEs");
    }
    /* cBS-DRX-Level1Information-extension */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cBS-DRX-Level1Information-extension");
       pvalue->m |= 0x8u;
-      rtxCtxtPushTypeName(ctx, "CBS-DRX-Level1Information-extension-r6");
       stat = pd_ConsUnsigned(ctx, &pvalue->cBS_DRX_Level1Information_extension, 0, 5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "CBS-DRX-Level1Information-extension-r6", "cBS-DRX-Level1Information-extension", -1, "SysInfoType5-v690ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_LogicalChannelIdentity(rtxContext* ctx, LogicalChannelIdentity* pvalue)
+int asn1PD_UMTS_LogicalChannelIdentity(rtxContext* RT_RESTRICT ctx, LogicalChannelIdentity* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "LogicalChannelIdentity");
    stat = pd_ConsUInt8(ctx, pvalue, 1, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "LogicalChannelIdentity");
    return 0;
 }
 
-int asn1PD_UMTS_MAC_ehs_QueueId(rtxContext* ctx, MAC_ehs_QueueId* pvalue)
+int asn1PD_UMTS_MAC_ehs_QueueId(rtxContext* RT_RESTRICT ctx, MAC_ehs_QueueId* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "MAC-ehs-QueueId");
    stat = pd_ConsUInt8(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-ehs-QueueId");
    return 0;
 }
 
-int asn1PD_UMTS_CommonRBMappingInfo(rtxContext* ctx, CommonRBMappingInfo* pvalue)
+int asn1PD_UMTS_CommonRBMappingInfo(rtxContext* RT_RESTRICT ctx, CommonRBMappingInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CommonRBMappingInfo");
    /* logicalChannelIdentity */
-   rtxCtxtPushElemName(ctx, "logicalChannelIdentity");
-   rtxCtxtPushTypeName(ctx, "LogicalChannelIdentity");
    stat = pd_ConsUInt8(ctx, &pvalue->logicalChannelIdentity, 1, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "CommonRBMappingInfo");
    /* mac-ehs-QueueId */
-   rtxCtxtPushElemName(ctx, "mac-ehs-QueueId");
-   rtxCtxtPushTypeName(ctx, "MAC-ehs-QueueId");
    stat = pd_ConsUInt8(ctx, &pvalue->mac_ehs_QueueId, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "CommonRBMappingInfo");
    return 0;
 }
 
-int asn1PD_UMTS_T1_ReleaseTimer(rtxContext* ctx, T1_ReleaseTimer* pvalue)
+int asn1PD_UMTS_T1_ReleaseTimer(rtxContext* RT_RESTRICT ctx, T1_ReleaseTimer* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "T1-ReleaseTimer");
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "T1-ReleaseTimer");
    return 0;
 }
 
-int asn1PD_UMTS_Treset_ResetTimer(rtxContext* ctx, Treset_ResetTimer* pvalue)
+int asn1PD_UMTS_Treset_ResetTimer(rtxContext* RT_RESTRICT ctx, Treset_ResetTimer* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "Treset-ResetTimer");
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Treset-ResetTimer");
    return 0;
 }
 
-int asn1PD_UMTS_MAC_hs_WindowSize(rtxContext* ctx, MAC_hs_WindowSize* pvalue)
+int asn1PD_UMTS_MAC_hs_WindowSize(rtxContext* RT_RESTRICT ctx, MAC_hs_WindowSize* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "MAC-hs-WindowSize");
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-hs-WindowSize");
    return 0;
 }
 
-int asn1PD_UMTS_Common_MAC_ehs_ReorderingQueue(rtxContext* ctx, Common_MAC_ehs_ReorderingQueue* pvalue)
+int asn1PD_UMTS_Common_MAC_ehs_ReorderingQueue(rtxContext* RT_RESTRICT ctx, Common_MAC_ehs_ReorderingQueue* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "Common-MAC-ehs-ReorderingQueue");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Common-MAC-ehs-ReorderingQueue");
    /* mac-ehs-QueueId */
-   rtxCtxtPushElemName(ctx, "mac-ehs-QueueId");
-   rtxCtxtPushTypeName(ctx, "MAC-ehs-QueueId");
    stat = pd_ConsUInt8(ctx, &pvalue->mac_ehs_QueueId, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "Common-MAC-ehs-ReorderingQueue");
    /* t1-ReleaseTimer */
-   rtxCtxtPushElemName(ctx, "t1-ReleaseTimer");
-   rtxCtxtPushTypeName(ctx, "T1-ReleaseTimer");
    stat = pd_ConsUnsigned(ctx, &pvalue->t1_ReleaseTimer, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "T1-ReleaseTimer", "t1-ReleaseTimer", -1, "Common-MAC-ehs-ReorderingQueue");
    /* reorderingResetTimer */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "reorderingResetTimer");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "Treset-ResetTimer");
       stat = pd_ConsUnsigned(ctx, &pvalue->reorderingResetTimer, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "Treset-ResetTimer", "reorderingResetTimer", -1, "Common-MAC-ehs-ReorderingQueue");
    }
    /* mac-ehsWindowSize */
-   rtxCtxtPushElemName(ctx, "mac-ehsWindowSize");
-   rtxCtxtPushTypeName(ctx, "MAC-hs-WindowSize");
    stat = pd_ConsUnsigned(ctx, &pvalue->mac_ehsWindowSize, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "MAC-hs-WindowSize", "mac-ehsWindowSize", -1, "Common-MAC-ehs-ReorderingQueue");
    return 0;
 }
 
-int asn1PD_UMTS_Common_MAC_ehs_ReorderingQueueList(rtxContext* ctx, Common_MAC_ehs_ReorderingQueueList* pvalue)
+int asn1PD_UMTS_Common_MAC_ehs_ReorderingQueueList(rtxContext* RT_RESTRICT ctx, Common_MAC_ehs_ReorderingQueueList* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "Common-MAC-ehs-ReorderingQueueList");
    RT_SET_SIZE(ctx, 1, 2);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Common-MAC-ehs-ReorderingQueueList");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       Common_MAC_ehs_ReorderingQueue* elem;
-      rtxCtxtPushArrayElemName(ctx, "Common-MAC-ehs-ReorderingQueue", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Common_MAC_ehs_ReorderingQueue));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "Common-MAC-ehs-ReorderingQueue", (int32_t)i, "Common-MAC-ehs-ReorderingQueueList");
       elem = (Common_MAC_ehs_ReorderingQueue*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_Common_MAC_ehs_ReorderingQueue(elem);
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_Common_MAC_ehs_ReorderingQueue(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "Common-MAC-ehs-ReorderingQueue", (int32_t)i, "Common-MAC-ehs-ReorderingQueueList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_HS_SCCH_Codes(rtxContext* ctx, HS_SCCH_Codes* pvalue)
+int asn1PD_UMTS_HS_SCCH_Codes(rtxContext* RT_RESTRICT ctx, HS_SCCH_Codes* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "HS-SCCH-Codes");
    stat = pd_ConsUInt8(ctx, pvalue, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HS-SCCH-Codes");
    return 0;
 }
 
-int asn1PD_UMTS_HS_SCCH_SystemInfo_hS_SCCHChannelisationCodeInfo(rtxContext* ctx, HS_SCCH_SystemInfo_hS_SCCHChannelisationCodeInfo* pvalue)
+int asn1PD_UMTS_HS_SCCH_SystemInfo_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_SystemInfo_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t i;
    {
       uint32_t raw;
       stat = rtxDecBits(ctx, &raw, 2);
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
       pvalue->n = raw + 1;
       if (raw > 3) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "hS-SCCHChannelisationCodeInfo");
          rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
       }
    }
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "HS-SCCH-Codes", i);
       pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "HS-SCCH-Codes");
       stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 127);
       if (stat != 0) {
          pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
+         RT_FAIL(ctx, stat, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
       }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
    }
    return 0;
 }
 
-int asn1PD_UMTS_HS_SCCH_SystemInfo(rtxContext* ctx, HS_SCCH_SystemInfo* pvalue)
+int asn1PD_UMTS_HS_SCCH_SystemInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_SystemInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "HS-SCCH-SystemInfo");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HS-SCCH-SystemInfo");
    /* dl-ScramblingCode */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-ScramblingCode");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "SecondaryScramblingCode");
       stat = pd_ConsUInt8(ctx, &pvalue->dl_ScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, "HS-SCCH-SystemInfo");
    }
    /* hS-SCCHChannelisationCodeInfo */
-   rtxCtxtPushElemName(ctx, "hS-SCCHChannelisationCodeInfo");
    stat = asn1PD_UMTS_HS_SCCH_SystemInfo_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "hS-SCCHChannelisationCodeInfo", -1, "HS-SCCH-SystemInfo");
    return 0;
 }
 
-int asn1PD_UMTS_HARQMemorySize(rtxContext* ctx, HARQMemorySize* pvalue)
+int asn1PD_UMTS_HARQMemorySize(rtxContext* RT_RESTRICT ctx, HARQMemorySize* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "HARQMemorySize");
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 60);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HARQMemorySize");
    return 0;
 }
 
-int asn1PD_UMTS_HARQ_Info_memoryPartitioning_explicit_(rtxContext* ctx, HARQ_Info_memoryPartitioning_explicit_* pvalue)
+int asn1PD_UMTS_HARQ_Info_memoryPartitioning_explicit_(rtxContext* RT_RESTRICT ctx, HARQ_Info_memoryPartitioning_explicit_* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t i;
    {
       uint32_t raw;
       stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
       pvalue->n = raw + 1;
       if (raw > 7) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "explicit");
          rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
       }
    }
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "HARQMemorySize", i);
       pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "HARQMemorySize");
       stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 60);
       if (stat != 0) {
          pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
+         RT_FAIL(ctx, stat, "HARQMemorySize", "HARQMemorySize", (int32_t)i, 0);
       }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
    }
    return 0;
 }
 
-int asn1PD_UMTS_HARQ_Info_memoryPartitioning(rtxContext* ctx, HARQ_Info_memoryPartitioning* pvalue)
+int asn1PD_UMTS_HARQ_Info_memoryPartitioning(rtxContext* RT_RESTRICT ctx, HARQ_Info_memoryPartitioning* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "implicit");
-         rtxCtxtPopElemName(ctx);
+      case 0: /* implicit */
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "explicit");
+      case 1: /* explicit */
          pvalue->u.explicit_ = (HARQ_Info_memoryPartitioning_explicit_*)rtxMemHeapAlloc(ctx, sizeof(HARQ_Info_memoryPartitioning_explicit_));
-         if (pvalue->u.explicit_ == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.explicit_ == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "explicit", -1, 0);
          asn1Init_UMTS_HARQ_Info_memoryPartitioning_explicit_(pvalue->u.explicit_);
          stat = asn1PD_UMTS_HARQ_Info_memoryPartitioning_explicit_(ctx, pvalue->u.explicit_);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "explicit", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_HARQ_Info(rtxContext* ctx, HARQ_Info* pvalue)
+int asn1PD_UMTS_HARQ_Info(rtxContext* RT_RESTRICT ctx, HARQ_Info* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HARQ-Info");
    /* numberOfProcesses */
-   rtxCtxtPushElemName(ctx, "numberOfProcesses");
    stat = pd_ConsUInt8(ctx, &pvalue->numberOfProcesses, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "numberOfProcesses", -1, "HARQ-Info");
    /* memoryPartitioning */
-   rtxCtxtPushElemName(ctx, "memoryPartitioning");
    stat = asn1PD_UMTS_HARQ_Info_memoryPartitioning(ctx, &pvalue->memoryPartitioning);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "memoryPartitioning", -1, "HARQ-Info");
    return 0;
 }
 
-int asn1PD_UMTS_H_RNTI(rtxContext* ctx, H_RNTI* pvalue)
+int asn1PD_UMTS_H_RNTI(rtxContext* RT_RESTRICT ctx, H_RNTI* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "H-RNTI");
    RT_SET_SIZE(ctx, 16, 16);
    stat = pd_BitString32(ctx, pvalue, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "H-RNTI");
    return 0;
 }
 
-int asn1PD_UMTS_HS_DSCH_CommonSystemInformation_common_H_RNTI_information(rtxContext* ctx, HS_DSCH_CommonSystemInformation_common_H_RNTI_information* pvalue)
+int asn1PD_UMTS_HS_DSCH_CommonSystemInformation_common_H_RNTI_information(rtxContext* RT_RESTRICT ctx, HS_DSCH_CommonSystemInformation_common_H_RNTI_information* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t i;
    {
       uint32_t raw;
       stat = rtxDecBits(ctx, &raw, 2);
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
       pvalue->n = raw + 1;
       if (raw > 3) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "common-H-RNTI-information");
          rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
       }
    }
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "H-RNTI", i);
       asn1Init_UMTS_H_RNTI(&pvalue->elem[i]);
       stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->elem[i]);
       if (stat != 0) {
          pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
+         RT_FAIL(ctx, stat, 0, "H-RNTI", (int32_t)i, 0);
       }
-      rtxCtxtPopArrayElemName(ctx);
    }
    return 0;
 }
 
-int asn1PD_UMTS_HS_DSCH_CommonSystemInformation(rtxContext* ctx, HS_DSCH_CommonSystemInformation* pvalue)
+int asn1PD_UMTS_HS_DSCH_CommonSystemInformation(rtxContext* RT_RESTRICT ctx, HS_DSCH_CommonSystemInformation* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "HS-DSCH-CommonSystemInformation");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HS-DSCH-CommonSystemInformation");
    /* ccch-MappingInfo */
-   rtxCtxtPushElemName(ctx, "ccch-MappingInfo");
    stat = asn1PD_UMTS_CommonRBMappingInfo(ctx, &pvalue->ccch_MappingInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "ccch-MappingInfo", -1, "HS-DSCH-CommonSystemInformation");
    /* srb1-MappingInfo */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "srb1-MappingInfo");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_CommonRBMappingInfo(ctx, &pvalue->srb1_MappingInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "srb1-MappingInfo", -1, "HS-DSCH-CommonSystemInformation");
    }
    /* common-MAC-ehs-ReorderingQueueList */
-   rtxCtxtPushElemName(ctx, "common-MAC-ehs-ReorderingQueueList");
    stat = asn1PD_UMTS_Common_MAC_ehs_ReorderingQueueList(ctx, &pvalue->common_MAC_ehs_ReorderingQueueList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "common-MAC-ehs-ReorderingQueueList", -1, "HS-DSCH-CommonSystemInformation");
    /* hs-scch-SystemInfo */
-   rtxCtxtPushElemName(ctx, "hs-scch-SystemInfo");
    stat = asn1PD_UMTS_HS_SCCH_SystemInfo(ctx, &pvalue->hs_scch_SystemInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "hs-scch-SystemInfo", -1, "HS-DSCH-CommonSystemInformation");
    /* harq-SystemInfo */
-   rtxCtxtPushElemName(ctx, "harq-SystemInfo");
    stat = asn1PD_UMTS_HARQ_Info(ctx, &pvalue->harq_SystemInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "harq-SystemInfo", -1, "HS-DSCH-CommonSystemInformation");
    /* common-H-RNTI-information */
-   rtxCtxtPushElemName(ctx, "common-H-RNTI-information");
    stat = asn1PD_UMTS_HS_DSCH_CommonSystemInformation_common_H_RNTI_information(ctx, &pvalue->common_H_RNTI_information);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "common-H-RNTI-information", -1, "HS-DSCH-CommonSystemInformation");
    /* bcchSpecific-H-RNTI */
-   rtxCtxtPushElemName(ctx, "bcchSpecific-H-RNTI");
    stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->bcchSpecific_H_RNTI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "bcchSpecific-H-RNTI", -1, "HS-DSCH-CommonSystemInformation");
    return 0;
 }
 
-int asn1PD_UMTS_PICH_ForHSDPASupportedPaging(rtxContext* ctx, PICH_ForHSDPASupportedPaging* pvalue)
+int asn1PD_UMTS_PICH_ForHSDPASupportedPaging(rtxContext* RT_RESTRICT ctx, PICH_ForHSDPASupportedPaging* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PICH-ForHSDPASupportedPaging");
    /* hsdpa-AssociatedPichInfo */
-   rtxCtxtPushElemName(ctx, "hsdpa-AssociatedPichInfo");
    stat = asn1PD_UMTS_PICH_Info(ctx, &pvalue->hsdpa_AssociatedPichInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "hsdpa-AssociatedPichInfo", -1, "PICH-ForHSDPASupportedPaging");
    /* hs-pdschChannelisationCode */
-   rtxCtxtPushElemName(ctx, "hs-pdschChannelisationCode");
    stat = pd_ConsUInt8(ctx, &pvalue->hs_pdschChannelisationCode, 1, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "hs-pdschChannelisationCode", -1, "PICH-ForHSDPASupportedPaging");
    return 0;
 }
 
-int asn1PD_UMTS_HS_DSCH_PagingSystemInformation_pich_ForHSDPASupportedPagingList(rtxContext* ctx, HS_DSCH_PagingSystemInformation_pich_ForHSDPASupportedPagingList* pvalue)
+int asn1PD_UMTS_HS_DSCH_PagingSystemInformation_pich_ForHSDPASupportedPagingList(rtxContext* RT_RESTRICT ctx, HS_DSCH_PagingSystemInformation_pich_ForHSDPASupportedPagingList* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 16);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       PICH_ForHSDPASupportedPaging* elem;
-      rtxCtxtPushArrayElemName(ctx, "PICH-ForHSDPASupportedPaging", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PICH_ForHSDPASupportedPaging));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PICH-ForHSDPASupportedPaging", (int32_t)i, 0);
       elem = (PICH_ForHSDPASupportedPaging*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_PICH_ForHSDPASupportedPaging(elem);
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_PICH_ForHSDPASupportedPaging(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "PICH-ForHSDPASupportedPaging", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_TransportBlockSizeIndex(rtxContext* ctx, TransportBlockSizeIndex* pvalue)
+int asn1PD_UMTS_TransportBlockSizeIndex(rtxContext* RT_RESTRICT ctx, TransportBlockSizeIndex* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "TransportBlockSizeIndex");
    stat = pd_ConsUInt8(ctx, pvalue, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportBlockSizeIndex");
    return 0;
 }
 
-int asn1PD_UMTS_HS_DSCH_PagingSystemInformation_transportBlockSizeList(rtxContext* ctx, HS_DSCH_PagingSystemInformation_transportBlockSizeList* pvalue)
+int asn1PD_UMTS_HS_DSCH_PagingSystemInformation_transportBlockSizeList(rtxContext* RT_RESTRICT ctx, HS_DSCH_PagingSystemInformation_transportBlockSizeList* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t i;
    {
       uint32_t raw;
       stat = rtxDecBits(ctx, &raw, 1);
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
       pvalue->n = raw + 1;
       if (raw > 1) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "transportBlockSizeList");
          rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
       }
    }
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "TransportBlockSizeIndex", i);
       pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "TransportBlockSizeIndex");
       stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 1, 32);
       if (stat != 0) {
          pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
+         RT_FAIL(ctx, stat, "TransportBlockSizeIndex", "TransportBlockSizeIndex", (int32_t)i, 0);
       }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
    }
    return 0;
 }
 
-int asn1PD_UMTS_HS_DSCH_PagingSystemInformation(rtxContext* ctx, HS_DSCH_PagingSystemInformation* pvalue)
+int asn1PD_UMTS_HS_DSCH_PagingSystemInformation(rtxContext* RT_RESTRICT ctx, HS_DSCH_PagingSystemInformation* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "HS-DSCH-PagingSystemInformation");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HS-DSCH-PagingSystemInformation");
    /* dlScramblingCode */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dlScramblingCode");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "SecondaryScramblingCode");
       stat = pd_ConsUInt8(ctx, &pvalue->dlScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "dlScramblingCode", -1, "HS-DSCH-PagingSystemInformation");
    }
    /* pich-ForHSDPASupportedPagingList */
-   rtxCtxtPushElemName(ctx, "pich-ForHSDPASupportedPagingList");
    stat = asn1PD_UMTS_HS_DSCH_PagingSystemInformation_pich_ForHSDPASupportedPagingList(ctx, &pvalue->pich_ForHSDPASupportedPagingList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "pich-ForHSDPASupportedPagingList", -1, "HS-DSCH-PagingSystemInformation");
    /* numberOfPcchTransmissions */
-   rtxCtxtPushElemName(ctx, "numberOfPcchTransmissions");
    stat = pd_ConsUInt8(ctx, &pvalue->numberOfPcchTransmissions, 1, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "numberOfPcchTransmissions", -1, "HS-DSCH-PagingSystemInformation");
    /* transportBlockSizeList */
-   rtxCtxtPushElemName(ctx, "transportBlockSizeList");
    stat = asn1PD_UMTS_HS_DSCH_PagingSystemInformation_transportBlockSizeList(ctx, &pvalue->transportBlockSizeList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "transportBlockSizeList", -1, "HS-DSCH-PagingSystemInformation");
    return 0;
 }
 
-int asn1PD_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd(rtxContext* ctx, SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd* pvalue)
+int asn1PD_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* hs-dsch-CommonSystemInformation */
-   rtxCtxtPushElemName(ctx, "hs-dsch-CommonSystemInformation");
    stat = asn1PD_UMTS_HS_DSCH_CommonSystemInformation(ctx, &pvalue->hs_dsch_CommonSystemInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "hs-dsch-CommonSystemInformation", -1, 0);
    /* hs-dsch-PagingSystemInformation */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "hs-dsch-PagingSystemInformation");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_HS_DSCH_PagingSystemInformation(ctx, &pvalue->hs_dsch_PagingSystemInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "hs-dsch-PagingSystemInformation", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble* pvalue)
+int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftLong");
    stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode(rtxContext* ctx, MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode* pvalue)
+int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
+      case 0: /* defaultMidamble */
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "commonMidamble");
-         rtxCtxtPopElemName(ctx);
+      case 1: /* commonMidamble */
          break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
+      case 2: /* ueSpecificMidamble */
          pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
          stat = asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type1(rtxContext* ctx, MidambleShiftAndBurstType_VHCR_burstType_type1* pvalue)
+int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type1(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type1* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* midambleConfigurationBurstType1and3 */
-   rtxCtxtPushElemName(ctx, "midambleConfigurationBurstType1and3");
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType1and3");
    stat = pd_ConsUnsigned(ctx, &pvalue->midambleConfigurationBurstType1and3, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
    /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
    stat = asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_MidambleConfigurationBurstType2_VHCR(rtxContext* ctx, MidambleConfigurationBurstType2_VHCR* pvalue)
+int asn1PD_UMTS_MidambleConfigurationBurstType2_VHCR(rtxContext* RT_RESTRICT ctx, MidambleConfigurationBurstType2_VHCR* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType2-VHCR");
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MidambleConfigurationBurstType2-VHCR");
    return 0;
 }
 
-int asn1PD_UMTS_MidambleShiftShort_VHCR(rtxContext* ctx, MidambleShiftShort_VHCR* pvalue)
+int asn1PD_UMTS_MidambleShiftShort_VHCR(rtxContext* RT_RESTRICT ctx, MidambleShiftShort_VHCR* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "MidambleShiftShort-VHCR");
    stat = pd_ConsUInt8(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MidambleShiftShort-VHCR");
    return 0;
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble* pvalue)
+int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftShort-VHCR");
    stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "MidambleShiftShort-VHCR", "midambleShift", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode(rtxContext* ctx, MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode* pvalue)
+int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
+      case 0: /* defaultMidamble */
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "commonMidamble");
-         rtxCtxtPopElemName(ctx);
+      case 1: /* commonMidamble */
          break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
+      case 2: /* ueSpecificMidamble */
          pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
          stat = asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type2(rtxContext* ctx, MidambleShiftAndBurstType_VHCR_burstType_type2* pvalue)
+int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type2(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type2* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* midambleConfigurationBurstType2 */
-   rtxCtxtPushElemName(ctx, "midambleConfigurationBurstType2");
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType2-VHCR");
    stat = pd_ConsUnsigned(ctx, &pvalue->midambleConfigurationBurstType2, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType2-VHCR", "midambleConfigurationBurstType2", -1, 0);
    /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
    stat = asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode_ueSpecificMidamble* pvalue)
+int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftLong");
    stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode(rtxContext* ctx, MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode* pvalue)
+int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
+      case 0: /* defaultMidamble */
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
+      case 1: /* ueSpecificMidamble */
          pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
          stat = asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type3(rtxContext* ctx, MidambleShiftAndBurstType_VHCR_burstType_type3* pvalue)
+int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type3(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType_type3* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* midambleConfigurationBurstType1and3 */
-   rtxCtxtPushElemName(ctx, "midambleConfigurationBurstType1and3");
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType1and3");
    stat = pd_ConsUnsigned(ctx, &pvalue->midambleConfigurationBurstType1and3, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
    /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
    stat = asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType(rtxContext* ctx, MidambleShiftAndBurstType_VHCR_burstType* pvalue)
+int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR_burstType* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "type1");
+      case 0: /* type1 */
          pvalue->u.type1 = (MidambleShiftAndBurstType_VHCR_burstType_type1*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_VHCR_burstType_type1));
-         if (pvalue->u.type1 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.type1 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "type1", -1, 0);
          asn1Init_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type1(pvalue->u.type1);
          stat = asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type1(ctx, pvalue->u.type1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "type1", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "type2");
+      case 1: /* type2 */
          pvalue->u.type2 = (MidambleShiftAndBurstType_VHCR_burstType_type2*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_VHCR_burstType_type2));
-         if (pvalue->u.type2 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.type2 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "type2", -1, 0);
          asn1Init_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type2(pvalue->u.type2);
          stat = asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type2(ctx, pvalue->u.type2);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "type2", -1, 0);
          break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "type3");
+      case 2: /* type3 */
          pvalue->u.type3 = (MidambleShiftAndBurstType_VHCR_burstType_type3*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_VHCR_burstType_type3));
-         if (pvalue->u.type3 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.type3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "type3", -1, 0);
          asn1Init_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type3(pvalue->u.type3);
          stat = asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type3(ctx, pvalue->u.type3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "type3", -1, 0);
          break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "mbsfnBurstType4");
-         rtxCtxtPopElemName(ctx);
+      case 3: /* mbsfnBurstType4 */
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR(rtxContext* ctx, MidambleShiftAndBurstType_VHCR* pvalue)
+int asn1PD_UMTS_MidambleShiftAndBurstType_VHCR(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_VHCR* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MidambleShiftAndBurstType-VHCR");
    /* burstType */
-   rtxCtxtPushElemName(ctx, "burstType");
    stat = asn1PD_UMTS_MidambleShiftAndBurstType_VHCR_burstType(ctx, &pvalue->burstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "burstType", -1, "MidambleShiftAndBurstType-VHCR");
    return 0;
 }
 
-int asn1PD_UMTS_IndividualTimeslotInfo_VHCR(rtxContext* ctx, IndividualTimeslotInfo_VHCR* pvalue)
+int asn1PD_UMTS_IndividualTimeslotInfo_VHCR(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_VHCR* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "IndividualTimeslotInfo-VHCR");
    /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
    stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, "IndividualTimeslotInfo-VHCR");
    /* tfci-Existence */
-   rtxCtxtPushElemName(ctx, "tfci-Existence");
    stat = rtxDecBitInline(ctx, &pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, "IndividualTimeslotInfo-VHCR");
    /* midambleShiftAndBurstType-VHCR */
-   rtxCtxtPushElemName(ctx, "midambleShiftAndBurstType-VHCR");
    stat = asn1PD_UMTS_MidambleShiftAndBurstType_VHCR(ctx, &pvalue->midambleShiftAndBurstType_VHCR);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType-VHCR", -1, "IndividualTimeslotInfo-VHCR");
    return 0;
 }
 
-int asn1PD_UMTS_UL_TS_ChannelisationCode_VHCR(rtxContext* ctx, UL_TS_ChannelisationCode_VHCR* pvalue)
+int asn1PD_UMTS_UL_TS_ChannelisationCode_VHCR(rtxContext* RT_RESTRICT ctx, UL_TS_ChannelisationCode_VHCR* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "UL-TS-ChannelisationCode-VHCR");
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 62);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-TS-ChannelisationCode-VHCR");
    return 0;
 }
 
-int asn1PD_UMTS_UL_TS_ChannelisationCodeList_VHCR(rtxContext* ctx, UL_TS_ChannelisationCodeList_VHCR* pvalue)
+int asn1PD_UMTS_UL_TS_ChannelisationCodeList_VHCR(rtxContext* RT_RESTRICT ctx, UL_TS_ChannelisationCodeList_VHCR* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "UL-TS-ChannelisationCodeList-VHCR");
    {
       uint32_t raw;
       stat = rtxDecBits(ctx, &raw, 1);
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, "UL-TS-ChannelisationCodeList-VHCR");
       pvalue->n = raw + 1;
       if (raw > 1) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "UL-TS-ChannelisationCodeList-VHCR");
          rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UL-TS-ChannelisationCodeList-VHCR");
       }
    }
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "UL-TS-ChannelisationCode-VHCR", i);
       pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "UL-TS-ChannelisationCode-VHCR");
       stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 62);
       if (stat != 0) {
          pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
+         RT_FAIL(ctx, stat, "UL-TS-ChannelisationCode-VHCR", "UL-TS-ChannelisationCode-VHCR", (int32_t)i, "UL-TS-ChannelisationCodeList-VHCR");
       }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_consecutive(rtxContext* ctx, UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_consecutive* pvalue)
+int asn1PD_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_consecutive(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_consecutive* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* numAdditionalTimeslots */
-   rtxCtxtPushElemName(ctx, "numAdditionalTimeslots");
    stat = pd_ConsUInt8(ctx, &pvalue->numAdditionalTimeslots, 1, 13);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "numAdditionalTimeslots", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_UplinkAdditionalTimeslots_VHCR_parameters_sameAsLast(rtxContext* ctx, UplinkAdditionalTimeslots_VHCR_parameters_sameAsLast* pvalue)
+int asn1PD_UMTS_UplinkAdditionalTimeslots_VHCR_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_VHCR_parameters_sameAsLast* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
    stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_UplinkAdditionalTimeslots_VHCR_parameters_newParameters(rtxContext* ctx, UplinkAdditionalTimeslots_VHCR_parameters_newParameters* pvalue)
+int asn1PD_UMTS_UplinkAdditionalTimeslots_VHCR_parameters_newParameters(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_VHCR_parameters_newParameters* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* individualTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "individualTimeslotInfo");
    stat = asn1PD_UMTS_IndividualTimeslotInfo_VHCR(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
    /* ul-TS-ChannelisationCodeList */
-   rtxCtxtPushElemName(ctx, "ul-TS-ChannelisationCodeList");
    stat = asn1PD_UMTS_UL_TS_ChannelisationCodeList(ctx, &pvalue->ul_TS_ChannelisationCodeList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_UplinkAdditionalTimeslots_VHCR_parameters(rtxContext* ctx, UplinkAdditionalTimeslots_VHCR_parameters* pvalue)
+int asn1PD_UMTS_UplinkAdditionalTimeslots_VHCR_parameters(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_VHCR_parameters* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "sameAsLast");
+      case 0: /* sameAsLast */
          pvalue->u.sameAsLast = (UplinkAdditionalTimeslots_VHCR_parameters_sameAsLast*)rtxMemHeapAllocZ(ctx, sizeof(UplinkAdditionalTimeslots_VHCR_parameters_sameAsLast));
-         if (pvalue->u.sameAsLast == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.sameAsLast == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sameAsLast", -1, 0);
          stat = asn1PD_UMTS_UplinkAdditionalTimeslots_VHCR_parameters_sameAsLast(ctx, pvalue->u.sameAsLast);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "newParameters");
+      case 1: /* newParameters */
          pvalue->u.newParameters = (UplinkAdditionalTimeslots_VHCR_parameters_newParameters*)rtxMemHeapAlloc(ctx, sizeof(UplinkAdditionalTimeslots_VHCR_parameters_newParameters));
-         if (pvalue->u.newParameters == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.newParameters == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "newParameters", -1, 0);
          asn1Init_UMTS_UplinkAdditionalTimeslots_VHCR_parameters_newParameters(pvalue->u.newParameters);
          stat = asn1PD_UMTS_UplinkAdditionalTimeslots_VHCR_parameters_newParameters(ctx, pvalue->u.newParameters);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UplinkAdditionalTimeslots_VHCR(rtxContext* ctx, UplinkAdditionalTimeslots_VHCR* pvalue)
+int asn1PD_UMTS_UplinkAdditionalTimeslots_VHCR(rtxContext* RT_RESTRICT ctx, UplinkAdditionalTimeslots_VHCR* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UplinkAdditionalTimeslots-VHCR");
    /* parameters */
-   rtxCtxtPushElemName(ctx, "parameters");
    stat = asn1PD_UMTS_UplinkAdditionalTimeslots_VHCR_parameters(ctx, &pvalue->parameters);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "parameters", -1, "UplinkAdditionalTimeslots-VHCR");
    return 0;
 }
 
-int asn1PD_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* ctx, UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList* pvalue)
+int asn1PD_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 13);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       UplinkAdditionalTimeslots_VHCR* elem;
-      rtxCtxtPushArrayElemName(ctx, "UplinkAdditionalTimeslots-VHCR", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UplinkAdditionalTimeslots_VHCR));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UplinkAdditionalTimeslots-VHCR", (int32_t)i, 0);
       elem = (UplinkAdditionalTimeslots_VHCR*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_UplinkAdditionalTimeslots_VHCR(elem);
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_UplinkAdditionalTimeslots_VHCR(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "UplinkAdditionalTimeslots-VHCR", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(rtxContext* ctx, UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots* pvalue)
+int asn1PD_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "consecutive");
+      case 0: /* consecutive */
          pvalue->u.consecutive = (UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_consecutive*)rtxMemHeapAllocZ(ctx, sizeof(UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_consecutive));
-         if (pvalue->u.consecutive == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.consecutive == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "consecutive", -1, 0);
          stat = asn1PD_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_consecutive(ctx, pvalue->u.consecutive);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "timeslotList");
+      case 1: /* timeslotList */
          pvalue->u.timeslotList = (UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList*)rtxMemHeapAlloc(ctx, sizeof(UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList));
-         if (pvalue->u.timeslotList == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.timeslotList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "timeslotList", -1, 0);
          asn1Init_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(pvalue->u.timeslotList);
          stat = asn1PD_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots(rtxContext* ctx, UplinkTimeslotsCodes_VHCR_moreTimeslots* pvalue)
+int asn1PD_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_VHCR_moreTimeslots* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "noMore");
-         rtxCtxtPopElemName(ctx);
+      case 0: /* noMore */
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "additionalTimeslots");
+      case 1: /* additionalTimeslots */
          pvalue->u.additionalTimeslots = (UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots*)rtxMemHeapAlloc(ctx, sizeof(UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots));
-         if (pvalue->u.additionalTimeslots == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.additionalTimeslots == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "additionalTimeslots", -1, 0);
          asn1Init_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(pvalue->u.additionalTimeslots);
          stat = asn1PD_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "additionalTimeslots", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UplinkTimeslotsCodes_VHCR(rtxContext* ctx, UplinkTimeslotsCodes_VHCR* pvalue)
+int asn1PD_UMTS_UplinkTimeslotsCodes_VHCR(rtxContext* RT_RESTRICT ctx, UplinkTimeslotsCodes_VHCR* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UplinkTimeslotsCodes-VHCR");
    /* dynamicSFusage */
-   rtxCtxtPushElemName(ctx, "dynamicSFusage");
    stat = rtxDecBitInline(ctx, &pvalue->dynamicSFusage);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "dynamicSFusage", -1, "UplinkTimeslotsCodes-VHCR");
    /* firstIndividualTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "firstIndividualTimeslotInfo");
    stat = asn1PD_UMTS_IndividualTimeslotInfo_VHCR(ctx, &pvalue->firstIndividualTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "UplinkTimeslotsCodes-VHCR");
    /* ul-TS-ChannelisationCodeList */
-   rtxCtxtPushElemName(ctx, "ul-TS-ChannelisationCodeList");
    stat = asn1PD_UMTS_UL_TS_ChannelisationCodeList_VHCR(ctx, &pvalue->ul_TS_ChannelisationCodeList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, "UplinkTimeslotsCodes-VHCR");
    /* moreTimeslots */
-   rtxCtxtPushElemName(ctx, "moreTimeslots");
    stat = asn1PD_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots(ctx, &pvalue->moreTimeslots);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "UplinkTimeslotsCodes-VHCR");
    return 0;
 }
 
-int asn1PD_UMTS_PUSCH_Info_VHCR(rtxContext* ctx, PUSCH_Info_VHCR* pvalue)
+int asn1PD_UMTS_PUSCH_Info_VHCR(rtxContext* RT_RESTRICT ctx, PUSCH_Info_VHCR* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PUSCH-Info-VHCR");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-Info-VHCR");
    /* tfcs-ID */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "tfcs-ID");
-      rtxCtxtPushTypeName(ctx, "TFCS-IdentityPlain");
       stat = pd_ConsUInt8(ctx, &pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PUSCH-Info-VHCR");
    }
    else {
       pvalue->tfcs_ID = 1;
    }
    /* commonTimeslotInfo */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "commonTimeslotInfo");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "PUSCH-Info-VHCR");
    }
    /* pusch-TimeslotsCodes-VHCR */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "pusch-TimeslotsCodes-VHCR");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_UplinkTimeslotsCodes_VHCR(ctx, &pvalue->pusch_TimeslotsCodes_VHCR);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pusch-TimeslotsCodes-VHCR", -1, "PUSCH-Info-VHCR");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_PUSCH_SysInfo_VHCR(rtxContext* ctx, PUSCH_SysInfo_VHCR* pvalue)
+int asn1PD_UMTS_PUSCH_SysInfo_VHCR(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfo_VHCR* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PUSCH-SysInfo-VHCR");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-SysInfo-VHCR");
    /* pusch-Identity */
-   rtxCtxtPushElemName(ctx, "pusch-Identity");
-   rtxCtxtPushTypeName(ctx, "PUSCH-Identity");
    stat = pd_ConsUInt8(ctx, &pvalue->pusch_Identity, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "PUSCH-Identity", "pusch-Identity", -1, "PUSCH-SysInfo-VHCR");
    /* pusch-Info-VHCR */
-   rtxCtxtPushElemName(ctx, "pusch-Info-VHCR");
    stat = asn1PD_UMTS_PUSCH_Info_VHCR(ctx, &pvalue->pusch_Info_VHCR);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "pusch-Info-VHCR", -1, "PUSCH-SysInfo-VHCR");
    /* usch-TransportChannelsInfo */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "usch-TransportChannelsInfo");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_USCH_TransportChannelsInfo(ctx, &pvalue->usch_TransportChannelsInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "usch-TransportChannelsInfo", -1, "PUSCH-SysInfo-VHCR");
    }
    /* usch-TFCS */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "usch-TFCS");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_TFCS(ctx, &pvalue->usch_TFCS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "usch-TFCS", -1, "PUSCH-SysInfo-VHCR");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_PUSCH_SysInfoList_SFN_VHCR_element(rtxContext* ctx, PUSCH_SysInfoList_SFN_VHCR_element* pvalue)
+int asn1PD_UMTS_PUSCH_SysInfoList_SFN_VHCR_element(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_SFN_VHCR_element* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* pusch-SysInfo-VHCR */
-   rtxCtxtPushElemName(ctx, "pusch-SysInfo-VHCR");
    stat = asn1PD_UMTS_PUSCH_SysInfo_VHCR(ctx, &pvalue->pusch_SysInfo_VHCR);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "pusch-SysInfo-VHCR", -1, 0);
    /* sfn-TimeInfo */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "sfn-TimeInfo");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_PUSCH_SysInfoList_SFN_VHCR(rtxContext* ctx, PUSCH_SysInfoList_SFN_VHCR* pvalue)
+int asn1PD_UMTS_PUSCH_SysInfoList_SFN_VHCR(rtxContext* RT_RESTRICT ctx, PUSCH_SysInfoList_SFN_VHCR* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "PUSCH-SysInfoList-SFN-VHCR");
    RT_SET_SIZE(ctx, 1, 8);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-SysInfoList-SFN-VHCR");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       PUSCH_SysInfoList_SFN_VHCR_element* elem;
-      rtxCtxtPushArrayElemName(ctx, "element", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PUSCH_SysInfoList_SFN_VHCR_element));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN-VHCR");
       elem = (PUSCH_SysInfoList_SFN_VHCR_element*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_PUSCH_SysInfoList_SFN_VHCR_element(elem);
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_PUSCH_SysInfoList_SFN_VHCR_element(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN-VHCR");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_PDSCH_Info_r7_tddOption_tdd384(rtxContext* ctx, PDSCH_Info_r7_tddOption_tdd384* pvalue)
+int asn1PD_UMTS_PDSCH_Info_r7_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r7_tddOption_tdd384* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* pdsch-TimeslotsCodes */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "pdsch-TimeslotsCodes");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_DownlinkTimeslotsCodes(ctx, &pvalue->pdsch_TimeslotsCodes);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pdsch-TimeslotsCodes", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_DL_TS_ChannelisationCode_VHCR(rtxContext* ctx, DL_TS_ChannelisationCode_VHCR* pvalue)
+int asn1PD_UMTS_DL_TS_ChannelisationCode_VHCR(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCode_VHCR* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "DL-TS-ChannelisationCode-VHCR");
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-TS-ChannelisationCode-VHCR");
    return 0;
 }
 
-int asn1PD_UMTS_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_consecutive(rtxContext* ctx, DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_consecutive* pvalue)
+int asn1PD_UMTS_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_consecutive(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_consecutive* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* firstChannelisationCode */
-   rtxCtxtPushElemName(ctx, "firstChannelisationCode");
-   rtxCtxtPushTypeName(ctx, "DL-TS-ChannelisationCode-VHCR");
    stat = pd_ConsUnsigned(ctx, &pvalue->firstChannelisationCode, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode-VHCR", "firstChannelisationCode", -1, 0);
    /* lastChannelisationCode */
-   rtxCtxtPushElemName(ctx, "lastChannelisationCode");
-   rtxCtxtPushTypeName(ctx, "DL-TS-ChannelisationCode-VHCR");
    stat = pd_ConsUnsigned(ctx, &pvalue->lastChannelisationCode, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode-VHCR", "lastChannelisationCode", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap(rtxContext* ctx, DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap* pvalue)
+int asn1PD_UMTS_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap* RT_RESTRICT pvalue)
 {
    int stat;
    RT_SET_SIZE(ctx, 32, 32);
    stat = pd_BitString32(ctx, pvalue, 32, 32);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation(rtxContext* ctx, DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation* pvalue)
+int asn1PD_UMTS_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "consecutive");
+      case 0: /* consecutive */
          pvalue->u.consecutive = (DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_consecutive*)rtxMemHeapAllocZ(ctx, sizeof(DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_consecutive));
-         if (pvalue->u.consecutive == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.consecutive == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "consecutive", -1, 0);
          stat = asn1PD_UMTS_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_consecutive(ctx, pvalue->u.consecutive);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "bitmap");
+      case 1: /* bitmap */
          pvalue->u.bitmap = (DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap*)rtxMemHeapAlloc(ctx, sizeof(DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap));
-         if (pvalue->u.bitmap == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.bitmap == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "bitmap", -1, 0);
          asn1Init_UMTS_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap(pvalue->u.bitmap);
          stat = asn1PD_UMTS_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap(ctx, pvalue->u.bitmap);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "bitmap", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_DL_TS_ChannelisationCodesShort_VHCR(rtxContext* ctx, DL_TS_ChannelisationCodesShort_VHCR* pvalue)
+int asn1PD_UMTS_DL_TS_ChannelisationCodesShort_VHCR(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort_VHCR* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DL-TS-ChannelisationCodesShort-VHCR");
    /* codesRepresentation */
-   rtxCtxtPushElemName(ctx, "codesRepresentation");
    stat = asn1PD_UMTS_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation(ctx, &pvalue->codesRepresentation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "codesRepresentation", -1, "DL-TS-ChannelisationCodesShort-VHCR");
    return 0;
 }
 
-int asn1PD_UMTS_DownlinkAdditionalTimeslots_VHCR_parameters_sameAsLast(rtxContext* ctx, DownlinkAdditionalTimeslots_VHCR_parameters_sameAsLast* pvalue)
+int asn1PD_UMTS_DownlinkAdditionalTimeslots_VHCR_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_VHCR_parameters_sameAsLast* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
    stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_DownlinkAdditionalTimeslots_VHCR_parameters_newParameters(rtxContext* ctx, DownlinkAdditionalTimeslots_VHCR_parameters_newParameters* pvalue)
+int asn1PD_UMTS_DownlinkAdditionalTimeslots_VHCR_parameters_newParameters(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_VHCR_parameters_newParameters* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* individualTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "individualTimeslotInfo");
    stat = asn1PD_UMTS_IndividualTimeslotInfo_VHCR(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
    /* dl-TS-ChannelisationCodesShort */
-   rtxCtxtPushElemName(ctx, "dl-TS-ChannelisationCodesShort");
    stat = asn1PD_UMTS_DL_TS_ChannelisationCodesShort_VHCR(ctx, &pvalue->dl_TS_ChannelisationCodesShort);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_DownlinkAdditionalTimeslots_VHCR_parameters(rtxContext* ctx, DownlinkAdditionalTimeslots_VHCR_parameters* pvalue)
+int asn1PD_UMTS_DownlinkAdditionalTimeslots_VHCR_parameters(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_VHCR_parameters* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "sameAsLast");
+      case 0: /* sameAsLast */
          pvalue->u.sameAsLast = (DownlinkAdditionalTimeslots_VHCR_parameters_sameAsLast*)rtxMemHeapAllocZ(ctx, sizeof(DownlinkAdditionalTimeslots_VHCR_parameters_sameAsLast));
-         if (pvalue->u.sameAsLast == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.sameAsLast == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sameAsLast", -1, 0);
          stat = asn1PD_UMTS_DownlinkAdditionalTimeslots_VHCR_parameters_sameAsLast(ctx, pvalue->u.sameAsLast);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "newParameters");
+      case 1: /* newParameters */
          pvalue->u.newParameters = (DownlinkAdditionalTimeslots_VHCR_parameters_newParameters*)rtxMemHeapAlloc(ctx, sizeof(DownlinkAdditionalTimeslots_VHCR_parameters_newParameters));
-         if (pvalue->u.newParameters == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.newParameters == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "newParameters", -1, 0);
          asn1Init_UMTS_DownlinkAdditionalTimeslots_VHCR_parameters_newParameters(pvalue->u.newParameters);
          stat = asn1PD_UMTS_DownlinkAdditionalTimeslots_VHCR_parameters_newParameters(ctx, pvalue->u.newParameters);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_DownlinkAdditionalTimeslots_VHCR(rtxContext* ctx, DownlinkAdditionalTimeslots_VHCR* pvalue)
+int asn1PD_UMTS_DownlinkAdditionalTimeslots_VHCR(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_VHCR* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DownlinkAdditionalTimeslots-VHCR");
    /* parameters */
-   rtxCtxtPushElemName(ctx, "parameters");
    stat = asn1PD_UMTS_DownlinkAdditionalTimeslots_VHCR_parameters(ctx, &pvalue->parameters);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "parameters", -1, "DownlinkAdditionalTimeslots-VHCR");
    return 0;
 }
 
-int asn1PD_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* ctx, DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList* pvalue)
+int asn1PD_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 13);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       DownlinkAdditionalTimeslots_VHCR* elem;
-      rtxCtxtPushArrayElemName(ctx, "DownlinkAdditionalTimeslots-VHCR", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DownlinkAdditionalTimeslots_VHCR));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DownlinkAdditionalTimeslots-VHCR", (int32_t)i, 0);
       elem = (DownlinkAdditionalTimeslots_VHCR*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_DownlinkAdditionalTimeslots_VHCR(elem);
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_DownlinkAdditionalTimeslots_VHCR(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "DownlinkAdditionalTimeslots-VHCR", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(rtxContext* ctx, DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots* pvalue)
+int asn1PD_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "consecutive");
+      case 0: /* consecutive */
          stat = pd_ConsUInt8(ctx, &pvalue->u.consecutive, 1, 13);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "timeslotList");
+      case 1: /* timeslotList */
          pvalue->u.timeslotList = (DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList*)rtxMemHeapAlloc(ctx, sizeof(DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList));
-         if (pvalue->u.timeslotList == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.timeslotList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "timeslotList", -1, 0);
          asn1Init_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(pvalue->u.timeslotList);
          stat = asn1PD_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots(rtxContext* ctx, DownlinkTimeslotsCodes_VHCR_moreTimeslots* pvalue)
+int asn1PD_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_VHCR_moreTimeslots* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "noMore");
-         rtxCtxtPopElemName(ctx);
+      case 0: /* noMore */
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "additionalTimeslots");
+      case 1: /* additionalTimeslots */
          pvalue->u.additionalTimeslots = (DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots*)rtxMemHeapAlloc(ctx, sizeof(DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots));
-         if (pvalue->u.additionalTimeslots == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.additionalTimeslots == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "additionalTimeslots", -1, 0);
          asn1Init_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(pvalue->u.additionalTimeslots);
          stat = asn1PD_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "additionalTimeslots", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_DownlinkTimeslotsCodes_VHCR(rtxContext* ctx, DownlinkTimeslotsCodes_VHCR* pvalue)
+int asn1PD_UMTS_DownlinkTimeslotsCodes_VHCR(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_VHCR* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DownlinkTimeslotsCodes-VHCR");
    /* firstIndividualTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "firstIndividualTimeslotInfo");
    stat = asn1PD_UMTS_IndividualTimeslotInfo_VHCR(ctx, &pvalue->firstIndividualTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "DownlinkTimeslotsCodes-VHCR");
    /* dl-TS-ChannelisationCodesShort */
-   rtxCtxtPushElemName(ctx, "dl-TS-ChannelisationCodesShort");
    stat = asn1PD_UMTS_DL_TS_ChannelisationCodesShort_VHCR(ctx, &pvalue->dl_TS_ChannelisationCodesShort);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, "DownlinkTimeslotsCodes-VHCR");
    /* moreTimeslots */
-   rtxCtxtPushElemName(ctx, "moreTimeslots");
    stat = asn1PD_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots(ctx, &pvalue->moreTimeslots);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "DownlinkTimeslotsCodes-VHCR");
    return 0;
 }
 
-int asn1PD_UMTS_PDSCH_Info_r7_tddOption_tdd768(rtxContext* ctx, PDSCH_Info_r7_tddOption_tdd768* pvalue)
+int asn1PD_UMTS_PDSCH_Info_r7_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r7_tddOption_tdd768* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* pdsch-TimeslotsCodes */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "pdsch-TimeslotsCodes");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_DownlinkTimeslotsCodes_VHCR(ctx, &pvalue->pdsch_TimeslotsCodes);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pdsch-TimeslotsCodes", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_PDSCH_Info_r7_tddOption_tdd128(rtxContext* ctx, PDSCH_Info_r7_tddOption_tdd128* pvalue)
+int asn1PD_UMTS_PDSCH_Info_r7_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r7_tddOption_tdd128* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* pdsch-TimeslotsCodes */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "pdsch-TimeslotsCodes");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->pdsch_TimeslotsCodes);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pdsch-TimeslotsCodes", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_PDSCH_Info_r7_tddOption(rtxContext* ctx, PDSCH_Info_r7_tddOption* pvalue)
+int asn1PD_UMTS_PDSCH_Info_r7_tddOption(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r7_tddOption* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "tdd384");
+      case 0: /* tdd384 */
          pvalue->u.tdd384 = (PDSCH_Info_r7_tddOption_tdd384*)rtxMemHeapAlloc(ctx, sizeof(PDSCH_Info_r7_tddOption_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
          asn1Init_UMTS_PDSCH_Info_r7_tddOption_tdd384(pvalue->u.tdd384);
          stat = asn1PD_UMTS_PDSCH_Info_r7_tddOption_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd768");
+      case 1: /* tdd768 */
          pvalue->u.tdd768 = (PDSCH_Info_r7_tddOption_tdd768*)rtxMemHeapAlloc(ctx, sizeof(PDSCH_Info_r7_tddOption_tdd768));
-         if (pvalue->u.tdd768 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
          asn1Init_UMTS_PDSCH_Info_r7_tddOption_tdd768(pvalue->u.tdd768);
          stat = asn1PD_UMTS_PDSCH_Info_r7_tddOption_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
          break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
+      case 2: /* tdd128 */
          pvalue->u.tdd128 = (PDSCH_Info_r7_tddOption_tdd128*)rtxMemHeapAlloc(ctx, sizeof(PDSCH_Info_r7_tddOption_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
          asn1Init_UMTS_PDSCH_Info_r7_tddOption_tdd128(pvalue->u.tdd128);
          stat = asn1PD_UMTS_PDSCH_Info_r7_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_PDSCH_Info_r7(rtxContext* ctx, PDSCH_Info_r7* pvalue)
+int asn1PD_UMTS_PDSCH_Info_r7(rtxContext* RT_RESTRICT ctx, PDSCH_Info_r7* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PDSCH-Info-r7");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-Info-r7");
    /* tfcs-ID */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "tfcs-ID");
-      rtxCtxtPushTypeName(ctx, "TFCS-IdentityPlain");
       stat = pd_ConsUInt8(ctx, &pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PDSCH-Info-r7");
    }
    else {
       pvalue->tfcs_ID = 1;
    }
    /* commonTimeslotInfo */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "commonTimeslotInfo");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "PDSCH-Info-r7");
    }
    /* tddOption */
-   rtxCtxtPushElemName(ctx, "tddOption");
    stat = asn1PD_UMTS_PDSCH_Info_r7_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, "PDSCH-Info-r7");
    return 0;
 }
 
-int asn1PD_UMTS_PDSCH_SysInfo_VHCR_r7(rtxContext* ctx, PDSCH_SysInfo_VHCR_r7* pvalue)
+int asn1PD_UMTS_PDSCH_SysInfo_VHCR_r7(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfo_VHCR_r7* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PDSCH-SysInfo-VHCR-r7");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-SysInfo-VHCR-r7");
    /* pdsch-Identity */
-   rtxCtxtPushElemName(ctx, "pdsch-Identity");
-   rtxCtxtPushTypeName(ctx, "PDSCH-Identity");
    stat = pd_ConsUInt8(ctx, &pvalue->pdsch_Identity, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "PDSCH-Identity", "pdsch-Identity", -1, "PDSCH-SysInfo-VHCR-r7");
    /* pdsch-Info */
-   rtxCtxtPushElemName(ctx, "pdsch-Info");
    stat = asn1PD_UMTS_PDSCH_Info_r7(ctx, &pvalue->pdsch_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "pdsch-Info", -1, "PDSCH-SysInfo-VHCR-r7");
    /* dsch-TransportChannelsInfo */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dsch-TransportChannelsInfo");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_DSCH_TransportChannelsInfo(ctx, &pvalue->dsch_TransportChannelsInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dsch-TransportChannelsInfo", -1, "PDSCH-SysInfo-VHCR-r7");
    }
    /* dsch-TFCS */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dsch-TFCS");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_TFCS(ctx, &pvalue->dsch_TFCS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dsch-TFCS", -1, "PDSCH-SysInfo-VHCR-r7");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_PDSCH_SysInfoList_VHCR_r7(rtxContext* ctx, PDSCH_SysInfoList_VHCR_r7* pvalue)
+int asn1PD_UMTS_PDSCH_SysInfoList_VHCR_r7(rtxContext* RT_RESTRICT ctx, PDSCH_SysInfoList_VHCR_r7* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "PDSCH-SysInfoList-VHCR-r7");
    RT_SET_SIZE(ctx, 1, 8);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-SysInfoList-VHCR-r7");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       PDSCH_SysInfo_VHCR_r7* elem;
-      rtxCtxtPushArrayElemName(ctx, "PDSCH-SysInfo-VHCR-r7", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PDSCH_SysInfo_VHCR_r7));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PDSCH-SysInfo-VHCR-r7", (int32_t)i, "PDSCH-SysInfoList-VHCR-r7");
       elem = (PDSCH_SysInfo_VHCR_r7*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_PDSCH_SysInfo_VHCR_r7(elem);
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_PDSCH_SysInfo_VHCR_r7(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "PDSCH-SysInfo-VHCR-r7", (int32_t)i, "PDSCH-SysInfoList-VHCR-r7");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_TDD768_PRACH_CCode32(rtxContext* ctx, TDD768_PRACH_CCode32* pvalue)
+int asn1PD_UMTS_TDD768_PRACH_CCode32(rtxContext* RT_RESTRICT ctx, TDD768_PRACH_CCode32* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "TDD768-PRACH-CCode32");
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TDD768-PRACH-CCode32");
    return 0;
 }
 
-int asn1PD_UMTS_TDD768_PRACH_CCodeList_sf32(rtxContext* ctx, TDD768_PRACH_CCodeList_sf32* pvalue)
+int asn1PD_UMTS_TDD768_PRACH_CCodeList_sf32(rtxContext* RT_RESTRICT ctx, TDD768_PRACH_CCodeList_sf32* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t i;
    {
       uint32_t raw;
       stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
       pvalue->n = raw + 1;
       if (raw > 15) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "sf32");
          rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
       }
    }
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "TDD768-PRACH-CCode32", i);
       pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "TDD768-PRACH-CCode32");
       stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 15);
       if (stat != 0) {
          pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
+         RT_FAIL(ctx, stat, "TDD768-PRACH-CCode32", "TDD768-PRACH-CCode32", (int32_t)i, 0);
       }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
    }
    return 0;
 }
 
-int asn1PD_UMTS_TDD768_PRACH_CCode16(rtxContext* ctx, TDD768_PRACH_CCode16* pvalue)
+int asn1PD_UMTS_TDD768_PRACH_CCode16(rtxContext* RT_RESTRICT ctx, TDD768_PRACH_CCode16* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "TDD768-PRACH-CCode16");
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TDD768-PRACH-CCode16");
    return 0;
 }
 
-int asn1PD_UMTS_TDD768_PRACH_CCodeList_sf16(rtxContext* ctx, TDD768_PRACH_CCodeList_sf16* pvalue)
+int asn1PD_UMTS_TDD768_PRACH_CCodeList_sf16(rtxContext* RT_RESTRICT ctx, TDD768_PRACH_CCodeList_sf16* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t i;
    {
       uint32_t raw;
       stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
       pvalue->n = raw + 1;
       if (raw > 15) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "sf16");
          rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
       }
    }
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "TDD768-PRACH-CCode16", i);
       pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "TDD768-PRACH-CCode16");
       stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 15);
       if (stat != 0) {
          pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
+         RT_FAIL(ctx, stat, "TDD768-PRACH-CCode16", "TDD768-PRACH-CCode16", (int32_t)i, 0);
       }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
    }
    return 0;
 }
 
-int asn1PD_UMTS_TDD768_PRACH_CCodeList(rtxContext* ctx, TDD768_PRACH_CCodeList* pvalue)
+int asn1PD_UMTS_TDD768_PRACH_CCodeList(rtxContext* RT_RESTRICT ctx, TDD768_PRACH_CCodeList* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "TDD768-PRACH-CCodeList");
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TDD768-PRACH-CCodeList");
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "sf32");
+      case 0: /* sf32 */
          pvalue->u.sf32 = (TDD768_PRACH_CCodeList_sf32*)rtxMemHeapAlloc(ctx, sizeof(TDD768_PRACH_CCodeList_sf32));
-         if (pvalue->u.sf32 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.sf32 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sf32", -1, "TDD768-PRACH-CCodeList");
          asn1Init_UMTS_TDD768_PRACH_CCodeList_sf32(pvalue->u.sf32);
          stat = asn1PD_UMTS_TDD768_PRACH_CCodeList_sf32(ctx, pvalue->u.sf32);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "sf32", -1, "TDD768-PRACH-CCodeList");
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "sf16");
+      case 1: /* sf16 */
          pvalue->u.sf16 = (TDD768_PRACH_CCodeList_sf16*)rtxMemHeapAlloc(ctx, sizeof(TDD768_PRACH_CCodeList_sf16));
-         if (pvalue->u.sf16 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.sf16 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sf16", -1, "TDD768-PRACH-CCodeList");
          asn1Init_UMTS_TDD768_PRACH_CCodeList_sf16(pvalue->u.sf16);
          stat = asn1PD_UMTS_TDD768_PRACH_CCodeList_sf16(ctx, pvalue->u.sf16);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "sf16", -1, "TDD768-PRACH-CCodeList");
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TDD768-PRACH-CCodeList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_PRACH_RACH_Info_VHCR_r7(rtxContext* ctx, PRACH_RACH_Info_VHCR_r7* pvalue)
+int asn1PD_UMTS_PRACH_RACH_Info_VHCR_r7(rtxContext* RT_RESTRICT ctx, PRACH_RACH_Info_VHCR_r7* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PRACH-RACH-Info-VHCR-r7");
    /* timeslot */
-   rtxCtxtPushElemName(ctx, "timeslot");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
    stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, "PRACH-RACH-Info-VHCR-r7");
    /* channelisationCodeList */
-   rtxCtxtPushElemName(ctx, "channelisationCodeList");
    stat = asn1PD_UMTS_TDD768_PRACH_CCodeList(ctx, &pvalue->channelisationCodeList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "channelisationCodeList", -1, "PRACH-RACH-Info-VHCR-r7");
    /* prach-Midamble */
-   rtxCtxtPushElemName(ctx, "prach-Midamble");
-   rtxCtxtPushTypeName(ctx, "PRACH-Midamble");
    stat = pd_ConsUnsigned(ctx, &pvalue->prach_Midamble, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "PRACH-Midamble", "prach-Midamble", -1, "PRACH-RACH-Info-VHCR-r7");
    return 0;
 }
 
-int asn1PD_UMTS_PRACH_Partitioning_r7_fdd(rtxContext* ctx, PRACH_Partitioning_r7_fdd* pvalue)
+int asn1PD_UMTS_PRACH_Partitioning_r7_fdd(rtxContext* RT_RESTRICT ctx, PRACH_Partitioning_r7_fdd* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 8);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       ASCSetting_FDD* elem;
-      rtxCtxtPushArrayElemName(ctx, "ASCSetting-FDD", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(ASCSetting_FDD));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ASCSetting-FDD", (int32_t)i, 0);
       elem = (ASCSetting_FDD*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_ASCSetting_FDD(elem);
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_ASCSetting_FDD(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ASCSetting-FDD", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_AccessServiceClass_TDD_r7_channelisationCodeIndices(rtxContext* ctx, AccessServiceClass_TDD_r7_channelisationCodeIndices* pvalue)
+int asn1PD_UMTS_AccessServiceClass_TDD_r7_channelisationCodeIndices(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_channelisationCodeIndices* RT_RESTRICT pvalue)
 {
    int stat;
    RT_SET_SIZE(ctx, 16, 16);
    stat = pd_BitString32(ctx, pvalue, 16, 16);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size2_subchannels(rtxContext* ctx, AccessServiceClass_TDD_r7_subchannelSize_size2_subchannels* pvalue)
+int asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size2_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size2_subchannels* RT_RESTRICT pvalue)
 {
    int stat;
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size2(rtxContext* ctx, AccessServiceClass_TDD_r7_subchannelSize_size2* pvalue)
+int asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size2(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size2* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* subchannels */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "subchannels");
       pvalue->m |= 0x1u;
       stat = pd_ConsUnsigned(ctx, &pvalue->subchannels, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size4_subchannels(rtxContext* ctx, AccessServiceClass_TDD_r7_subchannelSize_size4_subchannels* pvalue)
+int asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size4_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size4_subchannels* RT_RESTRICT pvalue)
 {
    int stat;
    RT_SET_SIZE(ctx, 4, 4);
    stat = pd_BitString32(ctx, pvalue, 4, 4);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size4(rtxContext* ctx, AccessServiceClass_TDD_r7_subchannelSize_size4* pvalue)
+int asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size4(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size4* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* subchannels */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "subchannels");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size4_subchannels(ctx, &pvalue->subchannels);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size8_subchannels(rtxContext* ctx, AccessServiceClass_TDD_r7_subchannelSize_size8_subchannels* pvalue)
+int asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size8_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size8_subchannels* RT_RESTRICT pvalue)
 {
    int stat;
    RT_SET_SIZE(ctx, 8, 8);
    stat = pd_BitString32(ctx, pvalue, 8, 8);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size8(rtxContext* ctx, AccessServiceClass_TDD_r7_subchannelSize_size8* pvalue)
+int asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size8(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size8* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* subchannels */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "subchannels");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size8_subchannels(ctx, &pvalue->subchannels);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size16_subchannels(rtxContext* ctx, AccessServiceClass_TDD_r7_subchannelSize_size16_subchannels* pvalue)
+int asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size16_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size16_subchannels* RT_RESTRICT pvalue)
 {
    int stat;
    RT_SET_SIZE(ctx, 16, 16);
    stat = pd_BitString32(ctx, pvalue, 16, 16);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size16(rtxContext* ctx, AccessServiceClass_TDD_r7_subchannelSize_size16* pvalue)
+int asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size16(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size16* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* subchannels */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "subchannels");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size16_subchannels(ctx, &pvalue->subchannels);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize(rtxContext* ctx, AccessServiceClass_TDD_r7_subchannelSize* pvalue)
+int asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 4);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "size1");
-         rtxCtxtPopElemName(ctx);
+      case 0: /* size1 */
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "size2");
+      case 1: /* size2 */
          pvalue->u.size2 = (AccessServiceClass_TDD_r7_subchannelSize_size2*)rtxMemHeapAlloc(ctx, sizeof(AccessServiceClass_TDD_r7_subchannelSize_size2));
-         if (pvalue->u.size2 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.size2 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "size2", -1, 0);
          asn1Init_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size2(pvalue->u.size2);
          stat = asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size2(ctx, pvalue->u.size2);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "size2", -1, 0);
          break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "size4");
+      case 2: /* size4 */
          pvalue->u.size4 = (AccessServiceClass_TDD_r7_subchannelSize_size4*)rtxMemHeapAlloc(ctx, sizeof(AccessServiceClass_TDD_r7_subchannelSize_size4));
-         if (pvalue->u.size4 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.size4 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "size4", -1, 0);
          asn1Init_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size4(pvalue->u.size4);
          stat = asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size4(ctx, pvalue->u.size4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "size4", -1, 0);
          break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "size8");
+      case 3: /* size8 */
          pvalue->u.size8 = (AccessServiceClass_TDD_r7_subchannelSize_size8*)rtxMemHeapAlloc(ctx, sizeof(AccessServiceClass_TDD_r7_subchannelSize_size8));
-         if (pvalue->u.size8 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.size8 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "size8", -1, 0);
          asn1Init_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size8(pvalue->u.size8);
          stat = asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size8(ctx, pvalue->u.size8);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "size8", -1, 0);
          break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "size16");
+      case 4: /* size16 */
          pvalue->u.size16 = (AccessServiceClass_TDD_r7_subchannelSize_size16*)rtxMemHeapAlloc(ctx, sizeof(AccessServiceClass_TDD_r7_subchannelSize_size16));
-         if (pvalue->u.size16 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.size16 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "size16", -1, 0);
          asn1Init_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size16(pvalue->u.size16);
          stat = asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size16(ctx, pvalue->u.size16);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "size16", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_AccessServiceClass_TDD_r7(rtxContext* ctx, AccessServiceClass_TDD_r7* pvalue)
+int asn1PD_UMTS_AccessServiceClass_TDD_r7(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "AccessServiceClass-TDD-r7");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AccessServiceClass-TDD-r7");
    /* channelisationCodeIndices */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "channelisationCodeIndices");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_AccessServiceClass_TDD_r7_channelisationCodeIndices(ctx, &pvalue->channelisationCodeIndices);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "channelisationCodeIndices", -1, "AccessServiceClass-TDD-r7");
    }
    /* subchannelSize */
-   rtxCtxtPushElemName(ctx, "subchannelSize");
    stat = asn1PD_UMTS_AccessServiceClass_TDD_r7_subchannelSize(ctx, &pvalue->subchannelSize);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "subchannelSize", -1, "AccessServiceClass-TDD-r7");
    return 0;
 }
 
-int asn1PD_UMTS_ASCSetting_TDD_r7(rtxContext* ctx, ASCSetting_TDD_r7* pvalue)
+int asn1PD_UMTS_ASCSetting_TDD_r7(rtxContext* RT_RESTRICT ctx, ASCSetting_TDD_r7* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "ASCSetting-TDD-r7");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ASCSetting-TDD-r7");
    /* accessServiceClass-TDD */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "accessServiceClass-TDD");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_AccessServiceClass_TDD_r7(ctx, &pvalue->accessServiceClass_TDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "accessServiceClass-TDD", -1, "ASCSetting-TDD-r7");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_PRACH_Partitioning_r7_tdd(rtxContext* ctx, PRACH_Partitioning_r7_tdd* pvalue)
+int asn1PD_UMTS_PRACH_Partitioning_r7_tdd(rtxContext* RT_RESTRICT ctx, PRACH_Partitioning_r7_tdd* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 8);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       ASCSetting_TDD_r7* elem;
-      rtxCtxtPushArrayElemName(ctx, "ASCSetting-TDD-r7", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(ASCSetting_TDD_r7));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ASCSetting-TDD-r7", (int32_t)i, 0);
       elem = (ASCSetting_TDD_r7*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_ASCSetting_TDD_r7(elem);
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_ASCSetting_TDD_r7(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ASCSetting-TDD-r7", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_PRACH_Partitioning_r7(rtxContext* ctx, PRACH_Partitioning_r7* pvalue)
+int asn1PD_UMTS_PRACH_Partitioning_r7(rtxContext* RT_RESTRICT ctx, PRACH_Partitioning_r7* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "PRACH-Partitioning-r7");
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-Partitioning-r7");
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
+      case 0: /* fdd */
          pvalue->u.fdd = (PRACH_Partitioning_r7_fdd*)rtxMemHeapAlloc(ctx, sizeof(PRACH_Partitioning_r7_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, "PRACH-Partitioning-r7");
          asn1Init_UMTS_PRACH_Partitioning_r7_fdd(pvalue->u.fdd);
          stat = asn1PD_UMTS_PRACH_Partitioning_r7_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "PRACH-Partitioning-r7");
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
+      case 1: /* tdd */
          pvalue->u.tdd = (PRACH_Partitioning_r7_tdd*)rtxMemHeapAlloc(ctx, sizeof(PRACH_Partitioning_r7_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, "PRACH-Partitioning-r7");
          asn1Init_UMTS_PRACH_Partitioning_r7_tdd(pvalue->u.tdd);
          stat = asn1PD_UMTS_PRACH_Partitioning_r7_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "PRACH-Partitioning-r7");
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PRACH-Partitioning-r7");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_PRACH_SystemInformation_VHCR_r7(rtxContext* ctx, PRACH_SystemInformation_VHCR_r7* pvalue)
+int asn1PD_UMTS_PRACH_SystemInformation_VHCR_r7(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformation_VHCR_r7* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PRACH-SystemInformation-VHCR-r7");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-SystemInformation-VHCR-r7");
    /* prach-RACH-Info */
-   rtxCtxtPushElemName(ctx, "prach-RACH-Info");
    stat = asn1PD_UMTS_PRACH_RACH_Info_VHCR_r7(ctx, &pvalue->prach_RACH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "prach-RACH-Info", -1, "PRACH-SystemInformation-VHCR-r7");
    /* prach-Partitioning */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "prach-Partitioning");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_PRACH_Partitioning_r7(ctx, &pvalue->prach_Partitioning);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "prach-Partitioning", -1, "PRACH-SystemInformation-VHCR-r7");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_PRACH_SystemInformationList_VHCR_r7(rtxContext* ctx, PRACH_SystemInformationList_VHCR_r7* pvalue)
+int asn1PD_UMTS_PRACH_SystemInformationList_VHCR_r7(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformationList_VHCR_r7* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "PRACH-SystemInformationList-VHCR-r7");
    RT_SET_SIZE(ctx, 1, 16);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-SystemInformationList-VHCR-r7");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       PRACH_SystemInformation_VHCR_r7* elem;
-      rtxCtxtPushArrayElemName(ctx, "PRACH-SystemInformation-VHCR-r7", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PRACH_SystemInformation_VHCR_r7));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PRACH-SystemInformation-VHCR-r7", (int32_t)i, "PRACH-SystemInformationList-VHCR-r7");
       elem = (PRACH_SystemInformation_VHCR_r7*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_PRACH_SystemInformation_VHCR_r7(elem);
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_PRACH_SystemInformation_VHCR_r7(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "PRACH-SystemInformation-VHCR-r7", (int32_t)i, "PRACH-SystemInformationList-VHCR-r7");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768(rtxContext* ctx, SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768* pvalue)
+int asn1PD_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* pusch-SysInfoList-SFN */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "pusch-SysInfoList-SFN");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_PUSCH_SysInfoList_SFN_VHCR(ctx, &pvalue->pusch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
    }
    /* pdsch-SysInfoList-SFN */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "pdsch-SysInfoList-SFN");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_PDSCH_SysInfoList_VHCR_r7(ctx, &pvalue->pdsch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
    }
    /* prach-SystemInformationList */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "prach-SystemInformationList");
       pvalue->m |= 0x4u;
       stat = asn1PD_UMTS_PRACH_SystemInformationList_VHCR_r7(ctx, &pvalue->prach_SystemInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "prach-SystemInformationList", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_PRACH_RACH_Info_LCR_v770ext(rtxContext* ctx, PRACH_RACH_Info_LCR_v770ext* pvalue)
+int asn1PD_UMTS_PRACH_RACH_Info_LCR_v770ext(rtxContext* RT_RESTRICT ctx, PRACH_RACH_Info_LCR_v770ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PRACH-RACH-Info-LCR-v770ext");
    /* e-RUCCH-Sync-UL-Codes-Bitmap */
-   rtxCtxtPushElemName(ctx, "e-RUCCH-Sync-UL-Codes-Bitmap");
    stat = asn1PD_UMTS_Sync_UL_Codes_Bitmap(ctx, &pvalue->e_RUCCH_Sync_UL_Codes_Bitmap);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "e-RUCCH-Sync-UL-Codes-Bitmap", -1, "PRACH-RACH-Info-LCR-v770ext");
    return 0;
 }
 
-int asn1PD_UMTS_PRACH_SystemInformation_LCR_v770ext(rtxContext* ctx, PRACH_SystemInformation_LCR_v770ext* pvalue)
+int asn1PD_UMTS_PRACH_SystemInformation_LCR_v770ext(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformation_LCR_v770ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PRACH-SystemInformation-LCR-v770ext");
    /* prach-RACH-Info-LCR */
-   rtxCtxtPushElemName(ctx, "prach-RACH-Info-LCR");
    stat = asn1PD_UMTS_PRACH_RACH_Info_LCR_v770ext(ctx, &pvalue->prach_RACH_Info_LCR);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "prach-RACH-Info-LCR", -1, "PRACH-SystemInformation-LCR-v770ext");
    return 0;
 }
 
-int asn1PD_UMTS_PRACH_SystemInformationList_LCR_v770ext(rtxContext* ctx, PRACH_SystemInformationList_LCR_v770ext* pvalue)
+int asn1PD_UMTS_PRACH_SystemInformationList_LCR_v770ext(rtxContext* RT_RESTRICT ctx, PRACH_SystemInformationList_LCR_v770ext* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "PRACH-SystemInformationList-LCR-v770ext");
    RT_SET_SIZE(ctx, 1, 16);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-SystemInformationList-LCR-v770ext");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       PRACH_SystemInformation_LCR_v770ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "PRACH-SystemInformation-LCR-v770ext", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PRACH_SystemInformation_LCR_v770ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PRACH-SystemInformation-LCR-v770ext", (int32_t)i, "PRACH-SystemInformationList-LCR-v770ext");
       elem = (PRACH_SystemInformation_LCR_v770ext*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_PRACH_SystemInformation_LCR_v770ext(elem);
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_PRACH_SystemInformation_LCR_v770ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "PRACH-SystemInformation-LCR-v770ext", (int32_t)i, "PRACH-SystemInformationList-LCR-v770ext");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128(rtxContext* ctx, SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128* pvalue)
+int asn1PD_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* prach-SystemInformationList */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "prach-SystemInformationList");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_PRACH_SystemInformationList_LCR_v770ext(ctx, &pvalue->prach_SystemInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "prach-SystemInformationList", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo(rtxContext* ctx, SysInfoType5_v770ext_IEs_modeSpecificInfo* pvalue)
+int asn1PD_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType5_v770ext_IEs_modeSpecificInfo* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
+      case 0: /* fdd */
          pvalue->u.fdd = (SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
          asn1Init_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd(pvalue->u.fdd);
          stat = asn1PD_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd768");
+      case 1: /* tdd768 */
          pvalue->u.tdd768 = (SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768*)rtxMemHeapAlloc(ctx, sizeof(SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768));
-         if (pvalue->u.tdd768 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
          asn1Init_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768(pvalue->u.tdd768);
          stat = asn1PD_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
          break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
+      case 2: /* tdd128 */
          pvalue->u.tdd128 = (SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128*)rtxMemHeapAlloc(ctx, sizeof(SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
          asn1Init_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128(pvalue->u.tdd128);
          stat = asn1PD_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode_ueSpecificMidamble* pvalue)
+int asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftLong");
    stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode(rtxContext* ctx, MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode* pvalue)
+int asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
+      case 0: /* defaultMidamble */
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "commonMidamble");
-         rtxCtxtPopElemName(ctx);
+      case 1: /* commonMidamble */
          break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
+      case 2: /* ueSpecificMidamble */
          pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
          stat = asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type1(rtxContext* ctx, MidambleShiftAndBurstType_r7_burstType_type1* pvalue)
+int asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type1(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type1* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* midambleConfigurationBurstType1and3 */
-   rtxCtxtPushElemName(ctx, "midambleConfigurationBurstType1and3");
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType1and3");
    stat = pd_ConsUnsigned(ctx, &pvalue->midambleConfigurationBurstType1and3, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
    /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
    stat = asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode_ueSpecificMidamble* pvalue)
+int asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftShort");
    stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "MidambleShiftShort", "midambleShift", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode(rtxContext* ctx, MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode* pvalue)
+int asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
+      case 0: /* defaultMidamble */
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "commonMidamble");
-         rtxCtxtPopElemName(ctx);
+      case 1: /* commonMidamble */
          break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
+      case 2: /* ueSpecificMidamble */
          pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
          stat = asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type2(rtxContext* ctx, MidambleShiftAndBurstType_r7_burstType_type2* pvalue)
+int asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type2(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type2* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* midambleConfigurationBurstType2 */
-   rtxCtxtPushElemName(ctx, "midambleConfigurationBurstType2");
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType2");
    stat = pd_ConsUnsigned(ctx, &pvalue->midambleConfigurationBurstType2, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType2", "midambleConfigurationBurstType2", -1, 0);
    /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
    stat = asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode_ueSpecificMidamble* pvalue)
+int asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftLong");
    stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode(rtxContext* ctx, MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode* pvalue)
+int asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
+      case 0: /* defaultMidamble */
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
+      case 1: /* ueSpecificMidamble */
          pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
          stat = asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type3(rtxContext* ctx, MidambleShiftAndBurstType_r7_burstType_type3* pvalue)
+int asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type3(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType_type3* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* midambleConfigurationBurstType1and3 */
-   rtxCtxtPushElemName(ctx, "midambleConfigurationBurstType1and3");
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType1and3");
    stat = pd_ConsUnsigned(ctx, &pvalue->midambleConfigurationBurstType1and3, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
    /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
    stat = asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType(rtxContext* ctx, MidambleShiftAndBurstType_r7_burstType* pvalue)
+int asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7_burstType* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "type1");
+      case 0: /* type1 */
          pvalue->u.type1 = (MidambleShiftAndBurstType_r7_burstType_type1*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_r7_burstType_type1));
-         if (pvalue->u.type1 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.type1 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "type1", -1, 0);
          asn1Init_UMTS_MidambleShiftAndBurstType_r7_burstType_type1(pvalue->u.type1);
          stat = asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type1(ctx, pvalue->u.type1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "type1", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "type2");
+      case 1: /* type2 */
          pvalue->u.type2 = (MidambleShiftAndBurstType_r7_burstType_type2*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_r7_burstType_type2));
-         if (pvalue->u.type2 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.type2 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "type2", -1, 0);
          asn1Init_UMTS_MidambleShiftAndBurstType_r7_burstType_type2(pvalue->u.type2);
          stat = asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type2(ctx, pvalue->u.type2);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "type2", -1, 0);
          break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "type3");
+      case 2: /* type3 */
          pvalue->u.type3 = (MidambleShiftAndBurstType_r7_burstType_type3*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_r7_burstType_type3));
-         if (pvalue->u.type3 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.type3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "type3", -1, 0);
          asn1Init_UMTS_MidambleShiftAndBurstType_r7_burstType_type3(pvalue->u.type3);
          stat = asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType_type3(ctx, pvalue->u.type3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "type3", -1, 0);
          break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "mbsfnBurstType4");
-         rtxCtxtPopElemName(ctx);
+      case 3: /* mbsfnBurstType4 */
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_MidambleShiftAndBurstType_r7(rtxContext* ctx, MidambleShiftAndBurstType_r7* pvalue)
+int asn1PD_UMTS_MidambleShiftAndBurstType_r7(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_r7* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MidambleShiftAndBurstType-r7");
    /* burstType */
-   rtxCtxtPushElemName(ctx, "burstType");
    stat = asn1PD_UMTS_MidambleShiftAndBurstType_r7_burstType(ctx, &pvalue->burstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "burstType", -1, "MidambleShiftAndBurstType-r7");
    return 0;
 }
 
-int asn1PD_UMTS_IndividualTimeslotInfo_r7(rtxContext* ctx, IndividualTimeslotInfo_r7* pvalue)
+int asn1PD_UMTS_IndividualTimeslotInfo_r7(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_r7* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "IndividualTimeslotInfo-r7");
    /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
    stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, "IndividualTimeslotInfo-r7");
    /* tfci-Existence */
-   rtxCtxtPushElemName(ctx, "tfci-Existence");
    stat = rtxDecBitInline(ctx, &pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, "IndividualTimeslotInfo-r7");
    /* midambleShiftAndBurstType */
-   rtxCtxtPushElemName(ctx, "midambleShiftAndBurstType");
    stat = asn1PD_UMTS_MidambleShiftAndBurstType_r7(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "IndividualTimeslotInfo-r7");
    return 0;
 }
 
-int asn1PD_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384(rtxContext* ctx, SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384* pvalue)
+int asn1PD_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* individualTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "individualTimeslotInfo");
    stat = asn1PD_UMTS_IndividualTimeslotInfo_r7(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
    /* channelisationCode */
-   rtxCtxtPushElemName(ctx, "channelisationCode");
    stat = asn1PD_UMTS_SCCPCH_ChannelisationCodeList(ctx, &pvalue->channelisationCode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "channelisationCode", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_SCCPCH_ChannelisationCode_VHCR(rtxContext* ctx, SCCPCH_ChannelisationCode_VHCR* pvalue)
+int asn1PD_UMTS_SCCPCH_ChannelisationCode_VHCR(rtxContext* RT_RESTRICT ctx, SCCPCH_ChannelisationCode_VHCR* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "SCCPCH-ChannelisationCode-VHCR");
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SCCPCH-ChannelisationCode-VHCR");
    return 0;
 }
 
-int asn1PD_UMTS_SCCPCH_ChannelisationCodeList_VHCR(rtxContext* ctx, SCCPCH_ChannelisationCodeList_VHCR* pvalue)
+int asn1PD_UMTS_SCCPCH_ChannelisationCodeList_VHCR(rtxContext* RT_RESTRICT ctx, SCCPCH_ChannelisationCodeList_VHCR* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "SCCPCH-ChannelisationCodeList-VHCR");
    {
       uint32_t raw;
       stat = rtxDecBits(ctx, &raw, 5);
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, "SCCPCH-ChannelisationCodeList-VHCR");
       pvalue->n = raw + 1;
       if (raw > 31) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "SCCPCH-ChannelisationCodeList-VHCR");
          rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "SCCPCH-ChannelisationCodeList-VHCR");
       }
    }
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "SCCPCH-ChannelisationCode-VHCR", i);
       pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "SCCPCH-ChannelisationCode-VHCR");
       stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 31);
       if (stat != 0) {
          pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
+         RT_FAIL(ctx, stat, "SCCPCH-ChannelisationCode-VHCR", "SCCPCH-ChannelisationCode-VHCR", (int32_t)i, "SCCPCH-ChannelisationCodeList-VHCR");
       }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768(rtxContext* ctx, SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768* pvalue)
+int asn1PD_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* individualTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "individualTimeslotInfo");
    stat = asn1PD_UMTS_IndividualTimeslotInfo_VHCR(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
    /* channelisationCode */
-   rtxCtxtPushElemName(ctx, "channelisationCode");
    stat = asn1PD_UMTS_SCCPCH_ChannelisationCodeList_VHCR(ctx, &pvalue->channelisationCode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "channelisationCode", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo(rtxContext* ctx, SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo* pvalue)
+int asn1PD_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "tdd384");
+      case 0: /* tdd384 */
          pvalue->u.tdd384 = (SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
          asn1Init_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384(pvalue->u.tdd384);
          stat = asn1PD_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd768");
+      case 1: /* tdd768 */
          pvalue->u.tdd768 = (SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768));
-         if (pvalue->u.tdd768 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
          asn1Init_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768(pvalue->u.tdd768);
          stat = asn1PD_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7(rtxContext* ctx, SecondaryCCPCH_Info_HCR_VHCR_r7* pvalue)
+int asn1PD_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_HCR_VHCR_r7* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SecondaryCCPCH-Info-HCR-VHCR-r7");
    /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
    stat = asn1PD_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SecondaryCCPCH-Info-HCR-VHCR-r7");
    return 0;
 }
 
-int asn1PD_UMTS_TDD768_PICH_CCode(rtxContext* ctx, TDD768_PICH_CCode* pvalue)
+int asn1PD_UMTS_TDD768_PICH_CCode(rtxContext* RT_RESTRICT ctx, TDD768_PICH_CCode* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "TDD768-PICH-CCode");
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TDD768-PICH-CCode");
    return 0;
 }
 
-int asn1PD_UMTS_PICH_Info_HCR_VHCR_r7_channelisationCode(rtxContext* ctx, PICH_Info_HCR_VHCR_r7_channelisationCode* pvalue)
+int asn1PD_UMTS_PICH_Info_HCR_VHCR_r7_channelisationCode(rtxContext* RT_RESTRICT ctx, PICH_Info_HCR_VHCR_r7_channelisationCode* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         rtxCtxtPushTypeName(ctx, "TDD-PICH-CCode");
+      case 0: /* tdd384 */
          stat = pd_ConsUnsigned(ctx, &pvalue->u.tdd384, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "TDD-PICH-CCode", "tdd384", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd768");
-         rtxCtxtPushTypeName(ctx, "TDD768-PICH-CCode");
+      case 1: /* tdd768 */
          stat = pd_ConsUnsigned(ctx, &pvalue->u.tdd768, 0, 31);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "TDD768-PICH-CCode", "tdd768", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_PICH_Info_HCR_VHCR_r7(rtxContext* ctx, PICH_Info_HCR_VHCR_r7* pvalue)
+int asn1PD_UMTS_PICH_Info_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, PICH_Info_HCR_VHCR_r7* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PICH-Info-HCR-VHCR-r7");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PICH-Info-HCR-VHCR-r7");
    /* channelisationCode */
    if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "channelisationCode");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_PICH_Info_HCR_VHCR_r7_channelisationCode(ctx, &pvalue->channelisationCode);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "channelisationCode", -1, "PICH-Info-HCR-VHCR-r7");
    }
    /* timeslot */
    if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "timeslot");
       pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "TimeslotNumber");
       stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 0, 14);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, "PICH-Info-HCR-VHCR-r7");
    }
    /* midambleShiftAndBurstType */
-   rtxCtxtPushElemName(ctx, "midambleShiftAndBurstType");
    stat = asn1PD_UMTS_MidambleShiftAndBurstType(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "PICH-Info-HCR-VHCR-r7");
    /* repetitionPeriodLengthOffset */
    if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "repetitionPeriodLengthOffset");
       pvalue->m |= 0x4u;
       stat = asn1PD_UMTS_RepPerLengthOffset_PICH(ctx, &pvalue->repetitionPeriodLengthOffset);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "repetitionPeriodLengthOffset", -1, "PICH-Info-HCR-VHCR-r7");
    }
    /* pagingIndicatorLength */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "pagingIndicatorLength");
-      rtxCtxtPushTypeName(ctx, "PagingIndicatorLength");
       stat = pd_ConsUnsigned(ctx, &pvalue->pagingIndicatorLength, 0, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "PagingIndicatorLength", "pagingIndicatorLength", -1, "PICH-Info-HCR-VHCR-r7");
    }
    else {
       pvalue->pagingIndicatorLength = 0;
    }
    /* n-GAP */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "n-GAP");
-      rtxCtxtPushTypeName(ctx, "N-GAP");
       stat = pd_ConsUnsigned(ctx, &pvalue->n_GAP, 0, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "N-GAP", "n-GAP", -1, "PICH-Info-HCR-VHCR-r7");
    }
    else {
       pvalue->n_GAP = 1;
    }
    /* n-PCH */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "n-PCH");
-      rtxCtxtPushTypeName(ctx, "N-PCH");
       stat = pd_ConsUInt8(ctx, &pvalue->n_PCH, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "N-PCH", "n-PCH", -1, "PICH-Info-HCR-VHCR-r7");
    }
    else {
       pvalue->n_PCH = 2;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_SCCPCH_SystemInformation_HCR_VHCR_r7(rtxContext* ctx, SCCPCH_SystemInformation_HCR_VHCR_r7* pvalue)
+int asn1PD_UMTS_SCCPCH_SystemInformation_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation_HCR_VHCR_r7* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SCCPCH-SystemInformation-HCR-VHCR-r7");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SCCPCH-SystemInformation-HCR-VHCR-r7");
    /* secondaryCCPCH-Info */
-   rtxCtxtPushElemName(ctx, "secondaryCCPCH-Info");
    stat = asn1PD_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7(ctx, &pvalue->secondaryCCPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "secondaryCCPCH-Info", -1, "SCCPCH-SystemInformation-HCR-VHCR-r7");
    /* tfcs */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "tfcs");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_TFCS(ctx, &pvalue->tfcs);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "tfcs", -1, "SCCPCH-SystemInformation-HCR-VHCR-r7");
    }
    /* fach-PCH-InformationList */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "fach-PCH-InformationList");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_FACH_PCH_InformationList(ctx, &pvalue->fach_PCH_InformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "fach-PCH-InformationList", -1, "SCCPCH-SystemInformation-HCR-VHCR-r7");
    }
    /* pich-Info */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "pich-Info");
       pvalue->m |= 0x4u;
       stat = asn1PD_UMTS_PICH_Info_HCR_VHCR_r7(ctx, &pvalue->pich_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pich-Info", -1, "SCCPCH-SystemInformation-HCR-VHCR-r7");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_SCCPCH_SystemInformationList_HCR_VHCR_r7(rtxContext* ctx, SCCPCH_SystemInformationList_HCR_VHCR_r7* pvalue)
+int asn1PD_UMTS_SCCPCH_SystemInformationList_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformationList_HCR_VHCR_r7* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "SCCPCH-SystemInformationList-HCR-VHCR-r7");
    RT_SET_SIZE(ctx, 1, 16);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SCCPCH-SystemInformationList-HCR-VHCR-r7");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       SCCPCH_SystemInformation_HCR_VHCR_r7* elem;
-      rtxCtxtPushArrayElemName(ctx, "SCCPCH-SystemInformation-HCR-VHCR-r7", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SCCPCH_SystemInformation_HCR_VHCR_r7));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "SCCPCH-SystemInformation-HCR-VHCR-r7", (int32_t)i, "SCCPCH-SystemInformationList-HCR-VHCR-r7");
       elem = (SCCPCH_SystemInformation_HCR_VHCR_r7*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_SCCPCH_SystemInformation_HCR_VHCR_r7(elem);
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_SCCPCH_SystemInformation_HCR_VHCR_r7(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "SCCPCH-SystemInformation-HCR-VHCR-r7", (int32_t)i, "SCCPCH-SystemInformationList-HCR-VHCR-r7");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd_modulation(rtxContext* ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd_modulation* pvalue)
+int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd_modulation(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd_modulation* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "modQPSK");
-         rtxCtxtPopElemName(ctx);
+      case 0: /* modQPSK */
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "mod16QAM");
+      case 1: /* mod16QAM */
          stat = pd_ConsInt8(ctx, &pvalue->u.mod16QAM, -11, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "mod16QAM", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd(rtxContext* ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd* pvalue)
+int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* secondaryScramblingCode */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "secondaryScramblingCode");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "SecondaryScramblingCode");
       stat = pd_ConsUInt8(ctx, &pvalue->secondaryScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, 0);
    }
    /* sttd-Indicator */
-   rtxCtxtPushElemName(ctx, "sttd-Indicator");
    stat = rtxDecBitInline(ctx, &pvalue->sttd_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sttd-Indicator", -1, 0);
    /* sf-AndCodeNumber */
-   rtxCtxtPushElemName(ctx, "sf-AndCodeNumber");
    stat = asn1PD_UMTS_SF256_AndCodeNumber(ctx, &pvalue->sf_AndCodeNumber);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sf-AndCodeNumber", -1, 0);
    /* timingOffset */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "timingOffset");
-      rtxCtxtPushTypeName(ctx, "TimingOffset");
       stat = pd_ConsUInt8(ctx, &pvalue->timingOffset, 0, 149);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "TimingOffset", "timingOffset", -1, 0);
    }
    else {
       pvalue->timingOffset = 0;
    }
    /* modulation */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "modulation");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd_modulation(ctx, &pvalue->modulation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "modulation", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_DownlinkAdditionalTimeslots_r7_parameters_sameAsLast(rtxContext* ctx, DownlinkAdditionalTimeslots_r7_parameters_sameAsLast* pvalue)
+int asn1PD_UMTS_DownlinkAdditionalTimeslots_r7_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_r7_parameters_sameAsLast* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
    stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_DownlinkAdditionalTimeslots_r7_parameters_newParameters(rtxContext* ctx, DownlinkAdditionalTimeslots_r7_parameters_newParameters* pvalue)
+int asn1PD_UMTS_DownlinkAdditionalTimeslots_r7_parameters_newParameters(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_r7_parameters_newParameters* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* individualTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "individualTimeslotInfo");
    stat = asn1PD_UMTS_IndividualTimeslotInfo_r7(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
    /* dl-TS-ChannelisationCodesShort */
-   rtxCtxtPushElemName(ctx, "dl-TS-ChannelisationCodesShort");
    stat = asn1PD_UMTS_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_DownlinkAdditionalTimeslots_r7_parameters(rtxContext* ctx, DownlinkAdditionalTimeslots_r7_parameters* pvalue)
+int asn1PD_UMTS_DownlinkAdditionalTimeslots_r7_parameters(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_r7_parameters* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "sameAsLast");
+      case 0: /* sameAsLast */
          pvalue->u.sameAsLast = (DownlinkAdditionalTimeslots_r7_parameters_sameAsLast*)rtxMemHeapAllocZ(ctx, sizeof(DownlinkAdditionalTimeslots_r7_parameters_sameAsLast));
-         if (pvalue->u.sameAsLast == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.sameAsLast == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sameAsLast", -1, 0);
          stat = asn1PD_UMTS_DownlinkAdditionalTimeslots_r7_parameters_sameAsLast(ctx, pvalue->u.sameAsLast);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "newParameters");
+      case 1: /* newParameters */
          pvalue->u.newParameters = (DownlinkAdditionalTimeslots_r7_parameters_newParameters*)rtxMemHeapAlloc(ctx, sizeof(DownlinkAdditionalTimeslots_r7_parameters_newParameters));
-         if (pvalue->u.newParameters == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.newParameters == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "newParameters", -1, 0);
          asn1Init_UMTS_DownlinkAdditionalTimeslots_r7_parameters_newParameters(pvalue->u.newParameters);
          stat = asn1PD_UMTS_DownlinkAdditionalTimeslots_r7_parameters_newParameters(ctx, pvalue->u.newParameters);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_DownlinkAdditionalTimeslots_r7(rtxContext* ctx, DownlinkAdditionalTimeslots_r7* pvalue)
+int asn1PD_UMTS_DownlinkAdditionalTimeslots_r7(rtxContext* RT_RESTRICT ctx, DownlinkAdditionalTimeslots_r7* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DownlinkAdditionalTimeslots-r7");
    /* parameters */
-   rtxCtxtPushElemName(ctx, "parameters");
    stat = asn1PD_UMTS_DownlinkAdditionalTimeslots_r7_parameters(ctx, &pvalue->parameters);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "parameters", -1, "DownlinkAdditionalTimeslots-r7");
    return 0;
 }
 
-int asn1PD_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* ctx, DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList* pvalue)
+int asn1PD_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 13);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       DownlinkAdditionalTimeslots_r7* elem;
-      rtxCtxtPushArrayElemName(ctx, "DownlinkAdditionalTimeslots-r7", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DownlinkAdditionalTimeslots_r7));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DownlinkAdditionalTimeslots-r7", (int32_t)i, 0);
       elem = (DownlinkAdditionalTimeslots_r7*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_DownlinkAdditionalTimeslots_r7(elem);
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_DownlinkAdditionalTimeslots_r7(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "DownlinkAdditionalTimeslots-r7", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots(rtxContext* ctx, DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots* pvalue)
+int asn1PD_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "consecutive");
+      case 0: /* consecutive */
          stat = pd_ConsUInt8(ctx, &pvalue->u.consecutive, 1, 13);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "timeslotList");
+      case 1: /* timeslotList */
          pvalue->u.timeslotList = (DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList*)rtxMemHeapAlloc(ctx, sizeof(DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList));
-         if (pvalue->u.timeslotList == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.timeslotList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "timeslotList", -1, 0);
          asn1Init_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList(pvalue->u.timeslotList);
          stat = asn1PD_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots(rtxContext* ctx, DownlinkTimeslotsCodes_r7_moreTimeslots* pvalue)
+int asn1PD_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_r7_moreTimeslots* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "noMore");
-         rtxCtxtPopElemName(ctx);
+      case 0: /* noMore */
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "additionalTimeslots");
+      case 1: /* additionalTimeslots */
          pvalue->u.additionalTimeslots = (DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots*)rtxMemHeapAlloc(ctx, sizeof(DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots));
-         if (pvalue->u.additionalTimeslots == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.additionalTimeslots == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "additionalTimeslots", -1, 0);
          asn1Init_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots(pvalue->u.additionalTimeslots);
          stat = asn1PD_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "additionalTimeslots", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
+   return 0;
+}
+
+int asn1PD_UMTS_DownlinkTimeslotsCodes_r7(rtxContext* RT_RESTRICT ctx, DownlinkTimeslotsCodes_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* firstIndividualTimeslotInfo */
+   stat = asn1PD_UMTS_IndividualTimeslotInfo_r7(ctx, &pvalue->firstIndividualTimeslotInfo);
+   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "DownlinkTimeslotsCodes-r7");
+   /* dl-TS-ChannelisationCodesShort */
+   stat = asn1PD_UMTS_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort);
+   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, "DownlinkTimeslotsCodes-r7");
+   /* moreTimeslots */
+   stat = asn1PD_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots(ctx, &pvalue->moreTimeslots);
+   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "DownlinkTimeslotsCodes-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384_modulation(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384_modulation* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* commonTimeslotInfoMBMS */
+   stat = asn1PD_UMTS_CommonTimeslotInfoMBMS(ctx, &pvalue->commonTimeslotInfoMBMS);
+   RT_CHECK(ctx, stat, 0, "commonTimeslotInfoMBMS", -1, 0);
+   /* downlinkTimeslotsCodes */
+   stat = asn1PD_UMTS_DownlinkTimeslotsCodes_r7(ctx, &pvalue->downlinkTimeslotsCodes);
+   RT_CHECK(ctx, stat, 0, "downlinkTimeslotsCodes", -1, 0);
+   /* modulation */
+   stat = pd_ConsUnsigned(ctx, &pvalue->modulation, 0, 1);
+   RT_CHECK(ctx, stat, 0, "modulation", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768_modulation(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768_modulation* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* commonTimeslotInfoMBMS */
+   stat = asn1PD_UMTS_CommonTimeslotInfoMBMS(ctx, &pvalue->commonTimeslotInfoMBMS);
+   RT_CHECK(ctx, stat, 0, "commonTimeslotInfoMBMS", -1, 0);
+   /* downlinkTimeslotsCodes */
+   stat = asn1PD_UMTS_DownlinkTimeslotsCodes_VHCR(ctx, &pvalue->downlinkTimeslotsCodes);
+   RT_CHECK(ctx, stat, 0, "downlinkTimeslotsCodes", -1, 0);
+   /* modulation */
+   stat = pd_ConsUnsigned(ctx, &pvalue->modulation, 0, 1);
+   RT_CHECK(ctx, stat, 0, "modulation", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_TimeSlotLCR_ext(rtxContext* RT_RESTRICT ctx, TimeSlotLCR_ext* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimeSlotLCR-ext");
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128_modulation(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128_modulation* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* commonTimeslotInfoMBMS */
+   stat = asn1PD_UMTS_CommonTimeslotInfoMBMS(ctx, &pvalue->commonTimeslotInfoMBMS);
+   RT_CHECK(ctx, stat, 0, "commonTimeslotInfoMBMS", -1, 0);
+   /* downlinkTimeslotsCodes */
+   stat = asn1PD_UMTS_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->downlinkTimeslotsCodes);
+   RT_CHECK(ctx, stat, 0, "downlinkTimeslotsCodes", -1, 0);
+   /* mbsfnSpecialTimeSlot */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->mbsfnSpecialTimeSlot, 0, 3);
+      RT_CHECK(ctx, stat, "TimeSlotLCR-ext", "mbsfnSpecialTimeSlot", -1, 0);
+   }
+   /* modulation */
+   stat = pd_ConsUnsigned(ctx, &pvalue->modulation, 0, 1);
+   RT_CHECK(ctx, stat, 0, "modulation", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd384 */
+         pvalue->u.tdd384 = (SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384(pvalue->u.tdd384);
+         stat = asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2: /* tdd768 */
+         pvalue->u.tdd768 = (SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768));
+         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
+         asn1Init_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768(pvalue->u.tdd768);
+         stat = asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768(ctx, pvalue->u.tdd768);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 3: /* tdd128 */
+         pvalue->u.tdd128 = (SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128(pvalue->u.tdd128);
+         stat = asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SecondaryCCPCHInfo-MBMS-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMCCH(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation_MBMS_r7_fachCarryingMCCH* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* mcch-transportFormatSet */
+   stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->mcch_transportFormatSet);
+   RT_CHECK(ctx, stat, 0, "mcch-transportFormatSet", -1, 0);
+   /* mcch-ConfigurationInfo */
+   stat = asn1PD_UMTS_MBMS_MCCH_ConfigurationInfo_r6(ctx, &pvalue->mcch_ConfigurationInfo);
+   RT_CHECK(ctx, stat, 0, "mcch-ConfigurationInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMSCH(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation_MBMS_r7_fachCarryingMSCH* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* msch-transportFormatSet */
+   stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->msch_transportFormatSet);
+   RT_CHECK(ctx, stat, 0, "msch-transportFormatSet", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SCCPCH_SystemInformation_MBMS_r7(rtxContext* RT_RESTRICT ctx, SCCPCH_SystemInformation_MBMS_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SCCPCH-SystemInformation-MBMS-r7");
+   /* secondaryCCPCHInfo-MBMS */
+   stat = asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7(ctx, &pvalue->secondaryCCPCHInfo_MBMS);
+   RT_CHECK(ctx, stat, 0, "secondaryCCPCHInfo-MBMS", -1, "SCCPCH-SystemInformation-MBMS-r7");
+   /* transportFormatCombinationSet */
+   stat = asn1PD_UMTS_TFCS(ctx, &pvalue->transportFormatCombinationSet);
+   RT_CHECK(ctx, stat, 0, "transportFormatCombinationSet", -1, "SCCPCH-SystemInformation-MBMS-r7");
+   /* fachCarryingMCCH */
+   stat = asn1PD_UMTS_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMCCH(ctx, &pvalue->fachCarryingMCCH);
+   RT_CHECK(ctx, stat, 0, "fachCarryingMCCH", -1, "SCCPCH-SystemInformation-MBMS-r7");
+   /* fachCarryingMTCH-List */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMS_FACHCarryingMTCH_List(ctx, &pvalue->fachCarryingMTCH_List);
+      RT_CHECK(ctx, stat, 0, "fachCarryingMTCH-List", -1, "SCCPCH-SystemInformation-MBMS-r7");
+   }
+   /* fachCarryingMSCH */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMSCH(ctx, &pvalue->fachCarryingMSCH);
+      RT_CHECK(ctx, stat, 0, "fachCarryingMSCH", -1, "SCCPCH-SystemInformation-MBMS-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v770ext_IEs_sccpch_SystemInformation_MBMS(rtxContext* RT_RESTRICT ctx, SysInfoType5_v770ext_IEs_sccpch_SystemInformation_MBMS* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* mcchOnSCCPCHusedOnlyForMBMS */
+         pvalue->u.mcchOnSCCPCHusedOnlyForMBMS = (SCCPCH_SystemInformation_MBMS_r7*)rtxMemHeapAlloc(ctx, sizeof(SCCPCH_SystemInformation_MBMS_r7));
+         if (pvalue->u.mcchOnSCCPCHusedOnlyForMBMS == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "mcchOnSCCPCHusedOnlyForMBMS", -1, 0);
+         asn1Init_UMTS_SCCPCH_SystemInformation_MBMS_r7(pvalue->u.mcchOnSCCPCHusedOnlyForMBMS);
+         stat = asn1PD_UMTS_SCCPCH_SystemInformation_MBMS_r7(ctx, pvalue->u.mcchOnSCCPCHusedOnlyForMBMS);
+         RT_CHECK(ctx, stat, 0, "mcchOnSCCPCHusedOnlyForMBMS", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TDD_MBSFNTSlotInfo(rtxContext* RT_RESTRICT ctx, TDD_MBSFNTSlotInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* timeSlotNumber */
+   stat = pd_ConsUInt8(ctx, &pvalue->timeSlotNumber, 0, 14);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeSlotNumber", -1, "TDD-MBSFNTSlotInfo");
+   /* cellParametersID */
+   stat = pd_ConsUInt8(ctx, &pvalue->cellParametersID, 0, 127);
+   RT_CHECK(ctx, stat, "CellParametersID", "cellParametersID", -1, "TDD-MBSFNTSlotInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_TDD_MBSFNInformation(rtxContext* RT_RESTRICT ctx, TDD_MBSFNInformation* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 14);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TDD-MBSFNInformation");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      TDD_MBSFNTSlotInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TDD_MBSFNTSlotInfo));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "TDD-MBSFNTSlotInfo", (int32_t)i, "TDD-MBSFNInformation");
+      elem = (TDD_MBSFNTSlotInfo*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_TDD_MBSFNTSlotInfo(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "TDD-MBSFNTSlotInfo", (int32_t)i, "TDD-MBSFNInformation");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5-v770ext-IEs");
+   /* modeSpecificInfo */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+      RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SysInfoType5-v770ext-IEs");
+   }
+   /* sccpch-SystemInformationList */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SCCPCH_SystemInformationList_HCR_VHCR_r7(ctx, &pvalue->sccpch_SystemInformationList);
+      RT_CHECK(ctx, stat, 0, "sccpch-SystemInformationList", -1, "SysInfoType5-v770ext-IEs");
+   }
+   /* sccpch-SystemInformation-MBMS */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_SysInfoType5_v770ext_IEs_sccpch_SystemInformation_MBMS(ctx, &pvalue->sccpch_SystemInformation_MBMS);
+      RT_CHECK(ctx, stat, 0, "sccpch-SystemInformation-MBMS", -1, "SysInfoType5-v770ext-IEs");
+   }
+   /* tDD-MBSFNInformation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_TDD_MBSFNInformation(ctx, &pvalue->tDD_MBSFNInformation);
+      RT_CHECK(ctx, stat, 0, "tDD-MBSFNInformation", -1, "SysInfoType5-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v860ext_IEs_dummy(rtxContext* RT_RESTRICT ctx, SysInfoType5_v860ext_IEs_dummy* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_T_321(rtxContext* RT_RESTRICT ctx, T_321* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "T-321");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_DSCH_DrxCycleFach(rtxContext* RT_RESTRICT ctx, HS_DSCH_DrxCycleFach* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HS-DSCH-DrxCycleFach");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_DSCH_DrxBurstFach(rtxContext* RT_RESTRICT ctx, HS_DSCH_DrxBurstFach* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HS-DSCH-DrxBurstFach");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_DSCH_DrxCellfach_info(rtxContext* RT_RESTRICT ctx, HS_DSCH_DrxCellfach_info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* t-321 */
+   stat = pd_ConsUnsigned(ctx, &pvalue->t_321, 0, 3);
+   RT_CHECK(ctx, stat, "T-321", "t-321", -1, "HS-DSCH-DrxCellfach-info");
+   /* hs-dsch-DrxCycleFach */
+   stat = pd_ConsUnsigned(ctx, &pvalue->hs_dsch_DrxCycleFach, 0, 3);
+   RT_CHECK(ctx, stat, "HS-DSCH-DrxCycleFach", "hs-dsch-DrxCycleFach", -1, "HS-DSCH-DrxCellfach-info");
+   /* hs-dsch-DrxBurstFach */
+   stat = pd_ConsUnsigned(ctx, &pvalue->hs_dsch_DrxBurstFach, 0, 7);
+   RT_CHECK(ctx, stat, "HS-DSCH-DrxBurstFach", "hs-dsch-DrxBurstFach", -1, "HS-DSCH-DrxCellfach-info");
+   /* drxInterruption-hs-dsch */
+   stat = rtxDecBitInline(ctx, &pvalue->drxInterruption_hs_dsch);
+   RT_CHECK(ctx, stat, 0, "drxInterruption-hs-dsch", -1, "HS-DSCH-DrxCellfach-info");
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* hs-dsch-DrxCellfach-info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HS_DSCH_DrxCellfach_info(ctx, &pvalue->hs_dsch_DrxCellfach_info);
+      RT_CHECK(ctx, stat, 0, "hs-dsch-DrxCellfach-info", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_ChannelisationCode_LCR(rtxContext* RT_RESTRICT ctx, HS_ChannelisationCode_LCR* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HS-ChannelisationCode-LCR");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_TDD128_r6_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD128_r6_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* commonMidamble */
+         break;
+      case 2: /* ueSpecificMidamble */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.ueSpecificMidamble, 0, 15);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* midambleShift */
+   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
+   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128_r6_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* ueSpecificMidamble */
+         pvalue->u.ueSpecificMidamble = (HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble));
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
+         stat = asn1PD_UMTS_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SICH_Configuration_TDD128_r6(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* timeslotNumber */
+   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 6);
+   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SICH-Configuration-TDD128-r6");
+   /* channelisationCode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->channelisationCode, 0, 15);
+   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "channelisationCode", -1, "HS-SICH-Configuration-TDD128-r6");
+   /* midambleAllocationMode */
+   stat = asn1PD_UMTS_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SICH-Configuration-TDD128-r6");
+   /* midambleConfiguration */
+   stat = pd_ConsUInt8(ctx, &pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "HS-SICH-Configuration-TDD128-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_TDD128_r6(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD128_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* timeslotNumber */
+   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 6);
+   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SCCH-TDD128-r6");
+   /* firstChannelisationCode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->firstChannelisationCode, 0, 15);
+   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "firstChannelisationCode", -1, "HS-SCCH-TDD128-r6");
+   /* secondChannelisationCode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->secondChannelisationCode, 0, 15);
+   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "secondChannelisationCode", -1, "HS-SCCH-TDD128-r6");
+   /* midambleAllocationMode */
+   stat = asn1PD_UMTS_HS_SCCH_TDD128_r6_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SCCH-TDD128-r6");
+   /* midambleConfiguration */
+   stat = pd_ConsUInt8(ctx, &pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "HS-SCCH-TDD128-r6");
+   /* hs-sich-configuration */
+   stat = asn1PD_UMTS_HS_SICH_Configuration_TDD128_r6(ctx, &pvalue->hs_sich_configuration);
+   RT_CHECK(ctx, stat, 0, "hs-sich-configuration", -1, "HS-SCCH-TDD128-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_SystemInfo_TDD128_hs_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_SystemInfo_TDD128_hs_SCCH_SetConfiguration* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      HS_SCCH_TDD128_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD128_r6));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
+      elem = (HS_SCCH_TDD128_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_HS_SCCH_TDD128_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_HS_SCCH_TDD128_r6(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_SystemInfo_TDD128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_SystemInfo_TDD128_tpc_step_size* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_Bler_Target(rtxContext* RT_RESTRICT ctx, Bler_Target* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsInt8(ctx, pvalue, -63, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Bler-Target");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_SystemInfo_TDD128(rtxContext* RT_RESTRICT ctx, HS_SCCH_SystemInfo_TDD128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HS-SCCH-SystemInfo-TDD128");
+   /* hs-SCCH-SetConfiguration */
+   stat = asn1PD_UMTS_HS_SCCH_SystemInfo_TDD128_hs_SCCH_SetConfiguration(ctx, &pvalue->hs_SCCH_SetConfiguration);
+   RT_CHECK(ctx, stat, 0, "hs-SCCH-SetConfiguration", -1, "HS-SCCH-SystemInfo-TDD128");
+   /* power-level-HSSICH */
+   stat = pd_ConsInt8(ctx, &pvalue->power_level_HSSICH, -120, -58);
+   RT_CHECK(ctx, stat, 0, "power-level-HSSICH", -1, "HS-SCCH-SystemInfo-TDD128");
+   /* nack-ack-power-offset */
+   stat = pd_ConsInt8(ctx, &pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, "HS-SCCH-SystemInfo-TDD128");
+   /* tpc-step-size */
+   stat = pd_ConsUnsigned(ctx, &pvalue->tpc_step_size, 0, 3);
+   RT_CHECK(ctx, stat, 0, "tpc-step-size", -1, "HS-SCCH-SystemInfo-TDD128");
+   /* bler-target */
+   stat = pd_ConsInt8(ctx, &pvalue->bler_target, -63, 0);
+   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, "HS-SCCH-SystemInfo-TDD128");
+   /* power-control-gap */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->power_control_gap, 1, 255);
+      RT_CHECK(ctx, stat, 0, "power-control-gap", -1, "HS-SCCH-SystemInfo-TDD128");
+   }
+   /* pathloss-compensation-switch */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = rtxDecBitInline(ctx, &pvalue->pathloss_compensation_switch);
+      RT_CHECK(ctx, stat, 0, "pathloss-compensation-switch", -1, "HS-SCCH-SystemInfo-TDD128");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_PDSCH_Midamble_Configuration_TDD128_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_PDSCH_Midamble_Configuration_TDD128_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* commonMidamble */
+         break;
+      case 2: /* ueSpecificMidamble */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.ueSpecificMidamble, 0, 15);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(rtxContext* RT_RESTRICT ctx, HS_PDSCH_Midamble_Configuration_TDD128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* midambleAllocationMode */
+   stat = asn1PD_UMTS_HS_PDSCH_Midamble_Configuration_TDD128_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-PDSCH-Midamble-Configuration-TDD128");
+   /* midambleConfiguration */
+   stat = pd_ConsUInt8(ctx, &pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "HS-PDSCH-Midamble-Configuration-TDD128");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_DSCH_CommonSystemInformation_TDD128_common_H_RNTI_information(rtxContext* RT_RESTRICT ctx, HS_DSCH_CommonSystemInformation_TDD128_common_H_RNTI_information* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 2);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      pvalue->n = raw + 1;
+      if (raw > 3) {
+         rtxErrAddStrParm(ctx, "common-H-RNTI-information");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      asn1Init_UMTS_H_RNTI(&pvalue->elem[i]);
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->elem[i]);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, 0, "H-RNTI", (int32_t)i, 0);
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_DSCH_CommonSystemInformation_TDD128(rtxContext* RT_RESTRICT ctx, HS_DSCH_CommonSystemInformation_TDD128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HS-DSCH-CommonSystemInformation-TDD128");
+   /* ccch-MappingInfo */
+   stat = asn1PD_UMTS_CommonRBMappingInfo(ctx, &pvalue->ccch_MappingInfo);
+   RT_CHECK(ctx, stat, 0, "ccch-MappingInfo", -1, "HS-DSCH-CommonSystemInformation-TDD128");
+   /* srb1-MappingInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CommonRBMappingInfo(ctx, &pvalue->srb1_MappingInfo);
+      RT_CHECK(ctx, stat, 0, "srb1-MappingInfo", -1, "HS-DSCH-CommonSystemInformation-TDD128");
+   }
+   /* common-MAC-ehs-ReorderingQueueList */
+   stat = asn1PD_UMTS_Common_MAC_ehs_ReorderingQueueList(ctx, &pvalue->common_MAC_ehs_ReorderingQueueList);
+   RT_CHECK(ctx, stat, 0, "common-MAC-ehs-ReorderingQueueList", -1, "HS-DSCH-CommonSystemInformation-TDD128");
+   /* hs-scch-SystemInfo-tdd128 */
+   stat = asn1PD_UMTS_HS_SCCH_SystemInfo_TDD128(ctx, &pvalue->hs_scch_SystemInfo_tdd128);
+   RT_CHECK(ctx, stat, 0, "hs-scch-SystemInfo-tdd128", -1, "HS-DSCH-CommonSystemInformation-TDD128");
+   /* harq-SystemInfo */
+   stat = asn1PD_UMTS_HARQ_Info(ctx, &pvalue->harq_SystemInfo);
+   RT_CHECK(ctx, stat, 0, "harq-SystemInfo", -1, "HS-DSCH-CommonSystemInformation-TDD128");
+   /* hs-pdsch-MidambleConfiguration */
+   stat = asn1PD_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_pdsch_MidambleConfiguration);
+   RT_CHECK(ctx, stat, 0, "hs-pdsch-MidambleConfiguration", -1, "HS-DSCH-CommonSystemInformation-TDD128");
+   /* common-H-RNTI-information */
+   stat = asn1PD_UMTS_HS_DSCH_CommonSystemInformation_TDD128_common_H_RNTI_information(ctx, &pvalue->common_H_RNTI_information);
+   RT_CHECK(ctx, stat, 0, "common-H-RNTI-information", -1, "HS-DSCH-CommonSystemInformation-TDD128");
+   /* bcchSpecific-H-RNTI */
+   stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->bcchSpecific_H_RNTI);
+   RT_CHECK(ctx, stat, 0, "bcchSpecific-H-RNTI", -1, "HS-DSCH-CommonSystemInformation-TDD128");
+   return 0;
+}
+
+int asn1PD_UMTS_OccurrenceSequenceNumberOfPICH(rtxContext* RT_RESTRICT ctx, OccurrenceSequenceNumberOfPICH* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 16);
+   RT_CHECK(ctx, stat, 0, 0, -1, "OccurrenceSequenceNumberOfPICH");
+   return 0;
+}
+
+int asn1PD_UMTS_PICH_ForHSDPASupportedPaging_TDD128_implicit(rtxContext* RT_RESTRICT ctx, PICH_ForHSDPASupportedPaging_TDD128_implicit* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* occurrenceSequenceNumberOfPICH */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->occurrenceSequenceNumberOfPICH, 1, 16);
+      RT_CHECK(ctx, stat, "OccurrenceSequenceNumberOfPICH", "occurrenceSequenceNumberOfPICH", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PICH_ForHSDPASupportedPaging_TDD128(rtxContext* RT_RESTRICT ctx, PICH_ForHSDPASupportedPaging_TDD128* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PICH-ForHSDPASupportedPaging-TDD128");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* implicit */
+         pvalue->u.implicit = (PICH_ForHSDPASupportedPaging_TDD128_implicit*)rtxMemHeapAlloc(ctx, sizeof(PICH_ForHSDPASupportedPaging_TDD128_implicit));
+         if (pvalue->u.implicit == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "implicit", -1, "PICH-ForHSDPASupportedPaging-TDD128");
+         asn1Init_UMTS_PICH_ForHSDPASupportedPaging_TDD128_implicit(pvalue->u.implicit);
+         stat = asn1PD_UMTS_PICH_ForHSDPASupportedPaging_TDD128_implicit(ctx, pvalue->u.implicit);
+         RT_CHECK(ctx, stat, 0, "implicit", -1, "PICH-ForHSDPASupportedPaging-TDD128");
+         break;
+      case 1: /* explicit */
+         pvalue->u.explicit_ = (PICH_Info_LCR_r4*)rtxMemHeapAlloc(ctx, sizeof(PICH_Info_LCR_r4));
+         if (pvalue->u.explicit_ == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "explicit", -1, "PICH-ForHSDPASupportedPaging-TDD128");
+         asn1Init_UMTS_PICH_Info_LCR_r4(pvalue->u.explicit_);
+         stat = asn1PD_UMTS_PICH_Info_LCR_r4(ctx, pvalue->u.explicit_);
+         RT_CHECK(ctx, stat, 0, "explicit", -1, "PICH-ForHSDPASupportedPaging-TDD128");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PICH-ForHSDPASupportedPaging-TDD128");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_DSCH_PagingSystemInformation_TDD128_pich_ForHsdschList(rtxContext* RT_RESTRICT ctx, HS_DSCH_PagingSystemInformation_TDD128_pich_ForHsdschList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PICH_ForHSDPASupportedPaging_TDD128* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PICH_ForHSDPASupportedPaging_TDD128));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PICH-ForHSDPASupportedPaging-TDD128", (int32_t)i, 0);
+      elem = (PICH_ForHSDPASupportedPaging_TDD128*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PICH_ForHSDPASupportedPaging_TDD128(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_PICH_ForHSDPASupportedPaging_TDD128(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "PICH-ForHSDPASupportedPaging-TDD128", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CodeResourceInformation_TDD128(rtxContext* RT_RESTRICT ctx, CodeResourceInformation_TDD128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* start-code */
+   stat = pd_ConsUnsigned(ctx, &pvalue->start_code, 0, 15);
+   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "start-code", -1, "CodeResourceInformation-TDD128");
+   /* stop-code */
+   stat = pd_ConsUnsigned(ctx, &pvalue->stop_code, 0, 15);
+   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "stop-code", -1, "CodeResourceInformation-TDD128");
+   return 0;
+}
+
+int asn1PD_UMTS_PCCH_InformationList_paging_associatedHspdschInfo_element(rtxContext* RT_RESTRICT ctx, PCCH_InformationList_paging_associatedHspdschInfo_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* hs-pdsch-MidambleConfiguration */
+   stat = asn1PD_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_pdsch_MidambleConfiguration);
+   RT_CHECK(ctx, stat, 0, "hs-pdsch-MidambleConfiguration", -1, 0);
+   /* timeslotResourceRelatedInfo */
+   RT_SET_SIZE(ctx, 6, 6);
+   stat = pd_BitString32(ctx, &pvalue->timeslotResourceRelatedInfo, 6, 6);
+   RT_CHECK(ctx, stat, 0, "timeslotResourceRelatedInfo", -1, 0);
+   /* codeResourceInformation */
+   stat = asn1PD_UMTS_CodeResourceInformation_TDD128(ctx, &pvalue->codeResourceInformation);
+   RT_CHECK(ctx, stat, 0, "codeResourceInformation", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PCCH_InformationList_paging_associatedHspdschInfo(rtxContext* RT_RESTRICT ctx, PCCH_InformationList_paging_associatedHspdschInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PCCH_InformationList_paging_associatedHspdschInfo_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PCCH_InformationList_paging_associatedHspdschInfo_element));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
+      elem = (PCCH_InformationList_paging_associatedHspdschInfo_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PCCH_InformationList_paging_associatedHspdschInfo_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_PCCH_InformationList_paging_associatedHspdschInfo_element(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PCCH_InformationList_transportBlockSizeList(rtxContext* RT_RESTRICT ctx, PCCH_InformationList_transportBlockSizeList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 1);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      pvalue->n = raw + 1;
+      if (raw > 1) {
+         rtxErrAddStrParm(ctx, "transportBlockSizeList");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 1, 32);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, "TransportBlockSizeIndex", "TransportBlockSizeIndex", (int32_t)i, 0);
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PCCH_InformationList(rtxContext* RT_RESTRICT ctx, PCCH_InformationList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* paging-associatedHspdschInfo */
+   stat = asn1PD_UMTS_PCCH_InformationList_paging_associatedHspdschInfo(ctx, &pvalue->paging_associatedHspdschInfo);
+   RT_CHECK(ctx, stat, 0, "paging-associatedHspdschInfo", -1, "PCCH-InformationList");
+   /* paging-sub-Channel-size */
+   stat = pd_ConsUInt8(ctx, &pvalue->paging_sub_Channel_size, 1, 3);
+   RT_CHECK(ctx, stat, 0, "paging-sub-Channel-size", -1, "PCCH-InformationList");
+   /* transportBlockSizeList */
+   stat = asn1PD_UMTS_PCCH_InformationList_transportBlockSizeList(ctx, &pvalue->transportBlockSizeList);
+   RT_CHECK(ctx, stat, 0, "transportBlockSizeList", -1, "PCCH-InformationList");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_DSCH_PagingSystemInformation_TDD128(rtxContext* RT_RESTRICT ctx, HS_DSCH_PagingSystemInformation_TDD128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HS-DSCH-PagingSystemInformation-TDD128");
+   /* pich-ForHsdschList */
+   stat = asn1PD_UMTS_HS_DSCH_PagingSystemInformation_TDD128_pich_ForHsdschList(ctx, &pvalue->pich_ForHsdschList);
+   RT_CHECK(ctx, stat, 0, "pich-ForHsdschList", -1, "HS-DSCH-PagingSystemInformation-TDD128");
+   /* dtch-DCCH-reception-window-size */
+   stat = pd_ConsUInt8(ctx, &pvalue->dtch_DCCH_reception_window_size, 1, 16);
+   RT_CHECK(ctx, stat, 0, "dtch-DCCH-reception-window-size", -1, "HS-DSCH-PagingSystemInformation-TDD128");
+   /* pcch-InformationList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PCCH_InformationList(ctx, &pvalue->pcch_InformationList);
+      RT_CHECK(ctx, stat, 0, "pcch-InformationList", -1, "HS-DSCH-PagingSystemInformation-TDD128");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128_hs_dsch_CommonSysInfo(rtxContext* RT_RESTRICT ctx, SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128_hs_dsch_CommonSysInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* hs-dsch-CommonSystemInformation */
+   stat = asn1PD_UMTS_HS_DSCH_CommonSystemInformation_TDD128(ctx, &pvalue->hs_dsch_CommonSystemInformation);
+   RT_CHECK(ctx, stat, 0, "hs-dsch-CommonSystemInformation", -1, 0);
+   /* hs-dsch-PagingSystemInformation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HS_DSCH_PagingSystemInformation_TDD128(ctx, &pvalue->hs_dsch_PagingSystemInformation);
+      RT_CHECK(ctx, stat, 0, "hs-dsch-PagingSystemInformation", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_DSCH_DrxCellfach_info_TDD128(rtxContext* RT_RESTRICT ctx, HS_DSCH_DrxCellfach_info_TDD128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* t-321 */
+   stat = pd_ConsUnsigned(ctx, &pvalue->t_321, 0, 3);
+   RT_CHECK(ctx, stat, "T-321", "t-321", -1, "HS-DSCH-DrxCellfach-info-TDD128");
+   /* hs-dsch-DrxCycleFach */
+   stat = pd_ConsUnsigned(ctx, &pvalue->hs_dsch_DrxCycleFach, 0, 3);
+   RT_CHECK(ctx, stat, "HS-DSCH-DrxCycleFach", "hs-dsch-DrxCycleFach", -1, "HS-DSCH-DrxCellfach-info-TDD128");
+   /* hs-dsch-DrxBurstFach */
+   stat = pd_ConsUnsigned(ctx, &pvalue->hs_dsch_DrxBurstFach, 0, 7);
+   RT_CHECK(ctx, stat, "HS-DSCH-DrxBurstFach", "hs-dsch-DrxBurstFach", -1, "HS-DSCH-DrxCellfach-info-TDD128");
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* hs-dsch-CommonSysInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128_hs_dsch_CommonSysInfo(ctx, &pvalue->hs_dsch_CommonSysInfo);
+      RT_CHECK(ctx, stat, 0, "hs-dsch-CommonSysInfo", -1, 0);
+   }
+   /* hs-dsch-DrxCellfach-info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_HS_DSCH_DrxCellfach_info_TDD128(ctx, &pvalue->hs_dsch_DrxCellfach_info);
+      RT_CHECK(ctx, stat, 0, "hs-dsch-DrxCellfach-info", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType5_v860ext_IEs_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128*)rtxMemHeapAlloc(ctx, sizeof(SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128(pvalue->u.tdd128);
+         stat = asn1PD_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v860ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5-v860ext-IEs");
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType5_v860ext_IEs_dummy(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "SysInfoType5-v860ext-IEs");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SysInfoType5-v860ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_UARFCN(rtxContext* RT_RESTRICT ctx, UARFCN* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt16(ctx, pvalue, 0, 16383);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UARFCN");
+   return 0;
+}
+
+int asn1PD_UMTS_FrequencyInfoTDD(rtxContext* RT_RESTRICT ctx, FrequencyInfoTDD* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* uarfcn-Nt */
+   stat = pd_ConsUInt16(ctx, &pvalue->uarfcn_Nt, 0, 16383);
+   RT_CHECK(ctx, stat, "UARFCN", "uarfcn-Nt", -1, "FrequencyInfoTDD");
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_MAC_d_FlowIdentity(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowIdentity* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-MAC-d-FlowIdentity");
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_MAC_d_FlowPowerOffset(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowPowerOffset* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-MAC-d-FlowPowerOffset");
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_MAC_d_FlowMaxRetrans(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowMaxRetrans* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-MAC-d-FlowMaxRetrans");
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_MAC_d_FlowMultiplexingList(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowMultiplexingList* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32(ctx, pvalue, 8, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-MAC-d-FlowMultiplexingList");
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_MAC_d_FlowRetransTimer(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowRetransTimer* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 29);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-MAC-d-FlowRetransTimer");
+   return 0;
+}
+
+int asn1PD_UMTS_Common_E_DCH_MAC_d_Flow(rtxContext* RT_RESTRICT ctx, Common_E_DCH_MAC_d_Flow* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Common-E-DCH-MAC-d-Flow");
+   /* mac-d-FlowIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->mac_d_FlowIdentity, 0, 7);
+   RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowIdentity", "mac-d-FlowIdentity", -1, "Common-E-DCH-MAC-d-Flow");
+   /* mac-d-FlowPowerOffset */
+   stat = pd_ConsUInt8(ctx, &pvalue->mac_d_FlowPowerOffset, 0, 6);
+   RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowPowerOffset", "mac-d-FlowPowerOffset", -1, "Common-E-DCH-MAC-d-Flow");
+   /* mac-d-FlowMaxRetrans */
+   stat = pd_ConsUInt8(ctx, &pvalue->mac_d_FlowMaxRetrans, 0, 15);
+   RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowMaxRetrans", "mac-d-FlowMaxRetrans", -1, "Common-E-DCH-MAC-d-Flow");
+   /* mac-d-FlowMultiplexingList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_E_DCH_MAC_d_FlowMultiplexingList(ctx, &pvalue->mac_d_FlowMultiplexingList);
+      RT_CHECK(ctx, stat, 0, "mac-d-FlowMultiplexingList", -1, "Common-E-DCH-MAC-d-Flow");
+   }
+   /* e-dch-mac-d-flow-retransmission-timer */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->e_dch_mac_d_flow_retransmission_timer, 0, 29);
+      RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowRetransTimer", "e-dch-mac-d-flow-retransmission-timer", -1, "Common-E-DCH-MAC-d-Flow");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Common_E_DCH_MAC_d_FlowList(rtxContext* RT_RESTRICT ctx, Common_E_DCH_MAC_d_FlowList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Common-E-DCH-MAC-d-FlowList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      Common_E_DCH_MAC_d_Flow* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Common_E_DCH_MAC_d_Flow));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "Common-E-DCH-MAC-d-Flow", (int32_t)i, "Common-E-DCH-MAC-d-FlowList");
+      elem = (Common_E_DCH_MAC_d_Flow*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_Common_E_DCH_MAC_d_Flow(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_Common_E_DCH_MAC_d_Flow(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "Common-E-DCH-MAC-d-Flow", (int32_t)i, "Common-E-DCH-MAC-d-FlowList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PRACH_PreambleForEnhancedUplink(rtxContext* RT_RESTRICT ctx, PRACH_PreambleForEnhancedUplink* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-PreambleForEnhancedUplink");
+   /* availableSignatures */
+   stat = asn1PD_UMTS_AvailableSignatures(ctx, &pvalue->availableSignatures);
+   RT_CHECK(ctx, stat, 0, "availableSignatures", -1, "PRACH-PreambleForEnhancedUplink");
+   /* e-ai-Indication */
+   stat = rtxDecBitInline(ctx, &pvalue->e_ai_Indication);
+   RT_CHECK(ctx, stat, 0, "e-ai-Indication", -1, "PRACH-PreambleForEnhancedUplink");
+   /* preambleScramblingCodeWordNumber */
+   stat = pd_ConsUInt8(ctx, &pvalue->preambleScramblingCodeWordNumber, 0, 15);
+   RT_CHECK(ctx, stat, "PreambleScramblingCodeWordNumber", "preambleScramblingCodeWordNumber", -1, "PRACH-PreambleForEnhancedUplink");
+   /* availableSubChannelNumbers */
+   stat = asn1PD_UMTS_AvailableSubChannelNumbers(ctx, &pvalue->availableSubChannelNumbers);
+   RT_CHECK(ctx, stat, 0, "availableSubChannelNumbers", -1, "PRACH-PreambleForEnhancedUplink");
+   /* prach-Partitioning */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PRACH_Partitioning_r7(ctx, &pvalue->prach_Partitioning);
+      RT_CHECK(ctx, stat, 0, "prach-Partitioning", -1, "PRACH-PreambleForEnhancedUplink");
+   }
+   /* persistenceScalingFactorList */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_PersistenceScalingFactorList(ctx, &pvalue->persistenceScalingFactorList);
+      RT_CHECK(ctx, stat, 0, "persistenceScalingFactorList", -1, "PRACH-PreambleForEnhancedUplink");
+   }
+   /* ac-To-ASC-MappingTable */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_AC_To_ASC_MappingTable(ctx, &pvalue->ac_To_ASC_MappingTable);
+      RT_CHECK(ctx, stat, 0, "ac-To-ASC-MappingTable", -1, "PRACH-PreambleForEnhancedUplink");
+   }
+   /* primaryCPICH-TX-Power */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsInt8(ctx, &pvalue->primaryCPICH_TX_Power, -10, 50);
+      RT_CHECK(ctx, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, "PRACH-PreambleForEnhancedUplink");
+   }
+   /* constantValue */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x10u;
+      stat = pd_ConsInt8(ctx, &pvalue->constantValue, -35, -10);
+      RT_CHECK(ctx, stat, "ConstantValue", "constantValue", -1, "PRACH-PreambleForEnhancedUplink");
+   }
+   /* prach-PowerOffset */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_PRACH_PowerOffset(ctx, &pvalue->prach_PowerOffset);
+      RT_CHECK(ctx, stat, 0, "prach-PowerOffset", -1, "PRACH-PreambleForEnhancedUplink");
+   }
+   /* rach-TransmissionParameters */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_RACH_TransmissionParameters(ctx, &pvalue->rach_TransmissionParameters);
+      RT_CHECK(ctx, stat, 0, "rach-TransmissionParameters", -1, "PRACH-PreambleForEnhancedUplink");
+   }
+   /* aich-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_AICH_Info(ctx, &pvalue->aich_Info);
+      RT_CHECK(ctx, stat, 0, "aich-Info", -1, "PRACH-PreambleForEnhancedUplink");
+   }
+   /* powerOffsetPp-e */
+   stat = pd_ConsInt8(ctx, &pvalue->powerOffsetPp_e, -5, 10);
+   RT_CHECK(ctx, stat, 0, "powerOffsetPp-e", -1, "PRACH-PreambleForEnhancedUplink");
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_TTI(rtxContext* RT_RESTRICT ctx, E_DCH_TTI* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-TTI");
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, E_AGCH_ChannelisationCode* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 255);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-AGCH-ChannelisationCode");
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Information(rtxContext* RT_RESTRICT ctx, E_AGCH_Information* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* e-AGCH-ChannelisationCode */
+   stat = pd_ConsUInt8(ctx, &pvalue->e_AGCH_ChannelisationCode, 0, 255);
+   RT_CHECK(ctx, stat, "E-AGCH-ChannelisationCode", "e-AGCH-ChannelisationCode", -1, "E-AGCH-Information");
+   return 0;
+}
+
+int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_harq_Info(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_harq_Info* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_TPC_StepSizeFDD(rtxContext* RT_RESTRICT ctx, TPC_StepSizeFDD* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TPC-StepSizeFDD");
+   return 0;
+}
+
+int asn1PD_UMTS_PowerControlAlgorithm(rtxContext* RT_RESTRICT ctx, PowerControlAlgorithm* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PowerControlAlgorithm");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* algorithm1 */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.algorithm1, 0, 1);
+         RT_CHECK(ctx, stat, "TPC-StepSizeFDD", "algorithm1", -1, "PowerControlAlgorithm");
+         break;
+      case 1: /* algorithm2 */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PowerControlAlgorithm");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DeltaACK(rtxContext* RT_RESTRICT ctx, DeltaACK* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DeltaACK");
+   return 0;
+}
+
+int asn1PD_UMTS_DeltaNACK(rtxContext* RT_RESTRICT ctx, DeltaNACK* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DeltaNACK");
+   return 0;
+}
+
+int asn1PD_UMTS_ACK_NACK_repetitionFactor(rtxContext* RT_RESTRICT ctx, ACK_NACK_repetitionFactor* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ACK-NACK-repetitionFactor");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCHpowerControlInfoForCommonEDCH(rtxContext* RT_RESTRICT ctx, UL_DPCHpowerControlInfoForCommonEDCH* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DPCHpowerControlInfoForCommonEDCH");
+   /* powerControlAlgorithm */
+   stat = asn1PD_UMTS_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm);
+   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, "UL-DPCHpowerControlInfoForCommonEDCH");
+   /* deltaACK */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->deltaACK, 0, 8);
+      RT_CHECK(ctx, stat, "DeltaACK", "deltaACK", -1, "UL-DPCHpowerControlInfoForCommonEDCH");
+   }
+   /* deltaNACK */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->deltaNACK, 0, 8);
+      RT_CHECK(ctx, stat, "DeltaNACK", "deltaNACK", -1, "UL-DPCHpowerControlInfoForCommonEDCH");
+   }
+   /* ack-NACK-repetition-factor */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->ack_NACK_repetition_factor, 1, 4);
+      RT_CHECK(ctx, stat, "ACK-NACK-repetitionFactor", "ack-NACK-repetition-factor", -1, "UL-DPCHpowerControlInfoForCommonEDCH");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_DPCCH_DPCCH_PowerOffset(rtxContext* RT_RESTRICT ctx, E_DPCCH_DPCCH_PowerOffset* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPCCH-DPCCH-PowerOffset");
+   return 0;
+}
+
+int asn1PD_UMTS_HappyBit_DelayCondition(rtxContext* RT_RESTRICT ctx, HappyBit_DelayCondition* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HappyBit-DelayCondition");
+   return 0;
+}
+
+int asn1PD_UMTS_E_TFC_Boost_Info_r7(rtxContext* RT_RESTRICT ctx, E_TFC_Boost_Info_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-TFC-Boost-Info-r7");
+   /* e-TFCI-Boost */
+   stat = pd_ConsUInt8(ctx, &pvalue->e_TFCI_Boost, 0, 127);
+   RT_CHECK(ctx, stat, 0, "e-TFCI-Boost", -1, "E-TFC-Boost-Info-r7");
+   /* delta-T2TP */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->delta_T2TP, 0, 6);
+      RT_CHECK(ctx, stat, 0, "delta-T2TP", -1, "E-TFC-Boost-Info-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_DPDCH_PowerInterpolation(rtxContext* RT_RESTRICT ctx, E_DPDCH_PowerInterpolation* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = rtxDecBitInline(ctx, pvalue);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPDCH-PowerInterpolation");
+   return 0;
+}
+
+int asn1PD_UMTS_E_DPCCH_Info_r7(rtxContext* RT_RESTRICT ctx, E_DPCCH_Info_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPCCH-Info-r7");
+   /* e-DPCCH-DPCCH-PowerOffset */
+   stat = pd_ConsUInt8(ctx, &pvalue->e_DPCCH_DPCCH_PowerOffset, 0, 8);
+   RT_CHECK(ctx, stat, "E-DPCCH-DPCCH-PowerOffset", "e-DPCCH-DPCCH-PowerOffset", -1, "E-DPCCH-Info-r7");
+   /* happyBit-DelayCondition */
+   stat = pd_ConsUnsigned(ctx, &pvalue->happyBit_DelayCondition, 0, 7);
+   RT_CHECK(ctx, stat, "HappyBit-DelayCondition", "happyBit-DelayCondition", -1, "E-DPCCH-Info-r7");
+   /* e-TFC-Boost-Info */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_E_TFC_Boost_Info_r7(ctx, &pvalue->e_TFC_Boost_Info);
+      RT_CHECK(ctx, stat, 0, "e-TFC-Boost-Info", -1, "E-DPCCH-Info-r7");
+   }
+   /* e-DPDCH-PowerInterpolation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = rtxDecBitInline(ctx, &pvalue->e_DPDCH_PowerInterpolation);
+      RT_CHECK(ctx, stat, "E-DPDCH-PowerInterpolation", "e-DPDCH-PowerInterpolation", -1, "E-DPCCH-Info-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_TFCI_TableIndex(rtxContext* RT_RESTRICT ctx, E_TFCI_TableIndex* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-TFCI-TableIndex");
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_MinimumSet_E_TFCI(rtxContext* RT_RESTRICT ctx, E_DCH_MinimumSet_E_TFCI* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 127);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-MinimumSet-E-TFCI");
+   return 0;
+}
+
+int asn1PD_UMTS_E_DPDCH_Reference_E_TFCI_r7(rtxContext* RT_RESTRICT ctx, E_DPDCH_Reference_E_TFCI_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* reference-E-TFCI */
+   stat = pd_ConsUInt8(ctx, &pvalue->reference_E_TFCI, 0, 127);
+   RT_CHECK(ctx, stat, 0, "reference-E-TFCI", -1, "E-DPDCH-Reference-E-TFCI-r7");
+   /* reference-E-TFCI-PO-r7 */
+   stat = pd_ConsUInt8(ctx, &pvalue->reference_E_TFCI_PO_r7, 0, 31);
+   RT_CHECK(ctx, stat, 0, "reference-E-TFCI-PO-r7", -1, "E-DPDCH-Reference-E-TFCI-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_E_DPDCH_Reference_E_TFCIList_r7(rtxContext* RT_RESTRICT ctx, E_DPDCH_Reference_E_TFCIList_r7* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPDCH-Reference-E-TFCIList-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      E_DPDCH_Reference_E_TFCI_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_DPDCH_Reference_E_TFCI_r7));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "E-DPDCH-Reference-E-TFCI-r7", (int32_t)i, "E-DPDCH-Reference-E-TFCIList-r7");
+      elem = (E_DPDCH_Reference_E_TFCI_r7*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_E_DPDCH_Reference_E_TFCI_r7(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "E-DPDCH-Reference-E-TFCI-r7", (int32_t)i, "E-DPDCH-Reference-E-TFCIList-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MinReduced_E_DPDCH_GainFactor(rtxContext* RT_RESTRICT ctx, MinReduced_E_DPDCH_GainFactor* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MinReduced-E-DPDCH-GainFactor");
+   return 0;
+}
+
+int asn1PD_UMTS_E_DPDCH_MaxChannelisationCodes(rtxContext* RT_RESTRICT ctx, E_DPDCH_MaxChannelisationCodes* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 9);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPDCH-MaxChannelisationCodes");
+   return 0;
+}
+
+int asn1PD_UMTS_E_DPDCH_PL_NonMax(rtxContext* RT_RESTRICT ctx, E_DPDCH_PL_NonMax* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 11, 25);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPDCH-PL-NonMax");
+   return 0;
+}
+
+int asn1PD_UMTS_E_DPDCH_PeriodicyOfSchedInfo(rtxContext* RT_RESTRICT ctx, E_DPDCH_PeriodicyOfSchedInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPDCH-PeriodicyOfSchedInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_E_DPDCH_SchedulingInfoConfiguration(rtxContext* RT_RESTRICT ctx, E_DPDCH_SchedulingInfoConfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPDCH-SchedulingInfoConfiguration");
+   /* periodicityOfSchedInfo-NoGrant */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->periodicityOfSchedInfo_NoGrant, 0, 8);
+      RT_CHECK(ctx, stat, "E-DPDCH-PeriodicyOfSchedInfo", "periodicityOfSchedInfo-NoGrant", -1, "E-DPDCH-SchedulingInfoConfiguration");
+   }
+   /* periodicityOfSchedInfo-Grant */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->periodicityOfSchedInfo_Grant, 0, 8);
+      RT_CHECK(ctx, stat, "E-DPDCH-PeriodicyOfSchedInfo", "periodicityOfSchedInfo-Grant", -1, "E-DPDCH-SchedulingInfoConfiguration");
+   }
+   /* powerOffsetForSchedInfo */
+   stat = pd_ConsUInt8(ctx, &pvalue->powerOffsetForSchedInfo, 0, 6);
+   RT_CHECK(ctx, stat, 0, "powerOffsetForSchedInfo", -1, "E-DPDCH-SchedulingInfoConfiguration");
+   return 0;
+}
+
+int asn1PD_UMTS_E_DPDCH_Info_r8(rtxContext* RT_RESTRICT ctx, E_DPDCH_Info_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPDCH-Info-r8");
+   /* e-TFCI-TableIndex */
+   stat = pd_ConsUInt8(ctx, &pvalue->e_TFCI_TableIndex, 0, 1);
+   RT_CHECK(ctx, stat, "E-TFCI-TableIndex", "e-TFCI-TableIndex", -1, "E-DPDCH-Info-r8");
+   /* e-DCH-MinimumSet-E-TFCI */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->e_DCH_MinimumSet_E_TFCI, 0, 127);
+      RT_CHECK(ctx, stat, "E-DCH-MinimumSet-E-TFCI", "e-DCH-MinimumSet-E-TFCI", -1, "E-DPDCH-Info-r8");
+   }
+   /* reference-E-TFCIs */
+   stat = asn1PD_UMTS_E_DPDCH_Reference_E_TFCIList_r7(ctx, &pvalue->reference_E_TFCIs);
+   RT_CHECK(ctx, stat, 0, "reference-E-TFCIs", -1, "E-DPDCH-Info-r8");
+   /* minReduced-E-DPDCH-GainFactor */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->minReduced_E_DPDCH_GainFactor, 0, 7);
+      RT_CHECK(ctx, stat, "MinReduced-E-DPDCH-GainFactor", "minReduced-E-DPDCH-GainFactor", -1, "E-DPDCH-Info-r8");
+   }
+   /* maxChannelisationCodes */
+   stat = pd_ConsUnsigned(ctx, &pvalue->maxChannelisationCodes, 0, 9);
+   RT_CHECK(ctx, stat, "E-DPDCH-MaxChannelisationCodes", "maxChannelisationCodes", -1, "E-DPDCH-Info-r8");
+   /* pl-NonMax */
+   stat = pd_ConsUInt8(ctx, &pvalue->pl_NonMax, 11, 25);
+   RT_CHECK(ctx, stat, "E-DPDCH-PL-NonMax", "pl-NonMax", -1, "E-DPDCH-Info-r8");
+   /* schedulingInfoConfiguration */
+   stat = asn1PD_UMTS_E_DPDCH_SchedulingInfoConfiguration(ctx, &pvalue->schedulingInfoConfiguration);
+   RT_CHECK(ctx, stat, 0, "schedulingInfoConfiguration", -1, "E-DPDCH-Info-r8");
+   /* threeIndexStepThreshold */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->threeIndexStepThreshold, 0, 37);
+      RT_CHECK(ctx, stat, 0, "threeIndexStepThreshold", -1, "E-DPDCH-Info-r8");
+   }
+   /* twoIndexStepThreshold */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUInt8(ctx, &pvalue->twoIndexStepThreshold, 0, 37);
+      RT_CHECK(ctx, stat, 0, "twoIndexStepThreshold", -1, "E-DPDCH-Info-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_max_CCCH_ResourceAllocation(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_max_CCCH_ResourceAllocation* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_e_dch_TransmitContinuationOffset(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_e_dch_TransmitContinuationOffset* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementPowerOffset(rtxContext* RT_RESTRICT ctx, MeasurementPowerOffset* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsInt8(ctx, pvalue, -12, 26);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementPowerOffset");
+   return 0;
+}
+
+int asn1PD_UMTS_Feedback_cycle_r7(rtxContext* RT_RESTRICT ctx, Feedback_cycle_r7* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Feedback-cycle-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_CQI_RepetitionFactor(rtxContext* RT_RESTRICT ctx, CQI_RepetitionFactor* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CQI-RepetitionFactor");
+   return 0;
+}
+
+int asn1PD_UMTS_DeltaCQI(rtxContext* RT_RESTRICT ctx, DeltaCQI* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DeltaCQI");
+   return 0;
+}
+
+int asn1PD_UMTS_Measurement_Feedback_Info_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, Measurement_Feedback_Info_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* measurementPowerOffset */
+   stat = pd_ConsInt8(ctx, &pvalue->measurementPowerOffset, -12, 26);
+   RT_CHECK(ctx, stat, "MeasurementPowerOffset", "measurementPowerOffset", -1, 0);
+   /* feedback-cycle */
+   stat = pd_ConsUnsigned(ctx, &pvalue->feedback_cycle, 0, 15);
+   RT_CHECK(ctx, stat, "Feedback-cycle-r7", "feedback-cycle", -1, 0);
+   /* cqi-RepetitionFactor */
+   stat = pd_ConsUInt8(ctx, &pvalue->cqi_RepetitionFactor, 1, 4);
+   RT_CHECK(ctx, stat, "CQI-RepetitionFactor", "cqi-RepetitionFactor", -1, 0);
+   /* deltaCQI */
+   stat = pd_ConsUInt8(ctx, &pvalue->deltaCQI, 0, 8);
+   RT_CHECK(ctx, stat, "DeltaCQI", "deltaCQI", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_Measurement_Feedback_Info_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, Measurement_Feedback_Info_r7_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (Measurement_Feedback_Info_r7_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(Measurement_Feedback_Info_r7_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = asn1PD_UMTS_Measurement_Feedback_Info_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Measurement_Feedback_Info_r7(rtxContext* RT_RESTRICT ctx, Measurement_Feedback_Info_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_Measurement_Feedback_Info_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "Measurement-Feedback-Info-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_E_HICH_RGCH_SignatureSequence(rtxContext* RT_RESTRICT ctx, E_HICH_RGCH_SignatureSequence* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 39);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-HICH-RGCH-SignatureSequence");
+   return 0;
+}
+
+int asn1PD_UMTS_E_RGCH_CombinationIndex(rtxContext* RT_RESTRICT ctx, E_RGCH_CombinationIndex* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-RGCH-CombinationIndex");
+   return 0;
+}
+
+int asn1PD_UMTS_E_RGCH_Information(rtxContext* RT_RESTRICT ctx, E_RGCH_Information* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* signatureSequence */
+   stat = pd_ConsUInt8(ctx, &pvalue->signatureSequence, 0, 39);
+   RT_CHECK(ctx, stat, "E-HICH-RGCH-SignatureSequence", "signatureSequence", -1, "E-RGCH-Information");
+   /* rg-CombinationIndex */
+   stat = pd_ConsUInt8(ctx, &pvalue->rg_CombinationIndex, 0, 5);
+   RT_CHECK(ctx, stat, "E-RGCH-CombinationIndex", "rg-CombinationIndex", -1, "E-RGCH-Information");
+   return 0;
+}
+
+int asn1PD_UMTS_E_HICH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, E_HICH_ChannelisationCode* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 127);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-HICH-ChannelisationCode");
+   return 0;
+}
+
+int asn1PD_UMTS_E_HICH_Information(rtxContext* RT_RESTRICT ctx, E_HICH_Information* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* channelisationCode */
+   stat = pd_ConsUInt8(ctx, &pvalue->channelisationCode, 0, 127);
+   RT_CHECK(ctx, stat, "E-HICH-ChannelisationCode", "channelisationCode", -1, "E-HICH-Information");
+   /* signatureSequence */
+   stat = pd_ConsUInt8(ctx, &pvalue->signatureSequence, 0, 39);
+   RT_CHECK(ctx, stat, "E-HICH-RGCH-SignatureSequence", "signatureSequence", -1, "E-HICH-Information");
+   return 0;
+}
+
+int asn1PD_UMTS_ScramblingCodeType(rtxContext* RT_RESTRICT ctx, ScramblingCodeType* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ScramblingCodeType");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_ScramblingCode(rtxContext* RT_RESTRICT ctx, UL_ScramblingCode* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt32(ctx, pvalue, 0, 16777215);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-ScramblingCode");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_CodeInfoForCommonEDCH(rtxContext* RT_RESTRICT ctx, UL_DPCH_CodeInfoForCommonEDCH* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ul-DPCCHscramblingCodeType */
+   stat = pd_ConsUnsigned(ctx, &pvalue->ul_DPCCHscramblingCodeType, 0, 1);
+   RT_CHECK(ctx, stat, "ScramblingCodeType", "ul-DPCCHscramblingCodeType", -1, "UL-DPCH-CodeInfoForCommonEDCH");
+   /* ul-DPCCHscramblingCode */
+   stat = pd_ConsUInt32(ctx, &pvalue->ul_DPCCHscramblingCode, 0, 16777215);
+   RT_CHECK(ctx, stat, "UL-ScramblingCode", "ul-DPCCHscramblingCode", -1, "UL-DPCH-CodeInfoForCommonEDCH");
+   return 0;
+}
+
+int asn1PD_UMTS_Common_E_DCH_ResourceInfoList(rtxContext* RT_RESTRICT ctx, Common_E_DCH_ResourceInfoList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Common-E-DCH-ResourceInfoList");
+   /* s-offset */
+   stat = pd_ConsUInt8(ctx, &pvalue->s_offset, 0, 9);
+   RT_CHECK(ctx, stat, 0, "s-offset", -1, "Common-E-DCH-ResourceInfoList");
+   /* f-dpch-ChannelisationCodeNumber */
+   stat = pd_ConsUInt8(ctx, &pvalue->f_dpch_ChannelisationCodeNumber, 0, 255);
+   RT_CHECK(ctx, stat, 0, "f-dpch-ChannelisationCodeNumber", -1, "Common-E-DCH-ResourceInfoList");
+   /* e-RGCH-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_E_RGCH_Information(ctx, &pvalue->e_RGCH_Information);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, "Common-E-DCH-ResourceInfoList");
+   }
+   /* e-hich-Info */
+   stat = asn1PD_UMTS_E_HICH_Information(ctx, &pvalue->e_hich_Info);
+   RT_CHECK(ctx, stat, 0, "e-hich-Info", -1, "Common-E-DCH-ResourceInfoList");
+   /* ul-DPCH-CodeInfoForCommonEDCH */
+   stat = asn1PD_UMTS_UL_DPCH_CodeInfoForCommonEDCH(ctx, &pvalue->ul_DPCH_CodeInfoForCommonEDCH);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-CodeInfoForCommonEDCH", -1, "Common-E-DCH-ResourceInfoList");
+   return 0;
+}
+
+int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_common_E_DCH_ResourceInfoList(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_common_E_DCH_ResourceInfoList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      Common_E_DCH_ResourceInfoList* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Common_E_DCH_ResourceInfoList));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "Common-E-DCH-ResourceInfoList", (int32_t)i, 0);
+      elem = (Common_E_DCH_ResourceInfoList*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_Common_E_DCH_ResourceInfoList(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_Common_E_DCH_ResourceInfoList(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "Common-E-DCH-ResourceInfoList", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* prach-PreambleForEnhancedUplink */
+   stat = asn1PD_UMTS_PRACH_PreambleForEnhancedUplink(ctx, &pvalue->prach_PreambleForEnhancedUplink);
+   RT_CHECK(ctx, stat, 0, "prach-PreambleForEnhancedUplink", -1, 0);
+   /* initialServingGrantValue */
+   stat = pd_ConsUInt8(ctx, &pvalue->initialServingGrantValue, 0, 37);
+   RT_CHECK(ctx, stat, 0, "initialServingGrantValue", -1, 0);
+   /* e-dch-TTI */
+   stat = pd_ConsUnsigned(ctx, &pvalue->e_dch_TTI, 0, 1);
+   RT_CHECK(ctx, stat, "E-DCH-TTI", "e-dch-TTI", -1, 0);
+   /* e-agch-Information */
+   stat = asn1PD_UMTS_E_AGCH_Information(ctx, &pvalue->e_agch_Information);
+   RT_CHECK(ctx, stat, 0, "e-agch-Information", -1, 0);
+   /* harq-Info */
+   stat = pd_ConsUnsigned(ctx, &pvalue->harq_Info, 0, 1);
+   RT_CHECK(ctx, stat, 0, "harq-Info", -1, 0);
+   /* ul-DPCHpowerControlInfoForCommonEDCH */
+   stat = asn1PD_UMTS_UL_DPCHpowerControlInfoForCommonEDCH(ctx, &pvalue->ul_DPCHpowerControlInfoForCommonEDCH);
+   RT_CHECK(ctx, stat, 0, "ul-DPCHpowerControlInfoForCommonEDCH", -1, 0);
+   /* e-dpcch-Info */
+   stat = asn1PD_UMTS_E_DPCCH_Info_r7(ctx, &pvalue->e_dpcch_Info);
+   RT_CHECK(ctx, stat, 0, "e-dpcch-Info", -1, 0);
+   /* e-dpdch-Info */
+   stat = asn1PD_UMTS_E_DPDCH_Info_r8(ctx, &pvalue->e_dpdch_Info);
+   RT_CHECK(ctx, stat, 0, "e-dpdch-Info", -1, 0);
+   /* dl-FDPCH-TPCcommandErrorRate */
+   stat = pd_ConsUInt8(ctx, &pvalue->dl_FDPCH_TPCcommandErrorRate, 1, 10);
+   RT_CHECK(ctx, stat, 0, "dl-FDPCH-TPCcommandErrorRate", -1, 0);
+   /* additional-E-DCH-TransmitBackoff */
+   stat = pd_ConsUInt8(ctx, &pvalue->additional_E_DCH_TransmitBackoff, 0, 15);
+   RT_CHECK(ctx, stat, 0, "additional-E-DCH-TransmitBackoff", -1, 0);
+   /* max-CCCH-ResourceAllocation */
+   stat = pd_ConsUnsigned(ctx, &pvalue->max_CCCH_ResourceAllocation, 0, 7);
+   RT_CHECK(ctx, stat, 0, "max-CCCH-ResourceAllocation", -1, 0);
+   /* max-PeriodForCollisionResolution */
+   stat = pd_ConsUInt8(ctx, &pvalue->max_PeriodForCollisionResolution, 8, 24);
+   RT_CHECK(ctx, stat, 0, "max-PeriodForCollisionResolution", -1, 0);
+   /* e-dch-TransmitContinuationOffset */
+   stat = pd_ConsUnsigned(ctx, &pvalue->e_dch_TransmitContinuationOffset, 0, 7);
+   RT_CHECK(ctx, stat, 0, "e-dch-TransmitContinuationOffset", -1, 0);
+   /* ack-nack-support-on-HS-DPCCH */
+   stat = rtxDecBitInline(ctx, &pvalue->ack_nack_support_on_HS_DPCCH);
+   RT_CHECK(ctx, stat, 0, "ack-nack-support-on-HS-DPCCH", -1, 0);
+   /* measurement-Feedback-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_Feedback_Info);
+      RT_CHECK(ctx, stat, 0, "measurement-Feedback-Info", -1, 0);
+   }
+   /* common-E-DCH-ResourceInfoList */
+   stat = asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_common_E_DCH_ResourceInfoList(ctx, &pvalue->common_E_DCH_ResourceInfoList);
+   RT_CHECK(ctx, stat, 0, "common-E-DCH-ResourceInfoList", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_RUCCH_Info_TDD128_t_RUCCH(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_TDD128_t_RUCCH* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_RUCCH_Info_TDD128_t_WAIT(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_TDD128_t_WAIT* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_RUCCH_Info_TDD128_t_SI(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_TDD128_t_SI* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_RUCCH_AccessServiceClass(rtxContext* RT_RESTRICT ctx, E_RUCCH_AccessServiceClass* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = asn1PD_UMTS_PRACH_Partitioning_LCR_r4(ctx, pvalue);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-RUCCH-AccessServiceClass");
+   return 0;
+}
+
+int asn1PD_UMTS_SYNC_UL_InfoForE_RUCCH_max_SYNC_UL_Transmissions(rtxContext* RT_RESTRICT ctx, SYNC_UL_InfoForE_RUCCH_max_SYNC_UL_Transmissions* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SYNC_UL_InfoForE_RUCCH(rtxContext* RT_RESTRICT ctx, SYNC_UL_InfoForE_RUCCH* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SYNC-UL-InfoForE-RUCCH");
+   /* prxUpPCHdes */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->prxUpPCHdes, 0, 62);
+      RT_CHECK(ctx, stat, 0, "prxUpPCHdes", -1, "SYNC-UL-InfoForE-RUCCH");
+   }
+   /* powerRampStep */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->powerRampStep, 0, 3);
+      RT_CHECK(ctx, stat, 0, "powerRampStep", -1, "SYNC-UL-InfoForE-RUCCH");
+   }
+   /* max-SYNC-UL-Transmissions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->max_SYNC_UL_Transmissions, 0, 3);
+      RT_CHECK(ctx, stat, 0, "max-SYNC-UL-Transmissions", -1, "SYNC-UL-InfoForE-RUCCH");
+   }
+   /* e-RUCCH-Sync-UL-Codes-Bitmap */
+   stat = asn1PD_UMTS_Sync_UL_Codes_Bitmap(ctx, &pvalue->e_RUCCH_Sync_UL_Codes_Bitmap);
+   RT_CHECK(ctx, stat, 0, "e-RUCCH-Sync-UL-Codes-Bitmap", -1, "SYNC-UL-InfoForE-RUCCH");
+   /* mmax */
+   stat = pd_ConsUInt8(ctx, &pvalue->mmax, 1, 32);
+   RT_CHECK(ctx, stat, 0, "mmax", -1, "SYNC-UL-InfoForE-RUCCH");
+   return 0;
+}
+
+int asn1PD_UMTS_PRACH_ChanCodes_List_LCR(rtxContext* RT_RESTRICT ctx, PRACH_ChanCodes_List_LCR* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 1);
+      RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-ChanCodes-List-LCR");
+      pvalue->n = raw + 1;
+      if (raw > 1) {
+         rtxErrAddStrParm(ctx, "PRACH-ChanCodes-List-LCR");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PRACH-ChanCodes-List-LCR");
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 27);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, "TDD-PRACH-CCode-LCR-r4", "TDD-PRACH-CCode-LCR-r4", (int32_t)i, "PRACH-ChanCodes-List-LCR");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PRACH_Information_LCR(rtxContext* RT_RESTRICT ctx, PRACH_Information_LCR* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-Information-LCR");
+   /* timeslot */
+   stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 1, 6);
+   RT_CHECK(ctx, stat, "TimeslotNumber-PRACH-LCR-r4", "timeslot", -1, "PRACH-Information-LCR");
+   /* prach-ChanCodes-list-LCR */
+   stat = asn1PD_UMTS_PRACH_ChanCodes_List_LCR(ctx, &pvalue->prach_ChanCodes_list_LCR);
+   RT_CHECK(ctx, stat, 0, "prach-ChanCodes-list-LCR", -1, "PRACH-Information-LCR");
+   /* midambleShiftAndBurstType */
+   stat = asn1PD_UMTS_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "PRACH-Information-LCR");
+   /* fpach-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_FPACH_Info_r4(ctx, &pvalue->fpach_Info);
+      RT_CHECK(ctx, stat, 0, "fpach-Info", -1, "PRACH-Information-LCR");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PRACH_Information_LCR_List(rtxContext* RT_RESTRICT ctx, PRACH_Information_LCR_List* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-Information-LCR-List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PRACH_Information_LCR* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PRACH_Information_LCR));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PRACH-Information-LCR", (int32_t)i, "PRACH-Information-LCR-List");
+      elem = (PRACH_Information_LCR*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PRACH_Information_LCR(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_PRACH_Information_LCR(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "PRACH-Information-LCR", (int32_t)i, "PRACH-Information-LCR-List");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_RUCCH_Info_TDD128(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_TDD128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 9);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-RUCCH-Info-TDD128");
+   /* t-RUCCH */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->t_RUCCH, 0, 15);
+      RT_CHECK(ctx, stat, 0, "t-RUCCH", -1, "E-RUCCH-Info-TDD128");
+   }
+   /* n-RUCCH */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->n_RUCCH, 0, 7);
+      RT_CHECK(ctx, stat, 0, "n-RUCCH", -1, "E-RUCCH-Info-TDD128");
+   }
+   /* t-WAIT */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->t_WAIT, 0, 7);
+      RT_CHECK(ctx, stat, 0, "t-WAIT", -1, "E-RUCCH-Info-TDD128");
+   }
+   /* t-SI */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->t_SI, 0, 6);
+      RT_CHECK(ctx, stat, 0, "t-SI", -1, "E-RUCCH-Info-TDD128");
+   }
+   /* extendedEstimationWindow */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x10u;
+      stat = pd_ConsUInt8(ctx, &pvalue->extendedEstimationWindow, 2, 5);
+      RT_CHECK(ctx, stat, 0, "extendedEstimationWindow", -1, "E-RUCCH-Info-TDD128");
+   }
+   /* e-RUCCH-AccessServiceClass */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_E_RUCCH_AccessServiceClass(ctx, &pvalue->e_RUCCH_AccessServiceClass);
+      RT_CHECK(ctx, stat, 0, "e-RUCCH-AccessServiceClass", -1, "E-RUCCH-Info-TDD128");
+   }
+   /* e-RUCCH-PersistenceScalingFactor */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_PersistenceScalingFactorList(ctx, &pvalue->e_RUCCH_PersistenceScalingFactor);
+      RT_CHECK(ctx, stat, 0, "e-RUCCH-PersistenceScalingFactor", -1, "E-RUCCH-Info-TDD128");
+   }
+   /* sync-UL-InfoForE-RUCCH */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_SYNC_UL_InfoForE_RUCCH(ctx, &pvalue->sync_UL_InfoForE_RUCCH);
+      RT_CHECK(ctx, stat, 0, "sync-UL-InfoForE-RUCCH", -1, "E-RUCCH-Info-TDD128");
+   }
+   /* prach-information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_PRACH_Information_LCR_List(ctx, &pvalue->prach_information);
+      RT_CHECK(ctx, stat, 0, "prach-information", -1, "E-RUCCH-Info-TDD128");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Reference_Beta_QPSK(rtxContext* RT_RESTRICT ctx, Reference_Beta_QPSK* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* reference-Code-Rate */
+   stat = pd_ConsUInt8(ctx, &pvalue->reference_Code_Rate, 0, 10);
+   RT_CHECK(ctx, stat, 0, "reference-Code-Rate", -1, "Reference-Beta-QPSK");
+   /* reference-Beta */
+   stat = pd_ConsInt8(ctx, &pvalue->reference_Beta, -15, 16);
+   RT_CHECK(ctx, stat, 0, "reference-Beta", -1, "Reference-Beta-QPSK");
+   return 0;
+}
+
+int asn1PD_UMTS_E_TFCS_Info_reference_Beta_QPSK_List(rtxContext* RT_RESTRICT ctx, E_TFCS_Info_reference_Beta_QPSK_List* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      Reference_Beta_QPSK* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Reference_Beta_QPSK));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "Reference-Beta-QPSK", (int32_t)i, 0);
+      elem = (Reference_Beta_QPSK*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_Reference_Beta_QPSK(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "Reference-Beta-QPSK", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Reference_Beta_16QAM(rtxContext* RT_RESTRICT ctx, Reference_Beta_16QAM* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* reference-Code-Rate */
+   stat = pd_ConsUInt8(ctx, &pvalue->reference_Code_Rate, 0, 10);
+   RT_CHECK(ctx, stat, 0, "reference-Code-Rate", -1, "Reference-Beta-16QAM");
+   /* reference-Beta */
+   stat = pd_ConsInt8(ctx, &pvalue->reference_Beta, -15, 16);
+   RT_CHECK(ctx, stat, 0, "reference-Beta", -1, "Reference-Beta-16QAM");
+   return 0;
+}
+
+int asn1PD_UMTS_E_TFCS_Info_reference_Beta_16QAM_List(rtxContext* RT_RESTRICT ctx, E_TFCS_Info_reference_Beta_16QAM_List* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      Reference_Beta_16QAM* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Reference_Beta_16QAM));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "Reference-Beta-16QAM", (int32_t)i, 0);
+      elem = (Reference_Beta_16QAM*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_Reference_Beta_16QAM(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "Reference-Beta-16QAM", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_TFCS_Info(rtxContext* RT_RESTRICT ctx, E_TFCS_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* reference-Beta-QPSK-List */
+   stat = asn1PD_UMTS_E_TFCS_Info_reference_Beta_QPSK_List(ctx, &pvalue->reference_Beta_QPSK_List);
+   RT_CHECK(ctx, stat, 0, "reference-Beta-QPSK-List", -1, "E-TFCS-Info");
+   /* reference-Beta-16QAM-List */
+   stat = asn1PD_UMTS_E_TFCS_Info_reference_Beta_16QAM_List(ctx, &pvalue->reference_Beta_16QAM_List);
+   RT_CHECK(ctx, stat, 0, "reference-Beta-16QAM-List", -1, "E-TFCS-Info");
+   return 0;
+}
+
+int asn1PD_UMTS_E_PUCH_Info_TDD128_snpl_ReportType(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_TDD128_snpl_ReportType* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_TPC_StepSizeTDD(rtxContext* RT_RESTRICT ctx, TPC_StepSizeTDD* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TPC-StepSizeTDD");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_SynchronisationParameters_r4(rtxContext* RT_RESTRICT ctx, UL_SynchronisationParameters_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* stepSize */
+   stat = pd_ConsUInt8(ctx, &pvalue->stepSize, 1, 8);
+   RT_CHECK(ctx, stat, 0, "stepSize", -1, "UL-SynchronisationParameters-r4");
+   /* frequency */
+   stat = pd_ConsUInt8(ctx, &pvalue->frequency, 1, 8);
+   RT_CHECK(ctx, stat, 0, "frequency", -1, "UL-SynchronisationParameters-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_E_PUCH_TS_Slots_LCR_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, E_PUCH_TS_Slots_LCR_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* ueSpecificMidamble */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.ueSpecificMidamble, 0, 15);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_PUCH_TS_Slots_LCR(rtxContext* RT_RESTRICT ctx, E_PUCH_TS_Slots_LCR* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* timeslotNumber */
+   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 6);
+   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "E-PUCH-TS-Slots-LCR");
+   /* midambleAllocationMode */
+   stat = asn1PD_UMTS_E_PUCH_TS_Slots_LCR_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "E-PUCH-TS-Slots-LCR");
+   /* midambleConfiguration */
+   stat = pd_ConsUInt8(ctx, &pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "E-PUCH-TS-Slots-LCR");
+   return 0;
+}
+
+int asn1PD_UMTS_E_PUCH_Info_TDD128_e_PUCH_TS_ConfigurationList(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_TDD128_e_PUCH_TS_ConfigurationList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 5);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      E_PUCH_TS_Slots_LCR* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_PUCH_TS_Slots_LCR));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "E-PUCH-TS-Slots-LCR", (int32_t)i, 0);
+      elem = (E_PUCH_TS_Slots_LCR*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_E_PUCH_TS_Slots_LCR(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_E_PUCH_TS_Slots_LCR(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "E-PUCH-TS-Slots-LCR", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_PUCH_Info_TDD128_retransTimerForSchedInfo(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_TDD128_retransTimerForSchedInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 29);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_PUCH_Info_TDD128(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_TDD128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-PUCH-Info-TDD128");
+   /* e-TFCS-Info */
+   stat = asn1PD_UMTS_E_TFCS_Info(ctx, &pvalue->e_TFCS_Info);
+   RT_CHECK(ctx, stat, 0, "e-TFCS-Info", -1, "E-PUCH-Info-TDD128");
+   /* snpl-ReportType */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->snpl_ReportType, 0, 1);
+      RT_CHECK(ctx, stat, 0, "snpl-ReportType", -1, "E-PUCH-Info-TDD128");
+   }
+   /* prxBASEdes */
+   stat = pd_ConsInt8(ctx, &pvalue->prxBASEdes, -112, -50);
+   RT_CHECK(ctx, stat, 0, "prxBASEdes", -1, "E-PUCH-Info-TDD128");
+   /* beaconPLEst */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = rtxDecBitInline(ctx, &pvalue->beaconPLEst);
+      RT_CHECK(ctx, stat, 0, "beaconPLEst", -1, "E-PUCH-Info-TDD128");
+   }
+   /* tpc-StepSize */
+   stat = pd_ConsUInt8(ctx, &pvalue->tpc_StepSize, 1, 3);
+   RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, "E-PUCH-Info-TDD128");
+   /* pebase-PowerControlGAP */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->pebase_PowerControlGAP, 1, 255);
+      RT_CHECK(ctx, stat, 0, "pebase-PowerControlGAP", -1, "E-PUCH-Info-TDD128");
+   }
+   /* ul-SynchronisationParameters */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_UL_SynchronisationParameters_r4(ctx, &pvalue->ul_SynchronisationParameters);
+      RT_CHECK(ctx, stat, 0, "ul-SynchronisationParameters", -1, "E-PUCH-Info-TDD128");
+   }
+   /* e-PUCH-TS-ConfigurationList */
+   stat = asn1PD_UMTS_E_PUCH_Info_TDD128_e_PUCH_TS_ConfigurationList(ctx, &pvalue->e_PUCH_TS_ConfigurationList);
+   RT_CHECK(ctx, stat, 0, "e-PUCH-TS-ConfigurationList", -1, "E-PUCH-Info-TDD128");
+   /* minimum-Allowed-Code-Rate */
+   stat = pd_ConsUInt8(ctx, &pvalue->minimum_Allowed_Code_Rate, 0, 63);
+   RT_CHECK(ctx, stat, 0, "minimum-Allowed-Code-Rate", -1, "E-PUCH-Info-TDD128");
+   /* maximum-Allowed-Code-Rate */
+   stat = pd_ConsUInt8(ctx, &pvalue->maximum_Allowed_Code_Rate, 0, 63);
+   RT_CHECK(ctx, stat, 0, "maximum-Allowed-Code-Rate", -1, "E-PUCH-Info-TDD128");
+   /* maximumNumOfRetransSchedInfo */
+   stat = pd_ConsUInt8(ctx, &pvalue->maximumNumOfRetransSchedInfo, 0, 15);
+   RT_CHECK(ctx, stat, 0, "maximumNumOfRetransSchedInfo", -1, "E-PUCH-Info-TDD128");
+   /* retransTimerForSchedInfo */
+   stat = pd_ConsUnsigned(ctx, &pvalue->retransTimerForSchedInfo, 0, 29);
+   RT_CHECK(ctx, stat, 0, "retransTimerForSchedInfo", -1, "E-PUCH-Info-TDD128");
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = pd_ConsUInt8(ctx, &pvalue->dummy, 0, 6);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "E-PUCH-Info-TDD128");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_HICH_Information_LCR_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, E_HICH_Information_LCR_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* ueSpecificMidamble */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.ueSpecificMidamble, 0, 15);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_HICH_Information_LCR(rtxContext* RT_RESTRICT ctx, E_HICH_Information_LCR* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ei */
+   stat = pd_ConsUInt8(ctx, &pvalue->ei, 0, 3);
+   RT_CHECK(ctx, stat, 0, "ei", -1, "E-HICH-Information-LCR");
+   /* timeslotNumber */
+   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 6);
+   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "E-HICH-Information-LCR");
+   /* channelisation-Code */
+   stat = pd_ConsUnsigned(ctx, &pvalue->channelisation_Code, 0, 15);
+   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "channelisation-Code", -1, "E-HICH-Information-LCR");
+   /* midambleAllocationMode */
+   stat = asn1PD_UMTS_E_HICH_Information_LCR_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "E-HICH-Information-LCR");
+   /* midambleConfiguration */
+   stat = pd_ConsUInt8(ctx, &pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "E-HICH-Information-LCR");
+   return 0;
+}
+
+int asn1PD_UMTS_E_HICH_Information_LCR_List(rtxContext* RT_RESTRICT ctx, E_HICH_Information_LCR_List* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-HICH-Information-LCR-List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      E_HICH_Information_LCR* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_HICH_Information_LCR));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "E-HICH-Information-LCR", (int32_t)i, "E-HICH-Information-LCR-List");
+      elem = (E_HICH_Information_LCR*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_E_HICH_Information_LCR(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_E_HICH_Information_LCR(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "E-HICH-Information-LCR", (int32_t)i, "E-HICH-Information-LCR-List");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_HICH_Information_TDD128(rtxContext* RT_RESTRICT ctx, E_HICH_Information_TDD128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* n-E-HICH */
+   stat = pd_ConsUInt8(ctx, &pvalue->n_E_HICH, 4, 15);
+   RT_CHECK(ctx, stat, 0, "n-E-HICH", -1, "E-HICH-Information-TDD128");
+   /* e-HICH-InfoList */
+   stat = asn1PD_UMTS_E_HICH_Information_LCR_List(ctx, &pvalue->e_HICH_InfoList);
+   RT_CHECK(ctx, stat, 0, "e-HICH-InfoList", -1, "E-HICH-Information-TDD128");
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Individual_LCR_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, E_AGCH_Individual_LCR_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* commonMidamble */
+         break;
+      case 2: /* ueSpecificMidamble */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.ueSpecificMidamble, 0, 15);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Individual_LCR(rtxContext* RT_RESTRICT ctx, E_AGCH_Individual_LCR* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* timeslotNumber */
+   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 6);
+   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "E-AGCH-Individual-LCR");
+   /* firstChannelisationCode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->firstChannelisationCode, 0, 15);
+   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "firstChannelisationCode", -1, "E-AGCH-Individual-LCR");
+   /* secondChannelisationCode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->secondChannelisationCode, 0, 15);
+   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "secondChannelisationCode", -1, "E-AGCH-Individual-LCR");
+   /* midambleAllocationMode */
+   stat = asn1PD_UMTS_E_AGCH_Individual_LCR_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "E-AGCH-Individual-LCR");
+   /* midambleConfiguration */
+   stat = pd_ConsUInt8(ctx, &pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "E-AGCH-Individual-LCR");
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Set_Config_LCR(rtxContext* RT_RESTRICT ctx, E_AGCH_Set_Config_LCR* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-AGCH-Set-Config-LCR");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      E_AGCH_Individual_LCR* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_AGCH_Individual_LCR));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "E-AGCH-Individual-LCR", (int32_t)i, "E-AGCH-Set-Config-LCR");
+      elem = (E_AGCH_Individual_LCR*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_E_AGCH_Individual_LCR(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_E_AGCH_Individual_LCR(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "E-AGCH-Individual-LCR", (int32_t)i, "E-AGCH-Set-Config-LCR");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Information_TDD128(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_TDD128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rdi-Indicator */
+   stat = rtxDecBitInline(ctx, &pvalue->rdi_Indicator);
+   RT_CHECK(ctx, stat, 0, "rdi-Indicator", -1, "E-AGCH-Information-TDD128");
+   /* tpc-StepSize */
+   stat = pd_ConsUInt8(ctx, &pvalue->tpc_StepSize, 1, 3);
+   RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, "E-AGCH-Information-TDD128");
+   /* e-AGCH-Set-Config */
+   stat = asn1PD_UMTS_E_AGCH_Set_Config_LCR(ctx, &pvalue->e_AGCH_Set_Config);
+   RT_CHECK(ctx, stat, 0, "e-AGCH-Set-Config", -1, "E-AGCH-Information-TDD128");
+   /* e-AGCH-BLER-Target */
+   stat = pd_ConsInt8(ctx, &pvalue->e_AGCH_BLER_Target, -63, 0);
+   RT_CHECK(ctx, stat, "Bler-Target", "e-AGCH-BLER-Target", -1, "E-AGCH-Information-TDD128");
+   return 0;
+}
+
+int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_harq_Info(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_harq_Info* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_RNTI(rtxContext* RT_RESTRICT ctx, E_RNTI* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32(ctx, pvalue, 16, 16);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-RNTI");
+   return 0;
+}
+
+int asn1PD_UMTS_Common_E_RNTI_Info_element(rtxContext* RT_RESTRICT ctx, Common_E_RNTI_Info_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* starting-E-RNTI */
+   stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->starting_E_RNTI);
+   RT_CHECK(ctx, stat, 0, "starting-E-RNTI", -1, 0);
+   /* number-of-group */
+   stat = pd_ConsUInt8(ctx, &pvalue->number_of_group, 1, 32);
+   RT_CHECK(ctx, stat, 0, "number-of-group", -1, 0);
+   /* number-of-ENRTI-per-group */
+   stat = pd_ConsUInt8(ctx, &pvalue->number_of_ENRTI_per_group, 1, 2);
+   RT_CHECK(ctx, stat, 0, "number-of-ENRTI-per-group", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_Common_E_RNTI_Info(rtxContext* RT_RESTRICT ctx, Common_E_RNTI_Info* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 256);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Common-E-RNTI-Info");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      Common_E_RNTI_Info_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Common_E_RNTI_Info_element));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "Common-E-RNTI-Info");
+      elem = (Common_E_RNTI_Info_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_Common_E_RNTI_Info_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_Common_E_RNTI_Info_element(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "Common-E-RNTI-Info");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info_harq_retransmission_timer(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info_harq_retransmission_timer* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 22);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* common-e-rnti-Info */
+   stat = asn1PD_UMTS_Common_E_RNTI_Info(ctx, &pvalue->common_e_rnti_Info);
+   RT_CHECK(ctx, stat, 0, "common-e-rnti-Info", -1, 0);
+   /* harq-MaximumNumberOfRetransmissions */
+   stat = pd_ConsUInt8(ctx, &pvalue->harq_MaximumNumberOfRetransmissions, 0, 7);
+   RT_CHECK(ctx, stat, 0, "harq-MaximumNumberOfRetransmissions", -1, 0);
+   /* harq-retransmission-timer */
+   stat = pd_ConsUnsigned(ctx, &pvalue->harq_retransmission_timer, 0, 22);
+   RT_CHECK(ctx, stat, 0, "harq-retransmission-timer", -1, 0);
+   /* harq-power-offset */
+   stat = pd_ConsUInt8(ctx, &pvalue->harq_power_offset, 0, 6);
+   RT_CHECK(ctx, stat, 0, "harq-power-offset", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* e-RUCCH-Info */
+   stat = asn1PD_UMTS_E_RUCCH_Info_TDD128(ctx, &pvalue->e_RUCCH_Info);
+   RT_CHECK(ctx, stat, 0, "e-RUCCH-Info", -1, 0);
+   /* e-PUCH-Info */
+   stat = asn1PD_UMTS_E_PUCH_Info_TDD128(ctx, &pvalue->e_PUCH_Info);
+   RT_CHECK(ctx, stat, 0, "e-PUCH-Info", -1, 0);
+   /* e-hich-Information */
+   stat = asn1PD_UMTS_E_HICH_Information_TDD128(ctx, &pvalue->e_hich_Information);
+   RT_CHECK(ctx, stat, 0, "e-hich-Information", -1, 0);
+   /* e-agch-Information */
+   stat = asn1PD_UMTS_E_AGCH_Information_TDD128(ctx, &pvalue->e_agch_Information);
+   RT_CHECK(ctx, stat, 0, "e-agch-Information", -1, 0);
+   /* harq-Info */
+   stat = pd_ConsUnsigned(ctx, &pvalue->harq_Info, 0, 1);
+   RT_CHECK(ctx, stat, 0, "harq-Info", -1, 0);
+   /* ccch-transmission-Info */
+   stat = asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info(ctx, &pvalue->ccch_transmission_Info);
+   RT_CHECK(ctx, stat, 0, "ccch-transmission-Info", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd768 */
+         break;
+      case 1: /* tdd384 */
+         break;
+      case 2: /* tdd128 */
+         pvalue->u.tdd128 = (CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
+         stat = asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (CommonEDCHSystemInfo_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CommonEDCHSystemInfo_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (CommonEDCHSystemInfo_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CommonEDCHSystemInfo_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CommonEDCHSystemInfo(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CommonEDCHSystemInfo");
+   /* ul-InterferenceForCommonEDCH */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8(ctx, &pvalue->ul_InterferenceForCommonEDCH, -110, -70);
+      RT_CHECK(ctx, stat, "UL-Interference", "ul-InterferenceForCommonEDCH", -1, "CommonEDCHSystemInfo");
+   }
+   /* common-E-DCH-MAC-d-FlowList */
+   stat = asn1PD_UMTS_Common_E_DCH_MAC_d_FlowList(ctx, &pvalue->common_E_DCH_MAC_d_FlowList);
+   RT_CHECK(ctx, stat, 0, "common-E-DCH-MAC-d-FlowList", -1, "CommonEDCHSystemInfo");
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CommonEDCHSystemInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v890ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v890ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5-v890ext-IEs");
+   /* secondFrequencyInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->secondFrequencyInfo);
+      RT_CHECK(ctx, stat, 0, "secondFrequencyInfo", -1, "SysInfoType5-v890ext-IEs");
+   }
+   /* commonEDCHSystemInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CommonEDCHSystemInfo(ctx, &pvalue->commonEDCHSystemInfo);
+      RT_CHECK(ctx, stat, 0, "commonEDCHSystemInfo", -1, "SysInfoType5-v890ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v8b0ext_IEs_tresetUsageIndicator(rtxContext* RT_RESTRICT ctx, SysInfoType5_v8b0ext_IEs_tresetUsageIndicator* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UpPCHposition_LCR(rtxContext* RT_RESTRICT ctx, UpPCHposition_LCR* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 127);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UpPCHposition-LCR");
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v8b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v8b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5-v8b0ext-IEs");
+   /* tresetUsageIndicator */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "tresetUsageIndicator", -1, "SysInfoType5-v8b0ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "tresetUsageIndicator", -1, "SysInfoType5-v8b0ext-IEs");
+         pvalue->tresetUsageIndicator = ui;
+      }
+   }
+   /* upPCHpositionInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->upPCHpositionInfo, 0, 127);
+      RT_CHECK(ctx, stat, "UpPCHposition-LCR", "upPCHpositionInfo", -1, "SysInfoType5-v8b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CommonEDCHSystemInfoFDD_harq_Info(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfoFDD_harq_Info* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CommonEDCHSystemInfoFDD_max_CCCH_ResourceAllocation(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfoFDD_max_CCCH_ResourceAllocation* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CommonEDCHSystemInfoFDD_e_dch_TransmitContinuationOffset(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfoFDD_e_dch_TransmitContinuationOffset* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CommonEDCHSystemInfoFDD_common_E_DCH_ResourceInfoList(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfoFDD_common_E_DCH_ResourceInfoList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      Common_E_DCH_ResourceInfoList* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Common_E_DCH_ResourceInfoList));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "Common-E-DCH-ResourceInfoList", (int32_t)i, 0);
+      elem = (Common_E_DCH_ResourceInfoList*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_Common_E_DCH_ResourceInfoList(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_Common_E_DCH_ResourceInfoList(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "Common-E-DCH-ResourceInfoList", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CommonEDCHSystemInfoFDD(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfoFDD* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CommonEDCHSystemInfoFDD");
+   /* ul-InterferenceForCommonEDCH */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8(ctx, &pvalue->ul_InterferenceForCommonEDCH, -110, -70);
+      RT_CHECK(ctx, stat, "UL-Interference", "ul-InterferenceForCommonEDCH", -1, "CommonEDCHSystemInfoFDD");
+   }
+   /* common-E-DCH-MAC-d-FlowList */
+   stat = asn1PD_UMTS_Common_E_DCH_MAC_d_FlowList(ctx, &pvalue->common_E_DCH_MAC_d_FlowList);
+   RT_CHECK(ctx, stat, 0, "common-E-DCH-MAC-d-FlowList", -1, "CommonEDCHSystemInfoFDD");
+   /* prach-PreambleForEnhancedUplink */
+   stat = asn1PD_UMTS_PRACH_PreambleForEnhancedUplink(ctx, &pvalue->prach_PreambleForEnhancedUplink);
+   RT_CHECK(ctx, stat, 0, "prach-PreambleForEnhancedUplink", -1, "CommonEDCHSystemInfoFDD");
+   /* initialServingGrantValue */
+   stat = pd_ConsUInt8(ctx, &pvalue->initialServingGrantValue, 0, 37);
+   RT_CHECK(ctx, stat, 0, "initialServingGrantValue", -1, "CommonEDCHSystemInfoFDD");
+   /* e-dch-TTI */
+   stat = pd_ConsUnsigned(ctx, &pvalue->e_dch_TTI, 0, 1);
+   RT_CHECK(ctx, stat, "E-DCH-TTI", "e-dch-TTI", -1, "CommonEDCHSystemInfoFDD");
+   /* e-agch-Information */
+   stat = asn1PD_UMTS_E_AGCH_Information(ctx, &pvalue->e_agch_Information);
+   RT_CHECK(ctx, stat, 0, "e-agch-Information", -1, "CommonEDCHSystemInfoFDD");
+   /* harq-Info */
+   stat = pd_ConsUnsigned(ctx, &pvalue->harq_Info, 0, 1);
+   RT_CHECK(ctx, stat, 0, "harq-Info", -1, "CommonEDCHSystemInfoFDD");
+   /* ul-DPCHpowerControlInfoForCommonEDCH */
+   stat = asn1PD_UMTS_UL_DPCHpowerControlInfoForCommonEDCH(ctx, &pvalue->ul_DPCHpowerControlInfoForCommonEDCH);
+   RT_CHECK(ctx, stat, 0, "ul-DPCHpowerControlInfoForCommonEDCH", -1, "CommonEDCHSystemInfoFDD");
+   /* e-dpcch-Info */
+   stat = asn1PD_UMTS_E_DPCCH_Info_r7(ctx, &pvalue->e_dpcch_Info);
+   RT_CHECK(ctx, stat, 0, "e-dpcch-Info", -1, "CommonEDCHSystemInfoFDD");
+   /* e-dpdch-Info */
+   stat = asn1PD_UMTS_E_DPDCH_Info_r8(ctx, &pvalue->e_dpdch_Info);
+   RT_CHECK(ctx, stat, 0, "e-dpdch-Info", -1, "CommonEDCHSystemInfoFDD");
+   /* dl-FDPCH-TPCcommandErrorRate */
+   stat = pd_ConsUInt8(ctx, &pvalue->dl_FDPCH_TPCcommandErrorRate, 1, 10);
+   RT_CHECK(ctx, stat, 0, "dl-FDPCH-TPCcommandErrorRate", -1, "CommonEDCHSystemInfoFDD");
+   /* additional-E-DCH-TransmitBackoff */
+   stat = pd_ConsUInt8(ctx, &pvalue->additional_E_DCH_TransmitBackoff, 0, 15);
+   RT_CHECK(ctx, stat, 0, "additional-E-DCH-TransmitBackoff", -1, "CommonEDCHSystemInfoFDD");
+   /* max-CCCH-ResourceAllocation */
+   stat = pd_ConsUnsigned(ctx, &pvalue->max_CCCH_ResourceAllocation, 0, 7);
+   RT_CHECK(ctx, stat, 0, "max-CCCH-ResourceAllocation", -1, "CommonEDCHSystemInfoFDD");
+   /* max-PeriodForCollisionResolution */
+   stat = pd_ConsUInt8(ctx, &pvalue->max_PeriodForCollisionResolution, 8, 24);
+   RT_CHECK(ctx, stat, 0, "max-PeriodForCollisionResolution", -1, "CommonEDCHSystemInfoFDD");
+   /* e-dch-TransmitContinuationOffset */
+   stat = pd_ConsUnsigned(ctx, &pvalue->e_dch_TransmitContinuationOffset, 0, 7);
+   RT_CHECK(ctx, stat, 0, "e-dch-TransmitContinuationOffset", -1, "CommonEDCHSystemInfoFDD");
+   /* ack-nack-support-on-HS-DPCCH */
+   stat = rtxDecBitInline(ctx, &pvalue->ack_nack_support_on_HS_DPCCH);
+   RT_CHECK(ctx, stat, 0, "ack-nack-support-on-HS-DPCCH", -1, "CommonEDCHSystemInfoFDD");
+   /* measurement-Feedback-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_Feedback_Info);
+      RT_CHECK(ctx, stat, 0, "measurement-Feedback-Info", -1, "CommonEDCHSystemInfoFDD");
+   }
+   /* common-E-DCH-ResourceInfoList */
+   stat = asn1PD_UMTS_CommonEDCHSystemInfoFDD_common_E_DCH_ResourceInfoList(ctx, &pvalue->common_E_DCH_ResourceInfoList);
+   RT_CHECK(ctx, stat, 0, "common-E-DCH-ResourceInfoList", -1, "CommonEDCHSystemInfoFDD");
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v8d0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType5_v8d0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5-v8d0ext-IEs");
+   /* commonEDCHSystemInfoFDD */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CommonEDCHSystemInfoFDD(ctx, &pvalue->commonEDCHSystemInfoFDD);
+      RT_CHECK(ctx, stat, 0, "commonEDCHSystemInfoFDD", -1, "SysInfoType5-v8d0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType5-v8d0ext */
+   stat = asn1PD_UMTS_SysInfoType5_v8d0ext_IEs(ctx, &pvalue->sysInfoType5_v8d0ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType5-v8d0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType5-v8b0ext */
+   stat = asn1PD_UMTS_SysInfoType5_v8b0ext_IEs(ctx, &pvalue->sysInfoType5_v8b0ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType5-v8b0ext", -1, 0);
+   /* v8d0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions(ctx, &pvalue->v8d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v8d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType5-v890ext */
+   stat = asn1PD_UMTS_SysInfoType5_v890ext_IEs(ctx, &pvalue->sysInfoType5_v890ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType5-v890ext", -1, 0);
+   /* v8b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions(ctx, &pvalue->v8b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v8b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType5-v860ext */
+   stat = asn1PD_UMTS_SysInfoType5_v860ext_IEs(ctx, &pvalue->sysInfoType5_v860ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType5-v860ext", -1, 0);
+   /* v890NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType5-v770ext */
+   stat = asn1PD_UMTS_SysInfoType5_v770ext_IEs(ctx, &pvalue->sysInfoType5_v770ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType5-v770ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType5-v690ext */
+   stat = asn1PD_UMTS_SysInfoType5_v690ext_IEs(ctx, &pvalue->sysInfoType5_v690ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType5-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType5-v680ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType5_v680ext_IEs(ctx, &pvalue->sysInfoType5_v680ext);
+      RT_CHECK(ctx, stat, 0, "sysInfoType5-v680ext", -1, 0);
+   }
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType5-v650ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType5_v650ext_IEs(ctx, &pvalue->sysInfoType5_v650ext);
+      RT_CHECK(ctx, stat, 0, "sysInfoType5-v650ext", -1, 0);
+   }
+   /* v680NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions(ctx, &pvalue->v680NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v680NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType5-v590ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType5_v590ext_IEs(ctx, &pvalue->sysInfoType5_v590ext);
+      RT_CHECK(ctx, stat, 0, "sysInfoType5-v590ext", -1, 0);
+   }
+   /* v650NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions(ctx, &pvalue->v650NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v650NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType5_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType5-v4b0ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType5_v4b0ext_IEs(ctx, &pvalue->sysInfoType5_v4b0ext);
+      RT_CHECK(ctx, stat, 0, "sysInfoType5-v4b0ext", -1, 0);
+   }
+   /* v590NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType5(rtxContext* RT_RESTRICT ctx, SysInfoType5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5");
+   /* sib6indicator */
+   stat = rtxDecBitInline(ctx, &pvalue->sib6indicator);
+   RT_CHECK(ctx, stat, 0, "sib6indicator", -1, "SysInfoType5");
+   /* pich-PowerOffset */
+   stat = pd_ConsInt8(ctx, &pvalue->pich_PowerOffset, -10, 5);
+   RT_CHECK(ctx, stat, "PICH-PowerOffset", "pich-PowerOffset", -1, "SysInfoType5");
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_SysInfoType5_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SysInfoType5");
+   /* primaryCCPCH-Info */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info);
+      RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "SysInfoType5");
+   }
+   /* prach-SystemInformationList */
+   stat = asn1PD_UMTS_PRACH_SystemInformationList(ctx, &pvalue->prach_SystemInformationList);
+   RT_CHECK(ctx, stat, 0, "prach-SystemInformationList", -1, "SysInfoType5");
+   /* sCCPCH-SystemInformationList */
+   stat = asn1PD_UMTS_SCCPCH_SystemInformationList(ctx, &pvalue->sCCPCH_SystemInformationList);
+   RT_CHECK(ctx, stat, 0, "sCCPCH-SystemInformationList", -1, "SysInfoType5");
+   /* cbs-DRX-Level1Information */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CBS_DRX_Level1Information(ctx, &pvalue->cbs_DRX_Level1Information);
+      RT_CHECK(ctx, stat, 0, "cbs-DRX-Level1Information", -1, "SysInfoType5");
+   }
+   /* v4b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAT_Type(rtxContext* RT_RESTRICT ctx, RAT_Type* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAT-Type");
+   return 0;
+}
+
+int asn1PD_UMTS_FACH_MeasurementOccasionInfo_inter_RAT_meas_ind(rtxContext* RT_RESTRICT ctx, FACH_MeasurementOccasionInfo_inter_RAT_meas_ind* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 4);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      pvalue->n = raw + 1;
+      if (raw > 14) {
+         rtxErrAddStrParm(ctx, "inter-RAT-meas-ind");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 1);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, "RAT-Type", "RAT-Type", (int32_t)i, 0);
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_FACH_MeasurementOccasionInfo(rtxContext* RT_RESTRICT ctx, FACH_MeasurementOccasionInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "FACH-MeasurementOccasionInfo");
+   /* fACH-meas-occasion-coeff */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->fACH_meas_occasion_coeff, 1, 12);
+      RT_CHECK(ctx, stat, 0, "fACH-meas-occasion-coeff", -1, "FACH-MeasurementOccasionInfo");
+   }
+   /* inter-freq-FDD-meas-ind */
+   stat = rtxDecBitInline(ctx, &pvalue->inter_freq_FDD_meas_ind);
+   RT_CHECK(ctx, stat, 0, "inter-freq-FDD-meas-ind", -1, "FACH-MeasurementOccasionInfo");
+   /* inter-freq-TDD-meas-ind */
+   stat = rtxDecBitInline(ctx, &pvalue->inter_freq_TDD_meas_ind);
+   RT_CHECK(ctx, stat, 0, "inter-freq-TDD-meas-ind", -1, "FACH-MeasurementOccasionInfo");
+   /* inter-RAT-meas-ind */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_FACH_MeasurementOccasionInfo_inter_RAT_meas_ind(ctx, &pvalue->inter_RAT_meas_ind);
+      RT_CHECK(ctx, stat, 0, "inter-RAT-meas-ind", -1, "FACH-MeasurementOccasionInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementIdentity(rtxContext* RT_RESTRICT ctx, MeasurementIdentity* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 16);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementIdentity");
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqCellID(rtxContext* RT_RESTRICT ctx, IntraFreqCellID* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 31);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellID");
+   return 0;
+}
+
+int asn1PD_UMTS_RemovedIntraFreqCellList_removeSomeIntraFreqCells(rtxContext* RT_RESTRICT ctx, RemovedIntraFreqCellList_removeSomeIntraFreqCells* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 5);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      pvalue->n = raw + 1;
+      if (raw > 31) {
+         rtxErrAddStrParm(ctx, "removeSomeIntraFreqCells");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 31);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, "IntraFreqCellID", "IntraFreqCellID", (int32_t)i, 0);
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RemovedIntraFreqCellList(rtxContext* RT_RESTRICT ctx, RemovedIntraFreqCellList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RemovedIntraFreqCellList");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* removeAllIntraFreqCells */
+         break;
+      case 1: /* removeSomeIntraFreqCells */
+         pvalue->u.removeSomeIntraFreqCells = (RemovedIntraFreqCellList_removeSomeIntraFreqCells*)rtxMemHeapAlloc(ctx, sizeof(RemovedIntraFreqCellList_removeSomeIntraFreqCells));
+         if (pvalue->u.removeSomeIntraFreqCells == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "removeSomeIntraFreqCells", -1, "RemovedIntraFreqCellList");
+         asn1Init_UMTS_RemovedIntraFreqCellList_removeSomeIntraFreqCells(pvalue->u.removeSomeIntraFreqCells);
+         stat = asn1PD_UMTS_RemovedIntraFreqCellList_removeSomeIntraFreqCells(ctx, pvalue->u.removeSomeIntraFreqCells);
+         RT_CHECK(ctx, stat, 0, "removeSomeIntraFreqCells", -1, "RemovedIntraFreqCellList");
+         break;
+      case 2: /* removeNoIntraFreqCells */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RemovedIntraFreqCellList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellIndividualOffset(rtxContext* RT_RESTRICT ctx, CellIndividualOffset* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsInt8(ctx, pvalue, -20, 20);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellIndividualOffset");
+   return 0;
+}
+
+int asn1PD_UMTS_ReferenceTimeDifferenceToCell(rtxContext* RT_RESTRICT ctx, ReferenceTimeDifferenceToCell* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ReferenceTimeDifferenceToCell");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* accuracy40 */
+         stat = pd_ConsUInt16(ctx, &pvalue->u.accuracy40, 0, 960);
+         RT_CHECK(ctx, stat, 0, "accuracy40", -1, "ReferenceTimeDifferenceToCell");
+         break;
+      case 1: /* accuracy256 */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.accuracy256, 0, 150);
+         RT_CHECK(ctx, stat, 0, "accuracy256", -1, "ReferenceTimeDifferenceToCell");
+         break;
+      case 2: /* accuracy2560 */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.accuracy2560, 0, 15);
+         RT_CHECK(ctx, stat, 0, "accuracy2560", -1, "ReferenceTimeDifferenceToCell");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ReferenceTimeDifferenceToCell");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryScramblingCode(rtxContext* RT_RESTRICT ctx, PrimaryScramblingCode* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt16(ctx, pvalue, 0, 511);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PrimaryScramblingCode");
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCPICH_Info(rtxContext* RT_RESTRICT ctx, PrimaryCPICH_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* primaryScramblingCode */
+   stat = pd_ConsUInt16(ctx, &pvalue->primaryScramblingCode, 0, 511);
+   RT_CHECK(ctx, stat, "PrimaryScramblingCode", "primaryScramblingCode", -1, "PrimaryCPICH-Info");
+   return 0;
+}
+
+int asn1PD_UMTS_CellInfoSI_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   }
+   /* primaryCPICH-TX-Power */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsInt8(ctx, &pvalue->primaryCPICH_TX_Power, -10, 50);
+      RT_CHECK(ctx, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
+   }
+   /* readSFN-Indicator */
+   stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
+   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
+   /* tx-DiversityIndicator */
+   stat = rtxDecBitInline(ctx, &pvalue->tx_DiversityIndicator);
+   RT_CHECK(ctx, stat, 0, "tx-DiversityIndicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_BurstType(rtxContext* RT_RESTRICT ctx, BurstType* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "BurstType");
+   return 0;
+}
+
+int asn1PD_UMTS_TimeslotInfo(rtxContext* RT_RESTRICT ctx, TimeslotInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* timeslotNumber */
+   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 14);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, "TimeslotInfo");
+   /* burstType */
+   stat = pd_ConsUnsigned(ctx, &pvalue->burstType, 0, 1);
+   RT_CHECK(ctx, stat, "BurstType", "burstType", -1, "TimeslotInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_TimeslotInfoList(rtxContext* RT_RESTRICT ctx, TimeslotInfoList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 14);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimeslotInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      TimeslotInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TimeslotInfo));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "TimeslotInfo", (int32_t)i, "TimeslotInfoList");
+      elem = (TimeslotInfo*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_TimeslotInfo(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "TimeslotInfo", (int32_t)i, "TimeslotInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellInfoSI_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* primaryCCPCH-Info */
+   stat = asn1PD_UMTS_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+      RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   }
+   /* timeslotInfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_TimeslotInfoList(ctx, &pvalue->timeslotInfoList);
+      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, 0);
+   }
+   /* readSFN-Indicator */
+   stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
+   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CellInfoSI_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellInfoSI_RSCP_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (CellInfoSI_RSCP_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfoSI_RSCP_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_CellInfoSI_RSCP_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_CellInfoSI_RSCP_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (CellInfoSI_RSCP_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfoSI_RSCP_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_CellInfoSI_RSCP_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_CellInfoSI_RSCP_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Q_OffsetS_N(rtxContext* RT_RESTRICT ctx, Q_OffsetS_N* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsInt8(ctx, pvalue, -50, 50);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Q-OffsetS-N");
+   return 0;
+}
+
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* q-QualMin */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8(ctx, &pvalue->q_QualMin, -24, 0);
+      RT_CHECK(ctx, stat, "Q-QualMin", "q-QualMin", -1, 0);
+   }
+   /* q-RxlevMin */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* q-RxlevMin */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* q-RxlevMin */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      case 2: /* gsm */
+         pvalue->u.gsm = (CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm));
+         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm", -1, 0);
+         asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm(pvalue->u.gsm);
+         stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm(ctx, pvalue->u.gsm);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_RSCP(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_RSCP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellSelectReselectInfoSIB-11-12-RSCP");
+   /* q-OffsetS-N */
+   if (present & ((uint32_t)1 << 1)) {
+      stat = pd_ConsInt8(ctx, &pvalue->q_OffsetS_N, -50, 50);
+      RT_CHECK(ctx, stat, "Q-OffsetS-N", "q-OffsetS-N", -1, "CellSelectReselectInfoSIB-11-12-RSCP");
+   }
+   else {
+      pvalue->q_OffsetS_N = 0;
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12-RSCP");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellSelectReselectInfoSIB-11-12-RSCP");
+   return 0;
+}
+
+int asn1PD_UMTS_CellInfoSI_RSCP(rtxContext* RT_RESTRICT ctx, CellInfoSI_RSCP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfoSI-RSCP");
+   /* cellIndividualOffset */
+   if (present & ((uint32_t)1 << 2)) {
+      stat = pd_ConsInt8(ctx, &pvalue->cellIndividualOffset, -20, 20);
+      RT_CHECK(ctx, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-RSCP");
+   }
+   else {
+      pvalue->cellIndividualOffset = 0;
+   }
+   /* referenceTimeDifferenceToCell */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
+      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-RSCP");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_CellInfoSI_RSCP_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellInfoSI-RSCP");
+   /* cellSelectionReselectionInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_RSCP(ctx, &pvalue->cellSelectionReselectionInfo);
+      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-RSCP");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NewIntraFreqCellSI_RSCP(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_RSCP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-RSCP");
+   /* intraFreqCellID */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqCellID, 0, 31);
+      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-RSCP");
+   }
+   /* cellInfo */
+   stat = asn1PD_UMTS_CellInfoSI_RSCP(ctx, &pvalue->cellInfo);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-RSCP");
+   return 0;
+}
+
+int asn1PD_UMTS_NewIntraFreqCellSI_List_RSCP(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_RSCP* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-List-RSCP");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NewIntraFreqCellSI_RSCP* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCellSI_RSCP));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewIntraFreqCellSI-RSCP", (int32_t)i, "NewIntraFreqCellSI-List-RSCP");
+      elem = (NewIntraFreqCellSI_RSCP*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_NewIntraFreqCellSI_RSCP(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_NewIntraFreqCellSI_RSCP(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-RSCP", (int32_t)i, "NewIntraFreqCellSI-List-RSCP");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqCellInfoSI_List_RSCP(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_RSCP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-RSCP");
+   /* removedIntraFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
+      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-RSCP");
+   }
+   /* newIntraFreqCellList */
+   stat = asn1PD_UMTS_NewIntraFreqCellSI_List_RSCP(ctx, &pvalue->newIntraFreqCellList);
+   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-RSCP");
+   return 0;
+}
+
+int asn1PD_UMTS_FilterCoefficient(rtxContext* RT_RESTRICT ctx, FilterCoefficient* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "FilterCoefficient");
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqMeasQuantity_FDD(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_FDD* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasQuantity-FDD");
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqMeasQuantity_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* intraFreqMeasQuantity-FDD */
+   stat = pd_ConsUnsigned(ctx, &pvalue->intraFreqMeasQuantity_FDD, 0, 3);
+   RT_CHECK(ctx, stat, "IntraFreqMeasQuantity-FDD", "intraFreqMeasQuantity-FDD", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqMeasQuantity_TDD(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_TDD* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasQuantity-TDD");
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqMeasQuantity_TDDList(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_TDDList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 2);
+      RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasQuantity-TDDList");
+      pvalue->n = raw + 1;
+      if (raw > 3) {
+         rtxErrAddStrParm(ctx, "IntraFreqMeasQuantity-TDDList");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "IntraFreqMeasQuantity-TDDList");
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 3);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, "IntraFreqMeasQuantity-TDD", "IntraFreqMeasQuantity-TDD", (int32_t)i, "IntraFreqMeasQuantity-TDDList");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqMeasQuantity_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* intraFreqMeasQuantity-TDDList */
+   stat = asn1PD_UMTS_IntraFreqMeasQuantity_TDDList(ctx, &pvalue->intraFreqMeasQuantity_TDDList);
+   RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity-TDDList", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqMeasQuantity_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (IntraFreqMeasQuantity_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(IntraFreqMeasQuantity_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = asn1PD_UMTS_IntraFreqMeasQuantity_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (IntraFreqMeasQuantity_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqMeasQuantity_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_IntraFreqMeasQuantity_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_IntraFreqMeasQuantity_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqMeasQuantity(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasQuantity");
+   /* filterCoefficient */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUnsigned(ctx, &pvalue->filterCoefficient, 0, 15);
+      RT_CHECK(ctx, stat, "FilterCoefficient", "filterCoefficient", -1, "IntraFreqMeasQuantity");
+   }
+   else {
+      pvalue->filterCoefficient = 0;
+   }
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_IntraFreqMeasQuantity_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "IntraFreqMeasQuantity");
+   return 0;
+}
+
+int asn1PD_UMTS_SFN_SFN_OTD_Type(rtxContext* RT_RESTRICT ctx, SFN_SFN_OTD_Type* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SFN-SFN-OTD-Type");
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqRepQuantityRACH_FDD(rtxContext* RT_RESTRICT ctx, IntraFreqRepQuantityRACH_FDD* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqRepQuantityRACH-FDD");
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* intraFreqRepQuantityRACH-FDD */
+   stat = pd_ConsUnsigned(ctx, &pvalue->intraFreqRepQuantityRACH_FDD, 0, 3);
+   RT_CHECK(ctx, stat, "IntraFreqRepQuantityRACH-FDD", "intraFreqRepQuantityRACH-FDD", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqRepQuantityRACH_TDD(rtxContext* RT_RESTRICT ctx, IntraFreqRepQuantityRACH_TDD* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqRepQuantityRACH-TDD");
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqRepQuantityRACH_TDDList(rtxContext* RT_RESTRICT ctx, IntraFreqRepQuantityRACH_TDDList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 1);
+      RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqRepQuantityRACH-TDDList");
+      pvalue->n = raw + 1;
+      if (raw > 1) {
+         rtxErrAddStrParm(ctx, "IntraFreqRepQuantityRACH-TDDList");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "IntraFreqRepQuantityRACH-TDDList");
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 2);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, "IntraFreqRepQuantityRACH-TDD", "IntraFreqRepQuantityRACH-TDD", (int32_t)i, "IntraFreqRepQuantityRACH-TDDList");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* intraFreqRepQuantityRACH-TDDList */
+   stat = asn1PD_UMTS_IntraFreqRepQuantityRACH_TDDList(ctx, &pvalue->intraFreqRepQuantityRACH_TDDList);
+   RT_CHECK(ctx, stat, 0, "intraFreqRepQuantityRACH-TDDList", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, IntraFreqReportingQuantityForRACH_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = asn1PD_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqReportingQuantityForRACH(rtxContext* RT_RESTRICT ctx, IntraFreqReportingQuantityForRACH* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* sfn-SFN-OTD-Type */
+   stat = pd_ConsUnsigned(ctx, &pvalue->sfn_SFN_OTD_Type, 0, 2);
+   RT_CHECK(ctx, stat, "SFN-SFN-OTD-Type", "sfn-SFN-OTD-Type", -1, "IntraFreqReportingQuantityForRACH");
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "IntraFreqReportingQuantityForRACH");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxReportedCellsOnRACH(rtxContext* RT_RESTRICT ctx, MaxReportedCellsOnRACH* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxReportedCellsOnRACH");
+   return 0;
+}
+
+int asn1PD_UMTS_CellReportingQuantities_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellReportingQuantities_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* cpich-Ec-N0-reportingIndicator */
+   stat = rtxDecBitInline(ctx, &pvalue->cpich_Ec_N0_reportingIndicator);
+   RT_CHECK(ctx, stat, 0, "cpich-Ec-N0-reportingIndicator", -1, 0);
+   /* cpich-RSCP-reportingIndicator */
+   stat = rtxDecBitInline(ctx, &pvalue->cpich_RSCP_reportingIndicator);
+   RT_CHECK(ctx, stat, 0, "cpich-RSCP-reportingIndicator", -1, 0);
+   /* pathloss-reportingIndicator */
+   stat = rtxDecBitInline(ctx, &pvalue->pathloss_reportingIndicator);
+   RT_CHECK(ctx, stat, 0, "pathloss-reportingIndicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CellReportingQuantities_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellReportingQuantities_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* timeslotISCP-reportingIndicator */
+   stat = rtxDecBitInline(ctx, &pvalue->timeslotISCP_reportingIndicator);
+   RT_CHECK(ctx, stat, 0, "timeslotISCP-reportingIndicator", -1, 0);
+   /* proposedTGSN-ReportingRequired */
+   stat = rtxDecBitInline(ctx, &pvalue->proposedTGSN_ReportingRequired);
+   RT_CHECK(ctx, stat, 0, "proposedTGSN-ReportingRequired", -1, 0);
+   /* primaryCCPCH-RSCP-reportingIndicator */
+   stat = rtxDecBitInline(ctx, &pvalue->primaryCCPCH_RSCP_reportingIndicator);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-RSCP-reportingIndicator", -1, 0);
+   /* pathloss-reportingIndicator */
+   stat = rtxDecBitInline(ctx, &pvalue->pathloss_reportingIndicator);
+   RT_CHECK(ctx, stat, 0, "pathloss-reportingIndicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CellReportingQuantities_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellReportingQuantities_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (CellReportingQuantities_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(CellReportingQuantities_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = asn1PD_UMTS_CellReportingQuantities_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (CellReportingQuantities_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(CellReportingQuantities_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         stat = asn1PD_UMTS_CellReportingQuantities_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellReportingQuantities(rtxContext* RT_RESTRICT ctx, CellReportingQuantities* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* dummy */
+   stat = pd_ConsUnsigned(ctx, &pvalue->dummy, 0, 2);
+   RT_CHECK(ctx, stat, "SFN-SFN-OTD-Type", "dummy", -1, "CellReportingQuantities");
+   /* cellIdentity-reportingIndicator */
+   stat = rtxDecBitInline(ctx, &pvalue->cellIdentity_reportingIndicator);
+   RT_CHECK(ctx, stat, 0, "cellIdentity-reportingIndicator", -1, "CellReportingQuantities");
+   /* cellSynchronisationInfoReportingIndicator */
+   stat = rtxDecBitInline(ctx, &pvalue->cellSynchronisationInfoReportingIndicator);
+   RT_CHECK(ctx, stat, 0, "cellSynchronisationInfoReportingIndicator", -1, "CellReportingQuantities");
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_CellReportingQuantities_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellReportingQuantities");
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqReportingQuantity(rtxContext* RT_RESTRICT ctx, IntraFreqReportingQuantity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqReportingQuantity");
+   /* activeSetReportingQuantities */
+   stat = asn1PD_UMTS_CellReportingQuantities(ctx, &pvalue->activeSetReportingQuantities);
+   RT_CHECK(ctx, stat, 0, "activeSetReportingQuantities", -1, "IntraFreqReportingQuantity");
+   /* monitoredSetReportingQuantities */
+   stat = asn1PD_UMTS_CellReportingQuantities(ctx, &pvalue->monitoredSetReportingQuantities);
+   RT_CHECK(ctx, stat, 0, "monitoredSetReportingQuantities", -1, "IntraFreqReportingQuantity");
+   /* detectedSetReportingQuantities */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellReportingQuantities(ctx, &pvalue->detectedSetReportingQuantities);
+      RT_CHECK(ctx, stat, 0, "detectedSetReportingQuantities", -1, "IntraFreqReportingQuantity");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransferMode(rtxContext* RT_RESTRICT ctx, TransferMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransferMode");
+   return 0;
+}
+
+int asn1PD_UMTS_PeriodicalOrEventTrigger(rtxContext* RT_RESTRICT ctx, PeriodicalOrEventTrigger* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PeriodicalOrEventTrigger");
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementReportingMode(rtxContext* RT_RESTRICT ctx, MeasurementReportingMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* measurementReportTransferMode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->measurementReportTransferMode, 0, 1);
+   RT_CHECK(ctx, stat, "TransferMode", "measurementReportTransferMode", -1, "MeasurementReportingMode");
+   /* periodicalOrEventTrigger */
+   stat = pd_ConsUnsigned(ctx, &pvalue->periodicalOrEventTrigger, 0, 1);
+   RT_CHECK(ctx, stat, "PeriodicalOrEventTrigger", "periodicalOrEventTrigger", -1, "MeasurementReportingMode");
+   return 0;
+}
+
+int asn1PD_UMTS_TriggeringCondition2(rtxContext* RT_RESTRICT ctx, TriggeringCondition2* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TriggeringCondition2");
+   return 0;
+}
+
+int asn1PD_UMTS_ReportingRange(rtxContext* RT_RESTRICT ctx, ReportingRange* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 29);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ReportingRange");
+   return 0;
+}
+
+int asn1PD_UMTS_ForbiddenAffectCell(rtxContext* RT_RESTRICT ctx, ForbiddenAffectCell* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ForbiddenAffectCell");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (PrimaryCPICH_Info*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCPICH_Info));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, "ForbiddenAffectCell");
+         stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "ForbiddenAffectCell");
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (PrimaryCCPCH_Info*)rtxMemHeapAlloc(ctx, sizeof(PrimaryCCPCH_Info));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, "ForbiddenAffectCell");
+         asn1Init_UMTS_PrimaryCCPCH_Info(pvalue->u.tdd);
+         stat = asn1PD_UMTS_PrimaryCCPCH_Info(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "ForbiddenAffectCell");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ForbiddenAffectCell");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ForbiddenAffectCellList(rtxContext* RT_RESTRICT ctx, ForbiddenAffectCellList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ForbiddenAffectCellList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      ForbiddenAffectCell* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(ForbiddenAffectCell));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ForbiddenAffectCell", (int32_t)i, "ForbiddenAffectCellList");
+      elem = (ForbiddenAffectCell*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_ForbiddenAffectCell(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_ForbiddenAffectCell(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "ForbiddenAffectCell", (int32_t)i, "ForbiddenAffectCellList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_W(rtxContext* RT_RESTRICT ctx, W* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 20);
+   RT_CHECK(ctx, stat, 0, 0, -1, "W");
+   return 0;
+}
+
+int asn1PD_UMTS_ReportDeactivationThreshold(rtxContext* RT_RESTRICT ctx, ReportDeactivationThreshold* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ReportDeactivationThreshold");
+   return 0;
+}
+
+int asn1PD_UMTS_ReportingAmount(rtxContext* RT_RESTRICT ctx, ReportingAmount* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ReportingAmount");
+   return 0;
+}
+
+int asn1PD_UMTS_ReportingInterval(rtxContext* RT_RESTRICT ctx, ReportingInterval* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ReportingInterval");
+   return 0;
+}
+
+int asn1PD_UMTS_Event1a(rtxContext* RT_RESTRICT ctx, Event1a* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Event1a");
+   /* triggeringCondition */
+   stat = pd_ConsUnsigned(ctx, &pvalue->triggeringCondition, 0, 4);
+   RT_CHECK(ctx, stat, "TriggeringCondition2", "triggeringCondition", -1, "Event1a");
+   /* reportingRange */
+   stat = pd_ConsUInt8(ctx, &pvalue->reportingRange, 0, 29);
+   RT_CHECK(ctx, stat, "ReportingRange", "reportingRange", -1, "Event1a");
+   /* forbiddenAffectCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_ForbiddenAffectCellList(ctx, &pvalue->forbiddenAffectCellList);
+      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellList", -1, "Event1a");
+   }
+   /* w */
+   stat = pd_ConsUInt8(ctx, &pvalue->w, 0, 20);
+   RT_CHECK(ctx, stat, "W", "w", -1, "Event1a");
+   /* reportDeactivationThreshold */
+   stat = pd_ConsUnsigned(ctx, &pvalue->reportDeactivationThreshold, 0, 7);
+   RT_CHECK(ctx, stat, "ReportDeactivationThreshold", "reportDeactivationThreshold", -1, "Event1a");
+   /* reportingAmount */
+   stat = pd_ConsUnsigned(ctx, &pvalue->reportingAmount, 0, 7);
+   RT_CHECK(ctx, stat, "ReportingAmount", "reportingAmount", -1, "Event1a");
+   /* reportingInterval */
+   stat = pd_ConsUnsigned(ctx, &pvalue->reportingInterval, 0, 7);
+   RT_CHECK(ctx, stat, "ReportingInterval", "reportingInterval", -1, "Event1a");
+   return 0;
+}
+
+int asn1PD_UMTS_TriggeringCondition1(rtxContext* RT_RESTRICT ctx, TriggeringCondition1* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TriggeringCondition1");
+   return 0;
+}
+
+int asn1PD_UMTS_Event1b(rtxContext* RT_RESTRICT ctx, Event1b* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Event1b");
+   /* triggeringCondition */
+   stat = pd_ConsUnsigned(ctx, &pvalue->triggeringCondition, 0, 2);
+   RT_CHECK(ctx, stat, "TriggeringCondition1", "triggeringCondition", -1, "Event1b");
+   /* reportingRange */
+   stat = pd_ConsUInt8(ctx, &pvalue->reportingRange, 0, 29);
+   RT_CHECK(ctx, stat, "ReportingRange", "reportingRange", -1, "Event1b");
+   /* forbiddenAffectCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_ForbiddenAffectCellList(ctx, &pvalue->forbiddenAffectCellList);
+      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellList", -1, "Event1b");
+   }
+   /* w */
+   stat = pd_ConsUInt8(ctx, &pvalue->w, 0, 20);
+   RT_CHECK(ctx, stat, "W", "w", -1, "Event1b");
+   return 0;
+}
+
+int asn1PD_UMTS_ReplacementActivationThreshold(rtxContext* RT_RESTRICT ctx, ReplacementActivationThreshold* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ReplacementActivationThreshold");
+   return 0;
+}
+
+int asn1PD_UMTS_Event1c(rtxContext* RT_RESTRICT ctx, Event1c* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* replacementActivationThreshold */
+   stat = pd_ConsUnsigned(ctx, &pvalue->replacementActivationThreshold, 0, 7);
+   RT_CHECK(ctx, stat, "ReplacementActivationThreshold", "replacementActivationThreshold", -1, "Event1c");
+   /* reportingAmount */
+   stat = pd_ConsUnsigned(ctx, &pvalue->reportingAmount, 0, 7);
+   RT_CHECK(ctx, stat, "ReportingAmount", "reportingAmount", -1, "Event1c");
+   /* reportingInterval */
+   stat = pd_ConsUnsigned(ctx, &pvalue->reportingInterval, 0, 7);
+   RT_CHECK(ctx, stat, "ReportingInterval", "reportingInterval", -1, "Event1c");
+   return 0;
+}
+
+int asn1PD_UMTS_ThresholdUsedFrequency(rtxContext* RT_RESTRICT ctx, ThresholdUsedFrequency* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsInt16(ctx, pvalue, -115, 165);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ThresholdUsedFrequency");
+   return 0;
+}
+
+int asn1PD_UMTS_Event1e(rtxContext* RT_RESTRICT ctx, Event1e* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* triggeringCondition */
+   stat = pd_ConsUnsigned(ctx, &pvalue->triggeringCondition, 0, 4);
+   RT_CHECK(ctx, stat, "TriggeringCondition2", "triggeringCondition", -1, "Event1e");
+   /* thresholdUsedFrequency */
+   stat = pd_ConsInt16(ctx, &pvalue->thresholdUsedFrequency, -115, 165);
+   RT_CHECK(ctx, stat, "ThresholdUsedFrequency", "thresholdUsedFrequency", -1, "Event1e");
+   return 0;
+}
+
+int asn1PD_UMTS_Event1f(rtxContext* RT_RESTRICT ctx, Event1f* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* triggeringCondition */
+   stat = pd_ConsUnsigned(ctx, &pvalue->triggeringCondition, 0, 2);
+   RT_CHECK(ctx, stat, "TriggeringCondition1", "triggeringCondition", -1, "Event1f");
+   /* thresholdUsedFrequency */
+   stat = pd_ConsInt16(ctx, &pvalue->thresholdUsedFrequency, -115, 165);
+   RT_CHECK(ctx, stat, "ThresholdUsedFrequency", "thresholdUsedFrequency", -1, "Event1f");
    return 0;
 }
 

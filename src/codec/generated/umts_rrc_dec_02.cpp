@@ -6,9029 +6,9006 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PD_UMTS_DownlinkTimeslotsCodes_r7(rtxContext* ctx, DownlinkTimeslotsCodes_r7* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DownlinkTimeslotsCodes-r7");
-   /* firstIndividualTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "firstIndividualTimeslotInfo");
-   stat = asn1PD_UMTS_IndividualTimeslotInfo_r7(ctx, &pvalue->firstIndividualTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-TS-ChannelisationCodesShort */
-   rtxCtxtPushElemName(ctx, "dl-TS-ChannelisationCodesShort");
-   stat = asn1PD_UMTS_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* moreTimeslots */
-   rtxCtxtPushElemName(ctx, "moreTimeslots");
-   stat = asn1PD_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots(ctx, &pvalue->moreTimeslots);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384_modulation(rtxContext* ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384_modulation* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384(rtxContext* ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384* pvalue)
-{
-   int stat = 0;
-   /* commonTimeslotInfoMBMS */
-   rtxCtxtPushElemName(ctx, "commonTimeslotInfoMBMS");
-   stat = asn1PD_UMTS_CommonTimeslotInfoMBMS(ctx, &pvalue->commonTimeslotInfoMBMS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* downlinkTimeslotsCodes */
-   rtxCtxtPushElemName(ctx, "downlinkTimeslotsCodes");
-   stat = asn1PD_UMTS_DownlinkTimeslotsCodes_r7(ctx, &pvalue->downlinkTimeslotsCodes);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* modulation */
-   rtxCtxtPushElemName(ctx, "modulation");
-   stat = pd_ConsUnsigned(ctx, &pvalue->modulation, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768_modulation(rtxContext* ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768_modulation* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768(rtxContext* ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768* pvalue)
-{
-   int stat = 0;
-   /* commonTimeslotInfoMBMS */
-   rtxCtxtPushElemName(ctx, "commonTimeslotInfoMBMS");
-   stat = asn1PD_UMTS_CommonTimeslotInfoMBMS(ctx, &pvalue->commonTimeslotInfoMBMS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* downlinkTimeslotsCodes */
-   rtxCtxtPushElemName(ctx, "downlinkTimeslotsCodes");
-   stat = asn1PD_UMTS_DownlinkTimeslotsCodes_VHCR(ctx, &pvalue->downlinkTimeslotsCodes);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* modulation */
-   rtxCtxtPushElemName(ctx, "modulation");
-   stat = pd_ConsUnsigned(ctx, &pvalue->modulation, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TimeSlotLCR_ext(rtxContext* ctx, TimeSlotLCR_ext* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "TimeSlotLCR-ext");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128_modulation(rtxContext* ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128_modulation* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128(rtxContext* ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* commonTimeslotInfoMBMS */
-   rtxCtxtPushElemName(ctx, "commonTimeslotInfoMBMS");
-   stat = asn1PD_UMTS_CommonTimeslotInfoMBMS(ctx, &pvalue->commonTimeslotInfoMBMS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* downlinkTimeslotsCodes */
-   rtxCtxtPushElemName(ctx, "downlinkTimeslotsCodes");
-   stat = asn1PD_UMTS_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->downlinkTimeslotsCodes);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* mbsfnSpecialTimeSlot */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mbsfnSpecialTimeSlot");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "TimeSlotLCR-ext");
-      stat = pd_ConsUnsigned(ctx, &pvalue->mbsfnSpecialTimeSlot, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modulation */
-   rtxCtxtPushElemName(ctx, "modulation");
-   stat = pd_ConsUnsigned(ctx, &pvalue->modulation, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo(rtxContext* ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo* pvalue)
+int asn1PD_UMTS_IntraFreqEvent(rtxContext* RT_RESTRICT ctx, IntraFreqEvent* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         pvalue->u.tdd384 = (SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd768");
-         pvalue->u.tdd768 = (SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768));
-         if (pvalue->u.tdd768 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768(pvalue->u.tdd768);
-         stat = asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         pvalue->u.tdd128 = (SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7(rtxContext* ctx, SecondaryCCPCHInfo_MBMS_r7* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SecondaryCCPCHInfo-MBMS-r7");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMCCH(rtxContext* ctx, SCCPCH_SystemInformation_MBMS_r7_fachCarryingMCCH* pvalue)
-{
-   int stat = 0;
-   /* mcch-transportFormatSet */
-   rtxCtxtPushElemName(ctx, "mcch-transportFormatSet");
-   stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->mcch_transportFormatSet);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* mcch-ConfigurationInfo */
-   rtxCtxtPushElemName(ctx, "mcch-ConfigurationInfo");
-   stat = asn1PD_UMTS_MBMS_MCCH_ConfigurationInfo_r6(ctx, &pvalue->mcch_ConfigurationInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMSCH(rtxContext* ctx, SCCPCH_SystemInformation_MBMS_r7_fachCarryingMSCH* pvalue)
-{
-   int stat = 0;
-   /* msch-transportFormatSet */
-   rtxCtxtPushElemName(ctx, "msch-transportFormatSet");
-   stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->msch_transportFormatSet);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SCCPCH_SystemInformation_MBMS_r7(rtxContext* ctx, SCCPCH_SystemInformation_MBMS_r7* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SCCPCH-SystemInformation-MBMS-r7");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* secondaryCCPCHInfo-MBMS */
-   rtxCtxtPushElemName(ctx, "secondaryCCPCHInfo-MBMS");
-   stat = asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7(ctx, &pvalue->secondaryCCPCHInfo_MBMS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* transportFormatCombinationSet */
-   rtxCtxtPushElemName(ctx, "transportFormatCombinationSet");
-   stat = asn1PD_UMTS_TFCS(ctx, &pvalue->transportFormatCombinationSet);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* fachCarryingMCCH */
-   rtxCtxtPushElemName(ctx, "fachCarryingMCCH");
-   stat = asn1PD_UMTS_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMCCH(ctx, &pvalue->fachCarryingMCCH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* fachCarryingMTCH-List */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "fachCarryingMTCH-List");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MBMS_FACHCarryingMTCH_List(ctx, &pvalue->fachCarryingMTCH_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* fachCarryingMSCH */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "fachCarryingMSCH");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMSCH(ctx, &pvalue->fachCarryingMSCH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v770ext_IEs_sccpch_SystemInformation_MBMS(rtxContext* ctx, SysInfoType5_v770ext_IEs_sccpch_SystemInformation_MBMS* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "mcchOnSCCPCHusedOnlyForMBMS");
-         pvalue->u.mcchOnSCCPCHusedOnlyForMBMS = (SCCPCH_SystemInformation_MBMS_r7*)rtxMemHeapAlloc(ctx, sizeof(SCCPCH_SystemInformation_MBMS_r7));
-         if (pvalue->u.mcchOnSCCPCHusedOnlyForMBMS == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_SCCPCH_SystemInformation_MBMS_r7(pvalue->u.mcchOnSCCPCHusedOnlyForMBMS);
-         stat = asn1PD_UMTS_SCCPCH_SystemInformation_MBMS_r7(ctx, pvalue->u.mcchOnSCCPCHusedOnlyForMBMS);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_TDD_MBSFNTSlotInfo(rtxContext* ctx, TDD_MBSFNTSlotInfo* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TDD-MBSFNTSlotInfo");
-   /* timeSlotNumber */
-   rtxCtxtPushElemName(ctx, "timeSlotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
-   stat = pd_ConsUInt8(ctx, &pvalue->timeSlotNumber, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* cellParametersID */
-   rtxCtxtPushElemName(ctx, "cellParametersID");
-   rtxCtxtPushTypeName(ctx, "CellParametersID");
-   stat = pd_ConsUInt8(ctx, &pvalue->cellParametersID, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TDD_MBSFNInformation(rtxContext* ctx, TDD_MBSFNInformation* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "TDD-MBSFNInformation");
-   RT_SET_SIZE(ctx, 1, 14);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      TDD_MBSFNTSlotInfo* elem;
-      rtxCtxtPushArrayElemName(ctx, "TDD-MBSFNTSlotInfo", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TDD_MBSFNTSlotInfo));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (TDD_MBSFNTSlotInfo*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_TDD_MBSFNTSlotInfo(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v770ext_IEs(rtxContext* ctx, SysInfoType5_v770ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType5-v770ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* modeSpecificInfo */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sccpch-SystemInformationList */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "sccpch-SystemInformationList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SCCPCH_SystemInformationList_HCR_VHCR_r7(ctx, &pvalue->sccpch_SystemInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sccpch-SystemInformation-MBMS */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "sccpch-SystemInformation-MBMS");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_SysInfoType5_v770ext_IEs_sccpch_SystemInformation_MBMS(ctx, &pvalue->sccpch_SystemInformation_MBMS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tDD-MBSFNInformation */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "tDD-MBSFNInformation");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_TDD_MBSFNInformation(ctx, &pvalue->tDD_MBSFNInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v860ext_IEs_dummy(rtxContext* ctx, SysInfoType5_v860ext_IEs_dummy* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_T_321(rtxContext* ctx, T_321* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "T-321");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_DSCH_DrxCycleFach(rtxContext* ctx, HS_DSCH_DrxCycleFach* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "HS-DSCH-DrxCycleFach");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_DSCH_DrxBurstFach(rtxContext* ctx, HS_DSCH_DrxBurstFach* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "HS-DSCH-DrxBurstFach");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_DSCH_DrxCellfach_info(rtxContext* ctx, HS_DSCH_DrxCellfach_info* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HS-DSCH-DrxCellfach-info");
-   /* t-321 */
-   rtxCtxtPushElemName(ctx, "t-321");
-   rtxCtxtPushTypeName(ctx, "T-321");
-   stat = pd_ConsUnsigned(ctx, &pvalue->t_321, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hs-dsch-DrxCycleFach */
-   rtxCtxtPushElemName(ctx, "hs-dsch-DrxCycleFach");
-   rtxCtxtPushTypeName(ctx, "HS-DSCH-DrxCycleFach");
-   stat = pd_ConsUnsigned(ctx, &pvalue->hs_dsch_DrxCycleFach, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hs-dsch-DrxBurstFach */
-   rtxCtxtPushElemName(ctx, "hs-dsch-DrxBurstFach");
-   rtxCtxtPushTypeName(ctx, "HS-DSCH-DrxBurstFach");
-   stat = pd_ConsUnsigned(ctx, &pvalue->hs_dsch_DrxBurstFach, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* drxInterruption-hs-dsch */
-   rtxCtxtPushElemName(ctx, "drxInterruption-hs-dsch");
-   stat = rtxDecBitInline(ctx, &pvalue->drxInterruption_hs_dsch);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd(rtxContext* ctx, SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* hs-dsch-DrxCellfach-info */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "hs-dsch-DrxCellfach-info");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HS_DSCH_DrxCellfach_info(ctx, &pvalue->hs_dsch_DrxCellfach_info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_ChannelisationCode_LCR(rtxContext* ctx, HS_ChannelisationCode_LCR* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "HS-ChannelisationCode-LCR");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_TDD128_r6_midambleAllocationMode(rtxContext* ctx, HS_SCCH_TDD128_r6_midambleAllocationMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "commonMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.ueSpecificMidamble, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble* pvalue)
-{
-   int stat = 0;
-   /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftLong");
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode(rtxContext* ctx, HS_SICH_Configuration_TDD128_r6_midambleAllocationMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         pvalue->u.ueSpecificMidamble = (HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SICH_Configuration_TDD128_r6(rtxContext* ctx, HS_SICH_Configuration_TDD128_r6* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HS-SICH-Configuration-TDD128-r6");
-   /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-LCR-r4");
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* channelisationCode */
-   rtxCtxtPushElemName(ctx, "channelisationCode");
-   rtxCtxtPushTypeName(ctx, "HS-ChannelisationCode-LCR");
-   stat = pd_ConsUnsigned(ctx, &pvalue->channelisationCode, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PD_UMTS_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midambleConfiguration */
-   rtxCtxtPushElemName(ctx, "midambleConfiguration");
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_TDD128_r6(rtxContext* ctx, HS_SCCH_TDD128_r6* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HS-SCCH-TDD128-r6");
-   /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-LCR-r4");
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* firstChannelisationCode */
-   rtxCtxtPushElemName(ctx, "firstChannelisationCode");
-   rtxCtxtPushTypeName(ctx, "HS-ChannelisationCode-LCR");
-   stat = pd_ConsUnsigned(ctx, &pvalue->firstChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* secondChannelisationCode */
-   rtxCtxtPushElemName(ctx, "secondChannelisationCode");
-   rtxCtxtPushTypeName(ctx, "HS-ChannelisationCode-LCR");
-   stat = pd_ConsUnsigned(ctx, &pvalue->secondChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PD_UMTS_HS_SCCH_TDD128_r6_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midambleConfiguration */
-   rtxCtxtPushElemName(ctx, "midambleConfiguration");
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hs-sich-configuration */
-   rtxCtxtPushElemName(ctx, "hs-sich-configuration");
-   stat = asn1PD_UMTS_HS_SICH_Configuration_TDD128_r6(ctx, &pvalue->hs_sich_configuration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_SystemInfo_TDD128_hs_SCCH_SetConfiguration(rtxContext* ctx, HS_SCCH_SystemInfo_TDD128_hs_SCCH_SetConfiguration* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      HS_SCCH_TDD128_r6* elem;
-      rtxCtxtPushArrayElemName(ctx, "HS-SCCH-TDD128-r6", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD128_r6));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (HS_SCCH_TDD128_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_HS_SCCH_TDD128_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_HS_SCCH_TDD128_r6(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_SystemInfo_TDD128_tpc_step_size(rtxContext* ctx, HS_SCCH_SystemInfo_TDD128_tpc_step_size* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_Bler_Target(rtxContext* ctx, Bler_Target* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "Bler-Target");
-   stat = pd_ConsInt8(ctx, pvalue, -63, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_SystemInfo_TDD128(rtxContext* ctx, HS_SCCH_SystemInfo_TDD128* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "HS-SCCH-SystemInfo-TDD128");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* hs-SCCH-SetConfiguration */
-   rtxCtxtPushElemName(ctx, "hs-SCCH-SetConfiguration");
-   stat = asn1PD_UMTS_HS_SCCH_SystemInfo_TDD128_hs_SCCH_SetConfiguration(ctx, &pvalue->hs_SCCH_SetConfiguration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* power-level-HSSICH */
-   rtxCtxtPushElemName(ctx, "power-level-HSSICH");
-   stat = pd_ConsInt8(ctx, &pvalue->power_level_HSSICH, -120, -58);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nack-ack-power-offset */
-   rtxCtxtPushElemName(ctx, "nack-ack-power-offset");
-   stat = pd_ConsInt8(ctx, &pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tpc-step-size */
-   rtxCtxtPushElemName(ctx, "tpc-step-size");
-   stat = pd_ConsUnsigned(ctx, &pvalue->tpc_step_size, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* bler-target */
-   rtxCtxtPushElemName(ctx, "bler-target");
-   rtxCtxtPushTypeName(ctx, "Bler-Target");
-   stat = pd_ConsInt8(ctx, &pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* power-control-gap */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "power-control-gap");
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->power_control_gap, 1, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pathloss-compensation-switch */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "pathloss-compensation-switch");
-      pvalue->m |= 0x2u;
-      stat = rtxDecBitInline(ctx, &pvalue->pathloss_compensation_switch);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_PDSCH_Midamble_Configuration_TDD128_midambleAllocationMode(rtxContext* ctx, HS_PDSCH_Midamble_Configuration_TDD128_midambleAllocationMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "commonMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.ueSpecificMidamble, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(rtxContext* ctx, HS_PDSCH_Midamble_Configuration_TDD128* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HS-PDSCH-Midamble-Configuration-TDD128");
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PD_UMTS_HS_PDSCH_Midamble_Configuration_TDD128_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midambleConfiguration */
-   rtxCtxtPushElemName(ctx, "midambleConfiguration");
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_DSCH_CommonSystemInformation_TDD128_common_H_RNTI_information(rtxContext* ctx, HS_DSCH_CommonSystemInformation_TDD128_common_H_RNTI_information* pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 2);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 3) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "H-RNTI", i);
-      asn1Init_UMTS_H_RNTI(&pvalue->elem[i]);
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->elem[i]);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_DSCH_CommonSystemInformation_TDD128(rtxContext* ctx, HS_DSCH_CommonSystemInformation_TDD128* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "HS-DSCH-CommonSystemInformation-TDD128");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ccch-MappingInfo */
-   rtxCtxtPushElemName(ctx, "ccch-MappingInfo");
-   stat = asn1PD_UMTS_CommonRBMappingInfo(ctx, &pvalue->ccch_MappingInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* srb1-MappingInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "srb1-MappingInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CommonRBMappingInfo(ctx, &pvalue->srb1_MappingInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* common-MAC-ehs-ReorderingQueueList */
-   rtxCtxtPushElemName(ctx, "common-MAC-ehs-ReorderingQueueList");
-   stat = asn1PD_UMTS_Common_MAC_ehs_ReorderingQueueList(ctx, &pvalue->common_MAC_ehs_ReorderingQueueList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hs-scch-SystemInfo-tdd128 */
-   rtxCtxtPushElemName(ctx, "hs-scch-SystemInfo-tdd128");
-   stat = asn1PD_UMTS_HS_SCCH_SystemInfo_TDD128(ctx, &pvalue->hs_scch_SystemInfo_tdd128);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* harq-SystemInfo */
-   rtxCtxtPushElemName(ctx, "harq-SystemInfo");
-   stat = asn1PD_UMTS_HARQ_Info(ctx, &pvalue->harq_SystemInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hs-pdsch-MidambleConfiguration */
-   rtxCtxtPushElemName(ctx, "hs-pdsch-MidambleConfiguration");
-   stat = asn1PD_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_pdsch_MidambleConfiguration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* common-H-RNTI-information */
-   rtxCtxtPushElemName(ctx, "common-H-RNTI-information");
-   stat = asn1PD_UMTS_HS_DSCH_CommonSystemInformation_TDD128_common_H_RNTI_information(ctx, &pvalue->common_H_RNTI_information);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* bcchSpecific-H-RNTI */
-   rtxCtxtPushElemName(ctx, "bcchSpecific-H-RNTI");
-   stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->bcchSpecific_H_RNTI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_OccurrenceSequenceNumberOfPICH(rtxContext* ctx, OccurrenceSequenceNumberOfPICH* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "OccurrenceSequenceNumberOfPICH");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PICH_ForHSDPASupportedPaging_TDD128_implicit(rtxContext* ctx, PICH_ForHSDPASupportedPaging_TDD128_implicit* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* occurrenceSequenceNumberOfPICH */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "occurrenceSequenceNumberOfPICH");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "OccurrenceSequenceNumberOfPICH");
-      stat = pd_ConsUInt8(ctx, &pvalue->occurrenceSequenceNumberOfPICH, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PICH_ForHSDPASupportedPaging_TDD128(rtxContext* ctx, PICH_ForHSDPASupportedPaging_TDD128* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "PICH-ForHSDPASupportedPaging-TDD128");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "implicit");
-         pvalue->u.implicit = (PICH_ForHSDPASupportedPaging_TDD128_implicit*)rtxMemHeapAlloc(ctx, sizeof(PICH_ForHSDPASupportedPaging_TDD128_implicit));
-         if (pvalue->u.implicit == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PICH_ForHSDPASupportedPaging_TDD128_implicit(pvalue->u.implicit);
-         stat = asn1PD_UMTS_PICH_ForHSDPASupportedPaging_TDD128_implicit(ctx, pvalue->u.implicit);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "explicit");
-         pvalue->u.explicit_ = (PICH_Info_LCR_r4*)rtxMemHeapAlloc(ctx, sizeof(PICH_Info_LCR_r4));
-         if (pvalue->u.explicit_ == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PICH_Info_LCR_r4(pvalue->u.explicit_);
-         stat = asn1PD_UMTS_PICH_Info_LCR_r4(ctx, pvalue->u.explicit_);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_DSCH_PagingSystemInformation_TDD128_pich_ForHsdschList(rtxContext* ctx, HS_DSCH_PagingSystemInformation_TDD128_pich_ForHsdschList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PICH_ForHSDPASupportedPaging_TDD128* elem;
-      rtxCtxtPushArrayElemName(ctx, "PICH-ForHSDPASupportedPaging-TDD128", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PICH_ForHSDPASupportedPaging_TDD128));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (PICH_ForHSDPASupportedPaging_TDD128*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PICH_ForHSDPASupportedPaging_TDD128(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PICH_ForHSDPASupportedPaging_TDD128(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CodeResourceInformation_TDD128(rtxContext* ctx, CodeResourceInformation_TDD128* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CodeResourceInformation-TDD128");
-   /* start-code */
-   rtxCtxtPushElemName(ctx, "start-code");
-   rtxCtxtPushTypeName(ctx, "HS-ChannelisationCode-LCR");
-   stat = pd_ConsUnsigned(ctx, &pvalue->start_code, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* stop-code */
-   rtxCtxtPushElemName(ctx, "stop-code");
-   rtxCtxtPushTypeName(ctx, "HS-ChannelisationCode-LCR");
-   stat = pd_ConsUnsigned(ctx, &pvalue->stop_code, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PCCH_InformationList_paging_associatedHspdschInfo_element(rtxContext* ctx, PCCH_InformationList_paging_associatedHspdschInfo_element* pvalue)
-{
-   int stat = 0;
-   /* hs-pdsch-MidambleConfiguration */
-   rtxCtxtPushElemName(ctx, "hs-pdsch-MidambleConfiguration");
-   stat = asn1PD_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_pdsch_MidambleConfiguration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* timeslotResourceRelatedInfo */
-   rtxCtxtPushElemName(ctx, "timeslotResourceRelatedInfo");
-   RT_SET_SIZE(ctx, 6, 6);
-   stat = pd_BitString32(ctx, &pvalue->timeslotResourceRelatedInfo, 6, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* codeResourceInformation */
-   rtxCtxtPushElemName(ctx, "codeResourceInformation");
-   stat = asn1PD_UMTS_CodeResourceInformation_TDD128(ctx, &pvalue->codeResourceInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PCCH_InformationList_paging_associatedHspdschInfo(rtxContext* ctx, PCCH_InformationList_paging_associatedHspdschInfo* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PCCH_InformationList_paging_associatedHspdschInfo_element* elem;
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PCCH_InformationList_paging_associatedHspdschInfo_element));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (PCCH_InformationList_paging_associatedHspdschInfo_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PCCH_InformationList_paging_associatedHspdschInfo_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PCCH_InformationList_paging_associatedHspdschInfo_element(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PCCH_InformationList_transportBlockSizeList(rtxContext* ctx, PCCH_InformationList_transportBlockSizeList* pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 1);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 1) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "TransportBlockSizeIndex", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "TransportBlockSizeIndex");
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 1, 32);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PCCH_InformationList(rtxContext* ctx, PCCH_InformationList* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PCCH-InformationList");
-   /* paging-associatedHspdschInfo */
-   rtxCtxtPushElemName(ctx, "paging-associatedHspdschInfo");
-   stat = asn1PD_UMTS_PCCH_InformationList_paging_associatedHspdschInfo(ctx, &pvalue->paging_associatedHspdschInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* paging-sub-Channel-size */
-   rtxCtxtPushElemName(ctx, "paging-sub-Channel-size");
-   stat = pd_ConsUInt8(ctx, &pvalue->paging_sub_Channel_size, 1, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* transportBlockSizeList */
-   rtxCtxtPushElemName(ctx, "transportBlockSizeList");
-   stat = asn1PD_UMTS_PCCH_InformationList_transportBlockSizeList(ctx, &pvalue->transportBlockSizeList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_DSCH_PagingSystemInformation_TDD128(rtxContext* ctx, HS_DSCH_PagingSystemInformation_TDD128* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "HS-DSCH-PagingSystemInformation-TDD128");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* pich-ForHsdschList */
-   rtxCtxtPushElemName(ctx, "pich-ForHsdschList");
-   stat = asn1PD_UMTS_HS_DSCH_PagingSystemInformation_TDD128_pich_ForHsdschList(ctx, &pvalue->pich_ForHsdschList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dtch-DCCH-reception-window-size */
-   rtxCtxtPushElemName(ctx, "dtch-DCCH-reception-window-size");
-   stat = pd_ConsUInt8(ctx, &pvalue->dtch_DCCH_reception_window_size, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* pcch-InformationList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "pcch-InformationList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PCCH_InformationList(ctx, &pvalue->pcch_InformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128_hs_dsch_CommonSysInfo(rtxContext* ctx, SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128_hs_dsch_CommonSysInfo* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* hs-dsch-CommonSystemInformation */
-   rtxCtxtPushElemName(ctx, "hs-dsch-CommonSystemInformation");
-   stat = asn1PD_UMTS_HS_DSCH_CommonSystemInformation_TDD128(ctx, &pvalue->hs_dsch_CommonSystemInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hs-dsch-PagingSystemInformation */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "hs-dsch-PagingSystemInformation");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HS_DSCH_PagingSystemInformation_TDD128(ctx, &pvalue->hs_dsch_PagingSystemInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_DSCH_DrxCellfach_info_TDD128(rtxContext* ctx, HS_DSCH_DrxCellfach_info_TDD128* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HS-DSCH-DrxCellfach-info-TDD128");
-   /* t-321 */
-   rtxCtxtPushElemName(ctx, "t-321");
-   rtxCtxtPushTypeName(ctx, "T-321");
-   stat = pd_ConsUnsigned(ctx, &pvalue->t_321, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hs-dsch-DrxCycleFach */
-   rtxCtxtPushElemName(ctx, "hs-dsch-DrxCycleFach");
-   rtxCtxtPushTypeName(ctx, "HS-DSCH-DrxCycleFach");
-   stat = pd_ConsUnsigned(ctx, &pvalue->hs_dsch_DrxCycleFach, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hs-dsch-DrxBurstFach */
-   rtxCtxtPushElemName(ctx, "hs-dsch-DrxBurstFach");
-   rtxCtxtPushTypeName(ctx, "HS-DSCH-DrxBurstFach");
-   stat = pd_ConsUnsigned(ctx, &pvalue->hs_dsch_DrxBurstFach, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128(rtxContext* ctx, SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* hs-dsch-CommonSysInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "hs-dsch-CommonSysInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128_hs_dsch_CommonSysInfo(ctx, &pvalue->hs_dsch_CommonSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hs-dsch-DrxCellfach-info */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "hs-dsch-DrxCellfach-info");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_HS_DSCH_DrxCellfach_info_TDD128(ctx, &pvalue->hs_dsch_DrxCellfach_info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo(rtxContext* ctx, SysInfoType5_v860ext_IEs_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         pvalue->u.tdd128 = (SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128*)rtxMemHeapAlloc(ctx, sizeof(SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v860ext_IEs(rtxContext* ctx, SysInfoType5_v860ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType5-v860ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType5_v860ext_IEs_dummy(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UARFCN(rtxContext* ctx, UARFCN* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "UARFCN");
-   stat = pd_ConsUInt16(ctx, pvalue, 0, 16383);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_FrequencyInfoTDD(rtxContext* ctx, FrequencyInfoTDD* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "FrequencyInfoTDD");
-   /* uarfcn-Nt */
-   rtxCtxtPushElemName(ctx, "uarfcn-Nt");
-   rtxCtxtPushTypeName(ctx, "UARFCN");
-   stat = pd_ConsUInt16(ctx, &pvalue->uarfcn_Nt, 0, 16383);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_MAC_d_FlowIdentity(rtxContext* ctx, E_DCH_MAC_d_FlowIdentity* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "E-DCH-MAC-d-FlowIdentity");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_MAC_d_FlowPowerOffset(rtxContext* ctx, E_DCH_MAC_d_FlowPowerOffset* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "E-DCH-MAC-d-FlowPowerOffset");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_MAC_d_FlowMaxRetrans(rtxContext* ctx, E_DCH_MAC_d_FlowMaxRetrans* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "E-DCH-MAC-d-FlowMaxRetrans");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_MAC_d_FlowMultiplexingList(rtxContext* ctx, E_DCH_MAC_d_FlowMultiplexingList* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "E-DCH-MAC-d-FlowMultiplexingList");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, pvalue, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_MAC_d_FlowRetransTimer(rtxContext* ctx, E_DCH_MAC_d_FlowRetransTimer* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "E-DCH-MAC-d-FlowRetransTimer");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Common_E_DCH_MAC_d_Flow(rtxContext* ctx, Common_E_DCH_MAC_d_Flow* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "Common-E-DCH-MAC-d-Flow");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* mac-d-FlowIdentity */
-   rtxCtxtPushElemName(ctx, "mac-d-FlowIdentity");
-   rtxCtxtPushTypeName(ctx, "E-DCH-MAC-d-FlowIdentity");
-   stat = pd_ConsUInt8(ctx, &pvalue->mac_d_FlowIdentity, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* mac-d-FlowPowerOffset */
-   rtxCtxtPushElemName(ctx, "mac-d-FlowPowerOffset");
-   rtxCtxtPushTypeName(ctx, "E-DCH-MAC-d-FlowPowerOffset");
-   stat = pd_ConsUInt8(ctx, &pvalue->mac_d_FlowPowerOffset, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* mac-d-FlowMaxRetrans */
-   rtxCtxtPushElemName(ctx, "mac-d-FlowMaxRetrans");
-   rtxCtxtPushTypeName(ctx, "E-DCH-MAC-d-FlowMaxRetrans");
-   stat = pd_ConsUInt8(ctx, &pvalue->mac_d_FlowMaxRetrans, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* mac-d-FlowMultiplexingList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "mac-d-FlowMultiplexingList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_E_DCH_MAC_d_FlowMultiplexingList(ctx, &pvalue->mac_d_FlowMultiplexingList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-dch-mac-d-flow-retransmission-timer */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "e-dch-mac-d-flow-retransmission-timer");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "E-DCH-MAC-d-FlowRetransTimer");
-      stat = pd_ConsUnsigned(ctx, &pvalue->e_dch_mac_d_flow_retransmission_timer, 0, 29);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Common_E_DCH_MAC_d_FlowList(rtxContext* ctx, Common_E_DCH_MAC_d_FlowList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "Common-E-DCH-MAC-d-FlowList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      Common_E_DCH_MAC_d_Flow* elem;
-      rtxCtxtPushArrayElemName(ctx, "Common-E-DCH-MAC-d-Flow", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Common_E_DCH_MAC_d_Flow));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (Common_E_DCH_MAC_d_Flow*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_Common_E_DCH_MAC_d_Flow(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_Common_E_DCH_MAC_d_Flow(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PRACH_PreambleForEnhancedUplink(rtxContext* ctx, PRACH_PreambleForEnhancedUplink* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PRACH-PreambleForEnhancedUplink");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 8);
-   RT_CHECK(ctx, stat);
-   /* availableSignatures */
-   rtxCtxtPushElemName(ctx, "availableSignatures");
-   stat = asn1PD_UMTS_AvailableSignatures(ctx, &pvalue->availableSignatures);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-ai-Indication */
-   rtxCtxtPushElemName(ctx, "e-ai-Indication");
-   stat = rtxDecBitInline(ctx, &pvalue->e_ai_Indication);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* preambleScramblingCodeWordNumber */
-   rtxCtxtPushElemName(ctx, "preambleScramblingCodeWordNumber");
-   rtxCtxtPushTypeName(ctx, "PreambleScramblingCodeWordNumber");
-   stat = pd_ConsUInt8(ctx, &pvalue->preambleScramblingCodeWordNumber, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* availableSubChannelNumbers */
-   rtxCtxtPushElemName(ctx, "availableSubChannelNumbers");
-   stat = asn1PD_UMTS_AvailableSubChannelNumbers(ctx, &pvalue->availableSubChannelNumbers);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* prach-Partitioning */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "prach-Partitioning");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PRACH_Partitioning_r7(ctx, &pvalue->prach_Partitioning);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* persistenceScalingFactorList */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "persistenceScalingFactorList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PersistenceScalingFactorList(ctx, &pvalue->persistenceScalingFactorList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ac-To-ASC-MappingTable */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "ac-To-ASC-MappingTable");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_AC_To_ASC_MappingTable(ctx, &pvalue->ac_To_ASC_MappingTable);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* primaryCPICH-TX-Power */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-TX-Power");
-      pvalue->m |= 0x8u;
-      rtxCtxtPushTypeName(ctx, "PrimaryCPICH-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->primaryCPICH_TX_Power, -10, 50);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* constantValue */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "constantValue");
-      pvalue->m |= 0x10u;
-      rtxCtxtPushTypeName(ctx, "ConstantValue");
-      stat = pd_ConsInt8(ctx, &pvalue->constantValue, -35, -10);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* prach-PowerOffset */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "prach-PowerOffset");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_PRACH_PowerOffset(ctx, &pvalue->prach_PowerOffset);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rach-TransmissionParameters */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "rach-TransmissionParameters");
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_RACH_TransmissionParameters(ctx, &pvalue->rach_TransmissionParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* aich-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "aich-Info");
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_AICH_Info(ctx, &pvalue->aich_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* powerOffsetPp-e */
-   rtxCtxtPushElemName(ctx, "powerOffsetPp-e");
-   stat = pd_ConsInt8(ctx, &pvalue->powerOffsetPp_e, -5, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_TTI(rtxContext* ctx, E_DCH_TTI* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "E-DCH-TTI");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_AGCH_ChannelisationCode(rtxContext* ctx, E_AGCH_ChannelisationCode* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "E-AGCH-ChannelisationCode");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_AGCH_Information(rtxContext* ctx, E_AGCH_Information* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "E-AGCH-Information");
-   /* e-AGCH-ChannelisationCode */
-   rtxCtxtPushElemName(ctx, "e-AGCH-ChannelisationCode");
-   rtxCtxtPushTypeName(ctx, "E-AGCH-ChannelisationCode");
-   stat = pd_ConsUInt8(ctx, &pvalue->e_AGCH_ChannelisationCode, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_harq_Info(rtxContext* ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_harq_Info* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_TPC_StepSizeFDD(rtxContext* ctx, TPC_StepSizeFDD* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "TPC-StepSizeFDD");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PowerControlAlgorithm(rtxContext* ctx, PowerControlAlgorithm* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "PowerControlAlgorithm");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "algorithm1");
-         rtxCtxtPushTypeName(ctx, "TPC-StepSizeFDD");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.algorithm1, 0, 1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "algorithm2");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DeltaACK(rtxContext* ctx, DeltaACK* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "DeltaACK");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DeltaNACK(rtxContext* ctx, DeltaNACK* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "DeltaNACK");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ACK_NACK_repetitionFactor(rtxContext* ctx, ACK_NACK_repetitionFactor* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "ACK-NACK-repetitionFactor");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCHpowerControlInfoForCommonEDCH(rtxContext* ctx, UL_DPCHpowerControlInfoForCommonEDCH* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UL-DPCHpowerControlInfoForCommonEDCH");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* powerControlAlgorithm */
-   rtxCtxtPushElemName(ctx, "powerControlAlgorithm");
-   stat = asn1PD_UMTS_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* deltaACK */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "deltaACK");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "DeltaACK");
-      stat = pd_ConsUInt8(ctx, &pvalue->deltaACK, 0, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* deltaNACK */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "deltaNACK");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "DeltaNACK");
-      stat = pd_ConsUInt8(ctx, &pvalue->deltaNACK, 0, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ack-NACK-repetition-factor */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ack-NACK-repetition-factor");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "ACK-NACK-repetitionFactor");
-      stat = pd_ConsUInt8(ctx, &pvalue->ack_NACK_repetition_factor, 1, 4);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_DPCCH_DPCCH_PowerOffset(rtxContext* ctx, E_DPCCH_DPCCH_PowerOffset* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "E-DPCCH-DPCCH-PowerOffset");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HappyBit_DelayCondition(rtxContext* ctx, HappyBit_DelayCondition* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "HappyBit-DelayCondition");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_TFC_Boost_Info_r7(rtxContext* ctx, E_TFC_Boost_Info_r7* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "E-TFC-Boost-Info-r7");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* e-TFCI-Boost */
-   rtxCtxtPushElemName(ctx, "e-TFCI-Boost");
-   stat = pd_ConsUInt8(ctx, &pvalue->e_TFCI_Boost, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* delta-T2TP */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "delta-T2TP");
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->delta_T2TP, 0, 6);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_DPDCH_PowerInterpolation(rtxContext* ctx, E_DPDCH_PowerInterpolation* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "E-DPDCH-PowerInterpolation");
-   stat = rtxDecBitInline(ctx, pvalue);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_DPCCH_Info_r7(rtxContext* ctx, E_DPCCH_Info_r7* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "E-DPCCH-Info-r7");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* e-DPCCH-DPCCH-PowerOffset */
-   rtxCtxtPushElemName(ctx, "e-DPCCH-DPCCH-PowerOffset");
-   rtxCtxtPushTypeName(ctx, "E-DPCCH-DPCCH-PowerOffset");
-   stat = pd_ConsUInt8(ctx, &pvalue->e_DPCCH_DPCCH_PowerOffset, 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* happyBit-DelayCondition */
-   rtxCtxtPushElemName(ctx, "happyBit-DelayCondition");
-   rtxCtxtPushTypeName(ctx, "HappyBit-DelayCondition");
-   stat = pd_ConsUnsigned(ctx, &pvalue->happyBit_DelayCondition, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* e-TFC-Boost-Info */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "e-TFC-Boost-Info");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_E_TFC_Boost_Info_r7(ctx, &pvalue->e_TFC_Boost_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-DPDCH-PowerInterpolation */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "e-DPDCH-PowerInterpolation");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "E-DPDCH-PowerInterpolation");
-      stat = rtxDecBitInline(ctx, &pvalue->e_DPDCH_PowerInterpolation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_TFCI_TableIndex(rtxContext* ctx, E_TFCI_TableIndex* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "E-TFCI-TableIndex");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_DCH_MinimumSet_E_TFCI(rtxContext* ctx, E_DCH_MinimumSet_E_TFCI* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "E-DCH-MinimumSet-E-TFCI");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_DPDCH_Reference_E_TFCI_r7(rtxContext* ctx, E_DPDCH_Reference_E_TFCI_r7* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "E-DPDCH-Reference-E-TFCI-r7");
-   /* reference-E-TFCI */
-   rtxCtxtPushElemName(ctx, "reference-E-TFCI");
-   stat = pd_ConsUInt8(ctx, &pvalue->reference_E_TFCI, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* reference-E-TFCI-PO-r7 */
-   rtxCtxtPushElemName(ctx, "reference-E-TFCI-PO-r7");
-   stat = pd_ConsUInt8(ctx, &pvalue->reference_E_TFCI_PO_r7, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_DPDCH_Reference_E_TFCIList_r7(rtxContext* ctx, E_DPDCH_Reference_E_TFCIList_r7* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "E-DPDCH-Reference-E-TFCIList-r7");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      E_DPDCH_Reference_E_TFCI_r7* elem;
-      rtxCtxtPushArrayElemName(ctx, "E-DPDCH-Reference-E-TFCI-r7", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_DPDCH_Reference_E_TFCI_r7));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (E_DPDCH_Reference_E_TFCI_r7*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_E_DPDCH_Reference_E_TFCI_r7(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MinReduced_E_DPDCH_GainFactor(rtxContext* ctx, MinReduced_E_DPDCH_GainFactor* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MinReduced-E-DPDCH-GainFactor");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_DPDCH_MaxChannelisationCodes(rtxContext* ctx, E_DPDCH_MaxChannelisationCodes* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "E-DPDCH-MaxChannelisationCodes");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_DPDCH_PL_NonMax(rtxContext* ctx, E_DPDCH_PL_NonMax* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "E-DPDCH-PL-NonMax");
-   stat = pd_ConsUInt8(ctx, pvalue, 11, 25);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_DPDCH_PeriodicyOfSchedInfo(rtxContext* ctx, E_DPDCH_PeriodicyOfSchedInfo* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "E-DPDCH-PeriodicyOfSchedInfo");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_DPDCH_SchedulingInfoConfiguration(rtxContext* ctx, E_DPDCH_SchedulingInfoConfiguration* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "E-DPDCH-SchedulingInfoConfiguration");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* periodicityOfSchedInfo-NoGrant */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "periodicityOfSchedInfo-NoGrant");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "E-DPDCH-PeriodicyOfSchedInfo");
-      stat = pd_ConsUnsigned(ctx, &pvalue->periodicityOfSchedInfo_NoGrant, 0, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* periodicityOfSchedInfo-Grant */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "periodicityOfSchedInfo-Grant");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "E-DPDCH-PeriodicyOfSchedInfo");
-      stat = pd_ConsUnsigned(ctx, &pvalue->periodicityOfSchedInfo_Grant, 0, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* powerOffsetForSchedInfo */
-   rtxCtxtPushElemName(ctx, "powerOffsetForSchedInfo");
-   stat = pd_ConsUInt8(ctx, &pvalue->powerOffsetForSchedInfo, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_DPDCH_Info_r8(rtxContext* ctx, E_DPDCH_Info_r8* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "E-DPDCH-Info-r8");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* e-TFCI-TableIndex */
-   rtxCtxtPushElemName(ctx, "e-TFCI-TableIndex");
-   rtxCtxtPushTypeName(ctx, "E-TFCI-TableIndex");
-   stat = pd_ConsUInt8(ctx, &pvalue->e_TFCI_TableIndex, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* e-DCH-MinimumSet-E-TFCI */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "e-DCH-MinimumSet-E-TFCI");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "E-DCH-MinimumSet-E-TFCI");
-      stat = pd_ConsUInt8(ctx, &pvalue->e_DCH_MinimumSet_E_TFCI, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reference-E-TFCIs */
-   rtxCtxtPushElemName(ctx, "reference-E-TFCIs");
-   stat = asn1PD_UMTS_E_DPDCH_Reference_E_TFCIList_r7(ctx, &pvalue->reference_E_TFCIs);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* minReduced-E-DPDCH-GainFactor */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "minReduced-E-DPDCH-GainFactor");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "MinReduced-E-DPDCH-GainFactor");
-      stat = pd_ConsUnsigned(ctx, &pvalue->minReduced_E_DPDCH_GainFactor, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxChannelisationCodes */
-   rtxCtxtPushElemName(ctx, "maxChannelisationCodes");
-   rtxCtxtPushTypeName(ctx, "E-DPDCH-MaxChannelisationCodes");
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxChannelisationCodes, 0, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* pl-NonMax */
-   rtxCtxtPushElemName(ctx, "pl-NonMax");
-   rtxCtxtPushTypeName(ctx, "E-DPDCH-PL-NonMax");
-   stat = pd_ConsUInt8(ctx, &pvalue->pl_NonMax, 11, 25);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* schedulingInfoConfiguration */
-   rtxCtxtPushElemName(ctx, "schedulingInfoConfiguration");
-   stat = asn1PD_UMTS_E_DPDCH_SchedulingInfoConfiguration(ctx, &pvalue->schedulingInfoConfiguration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* threeIndexStepThreshold */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "threeIndexStepThreshold");
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->threeIndexStepThreshold, 0, 37);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* twoIndexStepThreshold */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "twoIndexStepThreshold");
-      pvalue->m |= 0x8u;
-      stat = pd_ConsUInt8(ctx, &pvalue->twoIndexStepThreshold, 0, 37);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_max_CCCH_ResourceAllocation(rtxContext* ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_max_CCCH_ResourceAllocation* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_e_dch_TransmitContinuationOffset(rtxContext* ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_e_dch_TransmitContinuationOffset* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementPowerOffset(rtxContext* ctx, MeasurementPowerOffset* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MeasurementPowerOffset");
-   stat = pd_ConsInt8(ctx, pvalue, -12, 26);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Feedback_cycle_r7(rtxContext* ctx, Feedback_cycle_r7* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "Feedback-cycle-r7");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CQI_RepetitionFactor(rtxContext* ctx, CQI_RepetitionFactor* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "CQI-RepetitionFactor");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DeltaCQI(rtxContext* ctx, DeltaCQI* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "DeltaCQI");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Measurement_Feedback_Info_r7_modeSpecificInfo_fdd(rtxContext* ctx, Measurement_Feedback_Info_r7_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   /* measurementPowerOffset */
-   rtxCtxtPushElemName(ctx, "measurementPowerOffset");
-   rtxCtxtPushTypeName(ctx, "MeasurementPowerOffset");
-   stat = pd_ConsInt8(ctx, &pvalue->measurementPowerOffset, -12, 26);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* feedback-cycle */
-   rtxCtxtPushElemName(ctx, "feedback-cycle");
-   rtxCtxtPushTypeName(ctx, "Feedback-cycle-r7");
-   stat = pd_ConsUnsigned(ctx, &pvalue->feedback_cycle, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* cqi-RepetitionFactor */
-   rtxCtxtPushElemName(ctx, "cqi-RepetitionFactor");
-   rtxCtxtPushTypeName(ctx, "CQI-RepetitionFactor");
-   stat = pd_ConsUInt8(ctx, &pvalue->cqi_RepetitionFactor, 1, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* deltaCQI */
-   rtxCtxtPushElemName(ctx, "deltaCQI");
-   rtxCtxtPushTypeName(ctx, "DeltaCQI");
-   stat = pd_ConsUInt8(ctx, &pvalue->deltaCQI, 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Measurement_Feedback_Info_r7_modeSpecificInfo(rtxContext* ctx, Measurement_Feedback_Info_r7_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (Measurement_Feedback_Info_r7_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(Measurement_Feedback_Info_r7_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_Measurement_Feedback_Info_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Measurement_Feedback_Info_r7(rtxContext* ctx, Measurement_Feedback_Info_r7* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Measurement-Feedback-Info-r7");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_Measurement_Feedback_Info_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_HICH_RGCH_SignatureSequence(rtxContext* ctx, E_HICH_RGCH_SignatureSequence* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "E-HICH-RGCH-SignatureSequence");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 39);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_RGCH_CombinationIndex(rtxContext* ctx, E_RGCH_CombinationIndex* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "E-RGCH-CombinationIndex");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_RGCH_Information(rtxContext* ctx, E_RGCH_Information* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "E-RGCH-Information");
-   /* signatureSequence */
-   rtxCtxtPushElemName(ctx, "signatureSequence");
-   rtxCtxtPushTypeName(ctx, "E-HICH-RGCH-SignatureSequence");
-   stat = pd_ConsUInt8(ctx, &pvalue->signatureSequence, 0, 39);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* rg-CombinationIndex */
-   rtxCtxtPushElemName(ctx, "rg-CombinationIndex");
-   rtxCtxtPushTypeName(ctx, "E-RGCH-CombinationIndex");
-   stat = pd_ConsUInt8(ctx, &pvalue->rg_CombinationIndex, 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_HICH_ChannelisationCode(rtxContext* ctx, E_HICH_ChannelisationCode* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "E-HICH-ChannelisationCode");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_HICH_Information(rtxContext* ctx, E_HICH_Information* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "E-HICH-Information");
-   /* channelisationCode */
-   rtxCtxtPushElemName(ctx, "channelisationCode");
-   rtxCtxtPushTypeName(ctx, "E-HICH-ChannelisationCode");
-   stat = pd_ConsUInt8(ctx, &pvalue->channelisationCode, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* signatureSequence */
-   rtxCtxtPushElemName(ctx, "signatureSequence");
-   rtxCtxtPushTypeName(ctx, "E-HICH-RGCH-SignatureSequence");
-   stat = pd_ConsUInt8(ctx, &pvalue->signatureSequence, 0, 39);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ScramblingCodeType(rtxContext* ctx, ScramblingCodeType* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "ScramblingCodeType");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_ScramblingCode(rtxContext* ctx, UL_ScramblingCode* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "UL-ScramblingCode");
-   stat = pd_ConsUInt32(ctx, pvalue, 0, 16777215);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_CodeInfoForCommonEDCH(rtxContext* ctx, UL_DPCH_CodeInfoForCommonEDCH* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UL-DPCH-CodeInfoForCommonEDCH");
-   /* ul-DPCCHscramblingCodeType */
-   rtxCtxtPushElemName(ctx, "ul-DPCCHscramblingCodeType");
-   rtxCtxtPushTypeName(ctx, "ScramblingCodeType");
-   stat = pd_ConsUnsigned(ctx, &pvalue->ul_DPCCHscramblingCodeType, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ul-DPCCHscramblingCode */
-   rtxCtxtPushElemName(ctx, "ul-DPCCHscramblingCode");
-   rtxCtxtPushTypeName(ctx, "UL-ScramblingCode");
-   stat = pd_ConsUInt32(ctx, &pvalue->ul_DPCCHscramblingCode, 0, 16777215);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Common_E_DCH_ResourceInfoList(rtxContext* ctx, Common_E_DCH_ResourceInfoList* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "Common-E-DCH-ResourceInfoList");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* s-offset */
-   rtxCtxtPushElemName(ctx, "s-offset");
-   stat = pd_ConsUInt8(ctx, &pvalue->s_offset, 0, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* f-dpch-ChannelisationCodeNumber */
-   rtxCtxtPushElemName(ctx, "f-dpch-ChannelisationCodeNumber");
-   stat = pd_ConsUInt8(ctx, &pvalue->f_dpch_ChannelisationCodeNumber, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-RGCH-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "e-RGCH-Information");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_E_RGCH_Information(ctx, &pvalue->e_RGCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-hich-Info */
-   rtxCtxtPushElemName(ctx, "e-hich-Info");
-   stat = asn1PD_UMTS_E_HICH_Information(ctx, &pvalue->e_hich_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-DPCH-CodeInfoForCommonEDCH */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-CodeInfoForCommonEDCH");
-   stat = asn1PD_UMTS_UL_DPCH_CodeInfoForCommonEDCH(ctx, &pvalue->ul_DPCH_CodeInfoForCommonEDCH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_common_E_DCH_ResourceInfoList(rtxContext* ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_common_E_DCH_ResourceInfoList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      Common_E_DCH_ResourceInfoList* elem;
-      rtxCtxtPushArrayElemName(ctx, "Common-E-DCH-ResourceInfoList", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Common_E_DCH_ResourceInfoList));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (Common_E_DCH_ResourceInfoList*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_Common_E_DCH_ResourceInfoList(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_Common_E_DCH_ResourceInfoList(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd(rtxContext* ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* prach-PreambleForEnhancedUplink */
-   rtxCtxtPushElemName(ctx, "prach-PreambleForEnhancedUplink");
-   stat = asn1PD_UMTS_PRACH_PreambleForEnhancedUplink(ctx, &pvalue->prach_PreambleForEnhancedUplink);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* initialServingGrantValue */
-   rtxCtxtPushElemName(ctx, "initialServingGrantValue");
-   stat = pd_ConsUInt8(ctx, &pvalue->initialServingGrantValue, 0, 37);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-dch-TTI */
-   rtxCtxtPushElemName(ctx, "e-dch-TTI");
-   rtxCtxtPushTypeName(ctx, "E-DCH-TTI");
-   stat = pd_ConsUnsigned(ctx, &pvalue->e_dch_TTI, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* e-agch-Information */
-   rtxCtxtPushElemName(ctx, "e-agch-Information");
-   stat = asn1PD_UMTS_E_AGCH_Information(ctx, &pvalue->e_agch_Information);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* harq-Info */
-   rtxCtxtPushElemName(ctx, "harq-Info");
-   stat = pd_ConsUnsigned(ctx, &pvalue->harq_Info, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-DPCHpowerControlInfoForCommonEDCH */
-   rtxCtxtPushElemName(ctx, "ul-DPCHpowerControlInfoForCommonEDCH");
-   stat = asn1PD_UMTS_UL_DPCHpowerControlInfoForCommonEDCH(ctx, &pvalue->ul_DPCHpowerControlInfoForCommonEDCH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-dpcch-Info */
-   rtxCtxtPushElemName(ctx, "e-dpcch-Info");
-   stat = asn1PD_UMTS_E_DPCCH_Info_r7(ctx, &pvalue->e_dpcch_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-dpdch-Info */
-   rtxCtxtPushElemName(ctx, "e-dpdch-Info");
-   stat = asn1PD_UMTS_E_DPDCH_Info_r8(ctx, &pvalue->e_dpdch_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-FDPCH-TPCcommandErrorRate */
-   rtxCtxtPushElemName(ctx, "dl-FDPCH-TPCcommandErrorRate");
-   stat = pd_ConsUInt8(ctx, &pvalue->dl_FDPCH_TPCcommandErrorRate, 1, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* additional-E-DCH-TransmitBackoff */
-   rtxCtxtPushElemName(ctx, "additional-E-DCH-TransmitBackoff");
-   stat = pd_ConsUInt8(ctx, &pvalue->additional_E_DCH_TransmitBackoff, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* max-CCCH-ResourceAllocation */
-   rtxCtxtPushElemName(ctx, "max-CCCH-ResourceAllocation");
-   stat = pd_ConsUnsigned(ctx, &pvalue->max_CCCH_ResourceAllocation, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* max-PeriodForCollisionResolution */
-   rtxCtxtPushElemName(ctx, "max-PeriodForCollisionResolution");
-   stat = pd_ConsUInt8(ctx, &pvalue->max_PeriodForCollisionResolution, 8, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-dch-TransmitContinuationOffset */
-   rtxCtxtPushElemName(ctx, "e-dch-TransmitContinuationOffset");
-   stat = pd_ConsUnsigned(ctx, &pvalue->e_dch_TransmitContinuationOffset, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ack-nack-support-on-HS-DPCCH */
-   rtxCtxtPushElemName(ctx, "ack-nack-support-on-HS-DPCCH");
-   stat = rtxDecBitInline(ctx, &pvalue->ack_nack_support_on_HS_DPCCH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurement-Feedback-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "measurement-Feedback-Info");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_Feedback_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* common-E-DCH-ResourceInfoList */
-   rtxCtxtPushElemName(ctx, "common-E-DCH-ResourceInfoList");
-   stat = asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_common_E_DCH_ResourceInfoList(ctx, &pvalue->common_E_DCH_ResourceInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_RUCCH_Info_TDD128_t_RUCCH(rtxContext* ctx, E_RUCCH_Info_TDD128_t_RUCCH* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_E_RUCCH_Info_TDD128_t_WAIT(rtxContext* ctx, E_RUCCH_Info_TDD128_t_WAIT* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_E_RUCCH_Info_TDD128_t_SI(rtxContext* ctx, E_RUCCH_Info_TDD128_t_SI* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 6);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_E_RUCCH_AccessServiceClass(rtxContext* ctx, E_RUCCH_AccessServiceClass* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "E-RUCCH-AccessServiceClass");
-   stat = asn1PD_UMTS_PRACH_Partitioning_LCR_r4(ctx, pvalue);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SYNC_UL_InfoForE_RUCCH_max_SYNC_UL_Transmissions(rtxContext* ctx, SYNC_UL_InfoForE_RUCCH_max_SYNC_UL_Transmissions* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_SYNC_UL_InfoForE_RUCCH(rtxContext* ctx, SYNC_UL_InfoForE_RUCCH* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SYNC-UL-InfoForE-RUCCH");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* prxUpPCHdes */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "prxUpPCHdes");
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->prxUpPCHdes, 0, 62);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* powerRampStep */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "powerRampStep");
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->powerRampStep, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* max-SYNC-UL-Transmissions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "max-SYNC-UL-Transmissions");
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->max_SYNC_UL_Transmissions, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-RUCCH-Sync-UL-Codes-Bitmap */
-   rtxCtxtPushElemName(ctx, "e-RUCCH-Sync-UL-Codes-Bitmap");
-   stat = asn1PD_UMTS_Sync_UL_Codes_Bitmap(ctx, &pvalue->e_RUCCH_Sync_UL_Codes_Bitmap);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* mmax */
-   rtxCtxtPushElemName(ctx, "mmax");
-   stat = pd_ConsUInt8(ctx, &pvalue->mmax, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PRACH_ChanCodes_List_LCR(rtxContext* ctx, PRACH_ChanCodes_List_LCR* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "PRACH-ChanCodes-List-LCR");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 1);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 1) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "TDD-PRACH-CCode-LCR-r4", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "TDD-PRACH-CCode-LCR-r4");
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 27);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PRACH_Information_LCR(rtxContext* ctx, PRACH_Information_LCR* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PRACH-Information-LCR");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* timeslot */
-   rtxCtxtPushElemName(ctx, "timeslot");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-PRACH-LCR-r4");
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 1, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* prach-ChanCodes-list-LCR */
-   rtxCtxtPushElemName(ctx, "prach-ChanCodes-list-LCR");
-   stat = asn1PD_UMTS_PRACH_ChanCodes_List_LCR(ctx, &pvalue->prach_ChanCodes_list_LCR);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midambleShiftAndBurstType */
-   rtxCtxtPushElemName(ctx, "midambleShiftAndBurstType");
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* fpach-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "fpach-Info");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_FPACH_Info_r4(ctx, &pvalue->fpach_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PRACH_Information_LCR_List(rtxContext* ctx, PRACH_Information_LCR_List* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "PRACH-Information-LCR-List");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PRACH_Information_LCR* elem;
-      rtxCtxtPushArrayElemName(ctx, "PRACH-Information-LCR", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PRACH_Information_LCR));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (PRACH_Information_LCR*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PRACH_Information_LCR(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PRACH_Information_LCR(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_RUCCH_Info_TDD128(rtxContext* ctx, E_RUCCH_Info_TDD128* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "E-RUCCH-Info-TDD128");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 9);
-   RT_CHECK(ctx, stat);
-   /* t-RUCCH */
-   if (present & ((uint32_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "t-RUCCH");
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_RUCCH, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* n-RUCCH */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "n-RUCCH");
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->n_RUCCH, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* t-WAIT */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "t-WAIT");
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_WAIT, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* t-SI */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "t-SI");
-      pvalue->m |= 0x8u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_SI, 0, 6);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* extendedEstimationWindow */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "extendedEstimationWindow");
-      pvalue->m |= 0x10u;
-      stat = pd_ConsUInt8(ctx, &pvalue->extendedEstimationWindow, 2, 5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-RUCCH-AccessServiceClass */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "e-RUCCH-AccessServiceClass");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_E_RUCCH_AccessServiceClass(ctx, &pvalue->e_RUCCH_AccessServiceClass);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-RUCCH-PersistenceScalingFactor */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "e-RUCCH-PersistenceScalingFactor");
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_PersistenceScalingFactorList(ctx, &pvalue->e_RUCCH_PersistenceScalingFactor);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sync-UL-InfoForE-RUCCH */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "sync-UL-InfoForE-RUCCH");
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_SYNC_UL_InfoForE_RUCCH(ctx, &pvalue->sync_UL_InfoForE_RUCCH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* prach-information */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "prach-information");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_PRACH_Information_LCR_List(ctx, &pvalue->prach_information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Reference_Beta_QPSK(rtxContext* ctx, Reference_Beta_QPSK* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Reference-Beta-QPSK");
-   /* reference-Code-Rate */
-   rtxCtxtPushElemName(ctx, "reference-Code-Rate");
-   stat = pd_ConsUInt8(ctx, &pvalue->reference_Code_Rate, 0, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* reference-Beta */
-   rtxCtxtPushElemName(ctx, "reference-Beta");
-   stat = pd_ConsInt8(ctx, &pvalue->reference_Beta, -15, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_TFCS_Info_reference_Beta_QPSK_List(rtxContext* ctx, E_TFCS_Info_reference_Beta_QPSK_List* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      Reference_Beta_QPSK* elem;
-      rtxCtxtPushArrayElemName(ctx, "Reference-Beta-QPSK", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Reference_Beta_QPSK));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (Reference_Beta_QPSK*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_Reference_Beta_QPSK(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Reference_Beta_16QAM(rtxContext* ctx, Reference_Beta_16QAM* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Reference-Beta-16QAM");
-   /* reference-Code-Rate */
-   rtxCtxtPushElemName(ctx, "reference-Code-Rate");
-   stat = pd_ConsUInt8(ctx, &pvalue->reference_Code_Rate, 0, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* reference-Beta */
-   rtxCtxtPushElemName(ctx, "reference-Beta");
-   stat = pd_ConsInt8(ctx, &pvalue->reference_Beta, -15, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_TFCS_Info_reference_Beta_16QAM_List(rtxContext* ctx, E_TFCS_Info_reference_Beta_16QAM_List* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      Reference_Beta_16QAM* elem;
-      rtxCtxtPushArrayElemName(ctx, "Reference-Beta-16QAM", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Reference_Beta_16QAM));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (Reference_Beta_16QAM*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_Reference_Beta_16QAM(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_TFCS_Info(rtxContext* ctx, E_TFCS_Info* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "E-TFCS-Info");
-   /* reference-Beta-QPSK-List */
-   rtxCtxtPushElemName(ctx, "reference-Beta-QPSK-List");
-   stat = asn1PD_UMTS_E_TFCS_Info_reference_Beta_QPSK_List(ctx, &pvalue->reference_Beta_QPSK_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* reference-Beta-16QAM-List */
-   rtxCtxtPushElemName(ctx, "reference-Beta-16QAM-List");
-   stat = asn1PD_UMTS_E_TFCS_Info_reference_Beta_16QAM_List(ctx, &pvalue->reference_Beta_16QAM_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_PUCH_Info_TDD128_snpl_ReportType(rtxContext* ctx, E_PUCH_Info_TDD128_snpl_ReportType* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_TPC_StepSizeTDD(rtxContext* ctx, TPC_StepSizeTDD* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "TPC-StepSizeTDD");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_SynchronisationParameters_r4(rtxContext* ctx, UL_SynchronisationParameters_r4* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UL-SynchronisationParameters-r4");
-   /* stepSize */
-   rtxCtxtPushElemName(ctx, "stepSize");
-   stat = pd_ConsUInt8(ctx, &pvalue->stepSize, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequency */
-   rtxCtxtPushElemName(ctx, "frequency");
-   stat = pd_ConsUInt8(ctx, &pvalue->frequency, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_PUCH_TS_Slots_LCR_midambleAllocationMode(rtxContext* ctx, E_PUCH_TS_Slots_LCR_midambleAllocationMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.ueSpecificMidamble, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_PUCH_TS_Slots_LCR(rtxContext* ctx, E_PUCH_TS_Slots_LCR* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "E-PUCH-TS-Slots-LCR");
-   /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-LCR-r4");
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PD_UMTS_E_PUCH_TS_Slots_LCR_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midambleConfiguration */
-   rtxCtxtPushElemName(ctx, "midambleConfiguration");
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_PUCH_Info_TDD128_e_PUCH_TS_ConfigurationList(rtxContext* ctx, E_PUCH_Info_TDD128_e_PUCH_TS_ConfigurationList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 5);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      E_PUCH_TS_Slots_LCR* elem;
-      rtxCtxtPushArrayElemName(ctx, "E-PUCH-TS-Slots-LCR", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_PUCH_TS_Slots_LCR));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (E_PUCH_TS_Slots_LCR*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_E_PUCH_TS_Slots_LCR(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_E_PUCH_TS_Slots_LCR(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_PUCH_Info_TDD128_retransTimerForSchedInfo(rtxContext* ctx, E_PUCH_Info_TDD128_retransTimerForSchedInfo* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 29);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_E_PUCH_Info_TDD128(rtxContext* ctx, E_PUCH_Info_TDD128* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "E-PUCH-Info-TDD128");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat);
-   /* e-TFCS-Info */
-   rtxCtxtPushElemName(ctx, "e-TFCS-Info");
-   stat = asn1PD_UMTS_E_TFCS_Info(ctx, &pvalue->e_TFCS_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* snpl-ReportType */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "snpl-ReportType");
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->snpl_ReportType, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* prxBASEdes */
-   rtxCtxtPushElemName(ctx, "prxBASEdes");
-   stat = pd_ConsInt8(ctx, &pvalue->prxBASEdes, -112, -50);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* beaconPLEst */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "beaconPLEst");
-      pvalue->m |= 0x2u;
-      stat = rtxDecBitInline(ctx, &pvalue->beaconPLEst);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tpc-StepSize */
-   rtxCtxtPushElemName(ctx, "tpc-StepSize");
-   rtxCtxtPushTypeName(ctx, "TPC-StepSizeTDD");
-   stat = pd_ConsUInt8(ctx, &pvalue->tpc_StepSize, 1, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* pebase-PowerControlGAP */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "pebase-PowerControlGAP");
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->pebase_PowerControlGAP, 1, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-SynchronisationParameters */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ul-SynchronisationParameters");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UL_SynchronisationParameters_r4(ctx, &pvalue->ul_SynchronisationParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-PUCH-TS-ConfigurationList */
-   rtxCtxtPushElemName(ctx, "e-PUCH-TS-ConfigurationList");
-   stat = asn1PD_UMTS_E_PUCH_Info_TDD128_e_PUCH_TS_ConfigurationList(ctx, &pvalue->e_PUCH_TS_ConfigurationList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* minimum-Allowed-Code-Rate */
-   rtxCtxtPushElemName(ctx, "minimum-Allowed-Code-Rate");
-   stat = pd_ConsUInt8(ctx, &pvalue->minimum_Allowed_Code_Rate, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* maximum-Allowed-Code-Rate */
-   rtxCtxtPushElemName(ctx, "maximum-Allowed-Code-Rate");
-   stat = pd_ConsUInt8(ctx, &pvalue->maximum_Allowed_Code_Rate, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* maximumNumOfRetransSchedInfo */
-   rtxCtxtPushElemName(ctx, "maximumNumOfRetransSchedInfo");
-   stat = pd_ConsUInt8(ctx, &pvalue->maximumNumOfRetransSchedInfo, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* retransTimerForSchedInfo */
-   rtxCtxtPushElemName(ctx, "retransTimerForSchedInfo");
-   stat = pd_ConsUnsigned(ctx, &pvalue->retransTimerForSchedInfo, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x10u;
-      stat = pd_ConsUInt8(ctx, &pvalue->dummy, 0, 6);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_HICH_Information_LCR_midambleAllocationMode(rtxContext* ctx, E_HICH_Information_LCR_midambleAllocationMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.ueSpecificMidamble, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_HICH_Information_LCR(rtxContext* ctx, E_HICH_Information_LCR* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "E-HICH-Information-LCR");
-   /* ei */
-   rtxCtxtPushElemName(ctx, "ei");
-   stat = pd_ConsUInt8(ctx, &pvalue->ei, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-LCR-r4");
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* channelisation-Code */
-   rtxCtxtPushElemName(ctx, "channelisation-Code");
-   rtxCtxtPushTypeName(ctx, "HS-ChannelisationCode-LCR");
-   stat = pd_ConsUnsigned(ctx, &pvalue->channelisation_Code, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PD_UMTS_E_HICH_Information_LCR_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midambleConfiguration */
-   rtxCtxtPushElemName(ctx, "midambleConfiguration");
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_HICH_Information_LCR_List(rtxContext* ctx, E_HICH_Information_LCR_List* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "E-HICH-Information-LCR-List");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      E_HICH_Information_LCR* elem;
-      rtxCtxtPushArrayElemName(ctx, "E-HICH-Information-LCR", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_HICH_Information_LCR));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (E_HICH_Information_LCR*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_E_HICH_Information_LCR(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_E_HICH_Information_LCR(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_HICH_Information_TDD128(rtxContext* ctx, E_HICH_Information_TDD128* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "E-HICH-Information-TDD128");
-   /* n-E-HICH */
-   rtxCtxtPushElemName(ctx, "n-E-HICH");
-   stat = pd_ConsUInt8(ctx, &pvalue->n_E_HICH, 4, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-HICH-InfoList */
-   rtxCtxtPushElemName(ctx, "e-HICH-InfoList");
-   stat = asn1PD_UMTS_E_HICH_Information_LCR_List(ctx, &pvalue->e_HICH_InfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_AGCH_Individual_LCR_midambleAllocationMode(rtxContext* ctx, E_AGCH_Individual_LCR_midambleAllocationMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "commonMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.ueSpecificMidamble, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_E_AGCH_Individual_LCR(rtxContext* ctx, E_AGCH_Individual_LCR* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "E-AGCH-Individual-LCR");
-   /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-LCR-r4");
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* firstChannelisationCode */
-   rtxCtxtPushElemName(ctx, "firstChannelisationCode");
-   rtxCtxtPushTypeName(ctx, "HS-ChannelisationCode-LCR");
-   stat = pd_ConsUnsigned(ctx, &pvalue->firstChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* secondChannelisationCode */
-   rtxCtxtPushElemName(ctx, "secondChannelisationCode");
-   rtxCtxtPushTypeName(ctx, "HS-ChannelisationCode-LCR");
-   stat = pd_ConsUnsigned(ctx, &pvalue->secondChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PD_UMTS_E_AGCH_Individual_LCR_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midambleConfiguration */
-   rtxCtxtPushElemName(ctx, "midambleConfiguration");
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_AGCH_Set_Config_LCR(rtxContext* ctx, E_AGCH_Set_Config_LCR* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "E-AGCH-Set-Config-LCR");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      E_AGCH_Individual_LCR* elem;
-      rtxCtxtPushArrayElemName(ctx, "E-AGCH-Individual-LCR", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_AGCH_Individual_LCR));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (E_AGCH_Individual_LCR*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_E_AGCH_Individual_LCR(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_E_AGCH_Individual_LCR(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_E_AGCH_Information_TDD128(rtxContext* ctx, E_AGCH_Information_TDD128* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "E-AGCH-Information-TDD128");
-   /* rdi-Indicator */
-   rtxCtxtPushElemName(ctx, "rdi-Indicator");
-   stat = rtxDecBitInline(ctx, &pvalue->rdi_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tpc-StepSize */
-   rtxCtxtPushElemName(ctx, "tpc-StepSize");
-   rtxCtxtPushTypeName(ctx, "TPC-StepSizeTDD");
-   stat = pd_ConsUInt8(ctx, &pvalue->tpc_StepSize, 1, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* e-AGCH-Set-Config */
-   rtxCtxtPushElemName(ctx, "e-AGCH-Set-Config");
-   stat = asn1PD_UMTS_E_AGCH_Set_Config_LCR(ctx, &pvalue->e_AGCH_Set_Config);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-AGCH-BLER-Target */
-   rtxCtxtPushElemName(ctx, "e-AGCH-BLER-Target");
-   rtxCtxtPushTypeName(ctx, "Bler-Target");
-   stat = pd_ConsInt8(ctx, &pvalue->e_AGCH_BLER_Target, -63, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_harq_Info(rtxContext* ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_harq_Info* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_E_RNTI(rtxContext* ctx, E_RNTI* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "E-RNTI");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, pvalue, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Common_E_RNTI_Info_element(rtxContext* ctx, Common_E_RNTI_Info_element* pvalue)
-{
-   int stat = 0;
-   /* starting-E-RNTI */
-   rtxCtxtPushElemName(ctx, "starting-E-RNTI");
-   stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->starting_E_RNTI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* number-of-group */
-   rtxCtxtPushElemName(ctx, "number-of-group");
-   stat = pd_ConsUInt8(ctx, &pvalue->number_of_group, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* number-of-ENRTI-per-group */
-   rtxCtxtPushElemName(ctx, "number-of-ENRTI-per-group");
-   stat = pd_ConsUInt8(ctx, &pvalue->number_of_ENRTI_per_group, 1, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Common_E_RNTI_Info(rtxContext* ctx, Common_E_RNTI_Info* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "Common-E-RNTI-Info");
-   RT_SET_SIZE(ctx, 1, 256);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      Common_E_RNTI_Info_element* elem;
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Common_E_RNTI_Info_element));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (Common_E_RNTI_Info_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_Common_E_RNTI_Info_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_Common_E_RNTI_Info_element(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info_harq_retransmission_timer(rtxContext* ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info_harq_retransmission_timer* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 22);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info(rtxContext* ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info* pvalue)
-{
-   int stat = 0;
-   /* common-e-rnti-Info */
-   rtxCtxtPushElemName(ctx, "common-e-rnti-Info");
-   stat = asn1PD_UMTS_Common_E_RNTI_Info(ctx, &pvalue->common_e_rnti_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* harq-MaximumNumberOfRetransmissions */
-   rtxCtxtPushElemName(ctx, "harq-MaximumNumberOfRetransmissions");
-   stat = pd_ConsUInt8(ctx, &pvalue->harq_MaximumNumberOfRetransmissions, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* harq-retransmission-timer */
-   rtxCtxtPushElemName(ctx, "harq-retransmission-timer");
-   stat = pd_ConsUnsigned(ctx, &pvalue->harq_retransmission_timer, 0, 22);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* harq-power-offset */
-   rtxCtxtPushElemName(ctx, "harq-power-offset");
-   stat = pd_ConsUInt8(ctx, &pvalue->harq_power_offset, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128(rtxContext* ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128* pvalue)
-{
-   int stat = 0;
-   /* e-RUCCH-Info */
-   rtxCtxtPushElemName(ctx, "e-RUCCH-Info");
-   stat = asn1PD_UMTS_E_RUCCH_Info_TDD128(ctx, &pvalue->e_RUCCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-PUCH-Info */
-   rtxCtxtPushElemName(ctx, "e-PUCH-Info");
-   stat = asn1PD_UMTS_E_PUCH_Info_TDD128(ctx, &pvalue->e_PUCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-hich-Information */
-   rtxCtxtPushElemName(ctx, "e-hich-Information");
-   stat = asn1PD_UMTS_E_HICH_Information_TDD128(ctx, &pvalue->e_hich_Information);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-agch-Information */
-   rtxCtxtPushElemName(ctx, "e-agch-Information");
-   stat = asn1PD_UMTS_E_AGCH_Information_TDD128(ctx, &pvalue->e_agch_Information);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* harq-Info */
-   rtxCtxtPushElemName(ctx, "harq-Info");
-   stat = pd_ConsUnsigned(ctx, &pvalue->harq_Info, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ccch-transmission-Info */
-   rtxCtxtPushElemName(ctx, "ccch-transmission-Info");
-   stat = asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info(ctx, &pvalue->ccch_transmission_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd(rtxContext* ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "tdd768");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         pvalue->u.tdd128 = (CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo(rtxContext* ctx, CommonEDCHSystemInfo_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (CommonEDCHSystemInfo_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CommonEDCHSystemInfo_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (CommonEDCHSystemInfo_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CommonEDCHSystemInfo_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CommonEDCHSystemInfo(rtxContext* ctx, CommonEDCHSystemInfo* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CommonEDCHSystemInfo");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ul-InterferenceForCommonEDCH */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ul-InterferenceForCommonEDCH");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "UL-Interference");
-      stat = pd_ConsInt8(ctx, &pvalue->ul_InterferenceForCommonEDCH, -110, -70);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* common-E-DCH-MAC-d-FlowList */
-   rtxCtxtPushElemName(ctx, "common-E-DCH-MAC-d-FlowList");
-   stat = asn1PD_UMTS_Common_E_DCH_MAC_d_FlowList(ctx, &pvalue->common_E_DCH_MAC_d_FlowList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_CommonEDCHSystemInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v890ext_IEs(rtxContext* ctx, SysInfoType5_v890ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType5-v890ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* secondFrequencyInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "secondFrequencyInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->secondFrequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* commonEDCHSystemInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "commonEDCHSystemInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CommonEDCHSystemInfo(ctx, &pvalue->commonEDCHSystemInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v8b0ext_IEs_tresetUsageIndicator(rtxContext* ctx, SysInfoType5_v8b0ext_IEs_tresetUsageIndicator* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UpPCHposition_LCR(rtxContext* ctx, UpPCHposition_LCR* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "UpPCHposition-LCR");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v8b0ext_IEs(rtxContext* ctx, SysInfoType5_v8b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType5-v8b0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* tresetUsageIndicator */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "tresetUsageIndicator");
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->tresetUsageIndicator = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* upPCHpositionInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "upPCHpositionInfo");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "UpPCHposition-LCR");
-      stat = pd_ConsUInt8(ctx, &pvalue->upPCHpositionInfo, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CommonEDCHSystemInfoFDD_harq_Info(rtxContext* ctx, CommonEDCHSystemInfoFDD_harq_Info* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_CommonEDCHSystemInfoFDD_max_CCCH_ResourceAllocation(rtxContext* ctx, CommonEDCHSystemInfoFDD_max_CCCH_ResourceAllocation* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_CommonEDCHSystemInfoFDD_e_dch_TransmitContinuationOffset(rtxContext* ctx, CommonEDCHSystemInfoFDD_e_dch_TransmitContinuationOffset* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_CommonEDCHSystemInfoFDD_common_E_DCH_ResourceInfoList(rtxContext* ctx, CommonEDCHSystemInfoFDD_common_E_DCH_ResourceInfoList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      Common_E_DCH_ResourceInfoList* elem;
-      rtxCtxtPushArrayElemName(ctx, "Common-E-DCH-ResourceInfoList", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Common_E_DCH_ResourceInfoList));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (Common_E_DCH_ResourceInfoList*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_Common_E_DCH_ResourceInfoList(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_Common_E_DCH_ResourceInfoList(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CommonEDCHSystemInfoFDD(rtxContext* ctx, CommonEDCHSystemInfoFDD* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CommonEDCHSystemInfoFDD");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ul-InterferenceForCommonEDCH */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ul-InterferenceForCommonEDCH");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "UL-Interference");
-      stat = pd_ConsInt8(ctx, &pvalue->ul_InterferenceForCommonEDCH, -110, -70);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* common-E-DCH-MAC-d-FlowList */
-   rtxCtxtPushElemName(ctx, "common-E-DCH-MAC-d-FlowList");
-   stat = asn1PD_UMTS_Common_E_DCH_MAC_d_FlowList(ctx, &pvalue->common_E_DCH_MAC_d_FlowList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* prach-PreambleForEnhancedUplink */
-   rtxCtxtPushElemName(ctx, "prach-PreambleForEnhancedUplink");
-   stat = asn1PD_UMTS_PRACH_PreambleForEnhancedUplink(ctx, &pvalue->prach_PreambleForEnhancedUplink);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* initialServingGrantValue */
-   rtxCtxtPushElemName(ctx, "initialServingGrantValue");
-   stat = pd_ConsUInt8(ctx, &pvalue->initialServingGrantValue, 0, 37);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-dch-TTI */
-   rtxCtxtPushElemName(ctx, "e-dch-TTI");
-   rtxCtxtPushTypeName(ctx, "E-DCH-TTI");
-   stat = pd_ConsUnsigned(ctx, &pvalue->e_dch_TTI, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* e-agch-Information */
-   rtxCtxtPushElemName(ctx, "e-agch-Information");
-   stat = asn1PD_UMTS_E_AGCH_Information(ctx, &pvalue->e_agch_Information);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* harq-Info */
-   rtxCtxtPushElemName(ctx, "harq-Info");
-   stat = pd_ConsUnsigned(ctx, &pvalue->harq_Info, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-DPCHpowerControlInfoForCommonEDCH */
-   rtxCtxtPushElemName(ctx, "ul-DPCHpowerControlInfoForCommonEDCH");
-   stat = asn1PD_UMTS_UL_DPCHpowerControlInfoForCommonEDCH(ctx, &pvalue->ul_DPCHpowerControlInfoForCommonEDCH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-dpcch-Info */
-   rtxCtxtPushElemName(ctx, "e-dpcch-Info");
-   stat = asn1PD_UMTS_E_DPCCH_Info_r7(ctx, &pvalue->e_dpcch_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-dpdch-Info */
-   rtxCtxtPushElemName(ctx, "e-dpdch-Info");
-   stat = asn1PD_UMTS_E_DPDCH_Info_r8(ctx, &pvalue->e_dpdch_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-FDPCH-TPCcommandErrorRate */
-   rtxCtxtPushElemName(ctx, "dl-FDPCH-TPCcommandErrorRate");
-   stat = pd_ConsUInt8(ctx, &pvalue->dl_FDPCH_TPCcommandErrorRate, 1, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* additional-E-DCH-TransmitBackoff */
-   rtxCtxtPushElemName(ctx, "additional-E-DCH-TransmitBackoff");
-   stat = pd_ConsUInt8(ctx, &pvalue->additional_E_DCH_TransmitBackoff, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* max-CCCH-ResourceAllocation */
-   rtxCtxtPushElemName(ctx, "max-CCCH-ResourceAllocation");
-   stat = pd_ConsUnsigned(ctx, &pvalue->max_CCCH_ResourceAllocation, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* max-PeriodForCollisionResolution */
-   rtxCtxtPushElemName(ctx, "max-PeriodForCollisionResolution");
-   stat = pd_ConsUInt8(ctx, &pvalue->max_PeriodForCollisionResolution, 8, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-dch-TransmitContinuationOffset */
-   rtxCtxtPushElemName(ctx, "e-dch-TransmitContinuationOffset");
-   stat = pd_ConsUnsigned(ctx, &pvalue->e_dch_TransmitContinuationOffset, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ack-nack-support-on-HS-DPCCH */
-   rtxCtxtPushElemName(ctx, "ack-nack-support-on-HS-DPCCH");
-   stat = rtxDecBitInline(ctx, &pvalue->ack_nack_support_on_HS_DPCCH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurement-Feedback-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "measurement-Feedback-Info");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_Feedback_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* common-E-DCH-ResourceInfoList */
-   rtxCtxtPushElemName(ctx, "common-E-DCH-ResourceInfoList");
-   stat = asn1PD_UMTS_CommonEDCHSystemInfoFDD_common_E_DCH_ResourceInfoList(ctx, &pvalue->common_E_DCH_ResourceInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v8d0ext_IEs(rtxContext* ctx, SysInfoType5_v8d0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType5-v8d0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* commonEDCHSystemInfoFDD */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "commonEDCHSystemInfoFDD");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CommonEDCHSystemInfoFDD(ctx, &pvalue->commonEDCHSystemInfoFDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions(rtxContext* ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType5-v8d0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType5-v8d0ext");
-   stat = asn1PD_UMTS_SysInfoType5_v8d0ext_IEs(ctx, &pvalue->sysInfoType5_v8d0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions(rtxContext* ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType5-v8b0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType5-v8b0ext");
-   stat = asn1PD_UMTS_SysInfoType5_v8b0ext_IEs(ctx, &pvalue->sysInfoType5_v8b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v8d0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v8d0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions(ctx, &pvalue->v8d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType5-v890ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType5-v890ext");
-   stat = asn1PD_UMTS_SysInfoType5_v890ext_IEs(ctx, &pvalue->sysInfoType5_v890ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v8b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v8b0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions(ctx, &pvalue->v8b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType5-v860ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType5-v860ext");
-   stat = asn1PD_UMTS_SysInfoType5_v860ext_IEs(ctx, &pvalue->sysInfoType5_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v890NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v890NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType5-v770ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType5-v770ext");
-   stat = asn1PD_UMTS_SysInfoType5_v770ext_IEs(ctx, &pvalue->sysInfoType5_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v860NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType5-v690ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType5-v690ext");
-   stat = asn1PD_UMTS_SysInfoType5_v690ext_IEs(ctx, &pvalue->sysInfoType5_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions(rtxContext* ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType5-v680ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "sysInfoType5-v680ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType5_v680ext_IEs(ctx, &pvalue->sysInfoType5_v680ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions(rtxContext* ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType5-v650ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "sysInfoType5-v650ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType5_v650ext_IEs(ctx, &pvalue->sysInfoType5_v650ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v680NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v680NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions(ctx, &pvalue->v680NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* ctx, SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType5-v590ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "sysInfoType5-v590ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType5_v590ext_IEs(ctx, &pvalue->sysInfoType5_v590ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v650NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v650NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions(ctx, &pvalue->v650NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions(rtxContext* ctx, SysInfoType5_v4b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType5-v4b0ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "sysInfoType5-v4b0ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType5_v4b0ext_IEs(ctx, &pvalue->sysInfoType5_v4b0ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v590NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5(rtxContext* ctx, SysInfoType5* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType5");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* sib6indicator */
-   rtxCtxtPushElemName(ctx, "sib6indicator");
-   stat = rtxDecBitInline(ctx, &pvalue->sib6indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* pich-PowerOffset */
-   rtxCtxtPushElemName(ctx, "pich-PowerOffset");
-   rtxCtxtPushTypeName(ctx, "PICH-PowerOffset");
-   stat = pd_ConsInt8(ctx, &pvalue->pich_PowerOffset, -10, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_SysInfoType5_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-Info */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "primaryCCPCH-Info");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* prach-SystemInformationList */
-   rtxCtxtPushElemName(ctx, "prach-SystemInformationList");
-   stat = asn1PD_UMTS_PRACH_SystemInformationList(ctx, &pvalue->prach_SystemInformationList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sCCPCH-SystemInformationList */
-   rtxCtxtPushElemName(ctx, "sCCPCH-SystemInformationList");
-   stat = asn1PD_UMTS_SCCPCH_SystemInformationList(ctx, &pvalue->sCCPCH_SystemInformationList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cbs-DRX-Level1Information */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "cbs-DRX-Level1Information");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CBS_DRX_Level1Information(ctx, &pvalue->cbs_DRX_Level1Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v4b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v4b0NonCriticalExtensions");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_SysInfoType5_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RAT_Type(rtxContext* ctx, RAT_Type* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "RAT-Type");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_FACH_MeasurementOccasionInfo_inter_RAT_meas_ind(rtxContext* ctx, FACH_MeasurementOccasionInfo_inter_RAT_meas_ind* pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 14) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "RAT-Type", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "RAT-Type");
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 1);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_FACH_MeasurementOccasionInfo(rtxContext* ctx, FACH_MeasurementOccasionInfo* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "FACH-MeasurementOccasionInfo");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* fACH-meas-occasion-coeff */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "fACH-meas-occasion-coeff");
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->fACH_meas_occasion_coeff, 1, 12);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* inter-freq-FDD-meas-ind */
-   rtxCtxtPushElemName(ctx, "inter-freq-FDD-meas-ind");
-   stat = rtxDecBitInline(ctx, &pvalue->inter_freq_FDD_meas_ind);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* inter-freq-TDD-meas-ind */
-   rtxCtxtPushElemName(ctx, "inter-freq-TDD-meas-ind");
-   stat = rtxDecBitInline(ctx, &pvalue->inter_freq_TDD_meas_ind);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* inter-RAT-meas-ind */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "inter-RAT-meas-ind");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_FACH_MeasurementOccasionInfo_inter_RAT_meas_ind(ctx, &pvalue->inter_RAT_meas_ind);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementIdentity(rtxContext* ctx, MeasurementIdentity* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MeasurementIdentity");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqCellID(rtxContext* ctx, IntraFreqCellID* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "IntraFreqCellID");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RemovedIntraFreqCellList_removeSomeIntraFreqCells(rtxContext* ctx, RemovedIntraFreqCellList_removeSomeIntraFreqCells* pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 5);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 31) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "IntraFreqCellID", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "IntraFreqCellID");
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 31);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RemovedIntraFreqCellList(rtxContext* ctx, RemovedIntraFreqCellList* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "RemovedIntraFreqCellList");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "removeAllIntraFreqCells");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "removeSomeIntraFreqCells");
-         pvalue->u.removeSomeIntraFreqCells = (RemovedIntraFreqCellList_removeSomeIntraFreqCells*)rtxMemHeapAlloc(ctx, sizeof(RemovedIntraFreqCellList_removeSomeIntraFreqCells));
-         if (pvalue->u.removeSomeIntraFreqCells == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RemovedIntraFreqCellList_removeSomeIntraFreqCells(pvalue->u.removeSomeIntraFreqCells);
-         stat = asn1PD_UMTS_RemovedIntraFreqCellList_removeSomeIntraFreqCells(ctx, pvalue->u.removeSomeIntraFreqCells);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "removeNoIntraFreqCells");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellIndividualOffset(rtxContext* ctx, CellIndividualOffset* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "CellIndividualOffset");
-   stat = pd_ConsInt8(ctx, pvalue, -20, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ReferenceTimeDifferenceToCell(rtxContext* ctx, ReferenceTimeDifferenceToCell* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "ReferenceTimeDifferenceToCell");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "accuracy40");
-         stat = pd_ConsUInt16(ctx, &pvalue->u.accuracy40, 0, 960);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "accuracy256");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.accuracy256, 0, 150);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "accuracy2560");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.accuracy2560, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PrimaryScramblingCode(rtxContext* ctx, PrimaryScramblingCode* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "PrimaryScramblingCode");
-   stat = pd_ConsUInt16(ctx, pvalue, 0, 511);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PrimaryCPICH_Info(rtxContext* ctx, PrimaryCPICH_Info* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PrimaryCPICH-Info");
-   /* primaryScramblingCode */
-   rtxCtxtPushElemName(ctx, "primaryScramblingCode");
-   rtxCtxtPushTypeName(ctx, "PrimaryScramblingCode");
-   stat = pd_ConsUInt16(ctx, &pvalue->primaryScramblingCode, 0, 511);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellInfoSI_RSCP_modeSpecificInfo_fdd(rtxContext* ctx, CellInfoSI_RSCP_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* primaryCPICH-Info */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* primaryCPICH-TX-Power */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-TX-Power");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "PrimaryCPICH-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->primaryCPICH_TX_Power, -10, 50);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* readSFN-Indicator */
-   rtxCtxtPushElemName(ctx, "readSFN-Indicator");
-   stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tx-DiversityIndicator */
-   rtxCtxtPushElemName(ctx, "tx-DiversityIndicator");
-   stat = rtxDecBitInline(ctx, &pvalue->tx_DiversityIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_BurstType(rtxContext* ctx, BurstType* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "BurstType");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TimeslotInfo(rtxContext* ctx, TimeslotInfo* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TimeslotInfo");
-   /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* burstType */
-   rtxCtxtPushElemName(ctx, "burstType");
-   rtxCtxtPushTypeName(ctx, "BurstType");
-   stat = pd_ConsUnsigned(ctx, &pvalue->burstType, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TimeslotInfoList(rtxContext* ctx, TimeslotInfoList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "TimeslotInfoList");
-   RT_SET_SIZE(ctx, 1, 14);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      TimeslotInfo* elem;
-      rtxCtxtPushArrayElemName(ctx, "TimeslotInfo", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TimeslotInfo));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (TimeslotInfo*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_TimeslotInfo(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellInfoSI_RSCP_modeSpecificInfo_tdd(rtxContext* ctx, CellInfoSI_RSCP_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* primaryCCPCH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-Info");
-   stat = asn1PD_UMTS_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-      stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* timeslotInfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "timeslotInfoList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_TimeslotInfoList(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* readSFN-Indicator */
-   rtxCtxtPushElemName(ctx, "readSFN-Indicator");
-   stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellInfoSI_RSCP_modeSpecificInfo(rtxContext* ctx, CellInfoSI_RSCP_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (CellInfoSI_RSCP_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfoSI_RSCP_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellInfoSI_RSCP_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellInfoSI_RSCP_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (CellInfoSI_RSCP_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfoSI_RSCP_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellInfoSI_RSCP_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_CellInfoSI_RSCP_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Q_OffsetS_N(rtxContext* ctx, Q_OffsetS_N* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "Q-OffsetS-N");
-   stat = pd_ConsInt8(ctx, pvalue, -50, 50);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd(rtxContext* ctx, CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* q-QualMin */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "q-QualMin");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "Q-QualMin");
-      stat = pd_ConsInt8(ctx, &pvalue->q_QualMin, -24, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* q-RxlevMin */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "q-RxlevMin");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
-      stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd(rtxContext* ctx, CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* q-RxlevMin */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "q-RxlevMin");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
-      stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm(rtxContext* ctx, CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* q-RxlevMin */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "q-RxlevMin");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
-      stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo(rtxContext* ctx, CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "gsm");
-         pvalue->u.gsm = (CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm));
-         if (pvalue->u.gsm == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm(pvalue->u.gsm);
-         stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_RSCP(rtxContext* ctx, CellSelectReselectInfoSIB_11_12_RSCP* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellSelectReselectInfoSIB-11-12-RSCP");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* q-OffsetS-N */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "q-OffsetS-N");
-      rtxCtxtPushTypeName(ctx, "Q-OffsetS-N");
-      stat = pd_ConsInt8(ctx, &pvalue->q_OffsetS_N, -50, 50);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->q_OffsetS_N = 0;
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellInfoSI_RSCP(rtxContext* ctx, CellInfoSI_RSCP* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellInfoSI-RSCP");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* cellIndividualOffset */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "cellIndividualOffset");
-      rtxCtxtPushTypeName(ctx, "CellIndividualOffset");
-      stat = pd_ConsInt8(ctx, &pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->cellIndividualOffset = 0;
-   }
-   /* referenceTimeDifferenceToCell */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "referenceTimeDifferenceToCell");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_CellInfoSI_RSCP_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellSelectionReselectionInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cellSelectionReselectionInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_RSCP(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewIntraFreqCellSI_RSCP(rtxContext* ctx, NewIntraFreqCellSI_RSCP* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellSI-RSCP");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* intraFreqCellID */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellID");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "IntraFreqCellID");
-      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PD_UMTS_CellInfoSI_RSCP(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewIntraFreqCellSI_List_RSCP(rtxContext* ctx, NewIntraFreqCellSI_List_RSCP* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellSI-List-RSCP");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NewIntraFreqCellSI_RSCP* elem;
-      rtxCtxtPushArrayElemName(ctx, "NewIntraFreqCellSI-RSCP", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCellSI_RSCP));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (NewIntraFreqCellSI_RSCP*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NewIntraFreqCellSI_RSCP(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewIntraFreqCellSI_RSCP(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqCellInfoSI_List_RSCP(rtxContext* ctx, IntraFreqCellInfoSI_List_RSCP* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFreqCellInfoSI-List-RSCP");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* removedIntraFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "removedIntraFreqCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newIntraFreqCellList */
-   rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
-   stat = asn1PD_UMTS_NewIntraFreqCellSI_List_RSCP(ctx, &pvalue->newIntraFreqCellList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_FilterCoefficient(rtxContext* ctx, FilterCoefficient* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "FilterCoefficient");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqMeasQuantity_FDD(rtxContext* ctx, IntraFreqMeasQuantity_FDD* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "IntraFreqMeasQuantity-FDD");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqMeasQuantity_modeSpecificInfo_fdd(rtxContext* ctx, IntraFreqMeasQuantity_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   /* intraFreqMeasQuantity-FDD */
-   rtxCtxtPushElemName(ctx, "intraFreqMeasQuantity-FDD");
-   rtxCtxtPushTypeName(ctx, "IntraFreqMeasQuantity-FDD");
-   stat = pd_ConsUnsigned(ctx, &pvalue->intraFreqMeasQuantity_FDD, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqMeasQuantity_TDD(rtxContext* ctx, IntraFreqMeasQuantity_TDD* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "IntraFreqMeasQuantity-TDD");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqMeasQuantity_TDDList(rtxContext* ctx, IntraFreqMeasQuantity_TDDList* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "IntraFreqMeasQuantity-TDDList");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 2);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 3) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "IntraFreqMeasQuantity-TDD", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "IntraFreqMeasQuantity-TDD");
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 3);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqMeasQuantity_modeSpecificInfo_tdd(rtxContext* ctx, IntraFreqMeasQuantity_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   /* intraFreqMeasQuantity-TDDList */
-   rtxCtxtPushElemName(ctx, "intraFreqMeasQuantity-TDDList");
-   stat = asn1PD_UMTS_IntraFreqMeasQuantity_TDDList(ctx, &pvalue->intraFreqMeasQuantity_TDDList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqMeasQuantity_modeSpecificInfo(rtxContext* ctx, IntraFreqMeasQuantity_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (IntraFreqMeasQuantity_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(IntraFreqMeasQuantity_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_IntraFreqMeasQuantity_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (IntraFreqMeasQuantity_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqMeasQuantity_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_IntraFreqMeasQuantity_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_IntraFreqMeasQuantity_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqMeasQuantity(rtxContext* ctx, IntraFreqMeasQuantity* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFreqMeasQuantity");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* filterCoefficient */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "filterCoefficient");
-      rtxCtxtPushTypeName(ctx, "FilterCoefficient");
-      stat = pd_ConsUnsigned(ctx, &pvalue->filterCoefficient, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->filterCoefficient = 0;
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_IntraFreqMeasQuantity_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SFN_SFN_OTD_Type(rtxContext* ctx, SFN_SFN_OTD_Type* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "SFN-SFN-OTD-Type");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqRepQuantityRACH_FDD(rtxContext* ctx, IntraFreqRepQuantityRACH_FDD* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "IntraFreqRepQuantityRACH-FDD");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd(rtxContext* ctx, IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   /* intraFreqRepQuantityRACH-FDD */
-   rtxCtxtPushElemName(ctx, "intraFreqRepQuantityRACH-FDD");
-   rtxCtxtPushTypeName(ctx, "IntraFreqRepQuantityRACH-FDD");
-   stat = pd_ConsUnsigned(ctx, &pvalue->intraFreqRepQuantityRACH_FDD, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqRepQuantityRACH_TDD(rtxContext* ctx, IntraFreqRepQuantityRACH_TDD* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "IntraFreqRepQuantityRACH-TDD");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqRepQuantityRACH_TDDList(rtxContext* ctx, IntraFreqRepQuantityRACH_TDDList* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "IntraFreqRepQuantityRACH-TDDList");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 1);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 1) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "IntraFreqRepQuantityRACH-TDD", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "IntraFreqRepQuantityRACH-TDD");
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 2);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd(rtxContext* ctx, IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   /* intraFreqRepQuantityRACH-TDDList */
-   rtxCtxtPushElemName(ctx, "intraFreqRepQuantityRACH-TDDList");
-   stat = asn1PD_UMTS_IntraFreqRepQuantityRACH_TDDList(ctx, &pvalue->intraFreqRepQuantityRACH_TDDList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo(rtxContext* ctx, IntraFreqReportingQuantityForRACH_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqReportingQuantityForRACH(rtxContext* ctx, IntraFreqReportingQuantityForRACH* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "IntraFreqReportingQuantityForRACH");
-   /* sfn-SFN-OTD-Type */
-   rtxCtxtPushElemName(ctx, "sfn-SFN-OTD-Type");
-   rtxCtxtPushTypeName(ctx, "SFN-SFN-OTD-Type");
-   stat = pd_ConsUnsigned(ctx, &pvalue->sfn_SFN_OTD_Type, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MaxReportedCellsOnRACH(rtxContext* ctx, MaxReportedCellsOnRACH* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MaxReportedCellsOnRACH");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellReportingQuantities_modeSpecificInfo_fdd(rtxContext* ctx, CellReportingQuantities_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   /* cpich-Ec-N0-reportingIndicator */
-   rtxCtxtPushElemName(ctx, "cpich-Ec-N0-reportingIndicator");
-   stat = rtxDecBitInline(ctx, &pvalue->cpich_Ec_N0_reportingIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cpich-RSCP-reportingIndicator */
-   rtxCtxtPushElemName(ctx, "cpich-RSCP-reportingIndicator");
-   stat = rtxDecBitInline(ctx, &pvalue->cpich_RSCP_reportingIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* pathloss-reportingIndicator */
-   rtxCtxtPushElemName(ctx, "pathloss-reportingIndicator");
-   stat = rtxDecBitInline(ctx, &pvalue->pathloss_reportingIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellReportingQuantities_modeSpecificInfo_tdd(rtxContext* ctx, CellReportingQuantities_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   /* timeslotISCP-reportingIndicator */
-   rtxCtxtPushElemName(ctx, "timeslotISCP-reportingIndicator");
-   stat = rtxDecBitInline(ctx, &pvalue->timeslotISCP_reportingIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* proposedTGSN-ReportingRequired */
-   rtxCtxtPushElemName(ctx, "proposedTGSN-ReportingRequired");
-   stat = rtxDecBitInline(ctx, &pvalue->proposedTGSN_ReportingRequired);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-RSCP-reportingIndicator */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-RSCP-reportingIndicator");
-   stat = rtxDecBitInline(ctx, &pvalue->primaryCCPCH_RSCP_reportingIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* pathloss-reportingIndicator */
-   rtxCtxtPushElemName(ctx, "pathloss-reportingIndicator");
-   stat = rtxDecBitInline(ctx, &pvalue->pathloss_reportingIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellReportingQuantities_modeSpecificInfo(rtxContext* ctx, CellReportingQuantities_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (CellReportingQuantities_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(CellReportingQuantities_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_CellReportingQuantities_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (CellReportingQuantities_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(CellReportingQuantities_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_CellReportingQuantities_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellReportingQuantities(rtxContext* ctx, CellReportingQuantities* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CellReportingQuantities");
-   /* dummy */
-   rtxCtxtPushElemName(ctx, "dummy");
-   rtxCtxtPushTypeName(ctx, "SFN-SFN-OTD-Type");
-   stat = pd_ConsUnsigned(ctx, &pvalue->dummy, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* cellIdentity-reportingIndicator */
-   rtxCtxtPushElemName(ctx, "cellIdentity-reportingIndicator");
-   stat = rtxDecBitInline(ctx, &pvalue->cellIdentity_reportingIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellSynchronisationInfoReportingIndicator */
-   rtxCtxtPushElemName(ctx, "cellSynchronisationInfoReportingIndicator");
-   stat = rtxDecBitInline(ctx, &pvalue->cellSynchronisationInfoReportingIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_CellReportingQuantities_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqReportingQuantity(rtxContext* ctx, IntraFreqReportingQuantity* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFreqReportingQuantity");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* activeSetReportingQuantities */
-   rtxCtxtPushElemName(ctx, "activeSetReportingQuantities");
-   stat = asn1PD_UMTS_CellReportingQuantities(ctx, &pvalue->activeSetReportingQuantities);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* monitoredSetReportingQuantities */
-   rtxCtxtPushElemName(ctx, "monitoredSetReportingQuantities");
-   stat = asn1PD_UMTS_CellReportingQuantities(ctx, &pvalue->monitoredSetReportingQuantities);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* detectedSetReportingQuantities */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "detectedSetReportingQuantities");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellReportingQuantities(ctx, &pvalue->detectedSetReportingQuantities);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TransferMode(rtxContext* ctx, TransferMode* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "TransferMode");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PeriodicalOrEventTrigger(rtxContext* ctx, PeriodicalOrEventTrigger* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "PeriodicalOrEventTrigger");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementReportingMode(rtxContext* ctx, MeasurementReportingMode* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MeasurementReportingMode");
-   /* measurementReportTransferMode */
-   rtxCtxtPushElemName(ctx, "measurementReportTransferMode");
-   rtxCtxtPushTypeName(ctx, "TransferMode");
-   stat = pd_ConsUnsigned(ctx, &pvalue->measurementReportTransferMode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* periodicalOrEventTrigger */
-   rtxCtxtPushElemName(ctx, "periodicalOrEventTrigger");
-   rtxCtxtPushTypeName(ctx, "PeriodicalOrEventTrigger");
-   stat = pd_ConsUnsigned(ctx, &pvalue->periodicalOrEventTrigger, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TriggeringCondition2(rtxContext* ctx, TriggeringCondition2* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "TriggeringCondition2");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ReportingRange(rtxContext* ctx, ReportingRange* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "ReportingRange");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ForbiddenAffectCell(rtxContext* ctx, ForbiddenAffectCell* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "ForbiddenAffectCell");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (PrimaryCPICH_Info*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCPICH_Info));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (PrimaryCCPCH_Info*)rtxMemHeapAlloc(ctx, sizeof(PrimaryCCPCH_Info));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PrimaryCCPCH_Info(pvalue->u.tdd);
-         stat = asn1PD_UMTS_PrimaryCCPCH_Info(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ForbiddenAffectCellList(rtxContext* ctx, ForbiddenAffectCellList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "ForbiddenAffectCellList");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      ForbiddenAffectCell* elem;
-      rtxCtxtPushArrayElemName(ctx, "ForbiddenAffectCell", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(ForbiddenAffectCell));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (ForbiddenAffectCell*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_ForbiddenAffectCell(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_ForbiddenAffectCell(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_W(rtxContext* ctx, W* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "W");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ReportDeactivationThreshold(rtxContext* ctx, ReportDeactivationThreshold* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "ReportDeactivationThreshold");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ReportingAmount(rtxContext* ctx, ReportingAmount* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "ReportingAmount");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ReportingInterval(rtxContext* ctx, ReportingInterval* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "ReportingInterval");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Event1a(rtxContext* ctx, Event1a* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "Event1a");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* triggeringCondition */
-   rtxCtxtPushElemName(ctx, "triggeringCondition");
-   rtxCtxtPushTypeName(ctx, "TriggeringCondition2");
-   stat = pd_ConsUnsigned(ctx, &pvalue->triggeringCondition, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingRange */
-   rtxCtxtPushElemName(ctx, "reportingRange");
-   rtxCtxtPushTypeName(ctx, "ReportingRange");
-   stat = pd_ConsUInt8(ctx, &pvalue->reportingRange, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* forbiddenAffectCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "forbiddenAffectCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ForbiddenAffectCellList(ctx, &pvalue->forbiddenAffectCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* w */
-   rtxCtxtPushElemName(ctx, "w");
-   rtxCtxtPushTypeName(ctx, "W");
-   stat = pd_ConsUInt8(ctx, &pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportDeactivationThreshold */
-   rtxCtxtPushElemName(ctx, "reportDeactivationThreshold");
-   rtxCtxtPushTypeName(ctx, "ReportDeactivationThreshold");
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportDeactivationThreshold, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingAmount */
-   rtxCtxtPushElemName(ctx, "reportingAmount");
-   rtxCtxtPushTypeName(ctx, "ReportingAmount");
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportingAmount, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingInterval */
-   rtxCtxtPushElemName(ctx, "reportingInterval");
-   rtxCtxtPushTypeName(ctx, "ReportingInterval");
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportingInterval, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TriggeringCondition1(rtxContext* ctx, TriggeringCondition1* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "TriggeringCondition1");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Event1b(rtxContext* ctx, Event1b* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "Event1b");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* triggeringCondition */
-   rtxCtxtPushElemName(ctx, "triggeringCondition");
-   rtxCtxtPushTypeName(ctx, "TriggeringCondition1");
-   stat = pd_ConsUnsigned(ctx, &pvalue->triggeringCondition, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingRange */
-   rtxCtxtPushElemName(ctx, "reportingRange");
-   rtxCtxtPushTypeName(ctx, "ReportingRange");
-   stat = pd_ConsUInt8(ctx, &pvalue->reportingRange, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* forbiddenAffectCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "forbiddenAffectCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ForbiddenAffectCellList(ctx, &pvalue->forbiddenAffectCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* w */
-   rtxCtxtPushElemName(ctx, "w");
-   rtxCtxtPushTypeName(ctx, "W");
-   stat = pd_ConsUInt8(ctx, &pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ReplacementActivationThreshold(rtxContext* ctx, ReplacementActivationThreshold* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "ReplacementActivationThreshold");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Event1c(rtxContext* ctx, Event1c* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Event1c");
-   /* replacementActivationThreshold */
-   rtxCtxtPushElemName(ctx, "replacementActivationThreshold");
-   rtxCtxtPushTypeName(ctx, "ReplacementActivationThreshold");
-   stat = pd_ConsUnsigned(ctx, &pvalue->replacementActivationThreshold, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingAmount */
-   rtxCtxtPushElemName(ctx, "reportingAmount");
-   rtxCtxtPushTypeName(ctx, "ReportingAmount");
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportingAmount, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingInterval */
-   rtxCtxtPushElemName(ctx, "reportingInterval");
-   rtxCtxtPushTypeName(ctx, "ReportingInterval");
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportingInterval, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ThresholdUsedFrequency(rtxContext* ctx, ThresholdUsedFrequency* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "ThresholdUsedFrequency");
-   stat = pd_ConsInt16(ctx, pvalue, -115, 165);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Event1e(rtxContext* ctx, Event1e* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Event1e");
-   /* triggeringCondition */
-   rtxCtxtPushElemName(ctx, "triggeringCondition");
-   rtxCtxtPushTypeName(ctx, "TriggeringCondition2");
-   stat = pd_ConsUnsigned(ctx, &pvalue->triggeringCondition, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* thresholdUsedFrequency */
-   rtxCtxtPushElemName(ctx, "thresholdUsedFrequency");
-   rtxCtxtPushTypeName(ctx, "ThresholdUsedFrequency");
-   stat = pd_ConsInt16(ctx, &pvalue->thresholdUsedFrequency, -115, 165);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Event1f(rtxContext* ctx, Event1f* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Event1f");
-   /* triggeringCondition */
-   rtxCtxtPushElemName(ctx, "triggeringCondition");
-   rtxCtxtPushTypeName(ctx, "TriggeringCondition1");
-   stat = pd_ConsUnsigned(ctx, &pvalue->triggeringCondition, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* thresholdUsedFrequency */
-   rtxCtxtPushElemName(ctx, "thresholdUsedFrequency");
-   rtxCtxtPushTypeName(ctx, "ThresholdUsedFrequency");
-   stat = pd_ConsInt16(ctx, &pvalue->thresholdUsedFrequency, -115, 165);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEvent(rtxContext* ctx, IntraFreqEvent* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "IntraFreqEvent");
    stat = pd_ConsUnsigned(ctx, &ui, 0, 8);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEvent");
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "e1a");
+      case 0: /* e1a */
          pvalue->u.e1a = (Event1a*)rtxMemHeapAlloc(ctx, sizeof(Event1a));
-         if (pvalue->u.e1a == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.e1a == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1a", -1, "IntraFreqEvent");
          asn1Init_UMTS_Event1a(pvalue->u.e1a);
          stat = asn1PD_UMTS_Event1a(ctx, pvalue->u.e1a);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "e1a", -1, "IntraFreqEvent");
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "e1b");
+      case 1: /* e1b */
          pvalue->u.e1b = (Event1b*)rtxMemHeapAlloc(ctx, sizeof(Event1b));
-         if (pvalue->u.e1b == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.e1b == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1b", -1, "IntraFreqEvent");
          asn1Init_UMTS_Event1b(pvalue->u.e1b);
          stat = asn1PD_UMTS_Event1b(ctx, pvalue->u.e1b);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "e1b", -1, "IntraFreqEvent");
          break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "e1c");
+      case 2: /* e1c */
          pvalue->u.e1c = (Event1c*)rtxMemHeapAllocZ(ctx, sizeof(Event1c));
-         if (pvalue->u.e1c == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.e1c == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1c", -1, "IntraFreqEvent");
          stat = asn1PD_UMTS_Event1c(ctx, pvalue->u.e1c);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "e1c", -1, "IntraFreqEvent");
          break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "e1d");
-         rtxCtxtPopElemName(ctx);
+      case 3: /* e1d */
          break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "e1e");
+      case 4: /* e1e */
          pvalue->u.e1e = (Event1e*)rtxMemHeapAllocZ(ctx, sizeof(Event1e));
-         if (pvalue->u.e1e == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.e1e == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1e", -1, "IntraFreqEvent");
          stat = asn1PD_UMTS_Event1e(ctx, pvalue->u.e1e);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "e1e", -1, "IntraFreqEvent");
          break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "e1f");
+      case 5: /* e1f */
          pvalue->u.e1f = (Event1f*)rtxMemHeapAllocZ(ctx, sizeof(Event1f));
-         if (pvalue->u.e1f == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.e1f == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1f", -1, "IntraFreqEvent");
          stat = asn1PD_UMTS_Event1f(ctx, pvalue->u.e1f);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "e1f", -1, "IntraFreqEvent");
          break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "e1g");
-         rtxCtxtPopElemName(ctx);
+      case 6: /* e1g */
          break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "e1h");
-         rtxCtxtPushTypeName(ctx, "ThresholdUsedFrequency");
+      case 7: /* e1h */
          stat = pd_ConsInt16(ctx, &pvalue->u.e1h, -115, 165);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "ThresholdUsedFrequency", "e1h", -1, "IntraFreqEvent");
          break;
-      case 8:
-         rtxCtxtPushElemName(ctx, "e1i");
-         rtxCtxtPushTypeName(ctx, "ThresholdUsedFrequency");
+      case 8: /* e1i */
          stat = pd_ConsInt16(ctx, &pvalue->u.e1i, -115, 165);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "ThresholdUsedFrequency", "e1i", -1, "IntraFreqEvent");
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqEvent");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_Hysteresis(rtxContext* ctx, Hysteresis* pvalue)
+int asn1PD_UMTS_Hysteresis(rtxContext* RT_RESTRICT ctx, Hysteresis* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "Hysteresis");
    stat = pd_ConsUInt8(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Hysteresis");
    return 0;
 }
 
-int asn1PD_UMTS_TimeToTrigger(rtxContext* ctx, TimeToTrigger* pvalue)
+int asn1PD_UMTS_TimeToTrigger(rtxContext* RT_RESTRICT ctx, TimeToTrigger* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimeToTrigger");
    return 0;
 }
 
-int asn1PD_UMTS_MaxNumberOfReportingCellsType1(rtxContext* ctx, MaxNumberOfReportingCellsType1* pvalue)
+int asn1PD_UMTS_MaxNumberOfReportingCellsType1(rtxContext* RT_RESTRICT ctx, MaxNumberOfReportingCellsType1* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "MaxNumberOfReportingCellsType1");
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxNumberOfReportingCellsType1");
    return 0;
 }
 
-int asn1PD_UMTS_MaxNumberOfReportingCellsType3(rtxContext* ctx, MaxNumberOfReportingCellsType3* pvalue)
+int asn1PD_UMTS_MaxNumberOfReportingCellsType3(rtxContext* RT_RESTRICT ctx, MaxNumberOfReportingCellsType3* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "MaxNumberOfReportingCellsType3");
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxNumberOfReportingCellsType3");
    return 0;
 }
 
-int asn1PD_UMTS_MaxNumberOfReportingCellsType2(rtxContext* ctx, MaxNumberOfReportingCellsType2* pvalue)
+int asn1PD_UMTS_MaxNumberOfReportingCellsType2(rtxContext* RT_RESTRICT ctx, MaxNumberOfReportingCellsType2* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "MaxNumberOfReportingCellsType2");
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxNumberOfReportingCellsType2");
    return 0;
 }
 
-int asn1PD_UMTS_ReportingCellStatus(rtxContext* ctx, ReportingCellStatus* pvalue)
+int asn1PD_UMTS_ReportingCellStatus(rtxContext* RT_RESTRICT ctx, ReportingCellStatus* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "ReportingCellStatus");
    stat = pd_ConsUnsigned(ctx, &ui, 0, 13);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ReportingCellStatus");
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "withinActiveSet");
-         rtxCtxtPushTypeName(ctx, "MaxNumberOfReportingCellsType1");
+      case 0: /* withinActiveSet */
          stat = pd_ConsUnsigned(ctx, &pvalue->u.withinActiveSet, 0, 5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType1", "withinActiveSet", -1, "ReportingCellStatus");
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "withinMonitoredSetUsedFreq");
-         rtxCtxtPushTypeName(ctx, "MaxNumberOfReportingCellsType1");
+      case 1: /* withinMonitoredSetUsedFreq */
          stat = pd_ConsUnsigned(ctx, &pvalue->u.withinMonitoredSetUsedFreq, 0, 5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType1", "withinMonitoredSetUsedFreq", -1, "ReportingCellStatus");
          break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "withinActiveAndOrMonitoredUsedFreq");
-         rtxCtxtPushTypeName(ctx, "MaxNumberOfReportingCellsType1");
+      case 2: /* withinActiveAndOrMonitoredUsedFreq */
          stat = pd_ConsUnsigned(ctx, &pvalue->u.withinActiveAndOrMonitoredUsedFreq, 0, 5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType1", "withinActiveAndOrMonitoredUsedFreq", -1, "ReportingCellStatus");
          break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "withinDetectedSetUsedFreq");
-         rtxCtxtPushTypeName(ctx, "MaxNumberOfReportingCellsType1");
+      case 3: /* withinDetectedSetUsedFreq */
          stat = pd_ConsUnsigned(ctx, &pvalue->u.withinDetectedSetUsedFreq, 0, 5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType1", "withinDetectedSetUsedFreq", -1, "ReportingCellStatus");
          break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "withinMonitoredAndOrDetectedUsedFreq");
-         rtxCtxtPushTypeName(ctx, "MaxNumberOfReportingCellsType1");
+      case 4: /* withinMonitoredAndOrDetectedUsedFreq */
          stat = pd_ConsUnsigned(ctx, &pvalue->u.withinMonitoredAndOrDetectedUsedFreq, 0, 5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType1", "withinMonitoredAndOrDetectedUsedFreq", -1, "ReportingCellStatus");
          break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "allActiveplusMonitoredSet");
-         rtxCtxtPushTypeName(ctx, "MaxNumberOfReportingCellsType3");
+      case 5: /* allActiveplusMonitoredSet */
          stat = pd_ConsUnsigned(ctx, &pvalue->u.allActiveplusMonitoredSet, 0, 5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType3", "allActiveplusMonitoredSet", -1, "ReportingCellStatus");
          break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "allActivePlusDetectedSet");
-         rtxCtxtPushTypeName(ctx, "MaxNumberOfReportingCellsType3");
+      case 6: /* allActivePlusDetectedSet */
          stat = pd_ConsUnsigned(ctx, &pvalue->u.allActivePlusDetectedSet, 0, 5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType3", "allActivePlusDetectedSet", -1, "ReportingCellStatus");
          break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "allActivePlusMonitoredAndOrDetectedSet");
-         rtxCtxtPushTypeName(ctx, "MaxNumberOfReportingCellsType3");
+      case 7: /* allActivePlusMonitoredAndOrDetectedSet */
          stat = pd_ConsUnsigned(ctx, &pvalue->u.allActivePlusMonitoredAndOrDetectedSet, 0, 5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType3", "allActivePlusMonitoredAndOrDetectedSet", -1, "ReportingCellStatus");
          break;
-      case 8:
-         rtxCtxtPushElemName(ctx, "withinVirtualActSet");
-         rtxCtxtPushTypeName(ctx, "MaxNumberOfReportingCellsType1");
+      case 8: /* withinVirtualActSet */
          stat = pd_ConsUnsigned(ctx, &pvalue->u.withinVirtualActSet, 0, 5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType1", "withinVirtualActSet", -1, "ReportingCellStatus");
          break;
-      case 9:
-         rtxCtxtPushElemName(ctx, "withinMonitoredSetNonUsedFreq");
-         rtxCtxtPushTypeName(ctx, "MaxNumberOfReportingCellsType1");
+      case 9: /* withinMonitoredSetNonUsedFreq */
          stat = pd_ConsUnsigned(ctx, &pvalue->u.withinMonitoredSetNonUsedFreq, 0, 5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType1", "withinMonitoredSetNonUsedFreq", -1, "ReportingCellStatus");
          break;
-      case 10:
-         rtxCtxtPushElemName(ctx, "withinMonitoredAndOrVirtualActiveSetNonUsedFreq");
-         rtxCtxtPushTypeName(ctx, "MaxNumberOfReportingCellsType1");
+      case 10: /* withinMonitoredAndOrVirtualActiveSetNonUsedFreq */
          stat = pd_ConsUnsigned(ctx, &pvalue->u.withinMonitoredAndOrVirtualActiveSetNonUsedFreq, 0, 5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType1", "withinMonitoredAndOrVirtualActiveSetNonUsedFreq", -1, "ReportingCellStatus");
          break;
-      case 11:
-         rtxCtxtPushElemName(ctx, "allVirtualActSetplusMonitoredSetNonUsedFreq");
-         rtxCtxtPushTypeName(ctx, "MaxNumberOfReportingCellsType3");
+      case 11: /* allVirtualActSetplusMonitoredSetNonUsedFreq */
          stat = pd_ConsUnsigned(ctx, &pvalue->u.allVirtualActSetplusMonitoredSetNonUsedFreq, 0, 5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType3", "allVirtualActSetplusMonitoredSetNonUsedFreq", -1, "ReportingCellStatus");
          break;
-      case 12:
-         rtxCtxtPushElemName(ctx, "withinActSetOrVirtualActSet-InterRATcells");
-         rtxCtxtPushTypeName(ctx, "MaxNumberOfReportingCellsType2");
+      case 12: /* withinActSetOrVirtualActSet-InterRATcells */
          stat = pd_ConsUnsigned(ctx, &pvalue->u.withinActSetOrVirtualActSet_InterRATcells, 0, 11);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType2", "withinActSetOrVirtualActSet-InterRATcells", -1, "ReportingCellStatus");
          break;
-      case 13:
-         rtxCtxtPushElemName(ctx, "withinActSetAndOrMonitoredUsedFreqOrVirtualActSetAndOrMonitoredNonUsedFreq");
-         rtxCtxtPushTypeName(ctx, "MaxNumberOfReportingCellsType2");
+      case 13: /* withinActSetAndOrMonitoredUsedFreqOrVirtualActSetAndOrMonitoredNonUsedFreq */
          stat = pd_ConsUnsigned(ctx, &pvalue->u.withinActSetAndOrMonitoredUsedFreqOrVirtualActSetAndOrMonitoredNonUsedFreq, 0, 11);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType2", "withinActSetAndOrMonitoredUsedFreqOrVirtualActSetAndOrMonitoredNonUsedFreq", -1, "ReportingCellStatus");
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ReportingCellStatus");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_IntraFreqEventCriteria(rtxContext* ctx, IntraFreqEventCriteria* pvalue)
+int asn1PD_UMTS_IntraFreqEventCriteria(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteria* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFreqEventCriteria");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEventCriteria");
    /* event */
-   rtxCtxtPushElemName(ctx, "event");
    stat = asn1PD_UMTS_IntraFreqEvent(ctx, &pvalue->event);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "event", -1, "IntraFreqEventCriteria");
    /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "Hysteresis");
    stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria");
    /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
    stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria");
    /* reportingCellStatus */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "IntraFreqEventCriteria");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_IntraFreqEventCriteriaList(rtxContext* ctx, IntraFreqEventCriteriaList* pvalue)
+int asn1PD_UMTS_IntraFreqEventCriteriaList(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteriaList* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "IntraFreqEventCriteriaList");
    RT_SET_SIZE(ctx, 1, 8);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEventCriteriaList");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       IntraFreqEventCriteria* elem;
-      rtxCtxtPushArrayElemName(ctx, "IntraFreqEventCriteria", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(IntraFreqEventCriteria));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "IntraFreqEventCriteria", (int32_t)i, "IntraFreqEventCriteriaList");
       elem = (IntraFreqEventCriteria*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_IntraFreqEventCriteria(elem);
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_IntraFreqEventCriteria(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "IntraFreqEventCriteria", (int32_t)i, "IntraFreqEventCriteriaList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_IntraFreqReportingCriteria(rtxContext* ctx, IntraFreqReportingCriteria* pvalue)
+int asn1PD_UMTS_IntraFreqReportingCriteria(rtxContext* RT_RESTRICT ctx, IntraFreqReportingCriteria* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFreqReportingCriteria");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqReportingCriteria");
    /* eventCriteriaList */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "eventCriteriaList");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_IntraFreqEventCriteriaList(ctx, &pvalue->eventCriteriaList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "eventCriteriaList", -1, "IntraFreqReportingCriteria");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_ReportingIntervalLong(rtxContext* ctx, ReportingIntervalLong* pvalue)
+int asn1PD_UMTS_ReportingIntervalLong(rtxContext* RT_RESTRICT ctx, ReportingIntervalLong* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "ReportingIntervalLong");
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ReportingIntervalLong");
    return 0;
 }
 
-int asn1PD_UMTS_PeriodicalReportingCriteria(rtxContext* ctx, PeriodicalReportingCriteria* pvalue)
+int asn1PD_UMTS_PeriodicalReportingCriteria(rtxContext* RT_RESTRICT ctx, PeriodicalReportingCriteria* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PeriodicalReportingCriteria");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PeriodicalReportingCriteria");
    /* reportingAmount */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "reportingAmount");
-      rtxCtxtPushTypeName(ctx, "ReportingAmount");
       stat = pd_ConsUnsigned(ctx, &pvalue->reportingAmount, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "ReportingAmount", "reportingAmount", -1, "PeriodicalReportingCriteria");
    }
    else {
       pvalue->reportingAmount = 7;
    }
    /* reportingInterval */
-   rtxCtxtPushElemName(ctx, "reportingInterval");
-   rtxCtxtPushTypeName(ctx, "ReportingIntervalLong");
    stat = pd_ConsUnsigned(ctx, &pvalue->reportingInterval, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "ReportingIntervalLong", "reportingInterval", -1, "PeriodicalReportingCriteria");
    return 0;
 }
 
-int asn1PD_UMTS_CellDCH_ReportCriteria(rtxContext* ctx, CellDCH_ReportCriteria* pvalue)
+int asn1PD_UMTS_CellDCH_ReportCriteria(rtxContext* RT_RESTRICT ctx, CellDCH_ReportCriteria* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "CellDCH-ReportCriteria");
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellDCH-ReportCriteria");
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "intraFreqReportingCriteria");
+      case 0: /* intraFreqReportingCriteria */
          pvalue->u.intraFreqReportingCriteria = (IntraFreqReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingCriteria));
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "intraFreqReportingCriteria", -1, "CellDCH-ReportCriteria");
          asn1Init_UMTS_IntraFreqReportingCriteria(pvalue->u.intraFreqReportingCriteria);
          stat = asn1PD_UMTS_IntraFreqReportingCriteria(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "CellDCH-ReportCriteria");
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
+      case 1: /* periodicalReportingCriteria */
          pvalue->u.periodicalReportingCriteria = (PeriodicalReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalReportingCriteria));
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "CellDCH-ReportCriteria");
          asn1Init_UMTS_PeriodicalReportingCriteria(pvalue->u.periodicalReportingCriteria);
          stat = asn1PD_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "CellDCH-ReportCriteria");
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CellDCH-ReportCriteria");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_ReportingInfoForCellDCH(rtxContext* ctx, ReportingInfoForCellDCH* pvalue)
+int asn1PD_UMTS_ReportingInfoForCellDCH(rtxContext* RT_RESTRICT ctx, ReportingInfoForCellDCH* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ReportingInfoForCellDCH");
    /* intraFreqReportingQuantity */
-   rtxCtxtPushElemName(ctx, "intraFreqReportingQuantity");
    stat = asn1PD_UMTS_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantity", -1, "ReportingInfoForCellDCH");
    /* measurementReportingMode */
-   rtxCtxtPushElemName(ctx, "measurementReportingMode");
    stat = asn1PD_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "ReportingInfoForCellDCH");
    /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
    stat = asn1PD_UMTS_CellDCH_ReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "ReportingInfoForCellDCH");
    return 0;
 }
 
-int asn1PD_UMTS_IntraFreqMeasurementSysInfo_RSCP(rtxContext* ctx, IntraFreqMeasurementSysInfo_RSCP* pvalue)
+int asn1PD_UMTS_IntraFreqMeasurementSysInfo_RSCP(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_RSCP* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFreqMeasurementSysInfo-RSCP");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-RSCP");
    /* intraFreqMeasurementID */
    if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasurementID");
-      rtxCtxtPushTypeName(ctx, "MeasurementIdentity");
       stat = pd_ConsUInt8(ctx, &pvalue->intraFreqMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-RSCP");
    }
    else {
       pvalue->intraFreqMeasurementID = 1;
    }
    /* intraFreqCellInfoSI-List */
    if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellInfoSI-List");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_IntraFreqCellInfoSI_List_RSCP(ctx, &pvalue->intraFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-RSCP");
    }
    /* intraFreqMeasQuantity */
    if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasQuantity");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-RSCP");
    }
    /* intraFreqReportingQuantityForRACH */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "intraFreqReportingQuantityForRACH");
       pvalue->m |= 0x4u;
       stat = asn1PD_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-RSCP");
    }
    /* maxReportedCellsOnRACH */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "maxReportedCellsOnRACH");
       pvalue->m |= 0x8u;
-      rtxCtxtPushTypeName(ctx, "MaxReportedCellsOnRACH");
       stat = pd_ConsUnsigned(ctx, &pvalue->maxReportedCellsOnRACH, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-RSCP");
    }
    /* reportingInfoForCellDCH */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "reportingInfoForCellDCH");
       pvalue->m |= 0x10u;
       stat = asn1PD_UMTS_ReportingInfoForCellDCH(ctx, &pvalue->reportingInfoForCellDCH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-RSCP");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_InterFreqCellID(rtxContext* ctx, InterFreqCellID* pvalue)
+int asn1PD_UMTS_InterFreqCellID(rtxContext* RT_RESTRICT ctx, InterFreqCellID* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "InterFreqCellID");
    stat = pd_ConsUInt8(ctx, pvalue, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellID");
    return 0;
 }
 
-int asn1PD_UMTS_RemovedInterFreqCellList_removeSomeInterFreqCells(rtxContext* ctx, RemovedInterFreqCellList_removeSomeInterFreqCells* pvalue)
+int asn1PD_UMTS_RemovedInterFreqCellList_removeSomeInterFreqCells(rtxContext* RT_RESTRICT ctx, RemovedInterFreqCellList_removeSomeInterFreqCells* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t i;
    {
       uint32_t raw;
       stat = rtxDecBits(ctx, &raw, 5);
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
       pvalue->n = raw + 1;
       if (raw > 31) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "removeSomeInterFreqCells");
          rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
       }
    }
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "InterFreqCellID", i);
       pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "InterFreqCellID");
       stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 31);
       if (stat != 0) {
          pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
+         RT_FAIL(ctx, stat, "InterFreqCellID", "InterFreqCellID", (int32_t)i, 0);
       }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RemovedInterFreqCellList(rtxContext* ctx, RemovedInterFreqCellList* pvalue)
+int asn1PD_UMTS_RemovedInterFreqCellList(rtxContext* RT_RESTRICT ctx, RemovedInterFreqCellList* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "RemovedInterFreqCellList");
    stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RemovedInterFreqCellList");
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "removeAllInterFreqCells");
-         rtxCtxtPopElemName(ctx);
+      case 0: /* removeAllInterFreqCells */
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "removeSomeInterFreqCells");
+      case 1: /* removeSomeInterFreqCells */
          pvalue->u.removeSomeInterFreqCells = (RemovedInterFreqCellList_removeSomeInterFreqCells*)rtxMemHeapAlloc(ctx, sizeof(RemovedInterFreqCellList_removeSomeInterFreqCells));
-         if (pvalue->u.removeSomeInterFreqCells == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.removeSomeInterFreqCells == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "removeSomeInterFreqCells", -1, "RemovedInterFreqCellList");
          asn1Init_UMTS_RemovedInterFreqCellList_removeSomeInterFreqCells(pvalue->u.removeSomeInterFreqCells);
          stat = asn1PD_UMTS_RemovedInterFreqCellList_removeSomeInterFreqCells(ctx, pvalue->u.removeSomeInterFreqCells);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "removeSomeInterFreqCells", -1, "RemovedInterFreqCellList");
          break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "removeNoInterFreqCells");
-         rtxCtxtPopElemName(ctx);
+      case 2: /* removeNoInterFreqCells */
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RemovedInterFreqCellList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_FrequencyInfoFDD(rtxContext* ctx, FrequencyInfoFDD* pvalue)
+int asn1PD_UMTS_FrequencyInfoFDD(rtxContext* RT_RESTRICT ctx, FrequencyInfoFDD* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "FrequencyInfoFDD");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "FrequencyInfoFDD");
    /* uarfcn-UL */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "uarfcn-UL");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "UARFCN");
       stat = pd_ConsUInt16(ctx, &pvalue->uarfcn_UL, 0, 16383);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "UARFCN", "uarfcn-UL", -1, "FrequencyInfoFDD");
    }
    /* uarfcn-DL */
-   rtxCtxtPushElemName(ctx, "uarfcn-DL");
-   rtxCtxtPushTypeName(ctx, "UARFCN");
    stat = pd_ConsUInt16(ctx, &pvalue->uarfcn_DL, 0, 16383);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "UARFCN", "uarfcn-DL", -1, "FrequencyInfoFDD");
    return 0;
 }
 
-int asn1PD_UMTS_FrequencyInfo_modeSpecificInfo(rtxContext* ctx, FrequencyInfo_modeSpecificInfo* pvalue)
+int asn1PD_UMTS_FrequencyInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, FrequencyInfo_modeSpecificInfo* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
+      case 0: /* fdd */
          pvalue->u.fdd = (FrequencyInfoFDD*)rtxMemHeapAlloc(ctx, sizeof(FrequencyInfoFDD));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
          asn1Init_UMTS_FrequencyInfoFDD(pvalue->u.fdd);
          stat = asn1PD_UMTS_FrequencyInfoFDD(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
+      case 1: /* tdd */
          pvalue->u.tdd = (FrequencyInfoTDD*)rtxMemHeapAllocZ(ctx, sizeof(FrequencyInfoTDD));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
          stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_FrequencyInfo(rtxContext* ctx, FrequencyInfo* pvalue)
+int asn1PD_UMTS_FrequencyInfo(rtxContext* RT_RESTRICT ctx, FrequencyInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "FrequencyInfo");
    /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
    stat = asn1PD_UMTS_FrequencyInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "FrequencyInfo");
    return 0;
 }
 
-int asn1PD_UMTS_NewInterFreqCellSI_RSCP(rtxContext* ctx, NewInterFreqCellSI_RSCP* pvalue)
+int asn1PD_UMTS_NewInterFreqCellSI_RSCP(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_RSCP* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellSI-RSCP");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-RSCP");
    /* interFreqCellID */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "interFreqCellID");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "InterFreqCellID");
       stat = pd_ConsUInt8(ctx, &pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-RSCP");
    }
    /* frequencyInfo */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-RSCP");
    }
    /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
    stat = asn1PD_UMTS_CellInfoSI_RSCP(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-RSCP");
    return 0;
 }
 
-int asn1PD_UMTS_NewInterFreqCellSI_List_RSCP(rtxContext* ctx, NewInterFreqCellSI_List_RSCP* pvalue)
+int asn1PD_UMTS_NewInterFreqCellSI_List_RSCP(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_RSCP* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellSI-List-RSCP");
    RT_SET_SIZE(ctx, 1, 32);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-List-RSCP");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       NewInterFreqCellSI_RSCP* elem;
-      rtxCtxtPushArrayElemName(ctx, "NewInterFreqCellSI-RSCP", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCellSI_RSCP));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewInterFreqCellSI-RSCP", (int32_t)i, "NewInterFreqCellSI-List-RSCP");
       elem = (NewInterFreqCellSI_RSCP*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_NewInterFreqCellSI_RSCP(elem);
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_NewInterFreqCellSI_RSCP(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-RSCP", (int32_t)i, "NewInterFreqCellSI-List-RSCP");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_InterFreqCellInfoSI_List_RSCP(rtxContext* ctx, InterFreqCellInfoSI_List_RSCP* pvalue)
+int asn1PD_UMTS_InterFreqCellInfoSI_List_RSCP(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoSI_List_RSCP* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterFreqCellInfoSI-List-RSCP");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoSI-List-RSCP");
    /* removedInterFreqCellList */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "removedInterFreqCellList");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-RSCP");
    }
    /* newInterFreqCellList */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_NewInterFreqCellSI_List_RSCP(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-RSCP");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_InterFreqMeasurementSysInfo_RSCP(rtxContext* ctx, InterFreqMeasurementSysInfo_RSCP* pvalue)
+int asn1PD_UMTS_InterFreqMeasurementSysInfo_RSCP(rtxContext* RT_RESTRICT ctx, InterFreqMeasurementSysInfo_RSCP* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterFreqMeasurementSysInfo-RSCP");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-RSCP");
    /* interFreqCellInfoSI-List */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interFreqCellInfoSI-List");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_InterFreqCellInfoSI_List_RSCP(ctx, &pvalue->interFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-RSCP");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* ctx, MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* pvalue)
+int asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* intraFreqMeasurementSysInfo */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasurementSysInfo");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_IntraFreqMeasurementSysInfo_RSCP(ctx, &pvalue->intraFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
    }
    /* interFreqMeasurementSysInfo */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interFreqMeasurementSysInfo");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_InterFreqMeasurementSysInfo_RSCP(ctx, &pvalue->interFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellInfoSI_ECN0_modeSpecificInfo_fdd(rtxContext* ctx, CellInfoSI_ECN0_modeSpecificInfo_fdd* pvalue)
+int asn1PD_UMTS_CellInfoSI_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* primaryCPICH-Info */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
    }
    /* primaryCPICH-TX-Power */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-TX-Power");
       pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "PrimaryCPICH-TX-Power");
       stat = pd_ConsInt8(ctx, &pvalue->primaryCPICH_TX_Power, -10, 50);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
    }
    /* readSFN-Indicator */
-   rtxCtxtPushElemName(ctx, "readSFN-Indicator");
    stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
    /* tx-DiversityIndicator */
-   rtxCtxtPushElemName(ctx, "tx-DiversityIndicator");
    stat = rtxDecBitInline(ctx, &pvalue->tx_DiversityIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "tx-DiversityIndicator", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_CellInfoSI_ECN0_modeSpecificInfo_tdd(rtxContext* ctx, CellInfoSI_ECN0_modeSpecificInfo_tdd* pvalue)
+int asn1PD_UMTS_CellInfoSI_ECN0_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_ECN0_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* primaryCCPCH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-Info");
    stat = asn1PD_UMTS_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, 0);
    /* primaryCCPCH-TX-Power */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
       stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
    }
    /* timeslotInfoList */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "timeslotInfoList");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_TimeslotInfoList(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, 0);
    }
    /* readSFN-Indicator */
-   rtxCtxtPushElemName(ctx, "readSFN-Indicator");
    stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_CellInfoSI_ECN0_modeSpecificInfo(rtxContext* ctx, CellInfoSI_ECN0_modeSpecificInfo* pvalue)
+int asn1PD_UMTS_CellInfoSI_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellInfoSI_ECN0_modeSpecificInfo* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
+      case 0: /* fdd */
          pvalue->u.fdd = (CellInfoSI_ECN0_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfoSI_ECN0_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
          asn1Init_UMTS_CellInfoSI_ECN0_modeSpecificInfo_fdd(pvalue->u.fdd);
          stat = asn1PD_UMTS_CellInfoSI_ECN0_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
+      case 1: /* tdd */
          pvalue->u.tdd = (CellInfoSI_ECN0_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfoSI_ECN0_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
          asn1Init_UMTS_CellInfoSI_ECN0_modeSpecificInfo_tdd(pvalue->u.tdd);
          stat = asn1PD_UMTS_CellInfoSI_ECN0_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd(rtxContext* ctx, CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd* pvalue)
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* q-QualMin */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "q-QualMin");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "Q-QualMin");
       stat = pd_ConsInt8(ctx, &pvalue->q_QualMin, -24, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "Q-QualMin", "q-QualMin", -1, 0);
    }
    /* q-RxlevMin */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "q-RxlevMin");
       pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
       stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd(rtxContext* ctx, CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd* pvalue)
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* q-RxlevMin */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "q-RxlevMin");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
       stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm(rtxContext* ctx, CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm* pvalue)
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* q-RxlevMin */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "q-RxlevMin");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
       stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo(rtxContext* ctx, CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo* pvalue)
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
+      case 0: /* fdd */
          pvalue->u.fdd = (CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
          asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd(pvalue->u.fdd);
          stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
+      case 1: /* tdd */
          pvalue->u.tdd = (CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
          asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd(pvalue->u.tdd);
          stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "gsm");
+      case 2: /* gsm */
          pvalue->u.gsm = (CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm));
-         if (pvalue->u.gsm == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm", -1, 0);
          asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm(pvalue->u.gsm);
          stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_ECN0(rtxContext* ctx, CellSelectReselectInfoSIB_11_12_ECN0* pvalue)
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_ECN0(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_ECN0* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellSelectReselectInfoSIB-11-12-ECN0");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellSelectReselectInfoSIB-11-12-ECN0");
    /* q-Offset1S-N */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "q-Offset1S-N");
-      rtxCtxtPushTypeName(ctx, "Q-OffsetS-N");
       stat = pd_ConsInt8(ctx, &pvalue->q_Offset1S_N, -50, 50);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "Q-OffsetS-N", "q-Offset1S-N", -1, "CellSelectReselectInfoSIB-11-12-ECN0");
    }
    else {
       pvalue->q_Offset1S_N = 0;
    }
    /* q-Offset2S-N */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "q-Offset2S-N");
-      rtxCtxtPushTypeName(ctx, "Q-OffsetS-N");
       stat = pd_ConsInt8(ctx, &pvalue->q_Offset2S_N, -50, 50);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "Q-OffsetS-N", "q-Offset2S-N", -1, "CellSelectReselectInfoSIB-11-12-ECN0");
    }
    else {
       pvalue->q_Offset2S_N = 0;
    }
    /* maxAllowedUL-TX-Power */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
       stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12-ECN0");
    }
    /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
    stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellSelectReselectInfoSIB-11-12-ECN0");
    return 0;
 }
 
-int asn1PD_UMTS_CellInfoSI_ECN0(rtxContext* ctx, CellInfoSI_ECN0* pvalue)
+int asn1PD_UMTS_CellInfoSI_ECN0(rtxContext* RT_RESTRICT ctx, CellInfoSI_ECN0* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellInfoSI-ECN0");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfoSI-ECN0");
    /* cellIndividualOffset */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "cellIndividualOffset");
-      rtxCtxtPushTypeName(ctx, "CellIndividualOffset");
       stat = pd_ConsInt8(ctx, &pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-ECN0");
    }
    else {
       pvalue->cellIndividualOffset = 0;
    }
    /* referenceTimeDifferenceToCell */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "referenceTimeDifferenceToCell");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-ECN0");
    }
    /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
    stat = asn1PD_UMTS_CellInfoSI_ECN0_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellInfoSI-ECN0");
    /* cellSelectionReselectionInfo */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cellSelectionReselectionInfo");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_ECN0(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-ECN0");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_NewIntraFreqCellSI_ECN0(rtxContext* ctx, NewIntraFreqCellSI_ECN0* pvalue)
+int asn1PD_UMTS_NewIntraFreqCellSI_ECN0(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_ECN0* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellSI-ECN0");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-ECN0");
    /* intraFreqCellID */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellID");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "IntraFreqCellID");
       stat = pd_ConsUInt8(ctx, &pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-ECN0");
    }
    /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
    stat = asn1PD_UMTS_CellInfoSI_ECN0(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-ECN0");
    return 0;
 }
 
-int asn1PD_UMTS_NewIntraFreqCellSI_List_ECN0(rtxContext* ctx, NewIntraFreqCellSI_List_ECN0* pvalue)
+int asn1PD_UMTS_NewIntraFreqCellSI_List_ECN0(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_ECN0* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellSI-List-ECN0");
    RT_SET_SIZE(ctx, 1, 32);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-List-ECN0");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       NewIntraFreqCellSI_ECN0* elem;
-      rtxCtxtPushArrayElemName(ctx, "NewIntraFreqCellSI-ECN0", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCellSI_ECN0));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewIntraFreqCellSI-ECN0", (int32_t)i, "NewIntraFreqCellSI-List-ECN0");
       elem = (NewIntraFreqCellSI_ECN0*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_NewIntraFreqCellSI_ECN0(elem);
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_NewIntraFreqCellSI_ECN0(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-ECN0", (int32_t)i, "NewIntraFreqCellSI-List-ECN0");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_IntraFreqCellInfoSI_List_ECN0(rtxContext* ctx, IntraFreqCellInfoSI_List_ECN0* pvalue)
+int asn1PD_UMTS_IntraFreqCellInfoSI_List_ECN0(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_ECN0* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFreqCellInfoSI-List-ECN0");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-ECN0");
    /* removedIntraFreqCellList */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "removedIntraFreqCellList");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-ECN0");
    }
    /* newIntraFreqCellList */
-   rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
    stat = asn1PD_UMTS_NewIntraFreqCellSI_List_ECN0(ctx, &pvalue->newIntraFreqCellList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-ECN0");
    return 0;
 }
 
-int asn1PD_UMTS_IntraFreqMeasurementSysInfo_ECN0(rtxContext* ctx, IntraFreqMeasurementSysInfo_ECN0* pvalue)
+int asn1PD_UMTS_IntraFreqMeasurementSysInfo_ECN0(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_ECN0* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFreqMeasurementSysInfo-ECN0");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-ECN0");
    /* intraFreqMeasurementID */
    if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasurementID");
-      rtxCtxtPushTypeName(ctx, "MeasurementIdentity");
       stat = pd_ConsUInt8(ctx, &pvalue->intraFreqMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-ECN0");
    }
    else {
       pvalue->intraFreqMeasurementID = 1;
    }
    /* intraFreqCellInfoSI-List */
    if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellInfoSI-List");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_IntraFreqCellInfoSI_List_ECN0(ctx, &pvalue->intraFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-ECN0");
    }
    /* intraFreqMeasQuantity */
    if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasQuantity");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-ECN0");
    }
    /* intraFreqReportingQuantityForRACH */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "intraFreqReportingQuantityForRACH");
       pvalue->m |= 0x4u;
       stat = asn1PD_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-ECN0");
    }
    /* maxReportedCellsOnRACH */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "maxReportedCellsOnRACH");
       pvalue->m |= 0x8u;
-      rtxCtxtPushTypeName(ctx, "MaxReportedCellsOnRACH");
       stat = pd_ConsUnsigned(ctx, &pvalue->maxReportedCellsOnRACH, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-ECN0");
    }
    /* reportingInfoForCellDCH */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "reportingInfoForCellDCH");
       pvalue->m |= 0x10u;
       stat = asn1PD_UMTS_ReportingInfoForCellDCH(ctx, &pvalue->reportingInfoForCellDCH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-ECN0");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_NewInterFreqCellSI_ECN0(rtxContext* ctx, NewInterFreqCellSI_ECN0* pvalue)
+int asn1PD_UMTS_NewInterFreqCellSI_ECN0(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_ECN0* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellSI-ECN0");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-ECN0");
    /* interFreqCellID */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "interFreqCellID");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "InterFreqCellID");
       stat = pd_ConsUInt8(ctx, &pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-ECN0");
    }
    /* frequencyInfo */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-ECN0");
    }
    /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
    stat = asn1PD_UMTS_CellInfoSI_ECN0(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-ECN0");
    return 0;
 }
 
-int asn1PD_UMTS_NewInterFreqCellSI_List_ECN0(rtxContext* ctx, NewInterFreqCellSI_List_ECN0* pvalue)
+int asn1PD_UMTS_NewInterFreqCellSI_List_ECN0(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_ECN0* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellSI-List-ECN0");
    RT_SET_SIZE(ctx, 1, 32);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-List-ECN0");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       NewInterFreqCellSI_ECN0* elem;
-      rtxCtxtPushArrayElemName(ctx, "NewInterFreqCellSI-ECN0", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCellSI_ECN0));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewInterFreqCellSI-ECN0", (int32_t)i, "NewInterFreqCellSI-List-ECN0");
       elem = (NewInterFreqCellSI_ECN0*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_NewInterFreqCellSI_ECN0(elem);
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_NewInterFreqCellSI_ECN0(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-ECN0", (int32_t)i, "NewInterFreqCellSI-List-ECN0");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_InterFreqCellInfoSI_List_ECN0(rtxContext* ctx, InterFreqCellInfoSI_List_ECN0* pvalue)
+int asn1PD_UMTS_InterFreqCellInfoSI_List_ECN0(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoSI_List_ECN0* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterFreqCellInfoSI-List-ECN0");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoSI-List-ECN0");
    /* removedInterFreqCellList */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "removedInterFreqCellList");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-ECN0");
    }
    /* newInterFreqCellList */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_NewInterFreqCellSI_List_ECN0(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-ECN0");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_InterFreqMeasurementSysInfo_ECN0(rtxContext* ctx, InterFreqMeasurementSysInfo_ECN0* pvalue)
+int asn1PD_UMTS_InterFreqMeasurementSysInfo_ECN0(rtxContext* RT_RESTRICT ctx, InterFreqMeasurementSysInfo_ECN0* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterFreqMeasurementSysInfo-ECN0");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-ECN0");
    /* interFreqCellInfoSI-List */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interFreqCellInfoSI-List");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_InterFreqCellInfoSI_List_ECN0(ctx, &pvalue->interFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-ECN0");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* ctx, MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* pvalue)
+int asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* intraFreqMeasurementSysInfo */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasurementSysInfo");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_IntraFreqMeasurementSysInfo_ECN0(ctx, &pvalue->intraFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
    }
    /* interFreqMeasurementSysInfo */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interFreqMeasurementSysInfo");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_InterFreqMeasurementSysInfo_ECN0(ctx, &pvalue->interFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* ctx, MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* pvalue)
+int asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "cpich-RSCP");
+      case 0: /* cpich-RSCP */
          pvalue->u.cpich_RSCP = (MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP));
-         if (pvalue->u.cpich_RSCP == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.cpich_RSCP == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cpich-RSCP", -1, 0);
          asn1Init_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(pvalue->u.cpich_RSCP);
          stat = asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "cpich-Ec-N0");
+      case 1: /* cpich-Ec-N0 */
          pvalue->u.cpich_Ec_N0 = (MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0));
-         if (pvalue->u.cpich_Ec_N0 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cpich-Ec-N0", -1, 0);
          asn1Init_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(pvalue->u.cpich_Ec_N0);
          stat = asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_InterRATCellID(rtxContext* ctx, InterRATCellID* pvalue)
+int asn1PD_UMTS_InterRATCellID(rtxContext* RT_RESTRICT ctx, InterRATCellID* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "InterRATCellID");
    stat = pd_ConsUInt8(ctx, pvalue, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATCellID");
    return 0;
 }
 
-int asn1PD_UMTS_RemovedInterRATCellList_removeSomeInterRATCells(rtxContext* ctx, RemovedInterRATCellList_removeSomeInterRATCells* pvalue)
+int asn1PD_UMTS_RemovedInterRATCellList_removeSomeInterRATCells(rtxContext* RT_RESTRICT ctx, RemovedInterRATCellList_removeSomeInterRATCells* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t i;
    {
       uint32_t raw;
       stat = rtxDecBits(ctx, &raw, 5);
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
       pvalue->n = raw + 1;
       if (raw > 31) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "removeSomeInterRATCells");
          rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
       }
    }
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "InterRATCellID", i);
       pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "InterRATCellID");
       stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 31);
       if (stat != 0) {
          pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
+         RT_FAIL(ctx, stat, "InterRATCellID", "InterRATCellID", (int32_t)i, 0);
       }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RemovedInterRATCellList(rtxContext* ctx, RemovedInterRATCellList* pvalue)
+int asn1PD_UMTS_RemovedInterRATCellList(rtxContext* RT_RESTRICT ctx, RemovedInterRATCellList* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "RemovedInterRATCellList");
    stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RemovedInterRATCellList");
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "removeAllInterRATCells");
-         rtxCtxtPopElemName(ctx);
+      case 0: /* removeAllInterRATCells */
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "removeSomeInterRATCells");
+      case 1: /* removeSomeInterRATCells */
          pvalue->u.removeSomeInterRATCells = (RemovedInterRATCellList_removeSomeInterRATCells*)rtxMemHeapAlloc(ctx, sizeof(RemovedInterRATCellList_removeSomeInterRATCells));
-         if (pvalue->u.removeSomeInterRATCells == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.removeSomeInterRATCells == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "removeSomeInterRATCells", -1, "RemovedInterRATCellList");
          asn1Init_UMTS_RemovedInterRATCellList_removeSomeInterRATCells(pvalue->u.removeSomeInterRATCells);
          stat = asn1PD_UMTS_RemovedInterRATCellList_removeSomeInterRATCells(ctx, pvalue->u.removeSomeInterRATCells);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "removeSomeInterRATCells", -1, "RemovedInterRATCellList");
          break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "removeNoInterRATCells");
-         rtxCtxtPopElemName(ctx);
+      case 2: /* removeNoInterRATCells */
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RemovedInterRATCellList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_TemporaryOffset1(rtxContext* ctx, TemporaryOffset1* pvalue)
+int asn1PD_UMTS_TemporaryOffset1(rtxContext* RT_RESTRICT ctx, TemporaryOffset1* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "TemporaryOffset1");
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TemporaryOffset1");
    return 0;
 }
 
-int asn1PD_UMTS_PenaltyTime_RSCP(rtxContext* ctx, PenaltyTime_RSCP* pvalue)
+int asn1PD_UMTS_PenaltyTime_RSCP(rtxContext* RT_RESTRICT ctx, PenaltyTime_RSCP* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "PenaltyTime-RSCP");
    stat = pd_ConsUnsigned(ctx, &ui, 0, 6);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PenaltyTime-RSCP");
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "notUsed");
-         rtxCtxtPopElemName(ctx);
+      case 0: /* notUsed */
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "pt10");
-         rtxCtxtPushTypeName(ctx, "TemporaryOffset1");
+      case 1: /* pt10 */
          stat = pd_ConsUnsigned(ctx, &pvalue->u.pt10, 0, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "TemporaryOffset1", "pt10", -1, "PenaltyTime-RSCP");
          break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "pt20");
-         rtxCtxtPushTypeName(ctx, "TemporaryOffset1");
+      case 2: /* pt20 */
          stat = pd_ConsUnsigned(ctx, &pvalue->u.pt20, 0, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "TemporaryOffset1", "pt20", -1, "PenaltyTime-RSCP");
          break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "pt30");
-         rtxCtxtPushTypeName(ctx, "TemporaryOffset1");
+      case 3: /* pt30 */
          stat = pd_ConsUnsigned(ctx, &pvalue->u.pt30, 0, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "TemporaryOffset1", "pt30", -1, "PenaltyTime-RSCP");
          break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "pt40");
-         rtxCtxtPushTypeName(ctx, "TemporaryOffset1");
+      case 4: /* pt40 */
          stat = pd_ConsUnsigned(ctx, &pvalue->u.pt40, 0, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "TemporaryOffset1", "pt40", -1, "PenaltyTime-RSCP");
          break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "pt50");
-         rtxCtxtPushTypeName(ctx, "TemporaryOffset1");
+      case 5: /* pt50 */
          stat = pd_ConsUnsigned(ctx, &pvalue->u.pt50, 0, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "TemporaryOffset1", "pt50", -1, "PenaltyTime-RSCP");
          break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "pt60");
-         rtxCtxtPushTypeName(ctx, "TemporaryOffset1");
+      case 6: /* pt60 */
          stat = pd_ConsUnsigned(ctx, &pvalue->u.pt60, 0, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "TemporaryOffset1", "pt60", -1, "PenaltyTime-RSCP");
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PenaltyTime-RSCP");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_HCS_CellReselectInformation_RSCP(rtxContext* ctx, HCS_CellReselectInformation_RSCP* pvalue)
+int asn1PD_UMTS_HCS_CellReselectInformation_RSCP(rtxContext* RT_RESTRICT ctx, HCS_CellReselectInformation_RSCP* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HCS-CellReselectInformation-RSCP");
    /* penaltyTime */
-   rtxCtxtPushElemName(ctx, "penaltyTime");
    stat = asn1PD_UMTS_PenaltyTime_RSCP(ctx, &pvalue->penaltyTime);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "penaltyTime", -1, "HCS-CellReselectInformation-RSCP");
    return 0;
 }
 
-int asn1PD_UMTS_HCS_NeighbouringCellInformation_RSCP(rtxContext* ctx, HCS_NeighbouringCellInformation_RSCP* pvalue)
+int asn1PD_UMTS_HCS_NeighbouringCellInformation_RSCP(rtxContext* RT_RESTRICT ctx, HCS_NeighbouringCellInformation_RSCP* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "HCS-NeighbouringCellInformation-RSCP");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HCS-NeighbouringCellInformation-RSCP");
    /* hcs-PRIO */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "hcs-PRIO");
-      rtxCtxtPushTypeName(ctx, "HCS-PRIO");
       stat = pd_ConsUInt8(ctx, &pvalue->hcs_PRIO, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "HCS-PRIO", "hcs-PRIO", -1, "HCS-NeighbouringCellInformation-RSCP");
    }
    else {
       pvalue->hcs_PRIO = 0;
    }
    /* q-HCS */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "q-HCS");
-      rtxCtxtPushTypeName(ctx, "Q-HCS");
       stat = pd_ConsUInt8(ctx, &pvalue->q_HCS, 0, 99);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "Q-HCS", "q-HCS", -1, "HCS-NeighbouringCellInformation-RSCP");
    }
    else {
       pvalue->q_HCS = 0;
    }
    /* hcs-CellReselectInformation */
-   rtxCtxtPushElemName(ctx, "hcs-CellReselectInformation");
    stat = asn1PD_UMTS_HCS_CellReselectInformation_RSCP(ctx, &pvalue->hcs_CellReselectInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "hcs-CellReselectInformation", -1, "HCS-NeighbouringCellInformation-RSCP");
    return 0;
 }
 
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd(rtxContext* ctx, CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd* pvalue)
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* q-QualMin */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "q-QualMin");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "Q-QualMin");
       stat = pd_ConsInt8(ctx, &pvalue->q_QualMin, -24, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "Q-QualMin", "q-QualMin", -1, 0);
    }
    /* q-RxlevMin */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "q-RxlevMin");
       pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
       stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd(rtxContext* ctx, CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd* pvalue)
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* q-RxlevMin */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "q-RxlevMin");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
       stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm(rtxContext* ctx, CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm* pvalue)
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* q-RxlevMin */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "q-RxlevMin");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
       stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo(rtxContext* ctx, CellSelectReselectInfoSIB_11_12_modeSpecificInfo* pvalue)
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_modeSpecificInfo* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
+      case 0: /* fdd */
          pvalue->u.fdd = (CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
          asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd(pvalue->u.fdd);
          stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
+      case 1: /* tdd */
          pvalue->u.tdd = (CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
          asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd(pvalue->u.tdd);
          stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "gsm");
+      case 2: /* gsm */
          pvalue->u.gsm = (CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm));
-         if (pvalue->u.gsm == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm", -1, 0);
          asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm(pvalue->u.gsm);
          stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12(rtxContext* ctx, CellSelectReselectInfoSIB_11_12* pvalue)
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellSelectReselectInfoSIB-11-12");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellSelectReselectInfoSIB-11-12");
    /* q-Offset1S-N */
    if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "q-Offset1S-N");
-      rtxCtxtPushTypeName(ctx, "Q-OffsetS-N");
       stat = pd_ConsInt8(ctx, &pvalue->q_Offset1S_N, -50, 50);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "Q-OffsetS-N", "q-Offset1S-N", -1, "CellSelectReselectInfoSIB-11-12");
    }
    else {
       pvalue->q_Offset1S_N = 0;
    }
    /* q-Offset2S-N */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "q-Offset2S-N");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "Q-OffsetS-N");
       stat = pd_ConsInt8(ctx, &pvalue->q_Offset2S_N, -50, 50);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "Q-OffsetS-N", "q-Offset2S-N", -1, "CellSelectReselectInfoSIB-11-12");
    }
    /* maxAllowedUL-TX-Power */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
       pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
       stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12");
    }
    /* hcs-NeighbouringCellInformation-RSCP */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "hcs-NeighbouringCellInformation-RSCP");
       pvalue->m |= 0x4u;
       stat = asn1PD_UMTS_HCS_NeighbouringCellInformation_RSCP(ctx, &pvalue->hcs_NeighbouringCellInformation_RSCP);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "hcs-NeighbouringCellInformation-RSCP", -1, "CellSelectReselectInfoSIB-11-12");
    }
    /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
    stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellSelectReselectInfoSIB-11-12");
    return 0;
 }
 
-int asn1PD_UMTS_InterRATCellIndividualOffset(rtxContext* ctx, InterRATCellIndividualOffset* pvalue)
+int asn1PD_UMTS_InterRATCellIndividualOffset(rtxContext* RT_RESTRICT ctx, InterRATCellIndividualOffset* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "InterRATCellIndividualOffset");
    stat = pd_ConsInt8(ctx, pvalue, -50, 50);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATCellIndividualOffset");
    return 0;
 }
 
-int asn1PD_UMTS_NCC(rtxContext* ctx, NCC* pvalue)
+int asn1PD_UMTS_NCC(rtxContext* RT_RESTRICT ctx, NCC* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "NCC");
    stat = pd_ConsUInt8(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NCC");
    return 0;
 }
 
-int asn1PD_UMTS_BCC(rtxContext* ctx, BCC* pvalue)
+int asn1PD_UMTS_BCC(rtxContext* RT_RESTRICT ctx, BCC* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "BCC");
    stat = pd_ConsUInt8(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "BCC");
    return 0;
 }
 
-int asn1PD_UMTS_BSIC(rtxContext* ctx, BSIC* pvalue)
+int asn1PD_UMTS_BSIC(rtxContext* RT_RESTRICT ctx, BSIC* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "BSIC");
    /* ncc */
-   rtxCtxtPushElemName(ctx, "ncc");
-   rtxCtxtPushTypeName(ctx, "NCC");
    stat = pd_ConsUInt8(ctx, &pvalue->ncc, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "NCC", "ncc", -1, "BSIC");
    /* bcc */
-   rtxCtxtPushElemName(ctx, "bcc");
-   rtxCtxtPushTypeName(ctx, "BCC");
    stat = pd_ConsUInt8(ctx, &pvalue->bcc, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "BCC", "bcc", -1, "BSIC");
    return 0;
 }
 
-int asn1PD_UMTS_Frequency_Band(rtxContext* ctx, Frequency_Band* pvalue)
+int asn1PD_UMTS_Frequency_Band(rtxContext* RT_RESTRICT ctx, Frequency_Band* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "Frequency-Band");
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Frequency-Band");
    return 0;
 }
 
-int asn1PD_UMTS_BCCH_ARFCN(rtxContext* ctx, BCCH_ARFCN* pvalue)
+int asn1PD_UMTS_BCCH_ARFCN(rtxContext* RT_RESTRICT ctx, BCCH_ARFCN* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "BCCH-ARFCN");
    stat = pd_ConsUInt16(ctx, pvalue, 0, 1023);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "BCCH-ARFCN");
    return 0;
 }
 
-int asn1PD_UMTS_NewInterRATCell_B_technologySpecificInfo_gsm(rtxContext* ctx, NewInterRATCell_B_technologySpecificInfo_gsm* pvalue)
+int asn1PD_UMTS_NewInterRATCell_B_technologySpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, NewInterRATCell_B_technologySpecificInfo_gsm* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* cellSelectionReselectionInfo */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "cellSelectionReselectionInfo");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, 0);
    }
    /* interRATCellIndividualOffset */
-   rtxCtxtPushElemName(ctx, "interRATCellIndividualOffset");
-   rtxCtxtPushTypeName(ctx, "InterRATCellIndividualOffset");
    stat = pd_ConsInt8(ctx, &pvalue->interRATCellIndividualOffset, -50, 50);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "InterRATCellIndividualOffset", "interRATCellIndividualOffset", -1, 0);
    /* bsic */
-   rtxCtxtPushElemName(ctx, "bsic");
    stat = asn1PD_UMTS_BSIC(ctx, &pvalue->bsic);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "bsic", -1, 0);
    /* frequency-band */
-   rtxCtxtPushElemName(ctx, "frequency-band");
-   rtxCtxtPushTypeName(ctx, "Frequency-Band");
    stat = pd_ConsUnsigned(ctx, &pvalue->frequency_band, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "Frequency-Band", "frequency-band", -1, 0);
    /* bcch-ARFCN */
-   rtxCtxtPushElemName(ctx, "bcch-ARFCN");
-   rtxCtxtPushTypeName(ctx, "BCCH-ARFCN");
    stat = pd_ConsUInt16(ctx, &pvalue->bcch_ARFCN, 0, 1023);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "BCCH-ARFCN", "bcch-ARFCN", -1, 0);
    /* dummy */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy");
       pvalue->m |= 0x2u;
-      rtxCtxtPopElemName(ctx);
    }
    return 0;
 }
 
-int asn1PD_UMTS_IS_2000SpecificMeasInfo(rtxContext* ctx, IS_2000SpecificMeasInfo* pvalue)
+int asn1PD_UMTS_IS_2000SpecificMeasInfo(rtxContext* RT_RESTRICT ctx, IS_2000SpecificMeasInfo* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "IS-2000SpecificMeasInfo");
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IS-2000SpecificMeasInfo");
    return 0;
 }
 
-int asn1PD_UMTS_NewInterRATCell_B_technologySpecificInfo_is_2000(rtxContext* ctx, NewInterRATCell_B_technologySpecificInfo_is_2000* pvalue)
+int asn1PD_UMTS_NewInterRATCell_B_technologySpecificInfo_is_2000(rtxContext* RT_RESTRICT ctx, NewInterRATCell_B_technologySpecificInfo_is_2000* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* is-2000SpecificMeasInfo */
-   rtxCtxtPushElemName(ctx, "is-2000SpecificMeasInfo");
-   rtxCtxtPushTypeName(ctx, "IS-2000SpecificMeasInfo");
    stat = pd_ConsUnsigned(ctx, &pvalue->is_2000SpecificMeasInfo, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "IS-2000SpecificMeasInfo", "is-2000SpecificMeasInfo", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_NewInterRATCell_B_technologySpecificInfo(rtxContext* ctx, NewInterRATCell_B_technologySpecificInfo* pvalue)
+int asn1PD_UMTS_NewInterRATCell_B_technologySpecificInfo(rtxContext* RT_RESTRICT ctx, NewInterRATCell_B_technologySpecificInfo* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "gsm");
+      case 0: /* gsm */
          pvalue->u.gsm = (NewInterRATCell_B_technologySpecificInfo_gsm*)rtxMemHeapAlloc(ctx, sizeof(NewInterRATCell_B_technologySpecificInfo_gsm));
-         if (pvalue->u.gsm == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm", -1, 0);
          asn1Init_UMTS_NewInterRATCell_B_technologySpecificInfo_gsm(pvalue->u.gsm);
          stat = asn1PD_UMTS_NewInterRATCell_B_technologySpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "is-2000");
+      case 1: /* is-2000 */
          pvalue->u.is_2000 = (NewInterRATCell_B_technologySpecificInfo_is_2000*)rtxMemHeapAllocZ(ctx, sizeof(NewInterRATCell_B_technologySpecificInfo_is_2000));
-         if (pvalue->u.is_2000 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.is_2000 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "is-2000", -1, 0);
          stat = asn1PD_UMTS_NewInterRATCell_B_technologySpecificInfo_is_2000(ctx, pvalue->u.is_2000);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "is-2000", -1, 0);
          break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "absent");
-         rtxCtxtPopElemName(ctx);
+      case 2: /* absent */
          break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "spare1");
-         rtxCtxtPopElemName(ctx);
+      case 3: /* spare1 */
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_NewInterRATCell_B(rtxContext* ctx, NewInterRATCell_B* pvalue)
+int asn1PD_UMTS_NewInterRATCell_B(rtxContext* RT_RESTRICT ctx, NewInterRATCell_B* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "NewInterRATCell-B");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterRATCell-B");
    /* interRATCellID */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interRATCellID");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "InterRATCellID");
       stat = pd_ConsUInt8(ctx, &pvalue->interRATCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "InterRATCellID", "interRATCellID", -1, "NewInterRATCell-B");
    }
    /* technologySpecificInfo */
-   rtxCtxtPushElemName(ctx, "technologySpecificInfo");
    stat = asn1PD_UMTS_NewInterRATCell_B_technologySpecificInfo(ctx, &pvalue->technologySpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "technologySpecificInfo", -1, "NewInterRATCell-B");
    return 0;
 }
 
-int asn1PD_UMTS_NewInterRATCellList_B(rtxContext* ctx, NewInterRATCellList_B* pvalue)
+int asn1PD_UMTS_NewInterRATCellList_B(rtxContext* RT_RESTRICT ctx, NewInterRATCellList_B* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "NewInterRATCellList-B");
    RT_SET_SIZE(ctx, 1, 32);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterRATCellList-B");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       NewInterRATCell_B* elem;
-      rtxCtxtPushArrayElemName(ctx, "NewInterRATCell-B", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterRATCell_B));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewInterRATCell-B", (int32_t)i, "NewInterRATCellList-B");
       elem = (NewInterRATCell_B*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_NewInterRATCell_B(elem);
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_NewInterRATCell_B(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "NewInterRATCell-B", (int32_t)i, "NewInterRATCellList-B");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_InterRATCellInfoList_B(rtxContext* ctx, InterRATCellInfoList_B* pvalue)
+int asn1PD_UMTS_InterRATCellInfoList_B(rtxContext* RT_RESTRICT ctx, InterRATCellInfoList_B* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "InterRATCellInfoList-B");
    /* removedInterRATCellList */
-   rtxCtxtPushElemName(ctx, "removedInterRATCellList");
    stat = asn1PD_UMTS_RemovedInterRATCellList(ctx, &pvalue->removedInterRATCellList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "removedInterRATCellList", -1, "InterRATCellInfoList-B");
    /* newInterRATCellList */
-   rtxCtxtPushElemName(ctx, "newInterRATCellList");
    stat = asn1PD_UMTS_NewInterRATCellList_B(ctx, &pvalue->newInterRATCellList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, "InterRATCellInfoList-B");
    return 0;
 }
 
-int asn1PD_UMTS_InterRATMeasurementSysInfo_B(rtxContext* ctx, InterRATMeasurementSysInfo_B* pvalue)
+int asn1PD_UMTS_InterRATMeasurementSysInfo_B(rtxContext* RT_RESTRICT ctx, InterRATMeasurementSysInfo_B* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterRATMeasurementSysInfo-B");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATMeasurementSysInfo-B");
    /* interRATCellInfoList */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interRATCellInfoList");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_InterRATCellInfoList_B(ctx, &pvalue->interRATCellInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "interRATCellInfoList", -1, "InterRATMeasurementSysInfo-B");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used(rtxContext* ctx, MeasurementControlSysInfo_use_of_HCS_hcs_not_used* pvalue)
+int asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* cellSelectQualityMeasure */
-   rtxCtxtPushElemName(ctx, "cellSelectQualityMeasure");
    stat = asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
    /* interRATMeasurementSysInfo */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interRATMeasurementSysInfo");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_InterRATMeasurementSysInfo_B(ctx, &pvalue->interRATMeasurementSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "interRATMeasurementSysInfo", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd(rtxContext* ctx, CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd* pvalue)
+int asn1PD_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* primaryCPICH-Info */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
    }
    /* primaryCPICH-TX-Power */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-TX-Power");
       pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "PrimaryCPICH-TX-Power");
       stat = pd_ConsInt8(ctx, &pvalue->primaryCPICH_TX_Power, -10, 50);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
    }
    /* readSFN-Indicator */
-   rtxCtxtPushElemName(ctx, "readSFN-Indicator");
    stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
    /* tx-DiversityIndicator */
-   rtxCtxtPushElemName(ctx, "tx-DiversityIndicator");
    stat = rtxDecBitInline(ctx, &pvalue->tx_DiversityIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "tx-DiversityIndicator", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd(rtxContext* ctx, CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd* pvalue)
+int asn1PD_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* primaryCCPCH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-Info");
    stat = asn1PD_UMTS_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, 0);
    /* primaryCCPCH-TX-Power */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
       stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
    }
    /* timeslotInfoList */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "timeslotInfoList");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_TimeslotInfoList(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, 0);
    }
    /* readSFN-Indicator */
-   rtxCtxtPushElemName(ctx, "readSFN-Indicator");
    stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo(rtxContext* ctx, CellInfoSI_HCS_RSCP_modeSpecificInfo* pvalue)
+int asn1PD_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_RSCP_modeSpecificInfo* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
+      case 0: /* fdd */
          pvalue->u.fdd = (CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
          asn1Init_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd(pvalue->u.fdd);
          stat = asn1PD_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
+      case 1: /* tdd */
          pvalue->u.tdd = (CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
          asn1Init_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd(pvalue->u.tdd);
          stat = asn1PD_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd(rtxContext* ctx, CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd* pvalue)
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* q-QualMin */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "q-QualMin");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "Q-QualMin");
       stat = pd_ConsInt8(ctx, &pvalue->q_QualMin, -24, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "Q-QualMin", "q-QualMin", -1, 0);
    }
    /* q-RxlevMin */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "q-RxlevMin");
       pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
       stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd(rtxContext* ctx, CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd* pvalue)
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* q-RxlevMin */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "q-RxlevMin");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
       stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm(rtxContext* ctx, CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm* pvalue)
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* q-RxlevMin */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "q-RxlevMin");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
       stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo(rtxContext* ctx, CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo* pvalue)
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
+      case 0: /* fdd */
          pvalue->u.fdd = (CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
          asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd(pvalue->u.fdd);
          stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
+      case 1: /* tdd */
          pvalue->u.tdd = (CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
          asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd(pvalue->u.tdd);
          stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "gsm");
+      case 2: /* gsm */
          pvalue->u.gsm = (CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm));
-         if (pvalue->u.gsm == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm", -1, 0);
          asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm(pvalue->u.gsm);
          stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP(rtxContext* ctx, CellSelectReselectInfoSIB_11_12_HCS_RSCP* pvalue)
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_RSCP* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
    /* q-OffsetS-N */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "q-OffsetS-N");
-      rtxCtxtPushTypeName(ctx, "Q-OffsetS-N");
       stat = pd_ConsInt8(ctx, &pvalue->q_OffsetS_N, -50, 50);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "Q-OffsetS-N", "q-OffsetS-N", -1, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
    }
    else {
       pvalue->q_OffsetS_N = 0;
    }
    /* maxAllowedUL-TX-Power */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
       stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
    }
    /* hcs-NeighbouringCellInformation-RSCP */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "hcs-NeighbouringCellInformation-RSCP");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_HCS_NeighbouringCellInformation_RSCP(ctx, &pvalue->hcs_NeighbouringCellInformation_RSCP);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "hcs-NeighbouringCellInformation-RSCP", -1, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
    }
    /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
    stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
    return 0;
 }
 
-int asn1PD_UMTS_CellInfoSI_HCS_RSCP(rtxContext* ctx, CellInfoSI_HCS_RSCP* pvalue)
+int asn1PD_UMTS_CellInfoSI_HCS_RSCP(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_RSCP* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellInfoSI-HCS-RSCP");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfoSI-HCS-RSCP");
    /* cellIndividualOffset */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "cellIndividualOffset");
-      rtxCtxtPushTypeName(ctx, "CellIndividualOffset");
       stat = pd_ConsInt8(ctx, &pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-HCS-RSCP");
    }
    else {
       pvalue->cellIndividualOffset = 0;
    }
    /* referenceTimeDifferenceToCell */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "referenceTimeDifferenceToCell");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-HCS-RSCP");
    }
    /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
    stat = asn1PD_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellInfoSI-HCS-RSCP");
    /* cellSelectionReselectionInfo */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cellSelectionReselectionInfo");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-HCS-RSCP");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_NewIntraFreqCellSI_HCS_RSCP(rtxContext* ctx, NewIntraFreqCellSI_HCS_RSCP* pvalue)
+int asn1PD_UMTS_NewIntraFreqCellSI_HCS_RSCP(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_HCS_RSCP* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellSI-HCS-RSCP");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-HCS-RSCP");
    /* intraFreqCellID */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellID");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "IntraFreqCellID");
       stat = pd_ConsUInt8(ctx, &pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-HCS-RSCP");
    }
    /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
    stat = asn1PD_UMTS_CellInfoSI_HCS_RSCP(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-HCS-RSCP");
    return 0;
 }
 
-int asn1PD_UMTS_NewIntraFreqCellSI_List_HCS_RSCP(rtxContext* ctx, NewIntraFreqCellSI_List_HCS_RSCP* pvalue)
+int asn1PD_UMTS_NewIntraFreqCellSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_HCS_RSCP* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellSI-List-HCS-RSCP");
    RT_SET_SIZE(ctx, 1, 32);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-List-HCS-RSCP");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       NewIntraFreqCellSI_HCS_RSCP* elem;
-      rtxCtxtPushArrayElemName(ctx, "NewIntraFreqCellSI-HCS-RSCP", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCellSI_HCS_RSCP));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewIntraFreqCellSI-HCS-RSCP", (int32_t)i, "NewIntraFreqCellSI-List-HCS-RSCP");
       elem = (NewIntraFreqCellSI_HCS_RSCP*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_NewIntraFreqCellSI_HCS_RSCP(elem);
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_NewIntraFreqCellSI_HCS_RSCP(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-HCS-RSCP", (int32_t)i, "NewIntraFreqCellSI-List-HCS-RSCP");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_IntraFreqCellInfoSI_List_HCS_RSCP(rtxContext* ctx, IntraFreqCellInfoSI_List_HCS_RSCP* pvalue)
+int asn1PD_UMTS_IntraFreqCellInfoSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_HCS_RSCP* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFreqCellInfoSI-List-HCS-RSCP");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-HCS-RSCP");
    /* removedIntraFreqCellList */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "removedIntraFreqCellList");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-RSCP");
    }
    /* newIntraFreqCellList */
-   rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
    stat = asn1PD_UMTS_NewIntraFreqCellSI_List_HCS_RSCP(ctx, &pvalue->newIntraFreqCellList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-RSCP");
    return 0;
 }
 
-int asn1PD_UMTS_IntraFreqMeasurementSysInfo_HCS_RSCP(rtxContext* ctx, IntraFreqMeasurementSysInfo_HCS_RSCP* pvalue)
+int asn1PD_UMTS_IntraFreqMeasurementSysInfo_HCS_RSCP(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_HCS_RSCP* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFreqMeasurementSysInfo-HCS-RSCP");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
    /* intraFreqMeasurementID */
    if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasurementID");
-      rtxCtxtPushTypeName(ctx, "MeasurementIdentity");
       stat = pd_ConsUInt8(ctx, &pvalue->intraFreqMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
    }
    else {
       pvalue->intraFreqMeasurementID = 1;
    }
    /* intraFreqCellInfoSI-List */
    if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellInfoSI-List");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_IntraFreqCellInfoSI_List_HCS_RSCP(ctx, &pvalue->intraFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
    }
    /* intraFreqMeasQuantity */
    if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasQuantity");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
    }
    /* intraFreqReportingQuantityForRACH */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "intraFreqReportingQuantityForRACH");
       pvalue->m |= 0x4u;
       stat = asn1PD_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
    }
    /* maxReportedCellsOnRACH */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "maxReportedCellsOnRACH");
       pvalue->m |= 0x8u;
-      rtxCtxtPushTypeName(ctx, "MaxReportedCellsOnRACH");
       stat = pd_ConsUnsigned(ctx, &pvalue->maxReportedCellsOnRACH, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
    }
    /* reportingInfoForCellDCH */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "reportingInfoForCellDCH");
       pvalue->m |= 0x10u;
       stat = asn1PD_UMTS_ReportingInfoForCellDCH(ctx, &pvalue->reportingInfoForCellDCH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_NewInterFreqCellSI_HCS_RSCP(rtxContext* ctx, NewInterFreqCellSI_HCS_RSCP* pvalue)
+int asn1PD_UMTS_NewInterFreqCellSI_HCS_RSCP(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_HCS_RSCP* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellSI-HCS-RSCP");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-HCS-RSCP");
    /* interFreqCellID */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "interFreqCellID");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "InterFreqCellID");
       stat = pd_ConsUInt8(ctx, &pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-HCS-RSCP");
    }
    /* frequencyInfo */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-HCS-RSCP");
    }
    /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
    stat = asn1PD_UMTS_CellInfoSI_HCS_RSCP(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-HCS-RSCP");
    return 0;
 }
 
-int asn1PD_UMTS_NewInterFreqCellSI_List_HCS_RSCP(rtxContext* ctx, NewInterFreqCellSI_List_HCS_RSCP* pvalue)
+int asn1PD_UMTS_NewInterFreqCellSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_HCS_RSCP* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellSI-List-HCS-RSCP");
    RT_SET_SIZE(ctx, 1, 32);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-List-HCS-RSCP");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       NewInterFreqCellSI_HCS_RSCP* elem;
-      rtxCtxtPushArrayElemName(ctx, "NewInterFreqCellSI-HCS-RSCP", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCellSI_HCS_RSCP));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewInterFreqCellSI-HCS-RSCP", (int32_t)i, "NewInterFreqCellSI-List-HCS-RSCP");
       elem = (NewInterFreqCellSI_HCS_RSCP*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_NewInterFreqCellSI_HCS_RSCP(elem);
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_NewInterFreqCellSI_HCS_RSCP(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-HCS-RSCP", (int32_t)i, "NewInterFreqCellSI-List-HCS-RSCP");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_InterFreqCellInfoSI_List_HCS_RSCP(rtxContext* ctx, InterFreqCellInfoSI_List_HCS_RSCP* pvalue)
+int asn1PD_UMTS_InterFreqCellInfoSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoSI_List_HCS_RSCP* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterFreqCellInfoSI-List-HCS-RSCP");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoSI-List-HCS-RSCP");
    /* removedInterFreqCellList */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "removedInterFreqCellList");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-RSCP");
    }
    /* newInterFreqCellList */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_NewInterFreqCellSI_List_HCS_RSCP(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-RSCP");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_InterFreqMeasurementSysInfo_HCS_RSCP(rtxContext* ctx, InterFreqMeasurementSysInfo_HCS_RSCP* pvalue)
+int asn1PD_UMTS_InterFreqMeasurementSysInfo_HCS_RSCP(rtxContext* RT_RESTRICT ctx, InterFreqMeasurementSysInfo_HCS_RSCP* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterFreqMeasurementSysInfo-HCS-RSCP");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-HCS-RSCP");
    /* interFreqCellInfoSI-List */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interFreqCellInfoSI-List");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_InterFreqCellInfoSI_List_HCS_RSCP(ctx, &pvalue->interFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-HCS-RSCP");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* ctx, MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* pvalue)
+int asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* intraFreqMeasurementSysInfo */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasurementSysInfo");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_IntraFreqMeasurementSysInfo_HCS_RSCP(ctx, &pvalue->intraFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
    }
    /* interFreqMeasurementSysInfo */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interFreqMeasurementSysInfo");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_InterFreqMeasurementSysInfo_HCS_RSCP(ctx, &pvalue->interFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd(rtxContext* ctx, CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd* pvalue)
+int asn1PD_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* primaryCPICH-Info */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
    }
    /* primaryCPICH-TX-Power */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-TX-Power");
       pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "PrimaryCPICH-TX-Power");
       stat = pd_ConsInt8(ctx, &pvalue->primaryCPICH_TX_Power, -10, 50);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
    }
    /* readSFN-Indicator */
-   rtxCtxtPushElemName(ctx, "readSFN-Indicator");
    stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
    /* tx-DiversityIndicator */
-   rtxCtxtPushElemName(ctx, "tx-DiversityIndicator");
    stat = rtxDecBitInline(ctx, &pvalue->tx_DiversityIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "tx-DiversityIndicator", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd(rtxContext* ctx, CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd* pvalue)
+int asn1PD_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* primaryCCPCH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-Info");
    stat = asn1PD_UMTS_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, 0);
    /* primaryCCPCH-TX-Power */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
       stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
    }
    /* timeslotInfoList */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "timeslotInfoList");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_TimeslotInfoList(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, 0);
    }
    /* readSFN-Indicator */
-   rtxCtxtPushElemName(ctx, "readSFN-Indicator");
    stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo(rtxContext* ctx, CellInfoSI_HCS_ECN0_modeSpecificInfo* pvalue)
+int asn1PD_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_ECN0_modeSpecificInfo* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
+      case 0: /* fdd */
          pvalue->u.fdd = (CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
          asn1Init_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd(pvalue->u.fdd);
          stat = asn1PD_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
+      case 1: /* tdd */
          pvalue->u.tdd = (CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
          asn1Init_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd(pvalue->u.tdd);
          stat = asn1PD_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_TemporaryOffset2(rtxContext* ctx, TemporaryOffset2* pvalue)
+int asn1PD_UMTS_TemporaryOffset2(rtxContext* RT_RESTRICT ctx, TemporaryOffset2* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "TemporaryOffset2");
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TemporaryOffset2");
    return 0;
 }
 
-int asn1PD_UMTS_TemporaryOffsetList(rtxContext* ctx, TemporaryOffsetList* pvalue)
+int asn1PD_UMTS_TemporaryOffsetList(rtxContext* RT_RESTRICT ctx, TemporaryOffsetList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TemporaryOffsetList");
    /* temporaryOffset1 */
-   rtxCtxtPushElemName(ctx, "temporaryOffset1");
-   rtxCtxtPushTypeName(ctx, "TemporaryOffset1");
    stat = pd_ConsUnsigned(ctx, &pvalue->temporaryOffset1, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TemporaryOffset1", "temporaryOffset1", -1, "TemporaryOffsetList");
    /* temporaryOffset2 */
-   rtxCtxtPushElemName(ctx, "temporaryOffset2");
-   rtxCtxtPushTypeName(ctx, "TemporaryOffset2");
    stat = pd_ConsUnsigned(ctx, &pvalue->temporaryOffset2, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "TemporaryOffset2", "temporaryOffset2", -1, "TemporaryOffsetList");
    return 0;
 }
 
-int asn1PD_UMTS_PenaltyTime_ECN0(rtxContext* ctx, PenaltyTime_ECN0* pvalue)
+int asn1PD_UMTS_PenaltyTime_ECN0(rtxContext* RT_RESTRICT ctx, PenaltyTime_ECN0* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "PenaltyTime-ECN0");
    stat = pd_ConsUnsigned(ctx, &ui, 0, 6);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PenaltyTime-ECN0");
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "notUsed");
-         rtxCtxtPopElemName(ctx);
+      case 0: /* notUsed */
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "pt10");
+      case 1: /* pt10 */
          pvalue->u.pt10 = (TemporaryOffsetList*)rtxMemHeapAllocZ(ctx, sizeof(TemporaryOffsetList));
-         if (pvalue->u.pt10 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.pt10 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "pt10", -1, "PenaltyTime-ECN0");
          stat = asn1PD_UMTS_TemporaryOffsetList(ctx, pvalue->u.pt10);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "pt10", -1, "PenaltyTime-ECN0");
          break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "pt20");
+      case 2: /* pt20 */
          pvalue->u.pt20 = (TemporaryOffsetList*)rtxMemHeapAllocZ(ctx, sizeof(TemporaryOffsetList));
-         if (pvalue->u.pt20 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.pt20 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "pt20", -1, "PenaltyTime-ECN0");
          stat = asn1PD_UMTS_TemporaryOffsetList(ctx, pvalue->u.pt20);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "pt20", -1, "PenaltyTime-ECN0");
          break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "pt30");
+      case 3: /* pt30 */
          pvalue->u.pt30 = (TemporaryOffsetList*)rtxMemHeapAllocZ(ctx, sizeof(TemporaryOffsetList));
-         if (pvalue->u.pt30 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.pt30 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "pt30", -1, "PenaltyTime-ECN0");
          stat = asn1PD_UMTS_TemporaryOffsetList(ctx, pvalue->u.pt30);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "pt30", -1, "PenaltyTime-ECN0");
          break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "pt40");
+      case 4: /* pt40 */
          pvalue->u.pt40 = (TemporaryOffsetList*)rtxMemHeapAllocZ(ctx, sizeof(TemporaryOffsetList));
-         if (pvalue->u.pt40 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.pt40 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "pt40", -1, "PenaltyTime-ECN0");
          stat = asn1PD_UMTS_TemporaryOffsetList(ctx, pvalue->u.pt40);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "pt40", -1, "PenaltyTime-ECN0");
          break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "pt50");
+      case 5: /* pt50 */
          pvalue->u.pt50 = (TemporaryOffsetList*)rtxMemHeapAllocZ(ctx, sizeof(TemporaryOffsetList));
-         if (pvalue->u.pt50 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.pt50 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "pt50", -1, "PenaltyTime-ECN0");
          stat = asn1PD_UMTS_TemporaryOffsetList(ctx, pvalue->u.pt50);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "pt50", -1, "PenaltyTime-ECN0");
          break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "pt60");
+      case 6: /* pt60 */
          pvalue->u.pt60 = (TemporaryOffsetList*)rtxMemHeapAllocZ(ctx, sizeof(TemporaryOffsetList));
-         if (pvalue->u.pt60 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.pt60 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "pt60", -1, "PenaltyTime-ECN0");
          stat = asn1PD_UMTS_TemporaryOffsetList(ctx, pvalue->u.pt60);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "pt60", -1, "PenaltyTime-ECN0");
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PenaltyTime-ECN0");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_HCS_CellReselectInformation_ECN0(rtxContext* ctx, HCS_CellReselectInformation_ECN0* pvalue)
+int asn1PD_UMTS_HCS_CellReselectInformation_ECN0(rtxContext* RT_RESTRICT ctx, HCS_CellReselectInformation_ECN0* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HCS-CellReselectInformation-ECN0");
    /* penaltyTime */
-   rtxCtxtPushElemName(ctx, "penaltyTime");
    stat = asn1PD_UMTS_PenaltyTime_ECN0(ctx, &pvalue->penaltyTime);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "penaltyTime", -1, "HCS-CellReselectInformation-ECN0");
    return 0;
 }
 
-int asn1PD_UMTS_HCS_NeighbouringCellInformation_ECN0(rtxContext* ctx, HCS_NeighbouringCellInformation_ECN0* pvalue)
+int asn1PD_UMTS_HCS_NeighbouringCellInformation_ECN0(rtxContext* RT_RESTRICT ctx, HCS_NeighbouringCellInformation_ECN0* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "HCS-NeighbouringCellInformation-ECN0");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HCS-NeighbouringCellInformation-ECN0");
    /* hcs-PRIO */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "hcs-PRIO");
-      rtxCtxtPushTypeName(ctx, "HCS-PRIO");
       stat = pd_ConsUInt8(ctx, &pvalue->hcs_PRIO, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "HCS-PRIO", "hcs-PRIO", -1, "HCS-NeighbouringCellInformation-ECN0");
    }
    else {
       pvalue->hcs_PRIO = 0;
    }
    /* q-HCS */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "q-HCS");
-      rtxCtxtPushTypeName(ctx, "Q-HCS");
       stat = pd_ConsUInt8(ctx, &pvalue->q_HCS, 0, 99);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "Q-HCS", "q-HCS", -1, "HCS-NeighbouringCellInformation-ECN0");
    }
    else {
       pvalue->q_HCS = 0;
    }
    /* hcs-CellReselectInformation */
-   rtxCtxtPushElemName(ctx, "hcs-CellReselectInformation");
    stat = asn1PD_UMTS_HCS_CellReselectInformation_ECN0(ctx, &pvalue->hcs_CellReselectInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "hcs-CellReselectInformation", -1, "HCS-NeighbouringCellInformation-ECN0");
    return 0;
 }
 
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd(rtxContext* ctx, CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd* pvalue)
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* q-QualMin */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "q-QualMin");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "Q-QualMin");
       stat = pd_ConsInt8(ctx, &pvalue->q_QualMin, -24, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "Q-QualMin", "q-QualMin", -1, 0);
    }
    /* q-RxlevMin */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "q-RxlevMin");
       pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
       stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd(rtxContext* ctx, CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd* pvalue)
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* q-RxlevMin */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "q-RxlevMin");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
       stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm(rtxContext* ctx, CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm* pvalue)
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* q-RxlevMin */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "q-RxlevMin");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
       stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo(rtxContext* ctx, CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo* pvalue)
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
+      case 0: /* fdd */
          pvalue->u.fdd = (CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
          asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd(pvalue->u.fdd);
          stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
+      case 1: /* tdd */
          pvalue->u.tdd = (CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
          asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd(pvalue->u.tdd);
          stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "gsm");
+      case 2: /* gsm */
          pvalue->u.gsm = (CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm));
-         if (pvalue->u.gsm == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm", -1, 0);
          asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm(pvalue->u.gsm);
          stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0(rtxContext* ctx, CellSelectReselectInfoSIB_11_12_HCS_ECN0* pvalue)
+int asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0(rtxContext* RT_RESTRICT ctx, CellSelectReselectInfoSIB_11_12_HCS_ECN0* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
    /* q-Offset1S-N */
    if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "q-Offset1S-N");
-      rtxCtxtPushTypeName(ctx, "Q-OffsetS-N");
       stat = pd_ConsInt8(ctx, &pvalue->q_Offset1S_N, -50, 50);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "Q-OffsetS-N", "q-Offset1S-N", -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
    }
    else {
       pvalue->q_Offset1S_N = 0;
    }
    /* q-Offset2S-N */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "q-Offset2S-N");
-      rtxCtxtPushTypeName(ctx, "Q-OffsetS-N");
       stat = pd_ConsInt8(ctx, &pvalue->q_Offset2S_N, -50, 50);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "Q-OffsetS-N", "q-Offset2S-N", -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
    }
    else {
       pvalue->q_Offset2S_N = 0;
    }
    /* maxAllowedUL-TX-Power */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
       stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
    }
    /* hcs-NeighbouringCellInformation-ECN0 */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "hcs-NeighbouringCellInformation-ECN0");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_HCS_NeighbouringCellInformation_ECN0(ctx, &pvalue->hcs_NeighbouringCellInformation_ECN0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "hcs-NeighbouringCellInformation-ECN0", -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
    }
    /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
    stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
    return 0;
 }
 
-int asn1PD_UMTS_CellInfoSI_HCS_ECN0(rtxContext* ctx, CellInfoSI_HCS_ECN0* pvalue)
+int asn1PD_UMTS_CellInfoSI_HCS_ECN0(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_ECN0* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellInfoSI-HCS-ECN0");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfoSI-HCS-ECN0");
    /* cellIndividualOffset */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "cellIndividualOffset");
-      rtxCtxtPushTypeName(ctx, "CellIndividualOffset");
       stat = pd_ConsInt8(ctx, &pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-HCS-ECN0");
    }
    else {
       pvalue->cellIndividualOffset = 0;
    }
    /* referenceTimeDifferenceToCell */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "referenceTimeDifferenceToCell");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-HCS-ECN0");
    }
    /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
    stat = asn1PD_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellInfoSI-HCS-ECN0");
    /* cellSelectionReselectionInfo */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cellSelectionReselectionInfo");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-HCS-ECN0");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_NewIntraFreqCellSI_HCS_ECN0(rtxContext* ctx, NewIntraFreqCellSI_HCS_ECN0* pvalue)
+int asn1PD_UMTS_NewIntraFreqCellSI_HCS_ECN0(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_HCS_ECN0* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellSI-HCS-ECN0");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-HCS-ECN0");
    /* intraFreqCellID */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellID");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "IntraFreqCellID");
       stat = pd_ConsUInt8(ctx, &pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-HCS-ECN0");
    }
    /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
    stat = asn1PD_UMTS_CellInfoSI_HCS_ECN0(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-HCS-ECN0");
    return 0;
 }
 
-int asn1PD_UMTS_NewIntraFreqCellSI_List_HCS_ECN0(rtxContext* ctx, NewIntraFreqCellSI_List_HCS_ECN0* pvalue)
+int asn1PD_UMTS_NewIntraFreqCellSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_HCS_ECN0* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellSI-List-HCS-ECN0");
    RT_SET_SIZE(ctx, 1, 32);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-List-HCS-ECN0");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       NewIntraFreqCellSI_HCS_ECN0* elem;
-      rtxCtxtPushArrayElemName(ctx, "NewIntraFreqCellSI-HCS-ECN0", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCellSI_HCS_ECN0));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewIntraFreqCellSI-HCS-ECN0", (int32_t)i, "NewIntraFreqCellSI-List-HCS-ECN0");
       elem = (NewIntraFreqCellSI_HCS_ECN0*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_NewIntraFreqCellSI_HCS_ECN0(elem);
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_NewIntraFreqCellSI_HCS_ECN0(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-HCS-ECN0", (int32_t)i, "NewIntraFreqCellSI-List-HCS-ECN0");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_IntraFreqCellInfoSI_List_HCS_ECN0(rtxContext* ctx, IntraFreqCellInfoSI_List_HCS_ECN0* pvalue)
+int asn1PD_UMTS_IntraFreqCellInfoSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_HCS_ECN0* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFreqCellInfoSI-List-HCS-ECN0");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-HCS-ECN0");
    /* removedIntraFreqCellList */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "removedIntraFreqCellList");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-ECN0");
    }
    /* newIntraFreqCellList */
-   rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
    stat = asn1PD_UMTS_NewIntraFreqCellSI_List_HCS_ECN0(ctx, &pvalue->newIntraFreqCellList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-ECN0");
    return 0;
 }
 
-int asn1PD_UMTS_IntraFreqMeasurementSysInfo_HCS_ECN0(rtxContext* ctx, IntraFreqMeasurementSysInfo_HCS_ECN0* pvalue)
+int asn1PD_UMTS_IntraFreqMeasurementSysInfo_HCS_ECN0(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_HCS_ECN0* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFreqMeasurementSysInfo-HCS-ECN0");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
    /* intraFreqMeasurementID */
    if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasurementID");
-      rtxCtxtPushTypeName(ctx, "MeasurementIdentity");
       stat = pd_ConsUInt8(ctx, &pvalue->intraFreqMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
    }
    else {
       pvalue->intraFreqMeasurementID = 1;
    }
    /* intraFreqCellInfoSI-List */
    if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellInfoSI-List");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_IntraFreqCellInfoSI_List_HCS_ECN0(ctx, &pvalue->intraFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
    }
    /* intraFreqMeasQuantity */
    if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasQuantity");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
    }
    /* intraFreqReportingQuantityForRACH */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "intraFreqReportingQuantityForRACH");
       pvalue->m |= 0x4u;
       stat = asn1PD_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
    }
    /* maxReportedCellsOnRACH */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "maxReportedCellsOnRACH");
       pvalue->m |= 0x8u;
-      rtxCtxtPushTypeName(ctx, "MaxReportedCellsOnRACH");
       stat = pd_ConsUnsigned(ctx, &pvalue->maxReportedCellsOnRACH, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
    }
    /* reportingInfoForCellDCH */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "reportingInfoForCellDCH");
       pvalue->m |= 0x10u;
       stat = asn1PD_UMTS_ReportingInfoForCellDCH(ctx, &pvalue->reportingInfoForCellDCH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_NewInterFreqCellSI_HCS_ECN0(rtxContext* ctx, NewInterFreqCellSI_HCS_ECN0* pvalue)
+int asn1PD_UMTS_NewInterFreqCellSI_HCS_ECN0(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_HCS_ECN0* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellSI-HCS-ECN0");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-HCS-ECN0");
    /* interFreqCellID */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "interFreqCellID");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "InterFreqCellID");
       stat = pd_ConsUInt8(ctx, &pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-HCS-ECN0");
    }
    /* frequencyInfo */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-HCS-ECN0");
    }
    /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
    stat = asn1PD_UMTS_CellInfoSI_HCS_ECN0(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-HCS-ECN0");
    return 0;
 }
 
-int asn1PD_UMTS_NewInterFreqCellSI_List_HCS_ECN0(rtxContext* ctx, NewInterFreqCellSI_List_HCS_ECN0* pvalue)
+int asn1PD_UMTS_NewInterFreqCellSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_HCS_ECN0* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellSI-List-HCS-ECN0");
    RT_SET_SIZE(ctx, 1, 32);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-List-HCS-ECN0");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       NewInterFreqCellSI_HCS_ECN0* elem;
-      rtxCtxtPushArrayElemName(ctx, "NewInterFreqCellSI-HCS-ECN0", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCellSI_HCS_ECN0));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewInterFreqCellSI-HCS-ECN0", (int32_t)i, "NewInterFreqCellSI-List-HCS-ECN0");
       elem = (NewInterFreqCellSI_HCS_ECN0*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_NewInterFreqCellSI_HCS_ECN0(elem);
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_NewInterFreqCellSI_HCS_ECN0(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-HCS-ECN0", (int32_t)i, "NewInterFreqCellSI-List-HCS-ECN0");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_InterFreqCellInfoSI_List_HCS_ECN0(rtxContext* ctx, InterFreqCellInfoSI_List_HCS_ECN0* pvalue)
+int asn1PD_UMTS_InterFreqCellInfoSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoSI_List_HCS_ECN0* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterFreqCellInfoSI-List-HCS-ECN0");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoSI-List-HCS-ECN0");
    /* removedInterFreqCellList */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "removedInterFreqCellList");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-ECN0");
    }
    /* newInterFreqCellList */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_NewInterFreqCellSI_List_HCS_ECN0(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-ECN0");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_InterFreqMeasurementSysInfo_HCS_ECN0(rtxContext* ctx, InterFreqMeasurementSysInfo_HCS_ECN0* pvalue)
+int asn1PD_UMTS_InterFreqMeasurementSysInfo_HCS_ECN0(rtxContext* RT_RESTRICT ctx, InterFreqMeasurementSysInfo_HCS_ECN0* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterFreqMeasurementSysInfo-HCS-ECN0");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-HCS-ECN0");
    /* interFreqCellInfoSI-List */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interFreqCellInfoSI-List");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_InterFreqCellInfoSI_List_HCS_ECN0(ctx, &pvalue->interFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-HCS-ECN0");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* ctx, MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* pvalue)
+int asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* intraFreqMeasurementSysInfo */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasurementSysInfo");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_IntraFreqMeasurementSysInfo_HCS_ECN0(ctx, &pvalue->intraFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
    }
    /* interFreqMeasurementSysInfo */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interFreqMeasurementSysInfo");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_InterFreqMeasurementSysInfo_HCS_ECN0(ctx, &pvalue->interFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
    }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* cpich-RSCP */
+         pvalue->u.cpich_RSCP = (MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP));
+         if (pvalue->u.cpich_RSCP == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cpich-RSCP", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(pvalue->u.cpich_RSCP);
+         stat = asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
+         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
+         break;
+      case 1: /* cpich-Ec-N0 */
+         pvalue->u.cpich_Ec_N0 = (MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0));
+         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cpich-Ec-N0", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(pvalue->u.cpich_Ec_N0);
+         stat = asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
+         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterRATCell_technologySpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, NewInterRATCell_technologySpecificInfo_gsm* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellSelectionReselectionInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12(ctx, &pvalue->cellSelectionReselectionInfo);
+      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, 0);
+   }
+   /* interRATCellIndividualOffset */
+   stat = pd_ConsInt8(ctx, &pvalue->interRATCellIndividualOffset, -50, 50);
+   RT_CHECK(ctx, stat, "InterRATCellIndividualOffset", "interRATCellIndividualOffset", -1, 0);
+   /* bsic */
+   stat = asn1PD_UMTS_BSIC(ctx, &pvalue->bsic);
+   RT_CHECK(ctx, stat, 0, "bsic", -1, 0);
+   /* frequency-band */
+   stat = pd_ConsUnsigned(ctx, &pvalue->frequency_band, 0, 1);
+   RT_CHECK(ctx, stat, "Frequency-Band", "frequency-band", -1, 0);
+   /* bcch-ARFCN */
+   stat = pd_ConsUInt16(ctx, &pvalue->bcch_ARFCN, 0, 1023);
+   RT_CHECK(ctx, stat, "BCCH-ARFCN", "bcch-ARFCN", -1, 0);
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterRATCell_technologySpecificInfo_is_2000(rtxContext* RT_RESTRICT ctx, NewInterRATCell_technologySpecificInfo_is_2000* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* is-2000SpecificMeasInfo */
+   stat = pd_ConsUnsigned(ctx, &pvalue->is_2000SpecificMeasInfo, 0, 4);
+   RT_CHECK(ctx, stat, "IS-2000SpecificMeasInfo", "is-2000SpecificMeasInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterRATCell_technologySpecificInfo(rtxContext* RT_RESTRICT ctx, NewInterRATCell_technologySpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* gsm */
+         pvalue->u.gsm = (NewInterRATCell_technologySpecificInfo_gsm*)rtxMemHeapAlloc(ctx, sizeof(NewInterRATCell_technologySpecificInfo_gsm));
+         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm", -1, 0);
+         asn1Init_UMTS_NewInterRATCell_technologySpecificInfo_gsm(pvalue->u.gsm);
+         stat = asn1PD_UMTS_NewInterRATCell_technologySpecificInfo_gsm(ctx, pvalue->u.gsm);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
+         break;
+      case 1: /* is-2000 */
+         pvalue->u.is_2000 = (NewInterRATCell_technologySpecificInfo_is_2000*)rtxMemHeapAllocZ(ctx, sizeof(NewInterRATCell_technologySpecificInfo_is_2000));
+         if (pvalue->u.is_2000 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "is-2000", -1, 0);
+         stat = asn1PD_UMTS_NewInterRATCell_technologySpecificInfo_is_2000(ctx, pvalue->u.is_2000);
+         RT_CHECK(ctx, stat, 0, "is-2000", -1, 0);
+         break;
+      case 2: /* absent */
+         break;
+      case 3: /* spare1 */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterRATCell(rtxContext* RT_RESTRICT ctx, NewInterRATCell* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterRATCell");
+   /* interRATCellID */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->interRATCellID, 0, 31);
+      RT_CHECK(ctx, stat, "InterRATCellID", "interRATCellID", -1, "NewInterRATCell");
+   }
+   /* technologySpecificInfo */
+   stat = asn1PD_UMTS_NewInterRATCell_technologySpecificInfo(ctx, &pvalue->technologySpecificInfo);
+   RT_CHECK(ctx, stat, 0, "technologySpecificInfo", -1, "NewInterRATCell");
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterRATCellList(rtxContext* RT_RESTRICT ctx, NewInterRATCellList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterRATCellList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NewInterRATCell* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterRATCell));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewInterRATCell", (int32_t)i, "NewInterRATCellList");
+      elem = (NewInterRATCell*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_NewInterRATCell(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_NewInterRATCell(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "NewInterRATCell", (int32_t)i, "NewInterRATCellList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellsForInterRATMeasList(rtxContext* RT_RESTRICT ctx, CellsForInterRATMeasList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 5);
+      RT_CHECK(ctx, stat, 0, 0, -1, "CellsForInterRATMeasList");
+      pvalue->n = raw + 1;
+      if (raw > 31) {
+         rtxErrAddStrParm(ctx, "CellsForInterRATMeasList");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "CellsForInterRATMeasList");
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 31);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, "InterRATCellID", "InterRATCellID", (int32_t)i, "CellsForInterRATMeasList");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATCellInfoList(rtxContext* RT_RESTRICT ctx, InterRATCellInfoList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATCellInfoList");
+   /* removedInterRATCellList */
+   stat = asn1PD_UMTS_RemovedInterRATCellList(ctx, &pvalue->removedInterRATCellList);
+   RT_CHECK(ctx, stat, 0, "removedInterRATCellList", -1, "InterRATCellInfoList");
+   /* newInterRATCellList */
+   stat = asn1PD_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
+   RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, "InterRATCellInfoList");
+   /* cellsForInterRATMeasList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellsForInterRATMeasList(ctx, &pvalue->cellsForInterRATMeasList);
+      RT_CHECK(ctx, stat, 0, "cellsForInterRATMeasList", -1, "InterRATCellInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATMeasurementSysInfo(rtxContext* RT_RESTRICT ctx, InterRATMeasurementSysInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATMeasurementSysInfo");
+   /* interRATCellInfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InterRATCellInfoList(ctx, &pvalue->interRATCellInfoList);
+      RT_CHECK(ctx, stat, 0, "interRATCellInfoList", -1, "InterRATMeasurementSysInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_use_of_HCS_hcs_used* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellSelectQualityMeasure */
+   stat = asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
+   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
+   /* interRATMeasurementSysInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InterRATMeasurementSysInfo(ctx, &pvalue->interRATMeasurementSysInfo);
+      RT_CHECK(ctx, stat, 0, "interRATMeasurementSysInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_use_of_HCS* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* hcs-not-used */
+         pvalue->u.hcs_not_used = (MeasurementControlSysInfo_use_of_HCS_hcs_not_used*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_use_of_HCS_hcs_not_used));
+         if (pvalue->u.hcs_not_used == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "hcs-not-used", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used(pvalue->u.hcs_not_used);
+         stat = asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used(ctx, pvalue->u.hcs_not_used);
+         RT_CHECK(ctx, stat, 0, "hcs-not-used", -1, 0);
+         break;
+      case 1: /* hcs-used */
+         pvalue->u.hcs_used = (MeasurementControlSysInfo_use_of_HCS_hcs_used*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_use_of_HCS_hcs_used));
+         if (pvalue->u.hcs_used == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "hcs-used", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used(pvalue->u.hcs_used);
+         stat = asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used(ctx, pvalue->u.hcs_used);
+         RT_CHECK(ctx, stat, 0, "hcs-used", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_TrCH_Identity(rtxContext* RT_RESTRICT ctx, UL_TrCH_Identity* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-TrCH-Identity");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dch */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.dch, 1, 32);
+         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch", -1, "UL-TrCH-Identity");
+         break;
+      case 1: /* rachorcpch */
+         break;
+      case 2: /* usch */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.usch, 1, 32);
+         RT_CHECK(ctx, stat, "TransportChannelIdentity", "usch", -1, "UL-TrCH-Identity");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-TrCH-Identity");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TrafficVolumeMeasurementObjectList(rtxContext* RT_RESTRICT ctx, TrafficVolumeMeasurementObjectList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TrafficVolumeMeasurementObjectList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UL_TrCH_Identity* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_TrCH_Identity));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UL-TrCH-Identity", (int32_t)i, "TrafficVolumeMeasurementObjectList");
+      elem = (UL_TrCH_Identity*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UL_TrCH_Identity(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_UL_TrCH_Identity(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "UL-TrCH-Identity", (int32_t)i, "TrafficVolumeMeasurementObjectList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TimeInterval(rtxContext* RT_RESTRICT ctx, TimeInterval* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 13);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimeInterval");
+   return 0;
+}
+
+int asn1PD_UMTS_TrafficVolumeMeasQuantity(rtxContext* RT_RESTRICT ctx, TrafficVolumeMeasQuantity* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TrafficVolumeMeasQuantity");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* rlc-BufferPayload */
+         break;
+      case 1: /* averageRLC-BufferPayload */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.averageRLC_BufferPayload, 1, 13);
+         RT_CHECK(ctx, stat, "TimeInterval", "averageRLC-BufferPayload", -1, "TrafficVolumeMeasQuantity");
+         break;
+      case 2: /* varianceOfRLC-BufferPayload */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.varianceOfRLC_BufferPayload, 1, 13);
+         RT_CHECK(ctx, stat, "TimeInterval", "varianceOfRLC-BufferPayload", -1, "TrafficVolumeMeasQuantity");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TrafficVolumeMeasQuantity");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TrafficVolumeReportingQuantity(rtxContext* RT_RESTRICT ctx, TrafficVolumeReportingQuantity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rlc-RB-BufferPayload */
+   stat = rtxDecBitInline(ctx, &pvalue->rlc_RB_BufferPayload);
+   RT_CHECK(ctx, stat, 0, "rlc-RB-BufferPayload", -1, "TrafficVolumeReportingQuantity");
+   /* rlc-RB-BufferPayloadAverage */
+   stat = rtxDecBitInline(ctx, &pvalue->rlc_RB_BufferPayloadAverage);
+   RT_CHECK(ctx, stat, 0, "rlc-RB-BufferPayloadAverage", -1, "TrafficVolumeReportingQuantity");
+   /* rlc-RB-BufferPayloadVariance */
+   stat = rtxDecBitInline(ctx, &pvalue->rlc_RB_BufferPayloadVariance);
+   RT_CHECK(ctx, stat, 0, "rlc-RB-BufferPayloadVariance", -1, "TrafficVolumeReportingQuantity");
+   return 0;
+}
+
+int asn1PD_UMTS_TrafficVolumeEventType(rtxContext* RT_RESTRICT ctx, TrafficVolumeEventType* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TrafficVolumeEventType");
+   return 0;
+}
+
+int asn1PD_UMTS_TrafficVolumeThreshold(rtxContext* RT_RESTRICT ctx, TrafficVolumeThreshold* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 25);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TrafficVolumeThreshold");
+   return 0;
+}
+
+int asn1PD_UMTS_PendingTimeAfterTrigger(rtxContext* RT_RESTRICT ctx, PendingTimeAfterTrigger* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PendingTimeAfterTrigger");
+   return 0;
+}
+
+int asn1PD_UMTS_TX_InterruptionAfterTrigger(rtxContext* RT_RESTRICT ctx, TX_InterruptionAfterTrigger* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TX-InterruptionAfterTrigger");
+   return 0;
+}
+
+int asn1PD_UMTS_TrafficVolumeEventParam(rtxContext* RT_RESTRICT ctx, TrafficVolumeEventParam* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TrafficVolumeEventParam");
+   /* eventID */
+   stat = pd_ConsUnsigned(ctx, &pvalue->eventID, 0, 1);
+   RT_CHECK(ctx, stat, "TrafficVolumeEventType", "eventID", -1, "TrafficVolumeEventParam");
+   /* reportingThreshold */
+   stat = pd_ConsUnsigned(ctx, &pvalue->reportingThreshold, 0, 25);
+   RT_CHECK(ctx, stat, "TrafficVolumeThreshold", "reportingThreshold", -1, "TrafficVolumeEventParam");
+   /* timeToTrigger */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
+      RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "TrafficVolumeEventParam");
+   }
+   /* pendingTimeAfterTrigger */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->pendingTimeAfterTrigger, 0, 6);
+      RT_CHECK(ctx, stat, "PendingTimeAfterTrigger", "pendingTimeAfterTrigger", -1, "TrafficVolumeEventParam");
+   }
+   /* tx-InterruptionAfterTrigger */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->tx_InterruptionAfterTrigger, 0, 6);
+      RT_CHECK(ctx, stat, "TX-InterruptionAfterTrigger", "tx-InterruptionAfterTrigger", -1, "TrafficVolumeEventParam");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransChCriteria_eventSpecificParameters(rtxContext* RT_RESTRICT ctx, TransChCriteria_eventSpecificParameters* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 2);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      TrafficVolumeEventParam* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TrafficVolumeEventParam));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "TrafficVolumeEventParam", (int32_t)i, 0);
+      elem = (TrafficVolumeEventParam*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_TrafficVolumeEventParam(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_TrafficVolumeEventParam(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "TrafficVolumeEventParam", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransChCriteria(rtxContext* RT_RESTRICT ctx, TransChCriteria* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransChCriteria");
+   /* ul-transportChannelID */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UL_TrCH_Identity(ctx, &pvalue->ul_transportChannelID);
+      RT_CHECK(ctx, stat, 0, "ul-transportChannelID", -1, "TransChCriteria");
+   }
+   /* eventSpecificParameters */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_TransChCriteria_eventSpecificParameters(ctx, &pvalue->eventSpecificParameters);
+      RT_CHECK(ctx, stat, 0, "eventSpecificParameters", -1, "TransChCriteria");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransChCriteriaList(rtxContext* RT_RESTRICT ctx, TransChCriteriaList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransChCriteriaList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      TransChCriteria* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TransChCriteria));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "TransChCriteria", (int32_t)i, "TransChCriteriaList");
+      elem = (TransChCriteria*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_TransChCriteria(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_TransChCriteria(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "TransChCriteria", (int32_t)i, "TransChCriteriaList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TrafficVolumeReportingCriteria(rtxContext* RT_RESTRICT ctx, TrafficVolumeReportingCriteria* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TrafficVolumeReportingCriteria");
+   /* transChCriteriaList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TransChCriteriaList(ctx, &pvalue->transChCriteriaList);
+      RT_CHECK(ctx, stat, 0, "transChCriteriaList", -1, "TrafficVolumeReportingCriteria");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementValidity_ue_State(rtxContext* RT_RESTRICT ctx, MeasurementValidity_ue_State* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementValidity(rtxContext* RT_RESTRICT ctx, MeasurementValidity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ue-State */
+   stat = pd_ConsUnsigned(ctx, &pvalue->ue_State, 0, 2);
+   RT_CHECK(ctx, stat, 0, "ue-State", -1, "MeasurementValidity");
+   return 0;
+}
+
+int asn1PD_UMTS_TrafficVolumeReportCriteriaSysInfo(rtxContext* RT_RESTRICT ctx, TrafficVolumeReportCriteriaSysInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TrafficVolumeReportCriteriaSysInfo");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* trafficVolumeReportingCriteria */
+         pvalue->u.trafficVolumeReportingCriteria = (TrafficVolumeReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(TrafficVolumeReportingCriteria));
+         if (pvalue->u.trafficVolumeReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "trafficVolumeReportingCriteria", -1, "TrafficVolumeReportCriteriaSysInfo");
+         asn1Init_UMTS_TrafficVolumeReportingCriteria(pvalue->u.trafficVolumeReportingCriteria);
+         stat = asn1PD_UMTS_TrafficVolumeReportingCriteria(ctx, pvalue->u.trafficVolumeReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "trafficVolumeReportingCriteria", -1, "TrafficVolumeReportCriteriaSysInfo");
+         break;
+      case 1: /* periodicalReportingCriteria */
+         pvalue->u.periodicalReportingCriteria = (PeriodicalReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalReportingCriteria));
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "TrafficVolumeReportCriteriaSysInfo");
+         asn1Init_UMTS_PeriodicalReportingCriteria(pvalue->u.periodicalReportingCriteria);
+         stat = asn1PD_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "TrafficVolumeReportCriteriaSysInfo");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TrafficVolumeReportCriteriaSysInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TrafficVolumeMeasSysInfo(rtxContext* RT_RESTRICT ctx, TrafficVolumeMeasSysInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TrafficVolumeMeasSysInfo");
+   /* trafficVolumeMeasurementID */
+   if (present & ((uint32_t)1 << 5)) {
+      stat = pd_ConsUInt8(ctx, &pvalue->trafficVolumeMeasurementID, 1, 16);
+      RT_CHECK(ctx, stat, "MeasurementIdentity", "trafficVolumeMeasurementID", -1, "TrafficVolumeMeasSysInfo");
+   }
+   else {
+      pvalue->trafficVolumeMeasurementID = 4;
+   }
+   /* trafficVolumeMeasurementObjectList */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TrafficVolumeMeasurementObjectList(ctx, &pvalue->trafficVolumeMeasurementObjectList);
+      RT_CHECK(ctx, stat, 0, "trafficVolumeMeasurementObjectList", -1, "TrafficVolumeMeasSysInfo");
+   }
+   /* trafficVolumeMeasQuantity */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_TrafficVolumeMeasQuantity(ctx, &pvalue->trafficVolumeMeasQuantity);
+      RT_CHECK(ctx, stat, 0, "trafficVolumeMeasQuantity", -1, "TrafficVolumeMeasSysInfo");
+   }
+   /* trafficVolumeReportingQuantity */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_TrafficVolumeReportingQuantity(ctx, &pvalue->trafficVolumeReportingQuantity);
+      RT_CHECK(ctx, stat, 0, "trafficVolumeReportingQuantity", -1, "TrafficVolumeMeasSysInfo");
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_TrafficVolumeReportingCriteria(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "TrafficVolumeMeasSysInfo");
+   }
+   /* measurementValidity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "TrafficVolumeMeasSysInfo");
+   }
+   /* measurementReportingMode */
+   stat = asn1PD_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
+   RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "TrafficVolumeMeasSysInfo");
+   /* reportCriteriaSysInf */
+   stat = asn1PD_UMTS_TrafficVolumeReportCriteriaSysInfo(ctx, &pvalue->reportCriteriaSysInf);
+   RT_CHECK(ctx, stat, 0, "reportCriteriaSysInf", -1, "TrafficVolumeMeasSysInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_MeasurementQuantity(rtxContext* RT_RESTRICT ctx, UE_MeasurementQuantity* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-MeasurementQuantity");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_InternalMeasQuantity(rtxContext* RT_RESTRICT ctx, UE_InternalMeasQuantity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-InternalMeasQuantity");
+   /* measurementQuantity */
+   stat = pd_ConsUnsigned(ctx, &pvalue->measurementQuantity, 0, 2);
+   RT_CHECK(ctx, stat, "UE-MeasurementQuantity", "measurementQuantity", -1, "UE-InternalMeasQuantity");
+   /* filterCoefficient */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUnsigned(ctx, &pvalue->filterCoefficient, 0, 15);
+      RT_CHECK(ctx, stat, "FilterCoefficient", "filterCoefficient", -1, "UE-InternalMeasQuantity");
+   }
+   else {
+      pvalue->filterCoefficient = 0;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_InternalMeasurementSysInfo(rtxContext* RT_RESTRICT ctx, UE_InternalMeasurementSysInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-InternalMeasurementSysInfo");
+   /* ue-InternalMeasurementID */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUInt8(ctx, &pvalue->ue_InternalMeasurementID, 1, 16);
+      RT_CHECK(ctx, stat, "MeasurementIdentity", "ue-InternalMeasurementID", -1, "UE-InternalMeasurementSysInfo");
+   }
+   else {
+      pvalue->ue_InternalMeasurementID = 5;
+   }
+   /* ue-InternalMeasQuantity */
+   stat = asn1PD_UMTS_UE_InternalMeasQuantity(ctx, &pvalue->ue_InternalMeasQuantity);
+   RT_CHECK(ctx, stat, 0, "ue-InternalMeasQuantity", -1, "UE-InternalMeasurementSysInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfo(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControlSysInfo");
+   /* use-of-HCS */
+   stat = asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS(ctx, &pvalue->use_of_HCS);
+   RT_CHECK(ctx, stat, 0, "use-of-HCS", -1, "MeasurementControlSysInfo");
+   /* trafficVolumeMeasSysInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TrafficVolumeMeasSysInfo(ctx, &pvalue->trafficVolumeMeasSysInfo);
+      RT_CHECK(ctx, stat, 0, "trafficVolumeMeasSysInfo", -1, "MeasurementControlSysInfo");
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UE_InternalMeasurementSysInfo(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "MeasurementControlSysInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_FACH_MeasurementOccasionInfo_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, FACH_MeasurementOccasionInfo_LCR_r4_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* inter-freq-TDD128-meas-ind */
+   stat = rtxDecBitInline(ctx, &pvalue->inter_freq_TDD128_meas_ind);
+   RT_CHECK(ctx, stat, 0, "inter-freq-TDD128-meas-ind", -1, "FACH-MeasurementOccasionInfo-LCR-r4-ext");
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCCPCH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PrimaryCCPCH-Info-LCR-r4");
+   /* tstd-Indicator */
+   stat = rtxDecBitInline(ctx, &pvalue->tstd_Indicator);
+   RT_CHECK(ctx, stat, 0, "tstd-Indicator", -1, "PrimaryCCPCH-Info-LCR-r4");
+   /* cellParametersID */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->cellParametersID, 0, 127);
+      RT_CHECK(ctx, stat, "CellParametersID", "cellParametersID", -1, "PrimaryCCPCH-Info-LCR-r4");
+   }
+   /* sctd-Indicator */
+   stat = rtxDecBitInline(ctx, &pvalue->sctd_Indicator);
+   RT_CHECK(ctx, stat, 0, "sctd-Indicator", -1, "PrimaryCCPCH-Info-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_TimeslotInfo_LCR_r4(rtxContext* RT_RESTRICT ctx, TimeslotInfo_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* timeslotNumber */
+   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 6);
+   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "TimeslotInfo-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_TimeslotInfoList_LCR_r4(rtxContext* RT_RESTRICT ctx, TimeslotInfoList_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 6);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimeslotInfoList-LCR-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      TimeslotInfo_LCR_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TimeslotInfo_LCR_r4));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "TimeslotInfo-LCR-r4", (int32_t)i, "TimeslotInfoList-LCR-r4");
+      elem = (TimeslotInfo_LCR_r4*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_TimeslotInfo_LCR_r4(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "TimeslotInfo-LCR-r4", (int32_t)i, "TimeslotInfoList-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellInfoSI_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, CellInfoSI_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfoSI-RSCP-LCR-r4");
+   /* cellIndividualOffset */
+   if (present & ((uint32_t)1 << 4)) {
+      stat = pd_ConsInt8(ctx, &pvalue->cellIndividualOffset, -20, 20);
+      RT_CHECK(ctx, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-RSCP-LCR-r4");
+   }
+   else {
+      pvalue->cellIndividualOffset = 0;
+   }
+   /* referenceTimeDifferenceToCell */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
+      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-RSCP-LCR-r4");
+   }
+   /* primaryCCPCH-Info */
+   stat = asn1PD_UMTS_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->primaryCCPCH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "CellInfoSI-RSCP-LCR-r4");
+   /* primaryCCPCH-TX-Power */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+      RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "CellInfoSI-RSCP-LCR-r4");
+   }
+   /* timeslotInfoList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_TimeslotInfoList_LCR_r4(ctx, &pvalue->timeslotInfoList);
+      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, "CellInfoSI-RSCP-LCR-r4");
+   }
+   /* readSFN-Indicator */
+   stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
+   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, "CellInfoSI-RSCP-LCR-r4");
+   /* cellSelectionReselectionInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_RSCP(ctx, &pvalue->cellSelectionReselectionInfo);
+      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NewIntraFreqCellSI_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-RSCP-LCR-r4");
+   /* intraFreqCellID */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqCellID, 0, 31);
+      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-RSCP-LCR-r4");
+   }
+   /* cellInfo */
+   stat = asn1PD_UMTS_CellInfoSI_RSCP_LCR_r4(ctx, &pvalue->cellInfo);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-RSCP-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_NewIntraFreqCellSI_List_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-List-RSCP-LCR-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NewIntraFreqCellSI_RSCP_LCR_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCellSI_RSCP_LCR_r4));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewIntraFreqCellSI-RSCP-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-RSCP-LCR-r4");
+      elem = (NewIntraFreqCellSI_RSCP_LCR_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_NewIntraFreqCellSI_RSCP_LCR_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_NewIntraFreqCellSI_RSCP_LCR_r4(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-RSCP-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqCellInfoSI_List_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-RSCP-LCR-r4");
+   /* removedIntraFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
+      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-RSCP-LCR-r4");
+   }
+   /* newIntraFreqCellList */
+   stat = asn1PD_UMTS_NewIntraFreqCellSI_List_RSCP_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
+   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-RSCP-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_ForbiddenAffectCell_LCR_r4(rtxContext* RT_RESTRICT ctx, ForbiddenAffectCell_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* tdd */
+   stat = asn1PD_UMTS_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->tdd);
+   RT_CHECK(ctx, stat, 0, "tdd", -1, "ForbiddenAffectCell-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_ForbiddenAffectCellList_LCR_r4(rtxContext* RT_RESTRICT ctx, ForbiddenAffectCellList_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ForbiddenAffectCellList-LCR-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      ForbiddenAffectCell_LCR_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(ForbiddenAffectCell_LCR_r4));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ForbiddenAffectCell-LCR-r4", (int32_t)i, "ForbiddenAffectCellList-LCR-r4");
+      elem = (ForbiddenAffectCell_LCR_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_ForbiddenAffectCell_LCR_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_ForbiddenAffectCell_LCR_r4(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "ForbiddenAffectCell-LCR-r4", (int32_t)i, "ForbiddenAffectCellList-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Event1a_LCR_r4(rtxContext* RT_RESTRICT ctx, Event1a_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Event1a-LCR-r4");
+   /* triggeringCondition */
+   stat = pd_ConsUnsigned(ctx, &pvalue->triggeringCondition, 0, 4);
+   RT_CHECK(ctx, stat, "TriggeringCondition2", "triggeringCondition", -1, "Event1a-LCR-r4");
+   /* reportingRange */
+   stat = pd_ConsUInt8(ctx, &pvalue->reportingRange, 0, 29);
+   RT_CHECK(ctx, stat, "ReportingRange", "reportingRange", -1, "Event1a-LCR-r4");
+   /* forbiddenAffectCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_ForbiddenAffectCellList_LCR_r4(ctx, &pvalue->forbiddenAffectCellList);
+      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellList", -1, "Event1a-LCR-r4");
+   }
+   /* w */
+   stat = pd_ConsUInt8(ctx, &pvalue->w, 0, 20);
+   RT_CHECK(ctx, stat, "W", "w", -1, "Event1a-LCR-r4");
+   /* reportDeactivationThreshold */
+   stat = pd_ConsUnsigned(ctx, &pvalue->reportDeactivationThreshold, 0, 7);
+   RT_CHECK(ctx, stat, "ReportDeactivationThreshold", "reportDeactivationThreshold", -1, "Event1a-LCR-r4");
+   /* reportingAmount */
+   stat = pd_ConsUnsigned(ctx, &pvalue->reportingAmount, 0, 7);
+   RT_CHECK(ctx, stat, "ReportingAmount", "reportingAmount", -1, "Event1a-LCR-r4");
+   /* reportingInterval */
+   stat = pd_ConsUnsigned(ctx, &pvalue->reportingInterval, 0, 7);
+   RT_CHECK(ctx, stat, "ReportingInterval", "reportingInterval", -1, "Event1a-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_Event1b_LCR_r4(rtxContext* RT_RESTRICT ctx, Event1b_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Event1b-LCR-r4");
+   /* triggeringCondition */
+   stat = pd_ConsUnsigned(ctx, &pvalue->triggeringCondition, 0, 2);
+   RT_CHECK(ctx, stat, "TriggeringCondition1", "triggeringCondition", -1, "Event1b-LCR-r4");
+   /* reportingRange */
+   stat = pd_ConsUInt8(ctx, &pvalue->reportingRange, 0, 29);
+   RT_CHECK(ctx, stat, "ReportingRange", "reportingRange", -1, "Event1b-LCR-r4");
+   /* forbiddenAffectCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_ForbiddenAffectCellList_LCR_r4(ctx, &pvalue->forbiddenAffectCellList);
+      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellList", -1, "Event1b-LCR-r4");
+   }
+   /* w */
+   stat = pd_ConsUInt8(ctx, &pvalue->w, 0, 20);
+   RT_CHECK(ctx, stat, "W", "w", -1, "Event1b-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqEvent_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqEvent_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEvent-LCR-r4");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* e1a */
+         pvalue->u.e1a = (Event1a_LCR_r4*)rtxMemHeapAlloc(ctx, sizeof(Event1a_LCR_r4));
+         if (pvalue->u.e1a == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1a", -1, "IntraFreqEvent-LCR-r4");
+         asn1Init_UMTS_Event1a_LCR_r4(pvalue->u.e1a);
+         stat = asn1PD_UMTS_Event1a_LCR_r4(ctx, pvalue->u.e1a);
+         RT_CHECK(ctx, stat, 0, "e1a", -1, "IntraFreqEvent-LCR-r4");
+         break;
+      case 1: /* e1b */
+         pvalue->u.e1b = (Event1b_LCR_r4*)rtxMemHeapAlloc(ctx, sizeof(Event1b_LCR_r4));
+         if (pvalue->u.e1b == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1b", -1, "IntraFreqEvent-LCR-r4");
+         asn1Init_UMTS_Event1b_LCR_r4(pvalue->u.e1b);
+         stat = asn1PD_UMTS_Event1b_LCR_r4(ctx, pvalue->u.e1b);
+         RT_CHECK(ctx, stat, 0, "e1b", -1, "IntraFreqEvent-LCR-r4");
+         break;
+      case 2: /* e1c */
+         pvalue->u.e1c = (Event1c*)rtxMemHeapAllocZ(ctx, sizeof(Event1c));
+         if (pvalue->u.e1c == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1c", -1, "IntraFreqEvent-LCR-r4");
+         stat = asn1PD_UMTS_Event1c(ctx, pvalue->u.e1c);
+         RT_CHECK(ctx, stat, 0, "e1c", -1, "IntraFreqEvent-LCR-r4");
+         break;
+      case 3: /* e1d */
+         break;
+      case 4: /* e1e */
+         pvalue->u.e1e = (Event1e*)rtxMemHeapAllocZ(ctx, sizeof(Event1e));
+         if (pvalue->u.e1e == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1e", -1, "IntraFreqEvent-LCR-r4");
+         stat = asn1PD_UMTS_Event1e(ctx, pvalue->u.e1e);
+         RT_CHECK(ctx, stat, 0, "e1e", -1, "IntraFreqEvent-LCR-r4");
+         break;
+      case 5: /* e1f */
+         pvalue->u.e1f = (Event1f*)rtxMemHeapAllocZ(ctx, sizeof(Event1f));
+         if (pvalue->u.e1f == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e1f", -1, "IntraFreqEvent-LCR-r4");
+         stat = asn1PD_UMTS_Event1f(ctx, pvalue->u.e1f);
+         RT_CHECK(ctx, stat, 0, "e1f", -1, "IntraFreqEvent-LCR-r4");
+         break;
+      case 6: /* e1g */
+         break;
+      case 7: /* e1h */
+         stat = pd_ConsInt16(ctx, &pvalue->u.e1h, -115, 165);
+         RT_CHECK(ctx, stat, "ThresholdUsedFrequency", "e1h", -1, "IntraFreqEvent-LCR-r4");
+         break;
+      case 8: /* e1i */
+         stat = pd_ConsInt16(ctx, &pvalue->u.e1i, -115, 165);
+         RT_CHECK(ctx, stat, "ThresholdUsedFrequency", "e1i", -1, "IntraFreqEvent-LCR-r4");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqEvent-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqEventCriteria_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteria_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEventCriteria-LCR-r4");
+   /* event */
+   stat = asn1PD_UMTS_IntraFreqEvent_LCR_r4(ctx, &pvalue->event);
+   RT_CHECK(ctx, stat, 0, "event", -1, "IntraFreqEventCriteria-LCR-r4");
+   /* hysteresis */
+   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 15);
+   RT_CHECK(ctx, stat, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria-LCR-r4");
+   /* timeToTrigger */
+   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
+   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria-LCR-r4");
+   /* reportingCellStatus */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "IntraFreqEventCriteria-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqEventCriteriaList_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqEventCriteriaList_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEventCriteriaList-LCR-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      IntraFreqEventCriteria_LCR_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(IntraFreqEventCriteria_LCR_r4));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "IntraFreqEventCriteria-LCR-r4", (int32_t)i, "IntraFreqEventCriteriaList-LCR-r4");
+      elem = (IntraFreqEventCriteria_LCR_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_IntraFreqEventCriteria_LCR_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_IntraFreqEventCriteria_LCR_r4(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "IntraFreqEventCriteria-LCR-r4", (int32_t)i, "IntraFreqEventCriteriaList-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqReportingCriteria_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqReportingCriteria_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqReportingCriteria-LCR-r4");
+   /* eventCriteriaList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntraFreqEventCriteriaList_LCR_r4(ctx, &pvalue->eventCriteriaList);
+      RT_CHECK(ctx, stat, 0, "eventCriteriaList", -1, "IntraFreqReportingCriteria-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellDCH_ReportCriteria_LCR_r4(rtxContext* RT_RESTRICT ctx, CellDCH_ReportCriteria_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellDCH-ReportCriteria-LCR-r4");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* intraFreqReportingCriteria */
+         pvalue->u.intraFreqReportingCriteria = (IntraFreqReportingCriteria_LCR_r4*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingCriteria_LCR_r4));
+         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "intraFreqReportingCriteria", -1, "CellDCH-ReportCriteria-LCR-r4");
+         asn1Init_UMTS_IntraFreqReportingCriteria_LCR_r4(pvalue->u.intraFreqReportingCriteria);
+         stat = asn1PD_UMTS_IntraFreqReportingCriteria_LCR_r4(ctx, pvalue->u.intraFreqReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "CellDCH-ReportCriteria-LCR-r4");
+         break;
+      case 1: /* periodicalReportingCriteria */
+         pvalue->u.periodicalReportingCriteria = (PeriodicalReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalReportingCriteria));
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "periodicalReportingCriteria", -1, "CellDCH-ReportCriteria-LCR-r4");
+         asn1Init_UMTS_PeriodicalReportingCriteria(pvalue->u.periodicalReportingCriteria);
+         stat = asn1PD_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "CellDCH-ReportCriteria-LCR-r4");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CellDCH-ReportCriteria-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ReportingInfoForCellDCH_LCR_r4(rtxContext* RT_RESTRICT ctx, ReportingInfoForCellDCH_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* intraFreqReportingQuantity */
+   stat = asn1PD_UMTS_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity);
+   RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantity", -1, "ReportingInfoForCellDCH-LCR-r4");
+   /* measurementReportingMode */
+   stat = asn1PD_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
+   RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "ReportingInfoForCellDCH-LCR-r4");
+   /* reportCriteria */
+   stat = asn1PD_UMTS_CellDCH_ReportCriteria_LCR_r4(ctx, &pvalue->reportCriteria);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "ReportingInfoForCellDCH-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqMeasurementSysInfo_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
+   /* intraFreqMeasurementID */
+   if (present & ((uint32_t)1 << 5)) {
+      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqMeasurementID, 1, 16);
+      RT_CHECK(ctx, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
+   }
+   else {
+      pvalue->intraFreqMeasurementID = 1;
+   }
+   /* intraFreqCellInfoSI-List */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntraFreqCellInfoSI_List_RSCP_LCR_r4(ctx, &pvalue->intraFreqCellInfoSI_List);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
+   }
+   /* intraFreqMeasQuantity */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
+   }
+   /* intraFreqReportingQuantityForRACH */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
+   }
+   /* maxReportedCellsOnRACH */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->maxReportedCellsOnRACH, 0, 7);
+      RT_CHECK(ctx, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
+   }
+   /* reportingInfoForCellDCH */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_ReportingInfoForCellDCH_LCR_r4(ctx, &pvalue->reportingInfoForCellDCH);
+      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterFreqCellSI_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-RSCP-LCR-r4");
+   /* interFreqCellID */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->interFreqCellID, 0, 31);
+      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-RSCP-LCR-r4");
+   }
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-RSCP-LCR-r4");
+   }
+   /* cellInfo */
+   stat = asn1PD_UMTS_CellInfoSI_RSCP_LCR_r4(ctx, &pvalue->cellInfo);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-RSCP-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterFreqCellSI_List_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-List-RSCP-LCR-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NewInterFreqCellSI_RSCP_LCR_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCellSI_RSCP_LCR_r4));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewInterFreqCellSI-RSCP-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-RSCP-LCR-r4");
+      elem = (NewInterFreqCellSI_RSCP_LCR_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_NewInterFreqCellSI_RSCP_LCR_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_NewInterFreqCellSI_RSCP_LCR_r4(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-RSCP-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqCellInfoSI_List_RSCP_LCR(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoSI_List_RSCP_LCR* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoSI-List-RSCP-LCR");
+   /* removedInterFreqCellList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-RSCP-LCR");
+   }
+   /* newInterFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_NewInterFreqCellSI_List_RSCP_LCR_r4(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-RSCP-LCR");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqMeasurementSysInfo_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, InterFreqMeasurementSysInfo_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-RSCP-LCR-r4");
+   /* interFreqCellInfoSI-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InterFreqCellInfoSI_List_RSCP_LCR(ctx, &pvalue->interFreqCellInfoSI_List);
+      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* intraFreqMeasurementSysInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntraFreqMeasurementSysInfo_RSCP_LCR_r4(ctx, &pvalue->intraFreqMeasurementSysInfo);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
+   }
+   /* interFreqMeasurementSysInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_InterFreqMeasurementSysInfo_RSCP_LCR_r4(ctx, &pvalue->interFreqMeasurementSysInfo);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellInfoSI_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, CellInfoSI_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfoSI-ECN0-LCR-r4");
+   /* cellIndividualOffset */
+   if (present & ((uint32_t)1 << 4)) {
+      stat = pd_ConsInt8(ctx, &pvalue->cellIndividualOffset, -20, 20);
+      RT_CHECK(ctx, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-ECN0-LCR-r4");
+   }
+   else {
+      pvalue->cellIndividualOffset = 0;
+   }
+   /* referenceTimeDifferenceToCell */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
+      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-ECN0-LCR-r4");
+   }
+   /* primaryCCPCH-Info */
+   stat = asn1PD_UMTS_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->primaryCCPCH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "CellInfoSI-ECN0-LCR-r4");
+   /* primaryCCPCH-TX-Power */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+      RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "CellInfoSI-ECN0-LCR-r4");
+   }
+   /* timeslotInfoList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_TimeslotInfoList_LCR_r4(ctx, &pvalue->timeslotInfoList);
+      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, "CellInfoSI-ECN0-LCR-r4");
+   }
+   /* readSFN-Indicator */
+   stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
+   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, "CellInfoSI-ECN0-LCR-r4");
+   /* cellSelectionReselectionInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_ECN0(ctx, &pvalue->cellSelectionReselectionInfo);
+      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NewIntraFreqCellSI_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-ECN0-LCR-r4");
+   /* intraFreqCellID */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqCellID, 0, 31);
+      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-ECN0-LCR-r4");
+   }
+   /* cellInfo */
+   stat = asn1PD_UMTS_CellInfoSI_ECN0_LCR_r4(ctx, &pvalue->cellInfo);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-ECN0-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_NewIntraFreqCellSI_List_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-List-ECN0-LCR-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NewIntraFreqCellSI_ECN0_LCR_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCellSI_ECN0_LCR_r4));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewIntraFreqCellSI-ECN0-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-ECN0-LCR-r4");
+      elem = (NewIntraFreqCellSI_ECN0_LCR_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_NewIntraFreqCellSI_ECN0_LCR_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_NewIntraFreqCellSI_ECN0_LCR_r4(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-ECN0-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqCellInfoSI_List_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-ECN0-LCR-r4");
+   /* removedIntraFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
+      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-ECN0-LCR-r4");
+   }
+   /* newIntraFreqCellList */
+   stat = asn1PD_UMTS_NewIntraFreqCellSI_List_ECN0_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
+   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-ECN0-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqMeasurementSysInfo_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
+   /* intraFreqMeasurementID */
+   if (present & ((uint32_t)1 << 5)) {
+      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqMeasurementID, 1, 16);
+      RT_CHECK(ctx, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
+   }
+   else {
+      pvalue->intraFreqMeasurementID = 1;
+   }
+   /* intraFreqCellInfoSI-List */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntraFreqCellInfoSI_List_ECN0_LCR_r4(ctx, &pvalue->intraFreqCellInfoSI_List);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
+   }
+   /* intraFreqMeasQuantity */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
+   }
+   /* intraFreqReportingQuantityForRACH */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
+   }
+   /* maxReportedCellsOnRACH */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->maxReportedCellsOnRACH, 0, 7);
+      RT_CHECK(ctx, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
+   }
+   /* reportingInfoForCellDCH */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_ReportingInfoForCellDCH_LCR_r4(ctx, &pvalue->reportingInfoForCellDCH);
+      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterFreqCellSI_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-ECN0-LCR-r4");
+   /* interFreqCellID */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->interFreqCellID, 0, 31);
+      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-ECN0-LCR-r4");
+   }
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-ECN0-LCR-r4");
+   }
+   /* cellInfo */
+   stat = asn1PD_UMTS_CellInfoSI_ECN0_LCR_r4(ctx, &pvalue->cellInfo);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-ECN0-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterFreqCellSI_List_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-List-ECN0-LCR-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NewInterFreqCellSI_ECN0_LCR_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCellSI_ECN0_LCR_r4));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewInterFreqCellSI-ECN0-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-ECN0-LCR-r4");
+      elem = (NewInterFreqCellSI_ECN0_LCR_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_NewInterFreqCellSI_ECN0_LCR_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_NewInterFreqCellSI_ECN0_LCR_r4(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-ECN0-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqCellInfoSI_List_ECN0_LCR(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoSI_List_ECN0_LCR* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoSI-List-ECN0-LCR");
+   /* removedInterFreqCellList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-ECN0-LCR");
+   }
+   /* newInterFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_NewInterFreqCellSI_List_ECN0_LCR_r4(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-ECN0-LCR");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqMeasurementSysInfo_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, InterFreqMeasurementSysInfo_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-ECN0-LCR-r4");
+   /* interFreqCellInfoSI-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InterFreqCellInfoSI_List_ECN0_LCR(ctx, &pvalue->interFreqCellInfoSI_List);
+      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* intraFreqMeasurementSysInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntraFreqMeasurementSysInfo_ECN0_LCR_r4(ctx, &pvalue->intraFreqMeasurementSysInfo);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
+   }
+   /* interFreqMeasurementSysInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_InterFreqMeasurementSysInfo_ECN0_LCR_r4(ctx, &pvalue->interFreqMeasurementSysInfo);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* cpich-RSCP */
+         pvalue->u.cpich_RSCP = (MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP));
+         if (pvalue->u.cpich_RSCP == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cpich-RSCP", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(pvalue->u.cpich_RSCP);
+         stat = asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
+         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
+         break;
+      case 1: /* cpich-Ec-N0 */
+         pvalue->u.cpich_Ec_N0 = (MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0));
+         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cpich-Ec-N0", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(pvalue->u.cpich_Ec_N0);
+         stat = asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
+         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* cellSelectQualityMeasure */
+   stat = asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
+   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CellInfoSI_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfoSI-HCS-RSCP-LCR-r4");
+   /* cellIndividualOffset */
+   if (present & ((uint32_t)1 << 4)) {
+      stat = pd_ConsInt8(ctx, &pvalue->cellIndividualOffset, -20, 20);
+      RT_CHECK(ctx, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
+   }
+   else {
+      pvalue->cellIndividualOffset = 0;
+   }
+   /* referenceTimeDifferenceToCell */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
+      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
+   }
+   /* primaryCCPCH-Info */
+   stat = asn1PD_UMTS_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->primaryCCPCH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
+   /* primaryCCPCH-TX-Power */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+      RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
+   }
+   /* timeslotInfoList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_TimeslotInfoList_LCR_r4(ctx, &pvalue->timeslotInfoList);
+      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
+   }
+   /* readSFN-Indicator */
+   stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
+   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
+   /* cellSelectionReselectionInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP(ctx, &pvalue->cellSelectionReselectionInfo);
+      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NewIntraFreqCellSI_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4");
+   /* intraFreqCellID */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqCellID, 0, 31);
+      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4");
+   }
+   /* cellInfo */
+   stat = asn1PD_UMTS_CellInfoSI_HCS_RSCP_LCR_r4(ctx, &pvalue->cellInfo);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-List-HCS-RSCP-LCR-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NewIntraFreqCellSI_HCS_RSCP_LCR_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCellSI_HCS_RSCP_LCR_r4));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-HCS-RSCP-LCR-r4");
+      elem = (NewIntraFreqCellSI_HCS_RSCP_LCR_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_NewIntraFreqCellSI_HCS_RSCP_LCR_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_NewIntraFreqCellSI_HCS_RSCP_LCR_r4(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-HCS-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqCellInfoSI_List_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-HCS-RSCP-LCR-r4");
+   /* removedIntraFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
+      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-RSCP-LCR-r4");
+   }
+   /* newIntraFreqCellList */
+   stat = asn1PD_UMTS_NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
+   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-RSCP-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   /* intraFreqMeasurementID */
+   if (present & ((uint32_t)1 << 5)) {
+      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqMeasurementID, 1, 16);
+      RT_CHECK(ctx, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   }
+   else {
+      pvalue->intraFreqMeasurementID = 1;
+   }
+   /* intraFreqCellInfoSI-List */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntraFreqCellInfoSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->intraFreqCellInfoSI_List);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   }
+   /* intraFreqMeasQuantity */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   }
+   /* intraFreqReportingQuantityForRACH */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   }
+   /* maxReportedCellsOnRACH */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->maxReportedCellsOnRACH, 0, 7);
+      RT_CHECK(ctx, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   }
+   /* reportingInfoForCellDCH */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_ReportingInfoForCellDCH_LCR_r4(ctx, &pvalue->reportingInfoForCellDCH);
+      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterFreqCellSI_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-HCS-RSCP-LCR-r4");
+   /* interFreqCellID */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->interFreqCellID, 0, 31);
+      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-HCS-RSCP-LCR-r4");
+   }
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-HCS-RSCP-LCR-r4");
+   }
+   /* cellInfo */
+   stat = asn1PD_UMTS_CellInfoSI_HCS_RSCP_LCR_r4(ctx, &pvalue->cellInfo);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-HCS-RSCP-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterFreqCellSI_List_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-List-HCS-RSCP-LCR-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NewInterFreqCellSI_HCS_RSCP_LCR_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCellSI_HCS_RSCP_LCR_r4));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewInterFreqCellSI-HCS-RSCP-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-HCS-RSCP-LCR-r4");
+      elem = (NewInterFreqCellSI_HCS_RSCP_LCR_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_NewInterFreqCellSI_HCS_RSCP_LCR_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_NewInterFreqCellSI_HCS_RSCP_LCR_r4(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-HCS-RSCP-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-HCS-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqCellInfoSI_List_HCS_RSCP_LCR(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoSI_List_HCS_RSCP_LCR* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoSI-List-HCS-RSCP-LCR");
+   /* removedInterFreqCellList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-RSCP-LCR");
+   }
+   /* newInterFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_NewInterFreqCellSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-RSCP-LCR");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, InterFreqMeasurementSysInfo_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   /* interFreqCellInfoSI-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InterFreqCellInfoSI_List_HCS_RSCP_LCR(ctx, &pvalue->interFreqCellInfoSI_List);
+      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* intraFreqMeasurementSysInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntraFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(ctx, &pvalue->intraFreqMeasurementSysInfo);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
+   }
+   /* interFreqMeasurementSysInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_InterFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(ctx, &pvalue->interFreqMeasurementSysInfo);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellInfoSI_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, CellInfoSI_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfoSI-HCS-ECN0-LCR-r4");
+   /* cellIndividualOffset */
+   if (present & ((uint32_t)1 << 4)) {
+      stat = pd_ConsInt8(ctx, &pvalue->cellIndividualOffset, -20, 20);
+      RT_CHECK(ctx, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
+   }
+   else {
+      pvalue->cellIndividualOffset = 0;
+   }
+   /* referenceTimeDifferenceToCell */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
+      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
+   }
+   /* primaryCCPCH-Info */
+   stat = asn1PD_UMTS_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->primaryCCPCH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
+   /* primaryCCPCH-TX-Power */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+      RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
+   }
+   /* timeslotInfoList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_TimeslotInfoList_LCR_r4(ctx, &pvalue->timeslotInfoList);
+      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
+   }
+   /* readSFN-Indicator */
+   stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
+   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
+   /* cellSelectionReselectionInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0(ctx, &pvalue->cellSelectionReselectionInfo);
+      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NewIntraFreqCellSI_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4");
+   /* intraFreqCellID */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqCellID, 0, 31);
+      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4");
+   }
+   /* cellInfo */
+   stat = asn1PD_UMTS_CellInfoSI_HCS_ECN0_LCR_r4(ctx, &pvalue->cellInfo);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-List-HCS-ECN0-LCR-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NewIntraFreqCellSI_HCS_ECN0_LCR_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCellSI_HCS_ECN0_LCR_r4));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-HCS-ECN0-LCR-r4");
+      elem = (NewIntraFreqCellSI_HCS_ECN0_LCR_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_NewIntraFreqCellSI_HCS_ECN0_LCR_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_NewIntraFreqCellSI_HCS_ECN0_LCR_r4(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-HCS-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqCellInfoSI_List_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqCellInfoSI_List_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-HCS-ECN0-LCR-r4");
+   /* removedIntraFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
+      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-ECN0-LCR-r4");
+   }
+   /* newIntraFreqCellList */
+   stat = asn1PD_UMTS_NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
+   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-ECN0-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, IntraFreqMeasurementSysInfo_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   /* intraFreqMeasurementID */
+   if (present & ((uint32_t)1 << 5)) {
+      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqMeasurementID, 1, 16);
+      RT_CHECK(ctx, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   }
+   else {
+      pvalue->intraFreqMeasurementID = 1;
+   }
+   /* intraFreqCellInfoSI-List */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntraFreqCellInfoSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->intraFreqCellInfoSI_List);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   }
+   /* intraFreqMeasQuantity */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   }
+   /* intraFreqReportingQuantityForRACH */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   }
+   /* maxReportedCellsOnRACH */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->maxReportedCellsOnRACH, 0, 7);
+      RT_CHECK(ctx, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   }
+   /* reportingInfoForCellDCH */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_ReportingInfoForCellDCH_LCR_r4(ctx, &pvalue->reportingInfoForCellDCH);
+      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterFreqCellSI_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-HCS-ECN0-LCR-r4");
+   /* interFreqCellID */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->interFreqCellID, 0, 31);
+      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-HCS-ECN0-LCR-r4");
+   }
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-HCS-ECN0-LCR-r4");
+   }
+   /* cellInfo */
+   stat = asn1PD_UMTS_CellInfoSI_HCS_ECN0_LCR_r4(ctx, &pvalue->cellInfo);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-HCS-ECN0-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterFreqCellSI_List_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, NewInterFreqCellSI_List_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-List-HCS-ECN0-LCR-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NewInterFreqCellSI_HCS_ECN0_LCR_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCellSI_HCS_ECN0_LCR_r4));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewInterFreqCellSI-HCS-ECN0-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-HCS-ECN0-LCR-r4");
+      elem = (NewInterFreqCellSI_HCS_ECN0_LCR_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_NewInterFreqCellSI_HCS_ECN0_LCR_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_NewInterFreqCellSI_HCS_ECN0_LCR_r4(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-HCS-ECN0-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-HCS-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqCellInfoSI_List_HCS_ECN0_LCR(rtxContext* RT_RESTRICT ctx, InterFreqCellInfoSI_List_HCS_ECN0_LCR* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoSI-List-HCS-ECN0-LCR");
+   /* removedInterFreqCellList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-ECN0-LCR");
+   }
+   /* newInterFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_NewInterFreqCellSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-ECN0-LCR");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, InterFreqMeasurementSysInfo_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   /* interFreqCellInfoSI-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InterFreqCellInfoSI_List_HCS_ECN0_LCR(ctx, &pvalue->interFreqCellInfoSI_List);
+      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* intraFreqMeasurementSysInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntraFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(ctx, &pvalue->intraFreqMeasurementSysInfo);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
+   }
+   /* interFreqMeasurementSysInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_InterFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(ctx, &pvalue->interFreqMeasurementSysInfo);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* cpich-RSCP */
+         pvalue->u.cpich_RSCP = (MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP));
+         if (pvalue->u.cpich_RSCP == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cpich-RSCP", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(pvalue->u.cpich_RSCP);
+         stat = asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
+         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
+         break;
+      case 1: /* cpich-Ec-N0 */
+         pvalue->u.cpich_Ec_N0 = (MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0));
+         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cpich-Ec-N0", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(pvalue->u.cpich_Ec_N0);
+         stat = asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
+         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* cellSelectQualityMeasure */
+   stat = asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
+   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* hcs-not-used */
+         pvalue->u.hcs_not_used = (MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used));
+         if (pvalue->u.hcs_not_used == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "hcs-not-used", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used(pvalue->u.hcs_not_used);
+         stat = asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used(ctx, pvalue->u.hcs_not_used);
+         RT_CHECK(ctx, stat, 0, "hcs-not-used", -1, 0);
+         break;
+      case 1: /* hcs-used */
+         pvalue->u.hcs_used = (MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used));
+         if (pvalue->u.hcs_used == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "hcs-used", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used(pvalue->u.hcs_used);
+         stat = asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used(ctx, pvalue->u.hcs_used);
+         RT_CHECK(ctx, stat, 0, "hcs-used", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfo_LCR_r4_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* use-of-HCS */
+   stat = asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS(ctx, &pvalue->use_of_HCS);
+   RT_CHECK(ctx, stat, 0, "use-of-HCS", -1, "MeasurementControlSysInfo-LCR-r4-ext");
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11-v4b0ext-IEs");
+   /* fach-MeasurementOccasionInfo-LCR-Ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_FACH_MeasurementOccasionInfo_LCR_r4_ext(ctx, &pvalue->fach_MeasurementOccasionInfo_LCR_Ext);
+      RT_CHECK(ctx, stat, 0, "fach-MeasurementOccasionInfo-LCR-Ext", -1, "SysInfoType11-v4b0ext-IEs");
+   }
+   /* measurementControlSysInfo-LCR */
+   stat = asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext(ctx, &pvalue->measurementControlSysInfo_LCR);
+   RT_CHECK(ctx, stat, 0, "measurementControlSysInfo-LCR", -1, "SysInfoType11-v4b0ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, SysInfoType11_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CellSelectReselectInfo_v590ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellSelectReselectInfo_v590ext));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+      elem = (CellSelectReselectInfo_v590ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_CellSelectReselectInfo_v590ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_CellSelectReselectInfo_v590ext(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, SysInfoType11_v590ext_IEs_newInterFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CellSelectReselectInfo_v590ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellSelectReselectInfo_v590ext));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+      elem = (CellSelectReselectInfo_v590ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_CellSelectReselectInfo_v590ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_CellSelectReselectInfo_v590ext(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11_v590ext_IEs_newInterRATCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, SysInfoType11_v590ext_IEs_newInterRATCellInfoList_v590ext* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CellSelectReselectInfo_v590ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellSelectReselectInfo_v590ext));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+      elem = (CellSelectReselectInfo_v590ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_CellSelectReselectInfo_v590ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_CellSelectReselectInfo_v590ext(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Intra_FreqEventCriteriaList_v590ext(rtxContext* RT_RESTRICT ctx, Intra_FreqEventCriteriaList_v590ext* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 3);
+      RT_CHECK(ctx, stat, 0, 0, -1, "Intra-FreqEventCriteriaList-v590ext");
+      pvalue->n = raw + 1;
+      if (raw > 7) {
+         rtxErrAddStrParm(ctx, "Intra-FreqEventCriteriaList-v590ext");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "Intra-FreqEventCriteriaList-v590ext");
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsInt8(ctx, &pvalue->elem[i], -5, -1);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, "DeltaRSCP", "DeltaRSCP", (int32_t)i, "Intra-FreqEventCriteriaList-v590ext");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PeriodicReportingInfo_1b(rtxContext* RT_RESTRICT ctx, PeriodicReportingInfo_1b* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* reportingAmount */
+   stat = pd_ConsUnsigned(ctx, &pvalue->reportingAmount, 0, 7);
+   RT_CHECK(ctx, stat, "ReportingAmount", "reportingAmount", -1, "PeriodicReportingInfo-1b");
+   /* reportingInterval */
+   stat = pd_ConsUnsigned(ctx, &pvalue->reportingInterval, 0, 7);
+   RT_CHECK(ctx, stat, "ReportingInterval", "reportingInterval", -1, "PeriodicReportingInfo-1b");
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqReportingCriteria_1b_r5(rtxContext* RT_RESTRICT ctx, IntraFreqReportingCriteria_1b_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* periodicReportingInfo-1b */
+   stat = asn1PD_UMTS_PeriodicReportingInfo_1b(ctx, &pvalue->periodicReportingInfo_1b);
+   RT_CHECK(ctx, stat, 0, "periodicReportingInfo-1b", -1, "IntraFreqReportingCriteria-1b-r5");
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqEvent_1d_r5(rtxContext* RT_RESTRICT ctx, IntraFreqEvent_1d_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEvent-1d-r5");
+   /* triggeringCondition */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->triggeringCondition, 0, 4);
+      RT_CHECK(ctx, stat, "TriggeringCondition2", "triggeringCondition", -1, "IntraFreqEvent-1d-r5");
+   }
+   /* useCIO */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = rtxDecBitInline(ctx, &pvalue->useCIO);
+      RT_CHECK(ctx, stat, 0, "useCIO", -1, "IntraFreqEvent-1d-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11_v590ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11-v590ext-IEs");
+   /* newIntraFrequencyCellInfoList-v590ext */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType11_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(ctx, &pvalue->newIntraFrequencyCellInfoList_v590ext);
+      RT_CHECK(ctx, stat, 0, "newIntraFrequencyCellInfoList-v590ext", -1, "SysInfoType11-v590ext-IEs");
+   }
+   /* newInterFrequencyCellInfoList-v590ext */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SysInfoType11_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(ctx, &pvalue->newInterFrequencyCellInfoList_v590ext);
+      RT_CHECK(ctx, stat, 0, "newInterFrequencyCellInfoList-v590ext", -1, "SysInfoType11-v590ext-IEs");
+   }
+   /* newInterRATCellInfoList-v590ext */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_SysInfoType11_v590ext_IEs_newInterRATCellInfoList_v590ext(ctx, &pvalue->newInterRATCellInfoList_v590ext);
+      RT_CHECK(ctx, stat, 0, "newInterRATCellInfoList-v590ext", -1, "SysInfoType11-v590ext-IEs");
+   }
+   /* intraFreqEventCriteriaList-v590ext */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_Intra_FreqEventCriteriaList_v590ext(ctx, &pvalue->intraFreqEventCriteriaList_v590ext);
+      RT_CHECK(ctx, stat, 0, "intraFreqEventCriteriaList-v590ext", -1, "SysInfoType11-v590ext-IEs");
+   }
+   /* intraFreqReportingCriteria-1b-r5 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_IntraFreqReportingCriteria_1b_r5(ctx, &pvalue->intraFreqReportingCriteria_1b_r5);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria-1b-r5", -1, "SysInfoType11-v590ext-IEs");
+   }
+   /* intraFreqEvent-1d-r5 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_IntraFreqEvent_1d_r5(ctx, &pvalue->intraFreqEvent_1d_r5);
+      RT_CHECK(ctx, stat, 0, "intraFreqEvent-1d-r5", -1, "SysInfoType11-v590ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqRepQuantityRACH_FDD(rtxContext* RT_RESTRICT ctx, InterFreqRepQuantityRACH_FDD* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqRepQuantityRACH-FDD");
+   return 0;
+}
+
+int asn1PD_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* interFreqRepQuantityRACH-FDD */
+   stat = pd_ConsUnsigned(ctx, &pvalue->interFreqRepQuantityRACH_FDD, 0, 1);
+   RT_CHECK(ctx, stat, "InterFreqRepQuantityRACH-FDD", "interFreqRepQuantityRACH-FDD", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqRepQuantityRACH_TDD(rtxContext* RT_RESTRICT ctx, InterFreqRepQuantityRACH_TDD* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqRepQuantityRACH-TDD");
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqRepQuantityRACH_TDDList(rtxContext* RT_RESTRICT ctx, InterFreqRepQuantityRACH_TDDList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 1);
+      RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqRepQuantityRACH-TDDList");
+      pvalue->n = raw + 1;
+      if (raw > 1) {
+         rtxErrAddStrParm(ctx, "InterFreqRepQuantityRACH-TDDList");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "InterFreqRepQuantityRACH-TDDList");
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 1);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, "InterFreqRepQuantityRACH-TDD", "InterFreqRepQuantityRACH-TDD", (int32_t)i, "InterFreqRepQuantityRACH-TDDList");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* interFreqRepQuantityRACH-TDDList */
+   stat = asn1PD_UMTS_InterFreqRepQuantityRACH_TDDList(ctx, &pvalue->interFreqRepQuantityRACH_TDDList);
+   RT_CHECK(ctx, stat, 0, "interFreqRepQuantityRACH-TDDList", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_Threshold(rtxContext* RT_RESTRICT ctx, Threshold* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsInt8(ctx, pvalue, -115, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Threshold");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxReportedCellsOnRACHinterFreq(rtxContext* RT_RESTRICT ctx, MaxReportedCellsOnRACHinterFreq* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxReportedCellsOnRACHinterFreq");
+   return 0;
+}
+
+int asn1PD_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, Dummy_InterFreqRACHReportingInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = asn1PD_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      case 2: /* interFreqRACHReportingThreshold */
+         stat = pd_ConsInt8(ctx, &pvalue->u.interFreqRACHReportingThreshold, -115, 0);
+         RT_CHECK(ctx, stat, "Threshold", "interFreqRACHReportingThreshold", -1, 0);
+         break;
+      case 3: /* maxReportedCellsOnRACHinterFreq */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.maxReportedCellsOnRACHinterFreq, 1, 8);
+         RT_CHECK(ctx, stat, "MaxReportedCellsOnRACHinterFreq", "maxReportedCellsOnRACHinterFreq", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Dummy_InterFreqRACHReportingInfo(rtxContext* RT_RESTRICT ctx, Dummy_InterFreqRACHReportingInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "Dummy-InterFreqRACHReportingInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11_v690ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11-v690ext-IEs");
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_Dummy_InterFreqRACHReportingInfo(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "SysInfoType11-v690ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, InterFreqRACHReportingInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* interFreqRepQuantityRACH-FDD */
+   stat = pd_ConsUnsigned(ctx, &pvalue->interFreqRepQuantityRACH_FDD, 0, 1);
+   RT_CHECK(ctx, stat, "InterFreqRepQuantityRACH-FDD", "interFreqRepQuantityRACH-FDD", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, InterFreqRACHReportingInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* interFreqRepQuantityRACH-TDDList */
+   stat = asn1PD_UMTS_InterFreqRepQuantityRACH_TDDList(ctx, &pvalue->interFreqRepQuantityRACH_TDDList);
+   RT_CHECK(ctx, stat, 0, "interFreqRepQuantityRACH-TDDList", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, InterFreqRACHReportingInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (InterFreqRACHReportingInfo_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(InterFreqRACHReportingInfo_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = asn1PD_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (InterFreqRACHReportingInfo_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(InterFreqRACHReportingInfo_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterFreqRACHReportingInfo(rtxContext* RT_RESTRICT ctx, InterFreqRACHReportingInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "InterFreqRACHReportingInfo");
+   /* interFreqRACHReportingThreshold */
+   stat = pd_ConsInt8(ctx, &pvalue->interFreqRACHReportingThreshold, -115, 0);
+   RT_CHECK(ctx, stat, "Threshold", "interFreqRACHReportingThreshold", -1, "InterFreqRACHReportingInfo");
+   /* maxReportedCellsOnRACHinterFreq */
+   stat = pd_ConsUInt8(ctx, &pvalue->maxReportedCellsOnRACHinterFreq, 1, 8);
+   RT_CHECK(ctx, stat, "MaxReportedCellsOnRACHinterFreq", "maxReportedCellsOnRACHinterFreq", -1, "InterFreqRACHReportingInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11_v6b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11-v6b0ext-IEs");
+   /* interFreqRACHReportingInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InterFreqRACHReportingInfo(ctx, &pvalue->interFreqRACHReportingInfo);
+      RT_CHECK(ctx, stat, 0, "interFreqRACHReportingInfo", -1, "SysInfoType11-v6b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFNFrequency(rtxContext* RT_RESTRICT ctx, MBSFNFrequency* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBSFNFrequency");
+   /* frequencyInfo */
+   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "MBSFNFrequency");
+   /* cellParametersID */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->cellParametersID, 0, 127);
+      RT_CHECK(ctx, stat, "CellParametersID", "cellParametersID", -1, "MBSFNFrequency");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFNFrequencyList(rtxContext* RT_RESTRICT ctx, MBSFNFrequencyList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 0, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBSFNFrequencyList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBSFNFrequency* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBSFNFrequency));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBSFNFrequency", (int32_t)i, "MBSFNFrequencyList");
+      elem = (MBSFNFrequency*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBSFNFrequency(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MBSFNFrequency(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "MBSFNFrequency", (int32_t)i, "MBSFNFrequencyList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11-v770ext-IEs");
+   /* mbsfnFrequencyList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBSFNFrequencyList(ctx, &pvalue->mbsfnFrequencyList);
+      RT_CHECK(ctx, stat, 0, "mbsfnFrequencyList", -1, "SysInfoType11-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterFreqCell_v7b0ext(rtxContext* RT_RESTRICT ctx, NewInterFreqCell_v7b0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* intraSecondaryFreqIndicator */
+   stat = rtxDecBitInline(ctx, &pvalue->intraSecondaryFreqIndicator);
+   RT_CHECK(ctx, stat, 0, "intraSecondaryFreqIndicator", -1, "NewInterFreqCell-v7b0ext");
+   return 0;
+}
+
+int asn1PD_UMTS_NewInterFreqCellList_v7b0ext(rtxContext* RT_RESTRICT ctx, NewInterFreqCellList_v7b0ext* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellList-v7b0ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NewInterFreqCell_v7b0ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCell_v7b0ext));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewInterFreqCell-v7b0ext", (int32_t)i, "NewInterFreqCellList-v7b0ext");
+      elem = (NewInterFreqCell_v7b0ext*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_NewInterFreqCell_v7b0ext(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCell-v7b0ext", (int32_t)i, "NewInterFreqCellList-v7b0ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11_v7b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11_v7b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11-v7b0ext-IEs");
+   /* newInterFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_NewInterFreqCellList_v7b0ext(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "SysInfoType11-v7b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFNFrequency_v860ext_imb_Indication(rtxContext* RT_RESTRICT ctx, MBSFNFrequency_v860ext_imb_Indication* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFNFrequency_v860ext(rtxContext* RT_RESTRICT ctx, MBSFNFrequency_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBSFNFrequency-v860ext");
+   /* imb-Indication */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "imb-Indication", -1, "MBSFNFrequency-v860ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "imb-Indication", -1, "MBSFNFrequency-v860ext");
+         pvalue->imb_Indication = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFNFrequencyList_v860ext(rtxContext* RT_RESTRICT ctx, MBSFNFrequencyList_v860ext* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 0, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBSFNFrequencyList-v860ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBSFNFrequency_v860ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBSFNFrequency_v860ext));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBSFNFrequency-v860ext", (int32_t)i, "MBSFNFrequencyList-v860ext");
+      elem = (MBSFNFrequency_v860ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBSFNFrequency_v860ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MBSFNFrequency_v860ext(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "MBSFNFrequency-v860ext", (int32_t)i, "MBSFNFrequencyList-v860ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11_v860ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11-v860ext-IEs");
+   /* mbsfnFrequencyList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBSFNFrequencyList_v860ext(ctx, &pvalue->mbsfnFrequencyList);
+      RT_CHECK(ctx, stat, 0, "mbsfnFrequencyList", -1, "SysInfoType11-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType11-v860ext */
+   stat = asn1PD_UMTS_SysInfoType11_v860ext_IEs(ctx, &pvalue->sysInfoType11_v860ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType11-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType11-v7b0ext */
+   stat = asn1PD_UMTS_SysInfoType11_v7b0ext_IEs(ctx, &pvalue->sysInfoType11_v7b0ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType11-v7b0ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType11-v770ext */
+   stat = asn1PD_UMTS_SysInfoType11_v770ext_IEs(ctx, &pvalue->sysInfoType11_v770ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType11-v770ext", -1, 0);
+   /* v7b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions(ctx, &pvalue->v7b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType11-v6b0ext */
+   stat = asn1PD_UMTS_SysInfoType11_v6b0ext_IEs(ctx, &pvalue->sysInfoType11_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType11-v6b0ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType11-v690ext */
+   stat = asn1PD_UMTS_SysInfoType11_v690ext_IEs(ctx, &pvalue->sysInfoType11_v690ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType11-v690ext", -1, 0);
+   /* v6b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType11-v590ext */
+   stat = asn1PD_UMTS_SysInfoType11_v590ext_IEs(ctx, &pvalue->sysInfoType11_v590ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType11-v590ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType11-v4b0ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType11_v4b0ext_IEs(ctx, &pvalue->sysInfoType11_v4b0ext);
+      RT_CHECK(ctx, stat, 0, "sysInfoType11-v4b0ext", -1, 0);
+   }
+   /* v590NonCriticalExtension */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension(ctx, &pvalue->v590NonCriticalExtension);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtension", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11(rtxContext* RT_RESTRICT ctx, SysInfoType11* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11");
+   /* sib12indicator */
+   stat = rtxDecBitInline(ctx, &pvalue->sib12indicator);
+   RT_CHECK(ctx, stat, 0, "sib12indicator", -1, "SysInfoType11");
+   /* fach-MeasurementOccasionInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_FACH_MeasurementOccasionInfo(ctx, &pvalue->fach_MeasurementOccasionInfo);
+      RT_CHECK(ctx, stat, 0, "fach-MeasurementOccasionInfo", -1, "SysInfoType11");
+   }
+   /* measurementControlSysInfo */
+   stat = asn1PD_UMTS_MeasurementControlSysInfo(ctx, &pvalue->measurementControlSysInfo);
+   RT_CHECK(ctx, stat, 0, "measurementControlSysInfo", -1, "SysInfoType11");
+   /* v4b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType11");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* newIntraFreqCellList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_NewIntraFreqCellSI_List_RSCP(ctx, &pvalue->newIntraFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
+   }
+   /* newInterFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_NewInterFreqCellSI_List_RSCP(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* newIntraFreqCellList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_NewIntraFreqCellSI_List_ECN0(ctx, &pvalue->newIntraFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
+   }
+   /* newInterFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_NewInterFreqCellSI_List_ECN0(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* cpich-RSCP */
+         pvalue->u.cpich_RSCP = (MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP));
+         if (pvalue->u.cpich_RSCP == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cpich-RSCP", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(pvalue->u.cpich_RSCP);
+         stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
+         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
+         break;
+      case 1: /* cpich-Ec-N0 */
+         pvalue->u.cpich_Ec_N0 = (MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0));
+         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cpich-Ec-N0", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(pvalue->u.cpich_Ec_N0);
+         stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
+         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellSelectQualityMeasure */
+   stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
+   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
+   /* newInterRATCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
+      RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* newIntraFreqCellList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_NewIntraFreqCellSI_List_HCS_RSCP(ctx, &pvalue->newIntraFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
+   }
+   /* newInterFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_NewInterFreqCellSI_List_HCS_RSCP(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* newIntraFreqCellList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_NewIntraFreqCellSI_List_HCS_ECN0(ctx, &pvalue->newIntraFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
+   }
+   /* newInterFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_NewInterFreqCellSI_List_HCS_ECN0(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* cpich-RSCP */
+         pvalue->u.cpich_RSCP = (MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP));
+         if (pvalue->u.cpich_RSCP == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cpich-RSCP", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(pvalue->u.cpich_RSCP);
+         stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
+         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
+         break;
+      case 1: /* cpich-Ec-N0 */
+         pvalue->u.cpich_Ec_N0 = (MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0));
+         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cpich-Ec-N0", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(pvalue->u.cpich_Ec_N0);
+         stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
+         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_used* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellSelectQualityMeasure */
+   stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
+   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
+   /* newInterRATCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
+      RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_use_of_HCS* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* hcs-not-used */
+         pvalue->u.hcs_not_used = (MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used));
+         if (pvalue->u.hcs_not_used == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "hcs-not-used", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used(pvalue->u.hcs_not_used);
+         stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used(ctx, pvalue->u.hcs_not_used);
+         RT_CHECK(ctx, stat, 0, "hcs-not-used", -1, 0);
+         break;
+      case 1: /* hcs-used */
+         pvalue->u.hcs_used = (MeasurementControlSysInfoExtension_use_of_HCS_hcs_used*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_use_of_HCS_hcs_used));
+         if (pvalue->u.hcs_used == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "hcs-used", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used(pvalue->u.hcs_used);
+         stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used(ctx, pvalue->u.hcs_used);
+         RT_CHECK(ctx, stat, 0, "hcs-used", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* use-of-HCS */
+   stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS(ctx, &pvalue->use_of_HCS);
+   RT_CHECK(ctx, stat, 0, "use-of-HCS", -1, "MeasurementControlSysInfoExtension");
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* newIntraFreqCellList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_NewIntraFreqCellSI_List_RSCP_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
+   }
+   /* newInterFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_NewInterFreqCellSI_List_RSCP_LCR_r4(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* newIntraFreqCellList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_NewIntraFreqCellSI_List_ECN0_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
+   }
+   /* newInterFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_NewInterFreqCellSI_List_ECN0_LCR_r4(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* cpich-RSCP */
+         pvalue->u.cpich_RSCP = (MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP));
+         if (pvalue->u.cpich_RSCP == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cpich-RSCP", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(pvalue->u.cpich_RSCP);
+         stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
+         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
+         break;
+      case 1: /* cpich-Ec-N0 */
+         pvalue->u.cpich_Ec_N0 = (MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0));
+         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cpich-Ec-N0", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(pvalue->u.cpich_Ec_N0);
+         stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
+         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellSelectQualityMeasure */
+   stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
+   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
+   /* newInterRATCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
+      RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* newIntraFreqCellList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
+   }
+   /* newInterFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_NewInterFreqCellSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* newIntraFreqCellList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
+   }
+   /* newInterFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_NewInterFreqCellSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* cpich-RSCP */
+         pvalue->u.cpich_RSCP = (MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP));
+         if (pvalue->u.cpich_RSCP == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cpich-RSCP", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(pvalue->u.cpich_RSCP);
+         stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
+         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
+         break;
+      case 1: /* cpich-Ec-N0 */
+         pvalue->u.cpich_Ec_N0 = (MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0));
+         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cpich-Ec-N0", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(pvalue->u.cpich_Ec_N0);
+         stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
+         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellSelectQualityMeasure */
+   stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
+   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
+   /* newInterRATCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
+      RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* hcs-not-used */
+         pvalue->u.hcs_not_used = (MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used));
+         if (pvalue->u.hcs_not_used == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "hcs-not-used", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used(pvalue->u.hcs_not_used);
+         stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used(ctx, pvalue->u.hcs_not_used);
+         RT_CHECK(ctx, stat, 0, "hcs-not-used", -1, 0);
+         break;
+      case 1: /* hcs-used */
+         pvalue->u.hcs_used = (MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used));
+         if (pvalue->u.hcs_used == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "hcs-used", -1, 0);
+         asn1Init_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used(pvalue->u.hcs_used);
+         stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used(ctx, pvalue->u.hcs_used);
+         RT_CHECK(ctx, stat, 0, "hcs-used", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtension_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* use-of-HCS */
+   stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS(ctx, &pvalue->use_of_HCS);
+   RT_CHECK(ctx, stat, 0, "use-of-HCS", -1, "MeasurementControlSysInfoExtension-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newIntraFrequencyCellInfoListAddon_r5(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtensionAddon_r5_newIntraFrequencyCellInfoListAddon_r5* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CellSelectReselectInfo_v590ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellSelectReselectInfo_v590ext));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+      elem = (CellSelectReselectInfo_v590ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_CellSelectReselectInfo_v590ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_CellSelectReselectInfo_v590ext(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newInterFrequencyCellInfoListAddon_r5(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtensionAddon_r5_newInterFrequencyCellInfoListAddon_r5* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CellSelectReselectInfo_v590ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellSelectReselectInfo_v590ext));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+      elem = (CellSelectReselectInfo_v590ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_CellSelectReselectInfo_v590ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_CellSelectReselectInfo_v590ext(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newInterRATCellInfoListAddon_r5(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtensionAddon_r5_newInterRATCellInfoListAddon_r5* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CellSelectReselectInfo_v590ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellSelectReselectInfo_v590ext));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+      elem = (CellSelectReselectInfo_v590ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_CellSelectReselectInfo_v590ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_CellSelectReselectInfo_v590ext(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlSysInfoExtensionAddon_r5(rtxContext* RT_RESTRICT ctx, MeasurementControlSysInfoExtensionAddon_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControlSysInfoExtensionAddon-r5");
+   /* newIntraFrequencyCellInfoListAddon-r5 */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newIntraFrequencyCellInfoListAddon_r5(ctx, &pvalue->newIntraFrequencyCellInfoListAddon_r5);
+      RT_CHECK(ctx, stat, 0, "newIntraFrequencyCellInfoListAddon-r5", -1, "MeasurementControlSysInfoExtensionAddon-r5");
+   }
+   /* newInterFrequencyCellInfoListAddon-r5 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newInterFrequencyCellInfoListAddon_r5(ctx, &pvalue->newInterFrequencyCellInfoListAddon_r5);
+      RT_CHECK(ctx, stat, 0, "newInterFrequencyCellInfoListAddon-r5", -1, "MeasurementControlSysInfoExtensionAddon-r5");
+   }
+   /* newInterRATCellInfoListAddon-r5 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newInterRATCellInfoListAddon_r5(ctx, &pvalue->newInterRATCellInfoListAddon_r5);
+      RT_CHECK(ctx, stat, 0, "newInterRATCellInfoListAddon-r5", -1, "MeasurementControlSysInfoExtensionAddon-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11bis_v7b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11bis_v7b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11bis-v7b0ext-IEs");
+   /* newInterFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_NewInterFreqCellList_v7b0ext(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "SysInfoType11bis-v7b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CSG_DedicatedFrequencyInfoList(rtxContext* RT_RESTRICT ctx, CSG_DedicatedFrequencyInfoList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CSG-DedicatedFrequencyInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      FrequencyInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(FrequencyInfo));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "FrequencyInfo", (int32_t)i, "CSG-DedicatedFrequencyInfoList");
+      elem = (FrequencyInfo*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_FrequencyInfo(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "FrequencyInfo", (int32_t)i, "CSG-DedicatedFrequencyInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11bis_v860ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType11bis_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11bis-v860ext-IEs");
+   /* csg-PSCSplitInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CSG_PSCSplitInfo(ctx, &pvalue->csg_PSCSplitInfo);
+      RT_CHECK(ctx, stat, 0, "csg-PSCSplitInfo", -1, "SysInfoType11bis-v860ext-IEs");
+   }
+   /* csg-DedicatedFrequencyInfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CSG_DedicatedFrequencyInfoList(ctx, &pvalue->csg_DedicatedFrequencyInfoList);
+      RT_CHECK(ctx, stat, 0, "csg-DedicatedFrequencyInfoList", -1, "SysInfoType11bis-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType11bis-v860ext */
+   stat = asn1PD_UMTS_SysInfoType11bis_v860ext_IEs(ctx, &pvalue->sysInfoType11bis_v860ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType11bis-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType11bis_v7b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType11bis-v7b0ext */
+   stat = asn1PD_UMTS_SysInfoType11bis_v7b0ext_IEs(ctx, &pvalue->sysInfoType11bis_v7b0ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType11bis-v7b0ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType11bis(rtxContext* RT_RESTRICT ctx, SysInfoType11bis* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11bis");
+   /* measurementControlSysInfo */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementControlSysInfoExtension(ctx, &pvalue->measurementControlSysInfo);
+      RT_CHECK(ctx, stat, 0, "measurementControlSysInfo", -1, "SysInfoType11bis");
+   }
+   /* measurementControlSysInfo-LCR */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4(ctx, &pvalue->measurementControlSysInfo_LCR);
+      RT_CHECK(ctx, stat, 0, "measurementControlSysInfo-LCR", -1, "SysInfoType11bis");
+   }
+   /* measurementControlSysInfoExtensionAddon-r5 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_MeasurementControlSysInfoExtensionAddon_r5(ctx, &pvalue->measurementControlSysInfoExtensionAddon_r5);
+      RT_CHECK(ctx, stat, 0, "measurementControlSysInfoExtensionAddon-r5", -1, "SysInfoType11bis");
+   }
+   /* v7b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions(ctx, &pvalue->v7b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7b0NonCriticalExtensions", -1, "SysInfoType11bis");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType12_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType12_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType12-v4b0ext-IEs");
+   /* fach-MeasurementOccasionInfo-LCR-Ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_FACH_MeasurementOccasionInfo_LCR_r4_ext(ctx, &pvalue->fach_MeasurementOccasionInfo_LCR_Ext);
+      RT_CHECK(ctx, stat, 0, "fach-MeasurementOccasionInfo-LCR-Ext", -1, "SysInfoType12-v4b0ext-IEs");
+   }
+   /* measurementControlSysInfo-LCR */
+   stat = asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext(ctx, &pvalue->measurementControlSysInfo_LCR);
+   RT_CHECK(ctx, stat, 0, "measurementControlSysInfo-LCR", -1, "SysInfoType12-v4b0ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType12_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, SysInfoType12_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CellSelectReselectInfo_v590ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellSelectReselectInfo_v590ext));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+      elem = (CellSelectReselectInfo_v590ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_CellSelectReselectInfo_v590ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_CellSelectReselectInfo_v590ext(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType12_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, SysInfoType12_v590ext_IEs_newInterFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CellSelectReselectInfo_v590ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellSelectReselectInfo_v590ext));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+      elem = (CellSelectReselectInfo_v590ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_CellSelectReselectInfo_v590ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_CellSelectReselectInfo_v590ext(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType12_v590ext_IEs_newInterRATCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, SysInfoType12_v590ext_IEs_newInterRATCellInfoList_v590ext* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CellSelectReselectInfo_v590ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellSelectReselectInfo_v590ext));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+      elem = (CellSelectReselectInfo_v590ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_CellSelectReselectInfo_v590ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_CellSelectReselectInfo_v590ext(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType12_v590ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType12_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType12-v590ext-IEs");
+   /* newIntraFrequencyCellInfoList-v590ext */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType12_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(ctx, &pvalue->newIntraFrequencyCellInfoList_v590ext);
+      RT_CHECK(ctx, stat, 0, "newIntraFrequencyCellInfoList-v590ext", -1, "SysInfoType12-v590ext-IEs");
+   }
+   /* newInterFrequencyCellInfoList-v590ext */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SysInfoType12_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(ctx, &pvalue->newInterFrequencyCellInfoList_v590ext);
+      RT_CHECK(ctx, stat, 0, "newInterFrequencyCellInfoList-v590ext", -1, "SysInfoType12-v590ext-IEs");
+   }
+   /* newInterRATCellInfoList-v590ext */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_SysInfoType12_v590ext_IEs_newInterRATCellInfoList_v590ext(ctx, &pvalue->newInterRATCellInfoList_v590ext);
+      RT_CHECK(ctx, stat, 0, "newInterRATCellInfoList-v590ext", -1, "SysInfoType12-v590ext-IEs");
+   }
+   /* intraFreqEventCriteriaList-v590ext */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_Intra_FreqEventCriteriaList_v590ext(ctx, &pvalue->intraFreqEventCriteriaList_v590ext);
+      RT_CHECK(ctx, stat, 0, "intraFreqEventCriteriaList-v590ext", -1, "SysInfoType12-v590ext-IEs");
+   }
+   /* intraFreqReportingCriteria-1b-r5 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_IntraFreqReportingCriteria_1b_r5(ctx, &pvalue->intraFreqReportingCriteria_1b_r5);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria-1b-r5", -1, "SysInfoType12-v590ext-IEs");
+   }
+   /* intraFreqEvent-1d-r5 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_IntraFreqEvent_1d_r5(ctx, &pvalue->intraFreqEvent_1d_r5);
+      RT_CHECK(ctx, stat, 0, "intraFreqEvent-1d-r5", -1, "SysInfoType12-v590ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType12_v690ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType12_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType12-v690ext-IEs");
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_Dummy_InterFreqRACHReportingInfo(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "SysInfoType12-v690ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType12_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType12_v6b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType12-v6b0ext-IEs");
+   /* interFreqRACHReportingInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InterFreqRACHReportingInfo(ctx, &pvalue->interFreqRACHReportingInfo);
+      RT_CHECK(ctx, stat, 0, "interFreqRACHReportingInfo", -1, "SysInfoType12-v6b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType12_v7b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType12_v7b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType12-v7b0ext-IEs");
+   /* newInterFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_NewInterFreqCellList_v7b0ext(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "SysInfoType12-v7b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType12-v7b0ext */
+   stat = asn1PD_UMTS_SysInfoType12_v7b0ext_IEs(ctx, &pvalue->sysInfoType12_v7b0ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType12-v7b0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType12-v6b0ext */
+   stat = asn1PD_UMTS_SysInfoType12_v6b0ext_IEs(ctx, &pvalue->sysInfoType12_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType12-v6b0ext", -1, 0);
+   /* v7b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions(ctx, &pvalue->v7b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType12-v690ext */
+   stat = asn1PD_UMTS_SysInfoType12_v690ext_IEs(ctx, &pvalue->sysInfoType12_v690ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType12-v690ext", -1, 0);
+   /* v6b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType12-v590ext */
+   stat = asn1PD_UMTS_SysInfoType12_v590ext_IEs(ctx, &pvalue->sysInfoType12_v590ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType12-v590ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType12_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType12-v4b0ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType12_v4b0ext_IEs(ctx, &pvalue->sysInfoType12_v4b0ext);
+      RT_CHECK(ctx, stat, 0, "sysInfoType12-v4b0ext", -1, 0);
+   }
+   /* v590NonCriticalExtension */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension(ctx, &pvalue->v590NonCriticalExtension);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtension", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType12(rtxContext* RT_RESTRICT ctx, SysInfoType12* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType12");
+   /* fach-MeasurementOccasionInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_FACH_MeasurementOccasionInfo(ctx, &pvalue->fach_MeasurementOccasionInfo);
+      RT_CHECK(ctx, stat, 0, "fach-MeasurementOccasionInfo", -1, "SysInfoType12");
+   }
+   /* measurementControlSysInfo */
+   stat = asn1PD_UMTS_MeasurementControlSysInfo(ctx, &pvalue->measurementControlSysInfo);
+   RT_CHECK(ctx, stat, 0, "measurementControlSysInfo", -1, "SysInfoType12");
+   /* v4b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType12");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Re_EstablishmentTimer(rtxContext* RT_RESTRICT ctx, Re_EstablishmentTimer* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Re-EstablishmentTimer");
+   return 0;
+}
+
+int asn1PD_UMTS_TimerMRW(rtxContext* RT_RESTRICT ctx, TimerMRW* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimerMRW");
+   return 0;
+}
+
+int asn1PD_UMTS_TimerDiscard(rtxContext* RT_RESTRICT ctx, TimerDiscard* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimerDiscard");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxMRW(rtxContext* RT_RESTRICT ctx, MaxMRW* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxMRW");
+   return 0;
+}
+
+int asn1PD_UMTS_ExplicitDiscard(rtxContext* RT_RESTRICT ctx, ExplicitDiscard* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* timerMRW */
+   stat = pd_ConsUnsigned(ctx, &pvalue->timerMRW, 0, 15);
+   RT_CHECK(ctx, stat, "TimerMRW", "timerMRW", -1, "ExplicitDiscard");
+   /* timerDiscard */
+   stat = pd_ConsUnsigned(ctx, &pvalue->timerDiscard, 0, 15);
+   RT_CHECK(ctx, stat, "TimerDiscard", "timerDiscard", -1, "ExplicitDiscard");
+   /* maxMRW */
+   stat = pd_ConsUnsigned(ctx, &pvalue->maxMRW, 0, 7);
+   RT_CHECK(ctx, stat, "MaxMRW", "maxMRW", -1, "ExplicitDiscard");
+   return 0;
+}
+
+int asn1PD_UMTS_NoExplicitDiscard(rtxContext* RT_RESTRICT ctx, NoExplicitDiscard* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 9);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NoExplicitDiscard");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxDAT(rtxContext* RT_RESTRICT ctx, MaxDAT* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxDAT");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxDAT_Retransmissions(rtxContext* RT_RESTRICT ctx, MaxDAT_Retransmissions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* maxDAT */
+   stat = pd_ConsUnsigned(ctx, &pvalue->maxDAT, 0, 15);
+   RT_CHECK(ctx, stat, "MaxDAT", "maxDAT", -1, "MaxDAT-Retransmissions");
+   /* timerMRW */
+   stat = pd_ConsUnsigned(ctx, &pvalue->timerMRW, 0, 15);
+   RT_CHECK(ctx, stat, "TimerMRW", "timerMRW", -1, "MaxDAT-Retransmissions");
+   /* maxMRW */
+   stat = pd_ConsUnsigned(ctx, &pvalue->maxMRW, 0, 7);
+   RT_CHECK(ctx, stat, "MaxMRW", "maxMRW", -1, "MaxDAT-Retransmissions");
+   return 0;
+}
+
+int asn1PD_UMTS_TransmissionRLC_Discard(rtxContext* RT_RESTRICT ctx, TransmissionRLC_Discard* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransmissionRLC-Discard");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* timerBasedExplicit */
+         pvalue->u.timerBasedExplicit = (ExplicitDiscard*)rtxMemHeapAllocZ(ctx, sizeof(ExplicitDiscard));
+         if (pvalue->u.timerBasedExplicit == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "timerBasedExplicit", -1, "TransmissionRLC-Discard");
+         stat = asn1PD_UMTS_ExplicitDiscard(ctx, pvalue->u.timerBasedExplicit);
+         RT_CHECK(ctx, stat, 0, "timerBasedExplicit", -1, "TransmissionRLC-Discard");
+         break;
+      case 1: /* timerBasedNoExplicit */
+         stat = pd_ConsUnsigned(ctx, &pvalue->u.timerBasedNoExplicit, 0, 9);
+         RT_CHECK(ctx, stat, "NoExplicitDiscard", "timerBasedNoExplicit", -1, "TransmissionRLC-Discard");
+         break;
+      case 2: /* maxDAT-Retransmissions */
+         pvalue->u.maxDAT_Retransmissions = (MaxDAT_Retransmissions*)rtxMemHeapAllocZ(ctx, sizeof(MaxDAT_Retransmissions));
+         if (pvalue->u.maxDAT_Retransmissions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "maxDAT-Retransmissions", -1, "TransmissionRLC-Discard");
+         stat = asn1PD_UMTS_MaxDAT_Retransmissions(ctx, pvalue->u.maxDAT_Retransmissions);
+         RT_CHECK(ctx, stat, 0, "maxDAT-Retransmissions", -1, "TransmissionRLC-Discard");
+         break;
+      case 3: /* noDiscard */
+         stat = pd_ConsUnsigned(ctx, &pvalue->u.noDiscard, 0, 15);
+         RT_CHECK(ctx, stat, "MaxDAT", "noDiscard", -1, "TransmissionRLC-Discard");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TransmissionRLC-Discard");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransmissionWindowSize(rtxContext* RT_RESTRICT ctx, TransmissionWindowSize* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransmissionWindowSize");
+   return 0;
+}
+
+int asn1PD_UMTS_TimerRST(rtxContext* RT_RESTRICT ctx, TimerRST* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimerRST");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxRST(rtxContext* RT_RESTRICT ctx, MaxRST* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxRST");
+   return 0;
+}
+
+int asn1PD_UMTS_TimerPollProhibit(rtxContext* RT_RESTRICT ctx, TimerPollProhibit* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 63);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimerPollProhibit");
+   return 0;
+}
+
+int asn1PD_UMTS_TimerPoll(rtxContext* RT_RESTRICT ctx, TimerPoll* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 63);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimerPoll");
+   return 0;
+}
+
+int asn1PD_UMTS_Poll_PDU(rtxContext* RT_RESTRICT ctx, Poll_PDU* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Poll-PDU");
+   return 0;
+}
+
+int asn1PD_UMTS_Poll_SDU(rtxContext* RT_RESTRICT ctx, Poll_SDU* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Poll-SDU");
+   return 0;
+}
+
+int asn1PD_UMTS_PollWindow(rtxContext* RT_RESTRICT ctx, PollWindow* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PollWindow");
+   return 0;
+}
+
+int asn1PD_UMTS_TimerPollPeriodic(rtxContext* RT_RESTRICT ctx, TimerPollPeriodic* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimerPollPeriodic");
+   return 0;
+}
+
+int asn1PD_UMTS_PollingInfo(rtxContext* RT_RESTRICT ctx, PollingInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PollingInfo");
+   /* timerPollProhibit */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->timerPollProhibit, 0, 63);
+      RT_CHECK(ctx, stat, "TimerPollProhibit", "timerPollProhibit", -1, "PollingInfo");
+   }
+   /* timerPoll */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->timerPoll, 0, 63);
+      RT_CHECK(ctx, stat, "TimerPoll", "timerPoll", -1, "PollingInfo");
+   }
+   /* poll-PDU */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->poll_PDU, 0, 7);
+      RT_CHECK(ctx, stat, "Poll-PDU", "poll-PDU", -1, "PollingInfo");
+   }
+   /* poll-SDU */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->poll_SDU, 0, 3);
+      RT_CHECK(ctx, stat, "Poll-SDU", "poll-SDU", -1, "PollingInfo");
+   }
+   /* lastTransmissionPDU-Poll */
+   stat = rtxDecBitInline(ctx, &pvalue->lastTransmissionPDU_Poll);
+   RT_CHECK(ctx, stat, 0, "lastTransmissionPDU-Poll", -1, "PollingInfo");
+   /* lastRetransmissionPDU-Poll */
+   stat = rtxDecBitInline(ctx, &pvalue->lastRetransmissionPDU_Poll);
+   RT_CHECK(ctx, stat, 0, "lastRetransmissionPDU-Poll", -1, "PollingInfo");
+   /* pollWindow */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->pollWindow, 0, 7);
+      RT_CHECK(ctx, stat, "PollWindow", "pollWindow", -1, "PollingInfo");
+   }
+   /* timerPollPeriodic */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->timerPollPeriodic, 0, 7);
+      RT_CHECK(ctx, stat, "TimerPollPeriodic", "timerPollPeriodic", -1, "PollingInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AM_RLC_Mode(rtxContext* RT_RESTRICT ctx, UL_AM_RLC_Mode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-AM-RLC-Mode");
+   /* transmissionRLC-Discard */
+   stat = asn1PD_UMTS_TransmissionRLC_Discard(ctx, &pvalue->transmissionRLC_Discard);
+   RT_CHECK(ctx, stat, 0, "transmissionRLC-Discard", -1, "UL-AM-RLC-Mode");
+   /* transmissionWindowSize */
+   stat = pd_ConsUnsigned(ctx, &pvalue->transmissionWindowSize, 0, 15);
+   RT_CHECK(ctx, stat, "TransmissionWindowSize", "transmissionWindowSize", -1, "UL-AM-RLC-Mode");
+   /* timerRST */
+   stat = pd_ConsUnsigned(ctx, &pvalue->timerRST, 0, 15);
+   RT_CHECK(ctx, stat, "TimerRST", "timerRST", -1, "UL-AM-RLC-Mode");
+   /* max-RST */
+   stat = pd_ConsUnsigned(ctx, &pvalue->max_RST, 0, 7);
+   RT_CHECK(ctx, stat, "MaxRST", "max-RST", -1, "UL-AM-RLC-Mode");
+   /* pollingInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PollingInfo(ctx, &pvalue->pollingInfo);
+      RT_CHECK(ctx, stat, 0, "pollingInfo", -1, "UL-AM-RLC-Mode");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_UM_RLC_Mode(rtxContext* RT_RESTRICT ctx, UL_UM_RLC_Mode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-UM-RLC-Mode");
+   /* transmissionRLC-Discard */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TransmissionRLC_Discard(ctx, &pvalue->transmissionRLC_Discard);
+      RT_CHECK(ctx, stat, 0, "transmissionRLC-Discard", -1, "UL-UM-RLC-Mode");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_TM_RLC_Mode(rtxContext* RT_RESTRICT ctx, UL_TM_RLC_Mode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-TM-RLC-Mode");
+   /* transmissionRLC-Discard */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TransmissionRLC_Discard(ctx, &pvalue->transmissionRLC_Discard);
+      RT_CHECK(ctx, stat, 0, "transmissionRLC-Discard", -1, "UL-TM-RLC-Mode");
+   }
+   /* segmentationIndication */
+   stat = rtxDecBitInline(ctx, &pvalue->segmentationIndication);
+   RT_CHECK(ctx, stat, 0, "segmentationIndication", -1, "UL-TM-RLC-Mode");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_RLC_Mode(rtxContext* RT_RESTRICT ctx, UL_RLC_Mode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-RLC-Mode");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* ul-AM-RLC-Mode */
+         pvalue->u.ul_AM_RLC_Mode = (UL_AM_RLC_Mode*)rtxMemHeapAlloc(ctx, sizeof(UL_AM_RLC_Mode));
+         if (pvalue->u.ul_AM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ul-AM-RLC-Mode", -1, "UL-RLC-Mode");
+         asn1Init_UMTS_UL_AM_RLC_Mode(pvalue->u.ul_AM_RLC_Mode);
+         stat = asn1PD_UMTS_UL_AM_RLC_Mode(ctx, pvalue->u.ul_AM_RLC_Mode);
+         RT_CHECK(ctx, stat, 0, "ul-AM-RLC-Mode", -1, "UL-RLC-Mode");
+         break;
+      case 1: /* ul-UM-RLC-Mode */
+         pvalue->u.ul_UM_RLC_Mode = (UL_UM_RLC_Mode*)rtxMemHeapAlloc(ctx, sizeof(UL_UM_RLC_Mode));
+         if (pvalue->u.ul_UM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ul-UM-RLC-Mode", -1, "UL-RLC-Mode");
+         asn1Init_UMTS_UL_UM_RLC_Mode(pvalue->u.ul_UM_RLC_Mode);
+         stat = asn1PD_UMTS_UL_UM_RLC_Mode(ctx, pvalue->u.ul_UM_RLC_Mode);
+         RT_CHECK(ctx, stat, 0, "ul-UM-RLC-Mode", -1, "UL-RLC-Mode");
+         break;
+      case 2: /* ul-TM-RLC-Mode */
+         pvalue->u.ul_TM_RLC_Mode = (UL_TM_RLC_Mode*)rtxMemHeapAlloc(ctx, sizeof(UL_TM_RLC_Mode));
+         if (pvalue->u.ul_TM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ul-TM-RLC-Mode", -1, "UL-RLC-Mode");
+         asn1Init_UMTS_UL_TM_RLC_Mode(pvalue->u.ul_TM_RLC_Mode);
+         stat = asn1PD_UMTS_UL_TM_RLC_Mode(ctx, pvalue->u.ul_TM_RLC_Mode);
+         RT_CHECK(ctx, stat, 0, "ul-TM-RLC-Mode", -1, "UL-RLC-Mode");
+         break;
+      case 3: /* spare */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-RLC-Mode");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ReceivingWindowSize(rtxContext* RT_RESTRICT ctx, ReceivingWindowSize* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ReceivingWindowSize");
+   return 0;
+}
+
+int asn1PD_UMTS_TimerStatusProhibit(rtxContext* RT_RESTRICT ctx, TimerStatusProhibit* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 63);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimerStatusProhibit");
+   return 0;
+}
+
+int asn1PD_UMTS_TimerEPC(rtxContext* RT_RESTRICT ctx, TimerEPC* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimerEPC");
+   return 0;
+}
+
+int asn1PD_UMTS_TimerStatusPeriodic(rtxContext* RT_RESTRICT ctx, TimerStatusPeriodic* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimerStatusPeriodic");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_RLC_StatusInfo(rtxContext* RT_RESTRICT ctx, DL_RLC_StatusInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-RLC-StatusInfo");
+   /* timerStatusProhibit */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->timerStatusProhibit, 0, 63);
+      RT_CHECK(ctx, stat, "TimerStatusProhibit", "timerStatusProhibit", -1, "DL-RLC-StatusInfo");
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->dummy, 0, 15);
+      RT_CHECK(ctx, stat, "TimerEPC", "dummy", -1, "DL-RLC-StatusInfo");
+   }
+   /* missingPDU-Indicator */
+   stat = rtxDecBitInline(ctx, &pvalue->missingPDU_Indicator);
+   RT_CHECK(ctx, stat, 0, "missingPDU-Indicator", -1, "DL-RLC-StatusInfo");
+   /* timerStatusPeriodic */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->timerStatusPeriodic, 0, 7);
+      RT_CHECK(ctx, stat, "TimerStatusPeriodic", "timerStatusPeriodic", -1, "DL-RLC-StatusInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AM_RLC_Mode(rtxContext* RT_RESTRICT ctx, DL_AM_RLC_Mode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* inSequenceDelivery */
+   stat = rtxDecBitInline(ctx, &pvalue->inSequenceDelivery);
+   RT_CHECK(ctx, stat, 0, "inSequenceDelivery", -1, "DL-AM-RLC-Mode");
+   /* receivingWindowSize */
+   stat = pd_ConsUnsigned(ctx, &pvalue->receivingWindowSize, 0, 15);
+   RT_CHECK(ctx, stat, "ReceivingWindowSize", "receivingWindowSize", -1, "DL-AM-RLC-Mode");
+   /* dl-RLC-StatusInfo */
+   stat = asn1PD_UMTS_DL_RLC_StatusInfo(ctx, &pvalue->dl_RLC_StatusInfo);
+   RT_CHECK(ctx, stat, 0, "dl-RLC-StatusInfo", -1, "DL-AM-RLC-Mode");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_TM_RLC_Mode(rtxContext* RT_RESTRICT ctx, DL_TM_RLC_Mode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* segmentationIndication */
+   stat = rtxDecBitInline(ctx, &pvalue->segmentationIndication);
+   RT_CHECK(ctx, stat, 0, "segmentationIndication", -1, "DL-TM-RLC-Mode");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_RLC_Mode(rtxContext* RT_RESTRICT ctx, DL_RLC_Mode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-RLC-Mode");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dl-AM-RLC-Mode */
+         pvalue->u.dl_AM_RLC_Mode = (DL_AM_RLC_Mode*)rtxMemHeapAlloc(ctx, sizeof(DL_AM_RLC_Mode));
+         if (pvalue->u.dl_AM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode");
+         asn1Init_UMTS_DL_AM_RLC_Mode(pvalue->u.dl_AM_RLC_Mode);
+         stat = asn1PD_UMTS_DL_AM_RLC_Mode(ctx, pvalue->u.dl_AM_RLC_Mode);
+         RT_CHECK(ctx, stat, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode");
+         break;
+      case 1: /* dl-UM-RLC-Mode */
+         break;
+      case 2: /* dl-TM-RLC-Mode */
+         pvalue->u.dl_TM_RLC_Mode = (DL_TM_RLC_Mode*)rtxMemHeapAllocZ(ctx, sizeof(DL_TM_RLC_Mode));
+         if (pvalue->u.dl_TM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode");
+         stat = asn1PD_UMTS_DL_TM_RLC_Mode(ctx, pvalue->u.dl_TM_RLC_Mode);
+         RT_CHECK(ctx, stat, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-RLC-Mode");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_Info(rtxContext* RT_RESTRICT ctx, RLC_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-Info");
+   /* ul-RLC-Mode */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UL_RLC_Mode(ctx, &pvalue->ul_RLC_Mode);
+      RT_CHECK(ctx, stat, 0, "ul-RLC-Mode", -1, "RLC-Info");
+   }
+   /* dl-RLC-Mode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DL_RLC_Mode(ctx, &pvalue->dl_RLC_Mode);
+      RT_CHECK(ctx, stat, 0, "dl-RLC-Mode", -1, "RLC-Info");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_InfoChoice(rtxContext* RT_RESTRICT ctx, RLC_InfoChoice* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-InfoChoice");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* rlc-Info */
+         pvalue->u.rlc_Info = (RLC_Info*)rtxMemHeapAlloc(ctx, sizeof(RLC_Info));
+         if (pvalue->u.rlc_Info == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "rlc-Info", -1, "RLC-InfoChoice");
+         asn1Init_UMTS_RLC_Info(pvalue->u.rlc_Info);
+         stat = asn1PD_UMTS_RLC_Info(ctx, pvalue->u.rlc_Info);
+         RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RLC-InfoChoice");
+         break;
+      case 1: /* same-as-RB */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.same_as_RB, 1, 32);
+         RT_CHECK(ctx, stat, "RB-Identity", "same-as-RB", -1, "RLC-InfoChoice");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RLC-InfoChoice");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_TransportChannelType(rtxContext* RT_RESTRICT ctx, UL_TransportChannelType* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-TransportChannelType");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dch */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.dch, 1, 32);
+         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch", -1, "UL-TransportChannelType");
+         break;
+      case 1: /* rach */
+         break;
+      case 2: /* dummy */
+         break;
+      case 3: /* usch */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.usch, 1, 32);
+         RT_CHECK(ctx, stat, "TransportChannelIdentity", "usch", -1, "UL-TransportChannelType");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-TransportChannelType");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_SizeInfo(rtxContext* RT_RESTRICT ctx, RLC_SizeInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rlc-SizeIndex */
+   stat = pd_ConsUInt8(ctx, &pvalue->rlc_SizeIndex, 1, 32);
+   RT_CHECK(ctx, stat, 0, "rlc-SizeIndex", -1, "RLC-SizeInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_SizeExplicitList(rtxContext* RT_RESTRICT ctx, RLC_SizeExplicitList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-SizeExplicitList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RLC_SizeInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RLC_SizeInfo));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RLC-SizeInfo", (int32_t)i, "RLC-SizeExplicitList");
+      elem = (RLC_SizeInfo*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RLC_SizeInfo(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RLC-SizeInfo", (int32_t)i, "RLC-SizeExplicitList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMapping_rlc_SizeList(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_rlc_SizeList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* allSizes */
+         break;
+      case 1: /* configured */
+         break;
+      case 2: /* explicitList */
+         pvalue->u.explicitList = (RLC_SizeExplicitList*)rtxMemHeapAlloc(ctx, sizeof(RLC_SizeExplicitList));
+         if (pvalue->u.explicitList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "explicitList", -1, 0);
+         asn1Init_UMTS_RLC_SizeExplicitList(pvalue->u.explicitList);
+         stat = asn1PD_UMTS_RLC_SizeExplicitList(ctx, pvalue->u.explicitList);
+         RT_CHECK(ctx, stat, 0, "explicitList", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MAC_LogicalChannelPriority(rtxContext* RT_RESTRICT ctx, MAC_LogicalChannelPriority* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-LogicalChannelPriority");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-LogicalChannelMapping");
+   /* ul-TransportChannelType */
+   stat = asn1PD_UMTS_UL_TransportChannelType(ctx, &pvalue->ul_TransportChannelType);
+   RT_CHECK(ctx, stat, 0, "ul-TransportChannelType", -1, "UL-LogicalChannelMapping");
+   /* logicalChannelIdentity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->logicalChannelIdentity, 1, 15);
+      RT_CHECK(ctx, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "UL-LogicalChannelMapping");
+   }
+   /* rlc-SizeList */
+   stat = asn1PD_UMTS_UL_LogicalChannelMapping_rlc_SizeList(ctx, &pvalue->rlc_SizeList);
+   RT_CHECK(ctx, stat, 0, "rlc-SizeList", -1, "UL-LogicalChannelMapping");
+   /* mac-LogicalChannelPriority */
+   stat = pd_ConsUInt8(ctx, &pvalue->mac_LogicalChannelPriority, 1, 8);
+   RT_CHECK(ctx, stat, "MAC-LogicalChannelPriority", "mac-LogicalChannelPriority", -1, "UL-LogicalChannelMapping");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMappingList_ul_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappingList_ul_LogicalChannelMapping* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 2, 2);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UL_LogicalChannelMapping* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_LogicalChannelMapping));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UL-LogicalChannelMapping", (int32_t)i, 0);
+      elem = (UL_LogicalChannelMapping*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UL_LogicalChannelMapping(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_UL_LogicalChannelMapping(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "UL-LogicalChannelMapping", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMappingList(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappingList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rlc-LogicalChannelMappingIndicator */
+   stat = rtxDecBitInline(ctx, &pvalue->rlc_LogicalChannelMappingIndicator);
+   RT_CHECK(ctx, stat, 0, "rlc-LogicalChannelMappingIndicator", -1, "UL-LogicalChannelMappingList");
+   /* ul-LogicalChannelMapping */
+   stat = asn1PD_UMTS_UL_LogicalChannelMappingList_ul_LogicalChannelMapping(ctx, &pvalue->ul_LogicalChannelMapping);
+   RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMapping", -1, "UL-LogicalChannelMappingList");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMappings(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappings* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-LogicalChannelMappings");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* oneLogicalChannel */
+         pvalue->u.oneLogicalChannel = (UL_LogicalChannelMapping*)rtxMemHeapAlloc(ctx, sizeof(UL_LogicalChannelMapping));
+         if (pvalue->u.oneLogicalChannel == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "oneLogicalChannel", -1, "UL-LogicalChannelMappings");
+         asn1Init_UMTS_UL_LogicalChannelMapping(pvalue->u.oneLogicalChannel);
+         stat = asn1PD_UMTS_UL_LogicalChannelMapping(ctx, pvalue->u.oneLogicalChannel);
+         RT_CHECK(ctx, stat, 0, "oneLogicalChannel", -1, "UL-LogicalChannelMappings");
+         break;
+      case 1: /* twoLogicalChannels */
+         pvalue->u.twoLogicalChannels = (UL_LogicalChannelMappingList*)rtxMemHeapAlloc(ctx, sizeof(UL_LogicalChannelMappingList));
+         if (pvalue->u.twoLogicalChannels == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "twoLogicalChannels", -1, "UL-LogicalChannelMappings");
+         asn1Init_UMTS_UL_LogicalChannelMappingList(pvalue->u.twoLogicalChannels);
+         stat = asn1PD_UMTS_UL_LogicalChannelMappingList(ctx, pvalue->u.twoLogicalChannels);
+         RT_CHECK(ctx, stat, 0, "twoLogicalChannels", -1, "UL-LogicalChannelMappings");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-LogicalChannelMappings");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelIdentityDCHandDSCH(rtxContext* RT_RESTRICT ctx, TransportChannelIdentityDCHandDSCH* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* dch-transport-ch-id */
+   stat = pd_ConsUInt8(ctx, &pvalue->dch_transport_ch_id, 1, 32);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch-transport-ch-id", -1, "TransportChannelIdentityDCHandDSCH");
+   /* dsch-transport-ch-id */
+   stat = pd_ConsUInt8(ctx, &pvalue->dsch_transport_ch_id, 1, 32);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "dsch-transport-ch-id", -1, "TransportChannelIdentityDCHandDSCH");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_TransportChannelType(rtxContext* RT_RESTRICT ctx, DL_TransportChannelType* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-TransportChannelType");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dch */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.dch, 1, 32);
+         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch", -1, "DL-TransportChannelType");
+         break;
+      case 1: /* fach */
+         break;
+      case 2: /* dsch */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.dsch, 1, 32);
+         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dsch", -1, "DL-TransportChannelType");
+         break;
+      case 3: /* dch-and-dsch */
+         pvalue->u.dch_and_dsch = (TransportChannelIdentityDCHandDSCH*)rtxMemHeapAllocZ(ctx, sizeof(TransportChannelIdentityDCHandDSCH));
+         if (pvalue->u.dch_and_dsch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dch-and-dsch", -1, "DL-TransportChannelType");
+         stat = asn1PD_UMTS_TransportChannelIdentityDCHandDSCH(ctx, pvalue->u.dch_and_dsch);
+         RT_CHECK(ctx, stat, 0, "dch-and-dsch", -1, "DL-TransportChannelType");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-TransportChannelType");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, DL_LogicalChannelMapping* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-LogicalChannelMapping");
+   /* dl-TransportChannelType */
+   stat = asn1PD_UMTS_DL_TransportChannelType(ctx, &pvalue->dl_TransportChannelType);
+   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-LogicalChannelMapping");
+   /* logicalChannelIdentity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->logicalChannelIdentity, 1, 15);
+      RT_CHECK(ctx, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "DL-LogicalChannelMapping");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_LogicalChannelMappingList(rtxContext* RT_RESTRICT ctx, DL_LogicalChannelMappingList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 2);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-LogicalChannelMappingList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_LogicalChannelMapping* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_LogicalChannelMapping));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-LogicalChannelMapping", (int32_t)i, "DL-LogicalChannelMappingList");
+      elem = (DL_LogicalChannelMapping*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_LogicalChannelMapping(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_DL_LogicalChannelMapping(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "DL-LogicalChannelMapping", (int32_t)i, "DL-LogicalChannelMappingList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_MappingOption(rtxContext* RT_RESTRICT ctx, RB_MappingOption* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-MappingOption");
+   /* ul-LogicalChannelMappings */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UL_LogicalChannelMappings(ctx, &pvalue->ul_LogicalChannelMappings);
+      RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMappings", -1, "RB-MappingOption");
+   }
+   /* dl-LogicalChannelMappingList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DL_LogicalChannelMappingList(ctx, &pvalue->dl_LogicalChannelMappingList);
+      RT_CHECK(ctx, stat, 0, "dl-LogicalChannelMappingList", -1, "RB-MappingOption");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_MappingInfo(rtxContext* RT_RESTRICT ctx, RB_MappingInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-MappingInfo");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_MappingOption* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_MappingOption));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-MappingOption", (int32_t)i, "RB-MappingInfo");
+      elem = (RB_MappingOption*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RB_MappingOption(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RB_MappingOption(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RB-MappingOption", (int32_t)i, "RB-MappingInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRB_InformationSetup(rtxContext* RT_RESTRICT ctx, SRB_InformationSetup* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-InformationSetup");
+   /* rb-Identity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
+      RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup");
+   }
+   /* rlc-InfoChoice */
+   stat = asn1PD_UMTS_RLC_InfoChoice(ctx, &pvalue->rlc_InfoChoice);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "SRB-InformationSetup");
+   /* rb-MappingInfo */
+   stat = asn1PD_UMTS_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "SRB-InformationSetup");
+   return 0;
+}
+
+int asn1PD_UMTS_SRB_InformationSetupList(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-InformationSetupList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      SRB_InformationSetup* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SRB_InformationSetup));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "SRB-InformationSetup", (int32_t)i, "SRB-InformationSetupList");
+      elem = (SRB_InformationSetup*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_SRB_InformationSetup(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_SRB_InformationSetup(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup", (int32_t)i, "SRB-InformationSetupList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MaxPDCP_SN_WindowSize(rtxContext* RT_RESTRICT ctx, MaxPDCP_SN_WindowSize* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxPDCP-SN-WindowSize");
+   return 0;
+}
+
+int asn1PD_UMTS_LosslessSRNS_RelocSupport(rtxContext* RT_RESTRICT ctx, LosslessSRNS_RelocSupport* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "LosslessSRNS-RelocSupport");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* supported */
+         stat = pd_ConsUnsigned(ctx, &pvalue->u.supported, 0, 1);
+         RT_CHECK(ctx, stat, "MaxPDCP-SN-WindowSize", "supported", -1, "LosslessSRNS-RelocSupport");
+         break;
+      case 1: /* notSupported */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "LosslessSRNS-RelocSupport");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_PDU_Header(rtxContext* RT_RESTRICT ctx, PDCP_PDU_Header* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PDCP-PDU-Header");
+   return 0;
+}
+
+int asn1PD_UMTS_ExpectReordering(rtxContext* RT_RESTRICT ctx, ExpectReordering* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ExpectReordering");
+   return 0;
+}
+
+int asn1PD_UMTS_RFC2507_Info(rtxContext* RT_RESTRICT ctx, RFC2507_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RFC2507-Info");
+   /* f-MAX-PERIOD */
+   if (present & ((uint32_t)1 << 4)) {
+      stat = pd_ConsUInt16(ctx, &pvalue->f_MAX_PERIOD, 1, 65535);
+      RT_CHECK(ctx, stat, 0, "f-MAX-PERIOD", -1, "RFC2507-Info");
+   }
+   else {
+      pvalue->f_MAX_PERIOD = 256;
+   }
+   /* f-MAX-TIME */
+   if (present & ((uint32_t)1 << 3)) {
+      stat = pd_ConsUInt8(ctx, &pvalue->f_MAX_TIME, 1, 255);
+      RT_CHECK(ctx, stat, 0, "f-MAX-TIME", -1, "RFC2507-Info");
+   }
+   else {
+      pvalue->f_MAX_TIME = 5;
+   }
+   /* max-HEADER */
+   if (present & ((uint32_t)1 << 2)) {
+      stat = pd_ConsUInt16(ctx, &pvalue->max_HEADER, 60, 65535);
+      RT_CHECK(ctx, stat, 0, "max-HEADER", -1, "RFC2507-Info");
+   }
+   else {
+      pvalue->max_HEADER = 168;
+   }
+   /* tcp-SPACE */
+   if (present & ((uint32_t)1 << 1)) {
+      stat = pd_ConsUInt8(ctx, &pvalue->tcp_SPACE, 3, 255);
+      RT_CHECK(ctx, stat, 0, "tcp-SPACE", -1, "RFC2507-Info");
+   }
+   else {
+      pvalue->tcp_SPACE = 15;
+   }
+   /* non-TCP-SPACE */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUInt16(ctx, &pvalue->non_TCP_SPACE, 3, 65535);
+      RT_CHECK(ctx, stat, 0, "non-TCP-SPACE", -1, "RFC2507-Info");
+   }
+   else {
+      pvalue->non_TCP_SPACE = 15;
+   }
+   /* expectReordering */
+   stat = pd_ConsUnsigned(ctx, &pvalue->expectReordering, 0, 1);
+   RT_CHECK(ctx, stat, "ExpectReordering", "expectReordering", -1, "RFC2507-Info");
+   return 0;
+}
+
+int asn1PD_UMTS_AlgorithmSpecificInfo(rtxContext* RT_RESTRICT ctx, AlgorithmSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AlgorithmSpecificInfo");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* rfc2507-Info */
+         pvalue->u.rfc2507_Info = (RFC2507_Info*)rtxMemHeapAlloc(ctx, sizeof(RFC2507_Info));
+         if (pvalue->u.rfc2507_Info == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "rfc2507-Info", -1, "AlgorithmSpecificInfo");
+         asn1Init_UMTS_RFC2507_Info(pvalue->u.rfc2507_Info);
+         stat = asn1PD_UMTS_RFC2507_Info(ctx, pvalue->u.rfc2507_Info);
+         RT_CHECK(ctx, stat, 0, "rfc2507-Info", -1, "AlgorithmSpecificInfo");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "AlgorithmSpecificInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HeaderCompressionInfo(rtxContext* RT_RESTRICT ctx, HeaderCompressionInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* algorithmSpecificInfo */
+   stat = asn1PD_UMTS_AlgorithmSpecificInfo(ctx, &pvalue->algorithmSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "algorithmSpecificInfo", -1, "HeaderCompressionInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_HeaderCompressionInfoList(rtxContext* RT_RESTRICT ctx, HeaderCompressionInfoList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HeaderCompressionInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      HeaderCompressionInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HeaderCompressionInfo));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "HeaderCompressionInfo", (int32_t)i, "HeaderCompressionInfoList");
+      elem = (HeaderCompressionInfo*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_HeaderCompressionInfo(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_HeaderCompressionInfo(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "HeaderCompressionInfo", (int32_t)i, "HeaderCompressionInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_Info(rtxContext* RT_RESTRICT ctx, PDCP_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PDCP-Info");
+   /* losslessSRNS-RelocSupport */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_LosslessSRNS_RelocSupport(ctx, &pvalue->losslessSRNS_RelocSupport);
+      RT_CHECK(ctx, stat, 0, "losslessSRNS-RelocSupport", -1, "PDCP-Info");
+   }
+   /* pdcp-PDU-Header */
+   stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_PDU_Header, 0, 1);
+   RT_CHECK(ctx, stat, "PDCP-PDU-Header", "pdcp-PDU-Header", -1, "PDCP-Info");
+   /* headerCompressionInfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_HeaderCompressionInfoList(ctx, &pvalue->headerCompressionInfoList);
+      RT_CHECK(ctx, stat, 0, "headerCompressionInfoList", -1, "PDCP-Info");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationSetup(rtxContext* RT_RESTRICT ctx, RB_InformationSetup* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationSetup");
+   /* rb-Identity */
+   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup");
+   /* pdcp-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PDCP_Info(ctx, &pvalue->pdcp_Info);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationSetup");
+   }
+   /* rlc-InfoChoice */
+   stat = asn1PD_UMTS_RLC_InfoChoice(ctx, &pvalue->rlc_InfoChoice);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "RB-InformationSetup");
+   /* rb-MappingInfo */
+   stat = asn1PD_UMTS_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationSetup");
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationSetupList(rtxContext* RT_RESTRICT ctx, RB_InformationSetupList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationSetupList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_InformationSetup* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationSetup));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-InformationSetup", (int32_t)i, "RB-InformationSetupList");
+      elem = (RB_InformationSetup*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RB_InformationSetup(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RB_InformationSetup(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RB-InformationSetup", (int32_t)i, "RB-InformationSetupList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PredefinedRB_Configuration(rtxContext* RT_RESTRICT ctx, PredefinedRB_Configuration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* re-EstablishmentTimer */
+   stat = pd_ConsUnsigned(ctx, &pvalue->re_EstablishmentTimer, 0, 1);
+   RT_CHECK(ctx, stat, "Re-EstablishmentTimer", "re-EstablishmentTimer", -1, "PredefinedRB-Configuration");
+   /* srb-InformationList */
+   stat = asn1PD_UMTS_SRB_InformationSetupList(ctx, &pvalue->srb_InformationList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationList", -1, "PredefinedRB-Configuration");
+   /* rb-InformationList */
+   stat = asn1PD_UMTS_RB_InformationSetupList(ctx, &pvalue->rb_InformationList);
+   RT_CHECK(ctx, stat, 0, "rb-InformationList", -1, "PredefinedRB-Configuration");
+   return 0;
+}
+
+int asn1PD_UMTS_TFC_Value(rtxContext* RT_RESTRICT ctx, TFC_Value* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt16(ctx, pvalue, 0, 1023);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TFC-Value");
+   return 0;
+}
+
+int asn1PD_UMTS_AllowedTFC_List(rtxContext* RT_RESTRICT ctx, AllowedTFC_List* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 10);
+      RT_CHECK(ctx, stat, 0, 0, -1, "AllowedTFC-List");
+      pvalue->n = raw + 1;
+      if (raw > 1023) {
+         rtxErrAddStrParm(ctx, "AllowedTFC-List");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "AllowedTFC-List");
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt16(ctx, &pvalue->elem[i], 0, 1023);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, "TFC-Value", "TFC-Value", (int32_t)i, "AllowedTFC-List");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Non_allowedTFC_List(rtxContext* RT_RESTRICT ctx, Non_allowedTFC_List* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 10);
+      RT_CHECK(ctx, stat, 0, 0, -1, "Non-allowedTFC-List");
+      pvalue->n = raw + 1;
+      if (raw > 1023) {
+         rtxErrAddStrParm(ctx, "Non-allowedTFC-List");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "Non-allowedTFC-List");
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt16(ctx, &pvalue->elem[i], 0, 1023);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, "TFC-Value", "TFC-Value", (int32_t)i, "Non-allowedTFC-List");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_TrCH_Type(rtxContext* RT_RESTRICT ctx, UL_TrCH_Type* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-TrCH-Type");
+   return 0;
+}
+
+int asn1PD_UMTS_AllowedTFI_List_element(rtxContext* RT_RESTRICT ctx, AllowedTFI_List_element* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 31);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_AllowedTFI_List(rtxContext* RT_RESTRICT ctx, AllowedTFI_List* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 5);
+      RT_CHECK(ctx, stat, 0, 0, -1, "AllowedTFI-List");
+      pvalue->n = raw + 1;
+      if (raw > 31) {
+         rtxErrAddStrParm(ctx, "AllowedTFI-List");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "AllowedTFI-List");
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 31);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, 0, "element", (int32_t)i, "AllowedTFI-List");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RestrictedTrChInfo(rtxContext* RT_RESTRICT ctx, RestrictedTrChInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RestrictedTrChInfo");
+   /* ul-TransportChannelType */
+   stat = pd_ConsUnsigned(ctx, &pvalue->ul_TransportChannelType, 0, 1);
+   RT_CHECK(ctx, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, "RestrictedTrChInfo");
+   /* restrictedTrChIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->restrictedTrChIdentity, 1, 32);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "restrictedTrChIdentity", -1, "RestrictedTrChInfo");
+   /* allowedTFI-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_AllowedTFI_List(ctx, &pvalue->allowedTFI_List);
+      RT_CHECK(ctx, stat, 0, "allowedTFI-List", -1, "RestrictedTrChInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RestrictedTrChInfoList(rtxContext* RT_RESTRICT ctx, RestrictedTrChInfoList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RestrictedTrChInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RestrictedTrChInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RestrictedTrChInfo));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RestrictedTrChInfo", (int32_t)i, "RestrictedTrChInfoList");
+      elem = (RestrictedTrChInfo*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RestrictedTrChInfo(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RestrictedTrChInfo(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RestrictedTrChInfo", (int32_t)i, "RestrictedTrChInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TFC_Subset(rtxContext* RT_RESTRICT ctx, TFC_Subset* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TFC-Subset");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* minimumAllowedTFC-Number */
+         stat = pd_ConsUInt16(ctx, &pvalue->u.minimumAllowedTFC_Number, 0, 1023);
+         RT_CHECK(ctx, stat, "TFC-Value", "minimumAllowedTFC-Number", -1, "TFC-Subset");
+         break;
+      case 1: /* allowedTFC-List */
+         pvalue->u.allowedTFC_List = (AllowedTFC_List*)rtxMemHeapAlloc(ctx, sizeof(AllowedTFC_List));
+         if (pvalue->u.allowedTFC_List == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "allowedTFC-List", -1, "TFC-Subset");
+         asn1Init_UMTS_AllowedTFC_List(pvalue->u.allowedTFC_List);
+         stat = asn1PD_UMTS_AllowedTFC_List(ctx, pvalue->u.allowedTFC_List);
+         RT_CHECK(ctx, stat, 0, "allowedTFC-List", -1, "TFC-Subset");
+         break;
+      case 2: /* non-allowedTFC-List */
+         pvalue->u.non_allowedTFC_List = (Non_allowedTFC_List*)rtxMemHeapAlloc(ctx, sizeof(Non_allowedTFC_List));
+         if (pvalue->u.non_allowedTFC_List == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "non-allowedTFC-List", -1, "TFC-Subset");
+         asn1Init_UMTS_Non_allowedTFC_List(pvalue->u.non_allowedTFC_List);
+         stat = asn1PD_UMTS_Non_allowedTFC_List(ctx, pvalue->u.non_allowedTFC_List);
+         RT_CHECK(ctx, stat, 0, "non-allowedTFC-List", -1, "TFC-Subset");
+         break;
+      case 3: /* restrictedTrChInfoList */
+         pvalue->u.restrictedTrChInfoList = (RestrictedTrChInfoList*)rtxMemHeapAlloc(ctx, sizeof(RestrictedTrChInfoList));
+         if (pvalue->u.restrictedTrChInfoList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "restrictedTrChInfoList", -1, "TFC-Subset");
+         asn1Init_UMTS_RestrictedTrChInfoList(pvalue->u.restrictedTrChInfoList);
+         stat = asn1PD_UMTS_RestrictedTrChInfoList(ctx, pvalue->u.restrictedTrChInfoList);
+         RT_CHECK(ctx, stat, 0, "restrictedTrChInfoList", -1, "TFC-Subset");
+         break;
+      case 4: /* fullTFCS */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TFC-Subset");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_CommonTransChInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ul-TFCS */
+   stat = asn1PD_UMTS_TFCS(ctx, &pvalue->ul_TFCS);
+   RT_CHECK(ctx, stat, 0, "ul-TFCS", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_TFCS_Identity(rtxContext* RT_RESTRICT ctx, TFCS_Identity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TFCS-Identity");
+   /* tfcs-ID */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUInt8(ctx, &pvalue->tfcs_ID, 1, 8);
+      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "TFCS-Identity");
+   }
+   else {
+      pvalue->tfcs_ID = 1;
+   }
+   /* sharedChannelIndicator */
+   stat = rtxDecBitInline(ctx, &pvalue->sharedChannelIndicator);
+   RT_CHECK(ctx, stat, 0, "sharedChannelIndicator", -1, "TFCS-Identity");
+   return 0;
+}
+
+int asn1PD_UMTS_IndividualUL_CCTrCH_Info(rtxContext* RT_RESTRICT ctx, IndividualUL_CCTrCH_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ul-TFCS-Identity */
+   stat = asn1PD_UMTS_TFCS_Identity(ctx, &pvalue->ul_TFCS_Identity);
+   RT_CHECK(ctx, stat, 0, "ul-TFCS-Identity", -1, "IndividualUL-CCTrCH-Info");
+   /* ul-TFCS */
+   stat = asn1PD_UMTS_TFCS(ctx, &pvalue->ul_TFCS);
+   RT_CHECK(ctx, stat, 0, "ul-TFCS", -1, "IndividualUL-CCTrCH-Info");
+   /* tfc-Subset */
+   stat = asn1PD_UMTS_TFC_Subset(ctx, &pvalue->tfc_Subset);
+   RT_CHECK(ctx, stat, 0, "tfc-Subset", -1, "IndividualUL-CCTrCH-Info");
+   return 0;
+}
+
+int asn1PD_UMTS_IndividualUL_CCTrCH_InfoList(rtxContext* RT_RESTRICT ctx, IndividualUL_CCTrCH_InfoList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IndividualUL-CCTrCH-InfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      IndividualUL_CCTrCH_Info* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(IndividualUL_CCTrCH_Info));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "IndividualUL-CCTrCH-Info", (int32_t)i, "IndividualUL-CCTrCH-InfoList");
+      elem = (IndividualUL_CCTrCH_Info*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_IndividualUL_CCTrCH_Info(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_IndividualUL_CCTrCH_Info(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "IndividualUL-CCTrCH-Info", (int32_t)i, "IndividualUL-CCTrCH-InfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_CommonTransChInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* individualUL-CCTrCH-InfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IndividualUL_CCTrCH_InfoList(ctx, &pvalue->individualUL_CCTrCH_InfoList);
+      RT_CHECK(ctx, stat, 0, "individualUL-CCTrCH-InfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_CommonTransChInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UL_CommonTransChInfo_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_CommonTransChInfo_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_UL_CommonTransChInfo_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_UL_CommonTransChInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UL_CommonTransChInfo_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_CommonTransChInfo_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_UL_CommonTransChInfo_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_UL_CommonTransChInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_CommonTransChInfo(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-CommonTransChInfo");
+   /* tfc-Subset */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TFC_Subset(ctx, &pvalue->tfc_Subset);
+      RT_CHECK(ctx, stat, 0, "tfc-Subset", -1, "UL-CommonTransChInfo");
+   }
+   /* prach-TFCS */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_TFCS(ctx, &pvalue->prach_TFCS);
+      RT_CHECK(ctx, stat, 0, "prach-TFCS", -1, "UL-CommonTransChInfo");
+   }
+   /* modeSpecificInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+      RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-CommonTransChInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AddReconfTransChInformation(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ul-TransportChannelType */
+   stat = pd_ConsUnsigned(ctx, &pvalue->ul_TransportChannelType, 0, 1);
+   RT_CHECK(ctx, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, "UL-AddReconfTransChInformation");
+   /* transportChannelIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->transportChannelIdentity, 1, 32);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, "UL-AddReconfTransChInformation");
+   /* transportFormatSet */
+   stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->transportFormatSet);
+   RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, "UL-AddReconfTransChInformation");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AddReconfTransChInfoList(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInfoList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-AddReconfTransChInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UL_AddReconfTransChInformation* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_AddReconfTransChInformation));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UL-AddReconfTransChInformation", (int32_t)i, "UL-AddReconfTransChInfoList");
+      elem = (UL_AddReconfTransChInformation*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UL_AddReconfTransChInformation(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_UL_AddReconfTransChInformation(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "UL-AddReconfTransChInformation", (int32_t)i, "UL-AddReconfTransChInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonTransChInfo_modeSpecificInfo_fdd_dl_Parameters(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_modeSpecificInfo_fdd_dl_Parameters* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dl-DCH-TFCS */
+         pvalue->u.dl_DCH_TFCS = (TFCS*)rtxMemHeapAlloc(ctx, sizeof(TFCS));
+         if (pvalue->u.dl_DCH_TFCS == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-DCH-TFCS", -1, 0);
+         asn1Init_UMTS_TFCS(pvalue->u.dl_DCH_TFCS);
+         stat = asn1PD_UMTS_TFCS(ctx, pvalue->u.dl_DCH_TFCS);
+         RT_CHECK(ctx, stat, 0, "dl-DCH-TFCS", -1, 0);
+         break;
+      case 1: /* sameAsUL */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonTransChInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-Parameters */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_modeSpecificInfo_fdd_dl_Parameters(ctx, &pvalue->dl_Parameters);
+      RT_CHECK(ctx, stat, 0, "dl-Parameters", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IndividualDL_CCTrCH_Info_tfcs_SignallingMode(rtxContext* RT_RESTRICT ctx, IndividualDL_CCTrCH_Info_tfcs_SignallingMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* explicit-config */
+         pvalue->u.explicit_config = (TFCS*)rtxMemHeapAlloc(ctx, sizeof(TFCS));
+         if (pvalue->u.explicit_config == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "explicit-config", -1, 0);
+         asn1Init_UMTS_TFCS(pvalue->u.explicit_config);
+         stat = asn1PD_UMTS_TFCS(ctx, pvalue->u.explicit_config);
+         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
+         break;
+      case 1: /* sameAsUL */
+         pvalue->u.sameAsUL = (TFCS_Identity*)rtxMemHeapAlloc(ctx, sizeof(TFCS_Identity));
+         if (pvalue->u.sameAsUL == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sameAsUL", -1, 0);
+         asn1Init_UMTS_TFCS_Identity(pvalue->u.sameAsUL);
+         stat = asn1PD_UMTS_TFCS_Identity(ctx, pvalue->u.sameAsUL);
+         RT_CHECK(ctx, stat, 0, "sameAsUL", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IndividualDL_CCTrCH_Info(rtxContext* RT_RESTRICT ctx, IndividualDL_CCTrCH_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* dl-TFCS-Identity */
+   stat = asn1PD_UMTS_TFCS_Identity(ctx, &pvalue->dl_TFCS_Identity);
+   RT_CHECK(ctx, stat, 0, "dl-TFCS-Identity", -1, "IndividualDL-CCTrCH-Info");
+   /* tfcs-SignallingMode */
+   stat = asn1PD_UMTS_IndividualDL_CCTrCH_Info_tfcs_SignallingMode(ctx, &pvalue->tfcs_SignallingMode);
+   RT_CHECK(ctx, stat, 0, "tfcs-SignallingMode", -1, "IndividualDL-CCTrCH-Info");
+   return 0;
+}
+
+int asn1PD_UMTS_IndividualDL_CCTrCH_InfoList(rtxContext* RT_RESTRICT ctx, IndividualDL_CCTrCH_InfoList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IndividualDL-CCTrCH-InfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      IndividualDL_CCTrCH_Info* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(IndividualDL_CCTrCH_Info));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "IndividualDL-CCTrCH-Info", (int32_t)i, "IndividualDL-CCTrCH-InfoList");
+      elem = (IndividualDL_CCTrCH_Info*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_IndividualDL_CCTrCH_Info(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_IndividualDL_CCTrCH_Info(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "IndividualDL-CCTrCH-Info", (int32_t)i, "IndividualDL-CCTrCH-InfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonTransChInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* individualDL-CCTrCH-InfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IndividualDL_CCTrCH_InfoList(ctx, &pvalue->individualDL_CCTrCH_InfoList);
+      RT_CHECK(ctx, stat, 0, "individualDL-CCTrCH-InfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonTransChInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_CommonTransChInfo_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonTransChInfo_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_CommonTransChInfo_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_DL_CommonTransChInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_CommonTransChInfo_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonTransChInfo_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_CommonTransChInfo_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_DL_CommonTransChInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonTransChInfo(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CommonTransChInfo");
+   /* sccpch-TFCS */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TFCS(ctx, &pvalue->sccpch_TFCS);
+      RT_CHECK(ctx, stat, 0, "sccpch-TFCS", -1, "DL-CommonTransChInfo");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_DL_CommonTransChInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonTransChInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_TrCH_Type(rtxContext* RT_RESTRICT ctx, DL_TrCH_Type* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-TrCH-Type");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_TransportChannelIdentity(rtxContext* RT_RESTRICT ctx, UL_TransportChannelIdentity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ul-TransportChannelType */
+   stat = pd_ConsUnsigned(ctx, &pvalue->ul_TransportChannelType, 0, 1);
+   RT_CHECK(ctx, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, "UL-TransportChannelIdentity");
+   /* ul-TransportChannelIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->ul_TransportChannelIdentity, 1, 32);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "ul-TransportChannelIdentity", -1, "UL-TransportChannelIdentity");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AddReconfTransChInformation_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_tfs_SignallingMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* explicit-config */
+         pvalue->u.explicit_config = (TransportFormatSet*)rtxMemHeapAlloc(ctx, sizeof(TransportFormatSet));
+         if (pvalue->u.explicit_config == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "explicit-config", -1, 0);
+         asn1Init_UMTS_TransportFormatSet(pvalue->u.explicit_config);
+         stat = asn1PD_UMTS_TransportFormatSet(ctx, pvalue->u.explicit_config);
+         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
+         break;
+      case 1: /* sameAsULTrCH */
+         pvalue->u.sameAsULTrCH = (UL_TransportChannelIdentity*)rtxMemHeapAllocZ(ctx, sizeof(UL_TransportChannelIdentity));
+         if (pvalue->u.sameAsULTrCH == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sameAsULTrCH", -1, 0);
+         stat = asn1PD_UMTS_UL_TransportChannelIdentity(ctx, pvalue->u.sameAsULTrCH);
+         RT_CHECK(ctx, stat, 0, "sameAsULTrCH", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_BLER_QualityValue(rtxContext* RT_RESTRICT ctx, BLER_QualityValue* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsInt8(ctx, pvalue, -63, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, "BLER-QualityValue");
+   return 0;
+}
+
+int asn1PD_UMTS_QualityTarget(rtxContext* RT_RESTRICT ctx, QualityTarget* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* bler-QualityValue */
+   stat = pd_ConsInt8(ctx, &pvalue->bler_QualityValue, -63, 0);
+   RT_CHECK(ctx, stat, "BLER-QualityValue", "bler-QualityValue", -1, "QualityTarget");
+   return 0;
+}
+
+int asn1PD_UMTS_MessType(rtxContext* RT_RESTRICT ctx, MessType* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, "MessType");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, "MessType");
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_ControlledTrChList(rtxContext* RT_RESTRICT ctx, UL_ControlledTrChList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 5);
+      RT_CHECK(ctx, stat, 0, 0, -1, "UL-ControlledTrChList");
+      pvalue->n = raw + 1;
+      if (raw > 31) {
+         rtxErrAddStrParm(ctx, "UL-ControlledTrChList");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UL-ControlledTrChList");
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 1, 32);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, "TransportChannelIdentity", "TransportChannelIdentity", (int32_t)i, "UL-ControlledTrChList");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TM_SignallingInfo_tm_SignallingMode_mode2(rtxContext* RT_RESTRICT ctx, TM_SignallingInfo_tm_SignallingMode_mode2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ul-controlledTrChList */
+   stat = asn1PD_UMTS_UL_ControlledTrChList(ctx, &pvalue->ul_controlledTrChList);
+   RT_CHECK(ctx, stat, 0, "ul-controlledTrChList", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_TM_SignallingInfo_tm_SignallingMode(rtxContext* RT_RESTRICT ctx, TM_SignallingInfo_tm_SignallingMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* mode1 */
+         break;
+      case 1: /* mode2 */
+         pvalue->u.mode2 = (TM_SignallingInfo_tm_SignallingMode_mode2*)rtxMemHeapAlloc(ctx, sizeof(TM_SignallingInfo_tm_SignallingMode_mode2));
+         if (pvalue->u.mode2 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "mode2", -1, 0);
+         asn1Init_UMTS_TM_SignallingInfo_tm_SignallingMode_mode2(pvalue->u.mode2);
+         stat = asn1PD_UMTS_TM_SignallingInfo_tm_SignallingMode_mode2(ctx, pvalue->u.mode2);
+         RT_CHECK(ctx, stat, 0, "mode2", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TM_SignallingInfo(rtxContext* RT_RESTRICT ctx, TM_SignallingInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* messType */
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, "MessType", "messType", -1, "TM-SignallingInfo");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, "MessType", "messType", -1, "TM-SignallingInfo");
+      pvalue->messType = ui;
+   }
+   /* tm-SignallingMode */
+   stat = asn1PD_UMTS_TM_SignallingInfo_tm_SignallingMode(ctx, &pvalue->tm_SignallingMode);
+   RT_CHECK(ctx, stat, 0, "tm-SignallingMode", -1, "TM-SignallingInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AddReconfTransChInformation(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInformation");
+   /* dl-TransportChannelType */
+   stat = pd_ConsUnsigned(ctx, &pvalue->dl_TransportChannelType, 0, 1);
+   RT_CHECK(ctx, stat, "DL-TrCH-Type", "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation");
+   /* dl-transportChannelIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->dl_transportChannelIdentity, 1, 32);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "dl-transportChannelIdentity", -1, "DL-AddReconfTransChInformation");
+   /* tfs-SignallingMode */
+   stat = asn1PD_UMTS_DL_AddReconfTransChInformation_tfs_SignallingMode(ctx, &pvalue->tfs_SignallingMode);
+   RT_CHECK(ctx, stat, 0, "tfs-SignallingMode", -1, "DL-AddReconfTransChInformation");
+   /* dch-QualityTarget */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_QualityTarget(ctx, &pvalue->dch_QualityTarget);
+      RT_CHECK(ctx, stat, 0, "dch-QualityTarget", -1, "DL-AddReconfTransChInformation");
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_TM_SignallingInfo(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "DL-AddReconfTransChInformation");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AddReconfTransChInfoList(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInfoList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_AddReconfTransChInformation* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_AddReconfTransChInformation));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-AddReconfTransChInformation", (int32_t)i, "DL-AddReconfTransChInfoList");
+      elem = (DL_AddReconfTransChInformation*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_AddReconfTransChInformation(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_DL_AddReconfTransChInformation(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "DL-AddReconfTransChInformation", (int32_t)i, "DL-AddReconfTransChInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PreDefTransChConfiguration(rtxContext* RT_RESTRICT ctx, PreDefTransChConfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ul-CommonTransChInfo */
+   stat = asn1PD_UMTS_UL_CommonTransChInfo(ctx, &pvalue->ul_CommonTransChInfo);
+   RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "PreDefTransChConfiguration");
+   /* ul-AddReconfTrChInfoList */
+   stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTrChInfoList);
+   RT_CHECK(ctx, stat, 0, "ul-AddReconfTrChInfoList", -1, "PreDefTransChConfiguration");
+   /* dl-CommonTransChInfo */
+   stat = asn1PD_UMTS_DL_CommonTransChInfo(ctx, &pvalue->dl_CommonTransChInfo);
+   RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "PreDefTransChConfiguration");
+   /* dl-TrChInfoList */
+   stat = asn1PD_UMTS_DL_AddReconfTransChInfoList(ctx, &pvalue->dl_TrChInfoList);
+   RT_CHECK(ctx, stat, 0, "dl-TrChInfoList", -1, "PreDefTransChConfiguration");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfoPredef_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfoPredef_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* powerControlAlgorithm */
+   stat = asn1PD_UMTS_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm);
+   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfoPredef_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfoPredef_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* dpch-ConstantValue */
+   stat = pd_ConsInt8(ctx, &pvalue->dpch_ConstantValue, -35, 10);
+   RT_CHECK(ctx, stat, "ConstantValueTdd", "dpch-ConstantValue", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfoPredef(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfoPredef* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DPCH-PowerControlInfoPredef");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UL_DPCH_PowerControlInfoPredef_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfoPredef_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, "UL-DPCH-PowerControlInfoPredef");
+         asn1Init_UMTS_UL_DPCH_PowerControlInfoPredef_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfoPredef_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "UL-DPCH-PowerControlInfoPredef");
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UL_DPCH_PowerControlInfoPredef_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UL_DPCH_PowerControlInfoPredef_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, "UL-DPCH-PowerControlInfoPredef");
+         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfoPredef_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "UL-DPCH-PowerControlInfoPredef");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-DPCH-PowerControlInfoPredef");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPredef_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* tfci-Existence */
+   stat = rtxDecBitInline(ctx, &pvalue->tfci_Existence);
+   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
+   /* puncturingLimit */
+   stat = pd_ConsUnsigned(ctx, &pvalue->puncturingLimit, 0, 15);
+   RT_CHECK(ctx, stat, "PuncturingLimit", "puncturingLimit", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPredef_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* commonTimeslotInfo */
+   stat = asn1PD_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
+   RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPredef_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UL_DPCH_InfoPredef_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UL_DPCH_InfoPredef_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = asn1PD_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UL_DPCH_InfoPredef_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_InfoPredef_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_InfoPredef(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPredef* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ul-DPCH-PowerControlInfo */
+   stat = asn1PD_UMTS_UL_DPCH_PowerControlInfoPredef(ctx, &pvalue->ul_DPCH_PowerControlInfo);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "UL-DPCH-InfoPredef");
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-DPCH-InfoPredef");
+   return 0;
+}
+
+int asn1PD_UMTS_PilotBits128(rtxContext* RT_RESTRICT ctx, PilotBits128* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PilotBits128");
+   return 0;
+}
+
+int asn1PD_UMTS_PilotBits256(rtxContext* RT_RESTRICT ctx, PilotBits256* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PilotBits256");
+   return 0;
+}
+
+int asn1PD_UMTS_SF512_AndPilot(rtxContext* RT_RESTRICT ctx, SF512_AndPilot* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SF512-AndPilot");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* sfd4 */
+         break;
+      case 1: /* sfd8 */
+         break;
+      case 2: /* sfd16 */
+         break;
+      case 3: /* sfd32 */
+         break;
+      case 4: /* sfd64 */
+         break;
+      case 5: /* sfd128 */
+         stat = pd_ConsUnsigned(ctx, &pvalue->u.sfd128, 0, 1);
+         RT_CHECK(ctx, stat, "PilotBits128", "sfd128", -1, "SF512-AndPilot");
+         break;
+      case 6: /* sfd256 */
+         stat = pd_ConsUnsigned(ctx, &pvalue->u.sfd256, 0, 2);
+         RT_CHECK(ctx, stat, "PilotBits256", "sfd256", -1, "SF512-AndPilot");
+         break;
+      case 7: /* sfd512 */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SF512-AndPilot");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* spreadingFactorAndPilot */
+   stat = asn1PD_UMTS_SF512_AndPilot(ctx, &pvalue->spreadingFactorAndPilot);
+   RT_CHECK(ctx, stat, 0, "spreadingFactorAndPilot", -1, 0);
+   /* positionFixedOrFlexible */
+   stat = pd_ConsUnsigned(ctx, &pvalue->positionFixedOrFlexible, 0, 1);
+   RT_CHECK(ctx, stat, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
+   /* tfci-Existence */
+   stat = rtxDecBitInline(ctx, &pvalue->tfci_Existence);
+   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* commonTimeslotInfo */
+   stat = asn1PD_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
+   RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommonPredef_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommonPredef(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommonPredef* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-DPCH-InfoCommonPredef");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformationPredef(rtxContext* RT_RESTRICT ctx, DL_CommonInformationPredef* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CommonInformationPredef");
+   /* dl-DPCH-InfoCommon */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_DPCH_InfoCommonPredef(ctx, &pvalue->dl_DPCH_InfoCommon);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, "DL-CommonInformationPredef");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PreDefPhyChConfiguration(rtxContext* RT_RESTRICT ctx, PreDefPhyChConfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PreDefPhyChConfiguration");
+   /* ul-DPCH-InfoPredef */
+   stat = asn1PD_UMTS_UL_DPCH_InfoPredef(ctx, &pvalue->ul_DPCH_InfoPredef);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-InfoPredef", -1, "PreDefPhyChConfiguration");
+   /* dl-CommonInformationPredef */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_CommonInformationPredef(ctx, &pvalue->dl_CommonInformationPredef);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformationPredef", -1, "PreDefPhyChConfiguration");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PreDefRadioConfiguration(rtxContext* RT_RESTRICT ctx, PreDefRadioConfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* predefinedRB-Configuration */
+   stat = asn1PD_UMTS_PredefinedRB_Configuration(ctx, &pvalue->predefinedRB_Configuration);
+   RT_CHECK(ctx, stat, 0, "predefinedRB-Configuration", -1, "PreDefRadioConfiguration");
+   /* preDefTransChConfiguration */
+   stat = asn1PD_UMTS_PreDefTransChConfiguration(ctx, &pvalue->preDefTransChConfiguration);
+   RT_CHECK(ctx, stat, 0, "preDefTransChConfiguration", -1, "PreDefRadioConfiguration");
+   /* preDefPhyChConfiguration */
+   stat = asn1PD_UMTS_PreDefPhyChConfiguration(ctx, &pvalue->preDefPhyChConfiguration);
+   RT_CHECK(ctx, stat, 0, "preDefPhyChConfiguration", -1, "PreDefRadioConfiguration");
+   return 0;
+}
+
+int asn1PD_UMTS_NumberOfTPC_Bits(rtxContext* RT_RESTRICT ctx, NumberOfTPC_Bits* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, "NumberOfTPC-Bits");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, "NumberOfTPC-Bits");
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* numberOfTPC-Bits */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "NumberOfTPC-Bits", "numberOfTPC-Bits", -1, 0);
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "NumberOfTPC-Bits", "numberOfTPC-Bits", -1, 0);
+         pvalue->numberOfTPC_Bits = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPredef_v770ext_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_InfoPredef_v770ext(rtxContext* RT_RESTRICT ctx, UL_DPCH_InfoPredef_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-DPCH-InfoPredef-v770ext");
+   return 0;
+}
+
+int asn1PD_UMTS_PreDefPhyChConfiguration_v770ext(rtxContext* RT_RESTRICT ctx, PreDefPhyChConfiguration_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ul-DPCH-InfoPredef */
+   stat = asn1PD_UMTS_UL_DPCH_InfoPredef_v770ext(ctx, &pvalue->ul_DPCH_InfoPredef);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-InfoPredef", -1, "PreDefPhyChConfiguration-v770ext");
+   return 0;
+}
+
+int asn1PD_UMTS_PreDefRadioConfiguration_v770ext(rtxContext* RT_RESTRICT ctx, PreDefRadioConfiguration_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* preDefPhyChConfiguration */
+   stat = asn1PD_UMTS_PreDefPhyChConfiguration_v770ext(ctx, &pvalue->preDefPhyChConfiguration);
+   RT_CHECK(ctx, stat, 0, "preDefPhyChConfiguration", -1, "PreDefRadioConfiguration-v770ext");
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType16_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType16_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* preDefinedRadioConfiguration */
+   stat = asn1PD_UMTS_PreDefRadioConfiguration_v770ext(ctx, &pvalue->preDefinedRadioConfiguration);
+   RT_CHECK(ctx, stat, 0, "preDefinedRadioConfiguration", -1, "SysInfoType16-v770ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_MAC_hs_WindowSize_r9(rtxContext* RT_RESTRICT ctx, MAC_hs_WindowSize_r9* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-hs-WindowSize-r9");
+   return 0;
+}
+
+int asn1PD_UMTS_PreDefRadioConfiguration_v920ext(rtxContext* RT_RESTRICT ctx, PreDefRadioConfiguration_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* mac-ehsWindowSize */
+   stat = pd_ConsUnsigned(ctx, &pvalue->mac_ehsWindowSize, 0, 8);
+   RT_CHECK(ctx, stat, "MAC-hs-WindowSize-r9", "mac-ehsWindowSize", -1, "PreDefRadioConfiguration-v920ext");
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType16_v920ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType16_v920ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* preDefinedRadioConfiguration */
+   stat = asn1PD_UMTS_PreDefRadioConfiguration_v920ext(ctx, &pvalue->preDefinedRadioConfiguration);
+   RT_CHECK(ctx, stat, 0, "preDefinedRadioConfiguration", -1, "SysInfoType16-v920ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType16-v920ext */
+   stat = asn1PD_UMTS_SysInfoType16_v920ext_IEs(ctx, &pvalue->sysInfoType16_v920ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType16-v920ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType16_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType16_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType16-v770ext */
+   stat = asn1PD_UMTS_SysInfoType16_v770ext_IEs(ctx, &pvalue->sysInfoType16_v770ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType16-v770ext", -1, 0);
+   /* v920NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType16(rtxContext* RT_RESTRICT ctx, SysInfoType16* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType16");
+   /* preDefinedRadioConfiguration */
+   stat = asn1PD_UMTS_PreDefRadioConfiguration(ctx, &pvalue->preDefinedRadioConfiguration);
+   RT_CHECK(ctx, stat, 0, "preDefinedRadioConfiguration", -1, "SysInfoType16");
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType16_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, "SysInfoType16");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Ansi_41_IDNNS(rtxContext* RT_RESTRICT ctx, Ansi_41_IDNNS* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 14, 14);
+   stat = pd_BitString32(ctx, pvalue, 14, 14);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Ansi-41-IDNNS");
+   return 0;
+}
+
+int asn1PD_UMTS_CN_DomainInformation(rtxContext* RT_RESTRICT ctx, CN_DomainInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "CN-DomainInformation");
+   /* cn-DomainSpecificNAS-Info */
+   stat = asn1PD_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_DomainSpecificNAS_Info);
+   RT_CHECK(ctx, stat, 0, "cn-DomainSpecificNAS-Info", -1, "CN-DomainInformation");
+   return 0;
+}
+
+int asn1PD_UMTS_CN_DomainInformationFull(rtxContext* RT_RESTRICT ctx, CN_DomainInformationFull* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "CN-DomainInformationFull");
+   /* cn-DomainSpecificNAS-Info */
+   stat = asn1PD_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_DomainSpecificNAS_Info);
+   RT_CHECK(ctx, stat, 0, "cn-DomainSpecificNAS-Info", -1, "CN-DomainInformationFull");
+   /* cn-DRX-CycleLengthCoeff */
+   stat = pd_ConsUInt8(ctx, &pvalue->cn_DRX_CycleLengthCoeff, 6, 9);
+   RT_CHECK(ctx, stat, "CN-DRX-CycleLengthCoefficient", "cn-DRX-CycleLengthCoeff", -1, "CN-DomainInformationFull");
    return 0;
 }
 

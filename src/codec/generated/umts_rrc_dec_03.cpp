@@ -6,9020 +6,9003 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* ctx, MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "cpich-RSCP");
-         pvalue->u.cpich_RSCP = (MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP));
-         if (pvalue->u.cpich_RSCP == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(pvalue->u.cpich_RSCP);
-         stat = asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "cpich-Ec-N0");
-         pvalue->u.cpich_Ec_N0 = (MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0));
-         if (pvalue->u.cpich_Ec_N0 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(pvalue->u.cpich_Ec_N0);
-         stat = asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterRATCell_technologySpecificInfo_gsm(rtxContext* ctx, NewInterRATCell_technologySpecificInfo_gsm* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* cellSelectionReselectionInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "cellSelectionReselectionInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interRATCellIndividualOffset */
-   rtxCtxtPushElemName(ctx, "interRATCellIndividualOffset");
-   rtxCtxtPushTypeName(ctx, "InterRATCellIndividualOffset");
-   stat = pd_ConsInt8(ctx, &pvalue->interRATCellIndividualOffset, -50, 50);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* bsic */
-   rtxCtxtPushElemName(ctx, "bsic");
-   stat = asn1PD_UMTS_BSIC(ctx, &pvalue->bsic);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequency-band */
-   rtxCtxtPushElemName(ctx, "frequency-band");
-   rtxCtxtPushTypeName(ctx, "Frequency-Band");
-   stat = pd_ConsUnsigned(ctx, &pvalue->frequency_band, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* bcch-ARFCN */
-   rtxCtxtPushElemName(ctx, "bcch-ARFCN");
-   rtxCtxtPushTypeName(ctx, "BCCH-ARFCN");
-   stat = pd_ConsUInt16(ctx, &pvalue->bcch_ARFCN, 0, 1023);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x2u;
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterRATCell_technologySpecificInfo_is_2000(rtxContext* ctx, NewInterRATCell_technologySpecificInfo_is_2000* pvalue)
-{
-   int stat = 0;
-   /* is-2000SpecificMeasInfo */
-   rtxCtxtPushElemName(ctx, "is-2000SpecificMeasInfo");
-   rtxCtxtPushTypeName(ctx, "IS-2000SpecificMeasInfo");
-   stat = pd_ConsUnsigned(ctx, &pvalue->is_2000SpecificMeasInfo, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterRATCell_technologySpecificInfo(rtxContext* ctx, NewInterRATCell_technologySpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "gsm");
-         pvalue->u.gsm = (NewInterRATCell_technologySpecificInfo_gsm*)rtxMemHeapAlloc(ctx, sizeof(NewInterRATCell_technologySpecificInfo_gsm));
-         if (pvalue->u.gsm == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_NewInterRATCell_technologySpecificInfo_gsm(pvalue->u.gsm);
-         stat = asn1PD_UMTS_NewInterRATCell_technologySpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "is-2000");
-         pvalue->u.is_2000 = (NewInterRATCell_technologySpecificInfo_is_2000*)rtxMemHeapAllocZ(ctx, sizeof(NewInterRATCell_technologySpecificInfo_is_2000));
-         if (pvalue->u.is_2000 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_NewInterRATCell_technologySpecificInfo_is_2000(ctx, pvalue->u.is_2000);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "absent");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "spare1");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterRATCell(rtxContext* ctx, NewInterRATCell* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "NewInterRATCell");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* interRATCellID */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interRATCellID");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "InterRATCellID");
-      stat = pd_ConsUInt8(ctx, &pvalue->interRATCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* technologySpecificInfo */
-   rtxCtxtPushElemName(ctx, "technologySpecificInfo");
-   stat = asn1PD_UMTS_NewInterRATCell_technologySpecificInfo(ctx, &pvalue->technologySpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterRATCellList(rtxContext* ctx, NewInterRATCellList* pvalue)
+int asn1PD_UMTS_CN_DomainInformationList(rtxContext* RT_RESTRICT ctx, CN_DomainInformationList* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "NewInterRATCellList");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NewInterRATCell* elem;
-      rtxCtxtPushArrayElemName(ctx, "NewInterRATCell", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterRATCell));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (NewInterRATCell*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NewInterRATCell(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewInterRATCell(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellsForInterRATMeasList(rtxContext* ctx, CellsForInterRATMeasList* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "CellsForInterRATMeasList");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 5);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 31) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "InterRATCellID", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "InterRATCellID");
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 31);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATCellInfoList(rtxContext* ctx, InterRATCellInfoList* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterRATCellInfoList");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* removedInterRATCellList */
-   rtxCtxtPushElemName(ctx, "removedInterRATCellList");
-   stat = asn1PD_UMTS_RemovedInterRATCellList(ctx, &pvalue->removedInterRATCellList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* newInterRATCellList */
-   rtxCtxtPushElemName(ctx, "newInterRATCellList");
-   stat = asn1PD_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellsForInterRATMeasList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cellsForInterRATMeasList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellsForInterRATMeasList(ctx, &pvalue->cellsForInterRATMeasList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATMeasurementSysInfo(rtxContext* ctx, InterRATMeasurementSysInfo* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterRATMeasurementSysInfo");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* interRATCellInfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interRATCellInfoList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATCellInfoList(ctx, &pvalue->interRATCellInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used(rtxContext* ctx, MeasurementControlSysInfo_use_of_HCS_hcs_used* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellSelectQualityMeasure */
-   rtxCtxtPushElemName(ctx, "cellSelectQualityMeasure");
-   stat = asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* interRATMeasurementSysInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interRATMeasurementSysInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATMeasurementSysInfo(ctx, &pvalue->interRATMeasurementSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS(rtxContext* ctx, MeasurementControlSysInfo_use_of_HCS* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "hcs-not-used");
-         pvalue->u.hcs_not_used = (MeasurementControlSysInfo_use_of_HCS_hcs_not_used*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_use_of_HCS_hcs_not_used));
-         if (pvalue->u.hcs_not_used == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used(pvalue->u.hcs_not_used);
-         stat = asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used(ctx, pvalue->u.hcs_not_used);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "hcs-used");
-         pvalue->u.hcs_used = (MeasurementControlSysInfo_use_of_HCS_hcs_used*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_use_of_HCS_hcs_used));
-         if (pvalue->u.hcs_used == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used(pvalue->u.hcs_used);
-         stat = asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used(ctx, pvalue->u.hcs_used);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_TrCH_Identity(rtxContext* ctx, UL_TrCH_Identity* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "UL-TrCH-Identity");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "dch");
-         rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.dch, 1, 32);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "rachorcpch");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "usch");
-         rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.usch, 1, 32);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TrafficVolumeMeasurementObjectList(rtxContext* ctx, TrafficVolumeMeasurementObjectList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "TrafficVolumeMeasurementObjectList");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UL_TrCH_Identity* elem;
-      rtxCtxtPushArrayElemName(ctx, "UL-TrCH-Identity", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_TrCH_Identity));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (UL_TrCH_Identity*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UL_TrCH_Identity(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UL_TrCH_Identity(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TimeInterval(rtxContext* ctx, TimeInterval* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "TimeInterval");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 13);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TrafficVolumeMeasQuantity(rtxContext* ctx, TrafficVolumeMeasQuantity* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "TrafficVolumeMeasQuantity");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "rlc-BufferPayload");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "averageRLC-BufferPayload");
-         rtxCtxtPushTypeName(ctx, "TimeInterval");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.averageRLC_BufferPayload, 1, 13);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "varianceOfRLC-BufferPayload");
-         rtxCtxtPushTypeName(ctx, "TimeInterval");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.varianceOfRLC_BufferPayload, 1, 13);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TrafficVolumeReportingQuantity(rtxContext* ctx, TrafficVolumeReportingQuantity* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TrafficVolumeReportingQuantity");
-   /* rlc-RB-BufferPayload */
-   rtxCtxtPushElemName(ctx, "rlc-RB-BufferPayload");
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_RB_BufferPayload);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rlc-RB-BufferPayloadAverage */
-   rtxCtxtPushElemName(ctx, "rlc-RB-BufferPayloadAverage");
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_RB_BufferPayloadAverage);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rlc-RB-BufferPayloadVariance */
-   rtxCtxtPushElemName(ctx, "rlc-RB-BufferPayloadVariance");
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_RB_BufferPayloadVariance);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TrafficVolumeEventType(rtxContext* ctx, TrafficVolumeEventType* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "TrafficVolumeEventType");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TrafficVolumeThreshold(rtxContext* ctx, TrafficVolumeThreshold* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "TrafficVolumeThreshold");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 25);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PendingTimeAfterTrigger(rtxContext* ctx, PendingTimeAfterTrigger* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "PendingTimeAfterTrigger");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TX_InterruptionAfterTrigger(rtxContext* ctx, TX_InterruptionAfterTrigger* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "TX-InterruptionAfterTrigger");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TrafficVolumeEventParam(rtxContext* ctx, TrafficVolumeEventParam* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "TrafficVolumeEventParam");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* eventID */
-   rtxCtxtPushElemName(ctx, "eventID");
-   rtxCtxtPushTypeName(ctx, "TrafficVolumeEventType");
-   stat = pd_ConsUnsigned(ctx, &pvalue->eventID, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingThreshold */
-   rtxCtxtPushElemName(ctx, "reportingThreshold");
-   rtxCtxtPushTypeName(ctx, "TrafficVolumeThreshold");
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportingThreshold, 0, 25);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "timeToTrigger");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-      stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pendingTimeAfterTrigger */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "pendingTimeAfterTrigger");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "PendingTimeAfterTrigger");
-      stat = pd_ConsUnsigned(ctx, &pvalue->pendingTimeAfterTrigger, 0, 6);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tx-InterruptionAfterTrigger */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "tx-InterruptionAfterTrigger");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "TX-InterruptionAfterTrigger");
-      stat = pd_ConsUnsigned(ctx, &pvalue->tx_InterruptionAfterTrigger, 0, 6);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TransChCriteria_eventSpecificParameters(rtxContext* ctx, TransChCriteria_eventSpecificParameters* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 2);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      TrafficVolumeEventParam* elem;
-      rtxCtxtPushArrayElemName(ctx, "TrafficVolumeEventParam", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TrafficVolumeEventParam));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (TrafficVolumeEventParam*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_TrafficVolumeEventParam(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_TrafficVolumeEventParam(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_TransChCriteria(rtxContext* ctx, TransChCriteria* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "TransChCriteria");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ul-transportChannelID */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ul-transportChannelID");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_TrCH_Identity(ctx, &pvalue->ul_transportChannelID);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* eventSpecificParameters */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "eventSpecificParameters");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_TransChCriteria_eventSpecificParameters(ctx, &pvalue->eventSpecificParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TransChCriteriaList(rtxContext* ctx, TransChCriteriaList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "TransChCriteriaList");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      TransChCriteria* elem;
-      rtxCtxtPushArrayElemName(ctx, "TransChCriteria", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TransChCriteria));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (TransChCriteria*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_TransChCriteria(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_TransChCriteria(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TrafficVolumeReportingCriteria(rtxContext* ctx, TrafficVolumeReportingCriteria* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "TrafficVolumeReportingCriteria");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* transChCriteriaList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "transChCriteriaList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TransChCriteriaList(ctx, &pvalue->transChCriteriaList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementValidity_ue_State(rtxContext* ctx, MeasurementValidity_ue_State* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementValidity(rtxContext* ctx, MeasurementValidity* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MeasurementValidity");
-   /* ue-State */
-   rtxCtxtPushElemName(ctx, "ue-State");
-   stat = pd_ConsUnsigned(ctx, &pvalue->ue_State, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TrafficVolumeReportCriteriaSysInfo(rtxContext* ctx, TrafficVolumeReportCriteriaSysInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "TrafficVolumeReportCriteriaSysInfo");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "trafficVolumeReportingCriteria");
-         pvalue->u.trafficVolumeReportingCriteria = (TrafficVolumeReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(TrafficVolumeReportingCriteria));
-         if (pvalue->u.trafficVolumeReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_TrafficVolumeReportingCriteria(pvalue->u.trafficVolumeReportingCriteria);
-         stat = asn1PD_UMTS_TrafficVolumeReportingCriteria(ctx, pvalue->u.trafficVolumeReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-         pvalue->u.periodicalReportingCriteria = (PeriodicalReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalReportingCriteria));
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PeriodicalReportingCriteria(pvalue->u.periodicalReportingCriteria);
-         stat = asn1PD_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TrafficVolumeMeasSysInfo(rtxContext* ctx, TrafficVolumeMeasSysInfo* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "TrafficVolumeMeasSysInfo");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat);
-   /* trafficVolumeMeasurementID */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "trafficVolumeMeasurementID");
-      rtxCtxtPushTypeName(ctx, "MeasurementIdentity");
-      stat = pd_ConsUInt8(ctx, &pvalue->trafficVolumeMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->trafficVolumeMeasurementID = 4;
-   }
-   /* trafficVolumeMeasurementObjectList */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "trafficVolumeMeasurementObjectList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TrafficVolumeMeasurementObjectList(ctx, &pvalue->trafficVolumeMeasurementObjectList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* trafficVolumeMeasQuantity */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "trafficVolumeMeasQuantity");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_TrafficVolumeMeasQuantity(ctx, &pvalue->trafficVolumeMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* trafficVolumeReportingQuantity */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "trafficVolumeReportingQuantity");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_TrafficVolumeReportingQuantity(ctx, &pvalue->trafficVolumeReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_TrafficVolumeReportingCriteria(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementValidity */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "measurementValidity");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementReportingMode */
-   rtxCtxtPushElemName(ctx, "measurementReportingMode");
-   stat = asn1PD_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* reportCriteriaSysInf */
-   rtxCtxtPushElemName(ctx, "reportCriteriaSysInf");
-   stat = asn1PD_UMTS_TrafficVolumeReportCriteriaSysInfo(ctx, &pvalue->reportCriteriaSysInf);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_MeasurementQuantity(rtxContext* ctx, UE_MeasurementQuantity* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "UE-MeasurementQuantity");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalMeasQuantity(rtxContext* ctx, UE_InternalMeasQuantity* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-InternalMeasQuantity");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measurementQuantity */
-   rtxCtxtPushElemName(ctx, "measurementQuantity");
-   rtxCtxtPushTypeName(ctx, "UE-MeasurementQuantity");
-   stat = pd_ConsUnsigned(ctx, &pvalue->measurementQuantity, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* filterCoefficient */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "filterCoefficient");
-      rtxCtxtPushTypeName(ctx, "FilterCoefficient");
-      stat = pd_ConsUnsigned(ctx, &pvalue->filterCoefficient, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->filterCoefficient = 0;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalMeasurementSysInfo(rtxContext* ctx, UE_InternalMeasurementSysInfo* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-InternalMeasurementSysInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-InternalMeasurementID */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-InternalMeasurementID");
-      rtxCtxtPushTypeName(ctx, "MeasurementIdentity");
-      stat = pd_ConsUInt8(ctx, &pvalue->ue_InternalMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->ue_InternalMeasurementID = 5;
-   }
-   /* ue-InternalMeasQuantity */
-   rtxCtxtPushElemName(ctx, "ue-InternalMeasQuantity");
-   stat = asn1PD_UMTS_UE_InternalMeasQuantity(ctx, &pvalue->ue_InternalMeasQuantity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfo(rtxContext* ctx, MeasurementControlSysInfo* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MeasurementControlSysInfo");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* use-of-HCS */
-   rtxCtxtPushElemName(ctx, "use-of-HCS");
-   stat = asn1PD_UMTS_MeasurementControlSysInfo_use_of_HCS(ctx, &pvalue->use_of_HCS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* trafficVolumeMeasSysInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "trafficVolumeMeasSysInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TrafficVolumeMeasSysInfo(ctx, &pvalue->trafficVolumeMeasSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_InternalMeasurementSysInfo(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_FACH_MeasurementOccasionInfo_LCR_r4_ext(rtxContext* ctx, FACH_MeasurementOccasionInfo_LCR_r4_ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "FACH-MeasurementOccasionInfo-LCR-r4-ext");
-   /* inter-freq-TDD128-meas-ind */
-   rtxCtxtPushElemName(ctx, "inter-freq-TDD128-meas-ind");
-   stat = rtxDecBitInline(ctx, &pvalue->inter_freq_TDD128_meas_ind);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PrimaryCCPCH_Info_LCR_r4(rtxContext* ctx, PrimaryCCPCH_Info_LCR_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-Info-LCR-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* tstd-Indicator */
-   rtxCtxtPushElemName(ctx, "tstd-Indicator");
-   stat = rtxDecBitInline(ctx, &pvalue->tstd_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellParametersID */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cellParametersID");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "CellParametersID");
-      stat = pd_ConsUInt8(ctx, &pvalue->cellParametersID, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sctd-Indicator */
-   rtxCtxtPushElemName(ctx, "sctd-Indicator");
-   stat = rtxDecBitInline(ctx, &pvalue->sctd_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TimeslotInfo_LCR_r4(rtxContext* ctx, TimeslotInfo_LCR_r4* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TimeslotInfo-LCR-r4");
-   /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-LCR-r4");
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TimeslotInfoList_LCR_r4(rtxContext* ctx, TimeslotInfoList_LCR_r4* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "TimeslotInfoList-LCR-r4");
-   RT_SET_SIZE(ctx, 1, 6);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      TimeslotInfo_LCR_r4* elem;
-      rtxCtxtPushArrayElemName(ctx, "TimeslotInfo-LCR-r4", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TimeslotInfo_LCR_r4));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (TimeslotInfo_LCR_r4*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_TimeslotInfo_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellInfoSI_RSCP_LCR_r4(rtxContext* ctx, CellInfoSI_RSCP_LCR_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellInfoSI-RSCP-LCR-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat);
-   /* cellIndividualOffset */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "cellIndividualOffset");
-      rtxCtxtPushTypeName(ctx, "CellIndividualOffset");
-      stat = pd_ConsInt8(ctx, &pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->cellIndividualOffset = 0;
-   }
-   /* referenceTimeDifferenceToCell */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "referenceTimeDifferenceToCell");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* primaryCCPCH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-Info");
-   stat = asn1PD_UMTS_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-      stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* timeslotInfoList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "timeslotInfoList");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_TimeslotInfoList_LCR_r4(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* readSFN-Indicator */
-   rtxCtxtPushElemName(ctx, "readSFN-Indicator");
-   stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellSelectionReselectionInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cellSelectionReselectionInfo");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_RSCP(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewIntraFreqCellSI_RSCP_LCR_r4(rtxContext* ctx, NewIntraFreqCellSI_RSCP_LCR_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellSI-RSCP-LCR-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* intraFreqCellID */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellID");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "IntraFreqCellID");
-      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PD_UMTS_CellInfoSI_RSCP_LCR_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewIntraFreqCellSI_List_RSCP_LCR_r4(rtxContext* ctx, NewIntraFreqCellSI_List_RSCP_LCR_r4* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellSI-List-RSCP-LCR-r4");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NewIntraFreqCellSI_RSCP_LCR_r4* elem;
-      rtxCtxtPushArrayElemName(ctx, "NewIntraFreqCellSI-RSCP-LCR-r4", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCellSI_RSCP_LCR_r4));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (NewIntraFreqCellSI_RSCP_LCR_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NewIntraFreqCellSI_RSCP_LCR_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewIntraFreqCellSI_RSCP_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqCellInfoSI_List_RSCP_LCR_r4(rtxContext* ctx, IntraFreqCellInfoSI_List_RSCP_LCR_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFreqCellInfoSI-List-RSCP-LCR-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* removedIntraFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "removedIntraFreqCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newIntraFreqCellList */
-   rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
-   stat = asn1PD_UMTS_NewIntraFreqCellSI_List_RSCP_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ForbiddenAffectCell_LCR_r4(rtxContext* ctx, ForbiddenAffectCell_LCR_r4* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ForbiddenAffectCell-LCR-r4");
-   /* tdd */
-   rtxCtxtPushElemName(ctx, "tdd");
-   stat = asn1PD_UMTS_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->tdd);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ForbiddenAffectCellList_LCR_r4(rtxContext* ctx, ForbiddenAffectCellList_LCR_r4* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "ForbiddenAffectCellList-LCR-r4");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      ForbiddenAffectCell_LCR_r4* elem;
-      rtxCtxtPushArrayElemName(ctx, "ForbiddenAffectCell-LCR-r4", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(ForbiddenAffectCell_LCR_r4));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (ForbiddenAffectCell_LCR_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_ForbiddenAffectCell_LCR_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_ForbiddenAffectCell_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Event1a_LCR_r4(rtxContext* ctx, Event1a_LCR_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "Event1a-LCR-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* triggeringCondition */
-   rtxCtxtPushElemName(ctx, "triggeringCondition");
-   rtxCtxtPushTypeName(ctx, "TriggeringCondition2");
-   stat = pd_ConsUnsigned(ctx, &pvalue->triggeringCondition, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingRange */
-   rtxCtxtPushElemName(ctx, "reportingRange");
-   rtxCtxtPushTypeName(ctx, "ReportingRange");
-   stat = pd_ConsUInt8(ctx, &pvalue->reportingRange, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* forbiddenAffectCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "forbiddenAffectCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ForbiddenAffectCellList_LCR_r4(ctx, &pvalue->forbiddenAffectCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* w */
-   rtxCtxtPushElemName(ctx, "w");
-   rtxCtxtPushTypeName(ctx, "W");
-   stat = pd_ConsUInt8(ctx, &pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportDeactivationThreshold */
-   rtxCtxtPushElemName(ctx, "reportDeactivationThreshold");
-   rtxCtxtPushTypeName(ctx, "ReportDeactivationThreshold");
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportDeactivationThreshold, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingAmount */
-   rtxCtxtPushElemName(ctx, "reportingAmount");
-   rtxCtxtPushTypeName(ctx, "ReportingAmount");
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportingAmount, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingInterval */
-   rtxCtxtPushElemName(ctx, "reportingInterval");
-   rtxCtxtPushTypeName(ctx, "ReportingInterval");
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportingInterval, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Event1b_LCR_r4(rtxContext* ctx, Event1b_LCR_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "Event1b-LCR-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* triggeringCondition */
-   rtxCtxtPushElemName(ctx, "triggeringCondition");
-   rtxCtxtPushTypeName(ctx, "TriggeringCondition1");
-   stat = pd_ConsUnsigned(ctx, &pvalue->triggeringCondition, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingRange */
-   rtxCtxtPushElemName(ctx, "reportingRange");
-   rtxCtxtPushTypeName(ctx, "ReportingRange");
-   stat = pd_ConsUInt8(ctx, &pvalue->reportingRange, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* forbiddenAffectCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "forbiddenAffectCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ForbiddenAffectCellList_LCR_r4(ctx, &pvalue->forbiddenAffectCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* w */
-   rtxCtxtPushElemName(ctx, "w");
-   rtxCtxtPushTypeName(ctx, "W");
-   stat = pd_ConsUInt8(ctx, &pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEvent_LCR_r4(rtxContext* ctx, IntraFreqEvent_LCR_r4* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "IntraFreqEvent-LCR-r4");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 8);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "e1a");
-         pvalue->u.e1a = (Event1a_LCR_r4*)rtxMemHeapAlloc(ctx, sizeof(Event1a_LCR_r4));
-         if (pvalue->u.e1a == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_Event1a_LCR_r4(pvalue->u.e1a);
-         stat = asn1PD_UMTS_Event1a_LCR_r4(ctx, pvalue->u.e1a);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "e1b");
-         pvalue->u.e1b = (Event1b_LCR_r4*)rtxMemHeapAlloc(ctx, sizeof(Event1b_LCR_r4));
-         if (pvalue->u.e1b == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_Event1b_LCR_r4(pvalue->u.e1b);
-         stat = asn1PD_UMTS_Event1b_LCR_r4(ctx, pvalue->u.e1b);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "e1c");
-         pvalue->u.e1c = (Event1c*)rtxMemHeapAllocZ(ctx, sizeof(Event1c));
-         if (pvalue->u.e1c == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_Event1c(ctx, pvalue->u.e1c);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "e1d");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "e1e");
-         pvalue->u.e1e = (Event1e*)rtxMemHeapAllocZ(ctx, sizeof(Event1e));
-         if (pvalue->u.e1e == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_Event1e(ctx, pvalue->u.e1e);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "e1f");
-         pvalue->u.e1f = (Event1f*)rtxMemHeapAllocZ(ctx, sizeof(Event1f));
-         if (pvalue->u.e1f == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_Event1f(ctx, pvalue->u.e1f);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "e1g");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "e1h");
-         rtxCtxtPushTypeName(ctx, "ThresholdUsedFrequency");
-         stat = pd_ConsInt16(ctx, &pvalue->u.e1h, -115, 165);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 8:
-         rtxCtxtPushElemName(ctx, "e1i");
-         rtxCtxtPushTypeName(ctx, "ThresholdUsedFrequency");
-         stat = pd_ConsInt16(ctx, &pvalue->u.e1i, -115, 165);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEventCriteria_LCR_r4(rtxContext* ctx, IntraFreqEventCriteria_LCR_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFreqEventCriteria-LCR-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* event */
-   rtxCtxtPushElemName(ctx, "event");
-   stat = asn1PD_UMTS_IntraFreqEvent_LCR_r4(ctx, &pvalue->event);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "Hysteresis");
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEventCriteriaList_LCR_r4(rtxContext* ctx, IntraFreqEventCriteriaList_LCR_r4* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "IntraFreqEventCriteriaList-LCR-r4");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      IntraFreqEventCriteria_LCR_r4* elem;
-      rtxCtxtPushArrayElemName(ctx, "IntraFreqEventCriteria-LCR-r4", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(IntraFreqEventCriteria_LCR_r4));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (IntraFreqEventCriteria_LCR_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_IntraFreqEventCriteria_LCR_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_IntraFreqEventCriteria_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqReportingCriteria_LCR_r4(rtxContext* ctx, IntraFreqReportingCriteria_LCR_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFreqReportingCriteria-LCR-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* eventCriteriaList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "eventCriteriaList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqEventCriteriaList_LCR_r4(ctx, &pvalue->eventCriteriaList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellDCH_ReportCriteria_LCR_r4(rtxContext* ctx, CellDCH_ReportCriteria_LCR_r4* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "CellDCH-ReportCriteria-LCR-r4");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "intraFreqReportingCriteria");
-         pvalue->u.intraFreqReportingCriteria = (IntraFreqReportingCriteria_LCR_r4*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingCriteria_LCR_r4));
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_IntraFreqReportingCriteria_LCR_r4(pvalue->u.intraFreqReportingCriteria);
-         stat = asn1PD_UMTS_IntraFreqReportingCriteria_LCR_r4(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-         pvalue->u.periodicalReportingCriteria = (PeriodicalReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalReportingCriteria));
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PeriodicalReportingCriteria(pvalue->u.periodicalReportingCriteria);
-         stat = asn1PD_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ReportingInfoForCellDCH_LCR_r4(rtxContext* ctx, ReportingInfoForCellDCH_LCR_r4* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ReportingInfoForCellDCH-LCR-r4");
-   /* intraFreqReportingQuantity */
-   rtxCtxtPushElemName(ctx, "intraFreqReportingQuantity");
-   stat = asn1PD_UMTS_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementReportingMode */
-   rtxCtxtPushElemName(ctx, "measurementReportingMode");
-   stat = asn1PD_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PD_UMTS_CellDCH_ReportCriteria_LCR_r4(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqMeasurementSysInfo_RSCP_LCR_r4(rtxContext* ctx, IntraFreqMeasurementSysInfo_RSCP_LCR_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat);
-   /* intraFreqMeasurementID */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasurementID");
-      rtxCtxtPushTypeName(ctx, "MeasurementIdentity");
-      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->intraFreqMeasurementID = 1;
-   }
-   /* intraFreqCellInfoSI-List */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellInfoSI-List");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqCellInfoSI_List_RSCP_LCR_r4(ctx, &pvalue->intraFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqMeasQuantity */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasQuantity");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqReportingQuantityForRACH */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "intraFreqReportingQuantityForRACH");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxReportedCellsOnRACH */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "maxReportedCellsOnRACH");
-      pvalue->m |= 0x8u;
-      rtxCtxtPushTypeName(ctx, "MaxReportedCellsOnRACH");
-      stat = pd_ConsUnsigned(ctx, &pvalue->maxReportedCellsOnRACH, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportingInfoForCellDCH */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "reportingInfoForCellDCH");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_ReportingInfoForCellDCH_LCR_r4(ctx, &pvalue->reportingInfoForCellDCH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterFreqCellSI_RSCP_LCR_r4(rtxContext* ctx, NewInterFreqCellSI_RSCP_LCR_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellSI-RSCP-LCR-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellID */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "interFreqCellID");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "InterFreqCellID");
-      stat = pd_ConsUInt8(ctx, &pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PD_UMTS_CellInfoSI_RSCP_LCR_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterFreqCellSI_List_RSCP_LCR_r4(rtxContext* ctx, NewInterFreqCellSI_List_RSCP_LCR_r4* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellSI-List-RSCP-LCR-r4");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NewInterFreqCellSI_RSCP_LCR_r4* elem;
-      rtxCtxtPushArrayElemName(ctx, "NewInterFreqCellSI-RSCP-LCR-r4", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCellSI_RSCP_LCR_r4));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (NewInterFreqCellSI_RSCP_LCR_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NewInterFreqCellSI_RSCP_LCR_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewInterFreqCellSI_RSCP_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqCellInfoSI_List_RSCP_LCR(rtxContext* ctx, InterFreqCellInfoSI_List_RSCP_LCR* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterFreqCellInfoSI-List-RSCP-LCR");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* removedInterFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "removedInterFreqCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewInterFreqCellSI_List_RSCP_LCR_r4(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqMeasurementSysInfo_RSCP_LCR_r4(rtxContext* ctx, InterFreqMeasurementSysInfo_RSCP_LCR_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterFreqMeasurementSysInfo-RSCP-LCR-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellInfoSI-List */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interFreqCellInfoSI-List");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqCellInfoSI_List_RSCP_LCR(ctx, &pvalue->interFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* intraFreqMeasurementSysInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasurementSysInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqMeasurementSysInfo_RSCP_LCR_r4(ctx, &pvalue->intraFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interFreqMeasurementSysInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interFreqMeasurementSysInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InterFreqMeasurementSysInfo_RSCP_LCR_r4(ctx, &pvalue->interFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellInfoSI_ECN0_LCR_r4(rtxContext* ctx, CellInfoSI_ECN0_LCR_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellInfoSI-ECN0-LCR-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat);
-   /* cellIndividualOffset */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "cellIndividualOffset");
-      rtxCtxtPushTypeName(ctx, "CellIndividualOffset");
-      stat = pd_ConsInt8(ctx, &pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->cellIndividualOffset = 0;
-   }
-   /* referenceTimeDifferenceToCell */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "referenceTimeDifferenceToCell");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* primaryCCPCH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-Info");
-   stat = asn1PD_UMTS_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-      stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* timeslotInfoList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "timeslotInfoList");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_TimeslotInfoList_LCR_r4(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* readSFN-Indicator */
-   rtxCtxtPushElemName(ctx, "readSFN-Indicator");
-   stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellSelectionReselectionInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cellSelectionReselectionInfo");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_ECN0(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewIntraFreqCellSI_ECN0_LCR_r4(rtxContext* ctx, NewIntraFreqCellSI_ECN0_LCR_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellSI-ECN0-LCR-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* intraFreqCellID */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellID");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "IntraFreqCellID");
-      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PD_UMTS_CellInfoSI_ECN0_LCR_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewIntraFreqCellSI_List_ECN0_LCR_r4(rtxContext* ctx, NewIntraFreqCellSI_List_ECN0_LCR_r4* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellSI-List-ECN0-LCR-r4");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NewIntraFreqCellSI_ECN0_LCR_r4* elem;
-      rtxCtxtPushArrayElemName(ctx, "NewIntraFreqCellSI-ECN0-LCR-r4", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCellSI_ECN0_LCR_r4));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (NewIntraFreqCellSI_ECN0_LCR_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NewIntraFreqCellSI_ECN0_LCR_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewIntraFreqCellSI_ECN0_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqCellInfoSI_List_ECN0_LCR_r4(rtxContext* ctx, IntraFreqCellInfoSI_List_ECN0_LCR_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFreqCellInfoSI-List-ECN0-LCR-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* removedIntraFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "removedIntraFreqCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newIntraFreqCellList */
-   rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
-   stat = asn1PD_UMTS_NewIntraFreqCellSI_List_ECN0_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqMeasurementSysInfo_ECN0_LCR_r4(rtxContext* ctx, IntraFreqMeasurementSysInfo_ECN0_LCR_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat);
-   /* intraFreqMeasurementID */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasurementID");
-      rtxCtxtPushTypeName(ctx, "MeasurementIdentity");
-      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->intraFreqMeasurementID = 1;
-   }
-   /* intraFreqCellInfoSI-List */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellInfoSI-List");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqCellInfoSI_List_ECN0_LCR_r4(ctx, &pvalue->intraFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqMeasQuantity */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasQuantity");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqReportingQuantityForRACH */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "intraFreqReportingQuantityForRACH");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxReportedCellsOnRACH */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "maxReportedCellsOnRACH");
-      pvalue->m |= 0x8u;
-      rtxCtxtPushTypeName(ctx, "MaxReportedCellsOnRACH");
-      stat = pd_ConsUnsigned(ctx, &pvalue->maxReportedCellsOnRACH, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportingInfoForCellDCH */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "reportingInfoForCellDCH");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_ReportingInfoForCellDCH_LCR_r4(ctx, &pvalue->reportingInfoForCellDCH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterFreqCellSI_ECN0_LCR_r4(rtxContext* ctx, NewInterFreqCellSI_ECN0_LCR_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellSI-ECN0-LCR-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellID */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "interFreqCellID");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "InterFreqCellID");
-      stat = pd_ConsUInt8(ctx, &pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PD_UMTS_CellInfoSI_ECN0_LCR_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterFreqCellSI_List_ECN0_LCR_r4(rtxContext* ctx, NewInterFreqCellSI_List_ECN0_LCR_r4* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellSI-List-ECN0-LCR-r4");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NewInterFreqCellSI_ECN0_LCR_r4* elem;
-      rtxCtxtPushArrayElemName(ctx, "NewInterFreqCellSI-ECN0-LCR-r4", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCellSI_ECN0_LCR_r4));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (NewInterFreqCellSI_ECN0_LCR_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NewInterFreqCellSI_ECN0_LCR_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewInterFreqCellSI_ECN0_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqCellInfoSI_List_ECN0_LCR(rtxContext* ctx, InterFreqCellInfoSI_List_ECN0_LCR* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterFreqCellInfoSI-List-ECN0-LCR");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* removedInterFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "removedInterFreqCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewInterFreqCellSI_List_ECN0_LCR_r4(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqMeasurementSysInfo_ECN0_LCR_r4(rtxContext* ctx, InterFreqMeasurementSysInfo_ECN0_LCR_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterFreqMeasurementSysInfo-ECN0-LCR-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellInfoSI-List */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interFreqCellInfoSI-List");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqCellInfoSI_List_ECN0_LCR(ctx, &pvalue->interFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* intraFreqMeasurementSysInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasurementSysInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqMeasurementSysInfo_ECN0_LCR_r4(ctx, &pvalue->intraFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interFreqMeasurementSysInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interFreqMeasurementSysInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InterFreqMeasurementSysInfo_ECN0_LCR_r4(ctx, &pvalue->interFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "cpich-RSCP");
-         pvalue->u.cpich_RSCP = (MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP));
-         if (pvalue->u.cpich_RSCP == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(pvalue->u.cpich_RSCP);
-         stat = asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "cpich-Ec-N0");
-         pvalue->u.cpich_Ec_N0 = (MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0));
-         if (pvalue->u.cpich_Ec_N0 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(pvalue->u.cpich_Ec_N0);
-         stat = asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used(rtxContext* ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used* pvalue)
-{
-   int stat = 0;
-   /* cellSelectQualityMeasure */
-   rtxCtxtPushElemName(ctx, "cellSelectQualityMeasure");
-   stat = asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellInfoSI_HCS_RSCP_LCR_r4(rtxContext* ctx, CellInfoSI_HCS_RSCP_LCR_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellInfoSI-HCS-RSCP-LCR-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat);
-   /* cellIndividualOffset */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "cellIndividualOffset");
-      rtxCtxtPushTypeName(ctx, "CellIndividualOffset");
-      stat = pd_ConsInt8(ctx, &pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->cellIndividualOffset = 0;
-   }
-   /* referenceTimeDifferenceToCell */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "referenceTimeDifferenceToCell");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* primaryCCPCH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-Info");
-   stat = asn1PD_UMTS_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-      stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* timeslotInfoList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "timeslotInfoList");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_TimeslotInfoList_LCR_r4(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* readSFN-Indicator */
-   rtxCtxtPushElemName(ctx, "readSFN-Indicator");
-   stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellSelectionReselectionInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cellSelectionReselectionInfo");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewIntraFreqCellSI_HCS_RSCP_LCR_r4(rtxContext* ctx, NewIntraFreqCellSI_HCS_RSCP_LCR_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* intraFreqCellID */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellID");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "IntraFreqCellID");
-      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PD_UMTS_CellInfoSI_HCS_RSCP_LCR_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4(rtxContext* ctx, NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellSI-List-HCS-RSCP-LCR-r4");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NewIntraFreqCellSI_HCS_RSCP_LCR_r4* elem;
-      rtxCtxtPushArrayElemName(ctx, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCellSI_HCS_RSCP_LCR_r4));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (NewIntraFreqCellSI_HCS_RSCP_LCR_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NewIntraFreqCellSI_HCS_RSCP_LCR_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewIntraFreqCellSI_HCS_RSCP_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqCellInfoSI_List_HCS_RSCP_LCR_r4(rtxContext* ctx, IntraFreqCellInfoSI_List_HCS_RSCP_LCR_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFreqCellInfoSI-List-HCS-RSCP-LCR-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* removedIntraFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "removedIntraFreqCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newIntraFreqCellList */
-   rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
-   stat = asn1PD_UMTS_NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(rtxContext* ctx, IntraFreqMeasurementSysInfo_HCS_RSCP_LCR_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat);
-   /* intraFreqMeasurementID */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasurementID");
-      rtxCtxtPushTypeName(ctx, "MeasurementIdentity");
-      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->intraFreqMeasurementID = 1;
-   }
-   /* intraFreqCellInfoSI-List */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellInfoSI-List");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqCellInfoSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->intraFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqMeasQuantity */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasQuantity");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqReportingQuantityForRACH */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "intraFreqReportingQuantityForRACH");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxReportedCellsOnRACH */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "maxReportedCellsOnRACH");
-      pvalue->m |= 0x8u;
-      rtxCtxtPushTypeName(ctx, "MaxReportedCellsOnRACH");
-      stat = pd_ConsUnsigned(ctx, &pvalue->maxReportedCellsOnRACH, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportingInfoForCellDCH */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "reportingInfoForCellDCH");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_ReportingInfoForCellDCH_LCR_r4(ctx, &pvalue->reportingInfoForCellDCH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterFreqCellSI_HCS_RSCP_LCR_r4(rtxContext* ctx, NewInterFreqCellSI_HCS_RSCP_LCR_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellSI-HCS-RSCP-LCR-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellID */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "interFreqCellID");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "InterFreqCellID");
-      stat = pd_ConsUInt8(ctx, &pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PD_UMTS_CellInfoSI_HCS_RSCP_LCR_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterFreqCellSI_List_HCS_RSCP_LCR_r4(rtxContext* ctx, NewInterFreqCellSI_List_HCS_RSCP_LCR_r4* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellSI-List-HCS-RSCP-LCR-r4");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NewInterFreqCellSI_HCS_RSCP_LCR_r4* elem;
-      rtxCtxtPushArrayElemName(ctx, "NewInterFreqCellSI-HCS-RSCP-LCR-r4", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCellSI_HCS_RSCP_LCR_r4));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (NewInterFreqCellSI_HCS_RSCP_LCR_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NewInterFreqCellSI_HCS_RSCP_LCR_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewInterFreqCellSI_HCS_RSCP_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqCellInfoSI_List_HCS_RSCP_LCR(rtxContext* ctx, InterFreqCellInfoSI_List_HCS_RSCP_LCR* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterFreqCellInfoSI-List-HCS-RSCP-LCR");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* removedInterFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "removedInterFreqCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewInterFreqCellSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(rtxContext* ctx, InterFreqMeasurementSysInfo_HCS_RSCP_LCR_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellInfoSI-List */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interFreqCellInfoSI-List");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqCellInfoSI_List_HCS_RSCP_LCR(ctx, &pvalue->interFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* intraFreqMeasurementSysInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasurementSysInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(ctx, &pvalue->intraFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interFreqMeasurementSysInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interFreqMeasurementSysInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InterFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(ctx, &pvalue->interFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellInfoSI_HCS_ECN0_LCR_r4(rtxContext* ctx, CellInfoSI_HCS_ECN0_LCR_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellInfoSI-HCS-ECN0-LCR-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat);
-   /* cellIndividualOffset */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "cellIndividualOffset");
-      rtxCtxtPushTypeName(ctx, "CellIndividualOffset");
-      stat = pd_ConsInt8(ctx, &pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->cellIndividualOffset = 0;
-   }
-   /* referenceTimeDifferenceToCell */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "referenceTimeDifferenceToCell");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* primaryCCPCH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-Info");
-   stat = asn1PD_UMTS_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-      stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* timeslotInfoList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "timeslotInfoList");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_TimeslotInfoList_LCR_r4(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* readSFN-Indicator */
-   rtxCtxtPushElemName(ctx, "readSFN-Indicator");
-   stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellSelectionReselectionInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cellSelectionReselectionInfo");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewIntraFreqCellSI_HCS_ECN0_LCR_r4(rtxContext* ctx, NewIntraFreqCellSI_HCS_ECN0_LCR_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* intraFreqCellID */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellID");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "IntraFreqCellID");
-      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PD_UMTS_CellInfoSI_HCS_ECN0_LCR_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4(rtxContext* ctx, NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellSI-List-HCS-ECN0-LCR-r4");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NewIntraFreqCellSI_HCS_ECN0_LCR_r4* elem;
-      rtxCtxtPushArrayElemName(ctx, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCellSI_HCS_ECN0_LCR_r4));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (NewIntraFreqCellSI_HCS_ECN0_LCR_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NewIntraFreqCellSI_HCS_ECN0_LCR_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewIntraFreqCellSI_HCS_ECN0_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqCellInfoSI_List_HCS_ECN0_LCR_r4(rtxContext* ctx, IntraFreqCellInfoSI_List_HCS_ECN0_LCR_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFreqCellInfoSI-List-HCS-ECN0-LCR-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* removedIntraFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "removedIntraFreqCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newIntraFreqCellList */
-   rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
-   stat = asn1PD_UMTS_NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(rtxContext* ctx, IntraFreqMeasurementSysInfo_HCS_ECN0_LCR_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat);
-   /* intraFreqMeasurementID */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasurementID");
-      rtxCtxtPushTypeName(ctx, "MeasurementIdentity");
-      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->intraFreqMeasurementID = 1;
-   }
-   /* intraFreqCellInfoSI-List */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellInfoSI-List");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqCellInfoSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->intraFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqMeasQuantity */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasQuantity");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqReportingQuantityForRACH */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "intraFreqReportingQuantityForRACH");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxReportedCellsOnRACH */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "maxReportedCellsOnRACH");
-      pvalue->m |= 0x8u;
-      rtxCtxtPushTypeName(ctx, "MaxReportedCellsOnRACH");
-      stat = pd_ConsUnsigned(ctx, &pvalue->maxReportedCellsOnRACH, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportingInfoForCellDCH */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "reportingInfoForCellDCH");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_ReportingInfoForCellDCH_LCR_r4(ctx, &pvalue->reportingInfoForCellDCH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterFreqCellSI_HCS_ECN0_LCR_r4(rtxContext* ctx, NewInterFreqCellSI_HCS_ECN0_LCR_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellSI-HCS-ECN0-LCR-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellID */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "interFreqCellID");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "InterFreqCellID");
-      stat = pd_ConsUInt8(ctx, &pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PD_UMTS_CellInfoSI_HCS_ECN0_LCR_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterFreqCellSI_List_HCS_ECN0_LCR_r4(rtxContext* ctx, NewInterFreqCellSI_List_HCS_ECN0_LCR_r4* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellSI-List-HCS-ECN0-LCR-r4");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NewInterFreqCellSI_HCS_ECN0_LCR_r4* elem;
-      rtxCtxtPushArrayElemName(ctx, "NewInterFreqCellSI-HCS-ECN0-LCR-r4", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCellSI_HCS_ECN0_LCR_r4));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (NewInterFreqCellSI_HCS_ECN0_LCR_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NewInterFreqCellSI_HCS_ECN0_LCR_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewInterFreqCellSI_HCS_ECN0_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqCellInfoSI_List_HCS_ECN0_LCR(rtxContext* ctx, InterFreqCellInfoSI_List_HCS_ECN0_LCR* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterFreqCellInfoSI-List-HCS-ECN0-LCR");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* removedInterFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "removedInterFreqCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewInterFreqCellSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(rtxContext* ctx, InterFreqMeasurementSysInfo_HCS_ECN0_LCR_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellInfoSI-List */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interFreqCellInfoSI-List");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqCellInfoSI_List_HCS_ECN0_LCR(ctx, &pvalue->interFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* intraFreqMeasurementSysInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasurementSysInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(ctx, &pvalue->intraFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interFreqMeasurementSysInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interFreqMeasurementSysInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InterFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(ctx, &pvalue->interFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "cpich-RSCP");
-         pvalue->u.cpich_RSCP = (MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP));
-         if (pvalue->u.cpich_RSCP == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(pvalue->u.cpich_RSCP);
-         stat = asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "cpich-Ec-N0");
-         pvalue->u.cpich_Ec_N0 = (MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0));
-         if (pvalue->u.cpich_Ec_N0 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(pvalue->u.cpich_Ec_N0);
-         stat = asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used(rtxContext* ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used* pvalue)
-{
-   int stat = 0;
-   /* cellSelectQualityMeasure */
-   rtxCtxtPushElemName(ctx, "cellSelectQualityMeasure");
-   stat = asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS(rtxContext* ctx, MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "hcs-not-used");
-         pvalue->u.hcs_not_used = (MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used));
-         if (pvalue->u.hcs_not_used == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used(pvalue->u.hcs_not_used);
-         stat = asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used(ctx, pvalue->u.hcs_not_used);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "hcs-used");
-         pvalue->u.hcs_used = (MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used));
-         if (pvalue->u.hcs_used == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used(pvalue->u.hcs_used);
-         stat = asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used(ctx, pvalue->u.hcs_used);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext(rtxContext* ctx, MeasurementControlSysInfo_LCR_r4_ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MeasurementControlSysInfo-LCR-r4-ext");
-   /* use-of-HCS */
-   rtxCtxtPushElemName(ctx, "use-of-HCS");
-   stat = asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS(ctx, &pvalue->use_of_HCS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11_v4b0ext_IEs(rtxContext* ctx, SysInfoType11_v4b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType11-v4b0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* fach-MeasurementOccasionInfo-LCR-Ext */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "fach-MeasurementOccasionInfo-LCR-Ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_FACH_MeasurementOccasionInfo_LCR_r4_ext(ctx, &pvalue->fach_MeasurementOccasionInfo_LCR_Ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementControlSysInfo-LCR */
-   rtxCtxtPushElemName(ctx, "measurementControlSysInfo-LCR");
-   stat = asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext(ctx, &pvalue->measurementControlSysInfo_LCR);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(rtxContext* ctx, SysInfoType11_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CellSelectReselectInfo_v590ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "CellSelectReselectInfo-v590ext", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellSelectReselectInfo_v590ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (CellSelectReselectInfo_v590ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CellSelectReselectInfo_v590ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CellSelectReselectInfo_v590ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(rtxContext* ctx, SysInfoType11_v590ext_IEs_newInterFrequencyCellInfoList_v590ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CellSelectReselectInfo_v590ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "CellSelectReselectInfo-v590ext", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellSelectReselectInfo_v590ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (CellSelectReselectInfo_v590ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CellSelectReselectInfo_v590ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CellSelectReselectInfo_v590ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11_v590ext_IEs_newInterRATCellInfoList_v590ext(rtxContext* ctx, SysInfoType11_v590ext_IEs_newInterRATCellInfoList_v590ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CellSelectReselectInfo_v590ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "CellSelectReselectInfo-v590ext", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellSelectReselectInfo_v590ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (CellSelectReselectInfo_v590ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CellSelectReselectInfo_v590ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CellSelectReselectInfo_v590ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Intra_FreqEventCriteriaList_v590ext(rtxContext* ctx, Intra_FreqEventCriteriaList_v590ext* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "Intra-FreqEventCriteriaList-v590ext");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 7) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "DeltaRSCP", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "DeltaRSCP");
-      stat = pd_ConsInt8(ctx, &pvalue->elem[i], -5, -1);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PeriodicReportingInfo_1b(rtxContext* ctx, PeriodicReportingInfo_1b* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PeriodicReportingInfo-1b");
-   /* reportingAmount */
-   rtxCtxtPushElemName(ctx, "reportingAmount");
-   rtxCtxtPushTypeName(ctx, "ReportingAmount");
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportingAmount, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingInterval */
-   rtxCtxtPushElemName(ctx, "reportingInterval");
-   rtxCtxtPushTypeName(ctx, "ReportingInterval");
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportingInterval, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqReportingCriteria_1b_r5(rtxContext* ctx, IntraFreqReportingCriteria_1b_r5* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "IntraFreqReportingCriteria-1b-r5");
-   /* periodicReportingInfo-1b */
-   rtxCtxtPushElemName(ctx, "periodicReportingInfo-1b");
-   stat = asn1PD_UMTS_PeriodicReportingInfo_1b(ctx, &pvalue->periodicReportingInfo_1b);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEvent_1d_r5(rtxContext* ctx, IntraFreqEvent_1d_r5* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFreqEvent-1d-r5");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* triggeringCondition */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "triggeringCondition");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "TriggeringCondition2");
-      stat = pd_ConsUnsigned(ctx, &pvalue->triggeringCondition, 0, 4);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* useCIO */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "useCIO");
-      pvalue->m |= 0x2u;
-      stat = rtxDecBitInline(ctx, &pvalue->useCIO);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11_v590ext_IEs(rtxContext* ctx, SysInfoType11_v590ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType11-v590ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat);
-   /* newIntraFrequencyCellInfoList-v590ext */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "newIntraFrequencyCellInfoList-v590ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType11_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(ctx, &pvalue->newIntraFrequencyCellInfoList_v590ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFrequencyCellInfoList-v590ext */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "newInterFrequencyCellInfoList-v590ext");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SysInfoType11_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(ctx, &pvalue->newInterFrequencyCellInfoList_v590ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterRATCellInfoList-v590ext */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "newInterRATCellInfoList-v590ext");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_SysInfoType11_v590ext_IEs_newInterRATCellInfoList_v590ext(ctx, &pvalue->newInterRATCellInfoList_v590ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqEventCriteriaList-v590ext */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "intraFreqEventCriteriaList-v590ext");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_Intra_FreqEventCriteriaList_v590ext(ctx, &pvalue->intraFreqEventCriteriaList_v590ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqReportingCriteria-1b-r5 */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "intraFreqReportingCriteria-1b-r5");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_IntraFreqReportingCriteria_1b_r5(ctx, &pvalue->intraFreqReportingCriteria_1b_r5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqEvent-1d-r5 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "intraFreqEvent-1d-r5");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_IntraFreqEvent_1d_r5(ctx, &pvalue->intraFreqEvent_1d_r5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqRepQuantityRACH_FDD(rtxContext* ctx, InterFreqRepQuantityRACH_FDD* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "InterFreqRepQuantityRACH-FDD");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(rtxContext* ctx, Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   /* interFreqRepQuantityRACH-FDD */
-   rtxCtxtPushElemName(ctx, "interFreqRepQuantityRACH-FDD");
-   rtxCtxtPushTypeName(ctx, "InterFreqRepQuantityRACH-FDD");
-   stat = pd_ConsUnsigned(ctx, &pvalue->interFreqRepQuantityRACH_FDD, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqRepQuantityRACH_TDD(rtxContext* ctx, InterFreqRepQuantityRACH_TDD* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "InterFreqRepQuantityRACH-TDD");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqRepQuantityRACH_TDDList(rtxContext* ctx, InterFreqRepQuantityRACH_TDDList* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "InterFreqRepQuantityRACH-TDDList");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 1);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 1) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "InterFreqRepQuantityRACH-TDD", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "InterFreqRepQuantityRACH-TDD");
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 1);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(rtxContext* ctx, Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   /* interFreqRepQuantityRACH-TDDList */
-   rtxCtxtPushElemName(ctx, "interFreqRepQuantityRACH-TDDList");
-   stat = asn1PD_UMTS_InterFreqRepQuantityRACH_TDDList(ctx, &pvalue->interFreqRepQuantityRACH_TDDList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Threshold(rtxContext* ctx, Threshold* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "Threshold");
-   stat = pd_ConsInt8(ctx, pvalue, -115, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MaxReportedCellsOnRACHinterFreq(rtxContext* ctx, MaxReportedCellsOnRACHinterFreq* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MaxReportedCellsOnRACHinterFreq");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo(rtxContext* ctx, Dummy_InterFreqRACHReportingInfo_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "interFreqRACHReportingThreshold");
-         rtxCtxtPushTypeName(ctx, "Threshold");
-         stat = pd_ConsInt8(ctx, &pvalue->u.interFreqRACHReportingThreshold, -115, 0);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "maxReportedCellsOnRACHinterFreq");
-         rtxCtxtPushTypeName(ctx, "MaxReportedCellsOnRACHinterFreq");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.maxReportedCellsOnRACHinterFreq, 1, 8);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Dummy_InterFreqRACHReportingInfo(rtxContext* ctx, Dummy_InterFreqRACHReportingInfo* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Dummy-InterFreqRACHReportingInfo");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11_v690ext_IEs(rtxContext* ctx, SysInfoType11_v690ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType11-v690ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_Dummy_InterFreqRACHReportingInfo(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(rtxContext* ctx, InterFreqRACHReportingInfo_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   /* interFreqRepQuantityRACH-FDD */
-   rtxCtxtPushElemName(ctx, "interFreqRepQuantityRACH-FDD");
-   rtxCtxtPushTypeName(ctx, "InterFreqRepQuantityRACH-FDD");
-   stat = pd_ConsUnsigned(ctx, &pvalue->interFreqRepQuantityRACH_FDD, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(rtxContext* ctx, InterFreqRACHReportingInfo_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   /* interFreqRepQuantityRACH-TDDList */
-   rtxCtxtPushElemName(ctx, "interFreqRepQuantityRACH-TDDList");
-   stat = asn1PD_UMTS_InterFreqRepQuantityRACH_TDDList(ctx, &pvalue->interFreqRepQuantityRACH_TDDList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo(rtxContext* ctx, InterFreqRACHReportingInfo_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (InterFreqRACHReportingInfo_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(InterFreqRACHReportingInfo_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (InterFreqRACHReportingInfo_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(InterFreqRACHReportingInfo_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqRACHReportingInfo(rtxContext* ctx, InterFreqRACHReportingInfo* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "InterFreqRACHReportingInfo");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* interFreqRACHReportingThreshold */
-   rtxCtxtPushElemName(ctx, "interFreqRACHReportingThreshold");
-   rtxCtxtPushTypeName(ctx, "Threshold");
-   stat = pd_ConsInt8(ctx, &pvalue->interFreqRACHReportingThreshold, -115, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maxReportedCellsOnRACHinterFreq */
-   rtxCtxtPushElemName(ctx, "maxReportedCellsOnRACHinterFreq");
-   rtxCtxtPushTypeName(ctx, "MaxReportedCellsOnRACHinterFreq");
-   stat = pd_ConsUInt8(ctx, &pvalue->maxReportedCellsOnRACHinterFreq, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11_v6b0ext_IEs(rtxContext* ctx, SysInfoType11_v6b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType11-v6b0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* interFreqRACHReportingInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interFreqRACHReportingInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqRACHReportingInfo(ctx, &pvalue->interFreqRACHReportingInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFNFrequency(rtxContext* ctx, MBSFNFrequency* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MBSFNFrequency");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellParametersID */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cellParametersID");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "CellParametersID");
-      stat = pd_ConsUInt8(ctx, &pvalue->cellParametersID, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFNFrequencyList(rtxContext* ctx, MBSFNFrequencyList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MBSFNFrequencyList");
-   RT_SET_SIZE(ctx, 0, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBSFNFrequency* elem;
-      rtxCtxtPushArrayElemName(ctx, "MBSFNFrequency", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBSFNFrequency));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MBSFNFrequency*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBSFNFrequency(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBSFNFrequency(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11_v770ext_IEs(rtxContext* ctx, SysInfoType11_v770ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType11-v770ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* mbsfnFrequencyList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mbsfnFrequencyList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MBSFNFrequencyList(ctx, &pvalue->mbsfnFrequencyList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterFreqCell_v7b0ext(rtxContext* ctx, NewInterFreqCell_v7b0ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCell-v7b0ext");
-   /* intraSecondaryFreqIndicator */
-   rtxCtxtPushElemName(ctx, "intraSecondaryFreqIndicator");
-   stat = rtxDecBitInline(ctx, &pvalue->intraSecondaryFreqIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterFreqCellList_v7b0ext(rtxContext* ctx, NewInterFreqCellList_v7b0ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellList-v7b0ext");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NewInterFreqCell_v7b0ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "NewInterFreqCell-v7b0ext", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCell_v7b0ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (NewInterFreqCell_v7b0ext*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewInterFreqCell_v7b0ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11_v7b0ext_IEs(rtxContext* ctx, SysInfoType11_v7b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType11-v7b0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NewInterFreqCellList_v7b0ext(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFNFrequency_v860ext_imb_Indication(rtxContext* ctx, MBSFNFrequency_v860ext_imb_Indication* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFNFrequency_v860ext(rtxContext* ctx, MBSFNFrequency_v860ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MBSFNFrequency-v860ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* imb-Indication */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "imb-Indication");
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->imb_Indication = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFNFrequencyList_v860ext(rtxContext* ctx, MBSFNFrequencyList_v860ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MBSFNFrequencyList-v860ext");
-   RT_SET_SIZE(ctx, 0, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBSFNFrequency_v860ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "MBSFNFrequency-v860ext", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBSFNFrequency_v860ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MBSFNFrequency_v860ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBSFNFrequency_v860ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBSFNFrequency_v860ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11_v860ext_IEs(rtxContext* ctx, SysInfoType11_v860ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType11-v860ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* mbsfnFrequencyList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mbsfnFrequencyList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MBSFNFrequencyList_v860ext(ctx, &pvalue->mbsfnFrequencyList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType11-v860ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType11-v860ext");
-   stat = asn1PD_UMTS_SysInfoType11_v860ext_IEs(ctx, &pvalue->sysInfoType11_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions(rtxContext* ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType11-v7b0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType11-v7b0ext");
-   stat = asn1PD_UMTS_SysInfoType11_v7b0ext_IEs(ctx, &pvalue->sysInfoType11_v7b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v860NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType11-v770ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType11-v770ext");
-   stat = asn1PD_UMTS_SysInfoType11_v770ext_IEs(ctx, &pvalue->sysInfoType11_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v7b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v7b0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions(ctx, &pvalue->v7b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType11-v6b0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType11-v6b0ext");
-   stat = asn1PD_UMTS_SysInfoType11_v6b0ext_IEs(ctx, &pvalue->sysInfoType11_v6b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(rtxContext* ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType11-v690ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType11-v690ext");
-   stat = asn1PD_UMTS_SysInfoType11_v690ext_IEs(ctx, &pvalue->sysInfoType11_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v6b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v6b0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* ctx, SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType11-v590ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType11-v590ext");
-   stat = asn1PD_UMTS_SysInfoType11_v590ext_IEs(ctx, &pvalue->sysInfoType11_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions(rtxContext* ctx, SysInfoType11_v4b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType11-v4b0ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "sysInfoType11-v4b0ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType11_v4b0ext_IEs(ctx, &pvalue->sysInfoType11_v4b0ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v590NonCriticalExtension */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtension");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension(ctx, &pvalue->v590NonCriticalExtension);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11(rtxContext* ctx, SysInfoType11* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType11");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* sib12indicator */
-   rtxCtxtPushElemName(ctx, "sib12indicator");
-   stat = rtxDecBitInline(ctx, &pvalue->sib12indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* fach-MeasurementOccasionInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "fach-MeasurementOccasionInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_FACH_MeasurementOccasionInfo(ctx, &pvalue->fach_MeasurementOccasionInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementControlSysInfo */
-   rtxCtxtPushElemName(ctx, "measurementControlSysInfo");
-   stat = asn1PD_UMTS_MeasurementControlSysInfo(ctx, &pvalue->measurementControlSysInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v4b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v4b0NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SysInfoType11_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* newIntraFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NewIntraFreqCellSI_List_RSCP(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewInterFreqCellSI_List_RSCP(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* newIntraFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NewIntraFreqCellSI_List_ECN0(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewInterFreqCellSI_List_ECN0(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "cpich-RSCP");
-         pvalue->u.cpich_RSCP = (MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP));
-         if (pvalue->u.cpich_RSCP == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(pvalue->u.cpich_RSCP);
-         stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "cpich-Ec-N0");
-         pvalue->u.cpich_Ec_N0 = (MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0));
-         if (pvalue->u.cpich_Ec_N0 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(pvalue->u.cpich_Ec_N0);
-         stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used(rtxContext* ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellSelectQualityMeasure */
-   rtxCtxtPushElemName(ctx, "cellSelectQualityMeasure");
-   stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* newInterRATCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "newInterRATCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* newIntraFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NewIntraFreqCellSI_List_HCS_RSCP(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewInterFreqCellSI_List_HCS_RSCP(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* newIntraFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NewIntraFreqCellSI_List_HCS_ECN0(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewInterFreqCellSI_List_HCS_ECN0(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "cpich-RSCP");
-         pvalue->u.cpich_RSCP = (MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP));
-         if (pvalue->u.cpich_RSCP == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(pvalue->u.cpich_RSCP);
-         stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "cpich-Ec-N0");
-         pvalue->u.cpich_Ec_N0 = (MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0));
-         if (pvalue->u.cpich_Ec_N0 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(pvalue->u.cpich_Ec_N0);
-         stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used(rtxContext* ctx, MeasurementControlSysInfoExtension_use_of_HCS_hcs_used* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellSelectQualityMeasure */
-   rtxCtxtPushElemName(ctx, "cellSelectQualityMeasure");
-   stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* newInterRATCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "newInterRATCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS(rtxContext* ctx, MeasurementControlSysInfoExtension_use_of_HCS* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "hcs-not-used");
-         pvalue->u.hcs_not_used = (MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used));
-         if (pvalue->u.hcs_not_used == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used(pvalue->u.hcs_not_used);
-         stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used(ctx, pvalue->u.hcs_not_used);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "hcs-used");
-         pvalue->u.hcs_used = (MeasurementControlSysInfoExtension_use_of_HCS_hcs_used*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_use_of_HCS_hcs_used));
-         if (pvalue->u.hcs_used == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used(pvalue->u.hcs_used);
-         stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used(ctx, pvalue->u.hcs_used);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension(rtxContext* ctx, MeasurementControlSysInfoExtension* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MeasurementControlSysInfoExtension");
-   /* use-of-HCS */
-   rtxCtxtPushElemName(ctx, "use-of-HCS");
-   stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_use_of_HCS(ctx, &pvalue->use_of_HCS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* newIntraFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NewIntraFreqCellSI_List_RSCP_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewInterFreqCellSI_List_RSCP_LCR_r4(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* newIntraFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NewIntraFreqCellSI_List_ECN0_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewInterFreqCellSI_List_ECN0_LCR_r4(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "cpich-RSCP");
-         pvalue->u.cpich_RSCP = (MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP));
-         if (pvalue->u.cpich_RSCP == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(pvalue->u.cpich_RSCP);
-         stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "cpich-Ec-N0");
-         pvalue->u.cpich_Ec_N0 = (MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0));
-         if (pvalue->u.cpich_Ec_N0 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(pvalue->u.cpich_Ec_N0);
-         stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used(rtxContext* ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellSelectQualityMeasure */
-   rtxCtxtPushElemName(ctx, "cellSelectQualityMeasure");
-   stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* newInterRATCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "newInterRATCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* newIntraFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewInterFreqCellSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* newIntraFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewInterFreqCellSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "cpich-RSCP");
-         pvalue->u.cpich_RSCP = (MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP));
-         if (pvalue->u.cpich_RSCP == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(pvalue->u.cpich_RSCP);
-         stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "cpich-Ec-N0");
-         pvalue->u.cpich_Ec_N0 = (MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0));
-         if (pvalue->u.cpich_Ec_N0 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(pvalue->u.cpich_Ec_N0);
-         stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used(rtxContext* ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellSelectQualityMeasure */
-   rtxCtxtPushElemName(ctx, "cellSelectQualityMeasure");
-   stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* newInterRATCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "newInterRATCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS(rtxContext* ctx, MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "hcs-not-used");
-         pvalue->u.hcs_not_used = (MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used));
-         if (pvalue->u.hcs_not_used == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used(pvalue->u.hcs_not_used);
-         stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used(ctx, pvalue->u.hcs_not_used);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "hcs-used");
-         pvalue->u.hcs_used = (MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used));
-         if (pvalue->u.hcs_used == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used(pvalue->u.hcs_used);
-         stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used(ctx, pvalue->u.hcs_used);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4(rtxContext* ctx, MeasurementControlSysInfoExtension_LCR_r4* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MeasurementControlSysInfoExtension-LCR-r4");
-   /* use-of-HCS */
-   rtxCtxtPushElemName(ctx, "use-of-HCS");
-   stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS(ctx, &pvalue->use_of_HCS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newIntraFrequencyCellInfoListAddon_r5(rtxContext* ctx, MeasurementControlSysInfoExtensionAddon_r5_newIntraFrequencyCellInfoListAddon_r5* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CellSelectReselectInfo_v590ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "CellSelectReselectInfo-v590ext", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellSelectReselectInfo_v590ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (CellSelectReselectInfo_v590ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CellSelectReselectInfo_v590ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CellSelectReselectInfo_v590ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newInterFrequencyCellInfoListAddon_r5(rtxContext* ctx, MeasurementControlSysInfoExtensionAddon_r5_newInterFrequencyCellInfoListAddon_r5* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CellSelectReselectInfo_v590ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "CellSelectReselectInfo-v590ext", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellSelectReselectInfo_v590ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (CellSelectReselectInfo_v590ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CellSelectReselectInfo_v590ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CellSelectReselectInfo_v590ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newInterRATCellInfoListAddon_r5(rtxContext* ctx, MeasurementControlSysInfoExtensionAddon_r5_newInterRATCellInfoListAddon_r5* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CellSelectReselectInfo_v590ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "CellSelectReselectInfo-v590ext", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellSelectReselectInfo_v590ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (CellSelectReselectInfo_v590ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CellSelectReselectInfo_v590ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CellSelectReselectInfo_v590ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlSysInfoExtensionAddon_r5(rtxContext* ctx, MeasurementControlSysInfoExtensionAddon_r5* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MeasurementControlSysInfoExtensionAddon-r5");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* newIntraFrequencyCellInfoListAddon-r5 */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "newIntraFrequencyCellInfoListAddon-r5");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newIntraFrequencyCellInfoListAddon_r5(ctx, &pvalue->newIntraFrequencyCellInfoListAddon_r5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFrequencyCellInfoListAddon-r5 */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "newInterFrequencyCellInfoListAddon-r5");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newInterFrequencyCellInfoListAddon_r5(ctx, &pvalue->newInterFrequencyCellInfoListAddon_r5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterRATCellInfoListAddon-r5 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "newInterRATCellInfoListAddon-r5");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newInterRATCellInfoListAddon_r5(ctx, &pvalue->newInterRATCellInfoListAddon_r5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11bis_v7b0ext_IEs(rtxContext* ctx, SysInfoType11bis_v7b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType11bis-v7b0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NewInterFreqCellList_v7b0ext(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CSG_DedicatedFrequencyInfoList(rtxContext* ctx, CSG_DedicatedFrequencyInfoList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "CSG-DedicatedFrequencyInfoList");
    RT_SET_SIZE(ctx, 1, 4);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      FrequencyInfo* elem;
-      rtxCtxtPushArrayElemName(ctx, "FrequencyInfo", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(FrequencyInfo));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (FrequencyInfo*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_FrequencyInfo(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11bis_v860ext_IEs(rtxContext* ctx, SysInfoType11bis_v860ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType11bis-v860ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* csg-PSCSplitInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "csg-PSCSplitInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CSG_PSCSplitInfo(ctx, &pvalue->csg_PSCSplitInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* csg-DedicatedFrequencyInfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "csg-DedicatedFrequencyInfoList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CSG_DedicatedFrequencyInfoList(ctx, &pvalue->csg_DedicatedFrequencyInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* ctx, SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType11bis-v860ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType11bis-v860ext");
-   stat = asn1PD_UMTS_SysInfoType11bis_v860ext_IEs(ctx, &pvalue->sysInfoType11bis_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions(rtxContext* ctx, SysInfoType11bis_v7b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType11bis-v7b0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType11bis-v7b0ext");
-   stat = asn1PD_UMTS_SysInfoType11bis_v7b0ext_IEs(ctx, &pvalue->sysInfoType11bis_v7b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v860NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType11bis(rtxContext* ctx, SysInfoType11bis* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType11bis");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* measurementControlSysInfo */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "measurementControlSysInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementControlSysInfoExtension(ctx, &pvalue->measurementControlSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementControlSysInfo-LCR */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "measurementControlSysInfo-LCR");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MeasurementControlSysInfoExtension_LCR_r4(ctx, &pvalue->measurementControlSysInfo_LCR);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementControlSysInfoExtensionAddon-r5 */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "measurementControlSysInfoExtensionAddon-r5");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_MeasurementControlSysInfoExtensionAddon_r5(ctx, &pvalue->measurementControlSysInfoExtensionAddon_r5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v7b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v7b0NonCriticalExtensions");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions(ctx, &pvalue->v7b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType12_v4b0ext_IEs(rtxContext* ctx, SysInfoType12_v4b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType12-v4b0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* fach-MeasurementOccasionInfo-LCR-Ext */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "fach-MeasurementOccasionInfo-LCR-Ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_FACH_MeasurementOccasionInfo_LCR_r4_ext(ctx, &pvalue->fach_MeasurementOccasionInfo_LCR_Ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementControlSysInfo-LCR */
-   rtxCtxtPushElemName(ctx, "measurementControlSysInfo-LCR");
-   stat = asn1PD_UMTS_MeasurementControlSysInfo_LCR_r4_ext(ctx, &pvalue->measurementControlSysInfo_LCR);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType12_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(rtxContext* ctx, SysInfoType12_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CellSelectReselectInfo_v590ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "CellSelectReselectInfo-v590ext", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellSelectReselectInfo_v590ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (CellSelectReselectInfo_v590ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CellSelectReselectInfo_v590ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CellSelectReselectInfo_v590ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType12_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(rtxContext* ctx, SysInfoType12_v590ext_IEs_newInterFrequencyCellInfoList_v590ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CellSelectReselectInfo_v590ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "CellSelectReselectInfo-v590ext", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellSelectReselectInfo_v590ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (CellSelectReselectInfo_v590ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CellSelectReselectInfo_v590ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CellSelectReselectInfo_v590ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType12_v590ext_IEs_newInterRATCellInfoList_v590ext(rtxContext* ctx, SysInfoType12_v590ext_IEs_newInterRATCellInfoList_v590ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CellSelectReselectInfo_v590ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "CellSelectReselectInfo-v590ext", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellSelectReselectInfo_v590ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (CellSelectReselectInfo_v590ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CellSelectReselectInfo_v590ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CellSelectReselectInfo_v590ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType12_v590ext_IEs(rtxContext* ctx, SysInfoType12_v590ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType12-v590ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat);
-   /* newIntraFrequencyCellInfoList-v590ext */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "newIntraFrequencyCellInfoList-v590ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType12_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(ctx, &pvalue->newIntraFrequencyCellInfoList_v590ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFrequencyCellInfoList-v590ext */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "newInterFrequencyCellInfoList-v590ext");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SysInfoType12_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(ctx, &pvalue->newInterFrequencyCellInfoList_v590ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterRATCellInfoList-v590ext */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "newInterRATCellInfoList-v590ext");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_SysInfoType12_v590ext_IEs_newInterRATCellInfoList_v590ext(ctx, &pvalue->newInterRATCellInfoList_v590ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqEventCriteriaList-v590ext */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "intraFreqEventCriteriaList-v590ext");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_Intra_FreqEventCriteriaList_v590ext(ctx, &pvalue->intraFreqEventCriteriaList_v590ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqReportingCriteria-1b-r5 */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "intraFreqReportingCriteria-1b-r5");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_IntraFreqReportingCriteria_1b_r5(ctx, &pvalue->intraFreqReportingCriteria_1b_r5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqEvent-1d-r5 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "intraFreqEvent-1d-r5");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_IntraFreqEvent_1d_r5(ctx, &pvalue->intraFreqEvent_1d_r5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType12_v690ext_IEs(rtxContext* ctx, SysInfoType12_v690ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType12-v690ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_Dummy_InterFreqRACHReportingInfo(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType12_v6b0ext_IEs(rtxContext* ctx, SysInfoType12_v6b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType12-v6b0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* interFreqRACHReportingInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interFreqRACHReportingInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqRACHReportingInfo(ctx, &pvalue->interFreqRACHReportingInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType12_v7b0ext_IEs(rtxContext* ctx, SysInfoType12_v7b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType12-v7b0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NewInterFreqCellList_v7b0ext(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions(rtxContext* ctx, SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType12-v7b0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType12-v7b0ext");
-   stat = asn1PD_UMTS_SysInfoType12_v7b0ext_IEs(ctx, &pvalue->sysInfoType12_v7b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* ctx, SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType12-v6b0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType12-v6b0ext");
-   stat = asn1PD_UMTS_SysInfoType12_v6b0ext_IEs(ctx, &pvalue->sysInfoType12_v6b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v7b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v7b0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions(ctx, &pvalue->v7b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(rtxContext* ctx, SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType12-v690ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType12-v690ext");
-   stat = asn1PD_UMTS_SysInfoType12_v690ext_IEs(ctx, &pvalue->sysInfoType12_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v6b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v6b0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* ctx, SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType12-v590ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType12-v590ext");
-   stat = asn1PD_UMTS_SysInfoType12_v590ext_IEs(ctx, &pvalue->sysInfoType12_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions(rtxContext* ctx, SysInfoType12_v4b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType12-v4b0ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "sysInfoType12-v4b0ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType12_v4b0ext_IEs(ctx, &pvalue->sysInfoType12_v4b0ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v590NonCriticalExtension */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtension");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension(ctx, &pvalue->v590NonCriticalExtension);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType12(rtxContext* ctx, SysInfoType12* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType12");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* fach-MeasurementOccasionInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "fach-MeasurementOccasionInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_FACH_MeasurementOccasionInfo(ctx, &pvalue->fach_MeasurementOccasionInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementControlSysInfo */
-   rtxCtxtPushElemName(ctx, "measurementControlSysInfo");
-   stat = asn1PD_UMTS_MeasurementControlSysInfo(ctx, &pvalue->measurementControlSysInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v4b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v4b0NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SysInfoType12_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Re_EstablishmentTimer(rtxContext* ctx, Re_EstablishmentTimer* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "Re-EstablishmentTimer");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TimerMRW(rtxContext* ctx, TimerMRW* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "TimerMRW");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TimerDiscard(rtxContext* ctx, TimerDiscard* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "TimerDiscard");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MaxMRW(rtxContext* ctx, MaxMRW* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MaxMRW");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ExplicitDiscard(rtxContext* ctx, ExplicitDiscard* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ExplicitDiscard");
-   /* timerMRW */
-   rtxCtxtPushElemName(ctx, "timerMRW");
-   rtxCtxtPushTypeName(ctx, "TimerMRW");
-   stat = pd_ConsUnsigned(ctx, &pvalue->timerMRW, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timerDiscard */
-   rtxCtxtPushElemName(ctx, "timerDiscard");
-   rtxCtxtPushTypeName(ctx, "TimerDiscard");
-   stat = pd_ConsUnsigned(ctx, &pvalue->timerDiscard, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maxMRW */
-   rtxCtxtPushElemName(ctx, "maxMRW");
-   rtxCtxtPushTypeName(ctx, "MaxMRW");
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxMRW, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NoExplicitDiscard(rtxContext* ctx, NoExplicitDiscard* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "NoExplicitDiscard");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MaxDAT(rtxContext* ctx, MaxDAT* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MaxDAT");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MaxDAT_Retransmissions(rtxContext* ctx, MaxDAT_Retransmissions* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaxDAT-Retransmissions");
-   /* maxDAT */
-   rtxCtxtPushElemName(ctx, "maxDAT");
-   rtxCtxtPushTypeName(ctx, "MaxDAT");
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxDAT, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timerMRW */
-   rtxCtxtPushElemName(ctx, "timerMRW");
-   rtxCtxtPushTypeName(ctx, "TimerMRW");
-   stat = pd_ConsUnsigned(ctx, &pvalue->timerMRW, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maxMRW */
-   rtxCtxtPushElemName(ctx, "maxMRW");
-   rtxCtxtPushTypeName(ctx, "MaxMRW");
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxMRW, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TransmissionRLC_Discard(rtxContext* ctx, TransmissionRLC_Discard* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "TransmissionRLC-Discard");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "timerBasedExplicit");
-         pvalue->u.timerBasedExplicit = (ExplicitDiscard*)rtxMemHeapAllocZ(ctx, sizeof(ExplicitDiscard));
-         if (pvalue->u.timerBasedExplicit == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_ExplicitDiscard(ctx, pvalue->u.timerBasedExplicit);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "timerBasedNoExplicit");
-         rtxCtxtPushTypeName(ctx, "NoExplicitDiscard");
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.timerBasedNoExplicit, 0, 9);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "maxDAT-Retransmissions");
-         pvalue->u.maxDAT_Retransmissions = (MaxDAT_Retransmissions*)rtxMemHeapAllocZ(ctx, sizeof(MaxDAT_Retransmissions));
-         if (pvalue->u.maxDAT_Retransmissions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_MaxDAT_Retransmissions(ctx, pvalue->u.maxDAT_Retransmissions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "noDiscard");
-         rtxCtxtPushTypeName(ctx, "MaxDAT");
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.noDiscard, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TransmissionWindowSize(rtxContext* ctx, TransmissionWindowSize* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "TransmissionWindowSize");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TimerRST(rtxContext* ctx, TimerRST* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "TimerRST");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MaxRST(rtxContext* ctx, MaxRST* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MaxRST");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TimerPollProhibit(rtxContext* ctx, TimerPollProhibit* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "TimerPollProhibit");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TimerPoll(rtxContext* ctx, TimerPoll* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "TimerPoll");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Poll_PDU(rtxContext* ctx, Poll_PDU* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "Poll-PDU");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Poll_SDU(rtxContext* ctx, Poll_SDU* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "Poll-SDU");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PollWindow(rtxContext* ctx, PollWindow* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "PollWindow");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TimerPollPeriodic(rtxContext* ctx, TimerPollPeriodic* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "TimerPollPeriodic");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PollingInfo(rtxContext* ctx, PollingInfo* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PollingInfo");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat);
-   /* timerPollProhibit */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "timerPollProhibit");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "TimerPollProhibit");
-      stat = pd_ConsUnsigned(ctx, &pvalue->timerPollProhibit, 0, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* timerPoll */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "timerPoll");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "TimerPoll");
-      stat = pd_ConsUnsigned(ctx, &pvalue->timerPoll, 0, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* poll-PDU */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "poll-PDU");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "Poll-PDU");
-      stat = pd_ConsUnsigned(ctx, &pvalue->poll_PDU, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* poll-SDU */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "poll-SDU");
-      pvalue->m |= 0x8u;
-      rtxCtxtPushTypeName(ctx, "Poll-SDU");
-      stat = pd_ConsUnsigned(ctx, &pvalue->poll_SDU, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* lastTransmissionPDU-Poll */
-   rtxCtxtPushElemName(ctx, "lastTransmissionPDU-Poll");
-   stat = rtxDecBitInline(ctx, &pvalue->lastTransmissionPDU_Poll);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* lastRetransmissionPDU-Poll */
-   rtxCtxtPushElemName(ctx, "lastRetransmissionPDU-Poll");
-   stat = rtxDecBitInline(ctx, &pvalue->lastRetransmissionPDU_Poll);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* pollWindow */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "pollWindow");
-      pvalue->m |= 0x10u;
-      rtxCtxtPushTypeName(ctx, "PollWindow");
-      stat = pd_ConsUnsigned(ctx, &pvalue->pollWindow, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* timerPollPeriodic */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "timerPollPeriodic");
-      pvalue->m |= 0x20u;
-      rtxCtxtPushTypeName(ctx, "TimerPollPeriodic");
-      stat = pd_ConsUnsigned(ctx, &pvalue->timerPollPeriodic, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_AM_RLC_Mode(rtxContext* ctx, UL_AM_RLC_Mode* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UL-AM-RLC-Mode");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* transmissionRLC-Discard */
-   rtxCtxtPushElemName(ctx, "transmissionRLC-Discard");
-   stat = asn1PD_UMTS_TransmissionRLC_Discard(ctx, &pvalue->transmissionRLC_Discard);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* transmissionWindowSize */
-   rtxCtxtPushElemName(ctx, "transmissionWindowSize");
-   rtxCtxtPushTypeName(ctx, "TransmissionWindowSize");
-   stat = pd_ConsUnsigned(ctx, &pvalue->transmissionWindowSize, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timerRST */
-   rtxCtxtPushElemName(ctx, "timerRST");
-   rtxCtxtPushTypeName(ctx, "TimerRST");
-   stat = pd_ConsUnsigned(ctx, &pvalue->timerRST, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* max-RST */
-   rtxCtxtPushElemName(ctx, "max-RST");
-   rtxCtxtPushTypeName(ctx, "MaxRST");
-   stat = pd_ConsUnsigned(ctx, &pvalue->max_RST, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* pollingInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "pollingInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PollingInfo(ctx, &pvalue->pollingInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_UM_RLC_Mode(rtxContext* ctx, UL_UM_RLC_Mode* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UL-UM-RLC-Mode");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* transmissionRLC-Discard */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "transmissionRLC-Discard");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TransmissionRLC_Discard(ctx, &pvalue->transmissionRLC_Discard);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_TM_RLC_Mode(rtxContext* ctx, UL_TM_RLC_Mode* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UL-TM-RLC-Mode");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* transmissionRLC-Discard */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "transmissionRLC-Discard");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TransmissionRLC_Discard(ctx, &pvalue->transmissionRLC_Discard);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* segmentationIndication */
-   rtxCtxtPushElemName(ctx, "segmentationIndication");
-   stat = rtxDecBitInline(ctx, &pvalue->segmentationIndication);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_RLC_Mode(rtxContext* ctx, UL_RLC_Mode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "UL-RLC-Mode");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "ul-AM-RLC-Mode");
-         pvalue->u.ul_AM_RLC_Mode = (UL_AM_RLC_Mode*)rtxMemHeapAlloc(ctx, sizeof(UL_AM_RLC_Mode));
-         if (pvalue->u.ul_AM_RLC_Mode == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UL_AM_RLC_Mode(pvalue->u.ul_AM_RLC_Mode);
-         stat = asn1PD_UMTS_UL_AM_RLC_Mode(ctx, pvalue->u.ul_AM_RLC_Mode);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "ul-UM-RLC-Mode");
-         pvalue->u.ul_UM_RLC_Mode = (UL_UM_RLC_Mode*)rtxMemHeapAlloc(ctx, sizeof(UL_UM_RLC_Mode));
-         if (pvalue->u.ul_UM_RLC_Mode == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UL_UM_RLC_Mode(pvalue->u.ul_UM_RLC_Mode);
-         stat = asn1PD_UMTS_UL_UM_RLC_Mode(ctx, pvalue->u.ul_UM_RLC_Mode);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ul-TM-RLC-Mode");
-         pvalue->u.ul_TM_RLC_Mode = (UL_TM_RLC_Mode*)rtxMemHeapAlloc(ctx, sizeof(UL_TM_RLC_Mode));
-         if (pvalue->u.ul_TM_RLC_Mode == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UL_TM_RLC_Mode(pvalue->u.ul_TM_RLC_Mode);
-         stat = asn1PD_UMTS_UL_TM_RLC_Mode(ctx, pvalue->u.ul_TM_RLC_Mode);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "spare");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ReceivingWindowSize(rtxContext* ctx, ReceivingWindowSize* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "ReceivingWindowSize");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TimerStatusProhibit(rtxContext* ctx, TimerStatusProhibit* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "TimerStatusProhibit");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TimerEPC(rtxContext* ctx, TimerEPC* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "TimerEPC");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TimerStatusPeriodic(rtxContext* ctx, TimerStatusPeriodic* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "TimerStatusPeriodic");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_RLC_StatusInfo(rtxContext* ctx, DL_RLC_StatusInfo* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "DL-RLC-StatusInfo");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* timerStatusProhibit */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "timerStatusProhibit");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "TimerStatusProhibit");
-      stat = pd_ConsUnsigned(ctx, &pvalue->timerStatusProhibit, 0, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "TimerEPC");
-      stat = pd_ConsUnsigned(ctx, &pvalue->dummy, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* missingPDU-Indicator */
-   rtxCtxtPushElemName(ctx, "missingPDU-Indicator");
-   stat = rtxDecBitInline(ctx, &pvalue->missingPDU_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* timerStatusPeriodic */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "timerStatusPeriodic");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "TimerStatusPeriodic");
-      stat = pd_ConsUnsigned(ctx, &pvalue->timerStatusPeriodic, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_AM_RLC_Mode(rtxContext* ctx, DL_AM_RLC_Mode* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DL-AM-RLC-Mode");
-   /* inSequenceDelivery */
-   rtxCtxtPushElemName(ctx, "inSequenceDelivery");
-   stat = rtxDecBitInline(ctx, &pvalue->inSequenceDelivery);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* receivingWindowSize */
-   rtxCtxtPushElemName(ctx, "receivingWindowSize");
-   rtxCtxtPushTypeName(ctx, "ReceivingWindowSize");
-   stat = pd_ConsUnsigned(ctx, &pvalue->receivingWindowSize, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dl-RLC-StatusInfo */
-   rtxCtxtPushElemName(ctx, "dl-RLC-StatusInfo");
-   stat = asn1PD_UMTS_DL_RLC_StatusInfo(ctx, &pvalue->dl_RLC_StatusInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_TM_RLC_Mode(rtxContext* ctx, DL_TM_RLC_Mode* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DL-TM-RLC-Mode");
-   /* segmentationIndication */
-   rtxCtxtPushElemName(ctx, "segmentationIndication");
-   stat = rtxDecBitInline(ctx, &pvalue->segmentationIndication);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_RLC_Mode(rtxContext* ctx, DL_RLC_Mode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "DL-RLC-Mode");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "dl-AM-RLC-Mode");
-         pvalue->u.dl_AM_RLC_Mode = (DL_AM_RLC_Mode*)rtxMemHeapAlloc(ctx, sizeof(DL_AM_RLC_Mode));
-         if (pvalue->u.dl_AM_RLC_Mode == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_DL_AM_RLC_Mode(pvalue->u.dl_AM_RLC_Mode);
-         stat = asn1PD_UMTS_DL_AM_RLC_Mode(ctx, pvalue->u.dl_AM_RLC_Mode);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "dl-UM-RLC-Mode");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "dl-TM-RLC-Mode");
-         pvalue->u.dl_TM_RLC_Mode = (DL_TM_RLC_Mode*)rtxMemHeapAllocZ(ctx, sizeof(DL_TM_RLC_Mode));
-         if (pvalue->u.dl_TM_RLC_Mode == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_DL_TM_RLC_Mode(ctx, pvalue->u.dl_TM_RLC_Mode);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RLC_Info(rtxContext* ctx, RLC_Info* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RLC-Info");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ul-RLC-Mode */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ul-RLC-Mode");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_RLC_Mode(ctx, &pvalue->ul_RLC_Mode);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-RLC-Mode */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-RLC-Mode");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DL_RLC_Mode(ctx, &pvalue->dl_RLC_Mode);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RLC_InfoChoice(rtxContext* ctx, RLC_InfoChoice* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "RLC-InfoChoice");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "rlc-Info");
-         pvalue->u.rlc_Info = (RLC_Info*)rtxMemHeapAlloc(ctx, sizeof(RLC_Info));
-         if (pvalue->u.rlc_Info == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RLC_Info(pvalue->u.rlc_Info);
-         stat = asn1PD_UMTS_RLC_Info(ctx, pvalue->u.rlc_Info);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "same-as-RB");
-         rtxCtxtPushTypeName(ctx, "RB-Identity");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.same_as_RB, 1, 32);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_TransportChannelType(rtxContext* ctx, UL_TransportChannelType* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "UL-TransportChannelType");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "dch");
-         rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.dch, 1, 32);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "rach");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "dummy");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "usch");
-         rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.usch, 1, 32);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RLC_SizeInfo(rtxContext* ctx, RLC_SizeInfo* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RLC-SizeInfo");
-   /* rlc-SizeIndex */
-   rtxCtxtPushElemName(ctx, "rlc-SizeIndex");
-   stat = pd_ConsUInt8(ctx, &pvalue->rlc_SizeIndex, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RLC_SizeExplicitList(rtxContext* ctx, RLC_SizeExplicitList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "RLC-SizeExplicitList");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RLC_SizeInfo* elem;
-      rtxCtxtPushArrayElemName(ctx, "RLC-SizeInfo", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RLC_SizeInfo));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (RLC_SizeInfo*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RLC_SizeInfo(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_LogicalChannelMapping_rlc_SizeList(rtxContext* ctx, UL_LogicalChannelMapping_rlc_SizeList* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "allSizes");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "configured");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "explicitList");
-         pvalue->u.explicitList = (RLC_SizeExplicitList*)rtxMemHeapAlloc(ctx, sizeof(RLC_SizeExplicitList));
-         if (pvalue->u.explicitList == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RLC_SizeExplicitList(pvalue->u.explicitList);
-         stat = asn1PD_UMTS_RLC_SizeExplicitList(ctx, pvalue->u.explicitList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MAC_LogicalChannelPriority(rtxContext* ctx, MAC_LogicalChannelPriority* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MAC-LogicalChannelPriority");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_LogicalChannelMapping(rtxContext* ctx, UL_LogicalChannelMapping* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UL-LogicalChannelMapping");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ul-TransportChannelType */
-   rtxCtxtPushElemName(ctx, "ul-TransportChannelType");
-   stat = asn1PD_UMTS_UL_TransportChannelType(ctx, &pvalue->ul_TransportChannelType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* logicalChannelIdentity */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "logicalChannelIdentity");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "LogicalChannelIdentity");
-      stat = pd_ConsUInt8(ctx, &pvalue->logicalChannelIdentity, 1, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rlc-SizeList */
-   rtxCtxtPushElemName(ctx, "rlc-SizeList");
-   stat = asn1PD_UMTS_UL_LogicalChannelMapping_rlc_SizeList(ctx, &pvalue->rlc_SizeList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* mac-LogicalChannelPriority */
-   rtxCtxtPushElemName(ctx, "mac-LogicalChannelPriority");
-   rtxCtxtPushTypeName(ctx, "MAC-LogicalChannelPriority");
-   stat = pd_ConsUInt8(ctx, &pvalue->mac_LogicalChannelPriority, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_LogicalChannelMappingList_ul_LogicalChannelMapping(rtxContext* ctx, UL_LogicalChannelMappingList_ul_LogicalChannelMapping* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 2, 2);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UL_LogicalChannelMapping* elem;
-      rtxCtxtPushArrayElemName(ctx, "UL-LogicalChannelMapping", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_LogicalChannelMapping));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (UL_LogicalChannelMapping*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UL_LogicalChannelMapping(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UL_LogicalChannelMapping(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_LogicalChannelMappingList(rtxContext* ctx, UL_LogicalChannelMappingList* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UL-LogicalChannelMappingList");
-   /* rlc-LogicalChannelMappingIndicator */
-   rtxCtxtPushElemName(ctx, "rlc-LogicalChannelMappingIndicator");
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_LogicalChannelMappingIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-LogicalChannelMapping */
-   rtxCtxtPushElemName(ctx, "ul-LogicalChannelMapping");
-   stat = asn1PD_UMTS_UL_LogicalChannelMappingList_ul_LogicalChannelMapping(ctx, &pvalue->ul_LogicalChannelMapping);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_LogicalChannelMappings(rtxContext* ctx, UL_LogicalChannelMappings* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "UL-LogicalChannelMappings");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "oneLogicalChannel");
-         pvalue->u.oneLogicalChannel = (UL_LogicalChannelMapping*)rtxMemHeapAlloc(ctx, sizeof(UL_LogicalChannelMapping));
-         if (pvalue->u.oneLogicalChannel == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UL_LogicalChannelMapping(pvalue->u.oneLogicalChannel);
-         stat = asn1PD_UMTS_UL_LogicalChannelMapping(ctx, pvalue->u.oneLogicalChannel);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "twoLogicalChannels");
-         pvalue->u.twoLogicalChannels = (UL_LogicalChannelMappingList*)rtxMemHeapAlloc(ctx, sizeof(UL_LogicalChannelMappingList));
-         if (pvalue->u.twoLogicalChannels == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UL_LogicalChannelMappingList(pvalue->u.twoLogicalChannels);
-         stat = asn1PD_UMTS_UL_LogicalChannelMappingList(ctx, pvalue->u.twoLogicalChannels);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TransportChannelIdentityDCHandDSCH(rtxContext* ctx, TransportChannelIdentityDCHandDSCH* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TransportChannelIdentityDCHandDSCH");
-   /* dch-transport-ch-id */
-   rtxCtxtPushElemName(ctx, "dch-transport-ch-id");
-   rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-   stat = pd_ConsUInt8(ctx, &pvalue->dch_transport_ch_id, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dsch-transport-ch-id */
-   rtxCtxtPushElemName(ctx, "dsch-transport-ch-id");
-   rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-   stat = pd_ConsUInt8(ctx, &pvalue->dsch_transport_ch_id, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_TransportChannelType(rtxContext* ctx, DL_TransportChannelType* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "DL-TransportChannelType");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "dch");
-         rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.dch, 1, 32);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "fach");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "dsch");
-         rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.dsch, 1, 32);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "dch-and-dsch");
-         pvalue->u.dch_and_dsch = (TransportChannelIdentityDCHandDSCH*)rtxMemHeapAllocZ(ctx, sizeof(TransportChannelIdentityDCHandDSCH));
-         if (pvalue->u.dch_and_dsch == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_TransportChannelIdentityDCHandDSCH(ctx, pvalue->u.dch_and_dsch);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_LogicalChannelMapping(rtxContext* ctx, DL_LogicalChannelMapping* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "DL-LogicalChannelMapping");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dl-TransportChannelType */
-   rtxCtxtPushElemName(ctx, "dl-TransportChannelType");
-   stat = asn1PD_UMTS_DL_TransportChannelType(ctx, &pvalue->dl_TransportChannelType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* logicalChannelIdentity */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "logicalChannelIdentity");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "LogicalChannelIdentity");
-      stat = pd_ConsUInt8(ctx, &pvalue->logicalChannelIdentity, 1, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_LogicalChannelMappingList(rtxContext* ctx, DL_LogicalChannelMappingList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "DL-LogicalChannelMappingList");
-   RT_SET_SIZE(ctx, 1, 2);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DL_LogicalChannelMapping* elem;
-      rtxCtxtPushArrayElemName(ctx, "DL-LogicalChannelMapping", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_LogicalChannelMapping));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (DL_LogicalChannelMapping*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DL_LogicalChannelMapping(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DL_LogicalChannelMapping(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RB_MappingOption(rtxContext* ctx, RB_MappingOption* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RB-MappingOption");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ul-LogicalChannelMappings */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ul-LogicalChannelMappings");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_LogicalChannelMappings(ctx, &pvalue->ul_LogicalChannelMappings);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-LogicalChannelMappingList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-LogicalChannelMappingList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DL_LogicalChannelMappingList(ctx, &pvalue->dl_LogicalChannelMappingList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RB_MappingInfo(rtxContext* ctx, RB_MappingInfo* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "RB-MappingInfo");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RB_MappingOption* elem;
-      rtxCtxtPushArrayElemName(ctx, "RB-MappingOption", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_MappingOption));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (RB_MappingOption*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RB_MappingOption(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RB_MappingOption(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SRB_InformationSetup(rtxContext* ctx, SRB_InformationSetup* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SRB-InformationSetup");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* rb-Identity */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "rb-Identity");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "RB-Identity");
-      stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rlc-InfoChoice */
-   rtxCtxtPushElemName(ctx, "rlc-InfoChoice");
-   stat = asn1PD_UMTS_RLC_InfoChoice(ctx, &pvalue->rlc_InfoChoice);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rb-MappingInfo */
-   rtxCtxtPushElemName(ctx, "rb-MappingInfo");
-   stat = asn1PD_UMTS_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SRB_InformationSetupList(rtxContext* ctx, SRB_InformationSetupList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "SRB-InformationSetupList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      SRB_InformationSetup* elem;
-      rtxCtxtPushArrayElemName(ctx, "SRB-InformationSetup", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SRB_InformationSetup));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (SRB_InformationSetup*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_SRB_InformationSetup(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_SRB_InformationSetup(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MaxPDCP_SN_WindowSize(rtxContext* ctx, MaxPDCP_SN_WindowSize* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MaxPDCP-SN-WindowSize");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_LosslessSRNS_RelocSupport(rtxContext* ctx, LosslessSRNS_RelocSupport* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "LosslessSRNS-RelocSupport");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "supported");
-         rtxCtxtPushTypeName(ctx, "MaxPDCP-SN-WindowSize");
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.supported, 0, 1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "notSupported");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PDCP_PDU_Header(rtxContext* ctx, PDCP_PDU_Header* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "PDCP-PDU-Header");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ExpectReordering(rtxContext* ctx, ExpectReordering* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "ExpectReordering");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RFC2507_Info(rtxContext* ctx, RFC2507_Info* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RFC2507-Info");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat);
-   /* f-MAX-PERIOD */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "f-MAX-PERIOD");
-      stat = pd_ConsUInt16(ctx, &pvalue->f_MAX_PERIOD, 1, 65535);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->f_MAX_PERIOD = 256;
-   }
-   /* f-MAX-TIME */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "f-MAX-TIME");
-      stat = pd_ConsUInt8(ctx, &pvalue->f_MAX_TIME, 1, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->f_MAX_TIME = 5;
-   }
-   /* max-HEADER */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "max-HEADER");
-      stat = pd_ConsUInt16(ctx, &pvalue->max_HEADER, 60, 65535);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->max_HEADER = 168;
-   }
-   /* tcp-SPACE */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "tcp-SPACE");
-      stat = pd_ConsUInt8(ctx, &pvalue->tcp_SPACE, 3, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->tcp_SPACE = 15;
-   }
-   /* non-TCP-SPACE */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "non-TCP-SPACE");
-      stat = pd_ConsUInt16(ctx, &pvalue->non_TCP_SPACE, 3, 65535);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->non_TCP_SPACE = 15;
-   }
-   /* expectReordering */
-   rtxCtxtPushElemName(ctx, "expectReordering");
-   rtxCtxtPushTypeName(ctx, "ExpectReordering");
-   stat = pd_ConsUnsigned(ctx, &pvalue->expectReordering, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_AlgorithmSpecificInfo(rtxContext* ctx, AlgorithmSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "AlgorithmSpecificInfo");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "rfc2507-Info");
-         pvalue->u.rfc2507_Info = (RFC2507_Info*)rtxMemHeapAlloc(ctx, sizeof(RFC2507_Info));
-         if (pvalue->u.rfc2507_Info == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RFC2507_Info(pvalue->u.rfc2507_Info);
-         stat = asn1PD_UMTS_RFC2507_Info(ctx, pvalue->u.rfc2507_Info);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HeaderCompressionInfo(rtxContext* ctx, HeaderCompressionInfo* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HeaderCompressionInfo");
-   /* algorithmSpecificInfo */
-   rtxCtxtPushElemName(ctx, "algorithmSpecificInfo");
-   stat = asn1PD_UMTS_AlgorithmSpecificInfo(ctx, &pvalue->algorithmSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HeaderCompressionInfoList(rtxContext* ctx, HeaderCompressionInfoList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "HeaderCompressionInfoList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      HeaderCompressionInfo* elem;
-      rtxCtxtPushArrayElemName(ctx, "HeaderCompressionInfo", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HeaderCompressionInfo));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (HeaderCompressionInfo*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_HeaderCompressionInfo(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_HeaderCompressionInfo(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PDCP_Info(rtxContext* ctx, PDCP_Info* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PDCP-Info");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* losslessSRNS-RelocSupport */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "losslessSRNS-RelocSupport");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_LosslessSRNS_RelocSupport(ctx, &pvalue->losslessSRNS_RelocSupport);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdcp-PDU-Header */
-   rtxCtxtPushElemName(ctx, "pdcp-PDU-Header");
-   rtxCtxtPushTypeName(ctx, "PDCP-PDU-Header");
-   stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_PDU_Header, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* headerCompressionInfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "headerCompressionInfoList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_HeaderCompressionInfoList(ctx, &pvalue->headerCompressionInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationSetup(rtxContext* ctx, RB_InformationSetup* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RB-InformationSetup");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* rb-Identity */
-   rtxCtxtPushElemName(ctx, "rb-Identity");
-   rtxCtxtPushTypeName(ctx, "RB-Identity");
-   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* pdcp-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "pdcp-Info");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PDCP_Info(ctx, &pvalue->pdcp_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rlc-InfoChoice */
-   rtxCtxtPushElemName(ctx, "rlc-InfoChoice");
-   stat = asn1PD_UMTS_RLC_InfoChoice(ctx, &pvalue->rlc_InfoChoice);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rb-MappingInfo */
-   rtxCtxtPushElemName(ctx, "rb-MappingInfo");
-   stat = asn1PD_UMTS_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationSetupList(rtxContext* ctx, RB_InformationSetupList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "RB-InformationSetupList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RB_InformationSetup* elem;
-      rtxCtxtPushArrayElemName(ctx, "RB-InformationSetup", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationSetup));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (RB_InformationSetup*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RB_InformationSetup(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RB_InformationSetup(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PredefinedRB_Configuration(rtxContext* ctx, PredefinedRB_Configuration* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PredefinedRB-Configuration");
-   /* re-EstablishmentTimer */
-   rtxCtxtPushElemName(ctx, "re-EstablishmentTimer");
-   rtxCtxtPushTypeName(ctx, "Re-EstablishmentTimer");
-   stat = pd_ConsUnsigned(ctx, &pvalue->re_EstablishmentTimer, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* srb-InformationList */
-   rtxCtxtPushElemName(ctx, "srb-InformationList");
-   stat = asn1PD_UMTS_SRB_InformationSetupList(ctx, &pvalue->srb_InformationList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rb-InformationList */
-   rtxCtxtPushElemName(ctx, "rb-InformationList");
-   stat = asn1PD_UMTS_RB_InformationSetupList(ctx, &pvalue->rb_InformationList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TFC_Value(rtxContext* ctx, TFC_Value* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "TFC-Value");
-   stat = pd_ConsUInt16(ctx, pvalue, 0, 1023);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_AllowedTFC_List(rtxContext* ctx, AllowedTFC_List* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "AllowedTFC-List");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 10);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 1023) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "TFC-Value", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "TFC-Value");
-      stat = pd_ConsUInt16(ctx, &pvalue->elem[i], 0, 1023);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Non_allowedTFC_List(rtxContext* ctx, Non_allowedTFC_List* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "Non-allowedTFC-List");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 10);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 1023) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "TFC-Value", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "TFC-Value");
-      stat = pd_ConsUInt16(ctx, &pvalue->elem[i], 0, 1023);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_TrCH_Type(rtxContext* ctx, UL_TrCH_Type* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "UL-TrCH-Type");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_AllowedTFI_List_element(rtxContext* ctx, AllowedTFI_List_element* pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 31);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_AllowedTFI_List(rtxContext* ctx, AllowedTFI_List* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "AllowedTFI-List");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 5);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 31) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 31);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RestrictedTrChInfo(rtxContext* ctx, RestrictedTrChInfo* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RestrictedTrChInfo");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ul-TransportChannelType */
-   rtxCtxtPushElemName(ctx, "ul-TransportChannelType");
-   rtxCtxtPushTypeName(ctx, "UL-TrCH-Type");
-   stat = pd_ConsUnsigned(ctx, &pvalue->ul_TransportChannelType, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* restrictedTrChIdentity */
-   rtxCtxtPushElemName(ctx, "restrictedTrChIdentity");
-   rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-   stat = pd_ConsUInt8(ctx, &pvalue->restrictedTrChIdentity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* allowedTFI-List */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "allowedTFI-List");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AllowedTFI_List(ctx, &pvalue->allowedTFI_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RestrictedTrChInfoList(rtxContext* ctx, RestrictedTrChInfoList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "RestrictedTrChInfoList");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RestrictedTrChInfo* elem;
-      rtxCtxtPushArrayElemName(ctx, "RestrictedTrChInfo", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RestrictedTrChInfo));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (RestrictedTrChInfo*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RestrictedTrChInfo(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RestrictedTrChInfo(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TFC_Subset(rtxContext* ctx, TFC_Subset* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "TFC-Subset");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 4);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "minimumAllowedTFC-Number");
-         rtxCtxtPushTypeName(ctx, "TFC-Value");
-         stat = pd_ConsUInt16(ctx, &pvalue->u.minimumAllowedTFC_Number, 0, 1023);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "allowedTFC-List");
-         pvalue->u.allowedTFC_List = (AllowedTFC_List*)rtxMemHeapAlloc(ctx, sizeof(AllowedTFC_List));
-         if (pvalue->u.allowedTFC_List == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_AllowedTFC_List(pvalue->u.allowedTFC_List);
-         stat = asn1PD_UMTS_AllowedTFC_List(ctx, pvalue->u.allowedTFC_List);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "non-allowedTFC-List");
-         pvalue->u.non_allowedTFC_List = (Non_allowedTFC_List*)rtxMemHeapAlloc(ctx, sizeof(Non_allowedTFC_List));
-         if (pvalue->u.non_allowedTFC_List == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_Non_allowedTFC_List(pvalue->u.non_allowedTFC_List);
-         stat = asn1PD_UMTS_Non_allowedTFC_List(ctx, pvalue->u.non_allowedTFC_List);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "restrictedTrChInfoList");
-         pvalue->u.restrictedTrChInfoList = (RestrictedTrChInfoList*)rtxMemHeapAlloc(ctx, sizeof(RestrictedTrChInfoList));
-         if (pvalue->u.restrictedTrChInfoList == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RestrictedTrChInfoList(pvalue->u.restrictedTrChInfoList);
-         stat = asn1PD_UMTS_RestrictedTrChInfoList(ctx, pvalue->u.restrictedTrChInfoList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "fullTFCS");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_CommonTransChInfo_modeSpecificInfo_fdd(rtxContext* ctx, UL_CommonTransChInfo_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   /* ul-TFCS */
-   rtxCtxtPushElemName(ctx, "ul-TFCS");
-   stat = asn1PD_UMTS_TFCS(ctx, &pvalue->ul_TFCS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TFCS_Identity(rtxContext* ctx, TFCS_Identity* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "TFCS-Identity");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* tfcs-ID */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "tfcs-ID");
-      rtxCtxtPushTypeName(ctx, "TFCS-IdentityPlain");
-      stat = pd_ConsUInt8(ctx, &pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->tfcs_ID = 1;
-   }
-   /* sharedChannelIndicator */
-   rtxCtxtPushElemName(ctx, "sharedChannelIndicator");
-   stat = rtxDecBitInline(ctx, &pvalue->sharedChannelIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IndividualUL_CCTrCH_Info(rtxContext* ctx, IndividualUL_CCTrCH_Info* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "IndividualUL-CCTrCH-Info");
-   /* ul-TFCS-Identity */
-   rtxCtxtPushElemName(ctx, "ul-TFCS-Identity");
-   stat = asn1PD_UMTS_TFCS_Identity(ctx, &pvalue->ul_TFCS_Identity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-TFCS */
-   rtxCtxtPushElemName(ctx, "ul-TFCS");
-   stat = asn1PD_UMTS_TFCS(ctx, &pvalue->ul_TFCS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tfc-Subset */
-   rtxCtxtPushElemName(ctx, "tfc-Subset");
-   stat = asn1PD_UMTS_TFC_Subset(ctx, &pvalue->tfc_Subset);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IndividualUL_CCTrCH_InfoList(rtxContext* ctx, IndividualUL_CCTrCH_InfoList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "IndividualUL-CCTrCH-InfoList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      IndividualUL_CCTrCH_Info* elem;
-      rtxCtxtPushArrayElemName(ctx, "IndividualUL-CCTrCH-Info", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(IndividualUL_CCTrCH_Info));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (IndividualUL_CCTrCH_Info*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_IndividualUL_CCTrCH_Info(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_IndividualUL_CCTrCH_Info(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_CommonTransChInfo_modeSpecificInfo_tdd(rtxContext* ctx, UL_CommonTransChInfo_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* individualUL-CCTrCH-InfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "individualUL-CCTrCH-InfoList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IndividualUL_CCTrCH_InfoList(ctx, &pvalue->individualUL_CCTrCH_InfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_CommonTransChInfo_modeSpecificInfo(rtxContext* ctx, UL_CommonTransChInfo_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (UL_CommonTransChInfo_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_CommonTransChInfo_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UL_CommonTransChInfo_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_UL_CommonTransChInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (UL_CommonTransChInfo_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_CommonTransChInfo_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UL_CommonTransChInfo_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_UL_CommonTransChInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_CommonTransChInfo(rtxContext* ctx, UL_CommonTransChInfo* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UL-CommonTransChInfo");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* tfc-Subset */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "tfc-Subset");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TFC_Subset(ctx, &pvalue->tfc_Subset);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* prach-TFCS */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "prach-TFCS");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_TFCS(ctx, &pvalue->prach_TFCS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_AddReconfTransChInformation(rtxContext* ctx, UL_AddReconfTransChInformation* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UL-AddReconfTransChInformation");
-   /* ul-TransportChannelType */
-   rtxCtxtPushElemName(ctx, "ul-TransportChannelType");
-   rtxCtxtPushTypeName(ctx, "UL-TrCH-Type");
-   stat = pd_ConsUnsigned(ctx, &pvalue->ul_TransportChannelType, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* transportChannelIdentity */
-   rtxCtxtPushElemName(ctx, "transportChannelIdentity");
-   rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-   stat = pd_ConsUInt8(ctx, &pvalue->transportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* transportFormatSet */
-   rtxCtxtPushElemName(ctx, "transportFormatSet");
-   stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->transportFormatSet);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_AddReconfTransChInfoList(rtxContext* ctx, UL_AddReconfTransChInfoList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "UL-AddReconfTransChInfoList");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UL_AddReconfTransChInformation* elem;
-      rtxCtxtPushArrayElemName(ctx, "UL-AddReconfTransChInformation", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_AddReconfTransChInformation));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (UL_AddReconfTransChInformation*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UL_AddReconfTransChInformation(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UL_AddReconfTransChInformation(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonTransChInfo_modeSpecificInfo_fdd_dl_Parameters(rtxContext* ctx, DL_CommonTransChInfo_modeSpecificInfo_fdd_dl_Parameters* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "dl-DCH-TFCS");
-         pvalue->u.dl_DCH_TFCS = (TFCS*)rtxMemHeapAlloc(ctx, sizeof(TFCS));
-         if (pvalue->u.dl_DCH_TFCS == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_TFCS(pvalue->u.dl_DCH_TFCS);
-         stat = asn1PD_UMTS_TFCS(ctx, pvalue->u.dl_DCH_TFCS);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "sameAsUL");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonTransChInfo_modeSpecificInfo_fdd(rtxContext* ctx, DL_CommonTransChInfo_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dl-Parameters */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-Parameters");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_modeSpecificInfo_fdd_dl_Parameters(ctx, &pvalue->dl_Parameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IndividualDL_CCTrCH_Info_tfcs_SignallingMode(rtxContext* ctx, IndividualDL_CCTrCH_Info_tfcs_SignallingMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "explicit-config");
-         pvalue->u.explicit_config = (TFCS*)rtxMemHeapAlloc(ctx, sizeof(TFCS));
-         if (pvalue->u.explicit_config == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_TFCS(pvalue->u.explicit_config);
-         stat = asn1PD_UMTS_TFCS(ctx, pvalue->u.explicit_config);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "sameAsUL");
-         pvalue->u.sameAsUL = (TFCS_Identity*)rtxMemHeapAlloc(ctx, sizeof(TFCS_Identity));
-         if (pvalue->u.sameAsUL == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_TFCS_Identity(pvalue->u.sameAsUL);
-         stat = asn1PD_UMTS_TFCS_Identity(ctx, pvalue->u.sameAsUL);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IndividualDL_CCTrCH_Info(rtxContext* ctx, IndividualDL_CCTrCH_Info* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "IndividualDL-CCTrCH-Info");
-   /* dl-TFCS-Identity */
-   rtxCtxtPushElemName(ctx, "dl-TFCS-Identity");
-   stat = asn1PD_UMTS_TFCS_Identity(ctx, &pvalue->dl_TFCS_Identity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tfcs-SignallingMode */
-   rtxCtxtPushElemName(ctx, "tfcs-SignallingMode");
-   stat = asn1PD_UMTS_IndividualDL_CCTrCH_Info_tfcs_SignallingMode(ctx, &pvalue->tfcs_SignallingMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IndividualDL_CCTrCH_InfoList(rtxContext* ctx, IndividualDL_CCTrCH_InfoList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "IndividualDL-CCTrCH-InfoList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      IndividualDL_CCTrCH_Info* elem;
-      rtxCtxtPushArrayElemName(ctx, "IndividualDL-CCTrCH-Info", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(IndividualDL_CCTrCH_Info));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (IndividualDL_CCTrCH_Info*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_IndividualDL_CCTrCH_Info(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_IndividualDL_CCTrCH_Info(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonTransChInfo_modeSpecificInfo_tdd(rtxContext* ctx, DL_CommonTransChInfo_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* individualDL-CCTrCH-InfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "individualDL-CCTrCH-InfoList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IndividualDL_CCTrCH_InfoList(ctx, &pvalue->individualDL_CCTrCH_InfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonTransChInfo_modeSpecificInfo(rtxContext* ctx, DL_CommonTransChInfo_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (DL_CommonTransChInfo_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonTransChInfo_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_DL_CommonTransChInfo_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_DL_CommonTransChInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (DL_CommonTransChInfo_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonTransChInfo_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_DL_CommonTransChInfo_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_DL_CommonTransChInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonTransChInfo(rtxContext* ctx, DL_CommonTransChInfo* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "DL-CommonTransChInfo");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sccpch-TFCS */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "sccpch-TFCS");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TFCS(ctx, &pvalue->sccpch_TFCS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_DL_CommonTransChInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_TrCH_Type(rtxContext* ctx, DL_TrCH_Type* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "DL-TrCH-Type");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_TransportChannelIdentity(rtxContext* ctx, UL_TransportChannelIdentity* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UL-TransportChannelIdentity");
-   /* ul-TransportChannelType */
-   rtxCtxtPushElemName(ctx, "ul-TransportChannelType");
-   rtxCtxtPushTypeName(ctx, "UL-TrCH-Type");
-   stat = pd_ConsUnsigned(ctx, &pvalue->ul_TransportChannelType, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ul-TransportChannelIdentity */
-   rtxCtxtPushElemName(ctx, "ul-TransportChannelIdentity");
-   rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-   stat = pd_ConsUInt8(ctx, &pvalue->ul_TransportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_AddReconfTransChInformation_tfs_SignallingMode(rtxContext* ctx, DL_AddReconfTransChInformation_tfs_SignallingMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "explicit-config");
-         pvalue->u.explicit_config = (TransportFormatSet*)rtxMemHeapAlloc(ctx, sizeof(TransportFormatSet));
-         if (pvalue->u.explicit_config == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_TransportFormatSet(pvalue->u.explicit_config);
-         stat = asn1PD_UMTS_TransportFormatSet(ctx, pvalue->u.explicit_config);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "sameAsULTrCH");
-         pvalue->u.sameAsULTrCH = (UL_TransportChannelIdentity*)rtxMemHeapAllocZ(ctx, sizeof(UL_TransportChannelIdentity));
-         if (pvalue->u.sameAsULTrCH == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UL_TransportChannelIdentity(ctx, pvalue->u.sameAsULTrCH);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_BLER_QualityValue(rtxContext* ctx, BLER_QualityValue* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "BLER-QualityValue");
-   stat = pd_ConsInt8(ctx, pvalue, -63, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_QualityTarget(rtxContext* ctx, QualityTarget* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "QualityTarget");
-   /* bler-QualityValue */
-   rtxCtxtPushElemName(ctx, "bler-QualityValue");
-   rtxCtxtPushTypeName(ctx, "BLER-QualityValue");
-   stat = pd_ConsInt8(ctx, &pvalue->bler_QualityValue, -63, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MessType(rtxContext* ctx, MessType* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MessType");
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_ControlledTrChList(rtxContext* ctx, UL_ControlledTrChList* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "UL-ControlledTrChList");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 5);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 31) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "TransportChannelIdentity", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 1, 32);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TM_SignallingInfo_tm_SignallingMode_mode2(rtxContext* ctx, TM_SignallingInfo_tm_SignallingMode_mode2* pvalue)
-{
-   int stat = 0;
-   /* ul-controlledTrChList */
-   rtxCtxtPushElemName(ctx, "ul-controlledTrChList");
-   stat = asn1PD_UMTS_UL_ControlledTrChList(ctx, &pvalue->ul_controlledTrChList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TM_SignallingInfo_tm_SignallingMode(rtxContext* ctx, TM_SignallingInfo_tm_SignallingMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "mode1");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "mode2");
-         pvalue->u.mode2 = (TM_SignallingInfo_tm_SignallingMode_mode2*)rtxMemHeapAlloc(ctx, sizeof(TM_SignallingInfo_tm_SignallingMode_mode2));
-         if (pvalue->u.mode2 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_TM_SignallingInfo_tm_SignallingMode_mode2(pvalue->u.mode2);
-         stat = asn1PD_UMTS_TM_SignallingInfo_tm_SignallingMode_mode2(ctx, pvalue->u.mode2);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_TM_SignallingInfo(rtxContext* ctx, TM_SignallingInfo* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TM-SignallingInfo");
-   /* messType */
-   rtxCtxtPushElemName(ctx, "messType");
-   rtxCtxtPushTypeName(ctx, "MessType");
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      pvalue->messType = ui;
-   }
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* tm-SignallingMode */
-   rtxCtxtPushElemName(ctx, "tm-SignallingMode");
-   stat = asn1PD_UMTS_TM_SignallingInfo_tm_SignallingMode(ctx, &pvalue->tm_SignallingMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_AddReconfTransChInformation(rtxContext* ctx, DL_AddReconfTransChInformation* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "DL-AddReconfTransChInformation");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* dl-TransportChannelType */
-   rtxCtxtPushElemName(ctx, "dl-TransportChannelType");
-   rtxCtxtPushTypeName(ctx, "DL-TrCH-Type");
-   stat = pd_ConsUnsigned(ctx, &pvalue->dl_TransportChannelType, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dl-transportChannelIdentity */
-   rtxCtxtPushElemName(ctx, "dl-transportChannelIdentity");
-   rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-   stat = pd_ConsUInt8(ctx, &pvalue->dl_transportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* tfs-SignallingMode */
-   rtxCtxtPushElemName(ctx, "tfs-SignallingMode");
-   stat = asn1PD_UMTS_DL_AddReconfTransChInformation_tfs_SignallingMode(ctx, &pvalue->tfs_SignallingMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dch-QualityTarget */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dch-QualityTarget");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_QualityTarget(ctx, &pvalue->dch_QualityTarget);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_TM_SignallingInfo(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_AddReconfTransChInfoList(rtxContext* ctx, DL_AddReconfTransChInfoList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "DL-AddReconfTransChInfoList");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DL_AddReconfTransChInformation* elem;
-      rtxCtxtPushArrayElemName(ctx, "DL-AddReconfTransChInformation", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_AddReconfTransChInformation));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (DL_AddReconfTransChInformation*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DL_AddReconfTransChInformation(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DL_AddReconfTransChInformation(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PreDefTransChConfiguration(rtxContext* ctx, PreDefTransChConfiguration* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PreDefTransChConfiguration");
-   /* ul-CommonTransChInfo */
-   rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
-   stat = asn1PD_UMTS_UL_CommonTransChInfo(ctx, &pvalue->ul_CommonTransChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-AddReconfTrChInfoList */
-   rtxCtxtPushElemName(ctx, "ul-AddReconfTrChInfoList");
-   stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTrChInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonTransChInfo */
-   rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
-   stat = asn1PD_UMTS_DL_CommonTransChInfo(ctx, &pvalue->dl_CommonTransChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-TrChInfoList */
-   rtxCtxtPushElemName(ctx, "dl-TrChInfoList");
-   stat = asn1PD_UMTS_DL_AddReconfTransChInfoList(ctx, &pvalue->dl_TrChInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfoPredef_fdd(rtxContext* ctx, UL_DPCH_PowerControlInfoPredef_fdd* pvalue)
-{
-   int stat = 0;
-   /* powerControlAlgorithm */
-   rtxCtxtPushElemName(ctx, "powerControlAlgorithm");
-   stat = asn1PD_UMTS_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfoPredef_tdd(rtxContext* ctx, UL_DPCH_PowerControlInfoPredef_tdd* pvalue)
-{
-   int stat = 0;
-   /* dpch-ConstantValue */
-   rtxCtxtPushElemName(ctx, "dpch-ConstantValue");
-   rtxCtxtPushTypeName(ctx, "ConstantValueTdd");
-   stat = pd_ConsInt8(ctx, &pvalue->dpch_ConstantValue, -35, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_PowerControlInfoPredef(rtxContext* ctx, UL_DPCH_PowerControlInfoPredef* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "UL-DPCH-PowerControlInfoPredef");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (UL_DPCH_PowerControlInfoPredef_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfoPredef_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UL_DPCH_PowerControlInfoPredef_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfoPredef_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (UL_DPCH_PowerControlInfoPredef_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UL_DPCH_PowerControlInfoPredef_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfoPredef_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo_fdd(rtxContext* ctx, UL_DPCH_InfoPredef_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   /* tfci-Existence */
-   rtxCtxtPushElemName(ctx, "tfci-Existence");
-   stat = rtxDecBitInline(ctx, &pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* puncturingLimit */
-   rtxCtxtPushElemName(ctx, "puncturingLimit");
-   rtxCtxtPushTypeName(ctx, "PuncturingLimit");
-   stat = pd_ConsUnsigned(ctx, &pvalue->puncturingLimit, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo_tdd(rtxContext* ctx, UL_DPCH_InfoPredef_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   /* commonTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "commonTimeslotInfo");
-   stat = asn1PD_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo(rtxContext* ctx, UL_DPCH_InfoPredef_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (UL_DPCH_InfoPredef_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UL_DPCH_InfoPredef_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (UL_DPCH_InfoPredef_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_InfoPredef_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_InfoPredef(rtxContext* ctx, UL_DPCH_InfoPredef* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UL-DPCH-InfoPredef");
-   /* ul-DPCH-PowerControlInfo */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-PowerControlInfo");
-   stat = asn1PD_UMTS_UL_DPCH_PowerControlInfoPredef(ctx, &pvalue->ul_DPCH_PowerControlInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PilotBits128(rtxContext* ctx, PilotBits128* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "PilotBits128");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PilotBits256(rtxContext* ctx, PilotBits256* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "PilotBits256");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SF512_AndPilot(rtxContext* ctx, SF512_AndPilot* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "SF512-AndPilot");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 7);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "sfd4");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "sfd8");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "sfd16");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "sfd32");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "sfd64");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "sfd128");
-         rtxCtxtPushTypeName(ctx, "PilotBits128");
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.sfd128, 0, 1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "sfd256");
-         rtxCtxtPushTypeName(ctx, "PilotBits256");
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.sfd256, 0, 2);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "sfd512");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd(rtxContext* ctx, DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   /* spreadingFactorAndPilot */
-   rtxCtxtPushElemName(ctx, "spreadingFactorAndPilot");
-   stat = asn1PD_UMTS_SF512_AndPilot(ctx, &pvalue->spreadingFactorAndPilot);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* positionFixedOrFlexible */
-   rtxCtxtPushElemName(ctx, "positionFixedOrFlexible");
-   rtxCtxtPushTypeName(ctx, "PositionFixedOrFlexible");
-   stat = pd_ConsUnsigned(ctx, &pvalue->positionFixedOrFlexible, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* tfci-Existence */
-   rtxCtxtPushElemName(ctx, "tfci-Existence");
-   stat = rtxDecBitInline(ctx, &pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd(rtxContext* ctx, DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   /* commonTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "commonTimeslotInfo");
-   stat = asn1PD_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo(rtxContext* ctx, DL_DPCH_InfoCommonPredef_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCH_InfoCommonPredef(rtxContext* ctx, DL_DPCH_InfoCommonPredef* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DL-DPCH-InfoCommonPredef");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CommonInformationPredef(rtxContext* ctx, DL_CommonInformationPredef* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "DL-CommonInformationPredef");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dl-DPCH-InfoCommon */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-DPCH-InfoCommon");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_DPCH_InfoCommonPredef(ctx, &pvalue->dl_DPCH_InfoCommon);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PreDefPhyChConfiguration(rtxContext* ctx, PreDefPhyChConfiguration* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PreDefPhyChConfiguration");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ul-DPCH-InfoPredef */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-InfoPredef");
-   stat = asn1PD_UMTS_UL_DPCH_InfoPredef(ctx, &pvalue->ul_DPCH_InfoPredef);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonInformationPredef */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformationPredef");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_CommonInformationPredef(ctx, &pvalue->dl_CommonInformationPredef);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PreDefRadioConfiguration(rtxContext* ctx, PreDefRadioConfiguration* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PreDefRadioConfiguration");
-   /* predefinedRB-Configuration */
-   rtxCtxtPushElemName(ctx, "predefinedRB-Configuration");
-   stat = asn1PD_UMTS_PredefinedRB_Configuration(ctx, &pvalue->predefinedRB_Configuration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* preDefTransChConfiguration */
-   rtxCtxtPushElemName(ctx, "preDefTransChConfiguration");
-   stat = asn1PD_UMTS_PreDefTransChConfiguration(ctx, &pvalue->preDefTransChConfiguration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* preDefPhyChConfiguration */
-   rtxCtxtPushElemName(ctx, "preDefPhyChConfiguration");
-   stat = asn1PD_UMTS_PreDefPhyChConfiguration(ctx, &pvalue->preDefPhyChConfiguration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NumberOfTPC_Bits(rtxContext* ctx, NumberOfTPC_Bits* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "NumberOfTPC-Bits");
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd(rtxContext* ctx, UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* numberOfTPC-Bits */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "numberOfTPC-Bits");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "NumberOfTPC-Bits");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->numberOfTPC_Bits = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo(rtxContext* ctx, UL_DPCH_InfoPredef_v770ext_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_InfoPredef_v770ext(rtxContext* ctx, UL_DPCH_InfoPredef_v770ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UL-DPCH-InfoPredef-v770ext");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PreDefPhyChConfiguration_v770ext(rtxContext* ctx, PreDefPhyChConfiguration_v770ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PreDefPhyChConfiguration-v770ext");
-   /* ul-DPCH-InfoPredef */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-InfoPredef");
-   stat = asn1PD_UMTS_UL_DPCH_InfoPredef_v770ext(ctx, &pvalue->ul_DPCH_InfoPredef);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PreDefRadioConfiguration_v770ext(rtxContext* ctx, PreDefRadioConfiguration_v770ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PreDefRadioConfiguration-v770ext");
-   /* preDefPhyChConfiguration */
-   rtxCtxtPushElemName(ctx, "preDefPhyChConfiguration");
-   stat = asn1PD_UMTS_PreDefPhyChConfiguration_v770ext(ctx, &pvalue->preDefPhyChConfiguration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType16_v770ext_IEs(rtxContext* ctx, SysInfoType16_v770ext_IEs* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SysInfoType16-v770ext-IEs");
-   /* preDefinedRadioConfiguration */
-   rtxCtxtPushElemName(ctx, "preDefinedRadioConfiguration");
-   stat = asn1PD_UMTS_PreDefRadioConfiguration_v770ext(ctx, &pvalue->preDefinedRadioConfiguration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MAC_hs_WindowSize_r9(rtxContext* ctx, MAC_hs_WindowSize_r9* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MAC-hs-WindowSize-r9");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PreDefRadioConfiguration_v920ext(rtxContext* ctx, PreDefRadioConfiguration_v920ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PreDefRadioConfiguration-v920ext");
-   /* mac-ehsWindowSize */
-   rtxCtxtPushElemName(ctx, "mac-ehsWindowSize");
-   rtxCtxtPushTypeName(ctx, "MAC-hs-WindowSize-r9");
-   stat = pd_ConsUnsigned(ctx, &pvalue->mac_ehsWindowSize, 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType16_v920ext_IEs(rtxContext* ctx, SysInfoType16_v920ext_IEs* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SysInfoType16-v920ext-IEs");
-   /* preDefinedRadioConfiguration */
-   rtxCtxtPushElemName(ctx, "preDefinedRadioConfiguration");
-   stat = asn1PD_UMTS_PreDefRadioConfiguration_v920ext(ctx, &pvalue->preDefinedRadioConfiguration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions(rtxContext* ctx, SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType16-v920ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType16-v920ext");
-   stat = asn1PD_UMTS_SysInfoType16_v920ext_IEs(ctx, &pvalue->sysInfoType16_v920ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType16_v770NonCriticalExtensions(rtxContext* ctx, SysInfoType16_v770NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType16-v770ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType16-v770ext");
-   stat = asn1PD_UMTS_SysInfoType16_v770ext_IEs(ctx, &pvalue->sysInfoType16_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v920NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v920NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType16(rtxContext* ctx, SysInfoType16* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType16");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* preDefinedRadioConfiguration */
-   rtxCtxtPushElemName(ctx, "preDefinedRadioConfiguration");
-   stat = asn1PD_UMTS_PreDefRadioConfiguration(ctx, &pvalue->preDefinedRadioConfiguration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType16_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Ansi_41_IDNNS(rtxContext* ctx, Ansi_41_IDNNS* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "Ansi-41-IDNNS");
-   RT_SET_SIZE(ctx, 14, 14);
-   stat = pd_BitString32(ctx, pvalue, 14, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CN_DomainInformation(rtxContext* ctx, CN_DomainInformation* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CN-DomainInformation");
-   /* cn-DomainIdentity */
-   rtxCtxtPushElemName(ctx, "cn-DomainIdentity");
-   rtxCtxtPushTypeName(ctx, "CN-DomainIdentity");
-   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* cn-DomainSpecificNAS-Info */
-   rtxCtxtPushElemName(ctx, "cn-DomainSpecificNAS-Info");
-   stat = asn1PD_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_DomainSpecificNAS_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CN_DomainInformationFull(rtxContext* ctx, CN_DomainInformationFull* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CN-DomainInformationFull");
-   /* cn-DomainIdentity */
-   rtxCtxtPushElemName(ctx, "cn-DomainIdentity");
-   rtxCtxtPushTypeName(ctx, "CN-DomainIdentity");
-   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* cn-DomainSpecificNAS-Info */
-   rtxCtxtPushElemName(ctx, "cn-DomainSpecificNAS-Info");
-   stat = asn1PD_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_DomainSpecificNAS_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cn-DRX-CycleLengthCoeff */
-   rtxCtxtPushElemName(ctx, "cn-DRX-CycleLengthCoeff");
-   rtxCtxtPushTypeName(ctx, "CN-DRX-CycleLengthCoefficient");
-   stat = pd_ConsUInt8(ctx, &pvalue->cn_DRX_CycleLengthCoeff, 6, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CN_DomainInformationList(rtxContext* ctx, CN_DomainInformationList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "CN-DomainInformationList");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CN-DomainInformationList");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       CN_DomainInformation* elem;
-      rtxCtxtPushArrayElemName(ctx, "CN-DomainInformation", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CN_DomainInformation));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CN-DomainInformation", (int32_t)i, "CN-DomainInformationList");
       elem = (CN_DomainInformation*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_CN_DomainInformation(elem);
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_CN_DomainInformation(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "CN-DomainInformation", (int32_t)i, "CN-DomainInformationList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_CN_DomainInformationListFull(rtxContext* ctx, CN_DomainInformationListFull* pvalue)
+int asn1PD_UMTS_CN_DomainInformationListFull(rtxContext* RT_RESTRICT ctx, CN_DomainInformationListFull* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "CN-DomainInformationListFull");
    RT_SET_SIZE(ctx, 1, 4);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CN-DomainInformationListFull");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       CN_DomainInformationFull* elem;
-      rtxCtxtPushArrayElemName(ctx, "CN-DomainInformationFull", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CN_DomainInformationFull));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CN-DomainInformationFull", (int32_t)i, "CN-DomainInformationListFull");
       elem = (CN_DomainInformationFull*)(node + 1);
       node->data = elem;
       asn1Init_UMTS_CN_DomainInformationFull(elem);
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_CN_DomainInformationFull(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "CN-DomainInformationFull", (int32_t)i, "CN-DomainInformationListFull");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_CN_InformationInfo(rtxContext* ctx, CN_InformationInfo* pvalue)
+int asn1PD_UMTS_CN_InformationInfo(rtxContext* RT_RESTRICT ctx, CN_InformationInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CN-InformationInfo");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CN-InformationInfo");
    /* plmn-Identity */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "plmn-Identity");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, "CN-InformationInfo");
    }
    /* cn-CommonGSM-MAP-NAS-SysInfo */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "cn-CommonGSM-MAP-NAS-SysInfo");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "cn-CommonGSM-MAP-NAS-SysInfo", -1, "CN-InformationInfo");
    }
    /* cn-DomainInformationList */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cn-DomainInformationList");
       pvalue->m |= 0x4u;
       stat = asn1PD_UMTS_CN_DomainInformationList(ctx, &pvalue->cn_DomainInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "cn-DomainInformationList", -1, "CN-InformationInfo");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_CN_InformationInfo_r6(rtxContext* ctx, CN_InformationInfo_r6* pvalue)
+int asn1PD_UMTS_CN_InformationInfo_r6(rtxContext* RT_RESTRICT ctx, CN_InformationInfo_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CN-InformationInfo-r6");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CN-InformationInfo-r6");
    /* plmn-Identity */
    if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "plmn-Identity");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, "CN-InformationInfo-r6");
    }
    /* cn-CommonGSM-MAP-NAS-SysInfo */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "cn-CommonGSM-MAP-NAS-SysInfo");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "cn-CommonGSM-MAP-NAS-SysInfo", -1, "CN-InformationInfo-r6");
    }
    /* cn-DomainInformationList */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "cn-DomainInformationList");
       pvalue->m |= 0x4u;
       stat = asn1PD_UMTS_CN_DomainInformationList(ctx, &pvalue->cn_DomainInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "cn-DomainInformationList", -1, "CN-InformationInfo-r6");
    }
    /* primary-plmn-Identity */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "primary-plmn-Identity");
       pvalue->m |= 0x8u;
       stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "primary-plmn-Identity", -1, "CN-InformationInfo-r6");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_CN_InformationInfoFull(rtxContext* ctx, CN_InformationInfoFull* pvalue)
+int asn1PD_UMTS_CN_InformationInfoFull(rtxContext* RT_RESTRICT ctx, CN_InformationInfoFull* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CN-InformationInfoFull");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CN-InformationInfoFull");
    /* plmn-Identity */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "plmn-Identity");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, "CN-InformationInfoFull");
    }
    /* cn-CommonGSM-MAP-NAS-SysInfo */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "cn-CommonGSM-MAP-NAS-SysInfo");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "cn-CommonGSM-MAP-NAS-SysInfo", -1, "CN-InformationInfoFull");
    }
    /* cn-DomainInformationListFull */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cn-DomainInformationListFull");
       pvalue->m |= 0x4u;
       stat = asn1PD_UMTS_CN_DomainInformationListFull(ctx, &pvalue->cn_DomainInformationListFull);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "cn-DomainInformationListFull", -1, "CN-InformationInfoFull");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_RoutingParameter(rtxContext* ctx, RoutingParameter* pvalue)
+int asn1PD_UMTS_RoutingParameter(rtxContext* RT_RESTRICT ctx, RoutingParameter* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "RoutingParameter");
    RT_SET_SIZE(ctx, 10, 10);
    stat = pd_BitString32(ctx, pvalue, 10, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RoutingParameter");
    return 0;
 }
 
-int asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_localPTMSI(rtxContext* ctx, Gsm_map_IDNNS_routingbasis_localPTMSI* pvalue)
+int asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_localPTMSI(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS_routingbasis_localPTMSI* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* routingparameter */
-   rtxCtxtPushElemName(ctx, "routingparameter");
    stat = asn1PD_UMTS_RoutingParameter(ctx, &pvalue->routingparameter);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN(rtxContext* ctx, Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN* pvalue)
+int asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* routingparameter */
-   rtxCtxtPushElemName(ctx, "routingparameter");
    stat = asn1PD_UMTS_RoutingParameter(ctx, &pvalue->routingparameter);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN(rtxContext* ctx, Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN* pvalue)
+int asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* routingparameter */
-   rtxCtxtPushElemName(ctx, "routingparameter");
    stat = asn1PD_UMTS_RoutingParameter(ctx, &pvalue->routingparameter);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging(rtxContext* ctx, Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging* pvalue)
+int asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* routingparameter */
-   rtxCtxtPushElemName(ctx, "routingparameter");
    stat = asn1PD_UMTS_RoutingParameter(ctx, &pvalue->routingparameter);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent(rtxContext* ctx, Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent* pvalue)
+int asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* routingparameter */
-   rtxCtxtPushElemName(ctx, "routingparameter");
    stat = asn1PD_UMTS_RoutingParameter(ctx, &pvalue->routingparameter);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_iMEI(rtxContext* ctx, Gsm_map_IDNNS_routingbasis_iMEI* pvalue)
+int asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_iMEI(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS_routingbasis_iMEI* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* routingparameter */
-   rtxCtxtPushElemName(ctx, "routingparameter");
    stat = asn1PD_UMTS_RoutingParameter(ctx, &pvalue->routingparameter);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_spare2(rtxContext* ctx, Gsm_map_IDNNS_routingbasis_spare2* pvalue)
+int asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_spare2(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS_routingbasis_spare2* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* routingparameter */
-   rtxCtxtPushElemName(ctx, "routingparameter");
    stat = asn1PD_UMTS_RoutingParameter(ctx, &pvalue->routingparameter);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_spare1(rtxContext* ctx, Gsm_map_IDNNS_routingbasis_spare1* pvalue)
+int asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_spare1(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS_routingbasis_spare1* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* routingparameter */
-   rtxCtxtPushElemName(ctx, "routingparameter");
    stat = asn1PD_UMTS_RoutingParameter(ctx, &pvalue->routingparameter);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_Gsm_map_IDNNS_routingbasis(rtxContext* ctx, Gsm_map_IDNNS_routingbasis* pvalue)
+int asn1PD_UMTS_Gsm_map_IDNNS_routingbasis(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS_routingbasis* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 7);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "localPTMSI");
+      case 0: /* localPTMSI */
          pvalue->u.localPTMSI = (Gsm_map_IDNNS_routingbasis_localPTMSI*)rtxMemHeapAlloc(ctx, sizeof(Gsm_map_IDNNS_routingbasis_localPTMSI));
-         if (pvalue->u.localPTMSI == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.localPTMSI == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "localPTMSI", -1, 0);
          asn1Init_UMTS_Gsm_map_IDNNS_routingbasis_localPTMSI(pvalue->u.localPTMSI);
          stat = asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_localPTMSI(ctx, pvalue->u.localPTMSI);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "localPTMSI", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tMSIofsamePLMN");
+      case 1: /* tMSIofsamePLMN */
          pvalue->u.tMSIofsamePLMN = (Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN*)rtxMemHeapAlloc(ctx, sizeof(Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN));
-         if (pvalue->u.tMSIofsamePLMN == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.tMSIofsamePLMN == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tMSIofsamePLMN", -1, 0);
          asn1Init_UMTS_Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN(pvalue->u.tMSIofsamePLMN);
          stat = asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN(ctx, pvalue->u.tMSIofsamePLMN);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tMSIofsamePLMN", -1, 0);
          break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tMSIofdifferentPLMN");
+      case 2: /* tMSIofdifferentPLMN */
          pvalue->u.tMSIofdifferentPLMN = (Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN*)rtxMemHeapAlloc(ctx, sizeof(Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN));
-         if (pvalue->u.tMSIofdifferentPLMN == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.tMSIofdifferentPLMN == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tMSIofdifferentPLMN", -1, 0);
          asn1Init_UMTS_Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN(pvalue->u.tMSIofdifferentPLMN);
          stat = asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN(ctx, pvalue->u.tMSIofdifferentPLMN);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tMSIofdifferentPLMN", -1, 0);
          break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "iMSIresponsetopaging");
+      case 3: /* iMSIresponsetopaging */
          pvalue->u.iMSIresponsetopaging = (Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging*)rtxMemHeapAlloc(ctx, sizeof(Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging));
-         if (pvalue->u.iMSIresponsetopaging == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.iMSIresponsetopaging == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "iMSIresponsetopaging", -1, 0);
          asn1Init_UMTS_Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging(pvalue->u.iMSIresponsetopaging);
          stat = asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging(ctx, pvalue->u.iMSIresponsetopaging);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "iMSIresponsetopaging", -1, 0);
          break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "iMSIcauseUEinitiatedEvent");
+      case 4: /* iMSIcauseUEinitiatedEvent */
          pvalue->u.iMSIcauseUEinitiatedEvent = (Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent*)rtxMemHeapAlloc(ctx, sizeof(Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent));
-         if (pvalue->u.iMSIcauseUEinitiatedEvent == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.iMSIcauseUEinitiatedEvent == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "iMSIcauseUEinitiatedEvent", -1, 0);
          asn1Init_UMTS_Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent(pvalue->u.iMSIcauseUEinitiatedEvent);
          stat = asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent(ctx, pvalue->u.iMSIcauseUEinitiatedEvent);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "iMSIcauseUEinitiatedEvent", -1, 0);
          break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "iMEI");
+      case 5: /* iMEI */
          pvalue->u.iMEI = (Gsm_map_IDNNS_routingbasis_iMEI*)rtxMemHeapAlloc(ctx, sizeof(Gsm_map_IDNNS_routingbasis_iMEI));
-         if (pvalue->u.iMEI == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.iMEI == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "iMEI", -1, 0);
          asn1Init_UMTS_Gsm_map_IDNNS_routingbasis_iMEI(pvalue->u.iMEI);
          stat = asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_iMEI(ctx, pvalue->u.iMEI);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "iMEI", -1, 0);
          break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "spare2");
+      case 6: /* spare2 */
          pvalue->u.spare2 = (Gsm_map_IDNNS_routingbasis_spare2*)rtxMemHeapAlloc(ctx, sizeof(Gsm_map_IDNNS_routingbasis_spare2));
-         if (pvalue->u.spare2 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.spare2 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "spare2", -1, 0);
          asn1Init_UMTS_Gsm_map_IDNNS_routingbasis_spare2(pvalue->u.spare2);
          stat = asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_spare2(ctx, pvalue->u.spare2);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "spare2", -1, 0);
          break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "spare1");
+      case 7: /* spare1 */
          pvalue->u.spare1 = (Gsm_map_IDNNS_routingbasis_spare1*)rtxMemHeapAlloc(ctx, sizeof(Gsm_map_IDNNS_routingbasis_spare1));
-         if (pvalue->u.spare1 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.spare1 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "spare1", -1, 0);
          asn1Init_UMTS_Gsm_map_IDNNS_routingbasis_spare1(pvalue->u.spare1);
          stat = asn1PD_UMTS_Gsm_map_IDNNS_routingbasis_spare1(ctx, pvalue->u.spare1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "spare1", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_Gsm_map_IDNNS(rtxContext* ctx, Gsm_map_IDNNS* pvalue)
+int asn1PD_UMTS_Gsm_map_IDNNS(rtxContext* RT_RESTRICT ctx, Gsm_map_IDNNS* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Gsm-map-IDNNS");
    /* routingbasis */
-   rtxCtxtPushElemName(ctx, "routingbasis");
    stat = asn1PD_UMTS_Gsm_map_IDNNS_routingbasis(ctx, &pvalue->routingbasis);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "routingbasis", -1, "Gsm-map-IDNNS");
    /* dummy */
-   rtxCtxtPushElemName(ctx, "dummy");
    stat = rtxDecBitInline(ctx, &pvalue->dummy);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "dummy", -1, "Gsm-map-IDNNS");
    return 0;
 }
 
-int asn1PD_UMTS_IMEI_Digit(rtxContext* ctx, IMEI_Digit* pvalue)
+int asn1PD_UMTS_IMEI_Digit(rtxContext* RT_RESTRICT ctx, IMEI_Digit* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "IMEI-Digit");
    stat = pd_ConsUInt8(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IMEI-Digit");
    return 0;
 }
 
-int asn1PD_UMTS_IMEI(rtxContext* ctx, IMEI* pvalue)
+int asn1PD_UMTS_IMEI(rtxContext* RT_RESTRICT ctx, IMEI* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "IMEI");
    pvalue->n = 15;
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "IMEI-Digit", i);
       pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "IMEI-Digit");
       stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 15);
       if (stat != 0) {
          pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
+         RT_FAIL(ctx, stat, "IMEI-Digit", "IMEI-Digit", (int32_t)i, "IMEI");
       }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_IMSI_GSM_MAP(rtxContext* ctx, IMSI_GSM_MAP* pvalue)
+int asn1PD_UMTS_IMSI_GSM_MAP(rtxContext* RT_RESTRICT ctx, IMSI_GSM_MAP* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "IMSI-GSM-MAP");
    {
       uint32_t raw;
       stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, "IMSI-GSM-MAP");
       pvalue->n = raw + 6;
       if (raw > 15) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "IMSI-GSM-MAP");
          rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "IMSI-GSM-MAP");
       }
    }
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "Digit", i);
       pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "Digit");
       stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 9);
       if (stat != 0) {
          pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
+         RT_FAIL(ctx, stat, "Digit", "Digit", (int32_t)i, "IMSI-GSM-MAP");
       }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_IntraDomainNasNodeSelector_version_release99_cn_Type(rtxContext* ctx, IntraDomainNasNodeSelector_version_release99_cn_Type* pvalue)
+int asn1PD_UMTS_IntraDomainNasNodeSelector_version_release99_cn_Type(rtxContext* RT_RESTRICT ctx, IntraDomainNasNodeSelector_version_release99_cn_Type* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "gsm-Map-IDNNS");
+      case 0: /* gsm-Map-IDNNS */
          pvalue->u.gsm_Map_IDNNS = (Gsm_map_IDNNS*)rtxMemHeapAlloc(ctx, sizeof(Gsm_map_IDNNS));
-         if (pvalue->u.gsm_Map_IDNNS == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.gsm_Map_IDNNS == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm-Map-IDNNS", -1, 0);
          asn1Init_UMTS_Gsm_map_IDNNS(pvalue->u.gsm_Map_IDNNS);
          stat = asn1PD_UMTS_Gsm_map_IDNNS(ctx, pvalue->u.gsm_Map_IDNNS);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "gsm-Map-IDNNS", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "ansi-41-IDNNS");
+      case 1: /* ansi-41-IDNNS */
          pvalue->u.ansi_41_IDNNS = (Ansi_41_IDNNS*)rtxMemHeapAlloc(ctx, sizeof(Ansi_41_IDNNS));
-         if (pvalue->u.ansi_41_IDNNS == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.ansi_41_IDNNS == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ansi-41-IDNNS", -1, 0);
          asn1Init_UMTS_Ansi_41_IDNNS(pvalue->u.ansi_41_IDNNS);
          stat = asn1PD_UMTS_Ansi_41_IDNNS(ctx, pvalue->u.ansi_41_IDNNS);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "ansi-41-IDNNS", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_IntraDomainNasNodeSelector_version_release99(rtxContext* ctx, IntraDomainNasNodeSelector_version_release99* pvalue)
+int asn1PD_UMTS_IntraDomainNasNodeSelector_version_release99(rtxContext* RT_RESTRICT ctx, IntraDomainNasNodeSelector_version_release99* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* cn-Type */
-   rtxCtxtPushElemName(ctx, "cn-Type");
    stat = asn1PD_UMTS_IntraDomainNasNodeSelector_version_release99_cn_Type(ctx, &pvalue->cn_Type);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "cn-Type", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_IntraDomainNasNodeSelector_version_later(rtxContext* ctx, IntraDomainNasNodeSelector_version_later* pvalue)
+int asn1PD_UMTS_IntraDomainNasNodeSelector_version_later(rtxContext* RT_RESTRICT ctx, IntraDomainNasNodeSelector_version_later* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* futurecoding */
-   rtxCtxtPushElemName(ctx, "futurecoding");
    RT_SET_SIZE(ctx, 15, 15);
    stat = pd_BitString32(ctx, &pvalue->futurecoding, 15, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "futurecoding", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_IntraDomainNasNodeSelector_version(rtxContext* ctx, IntraDomainNasNodeSelector_version* pvalue)
+int asn1PD_UMTS_IntraDomainNasNodeSelector_version(rtxContext* RT_RESTRICT ctx, IntraDomainNasNodeSelector_version* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "release99");
+      case 0: /* release99 */
          pvalue->u.release99 = (IntraDomainNasNodeSelector_version_release99*)rtxMemHeapAlloc(ctx, sizeof(IntraDomainNasNodeSelector_version_release99));
-         if (pvalue->u.release99 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.release99 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "release99", -1, 0);
          asn1Init_UMTS_IntraDomainNasNodeSelector_version_release99(pvalue->u.release99);
          stat = asn1PD_UMTS_IntraDomainNasNodeSelector_version_release99(ctx, pvalue->u.release99);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "release99", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "later");
+      case 1: /* later */
          pvalue->u.later = (IntraDomainNasNodeSelector_version_later*)rtxMemHeapAllocZ(ctx, sizeof(IntraDomainNasNodeSelector_version_later));
-         if (pvalue->u.later == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.later == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later", -1, 0);
          stat = asn1PD_UMTS_IntraDomainNasNodeSelector_version_later(ctx, pvalue->u.later);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "later", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_IntraDomainNasNodeSelector(rtxContext* ctx, IntraDomainNasNodeSelector* pvalue)
+int asn1PD_UMTS_IntraDomainNasNodeSelector(rtxContext* RT_RESTRICT ctx, IntraDomainNasNodeSelector* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "IntraDomainNasNodeSelector");
    /* version */
-   rtxCtxtPushElemName(ctx, "version");
    stat = asn1PD_UMTS_IntraDomainNasNodeSelector_version(ctx, &pvalue->version);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "version", -1, "IntraDomainNasNodeSelector");
    return 0;
 }
 
-int asn1PD_UMTS_LAI(rtxContext* ctx, LAI* pvalue)
+int asn1PD_UMTS_LAI(rtxContext* RT_RESTRICT ctx, LAI* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "LAI");
    /* plmn-Identity */
-   rtxCtxtPushElemName(ctx, "plmn-Identity");
    stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, "LAI");
    /* lac */
-   rtxCtxtPushElemName(ctx, "lac");
    RT_SET_SIZE(ctx, 16, 16);
    stat = pd_BitString32(ctx, &pvalue->lac, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "lac", -1, "LAI");
    return 0;
 }
 
-int asn1PD_UMTS_NAS_Message(rtxContext* ctx, NAS_Message* pvalue)
+int asn1PD_UMTS_NAS_Message(rtxContext* RT_RESTRICT ctx, NAS_Message* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "NAS-Message");
    RT_SET_SIZE(ctx, 1, 4095);
    stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NAS-Message");
    return 0;
 }
 
-int asn1PD_UMTS_NAS_Synchronisation_Indicator(rtxContext* ctx, NAS_Synchronisation_Indicator* pvalue)
+int asn1PD_UMTS_NAS_Synchronisation_Indicator(rtxContext* RT_RESTRICT ctx, NAS_Synchronisation_Indicator* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "NAS-Synchronisation-Indicator");
    RT_SET_SIZE(ctx, 4, 4);
    stat = pd_BitString32(ctx, pvalue, 4, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NAS-Synchronisation-Indicator");
    return 0;
 }
 
-int asn1PD_UMTS_P_TMSI_GSM_MAP(rtxContext* ctx, P_TMSI_GSM_MAP* pvalue)
+int asn1PD_UMTS_P_TMSI_GSM_MAP(rtxContext* RT_RESTRICT ctx, P_TMSI_GSM_MAP* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "P-TMSI-GSM-MAP");
    RT_SET_SIZE(ctx, 32, 32);
    stat = pd_BitString32(ctx, pvalue, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "P-TMSI-GSM-MAP");
    return 0;
 }
 
-int asn1PD_UMTS_PagingRecordTypeID(rtxContext* ctx, PagingRecordTypeID* pvalue)
+int asn1PD_UMTS_PagingRecordTypeID(rtxContext* RT_RESTRICT ctx, PagingRecordTypeID* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "PagingRecordTypeID");
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PagingRecordTypeID");
    return 0;
 }
 
-int asn1PD_UMTS_RAB_Identity(rtxContext* ctx, RAB_Identity* pvalue)
+int asn1PD_UMTS_RAB_Identity(rtxContext* RT_RESTRICT ctx, RAB_Identity* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "RAB-Identity");
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-Identity");
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "gsm-MAP-RAB-Identity");
+      case 0: /* gsm-MAP-RAB-Identity */
          pvalue->u.gsm_MAP_RAB_Identity = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.gsm_MAP_RAB_Identity == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.gsm_MAP_RAB_Identity == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm-MAP-RAB-Identity", -1, "RAB-Identity");
          RT_SET_SIZE(ctx, 8, 8);
          stat = pd_BitString32(ctx, pvalue->u.gsm_MAP_RAB_Identity, 8, 8);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "gsm-MAP-RAB-Identity", -1, "RAB-Identity");
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "ansi-41-RAB-Identity");
+      case 1: /* ansi-41-RAB-Identity */
          pvalue->u.ansi_41_RAB_Identity = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.ansi_41_RAB_Identity == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+         if (pvalue->u.ansi_41_RAB_Identity == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ansi-41-RAB-Identity", -1, "RAB-Identity");
          RT_SET_SIZE(ctx, 8, 8);
          stat = pd_BitString32(ctx, pvalue->u.ansi_41_RAB_Identity, 8, 8);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "ansi-41-RAB-Identity", -1, "RAB-Identity");
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RAB-Identity");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_RoutingAreaCode(rtxContext* ctx, RoutingAreaCode* pvalue)
+int asn1PD_UMTS_RoutingAreaCode(rtxContext* RT_RESTRICT ctx, RoutingAreaCode* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "RoutingAreaCode");
    RT_SET_SIZE(ctx, 8, 8);
    stat = pd_BitString32(ctx, pvalue, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RoutingAreaCode");
    return 0;
 }
 
-int asn1PD_UMTS_RAI(rtxContext* ctx, RAI* pvalue)
+int asn1PD_UMTS_RAI(rtxContext* RT_RESTRICT ctx, RAI* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RAI");
    /* lai */
-   rtxCtxtPushElemName(ctx, "lai");
    stat = asn1PD_UMTS_LAI(ctx, &pvalue->lai);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "lai", -1, "RAI");
    /* rac */
-   rtxCtxtPushElemName(ctx, "rac");
    stat = asn1PD_UMTS_RoutingAreaCode(ctx, &pvalue->rac);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "rac", -1, "RAI");
    return 0;
 }
 
-int asn1PD_UMTS_TMSI_GSM_MAP(rtxContext* ctx, TMSI_GSM_MAP* pvalue)
+int asn1PD_UMTS_TMSI_GSM_MAP(rtxContext* RT_RESTRICT ctx, TMSI_GSM_MAP* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "TMSI-GSM-MAP");
    RT_SET_SIZE(ctx, 32, 32);
    stat = pd_BitString32(ctx, pvalue, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TMSI-GSM-MAP");
    return 0;
 }
 
-int asn1PD_UMTS_CellIdentity_PerRL_List(rtxContext* ctx, CellIdentity_PerRL_List* pvalue)
+int asn1PD_UMTS_CellIdentity_PerRL_List(rtxContext* RT_RESTRICT ctx, CellIdentity_PerRL_List* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "CellIdentity-PerRL-List");
    {
       uint32_t raw;
       stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, "CellIdentity-PerRL-List");
       pvalue->n = raw + 1;
       if (raw > 7) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "CellIdentity-PerRL-List");
          rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "CellIdentity-PerRL-List");
       }
    }
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "CellIdentity", i);
       asn1Init_UMTS_CellIdentity(&pvalue->elem[i]);
       stat = asn1PD_UMTS_CellIdentity(ctx, &pvalue->elem[i]);
       if (stat != 0) {
          pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
+         RT_FAIL(ctx, stat, 0, "CellIdentity", (int32_t)i, "CellIdentity-PerRL-List");
       }
-      rtxCtxtPopArrayElemName(ctx);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_T_322(rtxContext* ctx, T_322* pvalue)
+int asn1PD_UMTS_T_322(rtxContext* RT_RESTRICT ctx, T_322* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "T-322");
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "T-322");
    return 0;
 }
 
-int asn1PD_UMTS_PriorityLevel_radioAccessTechnology_utraFDD_element(rtxContext* ctx, PriorityLevel_radioAccessTechnology_utraFDD_element* pvalue)
+int asn1PD_UMTS_PriorityLevel_radioAccessTechnology_utraFDD_element(rtxContext* RT_RESTRICT ctx, PriorityLevel_radioAccessTechnology_utraFDD_element* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* uarfcn */
-   rtxCtxtPushElemName(ctx, "uarfcn");
-   rtxCtxtPushTypeName(ctx, "UARFCN");
    stat = pd_ConsUInt16(ctx, &pvalue->uarfcn, 0, 16383);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "UARFCN", "uarfcn", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_PriorityLevel_radioAccessTechnology_utraFDD(rtxContext* ctx, PriorityLevel_radioAccessTechnology_utraFDD* pvalue)
+int asn1PD_UMTS_PriorityLevel_radioAccessTechnology_utraFDD(rtxContext* RT_RESTRICT ctx, PriorityLevel_radioAccessTechnology_utraFDD* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 8);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       PriorityLevel_radioAccessTechnology_utraFDD_element* elem;
-      rtxCtxtPushArrayElemName(ctx, "element", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PriorityLevel_radioAccessTechnology_utraFDD_element));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
       elem = (PriorityLevel_radioAccessTechnology_utraFDD_element*)(node + 1);
       node->data = elem;
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_PriorityLevel_radioAccessTechnology_utraFDD_element(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_PriorityLevel_radioAccessTechnology_utraTDD_element(rtxContext* ctx, PriorityLevel_radioAccessTechnology_utraTDD_element* pvalue)
+int asn1PD_UMTS_PriorityLevel_radioAccessTechnology_utraTDD_element(rtxContext* RT_RESTRICT ctx, PriorityLevel_radioAccessTechnology_utraTDD_element* RT_RESTRICT pvalue)
 {
    int stat = 0;
    /* uarfcn */
-   rtxCtxtPushElemName(ctx, "uarfcn");
-   rtxCtxtPushTypeName(ctx, "UARFCN");
    stat = pd_ConsUInt16(ctx, &pvalue->uarfcn, 0, 16383);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "UARFCN", "uarfcn", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_PriorityLevel_radioAccessTechnology_utraTDD(rtxContext* ctx, PriorityLevel_radioAccessTechnology_utraTDD* pvalue)
+int asn1PD_UMTS_PriorityLevel_radioAccessTechnology_utraTDD(rtxContext* RT_RESTRICT ctx, PriorityLevel_radioAccessTechnology_utraTDD* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 8);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
       PriorityLevel_radioAccessTechnology_utraTDD_element* elem;
-      rtxCtxtPushArrayElemName(ctx, "element", i);
       node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PriorityLevel_radioAccessTechnology_utraTDD_element));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
       elem = (PriorityLevel_radioAccessTechnology_utraTDD_element*)(node + 1);
       node->data = elem;
       rtxDListAppendNode(pvalue, node);
       stat = asn1PD_UMTS_PriorityLevel_radioAccessTechnology_utraTDD_element(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_EARFCN(rtxContext* RT_RESTRICT ctx, EARFCN* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt16(ctx, pvalue, 0, 65535);
+   RT_CHECK(ctx, stat, 0, 0, -1, "EARFCN");
+   return 0;
+}
+
+int asn1PD_UMTS_PriorityLevel_radioAccessTechnology_eutra_element(rtxContext* RT_RESTRICT ctx, PriorityLevel_radioAccessTechnology_eutra_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* earfcn */
+   stat = pd_ConsUInt16(ctx, &pvalue->earfcn, 0, 65535);
+   RT_CHECK(ctx, stat, "EARFCN", "earfcn", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PriorityLevel_radioAccessTechnology_eutra(rtxContext* RT_RESTRICT ctx, PriorityLevel_radioAccessTechnology_eutra* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PriorityLevel_radioAccessTechnology_eutra_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PriorityLevel_radioAccessTechnology_eutra_element));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
+      elem = (PriorityLevel_radioAccessTechnology_eutra_element*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_PriorityLevel_radioAccessTechnology_eutra_element(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GSM_CellGroup_bandIndicator(rtxContext* RT_RESTRICT ctx, GSM_CellGroup_bandIndicator* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_GSM_CellGroup_followingARFCNs_explicitListOfARFCNs(rtxContext* RT_RESTRICT ctx, GSM_CellGroup_followingARFCNs_explicitListOfARFCNs* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 5);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      pvalue->n = raw + 0;
+      if (raw > 31) {
+         rtxErrAddStrParm(ctx, "explicitListOfARFCNs");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt16(ctx, &pvalue->elem[i], 0, 1023);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, "BCCH-ARFCN", "BCCH-ARFCN", (int32_t)i, 0);
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GSM_CellGroup_followingARFCNs_equallySpacedARFCNs(rtxContext* RT_RESTRICT ctx, GSM_CellGroup_followingARFCNs_equallySpacedARFCNs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* arfcn-Spacing */
+   stat = pd_ConsUInt8(ctx, &pvalue->arfcn_Spacing, 1, 8);
+   RT_CHECK(ctx, stat, 0, "arfcn-Spacing", -1, 0);
+   /* numberOfFollowingARFCNs */
+   stat = pd_ConsUInt8(ctx, &pvalue->numberOfFollowingARFCNs, 0, 31);
+   RT_CHECK(ctx, stat, 0, "numberOfFollowingARFCNs", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs(rtxContext* RT_RESTRICT ctx, GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs(rtxContext* RT_RESTRICT ctx, GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* endingARFCN */
+   stat = pd_ConsUInt16(ctx, &pvalue->endingARFCN, 0, 1023);
+   RT_CHECK(ctx, stat, "BCCH-ARFCN", "endingARFCN", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_GSM_CellGroup_followingARFCNs(rtxContext* RT_RESTRICT ctx, GSM_CellGroup_followingARFCNs* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* explicitListOfARFCNs */
+         pvalue->u.explicitListOfARFCNs = (GSM_CellGroup_followingARFCNs_explicitListOfARFCNs*)rtxMemHeapAlloc(ctx, sizeof(GSM_CellGroup_followingARFCNs_explicitListOfARFCNs));
+         if (pvalue->u.explicitListOfARFCNs == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "explicitListOfARFCNs", -1, 0);
+         asn1Init_UMTS_GSM_CellGroup_followingARFCNs_explicitListOfARFCNs(pvalue->u.explicitListOfARFCNs);
+         stat = asn1PD_UMTS_GSM_CellGroup_followingARFCNs_explicitListOfARFCNs(ctx, pvalue->u.explicitListOfARFCNs);
+         RT_CHECK(ctx, stat, 0, "explicitListOfARFCNs", -1, 0);
+         break;
+      case 1: /* equallySpacedARFCNs */
+         pvalue->u.equallySpacedARFCNs = (GSM_CellGroup_followingARFCNs_equallySpacedARFCNs*)rtxMemHeapAllocZ(ctx, sizeof(GSM_CellGroup_followingARFCNs_equallySpacedARFCNs));
+         if (pvalue->u.equallySpacedARFCNs == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "equallySpacedARFCNs", -1, 0);
+         stat = asn1PD_UMTS_GSM_CellGroup_followingARFCNs_equallySpacedARFCNs(ctx, pvalue->u.equallySpacedARFCNs);
+         RT_CHECK(ctx, stat, 0, "equallySpacedARFCNs", -1, 0);
+         break;
+      case 2: /* variableBitMapOfARFCNs */
+         pvalue->u.variableBitMapOfARFCNs = (GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs*)rtxMemHeapAlloc(ctx, sizeof(GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs));
+         if (pvalue->u.variableBitMapOfARFCNs == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "variableBitMapOfARFCNs", -1, 0);
+         asn1Init_UMTS_GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs(pvalue->u.variableBitMapOfARFCNs);
+         stat = asn1PD_UMTS_GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs(ctx, pvalue->u.variableBitMapOfARFCNs);
+         RT_CHECK(ctx, stat, 0, "variableBitMapOfARFCNs", -1, 0);
+         break;
+      case 3: /* continuousRangeOfARFCNs */
+         pvalue->u.continuousRangeOfARFCNs = (GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs*)rtxMemHeapAllocZ(ctx, sizeof(GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs));
+         if (pvalue->u.continuousRangeOfARFCNs == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "continuousRangeOfARFCNs", -1, 0);
+         stat = asn1PD_UMTS_GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs(ctx, pvalue->u.continuousRangeOfARFCNs);
+         RT_CHECK(ctx, stat, 0, "continuousRangeOfARFCNs", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GSM_CellGroup(rtxContext* RT_RESTRICT ctx, GSM_CellGroup* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* startingARFCN */
+   stat = pd_ConsUInt16(ctx, &pvalue->startingARFCN, 0, 1023);
+   RT_CHECK(ctx, stat, "BCCH-ARFCN", "startingARFCN", -1, "GSM-CellGroup");
+   /* bandIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->bandIndicator, 0, 1);
+   RT_CHECK(ctx, stat, 0, "bandIndicator", -1, "GSM-CellGroup");
+   /* followingARFCNs */
+   stat = asn1PD_UMTS_GSM_CellGroup_followingARFCNs(ctx, &pvalue->followingARFCNs);
+   RT_CHECK(ctx, stat, 0, "followingARFCNs", -1, "GSM-CellGroup");
+   return 0;
+}
+
+int asn1PD_UMTS_PriorityLevel_radioAccessTechnology_gsm(rtxContext* RT_RESTRICT ctx, PriorityLevel_radioAccessTechnology_gsm* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* gsm-CellGroup */
+   stat = asn1PD_UMTS_GSM_CellGroup(ctx, &pvalue->gsm_CellGroup);
+   RT_CHECK(ctx, stat, 0, "gsm-CellGroup", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PriorityLevel_radioAccessTechnology(rtxContext* RT_RESTRICT ctx, PriorityLevel_radioAccessTechnology* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* utraFDD */
+         pvalue->u.utraFDD = (PriorityLevel_radioAccessTechnology_utraFDD*)rtxMemHeapAlloc(ctx, sizeof(PriorityLevel_radioAccessTechnology_utraFDD));
+         if (pvalue->u.utraFDD == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "utraFDD", -1, 0);
+         asn1Init_UMTS_PriorityLevel_radioAccessTechnology_utraFDD(pvalue->u.utraFDD);
+         stat = asn1PD_UMTS_PriorityLevel_radioAccessTechnology_utraFDD(ctx, pvalue->u.utraFDD);
+         RT_CHECK(ctx, stat, 0, "utraFDD", -1, 0);
+         break;
+      case 1: /* utraTDD */
+         pvalue->u.utraTDD = (PriorityLevel_radioAccessTechnology_utraTDD*)rtxMemHeapAlloc(ctx, sizeof(PriorityLevel_radioAccessTechnology_utraTDD));
+         if (pvalue->u.utraTDD == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "utraTDD", -1, 0);
+         asn1Init_UMTS_PriorityLevel_radioAccessTechnology_utraTDD(pvalue->u.utraTDD);
+         stat = asn1PD_UMTS_PriorityLevel_radioAccessTechnology_utraTDD(ctx, pvalue->u.utraTDD);
+         RT_CHECK(ctx, stat, 0, "utraTDD", -1, 0);
+         break;
+      case 2: /* eutra */
+         pvalue->u.eutra = (PriorityLevel_radioAccessTechnology_eutra*)rtxMemHeapAlloc(ctx, sizeof(PriorityLevel_radioAccessTechnology_eutra));
+         if (pvalue->u.eutra == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "eutra", -1, 0);
+         asn1Init_UMTS_PriorityLevel_radioAccessTechnology_eutra(pvalue->u.eutra);
+         stat = asn1PD_UMTS_PriorityLevel_radioAccessTechnology_eutra(ctx, pvalue->u.eutra);
+         RT_CHECK(ctx, stat, 0, "eutra", -1, 0);
+         break;
+      case 3: /* gsm */
+         pvalue->u.gsm = (PriorityLevel_radioAccessTechnology_gsm*)rtxMemHeapAlloc(ctx, sizeof(PriorityLevel_radioAccessTechnology_gsm));
+         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm", -1, 0);
+         asn1Init_UMTS_PriorityLevel_radioAccessTechnology_gsm(pvalue->u.gsm);
+         stat = asn1PD_UMTS_PriorityLevel_radioAccessTechnology_gsm(ctx, pvalue->u.gsm);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PriorityLevel(rtxContext* RT_RESTRICT ctx, PriorityLevel* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PriorityLevel");
+   /* priority */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->priority, 0, 7);
+      RT_CHECK(ctx, stat, 0, "priority", -1, "PriorityLevel");
+   }
+   /* radioAccessTechnology */
+   stat = asn1PD_UMTS_PriorityLevel_radioAccessTechnology(ctx, &pvalue->radioAccessTechnology);
+   RT_CHECK(ctx, stat, 0, "radioAccessTechnology", -1, "PriorityLevel");
+   return 0;
+}
+
+int asn1PD_UMTS_PriorityLevelList(rtxContext* RT_RESTRICT ctx, PriorityLevelList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PriorityLevelList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PriorityLevel* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PriorityLevel));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PriorityLevel", (int32_t)i, "PriorityLevelList");
+      elem = (PriorityLevel*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PriorityLevel(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_PriorityLevel(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "PriorityLevel", (int32_t)i, "PriorityLevelList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DedicatedPriorityInformation_action_configureDedicatedPriorities(rtxContext* RT_RESTRICT ctx, DedicatedPriorityInformation_action_configureDedicatedPriorities* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* t-322 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->t_322, 0, 7);
+      RT_CHECK(ctx, stat, "T-322", "t-322", -1, 0);
+   }
+   /* priorityLevelList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_PriorityLevelList(ctx, &pvalue->priorityLevelList);
+      RT_CHECK(ctx, stat, 0, "priorityLevelList", -1, 0);
+   }
+   /* eutraDetection */
+   stat = rtxDecBitInline(ctx, &pvalue->eutraDetection);
+   RT_CHECK(ctx, stat, 0, "eutraDetection", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DedicatedPriorityInformation_action(rtxContext* RT_RESTRICT ctx, DedicatedPriorityInformation_action* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* clearDedicatedPriorities */
+         break;
+      case 1: /* configureDedicatedPriorities */
+         pvalue->u.configureDedicatedPriorities = (DedicatedPriorityInformation_action_configureDedicatedPriorities*)rtxMemHeapAlloc(ctx, sizeof(DedicatedPriorityInformation_action_configureDedicatedPriorities));
+         if (pvalue->u.configureDedicatedPriorities == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "configureDedicatedPriorities", -1, 0);
+         asn1Init_UMTS_DedicatedPriorityInformation_action_configureDedicatedPriorities(pvalue->u.configureDedicatedPriorities);
+         stat = asn1PD_UMTS_DedicatedPriorityInformation_action_configureDedicatedPriorities(ctx, pvalue->u.configureDedicatedPriorities);
+         RT_CHECK(ctx, stat, 0, "configureDedicatedPriorities", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DedicatedPriorityInformation(rtxContext* RT_RESTRICT ctx, DedicatedPriorityInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* action */
+   stat = asn1PD_UMTS_DedicatedPriorityInformation_action(ctx, &pvalue->action);
+   RT_CHECK(ctx, stat, 0, "action", -1, "DedicatedPriorityInformation");
+   return 0;
+}
+
+int asn1PD_UMTS_Q_Hyst_S_Fine(rtxContext* RT_RESTRICT ctx, Q_Hyst_S_Fine* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 40);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Q-Hyst-S-Fine");
+   return 0;
+}
+
+int asn1PD_UMTS_T_Reselection_S_Fine(rtxContext* RT_RESTRICT ctx, T_Reselection_S_Fine* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 31);
+   RT_CHECK(ctx, stat, 0, 0, -1, "T-Reselection-S-Fine");
+   return 0;
+}
+
+int asn1PD_UMTS_AccessStratumReleaseIndicator(rtxContext* RT_RESTRICT ctx, AccessStratumReleaseIndicator* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AccessStratumReleaseIndicator");
+   return 0;
+}
+
+int asn1PD_UMTS_ActivationTime(rtxContext* RT_RESTRICT ctx, ActivationTime* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 255);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ActivationTime");
+   return 0;
+}
+
+int asn1PD_UMTS_N_AP_RetransMax(rtxContext* RT_RESTRICT ctx, N_AP_RetransMax* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 64);
+   RT_CHECK(ctx, stat, 0, 0, -1, "N-AP-RetransMax");
+   return 0;
+}
+
+int asn1PD_UMTS_N_AccessFails(rtxContext* RT_RESTRICT ctx, N_AccessFails* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 64);
+   RT_CHECK(ctx, stat, 0, 0, -1, "N-AccessFails");
+   return 0;
+}
+
+int asn1PD_UMTS_NF_BO_NoAICH(rtxContext* RT_RESTRICT ctx, NF_BO_NoAICH* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 31);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NF-BO-NoAICH");
+   return 0;
+}
+
+int asn1PD_UMTS_NS_BO_Busy(rtxContext* RT_RESTRICT ctx, NS_BO_Busy* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 63);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NS-BO-Busy");
+   return 0;
+}
+
+int asn1PD_UMTS_NF_BO_AllBusy(rtxContext* RT_RESTRICT ctx, NF_BO_AllBusy* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 31);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NF-BO-AllBusy");
+   return 0;
+}
+
+int asn1PD_UMTS_NF_BO_Mismatch(rtxContext* RT_RESTRICT ctx, NF_BO_Mismatch* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 127);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NF-BO-Mismatch");
+   return 0;
+}
+
+int asn1PD_UMTS_T_CPCH(rtxContext* RT_RESTRICT ctx, T_CPCH* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "T-CPCH");
+   return 0;
+}
+
+int asn1PD_UMTS_BackoffControlParams(rtxContext* RT_RESTRICT ctx, BackoffControlParams* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* n-AP-RetransMax */
+   stat = pd_ConsUInt8(ctx, &pvalue->n_AP_RetransMax, 1, 64);
+   RT_CHECK(ctx, stat, "N-AP-RetransMax", "n-AP-RetransMax", -1, "BackoffControlParams");
+   /* n-AccessFails */
+   stat = pd_ConsUInt8(ctx, &pvalue->n_AccessFails, 1, 64);
+   RT_CHECK(ctx, stat, "N-AccessFails", "n-AccessFails", -1, "BackoffControlParams");
+   /* nf-BO-NoAICH */
+   stat = pd_ConsUInt8(ctx, &pvalue->nf_BO_NoAICH, 0, 31);
+   RT_CHECK(ctx, stat, "NF-BO-NoAICH", "nf-BO-NoAICH", -1, "BackoffControlParams");
+   /* ns-BO-Busy */
+   stat = pd_ConsUInt8(ctx, &pvalue->ns_BO_Busy, 0, 63);
+   RT_CHECK(ctx, stat, "NS-BO-Busy", "ns-BO-Busy", -1, "BackoffControlParams");
+   /* nf-BO-AllBusy */
+   stat = pd_ConsUInt8(ctx, &pvalue->nf_BO_AllBusy, 0, 31);
+   RT_CHECK(ctx, stat, "NF-BO-AllBusy", "nf-BO-AllBusy", -1, "BackoffControlParams");
+   /* nf-BO-Mismatch */
+   stat = pd_ConsUInt8(ctx, &pvalue->nf_BO_Mismatch, 0, 127);
+   RT_CHECK(ctx, stat, "NF-BO-Mismatch", "nf-BO-Mismatch", -1, "BackoffControlParams");
+   /* t-CPCH */
+   stat = pd_ConsUnsigned(ctx, &pvalue->t_CPCH, 0, 1);
+   RT_CHECK(ctx, stat, "T-CPCH", "t-CPCH", -1, "BackoffControlParams");
+   return 0;
+}
+
+int asn1PD_UMTS_BandComb(rtxContext* RT_RESTRICT ctx, BandComb* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt16(ctx, pvalue, 1, 256);
+   RT_CHECK(ctx, stat, 0, 0, -1, "BandComb");
+   return 0;
+}
+
+int asn1PD_UMTS_C_RNTI(rtxContext* RT_RESTRICT ctx, C_RNTI* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32(ctx, pvalue, 16, 16);
+   RT_CHECK(ctx, stat, 0, 0, -1, "C-RNTI");
+   return 0;
+}
+
+int asn1PD_UMTS_SystemSpecificCapUpdateReq(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, "SystemSpecificCapUpdateReq");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, "SystemSpecificCapUpdateReq");
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SystemSpecificCapUpdateReqList(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReqList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 4);
+      RT_CHECK(ctx, stat, 0, 0, -1, "SystemSpecificCapUpdateReqList");
+      pvalue->n = raw + 1;
+      if (raw > 15) {
+         rtxErrAddStrParm(ctx, "SystemSpecificCapUpdateReqList");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "SystemSpecificCapUpdateReqList");
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         if (stat != 0) {
+            pvalue->n = i + 1;
+            RT_FAIL(ctx, stat, "SystemSpecificCapUpdateReq", "SystemSpecificCapUpdateReq", (int32_t)i, "SystemSpecificCapUpdateReqList");
+         }
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         if (stat != 0) {
+            pvalue->n = i + 1;
+            RT_FAIL(ctx, stat, "SystemSpecificCapUpdateReq", "SystemSpecificCapUpdateReq", (int32_t)i, "SystemSpecificCapUpdateReqList");
+         }
+         pvalue->elem[i] = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CapabilityUpdateRequirement(rtxContext* RT_RESTRICT ctx, CapabilityUpdateRequirement* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CapabilityUpdateRequirement");
+   /* ue-RadioCapabilityFDDUpdateRequirement */
+   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityFDDUpdateRequirement);
+   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityFDDUpdateRequirement", -1, "CapabilityUpdateRequirement");
+   /* ue-RadioCapabilityTDDUpdateRequirement */
+   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityTDDUpdateRequirement);
+   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement", -1, "CapabilityUpdateRequirement");
+   /* systemSpecificCapUpdateReqList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SystemSpecificCapUpdateReqList(ctx, &pvalue->systemSpecificCapUpdateReqList);
+      RT_CHECK(ctx, stat, 0, "systemSpecificCapUpdateReqList", -1, "CapabilityUpdateRequirement");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CapabilityUpdateRequirement_r4_ext(rtxContext* RT_RESTRICT ctx, CapabilityUpdateRequirement_r4_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ue-RadioCapabilityUpdateRequirement-TDD128 */
+   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityUpdateRequirement_TDD128);
+   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityUpdateRequirement-TDD128", -1, "CapabilityUpdateRequirement-r4-ext");
+   return 0;
+}
+
+int asn1PD_UMTS_CapabilityUpdateRequirement_r4(rtxContext* RT_RESTRICT ctx, CapabilityUpdateRequirement_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CapabilityUpdateRequirement-r4");
+   /* ue-RadioCapabilityFDDUpdateRequirement-FDD */
+   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityFDDUpdateRequirement_FDD);
+   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityFDDUpdateRequirement-FDD", -1, "CapabilityUpdateRequirement-r4");
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD384 */
+   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD384);
+   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD384", -1, "CapabilityUpdateRequirement-r4");
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD128 */
+   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD128);
+   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD128", -1, "CapabilityUpdateRequirement-r4");
+   /* systemSpecificCapUpdateReqList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SystemSpecificCapUpdateReqList(ctx, &pvalue->systemSpecificCapUpdateReqList);
+      RT_CHECK(ctx, stat, 0, "systemSpecificCapUpdateReqList", -1, "CapabilityUpdateRequirement-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SystemSpecificCapUpdateReq_r5(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq_r5* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SystemSpecificCapUpdateReq-r5");
+   return 0;
+}
+
+int asn1PD_UMTS_SystemSpecificCapUpdateReqList_r5(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReqList_r5* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 4);
+      RT_CHECK(ctx, stat, 0, 0, -1, "SystemSpecificCapUpdateReqList-r5");
+      pvalue->n = raw + 1;
+      if (raw > 15) {
+         rtxErrAddStrParm(ctx, "SystemSpecificCapUpdateReqList-r5");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "SystemSpecificCapUpdateReqList-r5");
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 1);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, "SystemSpecificCapUpdateReq-r5", "SystemSpecificCapUpdateReq-r5", (int32_t)i, "SystemSpecificCapUpdateReqList-r5");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CapabilityUpdateRequirement_r5(rtxContext* RT_RESTRICT ctx, CapabilityUpdateRequirement_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CapabilityUpdateRequirement-r5");
+   /* ue-RadioCapabilityFDDUpdateRequirement-FDD */
+   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityFDDUpdateRequirement_FDD);
+   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityFDDUpdateRequirement-FDD", -1, "CapabilityUpdateRequirement-r5");
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD384 */
+   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD384);
+   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD384", -1, "CapabilityUpdateRequirement-r5");
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD128 */
+   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD128);
+   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD128", -1, "CapabilityUpdateRequirement-r5");
+   /* systemSpecificCapUpdateReqList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SystemSpecificCapUpdateReqList_r5(ctx, &pvalue->systemSpecificCapUpdateReqList);
+      RT_CHECK(ctx, stat, 0, "systemSpecificCapUpdateReqList", -1, "CapabilityUpdateRequirement-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CapabilityUpdateRequirement_v770ext(rtxContext* RT_RESTRICT ctx, CapabilityUpdateRequirement_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD768 */
+   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD768);
+   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD768", -1, "CapabilityUpdateRequirement-v770ext");
+   return 0;
+}
+
+int asn1PD_UMTS_CapabilityUpdateRequirement_r7(rtxContext* RT_RESTRICT ctx, CapabilityUpdateRequirement_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CapabilityUpdateRequirement-r7");
+   /* ue-RadioCapabilityFDDUpdateRequirement-FDD */
+   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityFDDUpdateRequirement_FDD);
+   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityFDDUpdateRequirement-FDD", -1, "CapabilityUpdateRequirement-r7");
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD384 */
+   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD384);
+   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD384", -1, "CapabilityUpdateRequirement-r7");
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD768 */
+   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD768);
+   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD768", -1, "CapabilityUpdateRequirement-r7");
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD128 */
+   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD128);
+   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD128", -1, "CapabilityUpdateRequirement-r7");
+   /* systemSpecificCapUpdateReqList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SystemSpecificCapUpdateReqList_r5(ctx, &pvalue->systemSpecificCapUpdateReqList);
+      RT_CHECK(ctx, stat, 0, "systemSpecificCapUpdateReqList", -1, "CapabilityUpdateRequirement-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SystemSpecificCapUpdateReq_r8(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq_r8* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SystemSpecificCapUpdateReq-r8");
+   return 0;
+}
+
+int asn1PD_UMTS_SystemSpecificCapUpdateReqList_r8(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReqList_r8* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 4);
+      RT_CHECK(ctx, stat, 0, 0, -1, "SystemSpecificCapUpdateReqList-r8");
+      pvalue->n = raw + 1;
+      if (raw > 15) {
+         rtxErrAddStrParm(ctx, "SystemSpecificCapUpdateReqList-r8");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "SystemSpecificCapUpdateReqList-r8");
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 7);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, "SystemSpecificCapUpdateReq-r8", "SystemSpecificCapUpdateReq-r8", (int32_t)i, "SystemSpecificCapUpdateReqList-r8");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CapabilityUpdateRequirement_v860ext(rtxContext* RT_RESTRICT ctx, CapabilityUpdateRequirement_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CapabilityUpdateRequirement-v860ext");
+   /* systemSpecificCapUpdateReqList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SystemSpecificCapUpdateReqList_r8(ctx, &pvalue->systemSpecificCapUpdateReqList);
+      RT_CHECK(ctx, stat, 0, "systemSpecificCapUpdateReqList", -1, "CapabilityUpdateRequirement-v860ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CapabilityUpdateRequirement_r8(rtxContext* RT_RESTRICT ctx, CapabilityUpdateRequirement_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CapabilityUpdateRequirement-r8");
+   /* ue-RadioCapabilityFDDUpdateRequirement-FDD */
+   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityFDDUpdateRequirement_FDD);
+   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityFDDUpdateRequirement-FDD", -1, "CapabilityUpdateRequirement-r8");
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD384 */
+   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD384);
+   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD384", -1, "CapabilityUpdateRequirement-r8");
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD768 */
+   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD768);
+   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD768", -1, "CapabilityUpdateRequirement-r8");
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD128 */
+   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD128);
+   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD128", -1, "CapabilityUpdateRequirement-r8");
+   /* systemSpecificCapUpdateReqList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SystemSpecificCapUpdateReqList_r8(ctx, &pvalue->systemSpecificCapUpdateReqList);
+      RT_CHECK(ctx, stat, 0, "systemSpecificCapUpdateReqList", -1, "CapabilityUpdateRequirement-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateCause(rtxContext* RT_RESTRICT ctx, CellUpdateCause* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateCause");
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateCause_ext(rtxContext* RT_RESTRICT ctx, CellUpdateCause_ext* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateCause-ext");
+   return 0;
+}
+
+int asn1PD_UMTS_ChipRateCapability(rtxContext* RT_RESTRICT ctx, ChipRateCapability* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ChipRateCapability");
+   return 0;
+}
+
+int asn1PD_UMTS_CipheringAlgorithm(rtxContext* RT_RESTRICT ctx, CipheringAlgorithm* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CipheringAlgorithm");
+   return 0;
+}
+
+int asn1PD_UMTS_CipheringAlgorithm_r7(rtxContext* RT_RESTRICT ctx, CipheringAlgorithm_r7* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CipheringAlgorithm-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_CipheringModeCommand(rtxContext* RT_RESTRICT ctx, CipheringModeCommand* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CipheringModeCommand");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* startRestart */
+         stat = pd_ConsUnsigned(ctx, &pvalue->u.startRestart, 0, 1);
+         RT_CHECK(ctx, stat, "CipheringAlgorithm", "startRestart", -1, "CipheringModeCommand");
+         break;
+      case 1: /* dummy */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CipheringModeCommand");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CipheringModeCommand_r7(rtxContext* RT_RESTRICT ctx, CipheringModeCommand_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* startRestart */
+   stat = pd_ConsUnsigned(ctx, &pvalue->startRestart, 0, 2);
+   RT_CHECK(ctx, stat, "CipheringAlgorithm-r7", "startRestart", -1, "CipheringModeCommand-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_SequenceNumber(rtxContext* RT_RESTRICT ctx, RLC_SequenceNumber* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt16(ctx, pvalue, 0, 4095);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-SequenceNumber");
+   return 0;
+}
+
+int asn1PD_UMTS_RB_ActivationTimeInfo(rtxContext* RT_RESTRICT ctx, RB_ActivationTimeInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rb-Identity */
+   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-ActivationTimeInfo");
+   /* rlc-SequenceNumber */
+   stat = pd_ConsUInt16(ctx, &pvalue->rlc_SequenceNumber, 0, 4095);
+   RT_CHECK(ctx, stat, "RLC-SequenceNumber", "rlc-SequenceNumber", -1, "RB-ActivationTimeInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_RB_ActivationTimeInfoList(rtxContext* RT_RESTRICT ctx, RB_ActivationTimeInfoList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-ActivationTimeInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_ActivationTimeInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_ActivationTimeInfo));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-ActivationTimeInfo", (int32_t)i, "RB-ActivationTimeInfoList");
+      elem = (RB_ActivationTimeInfo*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RB_ActivationTimeInfo(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RB-ActivationTimeInfo", (int32_t)i, "RB-ActivationTimeInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CipheringModeInfo(rtxContext* RT_RESTRICT ctx, CipheringModeInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CipheringModeInfo");
+   /* cipheringModeCommand */
+   stat = asn1PD_UMTS_CipheringModeCommand(ctx, &pvalue->cipheringModeCommand);
+   RT_CHECK(ctx, stat, 0, "cipheringModeCommand", -1, "CipheringModeInfo");
+   /* activationTimeForDPCH */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTimeForDPCH, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTimeForDPCH", -1, "CipheringModeInfo");
+   }
+   /* rb-DL-CiphActivationTimeInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->rb_DL_CiphActivationTimeInfo);
+      RT_CHECK(ctx, stat, 0, "rb-DL-CiphActivationTimeInfo", -1, "CipheringModeInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CipheringModeInfo_r7(rtxContext* RT_RESTRICT ctx, CipheringModeInfo_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CipheringModeInfo-r7");
+   /* cipheringModeCommand */
+   stat = asn1PD_UMTS_CipheringModeCommand_r7(ctx, &pvalue->cipheringModeCommand);
+   RT_CHECK(ctx, stat, 0, "cipheringModeCommand", -1, "CipheringModeInfo-r7");
+   /* activationTimeForDPCH */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTimeForDPCH, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTimeForDPCH", -1, "CipheringModeInfo-r7");
+   }
+   /* rb-DL-CiphActivationTimeInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->rb_DL_CiphActivationTimeInfo);
+      RT_CHECK(ctx, stat, 0, "rb-DL-CiphActivationTimeInfo", -1, "CipheringModeInfo-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IMSI_DS_41(rtxContext* RT_RESTRICT ctx, IMSI_DS_41* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 5, 7);
+   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK(ctx, stat, 0, 0, -1, "IMSI-DS-41");
+   return 0;
+}
+
+int asn1PD_UMTS_TMSI_DS_41(rtxContext* RT_RESTRICT ctx, TMSI_DS_41* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 2, 17);
+   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK(ctx, stat, 0, 0, -1, "TMSI-DS-41");
+   return 0;
+}
+
+int asn1PD_UMTS_CN_PagedUE_Identity(rtxContext* RT_RESTRICT ctx, CN_PagedUE_Identity* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CN-PagedUE-Identity");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* imsi-GSM-MAP */
+         pvalue->u.imsi_GSM_MAP = (IMSI_GSM_MAP*)rtxMemHeapAlloc(ctx, sizeof(IMSI_GSM_MAP));
+         if (pvalue->u.imsi_GSM_MAP == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "imsi-GSM-MAP", -1, "CN-PagedUE-Identity");
+         asn1Init_UMTS_IMSI_GSM_MAP(pvalue->u.imsi_GSM_MAP);
+         stat = asn1PD_UMTS_IMSI_GSM_MAP(ctx, pvalue->u.imsi_GSM_MAP);
+         RT_CHECK(ctx, stat, 0, "imsi-GSM-MAP", -1, "CN-PagedUE-Identity");
+         break;
+      case 1: /* tmsi-GSM-MAP */
+         pvalue->u.tmsi_GSM_MAP = (TMSI_GSM_MAP*)rtxMemHeapAlloc(ctx, sizeof(TMSI_GSM_MAP));
+         if (pvalue->u.tmsi_GSM_MAP == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tmsi-GSM-MAP", -1, "CN-PagedUE-Identity");
+         asn1Init_UMTS_TMSI_GSM_MAP(pvalue->u.tmsi_GSM_MAP);
+         stat = asn1PD_UMTS_TMSI_GSM_MAP(ctx, pvalue->u.tmsi_GSM_MAP);
+         RT_CHECK(ctx, stat, 0, "tmsi-GSM-MAP", -1, "CN-PagedUE-Identity");
+         break;
+      case 2: /* p-TMSI-GSM-MAP */
+         pvalue->u.p_TMSI_GSM_MAP = (P_TMSI_GSM_MAP*)rtxMemHeapAlloc(ctx, sizeof(P_TMSI_GSM_MAP));
+         if (pvalue->u.p_TMSI_GSM_MAP == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "p-TMSI-GSM-MAP", -1, "CN-PagedUE-Identity");
+         asn1Init_UMTS_P_TMSI_GSM_MAP(pvalue->u.p_TMSI_GSM_MAP);
+         stat = asn1PD_UMTS_P_TMSI_GSM_MAP(ctx, pvalue->u.p_TMSI_GSM_MAP);
+         RT_CHECK(ctx, stat, 0, "p-TMSI-GSM-MAP", -1, "CN-PagedUE-Identity");
+         break;
+      case 3: /* imsi-DS-41 */
+         pvalue->u.imsi_DS_41 = (IMSI_DS_41*)rtxMemHeapAlloc(ctx, sizeof(IMSI_DS_41));
+         if (pvalue->u.imsi_DS_41 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "imsi-DS-41", -1, "CN-PagedUE-Identity");
+         asn1Init_UMTS_IMSI_DS_41(pvalue->u.imsi_DS_41);
+         stat = asn1PD_UMTS_IMSI_DS_41(ctx, pvalue->u.imsi_DS_41);
+         RT_CHECK(ctx, stat, 0, "imsi-DS-41", -1, "CN-PagedUE-Identity");
+         break;
+      case 4: /* tmsi-DS-41 */
+         pvalue->u.tmsi_DS_41 = (TMSI_DS_41*)rtxMemHeapAlloc(ctx, sizeof(TMSI_DS_41));
+         if (pvalue->u.tmsi_DS_41 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tmsi-DS-41", -1, "CN-PagedUE-Identity");
+         asn1Init_UMTS_TMSI_DS_41(pvalue->u.tmsi_DS_41);
+         stat = asn1PD_UMTS_TMSI_DS_41(ctx, pvalue->u.tmsi_DS_41);
+         RT_CHECK(ctx, stat, 0, "tmsi-DS-41", -1, "CN-PagedUE-Identity");
+         break;
+      case 5: /* spare3 */
+         break;
+      case 6: /* spare2 */
+         break;
+      case 7: /* spare1 */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CN-PagedUE-Identity");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GSM_Measurements(rtxContext* RT_RESTRICT ctx, GSM_Measurements* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* gsm900 */
+   stat = rtxDecBitInline(ctx, &pvalue->gsm900);
+   RT_CHECK(ctx, stat, 0, "gsm900", -1, "GSM-Measurements");
+   /* dcs1800 */
+   stat = rtxDecBitInline(ctx, &pvalue->dcs1800);
+   RT_CHECK(ctx, stat, 0, "dcs1800", -1, "GSM-Measurements");
+   /* gsm1900 */
+   stat = rtxDecBitInline(ctx, &pvalue->gsm1900);
+   RT_CHECK(ctx, stat, 0, "gsm1900", -1, "GSM-Measurements");
+   return 0;
+}
+
+int asn1PD_UMTS_CompressedModeMeasCapability(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CompressedModeMeasCapability");
+   /* fdd-Measurements */
+   stat = rtxDecBitInline(ctx, &pvalue->fdd_Measurements);
+   RT_CHECK(ctx, stat, 0, "fdd-Measurements", -1, "CompressedModeMeasCapability");
+   /* tdd-Measurements */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = rtxDecBitInline(ctx, &pvalue->tdd_Measurements);
+      RT_CHECK(ctx, stat, 0, "tdd-Measurements", -1, "CompressedModeMeasCapability");
+   }
+   /* gsm-Measurements */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_GSM_Measurements(ctx, &pvalue->gsm_Measurements);
+      RT_CHECK(ctx, stat, 0, "gsm-Measurements", -1, "CompressedModeMeasCapability");
+   }
+   /* multiCarrierMeasurements */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = rtxDecBitInline(ctx, &pvalue->multiCarrierMeasurements);
+      RT_CHECK(ctx, stat, 0, "multiCarrierMeasurements", -1, "CompressedModeMeasCapability");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CompressedModeMeasCapability_LCR_r4(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CompressedModeMeasCapability-LCR-r4");
+   /* tdd128-Measurements */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = rtxDecBitInline(ctx, &pvalue->tdd128_Measurements);
+      RT_CHECK(ctx, stat, 0, "tdd128-Measurements", -1, "CompressedModeMeasCapability-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CompressedModeMeasCapability_v860ext_adjacentFrequencyMeasurements(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability_v860ext_adjacentFrequencyMeasurements* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CompressedModeMeasCapability_v860ext(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CompressedModeMeasCapability-v860ext");
+   /* adjacentFrequencyMeasurements */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "adjacentFrequencyMeasurements", -1, "CompressedModeMeasCapability-v860ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "adjacentFrequencyMeasurements", -1, "CompressedModeMeasCapability-v860ext");
+         pvalue->adjacentFrequencyMeasurements = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CompressedModeMeasCapability_v920ext_interBandMeasurements(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability_v920ext_interBandMeasurements* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CompressedModeMeasCapability_v920ext(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CompressedModeMeasCapability-v920ext");
+   /* interBandMeasurements */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "interBandMeasurements", -1, "CompressedModeMeasCapability-v920ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "interBandMeasurements", -1, "CompressedModeMeasCapability-v920ext");
+         pvalue->interBandMeasurements = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioFrequencyBandEUTRA(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandEUTRA* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 64);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioFrequencyBandEUTRA");
+   return 0;
+}
+
+int asn1PD_UMTS_CompressedModeMeasCapabEUTRA(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabEUTRA* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* radioFrequencyBandEUTRA */
+   stat = pd_ConsUInt8(ctx, &pvalue->radioFrequencyBandEUTRA, 1, 64);
+   RT_CHECK(ctx, stat, "RadioFrequencyBandEUTRA", "radioFrequencyBandEUTRA", -1, "CompressedModeMeasCapabEUTRA");
+   /* compressedMode */
+   stat = rtxDecBitInline(ctx, &pvalue->compressedMode);
+   RT_CHECK(ctx, stat, 0, "compressedMode", -1, "CompressedModeMeasCapabEUTRA");
+   return 0;
+}
+
+int asn1PD_UMTS_CompressedModeMeasCapabEUTRAList(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabEUTRAList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CompressedModeMeasCapabEUTRAList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CompressedModeMeasCapabEUTRA* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CompressedModeMeasCapabEUTRA));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CompressedModeMeasCapabEUTRA", (int32_t)i, "CompressedModeMeasCapabEUTRAList");
+      elem = (CompressedModeMeasCapabEUTRA*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_CompressedModeMeasCapabEUTRA(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "CompressedModeMeasCapabEUTRA", (int32_t)i, "CompressedModeMeasCapabEUTRAList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CompressedModeMeasCapabFDD(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabFDD* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CompressedModeMeasCapabFDD");
+   /* radioFrequencyBandFDD */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandFDD, 0, 7);
+      RT_CHECK(ctx, stat, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "CompressedModeMeasCapabFDD");
+   }
+   /* dl-MeasurementsFDD */
+   stat = rtxDecBitInline(ctx, &pvalue->dl_MeasurementsFDD);
+   RT_CHECK(ctx, stat, 0, "dl-MeasurementsFDD", -1, "CompressedModeMeasCapabFDD");
+   /* ul-MeasurementsFDD */
+   stat = rtxDecBitInline(ctx, &pvalue->ul_MeasurementsFDD);
+   RT_CHECK(ctx, stat, 0, "ul-MeasurementsFDD", -1, "CompressedModeMeasCapabFDD");
+   return 0;
+}
+
+int asn1PD_UMTS_CompressedModeMeasCapabFDDList(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabFDDList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CompressedModeMeasCapabFDDList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CompressedModeMeasCapabFDD* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CompressedModeMeasCapabFDD));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CompressedModeMeasCapabFDD", (int32_t)i, "CompressedModeMeasCapabFDDList");
+      elem = (CompressedModeMeasCapabFDD*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_CompressedModeMeasCapabFDD(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_CompressedModeMeasCapabFDD(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "CompressedModeMeasCapabFDD", (int32_t)i, "CompressedModeMeasCapabFDDList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CompressedModeMeasCapabFDD2(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabFDD2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CompressedModeMeasCapabFDD2");
+   /* radioFrequencyBandFDD */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandFDD, 0, 7);
+      RT_CHECK(ctx, stat, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "CompressedModeMeasCapabFDD2");
+   }
+   /* radioFrequencyBandFDD2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandFDD2, 0, 15);
+      RT_CHECK(ctx, stat, "RadioFrequencyBandFDD2", "radioFrequencyBandFDD2", -1, "CompressedModeMeasCapabFDD2");
+   }
+   /* dl-MeasurementsFDD */
+   stat = rtxDecBitInline(ctx, &pvalue->dl_MeasurementsFDD);
+   RT_CHECK(ctx, stat, 0, "dl-MeasurementsFDD", -1, "CompressedModeMeasCapabFDD2");
+   /* ul-MeasurementsFDD */
+   stat = rtxDecBitInline(ctx, &pvalue->ul_MeasurementsFDD);
+   RT_CHECK(ctx, stat, 0, "ul-MeasurementsFDD", -1, "CompressedModeMeasCapabFDD2");
+   return 0;
+}
+
+int asn1PD_UMTS_CompressedModeMeasCapabFDDList2(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabFDDList2* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CompressedModeMeasCapabFDDList2");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CompressedModeMeasCapabFDD2* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CompressedModeMeasCapabFDD2));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CompressedModeMeasCapabFDD2", (int32_t)i, "CompressedModeMeasCapabFDDList2");
+      elem = (CompressedModeMeasCapabFDD2*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_CompressedModeMeasCapabFDD2(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_CompressedModeMeasCapabFDD2(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "CompressedModeMeasCapabFDD2", (int32_t)i, "CompressedModeMeasCapabFDDList2");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CompressedModeMeasCapabFDD_ext(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabFDD_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* radioFrequencyBandFDD2 */
+   stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandFDD2, 0, 15);
+   RT_CHECK(ctx, stat, "RadioFrequencyBandFDD2", "radioFrequencyBandFDD2", -1, "CompressedModeMeasCapabFDD-ext");
+   /* dl-MeasurementsFDD */
+   stat = rtxDecBitInline(ctx, &pvalue->dl_MeasurementsFDD);
+   RT_CHECK(ctx, stat, 0, "dl-MeasurementsFDD", -1, "CompressedModeMeasCapabFDD-ext");
+   /* ul-MeasurementsFDD */
+   stat = rtxDecBitInline(ctx, &pvalue->ul_MeasurementsFDD);
+   RT_CHECK(ctx, stat, 0, "ul-MeasurementsFDD", -1, "CompressedModeMeasCapabFDD-ext");
+   return 0;
+}
+
+int asn1PD_UMTS_CompressedModeMeasCapabFDDList_ext(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabFDDList_ext* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CompressedModeMeasCapabFDDList-ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CompressedModeMeasCapabFDD_ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CompressedModeMeasCapabFDD_ext));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CompressedModeMeasCapabFDD-ext", (int32_t)i, "CompressedModeMeasCapabFDDList-ext");
+      elem = (CompressedModeMeasCapabFDD_ext*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_CompressedModeMeasCapabFDD_ext(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "CompressedModeMeasCapabFDD-ext", (int32_t)i, "CompressedModeMeasCapabFDDList-ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioFrequencyBandTDD(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDD* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioFrequencyBandTDD");
+   return 0;
+}
+
+int asn1PD_UMTS_CompressedModeMeasCapabTDD(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabTDD* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* radioFrequencyBandTDD */
+   stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandTDD, 0, 3);
+   RT_CHECK(ctx, stat, "RadioFrequencyBandTDD", "radioFrequencyBandTDD", -1, "CompressedModeMeasCapabTDD");
+   /* dl-MeasurementsTDD */
+   stat = rtxDecBitInline(ctx, &pvalue->dl_MeasurementsTDD);
+   RT_CHECK(ctx, stat, 0, "dl-MeasurementsTDD", -1, "CompressedModeMeasCapabTDD");
+   /* ul-MeasurementsTDD */
+   stat = rtxDecBitInline(ctx, &pvalue->ul_MeasurementsTDD);
+   RT_CHECK(ctx, stat, 0, "ul-MeasurementsTDD", -1, "CompressedModeMeasCapabTDD");
+   return 0;
+}
+
+int asn1PD_UMTS_CompressedModeMeasCapabTDDList(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabTDDList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CompressedModeMeasCapabTDDList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CompressedModeMeasCapabTDD* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CompressedModeMeasCapabTDD));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CompressedModeMeasCapabTDD", (int32_t)i, "CompressedModeMeasCapabTDDList");
+      elem = (CompressedModeMeasCapabTDD*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_CompressedModeMeasCapabTDD(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "CompressedModeMeasCapabTDD", (int32_t)i, "CompressedModeMeasCapabTDDList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioFrequencyBandGSM(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandGSM* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioFrequencyBandGSM");
+   return 0;
+}
+
+int asn1PD_UMTS_CompressedModeMeasCapabGSM(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabGSM* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* radioFrequencyBandGSM */
+   stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandGSM, 0, 15);
+   RT_CHECK(ctx, stat, "RadioFrequencyBandGSM", "radioFrequencyBandGSM", -1, "CompressedModeMeasCapabGSM");
+   /* dl-MeasurementsGSM */
+   stat = rtxDecBitInline(ctx, &pvalue->dl_MeasurementsGSM);
+   RT_CHECK(ctx, stat, 0, "dl-MeasurementsGSM", -1, "CompressedModeMeasCapabGSM");
+   /* ul-MeasurementsGSM */
+   stat = rtxDecBitInline(ctx, &pvalue->ul_MeasurementsGSM);
+   RT_CHECK(ctx, stat, 0, "ul-MeasurementsGSM", -1, "CompressedModeMeasCapabGSM");
+   return 0;
+}
+
+int asn1PD_UMTS_CompressedModeMeasCapabGSMList(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabGSMList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CompressedModeMeasCapabGSMList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CompressedModeMeasCapabGSM* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CompressedModeMeasCapabGSM));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CompressedModeMeasCapabGSM", (int32_t)i, "CompressedModeMeasCapabGSMList");
+      elem = (CompressedModeMeasCapabGSM*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_CompressedModeMeasCapabGSM(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "CompressedModeMeasCapabGSM", (int32_t)i, "CompressedModeMeasCapabGSMList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CompressedModeMeasCapabMC(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapabMC* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* dl-MeasurementsMC */
+   stat = rtxDecBitInline(ctx, &pvalue->dl_MeasurementsMC);
+   RT_CHECK(ctx, stat, 0, "dl-MeasurementsMC", -1, "CompressedModeMeasCapabMC");
+   /* ul-MeasurementsMC */
+   stat = rtxDecBitInline(ctx, &pvalue->ul_MeasurementsMC);
+   RT_CHECK(ctx, stat, 0, "ul-MeasurementsMC", -1, "CompressedModeMeasCapabMC");
+   return 0;
+}
+
+int asn1PD_UMTS_NS_IP(rtxContext* RT_RESTRICT ctx, NS_IP* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 28);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NS-IP");
+   return 0;
+}
+
+int asn1PD_UMTS_InitialPriorityDelayList(rtxContext* RT_RESTRICT ctx, InitialPriorityDelayList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 3);
+      RT_CHECK(ctx, stat, 0, 0, -1, "InitialPriorityDelayList");
+      pvalue->n = raw + 1;
+      if (raw > 7) {
+         rtxErrAddStrParm(ctx, "InitialPriorityDelayList");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "InitialPriorityDelayList");
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 28);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, "NS-IP", "NS-IP", (int32_t)i, "InitialPriorityDelayList");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCCH_BER(rtxContext* RT_RESTRICT ctx, DL_DPCCH_BER* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 63);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-DPCCH-BER");
+   return 0;
+}
+
+int asn1PD_UMTS_CPCH_Parameters(rtxContext* RT_RESTRICT ctx, CPCH_Parameters* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CPCH-Parameters");
+   /* initialPriorityDelayList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InitialPriorityDelayList(ctx, &pvalue->initialPriorityDelayList);
+      RT_CHECK(ctx, stat, 0, "initialPriorityDelayList", -1, "CPCH-Parameters");
+   }
+   /* backoffControlParams */
+   stat = asn1PD_UMTS_BackoffControlParams(ctx, &pvalue->backoffControlParams);
+   RT_CHECK(ctx, stat, 0, "backoffControlParams", -1, "CPCH-Parameters");
+   /* powerControlAlgorithm */
+   stat = asn1PD_UMTS_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm);
+   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, "CPCH-Parameters");
+   /* dl-DPCCH-BER */
+   stat = pd_ConsUInt8(ctx, &pvalue->dl_DPCCH_BER, 0, 63);
+   RT_CHECK(ctx, stat, "DL-DPCCH-BER", "dl-DPCCH-BER", -1, "CPCH-Parameters");
+   return 0;
+}
+
+int asn1PD_UMTS_CSG_ProximityIndicationCapability_supportOfIntraFreqProximityIndication(rtxContext* RT_RESTRICT ctx, CSG_ProximityIndicationCapability_supportOfIntraFreqProximityIndication* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CSG_ProximityIndicationCapability_supportOfInterFreqProximityIndication(rtxContext* RT_RESTRICT ctx, CSG_ProximityIndicationCapability_supportOfInterFreqProximityIndication* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CSG_ProximityIndicationCapability_supportOfE_UtraProximityIndication(rtxContext* RT_RESTRICT ctx, CSG_ProximityIndicationCapability_supportOfE_UtraProximityIndication* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CSG_ProximityIndicationCapability(rtxContext* RT_RESTRICT ctx, CSG_ProximityIndicationCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CSG-ProximityIndicationCapability");
+   /* supportOfIntraFreqProximityIndication */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportOfIntraFreqProximityIndication", -1, "CSG-ProximityIndicationCapability");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportOfIntraFreqProximityIndication", -1, "CSG-ProximityIndicationCapability");
+         pvalue->supportOfIntraFreqProximityIndication = ui;
+      }
+   }
+   /* supportOfInterFreqProximityIndication */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportOfInterFreqProximityIndication", -1, "CSG-ProximityIndicationCapability");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportOfInterFreqProximityIndication", -1, "CSG-ProximityIndicationCapability");
+         pvalue->supportOfInterFreqProximityIndication = ui;
+      }
+   }
+   /* supportOfE-UtraProximityIndication */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportOfE-UtraProximityIndication", -1, "CSG-ProximityIndicationCapability");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportOfE-UtraProximityIndication", -1, "CSG-ProximityIndicationCapability");
+         pvalue->supportOfE_UtraProximityIndication = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CapabilityWithSimultaneousHS_DSCHConfig(rtxContext* RT_RESTRICT ctx, DL_CapabilityWithSimultaneousHS_DSCHConfig* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CapabilityWithSimultaneousHS-DSCHConfig");
+   return 0;
+}
+
+int asn1PD_UMTS_DPCH_FrameOffset(rtxContext* RT_RESTRICT ctx, DPCH_FrameOffset* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 149);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DPCH-FrameOffset");
+   return 0;
+}
+
+int asn1PD_UMTS_FDPCH_SlotFormat(rtxContext* RT_RESTRICT ctx, FDPCH_SlotFormat* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 9);
+   RT_CHECK(ctx, stat, 0, 0, -1, "FDPCH-SlotFormat");
+   return 0;
+}
+
+int asn1PD_UMTS_TPC_CombinationIndex(rtxContext* RT_RESTRICT ctx, TPC_CombinationIndex* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TPC-CombinationIndex");
+   return 0;
+}
+
+int asn1PD_UMTS_STTDIndication(rtxContext* RT_RESTRICT ctx, STTDIndication* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, "STTDIndication");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, "STTDIndication");
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_FDPCH_InfoPerRL_r7(rtxContext* RT_RESTRICT ctx, DL_FDPCH_InfoPerRL_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-FDPCH-InfoPerRL-r7");
+   /* pCPICH-UsageForChannelEst */
+   stat = pd_ConsUnsigned(ctx, &pvalue->pCPICH_UsageForChannelEst, 0, 1);
+   RT_CHECK(ctx, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, "DL-FDPCH-InfoPerRL-r7");
+   /* fdpch-FrameOffset */
+   stat = pd_ConsUInt8(ctx, &pvalue->fdpch_FrameOffset, 0, 149);
+   RT_CHECK(ctx, stat, "DPCH-FrameOffset", "fdpch-FrameOffset", -1, "DL-FDPCH-InfoPerRL-r7");
+   /* fdpch-SlotFormat */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->fdpch_SlotFormat, 0, 9);
+      RT_CHECK(ctx, stat, "FDPCH-SlotFormat", "fdpch-SlotFormat", -1, "DL-FDPCH-InfoPerRL-r7");
+   }
+   /* secondaryCPICH-Info */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SecondaryCPICH_Info(ctx, &pvalue->secondaryCPICH_Info);
+      RT_CHECK(ctx, stat, 0, "secondaryCPICH-Info", -1, "DL-FDPCH-InfoPerRL-r7");
+   }
+   /* secondaryScramblingCode */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->secondaryScramblingCode, 1, 15);
+      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, "DL-FDPCH-InfoPerRL-r7");
+   }
+   /* dl-ChannelisationCode */
+   stat = pd_ConsUInt8(ctx, &pvalue->dl_ChannelisationCode, 0, 255);
+   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCode", -1, "DL-FDPCH-InfoPerRL-r7");
+   /* tpc-CombinationIndex */
+   stat = pd_ConsUInt8(ctx, &pvalue->tpc_CombinationIndex, 0, 5);
+   RT_CHECK(ctx, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, "DL-FDPCH-InfoPerRL-r7");
+   /* sttdIndication */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "STTDIndication", "sttdIndication", -1, "DL-FDPCH-InfoPerRL-r7");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "STTDIndication", "sttdIndication", -1, "DL-FDPCH-InfoPerRL-r7");
+         pvalue->sttdIndication = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerSecondaryRL_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, DL_InformationPerSecondaryRL_e_RGCH_Info* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* e-RGCH-Information */
+         pvalue->u.e_RGCH_Information = (E_RGCH_Information*)rtxMemHeapAllocZ(ctx, sizeof(E_RGCH_Information));
+         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e-RGCH-Information", -1, 0);
+         stat = asn1PD_UMTS_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information);
+         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
+         break;
+      case 1: /* releaseIndicator */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerSecondaryRL(rtxContext* RT_RESTRICT ctx, DL_InformationPerSecondaryRL* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerSecondaryRL");
+   /* primaryCPICH-Info */
+   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "DL-InformationPerSecondaryRL");
+   /* cell-id */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellIdentity(ctx, &pvalue->cell_id);
+      RT_CHECK(ctx, stat, 0, "cell-id", -1, "DL-InformationPerSecondaryRL");
+   }
+   /* dl-FDPCHInfoPerRL-SecULFreq */
+   stat = asn1PD_UMTS_DL_FDPCH_InfoPerRL_r7(ctx, &pvalue->dl_FDPCHInfoPerRL_SecULFreq);
+   RT_CHECK(ctx, stat, 0, "dl-FDPCHInfoPerRL-SecULFreq", -1, "DL-InformationPerSecondaryRL");
+   /* e-AGCH-Information */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_E_AGCH_Information(ctx, &pvalue->e_AGCH_Information);
+      RT_CHECK(ctx, stat, 0, "e-AGCH-Information", -1, "DL-InformationPerSecondaryRL");
+   }
+   /* e-HICH-Information */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_E_HICH_Information(ctx, &pvalue->e_HICH_Information);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "DL-InformationPerSecondaryRL");
+   }
+   /* e-RGCH-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_DL_InformationPerSecondaryRL_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, "DL-InformationPerSecondaryRL");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerSecondaryRL_List(rtxContext* RT_RESTRICT ctx, DL_InformationPerSecondaryRL_List* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerSecondaryRL-List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_InformationPerSecondaryRL* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_InformationPerSecondaryRL));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-InformationPerSecondaryRL", (int32_t)i, "DL-InformationPerSecondaryRL-List");
+      elem = (DL_InformationPerSecondaryRL*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_InformationPerSecondaryRL(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_DL_InformationPerSecondaryRL(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "DL-InformationPerSecondaryRL", (int32_t)i, "DL-InformationPerSecondaryRL-List");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MaxNoPhysChBitsReceived(rtxContext* RT_RESTRICT ctx, MaxNoPhysChBitsReceived* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 14);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxNoPhysChBitsReceived");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxNoSCCPCH_RL(rtxContext* RT_RESTRICT ctx, MaxNoSCCPCH_RL* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, "MaxNoSCCPCH-RL");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, "MaxNoSCCPCH-RL");
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SimultaneousSCCPCH_DPCH_Reception_supported(rtxContext* RT_RESTRICT ctx, SimultaneousSCCPCH_DPCH_Reception_supported* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* maxNoSCCPCH-RL */
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, "MaxNoSCCPCH-RL", "maxNoSCCPCH-RL", -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, "MaxNoSCCPCH-RL", "maxNoSCCPCH-RL", -1, 0);
+      pvalue->maxNoSCCPCH_RL = ui;
+   }
+   /* simultaneousSCCPCH-DPCH-DPDCH-Reception */
+   stat = rtxDecBitInline(ctx, &pvalue->simultaneousSCCPCH_DPCH_DPDCH_Reception);
+   RT_CHECK(ctx, stat, 0, "simultaneousSCCPCH-DPCH-DPDCH-Reception", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SimultaneousSCCPCH_DPCH_Reception(rtxContext* RT_RESTRICT ctx, SimultaneousSCCPCH_DPCH_Reception* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SimultaneousSCCPCH-DPCH-Reception");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* notSupported */
+         break;
+      case 1: /* supported */
+         pvalue->u.supported = (SimultaneousSCCPCH_DPCH_Reception_supported*)rtxMemHeapAllocZ(ctx, sizeof(SimultaneousSCCPCH_DPCH_Reception_supported));
+         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "supported", -1, "SimultaneousSCCPCH-DPCH-Reception");
+         stat = asn1PD_UMTS_SimultaneousSCCPCH_DPCH_Reception_supported(ctx, pvalue->u.supported);
+         RT_CHECK(ctx, stat, 0, "supported", -1, "SimultaneousSCCPCH-DPCH-Reception");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SimultaneousSCCPCH-DPCH-Reception");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityFDD(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* maxNoDPCH-PDSCH-Codes */
+   stat = pd_ConsUInt8(ctx, &pvalue->maxNoDPCH_PDSCH_Codes, 1, 8);
+   RT_CHECK(ctx, stat, 0, "maxNoDPCH-PDSCH-Codes", -1, "DL-PhysChCapabilityFDD");
+   /* maxNoPhysChBitsReceived */
+   stat = pd_ConsUnsigned(ctx, &pvalue->maxNoPhysChBitsReceived, 0, 14);
+   RT_CHECK(ctx, stat, "MaxNoPhysChBitsReceived", "maxNoPhysChBitsReceived", -1, "DL-PhysChCapabilityFDD");
+   /* supportForSF-512 */
+   stat = rtxDecBitInline(ctx, &pvalue->supportForSF_512);
+   RT_CHECK(ctx, stat, 0, "supportForSF-512", -1, "DL-PhysChCapabilityFDD");
+   /* dummy */
+   stat = rtxDecBitInline(ctx, &pvalue->dummy);
+   RT_CHECK(ctx, stat, 0, "dummy", -1, "DL-PhysChCapabilityFDD");
+   /* dummy2 */
+   stat = asn1PD_UMTS_SimultaneousSCCPCH_DPCH_Reception(ctx, &pvalue->dummy2);
+   RT_CHECK(ctx, stat, 0, "dummy2", -1, "DL-PhysChCapabilityFDD");
+   return 0;
+}
+
+int asn1PD_UMTS_SupportOfDedicatedPilotsForChEstimation(rtxContext* RT_RESTRICT ctx, SupportOfDedicatedPilotsForChEstimation* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, "SupportOfDedicatedPilotsForChEstimation");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, "SupportOfDedicatedPilotsForChEstimation");
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityFDD_v380ext(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v380ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-PhysChCapabilityFDD-v380ext");
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "SupportOfDedicatedPilotsForChEstimation", "dummy", -1, "DL-PhysChCapabilityFDD-v380ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "SupportOfDedicatedPilotsForChEstimation", "dummy", -1, "DL-PhysChCapabilityFDD-v380ext");
+         pvalue->dummy = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HSDSCH_physical_layer_category_ext(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_ext* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 20);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HSDSCH-physical-layer-category-ext");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityFDD_v770ext_hsscchlessHsdschOperation(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_hsscchlessHsdschOperation* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityFDD_v770ext_enhancedFdpch(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_enhancedFdpch* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellFach(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellFach* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellUraPch(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellUraPch* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityFDD_v770ext(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-PhysChCapabilityFDD-v770ext");
+   /* hsdsch-physical-layer-category-ext */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->hsdsch_physical_layer_category_ext, 1, 20);
+      RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category-ext", "hsdsch-physical-layer-category-ext", -1, "DL-PhysChCapabilityFDD-v770ext");
+   }
+   /* hsscchlessHsdschOperation */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "hsscchlessHsdschOperation", -1, "DL-PhysChCapabilityFDD-v770ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "hsscchlessHsdschOperation", -1, "DL-PhysChCapabilityFDD-v770ext");
+         pvalue->hsscchlessHsdschOperation = ui;
+      }
+   }
+   /* enhancedFdpch */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "enhancedFdpch", -1, "DL-PhysChCapabilityFDD-v770ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "enhancedFdpch", -1, "DL-PhysChCapabilityFDD-v770ext");
+         pvalue->enhancedFdpch = ui;
+      }
+   }
+   /* hsdschReception-CellFach */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "hsdschReception-CellFach", -1, "DL-PhysChCapabilityFDD-v770ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "hsdschReception-CellFach", -1, "DL-PhysChCapabilityFDD-v770ext");
+         pvalue->hsdschReception_CellFach = ui;
+      }
+   }
+   /* hsdschReception-CellUraPch */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "hsdschReception-CellUraPch", -1, "DL-PhysChCapabilityFDD-v770ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "hsdschReception-CellUraPch", -1, "DL-PhysChCapabilityFDD-v770ext");
+         pvalue->hsdschReception_CellUraPch = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HSDSCH_physical_layer_category_ext2(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_ext2* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 21, 24);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HSDSCH-physical-layer-category-ext2");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityFDD_v860ext_supportOfTargetCellPreConfig(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v860ext_supportOfTargetCellPreConfig* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityFDD_v860ext_supportOfHsdschDrxOperation(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v860ext_supportOfHsdschDrxOperation* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityFDD_v860ext(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-PhysChCapabilityFDD-v860ext");
+   /* hsdsch-physical-layer-category-ext2 */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->hsdsch_physical_layer_category_ext2, 21, 24);
+      RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category-ext2", "hsdsch-physical-layer-category-ext2", -1, "DL-PhysChCapabilityFDD-v860ext");
+   }
+   /* supportOfTargetCellPreConfig */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportOfTargetCellPreConfig", -1, "DL-PhysChCapabilityFDD-v860ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportOfTargetCellPreConfig", -1, "DL-PhysChCapabilityFDD-v860ext");
+         pvalue->supportOfTargetCellPreConfig = ui;
+      }
+   }
+   /* supportOfHsdschDrxOperation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportOfHsdschDrxOperation", -1, "DL-PhysChCapabilityFDD-v860ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportOfHsdschDrxOperation", -1, "DL-PhysChCapabilityFDD-v860ext");
+         pvalue->supportOfHsdschDrxOperation = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HSDSCH_physical_layer_category_ext3(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_ext3* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 25, 28);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HSDSCH-physical-layer-category-ext3");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityFDD_v920ext_supportOfMimoOnlySingleStream(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v920ext_supportOfMimoOnlySingleStream* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityFDD_v920ext(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-PhysChCapabilityFDD-v920ext");
+   /* hsdsch-physical-layer-category-ext3 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->hsdsch_physical_layer_category_ext3, 25, 28);
+      RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category-ext3", "hsdsch-physical-layer-category-ext3", -1, "DL-PhysChCapabilityFDD-v920ext");
+   }
+   /* supportOfMimoOnlySingleStream */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportOfMimoOnlySingleStream", -1, "DL-PhysChCapabilityFDD-v920ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportOfMimoOnlySingleStream", -1, "DL-PhysChCapabilityFDD-v920ext");
+         pvalue->supportOfMimoOnlySingleStream = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MaxTS_PerFrame(rtxContext* RT_RESTRICT ctx, MaxTS_PerFrame* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 14);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxTS-PerFrame");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxPhysChPerFrame(rtxContext* RT_RESTRICT ctx, MaxPhysChPerFrame* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 224);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxPhysChPerFrame");
+   return 0;
+}
+
+int asn1PD_UMTS_MinimumSF_DL(rtxContext* RT_RESTRICT ctx, MinimumSF_DL* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MinimumSF-DL");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxPhysChPerTS(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTS* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 16);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxPhysChPerTS");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityTDD(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* maxTS-PerFrame */
+   stat = pd_ConsUInt8(ctx, &pvalue->maxTS_PerFrame, 1, 14);
+   RT_CHECK(ctx, stat, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "DL-PhysChCapabilityTDD");
+   /* maxPhysChPerFrame */
+   stat = pd_ConsUInt8(ctx, &pvalue->maxPhysChPerFrame, 1, 224);
+   RT_CHECK(ctx, stat, "MaxPhysChPerFrame", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityTDD");
+   /* minimumSF */
+   stat = pd_ConsUnsigned(ctx, &pvalue->minimumSF, 0, 1);
+   RT_CHECK(ctx, stat, "MinimumSF-DL", "minimumSF", -1, "DL-PhysChCapabilityTDD");
+   /* supportOfPDSCH */
+   stat = rtxDecBitInline(ctx, &pvalue->supportOfPDSCH);
+   RT_CHECK(ctx, stat, 0, "supportOfPDSCH", -1, "DL-PhysChCapabilityTDD");
+   /* maxPhysChPerTS */
+   stat = pd_ConsUInt8(ctx, &pvalue->maxPhysChPerTS, 1, 16);
+   RT_CHECK(ctx, stat, "MaxPhysChPerTS", "maxPhysChPerTS", -1, "DL-PhysChCapabilityTDD");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxTS_PerSubFrame_r4(rtxContext* RT_RESTRICT ctx, MaxTS_PerSubFrame_r4* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxTS-PerSubFrame-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxPhysChPerSubFrame_r4(rtxContext* RT_RESTRICT ctx, MaxPhysChPerSubFrame_r4* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 96);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxPhysChPerSubFrame-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* maxTS-PerSubFrame */
+   stat = pd_ConsUInt8(ctx, &pvalue->maxTS_PerSubFrame, 1, 6);
+   RT_CHECK(ctx, stat, "MaxTS-PerSubFrame-r4", "maxTS-PerSubFrame", -1, "DL-PhysChCapabilityTDD-LCR-r4");
+   /* maxPhysChPerFrame */
+   stat = pd_ConsUInt8(ctx, &pvalue->maxPhysChPerFrame, 1, 96);
+   RT_CHECK(ctx, stat, "MaxPhysChPerSubFrame-r4", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityTDD-LCR-r4");
+   /* minimumSF */
+   stat = pd_ConsUnsigned(ctx, &pvalue->minimumSF, 0, 1);
+   RT_CHECK(ctx, stat, "MinimumSF-DL", "minimumSF", -1, "DL-PhysChCapabilityTDD-LCR-r4");
+   /* supportOfPDSCH */
+   stat = rtxDecBitInline(ctx, &pvalue->supportOfPDSCH);
+   RT_CHECK(ctx, stat, 0, "supportOfPDSCH", -1, "DL-PhysChCapabilityTDD-LCR-r4");
+   /* maxPhysChPerTS */
+   stat = pd_ConsUInt8(ctx, &pvalue->maxPhysChPerTS, 1, 16);
+   RT_CHECK(ctx, stat, "MaxPhysChPerTS", "maxPhysChPerTS", -1, "DL-PhysChCapabilityTDD-LCR-r4");
+   /* supportOf8PSK */
+   stat = rtxDecBitInline(ctx, &pvalue->supportOf8PSK);
+   RT_CHECK(ctx, stat, 0, "supportOf8PSK", -1, "DL-PhysChCapabilityTDD-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_MultiCarrier_HSDSCH_physical_layer_category(rtxContext* RT_RESTRICT ctx, MultiCarrier_HSDSCH_physical_layer_category* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 64);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MultiCarrier-HSDSCH-physical-layer-category");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityTDD_128_v770ext(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_128_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-PhysChCapabilityTDD-128-v770ext");
+   /* multiCarrier-physical-layer-category */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->multiCarrier_physical_layer_category, 1, 64);
+      RT_CHECK(ctx, stat, "MultiCarrier-HSDSCH-physical-layer-category", "multiCarrier-physical-layer-category", -1, "DL-PhysChCapabilityTDD-128-v770ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HSDSCH_physical_layer_category_extension(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_extension* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 64);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HSDSCH-physical-layer-category-extension");
+   return 0;
+}
+
+int asn1PD_UMTS_MultiCarrier_HSDSCH_physical_layer_category_extension(rtxContext* RT_RESTRICT ctx, MultiCarrier_HSDSCH_physical_layer_category_extension* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 36);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MultiCarrier-HSDSCH-physical-layer-category-extension");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityTDD_128_v860ext_supportOfSFModeForHSPDSCHDualStream(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_128_v860ext_supportOfSFModeForHSPDSCHDualStream* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityTDD_128_v860ext(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_128_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-PhysChCapabilityTDD-128-v860ext");
+   /* hSDSCH-physical-layer-category-extension */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->hSDSCH_physical_layer_category_extension, 1, 64);
+      RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category-extension", "hSDSCH-physical-layer-category-extension", -1, "DL-PhysChCapabilityTDD-128-v860ext");
+   }
+   /* multiCarrier-physical-layer-category-extension */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->multiCarrier_physical_layer_category_extension, 1, 36);
+      RT_CHECK(ctx, stat, "MultiCarrier-HSDSCH-physical-layer-category-extension", "multiCarrier-physical-layer-category-extension", -1, "DL-PhysChCapabilityTDD-128-v860ext");
+   }
+   /* supportOfSFModeForHSPDSCHDualStream */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->supportOfSFModeForHSPDSCHDualStream, 0, 1);
+      RT_CHECK(ctx, stat, 0, "supportOfSFModeForHSPDSCHDualStream", -1, "DL-PhysChCapabilityTDD-128-v860ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MaxPhysChPerFrame_768(rtxContext* RT_RESTRICT ctx, MaxPhysChPerFrame_768* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt16(ctx, pvalue, 1, 448);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxPhysChPerFrame-768");
+   return 0;
+}
+
+int asn1PD_UMTS_MinimumSF_DL_768(rtxContext* RT_RESTRICT ctx, MinimumSF_DL_768* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MinimumSF-DL-768");
+   return 0;
+}
+
+int asn1PD_UMTS_HSDSCH_physical_layer_category(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 64);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HSDSCH-physical-layer-category");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityTDD_768_tdd768_hspdsch(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_768_tdd768_hspdsch* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* supported */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.supported, 1, 64);
+         RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category", "supported", -1, 0);
+         break;
+      case 1: /* unsupported */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MaxPhysChPerTS_768(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTS_768* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxPhysChPerTS-768");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityTDD_768(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* maxTS-PerFrame */
+   stat = pd_ConsUInt8(ctx, &pvalue->maxTS_PerFrame, 1, 14);
+   RT_CHECK(ctx, stat, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "DL-PhysChCapabilityTDD-768");
+   /* maxPhysChPerFrame */
+   stat = pd_ConsUInt16(ctx, &pvalue->maxPhysChPerFrame, 1, 448);
+   RT_CHECK(ctx, stat, "MaxPhysChPerFrame-768", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityTDD-768");
+   /* minimumSF */
+   stat = pd_ConsUnsigned(ctx, &pvalue->minimumSF, 0, 1);
+   RT_CHECK(ctx, stat, "MinimumSF-DL-768", "minimumSF", -1, "DL-PhysChCapabilityTDD-768");
+   /* supportOfPDSCH */
+   stat = rtxDecBitInline(ctx, &pvalue->supportOfPDSCH);
+   RT_CHECK(ctx, stat, 0, "supportOfPDSCH", -1, "DL-PhysChCapabilityTDD-768");
+   /* tdd768-hspdsch */
+   stat = asn1PD_UMTS_DL_PhysChCapabilityTDD_768_tdd768_hspdsch(ctx, &pvalue->tdd768_hspdsch);
+   RT_CHECK(ctx, stat, 0, "tdd768-hspdsch", -1, "DL-PhysChCapabilityTDD-768");
+   /* maxPhysChPerTS */
+   stat = pd_ConsUInt8(ctx, &pvalue->maxPhysChPerTS, 1, 32);
+   RT_CHECK(ctx, stat, "MaxPhysChPerTS-768", "maxPhysChPerTS", -1, "DL-PhysChCapabilityTDD-768");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityInfoTDD_768(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityInfoTDD_768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* maxTS-PerFrame */
+   stat = pd_ConsUInt8(ctx, &pvalue->maxTS_PerFrame, 1, 14);
+   RT_CHECK(ctx, stat, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "DL-PhysChCapabilityInfoTDD-768");
+   /* maxPhysChPerFrame */
+   stat = pd_ConsUInt16(ctx, &pvalue->maxPhysChPerFrame, 1, 448);
+   RT_CHECK(ctx, stat, "MaxPhysChPerFrame-768", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityInfoTDD-768");
+   /* minimumSF */
+   stat = pd_ConsUnsigned(ctx, &pvalue->minimumSF, 0, 1);
+   RT_CHECK(ctx, stat, "MinimumSF-DL-768", "minimumSF", -1, "DL-PhysChCapabilityInfoTDD-768");
+   /* supportOfPDSCH */
+   stat = rtxDecBitInline(ctx, &pvalue->supportOfPDSCH);
+   RT_CHECK(ctx, stat, 0, "supportOfPDSCH", -1, "DL-PhysChCapabilityInfoTDD-768");
+   /* maxPhysChPerTS */
+   stat = pd_ConsUInt8(ctx, &pvalue->maxPhysChPerTS, 1, 32);
+   RT_CHECK(ctx, stat, "MaxPhysChPerTS-768", "maxPhysChPerTS", -1, "DL-PhysChCapabilityInfoTDD-768");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxNoBits(rtxContext* RT_RESTRICT ctx, MaxNoBits* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 12);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxNoBits");
+   return 0;
+}
+
+int asn1PD_UMTS_TurboSupport(rtxContext* RT_RESTRICT ctx, TurboSupport* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TurboSupport");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* notSupported */
+         break;
+      case 1: /* supported */
+         stat = pd_ConsUnsigned(ctx, &pvalue->u.supported, 0, 12);
+         RT_CHECK(ctx, stat, "MaxNoBits", "supported", -1, "TurboSupport");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TurboSupport");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MaxSimultaneousTransChsDL(rtxContext* RT_RESTRICT ctx, MaxSimultaneousTransChsDL* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxSimultaneousTransChsDL");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxSimultaneousCCTrCH_Count(rtxContext* RT_RESTRICT ctx, MaxSimultaneousCCTrCH_Count* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxSimultaneousCCTrCH-Count");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxTransportBlocksDL(rtxContext* RT_RESTRICT ctx, MaxTransportBlocksDL* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 9);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxTransportBlocksDL");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxNumberOfTFC_DL(rtxContext* RT_RESTRICT ctx, MaxNumberOfTFC_DL* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxNumberOfTFC-DL");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxNumberOfTF(rtxContext* RT_RESTRICT ctx, MaxNumberOfTF* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxNumberOfTF");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_TransChCapability(rtxContext* RT_RESTRICT ctx, DL_TransChCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* maxNoBitsReceived */
+   stat = pd_ConsUnsigned(ctx, &pvalue->maxNoBitsReceived, 0, 12);
+   RT_CHECK(ctx, stat, "MaxNoBits", "maxNoBitsReceived", -1, "DL-TransChCapability");
+   /* maxConvCodeBitsReceived */
+   stat = pd_ConsUnsigned(ctx, &pvalue->maxConvCodeBitsReceived, 0, 12);
+   RT_CHECK(ctx, stat, "MaxNoBits", "maxConvCodeBitsReceived", -1, "DL-TransChCapability");
+   /* turboDecodingSupport */
+   stat = asn1PD_UMTS_TurboSupport(ctx, &pvalue->turboDecodingSupport);
+   RT_CHECK(ctx, stat, 0, "turboDecodingSupport", -1, "DL-TransChCapability");
+   /* maxSimultaneousTransChs */
+   stat = pd_ConsUnsigned(ctx, &pvalue->maxSimultaneousTransChs, 0, 3);
+   RT_CHECK(ctx, stat, "MaxSimultaneousTransChsDL", "maxSimultaneousTransChs", -1, "DL-TransChCapability");
+   /* maxSimultaneousCCTrCH-Count */
+   stat = pd_ConsUInt8(ctx, &pvalue->maxSimultaneousCCTrCH_Count, 1, 8);
+   RT_CHECK(ctx, stat, "MaxSimultaneousCCTrCH-Count", "maxSimultaneousCCTrCH-Count", -1, "DL-TransChCapability");
+   /* maxReceivedTransportBlocks */
+   stat = pd_ConsUnsigned(ctx, &pvalue->maxReceivedTransportBlocks, 0, 9);
+   RT_CHECK(ctx, stat, "MaxTransportBlocksDL", "maxReceivedTransportBlocks", -1, "DL-TransChCapability");
+   /* maxNumberOfTFC */
+   stat = pd_ConsUnsigned(ctx, &pvalue->maxNumberOfTFC, 0, 8);
+   RT_CHECK(ctx, stat, "MaxNumberOfTFC-DL", "maxNumberOfTFC", -1, "DL-TransChCapability");
+   /* maxNumberOfTF */
+   stat = pd_ConsUnsigned(ctx, &pvalue->maxNumberOfTF, 0, 5);
+   RT_CHECK(ctx, stat, "MaxNumberOfTF", "maxNumberOfTF", -1, "DL-TransChCapability");
+   return 0;
+}
+
+int asn1PD_UMTS_TransmissionProbability(rtxContext* RT_RESTRICT ctx, TransmissionProbability* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransmissionProbability");
+   return 0;
+}
+
+int asn1PD_UMTS_MaximumBitRate(rtxContext* RT_RESTRICT ctx, MaximumBitRate* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaximumBitRate");
+   return 0;
+}
+
+int asn1PD_UMTS_DRAC_SysInfo(rtxContext* RT_RESTRICT ctx, DRAC_SysInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* transmissionProbability */
+   stat = pd_ConsUInt8(ctx, &pvalue->transmissionProbability, 1, 8);
+   RT_CHECK(ctx, stat, "TransmissionProbability", "transmissionProbability", -1, "DRAC-SysInfo");
+   /* maximumBitRate */
+   stat = pd_ConsUInt8(ctx, &pvalue->maximumBitRate, 0, 32);
+   RT_CHECK(ctx, stat, "MaximumBitRate", "maximumBitRate", -1, "DRAC-SysInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_DRAC_SysInfoList(rtxContext* RT_RESTRICT ctx, DRAC_SysInfoList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DRAC-SysInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DRAC_SysInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DRAC_SysInfo));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DRAC-SysInfo", (int32_t)i, "DRAC-SysInfoList");
+      elem = (DRAC_SysInfo*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_DRAC_SysInfo(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "DRAC-SysInfo", (int32_t)i, "DRAC-SysInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DSCH_RNTI(rtxContext* RT_RESTRICT ctx, DSCH_RNTI* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32(ctx, pvalue, 16, 16);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DSCH-RNTI");
+   return 0;
+}
+
+int asn1PD_UMTS_DelayRestrictionFlag(rtxContext* RT_RESTRICT ctx, DelayRestrictionFlag* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, "DelayRestrictionFlag");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, "DelayRestrictionFlag");
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ESN_DS_41(rtxContext* RT_RESTRICT ctx, ESN_DS_41* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pd_BitString32(ctx, pvalue, 32, 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ESN-DS-41");
+   return 0;
+}
+
+int asn1PD_UMTS_EstablishmentCause(rtxContext* RT_RESTRICT ctx, EstablishmentCause* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 31);
+   RT_CHECK(ctx, stat, 0, 0, -1, "EstablishmentCause");
+   return 0;
+}
+
+int asn1PD_UMTS_TGPSI(rtxContext* RT_RESTRICT ctx, TGPSI* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TGPSI");
+   return 0;
+}
+
+int asn1PD_UMTS_ProtocolErrorCause(rtxContext* RT_RESTRICT ctx, ProtocolErrorCause* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ProtocolErrorCause");
+   return 0;
+}
+
+int asn1PD_UMTS_ProtocolErrorInformation_diagnosticsType_type1(rtxContext* RT_RESTRICT ctx, ProtocolErrorInformation_diagnosticsType_type1* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* protocolErrorCause */
+   stat = pd_ConsUnsigned(ctx, &pvalue->protocolErrorCause, 0, 7);
+   RT_CHECK(ctx, stat, "ProtocolErrorCause", "protocolErrorCause", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_ProtocolErrorInformation_diagnosticsType(rtxContext* RT_RESTRICT ctx, ProtocolErrorInformation_diagnosticsType* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* type1 */
+         pvalue->u.type1 = (ProtocolErrorInformation_diagnosticsType_type1*)rtxMemHeapAllocZ(ctx, sizeof(ProtocolErrorInformation_diagnosticsType_type1));
+         if (pvalue->u.type1 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "type1", -1, 0);
+         stat = asn1PD_UMTS_ProtocolErrorInformation_diagnosticsType_type1(ctx, pvalue->u.type1);
+         RT_CHECK(ctx, stat, 0, "type1", -1, 0);
+         break;
+      case 1: /* spare */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ProtocolErrorInformation(rtxContext* RT_RESTRICT ctx, ProtocolErrorInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* diagnosticsType */
+   stat = asn1PD_UMTS_ProtocolErrorInformation_diagnosticsType(ctx, &pvalue->diagnosticsType);
+   RT_CHECK(ctx, stat, 0, "diagnosticsType", -1, "ProtocolErrorInformation");
+   return 0;
+}
+
+int asn1PD_UMTS_FailureCauseWithProtErr(rtxContext* RT_RESTRICT ctx, FailureCauseWithProtErr* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "FailureCauseWithProtErr");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* configurationUnsupported */
+         break;
+      case 1: /* physicalChannelFailure */
+         break;
+      case 2: /* incompatibleSimultaneousReconfiguration */
+         break;
+      case 3: /* compressedModeRuntimeError */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.compressedModeRuntimeError, 1, 6);
+         RT_CHECK(ctx, stat, "TGPSI", "compressedModeRuntimeError", -1, "FailureCauseWithProtErr");
+         break;
+      case 4: /* protocolError */
+         pvalue->u.protocolError = (ProtocolErrorInformation*)rtxMemHeapAlloc(ctx, sizeof(ProtocolErrorInformation));
+         if (pvalue->u.protocolError == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "protocolError", -1, "FailureCauseWithProtErr");
+         asn1Init_UMTS_ProtocolErrorInformation(pvalue->u.protocolError);
+         stat = asn1PD_UMTS_ProtocolErrorInformation(ctx, pvalue->u.protocolError);
+         RT_CHECK(ctx, stat, 0, "protocolError", -1, "FailureCauseWithProtErr");
+         break;
+      case 5: /* cellUpdateOccurred */
+         break;
+      case 6: /* invalidConfiguration */
+         break;
+      case 7: /* configurationIncomplete */
+         break;
+      case 8: /* unsupportedMeasurement */
+         break;
+      case 9: /* mbmsSessionAlreadyReceivedCorrectly */
+         break;
+      case 10: /* lowerPriorityMBMSService */
+         break;
+      case 11: /* spare5 */
+         break;
+      case 12: /* spare4 */
+         break;
+      case 13: /* spare3 */
+         break;
+      case 14: /* spare2 */
+         break;
+      case 15: /* spare1 */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "FailureCauseWithProtErr");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRC_TransactionIdentifier(rtxContext* RT_RESTRICT ctx, RRC_TransactionIdentifier* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRC-TransactionIdentifier");
+   return 0;
+}
+
+int asn1PD_UMTS_FailureCauseWithProtErrTrId(rtxContext* RT_RESTRICT ctx, FailureCauseWithProtErrTrId* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "FailureCauseWithProtErrTrId");
+   /* failureCause */
+   stat = asn1PD_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
+   RT_CHECK(ctx, stat, 0, "failureCause", -1, "FailureCauseWithProtErrTrId");
+   return 0;
+}
+
+int asn1PD_UMTS_GANSS_Mode(rtxContext* RT_RESTRICT ctx, GANSS_Mode* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "GANSS-Mode");
+   return 0;
+}
+
+int asn1PD_UMTS_ReleaseCause(rtxContext* RT_RESTRICT ctx, ReleaseCause* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ReleaseCause");
+   return 0;
+}
+
+int asn1PD_UMTS_RRC_ConnectionReleaseInformation_release(rtxContext* RT_RESTRICT ctx, RRC_ConnectionReleaseInformation_release* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* releaseCause */
+   stat = pd_ConsUnsigned(ctx, &pvalue->releaseCause, 0, 7);
+   RT_CHECK(ctx, stat, "ReleaseCause", "releaseCause", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RRC_ConnectionReleaseInformation(rtxContext* RT_RESTRICT ctx, RRC_ConnectionReleaseInformation* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRC-ConnectionReleaseInformation");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* noRelease */
+         break;
+      case 1: /* release */
+         pvalue->u.release = (RRC_ConnectionReleaseInformation_release*)rtxMemHeapAllocZ(ctx, sizeof(RRC_ConnectionReleaseInformation_release));
+         if (pvalue->u.release == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "release", -1, "RRC-ConnectionReleaseInformation");
+         stat = asn1PD_UMTS_RRC_ConnectionReleaseInformation_release(ctx, pvalue->u.release);
+         RT_CHECK(ctx, stat, 0, "release", -1, "RRC-ConnectionReleaseInformation");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RRC-ConnectionReleaseInformation");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_U_RNTI_Group(rtxContext* RT_RESTRICT ctx, U_RNTI_Group* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 31);
+   RT_CHECK(ctx, stat, 0, 0, -1, "U-RNTI-Group");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* all */
+         break;
+      case 1: /* u-RNTI-BitMaskIndex-b1 */
+         pvalue->u.u_RNTI_BitMaskIndex_b1 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b1 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b1", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 31, 31);
+         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b1, 31, 31);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b1", -1, "U-RNTI-Group");
+         break;
+      case 2: /* u-RNTI-BitMaskIndex-b2 */
+         pvalue->u.u_RNTI_BitMaskIndex_b2 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b2 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b2", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 30, 30);
+         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b2, 30, 30);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b2", -1, "U-RNTI-Group");
+         break;
+      case 3: /* u-RNTI-BitMaskIndex-b3 */
+         pvalue->u.u_RNTI_BitMaskIndex_b3 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b3", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 29, 29);
+         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b3, 29, 29);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b3", -1, "U-RNTI-Group");
+         break;
+      case 4: /* u-RNTI-BitMaskIndex-b4 */
+         pvalue->u.u_RNTI_BitMaskIndex_b4 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b4 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b4", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 28, 28);
+         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b4, 28, 28);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b4", -1, "U-RNTI-Group");
+         break;
+      case 5: /* u-RNTI-BitMaskIndex-b5 */
+         pvalue->u.u_RNTI_BitMaskIndex_b5 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b5 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b5", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 27, 27);
+         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b5, 27, 27);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b5", -1, "U-RNTI-Group");
+         break;
+      case 6: /* u-RNTI-BitMaskIndex-b6 */
+         pvalue->u.u_RNTI_BitMaskIndex_b6 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b6 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b6", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 26, 26);
+         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b6, 26, 26);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b6", -1, "U-RNTI-Group");
+         break;
+      case 7: /* u-RNTI-BitMaskIndex-b7 */
+         pvalue->u.u_RNTI_BitMaskIndex_b7 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b7 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b7", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 25, 25);
+         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b7, 25, 25);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b7", -1, "U-RNTI-Group");
+         break;
+      case 8: /* u-RNTI-BitMaskIndex-b8 */
+         pvalue->u.u_RNTI_BitMaskIndex_b8 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b8 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b8", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 24, 24);
+         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b8, 24, 24);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b8", -1, "U-RNTI-Group");
+         break;
+      case 9: /* u-RNTI-BitMaskIndex-b9 */
+         pvalue->u.u_RNTI_BitMaskIndex_b9 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b9 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b9", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 23, 23);
+         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b9, 23, 23);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b9", -1, "U-RNTI-Group");
+         break;
+      case 10: /* u-RNTI-BitMaskIndex-b10 */
+         pvalue->u.u_RNTI_BitMaskIndex_b10 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b10 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b10", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 22, 22);
+         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b10, 22, 22);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b10", -1, "U-RNTI-Group");
+         break;
+      case 11: /* u-RNTI-BitMaskIndex-b11 */
+         pvalue->u.u_RNTI_BitMaskIndex_b11 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b11 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b11", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 21, 21);
+         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b11, 21, 21);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b11", -1, "U-RNTI-Group");
+         break;
+      case 12: /* u-RNTI-BitMaskIndex-b12 */
+         pvalue->u.u_RNTI_BitMaskIndex_b12 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b12 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b12", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 20, 20);
+         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b12, 20, 20);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b12", -1, "U-RNTI-Group");
+         break;
+      case 13: /* u-RNTI-BitMaskIndex-b13 */
+         pvalue->u.u_RNTI_BitMaskIndex_b13 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b13 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b13", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 19, 19);
+         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b13, 19, 19);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b13", -1, "U-RNTI-Group");
+         break;
+      case 14: /* u-RNTI-BitMaskIndex-b14 */
+         pvalue->u.u_RNTI_BitMaskIndex_b14 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b14 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b14", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 18, 18);
+         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b14, 18, 18);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b14", -1, "U-RNTI-Group");
+         break;
+      case 15: /* u-RNTI-BitMaskIndex-b15 */
+         pvalue->u.u_RNTI_BitMaskIndex_b15 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b15 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b15", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 17, 17);
+         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b15, 17, 17);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b15", -1, "U-RNTI-Group");
+         break;
+      case 16: /* u-RNTI-BitMaskIndex-b16 */
+         pvalue->u.u_RNTI_BitMaskIndex_b16 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b16 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b16", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 16, 16);
+         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b16, 16, 16);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b16", -1, "U-RNTI-Group");
+         break;
+      case 17: /* u-RNTI-BitMaskIndex-b17 */
+         pvalue->u.u_RNTI_BitMaskIndex_b17 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b17 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b17", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 15, 15);
+         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b17, 15, 15);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b17", -1, "U-RNTI-Group");
+         break;
+      case 18: /* u-RNTI-BitMaskIndex-b18 */
+         pvalue->u.u_RNTI_BitMaskIndex_b18 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b18 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b18", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 14, 14);
+         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b18, 14, 14);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b18", -1, "U-RNTI-Group");
+         break;
+      case 19: /* u-RNTI-BitMaskIndex-b19 */
+         pvalue->u.u_RNTI_BitMaskIndex_b19 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b19 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b19", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 13, 13);
+         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b19, 13, 13);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b19", -1, "U-RNTI-Group");
+         break;
+      case 20: /* u-RNTI-BitMaskIndex-b20 */
+         pvalue->u.u_RNTI_BitMaskIndex_b20 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b20 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b20", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 12, 12);
+         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b20, 12, 12);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b20", -1, "U-RNTI-Group");
+         break;
+      case 21: /* u-RNTI-BitMaskIndex-b21 */
+         pvalue->u.u_RNTI_BitMaskIndex_b21 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b21 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b21", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 11, 11);
+         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b21, 11, 11);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b21", -1, "U-RNTI-Group");
+         break;
+      case 22: /* u-RNTI-BitMaskIndex-b22 */
+         pvalue->u.u_RNTI_BitMaskIndex_b22 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b22 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b22", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 10, 10);
+         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b22, 10, 10);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b22", -1, "U-RNTI-Group");
+         break;
+      case 23: /* u-RNTI-BitMaskIndex-b23 */
+         pvalue->u.u_RNTI_BitMaskIndex_b23 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b23 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b23", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 9, 9);
+         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b23, 9, 9);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b23", -1, "U-RNTI-Group");
+         break;
+      case 24: /* u-RNTI-BitMaskIndex-b24 */
+         pvalue->u.u_RNTI_BitMaskIndex_b24 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b24 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b24", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 8, 8);
+         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b24, 8, 8);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b24", -1, "U-RNTI-Group");
+         break;
+      case 25: /* u-RNTI-BitMaskIndex-b25 */
+         pvalue->u.u_RNTI_BitMaskIndex_b25 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b25 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b25", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 7, 7);
+         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b25, 7, 7);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b25", -1, "U-RNTI-Group");
+         break;
+      case 26: /* u-RNTI-BitMaskIndex-b26 */
+         pvalue->u.u_RNTI_BitMaskIndex_b26 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b26 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b26", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 6, 6);
+         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b26, 6, 6);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b26", -1, "U-RNTI-Group");
+         break;
+      case 27: /* u-RNTI-BitMaskIndex-b27 */
+         pvalue->u.u_RNTI_BitMaskIndex_b27 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b27 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b27", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 5, 5);
+         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b27, 5, 5);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b27", -1, "U-RNTI-Group");
+         break;
+      case 28: /* u-RNTI-BitMaskIndex-b28 */
+         pvalue->u.u_RNTI_BitMaskIndex_b28 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b28 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b28", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 4, 4);
+         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b28, 4, 4);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b28", -1, "U-RNTI-Group");
+         break;
+      case 29: /* u-RNTI-BitMaskIndex-b29 */
+         pvalue->u.u_RNTI_BitMaskIndex_b29 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b29 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b29", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 3, 3);
+         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b29, 3, 3);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b29", -1, "U-RNTI-Group");
+         break;
+      case 30: /* u-RNTI-BitMaskIndex-b30 */
+         pvalue->u.u_RNTI_BitMaskIndex_b30 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b30 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b30", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 2, 2);
+         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b30, 2, 2);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b30", -1, "U-RNTI-Group");
+         break;
+      case 31: /* u-RNTI-BitMaskIndex-b31 */
+         pvalue->u.u_RNTI_BitMaskIndex_b31 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
+         if (pvalue->u.u_RNTI_BitMaskIndex_b31 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "u-RNTI-BitMaskIndex-b31", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 1, 1);
+         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b31, 1, 1);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b31", -1, "U-RNTI-Group");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "U-RNTI-Group");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GroupReleaseInformation(rtxContext* RT_RESTRICT ctx, GroupReleaseInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* uRNTI-Group */
+   stat = asn1PD_UMTS_U_RNTI_Group(ctx, &pvalue->uRNTI_Group);
+   RT_CHECK(ctx, stat, 0, "uRNTI-Group", -1, "GroupReleaseInformation");
+   return 0;
+}
+
+int asn1PD_UMTS_GroupIdentityWithReleaseInformation(rtxContext* RT_RESTRICT ctx, GroupIdentityWithReleaseInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rrc-ConnectionReleaseInformation */
+   stat = asn1PD_UMTS_RRC_ConnectionReleaseInformation(ctx, &pvalue->rrc_ConnectionReleaseInformation);
+   RT_CHECK(ctx, stat, 0, "rrc-ConnectionReleaseInformation", -1, "GroupIdentityWithReleaseInformation");
+   /* groupReleaseInformation */
+   stat = asn1PD_UMTS_GroupReleaseInformation(ctx, &pvalue->groupReleaseInformation);
+   RT_CHECK(ctx, stat, 0, "groupReleaseInformation", -1, "GroupIdentityWithReleaseInformation");
+   return 0;
+}
+
+int asn1PD_UMTS_High_MobilityDetected(rtxContext* RT_RESTRICT ctx, High_MobilityDetected* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, "High-MobilityDetected");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, "High-MobilityDetected");
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UESpecificBehaviourInformation1idle(rtxContext* RT_RESTRICT ctx, UESpecificBehaviourInformation1idle* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 4, 4);
+   stat = pd_BitString32(ctx, pvalue, 4, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UESpecificBehaviourInformation1idle");
+   return 0;
+}
+
+int asn1PD_UMTS_UESpecificBehaviourInformation1interRAT(rtxContext* RT_RESTRICT ctx, UESpecificBehaviourInformation1interRAT* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32(ctx, pvalue, 8, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UESpecificBehaviourInformation1interRAT");
+   return 0;
+}
+
+int asn1PD_UMTS_IdleIntervalMeasCapabEUTRA(rtxContext* RT_RESTRICT ctx, IdleIntervalMeasCapabEUTRA* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* radioFrequencyBandEUTRA */
+   stat = pd_ConsUInt8(ctx, &pvalue->radioFrequencyBandEUTRA, 1, 64);
+   RT_CHECK(ctx, stat, "RadioFrequencyBandEUTRA", "radioFrequencyBandEUTRA", -1, "IdleIntervalMeasCapabEUTRA");
+   /* idleInterval */
+   stat = rtxDecBitInline(ctx, &pvalue->idleInterval);
+   RT_CHECK(ctx, stat, 0, "idleInterval", -1, "IdleIntervalMeasCapabEUTRA");
+   return 0;
+}
+
+int asn1PD_UMTS_IdleIntervalMeasCapabEUTRAList(rtxContext* RT_RESTRICT ctx, IdleIntervalMeasCapabEUTRAList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IdleIntervalMeasCapabEUTRAList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      IdleIntervalMeasCapabEUTRA* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(IdleIntervalMeasCapabEUTRA));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "IdleIntervalMeasCapabEUTRA", (int32_t)i, "IdleIntervalMeasCapabEUTRAList");
+      elem = (IdleIntervalMeasCapabEUTRA*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_IdleIntervalMeasCapabEUTRA(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "IdleIntervalMeasCapabEUTRA", (int32_t)i, "IdleIntervalMeasCapabEUTRAList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IMSI_and_ESN_DS_41(rtxContext* RT_RESTRICT ctx, IMSI_and_ESN_DS_41* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* imsi-DS-41 */
+   stat = asn1PD_UMTS_IMSI_DS_41(ctx, &pvalue->imsi_DS_41);
+   RT_CHECK(ctx, stat, 0, "imsi-DS-41", -1, "IMSI-and-ESN-DS-41");
+   /* esn-DS-41 */
+   stat = asn1PD_UMTS_ESN_DS_41(ctx, &pvalue->esn_DS_41);
+   RT_CHECK(ctx, stat, 0, "esn-DS-41", -1, "IMSI-and-ESN-DS-41");
+   return 0;
+}
+
+int asn1PD_UMTS_TMSI_and_LAI_GSM_MAP(rtxContext* RT_RESTRICT ctx, TMSI_and_LAI_GSM_MAP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* tmsi */
+   stat = asn1PD_UMTS_TMSI_GSM_MAP(ctx, &pvalue->tmsi);
+   RT_CHECK(ctx, stat, 0, "tmsi", -1, "TMSI-and-LAI-GSM-MAP");
+   /* lai */
+   stat = asn1PD_UMTS_LAI(ctx, &pvalue->lai);
+   RT_CHECK(ctx, stat, 0, "lai", -1, "TMSI-and-LAI-GSM-MAP");
+   return 0;
+}
+
+int asn1PD_UMTS_P_TMSI_and_RAI_GSM_MAP(rtxContext* RT_RESTRICT ctx, P_TMSI_and_RAI_GSM_MAP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* p-TMSI */
+   stat = asn1PD_UMTS_P_TMSI_GSM_MAP(ctx, &pvalue->p_TMSI);
+   RT_CHECK(ctx, stat, 0, "p-TMSI", -1, "P-TMSI-and-RAI-GSM-MAP");
+   /* rai */
+   stat = asn1PD_UMTS_RAI(ctx, &pvalue->rai);
+   RT_CHECK(ctx, stat, 0, "rai", -1, "P-TMSI-and-RAI-GSM-MAP");
+   return 0;
+}
+
+int asn1PD_UMTS_InitialUE_Identity(rtxContext* RT_RESTRICT ctx, InitialUE_Identity* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InitialUE-Identity");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* imsi */
+         pvalue->u.imsi = (IMSI_GSM_MAP*)rtxMemHeapAlloc(ctx, sizeof(IMSI_GSM_MAP));
+         if (pvalue->u.imsi == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "imsi", -1, "InitialUE-Identity");
+         asn1Init_UMTS_IMSI_GSM_MAP(pvalue->u.imsi);
+         stat = asn1PD_UMTS_IMSI_GSM_MAP(ctx, pvalue->u.imsi);
+         RT_CHECK(ctx, stat, 0, "imsi", -1, "InitialUE-Identity");
+         break;
+      case 1: /* tmsi-and-LAI */
+         pvalue->u.tmsi_and_LAI = (TMSI_and_LAI_GSM_MAP*)rtxMemHeapAlloc(ctx, sizeof(TMSI_and_LAI_GSM_MAP));
+         if (pvalue->u.tmsi_and_LAI == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tmsi-and-LAI", -1, "InitialUE-Identity");
+         asn1Init_UMTS_TMSI_and_LAI_GSM_MAP(pvalue->u.tmsi_and_LAI);
+         stat = asn1PD_UMTS_TMSI_and_LAI_GSM_MAP(ctx, pvalue->u.tmsi_and_LAI);
+         RT_CHECK(ctx, stat, 0, "tmsi-and-LAI", -1, "InitialUE-Identity");
+         break;
+      case 2: /* p-TMSI-and-RAI */
+         pvalue->u.p_TMSI_and_RAI = (P_TMSI_and_RAI_GSM_MAP*)rtxMemHeapAlloc(ctx, sizeof(P_TMSI_and_RAI_GSM_MAP));
+         if (pvalue->u.p_TMSI_and_RAI == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "p-TMSI-and-RAI", -1, "InitialUE-Identity");
+         asn1Init_UMTS_P_TMSI_and_RAI_GSM_MAP(pvalue->u.p_TMSI_and_RAI);
+         stat = asn1PD_UMTS_P_TMSI_and_RAI_GSM_MAP(ctx, pvalue->u.p_TMSI_and_RAI);
+         RT_CHECK(ctx, stat, 0, "p-TMSI-and-RAI", -1, "InitialUE-Identity");
+         break;
+      case 3: /* imei */
+         pvalue->u.imei = (IMEI*)rtxMemHeapAlloc(ctx, sizeof(IMEI));
+         if (pvalue->u.imei == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "imei", -1, "InitialUE-Identity");
+         asn1Init_UMTS_IMEI(pvalue->u.imei);
+         stat = asn1PD_UMTS_IMEI(ctx, pvalue->u.imei);
+         RT_CHECK(ctx, stat, 0, "imei", -1, "InitialUE-Identity");
+         break;
+      case 4: /* esn-DS-41 */
+         pvalue->u.esn_DS_41 = (ESN_DS_41*)rtxMemHeapAlloc(ctx, sizeof(ESN_DS_41));
+         if (pvalue->u.esn_DS_41 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "esn-DS-41", -1, "InitialUE-Identity");
+         asn1Init_UMTS_ESN_DS_41(pvalue->u.esn_DS_41);
+         stat = asn1PD_UMTS_ESN_DS_41(ctx, pvalue->u.esn_DS_41);
+         RT_CHECK(ctx, stat, 0, "esn-DS-41", -1, "InitialUE-Identity");
+         break;
+      case 5: /* imsi-DS-41 */
+         pvalue->u.imsi_DS_41 = (IMSI_DS_41*)rtxMemHeapAlloc(ctx, sizeof(IMSI_DS_41));
+         if (pvalue->u.imsi_DS_41 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "imsi-DS-41", -1, "InitialUE-Identity");
+         asn1Init_UMTS_IMSI_DS_41(pvalue->u.imsi_DS_41);
+         stat = asn1PD_UMTS_IMSI_DS_41(ctx, pvalue->u.imsi_DS_41);
+         RT_CHECK(ctx, stat, 0, "imsi-DS-41", -1, "InitialUE-Identity");
+         break;
+      case 6: /* imsi-and-ESN-DS-41 */
+         pvalue->u.imsi_and_ESN_DS_41 = (IMSI_and_ESN_DS_41*)rtxMemHeapAlloc(ctx, sizeof(IMSI_and_ESN_DS_41));
+         if (pvalue->u.imsi_and_ESN_DS_41 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "imsi-and-ESN-DS-41", -1, "InitialUE-Identity");
+         asn1Init_UMTS_IMSI_and_ESN_DS_41(pvalue->u.imsi_and_ESN_DS_41);
+         stat = asn1PD_UMTS_IMSI_and_ESN_DS_41(ctx, pvalue->u.imsi_and_ESN_DS_41);
+         RT_CHECK(ctx, stat, 0, "imsi-and-ESN-DS-41", -1, "InitialUE-Identity");
+         break;
+      case 7: /* tmsi-DS-41 */
+         pvalue->u.tmsi_DS_41 = (TMSI_DS_41*)rtxMemHeapAlloc(ctx, sizeof(TMSI_DS_41));
+         if (pvalue->u.tmsi_DS_41 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tmsi-DS-41", -1, "InitialUE-Identity");
+         asn1Init_UMTS_TMSI_DS_41(pvalue->u.tmsi_DS_41);
+         stat = asn1PD_UMTS_TMSI_DS_41(ctx, pvalue->u.tmsi_DS_41);
+         RT_CHECK(ctx, stat, 0, "tmsi-DS-41", -1, "InitialUE-Identity");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InitialUE-Identity");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MessageAuthenticationCode(rtxContext* RT_RESTRICT ctx, MessageAuthenticationCode* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pd_BitString32(ctx, pvalue, 32, 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MessageAuthenticationCode");
+   return 0;
+}
+
+int asn1PD_UMTS_RRC_MessageSequenceNumber(rtxContext* RT_RESTRICT ctx, RRC_MessageSequenceNumber* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRC-MessageSequenceNumber");
+   return 0;
+}
+
+int asn1PD_UMTS_IntegrityCheckInfo(rtxContext* RT_RESTRICT ctx, IntegrityCheckInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* messageAuthenticationCode */
+   stat = asn1PD_UMTS_MessageAuthenticationCode(ctx, &pvalue->messageAuthenticationCode);
+   RT_CHECK(ctx, stat, 0, "messageAuthenticationCode", -1, "IntegrityCheckInfo");
+   /* rrc-MessageSequenceNumber */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_MessageSequenceNumber, 0, 15);
+   RT_CHECK(ctx, stat, "RRC-MessageSequenceNumber", "rrc-MessageSequenceNumber", -1, "IntegrityCheckInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_RRC_MessageSequenceNumberList(rtxContext* RT_RESTRICT ctx, RRC_MessageSequenceNumberList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 1);
+      RT_CHECK(ctx, stat, 0, 0, -1, "RRC-MessageSequenceNumberList");
+      pvalue->n = raw + 4;
+      if (raw > 1) {
+         rtxErrAddStrParm(ctx, "RRC-MessageSequenceNumberList");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "RRC-MessageSequenceNumberList");
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 15);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, "RRC-MessageSequenceNumber", "RRC-MessageSequenceNumber", (int32_t)i, "RRC-MessageSequenceNumberList");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntegrityProtActivationInfo(rtxContext* RT_RESTRICT ctx, IntegrityProtActivationInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rrc-MessageSequenceNumberList */
+   stat = asn1PD_UMTS_RRC_MessageSequenceNumberList(ctx, &pvalue->rrc_MessageSequenceNumberList);
+   RT_CHECK(ctx, stat, 0, "rrc-MessageSequenceNumberList", -1, "IntegrityProtActivationInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_IntegrityProtectionAlgorithm(rtxContext* RT_RESTRICT ctx, IntegrityProtectionAlgorithm* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, "IntegrityProtectionAlgorithm");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, "IntegrityProtectionAlgorithm");
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntegrityProtectionAlgorithm_r7(rtxContext* RT_RESTRICT ctx, IntegrityProtectionAlgorithm_r7* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntegrityProtectionAlgorithm-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_IntegrityProtInitNumber(rtxContext* RT_RESTRICT ctx, IntegrityProtInitNumber* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pd_BitString32(ctx, pvalue, 32, 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntegrityProtInitNumber");
+   return 0;
+}
+
+int asn1PD_UMTS_IntegrityProtectionModeCommand_startIntegrityProtection(rtxContext* RT_RESTRICT ctx, IntegrityProtectionModeCommand_startIntegrityProtection* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* integrityProtInitNumber */
+   stat = asn1PD_UMTS_IntegrityProtInitNumber(ctx, &pvalue->integrityProtInitNumber);
+   RT_CHECK(ctx, stat, 0, "integrityProtInitNumber", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_IntegrityProtectionModeCommand_modify(rtxContext* RT_RESTRICT ctx, IntegrityProtectionModeCommand_modify* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* dl-IntegrityProtActivationInfo */
+   stat = asn1PD_UMTS_IntegrityProtActivationInfo(ctx, &pvalue->dl_IntegrityProtActivationInfo);
+   RT_CHECK(ctx, stat, 0, "dl-IntegrityProtActivationInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_IntegrityProtectionModeCommand(rtxContext* RT_RESTRICT ctx, IntegrityProtectionModeCommand* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntegrityProtectionModeCommand");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* startIntegrityProtection */
+         pvalue->u.startIntegrityProtection = (IntegrityProtectionModeCommand_startIntegrityProtection*)rtxMemHeapAlloc(ctx, sizeof(IntegrityProtectionModeCommand_startIntegrityProtection));
+         if (pvalue->u.startIntegrityProtection == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "startIntegrityProtection", -1, "IntegrityProtectionModeCommand");
+         asn1Init_UMTS_IntegrityProtectionModeCommand_startIntegrityProtection(pvalue->u.startIntegrityProtection);
+         stat = asn1PD_UMTS_IntegrityProtectionModeCommand_startIntegrityProtection(ctx, pvalue->u.startIntegrityProtection);
+         RT_CHECK(ctx, stat, 0, "startIntegrityProtection", -1, "IntegrityProtectionModeCommand");
+         break;
+      case 1: /* modify */
+         pvalue->u.modify = (IntegrityProtectionModeCommand_modify*)rtxMemHeapAlloc(ctx, sizeof(IntegrityProtectionModeCommand_modify));
+         if (pvalue->u.modify == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "modify", -1, "IntegrityProtectionModeCommand");
+         asn1Init_UMTS_IntegrityProtectionModeCommand_modify(pvalue->u.modify);
+         stat = asn1PD_UMTS_IntegrityProtectionModeCommand_modify(ctx, pvalue->u.modify);
+         RT_CHECK(ctx, stat, 0, "modify", -1, "IntegrityProtectionModeCommand");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntegrityProtectionModeCommand");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntegrityProtectionModeInfo(rtxContext* RT_RESTRICT ctx, IntegrityProtectionModeInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntegrityProtectionModeInfo");
+   /* integrityProtectionModeCommand */
+   stat = asn1PD_UMTS_IntegrityProtectionModeCommand(ctx, &pvalue->integrityProtectionModeCommand);
+   RT_CHECK(ctx, stat, 0, "integrityProtectionModeCommand", -1, "IntegrityProtectionModeInfo");
+   /* integrityProtectionAlgorithm */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "IntegrityProtectionAlgorithm", "integrityProtectionAlgorithm", -1, "IntegrityProtectionModeInfo");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "IntegrityProtectionAlgorithm", "integrityProtectionAlgorithm", -1, "IntegrityProtectionModeInfo");
+         pvalue->integrityProtectionAlgorithm = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntegrityProtectionModeInfo_r7(rtxContext* RT_RESTRICT ctx, IntegrityProtectionModeInfo_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntegrityProtectionModeInfo-r7");
+   /* integrityProtectionModeCommand */
+   stat = asn1PD_UMTS_IntegrityProtectionModeCommand(ctx, &pvalue->integrityProtectionModeCommand);
+   RT_CHECK(ctx, stat, 0, "integrityProtectionModeCommand", -1, "IntegrityProtectionModeInfo-r7");
+   /* integrityProtectionAlgorithm */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->integrityProtectionAlgorithm, 0, 1);
+      RT_CHECK(ctx, stat, "IntegrityProtectionAlgorithm-r7", "integrityProtectionAlgorithm", -1, "IntegrityProtectionModeInfo-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MaxHcContextSpace(rtxContext* RT_RESTRICT ctx, MaxHcContextSpace* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxHcContextSpace");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxHcContextSpace_r5_ext(rtxContext* RT_RESTRICT ctx, MaxHcContextSpace_r5_ext* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxHcContextSpace-r5-ext");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxROHC_ContextSessions_r4(rtxContext* RT_RESTRICT ctx, MaxROHC_ContextSessions_r4* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 13);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxROHC-ContextSessions-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_MaximumAM_EntityNumberRLC_Cap(rtxContext* RT_RESTRICT ctx, MaximumAM_EntityNumberRLC_Cap* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaximumAM-EntityNumberRLC-Cap");
+   return 0;
+}
+
+int asn1PD_UMTS_MaximumRLC_WindowSize(rtxContext* RT_RESTRICT ctx, MaximumRLC_WindowSize* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaximumRLC-WindowSize");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxNoDPDCH_BitsTransmitted(rtxContext* RT_RESTRICT ctx, MaxNoDPDCH_BitsTransmitted* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 9);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxNoDPDCH-BitsTransmitted");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxNumberOfTFC_UL(rtxContext* RT_RESTRICT ctx, MaxNumberOfTFC_UL* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 10);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxNumberOfTFC-UL");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxPhysChPerTimeslot(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTimeslot* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxPhysChPerTimeslot");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxPhysChPerTimeslot_LCR_r7(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTimeslot_LCR_r7* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxPhysChPerTimeslot-LCR-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxSimultaneousTransChsUL(rtxContext* RT_RESTRICT ctx, MaxSimultaneousTransChsUL* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxSimultaneousTransChsUL");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxTransportBlocksUL(rtxContext* RT_RESTRICT ctx, MaxTransportBlocksUL* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 10);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxTransportBlocksUL");
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementCapability(rtxContext* RT_RESTRICT ctx, MeasurementCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* downlinkCompressedMode */
+   stat = asn1PD_UMTS_CompressedModeMeasCapability(ctx, &pvalue->downlinkCompressedMode);
+   RT_CHECK(ctx, stat, 0, "downlinkCompressedMode", -1, "MeasurementCapability");
+   /* uplinkCompressedMode */
+   stat = asn1PD_UMTS_CompressedModeMeasCapability(ctx, &pvalue->uplinkCompressedMode);
+   RT_CHECK(ctx, stat, 0, "uplinkCompressedMode", -1, "MeasurementCapability");
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementCapabilityExt(rtxContext* RT_RESTRICT ctx, MeasurementCapabilityExt* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementCapabilityExt");
+   /* compressedModeMeasCapabFDDList */
+   stat = asn1PD_UMTS_CompressedModeMeasCapabFDDList(ctx, &pvalue->compressedModeMeasCapabFDDList);
+   RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabFDDList", -1, "MeasurementCapabilityExt");
+   /* compressedModeMeasCapabTDDList */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CompressedModeMeasCapabTDDList(ctx, &pvalue->compressedModeMeasCapabTDDList);
+      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabTDDList", -1, "MeasurementCapabilityExt");
+   }
+   /* compressedModeMeasCapabGSMList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CompressedModeMeasCapabGSMList(ctx, &pvalue->compressedModeMeasCapabGSMList);
+      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabGSMList", -1, "MeasurementCapabilityExt");
+   }
+   /* compressedModeMeasCapabMC */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_CompressedModeMeasCapabMC(ctx, &pvalue->compressedModeMeasCapabMC);
+      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabMC", -1, "MeasurementCapabilityExt");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementCapabilityExt2(rtxContext* RT_RESTRICT ctx, MeasurementCapabilityExt2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementCapabilityExt2");
+   /* compressedModeMeasCapabFDDList */
+   stat = asn1PD_UMTS_CompressedModeMeasCapabFDDList2(ctx, &pvalue->compressedModeMeasCapabFDDList);
+   RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabFDDList", -1, "MeasurementCapabilityExt2");
+   /* compressedModeMeasCapabTDDList */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CompressedModeMeasCapabTDDList(ctx, &pvalue->compressedModeMeasCapabTDDList);
+      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabTDDList", -1, "MeasurementCapabilityExt2");
+   }
+   /* compressedModeMeasCapabGSMList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CompressedModeMeasCapabGSMList(ctx, &pvalue->compressedModeMeasCapabGSMList);
+      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabGSMList", -1, "MeasurementCapabilityExt2");
+   }
+   /* compressedModeMeasCapabMC */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_CompressedModeMeasCapabMC(ctx, &pvalue->compressedModeMeasCapabMC);
+      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabMC", -1, "MeasurementCapabilityExt2");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementCapabilityExt3(rtxContext* RT_RESTRICT ctx, MeasurementCapabilityExt3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementCapabilityExt3");
+   /* compressedModeMeasCapabEUTRAList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CompressedModeMeasCapabEUTRAList(ctx, &pvalue->compressedModeMeasCapabEUTRAList);
+      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabEUTRAList", -1, "MeasurementCapabilityExt3");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementCapability_r4_ext(rtxContext* RT_RESTRICT ctx, MeasurementCapability_r4_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* downlinkCompressedMode-LCR */
+   stat = asn1PD_UMTS_CompressedModeMeasCapability_LCR_r4(ctx, &pvalue->downlinkCompressedMode_LCR);
+   RT_CHECK(ctx, stat, 0, "downlinkCompressedMode-LCR", -1, "MeasurementCapability-r4-ext");
+   /* uplinkCompressedMode-LCR */
+   stat = asn1PD_UMTS_CompressedModeMeasCapability_LCR_r4(ctx, &pvalue->uplinkCompressedMode_LCR);
+   RT_CHECK(ctx, stat, 0, "uplinkCompressedMode-LCR", -1, "MeasurementCapability-r4-ext");
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementCapability_v860ext(rtxContext* RT_RESTRICT ctx, MeasurementCapability_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* downlinkCompressedMode */
+   stat = asn1PD_UMTS_CompressedModeMeasCapability_v860ext(ctx, &pvalue->downlinkCompressedMode);
+   RT_CHECK(ctx, stat, 0, "downlinkCompressedMode", -1, "MeasurementCapability-v860ext");
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementCapability_v920ext(rtxContext* RT_RESTRICT ctx, MeasurementCapability_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* downlinkCompressedMode */
+   stat = asn1PD_UMTS_CompressedModeMeasCapability_v920ext(ctx, &pvalue->downlinkCompressedMode);
+   RT_CHECK(ctx, stat, 0, "downlinkCompressedMode", -1, "MeasurementCapability-v920ext");
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementCapabilityTDD(rtxContext* RT_RESTRICT ctx, MeasurementCapabilityTDD* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementCapabilityTDD");
+   /* idleIntervalMeasCapabEUTRAList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IdleIntervalMeasCapabEUTRAList(ctx, &pvalue->idleIntervalMeasCapabEUTRAList);
+      RT_CHECK(ctx, stat, 0, "idleIntervalMeasCapabEUTRAList", -1, "MeasurementCapabilityTDD");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MinimumSF_UL(rtxContext* RT_RESTRICT ctx, MinimumSF_UL* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MinimumSF-UL");
+   return 0;
+}
+
+int asn1PD_UMTS_MultiModeCapability(rtxContext* RT_RESTRICT ctx, MultiModeCapability* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MultiModeCapability");
+   return 0;
+}
+
+int asn1PD_UMTS_MultiRAT_Capability(rtxContext* RT_RESTRICT ctx, MultiRAT_Capability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* supportOfGSM */
+   stat = rtxDecBitInline(ctx, &pvalue->supportOfGSM);
+   RT_CHECK(ctx, stat, 0, "supportOfGSM", -1, "MultiRAT-Capability");
+   /* supportOfMulticarrier */
+   stat = rtxDecBitInline(ctx, &pvalue->supportOfMulticarrier);
+   RT_CHECK(ctx, stat, 0, "supportOfMulticarrier", -1, "MultiRAT-Capability");
+   return 0;
+}
+
+int asn1PD_UMTS_MultiModeRAT_Capability_v590ext(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v590ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* supportOfUTRAN-ToGERAN-NACC */
+   stat = rtxDecBitInline(ctx, &pvalue->supportOfUTRAN_ToGERAN_NACC);
+   RT_CHECK(ctx, stat, 0, "supportOfUTRAN-ToGERAN-NACC", -1, "MultiModeRAT-Capability-v590ext");
+   return 0;
+}
+
+int asn1PD_UMTS_MultiModeRAT_Capability_v680ext_supportOfHandoverToGAN(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v680ext_supportOfHandoverToGAN* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MultiModeRAT_Capability_v680ext(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v680ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MultiModeRAT-Capability-v680ext");
+   /* supportOfHandoverToGAN */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportOfHandoverToGAN", -1, "MultiModeRAT-Capability-v680ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportOfHandoverToGAN", -1, "MultiModeRAT-Capability-v680ext");
+         pvalue->supportOfHandoverToGAN = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MultiModeRAT_Capability_v770ext_supportOfPSHandoverToGAN(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v770ext_supportOfPSHandoverToGAN* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MultiModeRAT_Capability_v770ext(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MultiModeRAT-Capability-v770ext");
+   /* supportOfPSHandoverToGAN */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportOfPSHandoverToGAN", -1, "MultiModeRAT-Capability-v770ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportOfPSHandoverToGAN", -1, "MultiModeRAT-Capability-v770ext");
+         pvalue->supportOfPSHandoverToGAN = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MultiModeRAT_Capability_v860ext_supportOfEUTRAFDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfEUTRAFDD* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRAFDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRAFDD* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MultiModeRAT_Capability_v860ext_supportOfEUTRATDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfEUTRATDD* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRATDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRATDD* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MultiModeRAT_Capability_v860ext(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MultiModeRAT-Capability-v860ext");
+   /* supportOfEUTRAFDD */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportOfEUTRAFDD", -1, "MultiModeRAT-Capability-v860ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportOfEUTRAFDD", -1, "MultiModeRAT-Capability-v860ext");
+         pvalue->supportOfEUTRAFDD = ui;
+      }
+   }
+   /* supportOfInterRATHOToEUTRAFDD */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportOfInterRATHOToEUTRAFDD", -1, "MultiModeRAT-Capability-v860ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportOfInterRATHOToEUTRAFDD", -1, "MultiModeRAT-Capability-v860ext");
+         pvalue->supportOfInterRATHOToEUTRAFDD = ui;
+      }
+   }
+   /* supportOfEUTRATDD */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportOfEUTRATDD", -1, "MultiModeRAT-Capability-v860ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportOfEUTRATDD", -1, "MultiModeRAT-Capability-v860ext");
+         pvalue->supportOfEUTRATDD = ui;
+      }
+   }
+   /* supportOfInterRATHOToEUTRATDD */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportOfInterRATHOToEUTRATDD", -1, "MultiModeRAT-Capability-v860ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportOfInterRATHOToEUTRATDD", -1, "MultiModeRAT-Capability-v860ext");
+         pvalue->supportOfInterRATHOToEUTRATDD = ui;
+      }
+   }
+   /* eutraFeatureGroupIndicators */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      RT_SET_SIZE(ctx, 4, 4);
+      stat = pd_BitString32(ctx, &pvalue->eutraFeatureGroupIndicators, 4, 4);
+      RT_CHECK(ctx, stat, 0, "eutraFeatureGroupIndicators", -1, "MultiModeRAT-Capability-v860ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_N_308(rtxContext* RT_RESTRICT ctx, N_308* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "N-308");
+   return 0;
+}
+
+int asn1PD_UMTS_N_312_r5(rtxContext* RT_RESTRICT ctx, N_312_r5* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 11);
+   RT_CHECK(ctx, stat, 0, 0, -1, "N-312-r5");
+   return 0;
+}
+
+int asn1PD_UMTS_N_315_r5(rtxContext* RT_RESTRICT ctx, N_315_r5* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 11);
+   RT_CHECK(ctx, stat, 0, 0, -1, "N-315-r5");
+   return 0;
+}
+
+int asn1PD_UMTS_NeighCellSI_AcquisitionCapability_supportOfIntraFreqSIAcquisitionForHO(rtxContext* RT_RESTRICT ctx, NeighCellSI_AcquisitionCapability_supportOfIntraFreqSIAcquisitionForHO* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NeighCellSI_AcquisitionCapability_supportOfInterFreqSIAcquisitionForHO(rtxContext* RT_RESTRICT ctx, NeighCellSI_AcquisitionCapability_supportOfInterFreqSIAcquisitionForHO* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NeighCellSI_AcquisitionCapability_supportOfE_UtraSIAcquisitionForHO(rtxContext* RT_RESTRICT ctx, NeighCellSI_AcquisitionCapability_supportOfE_UtraSIAcquisitionForHO* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NeighCellSI_AcquisitionCapability(rtxContext* RT_RESTRICT ctx, NeighCellSI_AcquisitionCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NeighCellSI-AcquisitionCapability");
+   /* supportOfIntraFreqSIAcquisitionForHO */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportOfIntraFreqSIAcquisitionForHO", -1, "NeighCellSI-AcquisitionCapability");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportOfIntraFreqSIAcquisitionForHO", -1, "NeighCellSI-AcquisitionCapability");
+         pvalue->supportOfIntraFreqSIAcquisitionForHO = ui;
+      }
+   }
+   /* supportOfInterFreqSIAcquisitionForHO */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportOfInterFreqSIAcquisitionForHO", -1, "NeighCellSI-AcquisitionCapability");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportOfInterFreqSIAcquisitionForHO", -1, "NeighCellSI-AcquisitionCapability");
+         pvalue->supportOfInterFreqSIAcquisitionForHO = ui;
+      }
+   }
+   /* supportOfE-UtraSIAcquisitionForHO */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportOfE-UtraSIAcquisitionForHO", -1, "NeighCellSI-AcquisitionCapability");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportOfE-UtraSIAcquisitionForHO", -1, "NeighCellSI-AcquisitionCapability");
+         pvalue->supportOfE_UtraSIAcquisitionForHO = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NetworkAssistedGANSS_Supported_List_element_gANSS_Id(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List_element_gANSS_Id* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_GANSS_Signal_Id(rtxContext* RT_RESTRICT ctx, GANSS_Signal_Id* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "GANSS-Signal-Id");
+   return 0;
+}
+
+int asn1PD_UMTS_NetworkAssistedGANSS_Supported_List_element(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* gANSS-Id */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->gANSS_Id, 0, 7);
+      RT_CHECK(ctx, stat, 0, "gANSS-Id", -1, 0);
+   }
+   /* gANSS-Mode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->gANSS_Mode, 0, 3);
+   RT_CHECK(ctx, stat, "GANSS-Mode", "gANSS-Mode", -1, 0);
+   /* gANSS-SignalId */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->gANSS_SignalId, 0, 7);
+      RT_CHECK(ctx, stat, "GANSS-Signal-Id", "gANSS-SignalId", -1, 0);
+   }
+   /* supportForUE-GANSS-TimingOfCellFrames */
+   stat = rtxDecBitInline(ctx, &pvalue->supportForUE_GANSS_TimingOfCellFrames);
+   RT_CHECK(ctx, stat, 0, "supportForUE-GANSS-TimingOfCellFrames", -1, 0);
+   /* supportForUE-GANSS-CarrierPhaseMeasurement */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = rtxDecBitInline(ctx, &pvalue->supportForUE_GANSS_CarrierPhaseMeasurement);
+      RT_CHECK(ctx, stat, 0, "supportForUE-GANSS-CarrierPhaseMeasurement", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NetworkAssistedGANSS_Supported_List(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NetworkAssistedGANSS-Supported-List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NetworkAssistedGANSS_Supported_List_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NetworkAssistedGANSS_Supported_List_element));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "NetworkAssistedGANSS-Supported-List");
+      elem = (NetworkAssistedGANSS_Supported_List_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_NetworkAssistedGANSS_Supported_List_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_NetworkAssistedGANSS_Supported_List_element(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "NetworkAssistedGANSS-Supported-List");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NetworkAssistedGANSS_Supported_List_v860ext_element_non_native_AD_choices_supported(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List_v860ext_element_non_native_AD_choices_supported* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NetworkAssistedGANSS_Supported_List_v860ext_element(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List_v860ext_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sbas-Ids */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pd_BitString32(ctx, &pvalue->sbas_Ids, 8, 8);
+      RT_CHECK(ctx, stat, 0, "sbas-Ids", -1, 0);
+   }
+   /* gANSS-SignalIds */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pd_BitString32(ctx, &pvalue->gANSS_SignalIds, 8, 8);
+      RT_CHECK(ctx, stat, 0, "gANSS-SignalIds", -1, 0);
+   }
+   /* non-native-AD-choices-supported */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "non-native-AD-choices-supported", -1, 0);
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "non-native-AD-choices-supported", -1, 0);
+         pvalue->non_native_AD_choices_supported = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NetworkAssistedGANSS_Supported_List_v860ext(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List_v860ext* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NetworkAssistedGANSS-Supported-List-v860ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NetworkAssistedGANSS_Supported_List_v860ext_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NetworkAssistedGANSS_Supported_List_v860ext_element));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "NetworkAssistedGANSS-Supported-List-v860ext");
+      elem = (NetworkAssistedGANSS_Supported_List_v860ext_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_NetworkAssistedGANSS_Supported_List_v860ext_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_NetworkAssistedGANSS_Supported_List_v860ext_element(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "NetworkAssistedGANSS-Supported-List-v860ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NetworkAssistedGPS_Supported(rtxContext* RT_RESTRICT ctx, NetworkAssistedGPS_Supported* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NetworkAssistedGPS-Supported");
+   return 0;
+}
+
+int asn1PD_UMTS_PagingCause(rtxContext* RT_RESTRICT ctx, PagingCause* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PagingCause");
+   return 0;
+}
+
+int asn1PD_UMTS_PagingRecord_cn_Identity(rtxContext* RT_RESTRICT ctx, PagingRecord_cn_Identity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* pagingCause */
+   stat = pd_ConsUnsigned(ctx, &pvalue->pagingCause, 0, 7);
+   RT_CHECK(ctx, stat, "PagingCause", "pagingCause", -1, 0);
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, 0);
+   /* cn-pagedUE-Identity */
+   stat = asn1PD_UMTS_CN_PagedUE_Identity(ctx, &pvalue->cn_pagedUE_Identity);
+   RT_CHECK(ctx, stat, 0, "cn-pagedUE-Identity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_Identity(rtxContext* RT_RESTRICT ctx, SRNC_Identity* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 12, 12);
+   stat = pd_BitString32(ctx, pvalue, 12, 12);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-Identity");
+   return 0;
+}
+
+int asn1PD_UMTS_S_RNTI(rtxContext* RT_RESTRICT ctx, S_RNTI* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 20, 20);
+   stat = pd_BitString32(ctx, pvalue, 20, 20);
+   RT_CHECK(ctx, stat, 0, 0, -1, "S-RNTI");
+   return 0;
+}
+
+int asn1PD_UMTS_U_RNTI(rtxContext* RT_RESTRICT ctx, U_RNTI* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* srnc-Identity */
+   stat = asn1PD_UMTS_SRNC_Identity(ctx, &pvalue->srnc_Identity);
+   RT_CHECK(ctx, stat, 0, "srnc-Identity", -1, "U-RNTI");
+   /* s-RNTI */
+   stat = asn1PD_UMTS_S_RNTI(ctx, &pvalue->s_RNTI);
+   RT_CHECK(ctx, stat, 0, "s-RNTI", -1, "U-RNTI");
+   return 0;
+}
+
+int asn1PD_UMTS_PagingRecord_utran_Identity_cn_OriginatedPage_connectedMode_UE(rtxContext* RT_RESTRICT ctx, PagingRecord_utran_Identity_cn_OriginatedPage_connectedMode_UE* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* pagingCause */
+   stat = pd_ConsUnsigned(ctx, &pvalue->pagingCause, 0, 7);
+   RT_CHECK(ctx, stat, "PagingCause", "pagingCause", -1, 0);
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, 0);
+   /* pagingRecordTypeID */
+   stat = pd_ConsUnsigned(ctx, &pvalue->pagingRecordTypeID, 0, 3);
+   RT_CHECK(ctx, stat, "PagingRecordTypeID", "pagingRecordTypeID", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PagingRecord_utran_Identity(rtxContext* RT_RESTRICT ctx, PagingRecord_utran_Identity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* u-RNTI */
+   stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, 0);
+   /* cn-OriginatedPage-connectedMode-UE */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PagingRecord_utran_Identity_cn_OriginatedPage_connectedMode_UE(ctx, &pvalue->cn_OriginatedPage_connectedMode_UE);
+      RT_CHECK(ctx, stat, 0, "cn-OriginatedPage-connectedMode-UE", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PagingRecord(rtxContext* RT_RESTRICT ctx, PagingRecord* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PagingRecord");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* cn-Identity */
+         pvalue->u.cn_Identity = (PagingRecord_cn_Identity*)rtxMemHeapAlloc(ctx, sizeof(PagingRecord_cn_Identity));
+         if (pvalue->u.cn_Identity == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cn-Identity", -1, "PagingRecord");
+         asn1Init_UMTS_PagingRecord_cn_Identity(pvalue->u.cn_Identity);
+         stat = asn1PD_UMTS_PagingRecord_cn_Identity(ctx, pvalue->u.cn_Identity);
+         RT_CHECK(ctx, stat, 0, "cn-Identity", -1, "PagingRecord");
+         break;
+      case 1: /* utran-Identity */
+         pvalue->u.utran_Identity = (PagingRecord_utran_Identity*)rtxMemHeapAlloc(ctx, sizeof(PagingRecord_utran_Identity));
+         if (pvalue->u.utran_Identity == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "utran-Identity", -1, "PagingRecord");
+         asn1Init_UMTS_PagingRecord_utran_Identity(pvalue->u.utran_Identity);
+         stat = asn1PD_UMTS_PagingRecord_utran_Identity(ctx, pvalue->u.utran_Identity);
+         RT_CHECK(ctx, stat, 0, "utran-Identity", -1, "PagingRecord");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PagingRecord");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PagingRecord2_r5_utran_SingleUE_Identity_cn_OriginatedPage_connectedMode_UE(rtxContext* RT_RESTRICT ctx, PagingRecord2_r5_utran_SingleUE_Identity_cn_OriginatedPage_connectedMode_UE* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* pagingCause */
+   stat = pd_ConsUnsigned(ctx, &pvalue->pagingCause, 0, 7);
+   RT_CHECK(ctx, stat, "PagingCause", "pagingCause", -1, 0);
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, 0);
+   /* pagingRecordTypeID */
+   stat = pd_ConsUnsigned(ctx, &pvalue->pagingRecordTypeID, 0, 3);
+   RT_CHECK(ctx, stat, "PagingRecordTypeID", "pagingRecordTypeID", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PagingRecord2_r5_utran_SingleUE_Identity(rtxContext* RT_RESTRICT ctx, PagingRecord2_r5_utran_SingleUE_Identity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* u-RNTI */
+   stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, 0);
+   /* cn-OriginatedPage-connectedMode-UE */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PagingRecord2_r5_utran_SingleUE_Identity_cn_OriginatedPage_connectedMode_UE(ctx, &pvalue->cn_OriginatedPage_connectedMode_UE);
+      RT_CHECK(ctx, stat, 0, "cn-OriginatedPage-connectedMode-UE", -1, 0);
+   }
+   /* rrc-ConnectionReleaseInformation */
+   stat = asn1PD_UMTS_RRC_ConnectionReleaseInformation(ctx, &pvalue->rrc_ConnectionReleaseInformation);
+   RT_CHECK(ctx, stat, 0, "rrc-ConnectionReleaseInformation", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PagingRecord2_r5_utran_GroupIdentity(rtxContext* RT_RESTRICT ctx, PagingRecord2_r5_utran_GroupIdentity* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      GroupIdentityWithReleaseInformation* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GroupIdentityWithReleaseInformation));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "GroupIdentityWithReleaseInformation", (int32_t)i, 0);
+      elem = (GroupIdentityWithReleaseInformation*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_GroupIdentityWithReleaseInformation(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_GroupIdentityWithReleaseInformation(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "GroupIdentityWithReleaseInformation", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PagingRecord2_r5(rtxContext* RT_RESTRICT ctx, PagingRecord2_r5* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PagingRecord2-r5");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* utran-SingleUE-Identity */
+         pvalue->u.utran_SingleUE_Identity = (PagingRecord2_r5_utran_SingleUE_Identity*)rtxMemHeapAlloc(ctx, sizeof(PagingRecord2_r5_utran_SingleUE_Identity));
+         if (pvalue->u.utran_SingleUE_Identity == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "utran-SingleUE-Identity", -1, "PagingRecord2-r5");
+         asn1Init_UMTS_PagingRecord2_r5_utran_SingleUE_Identity(pvalue->u.utran_SingleUE_Identity);
+         stat = asn1PD_UMTS_PagingRecord2_r5_utran_SingleUE_Identity(ctx, pvalue->u.utran_SingleUE_Identity);
+         RT_CHECK(ctx, stat, 0, "utran-SingleUE-Identity", -1, "PagingRecord2-r5");
+         break;
+      case 1: /* utran-GroupIdentity */
+         pvalue->u.utran_GroupIdentity = (PagingRecord2_r5_utran_GroupIdentity*)rtxMemHeapAlloc(ctx, sizeof(PagingRecord2_r5_utran_GroupIdentity));
+         if (pvalue->u.utran_GroupIdentity == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "utran-GroupIdentity", -1, "PagingRecord2-r5");
+         asn1Init_UMTS_PagingRecord2_r5_utran_GroupIdentity(pvalue->u.utran_GroupIdentity);
+         stat = asn1PD_UMTS_PagingRecord2_r5_utran_GroupIdentity(ctx, pvalue->u.utran_GroupIdentity);
+         RT_CHECK(ctx, stat, 0, "utran-GroupIdentity", -1, "PagingRecord2-r5");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PagingRecord2-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PagingRecordList(rtxContext* RT_RESTRICT ctx, PagingRecordList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PagingRecordList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PagingRecord* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PagingRecord));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PagingRecord", (int32_t)i, "PagingRecordList");
+      elem = (PagingRecord*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PagingRecord(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_PagingRecord(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "PagingRecord", (int32_t)i, "PagingRecordList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PagingRecord2List_r5(rtxContext* RT_RESTRICT ctx, PagingRecord2List_r5* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PagingRecord2List-r5");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PagingRecord2_r5* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PagingRecord2_r5));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PagingRecord2-r5", (int32_t)i, "PagingRecord2List-r5");
+      elem = (PagingRecord2_r5*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PagingRecord2_r5(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_PagingRecord2_r5(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "PagingRecord2-r5", (int32_t)i, "PagingRecord2List-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_Capability_supportForRfc2507(rtxContext* RT_RESTRICT ctx, PDCP_Capability_supportForRfc2507* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* notSupported */
+         break;
+      case 1: /* supported */
+         stat = pd_ConsUnsigned(ctx, &pvalue->u.supported, 0, 4);
+         RT_CHECK(ctx, stat, "MaxHcContextSpace", "supported", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_Capability(rtxContext* RT_RESTRICT ctx, PDCP_Capability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* losslessSRNS-RelocationSupport */
+   stat = rtxDecBitInline(ctx, &pvalue->losslessSRNS_RelocationSupport);
+   RT_CHECK(ctx, stat, 0, "losslessSRNS-RelocationSupport", -1, "PDCP-Capability");
+   /* supportForRfc2507 */
+   stat = asn1PD_UMTS_PDCP_Capability_supportForRfc2507(ctx, &pvalue->supportForRfc2507);
+   RT_CHECK(ctx, stat, 0, "supportForRfc2507", -1, "PDCP-Capability");
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_Capability_r4_ext_supportForRfc3095_supported(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r4_ext_supportForRfc3095_supported* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* maxROHC-ContextSessions */
+   if (present & ((uint32_t)1 << 1)) {
+      stat = pd_ConsUnsigned(ctx, &pvalue->maxROHC_ContextSessions, 0, 13);
+      RT_CHECK(ctx, stat, "MaxROHC-ContextSessions-r4", "maxROHC-ContextSessions", -1, 0);
+   }
+   else {
+      pvalue->maxROHC_ContextSessions = 4;
+   }
+   /* reverseCompressionDepth */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUInt16(ctx, &pvalue->reverseCompressionDepth, 0, 65535);
+      RT_CHECK(ctx, stat, 0, "reverseCompressionDepth", -1, 0);
+   }
+   else {
+      pvalue->reverseCompressionDepth = 0;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_Capability_r4_ext_supportForRfc3095(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r4_ext_supportForRfc3095* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* notSupported */
+         break;
+      case 1: /* supported */
+         pvalue->u.supported = (PDCP_Capability_r4_ext_supportForRfc3095_supported*)rtxMemHeapAlloc(ctx, sizeof(PDCP_Capability_r4_ext_supportForRfc3095_supported));
+         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "supported", -1, 0);
+         asn1Init_UMTS_PDCP_Capability_r4_ext_supportForRfc3095_supported(pvalue->u.supported);
+         stat = asn1PD_UMTS_PDCP_Capability_r4_ext_supportForRfc3095_supported(ctx, pvalue->u.supported);
+         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_Capability_r4_ext(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r4_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* supportForRfc3095 */
+   stat = asn1PD_UMTS_PDCP_Capability_r4_ext_supportForRfc3095(ctx, &pvalue->supportForRfc3095);
+   RT_CHECK(ctx, stat, 0, "supportForRfc3095", -1, "PDCP-Capability-r4-ext");
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_Capability_r5_ext(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r5_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PDCP-Capability-r5-ext");
+   /* supportForRfc3095ContextRelocation */
+   stat = rtxDecBitInline(ctx, &pvalue->supportForRfc3095ContextRelocation);
+   RT_CHECK(ctx, stat, 0, "supportForRfc3095ContextRelocation", -1, "PDCP-Capability-r5-ext");
+   /* maxHcContextSpace */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->maxHcContextSpace, 0, 3);
+      RT_CHECK(ctx, stat, "MaxHcContextSpace-r5-ext", "maxHcContextSpace", -1, "PDCP-Capability-r5-ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_Capability_r5_ext2_losslessDLRLC_PDUSizeChange(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r5_ext2_losslessDLRLC_PDUSizeChange* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_Capability_r5_ext2(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r5_ext2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PDCP-Capability-r5-ext2");
+   /* losslessDLRLC-PDUSizeChange */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "losslessDLRLC-PDUSizeChange", -1, "PDCP-Capability-r5-ext2");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "losslessDLRLC-PDUSizeChange", -1, "PDCP-Capability-r5-ext2");
+         pvalue->losslessDLRLC_PDUSizeChange = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_Capability_v770ext_supportForCSVoiceoverHSPA(rtxContext* RT_RESTRICT ctx, PDCP_Capability_v770ext_supportForCSVoiceoverHSPA* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_Capability_v770ext(rtxContext* RT_RESTRICT ctx, PDCP_Capability_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PDCP-Capability-v770ext");
+   /* supportForCSVoiceoverHSPA */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportForCSVoiceoverHSPA", -1, "PDCP-Capability-v770ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportForCSVoiceoverHSPA", -1, "PDCP-Capability-v770ext");
+         pvalue->supportForCSVoiceoverHSPA = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_PhysChCapabilityFDD(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* maxNoDPDCH-BitsTransmitted */
+   stat = pd_ConsUnsigned(ctx, &pvalue->maxNoDPDCH_BitsTransmitted, 0, 9);
+   RT_CHECK(ctx, stat, "MaxNoDPDCH-BitsTransmitted", "maxNoDPDCH-BitsTransmitted", -1, "UL-PhysChCapabilityFDD");
+   /* dummy */
+   stat = rtxDecBitInline(ctx, &pvalue->dummy);
+   RT_CHECK(ctx, stat, 0, "dummy", -1, "UL-PhysChCapabilityFDD");
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_fddPhysChCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* downlinkPhysChCapability */
+   stat = asn1PD_UMTS_DL_PhysChCapabilityFDD(ctx, &pvalue->downlinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = asn1PD_UMTS_UL_PhysChCapabilityFDD(ctx, &pvalue->uplinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_PhysChCapabilityTDD(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* maxTS-PerFrame */
+   stat = pd_ConsUInt8(ctx, &pvalue->maxTS_PerFrame, 1, 14);
+   RT_CHECK(ctx, stat, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "UL-PhysChCapabilityTDD");
+   /* maxPhysChPerTimeslot */
+   stat = pd_ConsUnsigned(ctx, &pvalue->maxPhysChPerTimeslot, 0, 1);
+   RT_CHECK(ctx, stat, "MaxPhysChPerTimeslot", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityTDD");
+   /* minimumSF */
+   stat = pd_ConsUnsigned(ctx, &pvalue->minimumSF, 0, 4);
+   RT_CHECK(ctx, stat, "MinimumSF-UL", "minimumSF", -1, "UL-PhysChCapabilityTDD");
+   /* supportOfPUSCH */
+   stat = rtxDecBitInline(ctx, &pvalue->supportOfPUSCH);
+   RT_CHECK(ctx, stat, 0, "supportOfPUSCH", -1, "UL-PhysChCapabilityTDD");
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_tddPhysChCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_tddPhysChCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* downlinkPhysChCapability */
+   stat = asn1PD_UMTS_DL_PhysChCapabilityTDD(ctx, &pvalue->downlinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = asn1PD_UMTS_UL_PhysChCapabilityTDD(ctx, &pvalue->uplinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelCapability");
+   /* fddPhysChCapability */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PhysicalChannelCapability_fddPhysChCapability(ctx, &pvalue->fddPhysChCapability);
+      RT_CHECK(ctx, stat, 0, "fddPhysChCapability", -1, "PhysicalChannelCapability");
+   }
+   /* tddPhysChCapability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_PhysicalChannelCapability_tddPhysChCapability(ctx, &pvalue->tddPhysChCapability);
+      RT_CHECK(ctx, stat, 0, "tddPhysChCapability", -1, "PhysicalChannelCapability");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_PhysChCapabilityFDD_v770ext_discontinuousDpcchTransmission(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD_v770ext_discontinuousDpcchTransmission* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_PhysChCapabilityFDD_v770ext_slotFormat4(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD_v770ext_slotFormat4* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_PhysChCapabilityFDD_v770ext(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-PhysChCapabilityFDD-v770ext");
+   /* edch-PhysicalLayerCategory-extension */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->edch_PhysicalLayerCategory_extension, 7, 7);
+      RT_CHECK(ctx, stat, 0, "edch-PhysicalLayerCategory-extension", -1, "UL-PhysChCapabilityFDD-v770ext");
+   }
+   /* discontinuousDpcchTransmission */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "discontinuousDpcchTransmission", -1, "UL-PhysChCapabilityFDD-v770ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "discontinuousDpcchTransmission", -1, "UL-PhysChCapabilityFDD-v770ext");
+         pvalue->discontinuousDpcchTransmission = ui;
+      }
+   }
+   /* slotFormat4 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "slotFormat4", -1, "UL-PhysChCapabilityFDD-v770ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "slotFormat4", -1, "UL-PhysChCapabilityFDD-v770ext");
+         pvalue->slotFormat4 = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_v770ext_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v770ext_fddPhysChCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* downlinkPhysChCapability */
+   stat = asn1PD_UMTS_DL_PhysChCapabilityFDD_v770ext(ctx, &pvalue->downlinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = asn1PD_UMTS_UL_PhysChCapabilityFDD_v770ext(ctx, &pvalue->uplinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* tdd-edch-PhysicalLayerCategory */
+   stat = pd_ConsUInt8(ctx, &pvalue->tdd_edch_PhysicalLayerCategory, 1, 16);
+   RT_CHECK(ctx, stat, 0, "tdd-edch-PhysicalLayerCategory", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* supported */
+         pvalue->u.supported = (UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported*)rtxMemHeapAllocZ(ctx, sizeof(UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported));
+         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "supported", -1, 0);
+         stat = asn1PD_UMTS_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported(ctx, pvalue->u.supported);
+         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
+         break;
+      case 1: /* unsupported */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_PhysChCapabilityTDD_384_v770ext(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_384_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* tdd384-edch */
+   stat = asn1PD_UMTS_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch(ctx, &pvalue->tdd384_edch);
+   RT_CHECK(ctx, stat, 0, "tdd384-edch", -1, "UL-PhysChCapabilityTDD-384-v770ext");
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_384(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v770ext_tddPhysChCapability_384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* uplinkPhysChCapability */
+   stat = asn1PD_UMTS_UL_PhysChCapabilityTDD_384_v770ext(ctx, &pvalue->uplinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_PhysChCapabilityTDD_768_tdd384_edch_supported(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_768_tdd384_edch_supported* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* tdd-edch-PhysicalLayerCategory */
+   stat = pd_ConsUInt8(ctx, &pvalue->tdd_edch_PhysicalLayerCategory, 1, 16);
+   RT_CHECK(ctx, stat, 0, "tdd-edch-PhysicalLayerCategory", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_PhysChCapabilityTDD_768_tdd384_edch(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_768_tdd384_edch* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* supported */
+         pvalue->u.supported = (UL_PhysChCapabilityTDD_768_tdd384_edch_supported*)rtxMemHeapAllocZ(ctx, sizeof(UL_PhysChCapabilityTDD_768_tdd384_edch_supported));
+         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "supported", -1, 0);
+         stat = asn1PD_UMTS_UL_PhysChCapabilityTDD_768_tdd384_edch_supported(ctx, pvalue->u.supported);
+         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
+         break;
+      case 1: /* unsupported */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_PhysChCapabilityTDD_768(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* maxTS-PerFrame */
+   stat = pd_ConsUInt8(ctx, &pvalue->maxTS_PerFrame, 1, 14);
+   RT_CHECK(ctx, stat, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "UL-PhysChCapabilityTDD-768");
+   /* maxPhysChPerTimeslot */
+   stat = pd_ConsUnsigned(ctx, &pvalue->maxPhysChPerTimeslot, 0, 1);
+   RT_CHECK(ctx, stat, "MaxPhysChPerTimeslot", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityTDD-768");
+   /* minimumSF */
+   stat = pd_ConsUnsigned(ctx, &pvalue->minimumSF, 0, 4);
+   RT_CHECK(ctx, stat, "MinimumSF-UL", "minimumSF", -1, "UL-PhysChCapabilityTDD-768");
+   /* supportOfPUSCH */
+   stat = rtxDecBitInline(ctx, &pvalue->supportOfPUSCH);
+   RT_CHECK(ctx, stat, 0, "supportOfPUSCH", -1, "UL-PhysChCapabilityTDD-768");
+   /* tdd384-edch */
+   stat = asn1PD_UMTS_UL_PhysChCapabilityTDD_768_tdd384_edch(ctx, &pvalue->tdd384_edch);
+   RT_CHECK(ctx, stat, 0, "tdd384-edch", -1, "UL-PhysChCapabilityTDD-768");
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_768(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v770ext_tddPhysChCapability_768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* downlinkPhysChCapability */
+   stat = asn1PD_UMTS_DL_PhysChCapabilityTDD_768(ctx, &pvalue->downlinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = asn1PD_UMTS_UL_PhysChCapabilityTDD_768(ctx, &pvalue->uplinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* tdd-edch-PhysicalLayerCategory */
+   stat = pd_ConsUInt8(ctx, &pvalue->tdd_edch_PhysicalLayerCategory, 1, 6);
+   RT_CHECK(ctx, stat, 0, "tdd-edch-PhysicalLayerCategory", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* supported */
+         pvalue->u.supported = (UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported*)rtxMemHeapAllocZ(ctx, sizeof(UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported));
+         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "supported", -1, 0);
+         stat = asn1PD_UMTS_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported(ctx, pvalue->u.supported);
+         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
+         break;
+      case 1: /* unsupported */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_PhysChCapabilityTDD_128_v770ext(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_128_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* maxPhysChPerTimeslot */
+   stat = pd_ConsUInt8(ctx, &pvalue->maxPhysChPerTimeslot, 1, 4);
+   RT_CHECK(ctx, stat, "MaxPhysChPerTimeslot-LCR-r7", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityTDD-128-v770ext");
+   /* tdd128-edch */
+   stat = asn1PD_UMTS_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch(ctx, &pvalue->tdd128_edch);
+   RT_CHECK(ctx, stat, 0, "tdd128-edch", -1, "UL-PhysChCapabilityTDD-128-v770ext");
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_128(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v770ext_tddPhysChCapability_128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* downlinkPhysChCapability */
+   stat = asn1PD_UMTS_DL_PhysChCapabilityTDD_128_v770ext(ctx, &pvalue->downlinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = asn1PD_UMTS_UL_PhysChCapabilityTDD_128_v770ext(ctx, &pvalue->uplinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_v770ext(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelCapability-v770ext");
+   /* fddPhysChCapability */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PhysicalChannelCapability_v770ext_fddPhysChCapability(ctx, &pvalue->fddPhysChCapability);
+      RT_CHECK(ctx, stat, 0, "fddPhysChCapability", -1, "PhysicalChannelCapability-v770ext");
+   }
+   /* tddPhysChCapability-384 */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_384(ctx, &pvalue->tddPhysChCapability_384);
+      RT_CHECK(ctx, stat, 0, "tddPhysChCapability-384", -1, "PhysicalChannelCapability-v770ext");
+   }
+   /* tddPhysChCapability-768 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_768(ctx, &pvalue->tddPhysChCapability_768);
+      RT_CHECK(ctx, stat, 0, "tddPhysChCapability-768", -1, "PhysicalChannelCapability-v770ext");
+   }
+   /* tddPhysChCapability-128 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_128(ctx, &pvalue->tddPhysChCapability_128);
+      RT_CHECK(ctx, stat, 0, "tddPhysChCapability-128", -1, "PhysicalChannelCapability-v770ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_v860ext_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v860ext_fddPhysChCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* downlinkPhysChCapability */
+   stat = asn1PD_UMTS_DL_PhysChCapabilityFDD_v860ext(ctx, &pvalue->downlinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_v860ext_tddPhysChCapability_128(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v860ext_tddPhysChCapability_128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* downlinkPhysChCapability */
+   stat = asn1PD_UMTS_DL_PhysChCapabilityTDD_128_v860ext(ctx, &pvalue->downlinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_v860ext(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelCapability-v860ext");
+   /* fddPhysChCapability */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PhysicalChannelCapability_v860ext_fddPhysChCapability(ctx, &pvalue->fddPhysChCapability);
+      RT_CHECK(ctx, stat, 0, "fddPhysChCapability", -1, "PhysicalChannelCapability-v860ext");
+   }
+   /* tddPhysChCapability-128 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_PhysicalChannelCapability_v860ext_tddPhysChCapability_128(ctx, &pvalue->tddPhysChCapability_128);
+      RT_CHECK(ctx, stat, 0, "tddPhysChCapability-128", -1, "PhysicalChannelCapability-v860ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_PhysChCapabilityFDD_v920ext(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-PhysChCapabilityFDD-v920ext");
+   /* edch-PhysicalLayerCategory-extension2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->edch_PhysicalLayerCategory_extension2, 8, 9);
+      RT_CHECK(ctx, stat, 0, "edch-PhysicalLayerCategory-extension2", -1, "UL-PhysChCapabilityFDD-v920ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_v920ext_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v920ext_fddPhysChCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* downlinkPhysChCapability */
+   stat = asn1PD_UMTS_DL_PhysChCapabilityFDD_v920ext(ctx, &pvalue->downlinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = asn1PD_UMTS_UL_PhysChCapabilityFDD_v920ext(ctx, &pvalue->uplinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_v920ext(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelCapability-v920ext");
+   /* fddPhysChCapability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PhysicalChannelCapability_v920ext_fddPhysChCapability(ctx, &pvalue->fddPhysChCapability);
+      RT_CHECK(ctx, stat, 0, "fddPhysChCapability", -1, "PhysicalChannelCapability-v920ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_768(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* downlinkPhysChCapability */
+   stat = asn1PD_UMTS_DL_PhysChCapabilityInfoTDD_768(ctx, &pvalue->downlinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = asn1PD_UMTS_UL_PhysChCapabilityTDD(ctx, &pvalue->uplinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_PhysChCapabilityInfoTDD_128_v770ext(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityInfoTDD_128_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* maxPhysChPerTimeslot */
+   stat = pd_ConsUInt8(ctx, &pvalue->maxPhysChPerTimeslot, 1, 4);
+   RT_CHECK(ctx, stat, "MaxPhysChPerTimeslot-LCR-r7", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityInfoTDD-128-v770ext");
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_128(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* uplinkPhysChCapability */
+   stat = asn1PD_UMTS_UL_PhysChCapabilityInfoTDD_128_v770ext(ctx, &pvalue->uplinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapabilityInfo_v770ext(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapabilityInfo_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelCapabilityInfo-v770ext");
+   /* tddPhysChCapability-768 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_768(ctx, &pvalue->tddPhysChCapability_768);
+      RT_CHECK(ctx, stat, 0, "tddPhysChCapability-768", -1, "PhysicalChannelCapabilityInfo-v770ext");
+   }
+   /* tddPhysChCapability-128 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_128(ctx, &pvalue->tddPhysChCapability_128);
+      RT_CHECK(ctx, stat, 0, "tddPhysChCapability-128", -1, "PhysicalChannelCapabilityInfo-v770ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_PhysChCapabilityTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityTDD_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* maxTS-PerSubFrame */
+   stat = pd_ConsUInt8(ctx, &pvalue->maxTS_PerSubFrame, 1, 6);
+   RT_CHECK(ctx, stat, "MaxTS-PerSubFrame-r4", "maxTS-PerSubFrame", -1, "UL-PhysChCapabilityTDD-LCR-r4");
+   /* maxPhysChPerTimeslot */
+   stat = pd_ConsUnsigned(ctx, &pvalue->maxPhysChPerTimeslot, 0, 1);
+   RT_CHECK(ctx, stat, "MaxPhysChPerTimeslot", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityTDD-LCR-r4");
+   /* minimumSF */
+   stat = pd_ConsUnsigned(ctx, &pvalue->minimumSF, 0, 4);
+   RT_CHECK(ctx, stat, "MinimumSF-UL", "minimumSF", -1, "UL-PhysChCapabilityTDD-LCR-r4");
+   /* supportOfPUSCH */
+   stat = rtxDecBitInline(ctx, &pvalue->supportOfPUSCH);
+   RT_CHECK(ctx, stat, 0, "supportOfPUSCH", -1, "UL-PhysChCapabilityTDD-LCR-r4");
+   /* supportOf8PSK */
+   stat = rtxDecBitInline(ctx, &pvalue->supportOf8PSK);
+   RT_CHECK(ctx, stat, 0, "supportOf8PSK", -1, "UL-PhysChCapabilityTDD-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_LCR_r4_tdd128_PhysChCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_LCR_r4_tdd128_PhysChCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* downlinkPhysChCapability */
+   stat = asn1PD_UMTS_DL_PhysChCapabilityTDD_LCR_r4(ctx, &pvalue->downlinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = asn1PD_UMTS_UL_PhysChCapabilityTDD_LCR_r4(ctx, &pvalue->uplinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_LCR_r4(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelCapability-LCR-r4");
+   /* tdd128-PhysChCapability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PhysicalChannelCapability_LCR_r4_tdd128_PhysChCapability(ctx, &pvalue->tdd128_PhysChCapability);
+      RT_CHECK(ctx, stat, 0, "tdd128-PhysChCapability", -1, "PhysicalChannelCapability-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* hsdsch-physical-layer-category */
+   stat = pd_ConsUInt8(ctx, &pvalue->hsdsch_physical_layer_category, 1, 64);
+   RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category", "hsdsch-physical-layer-category", -1, 0);
+   /* dummy */
+   stat = rtxDecBitInline(ctx, &pvalue->dummy);
+   RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   /* dummy2 */
+   stat = rtxDecBitInline(ctx, &pvalue->dummy2);
+   RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* supported */
+         pvalue->u.supported = (PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported*)rtxMemHeapAllocZ(ctx, sizeof(PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported));
+         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "supported", -1, 0);
+         stat = asn1PD_UMTS_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported(ctx, pvalue->u.supported);
+         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
+         break;
+      case 1: /* unsupported */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_hspdsch_r5_tdd384_hspdsch(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_hspdsch_r5_tdd384_hspdsch* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* supported */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.supported, 1, 64);
+         RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category", "supported", -1, 0);
+         break;
+      case 1: /* unsupported */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_hspdsch_r5_tdd128_hspdsch(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_hspdsch_r5_tdd128_hspdsch* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* supported */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.supported, 1, 64);
+         RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category", "supported", -1, 0);
+         break;
+      case 1: /* unsupported */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_hspdsch_r5(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_hspdsch_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* fdd-hspdsch */
+   stat = asn1PD_UMTS_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch(ctx, &pvalue->fdd_hspdsch);
+   RT_CHECK(ctx, stat, 0, "fdd-hspdsch", -1, "PhysicalChannelCapability-hspdsch-r5");
+   /* tdd384-hspdsch */
+   stat = asn1PD_UMTS_PhysicalChannelCapability_hspdsch_r5_tdd384_hspdsch(ctx, &pvalue->tdd384_hspdsch);
+   RT_CHECK(ctx, stat, 0, "tdd384-hspdsch", -1, "PhysicalChannelCapability-hspdsch-r5");
+   /* tdd128-hspdsch */
+   stat = asn1PD_UMTS_PhysicalChannelCapability_hspdsch_r5_tdd128_hspdsch(ctx, &pvalue->tdd128_hspdsch);
+   RT_CHECK(ctx, stat, 0, "tdd128-hspdsch", -1, "PhysicalChannelCapability-hspdsch-r5");
+   return 0;
+}
+
+int asn1PD_UMTS_Pre_RedirectionInfo(rtxContext* RT_RESTRICT ctx, Pre_RedirectionInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* supportEUTRA-FDD */
+   stat = rtxDecBitInline(ctx, &pvalue->supportEUTRA_FDD);
+   RT_CHECK(ctx, stat, 0, "supportEUTRA-FDD", -1, "Pre-RedirectionInfo");
+   /* supportEUTRA-TDD */
+   stat = rtxDecBitInline(ctx, &pvalue->supportEUTRA_TDD);
+   RT_CHECK(ctx, stat, 0, "supportEUTRA-TDD", -1, "Pre-RedirectionInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_ProtocolErrorIndicator(rtxContext* RT_RESTRICT ctx, ProtocolErrorIndicator* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ProtocolErrorIndicator");
+   return 0;
+}
+
+int asn1PD_UMTS_ProtocolErrorIndicatorWithMoreInfo_errorOccurred(rtxContext* RT_RESTRICT ctx, ProtocolErrorIndicatorWithMoreInfo_errorOccurred* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* protocolErrorInformation */
+   stat = asn1PD_UMTS_ProtocolErrorInformation(ctx, &pvalue->protocolErrorInformation);
+   RT_CHECK(ctx, stat, 0, "protocolErrorInformation", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_ProtocolErrorIndicatorWithMoreInfo(rtxContext* RT_RESTRICT ctx, ProtocolErrorIndicatorWithMoreInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ProtocolErrorIndicatorWithMoreInfo");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* noError */
+         break;
+      case 1: /* errorOccurred */
+         pvalue->u.errorOccurred = (ProtocolErrorIndicatorWithMoreInfo_errorOccurred*)rtxMemHeapAlloc(ctx, sizeof(ProtocolErrorIndicatorWithMoreInfo_errorOccurred));
+         if (pvalue->u.errorOccurred == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "errorOccurred", -1, "ProtocolErrorIndicatorWithMoreInfo");
+         asn1Init_UMTS_ProtocolErrorIndicatorWithMoreInfo_errorOccurred(pvalue->u.errorOccurred);
+         stat = asn1PD_UMTS_ProtocolErrorIndicatorWithMoreInfo_errorOccurred(ctx, pvalue->u.errorOccurred);
+         RT_CHECK(ctx, stat, 0, "errorOccurred", -1, "ProtocolErrorIndicatorWithMoreInfo");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ProtocolErrorIndicatorWithMoreInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ReceivedMessageType(rtxContext* RT_RESTRICT ctx, ReceivedMessageType* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 31);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ReceivedMessageType");
+   return 0;
+}
+
+int asn1PD_UMTS_IdentificationOfReceivedMessage(rtxContext* RT_RESTRICT ctx, IdentificationOfReceivedMessage* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "IdentificationOfReceivedMessage");
+   /* receivedMessageType */
+   stat = pd_ConsUnsigned(ctx, &pvalue->receivedMessageType, 0, 31);
+   RT_CHECK(ctx, stat, "ReceivedMessageType", "receivedMessageType", -1, "IdentificationOfReceivedMessage");
+   return 0;
+}
+
+int asn1PD_UMTS_ProtocolErrorMoreInformation_diagnosticsType_type1(rtxContext* RT_RESTRICT ctx, ProtocolErrorMoreInformation_diagnosticsType_type1* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* asn1-ViolationOrEncodingError */
+         break;
+      case 1: /* messageTypeNonexistent */
+         break;
+      case 2: /* messageNotCompatibleWithReceiverState */
+         pvalue->u.messageNotCompatibleWithReceiverState = (IdentificationOfReceivedMessage*)rtxMemHeapAllocZ(ctx, sizeof(IdentificationOfReceivedMessage));
+         if (pvalue->u.messageNotCompatibleWithReceiverState == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "messageNotCompatibleWithReceiverState", -1, 0);
+         stat = asn1PD_UMTS_IdentificationOfReceivedMessage(ctx, pvalue->u.messageNotCompatibleWithReceiverState);
+         RT_CHECK(ctx, stat, 0, "messageNotCompatibleWithReceiverState", -1, 0);
+         break;
+      case 3: /* ie-ValueNotComprehended */
+         pvalue->u.ie_ValueNotComprehended = (IdentificationOfReceivedMessage*)rtxMemHeapAllocZ(ctx, sizeof(IdentificationOfReceivedMessage));
+         if (pvalue->u.ie_ValueNotComprehended == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ie-ValueNotComprehended", -1, 0);
+         stat = asn1PD_UMTS_IdentificationOfReceivedMessage(ctx, pvalue->u.ie_ValueNotComprehended);
+         RT_CHECK(ctx, stat, 0, "ie-ValueNotComprehended", -1, 0);
+         break;
+      case 4: /* conditionalInformationElementError */
+         pvalue->u.conditionalInformationElementError = (IdentificationOfReceivedMessage*)rtxMemHeapAllocZ(ctx, sizeof(IdentificationOfReceivedMessage));
+         if (pvalue->u.conditionalInformationElementError == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "conditionalInformationElementError", -1, 0);
+         stat = asn1PD_UMTS_IdentificationOfReceivedMessage(ctx, pvalue->u.conditionalInformationElementError);
+         RT_CHECK(ctx, stat, 0, "conditionalInformationElementError", -1, 0);
+         break;
+      case 5: /* messageExtensionNotComprehended */
+         pvalue->u.messageExtensionNotComprehended = (IdentificationOfReceivedMessage*)rtxMemHeapAllocZ(ctx, sizeof(IdentificationOfReceivedMessage));
+         if (pvalue->u.messageExtensionNotComprehended == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "messageExtensionNotComprehended", -1, 0);
+         stat = asn1PD_UMTS_IdentificationOfReceivedMessage(ctx, pvalue->u.messageExtensionNotComprehended);
+         RT_CHECK(ctx, stat, 0, "messageExtensionNotComprehended", -1, 0);
+         break;
+      case 6: /* spare1 */
+         break;
+      case 7: /* spare2 */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ProtocolErrorMoreInformation_diagnosticsType(rtxContext* RT_RESTRICT ctx, ProtocolErrorMoreInformation_diagnosticsType* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* type1 */
+         pvalue->u.type1 = (ProtocolErrorMoreInformation_diagnosticsType_type1*)rtxMemHeapAlloc(ctx, sizeof(ProtocolErrorMoreInformation_diagnosticsType_type1));
+         if (pvalue->u.type1 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "type1", -1, 0);
+         asn1Init_UMTS_ProtocolErrorMoreInformation_diagnosticsType_type1(pvalue->u.type1);
+         stat = asn1PD_UMTS_ProtocolErrorMoreInformation_diagnosticsType_type1(ctx, pvalue->u.type1);
+         RT_CHECK(ctx, stat, 0, "type1", -1, 0);
+         break;
+      case 1: /* spare */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ProtocolErrorMoreInformation(rtxContext* RT_RESTRICT ctx, ProtocolErrorMoreInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* diagnosticsType */
+   stat = asn1PD_UMTS_ProtocolErrorMoreInformation_diagnosticsType(ctx, &pvalue->diagnosticsType);
+   RT_CHECK(ctx, stat, 0, "diagnosticsType", -1, "ProtocolErrorMoreInformation");
+   return 0;
+}
+
+int asn1PD_UMTS_RadioFrequencyBandTDDList(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDDList* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioFrequencyBandTDDList");
+   return 0;
+}
+
+int asn1PD_UMTS_RadioFrequencyBandTDDList_r7(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDDList_r7* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioFrequencyBandTDDList-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_RadioFrequencyBandTDDext(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDDext* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioFrequencyBandTDDext");
+   return 0;
+}
+
+int asn1PD_UMTS_RadioFrequencyBandTDDextList(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDDextList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 4);
+      RT_CHECK(ctx, stat, 0, 0, -1, "RadioFrequencyBandTDDextList");
+      pvalue->n = raw + 1;
+      if (raw > 15) {
+         rtxErrAddStrParm(ctx, "RadioFrequencyBandTDDextList");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "RadioFrequencyBandTDDextList");
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 15);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, "RadioFrequencyBandTDDext", "RadioFrequencyBandTDDext", (int32_t)i, "RadioFrequencyBandTDDextList");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Rb_timer_indicator(rtxContext* RT_RESTRICT ctx, Rb_timer_indicator* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* t314-expired */
+   stat = rtxDecBitInline(ctx, &pvalue->t314_expired);
+   RT_CHECK(ctx, stat, 0, "t314-expired", -1, "Rb-timer-indicator");
+   /* t315-expired */
+   stat = rtxDecBitInline(ctx, &pvalue->t315_expired);
+   RT_CHECK(ctx, stat, 0, "t315-expired", -1, "Rb-timer-indicator");
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATInfo(rtxContext* RT_RESTRICT ctx, InterRATInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, "InterRATInfo");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, "InterRATInfo");
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RedirectionInfo(rtxContext* RT_RESTRICT ctx, RedirectionInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RedirectionInfo");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* frequencyInfo */
+         pvalue->u.frequencyInfo = (FrequencyInfo*)rtxMemHeapAlloc(ctx, sizeof(FrequencyInfo));
+         if (pvalue->u.frequencyInfo == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "frequencyInfo", -1, "RedirectionInfo");
+         asn1Init_UMTS_FrequencyInfo(pvalue->u.frequencyInfo);
+         stat = asn1PD_UMTS_FrequencyInfo(ctx, pvalue->u.frequencyInfo);
+         RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RedirectionInfo");
+         break;
+      case 1: /* interRATInfo */
+         {
+            uint32_t ui;
+            stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+            RT_CHECK(ctx, stat, "InterRATInfo", "interRATInfo", -1, "RedirectionInfo");
+            stat = ui != 0 ? RT_ERR_INVENUM : 0;
+            RT_CHECK(ctx, stat, "InterRATInfo", "interRATInfo", -1, "RedirectionInfo");
+            pvalue->u.interRATInfo = ui;
+         }
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RedirectionInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GSM_TargetCellInfo(rtxContext* RT_RESTRICT ctx, GSM_TargetCellInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "GSM-TargetCellInfo");
+   /* bcch-ARFCN */
+   stat = pd_ConsUInt16(ctx, &pvalue->bcch_ARFCN, 0, 1023);
+   RT_CHECK(ctx, stat, "BCCH-ARFCN", "bcch-ARFCN", -1, "GSM-TargetCellInfo");
+   /* frequency-band */
+   stat = pd_ConsUnsigned(ctx, &pvalue->frequency_band, 0, 1);
+   RT_CHECK(ctx, stat, "Frequency-Band", "frequency-band", -1, "GSM-TargetCellInfo");
+   /* bsic */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_BSIC(ctx, &pvalue->bsic);
+      RT_CHECK(ctx, stat, 0, "bsic", -1, "GSM-TargetCellInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GSM_TargetCellInfoList(rtxContext* RT_RESTRICT ctx, GSM_TargetCellInfoList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "GSM-TargetCellInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      GSM_TargetCellInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GSM_TargetCellInfo));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "GSM-TargetCellInfo", (int32_t)i, "GSM-TargetCellInfoList");
+      elem = (GSM_TargetCellInfo*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_GSM_TargetCellInfo(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_GSM_TargetCellInfo(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "GSM-TargetCellInfo", (int32_t)i, "GSM-TargetCellInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATInfo_r6(rtxContext* RT_RESTRICT ctx, InterRATInfo_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATInfo-r6");
+   /* rat */
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, "InterRATInfo", "rat", -1, "InterRATInfo-r6");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, "InterRATInfo", "rat", -1, "InterRATInfo-r6");
+      pvalue->rat = ui;
+   }
+   /* gsm-TargetCellInfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_GSM_TargetCellInfoList(ctx, &pvalue->gsm_TargetCellInfoList);
+      RT_CHECK(ctx, stat, 0, "gsm-TargetCellInfoList", -1, "InterRATInfo-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RedirectionInfo_r6(rtxContext* RT_RESTRICT ctx, RedirectionInfo_r6* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RedirectionInfo-r6");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* frequencyInfo */
+         pvalue->u.frequencyInfo = (FrequencyInfo*)rtxMemHeapAlloc(ctx, sizeof(FrequencyInfo));
+         if (pvalue->u.frequencyInfo == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "frequencyInfo", -1, "RedirectionInfo-r6");
+         asn1Init_UMTS_FrequencyInfo(pvalue->u.frequencyInfo);
+         stat = asn1PD_UMTS_FrequencyInfo(ctx, pvalue->u.frequencyInfo);
+         RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RedirectionInfo-r6");
+         break;
+      case 1: /* interRATInfo */
+         pvalue->u.interRATInfo = (InterRATInfo_r6*)rtxMemHeapAlloc(ctx, sizeof(InterRATInfo_r6));
+         if (pvalue->u.interRATInfo == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interRATInfo", -1, "RedirectionInfo-r6");
+         asn1Init_UMTS_InterRATInfo_r6(pvalue->u.interRATInfo);
+         stat = asn1PD_UMTS_InterRATInfo_r6(ctx, pvalue->u.interRATInfo);
+         RT_CHECK(ctx, stat, 0, "interRATInfo", -1, "RedirectionInfo-r6");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RedirectionInfo-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_EUTRA_PhysicalCellIdentity(rtxContext* RT_RESTRICT ctx, EUTRA_PhysicalCellIdentity* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt16(ctx, pvalue, 0, 503);
+   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-PhysicalCellIdentity");
+   return 0;
+}
+
+int asn1PD_UMTS_EUTRA_BlacklistedCell(rtxContext* RT_RESTRICT ctx, EUTRA_BlacklistedCell* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* physicalCellIdentity */
+   stat = pd_ConsUInt16(ctx, &pvalue->physicalCellIdentity, 0, 503);
+   RT_CHECK(ctx, stat, "EUTRA-PhysicalCellIdentity", "physicalCellIdentity", -1, "EUTRA-BlacklistedCell");
+   return 0;
+}
+
+int asn1PD_UMTS_EUTRA_BlacklistedCellPerFreqList(rtxContext* RT_RESTRICT ctx, EUTRA_BlacklistedCellPerFreqList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-BlacklistedCellPerFreqList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      EUTRA_BlacklistedCell* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(EUTRA_BlacklistedCell));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "EUTRA-BlacklistedCell", (int32_t)i, "EUTRA-BlacklistedCellPerFreqList");
+      elem = (EUTRA_BlacklistedCell*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_EUTRA_BlacklistedCell(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "EUTRA-BlacklistedCell", (int32_t)i, "EUTRA-BlacklistedCellPerFreqList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_EUTRA_TargetFreqInfo(rtxContext* RT_RESTRICT ctx, EUTRA_TargetFreqInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-TargetFreqInfo");
+   /* dlEUTRACarrierFreq */
+   stat = pd_ConsUInt16(ctx, &pvalue->dlEUTRACarrierFreq, 0, 65535);
+   RT_CHECK(ctx, stat, "EARFCN", "dlEUTRACarrierFreq", -1, "EUTRA-TargetFreqInfo");
+   /* eutraBlacklistedCellPerFreqList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_EUTRA_BlacklistedCellPerFreqList(ctx, &pvalue->eutraBlacklistedCellPerFreqList);
+      RT_CHECK(ctx, stat, 0, "eutraBlacklistedCellPerFreqList", -1, "EUTRA-TargetFreqInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_EUTRA_TargetFreqInfoList(rtxContext* RT_RESTRICT ctx, EUTRA_TargetFreqInfoList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-TargetFreqInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      EUTRA_TargetFreqInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(EUTRA_TargetFreqInfo));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "EUTRA-TargetFreqInfo", (int32_t)i, "EUTRA-TargetFreqInfoList");
+      elem = (EUTRA_TargetFreqInfo*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_EUTRA_TargetFreqInfo(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_EUTRA_TargetFreqInfo(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "EUTRA-TargetFreqInfo", (int32_t)i, "EUTRA-TargetFreqInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATInfo_v860ext_eutra(rtxContext* RT_RESTRICT ctx, InterRATInfo_v860ext_eutra* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* eutra-TargetFreqInfoList */
+   stat = asn1PD_UMTS_EUTRA_TargetFreqInfoList(ctx, &pvalue->eutra_TargetFreqInfoList);
+   RT_CHECK(ctx, stat, 0, "eutra-TargetFreqInfoList", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATInfo_v860ext(rtxContext* RT_RESTRICT ctx, InterRATInfo_v860ext* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATInfo-v860ext");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* gsm */
+         break;
+      case 1: /* eutra */
+         pvalue->u.eutra = (InterRATInfo_v860ext_eutra*)rtxMemHeapAlloc(ctx, sizeof(InterRATInfo_v860ext_eutra));
+         if (pvalue->u.eutra == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "eutra", -1, "InterRATInfo-v860ext");
+         asn1Init_UMTS_InterRATInfo_v860ext_eutra(pvalue->u.eutra);
+         stat = asn1PD_UMTS_InterRATInfo_v860ext_eutra(ctx, pvalue->u.eutra);
+         RT_CHECK(ctx, stat, 0, "eutra", -1, "InterRATInfo-v860ext");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterRATInfo-v860ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RedirectionInfo_v860ext(rtxContext* RT_RESTRICT ctx, RedirectionInfo_v860ext* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RedirectionInfo-v860ext");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* frequencyInfo */
+         break;
+      case 1: /* interRATInfo */
+         pvalue->u.interRATInfo = (InterRATInfo_v860ext*)rtxMemHeapAlloc(ctx, sizeof(InterRATInfo_v860ext));
+         if (pvalue->u.interRATInfo == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interRATInfo", -1, "RedirectionInfo-v860ext");
+         asn1Init_UMTS_InterRATInfo_v860ext(pvalue->u.interRATInfo);
+         stat = asn1PD_UMTS_InterRATInfo_v860ext(ctx, pvalue->u.interRATInfo);
+         RT_CHECK(ctx, stat, 0, "interRATInfo", -1, "RedirectionInfo-v860ext");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RedirectionInfo-v860ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RejectionCause(rtxContext* RT_RESTRICT ctx, RejectionCause* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RejectionCause");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_PowerClass(rtxContext* RT_RESTRICT ctx, UE_PowerClass* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-PowerClass");
+   return 0;
+}
+
+int asn1PD_UMTS_TxRxFrequencySeparation(rtxContext* RT_RESTRICT ctx, TxRxFrequencySeparation* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TxRxFrequencySeparation");
+   return 0;
+}
+
+int asn1PD_UMTS_RF_Capability_fddRF_Capability(rtxContext* RT_RESTRICT ctx, RF_Capability_fddRF_Capability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ue-PowerClass */
+   stat = pd_ConsUInt8(ctx, &pvalue->ue_PowerClass, 1, 4);
+   RT_CHECK(ctx, stat, "UE-PowerClass", "ue-PowerClass", -1, 0);
+   /* txRxFrequencySeparation */
+   stat = pd_ConsUnsigned(ctx, &pvalue->txRxFrequencySeparation, 0, 2);
+   RT_CHECK(ctx, stat, "TxRxFrequencySeparation", "txRxFrequencySeparation", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RF_Capability_tddRF_Capability(rtxContext* RT_RESTRICT ctx, RF_Capability_tddRF_Capability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ue-PowerClass */
+   stat = pd_ConsUInt8(ctx, &pvalue->ue_PowerClass, 1, 4);
+   RT_CHECK(ctx, stat, "UE-PowerClass", "ue-PowerClass", -1, 0);
+   /* radioFrequencyTDDBandList */
+   stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyTDDBandList, 0, 7);
+   RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList", "radioFrequencyTDDBandList", -1, 0);
+   /* chipRateCapability */
+   stat = pd_ConsUnsigned(ctx, &pvalue->chipRateCapability, 0, 1);
+   RT_CHECK(ctx, stat, "ChipRateCapability", "chipRateCapability", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RF_Capability(rtxContext* RT_RESTRICT ctx, RF_Capability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RF-Capability");
+   /* fddRF-Capability */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RF_Capability_fddRF_Capability(ctx, &pvalue->fddRF_Capability);
+      RT_CHECK(ctx, stat, 0, "fddRF-Capability", -1, "RF-Capability");
+   }
+   /* tddRF-Capability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RF_Capability_tddRF_Capability(ctx, &pvalue->tddRF_Capability);
+      RT_CHECK(ctx, stat, 0, "tddRF-Capability", -1, "RF-Capability");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RF_Capability_r4_ext_tddRF_Capability(rtxContext* RT_RESTRICT ctx, RF_Capability_r4_ext_tddRF_Capability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ue-PowerClass */
+   stat = pd_ConsUInt8(ctx, &pvalue->ue_PowerClass, 1, 4);
+   RT_CHECK(ctx, stat, "UE-PowerClass", "ue-PowerClass", -1, 0);
+   /* radioFrequencyBandTDDList */
+   stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandTDDList, 0, 7);
+   RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList", "radioFrequencyBandTDDList", -1, 0);
+   /* chipRateCapability */
+   stat = pd_ConsUnsigned(ctx, &pvalue->chipRateCapability, 0, 1);
+   RT_CHECK(ctx, stat, "ChipRateCapability", "chipRateCapability", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RF_Capability_r4_ext(rtxContext* RT_RESTRICT ctx, RF_Capability_r4_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RF-Capability-r4-ext");
+   /* tddRF-Capability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RF_Capability_r4_ext_tddRF_Capability(ctx, &pvalue->tddRF_Capability);
+      RT_CHECK(ctx, stat, 0, "tddRF-Capability", -1, "RF-Capability-r4-ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RF_Capability_v770ext_tdd768RF_Capability(rtxContext* RT_RESTRICT ctx, RF_Capability_v770ext_tdd768RF_Capability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ue-PowerClass */
+   stat = pd_ConsUInt8(ctx, &pvalue->ue_PowerClass, 1, 4);
+   RT_CHECK(ctx, stat, "UE-PowerClass", "ue-PowerClass", -1, 0);
+   /* radioFrequencyBandTDDList */
+   stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandTDDList, 0, 15);
+   RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList-r7", "radioFrequencyBandTDDList", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RF_Capability_v770ext(rtxContext* RT_RESTRICT ctx, RF_Capability_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RF-Capability-v770ext");
+   /* tdd384RF-Capability */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->tdd384RF_Capability, 0, 15);
+      RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList-r7", "tdd384RF-Capability", -1, "RF-Capability-v770ext");
+   }
+   /* tdd768RF-Capability */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RF_Capability_v770ext_tdd768RF_Capability(ctx, &pvalue->tdd768RF_Capability);
+      RT_CHECK(ctx, stat, 0, "tdd768RF-Capability", -1, "RF-Capability-v770ext");
+   }
+   /* tdd128RF-Capability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->tdd128RF_Capability, 0, 15);
+      RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList-r7", "tdd128RF-Capability", -1, "RF-Capability-v770ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RF_Capability_v860ext(rtxContext* RT_RESTRICT ctx, RF_Capability_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RF-Capability-v860ext");
+   /* tdd128RF-Capability */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioFrequencyBandTDDextList(ctx, &pvalue->tdd128RF_Capability);
+      RT_CHECK(ctx, stat, 0, "tdd128RF-Capability", -1, "RF-Capability-v860ext");
+   }
+   /* tdd384RF-Capability */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RadioFrequencyBandTDDextList(ctx, &pvalue->tdd384RF_Capability);
+      RT_CHECK(ctx, stat, 0, "tdd384RF-Capability", -1, "RF-Capability-v860ext");
+   }
+   /* tdd768RF-Capability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_RadioFrequencyBandTDDextList(ctx, &pvalue->tdd768RF_Capability);
+      RT_CHECK(ctx, stat, 0, "tdd768RF-Capability", -1, "RF-Capability-v860ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TotalRLC_AM_BufferSize(rtxContext* RT_RESTRICT ctx, TotalRLC_AM_BufferSize* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TotalRLC-AM-BufferSize");
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_Capability(rtxContext* RT_RESTRICT ctx, RLC_Capability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* totalRLC-AM-BufferSize */
+   stat = pd_ConsUnsigned(ctx, &pvalue->totalRLC_AM_BufferSize, 0, 7);
+   RT_CHECK(ctx, stat, "TotalRLC-AM-BufferSize", "totalRLC-AM-BufferSize", -1, "RLC-Capability");
+   /* maximumRLC-WindowSize */
+   stat = pd_ConsUnsigned(ctx, &pvalue->maximumRLC_WindowSize, 0, 1);
+   RT_CHECK(ctx, stat, "MaximumRLC-WindowSize", "maximumRLC-WindowSize", -1, "RLC-Capability");
+   /* maximumAM-EntityNumber */
+   stat = pd_ConsUnsigned(ctx, &pvalue->maximumAM_EntityNumber, 0, 6);
+   RT_CHECK(ctx, stat, "MaximumAM-EntityNumberRLC-Cap", "maximumAM-EntityNumber", -1, "RLC-Capability");
+   return 0;
+}
+
+int asn1PD_UMTS_TotalRLC_AM_BufferSize_r5_ext(rtxContext* RT_RESTRICT ctx, TotalRLC_AM_BufferSize_r5_ext* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TotalRLC-AM-BufferSize-r5-ext");
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_Capability_r5_ext(rtxContext* RT_RESTRICT ctx, RLC_Capability_r5_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-Capability-r5-ext");
+   /* totalRLC-AM-BufferSize */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->totalRLC_AM_BufferSize, 0, 3);
+      RT_CHECK(ctx, stat, "TotalRLC-AM-BufferSize-r5-ext", "totalRLC-AM-BufferSize", -1, "RLC-Capability-r5-ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_Capability_v770ext(rtxContext* RT_RESTRICT ctx, RLC_Capability_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* supportOfTwoLogicalChannel */
+   stat = rtxDecBitInline(ctx, &pvalue->supportOfTwoLogicalChannel);
+   RT_CHECK(ctx, stat, 0, "supportOfTwoLogicalChannel", -1, "RLC-Capability-v770ext");
+   return 0;
+}
+
+int asn1PD_UMTS_TotalRLC_AM_BufferSize_v920ext(rtxContext* RT_RESTRICT ctx, TotalRLC_AM_BufferSize_v920ext* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TotalRLC-AM-BufferSize-v920ext");
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_Capability_v920ext(rtxContext* RT_RESTRICT ctx, RLC_Capability_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-Capability-v920ext");
+   /* totalRLC-AM-BufferSize */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->totalRLC_AM_BufferSize, 0, 1);
+      RT_CHECK(ctx, stat, "TotalRLC-AM-BufferSize-v920ext", "totalRLC-AM-BufferSize", -1, "RLC-Capability-v920ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRC_StateIndicator(rtxContext* RT_RESTRICT ctx, RRC_StateIndicator* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRC-StateIndicator");
+   return 0;
+}
+
+int asn1PD_UMTS_S_RNTI_2(rtxContext* RT_RESTRICT ctx, S_RNTI_2* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 10, 10);
+   stat = pd_BitString32(ctx, pvalue, 10, 10);
+   RT_CHECK(ctx, stat, 0, 0, -1, "S-RNTI-2");
+   return 0;
+}
+
+int asn1PD_UMTS_SecurityCapability_cipheringAlgorithmCap(rtxContext* RT_RESTRICT ctx, SecurityCapability_cipheringAlgorithmCap* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32(ctx, pvalue, 16, 16);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SecurityCapability_integrityProtectionAlgorithmCap(rtxContext* RT_RESTRICT ctx, SecurityCapability_integrityProtectionAlgorithmCap* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32(ctx, pvalue, 16, 16);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SecurityCapability(rtxContext* RT_RESTRICT ctx, SecurityCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* cipheringAlgorithmCap */
+   stat = asn1PD_UMTS_SecurityCapability_cipheringAlgorithmCap(ctx, &pvalue->cipheringAlgorithmCap);
+   RT_CHECK(ctx, stat, 0, "cipheringAlgorithmCap", -1, "SecurityCapability");
+   /* integrityProtectionAlgorithmCap */
+   stat = asn1PD_UMTS_SecurityCapability_integrityProtectionAlgorithmCap(ctx, &pvalue->integrityProtectionAlgorithmCap);
+   RT_CHECK(ctx, stat, 0, "integrityProtectionAlgorithmCap", -1, "SecurityCapability");
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryServingEDCHCell_Info(rtxContext* RT_RESTRICT ctx, SecondaryServingEDCHCell_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SecondaryServingEDCHCell-Info");
+   /* primary-E-RNTI */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->primary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "primary-E-RNTI", -1, "SecondaryServingEDCHCell-Info");
+   }
+   /* secondary-E-RNTI */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->secondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "secondary-E-RNTI", -1, "SecondaryServingEDCHCell-Info");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryEDCH_Info_Common_servingGrant_primary_Secondary_GrantSelector(rtxContext* RT_RESTRICT ctx, SecondaryEDCH_Info_Common_servingGrant_primary_Secondary_GrantSelector* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryEDCH_Info_Common_servingGrant(rtxContext* RT_RESTRICT ctx, SecondaryEDCH_Info_Common_servingGrant* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* primary-Secondary-GrantSelector */
+   stat = pd_ConsUnsigned(ctx, &pvalue->primary_Secondary_GrantSelector, 0, 1);
+   RT_CHECK(ctx, stat, 0, "primary-Secondary-GrantSelector", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PC_Preamble(rtxContext* RT_RESTRICT ctx, PC_Preamble* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PC-Preamble");
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryEDCH_Info_Common(rtxContext* RT_RESTRICT ctx, SecondaryEDCH_Info_Common* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SecondaryEDCH-Info-Common");
+   /* frequencyInfo */
+   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "SecondaryEDCH-Info-Common");
+   /* scramblingCodeType */
+   stat = pd_ConsUnsigned(ctx, &pvalue->scramblingCodeType, 0, 1);
+   RT_CHECK(ctx, stat, "ScramblingCodeType", "scramblingCodeType", -1, "SecondaryEDCH-Info-Common");
+   /* scramblingCodeNumber */
+   stat = pd_ConsUInt32(ctx, &pvalue->scramblingCodeNumber, 0, 16777215);
+   RT_CHECK(ctx, stat, "UL-ScramblingCode", "scramblingCodeNumber", -1, "SecondaryEDCH-Info-Common");
+   /* ms2-SchedTransmGrantHARQAlloc */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pd_BitString32(ctx, &pvalue->ms2_SchedTransmGrantHARQAlloc, 8, 8);
+      RT_CHECK(ctx, stat, 0, "ms2-SchedTransmGrantHARQAlloc", -1, "SecondaryEDCH-Info-Common");
+   }
+   /* servingGrant */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SecondaryEDCH_Info_Common_servingGrant(ctx, &pvalue->servingGrant);
+      RT_CHECK(ctx, stat, 0, "servingGrant", -1, "SecondaryEDCH-Info-Common");
+   }
+   /* minReduced-E-DPDCH-GainFactor */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->minReduced_E_DPDCH_GainFactor, 0, 7);
+      RT_CHECK(ctx, stat, "MinReduced-E-DPDCH-GainFactor", "minReduced-E-DPDCH-GainFactor", -1, "SecondaryEDCH-Info-Common");
+   }
+   /* e-DCH-minimumSet-E-TFCI */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUInt8(ctx, &pvalue->e_DCH_minimumSet_E_TFCI, 0, 127);
+      RT_CHECK(ctx, stat, "E-DCH-MinimumSet-E-TFCI", "e-DCH-minimumSet-E-TFCI", -1, "SecondaryEDCH-Info-Common");
+   }
+   /* dpcchPowerOffset-SecondaryULFrequency */
+   stat = pd_ConsUInt8(ctx, &pvalue->dpcchPowerOffset_SecondaryULFrequency, 0, 7);
+   RT_CHECK(ctx, stat, 0, "dpcchPowerOffset-SecondaryULFrequency", -1, "SecondaryEDCH-Info-Common");
+   /* pc-Preamble */
+   stat = pd_ConsUInt8(ctx, &pvalue->pc_Preamble, 0, 7);
+   RT_CHECK(ctx, stat, "PC-Preamble", "pc-Preamble", -1, "SecondaryEDCH-Info-Common");
+   return 0;
+}
+
+int asn1PD_UMTS_HARQ_Preamble_Mode(rtxContext* RT_RESTRICT ctx, HARQ_Preamble_Mode* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HARQ-Preamble-Mode");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 2);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      pvalue->n = raw + 1;
+      if (raw > 3) {
+         rtxErrAddStrParm(ctx, "hS-SCCHChannelisationCodeInfo");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 127);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* hS-SCCHChannelisationCodeInfo */
+   stat = asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo);
+   RT_CHECK(ctx, stat, 0, "hS-SCCHChannelisationCodeInfo", -1, 0);
+   /* dl-ScramblingCode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->dl_ScramblingCode, 1, 15);
+      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SICH_Power_Control_Info_TDD384(rtxContext* RT_RESTRICT ctx, HS_SICH_Power_Control_Info_TDD384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ul-target-SIR */
+   stat = pd_ConsInt8(ctx, &pvalue->ul_target_SIR, -22, 40);
+   RT_CHECK(ctx, stat, 0, "ul-target-SIR", -1, "HS-SICH-Power-Control-Info-TDD384");
+   /* hs-sich-ConstantValue */
+   stat = pd_ConsInt8(ctx, &pvalue->hs_sich_ConstantValue, -35, -10);
+   RT_CHECK(ctx, stat, "ConstantValue", "hs-sich-ConstantValue", -1, "HS-SICH-Power-Control-Info-TDD384");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* midambleShift */
+   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
+   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_TDD384_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD384_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* commonMidamble */
+         break;
+      case 2: /* ueSpecificMidamble */
+         pvalue->u.ueSpecificMidamble = (HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble));
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
+         stat = asn1PD_UMTS_HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* midambleShift */
+   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
+   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SICH_Configuration_TDD384_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD384_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* ueSpecificMidamble */
+         pvalue->u.ueSpecificMidamble = (HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble));
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
+         stat = asn1PD_UMTS_HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SICH_Configuration_TDD384(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* timeslotNumber */
+   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 14);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, "HS-SICH-Configuration-TDD384");
+   /* channelisationCode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->channelisationCode, 0, 15);
+   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode", "channelisationCode", -1, "HS-SICH-Configuration-TDD384");
+   /* midambleAllocationMode */
+   stat = asn1PD_UMTS_HS_SICH_Configuration_TDD384_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SICH-Configuration-TDD384");
+   /* midambleconfiguration */
+   stat = pd_ConsUnsigned(ctx, &pvalue->midambleconfiguration, 0, 2);
+   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SICH-Configuration-TDD384");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_TDD384(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* timeslotNumber */
+   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 14);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, "HS-SCCH-TDD384");
+   /* channelisationCode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->channelisationCode, 0, 15);
+   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode", "channelisationCode", -1, "HS-SCCH-TDD384");
+   /* midambleAllocationMode */
+   stat = asn1PD_UMTS_HS_SCCH_TDD384_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SCCH-TDD384");
+   /* midambleconfiguration */
+   stat = pd_ConsUnsigned(ctx, &pvalue->midambleconfiguration, 0, 2);
+   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SCCH-TDD384");
+   /* bler-target */
+   stat = pd_ConsInt8(ctx, &pvalue->bler_target, -63, 0);
+   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, "HS-SCCH-TDD384");
+   /* hs-sich-configuration */
+   stat = asn1PD_UMTS_HS_SICH_Configuration_TDD384(ctx, &pvalue->hs_sich_configuration);
+   RT_CHECK(ctx, stat, 0, "hs-sich-configuration", -1, "HS-SCCH-TDD384");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      HS_SCCH_TDD384* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD384));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "HS-SCCH-TDD384", (int32_t)i, 0);
+      elem = (HS_SCCH_TDD384*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_HS_SCCH_TDD384(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_HS_SCCH_TDD384(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD384", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* nack-ack-power-offset */
+   stat = pd_ConsInt8(ctx, &pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, 0);
+   /* hs-SICH-PowerControl-Info */
+   stat = asn1PD_UMTS_HS_SICH_Power_Control_Info_TDD384(ctx, &pvalue->hs_SICH_PowerControl_Info);
+   RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl-Info", -1, 0);
+   /* hS-SCCH-SetConfiguration */
+   stat = asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_TDD128_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD128_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* commonMidamble */
+         break;
+      case 2: /* ueSpecificMidamble */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.ueSpecificMidamble, 0, 15);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* midambleShift */
+   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
+   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SICH_Configuration_TDD128_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* ueSpecificMidamble */
+         pvalue->u.ueSpecificMidamble = (HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble));
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
+         stat = asn1PD_UMTS_HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SICH_Configuration_TDD128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128_tpc_step_size* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SICH_Configuration_TDD128(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* timeslotNumber */
+   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 6);
+   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SICH-Configuration-TDD128");
+   /* channelisationCode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->channelisationCode, 0, 15);
+   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "channelisationCode", -1, "HS-SICH-Configuration-TDD128");
+   /* midambleAllocationMode */
+   stat = asn1PD_UMTS_HS_SICH_Configuration_TDD128_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SICH-Configuration-TDD128");
+   /* midambleConfiguration */
+   stat = pd_ConsUInt8(ctx, &pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "HS-SICH-Configuration-TDD128");
+   /* nack-ack-power-offset */
+   stat = pd_ConsInt8(ctx, &pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, "HS-SICH-Configuration-TDD128");
+   /* power-level-HSSICH */
+   stat = pd_ConsInt8(ctx, &pvalue->power_level_HSSICH, -120, -58);
+   RT_CHECK(ctx, stat, 0, "power-level-HSSICH", -1, "HS-SICH-Configuration-TDD128");
+   /* tpc-step-size */
+   stat = pd_ConsUnsigned(ctx, &pvalue->tpc_step_size, 0, 3);
+   RT_CHECK(ctx, stat, 0, "tpc-step-size", -1, "HS-SICH-Configuration-TDD128");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_TDD128(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* timeslotNumber */
+   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 6);
+   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SCCH-TDD128");
+   /* firstChannelisationCode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->firstChannelisationCode, 0, 15);
+   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "firstChannelisationCode", -1, "HS-SCCH-TDD128");
+   /* secondChannelisationCode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->secondChannelisationCode, 0, 15);
+   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "secondChannelisationCode", -1, "HS-SCCH-TDD128");
+   /* midambleAllocationMode */
+   stat = asn1PD_UMTS_HS_SCCH_TDD128_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SCCH-TDD128");
+   /* midambleConfiguration */
+   stat = pd_ConsUInt8(ctx, &pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "HS-SCCH-TDD128");
+   /* bler-target */
+   stat = pd_ConsInt8(ctx, &pvalue->bler_target, -63, 0);
+   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, "HS-SCCH-TDD128");
+   /* hs-sich-configuration */
+   stat = asn1PD_UMTS_HS_SICH_Configuration_TDD128(ctx, &pvalue->hs_sich_configuration);
+   RT_CHECK(ctx, stat, 0, "hs-sich-configuration", -1, "HS-SCCH-TDD128");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      HS_SCCH_TDD128* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD128));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "HS-SCCH-TDD128", (int32_t)i, 0);
+      elem = (HS_SCCH_TDD128*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_HS_SCCH_TDD128(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_HS_SCCH_TDD128(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD128", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (HS_SCCH_Info_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_modeSpecificInfo_tdd_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
+         stat = asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (HS_SCCH_Info_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_modeSpecificInfo_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
+         stat = asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (HS_SCCH_Info_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (HS_SCCH_Info_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "HS-SCCH-Info");
+   return 0;
+}
+
+int asn1PD_UMTS_Feedback_cycle(rtxContext* RT_RESTRICT ctx, Feedback_cycle* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Feedback-cycle");
+   return 0;
+}
+
+int asn1PD_UMTS_Measurement_Feedback_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, Measurement_Feedback_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* measurementPowerOffset */
+   stat = pd_ConsInt8(ctx, &pvalue->measurementPowerOffset, -12, 26);
+   RT_CHECK(ctx, stat, "MeasurementPowerOffset", "measurementPowerOffset", -1, 0);
+   /* feedback-cycle */
+   stat = pd_ConsUnsigned(ctx, &pvalue->feedback_cycle, 0, 8);
+   RT_CHECK(ctx, stat, "Feedback-cycle", "feedback-cycle", -1, 0);
+   /* cqi-RepetitionFactor */
+   stat = pd_ConsUInt8(ctx, &pvalue->cqi_RepetitionFactor, 1, 4);
+   RT_CHECK(ctx, stat, "CQI-RepetitionFactor", "cqi-RepetitionFactor", -1, 0);
+   /* deltaCQI */
+   stat = pd_ConsUInt8(ctx, &pvalue->deltaCQI, 0, 8);
+   RT_CHECK(ctx, stat, "DeltaCQI", "deltaCQI", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_Measurement_Feedback_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, Measurement_Feedback_Info_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (Measurement_Feedback_Info_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(Measurement_Feedback_Info_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = asn1PD_UMTS_Measurement_Feedback_Info_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Measurement_Feedback_Info(rtxContext* RT_RESTRICT ctx, Measurement_Feedback_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_Measurement_Feedback_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "Measurement-Feedback-Info");
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* midambleShift */
+   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
+   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* commonMidamble */
+         break;
+      case 2: /* ueSpecificMidamble */
+         pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble));
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
+         stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type1(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_burstType_type1* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* midambleConfigurationBurstType1and3 */
+   stat = pd_ConsUnsigned(ctx, &pvalue->midambleConfigurationBurstType1and3, 0, 2);
+   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
+   /* midambleAllocationMode */
+   stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* midambleShift */
+   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 5);
+   RT_CHECK(ctx, stat, "MidambleShiftShort", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* commonMidamble */
+         break;
+      case 2: /* ueSpecificMidamble */
+         pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble));
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
+         stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type2(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_burstType_type2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* midambleConfigurationBurstType2 */
+   stat = pd_ConsUnsigned(ctx, &pvalue->midambleConfigurationBurstType2, 0, 1);
+   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType2", "midambleConfigurationBurstType2", -1, 0);
+   /* midambleAllocationMode */
+   stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_burstType* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* type1 */
+         pvalue->u.type1 = (MidambleShiftAndBurstType_DL_burstType_type1*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_DL_burstType_type1));
+         if (pvalue->u.type1 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "type1", -1, 0);
+         asn1Init_UMTS_MidambleShiftAndBurstType_DL_burstType_type1(pvalue->u.type1);
+         stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type1(ctx, pvalue->u.type1);
+         RT_CHECK(ctx, stat, 0, "type1", -1, 0);
+         break;
+      case 1: /* type2 */
+         pvalue->u.type2 = (MidambleShiftAndBurstType_DL_burstType_type2*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_DL_burstType_type2));
+         if (pvalue->u.type2 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "type2", -1, 0);
+         asn1Init_UMTS_MidambleShiftAndBurstType_DL_burstType_type2(pvalue->u.type2);
+         stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type2(ctx, pvalue->u.type2);
+         RT_CHECK(ctx, stat, 0, "type2", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_DL(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* burstType */
+   stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType(ctx, &pvalue->burstType);
+   RT_CHECK(ctx, stat, 0, "burstType", -1, "MidambleShiftAndBurstType-DL");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_TS_Configuration_element(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_TS_Configuration_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* timeslot */
+   stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 0, 14);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, 0);
+   /* midambleShiftAndBurstType */
+   stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL(ctx, &pvalue->midambleShiftAndBurstType);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_TS_Configuration(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_TS_Configuration* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 13);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-HSPDSCH-TS-Configuration");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_HSPDSCH_TS_Configuration_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_HSPDSCH_TS_Configuration_element));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "DL-HSPDSCH-TS-Configuration");
+      elem = (DL_HSPDSCH_TS_Configuration_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_HSPDSCH_TS_Configuration_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_DL_HSPDSCH_TS_Configuration_element(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "DL-HSPDSCH-TS-Configuration");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-HSPDSCH-TS-Configuration */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_TS_Configuration(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* hs-PDSCH-Midamble-Configuration-tdd128 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration_tdd128);
+      RT_CHECK(ctx, stat, 0, "hs-PDSCH-Midamble-Configuration-tdd128", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
+         stat = asn1PD_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
+         stat = asn1PD_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd */
+         pvalue->u.tdd = (DL_HSPDSCH_Information_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      case 1: /* fdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-HSPDSCH-Information");
+   /* hs-scch-Info */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HS_SCCH_Info(ctx, &pvalue->hs_scch_Info);
+      RT_CHECK(ctx, stat, 0, "hs-scch-Info", -1, "DL-HSPDSCH-Information");
+   }
+   /* measurement-feedback-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_Measurement_Feedback_Info(ctx, &pvalue->measurement_feedback_Info);
+      RT_CHECK(ctx, stat, 0, "measurement-feedback-Info", -1, "DL-HSPDSCH-Information");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_DL_HSPDSCH_Information_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-HSPDSCH-Information");
+   return 0;
+}
+
+int asn1PD_UMTS_Serving_HSDSCH_CellInformation_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_mac_hsResetIndicator* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Serving_HSDSCH_CellInformation(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Serving-HSDSCH-CellInformation");
+   /* deltaACK */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->deltaACK, 0, 8);
+      RT_CHECK(ctx, stat, "DeltaACK", "deltaACK", -1, "Serving-HSDSCH-CellInformation");
+   }
+   /* deltaNACK */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->deltaNACK, 0, 8);
+      RT_CHECK(ctx, stat, "DeltaNACK", "deltaNACK", -1, "Serving-HSDSCH-CellInformation");
+   }
+   /* harq-Preamble-Mode */
+   stat = pd_ConsUInt8(ctx, &pvalue->harq_Preamble_Mode, 0, 1);
+   RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "Serving-HSDSCH-CellInformation");
+   /* primaryCPICH-Info */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "Serving-HSDSCH-CellInformation");
+   }
+   /* dl-hspdsch-Information */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information(ctx, &pvalue->dl_hspdsch_Information);
+      RT_CHECK(ctx, stat, 0, "dl-hspdsch-Information", -1, "Serving-HSDSCH-CellInformation");
+   }
+   /* harqInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_HARQ_Info(ctx, &pvalue->harqInfo);
+      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "Serving-HSDSCH-CellInformation");
+   }
+   /* mac-hsResetIndicator */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation");
+         pvalue->mac_hsResetIndicator = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 2);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      pvalue->n = raw + 1;
+      if (raw > 3) {
+         rtxErrAddStrParm(ctx, "hS-SCCHChannelisationCodeInfo");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 127);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* hS-SCCHChannelisationCodeInfo */
+   stat = asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo);
+   RT_CHECK(ctx, stat, 0, "hS-SCCHChannelisationCodeInfo", -1, 0);
+   /* dl-ScramblingCode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->dl_ScramblingCode, 1, 15);
+      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DHS_Sync(rtxContext* RT_RESTRICT ctx, DHS_Sync* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsInt8(ctx, pvalue, -20, 10);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DHS-Sync");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* midambleShift */
+   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
+   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_TDD384_r6_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD384_r6_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* commonMidamble */
+         break;
+      case 2: /* ueSpecificMidamble */
+         pvalue->u.ueSpecificMidamble = (HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble));
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
+         stat = asn1PD_UMTS_HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_TDD384_r6(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD384_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* timeslotNumber */
+   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 14);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, "HS-SCCH-TDD384-r6");
+   /* channelisationCode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->channelisationCode, 0, 15);
+   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode", "channelisationCode", -1, "HS-SCCH-TDD384-r6");
+   /* midambleAllocationMode */
+   stat = asn1PD_UMTS_HS_SCCH_TDD384_r6_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SCCH-TDD384-r6");
+   /* midambleconfiguration */
+   stat = pd_ConsUnsigned(ctx, &pvalue->midambleconfiguration, 0, 2);
+   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SCCH-TDD384-r6");
+   /* hs-sich-configuration */
+   stat = asn1PD_UMTS_HS_SICH_Configuration_TDD384(ctx, &pvalue->hs_sich_configuration);
+   RT_CHECK(ctx, stat, 0, "hs-sich-configuration", -1, "HS-SCCH-TDD384-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      HS_SCCH_TDD384_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD384_r6));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "HS-SCCH-TDD384-r6", (int32_t)i, 0);
+      elem = (HS_SCCH_TDD384_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_HS_SCCH_TDD384_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_HS_SCCH_TDD384_r6(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD384-r6", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* nack-ack-power-offset */
+   stat = pd_ConsInt8(ctx, &pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, 0);
+   /* hs-SICH-PowerControl-Info */
+   stat = asn1PD_UMTS_HS_SICH_Power_Control_Info_TDD384(ctx, &pvalue->hs_SICH_PowerControl_Info);
+   RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl-Info", -1, 0);
+   /* dhs-sync */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8(ctx, &pvalue->dhs_sync, -20, 10);
+      RT_CHECK(ctx, stat, "DHS-Sync", "dhs-sync", -1, 0);
+   }
+   /* bler-target */
+   stat = pd_ConsInt8(ctx, &pvalue->bler_target, -63, 0);
+   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, 0);
+   /* hS-SCCH-SetConfiguration */
+   stat = asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SICH_Power_Control_Info_TDD768(rtxContext* RT_RESTRICT ctx, HS_SICH_Power_Control_Info_TDD768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ul-target-SIR */
+   stat = pd_ConsInt8(ctx, &pvalue->ul_target_SIR, -22, 40);
+   RT_CHECK(ctx, stat, 0, "ul-target-SIR", -1, "HS-SICH-Power-Control-Info-TDD768");
+   /* hs-sich-ConstantValue */
+   stat = pd_ConsInt8(ctx, &pvalue->hs_sich_ConstantValue, -35, -10);
+   RT_CHECK(ctx, stat, "ConstantValue", "hs-sich-ConstantValue", -1, "HS-SICH-Power-Control-Info-TDD768");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* midambleShift */
+   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
+   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_TDD768_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD768_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* commonMidamble */
+         break;
+      case 2: /* ueSpecificMidamble */
+         pvalue->u.ueSpecificMidamble = (HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble));
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
+         stat = asn1PD_UMTS_HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* midambleShift */
+   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
+   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SICH_Configuration_TDD768_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD768_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* ueSpecificMidamble */
+         pvalue->u.ueSpecificMidamble = (HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble));
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
+         stat = asn1PD_UMTS_HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SICH_Configuration_TDD768(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* timeslotNumber */
+   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 14);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, "HS-SICH-Configuration-TDD768");
+   /* channelisationCode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->channelisationCode, 0, 31);
+   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode-VHCR", "channelisationCode", -1, "HS-SICH-Configuration-TDD768");
+   /* midambleAllocationMode */
+   stat = asn1PD_UMTS_HS_SICH_Configuration_TDD768_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SICH-Configuration-TDD768");
+   /* midambleconfiguration */
+   stat = pd_ConsUnsigned(ctx, &pvalue->midambleconfiguration, 0, 2);
+   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SICH-Configuration-TDD768");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_TDD768(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* timeslotNumber */
+   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 14);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, "HS-SCCH-TDD768");
+   /* channelisationCode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->channelisationCode, 0, 31);
+   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode-VHCR", "channelisationCode", -1, "HS-SCCH-TDD768");
+   /* midambleAllocationMode */
+   stat = asn1PD_UMTS_HS_SCCH_TDD768_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SCCH-TDD768");
+   /* midambleconfiguration */
+   stat = pd_ConsUnsigned(ctx, &pvalue->midambleconfiguration, 0, 2);
+   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SCCH-TDD768");
+   /* hs-sich-configuration */
+   stat = asn1PD_UMTS_HS_SICH_Configuration_TDD768(ctx, &pvalue->hs_sich_configuration);
+   RT_CHECK(ctx, stat, 0, "hs-sich-configuration", -1, "HS-SCCH-TDD768");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      HS_SCCH_TDD768* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD768));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "HS-SCCH-TDD768", (int32_t)i, 0);
+      elem = (HS_SCCH_TDD768*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_HS_SCCH_TDD768(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_HS_SCCH_TDD768(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD768", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* nack-ack-power-offset */
+   stat = pd_ConsInt8(ctx, &pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, 0);
+   /* hs-SICH-PowerControl-Info */
+   stat = asn1PD_UMTS_HS_SICH_Power_Control_Info_TDD768(ctx, &pvalue->hs_SICH_PowerControl_Info);
+   RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl-Info", -1, 0);
+   /* dhs-sync */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8(ctx, &pvalue->dhs_sync, -20, 10);
+      RT_CHECK(ctx, stat, "DHS-Sync", "dhs-sync", -1, 0);
+   }
+   /* bler-target */
+   stat = pd_ConsInt8(ctx, &pvalue->bler_target, -63, 0);
+   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, 0);
+   /* hS-SCCH-SetConfiguration */
+   stat = asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_tpc_step_size* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PowerControlGAP(rtxContext* RT_RESTRICT ctx, PowerControlGAP* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 255);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PowerControlGAP");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      HS_SCCH_TDD128_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD128_r6));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
+      elem = (HS_SCCH_TDD128_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_HS_SCCH_TDD128_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_HS_SCCH_TDD128_r6(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* nack-ack-power-offset */
+   stat = pd_ConsInt8(ctx, &pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, 0);
+   /* power-level-HSSICH */
+   stat = pd_ConsInt8(ctx, &pvalue->power_level_HSSICH, -120, -58);
+   RT_CHECK(ctx, stat, 0, "power-level-HSSICH", -1, 0);
+   /* tpc-step-size */
+   stat = pd_ConsUnsigned(ctx, &pvalue->tpc_step_size, 0, 3);
+   RT_CHECK(ctx, stat, 0, "tpc-step-size", -1, 0);
+   /* bler-target */
+   stat = pd_ConsInt8(ctx, &pvalue->bler_target, -63, 0);
+   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, 0);
+   /* powerControlGAP */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->powerControlGAP, 0, 255);
+      RT_CHECK(ctx, stat, "PowerControlGAP", "powerControlGAP", -1, 0);
+   }
+   /* pathlossCompensationSwitch */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = rtxDecBitInline(ctx, &pvalue->pathlossCompensationSwitch);
+      RT_CHECK(ctx, stat, 0, "pathlossCompensationSwitch", -1, 0);
+   }
+   /* hS-SCCH-SetConfiguration */
+   stat = asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
+         stat = asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd768 */
+         pvalue->u.tdd768 = (HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768));
+         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768(pvalue->u.tdd768);
+         stat = asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 2: /* tdd128 */
+         pvalue->u.tdd128 = (HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
+         stat = asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (HS_SCCH_Info_r7_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r7_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (HS_SCCH_Info_r7_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r7_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r7(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "HS-SCCH-Info-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-HSPDSCH-TS-Configuration */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_TS_Configuration(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* midambleShift */
+   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
+   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* commonMidamble */
+         break;
+      case 2: /* ueSpecificMidamble */
+         pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble));
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
+         stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR_burstType_type1* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* midambleConfigurationBurstType1and3 */
+   stat = pd_ConsUnsigned(ctx, &pvalue->midambleConfigurationBurstType1and3, 0, 2);
+   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
+   /* midambleAllocationMode */
+   stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* midambleShift */
+   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 7);
+   RT_CHECK(ctx, stat, "MidambleShiftShort-VHCR", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* commonMidamble */
+         break;
+      case 2: /* ueSpecificMidamble */
+         pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble));
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
+         stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR_burstType_type2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* midambleConfigurationBurstType2 */
+   stat = pd_ConsUnsigned(ctx, &pvalue->midambleConfigurationBurstType2, 0, 1);
+   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType2-VHCR", "midambleConfigurationBurstType2", -1, 0);
+   /* midambleAllocationMode */
+   stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR_burstType* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* type1 */
+         pvalue->u.type1 = (MidambleShiftAndBurstType_DL_VHCR_burstType_type1*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_DL_VHCR_burstType_type1));
+         if (pvalue->u.type1 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "type1", -1, 0);
+         asn1Init_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1(pvalue->u.type1);
+         stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1(ctx, pvalue->u.type1);
+         RT_CHECK(ctx, stat, 0, "type1", -1, 0);
+         break;
+      case 1: /* type2 */
+         pvalue->u.type2 = (MidambleShiftAndBurstType_DL_VHCR_burstType_type2*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_DL_VHCR_burstType_type2));
+         if (pvalue->u.type2 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "type2", -1, 0);
+         asn1Init_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2(pvalue->u.type2);
+         stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2(ctx, pvalue->u.type2);
+         RT_CHECK(ctx, stat, 0, "type2", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_DL_VHCR* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* burstType */
+   stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType(ctx, &pvalue->burstType);
+   RT_CHECK(ctx, stat, 0, "burstType", -1, "MidambleShiftAndBurstType-DL-VHCR");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_TS_Configuration_VHCR_element(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_TS_Configuration_VHCR_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* timeslot */
+   stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 0, 14);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, 0);
+   /* midambleShiftAndBurstType */
+   stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR(ctx, &pvalue->midambleShiftAndBurstType);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_TS_Configuration_VHCR(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_TS_Configuration_VHCR* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 13);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-HSPDSCH-TS-Configuration-VHCR");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_HSPDSCH_TS_Configuration_VHCR_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_HSPDSCH_TS_Configuration_VHCR_element));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "DL-HSPDSCH-TS-Configuration-VHCR");
+      elem = (DL_HSPDSCH_TS_Configuration_VHCR_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_HSPDSCH_TS_Configuration_VHCR_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_DL_HSPDSCH_TS_Configuration_VHCR_element(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "DL-HSPDSCH-TS-Configuration-VHCR");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-HSPDSCH-TS-Configuration */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_TS_Configuration_VHCR(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_MultiCarrier_Information_tsn_Length(rtxContext* RT_RESTRICT ctx, DL_MultiCarrier_Information_tsn_Length* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_TDD128_MultiCarrier_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD128_MultiCarrier_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* commonMidamble */
+         break;
+      case 2: /* ueSpecificMidamble */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.ueSpecificMidamble, 0, 15);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_TDD128_MultiCarrier(rtxContext* RT_RESTRICT ctx, HS_SCCH_TDD128_MultiCarrier* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* uarfcn-HS-SCCH-Rx */
+   stat = pd_ConsUInt16(ctx, &pvalue->uarfcn_HS_SCCH_Rx, 0, 16383);
+   RT_CHECK(ctx, stat, "UARFCN", "uarfcn-HS-SCCH-Rx", -1, "HS-SCCH-TDD128-MultiCarrier");
+   /* timeslotNumber */
+   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 6);
+   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SCCH-TDD128-MultiCarrier");
+   /* firstChannelisationCode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->firstChannelisationCode, 0, 15);
+   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "firstChannelisationCode", -1, "HS-SCCH-TDD128-MultiCarrier");
+   /* secondChannelisationCode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->secondChannelisationCode, 0, 15);
+   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "secondChannelisationCode", -1, "HS-SCCH-TDD128-MultiCarrier");
+   /* midambleAllocationMode */
+   stat = asn1PD_UMTS_HS_SCCH_TDD128_MultiCarrier_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SCCH-TDD128-MultiCarrier");
+   /* midambleConfiguration */
+   stat = pd_ConsUInt8(ctx, &pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "HS-SCCH-TDD128-MultiCarrier");
+   /* bler-target */
+   stat = pd_ConsInt8(ctx, &pvalue->bler_target, -63, 0);
+   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, "HS-SCCH-TDD128-MultiCarrier");
+   /* hs-sich-configuration */
+   stat = asn1PD_UMTS_HS_SICH_Configuration_TDD128(ctx, &pvalue->hs_sich_configuration);
+   RT_CHECK(ctx, stat, 0, "hs-sich-configuration", -1, "HS-SCCH-TDD128-MultiCarrier");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_MultiCarrier_Information_element_hs_SCCH_TDD128_MultiCarrier(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_MultiCarrier_Information_element_hs_SCCH_TDD128_MultiCarrier* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      HS_SCCH_TDD128_MultiCarrier* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD128_MultiCarrier));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "HS-SCCH-TDD128-MultiCarrier", (int32_t)i, 0);
+      elem = (HS_SCCH_TDD128_MultiCarrier*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_HS_SCCH_TDD128_MultiCarrier(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_HS_SCCH_TDD128_MultiCarrier(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD128-MultiCarrier", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_MultiCarrier_Information_element(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_MultiCarrier_Information_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uarfcn-Carrier */
+   stat = pd_ConsUInt16(ctx, &pvalue->uarfcn_Carrier, 0, 16383);
+   RT_CHECK(ctx, stat, "UARFCN", "uarfcn-Carrier", -1, 0);
+   /* harqInfo */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HARQ_Info(ctx, &pvalue->harqInfo);
+      RT_CHECK(ctx, stat, 0, "harqInfo", -1, 0);
+   }
+   /* hs-PDSCH-Midamble-Configuration */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration);
+      RT_CHECK(ctx, stat, 0, "hs-PDSCH-Midamble-Configuration", -1, 0);
+   }
+   /* hs-SCCH-TDD128-MultiCarrier */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_MultiCarrier_Information_element_hs_SCCH_TDD128_MultiCarrier(ctx, &pvalue->hs_SCCH_TDD128_MultiCarrier);
+      RT_CHECK(ctx, stat, 0, "hs-SCCH-TDD128-MultiCarrier", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_MultiCarrier_Information(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_MultiCarrier_Information* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 6);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-HSPDSCH-MultiCarrier-Information");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_HSPDSCH_MultiCarrier_Information_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_HSPDSCH_MultiCarrier_Information_element));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "DL-HSPDSCH-MultiCarrier-Information");
+      elem = (DL_HSPDSCH_MultiCarrier_Information_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_HSPDSCH_MultiCarrier_Information_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_DL_HSPDSCH_MultiCarrier_Information_element(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "DL-HSPDSCH-MultiCarrier-Information");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_MultiCarrier_Information(rtxContext* RT_RESTRICT ctx, DL_MultiCarrier_Information* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-MultiCarrier-Information");
+   /* tsn-Length */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->tsn_Length, 0, 1);
+      RT_CHECK(ctx, stat, 0, "tsn-Length", -1, "DL-MultiCarrier-Information");
+   }
+   /* multiCarrierNumber */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->multiCarrierNumber, 1, 6);
+      RT_CHECK(ctx, stat, 0, "multiCarrierNumber", -1, "DL-MultiCarrier-Information");
+   }
+   /* dl-HSPDSCH-MultiCarrier-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_MultiCarrier_Information(ctx, &pvalue->dl_HSPDSCH_MultiCarrier_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-MultiCarrier-Information", -1, "DL-MultiCarrier-Information");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* hs-PDSCH-Midamble-Configuration-tdd128 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration_tdd128);
+      RT_CHECK(ctx, stat, 0, "hs-PDSCH-Midamble-Configuration-tdd128", -1, 0);
+   }
+   /* dl-MultiCarrier-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DL_MultiCarrier_Information(ctx, &pvalue->dl_MultiCarrier_Information);
+      RT_CHECK(ctx, stat, 0, "dl-MultiCarrier-Information", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
+         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd768 */
+         pvalue->u.tdd768 = (DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768));
+         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768(pvalue->u.tdd768);
+         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 2: /* tdd128 */
+         pvalue->u.tdd128 = (DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
+         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd_dl_64QAM_Configured* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-64QAM-Configured */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "dl-64QAM-Configured", -1, 0);
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "dl-64QAM-Configured", -1, 0);
+         pvalue->dl_64QAM_Configured = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd */
+         pvalue->u.tdd = (DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      case 1: /* fdd */
+         pvalue->u.fdd = (DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r7(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-HSPDSCH-Information-r7");
+   /* hs-scch-Info */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HS_SCCH_Info_r7(ctx, &pvalue->hs_scch_Info);
+      RT_CHECK(ctx, stat, 0, "hs-scch-Info", -1, "DL-HSPDSCH-Information-r7");
+   }
+   /* measurement-feedback-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_feedback_Info);
+      RT_CHECK(ctx, stat, 0, "measurement-feedback-Info", -1, "DL-HSPDSCH-Information-r7");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-HSPDSCH-Information-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_HARQ_Info_r7_numberOfProcesses(rtxContext* RT_RESTRICT ctx, HARQ_Info_r7_numberOfProcesses* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 10);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HARQ_Info_r7_memoryPartitioning_explicit__memorySize(rtxContext* RT_RESTRICT ctx, HARQ_Info_r7_memoryPartitioning_explicit__memorySize* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 3);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      pvalue->n = raw + 1;
+      if (raw > 7) {
+         rtxErrAddStrParm(ctx, "memorySize");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 60);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, "HARQMemorySize", "HARQMemorySize", (int32_t)i, 0);
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HARQ_Info_r7_memoryPartitioning_explicit__additionalMemorySizesForMIMO(rtxContext* RT_RESTRICT ctx, HARQ_Info_r7_memoryPartitioning_explicit__additionalMemorySizesForMIMO* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 3);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      pvalue->n = raw + 1;
+      if (raw > 7) {
+         rtxErrAddStrParm(ctx, "additionalMemorySizesForMIMO");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 60);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, "HARQMemorySize", "HARQMemorySize", (int32_t)i, 0);
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HARQ_Info_r7_memoryPartitioning_explicit_(rtxContext* RT_RESTRICT ctx, HARQ_Info_r7_memoryPartitioning_explicit_* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* memorySize */
+   stat = asn1PD_UMTS_HARQ_Info_r7_memoryPartitioning_explicit__memorySize(ctx, &pvalue->memorySize);
+   RT_CHECK(ctx, stat, 0, "memorySize", -1, 0);
+   /* additionalMemorySizesForMIMO */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HARQ_Info_r7_memoryPartitioning_explicit__additionalMemorySizesForMIMO(ctx, &pvalue->additionalMemorySizesForMIMO);
+      RT_CHECK(ctx, stat, 0, "additionalMemorySizesForMIMO", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HARQ_Info_r7_memoryPartitioning(rtxContext* RT_RESTRICT ctx, HARQ_Info_r7_memoryPartitioning* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* implicit */
+         break;
+      case 1: /* explicit */
+         pvalue->u.explicit_ = (HARQ_Info_r7_memoryPartitioning_explicit_*)rtxMemHeapAlloc(ctx, sizeof(HARQ_Info_r7_memoryPartitioning_explicit_));
+         if (pvalue->u.explicit_ == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "explicit", -1, 0);
+         asn1Init_UMTS_HARQ_Info_r7_memoryPartitioning_explicit_(pvalue->u.explicit_);
+         stat = asn1PD_UMTS_HARQ_Info_r7_memoryPartitioning_explicit_(ctx, pvalue->u.explicit_);
+         RT_CHECK(ctx, stat, 0, "explicit", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HARQ_Info_r7(rtxContext* RT_RESTRICT ctx, HARQ_Info_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* numberOfProcesses */
+   stat = pd_ConsUnsigned(ctx, &pvalue->numberOfProcesses, 0, 10);
+   RT_CHECK(ctx, stat, 0, "numberOfProcesses", -1, "HARQ-Info-r7");
+   /* memoryPartitioning */
+   stat = asn1PD_UMTS_HARQ_Info_r7_memoryPartitioning(ctx, &pvalue->memoryPartitioning);
+   RT_CHECK(ctx, stat, 0, "memoryPartitioning", -1, "HARQ-Info-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_Serving_HSDSCH_CellInformation_r7_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r7_mac_hsResetIndicator* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Serving_HSDSCH_CellInformation_r7(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Serving-HSDSCH-CellInformation-r7");
+   /* deltaACK */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->deltaACK, 0, 8);
+      RT_CHECK(ctx, stat, "DeltaACK", "deltaACK", -1, "Serving-HSDSCH-CellInformation-r7");
+   }
+   /* deltaNACK */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->deltaNACK, 0, 8);
+      RT_CHECK(ctx, stat, "DeltaNACK", "deltaNACK", -1, "Serving-HSDSCH-CellInformation-r7");
+   }
+   /* harq-Preamble-Mode */
+   stat = pd_ConsUInt8(ctx, &pvalue->harq_Preamble_Mode, 0, 1);
+   RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "Serving-HSDSCH-CellInformation-r7");
+   /* primaryCPICH-Info */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "Serving-HSDSCH-CellInformation-r7");
+   }
+   /* dl-hspdsch-Information */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7(ctx, &pvalue->dl_hspdsch_Information);
+      RT_CHECK(ctx, stat, 0, "dl-hspdsch-Information", -1, "Serving-HSDSCH-CellInformation-r7");
+   }
+   /* harqInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
+      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "Serving-HSDSCH-CellInformation-r7");
+   }
+   /* mac-hsResetIndicator */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation-r7");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation-r7");
+         pvalue->mac_hsResetIndicator = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-HSPDSCH-TS-Configuration */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_TS_Configuration(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-HSPDSCH-TS-Configuration */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_TS_Configuration_VHCR(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* hs-PDSCH-Midamble-Configuration-tdd128 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration_tdd128);
+      RT_CHECK(ctx, stat, 0, "hs-PDSCH-Midamble-Configuration-tdd128", -1, 0);
+   }
+   /* dl-MultiCarrier-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DL_MultiCarrier_Information(ctx, &pvalue->dl_MultiCarrier_Information);
+      RT_CHECK(ctx, stat, 0, "dl-MultiCarrier-Information", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
+         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd768 */
+         pvalue->u.tdd768 = (DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768));
+         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768(pvalue->u.tdd768);
+         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 2: /* tdd128 */
+         pvalue->u.tdd128 = (DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
+         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd_dl_64QAM_Configured* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_DSCH_TBSizeTable(rtxContext* RT_RESTRICT ctx, HS_DSCH_TBSizeTable* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, "HS-DSCH-TBSizeTable");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, "HS-DSCH-TBSizeTable");
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-64QAM-Configured */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "dl-64QAM-Configured", -1, 0);
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "dl-64QAM-Configured", -1, 0);
+         pvalue->dl_64QAM_Configured = ui;
+      }
+   }
+   /* hs-DSCH-TBSizeTable */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
+         pvalue->hs_DSCH_TBSizeTable = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd */
+         pvalue->u.tdd = (DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      case 1: /* fdd */
+         pvalue->u.fdd = (DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r8(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-HSPDSCH-Information-r8");
+   /* hs-scch-Info */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HS_SCCH_Info_r7(ctx, &pvalue->hs_scch_Info);
+      RT_CHECK(ctx, stat, 0, "hs-scch-Info", -1, "DL-HSPDSCH-Information-r8");
+   }
+   /* measurement-feedback-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_feedback_Info);
+      RT_CHECK(ctx, stat, 0, "measurement-feedback-Info", -1, "DL-HSPDSCH-Information-r8");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-HSPDSCH-Information-r8");
+   return 0;
+}
+
+int asn1PD_UMTS_Serving_HSDSCH_CellInformation_r8_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r8_mac_hsResetIndicator* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Serving_HSDSCH_CellInformation_r8(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Serving-HSDSCH-CellInformation-r8");
+   /* deltaACK */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->deltaACK, 0, 8);
+      RT_CHECK(ctx, stat, "DeltaACK", "deltaACK", -1, "Serving-HSDSCH-CellInformation-r8");
+   }
+   /* deltaNACK */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->deltaNACK, 0, 8);
+      RT_CHECK(ctx, stat, "DeltaNACK", "deltaNACK", -1, "Serving-HSDSCH-CellInformation-r8");
+   }
+   /* harq-Preamble-Mode */
+   stat = pd_ConsUInt8(ctx, &pvalue->harq_Preamble_Mode, 0, 1);
+   RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "Serving-HSDSCH-CellInformation-r8");
+   /* primaryCPICH-Info */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "Serving-HSDSCH-CellInformation-r8");
+   }
+   /* dl-hspdsch-Information */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_hspdsch_Information);
+      RT_CHECK(ctx, stat, 0, "dl-hspdsch-Information", -1, "Serving-HSDSCH-CellInformation-r8");
+   }
+   /* harqInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
+      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "Serving-HSDSCH-CellInformation-r8");
+   }
+   /* mac-hsResetIndicator */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation-r8");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation-r8");
+         pvalue->mac_hsResetIndicator = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 2);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      pvalue->n = raw + 1;
+      if (raw > 3) {
+         rtxErrAddStrParm(ctx, "hS-SCCHChannelisationCodeInfo");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 127);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* hS-SCCHChannelisationCodeInfo */
+   stat = asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo);
+   RT_CHECK(ctx, stat, 0, "hS-SCCHChannelisationCodeInfo", -1, 0);
+   /* dl-ScramblingCode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->dl_ScramblingCode, 1, 15);
+      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
    }
    return 0;
 }

@@ -6,9011 +6,9019 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PD_UMTS_EARFCN(rtxContext* ctx, EARFCN* pvalue)
+int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "EARFCN");
-   stat = pd_ConsUInt16(ctx, pvalue, 0, 65535);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      HS_SCCH_TDD384_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD384_r6));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "HS-SCCH-TDD384-r6", (int32_t)i, 0);
+      elem = (HS_SCCH_TDD384_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_HS_SCCH_TDD384_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_HS_SCCH_TDD384_r6(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD384-r6", (int32_t)i, 0);
+   }
    return 0;
 }
 
-int asn1PD_UMTS_PriorityLevel_radioAccessTechnology_eutra_element(rtxContext* ctx, PriorityLevel_radioAccessTechnology_eutra_element* pvalue)
+int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   /* earfcn */
-   rtxCtxtPushElemName(ctx, "earfcn");
-   rtxCtxtPushTypeName(ctx, "EARFCN");
-   stat = pd_ConsUInt16(ctx, &pvalue->earfcn, 0, 65535);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* nack-ack-power-offset */
+   stat = pd_ConsInt8(ctx, &pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, 0);
+   /* hs-SICH-PowerControl-Info */
+   stat = asn1PD_UMTS_HS_SICH_Power_Control_Info_TDD384(ctx, &pvalue->hs_SICH_PowerControl_Info);
+   RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl-Info", -1, 0);
+   /* dhs-sync */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8(ctx, &pvalue->dhs_sync, -20, 10);
+      RT_CHECK(ctx, stat, "DHS-Sync", "dhs-sync", -1, 0);
+   }
+   /* bler-target */
+   stat = pd_ConsInt8(ctx, &pvalue->bler_target, -63, 0);
+   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, 0);
+   /* hS-SCCH-SetConfiguration */
+   stat = asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_PriorityLevel_radioAccessTechnology_eutra(rtxContext* ctx, PriorityLevel_radioAccessTechnology_eutra* pvalue)
+int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      HS_SCCH_TDD768* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD768));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "HS-SCCH-TDD768", (int32_t)i, 0);
+      elem = (HS_SCCH_TDD768*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_HS_SCCH_TDD768(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_HS_SCCH_TDD768(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD768", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* nack-ack-power-offset */
+   stat = pd_ConsInt8(ctx, &pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, 0);
+   /* hs-SICH-PowerControl-Info */
+   stat = asn1PD_UMTS_HS_SICH_Power_Control_Info_TDD768(ctx, &pvalue->hs_SICH_PowerControl_Info);
+   RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl-Info", -1, 0);
+   /* dhs-sync */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8(ctx, &pvalue->dhs_sync, -20, 10);
+      RT_CHECK(ctx, stat, "DHS-Sync", "dhs-sync", -1, 0);
+   }
+   /* bler-target */
+   stat = pd_ConsInt8(ctx, &pvalue->bler_target, -63, 0);
+   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, 0);
+   /* hS-SCCH-SetConfiguration */
+   stat = asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_tpc_step_size* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      HS_SCCH_TDD128_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD128_r6));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
+      elem = (HS_SCCH_TDD128_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_HS_SCCH_TDD128_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_HS_SCCH_TDD128_r6(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* nack-ack-power-offset */
+   stat = pd_ConsInt8(ctx, &pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, 0);
+   /* power-level-HSSICH */
+   stat = pd_ConsInt8(ctx, &pvalue->power_level_HSSICH, -120, -58);
+   RT_CHECK(ctx, stat, 0, "power-level-HSSICH", -1, 0);
+   /* tpc-step-size */
+   stat = pd_ConsUnsigned(ctx, &pvalue->tpc_step_size, 0, 3);
+   RT_CHECK(ctx, stat, 0, "tpc-step-size", -1, 0);
+   /* bler-target */
+   stat = pd_ConsInt8(ctx, &pvalue->bler_target, -63, 0);
+   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, 0);
+   /* hS-SCCH-tpc-step-size */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->hS_SCCH_tpc_step_size, 0, 3);
+      RT_CHECK(ctx, stat, 0, "hS-SCCH-tpc-step-size", -1, 0);
+   }
+   /* powerControlGAP */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->powerControlGAP, 0, 255);
+      RT_CHECK(ctx, stat, "PowerControlGAP", "powerControlGAP", -1, 0);
+   }
+   /* pathlossCompensationSwitch */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = rtxDecBitInline(ctx, &pvalue->pathlossCompensationSwitch);
+      RT_CHECK(ctx, stat, 0, "pathlossCompensationSwitch", -1, 0);
+   }
+   /* hS-SCCH-SetConfiguration */
+   stat = asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
+         stat = asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd768 */
+         pvalue->u.tdd768 = (HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768));
+         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768(pvalue->u.tdd768);
+         stat = asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 2: /* tdd128 */
+         pvalue->u.tdd128 = (HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
+         stat = asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (HS_SCCH_Info_r9_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r9_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (HS_SCCH_Info_r9_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r9_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r9(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "HS-SCCH-Info-r9");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-HSPDSCH-TS-Configuration */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_TS_Configuration(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-HSPDSCH-TS-Configuration */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_TS_Configuration_VHCR(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128_tS0_Indicator(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128_tS0_Indicator* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_OutofSyncWindow(rtxContext* RT_RESTRICT ctx, OutofSyncWindow* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "OutofSyncWindow");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* hs-PDSCH-Midamble-Configuration-tdd128 */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration_tdd128);
+      RT_CHECK(ctx, stat, 0, "hs-PDSCH-Midamble-Configuration-tdd128", -1, 0);
+   }
+   /* dl-MultiCarrier-Information */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DL_MultiCarrier_Information(ctx, &pvalue->dl_MultiCarrier_Information);
+      RT_CHECK(ctx, stat, 0, "dl-MultiCarrier-Information", -1, 0);
+   }
+   /* tS0-Indicator */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "tS0-Indicator", -1, 0);
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "tS0-Indicator", -1, 0);
+         pvalue->tS0_Indicator = ui;
+      }
+   }
+   /* outofSyncWindow */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->outofSyncWindow, 0, 7);
+      RT_CHECK(ctx, stat, "OutofSyncWindow", "outofSyncWindow", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
+         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd768 */
+         pvalue->u.tdd768 = (DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768));
+         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768(pvalue->u.tdd768);
+         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 2: /* tdd128 */
+         pvalue->u.tdd128 = (DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
+         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd_dl_64QAM_Configured* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-64QAM-Configured */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "dl-64QAM-Configured", -1, 0);
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "dl-64QAM-Configured", -1, 0);
+         pvalue->dl_64QAM_Configured = ui;
+      }
+   }
+   /* hs-DSCH-TBSizeTable */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
+         pvalue->hs_DSCH_TBSizeTable = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd */
+         pvalue->u.tdd = (DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      case 1: /* fdd */
+         pvalue->u.fdd = (DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r9(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-HSPDSCH-Information-r9");
+   /* hs-scch-Info */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HS_SCCH_Info_r9(ctx, &pvalue->hs_scch_Info);
+      RT_CHECK(ctx, stat, 0, "hs-scch-Info", -1, "DL-HSPDSCH-Information-r9");
+   }
+   /* measurement-feedback-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_feedback_Info);
+      RT_CHECK(ctx, stat, 0, "measurement-feedback-Info", -1, "DL-HSPDSCH-Information-r9");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-HSPDSCH-Information-r9");
+   return 0;
+}
+
+int asn1PD_UMTS_Serving_HSDSCH_CellInformation_r9_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r9_mac_hsResetIndicator* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Serving_HSDSCH_CellInformation_r9(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Serving-HSDSCH-CellInformation-r9");
+   /* deltaACK */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->deltaACK, 0, 8);
+      RT_CHECK(ctx, stat, "DeltaACK", "deltaACK", -1, "Serving-HSDSCH-CellInformation-r9");
+   }
+   /* deltaNACK */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->deltaNACK, 0, 8);
+      RT_CHECK(ctx, stat, "DeltaNACK", "deltaNACK", -1, "Serving-HSDSCH-CellInformation-r9");
+   }
+   /* harq-Preamble-Mode */
+   stat = pd_ConsUInt8(ctx, &pvalue->harq_Preamble_Mode, 0, 1);
+   RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "Serving-HSDSCH-CellInformation-r9");
+   /* primaryCPICH-Info */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "Serving-HSDSCH-CellInformation-r9");
+   }
+   /* dl-hspdsch-Information */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_hspdsch_Information);
+      RT_CHECK(ctx, stat, 0, "dl-hspdsch-Information", -1, "Serving-HSDSCH-CellInformation-r9");
+   }
+   /* harqInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
+      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "Serving-HSDSCH-CellInformation-r9");
+   }
+   /* mac-hsResetIndicator */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation-r9");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation-r9");
+         pvalue->mac_hsResetIndicator = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SR_VCC_Info_nonce(rtxContext* RT_RESTRICT ctx, SR_VCC_Info_nonce* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 128, 128);
+   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SR_VCC_Info(rtxContext* RT_RESTRICT ctx, SR_VCC_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SR-VCC-Info");
+   /* nonce */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SR_VCC_Info_nonce(ctx, &pvalue->nonce);
+      RT_CHECK(ctx, stat, 0, "nonce", -1, "SR-VCC-Info");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InfoReplace(rtxContext* RT_RESTRICT ctx, RAB_InfoReplace* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rab-Identity */
+   stat = asn1PD_UMTS_RAB_Identity(ctx, &pvalue->rab_Identity);
+   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-InfoReplace");
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-InfoReplace");
+   return 0;
+}
+
+int asn1PD_UMTS_SR_VCC_SecurityRABInfo_v860ext(rtxContext* RT_RESTRICT ctx, SR_VCC_SecurityRABInfo_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* sr-vcc-Info */
+   stat = asn1PD_UMTS_SR_VCC_Info(ctx, &pvalue->sr_vcc_Info);
+   RT_CHECK(ctx, stat, 0, "sr-vcc-Info", -1, "SR-VCC-SecurityRABInfo-v860ext");
+   /* rab-InfoReplace */
+   stat = asn1PD_UMTS_RAB_InfoReplace(ctx, &pvalue->rab_InfoReplace);
+   RT_CHECK(ctx, stat, 0, "rab-InfoReplace", -1, "SR-VCC-SecurityRABInfo-v860ext");
+   return 0;
+}
+
+int asn1PD_UMTS_START_Value(rtxContext* RT_RESTRICT ctx, START_Value* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 20, 20);
+   stat = pd_BitString32(ctx, pvalue, 20, 20);
+   RT_CHECK(ctx, stat, 0, 0, -1, "START-Value");
+   return 0;
+}
+
+int asn1PD_UMTS_STARTSingle(rtxContext* RT_RESTRICT ctx, STARTSingle* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "STARTSingle");
+   /* start-Value */
+   stat = asn1PD_UMTS_START_Value(ctx, &pvalue->start_Value);
+   RT_CHECK(ctx, stat, 0, "start-Value", -1, "STARTSingle");
+   return 0;
+}
+
+int asn1PD_UMTS_STARTList(rtxContext* RT_RESTRICT ctx, STARTList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "STARTList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      STARTSingle* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(STARTSingle));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "STARTSingle", (int32_t)i, "STARTList");
+      elem = (STARTSingle*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_STARTSingle(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_STARTSingle(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "STARTSingle", (int32_t)i, "STARTList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SystemSpecificCapUpdateReq_v590ext(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq_v590ext* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, "SystemSpecificCapUpdateReq-v590ext");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, "SystemSpecificCapUpdateReq-v590ext");
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_T_318(rtxContext* RT_RESTRICT ctx, T_318* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 14);
+   RT_CHECK(ctx, stat, 0, 0, -1, "T-318");
+   return 0;
+}
+
+int asn1PD_UMTS_T_319(rtxContext* RT_RESTRICT ctx, T_319* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "T-319");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_TransChCapability_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_TransChCapability_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* maxSimultaneousCCTrCH-Count */
+   stat = pd_ConsUInt8(ctx, &pvalue->maxSimultaneousCCTrCH_Count, 1, 8);
+   RT_CHECK(ctx, stat, "MaxSimultaneousCCTrCH-Count", "maxSimultaneousCCTrCH-Count", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_TransChCapability_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_TransChCapability_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UL_TransChCapability_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UL_TransChCapability_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         stat = asn1PD_UMTS_UL_TransChCapability_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_TransChCapability(rtxContext* RT_RESTRICT ctx, UL_TransChCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* maxNoBitsTransmitted */
+   stat = pd_ConsUnsigned(ctx, &pvalue->maxNoBitsTransmitted, 0, 12);
+   RT_CHECK(ctx, stat, "MaxNoBits", "maxNoBitsTransmitted", -1, "UL-TransChCapability");
+   /* maxConvCodeBitsTransmitted */
+   stat = pd_ConsUnsigned(ctx, &pvalue->maxConvCodeBitsTransmitted, 0, 12);
+   RT_CHECK(ctx, stat, "MaxNoBits", "maxConvCodeBitsTransmitted", -1, "UL-TransChCapability");
+   /* turboEncodingSupport */
+   stat = asn1PD_UMTS_TurboSupport(ctx, &pvalue->turboEncodingSupport);
+   RT_CHECK(ctx, stat, 0, "turboEncodingSupport", -1, "UL-TransChCapability");
+   /* maxSimultaneousTransChs */
+   stat = pd_ConsUnsigned(ctx, &pvalue->maxSimultaneousTransChs, 0, 4);
+   RT_CHECK(ctx, stat, "MaxSimultaneousTransChsUL", "maxSimultaneousTransChs", -1, "UL-TransChCapability");
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_UL_TransChCapability_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-TransChCapability");
+   /* maxTransmittedBlocks */
+   stat = pd_ConsUnsigned(ctx, &pvalue->maxTransmittedBlocks, 0, 10);
+   RT_CHECK(ctx, stat, "MaxTransportBlocksUL", "maxTransmittedBlocks", -1, "UL-TransChCapability");
+   /* maxNumberOfTFC */
+   stat = pd_ConsUnsigned(ctx, &pvalue->maxNumberOfTFC, 0, 10);
+   RT_CHECK(ctx, stat, "MaxNumberOfTFC-UL", "maxNumberOfTFC", -1, "UL-TransChCapability");
+   /* maxNumberOfTF */
+   stat = pd_ConsUnsigned(ctx, &pvalue->maxNumberOfTF, 0, 5);
+   RT_CHECK(ctx, stat, "MaxNumberOfTF", "maxNumberOfTF", -1, "UL-TransChCapability");
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelCapability(rtxContext* RT_RESTRICT ctx, TransportChannelCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* dl-TransChCapability */
+   stat = asn1PD_UMTS_DL_TransChCapability(ctx, &pvalue->dl_TransChCapability);
+   RT_CHECK(ctx, stat, 0, "dl-TransChCapability", -1, "TransportChannelCapability");
+   /* ul-TransChCapability */
+   stat = asn1PD_UMTS_UL_TransChCapability(ctx, &pvalue->ul_TransChCapability);
+   RT_CHECK(ctx, stat, 0, "ul-TransChCapability", -1, "TransportChannelCapability");
+   return 0;
+}
+
+int asn1PD_UMTS_U_RNTI_Short(rtxContext* RT_RESTRICT ctx, U_RNTI_Short* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* srnc-Identity */
+   stat = asn1PD_UMTS_SRNC_Identity(ctx, &pvalue->srnc_Identity);
+   RT_CHECK(ctx, stat, 0, "srnc-Identity", -1, "U-RNTI-Short");
+   /* s-RNTI-2 */
+   stat = asn1PD_UMTS_S_RNTI_2(ctx, &pvalue->s_RNTI_2);
+   RT_CHECK(ctx, stat, 0, "s-RNTI-2", -1, "U-RNTI-Short");
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_edch_r6_fdd_edch_supported(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_edch_r6_fdd_edch_supported* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* edch-PhysicalLayerCategory */
+   stat = pd_ConsUInt8(ctx, &pvalue->edch_PhysicalLayerCategory, 1, 16);
+   RT_CHECK(ctx, stat, 0, "edch-PhysicalLayerCategory", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_edch_r6_fdd_edch(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_edch_r6_fdd_edch* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* supported */
+         pvalue->u.supported = (PhysicalChannelCapability_edch_r6_fdd_edch_supported*)rtxMemHeapAllocZ(ctx, sizeof(PhysicalChannelCapability_edch_r6_fdd_edch_supported));
+         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "supported", -1, 0);
+         stat = asn1PD_UMTS_PhysicalChannelCapability_edch_r6_fdd_edch_supported(ctx, pvalue->u.supported);
+         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
+         break;
+      case 1: /* unsupported */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_edch_r6(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_edch_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* fdd-edch */
+   stat = asn1PD_UMTS_PhysicalChannelCapability_edch_r6_fdd_edch(ctx, &pvalue->fdd_edch);
+   RT_CHECK(ctx, stat, 0, "fdd-edch", -1, "PhysicalChannelCapability-edch-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v690ext_deviceType(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v690ext_deviceType* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v690ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v690ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v690ext");
+   /* physicalchannelcapability-edch */
+   stat = asn1PD_UMTS_PhysicalChannelCapability_edch_r6(ctx, &pvalue->physicalchannelcapability_edch);
+   RT_CHECK(ctx, stat, 0, "physicalchannelcapability-edch", -1, "UE-RadioAccessCapability-v690ext");
+   /* deviceType */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "deviceType", -1, "UE-RadioAccessCapability-v690ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "deviceType", -1, "UE-RadioAccessCapability-v690ext");
+         pvalue->deviceType = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_v690ext_supportOfInter_RAT_PS_Handover(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability_v690ext_supportOfInter_RAT_PS_Handover* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GSM_MS_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, GSM_MS_RadioAccessCapability* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK(ctx, stat, 0, 0, -1, "GSM-MS-RadioAccessCapability");
+   return 0;
+}
+
+int asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_v690ext(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability_v690ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRAT-UE-RadioAccessCapability-v690ext");
+   /* supportOfInter-RAT-PS-Handover */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportOfInter-RAT-PS-Handover", -1, "InterRAT-UE-RadioAccessCapability-v690ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportOfInter-RAT-PS-Handover", -1, "InterRAT-UE-RadioAccessCapability-v690ext");
+         pvalue->supportOfInter_RAT_PS_Handover = ui;
+      }
+   }
+   /* gsm-MS-RadioAccessCapability */
+   stat = asn1PD_UMTS_GSM_MS_RadioAccessCapability(ctx, &pvalue->gsm_MS_RadioAccessCapability);
+   RT_CHECK(ctx, stat, 0, "gsm-MS-RadioAccessCapability", -1, "InterRAT-UE-RadioAccessCapability-v690ext");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v6b0ext_IEs_supportForSIB11bis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v6b0ext_IEs_supportForSIB11bis* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v6b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v6b0ext-IEs");
+   /* supportForSIB11bis */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportForSIB11bis", -1, "UE-RadioAccessCapability-v6b0ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportForSIB11bis", -1, "UE-RadioAccessCapability-v6b0ext-IEs");
+         pvalue->supportForSIB11bis = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v6e0ext_IEs_supportForFDPCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v6e0ext_IEs_supportForFDPCH* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v6e0ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v6e0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v6e0ext-IEs");
+   /* supportForFDPCH */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportForFDPCH", -1, "UE-RadioAccessCapability-v6e0ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportForFDPCH", -1, "UE-RadioAccessCapability-v6e0ext-IEs");
+         pvalue->supportForFDPCH = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_GANSSPositioning_Capability(rtxContext* RT_RESTRICT ctx, UE_GANSSPositioning_Capability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-GANSSPositioning-Capability");
+   /* networkAssistedGANSS-supportedList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_NetworkAssistedGANSS_Supported_List(ctx, &pvalue->networkAssistedGANSS_supportedList);
+      RT_CHECK(ctx, stat, 0, "networkAssistedGANSS-supportedList", -1, "UE-GANSSPositioning-Capability");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_PositioningCapability_v770ext(rtxContext* RT_RESTRICT ctx, UE_PositioningCapability_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-PositioningCapability-v770ext");
+   /* ue-GANSSPositioning-Capability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_GANSSPositioning_Capability(ctx, &pvalue->ue_GANSSPositioning_Capability);
+      RT_CHECK(ctx, stat, 0, "ue-GANSSPositioning-Capability", -1, "UE-PositioningCapability-v770ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v770ext_IEs_mac_ehsSupport(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v770ext_IEs_mac_ehsSupport* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_SpecificCapabilityInformation_LCRTDD(rtxContext* RT_RESTRICT ctx, UE_SpecificCapabilityInformation_LCRTDD* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-SpecificCapabilityInformation-LCRTDD");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v770ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v770ext-IEs");
+   /* pdcp-Capability */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PDCP_Capability_v770ext(ctx, &pvalue->pdcp_Capability);
+      RT_CHECK(ctx, stat, 0, "pdcp-Capability", -1, "UE-RadioAccessCapability-v770ext-IEs");
+   }
+   /* rlc-Capability */
+   stat = asn1PD_UMTS_RLC_Capability_v770ext(ctx, &pvalue->rlc_Capability);
+   RT_CHECK(ctx, stat, 0, "rlc-Capability", -1, "UE-RadioAccessCapability-v770ext-IEs");
+   /* rf-Capability */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RF_Capability_v770ext(ctx, &pvalue->rf_Capability);
+      RT_CHECK(ctx, stat, 0, "rf-Capability", -1, "UE-RadioAccessCapability-v770ext-IEs");
+   }
+   /* physicalChannelCapability */
+   stat = asn1PD_UMTS_PhysicalChannelCapability_v770ext(ctx, &pvalue->physicalChannelCapability);
+   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapability-v770ext-IEs");
+   /* multiModeRAT-Capability */
+   stat = asn1PD_UMTS_MultiModeRAT_Capability_v770ext(ctx, &pvalue->multiModeRAT_Capability);
+   RT_CHECK(ctx, stat, 0, "multiModeRAT-Capability", -1, "UE-RadioAccessCapability-v770ext-IEs");
+   /* ue-PositioningCapability */
+   stat = asn1PD_UMTS_UE_PositioningCapability_v770ext(ctx, &pvalue->ue_PositioningCapability);
+   RT_CHECK(ctx, stat, 0, "ue-PositioningCapability", -1, "UE-RadioAccessCapability-v770ext-IEs");
+   /* mac-ehsSupport */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "mac-ehsSupport", -1, "UE-RadioAccessCapability-v770ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "mac-ehsSupport", -1, "UE-RadioAccessCapability-v770ext-IEs");
+         pvalue->mac_ehsSupport = ui;
+      }
+   }
+   /* ue-specificCapabilityInformation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->ue_specificCapabilityInformation, 0, 15);
+      RT_CHECK(ctx, stat, "UE-SpecificCapabilityInformation-LCRTDD", "ue-specificCapabilityInformation", -1, "UE-RadioAccessCapability-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v790ext_IEs_supportForEDPCCHPowerBoosting(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v790ext_IEs_supportForEDPCCHPowerBoosting* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v790ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v790ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v790ext-IEs");
+   /* supportForEDPCCHPowerBoosting */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportForEDPCCHPowerBoosting", -1, "UE-RadioAccessCapability-v790ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportForEDPCCHPowerBoosting", -1, "UE-RadioAccessCapability-v790ext-IEs");
+         pvalue->supportForEDPCCHPowerBoosting = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_GANSSPositioning_Capability_v860ext_IEs(rtxContext* RT_RESTRICT ctx, UE_GANSSPositioning_Capability_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-GANSSPositioning-Capability-v860ext-IEs");
+   /* networkAssistedGANSS-supportedList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_NetworkAssistedGANSS_Supported_List_v860ext(ctx, &pvalue->networkAssistedGANSS_supportedList);
+      RT_CHECK(ctx, stat, 0, "networkAssistedGANSS-supportedList", -1, "UE-GANSSPositioning-Capability-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_PositioningCapability_v860ext(rtxContext* RT_RESTRICT ctx, UE_PositioningCapability_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-PositioningCapability-v860ext");
+   /* ue-GANSSPositioning-Capability-v860ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_GANSSPositioning_Capability_v860ext_IEs(ctx, &pvalue->ue_GANSSPositioning_Capability_v860ext);
+      RT_CHECK(ctx, stat, 0, "ue-GANSSPositioning-Capability-v860ext", -1, "UE-PositioningCapability-v860ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfCommonEDCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfCommonEDCH* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfMACiis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfMACiis* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfSPSOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfSPSOperation* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfControlChannelDRXOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfControlChannelDRXOperation* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfCSG(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfCSG* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabBandFDD3(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDD3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDD3");
+   /* radioFrequencyBandFDD */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandFDD, 0, 7);
+      RT_CHECK(ctx, stat, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "UE-RadioAccessCapabBandFDD3");
+   }
+   /* radioFrequencyBandFDD2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandFDD2, 0, 15);
+      RT_CHECK(ctx, stat, "RadioFrequencyBandFDD2", "radioFrequencyBandFDD2", -1, "UE-RadioAccessCapabBandFDD3");
+   }
+   /* measurementCapability3 */
+   stat = asn1PD_UMTS_MeasurementCapabilityExt3(ctx, &pvalue->measurementCapability3);
+   RT_CHECK(ctx, stat, 0, "measurementCapability3", -1, "UE-RadioAccessCapabBandFDD3");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabBandFDDList3(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDDList3* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 8);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDDList3");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      PriorityLevel_radioAccessTechnology_eutra_element* elem;
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PriorityLevel_radioAccessTechnology_eutra_element));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (PriorityLevel_radioAccessTechnology_eutra_element*)(node + 1);
+      UE_RadioAccessCapabBandFDD3* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_RadioAccessCapabBandFDD3));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UE-RadioAccessCapabBandFDD3", (int32_t)i, "UE-RadioAccessCapabBandFDDList3");
+      elem = (UE_RadioAccessCapabBandFDD3*)(node + 1);
       node->data = elem;
+      asn1Init_UMTS_UE_RadioAccessCapabBandFDD3(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PriorityLevel_radioAccessTechnology_eutra_element(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDD3(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "UE-RadioAccessCapabBandFDD3", (int32_t)i, "UE-RadioAccessCapabBandFDDList3");
    }
    return 0;
 }
 
-int asn1PD_UMTS_GSM_CellGroup_bandIndicator(rtxContext* ctx, GSM_CellGroup_bandIndicator* pvalue)
+int asn1PD_UMTS_UE_RadioAccessCapability_v860ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs* RT_RESTRICT pvalue)
 {
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 9);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v860ext-IEs");
+   /* rf-Capability */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RF_Capability_v860ext(ctx, &pvalue->rf_Capability);
+      RT_CHECK(ctx, stat, 0, "rf-Capability", -1, "UE-RadioAccessCapability-v860ext-IEs");
+   }
+   /* physicalChannelCapability */
+   stat = asn1PD_UMTS_PhysicalChannelCapability_v860ext(ctx, &pvalue->physicalChannelCapability);
+   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapability-v860ext-IEs");
+   /* multiModeRAT-Capability */
+   stat = asn1PD_UMTS_MultiModeRAT_Capability_v860ext(ctx, &pvalue->multiModeRAT_Capability);
+   RT_CHECK(ctx, stat, 0, "multiModeRAT-Capability", -1, "UE-RadioAccessCapability-v860ext-IEs");
+   /* ue-PositioningCapability */
+   stat = asn1PD_UMTS_UE_PositioningCapability_v860ext(ctx, &pvalue->ue_PositioningCapability);
+   RT_CHECK(ctx, stat, 0, "ue-PositioningCapability", -1, "UE-RadioAccessCapability-v860ext-IEs");
+   /* measurementCapability */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_MeasurementCapability_v860ext(ctx, &pvalue->measurementCapability);
+      RT_CHECK(ctx, stat, 0, "measurementCapability", -1, "UE-RadioAccessCapability-v860ext-IEs");
+   }
+   /* measurementCapabilityTDD */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_MeasurementCapabilityTDD(ctx, &pvalue->measurementCapabilityTDD);
+      RT_CHECK(ctx, stat, 0, "measurementCapabilityTDD", -1, "UE-RadioAccessCapability-v860ext-IEs");
+   }
+   /* supportOfCommonEDCH */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportOfCommonEDCH", -1, "UE-RadioAccessCapability-v860ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportOfCommonEDCH", -1, "UE-RadioAccessCapability-v860ext-IEs");
+         pvalue->supportOfCommonEDCH = ui;
+      }
+   }
+   /* supportOfMACiis */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x10u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportOfMACiis", -1, "UE-RadioAccessCapability-v860ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportOfMACiis", -1, "UE-RadioAccessCapability-v860ext-IEs");
+         pvalue->supportOfMACiis = ui;
+      }
+   }
+   /* supportOfSPSOperation */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x20u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportOfSPSOperation", -1, "UE-RadioAccessCapability-v860ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportOfSPSOperation", -1, "UE-RadioAccessCapability-v860ext-IEs");
+         pvalue->supportOfSPSOperation = ui;
+      }
+   }
+   /* supportOfControlChannelDRXOperation */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x40u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportOfControlChannelDRXOperation", -1, "UE-RadioAccessCapability-v860ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportOfControlChannelDRXOperation", -1, "UE-RadioAccessCapability-v860ext-IEs");
+         pvalue->supportOfControlChannelDRXOperation = ui;
+      }
+   }
+   /* supportOfCSG */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x80u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportOfCSG", -1, "UE-RadioAccessCapability-v860ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportOfCSG", -1, "UE-RadioAccessCapability-v860ext-IEs");
+         pvalue->supportOfCSG = ui;
+      }
+   }
+   /* ue-RadioAccessCapabBandFDDList3 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDDList3(ctx, &pvalue->ue_RadioAccessCapabBandFDDList3);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabBandFDDList3", -1, "UE-RadioAccessCapability-v860ext-IEs");
+   }
    return 0;
 }
 
-int asn1PD_UMTS_GSM_CellGroup_followingARFCNs_explicitListOfARFCNs(rtxContext* ctx, GSM_CellGroup_followingARFCNs_explicitListOfARFCNs* pvalue)
+int asn1PD_UMTS_EUTRA_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, EUTRA_RadioAccessCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ue-EUTRA-Capability */
+   stat = pd_DynOctetString(ctx, &pvalue->ue_EUTRA_Capability);
+   RT_CHECK(ctx, stat, 0, "ue-EUTRA-Capability", -1, "EUTRA-RadioAccessCapability");
+   return 0;
+}
+
+int asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_v860ext(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRAT-UE-RadioAccessCapability-v860ext");
+   /* eutra-RadioAccessCapability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_EUTRA_RadioAccessCapability(ctx, &pvalue->eutra_RadioAccessCapability);
+      RT_CHECK(ctx, stat, 0, "eutra-RadioAccessCapability", -1, "InterRAT-UE-RadioAccessCapability-v860ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v880ext_IEs_supportForPriorityReselectionInUTRAN(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v880ext_IEs_supportForPriorityReselectionInUTRAN* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v880ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v880ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v880ext-IEs");
+   /* supportForPriorityReselectionInUTRAN */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportForPriorityReselectionInUTRAN", -1, "UE-RadioAccessCapability-v880ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportForPriorityReselectionInUTRAN", -1, "UE-RadioAccessCapability-v880ext-IEs");
+         pvalue->supportForPriorityReselectionInUTRAN = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v890ext_IEs_supportCellSpecificTxDiversityinDC_Operation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v890ext_IEs_supportCellSpecificTxDiversityinDC_Operation* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v890ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v890ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v890ext-IEs");
+   /* supportCellSpecificTxDiversityinDC-Operation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportCellSpecificTxDiversityinDC-Operation", -1, "UE-RadioAccessCapability-v890ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportCellSpecificTxDiversityinDC-Operation", -1, "UE-RadioAccessCapability-v890ext-IEs");
+         pvalue->supportCellSpecificTxDiversityinDC_Operation = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabBandCombList(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandCombList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 4);
+      RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabBandCombList");
+      pvalue->n = raw + 1;
+      if (raw > 15) {
+         rtxErrAddStrParm(ctx, "UE-RadioAccessCapabBandCombList");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UE-RadioAccessCapabBandCombList");
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt16(ctx, &pvalue->elem[i], 1, 256);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, "BandComb", "BandComb", (int32_t)i, "UE-RadioAccessCapabBandCombList");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v920ext_IEs_supportOfenhancedTS0(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v920ext_IEs_supportOfenhancedTS0* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v920ext_IEs(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v920ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v920ext-IEs");
+   /* ue-RadioAccessCapabBandCombList */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapabBandCombList(ctx, &pvalue->ue_RadioAccessCapabBandCombList);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabBandCombList", -1, "UE-RadioAccessCapability-v920ext-IEs");
+   }
+   /* physicalChannelCapability */
+   stat = asn1PD_UMTS_PhysicalChannelCapability_v920ext(ctx, &pvalue->physicalChannelCapability);
+   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapability-v920ext-IEs");
+   /* rlc-Capability */
+   stat = asn1PD_UMTS_RLC_Capability_v920ext(ctx, &pvalue->rlc_Capability);
+   RT_CHECK(ctx, stat, 0, "rlc-Capability", -1, "UE-RadioAccessCapability-v920ext-IEs");
+   /* supportOfenhancedTS0 */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportOfenhancedTS0", -1, "UE-RadioAccessCapability-v920ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportOfenhancedTS0", -1, "UE-RadioAccessCapability-v920ext-IEs");
+         pvalue->supportOfenhancedTS0 = ui;
+      }
+   }
+   /* measurementCapability */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_MeasurementCapability_v920ext(ctx, &pvalue->measurementCapability);
+      RT_CHECK(ctx, stat, 0, "measurementCapability", -1, "UE-RadioAccessCapability-v920ext-IEs");
+   }
+   /* csgProximityIndicationCapability */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_CSG_ProximityIndicationCapability(ctx, &pvalue->csgProximityIndicationCapability);
+      RT_CHECK(ctx, stat, 0, "csgProximityIndicationCapability", -1, "UE-RadioAccessCapability-v920ext-IEs");
+   }
+   /* neighCellSI-AcquisitionCapability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_NeighCellSI_AcquisitionCapability(ctx, &pvalue->neighCellSI_AcquisitionCapability);
+      RT_CHECK(ctx, stat, 0, "neighCellSI-AcquisitionCapability", -1, "UE-RadioAccessCapability-v920ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ue-RadioAccessCapability-v920ext */
+   stat = asn1PD_UMTS_UE_RadioAccessCapability_v920ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v920ext);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v920ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ue-RadioAccessCapability-v890ext */
+   stat = asn1PD_UMTS_UE_RadioAccessCapability_v890ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v890ext);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v890ext", -1, 0);
+   /* v920NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ue-RadioAccessCapability-v880ext */
+   stat = asn1PD_UMTS_UE_RadioAccessCapability_v880ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v880ext);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v880ext", -1, 0);
+   /* v890NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ue-RadioAccessCapability-v860ext */
+   stat = asn1PD_UMTS_UE_RadioAccessCapability_v860ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v860ext);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v860ext", -1, 0);
+   /* ue-RATSpecificCapability-v860ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_v860ext(ctx, &pvalue->ue_RATSpecificCapability_v860ext);
+      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability-v860ext", -1, 0);
+   }
+   /* v880NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions(ctx, &pvalue->v880NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v880NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ue-RadioAccessCapability-v790ext */
+   stat = asn1PD_UMTS_UE_RadioAccessCapability_v790ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v790ext);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v790ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ue-RadioAccessCapability-v770ext */
+   stat = asn1PD_UMTS_UE_RadioAccessCapability_v770ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v770ext);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v770ext", -1, 0);
+   /* v790NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions(ctx, &pvalue->v790NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v790NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ue-RadioAccessCapability-v6e0ext */
+   stat = asn1PD_UMTS_UE_RadioAccessCapability_v6e0ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v6e0ext);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v6e0ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ue-RadioAccessCapability-v6b0ext */
+   stat = asn1PD_UMTS_UE_RadioAccessCapability_v6b0ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v6b0ext", -1, 0);
+   /* v6e0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions(ctx, &pvalue->v6e0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6e0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_CapabilityContainer_IEs(rtxContext* RT_RESTRICT ctx, UE_CapabilityContainer_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-CapabilityContainer-IEs");
+   /* ue-RadioAccessCapability-v690ext */
+   stat = asn1PD_UMTS_UE_RadioAccessCapability_v690ext(ctx, &pvalue->ue_RadioAccessCapability_v690ext);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v690ext", -1, "UE-CapabilityContainer-IEs");
+   /* ue-RATSpecificCapability-v690ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_v690ext(ctx, &pvalue->ue_RATSpecificCapability_v690ext);
+      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability-v690ext", -1, "UE-CapabilityContainer-IEs");
+   }
+   /* v6b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, "UE-CapabilityContainer-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_ConnTimersAndConstants_r5(rtxContext* RT_RESTRICT ctx, UE_ConnTimersAndConstants_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 22);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-ConnTimersAndConstants-r5");
+   /* t-301 */
+   if (present & ((uint32_t)1 << 21)) {
+      stat = pd_ConsUnsigned(ctx, &pvalue->t_301, 0, 15);
+      RT_CHECK(ctx, stat, "T-301", "t-301", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->t_301 = 10;
+   }
+   /* n-301 */
+   if (present & ((uint32_t)1 << 20)) {
+      stat = pd_ConsUInt8(ctx, &pvalue->n_301, 0, 7);
+      RT_CHECK(ctx, stat, "N-301", "n-301", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->n_301 = 2;
+   }
+   /* t-302 */
+   if (present & ((uint32_t)1 << 19)) {
+      stat = pd_ConsUnsigned(ctx, &pvalue->t_302, 0, 15);
+      RT_CHECK(ctx, stat, "T-302", "t-302", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->t_302 = 12;
+   }
+   /* n-302 */
+   if (present & ((uint32_t)1 << 18)) {
+      stat = pd_ConsUInt8(ctx, &pvalue->n_302, 0, 7);
+      RT_CHECK(ctx, stat, "N-302", "n-302", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->n_302 = 3;
+   }
+   /* t-304 */
+   if (present & ((uint32_t)1 << 17)) {
+      stat = pd_ConsUnsigned(ctx, &pvalue->t_304, 0, 7);
+      RT_CHECK(ctx, stat, "T-304", "t-304", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->t_304 = 4;
+   }
+   /* n-304 */
+   if (present & ((uint32_t)1 << 16)) {
+      stat = pd_ConsUInt8(ctx, &pvalue->n_304, 0, 7);
+      RT_CHECK(ctx, stat, "N-304", "n-304", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->n_304 = 2;
+   }
+   /* t-305 */
+   if (present & ((uint32_t)1 << 15)) {
+      stat = pd_ConsUnsigned(ctx, &pvalue->t_305, 0, 7);
+      RT_CHECK(ctx, stat, "T-305", "t-305", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->t_305 = 3;
+   }
+   /* t-307 */
+   if (present & ((uint32_t)1 << 14)) {
+      stat = pd_ConsUnsigned(ctx, &pvalue->t_307, 0, 7);
+      RT_CHECK(ctx, stat, "T-307", "t-307", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->t_307 = 4;
+   }
+   /* t-308 */
+   if (present & ((uint32_t)1 << 13)) {
+      stat = pd_ConsUnsigned(ctx, &pvalue->t_308, 0, 3);
+      RT_CHECK(ctx, stat, "T-308", "t-308", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->t_308 = 2;
+   }
+   /* t-309 */
+   if (present & ((uint32_t)1 << 12)) {
+      stat = pd_ConsUInt8(ctx, &pvalue->t_309, 1, 8);
+      RT_CHECK(ctx, stat, "T-309", "t-309", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->t_309 = 5;
+   }
+   /* t-310 */
+   if (present & ((uint32_t)1 << 11)) {
+      stat = pd_ConsUnsigned(ctx, &pvalue->t_310, 0, 7);
+      RT_CHECK(ctx, stat, "T-310", "t-310", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->t_310 = 3;
+   }
+   /* n-310 */
+   if (present & ((uint32_t)1 << 10)) {
+      stat = pd_ConsUInt8(ctx, &pvalue->n_310, 0, 7);
+      RT_CHECK(ctx, stat, "N-310", "n-310", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->n_310 = 4;
+   }
+   /* t-311 */
+   if (present & ((uint32_t)1 << 9)) {
+      stat = pd_ConsUnsigned(ctx, &pvalue->t_311, 0, 7);
+      RT_CHECK(ctx, stat, "T-311", "t-311", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->t_311 = 7;
+   }
+   /* t-312 */
+   if (present & ((uint32_t)1 << 8)) {
+      stat = pd_ConsUInt8(ctx, &pvalue->t_312, 0, 15);
+      RT_CHECK(ctx, stat, "T-312", "t-312", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->t_312 = 1;
+   }
+   /* n-312 */
+   if (present & ((uint32_t)1 << 7)) {
+      stat = pd_ConsUnsigned(ctx, &pvalue->n_312, 0, 11);
+      RT_CHECK(ctx, stat, "N-312-r5", "n-312", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->n_312 = 0;
+   }
+   /* t-313 */
+   if (present & ((uint32_t)1 << 6)) {
+      stat = pd_ConsUInt8(ctx, &pvalue->t_313, 0, 15);
+      RT_CHECK(ctx, stat, "T-313", "t-313", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->t_313 = 3;
+   }
+   /* n-313 */
+   if (present & ((uint32_t)1 << 5)) {
+      stat = pd_ConsUnsigned(ctx, &pvalue->n_313, 0, 7);
+      RT_CHECK(ctx, stat, "N-313", "n-313", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->n_313 = 4;
+   }
+   /* t-314 */
+   if (present & ((uint32_t)1 << 4)) {
+      stat = pd_ConsUnsigned(ctx, &pvalue->t_314, 0, 7);
+      RT_CHECK(ctx, stat, "T-314", "t-314", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->t_314 = 5;
+   }
+   /* t-315 */
+   if (present & ((uint32_t)1 << 3)) {
+      stat = pd_ConsUnsigned(ctx, &pvalue->t_315, 0, 7);
+      RT_CHECK(ctx, stat, "T-315", "t-315", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->t_315 = 4;
+   }
+   /* n-315 */
+   if (present & ((uint32_t)1 << 2)) {
+      stat = pd_ConsUnsigned(ctx, &pvalue->n_315, 0, 11);
+      RT_CHECK(ctx, stat, "N-315-r5", "n-315", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->n_315 = 0;
+   }
+   /* t-316 */
+   if (present & ((uint32_t)1 << 1)) {
+      stat = pd_ConsUnsigned(ctx, &pvalue->t_316, 0, 7);
+      RT_CHECK(ctx, stat, "T-316", "t-316", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->t_316 = 3;
+   }
+   /* t-317 */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUnsigned(ctx, &pvalue->t_317, 0, 7);
+      RT_CHECK(ctx, stat, "T-317", "t-317", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   else {
+      pvalue->t_317 = 4;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_HSPA_Identities_r6(rtxContext* RT_RESTRICT ctx, UE_HSPA_Identities_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-HSPA-Identities-r6");
+   /* new-H-RNTI */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "UE-HSPA-Identities-r6");
+   }
+   /* newPrimary-E-RNTI */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "UE-HSPA-Identities-r6");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "UE-HSPA-Identities-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_MultiModeRAT_Capability(rtxContext* RT_RESTRICT ctx, UE_MultiModeRAT_Capability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* multiRAT-CapabilityList */
+   stat = asn1PD_UMTS_MultiRAT_Capability(ctx, &pvalue->multiRAT_CapabilityList);
+   RT_CHECK(ctx, stat, 0, "multiRAT-CapabilityList", -1, "UE-MultiModeRAT-Capability");
+   /* multiModeCapability */
+   stat = pd_ConsUnsigned(ctx, &pvalue->multiModeCapability, 0, 2);
+   RT_CHECK(ctx, stat, "MultiModeCapability", "multiModeCapability", -1, "UE-MultiModeRAT-Capability");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_PowerClassExt(rtxContext* RT_RESTRICT ctx, UE_PowerClassExt* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-PowerClassExt");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_Capability(rtxContext* RT_RESTRICT ctx, UE_Positioning_Capability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* standaloneLocMethodsSupported */
+   stat = rtxDecBitInline(ctx, &pvalue->standaloneLocMethodsSupported);
+   RT_CHECK(ctx, stat, 0, "standaloneLocMethodsSupported", -1, "UE-Positioning-Capability");
+   /* ue-BasedOTDOA-Supported */
+   stat = rtxDecBitInline(ctx, &pvalue->ue_BasedOTDOA_Supported);
+   RT_CHECK(ctx, stat, 0, "ue-BasedOTDOA-Supported", -1, "UE-Positioning-Capability");
+   /* networkAssistedGPS-Supported */
+   stat = pd_ConsUnsigned(ctx, &pvalue->networkAssistedGPS_Supported, 0, 3);
+   RT_CHECK(ctx, stat, "NetworkAssistedGPS-Supported", "networkAssistedGPS-Supported", -1, "UE-Positioning-Capability");
+   /* supportForUE-GPS-TimingOfCellFrames */
+   stat = rtxDecBitInline(ctx, &pvalue->supportForUE_GPS_TimingOfCellFrames);
+   RT_CHECK(ctx, stat, 0, "supportForUE-GPS-TimingOfCellFrames", -1, "UE-Positioning-Capability");
+   /* supportForIPDL */
+   stat = rtxDecBitInline(ctx, &pvalue->supportForIPDL);
+   RT_CHECK(ctx, stat, 0, "supportForIPDL", -1, "UE-Positioning-Capability");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability");
+   /* pdcp-Capability */
+   stat = asn1PD_UMTS_PDCP_Capability(ctx, &pvalue->pdcp_Capability);
+   RT_CHECK(ctx, stat, 0, "pdcp-Capability", -1, "UE-RadioAccessCapability");
+   /* rlc-Capability */
+   stat = asn1PD_UMTS_RLC_Capability(ctx, &pvalue->rlc_Capability);
+   RT_CHECK(ctx, stat, 0, "rlc-Capability", -1, "UE-RadioAccessCapability");
+   /* transportChannelCapability */
+   stat = asn1PD_UMTS_TransportChannelCapability(ctx, &pvalue->transportChannelCapability);
+   RT_CHECK(ctx, stat, 0, "transportChannelCapability", -1, "UE-RadioAccessCapability");
+   /* rf-Capability */
+   stat = asn1PD_UMTS_RF_Capability(ctx, &pvalue->rf_Capability);
+   RT_CHECK(ctx, stat, 0, "rf-Capability", -1, "UE-RadioAccessCapability");
+   /* physicalChannelCapability */
+   stat = asn1PD_UMTS_PhysicalChannelCapability(ctx, &pvalue->physicalChannelCapability);
+   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapability");
+   /* ue-MultiModeRAT-Capability */
+   stat = asn1PD_UMTS_UE_MultiModeRAT_Capability(ctx, &pvalue->ue_MultiModeRAT_Capability);
+   RT_CHECK(ctx, stat, 0, "ue-MultiModeRAT-Capability", -1, "UE-RadioAccessCapability");
+   /* securityCapability */
+   stat = asn1PD_UMTS_SecurityCapability(ctx, &pvalue->securityCapability);
+   RT_CHECK(ctx, stat, 0, "securityCapability", -1, "UE-RadioAccessCapability");
+   /* ue-positioning-Capability */
+   stat = asn1PD_UMTS_UE_Positioning_Capability(ctx, &pvalue->ue_positioning_Capability);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-Capability", -1, "UE-RadioAccessCapability");
+   /* measurementCapability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementCapability(ctx, &pvalue->measurementCapability);
+      RT_CHECK(ctx, stat, 0, "measurementCapability", -1, "UE-RadioAccessCapability");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabBandFDD_fddRF_Capability(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDD_fddRF_Capability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ue-PowerClass */
+   stat = pd_ConsUnsigned(ctx, &pvalue->ue_PowerClass, 0, 7);
+   RT_CHECK(ctx, stat, "UE-PowerClassExt", "ue-PowerClass", -1, 0);
+   /* txRxFrequencySeparation */
+   stat = pd_ConsUnsigned(ctx, &pvalue->txRxFrequencySeparation, 0, 2);
+   RT_CHECK(ctx, stat, "TxRxFrequencySeparation", "txRxFrequencySeparation", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabBandFDD(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDD* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDD");
+   /* radioFrequencyBandFDD */
+   stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandFDD, 0, 7);
+   RT_CHECK(ctx, stat, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "UE-RadioAccessCapabBandFDD");
+   /* fddRF-Capability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDD_fddRF_Capability(ctx, &pvalue->fddRF_Capability);
+      RT_CHECK(ctx, stat, 0, "fddRF-Capability", -1, "UE-RadioAccessCapabBandFDD");
+   }
+   /* measurementCapability */
+   stat = asn1PD_UMTS_MeasurementCapabilityExt(ctx, &pvalue->measurementCapability);
+   RT_CHECK(ctx, stat, 0, "measurementCapability", -1, "UE-RadioAccessCapabBandFDD");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabBandFDDList(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDDList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDDList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UE_RadioAccessCapabBandFDD* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_RadioAccessCapabBandFDD));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UE-RadioAccessCapabBandFDD", (int32_t)i, "UE-RadioAccessCapabBandFDDList");
+      elem = (UE_RadioAccessCapabBandFDD*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UE_RadioAccessCapabBandFDD(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDD(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "UE-RadioAccessCapabBandFDD", (int32_t)i, "UE-RadioAccessCapabBandFDDList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v370ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v370ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ue-RadioAccessCapabBandFDDList */
+   stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDDList(ctx, &pvalue->ue_RadioAccessCapabBandFDDList);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabBandFDDList", -1, "UE-RadioAccessCapability-v370ext");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityInfo(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ue-RadioAccessCapability */
+   stat = asn1PD_UMTS_UE_RadioAccessCapability(ctx, &pvalue->ue_RadioAccessCapability);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "UE-RadioAccessCapabilityInfo");
+   /* ue-RadioAccessCapability-v370ext */
+   stat = asn1PD_UMTS_UE_RadioAccessCapability_v370ext(ctx, &pvalue->ue_RadioAccessCapability_v370ext);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v370ext", -1, "UE-RadioAccessCapabilityInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_PositioningCapabilityExt_v380(rtxContext* RT_RESTRICT ctx, UE_PositioningCapabilityExt_v380* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rx-tx-TimeDifferenceType2Capable */
+   stat = rtxDecBitInline(ctx, &pvalue->rx_tx_TimeDifferenceType2Capable);
+   RT_CHECK(ctx, stat, 0, "rx-tx-TimeDifferenceType2Capable", -1, "UE-PositioningCapabilityExt-v380");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v380ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v380ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ue-PositioningCapabilityExt-v380 */
+   stat = asn1PD_UMTS_UE_PositioningCapabilityExt_v380(ctx, &pvalue->ue_PositioningCapabilityExt_v380);
+   RT_CHECK(ctx, stat, 0, "ue-PositioningCapabilityExt-v380", -1, "UE-RadioAccessCapability-v380ext");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_PositioningCapabilityExt_v3a0_validity_CellPCH_UraPCH(rtxContext* RT_RESTRICT ctx, UE_PositioningCapabilityExt_v3a0_validity_CellPCH_UraPCH* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_PositioningCapabilityExt_v3a0(rtxContext* RT_RESTRICT ctx, UE_PositioningCapabilityExt_v3a0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* validity-CellPCH-UraPCH */
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, "validity-CellPCH-UraPCH", -1, "UE-PositioningCapabilityExt-v3a0");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, "validity-CellPCH-UraPCH", -1, "UE-PositioningCapabilityExt-v3a0");
+      pvalue->validity_CellPCH_UraPCH = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v3a0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v3a0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ue-PositioningCapabilityExt-v3a0 */
+   stat = asn1PD_UMTS_UE_PositioningCapabilityExt_v3a0(ctx, &pvalue->ue_PositioningCapabilityExt_v3a0);
+   RT_CHECK(ctx, stat, 0, "ue-PositioningCapabilityExt-v3a0", -1, "UE-RadioAccessCapability-v3a0ext");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_PositioningCapabilityExt_v3g0_sfn_sfnType2Capability(rtxContext* RT_RESTRICT ctx, UE_PositioningCapabilityExt_v3g0_sfn_sfnType2Capability* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_PositioningCapabilityExt_v3g0(rtxContext* RT_RESTRICT ctx, UE_PositioningCapabilityExt_v3g0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* sfn-sfnType2Capability */
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, "sfn-sfnType2Capability", -1, "UE-PositioningCapabilityExt-v3g0");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, "sfn-sfnType2Capability", -1, "UE-PositioningCapabilityExt-v3g0");
+      pvalue->sfn_sfnType2Capability = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v3g0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v3g0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ue-PositioningCapabilityExt-v3g0 */
+   stat = asn1PD_UMTS_UE_PositioningCapabilityExt_v3g0(ctx, &pvalue->ue_PositioningCapabilityExt_v3g0);
+   RT_CHECK(ctx, stat, 0, "ue-PositioningCapabilityExt-v3g0", -1, "UE-RadioAccessCapability-v3g0ext");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabBandFDD2_fddRF_Capability(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDD2_fddRF_Capability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ue-PowerClass */
+   stat = pd_ConsUnsigned(ctx, &pvalue->ue_PowerClass, 0, 7);
+   RT_CHECK(ctx, stat, "UE-PowerClassExt", "ue-PowerClass", -1, 0);
+   /* txRxFrequencySeparation */
+   stat = pd_ConsUnsigned(ctx, &pvalue->txRxFrequencySeparation, 0, 2);
+   RT_CHECK(ctx, stat, "TxRxFrequencySeparation", "txRxFrequencySeparation", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabBandFDD2(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDD2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDD2");
+   /* radioFrequencyBandFDD2 */
+   stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandFDD2, 0, 15);
+   RT_CHECK(ctx, stat, "RadioFrequencyBandFDD2", "radioFrequencyBandFDD2", -1, "UE-RadioAccessCapabBandFDD2");
+   /* fddRF-Capability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDD2_fddRF_Capability(ctx, &pvalue->fddRF_Capability);
+      RT_CHECK(ctx, stat, 0, "fddRF-Capability", -1, "UE-RadioAccessCapabBandFDD2");
+   }
+   /* measurementCapability2 */
+   stat = asn1PD_UMTS_MeasurementCapabilityExt2(ctx, &pvalue->measurementCapability2);
+   RT_CHECK(ctx, stat, 0, "measurementCapability2", -1, "UE-RadioAccessCapabBandFDD2");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabBandFDDList2(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDDList2* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDDList2");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UE_RadioAccessCapabBandFDD2* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_RadioAccessCapabBandFDD2));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UE-RadioAccessCapabBandFDD2", (int32_t)i, "UE-RadioAccessCapabBandFDDList2");
+      elem = (UE_RadioAccessCapabBandFDD2*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UE_RadioAccessCapabBandFDD2(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDD2(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "UE-RadioAccessCapabBandFDD2", (int32_t)i, "UE-RadioAccessCapabBandFDDList2");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabBandFDD_ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDD_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* radioFrequencyBandFDD */
+   stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandFDD, 0, 7);
+   RT_CHECK(ctx, stat, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "UE-RadioAccessCapabBandFDD-ext");
+   /* compressedModeMeasCapabFDDList-ext */
+   stat = asn1PD_UMTS_CompressedModeMeasCapabFDDList_ext(ctx, &pvalue->compressedModeMeasCapabFDDList_ext);
+   RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabFDDList-ext", -1, "UE-RadioAccessCapabBandFDD-ext");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabBandFDDList_ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabBandFDDList_ext* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDDList-ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UE_RadioAccessCapabBandFDD_ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_RadioAccessCapabBandFDD_ext));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UE-RadioAccessCapabBandFDD-ext", (int32_t)i, "UE-RadioAccessCapabBandFDDList-ext");
+      elem = (UE_RadioAccessCapabBandFDD_ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UE_RadioAccessCapabBandFDD_ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDD_ext(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "UE-RadioAccessCapabBandFDD-ext", (int32_t)i, "UE-RadioAccessCapabBandFDDList-ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v650ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v650ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v650ext");
+   /* ue-RadioAccessCapabBandFDDList2 */
+   stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDDList2(ctx, &pvalue->ue_RadioAccessCapabBandFDDList2);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabBandFDDList2", -1, "UE-RadioAccessCapability-v650ext");
+   /* ue-RadioAccessCapabBandFDDList-ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDDList_ext(ctx, &pvalue->ue_RadioAccessCapabBandFDDList_ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabBandFDDList-ext", -1, "UE-RadioAccessCapability-v650ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v7e0ext_supportForTwoDRXSchemesInPCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7e0ext_supportForTwoDRXSchemesInPCH* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v7e0ext_supportEDPDCHPowerInterpolation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7e0ext_supportEDPDCHPowerInterpolation* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v7e0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7e0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v7e0ext");
+   /* supportForTwoDRXSchemesInPCH */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportForTwoDRXSchemesInPCH", -1, "UE-RadioAccessCapability-v7e0ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportForTwoDRXSchemesInPCH", -1, "UE-RadioAccessCapability-v7e0ext");
+         pvalue->supportForTwoDRXSchemesInPCH = ui;
+      }
+   }
+   /* supportEDPDCHPowerInterpolation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportEDPDCHPowerInterpolation", -1, "UE-RadioAccessCapability-v7e0ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportEDPDCHPowerInterpolation", -1, "UE-RadioAccessCapability-v7e0ext");
+         pvalue->supportEDPDCHPowerInterpolation = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v7f0ext_supportofTxDivOnNonMIMOChannel(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7f0ext_supportofTxDivOnNonMIMOChannel* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp_TDD128_v7f0ext_supportForCSVoiceoverHSPA(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_v7f0ext_supportForCSVoiceoverHSPA* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp_TDD128_v7f0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_v7f0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+   /* hSDSCH-physical-layer-category */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->hSDSCH_physical_layer_category, 1, 64);
+      RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category", "hSDSCH-physical-layer-category", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+   }
+   /* multiCarrier-physical-layer-category */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->multiCarrier_physical_layer_category, 1, 64);
+      RT_CHECK(ctx, stat, "MultiCarrier-HSDSCH-physical-layer-category", "multiCarrier-physical-layer-category", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+   }
+   /* tdd-edch-PhysicalLayerCategory */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->tdd_edch_PhysicalLayerCategory, 1, 6);
+      RT_CHECK(ctx, stat, 0, "tdd-edch-PhysicalLayerCategory", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+   }
+   /* dl-CapabilityWithSimultaneousHS-DSCHConfig */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig, 0, 3);
+      RT_CHECK(ctx, stat, "DL-CapabilityWithSimultaneousHS-DSCHConfig", "dl-CapabilityWithSimultaneousHS-DSCHConfig", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+   }
+   /* supportForCSVoiceoverHSPA */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportForCSVoiceoverHSPA", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportForCSVoiceoverHSPA", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+         pvalue->supportForCSVoiceoverHSPA = ui;
+      }
+   }
+   /* totalRLC-AM-BufferSize */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->totalRLC_AM_BufferSize, 0, 3);
+      RT_CHECK(ctx, stat, "TotalRLC-AM-BufferSize-r5-ext", "totalRLC-AM-BufferSize", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v7f0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7f0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v7f0ext");
+   /* supportofTxDivOnNonMIMOChannel */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportofTxDivOnNonMIMOChannel", -1, "UE-RadioAccessCapability-v7f0ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportofTxDivOnNonMIMOChannel", -1, "UE-RadioAccessCapability-v7f0ext");
+         pvalue->supportofTxDivOnNonMIMOChannel = ui;
+      }
+   }
+   /* physicalChannelCapability-LCR */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_PhysicalChannelCapability_LCR_r4(ctx, &pvalue->physicalChannelCapability_LCR);
+      RT_CHECK(ctx, stat, 0, "physicalChannelCapability-LCR", -1, "UE-RadioAccessCapability-v7f0ext");
+   }
+   /* ue-RadioAccessCapabilityComp-TDD128 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapabilityComp_TDD128_v7f0ext(ctx, &pvalue->ue_RadioAccessCapabilityComp_TDD128);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityComp-TDD128", -1, "UE-RadioAccessCapability-v7f0ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityInfo_v770ext_ganssSupportIndication(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityInfo_v770ext_ganssSupportIndication* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityInfo_v770ext_mac_ehsSupport(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityInfo_v770ext_mac_ehsSupport* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityInfo_v770ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityInfo_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabilityInfo-v770ext");
+   /* rf-Capability */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RF_Capability_v770ext(ctx, &pvalue->rf_Capability);
+      RT_CHECK(ctx, stat, 0, "rf-Capability", -1, "UE-RadioAccessCapabilityInfo-v770ext");
+   }
+   /* physicalChannelCapability */
+   stat = asn1PD_UMTS_PhysicalChannelCapabilityInfo_v770ext(ctx, &pvalue->physicalChannelCapability);
+   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapabilityInfo-v770ext");
+   /* ganssSupportIndication */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "ganssSupportIndication", -1, "UE-RadioAccessCapabilityInfo-v770ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "ganssSupportIndication", -1, "UE-RadioAccessCapabilityInfo-v770ext");
+         pvalue->ganssSupportIndication = ui;
+      }
+   }
+   /* mac-ehsSupport */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "mac-ehsSupport", -1, "UE-RadioAccessCapabilityInfo-v770ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "mac-ehsSupport", -1, "UE-RadioAccessCapabilityInfo-v770ext");
+         pvalue->mac_ehsSupport = ui;
+      }
+   }
+   /* ue-SpecificCapabilityInformation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->ue_SpecificCapabilityInformation, 0, 15);
+      RT_CHECK(ctx, stat, "UE-SpecificCapabilityInformation-LCRTDD", "ue-SpecificCapabilityInformation", -1, "UE-RadioAccessCapabilityInfo-v770ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v860ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ue-RadioAccessCapabBandFDDList3 */
+   stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDDList3(ctx, &pvalue->ue_RadioAccessCapabBandFDDList3);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabBandFDDList3", -1, "UE-RadioAccessCapability-v860ext");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v880ext_supportForPriorityReselectionInUTRAN(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v880ext_supportForPriorityReselectionInUTRAN* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v880ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v880ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v880ext");
+   /* supportForPriorityReselectionInUTRAN */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportForPriorityReselectionInUTRAN", -1, "UE-RadioAccessCapability-v880ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportForPriorityReselectionInUTRAN", -1, "UE-RadioAccessCapability-v880ext");
+         pvalue->supportForPriorityReselectionInUTRAN = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v890ext_supportCellSpecificTxDiversityinDC_Operation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v890ext_supportCellSpecificTxDiversityinDC_Operation* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v890ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v890ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v890ext");
+   /* supportCellSpecificTxDiversityinDC-Operation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportCellSpecificTxDiversityinDC-Operation", -1, "UE-RadioAccessCapability-v890ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportCellSpecificTxDiversityinDC-Operation", -1, "UE-RadioAccessCapability-v890ext");
+         pvalue->supportCellSpecificTxDiversityinDC_Operation = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v920ext_supportOfenhancedTS0(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v920ext_supportOfenhancedTS0* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v920ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v920ext");
+   /* supportOfenhancedTS0 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportOfenhancedTS0", -1, "UE-RadioAccessCapability-v920ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportOfenhancedTS0", -1, "UE-RadioAccessCapability-v920ext");
+         pvalue->supportOfenhancedTS0 = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v4b0ext_tdd_CapabilityExt(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v4b0ext_tdd_CapabilityExt* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rf-Capability */
+   stat = asn1PD_UMTS_RF_Capability_r4_ext(ctx, &pvalue->rf_Capability);
+   RT_CHECK(ctx, stat, 0, "rf-Capability", -1, 0);
+   /* physicalChannelCapability-LCR */
+   stat = asn1PD_UMTS_PhysicalChannelCapability_LCR_r4(ctx, &pvalue->physicalChannelCapability_LCR);
+   RT_CHECK(ctx, stat, 0, "physicalChannelCapability-LCR", -1, 0);
+   /* measurementCapability-r4-ext */
+   stat = asn1PD_UMTS_MeasurementCapability_r4_ext(ctx, &pvalue->measurementCapability_r4_ext);
+   RT_CHECK(ctx, stat, 0, "measurementCapability-r4-ext", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v4b0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v4b0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v4b0ext");
+   /* pdcp-Capability-r4-ext */
+   stat = asn1PD_UMTS_PDCP_Capability_r4_ext(ctx, &pvalue->pdcp_Capability_r4_ext);
+   RT_CHECK(ctx, stat, 0, "pdcp-Capability-r4-ext", -1, "UE-RadioAccessCapability-v4b0ext");
+   /* tdd-CapabilityExt */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapability_v4b0ext_tdd_CapabilityExt(ctx, &pvalue->tdd_CapabilityExt);
+      RT_CHECK(ctx, stat, 0, "tdd-CapabilityExt", -1, "UE-RadioAccessCapability-v4b0ext");
+   }
+   /* accessStratumReleaseIndicator */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->accessStratumReleaseIndicator, 0, 15);
+      RT_CHECK(ctx, stat, "AccessStratumReleaseIndicator", "accessStratumReleaseIndicator", -1, "UE-RadioAccessCapability-v4b0ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RF_CapabBandFDDComp(rtxContext* RT_RESTRICT ctx, RF_CapabBandFDDComp* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RF-CapabBandFDDComp");
+   return 0;
+}
+
+int asn1PD_UMTS_RF_CapabBandListFDDComp(rtxContext* RT_RESTRICT ctx, RF_CapabBandListFDDComp* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 3);
+      RT_CHECK(ctx, stat, 0, 0, -1, "RF-CapabBandListFDDComp");
+      pvalue->n = raw + 1;
+      if (raw > 7) {
+         rtxErrAddStrParm(ctx, "RF-CapabBandListFDDComp");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "RF-CapabBandListFDDComp");
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 3);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, "RF-CapabBandFDDComp", "RF-CapabBandFDDComp", (int32_t)i, "RF-CapabBandListFDDComp");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RF_CapabilityComp_fdd(rtxContext* RT_RESTRICT ctx, RF_CapabilityComp_fdd* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* notSupported */
+         break;
+      case 1: /* supported */
+         pvalue->u.supported = (RF_CapabBandListFDDComp*)rtxMemHeapAlloc(ctx, sizeof(RF_CapabBandListFDDComp));
+         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "supported", -1, 0);
+         asn1Init_UMTS_RF_CapabBandListFDDComp(pvalue->u.supported);
+         stat = asn1PD_UMTS_RF_CapabBandListFDDComp(ctx, pvalue->u.supported);
+         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RF_CapabilityComp_tdd384_RF_Capability(rtxContext* RT_RESTRICT ctx, RF_CapabilityComp_tdd384_RF_Capability* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* notSupported */
+         break;
+      case 1: /* supported */
+         stat = pd_ConsUnsigned(ctx, &pvalue->u.supported, 0, 7);
+         RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList", "supported", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RF_CapabilityComp_tdd128_RF_Capability(rtxContext* RT_RESTRICT ctx, RF_CapabilityComp_tdd128_RF_Capability* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* notSupported */
+         break;
+      case 1: /* supported */
+         stat = pd_ConsUnsigned(ctx, &pvalue->u.supported, 0, 7);
+         RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList", "supported", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RF_CapabilityComp(rtxContext* RT_RESTRICT ctx, RF_CapabilityComp* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* fdd */
+   stat = asn1PD_UMTS_RF_CapabilityComp_fdd(ctx, &pvalue->fdd);
+   RT_CHECK(ctx, stat, 0, "fdd", -1, "RF-CapabilityComp");
+   /* tdd384-RF-Capability */
+   stat = asn1PD_UMTS_RF_CapabilityComp_tdd384_RF_Capability(ctx, &pvalue->tdd384_RF_Capability);
+   RT_CHECK(ctx, stat, 0, "tdd384-RF-Capability", -1, "RF-CapabilityComp");
+   /* tdd128-RF-Capability */
+   stat = asn1PD_UMTS_RF_CapabilityComp_tdd128_RF_Capability(ctx, &pvalue->tdd128_RF_Capability);
+   RT_CHECK(ctx, stat, 0, "tdd128-RF-Capability", -1, "RF-CapabilityComp");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* totalAM-RLCMemoryExceeds10kB */
+   stat = rtxDecBitInline(ctx, &pvalue->totalAM_RLCMemoryExceeds10kB);
+   RT_CHECK(ctx, stat, 0, "totalAM-RLCMemoryExceeds10kB", -1, "UE-RadioAccessCapabilityComp");
+   /* rf-CapabilityComp */
+   stat = asn1PD_UMTS_RF_CapabilityComp(ctx, &pvalue->rf_CapabilityComp);
+   RT_CHECK(ctx, stat, 0, "rf-CapabilityComp", -1, "UE-RadioAccessCapabilityComp");
+   return 0;
+}
+
+int asn1PD_UMTS_RF_CapabBandListFDDComp_ext(rtxContext* RT_RESTRICT ctx, RF_CapabBandListFDDComp_ext* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 4);
+      RT_CHECK(ctx, stat, 0, 0, -1, "RF-CapabBandListFDDComp-ext");
+      pvalue->n = raw + 1;
+      if (raw > 14) {
+         rtxErrAddStrParm(ctx, "RF-CapabBandListFDDComp-ext");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "RF-CapabBandListFDDComp-ext");
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 3);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, "RF-CapabBandFDDComp", "RF-CapabBandFDDComp", (int32_t)i, "RF-CapabBandListFDDComp-ext");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp_ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rf-CapabilityFDDComp */
+   stat = asn1PD_UMTS_RF_CapabBandListFDDComp_ext(ctx, &pvalue->rf_CapabilityFDDComp);
+   RT_CHECK(ctx, stat, 0, "rf-CapabilityFDDComp", -1, "UE-RadioAccessCapabilityComp-ext");
+   return 0;
+}
+
+int asn1PD_UMTS_RF_CapabilityComp_v770ext_tdd768_RF_Capability(rtxContext* RT_RESTRICT ctx, RF_CapabilityComp_v770ext_tdd768_RF_Capability* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* notSupported */
+         break;
+      case 1: /* supported */
+         stat = pd_ConsUnsigned(ctx, &pvalue->u.supported, 0, 15);
+         RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList-r7", "supported", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RF_CapabilityComp_v770ext(rtxContext* RT_RESTRICT ctx, RF_CapabilityComp_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RF-CapabilityComp-v770ext");
+   /* tdd384-RF-Capability */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->tdd384_RF_Capability, 0, 15);
+      RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList-r7", "tdd384-RF-Capability", -1, "RF-CapabilityComp-v770ext");
+   }
+   /* tdd768-RF-Capability */
+   stat = asn1PD_UMTS_RF_CapabilityComp_v770ext_tdd768_RF_Capability(ctx, &pvalue->tdd768_RF_Capability);
+   RT_CHECK(ctx, stat, 0, "tdd768-RF-Capability", -1, "RF-CapabilityComp-v770ext");
+   /* tdd128-RF-Capability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->tdd128_RF_Capability, 0, 15);
+      RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList-r7", "tdd128-RF-Capability", -1, "RF-CapabilityComp-v770ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp_v770ext_securityCapabilityIndication(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_v770ext_securityCapabilityIndication* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp_v770ext_ganssSupportIndication(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_v770ext_ganssSupportIndication* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp_v770ext_mac_ehsSupport(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_v770ext_mac_ehsSupport* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp_v770ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp-v770ext");
+   /* rf-CapabilityComp */
+   stat = asn1PD_UMTS_RF_CapabilityComp_v770ext(ctx, &pvalue->rf_CapabilityComp);
+   RT_CHECK(ctx, stat, 0, "rf-CapabilityComp", -1, "UE-RadioAccessCapabilityComp-v770ext");
+   /* securityCapabilityIndication */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "securityCapabilityIndication", -1, "UE-RadioAccessCapabilityComp-v770ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "securityCapabilityIndication", -1, "UE-RadioAccessCapabilityComp-v770ext");
+         pvalue->securityCapabilityIndication = ui;
+      }
+   }
+   /* ganssSupportIndication */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "ganssSupportIndication", -1, "UE-RadioAccessCapabilityComp-v770ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "ganssSupportIndication", -1, "UE-RadioAccessCapabilityComp-v770ext");
+         pvalue->ganssSupportIndication = ui;
+      }
+   }
+   /* mac-ehsSupport */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "mac-ehsSupport", -1, "UE-RadioAccessCapabilityComp-v770ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "mac-ehsSupport", -1, "UE-RadioAccessCapabilityComp-v770ext");
+         pvalue->mac_ehsSupport = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_fddPhysicalChannelCapab_hspdsch_edch(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_fddPhysicalChannelCapab_hspdsch_edch* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-CapabilityWithSimultaneousHS-DSCHConfig */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig, 0, 3);
+      RT_CHECK(ctx, stat, "DL-CapabilityWithSimultaneousHS-DSCHConfig", "dl-CapabilityWithSimultaneousHS-DSCHConfig", -1, 0);
+   }
+   /* physicalChannelCapabComp-hspdsch-r6 */
+   stat = pd_ConsUInt8(ctx, &pvalue->physicalChannelCapabComp_hspdsch_r6, 1, 64);
+   RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category", "physicalChannelCapabComp-hspdsch-r6", -1, 0);
+   /* physicalChannelCapability-edch-r6 */
+   stat = asn1PD_UMTS_PhysicalChannelCapability_edch_r6(ctx, &pvalue->physicalChannelCapability_edch_r6);
+   RT_CHECK(ctx, stat, 0, "physicalChannelCapability-edch-r6", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp2(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp2");
+   /* fddPhysicalChannelCapab-hspdsch-edch */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapabilityComp2_fddPhysicalChannelCapab_hspdsch_edch(ctx, &pvalue->fddPhysicalChannelCapab_hspdsch_edch);
+      RT_CHECK(ctx, stat, 0, "fddPhysicalChannelCapab-hspdsch-edch", -1, "UE-RadioAccessCapabilityComp2");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v770ext_hsscchlessHsdschOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_hsscchlessHsdschOperation* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v770ext_enhancedFdpch(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_enhancedFdpch* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellFach(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellFach* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellUraPch(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellUraPch* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v770ext_discontinuousDpcchTransmission(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_discontinuousDpcchTransmission* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v770ext_slotFormat4(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_slotFormat4* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v770ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 9);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp2-v770ext");
+   /* hsdsch-physical-layer-category-ext */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->hsdsch_physical_layer_category_ext, 1, 20);
+      RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category-ext", "hsdsch-physical-layer-category-ext", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+   }
+   /* edch-PhysicalLayerCategory-extension */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->edch_PhysicalLayerCategory_extension, 7, 7);
+      RT_CHECK(ctx, stat, 0, "edch-PhysicalLayerCategory-extension", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+   }
+   /* hsscchlessHsdschOperation */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "hsscchlessHsdschOperation", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "hsscchlessHsdschOperation", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+         pvalue->hsscchlessHsdschOperation = ui;
+      }
+   }
+   /* enhancedFdpch */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "enhancedFdpch", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "enhancedFdpch", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+         pvalue->enhancedFdpch = ui;
+      }
+   }
+   /* hsdschReception-CellFach */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x10u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "hsdschReception-CellFach", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "hsdschReception-CellFach", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+         pvalue->hsdschReception_CellFach = ui;
+      }
+   }
+   /* hsdschReception-CellUraPch */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x20u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "hsdschReception-CellUraPch", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "hsdschReception-CellUraPch", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+         pvalue->hsdschReception_CellUraPch = ui;
+      }
+   }
+   /* discontinuousDpcchTransmission */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x40u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "discontinuousDpcchTransmission", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "discontinuousDpcchTransmission", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+         pvalue->discontinuousDpcchTransmission = ui;
+      }
+   }
+   /* slotFormat4 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x80u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "slotFormat4", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "slotFormat4", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+         pvalue->slotFormat4 = ui;
+      }
+   }
+   /* pdcp-Capability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_PDCP_Capability_v770ext(ctx, &pvalue->pdcp_Capability);
+      RT_CHECK(ctx, stat, 0, "pdcp-Capability", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v7f0ext_supportofTxDivOnNonMIMOChannel(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v7f0ext_supportofTxDivOnNonMIMOChannel* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v7f0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v7f0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp2-v7f0ext");
+   /* supportofTxDivOnNonMIMOChannel */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportofTxDivOnNonMIMOChannel", -1, "UE-RadioAccessCapabilityComp2-v7f0ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportofTxDivOnNonMIMOChannel", -1, "UE-RadioAccessCapabilityComp2-v7f0ext");
+         pvalue->supportofTxDivOnNonMIMOChannel = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v860ext_supportOfMACiis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v860ext_supportOfMACiis* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v860ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp2-v860ext");
+   /* hsdsch-physical-layer-category-ext2 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->hsdsch_physical_layer_category_ext2, 21, 24);
+      RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category-ext2", "hsdsch-physical-layer-category-ext2", -1, "UE-RadioAccessCapabilityComp2-v860ext");
+   }
+   /* supportOfMACiis */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportOfMACiis", -1, "UE-RadioAccessCapabilityComp2-v860ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportOfMACiis", -1, "UE-RadioAccessCapabilityComp2-v860ext");
+         pvalue->supportOfMACiis = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v920ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp2-v920ext");
+   /* hsdsch-physical-layer-category-ext3 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->hsdsch_physical_layer_category_ext3, 25, 28);
+      RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category-ext3", "hsdsch-physical-layer-category-ext3", -1, "UE-RadioAccessCapabilityComp2-v920ext");
+   }
+   /* edch-PhysicalLayerCategory-extension2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->edch_PhysicalLayerCategory_extension2, 8, 9);
+      RT_CHECK(ctx, stat, 0, "edch-PhysicalLayerCategory-extension2", -1, "UE-RadioAccessCapabilityComp2-v920ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfSFModeForHSPDSCHDualStream(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfSFModeForHSPDSCHDualStream* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfCommonEDCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfCommonEDCH* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfMACiis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfMACiis* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfSPSOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfSPSOperation* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfControlChannelDRXOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfControlChannelDRXOperation* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapabilityComp_TDD128(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp-TDD128");
+   /* tdd128RF-Capability */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioFrequencyBandTDDextList(ctx, &pvalue->tdd128RF_Capability);
+      RT_CHECK(ctx, stat, 0, "tdd128RF-Capability", -1, "UE-RadioAccessCapabilityComp-TDD128");
+   }
+   /* supportOfSFModeForHSPDSCHDualStream */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->supportOfSFModeForHSPDSCHDualStream, 0, 1);
+      RT_CHECK(ctx, stat, 0, "supportOfSFModeForHSPDSCHDualStream", -1, "UE-RadioAccessCapabilityComp-TDD128");
+   }
+   /* supportOfCommonEDCH */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportOfCommonEDCH", -1, "UE-RadioAccessCapabilityComp-TDD128");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportOfCommonEDCH", -1, "UE-RadioAccessCapabilityComp-TDD128");
+         pvalue->supportOfCommonEDCH = ui;
+      }
+   }
+   /* supportOfMACiis */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportOfMACiis", -1, "UE-RadioAccessCapabilityComp-TDD128");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportOfMACiis", -1, "UE-RadioAccessCapabilityComp-TDD128");
+         pvalue->supportOfMACiis = ui;
+      }
+   }
+   /* supportOfSPSOperation */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportOfSPSOperation", -1, "UE-RadioAccessCapabilityComp-TDD128");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportOfSPSOperation", -1, "UE-RadioAccessCapabilityComp-TDD128");
+         pvalue->supportOfSPSOperation = ui;
+      }
+   }
+   /* supportOfControlChannelDRXOperation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportOfControlChannelDRXOperation", -1, "UE-RadioAccessCapabilityComp-TDD128");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportOfControlChannelDRXOperation", -1, "UE-RadioAccessCapabilityComp-TDD128");
+         pvalue->supportOfControlChannelDRXOperation = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v590ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v590ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v590ext");
+   /* dl-CapabilityWithSimultaneousHS-DSCHConfig */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig, 0, 3);
+      RT_CHECK(ctx, stat, "DL-CapabilityWithSimultaneousHS-DSCHConfig", "dl-CapabilityWithSimultaneousHS-DSCHConfig", -1, "UE-RadioAccessCapability-v590ext");
+   }
+   /* pdcp-Capability-r5-ext */
+   stat = asn1PD_UMTS_PDCP_Capability_r5_ext(ctx, &pvalue->pdcp_Capability_r5_ext);
+   RT_CHECK(ctx, stat, 0, "pdcp-Capability-r5-ext", -1, "UE-RadioAccessCapability-v590ext");
+   /* rlc-Capability-r5-ext */
+   stat = asn1PD_UMTS_RLC_Capability_r5_ext(ctx, &pvalue->rlc_Capability_r5_ext);
+   RT_CHECK(ctx, stat, 0, "rlc-Capability-r5-ext", -1, "UE-RadioAccessCapability-v590ext");
+   /* physicalChannelCapability */
+   stat = asn1PD_UMTS_PhysicalChannelCapability_hspdsch_r5(ctx, &pvalue->physicalChannelCapability);
+   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapability-v590ext");
+   /* multiModeRAT-Capability-v590ext */
+   stat = asn1PD_UMTS_MultiModeRAT_Capability_v590ext(ctx, &pvalue->multiModeRAT_Capability_v590ext);
+   RT_CHECK(ctx, stat, 0, "multiModeRAT-Capability-v590ext", -1, "UE-RadioAccessCapability-v590ext");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v5c0ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v5c0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* pdcp-Capability-r5-ext2 */
+   stat = asn1PD_UMTS_PDCP_Capability_r5_ext2(ctx, &pvalue->pdcp_Capability_r5_ext2);
+   RT_CHECK(ctx, stat, 0, "pdcp-Capability-r5-ext2", -1, "UE-RadioAccessCapability-v5c0ext");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_v680ext(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v680ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* multiModeRAT-Capability-v680ext */
+   stat = asn1PD_UMTS_MultiModeRAT_Capability_v680ext(ctx, &pvalue->multiModeRAT_Capability_v680ext);
+   RT_CHECK(ctx, stat, 0, "multiModeRAT-Capability-v680ext", -1, "UE-RadioAccessCapability-v680ext");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_PhysChCapabilityFDD_r6(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* maxNoDPDCH-BitsTransmitted */
+   stat = pd_ConsUnsigned(ctx, &pvalue->maxNoDPDCH_BitsTransmitted, 0, 9);
+   RT_CHECK(ctx, stat, "MaxNoDPDCH-BitsTransmitted", "maxNoDPDCH-BitsTransmitted", -1, "UL-PhysChCapabilityFDD-r6");
+   /* physicalchannelcapability-edch */
+   stat = asn1PD_UMTS_PhysicalChannelCapability_edch_r6(ctx, &pvalue->physicalchannelcapability_edch);
+   RT_CHECK(ctx, stat, 0, "physicalchannelcapability-edch", -1, "UL-PhysChCapabilityFDD-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_SecondaryCellInfoFDD_newConfiguration(rtxContext* RT_RESTRICT ctx, UL_SecondaryCellInfoFDD_newConfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* secondaryServingEDCHCell-Info */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SecondaryServingEDCHCell_Info(ctx, &pvalue->secondaryServingEDCHCell_Info);
+      RT_CHECK(ctx, stat, 0, "secondaryServingEDCHCell-Info", -1, 0);
+   }
+   /* secondaryEDCH-Info-Common */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SecondaryEDCH_Info_Common(ctx, &pvalue->secondaryEDCH_Info_Common);
+      RT_CHECK(ctx, stat, 0, "secondaryEDCH-Info-Common", -1, 0);
+   }
+   /* dl-InformationPerSecondaryRL-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_DL_InformationPerSecondaryRL_List(ctx, &pvalue->dl_InformationPerSecondaryRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerSecondaryRL-List", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_SecondaryCellInfoFDD(rtxContext* RT_RESTRICT ctx, UL_SecondaryCellInfoFDD* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-SecondaryCellInfoFDD");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* continue */
+         break;
+      case 1: /* newConfiguration */
+         pvalue->u.newConfiguration = (UL_SecondaryCellInfoFDD_newConfiguration*)rtxMemHeapAlloc(ctx, sizeof(UL_SecondaryCellInfoFDD_newConfiguration));
+         if (pvalue->u.newConfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "newConfiguration", -1, "UL-SecondaryCellInfoFDD");
+         asn1Init_UMTS_UL_SecondaryCellInfoFDD_newConfiguration(pvalue->u.newConfiguration);
+         stat = asn1PD_UMTS_UL_SecondaryCellInfoFDD_newConfiguration(ctx, pvalue->u.newConfiguration);
+         RT_CHECK(ctx, stat, 0, "newConfiguration", -1, "UL-SecondaryCellInfoFDD");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-SecondaryCellInfoFDD");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_SecurityInformation(rtxContext* RT_RESTRICT ctx, UE_SecurityInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* start-CS */
+   stat = asn1PD_UMTS_START_Value(ctx, &pvalue->start_CS);
+   RT_CHECK(ctx, stat, 0, "start-CS", -1, "UE-SecurityInformation");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_SecurityInformation2(rtxContext* RT_RESTRICT ctx, UE_SecurityInformation2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* start-PS */
+   stat = asn1PD_UMTS_START_Value(ctx, &pvalue->start_PS);
+   RT_CHECK(ctx, stat, 0, "start-PS", -1, "UE-SecurityInformation2");
+   return 0;
+}
+
+int asn1PD_UMTS_URA_UpdateCause(rtxContext* RT_RESTRICT ctx, URA_UpdateCause* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "URA-UpdateCause");
+   return 0;
+}
+
+int asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient(rtxContext* RT_RESTRICT ctx, UTRAN_DRX_CycleLengthCoefficient* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 3, 9);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UTRAN-DRX-CycleLengthCoefficient");
+   return 0;
+}
+
+int asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(rtxContext* RT_RESTRICT ctx, UTRAN_DRX_CycleLengthCoefficient_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UTRAN-DRX-CycleLengthCoefficient-r7");
+   /* drx-CycleLengthCoefficient */
+   stat = pd_ConsUInt8(ctx, &pvalue->drx_CycleLengthCoefficient, 3, 9);
+   RT_CHECK(ctx, stat, 0, "drx-CycleLengthCoefficient", -1, "UTRAN-DRX-CycleLengthCoefficient-r7");
+   /* drx-CycleLengthCoefficient2 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->drx_CycleLengthCoefficient2, 3, 9);
+      RT_CHECK(ctx, stat, 0, "drx-CycleLengthCoefficient2", -1, "UTRAN-DRX-CycleLengthCoefficient-r7");
+   }
+   /* timeForDRXCycle2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->timeForDRXCycle2, 0, 6);
+      RT_CHECK(ctx, stat, "T-319", "timeForDRXCycle2", -1, "UTRAN-DRX-CycleLengthCoefficient-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_WaitTime(rtxContext* RT_RESTRICT ctx, WaitTime* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "WaitTime");
+   return 0;
+}
+
+int asn1PD_UMTS_ROHC_Profile_r4(rtxContext* RT_RESTRICT ctx, ROHC_Profile_r4* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ROHC-Profile-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_ROHC_ProfileList_r4(rtxContext* RT_RESTRICT ctx, ROHC_ProfileList_r4* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 3);
+      RT_CHECK(ctx, stat, 0, 0, -1, "ROHC-ProfileList-r4");
+      pvalue->n = raw + 1;
+      if (raw > 7) {
+         rtxErrAddStrParm(ctx, "ROHC-ProfileList-r4");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "ROHC-ProfileList-r4");
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 1, 3);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, "ROHC-Profile-r4", "ROHC-Profile-r4", (int32_t)i, "ROHC-ProfileList-r4");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CID_InclusionInfo_r4(rtxContext* RT_RESTRICT ctx, CID_InclusionInfo_r4* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CID-InclusionInfo-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_ROHC_PacketSize_r4(rtxContext* RT_RESTRICT ctx, ROHC_PacketSize_r4* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt16(ctx, pvalue, 2, 1500);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ROHC-PacketSize-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_ROHC_PacketSizeList_r4(rtxContext* RT_RESTRICT ctx, ROHC_PacketSizeList_r4* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 4);
+      RT_CHECK(ctx, stat, 0, 0, -1, "ROHC-PacketSizeList-r4");
+      pvalue->n = raw + 1;
+      if (raw > 15) {
+         rtxErrAddStrParm(ctx, "ROHC-PacketSizeList-r4");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "ROHC-PacketSizeList-r4");
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt16(ctx, &pvalue->elem[i], 2, 1500);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, "ROHC-PacketSize-r4", "ROHC-PacketSize-r4", (int32_t)i, "ROHC-PacketSizeList-r4");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_RFC3095_r4(rtxContext* RT_RESTRICT ctx, UL_RFC3095_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-RFC3095-r4");
+   /* dummy1 */
+   stat = pd_ConsUnsigned(ctx, &pvalue->dummy1, 0, 1);
+   RT_CHECK(ctx, stat, "CID-InclusionInfo-r4", "dummy1", -1, "UL-RFC3095-r4");
+   /* max-CID */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUInt16(ctx, &pvalue->max_CID, 1, 16383);
+      RT_CHECK(ctx, stat, 0, "max-CID", -1, "UL-RFC3095-r4");
+   }
+   else {
+      pvalue->max_CID = 15;
+   }
+   /* dummy */
+   stat = asn1PD_UMTS_ROHC_PacketSizeList_r4(ctx, &pvalue->dummy);
+   RT_CHECK(ctx, stat, 0, "dummy", -1, "UL-RFC3095-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_RFC3095_r4(rtxContext* RT_RESTRICT ctx, DL_RFC3095_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-RFC3095-r4");
+   /* dummy */
+   stat = pd_ConsUnsigned(ctx, &pvalue->dummy, 0, 1);
+   RT_CHECK(ctx, stat, "CID-InclusionInfo-r4", "dummy", -1, "DL-RFC3095-r4");
+   /* max-CID */
+   if (present & ((uint32_t)1 << 1)) {
+      stat = pd_ConsUInt16(ctx, &pvalue->max_CID, 1, 16383);
+      RT_CHECK(ctx, stat, 0, "max-CID", -1, "DL-RFC3095-r4");
+   }
+   else {
+      pvalue->max_CID = 15;
+   }
+   /* reverseDecompressionDepth */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUInt16(ctx, &pvalue->reverseDecompressionDepth, 0, 65535);
+      RT_CHECK(ctx, stat, 0, "reverseDecompressionDepth", -1, "DL-RFC3095-r4");
+   }
+   else {
+      pvalue->reverseDecompressionDepth = 0;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RFC3095_Info_r4(rtxContext* RT_RESTRICT ctx, RFC3095_Info_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RFC3095-Info-r4");
+   /* rohcProfileList */
+   stat = asn1PD_UMTS_ROHC_ProfileList_r4(ctx, &pvalue->rohcProfileList);
+   RT_CHECK(ctx, stat, 0, "rohcProfileList", -1, "RFC3095-Info-r4");
+   /* ul-RFC3095 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UL_RFC3095_r4(ctx, &pvalue->ul_RFC3095);
+      RT_CHECK(ctx, stat, 0, "ul-RFC3095", -1, "RFC3095-Info-r4");
+   }
+   /* dl-RFC3095 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DL_RFC3095_r4(ctx, &pvalue->dl_RFC3095);
+      RT_CHECK(ctx, stat, 0, "dl-RFC3095", -1, "RFC3095-Info-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AlgorithmSpecificInfo_r4(rtxContext* RT_RESTRICT ctx, AlgorithmSpecificInfo_r4* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AlgorithmSpecificInfo-r4");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* rfc2507-Info */
+         pvalue->u.rfc2507_Info = (RFC2507_Info*)rtxMemHeapAlloc(ctx, sizeof(RFC2507_Info));
+         if (pvalue->u.rfc2507_Info == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "rfc2507-Info", -1, "AlgorithmSpecificInfo-r4");
+         asn1Init_UMTS_RFC2507_Info(pvalue->u.rfc2507_Info);
+         stat = asn1PD_UMTS_RFC2507_Info(ctx, pvalue->u.rfc2507_Info);
+         RT_CHECK(ctx, stat, 0, "rfc2507-Info", -1, "AlgorithmSpecificInfo-r4");
+         break;
+      case 1: /* rfc3095-Info */
+         pvalue->u.rfc3095_Info = (RFC3095_Info_r4*)rtxMemHeapAlloc(ctx, sizeof(RFC3095_Info_r4));
+         if (pvalue->u.rfc3095_Info == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "rfc3095-Info", -1, "AlgorithmSpecificInfo-r4");
+         asn1Init_UMTS_RFC3095_Info_r4(pvalue->u.rfc3095_Info);
+         stat = asn1PD_UMTS_RFC3095_Info_r4(ctx, pvalue->u.rfc3095_Info);
+         RT_CHECK(ctx, stat, 0, "rfc3095-Info", -1, "AlgorithmSpecificInfo-r4");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "AlgorithmSpecificInfo-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_COUNT_C(rtxContext* RT_RESTRICT ctx, COUNT_C* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt32(ctx, pvalue, 0, 4294967295LL);
+   RT_CHECK(ctx, stat, 0, 0, -1, "COUNT-C");
+   return 0;
+}
+
+int asn1PD_UMTS_COUNT_C_MSB(rtxContext* RT_RESTRICT ctx, COUNT_C_MSB* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt32(ctx, pvalue, 0, 33554431);
+   RT_CHECK(ctx, stat, 0, 0, -1, "COUNT-C-MSB");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AMR_Rate(rtxContext* RT_RESTRICT ctx, UL_AMR_Rate* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-AMR-Rate");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxCS_Delay(rtxContext* RT_RESTRICT ctx, MaxCS_Delay* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 18);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxCS-Delay");
+   return 0;
+}
+
+int asn1PD_UMTS_CS_HSPA_Information(rtxContext* RT_RESTRICT ctx, CS_HSPA_Information* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CS-HSPA-Information");
+   /* ul-AMR-Rate */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->ul_AMR_Rate, 0, 15);
+      RT_CHECK(ctx, stat, "UL-AMR-Rate", "ul-AMR-Rate", -1, "CS-HSPA-Information");
+   }
+   /* maxCS-Delay */
+   stat = pd_ConsUInt8(ctx, &pvalue->maxCS_Delay, 0, 18);
+   RT_CHECK(ctx, stat, "MaxCS-Delay", "maxCS-Delay", -1, "CS-HSPA-Information");
+   return 0;
+}
+
+int asn1PD_UMTS_DefaultConfigMode(rtxContext* RT_RESTRICT ctx, DefaultConfigMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DefaultConfigMode");
+   return 0;
+}
+
+int asn1PD_UMTS_DefaultConfigIdForCellFACH(rtxContext* RT_RESTRICT ctx, DefaultConfigIdForCellFACH* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DefaultConfigIdForCellFACH");
+   return 0;
+}
+
+int asn1PD_UMTS_DefaultConfigForCellFACH(rtxContext* RT_RESTRICT ctx, DefaultConfigForCellFACH* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* defaultConfigMode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, "DefaultConfigForCellFACH");
+   /* defaultConfigIdForCellFACH */
+   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdForCellFACH, 0, 15);
+   RT_CHECK(ctx, stat, "DefaultConfigIdForCellFACH", "defaultConfigIdForCellFACH", -1, "DefaultConfigForCellFACH");
+   return 0;
+}
+
+int asn1PD_UMTS_DefaultConfigIdentity(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 10);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DefaultConfigIdentity");
+   return 0;
+}
+
+int asn1PD_UMTS_DefaultConfigIdentity_r4(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity_r4* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 12);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DefaultConfigIdentity-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_DefaultConfigIdentity_r5(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity_r5* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 13);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DefaultConfigIdentity-r5");
+   return 0;
+}
+
+int asn1PD_UMTS_DefaultConfigIdentity_r6(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity_r6* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 31);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DefaultConfigIdentity-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_DDI(rtxContext* RT_RESTRICT ctx, DDI* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 62);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DDI");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AM_RLC_Mode_r5(rtxContext* RT_RESTRICT ctx, DL_AM_RLC_Mode_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* dl-RLC-PDU-size */
+   stat = asn1PD_UMTS_OctetModeRLC_SizeInfoType1(ctx, &pvalue->dl_RLC_PDU_size);
+   RT_CHECK(ctx, stat, 0, "dl-RLC-PDU-size", -1, "DL-AM-RLC-Mode-r5");
+   /* inSequenceDelivery */
+   stat = rtxDecBitInline(ctx, &pvalue->inSequenceDelivery);
+   RT_CHECK(ctx, stat, 0, "inSequenceDelivery", -1, "DL-AM-RLC-Mode-r5");
+   /* receivingWindowSize */
+   stat = pd_ConsUnsigned(ctx, &pvalue->receivingWindowSize, 0, 15);
+   RT_CHECK(ctx, stat, "ReceivingWindowSize", "receivingWindowSize", -1, "DL-AM-RLC-Mode-r5");
+   /* dl-RLC-StatusInfo */
+   stat = asn1PD_UMTS_DL_RLC_StatusInfo(ctx, &pvalue->dl_RLC_StatusInfo);
+   RT_CHECK(ctx, stat, 0, "dl-RLC-StatusInfo", -1, "DL-AM-RLC-Mode-r5");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AM_RLC_Mode_r7_dl_RLC_PDU_size_flexibleSize(rtxContext* RT_RESTRICT ctx, DL_AM_RLC_Mode_r7_dl_RLC_PDU_size_flexibleSize* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AM_RLC_Mode_r7_dl_RLC_PDU_size(rtxContext* RT_RESTRICT ctx, DL_AM_RLC_Mode_r7_dl_RLC_PDU_size* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fixedSize */
+         pvalue->u.fixedSize = (OctetModeRLC_SizeInfoType1*)rtxMemHeapAlloc(ctx, sizeof(OctetModeRLC_SizeInfoType1));
+         if (pvalue->u.fixedSize == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fixedSize", -1, 0);
+         asn1Init_UMTS_OctetModeRLC_SizeInfoType1(pvalue->u.fixedSize);
+         stat = asn1PD_UMTS_OctetModeRLC_SizeInfoType1(ctx, pvalue->u.fixedSize);
+         RT_CHECK(ctx, stat, 0, "fixedSize", -1, 0);
+         break;
+      case 1: /* flexibleSize */
+         stat = pd_ConsUnsigned(ctx, &pvalue->u.flexibleSize, 0, 1);
+         RT_CHECK(ctx, stat, 0, "flexibleSize", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AM_RLC_Mode_r7(rtxContext* RT_RESTRICT ctx, DL_AM_RLC_Mode_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* dl-RLC-PDU-size */
+   stat = asn1PD_UMTS_DL_AM_RLC_Mode_r7_dl_RLC_PDU_size(ctx, &pvalue->dl_RLC_PDU_size);
+   RT_CHECK(ctx, stat, 0, "dl-RLC-PDU-size", -1, "DL-AM-RLC-Mode-r7");
+   /* inSequenceDelivery */
+   stat = rtxDecBitInline(ctx, &pvalue->inSequenceDelivery);
+   RT_CHECK(ctx, stat, 0, "inSequenceDelivery", -1, "DL-AM-RLC-Mode-r7");
+   /* receivingWindowSize */
+   stat = pd_ConsUnsigned(ctx, &pvalue->receivingWindowSize, 0, 15);
+   RT_CHECK(ctx, stat, "ReceivingWindowSize", "receivingWindowSize", -1, "DL-AM-RLC-Mode-r7");
+   /* dl-RLC-StatusInfo */
+   stat = asn1PD_UMTS_DL_RLC_StatusInfo(ctx, &pvalue->dl_RLC_StatusInfo);
+   RT_CHECK(ctx, stat, 0, "dl-RLC-StatusInfo", -1, "DL-AM-RLC-Mode-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_SN_Info(rtxContext* RT_RESTRICT ctx, PDCP_SN_Info* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt16(ctx, pvalue, 0, 65535);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PDCP-SN-Info");
+   return 0;
+}
+
+int asn1PD_UMTS_RB_WithPDCP_Info(rtxContext* RT_RESTRICT ctx, RB_WithPDCP_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rb-Identity */
+   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-WithPDCP-Info");
+   /* pdcp-SN-Info */
+   stat = pd_ConsUInt16(ctx, &pvalue->pdcp_SN_Info, 0, 65535);
+   RT_CHECK(ctx, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-WithPDCP-Info");
+   return 0;
+}
+
+int asn1PD_UMTS_RB_WithPDCP_InfoList(rtxContext* RT_RESTRICT ctx, RB_WithPDCP_InfoList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 27);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-WithPDCP-InfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_WithPDCP_Info* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_WithPDCP_Info));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-WithPDCP-Info", (int32_t)i, "RB-WithPDCP-InfoList");
+      elem = (RB_WithPDCP_Info*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RB_WithPDCP_Info(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RB-WithPDCP-Info", (int32_t)i, "RB-WithPDCP-InfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CounterSynchronisationInfo(rtxContext* RT_RESTRICT ctx, DL_CounterSynchronisationInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CounterSynchronisationInfo");
+   /* rB-WithPDCP-InfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RB_WithPDCP_InfoList(ctx, &pvalue->rB_WithPDCP_InfoList);
+      RT_CHECK(ctx, stat, 0, "rB-WithPDCP-InfoList", -1, "DL-CounterSynchronisationInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_PDCPContextRelocation(rtxContext* RT_RESTRICT ctx, RB_PDCPContextRelocation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rb-Identity */
+   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-PDCPContextRelocation");
+   /* dl-RFC3095-Context-Relocation */
+   stat = rtxDecBitInline(ctx, &pvalue->dl_RFC3095_Context_Relocation);
+   RT_CHECK(ctx, stat, 0, "dl-RFC3095-Context-Relocation", -1, "RB-PDCPContextRelocation");
+   /* ul-RFC3095-Context-Relocation */
+   stat = rtxDecBitInline(ctx, &pvalue->ul_RFC3095_Context_Relocation);
+   RT_CHECK(ctx, stat, 0, "ul-RFC3095-Context-Relocation", -1, "RB-PDCPContextRelocation");
+   return 0;
+}
+
+int asn1PD_UMTS_RB_PDCPContextRelocationList(rtxContext* RT_RESTRICT ctx, RB_PDCPContextRelocationList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 27);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-PDCPContextRelocationList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_PDCPContextRelocation* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_PDCPContextRelocation));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-PDCPContextRelocation", (int32_t)i, "RB-PDCPContextRelocationList");
+      elem = (RB_PDCPContextRelocation*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RB_PDCPContextRelocation(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RB-PDCPContextRelocation", (int32_t)i, "RB-PDCPContextRelocationList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(rtxContext* RT_RESTRICT ctx, DL_CounterSynchronisationInfo_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CounterSynchronisationInfo-r5");
+   /* rb-WithPDCP-InfoList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RB_WithPDCP_InfoList(ctx, &pvalue->rb_WithPDCP_InfoList);
+      RT_CHECK(ctx, stat, 0, "rb-WithPDCP-InfoList", -1, "DL-CounterSynchronisationInfo-r5");
+   }
+   /* rb-PDCPContextRelocationList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RB_PDCPContextRelocationList(ctx, &pvalue->rb_PDCPContextRelocationList);
+      RT_CHECK(ctx, stat, 0, "rb-PDCPContextRelocationList", -1, "DL-CounterSynchronisationInfo-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MAC_d_FlowIdentity(rtxContext* RT_RESTRICT ctx, MAC_d_FlowIdentity* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-d-FlowIdentity");
+   return 0;
+}
+
+int asn1PD_UMTS_MAC_d_FlowIdentityDCHandHSDSCH(rtxContext* RT_RESTRICT ctx, MAC_d_FlowIdentityDCHandHSDSCH* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* dch-transport-ch-id */
+   stat = pd_ConsUInt8(ctx, &pvalue->dch_transport_ch_id, 1, 32);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch-transport-ch-id", -1, "MAC-d-FlowIdentityDCHandHSDSCH");
+   /* hsdsch-mac-d-flow-id */
+   stat = pd_ConsUInt8(ctx, &pvalue->hsdsch_mac_d_flow_id, 0, 7);
+   RT_CHECK(ctx, stat, "MAC-d-FlowIdentity", "hsdsch-mac-d-flow-id", -1, "MAC-d-FlowIdentityDCHandHSDSCH");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_TransportChannelType_r5(rtxContext* RT_RESTRICT ctx, DL_TransportChannelType_r5* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-TransportChannelType-r5");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dch */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.dch, 1, 32);
+         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch", -1, "DL-TransportChannelType-r5");
+         break;
+      case 1: /* fach */
+         break;
+      case 2: /* dsch */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.dsch, 1, 32);
+         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dsch", -1, "DL-TransportChannelType-r5");
+         break;
+      case 3: /* dch-and-dsch */
+         pvalue->u.dch_and_dsch = (TransportChannelIdentityDCHandDSCH*)rtxMemHeapAllocZ(ctx, sizeof(TransportChannelIdentityDCHandDSCH));
+         if (pvalue->u.dch_and_dsch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dch-and-dsch", -1, "DL-TransportChannelType-r5");
+         stat = asn1PD_UMTS_TransportChannelIdentityDCHandDSCH(ctx, pvalue->u.dch_and_dsch);
+         RT_CHECK(ctx, stat, 0, "dch-and-dsch", -1, "DL-TransportChannelType-r5");
+         break;
+      case 4: /* hsdsch */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.hsdsch, 0, 7);
+         RT_CHECK(ctx, stat, "MAC-d-FlowIdentity", "hsdsch", -1, "DL-TransportChannelType-r5");
+         break;
+      case 5: /* dch-and-hsdsch */
+         pvalue->u.dch_and_hsdsch = (MAC_d_FlowIdentityDCHandHSDSCH*)rtxMemHeapAllocZ(ctx, sizeof(MAC_d_FlowIdentityDCHandHSDSCH));
+         if (pvalue->u.dch_and_hsdsch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dch-and-hsdsch", -1, "DL-TransportChannelType-r5");
+         stat = asn1PD_UMTS_MAC_d_FlowIdentityDCHandHSDSCH(ctx, pvalue->u.dch_and_hsdsch);
+         RT_CHECK(ctx, stat, 0, "dch-and-hsdsch", -1, "DL-TransportChannelType-r5");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-TransportChannelType-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_LogicalChannelMapping_r5(rtxContext* RT_RESTRICT ctx, DL_LogicalChannelMapping_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-LogicalChannelMapping-r5");
+   /* dl-TransportChannelType */
+   stat = asn1PD_UMTS_DL_TransportChannelType_r5(ctx, &pvalue->dl_TransportChannelType);
+   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-LogicalChannelMapping-r5");
+   /* logicalChannelIdentity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->logicalChannelIdentity, 1, 15);
+      RT_CHECK(ctx, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "DL-LogicalChannelMapping-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_TransportChannelType_r7_hsdsch(rtxContext* RT_RESTRICT ctx, DL_TransportChannelType_r7_hsdsch* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* mac-hs */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.mac_hs, 0, 7);
+         RT_CHECK(ctx, stat, "MAC-d-FlowIdentity", "mac-hs", -1, 0);
+         break;
+      case 1: /* mac-ehs */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.mac_ehs, 0, 7);
+         RT_CHECK(ctx, stat, "MAC-ehs-QueueId", "mac-ehs", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MAC_ehs_QueueIdDCHandHSDSCH(rtxContext* RT_RESTRICT ctx, MAC_ehs_QueueIdDCHandHSDSCH* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* dch-transport-ch-id */
+   stat = pd_ConsUInt8(ctx, &pvalue->dch_transport_ch_id, 1, 32);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch-transport-ch-id", -1, "MAC-ehs-QueueIdDCHandHSDSCH");
+   /* hsdsch-mac-ehs-QueueId */
+   stat = pd_ConsUInt8(ctx, &pvalue->hsdsch_mac_ehs_QueueId, 0, 7);
+   RT_CHECK(ctx, stat, "MAC-ehs-QueueId", "hsdsch-mac-ehs-QueueId", -1, "MAC-ehs-QueueIdDCHandHSDSCH");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_TransportChannelType_r7_dch_and_hsdsch(rtxContext* RT_RESTRICT ctx, DL_TransportChannelType_r7_dch_and_hsdsch* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* mac-hs */
+         pvalue->u.mac_hs = (MAC_d_FlowIdentityDCHandHSDSCH*)rtxMemHeapAllocZ(ctx, sizeof(MAC_d_FlowIdentityDCHandHSDSCH));
+         if (pvalue->u.mac_hs == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "mac-hs", -1, 0);
+         stat = asn1PD_UMTS_MAC_d_FlowIdentityDCHandHSDSCH(ctx, pvalue->u.mac_hs);
+         RT_CHECK(ctx, stat, 0, "mac-hs", -1, 0);
+         break;
+      case 1: /* mac-ehs */
+         pvalue->u.mac_ehs = (MAC_ehs_QueueIdDCHandHSDSCH*)rtxMemHeapAllocZ(ctx, sizeof(MAC_ehs_QueueIdDCHandHSDSCH));
+         if (pvalue->u.mac_ehs == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "mac-ehs", -1, 0);
+         stat = asn1PD_UMTS_MAC_ehs_QueueIdDCHandHSDSCH(ctx, pvalue->u.mac_ehs);
+         RT_CHECK(ctx, stat, 0, "mac-ehs", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_TransportChannelType_r7(rtxContext* RT_RESTRICT ctx, DL_TransportChannelType_r7* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-TransportChannelType-r7");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dch */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.dch, 1, 32);
+         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch", -1, "DL-TransportChannelType-r7");
+         break;
+      case 1: /* fach */
+         break;
+      case 2: /* dsch */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.dsch, 1, 32);
+         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dsch", -1, "DL-TransportChannelType-r7");
+         break;
+      case 3: /* dch-and-dsch */
+         pvalue->u.dch_and_dsch = (TransportChannelIdentityDCHandDSCH*)rtxMemHeapAllocZ(ctx, sizeof(TransportChannelIdentityDCHandDSCH));
+         if (pvalue->u.dch_and_dsch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dch-and-dsch", -1, "DL-TransportChannelType-r7");
+         stat = asn1PD_UMTS_TransportChannelIdentityDCHandDSCH(ctx, pvalue->u.dch_and_dsch);
+         RT_CHECK(ctx, stat, 0, "dch-and-dsch", -1, "DL-TransportChannelType-r7");
+         break;
+      case 4: /* hsdsch */
+         pvalue->u.hsdsch = (DL_TransportChannelType_r7_hsdsch*)rtxMemHeapAlloc(ctx, sizeof(DL_TransportChannelType_r7_hsdsch));
+         if (pvalue->u.hsdsch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "hsdsch", -1, "DL-TransportChannelType-r7");
+         asn1Init_UMTS_DL_TransportChannelType_r7_hsdsch(pvalue->u.hsdsch);
+         stat = asn1PD_UMTS_DL_TransportChannelType_r7_hsdsch(ctx, pvalue->u.hsdsch);
+         RT_CHECK(ctx, stat, 0, "hsdsch", -1, "DL-TransportChannelType-r7");
+         break;
+      case 5: /* dch-and-hsdsch */
+         pvalue->u.dch_and_hsdsch = (DL_TransportChannelType_r7_dch_and_hsdsch*)rtxMemHeapAlloc(ctx, sizeof(DL_TransportChannelType_r7_dch_and_hsdsch));
+         if (pvalue->u.dch_and_hsdsch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dch-and-hsdsch", -1, "DL-TransportChannelType-r7");
+         asn1Init_UMTS_DL_TransportChannelType_r7_dch_and_hsdsch(pvalue->u.dch_and_hsdsch);
+         stat = asn1PD_UMTS_DL_TransportChannelType_r7_dch_and_hsdsch(ctx, pvalue->u.dch_and_hsdsch);
+         RT_CHECK(ctx, stat, 0, "dch-and-hsdsch", -1, "DL-TransportChannelType-r7");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-TransportChannelType-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_LogicalChannelMapping_r7(rtxContext* RT_RESTRICT ctx, DL_LogicalChannelMapping_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-LogicalChannelMapping-r7");
+   /* dl-TransportChannelType */
+   stat = asn1PD_UMTS_DL_TransportChannelType_r7(ctx, &pvalue->dl_TransportChannelType);
+   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-LogicalChannelMapping-r7");
+   /* logicalChannelIdentity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->logicalChannelIdentity, 1, 15);
+      RT_CHECK(ctx, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "DL-LogicalChannelMapping-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_LogicalChannelMappingList_r5(rtxContext* RT_RESTRICT ctx, DL_LogicalChannelMappingList_r5* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 2);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-LogicalChannelMappingList-r5");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_LogicalChannelMapping_r5* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_LogicalChannelMapping_r5));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-LogicalChannelMapping-r5", (int32_t)i, "DL-LogicalChannelMappingList-r5");
+      elem = (DL_LogicalChannelMapping_r5*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_LogicalChannelMapping_r5(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_DL_LogicalChannelMapping_r5(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "DL-LogicalChannelMapping-r5", (int32_t)i, "DL-LogicalChannelMappingList-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_LogicalChannelMappingList_r7(rtxContext* RT_RESTRICT ctx, DL_LogicalChannelMappingList_r7* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 2);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-LogicalChannelMappingList-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_LogicalChannelMapping_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_LogicalChannelMapping_r7));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-LogicalChannelMapping-r7", (int32_t)i, "DL-LogicalChannelMappingList-r7");
+      elem = (DL_LogicalChannelMapping_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_LogicalChannelMapping_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_DL_LogicalChannelMapping_r7(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "DL-LogicalChannelMapping-r7", (int32_t)i, "DL-LogicalChannelMappingList-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_Reception_Window_Size_r6(rtxContext* RT_RESTRICT ctx, DL_Reception_Window_Size_r6* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-Reception-Window-Size-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_UM_RLC_Mode_r5(rtxContext* RT_RESTRICT ctx, DL_UM_RLC_Mode_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* dl-UM-RLC-LI-size */
+   stat = pd_ConsUnsigned(ctx, &pvalue->dl_UM_RLC_LI_size, 0, 1);
+   RT_CHECK(ctx, stat, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "DL-UM-RLC-Mode-r5");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_RLC_Mode_r5(rtxContext* RT_RESTRICT ctx, DL_RLC_Mode_r5* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-RLC-Mode-r5");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dl-AM-RLC-Mode */
+         pvalue->u.dl_AM_RLC_Mode = (DL_AM_RLC_Mode_r5*)rtxMemHeapAlloc(ctx, sizeof(DL_AM_RLC_Mode_r5));
+         if (pvalue->u.dl_AM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode-r5");
+         asn1Init_UMTS_DL_AM_RLC_Mode_r5(pvalue->u.dl_AM_RLC_Mode);
+         stat = asn1PD_UMTS_DL_AM_RLC_Mode_r5(ctx, pvalue->u.dl_AM_RLC_Mode);
+         RT_CHECK(ctx, stat, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode-r5");
+         break;
+      case 1: /* dl-UM-RLC-Mode */
+         pvalue->u.dl_UM_RLC_Mode = (DL_UM_RLC_Mode_r5*)rtxMemHeapAllocZ(ctx, sizeof(DL_UM_RLC_Mode_r5));
+         if (pvalue->u.dl_UM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-UM-RLC-Mode", -1, "DL-RLC-Mode-r5");
+         stat = asn1PD_UMTS_DL_UM_RLC_Mode_r5(ctx, pvalue->u.dl_UM_RLC_Mode);
+         RT_CHECK(ctx, stat, 0, "dl-UM-RLC-Mode", -1, "DL-RLC-Mode-r5");
+         break;
+      case 2: /* dl-TM-RLC-Mode */
+         pvalue->u.dl_TM_RLC_Mode = (DL_TM_RLC_Mode*)rtxMemHeapAllocZ(ctx, sizeof(DL_TM_RLC_Mode));
+         if (pvalue->u.dl_TM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode-r5");
+         stat = asn1PD_UMTS_DL_TM_RLC_Mode(ctx, pvalue->u.dl_TM_RLC_Mode);
+         RT_CHECK(ctx, stat, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode-r5");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-RLC-Mode-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_UM_RLC_Mode_r6(rtxContext* RT_RESTRICT ctx, DL_UM_RLC_Mode_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-UM-RLC-Mode-r6");
+   /* dl-UM-RLC-LI-size */
+   stat = pd_ConsUnsigned(ctx, &pvalue->dl_UM_RLC_LI_size, 0, 1);
+   RT_CHECK(ctx, stat, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "DL-UM-RLC-Mode-r6");
+   /* dl-Reception-Window-Size */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->dl_Reception_Window_Size, 0, 5);
+      RT_CHECK(ctx, stat, "DL-Reception-Window-Size-r6", "dl-Reception-Window-Size", -1, "DL-UM-RLC-Mode-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_RLC_Mode_r6(rtxContext* RT_RESTRICT ctx, DL_RLC_Mode_r6* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-RLC-Mode-r6");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dl-AM-RLC-Mode */
+         pvalue->u.dl_AM_RLC_Mode = (DL_AM_RLC_Mode_r5*)rtxMemHeapAlloc(ctx, sizeof(DL_AM_RLC_Mode_r5));
+         if (pvalue->u.dl_AM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode-r6");
+         asn1Init_UMTS_DL_AM_RLC_Mode_r5(pvalue->u.dl_AM_RLC_Mode);
+         stat = asn1PD_UMTS_DL_AM_RLC_Mode_r5(ctx, pvalue->u.dl_AM_RLC_Mode);
+         RT_CHECK(ctx, stat, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode-r6");
+         break;
+      case 1: /* dl-UM-RLC-Mode */
+         pvalue->u.dl_UM_RLC_Mode = (DL_UM_RLC_Mode_r6*)rtxMemHeapAlloc(ctx, sizeof(DL_UM_RLC_Mode_r6));
+         if (pvalue->u.dl_UM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-UM-RLC-Mode", -1, "DL-RLC-Mode-r6");
+         asn1Init_UMTS_DL_UM_RLC_Mode_r6(pvalue->u.dl_UM_RLC_Mode);
+         stat = asn1PD_UMTS_DL_UM_RLC_Mode_r6(ctx, pvalue->u.dl_UM_RLC_Mode);
+         RT_CHECK(ctx, stat, 0, "dl-UM-RLC-Mode", -1, "DL-RLC-Mode-r6");
+         break;
+      case 2: /* dl-TM-RLC-Mode */
+         pvalue->u.dl_TM_RLC_Mode = (DL_TM_RLC_Mode*)rtxMemHeapAllocZ(ctx, sizeof(DL_TM_RLC_Mode));
+         if (pvalue->u.dl_TM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode-r6");
+         stat = asn1PD_UMTS_DL_TM_RLC_Mode(ctx, pvalue->u.dl_TM_RLC_Mode);
+         RT_CHECK(ctx, stat, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode-r6");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-RLC-Mode-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_RLC_Mode_r7(rtxContext* RT_RESTRICT ctx, DL_RLC_Mode_r7* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-RLC-Mode-r7");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dl-AM-RLC-Mode */
+         pvalue->u.dl_AM_RLC_Mode = (DL_AM_RLC_Mode_r7*)rtxMemHeapAlloc(ctx, sizeof(DL_AM_RLC_Mode_r7));
+         if (pvalue->u.dl_AM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode-r7");
+         asn1Init_UMTS_DL_AM_RLC_Mode_r7(pvalue->u.dl_AM_RLC_Mode);
+         stat = asn1PD_UMTS_DL_AM_RLC_Mode_r7(ctx, pvalue->u.dl_AM_RLC_Mode);
+         RT_CHECK(ctx, stat, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode-r7");
+         break;
+      case 1: /* dl-UM-RLC-Mode */
+         pvalue->u.dl_UM_RLC_Mode = (DL_UM_RLC_Mode_r6*)rtxMemHeapAlloc(ctx, sizeof(DL_UM_RLC_Mode_r6));
+         if (pvalue->u.dl_UM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-UM-RLC-Mode", -1, "DL-RLC-Mode-r7");
+         asn1Init_UMTS_DL_UM_RLC_Mode_r6(pvalue->u.dl_UM_RLC_Mode);
+         stat = asn1PD_UMTS_DL_UM_RLC_Mode_r6(ctx, pvalue->u.dl_UM_RLC_Mode);
+         RT_CHECK(ctx, stat, 0, "dl-UM-RLC-Mode", -1, "DL-RLC-Mode-r7");
+         break;
+      case 2: /* dl-TM-RLC-Mode */
+         pvalue->u.dl_TM_RLC_Mode = (DL_TM_RLC_Mode*)rtxMemHeapAllocZ(ctx, sizeof(DL_TM_RLC_Mode));
+         if (pvalue->u.dl_TM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode-r7");
+         stat = asn1PD_UMTS_DL_TM_RLC_Mode(ctx, pvalue->u.dl_TM_RLC_Mode);
+         RT_CHECK(ctx, stat, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode-r7");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-RLC-Mode-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HeaderCompressionInfo_r4(rtxContext* RT_RESTRICT ctx, HeaderCompressionInfo_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* algorithmSpecificInfo */
+   stat = asn1PD_UMTS_AlgorithmSpecificInfo_r4(ctx, &pvalue->algorithmSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "algorithmSpecificInfo", -1, "HeaderCompressionInfo-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_HeaderCompressionInfoList_r4(rtxContext* RT_RESTRICT ctx, HeaderCompressionInfoList_r4* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HeaderCompressionInfoList-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      HeaderCompressionInfo_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HeaderCompressionInfo_r4));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "HeaderCompressionInfo-r4", (int32_t)i, "HeaderCompressionInfoList-r4");
+      elem = (HeaderCompressionInfo_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_HeaderCompressionInfo_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_HeaderCompressionInfo_r4(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "HeaderCompressionInfo-r4", (int32_t)i, "HeaderCompressionInfoList-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MAC_d_HFN_initial_value(rtxContext* RT_RESTRICT ctx, MAC_d_HFN_initial_value* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pd_BitString32(ctx, pvalue, 24, 24);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-d-HFN-initial-value");
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_Info_r4(rtxContext* RT_RESTRICT ctx, PDCP_Info_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PDCP-Info-r4");
+   /* losslessSRNS-RelocSupport */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_LosslessSRNS_RelocSupport(ctx, &pvalue->losslessSRNS_RelocSupport);
+      RT_CHECK(ctx, stat, 0, "losslessSRNS-RelocSupport", -1, "PDCP-Info-r4");
+   }
+   /* pdcp-PDU-Header */
+   stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_PDU_Header, 0, 1);
+   RT_CHECK(ctx, stat, "PDCP-PDU-Header", "pdcp-PDU-Header", -1, "PDCP-Info-r4");
+   /* headerCompressionInfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_HeaderCompressionInfoList_r4(ctx, &pvalue->headerCompressionInfoList);
+      RT_CHECK(ctx, stat, 0, "headerCompressionInfoList", -1, "PDCP-Info-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_InfoReconfig(rtxContext* RT_RESTRICT ctx, PDCP_InfoReconfig* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* pdcp-Info */
+   stat = asn1PD_UMTS_PDCP_Info(ctx, &pvalue->pdcp_Info);
+   RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "PDCP-InfoReconfig");
+   /* dummy */
+   stat = pd_ConsUInt16(ctx, &pvalue->dummy, 0, 65535);
+   RT_CHECK(ctx, stat, 0, "dummy", -1, "PDCP-InfoReconfig");
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_InfoReconfig_r4(rtxContext* RT_RESTRICT ctx, PDCP_InfoReconfig_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* pdcp-Info */
+   stat = asn1PD_UMTS_PDCP_Info_r4(ctx, &pvalue->pdcp_Info);
+   RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "PDCP-InfoReconfig-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_ROHC_TargetMode(rtxContext* RT_RESTRICT ctx, PDCP_ROHC_TargetMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PDCP-ROHC-TargetMode");
+   return 0;
+}
+
+int asn1PD_UMTS_PredefinedConfigStatusInfo_other(rtxContext* RT_RESTRICT ctx, PredefinedConfigStatusInfo_other* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* notStored */
+         break;
+      case 1: /* storedWithDifferentValueTag */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.storedWithDifferentValueTag, 0, 15);
+         RT_CHECK(ctx, stat, "PredefinedConfigValueTag", "storedWithDifferentValueTag", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PredefinedConfigStatusInfo(rtxContext* RT_RESTRICT ctx, PredefinedConfigStatusInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PredefinedConfigStatusInfo");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* storedWithValueTagSameAsPrevius */
+         break;
+      case 1: /* other */
+         pvalue->u.other = (PredefinedConfigStatusInfo_other*)rtxMemHeapAlloc(ctx, sizeof(PredefinedConfigStatusInfo_other));
+         if (pvalue->u.other == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "other", -1, "PredefinedConfigStatusInfo");
+         asn1Init_UMTS_PredefinedConfigStatusInfo_other(pvalue->u.other);
+         stat = asn1PD_UMTS_PredefinedConfigStatusInfo_other(ctx, pvalue->u.other);
+         RT_CHECK(ctx, stat, 0, "other", -1, "PredefinedConfigStatusInfo");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PredefinedConfigStatusInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PredefinedConfigStatusList(rtxContext* RT_RESTRICT ctx, PredefinedConfigStatusList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PredefinedConfigStatusList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PredefinedConfigStatusInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PredefinedConfigStatusInfo));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PredefinedConfigStatusInfo", (int32_t)i, "PredefinedConfigStatusList");
+      elem = (PredefinedConfigStatusInfo*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PredefinedConfigStatusInfo(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_PredefinedConfigStatusInfo(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "PredefinedConfigStatusInfo", (int32_t)i, "PredefinedConfigStatusList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PredefinedConfigValueTagList(rtxContext* RT_RESTRICT ctx, PredefinedConfigValueTagList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 4);
+      RT_CHECK(ctx, stat, 0, 0, -1, "PredefinedConfigValueTagList");
+      pvalue->n = raw + 1;
+      if (raw > 15) {
+         rtxErrAddStrParm(ctx, "PredefinedConfigValueTagList");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PredefinedConfigValueTagList");
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 15);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, "PredefinedConfigValueTag", "PredefinedConfigValueTag", (int32_t)i, "PredefinedConfigValueTagList");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PredefinedConfigSetWithDifferentValueTag(rtxContext* RT_RESTRICT ctx, PredefinedConfigSetWithDifferentValueTag* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PredefinedConfigSetWithDifferentValueTag");
+   /* startPosition */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUInt8(ctx, &pvalue->startPosition, 0, 10);
+      RT_CHECK(ctx, stat, 0, "startPosition", -1, "PredefinedConfigSetWithDifferentValueTag");
+   }
+   else {
+      pvalue->startPosition = 0;
+   }
+   /* valueTagList */
+   stat = asn1PD_UMTS_PredefinedConfigValueTagList(ctx, &pvalue->valueTagList);
+   RT_CHECK(ctx, stat, 0, "valueTagList", -1, "PredefinedConfigSetWithDifferentValueTag");
+   return 0;
+}
+
+int asn1PD_UMTS_PredefinedConfigSetsWithDifferentValueTag(rtxContext* RT_RESTRICT ctx, PredefinedConfigSetsWithDifferentValueTag* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 2);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PredefinedConfigSetsWithDifferentValueTag");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PredefinedConfigSetWithDifferentValueTag* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PredefinedConfigSetWithDifferentValueTag));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PredefinedConfigSetWithDifferentValueTag", (int32_t)i, "PredefinedConfigSetsWithDifferentValueTag");
+      elem = (PredefinedConfigSetWithDifferentValueTag*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PredefinedConfigSetWithDifferentValueTag(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_PredefinedConfigSetWithDifferentValueTag(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "PredefinedConfigSetWithDifferentValueTag", (int32_t)i, "PredefinedConfigSetsWithDifferentValueTag");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PredefinedConfigStatusListVarSz(rtxContext* RT_RESTRICT ctx, PredefinedConfigStatusListVarSz* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PredefinedConfigStatusListVarSz");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PredefinedConfigStatusInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PredefinedConfigStatusInfo));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PredefinedConfigStatusInfo", (int32_t)i, "PredefinedConfigStatusListVarSz");
+      elem = (PredefinedConfigStatusInfo*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PredefinedConfigStatusInfo(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_PredefinedConfigStatusInfo(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "PredefinedConfigStatusInfo", (int32_t)i, "PredefinedConfigStatusListVarSz");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PredefinedConfigStatusListComp(rtxContext* RT_RESTRICT ctx, PredefinedConfigStatusListComp* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PredefinedConfigStatusListComp");
+   /* setsWithDifferentValueTag */
+   stat = asn1PD_UMTS_PredefinedConfigSetsWithDifferentValueTag(ctx, &pvalue->setsWithDifferentValueTag);
+   RT_CHECK(ctx, stat, 0, "setsWithDifferentValueTag", -1, "PredefinedConfigStatusListComp");
+   /* otherEntries */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PredefinedConfigStatusListVarSz(ctx, &pvalue->otherEntries);
+      RT_CHECK(ctx, stat, 0, "otherEntries", -1, "PredefinedConfigStatusListComp");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_Info(rtxContext* RT_RESTRICT ctx, RAB_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-Info");
+   /* rab-Identity */
+   stat = asn1PD_UMTS_RAB_Identity(ctx, &pvalue->rab_Identity);
+   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-Info");
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-Info");
+   /* nas-Synchronisation-Indicator */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_NAS_Synchronisation_Indicator(ctx, &pvalue->nas_Synchronisation_Indicator);
+      RT_CHECK(ctx, stat, 0, "nas-Synchronisation-Indicator", -1, "RAB-Info");
+   }
+   /* re-EstablishmentTimer */
+   stat = pd_ConsUnsigned(ctx, &pvalue->re_EstablishmentTimer, 0, 1);
+   RT_CHECK(ctx, stat, "Re-EstablishmentTimer", "re-EstablishmentTimer", -1, "RAB-Info");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_SessionIdentity(rtxContext* RT_RESTRICT ctx, MBMS_SessionIdentity* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 1, 1);
+   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-SessionIdentity");
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_Info_r6_ext(rtxContext* RT_RESTRICT ctx, RAB_Info_r6_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-Info-r6-ext");
+   /* mbms-SessionIdentity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMS_SessionIdentity(ctx, &pvalue->mbms_SessionIdentity);
+      RT_CHECK(ctx, stat, 0, "mbms-SessionIdentity", -1, "RAB-Info-r6-ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_Info_v6b0ext_mbms_ServiceIdentity(rtxContext* RT_RESTRICT ctx, RAB_Info_v6b0ext_mbms_ServiceIdentity* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 3, 3);
+   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_Info_v6b0ext(rtxContext* RT_RESTRICT ctx, RAB_Info_v6b0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* mbms-ServiceIdentity */
+   stat = asn1PD_UMTS_RAB_Info_v6b0ext_mbms_ServiceIdentity(ctx, &pvalue->mbms_ServiceIdentity);
+   RT_CHECK(ctx, stat, 0, "mbms-ServiceIdentity", -1, "RAB-Info-v6b0ext");
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_Info_r6(rtxContext* RT_RESTRICT ctx, RAB_Info_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-Info-r6");
+   /* rab-Identity */
+   stat = asn1PD_UMTS_RAB_Identity(ctx, &pvalue->rab_Identity);
+   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-Info-r6");
+   /* mbms-SessionIdentity */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMS_SessionIdentity(ctx, &pvalue->mbms_SessionIdentity);
+      RT_CHECK(ctx, stat, 0, "mbms-SessionIdentity", -1, "RAB-Info-r6");
+   }
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-Info-r6");
+   /* nas-Synchronisation-Indicator */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_NAS_Synchronisation_Indicator(ctx, &pvalue->nas_Synchronisation_Indicator);
+      RT_CHECK(ctx, stat, 0, "nas-Synchronisation-Indicator", -1, "RAB-Info-r6");
+   }
+   /* re-EstablishmentTimer */
+   stat = pd_ConsUnsigned(ctx, &pvalue->re_EstablishmentTimer, 0, 1);
+   RT_CHECK(ctx, stat, "Re-EstablishmentTimer", "re-EstablishmentTimer", -1, "RAB-Info-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_Info_r7_mbms_ServiceIdentity(rtxContext* RT_RESTRICT ctx, RAB_Info_r7_mbms_ServiceIdentity* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 3, 3);
+   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_Info_r7(rtxContext* RT_RESTRICT ctx, RAB_Info_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-Info-r7");
+   /* rab-Identity */
+   stat = asn1PD_UMTS_RAB_Identity(ctx, &pvalue->rab_Identity);
+   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-Info-r7");
+   /* mbms-SessionIdentity */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMS_SessionIdentity(ctx, &pvalue->mbms_SessionIdentity);
+      RT_CHECK(ctx, stat, 0, "mbms-SessionIdentity", -1, "RAB-Info-r7");
+   }
+   /* mbms-ServiceIdentity */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RAB_Info_r7_mbms_ServiceIdentity(ctx, &pvalue->mbms_ServiceIdentity);
+      RT_CHECK(ctx, stat, 0, "mbms-ServiceIdentity", -1, "RAB-Info-r7");
+   }
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-Info-r7");
+   /* nas-Synchronisation-Indicator */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_NAS_Synchronisation_Indicator(ctx, &pvalue->nas_Synchronisation_Indicator);
+      RT_CHECK(ctx, stat, 0, "nas-Synchronisation-Indicator", -1, "RAB-Info-r7");
+   }
+   /* re-EstablishmentTimer */
+   stat = pd_ConsUnsigned(ctx, &pvalue->re_EstablishmentTimer, 0, 1);
+   RT_CHECK(ctx, stat, "Re-EstablishmentTimer", "re-EstablishmentTimer", -1, "RAB-Info-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationList(rtxContext* RT_RESTRICT ctx, RAB_InformationList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RAB_Info* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_Info));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RAB-Info", (int32_t)i, "RAB-InformationList");
+      elem = (RAB_Info*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RAB_Info(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RAB_Info(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RAB-Info", (int32_t)i, "RAB-InformationList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationList_r6(rtxContext* RT_RESTRICT ctx, RAB_InformationList_r6* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationList-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RAB_Info_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_Info_r6));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RAB-Info-r6", (int32_t)i, "RAB-InformationList-r6");
+      elem = (RAB_Info_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RAB_Info_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RAB_Info_r6(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RAB-Info-r6", (int32_t)i, "RAB-InformationList-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationReconfig(rtxContext* RT_RESTRICT ctx, RAB_InformationReconfig* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rab-Identity */
+   stat = asn1PD_UMTS_RAB_Identity(ctx, &pvalue->rab_Identity);
+   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-InformationReconfig");
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-InformationReconfig");
+   /* nas-Synchronisation-Indicator */
+   stat = asn1PD_UMTS_NAS_Synchronisation_Indicator(ctx, &pvalue->nas_Synchronisation_Indicator);
+   RT_CHECK(ctx, stat, 0, "nas-Synchronisation-Indicator", -1, "RAB-InformationReconfig");
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationReconfigList(rtxContext* RT_RESTRICT ctx, RAB_InformationReconfigList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationReconfigList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RAB_InformationReconfig* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationReconfig));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RAB-InformationReconfig", (int32_t)i, "RAB-InformationReconfigList");
+      elem = (RAB_InformationReconfig*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RAB_InformationReconfig(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RAB_InformationReconfig(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationReconfig", (int32_t)i, "RAB-InformationReconfigList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationReconfig_r8(rtxContext* RT_RESTRICT ctx, RAB_InformationReconfig_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationReconfig-r8");
+   /* rab-Identity */
+   stat = asn1PD_UMTS_RAB_Identity(ctx, &pvalue->rab_Identity);
+   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-InformationReconfig-r8");
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-InformationReconfig-r8");
+   /* nas-Synchronisation-Indicator */
+   stat = asn1PD_UMTS_NAS_Synchronisation_Indicator(ctx, &pvalue->nas_Synchronisation_Indicator);
+   RT_CHECK(ctx, stat, 0, "nas-Synchronisation-Indicator", -1, "RAB-InformationReconfig-r8");
+   /* cs-HSPA-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CS_HSPA_Information(ctx, &pvalue->cs_HSPA_Information);
+      RT_CHECK(ctx, stat, 0, "cs-HSPA-Information", -1, "RAB-InformationReconfig-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationReconfigList_r8(rtxContext* RT_RESTRICT ctx, RAB_InformationReconfigList_r8* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationReconfigList-r8");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RAB_InformationReconfig_r8* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationReconfig_r8));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RAB-InformationReconfig-r8", (int32_t)i, "RAB-InformationReconfigList-r8");
+      elem = (RAB_InformationReconfig_r8*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RAB_InformationReconfig_r8(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RAB_InformationReconfig_r8(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationReconfig-r8", (int32_t)i, "RAB-InformationReconfigList-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_Info_Post(rtxContext* RT_RESTRICT ctx, RAB_Info_Post* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-Info-Post");
+   /* rab-Identity */
+   stat = asn1PD_UMTS_RAB_Identity(ctx, &pvalue->rab_Identity);
+   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-Info-Post");
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-Info-Post");
+   /* nas-Synchronisation-Indicator */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_NAS_Synchronisation_Indicator(ctx, &pvalue->nas_Synchronisation_Indicator);
+      RT_CHECK(ctx, stat, 0, "nas-Synchronisation-Indicator", -1, "RAB-Info-Post");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationMBMSPtp_mbms_ServiceIdentity(rtxContext* RT_RESTRICT ctx, RAB_InformationMBMSPtp_mbms_ServiceIdentity* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 3, 3);
+   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationMBMSPtp(rtxContext* RT_RESTRICT ctx, RAB_InformationMBMSPtp* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationMBMSPtp");
+   /* rb-Identity */
+   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RAB-InformationMBMSPtp");
+   /* mbms-ServiceIdentity */
+   stat = asn1PD_UMTS_RAB_InformationMBMSPtp_mbms_ServiceIdentity(ctx, &pvalue->mbms_ServiceIdentity);
+   RT_CHECK(ctx, stat, 0, "mbms-ServiceIdentity", -1, "RAB-InformationMBMSPtp");
+   /* mbms-SessionIdentity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMS_SessionIdentity(ctx, &pvalue->mbms_SessionIdentity);
+      RT_CHECK(ctx, stat, 0, "mbms-SessionIdentity", -1, "RAB-InformationMBMSPtp");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationMBMSPtpList(rtxContext* RT_RESTRICT ctx, RAB_InformationMBMSPtpList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationMBMSPtpList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RAB_InformationMBMSPtp* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationMBMSPtp));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RAB-InformationMBMSPtp", (int32_t)i, "RAB-InformationMBMSPtpList");
+      elem = (RAB_InformationMBMSPtp*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RAB_InformationMBMSPtp(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RAB_InformationMBMSPtp(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationMBMSPtp", (int32_t)i, "RAB-InformationMBMSPtpList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationSetup(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rab-Info */
+   stat = asn1PD_UMTS_RAB_Info(ctx, &pvalue->rab_Info);
+   RT_CHECK(ctx, stat, 0, "rab-Info", -1, "RAB-InformationSetup");
+   /* rb-InformationSetupList */
+   stat = asn1PD_UMTS_RB_InformationSetupList(ctx, &pvalue->rb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "rb-InformationSetupList", -1, "RAB-InformationSetup");
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationSetup_r4(rtxContext* RT_RESTRICT ctx, RB_InformationSetup_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationSetup-r4");
+   /* rb-Identity */
+   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r4");
+   /* pdcp-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PDCP_Info_r4(ctx, &pvalue->pdcp_Info);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationSetup-r4");
+   }
+   /* rlc-InfoChoice */
+   stat = asn1PD_UMTS_RLC_InfoChoice(ctx, &pvalue->rlc_InfoChoice);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "RB-InformationSetup-r4");
+   /* rb-MappingInfo */
+   stat = asn1PD_UMTS_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationSetup-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationSetupList_r4(rtxContext* RT_RESTRICT ctx, RB_InformationSetupList_r4* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationSetupList-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_InformationSetup_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationSetup_r4));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-InformationSetup-r4", (int32_t)i, "RB-InformationSetupList-r4");
+      elem = (RB_InformationSetup_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RB_InformationSetup_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RB_InformationSetup_r4(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RB-InformationSetup-r4", (int32_t)i, "RB-InformationSetupList-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationSetup_r4(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rab-Info */
+   stat = asn1PD_UMTS_RAB_Info(ctx, &pvalue->rab_Info);
+   RT_CHECK(ctx, stat, 0, "rab-Info", -1, "RAB-InformationSetup-r4");
+   /* rb-InformationSetupList */
+   stat = asn1PD_UMTS_RB_InformationSetupList_r4(ctx, &pvalue->rb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "rb-InformationSetupList", -1, "RAB-InformationSetup-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_Info_r5(rtxContext* RT_RESTRICT ctx, RLC_Info_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-Info-r5");
+   /* ul-RLC-Mode */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UL_RLC_Mode(ctx, &pvalue->ul_RLC_Mode);
+      RT_CHECK(ctx, stat, 0, "ul-RLC-Mode", -1, "RLC-Info-r5");
+   }
+   /* dl-RLC-Mode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DL_RLC_Mode_r5(ctx, &pvalue->dl_RLC_Mode);
+      RT_CHECK(ctx, stat, 0, "dl-RLC-Mode", -1, "RLC-Info-r5");
+   }
+   /* rlc-OneSidedReEst */
+   stat = rtxDecBitInline(ctx, &pvalue->rlc_OneSidedReEst);
+   RT_CHECK(ctx, stat, 0, "rlc-OneSidedReEst", -1, "RLC-Info-r5");
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_InfoChoice_r5(rtxContext* RT_RESTRICT ctx, RLC_InfoChoice_r5* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-InfoChoice-r5");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* rlc-Info */
+         pvalue->u.rlc_Info = (RLC_Info_r5*)rtxMemHeapAlloc(ctx, sizeof(RLC_Info_r5));
+         if (pvalue->u.rlc_Info == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "rlc-Info", -1, "RLC-InfoChoice-r5");
+         asn1Init_UMTS_RLC_Info_r5(pvalue->u.rlc_Info);
+         stat = asn1PD_UMTS_RLC_Info_r5(ctx, pvalue->u.rlc_Info);
+         RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RLC-InfoChoice-r5");
+         break;
+      case 1: /* same-as-RB */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.same_as_RB, 1, 32);
+         RT_CHECK(ctx, stat, "RB-Identity", "same-as-RB", -1, "RLC-InfoChoice-r5");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RLC-InfoChoice-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_MappingOption_r5(rtxContext* RT_RESTRICT ctx, RB_MappingOption_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-MappingOption-r5");
+   /* ul-LogicalChannelMappings */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UL_LogicalChannelMappings(ctx, &pvalue->ul_LogicalChannelMappings);
+      RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMappings", -1, "RB-MappingOption-r5");
+   }
+   /* dl-LogicalChannelMappingList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DL_LogicalChannelMappingList_r5(ctx, &pvalue->dl_LogicalChannelMappingList);
+      RT_CHECK(ctx, stat, 0, "dl-LogicalChannelMappingList", -1, "RB-MappingOption-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_MappingInfo_r5(rtxContext* RT_RESTRICT ctx, RB_MappingInfo_r5* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-MappingInfo-r5");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_MappingOption_r5* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_MappingOption_r5));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-MappingOption-r5", (int32_t)i, "RB-MappingInfo-r5");
+      elem = (RB_MappingOption_r5*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RB_MappingOption_r5(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RB_MappingOption_r5(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RB-MappingOption-r5", (int32_t)i, "RB-MappingInfo-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationSetup_r5(rtxContext* RT_RESTRICT ctx, RB_InformationSetup_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationSetup-r5");
+   /* rb-Identity */
+   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r5");
+   /* pdcp-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PDCP_Info_r4(ctx, &pvalue->pdcp_Info);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationSetup-r5");
+   }
+   /* rlc-InfoChoice */
+   stat = asn1PD_UMTS_RLC_InfoChoice_r5(ctx, &pvalue->rlc_InfoChoice);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "RB-InformationSetup-r5");
+   /* rb-MappingInfo */
+   stat = asn1PD_UMTS_RB_MappingInfo_r5(ctx, &pvalue->rb_MappingInfo);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationSetup-r5");
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationSetupList_r5(rtxContext* RT_RESTRICT ctx, RB_InformationSetupList_r5* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationSetupList-r5");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_InformationSetup_r5* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationSetup_r5));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-InformationSetup-r5", (int32_t)i, "RB-InformationSetupList-r5");
+      elem = (RB_InformationSetup_r5*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RB_InformationSetup_r5(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RB_InformationSetup_r5(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RB-InformationSetup-r5", (int32_t)i, "RB-InformationSetupList-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationSetup_r5(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rab-Info */
+   stat = asn1PD_UMTS_RAB_Info(ctx, &pvalue->rab_Info);
+   RT_CHECK(ctx, stat, 0, "rab-Info", -1, "RAB-InformationSetup-r5");
+   /* rb-InformationSetupList */
+   stat = asn1PD_UMTS_RB_InformationSetupList_r5(ctx, &pvalue->rb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "rb-InformationSetupList", -1, "RAB-InformationSetup-r5");
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationSetup_r6_ext(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_r6_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rab-Info-r6-ext */
+   stat = asn1PD_UMTS_RAB_Info_r6_ext(ctx, &pvalue->rab_Info_r6_ext);
+   RT_CHECK(ctx, stat, 0, "rab-Info-r6-ext", -1, "RAB-InformationSetup-r6-ext");
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_Info_r6_altE_bitInterpretation(rtxContext* RT_RESTRICT ctx, RLC_Info_r6_altE_bitInterpretation* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_Info_r6(rtxContext* RT_RESTRICT ctx, RLC_Info_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-Info-r6");
+   /* ul-RLC-Mode */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UL_RLC_Mode(ctx, &pvalue->ul_RLC_Mode);
+      RT_CHECK(ctx, stat, 0, "ul-RLC-Mode", -1, "RLC-Info-r6");
+   }
+   /* dl-RLC-Mode */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DL_RLC_Mode_r6(ctx, &pvalue->dl_RLC_Mode);
+      RT_CHECK(ctx, stat, 0, "dl-RLC-Mode", -1, "RLC-Info-r6");
+   }
+   /* rlc-OneSidedReEst */
+   stat = rtxDecBitInline(ctx, &pvalue->rlc_OneSidedReEst);
+   RT_CHECK(ctx, stat, 0, "rlc-OneSidedReEst", -1, "RLC-Info-r6");
+   /* altE-bitInterpretation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "altE-bitInterpretation", -1, "RLC-Info-r6");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "altE-bitInterpretation", -1, "RLC-Info-r6");
+         pvalue->altE_bitInterpretation = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_InfoChoice_r6(rtxContext* RT_RESTRICT ctx, RLC_InfoChoice_r6* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-InfoChoice-r6");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* rlc-Info */
+         pvalue->u.rlc_Info = (RLC_Info_r6*)rtxMemHeapAlloc(ctx, sizeof(RLC_Info_r6));
+         if (pvalue->u.rlc_Info == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "rlc-Info", -1, "RLC-InfoChoice-r6");
+         asn1Init_UMTS_RLC_Info_r6(pvalue->u.rlc_Info);
+         stat = asn1PD_UMTS_RLC_Info_r6(ctx, pvalue->u.rlc_Info);
+         RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RLC-InfoChoice-r6");
+         break;
+      case 1: /* same-as-RB */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.same_as_RB, 1, 32);
+         RT_CHECK(ctx, stat, "RB-Identity", "same-as-RB", -1, "RLC-InfoChoice-r6");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RLC-InfoChoice-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch_rlc_SizeList(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch_rlc_SizeList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* allSizes */
+         break;
+      case 1: /* configured */
+         break;
+      case 2: /* explicitList */
+         pvalue->u.explicitList = (RLC_SizeExplicitList*)rtxMemHeapAlloc(ctx, sizeof(RLC_SizeExplicitList));
+         if (pvalue->u.explicitList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "explicitList", -1, 0);
+         asn1Init_UMTS_RLC_SizeExplicitList(pvalue->u.explicitList);
+         stat = asn1PD_UMTS_RLC_SizeExplicitList(ctx, pvalue->u.explicitList);
+         RT_CHECK(ctx, stat, 0, "explicitList", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ul-TransportChannelType */
+   stat = asn1PD_UMTS_UL_TransportChannelType(ctx, &pvalue->ul_TransportChannelType);
+   RT_CHECK(ctx, stat, 0, "ul-TransportChannelType", -1, 0);
+   /* logicalChannelIdentity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->logicalChannelIdentity, 1, 15);
+      RT_CHECK(ctx, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, 0);
+   }
+   /* rlc-SizeList */
+   stat = asn1PD_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch_rlc_SizeList(ctx, &pvalue->rlc_SizeList);
+   RT_CHECK(ctx, stat, 0, "rlc-SizeList", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_PDU_Size(rtxContext* RT_RESTRICT ctx, RLC_PDU_Size* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = asn1PD_UMTS_OctetModeRLC_SizeInfoType1(ctx, pvalue);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-PDU-Size");
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_PDU_SizeList(rtxContext* RT_RESTRICT ctx, RLC_PDU_SizeList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-PDU-SizeList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RLC_PDU_Size* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RLC_PDU_Size));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RLC-PDU-Size", (int32_t)i, "RLC-PDU-SizeList");
+      elem = (RLC_PDU_Size*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RLC_PDU_Size(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RLC_PDU_Size(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RLC-PDU-Size", (int32_t)i, "RLC-PDU-SizeList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type_e_dch(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r6_ul_TrCH_Type_e_dch* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* logicalChannelIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->logicalChannelIdentity, 1, 15);
+   RT_CHECK(ctx, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, 0);
+   /* e-DCH-MAC-d-FlowIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->e_DCH_MAC_d_FlowIdentity, 0, 7);
+   RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowIdentity", "e-DCH-MAC-d-FlowIdentity", -1, 0);
+   /* ddi */
+   stat = pd_ConsUInt8(ctx, &pvalue->ddi, 0, 62);
+   RT_CHECK(ctx, stat, "DDI", "ddi", -1, 0);
+   /* rlc-PDU-SizeList */
+   stat = asn1PD_UMTS_RLC_PDU_SizeList(ctx, &pvalue->rlc_PDU_SizeList);
+   RT_CHECK(ctx, stat, 0, "rlc-PDU-SizeList", -1, 0);
+   /* includeInSchedulingInfo */
+   stat = rtxDecBitInline(ctx, &pvalue->includeInSchedulingInfo);
+   RT_CHECK(ctx, stat, 0, "includeInSchedulingInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r6_ul_TrCH_Type* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dch-rach-usch */
+         pvalue->u.dch_rach_usch = (UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch*)rtxMemHeapAlloc(ctx, sizeof(UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch));
+         if (pvalue->u.dch_rach_usch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dch-rach-usch", -1, 0);
+         asn1Init_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch(pvalue->u.dch_rach_usch);
+         stat = asn1PD_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch(ctx, pvalue->u.dch_rach_usch);
+         RT_CHECK(ctx, stat, 0, "dch-rach-usch", -1, 0);
+         break;
+      case 1: /* e-dch */
+         pvalue->u.e_dch = (UL_LogicalChannelMapping_r6_ul_TrCH_Type_e_dch*)rtxMemHeapAlloc(ctx, sizeof(UL_LogicalChannelMapping_r6_ul_TrCH_Type_e_dch));
+         if (pvalue->u.e_dch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e-dch", -1, 0);
+         asn1Init_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type_e_dch(pvalue->u.e_dch);
+         stat = asn1PD_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type_e_dch(ctx, pvalue->u.e_dch);
+         RT_CHECK(ctx, stat, 0, "e-dch", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMapping_r6(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ul-TrCH-Type */
+   stat = asn1PD_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type(ctx, &pvalue->ul_TrCH_Type);
+   RT_CHECK(ctx, stat, 0, "ul-TrCH-Type", -1, "UL-LogicalChannelMapping-r6");
+   /* mac-LogicalChannelPriority */
+   stat = pd_ConsUInt8(ctx, &pvalue->mac_LogicalChannelPriority, 1, 8);
+   RT_CHECK(ctx, stat, "MAC-LogicalChannelPriority", "mac-LogicalChannelPriority", -1, "UL-LogicalChannelMapping-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMappingList_r6_ul_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappingList_r6_ul_LogicalChannelMapping* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 2, 2);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UL_LogicalChannelMapping_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_LogicalChannelMapping_r6));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UL-LogicalChannelMapping-r6", (int32_t)i, 0);
+      elem = (UL_LogicalChannelMapping_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UL_LogicalChannelMapping_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_UL_LogicalChannelMapping_r6(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "UL-LogicalChannelMapping-r6", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMappingList_r6(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappingList_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rlc-LogicalChannelMappingIndicator */
+   stat = rtxDecBitInline(ctx, &pvalue->rlc_LogicalChannelMappingIndicator);
+   RT_CHECK(ctx, stat, 0, "rlc-LogicalChannelMappingIndicator", -1, "UL-LogicalChannelMappingList-r6");
+   /* ul-LogicalChannelMapping */
+   stat = asn1PD_UMTS_UL_LogicalChannelMappingList_r6_ul_LogicalChannelMapping(ctx, &pvalue->ul_LogicalChannelMapping);
+   RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMapping", -1, "UL-LogicalChannelMappingList-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMappings_r6(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappings_r6* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-LogicalChannelMappings-r6");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* oneLogicalChannel */
+         pvalue->u.oneLogicalChannel = (UL_LogicalChannelMapping_r6*)rtxMemHeapAlloc(ctx, sizeof(UL_LogicalChannelMapping_r6));
+         if (pvalue->u.oneLogicalChannel == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "oneLogicalChannel", -1, "UL-LogicalChannelMappings-r6");
+         asn1Init_UMTS_UL_LogicalChannelMapping_r6(pvalue->u.oneLogicalChannel);
+         stat = asn1PD_UMTS_UL_LogicalChannelMapping_r6(ctx, pvalue->u.oneLogicalChannel);
+         RT_CHECK(ctx, stat, 0, "oneLogicalChannel", -1, "UL-LogicalChannelMappings-r6");
+         break;
+      case 1: /* twoLogicalChannels */
+         pvalue->u.twoLogicalChannels = (UL_LogicalChannelMappingList_r6*)rtxMemHeapAlloc(ctx, sizeof(UL_LogicalChannelMappingList_r6));
+         if (pvalue->u.twoLogicalChannels == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "twoLogicalChannels", -1, "UL-LogicalChannelMappings-r6");
+         asn1Init_UMTS_UL_LogicalChannelMappingList_r6(pvalue->u.twoLogicalChannels);
+         stat = asn1PD_UMTS_UL_LogicalChannelMappingList_r6(ctx, pvalue->u.twoLogicalChannels);
+         RT_CHECK(ctx, stat, 0, "twoLogicalChannels", -1, "UL-LogicalChannelMappings-r6");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-LogicalChannelMappings-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_MappingOption_r6(rtxContext* RT_RESTRICT ctx, RB_MappingOption_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-MappingOption-r6");
+   /* ul-LogicalChannelMappings */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UL_LogicalChannelMappings_r6(ctx, &pvalue->ul_LogicalChannelMappings);
+      RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMappings", -1, "RB-MappingOption-r6");
+   }
+   /* dl-LogicalChannelMappingList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DL_LogicalChannelMappingList_r5(ctx, &pvalue->dl_LogicalChannelMappingList);
+      RT_CHECK(ctx, stat, 0, "dl-LogicalChannelMappingList", -1, "RB-MappingOption-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_MappingInfo_r6(rtxContext* RT_RESTRICT ctx, RB_MappingInfo_r6* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-MappingInfo-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_MappingOption_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_MappingOption_r6));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-MappingOption-r6", (int32_t)i, "RB-MappingInfo-r6");
+      elem = (RB_MappingOption_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RB_MappingOption_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RB_MappingOption_r6(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RB-MappingOption-r6", (int32_t)i, "RB-MappingInfo-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationSetup_r6(rtxContext* RT_RESTRICT ctx, RB_InformationSetup_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationSetup-r6");
+   /* rb-Identity */
+   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r6");
+   /* pdcp-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PDCP_Info_r4(ctx, &pvalue->pdcp_Info);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationSetup-r6");
+   }
+   /* rlc-InfoChoice */
+   stat = asn1PD_UMTS_RLC_InfoChoice_r6(ctx, &pvalue->rlc_InfoChoice);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "RB-InformationSetup-r6");
+   /* rb-MappingInfo */
+   stat = asn1PD_UMTS_RB_MappingInfo_r6(ctx, &pvalue->rb_MappingInfo);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationSetup-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationSetupList_r6(rtxContext* RT_RESTRICT ctx, RB_InformationSetupList_r6* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationSetupList-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_InformationSetup_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationSetup_r6));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-InformationSetup-r6", (int32_t)i, "RB-InformationSetupList-r6");
+      elem = (RB_InformationSetup_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RB_InformationSetup_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RB_InformationSetup_r6(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RB-InformationSetup-r6", (int32_t)i, "RB-InformationSetupList-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationSetup_r6(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rab-Info */
+   stat = asn1PD_UMTS_RAB_Info_r6(ctx, &pvalue->rab_Info);
+   RT_CHECK(ctx, stat, 0, "rab-Info", -1, "RAB-InformationSetup-r6");
+   /* rb-InformationSetupList */
+   stat = asn1PD_UMTS_RB_InformationSetupList_r6(ctx, &pvalue->rb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "rb-InformationSetupList", -1, "RAB-InformationSetup-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationSetup_v6b0ext(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_v6b0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationSetup-v6b0ext");
+   /* rab-Info-v6b0ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RAB_Info_v6b0ext(ctx, &pvalue->rab_Info_v6b0ext);
+      RT_CHECK(ctx, stat, 0, "rab-Info-v6b0ext", -1, "RAB-InformationSetup-v6b0ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_Info_r7_altE_bitInterpretation(rtxContext* RT_RESTRICT ctx, RLC_Info_r7_altE_bitInterpretation* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_Info_r7_useSpecialValueOfHEField(rtxContext* RT_RESTRICT ctx, RLC_Info_r7_useSpecialValueOfHEField* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_Info_r7(rtxContext* RT_RESTRICT ctx, RLC_Info_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-Info-r7");
+   /* ul-RLC-Mode */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UL_RLC_Mode(ctx, &pvalue->ul_RLC_Mode);
+      RT_CHECK(ctx, stat, 0, "ul-RLC-Mode", -1, "RLC-Info-r7");
+   }
+   /* dl-RLC-Mode */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DL_RLC_Mode_r7(ctx, &pvalue->dl_RLC_Mode);
+      RT_CHECK(ctx, stat, 0, "dl-RLC-Mode", -1, "RLC-Info-r7");
+   }
+   /* rlc-OneSidedReEst */
+   stat = rtxDecBitInline(ctx, &pvalue->rlc_OneSidedReEst);
+   RT_CHECK(ctx, stat, 0, "rlc-OneSidedReEst", -1, "RLC-Info-r7");
+   /* altE-bitInterpretation */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "altE-bitInterpretation", -1, "RLC-Info-r7");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "altE-bitInterpretation", -1, "RLC-Info-r7");
+         pvalue->altE_bitInterpretation = ui;
+      }
+   }
+   /* useSpecialValueOfHEField */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "useSpecialValueOfHEField", -1, "RLC-Info-r7");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "useSpecialValueOfHEField", -1, "RLC-Info-r7");
+         pvalue->useSpecialValueOfHEField = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_InfoChoice_r7(rtxContext* RT_RESTRICT ctx, RLC_InfoChoice_r7* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-InfoChoice-r7");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* rlc-Info */
+         pvalue->u.rlc_Info = (RLC_Info_r7*)rtxMemHeapAlloc(ctx, sizeof(RLC_Info_r7));
+         if (pvalue->u.rlc_Info == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "rlc-Info", -1, "RLC-InfoChoice-r7");
+         asn1Init_UMTS_RLC_Info_r7(pvalue->u.rlc_Info);
+         stat = asn1PD_UMTS_RLC_Info_r7(ctx, pvalue->u.rlc_Info);
+         RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RLC-InfoChoice-r7");
+         break;
+      case 1: /* same-as-RB */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.same_as_RB, 1, 32);
+         RT_CHECK(ctx, stat, "RB-Identity", "same-as-RB", -1, "RLC-InfoChoice-r7");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RLC-InfoChoice-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_MappingOption_r7(rtxContext* RT_RESTRICT ctx, RB_MappingOption_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-MappingOption-r7");
+   /* ul-LogicalChannelMappings */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UL_LogicalChannelMappings_r6(ctx, &pvalue->ul_LogicalChannelMappings);
+      RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMappings", -1, "RB-MappingOption-r7");
+   }
+   /* dl-LogicalChannelMappingList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DL_LogicalChannelMappingList_r7(ctx, &pvalue->dl_LogicalChannelMappingList);
+      RT_CHECK(ctx, stat, 0, "dl-LogicalChannelMappingList", -1, "RB-MappingOption-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_MappingInfo_r7(rtxContext* RT_RESTRICT ctx, RB_MappingInfo_r7* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-MappingInfo-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_MappingOption_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_MappingOption_r7));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-MappingOption-r7", (int32_t)i, "RB-MappingInfo-r7");
+      elem = (RB_MappingOption_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RB_MappingOption_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RB_MappingOption_r7(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RB-MappingOption-r7", (int32_t)i, "RB-MappingInfo-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationSetup_r7(rtxContext* RT_RESTRICT ctx, RB_InformationSetup_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationSetup-r7");
+   /* rb-Identity */
+   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r7");
+   /* pdcp-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PDCP_Info_r4(ctx, &pvalue->pdcp_Info);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationSetup-r7");
+   }
+   /* rlc-InfoChoice */
+   stat = asn1PD_UMTS_RLC_InfoChoice_r7(ctx, &pvalue->rlc_InfoChoice);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "RB-InformationSetup-r7");
+   /* rb-MappingInfo */
+   stat = asn1PD_UMTS_RB_MappingInfo_r7(ctx, &pvalue->rb_MappingInfo);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationSetup-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationSetupList_r7(rtxContext* RT_RESTRICT ctx, RB_InformationSetupList_r7* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationSetupList-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_InformationSetup_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationSetup_r7));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-InformationSetup-r7", (int32_t)i, "RB-InformationSetupList-r7");
+      elem = (RB_InformationSetup_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RB_InformationSetup_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RB_InformationSetup_r7(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RB-InformationSetup-r7", (int32_t)i, "RB-InformationSetupList-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationSetup_r7(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rab-Info */
+   stat = asn1PD_UMTS_RAB_Info_r7(ctx, &pvalue->rab_Info);
+   RT_CHECK(ctx, stat, 0, "rab-Info", -1, "RAB-InformationSetup-r7");
+   /* rb-InformationSetupList */
+   stat = asn1PD_UMTS_RB_InformationSetupList_r7(ctx, &pvalue->rb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "rb-InformationSetupList", -1, "RAB-InformationSetup-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch_rlc_SizeList(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch_rlc_SizeList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* allSizes */
+         break;
+      case 1: /* configured */
+         break;
+      case 2: /* explicitList */
+         pvalue->u.explicitList = (RLC_SizeExplicitList*)rtxMemHeapAlloc(ctx, sizeof(RLC_SizeExplicitList));
+         if (pvalue->u.explicitList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "explicitList", -1, 0);
+         asn1Init_UMTS_RLC_SizeExplicitList(pvalue->u.explicitList);
+         stat = asn1PD_UMTS_RLC_SizeExplicitList(ctx, pvalue->u.explicitList);
+         RT_CHECK(ctx, stat, 0, "explicitList", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ul-TransportChannelType */
+   stat = asn1PD_UMTS_UL_TransportChannelType(ctx, &pvalue->ul_TransportChannelType);
+   RT_CHECK(ctx, stat, 0, "ul-TransportChannelType", -1, 0);
+   /* logicalChannelIdentity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->logicalChannelIdentity, 1, 15);
+      RT_CHECK(ctx, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, 0);
+   }
+   /* rlc-SizeList */
+   stat = asn1PD_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch_rlc_SizeList(ctx, &pvalue->rlc_SizeList);
+   RT_CHECK(ctx, stat, 0, "rlc-SizeList", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size_fixedSize(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size_fixedSize* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ddi */
+   stat = pd_ConsUInt8(ctx, &pvalue->ddi, 0, 62);
+   RT_CHECK(ctx, stat, "DDI", "ddi", -1, 0);
+   /* rlc-PDU-SizeList */
+   stat = asn1PD_UMTS_RLC_PDU_SizeList(ctx, &pvalue->rlc_PDU_SizeList);
+   RT_CHECK(ctx, stat, 0, "rlc-PDU-SizeList", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_PDU_SizeConstraint_lengthIndicatorSize(rtxContext* RT_RESTRICT ctx, RLC_PDU_SizeConstraint_lengthIndicatorSize* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_PDU_SizeConstraint(rtxContext* RT_RESTRICT ctx, RLC_PDU_SizeConstraint* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-PDU-SizeConstraint");
+   /* lengthIndicatorSize */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->lengthIndicatorSize, 0, 1);
+      RT_CHECK(ctx, stat, 0, "lengthIndicatorSize", -1, "RLC-PDU-SizeConstraint");
+   }
+   /* minRLC-PDU-Size */
+   stat = pd_ConsUInt16(ctx, &pvalue->minRLC_PDU_Size, 0, 1503);
+   RT_CHECK(ctx, stat, 0, "minRLC-PDU-Size", -1, "RLC-PDU-SizeConstraint");
+   /* largestRLC-PDU-Size */
+   stat = pd_ConsUInt16(ctx, &pvalue->largestRLC_PDU_Size, 0, 1503);
+   RT_CHECK(ctx, stat, 0, "largestRLC-PDU-Size", -1, "RLC-PDU-SizeConstraint");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fixedSize */
+         pvalue->u.fixedSize = (UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size_fixedSize*)rtxMemHeapAlloc(ctx, sizeof(UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size_fixedSize));
+         if (pvalue->u.fixedSize == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fixedSize", -1, 0);
+         asn1Init_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size_fixedSize(pvalue->u.fixedSize);
+         stat = asn1PD_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size_fixedSize(ctx, pvalue->u.fixedSize);
+         RT_CHECK(ctx, stat, 0, "fixedSize", -1, 0);
+         break;
+      case 1: /* flexibleSize */
+         pvalue->u.flexibleSize = (RLC_PDU_SizeConstraint*)rtxMemHeapAlloc(ctx, sizeof(RLC_PDU_SizeConstraint));
+         if (pvalue->u.flexibleSize == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "flexibleSize", -1, 0);
+         asn1Init_UMTS_RLC_PDU_SizeConstraint(pvalue->u.flexibleSize);
+         stat = asn1PD_UMTS_RLC_PDU_SizeConstraint(ctx, pvalue->u.flexibleSize);
+         RT_CHECK(ctx, stat, 0, "flexibleSize", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* logicalChannelIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->logicalChannelIdentity, 1, 15);
+   RT_CHECK(ctx, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, 0);
+   /* e-DCH-MAC-d-FlowIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->e_DCH_MAC_d_FlowIdentity, 0, 7);
+   RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowIdentity", "e-DCH-MAC-d-FlowIdentity", -1, 0);
+   /* rlc-PDU-Size */
+   stat = asn1PD_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size(ctx, &pvalue->rlc_PDU_Size);
+   RT_CHECK(ctx, stat, 0, "rlc-PDU-Size", -1, 0);
+   /* includeInSchedulingInfo */
+   stat = rtxDecBitInline(ctx, &pvalue->includeInSchedulingInfo);
+   RT_CHECK(ctx, stat, 0, "includeInSchedulingInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r8_ul_TrCH_Type* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dch-rach-usch */
+         pvalue->u.dch_rach_usch = (UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch*)rtxMemHeapAlloc(ctx, sizeof(UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch));
+         if (pvalue->u.dch_rach_usch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dch-rach-usch", -1, 0);
+         asn1Init_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch(pvalue->u.dch_rach_usch);
+         stat = asn1PD_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch(ctx, pvalue->u.dch_rach_usch);
+         RT_CHECK(ctx, stat, 0, "dch-rach-usch", -1, 0);
+         break;
+      case 1: /* e-dch */
+         pvalue->u.e_dch = (UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch*)rtxMemHeapAlloc(ctx, sizeof(UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch));
+         if (pvalue->u.e_dch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e-dch", -1, 0);
+         asn1Init_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch(pvalue->u.e_dch);
+         stat = asn1PD_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch(ctx, pvalue->u.e_dch);
+         RT_CHECK(ctx, stat, 0, "e-dch", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMapping_r8(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMapping_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ul-TrCH-Type */
+   stat = asn1PD_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type(ctx, &pvalue->ul_TrCH_Type);
+   RT_CHECK(ctx, stat, 0, "ul-TrCH-Type", -1, "UL-LogicalChannelMapping-r8");
+   /* mac-LogicalChannelPriority */
+   stat = pd_ConsUInt8(ctx, &pvalue->mac_LogicalChannelPriority, 1, 8);
+   RT_CHECK(ctx, stat, "MAC-LogicalChannelPriority", "mac-LogicalChannelPriority", -1, "UL-LogicalChannelMapping-r8");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMappingList_r8_ul_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappingList_r8_ul_LogicalChannelMapping* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 2, 2);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UL_LogicalChannelMapping_r8* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_LogicalChannelMapping_r8));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UL-LogicalChannelMapping-r8", (int32_t)i, 0);
+      elem = (UL_LogicalChannelMapping_r8*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UL_LogicalChannelMapping_r8(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_UL_LogicalChannelMapping_r8(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "UL-LogicalChannelMapping-r8", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMappingList_r8(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappingList_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rlc-LogicalChannelMappingIndicator */
+   stat = rtxDecBitInline(ctx, &pvalue->rlc_LogicalChannelMappingIndicator);
+   RT_CHECK(ctx, stat, 0, "rlc-LogicalChannelMappingIndicator", -1, "UL-LogicalChannelMappingList-r8");
+   /* ul-LogicalChannelMapping */
+   stat = asn1PD_UMTS_UL_LogicalChannelMappingList_r8_ul_LogicalChannelMapping(ctx, &pvalue->ul_LogicalChannelMapping);
+   RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMapping", -1, "UL-LogicalChannelMappingList-r8");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_LogicalChannelMappings_r8(rtxContext* RT_RESTRICT ctx, UL_LogicalChannelMappings_r8* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-LogicalChannelMappings-r8");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* oneLogicalChannel */
+         pvalue->u.oneLogicalChannel = (UL_LogicalChannelMapping_r8*)rtxMemHeapAlloc(ctx, sizeof(UL_LogicalChannelMapping_r8));
+         if (pvalue->u.oneLogicalChannel == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "oneLogicalChannel", -1, "UL-LogicalChannelMappings-r8");
+         asn1Init_UMTS_UL_LogicalChannelMapping_r8(pvalue->u.oneLogicalChannel);
+         stat = asn1PD_UMTS_UL_LogicalChannelMapping_r8(ctx, pvalue->u.oneLogicalChannel);
+         RT_CHECK(ctx, stat, 0, "oneLogicalChannel", -1, "UL-LogicalChannelMappings-r8");
+         break;
+      case 1: /* twoLogicalChannels */
+         pvalue->u.twoLogicalChannels = (UL_LogicalChannelMappingList_r8*)rtxMemHeapAlloc(ctx, sizeof(UL_LogicalChannelMappingList_r8));
+         if (pvalue->u.twoLogicalChannels == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "twoLogicalChannels", -1, "UL-LogicalChannelMappings-r8");
+         asn1Init_UMTS_UL_LogicalChannelMappingList_r8(pvalue->u.twoLogicalChannels);
+         stat = asn1PD_UMTS_UL_LogicalChannelMappingList_r8(ctx, pvalue->u.twoLogicalChannels);
+         RT_CHECK(ctx, stat, 0, "twoLogicalChannels", -1, "UL-LogicalChannelMappings-r8");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-LogicalChannelMappings-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_MappingOption_r8(rtxContext* RT_RESTRICT ctx, RB_MappingOption_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-MappingOption-r8");
+   /* ul-LogicalChannelMappings */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UL_LogicalChannelMappings_r8(ctx, &pvalue->ul_LogicalChannelMappings);
+      RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMappings", -1, "RB-MappingOption-r8");
+   }
+   /* dl-LogicalChannelMappingList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DL_LogicalChannelMappingList_r7(ctx, &pvalue->dl_LogicalChannelMappingList);
+      RT_CHECK(ctx, stat, 0, "dl-LogicalChannelMappingList", -1, "RB-MappingOption-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_MappingInfo_r8(rtxContext* RT_RESTRICT ctx, RB_MappingInfo_r8* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-MappingInfo-r8");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_MappingOption_r8* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_MappingOption_r8));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-MappingOption-r8", (int32_t)i, "RB-MappingInfo-r8");
+      elem = (RB_MappingOption_r8*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RB_MappingOption_r8(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RB_MappingOption_r8(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RB-MappingOption-r8", (int32_t)i, "RB-MappingInfo-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationSetup_r8(rtxContext* RT_RESTRICT ctx, RB_InformationSetup_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationSetup-r8");
+   /* rb-Identity */
+   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r8");
+   /* pdcp-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PDCP_Info_r4(ctx, &pvalue->pdcp_Info);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationSetup-r8");
+   }
+   /* rlc-InfoChoice */
+   stat = asn1PD_UMTS_RLC_InfoChoice_r7(ctx, &pvalue->rlc_InfoChoice);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "RB-InformationSetup-r8");
+   /* rb-MappingInfo */
+   stat = asn1PD_UMTS_RB_MappingInfo_r8(ctx, &pvalue->rb_MappingInfo);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationSetup-r8");
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationSetupList_r8(rtxContext* RT_RESTRICT ctx, RB_InformationSetupList_r8* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationSetupList-r8");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_InformationSetup_r8* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationSetup_r8));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-InformationSetup-r8", (int32_t)i, "RB-InformationSetupList-r8");
+      elem = (RB_InformationSetup_r8*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RB_InformationSetup_r8(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RB_InformationSetup_r8(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RB-InformationSetup-r8", (int32_t)i, "RB-InformationSetupList-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationSetup_r8(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationSetup-r8");
+   /* rab-Info */
+   stat = asn1PD_UMTS_RAB_Info_r7(ctx, &pvalue->rab_Info);
+   RT_CHECK(ctx, stat, 0, "rab-Info", -1, "RAB-InformationSetup-r8");
+   /* cs-HSPA-Information */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CS_HSPA_Information(ctx, &pvalue->cs_HSPA_Information);
+      RT_CHECK(ctx, stat, 0, "cs-HSPA-Information", -1, "RAB-InformationSetup-r8");
+   }
+   /* rab-InfoReplace */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RAB_InfoReplace(ctx, &pvalue->rab_InfoReplace);
+      RT_CHECK(ctx, stat, 0, "rab-InfoReplace", -1, "RAB-InformationSetup-r8");
+   }
+   /* rb-InformationSetupList */
+   stat = asn1PD_UMTS_RB_InformationSetupList_r8(ctx, &pvalue->rb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "rb-InformationSetupList", -1, "RAB-InformationSetup-r8");
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationSetup_v820ext(rtxContext* RT_RESTRICT ctx, RAB_InformationSetup_v820ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationSetup-v820ext");
+   /* cs-HSPA-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CS_HSPA_Information(ctx, &pvalue->cs_HSPA_Information);
+      RT_CHECK(ctx, stat, 0, "cs-HSPA-Information", -1, "RAB-InformationSetup-v820ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationSetupList(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationSetupList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RAB_InformationSetup* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationSetup));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RAB-InformationSetup", (int32_t)i, "RAB-InformationSetupList");
+      elem = (RAB_InformationSetup*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RAB_InformationSetup(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RAB_InformationSetup(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup", (int32_t)i, "RAB-InformationSetupList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationSetupList_r4(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_r4* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationSetupList-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RAB_InformationSetup_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationSetup_r4));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RAB-InformationSetup-r4", (int32_t)i, "RAB-InformationSetupList-r4");
+      elem = (RAB_InformationSetup_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RAB_InformationSetup_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RAB_InformationSetup_r4(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-r4", (int32_t)i, "RAB-InformationSetupList-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationSetupList_r5(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_r5* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationSetupList-r5");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RAB_InformationSetup_r5* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationSetup_r5));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RAB-InformationSetup-r5", (int32_t)i, "RAB-InformationSetupList-r5");
+      elem = (RAB_InformationSetup_r5*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RAB_InformationSetup_r5(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RAB_InformationSetup_r5(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-r5", (int32_t)i, "RAB-InformationSetupList-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationSetupList_r6(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_r6* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationSetupList-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RAB_InformationSetup_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationSetup_r6));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RAB-InformationSetup-r6", (int32_t)i, "RAB-InformationSetupList-r6");
+      elem = (RAB_InformationSetup_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RAB_InformationSetup_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RAB_InformationSetup_r6(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-r6", (int32_t)i, "RAB-InformationSetupList-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationSetupList_r6_ext(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_r6_ext* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationSetupList-r6-ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RAB_InformationSetup_r6_ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationSetup_r6_ext));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RAB-InformationSetup-r6-ext", (int32_t)i, "RAB-InformationSetupList-r6-ext");
+      elem = (RAB_InformationSetup_r6_ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RAB_InformationSetup_r6_ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RAB_InformationSetup_r6_ext(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-r6-ext", (int32_t)i, "RAB-InformationSetupList-r6-ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationSetupList_v6b0ext(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_v6b0ext* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationSetupList-v6b0ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RAB_InformationSetup_v6b0ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationSetup_v6b0ext));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RAB-InformationSetup-v6b0ext", (int32_t)i, "RAB-InformationSetupList-v6b0ext");
+      elem = (RAB_InformationSetup_v6b0ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RAB_InformationSetup_v6b0ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RAB_InformationSetup_v6b0ext(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-v6b0ext", (int32_t)i, "RAB-InformationSetupList-v6b0ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationSetupList_r7(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_r7* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationSetupList-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RAB_InformationSetup_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationSetup_r7));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RAB-InformationSetup-r7", (int32_t)i, "RAB-InformationSetupList-r7");
+      elem = (RAB_InformationSetup_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RAB_InformationSetup_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RAB_InformationSetup_r7(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-r7", (int32_t)i, "RAB-InformationSetupList-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationSetupList_r8(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_r8* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationSetupList-r8");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RAB_InformationSetup_r8* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationSetup_r8));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RAB-InformationSetup-r8", (int32_t)i, "RAB-InformationSetupList-r8");
+      elem = (RAB_InformationSetup_r8*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RAB_InformationSetup_r8(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RAB_InformationSetup_r8(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-r8", (int32_t)i, "RAB-InformationSetupList-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RAB_InformationSetupList_v820ext(rtxContext* RT_RESTRICT ctx, RAB_InformationSetupList_v820ext* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationSetupList-v820ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RAB_InformationSetup_v820ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationSetup_v820ext));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RAB-InformationSetup-v820ext", (int32_t)i, "RAB-InformationSetupList-v820ext");
+      elem = (RAB_InformationSetup_v820ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RAB_InformationSetup_v820ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RAB_InformationSetup_v820ext(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-v820ext", (int32_t)i, "RAB-InformationSetupList-v820ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_COUNT_C_Information(rtxContext* RT_RESTRICT ctx, RB_COUNT_C_Information* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rb-Identity */
+   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-COUNT-C-Information");
+   /* count-C-UL */
+   stat = pd_ConsUInt32(ctx, &pvalue->count_C_UL, 0, 4294967295LL);
+   RT_CHECK(ctx, stat, "COUNT-C", "count-C-UL", -1, "RB-COUNT-C-Information");
+   /* count-C-DL */
+   stat = pd_ConsUInt32(ctx, &pvalue->count_C_DL, 0, 4294967295LL);
+   RT_CHECK(ctx, stat, "COUNT-C", "count-C-DL", -1, "RB-COUNT-C-Information");
+   return 0;
+}
+
+int asn1PD_UMTS_RB_COUNT_C_InformationList(rtxContext* RT_RESTRICT ctx, RB_COUNT_C_InformationList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 27);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-COUNT-C-InformationList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_COUNT_C_Information* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_COUNT_C_Information));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-COUNT-C-Information", (int32_t)i, "RB-COUNT-C-InformationList");
+      elem = (RB_COUNT_C_Information*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RB_COUNT_C_Information(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RB-COUNT-C-Information", (int32_t)i, "RB-COUNT-C-InformationList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_COUNT_C_MSB_Information(rtxContext* RT_RESTRICT ctx, RB_COUNT_C_MSB_Information* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rb-Identity */
+   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-COUNT-C-MSB-Information");
+   /* count-C-MSB-UL */
+   stat = pd_ConsUInt32(ctx, &pvalue->count_C_MSB_UL, 0, 33554431);
+   RT_CHECK(ctx, stat, "COUNT-C-MSB", "count-C-MSB-UL", -1, "RB-COUNT-C-MSB-Information");
+   /* count-C-MSB-DL */
+   stat = pd_ConsUInt32(ctx, &pvalue->count_C_MSB_DL, 0, 33554431);
+   RT_CHECK(ctx, stat, "COUNT-C-MSB", "count-C-MSB-DL", -1, "RB-COUNT-C-MSB-Information");
+   return 0;
+}
+
+int asn1PD_UMTS_RB_COUNT_C_MSB_InformationList(rtxContext* RT_RESTRICT ctx, RB_COUNT_C_MSB_InformationList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 27);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-COUNT-C-MSB-InformationList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_COUNT_C_MSB_Information* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_COUNT_C_MSB_Information));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-COUNT-C-MSB-Information", (int32_t)i, "RB-COUNT-C-MSB-InformationList");
+      elem = (RB_COUNT_C_MSB_Information*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RB_COUNT_C_MSB_Information(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RB-COUNT-C-MSB-Information", (int32_t)i, "RB-COUNT-C-MSB-InformationList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_IdentityList(rtxContext* RT_RESTRICT ctx, RB_IdentityList* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t i;
    {
       uint32_t raw;
       stat = rtxDecBits(ctx, &raw, 5);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, "RB-IdentityList");
+      pvalue->n = raw + 1;
       if (raw > 31) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "RB-IdentityList");
          rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "RB-IdentityList");
       }
    }
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "BCCH-ARFCN", i);
       pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "BCCH-ARFCN");
-      stat = pd_ConsUInt16(ctx, &pvalue->elem[i], 0, 1023);
+      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 1, 32);
       if (stat != 0) {
          pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GSM_CellGroup_followingARFCNs_equallySpacedARFCNs(rtxContext* ctx, GSM_CellGroup_followingARFCNs_equallySpacedARFCNs* pvalue)
-{
-   int stat = 0;
-   /* arfcn-Spacing */
-   rtxCtxtPushElemName(ctx, "arfcn-Spacing");
-   stat = pd_ConsUInt8(ctx, &pvalue->arfcn_Spacing, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* numberOfFollowingARFCNs */
-   rtxCtxtPushElemName(ctx, "numberOfFollowingARFCNs");
-   stat = pd_ConsUInt8(ctx, &pvalue->numberOfFollowingARFCNs, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs(rtxContext* ctx, GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs* pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs(rtxContext* ctx, GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs* pvalue)
-{
-   int stat = 0;
-   /* endingARFCN */
-   rtxCtxtPushElemName(ctx, "endingARFCN");
-   rtxCtxtPushTypeName(ctx, "BCCH-ARFCN");
-   stat = pd_ConsUInt16(ctx, &pvalue->endingARFCN, 0, 1023);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GSM_CellGroup_followingARFCNs(rtxContext* ctx, GSM_CellGroup_followingARFCNs* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "explicitListOfARFCNs");
-         pvalue->u.explicitListOfARFCNs = (GSM_CellGroup_followingARFCNs_explicitListOfARFCNs*)rtxMemHeapAlloc(ctx, sizeof(GSM_CellGroup_followingARFCNs_explicitListOfARFCNs));
-         if (pvalue->u.explicitListOfARFCNs == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_GSM_CellGroup_followingARFCNs_explicitListOfARFCNs(pvalue->u.explicitListOfARFCNs);
-         stat = asn1PD_UMTS_GSM_CellGroup_followingARFCNs_explicitListOfARFCNs(ctx, pvalue->u.explicitListOfARFCNs);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "equallySpacedARFCNs");
-         pvalue->u.equallySpacedARFCNs = (GSM_CellGroup_followingARFCNs_equallySpacedARFCNs*)rtxMemHeapAllocZ(ctx, sizeof(GSM_CellGroup_followingARFCNs_equallySpacedARFCNs));
-         if (pvalue->u.equallySpacedARFCNs == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_GSM_CellGroup_followingARFCNs_equallySpacedARFCNs(ctx, pvalue->u.equallySpacedARFCNs);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "variableBitMapOfARFCNs");
-         pvalue->u.variableBitMapOfARFCNs = (GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs*)rtxMemHeapAlloc(ctx, sizeof(GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs));
-         if (pvalue->u.variableBitMapOfARFCNs == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs(pvalue->u.variableBitMapOfARFCNs);
-         stat = asn1PD_UMTS_GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs(ctx, pvalue->u.variableBitMapOfARFCNs);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "continuousRangeOfARFCNs");
-         pvalue->u.continuousRangeOfARFCNs = (GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs*)rtxMemHeapAllocZ(ctx, sizeof(GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs));
-         if (pvalue->u.continuousRangeOfARFCNs == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs(ctx, pvalue->u.continuousRangeOfARFCNs);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GSM_CellGroup(rtxContext* ctx, GSM_CellGroup* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "GSM-CellGroup");
-   /* startingARFCN */
-   rtxCtxtPushElemName(ctx, "startingARFCN");
-   rtxCtxtPushTypeName(ctx, "BCCH-ARFCN");
-   stat = pd_ConsUInt16(ctx, &pvalue->startingARFCN, 0, 1023);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* bandIndicator */
-   rtxCtxtPushElemName(ctx, "bandIndicator");
-   stat = pd_ConsUnsigned(ctx, &pvalue->bandIndicator, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* followingARFCNs */
-   rtxCtxtPushElemName(ctx, "followingARFCNs");
-   stat = asn1PD_UMTS_GSM_CellGroup_followingARFCNs(ctx, &pvalue->followingARFCNs);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PriorityLevel_radioAccessTechnology_gsm(rtxContext* ctx, PriorityLevel_radioAccessTechnology_gsm* pvalue)
-{
-   int stat = 0;
-   /* gsm-CellGroup */
-   rtxCtxtPushElemName(ctx, "gsm-CellGroup");
-   stat = asn1PD_UMTS_GSM_CellGroup(ctx, &pvalue->gsm_CellGroup);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PriorityLevel_radioAccessTechnology(rtxContext* ctx, PriorityLevel_radioAccessTechnology* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "utraFDD");
-         pvalue->u.utraFDD = (PriorityLevel_radioAccessTechnology_utraFDD*)rtxMemHeapAlloc(ctx, sizeof(PriorityLevel_radioAccessTechnology_utraFDD));
-         if (pvalue->u.utraFDD == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PriorityLevel_radioAccessTechnology_utraFDD(pvalue->u.utraFDD);
-         stat = asn1PD_UMTS_PriorityLevel_radioAccessTechnology_utraFDD(ctx, pvalue->u.utraFDD);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "utraTDD");
-         pvalue->u.utraTDD = (PriorityLevel_radioAccessTechnology_utraTDD*)rtxMemHeapAlloc(ctx, sizeof(PriorityLevel_radioAccessTechnology_utraTDD));
-         if (pvalue->u.utraTDD == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PriorityLevel_radioAccessTechnology_utraTDD(pvalue->u.utraTDD);
-         stat = asn1PD_UMTS_PriorityLevel_radioAccessTechnology_utraTDD(ctx, pvalue->u.utraTDD);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "eutra");
-         pvalue->u.eutra = (PriorityLevel_radioAccessTechnology_eutra*)rtxMemHeapAlloc(ctx, sizeof(PriorityLevel_radioAccessTechnology_eutra));
-         if (pvalue->u.eutra == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PriorityLevel_radioAccessTechnology_eutra(pvalue->u.eutra);
-         stat = asn1PD_UMTS_PriorityLevel_radioAccessTechnology_eutra(ctx, pvalue->u.eutra);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "gsm");
-         pvalue->u.gsm = (PriorityLevel_radioAccessTechnology_gsm*)rtxMemHeapAlloc(ctx, sizeof(PriorityLevel_radioAccessTechnology_gsm));
-         if (pvalue->u.gsm == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PriorityLevel_radioAccessTechnology_gsm(pvalue->u.gsm);
-         stat = asn1PD_UMTS_PriorityLevel_radioAccessTechnology_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PriorityLevel(rtxContext* ctx, PriorityLevel* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PriorityLevel");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* priority */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "priority");
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->priority, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* radioAccessTechnology */
-   rtxCtxtPushElemName(ctx, "radioAccessTechnology");
-   stat = asn1PD_UMTS_PriorityLevel_radioAccessTechnology(ctx, &pvalue->radioAccessTechnology);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PriorityLevelList(rtxContext* ctx, PriorityLevelList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "PriorityLevelList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PriorityLevel* elem;
-      rtxCtxtPushArrayElemName(ctx, "PriorityLevel", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PriorityLevel));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (PriorityLevel*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PriorityLevel(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PriorityLevel(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DedicatedPriorityInformation_action_configureDedicatedPriorities(rtxContext* ctx, DedicatedPriorityInformation_action_configureDedicatedPriorities* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* t-322 */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "t-322");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "T-322");
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_322, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* priorityLevelList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "priorityLevelList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PriorityLevelList(ctx, &pvalue->priorityLevelList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* eutraDetection */
-   rtxCtxtPushElemName(ctx, "eutraDetection");
-   stat = rtxDecBitInline(ctx, &pvalue->eutraDetection);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DedicatedPriorityInformation_action(rtxContext* ctx, DedicatedPriorityInformation_action* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "clearDedicatedPriorities");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "configureDedicatedPriorities");
-         pvalue->u.configureDedicatedPriorities = (DedicatedPriorityInformation_action_configureDedicatedPriorities*)rtxMemHeapAlloc(ctx, sizeof(DedicatedPriorityInformation_action_configureDedicatedPriorities));
-         if (pvalue->u.configureDedicatedPriorities == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_DedicatedPriorityInformation_action_configureDedicatedPriorities(pvalue->u.configureDedicatedPriorities);
-         stat = asn1PD_UMTS_DedicatedPriorityInformation_action_configureDedicatedPriorities(ctx, pvalue->u.configureDedicatedPriorities);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DedicatedPriorityInformation(rtxContext* ctx, DedicatedPriorityInformation* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DedicatedPriorityInformation");
-   /* action */
-   rtxCtxtPushElemName(ctx, "action");
-   stat = asn1PD_UMTS_DedicatedPriorityInformation_action(ctx, &pvalue->action);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Q_Hyst_S_Fine(rtxContext* ctx, Q_Hyst_S_Fine* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "Q-Hyst-S-Fine");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 40);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_T_Reselection_S_Fine(rtxContext* ctx, T_Reselection_S_Fine* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "T-Reselection-S-Fine");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_AccessStratumReleaseIndicator(rtxContext* ctx, AccessStratumReleaseIndicator* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "AccessStratumReleaseIndicator");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ActivationTime(rtxContext* ctx, ActivationTime* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "ActivationTime");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_N_AP_RetransMax(rtxContext* ctx, N_AP_RetransMax* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "N-AP-RetransMax");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_N_AccessFails(rtxContext* ctx, N_AccessFails* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "N-AccessFails");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NF_BO_NoAICH(rtxContext* ctx, NF_BO_NoAICH* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "NF-BO-NoAICH");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NS_BO_Busy(rtxContext* ctx, NS_BO_Busy* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "NS-BO-Busy");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NF_BO_AllBusy(rtxContext* ctx, NF_BO_AllBusy* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "NF-BO-AllBusy");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NF_BO_Mismatch(rtxContext* ctx, NF_BO_Mismatch* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "NF-BO-Mismatch");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_T_CPCH(rtxContext* ctx, T_CPCH* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "T-CPCH");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_BackoffControlParams(rtxContext* ctx, BackoffControlParams* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "BackoffControlParams");
-   /* n-AP-RetransMax */
-   rtxCtxtPushElemName(ctx, "n-AP-RetransMax");
-   rtxCtxtPushTypeName(ctx, "N-AP-RetransMax");
-   stat = pd_ConsUInt8(ctx, &pvalue->n_AP_RetransMax, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* n-AccessFails */
-   rtxCtxtPushElemName(ctx, "n-AccessFails");
-   rtxCtxtPushTypeName(ctx, "N-AccessFails");
-   stat = pd_ConsUInt8(ctx, &pvalue->n_AccessFails, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* nf-BO-NoAICH */
-   rtxCtxtPushElemName(ctx, "nf-BO-NoAICH");
-   rtxCtxtPushTypeName(ctx, "NF-BO-NoAICH");
-   stat = pd_ConsUInt8(ctx, &pvalue->nf_BO_NoAICH, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ns-BO-Busy */
-   rtxCtxtPushElemName(ctx, "ns-BO-Busy");
-   rtxCtxtPushTypeName(ctx, "NS-BO-Busy");
-   stat = pd_ConsUInt8(ctx, &pvalue->ns_BO_Busy, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* nf-BO-AllBusy */
-   rtxCtxtPushElemName(ctx, "nf-BO-AllBusy");
-   rtxCtxtPushTypeName(ctx, "NF-BO-AllBusy");
-   stat = pd_ConsUInt8(ctx, &pvalue->nf_BO_AllBusy, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* nf-BO-Mismatch */
-   rtxCtxtPushElemName(ctx, "nf-BO-Mismatch");
-   rtxCtxtPushTypeName(ctx, "NF-BO-Mismatch");
-   stat = pd_ConsUInt8(ctx, &pvalue->nf_BO_Mismatch, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* t-CPCH */
-   rtxCtxtPushElemName(ctx, "t-CPCH");
-   rtxCtxtPushTypeName(ctx, "T-CPCH");
-   stat = pd_ConsUnsigned(ctx, &pvalue->t_CPCH, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_BandComb(rtxContext* ctx, BandComb* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "BandComb");
-   stat = pd_ConsUInt16(ctx, pvalue, 1, 256);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_C_RNTI(rtxContext* ctx, C_RNTI* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "C-RNTI");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, pvalue, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SystemSpecificCapUpdateReq(rtxContext* ctx, SystemSpecificCapUpdateReq* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "SystemSpecificCapUpdateReq");
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SystemSpecificCapUpdateReqList(rtxContext* ctx, SystemSpecificCapUpdateReqList* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "SystemSpecificCapUpdateReqList");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 15) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, stat, "RB-Identity", "RB-Identity", (int32_t)i, "RB-IdentityList");
       }
    }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "SystemSpecificCapUpdateReq", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "SystemSpecificCapUpdateReq");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         if (stat != 0) {
-            pvalue->n = i + 1;
-            RT_RAISE(ctx, stat);
-         }
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         if (stat != 0) {
-            pvalue->n = i + 1;
-            RT_RAISE(ctx, stat);
-         }
-         pvalue->elem[i] = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_CapabilityUpdateRequirement(rtxContext* ctx, CapabilityUpdateRequirement* pvalue)
+int asn1PD_UMTS_RB_InformationAffected(rtxContext* RT_RESTRICT ctx, RB_InformationAffected* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CapabilityUpdateRequirement");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioCapabilityFDDUpdateRequirement */
-   rtxCtxtPushElemName(ctx, "ue-RadioCapabilityFDDUpdateRequirement");
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityFDDUpdateRequirement);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-RadioCapabilityTDDUpdateRequirement */
-   rtxCtxtPushElemName(ctx, "ue-RadioCapabilityTDDUpdateRequirement");
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityTDDUpdateRequirement);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* systemSpecificCapUpdateReqList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "systemSpecificCapUpdateReqList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SystemSpecificCapUpdateReqList(ctx, &pvalue->systemSpecificCapUpdateReqList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CapabilityUpdateRequirement_r4_ext(rtxContext* ctx, CapabilityUpdateRequirement_r4_ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CapabilityUpdateRequirement-r4-ext");
-   /* ue-RadioCapabilityUpdateRequirement-TDD128 */
-   rtxCtxtPushElemName(ctx, "ue-RadioCapabilityUpdateRequirement-TDD128");
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityUpdateRequirement_TDD128);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CapabilityUpdateRequirement_r4(rtxContext* ctx, CapabilityUpdateRequirement_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CapabilityUpdateRequirement-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioCapabilityFDDUpdateRequirement-FDD */
-   rtxCtxtPushElemName(ctx, "ue-RadioCapabilityFDDUpdateRequirement-FDD");
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityFDDUpdateRequirement_FDD);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD384 */
-   rtxCtxtPushElemName(ctx, "ue-RadioCapabilityTDDUpdateRequirement-TDD384");
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD384);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD128 */
-   rtxCtxtPushElemName(ctx, "ue-RadioCapabilityTDDUpdateRequirement-TDD128");
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD128);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* systemSpecificCapUpdateReqList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "systemSpecificCapUpdateReqList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SystemSpecificCapUpdateReqList(ctx, &pvalue->systemSpecificCapUpdateReqList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SystemSpecificCapUpdateReq_r5(rtxContext* ctx, SystemSpecificCapUpdateReq_r5* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "SystemSpecificCapUpdateReq-r5");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SystemSpecificCapUpdateReqList_r5(rtxContext* ctx, SystemSpecificCapUpdateReqList_r5* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "SystemSpecificCapUpdateReqList-r5");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 15) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "SystemSpecificCapUpdateReq-r5", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "SystemSpecificCapUpdateReq-r5");
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 1);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CapabilityUpdateRequirement_r5(rtxContext* ctx, CapabilityUpdateRequirement_r5* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CapabilityUpdateRequirement-r5");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioCapabilityFDDUpdateRequirement-FDD */
-   rtxCtxtPushElemName(ctx, "ue-RadioCapabilityFDDUpdateRequirement-FDD");
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityFDDUpdateRequirement_FDD);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD384 */
-   rtxCtxtPushElemName(ctx, "ue-RadioCapabilityTDDUpdateRequirement-TDD384");
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD384);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD128 */
-   rtxCtxtPushElemName(ctx, "ue-RadioCapabilityTDDUpdateRequirement-TDD128");
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD128);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* systemSpecificCapUpdateReqList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "systemSpecificCapUpdateReqList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SystemSpecificCapUpdateReqList_r5(ctx, &pvalue->systemSpecificCapUpdateReqList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CapabilityUpdateRequirement_v770ext(rtxContext* ctx, CapabilityUpdateRequirement_v770ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CapabilityUpdateRequirement-v770ext");
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD768 */
-   rtxCtxtPushElemName(ctx, "ue-RadioCapabilityTDDUpdateRequirement-TDD768");
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD768);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CapabilityUpdateRequirement_r7(rtxContext* ctx, CapabilityUpdateRequirement_r7* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CapabilityUpdateRequirement-r7");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioCapabilityFDDUpdateRequirement-FDD */
-   rtxCtxtPushElemName(ctx, "ue-RadioCapabilityFDDUpdateRequirement-FDD");
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityFDDUpdateRequirement_FDD);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD384 */
-   rtxCtxtPushElemName(ctx, "ue-RadioCapabilityTDDUpdateRequirement-TDD384");
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD384);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD768 */
-   rtxCtxtPushElemName(ctx, "ue-RadioCapabilityTDDUpdateRequirement-TDD768");
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD768);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD128 */
-   rtxCtxtPushElemName(ctx, "ue-RadioCapabilityTDDUpdateRequirement-TDD128");
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD128);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* systemSpecificCapUpdateReqList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "systemSpecificCapUpdateReqList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SystemSpecificCapUpdateReqList_r5(ctx, &pvalue->systemSpecificCapUpdateReqList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SystemSpecificCapUpdateReq_r8(rtxContext* ctx, SystemSpecificCapUpdateReq_r8* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "SystemSpecificCapUpdateReq-r8");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SystemSpecificCapUpdateReqList_r8(rtxContext* ctx, SystemSpecificCapUpdateReqList_r8* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "SystemSpecificCapUpdateReqList-r8");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 15) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "SystemSpecificCapUpdateReq-r8", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "SystemSpecificCapUpdateReq-r8");
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 7);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CapabilityUpdateRequirement_v860ext(rtxContext* ctx, CapabilityUpdateRequirement_v860ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CapabilityUpdateRequirement-v860ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* systemSpecificCapUpdateReqList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "systemSpecificCapUpdateReqList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SystemSpecificCapUpdateReqList_r8(ctx, &pvalue->systemSpecificCapUpdateReqList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CapabilityUpdateRequirement_r8(rtxContext* ctx, CapabilityUpdateRequirement_r8* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CapabilityUpdateRequirement-r8");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioCapabilityFDDUpdateRequirement-FDD */
-   rtxCtxtPushElemName(ctx, "ue-RadioCapabilityFDDUpdateRequirement-FDD");
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityFDDUpdateRequirement_FDD);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD384 */
-   rtxCtxtPushElemName(ctx, "ue-RadioCapabilityTDDUpdateRequirement-TDD384");
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD384);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD768 */
-   rtxCtxtPushElemName(ctx, "ue-RadioCapabilityTDDUpdateRequirement-TDD768");
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD768);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD128 */
-   rtxCtxtPushElemName(ctx, "ue-RadioCapabilityTDDUpdateRequirement-TDD128");
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD128);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* systemSpecificCapUpdateReqList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "systemSpecificCapUpdateReqList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SystemSpecificCapUpdateReqList_r8(ctx, &pvalue->systemSpecificCapUpdateReqList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateCause(rtxContext* ctx, CellUpdateCause* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "CellUpdateCause");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateCause_ext(rtxContext* ctx, CellUpdateCause_ext* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "CellUpdateCause-ext");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ChipRateCapability(rtxContext* ctx, ChipRateCapability* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "ChipRateCapability");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CipheringAlgorithm(rtxContext* ctx, CipheringAlgorithm* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "CipheringAlgorithm");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CipheringAlgorithm_r7(rtxContext* ctx, CipheringAlgorithm_r7* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "CipheringAlgorithm-r7");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CipheringModeCommand(rtxContext* ctx, CipheringModeCommand* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "CipheringModeCommand");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "startRestart");
-         rtxCtxtPushTypeName(ctx, "CipheringAlgorithm");
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.startRestart, 0, 1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "dummy");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CipheringModeCommand_r7(rtxContext* ctx, CipheringModeCommand_r7* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CipheringModeCommand-r7");
-   /* startRestart */
-   rtxCtxtPushElemName(ctx, "startRestart");
-   rtxCtxtPushTypeName(ctx, "CipheringAlgorithm-r7");
-   stat = pd_ConsUnsigned(ctx, &pvalue->startRestart, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RLC_SequenceNumber(rtxContext* ctx, RLC_SequenceNumber* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "RLC-SequenceNumber");
-   stat = pd_ConsUInt16(ctx, pvalue, 0, 4095);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RB_ActivationTimeInfo(rtxContext* ctx, RB_ActivationTimeInfo* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RB-ActivationTimeInfo");
    /* rb-Identity */
-   rtxCtxtPushElemName(ctx, "rb-Identity");
-   rtxCtxtPushTypeName(ctx, "RB-Identity");
    stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* rlc-SequenceNumber */
-   rtxCtxtPushElemName(ctx, "rlc-SequenceNumber");
-   rtxCtxtPushTypeName(ctx, "RLC-SequenceNumber");
-   stat = pd_ConsUInt16(ctx, &pvalue->rlc_SequenceNumber, 0, 4095);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected");
+   /* rb-MappingInfo */
+   stat = asn1PD_UMTS_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationAffected");
    return 0;
 }
 
-int asn1PD_UMTS_RB_ActivationTimeInfoList(rtxContext* ctx, RB_ActivationTimeInfoList* pvalue)
+int asn1PD_UMTS_RB_InformationAffected_r5(rtxContext* RT_RESTRICT ctx, RB_InformationAffected_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rb-Identity */
+   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected-r5");
+   /* rb-MappingInfo */
+   stat = asn1PD_UMTS_RB_MappingInfo_r5(ctx, &pvalue->rb_MappingInfo);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationAffected-r5");
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationAffected_r6(rtxContext* RT_RESTRICT ctx, RB_InformationAffected_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rb-Identity */
+   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected-r6");
+   /* rb-MappingInfo */
+   stat = asn1PD_UMTS_RB_MappingInfo_r6(ctx, &pvalue->rb_MappingInfo);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationAffected-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationAffected_r7(rtxContext* RT_RESTRICT ctx, RB_InformationAffected_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rb-Identity */
+   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected-r7");
+   /* rb-MappingInfo */
+   stat = asn1PD_UMTS_RB_MappingInfo_r7(ctx, &pvalue->rb_MappingInfo);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationAffected-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationAffected_r8(rtxContext* RT_RESTRICT ctx, RB_InformationAffected_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rb-Identity */
+   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected-r8");
+   /* rb-MappingInfo */
+   stat = asn1PD_UMTS_RB_MappingInfo_r8(ctx, &pvalue->rb_MappingInfo);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationAffected-r8");
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationAffectedList(rtxContext* RT_RESTRICT ctx, RB_InformationAffectedList* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "RB-ActivationTimeInfoList");
    RT_SET_SIZE(ctx, 1, 32);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationAffectedList");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      RB_ActivationTimeInfo* elem;
-      rtxCtxtPushArrayElemName(ctx, "RB-ActivationTimeInfo", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_ActivationTimeInfo));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (RB_ActivationTimeInfo*)(node + 1);
+      RB_InformationAffected* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationAffected));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-InformationAffected", (int32_t)i, "RB-InformationAffectedList");
+      elem = (RB_InformationAffected*)(node + 1);
       node->data = elem;
+      asn1Init_UMTS_RB_InformationAffected(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RB_ActivationTimeInfo(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CipheringModeInfo(rtxContext* ctx, CipheringModeInfo* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CipheringModeInfo");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* cipheringModeCommand */
-   rtxCtxtPushElemName(ctx, "cipheringModeCommand");
-   stat = asn1PD_UMTS_CipheringModeCommand(ctx, &pvalue->cipheringModeCommand);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* activationTimeForDPCH */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "activationTimeForDPCH");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTimeForDPCH, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-DL-CiphActivationTimeInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "rb-DL-CiphActivationTimeInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->rb_DL_CiphActivationTimeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CipheringModeInfo_r7(rtxContext* ctx, CipheringModeInfo_r7* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CipheringModeInfo-r7");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* cipheringModeCommand */
-   rtxCtxtPushElemName(ctx, "cipheringModeCommand");
-   stat = asn1PD_UMTS_CipheringModeCommand_r7(ctx, &pvalue->cipheringModeCommand);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* activationTimeForDPCH */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "activationTimeForDPCH");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTimeForDPCH, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-DL-CiphActivationTimeInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "rb-DL-CiphActivationTimeInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->rb_DL_CiphActivationTimeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IMSI_DS_41(rtxContext* ctx, IMSI_DS_41* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "IMSI-DS-41");
-   RT_SET_SIZE(ctx, 5, 7);
-   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TMSI_DS_41(rtxContext* ctx, TMSI_DS_41* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "TMSI-DS-41");
-   RT_SET_SIZE(ctx, 2, 17);
-   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CN_PagedUE_Identity(rtxContext* ctx, CN_PagedUE_Identity* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "CN-PagedUE-Identity");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 7);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "imsi-GSM-MAP");
-         pvalue->u.imsi_GSM_MAP = (IMSI_GSM_MAP*)rtxMemHeapAlloc(ctx, sizeof(IMSI_GSM_MAP));
-         if (pvalue->u.imsi_GSM_MAP == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_IMSI_GSM_MAP(pvalue->u.imsi_GSM_MAP);
-         stat = asn1PD_UMTS_IMSI_GSM_MAP(ctx, pvalue->u.imsi_GSM_MAP);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tmsi-GSM-MAP");
-         pvalue->u.tmsi_GSM_MAP = (TMSI_GSM_MAP*)rtxMemHeapAlloc(ctx, sizeof(TMSI_GSM_MAP));
-         if (pvalue->u.tmsi_GSM_MAP == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_TMSI_GSM_MAP(pvalue->u.tmsi_GSM_MAP);
-         stat = asn1PD_UMTS_TMSI_GSM_MAP(ctx, pvalue->u.tmsi_GSM_MAP);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "p-TMSI-GSM-MAP");
-         pvalue->u.p_TMSI_GSM_MAP = (P_TMSI_GSM_MAP*)rtxMemHeapAlloc(ctx, sizeof(P_TMSI_GSM_MAP));
-         if (pvalue->u.p_TMSI_GSM_MAP == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_P_TMSI_GSM_MAP(pvalue->u.p_TMSI_GSM_MAP);
-         stat = asn1PD_UMTS_P_TMSI_GSM_MAP(ctx, pvalue->u.p_TMSI_GSM_MAP);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "imsi-DS-41");
-         pvalue->u.imsi_DS_41 = (IMSI_DS_41*)rtxMemHeapAlloc(ctx, sizeof(IMSI_DS_41));
-         if (pvalue->u.imsi_DS_41 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_IMSI_DS_41(pvalue->u.imsi_DS_41);
-         stat = asn1PD_UMTS_IMSI_DS_41(ctx, pvalue->u.imsi_DS_41);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "tmsi-DS-41");
-         pvalue->u.tmsi_DS_41 = (TMSI_DS_41*)rtxMemHeapAlloc(ctx, sizeof(TMSI_DS_41));
-         if (pvalue->u.tmsi_DS_41 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_TMSI_DS_41(pvalue->u.tmsi_DS_41);
-         stat = asn1PD_UMTS_TMSI_DS_41(ctx, pvalue->u.tmsi_DS_41);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "spare3");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "spare2");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "spare1");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GSM_Measurements(rtxContext* ctx, GSM_Measurements* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "GSM-Measurements");
-   /* gsm900 */
-   rtxCtxtPushElemName(ctx, "gsm900");
-   stat = rtxDecBitInline(ctx, &pvalue->gsm900);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dcs1800 */
-   rtxCtxtPushElemName(ctx, "dcs1800");
-   stat = rtxDecBitInline(ctx, &pvalue->dcs1800);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gsm1900 */
-   rtxCtxtPushElemName(ctx, "gsm1900");
-   stat = rtxDecBitInline(ctx, &pvalue->gsm1900);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CompressedModeMeasCapability(rtxContext* ctx, CompressedModeMeasCapability* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CompressedModeMeasCapability");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* fdd-Measurements */
-   rtxCtxtPushElemName(ctx, "fdd-Measurements");
-   stat = rtxDecBitInline(ctx, &pvalue->fdd_Measurements);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tdd-Measurements */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "tdd-Measurements");
-      pvalue->m |= 0x1u;
-      stat = rtxDecBitInline(ctx, &pvalue->tdd_Measurements);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* gsm-Measurements */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "gsm-Measurements");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_GSM_Measurements(ctx, &pvalue->gsm_Measurements);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* multiCarrierMeasurements */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "multiCarrierMeasurements");
-      pvalue->m |= 0x4u;
-      stat = rtxDecBitInline(ctx, &pvalue->multiCarrierMeasurements);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CompressedModeMeasCapability_LCR_r4(rtxContext* ctx, CompressedModeMeasCapability_LCR_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CompressedModeMeasCapability-LCR-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* tdd128-Measurements */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "tdd128-Measurements");
-      pvalue->m |= 0x1u;
-      stat = rtxDecBitInline(ctx, &pvalue->tdd128_Measurements);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CompressedModeMeasCapability_v860ext_adjacentFrequencyMeasurements(rtxContext* ctx, CompressedModeMeasCapability_v860ext_adjacentFrequencyMeasurements* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
+      stat = asn1PD_UMTS_RB_InformationAffected(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RB-InformationAffected", (int32_t)i, "RB-InformationAffectedList");
    }
    return 0;
 }
 
-int asn1PD_UMTS_CompressedModeMeasCapability_v860ext(rtxContext* ctx, CompressedModeMeasCapability_v860ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CompressedModeMeasCapability-v860ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* adjacentFrequencyMeasurements */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "adjacentFrequencyMeasurements");
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->adjacentFrequencyMeasurements = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CompressedModeMeasCapability_v920ext_interBandMeasurements(rtxContext* ctx, CompressedModeMeasCapability_v920ext_interBandMeasurements* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CompressedModeMeasCapability_v920ext(rtxContext* ctx, CompressedModeMeasCapability_v920ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CompressedModeMeasCapability-v920ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* interBandMeasurements */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interBandMeasurements");
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->interBandMeasurements = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioFrequencyBandEUTRA(rtxContext* ctx, RadioFrequencyBandEUTRA* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandEUTRA");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CompressedModeMeasCapabEUTRA(rtxContext* ctx, CompressedModeMeasCapabEUTRA* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CompressedModeMeasCapabEUTRA");
-   /* radioFrequencyBandEUTRA */
-   rtxCtxtPushElemName(ctx, "radioFrequencyBandEUTRA");
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandEUTRA");
-   stat = pd_ConsUInt8(ctx, &pvalue->radioFrequencyBandEUTRA, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* compressedMode */
-   rtxCtxtPushElemName(ctx, "compressedMode");
-   stat = rtxDecBitInline(ctx, &pvalue->compressedMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CompressedModeMeasCapabEUTRAList(rtxContext* ctx, CompressedModeMeasCapabEUTRAList* pvalue)
+int asn1PD_UMTS_RB_InformationAffectedList_r5(rtxContext* RT_RESTRICT ctx, RB_InformationAffectedList_r5* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "CompressedModeMeasCapabEUTRAList");
-   RT_SET_SIZE(ctx, 1, 16);
+   RT_SET_SIZE(ctx, 1, 32);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationAffectedList-r5");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      CompressedModeMeasCapabEUTRA* elem;
-      rtxCtxtPushArrayElemName(ctx, "CompressedModeMeasCapabEUTRA", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CompressedModeMeasCapabEUTRA));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (CompressedModeMeasCapabEUTRA*)(node + 1);
+      RB_InformationAffected_r5* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationAffected_r5));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-InformationAffected-r5", (int32_t)i, "RB-InformationAffectedList-r5");
+      elem = (RB_InformationAffected_r5*)(node + 1);
       node->data = elem;
+      asn1Init_UMTS_RB_InformationAffected_r5(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CompressedModeMeasCapabEUTRA(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      stat = asn1PD_UMTS_RB_InformationAffected_r5(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RB-InformationAffected-r5", (int32_t)i, "RB-InformationAffectedList-r5");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_CompressedModeMeasCapabFDD(rtxContext* ctx, CompressedModeMeasCapabFDD* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CompressedModeMeasCapabFDD");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioFrequencyBandFDD */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "radioFrequencyBandFDD");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "RadioFrequencyBandFDD");
-      stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandFDD, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-MeasurementsFDD */
-   rtxCtxtPushElemName(ctx, "dl-MeasurementsFDD");
-   stat = rtxDecBitInline(ctx, &pvalue->dl_MeasurementsFDD);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-MeasurementsFDD */
-   rtxCtxtPushElemName(ctx, "ul-MeasurementsFDD");
-   stat = rtxDecBitInline(ctx, &pvalue->ul_MeasurementsFDD);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CompressedModeMeasCapabFDDList(rtxContext* ctx, CompressedModeMeasCapabFDDList* pvalue)
+int asn1PD_UMTS_RB_InformationAffectedList_r6(rtxContext* RT_RESTRICT ctx, RB_InformationAffectedList_r6* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "CompressedModeMeasCapabFDDList");
-   RT_SET_SIZE(ctx, 1, 8);
+   RT_SET_SIZE(ctx, 1, 32);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationAffectedList-r6");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      CompressedModeMeasCapabFDD* elem;
-      rtxCtxtPushArrayElemName(ctx, "CompressedModeMeasCapabFDD", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CompressedModeMeasCapabFDD));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (CompressedModeMeasCapabFDD*)(node + 1);
+      RB_InformationAffected_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationAffected_r6));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-InformationAffected-r6", (int32_t)i, "RB-InformationAffectedList-r6");
+      elem = (RB_InformationAffected_r6*)(node + 1);
       node->data = elem;
-      asn1Init_UMTS_CompressedModeMeasCapabFDD(elem);
+      asn1Init_UMTS_RB_InformationAffected_r6(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CompressedModeMeasCapabFDD(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      stat = asn1PD_UMTS_RB_InformationAffected_r6(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RB-InformationAffected-r6", (int32_t)i, "RB-InformationAffectedList-r6");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_CompressedModeMeasCapabFDD2(rtxContext* ctx, CompressedModeMeasCapabFDD2* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CompressedModeMeasCapabFDD2");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* radioFrequencyBandFDD */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "radioFrequencyBandFDD");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "RadioFrequencyBandFDD");
-      stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandFDD, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* radioFrequencyBandFDD2 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "radioFrequencyBandFDD2");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "RadioFrequencyBandFDD2");
-      stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandFDD2, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-MeasurementsFDD */
-   rtxCtxtPushElemName(ctx, "dl-MeasurementsFDD");
-   stat = rtxDecBitInline(ctx, &pvalue->dl_MeasurementsFDD);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-MeasurementsFDD */
-   rtxCtxtPushElemName(ctx, "ul-MeasurementsFDD");
-   stat = rtxDecBitInline(ctx, &pvalue->ul_MeasurementsFDD);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CompressedModeMeasCapabFDDList2(rtxContext* ctx, CompressedModeMeasCapabFDDList2* pvalue)
+int asn1PD_UMTS_RB_InformationAffectedList_r7(rtxContext* RT_RESTRICT ctx, RB_InformationAffectedList_r7* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "CompressedModeMeasCapabFDDList2");
-   RT_SET_SIZE(ctx, 1, 8);
+   RT_SET_SIZE(ctx, 1, 32);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationAffectedList-r7");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      CompressedModeMeasCapabFDD2* elem;
-      rtxCtxtPushArrayElemName(ctx, "CompressedModeMeasCapabFDD2", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CompressedModeMeasCapabFDD2));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (CompressedModeMeasCapabFDD2*)(node + 1);
+      RB_InformationAffected_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationAffected_r7));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-InformationAffected-r7", (int32_t)i, "RB-InformationAffectedList-r7");
+      elem = (RB_InformationAffected_r7*)(node + 1);
       node->data = elem;
-      asn1Init_UMTS_CompressedModeMeasCapabFDD2(elem);
+      asn1Init_UMTS_RB_InformationAffected_r7(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CompressedModeMeasCapabFDD2(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      stat = asn1PD_UMTS_RB_InformationAffected_r7(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RB-InformationAffected-r7", (int32_t)i, "RB-InformationAffectedList-r7");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_CompressedModeMeasCapabFDD_ext(rtxContext* ctx, CompressedModeMeasCapabFDD_ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CompressedModeMeasCapabFDD-ext");
-   /* radioFrequencyBandFDD2 */
-   rtxCtxtPushElemName(ctx, "radioFrequencyBandFDD2");
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandFDD2");
-   stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandFDD2, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dl-MeasurementsFDD */
-   rtxCtxtPushElemName(ctx, "dl-MeasurementsFDD");
-   stat = rtxDecBitInline(ctx, &pvalue->dl_MeasurementsFDD);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-MeasurementsFDD */
-   rtxCtxtPushElemName(ctx, "ul-MeasurementsFDD");
-   stat = rtxDecBitInline(ctx, &pvalue->ul_MeasurementsFDD);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CompressedModeMeasCapabFDDList_ext(rtxContext* ctx, CompressedModeMeasCapabFDDList_ext* pvalue)
+int asn1PD_UMTS_RB_InformationAffectedList_r8(rtxContext* RT_RESTRICT ctx, RB_InformationAffectedList_r8* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "CompressedModeMeasCapabFDDList-ext");
-   RT_SET_SIZE(ctx, 1, 8);
+   RT_SET_SIZE(ctx, 1, 32);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationAffectedList-r8");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      CompressedModeMeasCapabFDD_ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "CompressedModeMeasCapabFDD-ext", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CompressedModeMeasCapabFDD_ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (CompressedModeMeasCapabFDD_ext*)(node + 1);
+      RB_InformationAffected_r8* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationAffected_r8));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-InformationAffected-r8", (int32_t)i, "RB-InformationAffectedList-r8");
+      elem = (RB_InformationAffected_r8*)(node + 1);
       node->data = elem;
+      asn1Init_UMTS_RB_InformationAffected_r8(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CompressedModeMeasCapabFDD_ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioFrequencyBandTDD(rtxContext* ctx, RadioFrequencyBandTDD* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandTDD");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CompressedModeMeasCapabTDD(rtxContext* ctx, CompressedModeMeasCapabTDD* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CompressedModeMeasCapabTDD");
-   /* radioFrequencyBandTDD */
-   rtxCtxtPushElemName(ctx, "radioFrequencyBandTDD");
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandTDD");
-   stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandTDD, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dl-MeasurementsTDD */
-   rtxCtxtPushElemName(ctx, "dl-MeasurementsTDD");
-   stat = rtxDecBitInline(ctx, &pvalue->dl_MeasurementsTDD);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-MeasurementsTDD */
-   rtxCtxtPushElemName(ctx, "ul-MeasurementsTDD");
-   stat = rtxDecBitInline(ctx, &pvalue->ul_MeasurementsTDD);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CompressedModeMeasCapabTDDList(rtxContext* ctx, CompressedModeMeasCapabTDDList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "CompressedModeMeasCapabTDDList");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CompressedModeMeasCapabTDD* elem;
-      rtxCtxtPushArrayElemName(ctx, "CompressedModeMeasCapabTDD", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CompressedModeMeasCapabTDD));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (CompressedModeMeasCapabTDD*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CompressedModeMeasCapabTDD(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioFrequencyBandGSM(rtxContext* ctx, RadioFrequencyBandGSM* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandGSM");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CompressedModeMeasCapabGSM(rtxContext* ctx, CompressedModeMeasCapabGSM* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CompressedModeMeasCapabGSM");
-   /* radioFrequencyBandGSM */
-   rtxCtxtPushElemName(ctx, "radioFrequencyBandGSM");
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandGSM");
-   stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandGSM, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dl-MeasurementsGSM */
-   rtxCtxtPushElemName(ctx, "dl-MeasurementsGSM");
-   stat = rtxDecBitInline(ctx, &pvalue->dl_MeasurementsGSM);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-MeasurementsGSM */
-   rtxCtxtPushElemName(ctx, "ul-MeasurementsGSM");
-   stat = rtxDecBitInline(ctx, &pvalue->ul_MeasurementsGSM);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CompressedModeMeasCapabGSMList(rtxContext* ctx, CompressedModeMeasCapabGSMList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "CompressedModeMeasCapabGSMList");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CompressedModeMeasCapabGSM* elem;
-      rtxCtxtPushArrayElemName(ctx, "CompressedModeMeasCapabGSM", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CompressedModeMeasCapabGSM));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (CompressedModeMeasCapabGSM*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CompressedModeMeasCapabGSM(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CompressedModeMeasCapabMC(rtxContext* ctx, CompressedModeMeasCapabMC* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CompressedModeMeasCapabMC");
-   /* dl-MeasurementsMC */
-   rtxCtxtPushElemName(ctx, "dl-MeasurementsMC");
-   stat = rtxDecBitInline(ctx, &pvalue->dl_MeasurementsMC);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-MeasurementsMC */
-   rtxCtxtPushElemName(ctx, "ul-MeasurementsMC");
-   stat = rtxDecBitInline(ctx, &pvalue->ul_MeasurementsMC);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NS_IP(rtxContext* ctx, NS_IP* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "NS-IP");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 28);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InitialPriorityDelayList(rtxContext* ctx, InitialPriorityDelayList* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "InitialPriorityDelayList");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 7) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "NS-IP", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "NS-IP");
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 28);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_DPCCH_BER(rtxContext* ctx, DL_DPCCH_BER* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "DL-DPCCH-BER");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CPCH_Parameters(rtxContext* ctx, CPCH_Parameters* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CPCH-Parameters");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* initialPriorityDelayList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "initialPriorityDelayList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InitialPriorityDelayList(ctx, &pvalue->initialPriorityDelayList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* backoffControlParams */
-   rtxCtxtPushElemName(ctx, "backoffControlParams");
-   stat = asn1PD_UMTS_BackoffControlParams(ctx, &pvalue->backoffControlParams);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* powerControlAlgorithm */
-   rtxCtxtPushElemName(ctx, "powerControlAlgorithm");
-   stat = asn1PD_UMTS_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-DPCCH-BER */
-   rtxCtxtPushElemName(ctx, "dl-DPCCH-BER");
-   rtxCtxtPushTypeName(ctx, "DL-DPCCH-BER");
-   stat = pd_ConsUInt8(ctx, &pvalue->dl_DPCCH_BER, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CSG_ProximityIndicationCapability_supportOfIntraFreqProximityIndication(rtxContext* ctx, CSG_ProximityIndicationCapability_supportOfIntraFreqProximityIndication* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
+      stat = asn1PD_UMTS_RB_InformationAffected_r8(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RB-InformationAffected-r8", (int32_t)i, "RB-InformationAffectedList-r8");
    }
    return 0;
 }
 
-int asn1PD_UMTS_CSG_ProximityIndicationCapability_supportOfInterFreqProximityIndication(rtxContext* ctx, CSG_ProximityIndicationCapability_supportOfInterFreqProximityIndication* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CSG_ProximityIndicationCapability_supportOfE_UtraProximityIndication(rtxContext* ctx, CSG_ProximityIndicationCapability_supportOfE_UtraProximityIndication* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CSG_ProximityIndicationCapability(rtxContext* ctx, CSG_ProximityIndicationCapability* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CSG-ProximityIndicationCapability");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* supportOfIntraFreqProximityIndication */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "supportOfIntraFreqProximityIndication");
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportOfIntraFreqProximityIndication = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportOfInterFreqProximityIndication */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "supportOfInterFreqProximityIndication");
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportOfInterFreqProximityIndication = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportOfE-UtraProximityIndication */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "supportOfE-UtraProximityIndication");
-      pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportOfE_UtraProximityIndication = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CapabilityWithSimultaneousHS_DSCHConfig(rtxContext* ctx, DL_CapabilityWithSimultaneousHS_DSCHConfig* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "DL-CapabilityWithSimultaneousHS-DSCHConfig");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DPCH_FrameOffset(rtxContext* ctx, DPCH_FrameOffset* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "DPCH-FrameOffset");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 149);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_FDPCH_SlotFormat(rtxContext* ctx, FDPCH_SlotFormat* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "FDPCH-SlotFormat");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TPC_CombinationIndex(rtxContext* ctx, TPC_CombinationIndex* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "TPC-CombinationIndex");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_STTDIndication(rtxContext* ctx, STTDIndication* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "STTDIndication");
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_FDPCH_InfoPerRL_r7(rtxContext* ctx, DL_FDPCH_InfoPerRL_r7* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "DL-FDPCH-InfoPerRL-r7");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* pCPICH-UsageForChannelEst */
-   rtxCtxtPushElemName(ctx, "pCPICH-UsageForChannelEst");
-   rtxCtxtPushTypeName(ctx, "PCPICH-UsageForChannelEst");
-   stat = pd_ConsUnsigned(ctx, &pvalue->pCPICH_UsageForChannelEst, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* fdpch-FrameOffset */
-   rtxCtxtPushElemName(ctx, "fdpch-FrameOffset");
-   rtxCtxtPushTypeName(ctx, "DPCH-FrameOffset");
-   stat = pd_ConsUInt8(ctx, &pvalue->fdpch_FrameOffset, 0, 149);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* fdpch-SlotFormat */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "fdpch-SlotFormat");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "FDPCH-SlotFormat");
-      stat = pd_ConsUInt8(ctx, &pvalue->fdpch_SlotFormat, 0, 9);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* secondaryCPICH-Info */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "secondaryCPICH-Info");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SecondaryCPICH_Info(ctx, &pvalue->secondaryCPICH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* secondaryScramblingCode */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "secondaryScramblingCode");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "SecondaryScramblingCode");
-      stat = pd_ConsUInt8(ctx, &pvalue->secondaryScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-ChannelisationCode */
-   rtxCtxtPushElemName(ctx, "dl-ChannelisationCode");
-   stat = pd_ConsUInt8(ctx, &pvalue->dl_ChannelisationCode, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tpc-CombinationIndex */
-   rtxCtxtPushElemName(ctx, "tpc-CombinationIndex");
-   rtxCtxtPushTypeName(ctx, "TPC-CombinationIndex");
-   stat = pd_ConsUInt8(ctx, &pvalue->tpc_CombinationIndex, 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* sttdIndication */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "sttdIndication");
-      pvalue->m |= 0x8u;
-      rtxCtxtPushTypeName(ctx, "STTDIndication");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->sttdIndication = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_InformationPerSecondaryRL_e_RGCH_Info(rtxContext* ctx, DL_InformationPerSecondaryRL_e_RGCH_Info* pvalue)
+int asn1PD_UMTS_RB_InformationChanged_r6_rb_Change(rtxContext* RT_RESTRICT ctx, RB_InformationChanged_r6_rb_Change* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "e-RGCH-Information");
-         pvalue->u.e_RGCH_Information = (E_RGCH_Information*)rtxMemHeapAllocZ(ctx, sizeof(E_RGCH_Information));
-         if (pvalue->u.e_RGCH_Information == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 0: /* release */
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "releaseIndicator");
-         rtxCtxtPopElemName(ctx);
+      case 1: /* re-mapToDefaultRb */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.re_mapToDefaultRb, 1, 32);
+         RT_CHECK(ctx, stat, "RB-Identity", "re-mapToDefaultRb", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_DL_InformationPerSecondaryRL(rtxContext* ctx, DL_InformationPerSecondaryRL* pvalue)
+int asn1PD_UMTS_RB_InformationChanged_r6(rtxContext* RT_RESTRICT ctx, RB_InformationChanged_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "DL-InformationPerSecondaryRL");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cell-id */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "cell-id");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellIdentity(ctx, &pvalue->cell_id);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-FDPCHInfoPerRL-SecULFreq */
-   rtxCtxtPushElemName(ctx, "dl-FDPCHInfoPerRL-SecULFreq");
-   stat = asn1PD_UMTS_DL_FDPCH_InfoPerRL_r7(ctx, &pvalue->dl_FDPCHInfoPerRL_SecULFreq);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-AGCH-Information */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "e-AGCH-Information");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_E_AGCH_Information(ctx, &pvalue->e_AGCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-HICH-Information */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "e-HICH-Information");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_E_HICH_Information(ctx, &pvalue->e_HICH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-RGCH-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "e-RGCH-Info");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_DL_InformationPerSecondaryRL_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
+   /* rb-Identity */
+   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationChanged-r6");
+   /* rb-Change */
+   stat = asn1PD_UMTS_RB_InformationChanged_r6_rb_Change(ctx, &pvalue->rb_Change);
+   RT_CHECK(ctx, stat, 0, "rb-Change", -1, "RB-InformationChanged-r6");
    return 0;
 }
 
-int asn1PD_UMTS_DL_InformationPerSecondaryRL_List(rtxContext* ctx, DL_InformationPerSecondaryRL_List* pvalue)
+int asn1PD_UMTS_RB_InformationChangedList_r6(rtxContext* RT_RESTRICT ctx, RB_InformationChangedList_r6* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "DL-InformationPerSecondaryRL-List");
-   RT_SET_SIZE(ctx, 1, 4);
+   RT_SET_SIZE(ctx, 1, 32);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationChangedList-r6");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      DL_InformationPerSecondaryRL* elem;
-      rtxCtxtPushArrayElemName(ctx, "DL-InformationPerSecondaryRL", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_InformationPerSecondaryRL));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (DL_InformationPerSecondaryRL*)(node + 1);
+      RB_InformationChanged_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationChanged_r6));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-InformationChanged-r6", (int32_t)i, "RB-InformationChangedList-r6");
+      elem = (RB_InformationChanged_r6*)(node + 1);
       node->data = elem;
-      asn1Init_UMTS_DL_InformationPerSecondaryRL(elem);
+      asn1Init_UMTS_RB_InformationChanged_r6(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DL_InformationPerSecondaryRL(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      stat = asn1PD_UMTS_RB_InformationChanged_r6(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RB-InformationChanged-r6", (int32_t)i, "RB-InformationChangedList-r6");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_MaxNoPhysChBitsReceived(rtxContext* ctx, MaxNoPhysChBitsReceived* pvalue)
+int asn1PD_UMTS_RB_StopContinue(rtxContext* RT_RESTRICT ctx, RB_StopContinue* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "MaxNoPhysChBitsReceived");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-StopContinue");
    return 0;
 }
 
-int asn1PD_UMTS_MaxNoSCCPCH_RL(rtxContext* ctx, MaxNoSCCPCH_RL* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MaxNoSCCPCH-RL");
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SimultaneousSCCPCH_DPCH_Reception_supported(rtxContext* ctx, SimultaneousSCCPCH_DPCH_Reception_supported* pvalue)
-{
-   int stat = 0;
-   /* maxNoSCCPCH-RL */
-   rtxCtxtPushElemName(ctx, "maxNoSCCPCH-RL");
-   rtxCtxtPushTypeName(ctx, "MaxNoSCCPCH-RL");
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      pvalue->maxNoSCCPCH_RL = ui;
-   }
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* simultaneousSCCPCH-DPCH-DPDCH-Reception */
-   rtxCtxtPushElemName(ctx, "simultaneousSCCPCH-DPCH-DPDCH-Reception");
-   stat = rtxDecBitInline(ctx, &pvalue->simultaneousSCCPCH_DPCH_DPDCH_Reception);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SimultaneousSCCPCH_DPCH_Reception(rtxContext* ctx, SimultaneousSCCPCH_DPCH_Reception* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "SimultaneousSCCPCH-DPCH-Reception");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "notSupported");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "supported");
-         pvalue->u.supported = (SimultaneousSCCPCH_DPCH_Reception_supported*)rtxMemHeapAllocZ(ctx, sizeof(SimultaneousSCCPCH_DPCH_Reception_supported));
-         if (pvalue->u.supported == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_SimultaneousSCCPCH_DPCH_Reception_supported(ctx, pvalue->u.supported);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityFDD(rtxContext* ctx, DL_PhysChCapabilityFDD* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DL-PhysChCapabilityFDD");
-   /* maxNoDPCH-PDSCH-Codes */
-   rtxCtxtPushElemName(ctx, "maxNoDPCH-PDSCH-Codes");
-   stat = pd_ConsUInt8(ctx, &pvalue->maxNoDPCH_PDSCH_Codes, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* maxNoPhysChBitsReceived */
-   rtxCtxtPushElemName(ctx, "maxNoPhysChBitsReceived");
-   rtxCtxtPushTypeName(ctx, "MaxNoPhysChBitsReceived");
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxNoPhysChBitsReceived, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* supportForSF-512 */
-   rtxCtxtPushElemName(ctx, "supportForSF-512");
-   stat = rtxDecBitInline(ctx, &pvalue->supportForSF_512);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dummy */
-   rtxCtxtPushElemName(ctx, "dummy");
-   stat = rtxDecBitInline(ctx, &pvalue->dummy);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dummy2 */
-   rtxCtxtPushElemName(ctx, "dummy2");
-   stat = asn1PD_UMTS_SimultaneousSCCPCH_DPCH_Reception(ctx, &pvalue->dummy2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SupportOfDedicatedPilotsForChEstimation(rtxContext* ctx, SupportOfDedicatedPilotsForChEstimation* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "SupportOfDedicatedPilotsForChEstimation");
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityFDD_v380ext(rtxContext* ctx, DL_PhysChCapabilityFDD_v380ext* pvalue)
+int asn1PD_UMTS_RB_InformationReconfig(rtxContext* RT_RESTRICT ctx, RB_InformationReconfig* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "DL-PhysChCapabilityFDD-v380ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "SupportOfDedicatedPilotsForChEstimation");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->dummy = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HSDSCH_physical_layer_category_ext(rtxContext* ctx, HSDSCH_physical_layer_category_ext* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "HSDSCH-physical-layer-category-ext");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityFDD_v770ext_hsscchlessHsdschOperation(rtxContext* ctx, DL_PhysChCapabilityFDD_v770ext_hsscchlessHsdschOperation* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityFDD_v770ext_enhancedFdpch(rtxContext* ctx, DL_PhysChCapabilityFDD_v770ext_enhancedFdpch* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellFach(rtxContext* ctx, DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellFach* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellUraPch(rtxContext* ctx, DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellUraPch* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityFDD_v770ext(rtxContext* ctx, DL_PhysChCapabilityFDD_v770ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "DL-PhysChCapabilityFDD-v770ext");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat);
-   /* hsdsch-physical-layer-category-ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationReconfig");
+   /* rb-Identity */
+   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig");
+   /* pdcp-Info */
    if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "hsdsch-physical-layer-category-ext");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "HSDSCH-physical-layer-category-ext");
-      stat = pd_ConsUInt8(ctx, &pvalue->hsdsch_physical_layer_category_ext, 1, 20);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_PDCP_InfoReconfig(ctx, &pvalue->pdcp_Info);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationReconfig");
    }
-   /* hsscchlessHsdschOperation */
+   /* pdcp-SN-Info */
    if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "hsscchlessHsdschOperation");
       pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->hsscchlessHsdschOperation = ui;
-      }
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUInt16(ctx, &pvalue->pdcp_SN_Info, 0, 65535);
+      RT_CHECK(ctx, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-InformationReconfig");
    }
-   /* enhancedFdpch */
+   /* rlc-Info */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "enhancedFdpch");
       pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->enhancedFdpch = ui;
-      }
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RLC_Info(ctx, &pvalue->rlc_Info);
+      RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RB-InformationReconfig");
    }
-   /* hsdschReception-CellFach */
+   /* rb-MappingInfo */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "hsdschReception-CellFach");
       pvalue->m |= 0x8u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->hsdschReception_CellFach = ui;
-      }
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo);
+      RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationReconfig");
    }
-   /* hsdschReception-CellUraPch */
+   /* rb-StopContinue */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "hsdschReception-CellUraPch");
       pvalue->m |= 0x10u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->hsdschReception_CellUraPch = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HSDSCH_physical_layer_category_ext2(rtxContext* ctx, HSDSCH_physical_layer_category_ext2* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "HSDSCH-physical-layer-category-ext2");
-   stat = pd_ConsUInt8(ctx, pvalue, 21, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityFDD_v860ext_supportOfTargetCellPreConfig(rtxContext* ctx, DL_PhysChCapabilityFDD_v860ext_supportOfTargetCellPreConfig* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
+      stat = pd_ConsUnsigned(ctx, &pvalue->rb_StopContinue, 0, 1);
+      RT_CHECK(ctx, stat, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig");
    }
    return 0;
 }
 
-int asn1PD_UMTS_DL_PhysChCapabilityFDD_v860ext_supportOfHsdschDrxOperation(rtxContext* ctx, DL_PhysChCapabilityFDD_v860ext_supportOfHsdschDrxOperation* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityFDD_v860ext(rtxContext* ctx, DL_PhysChCapabilityFDD_v860ext* pvalue)
+int asn1PD_UMTS_RB_InformationReconfig_r4(rtxContext* RT_RESTRICT ctx, RB_InformationReconfig_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "DL-PhysChCapabilityFDD-v860ext");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* hsdsch-physical-layer-category-ext2 */
+   stat = rtxDecBitsFast(ctx, &present, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationReconfig-r4");
+   /* rb-Identity */
+   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r4");
+   /* pdcp-Info */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PDCP_InfoReconfig_r4(ctx, &pvalue->pdcp_Info);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationReconfig-r4");
+   }
+   /* pdcp-SN-Info */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt16(ctx, &pvalue->pdcp_SN_Info, 0, 65535);
+      RT_CHECK(ctx, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-InformationReconfig-r4");
+   }
+   /* rlc-Info */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "hsdsch-physical-layer-category-ext2");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "HSDSCH-physical-layer-category-ext2");
-      stat = pd_ConsUInt8(ctx, &pvalue->hsdsch_physical_layer_category_ext2, 21, 24);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportOfTargetCellPreConfig */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "supportOfTargetCellPreConfig");
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportOfTargetCellPreConfig = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportOfHsdschDrxOperation */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "supportOfHsdschDrxOperation");
       pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportOfHsdschDrxOperation = ui;
-      }
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RLC_Info(ctx, &pvalue->rlc_Info);
+      RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RB-InformationReconfig-r4");
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HSDSCH_physical_layer_category_ext3(rtxContext* ctx, HSDSCH_physical_layer_category_ext3* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "HSDSCH-physical-layer-category-ext3");
-   stat = pd_ConsUInt8(ctx, pvalue, 25, 28);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityFDD_v920ext_supportOfMimoOnlySingleStream(rtxContext* ctx, DL_PhysChCapabilityFDD_v920ext_supportOfMimoOnlySingleStream* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityFDD_v920ext(rtxContext* ctx, DL_PhysChCapabilityFDD_v920ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "DL-PhysChCapabilityFDD-v920ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* hsdsch-physical-layer-category-ext3 */
+   /* rb-MappingInfo */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "hsdsch-physical-layer-category-ext3");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "HSDSCH-physical-layer-category-ext3");
-      stat = pd_ConsUInt8(ctx, &pvalue->hsdsch_physical_layer_category_ext3, 25, 28);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo);
+      RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationReconfig-r4");
    }
-   /* supportOfMimoOnlySingleStream */
+   /* rb-StopContinue */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "supportOfMimoOnlySingleStream");
+      pvalue->m |= 0x10u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->rb_StopContinue, 0, 1);
+      RT_CHECK(ctx, stat, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RB_InformationReconfig_r5(rtxContext* RT_RESTRICT ctx, RB_InformationReconfig_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationReconfig-r5");
+   /* rb-Identity */
+   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r5");
+   /* pdcp-Info */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PDCP_InfoReconfig_r4(ctx, &pvalue->pdcp_Info);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationReconfig-r5");
+   }
+   /* pdcp-SN-Info */
+   if (present & ((uint32_t)1 << 3)) {
       pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportOfMimoOnlySingleStream = ui;
-      }
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUInt16(ctx, &pvalue->pdcp_SN_Info, 0, 65535);
+      RT_CHECK(ctx, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-InformationReconfig-r5");
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MaxTS_PerFrame(rtxContext* ctx, MaxTS_PerFrame* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MaxTS-PerFrame");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MaxPhysChPerFrame(rtxContext* ctx, MaxPhysChPerFrame* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerFrame");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 224);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MinimumSF_DL(rtxContext* ctx, MinimumSF_DL* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MinimumSF-DL");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MaxPhysChPerTS(rtxContext* ctx, MaxPhysChPerTS* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerTS");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityTDD(rtxContext* ctx, DL_PhysChCapabilityTDD* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DL-PhysChCapabilityTDD");
-   /* maxTS-PerFrame */
-   rtxCtxtPushElemName(ctx, "maxTS-PerFrame");
-   rtxCtxtPushTypeName(ctx, "MaxTS-PerFrame");
-   stat = pd_ConsUInt8(ctx, &pvalue->maxTS_PerFrame, 1, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maxPhysChPerFrame */
-   rtxCtxtPushElemName(ctx, "maxPhysChPerFrame");
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerFrame");
-   stat = pd_ConsUInt8(ctx, &pvalue->maxPhysChPerFrame, 1, 224);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* minimumSF */
-   rtxCtxtPushElemName(ctx, "minimumSF");
-   rtxCtxtPushTypeName(ctx, "MinimumSF-DL");
-   stat = pd_ConsUnsigned(ctx, &pvalue->minimumSF, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* supportOfPDSCH */
-   rtxCtxtPushElemName(ctx, "supportOfPDSCH");
-   stat = rtxDecBitInline(ctx, &pvalue->supportOfPDSCH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* maxPhysChPerTS */
-   rtxCtxtPushElemName(ctx, "maxPhysChPerTS");
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerTS");
-   stat = pd_ConsUInt8(ctx, &pvalue->maxPhysChPerTS, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MaxTS_PerSubFrame_r4(rtxContext* ctx, MaxTS_PerSubFrame_r4* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MaxTS-PerSubFrame-r4");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MaxPhysChPerSubFrame_r4(rtxContext* ctx, MaxPhysChPerSubFrame_r4* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerSubFrame-r4");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 96);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityTDD_LCR_r4(rtxContext* ctx, DL_PhysChCapabilityTDD_LCR_r4* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DL-PhysChCapabilityTDD-LCR-r4");
-   /* maxTS-PerSubFrame */
-   rtxCtxtPushElemName(ctx, "maxTS-PerSubFrame");
-   rtxCtxtPushTypeName(ctx, "MaxTS-PerSubFrame-r4");
-   stat = pd_ConsUInt8(ctx, &pvalue->maxTS_PerSubFrame, 1, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maxPhysChPerFrame */
-   rtxCtxtPushElemName(ctx, "maxPhysChPerFrame");
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerSubFrame-r4");
-   stat = pd_ConsUInt8(ctx, &pvalue->maxPhysChPerFrame, 1, 96);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* minimumSF */
-   rtxCtxtPushElemName(ctx, "minimumSF");
-   rtxCtxtPushTypeName(ctx, "MinimumSF-DL");
-   stat = pd_ConsUnsigned(ctx, &pvalue->minimumSF, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* supportOfPDSCH */
-   rtxCtxtPushElemName(ctx, "supportOfPDSCH");
-   stat = rtxDecBitInline(ctx, &pvalue->supportOfPDSCH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* maxPhysChPerTS */
-   rtxCtxtPushElemName(ctx, "maxPhysChPerTS");
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerTS");
-   stat = pd_ConsUInt8(ctx, &pvalue->maxPhysChPerTS, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* supportOf8PSK */
-   rtxCtxtPushElemName(ctx, "supportOf8PSK");
-   stat = rtxDecBitInline(ctx, &pvalue->supportOf8PSK);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MultiCarrier_HSDSCH_physical_layer_category(rtxContext* ctx, MultiCarrier_HSDSCH_physical_layer_category* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MultiCarrier-HSDSCH-physical-layer-category");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityTDD_128_v770ext(rtxContext* ctx, DL_PhysChCapabilityTDD_128_v770ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "DL-PhysChCapabilityTDD-128-v770ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* multiCarrier-physical-layer-category */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "multiCarrier-physical-layer-category");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "MultiCarrier-HSDSCH-physical-layer-category");
-      stat = pd_ConsUInt8(ctx, &pvalue->multiCarrier_physical_layer_category, 1, 64);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HSDSCH_physical_layer_category_extension(rtxContext* ctx, HSDSCH_physical_layer_category_extension* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "HSDSCH-physical-layer-category-extension");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MultiCarrier_HSDSCH_physical_layer_category_extension(rtxContext* ctx, MultiCarrier_HSDSCH_physical_layer_category_extension* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MultiCarrier-HSDSCH-physical-layer-category-extension");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 36);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityTDD_128_v860ext_supportOfSFModeForHSPDSCHDualStream(rtxContext* ctx, DL_PhysChCapabilityTDD_128_v860ext_supportOfSFModeForHSPDSCHDualStream* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityTDD_128_v860ext(rtxContext* ctx, DL_PhysChCapabilityTDD_128_v860ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "DL-PhysChCapabilityTDD-128-v860ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* hSDSCH-physical-layer-category-extension */
+   /* rlc-Info */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "hSDSCH-physical-layer-category-extension");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "HSDSCH-physical-layer-category-extension");
-      stat = pd_ConsUInt8(ctx, &pvalue->hSDSCH_physical_layer_category_extension, 1, 64);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* multiCarrier-physical-layer-category-extension */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "multiCarrier-physical-layer-category-extension");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "MultiCarrier-HSDSCH-physical-layer-category-extension");
-      stat = pd_ConsUInt8(ctx, &pvalue->multiCarrier_physical_layer_category_extension, 1, 36);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportOfSFModeForHSPDSCHDualStream */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "supportOfSFModeForHSPDSCHDualStream");
       pvalue->m |= 0x4u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->supportOfSFModeForHSPDSCHDualStream, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RLC_Info_r5(ctx, &pvalue->rlc_Info);
+      RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RB-InformationReconfig-r5");
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MaxPhysChPerFrame_768(rtxContext* ctx, MaxPhysChPerFrame_768* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerFrame-768");
-   stat = pd_ConsUInt16(ctx, pvalue, 1, 448);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MinimumSF_DL_768(rtxContext* ctx, MinimumSF_DL_768* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MinimumSF-DL-768");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HSDSCH_physical_layer_category(rtxContext* ctx, HSDSCH_physical_layer_category* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "HSDSCH-physical-layer-category");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityTDD_768_tdd768_hspdsch(rtxContext* ctx, DL_PhysChCapabilityTDD_768_tdd768_hspdsch* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "supported");
-         rtxCtxtPushTypeName(ctx, "HSDSCH-physical-layer-category");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.supported, 1, 64);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "unsupported");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+   /* rb-MappingInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_RB_MappingInfo_r5(ctx, &pvalue->rb_MappingInfo);
+      RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationReconfig-r5");
+   }
+   /* rb-StopContinue */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->rb_StopContinue, 0, 1);
+      RT_CHECK(ctx, stat, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r5");
    }
    return 0;
 }
 
-int asn1PD_UMTS_MaxPhysChPerTS_768(rtxContext* ctx, MaxPhysChPerTS_768* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerTS-768");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityTDD_768(rtxContext* ctx, DL_PhysChCapabilityTDD_768* pvalue)
+int asn1PD_UMTS_RB_InformationReconfig_r6(rtxContext* RT_RESTRICT ctx, RB_InformationReconfig_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DL-PhysChCapabilityTDD-768");
-   /* maxTS-PerFrame */
-   rtxCtxtPushElemName(ctx, "maxTS-PerFrame");
-   rtxCtxtPushTypeName(ctx, "MaxTS-PerFrame");
-   stat = pd_ConsUInt8(ctx, &pvalue->maxTS_PerFrame, 1, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maxPhysChPerFrame */
-   rtxCtxtPushElemName(ctx, "maxPhysChPerFrame");
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerFrame-768");
-   stat = pd_ConsUInt16(ctx, &pvalue->maxPhysChPerFrame, 1, 448);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* minimumSF */
-   rtxCtxtPushElemName(ctx, "minimumSF");
-   rtxCtxtPushTypeName(ctx, "MinimumSF-DL-768");
-   stat = pd_ConsUnsigned(ctx, &pvalue->minimumSF, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* supportOfPDSCH */
-   rtxCtxtPushElemName(ctx, "supportOfPDSCH");
-   stat = rtxDecBitInline(ctx, &pvalue->supportOfPDSCH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tdd768-hspdsch */
-   rtxCtxtPushElemName(ctx, "tdd768-hspdsch");
-   stat = asn1PD_UMTS_DL_PhysChCapabilityTDD_768_tdd768_hspdsch(ctx, &pvalue->tdd768_hspdsch);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* maxPhysChPerTS */
-   rtxCtxtPushElemName(ctx, "maxPhysChPerTS");
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerTS-768");
-   stat = pd_ConsUInt8(ctx, &pvalue->maxPhysChPerTS, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_PhysChCapabilityInfoTDD_768(rtxContext* ctx, DL_PhysChCapabilityInfoTDD_768* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DL-PhysChCapabilityInfoTDD-768");
-   /* maxTS-PerFrame */
-   rtxCtxtPushElemName(ctx, "maxTS-PerFrame");
-   rtxCtxtPushTypeName(ctx, "MaxTS-PerFrame");
-   stat = pd_ConsUInt8(ctx, &pvalue->maxTS_PerFrame, 1, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maxPhysChPerFrame */
-   rtxCtxtPushElemName(ctx, "maxPhysChPerFrame");
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerFrame-768");
-   stat = pd_ConsUInt16(ctx, &pvalue->maxPhysChPerFrame, 1, 448);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* minimumSF */
-   rtxCtxtPushElemName(ctx, "minimumSF");
-   rtxCtxtPushTypeName(ctx, "MinimumSF-DL-768");
-   stat = pd_ConsUnsigned(ctx, &pvalue->minimumSF, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* supportOfPDSCH */
-   rtxCtxtPushElemName(ctx, "supportOfPDSCH");
-   stat = rtxDecBitInline(ctx, &pvalue->supportOfPDSCH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* maxPhysChPerTS */
-   rtxCtxtPushElemName(ctx, "maxPhysChPerTS");
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerTS-768");
-   stat = pd_ConsUInt8(ctx, &pvalue->maxPhysChPerTS, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MaxNoBits(rtxContext* ctx, MaxNoBits* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MaxNoBits");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 12);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TurboSupport(rtxContext* ctx, TurboSupport* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "TurboSupport");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "notSupported");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "supported");
-         rtxCtxtPushTypeName(ctx, "MaxNoBits");
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.supported, 0, 12);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationReconfig-r6");
+   /* rb-Identity */
+   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r6");
+   /* pdcp-Info */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PDCP_InfoReconfig_r4(ctx, &pvalue->pdcp_Info);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationReconfig-r6");
    }
-   rtxCtxtPopTypeName(ctx);
+   /* pdcp-SN-Info */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt16(ctx, &pvalue->pdcp_SN_Info, 0, 65535);
+      RT_CHECK(ctx, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-InformationReconfig-r6");
+   }
+   /* rlc-Info */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_RLC_Info_r6(ctx, &pvalue->rlc_Info);
+      RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RB-InformationReconfig-r6");
+   }
+   /* rb-MappingInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_RB_MappingInfo_r6(ctx, &pvalue->rb_MappingInfo);
+      RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationReconfig-r6");
+   }
+   /* rb-StopContinue */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->rb_StopContinue, 0, 1);
+      RT_CHECK(ctx, stat, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r6");
+   }
    return 0;
 }
 
-int asn1PD_UMTS_MaxSimultaneousTransChsDL(rtxContext* ctx, MaxSimultaneousTransChsDL* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MaxSimultaneousTransChsDL");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MaxSimultaneousCCTrCH_Count(rtxContext* ctx, MaxSimultaneousCCTrCH_Count* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MaxSimultaneousCCTrCH-Count");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MaxTransportBlocksDL(rtxContext* ctx, MaxTransportBlocksDL* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MaxTransportBlocksDL");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MaxNumberOfTFC_DL(rtxContext* ctx, MaxNumberOfTFC_DL* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MaxNumberOfTFC-DL");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MaxNumberOfTF(rtxContext* ctx, MaxNumberOfTF* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MaxNumberOfTF");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_TransChCapability(rtxContext* ctx, DL_TransChCapability* pvalue)
+int asn1PD_UMTS_RB_InformationReconfig_r7(rtxContext* RT_RESTRICT ctx, RB_InformationReconfig_r7* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DL-TransChCapability");
-   /* maxNoBitsReceived */
-   rtxCtxtPushElemName(ctx, "maxNoBitsReceived");
-   rtxCtxtPushTypeName(ctx, "MaxNoBits");
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxNoBitsReceived, 0, 12);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maxConvCodeBitsReceived */
-   rtxCtxtPushElemName(ctx, "maxConvCodeBitsReceived");
-   rtxCtxtPushTypeName(ctx, "MaxNoBits");
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxConvCodeBitsReceived, 0, 12);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* turboDecodingSupport */
-   rtxCtxtPushElemName(ctx, "turboDecodingSupport");
-   stat = asn1PD_UMTS_TurboSupport(ctx, &pvalue->turboDecodingSupport);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* maxSimultaneousTransChs */
-   rtxCtxtPushElemName(ctx, "maxSimultaneousTransChs");
-   rtxCtxtPushTypeName(ctx, "MaxSimultaneousTransChsDL");
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxSimultaneousTransChs, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maxSimultaneousCCTrCH-Count */
-   rtxCtxtPushElemName(ctx, "maxSimultaneousCCTrCH-Count");
-   rtxCtxtPushTypeName(ctx, "MaxSimultaneousCCTrCH-Count");
-   stat = pd_ConsUInt8(ctx, &pvalue->maxSimultaneousCCTrCH_Count, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maxReceivedTransportBlocks */
-   rtxCtxtPushElemName(ctx, "maxReceivedTransportBlocks");
-   rtxCtxtPushTypeName(ctx, "MaxTransportBlocksDL");
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxReceivedTransportBlocks, 0, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maxNumberOfTFC */
-   rtxCtxtPushElemName(ctx, "maxNumberOfTFC");
-   rtxCtxtPushTypeName(ctx, "MaxNumberOfTFC-DL");
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxNumberOfTFC, 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maxNumberOfTF */
-   rtxCtxtPushElemName(ctx, "maxNumberOfTF");
-   rtxCtxtPushTypeName(ctx, "MaxNumberOfTF");
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxNumberOfTF, 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationReconfig-r7");
+   /* rb-Identity */
+   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r7");
+   /* pdcp-Info */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PDCP_InfoReconfig_r4(ctx, &pvalue->pdcp_Info);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationReconfig-r7");
+   }
+   /* pdcp-SN-Info */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt16(ctx, &pvalue->pdcp_SN_Info, 0, 65535);
+      RT_CHECK(ctx, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-InformationReconfig-r7");
+   }
+   /* rlc-Info */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_RLC_Info_r7(ctx, &pvalue->rlc_Info);
+      RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RB-InformationReconfig-r7");
+   }
+   /* rb-MappingInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_RB_MappingInfo_r7(ctx, &pvalue->rb_MappingInfo);
+      RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationReconfig-r7");
+   }
+   /* rb-StopContinue */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->rb_StopContinue, 0, 1);
+      RT_CHECK(ctx, stat, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r7");
+   }
    return 0;
 }
 
-int asn1PD_UMTS_TransmissionProbability(rtxContext* ctx, TransmissionProbability* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "TransmissionProbability");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MaximumBitRate(rtxContext* ctx, MaximumBitRate* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MaximumBitRate");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DRAC_SysInfo(rtxContext* ctx, DRAC_SysInfo* pvalue)
+int asn1PD_UMTS_RB_InformationReconfig_r8(rtxContext* RT_RESTRICT ctx, RB_InformationReconfig_r8* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DRAC-SysInfo");
-   /* transmissionProbability */
-   rtxCtxtPushElemName(ctx, "transmissionProbability");
-   rtxCtxtPushTypeName(ctx, "TransmissionProbability");
-   stat = pd_ConsUInt8(ctx, &pvalue->transmissionProbability, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maximumBitRate */
-   rtxCtxtPushElemName(ctx, "maximumBitRate");
-   rtxCtxtPushTypeName(ctx, "MaximumBitRate");
-   stat = pd_ConsUInt8(ctx, &pvalue->maximumBitRate, 0, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationReconfig-r8");
+   /* rb-Identity */
+   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r8");
+   /* pdcp-Info */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PDCP_InfoReconfig_r4(ctx, &pvalue->pdcp_Info);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationReconfig-r8");
+   }
+   /* pdcp-SN-Info */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt16(ctx, &pvalue->pdcp_SN_Info, 0, 65535);
+      RT_CHECK(ctx, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-InformationReconfig-r8");
+   }
+   /* rlc-Info */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_RLC_Info_r7(ctx, &pvalue->rlc_Info);
+      RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RB-InformationReconfig-r8");
+   }
+   /* rb-MappingInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_RB_MappingInfo_r8(ctx, &pvalue->rb_MappingInfo);
+      RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationReconfig-r8");
+   }
+   /* rb-StopContinue */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->rb_StopContinue, 0, 1);
+      RT_CHECK(ctx, stat, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r8");
+   }
    return 0;
 }
 
-int asn1PD_UMTS_DRAC_SysInfoList(rtxContext* ctx, DRAC_SysInfoList* pvalue)
+int asn1PD_UMTS_RB_InformationReconfigList(rtxContext* RT_RESTRICT ctx, RB_InformationReconfigList* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "DRAC-SysInfoList");
-   RT_SET_SIZE(ctx, 1, 8);
+   RT_SET_SIZE(ctx, 1, 32);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationReconfigList");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      DRAC_SysInfo* elem;
-      rtxCtxtPushArrayElemName(ctx, "DRAC-SysInfo", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DRAC_SysInfo));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (DRAC_SysInfo*)(node + 1);
+      RB_InformationReconfig* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationReconfig));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-InformationReconfig", (int32_t)i, "RB-InformationReconfigList");
+      elem = (RB_InformationReconfig*)(node + 1);
       node->data = elem;
+      asn1Init_UMTS_RB_InformationReconfig(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DRAC_SysInfo(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DSCH_RNTI(rtxContext* ctx, DSCH_RNTI* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "DSCH-RNTI");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, pvalue, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DelayRestrictionFlag(rtxContext* ctx, DelayRestrictionFlag* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "DelayRestrictionFlag");
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ESN_DS_41(rtxContext* ctx, ESN_DS_41* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "ESN-DS-41");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, pvalue, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_EstablishmentCause(rtxContext* ctx, EstablishmentCause* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "EstablishmentCause");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TGPSI(rtxContext* ctx, TGPSI* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "TGPSI");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ProtocolErrorCause(rtxContext* ctx, ProtocolErrorCause* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "ProtocolErrorCause");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ProtocolErrorInformation_diagnosticsType_type1(rtxContext* ctx, ProtocolErrorInformation_diagnosticsType_type1* pvalue)
-{
-   int stat = 0;
-   /* protocolErrorCause */
-   rtxCtxtPushElemName(ctx, "protocolErrorCause");
-   rtxCtxtPushTypeName(ctx, "ProtocolErrorCause");
-   stat = pd_ConsUnsigned(ctx, &pvalue->protocolErrorCause, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ProtocolErrorInformation_diagnosticsType(rtxContext* ctx, ProtocolErrorInformation_diagnosticsType* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "type1");
-         pvalue->u.type1 = (ProtocolErrorInformation_diagnosticsType_type1*)rtxMemHeapAllocZ(ctx, sizeof(ProtocolErrorInformation_diagnosticsType_type1));
-         if (pvalue->u.type1 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_ProtocolErrorInformation_diagnosticsType_type1(ctx, pvalue->u.type1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "spare");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+      stat = asn1PD_UMTS_RB_InformationReconfig(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RB-InformationReconfig", (int32_t)i, "RB-InformationReconfigList");
    }
    return 0;
 }
 
-int asn1PD_UMTS_ProtocolErrorInformation(rtxContext* ctx, ProtocolErrorInformation* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ProtocolErrorInformation");
-   /* diagnosticsType */
-   rtxCtxtPushElemName(ctx, "diagnosticsType");
-   stat = asn1PD_UMTS_ProtocolErrorInformation_diagnosticsType(ctx, &pvalue->diagnosticsType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_FailureCauseWithProtErr(rtxContext* ctx, FailureCauseWithProtErr* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "FailureCauseWithProtErr");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 15);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "configurationUnsupported");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "physicalChannelFailure");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "incompatibleSimultaneousReconfiguration");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "compressedModeRuntimeError");
-         rtxCtxtPushTypeName(ctx, "TGPSI");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.compressedModeRuntimeError, 1, 6);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "protocolError");
-         pvalue->u.protocolError = (ProtocolErrorInformation*)rtxMemHeapAlloc(ctx, sizeof(ProtocolErrorInformation));
-         if (pvalue->u.protocolError == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_ProtocolErrorInformation(pvalue->u.protocolError);
-         stat = asn1PD_UMTS_ProtocolErrorInformation(ctx, pvalue->u.protocolError);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "cellUpdateOccurred");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "invalidConfiguration");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "configurationIncomplete");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 8:
-         rtxCtxtPushElemName(ctx, "unsupportedMeasurement");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 9:
-         rtxCtxtPushElemName(ctx, "mbmsSessionAlreadyReceivedCorrectly");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 10:
-         rtxCtxtPushElemName(ctx, "lowerPriorityMBMSService");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 11:
-         rtxCtxtPushElemName(ctx, "spare5");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 12:
-         rtxCtxtPushElemName(ctx, "spare4");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 13:
-         rtxCtxtPushElemName(ctx, "spare3");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 14:
-         rtxCtxtPushElemName(ctx, "spare2");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 15:
-         rtxCtxtPushElemName(ctx, "spare1");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RRC_TransactionIdentifier(rtxContext* ctx, RRC_TransactionIdentifier* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_FailureCauseWithProtErrTrId(rtxContext* ctx, FailureCauseWithProtErrTrId* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "FailureCauseWithProtErrTrId");
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* failureCause */
-   rtxCtxtPushElemName(ctx, "failureCause");
-   stat = asn1PD_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GANSS_Mode(rtxContext* ctx, GANSS_Mode* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "GANSS-Mode");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ReleaseCause(rtxContext* ctx, ReleaseCause* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "ReleaseCause");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RRC_ConnectionReleaseInformation_release(rtxContext* ctx, RRC_ConnectionReleaseInformation_release* pvalue)
-{
-   int stat = 0;
-   /* releaseCause */
-   rtxCtxtPushElemName(ctx, "releaseCause");
-   rtxCtxtPushTypeName(ctx, "ReleaseCause");
-   stat = pd_ConsUnsigned(ctx, &pvalue->releaseCause, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RRC_ConnectionReleaseInformation(rtxContext* ctx, RRC_ConnectionReleaseInformation* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "RRC-ConnectionReleaseInformation");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "noRelease");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "release");
-         pvalue->u.release = (RRC_ConnectionReleaseInformation_release*)rtxMemHeapAllocZ(ctx, sizeof(RRC_ConnectionReleaseInformation_release));
-         if (pvalue->u.release == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_RRC_ConnectionReleaseInformation_release(ctx, pvalue->u.release);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_U_RNTI_Group(rtxContext* ctx, U_RNTI_Group* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "U-RNTI-Group");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 31);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "all");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b1");
-         pvalue->u.u_RNTI_BitMaskIndex_b1 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b1 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         RT_SET_SIZE(ctx, 31, 31);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b1, 31, 31);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b2");
-         pvalue->u.u_RNTI_BitMaskIndex_b2 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b2 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         RT_SET_SIZE(ctx, 30, 30);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b2, 30, 30);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b3");
-         pvalue->u.u_RNTI_BitMaskIndex_b3 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b3 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         RT_SET_SIZE(ctx, 29, 29);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b3, 29, 29);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b4");
-         pvalue->u.u_RNTI_BitMaskIndex_b4 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b4 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         RT_SET_SIZE(ctx, 28, 28);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b4, 28, 28);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b5");
-         pvalue->u.u_RNTI_BitMaskIndex_b5 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b5 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         RT_SET_SIZE(ctx, 27, 27);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b5, 27, 27);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b6");
-         pvalue->u.u_RNTI_BitMaskIndex_b6 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b6 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         RT_SET_SIZE(ctx, 26, 26);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b6, 26, 26);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b7");
-         pvalue->u.u_RNTI_BitMaskIndex_b7 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b7 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         RT_SET_SIZE(ctx, 25, 25);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b7, 25, 25);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 8:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b8");
-         pvalue->u.u_RNTI_BitMaskIndex_b8 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b8 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         RT_SET_SIZE(ctx, 24, 24);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b8, 24, 24);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 9:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b9");
-         pvalue->u.u_RNTI_BitMaskIndex_b9 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b9 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         RT_SET_SIZE(ctx, 23, 23);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b9, 23, 23);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 10:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b10");
-         pvalue->u.u_RNTI_BitMaskIndex_b10 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b10 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         RT_SET_SIZE(ctx, 22, 22);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b10, 22, 22);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 11:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b11");
-         pvalue->u.u_RNTI_BitMaskIndex_b11 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b11 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         RT_SET_SIZE(ctx, 21, 21);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b11, 21, 21);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 12:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b12");
-         pvalue->u.u_RNTI_BitMaskIndex_b12 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b12 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         RT_SET_SIZE(ctx, 20, 20);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b12, 20, 20);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 13:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b13");
-         pvalue->u.u_RNTI_BitMaskIndex_b13 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b13 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         RT_SET_SIZE(ctx, 19, 19);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b13, 19, 19);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 14:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b14");
-         pvalue->u.u_RNTI_BitMaskIndex_b14 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b14 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         RT_SET_SIZE(ctx, 18, 18);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b14, 18, 18);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 15:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b15");
-         pvalue->u.u_RNTI_BitMaskIndex_b15 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b15 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         RT_SET_SIZE(ctx, 17, 17);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b15, 17, 17);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 16:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b16");
-         pvalue->u.u_RNTI_BitMaskIndex_b16 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b16 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         RT_SET_SIZE(ctx, 16, 16);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b16, 16, 16);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 17:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b17");
-         pvalue->u.u_RNTI_BitMaskIndex_b17 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b17 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         RT_SET_SIZE(ctx, 15, 15);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b17, 15, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 18:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b18");
-         pvalue->u.u_RNTI_BitMaskIndex_b18 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b18 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         RT_SET_SIZE(ctx, 14, 14);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b18, 14, 14);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 19:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b19");
-         pvalue->u.u_RNTI_BitMaskIndex_b19 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b19 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         RT_SET_SIZE(ctx, 13, 13);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b19, 13, 13);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 20:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b20");
-         pvalue->u.u_RNTI_BitMaskIndex_b20 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b20 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         RT_SET_SIZE(ctx, 12, 12);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b20, 12, 12);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 21:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b21");
-         pvalue->u.u_RNTI_BitMaskIndex_b21 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b21 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         RT_SET_SIZE(ctx, 11, 11);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b21, 11, 11);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 22:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b22");
-         pvalue->u.u_RNTI_BitMaskIndex_b22 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b22 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         RT_SET_SIZE(ctx, 10, 10);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b22, 10, 10);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 23:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b23");
-         pvalue->u.u_RNTI_BitMaskIndex_b23 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b23 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         RT_SET_SIZE(ctx, 9, 9);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b23, 9, 9);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 24:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b24");
-         pvalue->u.u_RNTI_BitMaskIndex_b24 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b24 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         RT_SET_SIZE(ctx, 8, 8);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b24, 8, 8);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 25:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b25");
-         pvalue->u.u_RNTI_BitMaskIndex_b25 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b25 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         RT_SET_SIZE(ctx, 7, 7);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b25, 7, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 26:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b26");
-         pvalue->u.u_RNTI_BitMaskIndex_b26 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b26 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         RT_SET_SIZE(ctx, 6, 6);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b26, 6, 6);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 27:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b27");
-         pvalue->u.u_RNTI_BitMaskIndex_b27 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b27 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         RT_SET_SIZE(ctx, 5, 5);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b27, 5, 5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 28:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b28");
-         pvalue->u.u_RNTI_BitMaskIndex_b28 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b28 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         RT_SET_SIZE(ctx, 4, 4);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b28, 4, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 29:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b29");
-         pvalue->u.u_RNTI_BitMaskIndex_b29 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b29 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         RT_SET_SIZE(ctx, 3, 3);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b29, 3, 3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 30:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b30");
-         pvalue->u.u_RNTI_BitMaskIndex_b30 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b30 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         RT_SET_SIZE(ctx, 2, 2);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b30, 2, 2);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 31:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b31");
-         pvalue->u.u_RNTI_BitMaskIndex_b31 = (rtxBitStr32*)rtxMemHeapAlloc(ctx, sizeof(rtxBitStr32));
-         if (pvalue->u.u_RNTI_BitMaskIndex_b31 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         RT_SET_SIZE(ctx, 1, 1);
-         stat = pd_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b31, 1, 1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GroupReleaseInformation(rtxContext* ctx, GroupReleaseInformation* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "GroupReleaseInformation");
-   /* uRNTI-Group */
-   rtxCtxtPushElemName(ctx, "uRNTI-Group");
-   stat = asn1PD_UMTS_U_RNTI_Group(ctx, &pvalue->uRNTI_Group);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GroupIdentityWithReleaseInformation(rtxContext* ctx, GroupIdentityWithReleaseInformation* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "GroupIdentityWithReleaseInformation");
-   /* rrc-ConnectionReleaseInformation */
-   rtxCtxtPushElemName(ctx, "rrc-ConnectionReleaseInformation");
-   stat = asn1PD_UMTS_RRC_ConnectionReleaseInformation(ctx, &pvalue->rrc_ConnectionReleaseInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* groupReleaseInformation */
-   rtxCtxtPushElemName(ctx, "groupReleaseInformation");
-   stat = asn1PD_UMTS_GroupReleaseInformation(ctx, &pvalue->groupReleaseInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_High_MobilityDetected(rtxContext* ctx, High_MobilityDetected* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "High-MobilityDetected");
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UESpecificBehaviourInformation1idle(rtxContext* ctx, UESpecificBehaviourInformation1idle* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "UESpecificBehaviourInformation1idle");
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pd_BitString32(ctx, pvalue, 4, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UESpecificBehaviourInformation1interRAT(rtxContext* ctx, UESpecificBehaviourInformation1interRAT* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "UESpecificBehaviourInformation1interRAT");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, pvalue, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IdleIntervalMeasCapabEUTRA(rtxContext* ctx, IdleIntervalMeasCapabEUTRA* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "IdleIntervalMeasCapabEUTRA");
-   /* radioFrequencyBandEUTRA */
-   rtxCtxtPushElemName(ctx, "radioFrequencyBandEUTRA");
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandEUTRA");
-   stat = pd_ConsUInt8(ctx, &pvalue->radioFrequencyBandEUTRA, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* idleInterval */
-   rtxCtxtPushElemName(ctx, "idleInterval");
-   stat = rtxDecBitInline(ctx, &pvalue->idleInterval);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IdleIntervalMeasCapabEUTRAList(rtxContext* ctx, IdleIntervalMeasCapabEUTRAList* pvalue)
+int asn1PD_UMTS_RB_InformationReconfigList_r4(rtxContext* RT_RESTRICT ctx, RB_InformationReconfigList_r4* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "IdleIntervalMeasCapabEUTRAList");
-   RT_SET_SIZE(ctx, 1, 16);
+   RT_SET_SIZE(ctx, 1, 32);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationReconfigList-r4");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      IdleIntervalMeasCapabEUTRA* elem;
-      rtxCtxtPushArrayElemName(ctx, "IdleIntervalMeasCapabEUTRA", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(IdleIntervalMeasCapabEUTRA));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (IdleIntervalMeasCapabEUTRA*)(node + 1);
+      RB_InformationReconfig_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationReconfig_r4));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-InformationReconfig-r4", (int32_t)i, "RB-InformationReconfigList-r4");
+      elem = (RB_InformationReconfig_r4*)(node + 1);
       node->data = elem;
+      asn1Init_UMTS_RB_InformationReconfig_r4(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_IdleIntervalMeasCapabEUTRA(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      stat = asn1PD_UMTS_RB_InformationReconfig_r4(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RB-InformationReconfig-r4", (int32_t)i, "RB-InformationReconfigList-r4");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_IMSI_and_ESN_DS_41(rtxContext* ctx, IMSI_and_ESN_DS_41* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "IMSI-and-ESN-DS-41");
-   /* imsi-DS-41 */
-   rtxCtxtPushElemName(ctx, "imsi-DS-41");
-   stat = asn1PD_UMTS_IMSI_DS_41(ctx, &pvalue->imsi_DS_41);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* esn-DS-41 */
-   rtxCtxtPushElemName(ctx, "esn-DS-41");
-   stat = asn1PD_UMTS_ESN_DS_41(ctx, &pvalue->esn_DS_41);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TMSI_and_LAI_GSM_MAP(rtxContext* ctx, TMSI_and_LAI_GSM_MAP* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TMSI-and-LAI-GSM-MAP");
-   /* tmsi */
-   rtxCtxtPushElemName(ctx, "tmsi");
-   stat = asn1PD_UMTS_TMSI_GSM_MAP(ctx, &pvalue->tmsi);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* lai */
-   rtxCtxtPushElemName(ctx, "lai");
-   stat = asn1PD_UMTS_LAI(ctx, &pvalue->lai);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_P_TMSI_and_RAI_GSM_MAP(rtxContext* ctx, P_TMSI_and_RAI_GSM_MAP* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "P-TMSI-and-RAI-GSM-MAP");
-   /* p-TMSI */
-   rtxCtxtPushElemName(ctx, "p-TMSI");
-   stat = asn1PD_UMTS_P_TMSI_GSM_MAP(ctx, &pvalue->p_TMSI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rai */
-   rtxCtxtPushElemName(ctx, "rai");
-   stat = asn1PD_UMTS_RAI(ctx, &pvalue->rai);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InitialUE_Identity(rtxContext* ctx, InitialUE_Identity* pvalue)
+int asn1PD_UMTS_RB_InformationReconfigList_r5(rtxContext* RT_RESTRICT ctx, RB_InformationReconfigList_r5* RT_RESTRICT pvalue)
 {
    int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "InitialUE-Identity");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 7);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "imsi");
-         pvalue->u.imsi = (IMSI_GSM_MAP*)rtxMemHeapAlloc(ctx, sizeof(IMSI_GSM_MAP));
-         if (pvalue->u.imsi == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_IMSI_GSM_MAP(pvalue->u.imsi);
-         stat = asn1PD_UMTS_IMSI_GSM_MAP(ctx, pvalue->u.imsi);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tmsi-and-LAI");
-         pvalue->u.tmsi_and_LAI = (TMSI_and_LAI_GSM_MAP*)rtxMemHeapAlloc(ctx, sizeof(TMSI_and_LAI_GSM_MAP));
-         if (pvalue->u.tmsi_and_LAI == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_TMSI_and_LAI_GSM_MAP(pvalue->u.tmsi_and_LAI);
-         stat = asn1PD_UMTS_TMSI_and_LAI_GSM_MAP(ctx, pvalue->u.tmsi_and_LAI);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "p-TMSI-and-RAI");
-         pvalue->u.p_TMSI_and_RAI = (P_TMSI_and_RAI_GSM_MAP*)rtxMemHeapAlloc(ctx, sizeof(P_TMSI_and_RAI_GSM_MAP));
-         if (pvalue->u.p_TMSI_and_RAI == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_P_TMSI_and_RAI_GSM_MAP(pvalue->u.p_TMSI_and_RAI);
-         stat = asn1PD_UMTS_P_TMSI_and_RAI_GSM_MAP(ctx, pvalue->u.p_TMSI_and_RAI);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "imei");
-         pvalue->u.imei = (IMEI*)rtxMemHeapAlloc(ctx, sizeof(IMEI));
-         if (pvalue->u.imei == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_IMEI(pvalue->u.imei);
-         stat = asn1PD_UMTS_IMEI(ctx, pvalue->u.imei);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "esn-DS-41");
-         pvalue->u.esn_DS_41 = (ESN_DS_41*)rtxMemHeapAlloc(ctx, sizeof(ESN_DS_41));
-         if (pvalue->u.esn_DS_41 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_ESN_DS_41(pvalue->u.esn_DS_41);
-         stat = asn1PD_UMTS_ESN_DS_41(ctx, pvalue->u.esn_DS_41);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "imsi-DS-41");
-         pvalue->u.imsi_DS_41 = (IMSI_DS_41*)rtxMemHeapAlloc(ctx, sizeof(IMSI_DS_41));
-         if (pvalue->u.imsi_DS_41 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_IMSI_DS_41(pvalue->u.imsi_DS_41);
-         stat = asn1PD_UMTS_IMSI_DS_41(ctx, pvalue->u.imsi_DS_41);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "imsi-and-ESN-DS-41");
-         pvalue->u.imsi_and_ESN_DS_41 = (IMSI_and_ESN_DS_41*)rtxMemHeapAlloc(ctx, sizeof(IMSI_and_ESN_DS_41));
-         if (pvalue->u.imsi_and_ESN_DS_41 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_IMSI_and_ESN_DS_41(pvalue->u.imsi_and_ESN_DS_41);
-         stat = asn1PD_UMTS_IMSI_and_ESN_DS_41(ctx, pvalue->u.imsi_and_ESN_DS_41);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "tmsi-DS-41");
-         pvalue->u.tmsi_DS_41 = (TMSI_DS_41*)rtxMemHeapAlloc(ctx, sizeof(TMSI_DS_41));
-         if (pvalue->u.tmsi_DS_41 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_TMSI_DS_41(pvalue->u.tmsi_DS_41);
-         stat = asn1PD_UMTS_TMSI_DS_41(ctx, pvalue->u.tmsi_DS_41);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationReconfigList-r5");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_InformationReconfig_r5* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationReconfig_r5));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-InformationReconfig-r5", (int32_t)i, "RB-InformationReconfigList-r5");
+      elem = (RB_InformationReconfig_r5*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RB_InformationReconfig_r5(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RB_InformationReconfig_r5(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RB-InformationReconfig-r5", (int32_t)i, "RB-InformationReconfigList-r5");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_MessageAuthenticationCode(rtxContext* ctx, MessageAuthenticationCode* pvalue)
+int asn1PD_UMTS_RB_InformationReconfigList_r6(rtxContext* RT_RESTRICT ctx, RB_InformationReconfigList_r6* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "MessageAuthenticationCode");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, pvalue, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationReconfigList-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_InformationReconfig_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationReconfig_r6));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-InformationReconfig-r6", (int32_t)i, "RB-InformationReconfigList-r6");
+      elem = (RB_InformationReconfig_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RB_InformationReconfig_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RB_InformationReconfig_r6(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RB-InformationReconfig-r6", (int32_t)i, "RB-InformationReconfigList-r6");
+   }
    return 0;
 }
 
-int asn1PD_UMTS_RRC_MessageSequenceNumber(rtxContext* ctx, RRC_MessageSequenceNumber* pvalue)
+int asn1PD_UMTS_RB_InformationReconfigList_r7(rtxContext* RT_RESTRICT ctx, RB_InformationReconfigList_r7* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "RRC-MessageSequenceNumber");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationReconfigList-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_InformationReconfig_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationReconfig_r7));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-InformationReconfig-r7", (int32_t)i, "RB-InformationReconfigList-r7");
+      elem = (RB_InformationReconfig_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RB_InformationReconfig_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RB_InformationReconfig_r7(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RB-InformationReconfig-r7", (int32_t)i, "RB-InformationReconfigList-r7");
+   }
    return 0;
 }
 
-int asn1PD_UMTS_IntegrityCheckInfo(rtxContext* ctx, IntegrityCheckInfo* pvalue)
+int asn1PD_UMTS_RB_InformationReconfigList_r8(rtxContext* RT_RESTRICT ctx, RB_InformationReconfigList_r8* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "IntegrityCheckInfo");
-   /* messageAuthenticationCode */
-   rtxCtxtPushElemName(ctx, "messageAuthenticationCode");
-   stat = asn1PD_UMTS_MessageAuthenticationCode(ctx, &pvalue->messageAuthenticationCode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rrc-MessageSequenceNumber */
-   rtxCtxtPushElemName(ctx, "rrc-MessageSequenceNumber");
-   rtxCtxtPushTypeName(ctx, "RRC-MessageSequenceNumber");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_MessageSequenceNumber, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationReconfigList-r8");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RB_InformationReconfig_r8* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationReconfig_r8));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RB-InformationReconfig-r8", (int32_t)i, "RB-InformationReconfigList-r8");
+      elem = (RB_InformationReconfig_r8*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RB_InformationReconfig_r8(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RB_InformationReconfig_r8(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RB-InformationReconfig-r8", (int32_t)i, "RB-InformationReconfigList-r8");
+   }
    return 0;
 }
 
-int asn1PD_UMTS_RRC_MessageSequenceNumberList(rtxContext* ctx, RRC_MessageSequenceNumberList* pvalue)
+int asn1PD_UMTS_RB_InformationReleaseList(rtxContext* RT_RESTRICT ctx, RB_InformationReleaseList* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "RRC-MessageSequenceNumberList");
    {
       uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 1);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 4;
-      if (raw > 1) {
-         rtxErrAddElemNameParm(ctx);
+      stat = rtxDecBits(ctx, &raw, 5);
+      RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationReleaseList");
+      pvalue->n = raw + 1;
+      if (raw > 31) {
+         rtxErrAddStrParm(ctx, "RB-InformationReleaseList");
          rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "RB-InformationReleaseList");
       }
    }
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "RRC-MessageSequenceNumber", i);
       pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "RRC-MessageSequenceNumber");
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 15);
+      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 1, 32);
       if (stat != 0) {
          pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
+         RT_FAIL(ctx, stat, "RB-Identity", "RB-Identity", (int32_t)i, "RB-InformationReleaseList");
       }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_IntegrityProtActivationInfo(rtxContext* ctx, IntegrityProtActivationInfo* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "IntegrityProtActivationInfo");
-   /* rrc-MessageSequenceNumberList */
-   rtxCtxtPushElemName(ctx, "rrc-MessageSequenceNumberList");
-   stat = asn1PD_UMTS_RRC_MessageSequenceNumberList(ctx, &pvalue->rrc_MessageSequenceNumberList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntegrityProtectionAlgorithm(rtxContext* ctx, IntegrityProtectionAlgorithm* pvalue)
+int asn1PD_UMTS_TimerDAR_r6(rtxContext* RT_RESTRICT ctx, TimerDAR_r6* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "IntegrityProtectionAlgorithm");
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntegrityProtectionAlgorithm_r7(rtxContext* ctx, IntegrityProtectionAlgorithm_r7* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "IntegrityProtectionAlgorithm-r7");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntegrityProtInitNumber(rtxContext* ctx, IntegrityProtInitNumber* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "IntegrityProtInitNumber");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, pvalue, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntegrityProtectionModeCommand_startIntegrityProtection(rtxContext* ctx, IntegrityProtectionModeCommand_startIntegrityProtection* pvalue)
-{
-   int stat = 0;
-   /* integrityProtInitNumber */
-   rtxCtxtPushElemName(ctx, "integrityProtInitNumber");
-   stat = asn1PD_UMTS_IntegrityProtInitNumber(ctx, &pvalue->integrityProtInitNumber);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntegrityProtectionModeCommand_modify(rtxContext* ctx, IntegrityProtectionModeCommand_modify* pvalue)
-{
-   int stat = 0;
-   /* dl-IntegrityProtActivationInfo */
-   rtxCtxtPushElemName(ctx, "dl-IntegrityProtActivationInfo");
-   stat = asn1PD_UMTS_IntegrityProtActivationInfo(ctx, &pvalue->dl_IntegrityProtActivationInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntegrityProtectionModeCommand(rtxContext* ctx, IntegrityProtectionModeCommand* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "IntegrityProtectionModeCommand");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "startIntegrityProtection");
-         pvalue->u.startIntegrityProtection = (IntegrityProtectionModeCommand_startIntegrityProtection*)rtxMemHeapAlloc(ctx, sizeof(IntegrityProtectionModeCommand_startIntegrityProtection));
-         if (pvalue->u.startIntegrityProtection == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_IntegrityProtectionModeCommand_startIntegrityProtection(pvalue->u.startIntegrityProtection);
-         stat = asn1PD_UMTS_IntegrityProtectionModeCommand_startIntegrityProtection(ctx, pvalue->u.startIntegrityProtection);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "modify");
-         pvalue->u.modify = (IntegrityProtectionModeCommand_modify*)rtxMemHeapAlloc(ctx, sizeof(IntegrityProtectionModeCommand_modify));
-         if (pvalue->u.modify == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_IntegrityProtectionModeCommand_modify(pvalue->u.modify);
-         stat = asn1PD_UMTS_IntegrityProtectionModeCommand_modify(ctx, pvalue->u.modify);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntegrityProtectionModeInfo(rtxContext* ctx, IntegrityProtectionModeInfo* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntegrityProtectionModeInfo");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* integrityProtectionModeCommand */
-   rtxCtxtPushElemName(ctx, "integrityProtectionModeCommand");
-   stat = asn1PD_UMTS_IntegrityProtectionModeCommand(ctx, &pvalue->integrityProtectionModeCommand);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* integrityProtectionAlgorithm */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionAlgorithm");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "IntegrityProtectionAlgorithm");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->integrityProtectionAlgorithm = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntegrityProtectionModeInfo_r7(rtxContext* ctx, IntegrityProtectionModeInfo_r7* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntegrityProtectionModeInfo-r7");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* integrityProtectionModeCommand */
-   rtxCtxtPushElemName(ctx, "integrityProtectionModeCommand");
-   stat = asn1PD_UMTS_IntegrityProtectionModeCommand(ctx, &pvalue->integrityProtectionModeCommand);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* integrityProtectionAlgorithm */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionAlgorithm");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "IntegrityProtectionAlgorithm-r7");
-      stat = pd_ConsUnsigned(ctx, &pvalue->integrityProtectionAlgorithm, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MaxHcContextSpace(rtxContext* ctx, MaxHcContextSpace* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MaxHcContextSpace");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MaxHcContextSpace_r5_ext(rtxContext* ctx, MaxHcContextSpace_r5_ext* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MaxHcContextSpace-r5-ext");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MaxROHC_ContextSessions_r4(rtxContext* ctx, MaxROHC_ContextSessions_r4* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MaxROHC-ContextSessions-r4");
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 13);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimerDAR-r6");
    return 0;
 }
 
-int asn1PD_UMTS_MaximumAM_EntityNumberRLC_Cap(rtxContext* ctx, MaximumAM_EntityNumberRLC_Cap* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MaximumAM-EntityNumberRLC-Cap");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MaximumRLC_WindowSize(rtxContext* ctx, MaximumRLC_WindowSize* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MaximumRLC-WindowSize");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MaxNoDPDCH_BitsTransmitted(rtxContext* ctx, MaxNoDPDCH_BitsTransmitted* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MaxNoDPDCH-BitsTransmitted");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MaxNumberOfTFC_UL(rtxContext* ctx, MaxNumberOfTFC_UL* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MaxNumberOfTFC-UL");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MaxPhysChPerTimeslot(rtxContext* ctx, MaxPhysChPerTimeslot* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerTimeslot");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MaxPhysChPerTimeslot_LCR_r7(rtxContext* ctx, MaxPhysChPerTimeslot_LCR_r7* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerTimeslot-LCR-r7");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MaxSimultaneousTransChsUL(rtxContext* ctx, MaxSimultaneousTransChsUL* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MaxSimultaneousTransChsUL");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MaxTransportBlocksUL(rtxContext* ctx, MaxTransportBlocksUL* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MaxTransportBlocksUL");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementCapability(rtxContext* ctx, MeasurementCapability* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MeasurementCapability");
-   /* downlinkCompressedMode */
-   rtxCtxtPushElemName(ctx, "downlinkCompressedMode");
-   stat = asn1PD_UMTS_CompressedModeMeasCapability(ctx, &pvalue->downlinkCompressedMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* uplinkCompressedMode */
-   rtxCtxtPushElemName(ctx, "uplinkCompressedMode");
-   stat = asn1PD_UMTS_CompressedModeMeasCapability(ctx, &pvalue->uplinkCompressedMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementCapabilityExt(rtxContext* ctx, MeasurementCapabilityExt* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MeasurementCapabilityExt");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* compressedModeMeasCapabFDDList */
-   rtxCtxtPushElemName(ctx, "compressedModeMeasCapabFDDList");
-   stat = asn1PD_UMTS_CompressedModeMeasCapabFDDList(ctx, &pvalue->compressedModeMeasCapabFDDList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* compressedModeMeasCapabTDDList */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "compressedModeMeasCapabTDDList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CompressedModeMeasCapabTDDList(ctx, &pvalue->compressedModeMeasCapabTDDList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* compressedModeMeasCapabGSMList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "compressedModeMeasCapabGSMList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CompressedModeMeasCapabGSMList(ctx, &pvalue->compressedModeMeasCapabGSMList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* compressedModeMeasCapabMC */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "compressedModeMeasCapabMC");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_CompressedModeMeasCapabMC(ctx, &pvalue->compressedModeMeasCapabMC);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementCapabilityExt2(rtxContext* ctx, MeasurementCapabilityExt2* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MeasurementCapabilityExt2");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* compressedModeMeasCapabFDDList */
-   rtxCtxtPushElemName(ctx, "compressedModeMeasCapabFDDList");
-   stat = asn1PD_UMTS_CompressedModeMeasCapabFDDList2(ctx, &pvalue->compressedModeMeasCapabFDDList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* compressedModeMeasCapabTDDList */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "compressedModeMeasCapabTDDList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CompressedModeMeasCapabTDDList(ctx, &pvalue->compressedModeMeasCapabTDDList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* compressedModeMeasCapabGSMList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "compressedModeMeasCapabGSMList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CompressedModeMeasCapabGSMList(ctx, &pvalue->compressedModeMeasCapabGSMList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* compressedModeMeasCapabMC */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "compressedModeMeasCapabMC");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_CompressedModeMeasCapabMC(ctx, &pvalue->compressedModeMeasCapabMC);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementCapabilityExt3(rtxContext* ctx, MeasurementCapabilityExt3* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MeasurementCapabilityExt3");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* compressedModeMeasCapabEUTRAList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "compressedModeMeasCapabEUTRAList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CompressedModeMeasCapabEUTRAList(ctx, &pvalue->compressedModeMeasCapabEUTRAList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementCapability_r4_ext(rtxContext* ctx, MeasurementCapability_r4_ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MeasurementCapability-r4-ext");
-   /* downlinkCompressedMode-LCR */
-   rtxCtxtPushElemName(ctx, "downlinkCompressedMode-LCR");
-   stat = asn1PD_UMTS_CompressedModeMeasCapability_LCR_r4(ctx, &pvalue->downlinkCompressedMode_LCR);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* uplinkCompressedMode-LCR */
-   rtxCtxtPushElemName(ctx, "uplinkCompressedMode-LCR");
-   stat = asn1PD_UMTS_CompressedModeMeasCapability_LCR_r4(ctx, &pvalue->uplinkCompressedMode_LCR);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementCapability_v860ext(rtxContext* ctx, MeasurementCapability_v860ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MeasurementCapability-v860ext");
-   /* downlinkCompressedMode */
-   rtxCtxtPushElemName(ctx, "downlinkCompressedMode");
-   stat = asn1PD_UMTS_CompressedModeMeasCapability_v860ext(ctx, &pvalue->downlinkCompressedMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementCapability_v920ext(rtxContext* ctx, MeasurementCapability_v920ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MeasurementCapability-v920ext");
-   /* downlinkCompressedMode */
-   rtxCtxtPushElemName(ctx, "downlinkCompressedMode");
-   stat = asn1PD_UMTS_CompressedModeMeasCapability_v920ext(ctx, &pvalue->downlinkCompressedMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementCapabilityTDD(rtxContext* ctx, MeasurementCapabilityTDD* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MeasurementCapabilityTDD");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* idleIntervalMeasCapabEUTRAList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "idleIntervalMeasCapabEUTRAList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IdleIntervalMeasCapabEUTRAList(ctx, &pvalue->idleIntervalMeasCapabEUTRAList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MinimumSF_UL(rtxContext* ctx, MinimumSF_UL* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MinimumSF-UL");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MultiModeCapability(rtxContext* ctx, MultiModeCapability* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MultiModeCapability");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MultiRAT_Capability(rtxContext* ctx, MultiRAT_Capability* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MultiRAT-Capability");
-   /* supportOfGSM */
-   rtxCtxtPushElemName(ctx, "supportOfGSM");
-   stat = rtxDecBitInline(ctx, &pvalue->supportOfGSM);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* supportOfMulticarrier */
-   rtxCtxtPushElemName(ctx, "supportOfMulticarrier");
-   stat = rtxDecBitInline(ctx, &pvalue->supportOfMulticarrier);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MultiModeRAT_Capability_v590ext(rtxContext* ctx, MultiModeRAT_Capability_v590ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MultiModeRAT-Capability-v590ext");
-   /* supportOfUTRAN-ToGERAN-NACC */
-   rtxCtxtPushElemName(ctx, "supportOfUTRAN-ToGERAN-NACC");
-   stat = rtxDecBitInline(ctx, &pvalue->supportOfUTRAN_ToGERAN_NACC);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MultiModeRAT_Capability_v680ext_supportOfHandoverToGAN(rtxContext* ctx, MultiModeRAT_Capability_v680ext_supportOfHandoverToGAN* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MultiModeRAT_Capability_v680ext(rtxContext* ctx, MultiModeRAT_Capability_v680ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MultiModeRAT-Capability-v680ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* supportOfHandoverToGAN */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "supportOfHandoverToGAN");
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportOfHandoverToGAN = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MultiModeRAT_Capability_v770ext_supportOfPSHandoverToGAN(rtxContext* ctx, MultiModeRAT_Capability_v770ext_supportOfPSHandoverToGAN* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MultiModeRAT_Capability_v770ext(rtxContext* ctx, MultiModeRAT_Capability_v770ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MultiModeRAT-Capability-v770ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* supportOfPSHandoverToGAN */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "supportOfPSHandoverToGAN");
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportOfPSHandoverToGAN = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MultiModeRAT_Capability_v860ext_supportOfEUTRAFDD(rtxContext* ctx, MultiModeRAT_Capability_v860ext_supportOfEUTRAFDD* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRAFDD(rtxContext* ctx, MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRAFDD* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MultiModeRAT_Capability_v860ext_supportOfEUTRATDD(rtxContext* ctx, MultiModeRAT_Capability_v860ext_supportOfEUTRATDD* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRATDD(rtxContext* ctx, MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRATDD* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MultiModeRAT_Capability_v860ext(rtxContext* ctx, MultiModeRAT_Capability_v860ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MultiModeRAT-Capability-v860ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat);
-   /* supportOfEUTRAFDD */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "supportOfEUTRAFDD");
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportOfEUTRAFDD = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportOfInterRATHOToEUTRAFDD */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "supportOfInterRATHOToEUTRAFDD");
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportOfInterRATHOToEUTRAFDD = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportOfEUTRATDD */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "supportOfEUTRATDD");
-      pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportOfEUTRATDD = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportOfInterRATHOToEUTRATDD */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "supportOfInterRATHOToEUTRATDD");
-      pvalue->m |= 0x8u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportOfInterRATHOToEUTRATDD = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* eutraFeatureGroupIndicators */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "eutraFeatureGroupIndicators");
-      pvalue->m |= 0x10u;
-      RT_SET_SIZE(ctx, 4, 4);
-      stat = pd_BitString32(ctx, &pvalue->eutraFeatureGroupIndicators, 4, 4);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_N_308(rtxContext* ctx, N_308* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "N-308");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_N_312_r5(rtxContext* ctx, N_312_r5* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "N-312-r5");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_N_315_r5(rtxContext* ctx, N_315_r5* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "N-315-r5");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NeighCellSI_AcquisitionCapability_supportOfIntraFreqSIAcquisitionForHO(rtxContext* ctx, NeighCellSI_AcquisitionCapability_supportOfIntraFreqSIAcquisitionForHO* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NeighCellSI_AcquisitionCapability_supportOfInterFreqSIAcquisitionForHO(rtxContext* ctx, NeighCellSI_AcquisitionCapability_supportOfInterFreqSIAcquisitionForHO* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NeighCellSI_AcquisitionCapability_supportOfE_UtraSIAcquisitionForHO(rtxContext* ctx, NeighCellSI_AcquisitionCapability_supportOfE_UtraSIAcquisitionForHO* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NeighCellSI_AcquisitionCapability(rtxContext* ctx, NeighCellSI_AcquisitionCapability* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "NeighCellSI-AcquisitionCapability");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* supportOfIntraFreqSIAcquisitionForHO */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "supportOfIntraFreqSIAcquisitionForHO");
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportOfIntraFreqSIAcquisitionForHO = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportOfInterFreqSIAcquisitionForHO */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "supportOfInterFreqSIAcquisitionForHO");
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportOfInterFreqSIAcquisitionForHO = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportOfE-UtraSIAcquisitionForHO */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "supportOfE-UtraSIAcquisitionForHO");
-      pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportOfE_UtraSIAcquisitionForHO = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NetworkAssistedGANSS_Supported_List_element_gANSS_Id(rtxContext* ctx, NetworkAssistedGANSS_Supported_List_element_gANSS_Id* pvalue)
+int asn1PD_UMTS_WindowSizeDAR_r6(rtxContext* RT_RESTRICT ctx, WindowSizeDAR_r6* RT_RESTRICT pvalue)
 {
    int stat;
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "WindowSizeDAR-r6");
    return 0;
 }
 
-int asn1PD_UMTS_GANSS_Signal_Id(rtxContext* ctx, GANSS_Signal_Id* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "GANSS-Signal-Id");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NetworkAssistedGANSS_Supported_List_element(rtxContext* ctx, NetworkAssistedGANSS_Supported_List_element* pvalue)
+int asn1PD_UMTS_UM_RLC_DuplAvoid_Reord_Info_r6(rtxContext* RT_RESTRICT ctx, UM_RLC_DuplAvoid_Reord_Info_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* gANSS-Id */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "gANSS-Id");
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->gANSS_Id, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* gANSS-Mode */
-   rtxCtxtPushElemName(ctx, "gANSS-Mode");
-   rtxCtxtPushTypeName(ctx, "GANSS-Mode");
-   stat = pd_ConsUnsigned(ctx, &pvalue->gANSS_Mode, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* gANSS-SignalId */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "gANSS-SignalId");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "GANSS-Signal-Id");
-      stat = pd_ConsUInt8(ctx, &pvalue->gANSS_SignalId, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportForUE-GANSS-TimingOfCellFrames */
-   rtxCtxtPushElemName(ctx, "supportForUE-GANSS-TimingOfCellFrames");
-   stat = rtxDecBitInline(ctx, &pvalue->supportForUE_GANSS_TimingOfCellFrames);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* supportForUE-GANSS-CarrierPhaseMeasurement */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "supportForUE-GANSS-CarrierPhaseMeasurement");
-      pvalue->m |= 0x4u;
-      stat = rtxDecBitInline(ctx, &pvalue->supportForUE_GANSS_CarrierPhaseMeasurement);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
+   /* timer-DAR */
+   stat = pd_ConsUnsigned(ctx, &pvalue->timer_DAR, 0, 13);
+   RT_CHECK(ctx, stat, "TimerDAR-r6", "timer-DAR", -1, "UM-RLC-DuplAvoid-Reord-Info-r6");
+   /* widowSize-DAR */
+   stat = pd_ConsUnsigned(ctx, &pvalue->widowSize_DAR, 0, 7);
+   RT_CHECK(ctx, stat, "WindowSizeDAR-r6", "widowSize-DAR", -1, "UM-RLC-DuplAvoid-Reord-Info-r6");
    return 0;
 }
 
-int asn1PD_UMTS_NetworkAssistedGANSS_Supported_List(rtxContext* ctx, NetworkAssistedGANSS_Supported_List* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "NetworkAssistedGANSS-Supported-List");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NetworkAssistedGANSS_Supported_List_element* elem;
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NetworkAssistedGANSS_Supported_List_element));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (NetworkAssistedGANSS_Supported_List_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NetworkAssistedGANSS_Supported_List_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NetworkAssistedGANSS_Supported_List_element(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NetworkAssistedGANSS_Supported_List_v860ext_element_non_native_AD_choices_supported(rtxContext* ctx, NetworkAssistedGANSS_Supported_List_v860ext_element_non_native_AD_choices_supported* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NetworkAssistedGANSS_Supported_List_v860ext_element(rtxContext* ctx, NetworkAssistedGANSS_Supported_List_v860ext_element* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* sbas-Ids */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "sbas-Ids");
-      pvalue->m |= 0x1u;
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pd_BitString32(ctx, &pvalue->sbas_Ids, 8, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* gANSS-SignalIds */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "gANSS-SignalIds");
-      pvalue->m |= 0x2u;
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pd_BitString32(ctx, &pvalue->gANSS_SignalIds, 8, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* non-native-AD-choices-supported */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "non-native-AD-choices-supported");
-      pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->non_native_AD_choices_supported = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NetworkAssistedGANSS_Supported_List_v860ext(rtxContext* ctx, NetworkAssistedGANSS_Supported_List_v860ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "NetworkAssistedGANSS-Supported-List-v860ext");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NetworkAssistedGANSS_Supported_List_v860ext_element* elem;
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NetworkAssistedGANSS_Supported_List_v860ext_element));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (NetworkAssistedGANSS_Supported_List_v860ext_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NetworkAssistedGANSS_Supported_List_v860ext_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NetworkAssistedGANSS_Supported_List_v860ext_element(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NetworkAssistedGPS_Supported(rtxContext* ctx, NetworkAssistedGPS_Supported* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "NetworkAssistedGPS-Supported");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PagingCause(rtxContext* ctx, PagingCause* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "PagingCause");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PagingRecord_cn_Identity(rtxContext* ctx, PagingRecord_cn_Identity* pvalue)
-{
-   int stat = 0;
-   /* pagingCause */
-   rtxCtxtPushElemName(ctx, "pagingCause");
-   rtxCtxtPushTypeName(ctx, "PagingCause");
-   stat = pd_ConsUnsigned(ctx, &pvalue->pagingCause, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* cn-DomainIdentity */
-   rtxCtxtPushElemName(ctx, "cn-DomainIdentity");
-   rtxCtxtPushTypeName(ctx, "CN-DomainIdentity");
-   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* cn-pagedUE-Identity */
-   rtxCtxtPushElemName(ctx, "cn-pagedUE-Identity");
-   stat = asn1PD_UMTS_CN_PagedUE_Identity(ctx, &pvalue->cn_pagedUE_Identity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SRNC_Identity(rtxContext* ctx, SRNC_Identity* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "SRNC-Identity");
-   RT_SET_SIZE(ctx, 12, 12);
-   stat = pd_BitString32(ctx, pvalue, 12, 12);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_S_RNTI(rtxContext* ctx, S_RNTI* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "S-RNTI");
-   RT_SET_SIZE(ctx, 20, 20);
-   stat = pd_BitString32(ctx, pvalue, 20, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_U_RNTI(rtxContext* ctx, U_RNTI* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "U-RNTI");
-   /* srnc-Identity */
-   rtxCtxtPushElemName(ctx, "srnc-Identity");
-   stat = asn1PD_UMTS_SRNC_Identity(ctx, &pvalue->srnc_Identity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* s-RNTI */
-   rtxCtxtPushElemName(ctx, "s-RNTI");
-   stat = asn1PD_UMTS_S_RNTI(ctx, &pvalue->s_RNTI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PagingRecord_utran_Identity_cn_OriginatedPage_connectedMode_UE(rtxContext* ctx, PagingRecord_utran_Identity_cn_OriginatedPage_connectedMode_UE* pvalue)
-{
-   int stat = 0;
-   /* pagingCause */
-   rtxCtxtPushElemName(ctx, "pagingCause");
-   rtxCtxtPushTypeName(ctx, "PagingCause");
-   stat = pd_ConsUnsigned(ctx, &pvalue->pagingCause, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* cn-DomainIdentity */
-   rtxCtxtPushElemName(ctx, "cn-DomainIdentity");
-   rtxCtxtPushTypeName(ctx, "CN-DomainIdentity");
-   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* pagingRecordTypeID */
-   rtxCtxtPushElemName(ctx, "pagingRecordTypeID");
-   rtxCtxtPushTypeName(ctx, "PagingRecordTypeID");
-   stat = pd_ConsUnsigned(ctx, &pvalue->pagingRecordTypeID, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PagingRecord_utran_Identity(rtxContext* ctx, PagingRecord_utran_Identity* pvalue)
+int asn1PD_UMTS_RLC_Info_MTCH_r6(rtxContext* RT_RESTRICT ctx, RLC_Info_MTCH_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* u-RNTI */
-   rtxCtxtPushElemName(ctx, "u-RNTI");
-   stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cn-OriginatedPage-connectedMode-UE */
+   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-Info-MTCH-r6");
+   /* dl-UM-RLC-LI-size */
+   stat = pd_ConsUnsigned(ctx, &pvalue->dl_UM_RLC_LI_size, 0, 1);
+   RT_CHECK(ctx, stat, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "RLC-Info-MTCH-r6");
+   /* dl-UM-RLC-DuplAvoid-Reord-Info */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cn-OriginatedPage-connectedMode-UE");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PagingRecord_utran_Identity_cn_OriginatedPage_connectedMode_UE(ctx, &pvalue->cn_OriginatedPage_connectedMode_UE);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UM_RLC_DuplAvoid_Reord_Info_r6(ctx, &pvalue->dl_UM_RLC_DuplAvoid_Reord_Info);
+      RT_CHECK(ctx, stat, 0, "dl-UM-RLC-DuplAvoid-Reord-Info", -1, "RLC-Info-MTCH-r6");
    }
    return 0;
 }
 
-int asn1PD_UMTS_PagingRecord(rtxContext* ctx, PagingRecord* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "PagingRecord");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "cn-Identity");
-         pvalue->u.cn_Identity = (PagingRecord_cn_Identity*)rtxMemHeapAlloc(ctx, sizeof(PagingRecord_cn_Identity));
-         if (pvalue->u.cn_Identity == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PagingRecord_cn_Identity(pvalue->u.cn_Identity);
-         stat = asn1PD_UMTS_PagingRecord_cn_Identity(ctx, pvalue->u.cn_Identity);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "utran-Identity");
-         pvalue->u.utran_Identity = (PagingRecord_utran_Identity*)rtxMemHeapAlloc(ctx, sizeof(PagingRecord_utran_Identity));
-         if (pvalue->u.utran_Identity == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PagingRecord_utran_Identity(pvalue->u.utran_Identity);
-         stat = asn1PD_UMTS_PagingRecord_utran_Identity(ctx, pvalue->u.utran_Identity);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PagingRecord2_r5_utran_SingleUE_Identity_cn_OriginatedPage_connectedMode_UE(rtxContext* ctx, PagingRecord2_r5_utran_SingleUE_Identity_cn_OriginatedPage_connectedMode_UE* pvalue)
-{
-   int stat = 0;
-   /* pagingCause */
-   rtxCtxtPushElemName(ctx, "pagingCause");
-   rtxCtxtPushTypeName(ctx, "PagingCause");
-   stat = pd_ConsUnsigned(ctx, &pvalue->pagingCause, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* cn-DomainIdentity */
-   rtxCtxtPushElemName(ctx, "cn-DomainIdentity");
-   rtxCtxtPushTypeName(ctx, "CN-DomainIdentity");
-   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* pagingRecordTypeID */
-   rtxCtxtPushElemName(ctx, "pagingRecordTypeID");
-   rtxCtxtPushTypeName(ctx, "PagingRecordTypeID");
-   stat = pd_ConsUnsigned(ctx, &pvalue->pagingRecordTypeID, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PagingRecord2_r5_utran_SingleUE_Identity(rtxContext* ctx, PagingRecord2_r5_utran_SingleUE_Identity* pvalue)
+int asn1PD_UMTS_SRB_InformationSetup_r5(rtxContext* RT_RESTRICT ctx, SRB_InformationSetup_r5* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* u-RNTI */
-   rtxCtxtPushElemName(ctx, "u-RNTI");
-   stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cn-OriginatedPage-connectedMode-UE */
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-InformationSetup-r5");
+   /* rb-Identity */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cn-OriginatedPage-connectedMode-UE");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PagingRecord2_r5_utran_SingleUE_Identity_cn_OriginatedPage_connectedMode_UE(ctx, &pvalue->cn_OriginatedPage_connectedMode_UE);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
+      RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup-r5");
    }
-   /* rrc-ConnectionReleaseInformation */
-   rtxCtxtPushElemName(ctx, "rrc-ConnectionReleaseInformation");
-   stat = asn1PD_UMTS_RRC_ConnectionReleaseInformation(ctx, &pvalue->rrc_ConnectionReleaseInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   /* rlc-InfoChoice */
+   stat = asn1PD_UMTS_RLC_InfoChoice_r5(ctx, &pvalue->rlc_InfoChoice);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "SRB-InformationSetup-r5");
+   /* rb-MappingInfo */
+   stat = asn1PD_UMTS_RB_MappingInfo_r5(ctx, &pvalue->rb_MappingInfo);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "SRB-InformationSetup-r5");
    return 0;
 }
 
-int asn1PD_UMTS_PagingRecord2_r5_utran_GroupIdentity(rtxContext* ctx, PagingRecord2_r5_utran_GroupIdentity* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GroupIdentityWithReleaseInformation* elem;
-      rtxCtxtPushArrayElemName(ctx, "GroupIdentityWithReleaseInformation", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GroupIdentityWithReleaseInformation));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (GroupIdentityWithReleaseInformation*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_GroupIdentityWithReleaseInformation(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GroupIdentityWithReleaseInformation(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PagingRecord2_r5(rtxContext* ctx, PagingRecord2_r5* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "PagingRecord2-r5");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "utran-SingleUE-Identity");
-         pvalue->u.utran_SingleUE_Identity = (PagingRecord2_r5_utran_SingleUE_Identity*)rtxMemHeapAlloc(ctx, sizeof(PagingRecord2_r5_utran_SingleUE_Identity));
-         if (pvalue->u.utran_SingleUE_Identity == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PagingRecord2_r5_utran_SingleUE_Identity(pvalue->u.utran_SingleUE_Identity);
-         stat = asn1PD_UMTS_PagingRecord2_r5_utran_SingleUE_Identity(ctx, pvalue->u.utran_SingleUE_Identity);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "utran-GroupIdentity");
-         pvalue->u.utran_GroupIdentity = (PagingRecord2_r5_utran_GroupIdentity*)rtxMemHeapAlloc(ctx, sizeof(PagingRecord2_r5_utran_GroupIdentity));
-         if (pvalue->u.utran_GroupIdentity == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PagingRecord2_r5_utran_GroupIdentity(pvalue->u.utran_GroupIdentity);
-         stat = asn1PD_UMTS_PagingRecord2_r5_utran_GroupIdentity(ctx, pvalue->u.utran_GroupIdentity);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PagingRecordList(rtxContext* ctx, PagingRecordList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "PagingRecordList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PagingRecord* elem;
-      rtxCtxtPushArrayElemName(ctx, "PagingRecord", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PagingRecord));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (PagingRecord*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PagingRecord(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PagingRecord(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PagingRecord2List_r5(rtxContext* ctx, PagingRecord2List_r5* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "PagingRecord2List-r5");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PagingRecord2_r5* elem;
-      rtxCtxtPushArrayElemName(ctx, "PagingRecord2-r5", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PagingRecord2_r5));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (PagingRecord2_r5*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PagingRecord2_r5(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PagingRecord2_r5(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PDCP_Capability_supportForRfc2507(rtxContext* ctx, PDCP_Capability_supportForRfc2507* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "notSupported");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "supported");
-         rtxCtxtPushTypeName(ctx, "MaxHcContextSpace");
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.supported, 0, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PDCP_Capability(rtxContext* ctx, PDCP_Capability* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PDCP-Capability");
-   /* losslessSRNS-RelocationSupport */
-   rtxCtxtPushElemName(ctx, "losslessSRNS-RelocationSupport");
-   stat = rtxDecBitInline(ctx, &pvalue->losslessSRNS_RelocationSupport);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* supportForRfc2507 */
-   rtxCtxtPushElemName(ctx, "supportForRfc2507");
-   stat = asn1PD_UMTS_PDCP_Capability_supportForRfc2507(ctx, &pvalue->supportForRfc2507);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PDCP_Capability_r4_ext_supportForRfc3095_supported(rtxContext* ctx, PDCP_Capability_r4_ext_supportForRfc3095_supported* pvalue)
+int asn1PD_UMTS_SRB_InformationSetup_r6(rtxContext* RT_RESTRICT ctx, SRB_InformationSetup_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-InformationSetup-r6");
+   /* rb-Identity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
+      RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup-r6");
+   }
+   /* rlc-InfoChoice */
+   stat = asn1PD_UMTS_RLC_InfoChoice_r6(ctx, &pvalue->rlc_InfoChoice);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "SRB-InformationSetup-r6");
+   /* rb-MappingInfo */
+   stat = asn1PD_UMTS_RB_MappingInfo_r6(ctx, &pvalue->rb_MappingInfo);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "SRB-InformationSetup-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_SRB_InformationSetup_r7(rtxContext* RT_RESTRICT ctx, SRB_InformationSetup_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-InformationSetup-r7");
+   /* rb-Identity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
+      RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup-r7");
+   }
+   /* rlc-InfoChoice */
+   stat = asn1PD_UMTS_RLC_InfoChoice_r7(ctx, &pvalue->rlc_InfoChoice);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "SRB-InformationSetup-r7");
+   /* rb-MappingInfo */
+   stat = asn1PD_UMTS_RB_MappingInfo_r7(ctx, &pvalue->rb_MappingInfo);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "SRB-InformationSetup-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_SRB_InformationSetup_r8(rtxContext* RT_RESTRICT ctx, SRB_InformationSetup_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-InformationSetup-r8");
+   /* rb-Identity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
+      RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup-r8");
+   }
+   /* rlc-InfoChoice */
+   stat = asn1PD_UMTS_RLC_InfoChoice_r7(ctx, &pvalue->rlc_InfoChoice);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "SRB-InformationSetup-r8");
+   /* rb-MappingInfo */
+   stat = asn1PD_UMTS_RB_MappingInfo_r8(ctx, &pvalue->rb_MappingInfo);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "SRB-InformationSetup-r8");
+   return 0;
+}
+
+int asn1PD_UMTS_SRB_InformationSetupList_r5(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList_r5* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-InformationSetupList-r5");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      SRB_InformationSetup_r5* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SRB_InformationSetup_r5));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "SRB-InformationSetup-r5", (int32_t)i, "SRB-InformationSetupList-r5");
+      elem = (SRB_InformationSetup_r5*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_SRB_InformationSetup_r5(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_SRB_InformationSetup_r5(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r5", (int32_t)i, "SRB-InformationSetupList-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRB_InformationSetupList_r6(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList_r6* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-InformationSetupList-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      SRB_InformationSetup_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SRB_InformationSetup_r6));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "SRB-InformationSetup-r6", (int32_t)i, "SRB-InformationSetupList-r6");
+      elem = (SRB_InformationSetup_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_SRB_InformationSetup_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_SRB_InformationSetup_r6(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r6", (int32_t)i, "SRB-InformationSetupList-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRB_InformationSetupList_r7(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList_r7* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-InformationSetupList-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      SRB_InformationSetup_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SRB_InformationSetup_r7));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "SRB-InformationSetup-r7", (int32_t)i, "SRB-InformationSetupList-r7");
+      elem = (SRB_InformationSetup_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_SRB_InformationSetup_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_SRB_InformationSetup_r7(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r7", (int32_t)i, "SRB-InformationSetupList-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRB_InformationSetupList_r8(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList_r8* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-InformationSetupList-r8");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      SRB_InformationSetup_r8* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SRB_InformationSetup_r8));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "SRB-InformationSetup-r8", (int32_t)i, "SRB-InformationSetupList-r8");
+      elem = (SRB_InformationSetup_r8*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_SRB_InformationSetup_r8(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_SRB_InformationSetup_r8(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r8", (int32_t)i, "SRB-InformationSetupList-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRB_InformationSetupList2(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList2* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 3, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-InformationSetupList2");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      SRB_InformationSetup* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SRB_InformationSetup));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "SRB-InformationSetup", (int32_t)i, "SRB-InformationSetupList2");
+      elem = (SRB_InformationSetup*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_SRB_InformationSetup(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_SRB_InformationSetup(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup", (int32_t)i, "SRB-InformationSetupList2");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRB_InformationSetupList2_r6(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList2_r6* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 3, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-InformationSetupList2-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      SRB_InformationSetup_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SRB_InformationSetup_r6));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "SRB-InformationSetup-r6", (int32_t)i, "SRB-InformationSetupList2-r6");
+      elem = (SRB_InformationSetup_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_SRB_InformationSetup_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_SRB_InformationSetup_r6(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r6", (int32_t)i, "SRB-InformationSetupList2-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRB_InformationSetupList2_r7(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList2_r7* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 3, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-InformationSetupList2-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      SRB_InformationSetup_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SRB_InformationSetup_r7));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "SRB-InformationSetup-r7", (int32_t)i, "SRB-InformationSetupList2-r7");
+      elem = (SRB_InformationSetup_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_SRB_InformationSetup_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_SRB_InformationSetup_r7(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r7", (int32_t)i, "SRB-InformationSetupList2-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRB_InformationSetupList2_r8(rtxContext* RT_RESTRICT ctx, SRB_InformationSetupList2_r8* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 3, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-InformationSetupList2-r8");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      SRB_InformationSetup_r8* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SRB_InformationSetup_r8));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "SRB-InformationSetup-r8", (int32_t)i, "SRB-InformationSetupList2-r8");
+      elem = (SRB_InformationSetup_r8*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_SRB_InformationSetup_r8(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_SRB_InformationSetup_r8(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r8", (int32_t)i, "SRB-InformationSetupList2-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_CounterSynchronisationInfo(rtxContext* RT_RESTRICT ctx, UL_CounterSynchronisationInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-CounterSynchronisationInfo");
+   /* rB-WithPDCP-InfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RB_WithPDCP_InfoList(ctx, &pvalue->rB_WithPDCP_InfoList);
+      RT_CHECK(ctx, stat, 0, "rB-WithPDCP-InfoList", -1, "UL-CounterSynchronisationInfo");
+   }
+   /* startList */
+   stat = asn1PD_UMTS_STARTList(ctx, &pvalue->startList);
+   RT_CHECK(ctx, stat, 0, "startList", -1, "UL-CounterSynchronisationInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_MAC_d_PDUsizeInfo(rtxContext* RT_RESTRICT ctx, MAC_d_PDUsizeInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* mac-d-PDU-Size */
+   stat = pd_ConsUInt16(ctx, &pvalue->mac_d_PDU_Size, 1, 5000);
+   RT_CHECK(ctx, stat, 0, "mac-d-PDU-Size", -1, "MAC-d-PDUsizeInfo");
+   /* mac-d-PDU-Index */
+   stat = pd_ConsUInt8(ctx, &pvalue->mac_d_PDU_Index, 0, 7);
+   RT_CHECK(ctx, stat, 0, "mac-d-PDU-Index", -1, "MAC-d-PDUsizeInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_MAC_d_PDU_SizeInfo_List(rtxContext* RT_RESTRICT ctx, MAC_d_PDU_SizeInfo_List* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-d-PDU-SizeInfo-List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MAC_d_PDUsizeInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MAC_d_PDUsizeInfo));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MAC-d-PDUsizeInfo", (int32_t)i, "MAC-d-PDU-SizeInfo-List");
+      elem = (MAC_d_PDUsizeInfo*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MAC_d_PDUsizeInfo(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "MAC-d-PDUsizeInfo", (int32_t)i, "MAC-d-PDU-SizeInfo-List");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MAC_hs_AddReconfQueue(rtxContext* RT_RESTRICT ctx, MAC_hs_AddReconfQueue* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-hs-AddReconfQueue");
+   /* mac-hsQueueId */
+   stat = pd_ConsUInt8(ctx, &pvalue->mac_hsQueueId, 0, 7);
+   RT_CHECK(ctx, stat, 0, "mac-hsQueueId", -1, "MAC-hs-AddReconfQueue");
+   /* mac-dFlowId */
+   stat = pd_ConsUInt8(ctx, &pvalue->mac_dFlowId, 0, 7);
+   RT_CHECK(ctx, stat, "MAC-d-FlowIdentity", "mac-dFlowId", -1, "MAC-hs-AddReconfQueue");
+   /* reorderingReleaseTimer */
+   stat = pd_ConsUnsigned(ctx, &pvalue->reorderingReleaseTimer, 0, 15);
+   RT_CHECK(ctx, stat, "T1-ReleaseTimer", "reorderingReleaseTimer", -1, "MAC-hs-AddReconfQueue");
+   /* mac-hsWindowSize */
+   stat = pd_ConsUnsigned(ctx, &pvalue->mac_hsWindowSize, 0, 6);
+   RT_CHECK(ctx, stat, "MAC-hs-WindowSize", "mac-hsWindowSize", -1, "MAC-hs-AddReconfQueue");
+   /* mac-d-PDU-SizeInfo-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MAC_d_PDU_SizeInfo_List(ctx, &pvalue->mac_d_PDU_SizeInfo_List);
+      RT_CHECK(ctx, stat, 0, "mac-d-PDU-SizeInfo-List", -1, "MAC-hs-AddReconfQueue");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MAC_hs_AddReconfQueue_List(rtxContext* RT_RESTRICT ctx, MAC_hs_AddReconfQueue_List* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-hs-AddReconfQueue-List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MAC_hs_AddReconfQueue* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MAC_hs_AddReconfQueue));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MAC-hs-AddReconfQueue", (int32_t)i, "MAC-hs-AddReconfQueue-List");
+      elem = (MAC_hs_AddReconfQueue*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MAC_hs_AddReconfQueue(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MAC_hs_AddReconfQueue(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "MAC-hs-AddReconfQueue", (int32_t)i, "MAC-hs-AddReconfQueue-List");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MAC_hs_DelQueue(rtxContext* RT_RESTRICT ctx, MAC_hs_DelQueue* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* mac-hsQueueId */
+   stat = pd_ConsUInt8(ctx, &pvalue->mac_hsQueueId, 0, 7);
+   RT_CHECK(ctx, stat, 0, "mac-hsQueueId", -1, "MAC-hs-DelQueue");
+   return 0;
+}
+
+int asn1PD_UMTS_MAC_hs_DelQueue_List(rtxContext* RT_RESTRICT ctx, MAC_hs_DelQueue_List* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-hs-DelQueue-List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MAC_hs_DelQueue* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MAC_hs_DelQueue));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MAC-hs-DelQueue", (int32_t)i, "MAC-hs-DelQueue-List");
+      elem = (MAC_hs_DelQueue*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MAC_hs_DelQueue(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "MAC-hs-DelQueue", (int32_t)i, "MAC-hs-DelQueue-List");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AddOrReconfMAC_dFlow(rtxContext* RT_RESTRICT ctx, AddOrReconfMAC_dFlow* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* maxROHC-ContextSessions */
+   RT_CHECK(ctx, stat, 0, 0, -1, "AddOrReconfMAC-dFlow");
+   /* mac-hs-AddReconfQueue-List */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "maxROHC-ContextSessions");
-      rtxCtxtPushTypeName(ctx, "MaxROHC-ContextSessions-r4");
-      stat = pd_ConsUnsigned(ctx, &pvalue->maxROHC_ContextSessions, 0, 13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MAC_hs_AddReconfQueue_List(ctx, &pvalue->mac_hs_AddReconfQueue_List);
+      RT_CHECK(ctx, stat, 0, "mac-hs-AddReconfQueue-List", -1, "AddOrReconfMAC-dFlow");
    }
-   else {
-      pvalue->maxROHC_ContextSessions = 4;
-   }
-   /* reverseCompressionDepth */
+   /* mac-hs-DelQueue-List */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "reverseCompressionDepth");
-      stat = pd_ConsUInt16(ctx, &pvalue->reverseCompressionDepth, 0, 65535);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->reverseCompressionDepth = 0;
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_MAC_hs_DelQueue_List(ctx, &pvalue->mac_hs_DelQueue_List);
+      RT_CHECK(ctx, stat, 0, "mac-hs-DelQueue-List", -1, "AddOrReconfMAC-dFlow");
    }
    return 0;
 }
 
-int asn1PD_UMTS_PDCP_Capability_r4_ext_supportForRfc3095(rtxContext* ctx, PDCP_Capability_r4_ext_supportForRfc3095* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "notSupported");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "supported");
-         pvalue->u.supported = (PDCP_Capability_r4_ext_supportForRfc3095_supported*)rtxMemHeapAlloc(ctx, sizeof(PDCP_Capability_r4_ext_supportForRfc3095_supported));
-         if (pvalue->u.supported == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PDCP_Capability_r4_ext_supportForRfc3095_supported(pvalue->u.supported);
-         stat = asn1PD_UMTS_PDCP_Capability_r4_ext_supportForRfc3095_supported(ctx, pvalue->u.supported);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PDCP_Capability_r4_ext(rtxContext* ctx, PDCP_Capability_r4_ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PDCP-Capability-r4-ext");
-   /* supportForRfc3095 */
-   rtxCtxtPushElemName(ctx, "supportForRfc3095");
-   stat = asn1PD_UMTS_PDCP_Capability_r4_ext_supportForRfc3095(ctx, &pvalue->supportForRfc3095);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PDCP_Capability_r5_ext(rtxContext* ctx, PDCP_Capability_r5_ext* pvalue)
+int asn1PD_UMTS_MAC_ehs_AddReconfReordQ(rtxContext* RT_RESTRICT ctx, MAC_ehs_AddReconfReordQ* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PDCP-Capability-r5-ext");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* supportForRfc3095ContextRelocation */
-   rtxCtxtPushElemName(ctx, "supportForRfc3095ContextRelocation");
-   stat = rtxDecBitInline(ctx, &pvalue->supportForRfc3095ContextRelocation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* maxHcContextSpace */
+   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-ehs-AddReconfReordQ");
+   /* mac-ehs-QueueId */
+   stat = pd_ConsUInt8(ctx, &pvalue->mac_ehs_QueueId, 0, 7);
+   RT_CHECK(ctx, stat, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "MAC-ehs-AddReconfReordQ");
+   /* reorderingReleaseTimer */
+   stat = pd_ConsUnsigned(ctx, &pvalue->reorderingReleaseTimer, 0, 15);
+   RT_CHECK(ctx, stat, "T1-ReleaseTimer", "reorderingReleaseTimer", -1, "MAC-ehs-AddReconfReordQ");
+   /* reorderingResetTimer */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "maxHcContextSpace");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "MaxHcContextSpace-r5-ext");
-      stat = pd_ConsUnsigned(ctx, &pvalue->maxHcContextSpace, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUnsigned(ctx, &pvalue->reorderingResetTimer, 0, 3);
+      RT_CHECK(ctx, stat, "Treset-ResetTimer", "reorderingResetTimer", -1, "MAC-ehs-AddReconfReordQ");
    }
-   rtxCtxtPopTypeName(ctx);
+   /* mac-ehsWindowSize */
+   stat = pd_ConsUnsigned(ctx, &pvalue->mac_ehsWindowSize, 0, 6);
+   RT_CHECK(ctx, stat, "MAC-hs-WindowSize", "mac-ehsWindowSize", -1, "MAC-ehs-AddReconfReordQ");
    return 0;
 }
 
-int asn1PD_UMTS_PDCP_Capability_r5_ext2_losslessDLRLC_PDUSizeChange(rtxContext* ctx, PDCP_Capability_r5_ext2_losslessDLRLC_PDUSizeChange* pvalue)
+int asn1PD_UMTS_MAC_ehs_AddReconfReordQ_List(rtxContext* RT_RESTRICT ctx, MAC_ehs_AddReconfReordQ_List* RT_RESTRICT pvalue)
 {
    int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-ehs-AddReconfReordQ-List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MAC_ehs_AddReconfReordQ* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MAC_ehs_AddReconfReordQ));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MAC-ehs-AddReconfReordQ", (int32_t)i, "MAC-ehs-AddReconfReordQ-List");
+      elem = (MAC_ehs_AddReconfReordQ*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MAC_ehs_AddReconfReordQ(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MAC_ehs_AddReconfReordQ(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "MAC-ehs-AddReconfReordQ", (int32_t)i, "MAC-ehs-AddReconfReordQ-List");
    }
    return 0;
 }
 
-int asn1PD_UMTS_PDCP_Capability_r5_ext2(rtxContext* ctx, PDCP_Capability_r5_ext2* pvalue)
+int asn1PD_UMTS_MAC_ehs_DelReordQ(rtxContext* RT_RESTRICT ctx, MAC_ehs_DelReordQ* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* mac-ehs-QueueId */
+   stat = pd_ConsUInt8(ctx, &pvalue->mac_ehs_QueueId, 0, 7);
+   RT_CHECK(ctx, stat, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "MAC-ehs-DelReordQ");
+   return 0;
+}
+
+int asn1PD_UMTS_MAC_ehs_DelReordQ_List(rtxContext* RT_RESTRICT ctx, MAC_ehs_DelReordQ_List* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-ehs-DelReordQ-List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MAC_ehs_DelReordQ* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MAC_ehs_DelReordQ));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MAC-ehs-DelReordQ", (int32_t)i, "MAC-ehs-DelReordQ-List");
+      elem = (MAC_ehs_DelReordQ*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MAC_ehs_DelReordQ(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "MAC-ehs-DelReordQ", (int32_t)i, "MAC-ehs-DelReordQ-List");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AddOrReconfMAC_ehs_ReordQ(rtxContext* RT_RESTRICT ctx, AddOrReconfMAC_ehs_ReordQ* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PDCP-Capability-r5-ext2");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* losslessDLRLC-PDUSizeChange */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "losslessDLRLC-PDUSizeChange");
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AddOrReconfMAC-ehs-ReordQ");
+   /* mac-ehs-AddReconfQueue-List */
+   if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->losslessDLRLC_PDUSizeChange = ui;
-      }
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_MAC_ehs_AddReconfReordQ_List(ctx, &pvalue->mac_ehs_AddReconfQueue_List);
+      RT_CHECK(ctx, stat, 0, "mac-ehs-AddReconfQueue-List", -1, "AddOrReconfMAC-ehs-ReordQ");
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PDCP_Capability_v770ext_supportForCSVoiceoverHSPA(rtxContext* ctx, PDCP_Capability_v770ext_supportForCSVoiceoverHSPA* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PDCP_Capability_v770ext(rtxContext* ctx, PDCP_Capability_v770ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PDCP-Capability-v770ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* supportForCSVoiceoverHSPA */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "supportForCSVoiceoverHSPA");
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportForCSVoiceoverHSPA = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_PhysChCapabilityFDD(rtxContext* ctx, UL_PhysChCapabilityFDD* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UL-PhysChCapabilityFDD");
-   /* maxNoDPDCH-BitsTransmitted */
-   rtxCtxtPushElemName(ctx, "maxNoDPDCH-BitsTransmitted");
-   rtxCtxtPushTypeName(ctx, "MaxNoDPDCH-BitsTransmitted");
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxNoDPDCH_BitsTransmitted, 0, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
    /* dummy */
-   rtxCtxtPushElemName(ctx, "dummy");
-   stat = rtxDecBitInline(ctx, &pvalue->dummy);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_fddPhysChCapability(rtxContext* ctx, PhysicalChannelCapability_fddPhysChCapability* pvalue)
-{
-   int stat = 0;
-   /* downlinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "downlinkPhysChCapability");
-   stat = asn1PD_UMTS_DL_PhysChCapabilityFDD(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* uplinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "uplinkPhysChCapability");
-   stat = asn1PD_UMTS_UL_PhysChCapabilityFDD(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_PhysChCapabilityTDD(rtxContext* ctx, UL_PhysChCapabilityTDD* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UL-PhysChCapabilityTDD");
-   /* maxTS-PerFrame */
-   rtxCtxtPushElemName(ctx, "maxTS-PerFrame");
-   rtxCtxtPushTypeName(ctx, "MaxTS-PerFrame");
-   stat = pd_ConsUInt8(ctx, &pvalue->maxTS_PerFrame, 1, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maxPhysChPerTimeslot */
-   rtxCtxtPushElemName(ctx, "maxPhysChPerTimeslot");
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerTimeslot");
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxPhysChPerTimeslot, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* minimumSF */
-   rtxCtxtPushElemName(ctx, "minimumSF");
-   rtxCtxtPushTypeName(ctx, "MinimumSF-UL");
-   stat = pd_ConsUnsigned(ctx, &pvalue->minimumSF, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* supportOfPUSCH */
-   rtxCtxtPushElemName(ctx, "supportOfPUSCH");
-   stat = rtxDecBitInline(ctx, &pvalue->supportOfPUSCH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_tddPhysChCapability(rtxContext* ctx, PhysicalChannelCapability_tddPhysChCapability* pvalue)
-{
-   int stat = 0;
-   /* downlinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "downlinkPhysChCapability");
-   stat = asn1PD_UMTS_DL_PhysChCapabilityTDD(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* uplinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "uplinkPhysChCapability");
-   stat = asn1PD_UMTS_UL_PhysChCapabilityTDD(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability(rtxContext* ctx, PhysicalChannelCapability* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelCapability");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* fddPhysChCapability */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "fddPhysChCapability");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelCapability_fddPhysChCapability(ctx, &pvalue->fddPhysChCapability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tddPhysChCapability */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "tddPhysChCapability");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PhysicalChannelCapability_tddPhysChCapability(ctx, &pvalue->tddPhysChCapability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_PhysChCapabilityFDD_v770ext_discontinuousDpcchTransmission(rtxContext* ctx, UL_PhysChCapabilityFDD_v770ext_discontinuousDpcchTransmission* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
+      stat = asn1PD_UMTS_MAC_ehs_DelReordQ_List(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "AddOrReconfMAC-ehs-ReordQ");
    }
    return 0;
 }
 
-int asn1PD_UMTS_UL_PhysChCapabilityFDD_v770ext_slotFormat4(rtxContext* ctx, UL_PhysChCapabilityFDD_v770ext_slotFormat4* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_PhysChCapabilityFDD_v770ext(rtxContext* ctx, UL_PhysChCapabilityFDD_v770ext* pvalue)
+int asn1PD_UMTS_MAC_ehs_AddReconfReordQ_r9(rtxContext* RT_RESTRICT ctx, MAC_ehs_AddReconfReordQ_r9* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UL-PhysChCapabilityFDD-v770ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* edch-PhysicalLayerCategory-extension */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "edch-PhysicalLayerCategory-extension");
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->edch_PhysicalLayerCategory_extension, 7, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* discontinuousDpcchTransmission */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "discontinuousDpcchTransmission");
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->discontinuousDpcchTransmission = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* slotFormat4 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "slotFormat4");
-      pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->slotFormat4 = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_v770ext_fddPhysChCapability(rtxContext* ctx, PhysicalChannelCapability_v770ext_fddPhysChCapability* pvalue)
-{
-   int stat = 0;
-   /* downlinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "downlinkPhysChCapability");
-   stat = asn1PD_UMTS_DL_PhysChCapabilityFDD_v770ext(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* uplinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "uplinkPhysChCapability");
-   stat = asn1PD_UMTS_UL_PhysChCapabilityFDD_v770ext(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported(rtxContext* ctx, UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported* pvalue)
-{
-   int stat = 0;
-   /* tdd-edch-PhysicalLayerCategory */
-   rtxCtxtPushElemName(ctx, "tdd-edch-PhysicalLayerCategory");
-   stat = pd_ConsUInt8(ctx, &pvalue->tdd_edch_PhysicalLayerCategory, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch(rtxContext* ctx, UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "supported");
-         pvalue->u.supported = (UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported*)rtxMemHeapAllocZ(ctx, sizeof(UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported));
-         if (pvalue->u.supported == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported(ctx, pvalue->u.supported);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "unsupported");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_PhysChCapabilityTDD_384_v770ext(rtxContext* ctx, UL_PhysChCapabilityTDD_384_v770ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UL-PhysChCapabilityTDD-384-v770ext");
-   /* tdd384-edch */
-   rtxCtxtPushElemName(ctx, "tdd384-edch");
-   stat = asn1PD_UMTS_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch(ctx, &pvalue->tdd384_edch);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_384(rtxContext* ctx, PhysicalChannelCapability_v770ext_tddPhysChCapability_384* pvalue)
-{
-   int stat = 0;
-   /* uplinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "uplinkPhysChCapability");
-   stat = asn1PD_UMTS_UL_PhysChCapabilityTDD_384_v770ext(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_PhysChCapabilityTDD_768_tdd384_edch_supported(rtxContext* ctx, UL_PhysChCapabilityTDD_768_tdd384_edch_supported* pvalue)
-{
-   int stat = 0;
-   /* tdd-edch-PhysicalLayerCategory */
-   rtxCtxtPushElemName(ctx, "tdd-edch-PhysicalLayerCategory");
-   stat = pd_ConsUInt8(ctx, &pvalue->tdd_edch_PhysicalLayerCategory, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_PhysChCapabilityTDD_768_tdd384_edch(rtxContext* ctx, UL_PhysChCapabilityTDD_768_tdd384_edch* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "supported");
-         pvalue->u.supported = (UL_PhysChCapabilityTDD_768_tdd384_edch_supported*)rtxMemHeapAllocZ(ctx, sizeof(UL_PhysChCapabilityTDD_768_tdd384_edch_supported));
-         if (pvalue->u.supported == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UL_PhysChCapabilityTDD_768_tdd384_edch_supported(ctx, pvalue->u.supported);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "unsupported");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_PhysChCapabilityTDD_768(rtxContext* ctx, UL_PhysChCapabilityTDD_768* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UL-PhysChCapabilityTDD-768");
-   /* maxTS-PerFrame */
-   rtxCtxtPushElemName(ctx, "maxTS-PerFrame");
-   rtxCtxtPushTypeName(ctx, "MaxTS-PerFrame");
-   stat = pd_ConsUInt8(ctx, &pvalue->maxTS_PerFrame, 1, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maxPhysChPerTimeslot */
-   rtxCtxtPushElemName(ctx, "maxPhysChPerTimeslot");
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerTimeslot");
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxPhysChPerTimeslot, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* minimumSF */
-   rtxCtxtPushElemName(ctx, "minimumSF");
-   rtxCtxtPushTypeName(ctx, "MinimumSF-UL");
-   stat = pd_ConsUnsigned(ctx, &pvalue->minimumSF, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* supportOfPUSCH */
-   rtxCtxtPushElemName(ctx, "supportOfPUSCH");
-   stat = rtxDecBitInline(ctx, &pvalue->supportOfPUSCH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tdd384-edch */
-   rtxCtxtPushElemName(ctx, "tdd384-edch");
-   stat = asn1PD_UMTS_UL_PhysChCapabilityTDD_768_tdd384_edch(ctx, &pvalue->tdd384_edch);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_768(rtxContext* ctx, PhysicalChannelCapability_v770ext_tddPhysChCapability_768* pvalue)
-{
-   int stat = 0;
-   /* downlinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "downlinkPhysChCapability");
-   stat = asn1PD_UMTS_DL_PhysChCapabilityTDD_768(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* uplinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "uplinkPhysChCapability");
-   stat = asn1PD_UMTS_UL_PhysChCapabilityTDD_768(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported(rtxContext* ctx, UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported* pvalue)
-{
-   int stat = 0;
-   /* tdd-edch-PhysicalLayerCategory */
-   rtxCtxtPushElemName(ctx, "tdd-edch-PhysicalLayerCategory");
-   stat = pd_ConsUInt8(ctx, &pvalue->tdd_edch_PhysicalLayerCategory, 1, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch(rtxContext* ctx, UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "supported");
-         pvalue->u.supported = (UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported*)rtxMemHeapAllocZ(ctx, sizeof(UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported));
-         if (pvalue->u.supported == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported(ctx, pvalue->u.supported);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "unsupported");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_PhysChCapabilityTDD_128_v770ext(rtxContext* ctx, UL_PhysChCapabilityTDD_128_v770ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UL-PhysChCapabilityTDD-128-v770ext");
-   /* maxPhysChPerTimeslot */
-   rtxCtxtPushElemName(ctx, "maxPhysChPerTimeslot");
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerTimeslot-LCR-r7");
-   stat = pd_ConsUInt8(ctx, &pvalue->maxPhysChPerTimeslot, 1, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* tdd128-edch */
-   rtxCtxtPushElemName(ctx, "tdd128-edch");
-   stat = asn1PD_UMTS_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch(ctx, &pvalue->tdd128_edch);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_128(rtxContext* ctx, PhysicalChannelCapability_v770ext_tddPhysChCapability_128* pvalue)
-{
-   int stat = 0;
-   /* downlinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "downlinkPhysChCapability");
-   stat = asn1PD_UMTS_DL_PhysChCapabilityTDD_128_v770ext(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* uplinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "uplinkPhysChCapability");
-   stat = asn1PD_UMTS_UL_PhysChCapabilityTDD_128_v770ext(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_v770ext(rtxContext* ctx, PhysicalChannelCapability_v770ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelCapability-v770ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* fddPhysChCapability */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "fddPhysChCapability");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelCapability_v770ext_fddPhysChCapability(ctx, &pvalue->fddPhysChCapability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tddPhysChCapability-384 */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "tddPhysChCapability-384");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_384(ctx, &pvalue->tddPhysChCapability_384);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tddPhysChCapability-768 */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "tddPhysChCapability-768");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_768(ctx, &pvalue->tddPhysChCapability_768);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tddPhysChCapability-128 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "tddPhysChCapability-128");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_128(ctx, &pvalue->tddPhysChCapability_128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_v860ext_fddPhysChCapability(rtxContext* ctx, PhysicalChannelCapability_v860ext_fddPhysChCapability* pvalue)
-{
-   int stat = 0;
-   /* downlinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "downlinkPhysChCapability");
-   stat = asn1PD_UMTS_DL_PhysChCapabilityFDD_v860ext(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_v860ext_tddPhysChCapability_128(rtxContext* ctx, PhysicalChannelCapability_v860ext_tddPhysChCapability_128* pvalue)
-{
-   int stat = 0;
-   /* downlinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "downlinkPhysChCapability");
-   stat = asn1PD_UMTS_DL_PhysChCapabilityTDD_128_v860ext(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_v860ext(rtxContext* ctx, PhysicalChannelCapability_v860ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelCapability-v860ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* fddPhysChCapability */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "fddPhysChCapability");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelCapability_v860ext_fddPhysChCapability(ctx, &pvalue->fddPhysChCapability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tddPhysChCapability-128 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "tddPhysChCapability-128");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PhysicalChannelCapability_v860ext_tddPhysChCapability_128(ctx, &pvalue->tddPhysChCapability_128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_PhysChCapabilityFDD_v920ext(rtxContext* ctx, UL_PhysChCapabilityFDD_v920ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UL-PhysChCapabilityFDD-v920ext");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* edch-PhysicalLayerCategory-extension2 */
+   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-ehs-AddReconfReordQ-r9");
+   /* mac-ehs-QueueId */
+   stat = pd_ConsUInt8(ctx, &pvalue->mac_ehs_QueueId, 0, 7);
+   RT_CHECK(ctx, stat, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "MAC-ehs-AddReconfReordQ-r9");
+   /* reorderingReleaseTimer */
+   stat = pd_ConsUnsigned(ctx, &pvalue->reorderingReleaseTimer, 0, 15);
+   RT_CHECK(ctx, stat, "T1-ReleaseTimer", "reorderingReleaseTimer", -1, "MAC-ehs-AddReconfReordQ-r9");
+   /* reorderingResetTimer */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "edch-PhysicalLayerCategory-extension2");
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->edch_PhysicalLayerCategory_extension2, 8, 9);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUnsigned(ctx, &pvalue->reorderingResetTimer, 0, 3);
+      RT_CHECK(ctx, stat, "Treset-ResetTimer", "reorderingResetTimer", -1, "MAC-ehs-AddReconfReordQ-r9");
    }
-   rtxCtxtPopTypeName(ctx);
+   /* mac-ehsWindowSize */
+   stat = pd_ConsUnsigned(ctx, &pvalue->mac_ehsWindowSize, 0, 8);
+   RT_CHECK(ctx, stat, "MAC-hs-WindowSize-r9", "mac-ehsWindowSize", -1, "MAC-ehs-AddReconfReordQ-r9");
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelCapability_v920ext_fddPhysChCapability(rtxContext* ctx, PhysicalChannelCapability_v920ext_fddPhysChCapability* pvalue)
-{
-   int stat = 0;
-   /* downlinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "downlinkPhysChCapability");
-   stat = asn1PD_UMTS_DL_PhysChCapabilityFDD_v920ext(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* uplinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "uplinkPhysChCapability");
-   stat = asn1PD_UMTS_UL_PhysChCapabilityFDD_v920ext(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_v920ext(rtxContext* ctx, PhysicalChannelCapability_v920ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelCapability-v920ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* fddPhysChCapability */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "fddPhysChCapability");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelCapability_v920ext_fddPhysChCapability(ctx, &pvalue->fddPhysChCapability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_768(rtxContext* ctx, PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_768* pvalue)
-{
-   int stat = 0;
-   /* downlinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "downlinkPhysChCapability");
-   stat = asn1PD_UMTS_DL_PhysChCapabilityInfoTDD_768(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* uplinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "uplinkPhysChCapability");
-   stat = asn1PD_UMTS_UL_PhysChCapabilityTDD(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_PhysChCapabilityInfoTDD_128_v770ext(rtxContext* ctx, UL_PhysChCapabilityInfoTDD_128_v770ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UL-PhysChCapabilityInfoTDD-128-v770ext");
-   /* maxPhysChPerTimeslot */
-   rtxCtxtPushElemName(ctx, "maxPhysChPerTimeslot");
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerTimeslot-LCR-r7");
-   stat = pd_ConsUInt8(ctx, &pvalue->maxPhysChPerTimeslot, 1, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_128(rtxContext* ctx, PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_128* pvalue)
-{
-   int stat = 0;
-   /* uplinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "uplinkPhysChCapability");
-   stat = asn1PD_UMTS_UL_PhysChCapabilityInfoTDD_128_v770ext(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapabilityInfo_v770ext(rtxContext* ctx, PhysicalChannelCapabilityInfo_v770ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelCapabilityInfo-v770ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* tddPhysChCapability-768 */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "tddPhysChCapability-768");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_768(ctx, &pvalue->tddPhysChCapability_768);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tddPhysChCapability-128 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "tddPhysChCapability-128");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_128(ctx, &pvalue->tddPhysChCapability_128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_PhysChCapabilityTDD_LCR_r4(rtxContext* ctx, UL_PhysChCapabilityTDD_LCR_r4* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UL-PhysChCapabilityTDD-LCR-r4");
-   /* maxTS-PerSubFrame */
-   rtxCtxtPushElemName(ctx, "maxTS-PerSubFrame");
-   rtxCtxtPushTypeName(ctx, "MaxTS-PerSubFrame-r4");
-   stat = pd_ConsUInt8(ctx, &pvalue->maxTS_PerSubFrame, 1, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maxPhysChPerTimeslot */
-   rtxCtxtPushElemName(ctx, "maxPhysChPerTimeslot");
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerTimeslot");
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxPhysChPerTimeslot, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* minimumSF */
-   rtxCtxtPushElemName(ctx, "minimumSF");
-   rtxCtxtPushTypeName(ctx, "MinimumSF-UL");
-   stat = pd_ConsUnsigned(ctx, &pvalue->minimumSF, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* supportOfPUSCH */
-   rtxCtxtPushElemName(ctx, "supportOfPUSCH");
-   stat = rtxDecBitInline(ctx, &pvalue->supportOfPUSCH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* supportOf8PSK */
-   rtxCtxtPushElemName(ctx, "supportOf8PSK");
-   stat = rtxDecBitInline(ctx, &pvalue->supportOf8PSK);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_LCR_r4_tdd128_PhysChCapability(rtxContext* ctx, PhysicalChannelCapability_LCR_r4_tdd128_PhysChCapability* pvalue)
-{
-   int stat = 0;
-   /* downlinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "downlinkPhysChCapability");
-   stat = asn1PD_UMTS_DL_PhysChCapabilityTDD_LCR_r4(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* uplinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "uplinkPhysChCapability");
-   stat = asn1PD_UMTS_UL_PhysChCapabilityTDD_LCR_r4(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_LCR_r4(rtxContext* ctx, PhysicalChannelCapability_LCR_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelCapability-LCR-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* tdd128-PhysChCapability */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "tdd128-PhysChCapability");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelCapability_LCR_r4_tdd128_PhysChCapability(ctx, &pvalue->tdd128_PhysChCapability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported(rtxContext* ctx, PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported* pvalue)
-{
-   int stat = 0;
-   /* hsdsch-physical-layer-category */
-   rtxCtxtPushElemName(ctx, "hsdsch-physical-layer-category");
-   rtxCtxtPushTypeName(ctx, "HSDSCH-physical-layer-category");
-   stat = pd_ConsUInt8(ctx, &pvalue->hsdsch_physical_layer_category, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dummy */
-   rtxCtxtPushElemName(ctx, "dummy");
-   stat = rtxDecBitInline(ctx, &pvalue->dummy);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dummy2 */
-   rtxCtxtPushElemName(ctx, "dummy2");
-   stat = rtxDecBitInline(ctx, &pvalue->dummy2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch(rtxContext* ctx, PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "supported");
-         pvalue->u.supported = (PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported*)rtxMemHeapAllocZ(ctx, sizeof(PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported));
-         if (pvalue->u.supported == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported(ctx, pvalue->u.supported);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "unsupported");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_hspdsch_r5_tdd384_hspdsch(rtxContext* ctx, PhysicalChannelCapability_hspdsch_r5_tdd384_hspdsch* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "supported");
-         rtxCtxtPushTypeName(ctx, "HSDSCH-physical-layer-category");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.supported, 1, 64);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "unsupported");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_hspdsch_r5_tdd128_hspdsch(rtxContext* ctx, PhysicalChannelCapability_hspdsch_r5_tdd128_hspdsch* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "supported");
-         rtxCtxtPushTypeName(ctx, "HSDSCH-physical-layer-category");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.supported, 1, 64);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "unsupported");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_hspdsch_r5(rtxContext* ctx, PhysicalChannelCapability_hspdsch_r5* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelCapability-hspdsch-r5");
-   /* fdd-hspdsch */
-   rtxCtxtPushElemName(ctx, "fdd-hspdsch");
-   stat = asn1PD_UMTS_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch(ctx, &pvalue->fdd_hspdsch);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tdd384-hspdsch */
-   rtxCtxtPushElemName(ctx, "tdd384-hspdsch");
-   stat = asn1PD_UMTS_PhysicalChannelCapability_hspdsch_r5_tdd384_hspdsch(ctx, &pvalue->tdd384_hspdsch);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tdd128-hspdsch */
-   rtxCtxtPushElemName(ctx, "tdd128-hspdsch");
-   stat = asn1PD_UMTS_PhysicalChannelCapability_hspdsch_r5_tdd128_hspdsch(ctx, &pvalue->tdd128_hspdsch);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Pre_RedirectionInfo(rtxContext* ctx, Pre_RedirectionInfo* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Pre-RedirectionInfo");
-   /* supportEUTRA-FDD */
-   rtxCtxtPushElemName(ctx, "supportEUTRA-FDD");
-   stat = rtxDecBitInline(ctx, &pvalue->supportEUTRA_FDD);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* supportEUTRA-TDD */
-   rtxCtxtPushElemName(ctx, "supportEUTRA-TDD");
-   stat = rtxDecBitInline(ctx, &pvalue->supportEUTRA_TDD);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ProtocolErrorIndicator(rtxContext* ctx, ProtocolErrorIndicator* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "ProtocolErrorIndicator");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ProtocolErrorIndicatorWithMoreInfo_errorOccurred(rtxContext* ctx, ProtocolErrorIndicatorWithMoreInfo_errorOccurred* pvalue)
-{
-   int stat = 0;
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* protocolErrorInformation */
-   rtxCtxtPushElemName(ctx, "protocolErrorInformation");
-   stat = asn1PD_UMTS_ProtocolErrorInformation(ctx, &pvalue->protocolErrorInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ProtocolErrorIndicatorWithMoreInfo(rtxContext* ctx, ProtocolErrorIndicatorWithMoreInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "ProtocolErrorIndicatorWithMoreInfo");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "noError");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "errorOccurred");
-         pvalue->u.errorOccurred = (ProtocolErrorIndicatorWithMoreInfo_errorOccurred*)rtxMemHeapAlloc(ctx, sizeof(ProtocolErrorIndicatorWithMoreInfo_errorOccurred));
-         if (pvalue->u.errorOccurred == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_ProtocolErrorIndicatorWithMoreInfo_errorOccurred(pvalue->u.errorOccurred);
-         stat = asn1PD_UMTS_ProtocolErrorIndicatorWithMoreInfo_errorOccurred(ctx, pvalue->u.errorOccurred);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ReceivedMessageType(rtxContext* ctx, ReceivedMessageType* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "ReceivedMessageType");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IdentificationOfReceivedMessage(rtxContext* ctx, IdentificationOfReceivedMessage* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "IdentificationOfReceivedMessage");
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* receivedMessageType */
-   rtxCtxtPushElemName(ctx, "receivedMessageType");
-   rtxCtxtPushTypeName(ctx, "ReceivedMessageType");
-   stat = pd_ConsUnsigned(ctx, &pvalue->receivedMessageType, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ProtocolErrorMoreInformation_diagnosticsType_type1(rtxContext* ctx, ProtocolErrorMoreInformation_diagnosticsType_type1* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 7);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "asn1-ViolationOrEncodingError");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "messageTypeNonexistent");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "messageNotCompatibleWithReceiverState");
-         pvalue->u.messageNotCompatibleWithReceiverState = (IdentificationOfReceivedMessage*)rtxMemHeapAllocZ(ctx, sizeof(IdentificationOfReceivedMessage));
-         if (pvalue->u.messageNotCompatibleWithReceiverState == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_IdentificationOfReceivedMessage(ctx, pvalue->u.messageNotCompatibleWithReceiverState);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "ie-ValueNotComprehended");
-         pvalue->u.ie_ValueNotComprehended = (IdentificationOfReceivedMessage*)rtxMemHeapAllocZ(ctx, sizeof(IdentificationOfReceivedMessage));
-         if (pvalue->u.ie_ValueNotComprehended == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_IdentificationOfReceivedMessage(ctx, pvalue->u.ie_ValueNotComprehended);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "conditionalInformationElementError");
-         pvalue->u.conditionalInformationElementError = (IdentificationOfReceivedMessage*)rtxMemHeapAllocZ(ctx, sizeof(IdentificationOfReceivedMessage));
-         if (pvalue->u.conditionalInformationElementError == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_IdentificationOfReceivedMessage(ctx, pvalue->u.conditionalInformationElementError);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "messageExtensionNotComprehended");
-         pvalue->u.messageExtensionNotComprehended = (IdentificationOfReceivedMessage*)rtxMemHeapAllocZ(ctx, sizeof(IdentificationOfReceivedMessage));
-         if (pvalue->u.messageExtensionNotComprehended == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_IdentificationOfReceivedMessage(ctx, pvalue->u.messageExtensionNotComprehended);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "spare1");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "spare2");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ProtocolErrorMoreInformation_diagnosticsType(rtxContext* ctx, ProtocolErrorMoreInformation_diagnosticsType* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "type1");
-         pvalue->u.type1 = (ProtocolErrorMoreInformation_diagnosticsType_type1*)rtxMemHeapAlloc(ctx, sizeof(ProtocolErrorMoreInformation_diagnosticsType_type1));
-         if (pvalue->u.type1 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_ProtocolErrorMoreInformation_diagnosticsType_type1(pvalue->u.type1);
-         stat = asn1PD_UMTS_ProtocolErrorMoreInformation_diagnosticsType_type1(ctx, pvalue->u.type1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "spare");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ProtocolErrorMoreInformation(rtxContext* ctx, ProtocolErrorMoreInformation* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ProtocolErrorMoreInformation");
-   /* diagnosticsType */
-   rtxCtxtPushElemName(ctx, "diagnosticsType");
-   stat = asn1PD_UMTS_ProtocolErrorMoreInformation_diagnosticsType(ctx, &pvalue->diagnosticsType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioFrequencyBandTDDList(rtxContext* ctx, RadioFrequencyBandTDDList* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandTDDList");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioFrequencyBandTDDList_r7(rtxContext* ctx, RadioFrequencyBandTDDList_r7* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandTDDList-r7");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioFrequencyBandTDDext(rtxContext* ctx, RadioFrequencyBandTDDext* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandTDDext");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioFrequencyBandTDDextList(rtxContext* ctx, RadioFrequencyBandTDDextList* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandTDDextList");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 15) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "RadioFrequencyBandTDDext", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "RadioFrequencyBandTDDext");
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 15);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Rb_timer_indicator(rtxContext* ctx, Rb_timer_indicator* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Rb-timer-indicator");
-   /* t314-expired */
-   rtxCtxtPushElemName(ctx, "t314-expired");
-   stat = rtxDecBitInline(ctx, &pvalue->t314_expired);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* t315-expired */
-   rtxCtxtPushElemName(ctx, "t315-expired");
-   stat = rtxDecBitInline(ctx, &pvalue->t315_expired);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATInfo(rtxContext* ctx, InterRATInfo* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "InterRATInfo");
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RedirectionInfo(rtxContext* ctx, RedirectionInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "RedirectionInfo");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "frequencyInfo");
-         pvalue->u.frequencyInfo = (FrequencyInfo*)rtxMemHeapAlloc(ctx, sizeof(FrequencyInfo));
-         if (pvalue->u.frequencyInfo == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_FrequencyInfo(pvalue->u.frequencyInfo);
-         stat = asn1PD_UMTS_FrequencyInfo(ctx, pvalue->u.frequencyInfo);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "interRATInfo");
-         rtxCtxtPushTypeName(ctx, "InterRATInfo");
-         {
-            uint32_t ui;
-            stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-            RT_CHECK(ctx, stat);
-            stat = ui != 0 ? RT_ERR_INVENUM : 0;
-            RT_CHECK(ctx, stat);
-            pvalue->u.interRATInfo = ui;
-         }
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GSM_TargetCellInfo(rtxContext* ctx, GSM_TargetCellInfo* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "GSM-TargetCellInfo");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* bcch-ARFCN */
-   rtxCtxtPushElemName(ctx, "bcch-ARFCN");
-   rtxCtxtPushTypeName(ctx, "BCCH-ARFCN");
-   stat = pd_ConsUInt16(ctx, &pvalue->bcch_ARFCN, 0, 1023);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* frequency-band */
-   rtxCtxtPushElemName(ctx, "frequency-band");
-   rtxCtxtPushTypeName(ctx, "Frequency-Band");
-   stat = pd_ConsUnsigned(ctx, &pvalue->frequency_band, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* bsic */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "bsic");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_BSIC(ctx, &pvalue->bsic);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GSM_TargetCellInfoList(rtxContext* ctx, GSM_TargetCellInfoList* pvalue)
+int asn1PD_UMTS_MAC_ehs_AddReconfReordQ_List_r9(rtxContext* RT_RESTRICT ctx, MAC_ehs_AddReconfReordQ_List_r9* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "GSM-TargetCellInfoList");
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-ehs-AddReconfReordQ-List-r9");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MAC_ehs_AddReconfReordQ_r9* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MAC_ehs_AddReconfReordQ_r9));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MAC-ehs-AddReconfReordQ-r9", (int32_t)i, "MAC-ehs-AddReconfReordQ-List-r9");
+      elem = (MAC_ehs_AddReconfReordQ_r9*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MAC_ehs_AddReconfReordQ_r9(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MAC_ehs_AddReconfReordQ_r9(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "MAC-ehs-AddReconfReordQ-r9", (int32_t)i, "MAC-ehs-AddReconfReordQ-List-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AddOrReconfMAC_ehs_ReordQ_r9(rtxContext* RT_RESTRICT ctx, AddOrReconfMAC_ehs_ReordQ_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AddOrReconfMAC-ehs-ReordQ-r9");
+   /* mac-ehs-AddReconfQueue-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MAC_ehs_AddReconfReordQ_List_r9(ctx, &pvalue->mac_ehs_AddReconfQueue_List);
+      RT_CHECK(ctx, stat, 0, "mac-ehs-AddReconfQueue-List", -1, "AddOrReconfMAC-ehs-ReordQ-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CPCH_SetID(rtxContext* RT_RESTRICT ctx, CPCH_SetID* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 16);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CPCH-SetID");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AddReconfTransChInformation2_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation2_tfs_SignallingMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* explicit-config */
+         pvalue->u.explicit_config = (TransportFormatSet*)rtxMemHeapAlloc(ctx, sizeof(TransportFormatSet));
+         if (pvalue->u.explicit_config == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "explicit-config", -1, 0);
+         asn1Init_UMTS_TransportFormatSet(pvalue->u.explicit_config);
+         stat = asn1PD_UMTS_TransportFormatSet(ctx, pvalue->u.explicit_config);
+         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
+         break;
+      case 1: /* sameAsULTrCH */
+         pvalue->u.sameAsULTrCH = (UL_TransportChannelIdentity*)rtxMemHeapAllocZ(ctx, sizeof(UL_TransportChannelIdentity));
+         if (pvalue->u.sameAsULTrCH == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sameAsULTrCH", -1, 0);
+         stat = asn1PD_UMTS_UL_TransportChannelIdentity(ctx, pvalue->u.sameAsULTrCH);
+         RT_CHECK(ctx, stat, 0, "sameAsULTrCH", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AddReconfTransChInformation2(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInformation2");
+   /* dl-TransportChannelType */
+   stat = pd_ConsUnsigned(ctx, &pvalue->dl_TransportChannelType, 0, 1);
+   RT_CHECK(ctx, stat, "DL-TrCH-Type", "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation2");
+   /* transportChannelIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->transportChannelIdentity, 1, 32);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, "DL-AddReconfTransChInformation2");
+   /* tfs-SignallingMode */
+   stat = asn1PD_UMTS_DL_AddReconfTransChInformation2_tfs_SignallingMode(ctx, &pvalue->tfs_SignallingMode);
+   RT_CHECK(ctx, stat, 0, "tfs-SignallingMode", -1, "DL-AddReconfTransChInformation2");
+   /* qualityTarget */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_QualityTarget(ctx, &pvalue->qualityTarget);
+      RT_CHECK(ctx, stat, 0, "qualityTarget", -1, "DL-AddReconfTransChInformation2");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AddReconfTransChInfo2List(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInfo2List* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 32);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInfo2List");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      GSM_TargetCellInfo* elem;
-      rtxCtxtPushArrayElemName(ctx, "GSM-TargetCellInfo", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GSM_TargetCellInfo));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (GSM_TargetCellInfo*)(node + 1);
+      DL_AddReconfTransChInformation2* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_AddReconfTransChInformation2));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-AddReconfTransChInformation2", (int32_t)i, "DL-AddReconfTransChInfo2List");
+      elem = (DL_AddReconfTransChInformation2*)(node + 1);
       node->data = elem;
-      asn1Init_UMTS_GSM_TargetCellInfo(elem);
+      asn1Init_UMTS_DL_AddReconfTransChInformation2(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GSM_TargetCellInfo(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      stat = asn1PD_UMTS_DL_AddReconfTransChInformation2(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "DL-AddReconfTransChInformation2", (int32_t)i, "DL-AddReconfTransChInfo2List");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_InterRATInfo_r6(rtxContext* ctx, InterRATInfo_r6* pvalue)
+int asn1PD_UMTS_DL_AddReconfTransChInformation_r4_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r4_tfs_SignallingMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* explicit-config */
+         pvalue->u.explicit_config = (TransportFormatSet*)rtxMemHeapAlloc(ctx, sizeof(TransportFormatSet));
+         if (pvalue->u.explicit_config == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "explicit-config", -1, 0);
+         asn1Init_UMTS_TransportFormatSet(pvalue->u.explicit_config);
+         stat = asn1PD_UMTS_TransportFormatSet(ctx, pvalue->u.explicit_config);
+         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
+         break;
+      case 1: /* sameAsULTrCH */
+         pvalue->u.sameAsULTrCH = (UL_TransportChannelIdentity*)rtxMemHeapAllocZ(ctx, sizeof(UL_TransportChannelIdentity));
+         if (pvalue->u.sameAsULTrCH == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sameAsULTrCH", -1, 0);
+         stat = asn1PD_UMTS_UL_TransportChannelIdentity(ctx, pvalue->u.sameAsULTrCH);
+         RT_CHECK(ctx, stat, 0, "sameAsULTrCH", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AddReconfTransChInformation_r4(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterRATInfo-r6");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* rat */
-   rtxCtxtPushElemName(ctx, "rat");
-   rtxCtxtPushTypeName(ctx, "InterRATInfo");
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      pvalue->rat = ui;
-   }
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* gsm-TargetCellInfoList */
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInformation-r4");
+   /* dl-TransportChannelType */
+   stat = pd_ConsUnsigned(ctx, &pvalue->dl_TransportChannelType, 0, 1);
+   RT_CHECK(ctx, stat, "DL-TrCH-Type", "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation-r4");
+   /* dl-transportChannelIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->dl_transportChannelIdentity, 1, 32);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "dl-transportChannelIdentity", -1, "DL-AddReconfTransChInformation-r4");
+   /* tfs-SignallingMode */
+   stat = asn1PD_UMTS_DL_AddReconfTransChInformation_r4_tfs_SignallingMode(ctx, &pvalue->tfs_SignallingMode);
+   RT_CHECK(ctx, stat, 0, "tfs-SignallingMode", -1, "DL-AddReconfTransChInformation-r4");
+   /* dch-QualityTarget */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "gsm-TargetCellInfoList");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_GSM_TargetCellInfoList(ctx, &pvalue->gsm_TargetCellInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_QualityTarget(ctx, &pvalue->dch_QualityTarget);
+      RT_CHECK(ctx, stat, 0, "dch-QualityTarget", -1, "DL-AddReconfTransChInformation-r4");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_RedirectionInfo_r6(rtxContext* ctx, RedirectionInfo_r6* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "RedirectionInfo-r6");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "frequencyInfo");
-         pvalue->u.frequencyInfo = (FrequencyInfo*)rtxMemHeapAlloc(ctx, sizeof(FrequencyInfo));
-         if (pvalue->u.frequencyInfo == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_FrequencyInfo(pvalue->u.frequencyInfo);
-         stat = asn1PD_UMTS_FrequencyInfo(ctx, pvalue->u.frequencyInfo);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "interRATInfo");
-         pvalue->u.interRATInfo = (InterRATInfo_r6*)rtxMemHeapAlloc(ctx, sizeof(InterRATInfo_r6));
-         if (pvalue->u.interRATInfo == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterRATInfo_r6(pvalue->u.interRATInfo);
-         stat = asn1PD_UMTS_InterRATInfo_r6(ctx, pvalue->u.interRATInfo);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_EUTRA_PhysicalCellIdentity(rtxContext* ctx, EUTRA_PhysicalCellIdentity* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "EUTRA-PhysicalCellIdentity");
-   stat = pd_ConsUInt16(ctx, pvalue, 0, 503);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_EUTRA_BlacklistedCell(rtxContext* ctx, EUTRA_BlacklistedCell* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "EUTRA-BlacklistedCell");
-   /* physicalCellIdentity */
-   rtxCtxtPushElemName(ctx, "physicalCellIdentity");
-   rtxCtxtPushTypeName(ctx, "EUTRA-PhysicalCellIdentity");
-   stat = pd_ConsUInt16(ctx, &pvalue->physicalCellIdentity, 0, 503);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_EUTRA_BlacklistedCellPerFreqList(rtxContext* ctx, EUTRA_BlacklistedCellPerFreqList* pvalue)
+int asn1PD_UMTS_DL_AddReconfTransChInfoList_r4(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInfoList_r4* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "EUTRA-BlacklistedCellPerFreqList");
-   RT_SET_SIZE(ctx, 1, 16);
+   RT_SET_SIZE(ctx, 1, 32);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInfoList-r4");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      EUTRA_BlacklistedCell* elem;
-      rtxCtxtPushArrayElemName(ctx, "EUTRA-BlacklistedCell", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(EUTRA_BlacklistedCell));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (EUTRA_BlacklistedCell*)(node + 1);
+      DL_AddReconfTransChInformation_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_AddReconfTransChInformation_r4));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-AddReconfTransChInformation-r4", (int32_t)i, "DL-AddReconfTransChInfoList-r4");
+      elem = (DL_AddReconfTransChInformation_r4*)(node + 1);
       node->data = elem;
+      asn1Init_UMTS_DL_AddReconfTransChInformation_r4(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_EUTRA_BlacklistedCell(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      stat = asn1PD_UMTS_DL_AddReconfTransChInformation_r4(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "DL-AddReconfTransChInformation-r4", (int32_t)i, "DL-AddReconfTransChInfoList-r4");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_EUTRA_TargetFreqInfo(rtxContext* ctx, EUTRA_TargetFreqInfo* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "EUTRA-TargetFreqInfo");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dlEUTRACarrierFreq */
-   rtxCtxtPushElemName(ctx, "dlEUTRACarrierFreq");
-   rtxCtxtPushTypeName(ctx, "EARFCN");
-   stat = pd_ConsUInt16(ctx, &pvalue->dlEUTRACarrierFreq, 0, 65535);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* eutraBlacklistedCellPerFreqList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "eutraBlacklistedCellPerFreqList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_EUTRA_BlacklistedCellPerFreqList(ctx, &pvalue->eutraBlacklistedCellPerFreqList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_EUTRA_TargetFreqInfoList(rtxContext* ctx, EUTRA_TargetFreqInfoList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "EUTRA-TargetFreqInfoList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      EUTRA_TargetFreqInfo* elem;
-      rtxCtxtPushArrayElemName(ctx, "EUTRA-TargetFreqInfo", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(EUTRA_TargetFreqInfo));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (EUTRA_TargetFreqInfo*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_EUTRA_TargetFreqInfo(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_EUTRA_TargetFreqInfo(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATInfo_v860ext_eutra(rtxContext* ctx, InterRATInfo_v860ext_eutra* pvalue)
-{
-   int stat = 0;
-   /* eutra-TargetFreqInfoList */
-   rtxCtxtPushElemName(ctx, "eutra-TargetFreqInfoList");
-   stat = asn1PD_UMTS_EUTRA_TargetFreqInfoList(ctx, &pvalue->eutra_TargetFreqInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATInfo_v860ext(rtxContext* ctx, InterRATInfo_v860ext* pvalue)
+int asn1PD_UMTS_DL_TrCH_TypeId1_r5(rtxContext* RT_RESTRICT ctx, DL_TrCH_TypeId1_r5* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "InterRATInfo-v860ext");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-TrCH-TypeId1-r5");
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "gsm");
-         rtxCtxtPopElemName(ctx);
+      case 0: /* dch */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.dch, 1, 32);
+         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch", -1, "DL-TrCH-TypeId1-r5");
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "eutra");
-         pvalue->u.eutra = (InterRATInfo_v860ext_eutra*)rtxMemHeapAlloc(ctx, sizeof(InterRATInfo_v860ext_eutra));
-         if (pvalue->u.eutra == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterRATInfo_v860ext_eutra(pvalue->u.eutra);
-         stat = asn1PD_UMTS_InterRATInfo_v860ext_eutra(ctx, pvalue->u.eutra);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 1: /* dsch */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.dsch, 1, 32);
+         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dsch", -1, "DL-TrCH-TypeId1-r5");
+         break;
+      case 2: /* hsdsch */
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-TrCH-TypeId1-r5");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_RedirectionInfo_v860ext(rtxContext* ctx, RedirectionInfo_v860ext* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "RedirectionInfo-v860ext");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "frequencyInfo");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "interRATInfo");
-         pvalue->u.interRATInfo = (InterRATInfo_v860ext*)rtxMemHeapAlloc(ctx, sizeof(InterRATInfo_v860ext));
-         if (pvalue->u.interRATInfo == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterRATInfo_v860ext(pvalue->u.interRATInfo);
-         stat = asn1PD_UMTS_InterRATInfo_v860ext(ctx, pvalue->u.interRATInfo);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RejectionCause(rtxContext* ctx, RejectionCause* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "RejectionCause");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_PowerClass(rtxContext* ctx, UE_PowerClass* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "UE-PowerClass");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TxRxFrequencySeparation(rtxContext* ctx, TxRxFrequencySeparation* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "TxRxFrequencySeparation");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RF_Capability_fddRF_Capability(rtxContext* ctx, RF_Capability_fddRF_Capability* pvalue)
-{
-   int stat = 0;
-   /* ue-PowerClass */
-   rtxCtxtPushElemName(ctx, "ue-PowerClass");
-   rtxCtxtPushTypeName(ctx, "UE-PowerClass");
-   stat = pd_ConsUInt8(ctx, &pvalue->ue_PowerClass, 1, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* txRxFrequencySeparation */
-   rtxCtxtPushElemName(ctx, "txRxFrequencySeparation");
-   rtxCtxtPushTypeName(ctx, "TxRxFrequencySeparation");
-   stat = pd_ConsUnsigned(ctx, &pvalue->txRxFrequencySeparation, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RF_Capability_tddRF_Capability(rtxContext* ctx, RF_Capability_tddRF_Capability* pvalue)
-{
-   int stat = 0;
-   /* ue-PowerClass */
-   rtxCtxtPushElemName(ctx, "ue-PowerClass");
-   rtxCtxtPushTypeName(ctx, "UE-PowerClass");
-   stat = pd_ConsUInt8(ctx, &pvalue->ue_PowerClass, 1, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* radioFrequencyTDDBandList */
-   rtxCtxtPushElemName(ctx, "radioFrequencyTDDBandList");
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandTDDList");
-   stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyTDDBandList, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* chipRateCapability */
-   rtxCtxtPushElemName(ctx, "chipRateCapability");
-   rtxCtxtPushTypeName(ctx, "ChipRateCapability");
-   stat = pd_ConsUnsigned(ctx, &pvalue->chipRateCapability, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RF_Capability(rtxContext* ctx, RF_Capability* pvalue)
+int asn1PD_UMTS_HSDSCH_Info(rtxContext* RT_RESTRICT ctx, HSDSCH_Info* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RF-Capability");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* fddRF-Capability */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "fddRF-Capability");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RF_Capability_fddRF_Capability(ctx, &pvalue->fddRF_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tddRF-Capability */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "tddRF-Capability");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RF_Capability_tddRF_Capability(ctx, &pvalue->tddRF_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RF_Capability_r4_ext_tddRF_Capability(rtxContext* ctx, RF_Capability_r4_ext_tddRF_Capability* pvalue)
-{
-   int stat = 0;
-   /* ue-PowerClass */
-   rtxCtxtPushElemName(ctx, "ue-PowerClass");
-   rtxCtxtPushTypeName(ctx, "UE-PowerClass");
-   stat = pd_ConsUInt8(ctx, &pvalue->ue_PowerClass, 1, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* radioFrequencyBandTDDList */
-   rtxCtxtPushElemName(ctx, "radioFrequencyBandTDDList");
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandTDDList");
-   stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandTDDList, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* chipRateCapability */
-   rtxCtxtPushElemName(ctx, "chipRateCapability");
-   rtxCtxtPushTypeName(ctx, "ChipRateCapability");
-   stat = pd_ConsUnsigned(ctx, &pvalue->chipRateCapability, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RF_Capability_r4_ext(rtxContext* ctx, RF_Capability_r4_ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RF-Capability-r4-ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* tddRF-Capability */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "tddRF-Capability");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RF_Capability_r4_ext_tddRF_Capability(ctx, &pvalue->tddRF_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RF_Capability_v770ext_tdd768RF_Capability(rtxContext* ctx, RF_Capability_v770ext_tdd768RF_Capability* pvalue)
-{
-   int stat = 0;
-   /* ue-PowerClass */
-   rtxCtxtPushElemName(ctx, "ue-PowerClass");
-   rtxCtxtPushTypeName(ctx, "UE-PowerClass");
-   stat = pd_ConsUInt8(ctx, &pvalue->ue_PowerClass, 1, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* radioFrequencyBandTDDList */
-   rtxCtxtPushElemName(ctx, "radioFrequencyBandTDDList");
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandTDDList-r7");
-   stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandTDDList, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RF_Capability_v770ext(rtxContext* ctx, RF_Capability_v770ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RF-Capability-v770ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* tdd384RF-Capability */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "tdd384RF-Capability");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "RadioFrequencyBandTDDList-r7");
-      stat = pd_ConsUnsigned(ctx, &pvalue->tdd384RF_Capability, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tdd768RF-Capability */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "tdd768RF-Capability");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RF_Capability_v770ext_tdd768RF_Capability(ctx, &pvalue->tdd768RF_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tdd128RF-Capability */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "tdd128RF-Capability");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "RadioFrequencyBandTDDList-r7");
-      stat = pd_ConsUnsigned(ctx, &pvalue->tdd128RF_Capability, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RF_Capability_v860ext(rtxContext* ctx, RF_Capability_v860ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RF-Capability-v860ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* tdd128RF-Capability */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "tdd128RF-Capability");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioFrequencyBandTDDextList(ctx, &pvalue->tdd128RF_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tdd384RF-Capability */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "tdd384RF-Capability");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioFrequencyBandTDDextList(ctx, &pvalue->tdd384RF_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tdd768RF-Capability */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "tdd768RF-Capability");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_RadioFrequencyBandTDDextList(ctx, &pvalue->tdd768RF_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TotalRLC_AM_BufferSize(rtxContext* ctx, TotalRLC_AM_BufferSize* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "TotalRLC-AM-BufferSize");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RLC_Capability(rtxContext* ctx, RLC_Capability* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RLC-Capability");
-   /* totalRLC-AM-BufferSize */
-   rtxCtxtPushElemName(ctx, "totalRLC-AM-BufferSize");
-   rtxCtxtPushTypeName(ctx, "TotalRLC-AM-BufferSize");
-   stat = pd_ConsUnsigned(ctx, &pvalue->totalRLC_AM_BufferSize, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maximumRLC-WindowSize */
-   rtxCtxtPushElemName(ctx, "maximumRLC-WindowSize");
-   rtxCtxtPushTypeName(ctx, "MaximumRLC-WindowSize");
-   stat = pd_ConsUnsigned(ctx, &pvalue->maximumRLC_WindowSize, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maximumAM-EntityNumber */
-   rtxCtxtPushElemName(ctx, "maximumAM-EntityNumber");
-   rtxCtxtPushTypeName(ctx, "MaximumAM-EntityNumberRLC-Cap");
-   stat = pd_ConsUnsigned(ctx, &pvalue->maximumAM_EntityNumber, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TotalRLC_AM_BufferSize_r5_ext(rtxContext* ctx, TotalRLC_AM_BufferSize_r5_ext* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "TotalRLC-AM-BufferSize-r5-ext");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RLC_Capability_r5_ext(rtxContext* ctx, RLC_Capability_r5_ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RLC-Capability-r5-ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* totalRLC-AM-BufferSize */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "totalRLC-AM-BufferSize");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "TotalRLC-AM-BufferSize-r5-ext");
-      stat = pd_ConsUnsigned(ctx, &pvalue->totalRLC_AM_BufferSize, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RLC_Capability_v770ext(rtxContext* ctx, RLC_Capability_v770ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RLC-Capability-v770ext");
-   /* supportOfTwoLogicalChannel */
-   rtxCtxtPushElemName(ctx, "supportOfTwoLogicalChannel");
-   stat = rtxDecBitInline(ctx, &pvalue->supportOfTwoLogicalChannel);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TotalRLC_AM_BufferSize_v920ext(rtxContext* ctx, TotalRLC_AM_BufferSize_v920ext* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "TotalRLC-AM-BufferSize-v920ext");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RLC_Capability_v920ext(rtxContext* ctx, RLC_Capability_v920ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RLC-Capability-v920ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* totalRLC-AM-BufferSize */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "totalRLC-AM-BufferSize");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "TotalRLC-AM-BufferSize-v920ext");
-      stat = pd_ConsUnsigned(ctx, &pvalue->totalRLC_AM_BufferSize, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RRC_StateIndicator(rtxContext* ctx, RRC_StateIndicator* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_S_RNTI_2(rtxContext* ctx, S_RNTI_2* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "S-RNTI-2");
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pd_BitString32(ctx, pvalue, 10, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SecurityCapability_cipheringAlgorithmCap(rtxContext* ctx, SecurityCapability_cipheringAlgorithmCap* pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, pvalue, 16, 16);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_SecurityCapability_integrityProtectionAlgorithmCap(rtxContext* ctx, SecurityCapability_integrityProtectionAlgorithmCap* pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, pvalue, 16, 16);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_SecurityCapability(rtxContext* ctx, SecurityCapability* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SecurityCapability");
-   /* cipheringAlgorithmCap */
-   rtxCtxtPushElemName(ctx, "cipheringAlgorithmCap");
-   stat = asn1PD_UMTS_SecurityCapability_cipheringAlgorithmCap(ctx, &pvalue->cipheringAlgorithmCap);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* integrityProtectionAlgorithmCap */
-   rtxCtxtPushElemName(ctx, "integrityProtectionAlgorithmCap");
-   stat = asn1PD_UMTS_SecurityCapability_integrityProtectionAlgorithmCap(ctx, &pvalue->integrityProtectionAlgorithmCap);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryServingEDCHCell_Info(rtxContext* ctx, SecondaryServingEDCHCell_Info* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SecondaryServingEDCHCell-Info");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* primary-E-RNTI */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "primary-E-RNTI");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->primary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* secondary-E-RNTI */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "secondary-E-RNTI");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->secondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryEDCH_Info_Common_servingGrant_primary_Secondary_GrantSelector(rtxContext* ctx, SecondaryEDCH_Info_Common_servingGrant_primary_Secondary_GrantSelector* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryEDCH_Info_Common_servingGrant(rtxContext* ctx, SecondaryEDCH_Info_Common_servingGrant* pvalue)
-{
-   int stat = 0;
-   /* primary-Secondary-GrantSelector */
-   rtxCtxtPushElemName(ctx, "primary-Secondary-GrantSelector");
-   stat = pd_ConsUnsigned(ctx, &pvalue->primary_Secondary_GrantSelector, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PC_Preamble(rtxContext* ctx, PC_Preamble* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "PC-Preamble");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SecondaryEDCH_Info_Common(rtxContext* ctx, SecondaryEDCH_Info_Common* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SecondaryEDCH-Info-Common");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* scramblingCodeType */
-   rtxCtxtPushElemName(ctx, "scramblingCodeType");
-   rtxCtxtPushTypeName(ctx, "ScramblingCodeType");
-   stat = pd_ConsUnsigned(ctx, &pvalue->scramblingCodeType, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* scramblingCodeNumber */
-   rtxCtxtPushElemName(ctx, "scramblingCodeNumber");
-   rtxCtxtPushTypeName(ctx, "UL-ScramblingCode");
-   stat = pd_ConsUInt32(ctx, &pvalue->scramblingCodeNumber, 0, 16777215);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ms2-SchedTransmGrantHARQAlloc */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "ms2-SchedTransmGrantHARQAlloc");
-      pvalue->m |= 0x1u;
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pd_BitString32(ctx, &pvalue->ms2_SchedTransmGrantHARQAlloc, 8, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* servingGrant */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "servingGrant");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SecondaryEDCH_Info_Common_servingGrant(ctx, &pvalue->servingGrant);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* minReduced-E-DPDCH-GainFactor */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "minReduced-E-DPDCH-GainFactor");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "MinReduced-E-DPDCH-GainFactor");
-      stat = pd_ConsUnsigned(ctx, &pvalue->minReduced_E_DPDCH_GainFactor, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-DCH-minimumSet-E-TFCI */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "e-DCH-minimumSet-E-TFCI");
-      pvalue->m |= 0x8u;
-      rtxCtxtPushTypeName(ctx, "E-DCH-MinimumSet-E-TFCI");
-      stat = pd_ConsUInt8(ctx, &pvalue->e_DCH_minimumSet_E_TFCI, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dpcchPowerOffset-SecondaryULFrequency */
-   rtxCtxtPushElemName(ctx, "dpcchPowerOffset-SecondaryULFrequency");
-   stat = pd_ConsUInt8(ctx, &pvalue->dpcchPowerOffset_SecondaryULFrequency, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* pc-Preamble */
-   rtxCtxtPushElemName(ctx, "pc-Preamble");
-   rtxCtxtPushTypeName(ctx, "PC-Preamble");
-   stat = pd_ConsUInt8(ctx, &pvalue->pc_Preamble, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HARQ_Preamble_Mode(rtxContext* ctx, HARQ_Preamble_Mode* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "HARQ-Preamble-Mode");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* ctx, HS_SCCH_Info_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 2);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 3) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "HS-SCCH-Codes", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "HS-SCCH-Codes");
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 127);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_fdd(rtxContext* ctx, HS_SCCH_Info_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* hS-SCCHChannelisationCodeInfo */
-   rtxCtxtPushElemName(ctx, "hS-SCCHChannelisationCodeInfo");
-   stat = asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-ScramblingCode */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-ScramblingCode");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "SecondaryScramblingCode");
-      stat = pd_ConsUInt8(ctx, &pvalue->dl_ScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SICH_Power_Control_Info_TDD384(rtxContext* ctx, HS_SICH_Power_Control_Info_TDD384* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HS-SICH-Power-Control-Info-TDD384");
-   /* ul-target-SIR */
-   rtxCtxtPushElemName(ctx, "ul-target-SIR");
-   stat = pd_ConsInt8(ctx, &pvalue->ul_target_SIR, -22, 40);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hs-sich-ConstantValue */
-   rtxCtxtPushElemName(ctx, "hs-sich-ConstantValue");
-   rtxCtxtPushTypeName(ctx, "ConstantValue");
-   stat = pd_ConsInt8(ctx, &pvalue->hs_sich_ConstantValue, -35, -10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble* pvalue)
-{
-   int stat = 0;
-   /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftLong");
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_TDD384_midambleAllocationMode(rtxContext* ctx, HS_SCCH_TDD384_midambleAllocationMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "commonMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         pvalue->u.ueSpecificMidamble = (HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble* pvalue)
-{
-   int stat = 0;
-   /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftLong");
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SICH_Configuration_TDD384_midambleAllocationMode(rtxContext* ctx, HS_SICH_Configuration_TDD384_midambleAllocationMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         pvalue->u.ueSpecificMidamble = (HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SICH_Configuration_TDD384(rtxContext* ctx, HS_SICH_Configuration_TDD384* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HS-SICH-Configuration-TDD384");
-   /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* channelisationCode */
-   rtxCtxtPushElemName(ctx, "channelisationCode");
-   rtxCtxtPushTypeName(ctx, "DL-TS-ChannelisationCode");
-   stat = pd_ConsUnsigned(ctx, &pvalue->channelisationCode, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PD_UMTS_HS_SICH_Configuration_TDD384_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midambleconfiguration */
-   rtxCtxtPushElemName(ctx, "midambleconfiguration");
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType1and3");
-   stat = pd_ConsUnsigned(ctx, &pvalue->midambleconfiguration, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_TDD384(rtxContext* ctx, HS_SCCH_TDD384* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HS-SCCH-TDD384");
-   /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* channelisationCode */
-   rtxCtxtPushElemName(ctx, "channelisationCode");
-   rtxCtxtPushTypeName(ctx, "DL-TS-ChannelisationCode");
-   stat = pd_ConsUnsigned(ctx, &pvalue->channelisationCode, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PD_UMTS_HS_SCCH_TDD384_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midambleconfiguration */
-   rtxCtxtPushElemName(ctx, "midambleconfiguration");
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType1and3");
-   stat = pd_ConsUnsigned(ctx, &pvalue->midambleconfiguration, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* bler-target */
-   rtxCtxtPushElemName(ctx, "bler-target");
-   rtxCtxtPushTypeName(ctx, "Bler-Target");
-   stat = pd_ConsInt8(ctx, &pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hs-sich-configuration */
-   rtxCtxtPushElemName(ctx, "hs-sich-configuration");
-   stat = asn1PD_UMTS_HS_SICH_Configuration_TDD384(ctx, &pvalue->hs_sich_configuration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* ctx, HS_SCCH_Info_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      HS_SCCH_TDD384* elem;
-      rtxCtxtPushArrayElemName(ctx, "HS-SCCH-TDD384", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD384));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (HS_SCCH_TDD384*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_HS_SCCH_TDD384(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_HS_SCCH_TDD384(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384(rtxContext* ctx, HS_SCCH_Info_modeSpecificInfo_tdd_tdd384* pvalue)
-{
-   int stat = 0;
-   /* nack-ack-power-offset */
-   rtxCtxtPushElemName(ctx, "nack-ack-power-offset");
-   stat = pd_ConsInt8(ctx, &pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hs-SICH-PowerControl-Info */
-   rtxCtxtPushElemName(ctx, "hs-SICH-PowerControl-Info");
-   stat = asn1PD_UMTS_HS_SICH_Power_Control_Info_TDD384(ctx, &pvalue->hs_SICH_PowerControl_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hS-SCCH-SetConfiguration */
-   rtxCtxtPushElemName(ctx, "hS-SCCH-SetConfiguration");
-   stat = asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_TDD128_midambleAllocationMode(rtxContext* ctx, HS_SCCH_TDD128_midambleAllocationMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "commonMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.ueSpecificMidamble, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble* pvalue)
-{
-   int stat = 0;
-   /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftLong");
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SICH_Configuration_TDD128_midambleAllocationMode(rtxContext* ctx, HS_SICH_Configuration_TDD128_midambleAllocationMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         pvalue->u.ueSpecificMidamble = (HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SICH_Configuration_TDD128_tpc_step_size(rtxContext* ctx, HS_SICH_Configuration_TDD128_tpc_step_size* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SICH_Configuration_TDD128(rtxContext* ctx, HS_SICH_Configuration_TDD128* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HS-SICH-Configuration-TDD128");
-   /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-LCR-r4");
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* channelisationCode */
-   rtxCtxtPushElemName(ctx, "channelisationCode");
-   rtxCtxtPushTypeName(ctx, "HS-ChannelisationCode-LCR");
-   stat = pd_ConsUnsigned(ctx, &pvalue->channelisationCode, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PD_UMTS_HS_SICH_Configuration_TDD128_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midambleConfiguration */
-   rtxCtxtPushElemName(ctx, "midambleConfiguration");
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nack-ack-power-offset */
-   rtxCtxtPushElemName(ctx, "nack-ack-power-offset");
-   stat = pd_ConsInt8(ctx, &pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* power-level-HSSICH */
-   rtxCtxtPushElemName(ctx, "power-level-HSSICH");
-   stat = pd_ConsInt8(ctx, &pvalue->power_level_HSSICH, -120, -58);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tpc-step-size */
-   rtxCtxtPushElemName(ctx, "tpc-step-size");
-   stat = pd_ConsUnsigned(ctx, &pvalue->tpc_step_size, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_TDD128(rtxContext* ctx, HS_SCCH_TDD128* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HS-SCCH-TDD128");
-   /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-LCR-r4");
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* firstChannelisationCode */
-   rtxCtxtPushElemName(ctx, "firstChannelisationCode");
-   rtxCtxtPushTypeName(ctx, "HS-ChannelisationCode-LCR");
-   stat = pd_ConsUnsigned(ctx, &pvalue->firstChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* secondChannelisationCode */
-   rtxCtxtPushElemName(ctx, "secondChannelisationCode");
-   rtxCtxtPushTypeName(ctx, "HS-ChannelisationCode-LCR");
-   stat = pd_ConsUnsigned(ctx, &pvalue->secondChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PD_UMTS_HS_SCCH_TDD128_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midambleConfiguration */
-   rtxCtxtPushElemName(ctx, "midambleConfiguration");
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* bler-target */
-   rtxCtxtPushElemName(ctx, "bler-target");
-   rtxCtxtPushTypeName(ctx, "Bler-Target");
-   stat = pd_ConsInt8(ctx, &pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hs-sich-configuration */
-   rtxCtxtPushElemName(ctx, "hs-sich-configuration");
-   stat = asn1PD_UMTS_HS_SICH_Configuration_TDD128(ctx, &pvalue->hs_sich_configuration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd128(rtxContext* ctx, HS_SCCH_Info_modeSpecificInfo_tdd_tdd128* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      HS_SCCH_TDD128* elem;
-      rtxCtxtPushArrayElemName(ctx, "HS-SCCH-TDD128", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD128));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (HS_SCCH_TDD128*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_HS_SCCH_TDD128(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_HS_SCCH_TDD128(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd(rtxContext* ctx, HS_SCCH_Info_modeSpecificInfo_tdd* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         pvalue->u.tdd384 = (HS_SCCH_Info_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_modeSpecificInfo_tdd_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         pvalue->u.tdd128 = (HS_SCCH_Info_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_modeSpecificInfo_tdd_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo(rtxContext* ctx, HS_SCCH_Info_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (HS_SCCH_Info_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HS_SCCH_Info_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (HS_SCCH_Info_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info(rtxContext* ctx, HS_SCCH_Info* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HS-SCCH-Info");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_HS_SCCH_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Feedback_cycle(rtxContext* ctx, Feedback_cycle* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "Feedback-cycle");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Measurement_Feedback_Info_modeSpecificInfo_fdd(rtxContext* ctx, Measurement_Feedback_Info_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   /* measurementPowerOffset */
-   rtxCtxtPushElemName(ctx, "measurementPowerOffset");
-   rtxCtxtPushTypeName(ctx, "MeasurementPowerOffset");
-   stat = pd_ConsInt8(ctx, &pvalue->measurementPowerOffset, -12, 26);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* feedback-cycle */
-   rtxCtxtPushElemName(ctx, "feedback-cycle");
-   rtxCtxtPushTypeName(ctx, "Feedback-cycle");
-   stat = pd_ConsUnsigned(ctx, &pvalue->feedback_cycle, 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* cqi-RepetitionFactor */
-   rtxCtxtPushElemName(ctx, "cqi-RepetitionFactor");
-   rtxCtxtPushTypeName(ctx, "CQI-RepetitionFactor");
-   stat = pd_ConsUInt8(ctx, &pvalue->cqi_RepetitionFactor, 1, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* deltaCQI */
-   rtxCtxtPushElemName(ctx, "deltaCQI");
-   rtxCtxtPushTypeName(ctx, "DeltaCQI");
-   stat = pd_ConsUInt8(ctx, &pvalue->deltaCQI, 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Measurement_Feedback_Info_modeSpecificInfo(rtxContext* ctx, Measurement_Feedback_Info_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (Measurement_Feedback_Info_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(Measurement_Feedback_Info_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_Measurement_Feedback_Info_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Measurement_Feedback_Info(rtxContext* ctx, Measurement_Feedback_Info* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Measurement-Feedback-Info");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_Measurement_Feedback_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble* pvalue)
-{
-   int stat = 0;
-   /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftLong");
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode(rtxContext* ctx, MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "commonMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type1(rtxContext* ctx, MidambleShiftAndBurstType_DL_burstType_type1* pvalue)
-{
-   int stat = 0;
-   /* midambleConfigurationBurstType1and3 */
-   rtxCtxtPushElemName(ctx, "midambleConfigurationBurstType1and3");
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType1and3");
-   stat = pd_ConsUnsigned(ctx, &pvalue->midambleConfigurationBurstType1and3, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble* pvalue)
-{
-   int stat = 0;
-   /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftShort");
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode(rtxContext* ctx, MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "commonMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type2(rtxContext* ctx, MidambleShiftAndBurstType_DL_burstType_type2* pvalue)
-{
-   int stat = 0;
-   /* midambleConfigurationBurstType2 */
-   rtxCtxtPushElemName(ctx, "midambleConfigurationBurstType2");
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType2");
-   stat = pd_ConsUnsigned(ctx, &pvalue->midambleConfigurationBurstType2, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType(rtxContext* ctx, MidambleShiftAndBurstType_DL_burstType* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "type1");
-         pvalue->u.type1 = (MidambleShiftAndBurstType_DL_burstType_type1*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_DL_burstType_type1));
-         if (pvalue->u.type1 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MidambleShiftAndBurstType_DL_burstType_type1(pvalue->u.type1);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type1(ctx, pvalue->u.type1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "type2");
-         pvalue->u.type2 = (MidambleShiftAndBurstType_DL_burstType_type2*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_DL_burstType_type2));
-         if (pvalue->u.type2 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MidambleShiftAndBurstType_DL_burstType_type2(pvalue->u.type2);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType_type2(ctx, pvalue->u.type2);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MidambleShiftAndBurstType_DL(rtxContext* ctx, MidambleShiftAndBurstType_DL* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MidambleShiftAndBurstType-DL");
-   /* burstType */
-   rtxCtxtPushElemName(ctx, "burstType");
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_burstType(ctx, &pvalue->burstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_TS_Configuration_element(rtxContext* ctx, DL_HSPDSCH_TS_Configuration_element* pvalue)
-{
-   int stat = 0;
-   /* timeslot */
-   rtxCtxtPushElemName(ctx, "timeslot");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleShiftAndBurstType */
-   rtxCtxtPushElemName(ctx, "midambleShiftAndBurstType");
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_TS_Configuration(rtxContext* ctx, DL_HSPDSCH_TS_Configuration* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "DL-HSPDSCH-TS-Configuration");
-   RT_SET_SIZE(ctx, 1, 13);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DL_HSPDSCH_TS_Configuration_element* elem;
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_HSPDSCH_TS_Configuration_element));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (DL_HSPDSCH_TS_Configuration_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DL_HSPDSCH_TS_Configuration_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DL_HSPDSCH_TS_Configuration_element(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384(rtxContext* ctx, DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dl-HSPDSCH-TS-Configuration */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-TS-Configuration");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_TS_Configuration(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128(rtxContext* ctx, DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* hs-PDSCH-Midamble-Configuration-tdd128 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "hs-PDSCH-Midamble-Configuration-tdd128");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration_tdd128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd(rtxContext* ctx, DL_HSPDSCH_Information_modeSpecificInfo_tdd* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         pvalue->u.tdd384 = (DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         pvalue->u.tdd128 = (DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_modeSpecificInfo(rtxContext* ctx, DL_HSPDSCH_Information_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (DL_HSPDSCH_Information_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information(rtxContext* ctx, DL_HSPDSCH_Information* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "DL-HSPDSCH-Information");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* hs-scch-Info */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "hs-scch-Info");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HS_SCCH_Info(ctx, &pvalue->hs_scch_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurement-feedback-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "measurement-feedback-Info");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_Measurement_Feedback_Info(ctx, &pvalue->measurement_feedback_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_DL_HSPDSCH_Information_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Serving_HSDSCH_CellInformation_mac_hsResetIndicator(rtxContext* ctx, Serving_HSDSCH_CellInformation_mac_hsResetIndicator* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Serving_HSDSCH_CellInformation(rtxContext* ctx, Serving_HSDSCH_CellInformation* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "Serving-HSDSCH-CellInformation");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat);
-   /* deltaACK */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "deltaACK");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "DeltaACK");
-      stat = pd_ConsUInt8(ctx, &pvalue->deltaACK, 0, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* deltaNACK */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "deltaNACK");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "DeltaNACK");
-      stat = pd_ConsUInt8(ctx, &pvalue->deltaNACK, 0, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* harq-Preamble-Mode */
-   rtxCtxtPushElemName(ctx, "harq-Preamble-Mode");
-   rtxCtxtPushTypeName(ctx, "HARQ-Preamble-Mode");
-   stat = pd_ConsUInt8(ctx, &pvalue->harq_Preamble_Mode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCPICH-Info */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-hspdsch-Information */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "dl-hspdsch-Information");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information(ctx, &pvalue->dl_hspdsch_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
+   RT_CHECK(ctx, stat, 0, 0, -1, "HSDSCH-Info");
    /* harqInfo */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "harqInfo");
-      pvalue->m |= 0x10u;
+      pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_HARQ_Info(ctx, &pvalue->harqInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "HSDSCH-Info");
    }
-   /* mac-hsResetIndicator */
+   /* addOrReconfMAC-dFlow */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mac-hsResetIndicator");
-      pvalue->m |= 0x20u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->mac_hsResetIndicator = ui;
-      }
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_AddOrReconfMAC_dFlow(ctx, &pvalue->addOrReconfMAC_dFlow);
+      RT_CHECK(ctx, stat, 0, "addOrReconfMAC-dFlow", -1, "HSDSCH-Info");
    }
-   rtxCtxtPopTypeName(ctx);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AddReconfTransChInformation_r5_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r5_tfs_SignallingMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* explicit-config */
+         pvalue->u.explicit_config = (TransportFormatSet*)rtxMemHeapAlloc(ctx, sizeof(TransportFormatSet));
+         if (pvalue->u.explicit_config == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "explicit-config", -1, 0);
+         asn1Init_UMTS_TransportFormatSet(pvalue->u.explicit_config);
+         stat = asn1PD_UMTS_TransportFormatSet(ctx, pvalue->u.explicit_config);
+         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
+         break;
+      case 1: /* sameAsULTrCH */
+         pvalue->u.sameAsULTrCH = (UL_TransportChannelIdentity*)rtxMemHeapAllocZ(ctx, sizeof(UL_TransportChannelIdentity));
+         if (pvalue->u.sameAsULTrCH == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sameAsULTrCH", -1, 0);
+         stat = asn1PD_UMTS_UL_TransportChannelIdentity(ctx, pvalue->u.sameAsULTrCH);
+         RT_CHECK(ctx, stat, 0, "sameAsULTrCH", -1, 0);
+         break;
+      case 2: /* hsdsch */
+         pvalue->u.hsdsch = (HSDSCH_Info*)rtxMemHeapAlloc(ctx, sizeof(HSDSCH_Info));
+         if (pvalue->u.hsdsch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "hsdsch", -1, 0);
+         asn1Init_UMTS_HSDSCH_Info(pvalue->u.hsdsch);
+         stat = asn1PD_UMTS_HSDSCH_Info(ctx, pvalue->u.hsdsch);
+         RT_CHECK(ctx, stat, 0, "hsdsch", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AddReconfTransChInformation_r5(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInformation-r5");
+   /* dl-TransportChannelType */
+   stat = asn1PD_UMTS_DL_TrCH_TypeId1_r5(ctx, &pvalue->dl_TransportChannelType);
+   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation-r5");
+   /* tfs-SignallingMode */
+   stat = asn1PD_UMTS_DL_AddReconfTransChInformation_r5_tfs_SignallingMode(ctx, &pvalue->tfs_SignallingMode);
+   RT_CHECK(ctx, stat, 0, "tfs-SignallingMode", -1, "DL-AddReconfTransChInformation-r5");
+   /* dch-QualityTarget */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_QualityTarget(ctx, &pvalue->dch_QualityTarget);
+      RT_CHECK(ctx, stat, 0, "dch-QualityTarget", -1, "DL-AddReconfTransChInformation-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AddReconfTransChInfoList_r5(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInfoList_r5* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInfoList-r5");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_AddReconfTransChInformation_r5* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_AddReconfTransChInformation_r5));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-AddReconfTransChInformation-r5", (int32_t)i, "DL-AddReconfTransChInfoList-r5");
+      elem = (DL_AddReconfTransChInformation_r5*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_AddReconfTransChInformation_r5(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_DL_AddReconfTransChInformation_r5(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "DL-AddReconfTransChInformation-r5", (int32_t)i, "DL-AddReconfTransChInfoList-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HSDSCH_Info_r7_dl_MAC_HeaderType(rtxContext* RT_RESTRICT ctx, HSDSCH_Info_r7_dl_MAC_HeaderType* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* mac-hs */
+         pvalue->u.mac_hs = (AddOrReconfMAC_dFlow*)rtxMemHeapAlloc(ctx, sizeof(AddOrReconfMAC_dFlow));
+         if (pvalue->u.mac_hs == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "mac-hs", -1, 0);
+         asn1Init_UMTS_AddOrReconfMAC_dFlow(pvalue->u.mac_hs);
+         stat = asn1PD_UMTS_AddOrReconfMAC_dFlow(ctx, pvalue->u.mac_hs);
+         RT_CHECK(ctx, stat, 0, "mac-hs", -1, 0);
+         break;
+      case 1: /* mac-ehs */
+         pvalue->u.mac_ehs = (AddOrReconfMAC_ehs_ReordQ*)rtxMemHeapAlloc(ctx, sizeof(AddOrReconfMAC_ehs_ReordQ));
+         if (pvalue->u.mac_ehs == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "mac-ehs", -1, 0);
+         asn1Init_UMTS_AddOrReconfMAC_ehs_ReordQ(pvalue->u.mac_ehs);
+         stat = asn1PD_UMTS_AddOrReconfMAC_ehs_ReordQ(ctx, pvalue->u.mac_ehs);
+         RT_CHECK(ctx, stat, 0, "mac-ehs", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HSDSCH_Info_r7(rtxContext* RT_RESTRICT ctx, HSDSCH_Info_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HSDSCH-Info-r7");
+   /* harqInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
+      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "HSDSCH-Info-r7");
+   }
+   /* dl-MAC-HeaderType */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_HSDSCH_Info_r7_dl_MAC_HeaderType(ctx, &pvalue->dl_MAC_HeaderType);
+      RT_CHECK(ctx, stat, 0, "dl-MAC-HeaderType", -1, "HSDSCH-Info-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AddReconfTransChInformation_r7_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r7_tfs_SignallingMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* explicit-config */
+         pvalue->u.explicit_config = (TransportFormatSet*)rtxMemHeapAlloc(ctx, sizeof(TransportFormatSet));
+         if (pvalue->u.explicit_config == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "explicit-config", -1, 0);
+         asn1Init_UMTS_TransportFormatSet(pvalue->u.explicit_config);
+         stat = asn1PD_UMTS_TransportFormatSet(ctx, pvalue->u.explicit_config);
+         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
+         break;
+      case 1: /* sameAsULTrCH */
+         pvalue->u.sameAsULTrCH = (UL_TransportChannelIdentity*)rtxMemHeapAllocZ(ctx, sizeof(UL_TransportChannelIdentity));
+         if (pvalue->u.sameAsULTrCH == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sameAsULTrCH", -1, 0);
+         stat = asn1PD_UMTS_UL_TransportChannelIdentity(ctx, pvalue->u.sameAsULTrCH);
+         RT_CHECK(ctx, stat, 0, "sameAsULTrCH", -1, 0);
+         break;
+      case 2: /* hsdsch */
+         pvalue->u.hsdsch = (HSDSCH_Info_r7*)rtxMemHeapAlloc(ctx, sizeof(HSDSCH_Info_r7));
+         if (pvalue->u.hsdsch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "hsdsch", -1, 0);
+         asn1Init_UMTS_HSDSCH_Info_r7(pvalue->u.hsdsch);
+         stat = asn1PD_UMTS_HSDSCH_Info_r7(ctx, pvalue->u.hsdsch);
+         RT_CHECK(ctx, stat, 0, "hsdsch", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AddReconfTransChInformation_r7(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInformation-r7");
+   /* dl-TransportChannelType */
+   stat = asn1PD_UMTS_DL_TrCH_TypeId1_r5(ctx, &pvalue->dl_TransportChannelType);
+   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation-r7");
+   /* tfs-SignallingMode */
+   stat = asn1PD_UMTS_DL_AddReconfTransChInformation_r7_tfs_SignallingMode(ctx, &pvalue->tfs_SignallingMode);
+   RT_CHECK(ctx, stat, 0, "tfs-SignallingMode", -1, "DL-AddReconfTransChInformation-r7");
+   /* dch-QualityTarget */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_QualityTarget(ctx, &pvalue->dch_QualityTarget);
+      RT_CHECK(ctx, stat, 0, "dch-QualityTarget", -1, "DL-AddReconfTransChInformation-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AddReconfTransChInfoList_r7(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInfoList_r7* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInfoList-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_AddReconfTransChInformation_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_AddReconfTransChInformation_r7));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-AddReconfTransChInformation-r7", (int32_t)i, "DL-AddReconfTransChInfoList-r7");
+      elem = (DL_AddReconfTransChInformation_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_AddReconfTransChInformation_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_DL_AddReconfTransChInformation_r7(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "DL-AddReconfTransChInformation-r7", (int32_t)i, "DL-AddReconfTransChInfoList-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HSDSCH_Info_r9_dl_MAC_HeaderType(rtxContext* RT_RESTRICT ctx, HSDSCH_Info_r9_dl_MAC_HeaderType* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* mac-hs */
+         pvalue->u.mac_hs = (AddOrReconfMAC_dFlow*)rtxMemHeapAlloc(ctx, sizeof(AddOrReconfMAC_dFlow));
+         if (pvalue->u.mac_hs == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "mac-hs", -1, 0);
+         asn1Init_UMTS_AddOrReconfMAC_dFlow(pvalue->u.mac_hs);
+         stat = asn1PD_UMTS_AddOrReconfMAC_dFlow(ctx, pvalue->u.mac_hs);
+         RT_CHECK(ctx, stat, 0, "mac-hs", -1, 0);
+         break;
+      case 1: /* mac-ehs */
+         pvalue->u.mac_ehs = (AddOrReconfMAC_ehs_ReordQ_r9*)rtxMemHeapAlloc(ctx, sizeof(AddOrReconfMAC_ehs_ReordQ_r9));
+         if (pvalue->u.mac_ehs == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "mac-ehs", -1, 0);
+         asn1Init_UMTS_AddOrReconfMAC_ehs_ReordQ_r9(pvalue->u.mac_ehs);
+         stat = asn1PD_UMTS_AddOrReconfMAC_ehs_ReordQ_r9(ctx, pvalue->u.mac_ehs);
+         RT_CHECK(ctx, stat, 0, "mac-ehs", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HSDSCH_Info_r9(rtxContext* RT_RESTRICT ctx, HSDSCH_Info_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HSDSCH-Info-r9");
+   /* harqInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
+      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "HSDSCH-Info-r9");
+   }
+   /* dl-MAC-HeaderType */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_HSDSCH_Info_r9_dl_MAC_HeaderType(ctx, &pvalue->dl_MAC_HeaderType);
+      RT_CHECK(ctx, stat, 0, "dl-MAC-HeaderType", -1, "HSDSCH-Info-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AddReconfTransChInformation_r9_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r9_tfs_SignallingMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* explicit-config */
+         pvalue->u.explicit_config = (TransportFormatSet*)rtxMemHeapAlloc(ctx, sizeof(TransportFormatSet));
+         if (pvalue->u.explicit_config == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "explicit-config", -1, 0);
+         asn1Init_UMTS_TransportFormatSet(pvalue->u.explicit_config);
+         stat = asn1PD_UMTS_TransportFormatSet(ctx, pvalue->u.explicit_config);
+         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
+         break;
+      case 1: /* sameAsULTrCH */
+         pvalue->u.sameAsULTrCH = (UL_TransportChannelIdentity*)rtxMemHeapAllocZ(ctx, sizeof(UL_TransportChannelIdentity));
+         if (pvalue->u.sameAsULTrCH == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sameAsULTrCH", -1, 0);
+         stat = asn1PD_UMTS_UL_TransportChannelIdentity(ctx, pvalue->u.sameAsULTrCH);
+         RT_CHECK(ctx, stat, 0, "sameAsULTrCH", -1, 0);
+         break;
+      case 2: /* hsdsch */
+         pvalue->u.hsdsch = (HSDSCH_Info_r9*)rtxMemHeapAlloc(ctx, sizeof(HSDSCH_Info_r9));
+         if (pvalue->u.hsdsch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "hsdsch", -1, 0);
+         asn1Init_UMTS_HSDSCH_Info_r9(pvalue->u.hsdsch);
+         stat = asn1PD_UMTS_HSDSCH_Info_r9(ctx, pvalue->u.hsdsch);
+         RT_CHECK(ctx, stat, 0, "hsdsch", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AddReconfTransChInformation_r9(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInformation_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInformation-r9");
+   /* dl-TransportChannelType */
+   stat = asn1PD_UMTS_DL_TrCH_TypeId1_r5(ctx, &pvalue->dl_TransportChannelType);
+   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation-r9");
+   /* tfs-SignallingMode */
+   stat = asn1PD_UMTS_DL_AddReconfTransChInformation_r9_tfs_SignallingMode(ctx, &pvalue->tfs_SignallingMode);
+   RT_CHECK(ctx, stat, 0, "tfs-SignallingMode", -1, "DL-AddReconfTransChInformation-r9");
+   /* dch-QualityTarget */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_QualityTarget(ctx, &pvalue->dch_QualityTarget);
+      RT_CHECK(ctx, stat, 0, "dch-QualityTarget", -1, "DL-AddReconfTransChInformation-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_AddReconfTransChInfoList_r9(rtxContext* RT_RESTRICT ctx, DL_AddReconfTransChInfoList_r9* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInfoList-r9");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_AddReconfTransChInformation_r9* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_AddReconfTransChInformation_r9));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-AddReconfTransChInformation-r9", (int32_t)i, "DL-AddReconfTransChInfoList-r9");
+      elem = (DL_AddReconfTransChInformation_r9*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_AddReconfTransChInformation_r9(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_DL_AddReconfTransChInformation_r9(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "DL-AddReconfTransChInformation-r9", (int32_t)i, "DL-AddReconfTransChInfoList-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters_dl_DCH_TFCS(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters_dl_DCH_TFCS* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* tfcs */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TFCS(ctx, &pvalue->tfcs);
+      RT_CHECK(ctx, stat, 0, "tfcs", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dl-DCH-TFCS */
+         pvalue->u.dl_DCH_TFCS = (DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters_dl_DCH_TFCS*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters_dl_DCH_TFCS));
+         if (pvalue->u.dl_DCH_TFCS == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-DCH-TFCS", -1, 0);
+         asn1Init_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters_dl_DCH_TFCS(pvalue->u.dl_DCH_TFCS);
+         stat = asn1PD_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters_dl_DCH_TFCS(ctx, pvalue->u.dl_DCH_TFCS);
+         RT_CHECK(ctx, stat, 0, "dl-DCH-TFCS", -1, 0);
+         break;
+      case 1: /* sameAsUL */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-Parameters */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters(ctx, &pvalue->dl_Parameters);
+      RT_CHECK(ctx, stat, 0, "dl-Parameters", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* individualDL-CCTrCH-InfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IndividualDL_CCTrCH_InfoList(ctx, &pvalue->individualDL_CCTrCH_InfoList);
+      RT_CHECK(ctx, stat, 0, "individualDL-CCTrCH-InfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_CommonTransChInfo_r4_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonTransChInfo_r4_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_CommonTransChInfo_r4_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonTransChInfo_r4_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonTransChInfo_r4(rtxContext* RT_RESTRICT ctx, DL_CommonTransChInfo_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CommonTransChInfo-r4");
+   /* sccpch-TFCS */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TFCS(ctx, &pvalue->sccpch_TFCS);
+      RT_CHECK(ctx, stat, 0, "sccpch-TFCS", -1, "DL-CommonTransChInfo-r4");
+   }
+   /* modeSpecificInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+      RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonTransChInfo-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_TransportChannelIdentity(rtxContext* RT_RESTRICT ctx, DL_TransportChannelIdentity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* dl-TransportChannelType */
+   stat = pd_ConsUnsigned(ctx, &pvalue->dl_TransportChannelType, 0, 1);
+   RT_CHECK(ctx, stat, "DL-TrCH-Type", "dl-TransportChannelType", -1, "DL-TransportChannelIdentity");
+   /* dl-TransportChannelIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->dl_TransportChannelIdentity, 1, 32);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "dl-TransportChannelIdentity", -1, "DL-TransportChannelIdentity");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DeletedTransChInfoList(rtxContext* RT_RESTRICT ctx, DL_DeletedTransChInfoList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-DeletedTransChInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_TransportChannelIdentity* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_TransportChannelIdentity));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-TransportChannelIdentity", (int32_t)i, "DL-DeletedTransChInfoList");
+      elem = (DL_TransportChannelIdentity*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_DL_TransportChannelIdentity(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "DL-TransportChannelIdentity", (int32_t)i, "DL-DeletedTransChInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_TrCH_TypeId2_r5(rtxContext* RT_RESTRICT ctx, DL_TrCH_TypeId2_r5* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-TrCH-TypeId2-r5");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dch */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.dch, 1, 32);
+         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch", -1, "DL-TrCH-TypeId2-r5");
+         break;
+      case 1: /* dsch */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.dsch, 1, 32);
+         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dsch", -1, "DL-TrCH-TypeId2-r5");
+         break;
+      case 2: /* hsdsch */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.hsdsch, 0, 7);
+         RT_CHECK(ctx, stat, "MAC-d-FlowIdentity", "hsdsch", -1, "DL-TrCH-TypeId2-r5");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-TrCH-TypeId2-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_TransportChannelIdentity_r5(rtxContext* RT_RESTRICT ctx, DL_TransportChannelIdentity_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* dl-TransportChannelType */
+   stat = asn1PD_UMTS_DL_TrCH_TypeId2_r5(ctx, &pvalue->dl_TransportChannelType);
+   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-TransportChannelIdentity-r5");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DeletedTransChInfoList_r5(rtxContext* RT_RESTRICT ctx, DL_DeletedTransChInfoList_r5* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-DeletedTransChInfoList-r5");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_TransportChannelIdentity_r5* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_TransportChannelIdentity_r5));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-TransportChannelIdentity-r5", (int32_t)i, "DL-DeletedTransChInfoList-r5");
+      elem = (DL_TransportChannelIdentity_r5*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_TransportChannelIdentity_r5(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_DL_TransportChannelIdentity_r5(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "DL-TransportChannelIdentity-r5", (int32_t)i, "DL-DeletedTransChInfoList-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_TrCH_TypeId2_r7_hsdsch(rtxContext* RT_RESTRICT ctx, DL_TrCH_TypeId2_r7_hsdsch* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* mac-hs */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.mac_hs, 0, 7);
+         RT_CHECK(ctx, stat, "MAC-d-FlowIdentity", "mac-hs", -1, 0);
+         break;
+      case 1: /* mac-ehs */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.mac_ehs, 0, 7);
+         RT_CHECK(ctx, stat, "MAC-ehs-QueueId", "mac-ehs", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_TrCH_TypeId2_r7(rtxContext* RT_RESTRICT ctx, DL_TrCH_TypeId2_r7* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-TrCH-TypeId2-r7");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dch */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.dch, 1, 32);
+         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch", -1, "DL-TrCH-TypeId2-r7");
+         break;
+      case 1: /* dsch */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.dsch, 1, 32);
+         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dsch", -1, "DL-TrCH-TypeId2-r7");
+         break;
+      case 2: /* hsdsch */
+         pvalue->u.hsdsch = (DL_TrCH_TypeId2_r7_hsdsch*)rtxMemHeapAlloc(ctx, sizeof(DL_TrCH_TypeId2_r7_hsdsch));
+         if (pvalue->u.hsdsch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "hsdsch", -1, "DL-TrCH-TypeId2-r7");
+         asn1Init_UMTS_DL_TrCH_TypeId2_r7_hsdsch(pvalue->u.hsdsch);
+         stat = asn1PD_UMTS_DL_TrCH_TypeId2_r7_hsdsch(ctx, pvalue->u.hsdsch);
+         RT_CHECK(ctx, stat, 0, "hsdsch", -1, "DL-TrCH-TypeId2-r7");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-TrCH-TypeId2-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_TransportChannelIdentity_r7(rtxContext* RT_RESTRICT ctx, DL_TransportChannelIdentity_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* dl-TransportChannelType */
+   stat = asn1PD_UMTS_DL_TrCH_TypeId2_r7(ctx, &pvalue->dl_TransportChannelType);
+   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-TransportChannelIdentity-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DeletedTransChInfoList_r7(rtxContext* RT_RESTRICT ctx, DL_DeletedTransChInfoList_r7* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-DeletedTransChInfoList-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_TransportChannelIdentity_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_TransportChannelIdentity_r7));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-TransportChannelIdentity-r7", (int32_t)i, "DL-DeletedTransChInfoList-r7");
+      elem = (DL_TransportChannelIdentity_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_TransportChannelIdentity_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_DL_TransportChannelIdentity_r7(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "DL-TransportChannelIdentity-r7", (int32_t)i, "DL-DeletedTransChInfoList-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DRAC_ClassIdentity(rtxContext* RT_RESTRICT ctx, DRAC_ClassIdentity* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DRAC-ClassIdentity");
+   return 0;
+}
+
+int asn1PD_UMTS_TransmissionTimeValidity(rtxContext* RT_RESTRICT ctx, TransmissionTimeValidity* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt16(ctx, pvalue, 1, 256);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransmissionTimeValidity");
+   return 0;
+}
+
+int asn1PD_UMTS_TimeDurationBeforeRetry(rtxContext* RT_RESTRICT ctx, TimeDurationBeforeRetry* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt16(ctx, pvalue, 1, 256);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimeDurationBeforeRetry");
+   return 0;
+}
+
+int asn1PD_UMTS_DRAC_StaticInformation(rtxContext* RT_RESTRICT ctx, DRAC_StaticInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* transmissionTimeValidity */
+   stat = pd_ConsUInt16(ctx, &pvalue->transmissionTimeValidity, 1, 256);
+   RT_CHECK(ctx, stat, "TransmissionTimeValidity", "transmissionTimeValidity", -1, "DRAC-StaticInformation");
+   /* timeDurationBeforeRetry */
+   stat = pd_ConsUInt16(ctx, &pvalue->timeDurationBeforeRetry, 1, 256);
+   RT_CHECK(ctx, stat, "TimeDurationBeforeRetry", "timeDurationBeforeRetry", -1, "DRAC-StaticInformation");
+   /* drac-ClassIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->drac_ClassIdentity, 1, 8);
+   RT_CHECK(ctx, stat, "DRAC-ClassIdentity", "drac-ClassIdentity", -1, "DRAC-StaticInformation");
+   return 0;
+}
+
+int asn1PD_UMTS_DRAC_StaticInformationList(rtxContext* RT_RESTRICT ctx, DRAC_StaticInformationList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DRAC-StaticInformationList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DRAC_StaticInformation* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DRAC_StaticInformation));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DRAC-StaticInformation", (int32_t)i, "DRAC-StaticInformationList");
+      elem = (DRAC_StaticInformation*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_DRAC_StaticInformation(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "DRAC-StaticInformation", (int32_t)i, "DRAC-StaticInformationList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType_non_ScheduledTransGrantInfo(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType_non_ScheduledTransGrantInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* maxMAC-e-PDUContents */
+   stat = pd_ConsUInt16(ctx, &pvalue->maxMAC_e_PDUContents, 1, 19982);
+   RT_CHECK(ctx, stat, 0, "maxMAC-e-PDUContents", -1, 0);
+   /* ms2-NonSchedTransmGrantHARQAlloc */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pd_BitString32(ctx, &pvalue->ms2_NonSchedTransmGrantHARQAlloc, 8, 8);
+      RT_CHECK(ctx, stat, 0, "ms2-NonSchedTransmGrantHARQAlloc", -1, 0);
+   }
    return 0;
 }
 

@@ -6,9024 +6,9002 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* ctx, HS_SCCH_Info_r7_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 2);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 3) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "HS-SCCH-Codes", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "HS-SCCH-Codes");
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 127);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_fdd(rtxContext* ctx, HS_SCCH_Info_r7_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* hS-SCCHChannelisationCodeInfo */
-   rtxCtxtPushElemName(ctx, "hS-SCCHChannelisationCodeInfo");
-   stat = asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-ScramblingCode */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-ScramblingCode");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "SecondaryScramblingCode");
-      stat = pd_ConsUInt8(ctx, &pvalue->dl_ScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DHS_Sync(rtxContext* ctx, DHS_Sync* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "DHS-Sync");
-   stat = pd_ConsInt8(ctx, pvalue, -20, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble* pvalue)
-{
-   int stat = 0;
-   /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftLong");
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_TDD384_r6_midambleAllocationMode(rtxContext* ctx, HS_SCCH_TDD384_r6_midambleAllocationMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "commonMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         pvalue->u.ueSpecificMidamble = (HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_TDD384_r6(rtxContext* ctx, HS_SCCH_TDD384_r6* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HS-SCCH-TDD384-r6");
-   /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* channelisationCode */
-   rtxCtxtPushElemName(ctx, "channelisationCode");
-   rtxCtxtPushTypeName(ctx, "DL-TS-ChannelisationCode");
-   stat = pd_ConsUnsigned(ctx, &pvalue->channelisationCode, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PD_UMTS_HS_SCCH_TDD384_r6_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midambleconfiguration */
-   rtxCtxtPushElemName(ctx, "midambleconfiguration");
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType1and3");
-   stat = pd_ConsUnsigned(ctx, &pvalue->midambleconfiguration, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hs-sich-configuration */
-   rtxCtxtPushElemName(ctx, "hs-sich-configuration");
-   stat = asn1PD_UMTS_HS_SICH_Configuration_TDD384(ctx, &pvalue->hs_sich_configuration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      HS_SCCH_TDD384_r6* elem;
-      rtxCtxtPushArrayElemName(ctx, "HS-SCCH-TDD384-r6", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD384_r6));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (HS_SCCH_TDD384_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_HS_SCCH_TDD384_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_HS_SCCH_TDD384_r6(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384(rtxContext* ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* nack-ack-power-offset */
-   rtxCtxtPushElemName(ctx, "nack-ack-power-offset");
-   stat = pd_ConsInt8(ctx, &pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hs-SICH-PowerControl-Info */
-   rtxCtxtPushElemName(ctx, "hs-SICH-PowerControl-Info");
-   stat = asn1PD_UMTS_HS_SICH_Power_Control_Info_TDD384(ctx, &pvalue->hs_SICH_PowerControl_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dhs-sync */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dhs-sync");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "DHS-Sync");
-      stat = pd_ConsInt8(ctx, &pvalue->dhs_sync, -20, 10);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* bler-target */
-   rtxCtxtPushElemName(ctx, "bler-target");
-   rtxCtxtPushTypeName(ctx, "Bler-Target");
-   stat = pd_ConsInt8(ctx, &pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hS-SCCH-SetConfiguration */
-   rtxCtxtPushElemName(ctx, "hS-SCCH-SetConfiguration");
-   stat = asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SICH_Power_Control_Info_TDD768(rtxContext* ctx, HS_SICH_Power_Control_Info_TDD768* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HS-SICH-Power-Control-Info-TDD768");
-   /* ul-target-SIR */
-   rtxCtxtPushElemName(ctx, "ul-target-SIR");
-   stat = pd_ConsInt8(ctx, &pvalue->ul_target_SIR, -22, 40);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hs-sich-ConstantValue */
-   rtxCtxtPushElemName(ctx, "hs-sich-ConstantValue");
-   rtxCtxtPushTypeName(ctx, "ConstantValue");
-   stat = pd_ConsInt8(ctx, &pvalue->hs_sich_ConstantValue, -35, -10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble* pvalue)
-{
-   int stat = 0;
-   /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftLong");
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_TDD768_midambleAllocationMode(rtxContext* ctx, HS_SCCH_TDD768_midambleAllocationMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "commonMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         pvalue->u.ueSpecificMidamble = (HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble* pvalue)
-{
-   int stat = 0;
-   /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftLong");
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SICH_Configuration_TDD768_midambleAllocationMode(rtxContext* ctx, HS_SICH_Configuration_TDD768_midambleAllocationMode* pvalue)
+int asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
+      case 0: /* non-ScheduledTransGrantInfo */
+         pvalue->u.non_ScheduledTransGrantInfo = (E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType_non_ScheduledTransGrantInfo*)rtxMemHeapAlloc(ctx, sizeof(E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType_non_ScheduledTransGrantInfo));
+         if (pvalue->u.non_ScheduledTransGrantInfo == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "non-ScheduledTransGrantInfo", -1, 0);
+         asn1Init_UMTS_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType_non_ScheduledTransGrantInfo(pvalue->u.non_ScheduledTransGrantInfo);
+         stat = asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType_non_ScheduledTransGrantInfo(ctx, pvalue->u.non_ScheduledTransGrantInfo);
+         RT_CHECK(ctx, stat, 0, "non-ScheduledTransGrantInfo", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         pvalue->u.ueSpecificMidamble = (HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 1: /* scheduledTransmissionGrantInfo */
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_HS_SICH_Configuration_TDD768(rtxContext* ctx, HS_SICH_Configuration_TDD768* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HS-SICH-Configuration-TDD768");
-   /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* channelisationCode */
-   rtxCtxtPushElemName(ctx, "channelisationCode");
-   rtxCtxtPushTypeName(ctx, "DL-TS-ChannelisationCode-VHCR");
-   stat = pd_ConsUnsigned(ctx, &pvalue->channelisationCode, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PD_UMTS_HS_SICH_Configuration_TDD768_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midambleconfiguration */
-   rtxCtxtPushElemName(ctx, "midambleconfiguration");
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType1and3");
-   stat = pd_ConsUnsigned(ctx, &pvalue->midambleconfiguration, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_TDD768(rtxContext* ctx, HS_SCCH_TDD768* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HS-SCCH-TDD768");
-   /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* channelisationCode */
-   rtxCtxtPushElemName(ctx, "channelisationCode");
-   rtxCtxtPushTypeName(ctx, "DL-TS-ChannelisationCode-VHCR");
-   stat = pd_ConsUnsigned(ctx, &pvalue->channelisationCode, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PD_UMTS_HS_SCCH_TDD768_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midambleconfiguration */
-   rtxCtxtPushElemName(ctx, "midambleconfiguration");
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType1and3");
-   stat = pd_ConsUnsigned(ctx, &pvalue->midambleconfiguration, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hs-sich-configuration */
-   rtxCtxtPushElemName(ctx, "hs-sich-configuration");
-   stat = asn1PD_UMTS_HS_SICH_Configuration_TDD768(ctx, &pvalue->hs_sich_configuration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(rtxContext* ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      HS_SCCH_TDD768* elem;
-      rtxCtxtPushArrayElemName(ctx, "HS-SCCH-TDD768", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD768));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (HS_SCCH_TDD768*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_HS_SCCH_TDD768(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_HS_SCCH_TDD768(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768(rtxContext* ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* nack-ack-power-offset */
-   rtxCtxtPushElemName(ctx, "nack-ack-power-offset");
-   stat = pd_ConsInt8(ctx, &pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hs-SICH-PowerControl-Info */
-   rtxCtxtPushElemName(ctx, "hs-SICH-PowerControl-Info");
-   stat = asn1PD_UMTS_HS_SICH_Power_Control_Info_TDD768(ctx, &pvalue->hs_SICH_PowerControl_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dhs-sync */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dhs-sync");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "DHS-Sync");
-      stat = pd_ConsInt8(ctx, &pvalue->dhs_sync, -20, 10);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* bler-target */
-   rtxCtxtPushElemName(ctx, "bler-target");
-   rtxCtxtPushTypeName(ctx, "Bler-Target");
-   stat = pd_ConsInt8(ctx, &pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hS-SCCH-SetConfiguration */
-   rtxCtxtPushElemName(ctx, "hS-SCCH-SetConfiguration");
-   stat = asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_tpc_step_size(rtxContext* ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_tpc_step_size* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_PowerControlGAP(rtxContext* ctx, PowerControlGAP* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "PowerControlGAP");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(rtxContext* ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      HS_SCCH_TDD128_r6* elem;
-      rtxCtxtPushArrayElemName(ctx, "HS-SCCH-TDD128-r6", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD128_r6));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (HS_SCCH_TDD128_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_HS_SCCH_TDD128_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_HS_SCCH_TDD128_r6(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128(rtxContext* ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* nack-ack-power-offset */
-   rtxCtxtPushElemName(ctx, "nack-ack-power-offset");
-   stat = pd_ConsInt8(ctx, &pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* power-level-HSSICH */
-   rtxCtxtPushElemName(ctx, "power-level-HSSICH");
-   stat = pd_ConsInt8(ctx, &pvalue->power_level_HSSICH, -120, -58);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tpc-step-size */
-   rtxCtxtPushElemName(ctx, "tpc-step-size");
-   stat = pd_ConsUnsigned(ctx, &pvalue->tpc_step_size, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* bler-target */
-   rtxCtxtPushElemName(ctx, "bler-target");
-   rtxCtxtPushTypeName(ctx, "Bler-Target");
-   stat = pd_ConsInt8(ctx, &pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* powerControlGAP */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "powerControlGAP");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "PowerControlGAP");
-      stat = pd_ConsUInt8(ctx, &pvalue->powerControlGAP, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pathlossCompensationSwitch */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "pathlossCompensationSwitch");
-      pvalue->m |= 0x2u;
-      stat = rtxDecBitInline(ctx, &pvalue->pathlossCompensationSwitch);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hS-SCCH-SetConfiguration */
-   rtxCtxtPushElemName(ctx, "hS-SCCH-SetConfiguration");
-   stat = asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd(rtxContext* ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         pvalue->u.tdd384 = (HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd768");
-         pvalue->u.tdd768 = (HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768));
-         if (pvalue->u.tdd768 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768(pvalue->u.tdd768);
-         stat = asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         pvalue->u.tdd128 = (HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo(rtxContext* ctx, HS_SCCH_Info_r7_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (HS_SCCH_Info_r7_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r7_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (HS_SCCH_Info_r7_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r7_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r7(rtxContext* ctx, HS_SCCH_Info_r7* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HS-SCCH-Info-r7");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_HS_SCCH_Info_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384(rtxContext* ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dl-HSPDSCH-TS-Configuration */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-TS-Configuration");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_TS_Configuration(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble* pvalue)
-{
-   int stat = 0;
-   /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftLong");
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode(rtxContext* ctx, MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "commonMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1(rtxContext* ctx, MidambleShiftAndBurstType_DL_VHCR_burstType_type1* pvalue)
-{
-   int stat = 0;
-   /* midambleConfigurationBurstType1and3 */
-   rtxCtxtPushElemName(ctx, "midambleConfigurationBurstType1and3");
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType1and3");
-   stat = pd_ConsUnsigned(ctx, &pvalue->midambleConfigurationBurstType1and3, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble* pvalue)
-{
-   int stat = 0;
-   /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftShort-VHCR");
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode(rtxContext* ctx, MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "commonMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble));
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2(rtxContext* ctx, MidambleShiftAndBurstType_DL_VHCR_burstType_type2* pvalue)
-{
-   int stat = 0;
-   /* midambleConfigurationBurstType2 */
-   rtxCtxtPushElemName(ctx, "midambleConfigurationBurstType2");
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType2-VHCR");
-   stat = pd_ConsUnsigned(ctx, &pvalue->midambleConfigurationBurstType2, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType(rtxContext* ctx, MidambleShiftAndBurstType_DL_VHCR_burstType* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "type1");
-         pvalue->u.type1 = (MidambleShiftAndBurstType_DL_VHCR_burstType_type1*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_DL_VHCR_burstType_type1));
-         if (pvalue->u.type1 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1(pvalue->u.type1);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1(ctx, pvalue->u.type1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "type2");
-         pvalue->u.type2 = (MidambleShiftAndBurstType_DL_VHCR_burstType_type2*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_DL_VHCR_burstType_type2));
-         if (pvalue->u.type2 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2(pvalue->u.type2);
-         stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2(ctx, pvalue->u.type2);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR(rtxContext* ctx, MidambleShiftAndBurstType_DL_VHCR* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MidambleShiftAndBurstType-DL-VHCR");
-   /* burstType */
-   rtxCtxtPushElemName(ctx, "burstType");
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType(ctx, &pvalue->burstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_TS_Configuration_VHCR_element(rtxContext* ctx, DL_HSPDSCH_TS_Configuration_VHCR_element* pvalue)
-{
-   int stat = 0;
-   /* timeslot */
-   rtxCtxtPushElemName(ctx, "timeslot");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleShiftAndBurstType */
-   rtxCtxtPushElemName(ctx, "midambleShiftAndBurstType");
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_DL_VHCR(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_TS_Configuration_VHCR(rtxContext* ctx, DL_HSPDSCH_TS_Configuration_VHCR* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "DL-HSPDSCH-TS-Configuration-VHCR");
-   RT_SET_SIZE(ctx, 1, 13);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DL_HSPDSCH_TS_Configuration_VHCR_element* elem;
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_HSPDSCH_TS_Configuration_VHCR_element));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (DL_HSPDSCH_TS_Configuration_VHCR_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DL_HSPDSCH_TS_Configuration_VHCR_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DL_HSPDSCH_TS_Configuration_VHCR_element(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768(rtxContext* ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dl-HSPDSCH-TS-Configuration */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-TS-Configuration");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_TS_Configuration_VHCR(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_MultiCarrier_Information_tsn_Length(rtxContext* ctx, DL_MultiCarrier_Information_tsn_Length* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_TDD128_MultiCarrier_midambleAllocationMode(rtxContext* ctx, HS_SCCH_TDD128_MultiCarrier_midambleAllocationMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "commonMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.ueSpecificMidamble, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_TDD128_MultiCarrier(rtxContext* ctx, HS_SCCH_TDD128_MultiCarrier* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HS-SCCH-TDD128-MultiCarrier");
-   /* uarfcn-HS-SCCH-Rx */
-   rtxCtxtPushElemName(ctx, "uarfcn-HS-SCCH-Rx");
-   rtxCtxtPushTypeName(ctx, "UARFCN");
-   stat = pd_ConsUInt16(ctx, &pvalue->uarfcn_HS_SCCH_Rx, 0, 16383);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-LCR-r4");
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* firstChannelisationCode */
-   rtxCtxtPushElemName(ctx, "firstChannelisationCode");
-   rtxCtxtPushTypeName(ctx, "HS-ChannelisationCode-LCR");
-   stat = pd_ConsUnsigned(ctx, &pvalue->firstChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* secondChannelisationCode */
-   rtxCtxtPushElemName(ctx, "secondChannelisationCode");
-   rtxCtxtPushTypeName(ctx, "HS-ChannelisationCode-LCR");
-   stat = pd_ConsUnsigned(ctx, &pvalue->secondChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PD_UMTS_HS_SCCH_TDD128_MultiCarrier_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midambleConfiguration */
-   rtxCtxtPushElemName(ctx, "midambleConfiguration");
-   stat = pd_ConsUInt8(ctx, &pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* bler-target */
-   rtxCtxtPushElemName(ctx, "bler-target");
-   rtxCtxtPushTypeName(ctx, "Bler-Target");
-   stat = pd_ConsInt8(ctx, &pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hs-sich-configuration */
-   rtxCtxtPushElemName(ctx, "hs-sich-configuration");
-   stat = asn1PD_UMTS_HS_SICH_Configuration_TDD128(ctx, &pvalue->hs_sich_configuration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_MultiCarrier_Information_element_hs_SCCH_TDD128_MultiCarrier(rtxContext* ctx, DL_HSPDSCH_MultiCarrier_Information_element_hs_SCCH_TDD128_MultiCarrier* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      HS_SCCH_TDD128_MultiCarrier* elem;
-      rtxCtxtPushArrayElemName(ctx, "HS-SCCH-TDD128-MultiCarrier", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD128_MultiCarrier));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (HS_SCCH_TDD128_MultiCarrier*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_HS_SCCH_TDD128_MultiCarrier(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_HS_SCCH_TDD128_MultiCarrier(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_MultiCarrier_Information_element(rtxContext* ctx, DL_HSPDSCH_MultiCarrier_Information_element* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* uarfcn-Carrier */
-   rtxCtxtPushElemName(ctx, "uarfcn-Carrier");
-   rtxCtxtPushTypeName(ctx, "UARFCN");
-   stat = pd_ConsUInt16(ctx, &pvalue->uarfcn_Carrier, 0, 16383);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* harqInfo */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "harqInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HARQ_Info(ctx, &pvalue->harqInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hs-PDSCH-Midamble-Configuration */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "hs-PDSCH-Midamble-Configuration");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hs-SCCH-TDD128-MultiCarrier */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "hs-SCCH-TDD128-MultiCarrier");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_MultiCarrier_Information_element_hs_SCCH_TDD128_MultiCarrier(ctx, &pvalue->hs_SCCH_TDD128_MultiCarrier);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_MultiCarrier_Information(rtxContext* ctx, DL_HSPDSCH_MultiCarrier_Information* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "DL-HSPDSCH-MultiCarrier-Information");
-   RT_SET_SIZE(ctx, 1, 6);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DL_HSPDSCH_MultiCarrier_Information_element* elem;
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_HSPDSCH_MultiCarrier_Information_element));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (DL_HSPDSCH_MultiCarrier_Information_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DL_HSPDSCH_MultiCarrier_Information_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DL_HSPDSCH_MultiCarrier_Information_element(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_MultiCarrier_Information(rtxContext* ctx, DL_MultiCarrier_Information* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "DL-MultiCarrier-Information");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* tsn-Length */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "tsn-Length");
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->tsn_Length, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* multiCarrierNumber */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "multiCarrierNumber");
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->multiCarrierNumber, 1, 6);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-HSPDSCH-MultiCarrier-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-MultiCarrier-Information");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_MultiCarrier_Information(ctx, &pvalue->dl_HSPDSCH_MultiCarrier_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128(rtxContext* ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* hs-PDSCH-Midamble-Configuration-tdd128 */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "hs-PDSCH-Midamble-Configuration-tdd128");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration_tdd128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-MultiCarrier-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-MultiCarrier-Information");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DL_MultiCarrier_Information(ctx, &pvalue->dl_MultiCarrier_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd(rtxContext* ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         pvalue->u.tdd384 = (DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd768");
-         pvalue->u.tdd768 = (DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768));
-         if (pvalue->u.tdd768 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768(pvalue->u.tdd768);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         pvalue->u.tdd128 = (DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd_dl_64QAM_Configured(rtxContext* ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd_dl_64QAM_Configured* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd(rtxContext* ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dl-64QAM-Configured */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-64QAM-Configured");
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->dl_64QAM_Configured = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo(rtxContext* ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r7(rtxContext* ctx, DL_HSPDSCH_Information_r7* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "DL-HSPDSCH-Information-r7");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* hs-scch-Info */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "hs-scch-Info");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HS_SCCH_Info_r7(ctx, &pvalue->hs_scch_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurement-feedback-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "measurement-feedback-Info");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_feedback_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HARQ_Info_r7_numberOfProcesses(rtxContext* ctx, HARQ_Info_r7_numberOfProcesses* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 10);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_HARQ_Info_r7_memoryPartitioning_explicit__memorySize(rtxContext* ctx, HARQ_Info_r7_memoryPartitioning_explicit__memorySize* pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 7) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "HARQMemorySize", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "HARQMemorySize");
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 60);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HARQ_Info_r7_memoryPartitioning_explicit__additionalMemorySizesForMIMO(rtxContext* ctx, HARQ_Info_r7_memoryPartitioning_explicit__additionalMemorySizesForMIMO* pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 7) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "HARQMemorySize", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "HARQMemorySize");
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 60);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HARQ_Info_r7_memoryPartitioning_explicit_(rtxContext* ctx, HARQ_Info_r7_memoryPartitioning_explicit_* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* memorySize */
-   rtxCtxtPushElemName(ctx, "memorySize");
-   stat = asn1PD_UMTS_HARQ_Info_r7_memoryPartitioning_explicit__memorySize(ctx, &pvalue->memorySize);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* additionalMemorySizesForMIMO */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "additionalMemorySizesForMIMO");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HARQ_Info_r7_memoryPartitioning_explicit__additionalMemorySizesForMIMO(ctx, &pvalue->additionalMemorySizesForMIMO);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HARQ_Info_r7_memoryPartitioning(rtxContext* ctx, HARQ_Info_r7_memoryPartitioning* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "implicit");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "explicit");
-         pvalue->u.explicit_ = (HARQ_Info_r7_memoryPartitioning_explicit_*)rtxMemHeapAlloc(ctx, sizeof(HARQ_Info_r7_memoryPartitioning_explicit_));
-         if (pvalue->u.explicit_ == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HARQ_Info_r7_memoryPartitioning_explicit_(pvalue->u.explicit_);
-         stat = asn1PD_UMTS_HARQ_Info_r7_memoryPartitioning_explicit_(ctx, pvalue->u.explicit_);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HARQ_Info_r7(rtxContext* ctx, HARQ_Info_r7* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HARQ-Info-r7");
-   /* numberOfProcesses */
-   rtxCtxtPushElemName(ctx, "numberOfProcesses");
-   stat = pd_ConsUnsigned(ctx, &pvalue->numberOfProcesses, 0, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* memoryPartitioning */
-   rtxCtxtPushElemName(ctx, "memoryPartitioning");
-   stat = asn1PD_UMTS_HARQ_Info_r7_memoryPartitioning(ctx, &pvalue->memoryPartitioning);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Serving_HSDSCH_CellInformation_r7_mac_hsResetIndicator(rtxContext* ctx, Serving_HSDSCH_CellInformation_r7_mac_hsResetIndicator* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Serving_HSDSCH_CellInformation_r7(rtxContext* ctx, Serving_HSDSCH_CellInformation_r7* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "Serving-HSDSCH-CellInformation-r7");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat);
-   /* deltaACK */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "deltaACK");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "DeltaACK");
-      stat = pd_ConsUInt8(ctx, &pvalue->deltaACK, 0, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* deltaNACK */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "deltaNACK");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "DeltaNACK");
-      stat = pd_ConsUInt8(ctx, &pvalue->deltaNACK, 0, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* harq-Preamble-Mode */
-   rtxCtxtPushElemName(ctx, "harq-Preamble-Mode");
-   rtxCtxtPushTypeName(ctx, "HARQ-Preamble-Mode");
-   stat = pd_ConsUInt8(ctx, &pvalue->harq_Preamble_Mode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCPICH-Info */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-hspdsch-Information */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "dl-hspdsch-Information");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7(ctx, &pvalue->dl_hspdsch_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* harqInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "harqInfo");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mac-hsResetIndicator */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mac-hsResetIndicator");
-      pvalue->m |= 0x20u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->mac_hsResetIndicator = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384(rtxContext* ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dl-HSPDSCH-TS-Configuration */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-TS-Configuration");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_TS_Configuration(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768(rtxContext* ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dl-HSPDSCH-TS-Configuration */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-TS-Configuration");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_TS_Configuration_VHCR(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128(rtxContext* ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* hs-PDSCH-Midamble-Configuration-tdd128 */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "hs-PDSCH-Midamble-Configuration-tdd128");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration_tdd128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-MultiCarrier-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-MultiCarrier-Information");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DL_MultiCarrier_Information(ctx, &pvalue->dl_MultiCarrier_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd(rtxContext* ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         pvalue->u.tdd384 = (DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd768");
-         pvalue->u.tdd768 = (DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768));
-         if (pvalue->u.tdd768 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768(pvalue->u.tdd768);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         pvalue->u.tdd128 = (DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd_dl_64QAM_Configured(rtxContext* ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd_dl_64QAM_Configured* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_DSCH_TBSizeTable(rtxContext* ctx, HS_DSCH_TBSizeTable* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "HS-DSCH-TBSizeTable");
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd(rtxContext* ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* dl-64QAM-Configured */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dl-64QAM-Configured");
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->dl_64QAM_Configured = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hs-DSCH-TBSizeTable */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "hs-DSCH-TBSizeTable");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "HS-DSCH-TBSizeTable");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->hs_DSCH_TBSizeTable = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo(rtxContext* ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r8(rtxContext* ctx, DL_HSPDSCH_Information_r8* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "DL-HSPDSCH-Information-r8");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* hs-scch-Info */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "hs-scch-Info");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HS_SCCH_Info_r7(ctx, &pvalue->hs_scch_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurement-feedback-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "measurement-feedback-Info");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_feedback_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Serving_HSDSCH_CellInformation_r8_mac_hsResetIndicator(rtxContext* ctx, Serving_HSDSCH_CellInformation_r8_mac_hsResetIndicator* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Serving_HSDSCH_CellInformation_r8(rtxContext* ctx, Serving_HSDSCH_CellInformation_r8* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "Serving-HSDSCH-CellInformation-r8");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat);
-   /* deltaACK */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "deltaACK");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "DeltaACK");
-      stat = pd_ConsUInt8(ctx, &pvalue->deltaACK, 0, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* deltaNACK */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "deltaNACK");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "DeltaNACK");
-      stat = pd_ConsUInt8(ctx, &pvalue->deltaNACK, 0, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* harq-Preamble-Mode */
-   rtxCtxtPushElemName(ctx, "harq-Preamble-Mode");
-   rtxCtxtPushTypeName(ctx, "HARQ-Preamble-Mode");
-   stat = pd_ConsUInt8(ctx, &pvalue->harq_Preamble_Mode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCPICH-Info */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-hspdsch-Information */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "dl-hspdsch-Information");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_hspdsch_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* harqInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "harqInfo");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mac-hsResetIndicator */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mac-hsResetIndicator");
-      pvalue->m |= 0x20u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->mac_hsResetIndicator = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* ctx, HS_SCCH_Info_r9_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 2);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 3) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "HS-SCCH-Codes", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "HS-SCCH-Codes");
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 127);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_fdd(rtxContext* ctx, HS_SCCH_Info_r9_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* hS-SCCHChannelisationCodeInfo */
-   rtxCtxtPushElemName(ctx, "hS-SCCHChannelisationCodeInfo");
-   stat = asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-ScramblingCode */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-ScramblingCode");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "SecondaryScramblingCode");
-      stat = pd_ConsUInt8(ctx, &pvalue->dl_ScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      HS_SCCH_TDD384_r6* elem;
-      rtxCtxtPushArrayElemName(ctx, "HS-SCCH-TDD384-r6", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD384_r6));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (HS_SCCH_TDD384_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_HS_SCCH_TDD384_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_HS_SCCH_TDD384_r6(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384(rtxContext* ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* nack-ack-power-offset */
-   rtxCtxtPushElemName(ctx, "nack-ack-power-offset");
-   stat = pd_ConsInt8(ctx, &pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hs-SICH-PowerControl-Info */
-   rtxCtxtPushElemName(ctx, "hs-SICH-PowerControl-Info");
-   stat = asn1PD_UMTS_HS_SICH_Power_Control_Info_TDD384(ctx, &pvalue->hs_SICH_PowerControl_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dhs-sync */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dhs-sync");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "DHS-Sync");
-      stat = pd_ConsInt8(ctx, &pvalue->dhs_sync, -20, 10);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* bler-target */
-   rtxCtxtPushElemName(ctx, "bler-target");
-   rtxCtxtPushTypeName(ctx, "Bler-Target");
-   stat = pd_ConsInt8(ctx, &pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hS-SCCH-SetConfiguration */
-   rtxCtxtPushElemName(ctx, "hS-SCCH-SetConfiguration");
-   stat = asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(rtxContext* ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      HS_SCCH_TDD768* elem;
-      rtxCtxtPushArrayElemName(ctx, "HS-SCCH-TDD768", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD768));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (HS_SCCH_TDD768*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_HS_SCCH_TDD768(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_HS_SCCH_TDD768(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768(rtxContext* ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* nack-ack-power-offset */
-   rtxCtxtPushElemName(ctx, "nack-ack-power-offset");
-   stat = pd_ConsInt8(ctx, &pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hs-SICH-PowerControl-Info */
-   rtxCtxtPushElemName(ctx, "hs-SICH-PowerControl-Info");
-   stat = asn1PD_UMTS_HS_SICH_Power_Control_Info_TDD768(ctx, &pvalue->hs_SICH_PowerControl_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dhs-sync */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dhs-sync");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "DHS-Sync");
-      stat = pd_ConsInt8(ctx, &pvalue->dhs_sync, -20, 10);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* bler-target */
-   rtxCtxtPushElemName(ctx, "bler-target");
-   rtxCtxtPushTypeName(ctx, "Bler-Target");
-   stat = pd_ConsInt8(ctx, &pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hS-SCCH-SetConfiguration */
-   rtxCtxtPushElemName(ctx, "hS-SCCH-SetConfiguration");
-   stat = asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_tpc_step_size(rtxContext* ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_tpc_step_size* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size(rtxContext* ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(rtxContext* ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      HS_SCCH_TDD128_r6* elem;
-      rtxCtxtPushArrayElemName(ctx, "HS-SCCH-TDD128-r6", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD128_r6));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (HS_SCCH_TDD128_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_HS_SCCH_TDD128_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_HS_SCCH_TDD128_r6(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128(rtxContext* ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* nack-ack-power-offset */
-   rtxCtxtPushElemName(ctx, "nack-ack-power-offset");
-   stat = pd_ConsInt8(ctx, &pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* power-level-HSSICH */
-   rtxCtxtPushElemName(ctx, "power-level-HSSICH");
-   stat = pd_ConsInt8(ctx, &pvalue->power_level_HSSICH, -120, -58);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tpc-step-size */
-   rtxCtxtPushElemName(ctx, "tpc-step-size");
-   stat = pd_ConsUnsigned(ctx, &pvalue->tpc_step_size, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* bler-target */
-   rtxCtxtPushElemName(ctx, "bler-target");
-   rtxCtxtPushTypeName(ctx, "Bler-Target");
-   stat = pd_ConsInt8(ctx, &pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hS-SCCH-tpc-step-size */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "hS-SCCH-tpc-step-size");
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->hS_SCCH_tpc_step_size, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* powerControlGAP */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "powerControlGAP");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "PowerControlGAP");
-      stat = pd_ConsUInt8(ctx, &pvalue->powerControlGAP, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pathlossCompensationSwitch */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "pathlossCompensationSwitch");
-      pvalue->m |= 0x4u;
-      stat = rtxDecBitInline(ctx, &pvalue->pathlossCompensationSwitch);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hS-SCCH-SetConfiguration */
-   rtxCtxtPushElemName(ctx, "hS-SCCH-SetConfiguration");
-   stat = asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd(rtxContext* ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         pvalue->u.tdd384 = (HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd768");
-         pvalue->u.tdd768 = (HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768));
-         if (pvalue->u.tdd768 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768(pvalue->u.tdd768);
-         stat = asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         pvalue->u.tdd128 = (HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo(rtxContext* ctx, HS_SCCH_Info_r9_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (HS_SCCH_Info_r9_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r9_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (HS_SCCH_Info_r9_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r9_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HS_SCCH_Info_r9(rtxContext* ctx, HS_SCCH_Info_r9* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HS-SCCH-Info-r9");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_HS_SCCH_Info_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384(rtxContext* ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dl-HSPDSCH-TS-Configuration */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-TS-Configuration");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_TS_Configuration(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768(rtxContext* ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dl-HSPDSCH-TS-Configuration */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-TS-Configuration");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_TS_Configuration_VHCR(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128_tS0_Indicator(rtxContext* ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128_tS0_Indicator* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_OutofSyncWindow(rtxContext* ctx, OutofSyncWindow* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "OutofSyncWindow");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128(rtxContext* ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128* pvalue)
+int asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* hs-PDSCH-Midamble-Configuration-tdd128 */
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-AddReconf-MAC-d-Flow");
+   /* mac-d-FlowIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->mac_d_FlowIdentity, 0, 7);
+   RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowIdentity", "mac-d-FlowIdentity", -1, "E-DCH-AddReconf-MAC-d-Flow");
+   /* mac-d-FlowPowerOffset */
    if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "hs-PDSCH-Midamble-Configuration-tdd128");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration_tdd128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUInt8(ctx, &pvalue->mac_d_FlowPowerOffset, 0, 6);
+      RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowPowerOffset", "mac-d-FlowPowerOffset", -1, "E-DCH-AddReconf-MAC-d-Flow");
    }
-   /* dl-MultiCarrier-Information */
+   /* mac-d-FlowMaxRetrans */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "dl-MultiCarrier-Information");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DL_MultiCarrier_Information(ctx, &pvalue->dl_MultiCarrier_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUInt8(ctx, &pvalue->mac_d_FlowMaxRetrans, 0, 15);
+      RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowMaxRetrans", "mac-d-FlowMaxRetrans", -1, "E-DCH-AddReconf-MAC-d-Flow");
    }
-   /* tS0-Indicator */
+   /* mac-d-FlowMultiplexingList */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "tS0-Indicator");
       pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->tS0_Indicator = ui;
-      }
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_E_DCH_MAC_d_FlowMultiplexingList(ctx, &pvalue->mac_d_FlowMultiplexingList);
+      RT_CHECK(ctx, stat, 0, "mac-d-FlowMultiplexingList", -1, "E-DCH-AddReconf-MAC-d-Flow");
    }
-   /* outofSyncWindow */
+   /* transmissionGrantType */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "outofSyncWindow");
       pvalue->m |= 0x8u;
-      rtxCtxtPushTypeName(ctx, "OutofSyncWindow");
-      stat = pd_ConsUnsigned(ctx, &pvalue->outofSyncWindow, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType(ctx, &pvalue->transmissionGrantType);
+      RT_CHECK(ctx, stat, 0, "transmissionGrantType", -1, "E-DCH-AddReconf-MAC-d-Flow");
    }
    return 0;
 }
 
-int asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd(rtxContext* ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         pvalue->u.tdd384 = (DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd768");
-         pvalue->u.tdd768 = (DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768));
-         if (pvalue->u.tdd768 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768(pvalue->u.tdd768);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         pvalue->u.tdd128 = (DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd_dl_64QAM_Configured(rtxContext* ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd_dl_64QAM_Configured* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd(rtxContext* ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd* pvalue)
+int asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* dl-64QAM-Configured */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dl-64QAM-Configured");
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->dl_64QAM_Configured = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hs-DSCH-TBSizeTable */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* maxMAC-e-PDUContents */
+   stat = pd_ConsUInt16(ctx, &pvalue->maxMAC_e_PDUContents, 1, 19982);
+   RT_CHECK(ctx, stat, 0, "maxMAC-e-PDUContents", -1, 0);
+   /* ms2-NonSchedTransmGrantHARQAlloc */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "hs-DSCH-TBSizeTable");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "HS-DSCH-TBSizeTable");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->hs_DSCH_TBSizeTable = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x1u;
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pd_BitString32(ctx, &pvalue->ms2_NonSchedTransmGrantHARQAlloc, 8, 8);
+      RT_CHECK(ctx, stat, 0, "ms2-NonSchedTransmGrantHARQAlloc", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo(rtxContext* ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo* pvalue)
+int asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 0: /* fdd */
+         pvalue->u.fdd = (E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 1: /* tdd */
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_DL_HSPDSCH_Information_r9(rtxContext* ctx, DL_HSPDSCH_Information_r9* pvalue)
+int asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "DL-HSPDSCH-Information-r9");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* hs-scch-Info */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "hs-scch-Info");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HS_SCCH_Info_r9(ctx, &pvalue->hs_scch_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurement-feedback-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "measurement-feedback-Info");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_feedback_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
    /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   stat = asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_Serving_HSDSCH_CellInformation_r9_mac_hsResetIndicator(rtxContext* ctx, Serving_HSDSCH_CellInformation_r9_mac_hsResetIndicator* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Serving_HSDSCH_CellInformation_r9(rtxContext* ctx, Serving_HSDSCH_CellInformation_r9* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "Serving-HSDSCH-CellInformation-r9");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat);
-   /* deltaACK */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "deltaACK");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "DeltaACK");
-      stat = pd_ConsUInt8(ctx, &pvalue->deltaACK, 0, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* deltaNACK */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "deltaNACK");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "DeltaNACK");
-      stat = pd_ConsUInt8(ctx, &pvalue->deltaNACK, 0, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* harq-Preamble-Mode */
-   rtxCtxtPushElemName(ctx, "harq-Preamble-Mode");
-   rtxCtxtPushTypeName(ctx, "HARQ-Preamble-Mode");
-   stat = pd_ConsUInt8(ctx, &pvalue->harq_Preamble_Mode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCPICH-Info */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-hspdsch-Information */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "dl-hspdsch-Information");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_hspdsch_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* harqInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "harqInfo");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mac-hsResetIndicator */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mac-hsResetIndicator");
-      pvalue->m |= 0x20u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->mac_hsResetIndicator = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SR_VCC_Info_nonce(rtxContext* ctx, SR_VCC_Info_nonce* pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 128, 128);
-   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_SR_VCC_Info(rtxContext* ctx, SR_VCC_Info* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SR-VCC-Info");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* nonce */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonce");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SR_VCC_Info_nonce(ctx, &pvalue->nonce);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InfoReplace(rtxContext* ctx, RAB_InfoReplace* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RAB-InfoReplace");
-   /* rab-Identity */
-   rtxCtxtPushElemName(ctx, "rab-Identity");
-   stat = asn1PD_UMTS_RAB_Identity(ctx, &pvalue->rab_Identity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cn-DomainIdentity */
-   rtxCtxtPushElemName(ctx, "cn-DomainIdentity");
-   rtxCtxtPushTypeName(ctx, "CN-DomainIdentity");
-   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SR_VCC_SecurityRABInfo_v860ext(rtxContext* ctx, SR_VCC_SecurityRABInfo_v860ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SR-VCC-SecurityRABInfo-v860ext");
-   /* sr-vcc-Info */
-   rtxCtxtPushElemName(ctx, "sr-vcc-Info");
-   stat = asn1PD_UMTS_SR_VCC_Info(ctx, &pvalue->sr_vcc_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rab-InfoReplace */
-   rtxCtxtPushElemName(ctx, "rab-InfoReplace");
-   stat = asn1PD_UMTS_RAB_InfoReplace(ctx, &pvalue->rab_InfoReplace);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_START_Value(rtxContext* ctx, START_Value* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "START-Value");
-   RT_SET_SIZE(ctx, 20, 20);
-   stat = pd_BitString32(ctx, pvalue, 20, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_STARTSingle(rtxContext* ctx, STARTSingle* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "STARTSingle");
-   /* cn-DomainIdentity */
-   rtxCtxtPushElemName(ctx, "cn-DomainIdentity");
-   rtxCtxtPushTypeName(ctx, "CN-DomainIdentity");
-   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* start-Value */
-   rtxCtxtPushElemName(ctx, "start-Value");
-   stat = asn1PD_UMTS_START_Value(ctx, &pvalue->start_Value);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_STARTList(rtxContext* ctx, STARTList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "STARTList");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      STARTSingle* elem;
-      rtxCtxtPushArrayElemName(ctx, "STARTSingle", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(STARTSingle));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (STARTSingle*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_STARTSingle(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_STARTSingle(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SystemSpecificCapUpdateReq_v590ext(rtxContext* ctx, SystemSpecificCapUpdateReq_v590ext* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "SystemSpecificCapUpdateReq-v590ext");
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_T_318(rtxContext* ctx, T_318* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "T-318");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_T_319(rtxContext* ctx, T_319* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "T-319");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_TransChCapability_modeSpecificInfo_tdd(rtxContext* ctx, UL_TransChCapability_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   /* maxSimultaneousCCTrCH-Count */
-   rtxCtxtPushElemName(ctx, "maxSimultaneousCCTrCH-Count");
-   rtxCtxtPushTypeName(ctx, "MaxSimultaneousCCTrCH-Count");
-   stat = pd_ConsUInt8(ctx, &pvalue->maxSimultaneousCCTrCH_Count, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_TransChCapability_modeSpecificInfo(rtxContext* ctx, UL_TransChCapability_modeSpecificInfo* pvalue)
+int asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         rtxCtxtPopElemName(ctx);
+      case 0: /* non-ScheduledTransGrantInfo */
+         pvalue->u.non_ScheduledTransGrantInfo = (E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo*)rtxMemHeapAlloc(ctx, sizeof(E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo));
+         if (pvalue->u.non_ScheduledTransGrantInfo == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "non-ScheduledTransGrantInfo", -1, 0);
+         asn1Init_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo(pvalue->u.non_ScheduledTransGrantInfo);
+         stat = asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo(ctx, pvalue->u.non_ScheduledTransGrantInfo);
+         RT_CHECK(ctx, stat, 0, "non-ScheduledTransGrantInfo", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (UL_TransChCapability_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UL_TransChCapability_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UL_TransChCapability_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 1: /* scheduledTransmissionGrantInfo */
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UL_TransChCapability(rtxContext* ctx, UL_TransChCapability* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UL-TransChCapability");
-   /* maxNoBitsTransmitted */
-   rtxCtxtPushElemName(ctx, "maxNoBitsTransmitted");
-   rtxCtxtPushTypeName(ctx, "MaxNoBits");
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxNoBitsTransmitted, 0, 12);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maxConvCodeBitsTransmitted */
-   rtxCtxtPushElemName(ctx, "maxConvCodeBitsTransmitted");
-   rtxCtxtPushTypeName(ctx, "MaxNoBits");
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxConvCodeBitsTransmitted, 0, 12);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* turboEncodingSupport */
-   rtxCtxtPushElemName(ctx, "turboEncodingSupport");
-   stat = asn1PD_UMTS_TurboSupport(ctx, &pvalue->turboEncodingSupport);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* maxSimultaneousTransChs */
-   rtxCtxtPushElemName(ctx, "maxSimultaneousTransChs");
-   rtxCtxtPushTypeName(ctx, "MaxSimultaneousTransChsUL");
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxSimultaneousTransChs, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_UL_TransChCapability_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* maxTransmittedBlocks */
-   rtxCtxtPushElemName(ctx, "maxTransmittedBlocks");
-   rtxCtxtPushTypeName(ctx, "MaxTransportBlocksUL");
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxTransmittedBlocks, 0, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maxNumberOfTFC */
-   rtxCtxtPushElemName(ctx, "maxNumberOfTFC");
-   rtxCtxtPushTypeName(ctx, "MaxNumberOfTFC-UL");
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxNumberOfTFC, 0, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maxNumberOfTF */
-   rtxCtxtPushElemName(ctx, "maxNumberOfTF");
-   rtxCtxtPushTypeName(ctx, "MaxNumberOfTF");
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxNumberOfTF, 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TransportChannelCapability(rtxContext* ctx, TransportChannelCapability* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TransportChannelCapability");
-   /* dl-TransChCapability */
-   rtxCtxtPushElemName(ctx, "dl-TransChCapability");
-   stat = asn1PD_UMTS_DL_TransChCapability(ctx, &pvalue->dl_TransChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-TransChCapability */
-   rtxCtxtPushElemName(ctx, "ul-TransChCapability");
-   stat = asn1PD_UMTS_UL_TransChCapability(ctx, &pvalue->ul_TransChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_U_RNTI_Short(rtxContext* ctx, U_RNTI_Short* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "U-RNTI-Short");
-   /* srnc-Identity */
-   rtxCtxtPushElemName(ctx, "srnc-Identity");
-   stat = asn1PD_UMTS_SRNC_Identity(ctx, &pvalue->srnc_Identity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* s-RNTI-2 */
-   rtxCtxtPushElemName(ctx, "s-RNTI-2");
-   stat = asn1PD_UMTS_S_RNTI_2(ctx, &pvalue->s_RNTI_2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_edch_r6_fdd_edch_supported(rtxContext* ctx, PhysicalChannelCapability_edch_r6_fdd_edch_supported* pvalue)
-{
-   int stat = 0;
-   /* edch-PhysicalLayerCategory */
-   rtxCtxtPushElemName(ctx, "edch-PhysicalLayerCategory");
-   stat = pd_ConsUInt8(ctx, &pvalue->edch_PhysicalLayerCategory, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_edch_r6_fdd_edch(rtxContext* ctx, PhysicalChannelCapability_edch_r6_fdd_edch* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "supported");
-         pvalue->u.supported = (PhysicalChannelCapability_edch_r6_fdd_edch_supported*)rtxMemHeapAllocZ(ctx, sizeof(PhysicalChannelCapability_edch_r6_fdd_edch_supported));
-         if (pvalue->u.supported == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_PhysicalChannelCapability_edch_r6_fdd_edch_supported(ctx, pvalue->u.supported);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "unsupported");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelCapability_edch_r6(rtxContext* ctx, PhysicalChannelCapability_edch_r6* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelCapability-edch-r6");
-   /* fdd-edch */
-   rtxCtxtPushElemName(ctx, "fdd-edch");
-   stat = asn1PD_UMTS_PhysicalChannelCapability_edch_r6_fdd_edch(ctx, &pvalue->fdd_edch);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v690ext_deviceType(rtxContext* ctx, UE_RadioAccessCapability_v690ext_deviceType* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v690ext(rtxContext* ctx, UE_RadioAccessCapability_v690ext* pvalue)
+int asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_Flow_r7* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability-v690ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* physicalchannelcapability-edch */
-   rtxCtxtPushElemName(ctx, "physicalchannelcapability-edch");
-   stat = asn1PD_UMTS_PhysicalChannelCapability_edch_r6(ctx, &pvalue->physicalchannelcapability_edch);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* deviceType */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "deviceType");
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->deviceType = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_v690ext_supportOfInter_RAT_PS_Handover(rtxContext* ctx, InterRAT_UE_RadioAccessCapability_v690ext_supportOfInter_RAT_PS_Handover* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GSM_MS_RadioAccessCapability(rtxContext* ctx, GSM_MS_RadioAccessCapability* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "GSM-MS-RadioAccessCapability");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_v690ext(rtxContext* ctx, InterRAT_UE_RadioAccessCapability_v690ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterRAT-UE-RadioAccessCapability-v690ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* supportOfInter-RAT-PS-Handover */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "supportOfInter-RAT-PS-Handover");
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportOfInter_RAT_PS_Handover = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* gsm-MS-RadioAccessCapability */
-   rtxCtxtPushElemName(ctx, "gsm-MS-RadioAccessCapability");
-   stat = asn1PD_UMTS_GSM_MS_RadioAccessCapability(ctx, &pvalue->gsm_MS_RadioAccessCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v6b0ext_IEs_supportForSIB11bis(rtxContext* ctx, UE_RadioAccessCapability_v6b0ext_IEs_supportForSIB11bis* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v6b0ext_IEs(rtxContext* ctx, UE_RadioAccessCapability_v6b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability-v6b0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* supportForSIB11bis */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "supportForSIB11bis");
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportForSIB11bis = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v6e0ext_IEs_supportForFDPCH(rtxContext* ctx, UE_RadioAccessCapability_v6e0ext_IEs_supportForFDPCH* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v6e0ext_IEs(rtxContext* ctx, UE_RadioAccessCapability_v6e0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability-v6e0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* supportForFDPCH */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "supportForFDPCH");
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportForFDPCH = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_GANSSPositioning_Capability(rtxContext* ctx, UE_GANSSPositioning_Capability* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-GANSSPositioning-Capability");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* networkAssistedGANSS-supportedList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "networkAssistedGANSS-supportedList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NetworkAssistedGANSS_Supported_List(ctx, &pvalue->networkAssistedGANSS_supportedList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_PositioningCapability_v770ext(rtxContext* ctx, UE_PositioningCapability_v770ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-PositioningCapability-v770ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-GANSSPositioning-Capability */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-GANSSPositioning-Capability");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_GANSSPositioning_Capability(ctx, &pvalue->ue_GANSSPositioning_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v770ext_IEs_mac_ehsSupport(rtxContext* ctx, UE_RadioAccessCapability_v770ext_IEs_mac_ehsSupport* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_SpecificCapabilityInformation_LCRTDD(rtxContext* ctx, UE_SpecificCapabilityInformation_LCRTDD* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "UE-SpecificCapabilityInformation-LCRTDD");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v770ext_IEs(rtxContext* ctx, UE_RadioAccessCapability_v770ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability-v770ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* pdcp-Capability */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "pdcp-Capability");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PDCP_Capability_v770ext(ctx, &pvalue->pdcp_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rlc-Capability */
-   rtxCtxtPushElemName(ctx, "rlc-Capability");
-   stat = asn1PD_UMTS_RLC_Capability_v770ext(ctx, &pvalue->rlc_Capability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rf-Capability */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "rf-Capability");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RF_Capability_v770ext(ctx, &pvalue->rf_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* physicalChannelCapability */
-   rtxCtxtPushElemName(ctx, "physicalChannelCapability");
-   stat = asn1PD_UMTS_PhysicalChannelCapability_v770ext(ctx, &pvalue->physicalChannelCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* multiModeRAT-Capability */
-   rtxCtxtPushElemName(ctx, "multiModeRAT-Capability");
-   stat = asn1PD_UMTS_MultiModeRAT_Capability_v770ext(ctx, &pvalue->multiModeRAT_Capability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-PositioningCapability */
-   rtxCtxtPushElemName(ctx, "ue-PositioningCapability");
-   stat = asn1PD_UMTS_UE_PositioningCapability_v770ext(ctx, &pvalue->ue_PositioningCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* mac-ehsSupport */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "mac-ehsSupport");
-      pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->mac_ehsSupport = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-specificCapabilityInformation */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-specificCapabilityInformation");
-      pvalue->m |= 0x8u;
-      rtxCtxtPushTypeName(ctx, "UE-SpecificCapabilityInformation-LCRTDD");
-      stat = pd_ConsUnsigned(ctx, &pvalue->ue_specificCapabilityInformation, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v790ext_IEs_supportForEDPCCHPowerBoosting(rtxContext* ctx, UE_RadioAccessCapability_v790ext_IEs_supportForEDPCCHPowerBoosting* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v790ext_IEs(rtxContext* ctx, UE_RadioAccessCapability_v790ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability-v790ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* supportForEDPCCHPowerBoosting */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "supportForEDPCCHPowerBoosting");
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportForEDPCCHPowerBoosting = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_GANSSPositioning_Capability_v860ext_IEs(rtxContext* ctx, UE_GANSSPositioning_Capability_v860ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-GANSSPositioning-Capability-v860ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* networkAssistedGANSS-supportedList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "networkAssistedGANSS-supportedList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NetworkAssistedGANSS_Supported_List_v860ext(ctx, &pvalue->networkAssistedGANSS_supportedList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_PositioningCapability_v860ext(rtxContext* ctx, UE_PositioningCapability_v860ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-PositioningCapability-v860ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-GANSSPositioning-Capability-v860ext */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-GANSSPositioning-Capability-v860ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_GANSSPositioning_Capability_v860ext_IEs(ctx, &pvalue->ue_GANSSPositioning_Capability_v860ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfCommonEDCH(rtxContext* ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfCommonEDCH* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfMACiis(rtxContext* ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfMACiis* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfSPSOperation(rtxContext* ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfSPSOperation* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfControlChannelDRXOperation(rtxContext* ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfControlChannelDRXOperation* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfCSG(rtxContext* ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfCSG* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabBandFDD3(rtxContext* ctx, UE_RadioAccessCapabBandFDD3* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapabBandFDD3");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* radioFrequencyBandFDD */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "radioFrequencyBandFDD");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "RadioFrequencyBandFDD");
-      stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandFDD, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* radioFrequencyBandFDD2 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "radioFrequencyBandFDD2");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "RadioFrequencyBandFDD2");
-      stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandFDD2, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementCapability3 */
-   rtxCtxtPushElemName(ctx, "measurementCapability3");
-   stat = asn1PD_UMTS_MeasurementCapabilityExt3(ctx, &pvalue->measurementCapability3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabBandFDDList3(rtxContext* ctx, UE_RadioAccessCapabBandFDDList3* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapabBandFDDList3");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UE_RadioAccessCapabBandFDD3* elem;
-      rtxCtxtPushArrayElemName(ctx, "UE-RadioAccessCapabBandFDD3", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_RadioAccessCapabBandFDD3));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (UE_RadioAccessCapabBandFDD3*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UE_RadioAccessCapabBandFDD3(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDD3(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v860ext_IEs(rtxContext* ctx, UE_RadioAccessCapability_v860ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability-v860ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 9);
-   RT_CHECK(ctx, stat);
-   /* rf-Capability */
-   if (present & ((uint32_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "rf-Capability");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RF_Capability_v860ext(ctx, &pvalue->rf_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* physicalChannelCapability */
-   rtxCtxtPushElemName(ctx, "physicalChannelCapability");
-   stat = asn1PD_UMTS_PhysicalChannelCapability_v860ext(ctx, &pvalue->physicalChannelCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* multiModeRAT-Capability */
-   rtxCtxtPushElemName(ctx, "multiModeRAT-Capability");
-   stat = asn1PD_UMTS_MultiModeRAT_Capability_v860ext(ctx, &pvalue->multiModeRAT_Capability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-PositioningCapability */
-   rtxCtxtPushElemName(ctx, "ue-PositioningCapability");
-   stat = asn1PD_UMTS_UE_PositioningCapability_v860ext(ctx, &pvalue->ue_PositioningCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementCapability */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "measurementCapability");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MeasurementCapability_v860ext(ctx, &pvalue->measurementCapability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementCapabilityTDD */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "measurementCapabilityTDD");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_MeasurementCapabilityTDD(ctx, &pvalue->measurementCapabilityTDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportOfCommonEDCH */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "supportOfCommonEDCH");
-      pvalue->m |= 0x8u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportOfCommonEDCH = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportOfMACiis */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "supportOfMACiis");
-      pvalue->m |= 0x10u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportOfMACiis = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportOfSPSOperation */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "supportOfSPSOperation");
-      pvalue->m |= 0x20u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportOfSPSOperation = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportOfControlChannelDRXOperation */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "supportOfControlChannelDRXOperation");
-      pvalue->m |= 0x40u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportOfControlChannelDRXOperation = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportOfCSG */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "supportOfCSG");
-      pvalue->m |= 0x80u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportOfCSG = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-RadioAccessCapabBandFDDList3 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapabBandFDDList3");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDDList3(ctx, &pvalue->ue_RadioAccessCapabBandFDDList3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_EUTRA_RadioAccessCapability(rtxContext* ctx, EUTRA_RadioAccessCapability* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "EUTRA-RadioAccessCapability");
-   /* ue-EUTRA-Capability */
-   rtxCtxtPushElemName(ctx, "ue-EUTRA-Capability");
-   stat = pd_DynOctetString(ctx, &pvalue->ue_EUTRA_Capability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_v860ext(rtxContext* ctx, InterRAT_UE_RadioAccessCapability_v860ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterRAT-UE-RadioAccessCapability-v860ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* eutra-RadioAccessCapability */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "eutra-RadioAccessCapability");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_EUTRA_RadioAccessCapability(ctx, &pvalue->eutra_RadioAccessCapability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v880ext_IEs_supportForPriorityReselectionInUTRAN(rtxContext* ctx, UE_RadioAccessCapability_v880ext_IEs_supportForPriorityReselectionInUTRAN* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v880ext_IEs(rtxContext* ctx, UE_RadioAccessCapability_v880ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability-v880ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* supportForPriorityReselectionInUTRAN */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "supportForPriorityReselectionInUTRAN");
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportForPriorityReselectionInUTRAN = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v890ext_IEs_supportCellSpecificTxDiversityinDC_Operation(rtxContext* ctx, UE_RadioAccessCapability_v890ext_IEs_supportCellSpecificTxDiversityinDC_Operation* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v890ext_IEs(rtxContext* ctx, UE_RadioAccessCapability_v890ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability-v890ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* supportCellSpecificTxDiversityinDC-Operation */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "supportCellSpecificTxDiversityinDC-Operation");
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportCellSpecificTxDiversityinDC_Operation = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabBandCombList(rtxContext* ctx, UE_RadioAccessCapabBandCombList* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapabBandCombList");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 15) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "BandComb", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "BandComb");
-      stat = pd_ConsUInt16(ctx, &pvalue->elem[i], 1, 256);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v920ext_IEs_supportOfenhancedTS0(rtxContext* ctx, UE_RadioAccessCapability_v920ext_IEs_supportOfenhancedTS0* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v920ext_IEs(rtxContext* ctx, UE_RadioAccessCapability_v920ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability-v920ext-IEs");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapabBandCombList */
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
+   /* mac-d-FlowIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->mac_d_FlowIdentity, 0, 7);
+   RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowIdentity", "mac-d-FlowIdentity", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
+   /* mac-d-FlowPowerOffset */
    if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapabBandCombList");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapabBandCombList(ctx, &pvalue->ue_RadioAccessCapabBandCombList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUInt8(ctx, &pvalue->mac_d_FlowPowerOffset, 0, 6);
+      RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowPowerOffset", "mac-d-FlowPowerOffset", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
    }
-   /* physicalChannelCapability */
-   rtxCtxtPushElemName(ctx, "physicalChannelCapability");
-   stat = asn1PD_UMTS_PhysicalChannelCapability_v920ext(ctx, &pvalue->physicalChannelCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rlc-Capability */
-   rtxCtxtPushElemName(ctx, "rlc-Capability");
-   stat = asn1PD_UMTS_RLC_Capability_v920ext(ctx, &pvalue->rlc_Capability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* supportOfenhancedTS0 */
+   /* mac-d-FlowMaxRetrans */
    if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "supportOfenhancedTS0");
       pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportOfenhancedTS0 = ui;
-      }
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUInt8(ctx, &pvalue->mac_d_FlowMaxRetrans, 0, 15);
+      RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowMaxRetrans", "mac-d-FlowMaxRetrans", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
    }
-   /* measurementCapability */
+   /* mac-d-FlowRetransTimer */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "measurementCapability");
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_MeasurementCapability_v920ext(ctx, &pvalue->measurementCapability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUnsigned(ctx, &pvalue->mac_d_FlowRetransTimer, 0, 29);
+      RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowRetransTimer", "mac-d-FlowRetransTimer", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
    }
-   /* csgProximityIndicationCapability */
+   /* mac-d-FlowMultiplexingList */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "csgProximityIndicationCapability");
       pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_CSG_ProximityIndicationCapability(ctx, &pvalue->csgProximityIndicationCapability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_E_DCH_MAC_d_FlowMultiplexingList(ctx, &pvalue->mac_d_FlowMultiplexingList);
+      RT_CHECK(ctx, stat, 0, "mac-d-FlowMultiplexingList", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
    }
-   /* neighCellSI-AcquisitionCapability */
+   /* transmissionGrantType */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "neighCellSI-AcquisitionCapability");
       pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_NeighCellSI_AcquisitionCapability(ctx, &pvalue->neighCellSI_AcquisitionCapability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType(ctx, &pvalue->transmissionGrantType);
+      RT_CHECK(ctx, stat, 0, "transmissionGrantType", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions* pvalue)
+int asn1PD_UMTS_E_DCH_AddReconf_MAC_d_FlowList(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_FlowList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-AddReconf-MAC-d-FlowList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      E_DCH_AddReconf_MAC_d_Flow* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_DCH_AddReconf_MAC_d_Flow));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "E-DCH-AddReconf-MAC-d-Flow", (int32_t)i, "E-DCH-AddReconf-MAC-d-FlowList");
+      elem = (E_DCH_AddReconf_MAC_d_Flow*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_E_DCH_AddReconf_MAC_d_Flow(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "E-DCH-AddReconf-MAC-d-Flow", (int32_t)i, "E-DCH-AddReconf-MAC-d-FlowList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_DCH_AddReconf_MAC_d_FlowList_r7(rtxContext* RT_RESTRICT ctx, E_DCH_AddReconf_MAC_d_FlowList_r7* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-AddReconf-MAC-d-FlowList-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      E_DCH_AddReconf_MAC_d_Flow_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_DCH_AddReconf_MAC_d_Flow_r7));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "E-DCH-AddReconf-MAC-d-Flow-r7", (int32_t)i, "E-DCH-AddReconf-MAC-d-FlowList-r7");
+      elem = (E_DCH_AddReconf_MAC_d_Flow_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "E-DCH-AddReconf-MAC-d-Flow-r7", (int32_t)i, "E-DCH-AddReconf-MAC-d-FlowList-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PowerOffsetInfoShort_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, PowerOffsetInfoShort_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
+   /* gainFactorBetaC */
+   stat = pd_ConsUInt8(ctx, &pvalue->gainFactorBetaC, 0, 15);
+   RT_CHECK(ctx, stat, "GainFactor", "gainFactorBetaC", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions(rtxContext* ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_PowerOffsetInfoShort_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, PowerOffsetInfoShort_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (PowerOffsetInfoShort_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(PowerOffsetInfoShort_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = asn1PD_UMTS_PowerOffsetInfoShort_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PowerOffsetInfoShort(rtxContext* RT_RESTRICT ctx, PowerOffsetInfoShort* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* referenceTFC */
+   stat = pd_ConsUInt16(ctx, &pvalue->referenceTFC, 0, 1023);
+   RT_CHECK(ctx, stat, "TFC-Value", "referenceTFC", -1, "PowerOffsetInfoShort");
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_PowerOffsetInfoShort_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "PowerOffsetInfoShort");
+   /* gainFactorBetaD */
+   stat = pd_ConsUInt8(ctx, &pvalue->gainFactorBetaD, 0, 15);
+   RT_CHECK(ctx, stat, "GainFactor", "gainFactorBetaD", -1, "PowerOffsetInfoShort");
+   return 0;
+}
+
+int asn1PD_UMTS_TFC_SubsetList_element_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, TFC_SubsetList_element_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapability-v920ext */
-   rtxCtxtPushElemName(ctx, "ue-RadioAccessCapability-v920ext");
-   stat = asn1PD_UMTS_UE_RadioAccessCapability_v920ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v920ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* tfcs-ID */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_TFCS_Identity(ctx, &pvalue->tfcs_ID);
+      RT_CHECK(ctx, stat, 0, "tfcs-ID", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_TFC_SubsetList_element_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, TFC_SubsetList_element_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (TFC_SubsetList_element_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(TFC_SubsetList_element_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_TFC_SubsetList_element_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_TFC_SubsetList_element_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TFC_SubsetList_element(rtxContext* RT_RESTRICT ctx, TFC_SubsetList_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_TFC_SubsetList_element_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
+   /* tfc-Subset */
+   stat = asn1PD_UMTS_TFC_Subset(ctx, &pvalue->tfc_Subset);
+   RT_CHECK(ctx, stat, 0, "tfc-Subset", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_TFC_SubsetList(rtxContext* RT_RESTRICT ctx, TFC_SubsetList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 1024);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TFC-SubsetList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      TFC_SubsetList_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TFC_SubsetList_element));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "TFC-SubsetList");
+      elem = (TFC_SubsetList_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_TFC_SubsetList_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_TFC_SubsetList_element(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "TFC-SubsetList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AddReconfTransChInformation_r6_dch_usch(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r6_dch_usch* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ul-TransportChannelType */
+   stat = pd_ConsUnsigned(ctx, &pvalue->ul_TransportChannelType, 0, 1);
+   RT_CHECK(ctx, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, 0);
+   /* transportChannelIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->transportChannelIdentity, 1, 32);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, 0);
+   /* transportFormatSet */
+   stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->transportFormatSet);
+   RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AddReconfTransChInformation_r6_e_dch_harq_Info(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r6_e_dch_harq_Info* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AddReconfTransChInformation_r6_e_dch(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r6_e_dch* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapability-v890ext */
-   rtxCtxtPushElemName(ctx, "ue-RadioAccessCapability-v890ext");
-   stat = asn1PD_UMTS_UE_RadioAccessCapability_v890ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v890ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v920NonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* tti */
+   stat = pd_ConsUnsigned(ctx, &pvalue->tti, 0, 1);
+   RT_CHECK(ctx, stat, "E-DCH-TTI", "tti", -1, 0);
+   /* harq-Info */
+   stat = pd_ConsUnsigned(ctx, &pvalue->harq_Info, 0, 1);
+   RT_CHECK(ctx, stat, 0, "harq-Info", -1, 0);
+   /* addReconf-MAC-d-FlowList */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v920NonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_E_DCH_AddReconf_MAC_d_FlowList(ctx, &pvalue->addReconf_MAC_d_FlowList);
+      RT_CHECK(ctx, stat, 0, "addReconf-MAC-d-FlowList", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions(rtxContext* ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_UL_AddReconfTransChInformation_r6(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r6* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-AddReconfTransChInformation-r6");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dch-usch */
+         pvalue->u.dch_usch = (UL_AddReconfTransChInformation_r6_dch_usch*)rtxMemHeapAlloc(ctx, sizeof(UL_AddReconfTransChInformation_r6_dch_usch));
+         if (pvalue->u.dch_usch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dch-usch", -1, "UL-AddReconfTransChInformation-r6");
+         asn1Init_UMTS_UL_AddReconfTransChInformation_r6_dch_usch(pvalue->u.dch_usch);
+         stat = asn1PD_UMTS_UL_AddReconfTransChInformation_r6_dch_usch(ctx, pvalue->u.dch_usch);
+         RT_CHECK(ctx, stat, 0, "dch-usch", -1, "UL-AddReconfTransChInformation-r6");
+         break;
+      case 1: /* e-dch */
+         pvalue->u.e_dch = (UL_AddReconfTransChInformation_r6_e_dch*)rtxMemHeapAlloc(ctx, sizeof(UL_AddReconfTransChInformation_r6_e_dch));
+         if (pvalue->u.e_dch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e-dch", -1, "UL-AddReconfTransChInformation-r6");
+         asn1Init_UMTS_UL_AddReconfTransChInformation_r6_e_dch(pvalue->u.e_dch);
+         stat = asn1PD_UMTS_UL_AddReconfTransChInformation_r6_e_dch(ctx, pvalue->u.e_dch);
+         RT_CHECK(ctx, stat, 0, "e-dch", -1, "UL-AddReconfTransChInformation-r6");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-AddReconfTransChInformation-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AddReconfTransChInfoList_r6(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInfoList_r6* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-AddReconfTransChInfoList-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UL_AddReconfTransChInformation_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_AddReconfTransChInformation_r6));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UL-AddReconfTransChInformation-r6", (int32_t)i, "UL-AddReconfTransChInfoList-r6");
+      elem = (UL_AddReconfTransChInformation_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UL_AddReconfTransChInformation_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_UL_AddReconfTransChInformation_r6(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "UL-AddReconfTransChInformation-r6", (int32_t)i, "UL-AddReconfTransChInfoList-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AddReconfTransChInformation_r7_dch_usch(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r7_dch_usch* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ul-TransportChannelType */
+   stat = pd_ConsUnsigned(ctx, &pvalue->ul_TransportChannelType, 0, 1);
+   RT_CHECK(ctx, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, 0);
+   /* transportChannelIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->transportChannelIdentity, 1, 32);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, 0);
+   /* transportFormatSet */
+   stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->transportFormatSet);
+   RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AddReconfTransChInformation_r7_e_dch_modeSpecific_fdd(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r7_e_dch_modeSpecific_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* tti */
+   stat = pd_ConsUnsigned(ctx, &pvalue->tti, 0, 1);
+   RT_CHECK(ctx, stat, "E-DCH-TTI", "tti", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AddReconfTransChInformation_r7_e_dch_modeSpecific(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r7_e_dch_modeSpecific* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UL_AddReconfTransChInformation_r7_e_dch_modeSpecific_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UL_AddReconfTransChInformation_r7_e_dch_modeSpecific_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = asn1PD_UMTS_UL_AddReconfTransChInformation_r7_e_dch_modeSpecific_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AddReconfTransChInformation_r7_e_dch_harq_Info(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r7_e_dch_harq_Info* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AddReconfTransChInformation_r7_e_dch(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r7_e_dch* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapability-v880ext */
-   rtxCtxtPushElemName(ctx, "ue-RadioAccessCapability-v880ext");
-   stat = asn1PD_UMTS_UE_RadioAccessCapability_v880ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v880ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v890NonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* modeSpecific */
+   stat = asn1PD_UMTS_UL_AddReconfTransChInformation_r7_e_dch_modeSpecific(ctx, &pvalue->modeSpecific);
+   RT_CHECK(ctx, stat, 0, "modeSpecific", -1, 0);
+   /* harq-Info */
+   stat = pd_ConsUnsigned(ctx, &pvalue->harq_Info, 0, 1);
+   RT_CHECK(ctx, stat, 0, "harq-Info", -1, 0);
+   /* addReconf-MAC-d-FlowList */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v890NonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_E_DCH_AddReconf_MAC_d_FlowList_r7(ctx, &pvalue->addReconf_MAC_d_FlowList);
+      RT_CHECK(ctx, stat, 0, "addReconf-MAC-d-FlowList", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_UL_AddReconfTransChInformation_r7(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r7* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-AddReconfTransChInformation-r7");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dch-usch */
+         pvalue->u.dch_usch = (UL_AddReconfTransChInformation_r7_dch_usch*)rtxMemHeapAlloc(ctx, sizeof(UL_AddReconfTransChInformation_r7_dch_usch));
+         if (pvalue->u.dch_usch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dch-usch", -1, "UL-AddReconfTransChInformation-r7");
+         asn1Init_UMTS_UL_AddReconfTransChInformation_r7_dch_usch(pvalue->u.dch_usch);
+         stat = asn1PD_UMTS_UL_AddReconfTransChInformation_r7_dch_usch(ctx, pvalue->u.dch_usch);
+         RT_CHECK(ctx, stat, 0, "dch-usch", -1, "UL-AddReconfTransChInformation-r7");
+         break;
+      case 1: /* e-dch */
+         pvalue->u.e_dch = (UL_AddReconfTransChInformation_r7_e_dch*)rtxMemHeapAlloc(ctx, sizeof(UL_AddReconfTransChInformation_r7_e_dch));
+         if (pvalue->u.e_dch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e-dch", -1, "UL-AddReconfTransChInformation-r7");
+         asn1Init_UMTS_UL_AddReconfTransChInformation_r7_e_dch(pvalue->u.e_dch);
+         stat = asn1PD_UMTS_UL_AddReconfTransChInformation_r7_e_dch(ctx, pvalue->u.e_dch);
+         RT_CHECK(ctx, stat, 0, "e-dch", -1, "UL-AddReconfTransChInformation-r7");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-AddReconfTransChInformation-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AddReconfTransChInfoList_r7(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInfoList_r7* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-AddReconfTransChInfoList-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UL_AddReconfTransChInformation_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_AddReconfTransChInformation_r7));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UL-AddReconfTransChInformation-r7", (int32_t)i, "UL-AddReconfTransChInfoList-r7");
+      elem = (UL_AddReconfTransChInformation_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UL_AddReconfTransChInformation_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_UL_AddReconfTransChInformation_r7(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "UL-AddReconfTransChInformation-r7", (int32_t)i, "UL-AddReconfTransChInfoList-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AddReconfTransChInformation_r8_dch_usch(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_dch_usch* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ul-TransportChannelType */
+   stat = pd_ConsUnsigned(ctx, &pvalue->ul_TransportChannelType, 0, 1);
+   RT_CHECK(ctx, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, 0);
+   /* transportChannelIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->transportChannelIdentity, 1, 32);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, 0);
+   /* transportFormatSet */
+   stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->transportFormatSet);
+   RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AddReconfTransChInformation_r8_e_dch_ul_MAC_HeaderType(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_e_dch_ul_MAC_HeaderType* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AddReconfTransChInformation_r8_e_dch_modeSpecific_fdd(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_e_dch_modeSpecific_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* tti */
+   stat = pd_ConsUnsigned(ctx, &pvalue->tti, 0, 1);
+   RT_CHECK(ctx, stat, "E-DCH-TTI", "tti", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AddReconfTransChInformation_r8_e_dch_modeSpecific(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_e_dch_modeSpecific* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UL_AddReconfTransChInformation_r8_e_dch_modeSpecific_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UL_AddReconfTransChInformation_r8_e_dch_modeSpecific_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = asn1PD_UMTS_UL_AddReconfTransChInformation_r8_e_dch_modeSpecific_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AddReconfTransChInformation_r8_e_dch_harq_Info(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_e_dch_harq_Info* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_AddReconfTransChInformation_r8_e_dch(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_e_dch* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapability-v860ext */
-   rtxCtxtPushElemName(ctx, "ue-RadioAccessCapability-v860ext");
-   stat = asn1PD_UMTS_UE_RadioAccessCapability_v860ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-RATSpecificCapability-v860ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ul-MAC-HeaderType */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-RATSpecificCapability-v860ext");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_v860ext(ctx, &pvalue->ue_RATSpecificCapability_v860ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "ul-MAC-HeaderType", -1, 0);
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "ul-MAC-HeaderType", -1, 0);
+         pvalue->ul_MAC_HeaderType = ui;
+      }
    }
-   /* v880NonCriticalExtensions */
+   /* modeSpecific */
+   stat = asn1PD_UMTS_UL_AddReconfTransChInformation_r8_e_dch_modeSpecific(ctx, &pvalue->modeSpecific);
+   RT_CHECK(ctx, stat, 0, "modeSpecific", -1, 0);
+   /* harq-Info */
+   stat = pd_ConsUnsigned(ctx, &pvalue->harq_Info, 0, 1);
+   RT_CHECK(ctx, stat, 0, "harq-Info", -1, 0);
+   /* addReconf-MAC-d-FlowList */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v880NonCriticalExtensions");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions(ctx, &pvalue->v880NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_E_DCH_AddReconf_MAC_d_FlowList_r7(ctx, &pvalue->addReconf_MAC_d_FlowList);
+      RT_CHECK(ctx, stat, 0, "addReconf-MAC-d-FlowList", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions(rtxContext* ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapability-v790ext */
-   rtxCtxtPushElemName(ctx, "ue-RadioAccessCapability-v790ext");
-   stat = asn1PD_UMTS_UE_RadioAccessCapability_v790ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v790ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v860NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapability-v770ext */
-   rtxCtxtPushElemName(ctx, "ue-RadioAccessCapability-v770ext");
-   stat = asn1PD_UMTS_UE_RadioAccessCapability_v770ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v790NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v790NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions(ctx, &pvalue->v790NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions(rtxContext* ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapability-v6e0ext */
-   rtxCtxtPushElemName(ctx, "ue-RadioAccessCapability-v6e0ext");
-   stat = asn1PD_UMTS_UE_RadioAccessCapability_v6e0ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v6e0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions(rtxContext* ctx, UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapability-v6b0ext */
-   rtxCtxtPushElemName(ctx, "ue-RadioAccessCapability-v6b0ext");
-   stat = asn1PD_UMTS_UE_RadioAccessCapability_v6b0ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v6b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v6e0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v6e0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions(ctx, &pvalue->v6e0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_CapabilityContainer_IEs(rtxContext* ctx, UE_CapabilityContainer_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-CapabilityContainer-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapability-v690ext */
-   rtxCtxtPushElemName(ctx, "ue-RadioAccessCapability-v690ext");
-   stat = asn1PD_UMTS_UE_RadioAccessCapability_v690ext(ctx, &pvalue->ue_RadioAccessCapability_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-RATSpecificCapability-v690ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-RATSpecificCapability-v690ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_v690ext(ctx, &pvalue->ue_RATSpecificCapability_v690ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v6b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v6b0NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_ConnTimersAndConstants_r5(rtxContext* ctx, UE_ConnTimersAndConstants_r5* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-ConnTimersAndConstants-r5");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 22);
-   RT_CHECK(ctx, stat);
-   /* t-301 */
-   if (present & ((uint32_t)1 << 21)) {
-      rtxCtxtPushElemName(ctx, "t-301");
-      rtxCtxtPushTypeName(ctx, "T-301");
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_301, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->t_301 = 10;
-   }
-   /* n-301 */
-   if (present & ((uint32_t)1 << 20)) {
-      rtxCtxtPushElemName(ctx, "n-301");
-      rtxCtxtPushTypeName(ctx, "N-301");
-      stat = pd_ConsUInt8(ctx, &pvalue->n_301, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->n_301 = 2;
-   }
-   /* t-302 */
-   if (present & ((uint32_t)1 << 19)) {
-      rtxCtxtPushElemName(ctx, "t-302");
-      rtxCtxtPushTypeName(ctx, "T-302");
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_302, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->t_302 = 12;
-   }
-   /* n-302 */
-   if (present & ((uint32_t)1 << 18)) {
-      rtxCtxtPushElemName(ctx, "n-302");
-      rtxCtxtPushTypeName(ctx, "N-302");
-      stat = pd_ConsUInt8(ctx, &pvalue->n_302, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->n_302 = 3;
-   }
-   /* t-304 */
-   if (present & ((uint32_t)1 << 17)) {
-      rtxCtxtPushElemName(ctx, "t-304");
-      rtxCtxtPushTypeName(ctx, "T-304");
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_304, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->t_304 = 4;
-   }
-   /* n-304 */
-   if (present & ((uint32_t)1 << 16)) {
-      rtxCtxtPushElemName(ctx, "n-304");
-      rtxCtxtPushTypeName(ctx, "N-304");
-      stat = pd_ConsUInt8(ctx, &pvalue->n_304, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->n_304 = 2;
-   }
-   /* t-305 */
-   if (present & ((uint32_t)1 << 15)) {
-      rtxCtxtPushElemName(ctx, "t-305");
-      rtxCtxtPushTypeName(ctx, "T-305");
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_305, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->t_305 = 3;
-   }
-   /* t-307 */
-   if (present & ((uint32_t)1 << 14)) {
-      rtxCtxtPushElemName(ctx, "t-307");
-      rtxCtxtPushTypeName(ctx, "T-307");
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_307, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->t_307 = 4;
-   }
-   /* t-308 */
-   if (present & ((uint32_t)1 << 13)) {
-      rtxCtxtPushElemName(ctx, "t-308");
-      rtxCtxtPushTypeName(ctx, "T-308");
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_308, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->t_308 = 2;
-   }
-   /* t-309 */
-   if (present & ((uint32_t)1 << 12)) {
-      rtxCtxtPushElemName(ctx, "t-309");
-      rtxCtxtPushTypeName(ctx, "T-309");
-      stat = pd_ConsUInt8(ctx, &pvalue->t_309, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->t_309 = 5;
-   }
-   /* t-310 */
-   if (present & ((uint32_t)1 << 11)) {
-      rtxCtxtPushElemName(ctx, "t-310");
-      rtxCtxtPushTypeName(ctx, "T-310");
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_310, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->t_310 = 3;
-   }
-   /* n-310 */
-   if (present & ((uint32_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "n-310");
-      rtxCtxtPushTypeName(ctx, "N-310");
-      stat = pd_ConsUInt8(ctx, &pvalue->n_310, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->n_310 = 4;
-   }
-   /* t-311 */
-   if (present & ((uint32_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "t-311");
-      rtxCtxtPushTypeName(ctx, "T-311");
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_311, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->t_311 = 7;
-   }
-   /* t-312 */
-   if (present & ((uint32_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "t-312");
-      rtxCtxtPushTypeName(ctx, "T-312");
-      stat = pd_ConsUInt8(ctx, &pvalue->t_312, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->t_312 = 1;
-   }
-   /* n-312 */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "n-312");
-      rtxCtxtPushTypeName(ctx, "N-312-r5");
-      stat = pd_ConsUnsigned(ctx, &pvalue->n_312, 0, 11);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->n_312 = 0;
-   }
-   /* t-313 */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "t-313");
-      rtxCtxtPushTypeName(ctx, "T-313");
-      stat = pd_ConsUInt8(ctx, &pvalue->t_313, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->t_313 = 3;
-   }
-   /* n-313 */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "n-313");
-      rtxCtxtPushTypeName(ctx, "N-313");
-      stat = pd_ConsUnsigned(ctx, &pvalue->n_313, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->n_313 = 4;
-   }
-   /* t-314 */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "t-314");
-      rtxCtxtPushTypeName(ctx, "T-314");
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_314, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->t_314 = 5;
-   }
-   /* t-315 */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "t-315");
-      rtxCtxtPushTypeName(ctx, "T-315");
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_315, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->t_315 = 4;
-   }
-   /* n-315 */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "n-315");
-      rtxCtxtPushTypeName(ctx, "N-315-r5");
-      stat = pd_ConsUnsigned(ctx, &pvalue->n_315, 0, 11);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->n_315 = 0;
-   }
-   /* t-316 */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "t-316");
-      rtxCtxtPushTypeName(ctx, "T-316");
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_316, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->t_316 = 3;
-   }
-   /* t-317 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "t-317");
-      rtxCtxtPushTypeName(ctx, "T-317");
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_317, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->t_317 = 4;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_HSPA_Identities_r6(rtxContext* ctx, UE_HSPA_Identities_r6* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-HSPA-Identities-r6");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* new-H-RNTI */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "new-H-RNTI");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_MultiModeRAT_Capability(rtxContext* ctx, UE_MultiModeRAT_Capability* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-MultiModeRAT-Capability");
-   /* multiRAT-CapabilityList */
-   rtxCtxtPushElemName(ctx, "multiRAT-CapabilityList");
-   stat = asn1PD_UMTS_MultiRAT_Capability(ctx, &pvalue->multiRAT_CapabilityList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* multiModeCapability */
-   rtxCtxtPushElemName(ctx, "multiModeCapability");
-   rtxCtxtPushTypeName(ctx, "MultiModeCapability");
-   stat = pd_ConsUnsigned(ctx, &pvalue->multiModeCapability, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_PowerClassExt(rtxContext* ctx, UE_PowerClassExt* pvalue)
+int asn1PD_UMTS_UL_AddReconfTransChInformation_r8(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "UE-PowerClassExt");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_Capability(rtxContext* ctx, UE_Positioning_Capability* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-Capability");
-   /* standaloneLocMethodsSupported */
-   rtxCtxtPushElemName(ctx, "standaloneLocMethodsSupported");
-   stat = rtxDecBitInline(ctx, &pvalue->standaloneLocMethodsSupported);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-BasedOTDOA-Supported */
-   rtxCtxtPushElemName(ctx, "ue-BasedOTDOA-Supported");
-   stat = rtxDecBitInline(ctx, &pvalue->ue_BasedOTDOA_Supported);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* networkAssistedGPS-Supported */
-   rtxCtxtPushElemName(ctx, "networkAssistedGPS-Supported");
-   rtxCtxtPushTypeName(ctx, "NetworkAssistedGPS-Supported");
-   stat = pd_ConsUnsigned(ctx, &pvalue->networkAssistedGPS_Supported, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* supportForUE-GPS-TimingOfCellFrames */
-   rtxCtxtPushElemName(ctx, "supportForUE-GPS-TimingOfCellFrames");
-   stat = rtxDecBitInline(ctx, &pvalue->supportForUE_GPS_TimingOfCellFrames);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* supportForIPDL */
-   rtxCtxtPushElemName(ctx, "supportForIPDL");
-   stat = rtxDecBitInline(ctx, &pvalue->supportForIPDL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability(rtxContext* ctx, UE_RadioAccessCapability* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* pdcp-Capability */
-   rtxCtxtPushElemName(ctx, "pdcp-Capability");
-   stat = asn1PD_UMTS_PDCP_Capability(ctx, &pvalue->pdcp_Capability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rlc-Capability */
-   rtxCtxtPushElemName(ctx, "rlc-Capability");
-   stat = asn1PD_UMTS_RLC_Capability(ctx, &pvalue->rlc_Capability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* transportChannelCapability */
-   rtxCtxtPushElemName(ctx, "transportChannelCapability");
-   stat = asn1PD_UMTS_TransportChannelCapability(ctx, &pvalue->transportChannelCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rf-Capability */
-   rtxCtxtPushElemName(ctx, "rf-Capability");
-   stat = asn1PD_UMTS_RF_Capability(ctx, &pvalue->rf_Capability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* physicalChannelCapability */
-   rtxCtxtPushElemName(ctx, "physicalChannelCapability");
-   stat = asn1PD_UMTS_PhysicalChannelCapability(ctx, &pvalue->physicalChannelCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-MultiModeRAT-Capability */
-   rtxCtxtPushElemName(ctx, "ue-MultiModeRAT-Capability");
-   stat = asn1PD_UMTS_UE_MultiModeRAT_Capability(ctx, &pvalue->ue_MultiModeRAT_Capability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* securityCapability */
-   rtxCtxtPushElemName(ctx, "securityCapability");
-   stat = asn1PD_UMTS_SecurityCapability(ctx, &pvalue->securityCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-positioning-Capability */
-   rtxCtxtPushElemName(ctx, "ue-positioning-Capability");
-   stat = asn1PD_UMTS_UE_Positioning_Capability(ctx, &pvalue->ue_positioning_Capability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementCapability */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "measurementCapability");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementCapability(ctx, &pvalue->measurementCapability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-AddReconfTransChInformation-r8");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dch-usch */
+         pvalue->u.dch_usch = (UL_AddReconfTransChInformation_r8_dch_usch*)rtxMemHeapAlloc(ctx, sizeof(UL_AddReconfTransChInformation_r8_dch_usch));
+         if (pvalue->u.dch_usch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dch-usch", -1, "UL-AddReconfTransChInformation-r8");
+         asn1Init_UMTS_UL_AddReconfTransChInformation_r8_dch_usch(pvalue->u.dch_usch);
+         stat = asn1PD_UMTS_UL_AddReconfTransChInformation_r8_dch_usch(ctx, pvalue->u.dch_usch);
+         RT_CHECK(ctx, stat, 0, "dch-usch", -1, "UL-AddReconfTransChInformation-r8");
+         break;
+      case 1: /* e-dch */
+         pvalue->u.e_dch = (UL_AddReconfTransChInformation_r8_e_dch*)rtxMemHeapAlloc(ctx, sizeof(UL_AddReconfTransChInformation_r8_e_dch));
+         if (pvalue->u.e_dch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e-dch", -1, "UL-AddReconfTransChInformation-r8");
+         asn1Init_UMTS_UL_AddReconfTransChInformation_r8_e_dch(pvalue->u.e_dch);
+         stat = asn1PD_UMTS_UL_AddReconfTransChInformation_r8_e_dch(ctx, pvalue->u.e_dch);
+         RT_CHECK(ctx, stat, 0, "e-dch", -1, "UL-AddReconfTransChInformation-r8");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-AddReconfTransChInformation-r8");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UE_RadioAccessCapabBandFDD_fddRF_Capability(rtxContext* ctx, UE_RadioAccessCapabBandFDD_fddRF_Capability* pvalue)
-{
-   int stat = 0;
-   /* ue-PowerClass */
-   rtxCtxtPushElemName(ctx, "ue-PowerClass");
-   rtxCtxtPushTypeName(ctx, "UE-PowerClassExt");
-   stat = pd_ConsUnsigned(ctx, &pvalue->ue_PowerClass, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* txRxFrequencySeparation */
-   rtxCtxtPushElemName(ctx, "txRxFrequencySeparation");
-   rtxCtxtPushTypeName(ctx, "TxRxFrequencySeparation");
-   stat = pd_ConsUnsigned(ctx, &pvalue->txRxFrequencySeparation, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabBandFDD(rtxContext* ctx, UE_RadioAccessCapabBandFDD* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapabBandFDD");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioFrequencyBandFDD */
-   rtxCtxtPushElemName(ctx, "radioFrequencyBandFDD");
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandFDD");
-   stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandFDD, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* fddRF-Capability */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "fddRF-Capability");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDD_fddRF_Capability(ctx, &pvalue->fddRF_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementCapability */
-   rtxCtxtPushElemName(ctx, "measurementCapability");
-   stat = asn1PD_UMTS_MeasurementCapabilityExt(ctx, &pvalue->measurementCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabBandFDDList(rtxContext* ctx, UE_RadioAccessCapabBandFDDList* pvalue)
+int asn1PD_UMTS_UL_AddReconfTransChInfoList_r8(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInfoList_r8* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapabBandFDDList");
-   RT_SET_SIZE(ctx, 1, 8);
+   RT_SET_SIZE(ctx, 1, 32);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-AddReconfTransChInfoList-r8");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      UE_RadioAccessCapabBandFDD* elem;
-      rtxCtxtPushArrayElemName(ctx, "UE-RadioAccessCapabBandFDD", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_RadioAccessCapabBandFDD));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (UE_RadioAccessCapabBandFDD*)(node + 1);
+      UL_AddReconfTransChInformation_r8* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_AddReconfTransChInformation_r8));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UL-AddReconfTransChInformation-r8", (int32_t)i, "UL-AddReconfTransChInfoList-r8");
+      elem = (UL_AddReconfTransChInformation_r8*)(node + 1);
       node->data = elem;
-      asn1Init_UMTS_UE_RadioAccessCapabBandFDD(elem);
+      asn1Init_UMTS_UL_AddReconfTransChInformation_r8(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDD(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v370ext(rtxContext* ctx, UE_RadioAccessCapability_v370ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability-v370ext");
-   /* ue-RadioAccessCapabBandFDDList */
-   rtxCtxtPushElemName(ctx, "ue-RadioAccessCapabBandFDDList");
-   stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDDList(ctx, &pvalue->ue_RadioAccessCapabBandFDDList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityInfo(rtxContext* ctx, UE_RadioAccessCapabilityInfo* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapabilityInfo");
-   /* ue-RadioAccessCapability */
-   rtxCtxtPushElemName(ctx, "ue-RadioAccessCapability");
-   stat = asn1PD_UMTS_UE_RadioAccessCapability(ctx, &pvalue->ue_RadioAccessCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-RadioAccessCapability-v370ext */
-   rtxCtxtPushElemName(ctx, "ue-RadioAccessCapability-v370ext");
-   stat = asn1PD_UMTS_UE_RadioAccessCapability_v370ext(ctx, &pvalue->ue_RadioAccessCapability_v370ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_PositioningCapabilityExt_v380(rtxContext* ctx, UE_PositioningCapabilityExt_v380* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-PositioningCapabilityExt-v380");
-   /* rx-tx-TimeDifferenceType2Capable */
-   rtxCtxtPushElemName(ctx, "rx-tx-TimeDifferenceType2Capable");
-   stat = rtxDecBitInline(ctx, &pvalue->rx_tx_TimeDifferenceType2Capable);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v380ext(rtxContext* ctx, UE_RadioAccessCapability_v380ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability-v380ext");
-   /* ue-PositioningCapabilityExt-v380 */
-   rtxCtxtPushElemName(ctx, "ue-PositioningCapabilityExt-v380");
-   stat = asn1PD_UMTS_UE_PositioningCapabilityExt_v380(ctx, &pvalue->ue_PositioningCapabilityExt_v380);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_PositioningCapabilityExt_v3a0_validity_CellPCH_UraPCH(rtxContext* ctx, UE_PositioningCapabilityExt_v3a0_validity_CellPCH_UraPCH* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInformation_r8(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "UL-AddReconfTransChInformation-r8", (int32_t)i, "UL-AddReconfTransChInfoList-r8");
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_PositioningCapabilityExt_v3a0(rtxContext* ctx, UE_PositioningCapabilityExt_v3a0* pvalue)
+int asn1PD_UMTS_UL_CommonTransChInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-PositioningCapabilityExt-v3a0");
-   /* validity-CellPCH-UraPCH */
-   rtxCtxtPushElemName(ctx, "validity-CellPCH-UraPCH");
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      pvalue->validity_CellPCH_UraPCH = ui;
-   }
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   /* ul-TFCS */
+   stat = asn1PD_UMTS_TFCS(ctx, &pvalue->ul_TFCS);
+   RT_CHECK(ctx, stat, 0, "ul-TFCS", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_UE_RadioAccessCapability_v3a0ext(rtxContext* ctx, UE_RadioAccessCapability_v3a0ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability-v3a0ext");
-   /* ue-PositioningCapabilityExt-v3a0 */
-   rtxCtxtPushElemName(ctx, "ue-PositioningCapabilityExt-v3a0");
-   stat = asn1PD_UMTS_UE_PositioningCapabilityExt_v3a0(ctx, &pvalue->ue_PositioningCapabilityExt_v3a0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_PositioningCapabilityExt_v3g0_sfn_sfnType2Capability(rtxContext* ctx, UE_PositioningCapabilityExt_v3g0_sfn_sfnType2Capability* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_PositioningCapabilityExt_v3g0(rtxContext* ctx, UE_PositioningCapabilityExt_v3g0* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-PositioningCapabilityExt-v3g0");
-   /* sfn-sfnType2Capability */
-   rtxCtxtPushElemName(ctx, "sfn-sfnType2Capability");
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      pvalue->sfn_sfnType2Capability = ui;
-   }
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v3g0ext(rtxContext* ctx, UE_RadioAccessCapability_v3g0ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability-v3g0ext");
-   /* ue-PositioningCapabilityExt-v3g0 */
-   rtxCtxtPushElemName(ctx, "ue-PositioningCapabilityExt-v3g0");
-   stat = asn1PD_UMTS_UE_PositioningCapabilityExt_v3g0(ctx, &pvalue->ue_PositioningCapabilityExt_v3g0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabBandFDD2_fddRF_Capability(rtxContext* ctx, UE_RadioAccessCapabBandFDD2_fddRF_Capability* pvalue)
-{
-   int stat = 0;
-   /* ue-PowerClass */
-   rtxCtxtPushElemName(ctx, "ue-PowerClass");
-   rtxCtxtPushTypeName(ctx, "UE-PowerClassExt");
-   stat = pd_ConsUnsigned(ctx, &pvalue->ue_PowerClass, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* txRxFrequencySeparation */
-   rtxCtxtPushElemName(ctx, "txRxFrequencySeparation");
-   rtxCtxtPushTypeName(ctx, "TxRxFrequencySeparation");
-   stat = pd_ConsUnsigned(ctx, &pvalue->txRxFrequencySeparation, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabBandFDD2(rtxContext* ctx, UE_RadioAccessCapabBandFDD2* pvalue)
+int asn1PD_UMTS_UL_CommonTransChInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapabBandFDD2");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioFrequencyBandFDD2 */
-   rtxCtxtPushElemName(ctx, "radioFrequencyBandFDD2");
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandFDD2");
-   stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandFDD2, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* fddRF-Capability */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* individualUL-CCTrCH-InfoList */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "fddRF-Capability");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDD2_fddRF_Capability(ctx, &pvalue->fddRF_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_IndividualUL_CCTrCH_InfoList(ctx, &pvalue->individualUL_CCTrCH_InfoList);
+      RT_CHECK(ctx, stat, 0, "individualUL-CCTrCH-InfoList", -1, 0);
    }
-   /* measurementCapability2 */
-   rtxCtxtPushElemName(ctx, "measurementCapability2");
-   stat = asn1PD_UMTS_MeasurementCapabilityExt2(ctx, &pvalue->measurementCapability2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UE_RadioAccessCapabBandFDDList2(rtxContext* ctx, UE_RadioAccessCapabBandFDDList2* pvalue)
+int asn1PD_UMTS_UL_CommonTransChInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue)
 {
    int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapabBandFDDList2");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UE_RadioAccessCapabBandFDD2* elem;
-      rtxCtxtPushArrayElemName(ctx, "UE-RadioAccessCapabBandFDD2", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_RadioAccessCapabBandFDD2));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (UE_RadioAccessCapabBandFDD2*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UE_RadioAccessCapabBandFDD2(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDD2(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UL_CommonTransChInfo_r4_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_CommonTransChInfo_r4_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_UL_CommonTransChInfo_r4_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_UL_CommonTransChInfo_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UL_CommonTransChInfo_r4_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_CommonTransChInfo_r4_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_UL_CommonTransChInfo_r4_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_UL_CommonTransChInfo_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UE_RadioAccessCapabBandFDD_ext(rtxContext* ctx, UE_RadioAccessCapabBandFDD_ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapabBandFDD-ext");
-   /* radioFrequencyBandFDD */
-   rtxCtxtPushElemName(ctx, "radioFrequencyBandFDD");
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandFDD");
-   stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandFDD, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* compressedModeMeasCapabFDDList-ext */
-   rtxCtxtPushElemName(ctx, "compressedModeMeasCapabFDDList-ext");
-   stat = asn1PD_UMTS_CompressedModeMeasCapabFDDList_ext(ctx, &pvalue->compressedModeMeasCapabFDDList_ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabBandFDDList_ext(rtxContext* ctx, UE_RadioAccessCapabBandFDDList_ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapabBandFDDList-ext");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UE_RadioAccessCapabBandFDD_ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "UE-RadioAccessCapabBandFDD-ext", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_RadioAccessCapabBandFDD_ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (UE_RadioAccessCapabBandFDD_ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UE_RadioAccessCapabBandFDD_ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDD_ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v650ext(rtxContext* ctx, UE_RadioAccessCapability_v650ext* pvalue)
+int asn1PD_UMTS_UL_CommonTransChInfo_r4(rtxContext* RT_RESTRICT ctx, UL_CommonTransChInfo_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability-v650ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapabBandFDDList2 */
-   rtxCtxtPushElemName(ctx, "ue-RadioAccessCapabBandFDDList2");
-   stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDDList2(ctx, &pvalue->ue_RadioAccessCapabBandFDDList2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-RadioAccessCapabBandFDDList-ext */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapabBandFDDList-ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDDList_ext(ctx, &pvalue->ue_RadioAccessCapabBandFDDList_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v7e0ext_supportForTwoDRXSchemesInPCH(rtxContext* ctx, UE_RadioAccessCapability_v7e0ext_supportForTwoDRXSchemesInPCH* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v7e0ext_supportEDPDCHPowerInterpolation(rtxContext* ctx, UE_RadioAccessCapability_v7e0ext_supportEDPDCHPowerInterpolation* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v7e0ext(rtxContext* ctx, UE_RadioAccessCapability_v7e0ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability-v7e0ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* supportForTwoDRXSchemesInPCH */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "supportForTwoDRXSchemesInPCH");
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportForTwoDRXSchemesInPCH = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportEDPDCHPowerInterpolation */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "supportEDPDCHPowerInterpolation");
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportEDPDCHPowerInterpolation = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v7f0ext_supportofTxDivOnNonMIMOChannel(rtxContext* ctx, UE_RadioAccessCapability_v7f0ext_supportofTxDivOnNonMIMOChannel* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp_TDD128_v7f0ext_supportForCSVoiceoverHSPA(rtxContext* ctx, UE_RadioAccessCapabilityComp_TDD128_v7f0ext_supportForCSVoiceoverHSPA* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp_TDD128_v7f0ext(rtxContext* ctx, UE_RadioAccessCapabilityComp_TDD128_v7f0ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat);
-   /* hSDSCH-physical-layer-category */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "hSDSCH-physical-layer-category");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "HSDSCH-physical-layer-category");
-      stat = pd_ConsUInt8(ctx, &pvalue->hSDSCH_physical_layer_category, 1, 64);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* multiCarrier-physical-layer-category */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "multiCarrier-physical-layer-category");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "MultiCarrier-HSDSCH-physical-layer-category");
-      stat = pd_ConsUInt8(ctx, &pvalue->multiCarrier_physical_layer_category, 1, 64);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tdd-edch-PhysicalLayerCategory */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "tdd-edch-PhysicalLayerCategory");
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->tdd_edch_PhysicalLayerCategory, 1, 6);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CapabilityWithSimultaneousHS-DSCHConfig */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "dl-CapabilityWithSimultaneousHS-DSCHConfig");
-      pvalue->m |= 0x8u;
-      rtxCtxtPushTypeName(ctx, "DL-CapabilityWithSimultaneousHS-DSCHConfig");
-      stat = pd_ConsUnsigned(ctx, &pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportForCSVoiceoverHSPA */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "supportForCSVoiceoverHSPA");
-      pvalue->m |= 0x10u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportForCSVoiceoverHSPA = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* totalRLC-AM-BufferSize */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "totalRLC-AM-BufferSize");
-      pvalue->m |= 0x20u;
-      rtxCtxtPushTypeName(ctx, "TotalRLC-AM-BufferSize-r5-ext");
-      stat = pd_ConsUnsigned(ctx, &pvalue->totalRLC_AM_BufferSize, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v7f0ext(rtxContext* ctx, UE_RadioAccessCapability_v7f0ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability-v7f0ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* supportofTxDivOnNonMIMOChannel */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "supportofTxDivOnNonMIMOChannel");
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportofTxDivOnNonMIMOChannel = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* physicalChannelCapability-LCR */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "physicalChannelCapability-LCR");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PhysicalChannelCapability_LCR_r4(ctx, &pvalue->physicalChannelCapability_LCR);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-RadioAccessCapabilityComp-TDD128 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapabilityComp-TDD128");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapabilityComp_TDD128_v7f0ext(ctx, &pvalue->ue_RadioAccessCapabilityComp_TDD128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityInfo_v770ext_ganssSupportIndication(rtxContext* ctx, UE_RadioAccessCapabilityInfo_v770ext_ganssSupportIndication* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityInfo_v770ext_mac_ehsSupport(rtxContext* ctx, UE_RadioAccessCapabilityInfo_v770ext_mac_ehsSupport* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityInfo_v770ext(rtxContext* ctx, UE_RadioAccessCapabilityInfo_v770ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapabilityInfo-v770ext");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* rf-Capability */
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-CommonTransChInfo-r4");
+   /* tfc-Subset */
    if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "rf-Capability");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RF_Capability_v770ext(ctx, &pvalue->rf_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_TFC_Subset(ctx, &pvalue->tfc_Subset);
+      RT_CHECK(ctx, stat, 0, "tfc-Subset", -1, "UL-CommonTransChInfo-r4");
    }
-   /* physicalChannelCapability */
-   rtxCtxtPushElemName(ctx, "physicalChannelCapability");
-   stat = asn1PD_UMTS_PhysicalChannelCapabilityInfo_v770ext(ctx, &pvalue->physicalChannelCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganssSupportIndication */
+   /* prach-TFCS */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "ganssSupportIndication");
       pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->ganssSupportIndication = ui;
-      }
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_TFCS(ctx, &pvalue->prach_TFCS);
+      RT_CHECK(ctx, stat, 0, "prach-TFCS", -1, "UL-CommonTransChInfo-r4");
    }
-   /* mac-ehsSupport */
+   /* modeSpecificInfo */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "mac-ehsSupport");
       pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->mac_ehsSupport = ui;
-      }
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+      RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-CommonTransChInfo-r4");
    }
-   /* ue-SpecificCapabilityInformation */
+   /* tfc-SubsetList */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-SpecificCapabilityInformation");
       pvalue->m |= 0x8u;
-      rtxCtxtPushTypeName(ctx, "UE-SpecificCapabilityInformation-LCRTDD");
-      stat = pd_ConsUnsigned(ctx, &pvalue->ue_SpecificCapabilityInformation, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_TFC_SubsetList(ctx, &pvalue->tfc_SubsetList);
+      RT_CHECK(ctx, stat, 0, "tfc-SubsetList", -1, "UL-CommonTransChInfo-r4");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UE_RadioAccessCapability_v860ext(rtxContext* ctx, UE_RadioAccessCapability_v860ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability-v860ext");
-   /* ue-RadioAccessCapabBandFDDList3 */
-   rtxCtxtPushElemName(ctx, "ue-RadioAccessCapabBandFDDList3");
-   stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDDList3(ctx, &pvalue->ue_RadioAccessCapabBandFDDList3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v880ext_supportForPriorityReselectionInUTRAN(rtxContext* ctx, UE_RadioAccessCapability_v880ext_supportForPriorityReselectionInUTRAN* pvalue)
+int asn1PD_UMTS_UL_DeletedTransChInfoList(rtxContext* RT_RESTRICT ctx, UL_DeletedTransChInfoList* RT_RESTRICT pvalue)
 {
    int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DeletedTransChInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UL_TransportChannelIdentity* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_TransportChannelIdentity));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UL-TransportChannelIdentity", (int32_t)i, "UL-DeletedTransChInfoList");
+      elem = (UL_TransportChannelIdentity*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_UL_TransportChannelIdentity(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "UL-TransportChannelIdentity", (int32_t)i, "UL-DeletedTransChInfoList");
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_RadioAccessCapability_v880ext(rtxContext* ctx, UE_RadioAccessCapability_v880ext* pvalue)
+int asn1PD_UMTS_UL_TransportChannelIdentity_r6_dch_usch(rtxContext* RT_RESTRICT ctx, UL_TransportChannelIdentity_r6_dch_usch* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability-v880ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* supportForPriorityReselectionInUTRAN */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "supportForPriorityReselectionInUTRAN");
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportForPriorityReselectionInUTRAN = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
+   /* ul-TransportChannelType */
+   stat = pd_ConsUnsigned(ctx, &pvalue->ul_TransportChannelType, 0, 1);
+   RT_CHECK(ctx, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, 0);
+   /* ul-TransportChannelIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->ul_TransportChannelIdentity, 1, 32);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "ul-TransportChannelIdentity", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_UE_RadioAccessCapability_v890ext_supportCellSpecificTxDiversityinDC_Operation(rtxContext* ctx, UE_RadioAccessCapability_v890ext_supportCellSpecificTxDiversityinDC_Operation* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v890ext(rtxContext* ctx, UE_RadioAccessCapability_v890ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability-v890ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* supportCellSpecificTxDiversityinDC-Operation */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "supportCellSpecificTxDiversityinDC-Operation");
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportCellSpecificTxDiversityinDC_Operation = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v920ext_supportOfenhancedTS0(rtxContext* ctx, UE_RadioAccessCapability_v920ext_supportOfenhancedTS0* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v920ext(rtxContext* ctx, UE_RadioAccessCapability_v920ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability-v920ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* supportOfenhancedTS0 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "supportOfenhancedTS0");
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportOfenhancedTS0 = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v4b0ext_tdd_CapabilityExt(rtxContext* ctx, UE_RadioAccessCapability_v4b0ext_tdd_CapabilityExt* pvalue)
-{
-   int stat = 0;
-   /* rf-Capability */
-   rtxCtxtPushElemName(ctx, "rf-Capability");
-   stat = asn1PD_UMTS_RF_Capability_r4_ext(ctx, &pvalue->rf_Capability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* physicalChannelCapability-LCR */
-   rtxCtxtPushElemName(ctx, "physicalChannelCapability-LCR");
-   stat = asn1PD_UMTS_PhysicalChannelCapability_LCR_r4(ctx, &pvalue->physicalChannelCapability_LCR);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementCapability-r4-ext */
-   rtxCtxtPushElemName(ctx, "measurementCapability-r4-ext");
-   stat = asn1PD_UMTS_MeasurementCapability_r4_ext(ctx, &pvalue->measurementCapability_r4_ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v4b0ext(rtxContext* ctx, UE_RadioAccessCapability_v4b0ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability-v4b0ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* pdcp-Capability-r4-ext */
-   rtxCtxtPushElemName(ctx, "pdcp-Capability-r4-ext");
-   stat = asn1PD_UMTS_PDCP_Capability_r4_ext(ctx, &pvalue->pdcp_Capability_r4_ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tdd-CapabilityExt */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "tdd-CapabilityExt");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapability_v4b0ext_tdd_CapabilityExt(ctx, &pvalue->tdd_CapabilityExt);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* accessStratumReleaseIndicator */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "accessStratumReleaseIndicator");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "AccessStratumReleaseIndicator");
-      stat = pd_ConsUnsigned(ctx, &pvalue->accessStratumReleaseIndicator, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RF_CapabBandFDDComp(rtxContext* ctx, RF_CapabBandFDDComp* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "RF-CapabBandFDDComp");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RF_CapabBandListFDDComp(rtxContext* ctx, RF_CapabBandListFDDComp* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "RF-CapabBandListFDDComp");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 7) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "RF-CapabBandFDDComp", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "RF-CapabBandFDDComp");
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 3);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RF_CapabilityComp_fdd(rtxContext* ctx, RF_CapabilityComp_fdd* pvalue)
+int asn1PD_UMTS_UL_TransportChannelIdentity_r6(rtxContext* RT_RESTRICT ctx, UL_TransportChannelIdentity_r6* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-TransportChannelIdentity-r6");
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "notSupported");
-         rtxCtxtPopElemName(ctx);
+      case 0: /* dch-usch */
+         pvalue->u.dch_usch = (UL_TransportChannelIdentity_r6_dch_usch*)rtxMemHeapAllocZ(ctx, sizeof(UL_TransportChannelIdentity_r6_dch_usch));
+         if (pvalue->u.dch_usch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dch-usch", -1, "UL-TransportChannelIdentity-r6");
+         stat = asn1PD_UMTS_UL_TransportChannelIdentity_r6_dch_usch(ctx, pvalue->u.dch_usch);
+         RT_CHECK(ctx, stat, 0, "dch-usch", -1, "UL-TransportChannelIdentity-r6");
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "supported");
-         pvalue->u.supported = (RF_CapabBandListFDDComp*)rtxMemHeapAlloc(ctx, sizeof(RF_CapabBandListFDDComp));
-         if (pvalue->u.supported == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RF_CapabBandListFDDComp(pvalue->u.supported);
-         stat = asn1PD_UMTS_RF_CapabBandListFDDComp(ctx, pvalue->u.supported);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 1: /* e-dch */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.e_dch, 0, 7);
+         RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowIdentity", "e-dch", -1, "UL-TransportChannelIdentity-r6");
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-TransportChannelIdentity-r6");
    }
    return 0;
 }
 
-int asn1PD_UMTS_RF_CapabilityComp_tdd384_RF_Capability(rtxContext* ctx, RF_CapabilityComp_tdd384_RF_Capability* pvalue)
+int asn1PD_UMTS_UL_DeletedTransChInfoList_r6(rtxContext* RT_RESTRICT ctx, UL_DeletedTransChInfoList_r6* RT_RESTRICT pvalue)
 {
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "notSupported");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "supported");
-         rtxCtxtPushTypeName(ctx, "RadioFrequencyBandTDDList");
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.supported, 0, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DeletedTransChInfoList-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UL_TransportChannelIdentity_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UL_TransportChannelIdentity_r6));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UL-TransportChannelIdentity-r6", (int32_t)i, "UL-DeletedTransChInfoList-r6");
+      elem = (UL_TransportChannelIdentity_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UL_TransportChannelIdentity_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_UL_TransportChannelIdentity_r6(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "UL-TransportChannelIdentity-r6", (int32_t)i, "UL-DeletedTransChInfoList-r6");
    }
    return 0;
 }
 
-int asn1PD_UMTS_RF_CapabilityComp_tdd128_RF_Capability(rtxContext* ctx, RF_CapabilityComp_tdd128_RF_Capability* pvalue)
+int asn1PD_UMTS_ActivationTimeOffset(rtxContext* RT_RESTRICT ctx, ActivationTimeOffset* RT_RESTRICT pvalue)
 {
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "notSupported");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "supported");
-         rtxCtxtPushTypeName(ctx, "RadioFrequencyBandTDDList");
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.supported, 0, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 255);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ActivationTimeOffset");
    return 0;
 }
 
-int asn1PD_UMTS_RF_CapabilityComp(rtxContext* ctx, RF_CapabilityComp* pvalue)
+int asn1PD_UMTS_AllocationPeriodInfo(rtxContext* RT_RESTRICT ctx, AllocationPeriodInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RF-CapabilityComp");
-   /* fdd */
-   rtxCtxtPushElemName(ctx, "fdd");
-   stat = asn1PD_UMTS_RF_CapabilityComp_fdd(ctx, &pvalue->fdd);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tdd384-RF-Capability */
-   rtxCtxtPushElemName(ctx, "tdd384-RF-Capability");
-   stat = asn1PD_UMTS_RF_CapabilityComp_tdd384_RF_Capability(ctx, &pvalue->tdd384_RF_Capability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tdd128-RF-Capability */
-   rtxCtxtPushElemName(ctx, "tdd128-RF-Capability");
-   stat = asn1PD_UMTS_RF_CapabilityComp_tdd128_RF_Capability(ctx, &pvalue->tdd128_RF_Capability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   /* allocationActivationTime */
+   stat = pd_ConsUInt8(ctx, &pvalue->allocationActivationTime, 0, 255);
+   RT_CHECK(ctx, stat, 0, "allocationActivationTime", -1, "AllocationPeriodInfo");
+   /* allocationDuration */
+   stat = pd_ConsUInt16(ctx, &pvalue->allocationDuration, 1, 256);
+   RT_CHECK(ctx, stat, 0, "allocationDuration", -1, "AllocationPeriodInfo");
    return 0;
 }
 
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp(rtxContext* ctx, UE_RadioAccessCapabilityComp* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapabilityComp");
-   /* totalAM-RLCMemoryExceeds10kB */
-   rtxCtxtPushElemName(ctx, "totalAM-RLCMemoryExceeds10kB");
-   stat = rtxDecBitInline(ctx, &pvalue->totalAM_RLCMemoryExceeds10kB);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rf-CapabilityComp */
-   rtxCtxtPushElemName(ctx, "rf-CapabilityComp");
-   stat = asn1PD_UMTS_RF_CapabilityComp(ctx, &pvalue->rf_CapabilityComp);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RF_CapabBandListFDDComp_ext(rtxContext* ctx, RF_CapabBandListFDDComp_ext* pvalue)
+int asn1PD_UMTS_AP_AICH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, AP_AICH_ChannelisationCode* RT_RESTRICT pvalue)
 {
    int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "RF-CapabBandListFDDComp-ext");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 14) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "RF-CapabBandFDDComp", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "RF-CapabBandFDDComp");
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 3);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 255);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AP-AICH-ChannelisationCode");
    return 0;
 }
 
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp_ext(rtxContext* ctx, UE_RadioAccessCapabilityComp_ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapabilityComp-ext");
-   /* rf-CapabilityFDDComp */
-   rtxCtxtPushElemName(ctx, "rf-CapabilityFDDComp");
-   stat = asn1PD_UMTS_RF_CapabBandListFDDComp_ext(ctx, &pvalue->rf_CapabilityFDDComp);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RF_CapabilityComp_v770ext_tdd768_RF_Capability(rtxContext* ctx, RF_CapabilityComp_v770ext_tdd768_RF_Capability* pvalue)
+int asn1PD_UMTS_AP_PreambleScramblingCode(rtxContext* RT_RESTRICT ctx, AP_PreambleScramblingCode* RT_RESTRICT pvalue)
 {
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "notSupported");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "supported");
-         rtxCtxtPushTypeName(ctx, "RadioFrequencyBandTDDList-r7");
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.supported, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 79);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AP-PreambleScramblingCode");
    return 0;
 }
 
-int asn1PD_UMTS_RF_CapabilityComp_v770ext(rtxContext* ctx, RF_CapabilityComp_v770ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RF-CapabilityComp-v770ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* tdd384-RF-Capability */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "tdd384-RF-Capability");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "RadioFrequencyBandTDDList-r7");
-      stat = pd_ConsUnsigned(ctx, &pvalue->tdd384_RF_Capability, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tdd768-RF-Capability */
-   rtxCtxtPushElemName(ctx, "tdd768-RF-Capability");
-   stat = asn1PD_UMTS_RF_CapabilityComp_v770ext_tdd768_RF_Capability(ctx, &pvalue->tdd768_RF_Capability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tdd128-RF-Capability */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "tdd128-RF-Capability");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "RadioFrequencyBandTDDList-r7");
-      stat = pd_ConsUnsigned(ctx, &pvalue->tdd128_RF_Capability, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp_v770ext_securityCapabilityIndication(rtxContext* ctx, UE_RadioAccessCapabilityComp_v770ext_securityCapabilityIndication* pvalue)
+int asn1PD_UMTS_AP_Signature(rtxContext* RT_RESTRICT ctx, AP_Signature* RT_RESTRICT pvalue)
 {
    int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp_v770ext_ganssSupportIndication(rtxContext* ctx, UE_RadioAccessCapabilityComp_v770ext_ganssSupportIndication* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp_v770ext_mac_ehsSupport(rtxContext* ctx, UE_RadioAccessCapabilityComp_v770ext_mac_ehsSupport* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp_v770ext(rtxContext* ctx, UE_RadioAccessCapabilityComp_v770ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapabilityComp-v770ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* rf-CapabilityComp */
-   rtxCtxtPushElemName(ctx, "rf-CapabilityComp");
-   stat = asn1PD_UMTS_RF_CapabilityComp_v770ext(ctx, &pvalue->rf_CapabilityComp);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* securityCapabilityIndication */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "securityCapabilityIndication");
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->securityCapabilityIndication = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssSupportIndication */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ganssSupportIndication");
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->ganssSupportIndication = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mac-ehsSupport */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mac-ehsSupport");
-      pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->mac_ehsSupport = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_fddPhysicalChannelCapab_hspdsch_edch(rtxContext* ctx, UE_RadioAccessCapabilityComp2_fddPhysicalChannelCapab_hspdsch_edch* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dl-CapabilityWithSimultaneousHS-DSCHConfig */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-CapabilityWithSimultaneousHS-DSCHConfig");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "DL-CapabilityWithSimultaneousHS-DSCHConfig");
-      stat = pd_ConsUnsigned(ctx, &pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* physicalChannelCapabComp-hspdsch-r6 */
-   rtxCtxtPushElemName(ctx, "physicalChannelCapabComp-hspdsch-r6");
-   rtxCtxtPushTypeName(ctx, "HSDSCH-physical-layer-category");
-   stat = pd_ConsUInt8(ctx, &pvalue->physicalChannelCapabComp_hspdsch_r6, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* physicalChannelCapability-edch-r6 */
-   rtxCtxtPushElemName(ctx, "physicalChannelCapability-edch-r6");
-   stat = asn1PD_UMTS_PhysicalChannelCapability_edch_r6(ctx, &pvalue->physicalChannelCapability_edch_r6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp2(rtxContext* ctx, UE_RadioAccessCapabilityComp2* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapabilityComp2");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* fddPhysicalChannelCapab-hspdsch-edch */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "fddPhysicalChannelCapab-hspdsch-edch");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapabilityComp2_fddPhysicalChannelCapab_hspdsch_edch(ctx, &pvalue->fddPhysicalChannelCapab_hspdsch_edch);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v770ext_hsscchlessHsdschOperation(rtxContext* ctx, UE_RadioAccessCapabilityComp2_v770ext_hsscchlessHsdschOperation* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v770ext_enhancedFdpch(rtxContext* ctx, UE_RadioAccessCapabilityComp2_v770ext_enhancedFdpch* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellFach(rtxContext* ctx, UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellFach* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellUraPch(rtxContext* ctx, UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellUraPch* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v770ext_discontinuousDpcchTransmission(rtxContext* ctx, UE_RadioAccessCapabilityComp2_v770ext_discontinuousDpcchTransmission* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v770ext_slotFormat4(rtxContext* ctx, UE_RadioAccessCapabilityComp2_v770ext_slotFormat4* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v770ext(rtxContext* ctx, UE_RadioAccessCapabilityComp2_v770ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapabilityComp2-v770ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 9);
-   RT_CHECK(ctx, stat);
-   /* hsdsch-physical-layer-category-ext */
-   if (present & ((uint32_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "hsdsch-physical-layer-category-ext");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "HSDSCH-physical-layer-category-ext");
-      stat = pd_ConsUInt8(ctx, &pvalue->hsdsch_physical_layer_category_ext, 1, 20);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* edch-PhysicalLayerCategory-extension */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "edch-PhysicalLayerCategory-extension");
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->edch_PhysicalLayerCategory_extension, 7, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hsscchlessHsdschOperation */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "hsscchlessHsdschOperation");
-      pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->hsscchlessHsdschOperation = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* enhancedFdpch */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "enhancedFdpch");
-      pvalue->m |= 0x8u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->enhancedFdpch = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hsdschReception-CellFach */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "hsdschReception-CellFach");
-      pvalue->m |= 0x10u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->hsdschReception_CellFach = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hsdschReception-CellUraPch */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "hsdschReception-CellUraPch");
-      pvalue->m |= 0x20u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->hsdschReception_CellUraPch = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* discontinuousDpcchTransmission */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "discontinuousDpcchTransmission");
-      pvalue->m |= 0x40u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->discontinuousDpcchTransmission = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* slotFormat4 */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "slotFormat4");
-      pvalue->m |= 0x80u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->slotFormat4 = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdcp-Capability */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "pdcp-Capability");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_PDCP_Capability_v770ext(ctx, &pvalue->pdcp_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v7f0ext_supportofTxDivOnNonMIMOChannel(rtxContext* ctx, UE_RadioAccessCapabilityComp2_v7f0ext_supportofTxDivOnNonMIMOChannel* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v7f0ext(rtxContext* ctx, UE_RadioAccessCapabilityComp2_v7f0ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapabilityComp2-v7f0ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* supportofTxDivOnNonMIMOChannel */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "supportofTxDivOnNonMIMOChannel");
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportofTxDivOnNonMIMOChannel = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v860ext_supportOfMACiis(rtxContext* ctx, UE_RadioAccessCapabilityComp2_v860ext_supportOfMACiis* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v860ext(rtxContext* ctx, UE_RadioAccessCapabilityComp2_v860ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapabilityComp2-v860ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* hsdsch-physical-layer-category-ext2 */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "hsdsch-physical-layer-category-ext2");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "HSDSCH-physical-layer-category-ext2");
-      stat = pd_ConsUInt8(ctx, &pvalue->hsdsch_physical_layer_category_ext2, 21, 24);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportOfMACiis */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "supportOfMACiis");
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportOfMACiis = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v920ext(rtxContext* ctx, UE_RadioAccessCapabilityComp2_v920ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapabilityComp2-v920ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* hsdsch-physical-layer-category-ext3 */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "hsdsch-physical-layer-category-ext3");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "HSDSCH-physical-layer-category-ext3");
-      stat = pd_ConsUInt8(ctx, &pvalue->hsdsch_physical_layer_category_ext3, 25, 28);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* edch-PhysicalLayerCategory-extension2 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "edch-PhysicalLayerCategory-extension2");
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->edch_PhysicalLayerCategory_extension2, 8, 9);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfSFModeForHSPDSCHDualStream(rtxContext* ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfSFModeForHSPDSCHDualStream* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfCommonEDCH(rtxContext* ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfCommonEDCH* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfMACiis(rtxContext* ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfMACiis* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfSPSOperation(rtxContext* ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfSPSOperation* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfControlChannelDRXOperation(rtxContext* ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfControlChannelDRXOperation* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapabilityComp_TDD128(rtxContext* ctx, UE_RadioAccessCapabilityComp_TDD128* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapabilityComp-TDD128");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat);
-   /* tdd128RF-Capability */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "tdd128RF-Capability");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioFrequencyBandTDDextList(ctx, &pvalue->tdd128RF_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportOfSFModeForHSPDSCHDualStream */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "supportOfSFModeForHSPDSCHDualStream");
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->supportOfSFModeForHSPDSCHDualStream, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportOfCommonEDCH */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "supportOfCommonEDCH");
-      pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportOfCommonEDCH = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportOfMACiis */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "supportOfMACiis");
-      pvalue->m |= 0x8u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportOfMACiis = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportOfSPSOperation */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "supportOfSPSOperation");
-      pvalue->m |= 0x10u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportOfSPSOperation = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportOfControlChannelDRXOperation */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "supportOfControlChannelDRXOperation");
-      pvalue->m |= 0x20u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportOfControlChannelDRXOperation = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v590ext(rtxContext* ctx, UE_RadioAccessCapability_v590ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability-v590ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dl-CapabilityWithSimultaneousHS-DSCHConfig */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-CapabilityWithSimultaneousHS-DSCHConfig");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "DL-CapabilityWithSimultaneousHS-DSCHConfig");
-      stat = pd_ConsUnsigned(ctx, &pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdcp-Capability-r5-ext */
-   rtxCtxtPushElemName(ctx, "pdcp-Capability-r5-ext");
-   stat = asn1PD_UMTS_PDCP_Capability_r5_ext(ctx, &pvalue->pdcp_Capability_r5_ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rlc-Capability-r5-ext */
-   rtxCtxtPushElemName(ctx, "rlc-Capability-r5-ext");
-   stat = asn1PD_UMTS_RLC_Capability_r5_ext(ctx, &pvalue->rlc_Capability_r5_ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* physicalChannelCapability */
-   rtxCtxtPushElemName(ctx, "physicalChannelCapability");
-   stat = asn1PD_UMTS_PhysicalChannelCapability_hspdsch_r5(ctx, &pvalue->physicalChannelCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* multiModeRAT-Capability-v590ext */
-   rtxCtxtPushElemName(ctx, "multiModeRAT-Capability-v590ext");
-   stat = asn1PD_UMTS_MultiModeRAT_Capability_v590ext(ctx, &pvalue->multiModeRAT_Capability_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v5c0ext(rtxContext* ctx, UE_RadioAccessCapability_v5c0ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability-v5c0ext");
-   /* pdcp-Capability-r5-ext2 */
-   rtxCtxtPushElemName(ctx, "pdcp-Capability-r5-ext2");
-   stat = asn1PD_UMTS_PDCP_Capability_r5_ext2(ctx, &pvalue->pdcp_Capability_r5_ext2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RadioAccessCapability_v680ext(rtxContext* ctx, UE_RadioAccessCapability_v680ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability-v680ext");
-   /* multiModeRAT-Capability-v680ext */
-   rtxCtxtPushElemName(ctx, "multiModeRAT-Capability-v680ext");
-   stat = asn1PD_UMTS_MultiModeRAT_Capability_v680ext(ctx, &pvalue->multiModeRAT_Capability_v680ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_PhysChCapabilityFDD_r6(rtxContext* ctx, UL_PhysChCapabilityFDD_r6* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UL-PhysChCapabilityFDD-r6");
-   /* maxNoDPDCH-BitsTransmitted */
-   rtxCtxtPushElemName(ctx, "maxNoDPDCH-BitsTransmitted");
-   rtxCtxtPushTypeName(ctx, "MaxNoDPDCH-BitsTransmitted");
-   stat = pd_ConsUnsigned(ctx, &pvalue->maxNoDPDCH_BitsTransmitted, 0, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* physicalchannelcapability-edch */
-   rtxCtxtPushElemName(ctx, "physicalchannelcapability-edch");
-   stat = asn1PD_UMTS_PhysicalChannelCapability_edch_r6(ctx, &pvalue->physicalchannelcapability_edch);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_SecondaryCellInfoFDD_newConfiguration(rtxContext* ctx, UL_SecondaryCellInfoFDD_newConfiguration* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* secondaryServingEDCHCell-Info */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "secondaryServingEDCHCell-Info");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SecondaryServingEDCHCell_Info(ctx, &pvalue->secondaryServingEDCHCell_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* secondaryEDCH-Info-Common */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "secondaryEDCH-Info-Common");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SecondaryEDCH_Info_Common(ctx, &pvalue->secondaryEDCH_Info_Common);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-InformationPerSecondaryRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerSecondaryRL-List");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_DL_InformationPerSecondaryRL_List(ctx, &pvalue->dl_InformationPerSecondaryRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_SecondaryCellInfoFDD(rtxContext* ctx, UL_SecondaryCellInfoFDD* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "UL-SecondaryCellInfoFDD");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "continue");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "newConfiguration");
-         pvalue->u.newConfiguration = (UL_SecondaryCellInfoFDD_newConfiguration*)rtxMemHeapAlloc(ctx, sizeof(UL_SecondaryCellInfoFDD_newConfiguration));
-         if (pvalue->u.newConfiguration == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UL_SecondaryCellInfoFDD_newConfiguration(pvalue->u.newConfiguration);
-         stat = asn1PD_UMTS_UL_SecondaryCellInfoFDD_newConfiguration(ctx, pvalue->u.newConfiguration);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_SecurityInformation(rtxContext* ctx, UE_SecurityInformation* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-SecurityInformation");
-   /* start-CS */
-   rtxCtxtPushElemName(ctx, "start-CS");
-   stat = asn1PD_UMTS_START_Value(ctx, &pvalue->start_CS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_SecurityInformation2(rtxContext* ctx, UE_SecurityInformation2* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-SecurityInformation2");
-   /* start-PS */
-   rtxCtxtPushElemName(ctx, "start-PS");
-   stat = asn1PD_UMTS_START_Value(ctx, &pvalue->start_PS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_URA_UpdateCause(rtxContext* ctx, URA_UpdateCause* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "URA-UpdateCause");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient(rtxContext* ctx, UTRAN_DRX_CycleLengthCoefficient* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "UTRAN-DRX-CycleLengthCoefficient");
-   stat = pd_ConsUInt8(ctx, pvalue, 3, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(rtxContext* ctx, UTRAN_DRX_CycleLengthCoefficient_r7* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UTRAN-DRX-CycleLengthCoefficient-r7");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* drx-CycleLengthCoefficient */
-   rtxCtxtPushElemName(ctx, "drx-CycleLengthCoefficient");
-   stat = pd_ConsUInt8(ctx, &pvalue->drx_CycleLengthCoefficient, 3, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* drx-CycleLengthCoefficient2 */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "drx-CycleLengthCoefficient2");
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->drx_CycleLengthCoefficient2, 3, 9);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* timeForDRXCycle2 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "timeForDRXCycle2");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "T-319");
-      stat = pd_ConsUnsigned(ctx, &pvalue->timeForDRXCycle2, 0, 6);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_WaitTime(rtxContext* ctx, WaitTime* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "WaitTime");
    stat = pd_ConsUInt8(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AP-Signature");
    return 0;
 }
 
-int asn1PD_UMTS_ROHC_Profile_r4(rtxContext* ctx, ROHC_Profile_r4* pvalue)
+int asn1PD_UMTS_AP_Subchannel(rtxContext* RT_RESTRICT ctx, AP_Subchannel* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "ROHC-Profile-r4");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 11);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AP-Subchannel");
    return 0;
 }
 
-int asn1PD_UMTS_ROHC_ProfileList_r4(rtxContext* ctx, ROHC_ProfileList_r4* pvalue)
+int asn1PD_UMTS_AvailableAP_SubchannelList(rtxContext* RT_RESTRICT ctx, AvailableAP_SubchannelList* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "ROHC-ProfileList-r4");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 7) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "ROHC-Profile-r4", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "ROHC-Profile-r4");
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 1, 3);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CID_InclusionInfo_r4(rtxContext* ctx, CID_InclusionInfo_r4* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "CID-InclusionInfo-r4");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ROHC_PacketSize_r4(rtxContext* ctx, ROHC_PacketSize_r4* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "ROHC-PacketSize-r4");
-   stat = pd_ConsUInt16(ctx, pvalue, 2, 1500);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ROHC_PacketSizeList_r4(rtxContext* ctx, ROHC_PacketSizeList_r4* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "ROHC-PacketSizeList-r4");
    {
       uint32_t raw;
       stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, "AvailableAP-SubchannelList");
+      pvalue->n = raw + 1;
+      if (raw > 11) {
+         rtxErrAddStrParm(ctx, "AvailableAP-SubchannelList");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "AvailableAP-SubchannelList");
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 11);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, "AP-Subchannel", "AP-Subchannel", (int32_t)i, "AvailableAP-SubchannelList");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AP_Signature_VCAM(rtxContext* RT_RESTRICT ctx, AP_Signature_VCAM* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AP-Signature-VCAM");
+   /* ap-Signature */
+   stat = pd_ConsUInt8(ctx, &pvalue->ap_Signature, 0, 15);
+   RT_CHECK(ctx, stat, "AP-Signature", "ap-Signature", -1, "AP-Signature-VCAM");
+   /* availableAP-SubchannelList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_AvailableAP_SubchannelList(ctx, &pvalue->availableAP_SubchannelList);
+      RT_CHECK(ctx, stat, 0, "availableAP-SubchannelList", -1, "AP-Signature-VCAM");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AvailableAP_Signature_VCAMList(rtxContext* RT_RESTRICT ctx, AvailableAP_Signature_VCAMList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AvailableAP-Signature-VCAMList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      AP_Signature_VCAM* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(AP_Signature_VCAM));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "AP-Signature-VCAM", (int32_t)i, "AvailableAP-Signature-VCAMList");
+      elem = (AP_Signature_VCAM*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_AP_Signature_VCAM(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_AP_Signature_VCAM(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "AP-Signature-VCAM", (int32_t)i, "AvailableAP-Signature-VCAMList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AvailableAP_SignatureList(rtxContext* RT_RESTRICT ctx, AvailableAP_SignatureList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 4);
+      RT_CHECK(ctx, stat, 0, 0, -1, "AvailableAP-SignatureList");
       pvalue->n = raw + 1;
       if (raw > 15) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "AvailableAP-SignatureList");
          rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "AvailableAP-SignatureList");
       }
    }
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "ROHC-PacketSize-r4", i);
       pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "ROHC-PacketSize-r4");
-      stat = pd_ConsUInt16(ctx, &pvalue->elem[i], 2, 1500);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_RFC3095_r4(rtxContext* ctx, UL_RFC3095_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UL-RFC3095-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dummy1 */
-   rtxCtxtPushElemName(ctx, "dummy1");
-   rtxCtxtPushTypeName(ctx, "CID-InclusionInfo-r4");
-   stat = pd_ConsUnsigned(ctx, &pvalue->dummy1, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* max-CID */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "max-CID");
-      stat = pd_ConsUInt16(ctx, &pvalue->max_CID, 1, 16383);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->max_CID = 15;
-   }
-   /* dummy */
-   rtxCtxtPushElemName(ctx, "dummy");
-   stat = asn1PD_UMTS_ROHC_PacketSizeList_r4(ctx, &pvalue->dummy);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_RFC3095_r4(rtxContext* ctx, DL_RFC3095_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "DL-RFC3095-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   rtxCtxtPushElemName(ctx, "dummy");
-   rtxCtxtPushTypeName(ctx, "CID-InclusionInfo-r4");
-   stat = pd_ConsUnsigned(ctx, &pvalue->dummy, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* max-CID */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "max-CID");
-      stat = pd_ConsUInt16(ctx, &pvalue->max_CID, 1, 16383);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->max_CID = 15;
-   }
-   /* reverseDecompressionDepth */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "reverseDecompressionDepth");
-      stat = pd_ConsUInt16(ctx, &pvalue->reverseDecompressionDepth, 0, 65535);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->reverseDecompressionDepth = 0;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RFC3095_Info_r4(rtxContext* ctx, RFC3095_Info_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RFC3095-Info-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* rohcProfileList */
-   rtxCtxtPushElemName(ctx, "rohcProfileList");
-   stat = asn1PD_UMTS_ROHC_ProfileList_r4(ctx, &pvalue->rohcProfileList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-RFC3095 */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ul-RFC3095");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_RFC3095_r4(ctx, &pvalue->ul_RFC3095);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-RFC3095 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-RFC3095");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DL_RFC3095_r4(ctx, &pvalue->dl_RFC3095);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_AlgorithmSpecificInfo_r4(rtxContext* ctx, AlgorithmSpecificInfo_r4* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "AlgorithmSpecificInfo-r4");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "rfc2507-Info");
-         pvalue->u.rfc2507_Info = (RFC2507_Info*)rtxMemHeapAlloc(ctx, sizeof(RFC2507_Info));
-         if (pvalue->u.rfc2507_Info == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RFC2507_Info(pvalue->u.rfc2507_Info);
-         stat = asn1PD_UMTS_RFC2507_Info(ctx, pvalue->u.rfc2507_Info);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "rfc3095-Info");
-         pvalue->u.rfc3095_Info = (RFC3095_Info_r4*)rtxMemHeapAlloc(ctx, sizeof(RFC3095_Info_r4));
-         if (pvalue->u.rfc3095_Info == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RFC3095_Info_r4(pvalue->u.rfc3095_Info);
-         stat = asn1PD_UMTS_RFC3095_Info_r4(ctx, pvalue->u.rfc3095_Info);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_COUNT_C(rtxContext* ctx, COUNT_C* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "COUNT-C");
-   stat = pd_ConsUInt32(ctx, pvalue, 0, 4294967295LL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_COUNT_C_MSB(rtxContext* ctx, COUNT_C_MSB* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "COUNT-C-MSB");
-   stat = pd_ConsUInt32(ctx, pvalue, 0, 33554431);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_AMR_Rate(rtxContext* ctx, UL_AMR_Rate* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "UL-AMR-Rate");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MaxCS_Delay(rtxContext* ctx, MaxCS_Delay* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MaxCS-Delay");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 18);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CS_HSPA_Information(rtxContext* ctx, CS_HSPA_Information* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CS-HSPA-Information");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ul-AMR-Rate */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ul-AMR-Rate");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "UL-AMR-Rate");
-      stat = pd_ConsUnsigned(ctx, &pvalue->ul_AMR_Rate, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxCS-Delay */
-   rtxCtxtPushElemName(ctx, "maxCS-Delay");
-   rtxCtxtPushTypeName(ctx, "MaxCS-Delay");
-   stat = pd_ConsUInt8(ctx, &pvalue->maxCS_Delay, 0, 18);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DefaultConfigMode(rtxContext* ctx, DefaultConfigMode* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "DefaultConfigMode");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DefaultConfigIdForCellFACH(rtxContext* ctx, DefaultConfigIdForCellFACH* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "DefaultConfigIdForCellFACH");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DefaultConfigForCellFACH(rtxContext* ctx, DefaultConfigForCellFACH* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DefaultConfigForCellFACH");
-   /* defaultConfigMode */
-   rtxCtxtPushElemName(ctx, "defaultConfigMode");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigMode");
-   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* defaultConfigIdForCellFACH */
-   rtxCtxtPushElemName(ctx, "defaultConfigIdForCellFACH");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigIdForCellFACH");
-   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdForCellFACH, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DefaultConfigIdentity(rtxContext* ctx, DefaultConfigIdentity* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "DefaultConfigIdentity");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DefaultConfigIdentity_r4(rtxContext* ctx, DefaultConfigIdentity_r4* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "DefaultConfigIdentity-r4");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 12);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DefaultConfigIdentity_r5(rtxContext* ctx, DefaultConfigIdentity_r5* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "DefaultConfigIdentity-r5");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 13);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DefaultConfigIdentity_r6(rtxContext* ctx, DefaultConfigIdentity_r6* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "DefaultConfigIdentity-r6");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DDI(rtxContext* ctx, DDI* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "DDI");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 62);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_AM_RLC_Mode_r5(rtxContext* ctx, DL_AM_RLC_Mode_r5* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DL-AM-RLC-Mode-r5");
-   /* dl-RLC-PDU-size */
-   rtxCtxtPushElemName(ctx, "dl-RLC-PDU-size");
-   stat = asn1PD_UMTS_OctetModeRLC_SizeInfoType1(ctx, &pvalue->dl_RLC_PDU_size);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* inSequenceDelivery */
-   rtxCtxtPushElemName(ctx, "inSequenceDelivery");
-   stat = rtxDecBitInline(ctx, &pvalue->inSequenceDelivery);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* receivingWindowSize */
-   rtxCtxtPushElemName(ctx, "receivingWindowSize");
-   rtxCtxtPushTypeName(ctx, "ReceivingWindowSize");
-   stat = pd_ConsUnsigned(ctx, &pvalue->receivingWindowSize, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dl-RLC-StatusInfo */
-   rtxCtxtPushElemName(ctx, "dl-RLC-StatusInfo");
-   stat = asn1PD_UMTS_DL_RLC_StatusInfo(ctx, &pvalue->dl_RLC_StatusInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_AM_RLC_Mode_r7_dl_RLC_PDU_size_flexibleSize(rtxContext* ctx, DL_AM_RLC_Mode_r7_dl_RLC_PDU_size_flexibleSize* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_AM_RLC_Mode_r7_dl_RLC_PDU_size(rtxContext* ctx, DL_AM_RLC_Mode_r7_dl_RLC_PDU_size* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fixedSize");
-         pvalue->u.fixedSize = (OctetModeRLC_SizeInfoType1*)rtxMemHeapAlloc(ctx, sizeof(OctetModeRLC_SizeInfoType1));
-         if (pvalue->u.fixedSize == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_OctetModeRLC_SizeInfoType1(pvalue->u.fixedSize);
-         stat = asn1PD_UMTS_OctetModeRLC_SizeInfoType1(ctx, pvalue->u.fixedSize);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "flexibleSize");
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.flexibleSize, 0, 1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_AM_RLC_Mode_r7(rtxContext* ctx, DL_AM_RLC_Mode_r7* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DL-AM-RLC-Mode-r7");
-   /* dl-RLC-PDU-size */
-   rtxCtxtPushElemName(ctx, "dl-RLC-PDU-size");
-   stat = asn1PD_UMTS_DL_AM_RLC_Mode_r7_dl_RLC_PDU_size(ctx, &pvalue->dl_RLC_PDU_size);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* inSequenceDelivery */
-   rtxCtxtPushElemName(ctx, "inSequenceDelivery");
-   stat = rtxDecBitInline(ctx, &pvalue->inSequenceDelivery);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* receivingWindowSize */
-   rtxCtxtPushElemName(ctx, "receivingWindowSize");
-   rtxCtxtPushTypeName(ctx, "ReceivingWindowSize");
-   stat = pd_ConsUnsigned(ctx, &pvalue->receivingWindowSize, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dl-RLC-StatusInfo */
-   rtxCtxtPushElemName(ctx, "dl-RLC-StatusInfo");
-   stat = asn1PD_UMTS_DL_RLC_StatusInfo(ctx, &pvalue->dl_RLC_StatusInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PDCP_SN_Info(rtxContext* ctx, PDCP_SN_Info* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "PDCP-SN-Info");
-   stat = pd_ConsUInt16(ctx, pvalue, 0, 65535);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RB_WithPDCP_Info(rtxContext* ctx, RB_WithPDCP_Info* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RB-WithPDCP-Info");
-   /* rb-Identity */
-   rtxCtxtPushElemName(ctx, "rb-Identity");
-   rtxCtxtPushTypeName(ctx, "RB-Identity");
-   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* pdcp-SN-Info */
-   rtxCtxtPushElemName(ctx, "pdcp-SN-Info");
-   rtxCtxtPushTypeName(ctx, "PDCP-SN-Info");
-   stat = pd_ConsUInt16(ctx, &pvalue->pdcp_SN_Info, 0, 65535);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RB_WithPDCP_InfoList(rtxContext* ctx, RB_WithPDCP_InfoList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "RB-WithPDCP-InfoList");
-   RT_SET_SIZE(ctx, 1, 27);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RB_WithPDCP_Info* elem;
-      rtxCtxtPushArrayElemName(ctx, "RB-WithPDCP-Info", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_WithPDCP_Info));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (RB_WithPDCP_Info*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RB_WithPDCP_Info(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CounterSynchronisationInfo(rtxContext* ctx, DL_CounterSynchronisationInfo* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "DL-CounterSynchronisationInfo");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* rB-WithPDCP-InfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "rB-WithPDCP-InfoList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RB_WithPDCP_InfoList(ctx, &pvalue->rB_WithPDCP_InfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RB_PDCPContextRelocation(rtxContext* ctx, RB_PDCPContextRelocation* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RB-PDCPContextRelocation");
-   /* rb-Identity */
-   rtxCtxtPushElemName(ctx, "rb-Identity");
-   rtxCtxtPushTypeName(ctx, "RB-Identity");
-   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dl-RFC3095-Context-Relocation */
-   rtxCtxtPushElemName(ctx, "dl-RFC3095-Context-Relocation");
-   stat = rtxDecBitInline(ctx, &pvalue->dl_RFC3095_Context_Relocation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-RFC3095-Context-Relocation */
-   rtxCtxtPushElemName(ctx, "ul-RFC3095-Context-Relocation");
-   stat = rtxDecBitInline(ctx, &pvalue->ul_RFC3095_Context_Relocation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RB_PDCPContextRelocationList(rtxContext* ctx, RB_PDCPContextRelocationList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "RB-PDCPContextRelocationList");
-   RT_SET_SIZE(ctx, 1, 27);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RB_PDCPContextRelocation* elem;
-      rtxCtxtPushArrayElemName(ctx, "RB-PDCPContextRelocation", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_PDCPContextRelocation));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (RB_PDCPContextRelocation*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RB_PDCPContextRelocation(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(rtxContext* ctx, DL_CounterSynchronisationInfo_r5* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "DL-CounterSynchronisationInfo-r5");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* rb-WithPDCP-InfoList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "rb-WithPDCP-InfoList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RB_WithPDCP_InfoList(ctx, &pvalue->rb_WithPDCP_InfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-PDCPContextRelocationList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "rb-PDCPContextRelocationList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RB_PDCPContextRelocationList(ctx, &pvalue->rb_PDCPContextRelocationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MAC_d_FlowIdentity(rtxContext* ctx, MAC_d_FlowIdentity* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MAC-d-FlowIdentity");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MAC_d_FlowIdentityDCHandHSDSCH(rtxContext* ctx, MAC_d_FlowIdentityDCHandHSDSCH* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MAC-d-FlowIdentityDCHandHSDSCH");
-   /* dch-transport-ch-id */
-   rtxCtxtPushElemName(ctx, "dch-transport-ch-id");
-   rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-   stat = pd_ConsUInt8(ctx, &pvalue->dch_transport_ch_id, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hsdsch-mac-d-flow-id */
-   rtxCtxtPushElemName(ctx, "hsdsch-mac-d-flow-id");
-   rtxCtxtPushTypeName(ctx, "MAC-d-FlowIdentity");
-   stat = pd_ConsUInt8(ctx, &pvalue->hsdsch_mac_d_flow_id, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_TransportChannelType_r5(rtxContext* ctx, DL_TransportChannelType_r5* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "DL-TransportChannelType-r5");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 5);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "dch");
-         rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.dch, 1, 32);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "fach");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "dsch");
-         rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.dsch, 1, 32);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "dch-and-dsch");
-         pvalue->u.dch_and_dsch = (TransportChannelIdentityDCHandDSCH*)rtxMemHeapAllocZ(ctx, sizeof(TransportChannelIdentityDCHandDSCH));
-         if (pvalue->u.dch_and_dsch == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_TransportChannelIdentityDCHandDSCH(ctx, pvalue->u.dch_and_dsch);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "hsdsch");
-         rtxCtxtPushTypeName(ctx, "MAC-d-FlowIdentity");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.hsdsch, 0, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "dch-and-hsdsch");
-         pvalue->u.dch_and_hsdsch = (MAC_d_FlowIdentityDCHandHSDSCH*)rtxMemHeapAllocZ(ctx, sizeof(MAC_d_FlowIdentityDCHandHSDSCH));
-         if (pvalue->u.dch_and_hsdsch == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_MAC_d_FlowIdentityDCHandHSDSCH(ctx, pvalue->u.dch_and_hsdsch);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_LogicalChannelMapping_r5(rtxContext* ctx, DL_LogicalChannelMapping_r5* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "DL-LogicalChannelMapping-r5");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dl-TransportChannelType */
-   rtxCtxtPushElemName(ctx, "dl-TransportChannelType");
-   stat = asn1PD_UMTS_DL_TransportChannelType_r5(ctx, &pvalue->dl_TransportChannelType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* logicalChannelIdentity */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "logicalChannelIdentity");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "LogicalChannelIdentity");
-      stat = pd_ConsUInt8(ctx, &pvalue->logicalChannelIdentity, 1, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_TransportChannelType_r7_hsdsch(rtxContext* ctx, DL_TransportChannelType_r7_hsdsch* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "mac-hs");
-         rtxCtxtPushTypeName(ctx, "MAC-d-FlowIdentity");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.mac_hs, 0, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "mac-ehs");
-         rtxCtxtPushTypeName(ctx, "MAC-ehs-QueueId");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.mac_ehs, 0, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MAC_ehs_QueueIdDCHandHSDSCH(rtxContext* ctx, MAC_ehs_QueueIdDCHandHSDSCH* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MAC-ehs-QueueIdDCHandHSDSCH");
-   /* dch-transport-ch-id */
-   rtxCtxtPushElemName(ctx, "dch-transport-ch-id");
-   rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-   stat = pd_ConsUInt8(ctx, &pvalue->dch_transport_ch_id, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hsdsch-mac-ehs-QueueId */
-   rtxCtxtPushElemName(ctx, "hsdsch-mac-ehs-QueueId");
-   rtxCtxtPushTypeName(ctx, "MAC-ehs-QueueId");
-   stat = pd_ConsUInt8(ctx, &pvalue->hsdsch_mac_ehs_QueueId, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_TransportChannelType_r7_dch_and_hsdsch(rtxContext* ctx, DL_TransportChannelType_r7_dch_and_hsdsch* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "mac-hs");
-         pvalue->u.mac_hs = (MAC_d_FlowIdentityDCHandHSDSCH*)rtxMemHeapAllocZ(ctx, sizeof(MAC_d_FlowIdentityDCHandHSDSCH));
-         if (pvalue->u.mac_hs == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_MAC_d_FlowIdentityDCHandHSDSCH(ctx, pvalue->u.mac_hs);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "mac-ehs");
-         pvalue->u.mac_ehs = (MAC_ehs_QueueIdDCHandHSDSCH*)rtxMemHeapAllocZ(ctx, sizeof(MAC_ehs_QueueIdDCHandHSDSCH));
-         if (pvalue->u.mac_ehs == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_MAC_ehs_QueueIdDCHandHSDSCH(ctx, pvalue->u.mac_ehs);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DL_TransportChannelType_r7(rtxContext* ctx, DL_TransportChannelType_r7* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "DL-TransportChannelType-r7");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 5);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "dch");
-         rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.dch, 1, 32);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "fach");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "dsch");
-         rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.dsch, 1, 32);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "dch-and-dsch");
-         pvalue->u.dch_and_dsch = (TransportChannelIdentityDCHandDSCH*)rtxMemHeapAllocZ(ctx, sizeof(TransportChannelIdentityDCHandDSCH));
-         if (pvalue->u.dch_and_dsch == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_TransportChannelIdentityDCHandDSCH(ctx, pvalue->u.dch_and_dsch);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "hsdsch");
-         pvalue->u.hsdsch = (DL_TransportChannelType_r7_hsdsch*)rtxMemHeapAlloc(ctx, sizeof(DL_TransportChannelType_r7_hsdsch));
-         if (pvalue->u.hsdsch == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_DL_TransportChannelType_r7_hsdsch(pvalue->u.hsdsch);
-         stat = asn1PD_UMTS_DL_TransportChannelType_r7_hsdsch(ctx, pvalue->u.hsdsch);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "dch-and-hsdsch");
-         pvalue->u.dch_and_hsdsch = (DL_TransportChannelType_r7_dch_and_hsdsch*)rtxMemHeapAlloc(ctx, sizeof(DL_TransportChannelType_r7_dch_and_hsdsch));
-         if (pvalue->u.dch_and_hsdsch == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_DL_TransportChannelType_r7_dch_and_hsdsch(pvalue->u.dch_and_hsdsch);
-         stat = asn1PD_UMTS_DL_TransportChannelType_r7_dch_and_hsdsch(ctx, pvalue->u.dch_and_hsdsch);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_LogicalChannelMapping_r7(rtxContext* ctx, DL_LogicalChannelMapping_r7* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "DL-LogicalChannelMapping-r7");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dl-TransportChannelType */
-   rtxCtxtPushElemName(ctx, "dl-TransportChannelType");
-   stat = asn1PD_UMTS_DL_TransportChannelType_r7(ctx, &pvalue->dl_TransportChannelType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* logicalChannelIdentity */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "logicalChannelIdentity");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "LogicalChannelIdentity");
-      stat = pd_ConsUInt8(ctx, &pvalue->logicalChannelIdentity, 1, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_LogicalChannelMappingList_r5(rtxContext* ctx, DL_LogicalChannelMappingList_r5* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "DL-LogicalChannelMappingList-r5");
-   RT_SET_SIZE(ctx, 1, 2);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DL_LogicalChannelMapping_r5* elem;
-      rtxCtxtPushArrayElemName(ctx, "DL-LogicalChannelMapping-r5", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_LogicalChannelMapping_r5));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (DL_LogicalChannelMapping_r5*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DL_LogicalChannelMapping_r5(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DL_LogicalChannelMapping_r5(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_LogicalChannelMappingList_r7(rtxContext* ctx, DL_LogicalChannelMappingList_r7* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "DL-LogicalChannelMappingList-r7");
-   RT_SET_SIZE(ctx, 1, 2);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DL_LogicalChannelMapping_r7* elem;
-      rtxCtxtPushArrayElemName(ctx, "DL-LogicalChannelMapping-r7", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_LogicalChannelMapping_r7));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (DL_LogicalChannelMapping_r7*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DL_LogicalChannelMapping_r7(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DL_LogicalChannelMapping_r7(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_Reception_Window_Size_r6(rtxContext* ctx, DL_Reception_Window_Size_r6* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "DL-Reception-Window-Size-r6");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_UM_RLC_Mode_r5(rtxContext* ctx, DL_UM_RLC_Mode_r5* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DL-UM-RLC-Mode-r5");
-   /* dl-UM-RLC-LI-size */
-   rtxCtxtPushElemName(ctx, "dl-UM-RLC-LI-size");
-   rtxCtxtPushTypeName(ctx, "DL-UM-RLC-LI-size");
-   stat = pd_ConsUnsigned(ctx, &pvalue->dl_UM_RLC_LI_size, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_RLC_Mode_r5(rtxContext* ctx, DL_RLC_Mode_r5* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "DL-RLC-Mode-r5");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "dl-AM-RLC-Mode");
-         pvalue->u.dl_AM_RLC_Mode = (DL_AM_RLC_Mode_r5*)rtxMemHeapAlloc(ctx, sizeof(DL_AM_RLC_Mode_r5));
-         if (pvalue->u.dl_AM_RLC_Mode == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_DL_AM_RLC_Mode_r5(pvalue->u.dl_AM_RLC_Mode);
-         stat = asn1PD_UMTS_DL_AM_RLC_Mode_r5(ctx, pvalue->u.dl_AM_RLC_Mode);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "dl-UM-RLC-Mode");
-         pvalue->u.dl_UM_RLC_Mode = (DL_UM_RLC_Mode_r5*)rtxMemHeapAllocZ(ctx, sizeof(DL_UM_RLC_Mode_r5));
-         if (pvalue->u.dl_UM_RLC_Mode == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_DL_UM_RLC_Mode_r5(ctx, pvalue->u.dl_UM_RLC_Mode);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "dl-TM-RLC-Mode");
-         pvalue->u.dl_TM_RLC_Mode = (DL_TM_RLC_Mode*)rtxMemHeapAllocZ(ctx, sizeof(DL_TM_RLC_Mode));
-         if (pvalue->u.dl_TM_RLC_Mode == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_DL_TM_RLC_Mode(ctx, pvalue->u.dl_TM_RLC_Mode);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_UM_RLC_Mode_r6(rtxContext* ctx, DL_UM_RLC_Mode_r6* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "DL-UM-RLC-Mode-r6");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dl-UM-RLC-LI-size */
-   rtxCtxtPushElemName(ctx, "dl-UM-RLC-LI-size");
-   rtxCtxtPushTypeName(ctx, "DL-UM-RLC-LI-size");
-   stat = pd_ConsUnsigned(ctx, &pvalue->dl_UM_RLC_LI_size, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dl-Reception-Window-Size */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-Reception-Window-Size");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "DL-Reception-Window-Size-r6");
-      stat = pd_ConsUnsigned(ctx, &pvalue->dl_Reception_Window_Size, 0, 5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_RLC_Mode_r6(rtxContext* ctx, DL_RLC_Mode_r6* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "DL-RLC-Mode-r6");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "dl-AM-RLC-Mode");
-         pvalue->u.dl_AM_RLC_Mode = (DL_AM_RLC_Mode_r5*)rtxMemHeapAlloc(ctx, sizeof(DL_AM_RLC_Mode_r5));
-         if (pvalue->u.dl_AM_RLC_Mode == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_DL_AM_RLC_Mode_r5(pvalue->u.dl_AM_RLC_Mode);
-         stat = asn1PD_UMTS_DL_AM_RLC_Mode_r5(ctx, pvalue->u.dl_AM_RLC_Mode);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "dl-UM-RLC-Mode");
-         pvalue->u.dl_UM_RLC_Mode = (DL_UM_RLC_Mode_r6*)rtxMemHeapAlloc(ctx, sizeof(DL_UM_RLC_Mode_r6));
-         if (pvalue->u.dl_UM_RLC_Mode == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_DL_UM_RLC_Mode_r6(pvalue->u.dl_UM_RLC_Mode);
-         stat = asn1PD_UMTS_DL_UM_RLC_Mode_r6(ctx, pvalue->u.dl_UM_RLC_Mode);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "dl-TM-RLC-Mode");
-         pvalue->u.dl_TM_RLC_Mode = (DL_TM_RLC_Mode*)rtxMemHeapAllocZ(ctx, sizeof(DL_TM_RLC_Mode));
-         if (pvalue->u.dl_TM_RLC_Mode == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_DL_TM_RLC_Mode(ctx, pvalue->u.dl_TM_RLC_Mode);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_RLC_Mode_r7(rtxContext* ctx, DL_RLC_Mode_r7* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "DL-RLC-Mode-r7");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "dl-AM-RLC-Mode");
-         pvalue->u.dl_AM_RLC_Mode = (DL_AM_RLC_Mode_r7*)rtxMemHeapAlloc(ctx, sizeof(DL_AM_RLC_Mode_r7));
-         if (pvalue->u.dl_AM_RLC_Mode == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_DL_AM_RLC_Mode_r7(pvalue->u.dl_AM_RLC_Mode);
-         stat = asn1PD_UMTS_DL_AM_RLC_Mode_r7(ctx, pvalue->u.dl_AM_RLC_Mode);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "dl-UM-RLC-Mode");
-         pvalue->u.dl_UM_RLC_Mode = (DL_UM_RLC_Mode_r6*)rtxMemHeapAlloc(ctx, sizeof(DL_UM_RLC_Mode_r6));
-         if (pvalue->u.dl_UM_RLC_Mode == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_DL_UM_RLC_Mode_r6(pvalue->u.dl_UM_RLC_Mode);
-         stat = asn1PD_UMTS_DL_UM_RLC_Mode_r6(ctx, pvalue->u.dl_UM_RLC_Mode);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "dl-TM-RLC-Mode");
-         pvalue->u.dl_TM_RLC_Mode = (DL_TM_RLC_Mode*)rtxMemHeapAllocZ(ctx, sizeof(DL_TM_RLC_Mode));
-         if (pvalue->u.dl_TM_RLC_Mode == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_DL_TM_RLC_Mode(ctx, pvalue->u.dl_TM_RLC_Mode);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HeaderCompressionInfo_r4(rtxContext* ctx, HeaderCompressionInfo_r4* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HeaderCompressionInfo-r4");
-   /* algorithmSpecificInfo */
-   rtxCtxtPushElemName(ctx, "algorithmSpecificInfo");
-   stat = asn1PD_UMTS_AlgorithmSpecificInfo_r4(ctx, &pvalue->algorithmSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HeaderCompressionInfoList_r4(rtxContext* ctx, HeaderCompressionInfoList_r4* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "HeaderCompressionInfoList-r4");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      HeaderCompressionInfo_r4* elem;
-      rtxCtxtPushArrayElemName(ctx, "HeaderCompressionInfo-r4", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HeaderCompressionInfo_r4));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (HeaderCompressionInfo_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_HeaderCompressionInfo_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_HeaderCompressionInfo_r4(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MAC_d_HFN_initial_value(rtxContext* ctx, MAC_d_HFN_initial_value* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MAC-d-HFN-initial-value");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, pvalue, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PDCP_Info_r4(rtxContext* ctx, PDCP_Info_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PDCP-Info-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* losslessSRNS-RelocSupport */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "losslessSRNS-RelocSupport");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_LosslessSRNS_RelocSupport(ctx, &pvalue->losslessSRNS_RelocSupport);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdcp-PDU-Header */
-   rtxCtxtPushElemName(ctx, "pdcp-PDU-Header");
-   rtxCtxtPushTypeName(ctx, "PDCP-PDU-Header");
-   stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_PDU_Header, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* headerCompressionInfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "headerCompressionInfoList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_HeaderCompressionInfoList_r4(ctx, &pvalue->headerCompressionInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PDCP_InfoReconfig(rtxContext* ctx, PDCP_InfoReconfig* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PDCP-InfoReconfig");
-   /* pdcp-Info */
-   rtxCtxtPushElemName(ctx, "pdcp-Info");
-   stat = asn1PD_UMTS_PDCP_Info(ctx, &pvalue->pdcp_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dummy */
-   rtxCtxtPushElemName(ctx, "dummy");
-   stat = pd_ConsUInt16(ctx, &pvalue->dummy, 0, 65535);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PDCP_InfoReconfig_r4(rtxContext* ctx, PDCP_InfoReconfig_r4* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PDCP-InfoReconfig-r4");
-   /* pdcp-Info */
-   rtxCtxtPushElemName(ctx, "pdcp-Info");
-   stat = asn1PD_UMTS_PDCP_Info_r4(ctx, &pvalue->pdcp_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PDCP_ROHC_TargetMode(rtxContext* ctx, PDCP_ROHC_TargetMode* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "PDCP-ROHC-TargetMode");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PredefinedConfigStatusInfo_other(rtxContext* ctx, PredefinedConfigStatusInfo_other* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "notStored");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "storedWithDifferentValueTag");
-         rtxCtxtPushTypeName(ctx, "PredefinedConfigValueTag");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.storedWithDifferentValueTag, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PredefinedConfigStatusInfo(rtxContext* ctx, PredefinedConfigStatusInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "PredefinedConfigStatusInfo");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "storedWithValueTagSameAsPrevius");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "other");
-         pvalue->u.other = (PredefinedConfigStatusInfo_other*)rtxMemHeapAlloc(ctx, sizeof(PredefinedConfigStatusInfo_other));
-         if (pvalue->u.other == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PredefinedConfigStatusInfo_other(pvalue->u.other);
-         stat = asn1PD_UMTS_PredefinedConfigStatusInfo_other(ctx, pvalue->u.other);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PredefinedConfigStatusList(rtxContext* ctx, PredefinedConfigStatusList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "PredefinedConfigStatusList");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PredefinedConfigStatusInfo* elem;
-      rtxCtxtPushArrayElemName(ctx, "PredefinedConfigStatusInfo", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PredefinedConfigStatusInfo));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (PredefinedConfigStatusInfo*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PredefinedConfigStatusInfo(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PredefinedConfigStatusInfo(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PredefinedConfigValueTagList(rtxContext* ctx, PredefinedConfigValueTagList* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "PredefinedConfigValueTagList");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 15) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "PredefinedConfigValueTag", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "PredefinedConfigValueTag");
       stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 15);
       if (stat != 0) {
          pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
+         RT_FAIL(ctx, stat, "AP-Signature", "AP-Signature", (int32_t)i, "AvailableAP-SignatureList");
       }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_PredefinedConfigSetWithDifferentValueTag(rtxContext* ctx, PredefinedConfigSetWithDifferentValueTag* pvalue)
+int asn1PD_UMTS_MinimumSpreadingFactor(rtxContext* RT_RESTRICT ctx, MinimumSpreadingFactor* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MinimumSpreadingFactor");
+   return 0;
+}
+
+int asn1PD_UMTS_NF_Max(rtxContext* RT_RESTRICT ctx, NF_Max* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 64);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NF-Max");
+   return 0;
+}
+
+int asn1PD_UMTS_MaxAvailablePCPCH_Number(rtxContext* RT_RESTRICT ctx, MaxAvailablePCPCH_Number* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 64);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxAvailablePCPCH-Number");
+   return 0;
+}
+
+int asn1PD_UMTS_AvailableMinimumSF_VCAM(rtxContext* RT_RESTRICT ctx, AvailableMinimumSF_VCAM* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PredefinedConfigSetWithDifferentValueTag");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* startPosition */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "startPosition");
-      stat = pd_ConsUInt8(ctx, &pvalue->startPosition, 0, 10);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->startPosition = 0;
-   }
-   /* valueTagList */
-   rtxCtxtPushElemName(ctx, "valueTagList");
-   stat = asn1PD_UMTS_PredefinedConfigValueTagList(ctx, &pvalue->valueTagList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   /* minimumSpreadingFactor */
+   stat = pd_ConsUnsigned(ctx, &pvalue->minimumSpreadingFactor, 0, 6);
+   RT_CHECK(ctx, stat, "MinimumSpreadingFactor", "minimumSpreadingFactor", -1, "AvailableMinimumSF-VCAM");
+   /* nf-Max */
+   stat = pd_ConsUInt8(ctx, &pvalue->nf_Max, 1, 64);
+   RT_CHECK(ctx, stat, "NF-Max", "nf-Max", -1, "AvailableMinimumSF-VCAM");
+   /* maxAvailablePCPCH-Number */
+   stat = pd_ConsUInt8(ctx, &pvalue->maxAvailablePCPCH_Number, 1, 64);
+   RT_CHECK(ctx, stat, "MaxAvailablePCPCH-Number", "maxAvailablePCPCH-Number", -1, "AvailableMinimumSF-VCAM");
+   /* availableAP-Signature-VCAMList */
+   stat = asn1PD_UMTS_AvailableAP_Signature_VCAMList(ctx, &pvalue->availableAP_Signature_VCAMList);
+   RT_CHECK(ctx, stat, 0, "availableAP-Signature-VCAMList", -1, "AvailableMinimumSF-VCAM");
    return 0;
 }
 
-int asn1PD_UMTS_PredefinedConfigSetsWithDifferentValueTag(rtxContext* ctx, PredefinedConfigSetsWithDifferentValueTag* pvalue)
+int asn1PD_UMTS_AvailableMinimumSF_ListVCAM(rtxContext* RT_RESTRICT ctx, AvailableMinimumSF_ListVCAM* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "PredefinedConfigSetsWithDifferentValueTag");
-   RT_SET_SIZE(ctx, 1, 2);
+   RT_SET_SIZE(ctx, 1, 7);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AvailableMinimumSF-ListVCAM");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      PredefinedConfigSetWithDifferentValueTag* elem;
-      rtxCtxtPushArrayElemName(ctx, "PredefinedConfigSetWithDifferentValueTag", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PredefinedConfigSetWithDifferentValueTag));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (PredefinedConfigSetWithDifferentValueTag*)(node + 1);
+      AvailableMinimumSF_VCAM* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(AvailableMinimumSF_VCAM));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "AvailableMinimumSF-VCAM", (int32_t)i, "AvailableMinimumSF-ListVCAM");
+      elem = (AvailableMinimumSF_VCAM*)(node + 1);
       node->data = elem;
-      asn1Init_UMTS_PredefinedConfigSetWithDifferentValueTag(elem);
+      asn1Init_UMTS_AvailableMinimumSF_VCAM(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PredefinedConfigSetWithDifferentValueTag(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      stat = asn1PD_UMTS_AvailableMinimumSF_VCAM(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "AvailableMinimumSF-VCAM", (int32_t)i, "AvailableMinimumSF-ListVCAM");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_PredefinedConfigStatusListVarSz(rtxContext* ctx, PredefinedConfigStatusListVarSz* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "PredefinedConfigStatusListVarSz");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PredefinedConfigStatusInfo* elem;
-      rtxCtxtPushArrayElemName(ctx, "PredefinedConfigStatusInfo", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PredefinedConfigStatusInfo));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (PredefinedConfigStatusInfo*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PredefinedConfigStatusInfo(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PredefinedConfigStatusInfo(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PredefinedConfigStatusListComp(rtxContext* ctx, PredefinedConfigStatusListComp* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PredefinedConfigStatusListComp");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* setsWithDifferentValueTag */
-   rtxCtxtPushElemName(ctx, "setsWithDifferentValueTag");
-   stat = asn1PD_UMTS_PredefinedConfigSetsWithDifferentValueTag(ctx, &pvalue->setsWithDifferentValueTag);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* otherEntries */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "otherEntries");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PredefinedConfigStatusListVarSz(ctx, &pvalue->otherEntries);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_Info(rtxContext* ctx, RAB_Info* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RAB-Info");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* rab-Identity */
-   rtxCtxtPushElemName(ctx, "rab-Identity");
-   stat = asn1PD_UMTS_RAB_Identity(ctx, &pvalue->rab_Identity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cn-DomainIdentity */
-   rtxCtxtPushElemName(ctx, "cn-DomainIdentity");
-   rtxCtxtPushTypeName(ctx, "CN-DomainIdentity");
-   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* nas-Synchronisation-Indicator */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nas-Synchronisation-Indicator");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NAS_Synchronisation_Indicator(ctx, &pvalue->nas_Synchronisation_Indicator);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* re-EstablishmentTimer */
-   rtxCtxtPushElemName(ctx, "re-EstablishmentTimer");
-   rtxCtxtPushTypeName(ctx, "Re-EstablishmentTimer");
-   stat = pd_ConsUnsigned(ctx, &pvalue->re_EstablishmentTimer, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_SessionIdentity(rtxContext* ctx, MBMS_SessionIdentity* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MBMS-SessionIdentity");
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_Info_r6_ext(rtxContext* ctx, RAB_Info_r6_ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RAB-Info-r6-ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* mbms-SessionIdentity */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mbms-SessionIdentity");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MBMS_SessionIdentity(ctx, &pvalue->mbms_SessionIdentity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_Info_v6b0ext_mbms_ServiceIdentity(rtxContext* ctx, RAB_Info_v6b0ext_mbms_ServiceIdentity* pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_Info_v6b0ext(rtxContext* ctx, RAB_Info_v6b0ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RAB-Info-v6b0ext");
-   /* mbms-ServiceIdentity */
-   rtxCtxtPushElemName(ctx, "mbms-ServiceIdentity");
-   stat = asn1PD_UMTS_RAB_Info_v6b0ext_mbms_ServiceIdentity(ctx, &pvalue->mbms_ServiceIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_Info_r6(rtxContext* ctx, RAB_Info_r6* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RAB-Info-r6");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* rab-Identity */
-   rtxCtxtPushElemName(ctx, "rab-Identity");
-   stat = asn1PD_UMTS_RAB_Identity(ctx, &pvalue->rab_Identity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* mbms-SessionIdentity */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "mbms-SessionIdentity");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MBMS_SessionIdentity(ctx, &pvalue->mbms_SessionIdentity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cn-DomainIdentity */
-   rtxCtxtPushElemName(ctx, "cn-DomainIdentity");
-   rtxCtxtPushTypeName(ctx, "CN-DomainIdentity");
-   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* nas-Synchronisation-Indicator */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nas-Synchronisation-Indicator");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NAS_Synchronisation_Indicator(ctx, &pvalue->nas_Synchronisation_Indicator);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* re-EstablishmentTimer */
-   rtxCtxtPushElemName(ctx, "re-EstablishmentTimer");
-   rtxCtxtPushTypeName(ctx, "Re-EstablishmentTimer");
-   stat = pd_ConsUnsigned(ctx, &pvalue->re_EstablishmentTimer, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_Info_r7_mbms_ServiceIdentity(rtxContext* ctx, RAB_Info_r7_mbms_ServiceIdentity* pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_Info_r7(rtxContext* ctx, RAB_Info_r7* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RAB-Info-r7");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* rab-Identity */
-   rtxCtxtPushElemName(ctx, "rab-Identity");
-   stat = asn1PD_UMTS_RAB_Identity(ctx, &pvalue->rab_Identity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* mbms-SessionIdentity */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "mbms-SessionIdentity");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MBMS_SessionIdentity(ctx, &pvalue->mbms_SessionIdentity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mbms-ServiceIdentity */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "mbms-ServiceIdentity");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RAB_Info_r7_mbms_ServiceIdentity(ctx, &pvalue->mbms_ServiceIdentity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cn-DomainIdentity */
-   rtxCtxtPushElemName(ctx, "cn-DomainIdentity");
-   rtxCtxtPushTypeName(ctx, "CN-DomainIdentity");
-   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* nas-Synchronisation-Indicator */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nas-Synchronisation-Indicator");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_NAS_Synchronisation_Indicator(ctx, &pvalue->nas_Synchronisation_Indicator);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* re-EstablishmentTimer */
-   rtxCtxtPushElemName(ctx, "re-EstablishmentTimer");
-   rtxCtxtPushTypeName(ctx, "Re-EstablishmentTimer");
-   stat = pd_ConsUnsigned(ctx, &pvalue->re_EstablishmentTimer, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationList(rtxContext* ctx, RAB_InformationList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "RAB-InformationList");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RAB_Info* elem;
-      rtxCtxtPushArrayElemName(ctx, "RAB-Info", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_Info));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (RAB_Info*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RAB_Info(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RAB_Info(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationList_r6(rtxContext* ctx, RAB_InformationList_r6* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "RAB-InformationList-r6");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RAB_Info_r6* elem;
-      rtxCtxtPushArrayElemName(ctx, "RAB-Info-r6", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_Info_r6));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (RAB_Info_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RAB_Info_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RAB_Info_r6(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationReconfig(rtxContext* ctx, RAB_InformationReconfig* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RAB-InformationReconfig");
-   /* rab-Identity */
-   rtxCtxtPushElemName(ctx, "rab-Identity");
-   stat = asn1PD_UMTS_RAB_Identity(ctx, &pvalue->rab_Identity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cn-DomainIdentity */
-   rtxCtxtPushElemName(ctx, "cn-DomainIdentity");
-   rtxCtxtPushTypeName(ctx, "CN-DomainIdentity");
-   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* nas-Synchronisation-Indicator */
-   rtxCtxtPushElemName(ctx, "nas-Synchronisation-Indicator");
-   stat = asn1PD_UMTS_NAS_Synchronisation_Indicator(ctx, &pvalue->nas_Synchronisation_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationReconfigList(rtxContext* ctx, RAB_InformationReconfigList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "RAB-InformationReconfigList");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RAB_InformationReconfig* elem;
-      rtxCtxtPushArrayElemName(ctx, "RAB-InformationReconfig", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationReconfig));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (RAB_InformationReconfig*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RAB_InformationReconfig(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RAB_InformationReconfig(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationReconfig_r8(rtxContext* ctx, RAB_InformationReconfig_r8* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RAB-InformationReconfig-r8");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* rab-Identity */
-   rtxCtxtPushElemName(ctx, "rab-Identity");
-   stat = asn1PD_UMTS_RAB_Identity(ctx, &pvalue->rab_Identity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cn-DomainIdentity */
-   rtxCtxtPushElemName(ctx, "cn-DomainIdentity");
-   rtxCtxtPushTypeName(ctx, "CN-DomainIdentity");
-   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* nas-Synchronisation-Indicator */
-   rtxCtxtPushElemName(ctx, "nas-Synchronisation-Indicator");
-   stat = asn1PD_UMTS_NAS_Synchronisation_Indicator(ctx, &pvalue->nas_Synchronisation_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cs-HSPA-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cs-HSPA-Information");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CS_HSPA_Information(ctx, &pvalue->cs_HSPA_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationReconfigList_r8(rtxContext* ctx, RAB_InformationReconfigList_r8* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "RAB-InformationReconfigList-r8");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RAB_InformationReconfig_r8* elem;
-      rtxCtxtPushArrayElemName(ctx, "RAB-InformationReconfig-r8", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationReconfig_r8));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (RAB_InformationReconfig_r8*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RAB_InformationReconfig_r8(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RAB_InformationReconfig_r8(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_Info_Post(rtxContext* ctx, RAB_Info_Post* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RAB-Info-Post");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* rab-Identity */
-   rtxCtxtPushElemName(ctx, "rab-Identity");
-   stat = asn1PD_UMTS_RAB_Identity(ctx, &pvalue->rab_Identity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cn-DomainIdentity */
-   rtxCtxtPushElemName(ctx, "cn-DomainIdentity");
-   rtxCtxtPushTypeName(ctx, "CN-DomainIdentity");
-   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* nas-Synchronisation-Indicator */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nas-Synchronisation-Indicator");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NAS_Synchronisation_Indicator(ctx, &pvalue->nas_Synchronisation_Indicator);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationMBMSPtp_mbms_ServiceIdentity(rtxContext* ctx, RAB_InformationMBMSPtp_mbms_ServiceIdentity* pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationMBMSPtp(rtxContext* ctx, RAB_InformationMBMSPtp* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RAB-InformationMBMSPtp");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* rb-Identity */
-   rtxCtxtPushElemName(ctx, "rb-Identity");
-   rtxCtxtPushTypeName(ctx, "RB-Identity");
-   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* mbms-ServiceIdentity */
-   rtxCtxtPushElemName(ctx, "mbms-ServiceIdentity");
-   stat = asn1PD_UMTS_RAB_InformationMBMSPtp_mbms_ServiceIdentity(ctx, &pvalue->mbms_ServiceIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* mbms-SessionIdentity */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mbms-SessionIdentity");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MBMS_SessionIdentity(ctx, &pvalue->mbms_SessionIdentity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationMBMSPtpList(rtxContext* ctx, RAB_InformationMBMSPtpList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "RAB-InformationMBMSPtpList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RAB_InformationMBMSPtp* elem;
-      rtxCtxtPushArrayElemName(ctx, "RAB-InformationMBMSPtp", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RAB_InformationMBMSPtp));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (RAB_InformationMBMSPtp*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RAB_InformationMBMSPtp(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RAB_InformationMBMSPtp(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationSetup(rtxContext* ctx, RAB_InformationSetup* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RAB-InformationSetup");
-   /* rab-Info */
-   rtxCtxtPushElemName(ctx, "rab-Info");
-   stat = asn1PD_UMTS_RAB_Info(ctx, &pvalue->rab_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rb-InformationSetupList */
-   rtxCtxtPushElemName(ctx, "rb-InformationSetupList");
-   stat = asn1PD_UMTS_RB_InformationSetupList(ctx, &pvalue->rb_InformationSetupList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationSetup_r4(rtxContext* ctx, RB_InformationSetup_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RB-InformationSetup-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* rb-Identity */
-   rtxCtxtPushElemName(ctx, "rb-Identity");
-   rtxCtxtPushTypeName(ctx, "RB-Identity");
-   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* pdcp-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "pdcp-Info");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PDCP_Info_r4(ctx, &pvalue->pdcp_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rlc-InfoChoice */
-   rtxCtxtPushElemName(ctx, "rlc-InfoChoice");
-   stat = asn1PD_UMTS_RLC_InfoChoice(ctx, &pvalue->rlc_InfoChoice);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rb-MappingInfo */
-   rtxCtxtPushElemName(ctx, "rb-MappingInfo");
-   stat = asn1PD_UMTS_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationSetupList_r4(rtxContext* ctx, RB_InformationSetupList_r4* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "RB-InformationSetupList-r4");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RB_InformationSetup_r4* elem;
-      rtxCtxtPushArrayElemName(ctx, "RB-InformationSetup-r4", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationSetup_r4));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (RB_InformationSetup_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RB_InformationSetup_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RB_InformationSetup_r4(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationSetup_r4(rtxContext* ctx, RAB_InformationSetup_r4* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RAB-InformationSetup-r4");
-   /* rab-Info */
-   rtxCtxtPushElemName(ctx, "rab-Info");
-   stat = asn1PD_UMTS_RAB_Info(ctx, &pvalue->rab_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rb-InformationSetupList */
-   rtxCtxtPushElemName(ctx, "rb-InformationSetupList");
-   stat = asn1PD_UMTS_RB_InformationSetupList_r4(ctx, &pvalue->rb_InformationSetupList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RLC_Info_r5(rtxContext* ctx, RLC_Info_r5* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RLC-Info-r5");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ul-RLC-Mode */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ul-RLC-Mode");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_RLC_Mode(ctx, &pvalue->ul_RLC_Mode);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-RLC-Mode */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-RLC-Mode");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DL_RLC_Mode_r5(ctx, &pvalue->dl_RLC_Mode);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rlc-OneSidedReEst */
-   rtxCtxtPushElemName(ctx, "rlc-OneSidedReEst");
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_OneSidedReEst);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RLC_InfoChoice_r5(rtxContext* ctx, RLC_InfoChoice_r5* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "RLC-InfoChoice-r5");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "rlc-Info");
-         pvalue->u.rlc_Info = (RLC_Info_r5*)rtxMemHeapAlloc(ctx, sizeof(RLC_Info_r5));
-         if (pvalue->u.rlc_Info == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RLC_Info_r5(pvalue->u.rlc_Info);
-         stat = asn1PD_UMTS_RLC_Info_r5(ctx, pvalue->u.rlc_Info);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "same-as-RB");
-         rtxCtxtPushTypeName(ctx, "RB-Identity");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.same_as_RB, 1, 32);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RB_MappingOption_r5(rtxContext* ctx, RB_MappingOption_r5* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RB-MappingOption-r5");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ul-LogicalChannelMappings */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ul-LogicalChannelMappings");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_LogicalChannelMappings(ctx, &pvalue->ul_LogicalChannelMappings);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-LogicalChannelMappingList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-LogicalChannelMappingList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DL_LogicalChannelMappingList_r5(ctx, &pvalue->dl_LogicalChannelMappingList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RB_MappingInfo_r5(rtxContext* ctx, RB_MappingInfo_r5* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "RB-MappingInfo-r5");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RB_MappingOption_r5* elem;
-      rtxCtxtPushArrayElemName(ctx, "RB-MappingOption-r5", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_MappingOption_r5));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (RB_MappingOption_r5*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RB_MappingOption_r5(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RB_MappingOption_r5(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationSetup_r5(rtxContext* ctx, RB_InformationSetup_r5* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RB-InformationSetup-r5");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* rb-Identity */
-   rtxCtxtPushElemName(ctx, "rb-Identity");
-   rtxCtxtPushTypeName(ctx, "RB-Identity");
-   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* pdcp-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "pdcp-Info");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PDCP_Info_r4(ctx, &pvalue->pdcp_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rlc-InfoChoice */
-   rtxCtxtPushElemName(ctx, "rlc-InfoChoice");
-   stat = asn1PD_UMTS_RLC_InfoChoice_r5(ctx, &pvalue->rlc_InfoChoice);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rb-MappingInfo */
-   rtxCtxtPushElemName(ctx, "rb-MappingInfo");
-   stat = asn1PD_UMTS_RB_MappingInfo_r5(ctx, &pvalue->rb_MappingInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RB_InformationSetupList_r5(rtxContext* ctx, RB_InformationSetupList_r5* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "RB-InformationSetupList-r5");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      RB_InformationSetup_r5* elem;
-      rtxCtxtPushArrayElemName(ctx, "RB-InformationSetup-r5", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RB_InformationSetup_r5));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (RB_InformationSetup_r5*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_RB_InformationSetup_r5(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_RB_InformationSetup_r5(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationSetup_r5(rtxContext* ctx, RAB_InformationSetup_r5* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RAB-InformationSetup-r5");
-   /* rab-Info */
-   rtxCtxtPushElemName(ctx, "rab-Info");
-   stat = asn1PD_UMTS_RAB_Info(ctx, &pvalue->rab_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rb-InformationSetupList */
-   rtxCtxtPushElemName(ctx, "rb-InformationSetupList");
-   stat = asn1PD_UMTS_RB_InformationSetupList_r5(ctx, &pvalue->rb_InformationSetupList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RAB_InformationSetup_r6_ext(rtxContext* ctx, RAB_InformationSetup_r6_ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RAB-InformationSetup-r6-ext");
-   /* rab-Info-r6-ext */
-   rtxCtxtPushElemName(ctx, "rab-Info-r6-ext");
-   stat = asn1PD_UMTS_RAB_Info_r6_ext(ctx, &pvalue->rab_Info_r6_ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RLC_Info_r6_altE_bitInterpretation(rtxContext* ctx, RLC_Info_r6_altE_bitInterpretation* pvalue)
+int asn1PD_UMTS_BEACON_PL_Est(rtxContext* RT_RESTRICT ctx, BEACON_PL_Est* RT_RESTRICT pvalue)
 {
    int stat;
    {
       uint32_t ui;
       stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, "BEACON-PL-Est");
       stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, "BEACON-PL-Est");
       *pvalue = ui;
    }
    return 0;
 }
 
-int asn1PD_UMTS_RLC_Info_r6(rtxContext* ctx, RLC_Info_r6* pvalue)
+int asn1PD_UMTS_DPCCH_PowerOffset(rtxContext* RT_RESTRICT ctx, DPCCH_PowerOffset* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RLC-Info-r6");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* ul-RLC-Mode */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "ul-RLC-Mode");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_RLC_Mode(ctx, &pvalue->ul_RLC_Mode);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-RLC-Mode */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dl-RLC-Mode");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DL_RLC_Mode_r6(ctx, &pvalue->dl_RLC_Mode);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rlc-OneSidedReEst */
-   rtxCtxtPushElemName(ctx, "rlc-OneSidedReEst");
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_OneSidedReEst);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* altE-bitInterpretation */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "altE-bitInterpretation");
-      pvalue->m |= 0x4u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->altE_bitInterpretation = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
+   int stat;
+   stat = pd_ConsInt8(ctx, pvalue, -82, -3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DPCCH-PowerOffset");
    return 0;
 }
 
-int asn1PD_UMTS_RLC_InfoChoice_r6(rtxContext* ctx, RLC_InfoChoice_r6* pvalue)
+int asn1PD_UMTS_SRB_delay(rtxContext* RT_RESTRICT ctx, SRB_delay* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-delay");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* dpcch-PowerOffset */
+   stat = pd_ConsInt8(ctx, &pvalue->dpcch_PowerOffset, -82, -3);
+   RT_CHECK(ctx, stat, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
+   /* pc-Preamble */
+   stat = pd_ConsUInt8(ctx, &pvalue->pc_Preamble, 0, 7);
+   RT_CHECK(ctx, stat, "PC-Preamble", "pc-Preamble", -1, 0);
+   /* sRB-delay */
+   stat = pd_ConsUInt8(ctx, &pvalue->sRB_delay, 0, 7);
+   RT_CHECK(ctx, stat, "SRB-delay", "sRB-delay", -1, 0);
+   /* powerControlAlgorithm */
+   stat = asn1PD_UMTS_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm);
+   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_TargetSIR(rtxContext* RT_RESTRICT ctx, UL_TargetSIR* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 62);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-TargetSIR");
+   return 0;
+}
+
+int asn1PD_UMTS_TDD_UL_Interference(rtxContext* RT_RESTRICT ctx, TDD_UL_Interference* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsInt8(ctx, pvalue, -110, -52);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TDD-UL-Interference");
+   return 0;
+}
+
+int asn1PD_UMTS_IndividualTS_Interference(rtxContext* RT_RESTRICT ctx, IndividualTS_Interference* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* timeslot */
+   stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 0, 14);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, "IndividualTS-Interference");
+   /* ul-TimeslotInterference */
+   stat = pd_ConsInt8(ctx, &pvalue->ul_TimeslotInterference, -110, -52);
+   RT_CHECK(ctx, stat, "TDD-UL-Interference", "ul-TimeslotInterference", -1, "IndividualTS-Interference");
+   return 0;
+}
+
+int asn1PD_UMTS_IndividualTS_InterferenceList(rtxContext* RT_RESTRICT ctx, IndividualTS_InterferenceList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 14);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IndividualTS-InterferenceList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      IndividualTS_Interference* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(IndividualTS_Interference));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "IndividualTS-Interference", (int32_t)i, "IndividualTS-InterferenceList");
+      elem = (IndividualTS_Interference*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_IndividualTS_Interference(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "IndividualTS-Interference", (int32_t)i, "IndividualTS-InterferenceList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* individualTS-InterferenceList */
+   stat = asn1PD_UMTS_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList);
+   RT_CHECK(ctx, stat, 0, "individualTS-InterferenceList", -1, 0);
+   /* dpch-ConstantValue */
+   stat = pd_ConsInt8(ctx, &pvalue->dpch_ConstantValue, -35, 10);
+   RT_CHECK(ctx, stat, "ConstantValueTdd", "dpch-ConstantValue", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "RLC-InfoChoice-r6");
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "rlc-Info");
-         pvalue->u.rlc_Info = (RLC_Info_r6*)rtxMemHeapAlloc(ctx, sizeof(RLC_Info_r6));
-         if (pvalue->u.rlc_Info == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RLC_Info_r6(pvalue->u.rlc_Info);
-         stat = asn1PD_UMTS_RLC_Info_r6(ctx, pvalue->u.rlc_Info);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 0: /* broadcast-UL-OL-PC-info */
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "same-as-RB");
-         rtxCtxtPushTypeName(ctx, "RB-Identity");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.same_as_RB, 1, 32);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+      case 1: /* individuallySignalled */
+         pvalue->u.individuallySignalled = (UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling_individuallySignalled*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling_individuallySignalled));
+         if (pvalue->u.individuallySignalled == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "individuallySignalled", -1, 0);
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling_individuallySignalled(pvalue->u.individuallySignalled);
+         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling_individuallySignalled(ctx, pvalue->u.individuallySignalled);
+         RT_CHECK(ctx, stat, 0, "individuallySignalled", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch_rlc_SizeList(rtxContext* ctx, UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch_rlc_SizeList* pvalue)
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ul-TargetSIR */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->ul_TargetSIR, 0, 62);
+      RT_CHECK(ctx, stat, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
+   }
+   /* ul-OL-PC-Signalling */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling(ctx, &pvalue->ul_OL_PC_Signalling);
+      RT_CHECK(ctx, stat, 0, "ul-OL-PC-Signalling", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DPCH-PowerControlInfo");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UL_DPCH_PowerControlInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, "UL-DPCH-PowerControlInfo");
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "UL-DPCH-PowerControlInfo");
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UL_DPCH_PowerControlInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, "UL-DPCH-PowerControlInfo");
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "UL-DPCH-PowerControlInfo");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-DPCH-PowerControlInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CCTrCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, CCTrCH_PowerControlInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CCTrCH-PowerControlInfo");
+   /* tfcs-Identity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TFCS_Identity(ctx, &pvalue->tfcs_Identity);
+      RT_CHECK(ctx, stat, 0, "tfcs-Identity", -1, "CCTrCH-PowerControlInfo");
+   }
+   /* ul-DPCH-PowerControlInfo */
+   stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo(ctx, &pvalue->ul_DPCH_PowerControlInfo);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "CCTrCH-PowerControlInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* dpcch-PowerOffset */
+   stat = pd_ConsInt8(ctx, &pvalue->dpcch_PowerOffset, -82, -3);
+   RT_CHECK(ctx, stat, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
+   /* pc-Preamble */
+   stat = pd_ConsUInt8(ctx, &pvalue->pc_Preamble, 0, 7);
+   RT_CHECK(ctx, stat, "PC-Preamble", "pc-Preamble", -1, 0);
+   /* sRB-delay */
+   stat = pd_ConsUInt8(ctx, &pvalue->sRB_delay, 0, 7);
+   RT_CHECK(ctx, stat, "SRB-delay", "sRB-delay", -1, 0);
+   /* powerControlAlgorithm */
+   stat = asn1PD_UMTS_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm);
+   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* individualTS-InterferenceList */
+   stat = asn1PD_UMTS_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList);
+   RT_CHECK(ctx, stat, 0, "individualTS-InterferenceList", -1, 0);
+   /* dpch-ConstantValue */
+   stat = pd_ConsInt8(ctx, &pvalue->dpch_ConstantValue, -35, -10);
+   RT_CHECK(ctx, stat, "ConstantValue", "dpch-ConstantValue", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* tpc-StepSize */
+   stat = pd_ConsUInt8(ctx, &pvalue->tpc_StepSize, 1, 3);
+   RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(pvalue->u.tdd384);
+         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128*)rtxMemHeapAllocZ(ctx, sizeof(UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* tddOption */
+   stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(ctx, &pvalue->tddOption);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* broadcast-UL-OL-PC-info */
+         break;
+      case 1: /* individuallySignalled */
+         pvalue->u.individuallySignalled = (UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled));
+         if (pvalue->u.individuallySignalled == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "individuallySignalled", -1, 0);
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled(pvalue->u.individuallySignalled);
+         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled(ctx, pvalue->u.individuallySignalled);
+         RT_CHECK(ctx, stat, 0, "individuallySignalled", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ul-TargetSIR */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->ul_TargetSIR, 0, 62);
+      RT_CHECK(ctx, stat, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
+   }
+   /* ul-OL-PC-Signalling */
+   stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling(ctx, &pvalue->ul_OL_PC_Signalling);
+   RT_CHECK(ctx, stat, 0, "ul-OL-PC-Signalling", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r4* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DPCH-PowerControlInfo-r4");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UL_DPCH_PowerControlInfo_r4_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r4_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r4");
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r4_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r4");
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UL_DPCH_PowerControlInfo_r4_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r4_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r4");
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r4_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r4");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-DPCH-PowerControlInfo-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CCTrCH_PowerControlInfo_r4(rtxContext* RT_RESTRICT ctx, CCTrCH_PowerControlInfo_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CCTrCH-PowerControlInfo-r4");
+   /* tfcs-Identity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TFCS_Identity(ctx, &pvalue->tfcs_Identity);
+      RT_CHECK(ctx, stat, 0, "tfcs-Identity", -1, "CCTrCH-PowerControlInfo-r4");
+   }
+   /* ul-DPCH-PowerControlInfo */
+   stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r4(ctx, &pvalue->ul_DPCH_PowerControlInfo);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "CCTrCH-PowerControlInfo-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dpcch-PowerOffset */
+   stat = pd_ConsInt8(ctx, &pvalue->dpcch_PowerOffset, -82, -3);
+   RT_CHECK(ctx, stat, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
+   /* pc-Preamble */
+   stat = pd_ConsUInt8(ctx, &pvalue->pc_Preamble, 0, 7);
+   RT_CHECK(ctx, stat, "PC-Preamble", "pc-Preamble", -1, 0);
+   /* sRB-delay */
+   stat = pd_ConsUInt8(ctx, &pvalue->sRB_delay, 0, 7);
+   RT_CHECK(ctx, stat, "SRB-delay", "sRB-delay", -1, 0);
+   /* powerControlAlgorithm */
+   stat = asn1PD_UMTS_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm);
+   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, 0);
+   /* deltaACK */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->deltaACK, 0, 8);
+      RT_CHECK(ctx, stat, "DeltaACK", "deltaACK", -1, 0);
+   }
+   /* deltaNACK */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->deltaNACK, 0, 8);
+      RT_CHECK(ctx, stat, "DeltaNACK", "deltaNACK", -1, 0);
+   }
+   /* ack-NACK-repetition-factor */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->ack_NACK_repetition_factor, 1, 4);
+      RT_CHECK(ctx, stat, "ACK-NACK-repetitionFactor", "ack-NACK-repetition-factor", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* individualTS-InterferenceList */
+   stat = asn1PD_UMTS_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList);
+   RT_CHECK(ctx, stat, 0, "individualTS-InterferenceList", -1, 0);
+   /* dpch-ConstantValue */
+   stat = pd_ConsInt8(ctx, &pvalue->dpch_ConstantValue, -35, -10);
+   RT_CHECK(ctx, stat, "ConstantValue", "dpch-ConstantValue", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* tpc-StepSize */
+   stat = pd_ConsUInt8(ctx, &pvalue->tpc_StepSize, 1, 3);
+   RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(pvalue->u.tdd384);
+         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128*)rtxMemHeapAllocZ(ctx, sizeof(UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* tddOption */
+   stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(ctx, &pvalue->tddOption);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* broadcast-UL-OL-PC-info */
+         break;
+      case 1: /* individuallySignalled */
+         pvalue->u.individuallySignalled = (UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled));
+         if (pvalue->u.individuallySignalled == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "individuallySignalled", -1, 0);
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled(pvalue->u.individuallySignalled);
+         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled(ctx, pvalue->u.individuallySignalled);
+         RT_CHECK(ctx, stat, 0, "individuallySignalled", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ul-TargetSIR */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->ul_TargetSIR, 0, 62);
+      RT_CHECK(ctx, stat, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
+   }
+   /* ul-OL-PC-Signalling */
+   stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling(ctx, &pvalue->ul_OL_PC_Signalling);
+   RT_CHECK(ctx, stat, 0, "ul-OL-PC-Signalling", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r5* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DPCH-PowerControlInfo-r5");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UL_DPCH_PowerControlInfo_r5_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r5_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r5");
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r5_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r5");
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UL_DPCH_PowerControlInfo_r5_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r5_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r5");
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r5_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r5");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-DPCH-PowerControlInfo-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CCTrCH_PowerControlInfo_r5(rtxContext* RT_RESTRICT ctx, CCTrCH_PowerControlInfo_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CCTrCH-PowerControlInfo-r5");
+   /* tfcs-Identity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TFCS_Identity(ctx, &pvalue->tfcs_Identity);
+      RT_CHECK(ctx, stat, 0, "tfcs-Identity", -1, "CCTrCH-PowerControlInfo-r5");
+   }
+   /* ul-DPCH-PowerControlInfo */
+   stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r5(ctx, &pvalue->ul_DPCH_PowerControlInfo);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "CCTrCH-PowerControlInfo-r5");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_fdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dpcch-PowerOffset */
+   stat = pd_ConsInt8(ctx, &pvalue->dpcch_PowerOffset, -82, -3);
+   RT_CHECK(ctx, stat, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
+   /* pc-Preamble */
+   stat = pd_ConsUInt8(ctx, &pvalue->pc_Preamble, 0, 7);
+   RT_CHECK(ctx, stat, "PC-Preamble", "pc-Preamble", -1, 0);
+   /* sRB-delay */
+   stat = pd_ConsUInt8(ctx, &pvalue->sRB_delay, 0, 7);
+   RT_CHECK(ctx, stat, "SRB-delay", "sRB-delay", -1, 0);
+   /* powerControlAlgorithm */
+   stat = asn1PD_UMTS_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm);
+   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, 0);
+   /* deltaACK */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->deltaACK, 0, 8);
+      RT_CHECK(ctx, stat, "DeltaACK", "deltaACK", -1, 0);
+   }
+   /* deltaNACK */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->deltaNACK, 0, 8);
+      RT_CHECK(ctx, stat, "DeltaNACK", "deltaNACK", -1, 0);
+   }
+   /* ack-NACK-repetition-factor */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->ack_NACK_repetition_factor, 1, 4);
+      RT_CHECK(ctx, stat, "ACK-NACK-repetitionFactor", "ack-NACK-repetition-factor", -1, 0);
+   }
+   /* harq-Preamble-Mode */
+   stat = pd_ConsUInt8(ctx, &pvalue->harq_Preamble_Mode, 0, 1);
+   RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* individualTS-InterferenceList */
+   stat = asn1PD_UMTS_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList);
+   RT_CHECK(ctx, stat, 0, "individualTS-InterferenceList", -1, 0);
+   /* dpch-ConstantValue */
+   stat = pd_ConsInt8(ctx, &pvalue->dpch_ConstantValue, -35, -10);
+   RT_CHECK(ctx, stat, "ConstantValue", "dpch-ConstantValue", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* individualTS-InterferenceList */
+   stat = asn1PD_UMTS_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList);
+   RT_CHECK(ctx, stat, 0, "individualTS-InterferenceList", -1, 0);
+   /* dpch-ConstantValue */
+   stat = pd_ConsInt8(ctx, &pvalue->dpch_ConstantValue, -35, -10);
+   RT_CHECK(ctx, stat, "ConstantValue", "dpch-ConstantValue", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* beaconPLEst */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, 0);
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, 0);
+         pvalue->beaconPLEst = ui;
+      }
+   }
+   /* tpc-StepSize */
+   stat = pd_ConsUInt8(ctx, &pvalue->tpc_StepSize, 1, 3);
+   RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "allSizes");
-         rtxCtxtPopElemName(ctx);
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(pvalue->u.tdd384);
+         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "configured");
-         rtxCtxtPopElemName(ctx);
+      case 1: /* tdd768 */
+         pvalue->u.tdd768 = (UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd768*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd768));
+         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd768(pvalue->u.tdd768);
+         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd768(ctx, pvalue->u.tdd768);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
          break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "explicitList");
-         pvalue->u.explicitList = (RLC_SizeExplicitList*)rtxMemHeapAlloc(ctx, sizeof(RLC_SizeExplicitList));
-         if (pvalue->u.explicitList == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RLC_SizeExplicitList(pvalue->u.explicitList);
-         stat = asn1PD_UMTS_RLC_SizeExplicitList(ctx, pvalue->u.explicitList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 2: /* tdd128 */
+         pvalue->u.tdd128 = (UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(pvalue->u.tdd128);
+         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* tddOption */
+   stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(ctx, &pvalue->tddOption);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* broadcast-UL-OL-PC-info */
+         break;
+      case 1: /* individuallySignalled */
+         pvalue->u.individuallySignalled = (UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled));
+         if (pvalue->u.individuallySignalled == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "individuallySignalled", -1, 0);
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled(pvalue->u.individuallySignalled);
+         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled(ctx, pvalue->u.individuallySignalled);
+         RT_CHECK(ctx, stat, 0, "individuallySignalled", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_tdd(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ul-TargetSIR */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->ul_TargetSIR, 0, 62);
+      RT_CHECK(ctx, stat, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
+   }
+   /* ul-OL-PC-Signalling */
+   stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling(ctx, &pvalue->ul_OL_PC_Signalling);
+   RT_CHECK(ctx, stat, 0, "ul-OL-PC-Signalling", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7(rtxContext* RT_RESTRICT ctx, UL_DPCH_PowerControlInfo_r7* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DPCH-PowerControlInfo-r7");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UL_DPCH_PowerControlInfo_r7_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r7_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r7");
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r7_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r7");
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UL_DPCH_PowerControlInfo_r7_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_DPCH_PowerControlInfo_r7_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r7");
+         asn1Init_UMTS_UL_DPCH_PowerControlInfo_r7_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r7");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-DPCH-PowerControlInfo-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CCTrCH_PowerControlInfo_r7(rtxContext* RT_RESTRICT ctx, CCTrCH_PowerControlInfo_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CCTrCH-PowerControlInfo-r7");
+   /* tfcs-Identity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TFCS_Identity(ctx, &pvalue->tfcs_Identity);
+      RT_CHECK(ctx, stat, 0, "tfcs-Identity", -1, "CCTrCH-PowerControlInfo-r7");
+   }
+   /* ul-DPCH-PowerControlInfo */
+   stat = asn1PD_UMTS_UL_DPCH_PowerControlInfo_r7(ctx, &pvalue->ul_DPCH_PowerControlInfo);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "CCTrCH-PowerControlInfo-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_CD_AccessSlotSubchannel(rtxContext* RT_RESTRICT ctx, CD_AccessSlotSubchannel* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 11);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CD-AccessSlotSubchannel");
+   return 0;
+}
+
+int asn1PD_UMTS_CD_AccessSlotSubchannelList(rtxContext* RT_RESTRICT ctx, CD_AccessSlotSubchannelList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 4);
+      RT_CHECK(ctx, stat, 0, 0, -1, "CD-AccessSlotSubchannelList");
+      pvalue->n = raw + 1;
+      if (raw > 11) {
+         rtxErrAddStrParm(ctx, "CD-AccessSlotSubchannelList");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "CD-AccessSlotSubchannelList");
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 11);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, "CD-AccessSlotSubchannel", "CD-AccessSlotSubchannel", (int32_t)i, "CD-AccessSlotSubchannelList");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CD_CA_ICH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, CD_CA_ICH_ChannelisationCode* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 255);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CD-CA-ICH-ChannelisationCode");
+   return 0;
+}
+
+int asn1PD_UMTS_CD_PreambleScramblingCode(rtxContext* RT_RESTRICT ctx, CD_PreambleScramblingCode* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 79);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CD-PreambleScramblingCode");
+   return 0;
+}
+
+int asn1PD_UMTS_CD_SignatureCode(rtxContext* RT_RESTRICT ctx, CD_SignatureCode* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CD-SignatureCode");
+   return 0;
+}
+
+int asn1PD_UMTS_CD_SignatureCodeList(rtxContext* RT_RESTRICT ctx, CD_SignatureCodeList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 4);
+      RT_CHECK(ctx, stat, 0, 0, -1, "CD-SignatureCodeList");
+      pvalue->n = raw + 1;
+      if (raw > 15) {
+         rtxErrAddStrParm(ctx, "CD-SignatureCodeList");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "CD-SignatureCodeList");
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 15);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, "CD-SignatureCode", "CD-SignatureCode", (int32_t)i, "CD-SignatureCodeList");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellAndChannelIdentity(rtxContext* RT_RESTRICT ctx, CellAndChannelIdentity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* burstType */
+   stat = pd_ConsUnsigned(ctx, &pvalue->burstType, 0, 1);
+   RT_CHECK(ctx, stat, "BurstType", "burstType", -1, "CellAndChannelIdentity");
+   /* midambleShift */
+   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
+   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, "CellAndChannelIdentity");
+   /* timeslot */
+   stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 0, 14);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, "CellAndChannelIdentity");
+   /* cellParametersID */
+   stat = pd_ConsUInt8(ctx, &pvalue->cellParametersID, 0, 127);
+   RT_CHECK(ctx, stat, "CellParametersID", "cellParametersID", -1, "CellAndChannelIdentity");
+   return 0;
+}
+
+int asn1PD_UMTS_Cfntargetsfnframeoffset(rtxContext* RT_RESTRICT ctx, Cfntargetsfnframeoffset* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 255);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Cfntargetsfnframeoffset");
+   return 0;
+}
+
+int asn1PD_UMTS_ChannelAssignmentActive(rtxContext* RT_RESTRICT ctx, ChannelAssignmentActive* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ChannelAssignmentActive");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* notActive */
+         break;
+      case 1: /* isActive */
+         pvalue->u.isActive = (AvailableMinimumSF_ListVCAM*)rtxMemHeapAlloc(ctx, sizeof(AvailableMinimumSF_ListVCAM));
+         if (pvalue->u.isActive == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "isActive", -1, "ChannelAssignmentActive");
+         asn1Init_UMTS_AvailableMinimumSF_ListVCAM(pvalue->u.isActive);
+         stat = asn1PD_UMTS_AvailableMinimumSF_ListVCAM(ctx, pvalue->u.isActive);
+         RT_CHECK(ctx, stat, 0, "isActive", -1, "ChannelAssignmentActive");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ChannelAssignmentActive");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ChannelReqParamsForUCSM(rtxContext* RT_RESTRICT ctx, ChannelReqParamsForUCSM* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ChannelReqParamsForUCSM");
+   /* availableAP-SignatureList */
+   stat = asn1PD_UMTS_AvailableAP_SignatureList(ctx, &pvalue->availableAP_SignatureList);
+   RT_CHECK(ctx, stat, 0, "availableAP-SignatureList", -1, "ChannelReqParamsForUCSM");
+   /* availableAP-SubchannelList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_AvailableAP_SubchannelList(ctx, &pvalue->availableAP_SubchannelList);
+      RT_CHECK(ctx, stat, 0, "availableAP-SubchannelList", -1, "ChannelReqParamsForUCSM");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ClosedLoopTimingAdjMode(rtxContext* RT_RESTRICT ctx, ClosedLoopTimingAdjMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ClosedLoopTimingAdjMode");
+   return 0;
+}
+
+int asn1PD_UMTS_CodeNumberDSCH(rtxContext* RT_RESTRICT ctx, CodeNumberDSCH* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 255);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CodeNumberDSCH");
+   return 0;
+}
+
+int asn1PD_UMTS_SF_PDSCH(rtxContext* RT_RESTRICT ctx, SF_PDSCH* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SF-PDSCH");
+   return 0;
+}
+
+int asn1PD_UMTS_MultiCodeInfo(rtxContext* RT_RESTRICT ctx, MultiCodeInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 16);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MultiCodeInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_PDSCH_CodeMap(rtxContext* RT_RESTRICT ctx, PDSCH_CodeMap* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* spreadingFactor */
+   stat = pd_ConsUnsigned(ctx, &pvalue->spreadingFactor, 0, 6);
+   RT_CHECK(ctx, stat, "SF-PDSCH", "spreadingFactor", -1, "PDSCH-CodeMap");
+   /* multiCodeInfo */
+   stat = pd_ConsUInt8(ctx, &pvalue->multiCodeInfo, 1, 16);
+   RT_CHECK(ctx, stat, "MultiCodeInfo", "multiCodeInfo", -1, "PDSCH-CodeMap");
+   /* codeNumberStart */
+   stat = pd_ConsUInt8(ctx, &pvalue->codeNumberStart, 0, 255);
+   RT_CHECK(ctx, stat, "CodeNumberDSCH", "codeNumberStart", -1, "PDSCH-CodeMap");
+   /* codeNumberStop */
+   stat = pd_ConsUInt8(ctx, &pvalue->codeNumberStop, 0, 255);
+   RT_CHECK(ctx, stat, "CodeNumberDSCH", "codeNumberStop", -1, "PDSCH-CodeMap");
+   return 0;
+}
+
+int asn1PD_UMTS_PDSCH_CodeMapList(rtxContext* RT_RESTRICT ctx, PDSCH_CodeMapList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 256);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-CodeMapList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PDSCH_CodeMap* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PDSCH_CodeMap));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PDSCH-CodeMap", (int32_t)i, "PDSCH-CodeMapList");
+      elem = (PDSCH_CodeMap*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_PDSCH_CodeMap(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "PDSCH-CodeMap", (int32_t)i, "PDSCH-CodeMapList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CodeRange(rtxContext* RT_RESTRICT ctx, CodeRange* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* pdsch-CodeMapList */
+   stat = asn1PD_UMTS_PDSCH_CodeMapList(ctx, &pvalue->pdsch_CodeMapList);
+   RT_CHECK(ctx, stat, 0, "pdsch-CodeMapList", -1, "CodeRange");
+   return 0;
+}
+
+int asn1PD_UMTS_CodeWordSet(rtxContext* RT_RESTRICT ctx, CodeWordSet* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CodeWordSet");
+   return 0;
+}
+
+int asn1PD_UMTS_ControlChannelDRXCycle_TDD128(rtxContext* RT_RESTRICT ctx, ControlChannelDRXCycle_TDD128* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ControlChannelDRXCycle-TDD128");
+   return 0;
+}
+
+int asn1PD_UMTS_EnablingDelay_TDD128(rtxContext* RT_RESTRICT ctx, EnablingDelay_TDD128* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "EnablingDelay-TDD128");
+   return 0;
+}
+
+int asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_continue_(rtxContext* RT_RESTRICT ctx, ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_continue_* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* enablingDelay */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->enablingDelay, 0, 15);
+      RT_CHECK(ctx, stat, "EnablingDelay-TDD128", "enablingDelay", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_DRX_InactivityThreshold_TDD128(rtxContext* RT_RESTRICT ctx, HS_SCCH_DRX_InactivityThreshold_TDD128* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HS-SCCH-DRX-InactivityThreshold-TDD128");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_DRX_Info_TDD128(rtxContext* RT_RESTRICT ctx, HS_SCCH_DRX_Info_TDD128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HS-SCCH-DRX-Info-TDD128");
+   /* hS-SCCH-DRX-Cycle */
+   stat = pd_ConsUnsigned(ctx, &pvalue->hS_SCCH_DRX_Cycle, 0, 7);
+   RT_CHECK(ctx, stat, "ControlChannelDRXCycle-TDD128", "hS-SCCH-DRX-Cycle", -1, "HS-SCCH-DRX-Info-TDD128");
+   /* hS-SCCH-DRX-InactivityThreshold */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->hS_SCCH_DRX_InactivityThreshold, 0, 15);
+      RT_CHECK(ctx, stat, "HS-SCCH-DRX-InactivityThreshold-TDD128", "hS-SCCH-DRX-InactivityThreshold", -1, "HS-SCCH-DRX-Info-TDD128");
+   }
+   /* hS-SCCH-DRX-Offset */
+   stat = pd_ConsUInt8(ctx, &pvalue->hS_SCCH_DRX_Offset, 0, 63);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-DRX-Offset", -1, "HS-SCCH-DRX-Info-TDD128");
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_InactivityMonitorThreshold_TDD128(rtxContext* RT_RESTRICT ctx, E_AGCH_InactivityMonitorThreshold_TDD128* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-AGCH-InactivityMonitorThreshold-TDD128");
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType_e_AGCH_DRX_Parameters(rtxContext* RT_RESTRICT ctx, E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType_e_AGCH_DRX_Parameters* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* e-AGCH-DRX-Cycle */
+   stat = pd_ConsUnsigned(ctx, &pvalue->e_AGCH_DRX_Cycle, 0, 7);
+   RT_CHECK(ctx, stat, "ControlChannelDRXCycle-TDD128", "e-AGCH-DRX-Cycle", -1, 0);
+   /* e-AGCH-InactivityMonitorThreshold */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->e_AGCH_InactivityMonitorThreshold, 0, 15);
+      RT_CHECK(ctx, stat, "E-AGCH-InactivityMonitorThreshold-TDD128", "e-AGCH-InactivityMonitorThreshold", -1, 0);
+   }
+   /* e-AGCH-DRX-Offset */
+   stat = pd_ConsUInt8(ctx, &pvalue->e_AGCH_DRX_Offset, 0, 63);
+   RT_CHECK(ctx, stat, 0, "e-AGCH-DRX-Offset", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType(rtxContext* RT_RESTRICT ctx, E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* sameAsHS-SCCH */
+         break;
+      case 1: /* e-AGCH-DRX-Parameters */
+         pvalue->u.e_AGCH_DRX_Parameters = (E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType_e_AGCH_DRX_Parameters*)rtxMemHeapAlloc(ctx, sizeof(E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType_e_AGCH_DRX_Parameters));
+         if (pvalue->u.e_AGCH_DRX_Parameters == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e-AGCH-DRX-Parameters", -1, 0);
+         asn1Init_UMTS_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType_e_AGCH_DRX_Parameters(pvalue->u.e_AGCH_DRX_Parameters);
+         stat = asn1PD_UMTS_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType_e_AGCH_DRX_Parameters(ctx, pvalue->u.e_AGCH_DRX_Parameters);
+         RT_CHECK(ctx, stat, 0, "e-AGCH-DRX-Parameters", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_DRX_Info_TDD128(rtxContext* RT_RESTRICT ctx, E_AGCH_DRX_Info_TDD128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* e-AGCH-DRX-InfoType */
+   stat = asn1PD_UMTS_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType(ctx, &pvalue->e_AGCH_DRX_InfoType);
+   RT_CHECK(ctx, stat, 0, "e-AGCH-DRX-InfoType", -1, "E-AGCH-DRX-Info-TDD128");
+   return 0;
+}
+
+int asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_newOperation(rtxContext* RT_RESTRICT ctx, ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_newOperation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* hS-SCCH-Drx-Info */
+   stat = asn1PD_UMTS_HS_SCCH_DRX_Info_TDD128(ctx, &pvalue->hS_SCCH_Drx_Info);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-Drx-Info", -1, 0);
+   /* e-AGCH-Drx-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_E_AGCH_DRX_Info_TDD128(ctx, &pvalue->e_AGCH_Drx_Info);
+      RT_CHECK(ctx, stat, 0, "e-AGCH-Drx-Info", -1, 0);
+   }
+   /* enablingDelay */
+   stat = pd_ConsUnsigned(ctx, &pvalue->enablingDelay, 0, 15);
+   RT_CHECK(ctx, stat, "EnablingDelay-TDD128", "enablingDelay", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation(rtxContext* RT_RESTRICT ctx, ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* continue */
+         pvalue->u.continue_ = (ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_continue_*)rtxMemHeapAlloc(ctx, sizeof(ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_continue_));
+         if (pvalue->u.continue_ == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "continue", -1, 0);
+         asn1Init_UMTS_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_continue_(pvalue->u.continue_);
+         stat = asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_continue_(ctx, pvalue->u.continue_);
+         RT_CHECK(ctx, stat, 0, "continue", -1, 0);
+         break;
+      case 1: /* newOperation */
+         pvalue->u.newOperation = (ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_newOperation*)rtxMemHeapAlloc(ctx, sizeof(ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_newOperation));
+         if (pvalue->u.newOperation == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "newOperation", -1, 0);
+         asn1Init_UMTS_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_newOperation(pvalue->u.newOperation);
+         stat = asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_newOperation(ctx, pvalue->u.newOperation);
+         RT_CHECK(ctx, stat, 0, "newOperation", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8(rtxContext* RT_RESTRICT ctx, ControlChannelDRXInfo_TDD128_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* controlChannelDrxOperation */
+   stat = asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation(ctx, &pvalue->controlChannelDrxOperation);
+   RT_CHECK(ctx, stat, 0, "controlChannelDrxOperation", -1, "ControlChannelDRXInfo-TDD128-r8");
+   return 0;
+}
+
+int asn1PD_UMTS_DynamicPersistenceLevelTF_List(rtxContext* RT_RESTRICT ctx, DynamicPersistenceLevelTF_List* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 4);
+      RT_CHECK(ctx, stat, 0, 0, -1, "DynamicPersistenceLevelTF-List");
+      pvalue->n = raw + 1;
+      if (raw > 15) {
+         rtxErrAddStrParm(ctx, "DynamicPersistenceLevelTF-List");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DynamicPersistenceLevelTF-List");
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 1, 8);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, "DynamicPersistenceLevel", "DynamicPersistenceLevel", (int32_t)i, "DynamicPersistenceLevelTF-List");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CPCH_PersistenceLevels(rtxContext* RT_RESTRICT ctx, CPCH_PersistenceLevels* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* cpch-SetID */
+   stat = pd_ConsUInt8(ctx, &pvalue->cpch_SetID, 1, 16);
+   RT_CHECK(ctx, stat, "CPCH-SetID", "cpch-SetID", -1, "CPCH-PersistenceLevels");
+   /* dynamicPersistenceLevelTF-List */
+   stat = asn1PD_UMTS_DynamicPersistenceLevelTF_List(ctx, &pvalue->dynamicPersistenceLevelTF_List);
+   RT_CHECK(ctx, stat, 0, "dynamicPersistenceLevelTF-List", -1, "CPCH-PersistenceLevels");
+   return 0;
+}
+
+int asn1PD_UMTS_CPCH_PersistenceLevelsList(rtxContext* RT_RESTRICT ctx, CPCH_PersistenceLevelsList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CPCH-PersistenceLevelsList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CPCH_PersistenceLevels* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CPCH_PersistenceLevels));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CPCH-PersistenceLevels", (int32_t)i, "CPCH-PersistenceLevelsList");
+      elem = (CPCH_PersistenceLevels*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_CPCH_PersistenceLevels(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_CPCH_PersistenceLevels(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "CPCH-PersistenceLevels", (int32_t)i, "CPCH-PersistenceLevelsList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DeltaPp_m(rtxContext* RT_RESTRICT ctx, DeltaPp_m* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsInt8(ctx, pvalue, -10, 10);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DeltaPp-m");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DPCCH_SlotFormat(rtxContext* RT_RESTRICT ctx, UL_DPCCH_SlotFormat* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DPCCH-SlotFormat");
+   return 0;
+}
+
+int asn1PD_UMTS_N_StartMessage(rtxContext* RT_RESTRICT ctx, N_StartMessage* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "N-StartMessage");
+   return 0;
+}
+
+int asn1PD_UMTS_N_EOT(rtxContext* RT_RESTRICT ctx, N_EOT* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "N-EOT");
+   return 0;
+}
+
+int asn1PD_UMTS_CPCH_StatusIndicationMode(rtxContext* RT_RESTRICT ctx, CPCH_StatusIndicationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CPCH-StatusIndicationMode");
+   return 0;
+}
+
+int asn1PD_UMTS_PCP_Length(rtxContext* RT_RESTRICT ctx, PCP_Length* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PCP-Length");
+   return 0;
+}
+
+int asn1PD_UMTS_UCSM_Info(rtxContext* RT_RESTRICT ctx, UCSM_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* minimumSpreadingFactor */
+   stat = pd_ConsUnsigned(ctx, &pvalue->minimumSpreadingFactor, 0, 6);
+   RT_CHECK(ctx, stat, "MinimumSpreadingFactor", "minimumSpreadingFactor", -1, "UCSM-Info");
+   /* nf-Max */
+   stat = pd_ConsUInt8(ctx, &pvalue->nf_Max, 1, 64);
+   RT_CHECK(ctx, stat, "NF-Max", "nf-Max", -1, "UCSM-Info");
+   /* channelReqParamsForUCSM */
+   stat = asn1PD_UMTS_ChannelReqParamsForUCSM(ctx, &pvalue->channelReqParamsForUCSM);
+   RT_CHECK(ctx, stat, 0, "channelReqParamsForUCSM", -1, "UCSM-Info");
+   return 0;
+}
+
+int asn1PD_UMTS_PCPCH_ChannelInfo(rtxContext* RT_RESTRICT ctx, PCPCH_ChannelInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PCPCH-ChannelInfo");
+   /* pcpch-UL-ScramblingCode */
+   stat = pd_ConsUInt8(ctx, &pvalue->pcpch_UL_ScramblingCode, 0, 79);
+   RT_CHECK(ctx, stat, 0, "pcpch-UL-ScramblingCode", -1, "PCPCH-ChannelInfo");
+   /* pcpch-DL-ChannelisationCode */
+   stat = pd_ConsUInt16(ctx, &pvalue->pcpch_DL_ChannelisationCode, 0, 511);
+   RT_CHECK(ctx, stat, 0, "pcpch-DL-ChannelisationCode", -1, "PCPCH-ChannelInfo");
+   /* pcpch-DL-ScramblingCode */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->pcpch_DL_ScramblingCode, 1, 15);
+      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "pcpch-DL-ScramblingCode", -1, "PCPCH-ChannelInfo");
+   }
+   /* pcp-Length */
+   stat = pd_ConsUnsigned(ctx, &pvalue->pcp_Length, 0, 1);
+   RT_CHECK(ctx, stat, "PCP-Length", "pcp-Length", -1, "PCPCH-ChannelInfo");
+   /* ucsm-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UCSM_Info(ctx, &pvalue->ucsm_Info);
+      RT_CHECK(ctx, stat, 0, "ucsm-Info", -1, "PCPCH-ChannelInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PCPCH_ChannelInfoList(rtxContext* RT_RESTRICT ctx, PCPCH_ChannelInfoList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PCPCH-ChannelInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PCPCH_ChannelInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PCPCH_ChannelInfo));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PCPCH-ChannelInfo", (int32_t)i, "PCPCH-ChannelInfoList");
+      elem = (PCPCH_ChannelInfo*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_PCPCH_ChannelInfo(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_PCPCH_ChannelInfo(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "PCPCH-ChannelInfo", (int32_t)i, "PCPCH-ChannelInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CPCH_SetInfo(rtxContext* RT_RESTRICT ctx, CPCH_SetInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CPCH-SetInfo");
+   /* cpch-SetID */
+   stat = pd_ConsUInt8(ctx, &pvalue->cpch_SetID, 1, 16);
+   RT_CHECK(ctx, stat, "CPCH-SetID", "cpch-SetID", -1, "CPCH-SetInfo");
+   /* transportFormatSet */
+   stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->transportFormatSet);
+   RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, "CPCH-SetInfo");
+   /* tfcs */
+   stat = asn1PD_UMTS_TFCS(ctx, &pvalue->tfcs);
+   RT_CHECK(ctx, stat, 0, "tfcs", -1, "CPCH-SetInfo");
+   /* ap-PreambleScramblingCode */
+   stat = pd_ConsUInt8(ctx, &pvalue->ap_PreambleScramblingCode, 0, 79);
+   RT_CHECK(ctx, stat, "AP-PreambleScramblingCode", "ap-PreambleScramblingCode", -1, "CPCH-SetInfo");
+   /* ap-AICH-ChannelisationCode */
+   stat = pd_ConsUInt8(ctx, &pvalue->ap_AICH_ChannelisationCode, 0, 255);
+   RT_CHECK(ctx, stat, "AP-AICH-ChannelisationCode", "ap-AICH-ChannelisationCode", -1, "CPCH-SetInfo");
+   /* cd-PreambleScramblingCode */
+   stat = pd_ConsUInt8(ctx, &pvalue->cd_PreambleScramblingCode, 0, 79);
+   RT_CHECK(ctx, stat, "CD-PreambleScramblingCode", "cd-PreambleScramblingCode", -1, "CPCH-SetInfo");
+   /* cd-CA-ICH-ChannelisationCode */
+   stat = pd_ConsUInt8(ctx, &pvalue->cd_CA_ICH_ChannelisationCode, 0, 255);
+   RT_CHECK(ctx, stat, "CD-CA-ICH-ChannelisationCode", "cd-CA-ICH-ChannelisationCode", -1, "CPCH-SetInfo");
+   /* cd-AccessSlotSubchannelList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CD_AccessSlotSubchannelList(ctx, &pvalue->cd_AccessSlotSubchannelList);
+      RT_CHECK(ctx, stat, 0, "cd-AccessSlotSubchannelList", -1, "CPCH-SetInfo");
+   }
+   /* cd-SignatureCodeList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CD_SignatureCodeList(ctx, &pvalue->cd_SignatureCodeList);
+      RT_CHECK(ctx, stat, 0, "cd-SignatureCodeList", -1, "CPCH-SetInfo");
+   }
+   /* deltaPp-m */
+   stat = pd_ConsInt8(ctx, &pvalue->deltaPp_m, -10, 10);
+   RT_CHECK(ctx, stat, "DeltaPp-m", "deltaPp-m", -1, "CPCH-SetInfo");
+   /* ul-DPCCH-SlotFormat */
+   stat = pd_ConsUnsigned(ctx, &pvalue->ul_DPCCH_SlotFormat, 0, 2);
+   RT_CHECK(ctx, stat, "UL-DPCCH-SlotFormat", "ul-DPCCH-SlotFormat", -1, "CPCH-SetInfo");
+   /* n-StartMessage */
+   stat = pd_ConsUInt8(ctx, &pvalue->n_StartMessage, 1, 8);
+   RT_CHECK(ctx, stat, "N-StartMessage", "n-StartMessage", -1, "CPCH-SetInfo");
+   /* n-EOT */
+   stat = pd_ConsUInt8(ctx, &pvalue->n_EOT, 0, 7);
+   RT_CHECK(ctx, stat, "N-EOT", "n-EOT", -1, "CPCH-SetInfo");
+   /* channelAssignmentActive */
+   stat = asn1PD_UMTS_ChannelAssignmentActive(ctx, &pvalue->channelAssignmentActive);
+   RT_CHECK(ctx, stat, 0, "channelAssignmentActive", -1, "CPCH-SetInfo");
+   /* cpch-StatusIndicationMode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->cpch_StatusIndicationMode, 0, 1);
+   RT_CHECK(ctx, stat, "CPCH-StatusIndicationMode", "cpch-StatusIndicationMode", -1, "CPCH-SetInfo");
+   /* pcpch-ChannelInfoList */
+   stat = asn1PD_UMTS_PCPCH_ChannelInfoList(ctx, &pvalue->pcpch_ChannelInfoList);
+   RT_CHECK(ctx, stat, 0, "pcpch-ChannelInfoList", -1, "CPCH-SetInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_CPCH_SetInfoList(rtxContext* RT_RESTRICT ctx, CPCH_SetInfoList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CPCH-SetInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CPCH_SetInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CPCH_SetInfo));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CPCH-SetInfo", (int32_t)i, "CPCH-SetInfoList");
+      elem = (CPCH_SetInfo*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_CPCH_SetInfo(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_CPCH_SetInfo(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "CPCH-SetInfo", (int32_t)i, "CPCH-SetInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CQI_DTX_Timer(rtxContext* RT_RESTRICT ctx, CQI_DTX_Timer* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CQI-DTX-Timer");
+   return 0;
+}
+
+int asn1PD_UMTS_CSICH_PowerOffset(rtxContext* RT_RESTRICT ctx, CSICH_PowerOffset* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsInt8(ctx, pvalue, -10, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CSICH-PowerOffset");
+   return 0;
+}
+
+int asn1PD_UMTS_DefaultDPCH_OffsetValueFDD(rtxContext* RT_RESTRICT ctx, DefaultDPCH_OffsetValueFDD* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt16(ctx, pvalue, 0, 599);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DefaultDPCH-OffsetValueFDD");
+   return 0;
+}
+
+int asn1PD_UMTS_DefaultDPCH_OffsetValueTDD(rtxContext* RT_RESTRICT ctx, DefaultDPCH_OffsetValueTDD* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DefaultDPCH-OffsetValueTDD");
+   return 0;
+}
+
+int asn1PD_UMTS_DeltaSIR(rtxContext* RT_RESTRICT ctx, DeltaSIR* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 30);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DeltaSIR");
+   return 0;
+}
+
+int asn1PD_UMTS_TimeInfo(rtxContext* RT_RESTRICT ctx, TimeInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimeInfo");
+   /* activationTime */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "TimeInfo");
+   }
+   /* durationTimeInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt16(ctx, &pvalue->durationTimeInfo, 1, 4096);
+      RT_CHECK(ctx, stat, "DurationTimeInfo", "durationTimeInfo", -1, "TimeInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_CCTrChTPCList(rtxContext* RT_RESTRICT ctx, UL_CCTrChTPCList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 0, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-CCTrChTPCList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      TFCS_Identity* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TFCS_Identity));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "TFCS-Identity", (int32_t)i, "UL-CCTrChTPCList");
+      elem = (TFCS_Identity*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_TFCS_Identity(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_TFCS_Identity(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "TFCS-Identity", (int32_t)i, "UL-CCTrChTPCList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CCTrCh(rtxContext* RT_RESTRICT ctx, DL_CCTrCh* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CCTrCh");
+   /* tfcs-ID */
+   if (present & ((uint32_t)1 << 3)) {
+      stat = pd_ConsUInt8(ctx, &pvalue->tfcs_ID, 1, 8);
+      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "DL-CCTrCh");
+   }
+   else {
+      pvalue->tfcs_ID = 1;
+   }
+   /* timeInfo */
+   stat = asn1PD_UMTS_TimeInfo(ctx, &pvalue->timeInfo);
+   RT_CHECK(ctx, stat, 0, "timeInfo", -1, "DL-CCTrCh");
+   /* commonTimeslotInfo */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
+      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "DL-CCTrCh");
+   }
+   /* dl-CCTrCH-TimeslotsCodes */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DownlinkTimeslotsCodes(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, "DL-CCTrCh");
+   }
+   /* ul-CCTrChTPCList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_UL_CCTrChTPCList(ctx, &pvalue->ul_CCTrChTPCList);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrChTPCList", -1, "DL-CCTrCh");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CCTrCh_r4_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r4_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-CCTrCH-TimeslotsCodes */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DownlinkTimeslotsCodes(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CCTrCh_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r4_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-CCTrCH-TimeslotsCodes */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CCTrCh_r4_tddOption(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r4_tddOption* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (DL_CCTrCh_r4_tddOption_tdd384*)rtxMemHeapAlloc(ctx, sizeof(DL_CCTrCh_r4_tddOption_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_DL_CCTrCh_r4_tddOption_tdd384(pvalue->u.tdd384);
+         stat = asn1PD_UMTS_DL_CCTrCh_r4_tddOption_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (DL_CCTrCh_r4_tddOption_tdd128*)rtxMemHeapAlloc(ctx, sizeof(DL_CCTrCh_r4_tddOption_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_DL_CCTrCh_r4_tddOption_tdd128(pvalue->u.tdd128);
+         stat = asn1PD_UMTS_DL_CCTrCh_r4_tddOption_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CCTrCh_r4(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CCTrCh-r4");
+   /* tfcs-ID */
+   if (present & ((uint32_t)1 << 2)) {
+      stat = pd_ConsUInt8(ctx, &pvalue->tfcs_ID, 1, 8);
+      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "DL-CCTrCh-r4");
+   }
+   else {
+      pvalue->tfcs_ID = 1;
+   }
+   /* timeInfo */
+   stat = asn1PD_UMTS_TimeInfo(ctx, &pvalue->timeInfo);
+   RT_CHECK(ctx, stat, 0, "timeInfo", -1, "DL-CCTrCh-r4");
+   /* commonTimeslotInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
+      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "DL-CCTrCh-r4");
+   }
+   /* tddOption */
+   stat = asn1PD_UMTS_DL_CCTrCh_r4_tddOption(ctx, &pvalue->tddOption);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, "DL-CCTrCh-r4");
+   /* ul-CCTrChTPCList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UL_CCTrChTPCList(ctx, &pvalue->ul_CCTrChTPCList);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrChTPCList", -1, "DL-CCTrCh-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CCTrCh_r7_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r7_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-CCTrCH-TimeslotsCodes */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DownlinkTimeslotsCodes_r7(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CCTrCh_r7_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r7_tddOption_tdd768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-CCTrCH-TimeslotsCodes */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DownlinkTimeslotsCodes_VHCR(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CCTrCh_r7_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r7_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-CCTrCH-TimeslotsCodes */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CCTrCh_r7_tddOption(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r7_tddOption* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (DL_CCTrCh_r7_tddOption_tdd384*)rtxMemHeapAlloc(ctx, sizeof(DL_CCTrCh_r7_tddOption_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_DL_CCTrCh_r7_tddOption_tdd384(pvalue->u.tdd384);
+         stat = asn1PD_UMTS_DL_CCTrCh_r7_tddOption_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd768 */
+         pvalue->u.tdd768 = (DL_CCTrCh_r7_tddOption_tdd768*)rtxMemHeapAlloc(ctx, sizeof(DL_CCTrCh_r7_tddOption_tdd768));
+         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
+         asn1Init_UMTS_DL_CCTrCh_r7_tddOption_tdd768(pvalue->u.tdd768);
+         stat = asn1PD_UMTS_DL_CCTrCh_r7_tddOption_tdd768(ctx, pvalue->u.tdd768);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 2: /* tdd128 */
+         pvalue->u.tdd128 = (DL_CCTrCh_r7_tddOption_tdd128*)rtxMemHeapAlloc(ctx, sizeof(DL_CCTrCh_r7_tddOption_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_DL_CCTrCh_r7_tddOption_tdd128(pvalue->u.tdd128);
+         stat = asn1PD_UMTS_DL_CCTrCh_r7_tddOption_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CCTrCh_r7(rtxContext* RT_RESTRICT ctx, DL_CCTrCh_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CCTrCh-r7");
+   /* tfcs-ID */
+   if (present & ((uint32_t)1 << 2)) {
+      stat = pd_ConsUInt8(ctx, &pvalue->tfcs_ID, 1, 8);
+      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "DL-CCTrCh-r7");
+   }
+   else {
+      pvalue->tfcs_ID = 1;
+   }
+   /* timeInfo */
+   stat = asn1PD_UMTS_TimeInfo(ctx, &pvalue->timeInfo);
+   RT_CHECK(ctx, stat, 0, "timeInfo", -1, "DL-CCTrCh-r7");
+   /* commonTimeslotInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
+      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "DL-CCTrCh-r7");
+   }
+   /* tddOption */
+   stat = asn1PD_UMTS_DL_CCTrCh_r7_tddOption(ctx, &pvalue->tddOption);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, "DL-CCTrCh-r7");
+   /* ul-CCTrChTPCList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UL_CCTrChTPCList(ctx, &pvalue->ul_CCTrChTPCList);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrChTPCList", -1, "DL-CCTrCh-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CCTrChList(rtxContext* RT_RESTRICT ctx, DL_CCTrChList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CCTrChList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_CCTrCh* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_CCTrCh));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-CCTrCh", (int32_t)i, "DL-CCTrChList");
+      elem = (DL_CCTrCh*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_CCTrCh(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_DL_CCTrCh(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "DL-CCTrCh", (int32_t)i, "DL-CCTrChList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CCTrChList_r7(rtxContext* RT_RESTRICT ctx, DL_CCTrChList_r7* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CCTrChList-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_CCTrCh_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_CCTrCh_r7));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-CCTrCh-r7", (int32_t)i, "DL-CCTrChList-r7");
+      elem = (DL_CCTrCh_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_CCTrCh_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_DL_CCTrCh_r7(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "DL-CCTrCh-r7", (int32_t)i, "DL-CCTrChList-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CCTrChList_r4(rtxContext* RT_RESTRICT ctx, DL_CCTrChList_r4* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CCTrChList-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_CCTrCh_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_CCTrCh_r4));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-CCTrCh-r4", (int32_t)i, "DL-CCTrChList-r4");
+      elem = (DL_CCTrCh_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_CCTrCh_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_DL_CCTrCh_r4(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "DL-CCTrCh-r4", (int32_t)i, "DL-CCTrChList-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CCTrChListToRemove(rtxContext* RT_RESTRICT ctx, DL_CCTrChListToRemove* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 3);
+      RT_CHECK(ctx, stat, 0, 0, -1, "DL-CCTrChListToRemove");
+      pvalue->n = raw + 1;
+      if (raw > 7) {
+         rtxErrAddStrParm(ctx, "DL-CCTrChListToRemove");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DL-CCTrChListToRemove");
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 1, 8);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, "TFCS-IdentityPlain", "TFCS-IdentityPlain", (int32_t)i, "DL-CCTrChListToRemove");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SF512_AndCodeNumber(rtxContext* RT_RESTRICT ctx, SF512_AndCodeNumber* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SF512-AndCodeNumber");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* sf4 */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.sf4, 0, 3);
+         RT_CHECK(ctx, stat, 0, "sf4", -1, "SF512-AndCodeNumber");
+         break;
+      case 1: /* sf8 */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.sf8, 0, 7);
+         RT_CHECK(ctx, stat, 0, "sf8", -1, "SF512-AndCodeNumber");
+         break;
+      case 2: /* sf16 */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.sf16, 0, 15);
+         RT_CHECK(ctx, stat, 0, "sf16", -1, "SF512-AndCodeNumber");
+         break;
+      case 3: /* sf32 */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.sf32, 0, 31);
+         RT_CHECK(ctx, stat, 0, "sf32", -1, "SF512-AndCodeNumber");
+         break;
+      case 4: /* sf64 */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.sf64, 0, 63);
+         RT_CHECK(ctx, stat, 0, "sf64", -1, "SF512-AndCodeNumber");
+         break;
+      case 5: /* sf128 */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.sf128, 0, 127);
+         RT_CHECK(ctx, stat, 0, "sf128", -1, "SF512-AndCodeNumber");
+         break;
+      case 6: /* sf256 */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.sf256, 0, 255);
+         RT_CHECK(ctx, stat, 0, "sf256", -1, "SF512-AndCodeNumber");
+         break;
+      case 7: /* sf512 */
+         stat = pd_ConsUInt16(ctx, &pvalue->u.sf512, 0, 511);
+         RT_CHECK(ctx, stat, 0, "sf512", -1, "SF512-AndCodeNumber");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SF512-AndCodeNumber");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ScramblingCodeChange(rtxContext* RT_RESTRICT ctx, ScramblingCodeChange* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ScramblingCodeChange");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_ChannelisationCode(rtxContext* RT_RESTRICT ctx, DL_ChannelisationCode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-ChannelisationCode");
+   /* secondaryScramblingCode */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->secondaryScramblingCode, 1, 15);
+      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, "DL-ChannelisationCode");
+   }
+   /* sf-AndCodeNumber */
+   stat = asn1PD_UMTS_SF512_AndCodeNumber(ctx, &pvalue->sf_AndCodeNumber);
+   RT_CHECK(ctx, stat, 0, "sf-AndCodeNumber", -1, "DL-ChannelisationCode");
+   /* scramblingCodeChange */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->scramblingCodeChange, 0, 1);
+      RT_CHECK(ctx, stat, "ScramblingCodeChange", "scramblingCodeChange", -1, "DL-ChannelisationCode");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_ChannelisationCodeList(rtxContext* RT_RESTRICT ctx, DL_ChannelisationCodeList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-ChannelisationCodeList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_ChannelisationCode* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_ChannelisationCode));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-ChannelisationCode", (int32_t)i, "DL-ChannelisationCodeList");
+      elem = (DL_ChannelisationCode*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_ChannelisationCode(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_DL_ChannelisationCode(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "DL-ChannelisationCode", (int32_t)i, "DL-ChannelisationCodeList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommon_cfnHandling_initialise(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_cfnHandling_initialise* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->dummy, 0, 255);
+      RT_CHECK(ctx, stat, "Cfntargetsfnframeoffset", "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommon_cfnHandling(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_cfnHandling* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* maintain */
+         break;
+      case 1: /* initialise */
+         pvalue->u.initialise = (DL_DPCH_InfoCommon_cfnHandling_initialise*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommon_cfnHandling_initialise));
+         if (pvalue->u.initialise == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "initialise", -1, 0);
+         asn1Init_UMTS_DL_DPCH_InfoCommon_cfnHandling_initialise(pvalue->u.initialise);
+         stat = asn1PD_UMTS_DL_DPCH_InfoCommon_cfnHandling_initialise(ctx, pvalue->u.initialise);
+         RT_CHECK(ctx, stat, 0, "initialise", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DPC_Mode(rtxContext* RT_RESTRICT ctx, DPC_Mode* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DPC-Mode");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_PowerControlInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_PowerControlInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* dpc-Mode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->dpc_Mode, 0, 1);
+   RT_CHECK(ctx, stat, "DPC-Mode", "dpc-Mode", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_PowerControlInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_PowerControlInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* tpc-StepSizeTDD */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->tpc_StepSizeTDD, 1, 3);
+      RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSizeTDD", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_PowerControlInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_DPCH_PowerControlInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_DPCH_PowerControlInfo_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(DL_DPCH_PowerControlInfo_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = asn1PD_UMTS_DL_DPCH_PowerControlInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_DPCH_PowerControlInfo_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_PowerControlInfo_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_DPCH_PowerControlInfo_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_DL_DPCH_PowerControlInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, DL_DPCH_PowerControlInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_DL_DPCH_PowerControlInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-DPCH-PowerControlInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_PowerOffsetPilot_pdpdch(rtxContext* RT_RESTRICT ctx, PowerOffsetPilot_pdpdch* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 24);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PowerOffsetPilot-pdpdch");
+   return 0;
+}
+
+int asn1PD_UMTS_RestrictedTrCH(rtxContext* RT_RESTRICT ctx, RestrictedTrCH* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* dl-restrictedTrCh-Type */
+   stat = pd_ConsUnsigned(ctx, &pvalue->dl_restrictedTrCh_Type, 0, 1);
+   RT_CHECK(ctx, stat, "DL-TrCH-Type", "dl-restrictedTrCh-Type", -1, "RestrictedTrCH");
+   /* restrictedDL-TrCH-Identity */
+   stat = pd_ConsUInt8(ctx, &pvalue->restrictedDL_TrCH_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "restrictedDL-TrCH-Identity", -1, "RestrictedTrCH");
+   /* allowedTFIList */
+   stat = asn1PD_UMTS_AllowedTFI_List(ctx, &pvalue->allowedTFIList);
+   RT_CHECK(ctx, stat, 0, "allowedTFIList", -1, "RestrictedTrCH");
+   return 0;
+}
+
+int asn1PD_UMTS_RestrictedTrCH_InfoList(rtxContext* RT_RESTRICT ctx, RestrictedTrCH_InfoList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RestrictedTrCH-InfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RestrictedTrCH* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RestrictedTrCH));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RestrictedTrCH", (int32_t)i, "RestrictedTrCH-InfoList");
+      elem = (RestrictedTrCH*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RestrictedTrCH(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RestrictedTrCH(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RestrictedTrCH", (int32_t)i, "RestrictedTrCH-InfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Dl_rate_matching_restriction(rtxContext* RT_RESTRICT ctx, Dl_rate_matching_restriction* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Dl-rate-matching-restriction");
+   /* restrictedTrCH-InfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RestrictedTrCH_InfoList(ctx, &pvalue->restrictedTrCH_InfoList);
+      RT_CHECK(ctx, stat, 0, "restrictedTrCH-InfoList", -1, "Dl-rate-matching-restriction");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommon_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-DPCH-PowerControlInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, 0);
+   }
+   /* powerOffsetPilot-pdpdch */
+   stat = pd_ConsUInt8(ctx, &pvalue->powerOffsetPilot_pdpdch, 0, 24);
+   RT_CHECK(ctx, stat, "PowerOffsetPilot-pdpdch", "powerOffsetPilot-pdpdch", -1, 0);
+   /* dl-rate-matching-restriction */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_Dl_rate_matching_restriction(ctx, &pvalue->dl_rate_matching_restriction);
+      RT_CHECK(ctx, stat, 0, "dl-rate-matching-restriction", -1, 0);
+   }
+   /* spreadingFactorAndPilot */
+   stat = asn1PD_UMTS_SF512_AndPilot(ctx, &pvalue->spreadingFactorAndPilot);
+   RT_CHECK(ctx, stat, 0, "spreadingFactorAndPilot", -1, 0);
+   /* positionFixedOrFlexible */
+   stat = pd_ConsUnsigned(ctx, &pvalue->positionFixedOrFlexible, 0, 1);
+   RT_CHECK(ctx, stat, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
+   /* tfci-Existence */
+   stat = rtxDecBitInline(ctx, &pvalue->tfci_Existence);
+   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommon_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-DPCH-PowerControlInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommon_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_DPCH_InfoCommon_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommon_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_DPCH_InfoCommon_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_DL_DPCH_InfoCommon_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_DPCH_InfoCommon_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommon_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_DPCH_InfoCommon_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_DL_DPCH_InfoCommon_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommon(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* cfnHandling */
+   stat = asn1PD_UMTS_DL_DPCH_InfoCommon_cfnHandling(ctx, &pvalue->cfnHandling);
+   RT_CHECK(ctx, stat, 0, "cfnHandling", -1, "DL-DPCH-InfoCommon");
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_DL_DPCH_InfoCommon_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-DPCH-InfoCommon");
+   return 0;
+}
+
+int asn1PD_UMTS_TGCFN(rtxContext* RT_RESTRICT ctx, TGCFN* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 255);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TGCFN");
+   return 0;
+}
+
+int asn1PD_UMTS_TGP_Sequence_tgps_Status_activate(rtxContext* RT_RESTRICT ctx, TGP_Sequence_tgps_Status_activate* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* tgcfn */
+   stat = pd_ConsUInt8(ctx, &pvalue->tgcfn, 0, 255);
+   RT_CHECK(ctx, stat, "TGCFN", "tgcfn", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_TGP_Sequence_tgps_Status(rtxContext* RT_RESTRICT ctx, TGP_Sequence_tgps_Status* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* activate */
+         pvalue->u.activate = (TGP_Sequence_tgps_Status_activate*)rtxMemHeapAllocZ(ctx, sizeof(TGP_Sequence_tgps_Status_activate));
+         if (pvalue->u.activate == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "activate", -1, 0);
+         stat = asn1PD_UMTS_TGP_Sequence_tgps_Status_activate(ctx, pvalue->u.activate);
+         RT_CHECK(ctx, stat, 0, "activate", -1, 0);
+         break;
+      case 1: /* deactivate */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TGMP(rtxContext* RT_RESTRICT ctx, TGMP* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TGMP");
+   return 0;
+}
+
+int asn1PD_UMTS_TGPRC(rtxContext* RT_RESTRICT ctx, TGPRC* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt16(ctx, pvalue, 0, 511);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TGPRC");
+   return 0;
+}
+
+int asn1PD_UMTS_TGSN(rtxContext* RT_RESTRICT ctx, TGSN* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 14);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TGSN");
+   return 0;
+}
+
+int asn1PD_UMTS_TGL(rtxContext* RT_RESTRICT ctx, TGL* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 14);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TGL");
+   return 0;
+}
+
+int asn1PD_UMTS_TGD(rtxContext* RT_RESTRICT ctx, TGD* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt16(ctx, pvalue, 15, 270);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TGD");
+   return 0;
+}
+
+int asn1PD_UMTS_TGPL(rtxContext* RT_RESTRICT ctx, TGPL* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 144);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TGPL");
+   return 0;
+}
+
+int asn1PD_UMTS_RPP(rtxContext* RT_RESTRICT ctx, RPP* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RPP");
+   return 0;
+}
+
+int asn1PD_UMTS_ITP(rtxContext* RT_RESTRICT ctx, ITP* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ITP");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_CompressedModeMethod(rtxContext* RT_RESTRICT ctx, UL_CompressedModeMethod* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-CompressedModeMethod");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CompressedModeMethod(rtxContext* RT_RESTRICT ctx, DL_CompressedModeMethod* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CompressedModeMethod");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DL_Mode_ul_and_dl(rtxContext* RT_RESTRICT ctx, UL_DL_Mode_ul_and_dl* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ul */
+   stat = pd_ConsUnsigned(ctx, &pvalue->ul, 0, 1);
+   RT_CHECK(ctx, stat, "UL-CompressedModeMethod", "ul", -1, 0);
+   /* dl */
+   stat = pd_ConsUnsigned(ctx, &pvalue->dl, 0, 2);
+   RT_CHECK(ctx, stat, "DL-CompressedModeMethod", "dl", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DL_Mode(rtxContext* RT_RESTRICT ctx, UL_DL_Mode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DL-Mode");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* ul */
+         stat = pd_ConsUnsigned(ctx, &pvalue->u.ul, 0, 1);
+         RT_CHECK(ctx, stat, "UL-CompressedModeMethod", "ul", -1, "UL-DL-Mode");
+         break;
+      case 1: /* dl */
+         stat = pd_ConsUnsigned(ctx, &pvalue->u.dl, 0, 2);
+         RT_CHECK(ctx, stat, "DL-CompressedModeMethod", "dl", -1, "UL-DL-Mode");
+         break;
+      case 2: /* ul-and-dl */
+         pvalue->u.ul_and_dl = (UL_DL_Mode_ul_and_dl*)rtxMemHeapAllocZ(ctx, sizeof(UL_DL_Mode_ul_and_dl));
+         if (pvalue->u.ul_and_dl == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ul-and-dl", -1, "UL-DL-Mode");
+         stat = asn1PD_UMTS_UL_DL_Mode_ul_and_dl(ctx, pvalue->u.ul_and_dl);
+         RT_CHECK(ctx, stat, 0, "ul-and-dl", -1, "UL-DL-Mode");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-DL-Mode");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_FrameType(rtxContext* RT_RESTRICT ctx, DL_FrameType* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-FrameType");
+   return 0;
+}
+
+int asn1PD_UMTS_NidentifyAbort(rtxContext* RT_RESTRICT ctx, NidentifyAbort* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 128);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NidentifyAbort");
+   return 0;
+}
+
+int asn1PD_UMTS_TreconfirmAbort(rtxContext* RT_RESTRICT ctx, TreconfirmAbort* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 20);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TreconfirmAbort");
+   return 0;
+}
+
+int asn1PD_UMTS_TGPS_ConfigurationParams(rtxContext* RT_RESTRICT ctx, TGPS_ConfigurationParams* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TGPS-ConfigurationParams");
+   /* tgmp */
+   stat = pd_ConsUnsigned(ctx, &pvalue->tgmp, 0, 5);
+   RT_CHECK(ctx, stat, "TGMP", "tgmp", -1, "TGPS-ConfigurationParams");
+   /* tgprc */
+   stat = pd_ConsUInt16(ctx, &pvalue->tgprc, 0, 511);
+   RT_CHECK(ctx, stat, "TGPRC", "tgprc", -1, "TGPS-ConfigurationParams");
+   /* tgsn */
+   stat = pd_ConsUInt8(ctx, &pvalue->tgsn, 0, 14);
+   RT_CHECK(ctx, stat, "TGSN", "tgsn", -1, "TGPS-ConfigurationParams");
+   /* tgl1 */
+   stat = pd_ConsUInt8(ctx, &pvalue->tgl1, 1, 14);
+   RT_CHECK(ctx, stat, "TGL", "tgl1", -1, "TGPS-ConfigurationParams");
+   /* tgl2 */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->tgl2, 1, 14);
+      RT_CHECK(ctx, stat, "TGL", "tgl2", -1, "TGPS-ConfigurationParams");
+   }
+   /* tgd */
+   stat = pd_ConsUInt16(ctx, &pvalue->tgd, 15, 270);
+   RT_CHECK(ctx, stat, "TGD", "tgd", -1, "TGPS-ConfigurationParams");
+   /* tgpl1 */
+   stat = pd_ConsUInt8(ctx, &pvalue->tgpl1, 1, 144);
+   RT_CHECK(ctx, stat, "TGPL", "tgpl1", -1, "TGPS-ConfigurationParams");
+   /* dummy */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->dummy, 1, 144);
+      RT_CHECK(ctx, stat, "TGPL", "dummy", -1, "TGPS-ConfigurationParams");
+   }
+   /* rpp */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rpp, 0, 1);
+   RT_CHECK(ctx, stat, "RPP", "rpp", -1, "TGPS-ConfigurationParams");
+   /* itp */
+   stat = pd_ConsUnsigned(ctx, &pvalue->itp, 0, 1);
+   RT_CHECK(ctx, stat, "ITP", "itp", -1, "TGPS-ConfigurationParams");
+   /* ul-DL-Mode */
+   stat = asn1PD_UMTS_UL_DL_Mode(ctx, &pvalue->ul_DL_Mode);
+   RT_CHECK(ctx, stat, 0, "ul-DL-Mode", -1, "TGPS-ConfigurationParams");
+   /* dl-FrameType */
+   stat = pd_ConsUnsigned(ctx, &pvalue->dl_FrameType, 0, 1);
+   RT_CHECK(ctx, stat, "DL-FrameType", "dl-FrameType", -1, "TGPS-ConfigurationParams");
+   /* deltaSIR1 */
+   stat = pd_ConsUInt8(ctx, &pvalue->deltaSIR1, 0, 30);
+   RT_CHECK(ctx, stat, "DeltaSIR", "deltaSIR1", -1, "TGPS-ConfigurationParams");
+   /* deltaSIRAfter1 */
+   stat = pd_ConsUInt8(ctx, &pvalue->deltaSIRAfter1, 0, 30);
+   RT_CHECK(ctx, stat, "DeltaSIR", "deltaSIRAfter1", -1, "TGPS-ConfigurationParams");
+   /* deltaSIR2 */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->deltaSIR2, 0, 30);
+      RT_CHECK(ctx, stat, "DeltaSIR", "deltaSIR2", -1, "TGPS-ConfigurationParams");
+   }
+   /* deltaSIRAfter2 */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUInt8(ctx, &pvalue->deltaSIRAfter2, 0, 30);
+      RT_CHECK(ctx, stat, "DeltaSIR", "deltaSIRAfter2", -1, "TGPS-ConfigurationParams");
+   }
+   /* nidentifyAbort */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      stat = pd_ConsUInt8(ctx, &pvalue->nidentifyAbort, 1, 128);
+      RT_CHECK(ctx, stat, "NidentifyAbort", "nidentifyAbort", -1, "TGPS-ConfigurationParams");
+   }
+   /* treconfirmAbort */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      stat = pd_ConsUInt8(ctx, &pvalue->treconfirmAbort, 1, 20);
+      RT_CHECK(ctx, stat, "TreconfirmAbort", "treconfirmAbort", -1, "TGPS-ConfigurationParams");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TGP_Sequence(rtxContext* RT_RESTRICT ctx, TGP_Sequence* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TGP-Sequence");
+   /* tgpsi */
+   stat = pd_ConsUInt8(ctx, &pvalue->tgpsi, 1, 6);
+   RT_CHECK(ctx, stat, "TGPSI", "tgpsi", -1, "TGP-Sequence");
+   /* tgps-Status */
+   stat = asn1PD_UMTS_TGP_Sequence_tgps_Status(ctx, &pvalue->tgps_Status);
+   RT_CHECK(ctx, stat, 0, "tgps-Status", -1, "TGP-Sequence");
+   /* tgps-ConfigurationParams */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TGPS_ConfigurationParams(ctx, &pvalue->tgps_ConfigurationParams);
+      RT_CHECK(ctx, stat, 0, "tgps-ConfigurationParams", -1, "TGP-Sequence");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TGP_SequenceList(rtxContext* RT_RESTRICT ctx, TGP_SequenceList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 6);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TGP-SequenceList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      TGP_Sequence* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TGP_Sequence));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "TGP-Sequence", (int32_t)i, "TGP-SequenceList");
+      elem = (TGP_Sequence*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_TGP_Sequence(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_TGP_Sequence(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "TGP-Sequence", (int32_t)i, "TGP-SequenceList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DPCH_CompressedModeInfo(rtxContext* RT_RESTRICT ctx, DPCH_CompressedModeInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* tgp-SequenceList */
+   stat = asn1PD_UMTS_TGP_SequenceList(ctx, &pvalue->tgp_SequenceList);
+   RT_CHECK(ctx, stat, 0, "tgp-SequenceList", -1, "DPCH-CompressedModeInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_TX_DiversityMode(rtxContext* RT_RESTRICT ctx, TX_DiversityMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TX-DiversityMode");
+   return 0;
+}
+
+int asn1PD_UMTS_S_Field(rtxContext* RT_RESTRICT ctx, S_Field* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "S-Field");
+   return 0;
+}
+
+int asn1PD_UMTS_SSDT_Information(rtxContext* RT_RESTRICT ctx, SSDT_Information* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* s-Field */
+   stat = pd_ConsUnsigned(ctx, &pvalue->s_Field, 0, 1);
+   RT_CHECK(ctx, stat, "S-Field", "s-Field", -1, "SSDT-Information");
+   /* codeWordSet */
+   stat = pd_ConsUnsigned(ctx, &pvalue->codeWordSet, 0, 3);
+   RT_CHECK(ctx, stat, "CodeWordSet", "codeWordSet", -1, "SSDT-Information");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt16(ctx, &pvalue->defaultDPCH_OffsetValue, 0, 599);
+      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   /* dpch-CompressedModeInfo */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DPCH_CompressedModeInfo(ctx, &pvalue->dpch_CompressedModeInfo);
+      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeInfo", -1, 0);
+   }
+   /* tx-DiversityMode */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->tx_DiversityMode, 0, 3);
+      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_SSDT_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->defaultDPCH_OffsetValue, 0, 7);
+      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_CommonInformation_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonInformation_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_CommonInformation_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_DL_CommonInformation_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_CommonInformation_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonInformation_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_CommonInformation_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_DL_CommonInformation_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation(rtxContext* RT_RESTRICT ctx, DL_CommonInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CommonInformation");
+   /* dl-DPCH-InfoCommon */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_DPCH_InfoCommon(ctx, &pvalue->dl_DPCH_InfoCommon);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, "DL-CommonInformation");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_DL_CommonInformation_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonInformation");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommon_r4_cfnHandling_initialise(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r4_cfnHandling_initialise* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->dummy, 0, 255);
+      RT_CHECK(ctx, stat, "Cfntargetsfnframeoffset", "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommon_r4_cfnHandling(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r4_cfnHandling* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* maintain */
+         break;
+      case 1: /* initialise */
+         pvalue->u.initialise = (DL_DPCH_InfoCommon_r4_cfnHandling_initialise*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommon_r4_cfnHandling_initialise));
+         if (pvalue->u.initialise == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "initialise", -1, 0);
+         asn1Init_UMTS_DL_DPCH_InfoCommon_r4_cfnHandling_initialise(pvalue->u.initialise);
+         stat = asn1PD_UMTS_DL_DPCH_InfoCommon_r4_cfnHandling_initialise(ctx, pvalue->u.initialise);
+         RT_CHECK(ctx, stat, 0, "initialise", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommon_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-DPCH-PowerControlInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, 0);
+   }
+   /* powerOffsetPilot-pdpdch */
+   stat = pd_ConsUInt8(ctx, &pvalue->powerOffsetPilot_pdpdch, 0, 24);
+   RT_CHECK(ctx, stat, "PowerOffsetPilot-pdpdch", "powerOffsetPilot-pdpdch", -1, 0);
+   /* dl-rate-matching-restriction */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_Dl_rate_matching_restriction(ctx, &pvalue->dl_rate_matching_restriction);
+      RT_CHECK(ctx, stat, 0, "dl-rate-matching-restriction", -1, 0);
+   }
+   /* spreadingFactorAndPilot */
+   stat = asn1PD_UMTS_SF512_AndPilot(ctx, &pvalue->spreadingFactorAndPilot);
+   RT_CHECK(ctx, stat, 0, "spreadingFactorAndPilot", -1, 0);
+   /* positionFixedOrFlexible */
+   stat = pd_ConsUnsigned(ctx, &pvalue->positionFixedOrFlexible, 0, 1);
+   RT_CHECK(ctx, stat, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
+   /* tfci-Existence */
+   stat = rtxDecBitInline(ctx, &pvalue->tfci_Existence);
+   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommon_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-DPCH-PowerControlInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommon_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r4_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_DPCH_InfoCommon_r4_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommon_r4_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_DPCH_InfoCommon_r4_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_DL_DPCH_InfoCommon_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_DPCH_InfoCommon_r4_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommon_r4_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_DPCH_InfoCommon_r4_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_DL_DPCH_InfoCommon_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommon_r4(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-DPCH-InfoCommon-r4");
+   /* cfnHandling */
+   stat = asn1PD_UMTS_DL_DPCH_InfoCommon_r4_cfnHandling(ctx, &pvalue->cfnHandling);
+   RT_CHECK(ctx, stat, 0, "cfnHandling", -1, "DL-DPCH-InfoCommon-r4");
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_DL_DPCH_InfoCommon_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-DPCH-InfoCommon-r4");
+   /* mac-d-HFN-initial-value */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MAC_d_HFN_initial_value(ctx, &pvalue->mac_d_HFN_initial_value);
+      RT_CHECK(ctx, stat, 0, "mac-d-HFN-initial-value", -1, "DL-DPCH-InfoCommon-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SSDT_UL(rtxContext* RT_RESTRICT ctx, SSDT_UL* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SSDT-UL");
+   return 0;
+}
+
+int asn1PD_UMTS_SSDT_Information_r4(rtxContext* RT_RESTRICT ctx, SSDT_Information_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SSDT-Information-r4");
+   /* s-Field */
+   stat = pd_ConsUnsigned(ctx, &pvalue->s_Field, 0, 1);
+   RT_CHECK(ctx, stat, "S-Field", "s-Field", -1, "SSDT-Information-r4");
+   /* codeWordSet */
+   stat = pd_ConsUnsigned(ctx, &pvalue->codeWordSet, 0, 3);
+   RT_CHECK(ctx, stat, "CodeWordSet", "codeWordSet", -1, "SSDT-Information-r4");
+   /* ssdt-UL-r4 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->ssdt_UL_r4, 0, 1);
+      RT_CHECK(ctx, stat, "SSDT-UL", "ssdt-UL-r4", -1, "SSDT-Information-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt16(ctx, &pvalue->defaultDPCH_OffsetValue, 0, 599);
+      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   /* dpch-CompressedModeInfo */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DPCH_CompressedModeInfo(ctx, &pvalue->dpch_CompressedModeInfo);
+      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeInfo", -1, 0);
+   }
+   /* tx-DiversityMode */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->tx_DiversityMode, 0, 3);
+      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_SSDT_Information_r4(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* tstd-Indicator */
+   stat = rtxDecBitInline(ctx, &pvalue->tstd_Indicator);
+   RT_CHECK(ctx, stat, 0, "tstd-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption_tdd128*)rtxMemHeapAllocZ(ctx, sizeof(DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         stat = asn1PD_UMTS_DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* tddOption */
+   stat = asn1PD_UMTS_DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->defaultDPCH_OffsetValue, 0, 7);
+      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r4_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_CommonInformation_r4_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonInformation_r4_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_CommonInformation_r4_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_DL_CommonInformation_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_CommonInformation_r4_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonInformation_r4_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_CommonInformation_r4_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_DL_CommonInformation_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r4(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CommonInformation-r4");
+   /* dl-DPCH-InfoCommon */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_DPCH_InfoCommon_r4(ctx, &pvalue->dl_DPCH_InfoCommon);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, "DL-CommonInformation-r4");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_DL_CommonInformation_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonInformation-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r5_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt16(ctx, &pvalue->defaultDPCH_OffsetValue, 0, 599);
+      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   /* dpch-CompressedModeInfo */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DPCH_CompressedModeInfo(ctx, &pvalue->dpch_CompressedModeInfo);
+      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeInfo", -1, 0);
+   }
+   /* tx-DiversityMode */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->tx_DiversityMode, 0, 3);
+      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_SSDT_Information_r4(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* tstd-Indicator */
+   stat = rtxDecBitInline(ctx, &pvalue->tstd_Indicator);
+   RT_CHECK(ctx, stat, 0, "tstd-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption_tdd128*)rtxMemHeapAllocZ(ctx, sizeof(DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         stat = asn1PD_UMTS_DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r5_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* tddOption */
+   stat = asn1PD_UMTS_DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->defaultDPCH_OffsetValue, 0, 7);
+      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r5_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_CommonInformation_r5_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonInformation_r5_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_CommonInformation_r5_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_DL_CommonInformation_r5_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_CommonInformation_r5_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonInformation_r5_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_CommonInformation_r5_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_DL_CommonInformation_r5_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r5_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5_mac_hsResetIndicator* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r5(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CommonInformation-r5");
+   /* dl-DPCH-InfoCommon */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_DPCH_InfoCommon_r4(ctx, &pvalue->dl_DPCH_InfoCommon);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, "DL-CommonInformation-r5");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_DL_CommonInformation_r5_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonInformation-r5");
+   /* mac-hsResetIndicator */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r5");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r5");
+         pvalue->mac_hsResetIndicator = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TimingMaintainedSynchInd(rtxContext* RT_RESTRICT ctx, TimingMaintainedSynchInd* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, "TimingMaintainedSynchInd");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, "TimingMaintainedSynchInd");
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommon_r6_cfnHandling_maintain(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r6_cfnHandling_maintain* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* timingmaintainedsynchind */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "TimingMaintainedSynchInd", "timingmaintainedsynchind", -1, 0);
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "TimingMaintainedSynchInd", "timingmaintainedsynchind", -1, 0);
+         pvalue->timingmaintainedsynchind = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommon_r6_cfnHandling(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r6_cfnHandling* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* maintain */
+         pvalue->u.maintain = (DL_DPCH_InfoCommon_r6_cfnHandling_maintain*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommon_r6_cfnHandling_maintain));
+         if (pvalue->u.maintain == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "maintain", -1, 0);
+         asn1Init_UMTS_DL_DPCH_InfoCommon_r6_cfnHandling_maintain(pvalue->u.maintain);
+         stat = asn1PD_UMTS_DL_DPCH_InfoCommon_r6_cfnHandling_maintain(ctx, pvalue->u.maintain);
+         RT_CHECK(ctx, stat, 0, "maintain", -1, 0);
+         break;
+      case 1: /* initialise */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommon_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-DPCH-PowerControlInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, 0);
+   }
+   /* powerOffsetPilot-pdpdch */
+   stat = pd_ConsUInt8(ctx, &pvalue->powerOffsetPilot_pdpdch, 0, 24);
+   RT_CHECK(ctx, stat, "PowerOffsetPilot-pdpdch", "powerOffsetPilot-pdpdch", -1, 0);
+   /* dl-rate-matching-restriction */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_Dl_rate_matching_restriction(ctx, &pvalue->dl_rate_matching_restriction);
+      RT_CHECK(ctx, stat, 0, "dl-rate-matching-restriction", -1, 0);
+   }
+   /* spreadingFactorAndPilot */
+   stat = asn1PD_UMTS_SF512_AndPilot(ctx, &pvalue->spreadingFactorAndPilot);
+   RT_CHECK(ctx, stat, 0, "spreadingFactorAndPilot", -1, 0);
+   /* positionFixedOrFlexible */
+   stat = pd_ConsUnsigned(ctx, &pvalue->positionFixedOrFlexible, 0, 1);
+   RT_CHECK(ctx, stat, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
+   /* tfci-Existence */
+   stat = rtxDecBitInline(ctx, &pvalue->tfci_Existence);
+   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommon_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-DPCH-PowerControlInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommon_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r6_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_DPCH_InfoCommon_r6_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommon_r6_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_DPCH_InfoCommon_r6_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_DL_DPCH_InfoCommon_r6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_DPCH_InfoCommon_r6_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommon_r6_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_DPCH_InfoCommon_r6_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_DL_DPCH_InfoCommon_r6_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommon_r6(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommon_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-DPCH-InfoCommon-r6");
+   /* cfnHandling */
+   stat = asn1PD_UMTS_DL_DPCH_InfoCommon_r6_cfnHandling(ctx, &pvalue->cfnHandling);
+   RT_CHECK(ctx, stat, 0, "cfnHandling", -1, "DL-DPCH-InfoCommon-r6");
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_DL_DPCH_InfoCommon_r6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-DPCH-InfoCommon-r6");
+   /* mac-d-HFN-initial-value */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MAC_d_HFN_initial_value(ctx, &pvalue->mac_d_HFN_initial_value);
+      RT_CHECK(ctx, stat, 0, "mac-d-HFN-initial-value", -1, "DL-DPCH-InfoCommon-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_FDPCH_InfoCommon_r6_cfnHandling_maintain(rtxContext* RT_RESTRICT ctx, DL_FDPCH_InfoCommon_r6_cfnHandling_maintain* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* timingmaintainedsynchind */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "TimingMaintainedSynchInd", "timingmaintainedsynchind", -1, 0);
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "TimingMaintainedSynchInd", "timingmaintainedsynchind", -1, 0);
+         pvalue->timingmaintainedsynchind = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_FDPCH_InfoCommon_r6_cfnHandling(rtxContext* RT_RESTRICT ctx, DL_FDPCH_InfoCommon_r6_cfnHandling* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* maintain */
+         pvalue->u.maintain = (DL_FDPCH_InfoCommon_r6_cfnHandling_maintain*)rtxMemHeapAlloc(ctx, sizeof(DL_FDPCH_InfoCommon_r6_cfnHandling_maintain));
+         if (pvalue->u.maintain == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "maintain", -1, 0);
+         asn1Init_UMTS_DL_FDPCH_InfoCommon_r6_cfnHandling_maintain(pvalue->u.maintain);
+         stat = asn1PD_UMTS_DL_FDPCH_InfoCommon_r6_cfnHandling_maintain(ctx, pvalue->u.maintain);
+         RT_CHECK(ctx, stat, 0, "maintain", -1, 0);
+         break;
+      case 1: /* initialise */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_FDPCH_InfoCommon_r6(rtxContext* RT_RESTRICT ctx, DL_FDPCH_InfoCommon_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-FDPCH-InfoCommon-r6");
+   /* cfnHandling */
+   stat = asn1PD_UMTS_DL_FDPCH_InfoCommon_r6_cfnHandling(ctx, &pvalue->cfnHandling);
+   RT_CHECK(ctx, stat, 0, "cfnHandling", -1, "DL-FDPCH-InfoCommon-r6");
+   /* dl-FDPCH-PowerControlInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_FDPCH_PowerControlInfo);
+      RT_CHECK(ctx, stat, 0, "dl-FDPCH-PowerControlInfo", -1, "DL-FDPCH-InfoCommon-r6");
+   }
+   /* dl-FDPCH-TPCcommandErrorRate */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->dl_FDPCH_TPCcommandErrorRate, 1, 16);
+      RT_CHECK(ctx, stat, 0, "dl-FDPCH-TPCcommandErrorRate", -1, "DL-FDPCH-InfoCommon-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r6_dl_dpchInfoCommon(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_dl_dpchInfoCommon* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dl-DPCH-InfoCommon */
+         pvalue->u.dl_DPCH_InfoCommon = (DL_DPCH_InfoCommon_r6*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommon_r6));
+         if (pvalue->u.dl_DPCH_InfoCommon == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-DPCH-InfoCommon", -1, 0);
+         asn1Init_UMTS_DL_DPCH_InfoCommon_r6(pvalue->u.dl_DPCH_InfoCommon);
+         stat = asn1PD_UMTS_DL_DPCH_InfoCommon_r6(ctx, pvalue->u.dl_DPCH_InfoCommon);
+         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, 0);
+         break;
+      case 1: /* dl-FDPCH-InfoCommon */
+         pvalue->u.dl_FDPCH_InfoCommon = (DL_FDPCH_InfoCommon_r6*)rtxMemHeapAlloc(ctx, sizeof(DL_FDPCH_InfoCommon_r6));
+         if (pvalue->u.dl_FDPCH_InfoCommon == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-FDPCH-InfoCommon", -1, 0);
+         asn1Init_UMTS_DL_FDPCH_InfoCommon_r6(pvalue->u.dl_FDPCH_InfoCommon);
+         stat = asn1PD_UMTS_DL_FDPCH_InfoCommon_r6(ctx, pvalue->u.dl_FDPCH_InfoCommon);
+         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoCommon", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt16(ctx, &pvalue->defaultDPCH_OffsetValue, 0, 599);
+      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   /* dpch-CompressedModeInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DPCH_CompressedModeInfo(ctx, &pvalue->dpch_CompressedModeInfo);
+      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeInfo", -1, 0);
+   }
+   /* tx-DiversityMode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->tx_DiversityMode, 0, 3);
+      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* tstd-Indicator */
+   stat = rtxDecBitInline(ctx, &pvalue->tstd_Indicator);
+   RT_CHECK(ctx, stat, 0, "tstd-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption_tdd128*)rtxMemHeapAllocZ(ctx, sizeof(DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         stat = asn1PD_UMTS_DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* tddOption */
+   stat = asn1PD_UMTS_DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->defaultDPCH_OffsetValue, 0, 7);
+      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_CommonInformation_r6_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonInformation_r6_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_CommonInformation_r6_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_DL_CommonInformation_r6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_CommonInformation_r6_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonInformation_r6_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_CommonInformation_r6_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_DL_CommonInformation_r6_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r6_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_mac_hsResetIndicator* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r6_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_postVerificationPeriod* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r6(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CommonInformation-r6");
+   /* dl-dpchInfoCommon */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_CommonInformation_r6_dl_dpchInfoCommon(ctx, &pvalue->dl_dpchInfoCommon);
+      RT_CHECK(ctx, stat, 0, "dl-dpchInfoCommon", -1, "DL-CommonInformation-r6");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_DL_CommonInformation_r6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonInformation-r6");
+   /* mac-hsResetIndicator */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r6");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r6");
+         pvalue->mac_hsResetIndicator = ui;
+      }
+   }
+   /* postVerificationPeriod */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "DL-CommonInformation-r6");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "DL-CommonInformation-r6");
+         pvalue->postVerificationPeriod = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r7_dl_dpchInfoCommon(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_dl_dpchInfoCommon* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dl-DPCH-InfoCommon */
+         pvalue->u.dl_DPCH_InfoCommon = (DL_DPCH_InfoCommon_r6*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommon_r6));
+         if (pvalue->u.dl_DPCH_InfoCommon == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-DPCH-InfoCommon", -1, 0);
+         asn1Init_UMTS_DL_DPCH_InfoCommon_r6(pvalue->u.dl_DPCH_InfoCommon);
+         stat = asn1PD_UMTS_DL_DPCH_InfoCommon_r6(ctx, pvalue->u.dl_DPCH_InfoCommon);
+         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, 0);
+         break;
+      case 1: /* dl-FDPCH-InfoCommon */
+         pvalue->u.dl_FDPCH_InfoCommon = (DL_FDPCH_InfoCommon_r6*)rtxMemHeapAlloc(ctx, sizeof(DL_FDPCH_InfoCommon_r6));
+         if (pvalue->u.dl_FDPCH_InfoCommon == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-FDPCH-InfoCommon", -1, 0);
+         asn1Init_UMTS_DL_FDPCH_InfoCommon_r6(pvalue->u.dl_FDPCH_InfoCommon);
+         stat = asn1PD_UMTS_DL_FDPCH_InfoCommon_r6(ctx, pvalue->u.dl_FDPCH_InfoCommon);
+         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoCommon", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt16(ctx, &pvalue->defaultDPCH_OffsetValue, 0, 599);
+      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   /* dpch-CompressedModeInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DPCH_CompressedModeInfo(ctx, &pvalue->dpch_CompressedModeInfo);
+      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeInfo", -1, 0);
+   }
+   /* tx-DiversityMode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->tx_DiversityMode, 0, 3);
+      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* tstd-Indicator */
+   stat = rtxDecBitInline(ctx, &pvalue->tstd_Indicator);
+   RT_CHECK(ctx, stat, 0, "tstd-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         break;
+      case 1: /* tdd768 */
+         break;
+      case 2: /* tdd128 */
+         pvalue->u.tdd128 = (DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption_tdd128*)rtxMemHeapAllocZ(ctx, sizeof(DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         stat = asn1PD_UMTS_DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* tddOption */
+   stat = asn1PD_UMTS_DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->defaultDPCH_OffsetValue, 0, 7);
+      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_CommonInformation_r7_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonInformation_r7_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_CommonInformation_r7_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_DL_CommonInformation_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_CommonInformation_r7_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonInformation_r7_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_CommonInformation_r7_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_DL_CommonInformation_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r7_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_mac_hsResetIndicator* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r7_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_postVerificationPeriod* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r7(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CommonInformation-r7");
+   /* dl-dpchInfoCommon */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_CommonInformation_r7_dl_dpchInfoCommon(ctx, &pvalue->dl_dpchInfoCommon);
+      RT_CHECK(ctx, stat, 0, "dl-dpchInfoCommon", -1, "DL-CommonInformation-r7");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_DL_CommonInformation_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonInformation-r7");
+   /* mac-hsResetIndicator */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r7");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r7");
+         pvalue->mac_hsResetIndicator = ui;
+      }
+   }
+   /* postVerificationPeriod */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "DL-CommonInformation-r7");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "DL-CommonInformation-r7");
+         pvalue->postVerificationPeriod = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r8_dl_dpchInfoCommon(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_dl_dpchInfoCommon* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dl-DPCH-InfoCommon */
+         pvalue->u.dl_DPCH_InfoCommon = (DL_DPCH_InfoCommon_r6*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoCommon_r6));
+         if (pvalue->u.dl_DPCH_InfoCommon == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-DPCH-InfoCommon", -1, 0);
+         asn1Init_UMTS_DL_DPCH_InfoCommon_r6(pvalue->u.dl_DPCH_InfoCommon);
+         stat = asn1PD_UMTS_DL_DPCH_InfoCommon_r6(ctx, pvalue->u.dl_DPCH_InfoCommon);
+         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, 0);
+         break;
+      case 1: /* dl-FDPCH-InfoCommon */
+         pvalue->u.dl_FDPCH_InfoCommon = (DL_FDPCH_InfoCommon_r6*)rtxMemHeapAlloc(ctx, sizeof(DL_FDPCH_InfoCommon_r6));
+         if (pvalue->u.dl_FDPCH_InfoCommon == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-FDPCH-InfoCommon", -1, 0);
+         asn1Init_UMTS_DL_FDPCH_InfoCommon_r6(pvalue->u.dl_FDPCH_InfoCommon);
+         stat = asn1PD_UMTS_DL_FDPCH_InfoCommon_r6(ctx, pvalue->u.dl_FDPCH_InfoCommon);
+         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoCommon", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TGP_Sequence_r8_tgps_Status_activate(rtxContext* RT_RESTRICT ctx, TGP_Sequence_r8_tgps_Status_activate* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* tgcfn */
+   stat = pd_ConsUInt8(ctx, &pvalue->tgcfn, 0, 255);
+   RT_CHECK(ctx, stat, "TGCFN", "tgcfn", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_TGP_Sequence_r8_tgps_Status(rtxContext* RT_RESTRICT ctx, TGP_Sequence_r8_tgps_Status* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* activate */
+         pvalue->u.activate = (TGP_Sequence_r8_tgps_Status_activate*)rtxMemHeapAllocZ(ctx, sizeof(TGP_Sequence_r8_tgps_Status_activate));
+         if (pvalue->u.activate == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "activate", -1, 0);
+         stat = asn1PD_UMTS_TGP_Sequence_r8_tgps_Status_activate(ctx, pvalue->u.activate);
+         RT_CHECK(ctx, stat, 0, "activate", -1, 0);
+         break;
+      case 1: /* deactivate */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TGMP_r8(rtxContext* RT_RESTRICT ctx, TGMP_r8* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TGMP-r8");
+   return 0;
+}
+
+int asn1PD_UMTS_TGPS_ConfigurationParams_r8(rtxContext* RT_RESTRICT ctx, TGPS_ConfigurationParams_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TGPS-ConfigurationParams-r8");
+   /* tgmp */
+   stat = pd_ConsUnsigned(ctx, &pvalue->tgmp, 0, 7);
+   RT_CHECK(ctx, stat, "TGMP-r8", "tgmp", -1, "TGPS-ConfigurationParams-r8");
+   /* tgprc */
+   stat = pd_ConsUInt16(ctx, &pvalue->tgprc, 0, 511);
+   RT_CHECK(ctx, stat, "TGPRC", "tgprc", -1, "TGPS-ConfigurationParams-r8");
+   /* tgsn */
+   stat = pd_ConsUInt8(ctx, &pvalue->tgsn, 0, 14);
+   RT_CHECK(ctx, stat, "TGSN", "tgsn", -1, "TGPS-ConfigurationParams-r8");
+   /* tgl1 */
+   stat = pd_ConsUInt8(ctx, &pvalue->tgl1, 1, 14);
+   RT_CHECK(ctx, stat, "TGL", "tgl1", -1, "TGPS-ConfigurationParams-r8");
+   /* tgl2 */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->tgl2, 1, 14);
+      RT_CHECK(ctx, stat, "TGL", "tgl2", -1, "TGPS-ConfigurationParams-r8");
+   }
+   /* tgd */
+   stat = pd_ConsUInt16(ctx, &pvalue->tgd, 15, 270);
+   RT_CHECK(ctx, stat, "TGD", "tgd", -1, "TGPS-ConfigurationParams-r8");
+   /* tgpl1 */
+   stat = pd_ConsUInt8(ctx, &pvalue->tgpl1, 1, 144);
+   RT_CHECK(ctx, stat, "TGPL", "tgpl1", -1, "TGPS-ConfigurationParams-r8");
+   /* rpp */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rpp, 0, 1);
+   RT_CHECK(ctx, stat, "RPP", "rpp", -1, "TGPS-ConfigurationParams-r8");
+   /* itp */
+   stat = pd_ConsUnsigned(ctx, &pvalue->itp, 0, 1);
+   RT_CHECK(ctx, stat, "ITP", "itp", -1, "TGPS-ConfigurationParams-r8");
+   /* ul-DL-Mode */
+   stat = asn1PD_UMTS_UL_DL_Mode(ctx, &pvalue->ul_DL_Mode);
+   RT_CHECK(ctx, stat, 0, "ul-DL-Mode", -1, "TGPS-ConfigurationParams-r8");
+   /* dl-FrameType */
+   stat = pd_ConsUnsigned(ctx, &pvalue->dl_FrameType, 0, 1);
+   RT_CHECK(ctx, stat, "DL-FrameType", "dl-FrameType", -1, "TGPS-ConfigurationParams-r8");
+   /* deltaSIR1 */
+   stat = pd_ConsUInt8(ctx, &pvalue->deltaSIR1, 0, 30);
+   RT_CHECK(ctx, stat, "DeltaSIR", "deltaSIR1", -1, "TGPS-ConfigurationParams-r8");
+   /* deltaSIRAfter1 */
+   stat = pd_ConsUInt8(ctx, &pvalue->deltaSIRAfter1, 0, 30);
+   RT_CHECK(ctx, stat, "DeltaSIR", "deltaSIRAfter1", -1, "TGPS-ConfigurationParams-r8");
+   /* deltaSIR2 */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->deltaSIR2, 0, 30);
+      RT_CHECK(ctx, stat, "DeltaSIR", "deltaSIR2", -1, "TGPS-ConfigurationParams-r8");
+   }
+   /* deltaSIRAfter2 */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->deltaSIRAfter2, 0, 30);
+      RT_CHECK(ctx, stat, "DeltaSIR", "deltaSIRAfter2", -1, "TGPS-ConfigurationParams-r8");
+   }
+   /* nidentifyAbort */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUInt8(ctx, &pvalue->nidentifyAbort, 1, 128);
+      RT_CHECK(ctx, stat, "NidentifyAbort", "nidentifyAbort", -1, "TGPS-ConfigurationParams-r8");
+   }
+   /* treconfirmAbort */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = pd_ConsUInt8(ctx, &pvalue->treconfirmAbort, 1, 20);
+      RT_CHECK(ctx, stat, "TreconfirmAbort", "treconfirmAbort", -1, "TGPS-ConfigurationParams-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TGP_Sequence_r8(rtxContext* RT_RESTRICT ctx, TGP_Sequence_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TGP-Sequence-r8");
+   /* tgpsi */
+   stat = pd_ConsUInt8(ctx, &pvalue->tgpsi, 1, 6);
+   RT_CHECK(ctx, stat, "TGPSI", "tgpsi", -1, "TGP-Sequence-r8");
+   /* tgps-Status */
+   stat = asn1PD_UMTS_TGP_Sequence_r8_tgps_Status(ctx, &pvalue->tgps_Status);
+   RT_CHECK(ctx, stat, 0, "tgps-Status", -1, "TGP-Sequence-r8");
+   /* tgps-ConfigurationParams */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TGPS_ConfigurationParams_r8(ctx, &pvalue->tgps_ConfigurationParams);
+      RT_CHECK(ctx, stat, 0, "tgps-ConfigurationParams", -1, "TGP-Sequence-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TGP_SequenceList_r8(rtxContext* RT_RESTRICT ctx, TGP_SequenceList_r8* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 6);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TGP-SequenceList-r8");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      TGP_Sequence_r8* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TGP_Sequence_r8));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "TGP-Sequence-r8", (int32_t)i, "TGP-SequenceList-r8");
+      elem = (TGP_Sequence_r8*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_TGP_Sequence_r8(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_TGP_Sequence_r8(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "TGP-Sequence-r8", (int32_t)i, "TGP-SequenceList-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DPCH_CompressedModeInfo_r8(rtxContext* RT_RESTRICT ctx, DPCH_CompressedModeInfo_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* tgp-SequenceList */
+   stat = asn1PD_UMTS_TGP_SequenceList_r8(ctx, &pvalue->tgp_SequenceList);
+   RT_CHECK(ctx, stat, 0, "tgp-SequenceList", -1, "DPCH-CompressedModeInfo-r8");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt16(ctx, &pvalue->defaultDPCH_OffsetValue, 0, 599);
+      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   /* dpch-CompressedModeInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DPCH_CompressedModeInfo_r8(ctx, &pvalue->dpch_CompressedModeInfo);
+      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeInfo", -1, 0);
+   }
+   /* tx-DiversityMode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->tx_DiversityMode, 0, 3);
+      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* tstd-Indicator */
+   stat = rtxDecBitInline(ctx, &pvalue->tstd_Indicator);
+   RT_CHECK(ctx, stat, 0, "tstd-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         break;
+      case 1: /* tdd768 */
+         break;
+      case 2: /* tdd128 */
+         pvalue->u.tdd128 = (DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption_tdd128*)rtxMemHeapAllocZ(ctx, sizeof(DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         stat = asn1PD_UMTS_DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r8_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* tddOption */
+   stat = asn1PD_UMTS_DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->defaultDPCH_OffsetValue, 0, 7);
+      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_CommonInformation_r8_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonInformation_r8_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_CommonInformation_r8_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_DL_CommonInformation_r8_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_CommonInformation_r8_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_CommonInformation_r8_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_CommonInformation_r8_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_DL_CommonInformation_r8_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r8_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_mac_hsResetIndicator* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r8_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_postVerificationPeriod* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformation_r8(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CommonInformation-r8");
+   /* dl-dpchInfoCommon */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_CommonInformation_r8_dl_dpchInfoCommon(ctx, &pvalue->dl_dpchInfoCommon);
+      RT_CHECK(ctx, stat, 0, "dl-dpchInfoCommon", -1, "DL-CommonInformation-r8");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_DL_CommonInformation_r8_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonInformation-r8");
+   /* mac-hsResetIndicator */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r8");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r8");
+         pvalue->mac_hsResetIndicator = ui;
+      }
+   }
+   /* postVerificationPeriod */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "DL-CommonInformation-r8");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "DL-CommonInformation-r8");
+         pvalue->postVerificationPeriod = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoCommonPost(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoCommonPost* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-DPCH-InfoCommonPost");
+   /* dl-DPCH-PowerControlInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, "DL-DPCH-InfoCommonPost");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CommonInformationPost(rtxContext* RT_RESTRICT ctx, DL_CommonInformationPost* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* dl-DPCH-InfoCommon */
+   stat = asn1PD_UMTS_DL_DPCH_InfoCommonPost(ctx, &pvalue->dl_DPCH_InfoCommon);
+   RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, "DL-CommonInformationPost");
+   return 0;
+}
+
+int asn1PD_UMTS_SSDT_CellIdentity(rtxContext* RT_RESTRICT ctx, SSDT_CellIdentity* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SSDT-CellIdentity");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoPerRL_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* pCPICH-UsageForChannelEst */
+   stat = pd_ConsUnsigned(ctx, &pvalue->pCPICH_UsageForChannelEst, 0, 1);
+   RT_CHECK(ctx, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, 0);
+   /* dpch-FrameOffset */
+   stat = pd_ConsUInt8(ctx, &pvalue->dpch_FrameOffset, 0, 149);
+   RT_CHECK(ctx, stat, "DPCH-FrameOffset", "dpch-FrameOffset", -1, 0);
+   /* secondaryCPICH-Info */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SecondaryCPICH_Info(ctx, &pvalue->secondaryCPICH_Info);
+      RT_CHECK(ctx, stat, 0, "secondaryCPICH-Info", -1, 0);
+   }
+   /* dl-ChannelisationCodeList */
+   stat = asn1PD_UMTS_DL_ChannelisationCodeList(ctx, &pvalue->dl_ChannelisationCodeList);
+   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCodeList", -1, 0);
+   /* tpc-CombinationIndex */
+   stat = pd_ConsUInt8(ctx, &pvalue->tpc_CombinationIndex, 0, 5);
+   RT_CHECK(ctx, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, 0);
+   /* dummy */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->dummy, 0, 7);
+      RT_CHECK(ctx, stat, "SSDT-CellIdentity", "dummy", -1, 0);
+   }
+   /* closedLoopTimingAdjMode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->closedLoopTimingAdjMode, 0, 1);
+      RT_CHECK(ctx, stat, "ClosedLoopTimingAdjMode", "closedLoopTimingAdjMode", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoPerRL_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-CCTrChListToEstablish */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_CCTrChList(ctx, &pvalue->dl_CCTrChListToEstablish);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToEstablish", -1, 0);
+   }
+   /* dl-CCTrChListToRemove */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DL_CCTrChListToRemove(ctx, &pvalue->dl_CCTrChListToRemove);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToRemove", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoPerRL(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-DPCH-InfoPerRL");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_DPCH_InfoPerRL_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, "DL-DPCH-InfoPerRL");
+         asn1Init_UMTS_DL_DPCH_InfoPerRL_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "DL-DPCH-InfoPerRL");
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_DPCH_InfoPerRL_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, "DL-DPCH-InfoPerRL");
+         asn1Init_UMTS_DL_DPCH_InfoPerRL_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "DL-DPCH-InfoPerRL");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-DPCH-InfoPerRL");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoPerRL_r4_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r4_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* pCPICH-UsageForChannelEst */
+   stat = pd_ConsUnsigned(ctx, &pvalue->pCPICH_UsageForChannelEst, 0, 1);
+   RT_CHECK(ctx, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, 0);
+   /* dpch-FrameOffset */
+   stat = pd_ConsUInt8(ctx, &pvalue->dpch_FrameOffset, 0, 149);
+   RT_CHECK(ctx, stat, "DPCH-FrameOffset", "dpch-FrameOffset", -1, 0);
+   /* secondaryCPICH-Info */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SecondaryCPICH_Info(ctx, &pvalue->secondaryCPICH_Info);
+      RT_CHECK(ctx, stat, 0, "secondaryCPICH-Info", -1, 0);
+   }
+   /* dl-ChannelisationCodeList */
+   stat = asn1PD_UMTS_DL_ChannelisationCodeList(ctx, &pvalue->dl_ChannelisationCodeList);
+   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCodeList", -1, 0);
+   /* tpc-CombinationIndex */
+   stat = pd_ConsUInt8(ctx, &pvalue->tpc_CombinationIndex, 0, 5);
+   RT_CHECK(ctx, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, 0);
+   /* dummy */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->dummy, 0, 7);
+      RT_CHECK(ctx, stat, "SSDT-CellIdentity", "dummy", -1, 0);
+   }
+   /* closedLoopTimingAdjMode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->closedLoopTimingAdjMode, 0, 1);
+      RT_CHECK(ctx, stat, "ClosedLoopTimingAdjMode", "closedLoopTimingAdjMode", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoPerRL_r4_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r4_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-CCTrChListToEstablish */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_CCTrChList_r4(ctx, &pvalue->dl_CCTrChListToEstablish);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToEstablish", -1, 0);
+   }
+   /* dl-CCTrChListToRemove */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DL_CCTrChListToRemove(ctx, &pvalue->dl_CCTrChListToRemove);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToRemove", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoPerRL_r4(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r4* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-DPCH-InfoPerRL-r4");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_DPCH_InfoPerRL_r4_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r4_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r4");
+         asn1Init_UMTS_DL_DPCH_InfoPerRL_r4_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_r4_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r4");
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_DPCH_InfoPerRL_r4_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r4_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r4");
+         asn1Init_UMTS_DL_DPCH_InfoPerRL_r4_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_r4_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r4");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-DPCH-InfoPerRL-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PowerOffsetTPC_pdpdch(rtxContext* RT_RESTRICT ctx, PowerOffsetTPC_pdpdch* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 24);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PowerOffsetTPC-pdpdch");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoPerRL_r5_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r5_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* pCPICH-UsageForChannelEst */
+   stat = pd_ConsUnsigned(ctx, &pvalue->pCPICH_UsageForChannelEst, 0, 1);
+   RT_CHECK(ctx, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, 0);
+   /* dpch-FrameOffset */
+   stat = pd_ConsUInt8(ctx, &pvalue->dpch_FrameOffset, 0, 149);
+   RT_CHECK(ctx, stat, "DPCH-FrameOffset", "dpch-FrameOffset", -1, 0);
+   /* secondaryCPICH-Info */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SecondaryCPICH_Info(ctx, &pvalue->secondaryCPICH_Info);
+      RT_CHECK(ctx, stat, 0, "secondaryCPICH-Info", -1, 0);
+   }
+   /* dl-ChannelisationCodeList */
+   stat = asn1PD_UMTS_DL_ChannelisationCodeList(ctx, &pvalue->dl_ChannelisationCodeList);
+   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCodeList", -1, 0);
+   /* tpc-CombinationIndex */
+   stat = pd_ConsUInt8(ctx, &pvalue->tpc_CombinationIndex, 0, 5);
+   RT_CHECK(ctx, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, 0);
+   /* powerOffsetTPC-pdpdch */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->powerOffsetTPC_pdpdch, 0, 24);
+      RT_CHECK(ctx, stat, "PowerOffsetTPC-pdpdch", "powerOffsetTPC-pdpdch", -1, 0);
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->dummy, 0, 7);
+      RT_CHECK(ctx, stat, "SSDT-CellIdentity", "dummy", -1, 0);
+   }
+   /* closedLoopTimingAdjMode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->closedLoopTimingAdjMode, 0, 1);
+      RT_CHECK(ctx, stat, "ClosedLoopTimingAdjMode", "closedLoopTimingAdjMode", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoPerRL_r5_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r5_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-CCTrChListToEstablish */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_CCTrChList_r4(ctx, &pvalue->dl_CCTrChListToEstablish);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToEstablish", -1, 0);
+   }
+   /* dl-CCTrChListToRemove */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DL_CCTrChListToRemove(ctx, &pvalue->dl_CCTrChListToRemove);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToRemove", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoPerRL_r5(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r5* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-DPCH-InfoPerRL-r5");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_DPCH_InfoPerRL_r5_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r5_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r5");
+         asn1Init_UMTS_DL_DPCH_InfoPerRL_r5_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_r5_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r5");
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_DPCH_InfoPerRL_r5_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r5_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r5");
+         asn1Init_UMTS_DL_DPCH_InfoPerRL_r5_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_r5_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r5");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-DPCH-InfoPerRL-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoPerRL_r6_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r6_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* pCPICH-UsageForChannelEst */
+   stat = pd_ConsUnsigned(ctx, &pvalue->pCPICH_UsageForChannelEst, 0, 1);
+   RT_CHECK(ctx, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, 0);
+   /* dpch-FrameOffset */
+   stat = pd_ConsUInt8(ctx, &pvalue->dpch_FrameOffset, 0, 149);
+   RT_CHECK(ctx, stat, "DPCH-FrameOffset", "dpch-FrameOffset", -1, 0);
+   /* secondaryCPICH-Info */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SecondaryCPICH_Info(ctx, &pvalue->secondaryCPICH_Info);
+      RT_CHECK(ctx, stat, 0, "secondaryCPICH-Info", -1, 0);
+   }
+   /* dl-ChannelisationCodeList */
+   stat = asn1PD_UMTS_DL_ChannelisationCodeList(ctx, &pvalue->dl_ChannelisationCodeList);
+   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCodeList", -1, 0);
+   /* tpc-CombinationIndex */
+   stat = pd_ConsUInt8(ctx, &pvalue->tpc_CombinationIndex, 0, 5);
+   RT_CHECK(ctx, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, 0);
+   /* powerOffsetTPC-pdpdch */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->powerOffsetTPC_pdpdch, 0, 24);
+      RT_CHECK(ctx, stat, "PowerOffsetTPC-pdpdch", "powerOffsetTPC-pdpdch", -1, 0);
+   }
+   /* closedLoopTimingAdjMode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->closedLoopTimingAdjMode, 0, 1);
+      RT_CHECK(ctx, stat, "ClosedLoopTimingAdjMode", "closedLoopTimingAdjMode", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoPerRL_r6_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r6_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-CCTrChListToEstablish */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_CCTrChList_r4(ctx, &pvalue->dl_CCTrChListToEstablish);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToEstablish", -1, 0);
+   }
+   /* dl-CCTrChListToRemove */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DL_CCTrChListToRemove(ctx, &pvalue->dl_CCTrChListToRemove);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToRemove", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoPerRL_r6(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r6* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-DPCH-InfoPerRL-r6");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_DPCH_InfoPerRL_r6_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r6_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r6");
+         asn1Init_UMTS_DL_DPCH_InfoPerRL_r6_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_r6_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r6");
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_DPCH_InfoPerRL_r6_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r6_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r6");
+         asn1Init_UMTS_DL_DPCH_InfoPerRL_r6_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_r6_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r6");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-DPCH-InfoPerRL-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoPerRL_r7_fdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r7_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* pCPICH-UsageForChannelEst */
+   stat = pd_ConsUnsigned(ctx, &pvalue->pCPICH_UsageForChannelEst, 0, 1);
+   RT_CHECK(ctx, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, 0);
+   /* dpch-FrameOffset */
+   stat = pd_ConsUInt8(ctx, &pvalue->dpch_FrameOffset, 0, 149);
+   RT_CHECK(ctx, stat, "DPCH-FrameOffset", "dpch-FrameOffset", -1, 0);
+   /* secondaryCPICH-Info */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SecondaryCPICH_Info(ctx, &pvalue->secondaryCPICH_Info);
+      RT_CHECK(ctx, stat, 0, "secondaryCPICH-Info", -1, 0);
+   }
+   /* dl-ChannelisationCodeList */
+   stat = asn1PD_UMTS_DL_ChannelisationCodeList(ctx, &pvalue->dl_ChannelisationCodeList);
+   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCodeList", -1, 0);
+   /* tpc-CombinationIndex */
+   stat = pd_ConsUInt8(ctx, &pvalue->tpc_CombinationIndex, 0, 5);
+   RT_CHECK(ctx, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, 0);
+   /* powerOffsetTPC-pdpdch */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->powerOffsetTPC_pdpdch, 0, 24);
+      RT_CHECK(ctx, stat, "PowerOffsetTPC-pdpdch", "powerOffsetTPC-pdpdch", -1, 0);
+   }
+   /* closedLoopTimingAdjMode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->closedLoopTimingAdjMode, 0, 1);
+      RT_CHECK(ctx, stat, "ClosedLoopTimingAdjMode", "closedLoopTimingAdjMode", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoPerRL_r7_tdd(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r7_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-CCTrChListToEstablish */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_CCTrChList_r7(ctx, &pvalue->dl_CCTrChListToEstablish);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToEstablish", -1, 0);
+   }
+   /* dl-CCTrChListToRemove */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DL_CCTrChListToRemove(ctx, &pvalue->dl_CCTrChListToRemove);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToRemove", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoPerRL_r7(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_r7* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-DPCH-InfoPerRL-r7");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_DPCH_InfoPerRL_r7_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r7_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r7");
+         asn1Init_UMTS_DL_DPCH_InfoPerRL_r7_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_r7_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r7");
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_DPCH_InfoPerRL_r7_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r7_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r7");
+         asn1Init_UMTS_DL_DPCH_InfoPerRL_r7_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_r7_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r7");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-DPCH-InfoPerRL-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_FDPCH_InfoPerRL_r6(rtxContext* RT_RESTRICT ctx, DL_FDPCH_InfoPerRL_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-FDPCH-InfoPerRL-r6");
+   /* pCPICH-UsageForChannelEst */
+   stat = pd_ConsUnsigned(ctx, &pvalue->pCPICH_UsageForChannelEst, 0, 1);
+   RT_CHECK(ctx, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, "DL-FDPCH-InfoPerRL-r6");
+   /* fdpch-FrameOffset */
+   stat = pd_ConsUInt8(ctx, &pvalue->fdpch_FrameOffset, 0, 149);
+   RT_CHECK(ctx, stat, "DPCH-FrameOffset", "fdpch-FrameOffset", -1, "DL-FDPCH-InfoPerRL-r6");
+   /* secondaryCPICH-Info */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SecondaryCPICH_Info(ctx, &pvalue->secondaryCPICH_Info);
+      RT_CHECK(ctx, stat, 0, "secondaryCPICH-Info", -1, "DL-FDPCH-InfoPerRL-r6");
+   }
+   /* secondaryScramblingCode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->secondaryScramblingCode, 1, 15);
+      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, "DL-FDPCH-InfoPerRL-r6");
+   }
+   /* dl-ChannelisationCode */
+   stat = pd_ConsUInt8(ctx, &pvalue->dl_ChannelisationCode, 0, 255);
+   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCode", -1, "DL-FDPCH-InfoPerRL-r6");
+   /* tpc-CombinationIndex */
+   stat = pd_ConsUInt8(ctx, &pvalue->tpc_CombinationIndex, 0, 5);
+   RT_CHECK(ctx, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, "DL-FDPCH-InfoPerRL-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoPerRL_PostFDD(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_PostFDD* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* pCPICH-UsageForChannelEst */
+   stat = pd_ConsUnsigned(ctx, &pvalue->pCPICH_UsageForChannelEst, 0, 1);
+   RT_CHECK(ctx, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, "DL-DPCH-InfoPerRL-PostFDD");
+   /* dl-ChannelisationCode */
+   stat = asn1PD_UMTS_DL_ChannelisationCode(ctx, &pvalue->dl_ChannelisationCode);
+   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCode", -1, "DL-DPCH-InfoPerRL-PostFDD");
+   /* tpc-CombinationIndex */
+   stat = pd_ConsUInt8(ctx, &pvalue->tpc_CombinationIndex, 0, 5);
+   RT_CHECK(ctx, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, "DL-DPCH-InfoPerRL-PostFDD");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoPerRL_PostTDD(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_PostTDD* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* dl-DPCH-TimeslotsCodes */
+   stat = asn1PD_UMTS_DownlinkTimeslotsCodes(ctx, &pvalue->dl_DPCH_TimeslotsCodes);
+   RT_CHECK(ctx, stat, 0, "dl-DPCH-TimeslotsCodes", -1, "DL-DPCH-InfoPerRL-PostTDD");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DPCH_InfoPerRL_PostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, DL_DPCH_InfoPerRL_PostTDD_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* dl-CCTrCH-TimeslotsCodes */
+   stat = asn1PD_UMTS_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes);
+   RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, "DL-DPCH-InfoPerRL-PostTDD-LCR-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 2);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      pvalue->n = raw + 1;
+      if (raw > 3) {
+         rtxErrAddStrParm(ctx, "hS-SCCHChannelisationCodeInfo");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 127);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* hS-SCCHChannelisationCodeInfo */
+   stat = asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo);
+   RT_CHECK(ctx, stat, 0, "hS-SCCHChannelisationCodeInfo", -1, 0);
+   /* dl-ScramblingCode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->dl_ScramblingCode, 1, 15);
+      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      HS_SCCH_TDD384_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD384_r6));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "HS-SCCH-TDD384-r6", (int32_t)i, 0);
+      elem = (HS_SCCH_TDD384_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_HS_SCCH_TDD384_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_HS_SCCH_TDD384_r6(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD384-r6", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* nack-ack-power-offset */
+   stat = pd_ConsInt8(ctx, &pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, 0);
+   /* hs-SICH-PowerControl-Info */
+   stat = asn1PD_UMTS_HS_SICH_Power_Control_Info_TDD384(ctx, &pvalue->hs_SICH_PowerControl_Info);
+   RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl-Info", -1, 0);
+   /* dhs-sync */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8(ctx, &pvalue->dhs_sync, -20, 10);
+      RT_CHECK(ctx, stat, "DHS-Sync", "dhs-sync", -1, 0);
+   }
+   /* bler-target */
+   stat = pd_ConsInt8(ctx, &pvalue->bler_target, -63, 0);
+   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, 0);
+   /* hS-SCCH-SetConfiguration */
+   stat = asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_tpc_step_size* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      HS_SCCH_TDD128_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(HS_SCCH_TDD128_r6));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
+      elem = (HS_SCCH_TDD128_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_HS_SCCH_TDD128_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_HS_SCCH_TDD128_r6(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* nack-ack-power-offset */
+   stat = pd_ConsInt8(ctx, &pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, 0);
+   /* power-level-HSSICH */
+   stat = pd_ConsInt8(ctx, &pvalue->power_level_HSSICH, -120, -58);
+   RT_CHECK(ctx, stat, 0, "power-level-HSSICH", -1, 0);
+   /* tpc-step-size */
+   stat = pd_ConsUnsigned(ctx, &pvalue->tpc_step_size, 0, 3);
+   RT_CHECK(ctx, stat, 0, "tpc-step-size", -1, 0);
+   /* bler-target */
+   stat = pd_ConsInt8(ctx, &pvalue->bler_target, -63, 0);
+   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, 0);
+   /* hS-SCCH-SetConfiguration */
+   stat = asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
+         stat = asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
+         stat = asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (HS_SCCH_Info_r6_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r6_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (HS_SCCH_Info_r6_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r6_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r6(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_HS_SCCH_Info_r6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "HS-SCCH-Info-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-HSPDSCH-TS-Configuration */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_TS_Configuration(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* hs-PDSCH-Midamble-Configuration-tdd128 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration_tdd128);
+      RT_CHECK(ctx, stat, 0, "hs-PDSCH-Midamble-Configuration-tdd128", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
+         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
+         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r6_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd */
+         pvalue->u.tdd = (DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      case 1: /* fdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r6(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-HSPDSCH-Information-r6");
+   /* hs-scch-Info */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HS_SCCH_Info_r6(ctx, &pvalue->hs_scch_Info);
+      RT_CHECK(ctx, stat, 0, "hs-scch-Info", -1, "DL-HSPDSCH-Information-r6");
+   }
+   /* measurement-feedback-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_Measurement_Feedback_Info(ctx, &pvalue->measurement_feedback_Info);
+      RT_CHECK(ctx, stat, 0, "measurement-feedback-Info", -1, "DL-HSPDSCH-Information-r6");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-HSPDSCH-Information-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* outofSyncWindow */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->outofSyncWindow, 0, 7);
+      RT_CHECK(ctx, stat, "OutofSyncWindow", "outofSyncWindow", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         break;
+      case 1: /* tdd768 */
+         break;
+      case 2: /* tdd128 */
+         pvalue->u.tdd128 = (DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
+         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_ext_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd */
+         pvalue->u.tdd = (DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      case 1: /* fdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-HSPDSCH-Information-r8-ext");
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* hS-SCCH-tpc-step-size */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->hS_SCCH_tpc_step_size, 0, 3);
+      RT_CHECK(ctx, stat, 0, "hS-SCCH-tpc-step-size", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         break;
+      case 1: /* tdd768 */
+         break;
+      case 2: /* tdd128 */
+         pvalue->u.tdd128 = (HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
+         stat = asn1PD_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r8_ext_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HS_SCCH_Info_r8_ext(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r8_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "HS-SCCH-Info-r8-ext");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext2(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_ext2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-HSPDSCH-Information-r8-ext2");
+   /* hs-scch-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HS_SCCH_Info_r8_ext(ctx, &pvalue->hs_scch_Info);
+      RT_CHECK(ctx, stat, 0, "hs-scch-Info", -1, "DL-HSPDSCH-Information-r8-ext2");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DSCH_RadioLinkIdentifier(rtxContext* RT_RESTRICT ctx, DSCH_RadioLinkIdentifier* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt16(ctx, pvalue, 0, 511);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DSCH-RadioLinkIdentifier");
+   return 0;
+}
+
+int asn1PD_UMTS_RL_IdentifierList(rtxContext* RT_RESTRICT ctx, RL_IdentifierList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RL-IdentifierList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PrimaryCPICH_Info* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PrimaryCPICH_Info));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PrimaryCPICH-Info", (int32_t)i, "RL-IdentifierList");
+      elem = (PrimaryCPICH_Info*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "PrimaryCPICH-Info", (int32_t)i, "RL-IdentifierList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDSCH_SHO_DCH_Info(rtxContext* RT_RESTRICT ctx, PDSCH_SHO_DCH_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-SHO-DCH-Info");
+   /* dsch-RadioLinkIdentifier */
+   stat = pd_ConsUInt16(ctx, &pvalue->dsch_RadioLinkIdentifier, 0, 511);
+   RT_CHECK(ctx, stat, "DSCH-RadioLinkIdentifier", "dsch-RadioLinkIdentifier", -1, "PDSCH-SHO-DCH-Info");
+   /* rl-IdentifierList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RL_IdentifierList(ctx, &pvalue->rl_IdentifierList);
+      RT_CHECK(ctx, stat, 0, "rl-IdentifierList", -1, "PDSCH-SHO-DCH-Info");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MaxTFCI_Field2Value(rtxContext* RT_RESTRICT ctx, MaxTFCI_Field2Value* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt16(ctx, pvalue, 1, 1023);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxTFCI-Field2Value");
+   return 0;
+}
+
+int asn1PD_UMTS_DSCH_Mapping(rtxContext* RT_RESTRICT ctx, DSCH_Mapping* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* maxTFCI-Field2Value */
+   stat = pd_ConsUInt16(ctx, &pvalue->maxTFCI_Field2Value, 1, 1023);
+   RT_CHECK(ctx, stat, "MaxTFCI-Field2Value", "maxTFCI-Field2Value", -1, "DSCH-Mapping");
+   /* spreadingFactor */
+   stat = pd_ConsUnsigned(ctx, &pvalue->spreadingFactor, 0, 6);
+   RT_CHECK(ctx, stat, "SF-PDSCH", "spreadingFactor", -1, "DSCH-Mapping");
+   /* codeNumber */
+   stat = pd_ConsUInt8(ctx, &pvalue->codeNumber, 0, 255);
+   RT_CHECK(ctx, stat, "CodeNumberDSCH", "codeNumber", -1, "DSCH-Mapping");
+   /* multiCodeInfo */
+   stat = pd_ConsUInt8(ctx, &pvalue->multiCodeInfo, 1, 16);
+   RT_CHECK(ctx, stat, "MultiCodeInfo", "multiCodeInfo", -1, "DSCH-Mapping");
+   return 0;
+}
+
+int asn1PD_UMTS_DSCH_MappingList(rtxContext* RT_RESTRICT ctx, DSCH_MappingList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 256);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DSCH-MappingList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DSCH_Mapping* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DSCH_Mapping));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DSCH-Mapping", (int32_t)i, "DSCH-MappingList");
+      elem = (DSCH_Mapping*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_DSCH_Mapping(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "DSCH-Mapping", (int32_t)i, "DSCH-MappingList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDSCH_CodeInfo(rtxContext* RT_RESTRICT ctx, PDSCH_CodeInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* spreadingFactor */
+   stat = pd_ConsUnsigned(ctx, &pvalue->spreadingFactor, 0, 6);
+   RT_CHECK(ctx, stat, "SF-PDSCH", "spreadingFactor", -1, "PDSCH-CodeInfo");
+   /* codeNumber */
+   stat = pd_ConsUInt8(ctx, &pvalue->codeNumber, 0, 255);
+   RT_CHECK(ctx, stat, "CodeNumberDSCH", "codeNumber", -1, "PDSCH-CodeInfo");
+   /* multiCodeInfo */
+   stat = pd_ConsUInt8(ctx, &pvalue->multiCodeInfo, 1, 16);
+   RT_CHECK(ctx, stat, "MultiCodeInfo", "multiCodeInfo", -1, "PDSCH-CodeInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_PDSCH_CodeInfoList(rtxContext* RT_RESTRICT ctx, PDSCH_CodeInfoList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 512);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-CodeInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      PDSCH_CodeInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PDSCH_CodeInfo));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "PDSCH-CodeInfo", (int32_t)i, "PDSCH-CodeInfoList");
+      elem = (PDSCH_CodeInfo*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_PDSCH_CodeInfo(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "PDSCH-CodeInfo", (int32_t)i, "PDSCH-CodeInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ReplacedPDSCH_CodeInfo(rtxContext* RT_RESTRICT ctx, ReplacedPDSCH_CodeInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* tfci-Field2 */
+   stat = pd_ConsUInt16(ctx, &pvalue->tfci_Field2, 1, 1023);
+   RT_CHECK(ctx, stat, "MaxTFCI-Field2Value", "tfci-Field2", -1, "ReplacedPDSCH-CodeInfo");
+   /* spreadingFactor */
+   stat = pd_ConsUnsigned(ctx, &pvalue->spreadingFactor, 0, 6);
+   RT_CHECK(ctx, stat, "SF-PDSCH", "spreadingFactor", -1, "ReplacedPDSCH-CodeInfo");
+   /* codeNumber */
+   stat = pd_ConsUInt8(ctx, &pvalue->codeNumber, 0, 255);
+   RT_CHECK(ctx, stat, "CodeNumberDSCH", "codeNumber", -1, "ReplacedPDSCH-CodeInfo");
+   /* multiCodeInfo */
+   stat = pd_ConsUInt8(ctx, &pvalue->multiCodeInfo, 1, 16);
+   RT_CHECK(ctx, stat, "MultiCodeInfo", "multiCodeInfo", -1, "ReplacedPDSCH-CodeInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_ReplacedPDSCH_CodeInfoList(rtxContext* RT_RESTRICT ctx, ReplacedPDSCH_CodeInfoList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 512);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ReplacedPDSCH-CodeInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      ReplacedPDSCH_CodeInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(ReplacedPDSCH_CodeInfo));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ReplacedPDSCH-CodeInfo", (int32_t)i, "ReplacedPDSCH-CodeInfoList");
+      elem = (ReplacedPDSCH_CodeInfo*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_ReplacedPDSCH_CodeInfo(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "ReplacedPDSCH-CodeInfo", (int32_t)i, "ReplacedPDSCH-CodeInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDSCH_CodeMapping_signallingMethod(rtxContext* RT_RESTRICT ctx, PDSCH_CodeMapping_signallingMethod* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* codeRange */
+         pvalue->u.codeRange = (CodeRange*)rtxMemHeapAlloc(ctx, sizeof(CodeRange));
+         if (pvalue->u.codeRange == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "codeRange", -1, 0);
+         asn1Init_UMTS_CodeRange(pvalue->u.codeRange);
+         stat = asn1PD_UMTS_CodeRange(ctx, pvalue->u.codeRange);
+         RT_CHECK(ctx, stat, 0, "codeRange", -1, 0);
+         break;
+      case 1: /* tfci-Range */
+         pvalue->u.tfci_Range = (DSCH_MappingList*)rtxMemHeapAlloc(ctx, sizeof(DSCH_MappingList));
+         if (pvalue->u.tfci_Range == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tfci-Range", -1, 0);
+         asn1Init_UMTS_DSCH_MappingList(pvalue->u.tfci_Range);
+         stat = asn1PD_UMTS_DSCH_MappingList(ctx, pvalue->u.tfci_Range);
+         RT_CHECK(ctx, stat, 0, "tfci-Range", -1, 0);
+         break;
+      case 2: /* explicit-config */
+         pvalue->u.explicit_config = (PDSCH_CodeInfoList*)rtxMemHeapAlloc(ctx, sizeof(PDSCH_CodeInfoList));
+         if (pvalue->u.explicit_config == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "explicit-config", -1, 0);
+         asn1Init_UMTS_PDSCH_CodeInfoList(pvalue->u.explicit_config);
+         stat = asn1PD_UMTS_PDSCH_CodeInfoList(ctx, pvalue->u.explicit_config);
+         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
+         break;
+      case 3: /* replace */
+         pvalue->u.replace = (ReplacedPDSCH_CodeInfoList*)rtxMemHeapAlloc(ctx, sizeof(ReplacedPDSCH_CodeInfoList));
+         if (pvalue->u.replace == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "replace", -1, 0);
+         asn1Init_UMTS_ReplacedPDSCH_CodeInfoList(pvalue->u.replace);
+         stat = asn1PD_UMTS_ReplacedPDSCH_CodeInfoList(ctx, pvalue->u.replace);
+         RT_CHECK(ctx, stat, 0, "replace", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDSCH_CodeMapping(rtxContext* RT_RESTRICT ctx, PDSCH_CodeMapping* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-CodeMapping");
+   /* dl-ScramblingCode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->dl_ScramblingCode, 1, 15);
+      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, "PDSCH-CodeMapping");
+   }
+   /* signallingMethod */
+   stat = asn1PD_UMTS_PDSCH_CodeMapping_signallingMethod(ctx, &pvalue->signallingMethod);
+   RT_CHECK(ctx, stat, 0, "signallingMethod", -1, "PDSCH-CodeMapping");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   /* dummy1 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PDSCH_SHO_DCH_Info(ctx, &pvalue->dummy1);
+      RT_CHECK(ctx, stat, 0, "dummy1", -1, 0);
+   }
+   /* dummy2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_PDSCH_CodeMapping(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_InformationPerRL_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_InformationPerRL_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_InformationPerRL_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_DL_InformationPerRL_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (PrimaryCCPCH_Info*)rtxMemHeapAlloc(ctx, sizeof(PrimaryCCPCH_Info));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_PrimaryCCPCH_Info(pvalue->u.tdd);
+         stat = asn1PD_UMTS_PrimaryCCPCH_Info(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SIB_ReferenceListFACH(rtxContext* RT_RESTRICT ctx, SIB_ReferenceListFACH* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SIB-ReferenceListFACH");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      SchedulingInformationSIB* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SchedulingInformationSIB));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "SchedulingInformationSIB", (int32_t)i, "SIB-ReferenceListFACH");
+      elem = (SchedulingInformationSIB*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_SchedulingInformationSIB(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_SchedulingInformationSIB(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "SchedulingInformationSIB", (int32_t)i, "SIB-ReferenceListFACH");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SCCPCH_InfoForFACH_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SCCPCH_InfoForFACH_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* fach-PCH-InformationList */
+   stat = asn1PD_UMTS_FACH_PCH_InformationList(ctx, &pvalue->fach_PCH_InformationList);
+   RT_CHECK(ctx, stat, 0, "fach-PCH-InformationList", -1, 0);
+   /* sib-ReferenceListFACH */
+   stat = asn1PD_UMTS_SIB_ReferenceListFACH(ctx, &pvalue->sib_ReferenceListFACH);
+   RT_CHECK(ctx, stat, 0, "sib-ReferenceListFACH", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SCCPCH_InfoForFACH_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, SCCPCH_InfoForFACH_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* fach-PCH-InformationList */
+   stat = asn1PD_UMTS_FACH_PCH_InformationList(ctx, &pvalue->fach_PCH_InformationList);
+   RT_CHECK(ctx, stat, 0, "fach-PCH-InformationList", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SCCPCH_InfoForFACH_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SCCPCH_InfoForFACH_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (SCCPCH_InfoForFACH_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(SCCPCH_InfoForFACH_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_SCCPCH_InfoForFACH_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_SCCPCH_InfoForFACH_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (SCCPCH_InfoForFACH_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(SCCPCH_InfoForFACH_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_SCCPCH_InfoForFACH_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_SCCPCH_InfoForFACH_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SCCPCH_InfoForFACH(rtxContext* RT_RESTRICT ctx, SCCPCH_InfoForFACH* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* secondaryCCPCH-Info */
+   stat = asn1PD_UMTS_SecondaryCCPCH_Info(ctx, &pvalue->secondaryCCPCH_Info);
+   RT_CHECK(ctx, stat, 0, "secondaryCCPCH-Info", -1, "SCCPCH-InfoForFACH");
+   /* tfcs */
+   stat = asn1PD_UMTS_TFCS(ctx, &pvalue->tfcs);
+   RT_CHECK(ctx, stat, 0, "tfcs", -1, "SCCPCH-InfoForFACH");
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_SCCPCH_InfoForFACH_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SCCPCH-InfoForFACH");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL");
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_DL_InformationPerRL_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-InformationPerRL");
+   /* dl-DPCH-InfoPerRL */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_DPCH_InfoPerRL(ctx, &pvalue->dl_DPCH_InfoPerRL);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, "DL-InformationPerRL");
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SCCPCH_InfoForFACH(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "DL-InformationPerRL");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   /* dummy1 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PDSCH_SHO_DCH_Info(ctx, &pvalue->dummy1);
+      RT_CHECK(ctx, stat, 0, "dummy1", -1, 0);
+   }
+   /* dummy2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_PDSCH_CodeMapping(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCCPCH_Info_r4_fdd(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* tx-DiversityIndicator */
+   stat = rtxDecBitInline(ctx, &pvalue->tx_DiversityIndicator);
+   RT_CHECK(ctx, stat, 0, "tx-DiversityIndicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase1(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase1* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* timeslot */
+   stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 0, 14);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase2(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* timeslotSync2 */
+   stat = pd_ConsUInt8(ctx, &pvalue->timeslotSync2, 0, 6);
+   RT_CHECK(ctx, stat, "TimeslotSync2", "timeslotSync2", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* syncCase1 */
+         pvalue->u.syncCase1 = (PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase1*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase1));
+         if (pvalue->u.syncCase1 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "syncCase1", -1, 0);
+         stat = asn1PD_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase1(ctx, pvalue->u.syncCase1);
+         RT_CHECK(ctx, stat, 0, "syncCase1", -1, 0);
+         break;
+      case 1: /* syncCase2 */
+         pvalue->u.syncCase2 = (PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase2*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase2));
+         if (pvalue->u.syncCase2 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "syncCase2", -1, 0);
+         stat = asn1PD_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase2(ctx, pvalue->u.syncCase2);
+         RT_CHECK(ctx, stat, 0, "syncCase2", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* syncCase */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase(ctx, &pvalue->syncCase);
+      RT_CHECK(ctx, stat, 0, "syncCase", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* tstd-Indicator */
+   stat = rtxDecBitInline(ctx, &pvalue->tstd_Indicator);
+   RT_CHECK(ctx, stat, 0, "tstd-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_tdd_tddOption* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384-tdd768 */
+         pvalue->u.tdd384_tdd768 = (PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768*)rtxMemHeapAlloc(ctx, sizeof(PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768));
+         if (pvalue->u.tdd384_tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384-tdd768", -1, 0);
+         asn1Init_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768(pvalue->u.tdd384_tdd768);
+         stat = asn1PD_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768(ctx, pvalue->u.tdd384_tdd768);
+         RT_CHECK(ctx, stat, 0, "tdd384-tdd768", -1, 0);
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (PrimaryCCPCH_Info_r4_tdd_tddOption_tdd128*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCCPCH_Info_r4_tdd_tddOption_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         stat = asn1PD_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCCPCH_Info_r4_tdd(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* tddOption */
+   stat = asn1PD_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption(ctx, &pvalue->tddOption);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   /* cellParametersID */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->cellParametersID, 0, 127);
+      RT_CHECK(ctx, stat, "CellParametersID", "cellParametersID", -1, 0);
+   }
+   /* sctd-Indicator */
+   stat = rtxDecBitInline(ctx, &pvalue->sctd_Indicator);
+   RT_CHECK(ctx, stat, 0, "sctd-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCCPCH_Info_r4(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_Info_r4* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PrimaryCCPCH-Info-r4");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (PrimaryCCPCH_Info_r4_fdd*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCCPCH_Info_r4_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, "PrimaryCCPCH-Info-r4");
+         stat = asn1PD_UMTS_PrimaryCCPCH_Info_r4_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "PrimaryCCPCH-Info-r4");
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (PrimaryCCPCH_Info_r4_tdd*)rtxMemHeapAlloc(ctx, sizeof(PrimaryCCPCH_Info_r4_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, "PrimaryCCPCH-Info-r4");
+         asn1Init_UMTS_PrimaryCCPCH_Info_r4_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_PrimaryCCPCH_Info_r4_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "PrimaryCCPCH-Info-r4");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PrimaryCCPCH-Info-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r4_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_InformationPerRL_r4_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_InformationPerRL_r4_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_InformationPerRL_r4_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_DL_InformationPerRL_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (PrimaryCCPCH_Info_r4*)rtxMemHeapAlloc(ctx, sizeof(PrimaryCCPCH_Info_r4));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_PrimaryCCPCH_Info_r4(pvalue->u.tdd);
+         stat = asn1PD_UMTS_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* secondaryScramblingCode */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->secondaryScramblingCode, 1, 15);
+      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, 0);
+   }
+   /* sttd-Indicator */
+   stat = rtxDecBitInline(ctx, &pvalue->sttd_Indicator);
+   RT_CHECK(ctx, stat, 0, "sttd-Indicator", -1, 0);
+   /* sf-AndCodeNumber */
+   stat = asn1PD_UMTS_SF256_AndCodeNumber(ctx, &pvalue->sf_AndCodeNumber);
+   RT_CHECK(ctx, stat, 0, "sf-AndCodeNumber", -1, 0);
+   /* pilotSymbolExistence */
+   stat = rtxDecBitInline(ctx, &pvalue->pilotSymbolExistence);
+   RT_CHECK(ctx, stat, 0, "pilotSymbolExistence", -1, 0);
+   /* tfci-Existence */
+   stat = rtxDecBitInline(ctx, &pvalue->tfci_Existence);
+   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
+   /* positionFixedOrFlexible */
+   stat = pd_ConsUnsigned(ctx, &pvalue->positionFixedOrFlexible, 0, 1);
+   RT_CHECK(ctx, stat, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
+   /* timingOffset */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUInt8(ctx, &pvalue->timingOffset, 0, 149);
+      RT_CHECK(ctx, stat, "TimingOffset", "timingOffset", -1, 0);
+   }
+   else {
+      pvalue->timingOffset = 0;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* individualTimeslotInfo */
+   stat = asn1PD_UMTS_IndividualTimeslotInfo(ctx, &pvalue->individualTimeslotInfo);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* individualTimeslotInfo */
+   stat = asn1PD_UMTS_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->individualTimeslotInfo);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd384*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd384(pvalue->u.tdd384);
+         stat = asn1PD_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd128*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd128(pvalue->u.tdd128);
+         stat = asn1PD_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* commonTimeslotInfo */
+   stat = asn1PD_UMTS_CommonTimeslotInfoSCCPCH(ctx, &pvalue->commonTimeslotInfo);
+   RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, 0);
+   /* tddOption */
+   stat = asn1PD_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   /* channelisationCode */
+   stat = asn1PD_UMTS_SCCPCH_ChannelisationCodeList(ctx, &pvalue->channelisationCode);
+   RT_CHECK(ctx, stat, 0, "channelisationCode", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_r4_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (SecondaryCCPCH_Info_r4_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCH_Info_r4_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SecondaryCCPCH_Info_r4(rtxContext* RT_RESTRICT ctx, SecondaryCCPCH_Info_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SecondaryCCPCH-Info-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_SCCPCH_InfoForFACH_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SCCPCH_InfoForFACH_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* sib-ReferenceListFACH */
+   stat = asn1PD_UMTS_SIB_ReferenceListFACH(ctx, &pvalue->sib_ReferenceListFACH);
+   RT_CHECK(ctx, stat, 0, "sib-ReferenceListFACH", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SCCPCH_InfoForFACH_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SCCPCH_InfoForFACH_r4_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (SCCPCH_InfoForFACH_r4_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(SCCPCH_InfoForFACH_r4_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_SCCPCH_InfoForFACH_r4_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_SCCPCH_InfoForFACH_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SCCPCH_InfoForFACH_r4(rtxContext* RT_RESTRICT ctx, SCCPCH_InfoForFACH_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* secondaryCCPCH-Info */
+   stat = asn1PD_UMTS_SecondaryCCPCH_Info_r4(ctx, &pvalue->secondaryCCPCH_Info);
+   RT_CHECK(ctx, stat, 0, "secondaryCCPCH-Info", -1, "SCCPCH-InfoForFACH-r4");
+   /* tfcs */
+   stat = asn1PD_UMTS_TFCS(ctx, &pvalue->tfcs);
+   RT_CHECK(ctx, stat, 0, "tfcs", -1, "SCCPCH-InfoForFACH-r4");
+   /* fach-PCH-InformationList */
+   stat = asn1PD_UMTS_FACH_PCH_InformationList(ctx, &pvalue->fach_PCH_InformationList);
+   RT_CHECK(ctx, stat, 0, "fach-PCH-InformationList", -1, "SCCPCH-InfoForFACH-r4");
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_SCCPCH_InfoForFACH_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SCCPCH-InfoForFACH-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r4(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-r4");
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_DL_InformationPerRL_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-InformationPerRL-r4");
+   /* dl-DPCH-InfoPerRL */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_r4(ctx, &pvalue->dl_DPCH_InfoPerRL);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, "DL-InformationPerRL-r4");
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SCCPCH_InfoForFACH_r4(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "DL-InformationPerRL-r4");
+   }
+   /* cell-id */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_CellIdentity(ctx, &pvalue->cell_id);
+      RT_CHECK(ctx, stat, 0, "cell-id", -1, "DL-InformationPerRL-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r5_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r5_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   /* dummy1 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PDSCH_SHO_DCH_Info(ctx, &pvalue->dummy1);
+      RT_CHECK(ctx, stat, 0, "dummy1", -1, 0);
+   }
+   /* dummy2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_PDSCH_CodeMapping(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   /* servingHSDSCH-RL-indicator */
+   stat = rtxDecBitInline(ctx, &pvalue->servingHSDSCH_RL_indicator);
+   RT_CHECK(ctx, stat, 0, "servingHSDSCH-RL-indicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r5_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r5_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_InformationPerRL_r5_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_InformationPerRL_r5_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_InformationPerRL_r5_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_DL_InformationPerRL_r5_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (PrimaryCCPCH_Info_r4*)rtxMemHeapAlloc(ctx, sizeof(PrimaryCCPCH_Info_r4));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_PrimaryCCPCH_Info_r4(pvalue->u.tdd);
+         stat = asn1PD_UMTS_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r5(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-r5");
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_DL_InformationPerRL_r5_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-InformationPerRL-r5");
+   /* dl-DPCH-InfoPerRL */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_r5(ctx, &pvalue->dl_DPCH_InfoPerRL);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, "DL-InformationPerRL-r5");
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SCCPCH_InfoForFACH_r4(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "DL-InformationPerRL-r5");
+   }
+   /* cell-id */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_CellIdentity(ctx, &pvalue->cell_id);
+      RT_CHECK(ctx, stat, 0, "cell-id", -1, "DL-InformationPerRL-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r5bis_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r5bis_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   /* dummy1 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PDSCH_SHO_DCH_Info(ctx, &pvalue->dummy1);
+      RT_CHECK(ctx, stat, 0, "dummy1", -1, 0);
+   }
+   /* dummy2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_PDSCH_CodeMapping(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r5bis_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r5bis_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_InformationPerRL_r5bis_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_InformationPerRL_r5bis_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_InformationPerRL_r5bis_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_DL_InformationPerRL_r5bis_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (PrimaryCCPCH_Info_r4*)rtxMemHeapAlloc(ctx, sizeof(PrimaryCCPCH_Info_r4));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_PrimaryCCPCH_Info_r4(pvalue->u.tdd);
+         stat = asn1PD_UMTS_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r5bis(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r5bis* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-r5bis");
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_DL_InformationPerRL_r5bis_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-InformationPerRL-r5bis");
+   /* dl-DPCH-InfoPerRL */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_r5(ctx, &pvalue->dl_DPCH_InfoPerRL);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, "DL-InformationPerRL-r5bis");
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SCCPCH_InfoForFACH_r4(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "DL-InformationPerRL-r5bis");
+   }
+   /* cell-id */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_CellIdentity(ctx, &pvalue->cell_id);
+      RT_CHECK(ctx, stat, 0, "cell-id", -1, "DL-InformationPerRL-r5bis");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* primaryCPICH-Info */
+   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   /* servingHSDSCH-RL-indicator */
+   stat = rtxDecBitInline(ctx, &pvalue->servingHSDSCH_RL_indicator);
+   RT_CHECK(ctx, stat, 0, "servingHSDSCH-RL-indicator", -1, 0);
+   /* servingEDCH-RL-indicator */
+   stat = rtxDecBitInline(ctx, &pvalue->servingEDCH_RL_indicator);
+   RT_CHECK(ctx, stat, 0, "servingEDCH-RL-indicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r6_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_InformationPerRL_r6_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(DL_InformationPerRL_r6_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = asn1PD_UMTS_DL_InformationPerRL_r6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (PrimaryCCPCH_Info_r4*)rtxMemHeapAlloc(ctx, sizeof(PrimaryCCPCH_Info_r4));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_PrimaryCCPCH_Info_r4(pvalue->u.tdd);
+         stat = asn1PD_UMTS_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r6_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r6_dl_dpchInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dl-DPCH-InfoPerRL */
+         pvalue->u.dl_DPCH_InfoPerRL = (DL_DPCH_InfoPerRL_r6*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r6));
+         if (pvalue->u.dl_DPCH_InfoPerRL == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-DPCH-InfoPerRL", -1, 0);
+         asn1Init_UMTS_DL_DPCH_InfoPerRL_r6(pvalue->u.dl_DPCH_InfoPerRL);
+         stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_r6(ctx, pvalue->u.dl_DPCH_InfoPerRL);
+         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, 0);
+         break;
+      case 1: /* dl-FDPCH-InfoPerRL */
+         pvalue->u.dl_FDPCH_InfoPerRL = (DL_FDPCH_InfoPerRL_r6*)rtxMemHeapAlloc(ctx, sizeof(DL_FDPCH_InfoPerRL_r6));
+         if (pvalue->u.dl_FDPCH_InfoPerRL == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-FDPCH-InfoPerRL", -1, 0);
+         asn1Init_UMTS_DL_FDPCH_InfoPerRL_r6(pvalue->u.dl_FDPCH_InfoPerRL);
+         stat = asn1PD_UMTS_DL_FDPCH_InfoPerRL_r6(ctx, pvalue->u.dl_FDPCH_InfoPerRL);
+         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoPerRL", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r6_e_HICH_Info(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r6_e_HICH_Info* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* e-HICH-Information */
+         pvalue->u.e_HICH_Information = (E_HICH_Information*)rtxMemHeapAllocZ(ctx, sizeof(E_HICH_Information));
+         if (pvalue->u.e_HICH_Information == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e-HICH-Information", -1, 0);
+         stat = asn1PD_UMTS_E_HICH_Information(ctx, pvalue->u.e_HICH_Information);
+         RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, 0);
+         break;
+      case 1: /* releaseIndicator */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r6_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r6_e_RGCH_Info* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* e-RGCH-Information */
+         pvalue->u.e_RGCH_Information = (E_RGCH_Information*)rtxMemHeapAllocZ(ctx, sizeof(E_RGCH_Information));
+         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e-RGCH-Information", -1, 0);
+         stat = asn1PD_UMTS_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information);
+         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
+         break;
+      case 1: /* releaseIndicator */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r6(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-r6");
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_DL_InformationPerRL_r6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-InformationPerRL-r6");
+   /* dl-dpchInfo */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_r6_dl_dpchInfo(ctx, &pvalue->dl_dpchInfo);
+      RT_CHECK(ctx, stat, 0, "dl-dpchInfo", -1, "DL-InformationPerRL-r6");
+   }
+   /* e-AGCH-Information */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_E_AGCH_Information(ctx, &pvalue->e_AGCH_Information);
+      RT_CHECK(ctx, stat, 0, "e-AGCH-Information", -1, "DL-InformationPerRL-r6");
+   }
+   /* e-HICH-Info */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_r6_e_HICH_Info(ctx, &pvalue->e_HICH_Info);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, "DL-InformationPerRL-r6");
+   }
+   /* e-RGCH-Info */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_r6_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, "DL-InformationPerRL-r6");
+   }
+   /* cell-id */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_CellIdentity(ctx, &pvalue->cell_id);
+      RT_CHECK(ctx, stat, 0, "cell-id", -1, "DL-InformationPerRL-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_v6b0ext(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_v6b0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-v6b0ext");
+   /* sttdIndication */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "STTDIndication", "sttdIndication", -1, "DL-InformationPerRL-v6b0ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "STTDIndication", "sttdIndication", -1, "DL-InformationPerRL-v6b0ext");
+         pvalue->sttdIndication = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* primaryCPICH-Info */
+   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   /* servingHSDSCH-RL-indicator */
+   stat = rtxDecBitInline(ctx, &pvalue->servingHSDSCH_RL_indicator);
+   RT_CHECK(ctx, stat, 0, "servingHSDSCH-RL-indicator", -1, 0);
+   /* servingEDCH-RL-indicator */
+   stat = rtxDecBitInline(ctx, &pvalue->servingEDCH_RL_indicator);
+   RT_CHECK(ctx, stat, 0, "servingEDCH-RL-indicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_InformationPerRL_r7_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(DL_InformationPerRL_r7_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (PrimaryCCPCH_Info_r4*)rtxMemHeapAlloc(ctx, sizeof(PrimaryCCPCH_Info_r4));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_PrimaryCCPCH_Info_r4(pvalue->u.tdd);
+         stat = asn1PD_UMTS_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r7_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_dl_dpchInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dl-DPCH-InfoPerRL */
+         pvalue->u.dl_DPCH_InfoPerRL = (DL_DPCH_InfoPerRL_r7*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r7));
+         if (pvalue->u.dl_DPCH_InfoPerRL == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-DPCH-InfoPerRL", -1, 0);
+         asn1Init_UMTS_DL_DPCH_InfoPerRL_r7(pvalue->u.dl_DPCH_InfoPerRL);
+         stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_r7(ctx, pvalue->u.dl_DPCH_InfoPerRL);
+         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, 0);
+         break;
+      case 1: /* dl-FDPCH-InfoPerRL */
+         pvalue->u.dl_FDPCH_InfoPerRL = (DL_FDPCH_InfoPerRL_r7*)rtxMemHeapAlloc(ctx, sizeof(DL_FDPCH_InfoPerRL_r7));
+         if (pvalue->u.dl_FDPCH_InfoPerRL == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-FDPCH-InfoPerRL", -1, 0);
+         asn1Init_UMTS_DL_FDPCH_InfoPerRL_r7(pvalue->u.dl_FDPCH_InfoPerRL);
+         stat = asn1PD_UMTS_DL_FDPCH_InfoPerRL_r7(ctx, pvalue->u.dl_FDPCH_InfoPerRL);
+         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoPerRL", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Information_r7_modeSpecific_fdd(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r7_modeSpecific_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* e-AGCH-ChannelisationCode */
+   stat = pd_ConsUInt8(ctx, &pvalue->e_AGCH_ChannelisationCode, 0, 255);
+   RT_CHECK(ctx, stat, "E-AGCH-ChannelisationCode", "e-AGCH-ChannelisationCode", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleConfigurationBurstType1(rtxContext* RT_RESTRICT ctx, MidambleConfigurationBurstType1* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MidambleConfigurationBurstType1");
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* midambleShift */
+   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 15);
+   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* commonMidamble */
+         break;
+      case 2: /* ueSpecificMidamble */
+         pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode_ueSpecificMidamble));
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
+         stat = asn1PD_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type1(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH_burstType_type1* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* midambleConfigurationBurstType1 */
+   stat = pd_ConsUnsigned(ctx, &pvalue->midambleConfigurationBurstType1, 0, 2);
+   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1", "midambleConfigurationBurstType1", -1, 0);
+   /* midambleAllocationMode */
+   stat = asn1PD_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* midambleShift */
+   stat = pd_ConsUInt8(ctx, &pvalue->midambleShift, 0, 5);
+   RT_CHECK(ctx, stat, "MidambleShiftShort", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* defaultMidamble */
+         break;
+      case 1: /* commonMidamble */
+         break;
+      case 2: /* ueSpecificMidamble */
+         pvalue->u.ueSpecificMidamble = (MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode_ueSpecificMidamble*)rtxMemHeapAllocZ(ctx, sizeof(MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode_ueSpecificMidamble));
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueSpecificMidamble", -1, 0);
+         stat = asn1PD_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type2(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH_burstType_type2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* midambleConfigurationBurstType2 */
+   stat = pd_ConsUnsigned(ctx, &pvalue->midambleConfigurationBurstType2, 0, 1);
+   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType2", "midambleConfigurationBurstType2", -1, 0);
+   /* midambleAllocationMode */
+   stat = asn1PD_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_EDCH_burstType(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH_burstType* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* type1 */
+         pvalue->u.type1 = (MidambleShiftAndBurstType_EDCH_burstType_type1*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_EDCH_burstType_type1));
+         if (pvalue->u.type1 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "type1", -1, 0);
+         asn1Init_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type1(pvalue->u.type1);
+         stat = asn1PD_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type1(ctx, pvalue->u.type1);
+         RT_CHECK(ctx, stat, 0, "type1", -1, 0);
+         break;
+      case 1: /* type2 */
+         pvalue->u.type2 = (MidambleShiftAndBurstType_EDCH_burstType_type2*)rtxMemHeapAlloc(ctx, sizeof(MidambleShiftAndBurstType_EDCH_burstType_type2));
+         if (pvalue->u.type2 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "type2", -1, 0);
+         asn1Init_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type2(pvalue->u.type2);
+         stat = asn1PD_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type2(ctx, pvalue->u.type2);
+         RT_CHECK(ctx, stat, 0, "type2", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MidambleShiftAndBurstType_EDCH(rtxContext* RT_RESTRICT ctx, MidambleShiftAndBurstType_EDCH* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* burstType */
+   stat = asn1PD_UMTS_MidambleShiftAndBurstType_EDCH_burstType(ctx, &pvalue->burstType);
+   RT_CHECK(ctx, stat, 0, "burstType", -1, "MidambleShiftAndBurstType-EDCH");
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Individual(rtxContext* RT_RESTRICT ctx, E_AGCH_Individual* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* tS-number */
+   stat = pd_ConsUInt8(ctx, &pvalue->tS_number, 0, 14);
+   RT_CHECK(ctx, stat, 0, "tS-number", -1, "E-AGCH-Individual");
+   /* channelisation-code */
+   stat = pd_ConsUnsigned(ctx, &pvalue->channelisation_code, 0, 15);
+   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode", "channelisation-code", -1, "E-AGCH-Individual");
+   /* midambleShiftAndBurstType */
+   stat = asn1PD_UMTS_MidambleShiftAndBurstType_EDCH(ctx, &pvalue->midambleShiftAndBurstType);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "E-AGCH-Individual");
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Set_Config(rtxContext* RT_RESTRICT ctx, E_AGCH_Set_Config* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-AGCH-Set-Config");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      E_AGCH_Individual* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_AGCH_Individual));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "E-AGCH-Individual", (int32_t)i, "E-AGCH-Set-Config");
+      elem = (E_AGCH_Individual*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_E_AGCH_Individual(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_E_AGCH_Individual(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "E-AGCH-Individual", (int32_t)i, "E-AGCH-Set-Config");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd384(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r7_modeSpecific_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* long-Term-Grant-Indicator */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = rtxDecBitInline(ctx, &pvalue->long_Term_Grant_Indicator);
+      RT_CHECK(ctx, stat, 0, "long-Term-Grant-Indicator", -1, 0);
+   }
+   /* length-of-TTRI-field */
+   stat = pd_ConsUInt8(ctx, &pvalue->length_of_TTRI_field, 1, 12);
+   RT_CHECK(ctx, stat, 0, "length-of-TTRI-field", -1, 0);
+   /* e-AGCH-Set-Config */
+   stat = asn1PD_UMTS_E_AGCH_Set_Config(ctx, &pvalue->e_AGCH_Set_Config);
+   RT_CHECK(ctx, stat, 0, "e-AGCH-Set-Config", -1, 0);
+   /* e-AGCH-BLER-Target */
+   stat = pd_ConsInt8(ctx, &pvalue->e_AGCH_BLER_Target, -63, 0);
+   RT_CHECK(ctx, stat, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Individual_VHCR(rtxContext* RT_RESTRICT ctx, E_AGCH_Individual_VHCR* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* tS-number */
+   stat = pd_ConsUInt8(ctx, &pvalue->tS_number, 0, 14);
+   RT_CHECK(ctx, stat, 0, "tS-number", -1, "E-AGCH-Individual-VHCR");
+   /* channelisation-code */
+   stat = pd_ConsUnsigned(ctx, &pvalue->channelisation_code, 0, 31);
+   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode-VHCR", "channelisation-code", -1, "E-AGCH-Individual-VHCR");
+   /* midambleShiftAndBurstType */
+   stat = asn1PD_UMTS_MidambleShiftAndBurstType_EDCH(ctx, &pvalue->midambleShiftAndBurstType);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "E-AGCH-Individual-VHCR");
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Set_Config_VHCR(rtxContext* RT_RESTRICT ctx, E_AGCH_Set_Config_VHCR* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-AGCH-Set-Config-VHCR");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      E_AGCH_Individual_VHCR* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_AGCH_Individual_VHCR));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "E-AGCH-Individual-VHCR", (int32_t)i, "E-AGCH-Set-Config-VHCR");
+      elem = (E_AGCH_Individual_VHCR*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_E_AGCH_Individual_VHCR(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_E_AGCH_Individual_VHCR(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "E-AGCH-Individual-VHCR", (int32_t)i, "E-AGCH-Set-Config-VHCR");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd768(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r7_modeSpecific_tdd_tdd768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* long-Term-Grant-Indicator */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = rtxDecBitInline(ctx, &pvalue->long_Term_Grant_Indicator);
+      RT_CHECK(ctx, stat, 0, "long-Term-Grant-Indicator", -1, 0);
+   }
+   /* length-of-TTRI-field */
+   stat = pd_ConsUInt8(ctx, &pvalue->length_of_TTRI_field, 1, 12);
+   RT_CHECK(ctx, stat, 0, "length-of-TTRI-field", -1, 0);
+   /* e-AGCH-Set-Config */
+   stat = asn1PD_UMTS_E_AGCH_Set_Config_VHCR(ctx, &pvalue->e_AGCH_Set_Config);
+   RT_CHECK(ctx, stat, 0, "e-AGCH-Set-Config", -1, 0);
+   /* e-AGCH-BLER-Target */
+   stat = pd_ConsInt8(ctx, &pvalue->e_AGCH_BLER_Target, -63, 0);
+   RT_CHECK(ctx, stat, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd128(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r7_modeSpecific_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rdi-Indicator */
+   stat = rtxDecBitInline(ctx, &pvalue->rdi_Indicator);
+   RT_CHECK(ctx, stat, 0, "rdi-Indicator", -1, 0);
+   /* tpc-StepSize */
+   stat = pd_ConsUInt8(ctx, &pvalue->tpc_StepSize, 1, 3);
+   RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
+   /* e-AGCH-Set-Config */
+   stat = asn1PD_UMTS_E_AGCH_Set_Config_LCR(ctx, &pvalue->e_AGCH_Set_Config);
+   RT_CHECK(ctx, stat, 0, "e-AGCH-Set-Config", -1, 0);
+   /* e-AGCH-BLER-Target */
+   stat = pd_ConsInt8(ctx, &pvalue->e_AGCH_BLER_Target, -63, 0);
+   RT_CHECK(ctx, stat, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Information_r7_modeSpecific_tdd(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r7_modeSpecific_tdd* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (E_AGCH_Information_r7_modeSpecific_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(E_AGCH_Information_r7_modeSpecific_tdd_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd384(pvalue->u.tdd384);
+         stat = asn1PD_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd768 */
+         pvalue->u.tdd768 = (E_AGCH_Information_r7_modeSpecific_tdd_tdd768*)rtxMemHeapAlloc(ctx, sizeof(E_AGCH_Information_r7_modeSpecific_tdd_tdd768));
+         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
+         asn1Init_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd768(pvalue->u.tdd768);
+         stat = asn1PD_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd768(ctx, pvalue->u.tdd768);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 2: /* tdd128 */
+         pvalue->u.tdd128 = (E_AGCH_Information_r7_modeSpecific_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(E_AGCH_Information_r7_modeSpecific_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd128(pvalue->u.tdd128);
+         stat = asn1PD_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Information_r7_modeSpecific(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r7_modeSpecific* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (E_AGCH_Information_r7_modeSpecific_fdd*)rtxMemHeapAllocZ(ctx, sizeof(E_AGCH_Information_r7_modeSpecific_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = asn1PD_UMTS_E_AGCH_Information_r7_modeSpecific_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (E_AGCH_Information_r7_modeSpecific_tdd*)rtxMemHeapAlloc(ctx, sizeof(E_AGCH_Information_r7_modeSpecific_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_E_AGCH_Information_r7_modeSpecific_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_E_AGCH_Information_r7_modeSpecific_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Information_r7(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* modeSpecific */
+   stat = asn1PD_UMTS_E_AGCH_Information_r7_modeSpecific(ctx, &pvalue->modeSpecific);
+   RT_CHECK(ctx, stat, 0, "modeSpecific", -1, "E-AGCH-Information-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_HICH_Info(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_HICH_Info* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* e-HICH-Information */
+         pvalue->u.e_HICH_Information = (E_HICH_Information*)rtxMemHeapAllocZ(ctx, sizeof(E_HICH_Information));
+         if (pvalue->u.e_HICH_Information == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e-HICH-Information", -1, 0);
+         stat = asn1PD_UMTS_E_HICH_Information(ctx, pvalue->u.e_HICH_Information);
+         RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, 0);
+         break;
+      case 1: /* releaseIndicator */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_RGCH_Info* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* e-RGCH-Information */
+         pvalue->u.e_RGCH_Information = (E_RGCH_Information*)rtxMemHeapAllocZ(ctx, sizeof(E_RGCH_Information));
+         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e-RGCH-Information", -1, 0);
+         stat = asn1PD_UMTS_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information);
+         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
+         break;
+      case 1: /* releaseIndicator */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo2_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* e-HICH-Info */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_HICH_Info(ctx, &pvalue->e_HICH_Info);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, 0);
+   }
+   /* e-RGCH-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_HICH_Information_TDD384_768_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, E_HICH_Information_TDD384_768_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         stat = pd_ConsUnsigned(ctx, &pvalue->u.tdd384, 0, 15);
+         RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode", "tdd384", -1, 0);
+         break;
+      case 1: /* tdd768 */
+         stat = pd_ConsUnsigned(ctx, &pvalue->u.tdd768, 0, 31);
+         RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode-VHCR", "tdd768", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_HICH_Information_TDD384_768_burst_Type(rtxContext* RT_RESTRICT ctx, E_HICH_Information_TDD384_768_burst_Type* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_HICH_Information_TDD384_768_midamble_Allocation_Mode(rtxContext* RT_RESTRICT ctx, E_HICH_Information_TDD384_768_midamble_Allocation_Mode* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_HICH_Information_TDD384_768(rtxContext* RT_RESTRICT ctx, E_HICH_Information_TDD384_768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* n-E-HICH */
+   stat = pd_ConsUInt8(ctx, &pvalue->n_E_HICH, 4, 44);
+   RT_CHECK(ctx, stat, 0, "n-E-HICH", -1, "E-HICH-Information-TDD384-768");
+   /* tS-Number */
+   stat = pd_ConsUInt8(ctx, &pvalue->tS_Number, 0, 14);
+   RT_CHECK(ctx, stat, 0, "tS-Number", -1, "E-HICH-Information-TDD384-768");
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_E_HICH_Information_TDD384_768_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "E-HICH-Information-TDD384-768");
+   /* burst-Type */
+   stat = pd_ConsUnsigned(ctx, &pvalue->burst_Type, 0, 1);
+   RT_CHECK(ctx, stat, 0, "burst-Type", -1, "E-HICH-Information-TDD384-768");
+   /* midamble-Allocation-Mode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->midamble_Allocation_Mode, 0, 1);
+   RT_CHECK(ctx, stat, 0, "midamble-Allocation-Mode", -1, "E-HICH-Information-TDD384-768");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd384_tdd768(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd384_tdd768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* e-HICH-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_E_HICH_Information_TDD384_768(ctx, &pvalue->e_HICH_Info);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* e-HICH-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_E_HICH_Information_TDD128(ctx, &pvalue->e_HICH_Info);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo2_tdd* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384-tdd768 */
+         pvalue->u.tdd384_tdd768 = (DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd384_tdd768*)rtxMemHeapAlloc(ctx, sizeof(DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd384_tdd768));
+         if (pvalue->u.tdd384_tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384-tdd768", -1, 0);
+         asn1Init_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd384_tdd768(pvalue->u.tdd384_tdd768);
+         stat = asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd384_tdd768(ctx, pvalue->u.tdd384_tdd768);
+         RT_CHECK(ctx, stat, 0, "tdd384-tdd768", -1, 0);
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd128(pvalue->u.tdd128);
+         stat = asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7_modeSpecificInfo2* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_InformationPerRL_r7_modeSpecificInfo2_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_InformationPerRL_r7_modeSpecificInfo2_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_InformationPerRL_r7_modeSpecificInfo2_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_InformationPerRL_r7_modeSpecificInfo2_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r7(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-r7");
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-InformationPerRL-r7");
+   /* dl-dpchInfo */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_r7_dl_dpchInfo(ctx, &pvalue->dl_dpchInfo);
+      RT_CHECK(ctx, stat, 0, "dl-dpchInfo", -1, "DL-InformationPerRL-r7");
+   }
+   /* e-AGCH-Information */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_E_AGCH_Information_r7(ctx, &pvalue->e_AGCH_Information);
+      RT_CHECK(ctx, stat, 0, "e-AGCH-Information", -1, "DL-InformationPerRL-r7");
+   }
+   /* modeSpecificInfo2 */
+   stat = asn1PD_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2(ctx, &pvalue->modeSpecificInfo2);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo2", -1, "DL-InformationPerRL-r7");
+   /* cell-id */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_CellIdentity(ctx, &pvalue->cell_id);
+      RT_CHECK(ctx, stat, 0, "cell-id", -1, "DL-InformationPerRL-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* primaryCPICH-Info */
+   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   /* servingHSDSCH-RL-indicator */
+   stat = rtxDecBitInline(ctx, &pvalue->servingHSDSCH_RL_indicator);
+   RT_CHECK(ctx, stat, 0, "servingHSDSCH-RL-indicator", -1, 0);
+   /* servingEDCH-RL-indicator */
+   stat = rtxDecBitInline(ctx, &pvalue->servingEDCH_RL_indicator);
+   RT_CHECK(ctx, stat, 0, "servingEDCH-RL-indicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_InformationPerRL_r8_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(DL_InformationPerRL_r8_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (PrimaryCCPCH_Info_r4*)rtxMemHeapAlloc(ctx, sizeof(PrimaryCCPCH_Info_r4));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_PrimaryCCPCH_Info_r4(pvalue->u.tdd);
+         stat = asn1PD_UMTS_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r8_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_dl_dpchInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* dl-DPCH-InfoPerRL */
+         pvalue->u.dl_DPCH_InfoPerRL = (DL_DPCH_InfoPerRL_r7*)rtxMemHeapAlloc(ctx, sizeof(DL_DPCH_InfoPerRL_r7));
+         if (pvalue->u.dl_DPCH_InfoPerRL == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-DPCH-InfoPerRL", -1, 0);
+         asn1Init_UMTS_DL_DPCH_InfoPerRL_r7(pvalue->u.dl_DPCH_InfoPerRL);
+         stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_r7(ctx, pvalue->u.dl_DPCH_InfoPerRL);
+         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, 0);
+         break;
+      case 1: /* dl-FDPCH-InfoPerRL */
+         pvalue->u.dl_FDPCH_InfoPerRL = (DL_FDPCH_InfoPerRL_r7*)rtxMemHeapAlloc(ctx, sizeof(DL_FDPCH_InfoPerRL_r7));
+         if (pvalue->u.dl_FDPCH_InfoPerRL == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dl-FDPCH-InfoPerRL", -1, 0);
+         asn1Init_UMTS_DL_FDPCH_InfoPerRL_r7(pvalue->u.dl_FDPCH_InfoPerRL);
+         stat = asn1PD_UMTS_DL_FDPCH_InfoPerRL_r7(ctx, pvalue->u.dl_FDPCH_InfoPerRL);
+         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoPerRL", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Information_r8_modeSpecific_fdd(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r8_modeSpecific_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* e-AGCH-ChannelisationCode */
+   stat = pd_ConsUInt8(ctx, &pvalue->e_AGCH_ChannelisationCode, 0, 255);
+   RT_CHECK(ctx, stat, "E-AGCH-ChannelisationCode", "e-AGCH-ChannelisationCode", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd384(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r8_modeSpecific_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* long-Term-Grant-Indicator */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = rtxDecBitInline(ctx, &pvalue->long_Term_Grant_Indicator);
+      RT_CHECK(ctx, stat, 0, "long-Term-Grant-Indicator", -1, 0);
+   }
+   /* length-of-TTRI-field */
+   stat = pd_ConsUInt8(ctx, &pvalue->length_of_TTRI_field, 1, 12);
+   RT_CHECK(ctx, stat, 0, "length-of-TTRI-field", -1, 0);
+   /* e-AGCH-Set-Config */
+   stat = asn1PD_UMTS_E_AGCH_Set_Config(ctx, &pvalue->e_AGCH_Set_Config);
+   RT_CHECK(ctx, stat, 0, "e-AGCH-Set-Config", -1, 0);
+   /* e-AGCH-BLER-Target */
+   stat = pd_ConsInt8(ctx, &pvalue->e_AGCH_BLER_Target, -63, 0);
+   RT_CHECK(ctx, stat, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd768(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r8_modeSpecific_tdd_tdd768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* long-Term-Grant-Indicator */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = rtxDecBitInline(ctx, &pvalue->long_Term_Grant_Indicator);
+      RT_CHECK(ctx, stat, 0, "long-Term-Grant-Indicator", -1, 0);
+   }
+   /* length-of-TTRI-field */
+   stat = pd_ConsUInt8(ctx, &pvalue->length_of_TTRI_field, 1, 12);
+   RT_CHECK(ctx, stat, 0, "length-of-TTRI-field", -1, 0);
+   /* e-AGCH-Set-Config */
+   stat = asn1PD_UMTS_E_AGCH_Set_Config_VHCR(ctx, &pvalue->e_AGCH_Set_Config);
+   RT_CHECK(ctx, stat, 0, "e-AGCH-Set-Config", -1, 0);
+   /* e-AGCH-BLER-Target */
+   stat = pd_ConsInt8(ctx, &pvalue->e_AGCH_BLER_Target, -63, 0);
+   RT_CHECK(ctx, stat, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd128(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r8_modeSpecific_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rdi-Indicator */
+   stat = rtxDecBitInline(ctx, &pvalue->rdi_Indicator);
+   RT_CHECK(ctx, stat, 0, "rdi-Indicator", -1, 0);
+   /* tpc-StepSize */
+   stat = pd_ConsUInt8(ctx, &pvalue->tpc_StepSize, 1, 3);
+   RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
+   /* e-AGCH-Set-Config */
+   stat = asn1PD_UMTS_E_AGCH_Set_Config_LCR(ctx, &pvalue->e_AGCH_Set_Config);
+   RT_CHECK(ctx, stat, 0, "e-AGCH-Set-Config", -1, 0);
+   /* e-AGCH-BLER-Target */
+   stat = pd_ConsInt8(ctx, &pvalue->e_AGCH_BLER_Target, -63, 0);
+   RT_CHECK(ctx, stat, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
+   /* e-AGCH-InactivityMonitorThreshold */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->e_AGCH_InactivityMonitorThreshold, 0, 15);
+      RT_CHECK(ctx, stat, "E-AGCH-InactivityMonitorThreshold-TDD128", "e-AGCH-InactivityMonitorThreshold", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Information_r8_modeSpecific_tdd(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r8_modeSpecific_tdd* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (E_AGCH_Information_r8_modeSpecific_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(E_AGCH_Information_r8_modeSpecific_tdd_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd384(pvalue->u.tdd384);
+         stat = asn1PD_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd768 */
+         pvalue->u.tdd768 = (E_AGCH_Information_r8_modeSpecific_tdd_tdd768*)rtxMemHeapAlloc(ctx, sizeof(E_AGCH_Information_r8_modeSpecific_tdd_tdd768));
+         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
+         asn1Init_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd768(pvalue->u.tdd768);
+         stat = asn1PD_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd768(ctx, pvalue->u.tdd768);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 2: /* tdd128 */
+         pvalue->u.tdd128 = (E_AGCH_Information_r8_modeSpecific_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(E_AGCH_Information_r8_modeSpecific_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd128(pvalue->u.tdd128);
+         stat = asn1PD_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Information_r8_modeSpecific(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r8_modeSpecific* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (E_AGCH_Information_r8_modeSpecific_fdd*)rtxMemHeapAllocZ(ctx, sizeof(E_AGCH_Information_r8_modeSpecific_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = asn1PD_UMTS_E_AGCH_Information_r8_modeSpecific_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (E_AGCH_Information_r8_modeSpecific_tdd*)rtxMemHeapAlloc(ctx, sizeof(E_AGCH_Information_r8_modeSpecific_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_E_AGCH_Information_r8_modeSpecific_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_E_AGCH_Information_r8_modeSpecific_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_AGCH_Information_r8(rtxContext* RT_RESTRICT ctx, E_AGCH_Information_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* modeSpecific */
+   stat = asn1PD_UMTS_E_AGCH_Information_r8_modeSpecific(ctx, &pvalue->modeSpecific);
+   RT_CHECK(ctx, stat, 0, "modeSpecific", -1, "E-AGCH-Information-r8");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_HICH_Info(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_HICH_Info* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* e-HICH-Information */
+         pvalue->u.e_HICH_Information = (E_HICH_Information*)rtxMemHeapAllocZ(ctx, sizeof(E_HICH_Information));
+         if (pvalue->u.e_HICH_Information == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e-HICH-Information", -1, 0);
+         stat = asn1PD_UMTS_E_HICH_Information(ctx, pvalue->u.e_HICH_Information);
+         RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, 0);
+         break;
+      case 1: /* releaseIndicator */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_RGCH_Info* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* e-RGCH-Information */
+         pvalue->u.e_RGCH_Information = (E_RGCH_Information*)rtxMemHeapAllocZ(ctx, sizeof(E_RGCH_Information));
+         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "e-RGCH-Information", -1, 0);
+         stat = asn1PD_UMTS_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information);
+         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
+         break;
+      case 1: /* releaseIndicator */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_fdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo2_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* e-HICH-Info */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_HICH_Info(ctx, &pvalue->e_HICH_Info);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, 0);
+   }
+   /* e-RGCH-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd384_tdd768(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd384_tdd768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* e-HICH-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_E_HICH_Information_TDD384_768(ctx, &pvalue->e_HICH_Info);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd128(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* e-HICH-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_E_HICH_Information_TDD128(ctx, &pvalue->e_HICH_Info);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo2_tdd* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384-tdd768 */
+         pvalue->u.tdd384_tdd768 = (DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd384_tdd768*)rtxMemHeapAlloc(ctx, sizeof(DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd384_tdd768));
+         if (pvalue->u.tdd384_tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384-tdd768", -1, 0);
+         asn1Init_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd384_tdd768(pvalue->u.tdd384_tdd768);
+         stat = asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd384_tdd768(ctx, pvalue->u.tdd384_tdd768);
+         RT_CHECK(ctx, stat, 0, "tdd384-tdd768", -1, 0);
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd128(pvalue->u.tdd128);
+         stat = asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8_modeSpecificInfo2* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (DL_InformationPerRL_r8_modeSpecificInfo2_fdd*)rtxMemHeapAlloc(ctx, sizeof(DL_InformationPerRL_r8_modeSpecificInfo2_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (DL_InformationPerRL_r8_modeSpecificInfo2_tdd*)rtxMemHeapAlloc(ctx, sizeof(DL_InformationPerRL_r8_modeSpecificInfo2_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_r8(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-r8");
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-InformationPerRL-r8");
+   /* dl-dpchInfo */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_r8_dl_dpchInfo(ctx, &pvalue->dl_dpchInfo);
+      RT_CHECK(ctx, stat, 0, "dl-dpchInfo", -1, "DL-InformationPerRL-r8");
+   }
+   /* e-AGCH-Information */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_E_AGCH_Information_r8(ctx, &pvalue->e_AGCH_Information);
+      RT_CHECK(ctx, stat, 0, "e-AGCH-Information", -1, "DL-InformationPerRL-r8");
+   }
+   /* modeSpecificInfo2 */
+   stat = asn1PD_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2(ctx, &pvalue->modeSpecificInfo2);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo2", -1, "DL-InformationPerRL-r8");
+   /* cell-id */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_CellIdentity(ctx, &pvalue->cell_id);
+      RT_CHECK(ctx, stat, 0, "cell-id", -1, "DL-InformationPerRL-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_List(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_InformationPerRL* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_InformationPerRL));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-InformationPerRL", (int32_t)i, "DL-InformationPerRL-List");
+      elem = (DL_InformationPerRL*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_InformationPerRL(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_DL_InformationPerRL(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL", (int32_t)i, "DL-InformationPerRL-List");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_List_r4(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List_r4* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-List-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_InformationPerRL_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_InformationPerRL_r4));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-InformationPerRL-r4", (int32_t)i, "DL-InformationPerRL-List-r4");
+      elem = (DL_InformationPerRL_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_InformationPerRL_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_DL_InformationPerRL_r4(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-r4", (int32_t)i, "DL-InformationPerRL-List-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_List_r5(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List_r5* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-List-r5");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_InformationPerRL_r5* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_InformationPerRL_r5));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-InformationPerRL-r5", (int32_t)i, "DL-InformationPerRL-List-r5");
+      elem = (DL_InformationPerRL_r5*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_InformationPerRL_r5(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_DL_InformationPerRL_r5(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-r5", (int32_t)i, "DL-InformationPerRL-List-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_List_r6(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List_r6* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-List-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_InformationPerRL_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_InformationPerRL_r6));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-InformationPerRL-r6", (int32_t)i, "DL-InformationPerRL-List-r6");
+      elem = (DL_InformationPerRL_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_InformationPerRL_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_DL_InformationPerRL_r6(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-r6", (int32_t)i, "DL-InformationPerRL-List-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_List_v6b0ext(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List_v6b0ext* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-List-v6b0ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_InformationPerRL_v6b0ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_InformationPerRL_v6b0ext));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-InformationPerRL-v6b0ext", (int32_t)i, "DL-InformationPerRL-List-v6b0ext");
+      elem = (DL_InformationPerRL_v6b0ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_InformationPerRL_v6b0ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_DL_InformationPerRL_v6b0ext(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-v6b0ext", (int32_t)i, "DL-InformationPerRL-List-v6b0ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_List_r5bis(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List_r5bis* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-List-r5bis");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_InformationPerRL_r5bis* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_InformationPerRL_r5bis));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-InformationPerRL-r5bis", (int32_t)i, "DL-InformationPerRL-List-r5bis");
+      elem = (DL_InformationPerRL_r5bis*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_InformationPerRL_r5bis(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_DL_InformationPerRL_r5bis(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-r5bis", (int32_t)i, "DL-InformationPerRL-List-r5bis");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_List_r7(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List_r7* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-List-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_InformationPerRL_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_InformationPerRL_r7));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-InformationPerRL-r7", (int32_t)i, "DL-InformationPerRL-List-r7");
+      elem = (DL_InformationPerRL_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_InformationPerRL_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_DL_InformationPerRL_r7(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-r7", (int32_t)i, "DL-InformationPerRL-List-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_List_r8(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_List_r8* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-List-r8");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_InformationPerRL_r8* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_InformationPerRL_r8));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-InformationPerRL-r8", (int32_t)i, "DL-InformationPerRL-List-r8");
+      elem = (DL_InformationPerRL_r8*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_InformationPerRL_r8(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_DL_InformationPerRL_r8(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-r8", (int32_t)i, "DL-InformationPerRL-List-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_PostFDD(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_PostFDD* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* primaryCPICH-Info */
+   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "DL-InformationPerRL-PostFDD");
+   /* dl-DPCH-InfoPerRL */
+   stat = asn1PD_UMTS_DL_DPCH_InfoPerRL_PostFDD(ctx, &pvalue->dl_DPCH_InfoPerRL);
+   RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, "DL-InformationPerRL-PostFDD");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_InformationPerRL_ListPostFDD(rtxContext* RT_RESTRICT ctx, DL_InformationPerRL_ListPostFDD* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-ListPostFDD");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DL_InformationPerRL_PostFDD* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DL_InformationPerRL_PostFDD));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DL-InformationPerRL-PostFDD", (int32_t)i, "DL-InformationPerRL-ListPostFDD");
+      elem = (DL_InformationPerRL_PostFDD*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_DL_InformationPerRL_PostFDD(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_DL_InformationPerRL_PostFDD(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-PostFDD", (int32_t)i, "DL-InformationPerRL-ListPostFDD");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCCPCH_InfoPost_syncCase_syncCase1(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_InfoPost_syncCase_syncCase1* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* timeslot */
+   stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 0, 14);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCCPCH_InfoPost_syncCase_syncCase2(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_InfoPost_syncCase_syncCase2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* timeslotSync2 */
+   stat = pd_ConsUInt8(ctx, &pvalue->timeslotSync2, 0, 6);
+   RT_CHECK(ctx, stat, "TimeslotSync2", "timeslotSync2", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PrimaryCCPCH_InfoPost_syncCase(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_InfoPost_syncCase* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* syncCase1 */
+         pvalue->u.syncCase1 = (PrimaryCCPCH_InfoPost_syncCase_syncCase1*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCCPCH_InfoPost_syncCase_syncCase1));
+         if (pvalue->u.syncCase1 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "syncCase1", -1, 0);
+         stat = asn1PD_UMTS_PrimaryCCPCH_InfoPost_syncCase_syncCase1(ctx, pvalue->u.syncCase1);
+         RT_CHECK(ctx, stat, 0, "syncCase1", -1, 0);
+         break;
+      case 1: /* syncCase2 */
+         pvalue->u.syncCase2 = (PrimaryCCPCH_InfoPost_syncCase_syncCase2*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCCPCH_InfoPost_syncCase_syncCase2));
+         if (pvalue->u.syncCase2 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "syncCase2", -1, 0);
+         stat = asn1PD_UMTS_PrimaryCCPCH_InfoPost_syncCase_syncCase2(ctx, pvalue->u.syncCase2);
+         RT_CHECK(ctx, stat, 0, "syncCase2", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }

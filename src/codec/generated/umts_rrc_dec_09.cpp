@@ -6,9021 +6,9018 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PD_UMTS_UL_TimingAdvanceControl_LCR_r4_enabled(rtxContext* ctx, UL_TimingAdvanceControl_LCR_r4_enabled* pvalue)
+int asn1PD_UMTS_ReferenceLocationGANSS(rtxContext* RT_RESTRICT ctx, ReferenceLocationGANSS* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ul-SynchronisationParameters */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ul-SynchronisationParameters");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_SynchronisationParameters_r4(ctx, &pvalue->ul_SynchronisationParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* synchronisationParameters */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "synchronisationParameters");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SynchronisationParameters_r4(ctx, &pvalue->synchronisationParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
+   /* ellipsoidPointAltitudeEllipsoide */
+   stat = asn1PD_UMTS_EllipsoidPointAltitudeEllipsoide(ctx, &pvalue->ellipsoidPointAltitudeEllipsoide);
+   RT_CHECK(ctx, stat, 0, "ellipsoidPointAltitudeEllipsoide", -1, "ReferenceLocationGANSS");
    return 0;
 }
 
-int asn1PD_UMTS_UL_TimingAdvanceControl_LCR_r4(rtxContext* ctx, UL_TimingAdvanceControl_LCR_r4* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "UL-TimingAdvanceControl-LCR-r4");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "disabled");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "enabled");
-         pvalue->u.enabled = (UL_TimingAdvanceControl_LCR_r4_enabled*)rtxMemHeapAlloc(ctx, sizeof(UL_TimingAdvanceControl_LCR_r4_enabled));
-         if (pvalue->u.enabled == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UL_TimingAdvanceControl_LCR_r4_enabled(pvalue->u.enabled);
-         stat = asn1PD_UMTS_UL_TimingAdvanceControl_LCR_r4_enabled(ctx, pvalue->u.enabled);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_DPCH_InfoPostTDD_LCR_r4(rtxContext* ctx, UL_DPCH_InfoPostTDD_LCR_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UL-DPCH-InfoPostTDD-LCR-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ul-DPCH-PowerControlInfo */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-PowerControlInfo");
-   stat = asn1PD_UMTS_UL_DPCH_PowerControlInfoPostTDD_LCR_r4(ctx, &pvalue->ul_DPCH_PowerControlInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-TimingAdvance */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ul-TimingAdvance");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_TimingAdvanceControl_LCR_r4(ctx, &pvalue->ul_TimingAdvance);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CCTrCH-TimeslotsCodes */
-   rtxCtxtPushElemName(ctx, "ul-CCTrCH-TimeslotsCodes");
-   stat = asn1PD_UMTS_UplinkTimeslotsCodes_LCR_r4(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_EDCH_Information_ext_tdd(rtxContext* ctx, UL_EDCH_Information_ext_tdd* pvalue)
+int asn1PD_UMTS_UE_Positioning_GANSS_IonosphericModel(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_IonosphericModel* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* non-ScheduledTransGrantInfo */
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-IonosphericModel");
+   /* alpha-zero-ionos */
+   RT_SET_SIZE(ctx, 12, 12);
+   stat = pd_BitString32(ctx, &pvalue->alpha_zero_ionos, 12, 12);
+   RT_CHECK(ctx, stat, 0, "alpha-zero-ionos", -1, "UE-Positioning-GANSS-IonosphericModel");
+   /* alpha-one-ionos */
+   RT_SET_SIZE(ctx, 12, 12);
+   stat = pd_BitString32(ctx, &pvalue->alpha_one_ionos, 12, 12);
+   RT_CHECK(ctx, stat, 0, "alpha-one-ionos", -1, "UE-Positioning-GANSS-IonosphericModel");
+   /* alpha-two-ionos */
+   RT_SET_SIZE(ctx, 12, 12);
+   stat = pd_BitString32(ctx, &pvalue->alpha_two_ionos, 12, 12);
+   RT_CHECK(ctx, stat, 0, "alpha-two-ionos", -1, "UE-Positioning-GANSS-IonosphericModel");
+   /* gANSS-storm-flags */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "non-ScheduledTransGrantInfo");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD_ext(ctx, &pvalue->non_ScheduledTransGrantInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_GANSS_Storm_Flag(ctx, &pvalue->gANSS_storm_flags);
+      RT_CHECK(ctx, stat, 0, "gANSS-storm-flags", -1, "UE-Positioning-GANSS-IonosphericModel");
    }
    return 0;
 }
 
-int asn1PD_UMTS_UL_EDCH_Information_ext(rtxContext* ctx, UL_EDCH_Information_ext* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "UL-EDCH-Information-ext");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (UL_EDCH_Information_ext_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_EDCH_Information_ext_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UL_EDCH_Information_ext_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_UL_EDCH_Information_ext_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_EDCH_Information_r6_mac_es_e_resetIndicator(rtxContext* ctx, UL_EDCH_Information_r6_mac_es_e_resetIndicator* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_EDCH_Information_r6(rtxContext* ctx, UL_EDCH_Information_r6* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UL-EDCH-Information-r6");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* mac-es-e-resetIndicator */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "mac-es-e-resetIndicator");
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->mac_es_e_resetIndicator = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-DPCCH-Info */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "e-DPCCH-Info");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_E_DPCCH_Info(ctx, &pvalue->e_DPCCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-DPDCH-Info */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "e-DPDCH-Info");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_E_DPDCH_Info(ctx, &pvalue->e_DPDCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* schedulingTransmConfiguration */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "schedulingTransmConfiguration");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_E_DPDCH_SchedulingTransmConfiguration(ctx, &pvalue->schedulingTransmConfiguration);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UL_EDCH_Information_r7_mac_es_e_resetIndicator(rtxContext* ctx, UL_EDCH_Information_r7_mac_es_e_resetIndicator* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UL_EDCH_Information_r7_modeSpecificInfo_fdd(rtxContext* ctx, UL_EDCH_Information_r7_modeSpecificInfo_fdd* pvalue)
+int asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AssistanceData* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* e-DPCCH-Info */
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-AssistanceData");
+   /* ue-positioning-GANSS-ReferenceTime */
    if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "e-DPCCH-Info");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_E_DPCCH_Info_r7(ctx, &pvalue->e_DPCCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UE_Positioning_GANSS_ReferenceTime(ctx, &pvalue->ue_positioning_GANSS_ReferenceTime);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-ReferenceTime", -1, "UE-Positioning-GANSS-AssistanceData");
    }
-   /* e-DPDCH-Info */
+   /* uePositioningGanssReferencePosition */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "e-DPDCH-Info");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_E_DPDCH_Info_r7(ctx, &pvalue->e_DPDCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_ReferenceLocationGANSS(ctx, &pvalue->uePositioningGanssReferencePosition);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssReferencePosition", -1, "UE-Positioning-GANSS-AssistanceData");
    }
-   /* schedulingTransmConfiguration */
+   /* uePositioningGanssIonosphericModel */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "schedulingTransmConfiguration");
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_E_DPDCH_SchedulingTransmConfiguration(ctx, &pvalue->schedulingTransmConfiguration);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UE_Positioning_GANSS_IonosphericModel(ctx, &pvalue->uePositioningGanssIonosphericModel);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssIonosphericModel", -1, "UE-Positioning-GANSS-AssistanceData");
    }
-   /* ul-16QAM-Settings */
+   /* ganssGenericDataList */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ul-16QAM-Settings");
       pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UL_16QAM_Settings(ctx, &pvalue->ul_16QAM_Settings);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_GANSSGenericDataList(ctx, &pvalue->ganssGenericDataList);
+      RT_CHECK(ctx, stat, 0, "ganssGenericDataList", -1, "UE-Positioning-GANSS-AssistanceData");
    }
    return 0;
 }
 
-int asn1PD_UMTS_UL_EDCH_Information_r7_modeSpecificInfo_tdd(rtxContext* ctx, UL_EDCH_Information_r7_modeSpecificInfo_tdd* pvalue)
+int asn1PD_UMTS_UE_Positioning_Measurement_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_Measurement_r7* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* e-RUCCH-Info */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "e-RUCCH-Info");
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Measurement-r7");
+   /* ue-positioning-ReportingQuantity */
+   stat = asn1PD_UMTS_UE_Positioning_ReportingQuantity_r7(ctx, &pvalue->ue_positioning_ReportingQuantity);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-ReportingQuantity", -1, "UE-Positioning-Measurement-r7");
+   /* measurementValidity */
+   if (present & ((uint32_t)1 << 3)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_E_RUCCH_Info(ctx, &pvalue->e_RUCCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "UE-Positioning-Measurement-r7");
    }
-   /* e-PUCH-Info */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "e-PUCH-Info");
+   /* reportCriteria */
+   stat = asn1PD_UMTS_UE_Positioning_ReportCriteria_r7(ctx, &pvalue->reportCriteria);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "UE-Positioning-Measurement-r7");
+   /* ue-positioning-OTDOA-AssistanceData */
+   if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_E_PUCH_Info(ctx, &pvalue->e_PUCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_r7(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData", -1, "UE-Positioning-Measurement-r7");
    }
-   /* non-ScheduledTransGrantInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "non-ScheduledTransGrantInfo");
+   /* ue-positioning-GPS-AssistanceData */
+   if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_Non_ScheduledTransGrantInfoTDD(ctx, &pvalue->non_ScheduledTransGrantInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UE_Positioning_GPS_AssistanceData_r7(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AssistanceData", -1, "UE-Positioning-Measurement-r7");
+   }
+   /* ue-positioning-GANSS-AssistanceData */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData(ctx, &pvalue->ue_positioning_GANSS_AssistanceData);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AssistanceData", -1, "UE-Positioning-Measurement-r7");
    }
    return 0;
 }
 
-int asn1PD_UMTS_UL_EDCH_Information_r7_modeSpecificInfo(rtxContext* ctx, UL_EDCH_Information_r7_modeSpecificInfo* pvalue)
+int asn1PD_UMTS_MeasurementType_r7(rtxContext* RT_RESTRICT ctx, MeasurementType_r7* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementType-r7");
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (UL_EDCH_Information_r7_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(UL_EDCH_Information_r7_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UL_EDCH_Information_r7_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_UL_EDCH_Information_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 0: /* intraFrequencyMeasurement */
+         pvalue->u.intraFrequencyMeasurement = (IntraFrequencyMeasurement_r7*)rtxMemHeapAlloc(ctx, sizeof(IntraFrequencyMeasurement_r7));
+         if (pvalue->u.intraFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r7");
+         asn1Init_UMTS_IntraFrequencyMeasurement_r7(pvalue->u.intraFrequencyMeasurement);
+         stat = asn1PD_UMTS_IntraFrequencyMeasurement_r7(ctx, pvalue->u.intraFrequencyMeasurement);
+         RT_CHECK(ctx, stat, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r7");
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (UL_EDCH_Information_r7_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UL_EDCH_Information_r7_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UL_EDCH_Information_r7_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_UL_EDCH_Information_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 1: /* interFrequencyMeasurement */
+         pvalue->u.interFrequencyMeasurement = (InterFrequencyMeasurement_r7*)rtxMemHeapAlloc(ctx, sizeof(InterFrequencyMeasurement_r7));
+         if (pvalue->u.interFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interFrequencyMeasurement", -1, "MeasurementType-r7");
+         asn1Init_UMTS_InterFrequencyMeasurement_r7(pvalue->u.interFrequencyMeasurement);
+         stat = asn1PD_UMTS_InterFrequencyMeasurement_r7(ctx, pvalue->u.interFrequencyMeasurement);
+         RT_CHECK(ctx, stat, 0, "interFrequencyMeasurement", -1, "MeasurementType-r7");
+         break;
+      case 2: /* interRATMeasurement */
+         pvalue->u.interRATMeasurement = (InterRATMeasurement_r6*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasurement_r6));
+         if (pvalue->u.interRATMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interRATMeasurement", -1, "MeasurementType-r7");
+         asn1Init_UMTS_InterRATMeasurement_r6(pvalue->u.interRATMeasurement);
+         stat = asn1PD_UMTS_InterRATMeasurement_r6(ctx, pvalue->u.interRATMeasurement);
+         RT_CHECK(ctx, stat, 0, "interRATMeasurement", -1, "MeasurementType-r7");
+         break;
+      case 3: /* up-Measurement */
+         pvalue->u.up_Measurement = (UE_Positioning_Measurement_r7*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_Measurement_r7));
+         if (pvalue->u.up_Measurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "up-Measurement", -1, "MeasurementType-r7");
+         asn1Init_UMTS_UE_Positioning_Measurement_r7(pvalue->u.up_Measurement);
+         stat = asn1PD_UMTS_UE_Positioning_Measurement_r7(ctx, pvalue->u.up_Measurement);
+         RT_CHECK(ctx, stat, 0, "up-Measurement", -1, "MeasurementType-r7");
+         break;
+      case 4: /* trafficVolumeMeasurement */
+         pvalue->u.trafficVolumeMeasurement = (TrafficVolumeMeasurement*)rtxMemHeapAlloc(ctx, sizeof(TrafficVolumeMeasurement));
+         if (pvalue->u.trafficVolumeMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r7");
+         asn1Init_UMTS_TrafficVolumeMeasurement(pvalue->u.trafficVolumeMeasurement);
+         stat = asn1PD_UMTS_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement);
+         RT_CHECK(ctx, stat, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r7");
+         break;
+      case 5: /* qualityMeasurement */
+         pvalue->u.qualityMeasurement = (QualityMeasurement*)rtxMemHeapAlloc(ctx, sizeof(QualityMeasurement));
+         if (pvalue->u.qualityMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "qualityMeasurement", -1, "MeasurementType-r7");
+         asn1Init_UMTS_QualityMeasurement(pvalue->u.qualityMeasurement);
+         stat = asn1PD_UMTS_QualityMeasurement(ctx, pvalue->u.qualityMeasurement);
+         RT_CHECK(ctx, stat, 0, "qualityMeasurement", -1, "MeasurementType-r7");
+         break;
+      case 6: /* ue-InternalMeasurement */
+         pvalue->u.ue_InternalMeasurement = (UE_InternalMeasurement_r4*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasurement_r4));
+         if (pvalue->u.ue_InternalMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ue-InternalMeasurement", -1, "MeasurementType-r7");
+         asn1Init_UMTS_UE_InternalMeasurement_r4(pvalue->u.ue_InternalMeasurement);
+         stat = asn1PD_UMTS_UE_InternalMeasurement_r4(ctx, pvalue->u.ue_InternalMeasurement);
+         RT_CHECK(ctx, stat, 0, "ue-InternalMeasurement", -1, "MeasurementType-r7");
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementType-r7");
    }
    return 0;
 }
 
-int asn1PD_UMTS_UL_EDCH_Information_r7(rtxContext* ctx, UL_EDCH_Information_r7* pvalue)
+int asn1PD_UMTS_MeasurementCommand_r7_modify(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r7_modify* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UL-EDCH-Information-r7");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* mac-es-e-resetIndicator */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementType */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mac-es-e-resetIndicator");
       pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->mac_es_e_resetIndicator = ui;
-      }
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_MeasurementType_r7(ctx, &pvalue->measurementType);
+      RT_CHECK(ctx, stat, 0, "measurementType", -1, 0);
    }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_UL_EDCH_Information_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_SatID(rtxContext* ctx, SatID* pvalue)
+int asn1PD_UMTS_MeasurementCommand_r7(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r7* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "SatID");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementCommand-r7");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* setup */
+         pvalue->u.setup = (MeasurementType_r7*)rtxMemHeapAlloc(ctx, sizeof(MeasurementType_r7));
+         if (pvalue->u.setup == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "setup", -1, "MeasurementCommand-r7");
+         asn1Init_UMTS_MeasurementType_r7(pvalue->u.setup);
+         stat = asn1PD_UMTS_MeasurementType_r7(ctx, pvalue->u.setup);
+         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommand-r7");
+         break;
+      case 1: /* modify */
+         pvalue->u.modify = (MeasurementCommand_r7_modify*)rtxMemHeapAlloc(ctx, sizeof(MeasurementCommand_r7_modify));
+         if (pvalue->u.modify == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "modify", -1, "MeasurementCommand-r7");
+         asn1Init_UMTS_MeasurementCommand_r7_modify(pvalue->u.modify);
+         stat = asn1PD_UMTS_MeasurementCommand_r7_modify(ctx, pvalue->u.modify);
+         RT_CHECK(ctx, stat, 0, "modify", -1, "MeasurementCommand-r7");
+         break;
+      case 2: /* release */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommand-r7");
+   }
    return 0;
 }
 
-int asn1PD_UMTS_DopplerUncertainty(rtxContext* ctx, DopplerUncertainty* pvalue)
+int asn1PD_UMTS_UE_Positioning_ReportingQuantity_r8_velocityRequested(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportingQuantity_r8_velocityRequested* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "DopplerUncertainty");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
    return 0;
 }
 
-int asn1PD_UMTS_ExtraDopplerInfo(rtxContext* ctx, ExtraDopplerInfo* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ExtraDopplerInfo");
-   /* doppler1stOrder */
-   rtxCtxtPushElemName(ctx, "doppler1stOrder");
-   stat = pd_ConsInt8(ctx, &pvalue->doppler1stOrder, -42, 21);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dopplerUncertainty */
-   rtxCtxtPushElemName(ctx, "dopplerUncertainty");
-   rtxCtxtPushTypeName(ctx, "DopplerUncertainty");
-   stat = pd_ConsUnsigned(ctx, &pvalue->dopplerUncertainty, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CodePhaseSearchWindow(rtxContext* ctx, CodePhaseSearchWindow* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "CodePhaseSearchWindow");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_AzimuthAndElevation(rtxContext* ctx, AzimuthAndElevation* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "AzimuthAndElevation");
-   /* azimuth */
-   rtxCtxtPushElemName(ctx, "azimuth");
-   stat = pd_ConsUInt8(ctx, &pvalue->azimuth, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* elevation */
-   rtxCtxtPushElemName(ctx, "elevation");
-   stat = pd_ConsUInt8(ctx, &pvalue->elevation, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_AcquisitionSatInfo(rtxContext* ctx, AcquisitionSatInfo* pvalue)
+int asn1PD_UMTS_UE_Positioning_ReportingQuantity_r8(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportingQuantity_r8* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "AcquisitionSatInfo");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* satID */
-   rtxCtxtPushElemName(ctx, "satID");
-   rtxCtxtPushTypeName(ctx, "SatID");
-   stat = pd_ConsUInt8(ctx, &pvalue->satID, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* doppler0thOrder */
-   rtxCtxtPushElemName(ctx, "doppler0thOrder");
-   stat = pd_ConsInt16(ctx, &pvalue->doppler0thOrder, -2048, 2047);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* extraDopplerInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "extraDopplerInfo");
+   stat = rtxDecBitsFast(ctx, &present, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-ReportingQuantity-r8");
+   /* methodType */
+   stat = pd_ConsUnsigned(ctx, &pvalue->methodType, 0, 3);
+   RT_CHECK(ctx, stat, "UE-Positioning-MethodType", "methodType", -1, "UE-Positioning-ReportingQuantity-r8");
+   /* positioningMethod */
+   stat = pd_ConsUnsigned(ctx, &pvalue->positioningMethod, 0, 3);
+   RT_CHECK(ctx, stat, "PositioningMethod", "positioningMethod", -1, "UE-Positioning-ReportingQuantity-r8");
+   /* horizontalAccuracy */
+   if (present & ((uint32_t)1 << 7)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ExtraDopplerInfo(ctx, &pvalue->extraDopplerInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UE_Positioning_Accuracy(ctx, &pvalue->horizontalAccuracy);
+      RT_CHECK(ctx, stat, 0, "horizontalAccuracy", -1, "UE-Positioning-ReportingQuantity-r8");
    }
-   /* codePhase */
-   rtxCtxtPushElemName(ctx, "codePhase");
-   stat = pd_ConsUInt16(ctx, &pvalue->codePhase, 0, 1022);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* integerCodePhase */
-   rtxCtxtPushElemName(ctx, "integerCodePhase");
-   stat = pd_ConsUInt8(ctx, &pvalue->integerCodePhase, 0, 19);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gps-BitNumber */
-   rtxCtxtPushElemName(ctx, "gps-BitNumber");
-   stat = pd_ConsUInt8(ctx, &pvalue->gps_BitNumber, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* codePhaseSearchWindow */
-   rtxCtxtPushElemName(ctx, "codePhaseSearchWindow");
-   rtxCtxtPushTypeName(ctx, "CodePhaseSearchWindow");
-   stat = pd_ConsUnsigned(ctx, &pvalue->codePhaseSearchWindow, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* azimuthAndElevation */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "azimuthAndElevation");
+   /* verticalAccuracy */
+   if (present & ((uint32_t)1 << 6)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_AzimuthAndElevation(ctx, &pvalue->azimuthAndElevation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UE_Positioning_Accuracy(ctx, &pvalue->verticalAccuracy);
+      RT_CHECK(ctx, stat, 0, "verticalAccuracy", -1, "UE-Positioning-ReportingQuantity-r8");
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_AcquisitionSatInfoList(rtxContext* ctx, AcquisitionSatInfoList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "AcquisitionSatInfoList");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      AcquisitionSatInfo* elem;
-      rtxCtxtPushArrayElemName(ctx, "AcquisitionSatInfo", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(AcquisitionSatInfo));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (AcquisitionSatInfo*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_AcquisitionSatInfo(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_AcquisitionSatInfo(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+   /* gps-TimingOfCellWanted */
+   stat = rtxDecBitInline(ctx, &pvalue->gps_TimingOfCellWanted);
+   RT_CHECK(ctx, stat, 0, "gps-TimingOfCellWanted", -1, "UE-Positioning-ReportingQuantity-r8");
+   /* additionalAssistanceDataReq */
+   stat = rtxDecBitInline(ctx, &pvalue->additionalAssistanceDataReq);
+   RT_CHECK(ctx, stat, 0, "additionalAssistanceDataReq", -1, "UE-Positioning-ReportingQuantity-r8");
+   /* environmentCharacterisation */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->environmentCharacterisation, 0, 3);
+      RT_CHECK(ctx, stat, "EnvironmentCharacterisation", "environmentCharacterisation", -1, "UE-Positioning-ReportingQuantity-r8");
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_AdditionalMeasurementID_List(rtxContext* ctx, AdditionalMeasurementID_List* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "AdditionalMeasurementID-List");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 2);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 3) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+   /* velocityRequested */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "velocityRequested", -1, "UE-Positioning-ReportingQuantity-r8");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "velocityRequested", -1, "UE-Positioning-ReportingQuantity-r8");
+         pvalue->velocityRequested = ui;
       }
    }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "MeasurementIdentity", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "MeasurementIdentity");
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 1, 16);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
+   /* gANSSPositioningMethods */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x10u;
+      RT_SET_SIZE(ctx, 16, 16);
+      stat = pd_BitString32(ctx, &pvalue->gANSSPositioningMethods, 16, 16);
+      RT_CHECK(ctx, stat, 0, "gANSSPositioningMethods", -1, "UE-Positioning-ReportingQuantity-r8");
    }
-   rtxCtxtPopTypeName(ctx);
+   /* gANSSTimingOfCellWanted */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x20u;
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pd_BitString32(ctx, &pvalue->gANSSTimingOfCellWanted, 8, 8);
+      RT_CHECK(ctx, stat, 0, "gANSSTimingOfCellWanted", -1, "UE-Positioning-ReportingQuantity-r8");
+   }
+   /* gANSSCarrierPhaseMeasurementRequested */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x40u;
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pd_BitString32(ctx, &pvalue->gANSSCarrierPhaseMeasurementRequested, 8, 8);
+      RT_CHECK(ctx, stat, 0, "gANSSCarrierPhaseMeasurementRequested", -1, "UE-Positioning-ReportingQuantity-r8");
+   }
+   /* gANSSMultiFreqMeasurementRequested */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x80u;
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pd_BitString32(ctx, &pvalue->gANSSMultiFreqMeasurementRequested, 8, 8);
+      RT_CHECK(ctx, stat, 0, "gANSSMultiFreqMeasurementRequested", -1, "UE-Positioning-ReportingQuantity-r8");
+   }
    return 0;
 }
 
-int asn1PD_UMTS_AlmanacSatInfo(rtxContext* ctx, AlmanacSatInfo* pvalue)
+int asn1PD_UMTS_UE_Positioning_GANSS_AddIonoModel(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AddIonoModel* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "AlmanacSatInfo");
    /* dataID */
-   rtxCtxtPushElemName(ctx, "dataID");
-   stat = pd_ConsUInt8(ctx, &pvalue->dataID, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* satID */
-   rtxCtxtPushElemName(ctx, "satID");
-   rtxCtxtPushTypeName(ctx, "SatID");
-   stat = pd_ConsUInt8(ctx, &pvalue->satID, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* e */
-   rtxCtxtPushElemName(ctx, "e");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->e, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* t-oa */
-   rtxCtxtPushElemName(ctx, "t-oa");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->t_oa, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* deltaI */
-   rtxCtxtPushElemName(ctx, "deltaI");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->deltaI, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* omegaDot */
-   rtxCtxtPushElemName(ctx, "omegaDot");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->omegaDot, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* satHealth */
-   rtxCtxtPushElemName(ctx, "satHealth");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->satHealth, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* a-Sqrt */
-   rtxCtxtPushElemName(ctx, "a-Sqrt");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->a_Sqrt, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* omega0 */
-   rtxCtxtPushElemName(ctx, "omega0");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->omega0, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* m0 */
-   rtxCtxtPushElemName(ctx, "m0");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->m0, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* omega */
-   rtxCtxtPushElemName(ctx, "omega");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->omega, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* af0 */
-   rtxCtxtPushElemName(ctx, "af0");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->af0, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* af1 */
-   rtxCtxtPushElemName(ctx, "af1");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->af1, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_AlmanacSatInfoList(rtxContext* ctx, AlmanacSatInfoList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "AlmanacSatInfoList");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      AlmanacSatInfo* elem;
-      rtxCtxtPushArrayElemName(ctx, "AlmanacSatInfo", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(AlmanacSatInfo));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (AlmanacSatInfo*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_AlmanacSatInfo(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GANSS_SAT_Info_Almanac_SBASecef(rtxContext* ctx, GANSS_SAT_Info_Almanac_SBASecef* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "GANSS-SAT-Info-Almanac-SBASecef");
-   /* sbasAlmDataID */
-   rtxCtxtPushElemName(ctx, "sbasAlmDataID");
    RT_SET_SIZE(ctx, 2, 2);
-   stat = pd_BitString32(ctx, &pvalue->sbasAlmDataID, 2, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* svID */
-   rtxCtxtPushElemName(ctx, "svID");
-   stat = pd_ConsUInt8(ctx, &pvalue->svID, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sbasAlmHealth */
-   rtxCtxtPushElemName(ctx, "sbasAlmHealth");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->sbasAlmHealth, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sbasAlmXg */
-   rtxCtxtPushElemName(ctx, "sbasAlmXg");
-   RT_SET_SIZE(ctx, 15, 15);
-   stat = pd_BitString32(ctx, &pvalue->sbasAlmXg, 15, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sbasAlmYg */
-   rtxCtxtPushElemName(ctx, "sbasAlmYg");
-   RT_SET_SIZE(ctx, 15, 15);
-   stat = pd_BitString32(ctx, &pvalue->sbasAlmYg, 15, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sbasAlmZg */
-   rtxCtxtPushElemName(ctx, "sbasAlmZg");
-   RT_SET_SIZE(ctx, 9, 9);
-   stat = pd_BitString32(ctx, &pvalue->sbasAlmZg, 9, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sbasAlmXgdot */
-   rtxCtxtPushElemName(ctx, "sbasAlmXgdot");
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pd_BitString32(ctx, &pvalue->sbasAlmXgdot, 3, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sbasAlmYgDot */
-   rtxCtxtPushElemName(ctx, "sbasAlmYgDot");
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pd_BitString32(ctx, &pvalue->sbasAlmYgDot, 3, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sbasAlmZgDot */
-   rtxCtxtPushElemName(ctx, "sbasAlmZgDot");
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pd_BitString32(ctx, &pvalue->sbasAlmZgDot, 4, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sbasAlmTo */
-   rtxCtxtPushElemName(ctx, "sbasAlmTo");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->sbasAlmTo, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   stat = pd_BitString32(ctx, &pvalue->dataID, 2, 2);
+   RT_CHECK(ctx, stat, 0, "dataID", -1, "UE-Positioning-GANSS-AddIonoModel");
+   /* alpha-beta-parameters */
+   stat = asn1PD_UMTS_UE_Positioning_GPS_IonosphericModel(ctx, &pvalue->alpha_beta_parameters);
+   RT_CHECK(ctx, stat, 0, "alpha-beta-parameters", -1, "UE-Positioning-GANSS-AddIonoModel");
    return 0;
 }
 
-int asn1PD_UMTS_GANSS_SAT_Info_Almanac_SBASecefList(rtxContext* ctx, GANSS_SAT_Info_Almanac_SBASecefList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "GANSS-SAT-Info-Almanac-SBASecefList");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GANSS_SAT_Info_Almanac_SBASecef* elem;
-      rtxCtxtPushArrayElemName(ctx, "GANSS-SAT-Info-Almanac-SBASecef", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSS_SAT_Info_Almanac_SBASecef));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (GANSS_SAT_Info_Almanac_SBASecef*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GANSS_SAT_Info_Almanac_SBASecef(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ALM_ECEFsbasAlmanacSet(rtxContext* ctx, ALM_ECEFsbasAlmanacSet* pvalue)
+int asn1PD_UMTS_UE_Positioning_GANSS_EarthOrientPara(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_EarthOrientPara* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ALM-ECEFsbasAlmanacSet");
-   /* sat-info-SBASecefList */
-   rtxCtxtPushElemName(ctx, "sat-info-SBASecefList");
-   stat = asn1PD_UMTS_GANSS_SAT_Info_Almanac_SBASecefList(ctx, &pvalue->sat_info_SBASecefList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   /* teop */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pd_BitString32(ctx, &pvalue->teop, 16, 16);
+   RT_CHECK(ctx, stat, 0, "teop", -1, "UE-Positioning-GANSS-EarthOrientPara");
+   /* pmX */
+   RT_SET_SIZE(ctx, 21, 21);
+   stat = pd_BitString32(ctx, &pvalue->pmX, 21, 21);
+   RT_CHECK(ctx, stat, 0, "pmX", -1, "UE-Positioning-GANSS-EarthOrientPara");
+   /* pmXdot */
+   RT_SET_SIZE(ctx, 15, 15);
+   stat = pd_BitString32(ctx, &pvalue->pmXdot, 15, 15);
+   RT_CHECK(ctx, stat, 0, "pmXdot", -1, "UE-Positioning-GANSS-EarthOrientPara");
+   /* pmY */
+   RT_SET_SIZE(ctx, 21, 21);
+   stat = pd_BitString32(ctx, &pvalue->pmY, 21, 21);
+   RT_CHECK(ctx, stat, 0, "pmY", -1, "UE-Positioning-GANSS-EarthOrientPara");
+   /* pmYdot */
+   RT_SET_SIZE(ctx, 15, 15);
+   stat = pd_BitString32(ctx, &pvalue->pmYdot, 15, 15);
+   RT_CHECK(ctx, stat, 0, "pmYdot", -1, "UE-Positioning-GANSS-EarthOrientPara");
+   /* deltaUT1 */
+   RT_SET_SIZE(ctx, 31, 31);
+   stat = pd_BitString32(ctx, &pvalue->deltaUT1, 31, 31);
+   RT_CHECK(ctx, stat, 0, "deltaUT1", -1, "UE-Positioning-GANSS-EarthOrientPara");
+   /* deltaUT1dot */
+   RT_SET_SIZE(ctx, 19, 19);
+   stat = pd_BitString32(ctx, &pvalue->deltaUT1dot, 19, 19);
+   RT_CHECK(ctx, stat, 0, "deltaUT1dot", -1, "UE-Positioning-GANSS-EarthOrientPara");
    return 0;
 }
 
-int asn1PD_UMTS_GANSS_SAT_Info_Almanac_GLOkp(rtxContext* ctx, GANSS_SAT_Info_Almanac_GLOkp* pvalue)
+int asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData_r8(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AssistanceData_r8* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "GANSS-SAT-Info-Almanac-GLOkp");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* gloAlmNA */
-   rtxCtxtPushElemName(ctx, "gloAlmNA");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->gloAlmNA, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloAlmnA */
-   rtxCtxtPushElemName(ctx, "gloAlmnA");
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pd_BitString32(ctx, &pvalue->gloAlmnA, 5, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloAlmHA */
-   rtxCtxtPushElemName(ctx, "gloAlmHA");
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pd_BitString32(ctx, &pvalue->gloAlmHA, 5, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloAlmLambdaA */
-   rtxCtxtPushElemName(ctx, "gloAlmLambdaA");
-   RT_SET_SIZE(ctx, 21, 21);
-   stat = pd_BitString32(ctx, &pvalue->gloAlmLambdaA, 21, 21);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloAlmTlambdaA */
-   rtxCtxtPushElemName(ctx, "gloAlmTlambdaA");
-   RT_SET_SIZE(ctx, 21, 21);
-   stat = pd_BitString32(ctx, &pvalue->gloAlmTlambdaA, 21, 21);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloAlmDeltaIA */
-   rtxCtxtPushElemName(ctx, "gloAlmDeltaIA");
-   RT_SET_SIZE(ctx, 18, 18);
-   stat = pd_BitString32(ctx, &pvalue->gloAlmDeltaIA, 18, 18);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloAkmDeltaTA */
-   rtxCtxtPushElemName(ctx, "gloAkmDeltaTA");
-   RT_SET_SIZE(ctx, 22, 22);
-   stat = pd_BitString32(ctx, &pvalue->gloAkmDeltaTA, 22, 22);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloAlmDeltaTdotA */
-   rtxCtxtPushElemName(ctx, "gloAlmDeltaTdotA");
-   RT_SET_SIZE(ctx, 7, 7);
-   stat = pd_BitString32(ctx, &pvalue->gloAlmDeltaTdotA, 7, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloAlmEpsilonA */
-   rtxCtxtPushElemName(ctx, "gloAlmEpsilonA");
-   RT_SET_SIZE(ctx, 15, 15);
-   stat = pd_BitString32(ctx, &pvalue->gloAlmEpsilonA, 15, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloAlmOmegaA */
-   rtxCtxtPushElemName(ctx, "gloAlmOmegaA");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->gloAlmOmegaA, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloAlmTauA */
-   rtxCtxtPushElemName(ctx, "gloAlmTauA");
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pd_BitString32(ctx, &pvalue->gloAlmTauA, 10, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloAlmCA */
-   rtxCtxtPushElemName(ctx, "gloAlmCA");
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pd_BitString32(ctx, &pvalue->gloAlmCA, 1, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloAlmMA */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "gloAlmMA");
+   stat = rtxDecBitsFast(ctx, &present, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-AssistanceData-r8");
+   /* ue-positioning-GANSS-ReferenceTime */
+   if (present & ((uint32_t)1 << 5)) {
       pvalue->m |= 0x1u;
-      RT_SET_SIZE(ctx, 2, 2);
-      stat = pd_BitString32(ctx, &pvalue->gloAlmMA, 2, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UE_Positioning_GANSS_ReferenceTime(ctx, &pvalue->ue_positioning_GANSS_ReferenceTime);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-ReferenceTime", -1, "UE-Positioning-GANSS-AssistanceData-r8");
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GANSS_SAT_Info_Almanac_GLOkpList(rtxContext* ctx, GANSS_SAT_Info_Almanac_GLOkpList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "GANSS-SAT-Info-Almanac-GLOkpList");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GANSS_SAT_Info_Almanac_GLOkp* elem;
-      rtxCtxtPushArrayElemName(ctx, "GANSS-SAT-Info-Almanac-GLOkp", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSS_SAT_Info_Almanac_GLOkp));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (GANSS_SAT_Info_Almanac_GLOkp*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_GANSS_SAT_Info_Almanac_GLOkp(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GANSS_SAT_Info_Almanac_GLOkp(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+   /* uePositioningGanssReferencePosition */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_ReferenceLocationGANSS(ctx, &pvalue->uePositioningGanssReferencePosition);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssReferencePosition", -1, "UE-Positioning-GANSS-AssistanceData-r8");
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ALM_GlonassAlmanacSet(rtxContext* ctx, ALM_GlonassAlmanacSet* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ALM-GlonassAlmanacSet");
-   /* sat-info-GLOkpList */
-   rtxCtxtPushElemName(ctx, "sat-info-GLOkpList");
-   stat = asn1PD_UMTS_GANSS_SAT_Info_Almanac_GLOkpList(ctx, &pvalue->sat_info_GLOkpList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GANSS_SAT_Info_Almanac_Kp(rtxContext* ctx, GANSS_SAT_Info_Almanac_Kp* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "GANSS-SAT-Info-Almanac-Kp");
-   /* svId */
-   rtxCtxtPushElemName(ctx, "svId");
-   stat = pd_ConsUInt8(ctx, &pvalue->svId, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganss-alm-e */
-   rtxCtxtPushElemName(ctx, "ganss-alm-e");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->ganss_alm_e, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganss-delta-I-alm */
-   rtxCtxtPushElemName(ctx, "ganss-delta-I-alm");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->ganss_delta_I_alm, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganss-omegadot-alm */
-   rtxCtxtPushElemName(ctx, "ganss-omegadot-alm");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->ganss_omegadot_alm, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganss-svhealth-alm */
-   rtxCtxtPushElemName(ctx, "ganss-svhealth-alm");
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pd_BitString32(ctx, &pvalue->ganss_svhealth_alm, 4, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganss-delta-a-sqrt-alm */
-   rtxCtxtPushElemName(ctx, "ganss-delta-a-sqrt-alm");
-   RT_SET_SIZE(ctx, 17, 17);
-   stat = pd_BitString32(ctx, &pvalue->ganss_delta_a_sqrt_alm, 17, 17);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganss-omegazero-alm */
-   rtxCtxtPushElemName(ctx, "ganss-omegazero-alm");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->ganss_omegazero_alm, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganss-m-zero-alm */
-   rtxCtxtPushElemName(ctx, "ganss-m-zero-alm");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->ganss_m_zero_alm, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganss-omega-alm */
-   rtxCtxtPushElemName(ctx, "ganss-omega-alm");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->ganss_omega_alm, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganss-af-zero-alm */
-   rtxCtxtPushElemName(ctx, "ganss-af-zero-alm");
-   RT_SET_SIZE(ctx, 14, 14);
-   stat = pd_BitString32(ctx, &pvalue->ganss_af_zero_alm, 14, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganss-af-one-alm */
-   rtxCtxtPushElemName(ctx, "ganss-af-one-alm");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->ganss_af_one_alm, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GANSS_SAT_Info_Almanac_KpList(rtxContext* ctx, GANSS_SAT_Info_Almanac_KpList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "GANSS-SAT-Info-Almanac-KpList");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GANSS_SAT_Info_Almanac_Kp* elem;
-      rtxCtxtPushArrayElemName(ctx, "GANSS-SAT-Info-Almanac-Kp", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSS_SAT_Info_Almanac_Kp));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (GANSS_SAT_Info_Almanac_Kp*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GANSS_SAT_Info_Almanac_Kp(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+   /* uePositioningGanssIonosphericModel */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_UE_Positioning_GANSS_IonosphericModel(ctx, &pvalue->uePositioningGanssIonosphericModel);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssIonosphericModel", -1, "UE-Positioning-GANSS-AssistanceData-r8");
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ALM_keplerianParameters(rtxContext* ctx, ALM_keplerianParameters* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ALM-keplerianParameters");
-   /* t-oa */
-   rtxCtxtPushElemName(ctx, "t-oa");
-   stat = pd_ConsUInt8(ctx, &pvalue->t_oa, 0, 147);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* iod-a */
-   rtxCtxtPushElemName(ctx, "iod-a");
-   stat = pd_ConsUInt8(ctx, &pvalue->iod_a, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sat-info-kpList */
-   rtxCtxtPushElemName(ctx, "sat-info-kpList");
-   stat = asn1PD_UMTS_GANSS_SAT_Info_Almanac_KpList(ctx, &pvalue->sat_info_kpList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GANSS_SAT_Info_Almanac_MIDIkp(rtxContext* ctx, GANSS_SAT_Info_Almanac_MIDIkp* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "GANSS-SAT-Info-Almanac-MIDIkp");
-   /* svID */
-   rtxCtxtPushElemName(ctx, "svID");
-   stat = pd_ConsUInt8(ctx, &pvalue->svID, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midiAlmE */
-   rtxCtxtPushElemName(ctx, "midiAlmE");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->midiAlmE, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midiAlmDeltaI */
-   rtxCtxtPushElemName(ctx, "midiAlmDeltaI");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->midiAlmDeltaI, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midiAlmOmegaDot */
-   rtxCtxtPushElemName(ctx, "midiAlmOmegaDot");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->midiAlmOmegaDot, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midiAlmSqrtA */
-   rtxCtxtPushElemName(ctx, "midiAlmSqrtA");
-   RT_SET_SIZE(ctx, 17, 17);
-   stat = pd_BitString32(ctx, &pvalue->midiAlmSqrtA, 17, 17);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midiAlmOmega0 */
-   rtxCtxtPushElemName(ctx, "midiAlmOmega0");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->midiAlmOmega0, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midiAlmOmega */
-   rtxCtxtPushElemName(ctx, "midiAlmOmega");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->midiAlmOmega, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midiAlmMo */
-   rtxCtxtPushElemName(ctx, "midiAlmMo");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->midiAlmMo, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midiAlmaf0 */
-   rtxCtxtPushElemName(ctx, "midiAlmaf0");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->midiAlmaf0, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midiAlmaf1 */
-   rtxCtxtPushElemName(ctx, "midiAlmaf1");
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pd_BitString32(ctx, &pvalue->midiAlmaf1, 10, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midiAlmL1Health */
-   rtxCtxtPushElemName(ctx, "midiAlmL1Health");
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pd_BitString32(ctx, &pvalue->midiAlmL1Health, 1, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midiAlmL2Health */
-   rtxCtxtPushElemName(ctx, "midiAlmL2Health");
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pd_BitString32(ctx, &pvalue->midiAlmL2Health, 1, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midiAlmL5Health */
-   rtxCtxtPushElemName(ctx, "midiAlmL5Health");
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pd_BitString32(ctx, &pvalue->midiAlmL5Health, 1, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GANSS_SAT_Info_Almanac_MIDIkpList(rtxContext* ctx, GANSS_SAT_Info_Almanac_MIDIkpList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "GANSS-SAT-Info-Almanac-MIDIkpList");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GANSS_SAT_Info_Almanac_MIDIkp* elem;
-      rtxCtxtPushArrayElemName(ctx, "GANSS-SAT-Info-Almanac-MIDIkp", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSS_SAT_Info_Almanac_MIDIkp));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (GANSS_SAT_Info_Almanac_MIDIkp*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GANSS_SAT_Info_Almanac_MIDIkp(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+   /* uePositioningGanssAddIonoModel */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_UE_Positioning_GANSS_AddIonoModel(ctx, &pvalue->uePositioningGanssAddIonoModel);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssAddIonoModel", -1, "UE-Positioning-GANSS-AssistanceData-r8");
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ALM_MidiAlmanacSet(rtxContext* ctx, ALM_MidiAlmanacSet* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ALM-MidiAlmanacSet");
-   /* t-oa */
-   rtxCtxtPushElemName(ctx, "t-oa");
-   stat = pd_ConsUInt8(ctx, &pvalue->t_oa, 0, 147);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sat-info-MIDIkpList */
-   rtxCtxtPushElemName(ctx, "sat-info-MIDIkpList");
-   stat = asn1PD_UMTS_GANSS_SAT_Info_Almanac_MIDIkpList(ctx, &pvalue->sat_info_MIDIkpList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GANSS_SAT_Info_Almanac_NAVkp(rtxContext* ctx, GANSS_SAT_Info_Almanac_NAVkp* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "GANSS-SAT-Info-Almanac-NAVkp");
-   /* svID */
-   rtxCtxtPushElemName(ctx, "svID");
-   stat = pd_ConsUInt8(ctx, &pvalue->svID, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navAlmE */
-   rtxCtxtPushElemName(ctx, "navAlmE");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->navAlmE, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navAlmDeltaI */
-   rtxCtxtPushElemName(ctx, "navAlmDeltaI");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->navAlmDeltaI, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navAlmOMEGADOT */
-   rtxCtxtPushElemName(ctx, "navAlmOMEGADOT");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->navAlmOMEGADOT, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navAlmSVHealth */
-   rtxCtxtPushElemName(ctx, "navAlmSVHealth");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->navAlmSVHealth, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navAlmSqrtA */
-   rtxCtxtPushElemName(ctx, "navAlmSqrtA");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->navAlmSqrtA, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navAlmOMEGAo */
-   rtxCtxtPushElemName(ctx, "navAlmOMEGAo");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->navAlmOMEGAo, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navAlmOmega */
-   rtxCtxtPushElemName(ctx, "navAlmOmega");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->navAlmOmega, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navAlmMo */
-   rtxCtxtPushElemName(ctx, "navAlmMo");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->navAlmMo, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navAlmaf0 */
-   rtxCtxtPushElemName(ctx, "navAlmaf0");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->navAlmaf0, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navAlmaf1 */
-   rtxCtxtPushElemName(ctx, "navAlmaf1");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->navAlmaf1, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GANSS_SAT_Info_Almanac_NAVkpList(rtxContext* ctx, GANSS_SAT_Info_Almanac_NAVkpList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "GANSS-SAT-Info-Almanac-NAVkpList");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GANSS_SAT_Info_Almanac_NAVkp* elem;
-      rtxCtxtPushArrayElemName(ctx, "GANSS-SAT-Info-Almanac-NAVkp", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSS_SAT_Info_Almanac_NAVkp));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (GANSS_SAT_Info_Almanac_NAVkp*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GANSS_SAT_Info_Almanac_NAVkp(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+   /* uePositioningGanssEarthOrientationPara */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_UE_Positioning_GANSS_EarthOrientPara(ctx, &pvalue->uePositioningGanssEarthOrientationPara);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssEarthOrientationPara", -1, "UE-Positioning-GANSS-AssistanceData-r8");
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ALM_NAVKeplerianSet(rtxContext* ctx, ALM_NAVKeplerianSet* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ALM-NAVKeplerianSet");
-   /* t-oa */
-   rtxCtxtPushElemName(ctx, "t-oa");
-   stat = pd_ConsUInt8(ctx, &pvalue->t_oa, 0, 147);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sat-info-NAVkpList */
-   rtxCtxtPushElemName(ctx, "sat-info-NAVkpList");
-   stat = asn1PD_UMTS_GANSS_SAT_Info_Almanac_NAVkpList(ctx, &pvalue->sat_info_NAVkpList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GANSS_SAT_Info_Almanac_REDkp(rtxContext* ctx, GANSS_SAT_Info_Almanac_REDkp* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "GANSS-SAT-Info-Almanac-REDkp");
-   /* svID */
-   rtxCtxtPushElemName(ctx, "svID");
-   stat = pd_ConsUInt8(ctx, &pvalue->svID, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* redAlmDeltaA */
-   rtxCtxtPushElemName(ctx, "redAlmDeltaA");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->redAlmDeltaA, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* redAlmOmega0 */
-   rtxCtxtPushElemName(ctx, "redAlmOmega0");
-   RT_SET_SIZE(ctx, 7, 7);
-   stat = pd_BitString32(ctx, &pvalue->redAlmOmega0, 7, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* redAlmPhi0 */
-   rtxCtxtPushElemName(ctx, "redAlmPhi0");
-   RT_SET_SIZE(ctx, 7, 7);
-   stat = pd_BitString32(ctx, &pvalue->redAlmPhi0, 7, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* redAlmL1Health */
-   rtxCtxtPushElemName(ctx, "redAlmL1Health");
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pd_BitString32(ctx, &pvalue->redAlmL1Health, 1, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* redAlmL2Health */
-   rtxCtxtPushElemName(ctx, "redAlmL2Health");
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pd_BitString32(ctx, &pvalue->redAlmL2Health, 1, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* redAlmL5Health */
-   rtxCtxtPushElemName(ctx, "redAlmL5Health");
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pd_BitString32(ctx, &pvalue->redAlmL5Health, 1, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GANSS_SAT_Info_Almanac_REDkpList(rtxContext* ctx, GANSS_SAT_Info_Almanac_REDkpList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "GANSS-SAT-Info-Almanac-REDkpList");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GANSS_SAT_Info_Almanac_REDkp* elem;
-      rtxCtxtPushArrayElemName(ctx, "GANSS-SAT-Info-Almanac-REDkp", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSS_SAT_Info_Almanac_REDkp));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (GANSS_SAT_Info_Almanac_REDkp*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GANSS_SAT_Info_Almanac_REDkp(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+   /* ganssGenericDataList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_GANSSGenericDataList_r8(ctx, &pvalue->ganssGenericDataList);
+      RT_CHECK(ctx, stat, 0, "ganssGenericDataList", -1, "UE-Positioning-GANSS-AssistanceData-r8");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_ALM_ReducedKeplerianSet(rtxContext* ctx, ALM_ReducedKeplerianSet* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ALM-ReducedKeplerianSet");
-   /* t-oa */
-   rtxCtxtPushElemName(ctx, "t-oa");
-   stat = pd_ConsUInt8(ctx, &pvalue->t_oa, 0, 147);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sat-info-REDkpList */
-   rtxCtxtPushElemName(ctx, "sat-info-REDkpList");
-   stat = asn1PD_UMTS_GANSS_SAT_Info_Almanac_REDkpList(ctx, &pvalue->sat_info_REDkpList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_AuxInfoGANSS_ID1_element(rtxContext* ctx, AuxInfoGANSS_ID1_element* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "AuxInfoGANSS-ID1-element");
-   /* svID */
-   rtxCtxtPushElemName(ctx, "svID");
-   stat = pd_ConsUInt8(ctx, &pvalue->svID, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* signalsAvailable */
-   rtxCtxtPushElemName(ctx, "signalsAvailable");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->signalsAvailable, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_AuxInfoGANSS_ID1(rtxContext* ctx, AuxInfoGANSS_ID1* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "AuxInfoGANSS-ID1");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      AuxInfoGANSS_ID1_element* elem;
-      rtxCtxtPushArrayElemName(ctx, "AuxInfoGANSS-ID1-element", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(AuxInfoGANSS_ID1_element));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (AuxInfoGANSS_ID1_element*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_AuxInfoGANSS_ID1_element(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_AuxInfoGANSS_ID3_element(rtxContext* ctx, AuxInfoGANSS_ID3_element* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "AuxInfoGANSS-ID3-element");
-   /* svID */
-   rtxCtxtPushElemName(ctx, "svID");
-   stat = pd_ConsUInt8(ctx, &pvalue->svID, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* signalsAvailable */
-   rtxCtxtPushElemName(ctx, "signalsAvailable");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->signalsAvailable, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* channelNumber */
-   rtxCtxtPushElemName(ctx, "channelNumber");
-   stat = pd_ConsInt8(ctx, &pvalue->channelNumber, -7, 13);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_AuxInfoGANSS_ID3(rtxContext* ctx, AuxInfoGANSS_ID3* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "AuxInfoGANSS-ID3");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      AuxInfoGANSS_ID3_element* elem;
-      rtxCtxtPushArrayElemName(ctx, "AuxInfoGANSS-ID3-element", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(AuxInfoGANSS_ID3_element));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (AuxInfoGANSS_ID3_element*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_AuxInfoGANSS_ID3_element(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_AverageRLC_BufferPayload(rtxContext* ctx, AverageRLC_BufferPayload* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "AverageRLC-BufferPayload");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_BadSatList_element(rtxContext* ctx, BadSatList_element* pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 63);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_BadSatList(rtxContext* ctx, BadSatList* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "BadSatList");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 15) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 63);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DL_TransportChannelBLER(rtxContext* ctx, DL_TransportChannelBLER* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "DL-TransportChannelBLER");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_BLER_MeasurementResults(rtxContext* ctx, BLER_MeasurementResults* pvalue)
+int asn1PD_UMTS_UE_Positioning_Measurement_r8(rtxContext* RT_RESTRICT ctx, UE_Positioning_Measurement_r8* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "BLER-MeasurementResults");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* transportChannelIdentity */
-   rtxCtxtPushElemName(ctx, "transportChannelIdentity");
-   rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-   stat = pd_ConsUInt8(ctx, &pvalue->transportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dl-TransportChannelBLER */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-TransportChannelBLER");
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Measurement-r8");
+   /* ue-positioning-ReportingQuantity */
+   stat = asn1PD_UMTS_UE_Positioning_ReportingQuantity_r8(ctx, &pvalue->ue_positioning_ReportingQuantity);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-ReportingQuantity", -1, "UE-Positioning-Measurement-r8");
+   /* measurementValidity */
+   if (present & ((uint32_t)1 << 3)) {
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "DL-TransportChannelBLER");
-      stat = pd_ConsUInt8(ctx, &pvalue->dl_TransportChannelBLER, 0, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "UE-Positioning-Measurement-r8");
    }
-   rtxCtxtPopTypeName(ctx);
+   /* reportCriteria */
+   stat = asn1PD_UMTS_UE_Positioning_ReportCriteria_r7(ctx, &pvalue->reportCriteria);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "UE-Positioning-Measurement-r8");
+   /* ue-positioning-OTDOA-AssistanceData */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_r7(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData", -1, "UE-Positioning-Measurement-r8");
+   }
+   /* ue-positioning-GPS-AssistanceData */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_UE_Positioning_GPS_AssistanceData_r7(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AssistanceData", -1, "UE-Positioning-Measurement-r8");
+   }
+   /* ue-positioning-GANSS-AssistanceData */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData_r8(ctx, &pvalue->ue_positioning_GANSS_AssistanceData);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AssistanceData", -1, "UE-Positioning-Measurement-r8");
+   }
    return 0;
 }
 
-int asn1PD_UMTS_BLER_MeasurementResultsList(rtxContext* ctx, BLER_MeasurementResultsList* pvalue)
+int asn1PD_UMTS_MeasurementType_r8(rtxContext* RT_RESTRICT ctx, MeasurementType_r8* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementType-r8");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* intraFrequencyMeasurement */
+         pvalue->u.intraFrequencyMeasurement = (IntraFrequencyMeasurement_r7*)rtxMemHeapAlloc(ctx, sizeof(IntraFrequencyMeasurement_r7));
+         if (pvalue->u.intraFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r8");
+         asn1Init_UMTS_IntraFrequencyMeasurement_r7(pvalue->u.intraFrequencyMeasurement);
+         stat = asn1PD_UMTS_IntraFrequencyMeasurement_r7(ctx, pvalue->u.intraFrequencyMeasurement);
+         RT_CHECK(ctx, stat, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r8");
+         break;
+      case 1: /* interFrequencyMeasurement */
+         pvalue->u.interFrequencyMeasurement = (InterFrequencyMeasurement_r8*)rtxMemHeapAlloc(ctx, sizeof(InterFrequencyMeasurement_r8));
+         if (pvalue->u.interFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interFrequencyMeasurement", -1, "MeasurementType-r8");
+         asn1Init_UMTS_InterFrequencyMeasurement_r8(pvalue->u.interFrequencyMeasurement);
+         stat = asn1PD_UMTS_InterFrequencyMeasurement_r8(ctx, pvalue->u.interFrequencyMeasurement);
+         RT_CHECK(ctx, stat, 0, "interFrequencyMeasurement", -1, "MeasurementType-r8");
+         break;
+      case 2: /* interRATMeasurement */
+         pvalue->u.interRATMeasurement = (InterRATMeasurement_r8*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasurement_r8));
+         if (pvalue->u.interRATMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interRATMeasurement", -1, "MeasurementType-r8");
+         asn1Init_UMTS_InterRATMeasurement_r8(pvalue->u.interRATMeasurement);
+         stat = asn1PD_UMTS_InterRATMeasurement_r8(ctx, pvalue->u.interRATMeasurement);
+         RT_CHECK(ctx, stat, 0, "interRATMeasurement", -1, "MeasurementType-r8");
+         break;
+      case 3: /* up-Measurement */
+         pvalue->u.up_Measurement = (UE_Positioning_Measurement_r8*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_Measurement_r8));
+         if (pvalue->u.up_Measurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "up-Measurement", -1, "MeasurementType-r8");
+         asn1Init_UMTS_UE_Positioning_Measurement_r8(pvalue->u.up_Measurement);
+         stat = asn1PD_UMTS_UE_Positioning_Measurement_r8(ctx, pvalue->u.up_Measurement);
+         RT_CHECK(ctx, stat, 0, "up-Measurement", -1, "MeasurementType-r8");
+         break;
+      case 4: /* trafficVolumeMeasurement */
+         pvalue->u.trafficVolumeMeasurement = (TrafficVolumeMeasurement*)rtxMemHeapAlloc(ctx, sizeof(TrafficVolumeMeasurement));
+         if (pvalue->u.trafficVolumeMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r8");
+         asn1Init_UMTS_TrafficVolumeMeasurement(pvalue->u.trafficVolumeMeasurement);
+         stat = asn1PD_UMTS_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement);
+         RT_CHECK(ctx, stat, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r8");
+         break;
+      case 5: /* qualityMeasurement */
+         pvalue->u.qualityMeasurement = (QualityMeasurement*)rtxMemHeapAlloc(ctx, sizeof(QualityMeasurement));
+         if (pvalue->u.qualityMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "qualityMeasurement", -1, "MeasurementType-r8");
+         asn1Init_UMTS_QualityMeasurement(pvalue->u.qualityMeasurement);
+         stat = asn1PD_UMTS_QualityMeasurement(ctx, pvalue->u.qualityMeasurement);
+         RT_CHECK(ctx, stat, 0, "qualityMeasurement", -1, "MeasurementType-r8");
+         break;
+      case 6: /* ue-InternalMeasurement */
+         pvalue->u.ue_InternalMeasurement = (UE_InternalMeasurement_r4*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasurement_r4));
+         if (pvalue->u.ue_InternalMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ue-InternalMeasurement", -1, "MeasurementType-r8");
+         asn1Init_UMTS_UE_InternalMeasurement_r4(pvalue->u.ue_InternalMeasurement);
+         stat = asn1PD_UMTS_UE_InternalMeasurement_r4(ctx, pvalue->u.ue_InternalMeasurement);
+         RT_CHECK(ctx, stat, 0, "ue-InternalMeasurement", -1, "MeasurementType-r8");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementType-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementCommand_r8_modify(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r8_modify* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementType */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementType_r8(ctx, &pvalue->measurementType);
+      RT_CHECK(ctx, stat, 0, "measurementType", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementCommand_r8(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r8* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementCommand-r8");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* setup */
+         pvalue->u.setup = (MeasurementType_r8*)rtxMemHeapAlloc(ctx, sizeof(MeasurementType_r8));
+         if (pvalue->u.setup == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "setup", -1, "MeasurementCommand-r8");
+         asn1Init_UMTS_MeasurementType_r8(pvalue->u.setup);
+         stat = asn1PD_UMTS_MeasurementType_r8(ctx, pvalue->u.setup);
+         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommand-r8");
+         break;
+      case 1: /* modify */
+         pvalue->u.modify = (MeasurementCommand_r8_modify*)rtxMemHeapAlloc(ctx, sizeof(MeasurementCommand_r8_modify));
+         if (pvalue->u.modify == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "modify", -1, "MeasurementCommand-r8");
+         asn1Init_UMTS_MeasurementCommand_r8_modify(pvalue->u.modify);
+         stat = asn1PD_UMTS_MeasurementCommand_r8_modify(ctx, pvalue->u.modify);
+         RT_CHECK(ctx, stat, 0, "modify", -1, "MeasurementCommand-r8");
+         break;
+      case 2: /* release */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommand-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GPS_DGPS_Corrections_r9(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_DGPS_Corrections_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* gps-TOW */
+   stat = pd_ConsUInt32(ctx, &pvalue->gps_TOW, 0, 604799);
+   RT_CHECK(ctx, stat, "GPS-TOW-1sec", "gps-TOW", -1, "UE-Positioning-GPS-DGPS-Corrections-r9");
+   /* statusHealth */
+   stat = pd_ConsUnsigned(ctx, &pvalue->statusHealth, 0, 7);
+   RT_CHECK(ctx, stat, "DiffCorrectionStatus", "statusHealth", -1, "UE-Positioning-GPS-DGPS-Corrections-r9");
+   /* dgps-CorrectionSatInfoList */
+   stat = asn1PD_UMTS_DGPS_CorrectionSatInfoList_r9(ctx, &pvalue->dgps_CorrectionSatInfoList);
+   RT_CHECK(ctx, stat, 0, "dgps-CorrectionSatInfoList", -1, "UE-Positioning-GPS-DGPS-Corrections-r9");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GPS_AssistanceData_r9(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AssistanceData_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 9);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-AssistanceData-r9");
+   /* ue-positioning-GPS-ReferenceTime */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_Positioning_GPS_ReferenceTime_r7(ctx, &pvalue->ue_positioning_GPS_ReferenceTime);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceTime", -1, "UE-Positioning-GPS-AssistanceData-r9");
+   }
+   /* ue-positioning-GPS-ReferenceLocation */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_ReferenceLocation(ctx, &pvalue->ue_positioning_GPS_ReferenceLocation);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceLocation", -1, "UE-Positioning-GPS-AssistanceData-r9");
+   }
+   /* ue-positioning-GPS-DGPS-Corrections */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_UE_Positioning_GPS_DGPS_Corrections_r9(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-DGPS-Corrections", -1, "UE-Positioning-GPS-AssistanceData-r9");
+   }
+   /* ue-positioning-GPS-NavigationModel */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_UE_Positioning_GPS_NavigationModel(ctx, &pvalue->ue_positioning_GPS_NavigationModel);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-NavigationModel", -1, "UE-Positioning-GPS-AssistanceData-r9");
+   }
+   /* ue-positioning-GPS-IonosphericModel */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_UE_Positioning_GPS_IonosphericModel(ctx, &pvalue->ue_positioning_GPS_IonosphericModel);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-IonosphericModel", -1, "UE-Positioning-GPS-AssistanceData-r9");
+   }
+   /* ue-positioning-GPS-UTC-Model */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_UE_Positioning_GPS_UTC_Model(ctx, &pvalue->ue_positioning_GPS_UTC_Model);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-UTC-Model", -1, "UE-Positioning-GPS-AssistanceData-r9");
+   }
+   /* ue-positioning-GPS-Almanac */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_UE_Positioning_GPS_Almanac(ctx, &pvalue->ue_positioning_GPS_Almanac);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Almanac", -1, "UE-Positioning-GPS-AssistanceData-r9");
+   }
+   /* ue-positioning-GPS-AcquisitionAssistance */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_UE_Positioning_GPS_AcquisitionAssistance_r7(ctx, &pvalue->ue_positioning_GPS_AcquisitionAssistance);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AcquisitionAssistance", -1, "UE-Positioning-GPS-AssistanceData-r9");
+   }
+   /* ue-positioning-GPS-Real-timeIntegrity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_BadSatList(ctx, &pvalue->ue_positioning_GPS_Real_timeIntegrity);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Real-timeIntegrity", -1, "UE-Positioning-GPS-AssistanceData-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData_r9(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AssistanceData_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-AssistanceData-r9");
+   /* ue-positioning-GANSS-ReferenceTime */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_Positioning_GANSS_ReferenceTime(ctx, &pvalue->ue_positioning_GANSS_ReferenceTime);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-ReferenceTime", -1, "UE-Positioning-GANSS-AssistanceData-r9");
+   }
+   /* uePositioningGanssReferencePosition */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_ReferenceLocationGANSS(ctx, &pvalue->uePositioningGanssReferencePosition);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssReferencePosition", -1, "UE-Positioning-GANSS-AssistanceData-r9");
+   }
+   /* uePositioningGanssIonosphericModel */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_UE_Positioning_GANSS_IonosphericModel(ctx, &pvalue->uePositioningGanssIonosphericModel);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssIonosphericModel", -1, "UE-Positioning-GANSS-AssistanceData-r9");
+   }
+   /* uePositioningGanssAddIonoModel */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_UE_Positioning_GANSS_AddIonoModel(ctx, &pvalue->uePositioningGanssAddIonoModel);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssAddIonoModel", -1, "UE-Positioning-GANSS-AssistanceData-r9");
+   }
+   /* uePositioningGanssEarthOrientationPara */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_UE_Positioning_GANSS_EarthOrientPara(ctx, &pvalue->uePositioningGanssEarthOrientationPara);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssEarthOrientationPara", -1, "UE-Positioning-GANSS-AssistanceData-r9");
+   }
+   /* ganssGenericDataList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_GANSSGenericDataList_r9(ctx, &pvalue->ganssGenericDataList);
+      RT_CHECK(ctx, stat, 0, "ganssGenericDataList", -1, "UE-Positioning-GANSS-AssistanceData-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_Measurement_r9(rtxContext* RT_RESTRICT ctx, UE_Positioning_Measurement_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Measurement-r9");
+   /* ue-positioning-ReportingQuantity */
+   stat = asn1PD_UMTS_UE_Positioning_ReportingQuantity_r8(ctx, &pvalue->ue_positioning_ReportingQuantity);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-ReportingQuantity", -1, "UE-Positioning-Measurement-r9");
+   /* measurementValidity */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "UE-Positioning-Measurement-r9");
+   }
+   /* reportCriteria */
+   stat = asn1PD_UMTS_UE_Positioning_ReportCriteria_r7(ctx, &pvalue->reportCriteria);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "UE-Positioning-Measurement-r9");
+   /* ue-positioning-OTDOA-AssistanceData */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_r7(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData", -1, "UE-Positioning-Measurement-r9");
+   }
+   /* ue-positioning-GPS-AssistanceData */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_UE_Positioning_GPS_AssistanceData_r9(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AssistanceData", -1, "UE-Positioning-Measurement-r9");
+   }
+   /* ue-positioning-GANSS-AssistanceData */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData_r9(ctx, &pvalue->ue_positioning_GANSS_AssistanceData);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AssistanceData", -1, "UE-Positioning-Measurement-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementType_r9(rtxContext* RT_RESTRICT ctx, MeasurementType_r9* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementType-r9");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* intraFrequencyMeasurement */
+         pvalue->u.intraFrequencyMeasurement = (IntraFrequencyMeasurement_r9*)rtxMemHeapAlloc(ctx, sizeof(IntraFrequencyMeasurement_r9));
+         if (pvalue->u.intraFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r9");
+         asn1Init_UMTS_IntraFrequencyMeasurement_r9(pvalue->u.intraFrequencyMeasurement);
+         stat = asn1PD_UMTS_IntraFrequencyMeasurement_r9(ctx, pvalue->u.intraFrequencyMeasurement);
+         RT_CHECK(ctx, stat, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r9");
+         break;
+      case 1: /* interFrequencyMeasurement */
+         pvalue->u.interFrequencyMeasurement = (InterFrequencyMeasurement_r9*)rtxMemHeapAlloc(ctx, sizeof(InterFrequencyMeasurement_r9));
+         if (pvalue->u.interFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interFrequencyMeasurement", -1, "MeasurementType-r9");
+         asn1Init_UMTS_InterFrequencyMeasurement_r9(pvalue->u.interFrequencyMeasurement);
+         stat = asn1PD_UMTS_InterFrequencyMeasurement_r9(ctx, pvalue->u.interFrequencyMeasurement);
+         RT_CHECK(ctx, stat, 0, "interFrequencyMeasurement", -1, "MeasurementType-r9");
+         break;
+      case 2: /* interRATMeasurement */
+         pvalue->u.interRATMeasurement = (InterRATMeasurement_r9*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasurement_r9));
+         if (pvalue->u.interRATMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interRATMeasurement", -1, "MeasurementType-r9");
+         asn1Init_UMTS_InterRATMeasurement_r9(pvalue->u.interRATMeasurement);
+         stat = asn1PD_UMTS_InterRATMeasurement_r9(ctx, pvalue->u.interRATMeasurement);
+         RT_CHECK(ctx, stat, 0, "interRATMeasurement", -1, "MeasurementType-r9");
+         break;
+      case 3: /* up-Measurement */
+         pvalue->u.up_Measurement = (UE_Positioning_Measurement_r9*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_Measurement_r9));
+         if (pvalue->u.up_Measurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "up-Measurement", -1, "MeasurementType-r9");
+         asn1Init_UMTS_UE_Positioning_Measurement_r9(pvalue->u.up_Measurement);
+         stat = asn1PD_UMTS_UE_Positioning_Measurement_r9(ctx, pvalue->u.up_Measurement);
+         RT_CHECK(ctx, stat, 0, "up-Measurement", -1, "MeasurementType-r9");
+         break;
+      case 4: /* trafficVolumeMeasurement */
+         pvalue->u.trafficVolumeMeasurement = (TrafficVolumeMeasurement*)rtxMemHeapAlloc(ctx, sizeof(TrafficVolumeMeasurement));
+         if (pvalue->u.trafficVolumeMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r9");
+         asn1Init_UMTS_TrafficVolumeMeasurement(pvalue->u.trafficVolumeMeasurement);
+         stat = asn1PD_UMTS_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement);
+         RT_CHECK(ctx, stat, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r9");
+         break;
+      case 5: /* qualityMeasurement */
+         pvalue->u.qualityMeasurement = (QualityMeasurement*)rtxMemHeapAlloc(ctx, sizeof(QualityMeasurement));
+         if (pvalue->u.qualityMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "qualityMeasurement", -1, "MeasurementType-r9");
+         asn1Init_UMTS_QualityMeasurement(pvalue->u.qualityMeasurement);
+         stat = asn1PD_UMTS_QualityMeasurement(ctx, pvalue->u.qualityMeasurement);
+         RT_CHECK(ctx, stat, 0, "qualityMeasurement", -1, "MeasurementType-r9");
+         break;
+      case 6: /* ue-InternalMeasurement */
+         pvalue->u.ue_InternalMeasurement = (UE_InternalMeasurement_r4*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasurement_r4));
+         if (pvalue->u.ue_InternalMeasurement == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ue-InternalMeasurement", -1, "MeasurementType-r9");
+         asn1Init_UMTS_UE_InternalMeasurement_r4(pvalue->u.ue_InternalMeasurement);
+         stat = asn1PD_UMTS_UE_InternalMeasurement_r4(ctx, pvalue->u.ue_InternalMeasurement);
+         RT_CHECK(ctx, stat, 0, "ue-InternalMeasurement", -1, "MeasurementType-r9");
+         break;
+      case 7: /* csgProximityDetection */
+         pvalue->u.csgProximityDetection = (CSGProximityDetection*)rtxMemHeapAlloc(ctx, sizeof(CSGProximityDetection));
+         if (pvalue->u.csgProximityDetection == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "csgProximityDetection", -1, "MeasurementType-r9");
+         asn1Init_UMTS_CSGProximityDetection(pvalue->u.csgProximityDetection);
+         stat = asn1PD_UMTS_CSGProximityDetection(ctx, pvalue->u.csgProximityDetection);
+         RT_CHECK(ctx, stat, 0, "csgProximityDetection", -1, "MeasurementType-r9");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementType-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementCommand_r9_modify(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r9_modify* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementType */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementType_r9(ctx, &pvalue->measurementType);
+      RT_CHECK(ctx, stat, 0, "measurementType", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementCommand_r9(rtxContext* RT_RESTRICT ctx, MeasurementCommand_r9* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementCommand-r9");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* setup */
+         pvalue->u.setup = (MeasurementType_r9*)rtxMemHeapAlloc(ctx, sizeof(MeasurementType_r9));
+         if (pvalue->u.setup == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "setup", -1, "MeasurementCommand-r9");
+         asn1Init_UMTS_MeasurementType_r9(pvalue->u.setup);
+         stat = asn1PD_UMTS_MeasurementType_r9(ctx, pvalue->u.setup);
+         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommand-r9");
+         break;
+      case 1: /* modify */
+         pvalue->u.modify = (MeasurementCommand_r9_modify*)rtxMemHeapAlloc(ctx, sizeof(MeasurementCommand_r9_modify));
+         if (pvalue->u.modify == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "modify", -1, "MeasurementCommand-r9");
+         asn1Init_UMTS_MeasurementCommand_r9_modify(pvalue->u.modify);
+         stat = asn1PD_UMTS_MeasurementCommand_r9_modify(ctx, pvalue->u.modify);
+         RT_CHECK(ctx, stat, 0, "modify", -1, "MeasurementCommand-r9");
+         break;
+      case 2: /* release */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommand-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Neighbour_TDD_r7(rtxContext* RT_RESTRICT ctx, Neighbour_TDD_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Neighbour-TDD-r7");
+   /* uarfcn */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt16(ctx, &pvalue->uarfcn, 0, 16383);
+      RT_CHECK(ctx, stat, "UARFCN", "uarfcn", -1, "Neighbour-TDD-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_NeighbourList_TDD_r7(rtxContext* RT_RESTRICT ctx, NeighbourList_TDD_r7* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "BLER-MeasurementResultsList");
    RT_SET_SIZE(ctx, 1, 32);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NeighbourList-TDD-r7");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      BLER_MeasurementResults* elem;
-      rtxCtxtPushArrayElemName(ctx, "BLER-MeasurementResults", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(BLER_MeasurementResults));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (BLER_MeasurementResults*)(node + 1);
+      Neighbour_TDD_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Neighbour_TDD_r7));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "Neighbour-TDD-r7", (int32_t)i, "NeighbourList-TDD-r7");
+      elem = (Neighbour_TDD_r7*)(node + 1);
       node->data = elem;
-      asn1Init_UMTS_BLER_MeasurementResults(elem);
+      asn1Init_UMTS_Neighbour_TDD_r7(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_BLER_MeasurementResults(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      stat = asn1PD_UMTS_Neighbour_TDD_r7(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "Neighbour-TDD-r7", (int32_t)i, "NeighbourList-TDD-r7");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_BLER_TransChIdList(rtxContext* ctx, BLER_TransChIdList* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "BLER-TransChIdList");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 5);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 31) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "TransportChannelIdentity", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 1, 32);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_BSIC_VerificationRequired(rtxContext* ctx, BSIC_VerificationRequired* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "BSIC-VerificationRequired");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_BSICReported(rtxContext* ctx, BSICReported* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "BSICReported");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "verifiedBSIC");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.verifiedBSIC, 0, 32);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "nonVerifiedBSIC");
-         rtxCtxtPushTypeName(ctx, "BCCH-ARFCN");
-         stat = pd_ConsUInt16(ctx, &pvalue->u.nonVerifiedBSIC, 0, 1023);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_BurstModeParameters(rtxContext* ctx, BurstModeParameters* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "BurstModeParameters");
-   /* burstStart */
-   rtxCtxtPushElemName(ctx, "burstStart");
-   stat = pd_ConsUInt8(ctx, &pvalue->burstStart, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* burstLength */
-   rtxCtxtPushElemName(ctx, "burstLength");
-   stat = pd_ConsUInt8(ctx, &pvalue->burstLength, 10, 25);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* burstFreq */
-   rtxCtxtPushElemName(ctx, "burstFreq");
-   stat = pd_ConsUInt8(ctx, &pvalue->burstFreq, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellDCHMeasOccasionPattern_LCR_statusFlag(rtxContext* ctx, CellDCHMeasOccasionPattern_LCR_statusFlag* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementOccasionPatternParameter(rtxContext* ctx, MeasurementOccasionPatternParameter* pvalue)
+int asn1PD_UMTS_NewInterFreqCell_LCR_v8a0ext(rtxContext* RT_RESTRICT ctx, NewInterFreqCell_LCR_v8a0ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MeasurementOccasionPatternParameter");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measurement-Occasion-Coeff */
-   rtxCtxtPushElemName(ctx, "measurement-Occasion-Coeff");
-   stat = pd_ConsUInt8(ctx, &pvalue->measurement_Occasion_Coeff, 1, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurement-Occasion-Offset */
-   rtxCtxtPushElemName(ctx, "measurement-Occasion-Offset");
-   stat = pd_ConsUInt16(ctx, &pvalue->measurement_Occasion_Offset, 0, 511);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurement-Occasion-Length */
-   rtxCtxtPushElemName(ctx, "measurement-Occasion-Length");
-   stat = pd_ConsUInt16(ctx, &pvalue->measurement_Occasion_Length, 1, 512);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* timeslotBitmap */
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCell-LCR-v8a0ext");
+   /* cellInfo-LCR-r8 */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "timeslotBitmap");
       pvalue->m |= 0x1u;
-      RT_SET_SIZE(ctx, 7, 7);
-      stat = pd_BitString32(ctx, &pvalue->timeslotBitmap, 7, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_CellInfo_LCR_r8_ext(ctx, &pvalue->cellInfo_LCR_r8);
+      RT_CHECK(ctx, stat, 0, "cellInfo-LCR-r8", -1, "NewInterFreqCell-LCR-v8a0ext");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_CellDCHMeasOccasionPattern_LCR(rtxContext* ctx, CellDCHMeasOccasionPattern_LCR* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellDCHMeasOccasionPattern-LCR");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* patternIdentifier */
-   rtxCtxtPushElemName(ctx, "patternIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->patternIdentifier, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* statusFlag */
-   rtxCtxtPushElemName(ctx, "statusFlag");
-   stat = pd_ConsUnsigned(ctx, &pvalue->statusFlag, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementPurpose */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "measurementPurpose");
-      pvalue->m |= 0x1u;
-      RT_SET_SIZE(ctx, 5, 5);
-      stat = pd_BitString32(ctx, &pvalue->measurementPurpose, 5, 5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementOccasionPatternParameter */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "measurementOccasionPatternParameter");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MeasurementOccasionPatternParameter(ctx, &pvalue->measurementOccasionPatternParameter);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellDCHMeasOccasionInfo_TDD128_r9_cellDCHMeasOccasionSequenceList(rtxContext* ctx, CellDCHMeasOccasionInfo_TDD128_r9_cellDCHMeasOccasionSequenceList* pvalue)
+int asn1PD_UMTS_NewInterFreqCellList_LCR_v8a0ext(rtxContext* RT_RESTRICT ctx, NewInterFreqCellList_LCR_v8a0ext* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 5);
+   RT_SET_SIZE(ctx, 1, 32);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellList-LCR-v8a0ext");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      CellDCHMeasOccasionPattern_LCR* elem;
-      rtxCtxtPushArrayElemName(ctx, "CellDCHMeasOccasionPattern-LCR", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellDCHMeasOccasionPattern_LCR));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (CellDCHMeasOccasionPattern_LCR*)(node + 1);
+      NewInterFreqCell_LCR_v8a0ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCell_LCR_v8a0ext));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewInterFreqCell-LCR-v8a0ext", (int32_t)i, "NewInterFreqCellList-LCR-v8a0ext");
+      elem = (NewInterFreqCell_LCR_v8a0ext*)(node + 1);
       node->data = elem;
-      asn1Init_UMTS_CellDCHMeasOccasionPattern_LCR(elem);
+      asn1Init_UMTS_NewInterFreqCell_LCR_v8a0ext(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CellDCHMeasOccasionPattern_LCR(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      stat = asn1PD_UMTS_NewInterFreqCell_LCR_v8a0ext(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCell-LCR-v8a0ext", (int32_t)i, "NewInterFreqCellList-LCR-v8a0ext");
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellDCHMeasOccasionInfo_TDD128_r9(rtxContext* ctx, CellDCHMeasOccasionInfo_TDD128_r9* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CellDCHMeasOccasionInfo-TDD128-r9");
-   /* cellDCHMeasOccasionSequenceList */
-   rtxCtxtPushElemName(ctx, "cellDCHMeasOccasionSequenceList");
-   stat = asn1PD_UMTS_CellDCHMeasOccasionInfo_TDD128_r9_cellDCHMeasOccasionSequenceList(ctx, &pvalue->cellDCHMeasOccasionSequenceList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellInfo_modeSpecificInfo_fdd(rtxContext* ctx, CellInfo_modeSpecificInfo_fdd* pvalue)
+int asn1PD_UMTS_NewIntraFreqCell_LCR_v8a0ext(rtxContext* RT_RESTRICT ctx, NewIntraFreqCell_LCR_v8a0ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* primaryCPICH-Info */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* primaryCPICH-TX-Power */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCell-LCR-v8a0ext");
+   /* cellInfo-LCR-r8 */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-TX-Power");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "PrimaryCPICH-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->primaryCPICH_TX_Power, -10, 50);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellInfo_LCR_r8_ext(ctx, &pvalue->cellInfo_LCR_r8);
+      RT_CHECK(ctx, stat, 0, "cellInfo-LCR-r8", -1, "NewIntraFreqCell-LCR-v8a0ext");
    }
-   /* readSFN-Indicator */
-   rtxCtxtPushElemName(ctx, "readSFN-Indicator");
-   stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tx-DiversityIndicator */
-   rtxCtxtPushElemName(ctx, "tx-DiversityIndicator");
-   stat = rtxDecBitInline(ctx, &pvalue->tx_DiversityIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_CellInfo_modeSpecificInfo_tdd(rtxContext* ctx, CellInfo_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* primaryCCPCH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-Info");
-   stat = asn1PD_UMTS_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-      stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* timeslotInfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "timeslotInfoList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_TimeslotInfoList(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* readSFN-Indicator */
-   rtxCtxtPushElemName(ctx, "readSFN-Indicator");
-   stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellInfo_modeSpecificInfo(rtxContext* ctx, CellInfo_modeSpecificInfo* pvalue)
+int asn1PD_UMTS_NewIntraFreqCellList_LCR_v8a0ext(rtxContext* RT_RESTRICT ctx, NewIntraFreqCellList_LCR_v8a0ext* RT_RESTRICT pvalue)
 {
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (CellInfo_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfo_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellInfo_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (CellInfo_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfo_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellInfo_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_CellInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellList-LCR-v8a0ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      NewIntraFreqCell_LCR_v8a0ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCell_LCR_v8a0ext));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "NewIntraFreqCell-LCR-v8a0ext", (int32_t)i, "NewIntraFreqCellList-LCR-v8a0ext");
+      elem = (NewIntraFreqCell_LCR_v8a0ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_NewIntraFreqCell_LCR_v8a0ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_NewIntraFreqCell_LCR_v8a0ext(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCell-LCR-v8a0ext", (int32_t)i, "NewIntraFreqCellList-LCR-v8a0ext");
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellInfo(rtxContext* ctx, CellInfo* pvalue)
+int asn1PD_UMTS_TimeslotWithISCP(rtxContext* RT_RESTRICT ctx, TimeslotWithISCP* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellInfo");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* cellIndividualOffset */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "cellIndividualOffset");
-      rtxCtxtPushTypeName(ctx, "CellIndividualOffset");
-      stat = pd_ConsInt8(ctx, &pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->cellIndividualOffset = 0;
-   }
-   /* referenceTimeDifferenceToCell */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "referenceTimeDifferenceToCell");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_CellInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   /* timeslot */
+   stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 0, 14);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, "TimeslotWithISCP");
+   /* timeslotISCP */
+   stat = pd_ConsUInt8(ctx, &pvalue->timeslotISCP, 0, 127);
+   RT_CHECK(ctx, stat, "TimeslotISCP", "timeslotISCP", -1, "TimeslotWithISCP");
    return 0;
 }
 
-int asn1PD_UMTS_CellInfo_r4_modeSpecificInfo_fdd(rtxContext* ctx, CellInfo_r4_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* primaryCPICH-Info */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* primaryCPICH-TX-Power */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-TX-Power");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "PrimaryCPICH-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->primaryCPICH_TX_Power, -10, 50);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* readSFN-Indicator */
-   rtxCtxtPushElemName(ctx, "readSFN-Indicator");
-   stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tx-DiversityIndicator */
-   rtxCtxtPushElemName(ctx, "tx-DiversityIndicator");
-   stat = rtxDecBitInline(ctx, &pvalue->tx_DiversityIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TimeslotInfoList_r4_tdd384(rtxContext* ctx, TimeslotInfoList_r4_tdd384* pvalue)
+int asn1PD_UMTS_TimeslotListWithISCP(rtxContext* RT_RESTRICT ctx, TimeslotListWithISCP* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 14);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimeslotListWithISCP");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      TimeslotInfo* elem;
-      rtxCtxtPushArrayElemName(ctx, "TimeslotInfo", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TimeslotInfo));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (TimeslotInfo*)(node + 1);
+      TimeslotWithISCP* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TimeslotWithISCP));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "TimeslotWithISCP", (int32_t)i, "TimeslotListWithISCP");
+      elem = (TimeslotWithISCP*)(node + 1);
       node->data = elem;
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_TimeslotInfo(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      stat = asn1PD_UMTS_TimeslotWithISCP(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "TimeslotWithISCP", (int32_t)i, "TimeslotListWithISCP");
    }
    return 0;
 }
 
-int asn1PD_UMTS_TimeslotInfoList_r4_tdd128(rtxContext* ctx, TimeslotInfoList_r4_tdd128* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 6);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      TimeslotInfo_LCR_r4* elem;
-      rtxCtxtPushArrayElemName(ctx, "TimeslotInfo-LCR-r4", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TimeslotInfo_LCR_r4));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (TimeslotInfo_LCR_r4*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_TimeslotInfo_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_TimeslotInfoList_r4(rtxContext* ctx, TimeslotInfoList_r4* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "TimeslotInfoList-r4");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         pvalue->u.tdd384 = (TimeslotInfoList_r4_tdd384*)rtxMemHeapAlloc(ctx, sizeof(TimeslotInfoList_r4_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_TimeslotInfoList_r4_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_TimeslotInfoList_r4_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         pvalue->u.tdd128 = (TimeslotInfoList_r4_tdd128*)rtxMemHeapAlloc(ctx, sizeof(TimeslotInfoList_r4_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_TimeslotInfoList_r4_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_TimeslotInfoList_r4_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellInfo_r4_modeSpecificInfo_tdd(rtxContext* ctx, CellInfo_r4_modeSpecificInfo_tdd* pvalue)
+int asn1PD_UMTS_UE_Positioning_CipherParameters(rtxContext* RT_RESTRICT ctx, UE_Positioning_CipherParameters* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* primaryCCPCH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-Info");
-   stat = asn1PD_UMTS_PrimaryCCPCH_Info_r4(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-      stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* timeslotInfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "timeslotInfoList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_TimeslotInfoList_r4(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* readSFN-Indicator */
-   rtxCtxtPushElemName(ctx, "readSFN-Indicator");
-   stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   /* cipheringKeyFlag */
+   RT_SET_SIZE(ctx, 1, 1);
+   stat = pd_BitString32(ctx, &pvalue->cipheringKeyFlag, 1, 1);
+   RT_CHECK(ctx, stat, 0, "cipheringKeyFlag", -1, "UE-Positioning-CipherParameters");
+   /* cipheringSerialNumber */
+   stat = pd_ConsUInt16(ctx, &pvalue->cipheringSerialNumber, 0, 65535);
+   RT_CHECK(ctx, stat, 0, "cipheringSerialNumber", -1, "UE-Positioning-CipherParameters");
    return 0;
 }
 
-int asn1PD_UMTS_CellInfo_r4_modeSpecificInfo(rtxContext* ctx, CellInfo_r4_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (CellInfo_r4_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfo_r4_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellInfo_r4_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellInfo_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (CellInfo_r4_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfo_r4_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellInfo_r4_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_CellInfo_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellInfo_r4(rtxContext* ctx, CellInfo_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellInfo-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* cellIndividualOffset */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "cellIndividualOffset");
-      rtxCtxtPushTypeName(ctx, "CellIndividualOffset");
-      stat = pd_ConsInt8(ctx, &pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->cellIndividualOffset = 0;
-   }
-   /* referenceTimeDifferenceToCell */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "referenceTimeDifferenceToCell");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_CellInfo_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_fdd(rtxContext* ctx, CellSelectReselectInfoMC_RSCP_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* q-QualMin */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "q-QualMin");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "Q-QualMin");
-      stat = pd_ConsInt8(ctx, &pvalue->q_QualMin, -24, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* q-RxlevMin */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "q-RxlevMin");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
-      stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_tdd(rtxContext* ctx, CellSelectReselectInfoMC_RSCP_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* q-RxlevMin */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "q-RxlevMin");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
-      stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_gsm(rtxContext* ctx, CellSelectReselectInfoMC_RSCP_modeSpecificInfo_gsm* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* q-RxlevMin */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "q-RxlevMin");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
-      stat = pd_ConsInt8(ctx, &pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo(rtxContext* ctx, CellSelectReselectInfoMC_RSCP_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (CellSelectReselectInfoMC_RSCP_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoMC_RSCP_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (CellSelectReselectInfoMC_RSCP_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoMC_RSCP_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "gsm");
-         pvalue->u.gsm = (CellSelectReselectInfoMC_RSCP_modeSpecificInfo_gsm*)rtxMemHeapAlloc(ctx, sizeof(CellSelectReselectInfoMC_RSCP_modeSpecificInfo_gsm));
-         if (pvalue->u.gsm == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_gsm(pvalue->u.gsm);
-         stat = asn1PD_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellSelectReselectInfoMC_RSCP(rtxContext* ctx, CellSelectReselectInfoMC_RSCP* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellSelectReselectInfoMC-RSCP");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* q-OffsetS-N */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "q-OffsetS-N");
-      rtxCtxtPushTypeName(ctx, "Q-OffsetS-N");
-      stat = pd_ConsInt8(ctx, &pvalue->q_OffsetS_N, -50, 50);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->q_OffsetS_N = 0;
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hcs-NeighbouringCellInformation-RSCP */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "hcs-NeighbouringCellInformation-RSCP");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_HCS_NeighbouringCellInformation_RSCP(ctx, &pvalue->hcs_NeighbouringCellInformation_RSCP);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellInfo_LCR_r8_ext(rtxContext* ctx, CellInfo_LCR_r8_ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellInfo-LCR-r8-ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellSelectionReselectionInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cellSelectionReselectionInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellSelectReselectInfoMC_RSCP(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellInfo_r9_modeSpecificInfo_fdd(rtxContext* ctx, CellInfo_r9_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* primaryCPICH-Info */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* primaryCPICH-TX-Power */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-TX-Power");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "PrimaryCPICH-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->primaryCPICH_TX_Power, -10, 50);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* readSFN-Indicator */
-   rtxCtxtPushElemName(ctx, "readSFN-Indicator");
-   stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tx-DiversityIndicator */
-   rtxCtxtPushElemName(ctx, "tx-DiversityIndicator");
-   stat = rtxDecBitInline(ctx, &pvalue->tx_DiversityIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellInfo_r9_modeSpecificInfo_tdd(rtxContext* ctx, CellInfo_r9_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* primaryCCPCH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-Info");
-   stat = asn1PD_UMTS_PrimaryCCPCH_Info_r4(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-      stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* timeslotInfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "timeslotInfoList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_TimeslotInfoList_r4(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* readSFN-Indicator */
-   rtxCtxtPushElemName(ctx, "readSFN-Indicator");
-   stat = rtxDecBitInline(ctx, &pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellInfo_r9_modeSpecificInfo(rtxContext* ctx, CellInfo_r9_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (CellInfo_r9_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfo_r9_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellInfo_r9_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellInfo_r9_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (CellInfo_r9_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellInfo_r9_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellInfo_r9_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_CellInfo_r9_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellInfo_r9(rtxContext* ctx, CellInfo_r9* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellInfo-r9");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* cellIndividualOffset */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "cellIndividualOffset");
-      rtxCtxtPushTypeName(ctx, "CellIndividualOffset");
-      stat = pd_ConsInt8(ctx, &pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->cellIndividualOffset = 0;
-   }
-   /* referenceTimeDifferenceToCell */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "referenceTimeDifferenceToCell");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_CellInfo_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellSelectionReselectionInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cellSelectionReselectionInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellSelectReselectInfoMC_RSCP(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SFN_SFN_ObsTimeDifference1(rtxContext* ctx, SFN_SFN_ObsTimeDifference1* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "SFN-SFN-ObsTimeDifference1");
-   stat = pd_ConsUInt32(ctx, pvalue, 0, 16777215);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SFN_SFN_ObsTimeDifference2(rtxContext* ctx, SFN_SFN_ObsTimeDifference2* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "SFN-SFN-ObsTimeDifference2");
-   stat = pd_ConsUInt16(ctx, pvalue, 0, 65535);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SFN_SFN_ObsTimeDifference(rtxContext* ctx, SFN_SFN_ObsTimeDifference* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "SFN-SFN-ObsTimeDifference");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "type1");
-         rtxCtxtPushTypeName(ctx, "SFN-SFN-ObsTimeDifference1");
-         stat = pd_ConsUInt32(ctx, &pvalue->u.type1, 0, 16777215);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "type2");
-         rtxCtxtPushTypeName(ctx, "SFN-SFN-ObsTimeDifference2");
-         stat = pd_ConsUInt16(ctx, &pvalue->u.type2, 0, 65535);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CountC_SFN_Frame_difference(rtxContext* ctx, CountC_SFN_Frame_difference* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CountC-SFN-Frame-difference");
-   /* countC-SFN-High */
-   rtxCtxtPushElemName(ctx, "countC-SFN-High");
-   stat = pd_ConsUInt8(ctx, &pvalue->countC_SFN_High, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* off */
-   rtxCtxtPushElemName(ctx, "off");
-   stat = pd_ConsUInt8(ctx, &pvalue->off, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellSynchronisationInfo_modeSpecificInfo_fdd(rtxContext* ctx, CellSynchronisationInfo_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* countC-SFN-Frame-difference */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "countC-SFN-Frame-difference");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CountC_SFN_Frame_difference(ctx, &pvalue->countC_SFN_Frame_difference);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tm */
-   rtxCtxtPushElemName(ctx, "tm");
-   stat = pd_ConsUInt16(ctx, &pvalue->tm, 0, 38399);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellSynchronisationInfo_modeSpecificInfo_tdd(rtxContext* ctx, CellSynchronisationInfo_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* countC-SFN-Frame-difference */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "countC-SFN-Frame-difference");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CountC_SFN_Frame_difference(ctx, &pvalue->countC_SFN_Frame_difference);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellSynchronisationInfo_modeSpecificInfo(rtxContext* ctx, CellSynchronisationInfo_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (CellSynchronisationInfo_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellSynchronisationInfo_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellSynchronisationInfo_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellSynchronisationInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (CellSynchronisationInfo_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellSynchronisationInfo_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellSynchronisationInfo_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_CellSynchronisationInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellSynchronisationInfo(rtxContext* ctx, CellSynchronisationInfo* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CellSynchronisationInfo");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_CellSynchronisationInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CPICH_Ec_N0(rtxContext* ctx, CPICH_Ec_N0* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "CPICH-Ec-N0");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CPICH_RSCP(rtxContext* ctx, CPICH_RSCP* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "CPICH-RSCP");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Pathloss(rtxContext* ctx, Pathloss* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "Pathloss");
-   stat = pd_ConsUInt8(ctx, pvalue, 46, 173);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellMeasuredResults_modeSpecificInfo_fdd(rtxContext* ctx, CellMeasuredResults_modeSpecificInfo_fdd* pvalue)
+int asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData_v860ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AssistanceData_v860ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cpich-Ec-N0 */
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-AssistanceData-v860ext");
+   /* uePositioningGanssAddIonoModel */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "cpich-Ec-N0");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "CPICH-Ec-N0");
-      stat = pd_ConsUInt8(ctx, &pvalue->cpich_Ec_N0, 0, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UE_Positioning_GANSS_AddIonoModel(ctx, &pvalue->uePositioningGanssAddIonoModel);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssAddIonoModel", -1, "UE-Positioning-GANSS-AssistanceData-v860ext");
    }
-   /* cpich-RSCP */
+   /* uePositioningGanssEarthOrientationPara */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "cpich-RSCP");
       pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "CPICH-RSCP");
-      stat = pd_ConsUInt8(ctx, &pvalue->cpich_RSCP, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UE_Positioning_GANSS_EarthOrientPara(ctx, &pvalue->uePositioningGanssEarthOrientationPara);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssEarthOrientationPara", -1, "UE-Positioning-GANSS-AssistanceData-v860ext");
    }
-   /* pathloss */
+   /* ganssGenericDataList */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "pathloss");
       pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "Pathloss");
-      stat = pd_ConsUInt8(ctx, &pvalue->pathloss, 46, 173);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_GANSSGenericDataList_v860ext(ctx, &pvalue->ganssGenericDataList);
+      RT_CHECK(ctx, stat, 0, "ganssGenericDataList", -1, "UE-Positioning-GANSS-AssistanceData-v860ext");
    }
    return 0;
 }
 
-int asn1PD_UMTS_PrimaryCCPCH_RSCP(rtxContext* ctx, PrimaryCCPCH_RSCP* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-RSCP");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TimeslotISCP(rtxContext* ctx, TimeslotISCP* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "TimeslotISCP");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TimeslotISCP_List(rtxContext* ctx, TimeslotISCP_List* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "TimeslotISCP-List");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 13) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "TimeslotISCP", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "TimeslotISCP");
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 127);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellMeasuredResults_modeSpecificInfo_tdd(rtxContext* ctx, CellMeasuredResults_modeSpecificInfo_tdd* pvalue)
+int asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData_v920ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AssistanceData_v920ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* cellParametersID */
-   rtxCtxtPushElemName(ctx, "cellParametersID");
-   rtxCtxtPushTypeName(ctx, "CellParametersID");
-   stat = pd_ConsUInt8(ctx, &pvalue->cellParametersID, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* proposedTGSN */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "proposedTGSN");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "TGSN");
-      stat = pd_ConsUInt8(ctx, &pvalue->proposedTGSN, 0, 14);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* primaryCCPCH-RSCP */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "primaryCCPCH-RSCP");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-RSCP");
-      stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_RSCP, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pathloss */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "pathloss");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "Pathloss");
-      stat = pd_ConsUInt8(ctx, &pvalue->pathloss, 46, 173);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* timeslotISCP-List */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "timeslotISCP-List");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_TimeslotISCP_List(ctx, &pvalue->timeslotISCP_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellMeasuredResults_modeSpecificInfo(rtxContext* ctx, CellMeasuredResults_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (CellMeasuredResults_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellMeasuredResults_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellMeasuredResults_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellMeasuredResults_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (CellMeasuredResults_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellMeasuredResults_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellMeasuredResults_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_CellMeasuredResults_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellMeasuredResults(rtxContext* ctx, CellMeasuredResults* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellMeasuredResults");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* cellIdentity */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "cellIdentity");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellIdentity(ctx, &pvalue->cellIdentity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SFN_SFN_ObsTimeDifference(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellSynchronisationInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cellSynchronisationInfo");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_CellSynchronisationInfo(ctx, &pvalue->cellSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_CellMeasuredResults_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DeltaRSCPPerCell(rtxContext* ctx, DeltaRSCPPerCell* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "DeltaRSCPPerCell");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* deltaRSCP */
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-AssistanceData-v920ext");
+   /* ganssGenericDataList */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "deltaRSCP");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "DeltaRSCP");
-      stat = pd_ConsInt8(ctx, &pvalue->deltaRSCP, -5, -1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_GANSSGenericDataList_v920ext(ctx, &pvalue->ganssGenericDataList);
+      RT_CHECK(ctx, stat, 0, "ganssGenericDataList", -1, "UE-Positioning-GANSS-AssistanceData-v920ext");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_CellMeasuredResults_r9_modeSpecificInfo_fdd(rtxContext* ctx, CellMeasuredResults_r9_modeSpecificInfo_fdd* pvalue)
+int asn1PD_UMTS_UE_Positioning_GANSS_Data(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_Data* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cpich-Ec-N0 */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "cpich-Ec-N0");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "CPICH-Ec-N0");
-      stat = pd_ConsUInt8(ctx, &pvalue->cpich_Ec_N0, 0, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cpich-RSCP */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "cpich-RSCP");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "CPICH-RSCP");
-      stat = pd_ConsUInt8(ctx, &pvalue->cpich_RSCP, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* deltaRSCPPerCell */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "deltaRSCPPerCell");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_DeltaRSCPPerCell(ctx, &pvalue->deltaRSCPPerCell);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pathloss */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "pathloss");
-      pvalue->m |= 0x8u;
-      rtxCtxtPushTypeName(ctx, "Pathloss");
-      stat = pd_ConsUInt8(ctx, &pvalue->pathloss, 46, 173);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellMeasuredResults_r9_modeSpecificInfo_tdd(rtxContext* ctx, CellMeasuredResults_r9_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* cellParametersID */
-   rtxCtxtPushElemName(ctx, "cellParametersID");
-   rtxCtxtPushTypeName(ctx, "CellParametersID");
-   stat = pd_ConsUInt8(ctx, &pvalue->cellParametersID, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* proposedTGSN */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "proposedTGSN");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "TGSN");
-      stat = pd_ConsUInt8(ctx, &pvalue->proposedTGSN, 0, 14);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* primaryCCPCH-RSCP */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "primaryCCPCH-RSCP");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-RSCP");
-      stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_RSCP, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pathloss */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "pathloss");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "Pathloss");
-      stat = pd_ConsUInt8(ctx, &pvalue->pathloss, 46, 173);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* timeslotISCP-List */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "timeslotISCP-List");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_TimeslotISCP_List(ctx, &pvalue->timeslotISCP_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellMeasuredResults_r9_modeSpecificInfo(rtxContext* ctx, CellMeasuredResults_r9_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (CellMeasuredResults_r9_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellMeasuredResults_r9_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellMeasuredResults_r9_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellMeasuredResults_r9_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (CellMeasuredResults_r9_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellMeasuredResults_r9_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellMeasuredResults_r9_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_CellMeasuredResults_r9_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellMeasuredResults_r9(rtxContext* ctx, CellMeasuredResults_r9* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellMeasuredResults-r9");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* cellIdentity */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "cellIdentity");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellIdentity(ctx, &pvalue->cellIdentity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellSynchronisationInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cellSynchronisationInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellSynchronisationInfo(ctx, &pvalue->cellSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_CellMeasuredResults_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellMeasuredResults_v920ext_csgMemberIndication(rtxContext* ctx, CellMeasuredResults_v920ext_csgMemberIndication* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellMeasuredResults_v920ext(rtxContext* ctx, CellMeasuredResults_v920ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellMeasuredResults-v920ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* csgIdentity */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "csgIdentity");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CSG_Identity(ctx, &pvalue->csgIdentity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* csgMemberIndication */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "csgMemberIndication");
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->csgMemberIndication = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellMeasurementEventResults_fdd(rtxContext* ctx, CellMeasurementEventResults_fdd* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PrimaryCPICH_Info* elem;
-      rtxCtxtPushArrayElemName(ctx, "PrimaryCPICH-Info", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PrimaryCPICH_Info));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (PrimaryCPICH_Info*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellMeasurementEventResults_tdd(rtxContext* ctx, CellMeasurementEventResults_tdd* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PrimaryCCPCH_Info* elem;
-      rtxCtxtPushArrayElemName(ctx, "PrimaryCCPCH-Info", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PrimaryCCPCH_Info));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (PrimaryCCPCH_Info*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PrimaryCCPCH_Info(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PrimaryCCPCH_Info(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellMeasurementEventResults(rtxContext* ctx, CellMeasurementEventResults* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "CellMeasurementEventResults");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (CellMeasurementEventResults_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellMeasurementEventResults_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellMeasurementEventResults_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellMeasurementEventResults_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (CellMeasurementEventResults_tdd*)rtxMemHeapAlloc(ctx, sizeof(CellMeasurementEventResults_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellMeasurementEventResults_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_CellMeasurementEventResults_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellMeasurementEventResultsOnSecUlFreq_fdd(rtxContext* ctx, CellMeasurementEventResultsOnSecUlFreq_fdd* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PrimaryCPICH_Info* elem;
-      rtxCtxtPushArrayElemName(ctx, "PrimaryCPICH-Info", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PrimaryCPICH_Info));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (PrimaryCPICH_Info*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellMeasurementEventResultsOnSecUlFreq(rtxContext* ctx, CellMeasurementEventResultsOnSecUlFreq* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "CellMeasurementEventResultsOnSecUlFreq");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (CellMeasurementEventResultsOnSecUlFreq_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellMeasurementEventResultsOnSecUlFreq_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellMeasurementEventResultsOnSecUlFreq_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellMeasurementEventResultsOnSecUlFreq_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "spare");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellMeasurementEventResults_LCR_r4(rtxContext* ctx, CellMeasurementEventResults_LCR_r4* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "CellMeasurementEventResults-LCR-r4");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PrimaryCCPCH_Info_LCR_r4* elem;
-      rtxCtxtPushArrayElemName(ctx, "PrimaryCCPCH-Info-LCR-r4", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PrimaryCCPCH_Info_LCR_r4));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (PrimaryCCPCH_Info_LCR_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_PrimaryCCPCH_Info_LCR_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PrimaryCCPCH_Info_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellSelectReselectInfoPCHFACH_v5b0ext(rtxContext* ctx, CellSelectReselectInfoPCHFACH_v5b0ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellSelectReselectInfoPCHFACH-v5b0ext");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat);
-   /* q-Hyst-l-S-PCH */
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-Data");
+   /* ganssDataCipheringInfo */
    if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "q-Hyst-l-S-PCH");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "Q-Hyst-S-Fine");
-      stat = pd_ConsUInt8(ctx, &pvalue->q_Hyst_l_S_PCH, 0, 40);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UE_Positioning_CipherParameters(ctx, &pvalue->ganssDataCipheringInfo);
+      RT_CHECK(ctx, stat, 0, "ganssDataCipheringInfo", -1, "UE-Positioning-GANSS-Data");
    }
-   /* q-Hyst-l-S-FACH */
+   /* ganssDecipheringKeys */
    if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "q-Hyst-l-S-FACH");
       pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "Q-Hyst-S-Fine");
-      stat = pd_ConsUInt8(ctx, &pvalue->q_Hyst_l_S_FACH, 0, 40);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_GANSSDecipheringKeys(ctx, &pvalue->ganssDecipheringKeys);
+      RT_CHECK(ctx, stat, 0, "ganssDecipheringKeys", -1, "UE-Positioning-GANSS-Data");
    }
-   /* q-Hyst-2-S-PCH */
+   /* uePositioningGanssReferenceTime */
    if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "q-Hyst-2-S-PCH");
       pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "Q-Hyst-S-Fine");
-      stat = pd_ConsUInt8(ctx, &pvalue->q_Hyst_2_S_PCH, 0, 40);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UE_Positioning_GANSS_ReferenceTime(ctx, &pvalue->uePositioningGanssReferenceTime);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssReferenceTime", -1, "UE-Positioning-GANSS-Data");
    }
-   /* q-Hyst-2-S-FACH */
+   /* uePositioningGanssReferencePosition */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "q-Hyst-2-S-FACH");
       pvalue->m |= 0x8u;
-      rtxCtxtPushTypeName(ctx, "Q-Hyst-S-Fine");
-      stat = pd_ConsUInt8(ctx, &pvalue->q_Hyst_2_S_FACH, 0, 40);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_ReferenceLocationGANSS(ctx, &pvalue->uePositioningGanssReferencePosition);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssReferencePosition", -1, "UE-Positioning-GANSS-Data");
    }
-   /* t-Reselection-S-PCH */
+   /* uePositioningGanssIonosphericModel */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "t-Reselection-S-PCH");
       pvalue->m |= 0x10u;
-      rtxCtxtPushTypeName(ctx, "T-Reselection-S");
-      stat = pd_ConsUInt8(ctx, &pvalue->t_Reselection_S_PCH, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UE_Positioning_GANSS_IonosphericModel(ctx, &pvalue->uePositioningGanssIonosphericModel);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssIonosphericModel", -1, "UE-Positioning-GANSS-Data");
    }
-   /* t-Reselection-S-FACH */
+   /* ganssGenericDataList */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "t-Reselection-S-FACH");
       pvalue->m |= 0x20u;
-      rtxCtxtPushTypeName(ctx, "T-Reselection-S-Fine");
-      stat = pd_ConsUInt8(ctx, &pvalue->t_Reselection_S_FACH, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_GANSSGenericDataList(ctx, &pvalue->ganssGenericDataList);
+      RT_CHECK(ctx, stat, 0, "ganssGenericDataList", -1, "UE-Positioning-GANSS-Data");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_CellsForInterFreqMeasList(rtxContext* ctx, CellsForInterFreqMeasList* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "CellsForInterFreqMeasList");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 5);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 31) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "InterFreqCellID", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "InterFreqCellID");
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 31);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellsForIntraFreqMeasList(rtxContext* ctx, CellsForIntraFreqMeasList* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "CellsForIntraFreqMeasList");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 5);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 31) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "IntraFreqCellID", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "IntraFreqCellID");
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 31);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqCellIDOnSecULFreq(rtxContext* ctx, IntraFreqCellIDOnSecULFreq* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "IntraFreqCellIDOnSecULFreq");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellsForIntraFreqMeasListOnSecULFreq(rtxContext* ctx, CellsForIntraFreqMeasListOnSecULFreq* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "CellsForIntraFreqMeasListOnSecULFreq");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 5);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 31) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "IntraFreqCellIDOnSecULFreq", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "IntraFreqCellIDOnSecULFreq");
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 31);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellToReport(rtxContext* ctx, CellToReport* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CellToReport");
-   /* bsicReported */
-   rtxCtxtPushElemName(ctx, "bsicReported");
-   stat = asn1PD_UMTS_BSICReported(ctx, &pvalue->bsicReported);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellToReportList(rtxContext* ctx, CellToReportList* pvalue)
+int asn1PD_UMTS_UE_Positioning_GANSS_TimeModels(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_TimeModels* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "CellToReportList");
-   RT_SET_SIZE(ctx, 1, 32);
+   RT_SET_SIZE(ctx, 1, 7);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-TimeModels");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      CellToReport* elem;
-      rtxCtxtPushArrayElemName(ctx, "CellToReport", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellToReport));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (CellToReport*)(node + 1);
+      UE_Positioning_GANSS_TimeModel* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_Positioning_GANSS_TimeModel));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UE-Positioning-GANSS-TimeModel", (int32_t)i, "UE-Positioning-GANSS-TimeModels");
+      elem = (UE_Positioning_GANSS_TimeModel*)(node + 1);
       node->data = elem;
-      asn1Init_UMTS_CellToReport(elem);
+      asn1Init_UMTS_UE_Positioning_GANSS_TimeModel(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CellToReport(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      stat = asn1PD_UMTS_UE_Positioning_GANSS_TimeModel(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "UE-Positioning-GANSS-TimeModel", (int32_t)i, "UE-Positioning-GANSS-TimeModels");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_CNAVclockModel(rtxContext* ctx, CNAVclockModel* pvalue)
+int asn1PD_UMTS_UE_Positioning_GPS_AcquisitionAssistance_v770ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AcquisitionAssistance_v770ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CNAVclockModel");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat);
-   /* cnavToc */
-   rtxCtxtPushElemName(ctx, "cnavToc");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->cnavToc, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavTop */
-   rtxCtxtPushElemName(ctx, "cnavTop");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->cnavTop, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavURA0 */
-   rtxCtxtPushElemName(ctx, "cnavURA0");
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pd_BitString32(ctx, &pvalue->cnavURA0, 5, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavURA1 */
-   rtxCtxtPushElemName(ctx, "cnavURA1");
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pd_BitString32(ctx, &pvalue->cnavURA1, 3, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavURA2 */
-   rtxCtxtPushElemName(ctx, "cnavURA2");
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pd_BitString32(ctx, &pvalue->cnavURA2, 3, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavAf2 */
-   rtxCtxtPushElemName(ctx, "cnavAf2");
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pd_BitString32(ctx, &pvalue->cnavAf2, 10, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavAf1 */
-   rtxCtxtPushElemName(ctx, "cnavAf1");
-   RT_SET_SIZE(ctx, 20, 20);
-   stat = pd_BitString32(ctx, &pvalue->cnavAf1, 20, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavAf0 */
-   rtxCtxtPushElemName(ctx, "cnavAf0");
-   RT_SET_SIZE(ctx, 26, 26);
-   stat = pd_BitString32(ctx, &pvalue->cnavAf0, 26, 26);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavTgd */
-   rtxCtxtPushElemName(ctx, "cnavTgd");
-   RT_SET_SIZE(ctx, 13, 13);
-   stat = pd_BitString32(ctx, &pvalue->cnavTgd, 13, 13);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavISCl1cp */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "cnavISCl1cp");
-      pvalue->m |= 0x1u;
-      RT_SET_SIZE(ctx, 13, 13);
-      stat = pd_BitString32(ctx, &pvalue->cnavISCl1cp, 13, 13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cnavISCl1cd */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "cnavISCl1cd");
-      pvalue->m |= 0x2u;
-      RT_SET_SIZE(ctx, 13, 13);
-      stat = pd_BitString32(ctx, &pvalue->cnavISCl1cd, 13, 13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cnavISCl1ca */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "cnavISCl1ca");
-      pvalue->m |= 0x4u;
-      RT_SET_SIZE(ctx, 13, 13);
-      stat = pd_BitString32(ctx, &pvalue->cnavISCl1ca, 13, 13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cnavISCl2c */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "cnavISCl2c");
-      pvalue->m |= 0x8u;
-      RT_SET_SIZE(ctx, 13, 13);
-      stat = pd_BitString32(ctx, &pvalue->cnavISCl2c, 13, 13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cnavISCl5i5 */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "cnavISCl5i5");
-      pvalue->m |= 0x10u;
-      RT_SET_SIZE(ctx, 13, 13);
-      stat = pd_BitString32(ctx, &pvalue->cnavISCl5i5, 13, 13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cnavISCl5q5 */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-AcquisitionAssistance-v770ext");
+   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cnavISCl5q5");
-      pvalue->m |= 0x20u;
-      RT_SET_SIZE(ctx, 13, 13);
-      stat = pd_BitString32(ctx, &pvalue->cnavISCl5q5, 13, 13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
+      RT_CHECK(ctx, stat, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-GPS-AcquisitionAssistance-v770ext");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_CSGCellInfo_modeSpecificInfo_fdd(rtxContext* ctx, CSGCellInfo_modeSpecificInfo_fdd* pvalue)
+int asn1PD_UMTS_UE_Positioning_GPS_ReferenceTime_v770ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_ReferenceTime_v770ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   /* startPSC */
-   rtxCtxtPushElemName(ctx, "startPSC");
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->startPSC);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* numberOfPSCs */
-   rtxCtxtPushElemName(ctx, "numberOfPSCs");
-   stat = pd_ConsUInt16(ctx, &pvalue->numberOfPSCs, 1, 512);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-ReferenceTime-v770ext");
+   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
+      RT_CHECK(ctx, stat, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-GPS-ReferenceTime-v770ext");
+   }
    return 0;
 }
 
-int asn1PD_UMTS_CSGCellInfo_modeSpecificInfo(rtxContext* ctx, CSGCellInfo_modeSpecificInfo* pvalue)
+int asn1PD_UMTS_UE_Positioning_GPS_AssistanceData_v770ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AssistanceData_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-AssistanceData-v770ext");
+   /* ue-positioning-GPS-ReferenceTime */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_Positioning_GPS_ReferenceTime_v770ext(ctx, &pvalue->ue_positioning_GPS_ReferenceTime);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceTime", -1, "UE-Positioning-GPS-AssistanceData-v770ext");
+   }
+   /* ue-positioning-GPS-AcquisitionAssistance */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UE_Positioning_GPS_AcquisitionAssistance_v770ext(ctx, &pvalue->ue_positioning_GPS_AcquisitionAssistance);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AcquisitionAssistance", -1, "UE-Positioning-GPS-AssistanceData-v770ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GPS_DGPS_Corrections_v920ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_DGPS_Corrections_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* dgps-CorrectionSatInfoList */
+   stat = asn1PD_UMTS_DGPS_CorrectionSatInfoList_v920ext(ctx, &pvalue->dgps_CorrectionSatInfoList);
+   RT_CHECK(ctx, stat, 0, "dgps-CorrectionSatInfoList", -1, "UE-Positioning-GPS-DGPS-Corrections-v920ext");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_GPS_AssistanceData_v920ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_AssistanceData_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-AssistanceData-v920ext");
+   /* ue-positioning-GPS-DGPS-Corrections */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_Positioning_GPS_DGPS_Corrections_v920ext(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-DGPS-Corrections", -1, "UE-Positioning-GPS-AssistanceData-v920ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_IPDL_Parameters_TDD_r4_ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_IPDL_Parameters_TDD_r4_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
+   /* ip-Spacing */
+   stat = pd_ConsUnsigned(ctx, &pvalue->ip_Spacing, 0, 4);
+   RT_CHECK(ctx, stat, "IP-Spacing-TDD", "ip-Spacing", -1, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
+   /* ip-slot */
+   stat = pd_ConsUInt8(ctx, &pvalue->ip_slot, 0, 14);
+   RT_CHECK(ctx, stat, 0, "ip-slot", -1, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
+   /* ip-Start */
+   stat = pd_ConsUInt16(ctx, &pvalue->ip_Start, 0, 4095);
+   RT_CHECK(ctx, stat, 0, "ip-Start", -1, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
+   /* ip-PCCPCG */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = rtxDecBitInline(ctx, &pvalue->ip_PCCPCG);
+      RT_CHECK(ctx, stat, "IP-PCCPCH-r4", "ip-PCCPCG", -1, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
+   }
+   /* burstModeParameters */
+   stat = asn1PD_UMTS_BurstModeParameters(ctx, &pvalue->burstModeParameters);
+   RT_CHECK(ctx, stat, 0, "burstModeParameters", -1, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_ReportingQuantity_v390ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportingQuantity_v390ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* vertical-Accuracy */
+   stat = asn1PD_UMTS_UE_Positioning_Accuracy(ctx, &pvalue->vertical_Accuracy);
+   RT_CHECK(ctx, stat, 0, "vertical-Accuracy", -1, "UE-Positioning-ReportingQuantity-v390ext");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* primaryCPICH-Info */
+   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* cellAndChannelIdentity */
+   stat = asn1PD_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
+   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (CSGCellInfo_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(CSGCellInfo_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_CSGCellInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 0: /* fdd */
+         pvalue->u.fdd = (UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
+      case 1: /* tdd */
+         pvalue->u.tdd = (UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CSGCellInfo(rtxContext* ctx, CSGCellInfo* pvalue)
+int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_UEB* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CSGCellInfo");
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
+   /* sfn */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt16(ctx, &pvalue->sfn, 0, 4095);
+      RT_CHECK(ctx, stat, 0, "sfn", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
+   }
    /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_CSGCellInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
+   }
+   /* cellPosition */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_ReferenceCellPosition(ctx, &pvalue->cellPosition);
+      RT_CHECK(ctx, stat, 0, "cellPosition", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
+   }
+   /* roundTripTime */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUInt16(ctx, &pvalue->roundTripTime, 0, 32766);
+      RT_CHECK(ctx, stat, 0, "roundTripTime", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
+   }
+   /* ue-positioning-IPDL-Paremeters */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_UE_Positioning_IPDL_Parameters(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-IPDL-Paremeters", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
+   }
    return 0;
 }
 
-int asn1PD_UMTS_CSGCellInfoList(rtxContext* ctx, CSGCellInfoList* pvalue)
+int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* primaryCPICH-Info */
+   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* cellAndChannelIdentity */
+   stat = asn1PD_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
+   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_UEB* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   }
+   /* ue-positioning-IPDL-Paremeters */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UE_Positioning_IPDL_Parameters(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-IPDL-Paremeters", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   }
+   /* sfn-SFN-RelTimeDifference */
+   stat = asn1PD_UMTS_SFN_SFN_RelTimeDifference1(ctx, &pvalue->sfn_SFN_RelTimeDifference);
+   RT_CHECK(ctx, stat, 0, "sfn-SFN-RelTimeDifference", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   /* sfn-SFN-Drift */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->sfn_SFN_Drift, 0, 28);
+      RT_CHECK(ctx, stat, "SFN-SFN-Drift", "sfn-SFN-Drift", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   }
+   /* searchWindowSize */
+   stat = pd_ConsUnsigned(ctx, &pvalue->searchWindowSize, 0, 7);
+   RT_CHECK(ctx, stat, "OTDOA-SearchWindowSize", "searchWindowSize", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   /* relativeNorth */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsInt16(ctx, &pvalue->relativeNorth, -20000, 20000);
+      RT_CHECK(ctx, stat, 0, "relativeNorth", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   }
+   /* relativeEast */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x10u;
+      stat = pd_ConsInt16(ctx, &pvalue->relativeEast, -20000, 20000);
+      RT_CHECK(ctx, stat, 0, "relativeEast", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   }
+   /* relativeAltitude */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x20u;
+      stat = pd_ConsInt16(ctx, &pvalue->relativeAltitude, -4000, 4000);
+      RT_CHECK(ctx, stat, 0, "relativeAltitude", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   }
+   /* fineSFN-SFN */
+   stat = pd_ConsUInt8(ctx, &pvalue->fineSFN_SFN, 0, 15);
+   RT_CHECK(ctx, stat, "FineSFN-SFN", "fineSFN-SFN", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   /* roundTripTime */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x40u;
+      stat = pd_ConsUInt16(ctx, &pvalue->roundTripTime, 0, 32766);
+      RT_CHECK(ctx, stat, 0, "roundTripTime", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellList_UEB(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellList_UEB* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "CSGCellInfoList");
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellList-UEB");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UE_Positioning_OTDOA_NeighbourCellInfo_UEB* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_UEB));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList-UEB");
+      elem = (UE_Positioning_OTDOA_NeighbourCellInfo_UEB*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList-UEB");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_AssistanceData_UEB* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData-UEB");
+   /* ue-positioning-OTDOA-ReferenceCellInfo-UEB */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB(ctx, &pvalue->ue_positioning_OTDOA_ReferenceCellInfo_UEB);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-ReferenceCellInfo-UEB", -1, "UE-Positioning-OTDOA-AssistanceData-UEB");
+   }
+   /* ue-positioning-OTDOA-NeighbourCellList-UEB */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellList_UEB(ctx, &pvalue->ue_positioning_OTDOA_NeighbourCellList_UEB);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-NeighbourCellList-UEB", -1, "UE-Positioning-OTDOA-AssistanceData-UEB");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_Measurement_v390ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_Measurement_v390ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Measurement-v390ext");
+   /* ue-positioning-ReportingQuantity-v390ext */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_Positioning_ReportingQuantity_v390ext(ctx, &pvalue->ue_positioning_ReportingQuantity_v390ext);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-ReportingQuantity-v390ext", -1, "UE-Positioning-Measurement-v390ext");
+   }
+   /* measurementValidity */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "UE-Positioning-Measurement-v390ext");
+   }
+   /* ue-positioning-OTDOA-AssistanceData-UEB */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData_UEB);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData-UEB", -1, "UE-Positioning-Measurement-v390ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_Measurement_v920ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_Measurement_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Measurement-v920ext");
+   /* ue-positioning-GPS-AssistanceData */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_Positioning_GPS_AssistanceData_v920ext(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AssistanceData", -1, "UE-Positioning-Measurement-v920ext");
+   }
+   /* ue-positioning-GANSS-AssistanceData */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData_v920ext(ctx, &pvalue->ue_positioning_GANSS_AssistanceData);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AssistanceData", -1, "UE-Positioning-Measurement-v920ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_IPDL_Parameters_TDDList_r4_ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_IPDL_Parameters_TDDList_r4_ext* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-IPDL-Parameters-TDDList-r4-ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UE_Positioning_IPDL_Parameters_TDD_r4_ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_Positioning_IPDL_Parameters_TDD_r4_ext));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UE-Positioning-IPDL-Parameters-TDD-r4-ext", (int32_t)i, "UE-Positioning-IPDL-Parameters-TDDList-r4-ext");
+      elem = (UE_Positioning_IPDL_Parameters_TDD_r4_ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UE_Positioning_IPDL_Parameters_TDD_r4_ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_UE_Positioning_IPDL_Parameters_TDD_r4_ext(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "UE-Positioning-IPDL-Parameters-TDD-r4-ext", (int32_t)i, "UE-Positioning-IPDL-Parameters-TDDList-r4-ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_r4ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_AssistanceData_r4ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData-r4ext");
+   /* ue-Positioning-IPDL-Parameters-TDD-r4-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_Positioning_IPDL_Parameters_TDD_r4_ext(ctx, &pvalue->ue_Positioning_IPDL_Parameters_TDD_r4_ext);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-IPDL-Parameters-TDD-r4-ext", -1, "UE-Positioning-OTDOA-AssistanceData-r4ext");
+   }
+   /* ue-Positioning-IPDL-Parameters-TDDList-r4-ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UE_Positioning_IPDL_Parameters_TDDList_r4_ext(ctx, &pvalue->ue_Positioning_IPDL_Parameters_TDDList_r4_ext);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-IPDL-Parameters-TDDList-r4-ext", -1, "UE-Positioning-OTDOA-AssistanceData-r4ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_ReferenceCellInfo_UEB_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB-ext");
+   /* roundTripTimeExtension */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt32(ctx, &pvalue->roundTripTimeExtension, 0, 70274);
+      RT_CHECK(ctx, stat, 0, "roundTripTimeExtension", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB-ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB-ext");
+   /* roundTripTimeExtension */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt32(ctx, &pvalue->roundTripTimeExtension, 0, 70274);
+      RT_CHECK(ctx, stat, 0, "roundTripTimeExtension", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB-ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellList_UEB_ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_NeighbourCellList_UEB_ext* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellList-UEB-ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB-ext", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList-UEB-ext");
+      elem = (UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB-ext", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList-UEB-ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB_ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_AssistanceData_UEB_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData-UEB-ext");
+   /* ue-positioning-OTDOA-ReferenceCellInfo-UEB-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_ext(ctx, &pvalue->ue_positioning_OTDOA_ReferenceCellInfo_UEB_ext);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-ReferenceCellInfo-UEB-ext", -1, "UE-Positioning-OTDOA-AssistanceData-UEB-ext");
+   }
+   /* ue-positioning-OTDOA-NeighbourCellList-UEB-ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellList_UEB_ext(ctx, &pvalue->ue_positioning_OTDOA_NeighbourCellList_UEB_ext);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-NeighbourCellList-UEB-ext", -1, "UE-Positioning-OTDOA-AssistanceData-UEB-ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_OTDOA_MeasuredResultsTDD_ext(rtxContext* RT_RESTRICT ctx, UE_Positioning_OTDOA_MeasuredResultsTDD_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-MeasuredResultsTDD-ext");
+   /* neighbourList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_NeighbourList_TDD_r7(ctx, &pvalue->neighbourList);
+      RT_CHECK(ctx, stat, 0, "neighbourList", -1, "UE-Positioning-OTDOA-MeasuredResultsTDD-ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRAN_FDD_Frequency(rtxContext* RT_RESTRICT ctx, UTRAN_FDD_Frequency* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UTRAN-FDD-Frequency");
+   /* uarfcn */
+   stat = pd_ConsUInt16(ctx, &pvalue->uarfcn, 0, 16383);
+   RT_CHECK(ctx, stat, "UARFCN", "uarfcn", -1, "UTRAN-FDD-Frequency");
+   /* priority */
+   stat = pd_ConsUInt8(ctx, &pvalue->priority, 0, 7);
+   RT_CHECK(ctx, stat, 0, "priority", -1, "UTRAN-FDD-Frequency");
+   /* threshXhigh */
+   stat = pd_ConsUInt8(ctx, &pvalue->threshXhigh, 0, 31);
+   RT_CHECK(ctx, stat, 0, "threshXhigh", -1, "UTRAN-FDD-Frequency");
+   /* threshXlow */
+   stat = pd_ConsUInt8(ctx, &pvalue->threshXlow, 0, 31);
+   RT_CHECK(ctx, stat, 0, "threshXlow", -1, "UTRAN-FDD-Frequency");
+   /* qQualMinFDD */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8(ctx, &pvalue->qQualMinFDD, -24, 0);
+      RT_CHECK(ctx, stat, 0, "qQualMinFDD", -1, "UTRAN-FDD-Frequency");
+   }
+   /* qRxLevMinFDD */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsInt8(ctx, &pvalue->qRxLevMinFDD, -60, -13);
+      RT_CHECK(ctx, stat, 0, "qRxLevMinFDD", -1, "UTRAN-FDD-Frequency");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRAN_FDD_FrequencyList(rtxContext* RT_RESTRICT ctx, UTRAN_FDD_FrequencyList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UTRAN-FDD-FrequencyList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UTRAN_FDD_Frequency* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UTRAN_FDD_Frequency));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UTRAN-FDD-Frequency", (int32_t)i, "UTRAN-FDD-FrequencyList");
+      elem = (UTRAN_FDD_Frequency*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UTRAN_FDD_Frequency(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_UTRAN_FDD_Frequency(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "UTRAN-FDD-Frequency", (int32_t)i, "UTRAN-FDD-FrequencyList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRAN_TDD_Frequency(rtxContext* RT_RESTRICT ctx, UTRAN_TDD_Frequency* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UTRAN-TDD-Frequency");
+   /* uarfcn */
+   stat = pd_ConsUInt16(ctx, &pvalue->uarfcn, 0, 16383);
+   RT_CHECK(ctx, stat, "UARFCN", "uarfcn", -1, "UTRAN-TDD-Frequency");
+   /* priority */
+   stat = pd_ConsUInt8(ctx, &pvalue->priority, 0, 7);
+   RT_CHECK(ctx, stat, 0, "priority", -1, "UTRAN-TDD-Frequency");
+   /* threshXhigh */
+   stat = pd_ConsUInt8(ctx, &pvalue->threshXhigh, 0, 31);
+   RT_CHECK(ctx, stat, 0, "threshXhigh", -1, "UTRAN-TDD-Frequency");
+   /* threshXlow */
+   stat = pd_ConsUInt8(ctx, &pvalue->threshXlow, 0, 31);
+   RT_CHECK(ctx, stat, 0, "threshXlow", -1, "UTRAN-TDD-Frequency");
+   /* qRxLevMinTDD */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8(ctx, &pvalue->qRxLevMinTDD, -60, -13);
+      RT_CHECK(ctx, stat, 0, "qRxLevMinTDD", -1, "UTRAN-TDD-Frequency");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRAN_TDD_FrequencyList(rtxContext* RT_RESTRICT ctx, UTRAN_TDD_FrequencyList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UTRAN-TDD-FrequencyList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      UTRAN_TDD_Frequency* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UTRAN_TDD_Frequency));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "UTRAN-TDD-Frequency", (int32_t)i, "UTRAN-TDD-FrequencyList");
+      elem = (UTRAN_TDD_Frequency*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_UTRAN_TDD_Frequency(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_UTRAN_TDD_Frequency(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "UTRAN-TDD-Frequency", (int32_t)i, "UTRAN-TDD-FrequencyList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRA_PriorityInfoList_utra_ServingCell(rtxContext* RT_RESTRICT ctx, UTRA_PriorityInfoList_utra_ServingCell* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* priority */
+   stat = pd_ConsUInt8(ctx, &pvalue->priority, 0, 7);
+   RT_CHECK(ctx, stat, 0, "priority", -1, 0);
+   /* s-PrioritySearch1 */
+   stat = pd_ConsUInt8(ctx, &pvalue->s_PrioritySearch1, 0, 31);
+   RT_CHECK(ctx, stat, 0, "s-PrioritySearch1", -1, 0);
+   /* s-PrioritySearch2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->s_PrioritySearch2, 0, 7);
+      RT_CHECK(ctx, stat, 0, "s-PrioritySearch2", -1, 0);
+   }
+   /* threshServingLow */
+   stat = pd_ConsUInt8(ctx, &pvalue->threshServingLow, 0, 31);
+   RT_CHECK(ctx, stat, 0, "threshServingLow", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UTRA_PriorityInfoList(rtxContext* RT_RESTRICT ctx, UTRA_PriorityInfoList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UTRA-PriorityInfoList");
+   /* utra-ServingCell */
+   stat = asn1PD_UMTS_UTRA_PriorityInfoList_utra_ServingCell(ctx, &pvalue->utra_ServingCell);
+   RT_CHECK(ctx, stat, 0, "utra-ServingCell", -1, "UTRA-PriorityInfoList");
+   /* utran-FDD-FrequencyList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UTRAN_FDD_FrequencyList(ctx, &pvalue->utran_FDD_FrequencyList);
+      RT_CHECK(ctx, stat, 0, "utran-FDD-FrequencyList", -1, "UTRA-PriorityInfoList");
+   }
+   /* utran-TDD-FrequencyList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UTRAN_TDD_FrequencyList(ctx, &pvalue->utran_TDD_FrequencyList);
+      RT_CHECK(ctx, stat, 0, "utran-TDD-FrequencyList", -1, "UTRA-PriorityInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRA_PriorityInfoList_v920ext(rtxContext* RT_RESTRICT ctx, UTRA_PriorityInfoList_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UTRA-PriorityInfoList-v920ext");
+   /* threshServingLow2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->threshServingLow2, 0, 31);
+      RT_CHECK(ctx, stat, 0, "threshServingLow2", -1, "UTRA-PriorityInfoList-v920ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_BCCH_ModificationTime(rtxContext* RT_RESTRICT ctx, BCCH_ModificationTime* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt16(ctx, pvalue, 0, 511);
+   RT_CHECK(ctx, stat, 0, 0, -1, "BCCH-ModificationTime");
+   return 0;
+}
+
+int asn1PD_UMTS_BCCH_ModificationInfo(rtxContext* RT_RESTRICT ctx, BCCH_ModificationInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "BCCH-ModificationInfo");
+   /* mib-ValueTag */
+   stat = pd_ConsUInt8(ctx, &pvalue->mib_ValueTag, 1, 8);
+   RT_CHECK(ctx, stat, "MIB-ValueTag", "mib-ValueTag", -1, "BCCH-ModificationInfo");
+   /* bcch-ModificationTime */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt16(ctx, &pvalue->bcch_ModificationTime, 0, 511);
+      RT_CHECK(ctx, stat, "BCCH-ModificationTime", "bcch-ModificationTime", -1, "BCCH-ModificationInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CDMA2000_Message_payload(rtxContext* RT_RESTRICT ctx, CDMA2000_Message_payload* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 1, 512);
+   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CDMA2000_Message(rtxContext* RT_RESTRICT ctx, CDMA2000_Message* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* msg-Type */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pd_BitString32(ctx, &pvalue->msg_Type, 8, 8);
+   RT_CHECK(ctx, stat, 0, "msg-Type", -1, "CDMA2000-Message");
+   /* payload */
+   stat = asn1PD_UMTS_CDMA2000_Message_payload(ctx, &pvalue->payload);
+   RT_CHECK(ctx, stat, 0, "payload", -1, "CDMA2000-Message");
+   return 0;
+}
+
+int asn1PD_UMTS_CDMA2000_MessageList(rtxContext* RT_RESTRICT ctx, CDMA2000_MessageList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
    RT_SET_SIZE(ctx, 1, 4);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CDMA2000-MessageList");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      CSGCellInfo* elem;
-      rtxCtxtPushArrayElemName(ctx, "CSGCellInfo", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CSGCellInfo));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (CSGCellInfo*)(node + 1);
+      CDMA2000_Message* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CDMA2000_Message));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CDMA2000-Message", (int32_t)i, "CDMA2000-MessageList");
+      elem = (CDMA2000_Message*)(node + 1);
       node->data = elem;
-      asn1Init_UMTS_CSGCellInfo(elem);
+      asn1Init_UMTS_CDMA2000_Message(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CSGCellInfo(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      stat = asn1PD_UMTS_CDMA2000_Message(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "CDMA2000-Message", (int32_t)i, "CDMA2000-MessageList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_CSGInterFreqCellInfo(rtxContext* ctx, CSGInterFreqCellInfo* pvalue)
+int asn1PD_UMTS_FrequencyInfoCDMA2000(rtxContext* RT_RESTRICT ctx, FrequencyInfoCDMA2000* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CSGInterFreqCellInfo");
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cSGInterFreqCellInfoListperFreq */
-   rtxCtxtPushElemName(ctx, "cSGInterFreqCellInfoListperFreq");
-   stat = asn1PD_UMTS_CSGCellInfoList(ctx, &pvalue->cSGInterFreqCellInfoListperFreq);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CSGInterFreqCellInfoList(rtxContext* ctx, CSGInterFreqCellInfoList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "CSGInterFreqCellInfoList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CSGInterFreqCellInfo* elem;
-      rtxCtxtPushArrayElemName(ctx, "CSGInterFreqCellInfo", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CSGInterFreqCellInfo));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (CSGInterFreqCellInfo*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CSGInterFreqCellInfo(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CSGInterFreqCellInfo(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CSGIntraFreqCellInfoList(rtxContext* ctx, CSGIntraFreqCellInfoList* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "CSGIntraFreqCellInfoList");
-   stat = asn1PD_UMTS_CSGCellInfoList(ctx, pvalue);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CSGProximityDetection_uTRACSGProximityDetec(rtxContext* ctx, CSGProximityDetection_uTRACSGProximityDetec* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CSGProximityDetection_e_UTRACSGProximityDetec(rtxContext* ctx, CSGProximityDetection_e_UTRACSGProximityDetec* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CSGProximityDetection(rtxContext* ctx, CSGProximityDetection* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CSGProximityDetection");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* uTRACSGProximityDetec */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "uTRACSGProximityDetec");
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->uTRACSGProximityDetec = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-UTRACSGProximityDetec */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "e-UTRACSGProximityDetec");
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->e_UTRACSGProximityDetec = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CSGProximityIndication_cSGproximityInd(rtxContext* ctx, CSGProximityIndication_cSGproximityInd* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_CSGProximityIndication_radioAccessTechnology_uTRA(rtxContext* ctx, CSGProximityIndication_radioAccessTechnology_uTRA* pvalue)
-{
-   int stat = 0;
-   /* cSGFrequencyInfoUTRA */
-   rtxCtxtPushElemName(ctx, "cSGFrequencyInfoUTRA");
-   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->cSGFrequencyInfoUTRA);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CSGProximityIndication_radioAccessTechnology_e_UTRA(rtxContext* ctx, CSGProximityIndication_radioAccessTechnology_e_UTRA* pvalue)
-{
-   int stat = 0;
-   /* cSGFrequencyInfoEUTRA */
-   rtxCtxtPushElemName(ctx, "cSGFrequencyInfoEUTRA");
-   rtxCtxtPushTypeName(ctx, "EARFCN");
-   stat = pd_ConsUInt16(ctx, &pvalue->cSGFrequencyInfoEUTRA, 0, 65535);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CSGProximityIndication_radioAccessTechnology(rtxContext* ctx, CSGProximityIndication_radioAccessTechnology* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "uTRA");
-         pvalue->u.uTRA = (CSGProximityIndication_radioAccessTechnology_uTRA*)rtxMemHeapAlloc(ctx, sizeof(CSGProximityIndication_radioAccessTechnology_uTRA));
-         if (pvalue->u.uTRA == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CSGProximityIndication_radioAccessTechnology_uTRA(pvalue->u.uTRA);
-         stat = asn1PD_UMTS_CSGProximityIndication_radioAccessTechnology_uTRA(ctx, pvalue->u.uTRA);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "e-UTRA");
-         pvalue->u.e_UTRA = (CSGProximityIndication_radioAccessTechnology_e_UTRA*)rtxMemHeapAllocZ(ctx, sizeof(CSGProximityIndication_radioAccessTechnology_e_UTRA));
-         if (pvalue->u.e_UTRA == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_CSGProximityIndication_radioAccessTechnology_e_UTRA(ctx, pvalue->u.e_UTRA);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CSGProximityIndication(rtxContext* ctx, CSGProximityIndication* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CSGProximityIndication");
-   /* cSGproximityInd */
-   rtxCtxtPushElemName(ctx, "cSGproximityInd");
-   stat = pd_ConsUnsigned(ctx, &pvalue->cSGproximityInd, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* radioAccessTechnology */
-   rtxCtxtPushElemName(ctx, "radioAccessTechnology");
-   stat = asn1PD_UMTS_CSGProximityIndication_radioAccessTechnology(ctx, &pvalue->radioAccessTechnology);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DataBitAssistance_data_bits(rtxContext* ctx, DataBitAssistance_data_bits* pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 1, 1024);
-   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_DataBitAssistance(rtxContext* ctx, DataBitAssistance* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DataBitAssistance");
-   /* ganss-signal-id */
-   rtxCtxtPushElemName(ctx, "ganss-signal-id");
-   rtxCtxtPushTypeName(ctx, "GANSS-Signal-Id");
-   stat = pd_ConsUInt8(ctx, &pvalue->ganss_signal_id, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* data-bits */
-   rtxCtxtPushElemName(ctx, "data-bits");
-   stat = asn1PD_UMTS_DataBitAssistance_data_bits(ctx, &pvalue->data_bits);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DataBitAssistanceSgnList(rtxContext* ctx, DataBitAssistanceSgnList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "DataBitAssistanceSgnList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DataBitAssistance* elem;
-      rtxCtxtPushArrayElemName(ctx, "DataBitAssistance", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DataBitAssistance));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (DataBitAssistance*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DataBitAssistance(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DataBitAssistance(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DataBitAssistanceSat(rtxContext* ctx, DataBitAssistanceSat* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DataBitAssistanceSat");
-   /* satID */
-   rtxCtxtPushElemName(ctx, "satID");
-   stat = pd_ConsUInt8(ctx, &pvalue->satID, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dataBitAssistanceSgnList */
-   rtxCtxtPushElemName(ctx, "dataBitAssistanceSgnList");
-   stat = asn1PD_UMTS_DataBitAssistanceSgnList(ctx, &pvalue->dataBitAssistanceSgnList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DataBitAssistanceList(rtxContext* ctx, DataBitAssistanceList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "DataBitAssistanceList");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DataBitAssistanceSat* elem;
-      rtxCtxtPushArrayElemName(ctx, "DataBitAssistanceSat", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DataBitAssistanceSat));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (DataBitAssistanceSat*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DataBitAssistanceSat(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DataBitAssistanceSat(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DeltaPRC(rtxContext* ctx, DeltaPRC* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "DeltaPRC");
-   stat = pd_ConsInt8(ctx, pvalue, -127, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DeltaRRC(rtxContext* ctx, DeltaRRC* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "DeltaRRC");
-   stat = pd_ConsInt8(ctx, pvalue, -7, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DeltaUT1(rtxContext* ctx, DeltaUT1* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DeltaUT1");
-   /* b1 */
-   rtxCtxtPushElemName(ctx, "b1");
+   /* band-Class */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pd_BitString32(ctx, &pvalue->band_Class, 5, 5);
+   RT_CHECK(ctx, stat, 0, "band-Class", -1, "FrequencyInfoCDMA2000");
+   /* cdma-Freq */
    RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->b1, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* b2 */
-   rtxCtxtPushElemName(ctx, "b2");
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pd_BitString32(ctx, &pvalue->b2, 10, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   stat = pd_BitString32(ctx, &pvalue->cdma_Freq, 11, 11);
+   RT_CHECK(ctx, stat, 0, "cdma-Freq", -1, "FrequencyInfoCDMA2000");
    return 0;
 }
 
-int asn1PD_UMTS_GANSS_Status_Health(rtxContext* ctx, GANSS_Status_Health* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "GANSS-Status-Health");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UDRE(rtxContext* ctx, UDRE* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "UDRE");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DGANSSSignalInformation(rtxContext* ctx, DGANSSSignalInformation* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DGANSSSignalInformation");
-   /* satId */
-   rtxCtxtPushElemName(ctx, "satId");
-   stat = pd_ConsUInt8(ctx, &pvalue->satId, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* iode-dganss */
-   rtxCtxtPushElemName(ctx, "iode-dganss");
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pd_BitString32(ctx, &pvalue->iode_dganss, 10, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* udre */
-   rtxCtxtPushElemName(ctx, "udre");
-   rtxCtxtPushTypeName(ctx, "UDRE");
-   stat = pd_ConsUnsigned(ctx, &pvalue->udre, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ganss-prc */
-   rtxCtxtPushElemName(ctx, "ganss-prc");
-   stat = pd_ConsInt16(ctx, &pvalue->ganss_prc, -2047, 2047);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganss-rrc */
-   rtxCtxtPushElemName(ctx, "ganss-rrc");
-   stat = pd_ConsInt8(ctx, &pvalue->ganss_rrc, -127, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DGANSSSignalInformationList(rtxContext* ctx, DGANSSSignalInformationList* pvalue)
+int asn1PD_UMTS_CDMA2000_UMTS_Frequency_List(rtxContext* RT_RESTRICT ctx, CDMA2000_UMTS_Frequency_List* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "DGANSSSignalInformationList");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DGANSSSignalInformation* elem;
-      rtxCtxtPushArrayElemName(ctx, "DGANSSSignalInformation", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DGANSSSignalInformation));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (DGANSSSignalInformation*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DGANSSSignalInformation(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DGANSSInfo(rtxContext* ctx, DGANSSInfo* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "DGANSSInfo");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ganssSignalId */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ganssSignalId");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "GANSS-Signal-Id");
-      stat = pd_ConsUInt8(ctx, &pvalue->ganssSignalId, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssStatusHealth */
-   rtxCtxtPushElemName(ctx, "ganssStatusHealth");
-   rtxCtxtPushTypeName(ctx, "GANSS-Status-Health");
-   stat = pd_ConsUnsigned(ctx, &pvalue->ganssStatusHealth, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dgansssignalInformationList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dgansssignalInformationList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DGANSSSignalInformationList(ctx, &pvalue->dgansssignalInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UDREGrowthRate(rtxContext* ctx, UDREGrowthRate* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "UDREGrowthRate");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UDREValidityTime(rtxContext* ctx, UDREValidityTime* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "UDREValidityTime");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DGANSSSignalInformation_r9(rtxContext* ctx, DGANSSSignalInformation_r9* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "DGANSSSignalInformation-r9");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* satId */
-   rtxCtxtPushElemName(ctx, "satId");
-   stat = pd_ConsUInt8(ctx, &pvalue->satId, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* iode-dganss */
-   rtxCtxtPushElemName(ctx, "iode-dganss");
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pd_BitString32(ctx, &pvalue->iode_dganss, 10, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* udre */
-   rtxCtxtPushElemName(ctx, "udre");
-   rtxCtxtPushTypeName(ctx, "UDRE");
-   stat = pd_ConsUnsigned(ctx, &pvalue->udre, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ganss-prc */
-   rtxCtxtPushElemName(ctx, "ganss-prc");
-   stat = pd_ConsInt16(ctx, &pvalue->ganss_prc, -2047, 2047);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganss-rrc */
-   rtxCtxtPushElemName(ctx, "ganss-rrc");
-   stat = pd_ConsInt8(ctx, &pvalue->ganss_rrc, -127, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* udreGrowthRate */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "udreGrowthRate");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "UDREGrowthRate");
-      stat = pd_ConsUnsigned(ctx, &pvalue->udreGrowthRate, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* udreValidityTime */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "udreValidityTime");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "UDREValidityTime");
-      stat = pd_ConsUnsigned(ctx, &pvalue->udreValidityTime, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DGANSSSignalInformationList_r9(rtxContext* ctx, DGANSSSignalInformationList_r9* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "DGANSSSignalInformationList-r9");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DGANSSSignalInformation_r9* elem;
-      rtxCtxtPushArrayElemName(ctx, "DGANSSSignalInformation-r9", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DGANSSSignalInformation_r9));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (DGANSSSignalInformation_r9*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DGANSSSignalInformation_r9(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DGANSSSignalInformation_r9(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DGANSSInfo_r9(rtxContext* ctx, DGANSSInfo_r9* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "DGANSSInfo-r9");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ganssSignalId */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ganssSignalId");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "GANSS-Signal-Id");
-      stat = pd_ConsUInt8(ctx, &pvalue->ganssSignalId, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssStatusHealth */
-   rtxCtxtPushElemName(ctx, "ganssStatusHealth");
-   rtxCtxtPushTypeName(ctx, "GANSS-Status-Health");
-   stat = pd_ConsUnsigned(ctx, &pvalue->ganssStatusHealth, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dgansssignalInformationList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dgansssignalInformationList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DGANSSSignalInformationList_r9(ctx, &pvalue->dgansssignalInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DGANSSSignalInformation_v920ext(rtxContext* ctx, DGANSSSignalInformation_v920ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "DGANSSSignalInformation-v920ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* udreGrowthRate */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "udreGrowthRate");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "UDREGrowthRate");
-      stat = pd_ConsUnsigned(ctx, &pvalue->udreGrowthRate, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* udreValidityTime */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "udreValidityTime");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "UDREValidityTime");
-      stat = pd_ConsUnsigned(ctx, &pvalue->udreValidityTime, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DGANSSSignalInformationList_v920ext(rtxContext* ctx, DGANSSSignalInformationList_v920ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "DGANSSSignalInformationList-v920ext");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DGANSSSignalInformation_v920ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "DGANSSSignalInformation-v920ext", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DGANSSSignalInformation_v920ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (DGANSSSignalInformation_v920ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DGANSSSignalInformation_v920ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DGANSSSignalInformation_v920ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DGANSSInfo_v920ext(rtxContext* ctx, DGANSSInfo_v920ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "DGANSSInfo-v920ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dgansssignalInformationList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dgansssignalInformationList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DGANSSSignalInformationList_v920ext(ctx, &pvalue->dgansssignalInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DGANSSInfoList(rtxContext* ctx, DGANSSInfoList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "DGANSSInfoList");
    RT_SET_SIZE(ctx, 1, 8);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CDMA2000-UMTS-Frequency-List");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      DGANSSInfo* elem;
-      rtxCtxtPushArrayElemName(ctx, "DGANSSInfo", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DGANSSInfo));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (DGANSSInfo*)(node + 1);
+      FrequencyInfoCDMA2000* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(FrequencyInfoCDMA2000));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "FrequencyInfoCDMA2000", (int32_t)i, "CDMA2000-UMTS-Frequency-List");
+      elem = (FrequencyInfoCDMA2000*)(node + 1);
       node->data = elem;
-      asn1Init_UMTS_DGANSSInfo(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DGANSSInfo(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      stat = asn1PD_UMTS_FrequencyInfoCDMA2000(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "FrequencyInfoCDMA2000", (int32_t)i, "CDMA2000-UMTS-Frequency-List");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_DGANSSInfoList_r9(rtxContext* ctx, DGANSSInfoList_r9* pvalue)
+int asn1PD_UMTS_DataTransmFrequency_dataTransmFreqGranularity(rtxContext* RT_RESTRICT ctx, DataTransmFrequency_dataTransmFreqGranularity* RT_RESTRICT pvalue)
 {
    int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "DGANSSInfoList-r9");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DGANSSInfo_r9* elem;
-      rtxCtxtPushArrayElemName(ctx, "DGANSSInfo-r9", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DGANSSInfo_r9));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (DGANSSInfo_r9*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DGANSSInfo_r9(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DGANSSInfo_r9(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DGANSSInfoList_v920ext(rtxContext* ctx, DGANSSInfoList_v920ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "DGANSSInfoList-v920ext");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DGANSSInfo_v920ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "DGANSSInfo-v920ext", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DGANSSInfo_v920ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (DGANSSInfo_v920ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DGANSSInfo_v920ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DGANSSInfo_v920ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DGANSS_Sig_Id_Req(rtxContext* ctx, DGANSS_Sig_Id_Req* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "DGANSS-Sig-Id-Req");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, pvalue, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IODE(rtxContext* ctx, IODE* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "IODE");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PRC(rtxContext* ctx, PRC* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "PRC");
-   stat = pd_ConsInt16(ctx, pvalue, -2047, 2047);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RRC(rtxContext* ctx, RRC* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "RRC");
-   stat = pd_ConsInt8(ctx, pvalue, -127, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DGPS_CorrectionSatInfo(rtxContext* ctx, DGPS_CorrectionSatInfo* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "DGPS-CorrectionSatInfo");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* satID */
-   rtxCtxtPushElemName(ctx, "satID");
-   rtxCtxtPushTypeName(ctx, "SatID");
-   stat = pd_ConsUInt8(ctx, &pvalue->satID, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* iode */
-   rtxCtxtPushElemName(ctx, "iode");
-   rtxCtxtPushTypeName(ctx, "IODE");
-   stat = pd_ConsUInt8(ctx, &pvalue->iode, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* udre */
-   rtxCtxtPushElemName(ctx, "udre");
-   rtxCtxtPushTypeName(ctx, "UDRE");
-   stat = pd_ConsUnsigned(ctx, &pvalue->udre, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* prc */
-   rtxCtxtPushElemName(ctx, "prc");
-   rtxCtxtPushTypeName(ctx, "PRC");
-   stat = pd_ConsInt16(ctx, &pvalue->prc, -2047, 2047);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* rrc */
-   rtxCtxtPushElemName(ctx, "rrc");
-   rtxCtxtPushTypeName(ctx, "RRC");
-   stat = pd_ConsInt8(ctx, &pvalue->rrc, -127, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dummy1 */
-   rtxCtxtPushElemName(ctx, "dummy1");
-   rtxCtxtPushTypeName(ctx, "DeltaPRC");
-   stat = pd_ConsInt8(ctx, &pvalue->dummy1, -127, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dummy2 */
-   rtxCtxtPushElemName(ctx, "dummy2");
-   rtxCtxtPushTypeName(ctx, "DeltaRRC");
-   stat = pd_ConsInt8(ctx, &pvalue->dummy2, -7, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dummy3 */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dummy3");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "DeltaPRC");
-      stat = pd_ConsInt8(ctx, &pvalue->dummy3, -127, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy4 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy4");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "DeltaRRC");
-      stat = pd_ConsInt8(ctx, &pvalue->dummy4, -7, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DGPS_CorrectionSatInfo_r9(rtxContext* ctx, DGPS_CorrectionSatInfo_r9* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "DGPS-CorrectionSatInfo-r9");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* satID */
-   rtxCtxtPushElemName(ctx, "satID");
-   rtxCtxtPushTypeName(ctx, "SatID");
-   stat = pd_ConsUInt8(ctx, &pvalue->satID, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* iode */
-   rtxCtxtPushElemName(ctx, "iode");
-   rtxCtxtPushTypeName(ctx, "IODE");
-   stat = pd_ConsUInt8(ctx, &pvalue->iode, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* udre */
-   rtxCtxtPushElemName(ctx, "udre");
-   rtxCtxtPushTypeName(ctx, "UDRE");
-   stat = pd_ConsUnsigned(ctx, &pvalue->udre, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* prc */
-   rtxCtxtPushElemName(ctx, "prc");
-   rtxCtxtPushTypeName(ctx, "PRC");
-   stat = pd_ConsInt16(ctx, &pvalue->prc, -2047, 2047);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* rrc */
-   rtxCtxtPushElemName(ctx, "rrc");
-   rtxCtxtPushTypeName(ctx, "RRC");
-   stat = pd_ConsInt8(ctx, &pvalue->rrc, -127, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* udreGrowthRate */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "udreGrowthRate");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "UDREGrowthRate");
-      stat = pd_ConsUnsigned(ctx, &pvalue->udreGrowthRate, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* udreValidityTime */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "udreValidityTime");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "UDREValidityTime");
-      stat = pd_ConsUnsigned(ctx, &pvalue->udreValidityTime, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DGPS_CorrectionSatInfo_v920ext(rtxContext* ctx, DGPS_CorrectionSatInfo_v920ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "DGPS-CorrectionSatInfo-v920ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* udreGrowthRate */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "udreGrowthRate");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "UDREGrowthRate");
-      stat = pd_ConsUnsigned(ctx, &pvalue->udreGrowthRate, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* udreValidityTime */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "udreValidityTime");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "UDREValidityTime");
-      stat = pd_ConsUnsigned(ctx, &pvalue->udreValidityTime, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DGPS_CorrectionSatInfoList(rtxContext* ctx, DGPS_CorrectionSatInfoList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "DGPS-CorrectionSatInfoList");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DGPS_CorrectionSatInfo* elem;
-      rtxCtxtPushArrayElemName(ctx, "DGPS-CorrectionSatInfo", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DGPS_CorrectionSatInfo));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (DGPS_CorrectionSatInfo*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DGPS_CorrectionSatInfo(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DGPS_CorrectionSatInfo(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DGPS_CorrectionSatInfoList_r9(rtxContext* ctx, DGPS_CorrectionSatInfoList_r9* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "DGPS-CorrectionSatInfoList-r9");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DGPS_CorrectionSatInfo_r9* elem;
-      rtxCtxtPushArrayElemName(ctx, "DGPS-CorrectionSatInfo-r9", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DGPS_CorrectionSatInfo_r9));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (DGPS_CorrectionSatInfo_r9*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DGPS_CorrectionSatInfo_r9(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DGPS_CorrectionSatInfo_r9(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DGPS_CorrectionSatInfoList_v920ext(rtxContext* ctx, DGPS_CorrectionSatInfoList_v920ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "DGPS-CorrectionSatInfoList-v920ext");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DGPS_CorrectionSatInfo_v920ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "DGPS-CorrectionSatInfo-v920ext", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DGPS_CorrectionSatInfo_v920ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (DGPS_CorrectionSatInfo_v920ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DGPS_CorrectionSatInfo_v920ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DGPS_CorrectionSatInfo_v920ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DiffCorrectionStatus(rtxContext* ctx, DiffCorrectionStatus* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "DiffCorrectionStatus");
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_EllipsoidPoint_latitudeSign(rtxContext* ctx, EllipsoidPoint_latitudeSign* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_EllipsoidPoint(rtxContext* ctx, EllipsoidPoint* pvalue)
+int asn1PD_UMTS_DataTransmFrequency(rtxContext* RT_RESTRICT ctx, DataTransmFrequency* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "EllipsoidPoint");
-   /* latitudeSign */
-   rtxCtxtPushElemName(ctx, "latitudeSign");
-   stat = pd_ConsUnsigned(ctx, &pvalue->latitudeSign, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* latitude */
-   rtxCtxtPushElemName(ctx, "latitude");
-   stat = pd_ConsUInt32(ctx, &pvalue->latitude, 0, 8388607);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* longitude */
-   rtxCtxtPushElemName(ctx, "longitude");
-   stat = pd_ConsInteger(ctx, &pvalue->longitude, -8388608, 8388607);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   /* dataTransmFreqGranularity */
+   stat = pd_ConsUnsigned(ctx, &pvalue->dataTransmFreqGranularity, 0, 7);
+   RT_CHECK(ctx, stat, 0, "dataTransmFreqGranularity", -1, "DataTransmFrequency");
+   /* numberOfDataTransmOcc */
+   stat = pd_ConsUInt16(ctx, &pvalue->numberOfDataTransmOcc, 1, 610);
+   RT_CHECK(ctx, stat, 0, "numberOfDataTransmOcc", -1, "DataTransmFrequency");
    return 0;
 }
 
-int asn1PD_UMTS_EllipsoidPointAltitude_latitudeSign(rtxContext* ctx, EllipsoidPointAltitude_latitudeSign* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_EllipsoidPointAltitude_altitudeDirection(rtxContext* ctx, EllipsoidPointAltitude_altitudeDirection* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_EllipsoidPointAltitude(rtxContext* ctx, EllipsoidPointAltitude* pvalue)
+int asn1PD_UMTS_DataVolumePerRB(rtxContext* RT_RESTRICT ctx, DataVolumePerRB* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "EllipsoidPointAltitude");
-   /* latitudeSign */
-   rtxCtxtPushElemName(ctx, "latitudeSign");
-   stat = pd_ConsUnsigned(ctx, &pvalue->latitudeSign, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* latitude */
-   rtxCtxtPushElemName(ctx, "latitude");
-   stat = pd_ConsUInt32(ctx, &pvalue->latitude, 0, 8388607);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* longitude */
-   rtxCtxtPushElemName(ctx, "longitude");
-   stat = pd_ConsInteger(ctx, &pvalue->longitude, -8388608, 8388607);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* altitudeDirection */
-   rtxCtxtPushElemName(ctx, "altitudeDirection");
-   stat = pd_ConsUnsigned(ctx, &pvalue->altitudeDirection, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* altitude */
-   rtxCtxtPushElemName(ctx, "altitude");
-   stat = pd_ConsUInt16(ctx, &pvalue->altitude, 0, 32767);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   /* rb-Identity */
+   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "DataVolumePerRB");
+   /* dataVolume */
+   stat = pd_ConsUInt32(ctx, &pvalue->dataVolume, 0, 4294967295LL);
+   RT_CHECK(ctx, stat, 0, "dataVolume", -1, "DataVolumePerRB");
    return 0;
 }
 
-int asn1PD_UMTS_EllipsoidPointAltitudeEllipsoide_latitudeSign(rtxContext* ctx, EllipsoidPointAltitudeEllipsoide_latitudeSign* pvalue)
+int asn1PD_UMTS_DataVolumePerRB_List(rtxContext* RT_RESTRICT ctx, DataVolumePerRB_List* RT_RESTRICT pvalue)
 {
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DataVolumePerRB-List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      DataVolumePerRB* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DataVolumePerRB));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "DataVolumePerRB", (int32_t)i, "DataVolumePerRB-List");
+      elem = (DataVolumePerRB*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_DataVolumePerRB(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "DataVolumePerRB", (int32_t)i, "DataVolumePerRB-List");
+   }
    return 0;
 }
 
-int asn1PD_UMTS_EllipsoidPointAltitudeEllipsoide_altitudeDirection(rtxContext* ctx, EllipsoidPointAltitudeEllipsoide_altitudeDirection* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_EllipsoidPointAltitudeEllipsoide(rtxContext* ctx, EllipsoidPointAltitudeEllipsoide* pvalue)
+int asn1PD_UMTS_DataVolumeHistory(rtxContext* RT_RESTRICT ctx, DataVolumeHistory* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "EllipsoidPointAltitudeEllipsoide");
-   /* latitudeSign */
-   rtxCtxtPushElemName(ctx, "latitudeSign");
-   stat = pd_ConsUnsigned(ctx, &pvalue->latitudeSign, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* latitude */
-   rtxCtxtPushElemName(ctx, "latitude");
-   stat = pd_ConsUInt32(ctx, &pvalue->latitude, 0, 8388607);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* longitude */
-   rtxCtxtPushElemName(ctx, "longitude");
-   stat = pd_ConsInteger(ctx, &pvalue->longitude, -8388608, 8388607);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* altitudeDirection */
-   rtxCtxtPushElemName(ctx, "altitudeDirection");
-   stat = pd_ConsUnsigned(ctx, &pvalue->altitudeDirection, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* altitude */
-   rtxCtxtPushElemName(ctx, "altitude");
-   stat = pd_ConsUInt16(ctx, &pvalue->altitude, 0, 32767);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* uncertaintySemiMajor */
-   rtxCtxtPushElemName(ctx, "uncertaintySemiMajor");
-   stat = pd_ConsUInt8(ctx, &pvalue->uncertaintySemiMajor, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* uncertaintySemiMinor */
-   rtxCtxtPushElemName(ctx, "uncertaintySemiMinor");
-   stat = pd_ConsUInt8(ctx, &pvalue->uncertaintySemiMinor, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* orientationMajorAxis */
-   rtxCtxtPushElemName(ctx, "orientationMajorAxis");
-   stat = pd_ConsUInt8(ctx, &pvalue->orientationMajorAxis, 0, 89);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* uncertaintyAltitude */
-   rtxCtxtPushElemName(ctx, "uncertaintyAltitude");
-   stat = pd_ConsUInt8(ctx, &pvalue->uncertaintyAltitude, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* confidence */
-   rtxCtxtPushElemName(ctx, "confidence");
-   stat = pd_ConsUInt8(ctx, &pvalue->confidence, 0, 100);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DataVolumeHistory");
+   /* dataVolumeMontoringWindow */
+   stat = pd_ConsUInt8(ctx, &pvalue->dataVolumeMontoringWindow, 1, 120);
+   RT_CHECK(ctx, stat, 0, "dataVolumeMontoringWindow", -1, "DataVolumeHistory");
+   /* dataTransmFrequency */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DataTransmFrequency(ctx, &pvalue->dataTransmFrequency);
+      RT_CHECK(ctx, stat, 0, "dataTransmFrequency", -1, "DataVolumeHistory");
+   }
+   /* dataVolumePerRB */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DataVolumePerRB_List(ctx, &pvalue->dataVolumePerRB);
+      RT_CHECK(ctx, stat, 0, "dataVolumePerRB", -1, "DataVolumeHistory");
+   }
    return 0;
 }
 
-int asn1PD_UMTS_EllipsoidPointUncertCircle_latitudeSign(rtxContext* ctx, EllipsoidPointUncertCircle_latitudeSign* pvalue)
+int asn1PD_UMTS_ETWS_Information_warningType(rtxContext* RT_RESTRICT ctx, ETWS_Information_warningType* RT_RESTRICT pvalue)
 {
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_SET_SIZE(ctx, 1, 2);
+   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_EllipsoidPointUncertCircle(rtxContext* ctx, EllipsoidPointUncertCircle* pvalue)
+int asn1PD_UMTS_ETWS_Information_messageIdentifier(rtxContext* RT_RESTRICT ctx, ETWS_Information_messageIdentifier* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 2, 2);
+   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_ETWS_Information_serialNumber(rtxContext* RT_RESTRICT ctx, ETWS_Information_serialNumber* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 2, 2);
+   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_ETWS_Information(rtxContext* RT_RESTRICT ctx, ETWS_Information* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "EllipsoidPointUncertCircle");
-   /* latitudeSign */
-   rtxCtxtPushElemName(ctx, "latitudeSign");
-   stat = pd_ConsUnsigned(ctx, &pvalue->latitudeSign, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* latitude */
-   rtxCtxtPushElemName(ctx, "latitude");
-   stat = pd_ConsUInt32(ctx, &pvalue->latitude, 0, 8388607);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* longitude */
-   rtxCtxtPushElemName(ctx, "longitude");
-   stat = pd_ConsInteger(ctx, &pvalue->longitude, -8388608, 8388607);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* uncertaintyCode */
-   rtxCtxtPushElemName(ctx, "uncertaintyCode");
-   stat = pd_ConsUInt8(ctx, &pvalue->uncertaintyCode, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   /* warningType */
+   stat = asn1PD_UMTS_ETWS_Information_warningType(ctx, &pvalue->warningType);
+   RT_CHECK(ctx, stat, 0, "warningType", -1, "ETWS-Information");
+   /* messageIdentifier */
+   stat = asn1PD_UMTS_ETWS_Information_messageIdentifier(ctx, &pvalue->messageIdentifier);
+   RT_CHECK(ctx, stat, 0, "messageIdentifier", -1, "ETWS-Information");
+   /* serialNumber */
+   stat = asn1PD_UMTS_ETWS_Information_serialNumber(ctx, &pvalue->serialNumber);
+   RT_CHECK(ctx, stat, 0, "serialNumber", -1, "ETWS-Information");
    return 0;
 }
 
-int asn1PD_UMTS_EllipsoidPointUncertEllipse_latitudeSign(rtxContext* ctx, EllipsoidPointUncertEllipse_latitudeSign* pvalue)
+int asn1PD_UMTS_ETWS_WarningSecurityInfo(rtxContext* RT_RESTRICT ctx, ETWS_WarningSecurityInfo* RT_RESTRICT pvalue)
 {
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
+   stat = pd_DynOctetString(ctx, pvalue);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ETWS-WarningSecurityInfo");
    return 0;
 }
 
-int asn1PD_UMTS_EllipsoidPointUncertEllipse(rtxContext* ctx, EllipsoidPointUncertEllipse* pvalue)
+int asn1PD_UMTS_FDD_UMTS_Frequency_List(rtxContext* RT_RESTRICT ctx, FDD_UMTS_Frequency_List* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "FDD-UMTS-Frequency-List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      FrequencyInfoFDD* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(FrequencyInfoFDD));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "FrequencyInfoFDD", (int32_t)i, "FDD-UMTS-Frequency-List");
+      elem = (FrequencyInfoFDD*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_FrequencyInfoFDD(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_FrequencyInfoFDD(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "FrequencyInfoFDD", (int32_t)i, "FDD-UMTS-Frequency-List");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GERAN_SystemInfoBlock(rtxContext* RT_RESTRICT ctx, GERAN_SystemInfoBlock* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 1, 23);
+   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK(ctx, stat, 0, 0, -1, "GERAN-SystemInfoBlock");
+   return 0;
+}
+
+int asn1PD_UMTS_GERAN_SystemInformation(rtxContext* RT_RESTRICT ctx, GERAN_SystemInformation* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 3);
+      RT_CHECK(ctx, stat, 0, 0, -1, "GERAN-SystemInformation");
+      pvalue->n = raw + 1;
+      if (raw > 7) {
+         rtxErrAddStrParm(ctx, "GERAN-SystemInformation");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "GERAN-SystemInformation");
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      asn1Init_UMTS_GERAN_SystemInfoBlock(&pvalue->elem[i]);
+      stat = asn1PD_UMTS_GERAN_SystemInfoBlock(ctx, &pvalue->elem[i]);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, 0, "GERAN-SystemInfoBlock", (int32_t)i, "GERAN-SystemInformation");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_GSM_BA_Range(rtxContext* RT_RESTRICT ctx, GSM_BA_Range* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "EllipsoidPointUncertEllipse");
-   /* latitudeSign */
-   rtxCtxtPushElemName(ctx, "latitudeSign");
-   stat = pd_ConsUnsigned(ctx, &pvalue->latitudeSign, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* latitude */
-   rtxCtxtPushElemName(ctx, "latitude");
-   stat = pd_ConsUInt32(ctx, &pvalue->latitude, 0, 8388607);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* longitude */
-   rtxCtxtPushElemName(ctx, "longitude");
-   stat = pd_ConsInteger(ctx, &pvalue->longitude, -8388608, 8388607);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* uncertaintySemiMajor */
-   rtxCtxtPushElemName(ctx, "uncertaintySemiMajor");
-   stat = pd_ConsUInt8(ctx, &pvalue->uncertaintySemiMajor, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* uncertaintySemiMinor */
-   rtxCtxtPushElemName(ctx, "uncertaintySemiMinor");
-   stat = pd_ConsUInt8(ctx, &pvalue->uncertaintySemiMinor, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* orientationMajorAxis */
-   rtxCtxtPushElemName(ctx, "orientationMajorAxis");
-   stat = pd_ConsUInt8(ctx, &pvalue->orientationMajorAxis, 0, 89);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* confidence */
-   rtxCtxtPushElemName(ctx, "confidence");
-   stat = pd_ConsUInt8(ctx, &pvalue->confidence, 0, 100);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   /* gsmLowRangeUARFCN */
+   stat = pd_ConsUInt16(ctx, &pvalue->gsmLowRangeUARFCN, 0, 16383);
+   RT_CHECK(ctx, stat, "UARFCN", "gsmLowRangeUARFCN", -1, "GSM-BA-Range");
+   /* gsmUpRangeUARFCN */
+   stat = pd_ConsUInt16(ctx, &pvalue->gsmUpRangeUARFCN, 0, 16383);
+   RT_CHECK(ctx, stat, "UARFCN", "gsmUpRangeUARFCN", -1, "GSM-BA-Range");
    return 0;
 }
 
-int asn1PD_UMTS_EnvironmentCharacterisation(rtxContext* ctx, EnvironmentCharacterisation* pvalue)
+int asn1PD_UMTS_GSM_BA_Range_List(rtxContext* RT_RESTRICT ctx, GSM_BA_Range_List* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "EnvironmentCharacterisation");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "GSM-BA-Range-List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      GSM_BA_Range* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GSM_BA_Range));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "GSM-BA-Range", (int32_t)i, "GSM-BA-Range-List");
+      elem = (GSM_BA_Range*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_GSM_BA_Range(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "GSM-BA-Range", (int32_t)i, "GSM-BA-Range-List");
+   }
    return 0;
 }
 
-int asn1PD_UMTS_Eutra_EventResult_reportedCells(rtxContext* ctx, Eutra_EventResult_reportedCells* pvalue)
+int asn1PD_UMTS_GSM_Classmark2(rtxContext* RT_RESTRICT ctx, GSM_Classmark2* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK(ctx, stat, 0, 0, -1, "GSM-Classmark2");
+   return 0;
+}
+
+int asn1PD_UMTS_GSM_Classmark3(rtxContext* RT_RESTRICT ctx, GSM_Classmark3* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK(ctx, stat, 0, 0, -1, "GSM-Classmark3");
+   return 0;
+}
+
+int asn1PD_UMTS_GSM_MessageList_element(rtxContext* RT_RESTRICT ctx, GSM_MessageList_element* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 1, 512);
+   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_GSM_MessageList(rtxContext* RT_RESTRICT ctx, GSM_MessageList* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t i;
    {
       uint32_t raw;
       stat = rtxDecBits(ctx, &raw, 2);
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, "GSM-MessageList");
       pvalue->n = raw + 1;
       if (raw > 3) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "GSM-MessageList");
          rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "GSM-MessageList");
       }
    }
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "EUTRA-PhysicalCellIdentity", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "EUTRA-PhysicalCellIdentity");
-      stat = pd_ConsUInt16(ctx, &pvalue->elem[i], 0, 503);
+      asn1Init_UMTS_GSM_MessageList_element(&pvalue->elem[i]);
+      stat = asn1PD_UMTS_GSM_MessageList_element(ctx, &pvalue->elem[i]);
       if (stat != 0) {
          pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
+         RT_FAIL(ctx, stat, 0, "element", (int32_t)i, "GSM-MessageList");
       }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
    }
    return 0;
 }
 
-int asn1PD_UMTS_Eutra_EventResult(rtxContext* ctx, Eutra_EventResult* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Eutra-EventResult");
-   /* earfcn */
-   rtxCtxtPushElemName(ctx, "earfcn");
-   rtxCtxtPushTypeName(ctx, "EARFCN");
-   stat = pd_ConsUInt16(ctx, &pvalue->earfcn, 0, 65535);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportedCells */
-   rtxCtxtPushElemName(ctx, "reportedCells");
-   stat = asn1PD_UMTS_Eutra_EventResult_reportedCells(ctx, &pvalue->reportedCells);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Eutra_EventResultList(rtxContext* ctx, Eutra_EventResultList* pvalue)
+int asn1PD_UMTS_GsmSecurityCapability(rtxContext* RT_RESTRICT ctx, GsmSecurityCapability* RT_RESTRICT pvalue)
 {
    int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "Eutra-EventResultList");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      Eutra_EventResult* elem;
-      rtxCtxtPushArrayElemName(ctx, "Eutra-EventResult", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Eutra_EventResult));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (Eutra_EventResult*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_Eutra_EventResult(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_Eutra_EventResult(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
+   RT_SET_SIZE(ctx, 7, 7);
+   stat = pd_BitString32(ctx, pvalue, 7, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "GsmSecurityCapability");
    return 0;
 }
 
-int asn1PD_UMTS_EventIDInterRAT(rtxContext* ctx, EventIDInterRAT* pvalue)
+int asn1PD_UMTS_HNBName(rtxContext* RT_RESTRICT ctx, HNBName* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "EventIDInterRAT");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_SET_SIZE(ctx, 1, 48);
+   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK(ctx, stat, 0, 0, -1, "HNBName");
    return 0;
 }
 
-int asn1PD_UMTS_EUTRA_EventResults(rtxContext* ctx, EUTRA_EventResults* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "EUTRA-EventResults");
-   /* eventID */
-   rtxCtxtPushElemName(ctx, "eventID");
-   rtxCtxtPushTypeName(ctx, "EventIDInterRAT");
-   stat = pd_ConsUnsigned(ctx, &pvalue->eventID, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* eutra-EventResultsList */
-   rtxCtxtPushElemName(ctx, "eutra-EventResultsList");
-   stat = asn1PD_UMTS_Eutra_EventResultList(ctx, &pvalue->eutra_EventResultsList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_EUTRA_MeasurementBandwidth(rtxContext* ctx, EUTRA_MeasurementBandwidth* pvalue)
+int asn1PD_UMTS_InterRAT_ChangeFailureCause(rtxContext* RT_RESTRICT ctx, InterRAT_ChangeFailureCause* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "EUTRA-MeasurementBandwidth");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRAT-ChangeFailureCause");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* configurationUnacceptable */
+         break;
+      case 1: /* physicalChannelFailure */
+         break;
+      case 2: /* protocolError */
+         pvalue->u.protocolError = (ProtocolErrorInformation*)rtxMemHeapAlloc(ctx, sizeof(ProtocolErrorInformation));
+         if (pvalue->u.protocolError == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "protocolError", -1, "InterRAT-ChangeFailureCause");
+         asn1Init_UMTS_ProtocolErrorInformation(pvalue->u.protocolError);
+         stat = asn1PD_UMTS_ProtocolErrorInformation(ctx, pvalue->u.protocolError);
+         RT_CHECK(ctx, stat, 0, "protocolError", -1, "InterRAT-ChangeFailureCause");
+         break;
+      case 3: /* unspecified */
+         break;
+      case 4: /* spare4 */
+         break;
+      case 5: /* spare3 */
+         break;
+      case 6: /* spare2 */
+         break;
+      case 7: /* spare1 */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterRAT-ChangeFailureCause");
+   }
    return 0;
 }
 
-int asn1PD_UMTS_EUTRA_FrequencyAndPriorityInfo(rtxContext* ctx, EUTRA_FrequencyAndPriorityInfo* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "EUTRA-FrequencyAndPriorityInfo");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* earfcn */
-   rtxCtxtPushElemName(ctx, "earfcn");
-   rtxCtxtPushTypeName(ctx, "EARFCN");
-   stat = pd_ConsUInt16(ctx, &pvalue->earfcn, 0, 65535);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* measurementBandwidth */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "measurementBandwidth");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "EUTRA-MeasurementBandwidth");
-      stat = pd_ConsUnsigned(ctx, &pvalue->measurementBandwidth, 0, 5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* priority */
-   rtxCtxtPushElemName(ctx, "priority");
-   stat = pd_ConsUInt8(ctx, &pvalue->priority, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* qRxLevMinEUTRA */
-   rtxCtxtPushElemName(ctx, "qRxLevMinEUTRA");
-   stat = pd_ConsInt8(ctx, &pvalue->qRxLevMinEUTRA, -70, -22);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* threshXhigh */
-   rtxCtxtPushElemName(ctx, "threshXhigh");
-   stat = pd_ConsUInt8(ctx, &pvalue->threshXhigh, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* threshXlow */
-   rtxCtxtPushElemName(ctx, "threshXlow");
-   stat = pd_ConsUInt8(ctx, &pvalue->threshXlow, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* eutra-blackListedCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "eutra-blackListedCellList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_EUTRA_BlacklistedCellPerFreqList(ctx, &pvalue->eutra_blackListedCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* eutraDetection */
-   rtxCtxtPushElemName(ctx, "eutraDetection");
-   stat = rtxDecBitInline(ctx, &pvalue->eutraDetection);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_EUTRA_FrequencyAndPriorityInfo_v920ext(rtxContext* ctx, EUTRA_FrequencyAndPriorityInfo_v920ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "EUTRA-FrequencyAndPriorityInfo-v920ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* qqualMinEUTRA */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "qqualMinEUTRA");
-      pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->qqualMinEUTRA, -34, -3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* threshXhigh2 */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "threshXhigh2");
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->threshXhigh2, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* threshXlow2 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "threshXlow2");
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->threshXlow2, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_EUTRA_FrequencyAndPriorityInfoList(rtxContext* ctx, EUTRA_FrequencyAndPriorityInfoList* pvalue)
+int asn1PD_UMTS_GERANIu_MessageList_element(rtxContext* RT_RESTRICT ctx, GERANIu_MessageList_element* RT_RESTRICT pvalue)
 {
    int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "EUTRA-FrequencyAndPriorityInfoList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      EUTRA_FrequencyAndPriorityInfo* elem;
-      rtxCtxtPushArrayElemName(ctx, "EUTRA-FrequencyAndPriorityInfo", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(EUTRA_FrequencyAndPriorityInfo));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (EUTRA_FrequencyAndPriorityInfo*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_EUTRA_FrequencyAndPriorityInfo(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_EUTRA_FrequencyAndPriorityInfo(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
+   RT_SET_SIZE(ctx, 1, 32768);
+   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_EUTRA_FrequencyAndPriorityInfoList_v920ext(rtxContext* ctx, EUTRA_FrequencyAndPriorityInfoList_v920ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "EUTRA-FrequencyAndPriorityInfoList-v920ext");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      EUTRA_FrequencyAndPriorityInfo_v920ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "EUTRA-FrequencyAndPriorityInfo-v920ext", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(EUTRA_FrequencyAndPriorityInfo_v920ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (EUTRA_FrequencyAndPriorityInfo_v920ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_EUTRA_FrequencyAndPriorityInfo_v920ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_EUTRA_FrequencyAndPriorityInfo_v920ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_EUTRA_FrequencyRemoval_removeSomeFrequencies(rtxContext* ctx, EUTRA_FrequencyRemoval_removeSomeFrequencies* pvalue)
+int asn1PD_UMTS_GERANIu_MessageList(rtxContext* RT_RESTRICT ctx, GERANIu_MessageList* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t i;
    {
       uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat);
+      stat = rtxDecBits(ctx, &raw, 2);
+      RT_CHECK(ctx, stat, 0, 0, -1, "GERANIu-MessageList");
       pvalue->n = raw + 1;
-      if (raw > 7) {
-         rtxErrAddElemNameParm(ctx);
+      if (raw > 3) {
+         rtxErrAddStrParm(ctx, "GERANIu-MessageList");
          rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "GERANIu-MessageList");
       }
    }
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "EARFCN", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "EARFCN");
-      stat = pd_ConsUInt16(ctx, &pvalue->elem[i], 0, 65535);
+      asn1Init_UMTS_GERANIu_MessageList_element(&pvalue->elem[i]);
+      stat = asn1PD_UMTS_GERANIu_MessageList_element(ctx, &pvalue->elem[i]);
       if (stat != 0) {
          pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
+         RT_FAIL(ctx, stat, 0, "element", (int32_t)i, "GERANIu-MessageList");
       }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
    }
    return 0;
 }
 
-int asn1PD_UMTS_EUTRA_FrequencyRemoval(rtxContext* ctx, EUTRA_FrequencyRemoval* pvalue)
+int asn1PD_UMTS_GERANIu_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, GERANIu_RadioAccessCapability* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 1, 170);
+   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK(ctx, stat, 0, 0, -1, "GERANIu-RadioAccessCapability");
+   return 0;
+}
+
+int asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_gsm(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability_gsm* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* gsm-Classmark2 */
+   stat = asn1PD_UMTS_GSM_Classmark2(ctx, &pvalue->gsm_Classmark2);
+   RT_CHECK(ctx, stat, 0, "gsm-Classmark2", -1, 0);
+   /* gsm-Classmark3 */
+   stat = asn1PD_UMTS_GSM_Classmark3(ctx, &pvalue->gsm_Classmark3);
+   RT_CHECK(ctx, stat, 0, "gsm-Classmark3", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_cdma2000(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability_cdma2000* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* cdma2000-MessageList */
+   stat = asn1PD_UMTS_CDMA2000_MessageList(ctx, &pvalue->cdma2000_MessageList);
+   RT_CHECK(ctx, stat, 0, "cdma2000-MessageList", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_InterRAT_UE_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "EUTRA-FrequencyRemoval");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRAT-UE-RadioAccessCapability");
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "removeAllFrequencies");
-         rtxCtxtPopElemName(ctx);
+      case 0: /* gsm */
+         pvalue->u.gsm = (InterRAT_UE_RadioAccessCapability_gsm*)rtxMemHeapAlloc(ctx, sizeof(InterRAT_UE_RadioAccessCapability_gsm));
+         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm", -1, "InterRAT-UE-RadioAccessCapability");
+         asn1Init_UMTS_InterRAT_UE_RadioAccessCapability_gsm(pvalue->u.gsm);
+         stat = asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_gsm(ctx, pvalue->u.gsm);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, "InterRAT-UE-RadioAccessCapability");
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "removeSomeFrequencies");
-         pvalue->u.removeSomeFrequencies = (EUTRA_FrequencyRemoval_removeSomeFrequencies*)rtxMemHeapAlloc(ctx, sizeof(EUTRA_FrequencyRemoval_removeSomeFrequencies));
-         if (pvalue->u.removeSomeFrequencies == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_EUTRA_FrequencyRemoval_removeSomeFrequencies(pvalue->u.removeSomeFrequencies);
-         stat = asn1PD_UMTS_EUTRA_FrequencyRemoval_removeSomeFrequencies(ctx, pvalue->u.removeSomeFrequencies);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "removeNoFrequencies");
-         rtxCtxtPopElemName(ctx);
+      case 1: /* cdma2000 */
+         pvalue->u.cdma2000 = (InterRAT_UE_RadioAccessCapability_cdma2000*)rtxMemHeapAlloc(ctx, sizeof(InterRAT_UE_RadioAccessCapability_cdma2000));
+         if (pvalue->u.cdma2000 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cdma2000", -1, "InterRAT-UE-RadioAccessCapability");
+         asn1Init_UMTS_InterRAT_UE_RadioAccessCapability_cdma2000(pvalue->u.cdma2000);
+         stat = asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_cdma2000(ctx, pvalue->u.cdma2000);
+         RT_CHECK(ctx, stat, 0, "cdma2000", -1, "InterRAT-UE-RadioAccessCapability");
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterRAT-UE-RadioAccessCapability");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_EUTRA_FrequencyInfo(rtxContext* ctx, EUTRA_FrequencyInfo* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "EUTRA-FrequencyInfo");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* earfcn */
-   rtxCtxtPushElemName(ctx, "earfcn");
-   rtxCtxtPushTypeName(ctx, "EARFCN");
-   stat = pd_ConsUInt16(ctx, &pvalue->earfcn, 0, 65535);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* measurementBandwidth */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "measurementBandwidth");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "EUTRA-MeasurementBandwidth");
-      stat = pd_ConsUnsigned(ctx, &pvalue->measurementBandwidth, 0, 5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* eutra-blackListedCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "eutra-blackListedCellList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_EUTRA_BlacklistedCellPerFreqList(ctx, &pvalue->eutra_blackListedCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_EUTRA_FrequencyInfoList(rtxContext* ctx, EUTRA_FrequencyInfoList* pvalue)
+int asn1PD_UMTS_InterRAT_UE_RadioAccessCapabilityList(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapabilityList* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "EUTRA-FrequencyInfoList");
-   RT_SET_SIZE(ctx, 1, 8);
+   RT_SET_SIZE(ctx, 1, 4);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRAT-UE-RadioAccessCapabilityList");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      EUTRA_FrequencyInfo* elem;
-      rtxCtxtPushArrayElemName(ctx, "EUTRA-FrequencyInfo", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(EUTRA_FrequencyInfo));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (EUTRA_FrequencyInfo*)(node + 1);
+      InterRAT_UE_RadioAccessCapability* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(InterRAT_UE_RadioAccessCapability));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "InterRAT-UE-RadioAccessCapability", (int32_t)i, "InterRAT-UE-RadioAccessCapabilityList");
+      elem = (InterRAT_UE_RadioAccessCapability*)(node + 1);
       node->data = elem;
-      asn1Init_UMTS_EUTRA_FrequencyInfo(elem);
+      asn1Init_UMTS_InterRAT_UE_RadioAccessCapability(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_EUTRA_FrequencyInfo(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      stat = asn1PD_UMTS_InterRAT_UE_RadioAccessCapability(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "InterRAT-UE-RadioAccessCapability", (int32_t)i, "InterRAT-UE-RadioAccessCapabilityList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_EUTRA_FrequencyList(rtxContext* ctx, EUTRA_FrequencyList* pvalue)
+int asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_v590ext(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability_v590ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* geranIu-RadioAccessCapability */
+   stat = asn1PD_UMTS_GERANIu_RadioAccessCapability(ctx, &pvalue->geranIu_RadioAccessCapability);
+   RT_CHECK(ctx, stat, 0, "geranIu-RadioAccessCapability", -1, "InterRAT-UE-RadioAccessCapability-v590ext");
+   return 0;
+}
+
+int asn1PD_UMTS_InterRAT_UE_SecurityCapability_gsm(rtxContext* RT_RESTRICT ctx, InterRAT_UE_SecurityCapability_gsm* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* gsmSecurityCapability */
+   stat = asn1PD_UMTS_GsmSecurityCapability(ctx, &pvalue->gsmSecurityCapability);
+   RT_CHECK(ctx, stat, 0, "gsmSecurityCapability", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_InterRAT_UE_SecurityCapability(rtxContext* RT_RESTRICT ctx, InterRAT_UE_SecurityCapability* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRAT-UE-SecurityCapability");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* gsm */
+         pvalue->u.gsm = (InterRAT_UE_SecurityCapability_gsm*)rtxMemHeapAlloc(ctx, sizeof(InterRAT_UE_SecurityCapability_gsm));
+         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm", -1, "InterRAT-UE-SecurityCapability");
+         asn1Init_UMTS_InterRAT_UE_SecurityCapability_gsm(pvalue->u.gsm);
+         stat = asn1PD_UMTS_InterRAT_UE_SecurityCapability_gsm(ctx, pvalue->u.gsm);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, "InterRAT-UE-SecurityCapability");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterRAT-UE-SecurityCapability");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRAT_UE_SecurityCapList(rtxContext* RT_RESTRICT ctx, InterRAT_UE_SecurityCapList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRAT-UE-SecurityCapList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      InterRAT_UE_SecurityCapability* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(InterRAT_UE_SecurityCapability));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "InterRAT-UE-SecurityCapability", (int32_t)i, "InterRAT-UE-SecurityCapList");
+      elem = (InterRAT_UE_SecurityCapability*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_InterRAT_UE_SecurityCapability(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_InterRAT_UE_SecurityCapability(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "InterRAT-UE-SecurityCapability", (int32_t)i, "InterRAT-UE-SecurityCapList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRAT_HO_FailureCause(rtxContext* RT_RESTRICT ctx, InterRAT_HO_FailureCause* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRAT-HO-FailureCause");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* configurationUnacceptable */
+         break;
+      case 1: /* physicalChannelFailure */
+         break;
+      case 2: /* protocolError */
+         pvalue->u.protocolError = (ProtocolErrorInformation*)rtxMemHeapAlloc(ctx, sizeof(ProtocolErrorInformation));
+         if (pvalue->u.protocolError == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "protocolError", -1, "InterRAT-HO-FailureCause");
+         asn1Init_UMTS_ProtocolErrorInformation(pvalue->u.protocolError);
+         stat = asn1PD_UMTS_ProtocolErrorInformation(ctx, pvalue->u.protocolError);
+         RT_CHECK(ctx, stat, 0, "protocolError", -1, "InterRAT-HO-FailureCause");
+         break;
+      case 3: /* interRAT-ProtocolError */
+         break;
+      case 4: /* unspecified */
+         break;
+      case 5: /* spare11 */
+         break;
+      case 6: /* spare10 */
+         break;
+      case 7: /* spare9 */
+         break;
+      case 8: /* spare8 */
+         break;
+      case 9: /* spare7 */
+         break;
+      case 10: /* spare6 */
+         break;
+      case 11: /* spare5 */
+         break;
+      case 12: /* spare4 */
+         break;
+      case 13: /* spare3 */
+         break;
+      case 14: /* spare2 */
+         break;
+      case 15: /* spare1 */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterRAT-HO-FailureCause");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TDD_UMTS_Frequency_List(rtxContext* RT_RESTRICT ctx, TDD_UMTS_Frequency_List* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TDD-UMTS-Frequency-List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      FrequencyInfoTDD* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(FrequencyInfoTDD));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "FrequencyInfoTDD", (int32_t)i, "TDD-UMTS-Frequency-List");
+      elem = (FrequencyInfoTDD*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "FrequencyInfoTDD", (int32_t)i, "TDD-UMTS-Frequency-List");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Rplmn_Information(rtxContext* RT_RESTRICT ctx, Rplmn_Information* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "EUTRA-FrequencyList");
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Rplmn-Information");
+   /* gsm-BA-Range-List */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_GSM_BA_Range_List(ctx, &pvalue->gsm_BA_Range_List);
+      RT_CHECK(ctx, stat, 0, "gsm-BA-Range-List", -1, "Rplmn-Information");
+   }
+   /* fdd-UMTS-Frequency-List */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_FDD_UMTS_Frequency_List(ctx, &pvalue->fdd_UMTS_Frequency_List);
+      RT_CHECK(ctx, stat, 0, "fdd-UMTS-Frequency-List", -1, "Rplmn-Information");
+   }
+   /* tdd-UMTS-Frequency-List */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_TDD_UMTS_Frequency_List(ctx, &pvalue->tdd_UMTS_Frequency_List);
+      RT_CHECK(ctx, stat, 0, "tdd-UMTS-Frequency-List", -1, "Rplmn-Information");
+   }
+   /* cdma2000-UMTS-Frequency-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_CDMA2000_UMTS_Frequency_List(ctx, &pvalue->cdma2000_UMTS_Frequency_List);
+      RT_CHECK(ctx, stat, 0, "cdma2000-UMTS-Frequency-List", -1, "Rplmn-Information");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_Rplmn_Information_r4(rtxContext* RT_RESTRICT ctx, Rplmn_Information_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Rplmn-Information-r4");
+   /* gsm-BA-Range-List */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_GSM_BA_Range_List(ctx, &pvalue->gsm_BA_Range_List);
+      RT_CHECK(ctx, stat, 0, "gsm-BA-Range-List", -1, "Rplmn-Information-r4");
+   }
+   /* fdd-UMTS-Frequency-List */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_FDD_UMTS_Frequency_List(ctx, &pvalue->fdd_UMTS_Frequency_List);
+      RT_CHECK(ctx, stat, 0, "fdd-UMTS-Frequency-List", -1, "Rplmn-Information-r4");
+   }
+   /* tdd384-UMTS-Frequency-List */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_TDD_UMTS_Frequency_List(ctx, &pvalue->tdd384_UMTS_Frequency_List);
+      RT_CHECK(ctx, stat, 0, "tdd384-UMTS-Frequency-List", -1, "Rplmn-Information-r4");
+   }
+   /* tdd128-UMTS-Frequency-List */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_TDD_UMTS_Frequency_List(ctx, &pvalue->tdd128_UMTS_Frequency_List);
+      RT_CHECK(ctx, stat, 0, "tdd128-UMTS-Frequency-List", -1, "Rplmn-Information-r4");
+   }
+   /* cdma2000-UMTS-Frequency-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_CDMA2000_UMTS_Frequency_List(ctx, &pvalue->cdma2000_UMTS_Frequency_List);
+      RT_CHECK(ctx, stat, 0, "cdma2000-UMTS-Frequency-List", -1, "Rplmn-Information-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType4_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType4_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* eutraFrequencyRemoval */
-   rtxCtxtPushElemName(ctx, "eutraFrequencyRemoval");
-   stat = asn1PD_UMTS_EUTRA_FrequencyRemoval(ctx, &pvalue->eutraFrequencyRemoval);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* eutraNewFrequencies */
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType4-v4b0ext-IEs");
+   /* mapping-LCR */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "eutraNewFrequencies");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_EUTRA_FrequencyInfoList(ctx, &pvalue->eutraNewFrequencies);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_Mapping_LCR_r4(ctx, &pvalue->mapping_LCR);
+      RT_CHECK(ctx, stat, 0, "mapping-LCR", -1, "SysInfoType4-v4b0ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_EUTRA_SIAcquisition(rtxContext* ctx, EUTRA_SIAcquisition* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "EUTRA-SIAcquisition");
-   /* earfcn */
-   rtxCtxtPushElemName(ctx, "earfcn");
-   rtxCtxtPushTypeName(ctx, "EARFCN");
-   stat = pd_ConsUInt16(ctx, &pvalue->earfcn, 0, 65535);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* physicalCellIdentity */
-   rtxCtxtPushElemName(ctx, "physicalCellIdentity");
-   rtxCtxtPushTypeName(ctx, "EUTRA-PhysicalCellIdentity");
-   stat = pd_ConsUInt16(ctx, &pvalue->physicalCellIdentity, 0, 503);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_EUTRA_FrequencyList_r9(rtxContext* ctx, EUTRA_FrequencyList_r9* pvalue)
+int asn1PD_UMTS_SysInfoType4_v590ext(rtxContext* RT_RESTRICT ctx, SysInfoType4_v590ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "EUTRA-FrequencyList-r9");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* eutraFrequencyRemoval */
-   rtxCtxtPushElemName(ctx, "eutraFrequencyRemoval");
-   stat = asn1PD_UMTS_EUTRA_FrequencyRemoval(ctx, &pvalue->eutraFrequencyRemoval);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* eutraNewFrequencies */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "eutraNewFrequencies");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_EUTRA_FrequencyInfoList(ctx, &pvalue->eutraNewFrequencies);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* eutraSIAcquisition */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType4-v590ext");
+   /* cellSelectReselectInfo-v590ext */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "eutraSIAcquisition");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_EUTRA_SIAcquisition(ctx, &pvalue->eutraSIAcquisition);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellSelectReselectInfo_v590ext(ctx, &pvalue->cellSelectReselectInfo_v590ext);
+      RT_CHECK(ctx, stat, 0, "cellSelectReselectInfo-v590ext", -1, "SysInfoType4-v590ext");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_EUTRA_MeasuredCells(rtxContext* ctx, EUTRA_MeasuredCells* pvalue)
+int asn1PD_UMTS_SysInfoType4_v5b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType4_v5b0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "EUTRA-MeasuredCells");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* physicalCellIdentity */
-   rtxCtxtPushElemName(ctx, "physicalCellIdentity");
-   rtxCtxtPushTypeName(ctx, "EUTRA-PhysicalCellIdentity");
-   stat = pd_ConsUInt16(ctx, &pvalue->physicalCellIdentity, 0, 503);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* rSRP */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "rSRP");
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->rSRP, 0, 97);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rSRQ */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType4-v5b0ext-IEs");
+   /* cellSelectReselectInfoPCHFACH-v5b0ext */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "rSRQ");
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->rSRQ, 0, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Eutra_MeasuredResult_measuredEUTRACells(rtxContext* ctx, Eutra_MeasuredResult_measuredEUTRACells* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      EUTRA_MeasuredCells* elem;
-      rtxCtxtPushArrayElemName(ctx, "EUTRA-MeasuredCells", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(EUTRA_MeasuredCells));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (EUTRA_MeasuredCells*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_EUTRA_MeasuredCells(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_EUTRA_MeasuredCells(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellSelectReselectInfoPCHFACH_v5b0ext(ctx, &pvalue->cellSelectReselectInfoPCHFACH_v5b0ext);
+      RT_CHECK(ctx, stat, 0, "cellSelectReselectInfoPCHFACH-v5b0ext", -1, "SysInfoType4-v5b0ext-IEs");
    }
    return 0;
 }
 
-int asn1PD_UMTS_Eutra_MeasuredResult(rtxContext* ctx, Eutra_MeasuredResult* pvalue)
+int asn1PD_UMTS_SysInfoType4_v5c0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType4_v5c0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Eutra-MeasuredResult");
-   /* earfcn */
-   rtxCtxtPushElemName(ctx, "earfcn");
-   rtxCtxtPushTypeName(ctx, "EARFCN");
-   stat = pd_ConsUInt16(ctx, &pvalue->earfcn, 0, 65535);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* measuredEUTRACells */
-   rtxCtxtPushElemName(ctx, "measuredEUTRACells");
-   stat = asn1PD_UMTS_Eutra_MeasuredResult_measuredEUTRACells(ctx, &pvalue->measuredEUTRACells);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Eutra_MeasuredResultList(rtxContext* ctx, Eutra_MeasuredResultList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "Eutra-MeasuredResultList");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      Eutra_MeasuredResult* elem;
-      rtxCtxtPushArrayElemName(ctx, "Eutra-MeasuredResult", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Eutra_MeasuredResult));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (Eutra_MeasuredResult*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_Eutra_MeasuredResult(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_Eutra_MeasuredResult(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType4-v5c0ext-IEs");
+   /* cellSelectReselectInfoTreselectionScaling-v5c0ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellSelectReselectInfoTreselectionScaling_v5c0ext(ctx, &pvalue->cellSelectReselectInfoTreselectionScaling_v5c0ext);
+      RT_CHECK(ctx, stat, 0, "cellSelectReselectInfoTreselectionScaling-v5c0ext", -1, "SysInfoType4-v5c0ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_EUTRA_MeasuredResults(rtxContext* ctx, EUTRA_MeasuredResults* pvalue)
+int asn1PD_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "EUTRA-MeasuredResults");
-   /* eutraMeasuredResultList */
-   rtxCtxtPushElemName(ctx, "eutraMeasuredResultList");
-   stat = asn1PD_UMTS_Eutra_MeasuredResultList(ctx, &pvalue->eutraMeasuredResultList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_EUTRA_SIacquisitionResults_cgiInfo(rtxContext* ctx, EUTRA_SIacquisitionResults_cgiInfo* pvalue)
+int asn1PD_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   /* plmn-Identity */
-   rtxCtxtPushElemName(ctx, "plmn-Identity");
-   stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType4-v5c0ext */
+   stat = asn1PD_UMTS_SysInfoType4_v5c0ext_IEs(ctx, &pvalue->sysInfoType4_v5c0ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType4-v5c0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType4-v5b0ext */
+   stat = asn1PD_UMTS_SysInfoType4_v5b0ext_IEs(ctx, &pvalue->sysInfoType4_v5b0ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType4-v5b0ext", -1, 0);
+   /* v5c0NonCriticalExtension */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension(ctx, &pvalue->v5c0NonCriticalExtension);
+      RT_CHECK(ctx, stat, 0, "v5c0NonCriticalExtension", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* RT_RESTRICT ctx, SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType4-v590ext */
+   stat = asn1PD_UMTS_SysInfoType4_v590ext(ctx, &pvalue->sysInfoType4_v590ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType4-v590ext", -1, 0);
+   /* v5b0NonCriticalExtension */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension(ctx, &pvalue->v5b0NonCriticalExtension);
+      RT_CHECK(ctx, stat, 0, "v5b0NonCriticalExtension", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType4_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType4_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType4-v4b0ext */
+   stat = asn1PD_UMTS_SysInfoType4_v4b0ext_IEs(ctx, &pvalue->sysInfoType4_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType4-v4b0ext", -1, 0);
+   /* v590NonCriticalExtension */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension(ctx, &pvalue->v590NonCriticalExtension);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtension", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType4(rtxContext* RT_RESTRICT ctx, SysInfoType4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType4");
    /* cellIdentity */
-   rtxCtxtPushElemName(ctx, "cellIdentity");
-   RT_SET_SIZE(ctx, 28, 28);
-   stat = pd_BitString32(ctx, &pvalue->cellIdentity, 28, 28);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* trackingAreaCode */
-   rtxCtxtPushElemName(ctx, "trackingAreaCode");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->trackingAreaCode, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   stat = asn1PD_UMTS_CellIdentity(ctx, &pvalue->cellIdentity);
+   RT_CHECK(ctx, stat, 0, "cellIdentity", -1, "SysInfoType4");
+   /* cellSelectReselectInfo */
+   stat = asn1PD_UMTS_CellSelectReselectInfoSIB_3_4(ctx, &pvalue->cellSelectReselectInfo);
+   RT_CHECK(ctx, stat, 0, "cellSelectReselectInfo", -1, "SysInfoType4");
+   /* cellAccessRestriction */
+   stat = asn1PD_UMTS_CellAccessRestriction(ctx, &pvalue->cellAccessRestriction);
+   RT_CHECK(ctx, stat, 0, "cellAccessRestriction", -1, "SysInfoType4");
+   /* v4b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType4_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType4");
+   }
    return 0;
 }
 
-int asn1PD_UMTS_EUTRA_SIacquisitionResults_csgMemberIndication(rtxContext* ctx, EUTRA_SIacquisitionResults_csgMemberIndication* pvalue)
+int asn1PD_UMTS_SysInfoType5bis(rtxContext* RT_RESTRICT ctx, SysInfoType5bis* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = asn1PD_UMTS_SysInfoType5(ctx, pvalue);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5bis");
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SysInfoType6_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* aich-PowerOffset */
+   stat = pd_ConsInt8(ctx, &pvalue->aich_PowerOffset, -22, 5);
+   RT_CHECK(ctx, stat, "AICH-PowerOffset", "aich-PowerOffset", -1, 0);
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8(ctx, &pvalue->dummy, -10, 5);
+      RT_CHECK(ctx, stat, "CSICH-PowerOffset", "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, SysInfoType6_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* pusch-SysInfoList-SFN */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PUSCH_SysInfoList_SFN(ctx, &pvalue->pusch_SysInfoList_SFN);
+      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
+   }
+   /* pdsch-SysInfoList-SFN */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_PDSCH_SysInfoList_SFN(ctx, &pvalue->pdsch_SysInfoList_SFN);
+      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
+   }
+   /* openLoopPowerControl-TDD */
+   stat = asn1PD_UMTS_OpenLoopPowerControl_TDD(ctx, &pvalue->openLoopPowerControl_TDD);
+   RT_CHECK(ctx, stat, 0, "openLoopPowerControl-TDD", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType6_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (SysInfoType6_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(SysInfoType6_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_SysInfoType6_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_SysInfoType6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (SysInfoType6_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(SysInfoType6_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_SysInfoType6_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_SysInfoType6_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType6_v4b0ext_IEs_tdd128SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0ext_IEs_tdd128SpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* pusch-SysInfoList-SFN */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PUSCH_SysInfoList_SFN_LCR_r4(ctx, &pvalue->pusch_SysInfoList_SFN);
+      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
+   }
+   /* pdsch-SysInfoList-SFN */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_PDSCH_SysInfoList_SFN_LCR_r4(ctx, &pvalue->pdsch_SysInfoList_SFN);
+      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
+   }
+   /* pCCPCH-LCR-Extensions */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_PrimaryCCPCH_Info_LCR_r4_ext(ctx, &pvalue->pCCPCH_LCR_Extensions);
+      RT_CHECK(ctx, stat, 0, "pCCPCH-LCR-Extensions", -1, 0);
+   }
+   /* sCCPCH-LCR-ExtensionsList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_SCCPCH_SystemInformationList_LCR_r4_ext(ctx, &pvalue->sCCPCH_LCR_ExtensionsList);
+      RT_CHECK(ctx, stat, 0, "sCCPCH-LCR-ExtensionsList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType6_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType6-v4b0ext-IEs");
+   /* openLoopPowerControl-IPDL-TDD */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_OpenLoopPowerControl_IPDL_TDD_r4(ctx, &pvalue->openLoopPowerControl_IPDL_TDD);
+      RT_CHECK(ctx, stat, 0, "openLoopPowerControl-IPDL-TDD", -1, "SysInfoType6-v4b0ext-IEs");
+   }
+   /* prach-SystemInformationList-LCR-r4 */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_PRACH_SystemInformationList_LCR_r4(ctx, &pvalue->prach_SystemInformationList_LCR_r4);
+      RT_CHECK(ctx, stat, 0, "prach-SystemInformationList-LCR-r4", -1, "SysInfoType6-v4b0ext-IEs");
+   }
+   /* tdd128SpecificInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_SysInfoType6_v4b0ext_IEs_tdd128SpecificInfo(ctx, &pvalue->tdd128SpecificInfo);
+      RT_CHECK(ctx, stat, 0, "tdd128SpecificInfo", -1, "SysInfoType6-v4b0ext-IEs");
+   }
+   /* frequencyBandIndicator */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->frequencyBandIndicator, 0, 7);
+      RT_CHECK(ctx, stat, "RadioFrequencyBandFDD", "frequencyBandIndicator", -1, "SysInfoType6-v4b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType6_v590ext_IEs_hcr_r5_SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType6_v590ext_IEs_hcr_r5_SpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* pusch-SysInfoList-SFN */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PUSCH_SysInfoList_SFN_HCR_r5(ctx, &pvalue->pusch_SysInfoList_SFN);
+      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
+   }
+   /* pdsch-SysInfoList-SFN */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_PDSCH_SysInfoList_SFN_HCR_r5(ctx, &pvalue->pdsch_SysInfoList_SFN);
+      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType6_v590ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType6_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType6-v590ext-IEs");
+   /* hcr-r5-SpecificInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType6_v590ext_IEs_hcr_r5_SpecificInfo(ctx, &pvalue->hcr_r5_SpecificInfo);
+      RT_CHECK(ctx, stat, 0, "hcr-r5-SpecificInfo", -1, "SysInfoType6-v590ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType6_v650ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType6_v650ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* frequencyBandIndicator2 */
+   stat = pd_ConsUnsigned(ctx, &pvalue->frequencyBandIndicator2, 0, 15);
+   RT_CHECK(ctx, stat, "RadioFrequencyBandFDD2", "frequencyBandIndicator2", -1, "SysInfoType6-v650ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType6_v690ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType6_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType6-v690ext-IEs");
+   /* additionalPRACH-TF-and-TFCS-CCCH-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH_List(ctx, &pvalue->additionalPRACH_TF_and_TFCS_CCCH_List);
+      RT_CHECK(ctx, stat, 0, "additionalPRACH-TF-and-TFCS-CCCH-List", -1, "SysInfoType6-v690ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType6_v770ext_IEs_tdd768SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType6_v770ext_IEs_tdd768SpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* pusch-SysInfoList-SFN */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PUSCH_SysInfoList_SFN_VHCR(ctx, &pvalue->pusch_SysInfoList_SFN);
+      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
+   }
+   /* pdsch-SysInfoList-SFN */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_PDSCH_SysInfoList_VHCR_r7(ctx, &pvalue->pdsch_SysInfoList_SFN);
+      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
+   }
+   /* prach-SystemInformationList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_PRACH_SystemInformationList_VHCR_r7(ctx, &pvalue->prach_SystemInformationList);
+      RT_CHECK(ctx, stat, 0, "prach-SystemInformationList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType6_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType6_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType6-v770ext-IEs");
+   /* tdd768SpecificInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType6_v770ext_IEs_tdd768SpecificInfo(ctx, &pvalue->tdd768SpecificInfo);
+      RT_CHECK(ctx, stat, 0, "tdd768SpecificInfo", -1, "SysInfoType6-v770ext-IEs");
+   }
+   /* sccpch-SystemInformationList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SCCPCH_SystemInformationList_HCR_VHCR_r7(ctx, &pvalue->sccpch_SystemInformationList);
+      RT_CHECK(ctx, stat, 0, "sccpch-SystemInformationList", -1, "SysInfoType6-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType6-v770ext */
+   stat = asn1PD_UMTS_SysInfoType6_v770ext_IEs(ctx, &pvalue->sysInfoType6_v770ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType6-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType6-v690ext */
+   stat = asn1PD_UMTS_SysInfoType6_v690ext_IEs(ctx, &pvalue->sysInfoType6_v690ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType6-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType6-v650ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType6_v650ext_IEs(ctx, &pvalue->sysInfoType6_v650ext);
+      RT_CHECK(ctx, stat, 0, "sysInfoType6-v650ext", -1, 0);
+   }
+   /* v690nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions(ctx, &pvalue->v690nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType6-v590ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType6_v590ext_IEs(ctx, &pvalue->sysInfoType6_v590ext);
+      RT_CHECK(ctx, stat, 0, "sysInfoType6-v590ext", -1, 0);
+   }
+   /* v650nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions(ctx, &pvalue->v650nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v650nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType6_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType6-v4b0ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType6_v4b0ext_IEs(ctx, &pvalue->sysInfoType6_v4b0ext);
+      RT_CHECK(ctx, stat, 0, "sysInfoType6-v4b0ext", -1, 0);
+   }
+   /* v590NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType6(rtxContext* RT_RESTRICT ctx, SysInfoType6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType6");
+   /* pich-PowerOffset */
+   stat = pd_ConsInt8(ctx, &pvalue->pich_PowerOffset, -10, 5);
+   RT_CHECK(ctx, stat, "PICH-PowerOffset", "pich-PowerOffset", -1, "SysInfoType6");
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_SysInfoType6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SysInfoType6");
+   /* primaryCCPCH-Info */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info);
+      RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "SysInfoType6");
+   }
+   /* prach-SystemInformationList */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_PRACH_SystemInformationList(ctx, &pvalue->prach_SystemInformationList);
+      RT_CHECK(ctx, stat, 0, "prach-SystemInformationList", -1, "SysInfoType6");
+   }
+   /* sCCPCH-SystemInformationList */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_SCCPCH_SystemInformationList(ctx, &pvalue->sCCPCH_SystemInformationList);
+      RT_CHECK(ctx, stat, 0, "sCCPCH-SystemInformationList", -1, "SysInfoType6");
+   }
+   /* cbs-DRX-Level1Information */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_CBS_DRX_Level1Information(ctx, &pvalue->cbs_DRX_Level1Information);
+      RT_CHECK(ctx, stat, 0, "cbs-DRX-Level1Information", -1, "SysInfoType6");
+   }
+   /* v4b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType8_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType8_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType8(rtxContext* RT_RESTRICT ctx, SysInfoType8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType8");
+   /* dummy1 */
+   stat = asn1PD_UMTS_CPCH_Parameters(ctx, &pvalue->dummy1);
+   RT_CHECK(ctx, stat, 0, "dummy1", -1, "SysInfoType8");
+   /* dummy2 */
+   stat = asn1PD_UMTS_CPCH_SetInfoList(ctx, &pvalue->dummy2);
+   RT_CHECK(ctx, stat, 0, "dummy2", -1, "SysInfoType8");
+   /* dummy3 */
+   stat = pd_ConsInt8(ctx, &pvalue->dummy3, -10, 5);
+   RT_CHECK(ctx, stat, "CSICH-PowerOffset", "dummy3", -1, "SysInfoType8");
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType8_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType9_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType9(rtxContext* RT_RESTRICT ctx, SysInfoType9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType9");
+   /* dummy */
+   stat = asn1PD_UMTS_CPCH_PersistenceLevelsList(ctx, &pvalue->dummy);
+   RT_CHECK(ctx, stat, 0, "dummy", -1, "SysInfoType9");
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType10_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType10_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType10(rtxContext* RT_RESTRICT ctx, SysInfoType10* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType10");
+   /* dummy */
+   stat = asn1PD_UMTS_DRAC_SysInfoList(ctx, &pvalue->dummy);
+   RT_CHECK(ctx, stat, 0, "dummy", -1, "SysInfoType10");
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType10_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType10");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType13_v3a0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType13_v3a0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ue-IdleTimersAndConstants-v3a0ext */
+   stat = asn1PD_UMTS_UE_IdleTimersAndConstants_v3a0ext(ctx, &pvalue->ue_IdleTimersAndConstants_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "ue-IdleTimersAndConstants-v3a0ext", -1, "SysInfoType13-v3a0ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType13_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType13_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType13-v4b0ext-IEs");
+   /* capabilityUpdateRequirement-r4Ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CapabilityUpdateRequirement_r4_ext(ctx, &pvalue->capabilityUpdateRequirement_r4Ext);
+      RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement-r4Ext", -1, "SysInfoType13-v4b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType13_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType13_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType13-v770ext-IEs");
+   /* capabilityUpdateRequirement */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CapabilityUpdateRequirement_v770ext(ctx, &pvalue->capabilityUpdateRequirement);
+      RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement", -1, "SysInfoType13-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType13-v770ext */
+   stat = asn1PD_UMTS_SysInfoType13_v770ext_IEs(ctx, &pvalue->sysInfoType13_v770ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType13-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType13-v4b0ext */
+   stat = asn1PD_UMTS_SysInfoType13_v4b0ext_IEs(ctx, &pvalue->sysInfoType13_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType13-v4b0ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType13_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType13-v3a0ext */
+   stat = asn1PD_UMTS_SysInfoType13_v3a0ext_IEs(ctx, &pvalue->sysInfoType13_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType13-v3a0ext", -1, 0);
+   /* v4b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType13(rtxContext* RT_RESTRICT ctx, SysInfoType13* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType13");
+   /* cn-DomainSysInfoList */
+   stat = asn1PD_UMTS_CN_DomainSysInfoList(ctx, &pvalue->cn_DomainSysInfoList);
+   RT_CHECK(ctx, stat, 0, "cn-DomainSysInfoList", -1, "SysInfoType13");
+   /* ue-IdleTimersAndConstants */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_IdleTimersAndConstants(ctx, &pvalue->ue_IdleTimersAndConstants);
+      RT_CHECK(ctx, stat, 0, "ue-IdleTimersAndConstants", -1, "SysInfoType13");
+   }
+   /* capabilityUpdateRequirement */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CapabilityUpdateRequirement(ctx, &pvalue->capabilityUpdateRequirement);
+      RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement", -1, "SysInfoType13");
+   }
+   /* v3a0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_SysInfoType13_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, "SysInfoType13");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ANSI_41_RAND_Information(rtxContext* RT_RESTRICT ctx, ANSI_41_RAND_Information* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = asn1PD_UMTS_ANSI_41_NAS_Parameter(ctx, pvalue);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ANSI-41-RAND-Information");
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType13_1_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_1_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType13_1(rtxContext* RT_RESTRICT ctx, SysInfoType13_1* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType13-1");
+   /* ansi-41-RAND-Information */
+   stat = asn1PD_UMTS_ANSI_41_RAND_Information(ctx, &pvalue->ansi_41_RAND_Information);
+   RT_CHECK(ctx, stat, 0, "ansi-41-RAND-Information", -1, "SysInfoType13-1");
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType13_1_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType13-1");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ANSI_41_UserZoneID_Information(rtxContext* RT_RESTRICT ctx, ANSI_41_UserZoneID_Information* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = asn1PD_UMTS_ANSI_41_NAS_Parameter(ctx, pvalue);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ANSI-41-UserZoneID-Information");
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType13_2_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_2_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType13_2(rtxContext* RT_RESTRICT ctx, SysInfoType13_2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType13-2");
+   /* ansi-41-UserZoneID-Information */
+   stat = asn1PD_UMTS_ANSI_41_UserZoneID_Information(ctx, &pvalue->ansi_41_UserZoneID_Information);
+   RT_CHECK(ctx, stat, 0, "ansi-41-UserZoneID-Information", -1, "SysInfoType13-2");
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType13_2_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType13-2");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ANSI_41_PrivateNeighbourListInfo(rtxContext* RT_RESTRICT ctx, ANSI_41_PrivateNeighbourListInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = asn1PD_UMTS_ANSI_41_NAS_Parameter(ctx, pvalue);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ANSI-41-PrivateNeighbourListInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType13_3_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_3_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType13_3(rtxContext* RT_RESTRICT ctx, SysInfoType13_3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType13-3");
+   /* ansi-41-PrivateNeighbourListInfo */
+   stat = asn1PD_UMTS_ANSI_41_PrivateNeighbourListInfo(ctx, &pvalue->ansi_41_PrivateNeighbourListInfo);
+   RT_CHECK(ctx, stat, 0, "ansi-41-PrivateNeighbourListInfo", -1, "SysInfoType13-3");
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType13_3_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType13-3");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ANSI_41_GlobalServiceRedirectInfo(rtxContext* RT_RESTRICT ctx, ANSI_41_GlobalServiceRedirectInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = asn1PD_UMTS_ANSI_41_NAS_Parameter(ctx, pvalue);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ANSI-41-GlobalServiceRedirectInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType13_4_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType13_4_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType13_4(rtxContext* RT_RESTRICT ctx, SysInfoType13_4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType13-4");
+   /* ansi-41-GlobalServiceRedirectInfo */
+   stat = asn1PD_UMTS_ANSI_41_GlobalServiceRedirectInfo(ctx, &pvalue->ansi_41_GlobalServiceRedirectInfo);
+   RT_CHECK(ctx, stat, 0, "ansi-41-GlobalServiceRedirectInfo", -1, "SysInfoType13-4");
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType13_4_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType13-4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType14_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType14_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType14(rtxContext* RT_RESTRICT ctx, SysInfoType14* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType14");
+   /* individualTS-InterferenceList */
+   stat = asn1PD_UMTS_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList);
+   RT_CHECK(ctx, stat, 0, "individualTS-InterferenceList", -1, "SysInfoType14");
+   /* expirationTimeFactor */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->expirationTimeFactor, 1, 8);
+      RT_CHECK(ctx, stat, "ExpirationTimeFactor", "expirationTimeFactor", -1, "SysInfoType14");
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SysInfoType14_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType14");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType15_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-v4b0ext-IEs");
+   /* up-Ipdl-Parameters-TDD */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_Positioning_IPDL_Parameters_TDD_r4_ext(ctx, &pvalue->up_Ipdl_Parameters_TDD);
+      RT_CHECK(ctx, stat, 0, "up-Ipdl-Parameters-TDD", -1, "SysInfoType15-v4b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType15_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ue-Positioning-GPS-ReferenceTime */
+   stat = asn1PD_UMTS_UE_Positioning_GPS_ReferenceTime_v770ext(ctx, &pvalue->ue_Positioning_GPS_ReferenceTime);
+   RT_CHECK(ctx, stat, 0, "ue-Positioning-GPS-ReferenceTime", -1, "SysInfoType15-v770ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType15-v770ext */
+   stat = asn1PD_UMTS_SysInfoType15_v770ext_IEs(ctx, &pvalue->sysInfoType15_v770ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType15-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType15-v4b0ext */
+   stat = asn1PD_UMTS_SysInfoType15_v4b0ext_IEs(ctx, &pvalue->sysInfoType15_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType15-v4b0ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15(rtxContext* RT_RESTRICT ctx, SysInfoType15* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15");
+   /* ue-positioning-GPS-CipherParameters */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_Positioning_CipherParameters(ctx, &pvalue->ue_positioning_GPS_CipherParameters);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-CipherParameters", -1, "SysInfoType15");
+   }
+   /* ue-positioning-GPS-ReferenceLocation */
+   stat = asn1PD_UMTS_ReferenceLocation(ctx, &pvalue->ue_positioning_GPS_ReferenceLocation);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceLocation", -1, "SysInfoType15");
+   /* ue-positioning-GPS-ReferenceTime */
+   stat = asn1PD_UMTS_UE_Positioning_GPS_ReferenceTime(ctx, &pvalue->ue_positioning_GPS_ReferenceTime);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceTime", -1, "SysInfoType15");
+   /* ue-positioning-GPS-Real-timeIntegrity */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_BadSatList(ctx, &pvalue->ue_positioning_GPS_Real_timeIntegrity);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Real-timeIntegrity", -1, "SysInfoType15");
+   }
+   /* v4b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_SysInfoType15_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType15");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15bis_v860ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType15bis_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15bis-v860ext-IEs");
+   /* ue-Positioning-GANSS-AddIonoModel */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_Positioning_GANSS_AddIonoModel(ctx, &pvalue->ue_Positioning_GANSS_AddIonoModel);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-GANSS-AddIonoModel", -1, "SysInfoType15bis-v860ext-IEs");
+   }
+   /* ue-Positioning-GANSS-EarthOrientationPara */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UE_Positioning_GANSS_EarthOrientPara(ctx, &pvalue->ue_Positioning_GANSS_EarthOrientationPara);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-GANSS-EarthOrientationPara", -1, "SysInfoType15bis-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15bis_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15bis_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15bis_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15bis_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType15bis-v860ext */
+   stat = asn1PD_UMTS_SysInfoType15bis_v860ext_IEs(ctx, &pvalue->sysInfoType15bis_v860ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType15bis-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType15bis_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15bis(rtxContext* RT_RESTRICT ctx, SysInfoType15bis* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15bis");
+   /* ue-positioning-GANSS-ReferencePosition */
+   stat = asn1PD_UMTS_ReferenceLocationGANSS(ctx, &pvalue->ue_positioning_GANSS_ReferencePosition);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-ReferencePosition", -1, "SysInfoType15bis");
+   /* ue-positioning-GANSS-ReferenceTime */
+   stat = asn1PD_UMTS_UE_Positioning_GANSS_ReferenceTime(ctx, &pvalue->ue_positioning_GANSS_ReferenceTime);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-ReferenceTime", -1, "SysInfoType15bis");
+   /* ue-positioning-GANSS-IonosphericModel */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_Positioning_GANSS_IonosphericModel(ctx, &pvalue->ue_positioning_GANSS_IonosphericModel);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-IonosphericModel", -1, "SysInfoType15bis");
+   }
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SysInfoType15bis_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, "SysInfoType15bis");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_1_v920ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType15_1_v920ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ue-positioning-GPS-DGPS-Corrections */
+   stat = asn1PD_UMTS_UE_Positioning_GPS_DGPS_Corrections_v920ext(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-DGPS-Corrections", -1, "SysInfoType15-1-v920ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_1_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_1_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_1_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_1_v920NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType15-1-v920ext */
+   stat = asn1PD_UMTS_SysInfoType15_1_v920ext_IEs(ctx, &pvalue->sysInfoType15_1_v920ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType15-1-v920ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType15_1_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_1(rtxContext* RT_RESTRICT ctx, SysInfoType15_1* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-1");
+   /* ue-positioning-GPS-DGPS-Corrections */
+   stat = asn1PD_UMTS_UE_Positioning_GPS_DGPS_Corrections(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-DGPS-Corrections", -1, "SysInfoType15-1");
+   /* v920NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType15_1_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtensions", -1, "SysInfoType15-1");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_1bis_v920ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType15_1bis_v920ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ue-positioning-GANSS-DGANSS-Corrections */
+   stat = asn1PD_UMTS_UE_Positioning_DGANSSCorrections_v920ext(ctx, &pvalue->ue_positioning_GANSS_DGANSS_Corrections);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-DGANSS-Corrections", -1, "SysInfoType15-1bis-v920ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_1bis_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_1bis_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_1bis_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_1bis_v920NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType15-1bis-v920ext */
+   stat = asn1PD_UMTS_SysInfoType15_1bis_v920ext_IEs(ctx, &pvalue->sysInfoType15_1bis_v920ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType15-1bis-v920ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType15_1bis_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_1bis(rtxContext* RT_RESTRICT ctx, SysInfoType15_1bis* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-1bis");
+   /* ue-positioning-GANSS-DGANSS-Corrections */
+   stat = asn1PD_UMTS_UE_Positioning_DGANSSCorrections(ctx, &pvalue->ue_positioning_GANSS_DGANSS_Corrections);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-DGANSS-Corrections", -1, "SysInfoType15-1bis");
+   /* v920NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType15_1bis_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtensions", -1, "SysInfoType15-1bis");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_2_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_2_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_2(rtxContext* RT_RESTRICT ctx, SysInfoType15_2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-2");
+   /* transmissionTOW */
+   stat = pd_ConsUInt32(ctx, &pvalue->transmissionTOW, 0, 604799);
+   RT_CHECK(ctx, stat, "GPS-TOW-1sec", "transmissionTOW", -1, "SysInfoType15-2");
+   /* satID */
+   stat = pd_ConsUInt8(ctx, &pvalue->satID, 0, 63);
+   RT_CHECK(ctx, stat, "SatID", "satID", -1, "SysInfoType15-2");
+   /* ephemerisParameter */
+   stat = asn1PD_UMTS_EphemerisParameter(ctx, &pvalue->ephemerisParameter);
+   RT_CHECK(ctx, stat, 0, "ephemerisParameter", -1, "SysInfoType15-2");
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType15_2_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType15-2");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_2bis_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_2bis_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_2bis(rtxContext* RT_RESTRICT ctx, SysInfoType15_2bis* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-2bis");
+   /* ue-positioning-GANSS-navigationModel */
+   stat = asn1PD_UMTS_UE_Positioning_GANSS_NavigationModel(ctx, &pvalue->ue_positioning_GANSS_navigationModel);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-navigationModel", -1, "SysInfoType15-2bis");
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType15_2bis_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType15-2bis");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_2ter_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_2ter_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_2ter(rtxContext* RT_RESTRICT ctx, SysInfoType15_2ter* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-2ter");
+   /* ue-positioning-GANSS-AddNavigationModels */
+   stat = asn1PD_UMTS_UE_Positioning_GANSS_AddNavigationModels(ctx, &pvalue->ue_positioning_GANSS_AddNavigationModels);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AddNavigationModels", -1, "SysInfoType15-2ter");
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType15_2ter_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType15-2ter");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_3_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_3_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_3(rtxContext* RT_RESTRICT ctx, SysInfoType15_3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-3");
+   /* transmissionTOW */
+   stat = pd_ConsUInt32(ctx, &pvalue->transmissionTOW, 0, 604799);
+   RT_CHECK(ctx, stat, "GPS-TOW-1sec", "transmissionTOW", -1, "SysInfoType15-3");
+   /* ue-positioning-GPS-Almanac */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_Positioning_GPS_Almanac(ctx, &pvalue->ue_positioning_GPS_Almanac);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Almanac", -1, "SysInfoType15-3");
+   }
+   /* ue-positioning-GPS-IonosphericModel */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UE_Positioning_GPS_IonosphericModel(ctx, &pvalue->ue_positioning_GPS_IonosphericModel);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-IonosphericModel", -1, "SysInfoType15-3");
+   }
+   /* ue-positioning-GPS-UTC-Model */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_UE_Positioning_GPS_UTC_Model(ctx, &pvalue->ue_positioning_GPS_UTC_Model);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-UTC-Model", -1, "SysInfoType15-3");
+   }
+   /* satMask */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      RT_SET_SIZE(ctx, 1, 32);
+      stat = pd_BitString32(ctx, &pvalue->satMask, 1, 32);
+      RT_CHECK(ctx, stat, 0, "satMask", -1, "SysInfoType15-3");
+   }
+   /* lsbTOW */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pd_BitString32(ctx, &pvalue->lsbTOW, 8, 8);
+      RT_CHECK(ctx, stat, 0, "lsbTOW", -1, "SysInfoType15-3");
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_SysInfoType15_3_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType15-3");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_3bis_v860ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType15_3bis_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-3bis-v860ext-IEs");
+   /* ue-Positioning-GANSS-Almanac */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_Positioning_GANSS_Almanac_v860ext(ctx, &pvalue->ue_Positioning_GANSS_Almanac);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-GANSS-Almanac", -1, "SysInfoType15-3bis-v860ext-IEs");
+   }
+   /* ue-Positioning-GANSS-AddUTCModels */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UE_Positioning_GANSS_AddUTCModels(ctx, &pvalue->ue_Positioning_GANSS_AddUTCModels);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-GANSS-AddUTCModels", -1, "SysInfoType15-3bis-v860ext-IEs");
+   }
+   /* ue-Positioning-GANSS-AuxiliaryInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_UE_Positioning_GANSS_AuxiliaryInfo(ctx, &pvalue->ue_Positioning_GANSS_AuxiliaryInfo);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-GANSS-AuxiliaryInfo", -1, "SysInfoType15-3bis-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_3bis_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_3bis_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_3bis_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_3bis_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType15-3bis-v860ext */
+   stat = asn1PD_UMTS_SysInfoType15_3bis_v860ext_IEs(ctx, &pvalue->sysInfoType15_3bis_v860ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType15-3bis-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType15_3bis_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_3bis(rtxContext* RT_RESTRICT ctx, SysInfoType15_3bis* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-3bis");
+   /* ue-positioning-GANSS-Almanac */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_Positioning_GANSS_Almanac(ctx, &pvalue->ue_positioning_GANSS_Almanac);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-Almanac", -1, "SysInfoType15-3bis");
+   }
+   /* ue-positioning-GANSS-TimeModels */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UE_Positioning_GANSS_TimeModels(ctx, &pvalue->ue_positioning_GANSS_TimeModels);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-TimeModels", -1, "SysInfoType15-3bis");
+   }
+   /* ue-positioning-GANSS-UTC-Model */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_UE_Positioning_GANSS_UTCModel(ctx, &pvalue->ue_positioning_GANSS_UTC_Model);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-UTC-Model", -1, "SysInfoType15-3bis");
+   }
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_SysInfoType15_3bis_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, "SysInfoType15-3bis");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_4_v3a0ext(rtxContext* RT_RESTRICT ctx, SysInfoType15_4_v3a0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-4-v3a0ext");
+   /* sfn-Offset-Validity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "SysInfoType15-4-v3a0ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "SysInfoType15-4-v3a0ext");
+         pvalue->sfn_Offset_Validity = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_4_v4b0ext(rtxContext* RT_RESTRICT ctx, SysInfoType15_4_v4b0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-4-v4b0ext");
+   /* ue-Positioning-OTDOA-AssistanceData-r4ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_r4ext(ctx, &pvalue->ue_Positioning_OTDOA_AssistanceData_r4ext);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-OTDOA-AssistanceData-r4ext", -1, "SysInfoType15-4-v4b0ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType15-4-v4b0ext */
+   stat = asn1PD_UMTS_SysInfoType15_4_v4b0ext(ctx, &pvalue->sysInfoType15_4_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType15-4-v4b0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_4_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType15-4-v3a0ext */
+   stat = asn1PD_UMTS_SysInfoType15_4_v3a0ext(ctx, &pvalue->sysInfoType15_4_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType15-4-v3a0ext", -1, 0);
+   /* v4b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_4(rtxContext* RT_RESTRICT ctx, SysInfoType15_4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-4");
+   /* ue-positioning-OTDOA-CipherParameters */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_Positioning_CipherParameters(ctx, &pvalue->ue_positioning_OTDOA_CipherParameters);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-CipherParameters", -1, "SysInfoType15-4");
+   }
+   /* ue-positioning-OTDOA-AssistanceData */
+   stat = asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData", -1, "SysInfoType15-4");
+   /* v3a0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, "SysInfoType15-4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_5_v3a0ext(rtxContext* RT_RESTRICT ctx, SysInfoType15_5_v3a0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-5-v3a0ext");
+   /* sfn-Offset-Validity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "SysInfoType15-5-v3a0ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "SysInfoType15-5-v3a0ext");
+         pvalue->sfn_Offset_Validity = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_5_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType15_5_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-5-v770ext-IEs");
+   /* ue-Positioning-OTDOA-AssistanceData-UEB-ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB_ext(ctx, &pvalue->ue_Positioning_OTDOA_AssistanceData_UEB_ext);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-OTDOA-AssistanceData-UEB-ext", -1, "SysInfoType15-5-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType15-5-v770ext */
+   stat = asn1PD_UMTS_SysInfoType15_5_v770ext_IEs(ctx, &pvalue->sysInfoType15_5_v770ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType15-5-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_5_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType15-5-v3a0ext */
+   stat = asn1PD_UMTS_SysInfoType15_5_v3a0ext(ctx, &pvalue->sysInfoType15_5_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType15-5-v3a0ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_5(rtxContext* RT_RESTRICT ctx, SysInfoType15_5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-5");
+   /* ue-positioning-OTDOA-AssistanceData-UEB */
+   stat = asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData_UEB);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData-UEB", -1, "SysInfoType15-5");
+   /* v3a0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, "SysInfoType15-5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_6_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_6_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_6(rtxContext* RT_RESTRICT ctx, SysInfoType15_6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-6");
+   /* ue-positioning-GANSS-TOD */
+   stat = pd_ConsUInt32(ctx, &pvalue->ue_positioning_GANSS_TOD, 0, 86399);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-TOD", -1, "SysInfoType15-6");
+   /* ue-positioning-GANSS-ReferenceMeasurementInformation */
+   stat = asn1PD_UMTS_UE_Positioning_GANSS_ReferenceMeasurementInfo(ctx, &pvalue->ue_positioning_GANSS_ReferenceMeasurementInformation);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-ReferenceMeasurementInformation", -1, "SysInfoType15-6");
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType15_6_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType15-6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_7_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_7_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_7(rtxContext* RT_RESTRICT ctx, SysInfoType15_7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-7");
+   /* ue-positioning-GANSS-DataBitAssistance */
+   stat = asn1PD_UMTS_UE_Positioning_GANSS_Data_Bit_Assistance(ctx, &pvalue->ue_positioning_GANSS_DataBitAssistance);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-DataBitAssistance", -1, "SysInfoType15-7");
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType15_7_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType15-7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_8_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType15_8_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType15_8(rtxContext* RT_RESTRICT ctx, SysInfoType15_8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-8");
+   /* ue-positioning-GANSS-DataCipheringInfo */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_Positioning_CipherParameters(ctx, &pvalue->ue_positioning_GANSS_DataCipheringInfo);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-DataCipheringInfo", -1, "SysInfoType15-8");
+   }
+   /* ue-positioning-GANSS-realTimeIntegrity */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UE_Positioning_GANSS_RealTimeIntegrity(ctx, &pvalue->ue_positioning_GANSS_realTimeIntegrity);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-realTimeIntegrity", -1, "SysInfoType15-8");
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_SysInfoType15_8_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType15-8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType17_v4b0ext_IEs_tdd128SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType17_v4b0ext_IEs_tdd128SpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* pusch-SysInfoList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PUSCH_SysInfoList_LCR_r4(ctx, &pvalue->pusch_SysInfoList);
+      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList", -1, 0);
+   }
+   /* pdsch-SysInfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_PDSCH_SysInfoList_LCR_r4(ctx, &pvalue->pdsch_SysInfoList);
+      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType17_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType17_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType17-v4b0ext-IEs");
+   /* tdd128SpecificInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType17_v4b0ext_IEs_tdd128SpecificInfo(ctx, &pvalue->tdd128SpecificInfo);
+      RT_CHECK(ctx, stat, 0, "tdd128SpecificInfo", -1, "SysInfoType17-v4b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType17_v590ext_IEs_hcr_r5_SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType17_v590ext_IEs_hcr_r5_SpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* pusch-SysInfoList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PUSCH_SysInfoList_HCR_r5(ctx, &pvalue->pusch_SysInfoList);
+      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList", -1, 0);
+   }
+   /* pdsch-SysInfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_PDSCH_SysInfoList_HCR_r5(ctx, &pvalue->pdsch_SysInfoList);
+      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType17_v590ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType17_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType17-v590ext-IEs");
+   /* hcr-r5-SpecificInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType17_v590ext_IEs_hcr_r5_SpecificInfo(ctx, &pvalue->hcr_r5_SpecificInfo);
+      RT_CHECK(ctx, stat, 0, "hcr-r5-SpecificInfo", -1, "SysInfoType17-v590ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType17_v770ext_IEs_tdd768SpecificInfo(rtxContext* RT_RESTRICT ctx, SysInfoType17_v770ext_IEs_tdd768SpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* pusch-SysInfoList-SFN */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PUSCH_SysInfoList_SFN_VHCR(ctx, &pvalue->pusch_SysInfoList_SFN);
+      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
+   }
+   /* pdsch-SysInfoList-SFN */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_PDSCH_SysInfoList_VHCR_r7(ctx, &pvalue->pdsch_SysInfoList_SFN);
+      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType17_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SysInfoType17_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType17-v770ext-IEs");
+   /* tdd768SpecificInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType17_v770ext_IEs_tdd768SpecificInfo(ctx, &pvalue->tdd768SpecificInfo);
+      RT_CHECK(ctx, stat, 0, "tdd768SpecificInfo", -1, "SysInfoType17-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType17-v770ext */
+   stat = asn1PD_UMTS_SysInfoType17_v770ext_IEs(ctx, &pvalue->sysInfoType17_v770ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType17-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType17-v590ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType17_v590ext_IEs(ctx, &pvalue->sysInfoType17_v590ext);
+      RT_CHECK(ctx, stat, 0, "sysInfoType17-v590ext", -1, 0);
+   }
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType17_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType17_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType17-v4b0ext */
+   stat = asn1PD_UMTS_SysInfoType17_v4b0ext_IEs(ctx, &pvalue->sysInfoType17_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType17-v4b0ext", -1, 0);
+   /* v590NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType17(rtxContext* RT_RESTRICT ctx, SysInfoType17* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType17");
+   /* pusch-SysInfoList */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PUSCH_SysInfoList(ctx, &pvalue->pusch_SysInfoList);
+      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList", -1, "SysInfoType17");
+   }
+   /* pdsch-SysInfoList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_PDSCH_SysInfoList(ctx, &pvalue->pdsch_SysInfoList);
+      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList", -1, "SysInfoType17");
+   }
+   /* v4b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_SysInfoType17_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType17");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType19_v920ext(rtxContext* RT_RESTRICT ctx, SysInfoType19_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* utra-PriorityInfoList-v920ext */
+   stat = asn1PD_UMTS_UTRA_PriorityInfoList_v920ext(ctx, &pvalue->utra_PriorityInfoList_v920ext);
+   RT_CHECK(ctx, stat, 0, "utra-PriorityInfoList-v920ext", -1, "SysInfoType19-v920ext");
+   /* eutra-FrequencyAndPriorityInfoList-v920ext */
+   stat = asn1PD_UMTS_EUTRA_FrequencyAndPriorityInfoList_v920ext(ctx, &pvalue->eutra_FrequencyAndPriorityInfoList_v920ext);
+   RT_CHECK(ctx, stat, 0, "eutra-FrequencyAndPriorityInfoList-v920ext", -1, "SysInfoType19-v920ext");
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType19_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType19_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType19_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType19_v920NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType19-v920ext */
+   stat = asn1PD_UMTS_SysInfoType19_v920ext(ctx, &pvalue->sysInfoType19_v920ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType19-v920ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SysInfoType19_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType19(rtxContext* RT_RESTRICT ctx, SysInfoType19* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType19");
+   /* utra-PriorityInfoList */
+   stat = asn1PD_UMTS_UTRA_PriorityInfoList(ctx, &pvalue->utra_PriorityInfoList);
+   RT_CHECK(ctx, stat, 0, "utra-PriorityInfoList", -1, "SysInfoType19");
+   /* gsm-PriorityInfoList */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_GSM_PriorityInfoList(ctx, &pvalue->gsm_PriorityInfoList);
+      RT_CHECK(ctx, stat, 0, "gsm-PriorityInfoList", -1, "SysInfoType19");
+   }
+   /* eutra-FrequencyAndPriorityInfoList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_EUTRA_FrequencyAndPriorityInfoList(ctx, &pvalue->eutra_FrequencyAndPriorityInfoList);
+      RT_CHECK(ctx, stat, 0, "eutra-FrequencyAndPriorityInfoList", -1, "SysInfoType19");
+   }
+   /* v920NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_SysInfoType19_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtensions", -1, "SysInfoType19");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType20_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SysInfoType20_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SysInfoType20(rtxContext* RT_RESTRICT ctx, SysInfoType20* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType20");
+   /* hNBName */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HNBName(ctx, &pvalue->hNBName);
+      RT_CHECK(ctx, stat, 0, "hNBName", -1, "SysInfoType20");
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SysInfoType20_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType20");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_HistoryInformation(rtxContext* RT_RESTRICT ctx, UE_HistoryInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-HistoryInformation");
+   /* ue-InactivityPeriod */
+   stat = pd_ConsUInt8(ctx, &pvalue->ue_InactivityPeriod, 1, 120);
+   RT_CHECK(ctx, stat, 0, "ue-InactivityPeriod", -1, "UE-HistoryInformation");
+   /* ueMobilityStateIndicator */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "UE-HistoryInformation");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "UE-HistoryInformation");
+         pvalue->ueMobilityStateIndicator = ui;
+      }
+   }
+   /* ul-dataVolumeHistory */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DataVolumeHistory(ctx, &pvalue->ul_dataVolumeHistory);
+      RT_CHECK(ctx, stat, 0, "ul-dataVolumeHistory", -1, "UE-HistoryInformation");
+   }
+   /* dl-dataVolumeHistory */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_DataVolumeHistory(ctx, &pvalue->dl_dataVolumeHistory);
+      RT_CHECK(ctx, stat, 0, "dl-dataVolumeHistory", -1, "UE-HistoryInformation");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_AccessProbabilityFactor(rtxContext* RT_RESTRICT ctx, MBMS_AccessProbabilityFactor* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 31);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-AccessProbabilityFactor");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_CellGroupIdentity_r6(rtxContext* RT_RESTRICT ctx, MBMS_CellGroupIdentity_r6* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 12, 12);
+   stat = pd_BitString32(ctx, pvalue, 12, 12);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-CellGroupIdentity-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_CommonCCTrChIdentity(rtxContext* RT_RESTRICT ctx, MBMS_CommonCCTrChIdentity* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-CommonCCTrChIdentity");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_CommonPhyChIdentity(rtxContext* RT_RESTRICT ctx, MBMS_CommonPhyChIdentity* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-CommonPhyChIdentity");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_CommonRBIdentity(rtxContext* RT_RESTRICT ctx, MBMS_CommonRBIdentity* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-CommonRBIdentity");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_CommonRBInformation_r6(rtxContext* RT_RESTRICT ctx, MBMS_CommonRBInformation_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* commonRBIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->commonRBIdentity, 1, 32);
+   RT_CHECK(ctx, stat, "MBMS-CommonRBIdentity", "commonRBIdentity", -1, "MBMS-CommonRBInformation-r6");
+   /* pdcp-Info */
+   stat = asn1PD_UMTS_PDCP_Info_r4(ctx, &pvalue->pdcp_Info);
+   RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "MBMS-CommonRBInformation-r6");
+   /* rlc-Info */
+   stat = asn1PD_UMTS_RLC_Info_MTCH_r6(ctx, &pvalue->rlc_Info);
+   RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "MBMS-CommonRBInformation-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_CommonRBInformationList_r6(rtxContext* RT_RESTRICT ctx, MBMS_CommonRBInformationList_r6* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-CommonRBInformationList-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_CommonRBInformation_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_CommonRBInformation_r6));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-CommonRBInformation-r6", (int32_t)i, "MBMS-CommonRBInformationList-r6");
+      elem = (MBMS_CommonRBInformation_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_CommonRBInformation_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MBMS_CommonRBInformation_r6(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "MBMS-CommonRBInformation-r6", (int32_t)i, "MBMS-CommonRBInformationList-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_CommonTrChIdentity(rtxContext* RT_RESTRICT ctx, MBMS_CommonTrChIdentity* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-CommonTrChIdentity");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_ConnectedModeCountingScope(rtxContext* RT_RESTRICT ctx, MBMS_ConnectedModeCountingScope* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* countingForUraPCH */
+   stat = rtxDecBitInline(ctx, &pvalue->countingForUraPCH);
+   RT_CHECK(ctx, stat, 0, "countingForUraPCH", -1, "MBMS-ConnectedModeCountingScope");
+   /* countingForCellPCH */
+   stat = rtxDecBitInline(ctx, &pvalue->countingForCellPCH);
+   RT_CHECK(ctx, stat, 0, "countingForCellPCH", -1, "MBMS-ConnectedModeCountingScope");
+   /* countingForCellFACH */
+   stat = rtxDecBitInline(ctx, &pvalue->countingForCellFACH);
+   RT_CHECK(ctx, stat, 0, "countingForCellFACH", -1, "MBMS-ConnectedModeCountingScope");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_SCCPCHIdentity(rtxContext* RT_RESTRICT ctx, MBMS_SCCPCHIdentity* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 16);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-SCCPCHIdentity");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_SoftComb_TimingOffset(rtxContext* RT_RESTRICT ctx, MBMS_SoftComb_TimingOffset* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-SoftComb-TimingOffset");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_ShortTransmissionID(rtxContext* RT_RESTRICT ctx, MBMS_ShortTransmissionID* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 64);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-ShortTransmissionID");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_LogicalChIdentity(rtxContext* RT_RESTRICT ctx, MBMS_LogicalChIdentity* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-LogicalChIdentity");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_PTM_RBInformation_C(rtxContext* RT_RESTRICT ctx, MBMS_PTM_RBInformation_C* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rbInformation */
+   stat = pd_ConsUInt8(ctx, &pvalue->rbInformation, 1, 32);
+   RT_CHECK(ctx, stat, "MBMS-CommonRBIdentity", "rbInformation", -1, "MBMS-PTM-RBInformation-C");
+   /* shortTransmissionID */
+   stat = pd_ConsUInt8(ctx, &pvalue->shortTransmissionID, 1, 64);
+   RT_CHECK(ctx, stat, "MBMS-ShortTransmissionID", "shortTransmissionID", -1, "MBMS-PTM-RBInformation-C");
+   /* logicalChIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->logicalChIdentity, 1, 15);
+   RT_CHECK(ctx, stat, "MBMS-LogicalChIdentity", "logicalChIdentity", -1, "MBMS-PTM-RBInformation-C");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_PTM_RBInformation_CList(rtxContext* RT_RESTRICT ctx, MBMS_PTM_RBInformation_CList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PTM-RBInformation-CList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_PTM_RBInformation_C* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_PTM_RBInformation_C));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-PTM-RBInformation-C", (int32_t)i, "MBMS-PTM-RBInformation-CList");
+      elem = (MBMS_PTM_RBInformation_C*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MBMS_PTM_RBInformation_C(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "MBMS-PTM-RBInformation-C", (int32_t)i, "MBMS-PTM-RBInformation-CList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_TrCHInformation_Curr(rtxContext* RT_RESTRICT ctx, MBMS_TrCHInformation_Curr* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-TrCHInformation-Curr");
+   /* transpCh-Info */
+   stat = pd_ConsUInt8(ctx, &pvalue->transpCh_Info, 1, 32);
+   RT_CHECK(ctx, stat, "MBMS-CommonTrChIdentity", "transpCh-Info", -1, "MBMS-TrCHInformation-Curr");
+   /* rbInformation */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMS_PTM_RBInformation_CList(ctx, &pvalue->rbInformation);
+      RT_CHECK(ctx, stat, 0, "rbInformation", -1, "MBMS-TrCHInformation-Curr");
+   }
+   /* msch-ConfigurationInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_MBMS_MSCH_ConfigurationInfo_r6(ctx, &pvalue->msch_ConfigurationInfo);
+      RT_CHECK(ctx, stat, 0, "msch-ConfigurationInfo", -1, "MBMS-TrCHInformation-Curr");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_TrCHInformation_CurrList(rtxContext* RT_RESTRICT ctx, MBMS_TrCHInformation_CurrList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-TrCHInformation-CurrList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_TrCHInformation_Curr* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_TrCHInformation_Curr));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-TrCHInformation-Curr", (int32_t)i, "MBMS-TrCHInformation-CurrList");
+      elem = (MBMS_TrCHInformation_Curr*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_TrCHInformation_Curr(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MBMS_TrCHInformation_Curr(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "MBMS-TrCHInformation-Curr", (int32_t)i, "MBMS-TrCHInformation-CurrList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_CurrentCell_SCCPCH_r6(rtxContext* RT_RESTRICT ctx, MBMS_CurrentCell_SCCPCH_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-CurrentCell-SCCPCH-r6");
+   /* sccpchIdentity */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->sccpchIdentity, 1, 16);
+      RT_CHECK(ctx, stat, "MBMS-SCCPCHIdentity", "sccpchIdentity", -1, "MBMS-CurrentCell-SCCPCH-r6");
+   }
+   /* secondaryCCPCH-Info */
+   stat = pd_ConsUInt8(ctx, &pvalue->secondaryCCPCH_Info, 1, 32);
+   RT_CHECK(ctx, stat, "MBMS-CommonPhyChIdentity", "secondaryCCPCH-Info", -1, "MBMS-CurrentCell-SCCPCH-r6");
+   /* softComb-TimingOffset */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->softComb_TimingOffset, 0, 3);
+      RT_CHECK(ctx, stat, "MBMS-SoftComb-TimingOffset", "softComb-TimingOffset", -1, "MBMS-CurrentCell-SCCPCH-r6");
+   }
+   /* transpCh-InfoCommonForAllTrCh */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->transpCh_InfoCommonForAllTrCh, 1, 32);
+      RT_CHECK(ctx, stat, "MBMS-CommonCCTrChIdentity", "transpCh-InfoCommonForAllTrCh", -1, "MBMS-CurrentCell-SCCPCH-r6");
+   }
+   /* transpCHInformation */
+   stat = asn1PD_UMTS_MBMS_TrCHInformation_CurrList(ctx, &pvalue->transpCHInformation);
+   RT_CHECK(ctx, stat, 0, "transpCHInformation", -1, "MBMS-CurrentCell-SCCPCH-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_CurrentCell_SCCPCHList_r6(rtxContext* RT_RESTRICT ctx, MBMS_CurrentCell_SCCPCHList_r6* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-CurrentCell-SCCPCHList-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_CurrentCell_SCCPCH_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_CurrentCell_SCCPCH_r6));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-CurrentCell-SCCPCH-r6", (int32_t)i, "MBMS-CurrentCell-SCCPCHList-r6");
+      elem = (MBMS_CurrentCell_SCCPCH_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_CurrentCell_SCCPCH_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MBMS_CurrentCell_SCCPCH_r6(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "MBMS-CurrentCell-SCCPCH-r6", (int32_t)i, "MBMS-CurrentCell-SCCPCHList-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_JoinedInformation_r6(rtxContext* RT_RESTRICT ctx, MBMS_JoinedInformation_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-JoinedInformation-r6");
+   /* p-TMSI */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_P_TMSI_GSM_MAP(ctx, &pvalue->p_TMSI);
+      RT_CHECK(ctx, stat, 0, "p-TMSI", -1, "MBMS-JoinedInformation-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* periodStart */
+   stat = pd_ConsUInt8(ctx, &pvalue->periodStart, 0, 7);
+   RT_CHECK(ctx, stat, 0, "periodStart", -1, 0);
+   /* periodDuration */
+   stat = pd_ConsUInt8(ctx, &pvalue->periodDuration, 1, 8);
+   RT_CHECK(ctx, stat, 0, "periodDuration", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
+      elem = (MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L1CombiningSchedule_32(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_32* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-L1CombiningSchedule-32");
+   /* cycleOffset */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->cycleOffset, 0, 7);
+      RT_CHECK(ctx, stat, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-32");
+   }
+   /* mtch-L1CombiningPeriodList */
+   stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList);
+   RT_CHECK(ctx, stat, 0, "mtch-L1CombiningPeriodList", -1, "MBMS-L1CombiningSchedule-32");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* periodStart */
+   stat = pd_ConsUInt8(ctx, &pvalue->periodStart, 0, 15);
+   RT_CHECK(ctx, stat, 0, "periodStart", -1, 0);
+   /* periodDuration */
+   stat = pd_ConsUInt8(ctx, &pvalue->periodDuration, 1, 16);
+   RT_CHECK(ctx, stat, 0, "periodDuration", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
+      elem = (MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L1CombiningSchedule_64(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_64* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-L1CombiningSchedule-64");
+   /* cycleOffset */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->cycleOffset, 0, 15);
+      RT_CHECK(ctx, stat, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-64");
+   }
+   /* mtch-L1CombiningPeriodList */
+   stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList);
+   RT_CHECK(ctx, stat, 0, "mtch-L1CombiningPeriodList", -1, "MBMS-L1CombiningSchedule-64");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* periodStart */
+   stat = pd_ConsUInt8(ctx, &pvalue->periodStart, 0, 31);
+   RT_CHECK(ctx, stat, 0, "periodStart", -1, 0);
+   /* periodDuration */
+   stat = pd_ConsUInt8(ctx, &pvalue->periodDuration, 1, 32);
+   RT_CHECK(ctx, stat, 0, "periodDuration", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
+      elem = (MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L1CombiningSchedule_128(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-L1CombiningSchedule-128");
+   /* cycleOffset */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->cycleOffset, 0, 31);
+      RT_CHECK(ctx, stat, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-128");
+   }
+   /* mtch-L1CombiningPeriodList */
+   stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList);
+   RT_CHECK(ctx, stat, 0, "mtch-L1CombiningPeriodList", -1, "MBMS-L1CombiningSchedule-128");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* periodStart */
+   stat = pd_ConsUInt8(ctx, &pvalue->periodStart, 0, 63);
+   RT_CHECK(ctx, stat, 0, "periodStart", -1, 0);
+   /* periodDuration */
+   stat = pd_ConsUInt8(ctx, &pvalue->periodDuration, 1, 64);
+   RT_CHECK(ctx, stat, 0, "periodDuration", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
+      elem = (MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L1CombiningSchedule_256(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_256* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-L1CombiningSchedule-256");
+   /* cycleOffset */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->cycleOffset, 0, 63);
+      RT_CHECK(ctx, stat, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-256");
+   }
+   /* mtch-L1CombiningPeriodList */
+   stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList);
+   RT_CHECK(ctx, stat, 0, "mtch-L1CombiningPeriodList", -1, "MBMS-L1CombiningSchedule-256");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* periodStart */
+   stat = pd_ConsUInt8(ctx, &pvalue->periodStart, 0, 127);
+   RT_CHECK(ctx, stat, 0, "periodStart", -1, 0);
+   /* periodDuration */
+   stat = pd_ConsUInt8(ctx, &pvalue->periodDuration, 1, 128);
+   RT_CHECK(ctx, stat, 0, "periodDuration", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
+      elem = (MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L1CombiningSchedule_512(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_512* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-L1CombiningSchedule-512");
+   /* cycleOffset */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->cycleOffset, 0, 127);
+      RT_CHECK(ctx, stat, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-512");
+   }
+   /* mtch-L1CombiningPeriodList */
+   stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList);
+   RT_CHECK(ctx, stat, 0, "mtch-L1CombiningPeriodList", -1, "MBMS-L1CombiningSchedule-512");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* periodStart */
+   stat = pd_ConsUInt8(ctx, &pvalue->periodStart, 0, 255);
+   RT_CHECK(ctx, stat, 0, "periodStart", -1, 0);
+   /* periodDuration */
+   stat = pd_ConsUInt16(ctx, &pvalue->periodDuration, 1, 256);
+   RT_CHECK(ctx, stat, 0, "periodDuration", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, 0);
+      elem = (MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L1CombiningSchedule_1024(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule_1024* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-L1CombiningSchedule-1024");
+   /* cycleOffset */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->cycleOffset, 0, 255);
+      RT_CHECK(ctx, stat, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-1024");
+   }
+   /* mtch-L1CombiningPeriodList */
+   stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList);
+   RT_CHECK(ctx, stat, 0, "mtch-L1CombiningPeriodList", -1, "MBMS-L1CombiningSchedule-1024");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L1CombiningSchedule(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningSchedule* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-L1CombiningSchedule");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* cycleLength-32 */
+         pvalue->u.cycleLength_32 = (MBMS_L1CombiningSchedule_32*)rtxMemHeapAlloc(ctx, sizeof(MBMS_L1CombiningSchedule_32));
+         if (pvalue->u.cycleLength_32 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cycleLength-32", -1, "MBMS-L1CombiningSchedule");
+         asn1Init_UMTS_MBMS_L1CombiningSchedule_32(pvalue->u.cycleLength_32);
+         stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_32(ctx, pvalue->u.cycleLength_32);
+         RT_CHECK(ctx, stat, 0, "cycleLength-32", -1, "MBMS-L1CombiningSchedule");
+         break;
+      case 1: /* cycleLength-64 */
+         pvalue->u.cycleLength_64 = (MBMS_L1CombiningSchedule_64*)rtxMemHeapAlloc(ctx, sizeof(MBMS_L1CombiningSchedule_64));
+         if (pvalue->u.cycleLength_64 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cycleLength-64", -1, "MBMS-L1CombiningSchedule");
+         asn1Init_UMTS_MBMS_L1CombiningSchedule_64(pvalue->u.cycleLength_64);
+         stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_64(ctx, pvalue->u.cycleLength_64);
+         RT_CHECK(ctx, stat, 0, "cycleLength-64", -1, "MBMS-L1CombiningSchedule");
+         break;
+      case 2: /* cycleLength-128 */
+         pvalue->u.cycleLength_128 = (MBMS_L1CombiningSchedule_128*)rtxMemHeapAlloc(ctx, sizeof(MBMS_L1CombiningSchedule_128));
+         if (pvalue->u.cycleLength_128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cycleLength-128", -1, "MBMS-L1CombiningSchedule");
+         asn1Init_UMTS_MBMS_L1CombiningSchedule_128(pvalue->u.cycleLength_128);
+         stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_128(ctx, pvalue->u.cycleLength_128);
+         RT_CHECK(ctx, stat, 0, "cycleLength-128", -1, "MBMS-L1CombiningSchedule");
+         break;
+      case 3: /* cycleLength-256 */
+         pvalue->u.cycleLength_256 = (MBMS_L1CombiningSchedule_256*)rtxMemHeapAlloc(ctx, sizeof(MBMS_L1CombiningSchedule_256));
+         if (pvalue->u.cycleLength_256 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cycleLength-256", -1, "MBMS-L1CombiningSchedule");
+         asn1Init_UMTS_MBMS_L1CombiningSchedule_256(pvalue->u.cycleLength_256);
+         stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_256(ctx, pvalue->u.cycleLength_256);
+         RT_CHECK(ctx, stat, 0, "cycleLength-256", -1, "MBMS-L1CombiningSchedule");
+         break;
+      case 4: /* cycleLength-512 */
+         pvalue->u.cycleLength_512 = (MBMS_L1CombiningSchedule_512*)rtxMemHeapAlloc(ctx, sizeof(MBMS_L1CombiningSchedule_512));
+         if (pvalue->u.cycleLength_512 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cycleLength-512", -1, "MBMS-L1CombiningSchedule");
+         asn1Init_UMTS_MBMS_L1CombiningSchedule_512(pvalue->u.cycleLength_512);
+         stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_512(ctx, pvalue->u.cycleLength_512);
+         RT_CHECK(ctx, stat, 0, "cycleLength-512", -1, "MBMS-L1CombiningSchedule");
+         break;
+      case 5: /* cycleLength-1024 */
+         pvalue->u.cycleLength_1024 = (MBMS_L1CombiningSchedule_1024*)rtxMemHeapAlloc(ctx, sizeof(MBMS_L1CombiningSchedule_1024));
+         if (pvalue->u.cycleLength_1024 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cycleLength-1024", -1, "MBMS-L1CombiningSchedule");
+         asn1Init_UMTS_MBMS_L1CombiningSchedule_1024(pvalue->u.cycleLength_1024);
+         stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_1024(ctx, pvalue->u.cycleLength_1024);
+         RT_CHECK(ctx, stat, 0, "cycleLength-1024", -1, "MBMS-L1CombiningSchedule");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MBMS-L1CombiningSchedule");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L1CombiningTransmTimeDiff(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningTransmTimeDiff* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-L1CombiningTransmTimeDiff");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L23Configuration_sameAsCurrent(rtxContext* RT_RESTRICT ctx, MBMS_L23Configuration_sameAsCurrent* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* currentCell-SCCPCH */
+   stat = pd_ConsUInt8(ctx, &pvalue->currentCell_SCCPCH, 1, 16);
+   RT_CHECK(ctx, stat, "MBMS-SCCPCHIdentity", "currentCell-SCCPCH", -1, 0);
+   /* msch-ConfigurationInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMS_MSCH_ConfigurationInfo_r6(ctx, &pvalue->msch_ConfigurationInfo);
+      RT_CHECK(ctx, stat, 0, "msch-ConfigurationInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_PTM_RBInformation_N(rtxContext* RT_RESTRICT ctx, MBMS_PTM_RBInformation_N* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* shortTransmissionID */
+   stat = pd_ConsUInt8(ctx, &pvalue->shortTransmissionID, 1, 64);
+   RT_CHECK(ctx, stat, "MBMS-ShortTransmissionID", "shortTransmissionID", -1, "MBMS-PTM-RBInformation-N");
+   /* logicalChIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->logicalChIdentity, 1, 15);
+   RT_CHECK(ctx, stat, "MBMS-LogicalChIdentity", "logicalChIdentity", -1, "MBMS-PTM-RBInformation-N");
+   /* layer1-CombiningStatus */
+   stat = rtxDecBitInline(ctx, &pvalue->layer1_CombiningStatus);
+   RT_CHECK(ctx, stat, 0, "layer1-CombiningStatus", -1, "MBMS-PTM-RBInformation-N");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_PTM_RBInformation_NList(rtxContext* RT_RESTRICT ctx, MBMS_PTM_RBInformation_NList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PTM-RBInformation-NList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_PTM_RBInformation_N* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_PTM_RBInformation_N));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-PTM-RBInformation-N", (int32_t)i, "MBMS-PTM-RBInformation-NList");
+      elem = (MBMS_PTM_RBInformation_N*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MBMS_PTM_RBInformation_N(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "MBMS-PTM-RBInformation-N", (int32_t)i, "MBMS-PTM-RBInformation-NList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_TrCHInformation_Neighb(rtxContext* RT_RESTRICT ctx, MBMS_TrCHInformation_Neighb* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-TrCHInformation-Neighb");
+   /* transpCh-Info */
+   stat = pd_ConsUInt8(ctx, &pvalue->transpCh_Info, 1, 32);
+   RT_CHECK(ctx, stat, "MBMS-CommonTrChIdentity", "transpCh-Info", -1, "MBMS-TrCHInformation-Neighb");
+   /* transpCh-CombiningStatus */
+   stat = rtxDecBitInline(ctx, &pvalue->transpCh_CombiningStatus);
+   RT_CHECK(ctx, stat, 0, "transpCh-CombiningStatus", -1, "MBMS-TrCHInformation-Neighb");
+   /* rbInformation */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMS_PTM_RBInformation_NList(ctx, &pvalue->rbInformation);
+      RT_CHECK(ctx, stat, 0, "rbInformation", -1, "MBMS-TrCHInformation-Neighb");
+   }
+   /* msch-ConfigurationInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_MBMS_MSCH_ConfigurationInfo_r6(ctx, &pvalue->msch_ConfigurationInfo);
+      RT_CHECK(ctx, stat, 0, "msch-ConfigurationInfo", -1, "MBMS-TrCHInformation-Neighb");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_TrCHInformation_NeighbList(rtxContext* RT_RESTRICT ctx, MBMS_TrCHInformation_NeighbList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-TrCHInformation-NeighbList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_TrCHInformation_Neighb* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_TrCHInformation_Neighb));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-TrCHInformation-Neighb", (int32_t)i, "MBMS-TrCHInformation-NeighbList");
+      elem = (MBMS_TrCHInformation_Neighb*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_TrCHInformation_Neighb(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MBMS_TrCHInformation_Neighb(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "MBMS-TrCHInformation-Neighb", (int32_t)i, "MBMS-TrCHInformation-NeighbList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L23Configuration_different(rtxContext* RT_RESTRICT ctx, MBMS_L23Configuration_different* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transpCh-InfoCommonForAllTrCh */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->transpCh_InfoCommonForAllTrCh, 1, 32);
+      RT_CHECK(ctx, stat, "MBMS-CommonCCTrChIdentity", "transpCh-InfoCommonForAllTrCh", -1, 0);
+   }
+   /* transpCHInformation */
+   stat = asn1PD_UMTS_MBMS_TrCHInformation_NeighbList(ctx, &pvalue->transpCHInformation);
+   RT_CHECK(ctx, stat, 0, "transpCHInformation", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_L23Configuration(rtxContext* RT_RESTRICT ctx, MBMS_L23Configuration* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-L23Configuration");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* sameAsCurrent */
+         pvalue->u.sameAsCurrent = (MBMS_L23Configuration_sameAsCurrent*)rtxMemHeapAlloc(ctx, sizeof(MBMS_L23Configuration_sameAsCurrent));
+         if (pvalue->u.sameAsCurrent == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sameAsCurrent", -1, "MBMS-L23Configuration");
+         asn1Init_UMTS_MBMS_L23Configuration_sameAsCurrent(pvalue->u.sameAsCurrent);
+         stat = asn1PD_UMTS_MBMS_L23Configuration_sameAsCurrent(ctx, pvalue->u.sameAsCurrent);
+         RT_CHECK(ctx, stat, 0, "sameAsCurrent", -1, "MBMS-L23Configuration");
+         break;
+      case 1: /* different */
+         pvalue->u.different = (MBMS_L23Configuration_different*)rtxMemHeapAlloc(ctx, sizeof(MBMS_L23Configuration_different));
+         if (pvalue->u.different == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "different", -1, "MBMS-L23Configuration");
+         asn1Init_UMTS_MBMS_L23Configuration_different(pvalue->u.different);
+         stat = asn1PD_UMTS_MBMS_L23Configuration_different(ctx, pvalue->u.different);
+         RT_CHECK(ctx, stat, 0, "different", -1, "MBMS-L23Configuration");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MBMS-L23Configuration");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_MICHPowerOffset(rtxContext* RT_RESTRICT ctx, MBMS_MICHPowerOffset* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsInt8(ctx, pvalue, -10, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-MICHPowerOffset");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_NI_CountPerFrame(rtxContext* RT_RESTRICT ctx, MBMS_NI_CountPerFrame* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-NI-CountPerFrame");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6_mode_fdd(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_r6_mode_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* channelisationCode256 */
+   stat = pd_ConsUInt8(ctx, &pvalue->channelisationCode256, 0, 255);
+   RT_CHECK(ctx, stat, "ChannelisationCode256", "channelisationCode256", -1, 0);
+   /* ni-CountPerFrame */
+   stat = pd_ConsUnsigned(ctx, &pvalue->ni_CountPerFrame, 0, 3);
+   RT_CHECK(ctx, stat, "MBMS-NI-CountPerFrame", "ni-CountPerFrame", -1, 0);
+   /* sttd-Indicator */
+   stat = rtxDecBitInline(ctx, &pvalue->sttd_Indicator);
+   RT_CHECK(ctx, stat, 0, "sttd-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_MICHNotificationIndLength(rtxContext* RT_RESTRICT ctx, MBMS_MICHNotificationIndLength* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-MICHNotificationIndLength");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd384(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_r6_mode_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* timeslot */
+   stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 0, 14);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, 0);
+   /* midambleShiftAndBurstType */
+   stat = asn1PD_UMTS_MidambleShiftAndBurstType(ctx, &pvalue->midambleShiftAndBurstType);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, 0);
+   /* channelisationCode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->channelisationCode, 0, 15);
+   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode", "channelisationCode", -1, 0);
+   /* repetitionPeriodLengthOffset */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RepPerLengthOffset_MICH(ctx, &pvalue->repetitionPeriodLengthOffset);
+      RT_CHECK(ctx, stat, 0, "repetitionPeriodLengthOffset", -1, 0);
+   }
+   /* mbmsNotificationIndLength */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUnsigned(ctx, &pvalue->mbmsNotificationIndLength, 0, 2);
+      RT_CHECK(ctx, stat, "MBMS-MICHNotificationIndLength", "mbmsNotificationIndLength", -1, 0);
+   }
+   else {
+      pvalue->mbmsNotificationIndLength = 0;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd128_channelisationCodeList(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_r6_mode_tdd128_channelisationCodeList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 1);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      pvalue->n = raw + 1;
+      if (raw > 1) {
+         rtxErrAddStrParm(ctx, "channelisationCodeList");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 15);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, "DL-TS-ChannelisationCode", "DL-TS-ChannelisationCode", (int32_t)i, 0);
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd128(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_r6_mode_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* timeslot */
+   stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 0, 6);
+   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslot", -1, 0);
+   /* midambleShiftAndBurstType */
+   stat = asn1PD_UMTS_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, 0);
+   /* channelisationCodeList */
+   stat = asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd128_channelisationCodeList(ctx, &pvalue->channelisationCodeList);
+   RT_CHECK(ctx, stat, 0, "channelisationCodeList", -1, 0);
+   /* repetitionPeriodLengthOffset */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RepPerLengthOffset_MICH(ctx, &pvalue->repetitionPeriodLengthOffset);
+      RT_CHECK(ctx, stat, 0, "repetitionPeriodLengthOffset", -1, 0);
+   }
+   /* mbmsNotificationIndLength */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUnsigned(ctx, &pvalue->mbmsNotificationIndLength, 0, 2);
+      RT_CHECK(ctx, stat, "MBMS-MICHNotificationIndLength", "mbmsNotificationIndLength", -1, 0);
+   }
+   else {
+      pvalue->mbmsNotificationIndLength = 0;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6_mode(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_r6_mode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (MBMS_MICHConfigurationInfo_r6_mode_fdd*)rtxMemHeapAllocZ(ctx, sizeof(MBMS_MICHConfigurationInfo_r6_mode_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         stat = asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6_mode_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd384 */
+         pvalue->u.tdd384 = (MBMS_MICHConfigurationInfo_r6_mode_tdd384*)rtxMemHeapAlloc(ctx, sizeof(MBMS_MICHConfigurationInfo_r6_mode_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd384(pvalue->u.tdd384);
+         stat = asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2: /* tdd128 */
+         pvalue->u.tdd128 = (MBMS_MICHConfigurationInfo_r6_mode_tdd128*)rtxMemHeapAlloc(ctx, sizeof(MBMS_MICHConfigurationInfo_r6_mode_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd128(pvalue->u.tdd128);
+         stat = asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* michPowerOffset */
+   stat = pd_ConsInt8(ctx, &pvalue->michPowerOffset, -10, 5);
+   RT_CHECK(ctx, stat, "MBMS-MICHPowerOffset", "michPowerOffset", -1, "MBMS-MICHConfigurationInfo-r6");
+   /* mode */
+   stat = asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6_mode(ctx, &pvalue->mode);
+   RT_CHECK(ctx, stat, 0, "mode", -1, "MBMS-MICHConfigurationInfo-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd384(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v770ext_mode_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* midambleShiftAndBurstType */
+   stat = asn1PD_UMTS_MidambleShiftAndBurstType_r7(ctx, &pvalue->midambleShiftAndBurstType);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd768(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v770ext_mode_tdd768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* midambleShiftAndBurstType */
+   stat = asn1PD_UMTS_MidambleShiftAndBurstType_VHCR(ctx, &pvalue->midambleShiftAndBurstType);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd128(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v770ext_mode_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* mbsfnSpecialTimeSlot */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->mbsfnSpecialTimeSlot, 0, 3);
+      RT_CHECK(ctx, stat, "TimeSlotLCR-ext", "mbsfnSpecialTimeSlot", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v770ext_mode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (MBMS_MICHConfigurationInfo_v770ext_mode_tdd384*)rtxMemHeapAlloc(ctx, sizeof(MBMS_MICHConfigurationInfo_v770ext_mode_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd384(pvalue->u.tdd384);
+         stat = asn1PD_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd768 */
+         pvalue->u.tdd768 = (MBMS_MICHConfigurationInfo_v770ext_mode_tdd768*)rtxMemHeapAlloc(ctx, sizeof(MBMS_MICHConfigurationInfo_v770ext_mode_tdd768));
+         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
+         asn1Init_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd768(pvalue->u.tdd768);
+         stat = asn1PD_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd768(ctx, pvalue->u.tdd768);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 2: /* tdd128 */
+         pvalue->u.tdd128 = (MBMS_MICHConfigurationInfo_v770ext_mode_tdd128*)rtxMemHeapAlloc(ctx, sizeof(MBMS_MICHConfigurationInfo_v770ext_mode_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd128(pvalue->u.tdd128);
+         stat = asn1PD_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_MICHConfigurationInfo_v770ext(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* mode */
+   stat = asn1PD_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode(ctx, &pvalue->mode);
+   RT_CHECK(ctx, stat, 0, "mode", -1, "MBMS-MICHConfigurationInfo-v770ext");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_NI_CountPerFrame_IMB384(rtxContext* RT_RESTRICT ctx, MBMS_NI_CountPerFrame_IMB384* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-NI-CountPerFrame-IMB384");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_MICHConfigurationInfo_v890ext_mode_imb384(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v890ext_mode_imb384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* channelisationCode256 */
+   stat = pd_ConsUInt8(ctx, &pvalue->channelisationCode256, 0, 255);
+   RT_CHECK(ctx, stat, "ChannelisationCode256", "channelisationCode256", -1, 0);
+   /* ni-CountPerFrame */
+   stat = pd_ConsUnsigned(ctx, &pvalue->ni_CountPerFrame, 0, 3);
+   RT_CHECK(ctx, stat, "MBMS-NI-CountPerFrame-IMB384", "ni-CountPerFrame", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_MICHConfigurationInfo_v890ext_mode(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v890ext_mode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* imb384 */
+         pvalue->u.imb384 = (MBMS_MICHConfigurationInfo_v890ext_mode_imb384*)rtxMemHeapAllocZ(ctx, sizeof(MBMS_MICHConfigurationInfo_v890ext_mode_imb384));
+         if (pvalue->u.imb384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "imb384", -1, 0);
+         stat = asn1PD_UMTS_MBMS_MICHConfigurationInfo_v890ext_mode_imb384(ctx, pvalue->u.imb384);
+         RT_CHECK(ctx, stat, 0, "imb384", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_MICHConfigurationInfo_v890ext(rtxContext* RT_RESTRICT ctx, MBMS_MICHConfigurationInfo_v890ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* mode */
+   stat = asn1PD_UMTS_MBMS_MICHConfigurationInfo_v890ext_mode(ctx, &pvalue->mode);
+   RT_CHECK(ctx, stat, 0, "mode", -1, "MBMS-MICHConfigurationInfo-v890ext");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_ServiceIdentity_r6_serviceIdentity(rtxContext* RT_RESTRICT ctx, MBMS_ServiceIdentity_r6_serviceIdentity* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 3, 3);
+   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_ServiceIdentity_r6_plmn_Identity_other(rtxContext* RT_RESTRICT ctx, MBMS_ServiceIdentity_r6_plmn_Identity_other* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* sameAsMIB-MultiPLMN-Id */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.sameAsMIB_MultiPLMN_Id, 1, 5);
+         RT_CHECK(ctx, stat, 0, "sameAsMIB-MultiPLMN-Id", -1, 0);
+         break;
+      case 1: /* explicitPLMN-Id */
+         pvalue->u.explicitPLMN_Id = (PLMN_Identity*)rtxMemHeapAlloc(ctx, sizeof(PLMN_Identity));
+         if (pvalue->u.explicitPLMN_Id == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "explicitPLMN-Id", -1, 0);
+         asn1Init_UMTS_PLMN_Identity(pvalue->u.explicitPLMN_Id);
+         stat = asn1PD_UMTS_PLMN_Identity(ctx, pvalue->u.explicitPLMN_Id);
+         RT_CHECK(ctx, stat, 0, "explicitPLMN-Id", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_ServiceIdentity_r6_plmn_Identity(rtxContext* RT_RESTRICT ctx, MBMS_ServiceIdentity_r6_plmn_Identity* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* sameAsMIB-PLMN-Id */
+         break;
+      case 1: /* other */
+         pvalue->u.other = (MBMS_ServiceIdentity_r6_plmn_Identity_other*)rtxMemHeapAlloc(ctx, sizeof(MBMS_ServiceIdentity_r6_plmn_Identity_other));
+         if (pvalue->u.other == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "other", -1, 0);
+         asn1Init_UMTS_MBMS_ServiceIdentity_r6_plmn_Identity_other(pvalue->u.other);
+         stat = asn1PD_UMTS_MBMS_ServiceIdentity_r6_plmn_Identity_other(ctx, pvalue->u.other);
+         RT_CHECK(ctx, stat, 0, "other", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_ServiceIdentity_r6(rtxContext* RT_RESTRICT ctx, MBMS_ServiceIdentity_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* serviceIdentity */
+   stat = asn1PD_UMTS_MBMS_ServiceIdentity_r6_serviceIdentity(ctx, &pvalue->serviceIdentity);
+   RT_CHECK(ctx, stat, 0, "serviceIdentity", -1, "MBMS-ServiceIdentity-r6");
+   /* plmn-Identity */
+   stat = asn1PD_UMTS_MBMS_ServiceIdentity_r6_plmn_Identity(ctx, &pvalue->plmn_Identity);
+   RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, "MBMS-ServiceIdentity-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_TransmissionIdentity(rtxContext* RT_RESTRICT ctx, MBMS_TransmissionIdentity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-TransmissionIdentity");
+   /* mbms-ServiceIdentity */
+   stat = asn1PD_UMTS_MBMS_ServiceIdentity_r6(ctx, &pvalue->mbms_ServiceIdentity);
+   RT_CHECK(ctx, stat, 0, "mbms-ServiceIdentity", -1, "MBMS-TransmissionIdentity");
+   /* mbms-SessionIdentity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMS_SessionIdentity(ctx, &pvalue->mbms_SessionIdentity);
+      RT_CHECK(ctx, stat, 0, "mbms-SessionIdentity", -1, "MBMS-TransmissionIdentity");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_RequiredUEAction_Mod(rtxContext* RT_RESTRICT ctx, MBMS_RequiredUEAction_Mod* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-RequiredUEAction-Mod");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_PFLIndex(rtxContext* RT_RESTRICT ctx, MBMS_PFLIndex* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PFLIndex");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_PFLInfo(rtxContext* RT_RESTRICT ctx, MBMS_PFLInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = asn1PD_UMTS_FrequencyInfo(ctx, pvalue);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PFLInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_ModifedService_r6_mbms_PreferredFrequency(rtxContext* RT_RESTRICT ctx, MBMS_ModifedService_r6_mbms_PreferredFrequency* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* mcch */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.mcch, 1, 4);
+         RT_CHECK(ctx, stat, "MBMS-PFLIndex", "mcch", -1, 0);
+         break;
+      case 1: /* dcch */
+         pvalue->u.dcch = (MBMS_PFLInfo*)rtxMemHeapAlloc(ctx, sizeof(MBMS_PFLInfo));
+         if (pvalue->u.dcch == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dcch", -1, 0);
+         asn1Init_UMTS_MBMS_PFLInfo(pvalue->u.dcch);
+         stat = asn1PD_UMTS_MBMS_PFLInfo(ctx, pvalue->u.dcch);
+         RT_CHECK(ctx, stat, 0, "dcch", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_ModifedService_r6_dummy(rtxContext* RT_RESTRICT ctx, MBMS_ModifedService_r6_dummy* RT_RESTRICT pvalue)
 {
    int stat;
    {
       uint32_t ui;
       stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
       stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
       *pvalue = ui;
    }
    return 0;
 }
 
-int asn1PD_UMTS_EUTRA_SIacquisitionResults(rtxContext* ctx, EUTRA_SIacquisitionResults* pvalue)
+int asn1PD_UMTS_MBMS_ModifedService_r6(rtxContext* RT_RESTRICT ctx, MBMS_ModifedService_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "EUTRA-SIacquisitionResults");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* cgiInfo */
-   rtxCtxtPushElemName(ctx, "cgiInfo");
-   stat = asn1PD_UMTS_EUTRA_SIacquisitionResults_cgiInfo(ctx, &pvalue->cgiInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* csgIdentity */
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-ModifedService-r6");
+   /* mbms-TransmissionIdentity */
+   stat = asn1PD_UMTS_MBMS_TransmissionIdentity(ctx, &pvalue->mbms_TransmissionIdentity);
+   RT_CHECK(ctx, stat, 0, "mbms-TransmissionIdentity", -1, "MBMS-ModifedService-r6");
+   /* mbms-RequiredUEAction */
+   stat = pd_ConsUnsigned(ctx, &pvalue->mbms_RequiredUEAction, 0, 5);
+   RT_CHECK(ctx, stat, "MBMS-RequiredUEAction-Mod", "mbms-RequiredUEAction", -1, "MBMS-ModifedService-r6");
+   /* mbms-PreferredFrequency */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "csgIdentity");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CSG_Identity(ctx, &pvalue->csgIdentity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_MBMS_ModifedService_r6_mbms_PreferredFrequency(ctx, &pvalue->mbms_PreferredFrequency);
+      RT_CHECK(ctx, stat, 0, "mbms-PreferredFrequency", -1, "MBMS-ModifedService-r6");
    }
-   /* csgMemberIndication */
+   /* dummy */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "csgMemberIndication");
       pvalue->m |= 0x2u;
       {
          uint32_t ui;
          stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
+         RT_CHECK(ctx, stat, 0, "dummy", -1, "MBMS-ModifedService-r6");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->csgMemberIndication = ui;
+         RT_CHECK(ctx, stat, 0, "dummy", -1, "MBMS-ModifedService-r6");
+         pvalue->dummy = ui;
       }
-      rtxCtxtPopElemName(ctx);
    }
-   rtxCtxtPopTypeName(ctx);
+   /* continueMCCHReading */
+   stat = rtxDecBitInline(ctx, &pvalue->continueMCCHReading);
+   RT_CHECK(ctx, stat, 0, "continueMCCHReading", -1, "MBMS-ModifedService-r6");
    return 0;
 }
 
-int asn1PD_UMTS_EUTRA_MeasuredCells_v920ext(rtxContext* ctx, EUTRA_MeasuredCells_v920ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "EUTRA-MeasuredCells-v920ext");
-   /* eutraSIacquisitionResults */
-   rtxCtxtPushElemName(ctx, "eutraSIacquisitionResults");
-   stat = asn1PD_UMTS_EUTRA_SIacquisitionResults(ctx, &pvalue->eutraSIacquisitionResults);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Eutra_MeasuredResult_v920ext_measuredEUTRACells_v920ext(rtxContext* ctx, Eutra_MeasuredResult_v920ext_measuredEUTRACells_v920ext* pvalue)
+int asn1PD_UMTS_MBMS_ModifedServiceList_r6(rtxContext* RT_RESTRICT ctx, MBMS_ModifedServiceList_r6* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      EUTRA_MeasuredCells_v920ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "EUTRA-MeasuredCells-v920ext", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(EUTRA_MeasuredCells_v920ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (EUTRA_MeasuredCells_v920ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_EUTRA_MeasuredCells_v920ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_EUTRA_MeasuredCells_v920ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Eutra_MeasuredResult_v920ext(rtxContext* ctx, Eutra_MeasuredResult_v920ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Eutra-MeasuredResult-v920ext");
-   /* measuredEUTRACells-v920ext */
-   rtxCtxtPushElemName(ctx, "measuredEUTRACells-v920ext");
-   stat = asn1PD_UMTS_Eutra_MeasuredResult_v920ext_measuredEUTRACells_v920ext(ctx, &pvalue->measuredEUTRACells_v920ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Eutra_MeasuredResultList_v920ext(rtxContext* ctx, Eutra_MeasuredResultList_v920ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "Eutra-MeasuredResultList-v920ext");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      Eutra_MeasuredResult_v920ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "Eutra-MeasuredResult-v920ext", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Eutra_MeasuredResult_v920ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (Eutra_MeasuredResult_v920ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_Eutra_MeasuredResult_v920ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_Eutra_MeasuredResult_v920ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_EUTRA_MeasuredResults_v920ext(rtxContext* ctx, EUTRA_MeasuredResults_v920ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "EUTRA-MeasuredResults-v920ext");
-   /* eutraMeasuredResultList-v920ext */
-   rtxCtxtPushElemName(ctx, "eutraMeasuredResultList-v920ext");
-   stat = asn1PD_UMTS_Eutra_MeasuredResultList_v920ext(ctx, &pvalue->eutraMeasuredResultList_v920ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ForbiddenAffectCell_r4(rtxContext* ctx, ForbiddenAffectCell_r4* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "ForbiddenAffectCell-r4");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (PrimaryCPICH_Info*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCPICH_Info));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (PrimaryCCPCH_Info_r4*)rtxMemHeapAlloc(ctx, sizeof(PrimaryCCPCH_Info_r4));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PrimaryCCPCH_Info_r4(pvalue->u.tdd);
-         stat = asn1PD_UMTS_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ForbiddenAffectCellList_r4(rtxContext* ctx, ForbiddenAffectCellList_r4* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "ForbiddenAffectCellList-r4");
    RT_SET_SIZE(ctx, 1, 32);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-ModifedServiceList-r6");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      ForbiddenAffectCell_r4* elem;
-      rtxCtxtPushArrayElemName(ctx, "ForbiddenAffectCell-r4", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(ForbiddenAffectCell_r4));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (ForbiddenAffectCell_r4*)(node + 1);
+      MBMS_ModifedService_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_ModifedService_r6));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-ModifedService-r6", (int32_t)i, "MBMS-ModifedServiceList-r6");
+      elem = (MBMS_ModifedService_r6*)(node + 1);
       node->data = elem;
-      asn1Init_UMTS_ForbiddenAffectCell_r4(elem);
+      asn1Init_UMTS_MBMS_ModifedService_r6(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_ForbiddenAffectCell_r4(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      stat = asn1PD_UMTS_MBMS_ModifedService_r6(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "MBMS-ModifedService-r6", (int32_t)i, "MBMS-ModifedServiceList-r6");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_Event1a_r4(rtxContext* ctx, Event1a_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "Event1a-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* triggeringCondition */
-   rtxCtxtPushElemName(ctx, "triggeringCondition");
-   rtxCtxtPushTypeName(ctx, "TriggeringCondition2");
-   stat = pd_ConsUnsigned(ctx, &pvalue->triggeringCondition, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingRange */
-   rtxCtxtPushElemName(ctx, "reportingRange");
-   rtxCtxtPushTypeName(ctx, "ReportingRange");
-   stat = pd_ConsUInt8(ctx, &pvalue->reportingRange, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* forbiddenAffectCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "forbiddenAffectCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ForbiddenAffectCellList_r4(ctx, &pvalue->forbiddenAffectCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* w */
-   rtxCtxtPushElemName(ctx, "w");
-   rtxCtxtPushTypeName(ctx, "W");
-   stat = pd_ConsUInt8(ctx, &pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportDeactivationThreshold */
-   rtxCtxtPushElemName(ctx, "reportDeactivationThreshold");
-   rtxCtxtPushTypeName(ctx, "ReportDeactivationThreshold");
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportDeactivationThreshold, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingAmount */
-   rtxCtxtPushElemName(ctx, "reportingAmount");
-   rtxCtxtPushTypeName(ctx, "ReportingAmount");
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportingAmount, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingInterval */
-   rtxCtxtPushElemName(ctx, "reportingInterval");
-   rtxCtxtPushTypeName(ctx, "ReportingInterval");
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportingInterval, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ForbiddenAffectCellOnSecULFreq(rtxContext* ctx, ForbiddenAffectCellOnSecULFreq* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ForbiddenAffectCellOnSecULFreq");
-   /* primaryCPICH */
-   rtxCtxtPushElemName(ctx, "primaryCPICH");
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ForbiddenAffectCellListOnSecULFreq(rtxContext* ctx, ForbiddenAffectCellListOnSecULFreq* pvalue)
+int asn1PD_UMTS_MBSFN_ClusterFrequency_r7(rtxContext* RT_RESTRICT ctx, MBSFN_ClusterFrequency_r7* RT_RESTRICT pvalue)
 {
    int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "ForbiddenAffectCellListOnSecULFreq");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      ForbiddenAffectCellOnSecULFreq* elem;
-      rtxCtxtPushArrayElemName(ctx, "ForbiddenAffectCellOnSecULFreq", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(ForbiddenAffectCellOnSecULFreq));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (ForbiddenAffectCellOnSecULFreq*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_ForbiddenAffectCellOnSecULFreq(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
+   stat = pd_ConsUInt8(ctx, pvalue, 1, 16);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBSFN-ClusterFrequency-r7");
    return 0;
 }
 
-int asn1PD_UMTS_Event1a_OnSecUlFreq_r9(rtxContext* ctx, Event1a_OnSecUlFreq_r9* pvalue)
+int asn1PD_UMTS_MBMS_ModifiedService_v770ext(rtxContext* RT_RESTRICT ctx, MBMS_ModifiedService_v770ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "Event1a-OnSecUlFreq-r9");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* triggeringCondition */
-   rtxCtxtPushElemName(ctx, "triggeringCondition");
-   rtxCtxtPushTypeName(ctx, "TriggeringCondition2");
-   stat = pd_ConsUnsigned(ctx, &pvalue->triggeringCondition, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingRange */
-   rtxCtxtPushElemName(ctx, "reportingRange");
-   rtxCtxtPushTypeName(ctx, "ReportingRange");
-   stat = pd_ConsUInt8(ctx, &pvalue->reportingRange, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* forbiddenAffectCellListOnSecULFreq */
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-ModifiedService-v770ext");
+   /* mbsfnClusterFrequency */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "forbiddenAffectCellListOnSecULFreq");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ForbiddenAffectCellListOnSecULFreq(ctx, &pvalue->forbiddenAffectCellListOnSecULFreq);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUInt8(ctx, &pvalue->mbsfnClusterFrequency, 1, 16);
+      RT_CHECK(ctx, stat, "MBSFN-ClusterFrequency-r7", "mbsfnClusterFrequency", -1, "MBMS-ModifiedService-v770ext");
    }
-   /* w */
-   rtxCtxtPushElemName(ctx, "w");
-   rtxCtxtPushTypeName(ctx, "W");
-   stat = pd_ConsUInt8(ctx, &pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportDeactivationThreshold */
-   rtxCtxtPushElemName(ctx, "reportDeactivationThreshold");
-   rtxCtxtPushTypeName(ctx, "ReportDeactivationThreshold");
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportDeactivationThreshold, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingAmount */
-   rtxCtxtPushElemName(ctx, "reportingAmount");
-   rtxCtxtPushTypeName(ctx, "ReportingAmount");
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportingAmount, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingInterval */
-   rtxCtxtPushElemName(ctx, "reportingInterval");
-   rtxCtxtPushTypeName(ctx, "ReportingInterval");
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportingInterval, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_Event1b_r4(rtxContext* ctx, Event1b_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "Event1b-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* triggeringCondition */
-   rtxCtxtPushElemName(ctx, "triggeringCondition");
-   rtxCtxtPushTypeName(ctx, "TriggeringCondition1");
-   stat = pd_ConsUnsigned(ctx, &pvalue->triggeringCondition, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingRange */
-   rtxCtxtPushElemName(ctx, "reportingRange");
-   rtxCtxtPushTypeName(ctx, "ReportingRange");
-   stat = pd_ConsUInt8(ctx, &pvalue->reportingRange, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* forbiddenAffectCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "forbiddenAffectCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ForbiddenAffectCellList_r4(ctx, &pvalue->forbiddenAffectCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* w */
-   rtxCtxtPushElemName(ctx, "w");
-   rtxCtxtPushTypeName(ctx, "W");
-   stat = pd_ConsUInt8(ctx, &pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Event1b_r7(rtxContext* ctx, Event1b_r7* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "Event1b-r7");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* triggeringCondition */
-   rtxCtxtPushElemName(ctx, "triggeringCondition");
-   rtxCtxtPushTypeName(ctx, "TriggeringCondition1");
-   stat = pd_ConsUnsigned(ctx, &pvalue->triggeringCondition, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingRange */
-   rtxCtxtPushElemName(ctx, "reportingRange");
-   rtxCtxtPushTypeName(ctx, "ReportingRange");
-   stat = pd_ConsUInt8(ctx, &pvalue->reportingRange, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* forbiddenAffectCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "forbiddenAffectCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ForbiddenAffectCellList_r4(ctx, &pvalue->forbiddenAffectCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* w */
-   rtxCtxtPushElemName(ctx, "w");
-   rtxCtxtPushTypeName(ctx, "W");
-   stat = pd_ConsUInt8(ctx, &pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* periodicReportingInfo-1b */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "periodicReportingInfo-1b");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PeriodicReportingInfo_1b(ctx, &pvalue->periodicReportingInfo_1b);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Event1b_OnSecUlFreq_r9(rtxContext* ctx, Event1b_OnSecUlFreq_r9* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "Event1b-OnSecUlFreq-r9");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* triggeringCondition */
-   rtxCtxtPushElemName(ctx, "triggeringCondition");
-   rtxCtxtPushTypeName(ctx, "TriggeringCondition1");
-   stat = pd_ConsUnsigned(ctx, &pvalue->triggeringCondition, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingRange */
-   rtxCtxtPushElemName(ctx, "reportingRange");
-   rtxCtxtPushTypeName(ctx, "ReportingRange");
-   stat = pd_ConsUInt8(ctx, &pvalue->reportingRange, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* forbiddenAffectCellListOnSecULFreq */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "forbiddenAffectCellListOnSecULFreq");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ForbiddenAffectCellListOnSecULFreq(ctx, &pvalue->forbiddenAffectCellListOnSecULFreq);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* w */
-   rtxCtxtPushElemName(ctx, "w");
-   rtxCtxtPushTypeName(ctx, "W");
-   stat = pd_ConsUInt8(ctx, &pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* periodicReportingInfo-1b */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "periodicReportingInfo-1b");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PeriodicReportingInfo_1b(ctx, &pvalue->periodicReportingInfo_1b);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Event1d(rtxContext* ctx, Event1d* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "Event1d");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* triggeringCondition */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "triggeringCondition");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "TriggeringCondition2");
-      stat = pd_ConsUnsigned(ctx, &pvalue->triggeringCondition, 0, 4);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* useCIO */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "useCIO");
-      pvalue->m |= 0x2u;
-      stat = rtxDecBitInline(ctx, &pvalue->useCIO);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ThresholdUsedFrequency_r6(rtxContext* ctx, ThresholdUsedFrequency_r6* pvalue)
+int asn1PD_UMTS_MBMS_PTM_RBReleaseCause_LCR_r7(rtxContext* RT_RESTRICT ctx, MBMS_PTM_RBReleaseCause_LCR_r7* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "ThresholdUsedFrequency-r6");
-   stat = pd_ConsInt16(ctx, pvalue, -120, 165);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Event1e_r6(rtxContext* ctx, Event1e_r6* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Event1e-r6");
-   /* triggeringCondition */
-   rtxCtxtPushElemName(ctx, "triggeringCondition");
-   rtxCtxtPushTypeName(ctx, "TriggeringCondition2");
-   stat = pd_ConsUnsigned(ctx, &pvalue->triggeringCondition, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* thresholdUsedFrequency */
-   rtxCtxtPushElemName(ctx, "thresholdUsedFrequency");
-   rtxCtxtPushTypeName(ctx, "ThresholdUsedFrequency-r6");
-   stat = pd_ConsInt16(ctx, &pvalue->thresholdUsedFrequency, -120, 165);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Event1f_r6(rtxContext* ctx, Event1f_r6* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Event1f-r6");
-   /* triggeringCondition */
-   rtxCtxtPushElemName(ctx, "triggeringCondition");
-   rtxCtxtPushTypeName(ctx, "TriggeringCondition1");
-   stat = pd_ConsUnsigned(ctx, &pvalue->triggeringCondition, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* thresholdUsedFrequency */
-   rtxCtxtPushElemName(ctx, "thresholdUsedFrequency");
-   rtxCtxtPushTypeName(ctx, "ThresholdUsedFrequency-r6");
-   stat = pd_ConsInt16(ctx, &pvalue->thresholdUsedFrequency, -120, 165);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Event1j_r6(rtxContext* ctx, Event1j_r6* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Event1j-r6");
-   /* replacementActivationThreshold */
-   rtxCtxtPushElemName(ctx, "replacementActivationThreshold");
-   rtxCtxtPushTypeName(ctx, "ReplacementActivationThreshold");
-   stat = pd_ConsUnsigned(ctx, &pvalue->replacementActivationThreshold, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingAmount */
-   rtxCtxtPushElemName(ctx, "reportingAmount");
-   rtxCtxtPushTypeName(ctx, "ReportingAmount");
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportingAmount, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingInterval */
-   rtxCtxtPushElemName(ctx, "reportingInterval");
-   rtxCtxtPushTypeName(ctx, "ReportingInterval");
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportingInterval, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HysteresisInterFreq(rtxContext* ctx, HysteresisInterFreq* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "HysteresisInterFreq");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NonUsedFreqParameter(rtxContext* ctx, NonUsedFreqParameter* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "NonUsedFreqParameter");
-   /* nonUsedFreqThreshold */
-   rtxCtxtPushElemName(ctx, "nonUsedFreqThreshold");
-   rtxCtxtPushTypeName(ctx, "Threshold");
-   stat = pd_ConsInt8(ctx, &pvalue->nonUsedFreqThreshold, -115, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* nonUsedFreqW */
-   rtxCtxtPushElemName(ctx, "nonUsedFreqW");
-   rtxCtxtPushTypeName(ctx, "W");
-   stat = pd_ConsUInt8(ctx, &pvalue->nonUsedFreqW, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NonUsedFreqParameterList(rtxContext* ctx, NonUsedFreqParameterList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "NonUsedFreqParameterList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NonUsedFreqParameter* elem;
-      rtxCtxtPushArrayElemName(ctx, "NonUsedFreqParameter", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NonUsedFreqParameter));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (NonUsedFreqParameter*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NonUsedFreqParameter(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Event2a(rtxContext* ctx, Event2a* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "Event2a");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   rtxCtxtPushElemName(ctx, "dummy");
-   rtxCtxtPushTypeName(ctx, "Threshold");
-   stat = pd_ConsInt8(ctx, &pvalue->dummy, -115, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* usedFreqW */
-   rtxCtxtPushElemName(ctx, "usedFreqW");
-   rtxCtxtPushTypeName(ctx, "W");
-   stat = pd_ConsUInt8(ctx, &pvalue->usedFreqW, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "HysteresisInterFreq");
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonUsedFreqParameterList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonUsedFreqParameterList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NonUsedFreqParameterList(ctx, &pvalue->nonUsedFreqParameterList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NonUsedFreqWList_r6(rtxContext* ctx, NonUsedFreqWList_r6* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NonUsedFreqWList-r6");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 7) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "W", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "W");
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 20);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Event2a_r6(rtxContext* ctx, Event2a_r6* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "Event2a-r6");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* usedFreqW */
-   rtxCtxtPushElemName(ctx, "usedFreqW");
-   rtxCtxtPushTypeName(ctx, "W");
-   stat = pd_ConsUInt8(ctx, &pvalue->usedFreqW, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "HysteresisInterFreq");
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonUsedFreqParameterList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonUsedFreqParameterList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NonUsedFreqWList_r6(ctx, &pvalue->nonUsedFreqParameterList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Event2b(rtxContext* ctx, Event2b* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "Event2b");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* usedFreqThreshold */
-   rtxCtxtPushElemName(ctx, "usedFreqThreshold");
-   rtxCtxtPushTypeName(ctx, "Threshold");
-   stat = pd_ConsInt8(ctx, &pvalue->usedFreqThreshold, -115, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* usedFreqW */
-   rtxCtxtPushElemName(ctx, "usedFreqW");
-   rtxCtxtPushTypeName(ctx, "W");
-   stat = pd_ConsUInt8(ctx, &pvalue->usedFreqW, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "HysteresisInterFreq");
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonUsedFreqParameterList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonUsedFreqParameterList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NonUsedFreqParameterList(ctx, &pvalue->nonUsedFreqParameterList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Threshold_r6(rtxContext* ctx, Threshold_r6* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "Threshold-r6");
-   stat = pd_ConsInt8(ctx, pvalue, -120, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NonUsedFreqParameter_r6(rtxContext* ctx, NonUsedFreqParameter_r6* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "NonUsedFreqParameter-r6");
-   /* nonUsedFreqThreshold */
-   rtxCtxtPushElemName(ctx, "nonUsedFreqThreshold");
-   rtxCtxtPushTypeName(ctx, "Threshold-r6");
-   stat = pd_ConsInt8(ctx, &pvalue->nonUsedFreqThreshold, -120, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* nonUsedFreqW */
-   rtxCtxtPushElemName(ctx, "nonUsedFreqW");
-   rtxCtxtPushTypeName(ctx, "W");
-   stat = pd_ConsUInt8(ctx, &pvalue->nonUsedFreqW, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NonUsedFreqParameterList_r6(rtxContext* ctx, NonUsedFreqParameterList_r6* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "NonUsedFreqParameterList-r6");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NonUsedFreqParameter_r6* elem;
-      rtxCtxtPushArrayElemName(ctx, "NonUsedFreqParameter-r6", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NonUsedFreqParameter_r6));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (NonUsedFreqParameter_r6*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NonUsedFreqParameter_r6(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Event2b_r6(rtxContext* ctx, Event2b_r6* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "Event2b-r6");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* usedFreqThreshold */
-   rtxCtxtPushElemName(ctx, "usedFreqThreshold");
-   rtxCtxtPushTypeName(ctx, "Threshold-r6");
-   stat = pd_ConsInt8(ctx, &pvalue->usedFreqThreshold, -120, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* usedFreqW */
-   rtxCtxtPushElemName(ctx, "usedFreqW");
-   rtxCtxtPushTypeName(ctx, "W");
-   stat = pd_ConsUInt8(ctx, &pvalue->usedFreqW, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "HysteresisInterFreq");
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonUsedFreqParameterList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonUsedFreqParameterList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NonUsedFreqParameterList_r6(ctx, &pvalue->nonUsedFreqParameterList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Event2c(rtxContext* ctx, Event2c* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "Event2c");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "HysteresisInterFreq");
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonUsedFreqParameterList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonUsedFreqParameterList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NonUsedFreqParameterList(ctx, &pvalue->nonUsedFreqParameterList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Event2c_r6(rtxContext* ctx, Event2c_r6* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "Event2c-r6");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "HysteresisInterFreq");
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonUsedFreqParameterList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonUsedFreqParameterList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NonUsedFreqParameterList_r6(ctx, &pvalue->nonUsedFreqParameterList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Event2d(rtxContext* ctx, Event2d* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "Event2d");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* usedFreqThreshold */
-   rtxCtxtPushElemName(ctx, "usedFreqThreshold");
-   rtxCtxtPushTypeName(ctx, "Threshold");
-   stat = pd_ConsInt8(ctx, &pvalue->usedFreqThreshold, -115, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* usedFreqW */
-   rtxCtxtPushElemName(ctx, "usedFreqW");
-   rtxCtxtPushTypeName(ctx, "W");
-   stat = pd_ConsUInt8(ctx, &pvalue->usedFreqW, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "HysteresisInterFreq");
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Event2d_r6(rtxContext* ctx, Event2d_r6* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "Event2d-r6");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* usedFreqThreshold */
-   rtxCtxtPushElemName(ctx, "usedFreqThreshold");
-   rtxCtxtPushTypeName(ctx, "Threshold-r6");
-   stat = pd_ConsInt8(ctx, &pvalue->usedFreqThreshold, -120, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* usedFreqW */
-   rtxCtxtPushElemName(ctx, "usedFreqW");
-   rtxCtxtPushTypeName(ctx, "W");
-   stat = pd_ConsUInt8(ctx, &pvalue->usedFreqW, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "HysteresisInterFreq");
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Event2e(rtxContext* ctx, Event2e* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "Event2e");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "HysteresisInterFreq");
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonUsedFreqParameterList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonUsedFreqParameterList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NonUsedFreqParameterList(ctx, &pvalue->nonUsedFreqParameterList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Event2e_r6(rtxContext* ctx, Event2e_r6* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "Event2e-r6");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "HysteresisInterFreq");
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonUsedFreqParameterList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonUsedFreqParameterList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NonUsedFreqParameterList_r6(ctx, &pvalue->nonUsedFreqParameterList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Event2f(rtxContext* ctx, Event2f* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "Event2f");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* usedFreqThreshold */
-   rtxCtxtPushElemName(ctx, "usedFreqThreshold");
-   rtxCtxtPushTypeName(ctx, "Threshold");
-   stat = pd_ConsInt8(ctx, &pvalue->usedFreqThreshold, -115, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* usedFreqW */
-   rtxCtxtPushElemName(ctx, "usedFreqW");
-   rtxCtxtPushTypeName(ctx, "W");
-   stat = pd_ConsUInt8(ctx, &pvalue->usedFreqW, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "HysteresisInterFreq");
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Event2f_r6(rtxContext* ctx, Event2f_r6* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "Event2f-r6");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* usedFreqThreshold */
-   rtxCtxtPushElemName(ctx, "usedFreqThreshold");
-   rtxCtxtPushTypeName(ctx, "Threshold-r6");
-   stat = pd_ConsInt8(ctx, &pvalue->usedFreqThreshold, -120, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* usedFreqW */
-   rtxCtxtPushElemName(ctx, "usedFreqW");
-   rtxCtxtPushTypeName(ctx, "W");
-   stat = pd_ConsUInt8(ctx, &pvalue->usedFreqW, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "HysteresisInterFreq");
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Event3a(rtxContext* ctx, Event3a* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "Event3a");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* thresholdOwnSystem */
-   rtxCtxtPushElemName(ctx, "thresholdOwnSystem");
-   rtxCtxtPushTypeName(ctx, "Threshold");
-   stat = pd_ConsInt8(ctx, &pvalue->thresholdOwnSystem, -115, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* w */
-   rtxCtxtPushElemName(ctx, "w");
-   rtxCtxtPushTypeName(ctx, "W");
-   stat = pd_ConsUInt8(ctx, &pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* thresholdOtherSystem */
-   rtxCtxtPushElemName(ctx, "thresholdOtherSystem");
-   rtxCtxtPushTypeName(ctx, "Threshold");
-   stat = pd_ConsInt8(ctx, &pvalue->thresholdOtherSystem, -115, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "Hysteresis");
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Event3b(rtxContext* ctx, Event3b* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "Event3b");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* thresholdOtherSystem */
-   rtxCtxtPushElemName(ctx, "thresholdOtherSystem");
-   rtxCtxtPushTypeName(ctx, "Threshold");
-   stat = pd_ConsInt8(ctx, &pvalue->thresholdOtherSystem, -115, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "Hysteresis");
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Event3c(rtxContext* ctx, Event3c* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "Event3c");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* thresholdOtherSystem */
-   rtxCtxtPushElemName(ctx, "thresholdOtherSystem");
-   rtxCtxtPushTypeName(ctx, "Threshold");
-   stat = pd_ConsInt8(ctx, &pvalue->thresholdOtherSystem, -115, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "Hysteresis");
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Event3d(rtxContext* ctx, Event3d* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "Event3d");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "Hysteresis");
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_EventIDInterFreq(rtxContext* ctx, EventIDInterFreq* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "EventIDInterFreq");
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PTM-RBReleaseCause-LCR-r7");
    return 0;
 }
 
-int asn1PD_UMTS_EventIDIntraFreq(rtxContext* ctx, EventIDIntraFreq* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "EventIDIntraFreq");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEventResults(rtxContext* ctx, IntraFreqEventResults* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "IntraFreqEventResults");
-   /* eventID */
-   rtxCtxtPushElemName(ctx, "eventID");
-   rtxCtxtPushTypeName(ctx, "EventIDIntraFreq");
-   stat = pd_ConsUnsigned(ctx, &pvalue->eventID, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* cellMeasurementEventResults */
-   rtxCtxtPushElemName(ctx, "cellMeasurementEventResults");
-   stat = asn1PD_UMTS_CellMeasurementEventResults(ctx, &pvalue->cellMeasurementEventResults);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqCell(rtxContext* ctx, InterFreqCell* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "InterFreqCell");
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonFreqRelatedEventResults */
-   rtxCtxtPushElemName(ctx, "nonFreqRelatedEventResults");
-   stat = asn1PD_UMTS_CellMeasurementEventResults(ctx, &pvalue->nonFreqRelatedEventResults);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqCellList(rtxContext* ctx, InterFreqCellList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "InterFreqCellList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      InterFreqCell* elem;
-      rtxCtxtPushArrayElemName(ctx, "InterFreqCell", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(InterFreqCell));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (InterFreqCell*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_InterFreqCell(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_InterFreqCell(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqEventResults(rtxContext* ctx, InterFreqEventResults* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterFreqEventResults");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* eventID */
-   rtxCtxtPushElemName(ctx, "eventID");
-   rtxCtxtPushTypeName(ctx, "EventIDInterFreq");
-   stat = pd_ConsUnsigned(ctx, &pvalue->eventID, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* interFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interFreqCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqCellList(ctx, &pvalue->interFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATEventResults(rtxContext* ctx, InterRATEventResults* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "InterRATEventResults");
-   /* eventID */
-   rtxCtxtPushElemName(ctx, "eventID");
-   rtxCtxtPushTypeName(ctx, "EventIDInterRAT");
-   stat = pd_ConsUnsigned(ctx, &pvalue->eventID, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* cellToReportList */
-   rtxCtxtPushElemName(ctx, "cellToReportList");
-   stat = asn1PD_UMTS_CellToReportList(ctx, &pvalue->cellToReportList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TrafficVolumeEventResults(rtxContext* ctx, TrafficVolumeEventResults* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TrafficVolumeEventResults");
-   /* ul-transportChannelCausingEvent */
-   rtxCtxtPushElemName(ctx, "ul-transportChannelCausingEvent");
-   stat = asn1PD_UMTS_UL_TrCH_Identity(ctx, &pvalue->ul_transportChannelCausingEvent);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* trafficVolumeEventIdentity */
-   rtxCtxtPushElemName(ctx, "trafficVolumeEventIdentity");
-   rtxCtxtPushTypeName(ctx, "TrafficVolumeEventType");
-   stat = pd_ConsUnsigned(ctx, &pvalue->trafficVolumeEventIdentity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_QualityEventResults(rtxContext* ctx, QualityEventResults* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "QualityEventResults");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 5);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 31) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "TransportChannelIdentity", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 1, 32);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalEventResults(rtxContext* ctx, UE_InternalEventResults* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "UE-InternalEventResults");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 7);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "event6a");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "event6b");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "event6c");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "event6d");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "event6e");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "event6f");
-         pvalue->u.event6f = (PrimaryCPICH_Info*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCPICH_Info));
-         if (pvalue->u.event6f == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, pvalue->u.event6f);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "event6g");
-         pvalue->u.event6g = (PrimaryCPICH_Info*)rtxMemHeapAllocZ(ctx, sizeof(PrimaryCPICH_Info));
-         if (pvalue->u.event6g == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, pvalue->u.event6g);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "spare");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_GPSReferenceTimeResult_ue_GPSTimingOfCell(rtxContext* ctx, UTRAN_GPSReferenceTimeResult_ue_GPSTimingOfCell* pvalue)
-{
-   int stat = 0;
-   /* ms-part */
-   rtxCtxtPushElemName(ctx, "ms-part");
-   stat = pd_ConsUInt16(ctx, &pvalue->ms_part, 0, 16383);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ls-part */
-   rtxCtxtPushElemName(ctx, "ls-part");
-   stat = pd_ConsUInt32(ctx, &pvalue->ls_part, 0, 4294967295LL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_fdd(rtxContext* ctx, UTRAN_GPSReferenceTimeResult_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   /* referenceIdentity */
-   rtxCtxtPushElemName(ctx, "referenceIdentity");
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->referenceIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_tdd(rtxContext* ctx, UTRAN_GPSReferenceTimeResult_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   /* referenceIdentity */
-   rtxCtxtPushElemName(ctx, "referenceIdentity");
-   rtxCtxtPushTypeName(ctx, "CellParametersID");
-   stat = pd_ConsUInt8(ctx, &pvalue->referenceIdentity, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_GPSReferenceTimeResult_modeSpecificInfo(rtxContext* ctx, UTRAN_GPSReferenceTimeResult_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (UTRAN_GPSReferenceTimeResult_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UTRAN_GPSReferenceTimeResult_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (UTRAN_GPSReferenceTimeResult_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UTRAN_GPSReferenceTimeResult_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_GPSReferenceTimeResult(rtxContext* ctx, UTRAN_GPSReferenceTimeResult* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UTRAN-GPSReferenceTimeResult");
-   /* ue-GPSTimingOfCell */
-   rtxCtxtPushElemName(ctx, "ue-GPSTimingOfCell");
-   stat = asn1PD_UMTS_UTRAN_GPSReferenceTimeResult_ue_GPSTimingOfCell(ctx, &pvalue->ue_GPSTimingOfCell);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_UTRAN_GPSReferenceTimeResult_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sfn */
-   rtxCtxtPushElemName(ctx, "sfn");
-   stat = pd_ConsUInt16(ctx, &pvalue->sfn, 0, 4095);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GPS_TOW_1msec(rtxContext* ctx, GPS_TOW_1msec* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "GPS-TOW-1msec");
-   stat = pd_ConsUInt32(ctx, pvalue, 0, 604799999);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_fdd(rtxContext* ctx, UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_tdd(rtxContext* ctx, UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   /* cellAndChannelIdentity */
-   rtxCtxtPushElemName(ctx, "cellAndChannelIdentity");
-   stat = asn1PD_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo(rtxContext* ctx, UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing(rtxContext* ctx, UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing* pvalue)
-{
-   int stat = 0;
-   /* sfn */
-   rtxCtxtPushElemName(ctx, "sfn");
-   stat = pd_ConsUInt16(ctx, &pvalue->sfn, 0, 4095);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime(rtxContext* ctx, UE_Positioning_PositionEstimateInfo_referenceTime* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "utran-GPSReferenceTimeResult");
-         pvalue->u.utran_GPSReferenceTimeResult = (UTRAN_GPSReferenceTimeResult*)rtxMemHeapAlloc(ctx, sizeof(UTRAN_GPSReferenceTimeResult));
-         if (pvalue->u.utran_GPSReferenceTimeResult == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UTRAN_GPSReferenceTimeResult(pvalue->u.utran_GPSReferenceTimeResult);
-         stat = asn1PD_UMTS_UTRAN_GPSReferenceTimeResult(ctx, pvalue->u.utran_GPSReferenceTimeResult);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "gps-ReferenceTimeOnly");
-         rtxCtxtPushTypeName(ctx, "GPS-TOW-1msec");
-         stat = pd_ConsUInt32(ctx, &pvalue->u.gps_ReferenceTimeOnly, 0, 604799999);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "cell-Timing");
-         pvalue->u.cell_Timing = (UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing));
-         if (pvalue->u.cell_Timing == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing(pvalue->u.cell_Timing);
-         stat = asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing(ctx, pvalue->u.cell_Timing);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PositionEstimate(rtxContext* ctx, PositionEstimate* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "PositionEstimate");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 4);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "ellipsoidPoint");
-         pvalue->u.ellipsoidPoint = (EllipsoidPoint*)rtxMemHeapAllocZ(ctx, sizeof(EllipsoidPoint));
-         if (pvalue->u.ellipsoidPoint == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_EllipsoidPoint(ctx, pvalue->u.ellipsoidPoint);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "ellipsoidPointUncertCircle");
-         pvalue->u.ellipsoidPointUncertCircle = (EllipsoidPointUncertCircle*)rtxMemHeapAllocZ(ctx, sizeof(EllipsoidPointUncertCircle));
-         if (pvalue->u.ellipsoidPointUncertCircle == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_EllipsoidPointUncertCircle(ctx, pvalue->u.ellipsoidPointUncertCircle);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ellipsoidPointUncertEllipse");
-         pvalue->u.ellipsoidPointUncertEllipse = (EllipsoidPointUncertEllipse*)rtxMemHeapAllocZ(ctx, sizeof(EllipsoidPointUncertEllipse));
-         if (pvalue->u.ellipsoidPointUncertEllipse == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_EllipsoidPointUncertEllipse(ctx, pvalue->u.ellipsoidPointUncertEllipse);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "ellipsoidPointAltitude");
-         pvalue->u.ellipsoidPointAltitude = (EllipsoidPointAltitude*)rtxMemHeapAllocZ(ctx, sizeof(EllipsoidPointAltitude));
-         if (pvalue->u.ellipsoidPointAltitude == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_EllipsoidPointAltitude(ctx, pvalue->u.ellipsoidPointAltitude);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "ellipsoidPointAltitudeEllipse");
-         pvalue->u.ellipsoidPointAltitudeEllipse = (EllipsoidPointAltitudeEllipsoide*)rtxMemHeapAllocZ(ctx, sizeof(EllipsoidPointAltitudeEllipsoide));
-         if (pvalue->u.ellipsoidPointAltitudeEllipse == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_EllipsoidPointAltitudeEllipsoide(ctx, pvalue->u.ellipsoidPointAltitudeEllipse);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_PositionEstimateInfo(rtxContext* ctx, UE_Positioning_PositionEstimateInfo* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-PositionEstimateInfo");
-   /* referenceTime */
-   rtxCtxtPushElemName(ctx, "referenceTime");
-   stat = asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime(ctx, &pvalue->referenceTime);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* positionEstimate */
-   rtxCtxtPushElemName(ctx, "positionEstimate");
-   stat = asn1PD_UMTS_PositionEstimate(ctx, &pvalue->positionEstimate);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RX_TX_TimeDifferenceType2(rtxContext* ctx, UE_RX_TX_TimeDifferenceType2* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "UE-RX-TX-TimeDifferenceType2");
-   stat = pd_ConsUInt16(ctx, pvalue, 0, 8191);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_Quality(rtxContext* ctx, UE_Positioning_OTDOA_Quality* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-Quality");
-   /* stdResolution */
-   rtxCtxtPushElemName(ctx, "stdResolution");
-   RT_SET_SIZE(ctx, 2, 2);
-   stat = pd_BitString32(ctx, &pvalue->stdResolution, 2, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* numberOfOTDOA-Measurements */
-   rtxCtxtPushElemName(ctx, "numberOfOTDOA-Measurements");
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pd_BitString32(ctx, &pvalue->numberOfOTDOA_Measurements, 3, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* stdOfOTDOA-Measurements */
-   rtxCtxtPushElemName(ctx, "stdOfOTDOA-Measurements");
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pd_BitString32(ctx, &pvalue->stdOfOTDOA_Measurements, 5, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NeighbourQuality(rtxContext* ctx, NeighbourQuality* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "NeighbourQuality");
-   /* ue-Positioning-OTDOA-Quality */
-   rtxCtxtPushElemName(ctx, "ue-Positioning-OTDOA-Quality");
-   stat = asn1PD_UMTS_UE_Positioning_OTDOA_Quality(ctx, &pvalue->ue_Positioning_OTDOA_Quality);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RX_TX_TimeDifferenceType2Info(rtxContext* ctx, UE_RX_TX_TimeDifferenceType2Info* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-RX-TX-TimeDifferenceType2Info");
-   /* ue-RX-TX-TimeDifferenceType2 */
-   rtxCtxtPushElemName(ctx, "ue-RX-TX-TimeDifferenceType2");
-   rtxCtxtPushTypeName(ctx, "UE-RX-TX-TimeDifferenceType2");
-   stat = pd_ConsUInt16(ctx, &pvalue->ue_RX_TX_TimeDifferenceType2, 0, 8191);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* neighbourQuality */
-   rtxCtxtPushElemName(ctx, "neighbourQuality");
-   stat = asn1PD_UMTS_NeighbourQuality(ctx, &pvalue->neighbourQuality);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_fdd(rtxContext* ctx, UE_Positioning_OTDOA_Measurement_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   /* referenceCellIDentity */
-   rtxCtxtPushElemName(ctx, "referenceCellIDentity");
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->referenceCellIDentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-RX-TX-TimeDifferenceType2Info */
-   rtxCtxtPushElemName(ctx, "ue-RX-TX-TimeDifferenceType2Info");
-   stat = asn1PD_UMTS_UE_RX_TX_TimeDifferenceType2Info(ctx, &pvalue->ue_RX_TX_TimeDifferenceType2Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_tdd(rtxContext* ctx, UE_Positioning_OTDOA_Measurement_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   /* referenceCellIdentity */
-   rtxCtxtPushElemName(ctx, "referenceCellIdentity");
-   rtxCtxtPushTypeName(ctx, "CellParametersID");
-   stat = pd_ConsUInt8(ctx, &pvalue->referenceCellIdentity, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_Measurement_modeSpecificInfo(rtxContext* ctx, UE_Positioning_OTDOA_Measurement_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (UE_Positioning_OTDOA_Measurement_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_Measurement_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (UE_Positioning_OTDOA_Measurement_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_Measurement_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Neighbour_modeSpecificInfo_fdd(rtxContext* ctx, Neighbour_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* neighbourIdentity */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "neighbourIdentity");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->neighbourIdentity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uE-RX-TX-TimeDifferenceType2Info */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "uE-RX-TX-TimeDifferenceType2Info");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_RX_TX_TimeDifferenceType2Info(ctx, &pvalue->uE_RX_TX_TimeDifferenceType2Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Neighbour_modeSpecificInfo_tdd(rtxContext* ctx, Neighbour_modeSpecificInfo_tdd* pvalue)
+int asn1PD_UMTS_MBMS_ModifiedService_LCR_v7c0ext(rtxContext* RT_RESTRICT ctx, MBMS_ModifiedService_LCR_v7c0ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* neighbourAndChannelIdentity */
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-ModifiedService-LCR-v7c0ext");
+   /* rbReleaseCause */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "neighbourAndChannelIdentity");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellAndChannelIdentity(ctx, &pvalue->neighbourAndChannelIdentity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUnsigned(ctx, &pvalue->rbReleaseCause, 0, 7);
+      RT_CHECK(ctx, stat, "MBMS-PTM-RBReleaseCause-LCR-r7", "rbReleaseCause", -1, "MBMS-ModifiedService-LCR-v7c0ext");
    }
    return 0;
 }
 
-int asn1PD_UMTS_Neighbour_modeSpecificInfo(rtxContext* ctx, Neighbour_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (Neighbour_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(Neighbour_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_Neighbour_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_Neighbour_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (Neighbour_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(Neighbour_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_Neighbour_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_Neighbour_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Neighbour(rtxContext* ctx, Neighbour* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Neighbour");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_Neighbour_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* neighbourQuality */
-   rtxCtxtPushElemName(ctx, "neighbourQuality");
-   stat = asn1PD_UMTS_NeighbourQuality(ctx, &pvalue->neighbourQuality);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sfn-SFN-ObsTimeDifference2 */
-   rtxCtxtPushElemName(ctx, "sfn-SFN-ObsTimeDifference2");
-   rtxCtxtPushTypeName(ctx, "SFN-SFN-ObsTimeDifference2");
-   stat = pd_ConsUInt16(ctx, &pvalue->sfn_SFN_ObsTimeDifference2, 0, 65535);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NeighbourList(rtxContext* ctx, NeighbourList* pvalue)
+int asn1PD_UMTS_MBMS_ModifiedServiceList_v770ext(rtxContext* RT_RESTRICT ctx, MBMS_ModifiedServiceList_v770ext* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "NeighbourList");
    RT_SET_SIZE(ctx, 1, 32);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-ModifiedServiceList-v770ext");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      Neighbour* elem;
-      rtxCtxtPushArrayElemName(ctx, "Neighbour", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Neighbour));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (Neighbour*)(node + 1);
+      MBMS_ModifiedService_v770ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_ModifiedService_v770ext));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-ModifiedService-v770ext", (int32_t)i, "MBMS-ModifiedServiceList-v770ext");
+      elem = (MBMS_ModifiedService_v770ext*)(node + 1);
       node->data = elem;
-      asn1Init_UMTS_Neighbour(elem);
+      asn1Init_UMTS_MBMS_ModifiedService_v770ext(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_Neighbour(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_Measurement(rtxContext* ctx, UE_Positioning_OTDOA_Measurement* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-Measurement");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sfn */
-   rtxCtxtPushElemName(ctx, "sfn");
-   stat = pd_ConsUInt16(ctx, &pvalue->sfn, 0, 4095);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_UE_Positioning_OTDOA_Measurement_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* neighbourList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "neighbourList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NeighbourList(ctx, &pvalue->neighbourList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_MeasurementResults_referenceTime(rtxContext* ctx, UE_Positioning_GPS_MeasurementResults_referenceTime* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "utran-GPSReferenceTimeResult");
-         pvalue->u.utran_GPSReferenceTimeResult = (UTRAN_GPSReferenceTimeResult*)rtxMemHeapAlloc(ctx, sizeof(UTRAN_GPSReferenceTimeResult));
-         if (pvalue->u.utran_GPSReferenceTimeResult == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UTRAN_GPSReferenceTimeResult(pvalue->u.utran_GPSReferenceTimeResult);
-         stat = asn1PD_UMTS_UTRAN_GPSReferenceTimeResult(ctx, pvalue->u.utran_GPSReferenceTimeResult);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "gps-ReferenceTimeOnly");
-         rtxCtxtPushTypeName(ctx, "GPS-TOW-1msec");
-         stat = pd_ConsUInt32(ctx, &pvalue->u.gps_ReferenceTimeOnly, 0, 604799999);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+      stat = asn1PD_UMTS_MBMS_ModifiedService_v770ext(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "MBMS-ModifiedService-v770ext", (int32_t)i, "MBMS-ModifiedServiceList-v770ext");
    }
    return 0;
 }
 
-int asn1PD_UMTS_MultipathIndicator(rtxContext* ctx, MultipathIndicator* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MultipathIndicator");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GPS_MeasurementParam(rtxContext* ctx, GPS_MeasurementParam* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "GPS-MeasurementParam");
-   /* satelliteID */
-   rtxCtxtPushElemName(ctx, "satelliteID");
-   stat = pd_ConsUInt8(ctx, &pvalue->satelliteID, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* c-N0 */
-   rtxCtxtPushElemName(ctx, "c-N0");
-   stat = pd_ConsUInt8(ctx, &pvalue->c_N0, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* doppler */
-   rtxCtxtPushElemName(ctx, "doppler");
-   stat = pd_ConsInteger(ctx, &pvalue->doppler, -32768, 32768);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* wholeGPS-Chips */
-   rtxCtxtPushElemName(ctx, "wholeGPS-Chips");
-   stat = pd_ConsUInt16(ctx, &pvalue->wholeGPS_Chips, 0, 1022);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* fractionalGPS-Chips */
-   rtxCtxtPushElemName(ctx, "fractionalGPS-Chips");
-   stat = pd_ConsUInt16(ctx, &pvalue->fractionalGPS_Chips, 0, 1023);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* multipathIndicator */
-   rtxCtxtPushElemName(ctx, "multipathIndicator");
-   rtxCtxtPushTypeName(ctx, "MultipathIndicator");
-   stat = pd_ConsUnsigned(ctx, &pvalue->multipathIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* pseudorangeRMS-Error */
-   rtxCtxtPushElemName(ctx, "pseudorangeRMS-Error");
-   stat = pd_ConsUInt8(ctx, &pvalue->pseudorangeRMS_Error, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GPS_MeasurementParamList(rtxContext* ctx, GPS_MeasurementParamList* pvalue)
+int asn1PD_UMTS_MBMS_ModifiedServiceList_LCR_v7c0ext(rtxContext* RT_RESTRICT ctx, MBMS_ModifiedServiceList_LCR_v7c0ext* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "GPS-MeasurementParamList");
-   RT_SET_SIZE(ctx, 1, 16);
+   RT_SET_SIZE(ctx, 1, 32);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-ModifiedServiceList-LCR-v7c0ext");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      GPS_MeasurementParam* elem;
-      rtxCtxtPushArrayElemName(ctx, "GPS-MeasurementParam", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GPS_MeasurementParam));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (GPS_MeasurementParam*)(node + 1);
+      MBMS_ModifiedService_LCR_v7c0ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_ModifiedService_LCR_v7c0ext));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-ModifiedService-LCR-v7c0ext", (int32_t)i, "MBMS-ModifiedServiceList-LCR-v7c0ext");
+      elem = (MBMS_ModifiedService_LCR_v7c0ext*)(node + 1);
       node->data = elem;
+      asn1Init_UMTS_MBMS_ModifiedService_LCR_v7c0ext(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GPS_MeasurementParam(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_MeasurementResults(rtxContext* ctx, UE_Positioning_GPS_MeasurementResults* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-MeasurementResults");
-   /* referenceTime */
-   rtxCtxtPushElemName(ctx, "referenceTime");
-   stat = asn1PD_UMTS_UE_Positioning_GPS_MeasurementResults_referenceTime(ctx, &pvalue->referenceTime);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gps-MeasurementParamList */
-   rtxCtxtPushElemName(ctx, "gps-MeasurementParamList");
-   stat = asn1PD_UMTS_GPS_MeasurementParamList(ctx, &pvalue->gps_MeasurementParamList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_MeasurementEventResults(rtxContext* ctx, UE_Positioning_MeasurementEventResults* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-MeasurementEventResults");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "event7a");
-         pvalue->u.event7a = (UE_Positioning_PositionEstimateInfo*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_PositionEstimateInfo));
-         if (pvalue->u.event7a == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_Positioning_PositionEstimateInfo(pvalue->u.event7a);
-         stat = asn1PD_UMTS_UE_Positioning_PositionEstimateInfo(ctx, pvalue->u.event7a);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "event7b");
-         pvalue->u.event7b = (UE_Positioning_OTDOA_Measurement*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_OTDOA_Measurement));
-         if (pvalue->u.event7b == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_Positioning_OTDOA_Measurement(pvalue->u.event7b);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_Measurement(ctx, pvalue->u.event7b);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "event7c");
-         pvalue->u.event7c = (UE_Positioning_GPS_MeasurementResults*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_GPS_MeasurementResults));
-         if (pvalue->u.event7c == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_Positioning_GPS_MeasurementResults(pvalue->u.event7c);
-         stat = asn1PD_UMTS_UE_Positioning_GPS_MeasurementResults(ctx, pvalue->u.event7c);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "additionalOrReplacedPosMeasEvent");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_EventResults(rtxContext* ctx, EventResults* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "EventResults");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 7);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "intraFreqEventResults");
-         pvalue->u.intraFreqEventResults = (IntraFreqEventResults*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqEventResults));
-         if (pvalue->u.intraFreqEventResults == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_IntraFreqEventResults(pvalue->u.intraFreqEventResults);
-         stat = asn1PD_UMTS_IntraFreqEventResults(ctx, pvalue->u.intraFreqEventResults);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "interFreqEventResults");
-         pvalue->u.interFreqEventResults = (InterFreqEventResults*)rtxMemHeapAlloc(ctx, sizeof(InterFreqEventResults));
-         if (pvalue->u.interFreqEventResults == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterFreqEventResults(pvalue->u.interFreqEventResults);
-         stat = asn1PD_UMTS_InterFreqEventResults(ctx, pvalue->u.interFreqEventResults);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "interRATEventResults");
-         pvalue->u.interRATEventResults = (InterRATEventResults*)rtxMemHeapAlloc(ctx, sizeof(InterRATEventResults));
-         if (pvalue->u.interRATEventResults == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterRATEventResults(pvalue->u.interRATEventResults);
-         stat = asn1PD_UMTS_InterRATEventResults(ctx, pvalue->u.interRATEventResults);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "trafficVolumeEventResults");
-         pvalue->u.trafficVolumeEventResults = (TrafficVolumeEventResults*)rtxMemHeapAlloc(ctx, sizeof(TrafficVolumeEventResults));
-         if (pvalue->u.trafficVolumeEventResults == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_TrafficVolumeEventResults(pvalue->u.trafficVolumeEventResults);
-         stat = asn1PD_UMTS_TrafficVolumeEventResults(ctx, pvalue->u.trafficVolumeEventResults);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "qualityEventResults");
-         pvalue->u.qualityEventResults = (QualityEventResults*)rtxMemHeapAlloc(ctx, sizeof(QualityEventResults));
-         if (pvalue->u.qualityEventResults == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_QualityEventResults(pvalue->u.qualityEventResults);
-         stat = asn1PD_UMTS_QualityEventResults(ctx, pvalue->u.qualityEventResults);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "ue-InternalEventResults");
-         pvalue->u.ue_InternalEventResults = (UE_InternalEventResults*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalEventResults));
-         if (pvalue->u.ue_InternalEventResults == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_InternalEventResults(pvalue->u.ue_InternalEventResults);
-         stat = asn1PD_UMTS_UE_InternalEventResults(ctx, pvalue->u.ue_InternalEventResults);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "ue-positioning-MeasurementEventResults");
-         pvalue->u.ue_positioning_MeasurementEventResults = (UE_Positioning_MeasurementEventResults*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_MeasurementEventResults));
-         if (pvalue->u.ue_positioning_MeasurementEventResults == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_Positioning_MeasurementEventResults(pvalue->u.ue_positioning_MeasurementEventResults);
-         stat = asn1PD_UMTS_UE_Positioning_MeasurementEventResults(ctx, pvalue->u.ue_positioning_MeasurementEventResults);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "spare");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_GANSSReferenceTime_ue_GANSSTimingOfCellFrames(rtxContext* ctx, UTRAN_GANSSReferenceTime_ue_GANSSTimingOfCellFrames* pvalue)
-{
-   int stat = 0;
-   /* ms-Part */
-   rtxCtxtPushElemName(ctx, "ms-Part");
-   stat = pd_ConsUInt8(ctx, &pvalue->ms_Part, 0, 80);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ls-Part */
-   rtxCtxtPushElemName(ctx, "ls-Part");
-   stat = pd_ConsUInt32(ctx, &pvalue->ls_Part, 0, 4294967295LL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_GANSSReferenceTime_mode_fdd(rtxContext* ctx, UTRAN_GANSSReferenceTime_mode_fdd* pvalue)
-{
-   int stat = 0;
-   /* primary-CPICH-Info */
-   rtxCtxtPushElemName(ctx, "primary-CPICH-Info");
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primary_CPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_GANSSReferenceTime_mode_tdd(rtxContext* ctx, UTRAN_GANSSReferenceTime_mode_tdd* pvalue)
-{
-   int stat = 0;
-   /* cellParameters */
-   rtxCtxtPushElemName(ctx, "cellParameters");
-   rtxCtxtPushTypeName(ctx, "CellParametersID");
-   stat = pd_ConsUInt8(ctx, &pvalue->cellParameters, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_GANSSReferenceTime_mode(rtxContext* ctx, UTRAN_GANSSReferenceTime_mode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (UTRAN_GANSSReferenceTime_mode_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UTRAN_GANSSReferenceTime_mode_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UTRAN_GANSSReferenceTime_mode_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (UTRAN_GANSSReferenceTime_mode_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UTRAN_GANSSReferenceTime_mode_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UTRAN_GANSSReferenceTime_mode_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+      stat = asn1PD_UMTS_MBMS_ModifiedService_LCR_v7c0ext(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "MBMS-ModifiedService-LCR-v7c0ext", (int32_t)i, "MBMS-ModifiedServiceList-LCR-v7c0ext");
    }
    return 0;
 }
 
-int asn1PD_UMTS_UTRAN_GANSSReferenceTime(rtxContext* ctx, UTRAN_GANSSReferenceTime* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UTRAN-GANSSReferenceTime");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ue-GANSSTimingOfCellFrames */
-   rtxCtxtPushElemName(ctx, "ue-GANSSTimingOfCellFrames");
-   stat = asn1PD_UMTS_UTRAN_GANSSReferenceTime_ue_GANSSTimingOfCellFrames(ctx, &pvalue->ue_GANSSTimingOfCellFrames);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gANSS-TimeId */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "gANSS-TimeId");
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->gANSS_TimeId, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* gANSS-TimeUncertainty */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "gANSS-TimeUncertainty");
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->gANSS_TimeUncertainty, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mode */
-   rtxCtxtPushElemName(ctx, "mode");
-   stat = asn1PD_UMTS_UTRAN_GANSSReferenceTime_mode(ctx, &pvalue->mode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* referenceSfn */
-   rtxCtxtPushElemName(ctx, "referenceSfn");
-   stat = pd_ConsUInt16(ctx, &pvalue->referenceSfn, 0, 4095);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GANSSReferenceTimeOnly(rtxContext* ctx, GANSSReferenceTimeOnly* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "GANSSReferenceTimeOnly");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* gANSS-tod */
-   rtxCtxtPushElemName(ctx, "gANSS-tod");
-   stat = pd_ConsUInt32(ctx, &pvalue->gANSS_tod, 0, 3599999);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gANSS-timeId */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "gANSS-timeId");
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->gANSS_timeId, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* gANSS-tod-uncertainty */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "gANSS-tod-uncertainty");
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->gANSS_tod_uncertainty, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7_referenceTime(rtxContext* ctx, UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7_referenceTime* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "utran-GANSSReferenceTimeResult");
-         pvalue->u.utran_GANSSReferenceTimeResult = (UTRAN_GANSSReferenceTime*)rtxMemHeapAlloc(ctx, sizeof(UTRAN_GANSSReferenceTime));
-         if (pvalue->u.utran_GANSSReferenceTimeResult == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UTRAN_GANSSReferenceTime(pvalue->u.utran_GANSSReferenceTimeResult);
-         stat = asn1PD_UMTS_UTRAN_GANSSReferenceTime(ctx, pvalue->u.utran_GANSSReferenceTimeResult);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "ganssReferenceTimeOnly");
-         pvalue->u.ganssReferenceTimeOnly = (GANSSReferenceTimeOnly*)rtxMemHeapAlloc(ctx, sizeof(GANSSReferenceTimeOnly));
-         if (pvalue->u.ganssReferenceTimeOnly == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_GANSSReferenceTimeOnly(pvalue->u.ganssReferenceTimeOnly);
-         stat = asn1PD_UMTS_GANSSReferenceTimeOnly(ctx, pvalue->u.ganssReferenceTimeOnly);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7(rtxContext* ctx, UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7* pvalue)
-{
-   int stat = 0;
-   /* referenceTime */
-   rtxCtxtPushElemName(ctx, "referenceTime");
-   stat = asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7_referenceTime(ctx, &pvalue->referenceTime);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* positionEstimate */
-   rtxCtxtPushElemName(ctx, "positionEstimate");
-   stat = asn1PD_UMTS_PositionEstimate(ctx, &pvalue->positionEstimate);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions(rtxContext* ctx, UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "earlier-than-r7");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "r7");
-         pvalue->u.r7 = (UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7));
-         if (pvalue->u.r7 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7(pvalue->u.r7);
-         stat = asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7(ctx, pvalue->u.r7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HorizontalVelocity(rtxContext* ctx, HorizontalVelocity* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HorizontalVelocity");
-   /* bearing */
-   rtxCtxtPushElemName(ctx, "bearing");
-   stat = pd_ConsUInt16(ctx, &pvalue->bearing, 0, 359);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* horizontalSpeed */
-   rtxCtxtPushElemName(ctx, "horizontalSpeed");
-   stat = pd_ConsUInt16(ctx, &pvalue->horizontalSpeed, 0, 2047);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HorizontalWithVerticalVelocity_verticalSpeedDirection(rtxContext* ctx, HorizontalWithVerticalVelocity_verticalSpeedDirection* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_HorizontalWithVerticalVelocity(rtxContext* ctx, HorizontalWithVerticalVelocity* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HorizontalWithVerticalVelocity");
-   /* verticalSpeedDirection */
-   rtxCtxtPushElemName(ctx, "verticalSpeedDirection");
-   stat = pd_ConsUnsigned(ctx, &pvalue->verticalSpeedDirection, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* bearing */
-   rtxCtxtPushElemName(ctx, "bearing");
-   stat = pd_ConsUInt16(ctx, &pvalue->bearing, 0, 359);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* horizontalSpeed */
-   rtxCtxtPushElemName(ctx, "horizontalSpeed");
-   stat = pd_ConsUInt16(ctx, &pvalue->horizontalSpeed, 0, 2047);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* verticalSpeed */
-   rtxCtxtPushElemName(ctx, "verticalSpeed");
-   stat = pd_ConsUInt8(ctx, &pvalue->verticalSpeed, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HorizontalVelocityWithUncertainty(rtxContext* ctx, HorizontalVelocityWithUncertainty* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HorizontalVelocityWithUncertainty");
-   /* bearing */
-   rtxCtxtPushElemName(ctx, "bearing");
-   stat = pd_ConsUInt16(ctx, &pvalue->bearing, 0, 359);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* horizontalSpeed */
-   rtxCtxtPushElemName(ctx, "horizontalSpeed");
-   stat = pd_ConsUInt16(ctx, &pvalue->horizontalSpeed, 0, 2047);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* horizontalSpeedUncertainty */
-   rtxCtxtPushElemName(ctx, "horizontalSpeedUncertainty");
-   stat = pd_ConsUInt8(ctx, &pvalue->horizontalSpeedUncertainty, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HorizontalWithVerticalVelocityAndUncertainty_verticalSpeedDirection(rtxContext* ctx, HorizontalWithVerticalVelocityAndUncertainty_verticalSpeedDirection* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_HorizontalWithVerticalVelocityAndUncertainty(rtxContext* ctx, HorizontalWithVerticalVelocityAndUncertainty* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HorizontalWithVerticalVelocityAndUncertainty");
-   /* verticalSpeedDirection */
-   rtxCtxtPushElemName(ctx, "verticalSpeedDirection");
-   stat = pd_ConsUnsigned(ctx, &pvalue->verticalSpeedDirection, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* bearing */
-   rtxCtxtPushElemName(ctx, "bearing");
-   stat = pd_ConsUInt16(ctx, &pvalue->bearing, 0, 359);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* horizontalSpeed */
-   rtxCtxtPushElemName(ctx, "horizontalSpeed");
-   stat = pd_ConsUInt16(ctx, &pvalue->horizontalSpeed, 0, 2047);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* verticalSpeed */
-   rtxCtxtPushElemName(ctx, "verticalSpeed");
-   stat = pd_ConsUInt8(ctx, &pvalue->verticalSpeed, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* horizontalUncertaintySpeed */
-   rtxCtxtPushElemName(ctx, "horizontalUncertaintySpeed");
-   stat = pd_ConsUInt8(ctx, &pvalue->horizontalUncertaintySpeed, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* verticalUncertaintySpeed */
-   rtxCtxtPushElemName(ctx, "verticalUncertaintySpeed");
-   stat = pd_ConsUInt8(ctx, &pvalue->verticalUncertaintySpeed, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_VelocityEstimate(rtxContext* ctx, VelocityEstimate* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "VelocityEstimate");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "horizontalVelocity");
-         pvalue->u.horizontalVelocity = (HorizontalVelocity*)rtxMemHeapAllocZ(ctx, sizeof(HorizontalVelocity));
-         if (pvalue->u.horizontalVelocity == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_HorizontalVelocity(ctx, pvalue->u.horizontalVelocity);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "horizontalWithVerticalVelocity");
-         pvalue->u.horizontalWithVerticalVelocity = (HorizontalWithVerticalVelocity*)rtxMemHeapAllocZ(ctx, sizeof(HorizontalWithVerticalVelocity));
-         if (pvalue->u.horizontalWithVerticalVelocity == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_HorizontalWithVerticalVelocity(ctx, pvalue->u.horizontalWithVerticalVelocity);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "horizontalVelocityWithUncertainty");
-         pvalue->u.horizontalVelocityWithUncertainty = (HorizontalVelocityWithUncertainty*)rtxMemHeapAllocZ(ctx, sizeof(HorizontalVelocityWithUncertainty));
-         if (pvalue->u.horizontalVelocityWithUncertainty == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_HorizontalVelocityWithUncertainty(ctx, pvalue->u.horizontalVelocityWithUncertainty);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "horizontalWithVerticalVelocityAndUncertainty");
-         pvalue->u.horizontalWithVerticalVelocityAndUncertainty = (HorizontalWithVerticalVelocityAndUncertainty*)rtxMemHeapAllocZ(ctx, sizeof(HorizontalWithVerticalVelocityAndUncertainty));
-         if (pvalue->u.horizontalWithVerticalVelocityAndUncertainty == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_HorizontalWithVerticalVelocityAndUncertainty(ctx, pvalue->u.horizontalWithVerticalVelocityAndUncertainty);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_ReferenceTimeUncertainty(rtxContext* ctx, UE_Positioning_GPS_ReferenceTimeUncertainty* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-ReferenceTimeUncertainty");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_v770ext(rtxContext* ctx, UE_Positioning_PositionEstimateInfo_v770ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-PositionEstimateInfo-v770ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* referenceTimeOptions */
-   rtxCtxtPushElemName(ctx, "referenceTimeOptions");
-   stat = asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions(ctx, &pvalue->referenceTimeOptions);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* positionData */
-   rtxCtxtPushElemName(ctx, "positionData");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->positionData, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* velocityEstimate */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "velocityEstimate");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_VelocityEstimate(ctx, &pvalue->velocityEstimate);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-GPS-ReferenceTimeUncertainty");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-ReferenceTimeUncertainty");
-      stat = pd_ConsUInt8(ctx, &pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_MeasurementResults_v770ext(rtxContext* ctx, UE_Positioning_GPS_MeasurementResults_v770ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-MeasurementResults-v770ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-GPS-ReferenceTimeUncertainty");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-ReferenceTimeUncertainty");
-      stat = pd_ConsUInt8(ctx, &pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_MeasuredResults_referenceTime(rtxContext* ctx, UE_Positioning_GANSS_MeasuredResults_referenceTime* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "utran-GANSSReferenceTimeResult");
-         pvalue->u.utran_GANSSReferenceTimeResult = (UTRAN_GANSSReferenceTime*)rtxMemHeapAlloc(ctx, sizeof(UTRAN_GANSSReferenceTime));
-         if (pvalue->u.utran_GANSSReferenceTimeResult == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UTRAN_GANSSReferenceTime(pvalue->u.utran_GANSSReferenceTimeResult);
-         stat = asn1PD_UMTS_UTRAN_GANSSReferenceTime(ctx, pvalue->u.utran_GANSSReferenceTimeResult);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "ganssReferenceTimeOnly");
-         pvalue->u.ganssReferenceTimeOnly = (GANSSReferenceTimeOnly*)rtxMemHeapAlloc(ctx, sizeof(GANSSReferenceTimeOnly));
-         if (pvalue->u.ganssReferenceTimeOnly == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_GANSSReferenceTimeOnly(pvalue->u.ganssReferenceTimeOnly);
-         stat = asn1PD_UMTS_GANSSReferenceTimeOnly(ctx, pvalue->u.ganssReferenceTimeOnly);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_GANSSMeasurementParameters_element_multipathIndicator(rtxContext* ctx, GANSSMeasurementParameters_element_multipathIndicator* pvalue)
+int asn1PD_UMTS_MBMS_SCCPCHPwrOffsetDiff(rtxContext* RT_RESTRICT ctx, MBMS_SCCPCHPwrOffsetDiff* RT_RESTRICT pvalue)
 {
    int stat;
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-SCCPCHPwrOffsetDiff");
    return 0;
 }
 
-int asn1PD_UMTS_GANSSMeasurementParameters_element(rtxContext* ctx, GANSSMeasurementParameters_element* pvalue)
+int asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_r6_layer1Combining_fdd(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCH_r6_layer1Combining_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* softComb-TimingOffset */
+   stat = pd_ConsUnsigned(ctx, &pvalue->softComb_TimingOffset, 0, 3);
+   RT_CHECK(ctx, stat, "MBMS-SoftComb-TimingOffset", "softComb-TimingOffset", -1, 0);
+   /* mbms-L1CombiningTransmTimeDiff */
+   stat = pd_ConsUInt8(ctx, &pvalue->mbms_L1CombiningTransmTimeDiff, 0, 3);
+   RT_CHECK(ctx, stat, "MBMS-L1CombiningTransmTimeDiff", "mbms-L1CombiningTransmTimeDiff", -1, 0);
+   /* mbms-L1CombiningSchedule */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMS_L1CombiningSchedule(ctx, &pvalue->mbms_L1CombiningSchedule);
+      RT_CHECK(ctx, stat, 0, "mbms-L1CombiningSchedule", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_r6_layer1Combining(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCH_r6_layer1Combining* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (MBMS_NeighbouringCellSCCPCH_r6_layer1Combining_fdd*)rtxMemHeapAlloc(ctx, sizeof(MBMS_NeighbouringCellSCCPCH_r6_layer1Combining_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_MBMS_NeighbouringCellSCCPCH_r6_layer1Combining_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_r6_layer1Combining_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_r6(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCH_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-NeighbouringCellSCCPCH-r6");
+   /* secondaryCCPCH-Info */
+   stat = pd_ConsUInt8(ctx, &pvalue->secondaryCCPCH_Info, 1, 32);
+   RT_CHECK(ctx, stat, "MBMS-CommonPhyChIdentity", "secondaryCCPCH-Info", -1, "MBMS-NeighbouringCellSCCPCH-r6");
+   /* secondaryCCPCHPwrOffsetDiff */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->secondaryCCPCHPwrOffsetDiff, 0, 3);
+      RT_CHECK(ctx, stat, "MBMS-SCCPCHPwrOffsetDiff", "secondaryCCPCHPwrOffsetDiff", -1, "MBMS-NeighbouringCellSCCPCH-r6");
+   }
+   /* layer1Combining */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_r6_layer1Combining(ctx, &pvalue->layer1Combining);
+      RT_CHECK(ctx, stat, 0, "layer1Combining", -1, "MBMS-NeighbouringCellSCCPCH-r6");
+   }
+   /* mbms-L23Configuration */
+   stat = asn1PD_UMTS_MBMS_L23Configuration(ctx, &pvalue->mbms_L23Configuration);
+   RT_CHECK(ctx, stat, 0, "mbms-L23Configuration", -1, "MBMS-NeighbouringCellSCCPCH-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining_fdd(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* softComb-TimingOffset */
+   stat = pd_ConsUnsigned(ctx, &pvalue->softComb_TimingOffset, 0, 3);
+   RT_CHECK(ctx, stat, "MBMS-SoftComb-TimingOffset", "softComb-TimingOffset", -1, 0);
+   /* mbms-L1CombiningTransmTimeDiff */
+   stat = pd_ConsUInt8(ctx, &pvalue->mbms_L1CombiningTransmTimeDiff, 0, 3);
+   RT_CHECK(ctx, stat, "MBMS-L1CombiningTransmTimeDiff", "mbms-L1CombiningTransmTimeDiff", -1, 0);
+   /* mbms-L1CombiningSchedule */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMS_L1CombiningSchedule(ctx, &pvalue->mbms_L1CombiningSchedule);
+      RT_CHECK(ctx, stat, 0, "mbms-L1CombiningSchedule", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining_fdd*)rtxMemHeapAlloc(ctx, sizeof(MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCH_v770ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* satId */
-   rtxCtxtPushElemName(ctx, "satId");
-   stat = pd_ConsUInt8(ctx, &pvalue->satId, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cSurNzero */
-   rtxCtxtPushElemName(ctx, "cSurNzero");
-   stat = pd_ConsUInt8(ctx, &pvalue->cSurNzero, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* multipathIndicator */
-   rtxCtxtPushElemName(ctx, "multipathIndicator");
-   stat = pd_ConsUnsigned(ctx, &pvalue->multipathIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* carrierQualityIndication */
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-NeighbouringCellSCCPCH-v770ext");
+   /* secondaryCCPCH-Info */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "carrierQualityIndication");
       pvalue->m |= 0x1u;
-      RT_SET_SIZE(ctx, 2, 2);
-      stat = pd_BitString32(ctx, &pvalue->carrierQualityIndication, 2, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUInt8(ctx, &pvalue->secondaryCCPCH_Info, 1, 32);
+      RT_CHECK(ctx, stat, "MBMS-CommonPhyChIdentity", "secondaryCCPCH-Info", -1, "MBMS-NeighbouringCellSCCPCH-v770ext");
    }
-   /* ganssCodePhase */
-   rtxCtxtPushElemName(ctx, "ganssCodePhase");
-   stat = pd_ConsUInt32(ctx, &pvalue->ganssCodePhase, 0, 2097151);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganssIntegerCodePhase */
+   /* secondaryCCPCH-InfoDiff */
+   stat = asn1PD_UMTS_SecondaryCCPCHInfoDiff_MBMS(ctx, &pvalue->secondaryCCPCH_InfoDiff);
+   RT_CHECK(ctx, stat, 0, "secondaryCCPCH-InfoDiff", -1, "MBMS-NeighbouringCellSCCPCH-v770ext");
+   /* secondaryCCPCHPwrOffsetDiff */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ganssIntegerCodePhase");
       pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ganssIntegerCodePhase, 0, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUnsigned(ctx, &pvalue->secondaryCCPCHPwrOffsetDiff, 0, 3);
+      RT_CHECK(ctx, stat, "MBMS-SCCPCHPwrOffsetDiff", "secondaryCCPCHPwrOffsetDiff", -1, "MBMS-NeighbouringCellSCCPCH-v770ext");
    }
-   /* codePhaseRmsError */
-   rtxCtxtPushElemName(ctx, "codePhaseRmsError");
-   stat = pd_ConsUInt8(ctx, &pvalue->codePhaseRmsError, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* doppler */
-   rtxCtxtPushElemName(ctx, "doppler");
-   stat = pd_ConsInt16(ctx, &pvalue->doppler, -32768, 32767);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* adr */
+   /* layer1Combining */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "adr");
       pvalue->m |= 0x4u;
-      stat = pd_ConsUInt32(ctx, &pvalue->adr, 0, 33554431);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining(ctx, &pvalue->layer1Combining);
+      RT_CHECK(ctx, stat, 0, "layer1Combining", -1, "MBMS-NeighbouringCellSCCPCH-v770ext");
    }
+   /* mbms-L23Configuration */
+   stat = asn1PD_UMTS_MBMS_L23Configuration(ctx, &pvalue->mbms_L23Configuration);
+   RT_CHECK(ctx, stat, 0, "mbms-L23Configuration", -1, "MBMS-NeighbouringCellSCCPCH-v770ext");
    return 0;
 }
 
-int asn1PD_UMTS_GANSSMeasurementParameters(rtxContext* ctx, GANSSMeasurementParameters* pvalue)
+int asn1PD_UMTS_MBMS_NeighbouringCellSCCPCHList_r6(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCHList_r6* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "GANSSMeasurementParameters");
-   RT_SET_SIZE(ctx, 1, 64);
+   RT_SET_SIZE(ctx, 1, 16);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-NeighbouringCellSCCPCHList-r6");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      GANSSMeasurementParameters_element* elem;
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSSMeasurementParameters_element));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (GANSSMeasurementParameters_element*)(node + 1);
+      MBMS_NeighbouringCellSCCPCH_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_NeighbouringCellSCCPCH_r6));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-NeighbouringCellSCCPCH-r6", (int32_t)i, "MBMS-NeighbouringCellSCCPCHList-r6");
+      elem = (MBMS_NeighbouringCellSCCPCH_r6*)(node + 1);
       node->data = elem;
-      asn1Init_UMTS_GANSSMeasurementParameters_element(elem);
+      asn1Init_UMTS_MBMS_NeighbouringCellSCCPCH_r6(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GANSSMeasurementParameters_element(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      stat = asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_r6(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "MBMS-NeighbouringCellSCCPCH-r6", (int32_t)i, "MBMS-NeighbouringCellSCCPCHList-r6");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_GANSSMeasurementSignalList_element(rtxContext* ctx, GANSSMeasurementSignalList_element* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ganssSignalId */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ganssSignalId");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "GANSS-Signal-Id");
-      stat = pd_ConsUInt8(ctx, &pvalue->ganssSignalId, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssCodePhaseAmbiguity */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ganssCodePhaseAmbiguity");
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ganssCodePhaseAmbiguity, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssMeasurementParameters */
-   rtxCtxtPushElemName(ctx, "ganssMeasurementParameters");
-   stat = asn1PD_UMTS_GANSSMeasurementParameters(ctx, &pvalue->ganssMeasurementParameters);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GANSSMeasurementSignalList(rtxContext* ctx, GANSSMeasurementSignalList* pvalue)
+int asn1PD_UMTS_MBMS_NeighbouringCellSCCPCHList_v770ext(rtxContext* RT_RESTRICT ctx, MBMS_NeighbouringCellSCCPCHList_v770ext* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "GANSSMeasurementSignalList");
-   RT_SET_SIZE(ctx, 1, 8);
+   RT_SET_SIZE(ctx, 1, 16);
    stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-NeighbouringCellSCCPCHList-v770ext");
    rtxDListInit(pvalue);
    for (i = 0; i < count; i++) {
       rtxDListNode* node;
-      GANSSMeasurementSignalList_element* elem;
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSSMeasurementSignalList_element));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (GANSSMeasurementSignalList_element*)(node + 1);
+      MBMS_NeighbouringCellSCCPCH_v770ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_NeighbouringCellSCCPCH_v770ext));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-NeighbouringCellSCCPCH-v770ext", (int32_t)i, "MBMS-NeighbouringCellSCCPCHList-v770ext");
+      elem = (MBMS_NeighbouringCellSCCPCH_v770ext*)(node + 1);
       node->data = elem;
-      asn1Init_UMTS_GANSSMeasurementSignalList_element(elem);
+      asn1Init_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext(elem);
       rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GANSSMeasurementSignalList_element(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      stat = asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "MBMS-NeighbouringCellSCCPCH-v770ext", (int32_t)i, "MBMS-NeighbouringCellSCCPCHList-v770ext");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_GANSSGenericMeasurementInfo_element(rtxContext* ctx, GANSSGenericMeasurementInfo_element* pvalue)
+int asn1PD_UMTS_MBMS_NetworkStandardTimeInformation_LCR_v890ext_networkStandardTime(rtxContext* RT_RESTRICT ctx, MBMS_NetworkStandardTimeInformation_LCR_v890ext_networkStandardTime* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 40, 40);
+   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_NetworkStandardTimeInformation_LCR_v890ext(rtxContext* RT_RESTRICT ctx, MBMS_NetworkStandardTimeInformation_LCR_v890ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ganssId */
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-NetworkStandardTimeInformation-LCR-v890ext");
+   /* networkStandardTime */
+   stat = asn1PD_UMTS_MBMS_NetworkStandardTimeInformation_LCR_v890ext_networkStandardTime(ctx, &pvalue->networkStandardTime);
+   RT_CHECK(ctx, stat, 0, "networkStandardTime", -1, "MBMS-NetworkStandardTimeInformation-LCR-v890ext");
+   /* correlativeSFN */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ganssId");
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ganssId, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUInt16(ctx, &pvalue->correlativeSFN, 0, 4095);
+      RT_CHECK(ctx, stat, 0, "correlativeSFN", -1, "MBMS-NetworkStandardTimeInformation-LCR-v890ext");
    }
-   /* ganssMeasurementSignalList */
-   rtxCtxtPushElemName(ctx, "ganssMeasurementSignalList");
-   stat = asn1PD_UMTS_GANSSMeasurementSignalList(ctx, &pvalue->ganssMeasurementSignalList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_NumberOfNeighbourCells_r6(rtxContext* RT_RESTRICT ctx, MBMS_NumberOfNeighbourCells_r6* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt8(ctx, pvalue, 0, 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-NumberOfNeighbourCells-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_PhyChInformation_IMB384(rtxContext* RT_RESTRICT ctx, MBMS_PhyChInformation_IMB384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* mbms-CommonPhyChIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->mbms_CommonPhyChIdentity, 1, 32);
+   RT_CHECK(ctx, stat, "MBMS-CommonPhyChIdentity", "mbms-CommonPhyChIdentity", -1, "MBMS-PhyChInformation-IMB384");
+   /* secondaryCCPCHInfo-MBMS */
+   stat = asn1PD_UMTS_SecondaryCCPCHFrameType2Info(ctx, &pvalue->secondaryCCPCHInfo_MBMS);
+   RT_CHECK(ctx, stat, 0, "secondaryCCPCHInfo-MBMS", -1, "MBMS-PhyChInformation-IMB384");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_PhyChInformationList_IMB384(rtxContext* RT_RESTRICT ctx, MBMS_PhyChInformationList_IMB384* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PhyChInformationList-IMB384");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_PhyChInformation_IMB384* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_PhyChInformation_IMB384));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-PhyChInformation-IMB384", (int32_t)i, "MBMS-PhyChInformationList-IMB384");
+      elem = (MBMS_PhyChInformation_IMB384*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_PhyChInformation_IMB384(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MBMS_PhyChInformation_IMB384(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "MBMS-PhyChInformation-IMB384", (int32_t)i, "MBMS-PhyChInformationList-IMB384");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_PhyChInformation_r6(rtxContext* RT_RESTRICT ctx, MBMS_PhyChInformation_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* mbms-CommonPhyChIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->mbms_CommonPhyChIdentity, 1, 32);
+   RT_CHECK(ctx, stat, "MBMS-CommonPhyChIdentity", "mbms-CommonPhyChIdentity", -1, "MBMS-PhyChInformation-r6");
+   /* secondaryCCPCHInfo-MBMS */
+   stat = asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r6(ctx, &pvalue->secondaryCCPCHInfo_MBMS);
+   RT_CHECK(ctx, stat, 0, "secondaryCCPCHInfo-MBMS", -1, "MBMS-PhyChInformation-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_PhyChInformation_r7(rtxContext* RT_RESTRICT ctx, MBMS_PhyChInformation_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* mbms-CommonPhyChIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->mbms_CommonPhyChIdentity, 1, 32);
+   RT_CHECK(ctx, stat, "MBMS-CommonPhyChIdentity", "mbms-CommonPhyChIdentity", -1, "MBMS-PhyChInformation-r7");
+   /* secondaryCCPCHInfo-MBMS */
+   stat = asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7(ctx, &pvalue->secondaryCCPCHInfo_MBMS);
+   RT_CHECK(ctx, stat, 0, "secondaryCCPCHInfo-MBMS", -1, "MBMS-PhyChInformation-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_PhyChInformationList_r6(rtxContext* RT_RESTRICT ctx, MBMS_PhyChInformationList_r6* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PhyChInformationList-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_PhyChInformation_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_PhyChInformation_r6));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-PhyChInformation-r6", (int32_t)i, "MBMS-PhyChInformationList-r6");
+      elem = (MBMS_PhyChInformation_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_PhyChInformation_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MBMS_PhyChInformation_r6(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "MBMS-PhyChInformation-r6", (int32_t)i, "MBMS-PhyChInformationList-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_PhyChInformationList_r7(rtxContext* RT_RESTRICT ctx, MBMS_PhyChInformationList_r7* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PhyChInformationList-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_PhyChInformation_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_PhyChInformation_r7));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-PhyChInformation-r7", (int32_t)i, "MBMS-PhyChInformationList-r7");
+      elem = (MBMS_PhyChInformation_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_PhyChInformation_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MBMS_PhyChInformation_r7(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "MBMS-PhyChInformation-r7", (int32_t)i, "MBMS-PhyChInformationList-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_PL_ServiceRestrictInfo_r6(rtxContext* RT_RESTRICT ctx, MBMS_PL_ServiceRestrictInfo_r6* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PL-ServiceRestrictInfo-r6");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PL-ServiceRestrictInfo-r6");
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_Qoffset(rtxContext* RT_RESTRICT ctx, MBMS_Qoffset* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-Qoffset");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_PreferredFrequencyInfo_r6_layerConvergenceInformation(rtxContext* RT_RESTRICT ctx, MBMS_PreferredFrequencyInfo_r6_layerConvergenceInformation* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* mbms-Qoffset */
+         stat = pd_ConsUnsigned(ctx, &pvalue->u.mbms_Qoffset, 0, 7);
+         RT_CHECK(ctx, stat, "MBMS-Qoffset", "mbms-Qoffset", -1, 0);
+         break;
+      case 1: /* mbms-HCSoffset */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.mbms_HCSoffset, 0, 7);
+         RT_CHECK(ctx, stat, 0, "mbms-HCSoffset", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_PreferredFrequencyInfo_r6(rtxContext* RT_RESTRICT ctx, MBMS_PreferredFrequencyInfo_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PreferredFrequencyInfo-r6");
+   /* mbmsPreferredFrequency */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->mbmsPreferredFrequency, 1, 4);
+      RT_CHECK(ctx, stat, 0, "mbmsPreferredFrequency", -1, "MBMS-PreferredFrequencyInfo-r6");
+   }
+   /* layerConvergenceInformation */
+   stat = asn1PD_UMTS_MBMS_PreferredFrequencyInfo_r6_layerConvergenceInformation(ctx, &pvalue->layerConvergenceInformation);
+   RT_CHECK(ctx, stat, 0, "layerConvergenceInformation", -1, "MBMS-PreferredFrequencyInfo-r6");
+   /* mbms-PL-ServiceRestrictInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "MBMS-PreferredFrequencyInfo-r6");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "MBMS-PreferredFrequencyInfo-r6");
+         pvalue->mbms_PL_ServiceRestrictInfo = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_PreferredFrequencyList_r6(rtxContext* RT_RESTRICT ctx, MBMS_PreferredFrequencyList_r6* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PreferredFrequencyList-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_PreferredFrequencyInfo_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_PreferredFrequencyInfo_r6));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-PreferredFrequencyInfo-r6", (int32_t)i, "MBMS-PreferredFrequencyList-r6");
+      elem = (MBMS_PreferredFrequencyInfo_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_PreferredFrequencyInfo_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MBMS_PreferredFrequencyInfo_r6(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "MBMS-PreferredFrequencyInfo-r6", (int32_t)i, "MBMS-PreferredFrequencyList-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_PTMActivationTime_r6(rtxContext* RT_RESTRICT ctx, MBMS_PTMActivationTime_r6* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUInt16(ctx, pvalue, 0, 2047);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PTMActivationTime-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_RequiredUEAction_UMod(rtxContext* RT_RESTRICT ctx, MBMS_RequiredUEAction_UMod* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-RequiredUEAction-UMod");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_SelectedServicesListFull(rtxContext* RT_RESTRICT ctx, MBMS_SelectedServicesListFull* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-SelectedServicesListFull");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_ServiceIdentity_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_ServiceIdentity_r6));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-ServiceIdentity-r6", (int32_t)i, "MBMS-SelectedServicesListFull");
+      elem = (MBMS_ServiceIdentity_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_ServiceIdentity_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MBMS_ServiceIdentity_r6(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "MBMS-ServiceIdentity-r6", (int32_t)i, "MBMS-SelectedServicesListFull");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_SelectedServiceInfo_status(rtxContext* RT_RESTRICT ctx, MBMS_SelectedServiceInfo_status* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* none */
+         break;
+      case 1: /* some */
+         pvalue->u.some = (MBMS_SelectedServicesListFull*)rtxMemHeapAlloc(ctx, sizeof(MBMS_SelectedServicesListFull));
+         if (pvalue->u.some == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "some", -1, 0);
+         asn1Init_UMTS_MBMS_SelectedServicesListFull(pvalue->u.some);
+         stat = asn1PD_UMTS_MBMS_SelectedServicesListFull(ctx, pvalue->u.some);
+         RT_CHECK(ctx, stat, 0, "some", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_SelectedServiceInfo(rtxContext* RT_RESTRICT ctx, MBMS_SelectedServiceInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* status */
+   stat = asn1PD_UMTS_MBMS_SelectedServiceInfo_status(ctx, &pvalue->status);
+   RT_CHECK(ctx, stat, 0, "status", -1, "MBMS-SelectedServiceInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_SelectedServicesListShort(rtxContext* RT_RESTRICT ctx, MBMS_SelectedServicesListShort* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t i;
+   {
+      uint32_t raw;
+      stat = rtxDecBits(ctx, &raw, 3);
+      RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-SelectedServicesListShort");
+      pvalue->n = raw + 1;
+      if (raw > 7) {
+         rtxErrAddStrParm(ctx, "MBMS-SelectedServicesListShort");
+         rtxErrAddUIntParm(ctx, pvalue->n);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MBMS-SelectedServicesListShort");
+      }
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      pvalue->elem[i] = 0;
+      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 1, 64);
+      if (stat != 0) {
+         pvalue->n = i + 1;
+         RT_FAIL(ctx, stat, "MBMS-ShortTransmissionID", "MBMS-ShortTransmissionID", (int32_t)i, "MBMS-SelectedServicesListShort");
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_SelectedServicesShort(rtxContext* RT_RESTRICT ctx, MBMS_SelectedServicesShort* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* mbms-SelectedServicesList */
+   stat = asn1PD_UMTS_MBMS_SelectedServicesListShort(ctx, &pvalue->mbms_SelectedServicesList);
+   RT_CHECK(ctx, stat, 0, "mbms-SelectedServicesList", -1, "MBMS-SelectedServicesShort");
+   /* modificationPeriodIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->modificationPeriodIdentity, 0, 1);
+   RT_CHECK(ctx, stat, 0, "modificationPeriodIdentity", -1, "MBMS-SelectedServicesShort");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_ServiceAccessInfo_r6(rtxContext* RT_RESTRICT ctx, MBMS_ServiceAccessInfo_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-ServiceAccessInfo-r6");
+   /* shortTransmissionID */
+   stat = pd_ConsUInt8(ctx, &pvalue->shortTransmissionID, 1, 64);
+   RT_CHECK(ctx, stat, "MBMS-ShortTransmissionID", "shortTransmissionID", -1, "MBMS-ServiceAccessInfo-r6");
+   /* accessprobabilityFactor-Idle */
+   stat = pd_ConsUnsigned(ctx, &pvalue->accessprobabilityFactor_Idle, 0, 31);
+   RT_CHECK(ctx, stat, "MBMS-AccessProbabilityFactor", "accessprobabilityFactor-Idle", -1, "MBMS-ServiceAccessInfo-r6");
+   /* accessprobabilityFactor-Connected */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->accessprobabilityFactor_Connected, 0, 31);
+      RT_CHECK(ctx, stat, "MBMS-AccessProbabilityFactor", "accessprobabilityFactor-Connected", -1, "MBMS-ServiceAccessInfo-r6");
+   }
+   /* mbms-ConnectedModeCountingScope */
+   stat = asn1PD_UMTS_MBMS_ConnectedModeCountingScope(ctx, &pvalue->mbms_ConnectedModeCountingScope);
+   RT_CHECK(ctx, stat, 0, "mbms-ConnectedModeCountingScope", -1, "MBMS-ServiceAccessInfo-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_ServiceAccessInfoList_r6(rtxContext* RT_RESTRICT ctx, MBMS_ServiceAccessInfoList_r6* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-ServiceAccessInfoList-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_ServiceAccessInfo_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_ServiceAccessInfo_r6));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-ServiceAccessInfo-r6", (int32_t)i, "MBMS-ServiceAccessInfoList-r6");
+      elem = (MBMS_ServiceAccessInfo_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_ServiceAccessInfo_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MBMS_ServiceAccessInfo_r6(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "MBMS-ServiceAccessInfo-r6", (int32_t)i, "MBMS-ServiceAccessInfoList-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_ServiceTransmInfo(rtxContext* RT_RESTRICT ctx, MBMS_ServiceTransmInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* start */
+   stat = pd_ConsUInt8(ctx, &pvalue->start, 0, 255);
+   RT_CHECK(ctx, stat, 0, "start", -1, "MBMS-ServiceTransmInfo");
+   /* duration */
+   stat = pd_ConsUInt16(ctx, &pvalue->duration, 1, 256);
+   RT_CHECK(ctx, stat, 0, "duration", -1, "MBMS-ServiceTransmInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_ServiceTransmInfoList(rtxContext* RT_RESTRICT ctx, MBMS_ServiceTransmInfoList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-ServiceTransmInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_ServiceTransmInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_ServiceTransmInfo));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-ServiceTransmInfo", (int32_t)i, "MBMS-ServiceTransmInfoList");
+      elem = (MBMS_ServiceTransmInfo*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MBMS_ServiceTransmInfo(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "MBMS-ServiceTransmInfo", (int32_t)i, "MBMS-ServiceTransmInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_ServiceSchedulingInfo_r6(rtxContext* RT_RESTRICT ctx, MBMS_ServiceSchedulingInfo_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-ServiceSchedulingInfo-r6");
+   /* mbms-TransmissionIdentity */
+   stat = asn1PD_UMTS_MBMS_TransmissionIdentity(ctx, &pvalue->mbms_TransmissionIdentity);
+   RT_CHECK(ctx, stat, 0, "mbms-TransmissionIdentity", -1, "MBMS-ServiceSchedulingInfo-r6");
+   /* mbms-ServiceTransmInfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMS_ServiceTransmInfoList(ctx, &pvalue->mbms_ServiceTransmInfoList);
+      RT_CHECK(ctx, stat, 0, "mbms-ServiceTransmInfoList", -1, "MBMS-ServiceSchedulingInfo-r6");
+   }
+   /* nextSchedulingperiod */
+   stat = pd_ConsUInt8(ctx, &pvalue->nextSchedulingperiod, 0, 31);
+   RT_CHECK(ctx, stat, 0, "nextSchedulingperiod", -1, "MBMS-ServiceSchedulingInfo-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_ServiceSchedulingInfoList_r6(rtxContext* RT_RESTRICT ctx, MBMS_ServiceSchedulingInfoList_r6* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-ServiceSchedulingInfoList-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_ServiceSchedulingInfo_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_ServiceSchedulingInfo_r6));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-ServiceSchedulingInfo-r6", (int32_t)i, "MBMS-ServiceSchedulingInfoList-r6");
+      elem = (MBMS_ServiceSchedulingInfo_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_ServiceSchedulingInfo_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MBMS_ServiceSchedulingInfo_r6(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "MBMS-ServiceSchedulingInfo-r6", (int32_t)i, "MBMS-ServiceSchedulingInfoList-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_TrCHInformation_SIB5(rtxContext* RT_RESTRICT ctx, MBMS_TrCHInformation_SIB5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-TrCHInformation-SIB5");
+   /* transpCh-Identity */
+   stat = pd_ConsUInt8(ctx, &pvalue->transpCh_Identity, 1, 8);
+   RT_CHECK(ctx, stat, 0, "transpCh-Identity", -1, "MBMS-TrCHInformation-SIB5");
+   /* rbInformation */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMS_PTM_RBInformation_CList(ctx, &pvalue->rbInformation);
+      RT_CHECK(ctx, stat, 0, "rbInformation", -1, "MBMS-TrCHInformation-SIB5");
+   }
+   /* msch-ConfigurationInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_MBMS_MSCH_ConfigurationInfo_r6(ctx, &pvalue->msch_ConfigurationInfo);
+      RT_CHECK(ctx, stat, 0, "msch-ConfigurationInfo", -1, "MBMS-TrCHInformation-SIB5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_TrCHInformation_SIB5List(rtxContext* RT_RESTRICT ctx, MBMS_TrCHInformation_SIB5List* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-TrCHInformation-SIB5List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_TrCHInformation_SIB5* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_TrCHInformation_SIB5));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-TrCHInformation-SIB5", (int32_t)i, "MBMS-TrCHInformation-SIB5List");
+      elem = (MBMS_TrCHInformation_SIB5*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_TrCHInformation_SIB5(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MBMS_TrCHInformation_SIB5(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "MBMS-TrCHInformation-SIB5", (int32_t)i, "MBMS-TrCHInformation-SIB5List");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_SIBType5_SCCPCH_r6(rtxContext* RT_RESTRICT ctx, MBMS_SIBType5_SCCPCH_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* sccpchIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->sccpchIdentity, 1, 16);
+   RT_CHECK(ctx, stat, "MBMS-SCCPCHIdentity", "sccpchIdentity", -1, "MBMS-SIBType5-SCCPCH-r6");
+   /* transpCHInformation */
+   stat = asn1PD_UMTS_MBMS_TrCHInformation_SIB5List(ctx, &pvalue->transpCHInformation);
+   RT_CHECK(ctx, stat, 0, "transpCHInformation", -1, "MBMS-SIBType5-SCCPCH-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_SIBType5_SCCPCHList_r6(rtxContext* RT_RESTRICT ctx, MBMS_SIBType5_SCCPCHList_r6* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-SIBType5-SCCPCHList-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_SIBType5_SCCPCH_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_SIBType5_SCCPCH_r6));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-SIBType5-SCCPCH-r6", (int32_t)i, "MBMS-SIBType5-SCCPCHList-r6");
+      elem = (MBMS_SIBType5_SCCPCH_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_SIBType5_SCCPCH_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MBMS_SIBType5_SCCPCH_r6(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "MBMS-SIBType5-SCCPCH-r6", (int32_t)i, "MBMS-SIBType5-SCCPCHList-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_TimersAndCounters_r6(rtxContext* RT_RESTRICT ctx, MBMS_TimersAndCounters_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-TimersAndCounters-r6");
+   /* t-318 */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUnsigned(ctx, &pvalue->t_318, 0, 14);
+      RT_CHECK(ctx, stat, "T-318", "t-318", -1, "MBMS-TimersAndCounters-r6");
+   }
+   else {
+      pvalue->t_318 = 3;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_TranspChInfoForCCTrCh_r6(rtxContext* RT_RESTRICT ctx, MBMS_TranspChInfoForCCTrCh_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* commonCCTrChIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->commonCCTrChIdentity, 1, 32);
+   RT_CHECK(ctx, stat, "MBMS-CommonCCTrChIdentity", "commonCCTrChIdentity", -1, "MBMS-TranspChInfoForCCTrCh-r6");
+   /* transportFormatCombinationSet */
+   stat = asn1PD_UMTS_TFCS(ctx, &pvalue->transportFormatCombinationSet);
+   RT_CHECK(ctx, stat, 0, "transportFormatCombinationSet", -1, "MBMS-TranspChInfoForCCTrCh-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_TranspChInfoForEachCCTrCh_r6(rtxContext* RT_RESTRICT ctx, MBMS_TranspChInfoForEachCCTrCh_r6* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-TranspChInfoForEachCCTrCh-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_TranspChInfoForCCTrCh_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_TranspChInfoForCCTrCh_r6));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-TranspChInfoForCCTrCh-r6", (int32_t)i, "MBMS-TranspChInfoForEachCCTrCh-r6");
+      elem = (MBMS_TranspChInfoForCCTrCh_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_TranspChInfoForCCTrCh_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MBMS_TranspChInfoForCCTrCh_r6(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "MBMS-TranspChInfoForCCTrCh-r6", (int32_t)i, "MBMS-TranspChInfoForEachCCTrCh-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_TranspChInfoForTrCh_r6(rtxContext* RT_RESTRICT ctx, MBMS_TranspChInfoForTrCh_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* commonTrChIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->commonTrChIdentity, 1, 32);
+   RT_CHECK(ctx, stat, "MBMS-CommonTrChIdentity", "commonTrChIdentity", -1, "MBMS-TranspChInfoForTrCh-r6");
+   /* transportFormatSet */
+   stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->transportFormatSet);
+   RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, "MBMS-TranspChInfoForTrCh-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_TranspChInfoForEachTrCh_r6(rtxContext* RT_RESTRICT ctx, MBMS_TranspChInfoForEachTrCh_r6* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-TranspChInfoForEachTrCh-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_TranspChInfoForTrCh_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_TranspChInfoForTrCh_r6));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-TranspChInfoForTrCh-r6", (int32_t)i, "MBMS-TranspChInfoForEachTrCh-r6");
+      elem = (MBMS_TranspChInfoForTrCh_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_TranspChInfoForTrCh_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MBMS_TranspChInfoForTrCh_r6(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "MBMS-TranspChInfoForTrCh-r6", (int32_t)i, "MBMS-TranspChInfoForEachTrCh-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_UnmodifiedService_r6(rtxContext* RT_RESTRICT ctx, MBMS_UnmodifiedService_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-UnmodifiedService-r6");
+   /* mbms-TransmissionIdentity */
+   stat = asn1PD_UMTS_MBMS_TransmissionIdentity(ctx, &pvalue->mbms_TransmissionIdentity);
+   RT_CHECK(ctx, stat, 0, "mbms-TransmissionIdentity", -1, "MBMS-UnmodifiedService-r6");
+   /* mbms-RequiredUEAction */
+   stat = pd_ConsUnsigned(ctx, &pvalue->mbms_RequiredUEAction, 0, 2);
+   RT_CHECK(ctx, stat, "MBMS-RequiredUEAction-UMod", "mbms-RequiredUEAction", -1, "MBMS-UnmodifiedService-r6");
+   /* mbms-PreferredFrequency */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->mbms_PreferredFrequency, 1, 4);
+      RT_CHECK(ctx, stat, "MBMS-PFLIndex", "mbms-PreferredFrequency", -1, "MBMS-UnmodifiedService-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_UnmodifiedServiceList_r6(rtxContext* RT_RESTRICT ctx, MBMS_UnmodifiedServiceList_r6* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-UnmodifiedServiceList-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_UnmodifiedService_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_UnmodifiedService_r6));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-UnmodifiedService-r6", (int32_t)i, "MBMS-UnmodifiedServiceList-r6");
+      elem = (MBMS_UnmodifiedService_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_UnmodifiedService_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MBMS_UnmodifiedService_r6(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "MBMS-UnmodifiedService-r6", (int32_t)i, "MBMS-UnmodifiedServiceList-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_UnmodifiedService_v770ext(rtxContext* RT_RESTRICT ctx, MBMS_UnmodifiedService_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-UnmodifiedService-v770ext");
+   /* mbsfnClusterFrequency */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->mbsfnClusterFrequency, 1, 16);
+      RT_CHECK(ctx, stat, "MBSFN-ClusterFrequency-r7", "mbsfnClusterFrequency", -1, "MBMS-UnmodifiedService-v770ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMS_UnmodifiedServiceList_v770ext(rtxContext* RT_RESTRICT ctx, MBMS_UnmodifiedServiceList_v770ext* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-UnmodifiedServiceList-v770ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBMS_UnmodifiedService_v770ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_UnmodifiedService_v770ext));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBMS-UnmodifiedService-v770ext", (int32_t)i, "MBMS-UnmodifiedServiceList-v770ext");
+      elem = (MBMS_UnmodifiedService_v770ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBMS_UnmodifiedService_v770ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MBMS_UnmodifiedService_v770ext(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "MBMS-UnmodifiedService-v770ext", (int32_t)i, "MBMS-UnmodifiedServiceList-v770ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFNservicesNotNotified_r7_notificationOfAllMBSFNServicesInTheBand(rtxContext* RT_RESTRICT ctx, MBSFNservicesNotNotified_r7_notificationOfAllMBSFNServicesInTheBand* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFNservicesNotNotified_r7(rtxContext* RT_RESTRICT ctx, MBSFNservicesNotNotified_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBSFNservicesNotNotified-r7");
+   /* notificationOfAllMBSFNServicesInTheBand */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "notificationOfAllMBSFNServicesInTheBand", -1, "MBSFNservicesNotNotified-r7");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "notificationOfAllMBSFNServicesInTheBand", -1, "MBSFNservicesNotNotified-r7");
+         pvalue->notificationOfAllMBSFNServicesInTheBand = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFNInterFrequencyNeighbour_r7_mbsfnServicesNotification(rtxContext* RT_RESTRICT ctx, MBSFNInterFrequencyNeighbour_r7_mbsfnServicesNotification* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* mbsfnServicesNotified */
+         break;
+      case 1: /* mbsfnServicesNotNotified */
+         pvalue->u.mbsfnServicesNotNotified = (MBSFNservicesNotNotified_r7*)rtxMemHeapAlloc(ctx, sizeof(MBSFNservicesNotNotified_r7));
+         if (pvalue->u.mbsfnServicesNotNotified == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "mbsfnServicesNotNotified", -1, 0);
+         asn1Init_UMTS_MBSFNservicesNotNotified_r7(pvalue->u.mbsfnServicesNotNotified);
+         stat = asn1PD_UMTS_MBSFNservicesNotNotified_r7(ctx, pvalue->u.mbsfnServicesNotNotified);
+         RT_CHECK(ctx, stat, 0, "mbsfnServicesNotNotified", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFNInterFrequencyNeighbour_r7(rtxContext* RT_RESTRICT ctx, MBSFNInterFrequencyNeighbour_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* mbsfnFrequency */
+   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->mbsfnFrequency);
+   RT_CHECK(ctx, stat, 0, "mbsfnFrequency", -1, "MBSFNInterFrequencyNeighbour-r7");
+   /* mbsfnServicesNotification */
+   stat = asn1PD_UMTS_MBSFNInterFrequencyNeighbour_r7_mbsfnServicesNotification(ctx, &pvalue->mbsfnServicesNotification);
+   RT_CHECK(ctx, stat, 0, "mbsfnServicesNotification", -1, "MBSFNInterFrequencyNeighbour-r7");
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFNInterFrequencyNeighbour_v860ext_imb_Indication(rtxContext* RT_RESTRICT ctx, MBSFNInterFrequencyNeighbour_v860ext_imb_Indication* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFNInterFrequencyNeighbour_v860ext(rtxContext* RT_RESTRICT ctx, MBSFNInterFrequencyNeighbour_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBSFNInterFrequencyNeighbour-v860ext");
+   /* imb-Indication */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "imb-Indication", -1, "MBSFNInterFrequencyNeighbour-v860ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "imb-Indication", -1, "MBSFNInterFrequencyNeighbour-v860ext");
+         pvalue->imb_Indication = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFN_InterFrequencyNeighbourList_r7(rtxContext* RT_RESTRICT ctx, MBSFN_InterFrequencyNeighbourList_r7* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBSFN-InterFrequencyNeighbourList-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBSFNInterFrequencyNeighbour_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBSFNInterFrequencyNeighbour_r7));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBSFNInterFrequencyNeighbour-r7", (int32_t)i, "MBSFN-InterFrequencyNeighbourList-r7");
+      elem = (MBSFNInterFrequencyNeighbour_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBSFNInterFrequencyNeighbour_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MBSFNInterFrequencyNeighbour_r7(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "MBSFNInterFrequencyNeighbour-r7", (int32_t)i, "MBSFN-InterFrequencyNeighbourList-r7");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFN_InterFrequencyNeighbourList_v860ext(rtxContext* RT_RESTRICT ctx, MBSFN_InterFrequencyNeighbourList_v860ext* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBSFN-InterFrequencyNeighbourList-v860ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBSFNInterFrequencyNeighbour_v860ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBSFNInterFrequencyNeighbour_v860ext));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBSFNInterFrequencyNeighbour-v860ext", (int32_t)i, "MBSFN-InterFrequencyNeighbourList-v860ext");
+      elem = (MBSFNInterFrequencyNeighbour_v860ext*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBSFNInterFrequencyNeighbour_v860ext(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MBSFNInterFrequencyNeighbour_v860ext(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "MBSFNInterFrequencyNeighbour-v860ext", (int32_t)i, "MBSFN-InterFrequencyNeighbourList-v860ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFN_TDDTimeSlotInfo(rtxContext* RT_RESTRICT ctx, MBSFN_TDDTimeSlotInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* timeSlotNumber */
+   stat = pd_ConsUInt8(ctx, &pvalue->timeSlotNumber, 0, 6);
+   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeSlotNumber", -1, "MBSFN-TDDTimeSlotInfo");
+   /* cellParametersID */
+   stat = pd_ConsUInt8(ctx, &pvalue->cellParametersID, 0, 127);
+   RT_CHECK(ctx, stat, "CellParametersID", "cellParametersID", -1, "MBSFN-TDDTimeSlotInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFN_TDDInformation(rtxContext* RT_RESTRICT ctx, MBSFN_TDDInformation* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 14);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBSFN-TDDInformation");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBSFN_TDDTimeSlotInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBSFN_TDDTimeSlotInfo));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBSFN-TDDTimeSlotInfo", (int32_t)i, "MBSFN-TDDInformation");
+      elem = (MBSFN_TDDTimeSlotInfo*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MBSFN_TDDTimeSlotInfo(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "MBSFN-TDDTimeSlotInfo", (int32_t)i, "MBSFN-TDDInformation");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFN_TDDTimeSlotInfo_LCR(rtxContext* RT_RESTRICT ctx, MBSFN_TDDTimeSlotInfo_LCR* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* frequencyIndex */
+   stat = pd_ConsUInt8(ctx, &pvalue->frequencyIndex, 1, 16);
+   RT_CHECK(ctx, stat, 0, "frequencyIndex", -1, "MBSFN-TDDTimeSlotInfo-LCR");
+   /* timeSlotList */
+   stat = asn1PD_UMTS_MBSFN_TDDInformation(ctx, &pvalue->timeSlotList);
+   RT_CHECK(ctx, stat, 0, "timeSlotList", -1, "MBSFN-TDDTimeSlotInfo-LCR");
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFN_TDDInformation_LCR(rtxContext* RT_RESTRICT ctx, MBSFN_TDDInformation_LCR* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBSFN-TDDInformation-LCR");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBSFN_TDDTimeSlotInfo_LCR* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBSFN_TDDTimeSlotInfo_LCR));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBSFN-TDDTimeSlotInfo-LCR", (int32_t)i, "MBSFN-TDDInformation-LCR");
+      elem = (MBSFN_TDDTimeSlotInfo_LCR*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_MBSFN_TDDTimeSlotInfo_LCR(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MBSFN_TDDTimeSlotInfo_LCR(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "MBSFN-TDDTimeSlotInfo-LCR", (int32_t)i, "MBSFN-TDDInformation-LCR");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFN_TDM_Info(rtxContext* RT_RESTRICT ctx, MBSFN_TDM_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* shortTransmissionID */
+   stat = pd_ConsUInt8(ctx, &pvalue->shortTransmissionID, 1, 64);
+   RT_CHECK(ctx, stat, "MBMS-ShortTransmissionID", "shortTransmissionID", -1, "MBSFN-TDM-Info");
+   /* tDMPeriod */
+   stat = pd_ConsUInt8(ctx, &pvalue->tDMPeriod, 2, 9);
+   RT_CHECK(ctx, stat, 0, "tDMPeriod", -1, "MBSFN-TDM-Info");
+   /* tDMOffset */
+   stat = pd_ConsUInt8(ctx, &pvalue->tDMOffset, 0, 8);
+   RT_CHECK(ctx, stat, 0, "tDMOffset", -1, "MBSFN-TDM-Info");
+   /* tDMLength */
+   stat = pd_ConsUInt8(ctx, &pvalue->tDMLength, 1, 8);
+   RT_CHECK(ctx, stat, 0, "tDMLength", -1, "MBSFN-TDM-Info");
+   return 0;
+}
+
+int asn1PD_UMTS_MBSFN_TDM_Info_List(rtxContext* RT_RESTRICT ctx, MBSFN_TDM_Info_List* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBSFN-TDM-Info-List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      MBSFN_TDM_Info* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBSFN_TDM_Info));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "MBSFN-TDM-Info", (int32_t)i, "MBSFN-TDM-Info-List");
+      elem = (MBSFN_TDM_Info*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_MBSFN_TDM_Info(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "MBSFN-TDM-Info", (int32_t)i, "MBSFN-TDM-Info-List");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_r3_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 11);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "ActiveSetUpdate-r3-IEs");
+   /* dummy */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "ActiveSetUpdate-r3-IEs");
+   }
+   /* dummy2 */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, "ActiveSetUpdate-r3-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "ActiveSetUpdate-r3-IEs");
+   }
+   /* newU-RNTI */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->newU_RNTI);
+      RT_CHECK(ctx, stat, 0, "newU-RNTI", -1, "ActiveSetUpdate-r3-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "ActiveSetUpdate-r3-IEs");
+   }
+   /* dummy3 */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dummy3);
+      RT_CHECK(ctx, stat, 0, "dummy3", -1, "ActiveSetUpdate-r3-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x40u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "ActiveSetUpdate-r3-IEs");
+   }
+   /* rl-AdditionInformationList */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_RL_AdditionInformationList(ctx, &pvalue->rl_AdditionInformationList);
+      RT_CHECK(ctx, stat, 0, "rl-AdditionInformationList", -1, "ActiveSetUpdate-r3-IEs");
+   }
+   /* rl-RemovalInformationList */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_RL_RemovalInformationList(ctx, &pvalue->rl_RemovalInformationList);
+      RT_CHECK(ctx, stat, 0, "rl-RemovalInformationList", -1, "ActiveSetUpdate-r3-IEs");
+   }
+   /* tx-DiversityMode */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x200u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->tx_DiversityMode, 0, 3);
+      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, "ActiveSetUpdate-r3-IEs");
+   }
+   /* dummy4 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_SSDT_Information(ctx, &pvalue->dummy4);
+      RT_CHECK(ctx, stat, 0, "dummy4", -1, "ActiveSetUpdate-r3-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-v4b0ext-IEs");
+   /* dummy */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->dummy, 0, 1);
+      RT_CHECK(ctx, stat, "SSDT-UL", "dummy", -1, "ActiveSetUpdate-v4b0ext-IEs");
+   }
+   /* cell-id-PerRL-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CellIdentity_PerRL_List(ctx, &pvalue->cell_id_PerRL_List);
+      RT_CHECK(ctx, stat, 0, "cell-id-PerRL-List", -1, "ActiveSetUpdate-v4b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_v590ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-v590ext-IEs");
+   /* dpc-Mode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->dpc_Mode, 0, 1);
+   RT_CHECK(ctx, stat, "DPC-Mode", "dpc-Mode", -1, "ActiveSetUpdate-v590ext-IEs");
+   /* dl-TPC-PowerOffsetPerRL-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_TPC_PowerOffsetPerRL_List(ctx, &pvalue->dl_TPC_PowerOffsetPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-TPC-PowerOffsetPerRL-List", -1, "ActiveSetUpdate-v590ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_v690ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-v690ext-IEs");
+   /* primary-plmn-Identity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
+      RT_CHECK(ctx, stat, 0, "primary-plmn-Identity", -1, "ActiveSetUpdate-v690ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-v690ext */
+   stat = asn1PD_UMTS_ActiveSetUpdate_v690ext_IEs(ctx, &pvalue->activeSetUpdate_v690ext);
+   RT_CHECK(ctx, stat, 0, "activeSetUpdate-v690ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-v590ext */
+   stat = asn1PD_UMTS_ActiveSetUpdate_v590ext_IEs(ctx, &pvalue->activeSetUpdate_v590ext);
+   RT_CHECK(ctx, stat, 0, "activeSetUpdate-v590ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-v4b0ext */
+   stat = asn1PD_UMTS_ActiveSetUpdate_v4b0ext_IEs(ctx, &pvalue->activeSetUpdate_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "activeSetUpdate-v4b0ext", -1, 0);
+   /* v590NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->activeSetUpdate_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "activeSetUpdate-r3-add-ext", -1, 0);
+   }
+   /* v4b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_r3(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-r3 */
+   stat = asn1PD_UMTS_ActiveSetUpdate_r3_IEs(ctx, &pvalue->activeSetUpdate_r3);
+   RT_CHECK(ctx, stat, 0, "activeSetUpdate-r3", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_r6_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r6_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 13);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-r6-IEs");
+   /* activationTime */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "ActiveSetUpdate-r6-IEs");
+   }
+   /* newU-RNTI */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->newU_RNTI);
+      RT_CHECK(ctx, stat, 0, "newU-RNTI", -1, "ActiveSetUpdate-r6-IEs");
+   }
+   /* newH-RNTI */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->newH_RNTI);
+      RT_CHECK(ctx, stat, 0, "newH-RNTI", -1, "ActiveSetUpdate-r6-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "ActiveSetUpdate-r6-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "ActiveSetUpdate-r6-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "ActiveSetUpdate-r6-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x40u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "ActiveSetUpdate-r6-IEs");
+   }
+   /* rl-AdditionInformationList */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_RL_AdditionInformationList_r6(ctx, &pvalue->rl_AdditionInformationList);
+      RT_CHECK(ctx, stat, 0, "rl-AdditionInformationList", -1, "ActiveSetUpdate-r6-IEs");
+   }
+   /* rl-RemovalInformationList */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_RL_RemovalInformationList(ctx, &pvalue->rl_RemovalInformationList);
+      RT_CHECK(ctx, stat, 0, "rl-RemovalInformationList", -1, "ActiveSetUpdate-r6-IEs");
+   }
+   /* tx-DiversityMode */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x200u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->tx_DiversityMode, 0, 3);
+      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, "ActiveSetUpdate-r6-IEs");
+   }
+   /* dpc-Mode */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x400u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->dpc_Mode, 0, 1);
+      RT_CHECK(ctx, stat, "DPC-Mode", "dpc-Mode", -1, "ActiveSetUpdate-r6-IEs");
+   }
+   /* serving-HSDSCH-CellInformation */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_Serving_HSDSCH_CellInformation(ctx, &pvalue->serving_HSDSCH_CellInformation);
+      RT_CHECK(ctx, stat, 0, "serving-HSDSCH-CellInformation", -1, "ActiveSetUpdate-r6-IEs");
+   }
+   /* e-dch-ReconfigurationInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_E_DCH_ReconfigurationInfo(ctx, &pvalue->e_dch_ReconfigurationInfo);
+      RT_CHECK(ctx, stat, 0, "e-dch-ReconfigurationInfo", -1, "ActiveSetUpdate-r6-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v6b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-v6b0ext-IEs");
+   /* rl-AdditionInformation-list-v6b0ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RL_AdditionInformation_list_v6b0ext(ctx, &pvalue->rl_AdditionInformation_list_v6b0ext);
+      RT_CHECK(ctx, stat, 0, "rl-AdditionInformation-list-v6b0ext", -1, "ActiveSetUpdate-v6b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-v6b0ext */
+   stat = asn1PD_UMTS_ActiveSetUpdate_v6b0ext_IEs(ctx, &pvalue->activeSetUpdate_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "activeSetUpdate-v6b0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-r6 */
+   stat = asn1PD_UMTS_ActiveSetUpdate_r6_IEs(ctx, &pvalue->activeSetUpdate_r6);
+   RT_CHECK(ctx, stat, 0, "activeSetUpdate-r6", -1, 0);
+   /* activeSetUpdate-r6-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->activeSetUpdate_r6_add_ext);
+      RT_CHECK(ctx, stat, 0, "activeSetUpdate-r6-add-ext", -1, 0);
+   }
+   /* v6b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_r7_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r7_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 21);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-r7-IEs");
+   /* activationTime */
+   if (present & ((uint32_t)1 << 20)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* newU-RNTI */
+   if (present & ((uint32_t)1 << 19)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->newU_RNTI);
+      RT_CHECK(ctx, stat, 0, "newU-RNTI", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* newH-RNTI */
+   if (present & ((uint32_t)1 << 18)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->newH_RNTI);
+      RT_CHECK(ctx, stat, 0, "newH-RNTI", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (present & ((uint32_t)1 << 17)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* dtx-drx-Info */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* mimoParameters */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_MIMO_Parameters_r7(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x400u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* rl-AdditionInformationList */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_RL_AdditionInformationList_r7(ctx, &pvalue->rl_AdditionInformationList);
+      RT_CHECK(ctx, stat, 0, "rl-AdditionInformationList", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* rl-RemovalInformationList */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_RL_RemovalInformationList(ctx, &pvalue->rl_RemovalInformationList);
+      RT_CHECK(ctx, stat, 0, "rl-RemovalInformationList", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* tx-DiversityMode */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x2000u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->tx_DiversityMode, 0, 3);
+      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* dpc-Mode */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x4000u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->dpc_Mode, 0, 1);
+      RT_CHECK(ctx, stat, "DPC-Mode", "dpc-Mode", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* serving-HSDSCH-CellInformation */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x8000u;
+      stat = asn1PD_UMTS_Serving_HSDSCH_CellInformation_r7(ctx, &pvalue->serving_HSDSCH_CellInformation);
+      RT_CHECK(ctx, stat, 0, "serving-HSDSCH-CellInformation", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* e-dch-ReconfigurationInfo */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_E_DCH_ReconfigurationInfo_r7(ctx, &pvalue->e_dch_ReconfigurationInfo);
+      RT_CHECK(ctx, stat, 0, "e-dch-ReconfigurationInfo", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* ul-16QAM-Config */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_UL_16QAM_Config(ctx, &pvalue->ul_16QAM_Config);
+      RT_CHECK(ctx, stat, 0, "ul-16QAM-Config", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* e-dch-ReconfInfoSameCell */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_E_DCH_RL_InfoSameServingCell(ctx, &pvalue->e_dch_ReconfInfoSameCell);
+      RT_CHECK(ctx, stat, 0, "e-dch-ReconfInfoSameCell", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* e-TFC-Boost-Info */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_E_TFC_Boost_Info_r7(ctx, &pvalue->e_TFC_Boost_Info);
+      RT_CHECK(ctx, stat, 0, "e-TFC-Boost-Info", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* e-DPDCH-PowerInterpolation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x100000u;
+      stat = rtxDecBitInline(ctx, &pvalue->e_DPDCH_PowerInterpolation);
+      RT_CHECK(ctx, stat, "E-DPDCH-PowerInterpolation", "e-DPDCH-PowerInterpolation", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_v780ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v780ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-v780ext-IEs");
+   /* hs-DSCH-TBSizeTable */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "ActiveSetUpdate-v780ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "ActiveSetUpdate-v780ext-IEs");
+         pvalue->hs_DSCH_TBSizeTable = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_v7f0ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v7f0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-v7f0ext-IEs");
+   /* mimoParameters */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MIMO_Parameters_v7f0ext(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "ActiveSetUpdate-v7f0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v7g0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-v7g0ext-IEs");
+   /* mimoParameters */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MIMO_Parameters_v7g0ext(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "ActiveSetUpdate-v7g0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* activeSetUdpate-v7g0ext */
+   stat = asn1PD_UMTS_ActiveSetUpdate_v7g0ext_IEs(ctx, &pvalue->activeSetUdpate_v7g0ext);
+   RT_CHECK(ctx, stat, 0, "activeSetUdpate-v7g0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* activeSetUdpate-v7f0ext */
+   stat = asn1PD_UMTS_ActiveSetUpdate_v7f0ext_IEs(ctx, &pvalue->activeSetUdpate_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "activeSetUdpate-v7f0ext", -1, 0);
+   /* v7g0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-v780ext */
+   stat = asn1PD_UMTS_ActiveSetUpdate_v780ext_IEs(ctx, &pvalue->activeSetUpdate_v780ext);
+   RT_CHECK(ctx, stat, 0, "activeSetUpdate-v780ext", -1, 0);
+   /* v7f0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-r7 */
+   stat = asn1PD_UMTS_ActiveSetUpdate_r7_IEs(ctx, &pvalue->activeSetUpdate_r7);
+   RT_CHECK(ctx, stat, 0, "activeSetUpdate-r7", -1, 0);
+   /* activeSetUpdate-r7-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->activeSetUpdate_r7_add_ext);
+      RT_CHECK(ctx, stat, 0, "activeSetUpdate-r7-add-ext", -1, 0);
+   }
+   /* v780NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v780NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_r8_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r8_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 23);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-r8-IEs");
+   /* activationTime */
+   if (present & ((uint32_t)1 << 22)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* newU-RNTI */
+   if (present & ((uint32_t)1 << 21)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->newU_RNTI);
+      RT_CHECK(ctx, stat, 0, "newU-RNTI", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* newH-RNTI */
+   if (present & ((uint32_t)1 << 20)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->newH_RNTI);
+      RT_CHECK(ctx, stat, 0, "newH-RNTI", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (present & ((uint32_t)1 << 19)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint32_t)1 << 18)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 17)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* dtx-drx-Info */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* mimoParameters */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_MIMO_Parameters_r8(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x400u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* rl-AdditionInformationList */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_RL_AdditionInformationList_r8(ctx, &pvalue->rl_AdditionInformationList);
+      RT_CHECK(ctx, stat, 0, "rl-AdditionInformationList", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* servingCellChangeParameters */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_ServingCellChangeParameters(ctx, &pvalue->servingCellChangeParameters);
+      RT_CHECK(ctx, stat, 0, "servingCellChangeParameters", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* rl-RemovalInformationList */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_RL_RemovalInformationList(ctx, &pvalue->rl_RemovalInformationList);
+      RT_CHECK(ctx, stat, 0, "rl-RemovalInformationList", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* tx-DiversityMode */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x4000u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->tx_DiversityMode, 0, 3);
+      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* dpc-Mode */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x8000u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->dpc_Mode, 0, 1);
+      RT_CHECK(ctx, stat, "DPC-Mode", "dpc-Mode", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* serving-HSDSCH-CellInformation */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_Serving_HSDSCH_CellInformation_r8(ctx, &pvalue->serving_HSDSCH_CellInformation);
+      RT_CHECK(ctx, stat, 0, "serving-HSDSCH-CellInformation", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* e-dch-ReconfigurationInfo */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_E_DCH_ReconfigurationInfo_r7(ctx, &pvalue->e_dch_ReconfigurationInfo);
+      RT_CHECK(ctx, stat, 0, "e-dch-ReconfigurationInfo", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* ul-16QAM-Config */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_UL_16QAM_Config(ctx, &pvalue->ul_16QAM_Config);
+      RT_CHECK(ctx, stat, 0, "ul-16QAM-Config", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* e-dch-ReconfInfoSameCell */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_E_DCH_RL_InfoSameServingCell(ctx, &pvalue->e_dch_ReconfInfoSameCell);
+      RT_CHECK(ctx, stat, 0, "e-dch-ReconfInfoSameCell", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* e-TFC-Boost-Info */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x100000u;
+      stat = asn1PD_UMTS_E_TFC_Boost_Info_r7(ctx, &pvalue->e_TFC_Boost_Info);
+      RT_CHECK(ctx, stat, 0, "e-TFC-Boost-Info", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* e-DPDCH-PowerInterpolation */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x200000u;
+      stat = rtxDecBitInline(ctx, &pvalue->e_DPDCH_PowerInterpolation);
+      RT_CHECK(ctx, stat, "E-DPDCH-PowerInterpolation", "e-DPDCH-PowerInterpolation", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* dl-SecondaryCellInfoFDD */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x400000u;
+      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD(ctx, &pvalue->dl_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_v890ext_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_v890ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-v890ext-IEs");
+   /* dl-SecondaryCellInfoFDD-v890ext */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_v890ext(ctx, &pvalue->dl_SecondaryCellInfoFDD_v890ext);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD-v890ext", -1, "ActiveSetUpdate-v890ext-IEs");
+   }
+   /* mimoParameters */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_MIMO_Parameters_v7f0ext(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "ActiveSetUpdate-v890ext-IEs");
+   }
+   /* rl-AdditionInformationList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_RL_AdditionInformationList_v890ext(ctx, &pvalue->rl_AdditionInformationList);
+      RT_CHECK(ctx, stat, 0, "rl-AdditionInformationList", -1, "ActiveSetUpdate-v890ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-v7g0ext */
+   stat = asn1PD_UMTS_ActiveSetUpdate_v7g0ext_IEs(ctx, &pvalue->activeSetUpdate_v7g0ext);
+   RT_CHECK(ctx, stat, 0, "activeSetUpdate-v7g0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-v890ext */
+   stat = asn1PD_UMTS_ActiveSetUpdate_v890ext_IEs(ctx, &pvalue->activeSetUpdate_v890ext);
+   RT_CHECK(ctx, stat, 0, "activeSetUpdate-v890ext", -1, 0);
+   /* v7g0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-r8 */
+   stat = asn1PD_UMTS_ActiveSetUpdate_r8_IEs(ctx, &pvalue->activeSetUpdate_r8);
+   RT_CHECK(ctx, stat, 0, "activeSetUpdate-r8", -1, 0);
+   /* activeSetUpdate-r8-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->activeSetUpdate_r8_add_ext);
+      RT_CHECK(ctx, stat, 0, "activeSetUpdate-r8-add-ext", -1, 0);
+   }
+   /* v890NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_r9_IEs(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_r9_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 27);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-r9-IEs");
+   /* activationTime */
+   if (present & ((uint32_t)1 << 26)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* newU-RNTI */
+   if (present & ((uint32_t)1 << 25)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->newU_RNTI);
+      RT_CHECK(ctx, stat, 0, "newU-RNTI", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* newH-RNTI */
+   if (present & ((uint32_t)1 << 24)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->newH_RNTI);
+      RT_CHECK(ctx, stat, 0, "newH-RNTI", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (present & ((uint32_t)1 << 23)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint32_t)1 << 22)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 21)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (present & ((uint32_t)1 << 20)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* dtx-drx-Info */
+   if (present & ((uint32_t)1 << 19)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (present & ((uint32_t)1 << 18)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* mimoParameters */
+   if (present & ((uint32_t)1 << 17)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_MIMO_Parameters_r9(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x400u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* ul-SecondaryCellInfoFDD */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_UL_SecondaryCellInfoFDD(ctx, &pvalue->ul_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "ul-SecondaryCellInfoFDD", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* e-dch-ReconfigurationInfo-SecULFrequency */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_E_DCH_ReconfigurationInfo_SecULFrequency(ctx, &pvalue->e_dch_ReconfigurationInfo_SecULFrequency);
+      RT_CHECK(ctx, stat, 0, "e-dch-ReconfigurationInfo-SecULFrequency", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* rl-AdditionInformationList */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_RL_AdditionInformationList_r9(ctx, &pvalue->rl_AdditionInformationList);
+      RT_CHECK(ctx, stat, 0, "rl-AdditionInformationList", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* rl-AdditionInformationList-SecULFreq */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_RL_AdditionInformationList_SecULFreq(ctx, &pvalue->rl_AdditionInformationList_SecULFreq);
+      RT_CHECK(ctx, stat, 0, "rl-AdditionInformationList-SecULFreq", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* servingCellChangeParameters */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x8000u;
+      stat = asn1PD_UMTS_ServingCellChangeParameters(ctx, &pvalue->servingCellChangeParameters);
+      RT_CHECK(ctx, stat, 0, "servingCellChangeParameters", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* rl-RemovalInformationList */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_RL_RemovalInformationList(ctx, &pvalue->rl_RemovalInformationList);
+      RT_CHECK(ctx, stat, 0, "rl-RemovalInformationList", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* rl-RemovalInformationList-SecULFreq */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_RL_RemovalInformationList_SecULFreq(ctx, &pvalue->rl_RemovalInformationList_SecULFreq);
+      RT_CHECK(ctx, stat, 0, "rl-RemovalInformationList-SecULFreq", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* tx-DiversityMode */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x40000u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->tx_DiversityMode, 0, 3);
+      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* dpc-Mode */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x80000u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->dpc_Mode, 0, 1);
+      RT_CHECK(ctx, stat, "DPC-Mode", "dpc-Mode", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* serving-HSDSCH-CellInformation */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x100000u;
+      stat = asn1PD_UMTS_Serving_HSDSCH_CellInformation_r9(ctx, &pvalue->serving_HSDSCH_CellInformation);
+      RT_CHECK(ctx, stat, 0, "serving-HSDSCH-CellInformation", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* e-dch-ReconfigurationInfo */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x200000u;
+      stat = asn1PD_UMTS_E_DCH_ReconfigurationInfo_r7(ctx, &pvalue->e_dch_ReconfigurationInfo);
+      RT_CHECK(ctx, stat, 0, "e-dch-ReconfigurationInfo", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* ul-16QAM-Config */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x400000u;
+      stat = asn1PD_UMTS_UL_16QAM_Config(ctx, &pvalue->ul_16QAM_Config);
+      RT_CHECK(ctx, stat, 0, "ul-16QAM-Config", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* e-dch-ReconfInfoSameCell */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x800000u;
+      stat = asn1PD_UMTS_E_DCH_RL_InfoSameServingCell(ctx, &pvalue->e_dch_ReconfInfoSameCell);
+      RT_CHECK(ctx, stat, 0, "e-dch-ReconfInfoSameCell", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* e-TFC-Boost-Info */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1000000u;
+      stat = asn1PD_UMTS_E_TFC_Boost_Info_r7(ctx, &pvalue->e_TFC_Boost_Info);
+      RT_CHECK(ctx, stat, 0, "e-TFC-Boost-Info", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* e-DPDCH-PowerInterpolation */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2000000u;
+      stat = rtxDecBitInline(ctx, &pvalue->e_DPDCH_PowerInterpolation);
+      RT_CHECK(ctx, stat, "E-DPDCH-PowerInterpolation", "e-DPDCH-PowerInterpolation", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* dl-SecondaryCellInfoFDD */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4000000u;
+      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_r9(ctx, &pvalue->dl_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-r9 */
+   stat = asn1PD_UMTS_ActiveSetUpdate_r9_IEs(ctx, &pvalue->activeSetUpdate_r9);
+   RT_CHECK(ctx, stat, 0, "activeSetUpdate-r9", -1, 0);
+   /* activeSetUpdate-r9-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->activeSetUpdate_r9_add_ext);
+      RT_CHECK(ctx, stat, 0, "activeSetUpdate-r9-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r9 */
+         pvalue->u.r9 = (ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9));
+         if (pvalue->u.r9 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r9", -1, 0);
+         asn1Init_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(pvalue->u.r9);
+         stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
+         RT_CHECK(ctx, stat, 0, "r9", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r8 */
+         pvalue->u.r8 = (ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8));
+         if (pvalue->u.r8 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r8", -1, 0);
+         asn1Init_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8(pvalue->u.r8);
+         stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
+         RT_CHECK(ctx, stat, 0, "r8", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r7 */
+         pvalue->u.r7 = (ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7));
+         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r7", -1, 0);
+         asn1Init_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7(pvalue->u.r7);
+         stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
+         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r6 */
+         pvalue->u.r6 = (ActiveSetUpdate_later_than_r3_criticalExtensions_r6*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdate_later_than_r3_criticalExtensions_r6));
+         if (pvalue->u.r6 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r6", -1, 0);
+         asn1Init_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6(pvalue->u.r6);
+         stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6(ctx, pvalue->u.r6);
+         RT_CHECK(ctx, stat, 0, "r6", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate_later_than_r3(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdate(rtxContext* RT_RESTRICT ctx, ActiveSetUpdate* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r3 */
+         pvalue->u.r3 = (ActiveSetUpdate_r3*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdate_r3));
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "ActiveSetUpdate");
+         asn1Init_UMTS_ActiveSetUpdate_r3(pvalue->u.r3);
+         stat = asn1PD_UMTS_ActiveSetUpdate_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "ActiveSetUpdate");
+         break;
+      case 1: /* later-than-r3 */
+         pvalue->u.later_than_r3 = (ActiveSetUpdate_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdate_later_than_r3));
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "ActiveSetUpdate");
+         asn1Init_UMTS_ActiveSetUpdate_later_than_r3(pvalue->u.later_than_r3);
+         stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "ActiveSetUpdate");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ActiveSetUpdate");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdateComplete_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdateComplete_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdateComplete_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdateComplete_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* activeSetUpdateComplete-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->activeSetUpdateComplete_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "activeSetUpdateComplete-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_ActiveSetUpdateComplete_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdateComplete(rtxContext* RT_RESTRICT ctx, ActiveSetUpdateComplete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdateComplete");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "ActiveSetUpdateComplete");
+   /* dummy */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtActivationInfo(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "ActiveSetUpdateComplete");
+   }
+   /* dummy2 */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, "ActiveSetUpdateComplete");
+   }
+   /* dummy3 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_UL_CounterSynchronisationInfo(ctx, &pvalue->dummy3);
+      RT_CHECK(ctx, stat, 0, "dummy3", -1, "ActiveSetUpdateComplete");
+   }
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_ActiveSetUpdateComplete_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "ActiveSetUpdateComplete");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdateFailure_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdateFailure_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdateFailure_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ActiveSetUpdateFailure_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* activeSetUpdateFailure-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->activeSetUpdateFailure_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "activeSetUpdateFailure-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_ActiveSetUpdateFailure_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ActiveSetUpdateFailure(rtxContext* RT_RESTRICT ctx, ActiveSetUpdateFailure* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdateFailure");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "ActiveSetUpdateFailure");
+   /* failureCause */
+   stat = asn1PD_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
+   RT_CHECK(ctx, stat, 0, "failureCause", -1, "ActiveSetUpdateFailure");
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_ActiveSetUpdateFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "ActiveSetUpdateFailure");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AssistanceDataDelivery_r3_IEs(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AssistanceDataDelivery-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "AssistanceDataDelivery-r3-IEs");
+   /* ue-positioning-GPS-AssistanceData */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_Positioning_GPS_AssistanceData(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AssistanceData", -1, "AssistanceDataDelivery-r3-IEs");
+   }
+   /* ue-positioning-OTDOA-AssistanceData-UEB */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData_UEB);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData-UEB", -1, "AssistanceDataDelivery-r3-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AssistanceDataDelivery_v3a0ext(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_v3a0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AssistanceDataDelivery-v3a0ext");
+   /* sfn-Offset-Validity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "AssistanceDataDelivery-v3a0ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "AssistanceDataDelivery-v3a0ext");
+         pvalue->sfn_Offset_Validity = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AssistanceDataDelivery_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AssistanceDataDelivery-v4b0ext-IEs");
+   /* ue-Positioning-OTDOA-AssistanceData-r4ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_r4ext(ctx, &pvalue->ue_Positioning_OTDOA_AssistanceData_r4ext);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-OTDOA-AssistanceData-r4ext", -1, "AssistanceDataDelivery-v4b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AssistanceDataDelivery_v770ext_IEs(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AssistanceDataDelivery-v770ext-IEs");
+   /* ue-Positioning-OTDOA-AssistanceData-UEB-ext */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB_ext(ctx, &pvalue->ue_Positioning_OTDOA_AssistanceData_UEB_ext);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-OTDOA-AssistanceData-UEB-ext", -1, "AssistanceDataDelivery-v770ext-IEs");
+   }
+   /* ue-Positioning-GPS-AssistanceData */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UE_Positioning_GPS_AssistanceData_v770ext(ctx, &pvalue->ue_Positioning_GPS_AssistanceData);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-GPS-AssistanceData", -1, "AssistanceDataDelivery-v770ext-IEs");
+   }
+   /* ue-positioning-GANSS-AssistanceData */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData(ctx, &pvalue->ue_positioning_GANSS_AssistanceData);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AssistanceData", -1, "AssistanceDataDelivery-v770ext-IEs");
+   }
    return 0;
 }
 

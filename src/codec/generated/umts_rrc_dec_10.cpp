@@ -6,9011 +6,9006 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PD_UMTS_GANSSGenericMeasurementInfo(rtxContext* ctx, GANSSGenericMeasurementInfo* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "GANSSGenericMeasurementInfo");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GANSSGenericMeasurementInfo_element* elem;
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSSGenericMeasurementInfo_element));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (GANSSGenericMeasurementInfo_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_GANSSGenericMeasurementInfo_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GANSSGenericMeasurementInfo_element(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_MeasuredResults(rtxContext* ctx, UE_Positioning_GANSS_MeasuredResults* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-MeasuredResults");
-   /* referenceTime */
-   rtxCtxtPushElemName(ctx, "referenceTime");
-   stat = asn1PD_UMTS_UE_Positioning_GANSS_MeasuredResults_referenceTime(ctx, &pvalue->referenceTime);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganssGenericMeasurementInfo */
-   rtxCtxtPushElemName(ctx, "ganssGenericMeasurementInfo");
-   stat = asn1PD_UMTS_GANSSGenericMeasurementInfo(ctx, &pvalue->ganssGenericMeasurementInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_MeasurementEventResults_v770ext(rtxContext* ctx, UE_Positioning_MeasurementEventResults_v770ext* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-MeasurementEventResults-v770ext");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "event7a");
-         pvalue->u.event7a = (UE_Positioning_PositionEstimateInfo_v770ext*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_PositionEstimateInfo_v770ext));
-         if (pvalue->u.event7a == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_Positioning_PositionEstimateInfo_v770ext(pvalue->u.event7a);
-         stat = asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_v770ext(ctx, pvalue->u.event7a);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "event7c");
-         pvalue->u.event7c = (UE_Positioning_GPS_MeasurementResults_v770ext*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_GPS_MeasurementResults_v770ext));
-         if (pvalue->u.event7c == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_Positioning_GPS_MeasurementResults_v770ext(pvalue->u.event7c);
-         stat = asn1PD_UMTS_UE_Positioning_GPS_MeasurementResults_v770ext(ctx, pvalue->u.event7c);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "event7d");
-         pvalue->u.event7d = (UE_Positioning_GANSS_MeasuredResults*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_GANSS_MeasuredResults));
-         if (pvalue->u.event7d == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_Positioning_GANSS_MeasuredResults(pvalue->u.event7d);
-         stat = asn1PD_UMTS_UE_Positioning_GANSS_MeasuredResults(ctx, pvalue->u.event7d);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "spare");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_EventResults_v770ext(rtxContext* ctx, EventResults_v770ext* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "EventResults-v770ext");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "ue-positioning-MeasurementEventResults");
-         pvalue->u.ue_positioning_MeasurementEventResults = (UE_Positioning_MeasurementEventResults_v770ext*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_MeasurementEventResults_v770ext));
-         if (pvalue->u.ue_positioning_MeasurementEventResults == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_Positioning_MeasurementEventResults_v770ext(pvalue->u.ue_positioning_MeasurementEventResults);
-         stat = asn1PD_UMTS_UE_Positioning_MeasurementEventResults_v770ext(ctx, pvalue->u.ue_positioning_MeasurementEventResults);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GANSSMeasurementParameters_v860ext_element(rtxContext* ctx, GANSSMeasurementParameters_v860ext_element* pvalue)
+int asn1PD_UMTS_AssistanceDataDelivery_v860ext_IEs(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_v860ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ganssIntegerCodePhaseExt */
+   RT_CHECK(ctx, stat, 0, 0, -1, "AssistanceDataDelivery-v860ext-IEs");
+   /* ue-positioning-GANSS-AssistanceData-v860ext */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ganssIntegerCodePhaseExt");
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ganssIntegerCodePhaseExt, 64, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData_v860ext(ctx, &pvalue->ue_positioning_GANSS_AssistanceData_v860ext);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AssistanceData-v860ext", -1, "AssistanceDataDelivery-v860ext-IEs");
    }
    return 0;
 }
 
-int asn1PD_UMTS_GANSSMeasurementParameters_v860ext(rtxContext* ctx, GANSSMeasurementParameters_v860ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "GANSSMeasurementParameters-v860ext");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GANSSMeasurementParameters_v860ext_element* elem;
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSSMeasurementParameters_v860ext_element));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (GANSSMeasurementParameters_v860ext_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_GANSSMeasurementParameters_v860ext_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GANSSMeasurementParameters_v860ext_element(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GANSSMeasurementSignalList_v860ext_element(rtxContext* ctx, GANSSMeasurementSignalList_v860ext_element* pvalue)
+int asn1PD_UMTS_AssistanceDataDelivery_v920ext_IEs(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_v920ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ganssCodePhaseAmbiguityExt */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ganssCodePhaseAmbiguityExt");
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ganssCodePhaseAmbiguityExt, 32, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssMeasurementParameters */
-   rtxCtxtPushElemName(ctx, "ganssMeasurementParameters");
-   stat = asn1PD_UMTS_GANSSMeasurementParameters_v860ext(ctx, &pvalue->ganssMeasurementParameters);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GANSSMeasurementSignalList_v860ext(rtxContext* ctx, GANSSMeasurementSignalList_v860ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "GANSSMeasurementSignalList-v860ext");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GANSSMeasurementSignalList_v860ext_element* elem;
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSSMeasurementSignalList_v860ext_element));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (GANSSMeasurementSignalList_v860ext_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_GANSSMeasurementSignalList_v860ext_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GANSSMeasurementSignalList_v860ext_element(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GANSSGenericMeasurementInfo_v860ext_element(rtxContext* ctx, GANSSGenericMeasurementInfo_v860ext_element* pvalue)
-{
-   int stat = 0;
-   /* ganssMeasurementSignalList */
-   rtxCtxtPushElemName(ctx, "ganssMeasurementSignalList");
-   stat = asn1PD_UMTS_GANSSMeasurementSignalList_v860ext(ctx, &pvalue->ganssMeasurementSignalList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GANSSGenericMeasurementInfo_v860ext(rtxContext* ctx, GANSSGenericMeasurementInfo_v860ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "GANSSGenericMeasurementInfo-v860ext");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GANSSGenericMeasurementInfo_v860ext_element* elem;
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSSGenericMeasurementInfo_v860ext_element));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (GANSSGenericMeasurementInfo_v860ext_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_GANSSGenericMeasurementInfo_v860ext_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GANSSGenericMeasurementInfo_v860ext_element(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_MeasuredResults_v860ext(rtxContext* ctx, UE_Positioning_GANSS_MeasuredResults_v860ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-MeasuredResults-v860ext");
-   /* ganssGenericMeasurementInfo */
-   rtxCtxtPushElemName(ctx, "ganssGenericMeasurementInfo");
-   stat = asn1PD_UMTS_GANSSGenericMeasurementInfo_v860ext(ctx, &pvalue->ganssGenericMeasurementInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_MeasurementEventResults_v860ext(rtxContext* ctx, UE_Positioning_MeasurementEventResults_v860ext* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-MeasurementEventResults-v860ext");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "event7d");
-         pvalue->u.event7d = (UE_Positioning_GANSS_MeasuredResults_v860ext*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_GANSS_MeasuredResults_v860ext));
-         if (pvalue->u.event7d == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_Positioning_GANSS_MeasuredResults_v860ext(pvalue->u.event7d);
-         stat = asn1PD_UMTS_UE_Positioning_GANSS_MeasuredResults_v860ext(ctx, pvalue->u.event7d);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_EventResults_v860ext(rtxContext* ctx, EventResults_v860ext* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "EventResults-v860ext");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "ue-positioning-MeasurementEventResults");
-         pvalue->u.ue_positioning_MeasurementEventResults = (UE_Positioning_MeasurementEventResults_v860ext*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_MeasurementEventResults_v860ext));
-         if (pvalue->u.ue_positioning_MeasurementEventResults == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_Positioning_MeasurementEventResults_v860ext(pvalue->u.ue_positioning_MeasurementEventResults);
-         stat = asn1PD_UMTS_UE_Positioning_MeasurementEventResults_v860ext(ctx, pvalue->u.ue_positioning_MeasurementEventResults);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEventResultsOnSecUlFreq(rtxContext* ctx, IntraFreqEventResultsOnSecUlFreq* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "IntraFreqEventResultsOnSecUlFreq");
-   /* eventID */
-   rtxCtxtPushElemName(ctx, "eventID");
-   rtxCtxtPushTypeName(ctx, "EventIDIntraFreq");
-   stat = pd_ConsUnsigned(ctx, &pvalue->eventID, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* cellMeasurementEventResultsOnSecUlFreq */
-   rtxCtxtPushElemName(ctx, "cellMeasurementEventResultsOnSecUlFreq");
-   stat = asn1PD_UMTS_CellMeasurementEventResultsOnSecUlFreq(ctx, &pvalue->cellMeasurementEventResultsOnSecUlFreq);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_EventResultsOnSecUlFreq(rtxContext* ctx, EventResultsOnSecUlFreq* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "EventResultsOnSecUlFreq");
-   /* intraFreqEventResults */
-   rtxCtxtPushElemName(ctx, "intraFreqEventResults");
-   stat = asn1PD_UMTS_IntraFreqEventResultsOnSecUlFreq(ctx, &pvalue->intraFreqEventResults);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ExtraDoppler_dopplerUncertainty(rtxContext* ctx, ExtraDoppler_dopplerUncertainty* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_ExtraDoppler(rtxContext* ctx, ExtraDoppler* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ExtraDoppler");
-   /* dopplerFirstOrder */
-   rtxCtxtPushElemName(ctx, "dopplerFirstOrder");
-   stat = pd_ConsInt8(ctx, &pvalue->dopplerFirstOrder, -42, 21);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dopplerUncertainty */
-   rtxCtxtPushElemName(ctx, "dopplerUncertainty");
-   stat = pd_ConsUnsigned(ctx, &pvalue->dopplerUncertainty, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_FineSFN_SFN(rtxContext* ctx, FineSFN_SFN* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "FineSFN-SFN");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_FreqQualityEstimateQuantity_FDD(rtxContext* ctx, FreqQualityEstimateQuantity_FDD* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "FreqQualityEstimateQuantity-FDD");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_FreqQualityEstimateQuantity_TDD(rtxContext* ctx, FreqQualityEstimateQuantity_TDD* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "FreqQualityEstimateQuantity-TDD");
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ReqDataBitAssistance_ganssSatelliteInfo_element(rtxContext* ctx, ReqDataBitAssistance_ganssSatelliteInfo_element* pvalue)
-{
-   int stat;
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 63);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_ReqDataBitAssistance_ganssSatelliteInfo(rtxContext* ctx, ReqDataBitAssistance_ganssSatelliteInfo* pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 6);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 63) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      pvalue->elem[i] = 0;
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 63);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ReqDataBitAssistance(rtxContext* ctx, ReqDataBitAssistance* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "ReqDataBitAssistance");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ganssSignalID */
-   rtxCtxtPushElemName(ctx, "ganssSignalID");
-   stat = asn1PD_UMTS_DGANSS_Sig_Id_Req(ctx, &pvalue->ganssSignalID);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganssDataBitInterval */
-   rtxCtxtPushElemName(ctx, "ganssDataBitInterval");
-   stat = pd_ConsUInt8(ctx, &pvalue->ganssDataBitInterval, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganssSatelliteInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ganssSatelliteInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReqDataBitAssistance_ganssSatelliteInfo(ctx, &pvalue->ganssSatelliteInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GanssDataBits(rtxContext* ctx, GanssDataBits* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "GanssDataBits");
-   /* ganssTod */
-   rtxCtxtPushElemName(ctx, "ganssTod");
-   stat = pd_ConsUInt32(ctx, &pvalue->ganssTod, 0, 86399);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dataBitAssistance */
-   rtxCtxtPushElemName(ctx, "dataBitAssistance");
-   stat = asn1PD_UMTS_ReqDataBitAssistance(ctx, &pvalue->dataBitAssistance);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GANSSDecipheringKeys_currentDecipheringKey(rtxContext* ctx, GANSSDecipheringKeys_currentDecipheringKey* pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 56, 56);
-   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_GANSSDecipheringKeys_nextDecipheringKey(rtxContext* ctx, GANSSDecipheringKeys_nextDecipheringKey* pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 56, 56);
-   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_GANSSDecipheringKeys(rtxContext* ctx, GANSSDecipheringKeys* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "GANSSDecipheringKeys");
-   /* currentDecipheringKey */
-   rtxCtxtPushElemName(ctx, "currentDecipheringKey");
-   stat = asn1PD_UMTS_GANSSDecipheringKeys_currentDecipheringKey(ctx, &pvalue->currentDecipheringKey);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nextDecipheringKey */
-   rtxCtxtPushElemName(ctx, "nextDecipheringKey");
-   stat = asn1PD_UMTS_GANSSDecipheringKeys_nextDecipheringKey(ctx, &pvalue->nextDecipheringKey);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_TimeModel_gnss_to_id(rtxContext* ctx, UE_Positioning_GANSS_TimeModel_gnss_to_id* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_TimeModel(rtxContext* ctx, UE_Positioning_GANSS_TimeModel* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-TimeModel");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* ganss-timeModelreferenceTime */
-   rtxCtxtPushElemName(ctx, "ganss-timeModelreferenceTime");
-   stat = pd_ConsUInt16(ctx, &pvalue->ganss_timeModelreferenceTime, 0, 37799);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganss-t-a0 */
-   rtxCtxtPushElemName(ctx, "ganss-t-a0");
-   stat = pd_ConsInteger(ctx, &pvalue->ganss_t_a0, -2147483648LL, 2147483647);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganss-t-a1 */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "ganss-t-a1");
-      pvalue->m |= 0x1u;
-      stat = pd_ConsInteger(ctx, &pvalue->ganss_t_a1, -8388608, 8388607);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganss-t-a2 */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ganss-t-a2");
-      pvalue->m |= 0x2u;
-      stat = pd_ConsInt8(ctx, &pvalue->ganss_t_a2, -64, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* gnss-to-id */
-   rtxCtxtPushElemName(ctx, "gnss-to-id");
-   stat = pd_ConsUnsigned(ctx, &pvalue->gnss_to_id, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganss-wk-number */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ganss-wk-number");
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt16(ctx, &pvalue->ganss_wk_number, 0, 8191);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GANSSTimeModelsList(rtxContext* ctx, GANSSTimeModelsList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "GANSSTimeModelsList");
-   RT_SET_SIZE(ctx, 1, 7);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UE_Positioning_GANSS_TimeModel* elem;
-      rtxCtxtPushArrayElemName(ctx, "UE-Positioning-GANSS-TimeModel", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_Positioning_GANSS_TimeModel));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (UE_Positioning_GANSS_TimeModel*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UE_Positioning_GANSS_TimeModel(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_TimeModel(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_DGANSSCorrections(rtxContext* ctx, UE_Positioning_DGANSSCorrections* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-DGANSSCorrections");
-   /* dganssreferencetime */
-   rtxCtxtPushElemName(ctx, "dganssreferencetime");
-   stat = pd_ConsUInt8(ctx, &pvalue->dganssreferencetime, 0, 119);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dganssInfoList */
-   rtxCtxtPushElemName(ctx, "dganssInfoList");
-   stat = asn1PD_UMTS_DGANSSInfoList(ctx, &pvalue->dganssInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_NavigationModel_non_broadcastIndication(rtxContext* ctx, UE_Positioning_GANSS_NavigationModel_non_broadcastIndication* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_Satellite_clock_model(rtxContext* ctx, Satellite_clock_model* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "Satellite-clock-model");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* t-oc */
-   rtxCtxtPushElemName(ctx, "t-oc");
-   RT_SET_SIZE(ctx, 14, 14);
-   stat = pd_BitString32(ctx, &pvalue->t_oc, 14, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* af2 */
-   rtxCtxtPushElemName(ctx, "af2");
-   RT_SET_SIZE(ctx, 12, 12);
-   stat = pd_BitString32(ctx, &pvalue->af2, 12, 12);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* af1 */
-   rtxCtxtPushElemName(ctx, "af1");
-   RT_SET_SIZE(ctx, 18, 18);
-   stat = pd_BitString32(ctx, &pvalue->af1, 18, 18);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* af0 */
-   rtxCtxtPushElemName(ctx, "af0");
-   RT_SET_SIZE(ctx, 28, 28);
-   stat = pd_BitString32(ctx, &pvalue->af0, 28, 28);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tgd */
+   RT_CHECK(ctx, stat, 0, 0, -1, "AssistanceDataDelivery-v920ext-IEs");
+   /* ue-positioning-GPS-AssistanceData-v920ext */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "tgd");
       pvalue->m |= 0x1u;
-      RT_SET_SIZE(ctx, 10, 10);
-      stat = pd_BitString32(ctx, &pvalue->tgd, 10, 10);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UE_Positioning_GPS_AssistanceData_v920ext(ctx, &pvalue->ue_positioning_GPS_AssistanceData_v920ext);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AssistanceData-v920ext", -1, "AssistanceDataDelivery-v920ext-IEs");
    }
-   /* model-id */
+   /* ue-positioning-GANSS-AssistanceData-v920ext */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "model-id");
       pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->model_id, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData_v920ext(ctx, &pvalue->ue_positioning_GANSS_AssistanceData_v920ext);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AssistanceData-v920ext", -1, "AssistanceDataDelivery-v920ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_Satellite_clock_modelList(rtxContext* ctx, Satellite_clock_modelList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "Satellite-clock-modelList");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      Satellite_clock_model* elem;
-      rtxCtxtPushArrayElemName(ctx, "Satellite-clock-model", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Satellite_clock_model));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (Satellite_clock_model*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_Satellite_clock_model(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_Satellite_clock_model(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_ClockModel(rtxContext* ctx, UE_Positioning_GANSS_ClockModel* pvalue)
+int asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-ClockModel");
-   /* satellite-clock-modelList */
-   rtxCtxtPushElemName(ctx, "satellite-clock-modelList");
-   stat = asn1PD_UMTS_Satellite_clock_modelList(ctx, &pvalue->satellite_clock_modelList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_KeplerianParameters(rtxContext* ctx, KeplerianParameters* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "KeplerianParameters");
-   /* toe-nav */
-   rtxCtxtPushElemName(ctx, "toe-nav");
-   RT_SET_SIZE(ctx, 14, 14);
-   stat = pd_BitString32(ctx, &pvalue->toe_nav, 14, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganss-omega-nav */
-   rtxCtxtPushElemName(ctx, "ganss-omega-nav");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->ganss_omega_nav, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* delta-n-nav */
-   rtxCtxtPushElemName(ctx, "delta-n-nav");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->delta_n_nav, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* m-zero-nav */
-   rtxCtxtPushElemName(ctx, "m-zero-nav");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->m_zero_nav, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* omegadot-nav */
-   rtxCtxtPushElemName(ctx, "omegadot-nav");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->omegadot_nav, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganss-e-nav */
-   rtxCtxtPushElemName(ctx, "ganss-e-nav");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->ganss_e_nav, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* idot-nav */
-   rtxCtxtPushElemName(ctx, "idot-nav");
-   RT_SET_SIZE(ctx, 14, 14);
-   stat = pd_BitString32(ctx, &pvalue->idot_nav, 14, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* a-sqrt-nav */
-   rtxCtxtPushElemName(ctx, "a-sqrt-nav");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->a_sqrt_nav, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* i-zero-nav */
-   rtxCtxtPushElemName(ctx, "i-zero-nav");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->i_zero_nav, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* omega-zero-nav */
-   rtxCtxtPushElemName(ctx, "omega-zero-nav");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->omega_zero_nav, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* c-rs-nav */
-   rtxCtxtPushElemName(ctx, "c-rs-nav");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->c_rs_nav, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* c-is-nav */
-   rtxCtxtPushElemName(ctx, "c-is-nav");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->c_is_nav, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* c-us-nav */
-   rtxCtxtPushElemName(ctx, "c-us-nav");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->c_us_nav, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* c-rc-nav */
-   rtxCtxtPushElemName(ctx, "c-rc-nav");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->c_rc_nav, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* c-ic-nav */
-   rtxCtxtPushElemName(ctx, "c-ic-nav");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->c_ic_nav, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* c-uc-nav */
-   rtxCtxtPushElemName(ctx, "c-uc-nav");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->c_uc_nav, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_OrbitModel(rtxContext* ctx, UE_Positioning_GANSS_OrbitModel* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-OrbitModel");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* keplerianParameters */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "keplerianParameters");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_KeplerianParameters(ctx, &pvalue->keplerianParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Ganss_Sat_Info_Nav(rtxContext* ctx, Ganss_Sat_Info_Nav* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Ganss-Sat-Info-Nav");
-   /* satId */
-   rtxCtxtPushElemName(ctx, "satId");
-   stat = pd_ConsUInt8(ctx, &pvalue->satId, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* svHealth */
-   rtxCtxtPushElemName(ctx, "svHealth");
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pd_BitString32(ctx, &pvalue->svHealth, 5, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* iod */
-   rtxCtxtPushElemName(ctx, "iod");
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pd_BitString32(ctx, &pvalue->iod, 10, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganssClockModel */
-   rtxCtxtPushElemName(ctx, "ganssClockModel");
-   stat = asn1PD_UMTS_UE_Positioning_GANSS_ClockModel(ctx, &pvalue->ganssClockModel);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganssOrbitModel */
-   rtxCtxtPushElemName(ctx, "ganssOrbitModel");
-   stat = asn1PD_UMTS_UE_Positioning_GANSS_OrbitModel(ctx, &pvalue->ganssOrbitModel);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Ganss_Sat_Info_NavList(rtxContext* ctx, Ganss_Sat_Info_NavList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "Ganss-Sat-Info-NavList");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      Ganss_Sat_Info_Nav* elem;
-      rtxCtxtPushArrayElemName(ctx, "Ganss-Sat-Info-Nav", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Ganss_Sat_Info_Nav));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (Ganss_Sat_Info_Nav*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_Ganss_Sat_Info_Nav(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_Ganss_Sat_Info_Nav(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_NavigationModel(rtxContext* ctx, UE_Positioning_GANSS_NavigationModel* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-NavigationModel");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* non-broadcastIndication */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "non-broadcastIndication");
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->non_broadcastIndication = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssSatInfoNavList */
-   rtxCtxtPushElemName(ctx, "ganssSatInfoNavList");
-   stat = asn1PD_UMTS_Ganss_Sat_Info_NavList(ctx, &pvalue->ganssSatInfoNavList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_RealTimeIntegrity_element(rtxContext* ctx, UE_Positioning_GANSS_RealTimeIntegrity_element* pvalue)
+int asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* bad-ganss-satId */
-   rtxCtxtPushElemName(ctx, "bad-ganss-satId");
-   stat = pd_ConsUInt8(ctx, &pvalue->bad_ganss_satId, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* bad-ganss-signalId */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* assistanceDataDelivery-v920ext */
+   stat = asn1PD_UMTS_AssistanceDataDelivery_v920ext_IEs(ctx, &pvalue->assistanceDataDelivery_v920ext);
+   RT_CHECK(ctx, stat, 0, "assistanceDataDelivery-v920ext", -1, 0);
+   /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "bad-ganss-signalId");
       pvalue->m |= 0x1u;
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pd_BitString32(ctx, &pvalue->bad_ganss_signalId, 8, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GANSS_RealTimeIntegrity(rtxContext* ctx, UE_Positioning_GANSS_RealTimeIntegrity* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-RealTimeIntegrity");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UE_Positioning_GANSS_RealTimeIntegrity_element* elem;
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_Positioning_GANSS_RealTimeIntegrity_element));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (UE_Positioning_GANSS_RealTimeIntegrity_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UE_Positioning_GANSS_RealTimeIntegrity_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_RealTimeIntegrity_element(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_Data_Bit_Assistance(rtxContext* ctx, UE_Positioning_GANSS_Data_Bit_Assistance* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-Data-Bit-Assistance");
-   /* ganss-tod */
-   rtxCtxtPushElemName(ctx, "ganss-tod");
-   stat = pd_ConsUInt8(ctx, &pvalue->ganss_tod, 0, 59);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dataBitAssistanceList */
-   rtxCtxtPushElemName(ctx, "dataBitAssistanceList");
-   stat = asn1PD_UMTS_DataBitAssistanceList(ctx, &pvalue->dataBitAssistanceList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GANSSSatelliteInformation(rtxContext* ctx, GANSSSatelliteInformation* pvalue)
+int asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "GANSSSatelliteInformation");
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* assistanceDataDelivery-v860ext */
+   stat = asn1PD_UMTS_AssistanceDataDelivery_v860ext_IEs(ctx, &pvalue->assistanceDataDelivery_v860ext);
+   RT_CHECK(ctx, stat, 0, "assistanceDataDelivery-v860ext", -1, 0);
+   /* v920NonCriticalExtension */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension(ctx, &pvalue->v920NonCriticalExtension);
+      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtension", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* assistanceDataDelivery-v770ext */
+   stat = asn1PD_UMTS_AssistanceDataDelivery_v770ext_IEs(ctx, &pvalue->assistanceDataDelivery_v770ext);
+   RT_CHECK(ctx, stat, 0, "assistanceDataDelivery-v770ext", -1, 0);
+   /* v860NonCriticalExtension */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension(ctx, &pvalue->v860NonCriticalExtension);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtension", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* assistanceDataDelivery-v4b0ext */
+   stat = asn1PD_UMTS_AssistanceDataDelivery_v4b0ext_IEs(ctx, &pvalue->assistanceDataDelivery_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "assistanceDataDelivery-v4b0ext", -1, 0);
+   /* v770NonCriticalExtension */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension(ctx, &pvalue->v770NonCriticalExtension);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtension", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ganssSatId */
-   rtxCtxtPushElemName(ctx, "ganssSatId");
-   stat = pd_ConsUInt8(ctx, &pvalue->ganssSatId, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dopplerZeroOrder */
-   rtxCtxtPushElemName(ctx, "dopplerZeroOrder");
-   stat = pd_ConsInt16(ctx, &pvalue->dopplerZeroOrder, -2048, 2047);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* extraDoppler */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* assistanceDataDelivery-r3-add-ext */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "extraDoppler");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ExtraDoppler(ctx, &pvalue->extraDoppler);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_DynBitString(ctx, &pvalue->assistanceDataDelivery_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "assistanceDataDelivery-r3-add-ext", -1, 0);
    }
-   /* codePhase */
-   rtxCtxtPushElemName(ctx, "codePhase");
-   stat = pd_ConsUInt16(ctx, &pvalue->codePhase, 0, 1023);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* integerCodePhase */
-   rtxCtxtPushElemName(ctx, "integerCodePhase");
-   stat = pd_ConsUInt8(ctx, &pvalue->integerCodePhase, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* codePhaseSearchWindow */
-   rtxCtxtPushElemName(ctx, "codePhaseSearchWindow");
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pd_BitString32(ctx, &pvalue->codePhaseSearchWindow, 5, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* azimuthandElevation */
+   /* v4b0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "azimuthandElevation");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_AzimuthAndElevation(ctx, &pvalue->azimuthandElevation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_GANSSSatelliteInformationList(rtxContext* ctx, GANSSSatelliteInformationList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "GANSSSatelliteInformationList");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GANSSSatelliteInformation* elem;
-      rtxCtxtPushArrayElemName(ctx, "GANSSSatelliteInformation", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSSSatelliteInformation));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (GANSSSatelliteInformation*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_GANSSSatelliteInformation(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GANSSSatelliteInformation(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_ReferenceMeasurementInfo(rtxContext* ctx, UE_Positioning_GANSS_ReferenceMeasurementInfo* pvalue)
+int asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-ReferenceMeasurementInfo");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ganssSignalId */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* assistanceDataDelivery-v3a0ext */
+   stat = asn1PD_UMTS_AssistanceDataDelivery_v3a0ext(ctx, &pvalue->assistanceDataDelivery_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "assistanceDataDelivery-v3a0ext", -1, 0);
+   /* laterNonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ganssSignalId");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "GANSS-Signal-Id");
-      stat = pd_ConsUInt8(ctx, &pvalue->ganssSignalId, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
    }
-   /* satelliteInformationList */
-   rtxCtxtPushElemName(ctx, "satelliteInformationList");
-   stat = asn1PD_UMTS_GANSSSatelliteInformationList(ctx, &pvalue->satelliteInformationList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GANSS_Almanac(rtxContext* ctx, UE_Positioning_GANSS_Almanac* pvalue)
+int asn1PD_UMTS_AssistanceDataDelivery_r3(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_r3* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-Almanac");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ganss-wk-number */
-   rtxCtxtPushElemName(ctx, "ganss-wk-number");
-   stat = pd_ConsUInt8(ctx, &pvalue->ganss_wk_number, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* alm-keplerianParameters */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* assistanceDataDelivery-r3 */
+   stat = asn1PD_UMTS_AssistanceDataDelivery_r3_IEs(ctx, &pvalue->assistanceDataDelivery_r3);
+   RT_CHECK(ctx, stat, 0, "assistanceDataDelivery-r3", -1, 0);
+   /* v3a0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "alm-keplerianParameters");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ALM_keplerianParameters(ctx, &pvalue->alm_keplerianParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GANSS_UTCModel(rtxContext* ctx, UE_Positioning_GANSS_UTCModel* pvalue)
+int asn1PD_UMTS_AssistanceDataDelivery_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-UTCModel");
-   /* a-one-utc */
-   rtxCtxtPushElemName(ctx, "a-one-utc");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->a_one_utc, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* a-zero-utc */
-   rtxCtxtPushElemName(ctx, "a-zero-utc");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->a_zero_utc, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* t-ot-utc */
-   rtxCtxtPushElemName(ctx, "t-ot-utc");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->t_ot_utc, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* delta-t-ls-utc */
-   rtxCtxtPushElemName(ctx, "delta-t-ls-utc");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->delta_t_ls_utc, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* w-n-t-utc */
-   rtxCtxtPushElemName(ctx, "w-n-t-utc");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->w_n_t_utc, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* w-n-lsf-utc */
-   rtxCtxtPushElemName(ctx, "w-n-lsf-utc");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->w_n_lsf_utc, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dn-utc */
-   rtxCtxtPushElemName(ctx, "dn-utc");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->dn_utc, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* delta-t-lsf-utc */
-   rtxCtxtPushElemName(ctx, "delta-t-lsf-utc");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->delta_t_lsf_utc, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_GANSSGenericData(rtxContext* ctx, GANSSGenericData* pvalue)
+int asn1PD_UMTS_AssistanceDataDelivery_later_than_r3(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery_later_than_r3* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "GANSSGenericData");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 9);
-   RT_CHECK(ctx, stat);
-   /* ganssId */
-   if (present & ((uint32_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "ganssId");
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ganssId, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssTimeModelsList */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "ganssTimeModelsList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_GANSSTimeModelsList(ctx, &pvalue->ganssTimeModelsList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningDGANSSCorrections */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "uePositioningDGANSSCorrections");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_DGANSSCorrections(ctx, &pvalue->uePositioningDGANSSCorrections);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSNavigationModel */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSNavigationModel");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_NavigationModel(ctx, &pvalue->uePositioningGANSSNavigationModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSRealTimeIntegrity */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSRealTimeIntegrity");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_RealTimeIntegrity(ctx, &pvalue->uePositioningGANSSRealTimeIntegrity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSDataBitAssistance */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSDataBitAssistance");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_Data_Bit_Assistance(ctx, &pvalue->uePositioningGANSSDataBitAssistance);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSReferenceMeasurementInfo */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSReferenceMeasurementInfo");
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_ReferenceMeasurementInfo(ctx, &pvalue->uePositioningGANSSReferenceMeasurementInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSAlmanac */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSAlmanac");
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_Almanac(ctx, &pvalue->uePositioningGANSSAlmanac);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSUTCModel */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSUTCModel");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_UTCModel(ctx, &pvalue->uePositioningGANSSUTCModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PD_UMTS_AssistanceDataDelivery_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GANSS_AddNavigationModels_non_broadcastIndication(rtxContext* ctx, UE_Positioning_GANSS_AddNavigationModels_non_broadcastIndication* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_NAVclockModel(rtxContext* ctx, NAVclockModel* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "NAVclockModel");
-   /* navToc */
-   rtxCtxtPushElemName(ctx, "navToc");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->navToc, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navaf2 */
-   rtxCtxtPushElemName(ctx, "navaf2");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->navaf2, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navaf1 */
-   rtxCtxtPushElemName(ctx, "navaf1");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->navaf1, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navaf0 */
-   rtxCtxtPushElemName(ctx, "navaf0");
-   RT_SET_SIZE(ctx, 22, 22);
-   stat = pd_BitString32(ctx, &pvalue->navaf0, 22, 22);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navTgd */
-   rtxCtxtPushElemName(ctx, "navTgd");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->navTgd, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GLONASSclockModel(rtxContext* ctx, GLONASSclockModel* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "GLONASSclockModel");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* gloTau */
-   rtxCtxtPushElemName(ctx, "gloTau");
-   RT_SET_SIZE(ctx, 22, 22);
-   stat = pd_BitString32(ctx, &pvalue->gloTau, 22, 22);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloGamma */
-   rtxCtxtPushElemName(ctx, "gloGamma");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->gloGamma, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloDeltaTau */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "gloDeltaTau");
-      pvalue->m |= 0x1u;
-      RT_SET_SIZE(ctx, 5, 5);
-      stat = pd_BitString32(ctx, &pvalue->gloDeltaTau, 5, 5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SBASclockModel(rtxContext* ctx, SBASclockModel* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SBASclockModel");
-   /* sbasTo */
-   rtxCtxtPushElemName(ctx, "sbasTo");
-   RT_SET_SIZE(ctx, 13, 13);
-   stat = pd_BitString32(ctx, &pvalue->sbasTo, 13, 13);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sbasAgfo */
-   rtxCtxtPushElemName(ctx, "sbasAgfo");
-   RT_SET_SIZE(ctx, 12, 12);
-   stat = pd_BitString32(ctx, &pvalue->sbasAgfo, 12, 12);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sbasAgf1 */
-   rtxCtxtPushElemName(ctx, "sbasAgf1");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->sbasAgf1, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_AddClockModels(rtxContext* ctx, UE_Positioning_GANSS_AddClockModels* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-AddClockModels");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* navClockModel */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "navClockModel");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NAVclockModel(ctx, &pvalue->navClockModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cnavClockModel */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "cnavClockModel");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CNAVclockModel(ctx, &pvalue->cnavClockModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* glonassClockModel */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "glonassClockModel");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_GLONASSclockModel(ctx, &pvalue->glonassClockModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sbasClockModel */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "sbasClockModel");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_SBASclockModel(ctx, &pvalue->sbasClockModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NavModel_NAVKeplerianSet(rtxContext* ctx, NavModel_NAVKeplerianSet* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "NavModel-NAVKeplerianSet");
-   /* navURA */
-   rtxCtxtPushElemName(ctx, "navURA");
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pd_BitString32(ctx, &pvalue->navURA, 4, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navFitFlag */
-   rtxCtxtPushElemName(ctx, "navFitFlag");
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pd_BitString32(ctx, &pvalue->navFitFlag, 1, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navToe */
-   rtxCtxtPushElemName(ctx, "navToe");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->navToe, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navOmega */
-   rtxCtxtPushElemName(ctx, "navOmega");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->navOmega, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navDeltaN */
-   rtxCtxtPushElemName(ctx, "navDeltaN");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->navDeltaN, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navM0 */
-   rtxCtxtPushElemName(ctx, "navM0");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->navM0, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navOmegaADot */
-   rtxCtxtPushElemName(ctx, "navOmegaADot");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->navOmegaADot, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navE */
-   rtxCtxtPushElemName(ctx, "navE");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->navE, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navIDot */
-   rtxCtxtPushElemName(ctx, "navIDot");
-   RT_SET_SIZE(ctx, 14, 14);
-   stat = pd_BitString32(ctx, &pvalue->navIDot, 14, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navAPowerHalf */
-   rtxCtxtPushElemName(ctx, "navAPowerHalf");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->navAPowerHalf, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navI0 */
-   rtxCtxtPushElemName(ctx, "navI0");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->navI0, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navOmegaA0 */
-   rtxCtxtPushElemName(ctx, "navOmegaA0");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->navOmegaA0, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navCrs */
-   rtxCtxtPushElemName(ctx, "navCrs");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->navCrs, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navCis */
-   rtxCtxtPushElemName(ctx, "navCis");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->navCis, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navCus */
-   rtxCtxtPushElemName(ctx, "navCus");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->navCus, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navCrc */
-   rtxCtxtPushElemName(ctx, "navCrc");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->navCrc, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navCic */
-   rtxCtxtPushElemName(ctx, "navCic");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->navCic, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navCuc */
-   rtxCtxtPushElemName(ctx, "navCuc");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->navCuc, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NavModel_CNAVKeplerianSet_cnavMo(rtxContext* ctx, NavModel_CNAVKeplerianSet_cnavMo* pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 33, 33);
-   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_NavModel_CNAVKeplerianSet_cnavE(rtxContext* ctx, NavModel_CNAVKeplerianSet_cnavE* pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 33, 33);
-   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_NavModel_CNAVKeplerianSet_cnavOmega(rtxContext* ctx, NavModel_CNAVKeplerianSet_cnavOmega* pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 33, 33);
-   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_NavModel_CNAVKeplerianSet_cnavOMEGA0(rtxContext* ctx, NavModel_CNAVKeplerianSet_cnavOMEGA0* pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 33, 33);
-   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_NavModel_CNAVKeplerianSet_cnavIo(rtxContext* ctx, NavModel_CNAVKeplerianSet_cnavIo* pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 33, 33);
-   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_NavModel_CNAVKeplerianSet(rtxContext* ctx, NavModel_CNAVKeplerianSet* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "NavModel-CNAVKeplerianSet");
-   /* cnavTop */
-   rtxCtxtPushElemName(ctx, "cnavTop");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->cnavTop, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavURAindex */
-   rtxCtxtPushElemName(ctx, "cnavURAindex");
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pd_BitString32(ctx, &pvalue->cnavURAindex, 5, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavDeltaA */
-   rtxCtxtPushElemName(ctx, "cnavDeltaA");
-   RT_SET_SIZE(ctx, 26, 26);
-   stat = pd_BitString32(ctx, &pvalue->cnavDeltaA, 26, 26);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavAdot */
-   rtxCtxtPushElemName(ctx, "cnavAdot");
-   RT_SET_SIZE(ctx, 25, 25);
-   stat = pd_BitString32(ctx, &pvalue->cnavAdot, 25, 25);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavDeltaNo */
-   rtxCtxtPushElemName(ctx, "cnavDeltaNo");
-   RT_SET_SIZE(ctx, 17, 17);
-   stat = pd_BitString32(ctx, &pvalue->cnavDeltaNo, 17, 17);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavDeltaNoDot */
-   rtxCtxtPushElemName(ctx, "cnavDeltaNoDot");
-   RT_SET_SIZE(ctx, 23, 23);
-   stat = pd_BitString32(ctx, &pvalue->cnavDeltaNoDot, 23, 23);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavMo */
-   rtxCtxtPushElemName(ctx, "cnavMo");
-   stat = asn1PD_UMTS_NavModel_CNAVKeplerianSet_cnavMo(ctx, &pvalue->cnavMo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavE */
-   rtxCtxtPushElemName(ctx, "cnavE");
-   stat = asn1PD_UMTS_NavModel_CNAVKeplerianSet_cnavE(ctx, &pvalue->cnavE);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavOmega */
-   rtxCtxtPushElemName(ctx, "cnavOmega");
-   stat = asn1PD_UMTS_NavModel_CNAVKeplerianSet_cnavOmega(ctx, &pvalue->cnavOmega);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavOMEGA0 */
-   rtxCtxtPushElemName(ctx, "cnavOMEGA0");
-   stat = asn1PD_UMTS_NavModel_CNAVKeplerianSet_cnavOMEGA0(ctx, &pvalue->cnavOMEGA0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavDeltaOmegaDot */
-   rtxCtxtPushElemName(ctx, "cnavDeltaOmegaDot");
-   RT_SET_SIZE(ctx, 17, 17);
-   stat = pd_BitString32(ctx, &pvalue->cnavDeltaOmegaDot, 17, 17);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavIo */
-   rtxCtxtPushElemName(ctx, "cnavIo");
-   stat = asn1PD_UMTS_NavModel_CNAVKeplerianSet_cnavIo(ctx, &pvalue->cnavIo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavIoDot */
-   rtxCtxtPushElemName(ctx, "cnavIoDot");
-   RT_SET_SIZE(ctx, 15, 15);
-   stat = pd_BitString32(ctx, &pvalue->cnavIoDot, 15, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavCis */
-   rtxCtxtPushElemName(ctx, "cnavCis");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->cnavCis, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavCic */
-   rtxCtxtPushElemName(ctx, "cnavCic");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->cnavCic, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavCrs */
-   rtxCtxtPushElemName(ctx, "cnavCrs");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->cnavCrs, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavCrc */
-   rtxCtxtPushElemName(ctx, "cnavCrc");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->cnavCrc, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavCus */
-   rtxCtxtPushElemName(ctx, "cnavCus");
-   RT_SET_SIZE(ctx, 21, 21);
-   stat = pd_BitString32(ctx, &pvalue->cnavCus, 21, 21);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavCuc */
-   rtxCtxtPushElemName(ctx, "cnavCuc");
-   RT_SET_SIZE(ctx, 21, 21);
-   stat = pd_BitString32(ctx, &pvalue->cnavCuc, 21, 21);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NavModel_GLONASSecef(rtxContext* ctx, NavModel_GLONASSecef* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "NavModel-GLONASSecef");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* gloEn */
-   rtxCtxtPushElemName(ctx, "gloEn");
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pd_BitString32(ctx, &pvalue->gloEn, 5, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloP1 */
-   rtxCtxtPushElemName(ctx, "gloP1");
-   RT_SET_SIZE(ctx, 2, 2);
-   stat = pd_BitString32(ctx, &pvalue->gloP1, 2, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloP2 */
-   rtxCtxtPushElemName(ctx, "gloP2");
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pd_BitString32(ctx, &pvalue->gloP2, 1, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloM */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "gloM");
-      pvalue->m |= 0x1u;
-      RT_SET_SIZE(ctx, 2, 2);
-      stat = pd_BitString32(ctx, &pvalue->gloM, 2, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* gloX */
-   rtxCtxtPushElemName(ctx, "gloX");
-   RT_SET_SIZE(ctx, 27, 27);
-   stat = pd_BitString32(ctx, &pvalue->gloX, 27, 27);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloXdot */
-   rtxCtxtPushElemName(ctx, "gloXdot");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->gloXdot, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloXdotdot */
-   rtxCtxtPushElemName(ctx, "gloXdotdot");
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pd_BitString32(ctx, &pvalue->gloXdotdot, 5, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloY */
-   rtxCtxtPushElemName(ctx, "gloY");
-   RT_SET_SIZE(ctx, 27, 27);
-   stat = pd_BitString32(ctx, &pvalue->gloY, 27, 27);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloYdot */
-   rtxCtxtPushElemName(ctx, "gloYdot");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->gloYdot, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloYdotdot */
-   rtxCtxtPushElemName(ctx, "gloYdotdot");
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pd_BitString32(ctx, &pvalue->gloYdotdot, 5, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloZ */
-   rtxCtxtPushElemName(ctx, "gloZ");
-   RT_SET_SIZE(ctx, 27, 27);
-   stat = pd_BitString32(ctx, &pvalue->gloZ, 27, 27);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloZdot */
-   rtxCtxtPushElemName(ctx, "gloZdot");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->gloZdot, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloZdotdot */
-   rtxCtxtPushElemName(ctx, "gloZdotdot");
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pd_BitString32(ctx, &pvalue->gloZdotdot, 5, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NavModel_SBASecef(rtxContext* ctx, NavModel_SBASecef* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "NavModel-SBASecef");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sbasTo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "sbasTo");
-      pvalue->m |= 0x1u;
-      RT_SET_SIZE(ctx, 13, 13);
-      stat = pd_BitString32(ctx, &pvalue->sbasTo, 13, 13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sbasAccuracy */
-   rtxCtxtPushElemName(ctx, "sbasAccuracy");
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pd_BitString32(ctx, &pvalue->sbasAccuracy, 4, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sbasXg */
-   rtxCtxtPushElemName(ctx, "sbasXg");
-   RT_SET_SIZE(ctx, 30, 30);
-   stat = pd_BitString32(ctx, &pvalue->sbasXg, 30, 30);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sbasYg */
-   rtxCtxtPushElemName(ctx, "sbasYg");
-   RT_SET_SIZE(ctx, 30, 30);
-   stat = pd_BitString32(ctx, &pvalue->sbasYg, 30, 30);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sbasZg */
-   rtxCtxtPushElemName(ctx, "sbasZg");
-   RT_SET_SIZE(ctx, 25, 25);
-   stat = pd_BitString32(ctx, &pvalue->sbasZg, 25, 25);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sbasXgDot */
-   rtxCtxtPushElemName(ctx, "sbasXgDot");
-   RT_SET_SIZE(ctx, 17, 17);
-   stat = pd_BitString32(ctx, &pvalue->sbasXgDot, 17, 17);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sbasYgDot */
-   rtxCtxtPushElemName(ctx, "sbasYgDot");
-   RT_SET_SIZE(ctx, 17, 17);
-   stat = pd_BitString32(ctx, &pvalue->sbasYgDot, 17, 17);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sbasZgDot */
-   rtxCtxtPushElemName(ctx, "sbasZgDot");
-   RT_SET_SIZE(ctx, 18, 18);
-   stat = pd_BitString32(ctx, &pvalue->sbasZgDot, 18, 18);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sbasXgDotDot */
-   rtxCtxtPushElemName(ctx, "sbasXgDotDot");
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pd_BitString32(ctx, &pvalue->sbasXgDotDot, 10, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sbagYgDotDot */
-   rtxCtxtPushElemName(ctx, "sbagYgDotDot");
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pd_BitString32(ctx, &pvalue->sbagYgDotDot, 10, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sbasZgDotDot */
-   rtxCtxtPushElemName(ctx, "sbasZgDotDot");
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pd_BitString32(ctx, &pvalue->sbasZgDotDot, 10, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_AddOrbitModels(rtxContext* ctx, UE_Positioning_GANSS_AddOrbitModels* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-AddOrbitModels");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* navKeplerianSet */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "navKeplerianSet");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NavModel_NAVKeplerianSet(ctx, &pvalue->navKeplerianSet);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cnavKeplerianSet */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "cnavKeplerianSet");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NavModel_CNAVKeplerianSet(ctx, &pvalue->cnavKeplerianSet);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* glonassECEF */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "glonassECEF");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_NavModel_GLONASSecef(ctx, &pvalue->glonassECEF);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sbasECEF */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "sbasECEF");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_NavModel_SBASecef(ctx, &pvalue->sbasECEF);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Ganss_Sat_Info_AddNav(rtxContext* ctx, Ganss_Sat_Info_AddNav* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Ganss-Sat-Info-AddNav");
-   /* satId */
-   rtxCtxtPushElemName(ctx, "satId");
-   stat = pd_ConsUInt8(ctx, &pvalue->satId, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* svHealth */
-   rtxCtxtPushElemName(ctx, "svHealth");
-   RT_SET_SIZE(ctx, 6, 6);
-   stat = pd_BitString32(ctx, &pvalue->svHealth, 6, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* iod */
-   rtxCtxtPushElemName(ctx, "iod");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->iod, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganssClockModel */
-   rtxCtxtPushElemName(ctx, "ganssClockModel");
-   stat = asn1PD_UMTS_UE_Positioning_GANSS_AddClockModels(ctx, &pvalue->ganssClockModel);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganssOrbitModel */
-   rtxCtxtPushElemName(ctx, "ganssOrbitModel");
-   stat = asn1PD_UMTS_UE_Positioning_GANSS_AddOrbitModels(ctx, &pvalue->ganssOrbitModel);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Ganss_Sat_Info_AddNavList(rtxContext* ctx, Ganss_Sat_Info_AddNavList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "Ganss-Sat-Info-AddNavList");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      Ganss_Sat_Info_AddNav* elem;
-      rtxCtxtPushArrayElemName(ctx, "Ganss-Sat-Info-AddNav", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Ganss_Sat_Info_AddNav));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (Ganss_Sat_Info_AddNav*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_Ganss_Sat_Info_AddNav(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_Ganss_Sat_Info_AddNav(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_AddNavigationModels(rtxContext* ctx, UE_Positioning_GANSS_AddNavigationModels* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-AddNavigationModels");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* non-broadcastIndication */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "non-broadcastIndication");
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->non_broadcastIndication = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssSatInfoNavList */
-   rtxCtxtPushElemName(ctx, "ganssSatInfoNavList");
-   stat = asn1PD_UMTS_Ganss_Sat_Info_AddNavList(ctx, &pvalue->ganssSatInfoNavList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_Almanac_v860ext(rtxContext* ctx, UE_Positioning_GANSS_Almanac_v860ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-Almanac-v860ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat);
-   /* alm-keplerianNAVAlmanac */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "alm-keplerianNAVAlmanac");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ALM_NAVKeplerianSet(ctx, &pvalue->alm_keplerianNAVAlmanac);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* alm-keplerianReducedAlmanac */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "alm-keplerianReducedAlmanac");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_ALM_ReducedKeplerianSet(ctx, &pvalue->alm_keplerianReducedAlmanac);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* alm-keplerianMidiAlmanac */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "alm-keplerianMidiAlmanac");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_ALM_MidiAlmanacSet(ctx, &pvalue->alm_keplerianMidiAlmanac);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* alm-keplerianGLONASS */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "alm-keplerianGLONASS");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_ALM_GlonassAlmanacSet(ctx, &pvalue->alm_keplerianGLONASS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* alm-ecefSBASAlmanac */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "alm-ecefSBASAlmanac");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_ALM_ECEFsbasAlmanacSet(ctx, &pvalue->alm_ecefSBASAlmanac);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UTCmodelSet1(rtxContext* ctx, UTCmodelSet1* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UTCmodelSet1");
-   /* utcA0 */
-   rtxCtxtPushElemName(ctx, "utcA0");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->utcA0, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* utcA1 */
-   rtxCtxtPushElemName(ctx, "utcA1");
-   RT_SET_SIZE(ctx, 13, 13);
-   stat = pd_BitString32(ctx, &pvalue->utcA1, 13, 13);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* utcA2 */
-   rtxCtxtPushElemName(ctx, "utcA2");
-   RT_SET_SIZE(ctx, 7, 7);
-   stat = pd_BitString32(ctx, &pvalue->utcA2, 7, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* utcDeltaTls */
-   rtxCtxtPushElemName(ctx, "utcDeltaTls");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->utcDeltaTls, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* utcTot */
-   rtxCtxtPushElemName(ctx, "utcTot");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->utcTot, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* utcWNot */
-   rtxCtxtPushElemName(ctx, "utcWNot");
-   RT_SET_SIZE(ctx, 13, 13);
-   stat = pd_BitString32(ctx, &pvalue->utcWNot, 13, 13);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* utcWNlsf */
-   rtxCtxtPushElemName(ctx, "utcWNlsf");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->utcWNlsf, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* utcDN */
-   rtxCtxtPushElemName(ctx, "utcDN");
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pd_BitString32(ctx, &pvalue->utcDN, 4, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* utcDeltaTlsf */
-   rtxCtxtPushElemName(ctx, "utcDeltaTlsf");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->utcDeltaTlsf, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UTCmodelSet2(rtxContext* ctx, UTCmodelSet2* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UTCmodelSet2");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* nA */
-   rtxCtxtPushElemName(ctx, "nA");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->nA, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tauC */
-   rtxCtxtPushElemName(ctx, "tauC");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->tauC, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* deltaUT1 */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "deltaUT1");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DeltaUT1(ctx, &pvalue->deltaUT1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* kp */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "kp");
-      pvalue->m |= 0x2u;
-      RT_SET_SIZE(ctx, 2, 2);
-      stat = pd_BitString32(ctx, &pvalue->kp, 2, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UTCmodelSet3(rtxContext* ctx, UTCmodelSet3* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UTCmodelSet3");
-   /* utcA1wnt */
-   rtxCtxtPushElemName(ctx, "utcA1wnt");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->utcA1wnt, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* utcA0wnt */
-   rtxCtxtPushElemName(ctx, "utcA0wnt");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->utcA0wnt, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* utcTot */
-   rtxCtxtPushElemName(ctx, "utcTot");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->utcTot, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* utcWNt */
-   rtxCtxtPushElemName(ctx, "utcWNt");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->utcWNt, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* utcDeltaTls */
-   rtxCtxtPushElemName(ctx, "utcDeltaTls");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->utcDeltaTls, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* utcWNlsf */
-   rtxCtxtPushElemName(ctx, "utcWNlsf");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->utcWNlsf, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* utcDN */
-   rtxCtxtPushElemName(ctx, "utcDN");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->utcDN, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* utcDeltaTlsf */
-   rtxCtxtPushElemName(ctx, "utcDeltaTlsf");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->utcDeltaTlsf, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* utcStandardID */
-   rtxCtxtPushElemName(ctx, "utcStandardID");
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pd_BitString32(ctx, &pvalue->utcStandardID, 3, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_AddUTCModels(rtxContext* ctx, UE_Positioning_GANSS_AddUTCModels* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-AddUTCModels");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* utcModel1 */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "utcModel1");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UTCmodelSet1(ctx, &pvalue->utcModel1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* utcModel2 */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "utcModel2");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UTCmodelSet2(ctx, &pvalue->utcModel2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* utcModel3 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "utcModel3");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UTCmodelSet3(ctx, &pvalue->utcModel3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_AuxiliaryInfo(rtxContext* ctx, UE_Positioning_GANSS_AuxiliaryInfo* pvalue)
+int asn1PD_UMTS_AssistanceDataDelivery(rtxContext* RT_RESTRICT ctx, AssistanceDataDelivery* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-AuxiliaryInfo");
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AssistanceDataDelivery");
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "ganssID1");
-         pvalue->u.ganssID1 = (AuxInfoGANSS_ID1*)rtxMemHeapAlloc(ctx, sizeof(AuxInfoGANSS_ID1));
-         if (pvalue->u.ganssID1 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_AuxInfoGANSS_ID1(pvalue->u.ganssID1);
-         stat = asn1PD_UMTS_AuxInfoGANSS_ID1(ctx, pvalue->u.ganssID1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 0: /* r3 */
+         pvalue->u.r3 = (AssistanceDataDelivery_r3*)rtxMemHeapAlloc(ctx, sizeof(AssistanceDataDelivery_r3));
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "AssistanceDataDelivery");
+         asn1Init_UMTS_AssistanceDataDelivery_r3(pvalue->u.r3);
+         stat = asn1PD_UMTS_AssistanceDataDelivery_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "AssistanceDataDelivery");
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "ganssID3");
-         pvalue->u.ganssID3 = (AuxInfoGANSS_ID3*)rtxMemHeapAlloc(ctx, sizeof(AuxInfoGANSS_ID3));
-         if (pvalue->u.ganssID3 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_AuxInfoGANSS_ID3(pvalue->u.ganssID3);
-         stat = asn1PD_UMTS_AuxInfoGANSS_ID3(ctx, pvalue->u.ganssID3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 1: /* later-than-r3 */
+         pvalue->u.later_than_r3 = (AssistanceDataDelivery_later_than_r3*)rtxMemHeapAllocZ(ctx, sizeof(AssistanceDataDelivery_later_than_r3));
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "AssistanceDataDelivery");
+         stat = asn1PD_UMTS_AssistanceDataDelivery_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "AssistanceDataDelivery");
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "AssistanceDataDelivery");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_GANSSGenericData_v860ext(rtxContext* ctx, GANSSGenericData_v860ext* pvalue)
+int asn1PD_UMTS_CellChangeOrderFromUTRAN_r3_IEs(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_r3_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "GANSSGenericData-v860ext");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat);
-   /* uePositiningGANSSsbasID */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "uePositiningGANSSsbasID");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-SBAS-ID");
-      stat = pd_ConsUnsigned(ctx, &pvalue->uePositiningGANSSsbasID, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSAddNavigationModels */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSAddNavigationModels");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AddNavigationModels(ctx, &pvalue->uePositioningGANSSAddNavigationModels);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSAlmanac */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellChangeOrderFromUTRAN-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "CellChangeOrderFromUTRAN-r3-IEs");
+   /* dummy */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSAlmanac");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_Almanac_v860ext(ctx, &pvalue->uePositioningGANSSAlmanac);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "CellChangeOrderFromUTRAN-r3-IEs");
    }
-   /* uePositioningGANSSAddUTCModels */
+   /* activationTime */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSAddUTCModels");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AddUTCModels(ctx, &pvalue->uePositioningGANSSAddUTCModels);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "CellChangeOrderFromUTRAN-r3-IEs");
    }
-   /* uePositioningGANSSAuxiliaryInfo */
+   /* rab-InformationList */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSAuxiliaryInfo");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AuxiliaryInfo(ctx, &pvalue->uePositioningGANSSAuxiliaryInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_RAB_InformationList(ctx, &pvalue->rab_InformationList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationList", -1, "CellChangeOrderFromUTRAN-r3-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
+   /* interRAT-TargetCellDescription */
+   stat = asn1PD_UMTS_InterRAT_TargetCellDescription(ctx, &pvalue->interRAT_TargetCellDescription);
+   RT_CHECK(ctx, stat, 0, "interRAT-TargetCellDescription", -1, "CellChangeOrderFromUTRAN-r3-IEs");
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GANSS_Almanac_r8(rtxContext* ctx, UE_Positioning_GANSS_Almanac_r8* pvalue)
+int asn1PD_UMTS_CellChangeOrderFromUTRAN_v590ext_IEs_geran_SystemInfoType(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_v590ext_IEs_geran_SystemInfoType* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* sI */
+         pvalue->u.sI = (GERAN_SystemInformation*)rtxMemHeapAlloc(ctx, sizeof(GERAN_SystemInformation));
+         if (pvalue->u.sI == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sI", -1, 0);
+         asn1Init_UMTS_GERAN_SystemInformation(pvalue->u.sI);
+         stat = asn1PD_UMTS_GERAN_SystemInformation(ctx, pvalue->u.sI);
+         RT_CHECK(ctx, stat, 0, "sI", -1, 0);
+         break;
+      case 1: /* pSI */
+         pvalue->u.pSI = (GERAN_SystemInformation*)rtxMemHeapAlloc(ctx, sizeof(GERAN_SystemInformation));
+         if (pvalue->u.pSI == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "pSI", -1, 0);
+         asn1Init_UMTS_GERAN_SystemInformation(pvalue->u.pSI);
+         stat = asn1PD_UMTS_GERAN_SystemInformation(ctx, pvalue->u.pSI);
+         RT_CHECK(ctx, stat, 0, "pSI", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellChangeOrderFromUTRAN_v590ext_IEs(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_v590ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-Almanac-r8");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat);
-   /* ganss-wk-number */
-   rtxCtxtPushElemName(ctx, "ganss-wk-number");
-   stat = pd_ConsUInt8(ctx, &pvalue->ganss_wk_number, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* alm-keplerianParameters */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "alm-keplerianParameters");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ALM_keplerianParameters(ctx, &pvalue->alm_keplerianParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* alm-keplerianNAVAlmanac */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "alm-keplerianNAVAlmanac");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_ALM_NAVKeplerianSet(ctx, &pvalue->alm_keplerianNAVAlmanac);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* alm-keplerianReducedAlmanac */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "alm-keplerianReducedAlmanac");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_ALM_ReducedKeplerianSet(ctx, &pvalue->alm_keplerianReducedAlmanac);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* alm-keplerianMidiAlmanac */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "alm-keplerianMidiAlmanac");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_ALM_MidiAlmanacSet(ctx, &pvalue->alm_keplerianMidiAlmanac);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* alm-keplerianGLONASS */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "alm-keplerianGLONASS");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_ALM_GlonassAlmanacSet(ctx, &pvalue->alm_keplerianGLONASS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* alm-ecefSBASAlmanac */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "alm-ecefSBASAlmanac");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_ALM_ECEFsbasAlmanacSet(ctx, &pvalue->alm_ecefSBASAlmanac);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GANSSGenericData_r8(rtxContext* ctx, GANSSGenericData_r8* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "GANSSGenericData-r8");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 13);
-   RT_CHECK(ctx, stat);
-   /* ganssId */
-   if (present & ((uint32_t)1 << 12)) {
-      rtxCtxtPushElemName(ctx, "ganssId");
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ganssId, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositiningGANSSsbasID */
-   if (present & ((uint32_t)1 << 11)) {
-      rtxCtxtPushElemName(ctx, "uePositiningGANSSsbasID");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-SBAS-ID");
-      stat = pd_ConsUnsigned(ctx, &pvalue->uePositiningGANSSsbasID, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssTimeModelsList */
-   if (present & ((uint32_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "ganssTimeModelsList");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_GANSSTimeModelsList(ctx, &pvalue->ganssTimeModelsList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningDGANSSCorrections */
-   if (present & ((uint32_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "uePositioningDGANSSCorrections");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_Positioning_DGANSSCorrections(ctx, &pvalue->uePositioningDGANSSCorrections);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSNavigationModel */
-   if (present & ((uint32_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSNavigationModel");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_NavigationModel(ctx, &pvalue->uePositioningGANSSNavigationModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSAddNavigationModels */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSAddNavigationModels");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AddNavigationModels(ctx, &pvalue->uePositioningGANSSAddNavigationModels);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSRealTimeIntegrity */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSRealTimeIntegrity");
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_RealTimeIntegrity(ctx, &pvalue->uePositioningGANSSRealTimeIntegrity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSDataBitAssistance */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSDataBitAssistance");
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_Data_Bit_Assistance(ctx, &pvalue->uePositioningGANSSDataBitAssistance);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSReferenceMeasurementInfo */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSReferenceMeasurementInfo");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_ReferenceMeasurementInfo(ctx, &pvalue->uePositioningGANSSReferenceMeasurementInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSAlmanac */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSAlmanac");
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_Almanac_r8(ctx, &pvalue->uePositioningGANSSAlmanac);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSUTCModel */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSUTCModel");
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_UTCModel(ctx, &pvalue->uePositioningGANSSUTCModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSAddUTCModels */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSAddUTCModels");
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AddUTCModels(ctx, &pvalue->uePositioningGANSSAddUTCModels);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSAuxiliaryInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSAuxiliaryInfo");
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AuxiliaryInfo(ctx, &pvalue->uePositioningGANSSAuxiliaryInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_DGANSSCorrections_r9(rtxContext* ctx, UE_Positioning_DGANSSCorrections_r9* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-DGANSSCorrections-r9");
-   /* dganssreferencetime */
-   rtxCtxtPushElemName(ctx, "dganssreferencetime");
-   stat = pd_ConsUInt8(ctx, &pvalue->dganssreferencetime, 0, 119);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dganssInfoList */
-   rtxCtxtPushElemName(ctx, "dganssInfoList");
-   stat = asn1PD_UMTS_DGANSSInfoList_r9(ctx, &pvalue->dganssInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GANSSGenericData_r9(rtxContext* ctx, GANSSGenericData_r9* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "GANSSGenericData-r9");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 13);
-   RT_CHECK(ctx, stat);
-   /* ganssId */
-   if (present & ((uint32_t)1 << 12)) {
-      rtxCtxtPushElemName(ctx, "ganssId");
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ganssId, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositiningGANSSsbasID */
-   if (present & ((uint32_t)1 << 11)) {
-      rtxCtxtPushElemName(ctx, "uePositiningGANSSsbasID");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-SBAS-ID");
-      stat = pd_ConsUnsigned(ctx, &pvalue->uePositiningGANSSsbasID, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssTimeModelsList */
-   if (present & ((uint32_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "ganssTimeModelsList");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_GANSSTimeModelsList(ctx, &pvalue->ganssTimeModelsList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningDGANSSCorrections */
-   if (present & ((uint32_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "uePositioningDGANSSCorrections");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_Positioning_DGANSSCorrections_r9(ctx, &pvalue->uePositioningDGANSSCorrections);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSNavigationModel */
-   if (present & ((uint32_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSNavigationModel");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_NavigationModel(ctx, &pvalue->uePositioningGANSSNavigationModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSAddNavigationModels */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSAddNavigationModels");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AddNavigationModels(ctx, &pvalue->uePositioningGANSSAddNavigationModels);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSRealTimeIntegrity */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSRealTimeIntegrity");
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_RealTimeIntegrity(ctx, &pvalue->uePositioningGANSSRealTimeIntegrity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSDataBitAssistance */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSDataBitAssistance");
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_Data_Bit_Assistance(ctx, &pvalue->uePositioningGANSSDataBitAssistance);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSReferenceMeasurementInfo */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSReferenceMeasurementInfo");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_ReferenceMeasurementInfo(ctx, &pvalue->uePositioningGANSSReferenceMeasurementInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSAlmanac */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSAlmanac");
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_Almanac_r8(ctx, &pvalue->uePositioningGANSSAlmanac);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSUTCModel */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSUTCModel");
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_UTCModel(ctx, &pvalue->uePositioningGANSSUTCModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSAddUTCModels */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSAddUTCModels");
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AddUTCModels(ctx, &pvalue->uePositioningGANSSAddUTCModels);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSAuxiliaryInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSAuxiliaryInfo");
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AuxiliaryInfo(ctx, &pvalue->uePositioningGANSSAuxiliaryInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_DGANSSCorrections_v920ext(rtxContext* ctx, UE_Positioning_DGANSSCorrections_v920ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-DGANSSCorrections-v920ext");
-   /* dganssInfoList */
-   rtxCtxtPushElemName(ctx, "dganssInfoList");
-   stat = asn1PD_UMTS_DGANSSInfoList_v920ext(ctx, &pvalue->dganssInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GANSSGenericData_v920ext(rtxContext* ctx, GANSSGenericData_v920ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "GANSSGenericData-v920ext");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* uePositioningDGANSSCorrections */
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellChangeOrderFromUTRAN-v590ext-IEs");
+   /* geran-SystemInfoType */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "uePositioningDGANSSCorrections");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_DGANSSCorrections_v920ext(ctx, &pvalue->uePositioningDGANSSCorrections);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_CellChangeOrderFromUTRAN_v590ext_IEs_geran_SystemInfoType(ctx, &pvalue->geran_SystemInfoType);
+      RT_CHECK(ctx, stat, 0, "geran-SystemInfoType", -1, "CellChangeOrderFromUTRAN-v590ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_GANSSGenericDataList(rtxContext* ctx, GANSSGenericDataList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "GANSSGenericDataList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GANSSGenericData* elem;
-      rtxCtxtPushArrayElemName(ctx, "GANSSGenericData", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSSGenericData));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (GANSSGenericData*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_GANSSGenericData(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GANSSGenericData(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GANSSGenericDataList_v860ext(rtxContext* ctx, GANSSGenericDataList_v860ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "GANSSGenericDataList-v860ext");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GANSSGenericData_v860ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "GANSSGenericData-v860ext", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSSGenericData_v860ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (GANSSGenericData_v860ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_GANSSGenericData_v860ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GANSSGenericData_v860ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GANSSGenericDataList_r8(rtxContext* ctx, GANSSGenericDataList_r8* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "GANSSGenericDataList-r8");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GANSSGenericData_r8* elem;
-      rtxCtxtPushArrayElemName(ctx, "GANSSGenericData-r8", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSSGenericData_r8));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (GANSSGenericData_r8*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_GANSSGenericData_r8(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GANSSGenericData_r8(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GANSSGenericDataList_r9(rtxContext* ctx, GANSSGenericDataList_r9* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "GANSSGenericDataList-r9");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GANSSGenericData_r9* elem;
-      rtxCtxtPushArrayElemName(ctx, "GANSSGenericData-r9", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSSGenericData_r9));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (GANSSGenericData_r9*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_GANSSGenericData_r9(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GANSSGenericData_r9(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GANSSGenericDataList_v920ext(rtxContext* ctx, GANSSGenericDataList_v920ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "GANSSGenericDataList-v920ext");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GANSSGenericData_v920ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "GANSSGenericData-v920ext", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GANSSGenericData_v920ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (GANSSGenericData_v920ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_GANSSGenericData_v920ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GANSSGenericData_v920ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SatellitesListRelatedData(rtxContext* ctx, SatellitesListRelatedData* pvalue)
+int asn1PD_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SatellitesListRelatedData");
-   /* satId */
-   rtxCtxtPushElemName(ctx, "satId");
-   stat = pd_ConsUInt8(ctx, &pvalue->satId, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* iod */
-   rtxCtxtPushElemName(ctx, "iod");
-   stat = pd_ConsUInt16(ctx, &pvalue->iod, 0, 1023);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_SatellitesListRelatedDataList(rtxContext* ctx, SatellitesListRelatedDataList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "SatellitesListRelatedDataList");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      SatellitesListRelatedData* elem;
-      rtxCtxtPushArrayElemName(ctx, "SatellitesListRelatedData", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SatellitesListRelatedData));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (SatellitesListRelatedData*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_SatellitesListRelatedData(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GanssNavigationModelAdditionalData(rtxContext* ctx, GanssNavigationModelAdditionalData* pvalue)
+int asn1PD_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "GanssNavigationModelAdditionalData");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ganssWeek */
-   rtxCtxtPushElemName(ctx, "ganssWeek");
-   stat = pd_ConsUInt16(ctx, &pvalue->ganssWeek, 0, 4095);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganssToe */
-   rtxCtxtPushElemName(ctx, "ganssToe");
-   stat = pd_ConsUInt8(ctx, &pvalue->ganssToe, 0, 167);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* t-toeLimit */
-   rtxCtxtPushElemName(ctx, "t-toeLimit");
-   stat = pd_ConsUInt8(ctx, &pvalue->t_toeLimit, 0, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* satellitesListRelatedDataList */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellChangeOrderFromUTRAN-v590ext */
+   stat = asn1PD_UMTS_CellChangeOrderFromUTRAN_v590ext_IEs(ctx, &pvalue->cellChangeOrderFromUTRAN_v590ext);
+   RT_CHECK(ctx, stat, 0, "cellChangeOrderFromUTRAN-v590ext", -1, 0);
+   /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "satellitesListRelatedDataList");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SatellitesListRelatedDataList(ctx, &pvalue->satellitesListRelatedDataList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_GanssReqGenericData(rtxContext* ctx, GanssReqGenericData* pvalue)
+int asn1PD_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "GanssReqGenericData");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat);
-   /* ganssId */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "ganssId");
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ganssId, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssRealTimeIntegrity */
-   rtxCtxtPushElemName(ctx, "ganssRealTimeIntegrity");
-   stat = rtxDecBitInline(ctx, &pvalue->ganssRealTimeIntegrity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganssDifferentialCorrection */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "ganssDifferentialCorrection");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DGANSS_Sig_Id_Req(ctx, &pvalue->ganssDifferentialCorrection);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssAlmanac */
-   rtxCtxtPushElemName(ctx, "ganssAlmanac");
-   stat = rtxDecBitInline(ctx, &pvalue->ganssAlmanac);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganssNavigationModel */
-   rtxCtxtPushElemName(ctx, "ganssNavigationModel");
-   stat = rtxDecBitInline(ctx, &pvalue->ganssNavigationModel);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganssTimeModelGNSS-GNSS */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "ganssTimeModelGNSS-GNSS");
-      pvalue->m |= 0x4u;
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pd_BitString32(ctx, &pvalue->ganssTimeModelGNSS_GNSS, 8, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssReferenceMeasurementInfo */
-   rtxCtxtPushElemName(ctx, "ganssReferenceMeasurementInfo");
-   stat = rtxDecBitInline(ctx, &pvalue->ganssReferenceMeasurementInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganssDataBits */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellChangeOrderFromUTRAN-r3-add-ext */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ganssDataBits");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_GanssDataBits(ctx, &pvalue->ganssDataBits);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->cellChangeOrderFromUTRAN_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "cellChangeOrderFromUTRAN-r3-add-ext", -1, 0);
    }
-   /* ganssUTCModel */
-   rtxCtxtPushElemName(ctx, "ganssUTCModel");
-   stat = rtxDecBitInline(ctx, &pvalue->ganssUTCModel);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganssNavigationModelAdditionalData */
+   /* v590NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ganssNavigationModelAdditionalData");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_GanssNavigationModelAdditionalData(ctx, &pvalue->ganssNavigationModelAdditionalData);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_GanssReqGenericData_v860ext_ganssAddNavigationModel(rtxContext* ctx, GanssReqGenericData_v860ext_ganssAddNavigationModel* pvalue)
+int asn1PD_UMTS_CellChangeOrderFromUTRAN_r3(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellChangeOrderFromUTRAN-IEs */
+   stat = asn1PD_UMTS_CellChangeOrderFromUTRAN_r3_IEs(ctx, &pvalue->cellChangeOrderFromUTRAN_IEs);
+   RT_CHECK(ctx, stat, 0, "cellChangeOrderFromUTRAN-IEs", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellChangeOrderFromUTRAN_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_CellChangeOrderFromUTRAN_later_than_r3(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PD_UMTS_CellChangeOrderFromUTRAN_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CellChangeOrderFromUTRAN(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRAN* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellChangeOrderFromUTRAN");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r3 */
+         pvalue->u.r3 = (CellChangeOrderFromUTRAN_r3*)rtxMemHeapAlloc(ctx, sizeof(CellChangeOrderFromUTRAN_r3));
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "CellChangeOrderFromUTRAN");
+         asn1Init_UMTS_CellChangeOrderFromUTRAN_r3(pvalue->u.r3);
+         stat = asn1PD_UMTS_CellChangeOrderFromUTRAN_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "CellChangeOrderFromUTRAN");
+         break;
+      case 1: /* later-than-r3 */
+         pvalue->u.later_than_r3 = (CellChangeOrderFromUTRAN_later_than_r3*)rtxMemHeapAllocZ(ctx, sizeof(CellChangeOrderFromUTRAN_later_than_r3));
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "CellChangeOrderFromUTRAN");
+         stat = asn1PD_UMTS_CellChangeOrderFromUTRAN_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "CellChangeOrderFromUTRAN");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CellChangeOrderFromUTRAN");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellChangeOrderFromUTRANFailure_r3_IEs(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRANFailure_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellChangeOrderFromUTRANFailure-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "CellChangeOrderFromUTRANFailure-r3-IEs");
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "CellChangeOrderFromUTRANFailure-r3-IEs");
+   }
+   /* interRAT-ChangeFailureCause */
+   stat = asn1PD_UMTS_InterRAT_ChangeFailureCause(ctx, &pvalue->interRAT_ChangeFailureCause);
+   RT_CHECK(ctx, stat, 0, "interRAT-ChangeFailureCause", -1, "CellChangeOrderFromUTRANFailure-r3-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellChangeOrderFromUTRANFailure-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->cellChangeOrderFromUTRANFailure_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "cellChangeOrderFromUTRANFailure-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellChangeOrderFromUTRANFailure_r3(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRANFailure_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellChangeOrderFromUTRANFailure-r3 */
+   stat = asn1PD_UMTS_CellChangeOrderFromUTRANFailure_r3_IEs(ctx, &pvalue->cellChangeOrderFromUTRANFailure_r3);
+   RT_CHECK(ctx, stat, 0, "cellChangeOrderFromUTRANFailure-r3", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellChangeOrderFromUTRANFailure_dummy_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRANFailure_dummy_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_CellChangeOrderFromUTRANFailure_dummy(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRANFailure_dummy* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PD_UMTS_CellChangeOrderFromUTRANFailure_dummy_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CellChangeOrderFromUTRANFailure(rtxContext* RT_RESTRICT ctx, CellChangeOrderFromUTRANFailure* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellChangeOrderFromUTRANFailure");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r3 */
+         pvalue->u.r3 = (CellChangeOrderFromUTRANFailure_r3*)rtxMemHeapAlloc(ctx, sizeof(CellChangeOrderFromUTRANFailure_r3));
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "CellChangeOrderFromUTRANFailure");
+         asn1Init_UMTS_CellChangeOrderFromUTRANFailure_r3(pvalue->u.r3);
+         stat = asn1PD_UMTS_CellChangeOrderFromUTRANFailure_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "CellChangeOrderFromUTRANFailure");
+         break;
+      case 1: /* dummy */
+         pvalue->u.dummy = (CellChangeOrderFromUTRANFailure_dummy*)rtxMemHeapAllocZ(ctx, sizeof(CellChangeOrderFromUTRANFailure_dummy));
+         if (pvalue->u.dummy == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dummy", -1, "CellChangeOrderFromUTRANFailure");
+         stat = asn1PD_UMTS_CellChangeOrderFromUTRANFailure_dummy(ctx, pvalue->u.dummy);
+         RT_CHECK(ctx, stat, 0, "dummy", -1, "CellChangeOrderFromUTRANFailure");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CellChangeOrderFromUTRANFailure");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_v7e0ext_IEs_supportForTwoDRXSchemesInPCH(rtxContext* RT_RESTRICT ctx, CellUpdate_v7e0ext_IEs_supportForTwoDRXSchemesInPCH* RT_RESTRICT pvalue)
 {
    int stat;
    {
       uint32_t ui;
       stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
       stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
       *pvalue = ui;
    }
    return 0;
 }
 
-int asn1PD_UMTS_GanssReqGenericData_v860ext_ganssAddUTCmodel(rtxContext* ctx, GanssReqGenericData_v860ext_ganssAddUTCmodel* pvalue)
+int asn1PD_UMTS_CellUpdate_v7e0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdate_v7e0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdate-v7e0ext-IEs");
+   /* supportForTwoDRXSchemesInPCH */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportForTwoDRXSchemesInPCH", -1, "CellUpdate-v7e0ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportForTwoDRXSchemesInPCH", -1, "CellUpdate-v7e0ext-IEs");
+         pvalue->supportForTwoDRXSchemesInPCH = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdate_v7g0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdate-v7g0ext-IEs");
+   /* measuredResultsOnRACH-v7g0ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasuredResultsOnRACH_v7g0ext(ctx, &pvalue->measuredResultsOnRACH_v7g0ext);
+      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACH-v7g0ext", -1, "CellUpdate-v7g0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdate-v7g0ext */
+   stat = asn1PD_UMTS_CellUpdate_v7g0ext_IEs(ctx, &pvalue->cellUpdate_v7g0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdate-v7g0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_r3_add_ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdate_r3_add_ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdate-r3-add-ext-IEs");
+   /* cellUpdate-v7e0ext */
+   stat = asn1PD_UMTS_CellUpdate_v7e0ext_IEs(ctx, &pvalue->cellUpdate_v7e0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdate-v7e0ext", -1, "CellUpdate-r3-add-ext-IEs");
+   /* v7g0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, "CellUpdate-r3-add-ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_v590ext(rtxContext* RT_RESTRICT ctx, CellUpdate_v590ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdate-v590ext");
+   /* establishmentCause */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->establishmentCause, 0, 31);
+      RT_CHECK(ctx, stat, "EstablishmentCause", "establishmentCause", -1, "CellUpdate-v590ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_v690ext_IEs_trafficVolumeIndicator(rtxContext* RT_RESTRICT ctx, CellUpdate_v690ext_IEs_trafficVolumeIndicator* RT_RESTRICT pvalue)
 {
    int stat;
    {
       uint32_t ui;
       stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
       stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
       *pvalue = ui;
    }
    return 0;
 }
 
-int asn1PD_UMTS_GanssReqGenericData_v860ext_ganssAuxInfo(rtxContext* ctx, GanssReqGenericData_v860ext_ganssAuxInfo* pvalue)
+int asn1PD_UMTS_CellUpdate_v690ext_IEs_reconfigurationStatusIndicator(rtxContext* RT_RESTRICT ctx, CellUpdate_v690ext_IEs_reconfigurationStatusIndicator* RT_RESTRICT pvalue)
 {
    int stat;
    {
       uint32_t ui;
       stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
       stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
       *pvalue = ui;
    }
    return 0;
 }
 
-int asn1PD_UMTS_GanssReqGenericData_v860ext_ganssAddADchoices(rtxContext* ctx, GanssReqGenericData_v860ext_ganssAddADchoices* pvalue)
+int asn1PD_UMTS_CellUpdate_v690ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdate_v690ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* orbitModelID */
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdate-v690ext-IEs");
+   /* cellUpdateCause-ext */
    if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "orbitModelID");
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->orbitModelID, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUnsigned(ctx, &pvalue->cellUpdateCause_ext, 0, 3);
+      RT_CHECK(ctx, stat, "CellUpdateCause-ext", "cellUpdateCause-ext", -1, "CellUpdate-v690ext-IEs");
    }
-   /* clockModelID */
+   /* trafficVolumeIndicator */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "clockModelID");
       pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->clockModelID, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "trafficVolumeIndicator", -1, "CellUpdate-v690ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "trafficVolumeIndicator", -1, "CellUpdate-v690ext-IEs");
+         pvalue->trafficVolumeIndicator = ui;
+      }
    }
-   /* utcModelID */
+   /* measuredResultsOnRACHinterFreq */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "utcModelID");
       pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->utcModelID, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_MeasuredResultsOnRACHinterFreq(ctx, &pvalue->measuredResultsOnRACHinterFreq);
+      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACHinterFreq", -1, "CellUpdate-v690ext-IEs");
    }
-   /* almanacModelID */
+   /* reconfigurationStatusIndicator */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "almanacModelID");
       pvalue->m |= 0x8u;
-      stat = pd_ConsUInt8(ctx, &pvalue->almanacModelID, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "reconfigurationStatusIndicator", -1, "CellUpdate-v690ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "reconfigurationStatusIndicator", -1, "CellUpdate-v690ext-IEs");
+         pvalue->reconfigurationStatusIndicator = ui;
+      }
    }
    return 0;
 }
 
-int asn1PD_UMTS_GanssReqGenericData_v860ext(rtxContext* ctx, GanssReqGenericData_v860ext* pvalue)
+int asn1PD_UMTS_CellUpdate_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdate_v6b0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "GanssReqGenericData-v860ext");
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdate-v6b0ext-IEs");
+   /* mbmsSelectedServices */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMS_SelectedServicesShort(ctx, &pvalue->mbmsSelectedServices);
+      RT_CHECK(ctx, stat, 0, "mbmsSelectedServices", -1, "CellUpdate-v6b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_v770ext_IEs_csCallType(rtxContext* RT_RESTRICT ctx, CellUpdate_v770ext_IEs_csCallType* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_v770ext_IEs_hspdschReception_CellFach(rtxContext* RT_RESTRICT ctx, CellUpdate_v770ext_IEs_hspdschReception_CellFach* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_v770ext_IEs_capabilityChangeIndicator(rtxContext* RT_RESTRICT ctx, CellUpdate_v770ext_IEs_capabilityChangeIndicator* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_v770ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdate_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdate-v770ext-IEs");
+   /* csCallType */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->csCallType, 0, 3);
+      RT_CHECK(ctx, stat, 0, "csCallType", -1, "CellUpdate-v770ext-IEs");
+   }
+   /* hspdschReception-CellFach */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "hspdschReception-CellFach", -1, "CellUpdate-v770ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "hspdschReception-CellFach", -1, "CellUpdate-v770ext-IEs");
+         pvalue->hspdschReception_CellFach = ui;
+      }
+   }
+   /* ueMobilityStateIndicator */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "CellUpdate-v770ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "CellUpdate-v770ext-IEs");
+         pvalue->ueMobilityStateIndicator = ui;
+      }
+   }
+   /* capabilityChangeIndicator */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "capabilityChangeIndicator", -1, "CellUpdate-v770ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "capabilityChangeIndicator", -1, "CellUpdate-v770ext-IEs");
+         pvalue->capabilityChangeIndicator = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_v860ext_IEs_supportOfCommonEDCH(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs_supportOfCommonEDCH* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_v860ext_IEs_supportOfHS_DSCHDRXOperation(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs_supportOfHS_DSCHDRXOperation* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_v860ext_IEs_supportOfMACiis(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs_supportOfMACiis* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_v860ext_IEs_supportOfSPSOperation(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs_supportOfSPSOperation* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_v860ext_IEs_supportOfControlChannelDRXOperation(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs_supportOfControlChannelDRXOperation* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_v860ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat);
-   /* sbasId */
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdate-v860ext-IEs");
+   /* supportOfCommonEDCH */
    if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "sbasId");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-SBAS-ID");
-      stat = pd_ConsUnsigned(ctx, &pvalue->sbasId, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportOfCommonEDCH", -1, "CellUpdate-v860ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportOfCommonEDCH", -1, "CellUpdate-v860ext-IEs");
+         pvalue->supportOfCommonEDCH = ui;
+      }
    }
-   /* ganssAddNavigationModel */
+   /* supportOfHS-DSCHDRXOperation */
    if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "ganssAddNavigationModel");
       pvalue->m |= 0x2u;
       {
          uint32_t ui;
          stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
+         RT_CHECK(ctx, stat, 0, "supportOfHS-DSCHDRXOperation", -1, "CellUpdate-v860ext-IEs");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->ganssAddNavigationModel = ui;
+         RT_CHECK(ctx, stat, 0, "supportOfHS-DSCHDRXOperation", -1, "CellUpdate-v860ext-IEs");
+         pvalue->supportOfHS_DSCHDRXOperation = ui;
       }
-      rtxCtxtPopElemName(ctx);
    }
-   /* ganssAddUTCmodel */
+   /* supportOfMACiis */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "ganssAddUTCmodel");
       pvalue->m |= 0x4u;
       {
          uint32_t ui;
          stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
+         RT_CHECK(ctx, stat, 0, "supportOfMACiis", -1, "CellUpdate-v860ext-IEs");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->ganssAddUTCmodel = ui;
+         RT_CHECK(ctx, stat, 0, "supportOfMACiis", -1, "CellUpdate-v860ext-IEs");
+         pvalue->supportOfMACiis = ui;
       }
-      rtxCtxtPopElemName(ctx);
    }
-   /* ganssAuxInfo */
+   /* supportOfSPSOperation */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ganssAuxInfo");
       pvalue->m |= 0x8u;
       {
          uint32_t ui;
          stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
+         RT_CHECK(ctx, stat, 0, "supportOfSPSOperation", -1, "CellUpdate-v860ext-IEs");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->ganssAuxInfo = ui;
+         RT_CHECK(ctx, stat, 0, "supportOfSPSOperation", -1, "CellUpdate-v860ext-IEs");
+         pvalue->supportOfSPSOperation = ui;
       }
-      rtxCtxtPopElemName(ctx);
    }
-   /* ganssAddADchoices */
+   /* supportOfControlChannelDRXOperation */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ganssAddADchoices");
       pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_GanssReqGenericData_v860ext_ganssAddADchoices(ctx, &pvalue->ganssAddADchoices);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportOfControlChannelDRXOperation", -1, "CellUpdate-v860ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportOfControlChannelDRXOperation", -1, "CellUpdate-v860ext-IEs");
+         pvalue->supportOfControlChannelDRXOperation = ui;
+      }
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_GanssRequestedGenericAssistanceDataList(rtxContext* ctx, GanssRequestedGenericAssistanceDataList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "GanssRequestedGenericAssistanceDataList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GanssReqGenericData* elem;
-      rtxCtxtPushArrayElemName(ctx, "GanssReqGenericData", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GanssReqGenericData));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (GanssReqGenericData*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_GanssReqGenericData(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GanssReqGenericData(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GanssRequestedGenericAssistanceDataList_v860ext(rtxContext* ctx, GanssRequestedGenericAssistanceDataList_v860ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "GanssRequestedGenericAssistanceDataList-v860ext");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GanssReqGenericData_v860ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "GanssReqGenericData-v860ext", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GanssReqGenericData_v860ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (GanssReqGenericData_v860ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_GanssReqGenericData_v860ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GanssReqGenericData_v860ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GANSS_Storm_Flag(rtxContext* ctx, GANSS_Storm_Flag* pvalue)
+int asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "GANSS-Storm-Flag");
-   /* storm-flag-one */
-   rtxCtxtPushElemName(ctx, "storm-flag-one");
-   stat = rtxDecBitInline(ctx, &pvalue->storm_flag_one);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* storm-flag-two */
-   rtxCtxtPushElemName(ctx, "storm-flag-two");
-   stat = rtxDecBitInline(ctx, &pvalue->storm_flag_two);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* storm-flag-three */
-   rtxCtxtPushElemName(ctx, "storm-flag-three");
-   stat = rtxDecBitInline(ctx, &pvalue->storm_flag_three);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* storm-flag-four */
-   rtxCtxtPushElemName(ctx, "storm-flag-four");
-   stat = rtxDecBitInline(ctx, &pvalue->storm_flag_four);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* storm-flag-five */
-   rtxCtxtPushElemName(ctx, "storm-flag-five");
-   stat = rtxDecBitInline(ctx, &pvalue->storm_flag_five);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_GSM_CarrierRSSI(rtxContext* ctx, GSM_CarrierRSSI* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "GSM-CarrierRSSI");
-   RT_SET_SIZE(ctx, 6, 6);
-   stat = pd_BitString32(ctx, pvalue, 6, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ObservedTimeDifferenceToGSM(rtxContext* ctx, ObservedTimeDifferenceToGSM* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "ObservedTimeDifferenceToGSM");
-   stat = pd_ConsUInt16(ctx, pvalue, 0, 4095);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GSM_MeasuredResults(rtxContext* ctx, GSM_MeasuredResults* pvalue)
+int asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "GSM-MeasuredResults");
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdate-v860ext */
+   stat = asn1PD_UMTS_CellUpdate_v860ext_IEs(ctx, &pvalue->cellUpdate_v860ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdate-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdate-v770ext */
+   stat = asn1PD_UMTS_CellUpdate_v770ext_IEs(ctx, &pvalue->cellUpdate_v770ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdate-v770ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdate-v6b0ext */
+   stat = asn1PD_UMTS_CellUpdate_v6b0ext_IEs(ctx, &pvalue->cellUpdate_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdate-v6b0ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdate-v690ext */
+   stat = asn1PD_UMTS_CellUpdate_v690ext_IEs(ctx, &pvalue->cellUpdate_v690ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdate-v690ext", -1, 0);
+   /* v6b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdate-v590ext */
+   stat = asn1PD_UMTS_CellUpdate_v590ext(ctx, &pvalue->cellUpdate_v590ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdate-v590ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdate_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdate-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      {
+         rtxDynBitStr carrier;
+         rtxContext outer;
+         stat = pd_DynBitString(ctx, &carrier);
+         RT_CHECK(ctx, stat, 0, "cellUpdate-r3-add-ext", -1, 0);
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_CellUpdate_r3_add_ext_IEs(ctx, &pvalue->cellUpdate_r3_add_ext);
+            RT_CHECK(ctx, stat, 0, "cellUpdate-r3-add-ext", -1, 0);
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+      }
+   }
+   /* v590NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return stat;
+}
+
+int asn1PD_UMTS_CellUpdate(rtxContext* RT_RESTRICT ctx, CellUpdate* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* gsm-CarrierRSSI */
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdate");
+   /* u-RNTI */
+   stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, "CellUpdate");
+   /* startList */
+   stat = asn1PD_UMTS_STARTList(ctx, &pvalue->startList);
+   RT_CHECK(ctx, stat, 0, "startList", -1, "CellUpdate");
+   /* am-RLC-ErrorIndicationRb2-3or4 */
+   stat = rtxDecBitInline(ctx, &pvalue->am_RLC_ErrorIndicationRb2_3or4);
+   RT_CHECK(ctx, stat, 0, "am-RLC-ErrorIndicationRb2-3or4", -1, "CellUpdate");
+   /* am-RLC-ErrorIndicationRb5orAbove */
+   stat = rtxDecBitInline(ctx, &pvalue->am_RLC_ErrorIndicationRb5orAbove);
+   RT_CHECK(ctx, stat, 0, "am-RLC-ErrorIndicationRb5orAbove", -1, "CellUpdate");
+   /* cellUpdateCause */
+   stat = pd_ConsUnsigned(ctx, &pvalue->cellUpdateCause, 0, 7);
+   RT_CHECK(ctx, stat, "CellUpdateCause", "cellUpdateCause", -1, "CellUpdate");
+   /* failureCause */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "gsm-CarrierRSSI");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_GSM_CarrierRSSI(ctx, &pvalue->gsm_CarrierRSSI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_FailureCauseWithProtErrTrId(ctx, &pvalue->failureCause);
+      RT_CHECK(ctx, stat, 0, "failureCause", -1, "CellUpdate");
    }
+   /* rb-timer-indicator */
+   stat = asn1PD_UMTS_Rb_timer_indicator(ctx, &pvalue->rb_timer_indicator);
+   RT_CHECK(ctx, stat, 0, "rb-timer-indicator", -1, "CellUpdate");
+   /* measuredResultsOnRACH */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_MeasuredResultsOnRACH(ctx, &pvalue->measuredResultsOnRACH);
+      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACH", -1, "CellUpdate");
+   }
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "CellUpdate");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo_fdd(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* dummy */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->dummy, 46, 173);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->dummy, 1, 16);
+      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy", -1, 0);
    }
-   /* bsicReported */
-   rtxCtxtPushElemName(ctx, "bsicReported");
-   stat = asn1PD_UMTS_BSICReported(ctx, &pvalue->bsicReported);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
    /* dummy2 */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy2");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "ObservedTimeDifferenceToGSM");
-      stat = pd_ConsUInt16(ctx, &pvalue->dummy2, 0, 4095);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GSM_MeasuredResultsList(rtxContext* ctx, GSM_MeasuredResultsList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "GSM-MeasuredResultsList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GSM_MeasuredResults* elem;
-      rtxCtxtPushArrayElemName(ctx, "GSM-MeasuredResults", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GSM_MeasuredResults));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (GSM_MeasuredResults*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_GSM_MeasuredResults(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GSM_MeasuredResults(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GPS_TOW_1sec(rtxContext* ctx, GPS_TOW_1sec* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "GPS-TOW-1sec");
-   stat = pd_ConsUInt32(ctx, pvalue, 0, 604799);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GPS_TOW_Assist(rtxContext* ctx, GPS_TOW_Assist* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "GPS-TOW-Assist");
-   /* satID */
-   rtxCtxtPushElemName(ctx, "satID");
-   rtxCtxtPushTypeName(ctx, "SatID");
-   stat = pd_ConsUInt8(ctx, &pvalue->satID, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* tlm-Message */
-   rtxCtxtPushElemName(ctx, "tlm-Message");
-   RT_SET_SIZE(ctx, 14, 14);
-   stat = pd_BitString32(ctx, &pvalue->tlm_Message, 14, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tlm-Reserved */
-   rtxCtxtPushElemName(ctx, "tlm-Reserved");
-   RT_SET_SIZE(ctx, 2, 2);
-   stat = pd_BitString32(ctx, &pvalue->tlm_Reserved, 2, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* alert */
-   rtxCtxtPushElemName(ctx, "alert");
-   stat = rtxDecBitInline(ctx, &pvalue->alert);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* antiSpoof */
-   rtxCtxtPushElemName(ctx, "antiSpoof");
-   stat = rtxDecBitInline(ctx, &pvalue->antiSpoof);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GPS_TOW_AssistList(rtxContext* ctx, GPS_TOW_AssistList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "GPS-TOW-AssistList");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GPS_TOW_Assist* elem;
-      rtxCtxtPushArrayElemName(ctx, "GPS-TOW-Assist", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GPS_TOW_Assist));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (GPS_TOW_Assist*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GPS_TOW_Assist(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GSM_CellID(rtxContext* ctx, GSM_CellID* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "GSM-CellID");
-   /* gsm-CellID */
-   rtxCtxtPushElemName(ctx, "gsm-CellID");
-   stat = pd_ConsUInt8(ctx, &pvalue->gsm_CellID, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GSM_PriorityInfo(rtxContext* ctx, GSM_PriorityInfo* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "GSM-PriorityInfo");
-   /* gsmCellGroup */
-   rtxCtxtPushElemName(ctx, "gsmCellGroup");
-   stat = asn1PD_UMTS_GSM_CellGroup(ctx, &pvalue->gsmCellGroup);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* priority */
-   rtxCtxtPushElemName(ctx, "priority");
-   stat = pd_ConsUInt8(ctx, &pvalue->priority, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* qRxLevMinGSM */
-   rtxCtxtPushElemName(ctx, "qRxLevMinGSM");
-   stat = pd_ConsInt8(ctx, &pvalue->qRxLevMinGSM, -58, -13);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* threshXhigh */
-   rtxCtxtPushElemName(ctx, "threshXhigh");
-   stat = pd_ConsUInt8(ctx, &pvalue->threshXhigh, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* threshXlow */
-   rtxCtxtPushElemName(ctx, "threshXlow");
-   stat = pd_ConsUInt8(ctx, &pvalue->threshXlow, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GSM_PriorityInfoList(rtxContext* ctx, GSM_PriorityInfoList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "GSM-PriorityInfoList");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GSM_PriorityInfo* elem;
-      rtxCtxtPushArrayElemName(ctx, "GSM-PriorityInfo", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GSM_PriorityInfo));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (GSM_PriorityInfo*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_GSM_PriorityInfo(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GSM_PriorityInfo(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GSMCellGroupingList(rtxContext* ctx, GSMCellGroupingList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "GSMCellGroupingList");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GSM_CellID* elem;
-      rtxCtxtPushArrayElemName(ctx, "GSM-CellID", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GSM_CellID));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (GSM_CellID*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GSM_CellID(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IdleIntervalInfo(rtxContext* ctx, IdleIntervalInfo* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IdleIntervalInfo");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* k */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "k");
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->k, 2, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* offset */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "offset");
       pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->offset, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_InterFreqCell_LCR_r4(rtxContext* ctx, InterFreqCell_LCR_r4* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "InterFreqCell-LCR-r4");
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonFreqRelatedEventResults */
-   rtxCtxtPushElemName(ctx, "nonFreqRelatedEventResults");
-   stat = asn1PD_UMTS_CellMeasurementEventResults_LCR_r4(ctx, &pvalue->nonFreqRelatedEventResults);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterFreqCell(rtxContext* ctx, NewInterFreqCell* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCell");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellID */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "interFreqCellID");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "InterFreqCellID");
-      stat = pd_ConsUInt8(ctx, &pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PD_UMTS_CellInfo(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterFreqCellList(rtxContext* ctx, NewInterFreqCellList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellList");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NewInterFreqCell* elem;
-      rtxCtxtPushArrayElemName(ctx, "NewInterFreqCell", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCell));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (NewInterFreqCell*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NewInterFreqCell(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewInterFreqCell(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqCellInfoList(rtxContext* ctx, InterFreqCellInfoList* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterFreqCellInfoList");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* removedInterFreqCellList */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "removedInterFreqCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewInterFreqCellList(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellsForInterFreqMeasList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cellsForInterFreqMeasList");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_CellsForInterFreqMeasList(ctx, &pvalue->cellsForInterFreqMeasList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterFreqCell_r4(rtxContext* ctx, NewInterFreqCell_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCell-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellID */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "interFreqCellID");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "InterFreqCellID");
-      stat = pd_ConsUInt8(ctx, &pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PD_UMTS_CellInfo_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterFreqCellList_r4(rtxContext* ctx, NewInterFreqCellList_r4* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellList-r4");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NewInterFreqCell_r4* elem;
-      rtxCtxtPushArrayElemName(ctx, "NewInterFreqCell-r4", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCell_r4));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (NewInterFreqCell_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NewInterFreqCell_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewInterFreqCell_r4(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqCellInfoList_r4(rtxContext* ctx, InterFreqCellInfoList_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterFreqCellInfoList-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* removedInterFreqCellList */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "removedInterFreqCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewInterFreqCellList_r4(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellsForInterFreqMeasList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cellsForInterFreqMeasList");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_CellsForInterFreqMeasList(ctx, &pvalue->cellsForInterFreqMeasList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterFreqCell_r8_modeSpecificInfo_tdd128(rtxContext* ctx, NewInterFreqCell_r8_modeSpecificInfo_tdd128* pvalue)
-{
-   int stat = 0;
-   /* intraSecondaryFreqIndicator */
-   rtxCtxtPushElemName(ctx, "intraSecondaryFreqIndicator");
-   stat = rtxDecBitInline(ctx, &pvalue->intraSecondaryFreqIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterFreqCell_r8_modeSpecificInfo(rtxContext* ctx, NewInterFreqCell_r8_modeSpecificInfo* pvalue)
+int asn1PD_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "noInfo");
-         rtxCtxtPopElemName(ctx);
+      case 0: /* fdd */
+         pvalue->u.fdd = (CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         pvalue->u.tdd128 = (NewInterFreqCell_r8_modeSpecificInfo_tdd128*)rtxMemHeapAllocZ(ctx, sizeof(NewInterFreqCell_r8_modeSpecificInfo_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_NewInterFreqCell_r8_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 1: /* tdd */
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_NewInterFreqCell_r8(rtxContext* ctx, NewInterFreqCell_r8* pvalue)
+int asn1PD_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCell-r8");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellID */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "interFreqCellID");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "InterFreqCellID");
-      stat = pd_ConsUInt8(ctx, &pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PD_UMTS_CellInfo_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_NewInterFreqCell_r8_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterFreqCellList_r8(rtxContext* ctx, NewInterFreqCellList_r8* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellList-r8");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NewInterFreqCell_r8* elem;
-      rtxCtxtPushArrayElemName(ctx, "NewInterFreqCell-r8", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCell_r8));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (NewInterFreqCell_r8*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NewInterFreqCell_r8(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewInterFreqCell_r8(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqCellInfoList_r8(rtxContext* ctx, InterFreqCellInfoList_r8* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterFreqCellInfoList-r8");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* removedInterFreqCellList */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "removedInterFreqCellList");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
    }
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewInterFreqCellList_r8(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellsForInterFreqMeasList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cellsForInterFreqMeasList");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_CellsForInterFreqMeasList(ctx, &pvalue->cellsForInterFreqMeasList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_NewInterFreqCell_r9_modeSpecificInfo_tdd128(rtxContext* ctx, NewInterFreqCell_r9_modeSpecificInfo_tdd128* pvalue)
-{
-   int stat = 0;
-   /* intraSecondaryFreqIndicator */
-   rtxCtxtPushElemName(ctx, "intraSecondaryFreqIndicator");
-   stat = rtxDecBitInline(ctx, &pvalue->intraSecondaryFreqIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterFreqCell_r9_modeSpecificInfo(rtxContext* ctx, NewInterFreqCell_r9_modeSpecificInfo* pvalue)
+int asn1PD_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "noInfo");
-         rtxCtxtPopElemName(ctx);
+      case 0: /* fdd */
+         pvalue->u.fdd = (CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         pvalue->u.tdd128 = (NewInterFreqCell_r9_modeSpecificInfo_tdd128*)rtxMemHeapAllocZ(ctx, sizeof(NewInterFreqCell_r9_modeSpecificInfo_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_NewInterFreqCell_r9_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 1: /* tdd */
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_NewInterFreqCell_r9(rtxContext* ctx, NewInterFreqCell_r9* pvalue)
+int asn1PD_UMTS_CellUpdateConfirm_r3_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCell-r9");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellID */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "interFreqCellID");
+   stat = rtxDecBitsFast(ctx, &present, 23);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "CellUpdateConfirm-r3-IEs");
+   /* integrityProtectionModeInfo */
+   if (present & ((uint32_t)1 << 22)) {
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "InterFreqCellID");
-      stat = pd_ConsUInt8(ctx, &pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "CellUpdateConfirm-r3-IEs");
    }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
+   /* cipheringModeInfo */
+   if (present & ((uint32_t)1 << 21)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "CellUpdateConfirm-r3-IEs");
    }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PD_UMTS_CellInfo_r9(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_NewInterFreqCell_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterFreqCellList_r9(rtxContext* ctx, NewInterFreqCellList_r9* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellList-r9");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NewInterFreqCell_r9* elem;
-      rtxCtxtPushArrayElemName(ctx, "NewInterFreqCell-r9", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCell_r9));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (NewInterFreqCell_r9*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NewInterFreqCell_r9(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewInterFreqCell_r9(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqSIAcquisition_modeSpecificInfo_fdd(rtxContext* ctx, InterFreqSIAcquisition_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   /* primaryScramblingCode */
-   rtxCtxtPushElemName(ctx, "primaryScramblingCode");
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryScramblingCode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqSIAcquisition_modeSpecificInfo(rtxContext* ctx, InterFreqSIAcquisition_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (InterFreqSIAcquisition_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(InterFreqSIAcquisition_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_InterFreqSIAcquisition_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqSIAcquisition(rtxContext* ctx, InterFreqSIAcquisition* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "InterFreqSIAcquisition");
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_InterFreqSIAcquisition_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqCellInfoList_r9(rtxContext* ctx, InterFreqCellInfoList_r9* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterFreqCellInfoList-r9");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat);
-   /* removedInterFreqCellList */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "removedInterFreqCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewInterFreqCellList_r9(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellsForInterFreqMeasList */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "cellsForInterFreqMeasList");
+   /* activationTime */
+   if (present & ((uint32_t)1 << 20)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_CellsForInterFreqMeasList(ctx, &pvalue->cellsForInterFreqMeasList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "CellUpdateConfirm-r3-IEs");
    }
-   /* cSGInterFreqCellInfoList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "cSGInterFreqCellInfoList");
+   /* new-U-RNTI */
+   if (present & ((uint32_t)1 << 19)) {
       pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_CSGInterFreqCellInfoList(ctx, &pvalue->cSGInterFreqCellInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "CellUpdateConfirm-r3-IEs");
    }
-   /* interFreqSIAcquisition */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interFreqSIAcquisition");
+   /* new-C-RNTI */
+   if (present & ((uint32_t)1 << 18)) {
       pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_InterFreqSIAcquisition(ctx, &pvalue->interFreqSIAcquisition);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "CellUpdateConfirm-r3-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r3-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint32_t)1 << 17)) {
+      pvalue->m |= 0x20u;
+      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* rlc-Re-establishIndicatorRb2-3or4 */
+   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb2_3or4);
+   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb2-3or4", -1, "CellUpdateConfirm-r3-IEs");
+   /* rlc-Re-establishIndicatorRb5orAbove */
+   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb5orAbove);
+   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb5orAbove", -1, "CellUpdateConfirm-r3-IEs");
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* rb-InformationReleaseList */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* rb-InformationReconfigList */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_RB_InformationReconfigList(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_RB_InformationAffectedList(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* modeSpecificTransChInfo */
+   stat = asn1PD_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo(ctx, &pvalue->modeSpecificTransChInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificTransChInfo", -1, "CellUpdateConfirm-r3-IEs");
+   /* dl-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x8000u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_DL_DeletedTransChInfoList(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x80000u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* ul-ChannelRequirement */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x100000u;
+      stat = asn1PD_UMTS_UL_ChannelRequirement(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* modeSpecificPhysChInfo */
+   stat = asn1PD_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "CellUpdateConfirm-r3-IEs");
+   /* dl-CommonInformation */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x200000u;
+      stat = asn1PD_UMTS_DL_CommonInformation(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x400000u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "CellUpdateConfirm-r3-IEs");
+   }
    return 0;
 }
 
-int asn1PD_UMTS_InterFreqCellList_LCR_r4_ext(rtxContext* ctx, InterFreqCellList_LCR_r4_ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "InterFreqCellList-LCR-r4-ext");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      InterFreqCell_LCR_r4* elem;
-      rtxCtxtPushArrayElemName(ctx, "InterFreqCell-LCR-r4", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(InterFreqCell_LCR_r4));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (InterFreqCell_LCR_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_InterFreqCell_LCR_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_InterFreqCell_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqCellMeasuredResultsList(rtxContext* ctx, InterFreqCellMeasuredResultsList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "InterFreqCellMeasuredResultsList");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CellMeasuredResults* elem;
-      rtxCtxtPushArrayElemName(ctx, "CellMeasuredResults", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellMeasuredResults));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (CellMeasuredResults*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CellMeasuredResults(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CellMeasuredResults(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqCellMeasuredResultsList_v920ext(rtxContext* ctx, InterFreqCellMeasuredResultsList_v920ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "InterFreqCellMeasuredResultsList-v920ext");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CellMeasuredResults_v920ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "CellMeasuredResults-v920ext", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellMeasuredResults_v920ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (CellMeasuredResults_v920ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CellMeasuredResults_v920ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CellMeasuredResults_v920ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqEvent(rtxContext* ctx, InterFreqEvent* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "InterFreqEvent");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 5);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "event2a");
-         pvalue->u.event2a = (Event2a*)rtxMemHeapAlloc(ctx, sizeof(Event2a));
-         if (pvalue->u.event2a == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_Event2a(pvalue->u.event2a);
-         stat = asn1PD_UMTS_Event2a(ctx, pvalue->u.event2a);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "event2b");
-         pvalue->u.event2b = (Event2b*)rtxMemHeapAlloc(ctx, sizeof(Event2b));
-         if (pvalue->u.event2b == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_Event2b(pvalue->u.event2b);
-         stat = asn1PD_UMTS_Event2b(ctx, pvalue->u.event2b);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "event2c");
-         pvalue->u.event2c = (Event2c*)rtxMemHeapAlloc(ctx, sizeof(Event2c));
-         if (pvalue->u.event2c == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_Event2c(pvalue->u.event2c);
-         stat = asn1PD_UMTS_Event2c(ctx, pvalue->u.event2c);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "event2d");
-         pvalue->u.event2d = (Event2d*)rtxMemHeapAlloc(ctx, sizeof(Event2d));
-         if (pvalue->u.event2d == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_Event2d(pvalue->u.event2d);
-         stat = asn1PD_UMTS_Event2d(ctx, pvalue->u.event2d);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "event2e");
-         pvalue->u.event2e = (Event2e*)rtxMemHeapAlloc(ctx, sizeof(Event2e));
-         if (pvalue->u.event2e == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_Event2e(pvalue->u.event2e);
-         stat = asn1PD_UMTS_Event2e(ctx, pvalue->u.event2e);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "event2f");
-         pvalue->u.event2f = (Event2f*)rtxMemHeapAlloc(ctx, sizeof(Event2f));
-         if (pvalue->u.event2f == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_Event2f(pvalue->u.event2f);
-         stat = asn1PD_UMTS_Event2f(ctx, pvalue->u.event2f);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqEvent_r6(rtxContext* ctx, InterFreqEvent_r6* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "InterFreqEvent-r6");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 5);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "event2a");
-         pvalue->u.event2a = (Event2a_r6*)rtxMemHeapAlloc(ctx, sizeof(Event2a_r6));
-         if (pvalue->u.event2a == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_Event2a_r6(pvalue->u.event2a);
-         stat = asn1PD_UMTS_Event2a_r6(ctx, pvalue->u.event2a);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "event2b");
-         pvalue->u.event2b = (Event2b_r6*)rtxMemHeapAlloc(ctx, sizeof(Event2b_r6));
-         if (pvalue->u.event2b == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_Event2b_r6(pvalue->u.event2b);
-         stat = asn1PD_UMTS_Event2b_r6(ctx, pvalue->u.event2b);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "event2c");
-         pvalue->u.event2c = (Event2c_r6*)rtxMemHeapAlloc(ctx, sizeof(Event2c_r6));
-         if (pvalue->u.event2c == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_Event2c_r6(pvalue->u.event2c);
-         stat = asn1PD_UMTS_Event2c_r6(ctx, pvalue->u.event2c);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "event2d");
-         pvalue->u.event2d = (Event2d_r6*)rtxMemHeapAlloc(ctx, sizeof(Event2d_r6));
-         if (pvalue->u.event2d == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_Event2d_r6(pvalue->u.event2d);
-         stat = asn1PD_UMTS_Event2d_r6(ctx, pvalue->u.event2d);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "event2e");
-         pvalue->u.event2e = (Event2e_r6*)rtxMemHeapAlloc(ctx, sizeof(Event2e_r6));
-         if (pvalue->u.event2e == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_Event2e_r6(pvalue->u.event2e);
-         stat = asn1PD_UMTS_Event2e_r6(ctx, pvalue->u.event2e);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "event2f");
-         pvalue->u.event2f = (Event2f_r6*)rtxMemHeapAlloc(ctx, sizeof(Event2f_r6));
-         if (pvalue->u.event2f == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_Event2f_r6(pvalue->u.event2f);
-         stat = asn1PD_UMTS_Event2f_r6(ctx, pvalue->u.event2f);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqEventList(rtxContext* ctx, InterFreqEventList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "InterFreqEventList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      InterFreqEvent* elem;
-      rtxCtxtPushArrayElemName(ctx, "InterFreqEvent", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(InterFreqEvent));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (InterFreqEvent*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_InterFreqEvent(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_InterFreqEvent(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqEventList_r6(rtxContext* ctx, InterFreqEventList_r6* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "InterFreqEventList-r6");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      InterFreqEvent_r6* elem;
-      rtxCtxtPushArrayElemName(ctx, "InterFreqEvent-r6", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(InterFreqEvent_r6));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (InterFreqEvent_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_InterFreqEvent_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_InterFreqEvent_r6(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFrequencyMeasuredResultsList_v590ext(rtxContext* ctx, InterFrequencyMeasuredResultsList_v590ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "InterFrequencyMeasuredResultsList-v590ext");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DeltaRSCPPerCell* elem;
-      rtxCtxtPushArrayElemName(ctx, "DeltaRSCPPerCell", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DeltaRSCPPerCell));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (DeltaRSCPPerCell*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DeltaRSCPPerCell(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DeltaRSCPPerCell(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ThreholdNonUsedFrequency_deltaList(rtxContext* ctx, ThreholdNonUsedFrequency_deltaList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "ThreholdNonUsedFrequency-deltaList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DeltaRSCPPerCell* elem;
-      rtxCtxtPushArrayElemName(ctx, "DeltaRSCPPerCell", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DeltaRSCPPerCell));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (DeltaRSCPPerCell*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DeltaRSCPPerCell(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DeltaRSCPPerCell(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Inter_FreqEventCriteria_v590ext(rtxContext* ctx, Inter_FreqEventCriteria_v590ext* pvalue)
+int asn1PD_UMTS_CellUpdateConfirm_v3a0ext(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v3a0ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "Inter-FreqEventCriteria-v590ext");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* threholdUsedFrequency-delta */
-   rtxCtxtPushElemName(ctx, "threholdUsedFrequency-delta");
-   rtxCtxtPushTypeName(ctx, "DeltaRSCP");
-   stat = pd_ConsInt8(ctx, &pvalue->threholdUsedFrequency_delta, -5, -1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* threholdNonUsedFrequency-deltaList */
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v3a0ext");
+   /* new-DSCH-RNTI */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "threholdNonUsedFrequency-deltaList");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ThreholdNonUsedFrequency_deltaList(ctx, &pvalue->threholdNonUsedFrequency_deltaList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "CellUpdateConfirm-v3a0ext");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_Inter_FreqEventCriteriaList_v590ext(rtxContext* ctx, Inter_FreqEventCriteriaList_v590ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "Inter-FreqEventCriteriaList-v590ext");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      Inter_FreqEventCriteria_v590ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "Inter-FreqEventCriteria-v590ext", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Inter_FreqEventCriteria_v590ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (Inter_FreqEventCriteria_v590ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_Inter_FreqEventCriteria_v590ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_Inter_FreqEventCriteria_v590ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFrequencyMeasuredResultsList_v590ext(rtxContext* ctx, IntraFrequencyMeasuredResultsList_v590ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "IntraFrequencyMeasuredResultsList-v590ext");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DeltaRSCPPerCell* elem;
-      rtxCtxtPushArrayElemName(ctx, "DeltaRSCPPerCell", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DeltaRSCPPerCell));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (DeltaRSCPPerCell*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DeltaRSCPPerCell(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DeltaRSCPPerCell(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqEventResults_LCR_r4_ext(rtxContext* ctx, InterFreqEventResults_LCR_r4_ext* pvalue)
+int asn1PD_UMTS_CellUpdateConfirm_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v4b0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterFreqEventResults-LCR-r4-ext");
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v4b0ext-IEs");
+   /* dummy */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->dummy, 0, 1);
+      RT_CHECK(ctx, stat, "SSDT-UL", "dummy", -1, "CellUpdateConfirm-v4b0ext-IEs");
+   }
+   /* cell-id-PerRL-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CellIdentity_PerRL_List(ctx, &pvalue->cell_id_PerRL_List);
+      RT_CHECK(ctx, stat, 0, "cell-id-PerRL-List", -1, "CellUpdateConfirm-v4b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_v590ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* eventID */
-   rtxCtxtPushElemName(ctx, "eventID");
-   rtxCtxtPushTypeName(ctx, "EventIDInterFreq");
-   stat = pd_ConsUnsigned(ctx, &pvalue->eventID, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* interFreqCellList */
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v590ext-IEs");
+   /* dl-TPC-PowerOffsetPerRL-List */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interFreqCellList");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqCellList_LCR_r4_ext(ctx, &pvalue->interFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_DL_TPC_PowerOffsetPerRL_List(ctx, &pvalue->dl_TPC_PowerOffsetPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-TPC-PowerOffsetPerRL-List", -1, "CellUpdateConfirm-v590ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria(rtxContext* ctx, InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria* pvalue)
+int asn1PD_UMTS_CellUpdateConfirm_v5d0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v5d0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   /* intraFreqMeasQuantity */
-   rtxCtxtPushElemName(ctx, "intraFreqMeasQuantity");
-   stat = asn1PD_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v5d0ext-IEs");
+   /* pdcp-ROHC-TargetMode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
+      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "CellUpdateConfirm-v5d0ext-IEs");
+   }
    return 0;
 }
 
-int asn1PD_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_fdd(rtxContext* ctx, InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_fdd* pvalue)
+int asn1PD_UMTS_CellUpdateConfirm_v690ext_IEs_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v690ext_IEs_postVerificationPeriod* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   /* freqQualityEstimateQuantity-FDD */
-   rtxCtxtPushElemName(ctx, "freqQualityEstimateQuantity-FDD");
-   rtxCtxtPushTypeName(ctx, "FreqQualityEstimateQuantity-FDD");
-   stat = pd_ConsUnsigned(ctx, &pvalue->freqQualityEstimateQuantity_FDD, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_tdd(rtxContext* ctx, InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   /* freqQualityEstimateQuantity-TDD */
-   rtxCtxtPushElemName(ctx, "freqQualityEstimateQuantity-TDD");
-   rtxCtxtPushTypeName(ctx, "FreqQualityEstimateQuantity-TDD");
+   int stat;
    {
       uint32_t ui;
       stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
       stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      pvalue->freqQualityEstimateQuantity_TDD = ui;
-   }
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo(rtxContext* ctx, InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
    }
    return 0;
 }
 
-int asn1PD_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria(rtxContext* ctx, InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria* pvalue)
+int asn1PD_UMTS_CellUpdateConfirm_v690ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v690ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* filterCoefficient */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "filterCoefficient");
-      rtxCtxtPushTypeName(ctx, "FilterCoefficient");
-      stat = pd_ConsUnsigned(ctx, &pvalue->filterCoefficient, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->filterCoefficient = 0;
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqMeasQuantity_reportingCriteria(rtxContext* ctx, InterFreqMeasQuantity_reportingCriteria* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "intraFreqReportingCriteria");
-         pvalue->u.intraFreqReportingCriteria = (InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria));
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria(pvalue->u.intraFreqReportingCriteria);
-         stat = asn1PD_UMTS_InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "interFreqReportingCriteria");
-         pvalue->u.interFreqReportingCriteria = (InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria));
-         if (pvalue->u.interFreqReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria(pvalue->u.interFreqReportingCriteria);
-         stat = asn1PD_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria(ctx, pvalue->u.interFreqReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqMeasQuantity(rtxContext* ctx, InterFreqMeasQuantity* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "InterFreqMeasQuantity");
-   /* reportingCriteria */
-   rtxCtxtPushElemName(ctx, "reportingCriteria");
-   stat = asn1PD_UMTS_InterFreqMeasQuantity_reportingCriteria(ctx, &pvalue->reportingCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UTRA_CarrierRSSI(rtxContext* ctx, UTRA_CarrierRSSI* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "UTRA-CarrierRSSI");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqMeasuredResults(rtxContext* ctx, InterFreqMeasuredResults* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterFreqMeasuredResults");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* utra-CarrierRSSI */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "utra-CarrierRSSI");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "UTRA-CarrierRSSI");
-      stat = pd_ConsUInt8(ctx, &pvalue->utra_CarrierRSSI, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interFreqCellMeasuredResultsList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interFreqCellMeasuredResultsList");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_InterFreqCellMeasuredResultsList(ctx, &pvalue->interFreqCellMeasuredResultsList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqMeasuredResults_v920ext(rtxContext* ctx, InterFreqMeasuredResults_v920ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterFreqMeasuredResults-v920ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellMeasuredResultsList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interFreqCellMeasuredResultsList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqCellMeasuredResultsList_v920ext(ctx, &pvalue->interFreqCellMeasuredResultsList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqMeasuredResultsList(rtxContext* ctx, InterFreqMeasuredResultsList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "InterFreqMeasuredResultsList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      InterFreqMeasuredResults* elem;
-      rtxCtxtPushArrayElemName(ctx, "InterFreqMeasuredResults", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(InterFreqMeasuredResults));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (InterFreqMeasuredResults*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_InterFreqMeasuredResults(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_InterFreqMeasuredResults(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqMeasuredResultsList_v920ext(rtxContext* ctx, InterFreqMeasuredResultsList_v920ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "InterFreqMeasuredResultsList-v920ext");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      InterFreqMeasuredResults_v920ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "InterFreqMeasuredResults-v920ext", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(InterFreqMeasuredResults_v920ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (InterFreqMeasuredResults_v920ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_InterFreqMeasuredResults_v920ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_InterFreqMeasuredResults_v920ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqRACHRepCellsList(rtxContext* ctx, InterFreqRACHRepCellsList* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "InterFreqRACHRepCellsList");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 7) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "InterFreqCellID", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "InterFreqCellID");
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 31);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqReportingCriteria(rtxContext* ctx, InterFreqReportingCriteria* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterFreqReportingCriteria");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* interFreqEventList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interFreqEventList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqEventList(ctx, &pvalue->interFreqEventList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PeriodicalWithReportingCellStatus(rtxContext* ctx, PeriodicalWithReportingCellStatus* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PeriodicalWithReportingCellStatus");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* periodicalReportingCriteria */
-   rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-   stat = asn1PD_UMTS_PeriodicalReportingCriteria(ctx, &pvalue->periodicalReportingCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ReportingCellStatusOpt(rtxContext* ctx, ReportingCellStatusOpt* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "ReportingCellStatusOpt");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqReportCriteria(rtxContext* ctx, InterFreqReportCriteria* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "InterFreqReportCriteria");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "intraFreqReportingCriteria");
-         pvalue->u.intraFreqReportingCriteria = (IntraFreqReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingCriteria));
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_IntraFreqReportingCriteria(pvalue->u.intraFreqReportingCriteria);
-         stat = asn1PD_UMTS_IntraFreqReportingCriteria(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "interFreqReportingCriteria");
-         pvalue->u.interFreqReportingCriteria = (InterFreqReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(InterFreqReportingCriteria));
-         if (pvalue->u.interFreqReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterFreqReportingCriteria(pvalue->u.interFreqReportingCriteria);
-         stat = asn1PD_UMTS_InterFreqReportingCriteria(ctx, pvalue->u.interFreqReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-         pvalue->u.periodicalReportingCriteria = (PeriodicalWithReportingCellStatus*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalWithReportingCellStatus));
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PeriodicalWithReportingCellStatus(pvalue->u.periodicalReportingCriteria);
-         stat = asn1PD_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "noReporting");
-         pvalue->u.noReporting = (ReportingCellStatusOpt*)rtxMemHeapAlloc(ctx, sizeof(ReportingCellStatusOpt));
-         if (pvalue->u.noReporting == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_ReportingCellStatusOpt(pvalue->u.noReporting);
-         stat = asn1PD_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEvent_r4(rtxContext* ctx, IntraFreqEvent_r4* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "IntraFreqEvent-r4");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 8);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "e1a");
-         pvalue->u.e1a = (Event1a_r4*)rtxMemHeapAlloc(ctx, sizeof(Event1a_r4));
-         if (pvalue->u.e1a == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_Event1a_r4(pvalue->u.e1a);
-         stat = asn1PD_UMTS_Event1a_r4(ctx, pvalue->u.e1a);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "e1b");
-         pvalue->u.e1b = (Event1b_r4*)rtxMemHeapAlloc(ctx, sizeof(Event1b_r4));
-         if (pvalue->u.e1b == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_Event1b_r4(pvalue->u.e1b);
-         stat = asn1PD_UMTS_Event1b_r4(ctx, pvalue->u.e1b);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "e1c");
-         pvalue->u.e1c = (Event1c*)rtxMemHeapAllocZ(ctx, sizeof(Event1c));
-         if (pvalue->u.e1c == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_Event1c(ctx, pvalue->u.e1c);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "e1d");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "e1e");
-         pvalue->u.e1e = (Event1e*)rtxMemHeapAllocZ(ctx, sizeof(Event1e));
-         if (pvalue->u.e1e == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_Event1e(ctx, pvalue->u.e1e);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "e1f");
-         pvalue->u.e1f = (Event1f*)rtxMemHeapAllocZ(ctx, sizeof(Event1f));
-         if (pvalue->u.e1f == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_Event1f(ctx, pvalue->u.e1f);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "e1g");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "e1h");
-         rtxCtxtPushTypeName(ctx, "ThresholdUsedFrequency");
-         stat = pd_ConsInt16(ctx, &pvalue->u.e1h, -115, 165);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 8:
-         rtxCtxtPushElemName(ctx, "e1i");
-         rtxCtxtPushTypeName(ctx, "ThresholdUsedFrequency");
-         stat = pd_ConsInt16(ctx, &pvalue->u.e1i, -115, 165);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEventCriteria_r4(rtxContext* ctx, IntraFreqEventCriteria_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFreqEventCriteria-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* event */
-   rtxCtxtPushElemName(ctx, "event");
-   stat = asn1PD_UMTS_IntraFreqEvent_r4(ctx, &pvalue->event);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "Hysteresis");
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEventCriteriaList_r4(rtxContext* ctx, IntraFreqEventCriteriaList_r4* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "IntraFreqEventCriteriaList-r4");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      IntraFreqEventCriteria_r4* elem;
-      rtxCtxtPushArrayElemName(ctx, "IntraFreqEventCriteria-r4", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(IntraFreqEventCriteria_r4));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (IntraFreqEventCriteria_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_IntraFreqEventCriteria_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_IntraFreqEventCriteria_r4(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqReportingCriteria_r4(rtxContext* ctx, IntraFreqReportingCriteria_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFreqReportingCriteria-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* eventCriteriaList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "eventCriteriaList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqEventCriteriaList_r4(ctx, &pvalue->eventCriteriaList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqReportCriteria_r4(rtxContext* ctx, InterFreqReportCriteria_r4* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "InterFreqReportCriteria-r4");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "intraFreqReportingCriteria");
-         pvalue->u.intraFreqReportingCriteria = (IntraFreqReportingCriteria_r4*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingCriteria_r4));
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_IntraFreqReportingCriteria_r4(pvalue->u.intraFreqReportingCriteria);
-         stat = asn1PD_UMTS_IntraFreqReportingCriteria_r4(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "interFreqReportingCriteria");
-         pvalue->u.interFreqReportingCriteria = (InterFreqReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(InterFreqReportingCriteria));
-         if (pvalue->u.interFreqReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterFreqReportingCriteria(pvalue->u.interFreqReportingCriteria);
-         stat = asn1PD_UMTS_InterFreqReportingCriteria(ctx, pvalue->u.interFreqReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-         pvalue->u.periodicalReportingCriteria = (PeriodicalWithReportingCellStatus*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalWithReportingCellStatus));
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PeriodicalWithReportingCellStatus(pvalue->u.periodicalReportingCriteria);
-         stat = asn1PD_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "noReporting");
-         pvalue->u.noReporting = (ReportingCellStatusOpt*)rtxMemHeapAlloc(ctx, sizeof(ReportingCellStatusOpt));
-         if (pvalue->u.noReporting == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_ReportingCellStatusOpt(pvalue->u.noReporting);
-         stat = asn1PD_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEvent_r6(rtxContext* ctx, IntraFreqEvent_r6* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "IntraFreqEvent-r6");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 9);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "e1a");
-         pvalue->u.e1a = (Event1a_r4*)rtxMemHeapAlloc(ctx, sizeof(Event1a_r4));
-         if (pvalue->u.e1a == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_Event1a_r4(pvalue->u.e1a);
-         stat = asn1PD_UMTS_Event1a_r4(ctx, pvalue->u.e1a);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "e1b");
-         pvalue->u.e1b = (Event1b_r4*)rtxMemHeapAlloc(ctx, sizeof(Event1b_r4));
-         if (pvalue->u.e1b == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_Event1b_r4(pvalue->u.e1b);
-         stat = asn1PD_UMTS_Event1b_r4(ctx, pvalue->u.e1b);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "e1c");
-         pvalue->u.e1c = (Event1c*)rtxMemHeapAllocZ(ctx, sizeof(Event1c));
-         if (pvalue->u.e1c == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_Event1c(ctx, pvalue->u.e1c);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "e1d");
-         pvalue->u.e1d = (Event1d*)rtxMemHeapAlloc(ctx, sizeof(Event1d));
-         if (pvalue->u.e1d == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_Event1d(pvalue->u.e1d);
-         stat = asn1PD_UMTS_Event1d(ctx, pvalue->u.e1d);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "e1e");
-         pvalue->u.e1e = (Event1e_r6*)rtxMemHeapAllocZ(ctx, sizeof(Event1e_r6));
-         if (pvalue->u.e1e == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_Event1e_r6(ctx, pvalue->u.e1e);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "e1f");
-         pvalue->u.e1f = (Event1f_r6*)rtxMemHeapAllocZ(ctx, sizeof(Event1f_r6));
-         if (pvalue->u.e1f == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_Event1f_r6(ctx, pvalue->u.e1f);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "e1g");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "e1h");
-         rtxCtxtPushTypeName(ctx, "ThresholdUsedFrequency-r6");
-         stat = pd_ConsInt16(ctx, &pvalue->u.e1h, -120, 165);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 8:
-         rtxCtxtPushElemName(ctx, "e1i");
-         rtxCtxtPushTypeName(ctx, "ThresholdUsedFrequency-r6");
-         stat = pd_ConsInt16(ctx, &pvalue->u.e1i, -120, 165);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 9:
-         rtxCtxtPushElemName(ctx, "e1j");
-         pvalue->u.e1j = (Event1j_r6*)rtxMemHeapAllocZ(ctx, sizeof(Event1j_r6));
-         if (pvalue->u.e1j == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_Event1j_r6(ctx, pvalue->u.e1j);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEventCriteria_r6(rtxContext* ctx, IntraFreqEventCriteria_r6* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFreqEventCriteria-r6");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* event */
-   rtxCtxtPushElemName(ctx, "event");
-   stat = asn1PD_UMTS_IntraFreqEvent_r6(ctx, &pvalue->event);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "Hysteresis");
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEventCriteriaList_r6(rtxContext* ctx, IntraFreqEventCriteriaList_r6* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "IntraFreqEventCriteriaList-r6");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      IntraFreqEventCriteria_r6* elem;
-      rtxCtxtPushArrayElemName(ctx, "IntraFreqEventCriteria-r6", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(IntraFreqEventCriteria_r6));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (IntraFreqEventCriteria_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_IntraFreqEventCriteria_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_IntraFreqEventCriteria_r6(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqReportingCriteria_r6(rtxContext* ctx, IntraFreqReportingCriteria_r6* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFreqReportingCriteria-r6");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* eventCriteriaList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "eventCriteriaList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqEventCriteriaList_r6(ctx, &pvalue->eventCriteriaList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqReportingCriteria_r6(rtxContext* ctx, InterFreqReportingCriteria_r6* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterFreqReportingCriteria-r6");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* interFreqEventList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interFreqEventList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqEventList_r6(ctx, &pvalue->interFreqEventList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqReportCriteria_r6(rtxContext* ctx, InterFreqReportCriteria_r6* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "InterFreqReportCriteria-r6");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "intraFreqReportingCriteria");
-         pvalue->u.intraFreqReportingCriteria = (IntraFreqReportingCriteria_r6*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingCriteria_r6));
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_IntraFreqReportingCriteria_r6(pvalue->u.intraFreqReportingCriteria);
-         stat = asn1PD_UMTS_IntraFreqReportingCriteria_r6(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "interFreqReportingCriteria");
-         pvalue->u.interFreqReportingCriteria = (InterFreqReportingCriteria_r6*)rtxMemHeapAlloc(ctx, sizeof(InterFreqReportingCriteria_r6));
-         if (pvalue->u.interFreqReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterFreqReportingCriteria_r6(pvalue->u.interFreqReportingCriteria);
-         stat = asn1PD_UMTS_InterFreqReportingCriteria_r6(ctx, pvalue->u.interFreqReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-         pvalue->u.periodicalReportingCriteria = (PeriodicalWithReportingCellStatus*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalWithReportingCellStatus));
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PeriodicalWithReportingCellStatus(pvalue->u.periodicalReportingCriteria);
-         stat = asn1PD_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "noReporting");
-         pvalue->u.noReporting = (ReportingCellStatusOpt*)rtxMemHeapAlloc(ctx, sizeof(ReportingCellStatusOpt));
-         if (pvalue->u.noReporting == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_ReportingCellStatusOpt(pvalue->u.noReporting);
-         stat = asn1PD_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEvent_r7(rtxContext* ctx, IntraFreqEvent_r7* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "IntraFreqEvent-r7");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 9);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "e1a");
-         pvalue->u.e1a = (Event1a_r4*)rtxMemHeapAlloc(ctx, sizeof(Event1a_r4));
-         if (pvalue->u.e1a == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_Event1a_r4(pvalue->u.e1a);
-         stat = asn1PD_UMTS_Event1a_r4(ctx, pvalue->u.e1a);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "e1b");
-         pvalue->u.e1b = (Event1b_r7*)rtxMemHeapAlloc(ctx, sizeof(Event1b_r7));
-         if (pvalue->u.e1b == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_Event1b_r7(pvalue->u.e1b);
-         stat = asn1PD_UMTS_Event1b_r7(ctx, pvalue->u.e1b);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "e1c");
-         pvalue->u.e1c = (Event1c*)rtxMemHeapAllocZ(ctx, sizeof(Event1c));
-         if (pvalue->u.e1c == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_Event1c(ctx, pvalue->u.e1c);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "e1d");
-         pvalue->u.e1d = (Event1d*)rtxMemHeapAlloc(ctx, sizeof(Event1d));
-         if (pvalue->u.e1d == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_Event1d(pvalue->u.e1d);
-         stat = asn1PD_UMTS_Event1d(ctx, pvalue->u.e1d);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "e1e");
-         pvalue->u.e1e = (Event1e_r6*)rtxMemHeapAllocZ(ctx, sizeof(Event1e_r6));
-         if (pvalue->u.e1e == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_Event1e_r6(ctx, pvalue->u.e1e);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "e1f");
-         pvalue->u.e1f = (Event1f_r6*)rtxMemHeapAllocZ(ctx, sizeof(Event1f_r6));
-         if (pvalue->u.e1f == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_Event1f_r6(ctx, pvalue->u.e1f);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "e1g");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "e1h");
-         rtxCtxtPushTypeName(ctx, "ThresholdUsedFrequency-r6");
-         stat = pd_ConsInt16(ctx, &pvalue->u.e1h, -120, 165);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 8:
-         rtxCtxtPushElemName(ctx, "e1i");
-         rtxCtxtPushTypeName(ctx, "ThresholdUsedFrequency-r6");
-         stat = pd_ConsInt16(ctx, &pvalue->u.e1i, -120, 165);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 9:
-         rtxCtxtPushElemName(ctx, "e1j");
-         pvalue->u.e1j = (Event1j_r6*)rtxMemHeapAllocZ(ctx, sizeof(Event1j_r6));
-         if (pvalue->u.e1j == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_Event1j_r6(ctx, pvalue->u.e1j);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEventCriteria_r7(rtxContext* ctx, IntraFreqEventCriteria_r7* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFreqEventCriteria-r7");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* event */
-   rtxCtxtPushElemName(ctx, "event");
-   stat = asn1PD_UMTS_IntraFreqEvent_r7(ctx, &pvalue->event);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "Hysteresis");
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEventCriteriaList_r7(rtxContext* ctx, IntraFreqEventCriteriaList_r7* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "IntraFreqEventCriteriaList-r7");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      IntraFreqEventCriteria_r7* elem;
-      rtxCtxtPushArrayElemName(ctx, "IntraFreqEventCriteria-r7", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(IntraFreqEventCriteria_r7));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (IntraFreqEventCriteria_r7*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_IntraFreqEventCriteria_r7(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_IntraFreqEventCriteria_r7(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqReportingCriteria_r7(rtxContext* ctx, IntraFreqReportingCriteria_r7* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFreqReportingCriteria-r7");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* eventCriteriaList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "eventCriteriaList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqEventCriteriaList_r7(ctx, &pvalue->eventCriteriaList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqReportCriteria_r7(rtxContext* ctx, InterFreqReportCriteria_r7* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "InterFreqReportCriteria-r7");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "intraFreqReportingCriteria");
-         pvalue->u.intraFreqReportingCriteria = (IntraFreqReportingCriteria_r7*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingCriteria_r7));
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_IntraFreqReportingCriteria_r7(pvalue->u.intraFreqReportingCriteria);
-         stat = asn1PD_UMTS_IntraFreqReportingCriteria_r7(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "interFreqReportingCriteria");
-         pvalue->u.interFreqReportingCriteria = (InterFreqReportingCriteria_r6*)rtxMemHeapAlloc(ctx, sizeof(InterFreqReportingCriteria_r6));
-         if (pvalue->u.interFreqReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterFreqReportingCriteria_r6(pvalue->u.interFreqReportingCriteria);
-         stat = asn1PD_UMTS_InterFreqReportingCriteria_r6(ctx, pvalue->u.interFreqReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-         pvalue->u.periodicalReportingCriteria = (PeriodicalWithReportingCellStatus*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalWithReportingCellStatus));
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PeriodicalWithReportingCellStatus(pvalue->u.periodicalReportingCriteria);
-         stat = asn1PD_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "noReporting");
-         pvalue->u.noReporting = (ReportingCellStatusOpt*)rtxMemHeapAlloc(ctx, sizeof(ReportingCellStatusOpt));
-         if (pvalue->u.noReporting == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_ReportingCellStatusOpt(pvalue->u.noReporting);
-         stat = asn1PD_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEventOnSecULFreq(rtxContext* ctx, IntraFreqEventOnSecULFreq* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "IntraFreqEventOnSecULFreq");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 4);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "e1a");
-         pvalue->u.e1a = (Event1a_OnSecUlFreq_r9*)rtxMemHeapAlloc(ctx, sizeof(Event1a_OnSecUlFreq_r9));
-         if (pvalue->u.e1a == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_Event1a_OnSecUlFreq_r9(pvalue->u.e1a);
-         stat = asn1PD_UMTS_Event1a_OnSecUlFreq_r9(ctx, pvalue->u.e1a);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "e1b");
-         pvalue->u.e1b = (Event1b_OnSecUlFreq_r9*)rtxMemHeapAlloc(ctx, sizeof(Event1b_OnSecUlFreq_r9));
-         if (pvalue->u.e1b == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_Event1b_OnSecUlFreq_r9(pvalue->u.e1b);
-         stat = asn1PD_UMTS_Event1b_OnSecUlFreq_r9(ctx, pvalue->u.e1b);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "e1c");
-         pvalue->u.e1c = (Event1c*)rtxMemHeapAllocZ(ctx, sizeof(Event1c));
-         if (pvalue->u.e1c == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_Event1c(ctx, pvalue->u.e1c);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "e1e");
-         pvalue->u.e1e = (Event1e_r6*)rtxMemHeapAllocZ(ctx, sizeof(Event1e_r6));
-         if (pvalue->u.e1e == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_Event1e_r6(ctx, pvalue->u.e1e);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "e1f");
-         pvalue->u.e1f = (Event1f_r6*)rtxMemHeapAllocZ(ctx, sizeof(Event1f_r6));
-         if (pvalue->u.e1f == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_Event1f_r6(ctx, pvalue->u.e1f);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEventCriteriaOnSecULFreq(rtxContext* ctx, IntraFreqEventCriteriaOnSecULFreq* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFreqEventCriteriaOnSecULFreq");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* event */
-   rtxCtxtPushElemName(ctx, "event");
-   stat = asn1PD_UMTS_IntraFreqEventOnSecULFreq(ctx, &pvalue->event);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "Hysteresis");
-   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEventCriteriaListOnSecULFreq_intraFreqEventCriteria(rtxContext* ctx, IntraFreqEventCriteriaListOnSecULFreq_intraFreqEventCriteria* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      IntraFreqEventCriteriaOnSecULFreq* elem;
-      rtxCtxtPushArrayElemName(ctx, "IntraFreqEventCriteriaOnSecULFreq", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(IntraFreqEventCriteriaOnSecULFreq));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (IntraFreqEventCriteriaOnSecULFreq*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_IntraFreqEventCriteriaOnSecULFreq(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_IntraFreqEventCriteriaOnSecULFreq(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqEventCriteriaListOnSecULFreq(rtxContext* ctx, IntraFreqEventCriteriaListOnSecULFreq* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "IntraFreqEventCriteriaListOnSecULFreq");
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* intraFreqEventCriteria */
-   rtxCtxtPushElemName(ctx, "intraFreqEventCriteria");
-   stat = asn1PD_UMTS_IntraFreqEventCriteriaListOnSecULFreq_intraFreqEventCriteria(ctx, &pvalue->intraFreqEventCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqReportingCriteria_r9(rtxContext* ctx, IntraFreqReportingCriteria_r9* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFreqReportingCriteria-r9");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* eventCriteriaList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "eventCriteriaList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqEventCriteriaList_r7(ctx, &pvalue->eventCriteriaList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* eventCriteriaListOnSecULFreq */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "eventCriteriaListOnSecULFreq");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_IntraFreqEventCriteriaListOnSecULFreq(ctx, &pvalue->eventCriteriaListOnSecULFreq);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqReportCriteria_r9(rtxContext* ctx, InterFreqReportCriteria_r9* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "InterFreqReportCriteria-r9");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "intraFreqReportingCriteria");
-         pvalue->u.intraFreqReportingCriteria = (IntraFreqReportingCriteria_r9*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingCriteria_r9));
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_IntraFreqReportingCriteria_r9(pvalue->u.intraFreqReportingCriteria);
-         stat = asn1PD_UMTS_IntraFreqReportingCriteria_r9(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "interFreqReportingCriteria");
-         pvalue->u.interFreqReportingCriteria = (InterFreqReportingCriteria_r6*)rtxMemHeapAlloc(ctx, sizeof(InterFreqReportingCriteria_r6));
-         if (pvalue->u.interFreqReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterFreqReportingCriteria_r6(pvalue->u.interFreqReportingCriteria);
-         stat = asn1PD_UMTS_InterFreqReportingCriteria_r6(ctx, pvalue->u.interFreqReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-         pvalue->u.periodicalReportingCriteria = (PeriodicalWithReportingCellStatus*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalWithReportingCellStatus));
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PeriodicalWithReportingCellStatus(pvalue->u.periodicalReportingCriteria);
-         stat = asn1PD_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "noReporting");
-         pvalue->u.noReporting = (ReportingCellStatusOpt*)rtxMemHeapAlloc(ctx, sizeof(ReportingCellStatusOpt));
-         if (pvalue->u.noReporting == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_ReportingCellStatusOpt(pvalue->u.noReporting);
-         stat = asn1PD_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFreqReportingQuantity(rtxContext* ctx, InterFreqReportingQuantity* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "InterFreqReportingQuantity");
-   /* utra-Carrier-RSSI */
-   rtxCtxtPushElemName(ctx, "utra-Carrier-RSSI");
-   stat = rtxDecBitInline(ctx, &pvalue->utra_Carrier_RSSI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyQualityEstimate */
-   rtxCtxtPushElemName(ctx, "frequencyQualityEstimate");
-   stat = rtxDecBitInline(ctx, &pvalue->frequencyQualityEstimate);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonFreqRelatedQuantities */
-   rtxCtxtPushElemName(ctx, "nonFreqRelatedQuantities");
-   stat = asn1PD_UMTS_CellReportingQuantities(ctx, &pvalue->nonFreqRelatedQuantities);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RL_AdditionInfoList(rtxContext* ctx, RL_AdditionInfoList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "RL-AdditionInfoList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PrimaryCPICH_Info* elem;
-      rtxCtxtPushArrayElemName(ctx, "PrimaryCPICH-Info", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PrimaryCPICH_Info));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (PrimaryCPICH_Info*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RL_InformationLists(rtxContext* ctx, RL_InformationLists* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RL-InformationLists");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* rl-AdditionInfoList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "rl-AdditionInfoList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RL_AdditionInfoList(ctx, &pvalue->rl_AdditionInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rL-RemovalInformationList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "rL-RemovalInformationList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RL_RemovalInformationList(ctx, &pvalue->rL_RemovalInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_AutonomousUpdateMode(rtxContext* ctx, UE_AutonomousUpdateMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "UE-AutonomousUpdateMode");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "dummy");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "onWithNoReporting");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "dummy2");
-         pvalue->u.dummy2 = (RL_InformationLists*)rtxMemHeapAlloc(ctx, sizeof(RL_InformationLists));
-         if (pvalue->u.dummy2 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RL_InformationLists(pvalue->u.dummy2);
-         stat = asn1PD_UMTS_RL_InformationLists(ctx, pvalue->u.dummy2);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFrequencyMeasurement(rtxContext* ctx, InterFrequencyMeasurement* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterFrequencyMeasurement");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellInfoList */
-   rtxCtxtPushElemName(ctx, "interFreqCellInfoList");
-   stat = asn1PD_UMTS_InterFreqCellInfoList(ctx, &pvalue->interFreqCellInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* interFreqMeasQuantity */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "interFreqMeasQuantity");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interFreqReportingQuantity */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "interFreqReportingQuantity");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementValidity */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "measurementValidity");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interFreqSetUpdate */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interFreqSetUpdate");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PD_UMTS_InterFreqReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFrequencyMeasurement_r4(rtxContext* ctx, InterFrequencyMeasurement_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterFrequencyMeasurement-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellInfoList */
-   rtxCtxtPushElemName(ctx, "interFreqCellInfoList");
-   stat = asn1PD_UMTS_InterFreqCellInfoList_r4(ctx, &pvalue->interFreqCellInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* interFreqMeasQuantity */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "interFreqMeasQuantity");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interFreqReportingQuantity */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "interFreqReportingQuantity");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementValidity */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "measurementValidity");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interFreqSetUpdate */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interFreqSetUpdate");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PD_UMTS_InterFreqReportCriteria_r4(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFrequencyMeasurement_r6(rtxContext* ctx, InterFrequencyMeasurement_r6* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterFrequencyMeasurement-r6");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellInfoList */
-   rtxCtxtPushElemName(ctx, "interFreqCellInfoList");
-   stat = asn1PD_UMTS_InterFreqCellInfoList_r4(ctx, &pvalue->interFreqCellInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* interFreqMeasQuantity */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "interFreqMeasQuantity");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interFreqReportingQuantity */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "interFreqReportingQuantity");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementValidity */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "measurementValidity");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interFreqSetUpdate */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interFreqSetUpdate");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PD_UMTS_InterFreqReportCriteria_r6(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFrequencyMeasurement_r7(rtxContext* ctx, InterFrequencyMeasurement_r7* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterFrequencyMeasurement-r7");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellInfoList */
-   rtxCtxtPushElemName(ctx, "interFreqCellInfoList");
-   stat = asn1PD_UMTS_InterFreqCellInfoList_r4(ctx, &pvalue->interFreqCellInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* interFreqMeasQuantity */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "interFreqMeasQuantity");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interFreqReportingQuantity */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "interFreqReportingQuantity");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementValidity */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "measurementValidity");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interFreqSetUpdate */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interFreqSetUpdate");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PD_UMTS_InterFreqReportCriteria_r7(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFrequencyMeasurement_r8(rtxContext* ctx, InterFrequencyMeasurement_r8* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterFrequencyMeasurement-r8");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellInfoList */
-   rtxCtxtPushElemName(ctx, "interFreqCellInfoList");
-   stat = asn1PD_UMTS_InterFreqCellInfoList_r8(ctx, &pvalue->interFreqCellInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* interFreqMeasQuantity */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "interFreqMeasQuantity");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interFreqReportingQuantity */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "interFreqReportingQuantity");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementValidity */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "measurementValidity");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interFreqSetUpdate */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "interFreqSetUpdate");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* adjacentFrequencyIndex */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "adjacentFrequencyIndex");
-      pvalue->m |= 0x10u;
-      stat = pd_ConsUInt8(ctx, &pvalue->adjacentFrequencyIndex, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PD_UMTS_InterFreqReportCriteria_r7(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterFrequencyMeasurement_r9(rtxContext* ctx, InterFrequencyMeasurement_r9* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterFrequencyMeasurement-r9");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellInfoList */
-   rtxCtxtPushElemName(ctx, "interFreqCellInfoList");
-   stat = asn1PD_UMTS_InterFreqCellInfoList_r9(ctx, &pvalue->interFreqCellInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* interFreqMeasQuantity */
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v690ext-IEs");
+   /* primary-plmn-Identity */
    if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "interFreqMeasQuantity");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
+      RT_CHECK(ctx, stat, 0, "primary-plmn-Identity", -1, "CellUpdateConfirm-v690ext-IEs");
    }
-   /* interFreqReportingQuantity */
+   /* harq-Preamble-Mode */
    if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "interFreqReportingQuantity");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUInt8(ctx, &pvalue->harq_Preamble_Mode, 0, 1);
+      RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "CellUpdateConfirm-v690ext-IEs");
    }
-   /* measurementValidity */
+   /* beaconPLEst */
    if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "measurementValidity");
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "CellUpdateConfirm-v690ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "CellUpdateConfirm-v690ext-IEs");
+         pvalue->beaconPLEst = ui;
+      }
    }
-   /* interFreqSetUpdate */
+   /* postVerificationPeriod */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "interFreqSetUpdate");
       pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "CellUpdateConfirm-v690ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "CellUpdateConfirm-v690ext-IEs");
+         pvalue->postVerificationPeriod = ui;
+      }
    }
-   /* adjacentFrequencyIndex */
+   /* dhs-sync */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "adjacentFrequencyIndex");
       pvalue->m |= 0x10u;
-      stat = pd_ConsUInt8(ctx, &pvalue->adjacentFrequencyIndex, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsInt8(ctx, &pvalue->dhs_sync, -20, 10);
+      RT_CHECK(ctx, stat, "DHS-Sync", "dhs-sync", -1, "CellUpdateConfirm-v690ext-IEs");
    }
-   /* interBandFrequencyIndex */
+   /* mbms-PL-ServiceRestrictInfo */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interBandFrequencyIndex");
       pvalue->m |= 0x20u;
-      stat = pd_ConsUInt8(ctx, &pvalue->interBandFrequencyIndex, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-v690ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-v690ext-IEs");
+         pvalue->mbms_PL_ServiceRestrictInfo = ui;
+      }
    }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PD_UMTS_InterFreqReportCriteria_r9(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_NC_Mode(rtxContext* ctx, NC_Mode* pvalue)
+int asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
-   int stat;
-   rtxCtxtPushTypeName(ctx, "NC-Mode");
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pd_BitString32(ctx, pvalue, 3, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   int stat = 0;
    return 0;
 }
 
-int asn1PD_UMTS_InterRAT_TargetCellDescription_technologySpecificInfo_gsm(rtxContext* ctx, InterRAT_TargetCellDescription_technologySpecificInfo_gsm* pvalue)
+int asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* bsic */
-   rtxCtxtPushElemName(ctx, "bsic");
-   stat = asn1PD_UMTS_BSIC(ctx, &pvalue->bsic);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v690ext */
+   stat = asn1PD_UMTS_CellUpdateConfirm_v690ext_IEs(ctx, &pvalue->cellUpdateConfirm_v690ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v690ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v5d0ext */
+   stat = asn1PD_UMTS_CellUpdateConfirm_v5d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v5d0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v5d0ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v590ext */
+   stat = asn1PD_UMTS_CellUpdateConfirm_v590ext_IEs(ctx, &pvalue->cellUpdateConfirm_v590ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v590ext", -1, 0);
+   /* v5d0NonCriticalExtenstions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
+      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v4b0ext */
+   stat = asn1PD_UMTS_CellUpdateConfirm_v4b0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v4b0ext", -1, 0);
+   /* v590NonCriticalExtenstions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions(ctx, &pvalue->v590NonCriticalExtenstions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtenstions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->cellUpdateConfirm_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r3-add-ext", -1, 0);
+   }
+   /* v4b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v3a0ext */
+   stat = asn1PD_UMTS_CellUpdateConfirm_v3a0ext(ctx, &pvalue->cellUpdateConfirm_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v3a0ext", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r3(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r3 */
+   stat = asn1PD_UMTS_CellUpdateConfirm_r3_IEs(ctx, &pvalue->cellUpdateConfirm_r3);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r3", -1, 0);
+   /* v3a0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo_fdd(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->dummy, 1, 16);
+      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy", -1, 0);
+   }
+   /* dummy2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r4_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r4_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 24);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-r4-IEs");
+   /* integrityProtectionModeInfo */
+   if (present & ((uint32_t)1 << 23)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint32_t)1 << 22)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint32_t)1 << 21)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* new-U-RNTI */
+   if (present & ((uint32_t)1 << 20)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint32_t)1 << 19)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint32_t)1 << 18)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r4-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint32_t)1 << 17)) {
+      pvalue->m |= 0x40u;
+      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* rlc-Re-establishIndicatorRb2-3or4 */
+   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb2_3or4);
+   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb2-3or4", -1, "CellUpdateConfirm-r4-IEs");
+   /* rlc-Re-establishIndicatorRb5orAbove */
+   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb5orAbove);
+   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb5orAbove", -1, "CellUpdateConfirm-r4-IEs");
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* rb-InformationReleaseList */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* rb-InformationReconfigList */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_RB_InformationReconfigList_r4(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_RB_InformationAffectedList(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x8000u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* modeSpecificTransChInfo */
+   stat = asn1PD_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo(ctx, &pvalue->modeSpecificTransChInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificTransChInfo", -1, "CellUpdateConfirm-r4-IEs");
+   /* dl-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_DL_DeletedTransChInfoList(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r4(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x100000u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* ul-ChannelRequirement */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x200000u;
+      stat = asn1PD_UMTS_UL_ChannelRequirement_r4(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* modeSpecificPhysChInfo */
+   stat = asn1PD_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "CellUpdateConfirm-r4-IEs");
+   /* dl-CommonInformation */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x400000u;
+      stat = asn1PD_UMTS_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x800000u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r4(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v690ext */
+   stat = asn1PD_UMTS_CellUpdateConfirm_v690ext_IEs(ctx, &pvalue->cellUpdateConfirm_v690ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v690ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v5d0ext */
+   stat = asn1PD_UMTS_CellUpdateConfirm_v5d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v5d0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v5d0ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v590ext */
+   stat = asn1PD_UMTS_CellUpdateConfirm_v590ext_IEs(ctx, &pvalue->cellUpdateConfirm_v590ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v590ext", -1, 0);
+   /* v5d0NonCriticalExtenstions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
+      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r4-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->cellUpdateConfirm_r4_add_ext);
+      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r4-add-ext", -1, 0);
+   }
+   /* v590NonCriticalExtenstions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions(ctx, &pvalue->v590NonCriticalExtenstions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtenstions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r4 */
+   stat = asn1PD_UMTS_CellUpdateConfirm_r4_IEs(ctx, &pvalue->cellUpdateConfirm_r4);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r4", -1, 0);
+   /* v4d0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo_fdd(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->dummy, 1, 16);
+      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy", -1, 0);
+   }
+   /* dummy2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r5_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r5_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 26);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-r5-IEs");
+   /* integrityProtectionModeInfo */
+   if (present & ((uint32_t)1 << 25)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint32_t)1 << 24)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint32_t)1 << 23)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* new-U-RNTI */
+   if (present & ((uint32_t)1 << 22)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint32_t)1 << 21)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint32_t)1 << 20)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* new-H-RNTI */
+   if (present & ((uint32_t)1 << 19)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r5-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint32_t)1 << 18)) {
+      pvalue->m |= 0x80u;
+      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* rlc-Re-establishIndicatorRb2-3or4 */
+   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb2_3or4);
+   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb2-3or4", -1, "CellUpdateConfirm-r5-IEs");
+   /* rlc-Re-establishIndicatorRb5orAbove */
+   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb5orAbove);
+   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb5orAbove", -1, "CellUpdateConfirm-r5-IEs");
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 17)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* rb-InformationReleaseList */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* rb-InformationReconfigList */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_RB_InformationReconfigList_r5(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_RB_InformationAffectedList_r5(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x8000u;
+      stat = asn1PD_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* modeSpecificTransChInfo */
+   stat = asn1PD_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo(ctx, &pvalue->modeSpecificTransChInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificTransChInfo", -1, "CellUpdateConfirm-r5-IEs");
+   /* dl-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r5(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x100000u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x200000u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* ul-ChannelRequirement */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x400000u;
+      stat = asn1PD_UMTS_UL_ChannelRequirement_r5(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* modeSpecificPhysChInfo */
+   stat = asn1PD_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "CellUpdateConfirm-r5-IEs");
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x800000u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* dl-CommonInformation */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1000000u;
+      stat = asn1PD_UMTS_DL_CommonInformation_r5(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2000000u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r5(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v690ext */
+   stat = asn1PD_UMTS_CellUpdateConfirm_v690ext_IEs(ctx, &pvalue->cellUpdateConfirm_v690ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v690ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v5d0ext */
+   stat = asn1PD_UMTS_CellUpdateConfirm_v5d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v5d0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v5d0ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r5 */
+   stat = asn1PD_UMTS_CellUpdateConfirm_r5_IEs(ctx, &pvalue->cellUpdateConfirm_r5);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r5", -1, 0);
+   /* cellUpdateConfirm-r5-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->cellUpdateConfirm_r5_add_ext);
+      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r5-add-ext", -1, 0);
+   }
+   /* v5d0NonCriticalExtenstions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
+      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r6_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r6_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 31);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-r6-IEs");
+   /* integrityProtectionModeInfo */
+   if (present & ((uint32_t)1 << 30)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint32_t)1 << 29)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint32_t)1 << 28)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* new-U-RNTI */
+   if (present & ((uint32_t)1 << 27)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint32_t)1 << 26)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint32_t)1 << 25)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* new-H-RNTI */
+   if (present & ((uint32_t)1 << 24)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (present & ((uint32_t)1 << 23)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint32_t)1 << 22)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r6-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint32_t)1 << 21)) {
+      pvalue->m |= 0x200u;
+      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* rlc-Re-establishIndicatorRb2-3or4 */
+   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb2_3or4);
+   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb2-3or4", -1, "CellUpdateConfirm-r6-IEs");
+   /* rlc-Re-establishIndicatorRb5orAbove */
+   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb5orAbove);
+   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb5orAbove", -1, "CellUpdateConfirm-r6-IEs");
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 20)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint32_t)1 << 19)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* rb-InformationReleaseList */
+   if (present & ((uint32_t)1 << 18)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* rb-InformationReconfigList */
+   if (present & ((uint32_t)1 << 17)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_RB_InformationReconfigList_r6(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_RB_InformationAffectedList_r6(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x8000u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* pdcp-ROHC-TargetMode */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x10000u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
+      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r6(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x100000u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x200000u;
+      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r5(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x400000u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x800000u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x1000000u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x2000000u;
+      stat = asn1PD_UMTS_UL_DPCH_Info_r6(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x4000000u;
+      stat = asn1PD_UMTS_UL_EDCH_Information_r6(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x8000000u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r6(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* dl-CommonInformation */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x10000000u;
+      stat = asn1PD_UMTS_DL_CommonInformation_r6(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x20000000u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r6(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x40000000u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-r6-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-r6-IEs");
+         pvalue->mbms_PL_ServiceRestrictInfo = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v6b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v6b0ext-IEs");
+   /* dl-InformationPerRL-List-v6b0ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_v6b0ext(ctx, &pvalue->dl_InformationPerRL_List_v6b0ext);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List-v6b0ext", -1, "CellUpdateConfirm-v6b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v6b0ext */
+   stat = asn1PD_UMTS_CellUpdateConfirm_v6b0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v6b0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r6 */
+   stat = asn1PD_UMTS_CellUpdateConfirm_r6_IEs(ctx, &pvalue->cellUpdateConfirm_r6);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r6", -1, 0);
+   /* cellUpdateConfirm-r6-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->cellUpdateConfirm_r6_add_ext);
+      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r6-add-ext", -1, 0);
+   }
+   /* v6b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r7_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r7_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint64_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   {
+      uint32_t hi, lo;
+      stat = rtxDecBitsFast(ctx, &hi, 6);
+      RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-r7-IEs");
+      stat = rtxDecBitsFast(ctx, &lo, 32);
+      RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-r7-IEs");
+      present = ((uint64_t)hi << 32) | lo;
+   }
+   /* integrityProtectionModeInfo */
+   if (present & ((uint64_t)1 << 37)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint64_t)1 << 36)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint64_t)1 << 35)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* new-U-RNTI */
+   if (present & ((uint64_t)1 << 34)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint64_t)1 << 33)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint64_t)1 << 32)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* new-H-RNTI */
+   if (present & ((uint64_t)1 << 31)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (present & ((uint64_t)1 << 30)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint64_t)1 << 29)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r7-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint64_t)1 << 28)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* waitTime */
+   if (present & ((uint64_t)1 << 27)) {
+      pvalue->m |= 0x400u;
+      stat = pd_ConsUInt8(ctx, &pvalue->waitTime, 0, 15);
+      RT_CHECK(ctx, stat, "WaitTime", "waitTime", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* rlc-Re-establishIndicatorRb2-3or4 */
+   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb2_3or4);
+   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb2-3or4", -1, "CellUpdateConfirm-r7-IEs");
+   /* rlc-Re-establishIndicatorRb5orAbove */
+   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb5orAbove);
+   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb5orAbove", -1, "CellUpdateConfirm-r7-IEs");
+   /* cn-InformationInfo */
+   if (present & ((uint64_t)1 << 26)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint64_t)1 << 25)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   if (present & ((uint64_t)1 << 24)) {
+      pvalue->m |= 0x2000u;
+      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* rb-InformationReleaseList */
+   if (present & ((uint64_t)1 << 23)) {
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* rb-InformationReconfigList */
+   if (present & ((uint64_t)1 << 22)) {
+      pvalue->m |= 0x8000u;
+      stat = asn1PD_UMTS_RB_InformationReconfigList_r7(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (present & ((uint64_t)1 << 21)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_RB_InformationAffectedList_r7(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint64_t)1 << 20)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* pdcp-ROHC-TargetMode */
+   if (present & ((uint64_t)1 << 19)) {
+      pvalue->m |= 0x40000u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
+      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint64_t)1 << 18)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (present & ((uint64_t)1 << 17)) {
+      pvalue->m |= 0x100000u;
+      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint64_t)1 << 16)) {
+      pvalue->m |= 0x200000u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r7(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint64_t)1 << 15)) {
+      pvalue->m |= 0x400000u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (present & ((uint64_t)1 << 14)) {
+      pvalue->m |= 0x800000u;
+      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint64_t)1 << 13)) {
+      pvalue->m |= 0x1000000u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint64_t)1 << 12)) {
+      pvalue->m |= 0x2000000u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (present & ((uint64_t)1 << 11)) {
+      pvalue->m |= 0x4000000u;
+      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (present & ((uint64_t)1 << 10)) {
+      pvalue->m |= 0x8000000u;
+      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* dtx-drx-Info */
+   if (present & ((uint64_t)1 << 9)) {
+      pvalue->m |= 0x10000000u;
+      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (present & ((uint64_t)1 << 8)) {
+      pvalue->m |= 0x20000000u;
+      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* mimoParameters */
+   if (present & ((uint64_t)1 << 7)) {
+      pvalue->m |= 0x40000000u;
+      stat = asn1PD_UMTS_MIMO_Parameters_r7(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint64_t)1 << 6)) {
+      pvalue->m |= 0x80000000u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (present & ((uint64_t)1 << 5)) {
+      pvalue->m |= 0x100000000ull;
+      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (present & ((uint64_t)1 << 4)) {
+      pvalue->m |= 0x200000000ull;
+      stat = asn1PD_UMTS_UL_EDCH_Information_r7(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint64_t)1 << 3)) {
+      pvalue->m |= 0x400000000ull;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* dl-CommonInformation */
+   if (present & ((uint64_t)1 << 2)) {
+      pvalue->m |= 0x800000000ull;
+      stat = asn1PD_UMTS_DL_CommonInformation_r7(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint64_t)1 << 1)) {
+      pvalue->m |= 0x1000000000ull;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (present & ((uint64_t)1 << 0)) {
+      pvalue->m |= 0x2000000000ull;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-r7-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-r7-IEs");
+         pvalue->mbms_PL_ServiceRestrictInfo = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_v7d0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v7d0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v7d0ext-IEs");
+   /* ul-EDCH-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UL_EDCH_Information_ext(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "CellUpdateConfirm-v7d0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_v7f0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v7f0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v7f0ext-IEs");
+   /* mimoParameters */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MIMO_Parameters_v7f0ext(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "CellUpdateConfirm-v7f0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v7g0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v7g0ext-IEs");
+   /* mimoParameters */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MIMO_Parameters_v7g0ext(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "CellUpdateConfirm-v7g0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v7g0ext */
+   stat = asn1PD_UMTS_CellUpdateConfirm_v7g0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7g0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v7g0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v7f0ext */
+   stat = asn1PD_UMTS_CellUpdateConfirm_v7f0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v7f0ext", -1, 0);
+   /* v7g0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r7_add_ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r7_add_ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-r7-add-ext-IEs");
+   /* cellUpdateConfirm-v7d0ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_v7d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7d0ext);
+      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v7d0ext", -1, "CellUpdateConfirm-r7-add-ext-IEs");
+   }
+   /* v7f0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, "CellUpdateConfirm-r7-add-ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_v780ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v780ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v780ext-IEs");
+   /* hs-DSCH-TBSizeTable */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "CellUpdateConfirm-v780ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "CellUpdateConfirm-v780ext-IEs");
+         pvalue->hs_DSCH_TBSizeTable = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_v860ext_IEs_rab_InformationSetup(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v860ext_IEs_rab_InformationSetup* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rab-InformationSetup-r7 */
+   stat = asn1PD_UMTS_RAB_InformationSetup_r7(ctx, &pvalue->rab_InformationSetup_r7);
+   RT_CHECK(ctx, stat, 0, "rab-InformationSetup-r7", -1, 0);
+   /* rab-InformationSetup-v820ext */
+   stat = asn1PD_UMTS_RAB_InformationSetup_v820ext(ctx, &pvalue->rab_InformationSetup_v820ext);
+   RT_CHECK(ctx, stat, 0, "rab-InformationSetup-v820ext", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_v860ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v860ext-IEs");
+   /* rab-InformationSetup */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_v860ext_IEs_rab_InformationSetup(ctx, &pvalue->rab_InformationSetup);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetup", -1, "CellUpdateConfirm-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v860ext */
+   stat = asn1PD_UMTS_CellUpdateConfirm_v860ext_IEs(ctx, &pvalue->cellUpdateConfirm_v860ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v780ext */
+   stat = asn1PD_UMTS_CellUpdateConfirm_v780ext_IEs(ctx, &pvalue->cellUpdateConfirm_v780ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v780ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r7 */
+   stat = asn1PD_UMTS_CellUpdateConfirm_r7_IEs(ctx, &pvalue->cellUpdateConfirm_r7);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r7", -1, 0);
+   /* cellUpdateConfirm-r7-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      {
+         rtxDynBitStr carrier;
+         rtxContext outer;
+         stat = pd_DynBitString(ctx, &carrier);
+         RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r7-add-ext", -1, 0);
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_CellUpdateConfirm_r7_add_ext_IEs(ctx, &pvalue->cellUpdateConfirm_r7_add_ext);
+            RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r7-add-ext", -1, 0);
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+      }
+   }
+   /* v780NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v780NonCriticalExtensions", -1, 0);
+   }
+   return stat;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r8_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r8_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint64_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   {
+      uint32_t hi, lo;
+      stat = rtxDecBitsFast(ctx, &hi, 11);
+      RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-r8-IEs");
+      stat = rtxDecBitsFast(ctx, &lo, 32);
+      RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-r8-IEs");
+      present = ((uint64_t)hi << 32) | lo;
+   }
+   /* integrityProtectionModeInfo */
+   if (present & ((uint64_t)1 << 42)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint64_t)1 << 41)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint64_t)1 << 40)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* new-U-RNTI */
+   if (present & ((uint64_t)1 << 39)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint64_t)1 << 38)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint64_t)1 << 37)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* new-H-RNTI */
+   if (present & ((uint64_t)1 << 36)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (present & ((uint64_t)1 << 35)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint64_t)1 << 34)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r8-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint64_t)1 << 33)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* waitTime */
+   if (present & ((uint64_t)1 << 32)) {
+      pvalue->m |= 0x400u;
+      stat = pd_ConsUInt8(ctx, &pvalue->waitTime, 0, 15);
+      RT_CHECK(ctx, stat, "WaitTime", "waitTime", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* rlc-Re-establishIndicatorRb2-3or4 */
+   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb2_3or4);
+   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb2-3or4", -1, "CellUpdateConfirm-r8-IEs");
+   /* rlc-Re-establishIndicatorRb5orAbove */
+   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb5orAbove);
+   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb5orAbove", -1, "CellUpdateConfirm-r8-IEs");
+   /* cn-InformationInfo */
+   if (present & ((uint64_t)1 << 31)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint64_t)1 << 30)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   if (present & ((uint64_t)1 << 29)) {
+      pvalue->m |= 0x2000u;
+      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* defaultConfigForCellFACH */
+   if (present & ((uint64_t)1 << 28)) {
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_DefaultConfigForCellFACH(ctx, &pvalue->defaultConfigForCellFACH);
+      RT_CHECK(ctx, stat, 0, "defaultConfigForCellFACH", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* rab-InformationSetup */
+   if (present & ((uint64_t)1 << 27)) {
+      pvalue->m |= 0x8000u;
+      stat = asn1PD_UMTS_RAB_InformationSetup_r8(ctx, &pvalue->rab_InformationSetup);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetup", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* rb-InformationReleaseList */
+   if (present & ((uint64_t)1 << 26)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* rb-InformationReconfigList */
+   if (present & ((uint64_t)1 << 25)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_RB_InformationReconfigList_r8(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (present & ((uint64_t)1 << 24)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_RB_InformationAffectedList_r8(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint64_t)1 << 23)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* pdcp-ROHC-TargetMode */
+   if (present & ((uint64_t)1 << 22)) {
+      pvalue->m |= 0x100000u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
+      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint64_t)1 << 21)) {
+      pvalue->m |= 0x200000u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (present & ((uint64_t)1 << 20)) {
+      pvalue->m |= 0x400000u;
+      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint64_t)1 << 19)) {
+      pvalue->m |= 0x800000u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint64_t)1 << 18)) {
+      pvalue->m |= 0x1000000u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (present & ((uint64_t)1 << 17)) {
+      pvalue->m |= 0x2000000u;
+      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint64_t)1 << 16)) {
+      pvalue->m |= 0x4000000u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint64_t)1 << 15)) {
+      pvalue->m |= 0x8000000u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (present & ((uint64_t)1 << 14)) {
+      pvalue->m |= 0x10000000u;
+      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (present & ((uint64_t)1 << 13)) {
+      pvalue->m |= 0x20000000u;
+      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* dtx-drx-Info */
+   if (present & ((uint64_t)1 << 12)) {
+      pvalue->m |= 0x40000000u;
+      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (present & ((uint64_t)1 << 11)) {
+      pvalue->m |= 0x80000000u;
+      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* mimoParameters */
+   if (present & ((uint64_t)1 << 10)) {
+      pvalue->m |= 0x100000000ull;
+      stat = asn1PD_UMTS_MIMO_Parameters_r8(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint64_t)1 << 9)) {
+      pvalue->m |= 0x200000000ull;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (present & ((uint64_t)1 << 8)) {
+      pvalue->m |= 0x400000000ull;
+      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (present & ((uint64_t)1 << 7)) {
+      pvalue->m |= 0x800000000ull;
+      stat = asn1PD_UMTS_UL_EDCH_Information_r8(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint64_t)1 << 6)) {
+      pvalue->m |= 0x1000000000ull;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* dl-CommonInformation */
+   if (present & ((uint64_t)1 << 5)) {
+      pvalue->m |= 0x2000000000ull;
+      stat = asn1PD_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint64_t)1 << 4)) {
+      pvalue->m |= 0x4000000000ull;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* dl-SecondaryCellInfoFDD */
+   if (present & ((uint64_t)1 << 3)) {
+      pvalue->m |= 0x8000000000ull;
+      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD(ctx, &pvalue->dl_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* controlChannelDRXInfo-TDD128 */
+   if (present & ((uint64_t)1 << 2)) {
+      pvalue->m |= 0x10000000000ull;
+      stat = asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
+      RT_CHECK(ctx, stat, 0, "controlChannelDRXInfo-TDD128", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* sps-Information-TDD128 */
+   if (present & ((uint64_t)1 << 1)) {
+      pvalue->m |= 0x20000000000ull;
+      stat = asn1PD_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
+      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (present & ((uint64_t)1 << 0)) {
+      pvalue->m |= 0x40000000000ull;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-r8-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-r8-IEs");
+         pvalue->mbms_PL_ServiceRestrictInfo = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_v890ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v890ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v890ext-IEs");
+   /* dl-SecondaryCellInfoFDD-v890ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_v890ext(ctx, &pvalue->dl_SecondaryCellInfoFDD_v890ext);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD-v890ext", -1, "CellUpdateConfirm-v890ext-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "CellUpdateConfirm-v890ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_v8a0ext_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v8a0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v8a0ext-IEs");
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext2(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "CellUpdateConfirm-v8a0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v8a0ext */
+   stat = asn1PD_UMTS_CellUpdateConfirm_v8a0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v8a0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v8a0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v7g0ext */
+   stat = asn1PD_UMTS_CellUpdateConfirm_v7g0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7g0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v7g0ext", -1, 0);
+   /* v8a0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v8a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v890ext */
+   stat = asn1PD_UMTS_CellUpdateConfirm_v890ext_IEs(ctx, &pvalue->cellUpdateConfirm_v890ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v890ext", -1, 0);
+   /* v7g0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v7f0ext */
+   stat = asn1PD_UMTS_CellUpdateConfirm_v7f0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v7f0ext", -1, 0);
+   /* v890NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v7d0ext */
+   stat = asn1PD_UMTS_CellUpdateConfirm_v7d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7d0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v7d0ext", -1, 0);
+   /* v7f0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r8 */
+   stat = asn1PD_UMTS_CellUpdateConfirm_r8_IEs(ctx, &pvalue->cellUpdateConfirm_r8);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r8", -1, 0);
+   /* cellUpdateConfirm-r8-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->cellUpdateConfirm_r8_add_ext);
+      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r8-add-ext", -1, 0);
+   }
+   /* v7d0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_r9_IEs(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_r9_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint64_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   {
+      uint32_t hi, lo;
+      stat = rtxDecBitsFast(ctx, &hi, 13);
+      RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-r9-IEs");
+      stat = rtxDecBitsFast(ctx, &lo, 32);
+      RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-r9-IEs");
+      present = ((uint64_t)hi << 32) | lo;
+   }
+   /* integrityProtectionModeInfo */
+   if (present & ((uint64_t)1 << 44)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint64_t)1 << 43)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint64_t)1 << 42)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* new-U-RNTI */
+   if (present & ((uint64_t)1 << 41)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint64_t)1 << 40)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint64_t)1 << 39)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* new-H-RNTI */
+   if (present & ((uint64_t)1 << 38)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (present & ((uint64_t)1 << 37)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint64_t)1 << 36)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r9-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint64_t)1 << 35)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* waitTime */
+   if (present & ((uint64_t)1 << 34)) {
+      pvalue->m |= 0x400u;
+      stat = pd_ConsUInt8(ctx, &pvalue->waitTime, 0, 15);
+      RT_CHECK(ctx, stat, "WaitTime", "waitTime", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* rlc-Re-establishIndicatorRb2-3or4 */
+   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb2_3or4);
+   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb2-3or4", -1, "CellUpdateConfirm-r9-IEs");
+   /* rlc-Re-establishIndicatorRb5orAbove */
+   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb5orAbove);
+   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb5orAbove", -1, "CellUpdateConfirm-r9-IEs");
+   /* cn-InformationInfo */
+   if (present & ((uint64_t)1 << 33)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint64_t)1 << 32)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   if (present & ((uint64_t)1 << 31)) {
+      pvalue->m |= 0x2000u;
+      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* defaultConfigForCellFACH */
+   if (present & ((uint64_t)1 << 30)) {
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_DefaultConfigForCellFACH(ctx, &pvalue->defaultConfigForCellFACH);
+      RT_CHECK(ctx, stat, 0, "defaultConfigForCellFACH", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* rab-InformationSetup */
+   if (present & ((uint64_t)1 << 29)) {
+      pvalue->m |= 0x8000u;
+      stat = asn1PD_UMTS_RAB_InformationSetup_r8(ctx, &pvalue->rab_InformationSetup);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetup", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* rb-InformationReleaseList */
+   if (present & ((uint64_t)1 << 28)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* rb-InformationReconfigList */
+   if (present & ((uint64_t)1 << 27)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_RB_InformationReconfigList_r8(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (present & ((uint64_t)1 << 26)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_RB_InformationAffectedList_r8(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint64_t)1 << 25)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* pdcp-ROHC-TargetMode */
+   if (present & ((uint64_t)1 << 24)) {
+      pvalue->m |= 0x100000u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
+      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint64_t)1 << 23)) {
+      pvalue->m |= 0x200000u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (present & ((uint64_t)1 << 22)) {
+      pvalue->m |= 0x400000u;
+      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint64_t)1 << 21)) {
+      pvalue->m |= 0x800000u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint64_t)1 << 20)) {
+      pvalue->m |= 0x1000000u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (present & ((uint64_t)1 << 19)) {
+      pvalue->m |= 0x2000000u;
+      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint64_t)1 << 18)) {
+      pvalue->m |= 0x4000000u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r9(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint64_t)1 << 17)) {
+      pvalue->m |= 0x8000000u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (present & ((uint64_t)1 << 16)) {
+      pvalue->m |= 0x10000000u;
+      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (present & ((uint64_t)1 << 15)) {
+      pvalue->m |= 0x20000000u;
+      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* dtx-drx-Info */
+   if (present & ((uint64_t)1 << 14)) {
+      pvalue->m |= 0x40000000u;
+      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (present & ((uint64_t)1 << 13)) {
+      pvalue->m |= 0x80000000u;
+      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* mimoParameters */
+   if (present & ((uint64_t)1 << 12)) {
+      pvalue->m |= 0x100000000ull;
+      stat = asn1PD_UMTS_MIMO_Parameters_r9(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint64_t)1 << 11)) {
+      pvalue->m |= 0x200000000ull;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (present & ((uint64_t)1 << 10)) {
+      pvalue->m |= 0x400000000ull;
+      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (present & ((uint64_t)1 << 9)) {
+      pvalue->m |= 0x800000000ull;
+      stat = asn1PD_UMTS_UL_EDCH_Information_r9(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* ul-SecondaryCellInfoFDD */
+   if (present & ((uint64_t)1 << 8)) {
+      pvalue->m |= 0x1000000000ull;
+      stat = asn1PD_UMTS_UL_SecondaryCellInfoFDD(ctx, &pvalue->ul_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "ul-SecondaryCellInfoFDD", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint64_t)1 << 7)) {
+      pvalue->m |= 0x2000000000ull;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* dl-CommonInformation */
+   if (present & ((uint64_t)1 << 6)) {
+      pvalue->m |= 0x4000000000ull;
+      stat = asn1PD_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint64_t)1 << 5)) {
+      pvalue->m |= 0x8000000000ull;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* dl-SecondaryCellInfoFDD */
+   if (present & ((uint64_t)1 << 4)) {
+      pvalue->m |= 0x10000000000ull;
+      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_r9(ctx, &pvalue->dl_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* controlChannelDRXInfo-TDD128 */
+   if (present & ((uint64_t)1 << 3)) {
+      pvalue->m |= 0x20000000000ull;
+      stat = asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
+      RT_CHECK(ctx, stat, 0, "controlChannelDRXInfo-TDD128", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* sps-Information-TDD128 */
+   if (present & ((uint64_t)1 << 2)) {
+      pvalue->m |= 0x40000000000ull;
+      stat = asn1PD_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
+      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (present & ((uint64_t)1 << 1)) {
+      pvalue->m |= 0x80000000000ull;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-r9-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-r9-IEs");
+         pvalue->mbms_PL_ServiceRestrictInfo = ui;
+      }
+   }
+   /* cellDCHMeasOccasionInfo-TDD128 */
+   if (present & ((uint64_t)1 << 0)) {
+      pvalue->m |= 0x100000000000ull;
+      stat = asn1PD_UMTS_CellDCHMeasOccasionInfo_TDD128_r9(ctx, &pvalue->cellDCHMeasOccasionInfo_TDD128);
+      RT_CHECK(ctx, stat, 0, "cellDCHMeasOccasionInfo-TDD128", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r9 */
+   stat = asn1PD_UMTS_CellUpdateConfirm_r9_IEs(ctx, &pvalue->cellUpdateConfirm_r9);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r9", -1, 0);
+   /* cellUpdateConfirm-r9-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->cellUpdateConfirm_r9_add_ext);
+      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r9-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r9 */
+         pvalue->u.r9 = (CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9));
+         if (pvalue->u.r9 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r9", -1, 0);
+         asn1Init_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(pvalue->u.r9);
+         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
+         RT_CHECK(ctx, stat, 0, "r9", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r8 */
+         pvalue->u.r8 = (CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8));
+         if (pvalue->u.r8 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r8", -1, 0);
+         asn1Init_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(pvalue->u.r8);
+         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
+         RT_CHECK(ctx, stat, 0, "r8", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r7 */
+         pvalue->u.r7 = (CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7));
+         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r7", -1, 0);
+         asn1Init_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(pvalue->u.r7);
+         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
+         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r6 */
+         pvalue->u.r6 = (CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6));
+         if (pvalue->u.r6 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r6", -1, 0);
+         asn1Init_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(pvalue->u.r6);
+         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(ctx, pvalue->u.r6);
+         RT_CHECK(ctx, stat, 0, "r6", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r5 */
+         pvalue->u.r5 = (CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5));
+         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r5", -1, 0);
+         asn1Init_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5(pvalue->u.r5);
+         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5(ctx, pvalue->u.r5);
+         RT_CHECK(ctx, stat, 0, "r5", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r4 */
+         pvalue->u.r4 = (CellUpdateConfirm_later_than_r3_criticalExtensions_r4*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_later_than_r3_criticalExtensions_r4));
+         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r4", -1, 0);
+         asn1Init_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4(pvalue->u.r4);
+         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
+         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_later_than_r3(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r3 */
+         pvalue->u.r3 = (CellUpdateConfirm_r3*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_r3));
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "CellUpdateConfirm");
+         asn1Init_UMTS_CellUpdateConfirm_r3(pvalue->u.r3);
+         stat = asn1PD_UMTS_CellUpdateConfirm_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "CellUpdateConfirm");
+         break;
+      case 1: /* later-than-r3 */
+         pvalue->u.later_than_r3 = (CellUpdateConfirm_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_later_than_r3));
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "CellUpdateConfirm");
+         asn1Init_UMTS_CellUpdateConfirm_later_than_r3(pvalue->u.later_than_r3);
+         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "CellUpdateConfirm");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CellUpdateConfirm");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v690ext */
+   stat = asn1PD_UMTS_CellUpdateConfirm_v690ext_IEs(ctx, &pvalue->cellUpdateConfirm_v690ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v690ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v5d0ext */
+   stat = asn1PD_UMTS_CellUpdateConfirm_v5d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v5d0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v5d0ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v590ext */
+   stat = asn1PD_UMTS_CellUpdateConfirm_v590ext_IEs(ctx, &pvalue->cellUpdateConfirm_v590ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v590ext", -1, 0);
+   /* v5d0NonCriticalExtenstions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
+      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v4b0ext */
+   stat = asn1PD_UMTS_CellUpdateConfirm_v4b0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v4b0ext", -1, 0);
+   /* v590NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-CCCH-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->cellUpdateConfirm_CCCH_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-CCCH-r3-add-ext", -1, 0);
+   }
+   /* v4b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_r3(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* u-RNTI */
+   stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, 0);
+   /* cellUpdateConfirm-r3 */
+   stat = asn1PD_UMTS_CellUpdateConfirm_r3_IEs(ctx, &pvalue->cellUpdateConfirm_r3);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r3", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v690ext */
+   stat = asn1PD_UMTS_CellUpdateConfirm_v690ext_IEs(ctx, &pvalue->cellUpdateConfirm_v690ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v690ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v5d0ext */
+   stat = asn1PD_UMTS_CellUpdateConfirm_v5d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v5d0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v5d0ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v590ext */
+   stat = asn1PD_UMTS_CellUpdateConfirm_v590ext_IEs(ctx, &pvalue->cellUpdateConfirm_v590ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v590ext", -1, 0);
+   /* v5d0NonCriticalExtenstions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
+      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-CCCH-r4-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->cellUpdateConfirm_CCCH_r4_add_ext);
+      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-CCCH-r4-add-ext", -1, 0);
+   }
+   /* v590NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r4 */
+   stat = asn1PD_UMTS_CellUpdateConfirm_r4_IEs(ctx, &pvalue->cellUpdateConfirm_r4);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r4", -1, 0);
+   /* v4d0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v690ext */
+   stat = asn1PD_UMTS_CellUpdateConfirm_v690ext_IEs(ctx, &pvalue->cellUpdateConfirm_v690ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v690ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v5d0ext */
+   stat = asn1PD_UMTS_CellUpdateConfirm_v5d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v5d0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v5d0ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r5 */
+   stat = asn1PD_UMTS_CellUpdateConfirm_r5_IEs(ctx, &pvalue->cellUpdateConfirm_r5);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r5", -1, 0);
+   /* cellUpdateConfirm-CCCH-r5-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->cellUpdateConfirm_CCCH_r5_add_ext);
+      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-CCCH-r5-add-ext", -1, 0);
+   }
+   /* v5d0NonCriticalExtenstions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
+      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v6b0ext */
+   stat = asn1PD_UMTS_CellUpdateConfirm_v6b0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v6b0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r6 */
+   stat = asn1PD_UMTS_CellUpdateConfirm_r6_IEs(ctx, &pvalue->cellUpdateConfirm_r6);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r6", -1, 0);
+   /* cellUpdateConfirm-r6-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->cellUpdateConfirm_r6_add_ext);
+      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r6-add-ext", -1, 0);
+   }
+   /* v6b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v860ext */
+   stat = asn1PD_UMTS_CellUpdateConfirm_v860ext_IEs(ctx, &pvalue->cellUpdateConfirm_v860ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v780ext */
+   stat = asn1PD_UMTS_CellUpdateConfirm_v780ext_IEs(ctx, &pvalue->cellUpdateConfirm_v780ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v780ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r7 */
+   stat = asn1PD_UMTS_CellUpdateConfirm_r7_IEs(ctx, &pvalue->cellUpdateConfirm_r7);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r7", -1, 0);
+   /* cellUpdateConfirm-r7-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      {
+         rtxDynBitStr carrier;
+         rtxContext outer;
+         stat = pd_DynBitString(ctx, &carrier);
+         RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r7-add-ext", -1, 0);
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_CellUpdateConfirm_r7_add_ext_IEs(ctx, &pvalue->cellUpdateConfirm_r7_add_ext);
+            RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r7-add-ext", -1, 0);
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+      }
+   }
+   /* v780NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v780NonCriticalExtensions", -1, 0);
+   }
+   return stat;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v8a0ext */
+   stat = asn1PD_UMTS_CellUpdateConfirm_v8a0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v8a0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v8a0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v890ext */
+   stat = asn1PD_UMTS_CellUpdateConfirm_v890ext_IEs(ctx, &pvalue->cellUpdateConfirm_v890ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v890ext", -1, 0);
+   /* v8a0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v8a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v7d0ext */
+   stat = asn1PD_UMTS_CellUpdateConfirm_v7d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7d0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v7d0ext", -1, 0);
+   /* v890NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r8 */
+   stat = asn1PD_UMTS_CellUpdateConfirm_r8_IEs(ctx, &pvalue->cellUpdateConfirm_r8);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r8", -1, 0);
+   /* cellUpdateConfirm-r8-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->cellUpdateConfirm_r8_add_ext);
+      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r8-add-ext", -1, 0);
+   }
+   /* v7d0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r9 */
+   stat = asn1PD_UMTS_CellUpdateConfirm_r9_IEs(ctx, &pvalue->cellUpdateConfirm_r9);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r9", -1, 0);
+   /* cellUpdateConfirm-r9-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->cellUpdateConfirm_r9_add_ext);
+      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r9-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r9 */
+         pvalue->u.r9 = (CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9));
+         if (pvalue->u.r9 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r9", -1, 0);
+         asn1Init_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(pvalue->u.r9);
+         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
+         RT_CHECK(ctx, stat, 0, "r9", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r8 */
+         pvalue->u.r8 = (CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8));
+         if (pvalue->u.r8 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r8", -1, 0);
+         asn1Init_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(pvalue->u.r8);
+         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
+         RT_CHECK(ctx, stat, 0, "r8", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r7 */
+         pvalue->u.r7 = (CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7));
+         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r7", -1, 0);
+         asn1Init_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(pvalue->u.r7);
+         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
+         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r6 */
+         pvalue->u.r6 = (CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6));
+         if (pvalue->u.r6 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r6", -1, 0);
+         asn1Init_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(pvalue->u.r6);
+         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(ctx, pvalue->u.r6);
+         RT_CHECK(ctx, stat, 0, "r6", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r5 */
+         pvalue->u.r5 = (CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5));
+         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r5", -1, 0);
+         asn1Init_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5(pvalue->u.r5);
+         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5(ctx, pvalue->u.r5);
+         RT_CHECK(ctx, stat, 0, "r5", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r4 */
+         pvalue->u.r4 = (CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4));
+         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r4", -1, 0);
+         asn1Init_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4(pvalue->u.r4);
+         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
+         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* u-RNTI */
+   stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, 0);
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CellUpdateConfirm_CCCH(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_CCCH* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-CCCH");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r3 */
+         pvalue->u.r3 = (CellUpdateConfirm_CCCH_r3*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_r3));
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "CellUpdateConfirm-CCCH");
+         asn1Init_UMTS_CellUpdateConfirm_CCCH_r3(pvalue->u.r3);
+         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "CellUpdateConfirm-CCCH");
+         break;
+      case 1: /* later-than-r3 */
+         pvalue->u.later_than_r3 = (CellUpdateConfirm_CCCH_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3));
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "CellUpdateConfirm-CCCH");
+         asn1Init_UMTS_CellUpdateConfirm_CCCH_later_than_r3(pvalue->u.later_than_r3);
+         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "CellUpdateConfirm-CCCH");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CellUpdateConfirm-CCCH");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CounterCheck_r3_IEs(rtxContext* RT_RESTRICT ctx, CounterCheck_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "CounterCheck-r3-IEs");
+   /* rb-COUNT-C-MSB-InformationList */
+   stat = asn1PD_UMTS_RB_COUNT_C_MSB_InformationList(ctx, &pvalue->rb_COUNT_C_MSB_InformationList);
+   RT_CHECK(ctx, stat, 0, "rb-COUNT-C-MSB-InformationList", -1, "CounterCheck-r3-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_CounterCheck_r3_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CounterCheck_r3_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_CounterCheck_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CounterCheck_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* counterCheck-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->counterCheck_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "counterCheck-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CounterCheck_r3_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CounterCheck_r3(rtxContext* RT_RESTRICT ctx, CounterCheck_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* counterCheck-r3 */
+   stat = asn1PD_UMTS_CounterCheck_r3_IEs(ctx, &pvalue->counterCheck_r3);
+   RT_CHECK(ctx, stat, 0, "counterCheck-r3", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CounterCheck_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CounterCheck_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, CounterCheck_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_CounterCheck_later_than_r3(rtxContext* RT_RESTRICT ctx, CounterCheck_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PD_UMTS_CounterCheck_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_CounterCheck(rtxContext* RT_RESTRICT ctx, CounterCheck* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CounterCheck");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r3 */
+         pvalue->u.r3 = (CounterCheck_r3*)rtxMemHeapAlloc(ctx, sizeof(CounterCheck_r3));
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "CounterCheck");
+         asn1Init_UMTS_CounterCheck_r3(pvalue->u.r3);
+         stat = asn1PD_UMTS_CounterCheck_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "CounterCheck");
+         break;
+      case 1: /* later-than-r3 */
+         pvalue->u.later_than_r3 = (CounterCheck_later_than_r3*)rtxMemHeapAllocZ(ctx, sizeof(CounterCheck_later_than_r3));
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "CounterCheck");
+         stat = asn1PD_UMTS_CounterCheck_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "CounterCheck");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CounterCheck");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CounterCheckResponse_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CounterCheckResponse_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_CounterCheckResponse_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, CounterCheckResponse_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* counterCheckResponse-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->counterCheckResponse_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "counterCheckResponse-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CounterCheckResponse_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CounterCheckResponse(rtxContext* RT_RESTRICT ctx, CounterCheckResponse* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CounterCheckResponse");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "CounterCheckResponse");
+   /* rb-COUNT-C-InformationList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RB_COUNT_C_InformationList(ctx, &pvalue->rb_COUNT_C_InformationList);
+      RT_CHECK(ctx, stat, 0, "rb-COUNT-C-InformationList", -1, "CounterCheckResponse");
+   }
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CounterCheckResponse_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "CounterCheckResponse");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DownlinkDirectTransfer_r3_IEs(rtxContext* RT_RESTRICT ctx, DownlinkDirectTransfer_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "DownlinkDirectTransfer-r3-IEs");
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "DownlinkDirectTransfer-r3-IEs");
+   /* nas-Message */
+   stat = asn1PD_UMTS_NAS_Message(ctx, &pvalue->nas_Message);
+   RT_CHECK(ctx, stat, 0, "nas-Message", -1, "DownlinkDirectTransfer-r3-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_DownlinkDirectTransfer_r3_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, DownlinkDirectTransfer_r3_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_DownlinkDirectTransfer_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, DownlinkDirectTransfer_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* downlinkDirectTransfer-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->downlinkDirectTransfer_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "downlinkDirectTransfer-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DownlinkDirectTransfer_r3_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DownlinkDirectTransfer_r3(rtxContext* RT_RESTRICT ctx, DownlinkDirectTransfer_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* downlinkDirectTransfer-r3 */
+   stat = asn1PD_UMTS_DownlinkDirectTransfer_r3_IEs(ctx, &pvalue->downlinkDirectTransfer_r3);
+   RT_CHECK(ctx, stat, 0, "downlinkDirectTransfer-r3", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DownlinkDirectTransfer_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DownlinkDirectTransfer_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, DownlinkDirectTransfer_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_DownlinkDirectTransfer_later_than_r3(rtxContext* RT_RESTRICT ctx, DownlinkDirectTransfer_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PD_UMTS_DownlinkDirectTransfer_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DownlinkDirectTransfer(rtxContext* RT_RESTRICT ctx, DownlinkDirectTransfer* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DownlinkDirectTransfer");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r3 */
+         pvalue->u.r3 = (DownlinkDirectTransfer_r3*)rtxMemHeapAlloc(ctx, sizeof(DownlinkDirectTransfer_r3));
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "DownlinkDirectTransfer");
+         asn1Init_UMTS_DownlinkDirectTransfer_r3(pvalue->u.r3);
+         stat = asn1PD_UMTS_DownlinkDirectTransfer_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "DownlinkDirectTransfer");
+         break;
+      case 1: /* later-than-r3 */
+         pvalue->u.later_than_r3 = (DownlinkDirectTransfer_later_than_r3*)rtxMemHeapAllocZ(ctx, sizeof(DownlinkDirectTransfer_later_than_r3));
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "DownlinkDirectTransfer");
+         stat = asn1PD_UMTS_DownlinkDirectTransfer_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "DownlinkDirectTransfer");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DownlinkDirectTransfer");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ETWSPrimaryNotificationWithSecurity_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, ETWSPrimaryNotificationWithSecurity_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_ETWSPrimaryNotificationWithSecurity(rtxContext* RT_RESTRICT ctx, ETWSPrimaryNotificationWithSecurity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ETWSPrimaryNotificationWithSecurity");
+   /* etws-Information */
+   stat = asn1PD_UMTS_ETWS_Information(ctx, &pvalue->etws_Information);
+   RT_CHECK(ctx, stat, 0, "etws-Information", -1, "ETWSPrimaryNotificationWithSecurity");
+   /* etws-WarningSecurityInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_ETWS_WarningSecurityInfo(ctx, &pvalue->etws_WarningSecurityInfo);
+      RT_CHECK(ctx, stat, 0, "etws-WarningSecurityInfo", -1, "ETWSPrimaryNotificationWithSecurity");
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_ETWSPrimaryNotificationWithSecurity_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "ETWSPrimaryNotificationWithSecurity");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   /* dummy2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CPCH_SetInfo(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r3_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* srb-InformationSetupList */
+   stat = asn1PD_UMTS_SRB_InformationSetupList(ctx, &pvalue->srb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, 0);
+   /* rab-InformationSetupList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RAB_InformationSetupList(ctx, &pvalue->rab_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, 0);
+   }
+   /* ul-CommonTransChInfo */
+   stat = asn1PD_UMTS_UL_CommonTransChInfo(ctx, &pvalue->ul_CommonTransChInfo);
+   RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
+   /* ul-AddReconfTransChInfoList */
+   stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+   RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
+   /* dl-CommonTransChInfo */
+   stat = asn1PD_UMTS_DL_CommonTransChInfo(ctx, &pvalue->dl_CommonTransChInfo);
+   RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
+   /* dl-AddReconfTransChInfoList */
+   stat = asn1PD_UMTS_DL_AddReconfTransChInfoList(ctx, &pvalue->dl_AddReconfTransChInfoList);
+   RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PD_UMTS_UL_DPCH_Info(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
+   /* dl-CommonInformation */
+   stat = asn1PD_UMTS_DL_CommonInformation(ctx, &pvalue->dl_CommonInformation);
+   RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, 0);
+   /* dl-InformationPerRL-List */
+   stat = asn1PD_UMTS_DL_InformationPerRL_List(ctx, &pvalue->dl_InformationPerRL_List);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* defaultConfigMode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   /* defaultConfigIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 10);
+   RT_CHECK(ctx, stat, "DefaultConfigIdentity", "defaultConfigIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* predefinedConfigIdentity */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
+         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         break;
+      case 1: /* defaultConfig */
+         pvalue->u.defaultConfig = (HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAllocZ(ctx, sizeof(HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
+         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "defaultConfig", -1, 0);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
+         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ul-DPCH-Info */
+   stat = asn1PD_UMTS_UL_DPCH_InfoPostFDD(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-CommonInformationPost */
+   stat = asn1PD_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
+   RT_CHECK(ctx, stat, 0, "dl-CommonInformationPost", -1, 0);
+   /* dl-InformationPerRL-List */
+   stat = asn1PD_UMTS_DL_InformationPerRL_ListPostFDD(ctx, &pvalue->dl_InformationPerRL_List);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PD_UMTS_FrequencyInfoFDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ul-DPCH-Info */
+   stat = asn1PD_UMTS_UL_DPCH_InfoPostTDD(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-CommonInformationPost */
+   stat = asn1PD_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
+   RT_CHECK(ctx, stat, 0, "dl-CommonInformationPost", -1, 0);
+   /* dl-InformationPerRL */
+   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD(ctx, &pvalue->dl_InformationPerRL);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* preConfigMode */
+   stat = asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
+   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
+   /* rab-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RAB_Info_Post(ctx, &pvalue->rab_Info);
+      RT_CHECK(ctx, stat, 0, "rab-Info", -1, 0);
+   }
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r3_IEs_specificationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* complete */
+         pvalue->u.complete = (HandoverToUTRANCommand_r3_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r3_IEs_specificationMode_complete));
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "complete", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_complete(pvalue->u.complete);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+         break;
+      case 1: /* preconfiguration */
+         pvalue->u.preconfiguration = (HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration));
+         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "preconfiguration", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
+         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-r3-IEs");
+   /* new-U-RNTI */
+   stat = asn1PD_UMTS_U_RNTI_Short(ctx, &pvalue->new_U_RNTI);
+   RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "HandoverToUTRANCommand-r3-IEs");
+   /* dummy */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->dummy, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "dummy", -1, "HandoverToUTRANCommand-r3-IEs");
+   }
+   /* cipheringAlgorithm */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->cipheringAlgorithm, 0, 1);
+      RT_CHECK(ctx, stat, "CipheringAlgorithm", "cipheringAlgorithm", -1, "HandoverToUTRANCommand-r3-IEs");
+   }
+   /* specificationMode */
+   stat = asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "HandoverToUTRANCommand-r3-IEs");
+   /* maxAllowedUL-TX-Power */
+   stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+   RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "HandoverToUTRANCommand-r3-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r3_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r3_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r3(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverToUTRANCommand-r3 */
+   stat = asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs(ctx, &pvalue->handoverToUTRANCommand_r3);
+   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-r3", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HandoverToUTRANCommand_r3_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   /* dummy2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CPCH_SetInfo(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r4_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* srb-InformationSetupList */
+   stat = asn1PD_UMTS_SRB_InformationSetupList(ctx, &pvalue->srb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, 0);
+   /* rab-InformationSetupList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RAB_InformationSetupList_r4(ctx, &pvalue->rab_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, 0);
+   }
+   /* ul-CommonTransChInfo */
+   stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+   RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
+   /* ul-AddReconfTransChInfoList */
+   stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+   RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
+   /* dl-CommonTransChInfo */
+   stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+   RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
+   /* dl-AddReconfTransChInfoList */
+   stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r4(ctx, &pvalue->dl_AddReconfTransChInfoList);
+   RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PD_UMTS_UL_DPCH_Info_r4(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
+   /* dl-CommonInformation */
+   stat = asn1PD_UMTS_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation);
+   RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, 0);
+   /* dl-InformationPerRL-List */
+   stat = asn1PD_UMTS_DL_InformationPerRL_List_r4(ctx, &pvalue->dl_InformationPerRL_List);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* defaultConfigMode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   /* defaultConfigIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 12);
+   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r4", "defaultConfigIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* predefinedConfigIdentity */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
+         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         break;
+      case 1: /* defaultConfig */
+         pvalue->u.defaultConfig = (HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAllocZ(ctx, sizeof(HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
+         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "defaultConfig", -1, 0);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
+         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ul-DPCH-Info */
+   stat = asn1PD_UMTS_UL_DPCH_InfoPostFDD(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-CommonInformationPost */
+   stat = asn1PD_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
+   RT_CHECK(ctx, stat, 0, "dl-CommonInformationPost", -1, 0);
+   /* dl-InformationPerRL-List */
+   stat = asn1PD_UMTS_DL_InformationPerRL_ListPostFDD(ctx, &pvalue->dl_InformationPerRL_List);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PD_UMTS_FrequencyInfoFDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ul-DPCH-Info */
+   stat = asn1PD_UMTS_UL_DPCH_InfoPostTDD(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-InformationPerRL */
+   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD(ctx, &pvalue->dl_InformationPerRL);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ul-DPCH-Info */
+   stat = asn1PD_UMTS_UL_DPCH_InfoPostTDD_LCR_r4(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-InformationPerRL */
+   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD_LCR_r4(ctx, &pvalue->dl_InformationPerRL);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* preConfigMode */
+   stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
+   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
+   /* rab-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RAB_Info_Post(ctx, &pvalue->rab_Info);
+      RT_CHECK(ctx, stat, 0, "rab-Info", -1, 0);
+   }
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r4_IEs_specificationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* complete */
+         pvalue->u.complete = (HandoverToUTRANCommand_r4_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r4_IEs_specificationMode_complete));
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "complete", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_complete(pvalue->u.complete);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+         break;
+      case 1: /* preconfiguration */
+         pvalue->u.preconfiguration = (HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration));
+         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "preconfiguration", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
+         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r4_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-r4-IEs");
+   /* new-U-RNTI */
+   stat = asn1PD_UMTS_U_RNTI_Short(ctx, &pvalue->new_U_RNTI);
+   RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "HandoverToUTRANCommand-r4-IEs");
+   /* cipheringAlgorithm */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->cipheringAlgorithm, 0, 1);
+      RT_CHECK(ctx, stat, "CipheringAlgorithm", "cipheringAlgorithm", -1, "HandoverToUTRANCommand-r4-IEs");
+   }
+   /* specificationMode */
+   stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "HandoverToUTRANCommand-r4-IEs");
+   /* maxAllowedUL-TX-Power */
+   stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+   RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "HandoverToUTRANCommand-r4-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_r4_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_r4_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverToUTRANCommand-r4 */
+   stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs(ctx, &pvalue->handoverToUTRANCommand_r4);
+   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-r4", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_r4_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   /* dummy2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CPCH_SetInfo(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r5_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* srb-InformationSetupList */
+   stat = asn1PD_UMTS_SRB_InformationSetupList_r5(ctx, &pvalue->srb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, 0);
+   /* rab-InformationSetupList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RAB_InformationSetupList_r5(ctx, &pvalue->rab_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, 0);
+   }
+   /* ul-CommonTransChInfo */
+   stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+   RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
+   /* ul-AddReconfTransChInfoList */
+   stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+   RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
+   /* dl-CommonTransChInfo */
+   stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+   RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
+   /* dl-AddReconfTransChInfoList */
+   stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
+   RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PD_UMTS_UL_DPCH_Info_r5(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
+   /* dl-CommonInformation */
+   stat = asn1PD_UMTS_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation);
+   RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, 0);
+   /* dl-InformationPerRL-List */
+   stat = asn1PD_UMTS_DL_InformationPerRL_List_r5(ctx, &pvalue->dl_InformationPerRL_List);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* defaultConfigMode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   /* defaultConfigIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 13);
+   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r5", "defaultConfigIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* predefinedConfigIdentity */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
+         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         break;
+      case 1: /* defaultConfig */
+         pvalue->u.defaultConfig = (HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAllocZ(ctx, sizeof(HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
+         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "defaultConfig", -1, 0);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
+         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ul-DPCH-Info */
+   stat = asn1PD_UMTS_UL_DPCH_InfoPostFDD(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-CommonInformationPost */
+   stat = asn1PD_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
+   RT_CHECK(ctx, stat, 0, "dl-CommonInformationPost", -1, 0);
+   /* dl-InformationPerRL-List */
+   stat = asn1PD_UMTS_DL_InformationPerRL_ListPostFDD(ctx, &pvalue->dl_InformationPerRL_List);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PD_UMTS_FrequencyInfoFDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ul-DPCH-Info */
+   stat = asn1PD_UMTS_UL_DPCH_InfoPostTDD(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-InformationPerRL */
+   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD(ctx, &pvalue->dl_InformationPerRL);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ul-DPCH-Info */
+   stat = asn1PD_UMTS_UL_DPCH_InfoPostTDD_LCR_r4(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-InformationPerRL */
+   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD_LCR_r4(ctx, &pvalue->dl_InformationPerRL);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* preConfigMode */
+   stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
+   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
+   /* rab-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RAB_Info_Post(ctx, &pvalue->rab_Info);
+      RT_CHECK(ctx, stat, 0, "rab-Info", -1, 0);
+   }
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r5_IEs_specificationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* complete */
+         pvalue->u.complete = (HandoverToUTRANCommand_r5_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r5_IEs_specificationMode_complete));
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "complete", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_complete(pvalue->u.complete);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+         break;
+      case 1: /* preconfiguration */
+         pvalue->u.preconfiguration = (HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration));
+         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "preconfiguration", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
+         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r5_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-r5-IEs");
+   /* new-U-RNTI */
+   stat = asn1PD_UMTS_U_RNTI_Short(ctx, &pvalue->new_U_RNTI);
+   RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "HandoverToUTRANCommand-r5-IEs");
+   /* cipheringAlgorithm */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->cipheringAlgorithm, 0, 1);
+      RT_CHECK(ctx, stat, "CipheringAlgorithm", "cipheringAlgorithm", -1, "HandoverToUTRANCommand-r5-IEs");
+   }
+   /* specificationMode */
+   stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "HandoverToUTRANCommand-r5-IEs");
+   /* maxAllowedUL-TX-Power */
+   stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+   RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "HandoverToUTRANCommand-r5-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverToUTRANCommand-r5 */
+   stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs(ctx, &pvalue->handoverToUTRANCommand_r5);
+   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-r5", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r6_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* srb-InformationSetupList */
+   stat = asn1PD_UMTS_SRB_InformationSetupList_r6(ctx, &pvalue->srb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, 0);
+   /* rab-InformationSetupList */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RAB_InformationSetupList_r6(ctx, &pvalue->rab_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, 0);
+   }
+   /* ul-CommonTransChInfo */
+   stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+   RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
+   /* ul-AddReconfTransChInfoList */
+   stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r6(ctx, &pvalue->ul_AddReconfTransChInfoList);
+   RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
+   /* dl-CommonTransChInfo */
+   stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+   RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
+   /* dl-AddReconfTransChInfoList */
+   stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
+   RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PD_UMTS_UL_DPCH_Info_r6(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* ul-EDCH-Information */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UL_EDCH_Information_r6(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, 0);
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r6(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, 0);
+   }
+   /* dl-CommonInformation */
+   stat = asn1PD_UMTS_DL_CommonInformation_r6(ctx, &pvalue->dl_CommonInformation);
+   RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, 0);
+   /* dl-InformationPerRL-List */
+   stat = asn1PD_UMTS_DL_InformationPerRL_List_r6(ctx, &pvalue->dl_InformationPerRL_List);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* defaultConfigMode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   /* defaultConfigIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 31);
+   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* predefinedConfigIdentity */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
+         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         break;
+      case 1: /* defaultConfig */
+         pvalue->u.defaultConfig = (HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAllocZ(ctx, sizeof(HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
+         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "defaultConfig", -1, 0);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
+         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ul-DPCH-Info */
+   stat = asn1PD_UMTS_UL_DPCH_InfoPostFDD(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-CommonInformationPost */
+   stat = asn1PD_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
+   RT_CHECK(ctx, stat, 0, "dl-CommonInformationPost", -1, 0);
+   /* dl-InformationPerRL-List */
+   stat = asn1PD_UMTS_DL_InformationPerRL_ListPostFDD(ctx, &pvalue->dl_InformationPerRL_List);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PD_UMTS_FrequencyInfoFDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ul-DPCH-Info */
+   stat = asn1PD_UMTS_UL_DPCH_InfoPostTDD(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-InformationPerRL */
+   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD(ctx, &pvalue->dl_InformationPerRL);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ul-DPCH-Info */
+   stat = asn1PD_UMTS_UL_DPCH_InfoPostTDD_LCR_r4(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-InformationPerRL */
+   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD_LCR_r4(ctx, &pvalue->dl_InformationPerRL);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* preConfigMode */
+   stat = asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
+   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
+   /* rab-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RAB_Info_Post(ctx, &pvalue->rab_Info);
+      RT_CHECK(ctx, stat, 0, "rab-Info", -1, 0);
+   }
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r6_IEs_specificationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* complete */
+         pvalue->u.complete = (HandoverToUTRANCommand_r6_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r6_IEs_specificationMode_complete));
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "complete", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_complete(pvalue->u.complete);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+         break;
+      case 1: /* preconfiguration */
+         pvalue->u.preconfiguration = (HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration));
+         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "preconfiguration", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
+         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r6_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-r6-IEs");
+   /* new-U-RNTI */
+   stat = asn1PD_UMTS_U_RNTI_Short(ctx, &pvalue->new_U_RNTI);
+   RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "HandoverToUTRANCommand-r6-IEs");
+   /* cipheringAlgorithm */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->cipheringAlgorithm, 0, 1);
+      RT_CHECK(ctx, stat, "CipheringAlgorithm", "cipheringAlgorithm", -1, "HandoverToUTRANCommand-r6-IEs");
+   }
+   /* specificationMode */
+   stat = asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "HandoverToUTRANCommand-r6-IEs");
+   /* maxAllowedUL-TX-Power */
+   stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+   RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "HandoverToUTRANCommand-r6-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_v6b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-v6b0ext-IEs");
+   /* ue-hspa-identities */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_HSPA_Identities_r6(ctx, &pvalue->ue_hspa_identities);
+      RT_CHECK(ctx, stat, 0, "ue-hspa-identities", -1, "HandoverToUTRANCommand-v6b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverToUTRANCommand-v6b0ext */
+   stat = asn1PD_UMTS_HandoverToUTRANCommand_v6b0ext_IEs(ctx, &pvalue->handoverToUTRANCommand_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-v6b0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverToUTRANCommand-r6 */
+   stat = asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs(ctx, &pvalue->handoverToUTRANCommand_r6);
+   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-r6", -1, 0);
+   /* v6b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r7_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* srb-InformationSetupList */
+   stat = asn1PD_UMTS_SRB_InformationSetupList_r7(ctx, &pvalue->srb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, 0);
+   /* rab-InformationSetupList */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RAB_InformationSetupList_r7(ctx, &pvalue->rab_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, 0);
+   }
+   /* ul-CommonTransChInfo */
+   stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+   RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
+   /* ul-AddReconfTransChInfoList */
+   stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r7(ctx, &pvalue->ul_AddReconfTransChInfoList);
+   RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
+   /* dl-CommonTransChInfo */
+   stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+   RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
+   /* dl-AddReconfTransChInfoList */
+   stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
+   RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* ul-EDCH-Information */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UL_EDCH_Information_r7(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, 0);
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, 0);
+   }
+   /* dl-CommonInformation */
+   stat = asn1PD_UMTS_DL_CommonInformation_r7(ctx, &pvalue->dl_CommonInformation);
+   RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, 0);
+   /* dl-InformationPerRL-List */
+   stat = asn1PD_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   /* multi-frequencyInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* defaultConfigMode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   /* defaultConfigIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 31);
+   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* predefinedConfigIdentity */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
+         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         break;
+      case 1: /* defaultConfig */
+         pvalue->u.defaultConfig = (HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAllocZ(ctx, sizeof(HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
+         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "defaultConfig", -1, 0);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
+         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ul-DPCH-Info */
+   stat = asn1PD_UMTS_UL_DPCH_InfoPostFDD(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-CommonInformationPost */
+   stat = asn1PD_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
+   RT_CHECK(ctx, stat, 0, "dl-CommonInformationPost", -1, 0);
+   /* dl-InformationPerRL-List */
+   stat = asn1PD_UMTS_DL_InformationPerRL_ListPostFDD(ctx, &pvalue->dl_InformationPerRL_List);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PD_UMTS_FrequencyInfoFDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ul-DPCH-Info */
+   stat = asn1PD_UMTS_UL_DPCH_InfoPostTDD(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-InformationPerRL */
+   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD(ctx, &pvalue->dl_InformationPerRL);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-InformationPerRL */
+   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD_LCR_r4(ctx, &pvalue->dl_InformationPerRL);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   /* multi-frequencyInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ul-DPCH-Info */
+   stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-InformationPerRL */
+   stat = asn1PD_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      case 2: /* tdd768 */
+         pvalue->u.tdd768 = (HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768));
+         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(pvalue->u.tdd768);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* preConfigMode */
+   stat = asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
+   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
+   /* rab-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RAB_Info_Post(ctx, &pvalue->rab_Info);
+      RT_CHECK(ctx, stat, 0, "rab-Info", -1, 0);
+   }
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r7_IEs_specificationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* complete */
+         pvalue->u.complete = (HandoverToUTRANCommand_r7_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r7_IEs_specificationMode_complete));
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "complete", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_complete(pvalue->u.complete);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+         break;
+      case 1: /* preconfiguration */
+         pvalue->u.preconfiguration = (HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration));
+         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "preconfiguration", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
+         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r7_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-r7-IEs");
+   /* new-U-RNTI */
+   stat = asn1PD_UMTS_U_RNTI_Short(ctx, &pvalue->new_U_RNTI);
+   RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "HandoverToUTRANCommand-r7-IEs");
+   /* cipheringAlgorithm */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->cipheringAlgorithm, 0, 2);
+      RT_CHECK(ctx, stat, "CipheringAlgorithm-r7", "cipheringAlgorithm", -1, "HandoverToUTRANCommand-r7-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
+   RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "HandoverToUTRANCommand-r7-IEs");
+   /* new-H-RNTI */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "HandoverToUTRANCommand-r7-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "HandoverToUTRANCommand-r7-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "HandoverToUTRANCommand-r7-IEs");
+   }
+   /* specificationMode */
+   stat = asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "HandoverToUTRANCommand-r7-IEs");
+   /* maxAllowedUL-TX-Power */
+   stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+   RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "HandoverToUTRANCommand-r7-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_v780ext_IEs(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_v780ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-v780ext-IEs");
+   /* hs-DSCH-TBSizeTable */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "HandoverToUTRANCommand-v780ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "HandoverToUTRANCommand-v780ext-IEs");
+         pvalue->hs_DSCH_TBSizeTable = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_v820ext_IEs(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_v820ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-v820ext-IEs");
+   /* rab-InformationSetupList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RAB_InformationSetupList_v820ext(ctx, &pvalue->rab_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, "HandoverToUTRANCommand-v820ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_v7d0ext_IEs(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_v7d0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-v7d0ext-IEs");
+   /* ul-EDCH-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UL_EDCH_Information_ext(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "HandoverToUTRANCommand-v7d0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_v7d0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_v7d0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverToUTRANCommand-v7d0ext */
+   stat = asn1PD_UMTS_HandoverToUTRANCommand_v7d0ext_IEs(ctx, &pvalue->handoverToUTRANCommand_v7d0ext);
+   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-v7d0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_v7d0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverToUTRANCommand-v820ext */
+   stat = asn1PD_UMTS_HandoverToUTRANCommand_v820ext_IEs(ctx, &pvalue->handoverToUTRANCommand_v820ext);
+   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-v820ext", -1, 0);
+   /* v7d0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverToUTRANCommand-v780ext */
+   stat = asn1PD_UMTS_HandoverToUTRANCommand_v780ext_IEs(ctx, &pvalue->handoverToUTRANCommand_v780ext);
+   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-v780ext", -1, 0);
+   /* v820NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions(ctx, &pvalue->v820NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v820NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverToUTRANCommand-r7 */
+   stat = asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs(ctx, &pvalue->handoverToUTRANCommand_r7);
+   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-r7", -1, 0);
+   /* v780NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v780NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r8_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* srb-InformationSetupList */
+   stat = asn1PD_UMTS_SRB_InformationSetupList_r8(ctx, &pvalue->srb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, 0);
+   /* rab-InformationSetupList */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RAB_InformationSetupList_r8(ctx, &pvalue->rab_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, 0);
+   }
+   /* ul-CommonTransChInfo */
+   stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+   RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
+   /* ul-AddReconfTransChInfoList */
+   stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
+   RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
+   /* dl-CommonTransChInfo */
+   stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+   RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
+   /* dl-AddReconfTransChInfoList */
+   stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
+   RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* ul-EDCH-Information */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UL_EDCH_Information_r8(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, 0);
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, 0);
+   }
+   /* dl-CommonInformation */
+   stat = asn1PD_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
+   RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, 0);
+   /* dl-InformationPerRL-List */
+   stat = asn1PD_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   /* multi-frequencyInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* defaultConfigMode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   /* defaultConfigIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 31);
+   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
+   /* dlul-HSPA-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DLUL_HSPA_Information_r8(ctx, &pvalue->dlul_HSPA_Information);
+      RT_CHECK(ctx, stat, 0, "dlul-HSPA-Information", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* predefinedConfigIdentity */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
+         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         break;
+      case 1: /* defaultConfig */
+         pvalue->u.defaultConfig = (HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
+         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "defaultConfig", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(pvalue->u.defaultConfig);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
+         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ul-DPCH-Info */
+   stat = asn1PD_UMTS_UL_DPCH_InfoPostFDD(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-CommonInformationPost */
+   stat = asn1PD_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
+   RT_CHECK(ctx, stat, 0, "dl-CommonInformationPost", -1, 0);
+   /* dl-InformationPerRL-List */
+   stat = asn1PD_UMTS_DL_InformationPerRL_ListPostFDD(ctx, &pvalue->dl_InformationPerRL_List);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PD_UMTS_FrequencyInfoFDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ul-DPCH-Info */
+   stat = asn1PD_UMTS_UL_DPCH_InfoPostTDD(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-InformationPerRL */
+   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD(ctx, &pvalue->dl_InformationPerRL);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-InformationPerRL */
+   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD_LCR_r4(ctx, &pvalue->dl_InformationPerRL);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   /* multi-frequencyInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ul-DPCH-Info */
+   stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-InformationPerRL */
+   stat = asn1PD_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      case 2: /* tdd768 */
+         pvalue->u.tdd768 = (HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768));
+         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(pvalue->u.tdd768);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* preConfigMode */
+   stat = asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
+   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
+   /* rab-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RAB_Info_Post(ctx, &pvalue->rab_Info);
+      RT_CHECK(ctx, stat, 0, "rab-Info", -1, 0);
+   }
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r8_IEs_specificationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* complete */
+         pvalue->u.complete = (HandoverToUTRANCommand_r8_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r8_IEs_specificationMode_complete));
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "complete", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_complete(pvalue->u.complete);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+         break;
+      case 1: /* preconfiguration */
+         pvalue->u.preconfiguration = (HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration));
+         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "preconfiguration", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
+         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r8_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-r8-IEs");
+   /* new-U-RNTI */
+   stat = asn1PD_UMTS_U_RNTI_Short(ctx, &pvalue->new_U_RNTI);
+   RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "HandoverToUTRANCommand-r8-IEs");
+   /* cipheringAlgorithm */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->cipheringAlgorithm, 0, 2);
+      RT_CHECK(ctx, stat, "CipheringAlgorithm-r7", "cipheringAlgorithm", -1, "HandoverToUTRANCommand-r8-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
+   RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "HandoverToUTRANCommand-r8-IEs");
+   /* new-H-RNTI */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "HandoverToUTRANCommand-r8-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "HandoverToUTRANCommand-r8-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "HandoverToUTRANCommand-r8-IEs");
+   }
+   /* defaultConfigForCellFACH */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_DefaultConfigForCellFACH(ctx, &pvalue->defaultConfigForCellFACH);
+      RT_CHECK(ctx, stat, 0, "defaultConfigForCellFACH", -1, "HandoverToUTRANCommand-r8-IEs");
+   }
+   /* specificationMode */
+   stat = asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "HandoverToUTRANCommand-r8-IEs");
+   /* maxAllowedUL-TX-Power */
+   stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+   RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "HandoverToUTRANCommand-r8-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_v890ext_IEs(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_v890ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-v890ext-IEs");
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "HandoverToUTRANCommand-v890ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_v8a0ext_IEs(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_v8a0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-v8a0ext-IEs");
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext2(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "HandoverToUTRANCommand-v8a0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverToUTRANCommand-v8a0ext */
+   stat = asn1PD_UMTS_HandoverToUTRANCommand_v8a0ext_IEs(ctx, &pvalue->handoverToUTRANCommand_v8a0ext);
+   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-v8a0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverToUTRANCommand-v890ext */
+   stat = asn1PD_UMTS_HandoverToUTRANCommand_v890ext_IEs(ctx, &pvalue->handoverToUTRANCommand_v890ext);
+   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-v890ext", -1, 0);
+   /* v8a0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v8a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverToUTRANCommand-v7d0ext */
+   stat = asn1PD_UMTS_HandoverToUTRANCommand_v7d0ext_IEs(ctx, &pvalue->handoverToUTRANCommand_v7d0ext);
+   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-v7d0ext", -1, 0);
+   /* v890NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverToUTRANCommand-r8 */
+   stat = asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs(ctx, &pvalue->handoverToUTRANCommand_r8);
+   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-r8", -1, 0);
+   /* v7d0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r9_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* srb-InformationSetupList */
+   stat = asn1PD_UMTS_SRB_InformationSetupList_r8(ctx, &pvalue->srb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, 0);
+   /* rab-InformationSetupList */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RAB_InformationSetupList_r8(ctx, &pvalue->rab_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, 0);
+   }
+   /* ul-CommonTransChInfo */
+   stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+   RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
+   /* ul-AddReconfTransChInfoList */
+   stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
+   RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
+   /* dl-CommonTransChInfo */
+   stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+   RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
+   /* dl-AddReconfTransChInfoList */
+   stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r9(ctx, &pvalue->dl_AddReconfTransChInfoList);
+   RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* ul-EDCH-Information */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UL_EDCH_Information_r9(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, 0);
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, 0);
+   }
+   /* dl-CommonInformation */
+   stat = asn1PD_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
+   RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, 0);
+   /* dl-InformationPerRL-List */
+   stat = asn1PD_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   /* multi-frequencyInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* defaultConfigMode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   /* defaultConfigIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 31);
+   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
+   /* dlul-HSPA-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DLUL_HSPA_Information_r9(ctx, &pvalue->dlul_HSPA_Information);
+      RT_CHECK(ctx, stat, 0, "dlul-HSPA-Information", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* predefinedConfigIdentity */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
+         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         break;
+      case 1: /* defaultConfig */
+         pvalue->u.defaultConfig = (HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
+         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "defaultConfig", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(pvalue->u.defaultConfig);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
+         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ul-DPCH-Info */
+   stat = asn1PD_UMTS_UL_DPCH_InfoPostFDD(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-CommonInformationPost */
+   stat = asn1PD_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
+   RT_CHECK(ctx, stat, 0, "dl-CommonInformationPost", -1, 0);
+   /* dl-InformationPerRL-List */
+   stat = asn1PD_UMTS_DL_InformationPerRL_ListPostFDD(ctx, &pvalue->dl_InformationPerRL_List);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PD_UMTS_FrequencyInfoFDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ul-DPCH-Info */
+   stat = asn1PD_UMTS_UL_DPCH_InfoPostTDD(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-InformationPerRL */
+   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD(ctx, &pvalue->dl_InformationPerRL);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-InformationPerRL */
+   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD_LCR_r4(ctx, &pvalue->dl_InformationPerRL);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   /* multi-frequencyInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ul-DPCH-Info */
+   stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-InformationPerRL */
+   stat = asn1PD_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      case 2: /* tdd768 */
+         pvalue->u.tdd768 = (HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768));
+         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(pvalue->u.tdd768);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* preConfigMode */
+   stat = asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
+   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
+   /* rab-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RAB_Info_Post(ctx, &pvalue->rab_Info);
+      RT_CHECK(ctx, stat, 0, "rab-Info", -1, 0);
+   }
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r9_IEs_specificationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* complete */
+         pvalue->u.complete = (HandoverToUTRANCommand_r9_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r9_IEs_specificationMode_complete));
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "complete", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_complete(pvalue->u.complete);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+         break;
+      case 1: /* preconfiguration */
+         pvalue->u.preconfiguration = (HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration));
+         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "preconfiguration", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
+         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_r9_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-r9-IEs");
+   /* new-U-RNTI */
+   stat = asn1PD_UMTS_U_RNTI_Short(ctx, &pvalue->new_U_RNTI);
+   RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "HandoverToUTRANCommand-r9-IEs");
+   /* cipheringAlgorithm */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->cipheringAlgorithm, 0, 2);
+      RT_CHECK(ctx, stat, "CipheringAlgorithm-r7", "cipheringAlgorithm", -1, "HandoverToUTRANCommand-r9-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
+   RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "HandoverToUTRANCommand-r9-IEs");
+   /* new-H-RNTI */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "HandoverToUTRANCommand-r9-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "HandoverToUTRANCommand-r9-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "HandoverToUTRANCommand-r9-IEs");
+   }
+   /* defaultConfigForCellFACH */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_DefaultConfigForCellFACH(ctx, &pvalue->defaultConfigForCellFACH);
+      RT_CHECK(ctx, stat, 0, "defaultConfigForCellFACH", -1, "HandoverToUTRANCommand-r9-IEs");
+   }
+   /* specificationMode */
+   stat = asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "HandoverToUTRANCommand-r9-IEs");
+   /* maxAllowedUL-TX-Power */
+   stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+   RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "HandoverToUTRANCommand-r9-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverToUTRANCommand-r9 */
+   stat = asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs(ctx, &pvalue->handoverToUTRANCommand_r9);
+   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-r9", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r9 */
+         pvalue->u.r9 = (HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9));
+         if (pvalue->u.r9 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r9", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(pvalue->u.r9);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
+         RT_CHECK(ctx, stat, 0, "r9", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r8 */
+         pvalue->u.r8 = (HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8));
+         if (pvalue->u.r8 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r8", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(pvalue->u.r8);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
+         RT_CHECK(ctx, stat, 0, "r8", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r7 */
+         pvalue->u.r7 = (HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7));
+         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r7", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(pvalue->u.r7);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
+         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r6 */
+         pvalue->u.r6 = (HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6));
+         if (pvalue->u.r6 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r6", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6(pvalue->u.r6);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6(ctx, pvalue->u.r6);
+         RT_CHECK(ctx, stat, 0, "r6", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r5 */
+         pvalue->u.r5 = (HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5));
+         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r5", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5(pvalue->u.r5);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5(ctx, pvalue->u.r5);
+         RT_CHECK(ctx, stat, 0, "r5", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r4 */
+         pvalue->u.r4 = (HandoverToUTRANCommand_criticalExtensions_r4*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions_r4));
+         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r4", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_criticalExtensions_r4(pvalue->u.r4);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_r4(ctx, pvalue->u.r4);
+         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (HandoverToUTRANCommand_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANCommand(rtxContext* RT_RESTRICT ctx, HandoverToUTRANCommand* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r3 */
+         pvalue->u.r3 = (HandoverToUTRANCommand_r3*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r3));
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "HandoverToUTRANCommand");
+         asn1Init_UMTS_HandoverToUTRANCommand_r3(pvalue->u.r3);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "HandoverToUTRANCommand");
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (HandoverToUTRANCommand_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, "HandoverToUTRANCommand");
+         asn1Init_UMTS_HandoverToUTRANCommand_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, "HandoverToUTRANCommand");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "HandoverToUTRANCommand");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANComplete_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANComplete_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANComplete_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverToUTRANComplete_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverToUTRANComplete-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->handoverToUTRANComplete_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "handoverToUTRANComplete-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_HandoverToUTRANComplete_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverToUTRANComplete(rtxContext* RT_RESTRICT ctx, HandoverToUTRANComplete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANComplete");
+   /* startList */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_STARTList(ctx, &pvalue->startList);
+      RT_CHECK(ctx, stat, 0, "startList", -1, "HandoverToUTRANComplete");
+   }
+   /* count-C-ActivationTime */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->count_C_ActivationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "count-C-ActivationTime", -1, "HandoverToUTRANComplete");
+   }
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_HandoverToUTRANComplete_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "HandoverToUTRANComplete");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InitialDirectTransfer_v3a0ext(rtxContext* RT_RESTRICT ctx, InitialDirectTransfer_v3a0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InitialDirectTransfer-v3a0ext");
+   /* start-Value */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_START_Value(ctx, &pvalue->start_Value);
+      RT_CHECK(ctx, stat, 0, "start-Value", -1, "InitialDirectTransfer-v3a0ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InitialDirectTransfer_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, InitialDirectTransfer_v7g0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InitialDirectTransfer-v7g0ext-IEs");
+   /* measuredResultsOnRACH-v7g0ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasuredResultsOnRACH_v7g0ext(ctx, &pvalue->measuredResultsOnRACH_v7g0ext);
+      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACH-v7g0ext", -1, "InitialDirectTransfer-v7g0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InitialDirectTransfer_r3_add_ext_IEs_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InitialDirectTransfer_r3_add_ext_IEs_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_InitialDirectTransfer_r3_add_ext_IEs(rtxContext* RT_RESTRICT ctx, InitialDirectTransfer_r3_add_ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InitialDirectTransfer-r3-add-ext-IEs");
+   /* initialDirectTransfer-v7g0ext */
+   stat = asn1PD_UMTS_InitialDirectTransfer_v7g0ext_IEs(ctx, &pvalue->initialDirectTransfer_v7g0ext);
+   RT_CHECK(ctx, stat, 0, "initialDirectTransfer-v7g0ext", -1, "InitialDirectTransfer-r3-add-ext-IEs");
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InitialDirectTransfer_r3_add_ext_IEs_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "InitialDirectTransfer-r3-add-ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InitialDirectTransfer_v590ext(rtxContext* RT_RESTRICT ctx, InitialDirectTransfer_v590ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InitialDirectTransfer-v590ext");
+   /* establishmentCause */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->establishmentCause, 0, 31);
+      RT_CHECK(ctx, stat, "EstablishmentCause", "establishmentCause", -1, "InitialDirectTransfer-v590ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InitialDirectTransfer_v690ext_IEs(rtxContext* RT_RESTRICT ctx, InitialDirectTransfer_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InitialDirectTransfer-v690ext-IEs");
+   /* plmn-Identity */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
+      RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, "InitialDirectTransfer-v690ext-IEs");
+   }
+   /* measuredResultsOnRACHinterFreq */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_MeasuredResultsOnRACHinterFreq(ctx, &pvalue->measuredResultsOnRACHinterFreq);
+      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACHinterFreq", -1, "InitialDirectTransfer-v690ext-IEs");
+   }
+   /* mbms-JoinedInformation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_MBMS_JoinedInformation_r6(ctx, &pvalue->mbms_JoinedInformation);
+      RT_CHECK(ctx, stat, 0, "mbms-JoinedInformation", -1, "InitialDirectTransfer-v690ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InitialDirectTransfer_v770ext_IEs_csCallType(rtxContext* RT_RESTRICT ctx, InitialDirectTransfer_v770ext_IEs_csCallType* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_InitialDirectTransfer_v770ext_IEs(rtxContext* RT_RESTRICT ctx, InitialDirectTransfer_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InitialDirectTransfer-v770ext-IEs");
+   /* csCallType */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->csCallType, 0, 3);
+      RT_CHECK(ctx, stat, 0, "csCallType", -1, "InitialDirectTransfer-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InitialDirectTransfer_v860ext_IEs_supportOfCSG(rtxContext* RT_RESTRICT ctx, InitialDirectTransfer_v860ext_IEs_supportOfCSG* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InitialDirectTransfer_v860ext_IEs(rtxContext* RT_RESTRICT ctx, InitialDirectTransfer_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InitialDirectTransfer-v860ext-IEs");
+   /* supportOfCSG */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportOfCSG", -1, "InitialDirectTransfer-v860ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportOfCSG", -1, "InitialDirectTransfer-v860ext-IEs");
+         pvalue->supportOfCSG = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* initialDirectTransfer-v860ext */
+   stat = asn1PD_UMTS_InitialDirectTransfer_v860ext_IEs(ctx, &pvalue->initialDirectTransfer_v860ext);
+   RT_CHECK(ctx, stat, 0, "initialDirectTransfer-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* initialDirectTransfer-v770ext */
+   stat = asn1PD_UMTS_InitialDirectTransfer_v770ext_IEs(ctx, &pvalue->initialDirectTransfer_v770ext);
+   RT_CHECK(ctx, stat, 0, "initialDirectTransfer-v770ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* initialDirectTransfer-v690ext */
+   stat = asn1PD_UMTS_InitialDirectTransfer_v690ext_IEs(ctx, &pvalue->initialDirectTransfer_v690ext);
+   RT_CHECK(ctx, stat, 0, "initialDirectTransfer-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* initialDirectTransfer-v590ext */
+   stat = asn1PD_UMTS_InitialDirectTransfer_v590ext(ctx, &pvalue->initialDirectTransfer_v590ext);
+   RT_CHECK(ctx, stat, 0, "initialDirectTransfer-v590ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* initialDirectTransfer-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      {
+         rtxDynBitStr carrier;
+         rtxContext outer;
+         stat = pd_DynBitString(ctx, &carrier);
+         RT_CHECK(ctx, stat, 0, "initialDirectTransfer-r3-add-ext", -1, 0);
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_InitialDirectTransfer_r3_add_ext_IEs(ctx, &pvalue->initialDirectTransfer_r3_add_ext);
+            RT_CHECK(ctx, stat, 0, "initialDirectTransfer-r3-add-ext", -1, 0);
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+      }
+   }
+   /* v590NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return stat;
+}
+
+int asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InitialDirectTransfer_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* initialDirectTransfer-v3a0ext */
+   stat = asn1PD_UMTS_InitialDirectTransfer_v3a0ext(ctx, &pvalue->initialDirectTransfer_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "initialDirectTransfer-v3a0ext", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InitialDirectTransfer(rtxContext* RT_RESTRICT ctx, InitialDirectTransfer* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InitialDirectTransfer");
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "InitialDirectTransfer");
+   /* intraDomainNasNodeSelector */
+   stat = asn1PD_UMTS_IntraDomainNasNodeSelector(ctx, &pvalue->intraDomainNasNodeSelector);
+   RT_CHECK(ctx, stat, 0, "intraDomainNasNodeSelector", -1, "InitialDirectTransfer");
+   /* nas-Message */
+   stat = asn1PD_UMTS_NAS_Message(ctx, &pvalue->nas_Message);
+   RT_CHECK(ctx, stat, 0, "nas-Message", -1, "InitialDirectTransfer");
+   /* measuredResultsOnRACH */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasuredResultsOnRACH(ctx, &pvalue->measuredResultsOnRACH);
+      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACH", -1, "InitialDirectTransfer");
+   }
+   /* v3a0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, "InitialDirectTransfer");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_single_GSM_Message(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_single_GSM_Message* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_gsm_MessageList(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_gsm_MessageList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* gsm-Messages */
+   stat = asn1PD_UMTS_GSM_MessageList(ctx, &pvalue->gsm_Messages);
+   RT_CHECK(ctx, stat, 0, "gsm-Messages", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* single-GSM-Message */
+         pvalue->u.single_GSM_Message = (HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_single_GSM_Message*)rtxMemHeapAllocZ(ctx, sizeof(HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_single_GSM_Message));
+         if (pvalue->u.single_GSM_Message == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "single-GSM-Message", -1, 0);
+         stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_single_GSM_Message(ctx, pvalue->u.single_GSM_Message);
+         RT_CHECK(ctx, stat, 0, "single-GSM-Message", -1, 0);
+         break;
+      case 1: /* gsm-MessageList */
+         pvalue->u.gsm_MessageList = (HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_gsm_MessageList*)rtxMemHeapAlloc(ctx, sizeof(HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_gsm_MessageList));
+         if (pvalue->u.gsm_MessageList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm-MessageList", -1, 0);
+         asn1Init_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_gsm_MessageList(pvalue->u.gsm_MessageList);
+         stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_gsm_MessageList(ctx, pvalue->u.gsm_MessageList);
+         RT_CHECK(ctx, stat, 0, "gsm-MessageList", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverFromUTRANCommand-GSM-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "HandoverFromUTRANCommand-GSM-r3-IEs");
+   /* activationTime */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "HandoverFromUTRANCommand-GSM-r3-IEs");
+   }
+   /* toHandoverRAB-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RAB_Info(ctx, &pvalue->toHandoverRAB_Info);
+      RT_CHECK(ctx, stat, 0, "toHandoverRAB-Info", -1, "HandoverFromUTRANCommand-GSM-r3-IEs");
+   }
    /* frequency-band */
-   rtxCtxtPushElemName(ctx, "frequency-band");
-   rtxCtxtPushTypeName(ctx, "Frequency-Band");
    stat = pd_ConsUnsigned(ctx, &pvalue->frequency_band, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* bcch-ARFCN */
-   rtxCtxtPushElemName(ctx, "bcch-ARFCN");
-   rtxCtxtPushTypeName(ctx, "BCCH-ARFCN");
-   stat = pd_ConsUInt16(ctx, &pvalue->bcch_ARFCN, 0, 1023);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ncMode */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ncMode");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NC_Mode(ctx, &pvalue->ncMode);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
+   RT_CHECK(ctx, stat, "Frequency-Band", "frequency-band", -1, "HandoverFromUTRANCommand-GSM-r3-IEs");
+   /* gsm-message */
+   stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message(ctx, &pvalue->gsm_message);
+   RT_CHECK(ctx, stat, 0, "gsm-message", -1, "HandoverFromUTRANCommand-GSM-r3-IEs");
    return 0;
 }
 
-int asn1PD_UMTS_InterRAT_TargetCellDescription_technologySpecificInfo(rtxContext* ctx, InterRAT_TargetCellDescription_technologySpecificInfo* pvalue)
+int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_v690ext_IEs_geran_SystemInfoType(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_v690ext_IEs_geran_SystemInfoType* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat);
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "gsm");
-         pvalue->u.gsm = (InterRAT_TargetCellDescription_technologySpecificInfo_gsm*)rtxMemHeapAlloc(ctx, sizeof(InterRAT_TargetCellDescription_technologySpecificInfo_gsm));
-         if (pvalue->u.gsm == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterRAT_TargetCellDescription_technologySpecificInfo_gsm(pvalue->u.gsm);
-         stat = asn1PD_UMTS_InterRAT_TargetCellDescription_technologySpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 0: /* sI */
+         pvalue->u.sI = (GERAN_SystemInformation*)rtxMemHeapAlloc(ctx, sizeof(GERAN_SystemInformation));
+         if (pvalue->u.sI == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sI", -1, 0);
+         asn1Init_UMTS_GERAN_SystemInformation(pvalue->u.sI);
+         stat = asn1PD_UMTS_GERAN_SystemInformation(ctx, pvalue->u.sI);
+         RT_CHECK(ctx, stat, 0, "sI", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "is-2000");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "spare2");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "spare1");
-         rtxCtxtPopElemName(ctx);
+      case 1: /* pSI */
+         pvalue->u.pSI = (GERAN_SystemInformation*)rtxMemHeapAlloc(ctx, sizeof(GERAN_SystemInformation));
+         if (pvalue->u.pSI == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "pSI", -1, 0);
+         asn1Init_UMTS_GERAN_SystemInformation(pvalue->u.pSI);
+         stat = asn1PD_UMTS_GERAN_SystemInformation(ctx, pvalue->u.pSI);
+         RT_CHECK(ctx, stat, 0, "pSI", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_InterRAT_TargetCellDescription(rtxContext* ctx, InterRAT_TargetCellDescription* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "InterRAT-TargetCellDescription");
-   /* technologySpecificInfo */
-   rtxCtxtPushElemName(ctx, "technologySpecificInfo");
-   stat = asn1PD_UMTS_InterRAT_TargetCellDescription_technologySpecificInfo(ctx, &pvalue->technologySpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATCellInfoIndication(rtxContext* ctx, InterRATCellInfoIndication* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "InterRATCellInfoIndication");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATCellInfoList_r4(rtxContext* ctx, InterRATCellInfoList_r4* pvalue)
+int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_v690ext_IEs(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_v690ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterRATCellInfoList-r4");
    pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* removedInterRATCellList */
-   rtxCtxtPushElemName(ctx, "removedInterRATCellList");
-   stat = asn1PD_UMTS_RemovedInterRATCellList(ctx, &pvalue->removedInterRATCellList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* newInterRATCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "newInterRATCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellsForInterRATMeasList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cellsForInterRATMeasList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellsForInterRATMeasList(ctx, &pvalue->cellsForInterRATMeasList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATCellInfoList_r6(rtxContext* ctx, InterRATCellInfoList_r6* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterRATCellInfoList-r6");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* removedInterRATCellList */
-   rtxCtxtPushElemName(ctx, "removedInterRATCellList");
-   stat = asn1PD_UMTS_RemovedInterRATCellList(ctx, &pvalue->removedInterRATCellList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* newInterRATCellList */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "newInterRATCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellsForInterRATMeasList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "cellsForInterRATMeasList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellsForInterRATMeasList(ctx, &pvalue->cellsForInterRATMeasList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interRATCellInfoIndication-r6 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interRATCellInfoIndication-r6");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "InterRATCellInfoIndication");
-      stat = pd_ConsUInt8(ctx, &pvalue->interRATCellInfoIndication_r6, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATEvent(rtxContext* ctx, InterRATEvent* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "InterRATEvent");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "event3a");
-         pvalue->u.event3a = (Event3a*)rtxMemHeapAlloc(ctx, sizeof(Event3a));
-         if (pvalue->u.event3a == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_Event3a(pvalue->u.event3a);
-         stat = asn1PD_UMTS_Event3a(ctx, pvalue->u.event3a);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "event3b");
-         pvalue->u.event3b = (Event3b*)rtxMemHeapAlloc(ctx, sizeof(Event3b));
-         if (pvalue->u.event3b == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_Event3b(pvalue->u.event3b);
-         stat = asn1PD_UMTS_Event3b(ctx, pvalue->u.event3b);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "event3c");
-         pvalue->u.event3c = (Event3c*)rtxMemHeapAlloc(ctx, sizeof(Event3c));
-         if (pvalue->u.event3c == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_Event3c(pvalue->u.event3c);
-         stat = asn1PD_UMTS_Event3c(ctx, pvalue->u.event3c);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "event3d");
-         pvalue->u.event3d = (Event3d*)rtxMemHeapAlloc(ctx, sizeof(Event3d));
-         if (pvalue->u.event3d == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_Event3d(pvalue->u.event3d);
-         stat = asn1PD_UMTS_Event3d(ctx, pvalue->u.event3d);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATEventList(rtxContext* ctx, InterRATEventList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "InterRATEventList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      InterRATEvent* elem;
-      rtxCtxtPushArrayElemName(ctx, "InterRATEvent", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(InterRATEvent));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (InterRATEvent*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_InterRATEvent(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_InterRATEvent(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementQuantityGSM(rtxContext* ctx, MeasurementQuantityGSM* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MeasurementQuantityGSM");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATMeasQuantity_ratSpecificInfo_gsm(rtxContext* ctx, InterRATMeasQuantity_ratSpecificInfo_gsm* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measurementQuantity */
-   rtxCtxtPushElemName(ctx, "measurementQuantity");
-   rtxCtxtPushTypeName(ctx, "MeasurementQuantityGSM");
-   stat = pd_ConsUnsigned(ctx, &pvalue->measurementQuantity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* filterCoefficient */
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverFromUTRANCommand-GSM-v690ext-IEs");
+   /* geran-SystemInfoType */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "filterCoefficient");
-      rtxCtxtPushTypeName(ctx, "FilterCoefficient");
-      stat = pd_ConsUnsigned(ctx, &pvalue->filterCoefficient, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_v690ext_IEs_geran_SystemInfoType(ctx, &pvalue->geran_SystemInfoType);
+      RT_CHECK(ctx, stat, 0, "geran-SystemInfoType", -1, "HandoverFromUTRANCommand-GSM-v690ext-IEs");
    }
-   else {
-      pvalue->filterCoefficient = 0;
-   }
-   /* bsic-VerificationRequired */
-   rtxCtxtPushElemName(ctx, "bsic-VerificationRequired");
-   rtxCtxtPushTypeName(ctx, "BSIC-VerificationRequired");
-   stat = pd_ConsUnsigned(ctx, &pvalue->bsic_VerificationRequired, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_InterRATMeasQuantity_ratSpecificInfo_is_2000(rtxContext* ctx, InterRATMeasQuantity_ratSpecificInfo_is_2000* pvalue)
+int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_v860ext_IEs(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverFromUTRANCommand-GSM-v860ext-IEs");
+   /* sr-vcc-SecurityRABInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SR_VCC_SecurityRABInfo_v860ext(ctx, &pvalue->sr_vcc_SecurityRABInfo);
+      RT_CHECK(ctx, stat, 0, "sr-vcc-SecurityRABInfo", -1, "HandoverFromUTRANCommand-GSM-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverFromUTRANCommand-GSM-v860ext */
+   stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_v860ext_IEs(ctx, &pvalue->handoverFromUTRANCommand_GSM_v860ext);
+   RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-GSM-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverFromUTRANCommand-GSM-v690ext */
+   stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_v690ext_IEs(ctx, &pvalue->handoverFromUTRANCommand_GSM_v690ext);
+   RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-GSM-v690ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* tadd-EcIo */
-   rtxCtxtPushElemName(ctx, "tadd-EcIo");
-   stat = pd_ConsUInt8(ctx, &pvalue->tadd_EcIo, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tcomp-EcIo */
-   rtxCtxtPushElemName(ctx, "tcomp-EcIo");
-   stat = pd_ConsUInt8(ctx, &pvalue->tcomp_EcIo, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* softSlope */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverFromUTRANCommand-GSM-r3-add-ext */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "softSlope");
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->softSlope, 0, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_DynBitString(ctx, &pvalue->handoverFromUTRANCommand_GSM_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-GSM-r3-add-ext", -1, 0);
    }
-   /* addIntercept */
+   /* v690NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "addIntercept");
       pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->addIntercept, 0, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_InterRATMeasQuantity_ratSpecificInfo(rtxContext* ctx, InterRATMeasQuantity_ratSpecificInfo* pvalue)
+int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverFromUTRANCommand-GSM-r3 */
+   stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs(ctx, &pvalue->handoverFromUTRANCommand_GSM_r3);
+   RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-GSM-r3", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_single_GSM_Message(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_single_GSM_Message* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_gsm_MessageList(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_gsm_MessageList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* gsm-Messages */
+   stat = asn1PD_UMTS_GSM_MessageList(ctx, &pvalue->gsm_Messages);
+   RT_CHECK(ctx, stat, 0, "gsm-Messages", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "gsm");
-         pvalue->u.gsm = (InterRATMeasQuantity_ratSpecificInfo_gsm*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasQuantity_ratSpecificInfo_gsm));
-         if (pvalue->u.gsm == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterRATMeasQuantity_ratSpecificInfo_gsm(pvalue->u.gsm);
-         stat = asn1PD_UMTS_InterRATMeasQuantity_ratSpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 0: /* single-GSM-Message */
+         pvalue->u.single_GSM_Message = (HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_single_GSM_Message*)rtxMemHeapAllocZ(ctx, sizeof(HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_single_GSM_Message));
+         if (pvalue->u.single_GSM_Message == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "single-GSM-Message", -1, 0);
+         stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_single_GSM_Message(ctx, pvalue->u.single_GSM_Message);
+         RT_CHECK(ctx, stat, 0, "single-GSM-Message", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "is-2000");
-         pvalue->u.is_2000 = (InterRATMeasQuantity_ratSpecificInfo_is_2000*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasQuantity_ratSpecificInfo_is_2000));
-         if (pvalue->u.is_2000 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterRATMeasQuantity_ratSpecificInfo_is_2000(pvalue->u.is_2000);
-         stat = asn1PD_UMTS_InterRATMeasQuantity_ratSpecificInfo_is_2000(ctx, pvalue->u.is_2000);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 1: /* gsm-MessageList */
+         pvalue->u.gsm_MessageList = (HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_gsm_MessageList*)rtxMemHeapAlloc(ctx, sizeof(HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_gsm_MessageList));
+         if (pvalue->u.gsm_MessageList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm-MessageList", -1, 0);
+         asn1Init_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_gsm_MessageList(pvalue->u.gsm_MessageList);
+         stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_gsm_MessageList(ctx, pvalue->u.gsm_MessageList);
+         RT_CHECK(ctx, stat, 0, "gsm-MessageList", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_InterRATMeasQuantity(rtxContext* ctx, InterRATMeasQuantity* pvalue)
+int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_geran_SystemInfoType(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_r6_IEs_geran_SystemInfoType* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* sI */
+         pvalue->u.sI = (GERAN_SystemInformation*)rtxMemHeapAlloc(ctx, sizeof(GERAN_SystemInformation));
+         if (pvalue->u.sI == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "sI", -1, 0);
+         asn1Init_UMTS_GERAN_SystemInformation(pvalue->u.sI);
+         stat = asn1PD_UMTS_GERAN_SystemInformation(ctx, pvalue->u.sI);
+         RT_CHECK(ctx, stat, 0, "sI", -1, 0);
+         break;
+      case 1: /* pSI */
+         pvalue->u.pSI = (GERAN_SystemInformation*)rtxMemHeapAlloc(ctx, sizeof(GERAN_SystemInformation));
+         if (pvalue->u.pSI == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "pSI", -1, 0);
+         asn1Init_UMTS_GERAN_SystemInformation(pvalue->u.pSI);
+         stat = asn1PD_UMTS_GERAN_SystemInformation(ctx, pvalue->u.pSI);
+         RT_CHECK(ctx, stat, 0, "pSI", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_r6_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterRATMeasQuantity");
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverFromUTRANCommand-GSM-r6-IEs");
+   /* activationTime */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "HandoverFromUTRANCommand-GSM-r6-IEs");
+   }
+   /* toHandoverRAB-Info */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RAB_InformationList_r6(ctx, &pvalue->toHandoverRAB_Info);
+      RT_CHECK(ctx, stat, 0, "toHandoverRAB-Info", -1, "HandoverFromUTRANCommand-GSM-r6-IEs");
+   }
+   /* frequency-band */
+   stat = pd_ConsUnsigned(ctx, &pvalue->frequency_band, 0, 1);
+   RT_CHECK(ctx, stat, "Frequency-Band", "frequency-band", -1, "HandoverFromUTRANCommand-GSM-r6-IEs");
+   /* gsm-message */
+   stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message(ctx, &pvalue->gsm_message);
+   RT_CHECK(ctx, stat, 0, "gsm-message", -1, "HandoverFromUTRANCommand-GSM-r6-IEs");
+   /* geran-SystemInfoType */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_geran_SystemInfoType(ctx, &pvalue->geran_SystemInfoType);
+      RT_CHECK(ctx, stat, 0, "geran-SystemInfoType", -1, "HandoverFromUTRANCommand-GSM-r6-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measQuantityUTRAN-QualityEstimate */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverFromUTRANCommand-GSM-v860ext */
+   stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_v860ext_IEs(ctx, &pvalue->handoverFromUTRANCommand_GSM_v860ext);
+   RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-GSM-v860ext", -1, 0);
+   /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "measQuantityUTRAN-QualityEstimate");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->measQuantityUTRAN_QualityEstimate);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
-   /* ratSpecificInfo */
-   rtxCtxtPushElemName(ctx, "ratSpecificInfo");
-   stat = asn1PD_UMTS_InterRATMeasQuantity_ratSpecificInfo(ctx, &pvalue->ratSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_gsm(rtxContext* ctx, InterRATMeasQuantity_r8_ratSpecificInfo_gsm* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measurementQuantity */
-   rtxCtxtPushElemName(ctx, "measurementQuantity");
-   rtxCtxtPushTypeName(ctx, "MeasurementQuantityGSM");
-   stat = pd_ConsUnsigned(ctx, &pvalue->measurementQuantity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* filterCoefficient */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "filterCoefficient");
-      rtxCtxtPushTypeName(ctx, "FilterCoefficient");
-      stat = pd_ConsUnsigned(ctx, &pvalue->filterCoefficient, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->filterCoefficient = 0;
-   }
-   /* bsic-VerificationRequired */
-   rtxCtxtPushElemName(ctx, "bsic-VerificationRequired");
-   rtxCtxtPushTypeName(ctx, "BSIC-VerificationRequired");
-   stat = pd_ConsUnsigned(ctx, &pvalue->bsic_VerificationRequired, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_is_2000(rtxContext* ctx, InterRATMeasQuantity_r8_ratSpecificInfo_is_2000* pvalue)
+int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* tadd-EcIo */
-   rtxCtxtPushElemName(ctx, "tadd-EcIo");
-   stat = pd_ConsUInt8(ctx, &pvalue->tadd_EcIo, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tcomp-EcIo */
-   rtxCtxtPushElemName(ctx, "tcomp-EcIo");
-   stat = pd_ConsUInt8(ctx, &pvalue->tcomp_EcIo, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* softSlope */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverFromUTRANCommand-GSM-r6 */
+   stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs(ctx, &pvalue->handoverFromUTRANCommand_GSM_r6);
+   RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-GSM-r6", -1, 0);
+   /* handoverFromUTRANCommand-GSM-r6-add-ext */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "softSlope");
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->softSlope, 0, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_DynBitString(ctx, &pvalue->handoverFromUTRANCommand_GSM_r6_add_ext);
+      RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-GSM-r6-add-ext", -1, 0);
    }
-   /* addIntercept */
+   /* v860NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "addIntercept");
       pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->addIntercept, 0, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementQuantityEUTRA(rtxContext* ctx, MeasurementQuantityEUTRA* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MeasurementQuantityEUTRA");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_e_UTRA(rtxContext* ctx, InterRATMeasQuantity_r8_ratSpecificInfo_e_UTRA* pvalue)
+int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   uint32_t present;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measurementQuantity */
-   rtxCtxtPushElemName(ctx, "measurementQuantity");
-   rtxCtxtPushTypeName(ctx, "MeasurementQuantityEUTRA");
-   stat = pd_ConsUnsigned(ctx, &pvalue->measurementQuantity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* filterCoefficient */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "filterCoefficient");
-      rtxCtxtPushTypeName(ctx, "FilterCoefficient");
-      stat = pd_ConsUnsigned(ctx, &pvalue->filterCoefficient, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->filterCoefficient = 0;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo(rtxContext* ctx, InterRATMeasQuantity_r8_ratSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "gsm");
-         pvalue->u.gsm = (InterRATMeasQuantity_r8_ratSpecificInfo_gsm*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasQuantity_r8_ratSpecificInfo_gsm));
-         if (pvalue->u.gsm == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_gsm(pvalue->u.gsm);
-         stat = asn1PD_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "is-2000");
-         pvalue->u.is_2000 = (InterRATMeasQuantity_r8_ratSpecificInfo_is_2000*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasQuantity_r8_ratSpecificInfo_is_2000));
-         if (pvalue->u.is_2000 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_is_2000(pvalue->u.is_2000);
-         stat = asn1PD_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_is_2000(ctx, pvalue->u.is_2000);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "e-UTRA");
-         pvalue->u.e_UTRA = (InterRATMeasQuantity_r8_ratSpecificInfo_e_UTRA*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasQuantity_r8_ratSpecificInfo_e_UTRA));
-         if (pvalue->u.e_UTRA == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_e_UTRA(pvalue->u.e_UTRA);
-         stat = asn1PD_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_e_UTRA(ctx, pvalue->u.e_UTRA);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATMeasQuantity_r8(rtxContext* ctx, InterRATMeasQuantity_r8* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterRATMeasQuantity-r8");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measQuantityUTRAN-QualityEstimate */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "measQuantityUTRAN-QualityEstimate");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->measQuantityUTRAN_QualityEstimate);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ratSpecificInfo */
-   rtxCtxtPushElemName(ctx, "ratSpecificInfo");
-   stat = asn1PD_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo(ctx, &pvalue->ratSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATMeasuredResults(rtxContext* ctx, InterRATMeasuredResults* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "InterRATMeasuredResults");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "gsm");
-         pvalue->u.gsm = (GSM_MeasuredResultsList*)rtxMemHeapAlloc(ctx, sizeof(GSM_MeasuredResultsList));
-         if (pvalue->u.gsm == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_GSM_MeasuredResultsList(pvalue->u.gsm);
-         stat = asn1PD_UMTS_GSM_MeasuredResultsList(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "spare");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATMeasuredResultsList(rtxContext* ctx, InterRATMeasuredResultsList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "InterRATMeasuredResultsList");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      InterRATMeasuredResults* elem;
-      rtxCtxtPushArrayElemName(ctx, "InterRATMeasuredResults", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(InterRATMeasuredResults));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (InterRATMeasuredResults*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_InterRATMeasuredResults(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_InterRATMeasuredResults(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATReportingQuantity_ratSpecificInfo_gsm(rtxContext* ctx, InterRATReportingQuantity_ratSpecificInfo_gsm* pvalue)
-{
-   int stat = 0;
-   /* dummy */
-   rtxCtxtPushElemName(ctx, "dummy");
-   stat = rtxDecBitInline(ctx, &pvalue->dummy);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dummy2 */
-   rtxCtxtPushElemName(ctx, "dummy2");
-   stat = rtxDecBitInline(ctx, &pvalue->dummy2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gsm-Carrier-RSSI */
-   rtxCtxtPushElemName(ctx, "gsm-Carrier-RSSI");
-   stat = rtxDecBitInline(ctx, &pvalue->gsm_Carrier_RSSI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATReportingQuantity_ratSpecificInfo(rtxContext* ctx, InterRATReportingQuantity_ratSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "gsm");
-         pvalue->u.gsm = (InterRATReportingQuantity_ratSpecificInfo_gsm*)rtxMemHeapAllocZ(ctx, sizeof(InterRATReportingQuantity_ratSpecificInfo_gsm));
-         if (pvalue->u.gsm == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_InterRATReportingQuantity_ratSpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATReportingQuantity(rtxContext* ctx, InterRATReportingQuantity* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "InterRATReportingQuantity");
-   /* utran-EstimatedQuality */
-   rtxCtxtPushElemName(ctx, "utran-EstimatedQuality");
-   stat = rtxDecBitInline(ctx, &pvalue->utran_EstimatedQuality);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ratSpecificInfo */
-   rtxCtxtPushElemName(ctx, "ratSpecificInfo");
-   stat = asn1PD_UMTS_InterRATReportingQuantity_ratSpecificInfo(ctx, &pvalue->ratSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATReportingCriteria(rtxContext* ctx, InterRATReportingCriteria* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterRATReportingCriteria");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* interRATEventList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interRATEventList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATEventList(ctx, &pvalue->interRATEventList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATReportCriteria(rtxContext* ctx, InterRATReportCriteria* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "InterRATReportCriteria");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "interRATReportingCriteria");
-         pvalue->u.interRATReportingCriteria = (InterRATReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(InterRATReportingCriteria));
-         if (pvalue->u.interRATReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterRATReportingCriteria(pvalue->u.interRATReportingCriteria);
-         stat = asn1PD_UMTS_InterRATReportingCriteria(ctx, pvalue->u.interRATReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-         pvalue->u.periodicalReportingCriteria = (PeriodicalWithReportingCellStatus*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalWithReportingCellStatus));
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PeriodicalWithReportingCellStatus(pvalue->u.periodicalReportingCriteria);
-         stat = asn1PD_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "noReporting");
-         pvalue->u.noReporting = (ReportingCellStatusOpt*)rtxMemHeapAlloc(ctx, sizeof(ReportingCellStatusOpt));
-         if (pvalue->u.noReporting == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_ReportingCellStatusOpt(pvalue->u.noReporting);
-         stat = asn1PD_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATMeasurement(rtxContext* ctx, InterRATMeasurement* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterRATMeasurement");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* interRATCellInfoList */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "interRATCellInfoList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATCellInfoList(ctx, &pvalue->interRATCellInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interRATMeasQuantity */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "interRATMeasQuantity");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InterRATMeasQuantity(ctx, &pvalue->interRATMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interRATReportingQuantity */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interRATReportingQuantity");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_InterRATReportingQuantity(ctx, &pvalue->interRATReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PD_UMTS_InterRATReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATMeasurement_r4(rtxContext* ctx, InterRATMeasurement_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterRATMeasurement-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* interRATCellInfoList */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "interRATCellInfoList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATCellInfoList_r4(ctx, &pvalue->interRATCellInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interRATMeasQuantity */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "interRATMeasQuantity");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InterRATMeasQuantity(ctx, &pvalue->interRATMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interRATReportingQuantity */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interRATReportingQuantity");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_InterRATReportingQuantity(ctx, &pvalue->interRATReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PD_UMTS_InterRATReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATMeasurement_r6(rtxContext* ctx, InterRATMeasurement_r6* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterRATMeasurement-r6");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* interRATCellInfoList */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "interRATCellInfoList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATCellInfoList_r6(ctx, &pvalue->interRATCellInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interRATMeasQuantity */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "interRATMeasQuantity");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InterRATMeasQuantity(ctx, &pvalue->interRATMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interRATReportingQuantity */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interRATReportingQuantity");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_InterRATReportingQuantity(ctx, &pvalue->interRATReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PD_UMTS_InterRATReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATMeasurement_r8_interRATMeasurementObjects(rtxContext* ctx, InterRATMeasurement_r8_interRATMeasurementObjects* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "interRATCellInfoList");
-         pvalue->u.interRATCellInfoList = (InterRATCellInfoList_r6*)rtxMemHeapAlloc(ctx, sizeof(InterRATCellInfoList_r6));
-         if (pvalue->u.interRATCellInfoList == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterRATCellInfoList_r6(pvalue->u.interRATCellInfoList);
-         stat = asn1PD_UMTS_InterRATCellInfoList_r6(ctx, pvalue->u.interRATCellInfoList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "eutra-FrequencyList");
-         pvalue->u.eutra_FrequencyList = (EUTRA_FrequencyList*)rtxMemHeapAlloc(ctx, sizeof(EUTRA_FrequencyList));
-         if (pvalue->u.eutra_FrequencyList == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_EUTRA_FrequencyList(pvalue->u.eutra_FrequencyList);
-         stat = asn1PD_UMTS_EUTRA_FrequencyList(ctx, pvalue->u.eutra_FrequencyList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo_gsm(rtxContext* ctx, InterRATReportingQuantity_r8_ratSpecificInfo_gsm* pvalue)
-{
-   int stat = 0;
-   /* gsm-Carrier-RSSI */
-   rtxCtxtPushElemName(ctx, "gsm-Carrier-RSSI");
-   stat = rtxDecBitInline(ctx, &pvalue->gsm_Carrier_RSSI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo_eutra_reportingQuantity(rtxContext* ctx, InterRATReportingQuantity_r8_ratSpecificInfo_eutra_reportingQuantity* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo_eutra(rtxContext* ctx, InterRATReportingQuantity_r8_ratSpecificInfo_eutra* pvalue)
-{
-   int stat = 0;
-   /* reportingQuantity */
-   rtxCtxtPushElemName(ctx, "reportingQuantity");
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportingQuantity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo(rtxContext* ctx, InterRATReportingQuantity_r8_ratSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "gsm");
-         pvalue->u.gsm = (InterRATReportingQuantity_r8_ratSpecificInfo_gsm*)rtxMemHeapAllocZ(ctx, sizeof(InterRATReportingQuantity_r8_ratSpecificInfo_gsm));
-         if (pvalue->u.gsm == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "eutra");
-         pvalue->u.eutra = (InterRATReportingQuantity_r8_ratSpecificInfo_eutra*)rtxMemHeapAllocZ(ctx, sizeof(InterRATReportingQuantity_r8_ratSpecificInfo_eutra));
-         if (pvalue->u.eutra == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo_eutra(ctx, pvalue->u.eutra);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATReportingQuantity_r8(rtxContext* ctx, InterRATReportingQuantity_r8* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "InterRATReportingQuantity-r8");
-   /* utran-EstimatedQuality */
-   rtxCtxtPushElemName(ctx, "utran-EstimatedQuality");
-   stat = rtxDecBitInline(ctx, &pvalue->utran_EstimatedQuality);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ratSpecificInfo */
-   rtxCtxtPushElemName(ctx, "ratSpecificInfo");
-   stat = asn1PD_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo(ctx, &pvalue->ratSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATMeasurement_r8(rtxContext* ctx, InterRATMeasurement_r8* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterRATMeasurement-r8");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* interRATMeasurementObjects */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "interRATMeasurementObjects");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATMeasurement_r8_interRATMeasurementObjects(ctx, &pvalue->interRATMeasurementObjects);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interRATMeasQuantity */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "interRATMeasQuantity");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InterRATMeasQuantity_r8(ctx, &pvalue->interRATMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interRATReportingQuantity */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "interRATReportingQuantity");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_InterRATReportingQuantity_r8(ctx, &pvalue->interRATReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PD_UMTS_InterRATReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* idleIntervalInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "idleIntervalInfo");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_IdleIntervalInfo(ctx, &pvalue->idleIntervalInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATMeasurement_r9_interRATMeasurementObjects(rtxContext* ctx, InterRATMeasurement_r9_interRATMeasurementObjects* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "interRATCellInfoList");
-         pvalue->u.interRATCellInfoList = (InterRATCellInfoList_r6*)rtxMemHeapAlloc(ctx, sizeof(InterRATCellInfoList_r6));
-         if (pvalue->u.interRATCellInfoList == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterRATCellInfoList_r6(pvalue->u.interRATCellInfoList);
-         stat = asn1PD_UMTS_InterRATCellInfoList_r6(ctx, pvalue->u.interRATCellInfoList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "eutra-FrequencyList");
-         pvalue->u.eutra_FrequencyList = (EUTRA_FrequencyList_r9*)rtxMemHeapAlloc(ctx, sizeof(EUTRA_FrequencyList_r9));
-         if (pvalue->u.eutra_FrequencyList == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_EUTRA_FrequencyList_r9(pvalue->u.eutra_FrequencyList);
-         stat = asn1PD_UMTS_EUTRA_FrequencyList_r9(ctx, pvalue->u.eutra_FrequencyList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATMeasurement_r9(rtxContext* ctx, InterRATMeasurement_r9* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterRATMeasurement-r9");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* interRATMeasurementObjects */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "interRATMeasurementObjects");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATMeasurement_r9_interRATMeasurementObjects(ctx, &pvalue->interRATMeasurementObjects);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interRATMeasQuantity */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "interRATMeasQuantity");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InterRATMeasQuantity_r8(ctx, &pvalue->interRATMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interRATReportingQuantity */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "interRATReportingQuantity");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_InterRATReportingQuantity_r8(ctx, &pvalue->interRATReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PD_UMTS_InterRATReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* idleIntervalInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "idleIntervalInfo");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_IdleIntervalInfo(ctx, &pvalue->idleIntervalInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewIntraFreqCell(rtxContext* ctx, NewIntraFreqCell* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCell");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* intraFreqCellID */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellID");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "IntraFreqCellID");
-      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PD_UMTS_CellInfo(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewIntraFreqCellList(rtxContext* ctx, NewIntraFreqCellList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellList");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NewIntraFreqCell* elem;
-      rtxCtxtPushArrayElemName(ctx, "NewIntraFreqCell", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCell));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (NewIntraFreqCell*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NewIntraFreqCell(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewIntraFreqCell(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqCellInfoList(rtxContext* ctx, IntraFreqCellInfoList* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFreqCellInfoList");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* removedIntraFreqCellList */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "removedIntraFreqCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newIntraFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewIntraFreqCellList(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellsForIntraFreqMeasList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cellsForIntraFreqMeasList");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_CellsForIntraFreqMeasList(ctx, &pvalue->cellsForIntraFreqMeasList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewIntraFreqCell_r4(rtxContext* ctx, NewIntraFreqCell_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCell-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* intraFreqCellID */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellID");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "IntraFreqCellID");
-      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PD_UMTS_CellInfo_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewIntraFreqCellList_r4(rtxContext* ctx, NewIntraFreqCellList_r4* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellList-r4");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NewIntraFreqCell_r4* elem;
-      rtxCtxtPushArrayElemName(ctx, "NewIntraFreqCell-r4", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCell_r4));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (NewIntraFreqCell_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NewIntraFreqCell_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewIntraFreqCell_r4(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqCellInfoList_r4(rtxContext* ctx, IntraFreqCellInfoList_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFreqCellInfoList-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* removedIntraFreqCellList */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "removedIntraFreqCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newIntraFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewIntraFreqCellList_r4(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellsForIntraFreqMeasList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cellsForIntraFreqMeasList");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_CellsForIntraFreqMeasList(ctx, &pvalue->cellsForIntraFreqMeasList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RemovedIntraFreqCellListOnSecULFreq_removeSomeIntraFreqCells(rtxContext* ctx, RemovedIntraFreqCellListOnSecULFreq_removeSomeIntraFreqCells* pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 5);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 31) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "IntraFreqCellIDOnSecULFreq", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "IntraFreqCellIDOnSecULFreq");
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 31);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RemovedIntraFreqCellListOnSecULFreq(rtxContext* ctx, RemovedIntraFreqCellListOnSecULFreq* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "RemovedIntraFreqCellListOnSecULFreq");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "removeAllIntraFreqCells");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "removeSomeIntraFreqCells");
-         pvalue->u.removeSomeIntraFreqCells = (RemovedIntraFreqCellListOnSecULFreq_removeSomeIntraFreqCells*)rtxMemHeapAlloc(ctx, sizeof(RemovedIntraFreqCellListOnSecULFreq_removeSomeIntraFreqCells));
-         if (pvalue->u.removeSomeIntraFreqCells == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RemovedIntraFreqCellListOnSecULFreq_removeSomeIntraFreqCells(pvalue->u.removeSomeIntraFreqCells);
-         stat = asn1PD_UMTS_RemovedIntraFreqCellListOnSecULFreq_removeSomeIntraFreqCells(ctx, pvalue->u.removeSomeIntraFreqCells);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "removeNoIntraFreqCells");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewIntraFreqCellOnSecULFreq(rtxContext* ctx, NewIntraFreqCellOnSecULFreq* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellOnSecULFreq");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* intraFreqCellIDOnSecULFreq */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellIDOnSecULFreq");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "IntraFreqCellIDOnSecULFreq");
-      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqCellIDOnSecULFreq, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PD_UMTS_CellInfo_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewIntraFreqCellListOnSecULFreq(rtxContext* ctx, NewIntraFreqCellListOnSecULFreq* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellListOnSecULFreq");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NewIntraFreqCellOnSecULFreq* elem;
-      rtxCtxtPushArrayElemName(ctx, "NewIntraFreqCellOnSecULFreq", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCellOnSecULFreq));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (NewIntraFreqCellOnSecULFreq*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NewIntraFreqCellOnSecULFreq(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewIntraFreqCellOnSecULFreq(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqCellInfoListInfoOnSecULFreq(rtxContext* ctx, IntraFreqCellInfoListInfoOnSecULFreq* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFreqCellInfoListInfoOnSecULFreq");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* removedIntraFreqCellList */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "removedIntraFreqCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedIntraFreqCellListOnSecULFreq(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newIntraFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewIntraFreqCellListOnSecULFreq(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellsForIntraFreqMeasList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cellsForIntraFreqMeasList");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_CellsForIntraFreqMeasListOnSecULFreq(ctx, &pvalue->cellsForIntraFreqMeasList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqCellInfoListOnSecULFreq(rtxContext* ctx, IntraFreqCellInfoListOnSecULFreq* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "IntraFreqCellInfoListOnSecULFreq");
-   /* intraFreqCellInfoListOnSecULFreq */
-   rtxCtxtPushElemName(ctx, "intraFreqCellInfoListOnSecULFreq");
-   stat = asn1PD_UMTS_IntraFreqCellInfoListInfoOnSecULFreq(ctx, &pvalue->intraFreqCellInfoListOnSecULFreq);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewIntraFreqCell_r9(rtxContext* ctx, NewIntraFreqCell_r9* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCell-r9");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* intraFreqCellID */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellID");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "IntraFreqCellID");
-      stat = pd_ConsUInt8(ctx, &pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PD_UMTS_CellInfo_r9(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewIntraFreqCellList_r9(rtxContext* ctx, NewIntraFreqCellList_r9* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellList-r9");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NewIntraFreqCell_r9* elem;
-      rtxCtxtPushArrayElemName(ctx, "NewIntraFreqCell-r9", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCell_r9));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (NewIntraFreqCell_r9*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NewIntraFreqCell_r9(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewIntraFreqCell_r9(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqSIAcquisitionInfo(rtxContext* ctx, IntraFreqSIAcquisitionInfo* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "IntraFreqSIAcquisitionInfo");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      PrimaryCPICH_Info* elem;
-      rtxCtxtPushArrayElemName(ctx, "PrimaryCPICH-Info", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(PrimaryCPICH_Info));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (PrimaryCPICH_Info*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqSIAcquisition_modeSpecificInfo_fdd(rtxContext* ctx, IntraFreqSIAcquisition_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* intraFreqSIAcquisitionInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "intraFreqSIAcquisitionInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqSIAcquisitionInfo(ctx, &pvalue->intraFreqSIAcquisitionInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqSIAcquisition_modeSpecificInfo(rtxContext* ctx, IntraFreqSIAcquisition_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (IntraFreqSIAcquisition_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqSIAcquisition_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_IntraFreqSIAcquisition_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_IntraFreqSIAcquisition_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqSIAcquisition(rtxContext* ctx, IntraFreqSIAcquisition* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "IntraFreqSIAcquisition");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_IntraFreqSIAcquisition_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqCellInfoList_r9(rtxContext* ctx, IntraFreqCellInfoList_r9* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFreqCellInfoList-r9");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat);
-   /* removedIntraFreqCellList */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "removedIntraFreqCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newIntraFreqCellList */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewIntraFreqCellList_r9(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellsForIntraFreqMeasList */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "cellsForIntraFreqMeasList");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_CellsForIntraFreqMeasList(ctx, &pvalue->cellsForIntraFreqMeasList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cSGIntraFreqCellInfoList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "cSGIntraFreqCellInfoList");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_CSGIntraFreqCellInfoList(ctx, &pvalue->cSGIntraFreqCellInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqSIAcquisition */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "intraFreqSIAcquisition");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_IntraFreqSIAcquisition(ctx, &pvalue->intraFreqSIAcquisition);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqMeasuredResultsList(rtxContext* ctx, IntraFreqMeasuredResultsList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "IntraFreqMeasuredResultsList");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CellMeasuredResults* elem;
-      rtxCtxtPushArrayElemName(ctx, "CellMeasuredResults", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellMeasuredResults));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (CellMeasuredResults*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CellMeasuredResults(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CellMeasuredResults(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqMeasuredResultsList_v920ext(rtxContext* ctx, IntraFreqMeasuredResultsList_v920ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "IntraFreqMeasuredResultsList-v920ext");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CellMeasuredResults_v920ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "CellMeasuredResults-v920ext", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellMeasuredResults_v920ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (CellMeasuredResults_v920ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CellMeasuredResults_v920ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CellMeasuredResults_v920ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqReportCriteria(rtxContext* ctx, IntraFreqReportCriteria* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "IntraFreqReportCriteria");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "intraFreqReportingCriteria");
-         pvalue->u.intraFreqReportingCriteria = (IntraFreqReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingCriteria));
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_IntraFreqReportingCriteria(pvalue->u.intraFreqReportingCriteria);
-         stat = asn1PD_UMTS_IntraFreqReportingCriteria(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-         pvalue->u.periodicalReportingCriteria = (PeriodicalWithReportingCellStatus*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalWithReportingCellStatus));
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PeriodicalWithReportingCellStatus(pvalue->u.periodicalReportingCriteria);
-         stat = asn1PD_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "noReporting");
-         pvalue->u.noReporting = (ReportingCellStatusOpt*)rtxMemHeapAlloc(ctx, sizeof(ReportingCellStatusOpt));
-         if (pvalue->u.noReporting == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_ReportingCellStatusOpt(pvalue->u.noReporting);
-         stat = asn1PD_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqReportCriteria_r4(rtxContext* ctx, IntraFreqReportCriteria_r4* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "IntraFreqReportCriteria-r4");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "intraFreqReportingCriteria");
-         pvalue->u.intraFreqReportingCriteria = (IntraFreqReportingCriteria_r4*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingCriteria_r4));
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_IntraFreqReportingCriteria_r4(pvalue->u.intraFreqReportingCriteria);
-         stat = asn1PD_UMTS_IntraFreqReportingCriteria_r4(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-         pvalue->u.periodicalReportingCriteria = (PeriodicalWithReportingCellStatus*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalWithReportingCellStatus));
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PeriodicalWithReportingCellStatus(pvalue->u.periodicalReportingCriteria);
-         stat = asn1PD_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "noReporting");
-         pvalue->u.noReporting = (ReportingCellStatusOpt*)rtxMemHeapAlloc(ctx, sizeof(ReportingCellStatusOpt));
-         if (pvalue->u.noReporting == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_ReportingCellStatusOpt(pvalue->u.noReporting);
-         stat = asn1PD_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqReportCriteria_r6(rtxContext* ctx, IntraFreqReportCriteria_r6* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "IntraFreqReportCriteria-r6");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "intraFreqReportingCriteria");
-         pvalue->u.intraFreqReportingCriteria = (IntraFreqReportingCriteria_r6*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingCriteria_r6));
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_IntraFreqReportingCriteria_r6(pvalue->u.intraFreqReportingCriteria);
-         stat = asn1PD_UMTS_IntraFreqReportingCriteria_r6(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-         pvalue->u.periodicalReportingCriteria = (PeriodicalWithReportingCellStatus*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalWithReportingCellStatus));
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PeriodicalWithReportingCellStatus(pvalue->u.periodicalReportingCriteria);
-         stat = asn1PD_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "noReporting");
-         pvalue->u.noReporting = (ReportingCellStatusOpt*)rtxMemHeapAlloc(ctx, sizeof(ReportingCellStatusOpt));
-         if (pvalue->u.noReporting == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_ReportingCellStatusOpt(pvalue->u.noReporting);
-         stat = asn1PD_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqReportCriteria_r7(rtxContext* ctx, IntraFreqReportCriteria_r7* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "IntraFreqReportCriteria-r7");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "intraFreqReportingCriteria");
-         pvalue->u.intraFreqReportingCriteria = (IntraFreqReportingCriteria_r7*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingCriteria_r7));
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_IntraFreqReportingCriteria_r7(pvalue->u.intraFreqReportingCriteria);
-         stat = asn1PD_UMTS_IntraFreqReportingCriteria_r7(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-         pvalue->u.periodicalReportingCriteria = (PeriodicalWithReportingCellStatus*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalWithReportingCellStatus));
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PeriodicalWithReportingCellStatus(pvalue->u.periodicalReportingCriteria);
-         stat = asn1PD_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "noReporting");
-         pvalue->u.noReporting = (ReportingCellStatusOpt*)rtxMemHeapAlloc(ctx, sizeof(ReportingCellStatusOpt));
-         if (pvalue->u.noReporting == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_ReportingCellStatusOpt(pvalue->u.noReporting);
-         stat = asn1PD_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFreqReportCriteria_r9(rtxContext* ctx, IntraFreqReportCriteria_r9* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "IntraFreqReportCriteria-r9");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "intraFreqReportingCriteria");
-         pvalue->u.intraFreqReportingCriteria = (IntraFreqReportingCriteria_r9*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqReportingCriteria_r9));
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_IntraFreqReportingCriteria_r9(pvalue->u.intraFreqReportingCriteria);
-         stat = asn1PD_UMTS_IntraFreqReportingCriteria_r9(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-         pvalue->u.periodicalReportingCriteria = (PeriodicalWithReportingCellStatus*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalWithReportingCellStatus));
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PeriodicalWithReportingCellStatus(pvalue->u.periodicalReportingCriteria);
-         stat = asn1PD_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "noReporting");
-         pvalue->u.noReporting = (ReportingCellStatusOpt*)rtxMemHeapAlloc(ctx, sizeof(ReportingCellStatusOpt));
-         if (pvalue->u.noReporting == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_ReportingCellStatusOpt(pvalue->u.noReporting);
-         stat = asn1PD_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFrequencyMeasurement(rtxContext* ctx, IntraFrequencyMeasurement* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFrequencyMeasurement");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat);
-   /* intraFreqCellInfoList */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellInfoList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqCellInfoList(ctx, &pvalue->intraFreqCellInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqMeasQuantity */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasQuantity");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqReportingQuantity */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "intraFreqReportingQuantity");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementValidity */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "measurementValidity");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "reportCriteria");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_IntraFreqReportCriteria(ctx, &pvalue->reportCriteria);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFrequencyMeasurement_r4(rtxContext* ctx, IntraFrequencyMeasurement_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFrequencyMeasurement-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat);
-   /* intraFreqCellInfoList */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellInfoList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqCellInfoList_r4(ctx, &pvalue->intraFreqCellInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqMeasQuantity */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasQuantity");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqReportingQuantity */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "intraFreqReportingQuantity");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementValidity */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "measurementValidity");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "reportCriteria");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_IntraFreqReportCriteria_r4(ctx, &pvalue->reportCriteria);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFrequencyMeasurement_r6(rtxContext* ctx, IntraFrequencyMeasurement_r6* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFrequencyMeasurement-r6");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* intraFreqCellInfoList */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellInfoList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqCellInfoList_r4(ctx, &pvalue->intraFreqCellInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqMeasQuantity */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasQuantity");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqReportingQuantity */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "intraFreqReportingQuantity");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementValidity */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "measurementValidity");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PD_UMTS_IntraFreqReportCriteria_r6(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFrequencyMeasurement_r7(rtxContext* ctx, IntraFrequencyMeasurement_r7* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFrequencyMeasurement-r7");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat);
-   /* intraFreqCellInfoList */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellInfoList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqCellInfoList_r4(ctx, &pvalue->intraFreqCellInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqMeasQuantity */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasQuantity");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqReportingQuantity */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "intraFreqReportingQuantity");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementValidity */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "measurementValidity");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "reportCriteria");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_IntraFreqReportCriteria_r7(ctx, &pvalue->reportCriteria);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFrequencyMeasurement_r9(rtxContext* ctx, IntraFrequencyMeasurement_r9* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "IntraFrequencyMeasurement-r9");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat);
-   /* intraFreqCellInfoList */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellInfoList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqCellInfoList_r9(ctx, &pvalue->intraFreqCellInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqCellInfoListOnSecULFreq */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellInfoListOnSecULFreq");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_IntraFreqCellInfoListOnSecULFreq(ctx, &pvalue->intraFreqCellInfoListOnSecULFreq);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqMeasQuantity */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasQuantity");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqReportingQuantity */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "intraFreqReportingQuantity");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementValidity */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "measurementValidity");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "reportCriteria");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_IntraFreqReportCriteria_r9(ctx, &pvalue->reportCriteria);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IntraFrequencyMeasuredResultsListOnSecULFreq(rtxContext* ctx, IntraFrequencyMeasuredResultsListOnSecULFreq* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "IntraFrequencyMeasuredResultsListOnSecULFreq");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CellMeasuredResults_r9* elem;
-      rtxCtxtPushArrayElemName(ctx, "CellMeasuredResults-r9", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CellMeasuredResults_r9));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (CellMeasuredResults_r9*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CellMeasuredResults_r9(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CellMeasuredResults_r9(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IP_Length(rtxContext* ctx, IP_Length* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "IP-Length");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IP_PCCPCH_r4(rtxContext* ctx, IP_PCCPCH_r4* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "IP-PCCPCH-r4");
-   stat = rtxDecBitInline(ctx, pvalue);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IP_Spacing(rtxContext* ctx, IP_Spacing* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "IP-Spacing");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_IP_Spacing_TDD(rtxContext* ctx, IP_Spacing_TDD* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "IP-Spacing-TDD");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RLC_BuffersPayload(rtxContext* ctx, RLC_BuffersPayload* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "RLC-BuffersPayload");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_VarianceOfRLC_BufferPayload(rtxContext* ctx, VarianceOfRLC_BufferPayload* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "VarianceOfRLC-BufferPayload");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TrafficVolumeMeasuredResults(rtxContext* ctx, TrafficVolumeMeasuredResults* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "TrafficVolumeMeasuredResults");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* rb-Identity */
-   rtxCtxtPushElemName(ctx, "rb-Identity");
-   rtxCtxtPushTypeName(ctx, "RB-Identity");
-   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* rlc-BuffersPayload */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "rlc-BuffersPayload");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "RLC-BuffersPayload");
-      stat = pd_ConsUnsigned(ctx, &pvalue->rlc_BuffersPayload, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* averageRLC-BufferPayload */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "averageRLC-BufferPayload");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "AverageRLC-BufferPayload");
-      stat = pd_ConsUnsigned(ctx, &pvalue->averageRLC_BufferPayload, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* varianceOfRLC-BufferPayload */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "varianceOfRLC-BufferPayload");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "VarianceOfRLC-BufferPayload");
-      stat = pd_ConsUnsigned(ctx, &pvalue->varianceOfRLC_BufferPayload, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TrafficVolumeMeasuredResultsList(rtxContext* ctx, TrafficVolumeMeasuredResultsList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "TrafficVolumeMeasuredResultsList");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      TrafficVolumeMeasuredResults* elem;
-      rtxCtxtPushArrayElemName(ctx, "TrafficVolumeMeasuredResults", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TrafficVolumeMeasuredResults));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (TrafficVolumeMeasuredResults*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_TrafficVolumeMeasuredResults(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_TrafficVolumeMeasuredResults(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SIR(rtxContext* ctx, SIR* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "SIR");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SIR_TimeslotList(rtxContext* ctx, SIR_TimeslotList* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "SIR-TimeslotList");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 13) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "SIR", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "SIR");
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 63);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SIR_MeasurementResults(rtxContext* ctx, SIR_MeasurementResults* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SIR-MeasurementResults");
-   /* tfcs-ID */
-   rtxCtxtPushElemName(ctx, "tfcs-ID");
-   rtxCtxtPushTypeName(ctx, "TFCS-IdentityPlain");
-   stat = pd_ConsUInt8(ctx, &pvalue->tfcs_ID, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* sir-TimeslotList */
-   rtxCtxtPushElemName(ctx, "sir-TimeslotList");
-   stat = asn1PD_UMTS_SIR_TimeslotList(ctx, &pvalue->sir_TimeslotList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SIR_MeasurementList(rtxContext* ctx, SIR_MeasurementList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "SIR-MeasurementList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      SIR_MeasurementResults* elem;
-      rtxCtxtPushArrayElemName(ctx, "SIR-MeasurementResults", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SIR_MeasurementResults));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (SIR_MeasurementResults*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_SIR_MeasurementResults(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_SIR_MeasurementResults(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_QualityMeasuredResults_modeSpecificInfo_tdd(rtxContext* ctx, QualityMeasuredResults_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sir-MeasurementResults */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "sir-MeasurementResults");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SIR_MeasurementList(ctx, &pvalue->sir_MeasurementResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_QualityMeasuredResults_modeSpecificInfo(rtxContext* ctx, QualityMeasuredResults_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (QualityMeasuredResults_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(QualityMeasuredResults_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_QualityMeasuredResults_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_QualityMeasuredResults_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_QualityMeasuredResults(rtxContext* ctx, QualityMeasuredResults* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "QualityMeasuredResults");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* blerMeasurementResultsList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "blerMeasurementResultsList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_BLER_MeasurementResultsList(ctx, &pvalue->blerMeasurementResultsList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_QualityMeasuredResults_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_TransmittedPower(rtxContext* ctx, UE_TransmittedPower* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "UE-TransmittedPower");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 104);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RX_TX_TimeDifferenceType1(rtxContext* ctx, UE_RX_TX_TimeDifferenceType1* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "UE-RX-TX-TimeDifferenceType1");
-   stat = pd_ConsUInt16(ctx, pvalue, 768, 1791);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RX_TX_ReportEntry(rtxContext* ctx, UE_RX_TX_ReportEntry* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-RX-TX-ReportEntry");
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-RX-TX-TimeDifferenceType1 */
-   rtxCtxtPushElemName(ctx, "ue-RX-TX-TimeDifferenceType1");
-   rtxCtxtPushTypeName(ctx, "UE-RX-TX-TimeDifferenceType1");
-   stat = pd_ConsUInt16(ctx, &pvalue->ue_RX_TX_TimeDifferenceType1, 768, 1791);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 

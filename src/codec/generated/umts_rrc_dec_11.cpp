@@ -6,9020 +6,9018 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PD_UMTS_UE_RX_TX_ReportEntryList(rtxContext* ctx, UE_RX_TX_ReportEntryList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "UE-RX-TX-ReportEntryList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UE_RX_TX_ReportEntry* elem;
-      rtxCtxtPushArrayElemName(ctx, "UE-RX-TX-ReportEntry", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_RX_TX_ReportEntry));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (UE_RX_TX_ReportEntry*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UE_RX_TX_ReportEntry(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalMeasuredResults_modeSpecificInfo_fdd(rtxContext* ctx, UE_InternalMeasuredResults_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ue-TransmittedPowerFDD */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-TransmittedPowerFDD");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "UE-TransmittedPower");
-      stat = pd_ConsUInt8(ctx, &pvalue->ue_TransmittedPowerFDD, 0, 104);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-RX-TX-ReportEntryList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-RX-TX-ReportEntryList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_RX_TX_ReportEntryList(ctx, &pvalue->ue_RX_TX_ReportEntryList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_TransmittedPowerTDD_List(rtxContext* ctx, UE_TransmittedPowerTDD_List* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "UE-TransmittedPowerTDD-List");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 4);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 13) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "UE-TransmittedPower", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "UE-TransmittedPower");
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 0, 104);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalMeasuredResults_modeSpecificInfo_tdd(rtxContext* ctx, UE_InternalMeasuredResults_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ue-TransmittedPowerTDD-List */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-TransmittedPowerTDD-List");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_TransmittedPowerTDD_List(ctx, &pvalue->ue_TransmittedPowerTDD_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* appliedTA */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "appliedTA");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "UL-TimingAdvance");
-      stat = pd_ConsUInt8(ctx, &pvalue->appliedTA, 0, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalMeasuredResults_modeSpecificInfo(rtxContext* ctx, UE_InternalMeasuredResults_modeSpecificInfo* pvalue)
+int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (UE_InternalMeasuredResults_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasuredResults_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_InternalMeasuredResults_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_UE_InternalMeasuredResults_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 0: /* r6 */
+         pvalue->u.r6 = (HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6*)rtxMemHeapAlloc(ctx, sizeof(HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6));
+         if (pvalue->u.r6 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r6", -1, 0);
+         asn1Init_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6(pvalue->u.r6);
+         stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6(ctx, pvalue->u.r6);
+         RT_CHECK(ctx, stat, 0, "r6", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (UE_InternalMeasuredResults_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasuredResults_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_InternalMeasuredResults_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_UE_InternalMeasuredResults_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_InternalMeasuredResults(rtxContext* ctx, UE_InternalMeasuredResults* pvalue)
+int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM_later_than_r3* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-InternalMeasuredResults");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_UE_InternalMeasuredResults_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_ErrorCause(rtxContext* ctx, UE_Positioning_ErrorCause* pvalue)
+int asn1PD_UMTS_HandoverFromUTRANCommand_GSM(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GSM* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-ErrorCause");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SatData(rtxContext* ctx, SatData* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SatData");
-   /* satID */
-   rtxCtxtPushElemName(ctx, "satID");
-   rtxCtxtPushTypeName(ctx, "SatID");
-   stat = pd_ConsUInt8(ctx, &pvalue->satID, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* iode */
-   rtxCtxtPushElemName(ctx, "iode");
-   rtxCtxtPushTypeName(ctx, "IODE");
-   stat = pd_ConsUInt8(ctx, &pvalue->iode, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SatDataList(rtxContext* ctx, SatDataList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "SatDataList");
-   RT_SET_SIZE(ctx, 0, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      SatData* elem;
-      rtxCtxtPushArrayElemName(ctx, "SatData", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SatData));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (SatData*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_SatData(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverFromUTRANCommand-GSM");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r3 */
+         pvalue->u.r3 = (HandoverFromUTRANCommand_GSM_r3*)rtxMemHeapAlloc(ctx, sizeof(HandoverFromUTRANCommand_GSM_r3));
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "HandoverFromUTRANCommand-GSM");
+         asn1Init_UMTS_HandoverFromUTRANCommand_GSM_r3(pvalue->u.r3);
+         stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "HandoverFromUTRANCommand-GSM");
+         break;
+      case 1: /* later-than-r3 */
+         pvalue->u.later_than_r3 = (HandoverFromUTRANCommand_GSM_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(HandoverFromUTRANCommand_GSM_later_than_r3));
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "HandoverFromUTRANCommand-GSM");
+         asn1Init_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3(pvalue->u.later_than_r3);
+         stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "HandoverFromUTRANCommand-GSM");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "HandoverFromUTRANCommand-GSM");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GPS_NavModelAddDataReq(rtxContext* ctx, UE_Positioning_GPS_NavModelAddDataReq* pvalue)
+int asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_single_GERANIu_Message(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_single_GERANIu_Message* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-NavModelAddDataReq");
-   /* gps-Week */
-   rtxCtxtPushElemName(ctx, "gps-Week");
-   stat = pd_ConsUInt16(ctx, &pvalue->gps_Week, 0, 1023);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gps-Toe */
-   rtxCtxtPushElemName(ctx, "gps-Toe");
-   stat = pd_ConsUInt8(ctx, &pvalue->gps_Toe, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tToeLimit */
-   rtxCtxtPushElemName(ctx, "tToeLimit");
-   stat = pd_ConsUInt8(ctx, &pvalue->tToeLimit, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* satDataList */
-   rtxCtxtPushElemName(ctx, "satDataList");
-   stat = asn1PD_UMTS_SatDataList(ctx, &pvalue->satDataList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GPS_AdditionalAssistanceDataRequest(rtxContext* ctx, UE_Positioning_GPS_AdditionalAssistanceDataRequest* pvalue)
+int asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_geranIu_MessageList(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_geranIu_MessageList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* geranIu-Messages */
+   stat = asn1PD_UMTS_GERANIu_MessageList(ctx, &pvalue->geranIu_Messages);
+   RT_CHECK(ctx, stat, 0, "geranIu-Messages", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* single-GERANIu-Message */
+         pvalue->u.single_GERANIu_Message = (HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_single_GERANIu_Message*)rtxMemHeapAllocZ(ctx, sizeof(HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_single_GERANIu_Message));
+         if (pvalue->u.single_GERANIu_Message == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "single-GERANIu-Message", -1, 0);
+         stat = asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_single_GERANIu_Message(ctx, pvalue->u.single_GERANIu_Message);
+         RT_CHECK(ctx, stat, 0, "single-GERANIu-Message", -1, 0);
+         break;
+      case 1: /* geranIu-MessageList */
+         pvalue->u.geranIu_MessageList = (HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_geranIu_MessageList*)rtxMemHeapAlloc(ctx, sizeof(HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_geranIu_MessageList));
+         if (pvalue->u.geranIu_MessageList == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "geranIu-MessageList", -1, 0);
+         asn1Init_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_geranIu_MessageList(pvalue->u.geranIu_MessageList);
+         stat = asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_geranIu_MessageList(ctx, pvalue->u.geranIu_MessageList);
+         RT_CHECK(ctx, stat, 0, "geranIu-MessageList", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GERANIu_r5_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* almanacRequest */
-   rtxCtxtPushElemName(ctx, "almanacRequest");
-   stat = rtxDecBitInline(ctx, &pvalue->almanacRequest);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* utcModelRequest */
-   rtxCtxtPushElemName(ctx, "utcModelRequest");
-   stat = rtxDecBitInline(ctx, &pvalue->utcModelRequest);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ionosphericModelRequest */
-   rtxCtxtPushElemName(ctx, "ionosphericModelRequest");
-   stat = rtxDecBitInline(ctx, &pvalue->ionosphericModelRequest);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navigationModelRequest */
-   rtxCtxtPushElemName(ctx, "navigationModelRequest");
-   stat = rtxDecBitInline(ctx, &pvalue->navigationModelRequest);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dgpsCorrectionsRequest */
-   rtxCtxtPushElemName(ctx, "dgpsCorrectionsRequest");
-   stat = rtxDecBitInline(ctx, &pvalue->dgpsCorrectionsRequest);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* referenceLocationRequest */
-   rtxCtxtPushElemName(ctx, "referenceLocationRequest");
-   stat = rtxDecBitInline(ctx, &pvalue->referenceLocationRequest);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* referenceTimeRequest */
-   rtxCtxtPushElemName(ctx, "referenceTimeRequest");
-   stat = rtxDecBitInline(ctx, &pvalue->referenceTimeRequest);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* aquisitionAssistanceRequest */
-   rtxCtxtPushElemName(ctx, "aquisitionAssistanceRequest");
-   stat = rtxDecBitInline(ctx, &pvalue->aquisitionAssistanceRequest);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* realTimeIntegrityRequest */
-   rtxCtxtPushElemName(ctx, "realTimeIntegrityRequest");
-   stat = rtxDecBitInline(ctx, &pvalue->realTimeIntegrityRequest);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navModelAddDataRequest */
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverFromUTRANCommand-GERANIu-r5-IEs");
+   /* activationTime */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "navModelAddDataRequest");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_NavModelAddDataReq(ctx, &pvalue->navModelAddDataRequest);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "HandoverFromUTRANCommand-GERANIu-r5-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
+   /* frequency-Band */
+   stat = pd_ConsUnsigned(ctx, &pvalue->frequency_Band, 0, 1);
+   RT_CHECK(ctx, stat, "Frequency-Band", "frequency-Band", -1, "HandoverFromUTRANCommand-GERANIu-r5-IEs");
+   /* geranIu-Message */
+   stat = asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message(ctx, &pvalue->geranIu_Message);
+   RT_CHECK(ctx, stat, 0, "geranIu-Message", -1, "HandoverFromUTRANCommand-GERANIu-r5-IEs");
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_Error(rtxContext* ctx, UE_Positioning_Error* pvalue)
+int asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-Error");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* errorReason */
-   rtxCtxtPushElemName(ctx, "errorReason");
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-ErrorCause");
-   stat = pd_ConsUnsigned(ctx, &pvalue->errorReason, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ue-positioning-GPS-additionalAssistanceDataRequest */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverFromUTRANCommand-GERANIu-r5 */
+   stat = asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs(ctx, &pvalue->handoverFromUTRANCommand_GERANIu_r5);
+   RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-GERANIu-r5", -1, 0);
+   /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-additionalAssistanceDataRequest");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_AdditionalAssistanceDataRequest(ctx, &pvalue->ue_positioning_GPS_additionalAssistanceDataRequest);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_MeasuredResults(rtxContext* ctx, UE_Positioning_MeasuredResults* pvalue)
+int asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_later_than_r5_criticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_later_than_r5_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_later_than_r5(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_later_than_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* criticalExtensions */
+   stat = asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_later_than_r5_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r5 */
+         pvalue->u.r5 = (HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5*)rtxMemHeapAlloc(ctx, sizeof(HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5));
+         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r5", -1, 0);
+         asn1Init_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5(pvalue->u.r5);
+         stat = asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5(ctx, pvalue->u.r5);
+         RT_CHECK(ctx, stat, 0, "r5", -1, 0);
+         break;
+      case 1: /* later-than-r5 */
+         pvalue->u.later_than_r5 = (HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_later_than_r5*)rtxMemHeapAllocZ(ctx, sizeof(HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_later_than_r5));
+         if (pvalue->u.later_than_r5 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r5", -1, 0);
+         stat = asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_later_than_r5(ctx, pvalue->u.later_than_r5);
+         RT_CHECK(ctx, stat, 0, "later-than-r5", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_GERANIu* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "HandoverFromUTRANCommand-GERANIu");
+   /* handoverFromUTRANCommand-GERANIu */
+   stat = asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu(ctx, &pvalue->handoverFromUTRANCommand_GERANIu);
+   RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-GERANIu", -1, "HandoverFromUTRANCommand-GERANIu");
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000_r3_IEs(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_CDMA2000_r3_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-MeasuredResults");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-OTDOA-Measurement */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-Measurement");
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverFromUTRANCommand-CDMA2000-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "HandoverFromUTRANCommand-CDMA2000-r3-IEs");
+   /* activationTime */
+   if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_Measurement(ctx, &pvalue->ue_positioning_OTDOA_Measurement);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "HandoverFromUTRANCommand-CDMA2000-r3-IEs");
    }
-   /* ue-positioning-PositionEstimateInfo */
+   /* toHandoverRAB-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RAB_Info(ctx, &pvalue->toHandoverRAB_Info);
+      RT_CHECK(ctx, stat, 0, "toHandoverRAB-Info", -1, "HandoverFromUTRANCommand-CDMA2000-r3-IEs");
+   }
+   /* cdma2000-MessageList */
+   stat = asn1PD_UMTS_CDMA2000_MessageList(ctx, &pvalue->cdma2000_MessageList);
+   RT_CHECK(ctx, stat, 0, "cdma2000-MessageList", -1, "HandoverFromUTRANCommand-CDMA2000-r3-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000_r3_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_CDMA2000_r3_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_CDMA2000_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverFromUTRANCommand-CDMA2000-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->handoverFromUTRANCommand_CDMA2000_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-CDMA2000-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000_r3_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000_r3(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_CDMA2000_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverFromUTRANCommand-CDMA2000-r3 */
+   stat = asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000_r3_IEs(ctx, &pvalue->handoverFromUTRANCommand_CDMA2000_r3);
+   RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-CDMA2000-r3", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_CDMA2000_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000_later_than_r3(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_CDMA2000_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_CDMA2000* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverFromUTRANCommand-CDMA2000");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r3 */
+         pvalue->u.r3 = (HandoverFromUTRANCommand_CDMA2000_r3*)rtxMemHeapAlloc(ctx, sizeof(HandoverFromUTRANCommand_CDMA2000_r3));
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "HandoverFromUTRANCommand-CDMA2000");
+         asn1Init_UMTS_HandoverFromUTRANCommand_CDMA2000_r3(pvalue->u.r3);
+         stat = asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "HandoverFromUTRANCommand-CDMA2000");
+         break;
+      case 1: /* later-than-r3 */
+         pvalue->u.later_than_r3 = (HandoverFromUTRANCommand_CDMA2000_later_than_r3*)rtxMemHeapAllocZ(ctx, sizeof(HandoverFromUTRANCommand_CDMA2000_later_than_r3));
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "HandoverFromUTRANCommand-CDMA2000");
+         stat = asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "HandoverFromUTRANCommand-CDMA2000");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "HandoverFromUTRANCommand-CDMA2000");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANCommand_EUTRA_r8_IEs(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_EUTRA_r8_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverFromUTRANCommand-EUTRA-r8-IEs");
+   /* activationTime */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "HandoverFromUTRANCommand-EUTRA-r8-IEs");
+   }
+   /* toHandoverRAB-Info */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RAB_InformationList(ctx, &pvalue->toHandoverRAB_Info);
+      RT_CHECK(ctx, stat, 0, "toHandoverRAB-Info", -1, "HandoverFromUTRANCommand-EUTRA-r8-IEs");
+   }
+   /* eutra-Message */
+   stat = pd_DynOctetString(ctx, &pvalue->eutra_Message);
+   RT_CHECK(ctx, stat, 0, "eutra-Message", -1, "HandoverFromUTRANCommand-EUTRA-r8-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverFromUTRANCommand-EUTRA-r8 */
+   stat = asn1PD_UMTS_HandoverFromUTRANCommand_EUTRA_r8_IEs(ctx, &pvalue->handoverFromUTRANCommand_EUTRA_r8);
+   RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-EUTRA-r8", -1, 0);
+   /* handoverFromUTRANCommand-EUTRA-r8-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->handoverFromUTRANCommand_EUTRA_r8_add_ext);
+      RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-EUTRA-r8-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_EUTRA_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_EUTRA_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r8 */
+         pvalue->u.r8 = (HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8*)rtxMemHeapAlloc(ctx, sizeof(HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8));
+         if (pvalue->u.r8 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r8", -1, 0);
+         asn1Init_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8(pvalue->u.r8);
+         stat = asn1PD_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8(ctx, pvalue->u.r8);
+         RT_CHECK(ctx, stat, 0, "r8", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (HandoverFromUTRANCommand_EUTRA_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(HandoverFromUTRANCommand_EUTRA_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PD_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANCommand_EUTRA(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANCommand_EUTRA* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "HandoverFromUTRANCommand-EUTRA");
+   /* criticalExtensions */
+   stat = asn1PD_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, "HandoverFromUTRANCommand-EUTRA");
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANFailure_interRATMessage_gsm(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANFailure_interRATMessage_gsm* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* gsm-MessageList */
+   stat = asn1PD_UMTS_GSM_MessageList(ctx, &pvalue->gsm_MessageList);
+   RT_CHECK(ctx, stat, 0, "gsm-MessageList", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANFailure_interRATMessage_cdma2000(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANFailure_interRATMessage_cdma2000* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* cdma2000-MessageList */
+   stat = asn1PD_UMTS_CDMA2000_MessageList(ctx, &pvalue->cdma2000_MessageList);
+   RT_CHECK(ctx, stat, 0, "cdma2000-MessageList", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANFailure_interRATMessage(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANFailure_interRATMessage* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* gsm */
+         pvalue->u.gsm = (HandoverFromUTRANFailure_interRATMessage_gsm*)rtxMemHeapAlloc(ctx, sizeof(HandoverFromUTRANFailure_interRATMessage_gsm));
+         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "gsm", -1, 0);
+         asn1Init_UMTS_HandoverFromUTRANFailure_interRATMessage_gsm(pvalue->u.gsm);
+         stat = asn1PD_UMTS_HandoverFromUTRANFailure_interRATMessage_gsm(ctx, pvalue->u.gsm);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
+         break;
+      case 1: /* cdma2000 */
+         pvalue->u.cdma2000 = (HandoverFromUTRANFailure_interRATMessage_cdma2000*)rtxMemHeapAlloc(ctx, sizeof(HandoverFromUTRANFailure_interRATMessage_cdma2000));
+         if (pvalue->u.cdma2000 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cdma2000", -1, 0);
+         asn1Init_UMTS_HandoverFromUTRANFailure_interRATMessage_cdma2000(pvalue->u.cdma2000);
+         stat = asn1PD_UMTS_HandoverFromUTRANFailure_interRATMessage_cdma2000(ctx, pvalue->u.cdma2000);
+         RT_CHECK(ctx, stat, 0, "cdma2000", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUtranFailure_v590ext_IEs(rtxContext* RT_RESTRICT ctx, HandoverFromUtranFailure_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverFromUtranFailure-v590ext-IEs");
+   /* geranIu-MessageList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_GERANIu_MessageList(ctx, &pvalue->geranIu_MessageList);
+      RT_CHECK(ctx, stat, 0, "geranIu-MessageList", -1, "HandoverFromUtranFailure-v590ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUtranFailure_v860ext_IEs(rtxContext* RT_RESTRICT ctx, HandoverFromUtranFailure_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverFromUtranFailure-v860ext-IEs");
+   /* eutra-Message */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynOctetString(ctx, &pvalue->eutra_Message);
+      RT_CHECK(ctx, stat, 0, "eutra-Message", -1, "HandoverFromUtranFailure-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverFromUTRANFailure-v860ext */
+   stat = asn1PD_UMTS_HandoverFromUtranFailure_v860ext_IEs(ctx, &pvalue->handoverFromUTRANFailure_v860ext);
+   RT_CHECK(ctx, stat, 0, "handoverFromUTRANFailure-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverFromUTRANFailure-v590ext */
+   stat = asn1PD_UMTS_HandoverFromUtranFailure_v590ext_IEs(ctx, &pvalue->handoverFromUTRANFailure_v590ext);
+   RT_CHECK(ctx, stat, 0, "handoverFromUTRANFailure-v590ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANFailure_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverFromUTRANFailure-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->handoverFromUTRANFailure_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "handoverFromUTRANFailure-r3-add-ext", -1, 0);
+   }
+   /* v590NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_HandoverFromUTRANFailure(rtxContext* RT_RESTRICT ctx, HandoverFromUTRANFailure* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverFromUTRANFailure");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "HandoverFromUTRANFailure");
+   /* interRAT-HO-FailureCause */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-PositionEstimateInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_PositionEstimateInfo(ctx, &pvalue->ue_positioning_PositionEstimateInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InterRAT_HO_FailureCause(ctx, &pvalue->interRAT_HO_FailureCause);
+      RT_CHECK(ctx, stat, 0, "interRAT-HO-FailureCause", -1, "HandoverFromUTRANFailure");
    }
-   /* ue-positioning-GPS-Measurement */
+   /* interRATMessage */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-Measurement");
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_HandoverFromUTRANFailure_interRATMessage(ctx, &pvalue->interRATMessage);
+      RT_CHECK(ctx, stat, 0, "interRATMessage", -1, "HandoverFromUTRANFailure");
+   }
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_MeasurementResults(ctx, &pvalue->ue_positioning_GPS_Measurement);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "HandoverFromUTRANFailure");
    }
-   /* ue-positioning-Error */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-Error");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_Positioning_Error(ctx, &pvalue->ue_positioning_Error);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_MeasuredResults(rtxContext* ctx, MeasuredResults* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "MeasuredResults");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 7);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "intraFreqMeasuredResultsList");
-         pvalue->u.intraFreqMeasuredResultsList = (IntraFreqMeasuredResultsList*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqMeasuredResultsList));
-         if (pvalue->u.intraFreqMeasuredResultsList == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_IntraFreqMeasuredResultsList(pvalue->u.intraFreqMeasuredResultsList);
-         stat = asn1PD_UMTS_IntraFreqMeasuredResultsList(ctx, pvalue->u.intraFreqMeasuredResultsList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "interFreqMeasuredResultsList");
-         pvalue->u.interFreqMeasuredResultsList = (InterFreqMeasuredResultsList*)rtxMemHeapAlloc(ctx, sizeof(InterFreqMeasuredResultsList));
-         if (pvalue->u.interFreqMeasuredResultsList == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterFreqMeasuredResultsList(pvalue->u.interFreqMeasuredResultsList);
-         stat = asn1PD_UMTS_InterFreqMeasuredResultsList(ctx, pvalue->u.interFreqMeasuredResultsList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "interRATMeasuredResultsList");
-         pvalue->u.interRATMeasuredResultsList = (InterRATMeasuredResultsList*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasuredResultsList));
-         if (pvalue->u.interRATMeasuredResultsList == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterRATMeasuredResultsList(pvalue->u.interRATMeasuredResultsList);
-         stat = asn1PD_UMTS_InterRATMeasuredResultsList(ctx, pvalue->u.interRATMeasuredResultsList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "trafficVolumeMeasuredResultsList");
-         pvalue->u.trafficVolumeMeasuredResultsList = (TrafficVolumeMeasuredResultsList*)rtxMemHeapAlloc(ctx, sizeof(TrafficVolumeMeasuredResultsList));
-         if (pvalue->u.trafficVolumeMeasuredResultsList == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_TrafficVolumeMeasuredResultsList(pvalue->u.trafficVolumeMeasuredResultsList);
-         stat = asn1PD_UMTS_TrafficVolumeMeasuredResultsList(ctx, pvalue->u.trafficVolumeMeasuredResultsList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "qualityMeasuredResults");
-         pvalue->u.qualityMeasuredResults = (QualityMeasuredResults*)rtxMemHeapAlloc(ctx, sizeof(QualityMeasuredResults));
-         if (pvalue->u.qualityMeasuredResults == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_QualityMeasuredResults(pvalue->u.qualityMeasuredResults);
-         stat = asn1PD_UMTS_QualityMeasuredResults(ctx, pvalue->u.qualityMeasuredResults);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "ue-InternalMeasuredResults");
-         pvalue->u.ue_InternalMeasuredResults = (UE_InternalMeasuredResults*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasuredResults));
-         if (pvalue->u.ue_InternalMeasuredResults == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_InternalMeasuredResults(pvalue->u.ue_InternalMeasuredResults);
-         stat = asn1PD_UMTS_UE_InternalMeasuredResults(ctx, pvalue->u.ue_InternalMeasuredResults);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "ue-positioning-MeasuredResults");
-         pvalue->u.ue_positioning_MeasuredResults = (UE_Positioning_MeasuredResults*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_MeasuredResults));
-         if (pvalue->u.ue_positioning_MeasuredResults == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_Positioning_MeasuredResults(pvalue->u.ue_positioning_MeasuredResults);
-         stat = asn1PD_UMTS_UE_Positioning_MeasuredResults(ctx, pvalue->u.ue_positioning_MeasuredResults);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "spare");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResultsOnSecUlFreq(rtxContext* ctx, MeasuredResultsOnSecUlFreq* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MeasuredResultsOnSecUlFreq");
-   /* intraFreqMeasuredResultsList */
-   rtxCtxtPushElemName(ctx, "intraFreqMeasuredResultsList");
-   stat = asn1PD_UMTS_IntraFrequencyMeasuredResultsListOnSecULFreq(ctx, &pvalue->intraFreqMeasuredResultsList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Neighbour_v390ext_modeSpecificInfo_fdd(rtxContext* ctx, Neighbour_v390ext_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Neighbour_v390ext_modeSpecificInfo(rtxContext* ctx, Neighbour_v390ext_modeSpecificInfo* pvalue)
+int asn1PD_UMTS_InterRATHandoverInfo_predefinedConfigStatusList(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_predefinedConfigStatusList* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (Neighbour_v390ext_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(Neighbour_v390ext_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_Neighbour_v390ext_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_Neighbour_v390ext_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 0: /* absent */
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
+      case 1: /* present */
+         pvalue->u.present = (PredefinedConfigStatusList*)rtxMemHeapAlloc(ctx, sizeof(PredefinedConfigStatusList));
+         if (pvalue->u.present == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "present", -1, 0);
+         asn1Init_UMTS_PredefinedConfigStatusList(pvalue->u.present);
+         stat = asn1PD_UMTS_PredefinedConfigStatusList(ctx, pvalue->u.present);
+         RT_CHECK(ctx, stat, 0, "present", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_Neighbour_v390ext(rtxContext* ctx, Neighbour_v390ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Neighbour-v390ext");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_Neighbour_v390ext_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NeighbourList_v390ext(rtxContext* ctx, NeighbourList_v390ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "NeighbourList-v390ext");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      Neighbour_v390ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "Neighbour-v390ext", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Neighbour_v390ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (Neighbour_v390ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_Neighbour_v390ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_Neighbour_v390ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_Measurement_v390ext(rtxContext* ctx, UE_Positioning_OTDOA_Measurement_v390ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-Measurement-v390ext");
-   /* neighbourList-v390ext */
-   rtxCtxtPushElemName(ctx, "neighbourList-v390ext");
-   stat = asn1PD_UMTS_NeighbourList_v390ext(ctx, &pvalue->neighbourList_v390ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_MeasuredResults_v390ext(rtxContext* ctx, UE_Positioning_MeasuredResults_v390ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-MeasuredResults-v390ext");
-   /* ue-Positioning-OTDOA-Measurement-v390ext */
-   rtxCtxtPushElemName(ctx, "ue-Positioning-OTDOA-Measurement-v390ext");
-   stat = asn1PD_UMTS_UE_Positioning_OTDOA_Measurement_v390ext(ctx, &pvalue->ue_Positioning_OTDOA_Measurement_v390ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResults_v390ext(rtxContext* ctx, MeasuredResults_v390ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MeasuredResults-v390ext");
-   /* ue-positioning-MeasuredResults-v390ext */
-   rtxCtxtPushElemName(ctx, "ue-positioning-MeasuredResults-v390ext");
-   stat = asn1PD_UMTS_UE_Positioning_MeasuredResults_v390ext(ctx, &pvalue->ue_positioning_MeasuredResults_v390ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResults_v590ext(rtxContext* ctx, MeasuredResults_v590ext* pvalue)
+int asn1PD_UMTS_InterRATHandoverInfo_uE_SecurityInformation(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_uE_SecurityInformation* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "MeasuredResults-v590ext");
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "intraFrequencyMeasuredResultsList");
-         pvalue->u.intraFrequencyMeasuredResultsList = (IntraFrequencyMeasuredResultsList_v590ext*)rtxMemHeapAlloc(ctx, sizeof(IntraFrequencyMeasuredResultsList_v590ext));
-         if (pvalue->u.intraFrequencyMeasuredResultsList == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_IntraFrequencyMeasuredResultsList_v590ext(pvalue->u.intraFrequencyMeasuredResultsList);
-         stat = asn1PD_UMTS_IntraFrequencyMeasuredResultsList_v590ext(ctx, pvalue->u.intraFrequencyMeasuredResultsList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 0: /* absent */
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "interFrequencyMeasuredResultsList");
-         pvalue->u.interFrequencyMeasuredResultsList = (InterFrequencyMeasuredResultsList_v590ext*)rtxMemHeapAlloc(ctx, sizeof(InterFrequencyMeasuredResultsList_v590ext));
-         if (pvalue->u.interFrequencyMeasuredResultsList == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterFrequencyMeasuredResultsList_v590ext(pvalue->u.interFrequencyMeasuredResultsList);
-         stat = asn1PD_UMTS_InterFrequencyMeasuredResultsList_v590ext(ctx, pvalue->u.interFrequencyMeasuredResultsList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 1: /* present */
+         pvalue->u.present = (UE_SecurityInformation*)rtxMemHeapAlloc(ctx, sizeof(UE_SecurityInformation));
+         if (pvalue->u.present == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "present", -1, 0);
+         asn1Init_UMTS_UE_SecurityInformation(pvalue->u.present);
+         stat = asn1PD_UMTS_UE_SecurityInformation(ctx, pvalue->u.present);
+         RT_CHECK(ctx, stat, 0, "present", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd384_768(rtxContext* ctx, UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd384_768* pvalue)
+int asn1PD_UMTS_InterRATHandoverInfo_ue_CapabilityContainer_present(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_ue_CapabilityContainer_present* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 0, 63);
+   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfo_ue_CapabilityContainer(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_ue_CapabilityContainer* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* absent */
+         break;
+      case 1: /* present */
+         pvalue->u.present = (InterRATHandoverInfo_ue_CapabilityContainer_present*)rtxMemHeapAlloc(ctx, sizeof(InterRATHandoverInfo_ue_CapabilityContainer_present));
+         if (pvalue->u.present == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "present", -1, 0);
+         asn1Init_UMTS_InterRATHandoverInfo_ue_CapabilityContainer_present(pvalue->u.present);
+         stat = asn1PD_UMTS_InterRATHandoverInfo_ue_CapabilityContainer_present(ctx, pvalue->u.present);
+         RT_CHECK(ctx, stat, 0, "present", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfo_v390ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v390ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* appliedTA */
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v390ext-IEs");
+   /* ue-RadioAccessCapability-v380ext */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "appliedTA");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_EXT_UL_TimingAdvance(ctx, &pvalue->appliedTA);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UE_RadioAccessCapability_v380ext(ctx, &pvalue->ue_RadioAccessCapability_v380ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v380ext", -1, "InterRATHandoverInfo-v390ext-IEs");
    }
+   /* dl-PhysChCapabilityFDD-v380ext */
+   stat = asn1PD_UMTS_DL_PhysChCapabilityFDD_v380ext(ctx, &pvalue->dl_PhysChCapabilityFDD_v380ext);
+   RT_CHECK(ctx, stat, 0, "dl-PhysChCapabilityFDD-v380ext", -1, "InterRATHandoverInfo-v390ext-IEs");
    return 0;
 }
 
-int asn1PD_UMTS_T_ADVinfo_ext(rtxContext* ctx, T_ADVinfo_ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "T-ADVinfo-ext");
-   /* t-ADV */
-   rtxCtxtPushElemName(ctx, "t-ADV");
-   stat = pd_ConsUInt16(ctx, &pvalue->t_ADV, 0, 8191);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sfn */
-   rtxCtxtPushElemName(ctx, "sfn");
-   stat = pd_ConsUInt16(ctx, &pvalue->sfn, 0, 4095);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd128(rtxContext* ctx, UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd128* pvalue)
+int asn1PD_UMTS_InterRATHandoverInfo_v3a0ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v3a0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* t-ADVinfo */
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v3a0ext-IEs");
+   /* ue-RadioAccessCapability-v3a0ext */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "t-ADVinfo");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_T_ADVinfo_ext(ctx, &pvalue->t_ADVinfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UE_RadioAccessCapability_v3a0ext(ctx, &pvalue->ue_RadioAccessCapability_v3a0ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v3a0ext", -1, "InterRATHandoverInfo-v3a0ext-IEs");
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo(rtxContext* ctx, UE_InternalMeasuredResults_v770ext_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "tdd384-768");
-         pvalue->u.tdd384_768 = (UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd384_768*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd384_768));
-         if (pvalue->u.tdd384_768 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd384_768(pvalue->u.tdd384_768);
-         stat = asn1PD_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd384_768(ctx, pvalue->u.tdd384_768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         pvalue->u.tdd128 = (UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd128*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalMeasuredResults_v770ext(rtxContext* ctx, UE_InternalMeasuredResults_v770ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-InternalMeasuredResults-v770ext");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_ErrorCause_r7(rtxContext* ctx, UE_Positioning_ErrorCause_r7* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-ErrorCause-r7");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_AdditionalAssistanceDataRequest(rtxContext* ctx, UE_Positioning_GANSS_AdditionalAssistanceDataRequest* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest");
-   /* ganssReferenceTime */
-   rtxCtxtPushElemName(ctx, "ganssReferenceTime");
-   stat = rtxDecBitInline(ctx, &pvalue->ganssReferenceTime);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganssreferenceLocation */
-   rtxCtxtPushElemName(ctx, "ganssreferenceLocation");
-   stat = rtxDecBitInline(ctx, &pvalue->ganssreferenceLocation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganssIonosphericModel */
-   rtxCtxtPushElemName(ctx, "ganssIonosphericModel");
-   stat = rtxDecBitInline(ctx, &pvalue->ganssIonosphericModel);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganssRequestedGenericAssistanceDataList */
-   rtxCtxtPushElemName(ctx, "ganssRequestedGenericAssistanceDataList");
-   stat = asn1PD_UMTS_GanssRequestedGenericAssistanceDataList(ctx, &pvalue->ganssRequestedGenericAssistanceDataList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_Error_r7(rtxContext* ctx, UE_Positioning_Error_r7* pvalue)
+int asn1PD_UMTS_InterRATHandoverInfo_v3d0ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v3d0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-Error-r7");
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v3d0ext-IEs");
+   /* uESpecificBehaviourInformation1interRAT */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UESpecificBehaviourInformation1interRAT(ctx, &pvalue->uESpecificBehaviourInformation1interRAT);
+      RT_CHECK(ctx, stat, 0, "uESpecificBehaviourInformation1interRAT", -1, "InterRATHandoverInfo-v3d0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfo_v690ext1_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v690ext1_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v690ext1-IEs");
+   /* ue-RadioAccessCapability-v650ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapability_v650ext(ctx, &pvalue->ue_RadioAccessCapability_v650ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v650ext", -1, "InterRATHandoverInfo-v690ext1-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfo_v7e0ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v7e0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v7e0ext-IEs");
+   /* ue-RadioAccessCapability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapability_v7e0ext(ctx, &pvalue->ue_RadioAccessCapability);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "InterRATHandoverInfo-v7e0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfo_v7f0ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v7f0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* errorReason */
-   rtxCtxtPushElemName(ctx, "errorReason");
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-ErrorCause-r7");
-   stat = pd_ConsUnsigned(ctx, &pvalue->errorReason, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ue-positioning-GPS-additionalAssistanceDataRequest */
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v7f0ext-IEs");
+   /* ue-RadioAccessCapability */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-additionalAssistanceDataRequest");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_AdditionalAssistanceDataRequest(ctx, &pvalue->ue_positioning_GPS_additionalAssistanceDataRequest);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UE_RadioAccessCapability_v7f0ext(ctx, &pvalue->ue_RadioAccessCapability);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "InterRATHandoverInfo-v7f0ext-IEs");
    }
-   /* ue-positioning-GANSS-additionalAssistanceDataRequest */
+   /* ue-RadioAccessCapabilityComp2 */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-additionalAssistanceDataRequest");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AdditionalAssistanceDataRequest(ctx, &pvalue->ue_positioning_GANSS_additionalAssistanceDataRequest);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v7f0ext(ctx, &pvalue->ue_RadioAccessCapabilityComp2);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityComp2", -1, "InterRATHandoverInfo-v7f0ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_MeasuredResults_v770ext(rtxContext* ctx, UE_Positioning_MeasuredResults_v770ext* pvalue)
+int asn1PD_UMTS_InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-MeasuredResults-v770ext");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-PositionEstimateInfo */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-PositionEstimateInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_PositionEstimateInfo_v770ext(ctx, &pvalue->ue_positioning_PositionEstimateInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-Measurement */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-Measurement");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_MeasurementResults_v770ext(ctx, &pvalue->ue_positioning_GPS_Measurement);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-Error */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-Error");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_Error_r7(ctx, &pvalue->ue_positioning_Error);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-Ganss-MeasuredResults */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfo-v7f0ext */
+   stat = asn1PD_UMTS_InterRATHandoverInfo_v7f0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v7f0ext", -1, 0);
+   /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-Ganss-MeasuredResults");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_MeasuredResults(ctx, &pvalue->ue_positioning_Ganss_MeasuredResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_MeasuredResults_v770ext(rtxContext* ctx, MeasuredResults_v770ext* pvalue)
+int asn1PD_UMTS_InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "MeasuredResults-v770ext");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "ueInternalMeasuredResults");
-         pvalue->u.ueInternalMeasuredResults = (UE_InternalMeasuredResults_v770ext*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasuredResults_v770ext));
-         if (pvalue->u.ueInternalMeasuredResults == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_InternalMeasuredResults_v770ext(pvalue->u.ueInternalMeasuredResults);
-         stat = asn1PD_UMTS_UE_InternalMeasuredResults_v770ext(ctx, pvalue->u.ueInternalMeasuredResults);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "ue-positioning-MeasuredResults");
-         pvalue->u.ue_positioning_MeasuredResults = (UE_Positioning_MeasuredResults_v770ext*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_MeasuredResults_v770ext));
-         if (pvalue->u.ue_positioning_MeasuredResults == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_Positioning_MeasuredResults_v770ext(pvalue->u.ue_positioning_MeasuredResults);
-         stat = asn1PD_UMTS_UE_Positioning_MeasuredResults_v770ext(ctx, pvalue->u.ue_positioning_MeasuredResults);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfo-v7e0ext */
+   stat = asn1PD_UMTS_InterRATHandoverInfo_v7e0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v7e0ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v7e0ext", -1, 0);
+   /* v7f0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext_ganssEOPreq(rtxContext* ctx, UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext_ganssEOPreq* pvalue)
+int asn1PD_UMTS_InterRATHandoverInfo_r3_add_ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_r3_add_ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-r3-add-ext-IEs");
+   /* interRATHandoverInfo-v690ext1 */
+   stat = asn1PD_UMTS_InterRATHandoverInfo_v690ext1_IEs(ctx, &pvalue->interRATHandoverInfo_v690ext1);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v690ext1", -1, "InterRATHandoverInfo-r3-add-ext-IEs");
+   /* v7e0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions(ctx, &pvalue->v7e0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7e0NonCriticalExtensions", -1, "InterRATHandoverInfo-r3-add-ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfo_v3g0ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v3g0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v3g0ext-IEs");
+   /* ue-RadioAccessCapability-v3g0ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapability_v3g0ext(ctx, &pvalue->ue_RadioAccessCapability_v3g0ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v3g0ext", -1, "InterRATHandoverInfo-v3g0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfo_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* accessStratumReleaseIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->accessStratumReleaseIndicator, 0, 15);
+   RT_CHECK(ctx, stat, "AccessStratumReleaseIndicator", "accessStratumReleaseIndicator", -1, "InterRATHandoverInfo-v4b0ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfo_v4d0ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v4d0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v4d0ext-IEs");
+   /* tdd128-RF-Capability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->tdd128_RF_Capability, 0, 7);
+      RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList", "tdd128-RF-Capability", -1, "InterRATHandoverInfo-v4d0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfo_v590ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v590ext-IEs");
+   /* predefinedConfigStatusListComp */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PredefinedConfigStatusListComp(ctx, &pvalue->predefinedConfigStatusListComp);
+      RT_CHECK(ctx, stat, 0, "predefinedConfigStatusListComp", -1, "InterRATHandoverInfo-v590ext-IEs");
+   }
+   /* ue-RadioAccessCapabilityComp */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapabilityComp(ctx, &pvalue->ue_RadioAccessCapabilityComp);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityComp", -1, "InterRATHandoverInfo-v590ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfo_v690ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v690ext-IEs");
+   /* ue-SecurityInformation2 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_SecurityInformation2(ctx, &pvalue->ue_SecurityInformation2);
+      RT_CHECK(ctx, stat, 0, "ue-SecurityInformation2", -1, "InterRATHandoverInfo-v690ext-IEs");
+   }
+   /* ue-RadioAccessCapabilityComp */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapabilityComp_ext(ctx, &pvalue->ue_RadioAccessCapabilityComp);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityComp", -1, "InterRATHandoverInfo-v690ext-IEs");
+   }
+   /* ue-RadioAccessCapabilityComp2 */
+   stat = asn1PD_UMTS_UE_RadioAccessCapabilityComp2(ctx, &pvalue->ue_RadioAccessCapabilityComp2);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityComp2", -1, "InterRATHandoverInfo-v690ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfo_v6b0ext_IEs_supportForSIB11bis(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v6b0ext_IEs_supportForSIB11bis* RT_RESTRICT pvalue)
 {
    int stat;
    {
       uint32_t ui;
       stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
       stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
       *pvalue = ui;
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext(rtxContext* ctx, UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext* pvalue)
+int asn1PD_UMTS_InterRATHandoverInfo_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v6b0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest-v860ext");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ganssAddIonoModelReq */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ganssAddIonoModelReq");
-      pvalue->m |= 0x1u;
-      RT_SET_SIZE(ctx, 2, 2);
-      stat = pd_BitString32(ctx, &pvalue->ganssAddIonoModelReq, 2, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssEOPreq */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v6b0ext-IEs");
+   /* supportForSIB11bis */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ganssEOPreq");
-      pvalue->m |= 0x2u;
+      pvalue->m |= 0x1u;
       {
          uint32_t ui;
          stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
+         RT_CHECK(ctx, stat, 0, "supportForSIB11bis", -1, "InterRATHandoverInfo-v6b0ext-IEs");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->ganssEOPreq = ui;
+         RT_CHECK(ctx, stat, 0, "supportForSIB11bis", -1, "InterRATHandoverInfo-v6b0ext-IEs");
+         pvalue->supportForSIB11bis = ui;
       }
-      rtxCtxtPopElemName(ctx);
    }
-   /* ganssRequestedGenericAssistanceDataList */
-   rtxCtxtPushElemName(ctx, "ganssRequestedGenericAssistanceDataList");
-   stat = asn1PD_UMTS_GanssRequestedGenericAssistanceDataList_v860ext(ctx, &pvalue->ganssRequestedGenericAssistanceDataList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_Error_v860ext(rtxContext* ctx, UE_Positioning_Error_v860ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-Error-v860ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GANSS-additionalAssistanceDataRequest */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-additionalAssistanceDataRequest");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext(ctx, &pvalue->ue_positioning_GANSS_additionalAssistanceDataRequest);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_MeasuredResults_v860ext(rtxContext* ctx, UE_Positioning_MeasuredResults_v860ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-MeasuredResults-v860ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-Error */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-Error");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_Error_v860ext(ctx, &pvalue->ue_positioning_Error);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-Ganss-MeasurementResults */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-Ganss-MeasurementResults");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_MeasuredResults_v860ext(ctx, &pvalue->ue_positioning_Ganss_MeasurementResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResults_v860ext(rtxContext* ctx, MeasuredResults_v860ext* pvalue)
+int asn1PD_UMTS_InterRATHandoverInfo_v6e0ext_IEs_supportForFDPCH(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v6e0ext_IEs_supportForFDPCH* RT_RESTRICT pvalue)
 {
    int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "MeasuredResults-v860ext");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "ue-positioning-MeasuredResults");
-         pvalue->u.ue_positioning_MeasuredResults = (UE_Positioning_MeasuredResults_v860ext*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_MeasuredResults_v860ext));
-         if (pvalue->u.ue_positioning_MeasuredResults == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_Positioning_MeasuredResults_v860ext(pvalue->u.ue_positioning_MeasuredResults);
-         stat = asn1PD_UMTS_UE_Positioning_MeasuredResults_v860ext(ctx, pvalue->u.ue_positioning_MeasuredResults);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_MeasuredResults_v920ext(rtxContext* ctx, MeasuredResults_v920ext* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "MeasuredResults-v920ext");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "intraFreqMeasuredResultsList");
-         pvalue->u.intraFreqMeasuredResultsList = (IntraFreqMeasuredResultsList_v920ext*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqMeasuredResultsList_v920ext));
-         if (pvalue->u.intraFreqMeasuredResultsList == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_IntraFreqMeasuredResultsList_v920ext(pvalue->u.intraFreqMeasuredResultsList);
-         stat = asn1PD_UMTS_IntraFreqMeasuredResultsList_v920ext(ctx, pvalue->u.intraFreqMeasuredResultsList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "interFreqMeasuredResultsList");
-         pvalue->u.interFreqMeasuredResultsList = (InterFreqMeasuredResultsList_v920ext*)rtxMemHeapAlloc(ctx, sizeof(InterFreqMeasuredResultsList_v920ext));
-         if (pvalue->u.interFreqMeasuredResultsList == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterFreqMeasuredResultsList_v920ext(pvalue->u.interFreqMeasuredResultsList);
-         stat = asn1PD_UMTS_InterFreqMeasuredResultsList_v920ext(ctx, pvalue->u.interFreqMeasuredResultsList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResultsList_v920ext(rtxContext* ctx, MeasuredResultsList_v920ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MeasuredResultsList-v920ext");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MeasuredResults_v920ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "MeasuredResults-v920ext", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MeasuredResults_v920ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MeasuredResults_v920ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MeasuredResults_v920ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MeasuredResults_v920ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResultsListOnSecUlFreq(rtxContext* ctx, MeasuredResultsListOnSecUlFreq* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MeasuredResultsListOnSecUlFreq");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MeasuredResultsOnSecUlFreq* elem;
-      rtxCtxtPushArrayElemName(ctx, "MeasuredResultsOnSecUlFreq", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MeasuredResultsOnSecUlFreq));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MeasuredResultsOnSecUlFreq*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MeasuredResultsOnSecUlFreq(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MeasuredResultsOnSecUlFreq(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_T_ADVinfo(rtxContext* ctx, T_ADVinfo* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "T-ADVinfo");
-   /* t-ADV */
-   rtxCtxtPushElemName(ctx, "t-ADV");
-   stat = pd_ConsUInt16(ctx, &pvalue->t_ADV, 0, 2047);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sfn */
-   rtxCtxtPushElemName(ctx, "sfn");
-   stat = pd_ConsUInt16(ctx, &pvalue->sfn, 0, 4095);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalMeasuredResults_LCR_r4(rtxContext* ctx, UE_InternalMeasuredResults_LCR_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-InternalMeasuredResults-LCR-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ue-TransmittedPowerTDD-List */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-TransmittedPowerTDD-List");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_TransmittedPowerTDD_List(ctx, &pvalue->ue_TransmittedPowerTDD_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* t-ADVinfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "t-ADVinfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_T_ADVinfo(ctx, &pvalue->t_ADVinfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResults_LCR_r4(rtxContext* ctx, MeasuredResults_LCR_r4* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "MeasuredResults-LCR-r4");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 7);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "intraFreqMeasuredResultsList");
-         pvalue->u.intraFreqMeasuredResultsList = (IntraFreqMeasuredResultsList*)rtxMemHeapAlloc(ctx, sizeof(IntraFreqMeasuredResultsList));
-         if (pvalue->u.intraFreqMeasuredResultsList == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_IntraFreqMeasuredResultsList(pvalue->u.intraFreqMeasuredResultsList);
-         stat = asn1PD_UMTS_IntraFreqMeasuredResultsList(ctx, pvalue->u.intraFreqMeasuredResultsList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "interFreqMeasuredResultsList");
-         pvalue->u.interFreqMeasuredResultsList = (InterFreqMeasuredResultsList*)rtxMemHeapAlloc(ctx, sizeof(InterFreqMeasuredResultsList));
-         if (pvalue->u.interFreqMeasuredResultsList == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterFreqMeasuredResultsList(pvalue->u.interFreqMeasuredResultsList);
-         stat = asn1PD_UMTS_InterFreqMeasuredResultsList(ctx, pvalue->u.interFreqMeasuredResultsList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "interRATMeasuredResultsList");
-         pvalue->u.interRATMeasuredResultsList = (InterRATMeasuredResultsList*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasuredResultsList));
-         if (pvalue->u.interRATMeasuredResultsList == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterRATMeasuredResultsList(pvalue->u.interRATMeasuredResultsList);
-         stat = asn1PD_UMTS_InterRATMeasuredResultsList(ctx, pvalue->u.interRATMeasuredResultsList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "trafficVolumeMeasuredResultsList");
-         pvalue->u.trafficVolumeMeasuredResultsList = (TrafficVolumeMeasuredResultsList*)rtxMemHeapAlloc(ctx, sizeof(TrafficVolumeMeasuredResultsList));
-         if (pvalue->u.trafficVolumeMeasuredResultsList == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_TrafficVolumeMeasuredResultsList(pvalue->u.trafficVolumeMeasuredResultsList);
-         stat = asn1PD_UMTS_TrafficVolumeMeasuredResultsList(ctx, pvalue->u.trafficVolumeMeasuredResultsList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "qualityMeasuredResults");
-         pvalue->u.qualityMeasuredResults = (QualityMeasuredResults*)rtxMemHeapAlloc(ctx, sizeof(QualityMeasuredResults));
-         if (pvalue->u.qualityMeasuredResults == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_QualityMeasuredResults(pvalue->u.qualityMeasuredResults);
-         stat = asn1PD_UMTS_QualityMeasuredResults(ctx, pvalue->u.qualityMeasuredResults);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "ue-InternalMeasuredResults");
-         pvalue->u.ue_InternalMeasuredResults = (UE_InternalMeasuredResults_LCR_r4*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasuredResults_LCR_r4));
-         if (pvalue->u.ue_InternalMeasuredResults == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_InternalMeasuredResults_LCR_r4(pvalue->u.ue_InternalMeasuredResults);
-         stat = asn1PD_UMTS_UE_InternalMeasuredResults_LCR_r4(ctx, pvalue->u.ue_InternalMeasuredResults);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "ue-positioniing-MeasuredResults");
-         pvalue->u.ue_positioniing_MeasuredResults = (UE_Positioning_MeasuredResults*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_MeasuredResults));
-         if (pvalue->u.ue_positioniing_MeasuredResults == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_Positioning_MeasuredResults(pvalue->u.ue_positioniing_MeasuredResults);
-         stat = asn1PD_UMTS_UE_Positioning_MeasuredResults(ctx, pvalue->u.ue_positioniing_MeasuredResults);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "spare");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResultsList(rtxContext* ctx, MeasuredResultsList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MeasuredResultsList");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MeasuredResults* elem;
-      rtxCtxtPushArrayElemName(ctx, "MeasuredResults", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MeasuredResults));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MeasuredResults*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MeasuredResults(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MeasuredResults(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResultsList_LCR_r4_ext(rtxContext* ctx, MeasuredResultsList_LCR_r4_ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MeasuredResultsList-LCR-r4-ext");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MeasuredResults_LCR_r4* elem;
-      rtxCtxtPushArrayElemName(ctx, "MeasuredResults-LCR-r4", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MeasuredResults_LCR_r4));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MeasuredResults_LCR_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MeasuredResults_LCR_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MeasuredResults_LCR_r4(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResultsList_v770xet_element(rtxContext* ctx, MeasuredResultsList_v770xet_element* pvalue)
+int asn1PD_UMTS_InterRATHandoverInfo_v6e0ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v6e0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measuredResults */
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v6e0ext-IEs");
+   /* supportForFDPCH */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "measuredResults");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasuredResults_v770ext(ctx, &pvalue->measuredResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportForFDPCH", -1, "InterRATHandoverInfo-v6e0ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportForFDPCH", -1, "InterRATHandoverInfo-v6e0ext-IEs");
+         pvalue->supportForFDPCH = ui;
+      }
    }
    return 0;
 }
 
-int asn1PD_UMTS_MeasuredResultsList_v770xet(rtxContext* ctx, MeasuredResultsList_v770xet* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MeasuredResultsList-v770xet");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MeasuredResultsList_v770xet_element* elem;
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MeasuredResultsList_v770xet_element));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MeasuredResultsList_v770xet_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MeasuredResultsList_v770xet_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MeasuredResultsList_v770xet_element(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResultsList_v860ext_element(rtxContext* ctx, MeasuredResultsList_v860ext_element* pvalue)
+int asn1PD_UMTS_InterRATHandoverInfo_v770ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v770ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measuredResults */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "measuredResults");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasuredResults_v860ext(ctx, &pvalue->measuredResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResultsList_v860ext(rtxContext* ctx, MeasuredResultsList_v860ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MeasuredResultsList-v860ext");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MeasuredResultsList_v860ext_element* elem;
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MeasuredResultsList_v860ext_element));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MeasuredResultsList_v860ext_element*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MeasuredResultsList_v860ext_element(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MeasuredResultsList_v860ext_element(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd_measurementQuantity(rtxContext* ctx, MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd_measurementQuantity* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "cpich-Ec-N0");
-         rtxCtxtPushTypeName(ctx, "CPICH-Ec-N0");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.cpich_Ec_N0, 0, 63);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "cpich-RSCP");
-         rtxCtxtPushTypeName(ctx, "CPICH-RSCP");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.cpich_RSCP, 0, 127);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "pathloss");
-         rtxCtxtPushTypeName(ctx, "Pathloss");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.pathloss, 46, 173);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "spare");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd(rtxContext* ctx, MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   /* measurementQuantity */
-   rtxCtxtPushElemName(ctx, "measurementQuantity");
-   stat = asn1PD_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd_measurementQuantity(ctx, &pvalue->measurementQuantity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_tdd(rtxContext* ctx, MeasuredResultsOnRACH_currentCell_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* timeslotISCP */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "timeslotISCP");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TimeslotISCP_List(ctx, &pvalue->timeslotISCP);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* primaryCCPCH-RSCP */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "primaryCCPCH-RSCP");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-RSCP");
-      stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_RSCP, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo(rtxContext* ctx, MeasuredResultsOnRACH_currentCell_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (MeasuredResultsOnRACH_currentCell_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(MeasuredResultsOnRACH_currentCell_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResultsOnRACH_currentCell(rtxContext* ctx, MeasuredResultsOnRACH_currentCell* pvalue)
-{
-   int stat = 0;
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MonitoredCellRACH_Result_modeSpecificInfo_fdd_measurementQuantity(rtxContext* ctx, MonitoredCellRACH_Result_modeSpecificInfo_fdd_measurementQuantity* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "cpich-Ec-N0");
-         rtxCtxtPushTypeName(ctx, "CPICH-Ec-N0");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.cpich_Ec_N0, 0, 63);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "cpich-RSCP");
-         rtxCtxtPushTypeName(ctx, "CPICH-RSCP");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.cpich_RSCP, 0, 127);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "pathloss");
-         rtxCtxtPushTypeName(ctx, "Pathloss");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.pathloss, 46, 173);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "spare");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MonitoredCellRACH_Result_modeSpecificInfo_fdd(rtxContext* ctx, MonitoredCellRACH_Result_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementQuantity */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "measurementQuantity");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MonitoredCellRACH_Result_modeSpecificInfo_fdd_measurementQuantity(ctx, &pvalue->measurementQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MonitoredCellRACH_Result_modeSpecificInfo_tdd(rtxContext* ctx, MonitoredCellRACH_Result_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   /* cellParametersID */
-   rtxCtxtPushElemName(ctx, "cellParametersID");
-   rtxCtxtPushTypeName(ctx, "CellParametersID");
-   stat = pd_ConsUInt8(ctx, &pvalue->cellParametersID, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-RSCP */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-RSCP");
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-RSCP");
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_RSCP, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MonitoredCellRACH_Result_modeSpecificInfo(rtxContext* ctx, MonitoredCellRACH_Result_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (MonitoredCellRACH_Result_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(MonitoredCellRACH_Result_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MonitoredCellRACH_Result_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_MonitoredCellRACH_Result_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (MonitoredCellRACH_Result_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(MonitoredCellRACH_Result_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_MonitoredCellRACH_Result_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MonitoredCellRACH_Result(rtxContext* ctx, MonitoredCellRACH_Result* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MonitoredCellRACH-Result");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sfn-SFN-ObsTimeDifference */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "sfn-SFN-ObsTimeDifference");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SFN_SFN_ObsTimeDifference(ctx, &pvalue->sfn_SFN_ObsTimeDifference);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_MonitoredCellRACH_Result_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MonitoredCellRACH_List(rtxContext* ctx, MonitoredCellRACH_List* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MonitoredCellRACH-List");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MonitoredCellRACH_Result* elem;
-      rtxCtxtPushArrayElemName(ctx, "MonitoredCellRACH-Result", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MonitoredCellRACH_Result));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MonitoredCellRACH_Result*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MonitoredCellRACH_Result(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MonitoredCellRACH_Result(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResultsOnRACH(rtxContext* ctx, MeasuredResultsOnRACH* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MeasuredResultsOnRACH");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* currentCell */
-   rtxCtxtPushElemName(ctx, "currentCell");
-   stat = asn1PD_UMTS_MeasuredResultsOnRACH_currentCell(ctx, &pvalue->currentCell);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* monitoredCells */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "monitoredCells");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MonitoredCellRACH_List(ctx, &pvalue->monitoredCells);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MonitoredCellRACH_List_v7g0ext(rtxContext* ctx, MonitoredCellRACH_List_v7g0ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MonitoredCellRACH-List-v7g0ext");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DeltaRSCPPerCell* elem;
-      rtxCtxtPushArrayElemName(ctx, "DeltaRSCPPerCell", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DeltaRSCPPerCell));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (DeltaRSCPPerCell*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_DeltaRSCPPerCell(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DeltaRSCPPerCell(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResultsOnRACH_v7g0ext(rtxContext* ctx, MeasuredResultsOnRACH_v7g0ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MeasuredResultsOnRACH-v7g0ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* currentCell-DeltaRSCP */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "currentCell-DeltaRSCP");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DeltaRSCPPerCell(ctx, &pvalue->currentCell_DeltaRSCP);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* monitoredCellRACH-List-v7g0ext */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "monitoredCellRACH-List-v7g0ext");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MonitoredCellRACH_List_v7g0ext(ctx, &pvalue->monitoredCellRACH_List_v7g0ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasuredResultsOnRACHinterFreq(rtxContext* ctx, MeasuredResultsOnRACHinterFreq* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MeasuredResultsOnRACHinterFreq");
-   /* interFreqCellIndication-SIB11 */
-   rtxCtxtPushElemName(ctx, "interFreqCellIndication-SIB11");
-   stat = pd_ConsUInt8(ctx, &pvalue->interFreqCellIndication_SIB11, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* interFreqCellIndication-SIB12 */
-   rtxCtxtPushElemName(ctx, "interFreqCellIndication-SIB12");
-   stat = pd_ConsUInt8(ctx, &pvalue->interFreqCellIndication_SIB12, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* interFreqRACHRepCellsList */
-   rtxCtxtPushElemName(ctx, "interFreqRACHRepCellsList");
-   stat = asn1PD_UMTS_InterFreqRACHRepCellsList(ctx, &pvalue->interFreqRACHRepCellsList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_MethodType(rtxContext* ctx, UE_Positioning_MethodType* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-MethodType");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PositioningMethod(rtxContext* ctx, PositioningMethod* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "PositioningMethod");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_ResponseTime(rtxContext* ctx, UE_Positioning_ResponseTime* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-ResponseTime");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_Accuracy(rtxContext* ctx, UE_Positioning_Accuracy* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-Accuracy");
-   RT_SET_SIZE(ctx, 7, 7);
-   stat = pd_BitString32(ctx, pvalue, 7, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_ReportingQuantity(rtxContext* ctx, UE_Positioning_ReportingQuantity* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-ReportingQuantity");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* methodType */
-   rtxCtxtPushElemName(ctx, "methodType");
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-MethodType");
-   stat = pd_ConsUnsigned(ctx, &pvalue->methodType, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* positioningMethod */
-   rtxCtxtPushElemName(ctx, "positioningMethod");
-   rtxCtxtPushTypeName(ctx, "PositioningMethod");
-   stat = pd_ConsUnsigned(ctx, &pvalue->positioningMethod, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dummy1 */
-   rtxCtxtPushElemName(ctx, "dummy1");
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-ResponseTime");
-   stat = pd_ConsUnsigned(ctx, &pvalue->dummy1, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* horizontal-Accuracy */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "horizontal-Accuracy");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_Accuracy(ctx, &pvalue->horizontal_Accuracy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* gps-TimingOfCellWanted */
-   rtxCtxtPushElemName(ctx, "gps-TimingOfCellWanted");
-   stat = rtxDecBitInline(ctx, &pvalue->gps_TimingOfCellWanted);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dummy2 */
-   rtxCtxtPushElemName(ctx, "dummy2");
-   stat = rtxDecBitInline(ctx, &pvalue->dummy2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* additionalAssistanceDataRequest */
-   rtxCtxtPushElemName(ctx, "additionalAssistanceDataRequest");
-   stat = rtxDecBitInline(ctx, &pvalue->additionalAssistanceDataRequest);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* environmentCharacterisation */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "environmentCharacterisation");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "EnvironmentCharacterisation");
-      stat = pd_ConsUnsigned(ctx, &pvalue->environmentCharacterisation, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_MeasurementInterval(rtxContext* ctx, UE_Positioning_MeasurementInterval* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-MeasurementInterval");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ThresholdPositionChange(rtxContext* ctx, ThresholdPositionChange* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "ThresholdPositionChange");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ThresholdSFN_SFN_Change(rtxContext* ctx, ThresholdSFN_SFN_Change* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "ThresholdSFN-SFN-Change");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ThresholdSFN_GPS_TOW(rtxContext* ctx, ThresholdSFN_GPS_TOW* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "ThresholdSFN-GPS-TOW");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_EventSpecificInfo(rtxContext* ctx, UE_Positioning_EventSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-EventSpecificInfo");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "e7a");
-         rtxCtxtPushTypeName(ctx, "ThresholdPositionChange");
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.e7a, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "e7b");
-         rtxCtxtPushTypeName(ctx, "ThresholdSFN-SFN-Change");
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.e7b, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "e7c");
-         rtxCtxtPushTypeName(ctx, "ThresholdSFN-GPS-TOW");
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.e7c, 0, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_EventParam(rtxContext* ctx, UE_Positioning_EventParam* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-EventParam");
-   /* reportingAmount */
-   rtxCtxtPushElemName(ctx, "reportingAmount");
-   rtxCtxtPushTypeName(ctx, "ReportingAmount");
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportingAmount, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportFirstFix */
-   rtxCtxtPushElemName(ctx, "reportFirstFix");
-   stat = rtxDecBitInline(ctx, &pvalue->reportFirstFix);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementInterval */
-   rtxCtxtPushElemName(ctx, "measurementInterval");
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-MeasurementInterval");
-   stat = pd_ConsUnsigned(ctx, &pvalue->measurementInterval, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* eventSpecificInfo */
-   rtxCtxtPushElemName(ctx, "eventSpecificInfo");
-   stat = asn1PD_UMTS_UE_Positioning_EventSpecificInfo(ctx, &pvalue->eventSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_EventParamList(rtxContext* ctx, UE_Positioning_EventParamList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-EventParamList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UE_Positioning_EventParam* elem;
-      rtxCtxtPushArrayElemName(ctx, "UE-Positioning-EventParam", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_Positioning_EventParam));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (UE_Positioning_EventParam*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UE_Positioning_EventParam(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UE_Positioning_EventParam(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_ReportCriteria(rtxContext* ctx, UE_Positioning_ReportCriteria* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-ReportCriteria");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "ue-positioning-ReportingCriteria");
-         pvalue->u.ue_positioning_ReportingCriteria = (UE_Positioning_EventParamList*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_EventParamList));
-         if (pvalue->u.ue_positioning_ReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_Positioning_EventParamList(pvalue->u.ue_positioning_ReportingCriteria);
-         stat = asn1PD_UMTS_UE_Positioning_EventParamList(ctx, pvalue->u.ue_positioning_ReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-         pvalue->u.periodicalReportingCriteria = (PeriodicalReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalReportingCriteria));
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PeriodicalReportingCriteria(pvalue->u.periodicalReportingCriteria);
-         stat = asn1PD_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "noReporting");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_fdd(rtxContext* ctx, UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_tdd(rtxContext* ctx, UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   /* cellAndChannelIdentity */
-   rtxCtxtPushElemName(ctx, "cellAndChannelIdentity");
-   stat = asn1PD_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo(rtxContext* ctx, UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueBased(rtxContext* ctx, UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueBased* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueAssisted(rtxContext* ctx, UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueAssisted* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode(rtxContext* ctx, UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "ueBased");
-         pvalue->u.ueBased = (UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueBased*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueBased));
-         if (pvalue->u.ueBased == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueBased(ctx, pvalue->u.ueBased);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "ueAssisted");
-         pvalue->u.ueAssisted = (UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueAssisted*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueAssisted));
-         if (pvalue->u.ueAssisted == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueAssisted(ctx, pvalue->u.ueAssisted);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_IPDL_Parameters(rtxContext* ctx, UE_Positioning_IPDL_Parameters* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-IPDL-Parameters");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ip-Spacing */
-   rtxCtxtPushElemName(ctx, "ip-Spacing");
-   rtxCtxtPushTypeName(ctx, "IP-Spacing");
-   stat = pd_ConsUnsigned(ctx, &pvalue->ip_Spacing, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ip-Length */
-   rtxCtxtPushElemName(ctx, "ip-Length");
-   rtxCtxtPushTypeName(ctx, "IP-Length");
-   stat = pd_ConsUnsigned(ctx, &pvalue->ip_Length, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ip-Offset */
-   rtxCtxtPushElemName(ctx, "ip-Offset");
-   stat = pd_ConsUInt8(ctx, &pvalue->ip_Offset, 0, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* seed */
-   rtxCtxtPushElemName(ctx, "seed");
-   stat = pd_ConsUInt8(ctx, &pvalue->seed, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* burstModeParameters */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "burstModeParameters");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_BurstModeParameters(ctx, &pvalue->burstModeParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo(rtxContext* ctx, UE_Positioning_OTDOA_ReferenceCellInfo* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-ReferenceCellInfo");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* sfn */
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v770ext-IEs");
+   /* ue-RadioAccessCapabilityInfo */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "sfn");
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt16(ctx, &pvalue->sfn, 0, 4095);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UE_RadioAccessCapabilityInfo_v770ext(ctx, &pvalue->ue_RadioAccessCapabilityInfo);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityInfo", -1, "InterRATHandoverInfo-v770ext-IEs");
    }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
+   /* ue-RadioAccessCapabilityComp */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UE_RadioAccessCapabilityComp_v770ext(ctx, &pvalue->ue_RadioAccessCapabilityComp);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityComp", -1, "InterRATHandoverInfo-v770ext-IEs");
    }
-   /* positioningMode */
-   rtxCtxtPushElemName(ctx, "positioningMode");
-   stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode(ctx, &pvalue->positioningMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-positioning-IPDL-Paremeters */
+   /* ue-RadioAccessCapabilityComp2 */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-IPDL-Paremeters");
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_IPDL_Parameters(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_fdd(rtxContext* ctx, UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_tdd(rtxContext* ctx, UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   /* cellAndChannelIdentity */
-   rtxCtxtPushElemName(ctx, "cellAndChannelIdentity");
-   stat = asn1PD_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo(rtxContext* ctx, UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+      stat = asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v770ext(ctx, &pvalue->ue_RadioAccessCapabilityComp2);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityComp2", -1, "InterRATHandoverInfo-v770ext-IEs");
    }
    return 0;
 }
 
-int asn1PD_UMTS_SFN_SFN_RelTimeDifference1(rtxContext* ctx, SFN_SFN_RelTimeDifference1* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SFN-SFN-RelTimeDifference1");
-   /* sfn-Offset */
-   rtxCtxtPushElemName(ctx, "sfn-Offset");
-   stat = pd_ConsUInt16(ctx, &pvalue->sfn_Offset, 0, 4095);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sfn-sfn-Reltimedifference */
-   rtxCtxtPushElemName(ctx, "sfn-sfn-Reltimedifference");
-   stat = pd_ConsUInt16(ctx, &pvalue->sfn_sfn_Reltimedifference, 0, 38399);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SFN_SFN_Drift(rtxContext* ctx, SFN_SFN_Drift* pvalue)
+int asn1PD_UMTS_InterRATHandoverInfo_v790ext_IEs_supportForEDPCCHPowerBoosting(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v790ext_IEs_supportForEDPCCHPowerBoosting* RT_RESTRICT pvalue)
 {
    int stat;
-   rtxCtxtPushTypeName(ctx, "SFN-SFN-Drift");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 28);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_OTDOA_SearchWindowSize(rtxContext* ctx, OTDOA_SearchWindowSize* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "OTDOA-SearchWindowSize");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueBased(rtxContext* ctx, UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueBased* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueAssisted(rtxContext* ctx, UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueAssisted* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode(rtxContext* ctx, UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "ueBased");
-         pvalue->u.ueBased = (UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueBased*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueBased));
-         if (pvalue->u.ueBased == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueBased(ctx, pvalue->u.ueBased);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "ueAssisted");
-         pvalue->u.ueAssisted = (UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueAssisted*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueAssisted));
-         if (pvalue->u.ueAssisted == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueAssisted(ctx, pvalue->u.ueAssisted);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo(rtxContext* ctx, UE_Positioning_OTDOA_NeighbourCellInfo* pvalue)
+int asn1PD_UMTS_InterRATHandoverInfo_v790ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v790ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-NeighbourCellInfo");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-IPDL-Paremeters */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-IPDL-Paremeters");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_IPDL_Parameters(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sfn-SFN-RelTimeDifference */
-   rtxCtxtPushElemName(ctx, "sfn-SFN-RelTimeDifference");
-   stat = asn1PD_UMTS_SFN_SFN_RelTimeDifference1(ctx, &pvalue->sfn_SFN_RelTimeDifference);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sfn-SFN-Drift */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "sfn-SFN-Drift");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "SFN-SFN-Drift");
-      stat = pd_ConsUnsigned(ctx, &pvalue->sfn_SFN_Drift, 0, 28);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* searchWindowSize */
-   rtxCtxtPushElemName(ctx, "searchWindowSize");
-   rtxCtxtPushTypeName(ctx, "OTDOA-SearchWindowSize");
-   stat = pd_ConsUnsigned(ctx, &pvalue->searchWindowSize, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* positioningMode */
-   rtxCtxtPushElemName(ctx, "positioningMode");
-   stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode(ctx, &pvalue->positioningMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellList(rtxContext* ctx, UE_Positioning_OTDOA_NeighbourCellList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-NeighbourCellList");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UE_Positioning_OTDOA_NeighbourCellInfo* elem;
-      rtxCtxtPushArrayElemName(ctx, "UE-Positioning-OTDOA-NeighbourCellInfo", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_Positioning_OTDOA_NeighbourCellInfo));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (UE_Positioning_OTDOA_NeighbourCellInfo*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData(rtxContext* ctx, UE_Positioning_OTDOA_AssistanceData* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-AssistanceData");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-OTDOA-ReferenceCellInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-ReferenceCellInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo(ctx, &pvalue->ue_positioning_OTDOA_ReferenceCellInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-OTDOA-NeighbourCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-NeighbourCellList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellList(ctx, &pvalue->ue_positioning_OTDOA_NeighbourCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_GPSReferenceTime_utran_GPSTimingOfCell(rtxContext* ctx, UTRAN_GPSReferenceTime_utran_GPSTimingOfCell* pvalue)
-{
-   int stat = 0;
-   /* ms-part */
-   rtxCtxtPushElemName(ctx, "ms-part");
-   stat = pd_ConsUInt16(ctx, &pvalue->ms_part, 0, 1023);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ls-part */
-   rtxCtxtPushElemName(ctx, "ls-part");
-   stat = pd_ConsUInt32(ctx, &pvalue->ls_part, 0, 4294967295LL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_GPSReferenceTime_modeSpecificInfo_fdd(rtxContext* ctx, UTRAN_GPSReferenceTime_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   /* referenceIdentity */
-   rtxCtxtPushElemName(ctx, "referenceIdentity");
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->referenceIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_GPSReferenceTime_modeSpecificInfo_tdd(rtxContext* ctx, UTRAN_GPSReferenceTime_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   /* referenceIdentity */
-   rtxCtxtPushElemName(ctx, "referenceIdentity");
-   rtxCtxtPushTypeName(ctx, "CellParametersID");
-   stat = pd_ConsUInt8(ctx, &pvalue->referenceIdentity, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_GPSReferenceTime_modeSpecificInfo(rtxContext* ctx, UTRAN_GPSReferenceTime_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (UTRAN_GPSReferenceTime_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UTRAN_GPSReferenceTime_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UTRAN_GPSReferenceTime_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (UTRAN_GPSReferenceTime_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UTRAN_GPSReferenceTime_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UTRAN_GPSReferenceTime_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_GPSReferenceTime(rtxContext* ctx, UTRAN_GPSReferenceTime* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UTRAN-GPSReferenceTime");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* utran-GPSTimingOfCell */
-   rtxCtxtPushElemName(ctx, "utran-GPSTimingOfCell");
-   stat = asn1PD_UMTS_UTRAN_GPSReferenceTime_utran_GPSTimingOfCell(ctx, &pvalue->utran_GPSTimingOfCell);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* modeSpecificInfo */
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v790ext-IEs");
+   /* supportForEDPCCHPowerBoosting */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "modeSpecificInfo");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UTRAN_GPSReferenceTime_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportForEDPCCHPowerBoosting", -1, "InterRATHandoverInfo-v790ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportForEDPCCHPowerBoosting", -1, "InterRATHandoverInfo-v790ext-IEs");
+         pvalue->supportForEDPCCHPowerBoosting = ui;
+      }
    }
-   /* sfn */
-   rtxCtxtPushElemName(ctx, "sfn");
-   stat = pd_ConsUInt16(ctx, &pvalue->sfn, 0, 4095);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_SFN_TOW_Uncertainty(rtxContext* ctx, SFN_TOW_Uncertainty* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "SFN-TOW-Uncertainty");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_GPS_DriftRate(rtxContext* ctx, UTRAN_GPS_DriftRate* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "UTRAN-GPS-DriftRate");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_ReferenceTime(rtxContext* ctx, UE_Positioning_GPS_ReferenceTime* pvalue)
+int asn1PD_UMTS_InterRATHandoverInfo_v860ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v860ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-ReferenceTime");
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v860ext-IEs");
+   /* ue-RadioAccessCapabilityInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapability_v860ext(ctx, &pvalue->ue_RadioAccessCapabilityInfo);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityInfo", -1, "InterRATHandoverInfo-v860ext-IEs");
+   }
+   /* ue-RadioAccessCapabilityComp2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v860ext(ctx, &pvalue->ue_RadioAccessCapabilityComp2);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityComp2", -1, "InterRATHandoverInfo-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfo_v880ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v880ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v880ext-IEs");
+   /* ue-RadioAccessCapabilityInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapability_v880ext(ctx, &pvalue->ue_RadioAccessCapabilityInfo);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityInfo", -1, "InterRATHandoverInfo-v880ext-IEs");
+   }
+   /* ue-RadioAccessCapabilityInfo-TDD128 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapabilityComp_TDD128(ctx, &pvalue->ue_RadioAccessCapabilityInfo_TDD128);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityInfo-TDD128", -1, "InterRATHandoverInfo-v880ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfo_v920ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v920ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v920ext-IEs");
+   /* ue-RadioAccessCapabilityInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapability_v920ext(ctx, &pvalue->ue_RadioAccessCapabilityInfo);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityInfo", -1, "InterRATHandoverInfo-v920ext-IEs");
+   }
+   /* ue-RadioAccessCapabilityComp2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v920ext(ctx, &pvalue->ue_RadioAccessCapabilityComp2);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityComp2", -1, "InterRATHandoverInfo-v920ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v920NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfo-v920ext */
+   stat = asn1PD_UMTS_InterRATHandoverInfo_v920ext_IEs(ctx, &pvalue->interRATHandoverInfo_v920ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v920ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfo-v880ext */
+   stat = asn1PD_UMTS_InterRATHandoverInfo_v880ext_IEs(ctx, &pvalue->interRATHandoverInfo_v880ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v880ext", -1, 0);
+   /* v920NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfo-v860ext */
+   stat = asn1PD_UMTS_InterRATHandoverInfo_v860ext_IEs(ctx, &pvalue->interRATHandoverInfo_v860ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v860ext", -1, 0);
+   /* v880NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions(ctx, &pvalue->v880NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v880NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfo-v790ext */
+   stat = asn1PD_UMTS_InterRATHandoverInfo_v790ext_IEs(ctx, &pvalue->interRATHandoverInfo_v790ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v790ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfo-v770ext */
+   stat = asn1PD_UMTS_InterRATHandoverInfo_v770ext_IEs(ctx, &pvalue->interRATHandoverInfo_v770ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v770ext", -1, 0);
+   /* v790nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions(ctx, &pvalue->v790nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v790nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfo-v6e0ext */
+   stat = asn1PD_UMTS_InterRATHandoverInfo_v6e0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v6e0ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v6e0ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-NonCriticalExtension-v6b0-IEs");
+   /* interRATHandoverInfo-v6b0ext */
+   stat = asn1PD_UMTS_InterRATHandoverInfo_v6b0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v6b0ext", -1, "InterRATHandoverInfo-NonCriticalExtension-v6b0-IEs");
+   /* v6e0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions(ctx, &pvalue->v6e0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6e0NonCriticalExtensions", -1, "InterRATHandoverInfo-NonCriticalExtension-v6b0-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfo-v690ext */
+   stat = asn1PD_UMTS_InterRATHandoverInfo_v690ext_IEs(ctx, &pvalue->interRATHandoverInfo_v690ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v690ext", -1, 0);
+   /* v6b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfo-v590ext */
+   stat = asn1PD_UMTS_InterRATHandoverInfo_v590ext_IEs(ctx, &pvalue->interRATHandoverInfo_v590ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v590ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfo-v4d0ext */
+   stat = asn1PD_UMTS_InterRATHandoverInfo_v4d0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v4d0ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v4d0ext", -1, 0);
+   /* v590NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfo-v4b0ext */
+   stat = asn1PD_UMTS_InterRATHandoverInfo_v4b0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v4b0ext", -1, 0);
+   /* v4d0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfo-v3g0ext */
+   stat = asn1PD_UMTS_InterRATHandoverInfo_v3g0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v3g0ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v3g0ext", -1, 0);
+   /* v4b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfo-v3d0ext */
+   stat = asn1PD_UMTS_InterRATHandoverInfo_v3d0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v3d0ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v3d0ext", -1, 0);
+   /* interRATHandoverInfo-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      {
+         rtxDynBitStr carrier;
+         rtxContext outer;
+         stat = pd_DynBitString(ctx, &carrier);
+         RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-r3-add-ext", -1, 0);
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_InterRATHandoverInfo_r3_add_ext_IEs(ctx, &pvalue->interRATHandoverInfo_r3_add_ext);
+            RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-r3-add-ext", -1, 0);
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+      }
+   }
+   /* v3g0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions(ctx, &pvalue->v3g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3g0NonCriticalExtensions", -1, 0);
+   }
+   return stat;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfo-v3a0ext */
+   stat = asn1PD_UMTS_InterRATHandoverInfo_v3a0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v3a0ext", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v390NonCriticalExtensions_present* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfo-v390ext */
+   stat = asn1PD_UMTS_InterRATHandoverInfo_v390ext_IEs(ctx, &pvalue->interRATHandoverInfo_v390ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v390ext", -1, 0);
+   /* v3a0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v390NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* absent */
+         break;
+      case 1: /* present */
+         pvalue->u.present = (InterRATHandoverInfo_v390NonCriticalExtensions_present*)rtxMemHeapAlloc(ctx, sizeof(InterRATHandoverInfo_v390NonCriticalExtensions_present));
+         if (pvalue->u.present == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "present", -1, 0);
+         asn1Init_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present(pvalue->u.present);
+         stat = asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present(ctx, pvalue->u.present);
+         RT_CHECK(ctx, stat, 0, "present", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfo(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* predefinedConfigStatusList */
+   stat = asn1PD_UMTS_InterRATHandoverInfo_predefinedConfigStatusList(ctx, &pvalue->predefinedConfigStatusList);
+   RT_CHECK(ctx, stat, 0, "predefinedConfigStatusList", -1, "InterRATHandoverInfo");
+   /* uE-SecurityInformation */
+   stat = asn1PD_UMTS_InterRATHandoverInfo_uE_SecurityInformation(ctx, &pvalue->uE_SecurityInformation);
+   RT_CHECK(ctx, stat, 0, "uE-SecurityInformation", -1, "InterRATHandoverInfo");
+   /* ue-CapabilityContainer */
+   stat = asn1PD_UMTS_InterRATHandoverInfo_ue_CapabilityContainer(ctx, &pvalue->ue_CapabilityContainer);
+   RT_CHECK(ctx, stat, 0, "ue-CapabilityContainer", -1, "InterRATHandoverInfo");
+   /* v390NonCriticalExtensions */
+   stat = asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions(ctx, &pvalue->v390NonCriticalExtensions);
+   RT_CHECK(ctx, stat, 0, "v390NonCriticalExtensions", -1, "InterRATHandoverInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_r3_IEs(rtxContext* RT_RESTRICT ctx, MeasurementControl_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "MeasurementControl-r3-IEs");
+   /* measurementIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->measurementIdentity, 1, 16);
+   RT_CHECK(ctx, stat, "MeasurementIdentity", "measurementIdentity", -1, "MeasurementControl-r3-IEs");
+   /* measurementCommand */
+   stat = asn1PD_UMTS_MeasurementCommand(ctx, &pvalue->measurementCommand);
+   RT_CHECK(ctx, stat, 0, "measurementCommand", -1, "MeasurementControl-r3-IEs");
+   /* measurementReportingMode */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
+      RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "MeasurementControl-r3-IEs");
+   }
+   /* additionalMeasurementList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementList);
+      RT_CHECK(ctx, stat, 0, "additionalMeasurementList", -1, "MeasurementControl-r3-IEs");
+   }
+   /* dpch-CompressedModeStatusInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_DPCH_CompressedModeStatusInfo(ctx, &pvalue->dpch_CompressedModeStatusInfo);
+      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeStatusInfo", -1, "MeasurementControl-r3-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_v390ext(rtxContext* RT_RESTRICT ctx, MeasurementControl_v390ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-v390ext");
+   /* ue-Positioning-Measurement-v390ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_Positioning_Measurement_v390ext(ctx, &pvalue->ue_Positioning_Measurement_v390ext);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-Measurement-v390ext", -1, "MeasurementControl-v390ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_v3a0ext(rtxContext* RT_RESTRICT ctx, MeasurementControl_v3a0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-v3a0ext");
+   /* sfn-Offset-Validity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "MeasurementControl-v3a0ext");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "MeasurementControl-v3a0ext");
+         pvalue->sfn_Offset_Validity = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_v590ext_IEs_measurementCommand_v590ext(rtxContext* RT_RESTRICT ctx, MeasurementControl_v590ext_IEs_measurementCommand_v590ext* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* intra-frequency */
+         pvalue->u.intra_frequency = (Intra_FreqEventCriteriaList_v590ext*)rtxMemHeapAlloc(ctx, sizeof(Intra_FreqEventCriteriaList_v590ext));
+         if (pvalue->u.intra_frequency == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "intra-frequency", -1, 0);
+         asn1Init_UMTS_Intra_FreqEventCriteriaList_v590ext(pvalue->u.intra_frequency);
+         stat = asn1PD_UMTS_Intra_FreqEventCriteriaList_v590ext(ctx, pvalue->u.intra_frequency);
+         RT_CHECK(ctx, stat, 0, "intra-frequency", -1, 0);
+         break;
+      case 1: /* inter-frequency */
+         pvalue->u.inter_frequency = (Inter_FreqEventCriteriaList_v590ext*)rtxMemHeapAlloc(ctx, sizeof(Inter_FreqEventCriteriaList_v590ext));
+         if (pvalue->u.inter_frequency == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "inter-frequency", -1, 0);
+         asn1Init_UMTS_Inter_FreqEventCriteriaList_v590ext(pvalue->u.inter_frequency);
+         stat = asn1PD_UMTS_Inter_FreqEventCriteriaList_v590ext(ctx, pvalue->u.inter_frequency);
+         RT_CHECK(ctx, stat, 0, "inter-frequency", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_v590ext_IEs(rtxContext* RT_RESTRICT ctx, MeasurementControl_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-v590ext-IEs");
+   /* measurementCommand-v590ext */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementControl_v590ext_IEs_measurementCommand_v590ext(ctx, &pvalue->measurementCommand_v590ext);
+      RT_CHECK(ctx, stat, 0, "measurementCommand-v590ext", -1, "MeasurementControl-v590ext-IEs");
+   }
+   /* intraFreqReportingCriteria-1b-r5 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_IntraFreqReportingCriteria_1b_r5(ctx, &pvalue->intraFreqReportingCriteria_1b_r5);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria-1b-r5", -1, "MeasurementControl-v590ext-IEs");
+   }
+   /* intraFreqEvent-1d-r5 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_IntraFreqEvent_1d_r5(ctx, &pvalue->intraFreqEvent_1d_r5);
+      RT_CHECK(ctx, stat, 0, "intraFreqEvent-1d-r5", -1, "MeasurementControl-v590ext-IEs");
+   }
+   /* rrc-TransactionIdentifier-MSP-v590ext */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier_MSP_v590ext, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier-MSP-v590ext", -1, "MeasurementControl-v590ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_v5b0ext_IEs(rtxContext* RT_RESTRICT ctx, MeasurementControl_v5b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-v5b0ext-IEs");
+   /* interRATCellInfoIndication */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->interRATCellInfoIndication, 0, 3);
+      RT_CHECK(ctx, stat, "InterRATCellInfoIndication", "interRATCellInfoIndication", -1, "MeasurementControl-v5b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementControl-v5b0ext */
+   stat = asn1PD_UMTS_MeasurementControl_v5b0ext_IEs(ctx, &pvalue->measurementControl_v5b0ext);
+   RT_CHECK(ctx, stat, 0, "measurementControl-v5b0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementControl-v590ext */
+   stat = asn1PD_UMTS_MeasurementControl_v590ext_IEs(ctx, &pvalue->measurementControl_v590ext);
+   RT_CHECK(ctx, stat, 0, "measurementControl-v590ext", -1, 0);
+   /* v5b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions(ctx, &pvalue->v5b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v5b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* v590NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementControl-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->measurementControl_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "measurementControl-r3-add-ext", -1, 0);
+   }
+   /* v4b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementControl-v3a0ext */
+   stat = asn1PD_UMTS_MeasurementControl_v3a0ext(ctx, &pvalue->measurementControl_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "measurementControl-v3a0ext", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_r3_v390nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementControl-v390ext */
+   stat = asn1PD_UMTS_MeasurementControl_v390ext(ctx, &pvalue->measurementControl_v390ext);
+   RT_CHECK(ctx, stat, 0, "measurementControl-v390ext", -1, 0);
+   /* v3a0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_r3(rtxContext* RT_RESTRICT ctx, MeasurementControl_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementControl-r3 */
+   stat = asn1PD_UMTS_MeasurementControl_r3_IEs(ctx, &pvalue->measurementControl_r3);
+   RT_CHECK(ctx, stat, 0, "measurementControl-r3", -1, 0);
+   /* v390nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions(ctx, &pvalue->v390nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v390nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_r4_IEs(rtxContext* RT_RESTRICT ctx, MeasurementControl_r4_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-r4-IEs");
+   /* measurementIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->measurementIdentity, 1, 16);
+   RT_CHECK(ctx, stat, "MeasurementIdentity", "measurementIdentity", -1, "MeasurementControl-r4-IEs");
+   /* measurementCommand */
+   stat = asn1PD_UMTS_MeasurementCommand_r4(ctx, &pvalue->measurementCommand);
+   RT_CHECK(ctx, stat, 0, "measurementCommand", -1, "MeasurementControl-r4-IEs");
+   /* measurementReportingMode */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
+      RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "MeasurementControl-r4-IEs");
+   }
+   /* additionalMeasurementList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementList);
+      RT_CHECK(ctx, stat, 0, "additionalMeasurementList", -1, "MeasurementControl-r4-IEs");
+   }
+   /* dpch-CompressedModeStatusInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_DPCH_CompressedModeStatusInfo(ctx, &pvalue->dpch_CompressedModeStatusInfo);
+      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeStatusInfo", -1, "MeasurementControl-r4-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementControl-v5b0ext */
+   stat = asn1PD_UMTS_MeasurementControl_v5b0ext_IEs(ctx, &pvalue->measurementControl_v5b0ext);
+   RT_CHECK(ctx, stat, 0, "measurementControl-v5b0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementControl-v590ext */
+   stat = asn1PD_UMTS_MeasurementControl_v590ext_IEs(ctx, &pvalue->measurementControl_v590ext);
+   RT_CHECK(ctx, stat, 0, "measurementControl-v590ext", -1, 0);
+   /* v5b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions(ctx, &pvalue->v5b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v5b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementControl-r4-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->measurementControl_r4_add_ext);
+      RT_CHECK(ctx, stat, 0, "measurementControl-r4-add-ext", -1, 0);
+   }
+   /* v590NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementControl-r4 */
+   stat = asn1PD_UMTS_MeasurementControl_r4_IEs(ctx, &pvalue->measurementControl_r4);
+   RT_CHECK(ctx, stat, 0, "measurementControl-r4", -1, 0);
+   /* v4d0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_r6_IEs(rtxContext* RT_RESTRICT ctx, MeasurementControl_r6_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-r6-IEs");
+   /* measurementIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->measurementIdentity, 1, 16);
+   RT_CHECK(ctx, stat, "MeasurementIdentity", "measurementIdentity", -1, "MeasurementControl-r6-IEs");
+   /* measurementCommand */
+   stat = asn1PD_UMTS_MeasurementCommand_r6(ctx, &pvalue->measurementCommand);
+   RT_CHECK(ctx, stat, 0, "measurementCommand", -1, "MeasurementControl-r6-IEs");
+   /* measurementReportingMode */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
+      RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "MeasurementControl-r6-IEs");
+   }
+   /* additionalMeasurementList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementList);
+      RT_CHECK(ctx, stat, 0, "additionalMeasurementList", -1, "MeasurementControl-r6-IEs");
+   }
+   /* dpch-CompressedModeStatusInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_DPCH_CompressedModeStatusInfo(ctx, &pvalue->dpch_CompressedModeStatusInfo);
+      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeStatusInfo", -1, "MeasurementControl-r6-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_v6a0ext_IEs(rtxContext* RT_RESTRICT ctx, MeasurementControl_v6a0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-v6a0ext-IEs");
+   /* intraFreqReportingCriteria-1b-r5 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntraFreqReportingCriteria_1b_r5(ctx, &pvalue->intraFreqReportingCriteria_1b_r5);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria-1b-r5", -1, "MeasurementControl-v6a0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6_v6a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6_v6a0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6_v6a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6_v6a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementControl-v6a0ext */
+   stat = asn1PD_UMTS_MeasurementControl_v6a0ext_IEs(ctx, &pvalue->measurementControl_v6a0ext);
+   RT_CHECK(ctx, stat, 0, "measurementControl-v6a0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6_v6a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementControl-r6 */
+   stat = asn1PD_UMTS_MeasurementControl_r6_IEs(ctx, &pvalue->measurementControl_r6);
+   RT_CHECK(ctx, stat, 0, "measurementControl-r6", -1, 0);
+   /* v6a0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6_v6a0NonCriticalExtensions(ctx, &pvalue->v6a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_r7_IEs(rtxContext* RT_RESTRICT ctx, MeasurementControl_r7_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-r7-IEs");
+   /* measurementIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->measurementIdentity, 1, 16);
+   RT_CHECK(ctx, stat, "MeasurementIdentity", "measurementIdentity", -1, "MeasurementControl-r7-IEs");
+   /* measurementCommand */
+   stat = asn1PD_UMTS_MeasurementCommand_r7(ctx, &pvalue->measurementCommand);
+   RT_CHECK(ctx, stat, 0, "measurementCommand", -1, "MeasurementControl-r7-IEs");
+   /* measurementReportingMode */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
+      RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "MeasurementControl-r7-IEs");
+   }
+   /* additionalMeasurementList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementList);
+      RT_CHECK(ctx, stat, 0, "additionalMeasurementList", -1, "MeasurementControl-r7-IEs");
+   }
+   /* dpch-CompressedModeStatusInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_DPCH_CompressedModeStatusInfo(ctx, &pvalue->dpch_CompressedModeStatusInfo);
+      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeStatusInfo", -1, "MeasurementControl-r7-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_v7b0ext_IEs(rtxContext* RT_RESTRICT ctx, MeasurementControl_v7b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-v7b0ext-IEs");
+   /* newInterFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_NewInterFreqCellList_v7b0ext(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "MeasurementControl-v7b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7_v7b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7_v7b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7_v7b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7_v7b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementControl-v7b0ext */
+   stat = asn1PD_UMTS_MeasurementControl_v7b0ext_IEs(ctx, &pvalue->measurementControl_v7b0ext);
+   RT_CHECK(ctx, stat, 0, "measurementControl-v7b0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7_v7b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementControl-r7 */
+   stat = asn1PD_UMTS_MeasurementControl_r7_IEs(ctx, &pvalue->measurementControl_r7);
+   RT_CHECK(ctx, stat, 0, "measurementControl-r7", -1, 0);
+   /* measurementControl-r7-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->measurementControl_r7_add_ext);
+      RT_CHECK(ctx, stat, 0, "measurementControl-r7-add-ext", -1, 0);
+   }
+   /* v7b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7_v7b0NonCriticalExtensions(ctx, &pvalue->v7b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_r8_IEs(rtxContext* RT_RESTRICT ctx, MeasurementControl_r8_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-r8-IEs");
+   /* measurementIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->measurementIdentity, 1, 16);
+   RT_CHECK(ctx, stat, "MeasurementIdentity", "measurementIdentity", -1, "MeasurementControl-r8-IEs");
+   /* measurementCommand */
+   stat = asn1PD_UMTS_MeasurementCommand_r8(ctx, &pvalue->measurementCommand);
+   RT_CHECK(ctx, stat, 0, "measurementCommand", -1, "MeasurementControl-r8-IEs");
+   /* measurementReportingMode */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
+      RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "MeasurementControl-r8-IEs");
+   }
+   /* additionalMeasurementList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementList);
+      RT_CHECK(ctx, stat, 0, "additionalMeasurementList", -1, "MeasurementControl-r8-IEs");
+   }
+   /* dpch-CompressedModeStatusInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_DPCH_CompressedModeStatusInfo(ctx, &pvalue->dpch_CompressedModeStatusInfo);
+      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeStatusInfo", -1, "MeasurementControl-r8-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_v8a0ext_IEs(rtxContext* RT_RESTRICT ctx, MeasurementControl_v8a0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-v8a0ext-IEs");
+   /* newIntraFreqCellList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_NewIntraFreqCellList_LCR_v8a0ext(ctx, &pvalue->newIntraFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "MeasurementControl-v8a0ext-IEs");
+   }
+   /* newInterFreqCellList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_NewInterFreqCellList_LCR_v8a0ext(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "MeasurementControl-v8a0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8_v8a0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8_v8a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8_v8a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementControl-v8a0ext */
+   stat = asn1PD_UMTS_MeasurementControl_v8a0ext_IEs(ctx, &pvalue->measurementControl_v8a0ext);
+   RT_CHECK(ctx, stat, 0, "measurementControl-v8a0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementControl-r8 */
+   stat = asn1PD_UMTS_MeasurementControl_r8_IEs(ctx, &pvalue->measurementControl_r8);
+   RT_CHECK(ctx, stat, 0, "measurementControl-r8", -1, 0);
+   /* measurementControl-r8-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->measurementControl_r8_add_ext);
+      RT_CHECK(ctx, stat, 0, "measurementControl-r8-add-ext", -1, 0);
+   }
+   /* v8a0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v8a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_r9_IEs(rtxContext* RT_RESTRICT ctx, MeasurementControl_r9_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* gps-Week */
-   rtxCtxtPushElemName(ctx, "gps-Week");
-   stat = pd_ConsUInt16(ctx, &pvalue->gps_Week, 0, 1023);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gps-tow-1msec */
-   rtxCtxtPushElemName(ctx, "gps-tow-1msec");
-   rtxCtxtPushTypeName(ctx, "GPS-TOW-1msec");
-   stat = pd_ConsUInt32(ctx, &pvalue->gps_tow_1msec, 0, 604799999);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* utran-GPSReferenceTime */
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-r9-IEs");
+   /* measurementIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->measurementIdentity, 1, 16);
+   RT_CHECK(ctx, stat, "MeasurementIdentity", "measurementIdentity", -1, "MeasurementControl-r9-IEs");
+   /* measurementCommand */
+   stat = asn1PD_UMTS_MeasurementCommand_r9(ctx, &pvalue->measurementCommand);
+   RT_CHECK(ctx, stat, 0, "measurementCommand", -1, "MeasurementControl-r9-IEs");
+   /* measurementReportingMode */
    if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "utran-GPSReferenceTime");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UTRAN_GPSReferenceTime(ctx, &pvalue->utran_GPSReferenceTime);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
+      RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "MeasurementControl-r9-IEs");
    }
-   /* sfn-tow-Uncertainty */
+   /* additionalMeasurementList */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "sfn-tow-Uncertainty");
       pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "SFN-TOW-Uncertainty");
-      stat = pd_ConsUnsigned(ctx, &pvalue->sfn_tow_Uncertainty, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementList);
+      RT_CHECK(ctx, stat, 0, "additionalMeasurementList", -1, "MeasurementControl-r9-IEs");
    }
-   /* utran-GPS-DriftRate */
+   /* cellDCHMeasOccasionInfo-TDD128 */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "utran-GPS-DriftRate");
       pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "UTRAN-GPS-DriftRate");
-      stat = pd_ConsUnsigned(ctx, &pvalue->utran_GPS_DriftRate, 0, 14);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_CellDCHMeasOccasionInfo_TDD128_r9(ctx, &pvalue->cellDCHMeasOccasionInfo_TDD128);
+      RT_CHECK(ctx, stat, 0, "cellDCHMeasOccasionInfo-TDD128", -1, "MeasurementControl-r9-IEs");
    }
-   /* gps-TOW-AssistList */
+   /* dpch-CompressedModeStatusInfo */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "gps-TOW-AssistList");
       pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_GPS_TOW_AssistList(ctx, &pvalue->gps_TOW_AssistList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_DPCH_CompressedModeStatusInfo(ctx, &pvalue->dpch_CompressedModeStatusInfo);
+      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeStatusInfo", -1, "MeasurementControl-r9-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_ReferenceLocation(rtxContext* ctx, ReferenceLocation* pvalue)
+int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ReferenceLocation");
-   /* ellipsoidPointAltitudeEllipsoide */
-   rtxCtxtPushElemName(ctx, "ellipsoidPointAltitudeEllipsoide");
-   stat = asn1PD_UMTS_EllipsoidPointAltitudeEllipsoide(ctx, &pvalue->ellipsoidPointAltitudeEllipsoide);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GPS_DGPS_Corrections(rtxContext* ctx, UE_Positioning_GPS_DGPS_Corrections* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-DGPS-Corrections");
-   /* gps-TOW */
-   rtxCtxtPushElemName(ctx, "gps-TOW");
-   rtxCtxtPushTypeName(ctx, "GPS-TOW-1sec");
-   stat = pd_ConsUInt32(ctx, &pvalue->gps_TOW, 0, 604799);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* statusHealth */
-   rtxCtxtPushElemName(ctx, "statusHealth");
-   rtxCtxtPushTypeName(ctx, "DiffCorrectionStatus");
-   stat = pd_ConsUnsigned(ctx, &pvalue->statusHealth, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dgps-CorrectionSatInfoList */
-   rtxCtxtPushElemName(ctx, "dgps-CorrectionSatInfoList");
-   stat = asn1PD_UMTS_DGPS_CorrectionSatInfoList(ctx, &pvalue->dgps_CorrectionSatInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SatelliteStatus(rtxContext* ctx, SatelliteStatus* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "SatelliteStatus");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SubFrame1Reserved(rtxContext* ctx, SubFrame1Reserved* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SubFrame1Reserved");
-   /* reserved1 */
-   rtxCtxtPushElemName(ctx, "reserved1");
-   RT_SET_SIZE(ctx, 23, 23);
-   stat = pd_BitString32(ctx, &pvalue->reserved1, 23, 23);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* reserved2 */
-   rtxCtxtPushElemName(ctx, "reserved2");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->reserved2, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* reserved3 */
-   rtxCtxtPushElemName(ctx, "reserved3");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->reserved3, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* reserved4 */
-   rtxCtxtPushElemName(ctx, "reserved4");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->reserved4, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_EphemerisParameter(rtxContext* ctx, EphemerisParameter* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "EphemerisParameter");
-   /* codeOnL2 */
-   rtxCtxtPushElemName(ctx, "codeOnL2");
-   RT_SET_SIZE(ctx, 2, 2);
-   stat = pd_BitString32(ctx, &pvalue->codeOnL2, 2, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* uraIndex */
-   rtxCtxtPushElemName(ctx, "uraIndex");
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pd_BitString32(ctx, &pvalue->uraIndex, 4, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* satHealth */
-   rtxCtxtPushElemName(ctx, "satHealth");
-   RT_SET_SIZE(ctx, 6, 6);
-   stat = pd_BitString32(ctx, &pvalue->satHealth, 6, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* iodc */
-   rtxCtxtPushElemName(ctx, "iodc");
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pd_BitString32(ctx, &pvalue->iodc, 10, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* l2Pflag */
-   rtxCtxtPushElemName(ctx, "l2Pflag");
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pd_BitString32(ctx, &pvalue->l2Pflag, 1, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sf1Revd */
-   rtxCtxtPushElemName(ctx, "sf1Revd");
-   stat = asn1PD_UMTS_SubFrame1Reserved(ctx, &pvalue->sf1Revd);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* t-GD */
-   rtxCtxtPushElemName(ctx, "t-GD");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->t_GD, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* t-oc */
-   rtxCtxtPushElemName(ctx, "t-oc");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->t_oc, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* af2 */
-   rtxCtxtPushElemName(ctx, "af2");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->af2, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* af1 */
-   rtxCtxtPushElemName(ctx, "af1");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->af1, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* af0 */
-   rtxCtxtPushElemName(ctx, "af0");
-   RT_SET_SIZE(ctx, 22, 22);
-   stat = pd_BitString32(ctx, &pvalue->af0, 22, 22);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* c-rs */
-   rtxCtxtPushElemName(ctx, "c-rs");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->c_rs, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* delta-n */
-   rtxCtxtPushElemName(ctx, "delta-n");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->delta_n, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* m0 */
-   rtxCtxtPushElemName(ctx, "m0");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->m0, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* c-uc */
-   rtxCtxtPushElemName(ctx, "c-uc");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->c_uc, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e */
-   rtxCtxtPushElemName(ctx, "e");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->e, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* c-us */
-   rtxCtxtPushElemName(ctx, "c-us");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->c_us, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* a-Sqrt */
-   rtxCtxtPushElemName(ctx, "a-Sqrt");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->a_Sqrt, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* t-oe */
-   rtxCtxtPushElemName(ctx, "t-oe");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->t_oe, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* fitInterval */
-   rtxCtxtPushElemName(ctx, "fitInterval");
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pd_BitString32(ctx, &pvalue->fitInterval, 1, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* aodo */
-   rtxCtxtPushElemName(ctx, "aodo");
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pd_BitString32(ctx, &pvalue->aodo, 5, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* c-ic */
-   rtxCtxtPushElemName(ctx, "c-ic");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->c_ic, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* omega0 */
-   rtxCtxtPushElemName(ctx, "omega0");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->omega0, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* c-is */
-   rtxCtxtPushElemName(ctx, "c-is");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->c_is, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* i0 */
-   rtxCtxtPushElemName(ctx, "i0");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->i0, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* c-rc */
-   rtxCtxtPushElemName(ctx, "c-rc");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->c_rc, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* omega */
-   rtxCtxtPushElemName(ctx, "omega");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->omega, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* omegaDot */
-   rtxCtxtPushElemName(ctx, "omegaDot");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->omegaDot, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* iDot */
-   rtxCtxtPushElemName(ctx, "iDot");
-   RT_SET_SIZE(ctx, 14, 14);
-   stat = pd_BitString32(ctx, &pvalue->iDot, 14, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NavigationModelSatInfo(rtxContext* ctx, NavigationModelSatInfo* pvalue)
+int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "NavigationModelSatInfo");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* satID */
-   rtxCtxtPushElemName(ctx, "satID");
-   rtxCtxtPushTypeName(ctx, "SatID");
-   stat = pd_ConsUInt8(ctx, &pvalue->satID, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* satelliteStatus */
-   rtxCtxtPushElemName(ctx, "satelliteStatus");
-   rtxCtxtPushTypeName(ctx, "SatelliteStatus");
-   stat = pd_ConsUnsigned(ctx, &pvalue->satelliteStatus, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ephemerisParameter */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ephemerisParameter");
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementControl-r9 */
+   stat = asn1PD_UMTS_MeasurementControl_r9_IEs(ctx, &pvalue->measurementControl_r9);
+   RT_CHECK(ctx, stat, 0, "measurementControl-r9", -1, 0);
+   /* measurementControl-r9-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_EphemerisParameter(ctx, &pvalue->ephemerisParameter);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_DynBitString(ctx, &pvalue->measurementControl_r9_add_ext);
+      RT_CHECK(ctx, stat, 0, "measurementControl-r9-add-ext", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NavigationModelSatInfoList(rtxContext* ctx, NavigationModelSatInfoList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "NavigationModelSatInfoList");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NavigationModelSatInfo* elem;
-      rtxCtxtPushArrayElemName(ctx, "NavigationModelSatInfo", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NavigationModelSatInfo));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (NavigationModelSatInfo*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NavigationModelSatInfo(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NavigationModelSatInfo(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_NavigationModel(rtxContext* ctx, UE_Positioning_GPS_NavigationModel* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-NavigationModel");
-   /* navigationModelSatInfoList */
-   rtxCtxtPushElemName(ctx, "navigationModelSatInfoList");
-   stat = asn1PD_UMTS_NavigationModelSatInfoList(ctx, &pvalue->navigationModelSatInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_IonosphericModel(rtxContext* ctx, UE_Positioning_GPS_IonosphericModel* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-IonosphericModel");
-   /* alpha0 */
-   rtxCtxtPushElemName(ctx, "alpha0");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->alpha0, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* alpha1 */
-   rtxCtxtPushElemName(ctx, "alpha1");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->alpha1, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* alpha2 */
-   rtxCtxtPushElemName(ctx, "alpha2");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->alpha2, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* alpha3 */
-   rtxCtxtPushElemName(ctx, "alpha3");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->alpha3, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* beta0 */
-   rtxCtxtPushElemName(ctx, "beta0");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->beta0, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* beta1 */
-   rtxCtxtPushElemName(ctx, "beta1");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->beta1, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* beta2 */
-   rtxCtxtPushElemName(ctx, "beta2");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->beta2, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* beta3 */
-   rtxCtxtPushElemName(ctx, "beta3");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->beta3, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_UTC_Model(rtxContext* ctx, UE_Positioning_GPS_UTC_Model* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-UTC-Model");
-   /* a1 */
-   rtxCtxtPushElemName(ctx, "a1");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pd_BitString32(ctx, &pvalue->a1, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* a0 */
-   rtxCtxtPushElemName(ctx, "a0");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pd_BitString32(ctx, &pvalue->a0, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* t-ot */
-   rtxCtxtPushElemName(ctx, "t-ot");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->t_ot, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* wn-t */
-   rtxCtxtPushElemName(ctx, "wn-t");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->wn_t, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* delta-t-LS */
-   rtxCtxtPushElemName(ctx, "delta-t-LS");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->delta_t_LS, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* wn-lsf */
-   rtxCtxtPushElemName(ctx, "wn-lsf");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->wn_lsf, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dn */
-   rtxCtxtPushElemName(ctx, "dn");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->dn, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* delta-t-LSF */
-   rtxCtxtPushElemName(ctx, "delta-t-LSF");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->delta_t_LSF, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_Almanac_sv_GlobalHealth(rtxContext* ctx, UE_Positioning_GPS_Almanac_sv_GlobalHealth* pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 364, 364);
-   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_Almanac(rtxContext* ctx, UE_Positioning_GPS_Almanac* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-Almanac");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* wn-a */
-   rtxCtxtPushElemName(ctx, "wn-a");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->wn_a, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* almanacSatInfoList */
-   rtxCtxtPushElemName(ctx, "almanacSatInfoList");
-   stat = asn1PD_UMTS_AlmanacSatInfoList(ctx, &pvalue->almanacSatInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sv-GlobalHealth */
+   /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "sv-GlobalHealth");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_Almanac_sv_GlobalHealth(ctx, &pvalue->sv_GlobalHealth);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GPS_AcquisitionAssistance(rtxContext* ctx, UE_Positioning_GPS_AcquisitionAssistance* pvalue)
+int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-AcquisitionAssistance");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* gps-ReferenceTime */
-   rtxCtxtPushElemName(ctx, "gps-ReferenceTime");
-   rtxCtxtPushTypeName(ctx, "GPS-TOW-1msec");
-   stat = pd_ConsUInt32(ctx, &pvalue->gps_ReferenceTime, 0, 604799999);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* utran-GPSReferenceTime */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "utran-GPSReferenceTime");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UTRAN_GPSReferenceTime(ctx, &pvalue->utran_GPSReferenceTime);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* satelliteInformationList */
-   rtxCtxtPushElemName(ctx, "satelliteInformationList");
-   stat = asn1PD_UMTS_AcquisitionSatInfoList(ctx, &pvalue->satelliteInformationList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_fdd(rtxContext* ctx, UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   /* referenceIdentity */
-   rtxCtxtPushElemName(ctx, "referenceIdentity");
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->referenceIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_tdd(rtxContext* ctx, UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   /* referenceIdentity */
-   rtxCtxtPushElemName(ctx, "referenceIdentity");
-   rtxCtxtPushTypeName(ctx, "CellParametersID");
-   stat = pd_ConsUInt8(ctx, &pvalue->referenceIdentity, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo(rtxContext* ctx, UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo* pvalue)
+int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 0: /* r9 */
+         pvalue->u.r9 = (MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9));
+         if (pvalue->u.r9 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r9", -1, 0);
+         asn1Init_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(pvalue->u.r9);
+         stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
+         RT_CHECK(ctx, stat, 0, "r9", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GPS_ReferenceCellInfo(rtxContext* ctx, UE_Positioning_GPS_ReferenceCellInfo* pvalue)
+int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-ReferenceCellInfo");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r8 */
+         pvalue->u.r8 = (MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8));
+         if (pvalue->u.r8 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r8", -1, 0);
+         asn1Init_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8(pvalue->u.r8);
+         stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
+         RT_CHECK(ctx, stat, 0, "r8", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GPS_AssistanceData(rtxContext* ctx, UE_Positioning_GPS_AssistanceData* pvalue)
+int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r7 */
+         pvalue->u.r7 = (MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7));
+         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r7", -1, 0);
+         asn1Init_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7(pvalue->u.r7);
+         stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
+         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r6 */
+         pvalue->u.r6 = (MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6));
+         if (pvalue->u.r6 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r6", -1, 0);
+         asn1Init_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6(pvalue->u.r6);
+         stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6(ctx, pvalue->u.r6);
+         RT_CHECK(ctx, stat, 0, "r6", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rrc-TransactionIdentifier-MSP */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier_MSP, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier-MSP", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r4 */
+         pvalue->u.r4 = (MeasurementControl_later_than_r3_criticalExtensions_r4*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControl_later_than_r3_criticalExtensions_r4));
+         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r4", -1, 0);
+         asn1Init_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4(pvalue->u.r4);
+         stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
+         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
+         break;
+      case 1: /* later-than-r4 */
+         pvalue->u.later_than_r4 = (MeasurementControl_later_than_r3_criticalExtensions_later_than_r4*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControl_later_than_r3_criticalExtensions_later_than_r4));
+         if (pvalue->u.later_than_r4 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r4", -1, 0);
+         asn1Init_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4(pvalue->u.later_than_r4);
+         stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4(ctx, pvalue->u.later_than_r4);
+         RT_CHECK(ctx, stat, 0, "later-than-r4", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl_later_than_r3(rtxContext* RT_RESTRICT ctx, MeasurementControl_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControl(rtxContext* RT_RESTRICT ctx, MeasurementControl* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r3 */
+         pvalue->u.r3 = (MeasurementControl_r3*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControl_r3));
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "MeasurementControl");
+         asn1Init_UMTS_MeasurementControl_r3(pvalue->u.r3);
+         stat = asn1PD_UMTS_MeasurementControl_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "MeasurementControl");
+         break;
+      case 1: /* later-than-r3 */
+         pvalue->u.later_than_r3 = (MeasurementControl_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControl_later_than_r3));
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "MeasurementControl");
+         asn1Init_UMTS_MeasurementControl_later_than_r3(pvalue->u.later_than_r3);
+         stat = asn1PD_UMTS_MeasurementControl_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "MeasurementControl");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementControl");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlFailure_v590ext_IEs(rtxContext* RT_RESTRICT ctx, MeasurementControlFailure_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rrc-TransactionIdentifier-MSP-v590ext */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier_MSP_v590ext, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier-MSP-v590ext", -1, "MeasurementControlFailure-v590ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControlFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlFailure_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControlFailure_laterNonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-AssistanceData");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 10);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GPS-ReferenceTime */
-   if (present & ((uint32_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-ReferenceTime");
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementControlFailure-v590ext */
+   stat = asn1PD_UMTS_MeasurementControlFailure_v590ext_IEs(ctx, &pvalue->measurementControlFailure_v590ext);
+   RT_CHECK(ctx, stat, 0, "measurementControlFailure-v590ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_ReferenceTime(ctx, &pvalue->ue_positioning_GPS_ReferenceTime);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_MeasurementControlFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
-   /* ue-positioning-GPS-ReferenceLocation */
-   if (present & ((uint32_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-ReferenceLocation");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_ReferenceLocation(ctx, &pvalue->ue_positioning_GPS_ReferenceLocation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-DGPS-Corrections */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-DGPS-Corrections");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_DGPS_Corrections(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-NavigationModel */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-NavigationModel");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_NavigationModel(ctx, &pvalue->ue_positioning_GPS_NavigationModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-IonosphericModel */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-IonosphericModel");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_IonosphericModel(ctx, &pvalue->ue_positioning_GPS_IonosphericModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-UTC-Model */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-UTC-Model");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_UTC_Model(ctx, &pvalue->ue_positioning_GPS_UTC_Model);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-Almanac */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-Almanac");
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_Almanac(ctx, &pvalue->ue_positioning_GPS_Almanac);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-AcquisitionAssistance */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-AcquisitionAssistance");
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_AcquisitionAssistance(ctx, &pvalue->ue_positioning_GPS_AcquisitionAssistance);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-Real-timeIntegrity */
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlFailure_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementControlFailure_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementControlFailure-r3-add-ext */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-Real-timeIntegrity");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_BadSatList(ctx, &pvalue->ue_positioning_GPS_Real_timeIntegrity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->measurementControlFailure_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "measurementControlFailure-r3-add-ext", -1, 0);
+   }
+   /* v590NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_MeasurementControlFailure_laterNonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementControlFailure(rtxContext* RT_RESTRICT ctx, MeasurementControlFailure* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControlFailure");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "MeasurementControlFailure");
+   /* failureCause */
+   stat = asn1PD_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
+   RT_CHECK(ctx, stat, 0, "failureCause", -1, "MeasurementControlFailure");
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementControlFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "MeasurementControlFailure");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementReport_v390ext(rtxContext* RT_RESTRICT ctx, MeasurementReport_v390ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementReport-v390ext");
+   /* measuredResults-v390ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasuredResults_v390ext(ctx, &pvalue->measuredResults_v390ext);
+      RT_CHECK(ctx, stat, 0, "measuredResults-v390ext", -1, "MeasurementReport-v390ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementReport_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, MeasurementReport_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementReport-v4b0ext-IEs");
+   /* interFreqEventResults-LCR */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InterFreqEventResults_LCR_r4_ext(ctx, &pvalue->interFreqEventResults_LCR);
+      RT_CHECK(ctx, stat, 0, "interFreqEventResults-LCR", -1, "MeasurementReport-v4b0ext-IEs");
+   }
+   /* additionalMeasuredResults-LCR */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_MeasuredResultsList_LCR_r4_ext(ctx, &pvalue->additionalMeasuredResults_LCR);
+      RT_CHECK(ctx, stat, 0, "additionalMeasuredResults-LCR", -1, "MeasurementReport-v4b0ext-IEs");
    }
    /* dummy */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_ReferenceCellInfo(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "MeasurementReport-v4b0ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_Measurement(rtxContext* ctx, UE_Positioning_Measurement* pvalue)
+int asn1PD_UMTS_MeasurementReport_v590ext_IEs(rtxContext* RT_RESTRICT ctx, MeasurementReport_v590ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-Measurement");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-ReportingQuantity */
-   rtxCtxtPushElemName(ctx, "ue-positioning-ReportingQuantity");
-   stat = asn1PD_UMTS_UE_Positioning_ReportingQuantity(ctx, &pvalue->ue_positioning_ReportingQuantity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PD_UMTS_UE_Positioning_ReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-positioning-OTDOA-AssistanceData */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-AssistanceData");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-AssistanceData */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementReport-v590ext-IEs");
+   /* measuredResults-v590ext */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-AssistanceData");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_AssistanceData(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasuredResults_v590ext(ctx, &pvalue->measuredResults_v590ext);
+      RT_CHECK(ctx, stat, 0, "measuredResults-v590ext", -1, "MeasurementReport-v590ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_TrafficVolumeReportCriteria(rtxContext* ctx, TrafficVolumeReportCriteria* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "TrafficVolumeReportCriteria");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "trafficVolumeReportingCriteria");
-         pvalue->u.trafficVolumeReportingCriteria = (TrafficVolumeReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(TrafficVolumeReportingCriteria));
-         if (pvalue->u.trafficVolumeReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_TrafficVolumeReportingCriteria(pvalue->u.trafficVolumeReportingCriteria);
-         stat = asn1PD_UMTS_TrafficVolumeReportingCriteria(ctx, pvalue->u.trafficVolumeReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-         pvalue->u.periodicalReportingCriteria = (PeriodicalReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalReportingCriteria));
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PeriodicalReportingCriteria(pvalue->u.periodicalReportingCriteria);
-         stat = asn1PD_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "noReporting");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TrafficVolumeMeasurement(rtxContext* ctx, TrafficVolumeMeasurement* pvalue)
+int asn1PD_UMTS_MeasurementReport_v5b0ext_IEs(rtxContext* RT_RESTRICT ctx, MeasurementReport_v5b0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "TrafficVolumeMeasurement");
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementReport-v5b0ext-IEs");
+   /* interRATCellInfoIndication */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->interRATCellInfoIndication, 0, 3);
+      RT_CHECK(ctx, stat, "InterRATCellInfoIndication", "interRATCellInfoIndication", -1, "MeasurementReport-v5b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementReport_v690ext_IEs(rtxContext* RT_RESTRICT ctx, MeasurementReport_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementReport-v690ext-IEs");
+   /* measuredResultsOnRACHinterFreq */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasuredResultsOnRACHinterFreq(ctx, &pvalue->measuredResultsOnRACHinterFreq);
+      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACHinterFreq", -1, "MeasurementReport-v690ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementReport_v770ext_IEs(rtxContext* RT_RESTRICT ctx, MeasurementReport_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* trafficVolumeMeasurementObjectList */
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementReport-v770ext-IEs");
+   /* measuredResults */
    if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "trafficVolumeMeasurementObjectList");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_TrafficVolumeMeasurementObjectList(ctx, &pvalue->trafficVolumeMeasurementObjectList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_MeasuredResults_v770ext(ctx, &pvalue->measuredResults);
+      RT_CHECK(ctx, stat, 0, "measuredResults", -1, "MeasurementReport-v770ext-IEs");
    }
-   /* trafficVolumeMeasQuantity */
+   /* additionalMeasuredResults */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "trafficVolumeMeasQuantity");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_TrafficVolumeMeasQuantity(ctx, &pvalue->trafficVolumeMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_MeasuredResultsList_v770xet(ctx, &pvalue->additionalMeasuredResults);
+      RT_CHECK(ctx, stat, 0, "additionalMeasuredResults", -1, "MeasurementReport-v770ext-IEs");
    }
-   /* trafficVolumeReportingQuantity */
+   /* eventResults */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "trafficVolumeReportingQuantity");
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_TrafficVolumeReportingQuantity(ctx, &pvalue->trafficVolumeReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_EventResults_v770ext(ctx, &pvalue->eventResults);
+      RT_CHECK(ctx, stat, 0, "eventResults", -1, "MeasurementReport-v770ext-IEs");
    }
-   /* measurementValidity */
+   /* ue-Positioning-OTDOA-MeasuredResults */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "measurementValidity");
       pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UE_Positioning_OTDOA_MeasuredResultsTDD_ext(ctx, &pvalue->ue_Positioning_OTDOA_MeasuredResults);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-OTDOA-MeasuredResults", -1, "MeasurementReport-v770ext-IEs");
    }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PD_UMTS_TrafficVolumeReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_SIR_TFCS(rtxContext* ctx, SIR_TFCS* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "SIR-TFCS");
-   stat = asn1PD_UMTS_TFCS_IdentityPlain(ctx, pvalue);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SIR_TFCS_List(rtxContext* ctx, SIR_TFCS_List* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "SIR-TFCS-List");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 7) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "SIR-TFCS", i);
-      pvalue->elem[i] = 0;
-      stat = asn1PD_UMTS_SIR_TFCS(ctx, &pvalue->elem[i]);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_QualityReportingQuantity_modeSpecificInfo_tdd(rtxContext* ctx, QualityReportingQuantity_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sir-TFCS-List */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "sir-TFCS-List");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SIR_TFCS_List(ctx, &pvalue->sir_TFCS_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_QualityReportingQuantity_modeSpecificInfo(rtxContext* ctx, QualityReportingQuantity_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (QualityReportingQuantity_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(QualityReportingQuantity_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_QualityReportingQuantity_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_QualityReportingQuantity_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_QualityReportingQuantity(rtxContext* ctx, QualityReportingQuantity* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "QualityReportingQuantity");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dl-TransChBLER */
-   rtxCtxtPushElemName(ctx, "dl-TransChBLER");
-   stat = rtxDecBitInline(ctx, &pvalue->dl_TransChBLER);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* bler-dl-TransChIdList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "bler-dl-TransChIdList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_BLER_TransChIdList(ctx, &pvalue->bler_dl_TransChIdList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_QualityReportingQuantity_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_QualityReportingCriteriaSingle(rtxContext* ctx, QualityReportingCriteriaSingle* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "QualityReportingCriteriaSingle");
-   /* transportChannelIdentity */
-   rtxCtxtPushElemName(ctx, "transportChannelIdentity");
-   rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-   stat = pd_ConsUInt8(ctx, &pvalue->transportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* totalCRC */
-   rtxCtxtPushElemName(ctx, "totalCRC");
-   stat = pd_ConsUInt16(ctx, &pvalue->totalCRC, 1, 512);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* badCRC */
-   rtxCtxtPushElemName(ctx, "badCRC");
-   stat = pd_ConsUInt16(ctx, &pvalue->badCRC, 1, 512);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* pendingAfterTrigger */
-   rtxCtxtPushElemName(ctx, "pendingAfterTrigger");
-   stat = pd_ConsUInt16(ctx, &pvalue->pendingAfterTrigger, 1, 512);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_QualityReportingCriteria(rtxContext* ctx, QualityReportingCriteria* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "QualityReportingCriteria");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      QualityReportingCriteriaSingle* elem;
-      rtxCtxtPushArrayElemName(ctx, "QualityReportingCriteriaSingle", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(QualityReportingCriteriaSingle));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (QualityReportingCriteriaSingle*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_QualityReportingCriteriaSingle(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_QualityReportCriteria(rtxContext* ctx, QualityReportCriteria* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "QualityReportCriteria");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "qualityReportingCriteria");
-         pvalue->u.qualityReportingCriteria = (QualityReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(QualityReportingCriteria));
-         if (pvalue->u.qualityReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_QualityReportingCriteria(pvalue->u.qualityReportingCriteria);
-         stat = asn1PD_UMTS_QualityReportingCriteria(ctx, pvalue->u.qualityReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-         pvalue->u.periodicalReportingCriteria = (PeriodicalReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalReportingCriteria));
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PeriodicalReportingCriteria(pvalue->u.periodicalReportingCriteria);
-         stat = asn1PD_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "noReporting");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_QualityMeasurement(rtxContext* ctx, QualityMeasurement* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "QualityMeasurement");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* qualityReportingQuantity */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "qualityReportingQuantity");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_QualityReportingQuantity(ctx, &pvalue->qualityReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PD_UMTS_QualityReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalReportingQuantity_modeSpecificInfo_fdd(rtxContext* ctx, UE_InternalReportingQuantity_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   /* ue-RX-TX-TimeDifference */
-   rtxCtxtPushElemName(ctx, "ue-RX-TX-TimeDifference");
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RX_TX_TimeDifference);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalReportingQuantity_modeSpecificInfo_tdd(rtxContext* ctx, UE_InternalReportingQuantity_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   /* appliedTA */
-   rtxCtxtPushElemName(ctx, "appliedTA");
-   stat = rtxDecBitInline(ctx, &pvalue->appliedTA);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalReportingQuantity_modeSpecificInfo(rtxContext* ctx, UE_InternalReportingQuantity_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (UE_InternalReportingQuantity_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_InternalReportingQuantity_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_InternalReportingQuantity_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (UE_InternalReportingQuantity_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_InternalReportingQuantity_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_InternalReportingQuantity_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalReportingQuantity(rtxContext* ctx, UE_InternalReportingQuantity* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-InternalReportingQuantity");
-   /* ue-TransmittedPower */
-   rtxCtxtPushElemName(ctx, "ue-TransmittedPower");
-   stat = rtxDecBitInline(ctx, &pvalue->ue_TransmittedPower);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_UE_InternalReportingQuantity_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TransmittedPowerThreshold(rtxContext* ctx, TransmittedPowerThreshold* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "TransmittedPowerThreshold");
-   stat = pd_ConsInt8(ctx, pvalue, -50, 33);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_6AB_Event(rtxContext* ctx, UE_6AB_Event* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-6AB-Event");
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* transmittedPowerThreshold */
-   rtxCtxtPushElemName(ctx, "transmittedPowerThreshold");
-   rtxCtxtPushTypeName(ctx, "TransmittedPowerThreshold");
-   stat = pd_ConsInt8(ctx, &pvalue->transmittedPowerThreshold, -50, 33);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_RX_TX_TimeDifferenceThreshold(rtxContext* ctx, UE_RX_TX_TimeDifferenceThreshold* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "UE-RX-TX-TimeDifferenceThreshold");
-   stat = pd_ConsUInt16(ctx, pvalue, 768, 1280);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_6FG_Event(rtxContext* ctx, UE_6FG_Event* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-6FG-Event");
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ue-RX-TX-TimeDifferenceThreshold */
-   rtxCtxtPushElemName(ctx, "ue-RX-TX-TimeDifferenceThreshold");
-   rtxCtxtPushTypeName(ctx, "UE-RX-TX-TimeDifferenceThreshold");
-   stat = pd_ConsUInt16(ctx, &pvalue->ue_RX_TX_TimeDifferenceThreshold, 768, 1280);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalEventParam(rtxContext* ctx, UE_InternalEventParam* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "UE-InternalEventParam");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 6);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "event6a");
-         pvalue->u.event6a = (UE_6AB_Event*)rtxMemHeapAllocZ(ctx, sizeof(UE_6AB_Event));
-         if (pvalue->u.event6a == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_6AB_Event(ctx, pvalue->u.event6a);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "event6b");
-         pvalue->u.event6b = (UE_6AB_Event*)rtxMemHeapAllocZ(ctx, sizeof(UE_6AB_Event));
-         if (pvalue->u.event6b == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_6AB_Event(ctx, pvalue->u.event6b);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "event6c");
-         rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.event6c, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "event6d");
-         rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.event6d, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "event6e");
-         rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.event6e, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "event6f");
-         pvalue->u.event6f = (UE_6FG_Event*)rtxMemHeapAllocZ(ctx, sizeof(UE_6FG_Event));
-         if (pvalue->u.event6f == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_6FG_Event(ctx, pvalue->u.event6f);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "event6g");
-         pvalue->u.event6g = (UE_6FG_Event*)rtxMemHeapAllocZ(ctx, sizeof(UE_6FG_Event));
-         if (pvalue->u.event6g == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_6FG_Event(ctx, pvalue->u.event6g);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalEventParamList(rtxContext* ctx, UE_InternalEventParamList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "UE-InternalEventParamList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UE_InternalEventParam* elem;
-      rtxCtxtPushArrayElemName(ctx, "UE-InternalEventParam", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_InternalEventParam));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (UE_InternalEventParam*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UE_InternalEventParam(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UE_InternalEventParam(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalReportingCriteria(rtxContext* ctx, UE_InternalReportingCriteria* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-InternalReportingCriteria");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-InternalEventParamList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-InternalEventParamList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_InternalEventParamList(ctx, &pvalue->ue_InternalEventParamList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalReportCriteria(rtxContext* ctx, UE_InternalReportCriteria* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "UE-InternalReportCriteria");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "ue-InternalReportingCriteria");
-         pvalue->u.ue_InternalReportingCriteria = (UE_InternalReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalReportingCriteria));
-         if (pvalue->u.ue_InternalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_InternalReportingCriteria(pvalue->u.ue_InternalReportingCriteria);
-         stat = asn1PD_UMTS_UE_InternalReportingCriteria(ctx, pvalue->u.ue_InternalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-         pvalue->u.periodicalReportingCriteria = (PeriodicalReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalReportingCriteria));
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PeriodicalReportingCriteria(pvalue->u.periodicalReportingCriteria);
-         stat = asn1PD_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "noReporting");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalMeasurement(rtxContext* ctx, UE_InternalMeasurement* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-InternalMeasurement");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ue-InternalMeasQuantity */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-InternalMeasQuantity");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_InternalMeasQuantity(ctx, &pvalue->ue_InternalMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-InternalReportingQuantity */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-InternalReportingQuantity");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_InternalReportingQuantity(ctx, &pvalue->ue_InternalReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PD_UMTS_UE_InternalReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementType(rtxContext* ctx, MeasurementType* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "MeasurementType");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 6);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "intraFrequencyMeasurement");
-         pvalue->u.intraFrequencyMeasurement = (IntraFrequencyMeasurement*)rtxMemHeapAlloc(ctx, sizeof(IntraFrequencyMeasurement));
-         if (pvalue->u.intraFrequencyMeasurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_IntraFrequencyMeasurement(pvalue->u.intraFrequencyMeasurement);
-         stat = asn1PD_UMTS_IntraFrequencyMeasurement(ctx, pvalue->u.intraFrequencyMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "interFrequencyMeasurement");
-         pvalue->u.interFrequencyMeasurement = (InterFrequencyMeasurement*)rtxMemHeapAlloc(ctx, sizeof(InterFrequencyMeasurement));
-         if (pvalue->u.interFrequencyMeasurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterFrequencyMeasurement(pvalue->u.interFrequencyMeasurement);
-         stat = asn1PD_UMTS_InterFrequencyMeasurement(ctx, pvalue->u.interFrequencyMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "interRATMeasurement");
-         pvalue->u.interRATMeasurement = (InterRATMeasurement*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasurement));
-         if (pvalue->u.interRATMeasurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterRATMeasurement(pvalue->u.interRATMeasurement);
-         stat = asn1PD_UMTS_InterRATMeasurement(ctx, pvalue->u.interRATMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "ue-positioning-Measurement");
-         pvalue->u.ue_positioning_Measurement = (UE_Positioning_Measurement*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_Measurement));
-         if (pvalue->u.ue_positioning_Measurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_Positioning_Measurement(pvalue->u.ue_positioning_Measurement);
-         stat = asn1PD_UMTS_UE_Positioning_Measurement(ctx, pvalue->u.ue_positioning_Measurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "trafficVolumeMeasurement");
-         pvalue->u.trafficVolumeMeasurement = (TrafficVolumeMeasurement*)rtxMemHeapAlloc(ctx, sizeof(TrafficVolumeMeasurement));
-         if (pvalue->u.trafficVolumeMeasurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_TrafficVolumeMeasurement(pvalue->u.trafficVolumeMeasurement);
-         stat = asn1PD_UMTS_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "qualityMeasurement");
-         pvalue->u.qualityMeasurement = (QualityMeasurement*)rtxMemHeapAlloc(ctx, sizeof(QualityMeasurement));
-         if (pvalue->u.qualityMeasurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_QualityMeasurement(pvalue->u.qualityMeasurement);
-         stat = asn1PD_UMTS_QualityMeasurement(ctx, pvalue->u.qualityMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "ue-InternalMeasurement");
-         pvalue->u.ue_InternalMeasurement = (UE_InternalMeasurement*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasurement));
-         if (pvalue->u.ue_InternalMeasurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_InternalMeasurement(pvalue->u.ue_InternalMeasurement);
-         stat = asn1PD_UMTS_UE_InternalMeasurement(ctx, pvalue->u.ue_InternalMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementCommand_modify(rtxContext* ctx, MeasurementCommand_modify* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measurementType */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "measurementType");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementType(ctx, &pvalue->measurementType);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementCommand(rtxContext* ctx, MeasurementCommand* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "MeasurementCommand");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "setup");
-         pvalue->u.setup = (MeasurementType*)rtxMemHeapAlloc(ctx, sizeof(MeasurementType));
-         if (pvalue->u.setup == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementType(pvalue->u.setup);
-         stat = asn1PD_UMTS_MeasurementType(ctx, pvalue->u.setup);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "modify");
-         pvalue->u.modify = (MeasurementCommand_modify*)rtxMemHeapAlloc(ctx, sizeof(MeasurementCommand_modify));
-         if (pvalue->u.modify == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementCommand_modify(pvalue->u.modify);
-         stat = asn1PD_UMTS_MeasurementCommand_modify(ctx, pvalue->u.modify);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "release");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_ReportingQuantity_r4(rtxContext* ctx, UE_Positioning_ReportingQuantity_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-ReportingQuantity-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* methodType */
-   rtxCtxtPushElemName(ctx, "methodType");
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-MethodType");
-   stat = pd_ConsUnsigned(ctx, &pvalue->methodType, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* positioningMethod */
-   rtxCtxtPushElemName(ctx, "positioningMethod");
-   rtxCtxtPushTypeName(ctx, "PositioningMethod");
-   stat = pd_ConsUnsigned(ctx, &pvalue->positioningMethod, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* horizontalAccuracy */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "horizontalAccuracy");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_Accuracy(ctx, &pvalue->horizontalAccuracy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* verticalAccuracy */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "verticalAccuracy");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_Accuracy(ctx, &pvalue->verticalAccuracy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* gps-TimingOfCellWanted */
-   rtxCtxtPushElemName(ctx, "gps-TimingOfCellWanted");
-   stat = rtxDecBitInline(ctx, &pvalue->gps_TimingOfCellWanted);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* additionalAssistanceDataReq */
-   rtxCtxtPushElemName(ctx, "additionalAssistanceDataReq");
-   stat = rtxDecBitInline(ctx, &pvalue->additionalAssistanceDataReq);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* environmentCharacterisation */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "environmentCharacterisation");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "EnvironmentCharacterisation");
-      stat = pd_ConsUnsigned(ctx, &pvalue->environmentCharacterisation, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_fdd(rtxContext* ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_tdd(rtxContext* ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   /* cellAndChannelIdentity */
-   rtxCtxtPushElemName(ctx, "cellAndChannelIdentity");
-   stat = asn1PD_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo(rtxContext* ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ReferenceCellPosition(rtxContext* ctx, ReferenceCellPosition* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "ReferenceCellPosition");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "ellipsoidPoint");
-         pvalue->u.ellipsoidPoint = (EllipsoidPoint*)rtxMemHeapAllocZ(ctx, sizeof(EllipsoidPoint));
-         if (pvalue->u.ellipsoidPoint == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_EllipsoidPoint(ctx, pvalue->u.ellipsoidPoint);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "ellipsoidPointWithAltitude");
-         pvalue->u.ellipsoidPointWithAltitude = (EllipsoidPointAltitude*)rtxMemHeapAllocZ(ctx, sizeof(EllipsoidPointAltitude));
-         if (pvalue->u.ellipsoidPointWithAltitude == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_EllipsoidPointAltitude(ctx, pvalue->u.ellipsoidPointWithAltitude);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueBased(rtxContext* ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueBased* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* cellPosition */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "cellPosition");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReferenceCellPosition(ctx, &pvalue->cellPosition);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* roundTripTime */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "roundTripTime");
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt16(ctx, &pvalue->roundTripTime, 0, 32766);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueAssisted(rtxContext* ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueAssisted* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode(rtxContext* ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "ueBased");
-         pvalue->u.ueBased = (UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueBased*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueBased));
-         if (pvalue->u.ueBased == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueBased(pvalue->u.ueBased);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueBased(ctx, pvalue->u.ueBased);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "ueAssisted");
-         pvalue->u.ueAssisted = (UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueAssisted*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueAssisted));
-         if (pvalue->u.ueAssisted == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueAssisted(ctx, pvalue->u.ueAssisted);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_fdd(rtxContext* ctx, UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   /* ip-Spacing */
-   rtxCtxtPushElemName(ctx, "ip-Spacing");
-   rtxCtxtPushTypeName(ctx, "IP-Spacing");
-   stat = pd_ConsUnsigned(ctx, &pvalue->ip_Spacing, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ip-Length */
-   rtxCtxtPushElemName(ctx, "ip-Length");
-   rtxCtxtPushTypeName(ctx, "IP-Length");
-   stat = pd_ConsUnsigned(ctx, &pvalue->ip_Length, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ip-Offset */
-   rtxCtxtPushElemName(ctx, "ip-Offset");
-   stat = pd_ConsUInt8(ctx, &pvalue->ip_Offset, 0, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* seed */
-   rtxCtxtPushElemName(ctx, "seed");
-   stat = pd_ConsUInt8(ctx, &pvalue->seed, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_tdd(rtxContext* ctx, UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ip-Spacing-TDD */
-   rtxCtxtPushElemName(ctx, "ip-Spacing-TDD");
-   rtxCtxtPushTypeName(ctx, "IP-Spacing-TDD");
-   stat = pd_ConsUnsigned(ctx, &pvalue->ip_Spacing_TDD, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ip-slot */
-   rtxCtxtPushElemName(ctx, "ip-slot");
-   stat = pd_ConsUInt8(ctx, &pvalue->ip_slot, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ip-Start */
-   rtxCtxtPushElemName(ctx, "ip-Start");
-   stat = pd_ConsUInt16(ctx, &pvalue->ip_Start, 0, 4095);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ip-PCCPCG */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ip-PCCPCG");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "IP-PCCPCH-r4");
-      stat = rtxDecBitInline(ctx, &pvalue->ip_PCCPCG);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo(rtxContext* ctx, UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_IPDL_Parameters_r4(rtxContext* ctx, UE_Positioning_IPDL_Parameters_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-IPDL-Parameters-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* burstModeParameters */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "burstModeParameters");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_BurstModeParameters(ctx, &pvalue->burstModeParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4(rtxContext* ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-ReferenceCellInfo-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* sfn */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "sfn");
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt16(ctx, &pvalue->sfn, 0, 4095);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* positioningMode */
-   rtxCtxtPushElemName(ctx, "positioningMode");
-   stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode(ctx, &pvalue->positioningMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-positioning-IPDL-Paremeters */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-IPDL-Paremeters");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_IPDL_Parameters_r4(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_fdd(rtxContext* ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_tdd(rtxContext* ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   /* cellAndChannelIdentity */
-   rtxCtxtPushElemName(ctx, "cellAndChannelIdentity");
-   stat = asn1PD_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo(rtxContext* ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SFN_Offset_Validity(rtxContext* ctx, SFN_Offset_Validity* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "SFN-Offset-Validity");
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueBased(rtxContext* ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueBased* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat);
-   /* relativeNorth */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "relativeNorth");
-      pvalue->m |= 0x1u;
-      stat = pd_ConsInt16(ctx, &pvalue->relativeNorth, -20000, 20000);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* relativeEast */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "relativeEast");
-      pvalue->m |= 0x2u;
-      stat = pd_ConsInt16(ctx, &pvalue->relativeEast, -20000, 20000);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* relativeAltitude */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "relativeAltitude");
-      pvalue->m |= 0x4u;
-      stat = pd_ConsInt16(ctx, &pvalue->relativeAltitude, -4000, 4000);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* fineSFN-SFN */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "fineSFN-SFN");
-      pvalue->m |= 0x8u;
-      rtxCtxtPushTypeName(ctx, "FineSFN-SFN");
-      stat = pd_ConsUInt8(ctx, &pvalue->fineSFN_SFN, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* roundTripTime */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "roundTripTime");
-      pvalue->m |= 0x10u;
-      stat = pd_ConsUInt16(ctx, &pvalue->roundTripTime, 0, 32766);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueAssisted(rtxContext* ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueAssisted* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode(rtxContext* ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "ueBased");
-         pvalue->u.ueBased = (UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueBased*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueBased));
-         if (pvalue->u.ueBased == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueBased(pvalue->u.ueBased);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueBased(ctx, pvalue->u.ueBased);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "ueAssisted");
-         pvalue->u.ueAssisted = (UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueAssisted*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueAssisted));
-         if (pvalue->u.ueAssisted == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueAssisted(ctx, pvalue->u.ueAssisted);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4(rtxContext* ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-IPDL-Paremeters */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-IPDL-Paremeters");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_IPDL_Parameters_r4(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sfn-SFN-RelTimeDifference */
-   rtxCtxtPushElemName(ctx, "sfn-SFN-RelTimeDifference");
-   stat = asn1PD_UMTS_SFN_SFN_RelTimeDifference1(ctx, &pvalue->sfn_SFN_RelTimeDifference);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sfn-Offset-Validity */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "sfn-Offset-Validity");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "SFN-Offset-Validity");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->sfn_Offset_Validity = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sfn-SFN-Drift */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "sfn-SFN-Drift");
-      pvalue->m |= 0x8u;
-      rtxCtxtPushTypeName(ctx, "SFN-SFN-Drift");
-      stat = pd_ConsUnsigned(ctx, &pvalue->sfn_SFN_Drift, 0, 28);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* searchWindowSize */
-   rtxCtxtPushElemName(ctx, "searchWindowSize");
-   rtxCtxtPushTypeName(ctx, "OTDOA-SearchWindowSize");
-   stat = pd_ConsUnsigned(ctx, &pvalue->searchWindowSize, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* positioningMode */
-   rtxCtxtPushElemName(ctx, "positioningMode");
-   stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode(ctx, &pvalue->positioningMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellList_r4(rtxContext* ctx, UE_Positioning_OTDOA_NeighbourCellList_r4* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-NeighbourCellList-r4");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UE_Positioning_OTDOA_NeighbourCellInfo_r4* elem;
-      rtxCtxtPushArrayElemName(ctx, "UE-Positioning-OTDOA-NeighbourCellInfo-r4", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_r4));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (UE_Positioning_OTDOA_NeighbourCellInfo_r4*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_r4(rtxContext* ctx, UE_Positioning_OTDOA_AssistanceData_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-AssistanceData-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-OTDOA-ReferenceCellInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-ReferenceCellInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4(ctx, &pvalue->ue_positioning_OTDOA_ReferenceCellInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-OTDOA-NeighbourCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-NeighbourCellList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellList_r4(ctx, &pvalue->ue_positioning_OTDOA_NeighbourCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_Measurement_r4(rtxContext* ctx, UE_Positioning_Measurement_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-Measurement-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-ReportingQuantity */
-   rtxCtxtPushElemName(ctx, "ue-positioning-ReportingQuantity");
-   stat = asn1PD_UMTS_UE_Positioning_ReportingQuantity_r4(ctx, &pvalue->ue_positioning_ReportingQuantity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementValidity */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "measurementValidity");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PD_UMTS_UE_Positioning_ReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-positioning-OTDOA-AssistanceData */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-AssistanceData");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_r4(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-AssistanceData */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-AssistanceData");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_AssistanceData(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_fdd(rtxContext* ctx, UE_InternalReportingQuantity_r4_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   /* ue-RX-TX-TimeDifference */
-   rtxCtxtPushElemName(ctx, "ue-RX-TX-TimeDifference");
-   stat = rtxDecBitInline(ctx, &pvalue->ue_RX_TX_TimeDifference);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd384(rtxContext* ctx, UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd384* pvalue)
-{
-   int stat = 0;
-   /* appliedTA */
-   rtxCtxtPushElemName(ctx, "appliedTA");
-   stat = rtxDecBitInline(ctx, &pvalue->appliedTA);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* ctx, UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd128* pvalue)
-{
-   int stat = 0;
-   /* t-ADVinfo */
-   rtxCtxtPushElemName(ctx, "t-ADVinfo");
-   stat = rtxDecBitInline(ctx, &pvalue->t_ADVinfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption(rtxContext* ctx, UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         pvalue->u.tdd384 = (UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd384*)rtxMemHeapAllocZ(ctx, sizeof(UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         pvalue->u.tdd128 = (UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd128*)rtxMemHeapAllocZ(ctx, sizeof(UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd(rtxContext* ctx, UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   /* tddOption */
-   rtxCtxtPushElemName(ctx, "tddOption");
-   stat = asn1PD_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo(rtxContext* ctx, UE_InternalReportingQuantity_r4_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (UE_InternalReportingQuantity_r4_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_InternalReportingQuantity_r4_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalReportingQuantity_r4(rtxContext* ctx, UE_InternalReportingQuantity_r4* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-InternalReportingQuantity-r4");
-   /* ue-TransmittedPower */
-   rtxCtxtPushElemName(ctx, "ue-TransmittedPower");
-   stat = rtxDecBitInline(ctx, &pvalue->ue_TransmittedPower);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_InternalMeasurement_r4(rtxContext* ctx, UE_InternalMeasurement_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-InternalMeasurement-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ue-InternalMeasQuantity */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-InternalMeasQuantity");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_InternalMeasQuantity(ctx, &pvalue->ue_InternalMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-InternalReportingQuantity */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-InternalReportingQuantity");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_InternalReportingQuantity_r4(ctx, &pvalue->ue_InternalReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PD_UMTS_UE_InternalReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementType_r4(rtxContext* ctx, MeasurementType_r4* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "MeasurementType-r4");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 6);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "intraFrequencyMeasurement");
-         pvalue->u.intraFrequencyMeasurement = (IntraFrequencyMeasurement_r4*)rtxMemHeapAlloc(ctx, sizeof(IntraFrequencyMeasurement_r4));
-         if (pvalue->u.intraFrequencyMeasurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_IntraFrequencyMeasurement_r4(pvalue->u.intraFrequencyMeasurement);
-         stat = asn1PD_UMTS_IntraFrequencyMeasurement_r4(ctx, pvalue->u.intraFrequencyMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "interFrequencyMeasurement");
-         pvalue->u.interFrequencyMeasurement = (InterFrequencyMeasurement_r4*)rtxMemHeapAlloc(ctx, sizeof(InterFrequencyMeasurement_r4));
-         if (pvalue->u.interFrequencyMeasurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterFrequencyMeasurement_r4(pvalue->u.interFrequencyMeasurement);
-         stat = asn1PD_UMTS_InterFrequencyMeasurement_r4(ctx, pvalue->u.interFrequencyMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "interRATMeasurement");
-         pvalue->u.interRATMeasurement = (InterRATMeasurement_r4*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasurement_r4));
-         if (pvalue->u.interRATMeasurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterRATMeasurement_r4(pvalue->u.interRATMeasurement);
-         stat = asn1PD_UMTS_InterRATMeasurement_r4(ctx, pvalue->u.interRATMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "up-Measurement");
-         pvalue->u.up_Measurement = (UE_Positioning_Measurement_r4*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_Measurement_r4));
-         if (pvalue->u.up_Measurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_Positioning_Measurement_r4(pvalue->u.up_Measurement);
-         stat = asn1PD_UMTS_UE_Positioning_Measurement_r4(ctx, pvalue->u.up_Measurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "trafficVolumeMeasurement");
-         pvalue->u.trafficVolumeMeasurement = (TrafficVolumeMeasurement*)rtxMemHeapAlloc(ctx, sizeof(TrafficVolumeMeasurement));
-         if (pvalue->u.trafficVolumeMeasurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_TrafficVolumeMeasurement(pvalue->u.trafficVolumeMeasurement);
-         stat = asn1PD_UMTS_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "qualityMeasurement");
-         pvalue->u.qualityMeasurement = (QualityMeasurement*)rtxMemHeapAlloc(ctx, sizeof(QualityMeasurement));
-         if (pvalue->u.qualityMeasurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_QualityMeasurement(pvalue->u.qualityMeasurement);
-         stat = asn1PD_UMTS_QualityMeasurement(ctx, pvalue->u.qualityMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "ue-InternalMeasurement");
-         pvalue->u.ue_InternalMeasurement = (UE_InternalMeasurement_r4*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasurement_r4));
-         if (pvalue->u.ue_InternalMeasurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_InternalMeasurement_r4(pvalue->u.ue_InternalMeasurement);
-         stat = asn1PD_UMTS_UE_InternalMeasurement_r4(ctx, pvalue->u.ue_InternalMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementCommand_r4_modify(rtxContext* ctx, MeasurementCommand_r4_modify* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measurementType */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "measurementType");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementType_r4(ctx, &pvalue->measurementType);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementCommand_r4(rtxContext* ctx, MeasurementCommand_r4* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "MeasurementCommand-r4");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "setup");
-         pvalue->u.setup = (MeasurementType_r4*)rtxMemHeapAlloc(ctx, sizeof(MeasurementType_r4));
-         if (pvalue->u.setup == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementType_r4(pvalue->u.setup);
-         stat = asn1PD_UMTS_MeasurementType_r4(ctx, pvalue->u.setup);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "modify");
-         pvalue->u.modify = (MeasurementCommand_r4_modify*)rtxMemHeapAlloc(ctx, sizeof(MeasurementCommand_r4_modify));
-         if (pvalue->u.modify == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementCommand_r4_modify(pvalue->u.modify);
-         stat = asn1PD_UMTS_MeasurementCommand_r4_modify(ctx, pvalue->u.modify);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "release");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementType_r6(rtxContext* ctx, MeasurementType_r6* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "MeasurementType-r6");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 6);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "intraFrequencyMeasurement");
-         pvalue->u.intraFrequencyMeasurement = (IntraFrequencyMeasurement_r6*)rtxMemHeapAlloc(ctx, sizeof(IntraFrequencyMeasurement_r6));
-         if (pvalue->u.intraFrequencyMeasurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_IntraFrequencyMeasurement_r6(pvalue->u.intraFrequencyMeasurement);
-         stat = asn1PD_UMTS_IntraFrequencyMeasurement_r6(ctx, pvalue->u.intraFrequencyMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "interFrequencyMeasurement");
-         pvalue->u.interFrequencyMeasurement = (InterFrequencyMeasurement_r6*)rtxMemHeapAlloc(ctx, sizeof(InterFrequencyMeasurement_r6));
-         if (pvalue->u.interFrequencyMeasurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterFrequencyMeasurement_r6(pvalue->u.interFrequencyMeasurement);
-         stat = asn1PD_UMTS_InterFrequencyMeasurement_r6(ctx, pvalue->u.interFrequencyMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "interRATMeasurement");
-         pvalue->u.interRATMeasurement = (InterRATMeasurement_r6*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasurement_r6));
-         if (pvalue->u.interRATMeasurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterRATMeasurement_r6(pvalue->u.interRATMeasurement);
-         stat = asn1PD_UMTS_InterRATMeasurement_r6(ctx, pvalue->u.interRATMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "up-Measurement");
-         pvalue->u.up_Measurement = (UE_Positioning_Measurement_r4*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_Measurement_r4));
-         if (pvalue->u.up_Measurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_Positioning_Measurement_r4(pvalue->u.up_Measurement);
-         stat = asn1PD_UMTS_UE_Positioning_Measurement_r4(ctx, pvalue->u.up_Measurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "trafficVolumeMeasurement");
-         pvalue->u.trafficVolumeMeasurement = (TrafficVolumeMeasurement*)rtxMemHeapAlloc(ctx, sizeof(TrafficVolumeMeasurement));
-         if (pvalue->u.trafficVolumeMeasurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_TrafficVolumeMeasurement(pvalue->u.trafficVolumeMeasurement);
-         stat = asn1PD_UMTS_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "qualityMeasurement");
-         pvalue->u.qualityMeasurement = (QualityMeasurement*)rtxMemHeapAlloc(ctx, sizeof(QualityMeasurement));
-         if (pvalue->u.qualityMeasurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_QualityMeasurement(pvalue->u.qualityMeasurement);
-         stat = asn1PD_UMTS_QualityMeasurement(ctx, pvalue->u.qualityMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "ue-InternalMeasurement");
-         pvalue->u.ue_InternalMeasurement = (UE_InternalMeasurement_r4*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasurement_r4));
-         if (pvalue->u.ue_InternalMeasurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_InternalMeasurement_r4(pvalue->u.ue_InternalMeasurement);
-         stat = asn1PD_UMTS_UE_InternalMeasurement_r4(ctx, pvalue->u.ue_InternalMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementCommand_r6_modify(rtxContext* ctx, MeasurementCommand_r6_modify* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measurementType */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "measurementType");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementType_r6(ctx, &pvalue->measurementType);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementCommand_r6(rtxContext* ctx, MeasurementCommand_r6* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "MeasurementCommand-r6");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "setup");
-         pvalue->u.setup = (MeasurementType_r6*)rtxMemHeapAlloc(ctx, sizeof(MeasurementType_r6));
-         if (pvalue->u.setup == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementType_r6(pvalue->u.setup);
-         stat = asn1PD_UMTS_MeasurementType_r6(ctx, pvalue->u.setup);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "modify");
-         pvalue->u.modify = (MeasurementCommand_r6_modify*)rtxMemHeapAlloc(ctx, sizeof(MeasurementCommand_r6_modify));
-         if (pvalue->u.modify == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementCommand_r6_modify(pvalue->u.modify);
-         stat = asn1PD_UMTS_MeasurementCommand_r6_modify(ctx, pvalue->u.modify);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "release");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_ReportingQuantity_r7_velocityRequested(rtxContext* ctx, UE_Positioning_ReportingQuantity_r7_velocityRequested* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_ReportingQuantity_r7(rtxContext* ctx, UE_Positioning_ReportingQuantity_r7* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-ReportingQuantity-r7");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 7);
-   RT_CHECK(ctx, stat);
-   /* methodType */
-   rtxCtxtPushElemName(ctx, "methodType");
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-MethodType");
-   stat = pd_ConsUnsigned(ctx, &pvalue->methodType, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* positioningMethod */
-   rtxCtxtPushElemName(ctx, "positioningMethod");
-   rtxCtxtPushTypeName(ctx, "PositioningMethod");
-   stat = pd_ConsUnsigned(ctx, &pvalue->positioningMethod, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* horizontalAccuracy */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "horizontalAccuracy");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_Accuracy(ctx, &pvalue->horizontalAccuracy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* verticalAccuracy */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "verticalAccuracy");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_Accuracy(ctx, &pvalue->verticalAccuracy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* gps-TimingOfCellWanted */
-   rtxCtxtPushElemName(ctx, "gps-TimingOfCellWanted");
-   stat = rtxDecBitInline(ctx, &pvalue->gps_TimingOfCellWanted);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* additionalAssistanceDataReq */
-   rtxCtxtPushElemName(ctx, "additionalAssistanceDataReq");
-   stat = rtxDecBitInline(ctx, &pvalue->additionalAssistanceDataReq);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* environmentCharacterisation */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "environmentCharacterisation");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "EnvironmentCharacterisation");
-      stat = pd_ConsUnsigned(ctx, &pvalue->environmentCharacterisation, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* velocityRequested */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "velocityRequested");
-      pvalue->m |= 0x8u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->velocityRequested = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* gANSSPositioningMethods */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "gANSSPositioningMethods");
-      pvalue->m |= 0x10u;
-      RT_SET_SIZE(ctx, 16, 16);
-      stat = pd_BitString32(ctx, &pvalue->gANSSPositioningMethods, 16, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* gANSSTimingOfCellWanted */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "gANSSTimingOfCellWanted");
-      pvalue->m |= 0x20u;
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pd_BitString32(ctx, &pvalue->gANSSTimingOfCellWanted, 8, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* gANSSCarrierPhaseMeasurementRequested */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "gANSSCarrierPhaseMeasurementRequested");
-      pvalue->m |= 0x40u;
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pd_BitString32(ctx, &pvalue->gANSSCarrierPhaseMeasurementRequested, 8, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ThresholdSFN_GPS_TOW_us(rtxContext* ctx, ThresholdSFN_GPS_TOW_us* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "ThresholdSFN-GPS-TOW-us");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ThresholdSFN_GANSS_TOW(rtxContext* ctx, ThresholdSFN_GANSS_TOW* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "ThresholdSFN-GANSS-TOW");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_EventSpecificInfo_r7(rtxContext* ctx, UE_Positioning_EventSpecificInfo_r7* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-EventSpecificInfo-r7");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "e7a");
-         rtxCtxtPushTypeName(ctx, "ThresholdPositionChange");
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.e7a, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "e7b");
-         rtxCtxtPushTypeName(ctx, "ThresholdSFN-SFN-Change");
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.e7b, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "e7c");
-         rtxCtxtPushTypeName(ctx, "ThresholdSFN-GPS-TOW-us");
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.e7c, 0, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "e7d");
-         rtxCtxtPushTypeName(ctx, "ThresholdSFN-GANSS-TOW");
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.e7d, 0, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_EventParam_r7(rtxContext* ctx, UE_Positioning_EventParam_r7* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-EventParam-r7");
-   /* reportingAmount */
-   rtxCtxtPushElemName(ctx, "reportingAmount");
-   rtxCtxtPushTypeName(ctx, "ReportingAmount");
-   stat = pd_ConsUnsigned(ctx, &pvalue->reportingAmount, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportFirstFix */
-   rtxCtxtPushElemName(ctx, "reportFirstFix");
-   stat = rtxDecBitInline(ctx, &pvalue->reportFirstFix);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementInterval */
-   rtxCtxtPushElemName(ctx, "measurementInterval");
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-MeasurementInterval");
-   stat = pd_ConsUnsigned(ctx, &pvalue->measurementInterval, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* eventSpecificInfo */
-   rtxCtxtPushElemName(ctx, "eventSpecificInfo");
-   stat = asn1PD_UMTS_UE_Positioning_EventSpecificInfo_r7(ctx, &pvalue->eventSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_EventParamList_r7(rtxContext* ctx, UE_Positioning_EventParamList_r7* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-EventParamList-r7");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UE_Positioning_EventParam_r7* elem;
-      rtxCtxtPushArrayElemName(ctx, "UE-Positioning-EventParam-r7", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_Positioning_EventParam_r7));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (UE_Positioning_EventParam_r7*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UE_Positioning_EventParam_r7(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UE_Positioning_EventParam_r7(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_ReportCriteria_r7(rtxContext* ctx, UE_Positioning_ReportCriteria_r7* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-ReportCriteria-r7");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "ue-positioning-ReportingCriteria");
-         pvalue->u.ue_positioning_ReportingCriteria = (UE_Positioning_EventParamList_r7*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_EventParamList_r7));
-         if (pvalue->u.ue_positioning_ReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_Positioning_EventParamList_r7(pvalue->u.ue_positioning_ReportingCriteria);
-         stat = asn1PD_UMTS_UE_Positioning_EventParamList_r7(ctx, pvalue->u.ue_positioning_ReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-         pvalue->u.periodicalReportingCriteria = (PeriodicalReportingCriteria*)rtxMemHeapAlloc(ctx, sizeof(PeriodicalReportingCriteria));
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PeriodicalReportingCriteria(pvalue->u.periodicalReportingCriteria);
-         stat = asn1PD_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "noReporting");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_fdd(rtxContext* ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_tdd(rtxContext* ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   /* cellAndChannelIdentity */
-   rtxCtxtPushElemName(ctx, "cellAndChannelIdentity");
-   stat = asn1PD_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo(rtxContext* ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueBased(rtxContext* ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueBased* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* cellPosition */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "cellPosition");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ReferenceCellPosition(ctx, &pvalue->cellPosition);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* roundTripTime */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "roundTripTime");
-      pvalue->m |= 0x2u;
-      stat = pd_ConsUInt16(ctx, &pvalue->roundTripTime, 0, 32766);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* roundTripTimeExtension */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "roundTripTimeExtension");
-      pvalue->m |= 0x4u;
-      stat = pd_ConsUInt32(ctx, &pvalue->roundTripTimeExtension, 0, 70274);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueAssisted(rtxContext* ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueAssisted* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode(rtxContext* ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "ueBased");
-         pvalue->u.ueBased = (UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueBased*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueBased));
-         if (pvalue->u.ueBased == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueBased(pvalue->u.ueBased);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueBased(ctx, pvalue->u.ueBased);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "ueAssisted");
-         pvalue->u.ueAssisted = (UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueAssisted*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueAssisted));
-         if (pvalue->u.ueAssisted == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueAssisted(ctx, pvalue->u.ueAssisted);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7(rtxContext* ctx, UE_Positioning_OTDOA_ReferenceCellInfo_r7* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-ReferenceCellInfo-r7");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* sfn */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "sfn");
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt16(ctx, &pvalue->sfn, 0, 4095);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* positioningMode */
-   rtxCtxtPushElemName(ctx, "positioningMode");
-   stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode(ctx, &pvalue->positioningMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-positioning-IPDL-Paremeters */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-IPDL-Paremeters");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_IPDL_Parameters_r4(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_fdd(rtxContext* ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_tdd(rtxContext* ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   /* cellAndChannelIdentity */
-   rtxCtxtPushElemName(ctx, "cellAndChannelIdentity");
-   stat = asn1PD_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo(rtxContext* ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueBased(rtxContext* ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueBased* pvalue)
+int asn1PD_UMTS_MeasurementReport_v860ext_IEs(rtxContext* RT_RESTRICT ctx, MeasurementReport_v860ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat);
-   /* relativeNorth */
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementReport-v860ext-IEs");
+   /* activationTime */
    if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "relativeNorth");
       pvalue->m |= 0x1u;
-      stat = pd_ConsInt16(ctx, &pvalue->relativeNorth, -20000, 20000);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "MeasurementReport-v860ext-IEs");
    }
-   /* relativeEast */
+   /* measuredResults */
    if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "relativeEast");
       pvalue->m |= 0x2u;
-      stat = pd_ConsInt16(ctx, &pvalue->relativeEast, -20000, 20000);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_MeasuredResults_v860ext(ctx, &pvalue->measuredResults);
+      RT_CHECK(ctx, stat, 0, "measuredResults", -1, "MeasurementReport-v860ext-IEs");
    }
-   /* relativeAltitude */
+   /* additionalMeasuredResults */
    if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "relativeAltitude");
       pvalue->m |= 0x4u;
-      stat = pd_ConsInt16(ctx, &pvalue->relativeAltitude, -4000, 4000);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_MeasuredResultsList_v860ext(ctx, &pvalue->additionalMeasuredResults);
+      RT_CHECK(ctx, stat, 0, "additionalMeasuredResults", -1, "MeasurementReport-v860ext-IEs");
    }
-   /* fineSFN-SFN */
+   /* eventResults */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "fineSFN-SFN");
       pvalue->m |= 0x8u;
-      rtxCtxtPushTypeName(ctx, "FineSFN-SFN");
-      stat = pd_ConsUInt8(ctx, &pvalue->fineSFN_SFN, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_EventResults_v860ext(ctx, &pvalue->eventResults);
+      RT_CHECK(ctx, stat, 0, "eventResults", -1, "MeasurementReport-v860ext-IEs");
    }
-   /* roundTripTime */
+   /* eutra-MeasuredResults */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "roundTripTime");
       pvalue->m |= 0x10u;
-      stat = pd_ConsUInt16(ctx, &pvalue->roundTripTime, 0, 32766);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_EUTRA_MeasuredResults(ctx, &pvalue->eutra_MeasuredResults);
+      RT_CHECK(ctx, stat, 0, "eutra-MeasuredResults", -1, "MeasurementReport-v860ext-IEs");
    }
-   /* roundTripTimeExtension */
+   /* eutra-EventResults */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "roundTripTimeExtension");
       pvalue->m |= 0x20u;
-      stat = pd_ConsUInt32(ctx, &pvalue->roundTripTimeExtension, 0, 70274);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_EUTRA_EventResults(ctx, &pvalue->eutra_EventResults);
+      RT_CHECK(ctx, stat, 0, "eutra-EventResults", -1, "MeasurementReport-v860ext-IEs");
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueAssisted(rtxContext* ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueAssisted* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode(rtxContext* ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "ueBased");
-         pvalue->u.ueBased = (UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueBased*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueBased));
-         if (pvalue->u.ueBased == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueBased(pvalue->u.ueBased);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueBased(ctx, pvalue->u.ueBased);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "ueAssisted");
-         pvalue->u.ueAssisted = (UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueAssisted*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueAssisted));
-         if (pvalue->u.ueAssisted == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueAssisted(ctx, pvalue->u.ueAssisted);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7(rtxContext* ctx, UE_Positioning_OTDOA_NeighbourCellInfo_r7* pvalue)
+int asn1PD_UMTS_MeasurementReport_v920ext_IEs(rtxContext* RT_RESTRICT ctx, MeasurementReport_v920ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-IPDL-Paremeters */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-IPDL-Paremeters");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_IPDL_Parameters_r4(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sfn-SFN-RelTimeDifference */
-   rtxCtxtPushElemName(ctx, "sfn-SFN-RelTimeDifference");
-   stat = asn1PD_UMTS_SFN_SFN_RelTimeDifference1(ctx, &pvalue->sfn_SFN_RelTimeDifference);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sfn-Offset-Validity */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "sfn-Offset-Validity");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "SFN-Offset-Validity");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->sfn_Offset_Validity = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sfn-SFN-Drift */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "sfn-SFN-Drift");
-      pvalue->m |= 0x8u;
-      rtxCtxtPushTypeName(ctx, "SFN-SFN-Drift");
-      stat = pd_ConsUnsigned(ctx, &pvalue->sfn_SFN_Drift, 0, 28);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* searchWindowSize */
-   rtxCtxtPushElemName(ctx, "searchWindowSize");
-   rtxCtxtPushTypeName(ctx, "OTDOA-SearchWindowSize");
-   stat = pd_ConsUnsigned(ctx, &pvalue->searchWindowSize, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* positioningMode */
-   rtxCtxtPushElemName(ctx, "positioningMode");
-   stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode(ctx, &pvalue->positioningMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellList_r7(rtxContext* ctx, UE_Positioning_OTDOA_NeighbourCellList_r7* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-NeighbourCellList-r7");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UE_Positioning_OTDOA_NeighbourCellInfo_r7* elem;
-      rtxCtxtPushArrayElemName(ctx, "UE-Positioning-OTDOA-NeighbourCellInfo-r7", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_r7));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (UE_Positioning_OTDOA_NeighbourCellInfo_r7*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_r7(rtxContext* ctx, UE_Positioning_OTDOA_AssistanceData_r7* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-AssistanceData-r7");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-OTDOA-ReferenceCellInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-ReferenceCellInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7(ctx, &pvalue->ue_positioning_OTDOA_ReferenceCellInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-OTDOA-NeighbourCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-NeighbourCellList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellList_r7(ctx, &pvalue->ue_positioning_OTDOA_NeighbourCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_ReferenceTime_r7(rtxContext* ctx, UE_Positioning_GPS_ReferenceTime_r7* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-ReferenceTime-r7");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat);
-   /* gps-Week */
-   rtxCtxtPushElemName(ctx, "gps-Week");
-   stat = pd_ConsUInt16(ctx, &pvalue->gps_Week, 0, 1023);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gps-tow-1msec */
-   rtxCtxtPushElemName(ctx, "gps-tow-1msec");
-   rtxCtxtPushTypeName(ctx, "GPS-TOW-1msec");
-   stat = pd_ConsUInt32(ctx, &pvalue->gps_tow_1msec, 0, 604799999);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* utran-GPSReferenceTime */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "utran-GPSReferenceTime");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UTRAN_GPSReferenceTime(ctx, &pvalue->utran_GPSReferenceTime);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-GPS-ReferenceTimeUncertainty");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-ReferenceTimeUncertainty");
-      stat = pd_ConsUInt8(ctx, &pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sfn-tow-Uncertainty */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "sfn-tow-Uncertainty");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "SFN-TOW-Uncertainty");
-      stat = pd_ConsUnsigned(ctx, &pvalue->sfn_tow_Uncertainty, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* utran-GPS-DriftRate */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "utran-GPS-DriftRate");
-      pvalue->m |= 0x8u;
-      rtxCtxtPushTypeName(ctx, "UTRAN-GPS-DriftRate");
-      stat = pd_ConsUnsigned(ctx, &pvalue->utran_GPS_DriftRate, 0, 14);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* gps-TOW-AssistList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "gps-TOW-AssistList");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_GPS_TOW_AssistList(ctx, &pvalue->gps_TOW_AssistList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_AcquisitionAssistance_r7(rtxContext* ctx, UE_Positioning_GPS_AcquisitionAssistance_r7* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-AcquisitionAssistance-r7");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* gps-ReferenceTime */
-   rtxCtxtPushElemName(ctx, "gps-ReferenceTime");
-   rtxCtxtPushTypeName(ctx, "GPS-TOW-1msec");
-   stat = pd_ConsUInt32(ctx, &pvalue->gps_ReferenceTime, 0, 604799999);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* utran-GPSReferenceTime */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "utran-GPSReferenceTime");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UTRAN_GPSReferenceTime(ctx, &pvalue->utran_GPSReferenceTime);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-GPS-ReferenceTimeUncertainty");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-ReferenceTimeUncertainty");
-      stat = pd_ConsUInt8(ctx, &pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* satelliteInformationList */
-   rtxCtxtPushElemName(ctx, "satelliteInformationList");
-   stat = asn1PD_UMTS_AcquisitionSatInfoList(ctx, &pvalue->satelliteInformationList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_AssistanceData_r7(rtxContext* ctx, UE_Positioning_GPS_AssistanceData_r7* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-AssistanceData-r7");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 9);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GPS-ReferenceTime */
-   if (present & ((uint32_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-ReferenceTime");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_ReferenceTime_r7(ctx, &pvalue->ue_positioning_GPS_ReferenceTime);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-ReferenceLocation */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-ReferenceLocation");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_ReferenceLocation(ctx, &pvalue->ue_positioning_GPS_ReferenceLocation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-DGPS-Corrections */
+   stat = rtxDecBitsFast(ctx, &present, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementReport-v920ext-IEs");
+   /* cSGProximityIndication */
    if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-DGPS-Corrections");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_DGPS_Corrections(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CSGProximityIndication(ctx, &pvalue->cSGProximityIndication);
+      RT_CHECK(ctx, stat, 0, "cSGProximityIndication", -1, "MeasurementReport-v920ext-IEs");
    }
-   /* ue-positioning-GPS-NavigationModel */
+   /* measuredResults */
    if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-NavigationModel");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_NavigationModel(ctx, &pvalue->ue_positioning_GPS_NavigationModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_MeasuredResults_v920ext(ctx, &pvalue->measuredResults);
+      RT_CHECK(ctx, stat, 0, "measuredResults", -1, "MeasurementReport-v920ext-IEs");
    }
-   /* ue-positioning-GPS-IonosphericModel */
+   /* measuredResultsOnSecUlFreq */
    if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-IonosphericModel");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_IonosphericModel(ctx, &pvalue->ue_positioning_GPS_IonosphericModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_MeasuredResultsOnSecUlFreq(ctx, &pvalue->measuredResultsOnSecUlFreq);
+      RT_CHECK(ctx, stat, 0, "measuredResultsOnSecUlFreq", -1, "MeasurementReport-v920ext-IEs");
    }
-   /* ue-positioning-GPS-UTC-Model */
+   /* additionalMeasuredResults */
    if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-UTC-Model");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_UTC_Model(ctx, &pvalue->ue_positioning_GPS_UTC_Model);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_MeasuredResultsList_v920ext(ctx, &pvalue->additionalMeasuredResults);
+      RT_CHECK(ctx, stat, 0, "additionalMeasuredResults", -1, "MeasurementReport-v920ext-IEs");
    }
-   /* ue-positioning-GPS-Almanac */
+   /* additionalMeasuredResultsOnSecUlFreq */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-Almanac");
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_Almanac(ctx, &pvalue->ue_positioning_GPS_Almanac);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_MeasuredResultsListOnSecUlFreq(ctx, &pvalue->additionalMeasuredResultsOnSecUlFreq);
+      RT_CHECK(ctx, stat, 0, "additionalMeasuredResultsOnSecUlFreq", -1, "MeasurementReport-v920ext-IEs");
    }
-   /* ue-positioning-GPS-AcquisitionAssistance */
+   /* eventResultsOnSecUlFreq */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-AcquisitionAssistance");
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_AcquisitionAssistance_r7(ctx, &pvalue->ue_positioning_GPS_AcquisitionAssistance);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_EventResultsOnSecUlFreq(ctx, &pvalue->eventResultsOnSecUlFreq);
+      RT_CHECK(ctx, stat, 0, "eventResultsOnSecUlFreq", -1, "MeasurementReport-v920ext-IEs");
    }
-   /* ue-positioning-GPS-Real-timeIntegrity */
+   /* eutra-MeasuredResults */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-Real-timeIntegrity");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_BadSatList(ctx, &pvalue->ue_positioning_GPS_Real_timeIntegrity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_EUTRA_MeasuredResults_v920ext(ctx, &pvalue->eutra_MeasuredResults);
+      RT_CHECK(ctx, stat, 0, "eutra-MeasuredResults", -1, "MeasurementReport-v920ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_fdd(rtxContext* ctx, UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_fdd* pvalue)
+int asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   /* primary-CPICH-Info */
-   rtxCtxtPushElemName(ctx, "primary-CPICH-Info");
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primary_CPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_tdd(rtxContext* ctx, UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_tdd* pvalue)
+int asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   /* cellParameters */
-   rtxCtxtPushElemName(ctx, "cellParameters");
-   rtxCtxtPushTypeName(ctx, "CellParametersID");
-   stat = pd_ConsUInt8(ctx, &pvalue->cellParameters, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementReport-v920ext */
+   stat = asn1PD_UMTS_MeasurementReport_v920ext_IEs(ctx, &pvalue->measurementReport_v920ext);
+   RT_CHECK(ctx, stat, 0, "measurementReport-v920ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode(rtxContext* ctx, UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode* pvalue)
+int asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementReport-v860ext */
+   stat = asn1PD_UMTS_MeasurementReport_v860ext_IEs(ctx, &pvalue->measurementReport_v860ext);
+   RT_CHECK(ctx, stat, 0, "measurementReport-v860ext", -1, 0);
+   /* v920NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementReport-v770ext */
+   stat = asn1PD_UMTS_MeasurementReport_v770ext_IEs(ctx, &pvalue->measurementReport_v770ext);
+   RT_CHECK(ctx, stat, 0, "measurementReport-v770ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementReport-v690ext */
+   stat = asn1PD_UMTS_MeasurementReport_v690ext_IEs(ctx, &pvalue->measurementReport_v690ext);
+   RT_CHECK(ctx, stat, 0, "measurementReport-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementReport-v5b0ext */
+   stat = asn1PD_UMTS_MeasurementReport_v5b0ext_IEs(ctx, &pvalue->measurementReport_v5b0ext);
+   RT_CHECK(ctx, stat, 0, "measurementReport-v5b0ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementReport-v590ext */
+   stat = asn1PD_UMTS_MeasurementReport_v590ext_IEs(ctx, &pvalue->measurementReport_v590ext);
+   RT_CHECK(ctx, stat, 0, "measurementReport-v590ext", -1, 0);
+   /* v5b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions(ctx, &pvalue->v5b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v5b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementReport-v4b0ext */
+   stat = asn1PD_UMTS_MeasurementReport_v4b0ext_IEs(ctx, &pvalue->measurementReport_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "measurementReport-v4b0ext", -1, 0);
+   /* v590NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementReport-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->measurementReport_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "measurementReport-r3-add-ext", -1, 0);
+   }
+   /* v4b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MeasurementReport_v390nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementReport-v390ext */
+   stat = asn1PD_UMTS_MeasurementReport_v390ext(ctx, &pvalue->measurementReport_v390ext);
+   RT_CHECK(ctx, stat, 0, "measurementReport-v390ext", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementReport(rtxContext* RT_RESTRICT ctx, MeasurementReport* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementReport");
+   /* measurementIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->measurementIdentity, 1, 16);
+   RT_CHECK(ctx, stat, "MeasurementIdentity", "measurementIdentity", -1, "MeasurementReport");
+   /* measuredResults */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasuredResults(ctx, &pvalue->measuredResults);
+      RT_CHECK(ctx, stat, 0, "measuredResults", -1, "MeasurementReport");
+   }
+   /* measuredResultsOnRACH */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_MeasuredResultsOnRACH(ctx, &pvalue->measuredResultsOnRACH);
+      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACH", -1, "MeasurementReport");
+   }
+   /* additionalMeasuredResults */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_MeasuredResultsList(ctx, &pvalue->additionalMeasuredResults);
+      RT_CHECK(ctx, stat, 0, "additionalMeasuredResults", -1, "MeasurementReport");
+   }
+   /* eventResults */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_EventResults(ctx, &pvalue->eventResults);
+      RT_CHECK(ctx, stat, 0, "eventResults", -1, "MeasurementReport");
+   }
+   /* v390nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions(ctx, &pvalue->v390nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v390nonCriticalExtensions", -1, "MeasurementReport");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PagingType1_v590ext_IEs(rtxContext* RT_RESTRICT ctx, PagingType1_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PagingType1-v590ext-IEs");
+   /* pagingRecord2List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PagingRecord2List_r5(ctx, &pvalue->pagingRecord2List);
+      RT_CHECK(ctx, stat, 0, "pagingRecord2List", -1, "PagingType1-v590ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PagingType1_v860ext_IEs(rtxContext* RT_RESTRICT ctx, PagingType1_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PagingType1-v860ext-IEs");
+   /* etws-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_ETWS_Information(ctx, &pvalue->etws_Information);
+      RT_CHECK(ctx, stat, 0, "etws-Information", -1, "PagingType1-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* pagingType1-v860ext */
+   stat = asn1PD_UMTS_PagingType1_v860ext_IEs(ctx, &pvalue->pagingType1_v860ext);
+   RT_CHECK(ctx, stat, 0, "pagingType1-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* pagingType1-v590ext */
+   stat = asn1PD_UMTS_PagingType1_v590ext_IEs(ctx, &pvalue->pagingType1_v590ext);
+   RT_CHECK(ctx, stat, 0, "pagingType1-v590ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PagingType1_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PagingType1_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* pagingType1-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->pagingType1_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "pagingType1-r3-add-ext", -1, 0);
+   }
+   /* v590NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PagingType1(rtxContext* RT_RESTRICT ctx, PagingType1* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PagingType1");
+   /* pagingRecordList */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PagingRecordList(ctx, &pvalue->pagingRecordList);
+      RT_CHECK(ctx, stat, 0, "pagingRecordList", -1, "PagingType1");
+   }
+   /* bcch-ModificationInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_BCCH_ModificationInfo(ctx, &pvalue->bcch_ModificationInfo);
+      RT_CHECK(ctx, stat, 0, "bcch-ModificationInfo", -1, "PagingType1");
+   }
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_PagingType1_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "PagingType1");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PagingType2_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PagingType2_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_PagingType2_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PagingType2_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* pagingType2-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->pagingType2_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "pagingType2-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_PagingType2_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PagingType2(rtxContext* RT_RESTRICT ctx, PagingType2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PagingType2");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "PagingType2");
+   /* pagingCause */
+   stat = pd_ConsUnsigned(ctx, &pvalue->pagingCause, 0, 7);
+   RT_CHECK(ctx, stat, "PagingCause", "pagingCause", -1, "PagingType2");
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "PagingType2");
+   /* pagingRecordTypeID */
+   stat = pd_ConsUnsigned(ctx, &pvalue->pagingRecordTypeID, 0, 3);
+   RT_CHECK(ctx, stat, "PagingRecordTypeID", "pagingRecordTypeID", -1, "PagingType2");
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PagingType2_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "PagingType2");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 0: /* fdd */
+         pvalue->u.fdd = (PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 1: /* tdd */
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime(rtxContext* ctx, UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime* pvalue)
-{
-   int stat = 0;
-   /* timingOfCellFrames */
-   rtxCtxtPushElemName(ctx, "timingOfCellFrames");
-   stat = pd_ConsUInt32(ctx, &pvalue->timingOfCellFrames, 0, 3999999);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* mode */
-   rtxCtxtPushElemName(ctx, "mode");
-   stat = asn1PD_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode(ctx, &pvalue->mode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* referenceSfn */
-   rtxCtxtPushElemName(ctx, "referenceSfn");
-   stat = pd_ConsUInt16(ctx, &pvalue->referenceSfn, 0, 4095);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Tutran_Ganss_DriftRate(rtxContext* ctx, Tutran_Ganss_DriftRate* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "Tutran-Ganss-DriftRate");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_ReferenceTime(rtxContext* ctx, UE_Positioning_GANSS_ReferenceTime* pvalue)
+int asn1PD_UMTS_PhysicalChannelReconfiguration_r3_IEs(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r3_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-ReferenceTime");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat);
-   /* ganssDay */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "ganssDay");
+   stat = rtxDecBitsFast(ctx, &present, 14);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "PhysicalChannelReconfiguration-r3-IEs");
+   /* integrityProtectionModeInfo */
+   if (present & ((uint32_t)1 << 13)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt16(ctx, &pvalue->ganssDay, 0, 8191);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "PhysicalChannelReconfiguration-r3-IEs");
    }
-   /* ganssTod */
-   rtxCtxtPushElemName(ctx, "ganssTod");
-   stat = pd_ConsUInt32(ctx, &pvalue->ganssTod, 0, 86399);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganssTodUncertainty */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "ganssTodUncertainty");
+   /* cipheringModeInfo */
+   if (present & ((uint32_t)1 << 12)) {
       pvalue->m |= 0x2u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ganssTodUncertainty, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "PhysicalChannelReconfiguration-r3-IEs");
    }
-   /* ganssTimeId */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "ganssTimeId");
+   /* activationTime */
+   if (present & ((uint32_t)1 << 11)) {
       pvalue->m |= 0x4u;
-      stat = pd_ConsUInt8(ctx, &pvalue->ganssTimeId, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "PhysicalChannelReconfiguration-r3-IEs");
    }
-   /* utran-ganssreferenceTime */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "utran-ganssreferenceTime");
+   /* new-U-RNTI */
+   if (present & ((uint32_t)1 << 10)) {
       pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime(ctx, &pvalue->utran_ganssreferenceTime);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "PhysicalChannelReconfiguration-r3-IEs");
    }
-   /* tutran-ganss-driftRate */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "tutran-ganss-driftRate");
+   /* new-C-RNTI */
+   if (present & ((uint32_t)1 << 9)) {
       pvalue->m |= 0x10u;
-      rtxCtxtPushTypeName(ctx, "Tutran-Ganss-DriftRate");
-      stat = pd_ConsUnsigned(ctx, &pvalue->tutran_ganss_driftRate, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "PhysicalChannelReconfiguration-r3-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ReferenceLocationGANSS(rtxContext* ctx, ReferenceLocationGANSS* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ReferenceLocationGANSS");
-   /* ellipsoidPointAltitudeEllipsoide */
-   rtxCtxtPushElemName(ctx, "ellipsoidPointAltitudeEllipsoide");
-   stat = asn1PD_UMTS_EllipsoidPointAltitudeEllipsoide(ctx, &pvalue->ellipsoidPointAltitudeEllipsoide);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_IonosphericModel(rtxContext* ctx, UE_Positioning_GANSS_IonosphericModel* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-IonosphericModel");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* alpha-zero-ionos */
-   rtxCtxtPushElemName(ctx, "alpha-zero-ionos");
-   RT_SET_SIZE(ctx, 12, 12);
-   stat = pd_BitString32(ctx, &pvalue->alpha_zero_ionos, 12, 12);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* alpha-one-ionos */
-   rtxCtxtPushElemName(ctx, "alpha-one-ionos");
-   RT_SET_SIZE(ctx, 12, 12);
-   stat = pd_BitString32(ctx, &pvalue->alpha_one_ionos, 12, 12);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* alpha-two-ionos */
-   rtxCtxtPushElemName(ctx, "alpha-two-ionos");
-   RT_SET_SIZE(ctx, 12, 12);
-   stat = pd_BitString32(ctx, &pvalue->alpha_two_ionos, 12, 12);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gANSS-storm-flags */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "gANSS-storm-flags");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_GANSS_Storm_Flag(ctx, &pvalue->gANSS_storm_flags);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "PhysicalChannelReconfiguration-r3-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x20u;
+      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "PhysicalChannelReconfiguration-r3-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData(rtxContext* ctx, UE_Positioning_GANSS_AssistanceData* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-AssistanceData");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GANSS-ReferenceTime */
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "PhysicalChannelReconfiguration-r3-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "PhysicalChannelReconfiguration-r3-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "PhysicalChannelReconfiguration-r3-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "PhysicalChannelReconfiguration-r3-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
    if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-ReferenceTime");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_ReferenceTime(ctx, &pvalue->ue_positioning_GANSS_ReferenceTime);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x400u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "PhysicalChannelReconfiguration-r3-IEs");
    }
-   /* uePositioningGanssReferencePosition */
+   /* ul-ChannelRequirement */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGanssReferencePosition");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_ReferenceLocationGANSS(ctx, &pvalue->uePositioningGanssReferencePosition);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_UL_ChannelRequirementWithCPCH_SetID(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "PhysicalChannelReconfiguration-r3-IEs");
    }
-   /* uePositioningGanssIonosphericModel */
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "PhysicalChannelReconfiguration-r3-IEs");
+   /* dl-CommonInformation */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGanssIonosphericModel");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_IonosphericModel(ctx, &pvalue->uePositioningGanssIonosphericModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_DL_CommonInformation(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "PhysicalChannelReconfiguration-r3-IEs");
    }
-   /* ganssGenericDataList */
+   /* dl-InformationPerRL-List */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ganssGenericDataList");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_GANSSGenericDataList(ctx, &pvalue->ganssGenericDataList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "PhysicalChannelReconfiguration-r3-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_Measurement_r7(rtxContext* ctx, UE_Positioning_Measurement_r7* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-Measurement-r7");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-ReportingQuantity */
-   rtxCtxtPushElemName(ctx, "ue-positioning-ReportingQuantity");
-   stat = asn1PD_UMTS_UE_Positioning_ReportingQuantity_r7(ctx, &pvalue->ue_positioning_ReportingQuantity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementValidity */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "measurementValidity");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PD_UMTS_UE_Positioning_ReportCriteria_r7(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-positioning-OTDOA-AssistanceData */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-AssistanceData");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_r7(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-AssistanceData */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-AssistanceData");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_AssistanceData_r7(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GANSS-AssistanceData */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-AssistanceData");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData(ctx, &pvalue->ue_positioning_GANSS_AssistanceData);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementType_r7(rtxContext* ctx, MeasurementType_r7* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "MeasurementType-r7");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 6);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "intraFrequencyMeasurement");
-         pvalue->u.intraFrequencyMeasurement = (IntraFrequencyMeasurement_r7*)rtxMemHeapAlloc(ctx, sizeof(IntraFrequencyMeasurement_r7));
-         if (pvalue->u.intraFrequencyMeasurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_IntraFrequencyMeasurement_r7(pvalue->u.intraFrequencyMeasurement);
-         stat = asn1PD_UMTS_IntraFrequencyMeasurement_r7(ctx, pvalue->u.intraFrequencyMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "interFrequencyMeasurement");
-         pvalue->u.interFrequencyMeasurement = (InterFrequencyMeasurement_r7*)rtxMemHeapAlloc(ctx, sizeof(InterFrequencyMeasurement_r7));
-         if (pvalue->u.interFrequencyMeasurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterFrequencyMeasurement_r7(pvalue->u.interFrequencyMeasurement);
-         stat = asn1PD_UMTS_InterFrequencyMeasurement_r7(ctx, pvalue->u.interFrequencyMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "interRATMeasurement");
-         pvalue->u.interRATMeasurement = (InterRATMeasurement_r6*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasurement_r6));
-         if (pvalue->u.interRATMeasurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterRATMeasurement_r6(pvalue->u.interRATMeasurement);
-         stat = asn1PD_UMTS_InterRATMeasurement_r6(ctx, pvalue->u.interRATMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "up-Measurement");
-         pvalue->u.up_Measurement = (UE_Positioning_Measurement_r7*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_Measurement_r7));
-         if (pvalue->u.up_Measurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_Positioning_Measurement_r7(pvalue->u.up_Measurement);
-         stat = asn1PD_UMTS_UE_Positioning_Measurement_r7(ctx, pvalue->u.up_Measurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "trafficVolumeMeasurement");
-         pvalue->u.trafficVolumeMeasurement = (TrafficVolumeMeasurement*)rtxMemHeapAlloc(ctx, sizeof(TrafficVolumeMeasurement));
-         if (pvalue->u.trafficVolumeMeasurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_TrafficVolumeMeasurement(pvalue->u.trafficVolumeMeasurement);
-         stat = asn1PD_UMTS_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "qualityMeasurement");
-         pvalue->u.qualityMeasurement = (QualityMeasurement*)rtxMemHeapAlloc(ctx, sizeof(QualityMeasurement));
-         if (pvalue->u.qualityMeasurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_QualityMeasurement(pvalue->u.qualityMeasurement);
-         stat = asn1PD_UMTS_QualityMeasurement(ctx, pvalue->u.qualityMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "ue-InternalMeasurement");
-         pvalue->u.ue_InternalMeasurement = (UE_InternalMeasurement_r4*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasurement_r4));
-         if (pvalue->u.ue_InternalMeasurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_InternalMeasurement_r4(pvalue->u.ue_InternalMeasurement);
-         stat = asn1PD_UMTS_UE_InternalMeasurement_r4(ctx, pvalue->u.ue_InternalMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementCommand_r7_modify(rtxContext* ctx, MeasurementCommand_r7_modify* pvalue)
+int asn1PD_UMTS_PhysicalChannelReconfiguration_v3a0ext(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_v3a0ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measurementType */
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-v3a0ext");
+   /* new-DSCH-RNTI */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "measurementType");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementType_r7(ctx, &pvalue->measurementType);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "PhysicalChannelReconfiguration-v3a0ext");
    }
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementCommand_r7(rtxContext* ctx, MeasurementCommand_r7* pvalue)
+int asn1PD_UMTS_PhysicalChannelReconfiguration_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_v4b0ext_IEs* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "MeasurementCommand-r7");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "setup");
-         pvalue->u.setup = (MeasurementType_r7*)rtxMemHeapAlloc(ctx, sizeof(MeasurementType_r7));
-         if (pvalue->u.setup == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementType_r7(pvalue->u.setup);
-         stat = asn1PD_UMTS_MeasurementType_r7(ctx, pvalue->u.setup);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "modify");
-         pvalue->u.modify = (MeasurementCommand_r7_modify*)rtxMemHeapAlloc(ctx, sizeof(MeasurementCommand_r7_modify));
-         if (pvalue->u.modify == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementCommand_r7_modify(pvalue->u.modify);
-         stat = asn1PD_UMTS_MeasurementCommand_r7_modify(ctx, pvalue->u.modify);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "release");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-v4b0ext-IEs");
+   /* dummy */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->dummy, 0, 1);
+      RT_CHECK(ctx, stat, "SSDT-UL", "dummy", -1, "PhysicalChannelReconfiguration-v4b0ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
+   /* cell-id-PerRL-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CellIdentity_PerRL_List(ctx, &pvalue->cell_id_PerRL_List);
+      RT_CHECK(ctx, stat, 0, "cell-id-PerRL-List", -1, "PhysicalChannelReconfiguration-v4b0ext-IEs");
+   }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_ReportingQuantity_r8_velocityRequested(rtxContext* ctx, UE_Positioning_ReportingQuantity_r8_velocityRequested* pvalue)
+int asn1PD_UMTS_PhysicalChannelReconfiguration_v590ext_IEs(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-v590ext-IEs");
+   /* dl-TPC-PowerOffsetPerRL-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_TPC_PowerOffsetPerRL_List(ctx, &pvalue->dl_TPC_PowerOffsetPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-TPC-PowerOffsetPerRL-List", -1, "PhysicalChannelReconfiguration-v590ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_v690ext_IEs_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_v690ext_IEs_postVerificationPeriod* RT_RESTRICT pvalue)
 {
    int stat;
    {
       uint32_t ui;
       stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
       stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
       *pvalue = ui;
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_ReportingQuantity_r8(rtxContext* ctx, UE_Positioning_ReportingQuantity_r8* pvalue)
+int asn1PD_UMTS_PhysicalChannelReconfiguration_v690ext_IEs(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_v690ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-ReportingQuantity-r8");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 8);
-   RT_CHECK(ctx, stat);
-   /* methodType */
-   rtxCtxtPushElemName(ctx, "methodType");
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-MethodType");
-   stat = pd_ConsUnsigned(ctx, &pvalue->methodType, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* positioningMethod */
-   rtxCtxtPushElemName(ctx, "positioningMethod");
-   rtxCtxtPushTypeName(ctx, "PositioningMethod");
-   stat = pd_ConsUnsigned(ctx, &pvalue->positioningMethod, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* horizontalAccuracy */
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-v690ext-IEs");
+   /* delayRestrictionFlag */
    if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "horizontalAccuracy");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_Accuracy(ctx, &pvalue->horizontalAccuracy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
+         pvalue->delayRestrictionFlag = ui;
+      }
    }
-   /* verticalAccuracy */
+   /* primary-plmn-Identity */
    if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "verticalAccuracy");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_Accuracy(ctx, &pvalue->verticalAccuracy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
+      RT_CHECK(ctx, stat, 0, "primary-plmn-Identity", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
    }
-   /* gps-TimingOfCellWanted */
-   rtxCtxtPushElemName(ctx, "gps-TimingOfCellWanted");
-   stat = rtxDecBitInline(ctx, &pvalue->gps_TimingOfCellWanted);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* additionalAssistanceDataReq */
-   rtxCtxtPushElemName(ctx, "additionalAssistanceDataReq");
-   stat = rtxDecBitInline(ctx, &pvalue->additionalAssistanceDataReq);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* environmentCharacterisation */
+   /* harq-Preamble-Mode */
    if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "environmentCharacterisation");
       pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "EnvironmentCharacterisation");
-      stat = pd_ConsUnsigned(ctx, &pvalue->environmentCharacterisation, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUInt8(ctx, &pvalue->harq_Preamble_Mode, 0, 1);
+      RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
    }
-   /* velocityRequested */
+   /* beaconPLEst */
    if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "velocityRequested");
       pvalue->m |= 0x8u;
       {
          uint32_t ui;
          stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
+         RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->velocityRequested = ui;
+         RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
+         pvalue->beaconPLEst = ui;
       }
-      rtxCtxtPopElemName(ctx);
    }
-   /* gANSSPositioningMethods */
+   /* postVerificationPeriod */
    if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "gANSSPositioningMethods");
       pvalue->m |= 0x10u;
-      RT_SET_SIZE(ctx, 16, 16);
-      stat = pd_BitString32(ctx, &pvalue->gANSSPositioningMethods, 16, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
+         pvalue->postVerificationPeriod = ui;
+      }
    }
-   /* gANSSTimingOfCellWanted */
+   /* dhs-sync */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "gANSSTimingOfCellWanted");
       pvalue->m |= 0x20u;
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pd_BitString32(ctx, &pvalue->gANSSTimingOfCellWanted, 8, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsInt8(ctx, &pvalue->dhs_sync, -20, 10);
+      RT_CHECK(ctx, stat, "DHS-Sync", "dhs-sync", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
    }
-   /* gANSSCarrierPhaseMeasurementRequested */
+   /* timingMaintainedSynchInd */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "gANSSCarrierPhaseMeasurementRequested");
       pvalue->m |= 0x40u;
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pd_BitString32(ctx, &pvalue->gANSSCarrierPhaseMeasurementRequested, 8, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "TimingMaintainedSynchInd", "timingMaintainedSynchInd", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "TimingMaintainedSynchInd", "timingMaintainedSynchInd", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
+         pvalue->timingMaintainedSynchInd = ui;
+      }
    }
-   /* gANSSMultiFreqMeasurementRequested */
+   /* mbms-PL-ServiceRestrictInfo */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "gANSSMultiFreqMeasurementRequested");
       pvalue->m |= 0x80u;
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pd_BitString32(ctx, &pvalue->gANSSMultiFreqMeasurementRequested, 8, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
+         pvalue->mbms_PL_ServiceRestrictInfo = ui;
+      }
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GANSS_AddIonoModel(rtxContext* ctx, UE_Positioning_GANSS_AddIonoModel* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-AddIonoModel");
-   /* dataID */
-   rtxCtxtPushElemName(ctx, "dataID");
-   RT_SET_SIZE(ctx, 2, 2);
-   stat = pd_BitString32(ctx, &pvalue->dataID, 2, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* alpha-beta-parameters */
-   rtxCtxtPushElemName(ctx, "alpha-beta-parameters");
-   stat = asn1PD_UMTS_UE_Positioning_GPS_IonosphericModel(ctx, &pvalue->alpha_beta_parameters);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_EarthOrientPara(rtxContext* ctx, UE_Positioning_GANSS_EarthOrientPara* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-EarthOrientPara");
-   /* teop */
-   rtxCtxtPushElemName(ctx, "teop");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pd_BitString32(ctx, &pvalue->teop, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* pmX */
-   rtxCtxtPushElemName(ctx, "pmX");
-   RT_SET_SIZE(ctx, 21, 21);
-   stat = pd_BitString32(ctx, &pvalue->pmX, 21, 21);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* pmXdot */
-   rtxCtxtPushElemName(ctx, "pmXdot");
-   RT_SET_SIZE(ctx, 15, 15);
-   stat = pd_BitString32(ctx, &pvalue->pmXdot, 15, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* pmY */
-   rtxCtxtPushElemName(ctx, "pmY");
-   RT_SET_SIZE(ctx, 21, 21);
-   stat = pd_BitString32(ctx, &pvalue->pmY, 21, 21);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* pmYdot */
-   rtxCtxtPushElemName(ctx, "pmYdot");
-   RT_SET_SIZE(ctx, 15, 15);
-   stat = pd_BitString32(ctx, &pvalue->pmYdot, 15, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* deltaUT1 */
-   rtxCtxtPushElemName(ctx, "deltaUT1");
-   RT_SET_SIZE(ctx, 31, 31);
-   stat = pd_BitString32(ctx, &pvalue->deltaUT1, 31, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* deltaUT1dot */
-   rtxCtxtPushElemName(ctx, "deltaUT1dot");
-   RT_SET_SIZE(ctx, 19, 19);
-   stat = pd_BitString32(ctx, &pvalue->deltaUT1dot, 19, 19);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData_r8(rtxContext* ctx, UE_Positioning_GANSS_AssistanceData_r8* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-AssistanceData-r8");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GANSS-ReferenceTime */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-ReferenceTime");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_ReferenceTime(ctx, &pvalue->ue_positioning_GANSS_ReferenceTime);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGanssReferencePosition */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGanssReferencePosition");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_ReferenceLocationGANSS(ctx, &pvalue->uePositioningGanssReferencePosition);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGanssIonosphericModel */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGanssIonosphericModel");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_IonosphericModel(ctx, &pvalue->uePositioningGanssIonosphericModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGanssAddIonoModel */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGanssAddIonoModel");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AddIonoModel(ctx, &pvalue->uePositioningGanssAddIonoModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGanssEarthOrientationPara */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGanssEarthOrientationPara");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_EarthOrientPara(ctx, &pvalue->uePositioningGanssEarthOrientationPara);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssGenericDataList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ganssGenericDataList");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_GANSSGenericDataList_r8(ctx, &pvalue->ganssGenericDataList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_Measurement_r8(rtxContext* ctx, UE_Positioning_Measurement_r8* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-Measurement-r8");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-ReportingQuantity */
-   rtxCtxtPushElemName(ctx, "ue-positioning-ReportingQuantity");
-   stat = asn1PD_UMTS_UE_Positioning_ReportingQuantity_r8(ctx, &pvalue->ue_positioning_ReportingQuantity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementValidity */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "measurementValidity");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PD_UMTS_UE_Positioning_ReportCriteria_r7(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-positioning-OTDOA-AssistanceData */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-AssistanceData");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_r7(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-AssistanceData */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-AssistanceData");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_AssistanceData_r7(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GANSS-AssistanceData */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-AssistanceData");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData_r8(ctx, &pvalue->ue_positioning_GANSS_AssistanceData);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementType_r8(rtxContext* ctx, MeasurementType_r8* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "MeasurementType-r8");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 6);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "intraFrequencyMeasurement");
-         pvalue->u.intraFrequencyMeasurement = (IntraFrequencyMeasurement_r7*)rtxMemHeapAlloc(ctx, sizeof(IntraFrequencyMeasurement_r7));
-         if (pvalue->u.intraFrequencyMeasurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_IntraFrequencyMeasurement_r7(pvalue->u.intraFrequencyMeasurement);
-         stat = asn1PD_UMTS_IntraFrequencyMeasurement_r7(ctx, pvalue->u.intraFrequencyMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "interFrequencyMeasurement");
-         pvalue->u.interFrequencyMeasurement = (InterFrequencyMeasurement_r8*)rtxMemHeapAlloc(ctx, sizeof(InterFrequencyMeasurement_r8));
-         if (pvalue->u.interFrequencyMeasurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterFrequencyMeasurement_r8(pvalue->u.interFrequencyMeasurement);
-         stat = asn1PD_UMTS_InterFrequencyMeasurement_r8(ctx, pvalue->u.interFrequencyMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "interRATMeasurement");
-         pvalue->u.interRATMeasurement = (InterRATMeasurement_r8*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasurement_r8));
-         if (pvalue->u.interRATMeasurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterRATMeasurement_r8(pvalue->u.interRATMeasurement);
-         stat = asn1PD_UMTS_InterRATMeasurement_r8(ctx, pvalue->u.interRATMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "up-Measurement");
-         pvalue->u.up_Measurement = (UE_Positioning_Measurement_r8*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_Measurement_r8));
-         if (pvalue->u.up_Measurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_Positioning_Measurement_r8(pvalue->u.up_Measurement);
-         stat = asn1PD_UMTS_UE_Positioning_Measurement_r8(ctx, pvalue->u.up_Measurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "trafficVolumeMeasurement");
-         pvalue->u.trafficVolumeMeasurement = (TrafficVolumeMeasurement*)rtxMemHeapAlloc(ctx, sizeof(TrafficVolumeMeasurement));
-         if (pvalue->u.trafficVolumeMeasurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_TrafficVolumeMeasurement(pvalue->u.trafficVolumeMeasurement);
-         stat = asn1PD_UMTS_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "qualityMeasurement");
-         pvalue->u.qualityMeasurement = (QualityMeasurement*)rtxMemHeapAlloc(ctx, sizeof(QualityMeasurement));
-         if (pvalue->u.qualityMeasurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_QualityMeasurement(pvalue->u.qualityMeasurement);
-         stat = asn1PD_UMTS_QualityMeasurement(ctx, pvalue->u.qualityMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "ue-InternalMeasurement");
-         pvalue->u.ue_InternalMeasurement = (UE_InternalMeasurement_r4*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasurement_r4));
-         if (pvalue->u.ue_InternalMeasurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_InternalMeasurement_r4(pvalue->u.ue_InternalMeasurement);
-         stat = asn1PD_UMTS_UE_InternalMeasurement_r4(ctx, pvalue->u.ue_InternalMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementCommand_r8_modify(rtxContext* ctx, MeasurementCommand_r8_modify* pvalue)
+int asn1PD_UMTS_PhysicalChannelReconfiguration_v770ext_IEs(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_v770ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measurementType */
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-v770ext-IEs");
+   /* ueMobilityStateIndicator */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "measurementType");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementType_r8(ctx, &pvalue->measurementType);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "PhysicalChannelReconfiguration-v770ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "PhysicalChannelReconfiguration-v770ext-IEs");
+         pvalue->ueMobilityStateIndicator = ui;
+      }
    }
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementCommand_r8(rtxContext* ctx, MeasurementCommand_r8* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "MeasurementCommand-r8");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "setup");
-         pvalue->u.setup = (MeasurementType_r8*)rtxMemHeapAlloc(ctx, sizeof(MeasurementType_r8));
-         if (pvalue->u.setup == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementType_r8(pvalue->u.setup);
-         stat = asn1PD_UMTS_MeasurementType_r8(ctx, pvalue->u.setup);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "modify");
-         pvalue->u.modify = (MeasurementCommand_r8_modify*)rtxMemHeapAlloc(ctx, sizeof(MeasurementCommand_r8_modify));
-         if (pvalue->u.modify == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementCommand_r8_modify(pvalue->u.modify);
-         stat = asn1PD_UMTS_MeasurementCommand_r8_modify(ctx, pvalue->u.modify);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "release");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_DGPS_Corrections_r9(rtxContext* ctx, UE_Positioning_GPS_DGPS_Corrections_r9* pvalue)
+int asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-DGPS-Corrections-r9");
-   /* gps-TOW */
-   rtxCtxtPushElemName(ctx, "gps-TOW");
-   rtxCtxtPushTypeName(ctx, "GPS-TOW-1sec");
-   stat = pd_ConsUInt32(ctx, &pvalue->gps_TOW, 0, 604799);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* statusHealth */
-   rtxCtxtPushElemName(ctx, "statusHealth");
-   rtxCtxtPushTypeName(ctx, "DiffCorrectionStatus");
-   stat = pd_ConsUnsigned(ctx, &pvalue->statusHealth, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dgps-CorrectionSatInfoList */
-   rtxCtxtPushElemName(ctx, "dgps-CorrectionSatInfoList");
-   stat = asn1PD_UMTS_DGPS_CorrectionSatInfoList_r9(ctx, &pvalue->dgps_CorrectionSatInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GPS_AssistanceData_r9(rtxContext* ctx, UE_Positioning_GPS_AssistanceData_r9* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-AssistanceData-r9");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 9);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GPS-ReferenceTime */
-   if (present & ((uint32_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-ReferenceTime");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_ReferenceTime_r7(ctx, &pvalue->ue_positioning_GPS_ReferenceTime);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-ReferenceLocation */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-ReferenceLocation");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_ReferenceLocation(ctx, &pvalue->ue_positioning_GPS_ReferenceLocation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-DGPS-Corrections */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-DGPS-Corrections");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_DGPS_Corrections_r9(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-NavigationModel */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-NavigationModel");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_NavigationModel(ctx, &pvalue->ue_positioning_GPS_NavigationModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-IonosphericModel */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-IonosphericModel");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_IonosphericModel(ctx, &pvalue->ue_positioning_GPS_IonosphericModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-UTC-Model */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-UTC-Model");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_UTC_Model(ctx, &pvalue->ue_positioning_GPS_UTC_Model);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-Almanac */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-Almanac");
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_Almanac(ctx, &pvalue->ue_positioning_GPS_Almanac);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-AcquisitionAssistance */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-AcquisitionAssistance");
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_AcquisitionAssistance_r7(ctx, &pvalue->ue_positioning_GPS_AcquisitionAssistance);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-Real-timeIntegrity */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-Real-timeIntegrity");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_BadSatList(ctx, &pvalue->ue_positioning_GPS_Real_timeIntegrity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData_r9(rtxContext* ctx, UE_Positioning_GANSS_AssistanceData_r9* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-AssistanceData-r9");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GANSS-ReferenceTime */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-ReferenceTime");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_ReferenceTime(ctx, &pvalue->ue_positioning_GANSS_ReferenceTime);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGanssReferencePosition */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGanssReferencePosition");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_ReferenceLocationGANSS(ctx, &pvalue->uePositioningGanssReferencePosition);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGanssIonosphericModel */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGanssIonosphericModel");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_IonosphericModel(ctx, &pvalue->uePositioningGanssIonosphericModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGanssAddIonoModel */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGanssAddIonoModel");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AddIonoModel(ctx, &pvalue->uePositioningGanssAddIonoModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGanssEarthOrientationPara */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGanssEarthOrientationPara");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_EarthOrientPara(ctx, &pvalue->uePositioningGanssEarthOrientationPara);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssGenericDataList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ganssGenericDataList");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_GANSSGenericDataList_r9(ctx, &pvalue->ganssGenericDataList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_Measurement_r9(rtxContext* ctx, UE_Positioning_Measurement_r9* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-Measurement-r9");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-ReportingQuantity */
-   rtxCtxtPushElemName(ctx, "ue-positioning-ReportingQuantity");
-   stat = asn1PD_UMTS_UE_Positioning_ReportingQuantity_r8(ctx, &pvalue->ue_positioning_ReportingQuantity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementValidity */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "measurementValidity");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PD_UMTS_UE_Positioning_ReportCriteria_r7(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-positioning-OTDOA-AssistanceData */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-AssistanceData");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_r7(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-AssistanceData */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-AssistanceData");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_AssistanceData_r9(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GANSS-AssistanceData */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-AssistanceData");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData_r9(ctx, &pvalue->ue_positioning_GANSS_AssistanceData);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementType_r9(rtxContext* ctx, MeasurementType_r9* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "MeasurementType-r9");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 7);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "intraFrequencyMeasurement");
-         pvalue->u.intraFrequencyMeasurement = (IntraFrequencyMeasurement_r9*)rtxMemHeapAlloc(ctx, sizeof(IntraFrequencyMeasurement_r9));
-         if (pvalue->u.intraFrequencyMeasurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_IntraFrequencyMeasurement_r9(pvalue->u.intraFrequencyMeasurement);
-         stat = asn1PD_UMTS_IntraFrequencyMeasurement_r9(ctx, pvalue->u.intraFrequencyMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "interFrequencyMeasurement");
-         pvalue->u.interFrequencyMeasurement = (InterFrequencyMeasurement_r9*)rtxMemHeapAlloc(ctx, sizeof(InterFrequencyMeasurement_r9));
-         if (pvalue->u.interFrequencyMeasurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterFrequencyMeasurement_r9(pvalue->u.interFrequencyMeasurement);
-         stat = asn1PD_UMTS_InterFrequencyMeasurement_r9(ctx, pvalue->u.interFrequencyMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "interRATMeasurement");
-         pvalue->u.interRATMeasurement = (InterRATMeasurement_r9*)rtxMemHeapAlloc(ctx, sizeof(InterRATMeasurement_r9));
-         if (pvalue->u.interRATMeasurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterRATMeasurement_r9(pvalue->u.interRATMeasurement);
-         stat = asn1PD_UMTS_InterRATMeasurement_r9(ctx, pvalue->u.interRATMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "up-Measurement");
-         pvalue->u.up_Measurement = (UE_Positioning_Measurement_r9*)rtxMemHeapAlloc(ctx, sizeof(UE_Positioning_Measurement_r9));
-         if (pvalue->u.up_Measurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_Positioning_Measurement_r9(pvalue->u.up_Measurement);
-         stat = asn1PD_UMTS_UE_Positioning_Measurement_r9(ctx, pvalue->u.up_Measurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "trafficVolumeMeasurement");
-         pvalue->u.trafficVolumeMeasurement = (TrafficVolumeMeasurement*)rtxMemHeapAlloc(ctx, sizeof(TrafficVolumeMeasurement));
-         if (pvalue->u.trafficVolumeMeasurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_TrafficVolumeMeasurement(pvalue->u.trafficVolumeMeasurement);
-         stat = asn1PD_UMTS_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "qualityMeasurement");
-         pvalue->u.qualityMeasurement = (QualityMeasurement*)rtxMemHeapAlloc(ctx, sizeof(QualityMeasurement));
-         if (pvalue->u.qualityMeasurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_QualityMeasurement(pvalue->u.qualityMeasurement);
-         stat = asn1PD_UMTS_QualityMeasurement(ctx, pvalue->u.qualityMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "ue-InternalMeasurement");
-         pvalue->u.ue_InternalMeasurement = (UE_InternalMeasurement_r4*)rtxMemHeapAlloc(ctx, sizeof(UE_InternalMeasurement_r4));
-         if (pvalue->u.ue_InternalMeasurement == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_InternalMeasurement_r4(pvalue->u.ue_InternalMeasurement);
-         stat = asn1PD_UMTS_UE_InternalMeasurement_r4(ctx, pvalue->u.ue_InternalMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "csgProximityDetection");
-         pvalue->u.csgProximityDetection = (CSGProximityDetection*)rtxMemHeapAlloc(ctx, sizeof(CSGProximityDetection));
-         if (pvalue->u.csgProximityDetection == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CSGProximityDetection(pvalue->u.csgProximityDetection);
-         stat = asn1PD_UMTS_CSGProximityDetection(ctx, pvalue->u.csgProximityDetection);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementCommand_r9_modify(rtxContext* ctx, MeasurementCommand_r9_modify* pvalue)
+int asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measurementType */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v770ext */
+   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v770ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v770ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v770ext", -1, 0);
+   /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "measurementType");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementType_r9(ctx, &pvalue->measurementType);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementCommand_r9(rtxContext* ctx, MeasurementCommand_r9* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "MeasurementCommand-r9");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "setup");
-         pvalue->u.setup = (MeasurementType_r9*)rtxMemHeapAlloc(ctx, sizeof(MeasurementType_r9));
-         if (pvalue->u.setup == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementType_r9(pvalue->u.setup);
-         stat = asn1PD_UMTS_MeasurementType_r9(ctx, pvalue->u.setup);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "modify");
-         pvalue->u.modify = (MeasurementCommand_r9_modify*)rtxMemHeapAlloc(ctx, sizeof(MeasurementCommand_r9_modify));
-         if (pvalue->u.modify == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementCommand_r9_modify(pvalue->u.modify);
-         stat = asn1PD_UMTS_MeasurementCommand_r9_modify(ctx, pvalue->u.modify);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "release");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Neighbour_TDD_r7(rtxContext* ctx, Neighbour_TDD_r7* pvalue)
+int asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "Neighbour-TDD-r7");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* uarfcn */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v690ext */
+   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v690ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v690ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "uarfcn");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "UARFCN");
-      stat = pd_ConsUInt16(ctx, &pvalue->uarfcn, 0, 16383);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_NeighbourList_TDD_r7(rtxContext* ctx, NeighbourList_TDD_r7* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "NeighbourList-TDD-r7");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      Neighbour_TDD_r7* elem;
-      rtxCtxtPushArrayElemName(ctx, "Neighbour-TDD-r7", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(Neighbour_TDD_r7));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (Neighbour_TDD_r7*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_Neighbour_TDD_r7(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_Neighbour_TDD_r7(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewInterFreqCell_LCR_v8a0ext(rtxContext* ctx, NewInterFreqCell_LCR_v8a0ext* pvalue)
+int asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCell-LCR-v8a0ext");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellInfo-LCR-r8 */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v590ext */
+   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v590ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v590ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v590ext", -1, 0);
+   /* v690NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cellInfo-LCR-r8");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellInfo_LCR_r8_ext(ctx, &pvalue->cellInfo_LCR_r8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_NewInterFreqCellList_LCR_v8a0ext(rtxContext* ctx, NewInterFreqCellList_LCR_v8a0ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellList-LCR-v8a0ext");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NewInterFreqCell_LCR_v8a0ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "NewInterFreqCell-LCR-v8a0ext", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewInterFreqCell_LCR_v8a0ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (NewInterFreqCell_LCR_v8a0ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NewInterFreqCell_LCR_v8a0ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewInterFreqCell_LCR_v8a0ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_NewIntraFreqCell_LCR_v8a0ext(rtxContext* ctx, NewIntraFreqCell_LCR_v8a0ext* pvalue)
+int asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCell-LCR-v8a0ext");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellInfo-LCR-r8 */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v4b0ext */
+   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v4b0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v4b0ext", -1, 0);
+   /* v590NonCriticalExtenstions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cellInfo-LCR-r8");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellInfo_LCR_r8_ext(ctx, &pvalue->cellInfo_LCR_r8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions(ctx, &pvalue->v590NonCriticalExtenstions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtenstions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_NewIntraFreqCellList_LCR_v8a0ext(rtxContext* ctx, NewIntraFreqCellList_LCR_v8a0ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellList-LCR-v8a0ext");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      NewIntraFreqCell_LCR_v8a0ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "NewIntraFreqCell-LCR-v8a0ext", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(NewIntraFreqCell_LCR_v8a0ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (NewIntraFreqCell_LCR_v8a0ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_NewIntraFreqCell_LCR_v8a0ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_NewIntraFreqCell_LCR_v8a0ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TimeslotWithISCP(rtxContext* ctx, TimeslotWithISCP* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TimeslotWithISCP");
-   /* timeslot */
-   rtxCtxtPushElemName(ctx, "timeslot");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeslotISCP */
-   rtxCtxtPushElemName(ctx, "timeslotISCP");
-   rtxCtxtPushTypeName(ctx, "TimeslotISCP");
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslotISCP, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TimeslotListWithISCP(rtxContext* ctx, TimeslotListWithISCP* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "TimeslotListWithISCP");
-   RT_SET_SIZE(ctx, 1, 14);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      TimeslotWithISCP* elem;
-      rtxCtxtPushArrayElemName(ctx, "TimeslotWithISCP", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TimeslotWithISCP));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (TimeslotWithISCP*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_TimeslotWithISCP(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_CipherParameters(rtxContext* ctx, UE_Positioning_CipherParameters* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-CipherParameters");
-   /* cipheringKeyFlag */
-   rtxCtxtPushElemName(ctx, "cipheringKeyFlag");
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pd_BitString32(ctx, &pvalue->cipheringKeyFlag, 1, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cipheringSerialNumber */
-   rtxCtxtPushElemName(ctx, "cipheringSerialNumber");
-   stat = pd_ConsUInt16(ctx, &pvalue->cipheringSerialNumber, 0, 65535);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData_v860ext(rtxContext* ctx, UE_Positioning_GANSS_AssistanceData_v860ext* pvalue)
+int asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-AssistanceData-v860ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* uePositioningGanssAddIonoModel */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGanssAddIonoModel");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AddIonoModel(ctx, &pvalue->uePositioningGanssAddIonoModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGanssEarthOrientationPara */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGanssEarthOrientationPara");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_EarthOrientPara(ctx, &pvalue->uePositioningGanssEarthOrientationPara);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssGenericDataList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ganssGenericDataList");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_GANSSGenericDataList_v860ext(ctx, &pvalue->ganssGenericDataList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData_v920ext(rtxContext* ctx, UE_Positioning_GANSS_AssistanceData_v920ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-AssistanceData-v920ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ganssGenericDataList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ganssGenericDataList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_GANSSGenericDataList_v920ext(ctx, &pvalue->ganssGenericDataList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_Data(rtxContext* ctx, UE_Positioning_GANSS_Data* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-Data");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat);
-   /* ganssDataCipheringInfo */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "ganssDataCipheringInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_CipherParameters(ctx, &pvalue->ganssDataCipheringInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssDecipheringKeys */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "ganssDecipheringKeys");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_GANSSDecipheringKeys(ctx, &pvalue->ganssDecipheringKeys);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGanssReferenceTime */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGanssReferenceTime");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_ReferenceTime(ctx, &pvalue->uePositioningGanssReferenceTime);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGanssReferencePosition */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGanssReferencePosition");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_ReferenceLocationGANSS(ctx, &pvalue->uePositioningGanssReferencePosition);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGanssIonosphericModel */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "uePositioningGanssIonosphericModel");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_IonosphericModel(ctx, &pvalue->uePositioningGanssIonosphericModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssGenericDataList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ganssGenericDataList");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_GANSSGenericDataList(ctx, &pvalue->ganssGenericDataList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GANSS_TimeModels(rtxContext* ctx, UE_Positioning_GANSS_TimeModels* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-TimeModels");
-   RT_SET_SIZE(ctx, 1, 7);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UE_Positioning_GANSS_TimeModel* elem;
-      rtxCtxtPushArrayElemName(ctx, "UE-Positioning-GANSS-TimeModel", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_Positioning_GANSS_TimeModel));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (UE_Positioning_GANSS_TimeModel*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UE_Positioning_GANSS_TimeModel(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_TimeModel(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_AcquisitionAssistance_v770ext(rtxContext* ctx, UE_Positioning_GPS_AcquisitionAssistance_v770ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-AcquisitionAssistance-v770ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-GPS-ReferenceTimeUncertainty");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-ReferenceTimeUncertainty");
-      stat = pd_ConsUInt8(ctx, &pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_ReferenceTime_v770ext(rtxContext* ctx, UE_Positioning_GPS_ReferenceTime_v770ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-ReferenceTime-v770ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-GPS-ReferenceTimeUncertainty");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-ReferenceTimeUncertainty");
-      stat = pd_ConsUInt8(ctx, &pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_AssistanceData_v770ext(rtxContext* ctx, UE_Positioning_GPS_AssistanceData_v770ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-AssistanceData-v770ext");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GPS-ReferenceTime */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-r3-add-ext */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-ReferenceTime");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_ReferenceTime_v770ext(ctx, &pvalue->ue_positioning_GPS_ReferenceTime);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_DynBitString(ctx, &pvalue->physicalChannelReconfiguration_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r3-add-ext", -1, 0);
    }
-   /* ue-positioning-GPS-AcquisitionAssistance */
+   /* v4b0NonCriticalExtenstions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-AcquisitionAssistance");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_AcquisitionAssistance_v770ext(ctx, &pvalue->ue_positioning_GPS_AcquisitionAssistance);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions(ctx, &pvalue->v4b0NonCriticalExtenstions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtenstions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_GPS_DGPS_Corrections_v920ext(rtxContext* ctx, UE_Positioning_GPS_DGPS_Corrections_v920ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-DGPS-Corrections-v920ext");
-   /* dgps-CorrectionSatInfoList */
-   rtxCtxtPushElemName(ctx, "dgps-CorrectionSatInfoList");
-   stat = asn1PD_UMTS_DGPS_CorrectionSatInfoList_v920ext(ctx, &pvalue->dgps_CorrectionSatInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_GPS_AssistanceData_v920ext(rtxContext* ctx, UE_Positioning_GPS_AssistanceData_v920ext* pvalue)
+int asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-AssistanceData-v920ext");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GPS-DGPS-Corrections */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v3a0ext */
+   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v3a0ext(ctx, &pvalue->physicalChannelReconfiguration_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v3a0ext", -1, 0);
+   /* laterNonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-DGPS-Corrections");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_DGPS_Corrections_v920ext(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_IPDL_Parameters_TDD_r4_ext(rtxContext* ctx, UE_Positioning_IPDL_Parameters_TDD_r4_ext* pvalue)
+int asn1PD_UMTS_PhysicalChannelReconfiguration_r3(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r3* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ip-Spacing */
-   rtxCtxtPushElemName(ctx, "ip-Spacing");
-   rtxCtxtPushTypeName(ctx, "IP-Spacing-TDD");
-   stat = pd_ConsUnsigned(ctx, &pvalue->ip_Spacing, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ip-slot */
-   rtxCtxtPushElemName(ctx, "ip-slot");
-   stat = pd_ConsUInt8(ctx, &pvalue->ip_slot, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ip-Start */
-   rtxCtxtPushElemName(ctx, "ip-Start");
-   stat = pd_ConsUInt16(ctx, &pvalue->ip_Start, 0, 4095);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ip-PCCPCG */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-r3 */
+   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r3_IEs(ctx, &pvalue->physicalChannelReconfiguration_r3);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r3", -1, 0);
+   /* v3a0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ip-PCCPCG");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "IP-PCCPCH-r4");
-      stat = rtxDecBitInline(ctx, &pvalue->ip_PCCPCG);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, 0);
    }
-   /* burstModeParameters */
-   rtxCtxtPushElemName(ctx, "burstModeParameters");
-   stat = asn1PD_UMTS_BurstModeParameters(ctx, &pvalue->burstModeParameters);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_ReportingQuantity_v390ext(rtxContext* ctx, UE_Positioning_ReportingQuantity_v390ext* pvalue)
+int asn1PD_UMTS_PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-ReportingQuantity-v390ext");
-   /* vertical-Accuracy */
-   rtxCtxtPushElemName(ctx, "vertical-Accuracy");
-   stat = asn1PD_UMTS_UE_Positioning_Accuracy(ctx, &pvalue->vertical_Accuracy);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_fdd(rtxContext* ctx, UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_tdd(rtxContext* ctx, UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   /* cellAndChannelIdentity */
-   rtxCtxtPushElemName(ctx, "cellAndChannelIdentity");
-   stat = asn1PD_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo(rtxContext* ctx, UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo* pvalue)
+int asn1PD_UMTS_PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 0: /* fdd */
+         pvalue->u.fdd = (PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 1: /* tdd */
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB(rtxContext* ctx, UE_Positioning_OTDOA_ReferenceCellInfo_UEB* pvalue)
+int asn1PD_UMTS_PhysicalChannelReconfiguration_r4_IEs(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r4_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat);
-   /* sfn */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "sfn");
+   stat = rtxDecBitsFast(ctx, &present, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-r4-IEs");
+   /* integrityProtectionModeInfo */
+   if (present & ((uint32_t)1 << 14)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt16(ctx, &pvalue->sfn, 0, 4095);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "PhysicalChannelReconfiguration-r4-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "PhysicalChannelReconfiguration-r4-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "PhysicalChannelReconfiguration-r4-IEs");
+   }
+   /* new-U-RNTI */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "PhysicalChannelReconfiguration-r4-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "PhysicalChannelReconfiguration-r4-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "PhysicalChannelReconfiguration-r4-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "PhysicalChannelReconfiguration-r4-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x40u;
+      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "PhysicalChannelReconfiguration-r4-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "PhysicalChannelReconfiguration-r4-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "PhysicalChannelReconfiguration-r4-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "PhysicalChannelReconfiguration-r4-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "PhysicalChannelReconfiguration-r4-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x800u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "PhysicalChannelReconfiguration-r4-IEs");
+   }
+   /* ul-ChannelRequirement */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_UL_ChannelRequirementWithCPCH_SetID_r4(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "PhysicalChannelReconfiguration-r4-IEs");
    }
    /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellPosition */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "cellPosition");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_ReferenceCellPosition(ctx, &pvalue->cellPosition);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* roundTripTime */
+   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "PhysicalChannelReconfiguration-r4-IEs");
+   /* dl-CommonInformation */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "roundTripTime");
-      pvalue->m |= 0x8u;
-      stat = pd_ConsUInt16(ctx, &pvalue->roundTripTime, 0, 32766);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "PhysicalChannelReconfiguration-r4-IEs");
    }
-   /* ue-positioning-IPDL-Paremeters */
+   /* dl-InformationPerRL-List */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-IPDL-Paremeters");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_UE_Positioning_IPDL_Parameters(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r4(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "PhysicalChannelReconfiguration-r4-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_fdd(rtxContext* ctx, UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_fdd* pvalue)
+int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_tdd(rtxContext* ctx, UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_tdd* pvalue)
+int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   /* cellAndChannelIdentity */
-   rtxCtxtPushElemName(ctx, "cellAndChannelIdentity");
-   stat = asn1PD_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v770ext */
+   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v770ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v770ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo(rtxContext* ctx, UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo* pvalue)
+int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v690ext */
+   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v690ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v690ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v590ext */
+   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v590ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v590ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v590ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-r4-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->physicalChannelReconfiguration_r4_add_ext);
+      RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r4-add-ext", -1, 0);
+   }
+   /* v590NonCriticalExtenstions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions(ctx, &pvalue->v590NonCriticalExtenstions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtenstions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-r4 */
+   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r4_IEs(ctx, &pvalue->physicalChannelReconfiguration_r4);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r4", -1, 0);
+   /* v4d0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_fdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 0: /* fdd */
+         pvalue->u.fdd = (PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_tdd*)rtxMemHeapAllocZ(ctx, sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 1: /* tdd */
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB(rtxContext* ctx, UE_Positioning_OTDOA_NeighbourCellInfo_UEB* pvalue)
+int asn1PD_UMTS_PhysicalChannelReconfiguration_r5_IEs(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r5_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 17);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-r5-IEs");
+   /* integrityProtectionModeInfo */
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   }
+   /* new-U-RNTI */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   }
+   /* new-H-RNTI */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x80u;
+      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1000u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   }
+   /* ul-ChannelRequirement */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_UL_ChannelRequirementWithCPCH_SetID_r5(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   }
+   /* dl-CommonInformation */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8000u;
+      stat = asn1PD_UMTS_DL_CommonInformation_r5(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r5(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v770ext */
+   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v770ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v770ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v690ext */
+   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v690ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v690ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-r5 */
+   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r5_IEs(ctx, &pvalue->physicalChannelReconfiguration_r5);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r5", -1, 0);
+   /* physicalChannelReconfiguration-r5-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->physicalChannelReconfiguration_r5_add_ext);
+      RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r5-add-ext", -1, 0);
+   }
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_r6_IEs(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r6_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 22);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-r6-IEs");
+   /* integrityProtectionModeInfo */
+   if (present & ((uint32_t)1 << 21)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint32_t)1 << 20)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint32_t)1 << 19)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* delayRestrictionFlag */
+   if (present & ((uint32_t)1 << 18)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "PhysicalChannelReconfiguration-r6-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "PhysicalChannelReconfiguration-r6-IEs");
+         pvalue->delayRestrictionFlag = ui;
+      }
+   }
+   /* new-U-RNTI */
+   if (present & ((uint32_t)1 << 17)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* new-H-RNTI */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x400u;
+      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x8000u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_UL_DPCH_Info_r6(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_UL_EDCH_Information_r6(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r6(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* dl-CommonInformation */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_DL_CommonInformation_r6(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x100000u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r6(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x200000u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "PhysicalChannelReconfiguration-r6-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "PhysicalChannelReconfiguration-r6-IEs");
+         pvalue->mbms_PL_ServiceRestrictInfo = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_v6b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-v6b0ext-IEs");
+   /* dl-InformationPerRL-List-v6b0ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_v6b0ext(ctx, &pvalue->dl_InformationPerRL_List_v6b0ext);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List-v6b0ext", -1, "PhysicalChannelReconfiguration-v6b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v770ext */
+   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v770ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v770ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v6b0ext */
+   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v6b0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v6b0ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-r6 */
+   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r6_IEs(ctx, &pvalue->physicalChannelReconfiguration_r6);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r6", -1, 0);
+   /* physicalChannelReconfiguration-r6-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->physicalChannelReconfiguration_r6_add_ext);
+      RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r6-add-ext", -1, 0);
+   }
+   /* v6b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_r7_IEs_responseToChangeOfUE_Capability(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r7_IEs_responseToChangeOfUE_Capability* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_r7_IEs(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r7_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 30);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-r7-IEs");
+   /* integrityProtectionModeInfo */
+   if (present & ((uint32_t)1 << 29)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint32_t)1 << 28)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint32_t)1 << 27)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* delayRestrictionFlag */
+   if (present & ((uint32_t)1 << 26)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "PhysicalChannelReconfiguration-r7-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "PhysicalChannelReconfiguration-r7-IEs");
+         pvalue->delayRestrictionFlag = ui;
+      }
+   }
+   /* new-U-RNTI */
+   if (present & ((uint32_t)1 << 25)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint32_t)1 << 24)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint32_t)1 << 23)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* new-H-RNTI */
+   if (present & ((uint32_t)1 << 22)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (present & ((uint32_t)1 << 21)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint32_t)1 << 20)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   /* ueMobilityStateIndicator */
+   if (present & ((uint32_t)1 << 19)) {
+      pvalue->m |= 0x400u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "PhysicalChannelReconfiguration-r7-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "PhysicalChannelReconfiguration-r7-IEs");
+         pvalue->ueMobilityStateIndicator = ui;
+      }
+   }
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint32_t)1 << 18)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 17)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x4000u;
+      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* responseToChangeOfUE-Capability */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x8000u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "PhysicalChannelReconfiguration-r7-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "PhysicalChannelReconfiguration-r7-IEs");
+         pvalue->responseToChangeOfUE_Capability = ui;
+      }
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* dtx-drx-Info */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x100000u;
+      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x200000u;
+      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* mimoParameters */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x400000u;
+      stat = asn1PD_UMTS_MIMO_Parameters_r7(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x800000u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1000000u;
+      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2000000u;
+      stat = asn1PD_UMTS_UL_EDCH_Information_r7(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4000000u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* dl-CommonInformation */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8000000u;
+      stat = asn1PD_UMTS_DL_CommonInformation_r7(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10000000u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20000000u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "PhysicalChannelReconfiguration-r7-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "PhysicalChannelReconfiguration-r7-IEs");
+         pvalue->mbms_PL_ServiceRestrictInfo = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_v780ext_IEs(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_v780ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-v780ext-IEs");
+   /* harqInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
+      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "PhysicalChannelReconfiguration-v780ext-IEs");
+   }
+   /* hs-DSCH-TBSizeTable */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "PhysicalChannelReconfiguration-v780ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "PhysicalChannelReconfiguration-v780ext-IEs");
+         pvalue->hs_DSCH_TBSizeTable = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_v7d0ext_IEs(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_v7d0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-v7d0ext-IEs");
+   /* ul-EDCH-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UL_EDCH_Information_ext(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "PhysicalChannelReconfiguration-v7d0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_v7f0ext_IEs(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_v7f0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-v7f0ext-IEs");
+   /* mimoParameters */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MIMO_Parameters_v7f0ext(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "PhysicalChannelReconfiguration-v7f0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_v7g0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-v7g0ext-IEs");
+   /* mimoParameters */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MIMO_Parameters_v7g0ext(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "PhysicalChannelReconfiguration-v7g0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v7g0ext */
+   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v7g0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v7g0ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v7g0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v7f0ext */
+   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v7f0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v7f0ext", -1, 0);
+   /* v7g0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v7d0ext */
+   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v7d0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v7d0ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v7d0ext", -1, 0);
+   /* v7f0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v780ext */
+   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v780ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v780ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v780ext", -1, 0);
+   /* v7d0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-r7 */
+   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r7_IEs(ctx, &pvalue->physicalChannelReconfiguration_r7);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r7", -1, 0);
+   /* physicalChannelReconfiguration-r7-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->physicalChannelReconfiguration_r7_add_ext);
+      RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r7-add-ext", -1, 0);
+   }
+   /* v780NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v780NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_r8_IEs_responseToChangeOfUE_Capability(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r8_IEs_responseToChangeOfUE_Capability* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_r8_IEs(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r8_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint64_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   {
+      uint32_t hi, lo;
+      stat = rtxDecBitsFast(ctx, &hi, 2);
+      RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-r8-IEs");
+      stat = rtxDecBitsFast(ctx, &lo, 32);
+      RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-r8-IEs");
+      present = ((uint64_t)hi << 32) | lo;
+   }
+   /* integrityProtectionModeInfo */
+   if (present & ((uint64_t)1 << 33)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint64_t)1 << 32)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint64_t)1 << 31)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* delayRestrictionFlag */
+   if (present & ((uint64_t)1 << 30)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "PhysicalChannelReconfiguration-r8-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "PhysicalChannelReconfiguration-r8-IEs");
+         pvalue->delayRestrictionFlag = ui;
+      }
+   }
+   /* new-U-RNTI */
+   if (present & ((uint64_t)1 << 29)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint64_t)1 << 28)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint64_t)1 << 27)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* new-H-RNTI */
+   if (present & ((uint64_t)1 << 26)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (present & ((uint64_t)1 << 25)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint64_t)1 << 24)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   /* ueMobilityStateIndicator */
+   if (present & ((uint64_t)1 << 23)) {
+      pvalue->m |= 0x400u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "PhysicalChannelReconfiguration-r8-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "PhysicalChannelReconfiguration-r8-IEs");
+         pvalue->ueMobilityStateIndicator = ui;
+      }
+   }
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint64_t)1 << 22)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint64_t)1 << 21)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint64_t)1 << 20)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   if (present & ((uint64_t)1 << 19)) {
+      pvalue->m |= 0x4000u;
+      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* responseToChangeOfUE-Capability */
+   if (present & ((uint64_t)1 << 18)) {
+      pvalue->m |= 0x8000u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "PhysicalChannelReconfiguration-r8-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "PhysicalChannelReconfiguration-r8-IEs");
+         pvalue->responseToChangeOfUE_Capability = ui;
+      }
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint64_t)1 << 17)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* harqInfo */
+   if (present & ((uint64_t)1 << 16)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
+      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint64_t)1 << 15)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (present & ((uint64_t)1 << 14)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (present & ((uint64_t)1 << 13)) {
+      pvalue->m |= 0x100000u;
+      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* dtx-drx-Info */
+   if (present & ((uint64_t)1 << 12)) {
+      pvalue->m |= 0x200000u;
+      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (present & ((uint64_t)1 << 11)) {
+      pvalue->m |= 0x400000u;
+      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* mimoParameters */
+   if (present & ((uint64_t)1 << 10)) {
+      pvalue->m |= 0x800000u;
+      stat = asn1PD_UMTS_MIMO_Parameters_r8(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint64_t)1 << 9)) {
+      pvalue->m |= 0x1000000u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (present & ((uint64_t)1 << 8)) {
+      pvalue->m |= 0x2000000u;
+      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (present & ((uint64_t)1 << 7)) {
+      pvalue->m |= 0x4000000u;
+      stat = asn1PD_UMTS_UL_EDCH_Information_r8(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint64_t)1 << 6)) {
+      pvalue->m |= 0x8000000u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* dl-CommonInformation */
+   if (present & ((uint64_t)1 << 5)) {
+      pvalue->m |= 0x10000000u;
+      stat = asn1PD_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint64_t)1 << 4)) {
+      pvalue->m |= 0x20000000u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* dl-SecondaryCellInfoFDD */
+   if (present & ((uint64_t)1 << 3)) {
+      pvalue->m |= 0x40000000u;
+      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD(ctx, &pvalue->dl_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* controlChannelDRXInfo-TDD128 */
+   if (present & ((uint64_t)1 << 2)) {
+      pvalue->m |= 0x80000000u;
+      stat = asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
+      RT_CHECK(ctx, stat, 0, "controlChannelDRXInfo-TDD128", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* sps-Information-TDD128 */
+   if (present & ((uint64_t)1 << 1)) {
+      pvalue->m |= 0x100000000ull;
+      stat = asn1PD_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
+      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (present & ((uint64_t)1 << 0)) {
+      pvalue->m |= 0x200000000ull;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "PhysicalChannelReconfiguration-r8-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "PhysicalChannelReconfiguration-r8-IEs");
+         pvalue->mbms_PL_ServiceRestrictInfo = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_v890ext_IEs(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_v890ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-v890ext-IEs");
+   /* dl-SecondaryCellInfoFDD-v890ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_v890ext(ctx, &pvalue->dl_SecondaryCellInfoFDD_v890ext);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD-v890ext", -1, "PhysicalChannelReconfiguration-v890ext-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "PhysicalChannelReconfiguration-v890ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_v8a0ext_IEs(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_v8a0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-v8a0ext-IEs");
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext2(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "PhysicalChannelReconfiguration-v8a0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v8a0ext */
+   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v8a0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v8a0ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v8a0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v7g0ext */
+   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v7g0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v7g0ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v7g0ext", -1, 0);
+   /* v8a0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v8a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v890ext */
+   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v890ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v890ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v890ext", -1, 0);
+   /* v7g0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v7f0ext */
+   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v7f0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v7f0ext", -1, 0);
+   /* v890NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v7d0ext */
+   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v7d0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v7d0ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v7d0ext", -1, 0);
+   /* v7f0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-r8 */
+   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r8_IEs(ctx, &pvalue->physicalChannelReconfiguration_r8);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r8", -1, 0);
+   /* physicalChannelReconfiguration-r8-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->physicalChannelReconfiguration_r8_add_ext);
+      RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r8-add-ext", -1, 0);
+   }
+   /* v7d0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_r9_IEs_responseToChangeOfUE_Capability(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r9_IEs_responseToChangeOfUE_Capability* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_r9_IEs(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r9_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint64_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   {
+      uint32_t hi, lo;
+      stat = rtxDecBitsFast(ctx, &hi, 4);
+      RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-r9-IEs");
+      stat = rtxDecBitsFast(ctx, &lo, 32);
+      RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-r9-IEs");
+      present = ((uint64_t)hi << 32) | lo;
+   }
+   /* integrityProtectionModeInfo */
+   if (present & ((uint64_t)1 << 35)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint64_t)1 << 34)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint64_t)1 << 33)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* delayRestrictionFlag */
+   if (present & ((uint64_t)1 << 32)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "PhysicalChannelReconfiguration-r9-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "PhysicalChannelReconfiguration-r9-IEs");
+         pvalue->delayRestrictionFlag = ui;
+      }
+   }
+   /* new-U-RNTI */
+   if (present & ((uint64_t)1 << 31)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint64_t)1 << 30)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint64_t)1 << 29)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* new-H-RNTI */
+   if (present & ((uint64_t)1 << 28)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (present & ((uint64_t)1 << 27)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint64_t)1 << 26)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   /* ueMobilityStateIndicator */
+   if (present & ((uint64_t)1 << 25)) {
+      pvalue->m |= 0x400u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "PhysicalChannelReconfiguration-r9-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "PhysicalChannelReconfiguration-r9-IEs");
+         pvalue->ueMobilityStateIndicator = ui;
+      }
+   }
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint64_t)1 << 24)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint64_t)1 << 23)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint64_t)1 << 22)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   if (present & ((uint64_t)1 << 21)) {
+      pvalue->m |= 0x4000u;
+      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* responseToChangeOfUE-Capability */
+   if (present & ((uint64_t)1 << 20)) {
+      pvalue->m |= 0x8000u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "PhysicalChannelReconfiguration-r9-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "PhysicalChannelReconfiguration-r9-IEs");
+         pvalue->responseToChangeOfUE_Capability = ui;
+      }
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint64_t)1 << 19)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* harqInfo */
+   if (present & ((uint64_t)1 << 18)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
+      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint64_t)1 << 17)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (present & ((uint64_t)1 << 16)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (present & ((uint64_t)1 << 15)) {
+      pvalue->m |= 0x100000u;
+      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* dtx-drx-Info */
+   if (present & ((uint64_t)1 << 14)) {
+      pvalue->m |= 0x200000u;
+      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (present & ((uint64_t)1 << 13)) {
+      pvalue->m |= 0x400000u;
+      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* mimoParameters */
+   if (present & ((uint64_t)1 << 12)) {
+      pvalue->m |= 0x800000u;
+      stat = asn1PD_UMTS_MIMO_Parameters_r9(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* controlChannelDRXInfo-TDD128 */
+   if (present & ((uint64_t)1 << 11)) {
+      pvalue->m |= 0x1000000u;
+      stat = asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
+      RT_CHECK(ctx, stat, 0, "controlChannelDRXInfo-TDD128", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* sps-Information-TDD128 */
+   if (present & ((uint64_t)1 << 10)) {
+      pvalue->m |= 0x2000000u;
+      stat = asn1PD_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
+      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint64_t)1 << 9)) {
+      pvalue->m |= 0x4000000u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (present & ((uint64_t)1 << 8)) {
+      pvalue->m |= 0x8000000u;
+      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (present & ((uint64_t)1 << 7)) {
+      pvalue->m |= 0x10000000u;
+      stat = asn1PD_UMTS_UL_EDCH_Information_r9(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* ul-SecondaryCellInfoFDD */
+   if (present & ((uint64_t)1 << 6)) {
+      pvalue->m |= 0x20000000u;
+      stat = asn1PD_UMTS_UL_SecondaryCellInfoFDD(ctx, &pvalue->ul_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "ul-SecondaryCellInfoFDD", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint64_t)1 << 5)) {
+      pvalue->m |= 0x40000000u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* dl-CommonInformation */
+   if (present & ((uint64_t)1 << 4)) {
+      pvalue->m |= 0x80000000u;
+      stat = asn1PD_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint64_t)1 << 3)) {
+      pvalue->m |= 0x100000000ull;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* dl-SecondaryCellInfoFDD */
+   if (present & ((uint64_t)1 << 2)) {
+      pvalue->m |= 0x200000000ull;
+      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_r9(ctx, &pvalue->dl_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (present & ((uint64_t)1 << 1)) {
+      pvalue->m |= 0x400000000ull;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "PhysicalChannelReconfiguration-r9-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "PhysicalChannelReconfiguration-r9-IEs");
+         pvalue->mbms_PL_ServiceRestrictInfo = ui;
+      }
+   }
+   /* cellDCHMeasOccasionInfo-TDD128 */
+   if (present & ((uint64_t)1 << 0)) {
+      pvalue->m |= 0x800000000ull;
+      stat = asn1PD_UMTS_CellDCHMeasOccasionInfo_TDD128_r9(ctx, &pvalue->cellDCHMeasOccasionInfo_TDD128);
+      RT_CHECK(ctx, stat, 0, "cellDCHMeasOccasionInfo-TDD128", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-r9 */
+   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r9_IEs(ctx, &pvalue->physicalChannelReconfiguration_r9);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r9", -1, 0);
+   /* physicalChannelReconfiguration-r9-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->physicalChannelReconfiguration_r9_add_ext);
+      RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r9-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r9 */
+         pvalue->u.r9 = (PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9));
+         if (pvalue->u.r9 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r9", -1, 0);
+         asn1Init_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(pvalue->u.r9);
+         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
+         RT_CHECK(ctx, stat, 0, "r9", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r8 */
+         pvalue->u.r8 = (PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8));
+         if (pvalue->u.r8 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r8", -1, 0);
+         asn1Init_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(pvalue->u.r8);
+         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
+         RT_CHECK(ctx, stat, 0, "r8", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r7 */
+         pvalue->u.r7 = (PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7));
+         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r7", -1, 0);
+         asn1Init_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(pvalue->u.r7);
+         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
+         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r6 */
+         pvalue->u.r6 = (PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6));
+         if (pvalue->u.r6 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r6", -1, 0);
+         asn1Init_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(pvalue->u.r6);
+         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(ctx, pvalue->u.r6);
+         RT_CHECK(ctx, stat, 0, "r6", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r5 */
+         pvalue->u.r5 = (PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5));
+         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r5", -1, 0);
+         asn1Init_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5(pvalue->u.r5);
+         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5(ctx, pvalue->u.r5);
+         RT_CHECK(ctx, stat, 0, "r5", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r4 */
+         pvalue->u.r4 = (PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4));
+         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r4", -1, 0);
+         asn1Init_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4(pvalue->u.r4);
+         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
+         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfiguration(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r3 */
+         pvalue->u.r3 = (PhysicalChannelReconfiguration_r3*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_r3));
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "PhysicalChannelReconfiguration");
+         asn1Init_UMTS_PhysicalChannelReconfiguration_r3(pvalue->u.r3);
+         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "PhysicalChannelReconfiguration");
+         break;
+      case 1: /* later-than-r3 */
+         pvalue->u.later_than_r3 = (PhysicalChannelReconfiguration_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3));
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "PhysicalChannelReconfiguration");
+         asn1Init_UMTS_PhysicalChannelReconfiguration_later_than_r3(pvalue->u.later_than_r3);
+         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "PhysicalChannelReconfiguration");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PhysicalChannelReconfiguration");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfigurationComplete_v770ext_IEs_deferredMeasurementControlReading(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfigurationComplete_v770ext_IEs_deferredMeasurementControlReading* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfigurationComplete_v770ext_IEs(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfigurationComplete_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfigurationComplete-v770ext-IEs");
+   /* ext-UL-TimingAdvance */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_EXT_UL_TimingAdvance(ctx, &pvalue->ext_UL_TimingAdvance);
+      RT_CHECK(ctx, stat, 0, "ext-UL-TimingAdvance", -1, "PhysicalChannelReconfigurationComplete-v770ext-IEs");
+   }
+   /* deferredMeasurementControlReading */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "deferredMeasurementControlReading", -1, "PhysicalChannelReconfigurationComplete-v770ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "deferredMeasurementControlReading", -1, "PhysicalChannelReconfigurationComplete-v770ext-IEs");
+         pvalue->deferredMeasurementControlReading = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfigurationComplete-v770ext */
+   stat = asn1PD_UMTS_PhysicalChannelReconfigurationComplete_v770ext_IEs(ctx, &pvalue->physicalChannelReconfigurationComplete_v770ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfigurationComplete-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfigurationComplete-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->physicalChannelReconfigurationComplete_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "physicalChannelReconfigurationComplete-r3-add-ext", -1, 0);
+   }
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfigurationComplete(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfigurationComplete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfigurationComplete");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "PhysicalChannelReconfigurationComplete");
+   /* ul-IntegProtActivationInfo */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtActivationInfo(ctx, &pvalue->ul_IntegProtActivationInfo);
+      RT_CHECK(ctx, stat, 0, "ul-IntegProtActivationInfo", -1, "PhysicalChannelReconfigurationComplete");
+   }
+   /* ul-TimingAdvance */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->ul_TimingAdvance, 0, 63);
+      RT_CHECK(ctx, stat, "UL-TimingAdvance", "ul-TimingAdvance", -1, "PhysicalChannelReconfigurationComplete");
+   }
+   /* count-C-ActivationTime */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->count_C_ActivationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "count-C-ActivationTime", -1, "PhysicalChannelReconfigurationComplete");
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "PhysicalChannelReconfigurationComplete");
+   }
+   /* ul-CounterSynchronisationInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_UL_CounterSynchronisationInfo(ctx, &pvalue->ul_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CounterSynchronisationInfo", -1, "PhysicalChannelReconfigurationComplete");
+   }
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "PhysicalChannelReconfigurationComplete");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfigurationFailure_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfigurationFailure_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfigurationFailure_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfigurationFailure_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfigurationFailure-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->physicalChannelReconfigurationFailure_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "physicalChannelReconfigurationFailure-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_PhysicalChannelReconfigurationFailure_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelReconfigurationFailure(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfigurationFailure* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfigurationFailure");
+   /* rrc-TransactionIdentifier */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+      RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "PhysicalChannelReconfigurationFailure");
+   }
+   /* failureCause */
+   stat = asn1PD_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
+   RT_CHECK(ctx, stat, 0, "failureCause", -1, "PhysicalChannelReconfigurationFailure");
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_PhysicalChannelReconfigurationFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "PhysicalChannelReconfigurationFailure");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalSharedChannelAllocation_r3_IEs_confirmRequest(rtxContext* RT_RESTRICT ctx, PhysicalSharedChannelAllocation_r3_IEs_confirmRequest* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalSharedChannelAllocation_r3_IEs(rtxContext* RT_RESTRICT ctx, PhysicalSharedChannelAllocation_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 7);
-   RT_CHECK(ctx, stat);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalSharedChannelAllocation-r3-IEs");
+   /* dsch-RNTI */
    if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->dsch_RNTI);
+      RT_CHECK(ctx, stat, 0, "dsch-RNTI", -1, "PhysicalSharedChannelAllocation-r3-IEs");
    }
-   /* ue-positioning-IPDL-Paremeters */
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "PhysicalSharedChannelAllocation-r3-IEs");
+   /* ul-TimingAdvance */
    if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-IPDL-Paremeters");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_IPDL_Parameters(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UL_TimingAdvanceControl(ctx, &pvalue->ul_TimingAdvance);
+      RT_CHECK(ctx, stat, 0, "ul-TimingAdvance", -1, "PhysicalSharedChannelAllocation-r3-IEs");
    }
-   /* sfn-SFN-RelTimeDifference */
-   rtxCtxtPushElemName(ctx, "sfn-SFN-RelTimeDifference");
-   stat = asn1PD_UMTS_SFN_SFN_RelTimeDifference1(ctx, &pvalue->sfn_SFN_RelTimeDifference);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sfn-SFN-Drift */
+   /* pusch-CapacityAllocationInfo */
    if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "sfn-SFN-Drift");
       pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "SFN-SFN-Drift");
-      stat = pd_ConsUnsigned(ctx, &pvalue->sfn_SFN_Drift, 0, 28);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_PUSCH_CapacityAllocationInfo(ctx, &pvalue->pusch_CapacityAllocationInfo);
+      RT_CHECK(ctx, stat, 0, "pusch-CapacityAllocationInfo", -1, "PhysicalSharedChannelAllocation-r3-IEs");
    }
-   /* searchWindowSize */
-   rtxCtxtPushElemName(ctx, "searchWindowSize");
-   rtxCtxtPushTypeName(ctx, "OTDOA-SearchWindowSize");
-   stat = pd_ConsUnsigned(ctx, &pvalue->searchWindowSize, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* relativeNorth */
+   /* pdsch-CapacityAllocationInfo */
    if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "relativeNorth");
       pvalue->m |= 0x8u;
-      stat = pd_ConsInt16(ctx, &pvalue->relativeNorth, -20000, 20000);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_PDSCH_CapacityAllocationInfo(ctx, &pvalue->pdsch_CapacityAllocationInfo);
+      RT_CHECK(ctx, stat, 0, "pdsch-CapacityAllocationInfo", -1, "PhysicalSharedChannelAllocation-r3-IEs");
    }
-   /* relativeEast */
+   /* confirmRequest */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "relativeEast");
       pvalue->m |= 0x10u;
-      stat = pd_ConsInt16(ctx, &pvalue->relativeEast, -20000, 20000);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUnsigned(ctx, &pvalue->confirmRequest, 0, 1);
+      RT_CHECK(ctx, stat, 0, "confirmRequest", -1, "PhysicalSharedChannelAllocation-r3-IEs");
    }
-   /* relativeAltitude */
+   /* trafficVolumeReportRequest */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "relativeAltitude");
       pvalue->m |= 0x20u;
-      stat = pd_ConsInt16(ctx, &pvalue->relativeAltitude, -4000, 4000);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUInt8(ctx, &pvalue->trafficVolumeReportRequest, 0, 255);
+      RT_CHECK(ctx, stat, 0, "trafficVolumeReportRequest", -1, "PhysicalSharedChannelAllocation-r3-IEs");
    }
-   /* fineSFN-SFN */
-   rtxCtxtPushElemName(ctx, "fineSFN-SFN");
-   rtxCtxtPushTypeName(ctx, "FineSFN-SFN");
-   stat = pd_ConsUInt8(ctx, &pvalue->fineSFN_SFN, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* roundTripTime */
+   /* iscpTimeslotList */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "roundTripTime");
       pvalue->m |= 0x40u;
-      stat = pd_ConsUInt16(ctx, &pvalue->roundTripTime, 0, 32766);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_TimeslotList(ctx, &pvalue->iscpTimeslotList);
+      RT_CHECK(ctx, stat, 0, "iscpTimeslotList", -1, "PhysicalSharedChannelAllocation-r3-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
+   /* requestPCCPCHRSCP */
+   stat = rtxDecBitInline(ctx, &pvalue->requestPCCPCHRSCP);
+   RT_CHECK(ctx, stat, 0, "requestPCCPCHRSCP", -1, "PhysicalSharedChannelAllocation-r3-IEs");
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellList_UEB(rtxContext* ctx, UE_Positioning_OTDOA_NeighbourCellList_UEB* pvalue)
+int asn1PD_UMTS_PhysicalSharedChannelAllocation_r3_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalSharedChannelAllocation_r3_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-NeighbourCellList-UEB");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UE_Positioning_OTDOA_NeighbourCellInfo_UEB* elem;
-      rtxCtxtPushArrayElemName(ctx, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_UEB));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (UE_Positioning_OTDOA_NeighbourCellInfo_UEB*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
+   int stat = 0;
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB(rtxContext* ctx, UE_Positioning_OTDOA_AssistanceData_UEB* pvalue)
+int asn1PD_UMTS_PhysicalSharedChannelAllocation_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalSharedChannelAllocation_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-AssistanceData-UEB");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-OTDOA-ReferenceCellInfo-UEB */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalSharedChannelAllocation-r3-add-ext */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-ReferenceCellInfo-UEB");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB(ctx, &pvalue->ue_positioning_OTDOA_ReferenceCellInfo_UEB);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_DynBitString(ctx, &pvalue->physicalSharedChannelAllocation_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "physicalSharedChannelAllocation-r3-add-ext", -1, 0);
    }
-   /* ue-positioning-OTDOA-NeighbourCellList-UEB */
+   /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-NeighbourCellList-UEB");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellList_UEB(ctx, &pvalue->ue_positioning_OTDOA_NeighbourCellList_UEB);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_r3_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_Measurement_v390ext(rtxContext* ctx, UE_Positioning_Measurement_v390ext* pvalue)
+int asn1PD_UMTS_PhysicalSharedChannelAllocation_r3(rtxContext* RT_RESTRICT ctx, PhysicalSharedChannelAllocation_r3* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-Measurement-v390ext");
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalSharedChannelAllocation-r3 */
+   stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_r3_IEs(ctx, &pvalue->physicalSharedChannelAllocation_r3);
+   RT_CHECK(ctx, stat, 0, "physicalSharedChannelAllocation-r3", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalSharedChannelAllocation_r4_IEs_confirmRequest(rtxContext* RT_RESTRICT ctx, PhysicalSharedChannelAllocation_r4_IEs_confirmRequest* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalSharedChannelAllocation_r4_IEs(rtxContext* RT_RESTRICT ctx, PhysicalSharedChannelAllocation_r4_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalSharedChannelAllocation-r4-IEs");
+   /* ul-TimingAdvance */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UL_TimingAdvanceControl_r4(ctx, &pvalue->ul_TimingAdvance);
+      RT_CHECK(ctx, stat, 0, "ul-TimingAdvance", -1, "PhysicalSharedChannelAllocation-r4-IEs");
+   }
+   /* pusch-CapacityAllocationInfo */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r4(ctx, &pvalue->pusch_CapacityAllocationInfo);
+      RT_CHECK(ctx, stat, 0, "pusch-CapacityAllocationInfo", -1, "PhysicalSharedChannelAllocation-r4-IEs");
+   }
+   /* pdsch-CapacityAllocationInfo */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_PDSCH_CapacityAllocationInfo_r4(ctx, &pvalue->pdsch_CapacityAllocationInfo);
+      RT_CHECK(ctx, stat, 0, "pdsch-CapacityAllocationInfo", -1, "PhysicalSharedChannelAllocation-r4-IEs");
+   }
+   /* confirmRequest */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->confirmRequest, 0, 1);
+      RT_CHECK(ctx, stat, 0, "confirmRequest", -1, "PhysicalSharedChannelAllocation-r4-IEs");
+   }
+   /* trafficVolumeReportRequest */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      stat = pd_ConsUInt8(ctx, &pvalue->trafficVolumeReportRequest, 0, 255);
+      RT_CHECK(ctx, stat, 0, "trafficVolumeReportRequest", -1, "PhysicalSharedChannelAllocation-r4-IEs");
+   }
+   /* iscpTimeslotList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_TimeslotList_r4(ctx, &pvalue->iscpTimeslotList);
+      RT_CHECK(ctx, stat, 0, "iscpTimeslotList", -1, "PhysicalSharedChannelAllocation-r4-IEs");
+   }
+   /* requestPCCPCHRSCP */
+   stat = rtxDecBitInline(ctx, &pvalue->requestPCCPCHRSCP);
+   RT_CHECK(ctx, stat, 0, "requestPCCPCHRSCP", -1, "PhysicalSharedChannelAllocation-r4-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalSharedChannelAllocation_v690ext_IEs(rtxContext* RT_RESTRICT ctx, PhysicalSharedChannelAllocation_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalSharedChannelAllocation-v690ext-IEs");
+   /* beaconPLEst */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "PhysicalSharedChannelAllocation-v690ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "PhysicalSharedChannelAllocation-v690ext-IEs");
+         pvalue->beaconPLEst = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalSharedChannelAllocation_v770ext_IEs(rtxContext* RT_RESTRICT ctx, PhysicalSharedChannelAllocation_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-ReportingQuantity-v390ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalSharedChannelAllocation-v770ext-IEs");
+   /* ul-TimingAdvance */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-ReportingQuantity-v390ext");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_ReportingQuantity_v390ext(ctx, &pvalue->ue_positioning_ReportingQuantity_v390ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UL_TimingAdvanceControl_r7(ctx, &pvalue->ul_TimingAdvance);
+      RT_CHECK(ctx, stat, 0, "ul-TimingAdvance", -1, "PhysicalSharedChannelAllocation-v770ext-IEs");
    }
-   /* measurementValidity */
+   /* pusch-CapacityAllocationInfo */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "measurementValidity");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r7(ctx, &pvalue->pusch_CapacityAllocationInfo);
+      RT_CHECK(ctx, stat, 0, "pusch-CapacityAllocationInfo", -1, "PhysicalSharedChannelAllocation-v770ext-IEs");
    }
-   /* ue-positioning-OTDOA-AssistanceData-UEB */
+   /* pdsch-CapacityAllocationInfo */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-AssistanceData-UEB");
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData_UEB);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_PDSCH_CapacityAllocationInfo_r7(ctx, &pvalue->pdsch_CapacityAllocationInfo);
+      RT_CHECK(ctx, stat, 0, "pdsch-CapacityAllocationInfo", -1, "PhysicalSharedChannelAllocation-v770ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_Measurement_v920ext(rtxContext* ctx, UE_Positioning_Measurement_v920ext* pvalue)
+int asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-Measurement-v920ext");
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalSharedChannelAllocation-v770ext */
+   stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_v770ext_IEs(ctx, &pvalue->physicalSharedChannelAllocation_v770ext);
+   RT_CHECK(ctx, stat, 0, "physicalSharedChannelAllocation-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalSharedChannelAllocation-v690ext */
+   stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_v690ext_IEs(ctx, &pvalue->physicalSharedChannelAllocation_v690ext);
+   RT_CHECK(ctx, stat, 0, "physicalSharedChannelAllocation-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GPS-AssistanceData */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalSharedChannelAllocation-r4-add-ext */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-AssistanceData");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_AssistanceData_v920ext(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_DynBitString(ctx, &pvalue->physicalSharedChannelAllocation_r4_add_ext);
+      RT_CHECK(ctx, stat, 0, "physicalSharedChannelAllocation-r4-add-ext", -1, 0);
    }
-   /* ue-positioning-GANSS-AssistanceData */
+   /* v690NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-AssistanceData");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData_v920ext(ctx, &pvalue->ue_positioning_GANSS_AssistanceData);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_IPDL_Parameters_TDDList_r4_ext(rtxContext* ctx, UE_Positioning_IPDL_Parameters_TDDList_r4_ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-IPDL-Parameters-TDDList-r4-ext");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UE_Positioning_IPDL_Parameters_TDD_r4_ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "UE-Positioning-IPDL-Parameters-TDD-r4-ext", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_Positioning_IPDL_Parameters_TDD_r4_ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (UE_Positioning_IPDL_Parameters_TDD_r4_ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UE_Positioning_IPDL_Parameters_TDD_r4_ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UE_Positioning_IPDL_Parameters_TDD_r4_ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_r4ext(rtxContext* ctx, UE_Positioning_OTDOA_AssistanceData_r4ext* pvalue)
+int asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-AssistanceData-r4ext");
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalSharedChannelAllocation-r4 */
+   stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_r4_IEs(ctx, &pvalue->physicalSharedChannelAllocation_r4);
+   RT_CHECK(ctx, stat, 0, "physicalSharedChannelAllocation-r4", -1, 0);
+   /* v4d0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r4 */
+         pvalue->u.r4 = (PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4*)rtxMemHeapAlloc(ctx, sizeof(PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4));
+         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r4", -1, 0);
+         asn1Init_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4(pvalue->u.r4);
+         stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
+         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3(rtxContext* RT_RESTRICT ctx, PhysicalSharedChannelAllocation_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dsch-RNTI */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->dsch_RNTI);
+      RT_CHECK(ctx, stat, 0, "dsch-RNTI", -1, 0);
+   }
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalSharedChannelAllocation(rtxContext* RT_RESTRICT ctx, PhysicalSharedChannelAllocation* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalSharedChannelAllocation");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r3 */
+         pvalue->u.r3 = (PhysicalSharedChannelAllocation_r3*)rtxMemHeapAlloc(ctx, sizeof(PhysicalSharedChannelAllocation_r3));
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "PhysicalSharedChannelAllocation");
+         asn1Init_UMTS_PhysicalSharedChannelAllocation_r3(pvalue->u.r3);
+         stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "PhysicalSharedChannelAllocation");
+         break;
+      case 1: /* later-than-r3 */
+         pvalue->u.later_than_r3 = (PhysicalSharedChannelAllocation_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(PhysicalSharedChannelAllocation_later_than_r3));
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "PhysicalSharedChannelAllocation");
+         asn1Init_UMTS_PhysicalSharedChannelAllocation_later_than_r3(pvalue->u.later_than_r3);
+         stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "PhysicalSharedChannelAllocation");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PhysicalSharedChannelAllocation");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCHCapacityRequest_allocationConfirmation(rtxContext* RT_RESTRICT ctx, PUSCHCapacityRequest_allocationConfirmation* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* pdschConfirmation */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.pdschConfirmation, 1, 64);
+         RT_CHECK(ctx, stat, "PDSCH-Identity", "pdschConfirmation", -1, 0);
+         break;
+      case 1: /* puschConfirmation */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.puschConfirmation, 1, 64);
+         RT_CHECK(ctx, stat, "PUSCH-Identity", "puschConfirmation", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCHCapacityRequest_v590ext(rtxContext* RT_RESTRICT ctx, PUSCHCapacityRequest_v590ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCHCapacityRequest-v590ext");
+   /* primaryCCPCH-RSCP-delta */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8(ctx, &pvalue->primaryCCPCH_RSCP_delta, -5, -1);
+      RT_CHECK(ctx, stat, "DeltaRSCP", "primaryCCPCH-RSCP-delta", -1, "PUSCHCapacityRequest-v590ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCHCapacityRequest_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PUSCHCapacityRequest_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCHCapacityRequest_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PUSCHCapacityRequest_laterNonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* puschCapacityRequest-v590ext */
+   stat = asn1PD_UMTS_PUSCHCapacityRequest_v590ext(ctx, &pvalue->puschCapacityRequest_v590ext);
+   RT_CHECK(ctx, stat, 0, "puschCapacityRequest-v590ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PUSCHCapacityRequest_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PUSCHCapacityRequest_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, PUSCHCapacityRequest_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ue-Positioning-IPDL-Parameters-TDD-r4-ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* puschCapacityRequest-r3-add-ext */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-IPDL-Parameters-TDD-r4-ext");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_IPDL_Parameters_TDD_r4_ext(ctx, &pvalue->ue_Positioning_IPDL_Parameters_TDD_r4_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_DynBitString(ctx, &pvalue->puschCapacityRequest_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "puschCapacityRequest-r3-add-ext", -1, 0);
    }
-   /* ue-Positioning-IPDL-Parameters-TDDList-r4-ext */
+   /* v590NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-IPDL-Parameters-TDDList-r4-ext");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_IPDL_Parameters_TDDList_r4_ext(ctx, &pvalue->ue_Positioning_IPDL_Parameters_TDDList_r4_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_PUSCHCapacityRequest_laterNonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_ext(rtxContext* ctx, UE_Positioning_OTDOA_ReferenceCellInfo_UEB_ext* pvalue)
+int asn1PD_UMTS_PUSCHCapacityRequest(rtxContext* RT_RESTRICT ctx, PUSCHCapacityRequest* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB-ext");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* roundTripTimeExtension */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "roundTripTimeExtension");
+   stat = rtxDecBitsFast(ctx, &present, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCHCapacityRequest");
+   /* dsch-RNTI */
+   if (present & ((uint32_t)1 << 5)) {
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt32(ctx, &pvalue->roundTripTimeExtension, 0, 70274);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->dsch_RNTI);
+      RT_CHECK(ctx, stat, 0, "dsch-RNTI", -1, "PUSCHCapacityRequest");
    }
-   rtxCtxtPopTypeName(ctx);
+   /* trafficVolume */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_TrafficVolumeMeasuredResultsList(ctx, &pvalue->trafficVolume);
+      RT_CHECK(ctx, stat, 0, "trafficVolume", -1, "PUSCHCapacityRequest");
+   }
+   /* timeslotListWithISCP */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_TimeslotListWithISCP(ctx, &pvalue->timeslotListWithISCP);
+      RT_CHECK(ctx, stat, 0, "timeslotListWithISCP", -1, "PUSCHCapacityRequest");
+   }
+   /* primaryCCPCH-RSCP */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_RSCP, 0, 127);
+      RT_CHECK(ctx, stat, "PrimaryCCPCH-RSCP", "primaryCCPCH-RSCP", -1, "PUSCHCapacityRequest");
+   }
+   /* allocationConfirmation */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_PUSCHCapacityRequest_allocationConfirmation(ctx, &pvalue->allocationConfirmation);
+      RT_CHECK(ctx, stat, 0, "allocationConfirmation", -1, "PUSCHCapacityRequest");
+   }
+   /* protocolErrorIndicator */
+   stat = asn1PD_UMTS_ProtocolErrorIndicatorWithMoreInfo(ctx, &pvalue->protocolErrorIndicator);
+   RT_CHECK(ctx, stat, 0, "protocolErrorIndicator", -1, "PUSCHCapacityRequest");
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_PUSCHCapacityRequest_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "PUSCHCapacityRequest");
+   }
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext(rtxContext* ctx, UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext* pvalue)
+int asn1PD_UMTS_RadioBearerReconfiguration_r3_IEs_dummy_fdd(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r3_IEs_dummy_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB-ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* roundTripTimeExtension */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "roundTripTimeExtension");
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt32(ctx, &pvalue->roundTripTimeExtension, 0, 70274);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellList_UEB_ext(rtxContext* ctx, UE_Positioning_OTDOA_NeighbourCellList_UEB_ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-NeighbourCellList-UEB-ext");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB-ext", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB_ext(rtxContext* ctx, UE_Positioning_OTDOA_AssistanceData_UEB_ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-AssistanceData-UEB-ext");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-OTDOA-ReferenceCellInfo-UEB-ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy1 */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-ReferenceCellInfo-UEB-ext");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_ext(ctx, &pvalue->ue_positioning_OTDOA_ReferenceCellInfo_UEB_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUInt8(ctx, &pvalue->dummy1, 1, 16);
+      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy1", -1, 0);
    }
-   /* ue-positioning-OTDOA-NeighbourCellList-UEB-ext */
+   /* dummy2 */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-NeighbourCellList-UEB-ext");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_NeighbourCellList_UEB_ext(ctx, &pvalue->ue_positioning_OTDOA_NeighbourCellList_UEB_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UE_Positioning_OTDOA_MeasuredResultsTDD_ext(rtxContext* ctx, UE_Positioning_OTDOA_MeasuredResultsTDD_ext* pvalue)
+int asn1PD_UMTS_RadioBearerReconfiguration_r3_IEs_dummy(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r3_IEs_dummy* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (RadioBearerReconfiguration_r3_IEs_dummy_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r3_IEs_dummy_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_RadioBearerReconfiguration_r3_IEs_dummy_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_IEs_dummy_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r3_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r3_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-MeasuredResultsTDD-ext");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* neighbourList */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "neighbourList");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NeighbourList_TDD_r7(ctx, &pvalue->neighbourList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UTRAN_FDD_Frequency(rtxContext* ctx, UTRAN_FDD_Frequency* pvalue)
+int asn1PD_UMTS_RadioBearerReconfiguration_r3_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r3_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (RadioBearerReconfiguration_r3_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r3_IEs_modeSpecificPhysChInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_RadioBearerReconfiguration_r3_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r3_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r3_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UTRAN-FDD-Frequency");
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 21);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RadioBearerReconfiguration-r3-IEs");
+   /* integrityProtectionModeInfo */
+   if (present & ((uint32_t)1 << 20)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint32_t)1 << 19)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint32_t)1 << 18)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* new-U-RNTI */
+   if (present & ((uint32_t)1 << 17)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerReconfiguration-r3-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x20u;
+      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* rab-InformationReconfigList */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* rb-InformationReconfigList */
+   stat = asn1PD_UMTS_RB_InformationReconfigList(ctx, &pvalue->rb_InformationReconfigList);
+   RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "RadioBearerReconfiguration-r3-IEs");
+   /* rb-InformationAffectedList */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_RB_InformationAffectedList(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_IEs_dummy(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x8000u;
+      stat = asn1PD_UMTS_DL_DeletedTransChInfoList(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfo2List(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x40000u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* ul-ChannelRequirement */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_UL_ChannelRequirement(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* modeSpecificPhysChInfo */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "RadioBearerReconfiguration-r3-IEs");
+   /* dl-CommonInformation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x100000u;
+      stat = asn1PD_UMTS_DL_CommonInformation(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   stat = asn1PD_UMTS_DL_InformationPerRL_List(ctx, &pvalue->dl_InformationPerRL_List);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerReconfiguration-r3-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_v3a0ext(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_v3a0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v3a0ext");
+   /* new-DSCH-RNTI */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerReconfiguration-v3a0ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* uarfcn */
-   rtxCtxtPushElemName(ctx, "uarfcn");
-   rtxCtxtPushTypeName(ctx, "UARFCN");
-   stat = pd_ConsUInt16(ctx, &pvalue->uarfcn, 0, 16383);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* priority */
-   rtxCtxtPushElemName(ctx, "priority");
-   stat = pd_ConsUInt8(ctx, &pvalue->priority, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* threshXhigh */
-   rtxCtxtPushElemName(ctx, "threshXhigh");
-   stat = pd_ConsUInt8(ctx, &pvalue->threshXhigh, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* threshXlow */
-   rtxCtxtPushElemName(ctx, "threshXlow");
-   stat = pd_ConsUInt8(ctx, &pvalue->threshXlow, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* qQualMinFDD */
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v4b0ext-IEs");
+   /* dummy */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "qQualMinFDD");
       pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->qQualMinFDD, -24, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUnsigned(ctx, &pvalue->dummy, 0, 1);
+      RT_CHECK(ctx, stat, "SSDT-UL", "dummy", -1, "RadioBearerReconfiguration-v4b0ext-IEs");
    }
-   /* qRxLevMinFDD */
+   /* cell-id-PerRL-List */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "qRxLevMinFDD");
       pvalue->m |= 0x2u;
-      stat = pd_ConsInt8(ctx, &pvalue->qRxLevMinFDD, -60, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_CellIdentity_PerRL_List(ctx, &pvalue->cell_id_PerRL_List);
+      RT_CHECK(ctx, stat, 0, "cell-id-PerRL-List", -1, "RadioBearerReconfiguration-v4b0ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UTRAN_FDD_FrequencyList(rtxContext* ctx, UTRAN_FDD_FrequencyList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "UTRAN-FDD-FrequencyList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UTRAN_FDD_Frequency* elem;
-      rtxCtxtPushArrayElemName(ctx, "UTRAN-FDD-Frequency", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UTRAN_FDD_Frequency));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (UTRAN_FDD_Frequency*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UTRAN_FDD_Frequency(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UTRAN_FDD_Frequency(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_TDD_Frequency(rtxContext* ctx, UTRAN_TDD_Frequency* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UTRAN-TDD-Frequency");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* uarfcn */
-   rtxCtxtPushElemName(ctx, "uarfcn");
-   rtxCtxtPushTypeName(ctx, "UARFCN");
-   stat = pd_ConsUInt16(ctx, &pvalue->uarfcn, 0, 16383);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* priority */
-   rtxCtxtPushElemName(ctx, "priority");
-   stat = pd_ConsUInt8(ctx, &pvalue->priority, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* threshXhigh */
-   rtxCtxtPushElemName(ctx, "threshXhigh");
-   stat = pd_ConsUInt8(ctx, &pvalue->threshXhigh, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* threshXlow */
-   rtxCtxtPushElemName(ctx, "threshXlow");
-   stat = pd_ConsUInt8(ctx, &pvalue->threshXlow, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* qRxLevMinTDD */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "qRxLevMinTDD");
-      pvalue->m |= 0x1u;
-      stat = pd_ConsInt8(ctx, &pvalue->qRxLevMinTDD, -60, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UTRAN_TDD_FrequencyList(rtxContext* ctx, UTRAN_TDD_FrequencyList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "UTRAN-TDD-FrequencyList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      UTRAN_TDD_Frequency* elem;
-      rtxCtxtPushArrayElemName(ctx, "UTRAN-TDD-Frequency", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(UTRAN_TDD_Frequency));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (UTRAN_TDD_Frequency*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_UTRAN_TDD_Frequency(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_UTRAN_TDD_Frequency(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UTRA_PriorityInfoList_utra_ServingCell(rtxContext* ctx, UTRA_PriorityInfoList_utra_ServingCell* pvalue)
+int asn1PD_UMTS_RadioBearerReconfiguration_v590ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_v590ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* priority */
-   rtxCtxtPushElemName(ctx, "priority");
-   stat = pd_ConsUInt8(ctx, &pvalue->priority, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* s-PrioritySearch1 */
-   rtxCtxtPushElemName(ctx, "s-PrioritySearch1");
-   stat = pd_ConsUInt8(ctx, &pvalue->s_PrioritySearch1, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* s-PrioritySearch2 */
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v590ext-IEs");
+   /* dl-TPC-PowerOffsetPerRL-List */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "s-PrioritySearch2");
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->s_PrioritySearch2, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_DL_TPC_PowerOffsetPerRL_List(ctx, &pvalue->dl_TPC_PowerOffsetPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-TPC-PowerOffsetPerRL-List", -1, "RadioBearerReconfiguration-v590ext-IEs");
    }
-   /* threshServingLow */
-   rtxCtxtPushElemName(ctx, "threshServingLow");
-   stat = pd_ConsUInt8(ctx, &pvalue->threshServingLow, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UTRA_PriorityInfoList(rtxContext* ctx, UTRA_PriorityInfoList* pvalue)
+int asn1PD_UMTS_RadioBearerReconfiguration_v5d0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_v5d0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UTRA-PriorityInfoList");
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v5d0ext-IEs");
+   /* pdcp-ROHC-TargetMode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
+      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "RadioBearerReconfiguration-v5d0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_v690ext_IEs_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_v690ext_IEs_postVerificationPeriod* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_v690ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v690ext-IEs");
+   /* delayRestrictionFlag */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "RadioBearerReconfiguration-v690ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "RadioBearerReconfiguration-v690ext-IEs");
+         pvalue->delayRestrictionFlag = ui;
+      }
+   }
+   /* primary-plmn-Identity */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
+      RT_CHECK(ctx, stat, 0, "primary-plmn-Identity", -1, "RadioBearerReconfiguration-v690ext-IEs");
+   }
+   /* harq-Preamble-Mode */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->harq_Preamble_Mode, 0, 1);
+      RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "RadioBearerReconfiguration-v690ext-IEs");
+   }
+   /* beaconPLEst */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "RadioBearerReconfiguration-v690ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "RadioBearerReconfiguration-v690ext-IEs");
+         pvalue->beaconPLEst = ui;
+      }
+   }
+   /* postVerificationPeriod */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x10u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "RadioBearerReconfiguration-v690ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "RadioBearerReconfiguration-v690ext-IEs");
+         pvalue->postVerificationPeriod = ui;
+      }
+   }
+   /* dhs-sync */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x20u;
+      stat = pd_ConsInt8(ctx, &pvalue->dhs_sync, -20, 10);
+      RT_CHECK(ctx, stat, "DHS-Sync", "dhs-sync", -1, "RadioBearerReconfiguration-v690ext-IEs");
+   }
+   /* timingMaintainedSynchInd */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x40u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "TimingMaintainedSynchInd", "timingMaintainedSynchInd", -1, "RadioBearerReconfiguration-v690ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "TimingMaintainedSynchInd", "timingMaintainedSynchInd", -1, "RadioBearerReconfiguration-v690ext-IEs");
+         pvalue->timingMaintainedSynchInd = ui;
+      }
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x80u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerReconfiguration-v690ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerReconfiguration-v690ext-IEs");
+         pvalue->mbms_PL_ServiceRestrictInfo = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_v770ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v770ext-IEs");
+   /* ueMobilityStateIndicator */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerReconfiguration-v770ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerReconfiguration-v770ext-IEs");
+         pvalue->ueMobilityStateIndicator = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v770ext */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_v770ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v770ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v690ext */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_v690ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v690ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v5d0ext */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_v5d0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v5d0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v5d0ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v590ext */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_v590ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v590ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v590ext", -1, 0);
+   /* v5d0NonCriticalExtenstions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
+      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v4b0ext */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_v4b0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v4b0ext", -1, 0);
+   /* v590NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* utra-ServingCell */
-   rtxCtxtPushElemName(ctx, "utra-ServingCell");
-   stat = asn1PD_UMTS_UTRA_PriorityInfoList_utra_ServingCell(ctx, &pvalue->utra_ServingCell);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* utran-FDD-FrequencyList */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-r3-add-ext */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "utran-FDD-FrequencyList");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UTRAN_FDD_FrequencyList(ctx, &pvalue->utran_FDD_FrequencyList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_DynBitString(ctx, &pvalue->radioBearerReconfiguration_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r3-add-ext", -1, 0);
    }
-   /* utran-TDD-FrequencyList */
+   /* v4b0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "utran-TDD-FrequencyList");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UTRAN_TDD_FrequencyList(ctx, &pvalue->utran_TDD_FrequencyList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_UTRA_PriorityInfoList_v920ext(rtxContext* ctx, UTRA_PriorityInfoList_v920ext* pvalue)
+int asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UTRA-PriorityInfoList-v920ext");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* threshServingLow2 */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v3a0ext */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_v3a0ext(ctx, &pvalue->radioBearerReconfiguration_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v3a0ext", -1, 0);
+   /* laterNonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "threshServingLow2");
       pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->threshServingLow2, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_BCCH_ModificationTime(rtxContext* ctx, BCCH_ModificationTime* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "BCCH-ModificationTime");
-   stat = pd_ConsUInt16(ctx, pvalue, 0, 511);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_BCCH_ModificationInfo(rtxContext* ctx, BCCH_ModificationInfo* pvalue)
+int asn1PD_UMTS_RadioBearerReconfiguration_r3(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r3* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "BCCH-ModificationInfo");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* mib-ValueTag */
-   rtxCtxtPushElemName(ctx, "mib-ValueTag");
-   rtxCtxtPushTypeName(ctx, "MIB-ValueTag");
-   stat = pd_ConsUInt8(ctx, &pvalue->mib_ValueTag, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* bcch-ModificationTime */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-r3 */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_IEs(ctx, &pvalue->radioBearerReconfiguration_r3);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r3", -1, 0);
+   /* v3aoNonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "bcch-ModificationTime");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "BCCH-ModificationTime");
-      stat = pd_ConsUInt16(ctx, &pvalue->bcch_ModificationTime, 0, 511);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions(ctx, &pvalue->v3aoNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3aoNonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_CDMA2000_Message_payload(rtxContext* ctx, CDMA2000_Message_payload* pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 1, 512);
-   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_CDMA2000_Message(rtxContext* ctx, CDMA2000_Message* pvalue)
+int asn1PD_UMTS_RadioBearerReconfiguration_r4_IEs_dummy_fdd(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r4_IEs_dummy_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CDMA2000-Message");
-   /* msg-Type */
-   rtxCtxtPushElemName(ctx, "msg-Type");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pd_BitString32(ctx, &pvalue->msg_Type, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* payload */
-   rtxCtxtPushElemName(ctx, "payload");
-   stat = asn1PD_UMTS_CDMA2000_Message_payload(ctx, &pvalue->payload);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy1 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->dummy1, 1, 16);
+      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy1", -1, 0);
+   }
+   /* dummy2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
    return 0;
 }
 
-int asn1PD_UMTS_CDMA2000_MessageList(rtxContext* ctx, CDMA2000_MessageList* pvalue)
+int asn1PD_UMTS_RadioBearerReconfiguration_r4_IEs_dummy(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r4_IEs_dummy* RT_RESTRICT pvalue)
 {
    int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "CDMA2000-MessageList");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      CDMA2000_Message* elem;
-      rtxCtxtPushArrayElemName(ctx, "CDMA2000-Message", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CDMA2000_Message));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (CDMA2000_Message*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_CDMA2000_Message(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_CDMA2000_Message(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (RadioBearerReconfiguration_r4_IEs_dummy_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r4_IEs_dummy_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_RadioBearerReconfiguration_r4_IEs_dummy_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_RadioBearerReconfiguration_r4_IEs_dummy_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_FrequencyInfoCDMA2000(rtxContext* ctx, FrequencyInfoCDMA2000* pvalue)
+int asn1PD_UMTS_RadioBearerReconfiguration_r4_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r4_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "FrequencyInfoCDMA2000");
-   /* band-Class */
-   rtxCtxtPushElemName(ctx, "band-Class");
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pd_BitString32(ctx, &pvalue->band_Class, 5, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cdma-Freq */
-   rtxCtxtPushElemName(ctx, "cdma-Freq");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pd_BitString32(ctx, &pvalue->cdma_Freq, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CDMA2000_UMTS_Frequency_List(rtxContext* ctx, CDMA2000_UMTS_Frequency_List* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "CDMA2000-UMTS-Frequency-List");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      FrequencyInfoCDMA2000* elem;
-      rtxCtxtPushArrayElemName(ctx, "FrequencyInfoCDMA2000", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(FrequencyInfoCDMA2000));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (FrequencyInfoCDMA2000*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_FrequencyInfoCDMA2000(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_DataTransmFrequency_dataTransmFreqGranularity(rtxContext* ctx, DataTransmFrequency_dataTransmFreqGranularity* pvalue)
+int asn1PD_UMTS_RadioBearerReconfiguration_r4_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r4_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
 {
    int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (RadioBearerReconfiguration_r4_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r4_IEs_modeSpecificPhysChInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_RadioBearerReconfiguration_r4_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_RadioBearerReconfiguration_r4_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
    return 0;
 }
 
-int asn1PD_UMTS_DataTransmFrequency(rtxContext* ctx, DataTransmFrequency* pvalue)
+int asn1PD_UMTS_RadioBearerReconfiguration_r4_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r4_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DataTransmFrequency");
-   /* dataTransmFreqGranularity */
-   rtxCtxtPushElemName(ctx, "dataTransmFreqGranularity");
-   stat = pd_ConsUnsigned(ctx, &pvalue->dataTransmFreqGranularity, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* numberOfDataTransmOcc */
-   rtxCtxtPushElemName(ctx, "numberOfDataTransmOcc");
-   stat = pd_ConsUInt16(ctx, &pvalue->numberOfDataTransmOcc, 1, 610);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 24);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-r4-IEs");
+   /* integrityProtectionModeInfo */
+   if (present & ((uint32_t)1 << 23)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint32_t)1 << 22)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint32_t)1 << 21)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* new-U-RNTI */
+   if (present & ((uint32_t)1 << 20)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint32_t)1 << 19)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint32_t)1 << 18)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerReconfiguration-r4-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint32_t)1 << 17)) {
+      pvalue->m |= 0x40u;
+      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* rab-InformationReconfigList */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* rb-InformationReconfigList */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_RB_InformationReconfigList_r4(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_RB_InformationAffectedList(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x8000u;
+      stat = asn1PD_UMTS_RadioBearerReconfiguration_r4_IEs_dummy(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_DL_DeletedTransChInfoList(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r4(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x100000u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* ul-ChannelRequirement */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x200000u;
+      stat = asn1PD_UMTS_UL_ChannelRequirement_r4(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* modeSpecificPhysChInfo */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_r4_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "RadioBearerReconfiguration-r4-IEs");
+   /* dl-CommonInformation */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x400000u;
+      stat = asn1PD_UMTS_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x800000u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r4(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v770ext */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_v770ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v770ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v690ext */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_v690ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v690ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v5d0ext */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_v5d0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v5d0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v5d0ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v590ext */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_v590ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v590ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v590ext", -1, 0);
+   /* v5d0NonCriticalExtenstions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
+      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-r4-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->radioBearerReconfiguration_r4_add_ext);
+      RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r4-add-ext", -1, 0);
+   }
+   /* v590NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-r4 */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_r4_IEs(ctx, &pvalue->radioBearerReconfiguration_r4);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r4", -1, 0);
+   /* v4d0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_complete_dummy_fdd(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r5_IEs_specificationMode_complete_dummy_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy1 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->dummy1, 1, 16);
+      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy1", -1, 0);
+   }
+   /* dummy2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_complete_dummy(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r5_IEs_specificationMode_complete_dummy* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (RadioBearerReconfiguration_r5_IEs_specificationMode_complete_dummy_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r5_IEs_specificationMode_complete_dummy_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_complete_dummy_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_complete_dummy_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r5_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 11);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rab-InformationReconfigList */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, 0);
+   }
+   /* rb-InformationReconfigList */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RB_InformationReconfigList_r5(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, 0);
+   }
+   /* rb-InformationAffectedList */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_RB_InformationAffectedList_r5(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, 0);
+   }
+   /* rb-PDCPContextRelocationList */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_RB_PDCPContextRelocationList(ctx, &pvalue->rb_PDCPContextRelocationList);
+      RT_CHECK(ctx, stat, 0, "rb-PDCPContextRelocationList", -1, 0);
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
+   }
+   /* ul-deletedTransChInfoList */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, 0);
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_complete_dummy(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
+   }
+   /* dl-DeletedTransChInfoList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r5(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, 0);
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* defaultConfigMode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   /* defaultConfigIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 13);
+   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r5", "defaultConfigIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* predefinedConfigIdentity */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
+         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         break;
+      case 1: /* defaultConfig */
+         pvalue->u.defaultConfig = (RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAllocZ(ctx, sizeof(RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
+         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "defaultConfig", -1, 0);
+         stat = asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
+         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* preConfigMode */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
+   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r5_IEs_specificationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* complete */
+         pvalue->u.complete = (RadioBearerReconfiguration_r5_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r5_IEs_specificationMode_complete));
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "complete", -1, 0);
+         asn1Init_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_complete(pvalue->u.complete);
+         stat = asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+         break;
+      case 1: /* preconfiguration */
+         pvalue->u.preconfiguration = (RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration));
+         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "preconfiguration", -1, 0);
+         asn1Init_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
+         stat = asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
+         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r5_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r5_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (RadioBearerReconfiguration_r5_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r5_IEs_modeSpecificPhysChInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_RadioBearerReconfiguration_r5_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r5_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 16);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-r5-IEs");
+   /* integrityProtectionModeInfo */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerReconfiguration-r5-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerReconfiguration-r5-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerReconfiguration-r5-IEs");
+   }
+   /* new-U-RNTI */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerReconfiguration-r5-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerReconfiguration-r5-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerReconfiguration-r5-IEs");
+   }
+   /* new-H-RNTI */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerReconfiguration-r5-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerReconfiguration-r5-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x80u;
+      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerReconfiguration-r5-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerReconfiguration-r5-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerReconfiguration-r5-IEs");
+   }
+   /* specificationMode */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "RadioBearerReconfiguration-r5-IEs");
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerReconfiguration-r5-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x800u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerReconfiguration-r5-IEs");
+   }
+   /* ul-ChannelRequirement */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_UL_ChannelRequirement_r5(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "RadioBearerReconfiguration-r5-IEs");
+   }
+   /* modeSpecificPhysChInfo */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "RadioBearerReconfiguration-r5-IEs");
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerReconfiguration-r5-IEs");
+   }
+   /* dl-CommonInformation */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_DL_CommonInformation_r5(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerReconfiguration-r5-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8000u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r5(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerReconfiguration-r5-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v770ext */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_v770ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v770ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v690ext */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_v690ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v690ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v5d0ext */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_v5d0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v5d0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v5d0ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-r5 */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs(ctx, &pvalue->radioBearerReconfiguration_r5);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r5", -1, 0);
+   /* radioBearerReconfiguration-r5-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->radioBearerReconfiguration_r5_add_ext);
+      RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r5-add-ext", -1, 0);
+   }
+   /* v5d0NonCriticalExtenstions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
+      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r6_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 11);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rab-InformationReconfigList */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, 0);
+   }
+   /* rb-InformationReconfigList */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RB_InformationReconfigList_r6(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, 0);
+   }
+   /* rb-InformationAffectedList */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_RB_InformationAffectedList_r6(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, 0);
+   }
+   /* rb-PDCPContextRelocationList */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_RB_PDCPContextRelocationList(ctx, &pvalue->rb_PDCPContextRelocationList);
+      RT_CHECK(ctx, stat, 0, "rb-PDCPContextRelocationList", -1, 0);
+   }
+   /* pdcp-ROHC-TargetMode */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x10u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
+      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, 0);
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
+   }
+   /* ul-deletedTransChInfoList */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, 0);
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r6(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
+   }
+   /* dl-DeletedTransChInfoList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r5(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, 0);
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* defaultConfigMode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   /* defaultConfigIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 31);
+   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* predefinedConfigIdentity */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
+         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         break;
+      case 1: /* defaultConfig */
+         pvalue->u.defaultConfig = (RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAllocZ(ctx, sizeof(RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
+         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "defaultConfig", -1, 0);
+         stat = asn1PD_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
+         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* preConfigMode */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
+   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r6_IEs_specificationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* complete */
+         pvalue->u.complete = (RadioBearerReconfiguration_r6_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r6_IEs_specificationMode_complete));
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "complete", -1, 0);
+         asn1Init_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode_complete(pvalue->u.complete);
+         stat = asn1PD_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+         break;
+      case 1: /* preconfiguration */
+         pvalue->u.preconfiguration = (RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration));
+         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "preconfiguration", -1, 0);
+         asn1Init_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
+         stat = asn1PD_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
+         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r6_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r6_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 21);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-r6-IEs");
+   /* integrityProtectionModeInfo */
+   if (present & ((uint32_t)1 << 20)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint32_t)1 << 19)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint32_t)1 << 18)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* delayRestrictionFlag */
+   if (present & ((uint32_t)1 << 17)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "RadioBearerReconfiguration-r6-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "RadioBearerReconfiguration-r6-IEs");
+         pvalue->delayRestrictionFlag = ui;
+      }
+   }
+   /* new-U-RNTI */
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* new-H-RNTI */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerReconfiguration-r6-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x400u;
+      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* specificationMode */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "RadioBearerReconfiguration-r6-IEs");
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x4000u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x8000u;
+      stat = asn1PD_UMTS_UL_DPCH_Info_r6(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_UL_EDCH_Information_r6(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r6(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* dl-CommonInformation */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_DL_CommonInformation_r6(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r6(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x100000u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerReconfiguration-r6-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerReconfiguration-r6-IEs");
+         pvalue->mbms_PL_ServiceRestrictInfo = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_v6b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v6b0ext-IEs");
+   /* dl-InformationPerRL-List-v6b0ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_v6b0ext(ctx, &pvalue->dl_InformationPerRL_List_v6b0ext);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List-v6b0ext", -1, "RadioBearerReconfiguration-v6b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_v6f0ext_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_v6f0ext_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rab-InformationMBMSPtpList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RAB_InformationMBMSPtpList(ctx, &pvalue->rab_InformationMBMSPtpList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationMBMSPtpList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_v6f0ext_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_v6f0ext_IEs_specificationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* complete */
+         pvalue->u.complete = (RadioBearerReconfiguration_v6f0ext_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_v6f0ext_IEs_specificationMode_complete));
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "complete", -1, 0);
+         asn1Init_UMTS_RadioBearerReconfiguration_v6f0ext_IEs_specificationMode_complete(pvalue->u.complete);
+         stat = asn1PD_UMTS_RadioBearerReconfiguration_v6f0ext_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_v6f0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_v6f0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* specificationMode */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_v6f0ext_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "RadioBearerReconfiguration-v6f0ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v770ext */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_v770ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v770ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRconfiguration-v6f0ext */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_v6f0ext_IEs(ctx, &pvalue->radioBearerRconfiguration_v6f0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRconfiguration-v6f0ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v6b0ext */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_v6b0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v6b0ext", -1, 0);
+   /* v6f0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions(ctx, &pvalue->v6f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6f0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-r6 */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_r6_IEs(ctx, &pvalue->radioBearerReconfiguration_r6);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r6", -1, 0);
+   /* radioBearerReconfiguration-r6-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->radioBearerReconfiguration_r6_add_ext);
+      RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r6-add-ext", -1, 0);
+   }
+   /* v6b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs_responseToChangeOfUE_Capability(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r7_IEs_responseToChangeOfUE_Capability* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r7_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 12);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rab-InformationReconfigList */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, 0);
+   }
+   /* rab-InformationMBMSPtpList */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RAB_InformationMBMSPtpList(ctx, &pvalue->rab_InformationMBMSPtpList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationMBMSPtpList", -1, 0);
+   }
+   /* rb-InformationReconfigList */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_RB_InformationReconfigList_r7(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, 0);
+   }
+   /* rb-InformationAffectedList */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_RB_InformationAffectedList_r7(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, 0);
+   }
+   /* rb-PDCPContextRelocationList */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_RB_PDCPContextRelocationList(ctx, &pvalue->rb_PDCPContextRelocationList);
+      RT_CHECK(ctx, stat, 0, "rb-PDCPContextRelocationList", -1, 0);
+   }
+   /* pdcp-ROHC-TargetMode */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x20u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
+      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, 0);
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
+   }
+   /* ul-deletedTransChInfoList */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, 0);
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r7(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
+   }
+   /* dl-DeletedTransChInfoList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, 0);
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* defaultConfigMode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   /* defaultConfigIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 31);
+   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* predefinedConfigIdentity */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
+         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         break;
+      case 1: /* defaultConfig */
+         pvalue->u.defaultConfig = (RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAllocZ(ctx, sizeof(RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
+         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "defaultConfig", -1, 0);
+         stat = asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
+         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* preConfigMode */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
+   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r7_IEs_specificationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* complete */
+         pvalue->u.complete = (RadioBearerReconfiguration_r7_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r7_IEs_specificationMode_complete));
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "complete", -1, 0);
+         asn1Init_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode_complete(pvalue->u.complete);
+         stat = asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+         break;
+      case 1: /* preconfiguration */
+         pvalue->u.preconfiguration = (RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration));
+         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "preconfiguration", -1, 0);
+         asn1Init_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
+         stat = asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
+         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r7_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 29);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-r7-IEs");
+   /* integrityProtectionModeInfo */
+   if (present & ((uint32_t)1 << 28)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint32_t)1 << 27)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint32_t)1 << 26)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* delayRestrictionFlag */
+   if (present & ((uint32_t)1 << 25)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "RadioBearerReconfiguration-r7-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "RadioBearerReconfiguration-r7-IEs");
+         pvalue->delayRestrictionFlag = ui;
+      }
+   }
+   /* new-U-RNTI */
+   if (present & ((uint32_t)1 << 24)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint32_t)1 << 23)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint32_t)1 << 22)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* new-H-RNTI */
+   if (present & ((uint32_t)1 << 21)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (present & ((uint32_t)1 << 20)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint32_t)1 << 19)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerReconfiguration-r7-IEs");
+   /* ueMobilityStateIndicator */
+   if (present & ((uint32_t)1 << 18)) {
+      pvalue->m |= 0x400u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerReconfiguration-r7-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerReconfiguration-r7-IEs");
+         pvalue->ueMobilityStateIndicator = ui;
+      }
+   }
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint32_t)1 << 17)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x4000u;
+      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* responseToChangeOfUE-Capability */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x8000u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "RadioBearerReconfiguration-r7-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "RadioBearerReconfiguration-r7-IEs");
+         pvalue->responseToChangeOfUE_Capability = ui;
+      }
+   }
+   /* specificationMode */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "RadioBearerReconfiguration-r7-IEs");
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* dtx-drx-Info */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x100000u;
+      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* mimoParameters */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x200000u;
+      stat = asn1PD_UMTS_MIMO_Parameters_r7(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x400000u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x800000u;
+      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1000000u;
+      stat = asn1PD_UMTS_UL_EDCH_Information_r7(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2000000u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* dl-CommonInformation */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4000000u;
+      stat = asn1PD_UMTS_DL_CommonInformation_r7(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8000000u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10000000u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerReconfiguration-r7-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerReconfiguration-r7-IEs");
+         pvalue->mbms_PL_ServiceRestrictInfo = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_v780ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_v780ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v780ext-IEs");
+   /* hs-DSCH-TBSizeTable */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "RadioBearerReconfiguration-v780ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "RadioBearerReconfiguration-v780ext-IEs");
+         pvalue->hs_DSCH_TBSizeTable = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_v790ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_v790ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v790ext-IEs");
+   /* radioBearerReconfiguration-r7-add-ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->radioBearerReconfiguration_r7_add_ext);
+      RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r7-add-ext", -1, "RadioBearerReconfiguration-v790ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_v7d0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_v7d0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v7d0ext-IEs");
+   /* ul-EDCH-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UL_EDCH_Information_ext(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerReconfiguration-v7d0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_v7f0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_v7f0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v7f0ext-IEs");
+   /* mimoParameters */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MIMO_Parameters_v7f0ext(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerReconfiguration-v7f0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_v7g0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v7g0ext-IEs");
+   /* mimoParameters */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MIMO_Parameters_v7g0ext(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerReconfiguration-v7g0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v7g0ext */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_v7g0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v7g0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v7g0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v7f0ext */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_v7f0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v7f0ext", -1, 0);
+   /* v7g0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
+   }
    return 0;
 }
 

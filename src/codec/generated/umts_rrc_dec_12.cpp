@@ -6,9009 +6,9010 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PD_UMTS_DataVolumePerRB(rtxContext* ctx, DataVolumePerRB* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DataVolumePerRB");
-   /* rb-Identity */
-   rtxCtxtPushElemName(ctx, "rb-Identity");
-   rtxCtxtPushTypeName(ctx, "RB-Identity");
-   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dataVolume */
-   rtxCtxtPushElemName(ctx, "dataVolume");
-   stat = pd_ConsUInt32(ctx, &pvalue->dataVolume, 0, 4294967295LL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DataVolumePerRB_List(rtxContext* ctx, DataVolumePerRB_List* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "DataVolumePerRB-List");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      DataVolumePerRB* elem;
-      rtxCtxtPushArrayElemName(ctx, "DataVolumePerRB", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(DataVolumePerRB));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (DataVolumePerRB*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_DataVolumePerRB(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DataVolumeHistory(rtxContext* ctx, DataVolumeHistory* pvalue)
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "DataVolumeHistory");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* dataVolumeMontoringWindow */
-   rtxCtxtPushElemName(ctx, "dataVolumeMontoringWindow");
-   stat = pd_ConsUInt8(ctx, &pvalue->dataVolumeMontoringWindow, 1, 120);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dataTransmFrequency */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dataTransmFrequency");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DataTransmFrequency(ctx, &pvalue->dataTransmFrequency);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dataVolumePerRB */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v7d0ext */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_v7d0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v7d0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v7d0ext", -1, 0);
+   /* v7f0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dataVolumePerRB");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DataVolumePerRB_List(ctx, &pvalue->dataVolumePerRB);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_ETWS_Information_warningType(rtxContext* ctx, ETWS_Information_warningType* pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 1, 2);
-   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_ETWS_Information_messageIdentifier(rtxContext* ctx, ETWS_Information_messageIdentifier* pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 2, 2);
-   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_ETWS_Information_serialNumber(rtxContext* ctx, ETWS_Information_serialNumber* pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 2, 2);
-   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_ETWS_Information(rtxContext* ctx, ETWS_Information* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ETWS-Information");
-   /* warningType */
-   rtxCtxtPushElemName(ctx, "warningType");
-   stat = asn1PD_UMTS_ETWS_Information_warningType(ctx, &pvalue->warningType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* messageIdentifier */
-   rtxCtxtPushElemName(ctx, "messageIdentifier");
-   stat = asn1PD_UMTS_ETWS_Information_messageIdentifier(ctx, &pvalue->messageIdentifier);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* serialNumber */
-   rtxCtxtPushElemName(ctx, "serialNumber");
-   stat = asn1PD_UMTS_ETWS_Information_serialNumber(ctx, &pvalue->serialNumber);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ETWS_WarningSecurityInfo(rtxContext* ctx, ETWS_WarningSecurityInfo* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "ETWS-WarningSecurityInfo");
-   stat = pd_DynOctetString(ctx, pvalue);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_FDD_UMTS_Frequency_List(rtxContext* ctx, FDD_UMTS_Frequency_List* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "FDD-UMTS-Frequency-List");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      FrequencyInfoFDD* elem;
-      rtxCtxtPushArrayElemName(ctx, "FrequencyInfoFDD", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(FrequencyInfoFDD));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (FrequencyInfoFDD*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_FrequencyInfoFDD(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_FrequencyInfoFDD(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GERAN_SystemInfoBlock(rtxContext* ctx, GERAN_SystemInfoBlock* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "GERAN-SystemInfoBlock");
-   RT_SET_SIZE(ctx, 1, 23);
-   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GERAN_SystemInformation(rtxContext* ctx, GERAN_SystemInformation* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "GERAN-SystemInformation");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 7) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "GERAN-SystemInfoBlock", i);
-      asn1Init_UMTS_GERAN_SystemInfoBlock(&pvalue->elem[i]);
-      stat = asn1PD_UMTS_GERAN_SystemInfoBlock(ctx, &pvalue->elem[i]);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GSM_BA_Range(rtxContext* ctx, GSM_BA_Range* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "GSM-BA-Range");
-   /* gsmLowRangeUARFCN */
-   rtxCtxtPushElemName(ctx, "gsmLowRangeUARFCN");
-   rtxCtxtPushTypeName(ctx, "UARFCN");
-   stat = pd_ConsUInt16(ctx, &pvalue->gsmLowRangeUARFCN, 0, 16383);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* gsmUpRangeUARFCN */
-   rtxCtxtPushElemName(ctx, "gsmUpRangeUARFCN");
-   rtxCtxtPushTypeName(ctx, "UARFCN");
-   stat = pd_ConsUInt16(ctx, &pvalue->gsmUpRangeUARFCN, 0, 16383);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GSM_BA_Range_List(rtxContext* ctx, GSM_BA_Range_List* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "GSM-BA-Range-List");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      GSM_BA_Range* elem;
-      rtxCtxtPushArrayElemName(ctx, "GSM-BA-Range", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GSM_BA_Range));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (GSM_BA_Range*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_GSM_BA_Range(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GSM_Classmark2(rtxContext* ctx, GSM_Classmark2* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "GSM-Classmark2");
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GSM_Classmark3(rtxContext* ctx, GSM_Classmark3* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "GSM-Classmark3");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GSM_MessageList_element(rtxContext* ctx, GSM_MessageList_element* pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 1, 512);
-   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_GSM_MessageList(rtxContext* ctx, GSM_MessageList* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "GSM-MessageList");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 2);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 3) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      asn1Init_UMTS_GSM_MessageList_element(&pvalue->elem[i]);
-      stat = asn1PD_UMTS_GSM_MessageList_element(ctx, &pvalue->elem[i]);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GsmSecurityCapability(rtxContext* ctx, GsmSecurityCapability* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "GsmSecurityCapability");
-   RT_SET_SIZE(ctx, 7, 7);
-   stat = pd_BitString32(ctx, pvalue, 7, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HNBName(rtxContext* ctx, HNBName* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "HNBName");
-   RT_SET_SIZE(ctx, 1, 48);
-   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRAT_ChangeFailureCause(rtxContext* ctx, InterRAT_ChangeFailureCause* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "InterRAT-ChangeFailureCause");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 7);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "configurationUnacceptable");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "physicalChannelFailure");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "protocolError");
-         pvalue->u.protocolError = (ProtocolErrorInformation*)rtxMemHeapAlloc(ctx, sizeof(ProtocolErrorInformation));
-         if (pvalue->u.protocolError == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_ProtocolErrorInformation(pvalue->u.protocolError);
-         stat = asn1PD_UMTS_ProtocolErrorInformation(ctx, pvalue->u.protocolError);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "unspecified");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "spare4");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "spare3");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "spare2");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "spare1");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GERANIu_MessageList_element(rtxContext* ctx, GERANIu_MessageList_element* pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 1, 32768);
-   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_GERANIu_MessageList(rtxContext* ctx, GERANIu_MessageList* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "GERANIu-MessageList");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 2);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 3) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      asn1Init_UMTS_GERANIu_MessageList_element(&pvalue->elem[i]);
-      stat = asn1PD_UMTS_GERANIu_MessageList_element(ctx, &pvalue->elem[i]);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_GERANIu_RadioAccessCapability(rtxContext* ctx, GERANIu_RadioAccessCapability* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "GERANIu-RadioAccessCapability");
-   RT_SET_SIZE(ctx, 1, 170);
-   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_gsm(rtxContext* ctx, InterRAT_UE_RadioAccessCapability_gsm* pvalue)
-{
-   int stat = 0;
-   /* gsm-Classmark2 */
-   rtxCtxtPushElemName(ctx, "gsm-Classmark2");
-   stat = asn1PD_UMTS_GSM_Classmark2(ctx, &pvalue->gsm_Classmark2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gsm-Classmark3 */
-   rtxCtxtPushElemName(ctx, "gsm-Classmark3");
-   stat = asn1PD_UMTS_GSM_Classmark3(ctx, &pvalue->gsm_Classmark3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_cdma2000(rtxContext* ctx, InterRAT_UE_RadioAccessCapability_cdma2000* pvalue)
-{
-   int stat = 0;
-   /* cdma2000-MessageList */
-   rtxCtxtPushElemName(ctx, "cdma2000-MessageList");
-   stat = asn1PD_UMTS_CDMA2000_MessageList(ctx, &pvalue->cdma2000_MessageList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRAT_UE_RadioAccessCapability(rtxContext* ctx, InterRAT_UE_RadioAccessCapability* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "InterRAT-UE-RadioAccessCapability");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "gsm");
-         pvalue->u.gsm = (InterRAT_UE_RadioAccessCapability_gsm*)rtxMemHeapAlloc(ctx, sizeof(InterRAT_UE_RadioAccessCapability_gsm));
-         if (pvalue->u.gsm == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterRAT_UE_RadioAccessCapability_gsm(pvalue->u.gsm);
-         stat = asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "cdma2000");
-         pvalue->u.cdma2000 = (InterRAT_UE_RadioAccessCapability_cdma2000*)rtxMemHeapAlloc(ctx, sizeof(InterRAT_UE_RadioAccessCapability_cdma2000));
-         if (pvalue->u.cdma2000 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterRAT_UE_RadioAccessCapability_cdma2000(pvalue->u.cdma2000);
-         stat = asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_cdma2000(ctx, pvalue->u.cdma2000);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRAT_UE_RadioAccessCapabilityList(rtxContext* ctx, InterRAT_UE_RadioAccessCapabilityList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "InterRAT-UE-RadioAccessCapabilityList");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      InterRAT_UE_RadioAccessCapability* elem;
-      rtxCtxtPushArrayElemName(ctx, "InterRAT-UE-RadioAccessCapability", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(InterRAT_UE_RadioAccessCapability));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (InterRAT_UE_RadioAccessCapability*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_InterRAT_UE_RadioAccessCapability(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_InterRAT_UE_RadioAccessCapability(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_v590ext(rtxContext* ctx, InterRAT_UE_RadioAccessCapability_v590ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "InterRAT-UE-RadioAccessCapability-v590ext");
-   /* geranIu-RadioAccessCapability */
-   rtxCtxtPushElemName(ctx, "geranIu-RadioAccessCapability");
-   stat = asn1PD_UMTS_GERANIu_RadioAccessCapability(ctx, &pvalue->geranIu_RadioAccessCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRAT_UE_SecurityCapability_gsm(rtxContext* ctx, InterRAT_UE_SecurityCapability_gsm* pvalue)
-{
-   int stat = 0;
-   /* gsmSecurityCapability */
-   rtxCtxtPushElemName(ctx, "gsmSecurityCapability");
-   stat = asn1PD_UMTS_GsmSecurityCapability(ctx, &pvalue->gsmSecurityCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRAT_UE_SecurityCapability(rtxContext* ctx, InterRAT_UE_SecurityCapability* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "InterRAT-UE-SecurityCapability");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "gsm");
-         pvalue->u.gsm = (InterRAT_UE_SecurityCapability_gsm*)rtxMemHeapAlloc(ctx, sizeof(InterRAT_UE_SecurityCapability_gsm));
-         if (pvalue->u.gsm == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterRAT_UE_SecurityCapability_gsm(pvalue->u.gsm);
-         stat = asn1PD_UMTS_InterRAT_UE_SecurityCapability_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRAT_UE_SecurityCapList(rtxContext* ctx, InterRAT_UE_SecurityCapList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "InterRAT-UE-SecurityCapList");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      InterRAT_UE_SecurityCapability* elem;
-      rtxCtxtPushArrayElemName(ctx, "InterRAT-UE-SecurityCapability", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(InterRAT_UE_SecurityCapability));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (InterRAT_UE_SecurityCapability*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_InterRAT_UE_SecurityCapability(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_InterRAT_UE_SecurityCapability(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRAT_HO_FailureCause(rtxContext* ctx, InterRAT_HO_FailureCause* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "InterRAT-HO-FailureCause");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 15);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "configurationUnacceptable");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "physicalChannelFailure");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "protocolError");
-         pvalue->u.protocolError = (ProtocolErrorInformation*)rtxMemHeapAlloc(ctx, sizeof(ProtocolErrorInformation));
-         if (pvalue->u.protocolError == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_ProtocolErrorInformation(pvalue->u.protocolError);
-         stat = asn1PD_UMTS_ProtocolErrorInformation(ctx, pvalue->u.protocolError);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "interRAT-ProtocolError");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "unspecified");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "spare11");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "spare10");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "spare9");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 8:
-         rtxCtxtPushElemName(ctx, "spare8");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 9:
-         rtxCtxtPushElemName(ctx, "spare7");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 10:
-         rtxCtxtPushElemName(ctx, "spare6");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 11:
-         rtxCtxtPushElemName(ctx, "spare5");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 12:
-         rtxCtxtPushElemName(ctx, "spare4");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 13:
-         rtxCtxtPushElemName(ctx, "spare3");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 14:
-         rtxCtxtPushElemName(ctx, "spare2");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 15:
-         rtxCtxtPushElemName(ctx, "spare1");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_TDD_UMTS_Frequency_List(rtxContext* ctx, TDD_UMTS_Frequency_List* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "TDD-UMTS-Frequency-List");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      FrequencyInfoTDD* elem;
-      rtxCtxtPushArrayElemName(ctx, "FrequencyInfoTDD", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(FrequencyInfoTDD));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (FrequencyInfoTDD*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Rplmn_Information(rtxContext* ctx, Rplmn_Information* pvalue)
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "Rplmn-Information");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* gsm-BA-Range-List */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "gsm-BA-Range-List");
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v790ext */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_v790ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v790ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v790ext", -1, 0);
+   /* v7d0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_GSM_BA_Range_List(ctx, &pvalue->gsm_BA_Range_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
    }
-   /* fdd-UMTS-Frequency-List */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "fdd-UMTS-Frequency-List");
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v780ext */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_v780ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v780ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v780ext", -1, 0);
+   /* v790NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions(ctx, &pvalue->v790NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v790NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-r7 */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs(ctx, &pvalue->radioBearerReconfiguration_r7);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r7", -1, 0);
+   /* v780NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v780NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs_responseToChangeOfUE_Capability(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r8_IEs_responseToChangeOfUE_Capability* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r8_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 12);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rab-InformationReconfigList */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RAB_InformationReconfigList_r8(ctx, &pvalue->rab_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, 0);
+   }
+   /* rab-InformationMBMSPtpList */
+   if (present & ((uint32_t)1 << 10)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_FDD_UMTS_Frequency_List(ctx, &pvalue->fdd_UMTS_Frequency_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RAB_InformationMBMSPtpList(ctx, &pvalue->rab_InformationMBMSPtpList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationMBMSPtpList", -1, 0);
    }
-   /* tdd-UMTS-Frequency-List */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "tdd-UMTS-Frequency-List");
+   /* rb-InformationReconfigList */
+   if (present & ((uint32_t)1 << 9)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_TDD_UMTS_Frequency_List(ctx, &pvalue->tdd_UMTS_Frequency_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RB_InformationReconfigList_r8(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, 0);
    }
-   /* cdma2000-UMTS-Frequency-List */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cdma2000-UMTS-Frequency-List");
+   /* rb-InformationAffectedList */
+   if (present & ((uint32_t)1 << 8)) {
       pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_CDMA2000_UMTS_Frequency_List(ctx, &pvalue->cdma2000_UMTS_Frequency_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RB_InformationAffectedList_r8(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_Rplmn_Information_r4(rtxContext* ctx, Rplmn_Information_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "Rplmn-Information-r4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat);
-   /* gsm-BA-Range-List */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "gsm-BA-Range-List");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_GSM_BA_Range_List(ctx, &pvalue->gsm_BA_Range_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* fdd-UMTS-Frequency-List */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "fdd-UMTS-Frequency-List");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_FDD_UMTS_Frequency_List(ctx, &pvalue->fdd_UMTS_Frequency_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tdd384-UMTS-Frequency-List */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "tdd384-UMTS-Frequency-List");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_TDD_UMTS_Frequency_List(ctx, &pvalue->tdd384_UMTS_Frequency_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tdd128-UMTS-Frequency-List */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "tdd128-UMTS-Frequency-List");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_TDD_UMTS_Frequency_List(ctx, &pvalue->tdd128_UMTS_Frequency_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cdma2000-UMTS-Frequency-List */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cdma2000-UMTS-Frequency-List");
+   /* rb-PDCPContextRelocationList */
+   if (present & ((uint32_t)1 << 7)) {
       pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_CDMA2000_UMTS_Frequency_List(ctx, &pvalue->cdma2000_UMTS_Frequency_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RB_PDCPContextRelocationList(ctx, &pvalue->rb_PDCPContextRelocationList);
+      RT_CHECK(ctx, stat, 0, "rb-PDCPContextRelocationList", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType4_v4b0ext_IEs(rtxContext* ctx, SysInfoType4_v4b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType4-v4b0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* mapping-LCR */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mapping-LCR");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_Mapping_LCR_r4(ctx, &pvalue->mapping_LCR);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   /* pdcp-ROHC-TargetMode */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x20u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
+      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType4_v590ext(rtxContext* ctx, SysInfoType4_v590ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType4-v590ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellSelectReselectInfo-v590ext */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cellSelectReselectInfo-v590ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellSelectReselectInfo_v590ext(ctx, &pvalue->cellSelectReselectInfo_v590ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   /* ul-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType4_v5b0ext_IEs(rtxContext* ctx, SysInfoType4_v5b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType4-v5b0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellSelectReselectInfoPCHFACH-v5b0ext */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cellSelectReselectInfoPCHFACH-v5b0ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellSelectReselectInfoPCHFACH_v5b0ext(ctx, &pvalue->cellSelectReselectInfoPCHFACH_v5b0ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   /* ul-deletedTransChInfoList */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType4_v5c0ext_IEs(rtxContext* ctx, SysInfoType4_v5c0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType4-v5c0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellSelectReselectInfoTreselectionScaling-v5c0ext */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cellSelectReselectInfoTreselectionScaling-v5c0ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellSelectReselectInfoTreselectionScaling_v5c0ext(ctx, &pvalue->cellSelectReselectInfoTreselectionScaling_v5c0ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension_nonCriticalExtensions(rtxContext* ctx, SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension(rtxContext* ctx, SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType4-v5c0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType4-v5c0ext");
-   stat = asn1PD_UMTS_SysInfoType4_v5c0ext_IEs(ctx, &pvalue->sysInfoType4_v5c0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   /* dl-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
    }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension(rtxContext* ctx, SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType4-v5b0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType4-v5b0ext");
-   stat = asn1PD_UMTS_SysInfoType4_v5b0ext_IEs(ctx, &pvalue->sysInfoType4_v5b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v5c0NonCriticalExtension */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v5c0NonCriticalExtension");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension(ctx, &pvalue->v5c0NonCriticalExtension);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* ctx, SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType4-v590ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType4-v590ext");
-   stat = asn1PD_UMTS_SysInfoType4_v590ext(ctx, &pvalue->sysInfoType4_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v5b0NonCriticalExtension */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v5b0NonCriticalExtension");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension(ctx, &pvalue->v5b0NonCriticalExtension);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType4_v4b0NonCriticalExtensions(rtxContext* ctx, SysInfoType4_v4b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType4-v4b0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType4-v4b0ext");
-   stat = asn1PD_UMTS_SysInfoType4_v4b0ext_IEs(ctx, &pvalue->sysInfoType4_v4b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v590NonCriticalExtension */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtension");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension(ctx, &pvalue->v590NonCriticalExtension);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType4(rtxContext* ctx, SysInfoType4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellIdentity */
-   rtxCtxtPushElemName(ctx, "cellIdentity");
-   stat = asn1PD_UMTS_CellIdentity(ctx, &pvalue->cellIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellSelectReselectInfo */
-   rtxCtxtPushElemName(ctx, "cellSelectReselectInfo");
-   stat = asn1PD_UMTS_CellSelectReselectInfoSIB_3_4(ctx, &pvalue->cellSelectReselectInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellAccessRestriction */
-   rtxCtxtPushElemName(ctx, "cellAccessRestriction");
-   stat = asn1PD_UMTS_CellAccessRestriction(ctx, &pvalue->cellAccessRestriction);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v4b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v4b0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType4_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType5bis(rtxContext* ctx, SysInfoType5bis* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "SysInfoType5bis");
-   stat = asn1PD_UMTS_SysInfoType5(ctx, pvalue);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType6_modeSpecificInfo_fdd(rtxContext* ctx, SysInfoType6_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* aich-PowerOffset */
-   rtxCtxtPushElemName(ctx, "aich-PowerOffset");
-   rtxCtxtPushTypeName(ctx, "AICH-PowerOffset");
-   stat = pd_ConsInt8(ctx, &pvalue->aich_PowerOffset, -22, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "CSICH-PowerOffset");
-      stat = pd_ConsInt8(ctx, &pvalue->dummy, -10, 5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType6_modeSpecificInfo_tdd(rtxContext* ctx, SysInfoType6_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* pusch-SysInfoList-SFN */
+   /* dl-DeletedTransChInfoList */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "pusch-SysInfoList-SFN");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PUSCH_SysInfoList_SFN(ctx, &pvalue->pusch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, 0);
    }
-   /* pdsch-SysInfoList-SFN */
+   /* dl-AddReconfTransChInfoList */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "pdsch-SysInfoList-SFN");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PDSCH_SysInfoList_SFN(ctx, &pvalue->pdsch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
    }
-   /* openLoopPowerControl-TDD */
-   rtxCtxtPushElemName(ctx, "openLoopPowerControl-TDD");
-   stat = asn1PD_UMTS_OpenLoopPowerControl_TDD(ctx, &pvalue->openLoopPowerControl_TDD);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_SysInfoType6_modeSpecificInfo(rtxContext* ctx, SysInfoType6_modeSpecificInfo* pvalue)
+int asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* defaultConfigMode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   /* defaultConfigIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 31);
+   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (SysInfoType6_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(SysInfoType6_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_SysInfoType6_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_SysInfoType6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 0: /* predefinedConfigIdentity */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
+         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (SysInfoType6_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(SysInfoType6_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_SysInfoType6_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_SysInfoType6_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 1: /* defaultConfig */
+         pvalue->u.defaultConfig = (RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAllocZ(ctx, sizeof(RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
+         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "defaultConfig", -1, 0);
+         stat = asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
+         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_SysInfoType6_v4b0ext_IEs_tdd128SpecificInfo(rtxContext* ctx, SysInfoType6_v4b0ext_IEs_tdd128SpecificInfo* pvalue)
+int asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   uint32_t present;
+   /* preConfigMode */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
+   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r8_IEs_specificationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* complete */
+         pvalue->u.complete = (RadioBearerReconfiguration_r8_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r8_IEs_specificationMode_complete));
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "complete", -1, 0);
+         asn1Init_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode_complete(pvalue->u.complete);
+         stat = asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+         break;
+      case 1: /* preconfiguration */
+         pvalue->u.preconfiguration = (RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration));
+         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "preconfiguration", -1, 0);
+         asn1Init_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
+         stat = asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
+         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r8_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint64_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* pusch-SysInfoList-SFN */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "pusch-SysInfoList-SFN");
+   {
+      uint32_t hi, lo;
+      stat = rtxDecBitsFast(ctx, &hi, 1);
+      RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-r8-IEs");
+      stat = rtxDecBitsFast(ctx, &lo, 32);
+      RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-r8-IEs");
+      present = ((uint64_t)hi << 32) | lo;
+   }
+   /* integrityProtectionModeInfo */
+   if (present & ((uint64_t)1 << 32)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PUSCH_SysInfoList_SFN_LCR_r4(ctx, &pvalue->pusch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerReconfiguration-r8-IEs");
    }
-   /* pdsch-SysInfoList-SFN */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "pdsch-SysInfoList-SFN");
+   /* cipheringModeInfo */
+   if (present & ((uint64_t)1 << 31)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PDSCH_SysInfoList_SFN_LCR_r4(ctx, &pvalue->pdsch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerReconfiguration-r8-IEs");
    }
-   /* pCCPCH-LCR-Extensions */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "pCCPCH-LCR-Extensions");
+   /* activationTime */
+   if (present & ((uint64_t)1 << 30)) {
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_PrimaryCCPCH_Info_LCR_r4_ext(ctx, &pvalue->pCCPCH_LCR_Extensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerReconfiguration-r8-IEs");
    }
-   /* sCCPCH-LCR-ExtensionsList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "sCCPCH-LCR-ExtensionsList");
+   /* delayRestrictionFlag */
+   if (present & ((uint64_t)1 << 29)) {
       pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_SCCPCH_SystemInformationList_LCR_r4_ext(ctx, &pvalue->sCCPCH_LCR_ExtensionsList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "RadioBearerReconfiguration-r8-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "RadioBearerReconfiguration-r8-IEs");
+         pvalue->delayRestrictionFlag = ui;
+      }
    }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType6_v4b0ext_IEs(rtxContext* ctx, SysInfoType6_v4b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType6-v4b0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* openLoopPowerControl-IPDL-TDD */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "openLoopPowerControl-IPDL-TDD");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_OpenLoopPowerControl_IPDL_TDD_r4(ctx, &pvalue->openLoopPowerControl_IPDL_TDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* prach-SystemInformationList-LCR-r4 */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "prach-SystemInformationList-LCR-r4");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PRACH_SystemInformationList_LCR_r4(ctx, &pvalue->prach_SystemInformationList_LCR_r4);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tdd128SpecificInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "tdd128SpecificInfo");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_SysInfoType6_v4b0ext_IEs_tdd128SpecificInfo(ctx, &pvalue->tdd128SpecificInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyBandIndicator */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "frequencyBandIndicator");
-      pvalue->m |= 0x8u;
-      rtxCtxtPushTypeName(ctx, "RadioFrequencyBandFDD");
-      stat = pd_ConsUnsigned(ctx, &pvalue->frequencyBandIndicator, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType6_v590ext_IEs_hcr_r5_SpecificInfo(rtxContext* ctx, SysInfoType6_v590ext_IEs_hcr_r5_SpecificInfo* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* pusch-SysInfoList-SFN */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "pusch-SysInfoList-SFN");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PUSCH_SysInfoList_SFN_HCR_r5(ctx, &pvalue->pusch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdsch-SysInfoList-SFN */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "pdsch-SysInfoList-SFN");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PDSCH_SysInfoList_SFN_HCR_r5(ctx, &pvalue->pdsch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType6_v590ext_IEs(rtxContext* ctx, SysInfoType6_v590ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType6-v590ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* hcr-r5-SpecificInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "hcr-r5-SpecificInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType6_v590ext_IEs_hcr_r5_SpecificInfo(ctx, &pvalue->hcr_r5_SpecificInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType6_v650ext_IEs(rtxContext* ctx, SysInfoType6_v650ext_IEs* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SysInfoType6-v650ext-IEs");
-   /* frequencyBandIndicator2 */
-   rtxCtxtPushElemName(ctx, "frequencyBandIndicator2");
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandFDD2");
-   stat = pd_ConsUnsigned(ctx, &pvalue->frequencyBandIndicator2, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType6_v690ext_IEs(rtxContext* ctx, SysInfoType6_v690ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType6-v690ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* additionalPRACH-TF-and-TFCS-CCCH-List */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "additionalPRACH-TF-and-TFCS-CCCH-List");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH_List(ctx, &pvalue->additionalPRACH_TF_and_TFCS_CCCH_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType6_v770ext_IEs_tdd768SpecificInfo(rtxContext* ctx, SysInfoType6_v770ext_IEs_tdd768SpecificInfo* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* pusch-SysInfoList-SFN */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "pusch-SysInfoList-SFN");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PUSCH_SysInfoList_SFN_VHCR(ctx, &pvalue->pusch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdsch-SysInfoList-SFN */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "pdsch-SysInfoList-SFN");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PDSCH_SysInfoList_VHCR_r7(ctx, &pvalue->pdsch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* prach-SystemInformationList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "prach-SystemInformationList");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_PRACH_SystemInformationList_VHCR_r7(ctx, &pvalue->prach_SystemInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType6_v770ext_IEs(rtxContext* ctx, SysInfoType6_v770ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType6-v770ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* tdd768SpecificInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "tdd768SpecificInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType6_v770ext_IEs_tdd768SpecificInfo(ctx, &pvalue->tdd768SpecificInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sccpch-SystemInformationList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "sccpch-SystemInformationList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SCCPCH_SystemInformationList_HCR_VHCR_r7(ctx, &pvalue->sccpch_SystemInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType6-v770ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType6-v770ext");
-   stat = asn1PD_UMTS_SysInfoType6_v770ext_IEs(ctx, &pvalue->sysInfoType6_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions(rtxContext* ctx, SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType6-v690ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType6-v690ext");
-   stat = asn1PD_UMTS_SysInfoType6_v690ext_IEs(ctx, &pvalue->sysInfoType6_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions(rtxContext* ctx, SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType6-v650ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "sysInfoType6-v650ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType6_v650ext_IEs(ctx, &pvalue->sysInfoType6_v650ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v690nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v690nonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions(ctx, &pvalue->v690nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* ctx, SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType6-v590ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "sysInfoType6-v590ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType6_v590ext_IEs(ctx, &pvalue->sysInfoType6_v590ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v650nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v650nonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions(ctx, &pvalue->v650nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions(rtxContext* ctx, SysInfoType6_v4b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType6-v4b0ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "sysInfoType6-v4b0ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType6_v4b0ext_IEs(ctx, &pvalue->sysInfoType6_v4b0ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v590NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType6(rtxContext* ctx, SysInfoType6* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType6");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat);
-   /* pich-PowerOffset */
-   rtxCtxtPushElemName(ctx, "pich-PowerOffset");
-   rtxCtxtPushTypeName(ctx, "PICH-PowerOffset");
-   stat = pd_ConsInt8(ctx, &pvalue->pich_PowerOffset, -10, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_SysInfoType6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-Info */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "primaryCCPCH-Info");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* prach-SystemInformationList */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "prach-SystemInformationList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PRACH_SystemInformationList(ctx, &pvalue->prach_SystemInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sCCPCH-SystemInformationList */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "sCCPCH-SystemInformationList");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_SCCPCH_SystemInformationList(ctx, &pvalue->sCCPCH_SystemInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cbs-DRX-Level1Information */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "cbs-DRX-Level1Information");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_CBS_DRX_Level1Information(ctx, &pvalue->cbs_DRX_Level1Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v4b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v4b0NonCriticalExtensions");
+   /* new-U-RNTI */
+   if (present & ((uint64_t)1 << 28)) {
       pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_SysInfoType6_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerReconfiguration-r8-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
+   /* new-C-RNTI */
+   if (present & ((uint64_t)1 << 27)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint64_t)1 << 26)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* new-H-RNTI */
+   if (present & ((uint64_t)1 << 25)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (present & ((uint64_t)1 << 24)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint64_t)1 << 23)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerReconfiguration-r8-IEs");
+   /* ueMobilityStateIndicator */
+   if (present & ((uint64_t)1 << 22)) {
+      pvalue->m |= 0x400u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerReconfiguration-r8-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerReconfiguration-r8-IEs");
+         pvalue->ueMobilityStateIndicator = ui;
+      }
+   }
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint64_t)1 << 21)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint64_t)1 << 20)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint64_t)1 << 19)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   if (present & ((uint64_t)1 << 18)) {
+      pvalue->m |= 0x4000u;
+      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* responseToChangeOfUE-Capability */
+   if (present & ((uint64_t)1 << 17)) {
+      pvalue->m |= 0x8000u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "RadioBearerReconfiguration-r8-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "RadioBearerReconfiguration-r8-IEs");
+         pvalue->responseToChangeOfUE_Capability = ui;
+      }
+   }
+   /* defaultConfigForCellFACH */
+   if (present & ((uint64_t)1 << 16)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_DefaultConfigForCellFACH(ctx, &pvalue->defaultConfigForCellFACH);
+      RT_CHECK(ctx, stat, 0, "defaultConfigForCellFACH", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* specificationMode */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "RadioBearerReconfiguration-r8-IEs");
+   /* frequencyInfo */
+   if (present & ((uint64_t)1 << 15)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (present & ((uint64_t)1 << 14)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (present & ((uint64_t)1 << 13)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* dtx-drx-Info */
+   if (present & ((uint64_t)1 << 12)) {
+      pvalue->m |= 0x100000u;
+      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (present & ((uint64_t)1 << 11)) {
+      pvalue->m |= 0x200000u;
+      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* mimoParameters */
+   if (present & ((uint64_t)1 << 10)) {
+      pvalue->m |= 0x400000u;
+      stat = asn1PD_UMTS_MIMO_Parameters_r8(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint64_t)1 << 9)) {
+      pvalue->m |= 0x800000u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (present & ((uint64_t)1 << 8)) {
+      pvalue->m |= 0x1000000u;
+      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (present & ((uint64_t)1 << 7)) {
+      pvalue->m |= 0x2000000u;
+      stat = asn1PD_UMTS_UL_EDCH_Information_r8(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint64_t)1 << 6)) {
+      pvalue->m |= 0x4000000u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* dl-CommonInformation */
+   if (present & ((uint64_t)1 << 5)) {
+      pvalue->m |= 0x8000000u;
+      stat = asn1PD_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint64_t)1 << 4)) {
+      pvalue->m |= 0x10000000u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* dl-SecondaryCellInfoFDD */
+   if (present & ((uint64_t)1 << 3)) {
+      pvalue->m |= 0x20000000u;
+      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD(ctx, &pvalue->dl_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* controlChannelDRXInfo-TDD128 */
+   if (present & ((uint64_t)1 << 2)) {
+      pvalue->m |= 0x40000000u;
+      stat = asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
+      RT_CHECK(ctx, stat, 0, "controlChannelDRXInfo-TDD128", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* sps-Information-TDD128 */
+   if (present & ((uint64_t)1 << 1)) {
+      pvalue->m |= 0x80000000u;
+      stat = asn1PD_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
+      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (present & ((uint64_t)1 << 0)) {
+      pvalue->m |= 0x100000000ull;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerReconfiguration-r8-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerReconfiguration-r8-IEs");
+         pvalue->mbms_PL_ServiceRestrictInfo = ui;
+      }
+   }
    return 0;
 }
 
-int asn1PD_UMTS_SysInfoType8_nonCriticalExtensions(rtxContext* ctx, SysInfoType8_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType8(rtxContext* ctx, SysInfoType8* pvalue)
+int asn1PD_UMTS_RadioBearerReconfiguration_v890ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_v890ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType8");
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v890ext-IEs");
+   /* dl-SecondaryCellInfoFDD-v890ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_v890ext(ctx, &pvalue->dl_SecondaryCellInfoFDD_v890ext);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD-v890ext", -1, "RadioBearerReconfiguration-v890ext-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerReconfiguration-v890ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_v8a0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_v8a0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dummy1 */
-   rtxCtxtPushElemName(ctx, "dummy1");
-   stat = asn1PD_UMTS_CPCH_Parameters(ctx, &pvalue->dummy1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dummy2 */
-   rtxCtxtPushElemName(ctx, "dummy2");
-   stat = asn1PD_UMTS_CPCH_SetInfoList(ctx, &pvalue->dummy2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dummy3 */
-   rtxCtxtPushElemName(ctx, "dummy3");
-   rtxCtxtPushTypeName(ctx, "CSICH-PowerOffset");
-   stat = pd_ConsInt8(ctx, &pvalue->dummy3, -10, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v8a0ext-IEs");
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext2(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerReconfiguration-v8a0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v8a0ext */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_v8a0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v8a0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v8a0ext", -1, 0);
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType8_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_SysInfoType9_nonCriticalExtensions(rtxContext* ctx, SysInfoType9_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType9(rtxContext* ctx, SysInfoType9* pvalue)
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType9");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   rtxCtxtPushElemName(ctx, "dummy");
-   stat = asn1PD_UMTS_CPCH_PersistenceLevelsList(ctx, &pvalue->dummy);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v7g0ext */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_v7g0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v7g0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v7g0ext", -1, 0);
+   /* v8a0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v8a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v890ext */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_v890ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v890ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v890ext", -1, 0);
+   /* v7g0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v7f0ext */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_v7f0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v7f0ext", -1, 0);
+   /* v890NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v7d0ext */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_v7d0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v7d0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v7d0ext", -1, 0);
+   /* v7f0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-r8 */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs(ctx, &pvalue->radioBearerReconfiguration_r8);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r8", -1, 0);
+   /* radioBearerReconfiguration-r8-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->radioBearerReconfiguration_r8_add_ext);
+      RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r8-add-ext", -1, 0);
+   }
+   /* v7d0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs_responseToChangeOfUE_Capability(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r9_IEs_responseToChangeOfUE_Capability* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r9_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 12);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rab-InformationReconfigList */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RAB_InformationReconfigList_r8(ctx, &pvalue->rab_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, 0);
+   }
+   /* rab-InformationMBMSPtpList */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RAB_InformationMBMSPtpList(ctx, &pvalue->rab_InformationMBMSPtpList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationMBMSPtpList", -1, 0);
+   }
+   /* rb-InformationReconfigList */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_RB_InformationReconfigList_r8(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, 0);
+   }
+   /* rb-InformationAffectedList */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_RB_InformationAffectedList_r8(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, 0);
+   }
+   /* rb-PDCPContextRelocationList */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_RB_PDCPContextRelocationList(ctx, &pvalue->rb_PDCPContextRelocationList);
+      RT_CHECK(ctx, stat, 0, "rb-PDCPContextRelocationList", -1, 0);
+   }
+   /* pdcp-ROHC-TargetMode */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x20u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
+      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, 0);
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
+   }
+   /* ul-deletedTransChInfoList */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, 0);
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
+   }
+   /* dl-DeletedTransChInfoList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, 0);
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r9(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* defaultConfigMode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   /* defaultConfigIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 31);
+   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* predefinedConfigIdentity */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
+         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         break;
+      case 1: /* defaultConfig */
+         pvalue->u.defaultConfig = (RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAllocZ(ctx, sizeof(RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
+         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "defaultConfig", -1, 0);
+         stat = asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
+         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* preConfigMode */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
+   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r9_IEs_specificationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* complete */
+         pvalue->u.complete = (RadioBearerReconfiguration_r9_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r9_IEs_specificationMode_complete));
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "complete", -1, 0);
+         asn1Init_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode_complete(pvalue->u.complete);
+         stat = asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+         break;
+      case 1: /* preconfiguration */
+         pvalue->u.preconfiguration = (RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration));
+         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "preconfiguration", -1, 0);
+         asn1Init_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
+         stat = asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
+         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r9_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint64_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   {
+      uint32_t hi, lo;
+      stat = rtxDecBitsFast(ctx, &hi, 3);
+      RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-r9-IEs");
+      stat = rtxDecBitsFast(ctx, &lo, 32);
+      RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-r9-IEs");
+      present = ((uint64_t)hi << 32) | lo;
+   }
+   /* integrityProtectionModeInfo */
+   if (present & ((uint64_t)1 << 34)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint64_t)1 << 33)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint64_t)1 << 32)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* delayRestrictionFlag */
+   if (present & ((uint64_t)1 << 31)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "RadioBearerReconfiguration-r9-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "RadioBearerReconfiguration-r9-IEs");
+         pvalue->delayRestrictionFlag = ui;
+      }
+   }
+   /* new-U-RNTI */
+   if (present & ((uint64_t)1 << 30)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint64_t)1 << 29)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint64_t)1 << 28)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* new-H-RNTI */
+   if (present & ((uint64_t)1 << 27)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (present & ((uint64_t)1 << 26)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint64_t)1 << 25)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerReconfiguration-r9-IEs");
+   /* ueMobilityStateIndicator */
+   if (present & ((uint64_t)1 << 24)) {
+      pvalue->m |= 0x400u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerReconfiguration-r9-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerReconfiguration-r9-IEs");
+         pvalue->ueMobilityStateIndicator = ui;
+      }
+   }
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint64_t)1 << 23)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint64_t)1 << 22)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint64_t)1 << 21)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   if (present & ((uint64_t)1 << 20)) {
+      pvalue->m |= 0x4000u;
+      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* responseToChangeOfUE-Capability */
+   if (present & ((uint64_t)1 << 19)) {
+      pvalue->m |= 0x8000u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "RadioBearerReconfiguration-r9-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "RadioBearerReconfiguration-r9-IEs");
+         pvalue->responseToChangeOfUE_Capability = ui;
+      }
+   }
+   /* defaultConfigForCellFACH */
+   if (present & ((uint64_t)1 << 18)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_DefaultConfigForCellFACH(ctx, &pvalue->defaultConfigForCellFACH);
+      RT_CHECK(ctx, stat, 0, "defaultConfigForCellFACH", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* specificationMode */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "RadioBearerReconfiguration-r9-IEs");
+   /* frequencyInfo */
+   if (present & ((uint64_t)1 << 17)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (present & ((uint64_t)1 << 16)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (present & ((uint64_t)1 << 15)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* dtx-drx-Info */
+   if (present & ((uint64_t)1 << 14)) {
+      pvalue->m |= 0x100000u;
+      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (present & ((uint64_t)1 << 13)) {
+      pvalue->m |= 0x200000u;
+      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* mimoParameters */
+   if (present & ((uint64_t)1 << 12)) {
+      pvalue->m |= 0x400000u;
+      stat = asn1PD_UMTS_MIMO_Parameters_r9(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint64_t)1 << 11)) {
+      pvalue->m |= 0x800000u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (present & ((uint64_t)1 << 10)) {
+      pvalue->m |= 0x1000000u;
+      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (present & ((uint64_t)1 << 9)) {
+      pvalue->m |= 0x2000000u;
+      stat = asn1PD_UMTS_UL_EDCH_Information_r9(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* ul-SecondaryCellInfoFDD */
+   if (present & ((uint64_t)1 << 8)) {
+      pvalue->m |= 0x4000000u;
+      stat = asn1PD_UMTS_UL_SecondaryCellInfoFDD(ctx, &pvalue->ul_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "ul-SecondaryCellInfoFDD", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint64_t)1 << 7)) {
+      pvalue->m |= 0x8000000u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* dl-CommonInformation */
+   if (present & ((uint64_t)1 << 6)) {
+      pvalue->m |= 0x10000000u;
+      stat = asn1PD_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint64_t)1 << 5)) {
+      pvalue->m |= 0x20000000u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* dl-SecondaryCellInfoFDD */
+   if (present & ((uint64_t)1 << 4)) {
+      pvalue->m |= 0x40000000u;
+      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_r9(ctx, &pvalue->dl_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* controlChannelDRXInfo-TDD128 */
+   if (present & ((uint64_t)1 << 3)) {
+      pvalue->m |= 0x80000000u;
+      stat = asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
+      RT_CHECK(ctx, stat, 0, "controlChannelDRXInfo-TDD128", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* sps-Information-TDD128 */
+   if (present & ((uint64_t)1 << 2)) {
+      pvalue->m |= 0x100000000ull;
+      stat = asn1PD_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
+      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (present & ((uint64_t)1 << 1)) {
+      pvalue->m |= 0x200000000ull;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerReconfiguration-r9-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerReconfiguration-r9-IEs");
+         pvalue->mbms_PL_ServiceRestrictInfo = ui;
+      }
+   }
+   /* cellDCHMeasOccasionInfo-TDD128 */
+   if (present & ((uint64_t)1 << 0)) {
+      pvalue->m |= 0x400000000ull;
+      stat = asn1PD_UMTS_CellDCHMeasOccasionInfo_TDD128_r9(ctx, &pvalue->cellDCHMeasOccasionInfo_TDD128);
+      RT_CHECK(ctx, stat, 0, "cellDCHMeasOccasionInfo-TDD128", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-r9 */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs(ctx, &pvalue->radioBearerReconfiguration_r9);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r9", -1, 0);
+   /* radioBearerReconfiguration-r9-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->radioBearerReconfiguration_r9_add_ext);
+      RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r9-add-ext", -1, 0);
+   }
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_SysInfoType10_nonCriticalExtensions(rtxContext* ctx, SysInfoType10_nonCriticalExtensions* pvalue)
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    return 0;
 }
 
-int asn1PD_UMTS_SysInfoType10(rtxContext* ctx, SysInfoType10* pvalue)
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r9 */
+         pvalue->u.r9 = (RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9));
+         if (pvalue->u.r9 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r9", -1, 0);
+         asn1Init_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(pvalue->u.r9);
+         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
+         RT_CHECK(ctx, stat, 0, "r9", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r8 */
+         pvalue->u.r8 = (RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8));
+         if (pvalue->u.r8 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r8", -1, 0);
+         asn1Init_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(pvalue->u.r8);
+         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
+         RT_CHECK(ctx, stat, 0, "r8", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r7 */
+         pvalue->u.r7 = (RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7));
+         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r7", -1, 0);
+         asn1Init_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(pvalue->u.r7);
+         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
+         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r6 */
+         pvalue->u.r6 = (RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6));
+         if (pvalue->u.r6 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r6", -1, 0);
+         asn1Init_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(pvalue->u.r6);
+         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(ctx, pvalue->u.r6);
+         RT_CHECK(ctx, stat, 0, "r6", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r5 */
+         pvalue->u.r5 = (RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5));
+         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r5", -1, 0);
+         asn1Init_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5(pvalue->u.r5);
+         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5(ctx, pvalue->u.r5);
+         RT_CHECK(ctx, stat, 0, "r5", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r4 */
+         pvalue->u.r4 = (RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4));
+         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r4", -1, 0);
+         asn1Init_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4(pvalue->u.r4);
+         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
+         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfiguration(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r3 */
+         pvalue->u.r3 = (RadioBearerReconfiguration_r3*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r3));
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "RadioBearerReconfiguration");
+         asn1Init_UMTS_RadioBearerReconfiguration_r3(pvalue->u.r3);
+         stat = asn1PD_UMTS_RadioBearerReconfiguration_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "RadioBearerReconfiguration");
+         break;
+      case 1: /* later-than-r3 */
+         pvalue->u.later_than_r3 = (RadioBearerReconfiguration_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_later_than_r3));
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "RadioBearerReconfiguration");
+         asn1Init_UMTS_RadioBearerReconfiguration_later_than_r3(pvalue->u.later_than_r3);
+         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "RadioBearerReconfiguration");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RadioBearerReconfiguration");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfigurationComplete_v770ext_IEs_deferredMeasurementControlReading(rtxContext* RT_RESTRICT ctx, RadioBearerReconfigurationComplete_v770ext_IEs_deferredMeasurementControlReading* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfigurationComplete_v770ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReconfigurationComplete_v770ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType10");
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfigurationComplete-v770ext-IEs");
+   /* ext-UL-TimingAdvance */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_EXT_UL_TimingAdvance(ctx, &pvalue->ext_UL_TimingAdvance);
+      RT_CHECK(ctx, stat, 0, "ext-UL-TimingAdvance", -1, "RadioBearerReconfigurationComplete-v770ext-IEs");
+   }
+   /* deferredMeasurementControlReading */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "deferredMeasurementControlReading", -1, "RadioBearerReconfigurationComplete-v770ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "deferredMeasurementControlReading", -1, "RadioBearerReconfigurationComplete-v770ext-IEs");
+         pvalue->deferredMeasurementControlReading = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   rtxCtxtPushElemName(ctx, "dummy");
-   stat = asn1PD_UMTS_DRAC_SysInfoList(ctx, &pvalue->dummy);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfigurationComplete-v770ext */
+   stat = asn1PD_UMTS_RadioBearerReconfigurationComplete_v770ext_IEs(ctx, &pvalue->radioBearerReconfigurationComplete_v770ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfigurationComplete-v770ext", -1, 0);
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType10_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RadioBearerReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_SysInfoType13_v3a0ext_IEs(rtxContext* ctx, SysInfoType13_v3a0ext_IEs* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SysInfoType13-v3a0ext-IEs");
-   /* ue-IdleTimersAndConstants-v3a0ext */
-   rtxCtxtPushElemName(ctx, "ue-IdleTimersAndConstants-v3a0ext");
-   stat = asn1PD_UMTS_UE_IdleTimersAndConstants_v3a0ext(ctx, &pvalue->ue_IdleTimersAndConstants_v3a0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType13_v4b0ext_IEs(rtxContext* ctx, SysInfoType13_v4b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType13-v4b0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* capabilityUpdateRequirement-r4Ext */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "capabilityUpdateRequirement-r4Ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CapabilityUpdateRequirement_r4_ext(ctx, &pvalue->capabilityUpdateRequirement_r4Ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType13_v770ext_IEs(rtxContext* ctx, SysInfoType13_v770ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType13-v770ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* capabilityUpdateRequirement */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "capabilityUpdateRequirement");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CapabilityUpdateRequirement_v770ext(ctx, &pvalue->capabilityUpdateRequirement);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_RadioBearerReconfigurationComplete_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfigurationComplete_laterNonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType13-v770ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType13-v770ext");
-   stat = asn1PD_UMTS_SysInfoType13_v770ext_IEs(ctx, &pvalue->sysInfoType13_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfigurationComplete-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_DynBitString(ctx, &pvalue->radioBearerReconfigurationComplete_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "radioBearerReconfigurationComplete-r3-add-ext", -1, 0);
    }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* ctx, SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType13-v4b0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType13-v4b0ext");
-   stat = asn1PD_UMTS_SysInfoType13_v4b0ext_IEs(ctx, &pvalue->sysInfoType13_v4b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
    /* v770NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType13_v3a0NonCriticalExtensions(rtxContext* ctx, SysInfoType13_v3a0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType13-v3a0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType13-v3a0ext");
-   stat = asn1PD_UMTS_SysInfoType13_v3a0ext_IEs(ctx, &pvalue->sysInfoType13_v3a0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v4b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v4b0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType13(rtxContext* ctx, SysInfoType13* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType13");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* cn-DomainSysInfoList */
-   rtxCtxtPushElemName(ctx, "cn-DomainSysInfoList");
-   stat = asn1PD_UMTS_CN_DomainSysInfoList(ctx, &pvalue->cn_DomainSysInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-IdleTimersAndConstants */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "ue-IdleTimersAndConstants");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_IdleTimersAndConstants(ctx, &pvalue->ue_IdleTimersAndConstants);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* capabilityUpdateRequirement */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "capabilityUpdateRequirement");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CapabilityUpdateRequirement(ctx, &pvalue->capabilityUpdateRequirement);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RadioBearerReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
    }
-   /* v3a0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v3a0NonCriticalExtensions");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_SysInfoType13_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_ANSI_41_RAND_Information(rtxContext* ctx, ANSI_41_RAND_Information* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "ANSI-41-RAND-Information");
-   stat = asn1PD_UMTS_ANSI_41_NAS_Parameter(ctx, pvalue);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType13_1_nonCriticalExtensions(rtxContext* ctx, SysInfoType13_1_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType13_1(rtxContext* ctx, SysInfoType13_1* pvalue)
+int asn1PD_UMTS_RadioBearerReconfigurationComplete(rtxContext* RT_RESTRICT ctx, RadioBearerReconfigurationComplete* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType13-1");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ansi-41-RAND-Information */
-   rtxCtxtPushElemName(ctx, "ansi-41-RAND-Information");
-   stat = asn1PD_UMTS_ANSI_41_RAND_Information(ctx, &pvalue->ansi_41_RAND_Information);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType13_1_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ANSI_41_UserZoneID_Information(rtxContext* ctx, ANSI_41_UserZoneID_Information* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "ANSI-41-UserZoneID-Information");
-   stat = asn1PD_UMTS_ANSI_41_NAS_Parameter(ctx, pvalue);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType13_2_nonCriticalExtensions(rtxContext* ctx, SysInfoType13_2_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType13_2(rtxContext* ctx, SysInfoType13_2* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType13-2");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ansi-41-UserZoneID-Information */
-   rtxCtxtPushElemName(ctx, "ansi-41-UserZoneID-Information");
-   stat = asn1PD_UMTS_ANSI_41_UserZoneID_Information(ctx, &pvalue->ansi_41_UserZoneID_Information);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType13_2_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ANSI_41_PrivateNeighbourListInfo(rtxContext* ctx, ANSI_41_PrivateNeighbourListInfo* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "ANSI-41-PrivateNeighbourListInfo");
-   stat = asn1PD_UMTS_ANSI_41_NAS_Parameter(ctx, pvalue);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType13_3_nonCriticalExtensions(rtxContext* ctx, SysInfoType13_3_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType13_3(rtxContext* ctx, SysInfoType13_3* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType13-3");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ansi-41-PrivateNeighbourListInfo */
-   rtxCtxtPushElemName(ctx, "ansi-41-PrivateNeighbourListInfo");
-   stat = asn1PD_UMTS_ANSI_41_PrivateNeighbourListInfo(ctx, &pvalue->ansi_41_PrivateNeighbourListInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType13_3_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ANSI_41_GlobalServiceRedirectInfo(rtxContext* ctx, ANSI_41_GlobalServiceRedirectInfo* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "ANSI-41-GlobalServiceRedirectInfo");
-   stat = asn1PD_UMTS_ANSI_41_NAS_Parameter(ctx, pvalue);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType13_4_nonCriticalExtensions(rtxContext* ctx, SysInfoType13_4_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType13_4(rtxContext* ctx, SysInfoType13_4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType13-4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ansi-41-GlobalServiceRedirectInfo */
-   rtxCtxtPushElemName(ctx, "ansi-41-GlobalServiceRedirectInfo");
-   stat = asn1PD_UMTS_ANSI_41_GlobalServiceRedirectInfo(ctx, &pvalue->ansi_41_GlobalServiceRedirectInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType13_4_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType14_nonCriticalExtensions(rtxContext* ctx, SysInfoType14_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType14(rtxContext* ctx, SysInfoType14* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType14");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* individualTS-InterferenceList */
-   rtxCtxtPushElemName(ctx, "individualTS-InterferenceList");
-   stat = asn1PD_UMTS_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* expirationTimeFactor */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "expirationTimeFactor");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "ExpirationTimeFactor");
-      stat = pd_ConsUInt8(ctx, &pvalue->expirationTimeFactor, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SysInfoType14_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_v4b0ext_IEs(rtxContext* ctx, SysInfoType15_v4b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-v4b0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* up-Ipdl-Parameters-TDD */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "up-Ipdl-Parameters-TDD");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_IPDL_Parameters_TDD_r4_ext(ctx, &pvalue->up_Ipdl_Parameters_TDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_v770ext_IEs(rtxContext* ctx, SysInfoType15_v770ext_IEs* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-v770ext-IEs");
-   /* ue-Positioning-GPS-ReferenceTime */
-   rtxCtxtPushElemName(ctx, "ue-Positioning-GPS-ReferenceTime");
-   stat = asn1PD_UMTS_UE_Positioning_GPS_ReferenceTime_v770ext(ctx, &pvalue->ue_Positioning_GPS_ReferenceTime);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType15-v770ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType15-v770ext");
-   stat = asn1PD_UMTS_SysInfoType15_v770ext_IEs(ctx, &pvalue->sysInfoType15_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_v4b0NonCriticalExtensions(rtxContext* ctx, SysInfoType15_v4b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType15-v4b0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType15-v4b0ext");
-   stat = asn1PD_UMTS_SysInfoType15_v4b0ext_IEs(ctx, &pvalue->sysInfoType15_v4b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15(rtxContext* ctx, SysInfoType15* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType15");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GPS-CipherParameters */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-CipherParameters");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_CipherParameters(ctx, &pvalue->ue_positioning_GPS_CipherParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-ReferenceLocation */
-   rtxCtxtPushElemName(ctx, "ue-positioning-GPS-ReferenceLocation");
-   stat = asn1PD_UMTS_ReferenceLocation(ctx, &pvalue->ue_positioning_GPS_ReferenceLocation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-positioning-GPS-ReferenceTime */
-   rtxCtxtPushElemName(ctx, "ue-positioning-GPS-ReferenceTime");
-   stat = asn1PD_UMTS_UE_Positioning_GPS_ReferenceTime(ctx, &pvalue->ue_positioning_GPS_ReferenceTime);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-positioning-GPS-Real-timeIntegrity */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-Real-timeIntegrity");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_BadSatList(ctx, &pvalue->ue_positioning_GPS_Real_timeIntegrity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v4b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v4b0NonCriticalExtensions");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_SysInfoType15_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15bis_v860ext_IEs(rtxContext* ctx, SysInfoType15bis_v860ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType15bis-v860ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ue-Positioning-GANSS-AddIonoModel */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-GANSS-AddIonoModel");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AddIonoModel(ctx, &pvalue->ue_Positioning_GANSS_AddIonoModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-Positioning-GANSS-EarthOrientationPara */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-GANSS-EarthOrientationPara");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_EarthOrientPara(ctx, &pvalue->ue_Positioning_GANSS_EarthOrientationPara);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15bis_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, SysInfoType15bis_v860NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15bis_v860NonCriticalExtensions(rtxContext* ctx, SysInfoType15bis_v860NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType15bis-v860ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType15bis-v860ext");
-   stat = asn1PD_UMTS_SysInfoType15bis_v860ext_IEs(ctx, &pvalue->sysInfoType15bis_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType15bis_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15bis(rtxContext* ctx, SysInfoType15bis* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType15bis");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GANSS-ReferencePosition */
-   rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-ReferencePosition");
-   stat = asn1PD_UMTS_ReferenceLocationGANSS(ctx, &pvalue->ue_positioning_GANSS_ReferencePosition);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-positioning-GANSS-ReferenceTime */
-   rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-ReferenceTime");
-   stat = asn1PD_UMTS_UE_Positioning_GANSS_ReferenceTime(ctx, &pvalue->ue_positioning_GANSS_ReferenceTime);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-positioning-GANSS-IonosphericModel */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-IonosphericModel");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_IonosphericModel(ctx, &pvalue->ue_positioning_GANSS_IonosphericModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v860NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SysInfoType15bis_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_1_v920ext_IEs(rtxContext* ctx, SysInfoType15_1_v920ext_IEs* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-1-v920ext-IEs");
-   /* ue-positioning-GPS-DGPS-Corrections */
-   rtxCtxtPushElemName(ctx, "ue-positioning-GPS-DGPS-Corrections");
-   stat = asn1PD_UMTS_UE_Positioning_GPS_DGPS_Corrections_v920ext(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_1_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, SysInfoType15_1_v920NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_1_v920NonCriticalExtensions(rtxContext* ctx, SysInfoType15_1_v920NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType15-1-v920ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType15-1-v920ext");
-   stat = asn1PD_UMTS_SysInfoType15_1_v920ext_IEs(ctx, &pvalue->sysInfoType15_1_v920ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType15_1_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_1(rtxContext* ctx, SysInfoType15_1* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-1");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GPS-DGPS-Corrections */
-   rtxCtxtPushElemName(ctx, "ue-positioning-GPS-DGPS-Corrections");
-   stat = asn1PD_UMTS_UE_Positioning_GPS_DGPS_Corrections(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v920NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v920NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType15_1_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_1bis_v920ext_IEs(rtxContext* ctx, SysInfoType15_1bis_v920ext_IEs* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-1bis-v920ext-IEs");
-   /* ue-positioning-GANSS-DGANSS-Corrections */
-   rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-DGANSS-Corrections");
-   stat = asn1PD_UMTS_UE_Positioning_DGANSSCorrections_v920ext(ctx, &pvalue->ue_positioning_GANSS_DGANSS_Corrections);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_1bis_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, SysInfoType15_1bis_v920NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_1bis_v920NonCriticalExtensions(rtxContext* ctx, SysInfoType15_1bis_v920NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType15-1bis-v920ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType15-1bis-v920ext");
-   stat = asn1PD_UMTS_SysInfoType15_1bis_v920ext_IEs(ctx, &pvalue->sysInfoType15_1bis_v920ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType15_1bis_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_1bis(rtxContext* ctx, SysInfoType15_1bis* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-1bis");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GANSS-DGANSS-Corrections */
-   rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-DGANSS-Corrections");
-   stat = asn1PD_UMTS_UE_Positioning_DGANSSCorrections(ctx, &pvalue->ue_positioning_GANSS_DGANSS_Corrections);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v920NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v920NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType15_1bis_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_2_nonCriticalExtensions(rtxContext* ctx, SysInfoType15_2_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_2(rtxContext* ctx, SysInfoType15_2* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-2");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* transmissionTOW */
-   rtxCtxtPushElemName(ctx, "transmissionTOW");
-   rtxCtxtPushTypeName(ctx, "GPS-TOW-1sec");
-   stat = pd_ConsUInt32(ctx, &pvalue->transmissionTOW, 0, 604799);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* satID */
-   rtxCtxtPushElemName(ctx, "satID");
-   rtxCtxtPushTypeName(ctx, "SatID");
-   stat = pd_ConsUInt8(ctx, &pvalue->satID, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ephemerisParameter */
-   rtxCtxtPushElemName(ctx, "ephemerisParameter");
-   stat = asn1PD_UMTS_EphemerisParameter(ctx, &pvalue->ephemerisParameter);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType15_2_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_2bis_nonCriticalExtensions(rtxContext* ctx, SysInfoType15_2bis_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_2bis(rtxContext* ctx, SysInfoType15_2bis* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-2bis");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GANSS-navigationModel */
-   rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-navigationModel");
-   stat = asn1PD_UMTS_UE_Positioning_GANSS_NavigationModel(ctx, &pvalue->ue_positioning_GANSS_navigationModel);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType15_2bis_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_2ter_nonCriticalExtensions(rtxContext* ctx, SysInfoType15_2ter_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_2ter(rtxContext* ctx, SysInfoType15_2ter* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-2ter");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GANSS-AddNavigationModels */
-   rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-AddNavigationModels");
-   stat = asn1PD_UMTS_UE_Positioning_GANSS_AddNavigationModels(ctx, &pvalue->ue_positioning_GANSS_AddNavigationModels);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType15_2ter_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_3_nonCriticalExtensions(rtxContext* ctx, SysInfoType15_3_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_3(rtxContext* ctx, SysInfoType15_3* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-3");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat);
-   /* transmissionTOW */
-   rtxCtxtPushElemName(ctx, "transmissionTOW");
-   rtxCtxtPushTypeName(ctx, "GPS-TOW-1sec");
-   stat = pd_ConsUInt32(ctx, &pvalue->transmissionTOW, 0, 604799);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ue-positioning-GPS-Almanac */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-Almanac");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_Almanac(ctx, &pvalue->ue_positioning_GPS_Almanac);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-IonosphericModel */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-IonosphericModel");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_IonosphericModel(ctx, &pvalue->ue_positioning_GPS_IonosphericModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-UTC-Model */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-UTC-Model");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_UTC_Model(ctx, &pvalue->ue_positioning_GPS_UTC_Model);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* satMask */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "satMask");
-      pvalue->m |= 0x8u;
-      RT_SET_SIZE(ctx, 1, 32);
-      stat = pd_BitString32(ctx, &pvalue->satMask, 1, 32);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* lsbTOW */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "lsbTOW");
-      pvalue->m |= 0x10u;
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pd_BitString32(ctx, &pvalue->lsbTOW, 8, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_SysInfoType15_3_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_3bis_v860ext_IEs(rtxContext* ctx, SysInfoType15_3bis_v860ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-3bis-v860ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* ue-Positioning-GANSS-Almanac */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-GANSS-Almanac");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_Almanac_v860ext(ctx, &pvalue->ue_Positioning_GANSS_Almanac);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-Positioning-GANSS-AddUTCModels */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-GANSS-AddUTCModels");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AddUTCModels(ctx, &pvalue->ue_Positioning_GANSS_AddUTCModels);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-Positioning-GANSS-AuxiliaryInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-GANSS-AuxiliaryInfo");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AuxiliaryInfo(ctx, &pvalue->ue_Positioning_GANSS_AuxiliaryInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_3bis_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, SysInfoType15_3bis_v860NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_3bis_v860NonCriticalExtensions(rtxContext* ctx, SysInfoType15_3bis_v860NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType15-3bis-v860ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType15-3bis-v860ext");
-   stat = asn1PD_UMTS_SysInfoType15_3bis_v860ext_IEs(ctx, &pvalue->sysInfoType15_3bis_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType15_3bis_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_3bis(rtxContext* ctx, SysInfoType15_3bis* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-3bis");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GANSS-Almanac */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-Almanac");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_Almanac(ctx, &pvalue->ue_positioning_GANSS_Almanac);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GANSS-TimeModels */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-TimeModels");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_TimeModels(ctx, &pvalue->ue_positioning_GANSS_TimeModels);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GANSS-UTC-Model */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-UTC-Model");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_UTCModel(ctx, &pvalue->ue_positioning_GANSS_UTC_Model);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v860NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtensions");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_SysInfoType15_3bis_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_4_v3a0ext(rtxContext* ctx, SysInfoType15_4_v3a0ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-4-v3a0ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sfn-Offset-Validity */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "sfn-Offset-Validity");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "SFN-Offset-Validity");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->sfn_Offset_Validity = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_4_v4b0ext(rtxContext* ctx, SysInfoType15_4_v4b0ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-4-v4b0ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-Positioning-OTDOA-AssistanceData-r4ext */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-OTDOA-AssistanceData-r4ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_r4ext(ctx, &pvalue->ue_Positioning_OTDOA_AssistanceData_r4ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* ctx, SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType15-4-v4b0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType15-4-v4b0ext");
-   stat = asn1PD_UMTS_SysInfoType15_4_v4b0ext(ctx, &pvalue->sysInfoType15_4_v4b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions(rtxContext* ctx, SysInfoType15_4_v3a0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType15-4-v3a0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType15-4-v3a0ext");
-   stat = asn1PD_UMTS_SysInfoType15_4_v3a0ext(ctx, &pvalue->sysInfoType15_4_v3a0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v4b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v4b0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_4(rtxContext* ctx, SysInfoType15_4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-4");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-OTDOA-CipherParameters */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-CipherParameters");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_CipherParameters(ctx, &pvalue->ue_positioning_OTDOA_CipherParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-OTDOA-AssistanceData */
-   rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-AssistanceData");
-   stat = asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v3a0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v3a0NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_5_v3a0ext(rtxContext* ctx, SysInfoType15_5_v3a0ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-5-v3a0ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sfn-Offset-Validity */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "sfn-Offset-Validity");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "SFN-Offset-Validity");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->sfn_Offset_Validity = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_5_v770ext_IEs(rtxContext* ctx, SysInfoType15_5_v770ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-5-v770ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-Positioning-OTDOA-AssistanceData-UEB-ext */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-OTDOA-AssistanceData-UEB-ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB_ext(ctx, &pvalue->ue_Positioning_OTDOA_AssistanceData_UEB_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType15-5-v770ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType15-5-v770ext");
-   stat = asn1PD_UMTS_SysInfoType15_5_v770ext_IEs(ctx, &pvalue->sysInfoType15_5_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions(rtxContext* ctx, SysInfoType15_5_v3a0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType15-5-v3a0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType15-5-v3a0ext");
-   stat = asn1PD_UMTS_SysInfoType15_5_v3a0ext(ctx, &pvalue->sysInfoType15_5_v3a0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_5(rtxContext* ctx, SysInfoType15_5* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-5");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-OTDOA-AssistanceData-UEB */
-   rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-AssistanceData-UEB");
-   stat = asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData_UEB);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v3a0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v3a0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_6_nonCriticalExtensions(rtxContext* ctx, SysInfoType15_6_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_6(rtxContext* ctx, SysInfoType15_6* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-6");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GANSS-TOD */
-   rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-TOD");
-   stat = pd_ConsUInt32(ctx, &pvalue->ue_positioning_GANSS_TOD, 0, 86399);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-positioning-GANSS-ReferenceMeasurementInformation */
-   rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-ReferenceMeasurementInformation");
-   stat = asn1PD_UMTS_UE_Positioning_GANSS_ReferenceMeasurementInfo(ctx, &pvalue->ue_positioning_GANSS_ReferenceMeasurementInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType15_6_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_7_nonCriticalExtensions(rtxContext* ctx, SysInfoType15_7_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_7(rtxContext* ctx, SysInfoType15_7* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-7");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GANSS-DataBitAssistance */
-   rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-DataBitAssistance");
-   stat = asn1PD_UMTS_UE_Positioning_GANSS_Data_Bit_Assistance(ctx, &pvalue->ue_positioning_GANSS_DataBitAssistance);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType15_7_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_8_nonCriticalExtensions(rtxContext* ctx, SysInfoType15_8_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType15_8(rtxContext* ctx, SysInfoType15_8* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-8");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GANSS-DataCipheringInfo */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-DataCipheringInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_CipherParameters(ctx, &pvalue->ue_positioning_GANSS_DataCipheringInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GANSS-realTimeIntegrity */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-realTimeIntegrity");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_RealTimeIntegrity(ctx, &pvalue->ue_positioning_GANSS_realTimeIntegrity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_SysInfoType15_8_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType17_v4b0ext_IEs_tdd128SpecificInfo(rtxContext* ctx, SysInfoType17_v4b0ext_IEs_tdd128SpecificInfo* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* pusch-SysInfoList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "pusch-SysInfoList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PUSCH_SysInfoList_LCR_r4(ctx, &pvalue->pusch_SysInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdsch-SysInfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "pdsch-SysInfoList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PDSCH_SysInfoList_LCR_r4(ctx, &pvalue->pdsch_SysInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType17_v4b0ext_IEs(rtxContext* ctx, SysInfoType17_v4b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType17-v4b0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* tdd128SpecificInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "tdd128SpecificInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType17_v4b0ext_IEs_tdd128SpecificInfo(ctx, &pvalue->tdd128SpecificInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType17_v590ext_IEs_hcr_r5_SpecificInfo(rtxContext* ctx, SysInfoType17_v590ext_IEs_hcr_r5_SpecificInfo* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* pusch-SysInfoList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "pusch-SysInfoList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PUSCH_SysInfoList_HCR_r5(ctx, &pvalue->pusch_SysInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdsch-SysInfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "pdsch-SysInfoList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PDSCH_SysInfoList_HCR_r5(ctx, &pvalue->pdsch_SysInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType17_v590ext_IEs(rtxContext* ctx, SysInfoType17_v590ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType17-v590ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* hcr-r5-SpecificInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "hcr-r5-SpecificInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType17_v590ext_IEs_hcr_r5_SpecificInfo(ctx, &pvalue->hcr_r5_SpecificInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType17_v770ext_IEs_tdd768SpecificInfo(rtxContext* ctx, SysInfoType17_v770ext_IEs_tdd768SpecificInfo* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* pusch-SysInfoList-SFN */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "pusch-SysInfoList-SFN");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PUSCH_SysInfoList_SFN_VHCR(ctx, &pvalue->pusch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdsch-SysInfoList-SFN */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "pdsch-SysInfoList-SFN");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PDSCH_SysInfoList_VHCR_r7(ctx, &pvalue->pdsch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType17_v770ext_IEs(rtxContext* ctx, SysInfoType17_v770ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType17-v770ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* tdd768SpecificInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "tdd768SpecificInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType17_v770ext_IEs_tdd768SpecificInfo(ctx, &pvalue->tdd768SpecificInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType17-v770ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType17-v770ext");
-   stat = asn1PD_UMTS_SysInfoType17_v770ext_IEs(ctx, &pvalue->sysInfoType17_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* ctx, SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType17-v590ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "sysInfoType17-v590ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType17_v590ext_IEs(ctx, &pvalue->sysInfoType17_v590ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType17_v4b0NonCriticalExtensions(rtxContext* ctx, SysInfoType17_v4b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType17-v4b0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType17-v4b0ext");
-   stat = asn1PD_UMTS_SysInfoType17_v4b0ext_IEs(ctx, &pvalue->sysInfoType17_v4b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v590NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType17(rtxContext* ctx, SysInfoType17* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType17");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* pusch-SysInfoList */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "pusch-SysInfoList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PUSCH_SysInfoList(ctx, &pvalue->pusch_SysInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdsch-SysInfoList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "pdsch-SysInfoList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PDSCH_SysInfoList(ctx, &pvalue->pdsch_SysInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v4b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v4b0NonCriticalExtensions");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_SysInfoType17_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType19_v920ext(rtxContext* ctx, SysInfoType19_v920ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SysInfoType19-v920ext");
-   /* utra-PriorityInfoList-v920ext */
-   rtxCtxtPushElemName(ctx, "utra-PriorityInfoList-v920ext");
-   stat = asn1PD_UMTS_UTRA_PriorityInfoList_v920ext(ctx, &pvalue->utra_PriorityInfoList_v920ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* eutra-FrequencyAndPriorityInfoList-v920ext */
-   rtxCtxtPushElemName(ctx, "eutra-FrequencyAndPriorityInfoList-v920ext");
-   stat = asn1PD_UMTS_EUTRA_FrequencyAndPriorityInfoList_v920ext(ctx, &pvalue->eutra_FrequencyAndPriorityInfoList_v920ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType19_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, SysInfoType19_v920NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType19_v920NonCriticalExtensions(rtxContext* ctx, SysInfoType19_v920NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType19-v920ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType19-v920ext");
-   stat = asn1PD_UMTS_SysInfoType19_v920ext(ctx, &pvalue->sysInfoType19_v920ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SysInfoType19_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType19(rtxContext* ctx, SysInfoType19* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType19");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* utra-PriorityInfoList */
-   rtxCtxtPushElemName(ctx, "utra-PriorityInfoList");
-   stat = asn1PD_UMTS_UTRA_PriorityInfoList(ctx, &pvalue->utra_PriorityInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gsm-PriorityInfoList */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "gsm-PriorityInfoList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_GSM_PriorityInfoList(ctx, &pvalue->gsm_PriorityInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* eutra-FrequencyAndPriorityInfoList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "eutra-FrequencyAndPriorityInfoList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_EUTRA_FrequencyAndPriorityInfoList(ctx, &pvalue->eutra_FrequencyAndPriorityInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v920NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v920NonCriticalExtensions");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_SysInfoType19_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType20_nonCriticalExtensions(rtxContext* ctx, SysInfoType20_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_SysInfoType20(rtxContext* ctx, SysInfoType20* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "SysInfoType20");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* hNBName */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "hNBName");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HNBName(ctx, &pvalue->hNBName);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_SysInfoType20_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_UE_HistoryInformation(rtxContext* ctx, UE_HistoryInformation* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "UE-HistoryInformation");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* ue-InactivityPeriod */
-   rtxCtxtPushElemName(ctx, "ue-InactivityPeriod");
-   stat = pd_ConsUInt8(ctx, &pvalue->ue_InactivityPeriod, 1, 120);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ueMobilityStateIndicator */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "ueMobilityStateIndicator");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "High-MobilityDetected");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->ueMobilityStateIndicator = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-dataVolumeHistory */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ul-dataVolumeHistory");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DataVolumeHistory(ctx, &pvalue->ul_dataVolumeHistory);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-dataVolumeHistory */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-dataVolumeHistory");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_DataVolumeHistory(ctx, &pvalue->dl_dataVolumeHistory);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_AccessProbabilityFactor(rtxContext* ctx, MBMS_AccessProbabilityFactor* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MBMS-AccessProbabilityFactor");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_CellGroupIdentity_r6(rtxContext* ctx, MBMS_CellGroupIdentity_r6* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MBMS-CellGroupIdentity-r6");
-   RT_SET_SIZE(ctx, 12, 12);
-   stat = pd_BitString32(ctx, pvalue, 12, 12);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_CommonCCTrChIdentity(rtxContext* ctx, MBMS_CommonCCTrChIdentity* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MBMS-CommonCCTrChIdentity");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_CommonPhyChIdentity(rtxContext* ctx, MBMS_CommonPhyChIdentity* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MBMS-CommonPhyChIdentity");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_CommonRBIdentity(rtxContext* ctx, MBMS_CommonRBIdentity* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MBMS-CommonRBIdentity");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_CommonRBInformation_r6(rtxContext* ctx, MBMS_CommonRBInformation_r6* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-CommonRBInformation-r6");
-   /* commonRBIdentity */
-   rtxCtxtPushElemName(ctx, "commonRBIdentity");
-   rtxCtxtPushTypeName(ctx, "MBMS-CommonRBIdentity");
-   stat = pd_ConsUInt8(ctx, &pvalue->commonRBIdentity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* pdcp-Info */
-   rtxCtxtPushElemName(ctx, "pdcp-Info");
-   stat = asn1PD_UMTS_PDCP_Info_r4(ctx, &pvalue->pdcp_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rlc-Info */
-   rtxCtxtPushElemName(ctx, "rlc-Info");
-   stat = asn1PD_UMTS_RLC_Info_MTCH_r6(ctx, &pvalue->rlc_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_CommonRBInformationList_r6(rtxContext* ctx, MBMS_CommonRBInformationList_r6* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MBMS-CommonRBInformationList-r6");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_CommonRBInformation_r6* elem;
-      rtxCtxtPushArrayElemName(ctx, "MBMS-CommonRBInformation-r6", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_CommonRBInformation_r6));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MBMS_CommonRBInformation_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_CommonRBInformation_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_CommonRBInformation_r6(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_CommonTrChIdentity(rtxContext* ctx, MBMS_CommonTrChIdentity* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MBMS-CommonTrChIdentity");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_ConnectedModeCountingScope(rtxContext* ctx, MBMS_ConnectedModeCountingScope* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-ConnectedModeCountingScope");
-   /* countingForUraPCH */
-   rtxCtxtPushElemName(ctx, "countingForUraPCH");
-   stat = rtxDecBitInline(ctx, &pvalue->countingForUraPCH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* countingForCellPCH */
-   rtxCtxtPushElemName(ctx, "countingForCellPCH");
-   stat = rtxDecBitInline(ctx, &pvalue->countingForCellPCH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* countingForCellFACH */
-   rtxCtxtPushElemName(ctx, "countingForCellFACH");
-   stat = rtxDecBitInline(ctx, &pvalue->countingForCellFACH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_SCCPCHIdentity(rtxContext* ctx, MBMS_SCCPCHIdentity* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MBMS-SCCPCHIdentity");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_SoftComb_TimingOffset(rtxContext* ctx, MBMS_SoftComb_TimingOffset* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MBMS-SoftComb-TimingOffset");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_ShortTransmissionID(rtxContext* ctx, MBMS_ShortTransmissionID* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MBMS-ShortTransmissionID");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_LogicalChIdentity(rtxContext* ctx, MBMS_LogicalChIdentity* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MBMS-LogicalChIdentity");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_PTM_RBInformation_C(rtxContext* ctx, MBMS_PTM_RBInformation_C* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-PTM-RBInformation-C");
-   /* rbInformation */
-   rtxCtxtPushElemName(ctx, "rbInformation");
-   rtxCtxtPushTypeName(ctx, "MBMS-CommonRBIdentity");
-   stat = pd_ConsUInt8(ctx, &pvalue->rbInformation, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* shortTransmissionID */
-   rtxCtxtPushElemName(ctx, "shortTransmissionID");
-   rtxCtxtPushTypeName(ctx, "MBMS-ShortTransmissionID");
-   stat = pd_ConsUInt8(ctx, &pvalue->shortTransmissionID, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* logicalChIdentity */
-   rtxCtxtPushElemName(ctx, "logicalChIdentity");
-   rtxCtxtPushTypeName(ctx, "MBMS-LogicalChIdentity");
-   stat = pd_ConsUInt8(ctx, &pvalue->logicalChIdentity, 1, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_PTM_RBInformation_CList(rtxContext* ctx, MBMS_PTM_RBInformation_CList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MBMS-PTM-RBInformation-CList");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_PTM_RBInformation_C* elem;
-      rtxCtxtPushArrayElemName(ctx, "MBMS-PTM-RBInformation-C", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_PTM_RBInformation_C));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MBMS_PTM_RBInformation_C*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_PTM_RBInformation_C(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_TrCHInformation_Curr(rtxContext* ctx, MBMS_TrCHInformation_Curr* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MBMS-TrCHInformation-Curr");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* transpCh-Info */
-   rtxCtxtPushElemName(ctx, "transpCh-Info");
-   rtxCtxtPushTypeName(ctx, "MBMS-CommonTrChIdentity");
-   stat = pd_ConsUInt8(ctx, &pvalue->transpCh_Info, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* rbInformation */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "rbInformation");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MBMS_PTM_RBInformation_CList(ctx, &pvalue->rbInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* msch-ConfigurationInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "msch-ConfigurationInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MBMS_MSCH_ConfigurationInfo_r6(ctx, &pvalue->msch_ConfigurationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_TrCHInformation_CurrList(rtxContext* ctx, MBMS_TrCHInformation_CurrList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MBMS-TrCHInformation-CurrList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_TrCHInformation_Curr* elem;
-      rtxCtxtPushArrayElemName(ctx, "MBMS-TrCHInformation-Curr", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_TrCHInformation_Curr));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MBMS_TrCHInformation_Curr*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_TrCHInformation_Curr(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_TrCHInformation_Curr(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_CurrentCell_SCCPCH_r6(rtxContext* ctx, MBMS_CurrentCell_SCCPCH_r6* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MBMS-CurrentCell-SCCPCH-r6");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* sccpchIdentity */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "sccpchIdentity");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "MBMS-SCCPCHIdentity");
-      stat = pd_ConsUInt8(ctx, &pvalue->sccpchIdentity, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* secondaryCCPCH-Info */
-   rtxCtxtPushElemName(ctx, "secondaryCCPCH-Info");
-   rtxCtxtPushTypeName(ctx, "MBMS-CommonPhyChIdentity");
-   stat = pd_ConsUInt8(ctx, &pvalue->secondaryCCPCH_Info, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* softComb-TimingOffset */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "softComb-TimingOffset");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "MBMS-SoftComb-TimingOffset");
-      stat = pd_ConsUnsigned(ctx, &pvalue->softComb_TimingOffset, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* transpCh-InfoCommonForAllTrCh */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "transpCh-InfoCommonForAllTrCh");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "MBMS-CommonCCTrChIdentity");
-      stat = pd_ConsUInt8(ctx, &pvalue->transpCh_InfoCommonForAllTrCh, 1, 32);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* transpCHInformation */
-   rtxCtxtPushElemName(ctx, "transpCHInformation");
-   stat = asn1PD_UMTS_MBMS_TrCHInformation_CurrList(ctx, &pvalue->transpCHInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_CurrentCell_SCCPCHList_r6(rtxContext* ctx, MBMS_CurrentCell_SCCPCHList_r6* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MBMS-CurrentCell-SCCPCHList-r6");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_CurrentCell_SCCPCH_r6* elem;
-      rtxCtxtPushArrayElemName(ctx, "MBMS-CurrentCell-SCCPCH-r6", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_CurrentCell_SCCPCH_r6));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MBMS_CurrentCell_SCCPCH_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_CurrentCell_SCCPCH_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_CurrentCell_SCCPCH_r6(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_JoinedInformation_r6(rtxContext* ctx, MBMS_JoinedInformation_r6* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MBMS-JoinedInformation-r6");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* p-TMSI */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "p-TMSI");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_P_TMSI_GSM_MAP(ctx, &pvalue->p_TMSI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element(rtxContext* ctx, MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element* pvalue)
-{
-   int stat = 0;
-   /* periodStart */
-   rtxCtxtPushElemName(ctx, "periodStart");
-   stat = pd_ConsUInt8(ctx, &pvalue->periodStart, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* periodDuration */
-   rtxCtxtPushElemName(ctx, "periodDuration");
-   stat = pd_ConsUInt8(ctx, &pvalue->periodDuration, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList(rtxContext* ctx, MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element* elem;
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L1CombiningSchedule_32(rtxContext* ctx, MBMS_L1CombiningSchedule_32* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MBMS-L1CombiningSchedule-32");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cycleOffset */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cycleOffset");
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->cycleOffset, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mtch-L1CombiningPeriodList */
-   rtxCtxtPushElemName(ctx, "mtch-L1CombiningPeriodList");
-   stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element(rtxContext* ctx, MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element* pvalue)
-{
-   int stat = 0;
-   /* periodStart */
-   rtxCtxtPushElemName(ctx, "periodStart");
-   stat = pd_ConsUInt8(ctx, &pvalue->periodStart, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* periodDuration */
-   rtxCtxtPushElemName(ctx, "periodDuration");
-   stat = pd_ConsUInt8(ctx, &pvalue->periodDuration, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList(rtxContext* ctx, MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element* elem;
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L1CombiningSchedule_64(rtxContext* ctx, MBMS_L1CombiningSchedule_64* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MBMS-L1CombiningSchedule-64");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cycleOffset */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cycleOffset");
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->cycleOffset, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mtch-L1CombiningPeriodList */
-   rtxCtxtPushElemName(ctx, "mtch-L1CombiningPeriodList");
-   stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element(rtxContext* ctx, MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element* pvalue)
-{
-   int stat = 0;
-   /* periodStart */
-   rtxCtxtPushElemName(ctx, "periodStart");
-   stat = pd_ConsUInt8(ctx, &pvalue->periodStart, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* periodDuration */
-   rtxCtxtPushElemName(ctx, "periodDuration");
-   stat = pd_ConsUInt8(ctx, &pvalue->periodDuration, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList(rtxContext* ctx, MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element* elem;
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L1CombiningSchedule_128(rtxContext* ctx, MBMS_L1CombiningSchedule_128* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MBMS-L1CombiningSchedule-128");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cycleOffset */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cycleOffset");
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->cycleOffset, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mtch-L1CombiningPeriodList */
-   rtxCtxtPushElemName(ctx, "mtch-L1CombiningPeriodList");
-   stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element(rtxContext* ctx, MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element* pvalue)
-{
-   int stat = 0;
-   /* periodStart */
-   rtxCtxtPushElemName(ctx, "periodStart");
-   stat = pd_ConsUInt8(ctx, &pvalue->periodStart, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* periodDuration */
-   rtxCtxtPushElemName(ctx, "periodDuration");
-   stat = pd_ConsUInt8(ctx, &pvalue->periodDuration, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList(rtxContext* ctx, MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element* elem;
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L1CombiningSchedule_256(rtxContext* ctx, MBMS_L1CombiningSchedule_256* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MBMS-L1CombiningSchedule-256");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cycleOffset */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cycleOffset");
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->cycleOffset, 0, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mtch-L1CombiningPeriodList */
-   rtxCtxtPushElemName(ctx, "mtch-L1CombiningPeriodList");
-   stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element(rtxContext* ctx, MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element* pvalue)
-{
-   int stat = 0;
-   /* periodStart */
-   rtxCtxtPushElemName(ctx, "periodStart");
-   stat = pd_ConsUInt8(ctx, &pvalue->periodStart, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* periodDuration */
-   rtxCtxtPushElemName(ctx, "periodDuration");
-   stat = pd_ConsUInt8(ctx, &pvalue->periodDuration, 1, 128);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList(rtxContext* ctx, MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element* elem;
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L1CombiningSchedule_512(rtxContext* ctx, MBMS_L1CombiningSchedule_512* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MBMS-L1CombiningSchedule-512");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cycleOffset */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cycleOffset");
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->cycleOffset, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mtch-L1CombiningPeriodList */
-   rtxCtxtPushElemName(ctx, "mtch-L1CombiningPeriodList");
-   stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element(rtxContext* ctx, MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element* pvalue)
-{
-   int stat = 0;
-   /* periodStart */
-   rtxCtxtPushElemName(ctx, "periodStart");
-   stat = pd_ConsUInt8(ctx, &pvalue->periodStart, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* periodDuration */
-   rtxCtxtPushElemName(ctx, "periodDuration");
-   stat = pd_ConsUInt16(ctx, &pvalue->periodDuration, 1, 256);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList(rtxContext* ctx, MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element* elem;
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L1CombiningSchedule_1024(rtxContext* ctx, MBMS_L1CombiningSchedule_1024* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MBMS-L1CombiningSchedule-1024");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cycleOffset */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cycleOffset");
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->cycleOffset, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mtch-L1CombiningPeriodList */
-   rtxCtxtPushElemName(ctx, "mtch-L1CombiningPeriodList");
-   stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L1CombiningSchedule(rtxContext* ctx, MBMS_L1CombiningSchedule* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "MBMS-L1CombiningSchedule");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 5);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "cycleLength-32");
-         pvalue->u.cycleLength_32 = (MBMS_L1CombiningSchedule_32*)rtxMemHeapAlloc(ctx, sizeof(MBMS_L1CombiningSchedule_32));
-         if (pvalue->u.cycleLength_32 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MBMS_L1CombiningSchedule_32(pvalue->u.cycleLength_32);
-         stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_32(ctx, pvalue->u.cycleLength_32);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "cycleLength-64");
-         pvalue->u.cycleLength_64 = (MBMS_L1CombiningSchedule_64*)rtxMemHeapAlloc(ctx, sizeof(MBMS_L1CombiningSchedule_64));
-         if (pvalue->u.cycleLength_64 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MBMS_L1CombiningSchedule_64(pvalue->u.cycleLength_64);
-         stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_64(ctx, pvalue->u.cycleLength_64);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "cycleLength-128");
-         pvalue->u.cycleLength_128 = (MBMS_L1CombiningSchedule_128*)rtxMemHeapAlloc(ctx, sizeof(MBMS_L1CombiningSchedule_128));
-         if (pvalue->u.cycleLength_128 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MBMS_L1CombiningSchedule_128(pvalue->u.cycleLength_128);
-         stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_128(ctx, pvalue->u.cycleLength_128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "cycleLength-256");
-         pvalue->u.cycleLength_256 = (MBMS_L1CombiningSchedule_256*)rtxMemHeapAlloc(ctx, sizeof(MBMS_L1CombiningSchedule_256));
-         if (pvalue->u.cycleLength_256 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MBMS_L1CombiningSchedule_256(pvalue->u.cycleLength_256);
-         stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_256(ctx, pvalue->u.cycleLength_256);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "cycleLength-512");
-         pvalue->u.cycleLength_512 = (MBMS_L1CombiningSchedule_512*)rtxMemHeapAlloc(ctx, sizeof(MBMS_L1CombiningSchedule_512));
-         if (pvalue->u.cycleLength_512 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MBMS_L1CombiningSchedule_512(pvalue->u.cycleLength_512);
-         stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_512(ctx, pvalue->u.cycleLength_512);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "cycleLength-1024");
-         pvalue->u.cycleLength_1024 = (MBMS_L1CombiningSchedule_1024*)rtxMemHeapAlloc(ctx, sizeof(MBMS_L1CombiningSchedule_1024));
-         if (pvalue->u.cycleLength_1024 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MBMS_L1CombiningSchedule_1024(pvalue->u.cycleLength_1024);
-         stat = asn1PD_UMTS_MBMS_L1CombiningSchedule_1024(ctx, pvalue->u.cycleLength_1024);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L1CombiningTransmTimeDiff(rtxContext* ctx, MBMS_L1CombiningTransmTimeDiff* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MBMS-L1CombiningTransmTimeDiff");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L23Configuration_sameAsCurrent(rtxContext* ctx, MBMS_L23Configuration_sameAsCurrent* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* currentCell-SCCPCH */
-   rtxCtxtPushElemName(ctx, "currentCell-SCCPCH");
-   rtxCtxtPushTypeName(ctx, "MBMS-SCCPCHIdentity");
-   stat = pd_ConsUInt8(ctx, &pvalue->currentCell_SCCPCH, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* msch-ConfigurationInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "msch-ConfigurationInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MBMS_MSCH_ConfigurationInfo_r6(ctx, &pvalue->msch_ConfigurationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_PTM_RBInformation_N(rtxContext* ctx, MBMS_PTM_RBInformation_N* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-PTM-RBInformation-N");
-   /* shortTransmissionID */
-   rtxCtxtPushElemName(ctx, "shortTransmissionID");
-   rtxCtxtPushTypeName(ctx, "MBMS-ShortTransmissionID");
-   stat = pd_ConsUInt8(ctx, &pvalue->shortTransmissionID, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* logicalChIdentity */
-   rtxCtxtPushElemName(ctx, "logicalChIdentity");
-   rtxCtxtPushTypeName(ctx, "MBMS-LogicalChIdentity");
-   stat = pd_ConsUInt8(ctx, &pvalue->logicalChIdentity, 1, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* layer1-CombiningStatus */
-   rtxCtxtPushElemName(ctx, "layer1-CombiningStatus");
-   stat = rtxDecBitInline(ctx, &pvalue->layer1_CombiningStatus);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_PTM_RBInformation_NList(rtxContext* ctx, MBMS_PTM_RBInformation_NList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MBMS-PTM-RBInformation-NList");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_PTM_RBInformation_N* elem;
-      rtxCtxtPushArrayElemName(ctx, "MBMS-PTM-RBInformation-N", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_PTM_RBInformation_N));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MBMS_PTM_RBInformation_N*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_PTM_RBInformation_N(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_TrCHInformation_Neighb(rtxContext* ctx, MBMS_TrCHInformation_Neighb* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MBMS-TrCHInformation-Neighb");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* transpCh-Info */
-   rtxCtxtPushElemName(ctx, "transpCh-Info");
-   rtxCtxtPushTypeName(ctx, "MBMS-CommonTrChIdentity");
-   stat = pd_ConsUInt8(ctx, &pvalue->transpCh_Info, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* transpCh-CombiningStatus */
-   rtxCtxtPushElemName(ctx, "transpCh-CombiningStatus");
-   stat = rtxDecBitInline(ctx, &pvalue->transpCh_CombiningStatus);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rbInformation */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "rbInformation");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MBMS_PTM_RBInformation_NList(ctx, &pvalue->rbInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* msch-ConfigurationInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "msch-ConfigurationInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MBMS_MSCH_ConfigurationInfo_r6(ctx, &pvalue->msch_ConfigurationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_TrCHInformation_NeighbList(rtxContext* ctx, MBMS_TrCHInformation_NeighbList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MBMS-TrCHInformation-NeighbList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_TrCHInformation_Neighb* elem;
-      rtxCtxtPushArrayElemName(ctx, "MBMS-TrCHInformation-Neighb", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_TrCHInformation_Neighb));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MBMS_TrCHInformation_Neighb*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_TrCHInformation_Neighb(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_TrCHInformation_Neighb(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L23Configuration_different(rtxContext* ctx, MBMS_L23Configuration_different* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* transpCh-InfoCommonForAllTrCh */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "transpCh-InfoCommonForAllTrCh");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "MBMS-CommonCCTrChIdentity");
-      stat = pd_ConsUInt8(ctx, &pvalue->transpCh_InfoCommonForAllTrCh, 1, 32);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* transpCHInformation */
-   rtxCtxtPushElemName(ctx, "transpCHInformation");
-   stat = asn1PD_UMTS_MBMS_TrCHInformation_NeighbList(ctx, &pvalue->transpCHInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_L23Configuration(rtxContext* ctx, MBMS_L23Configuration* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "MBMS-L23Configuration");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "sameAsCurrent");
-         pvalue->u.sameAsCurrent = (MBMS_L23Configuration_sameAsCurrent*)rtxMemHeapAlloc(ctx, sizeof(MBMS_L23Configuration_sameAsCurrent));
-         if (pvalue->u.sameAsCurrent == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MBMS_L23Configuration_sameAsCurrent(pvalue->u.sameAsCurrent);
-         stat = asn1PD_UMTS_MBMS_L23Configuration_sameAsCurrent(ctx, pvalue->u.sameAsCurrent);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "different");
-         pvalue->u.different = (MBMS_L23Configuration_different*)rtxMemHeapAlloc(ctx, sizeof(MBMS_L23Configuration_different));
-         if (pvalue->u.different == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MBMS_L23Configuration_different(pvalue->u.different);
-         stat = asn1PD_UMTS_MBMS_L23Configuration_different(ctx, pvalue->u.different);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_MICHPowerOffset(rtxContext* ctx, MBMS_MICHPowerOffset* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MBMS-MICHPowerOffset");
-   stat = pd_ConsInt8(ctx, pvalue, -10, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_NI_CountPerFrame(rtxContext* ctx, MBMS_NI_CountPerFrame* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MBMS-NI-CountPerFrame");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6_mode_fdd(rtxContext* ctx, MBMS_MICHConfigurationInfo_r6_mode_fdd* pvalue)
-{
-   int stat = 0;
-   /* channelisationCode256 */
-   rtxCtxtPushElemName(ctx, "channelisationCode256");
-   rtxCtxtPushTypeName(ctx, "ChannelisationCode256");
-   stat = pd_ConsUInt8(ctx, &pvalue->channelisationCode256, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ni-CountPerFrame */
-   rtxCtxtPushElemName(ctx, "ni-CountPerFrame");
-   rtxCtxtPushTypeName(ctx, "MBMS-NI-CountPerFrame");
-   stat = pd_ConsUnsigned(ctx, &pvalue->ni_CountPerFrame, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* sttd-Indicator */
-   rtxCtxtPushElemName(ctx, "sttd-Indicator");
-   stat = rtxDecBitInline(ctx, &pvalue->sttd_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_MICHNotificationIndLength(rtxContext* ctx, MBMS_MICHNotificationIndLength* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MBMS-MICHNotificationIndLength");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd384(rtxContext* ctx, MBMS_MICHConfigurationInfo_r6_mode_tdd384* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* timeslot */
-   rtxCtxtPushElemName(ctx, "timeslot");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleShiftAndBurstType */
-   rtxCtxtPushElemName(ctx, "midambleShiftAndBurstType");
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* channelisationCode */
-   rtxCtxtPushElemName(ctx, "channelisationCode");
-   rtxCtxtPushTypeName(ctx, "DL-TS-ChannelisationCode");
-   stat = pd_ConsUnsigned(ctx, &pvalue->channelisationCode, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* repetitionPeriodLengthOffset */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "repetitionPeriodLengthOffset");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RepPerLengthOffset_MICH(ctx, &pvalue->repetitionPeriodLengthOffset);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mbmsNotificationIndLength */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mbmsNotificationIndLength");
-      rtxCtxtPushTypeName(ctx, "MBMS-MICHNotificationIndLength");
-      stat = pd_ConsUnsigned(ctx, &pvalue->mbmsNotificationIndLength, 0, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->mbmsNotificationIndLength = 0;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd128_channelisationCodeList(rtxContext* ctx, MBMS_MICHConfigurationInfo_r6_mode_tdd128_channelisationCodeList* pvalue)
-{
-   int stat;
-   uint32_t i;
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 1);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 1) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "DL-TS-ChannelisationCode", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "DL-TS-ChannelisationCode");
-      stat = pd_ConsUnsigned(ctx, &pvalue->elem[i], 0, 15);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd128(rtxContext* ctx, MBMS_MICHConfigurationInfo_r6_mode_tdd128* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* timeslot */
-   rtxCtxtPushElemName(ctx, "timeslot");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-LCR-r4");
-   stat = pd_ConsUInt8(ctx, &pvalue->timeslot, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleShiftAndBurstType */
-   rtxCtxtPushElemName(ctx, "midambleShiftAndBurstType");
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* channelisationCodeList */
-   rtxCtxtPushElemName(ctx, "channelisationCodeList");
-   stat = asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd128_channelisationCodeList(ctx, &pvalue->channelisationCodeList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* repetitionPeriodLengthOffset */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "repetitionPeriodLengthOffset");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RepPerLengthOffset_MICH(ctx, &pvalue->repetitionPeriodLengthOffset);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mbmsNotificationIndLength */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mbmsNotificationIndLength");
-      rtxCtxtPushTypeName(ctx, "MBMS-MICHNotificationIndLength");
-      stat = pd_ConsUnsigned(ctx, &pvalue->mbmsNotificationIndLength, 0, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->mbmsNotificationIndLength = 0;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6_mode(rtxContext* ctx, MBMS_MICHConfigurationInfo_r6_mode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (MBMS_MICHConfigurationInfo_r6_mode_fdd*)rtxMemHeapAllocZ(ctx, sizeof(MBMS_MICHConfigurationInfo_r6_mode_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6_mode_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         pvalue->u.tdd384 = (MBMS_MICHConfigurationInfo_r6_mode_tdd384*)rtxMemHeapAlloc(ctx, sizeof(MBMS_MICHConfigurationInfo_r6_mode_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         pvalue->u.tdd128 = (MBMS_MICHConfigurationInfo_r6_mode_tdd128*)rtxMemHeapAlloc(ctx, sizeof(MBMS_MICHConfigurationInfo_r6_mode_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6(rtxContext* ctx, MBMS_MICHConfigurationInfo_r6* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-MICHConfigurationInfo-r6");
-   /* michPowerOffset */
-   rtxCtxtPushElemName(ctx, "michPowerOffset");
-   rtxCtxtPushTypeName(ctx, "MBMS-MICHPowerOffset");
-   stat = pd_ConsInt8(ctx, &pvalue->michPowerOffset, -10, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* mode */
-   rtxCtxtPushElemName(ctx, "mode");
-   stat = asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6_mode(ctx, &pvalue->mode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd384(rtxContext* ctx, MBMS_MICHConfigurationInfo_v770ext_mode_tdd384* pvalue)
-{
-   int stat = 0;
-   /* midambleShiftAndBurstType */
-   rtxCtxtPushElemName(ctx, "midambleShiftAndBurstType");
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_r7(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd768(rtxContext* ctx, MBMS_MICHConfigurationInfo_v770ext_mode_tdd768* pvalue)
-{
-   int stat = 0;
-   /* midambleShiftAndBurstType */
-   rtxCtxtPushElemName(ctx, "midambleShiftAndBurstType");
-   stat = asn1PD_UMTS_MidambleShiftAndBurstType_VHCR(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd128(rtxContext* ctx, MBMS_MICHConfigurationInfo_v770ext_mode_tdd128* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* mbsfnSpecialTimeSlot */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mbsfnSpecialTimeSlot");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "TimeSlotLCR-ext");
-      stat = pd_ConsUnsigned(ctx, &pvalue->mbsfnSpecialTimeSlot, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode(rtxContext* ctx, MBMS_MICHConfigurationInfo_v770ext_mode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         pvalue->u.tdd384 = (MBMS_MICHConfigurationInfo_v770ext_mode_tdd384*)rtxMemHeapAlloc(ctx, sizeof(MBMS_MICHConfigurationInfo_v770ext_mode_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd768");
-         pvalue->u.tdd768 = (MBMS_MICHConfigurationInfo_v770ext_mode_tdd768*)rtxMemHeapAlloc(ctx, sizeof(MBMS_MICHConfigurationInfo_v770ext_mode_tdd768));
-         if (pvalue->u.tdd768 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd768(pvalue->u.tdd768);
-         stat = asn1PD_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         pvalue->u.tdd128 = (MBMS_MICHConfigurationInfo_v770ext_mode_tdd128*)rtxMemHeapAlloc(ctx, sizeof(MBMS_MICHConfigurationInfo_v770ext_mode_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_MICHConfigurationInfo_v770ext(rtxContext* ctx, MBMS_MICHConfigurationInfo_v770ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-MICHConfigurationInfo-v770ext");
-   /* mode */
-   rtxCtxtPushElemName(ctx, "mode");
-   stat = asn1PD_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode(ctx, &pvalue->mode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_NI_CountPerFrame_IMB384(rtxContext* ctx, MBMS_NI_CountPerFrame_IMB384* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MBMS-NI-CountPerFrame-IMB384");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_MICHConfigurationInfo_v890ext_mode_imb384(rtxContext* ctx, MBMS_MICHConfigurationInfo_v890ext_mode_imb384* pvalue)
-{
-   int stat = 0;
-   /* channelisationCode256 */
-   rtxCtxtPushElemName(ctx, "channelisationCode256");
-   rtxCtxtPushTypeName(ctx, "ChannelisationCode256");
-   stat = pd_ConsUInt8(ctx, &pvalue->channelisationCode256, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ni-CountPerFrame */
-   rtxCtxtPushElemName(ctx, "ni-CountPerFrame");
-   rtxCtxtPushTypeName(ctx, "MBMS-NI-CountPerFrame-IMB384");
-   stat = pd_ConsUnsigned(ctx, &pvalue->ni_CountPerFrame, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_MICHConfigurationInfo_v890ext_mode(rtxContext* ctx, MBMS_MICHConfigurationInfo_v890ext_mode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "imb384");
-         pvalue->u.imb384 = (MBMS_MICHConfigurationInfo_v890ext_mode_imb384*)rtxMemHeapAllocZ(ctx, sizeof(MBMS_MICHConfigurationInfo_v890ext_mode_imb384));
-         if (pvalue->u.imb384 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_MBMS_MICHConfigurationInfo_v890ext_mode_imb384(ctx, pvalue->u.imb384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_MICHConfigurationInfo_v890ext(rtxContext* ctx, MBMS_MICHConfigurationInfo_v890ext* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-MICHConfigurationInfo-v890ext");
-   /* mode */
-   rtxCtxtPushElemName(ctx, "mode");
-   stat = asn1PD_UMTS_MBMS_MICHConfigurationInfo_v890ext_mode(ctx, &pvalue->mode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_ServiceIdentity_r6_serviceIdentity(rtxContext* ctx, MBMS_ServiceIdentity_r6_serviceIdentity* pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_ServiceIdentity_r6_plmn_Identity_other(rtxContext* ctx, MBMS_ServiceIdentity_r6_plmn_Identity_other* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "sameAsMIB-MultiPLMN-Id");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.sameAsMIB_MultiPLMN_Id, 1, 5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "explicitPLMN-Id");
-         pvalue->u.explicitPLMN_Id = (PLMN_Identity*)rtxMemHeapAlloc(ctx, sizeof(PLMN_Identity));
-         if (pvalue->u.explicitPLMN_Id == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PLMN_Identity(pvalue->u.explicitPLMN_Id);
-         stat = asn1PD_UMTS_PLMN_Identity(ctx, pvalue->u.explicitPLMN_Id);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_ServiceIdentity_r6_plmn_Identity(rtxContext* ctx, MBMS_ServiceIdentity_r6_plmn_Identity* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "sameAsMIB-PLMN-Id");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "other");
-         pvalue->u.other = (MBMS_ServiceIdentity_r6_plmn_Identity_other*)rtxMemHeapAlloc(ctx, sizeof(MBMS_ServiceIdentity_r6_plmn_Identity_other));
-         if (pvalue->u.other == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MBMS_ServiceIdentity_r6_plmn_Identity_other(pvalue->u.other);
-         stat = asn1PD_UMTS_MBMS_ServiceIdentity_r6_plmn_Identity_other(ctx, pvalue->u.other);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_ServiceIdentity_r6(rtxContext* ctx, MBMS_ServiceIdentity_r6* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-ServiceIdentity-r6");
-   /* serviceIdentity */
-   rtxCtxtPushElemName(ctx, "serviceIdentity");
-   stat = asn1PD_UMTS_MBMS_ServiceIdentity_r6_serviceIdentity(ctx, &pvalue->serviceIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* plmn-Identity */
-   rtxCtxtPushElemName(ctx, "plmn-Identity");
-   stat = asn1PD_UMTS_MBMS_ServiceIdentity_r6_plmn_Identity(ctx, &pvalue->plmn_Identity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_TransmissionIdentity(rtxContext* ctx, MBMS_TransmissionIdentity* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MBMS-TransmissionIdentity");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* mbms-ServiceIdentity */
-   rtxCtxtPushElemName(ctx, "mbms-ServiceIdentity");
-   stat = asn1PD_UMTS_MBMS_ServiceIdentity_r6(ctx, &pvalue->mbms_ServiceIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* mbms-SessionIdentity */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mbms-SessionIdentity");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MBMS_SessionIdentity(ctx, &pvalue->mbms_SessionIdentity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_RequiredUEAction_Mod(rtxContext* ctx, MBMS_RequiredUEAction_Mod* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MBMS-RequiredUEAction-Mod");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_PFLIndex(rtxContext* ctx, MBMS_PFLIndex* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MBMS-PFLIndex");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_PFLInfo(rtxContext* ctx, MBMS_PFLInfo* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MBMS-PFLInfo");
-   stat = asn1PD_UMTS_FrequencyInfo(ctx, pvalue);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_ModifedService_r6_mbms_PreferredFrequency(rtxContext* ctx, MBMS_ModifedService_r6_mbms_PreferredFrequency* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "mcch");
-         rtxCtxtPushTypeName(ctx, "MBMS-PFLIndex");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.mcch, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "dcch");
-         pvalue->u.dcch = (MBMS_PFLInfo*)rtxMemHeapAlloc(ctx, sizeof(MBMS_PFLInfo));
-         if (pvalue->u.dcch == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MBMS_PFLInfo(pvalue->u.dcch);
-         stat = asn1PD_UMTS_MBMS_PFLInfo(ctx, pvalue->u.dcch);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_ModifedService_r6_dummy(rtxContext* ctx, MBMS_ModifedService_r6_dummy* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_ModifedService_r6(rtxContext* ctx, MBMS_ModifedService_r6* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MBMS-ModifedService-r6");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* mbms-TransmissionIdentity */
-   rtxCtxtPushElemName(ctx, "mbms-TransmissionIdentity");
-   stat = asn1PD_UMTS_MBMS_TransmissionIdentity(ctx, &pvalue->mbms_TransmissionIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* mbms-RequiredUEAction */
-   rtxCtxtPushElemName(ctx, "mbms-RequiredUEAction");
-   rtxCtxtPushTypeName(ctx, "MBMS-RequiredUEAction-Mod");
-   stat = pd_ConsUnsigned(ctx, &pvalue->mbms_RequiredUEAction, 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* mbms-PreferredFrequency */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "mbms-PreferredFrequency");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MBMS_ModifedService_r6_mbms_PreferredFrequency(ctx, &pvalue->mbms_PreferredFrequency);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->dummy = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* continueMCCHReading */
-   rtxCtxtPushElemName(ctx, "continueMCCHReading");
-   stat = rtxDecBitInline(ctx, &pvalue->continueMCCHReading);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_ModifedServiceList_r6(rtxContext* ctx, MBMS_ModifedServiceList_r6* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MBMS-ModifedServiceList-r6");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_ModifedService_r6* elem;
-      rtxCtxtPushArrayElemName(ctx, "MBMS-ModifedService-r6", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_ModifedService_r6));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MBMS_ModifedService_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_ModifedService_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_ModifedService_r6(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFN_ClusterFrequency_r7(rtxContext* ctx, MBSFN_ClusterFrequency_r7* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MBSFN-ClusterFrequency-r7");
-   stat = pd_ConsUInt8(ctx, pvalue, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_ModifiedService_v770ext(rtxContext* ctx, MBMS_ModifiedService_v770ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MBMS-ModifiedService-v770ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* mbsfnClusterFrequency */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mbsfnClusterFrequency");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "MBSFN-ClusterFrequency-r7");
-      stat = pd_ConsUInt8(ctx, &pvalue->mbsfnClusterFrequency, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_PTM_RBReleaseCause_LCR_r7(rtxContext* ctx, MBMS_PTM_RBReleaseCause_LCR_r7* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MBMS-PTM-RBReleaseCause-LCR-r7");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_ModifiedService_LCR_v7c0ext(rtxContext* ctx, MBMS_ModifiedService_LCR_v7c0ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MBMS-ModifiedService-LCR-v7c0ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* rbReleaseCause */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "rbReleaseCause");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "MBMS-PTM-RBReleaseCause-LCR-r7");
-      stat = pd_ConsUnsigned(ctx, &pvalue->rbReleaseCause, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_ModifiedServiceList_v770ext(rtxContext* ctx, MBMS_ModifiedServiceList_v770ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MBMS-ModifiedServiceList-v770ext");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_ModifiedService_v770ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "MBMS-ModifiedService-v770ext", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_ModifiedService_v770ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MBMS_ModifiedService_v770ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_ModifiedService_v770ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_ModifiedService_v770ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_ModifiedServiceList_LCR_v7c0ext(rtxContext* ctx, MBMS_ModifiedServiceList_LCR_v7c0ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MBMS-ModifiedServiceList-LCR-v7c0ext");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_ModifiedService_LCR_v7c0ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "MBMS-ModifiedService-LCR-v7c0ext", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_ModifiedService_LCR_v7c0ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MBMS_ModifiedService_LCR_v7c0ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_ModifiedService_LCR_v7c0ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_ModifiedService_LCR_v7c0ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_SCCPCHPwrOffsetDiff(rtxContext* ctx, MBMS_SCCPCHPwrOffsetDiff* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MBMS-SCCPCHPwrOffsetDiff");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_r6_layer1Combining_fdd(rtxContext* ctx, MBMS_NeighbouringCellSCCPCH_r6_layer1Combining_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* softComb-TimingOffset */
-   rtxCtxtPushElemName(ctx, "softComb-TimingOffset");
-   rtxCtxtPushTypeName(ctx, "MBMS-SoftComb-TimingOffset");
-   stat = pd_ConsUnsigned(ctx, &pvalue->softComb_TimingOffset, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* mbms-L1CombiningTransmTimeDiff */
-   rtxCtxtPushElemName(ctx, "mbms-L1CombiningTransmTimeDiff");
-   rtxCtxtPushTypeName(ctx, "MBMS-L1CombiningTransmTimeDiff");
-   stat = pd_ConsUInt8(ctx, &pvalue->mbms_L1CombiningTransmTimeDiff, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* mbms-L1CombiningSchedule */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mbms-L1CombiningSchedule");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MBMS_L1CombiningSchedule(ctx, &pvalue->mbms_L1CombiningSchedule);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_r6_layer1Combining(rtxContext* ctx, MBMS_NeighbouringCellSCCPCH_r6_layer1Combining* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (MBMS_NeighbouringCellSCCPCH_r6_layer1Combining_fdd*)rtxMemHeapAlloc(ctx, sizeof(MBMS_NeighbouringCellSCCPCH_r6_layer1Combining_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MBMS_NeighbouringCellSCCPCH_r6_layer1Combining_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_r6_layer1Combining_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_r6(rtxContext* ctx, MBMS_NeighbouringCellSCCPCH_r6* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MBMS-NeighbouringCellSCCPCH-r6");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* secondaryCCPCH-Info */
-   rtxCtxtPushElemName(ctx, "secondaryCCPCH-Info");
-   rtxCtxtPushTypeName(ctx, "MBMS-CommonPhyChIdentity");
-   stat = pd_ConsUInt8(ctx, &pvalue->secondaryCCPCH_Info, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* secondaryCCPCHPwrOffsetDiff */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "secondaryCCPCHPwrOffsetDiff");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "MBMS-SCCPCHPwrOffsetDiff");
-      stat = pd_ConsUnsigned(ctx, &pvalue->secondaryCCPCHPwrOffsetDiff, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* layer1Combining */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "layer1Combining");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_r6_layer1Combining(ctx, &pvalue->layer1Combining);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mbms-L23Configuration */
-   rtxCtxtPushElemName(ctx, "mbms-L23Configuration");
-   stat = asn1PD_UMTS_MBMS_L23Configuration(ctx, &pvalue->mbms_L23Configuration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining_fdd(rtxContext* ctx, MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* softComb-TimingOffset */
-   rtxCtxtPushElemName(ctx, "softComb-TimingOffset");
-   rtxCtxtPushTypeName(ctx, "MBMS-SoftComb-TimingOffset");
-   stat = pd_ConsUnsigned(ctx, &pvalue->softComb_TimingOffset, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* mbms-L1CombiningTransmTimeDiff */
-   rtxCtxtPushElemName(ctx, "mbms-L1CombiningTransmTimeDiff");
-   rtxCtxtPushTypeName(ctx, "MBMS-L1CombiningTransmTimeDiff");
-   stat = pd_ConsUInt8(ctx, &pvalue->mbms_L1CombiningTransmTimeDiff, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* mbms-L1CombiningSchedule */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mbms-L1CombiningSchedule");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MBMS_L1CombiningSchedule(ctx, &pvalue->mbms_L1CombiningSchedule);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining(rtxContext* ctx, MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining_fdd*)rtxMemHeapAlloc(ctx, sizeof(MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext(rtxContext* ctx, MBMS_NeighbouringCellSCCPCH_v770ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MBMS-NeighbouringCellSCCPCH-v770ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* secondaryCCPCH-Info */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "secondaryCCPCH-Info");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "MBMS-CommonPhyChIdentity");
-      stat = pd_ConsUInt8(ctx, &pvalue->secondaryCCPCH_Info, 1, 32);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* secondaryCCPCH-InfoDiff */
-   rtxCtxtPushElemName(ctx, "secondaryCCPCH-InfoDiff");
-   stat = asn1PD_UMTS_SecondaryCCPCHInfoDiff_MBMS(ctx, &pvalue->secondaryCCPCH_InfoDiff);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* secondaryCCPCHPwrOffsetDiff */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "secondaryCCPCHPwrOffsetDiff");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "MBMS-SCCPCHPwrOffsetDiff");
-      stat = pd_ConsUnsigned(ctx, &pvalue->secondaryCCPCHPwrOffsetDiff, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* layer1Combining */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "layer1Combining");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining(ctx, &pvalue->layer1Combining);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mbms-L23Configuration */
-   rtxCtxtPushElemName(ctx, "mbms-L23Configuration");
-   stat = asn1PD_UMTS_MBMS_L23Configuration(ctx, &pvalue->mbms_L23Configuration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_NeighbouringCellSCCPCHList_r6(rtxContext* ctx, MBMS_NeighbouringCellSCCPCHList_r6* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MBMS-NeighbouringCellSCCPCHList-r6");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_NeighbouringCellSCCPCH_r6* elem;
-      rtxCtxtPushArrayElemName(ctx, "MBMS-NeighbouringCellSCCPCH-r6", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_NeighbouringCellSCCPCH_r6));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MBMS_NeighbouringCellSCCPCH_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_NeighbouringCellSCCPCH_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_r6(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_NeighbouringCellSCCPCHList_v770ext(rtxContext* ctx, MBMS_NeighbouringCellSCCPCHList_v770ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MBMS-NeighbouringCellSCCPCHList-v770ext");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_NeighbouringCellSCCPCH_v770ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "MBMS-NeighbouringCellSCCPCH-v770ext", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_NeighbouringCellSCCPCH_v770ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MBMS_NeighbouringCellSCCPCH_v770ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_NetworkStandardTimeInformation_LCR_v890ext_networkStandardTime(rtxContext* ctx, MBMS_NetworkStandardTimeInformation_LCR_v890ext_networkStandardTime* pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 40, 40);
-   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_NetworkStandardTimeInformation_LCR_v890ext(rtxContext* ctx, MBMS_NetworkStandardTimeInformation_LCR_v890ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MBMS-NetworkStandardTimeInformation-LCR-v890ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* networkStandardTime */
-   rtxCtxtPushElemName(ctx, "networkStandardTime");
-   stat = asn1PD_UMTS_MBMS_NetworkStandardTimeInformation_LCR_v890ext_networkStandardTime(ctx, &pvalue->networkStandardTime);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* correlativeSFN */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "correlativeSFN");
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt16(ctx, &pvalue->correlativeSFN, 0, 4095);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_NumberOfNeighbourCells_r6(rtxContext* ctx, MBMS_NumberOfNeighbourCells_r6* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MBMS-NumberOfNeighbourCells-r6");
-   stat = pd_ConsUInt8(ctx, pvalue, 0, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_PhyChInformation_IMB384(rtxContext* ctx, MBMS_PhyChInformation_IMB384* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-PhyChInformation-IMB384");
-   /* mbms-CommonPhyChIdentity */
-   rtxCtxtPushElemName(ctx, "mbms-CommonPhyChIdentity");
-   rtxCtxtPushTypeName(ctx, "MBMS-CommonPhyChIdentity");
-   stat = pd_ConsUInt8(ctx, &pvalue->mbms_CommonPhyChIdentity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* secondaryCCPCHInfo-MBMS */
-   rtxCtxtPushElemName(ctx, "secondaryCCPCHInfo-MBMS");
-   stat = asn1PD_UMTS_SecondaryCCPCHFrameType2Info(ctx, &pvalue->secondaryCCPCHInfo_MBMS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_PhyChInformationList_IMB384(rtxContext* ctx, MBMS_PhyChInformationList_IMB384* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MBMS-PhyChInformationList-IMB384");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_PhyChInformation_IMB384* elem;
-      rtxCtxtPushArrayElemName(ctx, "MBMS-PhyChInformation-IMB384", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_PhyChInformation_IMB384));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MBMS_PhyChInformation_IMB384*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_PhyChInformation_IMB384(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_PhyChInformation_IMB384(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_PhyChInformation_r6(rtxContext* ctx, MBMS_PhyChInformation_r6* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-PhyChInformation-r6");
-   /* mbms-CommonPhyChIdentity */
-   rtxCtxtPushElemName(ctx, "mbms-CommonPhyChIdentity");
-   rtxCtxtPushTypeName(ctx, "MBMS-CommonPhyChIdentity");
-   stat = pd_ConsUInt8(ctx, &pvalue->mbms_CommonPhyChIdentity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* secondaryCCPCHInfo-MBMS */
-   rtxCtxtPushElemName(ctx, "secondaryCCPCHInfo-MBMS");
-   stat = asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r6(ctx, &pvalue->secondaryCCPCHInfo_MBMS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_PhyChInformation_r7(rtxContext* ctx, MBMS_PhyChInformation_r7* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-PhyChInformation-r7");
-   /* mbms-CommonPhyChIdentity */
-   rtxCtxtPushElemName(ctx, "mbms-CommonPhyChIdentity");
-   rtxCtxtPushTypeName(ctx, "MBMS-CommonPhyChIdentity");
-   stat = pd_ConsUInt8(ctx, &pvalue->mbms_CommonPhyChIdentity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* secondaryCCPCHInfo-MBMS */
-   rtxCtxtPushElemName(ctx, "secondaryCCPCHInfo-MBMS");
-   stat = asn1PD_UMTS_SecondaryCCPCHInfo_MBMS_r7(ctx, &pvalue->secondaryCCPCHInfo_MBMS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_PhyChInformationList_r6(rtxContext* ctx, MBMS_PhyChInformationList_r6* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MBMS-PhyChInformationList-r6");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_PhyChInformation_r6* elem;
-      rtxCtxtPushArrayElemName(ctx, "MBMS-PhyChInformation-r6", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_PhyChInformation_r6));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MBMS_PhyChInformation_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_PhyChInformation_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_PhyChInformation_r6(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_PhyChInformationList_r7(rtxContext* ctx, MBMS_PhyChInformationList_r7* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MBMS-PhyChInformationList-r7");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_PhyChInformation_r7* elem;
-      rtxCtxtPushArrayElemName(ctx, "MBMS-PhyChInformation-r7", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_PhyChInformation_r7));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MBMS_PhyChInformation_r7*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_PhyChInformation_r7(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_PhyChInformation_r7(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_PL_ServiceRestrictInfo_r6(rtxContext* ctx, MBMS_PL_ServiceRestrictInfo_r6* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MBMS-PL-ServiceRestrictInfo-r6");
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_Qoffset(rtxContext* ctx, MBMS_Qoffset* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MBMS-Qoffset");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_PreferredFrequencyInfo_r6_layerConvergenceInformation(rtxContext* ctx, MBMS_PreferredFrequencyInfo_r6_layerConvergenceInformation* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "mbms-Qoffset");
-         rtxCtxtPushTypeName(ctx, "MBMS-Qoffset");
-         stat = pd_ConsUnsigned(ctx, &pvalue->u.mbms_Qoffset, 0, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "mbms-HCSoffset");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.mbms_HCSoffset, 0, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_PreferredFrequencyInfo_r6(rtxContext* ctx, MBMS_PreferredFrequencyInfo_r6* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MBMS-PreferredFrequencyInfo-r6");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* mbmsPreferredFrequency */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "mbmsPreferredFrequency");
-      pvalue->m |= 0x1u;
-      stat = pd_ConsUInt8(ctx, &pvalue->mbmsPreferredFrequency, 1, 4);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* layerConvergenceInformation */
-   rtxCtxtPushElemName(ctx, "layerConvergenceInformation");
-   stat = asn1PD_UMTS_MBMS_PreferredFrequencyInfo_r6_layerConvergenceInformation(ctx, &pvalue->layerConvergenceInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* mbms-PL-ServiceRestrictInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mbms-PL-ServiceRestrictInfo");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "MBMS-PL-ServiceRestrictInfo-r6");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_PreferredFrequencyList_r6(rtxContext* ctx, MBMS_PreferredFrequencyList_r6* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MBMS-PreferredFrequencyList-r6");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_PreferredFrequencyInfo_r6* elem;
-      rtxCtxtPushArrayElemName(ctx, "MBMS-PreferredFrequencyInfo-r6", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_PreferredFrequencyInfo_r6));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MBMS_PreferredFrequencyInfo_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_PreferredFrequencyInfo_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_PreferredFrequencyInfo_r6(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_PTMActivationTime_r6(rtxContext* ctx, MBMS_PTMActivationTime_r6* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MBMS-PTMActivationTime-r6");
-   stat = pd_ConsUInt16(ctx, pvalue, 0, 2047);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_RequiredUEAction_UMod(rtxContext* ctx, MBMS_RequiredUEAction_UMod* pvalue)
-{
-   int stat;
-   rtxCtxtPushTypeName(ctx, "MBMS-RequiredUEAction-UMod");
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_SelectedServicesListFull(rtxContext* ctx, MBMS_SelectedServicesListFull* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MBMS-SelectedServicesListFull");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_ServiceIdentity_r6* elem;
-      rtxCtxtPushArrayElemName(ctx, "MBMS-ServiceIdentity-r6", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_ServiceIdentity_r6));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MBMS_ServiceIdentity_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_ServiceIdentity_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_ServiceIdentity_r6(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_SelectedServiceInfo_status(rtxContext* ctx, MBMS_SelectedServiceInfo_status* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "none");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "some");
-         pvalue->u.some = (MBMS_SelectedServicesListFull*)rtxMemHeapAlloc(ctx, sizeof(MBMS_SelectedServicesListFull));
-         if (pvalue->u.some == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MBMS_SelectedServicesListFull(pvalue->u.some);
-         stat = asn1PD_UMTS_MBMS_SelectedServicesListFull(ctx, pvalue->u.some);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_SelectedServiceInfo(rtxContext* ctx, MBMS_SelectedServiceInfo* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-SelectedServiceInfo");
-   /* status */
-   rtxCtxtPushElemName(ctx, "status");
-   stat = asn1PD_UMTS_MBMS_SelectedServiceInfo_status(ctx, &pvalue->status);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_SelectedServicesListShort(rtxContext* ctx, MBMS_SelectedServicesListShort* pvalue)
-{
-   int stat;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MBMS-SelectedServicesListShort");
-   {
-      uint32_t raw;
-      stat = rtxDecBits(ctx, &raw, 3);
-      RT_CHECK(ctx, stat);
-      pvalue->n = raw + 1;
-      if (raw > 7) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "MBMS-ShortTransmissionID", i);
-      pvalue->elem[i] = 0;
-      rtxCtxtPushTypeName(ctx, "MBMS-ShortTransmissionID");
-      stat = pd_ConsUInt8(ctx, &pvalue->elem[i], 1, 64);
-      if (stat != 0) {
-         pvalue->n = i + 1;
-         RT_RAISE(ctx, stat);
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_SelectedServicesShort(rtxContext* ctx, MBMS_SelectedServicesShort* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-SelectedServicesShort");
-   /* mbms-SelectedServicesList */
-   rtxCtxtPushElemName(ctx, "mbms-SelectedServicesList");
-   stat = asn1PD_UMTS_MBMS_SelectedServicesListShort(ctx, &pvalue->mbms_SelectedServicesList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* modificationPeriodIdentity */
-   rtxCtxtPushElemName(ctx, "modificationPeriodIdentity");
-   stat = pd_ConsUInt8(ctx, &pvalue->modificationPeriodIdentity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_ServiceAccessInfo_r6(rtxContext* ctx, MBMS_ServiceAccessInfo_r6* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MBMS-ServiceAccessInfo-r6");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* shortTransmissionID */
-   rtxCtxtPushElemName(ctx, "shortTransmissionID");
-   rtxCtxtPushTypeName(ctx, "MBMS-ShortTransmissionID");
-   stat = pd_ConsUInt8(ctx, &pvalue->shortTransmissionID, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* accessprobabilityFactor-Idle */
-   rtxCtxtPushElemName(ctx, "accessprobabilityFactor-Idle");
-   rtxCtxtPushTypeName(ctx, "MBMS-AccessProbabilityFactor");
-   stat = pd_ConsUnsigned(ctx, &pvalue->accessprobabilityFactor_Idle, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* accessprobabilityFactor-Connected */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "accessprobabilityFactor-Connected");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "MBMS-AccessProbabilityFactor");
-      stat = pd_ConsUnsigned(ctx, &pvalue->accessprobabilityFactor_Connected, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mbms-ConnectedModeCountingScope */
-   rtxCtxtPushElemName(ctx, "mbms-ConnectedModeCountingScope");
-   stat = asn1PD_UMTS_MBMS_ConnectedModeCountingScope(ctx, &pvalue->mbms_ConnectedModeCountingScope);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_ServiceAccessInfoList_r6(rtxContext* ctx, MBMS_ServiceAccessInfoList_r6* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MBMS-ServiceAccessInfoList-r6");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_ServiceAccessInfo_r6* elem;
-      rtxCtxtPushArrayElemName(ctx, "MBMS-ServiceAccessInfo-r6", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_ServiceAccessInfo_r6));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MBMS_ServiceAccessInfo_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_ServiceAccessInfo_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_ServiceAccessInfo_r6(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_ServiceTransmInfo(rtxContext* ctx, MBMS_ServiceTransmInfo* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-ServiceTransmInfo");
-   /* start */
-   rtxCtxtPushElemName(ctx, "start");
-   stat = pd_ConsUInt8(ctx, &pvalue->start, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* duration */
-   rtxCtxtPushElemName(ctx, "duration");
-   stat = pd_ConsUInt16(ctx, &pvalue->duration, 1, 256);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_ServiceTransmInfoList(rtxContext* ctx, MBMS_ServiceTransmInfoList* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MBMS-ServiceTransmInfoList");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_ServiceTransmInfo* elem;
-      rtxCtxtPushArrayElemName(ctx, "MBMS-ServiceTransmInfo", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_ServiceTransmInfo));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MBMS_ServiceTransmInfo*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_ServiceTransmInfo(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_ServiceSchedulingInfo_r6(rtxContext* ctx, MBMS_ServiceSchedulingInfo_r6* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MBMS-ServiceSchedulingInfo-r6");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* mbms-TransmissionIdentity */
-   rtxCtxtPushElemName(ctx, "mbms-TransmissionIdentity");
-   stat = asn1PD_UMTS_MBMS_TransmissionIdentity(ctx, &pvalue->mbms_TransmissionIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* mbms-ServiceTransmInfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mbms-ServiceTransmInfoList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MBMS_ServiceTransmInfoList(ctx, &pvalue->mbms_ServiceTransmInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nextSchedulingperiod */
-   rtxCtxtPushElemName(ctx, "nextSchedulingperiod");
-   stat = pd_ConsUInt8(ctx, &pvalue->nextSchedulingperiod, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_ServiceSchedulingInfoList_r6(rtxContext* ctx, MBMS_ServiceSchedulingInfoList_r6* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MBMS-ServiceSchedulingInfoList-r6");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_ServiceSchedulingInfo_r6* elem;
-      rtxCtxtPushArrayElemName(ctx, "MBMS-ServiceSchedulingInfo-r6", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_ServiceSchedulingInfo_r6));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MBMS_ServiceSchedulingInfo_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_ServiceSchedulingInfo_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_ServiceSchedulingInfo_r6(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_TrCHInformation_SIB5(rtxContext* ctx, MBMS_TrCHInformation_SIB5* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MBMS-TrCHInformation-SIB5");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* transpCh-Identity */
-   rtxCtxtPushElemName(ctx, "transpCh-Identity");
-   stat = pd_ConsUInt8(ctx, &pvalue->transpCh_Identity, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rbInformation */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "rbInformation");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MBMS_PTM_RBInformation_CList(ctx, &pvalue->rbInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* msch-ConfigurationInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "msch-ConfigurationInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MBMS_MSCH_ConfigurationInfo_r6(ctx, &pvalue->msch_ConfigurationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_TrCHInformation_SIB5List(rtxContext* ctx, MBMS_TrCHInformation_SIB5List* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MBMS-TrCHInformation-SIB5List");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_TrCHInformation_SIB5* elem;
-      rtxCtxtPushArrayElemName(ctx, "MBMS-TrCHInformation-SIB5", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_TrCHInformation_SIB5));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MBMS_TrCHInformation_SIB5*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_TrCHInformation_SIB5(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_TrCHInformation_SIB5(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_SIBType5_SCCPCH_r6(rtxContext* ctx, MBMS_SIBType5_SCCPCH_r6* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-SIBType5-SCCPCH-r6");
-   /* sccpchIdentity */
-   rtxCtxtPushElemName(ctx, "sccpchIdentity");
-   rtxCtxtPushTypeName(ctx, "MBMS-SCCPCHIdentity");
-   stat = pd_ConsUInt8(ctx, &pvalue->sccpchIdentity, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* transpCHInformation */
-   rtxCtxtPushElemName(ctx, "transpCHInformation");
-   stat = asn1PD_UMTS_MBMS_TrCHInformation_SIB5List(ctx, &pvalue->transpCHInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_SIBType5_SCCPCHList_r6(rtxContext* ctx, MBMS_SIBType5_SCCPCHList_r6* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MBMS-SIBType5-SCCPCHList-r6");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_SIBType5_SCCPCH_r6* elem;
-      rtxCtxtPushArrayElemName(ctx, "MBMS-SIBType5-SCCPCH-r6", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_SIBType5_SCCPCH_r6));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MBMS_SIBType5_SCCPCH_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_SIBType5_SCCPCH_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_SIBType5_SCCPCH_r6(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_TimersAndCounters_r6(rtxContext* ctx, MBMS_TimersAndCounters_r6* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MBMS-TimersAndCounters-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* t-318 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "t-318");
-      rtxCtxtPushTypeName(ctx, "T-318");
-      stat = pd_ConsUnsigned(ctx, &pvalue->t_318, 0, 14);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   else {
-      pvalue->t_318 = 3;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_TranspChInfoForCCTrCh_r6(rtxContext* ctx, MBMS_TranspChInfoForCCTrCh_r6* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-TranspChInfoForCCTrCh-r6");
-   /* commonCCTrChIdentity */
-   rtxCtxtPushElemName(ctx, "commonCCTrChIdentity");
-   rtxCtxtPushTypeName(ctx, "MBMS-CommonCCTrChIdentity");
-   stat = pd_ConsUInt8(ctx, &pvalue->commonCCTrChIdentity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* transportFormatCombinationSet */
-   rtxCtxtPushElemName(ctx, "transportFormatCombinationSet");
-   stat = asn1PD_UMTS_TFCS(ctx, &pvalue->transportFormatCombinationSet);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_TranspChInfoForEachCCTrCh_r6(rtxContext* ctx, MBMS_TranspChInfoForEachCCTrCh_r6* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MBMS-TranspChInfoForEachCCTrCh-r6");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_TranspChInfoForCCTrCh_r6* elem;
-      rtxCtxtPushArrayElemName(ctx, "MBMS-TranspChInfoForCCTrCh-r6", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_TranspChInfoForCCTrCh_r6));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MBMS_TranspChInfoForCCTrCh_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_TranspChInfoForCCTrCh_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_TranspChInfoForCCTrCh_r6(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_TranspChInfoForTrCh_r6(rtxContext* ctx, MBMS_TranspChInfoForTrCh_r6* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-TranspChInfoForTrCh-r6");
-   /* commonTrChIdentity */
-   rtxCtxtPushElemName(ctx, "commonTrChIdentity");
-   rtxCtxtPushTypeName(ctx, "MBMS-CommonTrChIdentity");
-   stat = pd_ConsUInt8(ctx, &pvalue->commonTrChIdentity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* transportFormatSet */
-   rtxCtxtPushElemName(ctx, "transportFormatSet");
-   stat = asn1PD_UMTS_TransportFormatSet(ctx, &pvalue->transportFormatSet);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_TranspChInfoForEachTrCh_r6(rtxContext* ctx, MBMS_TranspChInfoForEachTrCh_r6* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MBMS-TranspChInfoForEachTrCh-r6");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_TranspChInfoForTrCh_r6* elem;
-      rtxCtxtPushArrayElemName(ctx, "MBMS-TranspChInfoForTrCh-r6", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_TranspChInfoForTrCh_r6));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MBMS_TranspChInfoForTrCh_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_TranspChInfoForTrCh_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_TranspChInfoForTrCh_r6(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_UnmodifiedService_r6(rtxContext* ctx, MBMS_UnmodifiedService_r6* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MBMS-UnmodifiedService-r6");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* mbms-TransmissionIdentity */
-   rtxCtxtPushElemName(ctx, "mbms-TransmissionIdentity");
-   stat = asn1PD_UMTS_MBMS_TransmissionIdentity(ctx, &pvalue->mbms_TransmissionIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* mbms-RequiredUEAction */
-   rtxCtxtPushElemName(ctx, "mbms-RequiredUEAction");
-   rtxCtxtPushTypeName(ctx, "MBMS-RequiredUEAction-UMod");
-   stat = pd_ConsUnsigned(ctx, &pvalue->mbms_RequiredUEAction, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* mbms-PreferredFrequency */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mbms-PreferredFrequency");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "MBMS-PFLIndex");
-      stat = pd_ConsUInt8(ctx, &pvalue->mbms_PreferredFrequency, 1, 4);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_UnmodifiedServiceList_r6(rtxContext* ctx, MBMS_UnmodifiedServiceList_r6* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MBMS-UnmodifiedServiceList-r6");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_UnmodifiedService_r6* elem;
-      rtxCtxtPushArrayElemName(ctx, "MBMS-UnmodifiedService-r6", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_UnmodifiedService_r6));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MBMS_UnmodifiedService_r6*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_UnmodifiedService_r6(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_UnmodifiedService_r6(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_UnmodifiedService_v770ext(rtxContext* ctx, MBMS_UnmodifiedService_v770ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MBMS-UnmodifiedService-v770ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* mbsfnClusterFrequency */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mbsfnClusterFrequency");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "MBSFN-ClusterFrequency-r7");
-      stat = pd_ConsUInt8(ctx, &pvalue->mbsfnClusterFrequency, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBMS_UnmodifiedServiceList_v770ext(rtxContext* ctx, MBMS_UnmodifiedServiceList_v770ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MBMS-UnmodifiedServiceList-v770ext");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBMS_UnmodifiedService_v770ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "MBMS-UnmodifiedService-v770ext", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBMS_UnmodifiedService_v770ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MBMS_UnmodifiedService_v770ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBMS_UnmodifiedService_v770ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBMS_UnmodifiedService_v770ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFNservicesNotNotified_r7_notificationOfAllMBSFNServicesInTheBand(rtxContext* ctx, MBSFNservicesNotNotified_r7_notificationOfAllMBSFNServicesInTheBand* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFNservicesNotNotified_r7(rtxContext* ctx, MBSFNservicesNotNotified_r7* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MBSFNservicesNotNotified-r7");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* notificationOfAllMBSFNServicesInTheBand */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "notificationOfAllMBSFNServicesInTheBand");
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->notificationOfAllMBSFNServicesInTheBand = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFNInterFrequencyNeighbour_r7_mbsfnServicesNotification(rtxContext* ctx, MBSFNInterFrequencyNeighbour_r7_mbsfnServicesNotification* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "mbsfnServicesNotified");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "mbsfnServicesNotNotified");
-         pvalue->u.mbsfnServicesNotNotified = (MBSFNservicesNotNotified_r7*)rtxMemHeapAlloc(ctx, sizeof(MBSFNservicesNotNotified_r7));
-         if (pvalue->u.mbsfnServicesNotNotified == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MBSFNservicesNotNotified_r7(pvalue->u.mbsfnServicesNotNotified);
-         stat = asn1PD_UMTS_MBSFNservicesNotNotified_r7(ctx, pvalue->u.mbsfnServicesNotNotified);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFNInterFrequencyNeighbour_r7(rtxContext* ctx, MBSFNInterFrequencyNeighbour_r7* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBSFNInterFrequencyNeighbour-r7");
-   /* mbsfnFrequency */
-   rtxCtxtPushElemName(ctx, "mbsfnFrequency");
-   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->mbsfnFrequency);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* mbsfnServicesNotification */
-   rtxCtxtPushElemName(ctx, "mbsfnServicesNotification");
-   stat = asn1PD_UMTS_MBSFNInterFrequencyNeighbour_r7_mbsfnServicesNotification(ctx, &pvalue->mbsfnServicesNotification);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFNInterFrequencyNeighbour_v860ext_imb_Indication(rtxContext* ctx, MBSFNInterFrequencyNeighbour_v860ext_imb_Indication* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFNInterFrequencyNeighbour_v860ext(rtxContext* ctx, MBSFNInterFrequencyNeighbour_v860ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MBSFNInterFrequencyNeighbour-v860ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* imb-Indication */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "imb-Indication");
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->imb_Indication = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFN_InterFrequencyNeighbourList_r7(rtxContext* ctx, MBSFN_InterFrequencyNeighbourList_r7* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MBSFN-InterFrequencyNeighbourList-r7");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBSFNInterFrequencyNeighbour_r7* elem;
-      rtxCtxtPushArrayElemName(ctx, "MBSFNInterFrequencyNeighbour-r7", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBSFNInterFrequencyNeighbour_r7));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MBSFNInterFrequencyNeighbour_r7*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBSFNInterFrequencyNeighbour_r7(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBSFNInterFrequencyNeighbour_r7(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFN_InterFrequencyNeighbourList_v860ext(rtxContext* ctx, MBSFN_InterFrequencyNeighbourList_v860ext* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MBSFN-InterFrequencyNeighbourList-v860ext");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBSFNInterFrequencyNeighbour_v860ext* elem;
-      rtxCtxtPushArrayElemName(ctx, "MBSFNInterFrequencyNeighbour-v860ext", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBSFNInterFrequencyNeighbour_v860ext));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MBSFNInterFrequencyNeighbour_v860ext*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBSFNInterFrequencyNeighbour_v860ext(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBSFNInterFrequencyNeighbour_v860ext(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFN_TDDTimeSlotInfo(rtxContext* ctx, MBSFN_TDDTimeSlotInfo* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBSFN-TDDTimeSlotInfo");
-   /* timeSlotNumber */
-   rtxCtxtPushElemName(ctx, "timeSlotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-LCR-r4");
-   stat = pd_ConsUInt8(ctx, &pvalue->timeSlotNumber, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* cellParametersID */
-   rtxCtxtPushElemName(ctx, "cellParametersID");
-   rtxCtxtPushTypeName(ctx, "CellParametersID");
-   stat = pd_ConsUInt8(ctx, &pvalue->cellParametersID, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFN_TDDInformation(rtxContext* ctx, MBSFN_TDDInformation* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MBSFN-TDDInformation");
-   RT_SET_SIZE(ctx, 1, 14);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBSFN_TDDTimeSlotInfo* elem;
-      rtxCtxtPushArrayElemName(ctx, "MBSFN-TDDTimeSlotInfo", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBSFN_TDDTimeSlotInfo));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MBSFN_TDDTimeSlotInfo*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBSFN_TDDTimeSlotInfo(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFN_TDDTimeSlotInfo_LCR(rtxContext* ctx, MBSFN_TDDTimeSlotInfo_LCR* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBSFN-TDDTimeSlotInfo-LCR");
-   /* frequencyIndex */
-   rtxCtxtPushElemName(ctx, "frequencyIndex");
-   stat = pd_ConsUInt8(ctx, &pvalue->frequencyIndex, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* timeSlotList */
-   rtxCtxtPushElemName(ctx, "timeSlotList");
-   stat = asn1PD_UMTS_MBSFN_TDDInformation(ctx, &pvalue->timeSlotList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFN_TDDInformation_LCR(rtxContext* ctx, MBSFN_TDDInformation_LCR* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MBSFN-TDDInformation-LCR");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBSFN_TDDTimeSlotInfo_LCR* elem;
-      rtxCtxtPushArrayElemName(ctx, "MBSFN-TDDTimeSlotInfo-LCR", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBSFN_TDDTimeSlotInfo_LCR));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MBSFN_TDDTimeSlotInfo_LCR*)(node + 1);
-      node->data = elem;
-      asn1Init_UMTS_MBSFN_TDDTimeSlotInfo_LCR(elem);
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBSFN_TDDTimeSlotInfo_LCR(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFN_TDM_Info(rtxContext* ctx, MBSFN_TDM_Info* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBSFN-TDM-Info");
-   /* shortTransmissionID */
-   rtxCtxtPushElemName(ctx, "shortTransmissionID");
-   rtxCtxtPushTypeName(ctx, "MBMS-ShortTransmissionID");
-   stat = pd_ConsUInt8(ctx, &pvalue->shortTransmissionID, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* tDMPeriod */
-   rtxCtxtPushElemName(ctx, "tDMPeriod");
-   stat = pd_ConsUInt8(ctx, &pvalue->tDMPeriod, 2, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tDMOffset */
-   rtxCtxtPushElemName(ctx, "tDMOffset");
-   stat = pd_ConsUInt8(ctx, &pvalue->tDMOffset, 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tDMLength */
-   rtxCtxtPushElemName(ctx, "tDMLength");
-   stat = pd_ConsUInt8(ctx, &pvalue->tDMLength, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MBSFN_TDM_Info_List(rtxContext* ctx, MBSFN_TDM_Info_List* pvalue)
-{
-   int stat;
-   uint32_t count, i;
-   rtxCtxtPushTypeName(ctx, "MBSFN-TDM-Info-List");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pd_Length(ctx, &count);
-   RT_CHECK(ctx, stat);
-   rtxDListInit(pvalue);
-   for (i = 0; i < count; i++) {
-      rtxDListNode* node;
-      MBSFN_TDM_Info* elem;
-      rtxCtxtPushArrayElemName(ctx, "MBSFN-TDM-Info", i);
-      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(MBSFN_TDM_Info));
-      if (node == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-      elem = (MBSFN_TDM_Info*)(node + 1);
-      node->data = elem;
-      rtxDListAppendNode(pvalue, node);
-      stat = asn1PD_UMTS_MBSFN_TDM_Info(ctx, elem);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_r3_IEs(rtxContext* ctx, ActiveSetUpdate_r3_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "ActiveSetUpdate-r3-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 11);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfigurationComplete");
    /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
    stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dummy */
-   if (present & ((uint32_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "dummy");
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RadioBearerReconfigurationComplete");
+   /* ul-IntegProtActivationInfo */
+   if (present & ((uint32_t)1 << 5)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_IntegrityProtActivationInfo(ctx, &pvalue->ul_IntegProtActivationInfo);
+      RT_CHECK(ctx, stat, 0, "ul-IntegProtActivationInfo", -1, "RadioBearerReconfigurationComplete");
+   }
+   /* ul-TimingAdvance */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->ul_TimingAdvance, 0, 63);
+      RT_CHECK(ctx, stat, "UL-TimingAdvance", "ul-TimingAdvance", -1, "RadioBearerReconfigurationComplete");
+   }
+   /* count-C-ActivationTime */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->count_C_ActivationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "count-C-ActivationTime", -1, "RadioBearerReconfigurationComplete");
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "RadioBearerReconfigurationComplete");
+   }
+   /* ul-CounterSynchronisationInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_UL_CounterSynchronisationInfo(ctx, &pvalue->ul_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CounterSynchronisationInfo", -1, "RadioBearerReconfigurationComplete");
+   }
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_RadioBearerReconfigurationComplete_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "RadioBearerReconfigurationComplete");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfigurationFailure_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfigurationFailure_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfigurationFailure_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReconfigurationFailure_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfigurationFailure-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->radioBearerReconfigurationFailure_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "radioBearerReconfigurationFailure-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RadioBearerReconfigurationFailure_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReconfigurationFailure(rtxContext* RT_RESTRICT ctx, RadioBearerReconfigurationFailure* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfigurationFailure");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RadioBearerReconfigurationFailure");
+   /* failureCause */
+   stat = asn1PD_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
+   RT_CHECK(ctx, stat, 0, "failureCause", -1, "RadioBearerReconfigurationFailure");
+   /* potentiallySuccesfulBearerList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RB_IdentityList(ctx, &pvalue->potentiallySuccesfulBearerList);
+      RT_CHECK(ctx, stat, 0, "potentiallySuccesfulBearerList", -1, "RadioBearerReconfigurationFailure");
+   }
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RadioBearerReconfigurationFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "RadioBearerReconfigurationFailure");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_r3_IEs_dummy_fdd(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r3_IEs_dummy_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy1 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->dummy1, 1, 16);
+      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy1", -1, 0);
    }
    /* dummy2 */
-   if (present & ((uint32_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "dummy2");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newU-RNTI */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "newU-RNTI");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->newU_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy3 */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "dummy3");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dummy3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      pvalue->m |= 0x40u;
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rl-AdditionInformationList */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "rl-AdditionInformationList");
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_RL_AdditionInformationList(ctx, &pvalue->rl_AdditionInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rl-RemovalInformationList */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "rl-RemovalInformationList");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_RL_RemovalInformationList(ctx, &pvalue->rl_RemovalInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tx-DiversityMode */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "tx-DiversityMode");
-      pvalue->m |= 0x200u;
-      rtxCtxtPushTypeName(ctx, "TX-DiversityMode");
-      stat = pd_ConsUnsigned(ctx, &pvalue->tx_DiversityMode, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy4 */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy4");
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_SSDT_Information(ctx, &pvalue->dummy4);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_ActiveSetUpdate_v4b0ext_IEs(rtxContext* ctx, ActiveSetUpdate_v4b0ext_IEs* pvalue)
+int asn1PD_UMTS_RadioBearerRelease_r3_IEs_dummy(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r3_IEs_dummy* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (RadioBearerRelease_r3_IEs_dummy_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_r3_IEs_dummy_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_RadioBearerRelease_r3_IEs_dummy_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_RadioBearerRelease_r3_IEs_dummy_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_r3_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r3_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "ActiveSetUpdate-v4b0ext-IEs");
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_r3_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r3_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (RadioBearerRelease_r3_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_r3_IEs_modeSpecificPhysChInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_RadioBearerRelease_r3_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_RadioBearerRelease_r3_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_r3_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 24);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RadioBearerRelease-r3-IEs");
+   /* integrityProtectionModeInfo */
+   if (present & ((uint32_t)1 << 23)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint32_t)1 << 22)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint32_t)1 << 21)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* new-U-RNTI */
+   if (present & ((uint32_t)1 << 20)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint32_t)1 << 19)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerRelease-r3-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint32_t)1 << 18)) {
+      pvalue->m |= 0x20u;
+      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 17)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* signallingConnectionRelIndication */
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x80u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->signallingConnectionRelIndication, 0, 1);
+      RT_CHECK(ctx, stat, "CN-DomainIdentity", "signallingConnectionRelIndication", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* rab-InformationReconfigList */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* rb-InformationReleaseList */
+   stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
+   RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "RadioBearerRelease-r3-IEs");
+   /* rb-InformationAffectedList */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_RB_InformationAffectedList(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x8000u;
+      stat = asn1PD_UMTS_RadioBearerRelease_r3_IEs_dummy(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_DL_DeletedTransChInfoList(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfo2List(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x100000u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* ul-ChannelRequirement */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x200000u;
+      stat = asn1PD_UMTS_UL_ChannelRequirement(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* modeSpecificPhysChInfo */
+   stat = asn1PD_UMTS_RadioBearerRelease_r3_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "RadioBearerRelease-r3-IEs");
+   /* dl-CommonInformation */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x400000u;
+      stat = asn1PD_UMTS_DL_CommonInformation(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x800000u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerRelease-r3-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_v3a0ext(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_v3a0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-v3a0ext");
+   /* new-DSCH-RNTI */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerRelease-v3a0ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-v4b0ext-IEs");
    /* dummy */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dummy");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "SSDT-UL");
       stat = pd_ConsUnsigned(ctx, &pvalue->dummy, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "SSDT-UL", "dummy", -1, "RadioBearerRelease-v4b0ext-IEs");
    }
    /* cell-id-PerRL-List */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cell-id-PerRL-List");
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_CellIdentity_PerRL_List(ctx, &pvalue->cell_id_PerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "cell-id-PerRL-List", -1, "RadioBearerRelease-v4b0ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_ActiveSetUpdate_v590ext_IEs(rtxContext* ctx, ActiveSetUpdate_v590ext_IEs* pvalue)
+int asn1PD_UMTS_RadioBearerRelease_v590ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_v590ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "ActiveSetUpdate-v590ext-IEs");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dpc-Mode */
-   rtxCtxtPushElemName(ctx, "dpc-Mode");
-   rtxCtxtPushTypeName(ctx, "DPC-Mode");
-   stat = pd_ConsUnsigned(ctx, &pvalue->dpc_Mode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-v590ext-IEs");
    /* dl-TPC-PowerOffsetPerRL-List */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-TPC-PowerOffsetPerRL-List");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_DL_TPC_PowerOffsetPerRL_List(ctx, &pvalue->dl_TPC_PowerOffsetPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dl-TPC-PowerOffsetPerRL-List", -1, "RadioBearerRelease-v590ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_ActiveSetUpdate_v690ext_IEs(rtxContext* ctx, ActiveSetUpdate_v690ext_IEs* pvalue)
+int asn1PD_UMTS_RadioBearerRelease_v690ext_IEs_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_v690ext_IEs_postVerificationPeriod* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_v690ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_v690ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "ActiveSetUpdate-v690ext-IEs");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   stat = rtxDecBitsFast(ctx, &present, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-v690ext-IEs");
    /* primary-plmn-Identity */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "primary-plmn-Identity");
+   if (present & ((uint32_t)1 << 7)) {
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "primary-plmn-Identity", -1, "RadioBearerRelease-v690ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
+   /* harq-Preamble-Mode */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->harq_Preamble_Mode, 0, 1);
+      RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "RadioBearerRelease-v690ext-IEs");
+   }
+   /* beaconPLEst */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "RadioBearerRelease-v690ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "RadioBearerRelease-v690ext-IEs");
+         pvalue->beaconPLEst = ui;
+      }
+   }
+   /* postVerificationPeriod */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "RadioBearerRelease-v690ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "RadioBearerRelease-v690ext-IEs");
+         pvalue->postVerificationPeriod = ui;
+      }
+   }
+   /* dhs-sync */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x10u;
+      stat = pd_ConsInt8(ctx, &pvalue->dhs_sync, -20, 10);
+      RT_CHECK(ctx, stat, "DHS-Sync", "dhs-sync", -1, "RadioBearerRelease-v690ext-IEs");
+   }
+   /* timingMaintainedSynchInd */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x20u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "TimingMaintainedSynchInd", "timingMaintainedSynchInd", -1, "RadioBearerRelease-v690ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "TimingMaintainedSynchInd", "timingMaintainedSynchInd", -1, "RadioBearerRelease-v690ext-IEs");
+         pvalue->timingMaintainedSynchInd = ui;
+      }
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x40u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerRelease-v690ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerRelease-v690ext-IEs");
+         pvalue->mbms_PL_ServiceRestrictInfo = ui;
+      }
+   }
+   /* mbms-RB-ListReleasedToChangeTransferMode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->mbms_RB_ListReleasedToChangeTransferMode);
+      RT_CHECK(ctx, stat, 0, "mbms-RB-ListReleasedToChangeTransferMode", -1, "RadioBearerRelease-v690ext-IEs");
+   }
    return 0;
 }
 
-int asn1PD_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* ctx, ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_RadioBearerRelease_v770ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_v770ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* activeSetUpdate-v690ext */
-   rtxCtxtPushElemName(ctx, "activeSetUpdate-v690ext");
-   stat = asn1PD_UMTS_ActiveSetUpdate_v690ext_IEs(ctx, &pvalue->activeSetUpdate_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-v770ext-IEs");
+   /* ueMobilityStateIndicator */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerRelease-v770ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerRelease-v770ext-IEs");
+         pvalue->ueMobilityStateIndicator = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v770ext */
+   stat = asn1PD_UMTS_RadioBearerRelease_v770ext_IEs(ctx, &pvalue->radioBearerRelease_v770ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v770ext", -1, 0);
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* ctx, ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* activeSetUpdate-v590ext */
-   rtxCtxtPushElemName(ctx, "activeSetUpdate-v590ext");
-   stat = asn1PD_UMTS_ActiveSetUpdate_v590ext_IEs(ctx, &pvalue->activeSetUpdate_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v690ext */
+   stat = asn1PD_UMTS_RadioBearerRelease_v690ext_IEs(ctx, &pvalue->radioBearerRelease_v690ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v590ext */
+   stat = asn1PD_UMTS_RadioBearerRelease_v590ext_IEs(ctx, &pvalue->radioBearerRelease_v590ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v590ext", -1, 0);
    /* v690NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* ctx, ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* activeSetUpdate-v4b0ext */
-   rtxCtxtPushElemName(ctx, "activeSetUpdate-v4b0ext");
-   stat = asn1PD_UMTS_ActiveSetUpdate_v4b0ext_IEs(ctx, &pvalue->activeSetUpdate_v4b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v4b0ext */
+   stat = asn1PD_UMTS_RadioBearerRelease_v4b0ext_IEs(ctx, &pvalue->radioBearerRelease_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v4b0ext", -1, 0);
    /* v590NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions(rtxContext* ctx, ActiveSetUpdate_r3_laterNonCriticalExtensions* pvalue)
+int asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* activeSetUpdate-r3-add-ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-r3-add-ext */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "activeSetUpdate-r3-add-ext");
       pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->activeSetUpdate_r3_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_DynBitString(ctx, &pvalue->radioBearerRelease_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "radioBearerRelease-r3-add-ext", -1, 0);
    }
    /* v4b0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v4b0NonCriticalExtensions");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_ActiveSetUpdate_r3(rtxContext* ctx, ActiveSetUpdate_r3* pvalue)
+int asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r3_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* activeSetUpdate-r3 */
-   rtxCtxtPushElemName(ctx, "activeSetUpdate-r3");
-   stat = asn1PD_UMTS_ActiveSetUpdate_r3_IEs(ctx, &pvalue->activeSetUpdate_r3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v3a0ext */
+   stat = asn1PD_UMTS_RadioBearerRelease_v3a0ext(ctx, &pvalue->radioBearerRelease_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v3a0ext", -1, 0);
    /* laterNonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_ActiveSetUpdate_r6_IEs(rtxContext* ctx, ActiveSetUpdate_r6_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "ActiveSetUpdate-r6-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 13);
-   RT_CHECK(ctx, stat);
-   /* activationTime */
-   if (present & ((uint32_t)1 << 12)) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newU-RNTI */
-   if (present & ((uint32_t)1 << 11)) {
-      rtxCtxtPushElemName(ctx, "newU-RNTI");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->newU_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newH-RNTI */
-   if (present & ((uint32_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "newH-RNTI");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->newH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint32_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint32_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      pvalue->m |= 0x40u;
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rl-AdditionInformationList */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "rl-AdditionInformationList");
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_RL_AdditionInformationList_r6(ctx, &pvalue->rl_AdditionInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rl-RemovalInformationList */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "rl-RemovalInformationList");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_RL_RemovalInformationList(ctx, &pvalue->rl_RemovalInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tx-DiversityMode */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "tx-DiversityMode");
-      pvalue->m |= 0x200u;
-      rtxCtxtPushTypeName(ctx, "TX-DiversityMode");
-      stat = pd_ConsUnsigned(ctx, &pvalue->tx_DiversityMode, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dpc-Mode */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "dpc-Mode");
-      pvalue->m |= 0x400u;
-      rtxCtxtPushTypeName(ctx, "DPC-Mode");
-      stat = pd_ConsUnsigned(ctx, &pvalue->dpc_Mode, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* serving-HSDSCH-CellInformation */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "serving-HSDSCH-CellInformation");
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_Serving_HSDSCH_CellInformation(ctx, &pvalue->serving_HSDSCH_CellInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-dch-ReconfigurationInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "e-dch-ReconfigurationInfo");
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_E_DCH_ReconfigurationInfo(ctx, &pvalue->e_dch_ReconfigurationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_v6b0ext_IEs(rtxContext* ctx, ActiveSetUpdate_v6b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "ActiveSetUpdate-v6b0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* rl-AdditionInformation-list-v6b0ext */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "rl-AdditionInformation-list-v6b0ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RL_AdditionInformation_list_v6b0ext(ctx, &pvalue->rl_AdditionInformation_list_v6b0ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_RadioBearerRelease_r3(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r3* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* activeSetUpdate-v6b0ext */
-   rtxCtxtPushElemName(ctx, "activeSetUpdate-v6b0ext");
-   stat = asn1PD_UMTS_ActiveSetUpdate_v6b0ext_IEs(ctx, &pvalue->activeSetUpdate_v6b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-r3 */
+   stat = asn1PD_UMTS_RadioBearerRelease_r3_IEs(ctx, &pvalue->radioBearerRelease_r3);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-r3", -1, 0);
+   /* v3a0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6(rtxContext* ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_r6* pvalue)
+int asn1PD_UMTS_RadioBearerRelease_r4_IEs_dummy_fdd(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r4_IEs_dummy_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* activeSetUpdate-r6 */
-   rtxCtxtPushElemName(ctx, "activeSetUpdate-r6");
-   stat = asn1PD_UMTS_ActiveSetUpdate_r6_IEs(ctx, &pvalue->activeSetUpdate_r6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* activeSetUpdate-r6-add-ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy1 */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "activeSetUpdate-r6-add-ext");
       pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->activeSetUpdate_r6_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUInt8(ctx, &pvalue->dummy1, 1, 16);
+      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy1", -1, 0);
    }
-   /* v6b0NonCriticalExtensions */
+   /* dummy2 */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v6b0NonCriticalExtensions");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_ActiveSetUpdate_r7_IEs(rtxContext* ctx, ActiveSetUpdate_r7_IEs* pvalue)
+int asn1PD_UMTS_RadioBearerRelease_r4_IEs_dummy(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r4_IEs_dummy* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (RadioBearerRelease_r4_IEs_dummy_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_r4_IEs_dummy_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_RadioBearerRelease_r4_IEs_dummy_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_RadioBearerRelease_r4_IEs_dummy_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_r4_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r4_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "ActiveSetUpdate-r7-IEs");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 21);
-   RT_CHECK(ctx, stat);
-   /* activationTime */
-   if (present & ((uint32_t)1 << 20)) {
-      rtxCtxtPushElemName(ctx, "activationTime");
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
    }
-   /* newU-RNTI */
-   if (present & ((uint32_t)1 << 19)) {
-      rtxCtxtPushElemName(ctx, "newU-RNTI");
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_r4_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r4_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (RadioBearerRelease_r4_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_r4_IEs_modeSpecificPhysChInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_RadioBearerRelease_r4_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_RadioBearerRelease_r4_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_r4_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r4_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 25);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-r4-IEs");
+   /* integrityProtectionModeInfo */
+   if (present & ((uint32_t)1 << 24)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerRelease-r4-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint32_t)1 << 23)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->newU_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerRelease-r4-IEs");
    }
-   /* newH-RNTI */
-   if (present & ((uint32_t)1 << 18)) {
-      rtxCtxtPushElemName(ctx, "newH-RNTI");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->newH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint32_t)1 << 17)) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint32_t)1 << 16)) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 15)) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dtx-drx-TimingInfo */
-   if (present & ((uint32_t)1 << 14)) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-TimingInfo");
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dtx-drx-Info */
-   if (present & ((uint32_t)1 << 13)) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-Info");
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hs-scch-LessInfo */
-   if (present & ((uint32_t)1 << 12)) {
-      rtxCtxtPushElemName(ctx, "hs-scch-LessInfo");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mimoParameters */
-   if (present & ((uint32_t)1 << 11)) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_MIMO_Parameters_r7(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      pvalue->m |= 0x400u;
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rl-AdditionInformationList */
-   if (present & ((uint32_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "rl-AdditionInformationList");
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_RL_AdditionInformationList_r7(ctx, &pvalue->rl_AdditionInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rl-RemovalInformationList */
-   if (present & ((uint32_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "rl-RemovalInformationList");
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_RL_RemovalInformationList(ctx, &pvalue->rl_RemovalInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tx-DiversityMode */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "tx-DiversityMode");
-      pvalue->m |= 0x2000u;
-      rtxCtxtPushTypeName(ctx, "TX-DiversityMode");
-      stat = pd_ConsUnsigned(ctx, &pvalue->tx_DiversityMode, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dpc-Mode */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "dpc-Mode");
-      pvalue->m |= 0x4000u;
-      rtxCtxtPushTypeName(ctx, "DPC-Mode");
-      stat = pd_ConsUnsigned(ctx, &pvalue->dpc_Mode, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* serving-HSDSCH-CellInformation */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "serving-HSDSCH-CellInformation");
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_Serving_HSDSCH_CellInformation_r7(ctx, &pvalue->serving_HSDSCH_CellInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-dch-ReconfigurationInfo */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "e-dch-ReconfigurationInfo");
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_E_DCH_ReconfigurationInfo_r7(ctx, &pvalue->e_dch_ReconfigurationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-16QAM-Config */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "ul-16QAM-Config");
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_UL_16QAM_Config(ctx, &pvalue->ul_16QAM_Config);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-dch-ReconfInfoSameCell */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "e-dch-ReconfInfoSameCell");
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_E_DCH_RL_InfoSameServingCell(ctx, &pvalue->e_dch_ReconfInfoSameCell);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-TFC-Boost-Info */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "e-TFC-Boost-Info");
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_E_TFC_Boost_Info_r7(ctx, &pvalue->e_TFC_Boost_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-DPDCH-PowerInterpolation */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "e-DPDCH-PowerInterpolation");
-      pvalue->m |= 0x100000u;
-      rtxCtxtPushTypeName(ctx, "E-DPDCH-PowerInterpolation");
-      stat = rtxDecBitInline(ctx, &pvalue->e_DPDCH_PowerInterpolation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_v780ext_IEs(rtxContext* ctx, ActiveSetUpdate_v780ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "ActiveSetUpdate-v780ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* hs-DSCH-TBSizeTable */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "hs-DSCH-TBSizeTable");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "HS-DSCH-TBSizeTable");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->hs_DSCH_TBSizeTable = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_v7f0ext_IEs(rtxContext* ctx, ActiveSetUpdate_v7f0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "ActiveSetUpdate-v7f0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* mimoParameters */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MIMO_Parameters_v7f0ext(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_v7g0ext_IEs(rtxContext* ctx, ActiveSetUpdate_v7g0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "ActiveSetUpdate-v7g0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* mimoParameters */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MIMO_Parameters_v7g0ext(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* activeSetUdpate-v7g0ext */
-   rtxCtxtPushElemName(ctx, "activeSetUdpate-v7g0ext");
-   stat = asn1PD_UMTS_ActiveSetUpdate_v7g0ext_IEs(ctx, &pvalue->activeSetUdpate_v7g0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* activeSetUdpate-v7f0ext */
-   rtxCtxtPushElemName(ctx, "activeSetUdpate-v7f0ext");
-   stat = asn1PD_UMTS_ActiveSetUpdate_v7f0ext_IEs(ctx, &pvalue->activeSetUdpate_v7f0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v7g0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v7g0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* activeSetUpdate-v780ext */
-   rtxCtxtPushElemName(ctx, "activeSetUpdate-v780ext");
-   stat = asn1PD_UMTS_ActiveSetUpdate_v780ext_IEs(ctx, &pvalue->activeSetUpdate_v780ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v7f0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v7f0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7(rtxContext* ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* activeSetUpdate-r7 */
-   rtxCtxtPushElemName(ctx, "activeSetUpdate-r7");
-   stat = asn1PD_UMTS_ActiveSetUpdate_r7_IEs(ctx, &pvalue->activeSetUpdate_r7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* activeSetUpdate-r7-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "activeSetUpdate-r7-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->activeSetUpdate_r7_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v780NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v780NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_r8_IEs(rtxContext* ctx, ActiveSetUpdate_r8_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "ActiveSetUpdate-r8-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 23);
-   RT_CHECK(ctx, stat);
    /* activationTime */
    if (present & ((uint32_t)1 << 22)) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newU-RNTI */
-   if (present & ((uint32_t)1 << 21)) {
-      rtxCtxtPushElemName(ctx, "newU-RNTI");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->newU_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newH-RNTI */
-   if (present & ((uint32_t)1 << 20)) {
-      rtxCtxtPushElemName(ctx, "newH-RNTI");
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->newH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerRelease-r4-IEs");
    }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint32_t)1 << 19)) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
+   /* new-U-RNTI */
+   if (present & ((uint32_t)1 << 21)) {
       pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerRelease-r4-IEs");
    }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint32_t)1 << 18)) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
+   /* new-C-RNTI */
+   if (present & ((uint32_t)1 << 20)) {
       pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerRelease-r4-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint32_t)1 << 19)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerRelease-r4-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerRelease-r4-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint32_t)1 << 18)) {
+      pvalue->m |= 0x40u;
+      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerRelease-r4-IEs");
    }
    /* cn-InformationInfo */
    if (present & ((uint32_t)1 << 17)) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dtx-drx-TimingInfo */
-   if (present & ((uint32_t)1 << 16)) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-TimingInfo");
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dtx-drx-Info */
-   if (present & ((uint32_t)1 << 15)) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-Info");
       pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerRelease-r4-IEs");
    }
-   /* hs-scch-LessInfo */
-   if (present & ((uint32_t)1 << 14)) {
-      rtxCtxtPushElemName(ctx, "hs-scch-LessInfo");
+   /* signallingConnectionRelIndication */
+   if (present & ((uint32_t)1 << 16)) {
       pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUnsigned(ctx, &pvalue->signallingConnectionRelIndication, 0, 1);
+      RT_CHECK(ctx, stat, "CN-DomainIdentity", "signallingConnectionRelIndication", -1, "RadioBearerRelease-r4-IEs");
    }
-   /* mimoParameters */
-   if (present & ((uint32_t)1 << 13)) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
+   /* ura-Identity */
+   if (present & ((uint32_t)1 << 15)) {
       pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_MIMO_Parameters_r8(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerRelease-r4-IEs");
+   }
+   /* rab-InformationReconfigList */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, "RadioBearerRelease-r4-IEs");
+   }
+   /* rb-InformationReleaseList */
+   stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
+   RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "RadioBearerRelease-r4-IEs");
+   /* rb-InformationAffectedList */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_RB_InformationAffectedList(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerRelease-r4-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "RadioBearerRelease-r4-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerRelease-r4-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerRelease-r4-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x8000u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerRelease-r4-IEs");
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_RadioBearerRelease_r4_IEs_dummy(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "RadioBearerRelease-r4-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerRelease-r4-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_DL_DeletedTransChInfoList(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerRelease-r4-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r4(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerRelease-r4-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x100000u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerRelease-r4-IEs");
    }
    /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 12)) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      pvalue->m |= 0x400u;
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rl-AdditionInformationList */
-   if (present & ((uint32_t)1 << 11)) {
-      rtxCtxtPushElemName(ctx, "rl-AdditionInformationList");
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_RL_AdditionInformationList_r8(ctx, &pvalue->rl_AdditionInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* servingCellChangeParameters */
-   if (present & ((uint32_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "servingCellChangeParameters");
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_ServingCellChangeParameters(ctx, &pvalue->servingCellChangeParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rl-RemovalInformationList */
-   if (present & ((uint32_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "rl-RemovalInformationList");
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_RL_RemovalInformationList(ctx, &pvalue->rl_RemovalInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tx-DiversityMode */
-   if (present & ((uint32_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "tx-DiversityMode");
-      pvalue->m |= 0x4000u;
-      rtxCtxtPushTypeName(ctx, "TX-DiversityMode");
-      stat = pd_ConsUnsigned(ctx, &pvalue->tx_DiversityMode, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dpc-Mode */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "dpc-Mode");
-      pvalue->m |= 0x8000u;
-      rtxCtxtPushTypeName(ctx, "DPC-Mode");
-      stat = pd_ConsUnsigned(ctx, &pvalue->dpc_Mode, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* serving-HSDSCH-CellInformation */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "serving-HSDSCH-CellInformation");
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_Serving_HSDSCH_CellInformation_r8(ctx, &pvalue->serving_HSDSCH_CellInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-dch-ReconfigurationInfo */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "e-dch-ReconfigurationInfo");
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_E_DCH_ReconfigurationInfo_r7(ctx, &pvalue->e_dch_ReconfigurationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-16QAM-Config */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "ul-16QAM-Config");
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_UL_16QAM_Config(ctx, &pvalue->ul_16QAM_Config);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-dch-ReconfInfoSameCell */
    if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "e-dch-ReconfInfoSameCell");
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_E_DCH_RL_InfoSameServingCell(ctx, &pvalue->e_dch_ReconfInfoSameCell);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-TFC-Boost-Info */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "e-TFC-Boost-Info");
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_E_TFC_Boost_Info_r7(ctx, &pvalue->e_TFC_Boost_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-DPDCH-PowerInterpolation */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "e-DPDCH-PowerInterpolation");
       pvalue->m |= 0x200000u;
-      rtxCtxtPushTypeName(ctx, "E-DPDCH-PowerInterpolation");
-      stat = rtxDecBitInline(ctx, &pvalue->e_DPDCH_PowerInterpolation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerRelease-r4-IEs");
    }
-   /* dl-SecondaryCellInfoFDD */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-SecondaryCellInfoFDD");
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD(ctx, &pvalue->dl_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_v890ext_IEs(rtxContext* ctx, ActiveSetUpdate_v890ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "ActiveSetUpdate-v890ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* dl-SecondaryCellInfoFDD-v890ext */
+   /* ul-ChannelRequirement */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "dl-SecondaryCellInfoFDD-v890ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_v890ext(ctx, &pvalue->dl_SecondaryCellInfoFDD_v890ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x400000u;
+      stat = asn1PD_UMTS_UL_ChannelRequirement_r4(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "RadioBearerRelease-r4-IEs");
    }
-   /* mimoParameters */
+   /* modeSpecificPhysChInfo */
+   stat = asn1PD_UMTS_RadioBearerRelease_r4_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "RadioBearerRelease-r4-IEs");
+   /* dl-CommonInformation */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MIMO_Parameters_v7f0ext(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x800000u;
+      stat = asn1PD_UMTS_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerRelease-r4-IEs");
    }
-   /* rl-AdditionInformationList */
+   /* dl-InformationPerRL-List */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "rl-AdditionInformationList");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_RL_AdditionInformationList_v890ext(ctx, &pvalue->rl_AdditionInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x1000000u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r4(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerRelease-r4-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* pvalue)
+int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    return 0;
 }
 
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* activeSetUpdate-v7g0ext */
-   rtxCtxtPushElemName(ctx, "activeSetUpdate-v7g0ext");
-   stat = asn1PD_UMTS_ActiveSetUpdate_v7g0ext_IEs(ctx, &pvalue->activeSetUpdate_v7g0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v770ext */
+   stat = asn1PD_UMTS_RadioBearerRelease_v770ext_IEs(ctx, &pvalue->radioBearerRelease_v770ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v770ext", -1, 0);
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions(rtxContext* ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* activeSetUpdate-v890ext */
-   rtxCtxtPushElemName(ctx, "activeSetUpdate-v890ext");
-   stat = asn1PD_UMTS_ActiveSetUpdate_v890ext_IEs(ctx, &pvalue->activeSetUpdate_v890ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v7g0NonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v690ext */
+   stat = asn1PD_UMTS_RadioBearerRelease_v690ext_IEs(ctx, &pvalue->radioBearerRelease_v690ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v7g0NonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8* pvalue)
+int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v590ext */
+   stat = asn1PD_UMTS_RadioBearerRelease_v590ext_IEs(ctx, &pvalue->radioBearerRelease_v590ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v590ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* activeSetUpdate-r8 */
-   rtxCtxtPushElemName(ctx, "activeSetUpdate-r8");
-   stat = asn1PD_UMTS_ActiveSetUpdate_r8_IEs(ctx, &pvalue->activeSetUpdate_r8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* activeSetUpdate-r8-add-ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-r4-add-ext */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "activeSetUpdate-r8-add-ext");
       pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->activeSetUpdate_r8_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_DynBitString(ctx, &pvalue->radioBearerRelease_r4_add_ext);
+      RT_CHECK(ctx, stat, 0, "radioBearerRelease-r4-add-ext", -1, 0);
    }
-   /* v890NonCriticalExtensions */
+   /* v590NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v890NonCriticalExtensions");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_ActiveSetUpdate_r9_IEs(rtxContext* ctx, ActiveSetUpdate_r9_IEs* pvalue)
+int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "ActiveSetUpdate-r9-IEs");
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-r4 */
+   stat = asn1PD_UMTS_RadioBearerRelease_r4_IEs(ctx, &pvalue->radioBearerRelease_r4);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-r4", -1, 0);
+   /* v4d0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_r5_IEs_dummy_fdd(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r5_IEs_dummy_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy1 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->dummy1, 1, 16);
+      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy1", -1, 0);
+   }
+   /* dummy2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_r5_IEs_dummy(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r5_IEs_dummy* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (RadioBearerRelease_r5_IEs_dummy_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_r5_IEs_dummy_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_RadioBearerRelease_r5_IEs_dummy_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_RadioBearerRelease_r5_IEs_dummy_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_r5_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r5_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_r5_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r5_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (RadioBearerRelease_r5_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_r5_IEs_modeSpecificPhysChInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_RadioBearerRelease_r5_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_RadioBearerRelease_r5_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_r5_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r5_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 27);
-   RT_CHECK(ctx, stat);
-   /* activationTime */
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-r5-IEs");
+   /* integrityProtectionModeInfo */
    if (present & ((uint32_t)1 << 26)) {
-      rtxCtxtPushElemName(ctx, "activationTime");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerRelease-r5-IEs");
    }
-   /* newU-RNTI */
+   /* cipheringModeInfo */
    if (present & ((uint32_t)1 << 25)) {
-      rtxCtxtPushElemName(ctx, "newU-RNTI");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->newU_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerRelease-r5-IEs");
    }
-   /* newH-RNTI */
+   /* activationTime */
    if (present & ((uint32_t)1 << 24)) {
-      rtxCtxtPushElemName(ctx, "newH-RNTI");
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->newH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* new-U-RNTI */
+   if (present & ((uint32_t)1 << 23)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint32_t)1 << 22)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint32_t)1 << 21)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* new-H-RNTI */
+   if (present & ((uint32_t)1 << 20)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerRelease-r5-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint32_t)1 << 19)) {
+      pvalue->m |= 0x80u;
+      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 18)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* signallingConnectionRelIndication */
+   if (present & ((uint32_t)1 << 17)) {
+      pvalue->m |= 0x200u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->signallingConnectionRelIndication, 0, 1);
+      RT_CHECK(ctx, stat, "CN-DomainIdentity", "signallingConnectionRelIndication", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* rab-InformationReconfigList */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* rb-InformationReleaseList */
+   stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
+   RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "RadioBearerRelease-r5-IEs");
+   /* rb-InformationAffectedList */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_RB_InformationAffectedList_r5(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x8000u;
+      stat = asn1PD_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_RadioBearerRelease_r5_IEs_dummy(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r5(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x100000u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x200000u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x400000u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* ul-ChannelRequirement */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x800000u;
+      stat = asn1PD_UMTS_UL_ChannelRequirement_r5(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* modeSpecificPhysChInfo */
+   stat = asn1PD_UMTS_RadioBearerRelease_r5_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "RadioBearerRelease-r5-IEs");
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1000000u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* dl-CommonInformation */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2000000u;
+      stat = asn1PD_UMTS_DL_CommonInformation_r5(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4000000u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r5(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerRelease-r5-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v770ext */
+   stat = asn1PD_UMTS_RadioBearerRelease_v770ext_IEs(ctx, &pvalue->radioBearerRelease_v770ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v690ext */
+   stat = asn1PD_UMTS_RadioBearerRelease_v690ext_IEs(ctx, &pvalue->radioBearerRelease_v690ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-r5 */
+   stat = asn1PD_UMTS_RadioBearerRelease_r5_IEs(ctx, &pvalue->radioBearerRelease_r5);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-r5", -1, 0);
+   /* radioBearerRelease-r5-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->radioBearerRelease_r5_add_ext);
+      RT_CHECK(ctx, stat, 0, "radioBearerRelease-r5-add-ext", -1, 0);
+   }
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_r6_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r6_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-r6-IEs");
+   /* integrityProtectionModeInfo */
+   if (present & ((uint32_t)1 << 31)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint32_t)1 << 30)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint32_t)1 << 29)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* new-U-RNTI */
+   if (present & ((uint32_t)1 << 28)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint32_t)1 << 27)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint32_t)1 << 26)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* new-H-RNTI */
+   if (present & ((uint32_t)1 << 25)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerRelease-r6-IEs");
    }
    /* newPrimary-E-RNTI */
-   if (present & ((uint32_t)1 << 23)) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
-      pvalue->m |= 0x8u;
+   if (present & ((uint32_t)1 << 24)) {
+      pvalue->m |= 0x80u;
       stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RadioBearerRelease-r6-IEs");
    }
    /* newSecondary-E-RNTI */
-   if (present & ((uint32_t)1 << 22)) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
-      pvalue->m |= 0x10u;
+   if (present & ((uint32_t)1 << 23)) {
+      pvalue->m |= 0x100u;
       stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerRelease-r6-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint32_t)1 << 22)) {
+      pvalue->m |= 0x200u;
+      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerRelease-r6-IEs");
    }
    /* cn-InformationInfo */
    if (present & ((uint32_t)1 << 21)) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      pvalue->m |= 0x20u;
+      pvalue->m |= 0x400u;
       stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerRelease-r6-IEs");
    }
-   /* dtx-drx-TimingInfo */
+   /* signallingConnectionRelIndication */
    if (present & ((uint32_t)1 << 20)) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-TimingInfo");
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x800u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->signallingConnectionRelIndication, 0, 1);
+      RT_CHECK(ctx, stat, "CN-DomainIdentity", "signallingConnectionRelIndication", -1, "RadioBearerRelease-r6-IEs");
    }
-   /* dtx-drx-Info */
+   /* ura-Identity */
    if (present & ((uint32_t)1 << 19)) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-Info");
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerRelease-r6-IEs");
    }
-   /* hs-scch-LessInfo */
+   /* rab-InformationReconfigList */
    if (present & ((uint32_t)1 << 18)) {
-      rtxCtxtPushElemName(ctx, "hs-scch-LessInfo");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, "RadioBearerRelease-r6-IEs");
    }
-   /* mimoParameters */
+   /* rb-InformationReleaseList */
+   stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
+   RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "RadioBearerRelease-r6-IEs");
+   /* rb-InformationReconfigList */
    if (present & ((uint32_t)1 << 17)) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_MIMO_Parameters_r9(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_RB_InformationReconfigList_r6(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x8000u;
+      stat = asn1PD_UMTS_RB_InformationAffectedList_r6(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r6(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x100000u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x200000u;
+      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r5(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x400000u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x800000u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerRelease-r6-IEs");
    }
    /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 16)) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      pvalue->m |= 0x400u;
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-SecondaryCellInfoFDD */
-   if (present & ((uint32_t)1 << 15)) {
-      rtxCtxtPushElemName(ctx, "ul-SecondaryCellInfoFDD");
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_UL_SecondaryCellInfoFDD(ctx, &pvalue->ul_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-dch-ReconfigurationInfo-SecULFrequency */
-   if (present & ((uint32_t)1 << 14)) {
-      rtxCtxtPushElemName(ctx, "e-dch-ReconfigurationInfo-SecULFrequency");
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_E_DCH_ReconfigurationInfo_SecULFrequency(ctx, &pvalue->e_dch_ReconfigurationInfo_SecULFrequency);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rl-AdditionInformationList */
-   if (present & ((uint32_t)1 << 13)) {
-      rtxCtxtPushElemName(ctx, "rl-AdditionInformationList");
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_RL_AdditionInformationList_r9(ctx, &pvalue->rl_AdditionInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rl-AdditionInformationList-SecULFreq */
-   if (present & ((uint32_t)1 << 12)) {
-      rtxCtxtPushElemName(ctx, "rl-AdditionInformationList-SecULFreq");
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_RL_AdditionInformationList_SecULFreq(ctx, &pvalue->rl_AdditionInformationList_SecULFreq);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* servingCellChangeParameters */
-   if (present & ((uint32_t)1 << 11)) {
-      rtxCtxtPushElemName(ctx, "servingCellChangeParameters");
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_ServingCellChangeParameters(ctx, &pvalue->servingCellChangeParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rl-RemovalInformationList */
-   if (present & ((uint32_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "rl-RemovalInformationList");
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_RL_RemovalInformationList(ctx, &pvalue->rl_RemovalInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rl-RemovalInformationList-SecULFreq */
-   if (present & ((uint32_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "rl-RemovalInformationList-SecULFreq");
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_RL_RemovalInformationList_SecULFreq(ctx, &pvalue->rl_RemovalInformationList_SecULFreq);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tx-DiversityMode */
-   if (present & ((uint32_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "tx-DiversityMode");
-      pvalue->m |= 0x40000u;
-      rtxCtxtPushTypeName(ctx, "TX-DiversityMode");
-      stat = pd_ConsUnsigned(ctx, &pvalue->tx_DiversityMode, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dpc-Mode */
    if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "dpc-Mode");
-      pvalue->m |= 0x80000u;
-      rtxCtxtPushTypeName(ctx, "DPC-Mode");
-      stat = pd_ConsUnsigned(ctx, &pvalue->dpc_Mode, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* serving-HSDSCH-CellInformation */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "serving-HSDSCH-CellInformation");
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_Serving_HSDSCH_CellInformation_r9(ctx, &pvalue->serving_HSDSCH_CellInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-dch-ReconfigurationInfo */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "e-dch-ReconfigurationInfo");
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_E_DCH_ReconfigurationInfo_r7(ctx, &pvalue->e_dch_ReconfigurationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-16QAM-Config */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "ul-16QAM-Config");
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_UL_16QAM_Config(ctx, &pvalue->ul_16QAM_Config);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-dch-ReconfInfoSameCell */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "e-dch-ReconfInfoSameCell");
-      pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_E_DCH_RL_InfoSameServingCell(ctx, &pvalue->e_dch_ReconfInfoSameCell);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-TFC-Boost-Info */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "e-TFC-Boost-Info");
       pvalue->m |= 0x1000000u;
-      stat = asn1PD_UMTS_E_TFC_Boost_Info_r7(ctx, &pvalue->e_TFC_Boost_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerRelease-r6-IEs");
    }
-   /* e-DPDCH-PowerInterpolation */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "e-DPDCH-PowerInterpolation");
+   /* ul-DPCH-Info */
+   if (present & ((uint32_t)1 << 6)) {
       pvalue->m |= 0x2000000u;
-      rtxCtxtPushTypeName(ctx, "E-DPDCH-PowerInterpolation");
-      stat = rtxDecBitInline(ctx, &pvalue->e_DPDCH_PowerInterpolation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UL_DPCH_Info_r6(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RadioBearerRelease-r6-IEs");
    }
-   /* dl-SecondaryCellInfoFDD */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-SecondaryCellInfoFDD");
+   /* ul-EDCH-Information */
+   if (present & ((uint32_t)1 << 5)) {
       pvalue->m |= 0x4000000u;
-      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_r9(ctx, &pvalue->dl_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UL_EDCH_Information_r6(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerRelease-r6-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* activeSetUpdate-r9 */
-   rtxCtxtPushElemName(ctx, "activeSetUpdate-r9");
-   stat = asn1PD_UMTS_ActiveSetUpdate_r9_IEs(ctx, &pvalue->activeSetUpdate_r9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* activeSetUpdate-r9-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "activeSetUpdate-r9-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->activeSetUpdate_r9_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x8000000u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r6(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerRelease-r6-IEs");
    }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r9");
-         pvalue->u.r9 = (ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9));
-         if (pvalue->u.r9 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(pvalue->u.r9);
-         stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r8");
-         pvalue->u.r8 = (ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8));
-         if (pvalue->u.r8 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8(pvalue->u.r8);
-         stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* ctx, ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r7");
-         pvalue->u.r7 = (ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7));
-         if (pvalue->u.r7 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7(pvalue->u.r7);
-         stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions(rtxContext* ctx, ActiveSetUpdate_later_than_r3_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r6");
-         pvalue->u.r6 = (ActiveSetUpdate_later_than_r3_criticalExtensions_r6*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdate_later_than_r3_criticalExtensions_r6));
-         if (pvalue->u.r6 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6(pvalue->u.r6);
-         stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6(ctx, pvalue->u.r6);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate_later_than_r3(rtxContext* ctx, ActiveSetUpdate_later_than_r3* pvalue)
-{
-   int stat = 0;
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* criticalExtensions */
-   rtxCtxtPushElemName(ctx, "criticalExtensions");
-   stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdate(rtxContext* ctx, ActiveSetUpdate* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "ActiveSetUpdate");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r3");
-         pvalue->u.r3 = (ActiveSetUpdate_r3*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdate_r3));
-         if (pvalue->u.r3 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_ActiveSetUpdate_r3(pvalue->u.r3);
-         stat = asn1PD_UMTS_ActiveSetUpdate_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "later-than-r3");
-         pvalue->u.later_than_r3 = (ActiveSetUpdate_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdate_later_than_r3));
-         if (pvalue->u.later_than_r3 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_ActiveSetUpdate_later_than_r3(pvalue->u.later_than_r3);
-         stat = asn1PD_UMTS_ActiveSetUpdate_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdateComplete_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, ActiveSetUpdateComplete_laterNonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdateComplete_laterNonCriticalExtensions(rtxContext* ctx, ActiveSetUpdateComplete_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* activeSetUpdateComplete-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "activeSetUpdateComplete-r3-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->activeSetUpdateComplete_r3_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_ActiveSetUpdateComplete_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdateComplete(rtxContext* ctx, ActiveSetUpdateComplete* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "ActiveSetUpdateComplete");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dummy */
+   /* dl-CommonInformation */
    if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtActivationInfo(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x10000000u;
+      stat = asn1PD_UMTS_DL_CommonInformation_r6(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerRelease-r6-IEs");
    }
-   /* dummy2 */
+   /* dl-InformationPerRL-List */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "dummy2");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x20000000u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r6(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerRelease-r6-IEs");
    }
-   /* dummy3 */
+   /* mbms-PL-ServiceRestrictInfo */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dummy3");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UL_CounterSynchronisationInfo(ctx, &pvalue->dummy3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_ActiveSetUpdateComplete_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdateFailure_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, ActiveSetUpdateFailure_laterNonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdateFailure_laterNonCriticalExtensions(rtxContext* ctx, ActiveSetUpdateFailure_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* activeSetUpdateFailure-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "activeSetUpdateFailure-r3-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->activeSetUpdateFailure_r3_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_ActiveSetUpdateFailure_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_ActiveSetUpdateFailure(rtxContext* ctx, ActiveSetUpdateFailure* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "ActiveSetUpdateFailure");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* failureCause */
-   rtxCtxtPushElemName(ctx, "failureCause");
-   stat = asn1PD_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ActiveSetUpdateFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_AssistanceDataDelivery_r3_IEs(rtxContext* ctx, AssistanceDataDelivery_r3_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "AssistanceDataDelivery-r3-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ue-positioning-GPS-AssistanceData */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-AssistanceData");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_AssistanceData(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-OTDOA-AssistanceData-UEB */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-AssistanceData-UEB");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData_UEB);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_AssistanceDataDelivery_v3a0ext(rtxContext* ctx, AssistanceDataDelivery_v3a0ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "AssistanceDataDelivery-v3a0ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sfn-Offset-Validity */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "sfn-Offset-Validity");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "SFN-Offset-Validity");
+      pvalue->m |= 0x40000000u;
       {
          uint32_t ui;
          stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerRelease-r6-IEs");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->sfn_Offset_Validity = ui;
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerRelease-r6-IEs");
+         pvalue->mbms_PL_ServiceRestrictInfo = ui;
       }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
    }
-   rtxCtxtPopTypeName(ctx);
+   /* mbms-RB-ListReleasedToChangeTransferMode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x80000000u;
+      stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->mbms_RB_ListReleasedToChangeTransferMode);
+      RT_CHECK(ctx, stat, 0, "mbms-RB-ListReleasedToChangeTransferMode", -1, "RadioBearerRelease-r6-IEs");
+   }
    return 0;
 }
 
-int asn1PD_UMTS_AssistanceDataDelivery_v4b0ext_IEs(rtxContext* ctx, AssistanceDataDelivery_v4b0ext_IEs* pvalue)
+int asn1PD_UMTS_RadioBearerRelease_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_v6b0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "AssistanceDataDelivery-v4b0ext-IEs");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-Positioning-OTDOA-AssistanceData-r4ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-v6b0ext-IEs");
+   /* dl-InformationPerRL-List-v6b0ext */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-OTDOA-AssistanceData-r4ext");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_r4ext(ctx, &pvalue->ue_Positioning_OTDOA_AssistanceData_r4ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_v6b0ext(ctx, &pvalue->dl_InformationPerRL_List_v6b0ext);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List-v6b0ext", -1, "RadioBearerRelease-v6b0ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_AssistanceDataDelivery_v770ext_IEs(rtxContext* ctx, AssistanceDataDelivery_v770ext_IEs* pvalue)
+int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "AssistanceDataDelivery-v770ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* ue-Positioning-OTDOA-AssistanceData-UEB-ext */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-OTDOA-AssistanceData-UEB-ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB_ext(ctx, &pvalue->ue_Positioning_OTDOA_AssistanceData_UEB_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-Positioning-GPS-AssistanceData */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-GPS-AssistanceData");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_AssistanceData_v770ext(ctx, &pvalue->ue_Positioning_GPS_AssistanceData);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GANSS-AssistanceData */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-AssistanceData");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData(ctx, &pvalue->ue_positioning_GANSS_AssistanceData);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_AssistanceDataDelivery_v860ext_IEs(rtxContext* ctx, AssistanceDataDelivery_v860ext_IEs* pvalue)
+int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "AssistanceDataDelivery-v860ext-IEs");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GANSS-AssistanceData-v860ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v770ext */
+   stat = asn1PD_UMTS_RadioBearerRelease_v770ext_IEs(ctx, &pvalue->radioBearerRelease_v770ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v770ext", -1, 0);
+   /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-AssistanceData-v860ext");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData_v860ext(ctx, &pvalue->ue_positioning_GANSS_AssistanceData_v860ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_AssistanceDataDelivery_v920ext_IEs(rtxContext* ctx, AssistanceDataDelivery_v920ext_IEs* pvalue)
+int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "AssistanceDataDelivery-v920ext-IEs");
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v6b0ext */
+   stat = asn1PD_UMTS_RadioBearerRelease_v6b0ext_IEs(ctx, &pvalue->radioBearerRelease_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v6b0ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GPS-AssistanceData-v920ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-r6 */
+   stat = asn1PD_UMTS_RadioBearerRelease_r6_IEs(ctx, &pvalue->radioBearerRelease_r6);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-r6", -1, 0);
+   /* radioBearerRelease-r6-add-ext */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-AssistanceData-v920ext");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_GPS_AssistanceData_v920ext(ctx, &pvalue->ue_positioning_GPS_AssistanceData_v920ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_DynBitString(ctx, &pvalue->radioBearerRelease_r6_add_ext);
+      RT_CHECK(ctx, stat, 0, "radioBearerRelease-r6-add-ext", -1, 0);
    }
-   /* ue-positioning-GANSS-AssistanceData-v920ext */
+   /* v6b0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-AssistanceData-v920ext");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_Positioning_GANSS_AssistanceData_v920ext(ctx, &pvalue->ue_positioning_GANSS_AssistanceData_v920ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_r7_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r7_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint64_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   {
+      uint32_t hi, lo;
+      stat = rtxDecBitsFast(ctx, &hi, 7);
+      RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-r7-IEs");
+      stat = rtxDecBitsFast(ctx, &lo, 32);
+      RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-r7-IEs");
+      present = ((uint64_t)hi << 32) | lo;
+   }
+   /* integrityProtectionModeInfo */
+   if (present & ((uint64_t)1 << 38)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint64_t)1 << 37)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint64_t)1 << 36)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* new-U-RNTI */
+   if (present & ((uint64_t)1 << 35)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint64_t)1 << 34)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint64_t)1 << 33)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* new-H-RNTI */
+   if (present & ((uint64_t)1 << 32)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (present & ((uint64_t)1 << 31)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint64_t)1 << 30)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerRelease-r7-IEs");
+   /* ueMobilityStateIndicator */
+   if (present & ((uint64_t)1 << 29)) {
+      pvalue->m |= 0x200u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerRelease-r7-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerRelease-r7-IEs");
+         pvalue->ueMobilityStateIndicator = ui;
+      }
+   }
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint64_t)1 << 28)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint64_t)1 << 27)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* signallingConnectionRelIndication */
+   if (present & ((uint64_t)1 << 26)) {
+      pvalue->m |= 0x1000u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->signallingConnectionRelIndication, 0, 1);
+      RT_CHECK(ctx, stat, "CN-DomainIdentity", "signallingConnectionRelIndication", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint64_t)1 << 25)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   if (present & ((uint64_t)1 << 24)) {
+      pvalue->m |= 0x4000u;
+      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* rab-InformationReconfigList */
+   if (present & ((uint64_t)1 << 23)) {
+      pvalue->m |= 0x8000u;
+      stat = asn1PD_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* rb-InformationReleaseList */
+   stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
+   RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "RadioBearerRelease-r7-IEs");
+   /* rb-InformationReconfigList */
+   if (present & ((uint64_t)1 << 22)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_RB_InformationReconfigList_r7(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (present & ((uint64_t)1 << 21)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_RB_InformationAffectedList_r7(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint64_t)1 << 20)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint64_t)1 << 19)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (present & ((uint64_t)1 << 18)) {
+      pvalue->m |= 0x100000u;
+      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint64_t)1 << 17)) {
+      pvalue->m |= 0x200000u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r7(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint64_t)1 << 16)) {
+      pvalue->m |= 0x400000u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (present & ((uint64_t)1 << 15)) {
+      pvalue->m |= 0x800000u;
+      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint64_t)1 << 14)) {
+      pvalue->m |= 0x1000000u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint64_t)1 << 13)) {
+      pvalue->m |= 0x2000000u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (present & ((uint64_t)1 << 12)) {
+      pvalue->m |= 0x4000000u;
+      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (present & ((uint64_t)1 << 11)) {
+      pvalue->m |= 0x8000000u;
+      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* dtx-drx-Info */
+   if (present & ((uint64_t)1 << 10)) {
+      pvalue->m |= 0x10000000u;
+      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (present & ((uint64_t)1 << 9)) {
+      pvalue->m |= 0x20000000u;
+      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* mimoParameters */
+   if (present & ((uint64_t)1 << 8)) {
+      pvalue->m |= 0x40000000u;
+      stat = asn1PD_UMTS_MIMO_Parameters_r7(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint64_t)1 << 7)) {
+      pvalue->m |= 0x80000000u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (present & ((uint64_t)1 << 6)) {
+      pvalue->m |= 0x100000000ull;
+      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (present & ((uint64_t)1 << 5)) {
+      pvalue->m |= 0x200000000ull;
+      stat = asn1PD_UMTS_UL_EDCH_Information_r7(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint64_t)1 << 4)) {
+      pvalue->m |= 0x400000000ull;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* dl-CommonInformation */
+   if (present & ((uint64_t)1 << 3)) {
+      pvalue->m |= 0x800000000ull;
+      stat = asn1PD_UMTS_DL_CommonInformation_r7(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint64_t)1 << 2)) {
+      pvalue->m |= 0x1000000000ull;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (present & ((uint64_t)1 << 1)) {
+      pvalue->m |= 0x2000000000ull;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerRelease-r7-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerRelease-r7-IEs");
+         pvalue->mbms_PL_ServiceRestrictInfo = ui;
+      }
+   }
+   /* mbms-RB-ListReleasedToChangeTransferMode */
+   if (present & ((uint64_t)1 << 0)) {
+      pvalue->m |= 0x4000000000ull;
+      stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->mbms_RB_ListReleasedToChangeTransferMode);
+      RT_CHECK(ctx, stat, 0, "mbms-RB-ListReleasedToChangeTransferMode", -1, "RadioBearerRelease-r7-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_v780ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_v780ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-v780ext-IEs");
+   /* hs-DSCH-TBSizeTable */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "RadioBearerRelease-v780ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "RadioBearerRelease-v780ext-IEs");
+         pvalue->hs_DSCH_TBSizeTable = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_v7d0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_v7d0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-v7d0ext-IEs");
+   /* ul-EDCH-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UL_EDCH_Information_ext(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerRelease-v7d0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_v7f0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_v7f0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-v7f0ext-IEs");
+   /* mimoParameters */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MIMO_Parameters_v7f0ext(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerRelease-v7f0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_v7g0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-v7g0ext-IEs");
+   /* mimoParameters */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MIMO_Parameters_v7g0ext(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerRelease-v7g0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v7g0ext */
+   stat = asn1PD_UMTS_RadioBearerRelease_v7g0ext_IEs(ctx, &pvalue->radioBearerRelease_v7g0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v7g0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v7f0ext */
+   stat = asn1PD_UMTS_RadioBearerRelease_v7f0ext_IEs(ctx, &pvalue->radioBearerRelease_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v7f0ext", -1, 0);
+   /* v7g0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v7d0ext */
+   stat = asn1PD_UMTS_RadioBearerRelease_v7d0ext_IEs(ctx, &pvalue->radioBearerRelease_v7d0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v7d0ext", -1, 0);
+   /* v7f0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v780ext */
+   stat = asn1PD_UMTS_RadioBearerRelease_v780ext_IEs(ctx, &pvalue->radioBearerRelease_v780ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v780ext", -1, 0);
+   /* v7d0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-r7 */
+   stat = asn1PD_UMTS_RadioBearerRelease_r7_IEs(ctx, &pvalue->radioBearerRelease_r7);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-r7", -1, 0);
+   /* radioBearerRelease-r7-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->radioBearerRelease_r7_add_ext);
+      RT_CHECK(ctx, stat, 0, "radioBearerRelease-r7-add-ext", -1, 0);
+   }
+   /* v780NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v780NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_r8_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r8_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint64_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   {
+      uint32_t hi, lo;
+      stat = rtxDecBitsFast(ctx, &hi, 10);
+      RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-r8-IEs");
+      stat = rtxDecBitsFast(ctx, &lo, 32);
+      RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-r8-IEs");
+      present = ((uint64_t)hi << 32) | lo;
+   }
+   /* integrityProtectionModeInfo */
+   if (present & ((uint64_t)1 << 41)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint64_t)1 << 40)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint64_t)1 << 39)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* new-U-RNTI */
+   if (present & ((uint64_t)1 << 38)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint64_t)1 << 37)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint64_t)1 << 36)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* new-H-RNTI */
+   if (present & ((uint64_t)1 << 35)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (present & ((uint64_t)1 << 34)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint64_t)1 << 33)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerRelease-r8-IEs");
+   /* ueMobilityStateIndicator */
+   if (present & ((uint64_t)1 << 32)) {
+      pvalue->m |= 0x200u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerRelease-r8-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerRelease-r8-IEs");
+         pvalue->ueMobilityStateIndicator = ui;
+      }
+   }
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint64_t)1 << 31)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint64_t)1 << 30)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* signallingConnectionRelIndication */
+   if (present & ((uint64_t)1 << 29)) {
+      pvalue->m |= 0x1000u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->signallingConnectionRelIndication, 0, 1);
+      RT_CHECK(ctx, stat, "CN-DomainIdentity", "signallingConnectionRelIndication", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint64_t)1 << 28)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   if (present & ((uint64_t)1 << 27)) {
+      pvalue->m |= 0x4000u;
+      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* rab-InformationReconfigList */
+   if (present & ((uint64_t)1 << 26)) {
+      pvalue->m |= 0x8000u;
+      stat = asn1PD_UMTS_RAB_InformationReconfigList_r8(ctx, &pvalue->rab_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* rb-InformationReleaseList */
+   stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
+   RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "RadioBearerRelease-r8-IEs");
+   /* rb-InformationReconfigList */
+   if (present & ((uint64_t)1 << 25)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_RB_InformationReconfigList_r8(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (present & ((uint64_t)1 << 24)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_RB_InformationAffectedList_r8(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint64_t)1 << 23)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint64_t)1 << 22)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (present & ((uint64_t)1 << 21)) {
+      pvalue->m |= 0x100000u;
+      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint64_t)1 << 20)) {
+      pvalue->m |= 0x200000u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint64_t)1 << 19)) {
+      pvalue->m |= 0x400000u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (present & ((uint64_t)1 << 18)) {
+      pvalue->m |= 0x800000u;
+      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint64_t)1 << 17)) {
+      pvalue->m |= 0x1000000u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint64_t)1 << 16)) {
+      pvalue->m |= 0x2000000u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (present & ((uint64_t)1 << 15)) {
+      pvalue->m |= 0x4000000u;
+      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (present & ((uint64_t)1 << 14)) {
+      pvalue->m |= 0x8000000u;
+      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* dtx-drx-Info */
+   if (present & ((uint64_t)1 << 13)) {
+      pvalue->m |= 0x10000000u;
+      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (present & ((uint64_t)1 << 12)) {
+      pvalue->m |= 0x20000000u;
+      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* mimoParameters */
+   if (present & ((uint64_t)1 << 11)) {
+      pvalue->m |= 0x40000000u;
+      stat = asn1PD_UMTS_MIMO_Parameters_r8(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint64_t)1 << 10)) {
+      pvalue->m |= 0x80000000u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (present & ((uint64_t)1 << 9)) {
+      pvalue->m |= 0x100000000ull;
+      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (present & ((uint64_t)1 << 8)) {
+      pvalue->m |= 0x200000000ull;
+      stat = asn1PD_UMTS_UL_EDCH_Information_r8(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint64_t)1 << 7)) {
+      pvalue->m |= 0x400000000ull;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* dl-CommonInformation */
+   if (present & ((uint64_t)1 << 6)) {
+      pvalue->m |= 0x800000000ull;
+      stat = asn1PD_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint64_t)1 << 5)) {
+      pvalue->m |= 0x1000000000ull;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* dl-SecondaryCellInfoFDD */
+   if (present & ((uint64_t)1 << 4)) {
+      pvalue->m |= 0x2000000000ull;
+      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD(ctx, &pvalue->dl_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* controlChannelDRXInfo-TDD128 */
+   if (present & ((uint64_t)1 << 3)) {
+      pvalue->m |= 0x4000000000ull;
+      stat = asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
+      RT_CHECK(ctx, stat, 0, "controlChannelDRXInfo-TDD128", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* sps-Information-TDD128 */
+   if (present & ((uint64_t)1 << 2)) {
+      pvalue->m |= 0x8000000000ull;
+      stat = asn1PD_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
+      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (present & ((uint64_t)1 << 1)) {
+      pvalue->m |= 0x10000000000ull;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerRelease-r8-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerRelease-r8-IEs");
+         pvalue->mbms_PL_ServiceRestrictInfo = ui;
+      }
+   }
+   /* mbms-RB-ListReleasedToChangeTransferMode */
+   if (present & ((uint64_t)1 << 0)) {
+      pvalue->m |= 0x20000000000ull;
+      stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->mbms_RB_ListReleasedToChangeTransferMode);
+      RT_CHECK(ctx, stat, 0, "mbms-RB-ListReleasedToChangeTransferMode", -1, "RadioBearerRelease-r8-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_v890ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_v890ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-v890ext-IEs");
+   /* dl-SecondaryCellInfoFDD-v890ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_v890ext(ctx, &pvalue->dl_SecondaryCellInfoFDD_v890ext);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD-v890ext", -1, "RadioBearerRelease-v890ext-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerRelease-v890ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_v8a0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_v8a0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-v8a0ext-IEs");
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext2(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerRelease-v8a0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v8a0ext */
+   stat = asn1PD_UMTS_RadioBearerRelease_v8a0ext_IEs(ctx, &pvalue->radioBearerRelease_v8a0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v8a0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v7g0ext */
+   stat = asn1PD_UMTS_RadioBearerRelease_v7g0ext_IEs(ctx, &pvalue->radioBearerRelease_v7g0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v7g0ext", -1, 0);
+   /* v8a0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v8a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v890ext */
+   stat = asn1PD_UMTS_RadioBearerRelease_v890ext_IEs(ctx, &pvalue->radioBearerRelease_v890ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v890ext", -1, 0);
+   /* v7g0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v7f0ext */
+   stat = asn1PD_UMTS_RadioBearerRelease_v7f0ext_IEs(ctx, &pvalue->radioBearerRelease_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v7f0ext", -1, 0);
+   /* v890NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v7d0ext */
+   stat = asn1PD_UMTS_RadioBearerRelease_v7d0ext_IEs(ctx, &pvalue->radioBearerRelease_v7d0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v7d0ext", -1, 0);
+   /* v7f0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-r8 */
+   stat = asn1PD_UMTS_RadioBearerRelease_r8_IEs(ctx, &pvalue->radioBearerRelease_r8);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-r8", -1, 0);
+   /* radioBearerRelease-r8-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->radioBearerRelease_r8_add_ext);
+      RT_CHECK(ctx, stat, 0, "radioBearerRelease-r8-add-ext", -1, 0);
+   }
+   /* v7d0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_r9_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_r9_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint64_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   {
+      uint32_t hi, lo;
+      stat = rtxDecBitsFast(ctx, &hi, 11);
+      RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-r9-IEs");
+      stat = rtxDecBitsFast(ctx, &lo, 32);
+      RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-r9-IEs");
+      present = ((uint64_t)hi << 32) | lo;
+   }
+   /* integrityProtectionModeInfo */
+   if (present & ((uint64_t)1 << 42)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint64_t)1 << 41)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint64_t)1 << 40)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* new-U-RNTI */
+   if (present & ((uint64_t)1 << 39)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint64_t)1 << 38)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint64_t)1 << 37)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* new-H-RNTI */
+   if (present & ((uint64_t)1 << 36)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (present & ((uint64_t)1 << 35)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint64_t)1 << 34)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerRelease-r9-IEs");
+   /* ueMobilityStateIndicator */
+   if (present & ((uint64_t)1 << 33)) {
+      pvalue->m |= 0x200u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerRelease-r9-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerRelease-r9-IEs");
+         pvalue->ueMobilityStateIndicator = ui;
+      }
+   }
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint64_t)1 << 32)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint64_t)1 << 31)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* signallingConnectionRelIndication */
+   if (present & ((uint64_t)1 << 30)) {
+      pvalue->m |= 0x1000u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->signallingConnectionRelIndication, 0, 1);
+      RT_CHECK(ctx, stat, "CN-DomainIdentity", "signallingConnectionRelIndication", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint64_t)1 << 29)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   if (present & ((uint64_t)1 << 28)) {
+      pvalue->m |= 0x4000u;
+      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* rab-InformationReconfigList */
+   if (present & ((uint64_t)1 << 27)) {
+      pvalue->m |= 0x8000u;
+      stat = asn1PD_UMTS_RAB_InformationReconfigList_r8(ctx, &pvalue->rab_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* rb-InformationReleaseList */
+   stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
+   RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "RadioBearerRelease-r9-IEs");
+   /* rb-InformationReconfigList */
+   if (present & ((uint64_t)1 << 26)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_RB_InformationReconfigList_r8(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (present & ((uint64_t)1 << 25)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_RB_InformationAffectedList_r8(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint64_t)1 << 24)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint64_t)1 << 23)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (present & ((uint64_t)1 << 22)) {
+      pvalue->m |= 0x100000u;
+      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint64_t)1 << 21)) {
+      pvalue->m |= 0x200000u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint64_t)1 << 20)) {
+      pvalue->m |= 0x400000u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (present & ((uint64_t)1 << 19)) {
+      pvalue->m |= 0x800000u;
+      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint64_t)1 << 18)) {
+      pvalue->m |= 0x1000000u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r9(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint64_t)1 << 17)) {
+      pvalue->m |= 0x2000000u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (present & ((uint64_t)1 << 16)) {
+      pvalue->m |= 0x4000000u;
+      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (present & ((uint64_t)1 << 15)) {
+      pvalue->m |= 0x8000000u;
+      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* dtx-drx-Info */
+   if (present & ((uint64_t)1 << 14)) {
+      pvalue->m |= 0x10000000u;
+      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (present & ((uint64_t)1 << 13)) {
+      pvalue->m |= 0x20000000u;
+      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* mimoParameters */
+   if (present & ((uint64_t)1 << 12)) {
+      pvalue->m |= 0x40000000u;
+      stat = asn1PD_UMTS_MIMO_Parameters_r9(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint64_t)1 << 11)) {
+      pvalue->m |= 0x80000000u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (present & ((uint64_t)1 << 10)) {
+      pvalue->m |= 0x100000000ull;
+      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (present & ((uint64_t)1 << 9)) {
+      pvalue->m |= 0x200000000ull;
+      stat = asn1PD_UMTS_UL_EDCH_Information_r9(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* ul-SecondaryCellInfoFDD */
+   if (present & ((uint64_t)1 << 8)) {
+      pvalue->m |= 0x400000000ull;
+      stat = asn1PD_UMTS_UL_SecondaryCellInfoFDD(ctx, &pvalue->ul_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "ul-SecondaryCellInfoFDD", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint64_t)1 << 7)) {
+      pvalue->m |= 0x800000000ull;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* dl-CommonInformation */
+   if (present & ((uint64_t)1 << 6)) {
+      pvalue->m |= 0x1000000000ull;
+      stat = asn1PD_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint64_t)1 << 5)) {
+      pvalue->m |= 0x2000000000ull;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* dl-SecondaryCellInfoFDD */
+   if (present & ((uint64_t)1 << 4)) {
+      pvalue->m |= 0x4000000000ull;
+      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_r9(ctx, &pvalue->dl_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* controlChannelDRXInfo-TDD128 */
+   if (present & ((uint64_t)1 << 3)) {
+      pvalue->m |= 0x8000000000ull;
+      stat = asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
+      RT_CHECK(ctx, stat, 0, "controlChannelDRXInfo-TDD128", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* sps-Information-TDD128 */
+   if (present & ((uint64_t)1 << 2)) {
+      pvalue->m |= 0x10000000000ull;
+      stat = asn1PD_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
+      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (present & ((uint64_t)1 << 1)) {
+      pvalue->m |= 0x20000000000ull;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerRelease-r9-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerRelease-r9-IEs");
+         pvalue->mbms_PL_ServiceRestrictInfo = ui;
+      }
+   }
+   /* mbms-RB-ListReleasedToChangeTransferMode */
+   if (present & ((uint64_t)1 << 0)) {
+      pvalue->m |= 0x40000000000ull;
+      stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->mbms_RB_ListReleasedToChangeTransferMode);
+      RT_CHECK(ctx, stat, 0, "mbms-RB-ListReleasedToChangeTransferMode", -1, "RadioBearerRelease-r9-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-r9 */
+   stat = asn1PD_UMTS_RadioBearerRelease_r9_IEs(ctx, &pvalue->radioBearerRelease_r9);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-r9", -1, 0);
+   /* radioBearerRelease-r9-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->radioBearerRelease_r9_add_ext);
+      RT_CHECK(ctx, stat, 0, "radioBearerRelease-r9-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r9 */
+         pvalue->u.r9 = (RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9));
+         if (pvalue->u.r9 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r9", -1, 0);
+         asn1Init_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(pvalue->u.r9);
+         stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
+         RT_CHECK(ctx, stat, 0, "r9", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r8 */
+         pvalue->u.r8 = (RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8));
+         if (pvalue->u.r8 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r8", -1, 0);
+         asn1Init_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(pvalue->u.r8);
+         stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
+         RT_CHECK(ctx, stat, 0, "r8", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r7 */
+         pvalue->u.r7 = (RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7));
+         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r7", -1, 0);
+         asn1Init_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(pvalue->u.r7);
+         stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
+         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r6 */
+         pvalue->u.r6 = (RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6));
+         if (pvalue->u.r6 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r6", -1, 0);
+         asn1Init_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(pvalue->u.r6);
+         stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(ctx, pvalue->u.r6);
+         RT_CHECK(ctx, stat, 0, "r6", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r5 */
+         pvalue->u.r5 = (RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5));
+         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r5", -1, 0);
+         asn1Init_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5(pvalue->u.r5);
+         stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5(ctx, pvalue->u.r5);
+         RT_CHECK(ctx, stat, 0, "r5", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r4 */
+         pvalue->u.r4 = (RadioBearerRelease_later_than_r3_criticalExtensions_r4*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_later_than_r3_criticalExtensions_r4));
+         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r4", -1, 0);
+         asn1Init_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4(pvalue->u.r4);
+         stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
+         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease_later_than_r3(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerRelease(rtxContext* RT_RESTRICT ctx, RadioBearerRelease* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r3 */
+         pvalue->u.r3 = (RadioBearerRelease_r3*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_r3));
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "RadioBearerRelease");
+         asn1Init_UMTS_RadioBearerRelease_r3(pvalue->u.r3);
+         stat = asn1PD_UMTS_RadioBearerRelease_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "RadioBearerRelease");
+         break;
+      case 1: /* later-than-r3 */
+         pvalue->u.later_than_r3 = (RadioBearerRelease_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_later_than_r3));
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "RadioBearerRelease");
+         asn1Init_UMTS_RadioBearerRelease_later_than_r3(pvalue->u.later_than_r3);
+         stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "RadioBearerRelease");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RadioBearerRelease");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReleaseComplete_v770ext_IEs_deferredMeasurementControlReading(rtxContext* RT_RESTRICT ctx, RadioBearerReleaseComplete_v770ext_IEs_deferredMeasurementControlReading* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReleaseComplete_v770ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerReleaseComplete_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReleaseComplete-v770ext-IEs");
+   /* ext-UL-TimingAdvance */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_EXT_UL_TimingAdvance(ctx, &pvalue->ext_UL_TimingAdvance);
+      RT_CHECK(ctx, stat, 0, "ext-UL-TimingAdvance", -1, "RadioBearerReleaseComplete-v770ext-IEs");
+   }
+   /* deferredMeasurementControlReading */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "deferredMeasurementControlReading", -1, "RadioBearerReleaseComplete-v770ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "deferredMeasurementControlReading", -1, "RadioBearerReleaseComplete-v770ext-IEs");
+         pvalue->deferredMeasurementControlReading = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReleaseComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReleaseComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReleaseComplete_laterNonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReleaseComplete_laterNonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReleaseComplete-v770ext */
+   stat = asn1PD_UMTS_RadioBearerReleaseComplete_v770ext_IEs(ctx, &pvalue->radioBearerReleaseComplete_v770ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReleaseComplete-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerReleaseComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReleaseComplete_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReleaseComplete_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReleaseComplete-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->radioBearerReleaseComplete_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "radioBearerReleaseComplete-r3-add-ext", -1, 0);
+   }
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RadioBearerReleaseComplete_laterNonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReleaseComplete(rtxContext* RT_RESTRICT ctx, RadioBearerReleaseComplete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReleaseComplete");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RadioBearerReleaseComplete");
+   /* ul-IntegProtActivationInfo */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtActivationInfo(ctx, &pvalue->ul_IntegProtActivationInfo);
+      RT_CHECK(ctx, stat, 0, "ul-IntegProtActivationInfo", -1, "RadioBearerReleaseComplete");
+   }
+   /* ul-TimingAdvance */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->ul_TimingAdvance, 0, 63);
+      RT_CHECK(ctx, stat, "UL-TimingAdvance", "ul-TimingAdvance", -1, "RadioBearerReleaseComplete");
+   }
+   /* count-C-ActivationTime */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->count_C_ActivationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "count-C-ActivationTime", -1, "RadioBearerReleaseComplete");
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "RadioBearerReleaseComplete");
+   }
+   /* ul-CounterSynchronisationInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_UL_CounterSynchronisationInfo(ctx, &pvalue->ul_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CounterSynchronisationInfo", -1, "RadioBearerReleaseComplete");
+   }
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_RadioBearerReleaseComplete_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "RadioBearerReleaseComplete");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReleaseFailure_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReleaseFailure_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReleaseFailure_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerReleaseFailure_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReleaseFailure-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->radioBearerReleaseFailure_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "radioBearerReleaseFailure-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RadioBearerReleaseFailure_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerReleaseFailure(rtxContext* RT_RESTRICT ctx, RadioBearerReleaseFailure* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReleaseFailure");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RadioBearerReleaseFailure");
+   /* failureCause */
+   stat = asn1PD_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
+   RT_CHECK(ctx, stat, 0, "failureCause", -1, "RadioBearerReleaseFailure");
+   /* potentiallySuccesfulBearerList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RB_IdentityList(ctx, &pvalue->potentiallySuccesfulBearerList);
+      RT_CHECK(ctx, stat, 0, "potentiallySuccesfulBearerList", -1, "RadioBearerReleaseFailure");
+   }
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RadioBearerReleaseFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "RadioBearerReleaseFailure");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_r3_IEs_dummy_fdd(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r3_IEs_dummy_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy1 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->dummy1, 1, 16);
+      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy1", -1, 0);
+   }
+   /* dummy2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_r3_IEs_dummy(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r3_IEs_dummy* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (RadioBearerSetup_r3_IEs_dummy_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_r3_IEs_dummy_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_RadioBearerSetup_r3_IEs_dummy_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_RadioBearerSetup_r3_IEs_dummy_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_r3_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r3_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_r3_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r3_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (RadioBearerSetup_r3_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_r3_IEs_modeSpecificPhysChInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_RadioBearerSetup_r3_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_RadioBearerSetup_r3_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_r3_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 24);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RadioBearerSetup-r3-IEs");
+   /* integrityProtectionModeInfo */
+   if (present & ((uint32_t)1 << 23)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint32_t)1 << 22)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint32_t)1 << 21)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* new-U-RNTI */
+   if (present & ((uint32_t)1 << 20)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint32_t)1 << 19)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerSetup-r3-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint32_t)1 << 18)) {
+      pvalue->m |= 0x20u;
+      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint32_t)1 << 17)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* srb-InformationSetupList */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_SRB_InformationSetupList(ctx, &pvalue->srb_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* rab-InformationSetupList */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_RAB_InformationSetupList(ctx, &pvalue->rab_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_RB_InformationAffectedList(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x8000u;
+      stat = asn1PD_UMTS_RadioBearerSetup_r3_IEs_dummy(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_DL_DeletedTransChInfoList(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x100000u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* ul-ChannelRequirement */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x200000u;
+      stat = asn1PD_UMTS_UL_ChannelRequirement(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* modeSpecificPhysChInfo */
+   stat = asn1PD_UMTS_RadioBearerSetup_r3_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "RadioBearerSetup-r3-IEs");
+   /* dl-CommonInformation */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x400000u;
+      stat = asn1PD_UMTS_DL_CommonInformation(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x800000u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerSetup-r3-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_v3a0ext(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_v3a0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v3a0ext");
+   /* new-DSCH-RNTI */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerSetup-v3a0ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v4b0ext-IEs");
+   /* dummy */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->dummy, 0, 1);
+      RT_CHECK(ctx, stat, "SSDT-UL", "dummy", -1, "RadioBearerSetup-v4b0ext-IEs");
+   }
+   /* cell-id-PerRL-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CellIdentity_PerRL_List(ctx, &pvalue->cell_id_PerRL_List);
+      RT_CHECK(ctx, stat, 0, "cell-id-PerRL-List", -1, "RadioBearerSetup-v4b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_v590ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v590ext-IEs");
+   /* dl-TPC-PowerOffsetPerRL-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_TPC_PowerOffsetPerRL_List(ctx, &pvalue->dl_TPC_PowerOffsetPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-TPC-PowerOffsetPerRL-List", -1, "RadioBearerSetup-v590ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_v5d0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_v5d0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v5d0ext-IEs");
+   /* pdcp-ROHC-TargetMode */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
+      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "RadioBearerSetup-v5d0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_v690ext_IEs_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_v690ext_IEs_postVerificationPeriod* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_v690ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v690ext-IEs");
+   /* primary-plmn-Identity */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
+      RT_CHECK(ctx, stat, 0, "primary-plmn-Identity", -1, "RadioBearerSetup-v690ext-IEs");
+   }
+   /* harq-Preamble-Mode */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->harq_Preamble_Mode, 0, 1);
+      RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "RadioBearerSetup-v690ext-IEs");
+   }
+   /* beaconPLEst */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "RadioBearerSetup-v690ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "RadioBearerSetup-v690ext-IEs");
+         pvalue->beaconPLEst = ui;
+      }
+   }
+   /* postVerificationPeriod */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "RadioBearerSetup-v690ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "RadioBearerSetup-v690ext-IEs");
+         pvalue->postVerificationPeriod = ui;
+      }
+   }
+   /* dhs-sync */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x10u;
+      stat = pd_ConsInt8(ctx, &pvalue->dhs_sync, -20, 10);
+      RT_CHECK(ctx, stat, "DHS-Sync", "dhs-sync", -1, "RadioBearerSetup-v690ext-IEs");
+   }
+   /* timingMaintainedSynchInd */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x20u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "TimingMaintainedSynchInd", "timingMaintainedSynchInd", -1, "RadioBearerSetup-v690ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "TimingMaintainedSynchInd", "timingMaintainedSynchInd", -1, "RadioBearerSetup-v690ext-IEs");
+         pvalue->timingMaintainedSynchInd = ui;
+      }
+   }
+   /* rab-InformationSetupList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_RAB_InformationSetupList_r6_ext(ctx, &pvalue->rab_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, "RadioBearerSetup-v690ext-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x80u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerSetup-v690ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerSetup-v690ext-IEs");
+         pvalue->mbms_PL_ServiceRestrictInfo = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v690ext */
+   stat = asn1PD_UMTS_RadioBearerSetup_v690ext_IEs(ctx, &pvalue->radioBearerSetup_v690ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v690ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v5d0ext */
+   stat = asn1PD_UMTS_RadioBearerSetup_v5d0ext_IEs(ctx, &pvalue->radioBearerSetup_v5d0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v5d0ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v590ext */
+   stat = asn1PD_UMTS_RadioBearerSetup_v590ext_IEs(ctx, &pvalue->radioBearerSetup_v590ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v590ext", -1, 0);
+   /* v5d0NonCriticalExtenstions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
+      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v4b0ext */
+   stat = asn1PD_UMTS_RadioBearerSetup_v4b0ext_IEs(ctx, &pvalue->radioBearerSetup_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v4b0ext", -1, 0);
+   /* v590NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->radioBearerSetup_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "radioBearerSetup-r3-add-ext", -1, 0);
+   }
+   /* v4b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r3_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v3a0ext */
+   stat = asn1PD_UMTS_RadioBearerSetup_v3a0ext(ctx, &pvalue->radioBearerSetup_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v3a0ext", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_r3(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-r3 */
+   stat = asn1PD_UMTS_RadioBearerSetup_r3_IEs(ctx, &pvalue->radioBearerSetup_r3);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-r3", -1, 0);
+   /* v3a0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_r4_IEs_dummy_fdd(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r4_IEs_dummy_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy1 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->dummy1, 1, 16);
+      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy1", -1, 0);
+   }
+   /* dummy2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_r4_IEs_dummy(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r4_IEs_dummy* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (RadioBearerSetup_r4_IEs_dummy_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_r4_IEs_dummy_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_RadioBearerSetup_r4_IEs_dummy_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_RadioBearerSetup_r4_IEs_dummy_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_r4_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r4_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_r4_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r4_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (RadioBearerSetup_r4_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_r4_IEs_modeSpecificPhysChInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_RadioBearerSetup_r4_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_RadioBearerSetup_r4_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_r4_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r4_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 25);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-r4-IEs");
+   /* integrityProtectionModeInfo */
+   if (present & ((uint32_t)1 << 24)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint32_t)1 << 23)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint32_t)1 << 22)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* new-U-RNTI */
+   if (present & ((uint32_t)1 << 21)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint32_t)1 << 20)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint32_t)1 << 19)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerSetup-r4-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint32_t)1 << 18)) {
+      pvalue->m |= 0x40u;
+      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint32_t)1 << 17)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* srb-InformationSetupList */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_SRB_InformationSetupList(ctx, &pvalue->srb_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* rab-InformationSetupList */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_RAB_InformationSetupList_r4(ctx, &pvalue->rab_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_RB_InformationAffectedList(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x8000u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_RadioBearerSetup_r4_IEs_dummy(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_DL_DeletedTransChInfoList(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r4(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x100000u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x200000u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* ul-ChannelRequirement */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x400000u;
+      stat = asn1PD_UMTS_UL_ChannelRequirement_r4(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* modeSpecificPhysChInfo */
+   stat = asn1PD_UMTS_RadioBearerSetup_r4_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "RadioBearerSetup-r4-IEs");
+   /* dl-CommonInformation */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x800000u;
+      stat = asn1PD_UMTS_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1000000u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r4(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerSetup-r4-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v690ext */
+   stat = asn1PD_UMTS_RadioBearerSetup_v690ext_IEs(ctx, &pvalue->radioBearerSetup_v690ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v690ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v5d0ext */
+   stat = asn1PD_UMTS_RadioBearerSetup_v5d0ext_IEs(ctx, &pvalue->radioBearerSetup_v5d0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v5d0ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v590ext */
+   stat = asn1PD_UMTS_RadioBearerSetup_v590ext_IEs(ctx, &pvalue->radioBearerSetup_v590ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v590ext", -1, 0);
+   /* v5d0NonCriticalExtenstions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
+      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-r4-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->radioBearerSetup_r4_add_ext);
+      RT_CHECK(ctx, stat, 0, "radioBearerSetup-r4-add-ext", -1, 0);
+   }
+   /* v590NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-r4 */
+   stat = asn1PD_UMTS_RadioBearerSetup_r4_IEs(ctx, &pvalue->radioBearerSetup_r4);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-r4", -1, 0);
+   /* v4d0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_r5_IEs_dummy_fdd(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r5_IEs_dummy_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy1 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->dummy1, 1, 16);
+      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy1", -1, 0);
+   }
+   /* dummy2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_r5_IEs_dummy(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r5_IEs_dummy* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (RadioBearerSetup_r5_IEs_dummy_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_r5_IEs_dummy_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_RadioBearerSetup_r5_IEs_dummy_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_RadioBearerSetup_r5_IEs_dummy_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_r5_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r5_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_r5_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r5_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (RadioBearerSetup_r5_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_r5_IEs_modeSpecificPhysChInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_RadioBearerSetup_r5_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_RadioBearerSetup_r5_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_r5_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r5_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 27);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-r5-IEs");
+   /* integrityProtectionModeInfo */
+   if (present & ((uint32_t)1 << 26)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint32_t)1 << 25)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint32_t)1 << 24)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* new-U-RNTI */
+   if (present & ((uint32_t)1 << 23)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint32_t)1 << 22)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint32_t)1 << 21)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* new-H-RNTI */
+   if (present & ((uint32_t)1 << 20)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerSetup-r5-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint32_t)1 << 19)) {
+      pvalue->m |= 0x80u;
+      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint32_t)1 << 18)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 17)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* srb-InformationSetupList */
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_SRB_InformationSetupList_r5(ctx, &pvalue->srb_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* rab-InformationSetupList */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_RAB_InformationSetupList_r5(ctx, &pvalue->rab_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_RB_InformationAffectedList_r5(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x8000u;
+      stat = asn1PD_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_RadioBearerSetup_r5_IEs_dummy(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r5(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x100000u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x200000u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x400000u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* ul-ChannelRequirement */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x800000u;
+      stat = asn1PD_UMTS_UL_ChannelRequirement_r5(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* modeSpecificPhysChInfo */
+   stat = asn1PD_UMTS_RadioBearerSetup_r5_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "RadioBearerSetup-r5-IEs");
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1000000u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* dl-CommonInformation */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2000000u;
+      stat = asn1PD_UMTS_DL_CommonInformation_r5(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4000000u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r5(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerSetup-r5-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v690ext */
+   stat = asn1PD_UMTS_RadioBearerSetup_v690ext_IEs(ctx, &pvalue->radioBearerSetup_v690ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v690ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v5d0ext */
+   stat = asn1PD_UMTS_RadioBearerSetup_v5d0ext_IEs(ctx, &pvalue->radioBearerSetup_v5d0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v5d0ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-r5 */
+   stat = asn1PD_UMTS_RadioBearerSetup_r5_IEs(ctx, &pvalue->radioBearerSetup_r5);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-r5", -1, 0);
+   /* radioBearerSetup-r5-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->radioBearerSetup_r5_add_ext);
+      RT_CHECK(ctx, stat, 0, "radioBearerSetup-r5-add-ext", -1, 0);
+   }
+   /* v5d0NonCriticalExtenstions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
+      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_r6_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r6_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 13);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* srb-InformationSetupList */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRB_InformationSetupList_r6(ctx, &pvalue->srb_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, 0);
+   }
+   /* rab-InformationSetupList */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RAB_InformationSetupList_r6(ctx, &pvalue->rab_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, 0);
+   }
+   /* rab-InformationReconfigList */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, 0);
+   }
+   /* rb-InformationReconfigList */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_RB_InformationReconfigList_r6(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, 0);
+   }
+   /* rb-InformationAffectedList */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_RB_InformationAffectedList_r6(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, 0);
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, 0);
+   }
+   /* pdcp-ROHC-TargetMode */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x40u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
+      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, 0);
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
+   }
+   /* ul-deletedTransChInfoList */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, 0);
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r6(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
+   }
+   /* dl-DeletedTransChInfoList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r5(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, 0);
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_r6_IEs_specificationMode_dummy(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r6_IEs_specificationMode_dummy* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rab-Info */
+   stat = asn1PD_UMTS_RAB_Info_r6(ctx, &pvalue->rab_Info);
+   RT_CHECK(ctx, stat, 0, "rab-Info", -1, 0);
+   /* defaultConfigMode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   /* defaultConfigIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 31);
+   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
+   /* rb-InformationChangedList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RB_InformationChangedList_r6(ctx, &pvalue->rb_InformationChangedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationChangedList", -1, 0);
+   }
+   /* powerOffsetInfoShort */
+   stat = asn1PD_UMTS_PowerOffsetInfoShort(ctx, &pvalue->powerOffsetInfoShort);
+   RT_CHECK(ctx, stat, 0, "powerOffsetInfoShort", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_r6_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r6_IEs_specificationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* complete */
+         pvalue->u.complete = (RadioBearerSetup_r6_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_r6_IEs_specificationMode_complete));
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "complete", -1, 0);
+         asn1Init_UMTS_RadioBearerSetup_r6_IEs_specificationMode_complete(pvalue->u.complete);
+         stat = asn1PD_UMTS_RadioBearerSetup_r6_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+         break;
+      case 1: /* dummy */
+         pvalue->u.dummy = (RadioBearerSetup_r6_IEs_specificationMode_dummy*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_r6_IEs_specificationMode_dummy));
+         if (pvalue->u.dummy == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dummy", -1, 0);
+         asn1Init_UMTS_RadioBearerSetup_r6_IEs_specificationMode_dummy(pvalue->u.dummy);
+         stat = asn1PD_UMTS_RadioBearerSetup_r6_IEs_specificationMode_dummy(ctx, pvalue->u.dummy);
+         RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_r6_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r6_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 20);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-r6-IEs");
+   /* integrityProtectionModeInfo */
+   if (present & ((uint32_t)1 << 19)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerSetup-r6-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint32_t)1 << 18)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerSetup-r6-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint32_t)1 << 17)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerSetup-r6-IEs");
+   }
+   /* new-U-RNTI */
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerSetup-r6-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerSetup-r6-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerSetup-r6-IEs");
+   }
+   /* new-H-RNTI */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerSetup-r6-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RadioBearerSetup-r6-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RadioBearerSetup-r6-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerSetup-r6-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x200u;
+      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerSetup-r6-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerSetup-r6-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerSetup-r6-IEs");
+   }
+   /* specificationMode */
+   stat = asn1PD_UMTS_RadioBearerSetup_r6_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "RadioBearerSetup-r6-IEs");
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerSetup-r6-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x2000u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerSetup-r6-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_UL_DPCH_Info_r6(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RadioBearerSetup-r6-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x8000u;
+      stat = asn1PD_UMTS_UL_EDCH_Information_r6(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerSetup-r6-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r6(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerSetup-r6-IEs");
+   }
+   /* dl-CommonInformation */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_DL_CommonInformation_r6(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerSetup-r6-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r6(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerSetup-r6-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x80000u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerSetup-r6-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerSetup-r6-IEs");
+         pvalue->mbms_PL_ServiceRestrictInfo = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_v6b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v6b0ext-IEs");
+   /* dl-InformationPerRL-List-v6b0ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_v6b0ext(ctx, &pvalue->dl_InformationPerRL_List_v6b0ext);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List-v6b0ext", -1, "RadioBearerSetup-v6b0ext-IEs");
+   }
+   /* rab-InformationSetupListExt */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RAB_InformationSetupList_v6b0ext(ctx, &pvalue->rab_InformationSetupListExt);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupListExt", -1, "RadioBearerSetup-v6b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v6b0ext */
+   stat = asn1PD_UMTS_RadioBearerSetup_v6b0ext_IEs(ctx, &pvalue->radioBearerSetup_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v6b0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-r6 */
+   stat = asn1PD_UMTS_RadioBearerSetup_r6_IEs(ctx, &pvalue->radioBearerSetup_r6);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-r6", -1, 0);
+   /* radioBearerSetup-r6-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->radioBearerSetup_r6_add_ext);
+      RT_CHECK(ctx, stat, 0, "radioBearerSetup-r6-add-ext", -1, 0);
+   }
+   /* v6b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_r7_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r7_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 13);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* srb-InformationSetupList */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRB_InformationSetupList_r7(ctx, &pvalue->srb_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, 0);
+   }
+   /* rab-InformationSetupList */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RAB_InformationSetupList_r7(ctx, &pvalue->rab_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, 0);
+   }
+   /* rab-InformationReconfigList */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, 0);
+   }
+   /* rb-InformationReconfigList */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_RB_InformationReconfigList_r7(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, 0);
+   }
+   /* rb-InformationAffectedList */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_RB_InformationAffectedList_r7(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, 0);
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, 0);
+   }
+   /* pdcp-ROHC-TargetMode */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x40u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
+      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, 0);
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
+   }
+   /* ul-deletedTransChInfoList */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, 0);
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r7(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
+   }
+   /* dl-DeletedTransChInfoList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, 0);
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_r7_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r7_IEs_specificationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* complete */
+         pvalue->u.complete = (RadioBearerSetup_r7_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_r7_IEs_specificationMode_complete));
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "complete", -1, 0);
+         asn1Init_UMTS_RadioBearerSetup_r7_IEs_specificationMode_complete(pvalue->u.complete);
+         stat = asn1PD_UMTS_RadioBearerSetup_r7_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+         break;
+      case 1: /* dummy */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_r7_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r7_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 26);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-r7-IEs");
+   /* integrityProtectionModeInfo */
+   if (present & ((uint32_t)1 << 25)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint32_t)1 << 24)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint32_t)1 << 23)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* new-U-RNTI */
+   if (present & ((uint32_t)1 << 22)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint32_t)1 << 21)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint32_t)1 << 20)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* new-H-RNTI */
+   if (present & ((uint32_t)1 << 19)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (present & ((uint32_t)1 << 18)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint32_t)1 << 17)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerSetup-r7-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x800u;
+      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* specificationMode */
+   stat = asn1PD_UMTS_RadioBearerSetup_r7_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "RadioBearerSetup-r7-IEs");
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x8000u;
+      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* dtx-drx-Info */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* mimoParameters */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_MIMO_Parameters_r7(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x80000u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x100000u;
+      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x200000u;
+      stat = asn1PD_UMTS_UL_EDCH_Information_r7(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x400000u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* dl-CommonInformation */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x800000u;
+      stat = asn1PD_UMTS_DL_CommonInformation_r7(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1000000u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2000000u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerSetup-r7-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerSetup-r7-IEs");
+         pvalue->mbms_PL_ServiceRestrictInfo = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_v7d0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_v7d0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v7d0ext-IEs");
+   /* ul-EDCH-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UL_EDCH_Information_ext(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerSetup-v7d0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_v7f0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_v7f0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v7f0ext-IEs");
+   /* mimoParameters */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MIMO_Parameters_v7f0ext(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerSetup-v7f0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_v7g0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v7g0ext-IEs");
+   /* mimoParameters */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MIMO_Parameters_v7g0ext(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerSetup-v7g0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v7g0ext */
+   stat = asn1PD_UMTS_RadioBearerSetup_v7g0ext_IEs(ctx, &pvalue->radioBearerSetup_v7g0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v7g0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerSetup_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_r7_add_ext_IEs_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r7_add_ext_IEs_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v7f0ext */
+   stat = asn1PD_UMTS_RadioBearerSetup_v7f0ext_IEs(ctx, &pvalue->radioBearerSetup_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v7f0ext", -1, 0);
+   /* v7g0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerSetup_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_r7_add_ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r7_add_ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-r7-add-ext-IEs");
+   /* radioBearerSetup-v7d0ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerSetup_v7d0ext_IEs(ctx, &pvalue->radioBearerSetup_v7d0ext);
+      RT_CHECK(ctx, stat, 0, "radioBearerSetup-v7d0ext", -1, "RadioBearerSetup-r7-add-ext-IEs");
+   }
+   /* v7f0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RadioBearerSetup_r7_add_ext_IEs_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, "RadioBearerSetup-r7-add-ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_v780ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_v780ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v780ext-IEs");
+   /* hs-DSCH-TBSizeTable */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "RadioBearerSetup-v780ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "RadioBearerSetup-v780ext-IEs");
+         pvalue->hs_DSCH_TBSizeTable = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_v820ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_v820ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v820ext-IEs");
+   /* rab-InformationSetupList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RAB_InformationSetupList_v820ext(ctx, &pvalue->rab_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, "RadioBearerSetup-v820ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v820ext */
+   stat = asn1PD_UMTS_RadioBearerSetup_v820ext_IEs(ctx, &pvalue->radioBearerSetup_v820ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v820ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v780ext */
+   stat = asn1PD_UMTS_RadioBearerSetup_v780ext_IEs(ctx, &pvalue->radioBearerSetup_v780ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v780ext", -1, 0);
+   /* v820NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions(ctx, &pvalue->v820NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v820NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-r7 */
+   stat = asn1PD_UMTS_RadioBearerSetup_r7_IEs(ctx, &pvalue->radioBearerSetup_r7);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-r7", -1, 0);
+   /* radioBearerSetup-r7-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      {
+         rtxDynBitStr carrier;
+         rtxContext outer;
+         stat = pd_DynBitString(ctx, &carrier);
+         RT_CHECK(ctx, stat, 0, "radioBearerSetup-r7-add-ext", -1, 0);
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_RadioBearerSetup_r7_add_ext_IEs(ctx, &pvalue->radioBearerSetup_r7_add_ext);
+            RT_CHECK(ctx, stat, 0, "radioBearerSetup-r7-add-ext", -1, 0);
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+      }
+   }
+   /* v780NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v780NonCriticalExtensions", -1, 0);
+   }
+   return stat;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_r8_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r8_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint64_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   {
+      uint32_t hi, lo;
+      stat = rtxDecBitsFast(ctx, &hi, 11);
+      RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-r8-IEs");
+      stat = rtxDecBitsFast(ctx, &lo, 32);
+      RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-r8-IEs");
+      present = ((uint64_t)hi << 32) | lo;
+   }
+   /* integrityProtectionModeInfo */
+   if (present & ((uint64_t)1 << 42)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint64_t)1 << 41)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* sr-vcc-Info */
+   if (present & ((uint64_t)1 << 40)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_SR_VCC_Info(ctx, &pvalue->sr_vcc_Info);
+      RT_CHECK(ctx, stat, 0, "sr-vcc-Info", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint64_t)1 << 39)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* new-U-RNTI */
+   if (present & ((uint64_t)1 << 38)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint64_t)1 << 37)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint64_t)1 << 36)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* new-H-RNTI */
+   if (present & ((uint64_t)1 << 35)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (present & ((uint64_t)1 << 34)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint64_t)1 << 33)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerSetup-r8-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint64_t)1 << 32)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint64_t)1 << 31)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   if (present & ((uint64_t)1 << 30)) {
+      pvalue->m |= 0x1000u;
+      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint64_t)1 << 29)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* srb-InformationSetupList */
+   if (present & ((uint64_t)1 << 28)) {
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_SRB_InformationSetupList_r8(ctx, &pvalue->srb_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* rab-InformationSetupList */
+   if (present & ((uint64_t)1 << 27)) {
+      pvalue->m |= 0x8000u;
+      stat = asn1PD_UMTS_RAB_InformationSetupList_r8(ctx, &pvalue->rab_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* rab-InformationReconfigList */
+   if (present & ((uint64_t)1 << 26)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_RAB_InformationReconfigList_r8(ctx, &pvalue->rab_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* rb-InformationReconfigList */
+   if (present & ((uint64_t)1 << 25)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_RB_InformationReconfigList_r8(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (present & ((uint64_t)1 << 24)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_RB_InformationAffectedList_r8(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint64_t)1 << 23)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* pdcp-ROHC-TargetMode */
+   if (present & ((uint64_t)1 << 22)) {
+      pvalue->m |= 0x100000u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
+      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint64_t)1 << 21)) {
+      pvalue->m |= 0x200000u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (present & ((uint64_t)1 << 20)) {
+      pvalue->m |= 0x400000u;
+      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint64_t)1 << 19)) {
+      pvalue->m |= 0x800000u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint64_t)1 << 18)) {
+      pvalue->m |= 0x1000000u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (present & ((uint64_t)1 << 17)) {
+      pvalue->m |= 0x2000000u;
+      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint64_t)1 << 16)) {
+      pvalue->m |= 0x4000000u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint64_t)1 << 15)) {
+      pvalue->m |= 0x8000000u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (present & ((uint64_t)1 << 14)) {
+      pvalue->m |= 0x10000000u;
+      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (present & ((uint64_t)1 << 13)) {
+      pvalue->m |= 0x20000000u;
+      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* dtx-drx-Info */
+   if (present & ((uint64_t)1 << 12)) {
+      pvalue->m |= 0x40000000u;
+      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (present & ((uint64_t)1 << 11)) {
+      pvalue->m |= 0x80000000u;
+      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* mimoParameters */
+   if (present & ((uint64_t)1 << 10)) {
+      pvalue->m |= 0x100000000ull;
+      stat = asn1PD_UMTS_MIMO_Parameters_r8(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint64_t)1 << 9)) {
+      pvalue->m |= 0x200000000ull;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (present & ((uint64_t)1 << 8)) {
+      pvalue->m |= 0x400000000ull;
+      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (present & ((uint64_t)1 << 7)) {
+      pvalue->m |= 0x800000000ull;
+      stat = asn1PD_UMTS_UL_EDCH_Information_r8(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint64_t)1 << 6)) {
+      pvalue->m |= 0x1000000000ull;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* dl-CommonInformation */
+   if (present & ((uint64_t)1 << 5)) {
+      pvalue->m |= 0x2000000000ull;
+      stat = asn1PD_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint64_t)1 << 4)) {
+      pvalue->m |= 0x4000000000ull;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* dl-SecondaryCellInfoFDD */
+   if (present & ((uint64_t)1 << 3)) {
+      pvalue->m |= 0x8000000000ull;
+      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD(ctx, &pvalue->dl_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* controlChannelDRXInfo-TDD128 */
+   if (present & ((uint64_t)1 << 2)) {
+      pvalue->m |= 0x10000000000ull;
+      stat = asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
+      RT_CHECK(ctx, stat, 0, "controlChannelDRXInfo-TDD128", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* sps-Information-TDD128 */
+   if (present & ((uint64_t)1 << 1)) {
+      pvalue->m |= 0x20000000000ull;
+      stat = asn1PD_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
+      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (present & ((uint64_t)1 << 0)) {
+      pvalue->m |= 0x40000000000ull;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerSetup-r8-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerSetup-r8-IEs");
+         pvalue->mbms_PL_ServiceRestrictInfo = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_v890ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_v890ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v890ext-IEs");
+   /* dl-SecondaryCellInfoFDD-v890ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_v890ext(ctx, &pvalue->dl_SecondaryCellInfoFDD_v890ext);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD-v890ext", -1, "RadioBearerSetup-v890ext-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerSetup-v890ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_v8a0ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_v8a0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v8a0ext-IEs");
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext2(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerSetup-v8a0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v8a0ext */
+   stat = asn1PD_UMTS_RadioBearerSetup_v8a0ext_IEs(ctx, &pvalue->radioBearerSetup_v8a0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v8a0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v7g0ext */
+   stat = asn1PD_UMTS_RadioBearerSetup_v7g0ext_IEs(ctx, &pvalue->radioBearerSetup_v7g0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v7g0ext", -1, 0);
+   /* v8a0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v8a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v890ext */
+   stat = asn1PD_UMTS_RadioBearerSetup_v890ext_IEs(ctx, &pvalue->radioBearerSetup_v890ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v890ext", -1, 0);
+   /* v7g0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v7f0ext */
+   stat = asn1PD_UMTS_RadioBearerSetup_v7f0ext_IEs(ctx, &pvalue->radioBearerSetup_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v7f0ext", -1, 0);
+   /* v890NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v7d0ext */
+   stat = asn1PD_UMTS_RadioBearerSetup_v7d0ext_IEs(ctx, &pvalue->radioBearerSetup_v7d0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v7d0ext", -1, 0);
+   /* v7f0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-r8 */
+   stat = asn1PD_UMTS_RadioBearerSetup_r8_IEs(ctx, &pvalue->radioBearerSetup_r8);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-r8", -1, 0);
+   /* radioBearerSetup-r8-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->radioBearerSetup_r8_add_ext);
+      RT_CHECK(ctx, stat, 0, "radioBearerSetup-r8-add-ext", -1, 0);
+   }
+   /* v7d0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_r9_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_r9_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint64_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   {
+      uint32_t hi, lo;
+      stat = rtxDecBitsFast(ctx, &hi, 13);
+      RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-r9-IEs");
+      stat = rtxDecBitsFast(ctx, &lo, 32);
+      RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-r9-IEs");
+      present = ((uint64_t)hi << 32) | lo;
+   }
+   /* integrityProtectionModeInfo */
+   if (present & ((uint64_t)1 << 44)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint64_t)1 << 43)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* sr-vcc-Info */
+   if (present & ((uint64_t)1 << 42)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_SR_VCC_Info(ctx, &pvalue->sr_vcc_Info);
+      RT_CHECK(ctx, stat, 0, "sr-vcc-Info", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint64_t)1 << 41)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* new-U-RNTI */
+   if (present & ((uint64_t)1 << 40)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint64_t)1 << 39)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint64_t)1 << 38)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* new-H-RNTI */
+   if (present & ((uint64_t)1 << 37)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (present & ((uint64_t)1 << 36)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint64_t)1 << 35)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerSetup-r9-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint64_t)1 << 34)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint64_t)1 << 33)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   if (present & ((uint64_t)1 << 32)) {
+      pvalue->m |= 0x1000u;
+      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint64_t)1 << 31)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* srb-InformationSetupList */
+   if (present & ((uint64_t)1 << 30)) {
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_SRB_InformationSetupList_r8(ctx, &pvalue->srb_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* rab-InformationSetupList */
+   if (present & ((uint64_t)1 << 29)) {
+      pvalue->m |= 0x8000u;
+      stat = asn1PD_UMTS_RAB_InformationSetupList_r8(ctx, &pvalue->rab_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* rab-InformationReconfigList */
+   if (present & ((uint64_t)1 << 28)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_RAB_InformationReconfigList_r8(ctx, &pvalue->rab_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* rb-InformationReconfigList */
+   if (present & ((uint64_t)1 << 27)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_RB_InformationReconfigList_r8(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (present & ((uint64_t)1 << 26)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_RB_InformationAffectedList_r8(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint64_t)1 << 25)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* pdcp-ROHC-TargetMode */
+   if (present & ((uint64_t)1 << 24)) {
+      pvalue->m |= 0x100000u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
+      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint64_t)1 << 23)) {
+      pvalue->m |= 0x200000u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (present & ((uint64_t)1 << 22)) {
+      pvalue->m |= 0x400000u;
+      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint64_t)1 << 21)) {
+      pvalue->m |= 0x800000u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint64_t)1 << 20)) {
+      pvalue->m |= 0x1000000u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (present & ((uint64_t)1 << 19)) {
+      pvalue->m |= 0x2000000u;
+      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint64_t)1 << 18)) {
+      pvalue->m |= 0x4000000u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r9(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint64_t)1 << 17)) {
+      pvalue->m |= 0x8000000u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (present & ((uint64_t)1 << 16)) {
+      pvalue->m |= 0x10000000u;
+      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (present & ((uint64_t)1 << 15)) {
+      pvalue->m |= 0x20000000u;
+      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* dtx-drx-Info */
+   if (present & ((uint64_t)1 << 14)) {
+      pvalue->m |= 0x40000000u;
+      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (present & ((uint64_t)1 << 13)) {
+      pvalue->m |= 0x80000000u;
+      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* mimoParameters */
+   if (present & ((uint64_t)1 << 12)) {
+      pvalue->m |= 0x100000000ull;
+      stat = asn1PD_UMTS_MIMO_Parameters_r9(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint64_t)1 << 11)) {
+      pvalue->m |= 0x200000000ull;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (present & ((uint64_t)1 << 10)) {
+      pvalue->m |= 0x400000000ull;
+      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (present & ((uint64_t)1 << 9)) {
+      pvalue->m |= 0x800000000ull;
+      stat = asn1PD_UMTS_UL_EDCH_Information_r9(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* ul-SecondaryCellInfoFDD */
+   if (present & ((uint64_t)1 << 8)) {
+      pvalue->m |= 0x1000000000ull;
+      stat = asn1PD_UMTS_UL_SecondaryCellInfoFDD(ctx, &pvalue->ul_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "ul-SecondaryCellInfoFDD", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint64_t)1 << 7)) {
+      pvalue->m |= 0x2000000000ull;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* dl-CommonInformation */
+   if (present & ((uint64_t)1 << 6)) {
+      pvalue->m |= 0x4000000000ull;
+      stat = asn1PD_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint64_t)1 << 5)) {
+      pvalue->m |= 0x8000000000ull;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* dl-SecondaryCellInfoFDD */
+   if (present & ((uint64_t)1 << 4)) {
+      pvalue->m |= 0x10000000000ull;
+      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_r9(ctx, &pvalue->dl_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* controlChannelDRXInfo-TDD128 */
+   if (present & ((uint64_t)1 << 3)) {
+      pvalue->m |= 0x20000000000ull;
+      stat = asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
+      RT_CHECK(ctx, stat, 0, "controlChannelDRXInfo-TDD128", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* sps-Information-TDD128 */
+   if (present & ((uint64_t)1 << 2)) {
+      pvalue->m |= 0x40000000000ull;
+      stat = asn1PD_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
+      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (present & ((uint64_t)1 << 1)) {
+      pvalue->m |= 0x80000000000ull;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerSetup-r9-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerSetup-r9-IEs");
+         pvalue->mbms_PL_ServiceRestrictInfo = ui;
+      }
+   }
+   /* cellDCHMeasOccasionInfo-TDD128 */
+   if (present & ((uint64_t)1 << 0)) {
+      pvalue->m |= 0x100000000000ull;
+      stat = asn1PD_UMTS_CellDCHMeasOccasionInfo_TDD128_r9(ctx, &pvalue->cellDCHMeasOccasionInfo_TDD128);
+      RT_CHECK(ctx, stat, 0, "cellDCHMeasOccasionInfo-TDD128", -1, "RadioBearerSetup-r9-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-r9 */
+   stat = asn1PD_UMTS_RadioBearerSetup_r9_IEs(ctx, &pvalue->radioBearerSetup_r9);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-r9", -1, 0);
+   /* radioBearerSetup-r9-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->radioBearerSetup_r9_add_ext);
+      RT_CHECK(ctx, stat, 0, "radioBearerSetup-r9-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r9 */
+         pvalue->u.r9 = (RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9));
+         if (pvalue->u.r9 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r9", -1, 0);
+         asn1Init_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(pvalue->u.r9);
+         stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
+         RT_CHECK(ctx, stat, 0, "r9", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r8 */
+         pvalue->u.r8 = (RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8));
+         if (pvalue->u.r8 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r8", -1, 0);
+         asn1Init_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(pvalue->u.r8);
+         stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
+         RT_CHECK(ctx, stat, 0, "r8", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r7 */
+         pvalue->u.r7 = (RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7));
+         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r7", -1, 0);
+         asn1Init_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(pvalue->u.r7);
+         stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
+         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r6 */
+         pvalue->u.r6 = (RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6));
+         if (pvalue->u.r6 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r6", -1, 0);
+         asn1Init_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(pvalue->u.r6);
+         stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(ctx, pvalue->u.r6);
+         RT_CHECK(ctx, stat, 0, "r6", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r5 */
+         pvalue->u.r5 = (RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5));
+         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r5", -1, 0);
+         asn1Init_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5(pvalue->u.r5);
+         stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5(ctx, pvalue->u.r5);
+         RT_CHECK(ctx, stat, 0, "r5", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r4 */
+         pvalue->u.r4 = (RadioBearerSetup_later_than_r3_criticalExtensions_r4*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_later_than_r3_criticalExtensions_r4));
+         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r4", -1, 0);
+         asn1Init_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_r4(pvalue->u.r4);
+         stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
+         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup_later_than_r3(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetup(rtxContext* RT_RESTRICT ctx, RadioBearerSetup* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r3 */
+         pvalue->u.r3 = (RadioBearerSetup_r3*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_r3));
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "RadioBearerSetup");
+         asn1Init_UMTS_RadioBearerSetup_r3(pvalue->u.r3);
+         stat = asn1PD_UMTS_RadioBearerSetup_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "RadioBearerSetup");
+         break;
+      case 1: /* later-than-r3 */
+         pvalue->u.later_than_r3 = (RadioBearerSetup_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup_later_than_r3));
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "RadioBearerSetup");
+         asn1Init_UMTS_RadioBearerSetup_later_than_r3(pvalue->u.later_than_r3);
+         stat = asn1PD_UMTS_RadioBearerSetup_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "RadioBearerSetup");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RadioBearerSetup");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetupComplete_v770ext_IEs_deferredMeasurementControlReading(rtxContext* RT_RESTRICT ctx, RadioBearerSetupComplete_v770ext_IEs_deferredMeasurementControlReading* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetupComplete_v770ext_IEs(rtxContext* RT_RESTRICT ctx, RadioBearerSetupComplete_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetupComplete-v770ext-IEs");
+   /* ext-UL-TimingAdvance */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_EXT_UL_TimingAdvance(ctx, &pvalue->ext_UL_TimingAdvance);
+      RT_CHECK(ctx, stat, 0, "ext-UL-TimingAdvance", -1, "RadioBearerSetupComplete-v770ext-IEs");
+   }
+   /* deferredMeasurementControlReading */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "deferredMeasurementControlReading", -1, "RadioBearerSetupComplete-v770ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "deferredMeasurementControlReading", -1, "RadioBearerSetupComplete-v770ext-IEs");
+         pvalue->deferredMeasurementControlReading = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetupComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetupComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetupComplete_laterNonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetupComplete_laterNonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetupComplete-v770ext */
+   stat = asn1PD_UMTS_RadioBearerSetupComplete_v770ext_IEs(ctx, &pvalue->radioBearerSetupComplete_v770ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetupComplete-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RadioBearerSetupComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetupComplete_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetupComplete_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetupComplete-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->radioBearerSetupComplete_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "radioBearerSetupComplete-r3-add-ext", -1, 0);
+   }
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RadioBearerSetupComplete_laterNonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetupComplete(rtxContext* RT_RESTRICT ctx, RadioBearerSetupComplete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetupComplete");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RadioBearerSetupComplete");
+   /* ul-IntegProtActivationInfo */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtActivationInfo(ctx, &pvalue->ul_IntegProtActivationInfo);
+      RT_CHECK(ctx, stat, 0, "ul-IntegProtActivationInfo", -1, "RadioBearerSetupComplete");
+   }
+   /* ul-TimingAdvance */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->ul_TimingAdvance, 0, 63);
+      RT_CHECK(ctx, stat, "UL-TimingAdvance", "ul-TimingAdvance", -1, "RadioBearerSetupComplete");
+   }
+   /* start-Value */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_START_Value(ctx, &pvalue->start_Value);
+      RT_CHECK(ctx, stat, 0, "start-Value", -1, "RadioBearerSetupComplete");
+   }
+   /* count-C-ActivationTime */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUInt8(ctx, &pvalue->count_C_ActivationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "count-C-ActivationTime", -1, "RadioBearerSetupComplete");
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "RadioBearerSetupComplete");
+   }
+   /* ul-CounterSynchronisationInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_UL_CounterSynchronisationInfo(ctx, &pvalue->ul_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CounterSynchronisationInfo", -1, "RadioBearerSetupComplete");
+   }
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_RadioBearerSetupComplete_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "RadioBearerSetupComplete");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetupFailure_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetupFailure_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetupFailure_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RadioBearerSetupFailure_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetupFailure-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->radioBearerSetupFailure_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "radioBearerSetupFailure-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RadioBearerSetupFailure_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RadioBearerSetupFailure(rtxContext* RT_RESTRICT ctx, RadioBearerSetupFailure* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetupFailure");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RadioBearerSetupFailure");
+   /* failureCause */
+   stat = asn1PD_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
+   RT_CHECK(ctx, stat, 0, "failureCause", -1, "RadioBearerSetupFailure");
+   /* potentiallySuccesfulBearerList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RB_IdentityList(ctx, &pvalue->potentiallySuccesfulBearerList);
+      RT_CHECK(ctx, stat, 0, "potentiallySuccesfulBearerList", -1, "RadioBearerSetupFailure");
+   }
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RadioBearerSetupFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "RadioBearerSetupFailure");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionReject_r3_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionReject_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionReject-r3-IEs");
+   /* initialUE-Identity */
+   stat = asn1PD_UMTS_InitialUE_Identity(ctx, &pvalue->initialUE_Identity);
+   RT_CHECK(ctx, stat, 0, "initialUE-Identity", -1, "RRCConnectionReject-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RRCConnectionReject-r3-IEs");
+   /* rejectionCause */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rejectionCause, 0, 1);
+   RT_CHECK(ctx, stat, "RejectionCause", "rejectionCause", -1, "RRCConnectionReject-r3-IEs");
+   /* waitTime */
+   stat = pd_ConsUInt8(ctx, &pvalue->waitTime, 0, 15);
+   RT_CHECK(ctx, stat, "WaitTime", "waitTime", -1, "RRCConnectionReject-r3-IEs");
+   /* redirectionInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RedirectionInfo(ctx, &pvalue->redirectionInfo);
+      RT_CHECK(ctx, stat, 0, "redirectionInfo", -1, "RRCConnectionReject-r3-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionReject_v690ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionReject_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionReject-v690ext-IEs");
+   /* redirectionInfo-v690ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_GSM_TargetCellInfoList(ctx, &pvalue->redirectionInfo_v690ext);
+      RT_CHECK(ctx, stat, 0, "redirectionInfo-v690ext", -1, "RRCConnectionReject-v690ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionReject_v6f0ext_IEs_countingCompletion(rtxContext* RT_RESTRICT ctx, RRCConnectionReject_v6f0ext_IEs_countingCompletion* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionReject_v6f0ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionReject_v6f0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionReject-v6f0ext-IEs");
+   /* countingCompletion */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "countingCompletion", -1, "RRCConnectionReject-v6f0ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "countingCompletion", -1, "RRCConnectionReject-v6f0ext-IEs");
+         pvalue->countingCompletion = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionReject_v860ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionReject_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionReject-v860ext-IEs");
+   /* redirectionInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RedirectionInfo_v860ext(ctx, &pvalue->redirectionInfo);
+      RT_CHECK(ctx, stat, 0, "redirectionInfo", -1, "RRCConnectionReject-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionReject_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v6f0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionReject_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v6f0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionReject_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v6f0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionReject_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v6f0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionReject-v860ext */
+   stat = asn1PD_UMTS_RRCConnectionReject_v860ext_IEs(ctx, &pvalue->rrcConnectionReject_v860ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionReject-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionReject_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v6f0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionReject_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v6f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionReject_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v6f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionReject-v6f0ext */
+   stat = asn1PD_UMTS_RRCConnectionReject_v6f0ext_IEs(ctx, &pvalue->rrcConnectionReject_v6f0ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionReject-v6f0ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionReject_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v6f0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionReject_r3_laterNonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionReject_r3_laterNonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionReject-v690ext */
+   stat = asn1PD_UMTS_RRCConnectionReject_v690ext_IEs(ctx, &pvalue->rrcConnectionReject_v690ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionReject-v690ext", -1, 0);
+   /* v6f0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionReject_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v6f0NonCriticalExtensions(ctx, &pvalue->v6f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6f0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionReject_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionReject_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionReject-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->rrcConnectionReject_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "rrcConnectionReject-r3-add-ext", -1, 0);
+   }
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RRCConnectionReject_r3_laterNonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionReject_r3(rtxContext* RT_RESTRICT ctx, RRCConnectionReject_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionReject-r3 */
+   stat = asn1PD_UMTS_RRCConnectionReject_r3_IEs(ctx, &pvalue->rrcConnectionReject_r3);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionReject-r3", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionReject_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionReject_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionReject_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionReject_later_than_r3(rtxContext* RT_RESTRICT ctx, RRCConnectionReject_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* initialUE-Identity */
+   stat = asn1PD_UMTS_InitialUE_Identity(ctx, &pvalue->initialUE_Identity);
+   RT_CHECK(ctx, stat, 0, "initialUE-Identity", -1, 0);
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PD_UMTS_RRCConnectionReject_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionReject(rtxContext* RT_RESTRICT ctx, RRCConnectionReject* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionReject");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r3 */
+         pvalue->u.r3 = (RRCConnectionReject_r3*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionReject_r3));
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "RRCConnectionReject");
+         asn1Init_UMTS_RRCConnectionReject_r3(pvalue->u.r3);
+         stat = asn1PD_UMTS_RRCConnectionReject_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "RRCConnectionReject");
+         break;
+      case 1: /* later-than-r3 */
+         pvalue->u.later_than_r3 = (RRCConnectionReject_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionReject_later_than_r3));
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "RRCConnectionReject");
+         asn1Init_UMTS_RRCConnectionReject_later_than_r3(pvalue->u.later_than_r3);
+         stat = asn1PD_UMTS_RRCConnectionReject_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "RRCConnectionReject");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RRCConnectionReject");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_r3_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRelease-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RRCConnectionRelease-r3-IEs");
+   /* n-308 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->n_308, 1, 8);
+      RT_CHECK(ctx, stat, "N-308", "n-308", -1, "RRCConnectionRelease-r3-IEs");
+   }
+   /* releaseCause */
+   stat = pd_ConsUnsigned(ctx, &pvalue->releaseCause, 0, 7);
+   RT_CHECK(ctx, stat, "ReleaseCause", "releaseCause", -1, "RRCConnectionRelease-r3-IEs");
+   /* rplmn-information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_Rplmn_Information(ctx, &pvalue->rplmn_information);
+      RT_CHECK(ctx, stat, 0, "rplmn-information", -1, "RRCConnectionRelease-r3-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_v690ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRelease-v690ext-IEs");
+   /* redirectionInfo-v690ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RedirectionInfo_r6(ctx, &pvalue->redirectionInfo_v690ext);
+      RT_CHECK(ctx, stat, 0, "redirectionInfo-v690ext", -1, "RRCConnectionRelease-v690ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_v770ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRelease-v770ext-IEs");
+   /* ueMobilityStateIndicator */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RRCConnectionRelease-v770ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RRCConnectionRelease-v770ext-IEs");
+         pvalue->ueMobilityStateIndicator = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_v860ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRelease-v860ext-IEs");
+   /* redirectionInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RedirectionInfo_v860ext(ctx, &pvalue->redirectionInfo);
+      RT_CHECK(ctx, stat, 0, "redirectionInfo", -1, "RRCConnectionRelease-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-v860ext */
+   stat = asn1PD_UMTS_RRCConnectionRelease_v860ext_IEs(ctx, &pvalue->rrcConnectionRelease_v860ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionRelease_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-v770ext */
+   stat = asn1PD_UMTS_RRCConnectionRelease_v770ext_IEs(ctx, &pvalue->rrcConnectionRelease_v770ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-v770ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionRelease_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_r3_laterNonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_r3_laterNonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-v690ext */
+   stat = asn1PD_UMTS_RRCConnectionRelease_v690ext_IEs(ctx, &pvalue->rrcConnectionRelease_v690ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionRelease_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->rrcConnectionRelease_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-r3-add-ext", -1, 0);
+   }
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RRCConnectionRelease_r3_laterNonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_r3(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-r3 */
+   stat = asn1PD_UMTS_RRCConnectionRelease_r3_IEs(ctx, &pvalue->rrcConnectionRelease_r3);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-r3", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionRelease_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_r4_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_r4_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRelease-r4-IEs");
+   /* n-308 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->n_308, 1, 8);
+      RT_CHECK(ctx, stat, "N-308", "n-308", -1, "RRCConnectionRelease-r4-IEs");
+   }
+   /* releaseCause */
+   stat = pd_ConsUnsigned(ctx, &pvalue->releaseCause, 0, 7);
+   RT_CHECK(ctx, stat, "ReleaseCause", "releaseCause", -1, "RRCConnectionRelease-r4-IEs");
+   /* rplmn-information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_Rplmn_Information_r4(ctx, &pvalue->rplmn_information);
+      RT_CHECK(ctx, stat, 0, "rplmn-information", -1, "RRCConnectionRelease-r4-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-v860ext */
+   stat = asn1PD_UMTS_RRCConnectionRelease_v860ext_IEs(ctx, &pvalue->rrcConnectionRelease_v860ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-v770ext */
+   stat = asn1PD_UMTS_RRCConnectionRelease_v770ext_IEs(ctx, &pvalue->rrcConnectionRelease_v770ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-v770ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-v690ext */
+   stat = asn1PD_UMTS_RRCConnectionRelease_v690ext_IEs(ctx, &pvalue->rrcConnectionRelease_v690ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-r4-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->rrcConnectionRelease_r4_add_ext);
+      RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-r4-add-ext", -1, 0);
+   }
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-r4 */
+   stat = asn1PD_UMTS_RRCConnectionRelease_r4_IEs(ctx, &pvalue->rrcConnectionRelease_r4);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-r4", -1, 0);
+   /* v4d0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r4 */
+         pvalue->u.r4 = (RRCConnectionRelease_later_than_r3_criticalExtensions_r4*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionRelease_later_than_r3_criticalExtensions_r4));
+         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r4", -1, 0);
+         asn1Init_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_r4(pvalue->u.r4);
+         stat = asn1PD_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
+         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (RRCConnectionRelease_later_than_r3_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(RRCConnectionRelease_later_than_r3_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PD_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_later_than_r3(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PD_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRelease");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r3 */
+         pvalue->u.r3 = (RRCConnectionRelease_r3*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionRelease_r3));
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "RRCConnectionRelease");
+         asn1Init_UMTS_RRCConnectionRelease_r3(pvalue->u.r3);
+         stat = asn1PD_UMTS_RRCConnectionRelease_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "RRCConnectionRelease");
+         break;
+      case 1: /* later-than-r3 */
+         pvalue->u.later_than_r3 = (RRCConnectionRelease_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionRelease_later_than_r3));
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "RRCConnectionRelease");
+         asn1Init_UMTS_RRCConnectionRelease_later_than_r3(pvalue->u.later_than_r3);
+         stat = asn1PD_UMTS_RRCConnectionRelease_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "RRCConnectionRelease");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RRCConnectionRelease");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_CCCH_r3_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* u-RNTI */
+   stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, "RRCConnectionRelease-CCCH-r3-IEs");
+   /* rrcConnectionRelease */
+   stat = asn1PD_UMTS_RRCConnectionRelease_r3_IEs(ctx, &pvalue->rrcConnectionRelease);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease", -1, "RRCConnectionRelease-CCCH-r3-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_CCCH_v690ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = asn1PD_UMTS_RRCConnectionRelease_v690ext_IEs(ctx, pvalue);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRelease-CCCH-v690ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_CCCH_v860ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = asn1PD_UMTS_RRCConnectionRelease_v860ext_IEs(ctx, pvalue);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRelease-CCCH-v860ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-v860ext */
+   stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_v860ext_IEs(ctx, &pvalue->rrcConnectionRelease_v860ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-v690ext */
+   stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_v690ext_IEs(ctx, &pvalue->rrcConnectionRelease_v690ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-v690ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_CCCH_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-CCCH-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->rrcConnectionRelease_CCCH_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-CCCH-r3-add-ext", -1, 0);
+   }
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_CCCH_r3(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-CCCH-r3 */
+   stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_r3_IEs(ctx, &pvalue->rrcConnectionRelease_CCCH_r3);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-CCCH-r3", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_CCCH_r4_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH_r4_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rrcConnectionRelease */
+   stat = asn1PD_UMTS_RRCConnectionRelease_r4_IEs(ctx, &pvalue->rrcConnectionRelease);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease", -1, "RRCConnectionRelease-CCCH-r4-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-v860ext */
+   stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_v860ext_IEs(ctx, &pvalue->rrcConnectionRelease_v860ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-v690ext */
+   stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_v690ext_IEs(ctx, &pvalue->rrcConnectionRelease_v690ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-v690ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-CCCH-r4-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->rrcConnectionRelease_CCCH_r4_add_ext);
+      RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-CCCH-r4-add-ext", -1, 0);
+   }
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
    return 0;
 }
 

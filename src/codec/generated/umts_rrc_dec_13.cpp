@@ -6,9025 +6,9003 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension_nonCriticalExtensions(rtxContext* ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension(rtxContext* ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension* pvalue)
+int asn1PD_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* assistanceDataDelivery-v920ext */
-   rtxCtxtPushElemName(ctx, "assistanceDataDelivery-v920ext");
-   stat = asn1PD_UMTS_AssistanceDataDelivery_v920ext_IEs(ctx, &pvalue->assistanceDataDelivery_v920ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-CCCH-r4 */
+   stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_r4_IEs(ctx, &pvalue->rrcConnectionRelease_CCCH_r4);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-CCCH-r4", -1, 0);
+   /* v4d0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_groupIdentity(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_groupIdentity* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      GroupReleaseInformation* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(GroupReleaseInformation));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "GroupReleaseInformation", (int32_t)i, 0);
+      elem = (GroupReleaseInformation*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_GroupReleaseInformation(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_GroupReleaseInformation(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "GroupReleaseInformation", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_CCCH_r5_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH_r5_IEs* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_r4_IEs(ctx, pvalue);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRelease-CCCH-r5-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-v860ext */
+   stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_v860ext_IEs(ctx, &pvalue->rrcConnectionRelease_v860ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-v860ext", -1, 0);
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension(rtxContext* ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension* pvalue)
+int asn1PD_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* assistanceDataDelivery-v860ext */
-   rtxCtxtPushElemName(ctx, "assistanceDataDelivery-v860ext");
-   stat = asn1PD_UMTS_AssistanceDataDelivery_v860ext_IEs(ctx, &pvalue->assistanceDataDelivery_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v920NonCriticalExtension */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-v690ext */
+   stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_v690ext_IEs(ctx, &pvalue->rrcConnectionRelease_v690ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-v690ext", -1, 0);
+   /* v860NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v920NonCriticalExtension");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension(ctx, &pvalue->v920NonCriticalExtension);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension(rtxContext* ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* assistanceDataDelivery-v770ext */
-   rtxCtxtPushElemName(ctx, "assistanceDataDelivery-v770ext");
-   stat = asn1PD_UMTS_AssistanceDataDelivery_v770ext_IEs(ctx, &pvalue->assistanceDataDelivery_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v860NonCriticalExtension */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtension");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension(ctx, &pvalue->v860NonCriticalExtension);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* assistanceDataDelivery-v4b0ext */
-   rtxCtxtPushElemName(ctx, "assistanceDataDelivery-v4b0ext");
-   stat = asn1PD_UMTS_AssistanceDataDelivery_v4b0ext_IEs(ctx, &pvalue->assistanceDataDelivery_v4b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v770NonCriticalExtension */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtension");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension(ctx, &pvalue->v770NonCriticalExtension);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions* pvalue)
+int asn1PD_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r5* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* assistanceDataDelivery-r3-add-ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-CCCH-r5 */
+   stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_r5_IEs(ctx, &pvalue->rrcConnectionRelease_CCCH_r5);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-CCCH-r5", -1, 0);
+   /* rrcConnectionRelease-CCCH-r5-add-ext */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "assistanceDataDelivery-r3-add-ext");
       pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->assistanceDataDelivery_r3_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_DynBitString(ctx, &pvalue->rrcConnectionRelease_CCCH_r5_add_ext);
+      RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-CCCH-r5-add-ext", -1, 0);
    }
-   /* v4b0NonCriticalExtensions */
+   /* v690NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v4b0NonCriticalExtensions");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions(rtxContext* ctx, AssistanceDataDelivery_r3_v3a0NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r5 */
+         pvalue->u.r5 = (RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r5*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r5));
+         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r5", -1, 0);
+         asn1Init_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r5(pvalue->u.r5);
+         stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r5(ctx, pvalue->u.r5);
+         RT_CHECK(ctx, stat, 0, "r5", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* assistanceDataDelivery-v3a0ext */
-   rtxCtxtPushElemName(ctx, "assistanceDataDelivery-v3a0ext");
-   stat = asn1PD_UMTS_AssistanceDataDelivery_v3a0ext(ctx, &pvalue->assistanceDataDelivery_v3a0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* laterNonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* groupIdentity */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_groupIdentity(ctx, &pvalue->groupIdentity);
+      RT_CHECK(ctx, stat, 0, "groupIdentity", -1, 0);
    }
-   return 0;
-}
-
-int asn1PD_UMTS_AssistanceDataDelivery_r3(rtxContext* ctx, AssistanceDataDelivery_r3* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* assistanceDataDelivery-r3 */
-   rtxCtxtPushElemName(ctx, "assistanceDataDelivery-r3");
-   stat = asn1PD_UMTS_AssistanceDataDelivery_r3_IEs(ctx, &pvalue->assistanceDataDelivery_r3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v3a0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v3a0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_AssistanceDataDelivery_later_than_r3_criticalExtensions(rtxContext* ctx, AssistanceDataDelivery_later_than_r3_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_AssistanceDataDelivery_later_than_r3(rtxContext* ctx, AssistanceDataDelivery_later_than_r3* pvalue)
-{
-   int stat = 0;
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
    /* criticalExtensions */
-   rtxCtxtPushElemName(ctx, "criticalExtensions");
-   stat = asn1PD_UMTS_AssistanceDataDelivery_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_AssistanceDataDelivery(rtxContext* ctx, AssistanceDataDelivery* pvalue)
+int asn1PD_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "AssistanceDataDelivery");
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r3");
-         pvalue->u.r3 = (AssistanceDataDelivery_r3*)rtxMemHeapAlloc(ctx, sizeof(AssistanceDataDelivery_r3));
-         if (pvalue->u.r3 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_AssistanceDataDelivery_r3(pvalue->u.r3);
-         stat = asn1PD_UMTS_AssistanceDataDelivery_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 0: /* r4 */
+         pvalue->u.r4 = (RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4));
+         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r4", -1, 0);
+         asn1Init_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4(pvalue->u.r4);
+         stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
+         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "later-than-r3");
-         pvalue->u.later_than_r3 = (AssistanceDataDelivery_later_than_r3*)rtxMemHeapAllocZ(ctx, sizeof(AssistanceDataDelivery_later_than_r3));
-         if (pvalue->u.later_than_r3 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_AssistanceDataDelivery_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_CellChangeOrderFromUTRAN_r3_IEs(rtxContext* ctx, CellChangeOrderFromUTRAN_r3_IEs* pvalue)
+int asn1PD_UMTS_RRCConnectionRelease_CCCH_later_than_r3(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH_later_than_r3* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellChangeOrderFromUTRAN-r3-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
+   /* u-RNTI */
+   stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, 0);
    /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
    stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dummy */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rab-InformationList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "rab-InformationList");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_RAB_InformationList(ctx, &pvalue->rab_InformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interRAT-TargetCellDescription */
-   rtxCtxtPushElemName(ctx, "interRAT-TargetCellDescription");
-   stat = asn1PD_UMTS_InterRAT_TargetCellDescription(ctx, &pvalue->interRAT_TargetCellDescription);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_CellChangeOrderFromUTRAN_v590ext_IEs_geran_SystemInfoType(rtxContext* ctx, CellChangeOrderFromUTRAN_v590ext_IEs_geran_SystemInfoType* pvalue)
+int asn1PD_UMTS_RRCConnectionRelease_CCCH(rtxContext* RT_RESTRICT ctx, RRCConnectionRelease_CCCH* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRelease-CCCH");
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "sI");
-         pvalue->u.sI = (GERAN_SystemInformation*)rtxMemHeapAlloc(ctx, sizeof(GERAN_SystemInformation));
-         if (pvalue->u.sI == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_GERAN_SystemInformation(pvalue->u.sI);
-         stat = asn1PD_UMTS_GERAN_SystemInformation(ctx, pvalue->u.sI);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 0: /* r3 */
+         pvalue->u.r3 = (RRCConnectionRelease_CCCH_r3*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionRelease_CCCH_r3));
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "RRCConnectionRelease-CCCH");
+         asn1Init_UMTS_RRCConnectionRelease_CCCH_r3(pvalue->u.r3);
+         stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "RRCConnectionRelease-CCCH");
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "pSI");
-         pvalue->u.pSI = (GERAN_SystemInformation*)rtxMemHeapAlloc(ctx, sizeof(GERAN_SystemInformation));
-         if (pvalue->u.pSI == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_GERAN_SystemInformation(pvalue->u.pSI);
-         stat = asn1PD_UMTS_GERAN_SystemInformation(ctx, pvalue->u.pSI);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 1: /* later-than-r3 */
+         pvalue->u.later_than_r3 = (RRCConnectionRelease_CCCH_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionRelease_CCCH_later_than_r3));
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "RRCConnectionRelease-CCCH");
+         asn1Init_UMTS_RRCConnectionRelease_CCCH_later_than_r3(pvalue->u.later_than_r3);
+         stat = asn1PD_UMTS_RRCConnectionRelease_CCCH_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "RRCConnectionRelease-CCCH");
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RRCConnectionRelease-CCCH");
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellChangeOrderFromUTRAN_v590ext_IEs(rtxContext* ctx, CellChangeOrderFromUTRAN_v590ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellChangeOrderFromUTRAN-v590ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* geran-SystemInfoType */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "geran-SystemInfoType");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellChangeOrderFromUTRAN_v590ext_IEs_geran_SystemInfoType(ctx, &pvalue->geran_SystemInfoType);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions* pvalue)
+int asn1PD_UMTS_RRCConnectionReleaseComplete_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionReleaseComplete_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    return 0;
 }
 
-int asn1PD_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* ctx, CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellChangeOrderFromUTRAN-v590ext */
-   rtxCtxtPushElemName(ctx, "cellChangeOrderFromUTRAN-v590ext");
-   stat = asn1PD_UMTS_CellChangeOrderFromUTRAN_v590ext_IEs(ctx, &pvalue->cellChangeOrderFromUTRAN_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions(rtxContext* ctx, CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions* pvalue)
+int asn1PD_UMTS_RRCConnectionReleaseComplete_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionReleaseComplete_laterNonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* cellChangeOrderFromUTRAN-r3-add-ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionReleaseComplete-r3-add-ext */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "cellChangeOrderFromUTRAN-r3-add-ext");
       pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->cellChangeOrderFromUTRAN_r3_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_DynBitString(ctx, &pvalue->rrcConnectionReleaseComplete_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "rrcConnectionReleaseComplete-r3-add-ext", -1, 0);
    }
-   /* v590NonCriticalExtensions */
+   /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtensions");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RRCConnectionReleaseComplete_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellChangeOrderFromUTRAN_r3(rtxContext* ctx, CellChangeOrderFromUTRAN_r3* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellChangeOrderFromUTRAN-IEs */
-   rtxCtxtPushElemName(ctx, "cellChangeOrderFromUTRAN-IEs");
-   stat = asn1PD_UMTS_CellChangeOrderFromUTRAN_r3_IEs(ctx, &pvalue->cellChangeOrderFromUTRAN_IEs);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellChangeOrderFromUTRAN_later_than_r3_criticalExtensions(rtxContext* ctx, CellChangeOrderFromUTRAN_later_than_r3_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellChangeOrderFromUTRAN_later_than_r3(rtxContext* ctx, CellChangeOrderFromUTRAN_later_than_r3* pvalue)
-{
-   int stat = 0;
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* criticalExtensions */
-   rtxCtxtPushElemName(ctx, "criticalExtensions");
-   stat = asn1PD_UMTS_CellChangeOrderFromUTRAN_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellChangeOrderFromUTRAN(rtxContext* ctx, CellChangeOrderFromUTRAN* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "CellChangeOrderFromUTRAN");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r3");
-         pvalue->u.r3 = (CellChangeOrderFromUTRAN_r3*)rtxMemHeapAlloc(ctx, sizeof(CellChangeOrderFromUTRAN_r3));
-         if (pvalue->u.r3 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellChangeOrderFromUTRAN_r3(pvalue->u.r3);
-         stat = asn1PD_UMTS_CellChangeOrderFromUTRAN_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "later-than-r3");
-         pvalue->u.later_than_r3 = (CellChangeOrderFromUTRAN_later_than_r3*)rtxMemHeapAllocZ(ctx, sizeof(CellChangeOrderFromUTRAN_later_than_r3));
-         if (pvalue->u.later_than_r3 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_CellChangeOrderFromUTRAN_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellChangeOrderFromUTRANFailure_r3_IEs(rtxContext* ctx, CellChangeOrderFromUTRANFailure_r3_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellChangeOrderFromUTRANFailure-r3-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interRAT-ChangeFailureCause */
-   rtxCtxtPushElemName(ctx, "interRAT-ChangeFailureCause");
-   stat = asn1PD_UMTS_InterRAT_ChangeFailureCause(ctx, &pvalue->interRAT_ChangeFailureCause);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions(rtxContext* ctx, CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions* pvalue)
+int asn1PD_UMTS_RRCConnectionReleaseComplete(rtxContext* RT_RESTRICT ctx, RRCConnectionReleaseComplete* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* cellChangeOrderFromUTRANFailure-r3-add-ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionReleaseComplete");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RRCConnectionReleaseComplete");
+   /* errorIndication */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "cellChangeOrderFromUTRANFailure-r3-add-ext");
       pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->cellChangeOrderFromUTRANFailure_r3_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_FailureCauseWithProtErr(ctx, &pvalue->errorIndication);
+      RT_CHECK(ctx, stat, 0, "errorIndication", -1, "RRCConnectionReleaseComplete");
    }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellChangeOrderFromUTRANFailure_r3(rtxContext* ctx, CellChangeOrderFromUTRANFailure_r3* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellChangeOrderFromUTRANFailure-r3 */
-   rtxCtxtPushElemName(ctx, "cellChangeOrderFromUTRANFailure-r3");
-   stat = asn1PD_UMTS_CellChangeOrderFromUTRANFailure_r3_IEs(ctx, &pvalue->cellChangeOrderFromUTRANFailure_r3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
    /* laterNonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellChangeOrderFromUTRANFailure_dummy_criticalExtensions(rtxContext* ctx, CellChangeOrderFromUTRANFailure_dummy_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellChangeOrderFromUTRANFailure_dummy(rtxContext* ctx, CellChangeOrderFromUTRANFailure_dummy* pvalue)
-{
-   int stat = 0;
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* criticalExtensions */
-   rtxCtxtPushElemName(ctx, "criticalExtensions");
-   stat = asn1PD_UMTS_CellChangeOrderFromUTRANFailure_dummy_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellChangeOrderFromUTRANFailure(rtxContext* ctx, CellChangeOrderFromUTRANFailure* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "CellChangeOrderFromUTRANFailure");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r3");
-         pvalue->u.r3 = (CellChangeOrderFromUTRANFailure_r3*)rtxMemHeapAlloc(ctx, sizeof(CellChangeOrderFromUTRANFailure_r3));
-         if (pvalue->u.r3 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellChangeOrderFromUTRANFailure_r3(pvalue->u.r3);
-         stat = asn1PD_UMTS_CellChangeOrderFromUTRANFailure_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "dummy");
-         pvalue->u.dummy = (CellChangeOrderFromUTRANFailure_dummy*)rtxMemHeapAllocZ(ctx, sizeof(CellChangeOrderFromUTRANFailure_dummy));
-         if (pvalue->u.dummy == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_CellChangeOrderFromUTRANFailure_dummy(ctx, pvalue->u.dummy);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdate_v7e0ext_IEs_supportForTwoDRXSchemesInPCH(rtxContext* ctx, CellUpdate_v7e0ext_IEs_supportForTwoDRXSchemesInPCH* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdate_v7e0ext_IEs(rtxContext* ctx, CellUpdate_v7e0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellUpdate-v7e0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* supportForTwoDRXSchemesInPCH */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "supportForTwoDRXSchemesInPCH");
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportForTwoDRXSchemesInPCH = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdate_v7g0ext_IEs(rtxContext* ctx, CellUpdate_v7g0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellUpdate-v7g0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measuredResultsOnRACH-v7g0ext */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "measuredResultsOnRACH-v7g0ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasuredResultsOnRACH_v7g0ext(ctx, &pvalue->measuredResultsOnRACH_v7g0ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions(rtxContext* ctx, CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdate-v7g0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdate-v7g0ext");
-   stat = asn1PD_UMTS_CellUpdate_v7g0ext_IEs(ctx, &pvalue->cellUpdate_v7g0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdate_r3_add_ext_IEs(rtxContext* ctx, CellUpdate_r3_add_ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellUpdate-r3-add-ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdate-v7e0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdate-v7e0ext");
-   stat = asn1PD_UMTS_CellUpdate_v7e0ext_IEs(ctx, &pvalue->cellUpdate_v7e0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v7g0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v7g0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdate_v590ext(rtxContext* ctx, CellUpdate_v590ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellUpdate-v590ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* establishmentCause */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "establishmentCause");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "EstablishmentCause");
-      stat = pd_ConsUnsigned(ctx, &pvalue->establishmentCause, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdate_v690ext_IEs_trafficVolumeIndicator(rtxContext* ctx, CellUpdate_v690ext_IEs_trafficVolumeIndicator* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdate_v690ext_IEs_reconfigurationStatusIndicator(rtxContext* ctx, CellUpdate_v690ext_IEs_reconfigurationStatusIndicator* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdate_v690ext_IEs(rtxContext* ctx, CellUpdate_v690ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellUpdate-v690ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateCause-ext */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "cellUpdateCause-ext");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "CellUpdateCause-ext");
-      stat = pd_ConsUnsigned(ctx, &pvalue->cellUpdateCause_ext, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* trafficVolumeIndicator */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "trafficVolumeIndicator");
       pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->trafficVolumeIndicator = ui;
-      }
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RRCConnectionReleaseComplete_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "RRCConnectionReleaseComplete");
    }
-   /* measuredResultsOnRACHinterFreq */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "measuredResultsOnRACHinterFreq");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_MeasuredResultsOnRACHinterFreq(ctx, &pvalue->measuredResultsOnRACHinterFreq);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reconfigurationStatusIndicator */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "reconfigurationStatusIndicator");
-      pvalue->m |= 0x8u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->reconfigurationStatusIndicator = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_CellUpdate_v6b0ext_IEs(rtxContext* ctx, CellUpdate_v6b0ext_IEs* pvalue)
+int asn1PD_UMTS_RRCConnectionRequest_v3d0ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v3d0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellUpdate-v6b0ext-IEs");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* mbmsSelectedServices */
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRequest-v3d0ext-IEs");
+   /* uESpecificBehaviourInformation1idle */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mbmsSelectedServices");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MBMS_SelectedServicesShort(ctx, &pvalue->mbmsSelectedServices);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UESpecificBehaviourInformation1idle(ctx, &pvalue->uESpecificBehaviourInformation1idle);
+      RT_CHECK(ctx, stat, 0, "uESpecificBehaviourInformation1idle", -1, "RRCConnectionRequest-v3d0ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_CellUpdate_v770ext_IEs_csCallType(rtxContext* ctx, CellUpdate_v770ext_IEs_csCallType* pvalue)
+int asn1PD_UMTS_RRCConnectionRequest_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* accessStratumReleaseIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->accessStratumReleaseIndicator, 0, 15);
+   RT_CHECK(ctx, stat, "AccessStratumReleaseIndicator", "accessStratumReleaseIndicator", -1, "RRCConnectionRequest-v4b0ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRequest_v590ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* predefinedConfigStatusInfo */
+   stat = rtxDecBitInline(ctx, &pvalue->predefinedConfigStatusInfo);
+   RT_CHECK(ctx, stat, 0, "predefinedConfigStatusInfo", -1, "RRCConnectionRequest-v590ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRequest_v690ext_IEs_ueCapabilityIndication(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v690ext_IEs_ueCapabilityIndication* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRequest_v690ext_IEs_domainIndicator_cs_domain_csCallType(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v690ext_IEs_domainIndicator_cs_domain_csCallType* RT_RESTRICT pvalue)
 {
    int stat;
    stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_CellUpdate_v770ext_IEs_hspdschReception_CellFach(rtxContext* ctx, CellUpdate_v770ext_IEs_hspdschReception_CellFach* pvalue)
+int asn1PD_UMTS_RRCConnectionRequest_v690ext_IEs_domainIndicator_cs_domain(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v690ext_IEs_domainIndicator_cs_domain* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* csCallType */
+   stat = pd_ConsUnsigned(ctx, &pvalue->csCallType, 0, 3);
+   RT_CHECK(ctx, stat, 0, "csCallType", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRequest_v690ext_IEs_domainIndicator(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v690ext_IEs_domainIndicator* RT_RESTRICT pvalue)
 {
    int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* cs-domain */
+         pvalue->u.cs_domain = (RRCConnectionRequest_v690ext_IEs_domainIndicator_cs_domain*)rtxMemHeapAllocZ(ctx, sizeof(RRCConnectionRequest_v690ext_IEs_domainIndicator_cs_domain));
+         if (pvalue->u.cs_domain == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cs-domain", -1, 0);
+         stat = asn1PD_UMTS_RRCConnectionRequest_v690ext_IEs_domainIndicator_cs_domain(ctx, pvalue->u.cs_domain);
+         RT_CHECK(ctx, stat, 0, "cs-domain", -1, 0);
+         break;
+      case 1: /* ps-domain */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellUpdate_v770ext_IEs_capabilityChangeIndicator(rtxContext* ctx, CellUpdate_v770ext_IEs_capabilityChangeIndicator* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdate_v770ext_IEs(rtxContext* ctx, CellUpdate_v770ext_IEs* pvalue)
+int asn1PD_UMTS_RRCConnectionRequest_v690ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v690ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellUpdate-v770ext-IEs");
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRequest-v690ext-IEs");
+   /* ueCapabilityIndication */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->ueCapabilityIndication, 0, 1);
+      RT_CHECK(ctx, stat, 0, "ueCapabilityIndication", -1, "RRCConnectionRequest-v690ext-IEs");
+   }
+   /* measuredResultsOnRACHinterFreq */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_MeasuredResultsOnRACHinterFreq(ctx, &pvalue->measuredResultsOnRACHinterFreq);
+      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACHinterFreq", -1, "RRCConnectionRequest-v690ext-IEs");
+   }
+   /* domainIndicator */
+   stat = asn1PD_UMTS_RRCConnectionRequest_v690ext_IEs_domainIndicator(ctx, &pvalue->domainIndicator);
+   RT_CHECK(ctx, stat, 0, "domainIndicator", -1, "RRCConnectionRequest-v690ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRequest_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v6b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRequest-v6b0ext-IEs");
+   /* mbmsSelectedServices */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMS_SelectedServicesShort(ctx, &pvalue->mbmsSelectedServices);
+      RT_CHECK(ctx, stat, 0, "mbmsSelectedServices", -1, "RRCConnectionRequest-v6b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRequest_v6e0ext_IEs_supportForFDPCH(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v6e0ext_IEs_supportForFDPCH* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRequest_v6e0ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v6e0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRequest-v6e0ext-IEs");
+   /* supportForFDPCH */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportForFDPCH", -1, "RRCConnectionRequest-v6e0ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportForFDPCH", -1, "RRCConnectionRequest-v6e0ext-IEs");
+         pvalue->supportForFDPCH = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRequest_v770ext_IEs_hspdschReception_CellFach(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v770ext_IEs_hspdschReception_CellFach* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRequest_v770ext_IEs_mac_ehsSupport(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v770ext_IEs_mac_ehsSupport* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRequest_v770ext_IEs_discontinuousDpcchTransmission(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v770ext_IEs_discontinuousDpcchTransmission* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRequest_v770ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* csCallType */
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRequest-v770ext-IEs");
+   /* ueMobilityStateIndicator */
    if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "csCallType");
       pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->csCallType, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RRCConnectionRequest-v770ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RRCConnectionRequest-v770ext-IEs");
+         pvalue->ueMobilityStateIndicator = ui;
+      }
    }
    /* hspdschReception-CellFach */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "hspdschReception-CellFach");
       pvalue->m |= 0x2u;
       {
          uint32_t ui;
          stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
+         RT_CHECK(ctx, stat, 0, "hspdschReception-CellFach", -1, "RRCConnectionRequest-v770ext-IEs");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
+         RT_CHECK(ctx, stat, 0, "hspdschReception-CellFach", -1, "RRCConnectionRequest-v770ext-IEs");
          pvalue->hspdschReception_CellFach = ui;
       }
-      rtxCtxtPopElemName(ctx);
    }
-   /* ueMobilityStateIndicator */
+   /* mac-ehsSupport */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ueMobilityStateIndicator");
       pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "High-MobilityDetected");
       {
          uint32_t ui;
          stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
+         RT_CHECK(ctx, stat, 0, "mac-ehsSupport", -1, "RRCConnectionRequest-v770ext-IEs");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->ueMobilityStateIndicator = ui;
+         RT_CHECK(ctx, stat, 0, "mac-ehsSupport", -1, "RRCConnectionRequest-v770ext-IEs");
+         pvalue->mac_ehsSupport = ui;
       }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
    }
-   /* capabilityChangeIndicator */
+   /* discontinuousDpcchTransmission */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "capabilityChangeIndicator");
       pvalue->m |= 0x8u;
       {
          uint32_t ui;
          stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
+         RT_CHECK(ctx, stat, 0, "discontinuousDpcchTransmission", -1, "RRCConnectionRequest-v770ext-IEs");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->capabilityChangeIndicator = ui;
+         RT_CHECK(ctx, stat, 0, "discontinuousDpcchTransmission", -1, "RRCConnectionRequest-v770ext-IEs");
+         pvalue->discontinuousDpcchTransmission = ui;
       }
-      rtxCtxtPopElemName(ctx);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_CellUpdate_v860ext_IEs_supportOfCommonEDCH(rtxContext* ctx, CellUpdate_v860ext_IEs_supportOfCommonEDCH* pvalue)
+int asn1PD_UMTS_RRCConnectionRequest_v7b0ext_IEs_supportForE_FDPCH(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v7b0ext_IEs_supportForE_FDPCH* RT_RESTRICT pvalue)
 {
    int stat;
    {
       uint32_t ui;
       stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
       stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
       *pvalue = ui;
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellUpdate_v860ext_IEs_supportOfHS_DSCHDRXOperation(rtxContext* ctx, CellUpdate_v860ext_IEs_supportOfHS_DSCHDRXOperation* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdate_v860ext_IEs_supportOfMACiis(rtxContext* ctx, CellUpdate_v860ext_IEs_supportOfMACiis* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdate_v860ext_IEs_supportOfSPSOperation(rtxContext* ctx, CellUpdate_v860ext_IEs_supportOfSPSOperation* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdate_v860ext_IEs_supportOfControlChannelDRXOperation(rtxContext* ctx, CellUpdate_v860ext_IEs_supportOfControlChannelDRXOperation* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdate_v860ext_IEs(rtxContext* ctx, CellUpdate_v860ext_IEs* pvalue)
+int asn1PD_UMTS_RRCConnectionRequest_v7b0ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v7b0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellUpdate-v860ext-IEs");
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRequest-v7b0ext-IEs");
+   /* supportForE-FDPCH */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportForE-FDPCH", -1, "RRCConnectionRequest-v7b0ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportForE-FDPCH", -1, "RRCConnectionRequest-v7b0ext-IEs");
+         pvalue->supportForE_FDPCH = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRequest_v860ext_IEs_supportOfCommonEDCH(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v860ext_IEs_supportOfCommonEDCH* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRequest_v860ext_IEs_multiCellSupport(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v860ext_IEs_multiCellSupport* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRequest_v860ext_IEs_supportOfMACiis(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v860ext_IEs_supportOfMACiis* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRequest_v860ext_IEs_supportOfSPSOperation(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v860ext_IEs_supportOfSPSOperation* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRequest_v860ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRequest-v860ext-IEs");
    /* supportOfCommonEDCH */
    if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "supportOfCommonEDCH");
       pvalue->m |= 0x1u;
       {
          uint32_t ui;
          stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
+         RT_CHECK(ctx, stat, 0, "supportOfCommonEDCH", -1, "RRCConnectionRequest-v860ext-IEs");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
+         RT_CHECK(ctx, stat, 0, "supportOfCommonEDCH", -1, "RRCConnectionRequest-v860ext-IEs");
          pvalue->supportOfCommonEDCH = ui;
       }
-      rtxCtxtPopElemName(ctx);
    }
-   /* supportOfHS-DSCHDRXOperation */
+   /* multiCellSupport */
    if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "supportOfHS-DSCHDRXOperation");
       pvalue->m |= 0x2u;
       {
          uint32_t ui;
          stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
+         RT_CHECK(ctx, stat, 0, "multiCellSupport", -1, "RRCConnectionRequest-v860ext-IEs");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportOfHS_DSCHDRXOperation = ui;
+         RT_CHECK(ctx, stat, 0, "multiCellSupport", -1, "RRCConnectionRequest-v860ext-IEs");
+         pvalue->multiCellSupport = ui;
       }
-      rtxCtxtPopElemName(ctx);
+   }
+   /* pre-redirectionInfo */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_Pre_RedirectionInfo(ctx, &pvalue->pre_redirectionInfo);
+      RT_CHECK(ctx, stat, 0, "pre-redirectionInfo", -1, "RRCConnectionRequest-v860ext-IEs");
    }
    /* supportOfMACiis */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "supportOfMACiis");
-      pvalue->m |= 0x4u;
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
       {
          uint32_t ui;
          stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
+         RT_CHECK(ctx, stat, 0, "supportOfMACiis", -1, "RRCConnectionRequest-v860ext-IEs");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
+         RT_CHECK(ctx, stat, 0, "supportOfMACiis", -1, "RRCConnectionRequest-v860ext-IEs");
          pvalue->supportOfMACiis = ui;
       }
-      rtxCtxtPopElemName(ctx);
    }
    /* supportOfSPSOperation */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "supportOfSPSOperation");
-      pvalue->m |= 0x8u;
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
       {
          uint32_t ui;
          stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
+         RT_CHECK(ctx, stat, 0, "supportOfSPSOperation", -1, "RRCConnectionRequest-v860ext-IEs");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
+         RT_CHECK(ctx, stat, 0, "supportOfSPSOperation", -1, "RRCConnectionRequest-v860ext-IEs");
          pvalue->supportOfSPSOperation = ui;
       }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportOfControlChannelDRXOperation */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "supportOfControlChannelDRXOperation");
-      pvalue->m |= 0x10u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportOfControlChannelDRXOperation = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* ctx, CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdate-v860ext */
-   rtxCtxtPushElemName(ctx, "cellUpdate-v860ext");
-   stat = asn1PD_UMTS_CellUpdate_v860ext_IEs(ctx, &pvalue->cellUpdate_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdate-v770ext */
-   rtxCtxtPushElemName(ctx, "cellUpdate-v770ext");
-   stat = asn1PD_UMTS_CellUpdate_v770ext_IEs(ctx, &pvalue->cellUpdate_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v860NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* ctx, CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdate-v6b0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdate-v6b0ext");
-   stat = asn1PD_UMTS_CellUpdate_v6b0ext_IEs(ctx, &pvalue->cellUpdate_v6b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* ctx, CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdate-v690ext */
-   rtxCtxtPushElemName(ctx, "cellUpdate-v690ext");
-   stat = asn1PD_UMTS_CellUpdate_v690ext_IEs(ctx, &pvalue->cellUpdate_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v6b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v6b0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* ctx, CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdate-v590ext */
-   rtxCtxtPushElemName(ctx, "cellUpdate-v590ext");
-   stat = asn1PD_UMTS_CellUpdate_v590ext(ctx, &pvalue->cellUpdate_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions(rtxContext* ctx, CellUpdate_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* cellUpdate-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "cellUpdate-r3-add-ext");
-      pvalue->m |= 0x1u;
-      {
-         rtxDynBitStr carrier;
-         rtxContext outer;
-         stat = pd_DynBitString(ctx, &carrier);
-         RT_CHECK(ctx, stat);
-         rtxCopyContext(&outer, ctx);
-         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
-         if (stat == 0) {
-            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
-            stat = asn1PD_UMTS_CellUpdate_r3_add_ext_IEs(ctx, &pvalue->cellUpdate_r3_add_ext);
-            RT_CHECK(ctx, stat);
-         }
-         rtxCopyContext(ctx, &outer);
-         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v590NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return stat;
-}
-
-int asn1PD_UMTS_CellUpdate(rtxContext* ctx, CellUpdate* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellUpdate");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* u-RNTI */
-   rtxCtxtPushElemName(ctx, "u-RNTI");
-   stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* startList */
-   rtxCtxtPushElemName(ctx, "startList");
-   stat = asn1PD_UMTS_STARTList(ctx, &pvalue->startList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* am-RLC-ErrorIndicationRb2-3or4 */
-   rtxCtxtPushElemName(ctx, "am-RLC-ErrorIndicationRb2-3or4");
-   stat = rtxDecBitInline(ctx, &pvalue->am_RLC_ErrorIndicationRb2_3or4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* am-RLC-ErrorIndicationRb5orAbove */
-   rtxCtxtPushElemName(ctx, "am-RLC-ErrorIndicationRb5orAbove");
-   stat = rtxDecBitInline(ctx, &pvalue->am_RLC_ErrorIndicationRb5orAbove);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellUpdateCause */
-   rtxCtxtPushElemName(ctx, "cellUpdateCause");
-   rtxCtxtPushTypeName(ctx, "CellUpdateCause");
-   stat = pd_ConsUnsigned(ctx, &pvalue->cellUpdateCause, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* failureCause */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "failureCause");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_FailureCauseWithProtErrTrId(ctx, &pvalue->failureCause);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-timer-indicator */
-   rtxCtxtPushElemName(ctx, "rb-timer-indicator");
-   stat = asn1PD_UMTS_Rb_timer_indicator(ctx, &pvalue->rb_timer_indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measuredResultsOnRACH */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "measuredResultsOnRACH");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MeasuredResultsOnRACH(ctx, &pvalue->measuredResultsOnRACH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_CellUpdate_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo_fdd(rtxContext* ctx, CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "CPCH-SetID");
-      stat = pd_ConsUInt8(ctx, &pvalue->dummy, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy2 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy2");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo(rtxContext* ctx, CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo_fdd(rtxContext* ctx, CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo(rtxContext* ctx, CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r3_IEs(rtxContext* ctx, CellUpdateConfirm_r3_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-r3-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 23);
-   RT_CHECK(ctx, stat);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 22)) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 21)) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 20)) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 19)) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 18)) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 17)) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
-      pvalue->m |= 0x20u;
-      rtxCtxtPushTypeName(ctx, "UTRAN-DRX-CycleLengthCoefficient");
-      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rlc-Re-establishIndicatorRb2-3or4 */
-   rtxCtxtPushElemName(ctx, "rlc-Re-establishIndicatorRb2-3or4");
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb2_3or4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rlc-Re-establishIndicatorRb5orAbove */
-   rtxCtxtPushElemName(ctx, "rlc-Re-establishIndicatorRb5orAbove");
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb5orAbove);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 16)) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 15)) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReleaseList */
-   if (present & ((uint32_t)1 << 14)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationReleaseList");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReconfigList */
-   if (present & ((uint32_t)1 << 13)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationReconfigList");
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_RB_InformationReconfigList(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationAffectedList */
-   if (present & ((uint32_t)1 << 12)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationAffectedList");
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint32_t)1 << 11)) {
-      rtxCtxtPushElemName(ctx, "dl-CounterSynchronisationInfo");
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint32_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "ul-deletedTransChInfoList");
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificTransChInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificTransChInfo");
-   stat = asn1PD_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo(ctx, &pvalue->modeSpecificTransChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "dl-DeletedTransChInfoList");
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      pvalue->m |= 0x80000u;
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-ChannelRequirement */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "ul-ChannelRequirement");
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_UL_ChannelRequirement(ctx, &pvalue->ul_ChannelRequirement);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificPhysChInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificPhysChInfo");
-   stat = asn1PD_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonInformation */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_DL_CommonInformation(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_v3a0ext(rtxContext* ctx, CellUpdateConfirm_v3a0ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-v3a0ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_v4b0ext_IEs(rtxContext* ctx, CellUpdateConfirm_v4b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-v4b0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "SSDT-UL");
-      stat = pd_ConsUnsigned(ctx, &pvalue->dummy, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cell-id-PerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cell-id-PerRL-List");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellIdentity_PerRL_List(ctx, &pvalue->cell_id_PerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_v590ext_IEs(rtxContext* ctx, CellUpdateConfirm_v590ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-v590ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dl-TPC-PowerOffsetPerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-TPC-PowerOffsetPerRL-List");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_TPC_PowerOffsetPerRL_List(ctx, &pvalue->dl_TPC_PowerOffsetPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_v5d0ext_IEs(rtxContext* ctx, CellUpdateConfirm_v5d0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-v5d0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* pdcp-ROHC-TargetMode */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "pdcp-ROHC-TargetMode");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "PDCP-ROHC-TargetMode");
-      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_v690ext_IEs_postVerificationPeriod(rtxContext* ctx, CellUpdateConfirm_v690ext_IEs_postVerificationPeriod* pvalue)
+int asn1PD_UMTS_RRCConnectionRequest_v7e0ext_IEs_supportForCSVoiceoverHSPA(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v7e0ext_IEs_supportForCSVoiceoverHSPA* RT_RESTRICT pvalue)
 {
    int stat;
    {
       uint32_t ui;
       stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
       stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
       *pvalue = ui;
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellUpdateConfirm_v690ext_IEs(rtxContext* ctx, CellUpdateConfirm_v690ext_IEs* pvalue)
+int asn1PD_UMTS_RRCConnectionRequest_v7e0ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v7e0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-v690ext-IEs");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat);
-   /* primary-plmn-Identity */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "primary-plmn-Identity");
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRequest-v7e0ext-IEs");
+   /* supportForCSVoiceoverHSPA */
+   if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* harq-Preamble-Mode */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "harq-Preamble-Mode");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "HARQ-Preamble-Mode");
-      stat = pd_ConsUInt8(ctx, &pvalue->harq_Preamble_Mode, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* beaconPLEst */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "beaconPLEst");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "BEACON-PL-Est");
       {
          uint32_t ui;
          stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
+         RT_CHECK(ctx, stat, 0, "supportForCSVoiceoverHSPA", -1, "RRCConnectionRequest-v7e0ext-IEs");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->beaconPLEst = ui;
+         RT_CHECK(ctx, stat, 0, "supportForCSVoiceoverHSPA", -1, "RRCConnectionRequest-v7e0ext-IEs");
+         pvalue->supportForCSVoiceoverHSPA = ui;
       }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
    }
-   /* postVerificationPeriod */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "postVerificationPeriod");
-      pvalue->m |= 0x8u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->postVerificationPeriod = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dhs-sync */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dhs-sync");
-      pvalue->m |= 0x10u;
-      rtxCtxtPushTypeName(ctx, "DHS-Sync");
-      stat = pd_ConsInt8(ctx, &pvalue->dhs_sync, -20, 10);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mbms-PL-ServiceRestrictInfo");
-      pvalue->m |= 0x20u;
-      rtxCtxtPushTypeName(ctx, "MBMS-PL-ServiceRestrictInfo-r6");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_RRCConnectionRequest_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v7g0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v690ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v690ext");
-   stat = asn1PD_UMTS_CellUpdateConfirm_v690ext_IEs(ctx, &pvalue->cellUpdateConfirm_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRequest-v7g0ext-IEs");
+   /* measuredResultsOnRACH-v7g0ext */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_MeasuredResultsOnRACH_v7g0ext(ctx, &pvalue->measuredResultsOnRACH_v7g0ext);
+      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACH-v7g0ext", -1, "RRCConnectionRequest-v7g0ext-IEs");
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions(rtxContext* ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v5d0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v5d0ext");
-   stat = asn1PD_UMTS_CellUpdateConfirm_v5d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v5d0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions(rtxContext* ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v590ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v590ext");
-   stat = asn1PD_UMTS_CellUpdateConfirm_v590ext_IEs(ctx, &pvalue->cellUpdateConfirm_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v5d0NonCriticalExtenstions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v5d0NonCriticalExtenstions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v4b0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v4b0ext");
-   stat = asn1PD_UMTS_CellUpdateConfirm_v4b0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v4b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v590NonCriticalExtenstions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtenstions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions(ctx, &pvalue->v590NonCriticalExtenstions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r3-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->cellUpdateConfirm_r3_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v4b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v4b0NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_r3_v3a0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v3a0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v3a0ext");
-   stat = asn1PD_UMTS_CellUpdateConfirm_v3a0ext(ctx, &pvalue->cellUpdateConfirm_v3a0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r3(rtxContext* ctx, CellUpdateConfirm_r3* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-r3 */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r3");
-   stat = asn1PD_UMTS_CellUpdateConfirm_r3_IEs(ctx, &pvalue->cellUpdateConfirm_r3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v3a0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v3a0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo_fdd(rtxContext* ctx, CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "CPCH-SetID");
-      stat = pd_ConsUInt8(ctx, &pvalue->dummy, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy2 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy2");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo(rtxContext* ctx, CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo* pvalue)
+int asn1PD_UMTS_RRCConnectionRequest_v920ext_IEs_supportOfDualCellMIMO(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v920ext_IEs_supportOfDualCellMIMO* RT_RESTRICT pvalue)
 {
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo_fdd(rtxContext* ctx, CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo(rtxContext* ctx, CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r4_IEs(rtxContext* ctx, CellUpdateConfirm_r4_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-r4-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 24);
-   RT_CHECK(ctx, stat);
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 23)) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 22)) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 21)) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 20)) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 19)) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 18)) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 17)) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
-      pvalue->m |= 0x40u;
-      rtxCtxtPushTypeName(ctx, "UTRAN-DRX-CycleLengthCoefficient");
-      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rlc-Re-establishIndicatorRb2-3or4 */
-   rtxCtxtPushElemName(ctx, "rlc-Re-establishIndicatorRb2-3or4");
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb2_3or4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rlc-Re-establishIndicatorRb5orAbove */
-   rtxCtxtPushElemName(ctx, "rlc-Re-establishIndicatorRb5orAbove");
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb5orAbove);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 16)) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 15)) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReleaseList */
-   if (present & ((uint32_t)1 << 14)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationReleaseList");
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReconfigList */
-   if (present & ((uint32_t)1 << 13)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationReconfigList");
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_RB_InformationReconfigList_r4(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationAffectedList */
-   if (present & ((uint32_t)1 << 12)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationAffectedList");
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint32_t)1 << 11)) {
-      rtxCtxtPushElemName(ctx, "dl-CounterSynchronisationInfo");
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint32_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "ul-deletedTransChInfoList");
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificTransChInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificTransChInfo");
-   stat = asn1PD_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo(ctx, &pvalue->modeSpecificTransChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "dl-DeletedTransChInfoList");
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r4(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      pvalue->m |= 0x100000u;
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-ChannelRequirement */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "ul-ChannelRequirement");
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_UL_ChannelRequirement_r4(ctx, &pvalue->ul_ChannelRequirement);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificPhysChInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificPhysChInfo");
-   stat = asn1PD_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonInformation */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-      pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r4(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v690ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v690ext");
-   stat = asn1PD_UMTS_CellUpdateConfirm_v690ext_IEs(ctx, &pvalue->cellUpdateConfirm_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions(rtxContext* ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v5d0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v5d0ext");
-   stat = asn1PD_UMTS_CellUpdateConfirm_v5d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v5d0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions(rtxContext* ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v590ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v590ext");
-   stat = asn1PD_UMTS_CellUpdateConfirm_v590ext_IEs(ctx, &pvalue->cellUpdateConfirm_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v5d0NonCriticalExtenstions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v5d0NonCriticalExtenstions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-r4-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r4-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->cellUpdateConfirm_r4_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v590NonCriticalExtenstions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtenstions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions(ctx, &pvalue->v590NonCriticalExtenstions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4(rtxContext* ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-r4 */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r4");
-   stat = asn1PD_UMTS_CellUpdateConfirm_r4_IEs(ctx, &pvalue->cellUpdateConfirm_r4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v4d0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v4d0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo_fdd(rtxContext* ctx, CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "CPCH-SetID");
-      stat = pd_ConsUInt8(ctx, &pvalue->dummy, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy2 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy2");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo(rtxContext* ctx, CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo_fdd(rtxContext* ctx, CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo(rtxContext* ctx, CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r5_IEs(rtxContext* ctx, CellUpdateConfirm_r5_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-r5-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 26);
-   RT_CHECK(ctx, stat);
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 25)) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 24)) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 23)) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 22)) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 21)) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 20)) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-H-RNTI */
-   if (present & ((uint32_t)1 << 19)) {
-      rtxCtxtPushElemName(ctx, "new-H-RNTI");
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 18)) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
-      pvalue->m |= 0x80u;
-      rtxCtxtPushTypeName(ctx, "UTRAN-DRX-CycleLengthCoefficient");
-      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rlc-Re-establishIndicatorRb2-3or4 */
-   rtxCtxtPushElemName(ctx, "rlc-Re-establishIndicatorRb2-3or4");
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb2_3or4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rlc-Re-establishIndicatorRb5orAbove */
-   rtxCtxtPushElemName(ctx, "rlc-Re-establishIndicatorRb5orAbove");
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb5orAbove);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 17)) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 16)) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReleaseList */
-   if (present & ((uint32_t)1 << 15)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationReleaseList");
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReconfigList */
-   if (present & ((uint32_t)1 << 14)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationReconfigList");
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_RB_InformationReconfigList_r5(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationAffectedList */
-   if (present & ((uint32_t)1 << 13)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationAffectedList");
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList_r5(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint32_t)1 << 12)) {
-      rtxCtxtPushElemName(ctx, "dl-CounterSynchronisationInfo");
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 11)) {
-      rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint32_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "ul-deletedTransChInfoList");
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificTransChInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificTransChInfo");
-   stat = asn1PD_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo(ctx, &pvalue->modeSpecificTransChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "dl-DeletedTransChInfoList");
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r5(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      pvalue->m |= 0x200000u;
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-ChannelRequirement */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "ul-ChannelRequirement");
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_UL_ChannelRequirement_r5(ctx, &pvalue->ul_ChannelRequirement);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificPhysChInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificPhysChInfo");
-   stat = asn1PD_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonInformation */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-      pvalue->m |= 0x1000000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r5(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-      pvalue->m |= 0x2000000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r5(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v690ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v690ext");
-   stat = asn1PD_UMTS_CellUpdateConfirm_v690ext_IEs(ctx, &pvalue->cellUpdateConfirm_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(rtxContext* ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v5d0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v5d0ext");
-   stat = asn1PD_UMTS_CellUpdateConfirm_v5d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v5d0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5(rtxContext* ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-r5 */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r5");
-   stat = asn1PD_UMTS_CellUpdateConfirm_r5_IEs(ctx, &pvalue->cellUpdateConfirm_r5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellUpdateConfirm-r5-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r5-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->cellUpdateConfirm_r5_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v5d0NonCriticalExtenstions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v5d0NonCriticalExtenstions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r6_IEs(rtxContext* ctx, CellUpdateConfirm_r6_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-r6-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 31);
-   RT_CHECK(ctx, stat);
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 30)) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 29)) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 28)) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 27)) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 26)) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 25)) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-H-RNTI */
-   if (present & ((uint32_t)1 << 24)) {
-      rtxCtxtPushElemName(ctx, "new-H-RNTI");
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint32_t)1 << 23)) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint32_t)1 << 22)) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 21)) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
-      pvalue->m |= 0x200u;
-      rtxCtxtPushTypeName(ctx, "UTRAN-DRX-CycleLengthCoefficient");
-      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rlc-Re-establishIndicatorRb2-3or4 */
-   rtxCtxtPushElemName(ctx, "rlc-Re-establishIndicatorRb2-3or4");
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb2_3or4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rlc-Re-establishIndicatorRb5orAbove */
-   rtxCtxtPushElemName(ctx, "rlc-Re-establishIndicatorRb5orAbove");
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb5orAbove);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 20)) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 19)) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReleaseList */
-   if (present & ((uint32_t)1 << 18)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationReleaseList");
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReconfigList */
-   if (present & ((uint32_t)1 << 17)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationReconfigList");
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_RB_InformationReconfigList_r6(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationAffectedList */
-   if (present & ((uint32_t)1 << 16)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationAffectedList");
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList_r6(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint32_t)1 << 15)) {
-      rtxCtxtPushElemName(ctx, "dl-CounterSynchronisationInfo");
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdcp-ROHC-TargetMode */
-   if (present & ((uint32_t)1 << 14)) {
-      rtxCtxtPushElemName(ctx, "pdcp-ROHC-TargetMode");
-      pvalue->m |= 0x10000u;
-      rtxCtxtPushTypeName(ctx, "PDCP-ROHC-TargetMode");
-      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 13)) {
-      rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint32_t)1 << 12)) {
-      rtxCtxtPushElemName(ctx, "ul-deletedTransChInfoList");
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 11)) {
-      rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r6(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint32_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "dl-DeletedTransChInfoList");
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r5(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      pvalue->m |= 0x1000000u;
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-DPCH-Info */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-      pvalue->m |= 0x2000000u;
-      stat = asn1PD_UMTS_UL_DPCH_Info_r6(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-EDCH-Information */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
-      pvalue->m |= 0x4000000u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r6(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      pvalue->m |= 0x8000000u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r6(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonInformation */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-      pvalue->m |= 0x10000000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r6(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-      pvalue->m |= 0x20000000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r6(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mbms-PL-ServiceRestrictInfo");
-      pvalue->m |= 0x40000000u;
-      rtxCtxtPushTypeName(ctx, "MBMS-PL-ServiceRestrictInfo-r6");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_v6b0ext_IEs(rtxContext* ctx, CellUpdateConfirm_v6b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-v6b0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dl-InformationPerRL-List-v6b0ext */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List-v6b0ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_v6b0ext(ctx, &pvalue->dl_InformationPerRL_List_v6b0ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v6b0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v6b0ext");
-   stat = asn1PD_UMTS_CellUpdateConfirm_v6b0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v6b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(rtxContext* ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-r6 */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r6");
-   stat = asn1PD_UMTS_CellUpdateConfirm_r6_IEs(ctx, &pvalue->cellUpdateConfirm_r6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellUpdateConfirm-r6-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r6-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->cellUpdateConfirm_r6_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v6b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v6b0NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r7_IEs(rtxContext* ctx, CellUpdateConfirm_r7_IEs* pvalue)
-{
-   int stat = 0;
-   uint64_t present;
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-r7-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    {
-      uint32_t hi, lo;
-      stat = rtxDecBitsFast(ctx, &hi, 6);
-      RT_CHECK(ctx, stat);
-      stat = rtxDecBitsFast(ctx, &lo, 32);
-      RT_CHECK(ctx, stat);
-      present = ((uint64_t)hi << 32) | lo;
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
    }
-   /* integrityProtectionModeInfo */
-   if (present & ((uint64_t)1 << 37)) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRequest_v920ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v920ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRequest-v920ext-IEs");
+   /* supportOfDualCellMIMO */
+   if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint64_t)1 << 36)) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* activationTime */
-   if (present & ((uint64_t)1 << 35)) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-U-RNTI */
-   if (present & ((uint64_t)1 << 34)) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-C-RNTI */
-   if (present & ((uint64_t)1 << 33)) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint64_t)1 << 32)) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-H-RNTI */
-   if (present & ((uint64_t)1 << 31)) {
-      rtxCtxtPushElemName(ctx, "new-H-RNTI");
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint64_t)1 << 30)) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint64_t)1 << 29)) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint64_t)1 << 28)) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* waitTime */
-   if (present & ((uint64_t)1 << 27)) {
-      rtxCtxtPushElemName(ctx, "waitTime");
-      pvalue->m |= 0x400u;
-      rtxCtxtPushTypeName(ctx, "WaitTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->waitTime, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rlc-Re-establishIndicatorRb2-3or4 */
-   rtxCtxtPushElemName(ctx, "rlc-Re-establishIndicatorRb2-3or4");
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb2_3or4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rlc-Re-establishIndicatorRb5orAbove */
-   rtxCtxtPushElemName(ctx, "rlc-Re-establishIndicatorRb5orAbove");
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb5orAbove);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cn-InformationInfo */
-   if (present & ((uint64_t)1 << 26)) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ura-Identity */
-   if (present & ((uint64_t)1 << 25)) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportForChangeOfUE-Capability */
-   if (present & ((uint64_t)1 << 24)) {
-      rtxCtxtPushElemName(ctx, "supportForChangeOfUE-Capability");
-      pvalue->m |= 0x2000u;
-      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReleaseList */
-   if (present & ((uint64_t)1 << 23)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationReleaseList");
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReconfigList */
-   if (present & ((uint64_t)1 << 22)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationReconfigList");
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_RB_InformationReconfigList_r7(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationAffectedList */
-   if (present & ((uint64_t)1 << 21)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationAffectedList");
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList_r7(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint64_t)1 << 20)) {
-      rtxCtxtPushElemName(ctx, "dl-CounterSynchronisationInfo");
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdcp-ROHC-TargetMode */
-   if (present & ((uint64_t)1 << 19)) {
-      rtxCtxtPushElemName(ctx, "pdcp-ROHC-TargetMode");
-      pvalue->m |= 0x40000u;
-      rtxCtxtPushTypeName(ctx, "PDCP-ROHC-TargetMode");
-      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint64_t)1 << 18)) {
-      rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint64_t)1 << 17)) {
-      rtxCtxtPushElemName(ctx, "ul-deletedTransChInfoList");
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint64_t)1 << 16)) {
-      rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r7(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonTransChInfo */
-   if (present & ((uint64_t)1 << 15)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint64_t)1 << 14)) {
-      rtxCtxtPushElemName(ctx, "dl-DeletedTransChInfoList");
-      pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint64_t)1 << 13)) {
-      rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
-      pvalue->m |= 0x1000000u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (present & ((uint64_t)1 << 12)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      pvalue->m |= 0x2000000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* multi-frequencyInfo */
-   if (present & ((uint64_t)1 << 11)) {
-      rtxCtxtPushElemName(ctx, "multi-frequencyInfo");
-      pvalue->m |= 0x4000000u;
-      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dtx-drx-TimingInfo */
-   if (present & ((uint64_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-TimingInfo");
-      pvalue->m |= 0x8000000u;
-      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dtx-drx-Info */
-   if (present & ((uint64_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-Info");
-      pvalue->m |= 0x10000000u;
-      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hs-scch-LessInfo */
-   if (present & ((uint64_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "hs-scch-LessInfo");
-      pvalue->m |= 0x20000000u;
-      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mimoParameters */
-   if (present & ((uint64_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
-      pvalue->m |= 0x40000000u;
-      stat = asn1PD_UMTS_MIMO_Parameters_r7(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint64_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      pvalue->m |= 0x80000000u;
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-DPCH-Info */
-   if (present & ((uint64_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-      pvalue->m |= 0x100000000ull;
-      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-EDCH-Information */
-   if (present & ((uint64_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
-      pvalue->m |= 0x200000000ull;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r7(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint64_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      pvalue->m |= 0x400000000ull;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonInformation */
-   if (present & ((uint64_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-      pvalue->m |= 0x800000000ull;
-      stat = asn1PD_UMTS_DL_CommonInformation_r7(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint64_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-      pvalue->m |= 0x1000000000ull;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (present & ((uint64_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mbms-PL-ServiceRestrictInfo");
-      pvalue->m |= 0x2000000000ull;
-      rtxCtxtPushTypeName(ctx, "MBMS-PL-ServiceRestrictInfo-r6");
       {
          uint32_t ui;
          stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
+         RT_CHECK(ctx, stat, 0, "supportOfDualCellMIMO", -1, "RRCConnectionRequest-v920ext-IEs");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
+         RT_CHECK(ctx, stat, 0, "supportOfDualCellMIMO", -1, "RRCConnectionRequest-v920ext-IEs");
+         pvalue->supportOfDualCellMIMO = ui;
       }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_CellUpdateConfirm_v7d0ext_IEs(rtxContext* ctx, CellUpdateConfirm_v7d0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-v7d0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ul-EDCH-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_ext(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_v7f0ext_IEs(rtxContext* ctx, CellUpdateConfirm_v7f0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-v7f0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* mimoParameters */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MIMO_Parameters_v7f0ext(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_v7g0ext_IEs(rtxContext* ctx, CellUpdateConfirm_v7g0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-v7g0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* mimoParameters */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MIMO_Parameters_v7g0ext(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* pvalue)
+int asn1PD_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_v7e0NonCriticalExtensions_v7g0NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_v7e0NonCriticalExtensions_v7g0NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    return 0;
 }
 
-int asn1PD_UMTS_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_v7e0NonCriticalExtensions_v7g0NonCriticalExtensions_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_v7e0NonCriticalExtensions_v7g0NonCriticalExtensions_v920NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v7g0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v7g0ext");
-   stat = asn1PD_UMTS_CellUpdateConfirm_v7g0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7g0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRequest-v920ext */
+   stat = asn1PD_UMTS_RRCConnectionRequest_v920ext_IEs(ctx, &pvalue->rrcConnectionRequest_v920ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRequest-v920ext", -1, 0);
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_v7e0NonCriticalExtensions_v7g0NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_v7e0NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_v7e0NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v7f0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v7f0ext");
-   stat = asn1PD_UMTS_CellUpdateConfirm_v7f0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7f0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRequest-v7g0ext */
+   stat = asn1PD_UMTS_RRCConnectionRequest_v7g0ext_IEs(ctx, &pvalue->rrcConnectionRequest_v7g0ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRequest-v7g0ext", -1, 0);
+   /* v920NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_v7e0NonCriticalExtensions_v7g0NonCriticalExtensions_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_v7e0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_v7e0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRequest-v7e0ext */
+   stat = asn1PD_UMTS_RRCConnectionRequest_v7e0ext_IEs(ctx, &pvalue->rrcConnectionRequest_v7e0ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRequest-v7e0ext", -1, 0);
    /* v7g0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v7g0NonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_v7e0NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellUpdateConfirm_r7_add_ext_IEs(rtxContext* ctx, CellUpdateConfirm_r7_add_ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-r7-add-ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v7d0ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v7d0ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_v7d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7d0ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v7f0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v7f0NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_v780ext_IEs(rtxContext* ctx, CellUpdateConfirm_v780ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-v780ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* hs-DSCH-TBSizeTable */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "hs-DSCH-TBSizeTable");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "HS-DSCH-TBSizeTable");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->hs_DSCH_TBSizeTable = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_v860ext_IEs_rab_InformationSetup(rtxContext* ctx, CellUpdateConfirm_v860ext_IEs_rab_InformationSetup* pvalue)
-{
-   int stat = 0;
-   /* rab-InformationSetup-r7 */
-   rtxCtxtPushElemName(ctx, "rab-InformationSetup-r7");
-   stat = asn1PD_UMTS_RAB_InformationSetup_r7(ctx, &pvalue->rab_InformationSetup_r7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rab-InformationSetup-v820ext */
-   rtxCtxtPushElemName(ctx, "rab-InformationSetup-v820ext");
-   stat = asn1PD_UMTS_RAB_InformationSetup_v820ext(ctx, &pvalue->rab_InformationSetup_v820ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_v860ext_IEs(rtxContext* ctx, CellUpdateConfirm_v860ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-v860ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* rab-InformationSetup */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "rab-InformationSetup");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_v860ext_IEs_rab_InformationSetup(ctx, &pvalue->rab_InformationSetup);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v860ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v860ext");
-   stat = asn1PD_UMTS_CellUpdateConfirm_v860ext_IEs(ctx, &pvalue->cellUpdateConfirm_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRequest-v860ext */
+   stat = asn1PD_UMTS_RRCConnectionRequest_v860ext_IEs(ctx, &pvalue->rrcConnectionRequest_v860ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRequest-v860ext", -1, 0);
+   /* v7e0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_v7e0NonCriticalExtensions(ctx, &pvalue->v7e0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7e0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v780ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v780ext");
-   stat = asn1PD_UMTS_CellUpdateConfirm_v780ext_IEs(ctx, &pvalue->cellUpdateConfirm_v780ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRequest-v7b0ext */
+   stat = asn1PD_UMTS_RRCConnectionRequest_v7b0ext_IEs(ctx, &pvalue->rrcConnectionRequest_v7b0ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRequest-v7b0ext", -1, 0);
    /* v860NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-r7 */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r7");
-   stat = asn1PD_UMTS_CellUpdateConfirm_r7_IEs(ctx, &pvalue->cellUpdateConfirm_r7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellUpdateConfirm-r7-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r7-add-ext");
-      pvalue->m |= 0x1u;
-      {
-         rtxDynBitStr carrier;
-         rtxContext outer;
-         stat = pd_DynBitString(ctx, &carrier);
-         RT_CHECK(ctx, stat);
-         rtxCopyContext(&outer, ctx);
-         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
-         if (stat == 0) {
-            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
-            stat = asn1PD_UMTS_CellUpdateConfirm_r7_add_ext_IEs(ctx, &pvalue->cellUpdateConfirm_r7_add_ext);
-            RT_CHECK(ctx, stat);
-         }
-         rtxCopyContext(ctx, &outer);
-         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v780NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v780NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return stat;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r8_IEs(rtxContext* ctx, CellUpdateConfirm_r8_IEs* pvalue)
-{
-   int stat = 0;
-   uint64_t present;
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-r8-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   {
-      uint32_t hi, lo;
-      stat = rtxDecBitsFast(ctx, &hi, 11);
-      RT_CHECK(ctx, stat);
-      stat = rtxDecBitsFast(ctx, &lo, 32);
-      RT_CHECK(ctx, stat);
-      present = ((uint64_t)hi << 32) | lo;
-   }
-   /* integrityProtectionModeInfo */
-   if (present & ((uint64_t)1 << 42)) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint64_t)1 << 41)) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* activationTime */
-   if (present & ((uint64_t)1 << 40)) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-U-RNTI */
-   if (present & ((uint64_t)1 << 39)) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-C-RNTI */
-   if (present & ((uint64_t)1 << 38)) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint64_t)1 << 37)) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-H-RNTI */
-   if (present & ((uint64_t)1 << 36)) {
-      rtxCtxtPushElemName(ctx, "new-H-RNTI");
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint64_t)1 << 35)) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint64_t)1 << 34)) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint64_t)1 << 33)) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* waitTime */
-   if (present & ((uint64_t)1 << 32)) {
-      rtxCtxtPushElemName(ctx, "waitTime");
-      pvalue->m |= 0x400u;
-      rtxCtxtPushTypeName(ctx, "WaitTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->waitTime, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rlc-Re-establishIndicatorRb2-3or4 */
-   rtxCtxtPushElemName(ctx, "rlc-Re-establishIndicatorRb2-3or4");
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb2_3or4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rlc-Re-establishIndicatorRb5orAbove */
-   rtxCtxtPushElemName(ctx, "rlc-Re-establishIndicatorRb5orAbove");
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb5orAbove);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cn-InformationInfo */
-   if (present & ((uint64_t)1 << 31)) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ura-Identity */
-   if (present & ((uint64_t)1 << 30)) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportForChangeOfUE-Capability */
-   if (present & ((uint64_t)1 << 29)) {
-      rtxCtxtPushElemName(ctx, "supportForChangeOfUE-Capability");
-      pvalue->m |= 0x2000u;
-      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* defaultConfigForCellFACH */
-   if (present & ((uint64_t)1 << 28)) {
-      rtxCtxtPushElemName(ctx, "defaultConfigForCellFACH");
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_DefaultConfigForCellFACH(ctx, &pvalue->defaultConfigForCellFACH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rab-InformationSetup */
-   if (present & ((uint64_t)1 << 27)) {
-      rtxCtxtPushElemName(ctx, "rab-InformationSetup");
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_RAB_InformationSetup_r8(ctx, &pvalue->rab_InformationSetup);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReleaseList */
-   if (present & ((uint64_t)1 << 26)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationReleaseList");
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReconfigList */
-   if (present & ((uint64_t)1 << 25)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationReconfigList");
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_RB_InformationReconfigList_r8(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationAffectedList */
-   if (present & ((uint64_t)1 << 24)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationAffectedList");
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList_r8(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint64_t)1 << 23)) {
-      rtxCtxtPushElemName(ctx, "dl-CounterSynchronisationInfo");
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdcp-ROHC-TargetMode */
-   if (present & ((uint64_t)1 << 22)) {
-      rtxCtxtPushElemName(ctx, "pdcp-ROHC-TargetMode");
-      pvalue->m |= 0x100000u;
-      rtxCtxtPushTypeName(ctx, "PDCP-ROHC-TargetMode");
-      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint64_t)1 << 21)) {
-      rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint64_t)1 << 20)) {
-      rtxCtxtPushElemName(ctx, "ul-deletedTransChInfoList");
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint64_t)1 << 19)) {
-      rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
-      pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonTransChInfo */
-   if (present & ((uint64_t)1 << 18)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
-      pvalue->m |= 0x1000000u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint64_t)1 << 17)) {
-      rtxCtxtPushElemName(ctx, "dl-DeletedTransChInfoList");
-      pvalue->m |= 0x2000000u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint64_t)1 << 16)) {
-      rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
-      pvalue->m |= 0x4000000u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (present & ((uint64_t)1 << 15)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      pvalue->m |= 0x8000000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* multi-frequencyInfo */
-   if (present & ((uint64_t)1 << 14)) {
-      rtxCtxtPushElemName(ctx, "multi-frequencyInfo");
-      pvalue->m |= 0x10000000u;
-      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dtx-drx-TimingInfo */
-   if (present & ((uint64_t)1 << 13)) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-TimingInfo");
-      pvalue->m |= 0x20000000u;
-      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dtx-drx-Info */
-   if (present & ((uint64_t)1 << 12)) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-Info");
-      pvalue->m |= 0x40000000u;
-      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hs-scch-LessInfo */
-   if (present & ((uint64_t)1 << 11)) {
-      rtxCtxtPushElemName(ctx, "hs-scch-LessInfo");
-      pvalue->m |= 0x80000000u;
-      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mimoParameters */
-   if (present & ((uint64_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
-      pvalue->m |= 0x100000000ull;
-      stat = asn1PD_UMTS_MIMO_Parameters_r8(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint64_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      pvalue->m |= 0x200000000ull;
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-DPCH-Info */
-   if (present & ((uint64_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-      pvalue->m |= 0x400000000ull;
-      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-EDCH-Information */
-   if (present & ((uint64_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
-      pvalue->m |= 0x800000000ull;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r8(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint64_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      pvalue->m |= 0x1000000000ull;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonInformation */
-   if (present & ((uint64_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-      pvalue->m |= 0x2000000000ull;
-      stat = asn1PD_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint64_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-      pvalue->m |= 0x4000000000ull;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-SecondaryCellInfoFDD */
-   if (present & ((uint64_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "dl-SecondaryCellInfoFDD");
-      pvalue->m |= 0x8000000000ull;
-      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD(ctx, &pvalue->dl_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* controlChannelDRXInfo-TDD128 */
-   if (present & ((uint64_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "controlChannelDRXInfo-TDD128");
-      pvalue->m |= 0x10000000000ull;
-      stat = asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sps-Information-TDD128 */
-   if (present & ((uint64_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "sps-Information-TDD128");
-      pvalue->m |= 0x20000000000ull;
-      stat = asn1PD_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (present & ((uint64_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mbms-PL-ServiceRestrictInfo");
-      pvalue->m |= 0x40000000000ull;
-      rtxCtxtPushTypeName(ctx, "MBMS-PL-ServiceRestrictInfo-r6");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_v890ext_IEs(rtxContext* ctx, CellUpdateConfirm_v890ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-v890ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* dl-SecondaryCellInfoFDD-v890ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dl-SecondaryCellInfoFDD-v890ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_v890ext(ctx, &pvalue->dl_SecondaryCellInfoFDD_v890ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_v8a0ext_IEs(rtxContext* ctx, CellUpdateConfirm_v8a0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-v8a0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext2(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v8a0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v8a0ext");
-   stat = asn1PD_UMTS_CellUpdateConfirm_v8a0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v8a0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRequest-v770ext */
+   stat = asn1PD_UMTS_RRCConnectionRequest_v770ext_IEs(ctx, &pvalue->rrcConnectionRequest_v770ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRequest-v770ext", -1, 0);
+   /* v7b0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions(ctx, &pvalue->v7b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7b0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v7g0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v7g0ext");
-   stat = asn1PD_UMTS_CellUpdateConfirm_v7g0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7g0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v8a0NonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRequest-v6e0ext */
+   stat = asn1PD_UMTS_RRCConnectionRequest_v6e0ext_IEs(ctx, &pvalue->rrcConnectionRequest_v6e0ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRequest-v6e0ext", -1, 0);
+   /* v770NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v8a0NonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v890ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v890ext");
-   stat = asn1PD_UMTS_CellUpdateConfirm_v890ext_IEs(ctx, &pvalue->cellUpdateConfirm_v890ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v7g0NonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRequest-v6b0ext */
+   stat = asn1PD_UMTS_RRCConnectionRequest_v6b0ext_IEs(ctx, &pvalue->rrcConnectionRequest_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRequest-v6b0ext", -1, 0);
+   /* v6e0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v7g0NonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions(ctx, &pvalue->v6e0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6e0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v7f0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v7f0ext");
-   stat = asn1PD_UMTS_CellUpdateConfirm_v7f0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7f0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v890NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v890NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v7d0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v7d0ext");
-   stat = asn1PD_UMTS_CellUpdateConfirm_v7d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7d0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v7f0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v7f0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-r8 */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r8");
-   stat = asn1PD_UMTS_CellUpdateConfirm_r8_IEs(ctx, &pvalue->cellUpdateConfirm_r8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellUpdateConfirm-r8-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r8-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->cellUpdateConfirm_r8_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v7d0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v7d0NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_r9_IEs(rtxContext* ctx, CellUpdateConfirm_r9_IEs* pvalue)
-{
-   int stat = 0;
-   uint64_t present;
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-r9-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   {
-      uint32_t hi, lo;
-      stat = rtxDecBitsFast(ctx, &hi, 13);
-      RT_CHECK(ctx, stat);
-      stat = rtxDecBitsFast(ctx, &lo, 32);
-      RT_CHECK(ctx, stat);
-      present = ((uint64_t)hi << 32) | lo;
-   }
-   /* integrityProtectionModeInfo */
-   if (present & ((uint64_t)1 << 44)) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint64_t)1 << 43)) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* activationTime */
-   if (present & ((uint64_t)1 << 42)) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-U-RNTI */
-   if (present & ((uint64_t)1 << 41)) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-C-RNTI */
-   if (present & ((uint64_t)1 << 40)) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint64_t)1 << 39)) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-H-RNTI */
-   if (present & ((uint64_t)1 << 38)) {
-      rtxCtxtPushElemName(ctx, "new-H-RNTI");
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint64_t)1 << 37)) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint64_t)1 << 36)) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint64_t)1 << 35)) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* waitTime */
-   if (present & ((uint64_t)1 << 34)) {
-      rtxCtxtPushElemName(ctx, "waitTime");
-      pvalue->m |= 0x400u;
-      rtxCtxtPushTypeName(ctx, "WaitTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->waitTime, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rlc-Re-establishIndicatorRb2-3or4 */
-   rtxCtxtPushElemName(ctx, "rlc-Re-establishIndicatorRb2-3or4");
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb2_3or4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rlc-Re-establishIndicatorRb5orAbove */
-   rtxCtxtPushElemName(ctx, "rlc-Re-establishIndicatorRb5orAbove");
-   stat = rtxDecBitInline(ctx, &pvalue->rlc_Re_establishIndicatorRb5orAbove);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cn-InformationInfo */
-   if (present & ((uint64_t)1 << 33)) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ura-Identity */
-   if (present & ((uint64_t)1 << 32)) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportForChangeOfUE-Capability */
-   if (present & ((uint64_t)1 << 31)) {
-      rtxCtxtPushElemName(ctx, "supportForChangeOfUE-Capability");
-      pvalue->m |= 0x2000u;
-      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* defaultConfigForCellFACH */
-   if (present & ((uint64_t)1 << 30)) {
-      rtxCtxtPushElemName(ctx, "defaultConfigForCellFACH");
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_DefaultConfigForCellFACH(ctx, &pvalue->defaultConfigForCellFACH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rab-InformationSetup */
-   if (present & ((uint64_t)1 << 29)) {
-      rtxCtxtPushElemName(ctx, "rab-InformationSetup");
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_RAB_InformationSetup_r8(ctx, &pvalue->rab_InformationSetup);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReleaseList */
-   if (present & ((uint64_t)1 << 28)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationReleaseList");
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReconfigList */
-   if (present & ((uint64_t)1 << 27)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationReconfigList");
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_RB_InformationReconfigList_r8(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationAffectedList */
-   if (present & ((uint64_t)1 << 26)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationAffectedList");
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList_r8(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint64_t)1 << 25)) {
-      rtxCtxtPushElemName(ctx, "dl-CounterSynchronisationInfo");
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdcp-ROHC-TargetMode */
-   if (present & ((uint64_t)1 << 24)) {
-      rtxCtxtPushElemName(ctx, "pdcp-ROHC-TargetMode");
-      pvalue->m |= 0x100000u;
-      rtxCtxtPushTypeName(ctx, "PDCP-ROHC-TargetMode");
-      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint64_t)1 << 23)) {
-      rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint64_t)1 << 22)) {
-      rtxCtxtPushElemName(ctx, "ul-deletedTransChInfoList");
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint64_t)1 << 21)) {
-      rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
-      pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonTransChInfo */
-   if (present & ((uint64_t)1 << 20)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
-      pvalue->m |= 0x1000000u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint64_t)1 << 19)) {
-      rtxCtxtPushElemName(ctx, "dl-DeletedTransChInfoList");
-      pvalue->m |= 0x2000000u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint64_t)1 << 18)) {
-      rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
-      pvalue->m |= 0x4000000u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r9(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (present & ((uint64_t)1 << 17)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      pvalue->m |= 0x8000000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* multi-frequencyInfo */
-   if (present & ((uint64_t)1 << 16)) {
-      rtxCtxtPushElemName(ctx, "multi-frequencyInfo");
-      pvalue->m |= 0x10000000u;
-      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dtx-drx-TimingInfo */
-   if (present & ((uint64_t)1 << 15)) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-TimingInfo");
-      pvalue->m |= 0x20000000u;
-      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dtx-drx-Info */
-   if (present & ((uint64_t)1 << 14)) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-Info");
-      pvalue->m |= 0x40000000u;
-      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hs-scch-LessInfo */
-   if (present & ((uint64_t)1 << 13)) {
-      rtxCtxtPushElemName(ctx, "hs-scch-LessInfo");
-      pvalue->m |= 0x80000000u;
-      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mimoParameters */
-   if (present & ((uint64_t)1 << 12)) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
-      pvalue->m |= 0x100000000ull;
-      stat = asn1PD_UMTS_MIMO_Parameters_r9(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint64_t)1 << 11)) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      pvalue->m |= 0x200000000ull;
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-DPCH-Info */
-   if (present & ((uint64_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-      pvalue->m |= 0x400000000ull;
-      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-EDCH-Information */
-   if (present & ((uint64_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
-      pvalue->m |= 0x800000000ull;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r9(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-SecondaryCellInfoFDD */
-   if (present & ((uint64_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "ul-SecondaryCellInfoFDD");
-      pvalue->m |= 0x1000000000ull;
-      stat = asn1PD_UMTS_UL_SecondaryCellInfoFDD(ctx, &pvalue->ul_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint64_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      pvalue->m |= 0x2000000000ull;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonInformation */
-   if (present & ((uint64_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-      pvalue->m |= 0x4000000000ull;
-      stat = asn1PD_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint64_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-      pvalue->m |= 0x8000000000ull;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-SecondaryCellInfoFDD */
-   if (present & ((uint64_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "dl-SecondaryCellInfoFDD");
-      pvalue->m |= 0x10000000000ull;
-      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_r9(ctx, &pvalue->dl_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* controlChannelDRXInfo-TDD128 */
-   if (present & ((uint64_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "controlChannelDRXInfo-TDD128");
-      pvalue->m |= 0x20000000000ull;
-      stat = asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sps-Information-TDD128 */
-   if (present & ((uint64_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "sps-Information-TDD128");
-      pvalue->m |= 0x40000000000ull;
-      stat = asn1PD_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (present & ((uint64_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "mbms-PL-ServiceRestrictInfo");
-      pvalue->m |= 0x80000000000ull;
-      rtxCtxtPushTypeName(ctx, "MBMS-PL-ServiceRestrictInfo-r6");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellDCHMeasOccasionInfo-TDD128 */
-   if (present & ((uint64_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cellDCHMeasOccasionInfo-TDD128");
-      pvalue->m |= 0x100000000000ull;
-      stat = asn1PD_UMTS_CellDCHMeasOccasionInfo_TDD128_r9(ctx, &pvalue->cellDCHMeasOccasionInfo_TDD128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-r9 */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r9");
-   stat = asn1PD_UMTS_CellUpdateConfirm_r9_IEs(ctx, &pvalue->cellUpdateConfirm_r9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellUpdateConfirm-r9-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r9-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->cellUpdateConfirm_r9_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r9");
-         pvalue->u.r9 = (CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9));
-         if (pvalue->u.r9 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(pvalue->u.r9);
-         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r8");
-         pvalue->u.r8 = (CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8));
-         if (pvalue->u.r8 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(pvalue->u.r8);
-         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r7");
-         pvalue->u.r7 = (CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7));
-         if (pvalue->u.r7 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(pvalue->u.r7);
-         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r6");
-         pvalue->u.r6 = (CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6));
-         if (pvalue->u.r6 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(pvalue->u.r6);
-         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(ctx, pvalue->u.r6);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* ctx, CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r5");
-         pvalue->u.r5 = (CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5));
-         if (pvalue->u.r5 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5(pvalue->u.r5);
-         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5(ctx, pvalue->u.r5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions(rtxContext* ctx, CellUpdateConfirm_later_than_r3_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r4");
-         pvalue->u.r4 = (CellUpdateConfirm_later_than_r3_criticalExtensions_r4*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_later_than_r3_criticalExtensions_r4));
-         if (pvalue->u.r4 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4(pvalue->u.r4);
-         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_later_than_r3(rtxContext* ctx, CellUpdateConfirm_later_than_r3* pvalue)
-{
-   int stat = 0;
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* criticalExtensions */
-   rtxCtxtPushElemName(ctx, "criticalExtensions");
-   stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm(rtxContext* ctx, CellUpdateConfirm* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r3");
-         pvalue->u.r3 = (CellUpdateConfirm_r3*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_r3));
-         if (pvalue->u.r3 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellUpdateConfirm_r3(pvalue->u.r3);
-         stat = asn1PD_UMTS_CellUpdateConfirm_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "later-than-r3");
-         pvalue->u.later_than_r3 = (CellUpdateConfirm_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_later_than_r3));
-         if (pvalue->u.later_than_r3 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellUpdateConfirm_later_than_r3(pvalue->u.later_than_r3);
-         stat = asn1PD_UMTS_CellUpdateConfirm_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v690ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v690ext");
-   stat = asn1PD_UMTS_CellUpdateConfirm_v690ext_IEs(ctx, &pvalue->cellUpdateConfirm_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(rtxContext* ctx, CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v5d0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v5d0ext");
-   stat = asn1PD_UMTS_CellUpdateConfirm_v5d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v5d0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v590ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v590ext");
-   stat = asn1PD_UMTS_CellUpdateConfirm_v590ext_IEs(ctx, &pvalue->cellUpdateConfirm_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v5d0NonCriticalExtenstions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v5d0NonCriticalExtenstions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v4b0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v4b0ext");
-   stat = asn1PD_UMTS_CellUpdateConfirm_v4b0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v4b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v590NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-CCCH-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "cellUpdateConfirm-CCCH-r3-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->cellUpdateConfirm_CCCH_r3_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v4b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v4b0NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_r3(rtxContext* ctx, CellUpdateConfirm_CCCH_r3* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* u-RNTI */
-   rtxCtxtPushElemName(ctx, "u-RNTI");
-   stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellUpdateConfirm-r3 */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r3");
-   stat = asn1PD_UMTS_CellUpdateConfirm_r3_IEs(ctx, &pvalue->cellUpdateConfirm_r3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v690ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v690ext");
-   stat = asn1PD_UMTS_CellUpdateConfirm_v690ext_IEs(ctx, &pvalue->cellUpdateConfirm_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(rtxContext* ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v5d0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v5d0ext");
-   stat = asn1PD_UMTS_CellUpdateConfirm_v5d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v5d0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v590ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v590ext");
-   stat = asn1PD_UMTS_CellUpdateConfirm_v590ext_IEs(ctx, &pvalue->cellUpdateConfirm_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v5d0NonCriticalExtenstions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v5d0NonCriticalExtenstions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-CCCH-r4-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "cellUpdateConfirm-CCCH-r4-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->cellUpdateConfirm_CCCH_r4_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v590NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4(rtxContext* ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-r4 */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r4");
-   stat = asn1PD_UMTS_CellUpdateConfirm_r4_IEs(ctx, &pvalue->cellUpdateConfirm_r4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v4d0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v4d0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v690ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v690ext");
-   stat = asn1PD_UMTS_CellUpdateConfirm_v690ext_IEs(ctx, &pvalue->cellUpdateConfirm_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(rtxContext* ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v5d0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v5d0ext");
-   stat = asn1PD_UMTS_CellUpdateConfirm_v5d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v5d0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5(rtxContext* ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-r5 */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r5");
-   stat = asn1PD_UMTS_CellUpdateConfirm_r5_IEs(ctx, &pvalue->cellUpdateConfirm_r5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellUpdateConfirm-CCCH-r5-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "cellUpdateConfirm-CCCH-r5-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->cellUpdateConfirm_CCCH_r5_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v5d0NonCriticalExtenstions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v5d0NonCriticalExtenstions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v6b0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v6b0ext");
-   stat = asn1PD_UMTS_CellUpdateConfirm_v6b0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v6b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(rtxContext* ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-r6 */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r6");
-   stat = asn1PD_UMTS_CellUpdateConfirm_r6_IEs(ctx, &pvalue->cellUpdateConfirm_r6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellUpdateConfirm-r6-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r6-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->cellUpdateConfirm_r6_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRequest-v690ext */
+   stat = asn1PD_UMTS_RRCConnectionRequest_v690ext_IEs(ctx, &pvalue->rrcConnectionRequest_v690ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRequest-v690ext", -1, 0);
    /* v6b0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v6b0NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v860ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v860ext");
-   stat = asn1PD_UMTS_CellUpdateConfirm_v860ext_IEs(ctx, &pvalue->cellUpdateConfirm_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRequest-v590ext */
+   stat = asn1PD_UMTS_RRCConnectionRequest_v590ext_IEs(ctx, &pvalue->rrcConnectionRequest_v590ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRequest-v590ext", -1, 0);
+   /* v690NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v780ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v780ext");
-   stat = asn1PD_UMTS_CellUpdateConfirm_v780ext_IEs(ctx, &pvalue->cellUpdateConfirm_v780ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v860NonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRequest-v4b0ext */
+   stat = asn1PD_UMTS_RRCConnectionRequest_v4b0ext_IEs(ctx, &pvalue->rrcConnectionRequest_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRequest-v4b0ext", -1, 0);
+   /* v590NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7* pvalue)
+int asn1PD_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v3d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rRCConnectionRequest-v3d0ext */
+   stat = asn1PD_UMTS_RRCConnectionRequest_v3d0ext_IEs(ctx, &pvalue->rRCConnectionRequest_v3d0ext);
+   RT_CHECK(ctx, stat, 0, "rRCConnectionRequest-v3d0ext", -1, 0);
+   /* v4b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionRequest(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-r7 */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r7");
-   stat = asn1PD_UMTS_CellUpdateConfirm_r7_IEs(ctx, &pvalue->cellUpdateConfirm_r7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellUpdateConfirm-r7-add-ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRequest");
+   /* initialUE-Identity */
+   stat = asn1PD_UMTS_InitialUE_Identity(ctx, &pvalue->initialUE_Identity);
+   RT_CHECK(ctx, stat, 0, "initialUE-Identity", -1, "RRCConnectionRequest");
+   /* establishmentCause */
+   stat = pd_ConsUnsigned(ctx, &pvalue->establishmentCause, 0, 31);
+   RT_CHECK(ctx, stat, "EstablishmentCause", "establishmentCause", -1, "RRCConnectionRequest");
+   /* protocolErrorIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->protocolErrorIndicator, 0, 1);
+   RT_CHECK(ctx, stat, "ProtocolErrorIndicator", "protocolErrorIndicator", -1, "RRCConnectionRequest");
+   /* measuredResultsOnRACH */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r7-add-ext");
       pvalue->m |= 0x1u;
-      {
-         rtxDynBitStr carrier;
-         rtxContext outer;
-         stat = pd_DynBitString(ctx, &carrier);
-         RT_CHECK(ctx, stat);
-         rtxCopyContext(&outer, ctx);
-         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
-         if (stat == 0) {
-            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
-            stat = asn1PD_UMTS_CellUpdateConfirm_r7_add_ext_IEs(ctx, &pvalue->cellUpdateConfirm_r7_add_ext);
-            RT_CHECK(ctx, stat);
-         }
-         rtxCopyContext(ctx, &outer);
-         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
-      }
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_MeasuredResultsOnRACH(ctx, &pvalue->measuredResultsOnRACH);
+      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACH", -1, "RRCConnectionRequest");
    }
-   /* v780NonCriticalExtensions */
+   /* v3d0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v780NonCriticalExtensions");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions(ctx, &pvalue->v3d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3d0NonCriticalExtensions", -1, "RRCConnectionRequest");
    }
-   return stat;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
    return 0;
 }
 
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_RRCConnectionSetup_r3_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_r3_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v8a0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v8a0ext");
-   stat = asn1PD_UMTS_CellUpdateConfirm_v8a0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v8a0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v890ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v890ext");
-   stat = asn1PD_UMTS_CellUpdateConfirm_v890ext_IEs(ctx, &pvalue->cellUpdateConfirm_v890ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v8a0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v8a0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v7d0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v7d0ext");
-   stat = asn1PD_UMTS_CellUpdateConfirm_v7d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7d0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v890NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v890NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-r8 */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r8");
-   stat = asn1PD_UMTS_CellUpdateConfirm_r8_IEs(ctx, &pvalue->cellUpdateConfirm_r8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellUpdateConfirm-r8-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r8-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->cellUpdateConfirm_r8_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v7d0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v7d0NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-r9 */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r9");
-   stat = asn1PD_UMTS_CellUpdateConfirm_r9_IEs(ctx, &pvalue->cellUpdateConfirm_r9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellUpdateConfirm-r9-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r9-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->cellUpdateConfirm_r9_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r9");
-         pvalue->u.r9 = (CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9));
-         if (pvalue->u.r9 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(pvalue->u.r9);
-         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r8");
-         pvalue->u.r8 = (CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8));
-         if (pvalue->u.r8 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(pvalue->u.r8);
-         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r7");
-         pvalue->u.r7 = (CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7));
-         if (pvalue->u.r7 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(pvalue->u.r7);
-         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r6");
-         pvalue->u.r6 = (CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6));
-         if (pvalue->u.r6 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(pvalue->u.r6);
-         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(ctx, pvalue->u.r6);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r5");
-         pvalue->u.r5 = (CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5));
-         if (pvalue->u.r5 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5(pvalue->u.r5);
-         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5(ctx, pvalue->u.r5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions(rtxContext* ctx, CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r4");
-         pvalue->u.r4 = (CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4));
-         if (pvalue->u.r4 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4(pvalue->u.r4);
-         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3(rtxContext* ctx, CellUpdateConfirm_CCCH_later_than_r3* pvalue)
-{
-   int stat = 0;
-   /* u-RNTI */
-   rtxCtxtPushElemName(ctx, "u-RNTI");
-   stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   stat = rtxDecBitsFast(ctx, &present, 10);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetup-r3-IEs");
+   /* initialUE-Identity */
+   stat = asn1PD_UMTS_InitialUE_Identity(ctx, &pvalue->initialUE_Identity);
+   RT_CHECK(ctx, stat, 0, "initialUE-Identity", -1, "RRCConnectionSetup-r3-IEs");
    /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
    stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* criticalExtensions */
-   rtxCtxtPushElemName(ctx, "criticalExtensions");
-   stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CellUpdateConfirm_CCCH(rtxContext* ctx, CellUpdateConfirm_CCCH* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-CCCH");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r3");
-         pvalue->u.r3 = (CellUpdateConfirm_CCCH_r3*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_r3));
-         if (pvalue->u.r3 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellUpdateConfirm_CCCH_r3(pvalue->u.r3);
-         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "later-than-r3");
-         pvalue->u.later_than_r3 = (CellUpdateConfirm_CCCH_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH_later_than_r3));
-         if (pvalue->u.later_than_r3 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CellUpdateConfirm_CCCH_later_than_r3(pvalue->u.later_than_r3);
-         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CounterCheck_r3_IEs(rtxContext* ctx, CounterCheck_r3_IEs* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CounterCheck-r3-IEs");
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* rb-COUNT-C-MSB-InformationList */
-   rtxCtxtPushElemName(ctx, "rb-COUNT-C-MSB-InformationList");
-   stat = asn1PD_UMTS_RB_COUNT_C_MSB_InformationList(ctx, &pvalue->rb_COUNT_C_MSB_InformationList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CounterCheck_r3_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, CounterCheck_r3_laterNonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CounterCheck_r3_laterNonCriticalExtensions(rtxContext* ctx, CounterCheck_r3_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* counterCheck-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "counterCheck-r3-add-ext");
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RRCConnectionSetup-r3-IEs");
+   /* activationTime */
+   if (present & ((uint32_t)1 << 9)) {
       pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->counterCheck_r3_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RRCConnectionSetup-r3-IEs");
    }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
+   /* new-U-RNTI */
+   stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+   RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RRCConnectionSetup-r3-IEs");
+   /* new-c-RNTI */
+   if (present & ((uint32_t)1 << 8)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CounterCheck_r3_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_c_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-c-RNTI", -1, "RRCConnectionSetup-r3-IEs");
    }
-   return 0;
-}
-
-int asn1PD_UMTS_CounterCheck_r3(rtxContext* ctx, CounterCheck_r3* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* counterCheck-r3 */
-   rtxCtxtPushElemName(ctx, "counterCheck-r3");
-   stat = asn1PD_UMTS_CounterCheck_r3_IEs(ctx, &pvalue->counterCheck_r3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CounterCheck_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RRCConnectionSetup-r3-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+   RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RRCConnectionSetup-r3-IEs");
+   /* capabilityUpdateRequirement */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_CapabilityUpdateRequirement(ctx, &pvalue->capabilityUpdateRequirement);
+      RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement", -1, "RRCConnectionSetup-r3-IEs");
    }
-   return 0;
-}
-
-int asn1PD_UMTS_CounterCheck_later_than_r3_criticalExtensions(rtxContext* ctx, CounterCheck_later_than_r3_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CounterCheck_later_than_r3(rtxContext* ctx, CounterCheck_later_than_r3* pvalue)
-{
-   int stat = 0;
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* criticalExtensions */
-   rtxCtxtPushElemName(ctx, "criticalExtensions");
-   stat = asn1PD_UMTS_CounterCheck_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CounterCheck(rtxContext* ctx, CounterCheck* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "CounterCheck");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r3");
-         pvalue->u.r3 = (CounterCheck_r3*)rtxMemHeapAlloc(ctx, sizeof(CounterCheck_r3));
-         if (pvalue->u.r3 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_CounterCheck_r3(pvalue->u.r3);
-         stat = asn1PD_UMTS_CounterCheck_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "later-than-r3");
-         pvalue->u.later_than_r3 = (CounterCheck_later_than_r3*)rtxMemHeapAllocZ(ctx, sizeof(CounterCheck_later_than_r3));
-         if (pvalue->u.later_than_r3 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_CounterCheck_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_CounterCheckResponse_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, CounterCheckResponse_laterNonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_CounterCheckResponse_laterNonCriticalExtensions(rtxContext* ctx, CounterCheckResponse_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* counterCheckResponse-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "counterCheckResponse-r3-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->counterCheckResponse_r3_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CounterCheckResponse_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_CounterCheckResponse(rtxContext* ctx, CounterCheckResponse* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "CounterCheckResponse");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* rb-COUNT-C-InformationList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "rb-COUNT-C-InformationList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RB_COUNT_C_InformationList(ctx, &pvalue->rb_COUNT_C_InformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CounterCheckResponse_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DownlinkDirectTransfer_r3_IEs(rtxContext* ctx, DownlinkDirectTransfer_r3_IEs* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DownlinkDirectTransfer-r3-IEs");
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* cn-DomainIdentity */
-   rtxCtxtPushElemName(ctx, "cn-DomainIdentity");
-   rtxCtxtPushTypeName(ctx, "CN-DomainIdentity");
-   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* nas-Message */
-   rtxCtxtPushElemName(ctx, "nas-Message");
-   stat = asn1PD_UMTS_NAS_Message(ctx, &pvalue->nas_Message);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DownlinkDirectTransfer_r3_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, DownlinkDirectTransfer_r3_laterNonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_DownlinkDirectTransfer_r3_laterNonCriticalExtensions(rtxContext* ctx, DownlinkDirectTransfer_r3_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* downlinkDirectTransfer-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "downlinkDirectTransfer-r3-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->downlinkDirectTransfer_r3_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DownlinkDirectTransfer_r3_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DownlinkDirectTransfer_r3(rtxContext* ctx, DownlinkDirectTransfer_r3* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* downlinkDirectTransfer-r3 */
-   rtxCtxtPushElemName(ctx, "downlinkDirectTransfer-r3");
-   stat = asn1PD_UMTS_DownlinkDirectTransfer_r3_IEs(ctx, &pvalue->downlinkDirectTransfer_r3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DownlinkDirectTransfer_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_DownlinkDirectTransfer_later_than_r3_criticalExtensions(rtxContext* ctx, DownlinkDirectTransfer_later_than_r3_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_DownlinkDirectTransfer_later_than_r3(rtxContext* ctx, DownlinkDirectTransfer_later_than_r3* pvalue)
-{
-   int stat = 0;
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* criticalExtensions */
-   rtxCtxtPushElemName(ctx, "criticalExtensions");
-   stat = asn1PD_UMTS_DownlinkDirectTransfer_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_DownlinkDirectTransfer(rtxContext* ctx, DownlinkDirectTransfer* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "DownlinkDirectTransfer");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r3");
-         pvalue->u.r3 = (DownlinkDirectTransfer_r3*)rtxMemHeapAlloc(ctx, sizeof(DownlinkDirectTransfer_r3));
-         if (pvalue->u.r3 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_DownlinkDirectTransfer_r3(pvalue->u.r3);
-         stat = asn1PD_UMTS_DownlinkDirectTransfer_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "later-than-r3");
-         pvalue->u.later_than_r3 = (DownlinkDirectTransfer_later_than_r3*)rtxMemHeapAllocZ(ctx, sizeof(DownlinkDirectTransfer_later_than_r3));
-         if (pvalue->u.later_than_r3 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_DownlinkDirectTransfer_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_ETWSPrimaryNotificationWithSecurity_nonCriticalExtensions(rtxContext* ctx, ETWSPrimaryNotificationWithSecurity_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_ETWSPrimaryNotificationWithSecurity(rtxContext* ctx, ETWSPrimaryNotificationWithSecurity* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "ETWSPrimaryNotificationWithSecurity");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* etws-Information */
-   rtxCtxtPushElemName(ctx, "etws-Information");
-   stat = asn1PD_UMTS_ETWS_Information(ctx, &pvalue->etws_Information);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* etws-WarningSecurityInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "etws-WarningSecurityInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ETWS_WarningSecurityInfo(ctx, &pvalue->etws_WarningSecurityInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_ETWSPrimaryNotificationWithSecurity_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo_fdd(rtxContext* ctx, HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy2 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy2");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CPCH_SetInfo(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo(rtxContext* ctx, HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_complete(rtxContext* ctx, HandoverToUTRANCommand_r3_IEs_specificationMode_complete* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
    /* srb-InformationSetupList */
-   rtxCtxtPushElemName(ctx, "srb-InformationSetupList");
-   stat = asn1PD_UMTS_SRB_InformationSetupList(ctx, &pvalue->srb_InformationSetupList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rab-InformationSetupList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "rab-InformationSetupList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_InformationSetupList(ctx, &pvalue->rab_InformationSetupList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
+   stat = asn1PD_UMTS_SRB_InformationSetupList2(ctx, &pvalue->srb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, "RRCConnectionSetup-r3-IEs");
    /* ul-CommonTransChInfo */
-   rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
-   stat = asn1PD_UMTS_UL_CommonTransChInfo(ctx, &pvalue->ul_CommonTransChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RRCConnectionSetup-r3-IEs");
+   }
    /* ul-AddReconfTransChInfoList */
-   rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
    stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RRCConnectionSetup-r3-IEs");
    /* dl-CommonTransChInfo */
-   rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
-   stat = asn1PD_UMTS_DL_CommonTransChInfo(ctx, &pvalue->dl_CommonTransChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RRCConnectionSetup-r3-IEs");
+   }
    /* dl-AddReconfTransChInfoList */
-   rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
    stat = asn1PD_UMTS_DL_AddReconfTransChInfoList(ctx, &pvalue->dl_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PD_UMTS_UL_DPCH_Info(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonInformation */
-   rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-   stat = asn1PD_UMTS_DL_CommonInformation(ctx, &pvalue->dl_CommonInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL-List */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-   stat = asn1PD_UMTS_DL_InformationPerRL_List(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RRCConnectionSetup-r3-IEs");
    /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* ctx, HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* pvalue)
-{
-   int stat = 0;
-   /* defaultConfigMode */
-   rtxCtxtPushElemName(ctx, "defaultConfigMode");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigMode");
-   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* defaultConfigIdentity */
-   rtxCtxtPushElemName(ctx, "defaultConfigIdentity");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigIdentity");
-   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* ctx, HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_preConfigMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "predefinedConfigIdentity");
-         rtxCtxtPushTypeName(ctx, "PredefinedConfigIdentity");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "defaultConfig");
-         pvalue->u.defaultConfig = (HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAllocZ(ctx, sizeof(HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
-         if (pvalue->u.defaultConfig == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RRCConnectionSetup-r3-IEs");
    }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(rtxContext* ctx, HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PD_UMTS_UL_DPCH_InfoPostFDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonInformationPost */
-   rtxCtxtPushElemName(ctx, "dl-CommonInformationPost");
-   stat = asn1PD_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL-List */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-   stat = asn1PD_UMTS_DL_InformationPerRL_ListPostFDD(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PD_UMTS_FrequencyInfoFDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(rtxContext* ctx, HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PD_UMTS_UL_DPCH_InfoPostTDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonInformationPost */
-   rtxCtxtPushElemName(ctx, "dl-CommonInformationPost");
-   stat = asn1PD_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL");
-   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo(rtxContext* ctx, HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration(rtxContext* ctx, HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* preConfigMode */
-   rtxCtxtPushElemName(ctx, "preConfigMode");
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rab-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "rab-Info");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_Info_Post(ctx, &pvalue->rab_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode(rtxContext* ctx, HandoverToUTRANCommand_r3_IEs_specificationMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "complete");
-         pvalue->u.complete = (HandoverToUTRANCommand_r3_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r3_IEs_specificationMode_complete));
-         if (pvalue->u.complete == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_complete(pvalue->u.complete);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_complete(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "preconfiguration");
-         pvalue->u.preconfiguration = (HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration));
-         if (pvalue->u.preconfiguration == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs(rtxContext* ctx, HandoverToUTRANCommand_r3_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "HandoverToUTRANCommand-r3-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* new-U-RNTI */
-   rtxCtxtPushElemName(ctx, "new-U-RNTI");
-   stat = asn1PD_UMTS_U_RNTI_Short(ctx, &pvalue->new_U_RNTI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dummy */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->dummy, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cipheringAlgorithm */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cipheringAlgorithm");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "CipheringAlgorithm");
-      stat = pd_ConsUnsigned(ctx, &pvalue->cipheringAlgorithm, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* specificationMode */
-   rtxCtxtPushElemName(ctx, "specificationMode");
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode(ctx, &pvalue->specificationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
    /* maxAllowedUL-TX-Power */
-   rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-   rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-   stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r3_nonCriticalExtensions(rtxContext* ctx, HandoverToUTRANCommand_r3_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r3(rtxContext* ctx, HandoverToUTRANCommand_r3* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* handoverToUTRANCommand-r3 */
-   rtxCtxtPushElemName(ctx, "handoverToUTRANCommand-r3");
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r3_IEs(ctx, &pvalue->handoverToUTRANCommand_r3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverToUTRANCommand_r3_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x40u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RRCConnectionSetup-r3-IEs");
    }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo_fdd(rtxContext* ctx, HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   /* ul-ChannelRequirement */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_UL_ChannelRequirement(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "RRCConnectionSetup-r3-IEs");
    }
-   /* dummy2 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy2");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CPCH_SetInfo(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo(rtxContext* ctx, HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_complete(rtxContext* ctx, HandoverToUTRANCommand_r4_IEs_specificationMode_complete* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* srb-InformationSetupList */
-   rtxCtxtPushElemName(ctx, "srb-InformationSetupList");
-   stat = asn1PD_UMTS_SRB_InformationSetupList(ctx, &pvalue->srb_InformationSetupList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rab-InformationSetupList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "rab-InformationSetupList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_InformationSetupList_r4(ctx, &pvalue->rab_InformationSetupList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CommonTransChInfo */
-   rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
-   stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-AddReconfTransChInfoList */
-   rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
-   stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonTransChInfo */
-   rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
-   stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-AddReconfTransChInfoList */
-   rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
-   stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r4(ctx, &pvalue->dl_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PD_UMTS_UL_DPCH_Info_r4(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
    /* dl-CommonInformation */
-   rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-   stat = asn1PD_UMTS_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL-List */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-   stat = asn1PD_UMTS_DL_InformationPerRL_List_r4(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* ctx, HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* pvalue)
-{
-   int stat = 0;
-   /* defaultConfigMode */
-   rtxCtxtPushElemName(ctx, "defaultConfigMode");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigMode");
-   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* defaultConfigIdentity */
-   rtxCtxtPushElemName(ctx, "defaultConfigIdentity");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigIdentity-r4");
-   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 12);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* ctx, HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_preConfigMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "predefinedConfigIdentity");
-         rtxCtxtPushTypeName(ctx, "PredefinedConfigIdentity");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "defaultConfig");
-         pvalue->u.defaultConfig = (HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAllocZ(ctx, sizeof(HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
-         if (pvalue->u.defaultConfig == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(rtxContext* ctx, HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PD_UMTS_UL_DPCH_InfoPostFDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonInformationPost */
-   rtxCtxtPushElemName(ctx, "dl-CommonInformationPost");
-   stat = asn1PD_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL-List */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-   stat = asn1PD_UMTS_DL_InformationPerRL_ListPostFDD(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PD_UMTS_FrequencyInfoFDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(rtxContext* ctx, HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384* pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PD_UMTS_UL_DPCH_InfoPostTDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL");
-   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(rtxContext* ctx, HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128* pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PD_UMTS_UL_DPCH_InfoPostTDD_LCR_r4(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL");
-   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD_LCR_r4(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(rtxContext* ctx, HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         pvalue->u.tdd384 = (HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         pvalue->u.tdd128 = (HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo(rtxContext* ctx, HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration(rtxContext* ctx, HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* preConfigMode */
-   rtxCtxtPushElemName(ctx, "preConfigMode");
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rab-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "rab-Info");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_Info_Post(ctx, &pvalue->rab_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode(rtxContext* ctx, HandoverToUTRANCommand_r4_IEs_specificationMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "complete");
-         pvalue->u.complete = (HandoverToUTRANCommand_r4_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r4_IEs_specificationMode_complete));
-         if (pvalue->u.complete == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_complete(pvalue->u.complete);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_complete(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "preconfiguration");
-         pvalue->u.preconfiguration = (HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration));
-         if (pvalue->u.preconfiguration == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs(rtxContext* ctx, HandoverToUTRANCommand_r4_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "HandoverToUTRANCommand-r4-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* new-U-RNTI */
-   rtxCtxtPushElemName(ctx, "new-U-RNTI");
-   stat = asn1PD_UMTS_U_RNTI_Short(ctx, &pvalue->new_U_RNTI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cipheringAlgorithm */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cipheringAlgorithm");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "CipheringAlgorithm");
-      stat = pd_ConsUnsigned(ctx, &pvalue->cipheringAlgorithm, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* specificationMode */
-   rtxCtxtPushElemName(ctx, "specificationMode");
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode(ctx, &pvalue->specificationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* maxAllowedUL-TX-Power */
-   rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-   rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-   stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_r4_nonCriticalExtensions(rtxContext* ctx, HandoverToUTRANCommand_criticalExtensions_r4_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_r4(rtxContext* ctx, HandoverToUTRANCommand_criticalExtensions_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* handoverToUTRANCommand-r4 */
-   rtxCtxtPushElemName(ctx, "handoverToUTRANCommand-r4");
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r4_IEs(ctx, &pvalue->handoverToUTRANCommand_r4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_r4_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo_fdd(rtxContext* ctx, HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* dummy */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_DL_CommonInformation(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RRCConnectionSetup-r3-IEs");
    }
-   /* dummy2 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy2");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CPCH_SetInfo(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo(rtxContext* ctx, HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_complete(rtxContext* ctx, HandoverToUTRANCommand_r5_IEs_specificationMode_complete* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* srb-InformationSetupList */
-   rtxCtxtPushElemName(ctx, "srb-InformationSetupList");
-   stat = asn1PD_UMTS_SRB_InformationSetupList_r5(ctx, &pvalue->srb_InformationSetupList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rab-InformationSetupList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "rab-InformationSetupList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_InformationSetupList_r5(ctx, &pvalue->rab_InformationSetupList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CommonTransChInfo */
-   rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
-   stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-AddReconfTransChInfoList */
-   rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
-   stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonTransChInfo */
-   rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
-   stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-AddReconfTransChInfoList */
-   rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
-   stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PD_UMTS_UL_DPCH_Info_r5(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonInformation */
-   rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-   stat = asn1PD_UMTS_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
    /* dl-InformationPerRL-List */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-   stat = asn1PD_UMTS_DL_InformationPerRL_List_r5(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* ctx, HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* pvalue)
-{
-   int stat = 0;
-   /* defaultConfigMode */
-   rtxCtxtPushElemName(ctx, "defaultConfigMode");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigMode");
-   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* defaultConfigIdentity */
-   rtxCtxtPushElemName(ctx, "defaultConfigIdentity");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigIdentity-r5");
-   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 13);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* ctx, HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_preConfigMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "predefinedConfigIdentity");
-         rtxCtxtPushTypeName(ctx, "PredefinedConfigIdentity");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "defaultConfig");
-         pvalue->u.defaultConfig = (HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAllocZ(ctx, sizeof(HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
-         if (pvalue->u.defaultConfig == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(rtxContext* ctx, HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PD_UMTS_UL_DPCH_InfoPostFDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonInformationPost */
-   rtxCtxtPushElemName(ctx, "dl-CommonInformationPost");
-   stat = asn1PD_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL-List */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-   stat = asn1PD_UMTS_DL_InformationPerRL_ListPostFDD(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PD_UMTS_FrequencyInfoFDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(rtxContext* ctx, HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384* pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PD_UMTS_UL_DPCH_InfoPostTDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL");
-   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(rtxContext* ctx, HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128* pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PD_UMTS_UL_DPCH_InfoPostTDD_LCR_r4(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL");
-   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD_LCR_r4(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(rtxContext* ctx, HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         pvalue->u.tdd384 = (HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         pvalue->u.tdd128 = (HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo(rtxContext* ctx, HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration(rtxContext* ctx, HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* preConfigMode */
-   rtxCtxtPushElemName(ctx, "preConfigMode");
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rab-Info */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "rab-Info");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_Info_Post(ctx, &pvalue->rab_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode(rtxContext* ctx, HandoverToUTRANCommand_r5_IEs_specificationMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "complete");
-         pvalue->u.complete = (HandoverToUTRANCommand_r5_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r5_IEs_specificationMode_complete));
-         if (pvalue->u.complete == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_complete(pvalue->u.complete);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_complete(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "preconfiguration");
-         pvalue->u.preconfiguration = (HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration));
-         if (pvalue->u.preconfiguration == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RRCConnectionSetup-r3-IEs");
    }
    return 0;
 }
 
-int asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs(rtxContext* ctx, HandoverToUTRANCommand_r5_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "HandoverToUTRANCommand-r5-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* new-U-RNTI */
-   rtxCtxtPushElemName(ctx, "new-U-RNTI");
-   stat = asn1PD_UMTS_U_RNTI_Short(ctx, &pvalue->new_U_RNTI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cipheringAlgorithm */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cipheringAlgorithm");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "CipheringAlgorithm");
-      stat = pd_ConsUnsigned(ctx, &pvalue->cipheringAlgorithm, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* specificationMode */
-   rtxCtxtPushElemName(ctx, "specificationMode");
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode(ctx, &pvalue->specificationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* maxAllowedUL-TX-Power */
-   rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-   rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-   stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5_nonCriticalExtensions(rtxContext* ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5(rtxContext* ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* handoverToUTRANCommand-r5 */
-   rtxCtxtPushElemName(ctx, "handoverToUTRANCommand-r5");
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r5_IEs(ctx, &pvalue->handoverToUTRANCommand_r5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_complete(rtxContext* ctx, HandoverToUTRANCommand_r6_IEs_specificationMode_complete* pvalue)
+int asn1PD_UMTS_RRCConnectionSetup_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_v4b0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* srb-InformationSetupList */
-   rtxCtxtPushElemName(ctx, "srb-InformationSetupList");
-   stat = asn1PD_UMTS_SRB_InformationSetupList_r6(ctx, &pvalue->srb_InformationSetupList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rab-InformationSetupList */
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetup-v4b0ext-IEs");
+   /* capabilityUpdateRequirement-r4-ext */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "rab-InformationSetupList");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_InformationSetupList_r6(ctx, &pvalue->rab_InformationSetupList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_CapabilityUpdateRequirement_r4_ext(ctx, &pvalue->capabilityUpdateRequirement_r4_ext);
+      RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement-r4-ext", -1, "RRCConnectionSetup-v4b0ext-IEs");
    }
-   /* ul-CommonTransChInfo */
-   rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
-   stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-AddReconfTransChInfoList */
-   rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
-   stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r6(ctx, &pvalue->ul_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonTransChInfo */
-   rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
-   stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-AddReconfTransChInfoList */
-   rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
-   stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PD_UMTS_UL_DPCH_Info_r6(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-EDCH-Information */
+   /* dummy */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r6(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUnsigned(ctx, &pvalue->dummy, 0, 1);
+      RT_CHECK(ctx, stat, "SSDT-UL", "dummy", -1, "RRCConnectionSetup-v4b0ext-IEs");
    }
-   /* dl-HSPDSCH-Information */
+   /* cell-id-PerRL-List */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r6(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonInformation */
-   rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-   stat = asn1PD_UMTS_DL_CommonInformation_r6(ctx, &pvalue->dl_CommonInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL-List */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-   stat = asn1PD_UMTS_DL_InformationPerRL_List_r6(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* ctx, HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* pvalue)
-{
-   int stat = 0;
-   /* defaultConfigMode */
-   rtxCtxtPushElemName(ctx, "defaultConfigMode");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigMode");
-   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* defaultConfigIdentity */
-   rtxCtxtPushElemName(ctx, "defaultConfigIdentity");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigIdentity-r6");
-   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* ctx, HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_preConfigMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "predefinedConfigIdentity");
-         rtxCtxtPushTypeName(ctx, "PredefinedConfigIdentity");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "defaultConfig");
-         pvalue->u.defaultConfig = (HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAllocZ(ctx, sizeof(HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
-         if (pvalue->u.defaultConfig == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+      stat = asn1PD_UMTS_CellIdentity_PerRL_List(ctx, &pvalue->cell_id_PerRL_List);
+      RT_CHECK(ctx, stat, 0, "cell-id-PerRL-List", -1, "RRCConnectionSetup-v4b0ext-IEs");
    }
    return 0;
 }
 
-int asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(rtxContext* ctx, HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PD_UMTS_UL_DPCH_InfoPostFDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonInformationPost */
-   rtxCtxtPushElemName(ctx, "dl-CommonInformationPost");
-   stat = asn1PD_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL-List */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-   stat = asn1PD_UMTS_DL_InformationPerRL_ListPostFDD(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PD_UMTS_FrequencyInfoFDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(rtxContext* ctx, HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384* pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PD_UMTS_UL_DPCH_InfoPostTDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL");
-   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(rtxContext* ctx, HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128* pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PD_UMTS_UL_DPCH_InfoPostTDD_LCR_r4(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL");
-   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD_LCR_r4(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(rtxContext* ctx, HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         pvalue->u.tdd384 = (HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         pvalue->u.tdd128 = (HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo(rtxContext* ctx, HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration(rtxContext* ctx, HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration* pvalue)
+int asn1PD_UMTS_RRCConnectionSetup_v590ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_v590ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* preConfigMode */
-   rtxCtxtPushElemName(ctx, "preConfigMode");
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rab-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "rab-Info");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_Info_Post(ctx, &pvalue->rab_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode(rtxContext* ctx, HandoverToUTRANCommand_r6_IEs_specificationMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "complete");
-         pvalue->u.complete = (HandoverToUTRANCommand_r6_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r6_IEs_specificationMode_complete));
-         if (pvalue->u.complete == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_complete(pvalue->u.complete);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_complete(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "preconfiguration");
-         pvalue->u.preconfiguration = (HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration));
-         if (pvalue->u.preconfiguration == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs(rtxContext* ctx, HandoverToUTRANCommand_r6_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "HandoverToUTRANCommand-r6-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* new-U-RNTI */
-   rtxCtxtPushElemName(ctx, "new-U-RNTI");
-   stat = asn1PD_UMTS_U_RNTI_Short(ctx, &pvalue->new_U_RNTI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cipheringAlgorithm */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cipheringAlgorithm");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "CipheringAlgorithm");
-      stat = pd_ConsUnsigned(ctx, &pvalue->cipheringAlgorithm, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* specificationMode */
-   rtxCtxtPushElemName(ctx, "specificationMode");
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode(ctx, &pvalue->specificationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* maxAllowedUL-TX-Power */
-   rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-   rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-   stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_v6b0ext_IEs(rtxContext* ctx, HandoverToUTRANCommand_v6b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "HandoverToUTRANCommand-v6b0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-hspa-identities */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-hspa-identities");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_HSPA_Identities_r6(ctx, &pvalue->ue_hspa_identities);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* handoverToUTRANCommand-v6b0ext */
-   rtxCtxtPushElemName(ctx, "handoverToUTRANCommand-v6b0ext");
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_v6b0ext_IEs(ctx, &pvalue->handoverToUTRANCommand_v6b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6(rtxContext* ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* handoverToUTRANCommand-r6 */
-   rtxCtxtPushElemName(ctx, "handoverToUTRANCommand-r6");
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r6_IEs(ctx, &pvalue->handoverToUTRANCommand_r6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v6b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v6b0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_complete(rtxContext* ctx, HandoverToUTRANCommand_r7_IEs_specificationMode_complete* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* srb-InformationSetupList */
-   rtxCtxtPushElemName(ctx, "srb-InformationSetupList");
-   stat = asn1PD_UMTS_SRB_InformationSetupList_r7(ctx, &pvalue->srb_InformationSetupList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rab-InformationSetupList */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "rab-InformationSetupList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_InformationSetupList_r7(ctx, &pvalue->rab_InformationSetupList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CommonTransChInfo */
-   rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
-   stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-AddReconfTransChInfoList */
-   rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
-   stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r7(ctx, &pvalue->ul_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonTransChInfo */
-   rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
-   stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-AddReconfTransChInfoList */
-   rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
-   stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-EDCH-Information */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r7(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-HSPDSCH-Information */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetup-v590ext-IEs");
+   /* systemSpecificCapUpdateReq */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonInformation */
-   rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-   stat = asn1PD_UMTS_DL_CommonInformation_r7(ctx, &pvalue->dl_CommonInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL-List */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-   stat = asn1PD_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* multi-frequencyInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "multi-frequencyInfo");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* ctx, HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* pvalue)
-{
-   int stat = 0;
-   /* defaultConfigMode */
-   rtxCtxtPushElemName(ctx, "defaultConfigMode");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigMode");
-   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* defaultConfigIdentity */
-   rtxCtxtPushElemName(ctx, "defaultConfigIdentity");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigIdentity-r6");
-   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* ctx, HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_preConfigMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "predefinedConfigIdentity");
-         rtxCtxtPushTypeName(ctx, "PredefinedConfigIdentity");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "defaultConfig");
-         pvalue->u.defaultConfig = (HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAllocZ(ctx, sizeof(HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
-         if (pvalue->u.defaultConfig == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(rtxContext* ctx, HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PD_UMTS_UL_DPCH_InfoPostFDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonInformationPost */
-   rtxCtxtPushElemName(ctx, "dl-CommonInformationPost");
-   stat = asn1PD_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL-List */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-   stat = asn1PD_UMTS_DL_InformationPerRL_ListPostFDD(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PD_UMTS_FrequencyInfoFDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(rtxContext* ctx, HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384* pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PD_UMTS_UL_DPCH_InfoPostTDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL");
-   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(rtxContext* ctx, HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL");
-   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD_LCR_r4(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* multi-frequencyInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "multi-frequencyInfo");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(rtxContext* ctx, HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768* pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL");
-   stat = asn1PD_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(rtxContext* ctx, HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         pvalue->u.tdd384 = (HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         pvalue->u.tdd128 = (HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd768");
-         pvalue->u.tdd768 = (HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768));
-         if (pvalue->u.tdd768 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(pvalue->u.tdd768);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo(rtxContext* ctx, HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration(rtxContext* ctx, HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* preConfigMode */
-   rtxCtxtPushElemName(ctx, "preConfigMode");
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rab-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "rab-Info");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_Info_Post(ctx, &pvalue->rab_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode(rtxContext* ctx, HandoverToUTRANCommand_r7_IEs_specificationMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "complete");
-         pvalue->u.complete = (HandoverToUTRANCommand_r7_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r7_IEs_specificationMode_complete));
-         if (pvalue->u.complete == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_complete(pvalue->u.complete);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_complete(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "preconfiguration");
-         pvalue->u.preconfiguration = (HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration));
-         if (pvalue->u.preconfiguration == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs(rtxContext* ctx, HandoverToUTRANCommand_r7_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "HandoverToUTRANCommand-r7-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* new-U-RNTI */
-   rtxCtxtPushElemName(ctx, "new-U-RNTI");
-   stat = asn1PD_UMTS_U_RNTI_Short(ctx, &pvalue->new_U_RNTI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cipheringAlgorithm */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "cipheringAlgorithm");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "CipheringAlgorithm-r7");
-      stat = pd_ConsUnsigned(ctx, &pvalue->cipheringAlgorithm, 0, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportForChangeOfUE-Capability */
-   rtxCtxtPushElemName(ctx, "supportForChangeOfUE-Capability");
-   stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* new-H-RNTI */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "new-H-RNTI");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* specificationMode */
-   rtxCtxtPushElemName(ctx, "specificationMode");
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode(ctx, &pvalue->specificationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* maxAllowedUL-TX-Power */
-   rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-   rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-   stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_v780ext_IEs(rtxContext* ctx, HandoverToUTRANCommand_v780ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "HandoverToUTRANCommand-v780ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* hs-DSCH-TBSizeTable */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "hs-DSCH-TBSizeTable");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "HS-DSCH-TBSizeTable");
       {
          uint32_t ui;
          stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
+         RT_CHECK(ctx, stat, "SystemSpecificCapUpdateReq-v590ext", "systemSpecificCapUpdateReq", -1, "RRCConnectionSetup-v590ext-IEs");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->hs_DSCH_TBSizeTable = ui;
+         RT_CHECK(ctx, stat, "SystemSpecificCapUpdateReq-v590ext", "systemSpecificCapUpdateReq", -1, "RRCConnectionSetup-v590ext-IEs");
+         pvalue->systemSpecificCapUpdateReq = ui;
       }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_v820ext_IEs(rtxContext* ctx, HandoverToUTRANCommand_v820ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "HandoverToUTRANCommand-v820ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* rab-InformationSetupList */
+   /* dl-TPC-PowerOffsetPerRL-List */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "rab-InformationSetupList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_InformationSetupList_v820ext(ctx, &pvalue->rab_InformationSetupList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DL_TPC_PowerOffsetPerRL_List(ctx, &pvalue->dl_TPC_PowerOffsetPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-TPC-PowerOffsetPerRL-List", -1, "RRCConnectionSetup-v590ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_HandoverToUTRANCommand_v7d0ext_IEs(rtxContext* ctx, HandoverToUTRANCommand_v7d0ext_IEs* pvalue)
+int asn1PD_UMTS_RRCConnectionSetup_v690ext_IEs_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_v690ext_IEs_postVerificationPeriod* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_v690ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_v690ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "HandoverToUTRANCommand-v7d0ext-IEs");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ul-EDCH-Information */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetup-v690ext-IEs");
+   /* beaconPLEst */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "RRCConnectionSetup-v690ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "RRCConnectionSetup-v690ext-IEs");
+         pvalue->beaconPLEst = ui;
+      }
+   }
+   /* postVerificationPeriod */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_ext(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "RRCConnectionSetup-v690ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "RRCConnectionSetup-v690ext-IEs");
+         pvalue->postVerificationPeriod = ui;
+      }
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_v7d0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_v7d0NonCriticalExtensions_nonCriticalExtensions* pvalue)
+int asn1PD_UMTS_RRCConnectionSetup_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    return 0;
 }
 
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_v7d0NonCriticalExtensions(rtxContext* ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_v7d0NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_RRCConnectionSetup_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* handoverToUTRANCommand-v7d0ext */
-   rtxCtxtPushElemName(ctx, "handoverToUTRANCommand-v7d0ext");
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_v7d0ext_IEs(ctx, &pvalue->handoverToUTRANCommand_v7d0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-v690ext */
+   stat = asn1PD_UMTS_RRCConnectionSetup_v690ext_IEs(ctx, &pvalue->rrcConnectionSetup_v690ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-v690ext", -1, 0);
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_v7d0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RRCConnectionSetup_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions(rtxContext* ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_RRCConnectionSetup_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* handoverToUTRANCommand-v820ext */
-   rtxCtxtPushElemName(ctx, "handoverToUTRANCommand-v820ext");
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_v820ext_IEs(ctx, &pvalue->handoverToUTRANCommand_v820ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-v590ext */
+   stat = asn1PD_UMTS_RRCConnectionSetup_v590ext_IEs(ctx, &pvalue->rrcConnectionSetup_v590ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-v590ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionSetup_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-v4b0ext */
+   stat = asn1PD_UMTS_RRCConnectionSetup_v4b0ext_IEs(ctx, &pvalue->rrcConnectionSetup_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-v4b0ext", -1, 0);
+   /* v590NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionSetup_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->rrcConnectionSetup_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-r3-add-ext", -1, 0);
+   }
+   /* v4b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RRCConnectionSetup_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_r3(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-r3 */
+   stat = asn1PD_UMTS_RRCConnectionSetup_r3_IEs(ctx, &pvalue->rrcConnectionSetup_r3);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-r3", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionSetup_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_r4_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_r4_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 12);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetup-r4-IEs");
+   /* activationTime */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RRCConnectionSetup-r4-IEs");
+   }
+   /* new-U-RNTI */
+   stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+   RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RRCConnectionSetup-r4-IEs");
+   /* new-c-RNTI */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_c_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-c-RNTI", -1, "RRCConnectionSetup-r4-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RRCConnectionSetup-r4-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+   RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RRCConnectionSetup-r4-IEs");
+   /* capabilityUpdateRequirement */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_CapabilityUpdateRequirement_r4(ctx, &pvalue->capabilityUpdateRequirement);
+      RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement", -1, "RRCConnectionSetup-r4-IEs");
+   }
+   /* srb-InformationSetupList */
+   stat = asn1PD_UMTS_SRB_InformationSetupList2(ctx, &pvalue->srb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, "RRCConnectionSetup-r4-IEs");
+   /* ul-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RRCConnectionSetup-r4-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RRCConnectionSetup-r4-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RRCConnectionSetup-r4-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r4(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RRCConnectionSetup-r4-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RRCConnectionSetup-r4-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x100u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RRCConnectionSetup-r4-IEs");
+   }
+   /* ul-ChannelRequirement */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_UL_ChannelRequirement_r4(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "RRCConnectionSetup-r4-IEs");
+   }
+   /* dl-CommonInformation */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RRCConnectionSetup-r4-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r4(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RRCConnectionSetup-r4-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-v690ext */
+   stat = asn1PD_UMTS_RRCConnectionSetup_v690ext_IEs(ctx, &pvalue->rrcConnectionSetup_v690ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-v690ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-v590ext */
+   stat = asn1PD_UMTS_RRCConnectionSetup_v590ext_IEs(ctx, &pvalue->rrcConnectionSetup_v590ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-v590ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-r4-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->rrcConnectionSetup_r4_add_ext);
+      RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-r4-add-ext", -1, 0);
+   }
+   /* v590NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-r4 */
+   stat = asn1PD_UMTS_RRCConnectionSetup_r4_IEs(ctx, &pvalue->rrcConnectionSetup_r4);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-r4", -1, 0);
+   /* v4d0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_r5_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_r5_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* srb-InformationSetupList */
+   stat = asn1PD_UMTS_SRB_InformationSetupList2(ctx, &pvalue->srb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, 0);
+   /* ul-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r4(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* defaultConfigMode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   /* defaultConfigIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 13);
+   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r5", "defaultConfigIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_r5_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_r5_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* predefinedConfigIdentity */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
+         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         break;
+      case 1: /* defaultConfig */
+         pvalue->u.defaultConfig = (RRCConnectionSetup_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAllocZ(ctx, sizeof(RRCConnectionSetup_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
+         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "defaultConfig", -1, 0);
+         stat = asn1PD_UMTS_RRCConnectionSetup_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
+         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_r5_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_r5_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* preConfigMode */
+   stat = asn1PD_UMTS_RRCConnectionSetup_r5_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
+   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_r5_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_r5_IEs_specificationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* complete */
+         pvalue->u.complete = (RRCConnectionSetup_r5_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionSetup_r5_IEs_specificationMode_complete));
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "complete", -1, 0);
+         asn1Init_UMTS_RRCConnectionSetup_r5_IEs_specificationMode_complete(pvalue->u.complete);
+         stat = asn1PD_UMTS_RRCConnectionSetup_r5_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+         break;
+      case 1: /* preconfiguration */
+         pvalue->u.preconfiguration = (RRCConnectionSetup_r5_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionSetup_r5_IEs_specificationMode_preconfiguration));
+         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "preconfiguration", -1, 0);
+         asn1Init_UMTS_RRCConnectionSetup_r5_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
+         stat = asn1PD_UMTS_RRCConnectionSetup_r5_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
+         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_r5_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_r5_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetup-r5-IEs");
+   /* activationTime */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RRCConnectionSetup-r5-IEs");
+   }
+   /* new-U-RNTI */
+   stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+   RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RRCConnectionSetup-r5-IEs");
+   /* new-c-RNTI */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_c_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-c-RNTI", -1, "RRCConnectionSetup-r5-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RRCConnectionSetup-r5-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+   RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RRCConnectionSetup-r5-IEs");
+   /* capabilityUpdateRequirement */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_CapabilityUpdateRequirement_r5(ctx, &pvalue->capabilityUpdateRequirement);
+      RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement", -1, "RRCConnectionSetup-r5-IEs");
+   }
+   /* specificationMode */
+   stat = asn1PD_UMTS_RRCConnectionSetup_r5_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "RRCConnectionSetup-r5-IEs");
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RRCConnectionSetup-r5-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x10u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RRCConnectionSetup-r5-IEs");
+   }
+   /* ul-ChannelRequirement */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_UL_ChannelRequirement_r4(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "RRCConnectionSetup-r5-IEs");
+   }
+   /* dl-CommonInformation */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RRCConnectionSetup-r5-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r5bis(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RRCConnectionSetup-r5-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-v690ext */
+   stat = asn1PD_UMTS_RRCConnectionSetup_v690ext_IEs(ctx, &pvalue->rrcConnectionSetup_v690ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-v690ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-r5 */
+   stat = asn1PD_UMTS_RRCConnectionSetup_r5_IEs(ctx, &pvalue->rrcConnectionSetup_r5);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-r5", -1, 0);
+   /* rrcConnectionSetup-r5-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->rrcConnectionSetup_r5_add_ext);
+      RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-r5-add-ext", -1, 0);
+   }
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_r6_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_r6_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* srb-InformationSetupList */
+   stat = asn1PD_UMTS_SRB_InformationSetupList2_r6(ctx, &pvalue->srb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, 0);
+   /* ul-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r6(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* defaultConfigMode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   /* defaultConfigIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 31);
+   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_r6_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_r6_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* predefinedConfigIdentity */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
+         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         break;
+      case 1: /* defaultConfig */
+         pvalue->u.defaultConfig = (RRCConnectionSetup_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAllocZ(ctx, sizeof(RRCConnectionSetup_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
+         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "defaultConfig", -1, 0);
+         stat = asn1PD_UMTS_RRCConnectionSetup_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
+         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_r6_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_r6_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* preConfigMode */
+   stat = asn1PD_UMTS_RRCConnectionSetup_r6_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
+   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_r6_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_r6_IEs_specificationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* complete */
+         pvalue->u.complete = (RRCConnectionSetup_r6_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionSetup_r6_IEs_specificationMode_complete));
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "complete", -1, 0);
+         asn1Init_UMTS_RRCConnectionSetup_r6_IEs_specificationMode_complete(pvalue->u.complete);
+         stat = asn1PD_UMTS_RRCConnectionSetup_r6_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+         break;
+      case 1: /* preconfiguration */
+         pvalue->u.preconfiguration = (RRCConnectionSetup_r6_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionSetup_r6_IEs_specificationMode_preconfiguration));
+         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "preconfiguration", -1, 0);
+         asn1Init_UMTS_RRCConnectionSetup_r6_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
+         stat = asn1PD_UMTS_RRCConnectionSetup_r6_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
+         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_r6_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_r6_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 13);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetup-r6-IEs");
+   /* activationTime */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RRCConnectionSetup-r6-IEs");
+   }
+   /* new-U-RNTI */
+   stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+   RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RRCConnectionSetup-r6-IEs");
+   /* new-c-RNTI */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_c_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-c-RNTI", -1, "RRCConnectionSetup-r6-IEs");
+   }
+   /* new-H-RNTI */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RRCConnectionSetup-r6-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RRCConnectionSetup-r6-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RRCConnectionSetup-r6-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RRCConnectionSetup-r6-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+   RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RRCConnectionSetup-r6-IEs");
+   /* capabilityUpdateRequirement */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_CapabilityUpdateRequirement_r5(ctx, &pvalue->capabilityUpdateRequirement);
+      RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement", -1, "RRCConnectionSetup-r6-IEs");
+   }
+   /* specificationMode */
+   stat = asn1PD_UMTS_RRCConnectionSetup_r6_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "RRCConnectionSetup-r6-IEs");
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RRCConnectionSetup-r6-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x80u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RRCConnectionSetup-r6-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_UL_DPCH_Info_r6(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RRCConnectionSetup-r6-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_UL_EDCH_Information_r6(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RRCConnectionSetup-r6-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r6(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RRCConnectionSetup-r6-IEs");
+   }
+   /* dl-CommonInformation */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_DL_CommonInformation_r6(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RRCConnectionSetup-r6-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r6(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RRCConnectionSetup-r6-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_v6b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetup-v6b0ext-IEs");
+   /* dl-InformationPerRL-List-v6b0ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_v6b0ext(ctx, &pvalue->dl_InformationPerRL_List_v6b0ext);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List-v6b0ext", -1, "RRCConnectionSetup-v6b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-v6b0ext */
+   stat = asn1PD_UMTS_RRCConnectionSetup_v6b0ext_IEs(ctx, &pvalue->rrcConnectionSetup_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-v6b0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-r6 */
+   stat = asn1PD_UMTS_RRCConnectionSetup_r6_IEs(ctx, &pvalue->rrcConnectionSetup_r6);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-r6", -1, 0);
+   /* rrcConnectionSetup-r6-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->rrcConnectionSetup_r6_add_ext);
+      RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-r6-add-ext", -1, 0);
+   }
+   /* v6b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_r7_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_r7_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* srb-InformationSetupList */
+   stat = asn1PD_UMTS_SRB_InformationSetupList2_r7(ctx, &pvalue->srb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, 0);
+   /* ul-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r7(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* defaultConfigMode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   /* defaultConfigIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 31);
+   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_r7_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_r7_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* predefinedConfigIdentity */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
+         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         break;
+      case 1: /* defaultConfig */
+         pvalue->u.defaultConfig = (RRCConnectionSetup_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAllocZ(ctx, sizeof(RRCConnectionSetup_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
+         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "defaultConfig", -1, 0);
+         stat = asn1PD_UMTS_RRCConnectionSetup_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
+         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_r7_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_r7_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* preConfigMode */
+   stat = asn1PD_UMTS_RRCConnectionSetup_r7_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
+   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_r7_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_r7_IEs_specificationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* complete */
+         pvalue->u.complete = (RRCConnectionSetup_r7_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionSetup_r7_IEs_specificationMode_complete));
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "complete", -1, 0);
+         asn1Init_UMTS_RRCConnectionSetup_r7_IEs_specificationMode_complete(pvalue->u.complete);
+         stat = asn1PD_UMTS_RRCConnectionSetup_r7_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+         break;
+      case 1: /* preconfiguration */
+         pvalue->u.preconfiguration = (RRCConnectionSetup_r7_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionSetup_r7_IEs_specificationMode_preconfiguration));
+         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "preconfiguration", -1, 0);
+         asn1Init_UMTS_RRCConnectionSetup_r7_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
+         stat = asn1PD_UMTS_RRCConnectionSetup_r7_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
+         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_r7_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_r7_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 17);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetup-r7-IEs");
+   /* activationTime */
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RRCConnectionSetup-r7-IEs");
+   }
+   /* new-U-RNTI */
+   stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+   RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RRCConnectionSetup-r7-IEs");
+   /* new-c-RNTI */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_c_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-c-RNTI", -1, "RRCConnectionSetup-r7-IEs");
+   }
+   /* new-H-RNTI */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RRCConnectionSetup-r7-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RRCConnectionSetup-r7-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RRCConnectionSetup-r7-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RRCConnectionSetup-r7-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+   RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "RRCConnectionSetup-r7-IEs");
+   /* capabilityUpdateRequirement */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_CapabilityUpdateRequirement_r7(ctx, &pvalue->capabilityUpdateRequirement);
+      RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement", -1, "RRCConnectionSetup-r7-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
+   RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "RRCConnectionSetup-r7-IEs");
+   /* specificationMode */
+   stat = asn1PD_UMTS_RRCConnectionSetup_r7_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "RRCConnectionSetup-r7-IEs");
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RRCConnectionSetup-r7-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "RRCConnectionSetup-r7-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "RRCConnectionSetup-r7-IEs");
+   }
+   /* dtx-drx-Info */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "RRCConnectionSetup-r7-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "RRCConnectionSetup-r7-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x800u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RRCConnectionSetup-r7-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RRCConnectionSetup-r7-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_UL_EDCH_Information_r7(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RRCConnectionSetup-r7-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RRCConnectionSetup-r7-IEs");
+   }
+   /* dl-CommonInformation */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8000u;
+      stat = asn1PD_UMTS_DL_CommonInformation_r7(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RRCConnectionSetup-r7-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RRCConnectionSetup-r7-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_v780ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_v780ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetup-v780ext-IEs");
+   /* hs-DSCH-TBSizeTable */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "RRCConnectionSetup-v780ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "RRCConnectionSetup-v780ext-IEs");
+         pvalue->hs_DSCH_TBSizeTable = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_v7d0ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_v7d0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetup-v7d0ext-IEs");
+   /* ul-EDCH-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UL_EDCH_Information_ext(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RRCConnectionSetup-v7d0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-v7d0ext */
+   stat = asn1PD_UMTS_RRCConnectionSetup_v7d0ext_IEs(ctx, &pvalue->rrcConnectionSetup_v7d0ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-v7d0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-v780ext */
+   stat = asn1PD_UMTS_RRCConnectionSetup_v780ext_IEs(ctx, &pvalue->rrcConnectionSetup_v780ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-v780ext", -1, 0);
    /* v7d0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v7d0NonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-r7 */
+   stat = asn1PD_UMTS_RRCConnectionSetup_r7_IEs(ctx, &pvalue->rrcConnectionSetup_r7);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-r7", -1, 0);
+   /* rrcConnectionSetup-r7-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->rrcConnectionSetup_r7_add_ext);
+      RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-r7-add-ext", -1, 0);
+   }
+   /* v780NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v780NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_r8_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_r8_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* srb-InformationSetupList */
+   stat = asn1PD_UMTS_SRB_InformationSetupList2_r8(ctx, &pvalue->srb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, 0);
+   /* ul-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* defaultConfigMode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   /* defaultConfigIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 31);
+   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_r8_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_r8_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* predefinedConfigIdentity */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
+         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         break;
+      case 1: /* defaultConfig */
+         pvalue->u.defaultConfig = (RRCConnectionSetup_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAllocZ(ctx, sizeof(RRCConnectionSetup_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
+         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "defaultConfig", -1, 0);
+         stat = asn1PD_UMTS_RRCConnectionSetup_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
+         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_r8_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_r8_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* preConfigMode */
+   stat = asn1PD_UMTS_RRCConnectionSetup_r8_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
+   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_r8_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_r8_IEs_specificationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* complete */
+         pvalue->u.complete = (RRCConnectionSetup_r8_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionSetup_r8_IEs_specificationMode_complete));
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "complete", -1, 0);
+         asn1Init_UMTS_RRCConnectionSetup_r8_IEs_specificationMode_complete(pvalue->u.complete);
+         stat = asn1PD_UMTS_RRCConnectionSetup_r8_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+         break;
+      case 1: /* preconfiguration */
+         pvalue->u.preconfiguration = (RRCConnectionSetup_r8_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionSetup_r8_IEs_specificationMode_preconfiguration));
+         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "preconfiguration", -1, 0);
+         asn1Init_UMTS_RRCConnectionSetup_r8_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
+         stat = asn1PD_UMTS_RRCConnectionSetup_r8_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
+         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_r8_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_r8_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 20);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetup-r8-IEs");
+   /* activationTime */
+   if (present & ((uint32_t)1 << 19)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   /* new-U-RNTI */
+   stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+   RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RRCConnectionSetup-r8-IEs");
+   /* new-c-RNTI */
+   if (present & ((uint32_t)1 << 18)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_c_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-c-RNTI", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   /* new-H-RNTI */
+   if (present & ((uint32_t)1 << 17)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RRCConnectionSetup-r8-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+   RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "RRCConnectionSetup-r8-IEs");
+   /* capabilityUpdateRequirement */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_CapabilityUpdateRequirement_r8(ctx, &pvalue->capabilityUpdateRequirement);
+      RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
+   RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "RRCConnectionSetup-r8-IEs");
+   /* defaultConfigForCellFACH */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_DefaultConfigForCellFACH(ctx, &pvalue->defaultConfigForCellFACH);
+      RT_CHECK(ctx, stat, 0, "defaultConfigForCellFACH", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   /* specificationMode */
+   stat = asn1PD_UMTS_RRCConnectionSetup_r8_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "RRCConnectionSetup-r8-IEs");
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   /* dtx-drx-Info */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x1000u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_UL_EDCH_Information_r8(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x8000u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   /* dl-CommonInformation */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   /* dl-SecondaryCellInfoFDD */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD(ctx, &pvalue->dl_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   /* sps-Information-TDD128 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
+      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_v890ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_v890ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetup-v890ext-IEs");
+   /* dl-SecondaryCellInfoFDD-v890ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_v890ext(ctx, &pvalue->dl_SecondaryCellInfoFDD_v890ext);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD-v890ext", -1, "RRCConnectionSetup-v890ext-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RRCConnectionSetup-v890ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_v8a0ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_v8a0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* handoverToUTRANCommand-v780ext */
-   rtxCtxtPushElemName(ctx, "handoverToUTRANCommand-v780ext");
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_v780ext_IEs(ctx, &pvalue->handoverToUTRANCommand_v780ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetup-v8a0ext-IEs");
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext2(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RRCConnectionSetup-v8a0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-v8a0ext */
+   stat = asn1PD_UMTS_RRCConnectionSetup_v8a0ext_IEs(ctx, &pvalue->rrcConnectionSetup_v8a0ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-v8a0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-v890ext */
+   stat = asn1PD_UMTS_RRCConnectionSetup_v890ext_IEs(ctx, &pvalue->rrcConnectionSetup_v890ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-v890ext", -1, 0);
+   /* v8a0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v8a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-v7d0ext */
+   stat = asn1PD_UMTS_RRCConnectionSetup_v7d0ext_IEs(ctx, &pvalue->rrcConnectionSetup_v7d0ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-v7d0ext", -1, 0);
+   /* v890NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-r8 */
+   stat = asn1PD_UMTS_RRCConnectionSetup_r8_IEs(ctx, &pvalue->rrcConnectionSetup_r8);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-r8", -1, 0);
+   /* rrcConnectionSetup-r8-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->rrcConnectionSetup_r8_add_ext);
+      RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-r8-add-ext", -1, 0);
+   }
+   /* v7d0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_r9_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_r9_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* srb-InformationSetupList */
+   stat = asn1PD_UMTS_SRB_InformationSetupList2_r8(ctx, &pvalue->srb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, 0);
+   /* ul-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r9(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* defaultConfigMode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   /* defaultConfigIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 31);
+   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_r9_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_r9_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* predefinedConfigIdentity */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
+         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         break;
+      case 1: /* defaultConfig */
+         pvalue->u.defaultConfig = (RRCConnectionSetup_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAllocZ(ctx, sizeof(RRCConnectionSetup_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
+         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "defaultConfig", -1, 0);
+         stat = asn1PD_UMTS_RRCConnectionSetup_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
+         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_r9_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_r9_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* preConfigMode */
+   stat = asn1PD_UMTS_RRCConnectionSetup_r9_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
+   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_r9_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_r9_IEs_specificationMode* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* complete */
+         pvalue->u.complete = (RRCConnectionSetup_r9_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionSetup_r9_IEs_specificationMode_complete));
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "complete", -1, 0);
+         asn1Init_UMTS_RRCConnectionSetup_r9_IEs_specificationMode_complete(pvalue->u.complete);
+         stat = asn1PD_UMTS_RRCConnectionSetup_r9_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+         break;
+      case 1: /* preconfiguration */
+         pvalue->u.preconfiguration = (RRCConnectionSetup_r9_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionSetup_r9_IEs_specificationMode_preconfiguration));
+         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "preconfiguration", -1, 0);
+         asn1Init_UMTS_RRCConnectionSetup_r9_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
+         stat = asn1PD_UMTS_RRCConnectionSetup_r9_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
+         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_r9_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_r9_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 20);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetup-r9-IEs");
+   /* activationTime */
+   if (present & ((uint32_t)1 << 19)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   /* new-U-RNTI */
+   stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+   RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RRCConnectionSetup-r9-IEs");
+   /* new-c-RNTI */
+   if (present & ((uint32_t)1 << 18)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_c_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-c-RNTI", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   /* new-H-RNTI */
+   if (present & ((uint32_t)1 << 17)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RRCConnectionSetup-r9-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+   RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "RRCConnectionSetup-r9-IEs");
+   /* capabilityUpdateRequirement */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_CapabilityUpdateRequirement_r8(ctx, &pvalue->capabilityUpdateRequirement);
+      RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
+   RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "RRCConnectionSetup-r9-IEs");
+   /* defaultConfigForCellFACH */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_DefaultConfigForCellFACH(ctx, &pvalue->defaultConfigForCellFACH);
+      RT_CHECK(ctx, stat, 0, "defaultConfigForCellFACH", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   /* specificationMode */
+   stat = asn1PD_UMTS_RRCConnectionSetup_r9_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "RRCConnectionSetup-r9-IEs");
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   /* dtx-drx-Info */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x1000u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_UL_EDCH_Information_r9(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x8000u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   /* dl-CommonInformation */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   /* dl-SecondaryCellInfoFDD */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_r9(ctx, &pvalue->dl_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   /* sps-Information-TDD128 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
+      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-r9 */
+   stat = asn1PD_UMTS_RRCConnectionSetup_r9_IEs(ctx, &pvalue->rrcConnectionSetup_r9);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-r9", -1, 0);
+   /* rrcConnectionSetup-r9-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->rrcConnectionSetup_r9_add_ext);
+      RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-r9-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r9 */
+         pvalue->u.r9 = (RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9));
+         if (pvalue->u.r9 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r9", -1, 0);
+         asn1Init_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(pvalue->u.r9);
+         stat = asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
+         RT_CHECK(ctx, stat, 0, "r9", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r8 */
+         pvalue->u.r8 = (RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8));
+         if (pvalue->u.r8 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r8", -1, 0);
+         asn1Init_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(pvalue->u.r8);
+         stat = asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
+         RT_CHECK(ctx, stat, 0, "r8", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r7 */
+         pvalue->u.r7 = (RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7));
+         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r7", -1, 0);
+         asn1Init_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(pvalue->u.r7);
+         stat = asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
+         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r6 */
+         pvalue->u.r6 = (RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6));
+         if (pvalue->u.r6 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r6", -1, 0);
+         asn1Init_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(pvalue->u.r6);
+         stat = asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(ctx, pvalue->u.r6);
+         RT_CHECK(ctx, stat, 0, "r6", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r5 */
+         pvalue->u.r5 = (RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_r5*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_r5));
+         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r5", -1, 0);
+         asn1Init_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_r5(pvalue->u.r5);
+         stat = asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_r5(ctx, pvalue->u.r5);
+         RT_CHECK(ctx, stat, 0, "r5", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r4 */
+         pvalue->u.r4 = (RRCConnectionSetup_later_than_r3_criticalExtensions_r4*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionSetup_later_than_r3_criticalExtensions_r4));
+         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r4", -1, 0);
+         asn1Init_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_r4(pvalue->u.r4);
+         stat = asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
+         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup_later_than_r3(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* initialUE-Identity */
+   stat = asn1PD_UMTS_InitialUE_Identity(ctx, &pvalue->initialUE_Identity);
+   RT_CHECK(ctx, stat, 0, "initialUE-Identity", -1, 0);
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PD_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetup(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetup");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r3 */
+         pvalue->u.r3 = (RRCConnectionSetup_r3*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionSetup_r3));
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "RRCConnectionSetup");
+         asn1Init_UMTS_RRCConnectionSetup_r3(pvalue->u.r3);
+         stat = asn1PD_UMTS_RRCConnectionSetup_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "RRCConnectionSetup");
+         break;
+      case 1: /* later-than-r3 */
+         pvalue->u.later_than_r3 = (RRCConnectionSetup_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionSetup_later_than_r3));
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "RRCConnectionSetup");
+         asn1Init_UMTS_RRCConnectionSetup_later_than_r3(pvalue->u.later_than_r3);
+         stat = asn1PD_UMTS_RRCConnectionSetup_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "RRCConnectionSetup");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RRCConnectionSetup");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetupComplete_v370ext(rtxContext* RT_RESTRICT ctx, RRCConnectionSetupComplete_v370ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetupComplete-v370ext");
+   /* ue-RadioAccessCapability-v370ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapability_v370ext(ctx, &pvalue->ue_RadioAccessCapability_v370ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v370ext", -1, "RRCConnectionSetupComplete-v370ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetupComplete_v380ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionSetupComplete_v380ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetupComplete-v380ext-IEs");
+   /* ue-RadioAccessCapability-v380ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapability_v380ext(ctx, &pvalue->ue_RadioAccessCapability_v380ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v380ext", -1, "RRCConnectionSetupComplete-v380ext-IEs");
+   }
+   /* dl-PhysChCapabilityFDD-v380ext */
+   stat = asn1PD_UMTS_DL_PhysChCapabilityFDD_v380ext(ctx, &pvalue->dl_PhysChCapabilityFDD_v380ext);
+   RT_CHECK(ctx, stat, 0, "dl-PhysChCapabilityFDD-v380ext", -1, "RRCConnectionSetupComplete-v380ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetupComplete_v3a0ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionSetupComplete_v3a0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetupComplete-v3a0ext-IEs");
+   /* ue-RadioAccessCapability-v3a0ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapability_v3a0ext(ctx, &pvalue->ue_RadioAccessCapability_v3a0ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v3a0ext", -1, "RRCConnectionSetupComplete-v3a0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetupComplete_v650ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionSetupComplete_v650ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ue-RadioAccessCapability-v650ext */
+   stat = asn1PD_UMTS_UE_RadioAccessCapability_v650ext(ctx, &pvalue->ue_RadioAccessCapability_v650ext);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v650ext", -1, "RRCConnectionSetupComplete-v650ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetupComplete_v680ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionSetupComplete_v680ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ue-RadioAccessCapability-v680ext */
+   stat = asn1PD_UMTS_UE_RadioAccessCapability_v680ext(ctx, &pvalue->ue_RadioAccessCapability_v680ext);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v680ext", -1, "RRCConnectionSetupComplete-v680ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetupComplete_v7e0ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionSetupComplete_v7e0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ue-RadioAccessCapability */
+   stat = asn1PD_UMTS_UE_RadioAccessCapability_v7e0ext(ctx, &pvalue->ue_RadioAccessCapability);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "RRCConnectionSetupComplete-v7e0ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetupComplete_v7f0ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionSetupComplete_v7f0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetupComplete-v7f0ext-IEs");
+   /* ue-RadioAccessCapability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapability_v7f0ext(ctx, &pvalue->ue_RadioAccessCapability);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "RRCConnectionSetupComplete-v7f0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetupComplete_r3_add_ext_IEs_v680NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetupComplete_r3_add_ext_IEs_v680NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetupComplete_r3_add_ext_IEs_v680NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetupComplete_r3_add_ext_IEs_v680NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetupComplete-v7f0ext */
+   stat = asn1PD_UMTS_RRCConnectionSetupComplete_v7f0ext_IEs(ctx, &pvalue->rrcConnectionSetupComplete_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetupComplete-v7f0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionSetupComplete_r3_add_ext_IEs_v680NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetupComplete_r3_add_ext_IEs_v680NonCriticalExtensions_v7e0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetupComplete_r3_add_ext_IEs_v680NonCriticalExtensions_v7e0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetupComplete-v7e0ext */
+   stat = asn1PD_UMTS_RRCConnectionSetupComplete_v7e0ext_IEs(ctx, &pvalue->rrcConnectionSetupComplete_v7e0ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetupComplete-v7e0ext", -1, 0);
+   /* v7f0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionSetupComplete_r3_add_ext_IEs_v680NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetupComplete_r3_add_ext_IEs_v680NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetupComplete_r3_add_ext_IEs_v680NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetupComplete-v680ext */
+   stat = asn1PD_UMTS_RRCConnectionSetupComplete_v680ext_IEs(ctx, &pvalue->rrcConnectionSetupComplete_v680ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetupComplete-v680ext", -1, 0);
+   /* v7e0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionSetupComplete_r3_add_ext_IEs_v680NonCriticalExtensions_v7e0NonCriticalExtensions(ctx, &pvalue->v7e0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7e0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetupComplete_r3_add_ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionSetupComplete_r3_add_ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetupComplete-r3-add-ext-IEs");
+   /* rrcConnectionSetupComplete-v650ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionSetupComplete_v650ext_IEs(ctx, &pvalue->rrcConnectionSetupComplete_v650ext);
+      RT_CHECK(ctx, stat, 0, "rrcConnectionSetupComplete-v650ext", -1, "RRCConnectionSetupComplete-r3-add-ext-IEs");
+   }
+   /* v680NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RRCConnectionSetupComplete_r3_add_ext_IEs_v680NonCriticalExtensions(ctx, &pvalue->v680NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v680NonCriticalExtensions", -1, "RRCConnectionSetupComplete-r3-add-ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetupComplete_v3g0ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionSetupComplete_v3g0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetupComplete-v3g0ext-IEs");
+   /* ue-RadioAccessCapability-v3g0ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapability_v3g0ext(ctx, &pvalue->ue_RadioAccessCapability_v3g0ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v3g0ext", -1, "RRCConnectionSetupComplete-v3g0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetupComplete_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionSetupComplete_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetupComplete-v4b0ext-IEs");
+   /* ue-RadioAccessCapability-v4b0ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapability_v4b0ext(ctx, &pvalue->ue_RadioAccessCapability_v4b0ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v4b0ext", -1, "RRCConnectionSetupComplete-v4b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetupComplete_v590ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionSetupComplete_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetupComplete-v590ext-IEs");
+   /* ue-RadioAccessCapability-v590ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapability_v590ext(ctx, &pvalue->ue_RadioAccessCapability_v590ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v590ext", -1, "RRCConnectionSetupComplete-v590ext-IEs");
+   }
+   /* ue-RATSpecificCapability-v590ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_v590ext(ctx, &pvalue->ue_RATSpecificCapability_v590ext);
+      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability-v590ext", -1, "RRCConnectionSetupComplete-v590ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetupComplete_v5c0ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionSetupComplete_v5c0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetupComplete-v5c0ext-IEs");
+   /* ue-RadioAccessCapability-v5c0ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapability_v5c0ext(ctx, &pvalue->ue_RadioAccessCapability_v5c0ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v5c0ext", -1, "RRCConnectionSetupComplete-v5c0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetupComplete_v690ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionSetupComplete_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetupComplete-v690ext-IEs");
+   /* ueCapabilityContainer */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         rtxDynBitStr carrier;
+         rtxContext outer;
+         stat = pd_DynBitString(ctx, &carrier);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer", -1, "RRCConnectionSetupComplete-v690ext-IEs");
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_UE_CapabilityContainer_IEs(ctx, &pvalue->ueCapabilityContainer);
+            RT_CHECK(ctx, stat, 0, "ueCapabilityContainer", -1, "RRCConnectionSetupComplete-v690ext-IEs");
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+      }
+   }
+   return stat;
+}
+
+int asn1PD_UMTS_RRCConnectionSetupComplete_v770ext_IEs_deferredMeasurementControlReading(rtxContext* RT_RESTRICT ctx, RRCConnectionSetupComplete_v770ext_IEs_deferredMeasurementControlReading* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetupComplete_v770ext_IEs(rtxContext* RT_RESTRICT ctx, RRCConnectionSetupComplete_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetupComplete-v770ext-IEs");
+   /* deferredMeasurementControlReading */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "deferredMeasurementControlReading", -1, "RRCConnectionSetupComplete-v770ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "deferredMeasurementControlReading", -1, "RRCConnectionSetupComplete-v770ext-IEs");
+         pvalue->deferredMeasurementControlReading = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConectionSetupComplete-v770ext */
+   stat = asn1PD_UMTS_RRCConnectionSetupComplete_v770ext_IEs(ctx, &pvalue->rrcConectionSetupComplete_v770ext);
+   RT_CHECK(ctx, stat, 0, "rrcConectionSetupComplete-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetupComplete-v690ext */
+   stat = asn1PD_UMTS_RRCConnectionSetupComplete_v690ext_IEs(ctx, &pvalue->rrcConnectionSetupComplete_v690ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetupComplete-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetupComplete-v5c0ext */
+   stat = asn1PD_UMTS_RRCConnectionSetupComplete_v5c0ext_IEs(ctx, &pvalue->rrcConnectionSetupComplete_v5c0ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetupComplete-v5c0ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetupComplete-v590ext */
+   stat = asn1PD_UMTS_RRCConnectionSetupComplete_v590ext_IEs(ctx, &pvalue->rrcConnectionSetupComplete_v590ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetupComplete-v590ext", -1, 0);
+   /* v5c0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions(ctx, &pvalue->v5c0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v5c0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetupComplete-v4b0ext */
+   stat = asn1PD_UMTS_RRCConnectionSetupComplete_v4b0ext_IEs(ctx, &pvalue->rrcConnectionSetupComplete_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetupComplete-v4b0ext", -1, 0);
+   /* v590NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetupComplete-v3g0ext */
+   stat = asn1PD_UMTS_RRCConnectionSetupComplete_v3g0ext_IEs(ctx, &pvalue->rrcConnectionSetupComplete_v3g0ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetupComplete-v3g0ext", -1, 0);
+   /* v4b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetupComplete-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      {
+         rtxDynBitStr carrier;
+         rtxContext outer;
+         stat = pd_DynBitString(ctx, &carrier);
+         RT_CHECK(ctx, stat, 0, "rrcConnectionSetupComplete-r3-add-ext", -1, 0);
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_RRCConnectionSetupComplete_r3_add_ext_IEs(ctx, &pvalue->rrcConnectionSetupComplete_r3_add_ext);
+            RT_CHECK(ctx, stat, 0, "rrcConnectionSetupComplete-r3-add-ext", -1, 0);
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+      }
+   }
+   /* v3g0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions(ctx, &pvalue->v3g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3g0NonCriticalExtensions", -1, 0);
+   }
+   return stat;
+}
+
+int asn1PD_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetupComplete-v3a0ext */
+   stat = asn1PD_UMTS_RRCConnectionSetupComplete_v3a0ext_IEs(ctx, &pvalue->rrcConnectionSetupComplete_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetupComplete-v3a0ext", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetupComplete-v380ext */
+   stat = asn1PD_UMTS_RRCConnectionSetupComplete_v380ext_IEs(ctx, &pvalue->rrcConnectionSetupComplete_v380ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetupComplete-v380ext", -1, 0);
+   /* v3a0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCConnectionSetupComplete_v370NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetupComplete-v370ext */
+   stat = asn1PD_UMTS_RRCConnectionSetupComplete_v370ext(ctx, &pvalue->rrcConnectionSetupComplete_v370ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetupComplete-v370ext", -1, 0);
+   /* v380NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions(ctx, &pvalue->v380NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v380NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCConnectionSetupComplete(rtxContext* RT_RESTRICT ctx, RRCConnectionSetupComplete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetupComplete");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RRCConnectionSetupComplete");
+   /* startList */
+   stat = asn1PD_UMTS_STARTList(ctx, &pvalue->startList);
+   RT_CHECK(ctx, stat, 0, "startList", -1, "RRCConnectionSetupComplete");
+   /* ue-RadioAccessCapability */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapability(ctx, &pvalue->ue_RadioAccessCapability);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "RRCConnectionSetupComplete");
+   }
+   /* ue-RATSpecificCapability */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_InterRAT_UE_RadioAccessCapabilityList(ctx, &pvalue->ue_RATSpecificCapability);
+      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability", -1, "RRCConnectionSetupComplete");
+   }
+   /* v370NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions(ctx, &pvalue->v370NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v370NonCriticalExtensions", -1, "RRCConnectionSetupComplete");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRC_FailureInfo_r3_IEs(rtxContext* RT_RESTRICT ctx, RRC_FailureInfo_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* failureCauseWithProtErr */
+   stat = asn1PD_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCauseWithProtErr);
+   RT_CHECK(ctx, stat, 0, "failureCauseWithProtErr", -1, "RRC-FailureInfo-r3-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_RRC_FailureInfo_r3_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRC_FailureInfo_r3_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RRC_FailureInfo_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRC_FailureInfo_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrc-FailureInfo-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->rrc_FailureInfo_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "rrc-FailureInfo-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RRC_FailureInfo_r3_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRC_FailureInfo_r3(rtxContext* RT_RESTRICT ctx, RRC_FailureInfo_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rRC-FailureInfo-r3 */
+   stat = asn1PD_UMTS_RRC_FailureInfo_r3_IEs(ctx, &pvalue->rRC_FailureInfo_r3);
+   RT_CHECK(ctx, stat, 0, "rRC-FailureInfo-r3", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRC_FailureInfo_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRC_FailureInfo_criticalExtensions(rtxContext* RT_RESTRICT ctx, RRC_FailureInfo_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RRC_FailureInfo(rtxContext* RT_RESTRICT ctx, RRC_FailureInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRC-FailureInfo");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r3 */
+         pvalue->u.r3 = (RRC_FailureInfo_r3*)rtxMemHeapAlloc(ctx, sizeof(RRC_FailureInfo_r3));
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "RRC-FailureInfo");
+         asn1Init_UMTS_RRC_FailureInfo_r3(pvalue->u.r3);
+         stat = asn1PD_UMTS_RRC_FailureInfo_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "RRC-FailureInfo");
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (RRC_FailureInfo_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(RRC_FailureInfo_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, "RRC-FailureInfo");
+         stat = asn1PD_UMTS_RRC_FailureInfo_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, "RRC-FailureInfo");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RRC-FailureInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCStatus_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCStatus_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RRCStatus_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RRCStatus_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcStatus-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->rrcStatus_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "rrcStatus-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RRCStatus_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RRCStatus(rtxContext* RT_RESTRICT ctx, RRCStatus* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCStatus");
+   /* protocolErrorInformation */
+   stat = asn1PD_UMTS_ProtocolErrorMoreInformation(ctx, &pvalue->protocolErrorInformation);
+   RT_CHECK(ctx, stat, 0, "protocolErrorInformation", -1, "RRCStatus");
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RRCStatus_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "RRCStatus");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SecurityModeCommand_r3_IEs(rtxContext* RT_RESTRICT ctx, SecurityModeCommand_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SecurityModeCommand-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "SecurityModeCommand-r3-IEs");
+   /* securityCapability */
+   stat = asn1PD_UMTS_SecurityCapability(ctx, &pvalue->securityCapability);
+   RT_CHECK(ctx, stat, 0, "securityCapability", -1, "SecurityModeCommand-r3-IEs");
+   /* cipheringModeInfo */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "SecurityModeCommand-r3-IEs");
+   }
+   /* integrityProtectionModeInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "SecurityModeCommand-r3-IEs");
+   }
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "SecurityModeCommand-r3-IEs");
+   /* ue-SystemSpecificSecurityCap */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_InterRAT_UE_SecurityCapList(ctx, &pvalue->ue_SystemSpecificSecurityCap);
+      RT_CHECK(ctx, stat, 0, "ue-SystemSpecificSecurityCap", -1, "SecurityModeCommand-r3-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SecurityModeCommand_r3_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SecurityModeCommand_r3_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SecurityModeCommand_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SecurityModeCommand_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* securityModeCommand-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->securityModeCommand_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "securityModeCommand-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SecurityModeCommand_r3_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SecurityModeCommand_r3(rtxContext* RT_RESTRICT ctx, SecurityModeCommand_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* securityModeCommand-r3 */
+   stat = asn1PD_UMTS_SecurityModeCommand_r3_IEs(ctx, &pvalue->securityModeCommand_r3);
+   RT_CHECK(ctx, stat, 0, "securityModeCommand-r3", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SecurityModeCommand_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SecurityModeCommand_r7_IEs(rtxContext* RT_RESTRICT ctx, SecurityModeCommand_r7_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SecurityModeCommand-r7-IEs");
+   /* securityCapability */
+   stat = asn1PD_UMTS_SecurityCapability(ctx, &pvalue->securityCapability);
+   RT_CHECK(ctx, stat, 0, "securityCapability", -1, "SecurityModeCommand-r7-IEs");
+   /* cipheringModeInfo */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "SecurityModeCommand-r7-IEs");
+   }
+   /* integrityProtectionModeInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "SecurityModeCommand-r7-IEs");
+   }
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "SecurityModeCommand-r7-IEs");
+   /* ue-SystemSpecificSecurityCap */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_InterRAT_UE_SecurityCapList(ctx, &pvalue->ue_SystemSpecificSecurityCap);
+      RT_CHECK(ctx, stat, 0, "ue-SystemSpecificSecurityCap", -1, "SecurityModeCommand-r7-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SecurityModeCommand_later_than_r3_criticalExtensions_r7_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SecurityModeCommand_later_than_r3_criticalExtensions_r7_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SecurityModeCommand_later_than_r3_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, SecurityModeCommand_later_than_r3_criticalExtensions_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* securityModeCommand-r7 */
+   stat = asn1PD_UMTS_SecurityModeCommand_r7_IEs(ctx, &pvalue->securityModeCommand_r7);
+   RT_CHECK(ctx, stat, 0, "securityModeCommand-r7", -1, 0);
+   /* securityModeCommand-r7-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->securityModeCommand_r7_add_ext);
+      RT_CHECK(ctx, stat, 0, "securityModeCommand-r7-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SecurityModeCommand_later_than_r3_criticalExtensions_r7_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SecurityModeCommand_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, SecurityModeCommand_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SecurityModeCommand_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, SecurityModeCommand_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r7 */
+         pvalue->u.r7 = (SecurityModeCommand_later_than_r3_criticalExtensions_r7*)rtxMemHeapAlloc(ctx, sizeof(SecurityModeCommand_later_than_r3_criticalExtensions_r7));
+         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r7", -1, 0);
+         asn1Init_UMTS_SecurityModeCommand_later_than_r3_criticalExtensions_r7(pvalue->u.r7);
+         stat = asn1PD_UMTS_SecurityModeCommand_later_than_r3_criticalExtensions_r7(ctx, pvalue->u.r7);
+         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (SecurityModeCommand_later_than_r3_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(SecurityModeCommand_later_than_r3_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PD_UMTS_SecurityModeCommand_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SecurityModeCommand_later_than_r3(rtxContext* RT_RESTRICT ctx, SecurityModeCommand_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PD_UMTS_SecurityModeCommand_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SecurityModeCommand(rtxContext* RT_RESTRICT ctx, SecurityModeCommand* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SecurityModeCommand");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r3 */
+         pvalue->u.r3 = (SecurityModeCommand_r3*)rtxMemHeapAlloc(ctx, sizeof(SecurityModeCommand_r3));
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "SecurityModeCommand");
+         asn1Init_UMTS_SecurityModeCommand_r3(pvalue->u.r3);
+         stat = asn1PD_UMTS_SecurityModeCommand_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "SecurityModeCommand");
+         break;
+      case 1: /* later-than-r3 */
+         pvalue->u.later_than_r3 = (SecurityModeCommand_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(SecurityModeCommand_later_than_r3));
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "SecurityModeCommand");
+         asn1Init_UMTS_SecurityModeCommand_later_than_r3(pvalue->u.later_than_r3);
+         stat = asn1PD_UMTS_SecurityModeCommand_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "SecurityModeCommand");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SecurityModeCommand");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SecurityModeComplete_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SecurityModeComplete_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SecurityModeComplete_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SecurityModeComplete_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* securityModeComplete-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->securityModeComplete_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "securityModeComplete-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SecurityModeComplete_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SecurityModeComplete(rtxContext* RT_RESTRICT ctx, SecurityModeComplete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SecurityModeComplete");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "SecurityModeComplete");
+   /* ul-IntegProtActivationInfo */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtActivationInfo(ctx, &pvalue->ul_IntegProtActivationInfo);
+      RT_CHECK(ctx, stat, 0, "ul-IntegProtActivationInfo", -1, "SecurityModeComplete");
+   }
+   /* rb-UL-CiphActivationTimeInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->rb_UL_CiphActivationTimeInfo);
+      RT_CHECK(ctx, stat, 0, "rb-UL-CiphActivationTimeInfo", -1, "SecurityModeComplete");
+   }
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_SecurityModeComplete_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "SecurityModeComplete");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SecurityModeFailure_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SecurityModeFailure_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SecurityModeFailure_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SecurityModeFailure_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* securityModeFailure-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->securityModeFailure_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "securityModeFailure-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SecurityModeFailure_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SecurityModeFailure(rtxContext* RT_RESTRICT ctx, SecurityModeFailure* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SecurityModeFailure");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "SecurityModeFailure");
+   /* failureCause */
+   stat = asn1PD_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
+   RT_CHECK(ctx, stat, 0, "failureCause", -1, "SecurityModeFailure");
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SecurityModeFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "SecurityModeFailure");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SignallingConnectionRelease_r3_IEs(rtxContext* RT_RESTRICT ctx, SignallingConnectionRelease_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "SignallingConnectionRelease-r3-IEs");
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "SignallingConnectionRelease-r3-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_SignallingConnectionRelease_r3_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SignallingConnectionRelease_r3_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SignallingConnectionRelease_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SignallingConnectionRelease_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* signallingConnectionRelease-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->signallingConnectionRelease_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "signallingConnectionRelease-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SignallingConnectionRelease_r3_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SignallingConnectionRelease_r3(rtxContext* RT_RESTRICT ctx, SignallingConnectionRelease_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* signallingConnectionRelease-r3 */
+   stat = asn1PD_UMTS_SignallingConnectionRelease_r3_IEs(ctx, &pvalue->signallingConnectionRelease_r3);
+   RT_CHECK(ctx, stat, 0, "signallingConnectionRelease-r3", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SignallingConnectionRelease_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SignallingConnectionRelease_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, SignallingConnectionRelease_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SignallingConnectionRelease_later_than_r3(rtxContext* RT_RESTRICT ctx, SignallingConnectionRelease_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PD_UMTS_SignallingConnectionRelease_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SignallingConnectionRelease(rtxContext* RT_RESTRICT ctx, SignallingConnectionRelease* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SignallingConnectionRelease");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r3 */
+         pvalue->u.r3 = (SignallingConnectionRelease_r3*)rtxMemHeapAlloc(ctx, sizeof(SignallingConnectionRelease_r3));
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "SignallingConnectionRelease");
+         asn1Init_UMTS_SignallingConnectionRelease_r3(pvalue->u.r3);
+         stat = asn1PD_UMTS_SignallingConnectionRelease_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "SignallingConnectionRelease");
+         break;
+      case 1: /* later-than-r3 */
+         pvalue->u.later_than_r3 = (SignallingConnectionRelease_later_than_r3*)rtxMemHeapAllocZ(ctx, sizeof(SignallingConnectionRelease_later_than_r3));
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "SignallingConnectionRelease");
+         stat = asn1PD_UMTS_SignallingConnectionRelease_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "SignallingConnectionRelease");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SignallingConnectionRelease");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SignallingConnectionReleaseIndication_v860ext_signallingConnectionReleaseIndicationCause(rtxContext* RT_RESTRICT ctx, SignallingConnectionReleaseIndication_v860ext_signallingConnectionReleaseIndicationCause* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SignallingConnectionReleaseIndication_v860ext(rtxContext* RT_RESTRICT ctx, SignallingConnectionReleaseIndication_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* signallingConnectionReleaseIndicationCause */
+   stat = pd_ConsUnsigned(ctx, &pvalue->signallingConnectionReleaseIndicationCause, 0, 1);
+   RT_CHECK(ctx, stat, 0, "signallingConnectionReleaseIndicationCause", -1, "SignallingConnectionReleaseIndication-v860ext");
+   return 0;
+}
+
+int asn1PD_UMTS_SignallingConnectionReleaseIndication_laterNonCriticalExtensions_v860nonCriticalExtentions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SignallingConnectionReleaseIndication_laterNonCriticalExtensions_v860nonCriticalExtentions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SignallingConnectionReleaseIndication_laterNonCriticalExtensions_v860nonCriticalExtentions(rtxContext* RT_RESTRICT ctx, SignallingConnectionReleaseIndication_laterNonCriticalExtensions_v860nonCriticalExtentions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* signallingConnectionReleaseIndication-v860ext */
+   stat = asn1PD_UMTS_SignallingConnectionReleaseIndication_v860ext(ctx, &pvalue->signallingConnectionReleaseIndication_v860ext);
+   RT_CHECK(ctx, stat, 0, "signallingConnectionReleaseIndication-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SignallingConnectionReleaseIndication_laterNonCriticalExtensions_v860nonCriticalExtentions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SignallingConnectionReleaseIndication_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SignallingConnectionReleaseIndication_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* signallingConnectionReleaseIndication-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->signallingConnectionReleaseIndication_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "signallingConnectionReleaseIndication-r3-add-ext", -1, 0);
+   }
+   /* v860nonCriticalExtentions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SignallingConnectionReleaseIndication_laterNonCriticalExtensions_v860nonCriticalExtentions(ctx, &pvalue->v860nonCriticalExtentions);
+      RT_CHECK(ctx, stat, 0, "v860nonCriticalExtentions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SignallingConnectionReleaseIndication(rtxContext* RT_RESTRICT ctx, SignallingConnectionReleaseIndication* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SignallingConnectionReleaseIndication");
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "SignallingConnectionReleaseIndication");
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SignallingConnectionReleaseIndication_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "SignallingConnectionReleaseIndication");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SystemInformation_FACH_payload_lastAndFirst(rtxContext* RT_RESTRICT ctx, SystemInformation_FACH_payload_lastAndFirst* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* lastSegmentShort */
+   stat = asn1PD_UMTS_LastSegmentShort(ctx, &pvalue->lastSegmentShort);
+   RT_CHECK(ctx, stat, 0, "lastSegmentShort", -1, 0);
+   /* firstSegment */
+   stat = asn1PD_UMTS_FirstSegmentShort(ctx, &pvalue->firstSegment);
+   RT_CHECK(ctx, stat, 0, "firstSegment", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SystemInformation_FACH_payload_lastAndComplete(rtxContext* RT_RESTRICT ctx, SystemInformation_FACH_payload_lastAndComplete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* lastSegmentShort */
+   stat = asn1PD_UMTS_LastSegmentShort(ctx, &pvalue->lastSegmentShort);
+   RT_CHECK(ctx, stat, 0, "lastSegmentShort", -1, 0);
+   /* completeSIB-List */
+   stat = asn1PD_UMTS_CompleteSIB_List(ctx, &pvalue->completeSIB_List);
+   RT_CHECK(ctx, stat, 0, "completeSIB-List", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SystemInformation_FACH_payload_lastAndCompleteAndFirst(rtxContext* RT_RESTRICT ctx, SystemInformation_FACH_payload_lastAndCompleteAndFirst* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* lastSegmentShort */
+   stat = asn1PD_UMTS_LastSegmentShort(ctx, &pvalue->lastSegmentShort);
+   RT_CHECK(ctx, stat, 0, "lastSegmentShort", -1, 0);
+   /* completeSIB-List */
+   stat = asn1PD_UMTS_CompleteSIB_List(ctx, &pvalue->completeSIB_List);
+   RT_CHECK(ctx, stat, 0, "completeSIB-List", -1, 0);
+   /* firstSegment */
+   stat = asn1PD_UMTS_FirstSegmentShort(ctx, &pvalue->firstSegment);
+   RT_CHECK(ctx, stat, 0, "firstSegment", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SystemInformation_FACH_payload_completeAndFirst(rtxContext* RT_RESTRICT ctx, SystemInformation_FACH_payload_completeAndFirst* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* completeSIB-List */
+   stat = asn1PD_UMTS_CompleteSIB_List(ctx, &pvalue->completeSIB_List);
+   RT_CHECK(ctx, stat, 0, "completeSIB-List", -1, 0);
+   /* firstSegment */
+   stat = asn1PD_UMTS_FirstSegmentShort(ctx, &pvalue->firstSegment);
+   RT_CHECK(ctx, stat, 0, "firstSegment", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_SystemInformation_FACH_payload(rtxContext* RT_RESTRICT ctx, SystemInformation_FACH_payload* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* noSegment */
+         break;
+      case 1: /* firstSegment */
+         pvalue->u.firstSegment = (FirstSegment*)rtxMemHeapAlloc(ctx, sizeof(FirstSegment));
+         if (pvalue->u.firstSegment == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "firstSegment", -1, 0);
+         asn1Init_UMTS_FirstSegment(pvalue->u.firstSegment);
+         stat = asn1PD_UMTS_FirstSegment(ctx, pvalue->u.firstSegment);
+         RT_CHECK(ctx, stat, 0, "firstSegment", -1, 0);
+         break;
+      case 2: /* subsequentSegment */
+         pvalue->u.subsequentSegment = (SubsequentSegment*)rtxMemHeapAlloc(ctx, sizeof(SubsequentSegment));
+         if (pvalue->u.subsequentSegment == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "subsequentSegment", -1, 0);
+         asn1Init_UMTS_SubsequentSegment(pvalue->u.subsequentSegment);
+         stat = asn1PD_UMTS_SubsequentSegment(ctx, pvalue->u.subsequentSegment);
+         RT_CHECK(ctx, stat, 0, "subsequentSegment", -1, 0);
+         break;
+      case 3: /* lastSegmentShort */
+         pvalue->u.lastSegmentShort = (LastSegmentShort*)rtxMemHeapAlloc(ctx, sizeof(LastSegmentShort));
+         if (pvalue->u.lastSegmentShort == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "lastSegmentShort", -1, 0);
+         asn1Init_UMTS_LastSegmentShort(pvalue->u.lastSegmentShort);
+         stat = asn1PD_UMTS_LastSegmentShort(ctx, pvalue->u.lastSegmentShort);
+         RT_CHECK(ctx, stat, 0, "lastSegmentShort", -1, 0);
+         break;
+      case 4: /* lastAndFirst */
+         pvalue->u.lastAndFirst = (SystemInformation_FACH_payload_lastAndFirst*)rtxMemHeapAlloc(ctx, sizeof(SystemInformation_FACH_payload_lastAndFirst));
+         if (pvalue->u.lastAndFirst == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "lastAndFirst", -1, 0);
+         asn1Init_UMTS_SystemInformation_FACH_payload_lastAndFirst(pvalue->u.lastAndFirst);
+         stat = asn1PD_UMTS_SystemInformation_FACH_payload_lastAndFirst(ctx, pvalue->u.lastAndFirst);
+         RT_CHECK(ctx, stat, 0, "lastAndFirst", -1, 0);
+         break;
+      case 5: /* lastAndComplete */
+         pvalue->u.lastAndComplete = (SystemInformation_FACH_payload_lastAndComplete*)rtxMemHeapAlloc(ctx, sizeof(SystemInformation_FACH_payload_lastAndComplete));
+         if (pvalue->u.lastAndComplete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "lastAndComplete", -1, 0);
+         asn1Init_UMTS_SystemInformation_FACH_payload_lastAndComplete(pvalue->u.lastAndComplete);
+         stat = asn1PD_UMTS_SystemInformation_FACH_payload_lastAndComplete(ctx, pvalue->u.lastAndComplete);
+         RT_CHECK(ctx, stat, 0, "lastAndComplete", -1, 0);
+         break;
+      case 6: /* lastAndCompleteAndFirst */
+         pvalue->u.lastAndCompleteAndFirst = (SystemInformation_FACH_payload_lastAndCompleteAndFirst*)rtxMemHeapAlloc(ctx, sizeof(SystemInformation_FACH_payload_lastAndCompleteAndFirst));
+         if (pvalue->u.lastAndCompleteAndFirst == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "lastAndCompleteAndFirst", -1, 0);
+         asn1Init_UMTS_SystemInformation_FACH_payload_lastAndCompleteAndFirst(pvalue->u.lastAndCompleteAndFirst);
+         stat = asn1PD_UMTS_SystemInformation_FACH_payload_lastAndCompleteAndFirst(ctx, pvalue->u.lastAndCompleteAndFirst);
+         RT_CHECK(ctx, stat, 0, "lastAndCompleteAndFirst", -1, 0);
+         break;
+      case 7: /* completeSIB-List */
+         pvalue->u.completeSIB_List = (CompleteSIB_List*)rtxMemHeapAlloc(ctx, sizeof(CompleteSIB_List));
+         if (pvalue->u.completeSIB_List == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "completeSIB-List", -1, 0);
+         asn1Init_UMTS_CompleteSIB_List(pvalue->u.completeSIB_List);
+         stat = asn1PD_UMTS_CompleteSIB_List(ctx, pvalue->u.completeSIB_List);
+         RT_CHECK(ctx, stat, 0, "completeSIB-List", -1, 0);
+         break;
+      case 8: /* completeAndFirst */
+         pvalue->u.completeAndFirst = (SystemInformation_FACH_payload_completeAndFirst*)rtxMemHeapAlloc(ctx, sizeof(SystemInformation_FACH_payload_completeAndFirst));
+         if (pvalue->u.completeAndFirst == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "completeAndFirst", -1, 0);
+         asn1Init_UMTS_SystemInformation_FACH_payload_completeAndFirst(pvalue->u.completeAndFirst);
+         stat = asn1PD_UMTS_SystemInformation_FACH_payload_completeAndFirst(ctx, pvalue->u.completeAndFirst);
+         RT_CHECK(ctx, stat, 0, "completeAndFirst", -1, 0);
+         break;
+      case 9: /* completeSIB */
+         pvalue->u.completeSIB = (CompleteSIB*)rtxMemHeapAlloc(ctx, sizeof(CompleteSIB));
+         if (pvalue->u.completeSIB == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "completeSIB", -1, 0);
+         asn1Init_UMTS_CompleteSIB(pvalue->u.completeSIB);
+         stat = asn1PD_UMTS_CompleteSIB(ctx, pvalue->u.completeSIB);
+         RT_CHECK(ctx, stat, 0, "completeSIB", -1, 0);
+         break;
+      case 10: /* lastSegment */
+         pvalue->u.lastSegment = (LastSegment*)rtxMemHeapAlloc(ctx, sizeof(LastSegment));
+         if (pvalue->u.lastSegment == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "lastSegment", -1, 0);
+         asn1Init_UMTS_LastSegment(pvalue->u.lastSegment);
+         stat = asn1PD_UMTS_LastSegment(ctx, pvalue->u.lastSegment);
+         RT_CHECK(ctx, stat, 0, "lastSegment", -1, 0);
+         break;
+      case 11: /* spare5 */
+         break;
+      case 12: /* spare4 */
+         break;
+      case 13: /* spare3 */
+         break;
+      case 14: /* spare2 */
+         break;
+      case 15: /* spare1 */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SystemInformation_FACH(rtxContext* RT_RESTRICT ctx, SystemInformation_FACH* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* payload */
+   stat = asn1PD_UMTS_SystemInformation_FACH_payload(ctx, &pvalue->payload);
+   RT_CHECK(ctx, stat, 0, "payload", -1, "SystemInformation-FACH");
+   return 0;
+}
+
+int asn1PD_UMTS_SystemInformationChangeIndication_v860ext_IEs(rtxContext* RT_RESTRICT ctx, SystemInformationChangeIndication_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SystemInformationChangeIndication-v860ext-IEs");
+   /* etws-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_ETWS_Information(ctx, &pvalue->etws_Information);
+      RT_CHECK(ctx, stat, 0, "etws-Information", -1, "SystemInformationChangeIndication-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SystemInformationChangeIndication_laterNonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SystemInformationChangeIndication_laterNonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SystemInformationChangeIndication_laterNonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SystemInformationChangeIndication_laterNonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* systemInformationChangeIndication-v860ext */
+   stat = asn1PD_UMTS_SystemInformationChangeIndication_v860ext_IEs(ctx, &pvalue->systemInformationChangeIndication_v860ext);
+   RT_CHECK(ctx, stat, 0, "systemInformationChangeIndication-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SystemInformationChangeIndication_laterNonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SystemInformationChangeIndication_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SystemInformationChangeIndication_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* systemInformationChangeIndication-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->systemInformationChangeIndication_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "systemInformationChangeIndication-r3-add-ext", -1, 0);
+   }
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SystemInformationChangeIndication_laterNonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SystemInformationChangeIndication(rtxContext* RT_RESTRICT ctx, SystemInformationChangeIndication* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SystemInformationChangeIndication");
+   /* bcch-ModificationInfo */
+   stat = asn1PD_UMTS_BCCH_ModificationInfo(ctx, &pvalue->bcch_ModificationInfo);
+   RT_CHECK(ctx, stat, 0, "bcch-ModificationInfo", -1, "SystemInformationChangeIndication");
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SystemInformationChangeIndication_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "SystemInformationChangeIndication");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_r3_IEs_dummy_fdd(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_r3_IEs_dummy_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy1 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->dummy1, 1, 16);
+      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy1", -1, 0);
+   }
+   /* dummy2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_r3_IEs_dummy(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_r3_IEs_dummy* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (TransportChannelReconfiguration_r3_IEs_dummy_fdd*)rtxMemHeapAlloc(ctx, sizeof(TransportChannelReconfiguration_r3_IEs_dummy_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_TransportChannelReconfiguration_r3_IEs_dummy_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_TransportChannelReconfiguration_r3_IEs_dummy_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_r3_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_r3_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_r3_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_r3_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (TransportChannelReconfiguration_r3_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(TransportChannelReconfiguration_r3_IEs_modeSpecificPhysChInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_TransportChannelReconfiguration_r3_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_TransportChannelReconfiguration_r3_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_r3_IEs(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 19);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "TransportChannelReconfiguration-r3-IEs");
+   /* integrityProtectionModeInfo */
+   if (present & ((uint32_t)1 << 18)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "TransportChannelReconfiguration-r3-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint32_t)1 << 17)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "TransportChannelReconfiguration-r3-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "TransportChannelReconfiguration-r3-IEs");
+   }
+   /* new-U-RNTI */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "TransportChannelReconfiguration-r3-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "TransportChannelReconfiguration-r3-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "TransportChannelReconfiguration-r3-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x20u;
+      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "TransportChannelReconfiguration-r3-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "TransportChannelReconfiguration-r3-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "TransportChannelReconfiguration-r3-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "TransportChannelReconfiguration-r3-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "TransportChannelReconfiguration-r3-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "TransportChannelReconfiguration-r3-IEs");
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_TransportChannelReconfiguration_r3_IEs_dummy(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "TransportChannelReconfiguration-r3-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "TransportChannelReconfiguration-r3-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "TransportChannelReconfiguration-r3-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "TransportChannelReconfiguration-r3-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x8000u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "TransportChannelReconfiguration-r3-IEs");
+   }
+   /* ul-ChannelRequirement */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_UL_ChannelRequirement(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "TransportChannelReconfiguration-r3-IEs");
+   }
+   /* modeSpecificPhysChInfo */
+   stat = asn1PD_UMTS_TransportChannelReconfiguration_r3_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "TransportChannelReconfiguration-r3-IEs");
+   /* dl-CommonInformation */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_DL_CommonInformation(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "TransportChannelReconfiguration-r3-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "TransportChannelReconfiguration-r3-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_v3a0ext(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_v3a0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-v3a0ext");
+   /* new-DSCH-RNTI */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "TransportChannelReconfiguration-v3a0ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-v4b0ext-IEs");
+   /* dummy */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->dummy, 0, 1);
+      RT_CHECK(ctx, stat, "SSDT-UL", "dummy", -1, "TransportChannelReconfiguration-v4b0ext-IEs");
+   }
+   /* cell-id-PerRL-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CellIdentity_PerRL_List(ctx, &pvalue->cell_id_PerRL_List);
+      RT_CHECK(ctx, stat, 0, "cell-id-PerRL-List", -1, "TransportChannelReconfiguration-v4b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_v590ext_IEs(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-v590ext-IEs");
+   /* dl-TPC-PowerOffsetPerRL-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_TPC_PowerOffsetPerRL_List(ctx, &pvalue->dl_TPC_PowerOffsetPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-TPC-PowerOffsetPerRL-List", -1, "TransportChannelReconfiguration-v590ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_v690ext_IEs_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_v690ext_IEs_postVerificationPeriod* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_v690ext_IEs(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-v690ext-IEs");
+   /* delayRestrictionFlag */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "TransportChannelReconfiguration-v690ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "TransportChannelReconfiguration-v690ext-IEs");
+         pvalue->delayRestrictionFlag = ui;
+      }
+   }
+   /* primary-plmn-Identity */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
+      RT_CHECK(ctx, stat, 0, "primary-plmn-Identity", -1, "TransportChannelReconfiguration-v690ext-IEs");
+   }
+   /* harq-Preamble-Mode */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->harq_Preamble_Mode, 0, 1);
+      RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "TransportChannelReconfiguration-v690ext-IEs");
+   }
+   /* beaconPLEst */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "TransportChannelReconfiguration-v690ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "TransportChannelReconfiguration-v690ext-IEs");
+         pvalue->beaconPLEst = ui;
+      }
+   }
+   /* postVerificationPeriod */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x10u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "TransportChannelReconfiguration-v690ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "TransportChannelReconfiguration-v690ext-IEs");
+         pvalue->postVerificationPeriod = ui;
+      }
+   }
+   /* dhs-sync */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x20u;
+      stat = pd_ConsInt8(ctx, &pvalue->dhs_sync, -20, 10);
+      RT_CHECK(ctx, stat, "DHS-Sync", "dhs-sync", -1, "TransportChannelReconfiguration-v690ext-IEs");
+   }
+   /* timingMaintainedSynchInd */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x40u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "TimingMaintainedSynchInd", "timingMaintainedSynchInd", -1, "TransportChannelReconfiguration-v690ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "TimingMaintainedSynchInd", "timingMaintainedSynchInd", -1, "TransportChannelReconfiguration-v690ext-IEs");
+         pvalue->timingMaintainedSynchInd = ui;
+      }
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x80u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "TransportChannelReconfiguration-v690ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "TransportChannelReconfiguration-v690ext-IEs");
+         pvalue->mbms_PL_ServiceRestrictInfo = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_v770ext_IEs(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-v770ext-IEs");
+   /* ueMobilityStateIndicator */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "TransportChannelReconfiguration-v770ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "TransportChannelReconfiguration-v770ext-IEs");
+         pvalue->ueMobilityStateIndicator = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v770ext */
+   stat = asn1PD_UMTS_TransportChannelReconfiguration_v770ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v770ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v690ext */
+   stat = asn1PD_UMTS_TransportChannelReconfiguration_v690ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v690ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v590ext */
+   stat = asn1PD_UMTS_TransportChannelReconfiguration_v590ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v590ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v590ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v4b0ext */
+   stat = asn1PD_UMTS_TransportChannelReconfiguration_v4b0ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v4b0ext", -1, 0);
+   /* v590NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->transportChannelReconfiguration_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-r3-add-ext", -1, 0);
+   }
+   /* v4b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v3a0ext */
+   stat = asn1PD_UMTS_TransportChannelReconfiguration_v3a0ext(ctx, &pvalue->transportChannelReconfiguration_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v3a0ext", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_r3(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-r3 */
+   stat = asn1PD_UMTS_TransportChannelReconfiguration_r3_IEs(ctx, &pvalue->transportChannelReconfiguration_r3);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-r3", -1, 0);
+   /* v3a0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_r4_IEs_dummy_fdd(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_r4_IEs_dummy_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy1 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->dummy1, 1, 16);
+      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy1", -1, 0);
+   }
+   /* dummy2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_r4_IEs_dummy(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_r4_IEs_dummy* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (TransportChannelReconfiguration_r4_IEs_dummy_fdd*)rtxMemHeapAlloc(ctx, sizeof(TransportChannelReconfiguration_r4_IEs_dummy_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_TransportChannelReconfiguration_r4_IEs_dummy_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_TransportChannelReconfiguration_r4_IEs_dummy_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_r4_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_r4_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_r4_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_r4_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (TransportChannelReconfiguration_r4_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(TransportChannelReconfiguration_r4_IEs_modeSpecificPhysChInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_TransportChannelReconfiguration_r4_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_TransportChannelReconfiguration_r4_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_r4_IEs(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_r4_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 20);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-r4-IEs");
+   /* integrityProtectionModeInfo */
+   if (present & ((uint32_t)1 << 19)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint32_t)1 << 18)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint32_t)1 << 17)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   /* new-U-RNTI */
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "TransportChannelReconfiguration-r4-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x40u;
+      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_TransportChannelReconfiguration_r4_IEs_dummy(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r4(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x8000u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x10000u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   /* ul-ChannelRequirement */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_UL_ChannelRequirement_r4(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   /* modeSpecificPhysChInfo */
+   stat = asn1PD_UMTS_TransportChannelReconfiguration_r4_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "TransportChannelReconfiguration-r4-IEs");
+   /* dl-CommonInformation */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r4(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v770ext */
+   stat = asn1PD_UMTS_TransportChannelReconfiguration_v770ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v770ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v690ext */
+   stat = asn1PD_UMTS_TransportChannelReconfiguration_v690ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v690ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v590ext */
+   stat = asn1PD_UMTS_TransportChannelReconfiguration_v590ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v590ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v590ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-r4-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->transportChannelReconfiguration_r4_add_ext);
+      RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-r4-add-ext", -1, 0);
+   }
+   /* v590NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-r4 */
+   stat = asn1PD_UMTS_TransportChannelReconfiguration_r4_IEs(ctx, &pvalue->transportChannelReconfiguration_r4);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-r4", -1, 0);
+   /* v4d0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_r5_IEs_dummy_fdd(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_r5_IEs_dummy_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy1 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->dummy1, 1, 16);
+      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy1", -1, 0);
+   }
+   /* dummy2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_r5_IEs_dummy(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_r5_IEs_dummy* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (TransportChannelReconfiguration_r5_IEs_dummy_fdd*)rtxMemHeapAlloc(ctx, sizeof(TransportChannelReconfiguration_r5_IEs_dummy_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_TransportChannelReconfiguration_r5_IEs_dummy_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_TransportChannelReconfiguration_r5_IEs_dummy_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_r5_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_r5_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_r5_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_r5_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (TransportChannelReconfiguration_r5_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(TransportChannelReconfiguration_r5_IEs_modeSpecificPhysChInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_TransportChannelReconfiguration_r5_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_TransportChannelReconfiguration_r5_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_r5_IEs(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_r5_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 22);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-r5-IEs");
+   /* integrityProtectionModeInfo */
+   if (present & ((uint32_t)1 << 21)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint32_t)1 << 20)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint32_t)1 << 19)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* new-U-RNTI */
+   if (present & ((uint32_t)1 << 18)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint32_t)1 << 17)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* new-H-RNTI */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "TransportChannelReconfiguration-r5-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x80u;
+      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_TransportChannelReconfiguration_r5_IEs_dummy(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x8000u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x20000u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* ul-ChannelRequirement */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_UL_ChannelRequirement_r5(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* modeSpecificPhysChInfo */
+   stat = asn1PD_UMTS_TransportChannelReconfiguration_r5_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "TransportChannelReconfiguration-r5-IEs");
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* dl-CommonInformation */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x100000u;
+      stat = asn1PD_UMTS_DL_CommonInformation_r5(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x200000u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r5(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v770ext */
+   stat = asn1PD_UMTS_TransportChannelReconfiguration_v770ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v770ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v690ext */
+   stat = asn1PD_UMTS_TransportChannelReconfiguration_v690ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v690ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-r5 */
+   stat = asn1PD_UMTS_TransportChannelReconfiguration_r5_IEs(ctx, &pvalue->transportChannelReconfiguration_r5);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-r5", -1, 0);
+   /* transportChannelReconfiguration-r5-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->transportChannelReconfiguration_r5_add_ext);
+      RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-r5-add-ext", -1, 0);
+   }
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_r6_IEs(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_r6_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 26);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-r6-IEs");
+   /* integrityProtectionModeInfo */
+   if (present & ((uint32_t)1 << 25)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "TransportChannelReconfiguration-r6-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint32_t)1 << 24)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "TransportChannelReconfiguration-r6-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint32_t)1 << 23)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "TransportChannelReconfiguration-r6-IEs");
+   }
+   /* delayRestrictionFlag */
+   if (present & ((uint32_t)1 << 22)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "TransportChannelReconfiguration-r6-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "TransportChannelReconfiguration-r6-IEs");
+         pvalue->delayRestrictionFlag = ui;
+      }
+   }
+   /* new-U-RNTI */
+   if (present & ((uint32_t)1 << 21)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "TransportChannelReconfiguration-r6-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint32_t)1 << 20)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "TransportChannelReconfiguration-r6-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint32_t)1 << 19)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "TransportChannelReconfiguration-r6-IEs");
+   }
+   /* new-H-RNTI */
+   if (present & ((uint32_t)1 << 18)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "TransportChannelReconfiguration-r6-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (present & ((uint32_t)1 << 17)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "TransportChannelReconfiguration-r6-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "TransportChannelReconfiguration-r6-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "TransportChannelReconfiguration-r6-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x400u;
+      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "TransportChannelReconfiguration-r6-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "TransportChannelReconfiguration-r6-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "TransportChannelReconfiguration-r6-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "TransportChannelReconfiguration-r6-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "TransportChannelReconfiguration-r6-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x8000u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r6(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "TransportChannelReconfiguration-r6-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "TransportChannelReconfiguration-r6-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "TransportChannelReconfiguration-r6-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "TransportChannelReconfiguration-r6-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x80000u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "TransportChannelReconfiguration-r6-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x100000u;
+      stat = asn1PD_UMTS_UL_DPCH_Info_r6(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "TransportChannelReconfiguration-r6-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x200000u;
+      stat = asn1PD_UMTS_UL_EDCH_Information_r6(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "TransportChannelReconfiguration-r6-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x400000u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r6(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "TransportChannelReconfiguration-r6-IEs");
+   }
+   /* dl-CommonInformation */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x800000u;
+      stat = asn1PD_UMTS_DL_CommonInformation_r6(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "TransportChannelReconfiguration-r6-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1000000u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r6(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "TransportChannelReconfiguration-r6-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2000000u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "TransportChannelReconfiguration-r6-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "TransportChannelReconfiguration-r6-IEs");
+         pvalue->mbms_PL_ServiceRestrictInfo = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_v6b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-v6b0ext-IEs");
+   /* dl-InformationPerRL-List-v6b0ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_v6b0ext(ctx, &pvalue->dl_InformationPerRL_List_v6b0ext);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List-v6b0ext", -1, "TransportChannelReconfiguration-v6b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v770ext */
+   stat = asn1PD_UMTS_TransportChannelReconfiguration_v770ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v770ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v6b0ext */
+   stat = asn1PD_UMTS_TransportChannelReconfiguration_v6b0ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v6b0ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-r6 */
+   stat = asn1PD_UMTS_TransportChannelReconfiguration_r6_IEs(ctx, &pvalue->transportChannelReconfiguration_r6);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-r6", -1, 0);
+   /* transportChannelReconfiguration-r6-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->transportChannelReconfiguration_r6_add_ext);
+      RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-r6-add-ext", -1, 0);
+   }
+   /* v6b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_r7_IEs_responseToChangeOfUE_Capability(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_r7_IEs_responseToChangeOfUE_Capability* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_r7_IEs(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_r7_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint64_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   {
+      uint32_t hi, lo;
+      stat = rtxDecBitsFast(ctx, &hi, 2);
+      RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-r7-IEs");
+      stat = rtxDecBitsFast(ctx, &lo, 32);
+      RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-r7-IEs");
+      present = ((uint64_t)hi << 32) | lo;
+   }
+   /* integrityProtectionModeInfo */
+   if (present & ((uint64_t)1 << 33)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "TransportChannelReconfiguration-r7-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint64_t)1 << 32)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "TransportChannelReconfiguration-r7-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint64_t)1 << 31)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "TransportChannelReconfiguration-r7-IEs");
+   }
+   /* delayRestrictionFlag */
+   if (present & ((uint64_t)1 << 30)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "TransportChannelReconfiguration-r7-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "TransportChannelReconfiguration-r7-IEs");
+         pvalue->delayRestrictionFlag = ui;
+      }
+   }
+   /* new-U-RNTI */
+   if (present & ((uint64_t)1 << 29)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "TransportChannelReconfiguration-r7-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint64_t)1 << 28)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "TransportChannelReconfiguration-r7-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint64_t)1 << 27)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "TransportChannelReconfiguration-r7-IEs");
+   }
+   /* new-H-RNTI */
+   if (present & ((uint64_t)1 << 26)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "TransportChannelReconfiguration-r7-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (present & ((uint64_t)1 << 25)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "TransportChannelReconfiguration-r7-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint64_t)1 << 24)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "TransportChannelReconfiguration-r7-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "TransportChannelReconfiguration-r7-IEs");
+   /* ueMobilityStateIndicator */
+   if (present & ((uint64_t)1 << 23)) {
+      pvalue->m |= 0x400u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "TransportChannelReconfiguration-r7-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "TransportChannelReconfiguration-r7-IEs");
+         pvalue->ueMobilityStateIndicator = ui;
+      }
+   }
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint64_t)1 << 22)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "TransportChannelReconfiguration-r7-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint64_t)1 << 21)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "TransportChannelReconfiguration-r7-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint64_t)1 << 20)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "TransportChannelReconfiguration-r7-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   if (present & ((uint64_t)1 << 19)) {
+      pvalue->m |= 0x4000u;
+      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "TransportChannelReconfiguration-r7-IEs");
+   }
+   /* responseToChangeOfUE-Capability */
+   if (present & ((uint64_t)1 << 18)) {
+      pvalue->m |= 0x8000u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "TransportChannelReconfiguration-r7-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "TransportChannelReconfiguration-r7-IEs");
+         pvalue->responseToChangeOfUE_Capability = ui;
+      }
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint64_t)1 << 17)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "TransportChannelReconfiguration-r7-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint64_t)1 << 16)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "TransportChannelReconfiguration-r7-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint64_t)1 << 15)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r7(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "TransportChannelReconfiguration-r7-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint64_t)1 << 14)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "TransportChannelReconfiguration-r7-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint64_t)1 << 13)) {
+      pvalue->m |= 0x100000u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "TransportChannelReconfiguration-r7-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint64_t)1 << 12)) {
+      pvalue->m |= 0x200000u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "TransportChannelReconfiguration-r7-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (present & ((uint64_t)1 << 11)) {
+      pvalue->m |= 0x400000u;
+      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "TransportChannelReconfiguration-r7-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (present & ((uint64_t)1 << 10)) {
+      pvalue->m |= 0x800000u;
+      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "TransportChannelReconfiguration-r7-IEs");
+   }
+   /* dtx-drx-Info */
+   if (present & ((uint64_t)1 << 9)) {
+      pvalue->m |= 0x1000000u;
+      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "TransportChannelReconfiguration-r7-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (present & ((uint64_t)1 << 8)) {
+      pvalue->m |= 0x2000000u;
+      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "TransportChannelReconfiguration-r7-IEs");
+   }
+   /* mimoParameters */
+   if (present & ((uint64_t)1 << 7)) {
+      pvalue->m |= 0x4000000u;
+      stat = asn1PD_UMTS_MIMO_Parameters_r7(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "TransportChannelReconfiguration-r7-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint64_t)1 << 6)) {
+      pvalue->m |= 0x8000000u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "TransportChannelReconfiguration-r7-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (present & ((uint64_t)1 << 5)) {
+      pvalue->m |= 0x10000000u;
+      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "TransportChannelReconfiguration-r7-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (present & ((uint64_t)1 << 4)) {
+      pvalue->m |= 0x20000000u;
+      stat = asn1PD_UMTS_UL_EDCH_Information_r7(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "TransportChannelReconfiguration-r7-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint64_t)1 << 3)) {
+      pvalue->m |= 0x40000000u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "TransportChannelReconfiguration-r7-IEs");
+   }
+   /* dl-CommonInformation */
+   if (present & ((uint64_t)1 << 2)) {
+      pvalue->m |= 0x80000000u;
+      stat = asn1PD_UMTS_DL_CommonInformation_r7(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "TransportChannelReconfiguration-r7-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint64_t)1 << 1)) {
+      pvalue->m |= 0x100000000ull;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "TransportChannelReconfiguration-r7-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (present & ((uint64_t)1 << 0)) {
+      pvalue->m |= 0x200000000ull;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "TransportChannelReconfiguration-r7-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "TransportChannelReconfiguration-r7-IEs");
+         pvalue->mbms_PL_ServiceRestrictInfo = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_v780ext_IEs(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_v780ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-v780ext-IEs");
+   /* hs-DSCH-TBSizeTable */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "TransportChannelReconfiguration-v780ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "TransportChannelReconfiguration-v780ext-IEs");
+         pvalue->hs_DSCH_TBSizeTable = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_v7d0ext_IEs(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_v7d0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-v7d0ext-IEs");
+   /* ul-EDCH-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UL_EDCH_Information_ext(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "TransportChannelReconfiguration-v7d0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_v7f0ext_IEs(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_v7f0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-v7f0ext-IEs");
+   /* mimoParameters */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MIMO_Parameters_v7f0ext(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "TransportChannelReconfiguration-v7f0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_v7g0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-v7g0ext-IEs");
+   /* mimoParameters */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MIMO_Parameters_v7g0ext(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "TransportChannelReconfiguration-v7g0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v7g0ext */
+   stat = asn1PD_UMTS_TransportChannelReconfiguration_v7g0ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v7g0ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v7g0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v7f0ext */
+   stat = asn1PD_UMTS_TransportChannelReconfiguration_v7f0ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v7f0ext", -1, 0);
+   /* v7g0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v7d0ext */
+   stat = asn1PD_UMTS_TransportChannelReconfiguration_v7d0ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v7d0ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v7d0ext", -1, 0);
+   /* v7f0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v780ext */
+   stat = asn1PD_UMTS_TransportChannelReconfiguration_v780ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v780ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v780ext", -1, 0);
+   /* v7d0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-r7 */
+   stat = asn1PD_UMTS_TransportChannelReconfiguration_r7_IEs(ctx, &pvalue->transportChannelReconfiguration_r7);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-r7", -1, 0);
+   /* transportChannelReconfiguration-r7-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->transportChannelReconfiguration_r7_add_ext);
+      RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-r7-add-ext", -1, 0);
+   }
+   /* v780NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v780NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_r8_IEs_responseToChangeOfUE_Capability(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_r8_IEs_responseToChangeOfUE_Capability* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_r8_IEs(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_r8_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint64_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   {
+      uint32_t hi, lo;
+      stat = rtxDecBitsFast(ctx, &hi, 5);
+      RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-r8-IEs");
+      stat = rtxDecBitsFast(ctx, &lo, 32);
+      RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-r8-IEs");
+      present = ((uint64_t)hi << 32) | lo;
+   }
+   /* integrityProtectionModeInfo */
+   if (present & ((uint64_t)1 << 36)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "TransportChannelReconfiguration-r8-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint64_t)1 << 35)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "TransportChannelReconfiguration-r8-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint64_t)1 << 34)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "TransportChannelReconfiguration-r8-IEs");
+   }
+   /* delayRestrictionFlag */
+   if (present & ((uint64_t)1 << 33)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "TransportChannelReconfiguration-r8-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "TransportChannelReconfiguration-r8-IEs");
+         pvalue->delayRestrictionFlag = ui;
+      }
+   }
+   /* new-U-RNTI */
+   if (present & ((uint64_t)1 << 32)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "TransportChannelReconfiguration-r8-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint64_t)1 << 31)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "TransportChannelReconfiguration-r8-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint64_t)1 << 30)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "TransportChannelReconfiguration-r8-IEs");
+   }
+   /* new-H-RNTI */
+   if (present & ((uint64_t)1 << 29)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "TransportChannelReconfiguration-r8-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (present & ((uint64_t)1 << 28)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "TransportChannelReconfiguration-r8-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint64_t)1 << 27)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "TransportChannelReconfiguration-r8-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "TransportChannelReconfiguration-r8-IEs");
+   /* ueMobilityStateIndicator */
+   if (present & ((uint64_t)1 << 26)) {
+      pvalue->m |= 0x400u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "TransportChannelReconfiguration-r8-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "TransportChannelReconfiguration-r8-IEs");
+         pvalue->ueMobilityStateIndicator = ui;
+      }
+   }
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint64_t)1 << 25)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "TransportChannelReconfiguration-r8-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint64_t)1 << 24)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "TransportChannelReconfiguration-r8-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint64_t)1 << 23)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "TransportChannelReconfiguration-r8-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   if (present & ((uint64_t)1 << 22)) {
+      pvalue->m |= 0x4000u;
+      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "TransportChannelReconfiguration-r8-IEs");
+   }
+   /* responseToChangeOfUE-Capability */
+   if (present & ((uint64_t)1 << 21)) {
+      pvalue->m |= 0x8000u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "TransportChannelReconfiguration-r8-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "TransportChannelReconfiguration-r8-IEs");
+         pvalue->responseToChangeOfUE_Capability = ui;
+      }
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint64_t)1 << 20)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "TransportChannelReconfiguration-r8-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint64_t)1 << 19)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "TransportChannelReconfiguration-r8-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint64_t)1 << 18)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "TransportChannelReconfiguration-r8-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint64_t)1 << 17)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "TransportChannelReconfiguration-r8-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint64_t)1 << 16)) {
+      pvalue->m |= 0x100000u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "TransportChannelReconfiguration-r8-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint64_t)1 << 15)) {
+      pvalue->m |= 0x200000u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "TransportChannelReconfiguration-r8-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (present & ((uint64_t)1 << 14)) {
+      pvalue->m |= 0x400000u;
+      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "TransportChannelReconfiguration-r8-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (present & ((uint64_t)1 << 13)) {
+      pvalue->m |= 0x800000u;
+      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "TransportChannelReconfiguration-r8-IEs");
+   }
+   /* dtx-drx-Info */
+   if (present & ((uint64_t)1 << 12)) {
+      pvalue->m |= 0x1000000u;
+      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "TransportChannelReconfiguration-r8-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (present & ((uint64_t)1 << 11)) {
+      pvalue->m |= 0x2000000u;
+      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "TransportChannelReconfiguration-r8-IEs");
+   }
+   /* mimoParameters */
+   if (present & ((uint64_t)1 << 10)) {
+      pvalue->m |= 0x4000000u;
+      stat = asn1PD_UMTS_MIMO_Parameters_r8(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "TransportChannelReconfiguration-r8-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint64_t)1 << 9)) {
+      pvalue->m |= 0x8000000u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "TransportChannelReconfiguration-r8-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (present & ((uint64_t)1 << 8)) {
+      pvalue->m |= 0x10000000u;
+      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "TransportChannelReconfiguration-r8-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (present & ((uint64_t)1 << 7)) {
+      pvalue->m |= 0x20000000u;
+      stat = asn1PD_UMTS_UL_EDCH_Information_r8(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "TransportChannelReconfiguration-r8-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint64_t)1 << 6)) {
+      pvalue->m |= 0x40000000u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "TransportChannelReconfiguration-r8-IEs");
+   }
+   /* dl-CommonInformation */
+   if (present & ((uint64_t)1 << 5)) {
+      pvalue->m |= 0x80000000u;
+      stat = asn1PD_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "TransportChannelReconfiguration-r8-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint64_t)1 << 4)) {
+      pvalue->m |= 0x100000000ull;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "TransportChannelReconfiguration-r8-IEs");
+   }
+   /* dl-SecondaryCellInfoFDD */
+   if (present & ((uint64_t)1 << 3)) {
+      pvalue->m |= 0x200000000ull;
+      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD(ctx, &pvalue->dl_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "TransportChannelReconfiguration-r8-IEs");
+   }
+   /* controlChannelDRXInfo-TDD128 */
+   if (present & ((uint64_t)1 << 2)) {
+      pvalue->m |= 0x400000000ull;
+      stat = asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
+      RT_CHECK(ctx, stat, 0, "controlChannelDRXInfo-TDD128", -1, "TransportChannelReconfiguration-r8-IEs");
+   }
+   /* sps-Information-TDD128 */
+   if (present & ((uint64_t)1 << 1)) {
+      pvalue->m |= 0x800000000ull;
+      stat = asn1PD_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
+      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "TransportChannelReconfiguration-r8-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (present & ((uint64_t)1 << 0)) {
+      pvalue->m |= 0x1000000000ull;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "TransportChannelReconfiguration-r8-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "TransportChannelReconfiguration-r8-IEs");
+         pvalue->mbms_PL_ServiceRestrictInfo = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_v890ext_IEs(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_v890ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-v890ext-IEs");
+   /* dl-SecondaryCellInfoFDD-v890ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_v890ext(ctx, &pvalue->dl_SecondaryCellInfoFDD_v890ext);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD-v890ext", -1, "TransportChannelReconfiguration-v890ext-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "TransportChannelReconfiguration-v890ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_v8a0ext_IEs(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_v8a0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-v8a0ext-IEs");
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext2(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "TransportChannelReconfiguration-v8a0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v8a0ext */
+   stat = asn1PD_UMTS_TransportChannelReconfiguration_v8a0ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v8a0ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v8a0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v7g0ext */
+   stat = asn1PD_UMTS_TransportChannelReconfiguration_v7g0ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v7g0ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v7g0ext", -1, 0);
+   /* v8a0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v8a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v890ext */
+   stat = asn1PD_UMTS_TransportChannelReconfiguration_v890ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v890ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v890ext", -1, 0);
+   /* v7g0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v7f0ext */
+   stat = asn1PD_UMTS_TransportChannelReconfiguration_v7f0ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v7f0ext", -1, 0);
+   /* v890NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v7d0ext */
+   stat = asn1PD_UMTS_TransportChannelReconfiguration_v7d0ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v7d0ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v7d0ext", -1, 0);
+   /* v7f0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-r8 */
+   stat = asn1PD_UMTS_TransportChannelReconfiguration_r8_IEs(ctx, &pvalue->transportChannelReconfiguration_r8);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-r8", -1, 0);
+   /* transportChannelReconfiguration-r8-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->transportChannelReconfiguration_r8_add_ext);
+      RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-r8-add-ext", -1, 0);
+   }
+   /* v7d0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_r9_IEs_responseToChangeOfUE_Capability(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_r9_IEs_responseToChangeOfUE_Capability* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_r9_IEs(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_r9_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint64_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   {
+      uint32_t hi, lo;
+      stat = rtxDecBitsFast(ctx, &hi, 7);
+      RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-r9-IEs");
+      stat = rtxDecBitsFast(ctx, &lo, 32);
+      RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-r9-IEs");
+      present = ((uint64_t)hi << 32) | lo;
+   }
+   /* integrityProtectionModeInfo */
+   if (present & ((uint64_t)1 << 38)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "TransportChannelReconfiguration-r9-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint64_t)1 << 37)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "TransportChannelReconfiguration-r9-IEs");
+   }
+   /* activationTime */
+   if (present & ((uint64_t)1 << 36)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "TransportChannelReconfiguration-r9-IEs");
+   }
+   /* delayRestrictionFlag */
+   if (present & ((uint64_t)1 << 35)) {
+      pvalue->m |= 0x8u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "TransportChannelReconfiguration-r9-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "TransportChannelReconfiguration-r9-IEs");
+         pvalue->delayRestrictionFlag = ui;
+      }
+   }
+   /* new-U-RNTI */
+   if (present & ((uint64_t)1 << 34)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "TransportChannelReconfiguration-r9-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint64_t)1 << 33)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "TransportChannelReconfiguration-r9-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (present & ((uint64_t)1 << 32)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "TransportChannelReconfiguration-r9-IEs");
+   }
+   /* new-H-RNTI */
+   if (present & ((uint64_t)1 << 31)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "TransportChannelReconfiguration-r9-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (present & ((uint64_t)1 << 30)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "TransportChannelReconfiguration-r9-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (present & ((uint64_t)1 << 29)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "TransportChannelReconfiguration-r9-IEs");
+   }
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "TransportChannelReconfiguration-r9-IEs");
+   /* ueMobilityStateIndicator */
+   if (present & ((uint64_t)1 << 28)) {
+      pvalue->m |= 0x400u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "TransportChannelReconfiguration-r9-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "TransportChannelReconfiguration-r9-IEs");
+         pvalue->ueMobilityStateIndicator = ui;
+      }
+   }
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint64_t)1 << 27)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "TransportChannelReconfiguration-r9-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint64_t)1 << 26)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "TransportChannelReconfiguration-r9-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint64_t)1 << 25)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "TransportChannelReconfiguration-r9-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   if (present & ((uint64_t)1 << 24)) {
+      pvalue->m |= 0x4000u;
+      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "TransportChannelReconfiguration-r9-IEs");
+   }
+   /* responseToChangeOfUE-Capability */
+   if (present & ((uint64_t)1 << 23)) {
+      pvalue->m |= 0x8000u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "TransportChannelReconfiguration-r9-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "TransportChannelReconfiguration-r9-IEs");
+         pvalue->responseToChangeOfUE_Capability = ui;
+      }
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint64_t)1 << 22)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "TransportChannelReconfiguration-r9-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint64_t)1 << 21)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "TransportChannelReconfiguration-r9-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (present & ((uint64_t)1 << 20)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "TransportChannelReconfiguration-r9-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint64_t)1 << 19)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "TransportChannelReconfiguration-r9-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (present & ((uint64_t)1 << 18)) {
+      pvalue->m |= 0x100000u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r9(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "TransportChannelReconfiguration-r9-IEs");
+   }
+   /* frequencyInfo */
+   if (present & ((uint64_t)1 << 17)) {
+      pvalue->m |= 0x200000u;
+      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "TransportChannelReconfiguration-r9-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (present & ((uint64_t)1 << 16)) {
+      pvalue->m |= 0x400000u;
+      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "TransportChannelReconfiguration-r9-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (present & ((uint64_t)1 << 15)) {
+      pvalue->m |= 0x800000u;
+      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "TransportChannelReconfiguration-r9-IEs");
+   }
+   /* dtx-drx-Info */
+   if (present & ((uint64_t)1 << 14)) {
+      pvalue->m |= 0x1000000u;
+      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "TransportChannelReconfiguration-r9-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (present & ((uint64_t)1 << 13)) {
+      pvalue->m |= 0x2000000u;
+      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "TransportChannelReconfiguration-r9-IEs");
+   }
+   /* mimoParameters */
+   if (present & ((uint64_t)1 << 12)) {
+      pvalue->m |= 0x4000000u;
+      stat = asn1PD_UMTS_MIMO_Parameters_r9(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "TransportChannelReconfiguration-r9-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (present & ((uint64_t)1 << 11)) {
+      pvalue->m |= 0x8000000u;
+      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "TransportChannelReconfiguration-r9-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (present & ((uint64_t)1 << 10)) {
+      pvalue->m |= 0x10000000u;
+      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "TransportChannelReconfiguration-r9-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (present & ((uint64_t)1 << 9)) {
+      pvalue->m |= 0x20000000u;
+      stat = asn1PD_UMTS_UL_EDCH_Information_r9(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "TransportChannelReconfiguration-r9-IEs");
+   }
+   /* ul-SecondaryCellInfoFDD */
+   if (present & ((uint64_t)1 << 8)) {
+      pvalue->m |= 0x40000000u;
+      stat = asn1PD_UMTS_UL_SecondaryCellInfoFDD(ctx, &pvalue->ul_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "ul-SecondaryCellInfoFDD", -1, "TransportChannelReconfiguration-r9-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (present & ((uint64_t)1 << 7)) {
+      pvalue->m |= 0x80000000u;
+      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "TransportChannelReconfiguration-r9-IEs");
+   }
+   /* dl-CommonInformation */
+   if (present & ((uint64_t)1 << 6)) {
+      pvalue->m |= 0x100000000ull;
+      stat = asn1PD_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "TransportChannelReconfiguration-r9-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (present & ((uint64_t)1 << 5)) {
+      pvalue->m |= 0x200000000ull;
+      stat = asn1PD_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "TransportChannelReconfiguration-r9-IEs");
+   }
+   /* dl-SecondaryCellInfoFDD */
+   if (present & ((uint64_t)1 << 4)) {
+      pvalue->m |= 0x400000000ull;
+      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_r9(ctx, &pvalue->dl_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "TransportChannelReconfiguration-r9-IEs");
+   }
+   /* controlChannelDRXInfo-TDD128 */
+   if (present & ((uint64_t)1 << 3)) {
+      pvalue->m |= 0x800000000ull;
+      stat = asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
+      RT_CHECK(ctx, stat, 0, "controlChannelDRXInfo-TDD128", -1, "TransportChannelReconfiguration-r9-IEs");
+   }
+   /* sps-Information-TDD128 */
+   if (present & ((uint64_t)1 << 2)) {
+      pvalue->m |= 0x1000000000ull;
+      stat = asn1PD_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
+      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "TransportChannelReconfiguration-r9-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (present & ((uint64_t)1 << 1)) {
+      pvalue->m |= 0x2000000000ull;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "TransportChannelReconfiguration-r9-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "TransportChannelReconfiguration-r9-IEs");
+         pvalue->mbms_PL_ServiceRestrictInfo = ui;
+      }
+   }
+   /* cellDCHMeasOccasionInfo-TDD128 */
+   if (present & ((uint64_t)1 << 0)) {
+      pvalue->m |= 0x4000000000ull;
+      stat = asn1PD_UMTS_CellDCHMeasOccasionInfo_TDD128_r9(ctx, &pvalue->cellDCHMeasOccasionInfo_TDD128);
+      RT_CHECK(ctx, stat, 0, "cellDCHMeasOccasionInfo-TDD128", -1, "TransportChannelReconfiguration-r9-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-r9 */
+   stat = asn1PD_UMTS_TransportChannelReconfiguration_r9_IEs(ctx, &pvalue->transportChannelReconfiguration_r9);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-r9", -1, 0);
+   /* transportChannelReconfiguration-r9-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->transportChannelReconfiguration_r9_add_ext);
+      RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-r9-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r9 */
+         pvalue->u.r9 = (TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9*)rtxMemHeapAlloc(ctx, sizeof(TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9));
+         if (pvalue->u.r9 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r9", -1, 0);
+         asn1Init_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(pvalue->u.r9);
+         stat = asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
+         RT_CHECK(ctx, stat, 0, "r9", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r8 */
+         pvalue->u.r8 = (TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8*)rtxMemHeapAlloc(ctx, sizeof(TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8));
+         if (pvalue->u.r8 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r8", -1, 0);
+         asn1Init_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(pvalue->u.r8);
+         stat = asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
+         RT_CHECK(ctx, stat, 0, "r8", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r7 */
+         pvalue->u.r7 = (TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7*)rtxMemHeapAlloc(ctx, sizeof(TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7));
+         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r7", -1, 0);
+         asn1Init_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(pvalue->u.r7);
+         stat = asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
+         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r6 */
+         pvalue->u.r6 = (TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6*)rtxMemHeapAlloc(ctx, sizeof(TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6));
+         if (pvalue->u.r6 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r6", -1, 0);
+         asn1Init_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(pvalue->u.r6);
+         stat = asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(ctx, pvalue->u.r6);
+         RT_CHECK(ctx, stat, 0, "r6", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r5 */
+         pvalue->u.r5 = (TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5*)rtxMemHeapAlloc(ctx, sizeof(TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5));
+         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r5", -1, 0);
+         asn1Init_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5(pvalue->u.r5);
+         stat = asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5(ctx, pvalue->u.r5);
+         RT_CHECK(ctx, stat, 0, "r5", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r4 */
+         pvalue->u.r4 = (TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4*)rtxMemHeapAlloc(ctx, sizeof(TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4));
+         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r4", -1, 0);
+         asn1Init_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4(pvalue->u.r4);
+         stat = asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
+         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfiguration(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r3 */
+         pvalue->u.r3 = (TransportChannelReconfiguration_r3*)rtxMemHeapAlloc(ctx, sizeof(TransportChannelReconfiguration_r3));
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "TransportChannelReconfiguration");
+         asn1Init_UMTS_TransportChannelReconfiguration_r3(pvalue->u.r3);
+         stat = asn1PD_UMTS_TransportChannelReconfiguration_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "TransportChannelReconfiguration");
+         break;
+      case 1: /* later-than-r3 */
+         pvalue->u.later_than_r3 = (TransportChannelReconfiguration_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(TransportChannelReconfiguration_later_than_r3));
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "TransportChannelReconfiguration");
+         asn1Init_UMTS_TransportChannelReconfiguration_later_than_r3(pvalue->u.later_than_r3);
+         stat = asn1PD_UMTS_TransportChannelReconfiguration_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "TransportChannelReconfiguration");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TransportChannelReconfiguration");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfigurationComplete_v770ext_IEs_deferredMeasurementControlReading(rtxContext* RT_RESTRICT ctx, TransportChannelReconfigurationComplete_v770ext_IEs_deferredMeasurementControlReading* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfigurationComplete_v770ext_IEs(rtxContext* RT_RESTRICT ctx, TransportChannelReconfigurationComplete_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfigurationComplete-v770ext-IEs");
+   /* ext-UL-TimingAdvance */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_EXT_UL_TimingAdvance(ctx, &pvalue->ext_UL_TimingAdvance);
+      RT_CHECK(ctx, stat, 0, "ext-UL-TimingAdvance", -1, "TransportChannelReconfigurationComplete-v770ext-IEs");
+   }
+   /* deferredMeasurementControlReading */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "deferredMeasurementControlReading", -1, "TransportChannelReconfigurationComplete-v770ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "deferredMeasurementControlReading", -1, "TransportChannelReconfigurationComplete-v770ext-IEs");
+         pvalue->deferredMeasurementControlReading = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfigurationComplete-v770ext */
+   stat = asn1PD_UMTS_TransportChannelReconfigurationComplete_v770ext_IEs(ctx, &pvalue->transportChannelReconfigurationComplete_v770ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfigurationComplete-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TransportChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfigurationComplete_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfigurationComplete_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfigurationComplete-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->transportChannelReconfigurationComplete_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "transportChannelReconfigurationComplete-r3-add-ext", -1, 0);
+   }
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_TransportChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfigurationComplete(rtxContext* RT_RESTRICT ctx, TransportChannelReconfigurationComplete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfigurationComplete");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "TransportChannelReconfigurationComplete");
+   /* ul-IntegProtActivationInfo */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtActivationInfo(ctx, &pvalue->ul_IntegProtActivationInfo);
+      RT_CHECK(ctx, stat, 0, "ul-IntegProtActivationInfo", -1, "TransportChannelReconfigurationComplete");
+   }
+   /* ul-TimingAdvance */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->ul_TimingAdvance, 0, 63);
+      RT_CHECK(ctx, stat, "UL-TimingAdvance", "ul-TimingAdvance", -1, "TransportChannelReconfigurationComplete");
+   }
+   /* count-C-ActivationTime */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->count_C_ActivationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "count-C-ActivationTime", -1, "TransportChannelReconfigurationComplete");
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "TransportChannelReconfigurationComplete");
+   }
+   /* ul-CounterSynchronisationInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_UL_CounterSynchronisationInfo(ctx, &pvalue->ul_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CounterSynchronisationInfo", -1, "TransportChannelReconfigurationComplete");
+   }
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_TransportChannelReconfigurationComplete_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "TransportChannelReconfigurationComplete");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfigurationFailure_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfigurationFailure_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfigurationFailure_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportChannelReconfigurationFailure_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfigurationFailure-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->transportChannelReconfigurationFailure_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "transportChannelReconfigurationFailure-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_TransportChannelReconfigurationFailure_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportChannelReconfigurationFailure(rtxContext* RT_RESTRICT ctx, TransportChannelReconfigurationFailure* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfigurationFailure");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "TransportChannelReconfigurationFailure");
+   /* failureCause */
+   stat = asn1PD_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
+   RT_CHECK(ctx, stat, 0, "failureCause", -1, "TransportChannelReconfigurationFailure");
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TransportChannelReconfigurationFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "TransportChannelReconfigurationFailure");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportFormatCombinationControl_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, TransportFormatCombinationControl_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* tfcs-ID */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TFCS_Identity(ctx, &pvalue->tfcs_ID);
+      RT_CHECK(ctx, stat, 0, "tfcs-ID", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportFormatCombinationControl_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, TransportFormatCombinationControl_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         break;
+      case 1: /* tdd */
+         pvalue->u.tdd = (TransportFormatCombinationControl_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(TransportFormatCombinationControl_modeSpecificInfo_tdd));
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd", -1, 0);
+         asn1Init_UMTS_TransportFormatCombinationControl_modeSpecificInfo_tdd(pvalue->u.tdd);
+         stat = asn1PD_UMTS_TransportFormatCombinationControl_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportFormatCombinationControl_v820ext_IEs(rtxContext* RT_RESTRICT ctx, TransportFormatCombinationControl_v820ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportFormatCombinationControl-v820ext-IEs");
+   /* ul-AMR-Rate */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->ul_AMR_Rate, 0, 15);
+      RT_CHECK(ctx, stat, "UL-AMR-Rate", "ul-AMR-Rate", -1, "TransportFormatCombinationControl-v820ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportFormatCombinationControl_laterNonCriticalExtensions_v820NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportFormatCombinationControl_laterNonCriticalExtensions_v820NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_TransportFormatCombinationControl_laterNonCriticalExtensions_v820NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportFormatCombinationControl_laterNonCriticalExtensions_v820NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportformatcombinationcontrol-v820ext */
+   stat = asn1PD_UMTS_TransportFormatCombinationControl_v820ext_IEs(ctx, &pvalue->transportformatcombinationcontrol_v820ext);
+   RT_CHECK(ctx, stat, 0, "transportformatcombinationcontrol-v820ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TransportFormatCombinationControl_laterNonCriticalExtensions_v820NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportFormatCombinationControl_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportFormatCombinationControl_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportFormatCombinationControl-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->transportFormatCombinationControl_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "transportFormatCombinationControl-r3-add-ext", -1, 0);
+   }
    /* v820NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v820NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions(ctx, &pvalue->v820NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_TransportFormatCombinationControl_laterNonCriticalExtensions_v820NonCriticalExtensions(ctx, &pvalue->v820NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v820NonCriticalExtensions", -1, 0);
    }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportFormatCombinationControl(rtxContext* RT_RESTRICT ctx, TransportFormatCombinationControl* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportFormatCombinationControl");
+   /* rrc-TransactionIdentifier */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+      RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "TransportFormatCombinationControl");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_TransportFormatCombinationControl_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "TransportFormatCombinationControl");
+   /* dpch-TFCS-InUplink */
+   stat = asn1PD_UMTS_TFC_Subset(ctx, &pvalue->dpch_TFCS_InUplink);
+   RT_CHECK(ctx, stat, 0, "dpch-TFCS-InUplink", -1, "TransportFormatCombinationControl");
+   /* activationTimeForTFCSubset */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->activationTimeForTFCSubset, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTimeForTFCSubset", -1, "TransportFormatCombinationControl");
+   }
+   /* tfc-ControlDuration */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->tfc_ControlDuration, 0, 12);
+      RT_CHECK(ctx, stat, "TFC-ControlDuration", "tfc-ControlDuration", -1, "TransportFormatCombinationControl");
+   }
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_TransportFormatCombinationControl_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "TransportFormatCombinationControl");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportFormatCombinationControlFailure_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportFormatCombinationControlFailure_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_TransportFormatCombinationControlFailure_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, TransportFormatCombinationControlFailure_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportFormatCombinationControlFailure-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->transportFormatCombinationControlFailure_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "transportFormatCombinationControlFailure-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_TransportFormatCombinationControlFailure_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TransportFormatCombinationControlFailure(rtxContext* RT_RESTRICT ctx, TransportFormatCombinationControlFailure* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportFormatCombinationControlFailure");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "TransportFormatCombinationControlFailure");
+   /* failureCause */
+   stat = asn1PD_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
+   RT_CHECK(ctx, stat, 0, "failureCause", -1, "TransportFormatCombinationControlFailure");
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TransportFormatCombinationControlFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "TransportFormatCombinationControlFailure");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityEnquiry_r3_IEs(rtxContext* RT_RESTRICT ctx, UECapabilityEnquiry_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "UECapabilityEnquiry-r3-IEs");
+   /* capabilityUpdateRequirement */
+   stat = asn1PD_UMTS_CapabilityUpdateRequirement(ctx, &pvalue->capabilityUpdateRequirement);
+   RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement", -1, "UECapabilityEnquiry-r3-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityEnquiry_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, UECapabilityEnquiry_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* capabilityUpdateRequirement-r4-ext */
+   stat = asn1PD_UMTS_CapabilityUpdateRequirement_r4_ext(ctx, &pvalue->capabilityUpdateRequirement_r4_ext);
+   RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement-r4-ext", -1, "UECapabilityEnquiry-v4b0ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityEnquiry_v590ext_IEs(rtxContext* RT_RESTRICT ctx, UECapabilityEnquiry_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* systemSpecificCapUpdateReq */
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, "SystemSpecificCapUpdateReq-v590ext", "systemSpecificCapUpdateReq", -1, "UECapabilityEnquiry-v590ext-IEs");
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, "SystemSpecificCapUpdateReq-v590ext", "systemSpecificCapUpdateReq", -1, "UECapabilityEnquiry-v590ext-IEs");
+      pvalue->systemSpecificCapUpdateReq = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityEnquiry_v770ext_IEs(rtxContext* RT_RESTRICT ctx, UECapabilityEnquiry_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UECapabilityEnquiry-v770ext-IEs");
+   /* capabilityUpdateRequirement */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CapabilityUpdateRequirement_v770ext(ctx, &pvalue->capabilityUpdateRequirement);
+      RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement", -1, "UECapabilityEnquiry-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityEnquiry_v860ext_IEs(rtxContext* RT_RESTRICT ctx, UECapabilityEnquiry_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UECapabilityEnquiry-v860ext-IEs");
+   /* capabilityUpdateRequirement */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CapabilityUpdateRequirement_v860ext(ctx, &pvalue->capabilityUpdateRequirement);
+      RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement", -1, "UECapabilityEnquiry-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityEnquiry_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UECapabilityEnquiry_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityEnquiry_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UECapabilityEnquiry_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityEnquiry-v860ext */
+   stat = asn1PD_UMTS_UECapabilityEnquiry_v860ext_IEs(ctx, &pvalue->ueCapabilityEnquiry_v860ext);
+   RT_CHECK(ctx, stat, 0, "ueCapabilityEnquiry-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UECapabilityEnquiry_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityEnquiry_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UECapabilityEnquiry_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityEnquiry-v770ext */
+   stat = asn1PD_UMTS_UECapabilityEnquiry_v770ext_IEs(ctx, &pvalue->ueCapabilityEnquiry_v770ext);
+   RT_CHECK(ctx, stat, 0, "ueCapabilityEnquiry-v770ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UECapabilityEnquiry_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityEnquiry_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UECapabilityEnquiry_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityEnquiry-v590ext */
+   stat = asn1PD_UMTS_UECapabilityEnquiry_v590ext_IEs(ctx, &pvalue->ueCapabilityEnquiry_v590ext);
+   RT_CHECK(ctx, stat, 0, "ueCapabilityEnquiry-v590ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UECapabilityEnquiry_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityEnquiry_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UECapabilityEnquiry_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityEnquiry-v4b0ext */
+   stat = asn1PD_UMTS_UECapabilityEnquiry_v4b0ext_IEs(ctx, &pvalue->ueCapabilityEnquiry_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "ueCapabilityEnquiry-v4b0ext", -1, 0);
+   /* v590NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UECapabilityEnquiry_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityEnquiry_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UECapabilityEnquiry_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityEnquiry-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->ueCapabilityEnquiry_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "ueCapabilityEnquiry-r3-add-ext", -1, 0);
+   }
+   /* v4b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UECapabilityEnquiry_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityEnquiry_r3(rtxContext* RT_RESTRICT ctx, UECapabilityEnquiry_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityEnquiry-r3 */
+   stat = asn1PD_UMTS_UECapabilityEnquiry_r3_IEs(ctx, &pvalue->ueCapabilityEnquiry_r3);
+   RT_CHECK(ctx, stat, 0, "ueCapabilityEnquiry-r3", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UECapabilityEnquiry_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityEnquiry_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, UECapabilityEnquiry_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityEnquiry_later_than_r3(rtxContext* RT_RESTRICT ctx, UECapabilityEnquiry_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PD_UMTS_UECapabilityEnquiry_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityEnquiry(rtxContext* RT_RESTRICT ctx, UECapabilityEnquiry* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UECapabilityEnquiry");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r3 */
+         pvalue->u.r3 = (UECapabilityEnquiry_r3*)rtxMemHeapAlloc(ctx, sizeof(UECapabilityEnquiry_r3));
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "UECapabilityEnquiry");
+         asn1Init_UMTS_UECapabilityEnquiry_r3(pvalue->u.r3);
+         stat = asn1PD_UMTS_UECapabilityEnquiry_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "UECapabilityEnquiry");
+         break;
+      case 1: /* later-than-r3 */
+         pvalue->u.later_than_r3 = (UECapabilityEnquiry_later_than_r3*)rtxMemHeapAllocZ(ctx, sizeof(UECapabilityEnquiry_later_than_r3));
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "UECapabilityEnquiry");
+         stat = asn1PD_UMTS_UECapabilityEnquiry_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "UECapabilityEnquiry");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UECapabilityEnquiry");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityInformation_v370ext(rtxContext* RT_RESTRICT ctx, UECapabilityInformation_v370ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UECapabilityInformation-v370ext");
+   /* ue-RadioAccessCapability-v370ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapability_v370ext(ctx, &pvalue->ue_RadioAccessCapability_v370ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v370ext", -1, "UECapabilityInformation-v370ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityInformation_v380ext_IEs(rtxContext* RT_RESTRICT ctx, UECapabilityInformation_v380ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UECapabilityInformation-v380ext-IEs");
+   /* ue-RadioAccessCapability-v380ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapability_v380ext(ctx, &pvalue->ue_RadioAccessCapability_v380ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v380ext", -1, "UECapabilityInformation-v380ext-IEs");
+   }
+   /* dl-PhysChCapabilityFDD-v380ext */
+   stat = asn1PD_UMTS_DL_PhysChCapabilityFDD_v380ext(ctx, &pvalue->dl_PhysChCapabilityFDD_v380ext);
+   RT_CHECK(ctx, stat, 0, "dl-PhysChCapabilityFDD-v380ext", -1, "UECapabilityInformation-v380ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityInformation_v3a0ext_IEs(rtxContext* RT_RESTRICT ctx, UECapabilityInformation_v3a0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UECapabilityInformation-v3a0ext-IEs");
+   /* ue-RadioAccessCapability-v3a0ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapability_v3a0ext(ctx, &pvalue->ue_RadioAccessCapability_v3a0ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v3a0ext", -1, "UECapabilityInformation-v3a0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityInformation_v650ext_IEs(rtxContext* RT_RESTRICT ctx, UECapabilityInformation_v650ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ue-RadioAccessCapability-v650ext */
+   stat = asn1PD_UMTS_UE_RadioAccessCapability_v650ext(ctx, &pvalue->ue_RadioAccessCapability_v650ext);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v650ext", -1, "UECapabilityInformation-v650ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityInformation_v680ext_IEs(rtxContext* RT_RESTRICT ctx, UECapabilityInformation_v680ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ue-RadioAccessCapability-v680ext */
+   stat = asn1PD_UMTS_UE_RadioAccessCapability_v680ext(ctx, &pvalue->ue_RadioAccessCapability_v680ext);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v680ext", -1, "UECapabilityInformation-v680ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityInformation_v7e0ext_IEs(rtxContext* RT_RESTRICT ctx, UECapabilityInformation_v7e0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ue-RadioAccessCapability */
+   stat = asn1PD_UMTS_UE_RadioAccessCapability_v7e0ext(ctx, &pvalue->ue_RadioAccessCapability);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "UECapabilityInformation-v7e0ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityInformation_v7f0ext_IEs(rtxContext* RT_RESTRICT ctx, UECapabilityInformation_v7f0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UECapabilityInformation-v7f0ext-IEs");
+   /* ue-RadioAccessCapability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapability_v7f0ext(ctx, &pvalue->ue_RadioAccessCapability);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "UECapabilityInformation-v7f0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityInformation_r3_add_ext_IEs_v680NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UECapabilityInformation_r3_add_ext_IEs_v680NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityInformation_r3_add_ext_IEs_v680NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UECapabilityInformation_r3_add_ext_IEs_v680NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityInformation-v7f0ext */
+   stat = asn1PD_UMTS_UECapabilityInformation_v7f0ext_IEs(ctx, &pvalue->ueCapabilityInformation_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "ueCapabilityInformation-v7f0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UECapabilityInformation_r3_add_ext_IEs_v680NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityInformation_r3_add_ext_IEs_v680NonCriticalExtensions_v7e0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UECapabilityInformation_r3_add_ext_IEs_v680NonCriticalExtensions_v7e0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityInformation-v7e0ext */
+   stat = asn1PD_UMTS_UECapabilityInformation_v7e0ext_IEs(ctx, &pvalue->ueCapabilityInformation_v7e0ext);
+   RT_CHECK(ctx, stat, 0, "ueCapabilityInformation-v7e0ext", -1, 0);
+   /* v7f0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UECapabilityInformation_r3_add_ext_IEs_v680NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityInformation_r3_add_ext_IEs_v680NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UECapabilityInformation_r3_add_ext_IEs_v680NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityInformation-v680ext */
+   stat = asn1PD_UMTS_UECapabilityInformation_v680ext_IEs(ctx, &pvalue->ueCapabilityInformation_v680ext);
+   RT_CHECK(ctx, stat, 0, "ueCapabilityInformation-v680ext", -1, 0);
+   /* v7e0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UECapabilityInformation_r3_add_ext_IEs_v680NonCriticalExtensions_v7e0NonCriticalExtensions(ctx, &pvalue->v7e0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7e0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityInformation_r3_add_ext_IEs(rtxContext* RT_RESTRICT ctx, UECapabilityInformation_r3_add_ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UECapabilityInformation-r3-add-ext-IEs");
+   /* ueCapabilityInformation-v650ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UECapabilityInformation_v650ext_IEs(ctx, &pvalue->ueCapabilityInformation_v650ext);
+      RT_CHECK(ctx, stat, 0, "ueCapabilityInformation-v650ext", -1, "UECapabilityInformation-r3-add-ext-IEs");
+   }
+   /* v680NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UECapabilityInformation_r3_add_ext_IEs_v680NonCriticalExtensions(ctx, &pvalue->v680NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v680NonCriticalExtensions", -1, "UECapabilityInformation-r3-add-ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityInformation_v4b0ext(rtxContext* RT_RESTRICT ctx, UECapabilityInformation_v4b0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UECapabilityInformation-v4b0ext");
+   /* ue-RadioAccessCapability-v4b0ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapability_v4b0ext(ctx, &pvalue->ue_RadioAccessCapability_v4b0ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v4b0ext", -1, "UECapabilityInformation-v4b0ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityInformation_v590ext(rtxContext* RT_RESTRICT ctx, UECapabilityInformation_v590ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UECapabilityInformation-v590ext");
+   /* ue-RadioAccessCapability-v3g0ext */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapability_v3g0ext(ctx, &pvalue->ue_RadioAccessCapability_v3g0ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v3g0ext", -1, "UECapabilityInformation-v590ext");
+   }
+   /* ue-RadioAccessCapability-v590ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapability_v590ext(ctx, &pvalue->ue_RadioAccessCapability_v590ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v590ext", -1, "UECapabilityInformation-v590ext");
+   }
+   /* ue-RATSpecificCapability-v590ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_v590ext(ctx, &pvalue->ue_RATSpecificCapability_v590ext);
+      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability-v590ext", -1, "UECapabilityInformation-v590ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityInformation_v5c0ext(rtxContext* RT_RESTRICT ctx, UECapabilityInformation_v5c0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UECapabilityInformation-v5c0ext");
+   /* ue-RadioAccessCapability-v5c0ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapability_v5c0ext(ctx, &pvalue->ue_RadioAccessCapability_v5c0ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v5c0ext", -1, "UECapabilityInformation-v5c0ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityInformation_v690ext_IEs(rtxContext* RT_RESTRICT ctx, UECapabilityInformation_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UECapabilityInformation-v690ext-IEs");
+   /* ueCapabilityContainer */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         rtxDynBitStr carrier;
+         rtxContext outer;
+         stat = pd_DynBitString(ctx, &carrier);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer", -1, "UECapabilityInformation-v690ext-IEs");
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_UE_CapabilityContainer_IEs(ctx, &pvalue->ueCapabilityContainer);
+            RT_CHECK(ctx, stat, 0, "ueCapabilityContainer", -1, "UECapabilityInformation-v690ext-IEs");
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+      }
+   }
+   return stat;
+}
+
+int asn1PD_UMTS_UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityInformation-v690ext */
+   stat = asn1PD_UMTS_UECapabilityInformation_v690ext_IEs(ctx, &pvalue->ueCapabilityInformation_v690ext);
+   RT_CHECK(ctx, stat, 0, "ueCapabilityInformation-v690ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityInformation-v5c0ext */
+   stat = asn1PD_UMTS_UECapabilityInformation_v5c0ext(ctx, &pvalue->ueCapabilityInformation_v5c0ext);
+   RT_CHECK(ctx, stat, 0, "ueCapabilityInformation-v5c0ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityInformation-v590ext */
+   stat = asn1PD_UMTS_UECapabilityInformation_v590ext(ctx, &pvalue->ueCapabilityInformation_v590ext);
+   RT_CHECK(ctx, stat, 0, "ueCapabilityInformation-v590ext", -1, 0);
+   /* v5c0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions(ctx, &pvalue->v5c0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v5c0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityInformation-v4b0ext */
+   stat = asn1PD_UMTS_UECapabilityInformation_v4b0ext(ctx, &pvalue->ueCapabilityInformation_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "ueCapabilityInformation-v4b0ext", -1, 0);
+   /* v590NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityInformation-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      {
+         rtxDynBitStr carrier;
+         rtxContext outer;
+         stat = pd_DynBitString(ctx, &carrier);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityInformation-r3-add-ext", -1, 0);
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_UECapabilityInformation_r3_add_ext_IEs(ctx, &pvalue->ueCapabilityInformation_r3_add_ext);
+            RT_CHECK(ctx, stat, 0, "ueCapabilityInformation-r3-add-ext", -1, 0);
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+      }
+   }
+   /* v4b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
+   }
+   return stat;
+}
+
+int asn1PD_UMTS_UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityInformation-v3a0ext */
+   stat = asn1PD_UMTS_UECapabilityInformation_v3a0ext_IEs(ctx, &pvalue->ueCapabilityInformation_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "ueCapabilityInformation-v3a0ext", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityInformation-v380ext */
+   stat = asn1PD_UMTS_UECapabilityInformation_v380ext_IEs(ctx, &pvalue->ueCapabilityInformation_v380ext);
+   RT_CHECK(ctx, stat, 0, "ueCapabilityInformation-v380ext", -1, 0);
+   /* v3a0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityInformation_v370NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UECapabilityInformation_v370NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityInformation-v370ext */
+   stat = asn1PD_UMTS_UECapabilityInformation_v370ext(ctx, &pvalue->ueCapabilityInformation_v370ext);
+   RT_CHECK(ctx, stat, 0, "ueCapabilityInformation-v370ext", -1, 0);
+   /* v380NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions(ctx, &pvalue->v380NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v380NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityInformation(rtxContext* RT_RESTRICT ctx, UECapabilityInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UECapabilityInformation");
+   /* rrc-TransactionIdentifier */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+      RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "UECapabilityInformation");
+   }
+   /* ue-RadioAccessCapability */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapability(ctx, &pvalue->ue_RadioAccessCapability);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "UECapabilityInformation");
+   }
+   /* ue-RATSpecificCapability */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_InterRAT_UE_RadioAccessCapabilityList(ctx, &pvalue->ue_RATSpecificCapability);
+      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability", -1, "UECapabilityInformation");
+   }
+   /* v370NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_UECapabilityInformation_v370NonCriticalExtensions(ctx, &pvalue->v370NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v370NonCriticalExtensions", -1, "UECapabilityInformation");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityInformationConfirm_r3_IEs(rtxContext* RT_RESTRICT ctx, UECapabilityInformationConfirm_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "UECapabilityInformationConfirm-r3-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityInformationConfirm_v770ext_IEs_acceptanceOfChangeOfCapability(rtxContext* RT_RESTRICT ctx, UECapabilityInformationConfirm_v770ext_IEs_acceptanceOfChangeOfCapability* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityInformationConfirm_v770ext_IEs(rtxContext* RT_RESTRICT ctx, UECapabilityInformationConfirm_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UECapabilityInformationConfirm-v770ext-IEs");
+   /* acceptanceOfChangeOfCapability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->acceptanceOfChangeOfCapability, 0, 2);
+      RT_CHECK(ctx, stat, 0, "acceptanceOfChangeOfCapability", -1, "UECapabilityInformationConfirm-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityInformationConfirm_r3_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UECapabilityInformationConfirm_r3_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityInformationConfirm_r3_laterNonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UECapabilityInformationConfirm_r3_laterNonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityInformationConfirm-v770ext */
+   stat = asn1PD_UMTS_UECapabilityInformationConfirm_v770ext_IEs(ctx, &pvalue->ueCapabilityInformationConfirm_v770ext);
+   RT_CHECK(ctx, stat, 0, "ueCapabilityInformationConfirm-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UECapabilityInformationConfirm_r3_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityInformationConfirm_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UECapabilityInformationConfirm_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityInformationConfirm-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->ueCapabilityInformationConfirm_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "ueCapabilityInformationConfirm-r3-add-ext", -1, 0);
+   }
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UECapabilityInformationConfirm_r3_laterNonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityInformationConfirm_r3(rtxContext* RT_RESTRICT ctx, UECapabilityInformationConfirm_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityInformationConfirm-r3 */
+   stat = asn1PD_UMTS_UECapabilityInformationConfirm_r3_IEs(ctx, &pvalue->ueCapabilityInformationConfirm_r3);
+   RT_CHECK(ctx, stat, 0, "ueCapabilityInformationConfirm-r3", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UECapabilityInformationConfirm_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityInformationConfirm_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, UECapabilityInformationConfirm_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_UECapabilityInformationConfirm_later_than_r3(rtxContext* RT_RESTRICT ctx, UECapabilityInformationConfirm_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PD_UMTS_UECapabilityInformationConfirm_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
    return 0;
 }
 

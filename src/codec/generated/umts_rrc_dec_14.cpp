@@ -6,9026 +6,9169 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* handoverToUTRANCommand-r7 */
-   rtxCtxtPushElemName(ctx, "handoverToUTRANCommand-r7");
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r7_IEs(ctx, &pvalue->handoverToUTRANCommand_r7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v780NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v780NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_complete(rtxContext* ctx, HandoverToUTRANCommand_r8_IEs_specificationMode_complete* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* srb-InformationSetupList */
-   rtxCtxtPushElemName(ctx, "srb-InformationSetupList");
-   stat = asn1PD_UMTS_SRB_InformationSetupList_r8(ctx, &pvalue->srb_InformationSetupList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rab-InformationSetupList */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "rab-InformationSetupList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_InformationSetupList_r8(ctx, &pvalue->rab_InformationSetupList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CommonTransChInfo */
-   rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
-   stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-AddReconfTransChInfoList */
-   rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
-   stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonTransChInfo */
-   rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
-   stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-AddReconfTransChInfoList */
-   rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
-   stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-EDCH-Information */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r8(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonInformation */
-   rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-   stat = asn1PD_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL-List */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-   stat = asn1PD_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* multi-frequencyInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "multi-frequencyInfo");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* ctx, HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* defaultConfigMode */
-   rtxCtxtPushElemName(ctx, "defaultConfigMode");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigMode");
-   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* defaultConfigIdentity */
-   rtxCtxtPushElemName(ctx, "defaultConfigIdentity");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigIdentity-r6");
-   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dlul-HSPA-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dlul-HSPA-Information");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DLUL_HSPA_Information_r8(ctx, &pvalue->dlul_HSPA_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* ctx, HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode* pvalue)
+int asn1PD_UMTS_UECapabilityInformationConfirm(rtxContext* RT_RESTRICT ctx, UECapabilityInformationConfirm* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UECapabilityInformationConfirm");
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "predefinedConfigIdentity");
-         rtxCtxtPushTypeName(ctx, "PredefinedConfigIdentity");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+      case 0: /* r3 */
+         pvalue->u.r3 = (UECapabilityInformationConfirm_r3*)rtxMemHeapAlloc(ctx, sizeof(UECapabilityInformationConfirm_r3));
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "UECapabilityInformationConfirm");
+         asn1Init_UMTS_UECapabilityInformationConfirm_r3(pvalue->u.r3);
+         stat = asn1PD_UMTS_UECapabilityInformationConfirm_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "UECapabilityInformationConfirm");
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "defaultConfig");
-         pvalue->u.defaultConfig = (HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
-         if (pvalue->u.defaultConfig == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(pvalue->u.defaultConfig);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 1: /* later-than-r3 */
+         pvalue->u.later_than_r3 = (UECapabilityInformationConfirm_later_than_r3*)rtxMemHeapAllocZ(ctx, sizeof(UECapabilityInformationConfirm_later_than_r3));
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "UECapabilityInformationConfirm");
+         stat = asn1PD_UMTS_UECapabilityInformationConfirm_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "UECapabilityInformationConfirm");
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UECapabilityInformationConfirm");
    }
    return 0;
 }
 
-int asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(rtxContext* ctx, HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PD_UMTS_UL_DPCH_InfoPostFDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonInformationPost */
-   rtxCtxtPushElemName(ctx, "dl-CommonInformationPost");
-   stat = asn1PD_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL-List */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-   stat = asn1PD_UMTS_DL_InformationPerRL_ListPostFDD(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PD_UMTS_FrequencyInfoFDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(rtxContext* ctx, HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384* pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PD_UMTS_UL_DPCH_InfoPostTDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL");
-   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(rtxContext* ctx, HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128* pvalue)
+int asn1PD_UMTS_UplinkDirectTransfer_v690ext_IEs(rtxContext* RT_RESTRICT ctx, UplinkDirectTransfer_v690ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL");
-   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD_LCR_r4(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* multi-frequencyInfo */
+   RT_CHECK(ctx, stat, 0, 0, -1, "UplinkDirectTransfer-v690ext-IEs");
+   /* measuredResultsOnRACHinterFreq */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "multi-frequencyInfo");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_MeasuredResultsOnRACHinterFreq(ctx, &pvalue->measuredResultsOnRACHinterFreq);
+      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACHinterFreq", -1, "UplinkDirectTransfer-v690ext-IEs");
    }
    return 0;
 }
 
-int asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(rtxContext* ctx, HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768* pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL");
-   stat = asn1PD_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(rtxContext* ctx, HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         pvalue->u.tdd384 = (HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         pvalue->u.tdd128 = (HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd768");
-         pvalue->u.tdd768 = (HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768));
-         if (pvalue->u.tdd768 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(pvalue->u.tdd768);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo(rtxContext* ctx, HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration(rtxContext* ctx, HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration* pvalue)
+int asn1PD_UMTS_UplinkDirectTransfer_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, UplinkDirectTransfer_v7g0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* preConfigMode */
-   rtxCtxtPushElemName(ctx, "preConfigMode");
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rab-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "rab-Info");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_Info_Post(ctx, &pvalue->rab_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode(rtxContext* ctx, HandoverToUTRANCommand_r8_IEs_specificationMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "complete");
-         pvalue->u.complete = (HandoverToUTRANCommand_r8_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r8_IEs_specificationMode_complete));
-         if (pvalue->u.complete == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_complete(pvalue->u.complete);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_complete(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "preconfiguration");
-         pvalue->u.preconfiguration = (HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration));
-         if (pvalue->u.preconfiguration == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs(rtxContext* ctx, HandoverToUTRANCommand_r8_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "HandoverToUTRANCommand-r8-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat);
-   /* new-U-RNTI */
-   rtxCtxtPushElemName(ctx, "new-U-RNTI");
-   stat = asn1PD_UMTS_U_RNTI_Short(ctx, &pvalue->new_U_RNTI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cipheringAlgorithm */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "cipheringAlgorithm");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "CipheringAlgorithm-r7");
-      stat = pd_ConsUnsigned(ctx, &pvalue->cipheringAlgorithm, 0, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportForChangeOfUE-Capability */
-   rtxCtxtPushElemName(ctx, "supportForChangeOfUE-Capability");
-   stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* new-H-RNTI */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "new-H-RNTI");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* defaultConfigForCellFACH */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "defaultConfigForCellFACH");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_DefaultConfigForCellFACH(ctx, &pvalue->defaultConfigForCellFACH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* specificationMode */
-   rtxCtxtPushElemName(ctx, "specificationMode");
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode(ctx, &pvalue->specificationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* maxAllowedUL-TX-Power */
-   rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-   rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-   stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_v890ext_IEs(rtxContext* ctx, HandoverToUTRANCommand_v890ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "HandoverToUTRANCommand-v890ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_v8a0ext_IEs(rtxContext* ctx, HandoverToUTRANCommand_v8a0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "HandoverToUTRANCommand-v8a0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext2(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions(rtxContext* ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* handoverToUTRANCommand-v8a0ext */
-   rtxCtxtPushElemName(ctx, "handoverToUTRANCommand-v8a0ext");
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_v8a0ext_IEs(ctx, &pvalue->handoverToUTRANCommand_v8a0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* handoverToUTRANCommand-v890ext */
-   rtxCtxtPushElemName(ctx, "handoverToUTRANCommand-v890ext");
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_v890ext_IEs(ctx, &pvalue->handoverToUTRANCommand_v890ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v8a0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v8a0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(rtxContext* ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* handoverToUTRANCommand-v7d0ext */
-   rtxCtxtPushElemName(ctx, "handoverToUTRANCommand-v7d0ext");
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_v7d0ext_IEs(ctx, &pvalue->handoverToUTRANCommand_v7d0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v890NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v890NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* handoverToUTRANCommand-r8 */
-   rtxCtxtPushElemName(ctx, "handoverToUTRANCommand-r8");
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r8_IEs(ctx, &pvalue->handoverToUTRANCommand_r8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v7d0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v7d0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_complete(rtxContext* ctx, HandoverToUTRANCommand_r9_IEs_specificationMode_complete* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* srb-InformationSetupList */
-   rtxCtxtPushElemName(ctx, "srb-InformationSetupList");
-   stat = asn1PD_UMTS_SRB_InformationSetupList_r8(ctx, &pvalue->srb_InformationSetupList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rab-InformationSetupList */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "rab-InformationSetupList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_InformationSetupList_r8(ctx, &pvalue->rab_InformationSetupList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CommonTransChInfo */
-   rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
-   stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-AddReconfTransChInfoList */
-   rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
-   stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonTransChInfo */
-   rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
-   stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-AddReconfTransChInfoList */
-   rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
-   stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r9(ctx, &pvalue->dl_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-EDCH-Information */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r9(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonInformation */
-   rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-   stat = asn1PD_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL-List */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-   stat = asn1PD_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* multi-frequencyInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "multi-frequencyInfo");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* ctx, HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* defaultConfigMode */
-   rtxCtxtPushElemName(ctx, "defaultConfigMode");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigMode");
-   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* defaultConfigIdentity */
-   rtxCtxtPushElemName(ctx, "defaultConfigIdentity");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigIdentity-r6");
-   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dlul-HSPA-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dlul-HSPA-Information");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DLUL_HSPA_Information_r9(ctx, &pvalue->dlul_HSPA_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* ctx, HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "predefinedConfigIdentity");
-         rtxCtxtPushTypeName(ctx, "PredefinedConfigIdentity");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "defaultConfig");
-         pvalue->u.defaultConfig = (HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
-         if (pvalue->u.defaultConfig == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(pvalue->u.defaultConfig);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(rtxContext* ctx, HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PD_UMTS_UL_DPCH_InfoPostFDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonInformationPost */
-   rtxCtxtPushElemName(ctx, "dl-CommonInformationPost");
-   stat = asn1PD_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL-List */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-   stat = asn1PD_UMTS_DL_InformationPerRL_ListPostFDD(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PD_UMTS_FrequencyInfoFDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(rtxContext* ctx, HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384* pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PD_UMTS_UL_DPCH_InfoPostTDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL");
-   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(rtxContext* ctx, HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL");
-   stat = asn1PD_UMTS_DL_InformationPerRL_PostTDD_LCR_r4(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* multi-frequencyInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "multi-frequencyInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(rtxContext* ctx, HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768* pvalue)
-{
-   int stat = 0;
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL");
-   stat = asn1PD_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PD_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-   stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(rtxContext* ctx, HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         pvalue->u.tdd384 = (HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384));
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(pvalue->u.tdd384);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         pvalue->u.tdd128 = (HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128));
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(pvalue->u.tdd128);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd768");
-         pvalue->u.tdd768 = (HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768));
-         if (pvalue->u.tdd768 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(pvalue->u.tdd768);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo(rtxContext* ctx, HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         pvalue->u.tdd = (HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd));
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(pvalue->u.tdd);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration(rtxContext* ctx, HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* preConfigMode */
-   rtxCtxtPushElemName(ctx, "preConfigMode");
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rab-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "rab-Info");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_Info_Post(ctx, &pvalue->rab_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode(rtxContext* ctx, HandoverToUTRANCommand_r9_IEs_specificationMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "complete");
-         pvalue->u.complete = (HandoverToUTRANCommand_r9_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r9_IEs_specificationMode_complete));
-         if (pvalue->u.complete == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_complete(pvalue->u.complete);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_complete(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "preconfiguration");
-         pvalue->u.preconfiguration = (HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration));
-         if (pvalue->u.preconfiguration == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs(rtxContext* ctx, HandoverToUTRANCommand_r9_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "HandoverToUTRANCommand-r9-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat);
-   /* new-U-RNTI */
-   rtxCtxtPushElemName(ctx, "new-U-RNTI");
-   stat = asn1PD_UMTS_U_RNTI_Short(ctx, &pvalue->new_U_RNTI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cipheringAlgorithm */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "cipheringAlgorithm");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "CipheringAlgorithm-r7");
-      stat = pd_ConsUnsigned(ctx, &pvalue->cipheringAlgorithm, 0, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportForChangeOfUE-Capability */
-   rtxCtxtPushElemName(ctx, "supportForChangeOfUE-Capability");
-   stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* new-H-RNTI */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "new-H-RNTI");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* defaultConfigForCellFACH */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "defaultConfigForCellFACH");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_DefaultConfigForCellFACH(ctx, &pvalue->defaultConfigForCellFACH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* specificationMode */
-   rtxCtxtPushElemName(ctx, "specificationMode");
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode(ctx, &pvalue->specificationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* maxAllowedUL-TX-Power */
-   rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-   rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-   stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* handoverToUTRANCommand-r9 */
-   rtxCtxtPushElemName(ctx, "handoverToUTRANCommand-r9");
-   stat = asn1PD_UMTS_HandoverToUTRANCommand_r9_IEs(ctx, &pvalue->handoverToUTRANCommand_r9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r9");
-         pvalue->u.r9 = (HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9));
-         if (pvalue->u.r9 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(pvalue->u.r9);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r8");
-         pvalue->u.r8 = (HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8));
-         if (pvalue->u.r8 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(pvalue->u.r8);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r7");
-         pvalue->u.r7 = (HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7));
-         if (pvalue->u.r7 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(pvalue->u.r7);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r6");
-         pvalue->u.r6 = (HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6));
-         if (pvalue->u.r6 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6(pvalue->u.r6);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6(ctx, pvalue->u.r6);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions(rtxContext* ctx, HandoverToUTRANCommand_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r5");
-         pvalue->u.r5 = (HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5));
-         if (pvalue->u.r5 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5(pvalue->u.r5);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5(ctx, pvalue->u.r5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions(rtxContext* ctx, HandoverToUTRANCommand_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r4");
-         pvalue->u.r4 = (HandoverToUTRANCommand_criticalExtensions_r4*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions_r4));
-         if (pvalue->u.r4 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_criticalExtensions_r4(pvalue->u.r4);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_r4(ctx, pvalue->u.r4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (HandoverToUTRANCommand_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANCommand(rtxContext* ctx, HandoverToUTRANCommand* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "HandoverToUTRANCommand");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r3");
-         pvalue->u.r3 = (HandoverToUTRANCommand_r3*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_r3));
-         if (pvalue->u.r3 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_r3(pvalue->u.r3);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (HandoverToUTRANCommand_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANCommand_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverToUTRANCommand_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_HandoverToUTRANCommand_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANComplete_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, HandoverToUTRANComplete_laterNonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANComplete_laterNonCriticalExtensions(rtxContext* ctx, HandoverToUTRANComplete_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* handoverToUTRANComplete-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "handoverToUTRANComplete-r3-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->handoverToUTRANComplete_r3_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_HandoverToUTRANComplete_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverToUTRANComplete(rtxContext* ctx, HandoverToUTRANComplete* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "HandoverToUTRANComplete");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* startList */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "startList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_STARTList(ctx, &pvalue->startList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* count-C-ActivationTime */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "count-C-ActivationTime");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->count_C_ActivationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_HandoverToUTRANComplete_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InitialDirectTransfer_v3a0ext(rtxContext* ctx, InitialDirectTransfer_v3a0ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InitialDirectTransfer-v3a0ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* start-Value */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "start-Value");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_START_Value(ctx, &pvalue->start_Value);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InitialDirectTransfer_v7g0ext_IEs(rtxContext* ctx, InitialDirectTransfer_v7g0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InitialDirectTransfer-v7g0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UplinkDirectTransfer-v7g0ext-IEs");
    /* measuredResultsOnRACH-v7g0ext */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "measuredResultsOnRACH-v7g0ext");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_MeasuredResultsOnRACH_v7g0ext(ctx, &pvalue->measuredResultsOnRACH_v7g0ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACH-v7g0ext", -1, "UplinkDirectTransfer-v7g0ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_InitialDirectTransfer_r3_add_ext_IEs_nonCriticalExtensions(rtxContext* ctx, InitialDirectTransfer_r3_add_ext_IEs_nonCriticalExtensions* pvalue)
+int asn1PD_UMTS_UplinkDirectTransfer_laterNonCriticalExtensions_v690NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UplinkDirectTransfer_laterNonCriticalExtensions_v690NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    return 0;
 }
 
-int asn1PD_UMTS_InitialDirectTransfer_r3_add_ext_IEs(rtxContext* ctx, InitialDirectTransfer_r3_add_ext_IEs* pvalue)
+int asn1PD_UMTS_UplinkDirectTransfer_laterNonCriticalExtensions_v690NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UplinkDirectTransfer_laterNonCriticalExtensions_v690NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InitialDirectTransfer-r3-add-ext-IEs");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* initialDirectTransfer-v7g0ext */
-   rtxCtxtPushElemName(ctx, "initialDirectTransfer-v7g0ext");
-   stat = asn1PD_UMTS_InitialDirectTransfer_v7g0ext_IEs(ctx, &pvalue->initialDirectTransfer_v7g0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uplinkDirectTransfer-v7g0ext */
+   stat = asn1PD_UMTS_UplinkDirectTransfer_v7g0ext_IEs(ctx, &pvalue->uplinkDirectTransfer_v7g0ext);
+   RT_CHECK(ctx, stat, 0, "uplinkDirectTransfer-v7g0ext", -1, 0);
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InitialDirectTransfer_r3_add_ext_IEs_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UplinkDirectTransfer_laterNonCriticalExtensions_v690NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_InitialDirectTransfer_v590ext(rtxContext* ctx, InitialDirectTransfer_v590ext* pvalue)
+int asn1PD_UMTS_UplinkDirectTransfer_laterNonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UplinkDirectTransfer_laterNonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InitialDirectTransfer-v590ext");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* establishmentCause */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uplinkDirectTransfer-v690ext */
+   stat = asn1PD_UMTS_UplinkDirectTransfer_v690ext_IEs(ctx, &pvalue->uplinkDirectTransfer_v690ext);
+   RT_CHECK(ctx, stat, 0, "uplinkDirectTransfer-v690ext", -1, 0);
+   /* v7g0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "establishmentCause");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "EstablishmentCause");
-      stat = pd_ConsUnsigned(ctx, &pvalue->establishmentCause, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UplinkDirectTransfer_laterNonCriticalExtensions_v690NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_InitialDirectTransfer_v690ext_IEs(rtxContext* ctx, InitialDirectTransfer_v690ext_IEs* pvalue)
+int asn1PD_UMTS_UplinkDirectTransfer_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UplinkDirectTransfer_laterNonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InitialDirectTransfer-v690ext-IEs");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* plmn-Identity */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "plmn-Identity");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measuredResultsOnRACHinterFreq */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uplinkDirectTransfer-r3-add-ext */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "measuredResultsOnRACHinterFreq");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MeasuredResultsOnRACHinterFreq(ctx, &pvalue->measuredResultsOnRACHinterFreq);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mbms-JoinedInformation */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mbms-JoinedInformation");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_MBMS_JoinedInformation_r6(ctx, &pvalue->mbms_JoinedInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InitialDirectTransfer_v770ext_IEs_csCallType(rtxContext* ctx, InitialDirectTransfer_v770ext_IEs_csCallType* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_InitialDirectTransfer_v770ext_IEs(rtxContext* ctx, InitialDirectTransfer_v770ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InitialDirectTransfer-v770ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* csCallType */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "csCallType");
       pvalue->m |= 0x1u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->csCallType, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_DynBitString(ctx, &pvalue->uplinkDirectTransfer_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "uplinkDirectTransfer-r3-add-ext", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InitialDirectTransfer_v860ext_IEs_supportOfCSG(rtxContext* ctx, InitialDirectTransfer_v860ext_IEs_supportOfCSG* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InitialDirectTransfer_v860ext_IEs(rtxContext* ctx, InitialDirectTransfer_v860ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InitialDirectTransfer-v860ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* supportOfCSG */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "supportOfCSG");
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportOfCSG = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* ctx, InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* initialDirectTransfer-v860ext */
-   rtxCtxtPushElemName(ctx, "initialDirectTransfer-v860ext");
-   stat = asn1PD_UMTS_InitialDirectTransfer_v860ext_IEs(ctx, &pvalue->initialDirectTransfer_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* initialDirectTransfer-v770ext */
-   rtxCtxtPushElemName(ctx, "initialDirectTransfer-v770ext");
-   stat = asn1PD_UMTS_InitialDirectTransfer_v770ext_IEs(ctx, &pvalue->initialDirectTransfer_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v860NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* ctx, InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* initialDirectTransfer-v690ext */
-   rtxCtxtPushElemName(ctx, "initialDirectTransfer-v690ext");
-   stat = asn1PD_UMTS_InitialDirectTransfer_v690ext_IEs(ctx, &pvalue->initialDirectTransfer_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* ctx, InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* initialDirectTransfer-v590ext */
-   rtxCtxtPushElemName(ctx, "initialDirectTransfer-v590ext");
-   stat = asn1PD_UMTS_InitialDirectTransfer_v590ext(ctx, &pvalue->initialDirectTransfer_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
    /* v690NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* ctx, InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* initialDirectTransfer-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "initialDirectTransfer-r3-add-ext");
-      pvalue->m |= 0x1u;
-      {
-         rtxDynBitStr carrier;
-         rtxContext outer;
-         stat = pd_DynBitString(ctx, &carrier);
-         RT_CHECK(ctx, stat);
-         rtxCopyContext(&outer, ctx);
-         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
-         if (stat == 0) {
-            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
-            stat = asn1PD_UMTS_InitialDirectTransfer_r3_add_ext_IEs(ctx, &pvalue->initialDirectTransfer_r3_add_ext);
-            RT_CHECK(ctx, stat);
-         }
-         rtxCopyContext(ctx, &outer);
-         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v590NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtensions");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return stat;
-}
-
-int asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions(rtxContext* ctx, InitialDirectTransfer_v3a0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* initialDirectTransfer-v3a0ext */
-   rtxCtxtPushElemName(ctx, "initialDirectTransfer-v3a0ext");
-   stat = asn1PD_UMTS_InitialDirectTransfer_v3a0ext(ctx, &pvalue->initialDirectTransfer_v3a0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UplinkDirectTransfer_laterNonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_InitialDirectTransfer(rtxContext* ctx, InitialDirectTransfer* pvalue)
+int asn1PD_UMTS_UplinkDirectTransfer(rtxContext* RT_RESTRICT ctx, UplinkDirectTransfer* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InitialDirectTransfer");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UplinkDirectTransfer");
    /* cn-DomainIdentity */
-   rtxCtxtPushElemName(ctx, "cn-DomainIdentity");
-   rtxCtxtPushTypeName(ctx, "CN-DomainIdentity");
    stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* intraDomainNasNodeSelector */
-   rtxCtxtPushElemName(ctx, "intraDomainNasNodeSelector");
-   stat = asn1PD_UMTS_IntraDomainNasNodeSelector(ctx, &pvalue->intraDomainNasNodeSelector);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "UplinkDirectTransfer");
    /* nas-Message */
-   rtxCtxtPushElemName(ctx, "nas-Message");
    stat = asn1PD_UMTS_NAS_Message(ctx, &pvalue->nas_Message);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "nas-Message", -1, "UplinkDirectTransfer");
    /* measuredResultsOnRACH */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "measuredResultsOnRACH");
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_MeasuredResultsOnRACH(ctx, &pvalue->measuredResultsOnRACH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v3a0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v3a0NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_single_GSM_Message(rtxContext* ctx, HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_single_GSM_Message* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_gsm_MessageList(rtxContext* ctx, HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_gsm_MessageList* pvalue)
-{
-   int stat = 0;
-   /* gsm-Messages */
-   rtxCtxtPushElemName(ctx, "gsm-Messages");
-   stat = asn1PD_UMTS_GSM_MessageList(ctx, &pvalue->gsm_Messages);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message(rtxContext* ctx, HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "single-GSM-Message");
-         pvalue->u.single_GSM_Message = (HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_single_GSM_Message*)rtxMemHeapAllocZ(ctx, sizeof(HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_single_GSM_Message));
-         if (pvalue->u.single_GSM_Message == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_single_GSM_Message(ctx, pvalue->u.single_GSM_Message);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "gsm-MessageList");
-         pvalue->u.gsm_MessageList = (HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_gsm_MessageList*)rtxMemHeapAlloc(ctx, sizeof(HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_gsm_MessageList));
-         if (pvalue->u.gsm_MessageList == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_gsm_MessageList(pvalue->u.gsm_MessageList);
-         stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_gsm_MessageList(ctx, pvalue->u.gsm_MessageList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs(rtxContext* ctx, HandoverFromUTRANCommand_GSM_r3_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "HandoverFromUTRANCommand-GSM-r3-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* activationTime */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* toHandoverRAB-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "toHandoverRAB-Info");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RAB_Info(ctx, &pvalue->toHandoverRAB_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequency-band */
-   rtxCtxtPushElemName(ctx, "frequency-band");
-   rtxCtxtPushTypeName(ctx, "Frequency-Band");
-   stat = pd_ConsUnsigned(ctx, &pvalue->frequency_band, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* gsm-message */
-   rtxCtxtPushElemName(ctx, "gsm-message");
-   stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message(ctx, &pvalue->gsm_message);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_v690ext_IEs_geran_SystemInfoType(rtxContext* ctx, HandoverFromUTRANCommand_GSM_v690ext_IEs_geran_SystemInfoType* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "sI");
-         pvalue->u.sI = (GERAN_SystemInformation*)rtxMemHeapAlloc(ctx, sizeof(GERAN_SystemInformation));
-         if (pvalue->u.sI == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_GERAN_SystemInformation(pvalue->u.sI);
-         stat = asn1PD_UMTS_GERAN_SystemInformation(ctx, pvalue->u.sI);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "pSI");
-         pvalue->u.pSI = (GERAN_SystemInformation*)rtxMemHeapAlloc(ctx, sizeof(GERAN_SystemInformation));
-         if (pvalue->u.pSI == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_GERAN_SystemInformation(pvalue->u.pSI);
-         stat = asn1PD_UMTS_GERAN_SystemInformation(ctx, pvalue->u.pSI);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_v690ext_IEs(rtxContext* ctx, HandoverFromUTRANCommand_GSM_v690ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "HandoverFromUTRANCommand-GSM-v690ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* geran-SystemInfoType */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "geran-SystemInfoType");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_v690ext_IEs_geran_SystemInfoType(ctx, &pvalue->geran_SystemInfoType);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_v860ext_IEs(rtxContext* ctx, HandoverFromUTRANCommand_GSM_v860ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "HandoverFromUTRANCommand-GSM-v860ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sr-vcc-SecurityRABInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "sr-vcc-SecurityRABInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_SR_VCC_SecurityRABInfo_v860ext(ctx, &pvalue->sr_vcc_SecurityRABInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* ctx, HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* handoverFromUTRANCommand-GSM-v860ext */
-   rtxCtxtPushElemName(ctx, "handoverFromUTRANCommand-GSM-v860ext");
-   stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_v860ext_IEs(ctx, &pvalue->handoverFromUTRANCommand_GSM_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions(rtxContext* ctx, HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* handoverFromUTRANCommand-GSM-v690ext */
-   rtxCtxtPushElemName(ctx, "handoverFromUTRANCommand-GSM-v690ext");
-   stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_v690ext_IEs(ctx, &pvalue->handoverFromUTRANCommand_GSM_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v860NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions(rtxContext* ctx, HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* handoverFromUTRANCommand-GSM-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "handoverFromUTRANCommand-GSM-r3-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->handoverFromUTRANCommand_GSM_r3_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3(rtxContext* ctx, HandoverFromUTRANCommand_GSM_r3* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* handoverFromUTRANCommand-GSM-r3 */
-   rtxCtxtPushElemName(ctx, "handoverFromUTRANCommand-GSM-r3");
-   stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs(ctx, &pvalue->handoverFromUTRANCommand_GSM_r3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_single_GSM_Message(rtxContext* ctx, HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_single_GSM_Message* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_gsm_MessageList(rtxContext* ctx, HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_gsm_MessageList* pvalue)
-{
-   int stat = 0;
-   /* gsm-Messages */
-   rtxCtxtPushElemName(ctx, "gsm-Messages");
-   stat = asn1PD_UMTS_GSM_MessageList(ctx, &pvalue->gsm_Messages);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message(rtxContext* ctx, HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "single-GSM-Message");
-         pvalue->u.single_GSM_Message = (HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_single_GSM_Message*)rtxMemHeapAllocZ(ctx, sizeof(HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_single_GSM_Message));
-         if (pvalue->u.single_GSM_Message == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_single_GSM_Message(ctx, pvalue->u.single_GSM_Message);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "gsm-MessageList");
-         pvalue->u.gsm_MessageList = (HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_gsm_MessageList*)rtxMemHeapAlloc(ctx, sizeof(HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_gsm_MessageList));
-         if (pvalue->u.gsm_MessageList == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_gsm_MessageList(pvalue->u.gsm_MessageList);
-         stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_gsm_MessageList(ctx, pvalue->u.gsm_MessageList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_geran_SystemInfoType(rtxContext* ctx, HandoverFromUTRANCommand_GSM_r6_IEs_geran_SystemInfoType* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "sI");
-         pvalue->u.sI = (GERAN_SystemInformation*)rtxMemHeapAlloc(ctx, sizeof(GERAN_SystemInformation));
-         if (pvalue->u.sI == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_GERAN_SystemInformation(pvalue->u.sI);
-         stat = asn1PD_UMTS_GERAN_SystemInformation(ctx, pvalue->u.sI);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "pSI");
-         pvalue->u.pSI = (GERAN_SystemInformation*)rtxMemHeapAlloc(ctx, sizeof(GERAN_SystemInformation));
-         if (pvalue->u.pSI == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_GERAN_SystemInformation(pvalue->u.pSI);
-         stat = asn1PD_UMTS_GERAN_SystemInformation(ctx, pvalue->u.pSI);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs(rtxContext* ctx, HandoverFromUTRANCommand_GSM_r6_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "HandoverFromUTRANCommand-GSM-r6-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* activationTime */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* toHandoverRAB-Info */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "toHandoverRAB-Info");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RAB_InformationList_r6(ctx, &pvalue->toHandoverRAB_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequency-band */
-   rtxCtxtPushElemName(ctx, "frequency-band");
-   rtxCtxtPushTypeName(ctx, "Frequency-Band");
-   stat = pd_ConsUnsigned(ctx, &pvalue->frequency_band, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* gsm-message */
-   rtxCtxtPushElemName(ctx, "gsm-message");
-   stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message(ctx, &pvalue->gsm_message);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* geran-SystemInfoType */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "geran-SystemInfoType");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_geran_SystemInfoType(ctx, &pvalue->geran_SystemInfoType);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6_v860NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6_v860NonCriticalExtensions(rtxContext* ctx, HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6_v860NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* handoverFromUTRANCommand-GSM-v860ext */
-   rtxCtxtPushElemName(ctx, "handoverFromUTRANCommand-GSM-v860ext");
-   stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_v860ext_IEs(ctx, &pvalue->handoverFromUTRANCommand_GSM_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6(rtxContext* ctx, HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* handoverFromUTRANCommand-GSM-r6 */
-   rtxCtxtPushElemName(ctx, "handoverFromUTRANCommand-GSM-r6");
-   stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs(ctx, &pvalue->handoverFromUTRANCommand_GSM_r6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* handoverFromUTRANCommand-GSM-r6-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "handoverFromUTRANCommand-GSM-r6-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->handoverFromUTRANCommand_GSM_r6_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v860NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* ctx, HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions(rtxContext* ctx, HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r6");
-         pvalue->u.r6 = (HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6*)rtxMemHeapAlloc(ctx, sizeof(HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6));
-         if (pvalue->u.r6 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6(pvalue->u.r6);
-         stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6(ctx, pvalue->u.r6);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3(rtxContext* ctx, HandoverFromUTRANCommand_GSM_later_than_r3* pvalue)
-{
-   int stat = 0;
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* criticalExtensions */
-   rtxCtxtPushElemName(ctx, "criticalExtensions");
-   stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GSM(rtxContext* ctx, HandoverFromUTRANCommand_GSM* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "HandoverFromUTRANCommand-GSM");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r3");
-         pvalue->u.r3 = (HandoverFromUTRANCommand_GSM_r3*)rtxMemHeapAlloc(ctx, sizeof(HandoverFromUTRANCommand_GSM_r3));
-         if (pvalue->u.r3 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverFromUTRANCommand_GSM_r3(pvalue->u.r3);
-         stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "later-than-r3");
-         pvalue->u.later_than_r3 = (HandoverFromUTRANCommand_GSM_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(HandoverFromUTRANCommand_GSM_later_than_r3));
-         if (pvalue->u.later_than_r3 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3(pvalue->u.later_than_r3);
-         stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_single_GERANIu_Message(rtxContext* ctx, HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_single_GERANIu_Message* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_geranIu_MessageList(rtxContext* ctx, HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_geranIu_MessageList* pvalue)
-{
-   int stat = 0;
-   /* geranIu-Messages */
-   rtxCtxtPushElemName(ctx, "geranIu-Messages");
-   stat = asn1PD_UMTS_GERANIu_MessageList(ctx, &pvalue->geranIu_Messages);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message(rtxContext* ctx, HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "single-GERANIu-Message");
-         pvalue->u.single_GERANIu_Message = (HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_single_GERANIu_Message*)rtxMemHeapAllocZ(ctx, sizeof(HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_single_GERANIu_Message));
-         if (pvalue->u.single_GERANIu_Message == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_single_GERANIu_Message(ctx, pvalue->u.single_GERANIu_Message);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "geranIu-MessageList");
-         pvalue->u.geranIu_MessageList = (HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_geranIu_MessageList*)rtxMemHeapAlloc(ctx, sizeof(HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_geranIu_MessageList));
-         if (pvalue->u.geranIu_MessageList == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_geranIu_MessageList(pvalue->u.geranIu_MessageList);
-         stat = asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_geranIu_MessageList(ctx, pvalue->u.geranIu_MessageList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs(rtxContext* ctx, HandoverFromUTRANCommand_GERANIu_r5_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "HandoverFromUTRANCommand-GERANIu-r5-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* activationTime */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequency-Band */
-   rtxCtxtPushElemName(ctx, "frequency-Band");
-   rtxCtxtPushTypeName(ctx, "Frequency-Band");
-   stat = pd_ConsUnsigned(ctx, &pvalue->frequency_Band, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* geranIu-Message */
-   rtxCtxtPushElemName(ctx, "geranIu-Message");
-   stat = asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message(ctx, &pvalue->geranIu_Message);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5_nonCriticalExtensions(rtxContext* ctx, HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5(rtxContext* ctx, HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* handoverFromUTRANCommand-GERANIu-r5 */
-   rtxCtxtPushElemName(ctx, "handoverFromUTRANCommand-GERANIu-r5");
-   stat = asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs(ctx, &pvalue->handoverFromUTRANCommand_GERANIu_r5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_later_than_r5_criticalExtensions(rtxContext* ctx, HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_later_than_r5_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_later_than_r5(rtxContext* ctx, HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_later_than_r5* pvalue)
-{
-   int stat = 0;
-   /* criticalExtensions */
-   rtxCtxtPushElemName(ctx, "criticalExtensions");
-   stat = asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_later_than_r5_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu(rtxContext* ctx, HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r5");
-         pvalue->u.r5 = (HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5*)rtxMemHeapAlloc(ctx, sizeof(HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5));
-         if (pvalue->u.r5 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5(pvalue->u.r5);
-         stat = asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5(ctx, pvalue->u.r5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "later-than-r5");
-         pvalue->u.later_than_r5 = (HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_later_than_r5*)rtxMemHeapAllocZ(ctx, sizeof(HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_later_than_r5));
-         if (pvalue->u.later_than_r5 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_later_than_r5(ctx, pvalue->u.later_than_r5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu(rtxContext* ctx, HandoverFromUTRANCommand_GERANIu* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HandoverFromUTRANCommand-GERANIu");
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* handoverFromUTRANCommand-GERANIu */
-   rtxCtxtPushElemName(ctx, "handoverFromUTRANCommand-GERANIu");
-   stat = asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu(ctx, &pvalue->handoverFromUTRANCommand_GERANIu);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000_r3_IEs(rtxContext* ctx, HandoverFromUTRANCommand_CDMA2000_r3_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "HandoverFromUTRANCommand-CDMA2000-r3-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* activationTime */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* toHandoverRAB-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "toHandoverRAB-Info");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RAB_Info(ctx, &pvalue->toHandoverRAB_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cdma2000-MessageList */
-   rtxCtxtPushElemName(ctx, "cdma2000-MessageList");
-   stat = asn1PD_UMTS_CDMA2000_MessageList(ctx, &pvalue->cdma2000_MessageList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000_r3_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, HandoverFromUTRANCommand_CDMA2000_r3_laterNonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000_r3_laterNonCriticalExtensions(rtxContext* ctx, HandoverFromUTRANCommand_CDMA2000_r3_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* handoverFromUTRANCommand-CDMA2000-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "handoverFromUTRANCommand-CDMA2000-r3-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->handoverFromUTRANCommand_CDMA2000_r3_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000_r3_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000_r3(rtxContext* ctx, HandoverFromUTRANCommand_CDMA2000_r3* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* handoverFromUTRANCommand-CDMA2000-r3 */
-   rtxCtxtPushElemName(ctx, "handoverFromUTRANCommand-CDMA2000-r3");
-   stat = asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000_r3_IEs(ctx, &pvalue->handoverFromUTRANCommand_CDMA2000_r3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000_later_than_r3_criticalExtensions(rtxContext* ctx, HandoverFromUTRANCommand_CDMA2000_later_than_r3_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000_later_than_r3(rtxContext* ctx, HandoverFromUTRANCommand_CDMA2000_later_than_r3* pvalue)
-{
-   int stat = 0;
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* criticalExtensions */
-   rtxCtxtPushElemName(ctx, "criticalExtensions");
-   stat = asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000(rtxContext* ctx, HandoverFromUTRANCommand_CDMA2000* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "HandoverFromUTRANCommand-CDMA2000");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r3");
-         pvalue->u.r3 = (HandoverFromUTRANCommand_CDMA2000_r3*)rtxMemHeapAlloc(ctx, sizeof(HandoverFromUTRANCommand_CDMA2000_r3));
-         if (pvalue->u.r3 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverFromUTRANCommand_CDMA2000_r3(pvalue->u.r3);
-         stat = asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "later-than-r3");
-         pvalue->u.later_than_r3 = (HandoverFromUTRANCommand_CDMA2000_later_than_r3*)rtxMemHeapAllocZ(ctx, sizeof(HandoverFromUTRANCommand_CDMA2000_later_than_r3));
-         if (pvalue->u.later_than_r3 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_EUTRA_r8_IEs(rtxContext* ctx, HandoverFromUTRANCommand_EUTRA_r8_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "HandoverFromUTRANCommand-EUTRA-r8-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* activationTime */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* toHandoverRAB-Info */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "toHandoverRAB-Info");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RAB_InformationList(ctx, &pvalue->toHandoverRAB_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* eutra-Message */
-   rtxCtxtPushElemName(ctx, "eutra-Message");
-   stat = pd_DynOctetString(ctx, &pvalue->eutra_Message);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8_nonCriticalExtensions(rtxContext* ctx, HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8(rtxContext* ctx, HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* handoverFromUTRANCommand-EUTRA-r8 */
-   rtxCtxtPushElemName(ctx, "handoverFromUTRANCommand-EUTRA-r8");
-   stat = asn1PD_UMTS_HandoverFromUTRANCommand_EUTRA_r8_IEs(ctx, &pvalue->handoverFromUTRANCommand_EUTRA_r8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* handoverFromUTRANCommand-EUTRA-r8-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "handoverFromUTRANCommand-EUTRA-r8-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->handoverFromUTRANCommand_EUTRA_r8_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions_criticalExtensions(rtxContext* ctx, HandoverFromUTRANCommand_EUTRA_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions(rtxContext* ctx, HandoverFromUTRANCommand_EUTRA_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r8");
-         pvalue->u.r8 = (HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8*)rtxMemHeapAlloc(ctx, sizeof(HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8));
-         if (pvalue->u.r8 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8(pvalue->u.r8);
-         stat = asn1PD_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8(ctx, pvalue->u.r8);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (HandoverFromUTRANCommand_EUTRA_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(HandoverFromUTRANCommand_EUTRA_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANCommand_EUTRA(rtxContext* ctx, HandoverFromUTRANCommand_EUTRA* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HandoverFromUTRANCommand-EUTRA");
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* criticalExtensions */
-   rtxCtxtPushElemName(ctx, "criticalExtensions");
-   stat = asn1PD_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANFailure_interRATMessage_gsm(rtxContext* ctx, HandoverFromUTRANFailure_interRATMessage_gsm* pvalue)
-{
-   int stat = 0;
-   /* gsm-MessageList */
-   rtxCtxtPushElemName(ctx, "gsm-MessageList");
-   stat = asn1PD_UMTS_GSM_MessageList(ctx, &pvalue->gsm_MessageList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANFailure_interRATMessage_cdma2000(rtxContext* ctx, HandoverFromUTRANFailure_interRATMessage_cdma2000* pvalue)
-{
-   int stat = 0;
-   /* cdma2000-MessageList */
-   rtxCtxtPushElemName(ctx, "cdma2000-MessageList");
-   stat = asn1PD_UMTS_CDMA2000_MessageList(ctx, &pvalue->cdma2000_MessageList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANFailure_interRATMessage(rtxContext* ctx, HandoverFromUTRANFailure_interRATMessage* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "gsm");
-         pvalue->u.gsm = (HandoverFromUTRANFailure_interRATMessage_gsm*)rtxMemHeapAlloc(ctx, sizeof(HandoverFromUTRANFailure_interRATMessage_gsm));
-         if (pvalue->u.gsm == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverFromUTRANFailure_interRATMessage_gsm(pvalue->u.gsm);
-         stat = asn1PD_UMTS_HandoverFromUTRANFailure_interRATMessage_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "cdma2000");
-         pvalue->u.cdma2000 = (HandoverFromUTRANFailure_interRATMessage_cdma2000*)rtxMemHeapAlloc(ctx, sizeof(HandoverFromUTRANFailure_interRATMessage_cdma2000));
-         if (pvalue->u.cdma2000 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_HandoverFromUTRANFailure_interRATMessage_cdma2000(pvalue->u.cdma2000);
-         stat = asn1PD_UMTS_HandoverFromUTRANFailure_interRATMessage_cdma2000(ctx, pvalue->u.cdma2000);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUtranFailure_v590ext_IEs(rtxContext* ctx, HandoverFromUtranFailure_v590ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "HandoverFromUtranFailure-v590ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* geranIu-MessageList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "geranIu-MessageList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_GERANIu_MessageList(ctx, &pvalue->geranIu_MessageList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUtranFailure_v860ext_IEs(rtxContext* ctx, HandoverFromUtranFailure_v860ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "HandoverFromUtranFailure-v860ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* eutra-Message */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "eutra-Message");
-      pvalue->m |= 0x1u;
-      stat = pd_DynOctetString(ctx, &pvalue->eutra_Message);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* ctx, HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* handoverFromUTRANFailure-v860ext */
-   rtxCtxtPushElemName(ctx, "handoverFromUTRANFailure-v860ext");
-   stat = asn1PD_UMTS_HandoverFromUtranFailure_v860ext_IEs(ctx, &pvalue->handoverFromUTRANFailure_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* ctx, HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* handoverFromUTRANFailure-v590ext */
-   rtxCtxtPushElemName(ctx, "handoverFromUTRANFailure-v590ext");
-   stat = asn1PD_UMTS_HandoverFromUtranFailure_v590ext_IEs(ctx, &pvalue->handoverFromUTRANFailure_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v860NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions(rtxContext* ctx, HandoverFromUTRANFailure_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* handoverFromUTRANFailure-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "handoverFromUTRANFailure-r3-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->handoverFromUTRANFailure_r3_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v590NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_HandoverFromUTRANFailure(rtxContext* ctx, HandoverFromUTRANFailure* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "HandoverFromUTRANFailure");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* interRAT-HO-FailureCause */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "interRAT-HO-FailureCause");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRAT_HO_FailureCause(ctx, &pvalue->interRAT_HO_FailureCause);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interRATMessage */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "interRATMessage");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_HandoverFromUTRANFailure_interRATMessage(ctx, &pvalue->interRATMessage);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACH", -1, "UplinkDirectTransfer");
    }
    /* laterNonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_predefinedConfigStatusList(rtxContext* ctx, InterRATHandoverInfo_predefinedConfigStatusList* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "absent");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "present");
-         pvalue->u.present = (PredefinedConfigStatusList*)rtxMemHeapAlloc(ctx, sizeof(PredefinedConfigStatusList));
-         if (pvalue->u.present == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PredefinedConfigStatusList(pvalue->u.present);
-         stat = asn1PD_UMTS_PredefinedConfigStatusList(ctx, pvalue->u.present);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_uE_SecurityInformation(rtxContext* ctx, InterRATHandoverInfo_uE_SecurityInformation* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "absent");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "present");
-         pvalue->u.present = (UE_SecurityInformation*)rtxMemHeapAlloc(ctx, sizeof(UE_SecurityInformation));
-         if (pvalue->u.present == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_UE_SecurityInformation(pvalue->u.present);
-         stat = asn1PD_UMTS_UE_SecurityInformation(ctx, pvalue->u.present);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_ue_CapabilityContainer_present(rtxContext* ctx, InterRATHandoverInfo_ue_CapabilityContainer_present* pvalue)
-{
-   int stat;
-   RT_SET_SIZE(ctx, 0, 63);
-   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_ue_CapabilityContainer(rtxContext* ctx, InterRATHandoverInfo_ue_CapabilityContainer* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "absent");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "present");
-         pvalue->u.present = (InterRATHandoverInfo_ue_CapabilityContainer_present*)rtxMemHeapAlloc(ctx, sizeof(InterRATHandoverInfo_ue_CapabilityContainer_present));
-         if (pvalue->u.present == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterRATHandoverInfo_ue_CapabilityContainer_present(pvalue->u.present);
-         stat = asn1PD_UMTS_InterRATHandoverInfo_ue_CapabilityContainer_present(ctx, pvalue->u.present);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v390ext_IEs(rtxContext* ctx, InterRATHandoverInfo_v390ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-v390ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapability-v380ext */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapability-v380ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapability_v380ext(ctx, &pvalue->ue_RadioAccessCapability_v380ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-PhysChCapabilityFDD-v380ext */
-   rtxCtxtPushElemName(ctx, "dl-PhysChCapabilityFDD-v380ext");
-   stat = asn1PD_UMTS_DL_PhysChCapabilityFDD_v380ext(ctx, &pvalue->dl_PhysChCapabilityFDD_v380ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v3a0ext_IEs(rtxContext* ctx, InterRATHandoverInfo_v3a0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-v3a0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapability-v3a0ext */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapability-v3a0ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapability_v3a0ext(ctx, &pvalue->ue_RadioAccessCapability_v3a0ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v3d0ext_IEs(rtxContext* ctx, InterRATHandoverInfo_v3d0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-v3d0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* uESpecificBehaviourInformation1interRAT */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "uESpecificBehaviourInformation1interRAT");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UESpecificBehaviourInformation1interRAT(ctx, &pvalue->uESpecificBehaviourInformation1interRAT);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v690ext1_IEs(rtxContext* ctx, InterRATHandoverInfo_v690ext1_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-v690ext1-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapability-v650ext */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapability-v650ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapability_v650ext(ctx, &pvalue->ue_RadioAccessCapability_v650ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v7e0ext_IEs(rtxContext* ctx, InterRATHandoverInfo_v7e0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-v7e0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapability */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapability");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapability_v7e0ext(ctx, &pvalue->ue_RadioAccessCapability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v7f0ext_IEs(rtxContext* ctx, InterRATHandoverInfo_v7f0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-v7f0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapability */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapability");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapability_v7f0ext(ctx, &pvalue->ue_RadioAccessCapability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-RadioAccessCapabilityComp2 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapabilityComp2");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v7f0ext(ctx, &pvalue->ue_RadioAccessCapabilityComp2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UplinkDirectTransfer_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "UplinkDirectTransfer");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions* pvalue)
+int asn1PD_UMTS_UplinkPhysicalChannelControl_r3_IEs(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_r3_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* ctx, InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* interRATHandoverInfo-v7f0ext */
-   rtxCtxtPushElemName(ctx, "interRATHandoverInfo-v7f0ext");
-   stat = asn1PD_UMTS_InterRATHandoverInfo_v7f0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v7f0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions(rtxContext* ctx, InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* interRATHandoverInfo-v7e0ext */
-   rtxCtxtPushElemName(ctx, "interRATHandoverInfo-v7e0ext");
-   stat = asn1PD_UMTS_InterRATHandoverInfo_v7e0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v7e0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v7f0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v7f0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_r3_add_ext_IEs(rtxContext* ctx, InterRATHandoverInfo_r3_add_ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-r3-add-ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* interRATHandoverInfo-v690ext1 */
-   rtxCtxtPushElemName(ctx, "interRATHandoverInfo-v690ext1");
-   stat = asn1PD_UMTS_InterRATHandoverInfo_v690ext1_IEs(ctx, &pvalue->interRATHandoverInfo_v690ext1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v7e0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v7e0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions(ctx, &pvalue->v7e0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v3g0ext_IEs(rtxContext* ctx, InterRATHandoverInfo_v3g0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-v3g0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapability-v3g0ext */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapability-v3g0ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapability_v3g0ext(ctx, &pvalue->ue_RadioAccessCapability_v3g0ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v4b0ext_IEs(rtxContext* ctx, InterRATHandoverInfo_v4b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-v4b0ext-IEs");
-   /* accessStratumReleaseIndicator */
-   rtxCtxtPushElemName(ctx, "accessStratumReleaseIndicator");
-   rtxCtxtPushTypeName(ctx, "AccessStratumReleaseIndicator");
-   stat = pd_ConsUnsigned(ctx, &pvalue->accessStratumReleaseIndicator, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v4d0ext_IEs(rtxContext* ctx, InterRATHandoverInfo_v4d0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-v4d0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* tdd128-RF-Capability */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "tdd128-RF-Capability");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "RadioFrequencyBandTDDList");
-      stat = pd_ConsUnsigned(ctx, &pvalue->tdd128_RF_Capability, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v590ext_IEs(rtxContext* ctx, InterRATHandoverInfo_v590ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-v590ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* predefinedConfigStatusListComp */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "predefinedConfigStatusListComp");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PredefinedConfigStatusListComp(ctx, &pvalue->predefinedConfigStatusListComp);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-RadioAccessCapabilityComp */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapabilityComp");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapabilityComp(ctx, &pvalue->ue_RadioAccessCapabilityComp);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v690ext_IEs(rtxContext* ctx, InterRATHandoverInfo_v690ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-v690ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ue-SecurityInformation2 */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-SecurityInformation2");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_SecurityInformation2(ctx, &pvalue->ue_SecurityInformation2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-RadioAccessCapabilityComp */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapabilityComp");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapabilityComp_ext(ctx, &pvalue->ue_RadioAccessCapabilityComp);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-RadioAccessCapabilityComp2 */
-   rtxCtxtPushElemName(ctx, "ue-RadioAccessCapabilityComp2");
-   stat = asn1PD_UMTS_UE_RadioAccessCapabilityComp2(ctx, &pvalue->ue_RadioAccessCapabilityComp2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v6b0ext_IEs_supportForSIB11bis(rtxContext* ctx, InterRATHandoverInfo_v6b0ext_IEs_supportForSIB11bis* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v6b0ext_IEs(rtxContext* ctx, InterRATHandoverInfo_v6b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-v6b0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* supportForSIB11bis */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "supportForSIB11bis");
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportForSIB11bis = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v6e0ext_IEs_supportForFDPCH(rtxContext* ctx, InterRATHandoverInfo_v6e0ext_IEs_supportForFDPCH* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v6e0ext_IEs(rtxContext* ctx, InterRATHandoverInfo_v6e0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-v6e0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* supportForFDPCH */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "supportForFDPCH");
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportForFDPCH = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v770ext_IEs(rtxContext* ctx, InterRATHandoverInfo_v770ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-v770ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapabilityInfo */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapabilityInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapabilityInfo_v770ext(ctx, &pvalue->ue_RadioAccessCapabilityInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-RadioAccessCapabilityComp */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapabilityComp");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapabilityComp_v770ext(ctx, &pvalue->ue_RadioAccessCapabilityComp);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-RadioAccessCapabilityComp2 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapabilityComp2");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v770ext(ctx, &pvalue->ue_RadioAccessCapabilityComp2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v790ext_IEs_supportForEDPCCHPowerBoosting(rtxContext* ctx, InterRATHandoverInfo_v790ext_IEs_supportForEDPCCHPowerBoosting* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v790ext_IEs(rtxContext* ctx, InterRATHandoverInfo_v790ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-v790ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* supportForEDPCCHPowerBoosting */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "supportForEDPCCHPowerBoosting");
-      pvalue->m |= 0x1u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->supportForEDPCCHPowerBoosting = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v860ext_IEs(rtxContext* ctx, InterRATHandoverInfo_v860ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-v860ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapabilityInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapabilityInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapability_v860ext(ctx, &pvalue->ue_RadioAccessCapabilityInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-RadioAccessCapabilityComp2 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapabilityComp2");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v860ext(ctx, &pvalue->ue_RadioAccessCapabilityComp2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v880ext_IEs(rtxContext* ctx, InterRATHandoverInfo_v880ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-v880ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapabilityInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapabilityInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapability_v880ext(ctx, &pvalue->ue_RadioAccessCapabilityInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-RadioAccessCapabilityInfo-TDD128 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapabilityInfo-TDD128");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapabilityComp_TDD128(ctx, &pvalue->ue_RadioAccessCapabilityInfo_TDD128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v920ext_IEs(rtxContext* ctx, InterRATHandoverInfo_v920ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-v920ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapabilityInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapabilityInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapability_v920ext(ctx, &pvalue->ue_RadioAccessCapabilityInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-RadioAccessCapabilityComp2 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapabilityComp2");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UE_RadioAccessCapabilityComp2_v920ext(ctx, &pvalue->ue_RadioAccessCapabilityComp2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v920NonCriticalExtensions(rtxContext* ctx, InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v920NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* interRATHandoverInfo-v920ext */
-   rtxCtxtPushElemName(ctx, "interRATHandoverInfo-v920ext");
-   stat = asn1PD_UMTS_InterRATHandoverInfo_v920ext_IEs(ctx, &pvalue->interRATHandoverInfo_v920ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions(rtxContext* ctx, InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* interRATHandoverInfo-v880ext */
-   rtxCtxtPushElemName(ctx, "interRATHandoverInfo-v880ext");
-   stat = asn1PD_UMTS_InterRATHandoverInfo_v880ext_IEs(ctx, &pvalue->interRATHandoverInfo_v880ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v920NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v920NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions(rtxContext* ctx, InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* interRATHandoverInfo-v860ext */
-   rtxCtxtPushElemName(ctx, "interRATHandoverInfo-v860ext");
-   stat = asn1PD_UMTS_InterRATHandoverInfo_v860ext_IEs(ctx, &pvalue->interRATHandoverInfo_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v880NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v880NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions(ctx, &pvalue->v880NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions(rtxContext* ctx, InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* interRATHandoverInfo-v790ext */
-   rtxCtxtPushElemName(ctx, "interRATHandoverInfo-v790ext");
-   stat = asn1PD_UMTS_InterRATHandoverInfo_v790ext_IEs(ctx, &pvalue->interRATHandoverInfo_v790ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v860NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* interRATHandoverInfo-v770ext */
-   rtxCtxtPushElemName(ctx, "interRATHandoverInfo-v770ext");
-   stat = asn1PD_UMTS_InterRATHandoverInfo_v770ext_IEs(ctx, &pvalue->interRATHandoverInfo_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v790nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v790nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions(ctx, &pvalue->v790nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions(rtxContext* ctx, InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* interRATHandoverInfo-v6e0ext */
-   rtxCtxtPushElemName(ctx, "interRATHandoverInfo-v6e0ext");
-   stat = asn1PD_UMTS_InterRATHandoverInfo_v6e0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v6e0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs(rtxContext* ctx, InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-NonCriticalExtension-v6b0-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* interRATHandoverInfo-v6b0ext */
-   rtxCtxtPushElemName(ctx, "interRATHandoverInfo-v6b0ext");
-   stat = asn1PD_UMTS_InterRATHandoverInfo_v6b0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v6b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v6e0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v6e0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions(ctx, &pvalue->v6e0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* ctx, InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* interRATHandoverInfo-v690ext */
-   rtxCtxtPushElemName(ctx, "interRATHandoverInfo-v690ext");
-   stat = asn1PD_UMTS_InterRATHandoverInfo_v690ext_IEs(ctx, &pvalue->interRATHandoverInfo_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v6b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v6b0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* ctx, InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions_v590NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* interRATHandoverInfo-v590ext */
-   rtxCtxtPushElemName(ctx, "interRATHandoverInfo-v590ext");
-   stat = asn1PD_UMTS_InterRATHandoverInfo_v590ext_IEs(ctx, &pvalue->interRATHandoverInfo_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions(rtxContext* ctx, InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* interRATHandoverInfo-v4d0ext */
-   rtxCtxtPushElemName(ctx, "interRATHandoverInfo-v4d0ext");
-   stat = asn1PD_UMTS_InterRATHandoverInfo_v4d0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v4d0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v590NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* ctx, InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* interRATHandoverInfo-v4b0ext */
-   rtxCtxtPushElemName(ctx, "interRATHandoverInfo-v4b0ext");
-   stat = asn1PD_UMTS_InterRATHandoverInfo_v4b0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v4b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v4d0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v4d0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions(rtxContext* ctx, InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* interRATHandoverInfo-v3g0ext */
-   rtxCtxtPushElemName(ctx, "interRATHandoverInfo-v3g0ext");
-   stat = asn1PD_UMTS_InterRATHandoverInfo_v3g0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v3g0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v4b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v4b0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* ctx, InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* interRATHandoverInfo-v3d0ext */
-   rtxCtxtPushElemName(ctx, "interRATHandoverInfo-v3d0ext");
-   stat = asn1PD_UMTS_InterRATHandoverInfo_v3d0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v3d0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* interRATHandoverInfo-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "interRATHandoverInfo-r3-add-ext");
-      pvalue->m |= 0x1u;
-      {
-         rtxDynBitStr carrier;
-         rtxContext outer;
-         stat = pd_DynBitString(ctx, &carrier);
-         RT_CHECK(ctx, stat);
-         rtxCopyContext(&outer, ctx);
-         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
-         if (stat == 0) {
-            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
-            stat = asn1PD_UMTS_InterRATHandoverInfo_r3_add_ext_IEs(ctx, &pvalue->interRATHandoverInfo_r3_add_ext);
-            RT_CHECK(ctx, stat);
-         }
-         rtxCopyContext(ctx, &outer);
-         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v3g0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v3g0NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions(ctx, &pvalue->v3g0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return stat;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions(rtxContext* ctx, InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* interRATHandoverInfo-v3a0ext */
-   rtxCtxtPushElemName(ctx, "interRATHandoverInfo-v3a0ext");
-   stat = asn1PD_UMTS_InterRATHandoverInfo_v3a0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v3a0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present(rtxContext* ctx, InterRATHandoverInfo_v390NonCriticalExtensions_present* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* interRATHandoverInfo-v390ext */
-   rtxCtxtPushElemName(ctx, "interRATHandoverInfo-v390ext");
-   stat = asn1PD_UMTS_InterRATHandoverInfo_v390ext_IEs(ctx, &pvalue->interRATHandoverInfo_v390ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v3a0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v3a0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions(rtxContext* ctx, InterRATHandoverInfo_v390NonCriticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "absent");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "present");
-         pvalue->u.present = (InterRATHandoverInfo_v390NonCriticalExtensions_present*)rtxMemHeapAlloc(ctx, sizeof(InterRATHandoverInfo_v390NonCriticalExtensions_present));
-         if (pvalue->u.present == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present(pvalue->u.present);
-         stat = asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present(ctx, pvalue->u.present);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_InterRATHandoverInfo(rtxContext* ctx, InterRATHandoverInfo* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo");
-   /* predefinedConfigStatusList */
-   rtxCtxtPushElemName(ctx, "predefinedConfigStatusList");
-   stat = asn1PD_UMTS_InterRATHandoverInfo_predefinedConfigStatusList(ctx, &pvalue->predefinedConfigStatusList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* uE-SecurityInformation */
-   rtxCtxtPushElemName(ctx, "uE-SecurityInformation");
-   stat = asn1PD_UMTS_InterRATHandoverInfo_uE_SecurityInformation(ctx, &pvalue->uE_SecurityInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-CapabilityContainer */
-   rtxCtxtPushElemName(ctx, "ue-CapabilityContainer");
-   stat = asn1PD_UMTS_InterRATHandoverInfo_ue_CapabilityContainer(ctx, &pvalue->ue_CapabilityContainer);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v390NonCriticalExtensions */
-   rtxCtxtPushElemName(ctx, "v390NonCriticalExtensions");
-   stat = asn1PD_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions(ctx, &pvalue->v390NonCriticalExtensions);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_r3_IEs(rtxContext* ctx, MeasurementControl_r3_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MeasurementControl-r3-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* measurementIdentity */
-   rtxCtxtPushElemName(ctx, "measurementIdentity");
-   rtxCtxtPushTypeName(ctx, "MeasurementIdentity");
-   stat = pd_ConsUInt8(ctx, &pvalue->measurementIdentity, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* measurementCommand */
-   rtxCtxtPushElemName(ctx, "measurementCommand");
-   stat = asn1PD_UMTS_MeasurementCommand(ctx, &pvalue->measurementCommand);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementReportingMode */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "measurementReportingMode");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* additionalMeasurementList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "additionalMeasurementList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dpch-CompressedModeStatusInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dpch-CompressedModeStatusInfo");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_DPCH_CompressedModeStatusInfo(ctx, &pvalue->dpch_CompressedModeStatusInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_v390ext(rtxContext* ctx, MeasurementControl_v390ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MeasurementControl-v390ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ue-Positioning-Measurement-v390ext */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-Measurement-v390ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UE_Positioning_Measurement_v390ext(ctx, &pvalue->ue_Positioning_Measurement_v390ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_v3a0ext(rtxContext* ctx, MeasurementControl_v3a0ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MeasurementControl-v3a0ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* sfn-Offset-Validity */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "sfn-Offset-Validity");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "SFN-Offset-Validity");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->sfn_Offset_Validity = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_v590ext_IEs_measurementCommand_v590ext(rtxContext* ctx, MeasurementControl_v590ext_IEs_measurementCommand_v590ext* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "intra-frequency");
-         pvalue->u.intra_frequency = (Intra_FreqEventCriteriaList_v590ext*)rtxMemHeapAlloc(ctx, sizeof(Intra_FreqEventCriteriaList_v590ext));
-         if (pvalue->u.intra_frequency == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_Intra_FreqEventCriteriaList_v590ext(pvalue->u.intra_frequency);
-         stat = asn1PD_UMTS_Intra_FreqEventCriteriaList_v590ext(ctx, pvalue->u.intra_frequency);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "inter-frequency");
-         pvalue->u.inter_frequency = (Inter_FreqEventCriteriaList_v590ext*)rtxMemHeapAlloc(ctx, sizeof(Inter_FreqEventCriteriaList_v590ext));
-         if (pvalue->u.inter_frequency == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_Inter_FreqEventCriteriaList_v590ext(pvalue->u.inter_frequency);
-         stat = asn1PD_UMTS_Inter_FreqEventCriteriaList_v590ext(ctx, pvalue->u.inter_frequency);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_v590ext_IEs(rtxContext* ctx, MeasurementControl_v590ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MeasurementControl-v590ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* measurementCommand-v590ext */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "measurementCommand-v590ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementControl_v590ext_IEs_measurementCommand_v590ext(ctx, &pvalue->measurementCommand_v590ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqReportingCriteria-1b-r5 */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "intraFreqReportingCriteria-1b-r5");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_IntraFreqReportingCriteria_1b_r5(ctx, &pvalue->intraFreqReportingCriteria_1b_r5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqEvent-1d-r5 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "intraFreqEvent-1d-r5");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_IntraFreqEvent_1d_r5(ctx, &pvalue->intraFreqEvent_1d_r5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rrc-TransactionIdentifier-MSP-v590ext */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier-MSP-v590ext");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier_MSP_v590ext, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_v5b0ext_IEs(rtxContext* ctx, MeasurementControl_v5b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MeasurementControl-v5b0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* interRATCellInfoIndication */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interRATCellInfoIndication");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "InterRATCellInfoIndication");
-      stat = pd_ConsUInt8(ctx, &pvalue->interRATCellInfoIndication, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions(rtxContext* ctx, MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measurementControl-v5b0ext */
-   rtxCtxtPushElemName(ctx, "measurementControl-v5b0ext");
-   stat = asn1PD_UMTS_MeasurementControl_v5b0ext_IEs(ctx, &pvalue->measurementControl_v5b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* ctx, MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measurementControl-v590ext */
-   rtxCtxtPushElemName(ctx, "measurementControl-v590ext");
-   stat = asn1PD_UMTS_MeasurementControl_v590ext_IEs(ctx, &pvalue->measurementControl_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v5b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v5b0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions(ctx, &pvalue->v5b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* ctx, MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* v590NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* ctx, MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* measurementControl-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "measurementControl-r3-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->measurementControl_r3_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v4b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v4b0NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions(rtxContext* ctx, MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measurementControl-v3a0ext */
-   rtxCtxtPushElemName(ctx, "measurementControl-v3a0ext");
-   stat = asn1PD_UMTS_MeasurementControl_v3a0ext(ctx, &pvalue->measurementControl_v3a0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions(rtxContext* ctx, MeasurementControl_r3_v390nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measurementControl-v390ext */
-   rtxCtxtPushElemName(ctx, "measurementControl-v390ext");
-   stat = asn1PD_UMTS_MeasurementControl_v390ext(ctx, &pvalue->measurementControl_v390ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v3a0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v3a0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_r3(rtxContext* ctx, MeasurementControl_r3* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measurementControl-r3 */
-   rtxCtxtPushElemName(ctx, "measurementControl-r3");
-   stat = asn1PD_UMTS_MeasurementControl_r3_IEs(ctx, &pvalue->measurementControl_r3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v390nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v390nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementControl_r3_v390nonCriticalExtensions(ctx, &pvalue->v390nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_r4_IEs(rtxContext* ctx, MeasurementControl_r4_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MeasurementControl-r4-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* measurementIdentity */
-   rtxCtxtPushElemName(ctx, "measurementIdentity");
-   rtxCtxtPushTypeName(ctx, "MeasurementIdentity");
-   stat = pd_ConsUInt8(ctx, &pvalue->measurementIdentity, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* measurementCommand */
-   rtxCtxtPushElemName(ctx, "measurementCommand");
-   stat = asn1PD_UMTS_MeasurementCommand_r4(ctx, &pvalue->measurementCommand);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementReportingMode */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "measurementReportingMode");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* additionalMeasurementList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "additionalMeasurementList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dpch-CompressedModeStatusInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dpch-CompressedModeStatusInfo");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_DPCH_CompressedModeStatusInfo(ctx, &pvalue->dpch_CompressedModeStatusInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions(rtxContext* ctx, MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measurementControl-v5b0ext */
-   rtxCtxtPushElemName(ctx, "measurementControl-v5b0ext");
-   stat = asn1PD_UMTS_MeasurementControl_v5b0ext_IEs(ctx, &pvalue->measurementControl_v5b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* ctx, MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measurementControl-v590ext */
-   rtxCtxtPushElemName(ctx, "measurementControl-v590ext");
-   stat = asn1PD_UMTS_MeasurementControl_v590ext_IEs(ctx, &pvalue->measurementControl_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v5b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v5b0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions(ctx, &pvalue->v5b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* ctx, MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* measurementControl-r4-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "measurementControl-r4-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->measurementControl_r4_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v590NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4(rtxContext* ctx, MeasurementControl_later_than_r3_criticalExtensions_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measurementControl-r4 */
-   rtxCtxtPushElemName(ctx, "measurementControl-r4");
-   stat = asn1PD_UMTS_MeasurementControl_r4_IEs(ctx, &pvalue->measurementControl_r4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v4d0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v4d0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_r6_IEs(rtxContext* ctx, MeasurementControl_r6_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MeasurementControl-r6-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* measurementIdentity */
-   rtxCtxtPushElemName(ctx, "measurementIdentity");
-   rtxCtxtPushTypeName(ctx, "MeasurementIdentity");
-   stat = pd_ConsUInt8(ctx, &pvalue->measurementIdentity, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* measurementCommand */
-   rtxCtxtPushElemName(ctx, "measurementCommand");
-   stat = asn1PD_UMTS_MeasurementCommand_r6(ctx, &pvalue->measurementCommand);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementReportingMode */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "measurementReportingMode");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* additionalMeasurementList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "additionalMeasurementList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dpch-CompressedModeStatusInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dpch-CompressedModeStatusInfo");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_DPCH_CompressedModeStatusInfo(ctx, &pvalue->dpch_CompressedModeStatusInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_v6a0ext_IEs(rtxContext* ctx, MeasurementControl_v6a0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MeasurementControl-v6a0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* intraFreqReportingCriteria-1b-r5 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "intraFreqReportingCriteria-1b-r5");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntraFreqReportingCriteria_1b_r5(ctx, &pvalue->intraFreqReportingCriteria_1b_r5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6_v6a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6_v6a0NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6_v6a0NonCriticalExtensions(rtxContext* ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6_v6a0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measurementControl-v6a0ext */
-   rtxCtxtPushElemName(ctx, "measurementControl-v6a0ext");
-   stat = asn1PD_UMTS_MeasurementControl_v6a0ext_IEs(ctx, &pvalue->measurementControl_v6a0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6_v6a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6(rtxContext* ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measurementControl-r6 */
-   rtxCtxtPushElemName(ctx, "measurementControl-r6");
-   stat = asn1PD_UMTS_MeasurementControl_r6_IEs(ctx, &pvalue->measurementControl_r6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v6a0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v6a0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6_v6a0NonCriticalExtensions(ctx, &pvalue->v6a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_r7_IEs(rtxContext* ctx, MeasurementControl_r7_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MeasurementControl-r7-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* measurementIdentity */
-   rtxCtxtPushElemName(ctx, "measurementIdentity");
-   rtxCtxtPushTypeName(ctx, "MeasurementIdentity");
-   stat = pd_ConsUInt8(ctx, &pvalue->measurementIdentity, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* measurementCommand */
-   rtxCtxtPushElemName(ctx, "measurementCommand");
-   stat = asn1PD_UMTS_MeasurementCommand_r7(ctx, &pvalue->measurementCommand);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementReportingMode */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "measurementReportingMode");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* additionalMeasurementList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "additionalMeasurementList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dpch-CompressedModeStatusInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dpch-CompressedModeStatusInfo");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_DPCH_CompressedModeStatusInfo(ctx, &pvalue->dpch_CompressedModeStatusInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_v7b0ext_IEs(rtxContext* ctx, MeasurementControl_v7b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MeasurementControl-v7b0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NewInterFreqCellList_v7b0ext(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7_v7b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7_v7b0NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7_v7b0NonCriticalExtensions(rtxContext* ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7_v7b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measurementControl-v7b0ext */
-   rtxCtxtPushElemName(ctx, "measurementControl-v7b0ext");
-   stat = asn1PD_UMTS_MeasurementControl_v7b0ext_IEs(ctx, &pvalue->measurementControl_v7b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7_v7b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7(rtxContext* ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* measurementControl-r7 */
-   rtxCtxtPushElemName(ctx, "measurementControl-r7");
-   stat = asn1PD_UMTS_MeasurementControl_r7_IEs(ctx, &pvalue->measurementControl_r7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementControl-r7-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "measurementControl-r7-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->measurementControl_r7_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v7b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v7b0NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7_v7b0NonCriticalExtensions(ctx, &pvalue->v7b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_r8_IEs(rtxContext* ctx, MeasurementControl_r8_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MeasurementControl-r8-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* measurementIdentity */
-   rtxCtxtPushElemName(ctx, "measurementIdentity");
-   rtxCtxtPushTypeName(ctx, "MeasurementIdentity");
-   stat = pd_ConsUInt8(ctx, &pvalue->measurementIdentity, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* measurementCommand */
-   rtxCtxtPushElemName(ctx, "measurementCommand");
-   stat = asn1PD_UMTS_MeasurementCommand_r8(ctx, &pvalue->measurementCommand);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementReportingMode */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "measurementReportingMode");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* additionalMeasurementList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "additionalMeasurementList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dpch-CompressedModeStatusInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dpch-CompressedModeStatusInfo");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_DPCH_CompressedModeStatusInfo(ctx, &pvalue->dpch_CompressedModeStatusInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_v8a0ext_IEs(rtxContext* ctx, MeasurementControl_v8a0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MeasurementControl-v8a0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* newIntraFreqCellList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_NewIntraFreqCellList_LCR_v8a0ext(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFreqCellList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_NewInterFreqCellList_LCR_v8a0ext(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8_v8a0NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8_v8a0NonCriticalExtensions(rtxContext* ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8_v8a0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measurementControl-v8a0ext */
-   rtxCtxtPushElemName(ctx, "measurementControl-v8a0ext");
-   stat = asn1PD_UMTS_MeasurementControl_v8a0ext_IEs(ctx, &pvalue->measurementControl_v8a0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* measurementControl-r8 */
-   rtxCtxtPushElemName(ctx, "measurementControl-r8");
-   stat = asn1PD_UMTS_MeasurementControl_r8_IEs(ctx, &pvalue->measurementControl_r8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementControl-r8-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "measurementControl-r8-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->measurementControl_r8_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v8a0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v8a0NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_r9_IEs(rtxContext* ctx, MeasurementControl_r9_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MeasurementControl-r9-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* measurementIdentity */
-   rtxCtxtPushElemName(ctx, "measurementIdentity");
-   rtxCtxtPushTypeName(ctx, "MeasurementIdentity");
-   stat = pd_ConsUInt8(ctx, &pvalue->measurementIdentity, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* measurementCommand */
-   rtxCtxtPushElemName(ctx, "measurementCommand");
-   stat = asn1PD_UMTS_MeasurementCommand_r9(ctx, &pvalue->measurementCommand);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementReportingMode */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "measurementReportingMode");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* additionalMeasurementList */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "additionalMeasurementList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellDCHMeasOccasionInfo-TDD128 */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "cellDCHMeasOccasionInfo-TDD128");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_CellDCHMeasOccasionInfo_TDD128_r9(ctx, &pvalue->cellDCHMeasOccasionInfo_TDD128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dpch-CompressedModeStatusInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dpch-CompressedModeStatusInfo");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_DPCH_CompressedModeStatusInfo(ctx, &pvalue->dpch_CompressedModeStatusInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* measurementControl-r9 */
-   rtxCtxtPushElemName(ctx, "measurementControl-r9");
-   stat = asn1PD_UMTS_MeasurementControl_r9_IEs(ctx, &pvalue->measurementControl_r9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementControl-r9-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "measurementControl-r9-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->measurementControl_r9_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r9");
-         pvalue->u.r9 = (MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9));
-         if (pvalue->u.r9 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(pvalue->u.r9);
-         stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r8");
-         pvalue->u.r8 = (MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8));
-         if (pvalue->u.r8 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8(pvalue->u.r8);
-         stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions(rtxContext* ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r7");
-         pvalue->u.r7 = (MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7));
-         if (pvalue->u.r7 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7(pvalue->u.r7);
-         stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions(rtxContext* ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r6");
-         pvalue->u.r6 = (MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6));
-         if (pvalue->u.r6 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6(pvalue->u.r6);
-         stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6(ctx, pvalue->u.r6);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4(rtxContext* ctx, MeasurementControl_later_than_r3_criticalExtensions_later_than_r4* pvalue)
-{
-   int stat = 0;
-   /* rrc-TransactionIdentifier-MSP */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier-MSP");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier_MSP, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* criticalExtensions */
-   rtxCtxtPushElemName(ctx, "criticalExtensions");
-   stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions(rtxContext* ctx, MeasurementControl_later_than_r3_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r4");
-         pvalue->u.r4 = (MeasurementControl_later_than_r3_criticalExtensions_r4*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControl_later_than_r3_criticalExtensions_r4));
-         if (pvalue->u.r4 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4(pvalue->u.r4);
-         stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "later-than-r4");
-         pvalue->u.later_than_r4 = (MeasurementControl_later_than_r3_criticalExtensions_later_than_r4*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControl_later_than_r3_criticalExtensions_later_than_r4));
-         if (pvalue->u.later_than_r4 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4(pvalue->u.later_than_r4);
-         stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4(ctx, pvalue->u.later_than_r4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl_later_than_r3(rtxContext* ctx, MeasurementControl_later_than_r3* pvalue)
-{
-   int stat = 0;
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* criticalExtensions */
-   rtxCtxtPushElemName(ctx, "criticalExtensions");
-   stat = asn1PD_UMTS_MeasurementControl_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControl(rtxContext* ctx, MeasurementControl* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "MeasurementControl");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r3");
-         pvalue->u.r3 = (MeasurementControl_r3*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControl_r3));
-         if (pvalue->u.r3 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementControl_r3(pvalue->u.r3);
-         stat = asn1PD_UMTS_MeasurementControl_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "later-than-r3");
-         pvalue->u.later_than_r3 = (MeasurementControl_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControl_later_than_r3));
-         if (pvalue->u.later_than_r3 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_MeasurementControl_later_than_r3(pvalue->u.later_than_r3);
-         stat = asn1PD_UMTS_MeasurementControl_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlFailure_v590ext_IEs(rtxContext* ctx, MeasurementControlFailure_v590ext_IEs* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MeasurementControlFailure-v590ext-IEs");
-   /* rrc-TransactionIdentifier-MSP-v590ext */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier-MSP-v590ext");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier_MSP_v590ext, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, MeasurementControlFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlFailure_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* ctx, MeasurementControlFailure_laterNonCriticalExtensions_v590NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measurementControlFailure-v590ext */
-   rtxCtxtPushElemName(ctx, "measurementControlFailure-v590ext");
-   stat = asn1PD_UMTS_MeasurementControlFailure_v590ext_IEs(ctx, &pvalue->measurementControlFailure_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementControlFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlFailure_laterNonCriticalExtensions(rtxContext* ctx, MeasurementControlFailure_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* measurementControlFailure-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "measurementControlFailure-r3-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->measurementControlFailure_r3_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v590NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MeasurementControlFailure_laterNonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementControlFailure(rtxContext* ctx, MeasurementControlFailure* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MeasurementControlFailure");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* failureCause */
-   rtxCtxtPushElemName(ctx, "failureCause");
-   stat = asn1PD_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementControlFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementReport_v390ext(rtxContext* ctx, MeasurementReport_v390ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MeasurementReport-v390ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measuredResults-v390ext */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "measuredResults-v390ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasuredResults_v390ext(ctx, &pvalue->measuredResults_v390ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementReport_v4b0ext_IEs(rtxContext* ctx, MeasurementReport_v4b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MeasurementReport-v4b0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* interFreqEventResults-LCR */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "interFreqEventResults-LCR");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_InterFreqEventResults_LCR_r4_ext(ctx, &pvalue->interFreqEventResults_LCR);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* additionalMeasuredResults-LCR */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "additionalMeasuredResults-LCR");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MeasuredResultsList_LCR_r4_ext(ctx, &pvalue->additionalMeasuredResults_LCR);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementReport_v590ext_IEs(rtxContext* ctx, MeasurementReport_v590ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MeasurementReport-v590ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measuredResults-v590ext */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "measuredResults-v590ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasuredResults_v590ext(ctx, &pvalue->measuredResults_v590ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementReport_v5b0ext_IEs(rtxContext* ctx, MeasurementReport_v5b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MeasurementReport-v5b0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* interRATCellInfoIndication */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "interRATCellInfoIndication");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "InterRATCellInfoIndication");
-      stat = pd_ConsUInt8(ctx, &pvalue->interRATCellInfoIndication, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementReport_v690ext_IEs(rtxContext* ctx, MeasurementReport_v690ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MeasurementReport-v690ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measuredResultsOnRACHinterFreq */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "measuredResultsOnRACHinterFreq");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasuredResultsOnRACHinterFreq(ctx, &pvalue->measuredResultsOnRACHinterFreq);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementReport_v770ext_IEs(rtxContext* ctx, MeasurementReport_v770ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MeasurementReport-v770ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 4);
-   RT_CHECK(ctx, stat);
-   /* measuredResults */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "measuredResults");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasuredResults_v770ext(ctx, &pvalue->measuredResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* additionalMeasuredResults */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "additionalMeasuredResults");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MeasuredResultsList_v770xet(ctx, &pvalue->additionalMeasuredResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* eventResults */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "eventResults");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_EventResults_v770ext(ctx, &pvalue->eventResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-Positioning-OTDOA-MeasuredResults */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-OTDOA-MeasuredResults");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_UE_Positioning_OTDOA_MeasuredResultsTDD_ext(ctx, &pvalue->ue_Positioning_OTDOA_MeasuredResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementReport_v860ext_IEs(rtxContext* ctx, MeasurementReport_v860ext_IEs* pvalue)
-{
-   int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MeasurementReport-v860ext-IEs");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat);
-   /* activationTime */
+   RT_CHECK(ctx, stat, 0, 0, -1, "UplinkPhysicalChannelControl-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "UplinkPhysicalChannelControl-r3-IEs");
+   /* ccTrCH-PowerControlInfo */
    if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "activationTime");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_CCTrCH_PowerControlInfo(ctx, &pvalue->ccTrCH_PowerControlInfo);
+      RT_CHECK(ctx, stat, 0, "ccTrCH-PowerControlInfo", -1, "UplinkPhysicalChannelControl-r3-IEs");
    }
-   /* measuredResults */
+   /* timingAdvance */
    if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "measuredResults");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MeasuredResults_v860ext(ctx, &pvalue->measuredResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UL_TimingAdvanceControl(ctx, &pvalue->timingAdvance);
+      RT_CHECK(ctx, stat, 0, "timingAdvance", -1, "UplinkPhysicalChannelControl-r3-IEs");
    }
-   /* additionalMeasuredResults */
+   /* alpha */
    if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "additionalMeasuredResults");
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_MeasuredResultsList_v860ext(ctx, &pvalue->additionalMeasuredResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUInt8(ctx, &pvalue->alpha, 0, 8);
+      RT_CHECK(ctx, stat, "Alpha", "alpha", -1, "UplinkPhysicalChannelControl-r3-IEs");
    }
-   /* eventResults */
+   /* specialBurstScheduling */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "eventResults");
       pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_EventResults_v860ext(ctx, &pvalue->eventResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUInt8(ctx, &pvalue->specialBurstScheduling, 0, 7);
+      RT_CHECK(ctx, stat, "SpecialBurstScheduling", "specialBurstScheduling", -1, "UplinkPhysicalChannelControl-r3-IEs");
    }
-   /* eutra-MeasuredResults */
+   /* prach-ConstantValue */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "eutra-MeasuredResults");
       pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_EUTRA_MeasuredResults(ctx, &pvalue->eutra_MeasuredResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsInt8(ctx, &pvalue->prach_ConstantValue, -35, 10);
+      RT_CHECK(ctx, stat, "ConstantValueTdd", "prach-ConstantValue", -1, "UplinkPhysicalChannelControl-r3-IEs");
    }
-   /* eutra-EventResults */
+   /* pusch-ConstantValue */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "eutra-EventResults");
       pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_EUTRA_EventResults(ctx, &pvalue->eutra_EventResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsInt8(ctx, &pvalue->pusch_ConstantValue, -35, 10);
+      RT_CHECK(ctx, stat, "ConstantValueTdd", "pusch-ConstantValue", -1, "UplinkPhysicalChannelControl-r3-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementReport_v920ext_IEs(rtxContext* ctx, MeasurementReport_v920ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MeasurementReport-v920ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 7);
-   RT_CHECK(ctx, stat);
-   /* cSGProximityIndication */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "cSGProximityIndication");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_CSGProximityIndication(ctx, &pvalue->cSGProximityIndication);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measuredResults */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "measuredResults");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MeasuredResults_v920ext(ctx, &pvalue->measuredResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measuredResultsOnSecUlFreq */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "measuredResultsOnSecUlFreq");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_MeasuredResultsOnSecUlFreq(ctx, &pvalue->measuredResultsOnSecUlFreq);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* additionalMeasuredResults */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "additionalMeasuredResults");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_MeasuredResultsList_v920ext(ctx, &pvalue->additionalMeasuredResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* additionalMeasuredResultsOnSecUlFreq */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "additionalMeasuredResultsOnSecUlFreq");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_MeasuredResultsListOnSecUlFreq(ctx, &pvalue->additionalMeasuredResultsOnSecUlFreq);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* eventResultsOnSecUlFreq */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "eventResultsOnSecUlFreq");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_EventResultsOnSecUlFreq(ctx, &pvalue->eventResultsOnSecUlFreq);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* eutra-MeasuredResults */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "eutra-MeasuredResults");
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_EUTRA_MeasuredResults_v920ext(ctx, &pvalue->eutra_MeasuredResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions(rtxContext* ctx, MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_UplinkPhysicalChannelControl_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_v4b0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measurementReport-v920ext */
-   rtxCtxtPushElemName(ctx, "measurementReport-v920ext");
-   stat = asn1PD_UMTS_MeasurementReport_v920ext_IEs(ctx, &pvalue->measurementReport_v920ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, "UplinkPhysicalChannelControl-v4b0ext-IEs");
+   /* openLoopPowerControl-IPDL-TDD */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_OpenLoopPowerControl_IPDL_TDD_r4(ctx, &pvalue->openLoopPowerControl_IPDL_TDD);
+      RT_CHECK(ctx, stat, 0, "openLoopPowerControl-IPDL-TDD", -1, "UplinkPhysicalChannelControl-v4b0ext-IEs");
    }
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* ctx, MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_UplinkPhysicalChannelControl_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_noncriticalExtensions(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_noncriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_UplinkPhysicalChannelControl_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measurementReport-v860ext */
-   rtxCtxtPushElemName(ctx, "measurementReport-v860ext");
-   stat = asn1PD_UMTS_MeasurementReport_v860ext_IEs(ctx, &pvalue->measurementReport_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v920NonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uplinkPysicalChannelControl-v4b0ext */
+   stat = asn1PD_UMTS_UplinkPhysicalChannelControl_v4b0ext_IEs(ctx, &pvalue->uplinkPysicalChannelControl_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "uplinkPysicalChannelControl-v4b0ext", -1, 0);
+   /* noncriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v920NonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UplinkPhysicalChannelControl_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_noncriticalExtensions(ctx, &pvalue->noncriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "noncriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measurementReport-v770ext */
-   rtxCtxtPushElemName(ctx, "measurementReport-v770ext");
-   stat = asn1PD_UMTS_MeasurementReport_v770ext_IEs(ctx, &pvalue->measurementReport_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v860NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* ctx, MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measurementReport-v690ext */
-   rtxCtxtPushElemName(ctx, "measurementReport-v690ext");
-   stat = asn1PD_UMTS_MeasurementReport_v690ext_IEs(ctx, &pvalue->measurementReport_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions(rtxContext* ctx, MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measurementReport-v5b0ext */
-   rtxCtxtPushElemName(ctx, "measurementReport-v5b0ext");
-   stat = asn1PD_UMTS_MeasurementReport_v5b0ext_IEs(ctx, &pvalue->measurementReport_v5b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* ctx, MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measurementReport-v590ext */
-   rtxCtxtPushElemName(ctx, "measurementReport-v590ext");
-   stat = asn1PD_UMTS_MeasurementReport_v590ext_IEs(ctx, &pvalue->measurementReport_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v5b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v5b0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions(ctx, &pvalue->v5b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* ctx, MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measurementReport-v4b0ext */
-   rtxCtxtPushElemName(ctx, "measurementReport-v4b0ext");
-   stat = asn1PD_UMTS_MeasurementReport_v4b0ext_IEs(ctx, &pvalue->measurementReport_v4b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v590NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions(rtxContext* ctx, MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions* pvalue)
+int asn1PD_UMTS_UplinkPhysicalChannelControl_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* measurementReport-r3-add-ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uplinkPhysicalChannelControl-r3-add-ext */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "measurementReport-r3-add-ext");
       pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->measurementReport_r3_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_DynBitString(ctx, &pvalue->uplinkPhysicalChannelControl_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "uplinkPhysicalChannelControl-r3-add-ext", -1, 0);
    }
    /* v4b0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v4b0NonCriticalExtensions");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UplinkPhysicalChannelControl_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions(rtxContext* ctx, MeasurementReport_v390nonCriticalExtensions* pvalue)
+int asn1PD_UMTS_UplinkPhysicalChannelControl_r3(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_r3* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* measurementReport-v390ext */
-   rtxCtxtPushElemName(ctx, "measurementReport-v390ext");
-   stat = asn1PD_UMTS_MeasurementReport_v390ext(ctx, &pvalue->measurementReport_v390ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uplinkPhysicalChannelControl-r3 */
+   stat = asn1PD_UMTS_UplinkPhysicalChannelControl_r3_IEs(ctx, &pvalue->uplinkPhysicalChannelControl_r3);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysicalChannelControl-r3", -1, 0);
    /* laterNonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UplinkPhysicalChannelControl_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_MeasurementReport(rtxContext* ctx, MeasurementReport* pvalue)
+int asn1PD_UMTS_UplinkPhysicalChannelControl_r4_IEs_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_r4_IEs_tddOption_tdd384* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "MeasurementReport");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 5);
-   RT_CHECK(ctx, stat);
-   /* measurementIdentity */
-   rtxCtxtPushElemName(ctx, "measurementIdentity");
-   rtxCtxtPushTypeName(ctx, "MeasurementIdentity");
-   stat = pd_ConsUInt8(ctx, &pvalue->measurementIdentity, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* measuredResults */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* timingAdvance */
    if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "measuredResults");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MeasuredResults(ctx, &pvalue->measuredResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UL_TimingAdvanceControl_r4(ctx, &pvalue->timingAdvance);
+      RT_CHECK(ctx, stat, 0, "timingAdvance", -1, 0);
    }
-   /* measuredResultsOnRACH */
+   /* alpha */
    if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "measuredResultsOnRACH");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_MeasuredResultsOnRACH(ctx, &pvalue->measuredResultsOnRACH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUInt8(ctx, &pvalue->alpha, 0, 8);
+      RT_CHECK(ctx, stat, "Alpha", "alpha", -1, 0);
    }
-   /* additionalMeasuredResults */
+   /* prach-ConstantValue */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "additionalMeasuredResults");
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_MeasuredResultsList(ctx, &pvalue->additionalMeasuredResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsInt8(ctx, &pvalue->prach_ConstantValue, -35, 10);
+      RT_CHECK(ctx, stat, "ConstantValueTdd", "prach-ConstantValue", -1, 0);
    }
-   /* eventResults */
+   /* pusch-ConstantValue */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "eventResults");
       pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_EventResults(ctx, &pvalue->eventResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsInt8(ctx, &pvalue->pusch_ConstantValue, -35, 10);
+      RT_CHECK(ctx, stat, "ConstantValueTdd", "pusch-ConstantValue", -1, 0);
    }
-   /* v390nonCriticalExtensions */
+   /* openLoopPowerControl-IPDL-TDD */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v390nonCriticalExtensions");
       pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_MeasurementReport_v390nonCriticalExtensions(ctx, &pvalue->v390nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_OpenLoopPowerControl_IPDL_TDD_r4(ctx, &pvalue->openLoopPowerControl_IPDL_TDD);
+      RT_CHECK(ctx, stat, 0, "openLoopPowerControl-IPDL-TDD", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_PagingType1_v590ext_IEs(rtxContext* ctx, PagingType1_v590ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PagingType1-v590ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* pagingRecord2List */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "pagingRecord2List");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PagingRecord2List_r5(ctx, &pvalue->pagingRecord2List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PagingType1_v860ext_IEs(rtxContext* ctx, PagingType1_v860ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PagingType1-v860ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* etws-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "etws-Information");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_ETWS_Information(ctx, &pvalue->etws_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* ctx, PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_UplinkPhysicalChannelControl_r4_IEs_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_r4_IEs_tddOption_tdd128* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* pagingType1-v860ext */
-   rtxCtxtPushElemName(ctx, "pagingType1-v860ext");
-   stat = asn1PD_UMTS_PagingType1_v860ext_IEs(ctx, &pvalue->pagingType1_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ul-SynchronisationParameters */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UL_SynchronisationParameters_r4(ctx, &pvalue->ul_SynchronisationParameters);
+      RT_CHECK(ctx, stat, 0, "ul-SynchronisationParameters", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* ctx, PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_UplinkPhysicalChannelControl_r4_IEs_tddOption(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_r4_IEs_tddOption* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* pagingType1-v590ext */
-   rtxCtxtPushElemName(ctx, "pagingType1-v590ext");
-   stat = asn1PD_UMTS_PagingType1_v590ext_IEs(ctx, &pvalue->pagingType1_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v860NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (UplinkPhysicalChannelControl_r4_IEs_tddOption_tdd384*)rtxMemHeapAlloc(ctx, sizeof(UplinkPhysicalChannelControl_r4_IEs_tddOption_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_UplinkPhysicalChannelControl_r4_IEs_tddOption_tdd384(pvalue->u.tdd384);
+         stat = asn1PD_UMTS_UplinkPhysicalChannelControl_r4_IEs_tddOption_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (UplinkPhysicalChannelControl_r4_IEs_tddOption_tdd128*)rtxMemHeapAlloc(ctx, sizeof(UplinkPhysicalChannelControl_r4_IEs_tddOption_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_UplinkPhysicalChannelControl_r4_IEs_tddOption_tdd128(pvalue->u.tdd128);
+         stat = asn1PD_UMTS_UplinkPhysicalChannelControl_r4_IEs_tddOption_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_PagingType1_laterNonCriticalExtensions(rtxContext* ctx, PagingType1_laterNonCriticalExtensions* pvalue)
+int asn1PD_UMTS_UplinkPhysicalChannelControl_r4_IEs(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_r4_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* pagingType1-r3-add-ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, "UplinkPhysicalChannelControl-r4-IEs");
+   /* ccTrCH-PowerControlInfo */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "pagingType1-r3-add-ext");
       pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->pagingType1_r3_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_CCTrCH_PowerControlInfo_r4(ctx, &pvalue->ccTrCH_PowerControlInfo);
+      RT_CHECK(ctx, stat, 0, "ccTrCH-PowerControlInfo", -1, "UplinkPhysicalChannelControl-r4-IEs");
    }
-   /* v590NonCriticalExtensions */
+   /* specialBurstScheduling */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtensions");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUInt8(ctx, &pvalue->specialBurstScheduling, 0, 7);
+      RT_CHECK(ctx, stat, "SpecialBurstScheduling", "specialBurstScheduling", -1, "UplinkPhysicalChannelControl-r4-IEs");
+   }
+   /* tddOption */
+   stat = asn1PD_UMTS_UplinkPhysicalChannelControl_r4_IEs_tddOption(ctx, &pvalue->tddOption);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, "UplinkPhysicalChannelControl-r4-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_UplinkPhysicalChannelControl_v690ext_IEs(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UplinkPhysicalChannelControl-v690ext-IEs");
+   /* beaconPLEst */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "UplinkPhysicalChannelControl-v690ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "UplinkPhysicalChannelControl-v690ext-IEs");
+         pvalue->beaconPLEst = ui;
+      }
    }
    return 0;
 }
 
-int asn1PD_UMTS_PagingType1(rtxContext* ctx, PagingType1* pvalue)
+int asn1PD_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PagingType1");
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uplinkPhysicalChannelControl-v690ext */
+   stat = asn1PD_UMTS_UplinkPhysicalChannelControl_v690ext_IEs(ctx, &pvalue->uplinkPhysicalChannelControl_v690ext);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysicalChannelControl-v690ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uplinkPhysicalChannelControl-r4-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->uplinkPhysicalChannelControl_r4_add_ext);
+      RT_CHECK(ctx, stat, 0, "uplinkPhysicalChannelControl-r4-add-ext", -1, 0);
+   }
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uplinkPhysicalChannelControl-r4 */
+   stat = asn1PD_UMTS_UplinkPhysicalChannelControl_r4_IEs(ctx, &pvalue->uplinkPhysicalChannelControl_r4);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysicalChannelControl-r4", -1, 0);
+   /* v4d0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UplinkPhysicalChannelControl_r5_IEs_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_r5_IEs_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* timingAdvance */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UL_TimingAdvanceControl_r4(ctx, &pvalue->timingAdvance);
+      RT_CHECK(ctx, stat, 0, "timingAdvance", -1, 0);
+   }
+   /* alpha */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->alpha, 0, 8);
+      RT_CHECK(ctx, stat, "Alpha", "alpha", -1, 0);
+   }
+   /* prach-ConstantValue */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsInt8(ctx, &pvalue->prach_ConstantValue, -35, 10);
+      RT_CHECK(ctx, stat, "ConstantValueTdd", "prach-ConstantValue", -1, 0);
+   }
+   /* pusch-ConstantValue */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsInt8(ctx, &pvalue->pusch_ConstantValue, -35, 10);
+      RT_CHECK(ctx, stat, "ConstantValueTdd", "pusch-ConstantValue", -1, 0);
+   }
+   /* openLoopPowerControl-IPDL-TDD */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_OpenLoopPowerControl_IPDL_TDD_r4(ctx, &pvalue->openLoopPowerControl_IPDL_TDD);
+      RT_CHECK(ctx, stat, 0, "openLoopPowerControl-IPDL-TDD", -1, 0);
+   }
+   /* hs-SICH-PowerControl */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_HS_SICH_Power_Control_Info_TDD384(ctx, &pvalue->hs_SICH_PowerControl);
+      RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UplinkPhysicalChannelControl_r5_IEs_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_r5_IEs_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ul-SynchronisationParameters */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UL_SynchronisationParameters_r4(ctx, &pvalue->ul_SynchronisationParameters);
+      RT_CHECK(ctx, stat, 0, "ul-SynchronisationParameters", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UplinkPhysicalChannelControl_r5_IEs_tddOption(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_r5_IEs_tddOption* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (UplinkPhysicalChannelControl_r5_IEs_tddOption_tdd384*)rtxMemHeapAlloc(ctx, sizeof(UplinkPhysicalChannelControl_r5_IEs_tddOption_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_UplinkPhysicalChannelControl_r5_IEs_tddOption_tdd384(pvalue->u.tdd384);
+         stat = asn1PD_UMTS_UplinkPhysicalChannelControl_r5_IEs_tddOption_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd128 */
+         pvalue->u.tdd128 = (UplinkPhysicalChannelControl_r5_IEs_tddOption_tdd128*)rtxMemHeapAlloc(ctx, sizeof(UplinkPhysicalChannelControl_r5_IEs_tddOption_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_UplinkPhysicalChannelControl_r5_IEs_tddOption_tdd128(pvalue->u.tdd128);
+         stat = asn1PD_UMTS_UplinkPhysicalChannelControl_r5_IEs_tddOption_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UplinkPhysicalChannelControl_r5_IEs(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_r5_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UplinkPhysicalChannelControl-r5-IEs");
+   /* ccTrCH-PowerControlInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CCTrCH_PowerControlInfo_r5(ctx, &pvalue->ccTrCH_PowerControlInfo);
+      RT_CHECK(ctx, stat, 0, "ccTrCH-PowerControlInfo", -1, "UplinkPhysicalChannelControl-r5-IEs");
+   }
+   /* specialBurstScheduling */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->specialBurstScheduling, 0, 7);
+      RT_CHECK(ctx, stat, "SpecialBurstScheduling", "specialBurstScheduling", -1, "UplinkPhysicalChannelControl-r5-IEs");
+   }
+   /* tddOption */
+   stat = asn1PD_UMTS_UplinkPhysicalChannelControl_r5_IEs_tddOption(ctx, &pvalue->tddOption);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, "UplinkPhysicalChannelControl-r5-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_UplinkPhysicalChannelControl_v6a0ext_IEs_tpc_Step_Size(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_v6a0ext_IEs_tpc_Step_Size* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UplinkPhysicalChannelControl_v6a0ext_IEs(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_v6a0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UplinkPhysicalChannelControl-v6a0ext-IEs");
+   /* desired-HS-SICH-PowerLevel */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsInt8(ctx, &pvalue->desired_HS_SICH_PowerLevel, -120, -58);
+      RT_CHECK(ctx, stat, 0, "desired-HS-SICH-PowerLevel", -1, "UplinkPhysicalChannelControl-v6a0ext-IEs");
+   }
+   /* tpc-Step-Size */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->tpc_Step_Size, 0, 3);
+      RT_CHECK(ctx, stat, 0, "tpc-Step-Size", -1, "UplinkPhysicalChannelControl-v6a0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v6a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v6a0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v6a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v6a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uplinkPhysicalChannelControl-v6a0ext */
+   stat = asn1PD_UMTS_UplinkPhysicalChannelControl_v6a0ext_IEs(ctx, &pvalue->uplinkPhysicalChannelControl_v6a0ext);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysicalChannelControl-v6a0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v6a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uplinkPhysicalChannelControl-v690ext */
+   stat = asn1PD_UMTS_UplinkPhysicalChannelControl_v690ext_IEs(ctx, &pvalue->uplinkPhysicalChannelControl_v690ext);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysicalChannelControl-v690ext", -1, 0);
+   /* v6a0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v6a0NonCriticalExtensions(ctx, &pvalue->v6a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uplinkPhysicalChannelControl-r5 */
+   stat = asn1PD_UMTS_UplinkPhysicalChannelControl_r5_IEs(ctx, &pvalue->uplinkPhysicalChannelControl_r5);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysicalChannelControl-r5", -1, 0);
+   /* uplinkPhysicalChannelControl-r5-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->uplinkPhysicalChannelControl_r5_add_ext);
+      RT_CHECK(ctx, stat, 0, "uplinkPhysicalChannelControl-r5-add-ext", -1, 0);
+   }
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UplinkPhysicalChannelControl_r7_IEs_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_r7_IEs_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* timingAdvance */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UL_TimingAdvanceControl_r4(ctx, &pvalue->timingAdvance);
+      RT_CHECK(ctx, stat, 0, "timingAdvance", -1, 0);
+   }
+   /* alpha */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->alpha, 0, 8);
+      RT_CHECK(ctx, stat, "Alpha", "alpha", -1, 0);
+   }
+   /* prach-ConstantValue */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsInt8(ctx, &pvalue->prach_ConstantValue, -35, 10);
+      RT_CHECK(ctx, stat, "ConstantValueTdd", "prach-ConstantValue", -1, 0);
+   }
+   /* pusch-ConstantValue */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsInt8(ctx, &pvalue->pusch_ConstantValue, -35, 10);
+      RT_CHECK(ctx, stat, "ConstantValueTdd", "pusch-ConstantValue", -1, 0);
+   }
+   /* openLoopPowerControl-IPDL-TDD */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_OpenLoopPowerControl_IPDL_TDD_r4(ctx, &pvalue->openLoopPowerControl_IPDL_TDD);
+      RT_CHECK(ctx, stat, 0, "openLoopPowerControl-IPDL-TDD", -1, 0);
+   }
+   /* hs-SICH-PowerControl */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_HS_SICH_Power_Control_Info_TDD384(ctx, &pvalue->hs_SICH_PowerControl);
+      RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UplinkPhysicalChannelControl_r7_IEs_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_r7_IEs_tddOption_tdd768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* timingAdvance */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UL_TimingAdvanceControl_r7(ctx, &pvalue->timingAdvance);
+      RT_CHECK(ctx, stat, 0, "timingAdvance", -1, 0);
+   }
+   /* alpha */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->alpha, 0, 8);
+      RT_CHECK(ctx, stat, "Alpha", "alpha", -1, 0);
+   }
+   /* prach-ConstantValue */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsInt8(ctx, &pvalue->prach_ConstantValue, -35, 10);
+      RT_CHECK(ctx, stat, "ConstantValueTdd", "prach-ConstantValue", -1, 0);
+   }
+   /* pusch-ConstantValue */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsInt8(ctx, &pvalue->pusch_ConstantValue, -35, 10);
+      RT_CHECK(ctx, stat, "ConstantValueTdd", "pusch-ConstantValue", -1, 0);
+   }
+   /* openLoopPowerControl-IPDL-TDD */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_OpenLoopPowerControl_IPDL_TDD_r4(ctx, &pvalue->openLoopPowerControl_IPDL_TDD);
+      RT_CHECK(ctx, stat, 0, "openLoopPowerControl-IPDL-TDD", -1, 0);
+   }
+   /* hs-SICH-PowerControl */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_HS_SICH_Power_Control_Info_TDD768(ctx, &pvalue->hs_SICH_PowerControl);
+      RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UplinkPhysicalChannelControl_r7_IEs_tddOption_tdd128_tpc_Step_Size(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_r7_IEs_tddOption_tdd128_tpc_Step_Size* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UplinkPhysicalChannelControl_r7_IEs_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_r7_IEs_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* pagingRecordList */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ul-SynchronisationParameters */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "pagingRecordList");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PagingRecordList(ctx, &pvalue->pagingRecordList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UL_SynchronisationParameters_r4(ctx, &pvalue->ul_SynchronisationParameters);
+      RT_CHECK(ctx, stat, 0, "ul-SynchronisationParameters", -1, 0);
    }
-   /* bcch-ModificationInfo */
+   /* desired-HS-SICH-PowerLevel */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "bcch-ModificationInfo");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_BCCH_ModificationInfo(ctx, &pvalue->bcch_ModificationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsInt8(ctx, &pvalue->desired_HS_SICH_PowerLevel, -120, -58);
+      RT_CHECK(ctx, stat, 0, "desired-HS-SICH-PowerLevel", -1, 0);
    }
-   /* laterNonCriticalExtensions */
+   /* tpc-Step-Size */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
       pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_PagingType1_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUnsigned(ctx, &pvalue->tpc_Step_Size, 0, 3);
+      RT_CHECK(ctx, stat, 0, "tpc-Step-Size", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_PagingType2_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, PagingType2_laterNonCriticalExtensions_nonCriticalExtensions* pvalue)
+int asn1PD_UMTS_UplinkPhysicalChannelControl_r7_IEs_tddOption(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_r7_IEs_tddOption* RT_RESTRICT pvalue)
 {
-   int stat = 0;
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* tdd384 */
+         pvalue->u.tdd384 = (UplinkPhysicalChannelControl_r7_IEs_tddOption_tdd384*)rtxMemHeapAlloc(ctx, sizeof(UplinkPhysicalChannelControl_r7_IEs_tddOption_tdd384));
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd384", -1, 0);
+         asn1Init_UMTS_UplinkPhysicalChannelControl_r7_IEs_tddOption_tdd384(pvalue->u.tdd384);
+         stat = asn1PD_UMTS_UplinkPhysicalChannelControl_r7_IEs_tddOption_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 1: /* tdd768 */
+         pvalue->u.tdd768 = (UplinkPhysicalChannelControl_r7_IEs_tddOption_tdd768*)rtxMemHeapAlloc(ctx, sizeof(UplinkPhysicalChannelControl_r7_IEs_tddOption_tdd768));
+         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd768", -1, 0);
+         asn1Init_UMTS_UplinkPhysicalChannelControl_r7_IEs_tddOption_tdd768(pvalue->u.tdd768);
+         stat = asn1PD_UMTS_UplinkPhysicalChannelControl_r7_IEs_tddOption_tdd768(ctx, pvalue->u.tdd768);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 2: /* tdd128 */
+         pvalue->u.tdd128 = (UplinkPhysicalChannelControl_r7_IEs_tddOption_tdd128*)rtxMemHeapAlloc(ctx, sizeof(UplinkPhysicalChannelControl_r7_IEs_tddOption_tdd128));
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "tdd128", -1, 0);
+         asn1Init_UMTS_UplinkPhysicalChannelControl_r7_IEs_tddOption_tdd128(pvalue->u.tdd128);
+         stat = asn1PD_UMTS_UplinkPhysicalChannelControl_r7_IEs_tddOption_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
    return 0;
 }
 
-int asn1PD_UMTS_PagingType2_laterNonCriticalExtensions(rtxContext* ctx, PagingType2_laterNonCriticalExtensions* pvalue)
+int asn1PD_UMTS_UplinkPhysicalChannelControl_r7_IEs(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_r7_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* pagingType2-r3-add-ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, "UplinkPhysicalChannelControl-r7-IEs");
+   /* ccTrCH-PowerControlInfo */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "pagingType2-r3-add-ext");
       pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->pagingType2_r3_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_CCTrCH_PowerControlInfo_r7(ctx, &pvalue->ccTrCH_PowerControlInfo);
+      RT_CHECK(ctx, stat, 0, "ccTrCH-PowerControlInfo", -1, "UplinkPhysicalChannelControl-r7-IEs");
+   }
+   /* specialBurstScheduling */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->specialBurstScheduling, 0, 7);
+      RT_CHECK(ctx, stat, "SpecialBurstScheduling", "specialBurstScheduling", -1, "UplinkPhysicalChannelControl-r7-IEs");
+   }
+   /* tddOption */
+   stat = asn1PD_UMTS_UplinkPhysicalChannelControl_r7_IEs_tddOption(ctx, &pvalue->tddOption);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, "UplinkPhysicalChannelControl-r7-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uplinkPhysicalChannelControl-r7 */
+   stat = asn1PD_UMTS_UplinkPhysicalChannelControl_r7_IEs(ctx, &pvalue->uplinkPhysicalChannelControl_r7);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysicalChannelControl-r7", -1, 0);
+   /* uplinkPhysicalChannelControl-r7-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->uplinkPhysicalChannelControl_r7_add_ext);
+      RT_CHECK(ctx, stat, 0, "uplinkPhysicalChannelControl-r7-add-ext", -1, 0);
    }
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PagingType2_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_PagingType2(rtxContext* ctx, PagingType2* pvalue)
+int asn1PD_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PagingType2");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* pagingCause */
-   rtxCtxtPushElemName(ctx, "pagingCause");
-   rtxCtxtPushTypeName(ctx, "PagingCause");
-   stat = pd_ConsUnsigned(ctx, &pvalue->pagingCause, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* cn-DomainIdentity */
-   rtxCtxtPushElemName(ctx, "cn-DomainIdentity");
-   rtxCtxtPushTypeName(ctx, "CN-DomainIdentity");
-   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* pagingRecordTypeID */
-   rtxCtxtPushElemName(ctx, "pagingRecordTypeID");
-   rtxCtxtPushTypeName(ctx, "PagingRecordTypeID");
-   stat = pd_ConsUnsigned(ctx, &pvalue->pagingRecordTypeID, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PagingType2_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo_fdd(rtxContext* ctx, PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo(rtxContext* ctx, PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo* pvalue)
+int asn1PD_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 0: /* r7 */
+         pvalue->u.r7 = (UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7*)rtxMemHeapAlloc(ctx, sizeof(UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7));
+         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r7", -1, 0);
+         asn1Init_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7(pvalue->u.r7);
+         stat = asn1PD_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
+         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PD_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r3_IEs(rtxContext* ctx, PhysicalChannelReconfiguration_r3_IEs* pvalue)
+int asn1PD_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r5 */
+         pvalue->u.r5 = (UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_r5*)rtxMemHeapAlloc(ctx, sizeof(UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_r5));
+         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r5", -1, 0);
+         asn1Init_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_r5(pvalue->u.r5);
+         stat = asn1PD_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_r5(ctx, pvalue->u.r5);
+         RT_CHECK(ctx, stat, 0, "r5", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r4 */
+         pvalue->u.r4 = (UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_r4*)rtxMemHeapAlloc(ctx, sizeof(UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_r4));
+         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r4", -1, 0);
+         asn1Init_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_r4(pvalue->u.r4);
+         stat = asn1PD_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
+         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UplinkPhysicalChannelControl_later_than_r3(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_later_than_r3* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration-r3-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 14);
-   RT_CHECK(ctx, stat);
    /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
    stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 13)) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 12)) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 11)) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
-      pvalue->m |= 0x20u;
-      rtxCtxtPushTypeName(ctx, "UTRAN-DRX-CycleLengthCoefficient");
-      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "dl-CounterSynchronisationInfo");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      pvalue->m |= 0x400u;
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-ChannelRequirement */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "ul-ChannelRequirement");
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_UL_ChannelRequirementWithCPCH_SetID(ctx, &pvalue->ul_ChannelRequirement);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonInformation */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_DL_CommonInformation(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PD_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_v3a0ext(rtxContext* ctx, PhysicalChannelReconfiguration_v3a0ext* pvalue)
+int asn1PD_UMTS_UplinkPhysicalChannelControl(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration-v3a0ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UplinkPhysicalChannelControl");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r3 */
+         pvalue->u.r3 = (UplinkPhysicalChannelControl_r3*)rtxMemHeapAlloc(ctx, sizeof(UplinkPhysicalChannelControl_r3));
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "UplinkPhysicalChannelControl");
+         asn1Init_UMTS_UplinkPhysicalChannelControl_r3(pvalue->u.r3);
+         stat = asn1PD_UMTS_UplinkPhysicalChannelControl_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "UplinkPhysicalChannelControl");
+         break;
+      case 1: /* later-than-r3 */
+         pvalue->u.later_than_r3 = (UplinkPhysicalChannelControl_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(UplinkPhysicalChannelControl_later_than_r3));
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "UplinkPhysicalChannelControl");
+         asn1Init_UMTS_UplinkPhysicalChannelControl_later_than_r3(pvalue->u.later_than_r3);
+         stat = asn1PD_UMTS_UplinkPhysicalChannelControl_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "UplinkPhysicalChannelControl");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UplinkPhysicalChannelControl");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_v4b0ext_IEs(rtxContext* ctx, PhysicalChannelReconfiguration_v4b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration-v4b0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "SSDT-UL");
-      stat = pd_ConsUnsigned(ctx, &pvalue->dummy, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cell-id-PerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cell-id-PerRL-List");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellIdentity_PerRL_List(ctx, &pvalue->cell_id_PerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_v590ext_IEs(rtxContext* ctx, PhysicalChannelReconfiguration_v590ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration-v590ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dl-TPC-PowerOffsetPerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-TPC-PowerOffsetPerRL-List");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_TPC_PowerOffsetPerRL_List(ctx, &pvalue->dl_TPC_PowerOffsetPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_v690ext_IEs_postVerificationPeriod(rtxContext* ctx, PhysicalChannelReconfiguration_v690ext_IEs_postVerificationPeriod* pvalue)
+int asn1PD_UMTS_URAUpdate_v7e0ext_IEs_supportForTwoDRXSchemesInPCH(rtxContext* RT_RESTRICT ctx, URAUpdate_v7e0ext_IEs_supportForTwoDRXSchemesInPCH* RT_RESTRICT pvalue)
 {
    int stat;
    {
       uint32_t ui;
       stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
       stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
       *pvalue = ui;
    }
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_v690ext_IEs(rtxContext* ctx, PhysicalChannelReconfiguration_v690ext_IEs* pvalue)
+int asn1PD_UMTS_URAUpdate_v7e0ext_IEs(rtxContext* RT_RESTRICT ctx, URAUpdate_v7e0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration-v690ext-IEs");
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "URAUpdate-v7e0ext-IEs");
+   /* supportForTwoDRXSchemesInPCH */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportForTwoDRXSchemesInPCH", -1, "URAUpdate-v7e0ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportForTwoDRXSchemesInPCH", -1, "URAUpdate-v7e0ext-IEs");
+         pvalue->supportForTwoDRXSchemesInPCH = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_URAUpdate_r3_add_ext_IEs_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, URAUpdate_r3_add_ext_IEs_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_URAUpdate_r3_add_ext_IEs(rtxContext* RT_RESTRICT ctx, URAUpdate_r3_add_ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "URAUpdate-r3-add-ext-IEs");
+   /* uraUpdate-v7e0ext */
+   stat = asn1PD_UMTS_URAUpdate_v7e0ext_IEs(ctx, &pvalue->uraUpdate_v7e0ext);
+   RT_CHECK(ctx, stat, 0, "uraUpdate-v7e0ext", -1, "URAUpdate-r3-add-ext-IEs");
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_URAUpdate_r3_add_ext_IEs_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "URAUpdate-r3-add-ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UraUpdate_v770ext_IEs_support_hsdschReception_CellUraPch(rtxContext* RT_RESTRICT ctx, UraUpdate_v770ext_IEs_support_hsdschReception_CellUraPch* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UraUpdate_v770ext_IEs_support_hsdschReception_CellFach(rtxContext* RT_RESTRICT ctx, UraUpdate_v770ext_IEs_support_hsdschReception_CellFach* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UraUpdate_v770ext_IEs(rtxContext* RT_RESTRICT ctx, UraUpdate_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UraUpdate-v770ext-IEs");
+   /* support-hsdschReception-CellUraPch */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "support-hsdschReception-CellUraPch", -1, "UraUpdate-v770ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "support-hsdschReception-CellUraPch", -1, "UraUpdate-v770ext-IEs");
+         pvalue->support_hsdschReception_CellUraPch = ui;
+      }
+   }
+   /* support-hsdschReception-CellFach */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "support-hsdschReception-CellFach", -1, "UraUpdate-v770ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "support-hsdschReception-CellFach", -1, "UraUpdate-v770ext-IEs");
+         pvalue->support_hsdschReception_CellFach = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_URAUpdate_v860ext_IEs_supportOfHS_DSCHDRXOperation(rtxContext* RT_RESTRICT ctx, URAUpdate_v860ext_IEs_supportOfHS_DSCHDRXOperation* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_URAUpdate_v860ext_IEs_supportOfCommonEDCH(rtxContext* RT_RESTRICT ctx, URAUpdate_v860ext_IEs_supportOfCommonEDCH* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_URAUpdate_v860ext_IEs_supportOfMACiis(rtxContext* RT_RESTRICT ctx, URAUpdate_v860ext_IEs_supportOfMACiis* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_URAUpdate_v860ext_IEs(rtxContext* RT_RESTRICT ctx, URAUpdate_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "URAUpdate-v860ext-IEs");
+   /* supportOfHS-DSCHDRXOperation */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportOfHS-DSCHDRXOperation", -1, "URAUpdate-v860ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportOfHS-DSCHDRXOperation", -1, "URAUpdate-v860ext-IEs");
+         pvalue->supportOfHS_DSCHDRXOperation = ui;
+      }
+   }
+   /* supportOfCommonEDCH */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportOfCommonEDCH", -1, "URAUpdate-v860ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportOfCommonEDCH", -1, "URAUpdate-v860ext-IEs");
+         pvalue->supportOfCommonEDCH = ui;
+      }
+   }
+   /* supportOfMACiis */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "supportOfMACiis", -1, "URAUpdate-v860ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "supportOfMACiis", -1, "URAUpdate-v860ext-IEs");
+         pvalue->supportOfMACiis = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_URAUpdate_laterNonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, URAUpdate_laterNonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_URAUpdate_laterNonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, URAUpdate_laterNonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uraUpdate-v860ext */
+   stat = asn1PD_UMTS_URAUpdate_v860ext_IEs(ctx, &pvalue->uraUpdate_v860ext);
+   RT_CHECK(ctx, stat, 0, "uraUpdate-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_URAUpdate_laterNonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_URAUpdate_laterNonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, URAUpdate_laterNonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uraUpdate-v770ext */
+   stat = asn1PD_UMTS_UraUpdate_v770ext_IEs(ctx, &pvalue->uraUpdate_v770ext);
+   RT_CHECK(ctx, stat, 0, "uraUpdate-v770ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_URAUpdate_laterNonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_URAUpdate_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, URAUpdate_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uraUpdate-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      {
+         rtxDynBitStr carrier;
+         rtxContext outer;
+         stat = pd_DynBitString(ctx, &carrier);
+         RT_CHECK(ctx, stat, 0, "uraUpdate-r3-add-ext", -1, 0);
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_URAUpdate_r3_add_ext_IEs(ctx, &pvalue->uraUpdate_r3_add_ext);
+            RT_CHECK(ctx, stat, 0, "uraUpdate-r3-add-ext", -1, 0);
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+      }
+   }
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_URAUpdate_laterNonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return stat;
+}
+
+int asn1PD_UMTS_URAUpdate(rtxContext* RT_RESTRICT ctx, URAUpdate* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "URAUpdate");
+   /* u-RNTI */
+   stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, "URAUpdate");
+   /* ura-UpdateCause */
+   stat = pd_ConsUnsigned(ctx, &pvalue->ura_UpdateCause, 0, 3);
+   RT_CHECK(ctx, stat, "URA-UpdateCause", "ura-UpdateCause", -1, "URAUpdate");
+   /* protocolErrorIndicator */
+   stat = asn1PD_UMTS_ProtocolErrorIndicatorWithMoreInfo(ctx, &pvalue->protocolErrorIndicator);
+   RT_CHECK(ctx, stat, 0, "protocolErrorIndicator", -1, "URAUpdate");
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_URAUpdate_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "URAUpdate");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_URAUpdateConfirm_r3_IEs(rtxContext* RT_RESTRICT ctx, URAUpdateConfirm_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 8);
-   RT_CHECK(ctx, stat);
-   /* delayRestrictionFlag */
+   RT_CHECK(ctx, stat, 0, 0, -1, "URAUpdateConfirm-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "URAUpdateConfirm-r3-IEs");
+   /* integrityProtectionModeInfo */
    if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "delayRestrictionFlag");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "DelayRestrictionFlag");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->delayRestrictionFlag = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "URAUpdateConfirm-r3-IEs");
    }
-   /* primary-plmn-Identity */
+   /* cipheringModeInfo */
    if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "primary-plmn-Identity");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "URAUpdateConfirm-r3-IEs");
    }
-   /* harq-Preamble-Mode */
+   /* new-U-RNTI */
    if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "harq-Preamble-Mode");
       pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "HARQ-Preamble-Mode");
-      stat = pd_ConsUInt8(ctx, &pvalue->harq_Preamble_Mode, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "URAUpdateConfirm-r3-IEs");
    }
-   /* beaconPLEst */
+   /* new-C-RNTI */
    if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "beaconPLEst");
       pvalue->m |= 0x8u;
-      rtxCtxtPushTypeName(ctx, "BEACON-PL-Est");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->beaconPLEst = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "URAUpdateConfirm-r3-IEs");
    }
-   /* postVerificationPeriod */
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "URAUpdateConfirm-r3-IEs");
+   /* utran-DRX-CycleLengthCoeff */
    if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "postVerificationPeriod");
       pvalue->m |= 0x10u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->postVerificationPeriod = ui;
-      }
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "URAUpdateConfirm-r3-IEs");
    }
-   /* dhs-sync */
+   /* cn-InformationInfo */
    if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "dhs-sync");
       pvalue->m |= 0x20u;
-      rtxCtxtPushTypeName(ctx, "DHS-Sync");
-      stat = pd_ConsInt8(ctx, &pvalue->dhs_sync, -20, 10);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "URAUpdateConfirm-r3-IEs");
    }
-   /* timingMaintainedSynchInd */
+   /* ura-Identity */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "timingMaintainedSynchInd");
       pvalue->m |= 0x40u;
-      rtxCtxtPushTypeName(ctx, "TimingMaintainedSynchInd");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->timingMaintainedSynchInd = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "URAUpdateConfirm-r3-IEs");
    }
-   /* mbms-PL-ServiceRestrictInfo */
+   /* dl-CounterSynchronisationInfo */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mbms-PL-ServiceRestrictInfo");
       pvalue->m |= 0x80u;
-      rtxCtxtPushTypeName(ctx, "MBMS-PL-ServiceRestrictInfo-r6");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "URAUpdateConfirm-r3-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_v770ext_IEs(rtxContext* ctx, PhysicalChannelReconfiguration_v770ext_IEs* pvalue)
+int asn1PD_UMTS_URAUpdateConfirm_v690ext_IEs(rtxContext* RT_RESTRICT ctx, URAUpdateConfirm_v690ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration-v770ext-IEs");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ueMobilityStateIndicator */
+   RT_CHECK(ctx, stat, 0, 0, -1, "URAUpdateConfirm-v690ext-IEs");
+   /* primary-plmn-Identity */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ueMobilityStateIndicator");
       pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "High-MobilityDetected");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->ueMobilityStateIndicator = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
+      RT_CHECK(ctx, stat, 0, "primary-plmn-Identity", -1, "URAUpdateConfirm-v690ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* pvalue)
+int asn1PD_UMTS_URAUpdateConfirm_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, URAUpdateConfirm_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_URAUpdateConfirm_r3_laterNonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, URAUpdateConfirm_r3_laterNonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v770ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v770ext");
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v770ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uraUpdateConfirm-v690ext */
+   stat = asn1PD_UMTS_URAUpdateConfirm_v690ext_IEs(ctx, &pvalue->uraUpdateConfirm_v690ext);
+   RT_CHECK(ctx, stat, 0, "uraUpdateConfirm-v690ext", -1, 0);
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_URAUpdateConfirm_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* ctx, PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v690ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v690ext");
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v690ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions(rtxContext* ctx, PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v590ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v590ext");
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v590ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions(rtxContext* ctx, PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v4b0ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v4b0ext");
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v4b0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v4b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v590NonCriticalExtenstions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtenstions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions(ctx, &pvalue->v590NonCriticalExtenstions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* ctx, PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions* pvalue)
+int asn1PD_UMTS_URAUpdateConfirm_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, URAUpdateConfirm_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-r3-add-ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uraUpdateConfirm-r3-add-ext */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-r3-add-ext");
       pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->physicalChannelReconfiguration_r3_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_DynBitString(ctx, &pvalue->uraUpdateConfirm_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "uraUpdateConfirm-r3-add-ext", -1, 0);
    }
-   /* v4b0NonCriticalExtenstions */
+   /* v690NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v4b0NonCriticalExtenstions");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions(ctx, &pvalue->v4b0NonCriticalExtenstions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_URAUpdateConfirm_r3_laterNonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions(rtxContext* ctx, PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_URAUpdateConfirm_r3(rtxContext* RT_RESTRICT ctx, URAUpdateConfirm_r3* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v3a0ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v3a0ext");
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v3a0ext(ctx, &pvalue->physicalChannelReconfiguration_v3a0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uraUpdateConfirm-r3 */
+   stat = asn1PD_UMTS_URAUpdateConfirm_r3_IEs(ctx, &pvalue->uraUpdateConfirm_r3);
+   RT_CHECK(ctx, stat, 0, "uraUpdateConfirm-r3", -1, 0);
    /* laterNonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_URAUpdateConfirm_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r3(rtxContext* ctx, PhysicalChannelReconfiguration_r3* pvalue)
+int asn1PD_UMTS_URAUpdateConfirm_r5_IEs(rtxContext* RT_RESTRICT ctx, URAUpdateConfirm_r5_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-r3 */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-r3");
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r3_IEs(ctx, &pvalue->physicalChannelReconfiguration_r3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v3a0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v3a0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo_fdd(rtxContext* ctx, PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo(rtxContext* ctx, PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r4_IEs(rtxContext* ctx, PhysicalChannelReconfiguration_r4_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration-r4-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 15);
-   RT_CHECK(ctx, stat);
+   stat = rtxDecBitsFast(ctx, &present, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "URAUpdateConfirm-r5-IEs");
    /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 14)) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
+   if (present & ((uint32_t)1 << 7)) {
       pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "URAUpdateConfirm-r5-IEs");
    }
    /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 13)) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
+   if (present & ((uint32_t)1 << 6)) {
       pvalue->m |= 0x2u;
       stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 12)) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "URAUpdateConfirm-r5-IEs");
    }
    /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 11)) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
-      pvalue->m |= 0x40u;
-      rtxCtxtPushTypeName(ctx, "UTRAN-DRX-CycleLengthCoefficient");
-      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CounterSynchronisationInfo */
    if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "dl-CounterSynchronisationInfo");
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      pvalue->m |= 0x800u;
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-ChannelRequirement */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "ul-ChannelRequirement");
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_UL_ChannelRequirementWithCPCH_SetID_r4(ctx, &pvalue->ul_ChannelRequirement);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonInformation */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r4(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v770ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v770ext");
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v770ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v690ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v690ext");
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v690ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions(rtxContext* ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v590ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v590ext");
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v590ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-r4-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-r4-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->physicalChannelReconfiguration_r4_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v590NonCriticalExtenstions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtenstions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions(ctx, &pvalue->v590NonCriticalExtenstions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4(rtxContext* ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-r4 */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-r4");
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r4_IEs(ctx, &pvalue->physicalChannelReconfiguration_r4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v4d0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v4d0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo_fdd(rtxContext* ctx, PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo(rtxContext* ctx, PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r5_IEs(rtxContext* ctx, PhysicalChannelReconfiguration_r5_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration-r5-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 17);
-   RT_CHECK(ctx, stat);
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 16)) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 15)) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 14)) {
-      rtxCtxtPushElemName(ctx, "activationTime");
       pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 13)) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
-      pvalue->m |= 0x8u;
       stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "URAUpdateConfirm-r5-IEs");
    }
    /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 12)) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
-      pvalue->m |= 0x10u;
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x8u;
       stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 11)) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-H-RNTI */
-   if (present & ((uint32_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "new-H-RNTI");
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "URAUpdateConfirm-r5-IEs");
    }
    /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
    stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "URAUpdateConfirm-r5-IEs");
    /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
-      pvalue->m |= 0x80u;
-      rtxCtxtPushTypeName(ctx, "UTRAN-DRX-CycleLengthCoefficient");
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x10u;
       stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "URAUpdateConfirm-r5-IEs");
    }
    /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      pvalue->m |= 0x100u;
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x20u;
       stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "URAUpdateConfirm-r5-IEs");
    }
    /* ura-Identity */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
-      pvalue->m |= 0x200u;
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x40u;
       stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "URAUpdateConfirm-r5-IEs");
    }
    /* dl-CounterSynchronisationInfo */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "dl-CounterSynchronisationInfo");
-      pvalue->m |= 0x400u;
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x80u;
       stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "URAUpdateConfirm-r5-IEs");
    }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      pvalue->m |= 0x1000u;
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-ChannelRequirement */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "ul-ChannelRequirement");
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_UL_ChannelRequirementWithCPCH_SetID_r5(ctx, &pvalue->ul_ChannelRequirement);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonInformation */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r5(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r5(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* pvalue)
+int asn1PD_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions_r5_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, URAUpdateConfirm_later_than_r3_criticalExtensions_r5_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions_r5_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, URAUpdateConfirm_later_than_r3_criticalExtensions_r5_v690NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v770ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v770ext");
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v770ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uraUpdateConfirm-v690ext */
+   stat = asn1PD_UMTS_URAUpdateConfirm_v690ext_IEs(ctx, &pvalue->uraUpdateConfirm_v690ext);
+   RT_CHECK(ctx, stat, 0, "uraUpdateConfirm-v690ext", -1, 0);
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions_r5_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions(rtxContext* ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, URAUpdateConfirm_later_than_r3_criticalExtensions_r5* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v690ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v690ext");
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v690ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5(rtxContext* ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-r5 */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-r5");
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r5_IEs(ctx, &pvalue->physicalChannelReconfiguration_r5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* physicalChannelReconfiguration-r5-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-r5-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->physicalChannelReconfiguration_r5_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uraUpdateConfirm-r5 */
+   stat = asn1PD_UMTS_URAUpdateConfirm_r5_IEs(ctx, &pvalue->uraUpdateConfirm_r5);
+   RT_CHECK(ctx, stat, 0, "uraUpdateConfirm-r5", -1, 0);
    /* v690NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions_r5_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r6_IEs(rtxContext* ctx, PhysicalChannelReconfiguration_r6_IEs* pvalue)
+int asn1PD_UMTS_URAUpdateConfirm_r7_IEs(rtxContext* RT_RESTRICT ctx, URAUpdateConfirm_r7_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration-r6-IEs");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 22);
-   RT_CHECK(ctx, stat);
+   stat = rtxDecBitsFast(ctx, &present, 10);
+   RT_CHECK(ctx, stat, 0, 0, -1, "URAUpdateConfirm-r7-IEs");
    /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 21)) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
+   if (present & ((uint32_t)1 << 9)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "URAUpdateConfirm-r7-IEs");
    }
    /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 20)) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
+   if (present & ((uint32_t)1 << 8)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 19)) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* delayRestrictionFlag */
-   if (present & ((uint32_t)1 << 18)) {
-      rtxCtxtPushElemName(ctx, "delayRestrictionFlag");
-      pvalue->m |= 0x8u;
-      rtxCtxtPushTypeName(ctx, "DelayRestrictionFlag");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->delayRestrictionFlag = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "URAUpdateConfirm-r7-IEs");
    }
    /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 17)) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
-      pvalue->m |= 0x10u;
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x4u;
       stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "URAUpdateConfirm-r7-IEs");
    }
    /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 16)) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
-      pvalue->m |= 0x20u;
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x8u;
       stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "URAUpdateConfirm-r7-IEs");
    }
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 15)) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
+   /* rrc-StateIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "URAUpdateConfirm-r7-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "URAUpdateConfirm-r7-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "URAUpdateConfirm-r7-IEs");
+   }
+   /* primary-plmn-Identity */
+   if (present & ((uint32_t)1 << 3)) {
       pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
+      RT_CHECK(ctx, stat, 0, "primary-plmn-Identity", -1, "URAUpdateConfirm-r7-IEs");
    }
-   /* new-H-RNTI */
-   if (present & ((uint32_t)1 << 14)) {
-      rtxCtxtPushElemName(ctx, "new-H-RNTI");
+   /* ura-Identity */
+   if (present & ((uint32_t)1 << 2)) {
       pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "URAUpdateConfirm-r7-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x100u;
+      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "URAUpdateConfirm-r7-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "URAUpdateConfirm-r7-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_URAUpdateConfirm_v860ext_IEs(rtxContext* RT_RESTRICT ctx, URAUpdateConfirm_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "URAUpdateConfirm-v860ext-IEs");
+   /* new-H-RNTI */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
       stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "URAUpdateConfirm-v860ext-IEs");
    }
    /* newPrimary-E-RNTI */
-   if (present & ((uint32_t)1 << 13)) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint32_t)1 << 12)) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 11)) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
-      pvalue->m |= 0x400u;
-      rtxCtxtPushTypeName(ctx, "UTRAN-DRX-CycleLengthCoefficient");
-      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint32_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "dl-CounterSynchronisationInfo");
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      pvalue->m |= 0x8000u;
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-DPCH-Info */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_UL_DPCH_Info_r6(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-EDCH-Information */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r6(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r6(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonInformation */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r6(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-InformationPerRL-List */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r6(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "URAUpdateConfirm-v860ext-IEs");
    }
-   /* mbms-PL-ServiceRestrictInfo */
+   /* defaultConfigForCellFACH */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mbms-PL-ServiceRestrictInfo");
-      pvalue->m |= 0x200000u;
-      rtxCtxtPushTypeName(ctx, "MBMS-PL-ServiceRestrictInfo-r6");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_DefaultConfigForCellFACH(ctx, &pvalue->defaultConfigForCellFACH);
+      RT_CHECK(ctx, stat, 0, "defaultConfigForCellFACH", -1, "URAUpdateConfirm-v860ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_v6b0ext_IEs(rtxContext* ctx, PhysicalChannelReconfiguration_v6b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration-v6b0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dl-InformationPerRL-List-v6b0ext */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List-v6b0ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_v6b0ext(ctx, &pvalue->dl_InformationPerRL_List_v6b0ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* pvalue)
+int asn1PD_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r7_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, URAUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r7_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r7_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, URAUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r7_v860NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v770ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v770ext");
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v770ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uraUpdateConfirm-v860ext */
+   stat = asn1PD_UMTS_URAUpdateConfirm_v860ext_IEs(ctx, &pvalue->uraUpdateConfirm_v860ext);
+   RT_CHECK(ctx, stat, 0, "uraUpdateConfirm-v860ext", -1, 0);
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r7_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v6b0ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v6b0ext");
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v6b0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v6b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(rtxContext* ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6* pvalue)
+int asn1PD_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, URAUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-r6 */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-r6");
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r6_IEs(ctx, &pvalue->physicalChannelReconfiguration_r6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* physicalChannelReconfiguration-r6-add-ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uraUpdateConfirm-r7 */
+   stat = asn1PD_UMTS_URAUpdateConfirm_r7_IEs(ctx, &pvalue->uraUpdateConfirm_r7);
+   RT_CHECK(ctx, stat, 0, "uraUpdateConfirm-r7", -1, 0);
+   /* uraUpdateConfirm-r7-add-ext */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-r6-add-ext");
       pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->physicalChannelReconfiguration_r6_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_DynBitString(ctx, &pvalue->uraUpdateConfirm_r7_add_ext);
+      RT_CHECK(ctx, stat, 0, "uraUpdateConfirm-r7-add-ext", -1, 0);
+   }
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r7_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, URAUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, URAUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r7 */
+         pvalue->u.r7 = (URAUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r7*)rtxMemHeapAlloc(ctx, sizeof(URAUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r7));
+         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r7", -1, 0);
+         asn1Init_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r7(pvalue->u.r7);
+         stat = asn1PD_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
+         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (URAUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(URAUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PD_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, URAUpdateConfirm_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r5 */
+         pvalue->u.r5 = (URAUpdateConfirm_later_than_r3_criticalExtensions_r5*)rtxMemHeapAlloc(ctx, sizeof(URAUpdateConfirm_later_than_r3_criticalExtensions_r5));
+         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r5", -1, 0);
+         asn1Init_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions_r5(pvalue->u.r5);
+         stat = asn1PD_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions_r5(ctx, pvalue->u.r5);
+         RT_CHECK(ctx, stat, 0, "r5", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (URAUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(URAUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_URAUpdateConfirm_later_than_r3(rtxContext* RT_RESTRICT ctx, URAUpdateConfirm_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PD_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_URAUpdateConfirm(rtxContext* RT_RESTRICT ctx, URAUpdateConfirm* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "URAUpdateConfirm");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r3 */
+         pvalue->u.r3 = (URAUpdateConfirm_r3*)rtxMemHeapAlloc(ctx, sizeof(URAUpdateConfirm_r3));
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "URAUpdateConfirm");
+         asn1Init_UMTS_URAUpdateConfirm_r3(pvalue->u.r3);
+         stat = asn1PD_UMTS_URAUpdateConfirm_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "URAUpdateConfirm");
+         break;
+      case 1: /* later-than-r3 */
+         pvalue->u.later_than_r3 = (URAUpdateConfirm_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(URAUpdateConfirm_later_than_r3));
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "URAUpdateConfirm");
+         asn1Init_UMTS_URAUpdateConfirm_later_than_r3(pvalue->u.later_than_r3);
+         stat = asn1PD_UMTS_URAUpdateConfirm_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "URAUpdateConfirm");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "URAUpdateConfirm");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_URAUpdateConfirm_CCCH_r3_IEs(rtxContext* RT_RESTRICT ctx, URAUpdateConfirm_CCCH_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* u-RNTI */
+   stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, "URAUpdateConfirm-CCCH-r3-IEs");
+   /* uraUpdateConfirm */
+   stat = asn1PD_UMTS_URAUpdateConfirm_r3_IEs(ctx, &pvalue->uraUpdateConfirm);
+   RT_CHECK(ctx, stat, 0, "uraUpdateConfirm", -1, "URAUpdateConfirm-CCCH-r3-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_URAUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, URAUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_URAUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, URAUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uraUpdateConfirm-v860ext */
+   stat = asn1PD_UMTS_URAUpdateConfirm_v860ext_IEs(ctx, &pvalue->uraUpdateConfirm_v860ext);
+   RT_CHECK(ctx, stat, 0, "uraUpdateConfirm-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_URAUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_URAUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, URAUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uraUpdateConfirm-v690ext */
+   stat = asn1PD_UMTS_URAUpdateConfirm_v690ext_IEs(ctx, &pvalue->uraUpdateConfirm_v690ext);
+   RT_CHECK(ctx, stat, 0, "uraUpdateConfirm-v690ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_URAUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_URAUpdateConfirm_CCCH_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, URAUpdateConfirm_CCCH_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uraUpdateConfirm-CCCH-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->uraUpdateConfirm_CCCH_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "uraUpdateConfirm-CCCH-r3-add-ext", -1, 0);
+   }
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_URAUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_URAUpdateConfirm_CCCH_r3(rtxContext* RT_RESTRICT ctx, URAUpdateConfirm_CCCH_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uraUpdateConfirm-CCCH-r3 */
+   stat = asn1PD_UMTS_URAUpdateConfirm_CCCH_r3_IEs(ctx, &pvalue->uraUpdateConfirm_CCCH_r3);
+   RT_CHECK(ctx, stat, 0, "uraUpdateConfirm-CCCH-r3", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_URAUpdateConfirm_CCCH_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_URAUpdateConfirm_CCCH_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, URAUpdateConfirm_CCCH_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_URAUpdateConfirm_CCCH_later_than_r3(rtxContext* RT_RESTRICT ctx, URAUpdateConfirm_CCCH_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* u-RNTI */
+   stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, 0);
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PD_UMTS_URAUpdateConfirm_CCCH_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_URAUpdateConfirm_CCCH(rtxContext* RT_RESTRICT ctx, URAUpdateConfirm_CCCH* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "URAUpdateConfirm-CCCH");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r3 */
+         pvalue->u.r3 = (URAUpdateConfirm_CCCH_r3*)rtxMemHeapAlloc(ctx, sizeof(URAUpdateConfirm_CCCH_r3));
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "URAUpdateConfirm-CCCH");
+         asn1Init_UMTS_URAUpdateConfirm_CCCH_r3(pvalue->u.r3);
+         stat = asn1PD_UMTS_URAUpdateConfirm_CCCH_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "URAUpdateConfirm-CCCH");
+         break;
+      case 1: /* later-than-r3 */
+         pvalue->u.later_than_r3 = (URAUpdateConfirm_CCCH_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(URAUpdateConfirm_CCCH_later_than_r3));
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "URAUpdateConfirm-CCCH");
+         asn1Init_UMTS_URAUpdateConfirm_CCCH_later_than_r3(pvalue->u.later_than_r3);
+         stat = asn1PD_UMTS_URAUpdateConfirm_CCCH_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "URAUpdateConfirm-CCCH");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "URAUpdateConfirm-CCCH");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRANMobilityInformation_r3_IEs_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UTRANMobilityInformation_r3_IEs_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_UTRANMobilityInformation_r3_IEs(rtxContext* RT_RESTRICT ctx, UTRANMobilityInformation_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 9);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UTRANMobilityInformation-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "UTRANMobilityInformation-r3-IEs");
+   /* integrityProtectionModeInfo */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "UTRANMobilityInformation-r3-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "UTRANMobilityInformation-r3-IEs");
+   }
+   /* new-U-RNTI */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "UTRANMobilityInformation-r3-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "UTRANMobilityInformation-r3-IEs");
+   }
+   /* ue-ConnTimersAndConstants */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_UE_ConnTimersAndConstants(ctx, &pvalue->ue_ConnTimersAndConstants);
+      RT_CHECK(ctx, stat, 0, "ue-ConnTimersAndConstants", -1, "UTRANMobilityInformation-r3-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_CN_InformationInfoFull(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "UTRANMobilityInformation-r3-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "UTRANMobilityInformation-r3-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "UTRANMobilityInformation-r3-IEs");
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_UTRANMobilityInformation_r3_IEs_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "UTRANMobilityInformation-r3-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRANMobilityInformation_v3a0ext_IEs(rtxContext* RT_RESTRICT ctx, UTRANMobilityInformation_v3a0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ue-ConnTimersAndConstants-v3a0ext */
+   stat = asn1PD_UMTS_UE_ConnTimersAndConstants_v3a0ext(ctx, &pvalue->ue_ConnTimersAndConstants_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "ue-ConnTimersAndConstants-v3a0ext", -1, "UTRANMobilityInformation-v3a0ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_UtranMobilityInformation_v690ext_IEs(rtxContext* RT_RESTRICT ctx, UtranMobilityInformation_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UtranMobilityInformation-v690ext-IEs");
+   /* primary-plmn-Identity */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
+      RT_CHECK(ctx, stat, 0, "primary-plmn-Identity", -1, "UtranMobilityInformation-v690ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRANMobilityInformation_v860ext1_IEs(rtxContext* RT_RESTRICT ctx, UTRANMobilityInformation_v860ext1_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ue-ConnTimersAndConstants */
+   stat = asn1PD_UMTS_UE_ConnTimersAndConstants_v860ext(ctx, &pvalue->ue_ConnTimersAndConstants);
+   RT_CHECK(ctx, stat, 0, "ue-ConnTimersAndConstants", -1, "UTRANMobilityInformation-v860ext1-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_UTRANMobilityInformation_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtentions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UTRANMobilityInformation_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtentions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_UTRANMobilityInformation_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtentions(rtxContext* RT_RESTRICT ctx, UTRANMobilityInformation_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtentions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* utranMobilityInformation-v860ext */
+   stat = asn1PD_UMTS_UTRANMobilityInformation_v860ext1_IEs(ctx, &pvalue->utranMobilityInformation_v860ext);
+   RT_CHECK(ctx, stat, 0, "utranMobilityInformation-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UTRANMobilityInformation_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtentions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRANMobilityInformation_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UTRANMobilityInformation_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* utranMobilityInformation-v690ext */
+   stat = asn1PD_UMTS_UtranMobilityInformation_v690ext_IEs(ctx, &pvalue->utranMobilityInformation_v690ext);
+   RT_CHECK(ctx, stat, 0, "utranMobilityInformation-v690ext", -1, 0);
+   /* v860NonCriticalExtentions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UTRANMobilityInformation_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtentions(ctx, &pvalue->v860NonCriticalExtentions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtentions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRANMobilityInformation_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UTRANMobilityInformation_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* utranMobilityInformation-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->utranMobilityInformation_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "utranMobilityInformation-r3-add-ext", -1, 0);
+   }
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UTRANMobilityInformation_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRANMobilityInformation_r3_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UTRANMobilityInformation_r3_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* utranMobilityInformation-v3a0ext */
+   stat = asn1PD_UMTS_UTRANMobilityInformation_v3a0ext_IEs(ctx, &pvalue->utranMobilityInformation_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "utranMobilityInformation-v3a0ext", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UTRANMobilityInformation_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRANMobilityInformation_r3(rtxContext* RT_RESTRICT ctx, UTRANMobilityInformation_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* utranMobilityInformation-r3 */
+   stat = asn1PD_UMTS_UTRANMobilityInformation_r3_IEs(ctx, &pvalue->utranMobilityInformation_r3);
+   RT_CHECK(ctx, stat, 0, "utranMobilityInformation-r3", -1, 0);
+   /* v3a0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UTRANMobilityInformation_r3_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRANMobilityInformation_r5_IEs(rtxContext* RT_RESTRICT ctx, UTRANMobilityInformation_r5_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UTRANMobilityInformation-r5-IEs");
+   /* integrityProtectionModeInfo */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "UTRANMobilityInformation-r5-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "UTRANMobilityInformation-r5-IEs");
+   }
+   /* new-U-RNTI */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "UTRANMobilityInformation-r5-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "UTRANMobilityInformation-r5-IEs");
+   }
+   /* ue-ConnTimersAndConstants */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_UE_ConnTimersAndConstants_r5(ctx, &pvalue->ue_ConnTimersAndConstants);
+      RT_CHECK(ctx, stat, 0, "ue-ConnTimersAndConstants", -1, "UTRANMobilityInformation-r5-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_CN_InformationInfoFull(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "UTRANMobilityInformation-r5-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "UTRANMobilityInformation-r5-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "UTRANMobilityInformation-r5-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_r5_v690NonCriticalExtensions_v860NonCriticalExtentions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UTRANMobilityInformation_later_than_r3_criticalExtensions_r5_v690NonCriticalExtensions_v860NonCriticalExtentions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_r5_v690NonCriticalExtensions_v860NonCriticalExtentions(rtxContext* RT_RESTRICT ctx, UTRANMobilityInformation_later_than_r3_criticalExtensions_r5_v690NonCriticalExtensions_v860NonCriticalExtentions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* utranMobilityInformation-v860ext */
+   stat = asn1PD_UMTS_UTRANMobilityInformation_v860ext1_IEs(ctx, &pvalue->utranMobilityInformation_v860ext);
+   RT_CHECK(ctx, stat, 0, "utranMobilityInformation-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_r5_v690NonCriticalExtensions_v860NonCriticalExtentions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_r5_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UTRANMobilityInformation_later_than_r3_criticalExtensions_r5_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* utranMobilityInformation-v690ext */
+   stat = asn1PD_UMTS_UtranMobilityInformation_v690ext_IEs(ctx, &pvalue->utranMobilityInformation_v690ext);
+   RT_CHECK(ctx, stat, 0, "utranMobilityInformation-v690ext", -1, 0);
+   /* v860NonCriticalExtentions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_r5_v690NonCriticalExtensions_v860NonCriticalExtentions(ctx, &pvalue->v860NonCriticalExtentions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtentions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, UTRANMobilityInformation_later_than_r3_criticalExtensions_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* utranMobilityInformation-r5 */
+   stat = asn1PD_UMTS_UTRANMobilityInformation_r5_IEs(ctx, &pvalue->utranMobilityInformation_r5);
+   RT_CHECK(ctx, stat, 0, "utranMobilityInformation-r5", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_r5_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRANMobilityInformation_r7_IEs(rtxContext* RT_RESTRICT ctx, UTRANMobilityInformation_r7_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 11);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UTRANMobilityInformation-r7-IEs");
+   /* integrityProtectionModeInfo */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "UTRANMobilityInformation-r7-IEs");
+   }
+   /* cipheringModeInfo */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "UTRANMobilityInformation-r7-IEs");
+   }
+   /* new-U-RNTI */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "UTRANMobilityInformation-r7-IEs");
+   }
+   /* new-C-RNTI */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "UTRANMobilityInformation-r7-IEs");
+   }
+   /* new-H-RNTI */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "UTRANMobilityInformation-r7-IEs");
+   }
+   /* ue-ConnTimersAndConstants */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_UE_ConnTimersAndConstants_r5(ctx, &pvalue->ue_ConnTimersAndConstants);
+      RT_CHECK(ctx, stat, 0, "ue-ConnTimersAndConstants", -1, "UTRANMobilityInformation-r7-IEs");
+   }
+   /* cn-InformationInfo */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_CN_InformationInfoFull(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "UTRANMobilityInformation-r7-IEs");
+   }
+   /* primary-plmn-Identity */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
+      RT_CHECK(ctx, stat, 0, "primary-plmn-Identity", -1, "UTRANMobilityInformation-r7-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "UTRANMobilityInformation-r7-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x200u;
+      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "UTRANMobilityInformation-r7-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "UTRANMobilityInformation-r7-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRANMobilityInformation_v860ext2_IEs(rtxContext* RT_RESTRICT ctx, UTRANMobilityInformation_v860ext2_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UTRANMobilityInformation-v860ext2-IEs");
+   /* newPrimary-E-RNTI */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "UTRANMobilityInformation-v860ext2-IEs");
+   }
+   /* ue-ConnTimersAndConstants */
+   stat = asn1PD_UMTS_UE_ConnTimersAndConstants_v860ext(ctx, &pvalue->ue_ConnTimersAndConstants);
+   RT_CHECK(ctx, stat, 0, "ue-ConnTimersAndConstants", -1, "UTRANMobilityInformation-v860ext2-IEs");
+   /* dedicatedPriorityInformation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DedicatedPriorityInformation(ctx, &pvalue->dedicatedPriorityInformation);
+      RT_CHECK(ctx, stat, 0, "dedicatedPriorityInformation", -1, "UTRANMobilityInformation-v860ext2-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_criticalExtensions_r7_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UTRANMobilityInformation_later_than_r3_criticalExtensions_criticalExtensions_r7_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_criticalExtensions_r7_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UTRANMobilityInformation_later_than_r3_criticalExtensions_criticalExtensions_r7_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* utranMobilityInformation-v860ext */
+   stat = asn1PD_UMTS_UTRANMobilityInformation_v860ext2_IEs(ctx, &pvalue->utranMobilityInformation_v860ext);
+   RT_CHECK(ctx, stat, 0, "utranMobilityInformation-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_criticalExtensions_r7_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, UTRANMobilityInformation_later_than_r3_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* utranMobilityInformation-r7 */
+   stat = asn1PD_UMTS_UTRANMobilityInformation_r7_IEs(ctx, &pvalue->utranMobilityInformation_r7);
+   RT_CHECK(ctx, stat, 0, "utranMobilityInformation-r7", -1, 0);
+   /* utranMobilityInformation-r7-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->utranMobilityInformation_r7_add_ext);
+      RT_CHECK(ctx, stat, 0, "utranMobilityInformation-r7-add-ext", -1, 0);
+   }
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_criticalExtensions_r7_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, UTRANMobilityInformation_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, UTRANMobilityInformation_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r7 */
+         pvalue->u.r7 = (UTRANMobilityInformation_later_than_r3_criticalExtensions_criticalExtensions_r7*)rtxMemHeapAlloc(ctx, sizeof(UTRANMobilityInformation_later_than_r3_criticalExtensions_criticalExtensions_r7));
+         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r7", -1, 0);
+         asn1Init_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_criticalExtensions_r7(pvalue->u.r7);
+         stat = asn1PD_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
+         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (UTRANMobilityInformation_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(UTRANMobilityInformation_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PD_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, UTRANMobilityInformation_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r5 */
+         pvalue->u.r5 = (UTRANMobilityInformation_later_than_r3_criticalExtensions_r5*)rtxMemHeapAlloc(ctx, sizeof(UTRANMobilityInformation_later_than_r3_criticalExtensions_r5));
+         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r5", -1, 0);
+         asn1Init_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_r5(pvalue->u.r5);
+         stat = asn1PD_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_r5(ctx, pvalue->u.r5);
+         RT_CHECK(ctx, stat, 0, "r5", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (UTRANMobilityInformation_later_than_r3_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(UTRANMobilityInformation_later_than_r3_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRANMobilityInformation_later_than_r3(rtxContext* RT_RESTRICT ctx, UTRANMobilityInformation_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PD_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UTRANMobilityInformation(rtxContext* RT_RESTRICT ctx, UTRANMobilityInformation* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UTRANMobilityInformation");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r3 */
+         pvalue->u.r3 = (UTRANMobilityInformation_r3*)rtxMemHeapAlloc(ctx, sizeof(UTRANMobilityInformation_r3));
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "UTRANMobilityInformation");
+         asn1Init_UMTS_UTRANMobilityInformation_r3(pvalue->u.r3);
+         stat = asn1PD_UMTS_UTRANMobilityInformation_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "UTRANMobilityInformation");
+         break;
+      case 1: /* later-than-r3 */
+         pvalue->u.later_than_r3 = (UTRANMobilityInformation_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(UTRANMobilityInformation_later_than_r3));
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "UTRANMobilityInformation");
+         asn1Init_UMTS_UTRANMobilityInformation_later_than_r3(pvalue->u.later_than_r3);
+         stat = asn1PD_UMTS_UTRANMobilityInformation_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "UTRANMobilityInformation");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UTRANMobilityInformation");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRANMobilityInformationConfirm_v770ext_IEs_deferredMeasurementControlReading(rtxContext* RT_RESTRICT ctx, UTRANMobilityInformationConfirm_v770ext_IEs_deferredMeasurementControlReading* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRANMobilityInformationConfirm_v770ext_IEs(rtxContext* RT_RESTRICT ctx, UTRANMobilityInformationConfirm_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UTRANMobilityInformationConfirm-v770ext-IEs");
+   /* deferredMeasurementControlReading */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "deferredMeasurementControlReading", -1, "UTRANMobilityInformationConfirm-v770ext-IEs");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "deferredMeasurementControlReading", -1, "UTRANMobilityInformationConfirm-v770ext-IEs");
+         pvalue->deferredMeasurementControlReading = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRANMobilityInformationConfirm_laterNonCriticalExtensions_v770NonCriticalExtension_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UTRANMobilityInformationConfirm_laterNonCriticalExtensions_v770NonCriticalExtension_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_UTRANMobilityInformationConfirm_laterNonCriticalExtensions_v770NonCriticalExtension(rtxContext* RT_RESTRICT ctx, UTRANMobilityInformationConfirm_laterNonCriticalExtensions_v770NonCriticalExtension* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* utranMobilityInformationConfirm-v770ext */
+   stat = asn1PD_UMTS_UTRANMobilityInformationConfirm_v770ext_IEs(ctx, &pvalue->utranMobilityInformationConfirm_v770ext);
+   RT_CHECK(ctx, stat, 0, "utranMobilityInformationConfirm-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UTRANMobilityInformationConfirm_laterNonCriticalExtensions_v770NonCriticalExtension_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRANMobilityInformationConfirm_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UTRANMobilityInformationConfirm_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* utranMobilityInformationConfirm-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->utranMobilityInformationConfirm_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "utranMobilityInformationConfirm-r3-add-ext", -1, 0);
+   }
+   /* v770NonCriticalExtension */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UTRANMobilityInformationConfirm_laterNonCriticalExtensions_v770NonCriticalExtension(ctx, &pvalue->v770NonCriticalExtension);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtension", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRANMobilityInformationConfirm(rtxContext* RT_RESTRICT ctx, UTRANMobilityInformationConfirm* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UTRANMobilityInformationConfirm");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "UTRANMobilityInformationConfirm");
+   /* ul-IntegProtActivationInfo */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityProtActivationInfo(ctx, &pvalue->ul_IntegProtActivationInfo);
+      RT_CHECK(ctx, stat, 0, "ul-IntegProtActivationInfo", -1, "UTRANMobilityInformationConfirm");
+   }
+   /* count-C-ActivationTime */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt8(ctx, &pvalue->count_C_ActivationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "count-C-ActivationTime", -1, "UTRANMobilityInformationConfirm");
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "UTRANMobilityInformationConfirm");
+   }
+   /* ul-CounterSynchronisationInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_UL_CounterSynchronisationInfo(ctx, &pvalue->ul_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CounterSynchronisationInfo", -1, "UTRANMobilityInformationConfirm");
+   }
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_UTRANMobilityInformationConfirm_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "UTRANMobilityInformationConfirm");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRANMobilityInformationFailure_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UTRANMobilityInformationFailure_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_UTRANMobilityInformationFailure_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, UTRANMobilityInformationFailure_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* utranMobilityInformationFailure-r3-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->utranMobilityInformationFailure_r3_add_ext);
+      RT_CHECK(ctx, stat, 0, "utranMobilityInformationFailure-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UTRANMobilityInformationFailure_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UTRANMobilityInformationFailure(rtxContext* RT_RESTRICT ctx, UTRANMobilityInformationFailure* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UTRANMobilityInformationFailure");
+   /* rrc-TransactionIdentifier */
+   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "UTRANMobilityInformationFailure");
+   /* failureCause */
+   stat = asn1PD_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
+   RT_CHECK(ctx, stat, 0, "failureCause", -1, "UTRANMobilityInformationFailure");
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UTRANMobilityInformationFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "UTRANMobilityInformationFailure");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSAccessInformation_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MBMSAccessInformation_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSAccessInformation(rtxContext* RT_RESTRICT ctx, MBMSAccessInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSAccessInformation");
+   /* mbms-ServiceAccessInfoList */
+   stat = asn1PD_UMTS_MBMS_ServiceAccessInfoList_r6(ctx, &pvalue->mbms_ServiceAccessInfoList);
+   RT_CHECK(ctx, stat, 0, "mbms-ServiceAccessInfoList", -1, "MBMSAccessInformation");
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMSAccessInformation_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "MBMSAccessInformation");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSCommonPTMRBInformation_v770ext_IEs(rtxContext* RT_RESTRICT ctx, MBMSCommonPTMRBInformation_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSCommonPTMRBInformation-v770ext-IEs");
+   /* mbms-PhyChInformationList-r7 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMS_PhyChInformationList_r7(ctx, &pvalue->mbms_PhyChInformationList_r7);
+      RT_CHECK(ctx, stat, 0, "mbms-PhyChInformationList-r7", -1, "MBMSCommonPTMRBInformation-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSCommonPTMRBInformation_v780ext_IEs(rtxContext* RT_RESTRICT ctx, MBMSCommonPTMRBInformation_v780ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSCommonPTMRBInformation-v780ext-IEs");
+   /* mbsfn-TDDInformation-LCR */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBSFN_TDDInformation_LCR(ctx, &pvalue->mbsfn_TDDInformation_LCR);
+      RT_CHECK(ctx, stat, 0, "mbsfn-TDDInformation-LCR", -1, "MBMSCommonPTMRBInformation-v780ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSCommonPTMRBInformation_v860ext_IEs(rtxContext* RT_RESTRICT ctx, MBMSCommonPTMRBInformation_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSCommonPTMRBInformation-v860ext-IEs");
+   /* mbms-PhyChInformationList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMS_PhyChInformationList_IMB384(ctx, &pvalue->mbms_PhyChInformationList);
+      RT_CHECK(ctx, stat, 0, "mbms-PhyChInformationList", -1, "MBMSCommonPTMRBInformation-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSCommonPTMRBInformation_v770NonCriticalExtensions_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MBMSCommonPTMRBInformation_v770NonCriticalExtensions_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSCommonPTMRBInformation_v770NonCriticalExtensions_v780NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MBMSCommonPTMRBInformation_v770NonCriticalExtensions_v780NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* mbmsCommonPTMRBInformation-v860ext */
+   stat = asn1PD_UMTS_MBMSCommonPTMRBInformation_v860ext_IEs(ctx, &pvalue->mbmsCommonPTMRBInformation_v860ext);
+   RT_CHECK(ctx, stat, 0, "mbmsCommonPTMRBInformation-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMSCommonPTMRBInformation_v770NonCriticalExtensions_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSCommonPTMRBInformation_v770NonCriticalExtensions_v780NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MBMSCommonPTMRBInformation_v770NonCriticalExtensions_v780NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* mbmsCommonPTMRBInformation-v780ext */
+   stat = asn1PD_UMTS_MBMSCommonPTMRBInformation_v780ext_IEs(ctx, &pvalue->mbmsCommonPTMRBInformation_v780ext);
+   RT_CHECK(ctx, stat, 0, "mbmsCommonPTMRBInformation-v780ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMSCommonPTMRBInformation_v770NonCriticalExtensions_v780NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSCommonPTMRBInformation_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MBMSCommonPTMRBInformation_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* mbmsCommonPTMRBInformation-v770ext */
+   stat = asn1PD_UMTS_MBMSCommonPTMRBInformation_v770ext_IEs(ctx, &pvalue->mbmsCommonPTMRBInformation_v770ext);
+   RT_CHECK(ctx, stat, 0, "mbmsCommonPTMRBInformation-v770ext", -1, 0);
+   /* v780NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMSCommonPTMRBInformation_v770NonCriticalExtensions_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v780NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSCommonPTMRBInformation(rtxContext* RT_RESTRICT ctx, MBMSCommonPTMRBInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSCommonPTMRBInformation");
+   /* mbms-CommonRBInformationList */
+   stat = asn1PD_UMTS_MBMS_CommonRBInformationList_r6(ctx, &pvalue->mbms_CommonRBInformationList);
+   RT_CHECK(ctx, stat, 0, "mbms-CommonRBInformationList", -1, "MBMSCommonPTMRBInformation");
+   /* mbms-TranspChInfoForEachTrCh */
+   stat = asn1PD_UMTS_MBMS_TranspChInfoForEachTrCh_r6(ctx, &pvalue->mbms_TranspChInfoForEachTrCh);
+   RT_CHECK(ctx, stat, 0, "mbms-TranspChInfoForEachTrCh", -1, "MBMSCommonPTMRBInformation");
+   /* mbms-TranspChInfoForEachCCTrCh */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMS_TranspChInfoForEachCCTrCh_r6(ctx, &pvalue->mbms_TranspChInfoForEachCCTrCh);
+      RT_CHECK(ctx, stat, 0, "mbms-TranspChInfoForEachCCTrCh", -1, "MBMSCommonPTMRBInformation");
+   }
+   /* mbms-PhyChInformationList */
+   stat = asn1PD_UMTS_MBMS_PhyChInformationList_r6(ctx, &pvalue->mbms_PhyChInformationList);
+   RT_CHECK(ctx, stat, 0, "mbms-PhyChInformationList", -1, "MBMSCommonPTMRBInformation");
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_MBMSCommonPTMRBInformation_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, "MBMSCommonPTMRBInformation");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSCurrentCellPTMRBInfo_v770ext_IEs(rtxContext* RT_RESTRICT ctx, MBMSCurrentCellPTMRBInfo_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSCurrentCellPTMRBInfo-v770ext-IEs");
+   /* mbsfn-TDM-Info-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBSFN_TDM_Info_List(ctx, &pvalue->mbsfn_TDM_Info_List);
+      RT_CHECK(ctx, stat, 0, "mbsfn-TDM-Info-List", -1, "MBMSCurrentCellPTMRBInfo-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSCurrentCellPTMRBInformation_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MBMSCurrentCellPTMRBInformation_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSCurrentCellPTMRBInformation_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MBMSCurrentCellPTMRBInformation_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* mbmsCurrentCellPTMRBInfo-v770ext */
+   stat = asn1PD_UMTS_MBMSCurrentCellPTMRBInfo_v770ext_IEs(ctx, &pvalue->mbmsCurrentCellPTMRBInfo_v770ext);
+   RT_CHECK(ctx, stat, 0, "mbmsCurrentCellPTMRBInfo-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMSCurrentCellPTMRBInformation_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSCurrentCellPTMRBInformation(rtxContext* RT_RESTRICT ctx, MBMSCurrentCellPTMRBInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSCurrentCellPTMRBInformation");
+   /* mbms-CurrentCell-SCCPCHList */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMS_CurrentCell_SCCPCHList_r6(ctx, &pvalue->mbms_CurrentCell_SCCPCHList);
+      RT_CHECK(ctx, stat, 0, "mbms-CurrentCell-SCCPCHList", -1, "MBMSCurrentCellPTMRBInformation");
+   }
+   /* mbms-SIBType5-SCCPCHList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_MBMS_SIBType5_SCCPCHList_r6(ctx, &pvalue->mbms_SIBType5_SCCPCHList);
+      RT_CHECK(ctx, stat, 0, "mbms-SIBType5-SCCPCHList", -1, "MBMSCurrentCellPTMRBInformation");
+   }
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_MBMSCurrentCellPTMRBInformation_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, "MBMSCurrentCellPTMRBInformation");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSGeneralInformation_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, MBMSGeneralInformation_v6b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* indicateChangeInSelectedServices */
+   stat = rtxDecBitInline(ctx, &pvalue->indicateChangeInSelectedServices);
+   RT_CHECK(ctx, stat, 0, "indicateChangeInSelectedServices", -1, "MBMSGeneralInformation-v6b0ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSGeneralInformation_v770ext_IEs(rtxContext* RT_RESTRICT ctx, MBMSGeneralInformation_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSGeneralInformation-v770ext-IEs");
+   /* mbmsMICHConfiguration */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMS_MICHConfigurationInfo_v770ext(ctx, &pvalue->mbmsMICHConfiguration);
+      RT_CHECK(ctx, stat, 0, "mbmsMICHConfiguration", -1, "MBMSGeneralInformation-v770ext-IEs");
+   }
+   /* mbsfnInterFrequencyNeighbourList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_MBSFN_InterFrequencyNeighbourList_r7(ctx, &pvalue->mbsfnInterFrequencyNeighbourList);
+      RT_CHECK(ctx, stat, 0, "mbsfnInterFrequencyNeighbourList", -1, "MBMSGeneralInformation-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSGeneralInformation_v860ext_IEs(rtxContext* RT_RESTRICT ctx, MBMSGeneralInformation_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSGeneralInformation-v860ext-IEs");
+   /* mbsfnInterFrequencyNeighbourList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBSFN_InterFrequencyNeighbourList_v860ext(ctx, &pvalue->mbsfnInterFrequencyNeighbourList);
+      RT_CHECK(ctx, stat, 0, "mbsfnInterFrequencyNeighbourList", -1, "MBMSGeneralInformation-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSGeneralInformation_v890ext_IEs(rtxContext* RT_RESTRICT ctx, MBMSGeneralInformation_v890ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSGeneralInformation-v890ext-IEs");
+   /* mbmsNetworkStandardTimeInformation-LCR */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMS_NetworkStandardTimeInformation_LCR_v890ext(ctx, &pvalue->mbmsNetworkStandardTimeInformation_LCR);
+      RT_CHECK(ctx, stat, 0, "mbmsNetworkStandardTimeInformation-LCR", -1, "MBMSGeneralInformation-v890ext-IEs");
+   }
+   /* mbmsMICHConfiguration */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_MBMS_MICHConfigurationInfo_v890ext(ctx, &pvalue->mbmsMICHConfiguration);
+      RT_CHECK(ctx, stat, 0, "mbmsMICHConfiguration", -1, "MBMSGeneralInformation-v890ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSGeneralInformation_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NoncriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MBMSGeneralInformation_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NoncriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSGeneralInformation_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NoncriticalExtensions(rtxContext* RT_RESTRICT ctx, MBMSGeneralInformation_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NoncriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* mbmsGeneralInformation-v890ext */
+   stat = asn1PD_UMTS_MBMSGeneralInformation_v890ext_IEs(ctx, &pvalue->mbmsGeneralInformation_v890ext);
+   RT_CHECK(ctx, stat, 0, "mbmsGeneralInformation-v890ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMSGeneralInformation_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NoncriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSGeneralInformation_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MBMSGeneralInformation_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* mbmsGeneralInformation-v860ext */
+   stat = asn1PD_UMTS_MBMSGeneralInformation_v860ext_IEs(ctx, &pvalue->mbmsGeneralInformation_v860ext);
+   RT_CHECK(ctx, stat, 0, "mbmsGeneralInformation-v860ext", -1, 0);
+   /* v890NoncriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMSGeneralInformation_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NoncriticalExtensions(ctx, &pvalue->v890NoncriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v890NoncriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSGeneralInformation_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MBMSGeneralInformation_v6b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* mbmsGeneralInformation-v770ext */
+   stat = asn1PD_UMTS_MBMSGeneralInformation_v770ext_IEs(ctx, &pvalue->mbmsGeneralInformation_v770ext);
+   RT_CHECK(ctx, stat, 0, "mbmsGeneralInformation-v770ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMSGeneralInformation_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSGeneralInformation_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MBMSGeneralInformation_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* mbmsGeneralInformation-v6b0ext */
+   stat = asn1PD_UMTS_MBMSGeneralInformation_v6b0ext_IEs(ctx, &pvalue->mbmsGeneralInformation_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "mbmsGeneralInformation-v6b0ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMSGeneralInformation_v6b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSGeneralInformation(rtxContext* RT_RESTRICT ctx, MBMSGeneralInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSGeneralInformation");
+   /* mbms-PreferredFrequencyInfo */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMS_PreferredFrequencyList_r6(ctx, &pvalue->mbms_PreferredFrequencyInfo);
+      RT_CHECK(ctx, stat, 0, "mbms-PreferredFrequencyInfo", -1, "MBMSGeneralInformation");
+   }
+   /* mbms-TimersAndCounters */
+   stat = asn1PD_UMTS_MBMS_TimersAndCounters_r6(ctx, &pvalue->mbms_TimersAndCounters);
+   RT_CHECK(ctx, stat, 0, "mbms-TimersAndCounters", -1, "MBMSGeneralInformation");
+   /* michConfigurationInfo */
+   stat = asn1PD_UMTS_MBMS_MICHConfigurationInfo_r6(ctx, &pvalue->michConfigurationInfo);
+   RT_CHECK(ctx, stat, 0, "michConfigurationInfo", -1, "MBMSGeneralInformation");
+   /* cellGroupIdentity */
+   stat = asn1PD_UMTS_MBMS_CellGroupIdentity_r6(ctx, &pvalue->cellGroupIdentity);
+   RT_CHECK(ctx, stat, 0, "cellGroupIdentity", -1, "MBMSGeneralInformation");
+   /* mschDefaultConfigurationInfo */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_MBMS_MSCH_ConfigurationInfo_r6(ctx, &pvalue->mschDefaultConfigurationInfo);
+      RT_CHECK(ctx, stat, 0, "mschDefaultConfigurationInfo", -1, "MBMSGeneralInformation");
    }
    /* v6b0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v6b0NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_MBMSGeneralInformation_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, "MBMSGeneralInformation");
    }
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r7_IEs_responseToChangeOfUE_Capability(rtxContext* ctx, PhysicalChannelReconfiguration_r7_IEs_responseToChangeOfUE_Capability* pvalue)
+int asn1PD_UMTS_MBMSModificationRequest_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, MBMSModificationRequest_v6b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* mbmsSelectedServiceInfo */
+   stat = asn1PD_UMTS_MBMS_SelectedServiceInfo(ctx, &pvalue->mbmsSelectedServiceInfo);
+   RT_CHECK(ctx, stat, 0, "mbmsSelectedServiceInfo", -1, "MBMSModificationRequest-v6b0ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSModificationRequest_v6f0ext_IEs_mbmsSupportOfServiceChangeForAPtpRB(rtxContext* RT_RESTRICT ctx, MBMSModificationRequest_v6f0ext_IEs_mbmsSupportOfServiceChangeForAPtpRB* RT_RESTRICT pvalue)
 {
    int stat;
    {
       uint32_t ui;
       stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
       stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
       *pvalue = ui;
    }
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r7_IEs(rtxContext* ctx, PhysicalChannelReconfiguration_r7_IEs* pvalue)
+int asn1PD_UMTS_MBMSModificationRequest_v6f0ext_IEs(rtxContext* RT_RESTRICT ctx, MBMSModificationRequest_v6f0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration-r7-IEs");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 30);
-   RT_CHECK(ctx, stat);
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 29)) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 28)) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 27)) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* delayRestrictionFlag */
-   if (present & ((uint32_t)1 << 26)) {
-      rtxCtxtPushElemName(ctx, "delayRestrictionFlag");
-      pvalue->m |= 0x8u;
-      rtxCtxtPushTypeName(ctx, "DelayRestrictionFlag");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->delayRestrictionFlag = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 25)) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 24)) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 23)) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-H-RNTI */
-   if (present & ((uint32_t)1 << 22)) {
-      rtxCtxtPushElemName(ctx, "new-H-RNTI");
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint32_t)1 << 21)) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint32_t)1 << 20)) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ueMobilityStateIndicator */
-   if (present & ((uint32_t)1 << 19)) {
-      rtxCtxtPushElemName(ctx, "ueMobilityStateIndicator");
-      pvalue->m |= 0x400u;
-      rtxCtxtPushTypeName(ctx, "High-MobilityDetected");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->ueMobilityStateIndicator = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 18)) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 17)) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 16)) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportForChangeOfUE-Capability */
-   if (present & ((uint32_t)1 << 15)) {
-      rtxCtxtPushElemName(ctx, "supportForChangeOfUE-Capability");
-      pvalue->m |= 0x4000u;
-      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* responseToChangeOfUE-Capability */
-   if (present & ((uint32_t)1 << 14)) {
-      rtxCtxtPushElemName(ctx, "responseToChangeOfUE-Capability");
-      pvalue->m |= 0x8000u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->responseToChangeOfUE_Capability = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint32_t)1 << 13)) {
-      rtxCtxtPushElemName(ctx, "dl-CounterSynchronisationInfo");
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 12)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* multi-frequencyInfo */
-   if (present & ((uint32_t)1 << 11)) {
-      rtxCtxtPushElemName(ctx, "multi-frequencyInfo");
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dtx-drx-TimingInfo */
-   if (present & ((uint32_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-TimingInfo");
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dtx-drx-Info */
-   if (present & ((uint32_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-Info");
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hs-scch-LessInfo */
-   if (present & ((uint32_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "hs-scch-LessInfo");
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mimoParameters */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_MIMO_Parameters_r7(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      pvalue->m |= 0x800000u;
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-DPCH-Info */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-      pvalue->m |= 0x1000000u;
-      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-EDCH-Information */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
-      pvalue->m |= 0x2000000u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r7(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      pvalue->m |= 0x4000000u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonInformation */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-      pvalue->m |= 0x8000000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r7(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-      pvalue->m |= 0x10000000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mbms-PL-ServiceRestrictInfo */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSModificationRequest-v6f0ext-IEs");
+   /* mbmsSupportOfServiceChangeForAPtpRB */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mbms-PL-ServiceRestrictInfo");
-      pvalue->m |= 0x20000000u;
-      rtxCtxtPushTypeName(ctx, "MBMS-PL-ServiceRestrictInfo-r6");
+      pvalue->m |= 0x1u;
       {
          uint32_t ui;
          stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
+         RT_CHECK(ctx, stat, 0, "mbmsSupportOfServiceChangeForAPtpRB", -1, "MBMSModificationRequest-v6f0ext-IEs");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
+         RT_CHECK(ctx, stat, 0, "mbmsSupportOfServiceChangeForAPtpRB", -1, "MBMSModificationRequest-v6f0ext-IEs");
+         pvalue->mbmsSupportOfServiceChangeForAPtpRB = ui;
       }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_v780ext_IEs(rtxContext* ctx, PhysicalChannelReconfiguration_v780ext_IEs* pvalue)
+int asn1PD_UMTS_MBMSModificationRequest_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MBMSModificationRequest_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSModificationRequest_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MBMSModificationRequest_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration-v780ext-IEs");
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* mbmsModificationRequest-v6f0ext */
+   stat = asn1PD_UMTS_MBMSModificationRequest_v6f0ext_IEs(ctx, &pvalue->mbmsModificationRequest_v6f0ext);
+   RT_CHECK(ctx, stat, 0, "mbmsModificationRequest-v6f0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMSModificationRequest_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSModificationRequest_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MBMSModificationRequest_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* mbmsModificationRequest-v6b0ext */
+   stat = asn1PD_UMTS_MBMSModificationRequest_v6b0ext_IEs(ctx, &pvalue->mbmsModificationRequest_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "mbmsModificationRequest-v6b0ext", -1, 0);
+   /* v6f0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMSModificationRequest_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions(ctx, &pvalue->v6f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6f0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSModificationRequest(rtxContext* RT_RESTRICT ctx, MBMSModificationRequest* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSModificationRequest");
+   /* mbms-PreferredFreqRequest */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMS_ServiceIdentity_r6(ctx, &pvalue->mbms_PreferredFreqRequest);
+      RT_CHECK(ctx, stat, 0, "mbms-PreferredFreqRequest", -1, "MBMSModificationRequest");
+   }
+   /* rb-InformationReleaseList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "MBMSModificationRequest");
+   }
+   /* v6b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_MBMSModificationRequest_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, "MBMSModificationRequest");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSModifiedServicesInformation_mbms_ReacquireMCCH(rtxContext* RT_RESTRICT ctx, MBMSModifiedServicesInformation_mbms_ReacquireMCCH* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSModifiedServicesInformation_mbms_AllUnmodifiedPTMServices(rtxContext* RT_RESTRICT ctx, MBMSModifiedServicesInformation_mbms_AllUnmodifiedPTMServices* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSModifiedServicesInformation_v770ext_IEs(rtxContext* RT_RESTRICT ctx, MBMSModifiedServicesInformation_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* harqInfo */
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSModifiedServicesInformation-v770ext-IEs");
+   /* modifiedServiceList */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "harqInfo");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_MBMS_ModifiedServiceList_v770ext(ctx, &pvalue->modifiedServiceList);
+      RT_CHECK(ctx, stat, 0, "modifiedServiceList", -1, "MBMSModifiedServicesInformation-v770ext-IEs");
    }
-   /* hs-DSCH-TBSizeTable */
+   /* mib-ValueTag */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "hs-DSCH-TBSizeTable");
       pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "HS-DSCH-TBSizeTable");
+      stat = pd_ConsUInt8(ctx, &pvalue->mib_ValueTag, 1, 8);
+      RT_CHECK(ctx, stat, "MIB-ValueTag", "mib-ValueTag", -1, "MBMSModifiedServicesInformation-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSModifiedServicesInformation_v7c0ext_IEs(rtxContext* RT_RESTRICT ctx, MBMSModifiedServicesInformation_v7c0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSModifiedServicesInformation-v7c0ext-IEs");
+   /* modifiedServiceList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMS_ModifiedServiceList_LCR_v7c0ext(ctx, &pvalue->modifiedServiceList);
+      RT_CHECK(ctx, stat, 0, "modifiedServiceList", -1, "MBMSModifiedServicesInformation-v7c0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSModifiedServicesInformation_v770NonCriticalExtensions_v7c0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MBMSModifiedServicesInformation_v770NonCriticalExtensions_v7c0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSModifiedServicesInformation_v770NonCriticalExtensions_v7c0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MBMSModifiedServicesInformation_v770NonCriticalExtensions_v7c0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* mbmsModifiedServicesInformation-v7c0ext */
+   stat = asn1PD_UMTS_MBMSModifiedServicesInformation_v7c0ext_IEs(ctx, &pvalue->mbmsModifiedServicesInformation_v7c0ext);
+   RT_CHECK(ctx, stat, 0, "mbmsModifiedServicesInformation-v7c0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMSModifiedServicesInformation_v770NonCriticalExtensions_v7c0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSModifiedServicesInformation_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MBMSModifiedServicesInformation_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* mbmsModifiedServicesInformation-v770ext */
+   stat = asn1PD_UMTS_MBMSModifiedServicesInformation_v770ext_IEs(ctx, &pvalue->mbmsModifiedServicesInformation_v770ext);
+   RT_CHECK(ctx, stat, 0, "mbmsModifiedServicesInformation-v770ext", -1, 0);
+   /* v7c0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMSModifiedServicesInformation_v770NonCriticalExtensions_v7c0NonCriticalExtensions(ctx, &pvalue->v7c0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7c0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSModifiedServicesInformation(rtxContext* RT_RESTRICT ctx, MBMSModifiedServicesInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSModifiedServicesInformation");
+   /* modifedServiceList */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMS_ModifedServiceList_r6(ctx, &pvalue->modifedServiceList);
+      RT_CHECK(ctx, stat, 0, "modifedServiceList", -1, "MBMSModifiedServicesInformation");
+   }
+   /* mbms-ReacquireMCCH */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x2u;
       {
          uint32_t ui;
          stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
+         RT_CHECK(ctx, stat, 0, "mbms-ReacquireMCCH", -1, "MBMSModifiedServicesInformation");
          stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->hs_DSCH_TBSizeTable = ui;
+         RT_CHECK(ctx, stat, 0, "mbms-ReacquireMCCH", -1, "MBMSModifiedServicesInformation");
+         pvalue->mbms_ReacquireMCCH = ui;
       }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_v7d0ext_IEs(rtxContext* ctx, PhysicalChannelReconfiguration_v7d0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration-v7d0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ul-EDCH-Information */
+   /* mbms-DynamicPersistenceLevel */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt8(ctx, &pvalue->mbms_DynamicPersistenceLevel, 1, 8);
+      RT_CHECK(ctx, stat, "DynamicPersistenceLevel", "mbms-DynamicPersistenceLevel", -1, "MBMSModifiedServicesInformation");
+   }
+   /* endOfModifiedMCCHInformation */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUInt8(ctx, &pvalue->endOfModifiedMCCHInformation, 1, 16);
+      RT_CHECK(ctx, stat, 0, "endOfModifiedMCCHInformation", -1, "MBMSModifiedServicesInformation");
+   }
+   /* mbmsNumberOfNeighbourCells */
+   stat = pd_ConsUInt8(ctx, &pvalue->mbmsNumberOfNeighbourCells, 0, 32);
+   RT_CHECK(ctx, stat, "MBMS-NumberOfNeighbourCells-r6", "mbmsNumberOfNeighbourCells", -1, "MBMSModifiedServicesInformation");
+   /* mbms-AllUnmodifiedPTMServices */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x10u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "mbms-AllUnmodifiedPTMServices", -1, "MBMSModifiedServicesInformation");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "mbms-AllUnmodifiedPTMServices", -1, "MBMSModifiedServicesInformation");
+         pvalue->mbms_AllUnmodifiedPTMServices = ui;
+      }
+   }
+   /* mbms-PTMActivationTime */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x20u;
+      stat = pd_ConsUInt16(ctx, &pvalue->mbms_PTMActivationTime, 0, 2047);
+      RT_CHECK(ctx, stat, "MBMS-PTMActivationTime-r6", "mbms-PTMActivationTime", -1, "MBMSModifiedServicesInformation");
+   }
+   /* v770NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_ext(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_MBMSModifiedServicesInformation_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, "MBMSModifiedServicesInformation");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_v7f0ext_IEs(rtxContext* ctx, PhysicalChannelReconfiguration_v7f0ext_IEs* pvalue)
+int asn1PD_UMTS_MBMSNeighbouringCellPTMRBInformation_v770ext_IEs(rtxContext* RT_RESTRICT ctx, MBMSNeighbouringCellPTMRBInformation_v770ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration-v7f0ext-IEs");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* mimoParameters */
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSNeighbouringCellPTMRBInformation-v770ext-IEs");
+   /* neighbouringCellSCCPCHList */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MIMO_Parameters_v7f0ext(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_MBMS_NeighbouringCellSCCPCHList_v770ext(ctx, &pvalue->neighbouringCellSCCPCHList);
+      RT_CHECK(ctx, stat, 0, "neighbouringCellSCCPCHList", -1, "MBMSNeighbouringCellPTMRBInformation-v770ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_v7g0ext_IEs(rtxContext* ctx, PhysicalChannelReconfiguration_v7g0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration-v7g0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* mimoParameters */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MIMO_Parameters_v7g0ext(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* pvalue)
+int asn1PD_UMTS_MBMSNeighbouringCellPTMRBInformation_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MBMSNeighbouringCellPTMRBInformation_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_MBMSNeighbouringCellPTMRBInformation_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MBMSNeighbouringCellPTMRBInformation_v770NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v7g0ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v7g0ext");
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v7g0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v7g0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* mbmsNeighbouringCellPTMRBInformation-v770ext */
+   stat = asn1PD_UMTS_MBMSNeighbouringCellPTMRBInformation_v770ext_IEs(ctx, &pvalue->mbmsNeighbouringCellPTMRBInformation_v770ext);
+   RT_CHECK(ctx, stat, 0, "mbmsNeighbouringCellPTMRBInformation-v770ext", -1, 0);
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_MBMSNeighbouringCellPTMRBInformation_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_MBMSNeighbouringCellPTMRBInformation(rtxContext* RT_RESTRICT ctx, MBMSNeighbouringCellPTMRBInformation* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v7f0ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v7f0ext");
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v7f0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v7f0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v7g0NonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSNeighbouringCellPTMRBInformation");
+   /* neighbouringCellIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->neighbouringCellIdentity, 0, 31);
+   RT_CHECK(ctx, stat, "IntraFreqCellID", "neighbouringCellIdentity", -1, "MBMSNeighbouringCellPTMRBInformation");
+   /* neighbouringCellSCCPCHList */
+   stat = asn1PD_UMTS_MBMS_NeighbouringCellSCCPCHList_r6(ctx, &pvalue->neighbouringCellSCCPCHList);
+   RT_CHECK(ctx, stat, 0, "neighbouringCellSCCPCHList", -1, "MBMSNeighbouringCellPTMRBInformation");
+   /* v770NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v7g0NonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_MBMSNeighbouringCellPTMRBInformation_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, "MBMSNeighbouringCellPTMRBInformation");
    }
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions(rtxContext* ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_MBMSSchedulingInformation_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MBMSSchedulingInformation_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSSchedulingInformation(rtxContext* RT_RESTRICT ctx, MBMSSchedulingInformation* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v7d0ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v7d0ext");
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v7d0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v7d0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSSchedulingInformation");
+   /* serviceSchedulingInfoList */
+   stat = asn1PD_UMTS_MBMS_ServiceSchedulingInfoList_r6(ctx, &pvalue->serviceSchedulingInfoList);
+   RT_CHECK(ctx, stat, 0, "serviceSchedulingInfoList", -1, "MBMSSchedulingInformation");
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMSSchedulingInformation_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "MBMSSchedulingInformation");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSUnmodifiedServicesInformation_v770ext_IEs(rtxContext* RT_RESTRICT ctx, MBMSUnmodifiedServicesInformation_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSUnmodifiedServicesInformation-v770ext-IEs");
+   /* unmodifiedServiceList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMS_UnmodifiedServiceList_v770ext(ctx, &pvalue->unmodifiedServiceList);
+      RT_CHECK(ctx, stat, 0, "unmodifiedServiceList", -1, "MBMSUnmodifiedServicesInformation-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSUnmodifiedServicesInformation_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MBMSUnmodifiedServicesInformation_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSUnmodifiedServicesInformation_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, MBMSUnmodifiedServicesInformation_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* mbmsUnmodifiedServicesInformation-v770ext */
+   stat = asn1PD_UMTS_MBMSUnmodifiedServicesInformation_v770ext_IEs(ctx, &pvalue->mbmsUnmodifiedServicesInformation_v770ext);
+   RT_CHECK(ctx, stat, 0, "mbmsUnmodifiedServicesInformation-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMSUnmodifiedServicesInformation_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MBMSUnmodifiedServicesInformation(rtxContext* RT_RESTRICT ctx, MBMSUnmodifiedServicesInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSUnmodifiedServicesInformation");
+   /* unmodifiedServiceList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MBMS_UnmodifiedServiceList_r6(ctx, &pvalue->unmodifiedServiceList);
+      RT_CHECK(ctx, stat, 0, "unmodifiedServiceList", -1, "MBMSUnmodifiedServicesInformation");
+   }
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_MBMSUnmodifiedServicesInformation_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, "MBMSUnmodifiedServicesInformation");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_System_Information_Container_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, System_Information_Container_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_System_Information_Container(rtxContext* RT_RESTRICT ctx, System_Information_Container* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "System-Information-Container");
+   /* mib */
+   {
+      rtxDynOctStr carrier;
+      rtxContext outer;
+      stat = pd_DynOctetString(ctx, &carrier);
+      RT_CHECK(ctx, stat, 0, "mib", -1, "System-Information-Container");
+      rtxCopyContext(&outer, ctx);
+      stat = pu_setBuffer(ctx, carrier.data, carrier.numocts, ctx->aligned);
+      if (stat == 0) {
+         /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+         stat = asn1PD_UMTS_MasterInformationBlock(ctx, &pvalue->mib);
+         RT_CHECK(ctx, stat, 0, "mib", -1, "System-Information-Container");
+      }
+      rtxCopyContext(ctx, &outer);
+      rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+   }
+   /* sysInfoTypeSB1 */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x1u;
+      {
+         rtxDynOctStr carrier;
+         rtxContext outer;
+         stat = pd_DynOctetString(ctx, &carrier);
+         RT_CHECK(ctx, stat, 0, "sysInfoTypeSB1", -1, "System-Information-Container");
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, carrier.numocts, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_SysInfoTypeSB1(ctx, &pvalue->sysInfoTypeSB1);
+            RT_CHECK(ctx, stat, 0, "sysInfoTypeSB1", -1, "System-Information-Container");
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+      }
+   }
+   /* sysInfoTypeSB2 */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x2u;
+      {
+         rtxDynOctStr carrier;
+         rtxContext outer;
+         stat = pd_DynOctetString(ctx, &carrier);
+         RT_CHECK(ctx, stat, 0, "sysInfoTypeSB2", -1, "System-Information-Container");
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, carrier.numocts, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_SysInfoTypeSB2(ctx, &pvalue->sysInfoTypeSB2);
+            RT_CHECK(ctx, stat, 0, "sysInfoTypeSB2", -1, "System-Information-Container");
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+      }
+   }
+   /* sysInfoType1 */
+   {
+      rtxDynOctStr carrier;
+      rtxContext outer;
+      stat = pd_DynOctetString(ctx, &carrier);
+      RT_CHECK(ctx, stat, 0, "sysInfoType1", -1, "System-Information-Container");
+      rtxCopyContext(&outer, ctx);
+      stat = pu_setBuffer(ctx, carrier.data, carrier.numocts, ctx->aligned);
+      if (stat == 0) {
+         /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+         stat = asn1PD_UMTS_SysInfoType1(ctx, &pvalue->sysInfoType1);
+         RT_CHECK(ctx, stat, 0, "sysInfoType1", -1, "System-Information-Container");
+      }
+      rtxCopyContext(ctx, &outer);
+      rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+   }
+   /* sysInfoType3 */
+   {
+      rtxDynOctStr carrier;
+      rtxContext outer;
+      stat = pd_DynOctetString(ctx, &carrier);
+      RT_CHECK(ctx, stat, 0, "sysInfoType3", -1, "System-Information-Container");
+      rtxCopyContext(&outer, ctx);
+      stat = pu_setBuffer(ctx, carrier.data, carrier.numocts, ctx->aligned);
+      if (stat == 0) {
+         /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+         stat = asn1PD_UMTS_SysInfoType3(ctx, &pvalue->sysInfoType3);
+         RT_CHECK(ctx, stat, 0, "sysInfoType3", -1, "System-Information-Container");
+      }
+      rtxCopyContext(ctx, &outer);
+      rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+   }
+   /* sysInfoType5 */
+   {
+      rtxDynOctStr carrier;
+      rtxContext outer;
+      stat = pd_DynOctetString(ctx, &carrier);
+      RT_CHECK(ctx, stat, 0, "sysInfoType5", -1, "System-Information-Container");
+      rtxCopyContext(&outer, ctx);
+      stat = pu_setBuffer(ctx, carrier.data, carrier.numocts, ctx->aligned);
+      if (stat == 0) {
+         /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+         stat = asn1PD_UMTS_SysInfoType5(ctx, &pvalue->sysInfoType5);
+         RT_CHECK(ctx, stat, 0, "sysInfoType5", -1, "System-Information-Container");
+      }
+      rtxCopyContext(ctx, &outer);
+      rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+   }
+   /* sysInfoType7 */
+   {
+      rtxDynOctStr carrier;
+      rtxContext outer;
+      stat = pd_DynOctetString(ctx, &carrier);
+      RT_CHECK(ctx, stat, 0, "sysInfoType7", -1, "System-Information-Container");
+      rtxCopyContext(&outer, ctx);
+      stat = pu_setBuffer(ctx, carrier.data, carrier.numocts, ctx->aligned);
+      if (stat == 0) {
+         /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+         stat = asn1PD_UMTS_SysInfoType7(ctx, &pvalue->sysInfoType7);
+         RT_CHECK(ctx, stat, 0, "sysInfoType7", -1, "System-Information-Container");
+      }
+      rtxCopyContext(ctx, &outer);
+      rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+   }
+   /* sysInfoType11 */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x4u;
+      {
+         rtxDynOctStr carrier;
+         rtxContext outer;
+         stat = pd_DynOctetString(ctx, &carrier);
+         RT_CHECK(ctx, stat, 0, "sysInfoType11", -1, "System-Information-Container");
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, carrier.numocts, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_SysInfoType11(ctx, &pvalue->sysInfoType11);
+            RT_CHECK(ctx, stat, 0, "sysInfoType11", -1, "System-Information-Container");
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+      }
+   }
+   /* sysInfoType11bis */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x8u;
+      {
+         rtxDynOctStr carrier;
+         rtxContext outer;
+         stat = pd_DynOctetString(ctx, &carrier);
+         RT_CHECK(ctx, stat, 0, "sysInfoType11bis", -1, "System-Information-Container");
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, carrier.numocts, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_SysInfoType11bis(ctx, &pvalue->sysInfoType11bis);
+            RT_CHECK(ctx, stat, 0, "sysInfoType11bis", -1, "System-Information-Container");
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+      }
+   }
+   /* sysInfoType12 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x10u;
+      {
+         rtxDynOctStr carrier;
+         rtxContext outer;
+         stat = pd_DynOctetString(ctx, &carrier);
+         RT_CHECK(ctx, stat, 0, "sysInfoType12", -1, "System-Information-Container");
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, carrier.numocts, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_SysInfoType12(ctx, &pvalue->sysInfoType12);
+            RT_CHECK(ctx, stat, 0, "sysInfoType12", -1, "System-Information-Container");
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+      }
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_System_Information_Container_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "System-Information-Container");
+   }
+   return stat;
+}
+
+int asn1PD_UMTS_DL_DCCH_MessageType(rtxContext* RT_RESTRICT ctx, DL_DCCH_MessageType* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 31);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-DCCH-MessageType");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* activeSetUpdate */
+         pvalue->u.activeSetUpdate = (ActiveSetUpdate*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdate));
+         if (pvalue->u.activeSetUpdate == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "activeSetUpdate", -1, "DL-DCCH-MessageType");
+         asn1Init_UMTS_ActiveSetUpdate(pvalue->u.activeSetUpdate);
+         stat = asn1PD_UMTS_ActiveSetUpdate(ctx, pvalue->u.activeSetUpdate);
+         RT_CHECK(ctx, stat, 0, "activeSetUpdate", -1, "DL-DCCH-MessageType");
+         break;
+      case 1: /* assistanceDataDelivery */
+         pvalue->u.assistanceDataDelivery = (AssistanceDataDelivery*)rtxMemHeapAlloc(ctx, sizeof(AssistanceDataDelivery));
+         if (pvalue->u.assistanceDataDelivery == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "assistanceDataDelivery", -1, "DL-DCCH-MessageType");
+         asn1Init_UMTS_AssistanceDataDelivery(pvalue->u.assistanceDataDelivery);
+         stat = asn1PD_UMTS_AssistanceDataDelivery(ctx, pvalue->u.assistanceDataDelivery);
+         RT_CHECK(ctx, stat, 0, "assistanceDataDelivery", -1, "DL-DCCH-MessageType");
+         break;
+      case 2: /* cellChangeOrderFromUTRAN */
+         pvalue->u.cellChangeOrderFromUTRAN = (CellChangeOrderFromUTRAN*)rtxMemHeapAlloc(ctx, sizeof(CellChangeOrderFromUTRAN));
+         if (pvalue->u.cellChangeOrderFromUTRAN == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cellChangeOrderFromUTRAN", -1, "DL-DCCH-MessageType");
+         asn1Init_UMTS_CellChangeOrderFromUTRAN(pvalue->u.cellChangeOrderFromUTRAN);
+         stat = asn1PD_UMTS_CellChangeOrderFromUTRAN(ctx, pvalue->u.cellChangeOrderFromUTRAN);
+         RT_CHECK(ctx, stat, 0, "cellChangeOrderFromUTRAN", -1, "DL-DCCH-MessageType");
+         break;
+      case 3: /* cellUpdateConfirm */
+         pvalue->u.cellUpdateConfirm = (CellUpdateConfirm*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm));
+         if (pvalue->u.cellUpdateConfirm == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cellUpdateConfirm", -1, "DL-DCCH-MessageType");
+         asn1Init_UMTS_CellUpdateConfirm(pvalue->u.cellUpdateConfirm);
+         stat = asn1PD_UMTS_CellUpdateConfirm(ctx, pvalue->u.cellUpdateConfirm);
+         RT_CHECK(ctx, stat, 0, "cellUpdateConfirm", -1, "DL-DCCH-MessageType");
+         break;
+      case 4: /* counterCheck */
+         pvalue->u.counterCheck = (CounterCheck*)rtxMemHeapAlloc(ctx, sizeof(CounterCheck));
+         if (pvalue->u.counterCheck == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "counterCheck", -1, "DL-DCCH-MessageType");
+         asn1Init_UMTS_CounterCheck(pvalue->u.counterCheck);
+         stat = asn1PD_UMTS_CounterCheck(ctx, pvalue->u.counterCheck);
+         RT_CHECK(ctx, stat, 0, "counterCheck", -1, "DL-DCCH-MessageType");
+         break;
+      case 5: /* downlinkDirectTransfer */
+         pvalue->u.downlinkDirectTransfer = (DownlinkDirectTransfer*)rtxMemHeapAlloc(ctx, sizeof(DownlinkDirectTransfer));
+         if (pvalue->u.downlinkDirectTransfer == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "downlinkDirectTransfer", -1, "DL-DCCH-MessageType");
+         asn1Init_UMTS_DownlinkDirectTransfer(pvalue->u.downlinkDirectTransfer);
+         stat = asn1PD_UMTS_DownlinkDirectTransfer(ctx, pvalue->u.downlinkDirectTransfer);
+         RT_CHECK(ctx, stat, 0, "downlinkDirectTransfer", -1, "DL-DCCH-MessageType");
+         break;
+      case 6: /* handoverFromUTRANCommand-GSM */
+         pvalue->u.handoverFromUTRANCommand_GSM = (HandoverFromUTRANCommand_GSM*)rtxMemHeapAlloc(ctx, sizeof(HandoverFromUTRANCommand_GSM));
+         if (pvalue->u.handoverFromUTRANCommand_GSM == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "handoverFromUTRANCommand-GSM", -1, "DL-DCCH-MessageType");
+         asn1Init_UMTS_HandoverFromUTRANCommand_GSM(pvalue->u.handoverFromUTRANCommand_GSM);
+         stat = asn1PD_UMTS_HandoverFromUTRANCommand_GSM(ctx, pvalue->u.handoverFromUTRANCommand_GSM);
+         RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-GSM", -1, "DL-DCCH-MessageType");
+         break;
+      case 7: /* handoverFromUTRANCommand-CDMA2000 */
+         pvalue->u.handoverFromUTRANCommand_CDMA2000 = (HandoverFromUTRANCommand_CDMA2000*)rtxMemHeapAlloc(ctx, sizeof(HandoverFromUTRANCommand_CDMA2000));
+         if (pvalue->u.handoverFromUTRANCommand_CDMA2000 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "handoverFromUTRANCommand-CDMA2000", -1, "DL-DCCH-MessageType");
+         asn1Init_UMTS_HandoverFromUTRANCommand_CDMA2000(pvalue->u.handoverFromUTRANCommand_CDMA2000);
+         stat = asn1PD_UMTS_HandoverFromUTRANCommand_CDMA2000(ctx, pvalue->u.handoverFromUTRANCommand_CDMA2000);
+         RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-CDMA2000", -1, "DL-DCCH-MessageType");
+         break;
+      case 8: /* measurementControl */
+         pvalue->u.measurementControl = (MeasurementControl*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControl));
+         if (pvalue->u.measurementControl == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "measurementControl", -1, "DL-DCCH-MessageType");
+         asn1Init_UMTS_MeasurementControl(pvalue->u.measurementControl);
+         stat = asn1PD_UMTS_MeasurementControl(ctx, pvalue->u.measurementControl);
+         RT_CHECK(ctx, stat, 0, "measurementControl", -1, "DL-DCCH-MessageType");
+         break;
+      case 9: /* pagingType2 */
+         pvalue->u.pagingType2 = (PagingType2*)rtxMemHeapAlloc(ctx, sizeof(PagingType2));
+         if (pvalue->u.pagingType2 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "pagingType2", -1, "DL-DCCH-MessageType");
+         asn1Init_UMTS_PagingType2(pvalue->u.pagingType2);
+         stat = asn1PD_UMTS_PagingType2(ctx, pvalue->u.pagingType2);
+         RT_CHECK(ctx, stat, 0, "pagingType2", -1, "DL-DCCH-MessageType");
+         break;
+      case 10: /* physicalChannelReconfiguration */
+         pvalue->u.physicalChannelReconfiguration = (PhysicalChannelReconfiguration*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration));
+         if (pvalue->u.physicalChannelReconfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "physicalChannelReconfiguration", -1, "DL-DCCH-MessageType");
+         asn1Init_UMTS_PhysicalChannelReconfiguration(pvalue->u.physicalChannelReconfiguration);
+         stat = asn1PD_UMTS_PhysicalChannelReconfiguration(ctx, pvalue->u.physicalChannelReconfiguration);
+         RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration", -1, "DL-DCCH-MessageType");
+         break;
+      case 11: /* physicalSharedChannelAllocation */
+         pvalue->u.physicalSharedChannelAllocation = (PhysicalSharedChannelAllocation*)rtxMemHeapAlloc(ctx, sizeof(PhysicalSharedChannelAllocation));
+         if (pvalue->u.physicalSharedChannelAllocation == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "physicalSharedChannelAllocation", -1, "DL-DCCH-MessageType");
+         asn1Init_UMTS_PhysicalSharedChannelAllocation(pvalue->u.physicalSharedChannelAllocation);
+         stat = asn1PD_UMTS_PhysicalSharedChannelAllocation(ctx, pvalue->u.physicalSharedChannelAllocation);
+         RT_CHECK(ctx, stat, 0, "physicalSharedChannelAllocation", -1, "DL-DCCH-MessageType");
+         break;
+      case 12: /* radioBearerReconfiguration */
+         pvalue->u.radioBearerReconfiguration = (RadioBearerReconfiguration*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration));
+         if (pvalue->u.radioBearerReconfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "radioBearerReconfiguration", -1, "DL-DCCH-MessageType");
+         asn1Init_UMTS_RadioBearerReconfiguration(pvalue->u.radioBearerReconfiguration);
+         stat = asn1PD_UMTS_RadioBearerReconfiguration(ctx, pvalue->u.radioBearerReconfiguration);
+         RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration", -1, "DL-DCCH-MessageType");
+         break;
+      case 13: /* radioBearerRelease */
+         pvalue->u.radioBearerRelease = (RadioBearerRelease*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease));
+         if (pvalue->u.radioBearerRelease == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "radioBearerRelease", -1, "DL-DCCH-MessageType");
+         asn1Init_UMTS_RadioBearerRelease(pvalue->u.radioBearerRelease);
+         stat = asn1PD_UMTS_RadioBearerRelease(ctx, pvalue->u.radioBearerRelease);
+         RT_CHECK(ctx, stat, 0, "radioBearerRelease", -1, "DL-DCCH-MessageType");
+         break;
+      case 14: /* radioBearerSetup */
+         pvalue->u.radioBearerSetup = (RadioBearerSetup*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup));
+         if (pvalue->u.radioBearerSetup == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "radioBearerSetup", -1, "DL-DCCH-MessageType");
+         asn1Init_UMTS_RadioBearerSetup(pvalue->u.radioBearerSetup);
+         stat = asn1PD_UMTS_RadioBearerSetup(ctx, pvalue->u.radioBearerSetup);
+         RT_CHECK(ctx, stat, 0, "radioBearerSetup", -1, "DL-DCCH-MessageType");
+         break;
+      case 15: /* rrcConnectionRelease */
+         pvalue->u.rrcConnectionRelease = (RRCConnectionRelease*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionRelease));
+         if (pvalue->u.rrcConnectionRelease == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "rrcConnectionRelease", -1, "DL-DCCH-MessageType");
+         asn1Init_UMTS_RRCConnectionRelease(pvalue->u.rrcConnectionRelease);
+         stat = asn1PD_UMTS_RRCConnectionRelease(ctx, pvalue->u.rrcConnectionRelease);
+         RT_CHECK(ctx, stat, 0, "rrcConnectionRelease", -1, "DL-DCCH-MessageType");
+         break;
+      case 16: /* securityModeCommand */
+         pvalue->u.securityModeCommand = (SecurityModeCommand*)rtxMemHeapAlloc(ctx, sizeof(SecurityModeCommand));
+         if (pvalue->u.securityModeCommand == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "securityModeCommand", -1, "DL-DCCH-MessageType");
+         asn1Init_UMTS_SecurityModeCommand(pvalue->u.securityModeCommand);
+         stat = asn1PD_UMTS_SecurityModeCommand(ctx, pvalue->u.securityModeCommand);
+         RT_CHECK(ctx, stat, 0, "securityModeCommand", -1, "DL-DCCH-MessageType");
+         break;
+      case 17: /* signallingConnectionRelease */
+         pvalue->u.signallingConnectionRelease = (SignallingConnectionRelease*)rtxMemHeapAlloc(ctx, sizeof(SignallingConnectionRelease));
+         if (pvalue->u.signallingConnectionRelease == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "signallingConnectionRelease", -1, "DL-DCCH-MessageType");
+         asn1Init_UMTS_SignallingConnectionRelease(pvalue->u.signallingConnectionRelease);
+         stat = asn1PD_UMTS_SignallingConnectionRelease(ctx, pvalue->u.signallingConnectionRelease);
+         RT_CHECK(ctx, stat, 0, "signallingConnectionRelease", -1, "DL-DCCH-MessageType");
+         break;
+      case 18: /* transportChannelReconfiguration */
+         pvalue->u.transportChannelReconfiguration = (TransportChannelReconfiguration*)rtxMemHeapAlloc(ctx, sizeof(TransportChannelReconfiguration));
+         if (pvalue->u.transportChannelReconfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "transportChannelReconfiguration", -1, "DL-DCCH-MessageType");
+         asn1Init_UMTS_TransportChannelReconfiguration(pvalue->u.transportChannelReconfiguration);
+         stat = asn1PD_UMTS_TransportChannelReconfiguration(ctx, pvalue->u.transportChannelReconfiguration);
+         RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration", -1, "DL-DCCH-MessageType");
+         break;
+      case 19: /* transportFormatCombinationControl */
+         pvalue->u.transportFormatCombinationControl = (TransportFormatCombinationControl*)rtxMemHeapAlloc(ctx, sizeof(TransportFormatCombinationControl));
+         if (pvalue->u.transportFormatCombinationControl == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "transportFormatCombinationControl", -1, "DL-DCCH-MessageType");
+         asn1Init_UMTS_TransportFormatCombinationControl(pvalue->u.transportFormatCombinationControl);
+         stat = asn1PD_UMTS_TransportFormatCombinationControl(ctx, pvalue->u.transportFormatCombinationControl);
+         RT_CHECK(ctx, stat, 0, "transportFormatCombinationControl", -1, "DL-DCCH-MessageType");
+         break;
+      case 20: /* ueCapabilityEnquiry */
+         pvalue->u.ueCapabilityEnquiry = (UECapabilityEnquiry*)rtxMemHeapAlloc(ctx, sizeof(UECapabilityEnquiry));
+         if (pvalue->u.ueCapabilityEnquiry == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueCapabilityEnquiry", -1, "DL-DCCH-MessageType");
+         asn1Init_UMTS_UECapabilityEnquiry(pvalue->u.ueCapabilityEnquiry);
+         stat = asn1PD_UMTS_UECapabilityEnquiry(ctx, pvalue->u.ueCapabilityEnquiry);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityEnquiry", -1, "DL-DCCH-MessageType");
+         break;
+      case 21: /* ueCapabilityInformationConfirm */
+         pvalue->u.ueCapabilityInformationConfirm = (UECapabilityInformationConfirm*)rtxMemHeapAlloc(ctx, sizeof(UECapabilityInformationConfirm));
+         if (pvalue->u.ueCapabilityInformationConfirm == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueCapabilityInformationConfirm", -1, "DL-DCCH-MessageType");
+         asn1Init_UMTS_UECapabilityInformationConfirm(pvalue->u.ueCapabilityInformationConfirm);
+         stat = asn1PD_UMTS_UECapabilityInformationConfirm(ctx, pvalue->u.ueCapabilityInformationConfirm);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityInformationConfirm", -1, "DL-DCCH-MessageType");
+         break;
+      case 22: /* uplinkPhysicalChannelControl */
+         pvalue->u.uplinkPhysicalChannelControl = (UplinkPhysicalChannelControl*)rtxMemHeapAlloc(ctx, sizeof(UplinkPhysicalChannelControl));
+         if (pvalue->u.uplinkPhysicalChannelControl == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "uplinkPhysicalChannelControl", -1, "DL-DCCH-MessageType");
+         asn1Init_UMTS_UplinkPhysicalChannelControl(pvalue->u.uplinkPhysicalChannelControl);
+         stat = asn1PD_UMTS_UplinkPhysicalChannelControl(ctx, pvalue->u.uplinkPhysicalChannelControl);
+         RT_CHECK(ctx, stat, 0, "uplinkPhysicalChannelControl", -1, "DL-DCCH-MessageType");
+         break;
+      case 23: /* uraUpdateConfirm */
+         pvalue->u.uraUpdateConfirm = (URAUpdateConfirm*)rtxMemHeapAlloc(ctx, sizeof(URAUpdateConfirm));
+         if (pvalue->u.uraUpdateConfirm == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "uraUpdateConfirm", -1, "DL-DCCH-MessageType");
+         asn1Init_UMTS_URAUpdateConfirm(pvalue->u.uraUpdateConfirm);
+         stat = asn1PD_UMTS_URAUpdateConfirm(ctx, pvalue->u.uraUpdateConfirm);
+         RT_CHECK(ctx, stat, 0, "uraUpdateConfirm", -1, "DL-DCCH-MessageType");
+         break;
+      case 24: /* utranMobilityInformation */
+         pvalue->u.utranMobilityInformation = (UTRANMobilityInformation*)rtxMemHeapAlloc(ctx, sizeof(UTRANMobilityInformation));
+         if (pvalue->u.utranMobilityInformation == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "utranMobilityInformation", -1, "DL-DCCH-MessageType");
+         asn1Init_UMTS_UTRANMobilityInformation(pvalue->u.utranMobilityInformation);
+         stat = asn1PD_UMTS_UTRANMobilityInformation(ctx, pvalue->u.utranMobilityInformation);
+         RT_CHECK(ctx, stat, 0, "utranMobilityInformation", -1, "DL-DCCH-MessageType");
+         break;
+      case 25: /* handoverFromUTRANCommand-GERANIu */
+         pvalue->u.handoverFromUTRANCommand_GERANIu = (HandoverFromUTRANCommand_GERANIu*)rtxMemHeapAlloc(ctx, sizeof(HandoverFromUTRANCommand_GERANIu));
+         if (pvalue->u.handoverFromUTRANCommand_GERANIu == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "handoverFromUTRANCommand-GERANIu", -1, "DL-DCCH-MessageType");
+         asn1Init_UMTS_HandoverFromUTRANCommand_GERANIu(pvalue->u.handoverFromUTRANCommand_GERANIu);
+         stat = asn1PD_UMTS_HandoverFromUTRANCommand_GERANIu(ctx, pvalue->u.handoverFromUTRANCommand_GERANIu);
+         RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-GERANIu", -1, "DL-DCCH-MessageType");
+         break;
+      case 26: /* mbmsModifiedServicesInformation */
+         pvalue->u.mbmsModifiedServicesInformation = (MBMSModifiedServicesInformation*)rtxMemHeapAlloc(ctx, sizeof(MBMSModifiedServicesInformation));
+         if (pvalue->u.mbmsModifiedServicesInformation == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "mbmsModifiedServicesInformation", -1, "DL-DCCH-MessageType");
+         asn1Init_UMTS_MBMSModifiedServicesInformation(pvalue->u.mbmsModifiedServicesInformation);
+         stat = asn1PD_UMTS_MBMSModifiedServicesInformation(ctx, pvalue->u.mbmsModifiedServicesInformation);
+         RT_CHECK(ctx, stat, 0, "mbmsModifiedServicesInformation", -1, "DL-DCCH-MessageType");
+         break;
+      case 27: /* etwsPrimaryNotificationWithSecurity */
+         pvalue->u.etwsPrimaryNotificationWithSecurity = (ETWSPrimaryNotificationWithSecurity*)rtxMemHeapAlloc(ctx, sizeof(ETWSPrimaryNotificationWithSecurity));
+         if (pvalue->u.etwsPrimaryNotificationWithSecurity == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "etwsPrimaryNotificationWithSecurity", -1, "DL-DCCH-MessageType");
+         asn1Init_UMTS_ETWSPrimaryNotificationWithSecurity(pvalue->u.etwsPrimaryNotificationWithSecurity);
+         stat = asn1PD_UMTS_ETWSPrimaryNotificationWithSecurity(ctx, pvalue->u.etwsPrimaryNotificationWithSecurity);
+         RT_CHECK(ctx, stat, 0, "etwsPrimaryNotificationWithSecurity", -1, "DL-DCCH-MessageType");
+         break;
+      case 28: /* handoverFromUTRANCommand-EUTRA */
+         pvalue->u.handoverFromUTRANCommand_EUTRA = (HandoverFromUTRANCommand_EUTRA*)rtxMemHeapAlloc(ctx, sizeof(HandoverFromUTRANCommand_EUTRA));
+         if (pvalue->u.handoverFromUTRANCommand_EUTRA == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "handoverFromUTRANCommand-EUTRA", -1, "DL-DCCH-MessageType");
+         asn1Init_UMTS_HandoverFromUTRANCommand_EUTRA(pvalue->u.handoverFromUTRANCommand_EUTRA);
+         stat = asn1PD_UMTS_HandoverFromUTRANCommand_EUTRA(ctx, pvalue->u.handoverFromUTRANCommand_EUTRA);
+         RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-EUTRA", -1, "DL-DCCH-MessageType");
+         break;
+      case 29: /* spare3 */
+         break;
+      case 30: /* spare2 */
+         break;
+      case 31: /* spare1 */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-DCCH-MessageType");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_DCCH_Message(rtxContext* RT_RESTRICT ctx, DL_DCCH_Message* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-DCCH-Message");
+   /* integrityCheckInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityCheckInfo(ctx, &pvalue->integrityCheckInfo);
+      RT_CHECK(ctx, stat, 0, "integrityCheckInfo", -1, "DL-DCCH-Message");
+   }
+   /* message */
+   stat = asn1PD_UMTS_DL_DCCH_MessageType(ctx, &pvalue->message);
+   RT_CHECK(ctx, stat, 0, "message", -1, "DL-DCCH-Message");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DCCH_MessageType(rtxContext* RT_RESTRICT ctx, UL_DCCH_MessageType* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 31);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DCCH-MessageType");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* activeSetUpdateComplete */
+         pvalue->u.activeSetUpdateComplete = (ActiveSetUpdateComplete*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdateComplete));
+         if (pvalue->u.activeSetUpdateComplete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "activeSetUpdateComplete", -1, "UL-DCCH-MessageType");
+         asn1Init_UMTS_ActiveSetUpdateComplete(pvalue->u.activeSetUpdateComplete);
+         stat = asn1PD_UMTS_ActiveSetUpdateComplete(ctx, pvalue->u.activeSetUpdateComplete);
+         RT_CHECK(ctx, stat, 0, "activeSetUpdateComplete", -1, "UL-DCCH-MessageType");
+         break;
+      case 1: /* activeSetUpdateFailure */
+         pvalue->u.activeSetUpdateFailure = (ActiveSetUpdateFailure*)rtxMemHeapAlloc(ctx, sizeof(ActiveSetUpdateFailure));
+         if (pvalue->u.activeSetUpdateFailure == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "activeSetUpdateFailure", -1, "UL-DCCH-MessageType");
+         asn1Init_UMTS_ActiveSetUpdateFailure(pvalue->u.activeSetUpdateFailure);
+         stat = asn1PD_UMTS_ActiveSetUpdateFailure(ctx, pvalue->u.activeSetUpdateFailure);
+         RT_CHECK(ctx, stat, 0, "activeSetUpdateFailure", -1, "UL-DCCH-MessageType");
+         break;
+      case 2: /* cellChangeOrderFromUTRANFailure */
+         pvalue->u.cellChangeOrderFromUTRANFailure = (CellChangeOrderFromUTRANFailure*)rtxMemHeapAlloc(ctx, sizeof(CellChangeOrderFromUTRANFailure));
+         if (pvalue->u.cellChangeOrderFromUTRANFailure == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cellChangeOrderFromUTRANFailure", -1, "UL-DCCH-MessageType");
+         asn1Init_UMTS_CellChangeOrderFromUTRANFailure(pvalue->u.cellChangeOrderFromUTRANFailure);
+         stat = asn1PD_UMTS_CellChangeOrderFromUTRANFailure(ctx, pvalue->u.cellChangeOrderFromUTRANFailure);
+         RT_CHECK(ctx, stat, 0, "cellChangeOrderFromUTRANFailure", -1, "UL-DCCH-MessageType");
+         break;
+      case 3: /* counterCheckResponse */
+         pvalue->u.counterCheckResponse = (CounterCheckResponse*)rtxMemHeapAlloc(ctx, sizeof(CounterCheckResponse));
+         if (pvalue->u.counterCheckResponse == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "counterCheckResponse", -1, "UL-DCCH-MessageType");
+         asn1Init_UMTS_CounterCheckResponse(pvalue->u.counterCheckResponse);
+         stat = asn1PD_UMTS_CounterCheckResponse(ctx, pvalue->u.counterCheckResponse);
+         RT_CHECK(ctx, stat, 0, "counterCheckResponse", -1, "UL-DCCH-MessageType");
+         break;
+      case 4: /* handoverToUTRANComplete */
+         pvalue->u.handoverToUTRANComplete = (HandoverToUTRANComplete*)rtxMemHeapAlloc(ctx, sizeof(HandoverToUTRANComplete));
+         if (pvalue->u.handoverToUTRANComplete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "handoverToUTRANComplete", -1, "UL-DCCH-MessageType");
+         asn1Init_UMTS_HandoverToUTRANComplete(pvalue->u.handoverToUTRANComplete);
+         stat = asn1PD_UMTS_HandoverToUTRANComplete(ctx, pvalue->u.handoverToUTRANComplete);
+         RT_CHECK(ctx, stat, 0, "handoverToUTRANComplete", -1, "UL-DCCH-MessageType");
+         break;
+      case 5: /* initialDirectTransfer */
+         pvalue->u.initialDirectTransfer = (InitialDirectTransfer*)rtxMemHeapAlloc(ctx, sizeof(InitialDirectTransfer));
+         if (pvalue->u.initialDirectTransfer == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "initialDirectTransfer", -1, "UL-DCCH-MessageType");
+         asn1Init_UMTS_InitialDirectTransfer(pvalue->u.initialDirectTransfer);
+         stat = asn1PD_UMTS_InitialDirectTransfer(ctx, pvalue->u.initialDirectTransfer);
+         RT_CHECK(ctx, stat, 0, "initialDirectTransfer", -1, "UL-DCCH-MessageType");
+         break;
+      case 6: /* handoverFromUTRANFailure */
+         pvalue->u.handoverFromUTRANFailure = (HandoverFromUTRANFailure*)rtxMemHeapAlloc(ctx, sizeof(HandoverFromUTRANFailure));
+         if (pvalue->u.handoverFromUTRANFailure == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "handoverFromUTRANFailure", -1, "UL-DCCH-MessageType");
+         asn1Init_UMTS_HandoverFromUTRANFailure(pvalue->u.handoverFromUTRANFailure);
+         stat = asn1PD_UMTS_HandoverFromUTRANFailure(ctx, pvalue->u.handoverFromUTRANFailure);
+         RT_CHECK(ctx, stat, 0, "handoverFromUTRANFailure", -1, "UL-DCCH-MessageType");
+         break;
+      case 7: /* measurementControlFailure */
+         pvalue->u.measurementControlFailure = (MeasurementControlFailure*)rtxMemHeapAlloc(ctx, sizeof(MeasurementControlFailure));
+         if (pvalue->u.measurementControlFailure == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "measurementControlFailure", -1, "UL-DCCH-MessageType");
+         asn1Init_UMTS_MeasurementControlFailure(pvalue->u.measurementControlFailure);
+         stat = asn1PD_UMTS_MeasurementControlFailure(ctx, pvalue->u.measurementControlFailure);
+         RT_CHECK(ctx, stat, 0, "measurementControlFailure", -1, "UL-DCCH-MessageType");
+         break;
+      case 8: /* measurementReport */
+         pvalue->u.measurementReport = (MeasurementReport*)rtxMemHeapAlloc(ctx, sizeof(MeasurementReport));
+         if (pvalue->u.measurementReport == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "measurementReport", -1, "UL-DCCH-MessageType");
+         asn1Init_UMTS_MeasurementReport(pvalue->u.measurementReport);
+         stat = asn1PD_UMTS_MeasurementReport(ctx, pvalue->u.measurementReport);
+         RT_CHECK(ctx, stat, 0, "measurementReport", -1, "UL-DCCH-MessageType");
+         break;
+      case 9: /* physicalChannelReconfigurationComplete */
+         pvalue->u.physicalChannelReconfigurationComplete = (PhysicalChannelReconfigurationComplete*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfigurationComplete));
+         if (pvalue->u.physicalChannelReconfigurationComplete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "physicalChannelReconfigurationComplete", -1, "UL-DCCH-MessageType");
+         asn1Init_UMTS_PhysicalChannelReconfigurationComplete(pvalue->u.physicalChannelReconfigurationComplete);
+         stat = asn1PD_UMTS_PhysicalChannelReconfigurationComplete(ctx, pvalue->u.physicalChannelReconfigurationComplete);
+         RT_CHECK(ctx, stat, 0, "physicalChannelReconfigurationComplete", -1, "UL-DCCH-MessageType");
+         break;
+      case 10: /* physicalChannelReconfigurationFailure */
+         pvalue->u.physicalChannelReconfigurationFailure = (PhysicalChannelReconfigurationFailure*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfigurationFailure));
+         if (pvalue->u.physicalChannelReconfigurationFailure == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "physicalChannelReconfigurationFailure", -1, "UL-DCCH-MessageType");
+         asn1Init_UMTS_PhysicalChannelReconfigurationFailure(pvalue->u.physicalChannelReconfigurationFailure);
+         stat = asn1PD_UMTS_PhysicalChannelReconfigurationFailure(ctx, pvalue->u.physicalChannelReconfigurationFailure);
+         RT_CHECK(ctx, stat, 0, "physicalChannelReconfigurationFailure", -1, "UL-DCCH-MessageType");
+         break;
+      case 11: /* radioBearerReconfigurationComplete */
+         pvalue->u.radioBearerReconfigurationComplete = (RadioBearerReconfigurationComplete*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfigurationComplete));
+         if (pvalue->u.radioBearerReconfigurationComplete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "radioBearerReconfigurationComplete", -1, "UL-DCCH-MessageType");
+         asn1Init_UMTS_RadioBearerReconfigurationComplete(pvalue->u.radioBearerReconfigurationComplete);
+         stat = asn1PD_UMTS_RadioBearerReconfigurationComplete(ctx, pvalue->u.radioBearerReconfigurationComplete);
+         RT_CHECK(ctx, stat, 0, "radioBearerReconfigurationComplete", -1, "UL-DCCH-MessageType");
+         break;
+      case 12: /* radioBearerReconfigurationFailure */
+         pvalue->u.radioBearerReconfigurationFailure = (RadioBearerReconfigurationFailure*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfigurationFailure));
+         if (pvalue->u.radioBearerReconfigurationFailure == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "radioBearerReconfigurationFailure", -1, "UL-DCCH-MessageType");
+         asn1Init_UMTS_RadioBearerReconfigurationFailure(pvalue->u.radioBearerReconfigurationFailure);
+         stat = asn1PD_UMTS_RadioBearerReconfigurationFailure(ctx, pvalue->u.radioBearerReconfigurationFailure);
+         RT_CHECK(ctx, stat, 0, "radioBearerReconfigurationFailure", -1, "UL-DCCH-MessageType");
+         break;
+      case 13: /* radioBearerReleaseComplete */
+         pvalue->u.radioBearerReleaseComplete = (RadioBearerReleaseComplete*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReleaseComplete));
+         if (pvalue->u.radioBearerReleaseComplete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "radioBearerReleaseComplete", -1, "UL-DCCH-MessageType");
+         asn1Init_UMTS_RadioBearerReleaseComplete(pvalue->u.radioBearerReleaseComplete);
+         stat = asn1PD_UMTS_RadioBearerReleaseComplete(ctx, pvalue->u.radioBearerReleaseComplete);
+         RT_CHECK(ctx, stat, 0, "radioBearerReleaseComplete", -1, "UL-DCCH-MessageType");
+         break;
+      case 14: /* radioBearerReleaseFailure */
+         pvalue->u.radioBearerReleaseFailure = (RadioBearerReleaseFailure*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReleaseFailure));
+         if (pvalue->u.radioBearerReleaseFailure == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "radioBearerReleaseFailure", -1, "UL-DCCH-MessageType");
+         asn1Init_UMTS_RadioBearerReleaseFailure(pvalue->u.radioBearerReleaseFailure);
+         stat = asn1PD_UMTS_RadioBearerReleaseFailure(ctx, pvalue->u.radioBearerReleaseFailure);
+         RT_CHECK(ctx, stat, 0, "radioBearerReleaseFailure", -1, "UL-DCCH-MessageType");
+         break;
+      case 15: /* radioBearerSetupComplete */
+         pvalue->u.radioBearerSetupComplete = (RadioBearerSetupComplete*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetupComplete));
+         if (pvalue->u.radioBearerSetupComplete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "radioBearerSetupComplete", -1, "UL-DCCH-MessageType");
+         asn1Init_UMTS_RadioBearerSetupComplete(pvalue->u.radioBearerSetupComplete);
+         stat = asn1PD_UMTS_RadioBearerSetupComplete(ctx, pvalue->u.radioBearerSetupComplete);
+         RT_CHECK(ctx, stat, 0, "radioBearerSetupComplete", -1, "UL-DCCH-MessageType");
+         break;
+      case 16: /* radioBearerSetupFailure */
+         pvalue->u.radioBearerSetupFailure = (RadioBearerSetupFailure*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetupFailure));
+         if (pvalue->u.radioBearerSetupFailure == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "radioBearerSetupFailure", -1, "UL-DCCH-MessageType");
+         asn1Init_UMTS_RadioBearerSetupFailure(pvalue->u.radioBearerSetupFailure);
+         stat = asn1PD_UMTS_RadioBearerSetupFailure(ctx, pvalue->u.radioBearerSetupFailure);
+         RT_CHECK(ctx, stat, 0, "radioBearerSetupFailure", -1, "UL-DCCH-MessageType");
+         break;
+      case 17: /* rrcConnectionReleaseComplete */
+         pvalue->u.rrcConnectionReleaseComplete = (RRCConnectionReleaseComplete*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionReleaseComplete));
+         if (pvalue->u.rrcConnectionReleaseComplete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "rrcConnectionReleaseComplete", -1, "UL-DCCH-MessageType");
+         asn1Init_UMTS_RRCConnectionReleaseComplete(pvalue->u.rrcConnectionReleaseComplete);
+         stat = asn1PD_UMTS_RRCConnectionReleaseComplete(ctx, pvalue->u.rrcConnectionReleaseComplete);
+         RT_CHECK(ctx, stat, 0, "rrcConnectionReleaseComplete", -1, "UL-DCCH-MessageType");
+         break;
+      case 18: /* rrcConnectionSetupComplete */
+         pvalue->u.rrcConnectionSetupComplete = (RRCConnectionSetupComplete*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionSetupComplete));
+         if (pvalue->u.rrcConnectionSetupComplete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "rrcConnectionSetupComplete", -1, "UL-DCCH-MessageType");
+         asn1Init_UMTS_RRCConnectionSetupComplete(pvalue->u.rrcConnectionSetupComplete);
+         stat = asn1PD_UMTS_RRCConnectionSetupComplete(ctx, pvalue->u.rrcConnectionSetupComplete);
+         RT_CHECK(ctx, stat, 0, "rrcConnectionSetupComplete", -1, "UL-DCCH-MessageType");
+         break;
+      case 19: /* rrcStatus */
+         pvalue->u.rrcStatus = (RRCStatus*)rtxMemHeapAlloc(ctx, sizeof(RRCStatus));
+         if (pvalue->u.rrcStatus == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "rrcStatus", -1, "UL-DCCH-MessageType");
+         asn1Init_UMTS_RRCStatus(pvalue->u.rrcStatus);
+         stat = asn1PD_UMTS_RRCStatus(ctx, pvalue->u.rrcStatus);
+         RT_CHECK(ctx, stat, 0, "rrcStatus", -1, "UL-DCCH-MessageType");
+         break;
+      case 20: /* securityModeComplete */
+         pvalue->u.securityModeComplete = (SecurityModeComplete*)rtxMemHeapAlloc(ctx, sizeof(SecurityModeComplete));
+         if (pvalue->u.securityModeComplete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "securityModeComplete", -1, "UL-DCCH-MessageType");
+         asn1Init_UMTS_SecurityModeComplete(pvalue->u.securityModeComplete);
+         stat = asn1PD_UMTS_SecurityModeComplete(ctx, pvalue->u.securityModeComplete);
+         RT_CHECK(ctx, stat, 0, "securityModeComplete", -1, "UL-DCCH-MessageType");
+         break;
+      case 21: /* securityModeFailure */
+         pvalue->u.securityModeFailure = (SecurityModeFailure*)rtxMemHeapAlloc(ctx, sizeof(SecurityModeFailure));
+         if (pvalue->u.securityModeFailure == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "securityModeFailure", -1, "UL-DCCH-MessageType");
+         asn1Init_UMTS_SecurityModeFailure(pvalue->u.securityModeFailure);
+         stat = asn1PD_UMTS_SecurityModeFailure(ctx, pvalue->u.securityModeFailure);
+         RT_CHECK(ctx, stat, 0, "securityModeFailure", -1, "UL-DCCH-MessageType");
+         break;
+      case 22: /* signallingConnectionReleaseIndication */
+         pvalue->u.signallingConnectionReleaseIndication = (SignallingConnectionReleaseIndication*)rtxMemHeapAlloc(ctx, sizeof(SignallingConnectionReleaseIndication));
+         if (pvalue->u.signallingConnectionReleaseIndication == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "signallingConnectionReleaseIndication", -1, "UL-DCCH-MessageType");
+         asn1Init_UMTS_SignallingConnectionReleaseIndication(pvalue->u.signallingConnectionReleaseIndication);
+         stat = asn1PD_UMTS_SignallingConnectionReleaseIndication(ctx, pvalue->u.signallingConnectionReleaseIndication);
+         RT_CHECK(ctx, stat, 0, "signallingConnectionReleaseIndication", -1, "UL-DCCH-MessageType");
+         break;
+      case 23: /* transportChannelReconfigurationComplete */
+         pvalue->u.transportChannelReconfigurationComplete = (TransportChannelReconfigurationComplete*)rtxMemHeapAlloc(ctx, sizeof(TransportChannelReconfigurationComplete));
+         if (pvalue->u.transportChannelReconfigurationComplete == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "transportChannelReconfigurationComplete", -1, "UL-DCCH-MessageType");
+         asn1Init_UMTS_TransportChannelReconfigurationComplete(pvalue->u.transportChannelReconfigurationComplete);
+         stat = asn1PD_UMTS_TransportChannelReconfigurationComplete(ctx, pvalue->u.transportChannelReconfigurationComplete);
+         RT_CHECK(ctx, stat, 0, "transportChannelReconfigurationComplete", -1, "UL-DCCH-MessageType");
+         break;
+      case 24: /* transportChannelReconfigurationFailure */
+         pvalue->u.transportChannelReconfigurationFailure = (TransportChannelReconfigurationFailure*)rtxMemHeapAlloc(ctx, sizeof(TransportChannelReconfigurationFailure));
+         if (pvalue->u.transportChannelReconfigurationFailure == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "transportChannelReconfigurationFailure", -1, "UL-DCCH-MessageType");
+         asn1Init_UMTS_TransportChannelReconfigurationFailure(pvalue->u.transportChannelReconfigurationFailure);
+         stat = asn1PD_UMTS_TransportChannelReconfigurationFailure(ctx, pvalue->u.transportChannelReconfigurationFailure);
+         RT_CHECK(ctx, stat, 0, "transportChannelReconfigurationFailure", -1, "UL-DCCH-MessageType");
+         break;
+      case 25: /* transportFormatCombinationControlFailure */
+         pvalue->u.transportFormatCombinationControlFailure = (TransportFormatCombinationControlFailure*)rtxMemHeapAlloc(ctx, sizeof(TransportFormatCombinationControlFailure));
+         if (pvalue->u.transportFormatCombinationControlFailure == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "transportFormatCombinationControlFailure", -1, "UL-DCCH-MessageType");
+         asn1Init_UMTS_TransportFormatCombinationControlFailure(pvalue->u.transportFormatCombinationControlFailure);
+         stat = asn1PD_UMTS_TransportFormatCombinationControlFailure(ctx, pvalue->u.transportFormatCombinationControlFailure);
+         RT_CHECK(ctx, stat, 0, "transportFormatCombinationControlFailure", -1, "UL-DCCH-MessageType");
+         break;
+      case 26: /* ueCapabilityInformation */
+         pvalue->u.ueCapabilityInformation = (UECapabilityInformation*)rtxMemHeapAlloc(ctx, sizeof(UECapabilityInformation));
+         if (pvalue->u.ueCapabilityInformation == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "ueCapabilityInformation", -1, "UL-DCCH-MessageType");
+         asn1Init_UMTS_UECapabilityInformation(pvalue->u.ueCapabilityInformation);
+         stat = asn1PD_UMTS_UECapabilityInformation(ctx, pvalue->u.ueCapabilityInformation);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityInformation", -1, "UL-DCCH-MessageType");
+         break;
+      case 27: /* uplinkDirectTransfer */
+         pvalue->u.uplinkDirectTransfer = (UplinkDirectTransfer*)rtxMemHeapAlloc(ctx, sizeof(UplinkDirectTransfer));
+         if (pvalue->u.uplinkDirectTransfer == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "uplinkDirectTransfer", -1, "UL-DCCH-MessageType");
+         asn1Init_UMTS_UplinkDirectTransfer(pvalue->u.uplinkDirectTransfer);
+         stat = asn1PD_UMTS_UplinkDirectTransfer(ctx, pvalue->u.uplinkDirectTransfer);
+         RT_CHECK(ctx, stat, 0, "uplinkDirectTransfer", -1, "UL-DCCH-MessageType");
+         break;
+      case 28: /* utranMobilityInformationConfirm */
+         pvalue->u.utranMobilityInformationConfirm = (UTRANMobilityInformationConfirm*)rtxMemHeapAlloc(ctx, sizeof(UTRANMobilityInformationConfirm));
+         if (pvalue->u.utranMobilityInformationConfirm == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "utranMobilityInformationConfirm", -1, "UL-DCCH-MessageType");
+         asn1Init_UMTS_UTRANMobilityInformationConfirm(pvalue->u.utranMobilityInformationConfirm);
+         stat = asn1PD_UMTS_UTRANMobilityInformationConfirm(ctx, pvalue->u.utranMobilityInformationConfirm);
+         RT_CHECK(ctx, stat, 0, "utranMobilityInformationConfirm", -1, "UL-DCCH-MessageType");
+         break;
+      case 29: /* utranMobilityInformationFailure */
+         pvalue->u.utranMobilityInformationFailure = (UTRANMobilityInformationFailure*)rtxMemHeapAlloc(ctx, sizeof(UTRANMobilityInformationFailure));
+         if (pvalue->u.utranMobilityInformationFailure == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "utranMobilityInformationFailure", -1, "UL-DCCH-MessageType");
+         asn1Init_UMTS_UTRANMobilityInformationFailure(pvalue->u.utranMobilityInformationFailure);
+         stat = asn1PD_UMTS_UTRANMobilityInformationFailure(ctx, pvalue->u.utranMobilityInformationFailure);
+         RT_CHECK(ctx, stat, 0, "utranMobilityInformationFailure", -1, "UL-DCCH-MessageType");
+         break;
+      case 30: /* mbmsModificationRequest */
+         pvalue->u.mbmsModificationRequest = (MBMSModificationRequest*)rtxMemHeapAlloc(ctx, sizeof(MBMSModificationRequest));
+         if (pvalue->u.mbmsModificationRequest == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "mbmsModificationRequest", -1, "UL-DCCH-MessageType");
+         asn1Init_UMTS_MBMSModificationRequest(pvalue->u.mbmsModificationRequest);
+         stat = asn1PD_UMTS_MBMSModificationRequest(ctx, pvalue->u.mbmsModificationRequest);
+         RT_CHECK(ctx, stat, 0, "mbmsModificationRequest", -1, "UL-DCCH-MessageType");
+         break;
+      case 31: /* spare1 */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-DCCH-MessageType");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_DCCH_Message(rtxContext* RT_RESTRICT ctx, UL_DCCH_Message* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DCCH-Message");
+   /* integrityCheckInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityCheckInfo(ctx, &pvalue->integrityCheckInfo);
+      RT_CHECK(ctx, stat, 0, "integrityCheckInfo", -1, "UL-DCCH-Message");
+   }
+   /* message */
+   stat = asn1PD_UMTS_UL_DCCH_MessageType(ctx, &pvalue->message);
+   RT_CHECK(ctx, stat, 0, "message", -1, "UL-DCCH-Message");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CCCH_MessageType(rtxContext* RT_RESTRICT ctx, DL_CCCH_MessageType* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CCCH-MessageType");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* cellUpdateConfirm */
+         pvalue->u.cellUpdateConfirm = (CellUpdateConfirm_CCCH*)rtxMemHeapAlloc(ctx, sizeof(CellUpdateConfirm_CCCH));
+         if (pvalue->u.cellUpdateConfirm == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cellUpdateConfirm", -1, "DL-CCCH-MessageType");
+         asn1Init_UMTS_CellUpdateConfirm_CCCH(pvalue->u.cellUpdateConfirm);
+         stat = asn1PD_UMTS_CellUpdateConfirm_CCCH(ctx, pvalue->u.cellUpdateConfirm);
+         RT_CHECK(ctx, stat, 0, "cellUpdateConfirm", -1, "DL-CCCH-MessageType");
+         break;
+      case 1: /* rrcConnectionReject */
+         pvalue->u.rrcConnectionReject = (RRCConnectionReject*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionReject));
+         if (pvalue->u.rrcConnectionReject == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "rrcConnectionReject", -1, "DL-CCCH-MessageType");
+         asn1Init_UMTS_RRCConnectionReject(pvalue->u.rrcConnectionReject);
+         stat = asn1PD_UMTS_RRCConnectionReject(ctx, pvalue->u.rrcConnectionReject);
+         RT_CHECK(ctx, stat, 0, "rrcConnectionReject", -1, "DL-CCCH-MessageType");
+         break;
+      case 2: /* rrcConnectionRelease */
+         pvalue->u.rrcConnectionRelease = (RRCConnectionRelease_CCCH*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionRelease_CCCH));
+         if (pvalue->u.rrcConnectionRelease == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "rrcConnectionRelease", -1, "DL-CCCH-MessageType");
+         asn1Init_UMTS_RRCConnectionRelease_CCCH(pvalue->u.rrcConnectionRelease);
+         stat = asn1PD_UMTS_RRCConnectionRelease_CCCH(ctx, pvalue->u.rrcConnectionRelease);
+         RT_CHECK(ctx, stat, 0, "rrcConnectionRelease", -1, "DL-CCCH-MessageType");
+         break;
+      case 3: /* rrcConnectionSetup */
+         pvalue->u.rrcConnectionSetup = (RRCConnectionSetup*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionSetup));
+         if (pvalue->u.rrcConnectionSetup == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "rrcConnectionSetup", -1, "DL-CCCH-MessageType");
+         asn1Init_UMTS_RRCConnectionSetup(pvalue->u.rrcConnectionSetup);
+         stat = asn1PD_UMTS_RRCConnectionSetup(ctx, pvalue->u.rrcConnectionSetup);
+         RT_CHECK(ctx, stat, 0, "rrcConnectionSetup", -1, "DL-CCCH-MessageType");
+         break;
+      case 4: /* uraUpdateConfirm */
+         pvalue->u.uraUpdateConfirm = (URAUpdateConfirm_CCCH*)rtxMemHeapAlloc(ctx, sizeof(URAUpdateConfirm_CCCH));
+         if (pvalue->u.uraUpdateConfirm == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "uraUpdateConfirm", -1, "DL-CCCH-MessageType");
+         asn1Init_UMTS_URAUpdateConfirm_CCCH(pvalue->u.uraUpdateConfirm);
+         stat = asn1PD_UMTS_URAUpdateConfirm_CCCH(ctx, pvalue->u.uraUpdateConfirm);
+         RT_CHECK(ctx, stat, 0, "uraUpdateConfirm", -1, "DL-CCCH-MessageType");
+         break;
+      case 5: /* etwsPrimaryNotificationWithSecurity */
+         pvalue->u.etwsPrimaryNotificationWithSecurity = (ETWSPrimaryNotificationWithSecurity*)rtxMemHeapAlloc(ctx, sizeof(ETWSPrimaryNotificationWithSecurity));
+         if (pvalue->u.etwsPrimaryNotificationWithSecurity == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "etwsPrimaryNotificationWithSecurity", -1, "DL-CCCH-MessageType");
+         asn1Init_UMTS_ETWSPrimaryNotificationWithSecurity(pvalue->u.etwsPrimaryNotificationWithSecurity);
+         stat = asn1PD_UMTS_ETWSPrimaryNotificationWithSecurity(ctx, pvalue->u.etwsPrimaryNotificationWithSecurity);
+         RT_CHECK(ctx, stat, 0, "etwsPrimaryNotificationWithSecurity", -1, "DL-CCCH-MessageType");
+         break;
+      case 6: /* spare2 */
+         break;
+      case 7: /* spare1 */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-CCCH-MessageType");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_CCCH_Message(rtxContext* RT_RESTRICT ctx, DL_CCCH_Message* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CCCH-Message");
+   /* integrityCheckInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityCheckInfo(ctx, &pvalue->integrityCheckInfo);
+      RT_CHECK(ctx, stat, 0, "integrityCheckInfo", -1, "DL-CCCH-Message");
+   }
+   /* message */
+   stat = asn1PD_UMTS_DL_CCCH_MessageType(ctx, &pvalue->message);
+   RT_CHECK(ctx, stat, 0, "message", -1, "DL-CCCH-Message");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_CCCH_MessageType(rtxContext* RT_RESTRICT ctx, UL_CCCH_MessageType* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-CCCH-MessageType");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* cellUpdate */
+         pvalue->u.cellUpdate = (CellUpdate*)rtxMemHeapAlloc(ctx, sizeof(CellUpdate));
+         if (pvalue->u.cellUpdate == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "cellUpdate", -1, "UL-CCCH-MessageType");
+         asn1Init_UMTS_CellUpdate(pvalue->u.cellUpdate);
+         stat = asn1PD_UMTS_CellUpdate(ctx, pvalue->u.cellUpdate);
+         RT_CHECK(ctx, stat, 0, "cellUpdate", -1, "UL-CCCH-MessageType");
+         break;
+      case 1: /* rrcConnectionRequest */
+         pvalue->u.rrcConnectionRequest = (RRCConnectionRequest*)rtxMemHeapAlloc(ctx, sizeof(RRCConnectionRequest));
+         if (pvalue->u.rrcConnectionRequest == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "rrcConnectionRequest", -1, "UL-CCCH-MessageType");
+         asn1Init_UMTS_RRCConnectionRequest(pvalue->u.rrcConnectionRequest);
+         stat = asn1PD_UMTS_RRCConnectionRequest(ctx, pvalue->u.rrcConnectionRequest);
+         RT_CHECK(ctx, stat, 0, "rrcConnectionRequest", -1, "UL-CCCH-MessageType");
+         break;
+      case 2: /* uraUpdate */
+         pvalue->u.uraUpdate = (URAUpdate*)rtxMemHeapAlloc(ctx, sizeof(URAUpdate));
+         if (pvalue->u.uraUpdate == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "uraUpdate", -1, "UL-CCCH-MessageType");
+         asn1Init_UMTS_URAUpdate(pvalue->u.uraUpdate);
+         stat = asn1PD_UMTS_URAUpdate(ctx, pvalue->u.uraUpdate);
+         RT_CHECK(ctx, stat, 0, "uraUpdate", -1, "UL-CCCH-MessageType");
+         break;
+      case 3: /* spare */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-CCCH-MessageType");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_CCCH_Message(rtxContext* RT_RESTRICT ctx, UL_CCCH_Message* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-CCCH-Message");
+   /* integrityCheckInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_IntegrityCheckInfo(ctx, &pvalue->integrityCheckInfo);
+      RT_CHECK(ctx, stat, 0, "integrityCheckInfo", -1, "UL-CCCH-Message");
+   }
+   /* message */
+   stat = asn1PD_UMTS_UL_CCCH_MessageType(ctx, &pvalue->message);
+   RT_CHECK(ctx, stat, 0, "message", -1, "UL-CCCH-Message");
+   return 0;
+}
+
+int asn1PD_UMTS_PCCH_MessageType(rtxContext* RT_RESTRICT ctx, PCCH_MessageType* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PCCH-MessageType");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* pagingType1 */
+         pvalue->u.pagingType1 = (PagingType1*)rtxMemHeapAlloc(ctx, sizeof(PagingType1));
+         if (pvalue->u.pagingType1 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "pagingType1", -1, "PCCH-MessageType");
+         asn1Init_UMTS_PagingType1(pvalue->u.pagingType1);
+         stat = asn1PD_UMTS_PagingType1(ctx, pvalue->u.pagingType1);
+         RT_CHECK(ctx, stat, 0, "pagingType1", -1, "PCCH-MessageType");
+         break;
+      case 1: /* spare */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PCCH-MessageType");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PCCH_Message(rtxContext* RT_RESTRICT ctx, PCCH_Message* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* message */
+   stat = asn1PD_UMTS_PCCH_MessageType(ctx, &pvalue->message);
+   RT_CHECK(ctx, stat, 0, "message", -1, "PCCH-Message");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_SHCCH_MessageType(rtxContext* RT_RESTRICT ctx, DL_SHCCH_MessageType* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-SHCCH-MessageType");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* physicalSharedChannelAllocation */
+         pvalue->u.physicalSharedChannelAllocation = (PhysicalSharedChannelAllocation*)rtxMemHeapAlloc(ctx, sizeof(PhysicalSharedChannelAllocation));
+         if (pvalue->u.physicalSharedChannelAllocation == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "physicalSharedChannelAllocation", -1, "DL-SHCCH-MessageType");
+         asn1Init_UMTS_PhysicalSharedChannelAllocation(pvalue->u.physicalSharedChannelAllocation);
+         stat = asn1PD_UMTS_PhysicalSharedChannelAllocation(ctx, pvalue->u.physicalSharedChannelAllocation);
+         RT_CHECK(ctx, stat, 0, "physicalSharedChannelAllocation", -1, "DL-SHCCH-MessageType");
+         break;
+      case 1: /* spare */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-SHCCH-MessageType");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_SHCCH_Message(rtxContext* RT_RESTRICT ctx, DL_SHCCH_Message* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* message */
+   stat = asn1PD_UMTS_DL_SHCCH_MessageType(ctx, &pvalue->message);
+   RT_CHECK(ctx, stat, 0, "message", -1, "DL-SHCCH-Message");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_SHCCH_MessageType(rtxContext* RT_RESTRICT ctx, UL_SHCCH_MessageType* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-SHCCH-MessageType");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* puschCapacityRequest */
+         pvalue->u.puschCapacityRequest = (PUSCHCapacityRequest*)rtxMemHeapAlloc(ctx, sizeof(PUSCHCapacityRequest));
+         if (pvalue->u.puschCapacityRequest == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "puschCapacityRequest", -1, "UL-SHCCH-MessageType");
+         asn1Init_UMTS_PUSCHCapacityRequest(pvalue->u.puschCapacityRequest);
+         stat = asn1PD_UMTS_PUSCHCapacityRequest(ctx, pvalue->u.puschCapacityRequest);
+         RT_CHECK(ctx, stat, 0, "puschCapacityRequest", -1, "UL-SHCCH-MessageType");
+         break;
+      case 1: /* spare */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-SHCCH-MessageType");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UL_SHCCH_Message(rtxContext* RT_RESTRICT ctx, UL_SHCCH_Message* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* message */
+   stat = asn1PD_UMTS_UL_SHCCH_MessageType(ctx, &pvalue->message);
+   RT_CHECK(ctx, stat, 0, "message", -1, "UL-SHCCH-Message");
+   return 0;
+}
+
+int asn1PD_UMTS_BCCH_FACH_MessageType(rtxContext* RT_RESTRICT ctx, BCCH_FACH_MessageType* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "BCCH-FACH-MessageType");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* systemInformation */
+         pvalue->u.systemInformation = (SystemInformation_FACH*)rtxMemHeapAlloc(ctx, sizeof(SystemInformation_FACH));
+         if (pvalue->u.systemInformation == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "systemInformation", -1, "BCCH-FACH-MessageType");
+         asn1Init_UMTS_SystemInformation_FACH(pvalue->u.systemInformation);
+         stat = asn1PD_UMTS_SystemInformation_FACH(ctx, pvalue->u.systemInformation);
+         RT_CHECK(ctx, stat, 0, "systemInformation", -1, "BCCH-FACH-MessageType");
+         break;
+      case 1: /* systemInformationChangeIndication */
+         pvalue->u.systemInformationChangeIndication = (SystemInformationChangeIndication*)rtxMemHeapAlloc(ctx, sizeof(SystemInformationChangeIndication));
+         if (pvalue->u.systemInformationChangeIndication == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "systemInformationChangeIndication", -1, "BCCH-FACH-MessageType");
+         asn1Init_UMTS_SystemInformationChangeIndication(pvalue->u.systemInformationChangeIndication);
+         stat = asn1PD_UMTS_SystemInformationChangeIndication(ctx, pvalue->u.systemInformationChangeIndication);
+         RT_CHECK(ctx, stat, 0, "systemInformationChangeIndication", -1, "BCCH-FACH-MessageType");
+         break;
+      case 2: /* spare2 */
+         break;
+      case 3: /* spare1 */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "BCCH-FACH-MessageType");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_BCCH_FACH_Message(rtxContext* RT_RESTRICT ctx, BCCH_FACH_Message* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* message */
+   stat = asn1PD_UMTS_BCCH_FACH_MessageType(ctx, &pvalue->message);
+   RT_CHECK(ctx, stat, 0, "message", -1, "BCCH-FACH-Message");
+   return 0;
+}
+
+int asn1PD_UMTS_MCCH_MessageType(rtxContext* RT_RESTRICT ctx, MCCH_MessageType* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MCCH-MessageType");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* mbmsAccessInformation */
+         pvalue->u.mbmsAccessInformation = (MBMSAccessInformation*)rtxMemHeapAlloc(ctx, sizeof(MBMSAccessInformation));
+         if (pvalue->u.mbmsAccessInformation == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "mbmsAccessInformation", -1, "MCCH-MessageType");
+         asn1Init_UMTS_MBMSAccessInformation(pvalue->u.mbmsAccessInformation);
+         stat = asn1PD_UMTS_MBMSAccessInformation(ctx, pvalue->u.mbmsAccessInformation);
+         RT_CHECK(ctx, stat, 0, "mbmsAccessInformation", -1, "MCCH-MessageType");
+         break;
+      case 1: /* mbmsCommonPTMRBInformation */
+         pvalue->u.mbmsCommonPTMRBInformation = (MBMSCommonPTMRBInformation*)rtxMemHeapAlloc(ctx, sizeof(MBMSCommonPTMRBInformation));
+         if (pvalue->u.mbmsCommonPTMRBInformation == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "mbmsCommonPTMRBInformation", -1, "MCCH-MessageType");
+         asn1Init_UMTS_MBMSCommonPTMRBInformation(pvalue->u.mbmsCommonPTMRBInformation);
+         stat = asn1PD_UMTS_MBMSCommonPTMRBInformation(ctx, pvalue->u.mbmsCommonPTMRBInformation);
+         RT_CHECK(ctx, stat, 0, "mbmsCommonPTMRBInformation", -1, "MCCH-MessageType");
+         break;
+      case 2: /* mbmsCurrentCellPTMRBInformation */
+         pvalue->u.mbmsCurrentCellPTMRBInformation = (MBMSCurrentCellPTMRBInformation*)rtxMemHeapAlloc(ctx, sizeof(MBMSCurrentCellPTMRBInformation));
+         if (pvalue->u.mbmsCurrentCellPTMRBInformation == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "mbmsCurrentCellPTMRBInformation", -1, "MCCH-MessageType");
+         asn1Init_UMTS_MBMSCurrentCellPTMRBInformation(pvalue->u.mbmsCurrentCellPTMRBInformation);
+         stat = asn1PD_UMTS_MBMSCurrentCellPTMRBInformation(ctx, pvalue->u.mbmsCurrentCellPTMRBInformation);
+         RT_CHECK(ctx, stat, 0, "mbmsCurrentCellPTMRBInformation", -1, "MCCH-MessageType");
+         break;
+      case 3: /* mbmsGeneralInformation */
+         pvalue->u.mbmsGeneralInformation = (MBMSGeneralInformation*)rtxMemHeapAlloc(ctx, sizeof(MBMSGeneralInformation));
+         if (pvalue->u.mbmsGeneralInformation == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "mbmsGeneralInformation", -1, "MCCH-MessageType");
+         asn1Init_UMTS_MBMSGeneralInformation(pvalue->u.mbmsGeneralInformation);
+         stat = asn1PD_UMTS_MBMSGeneralInformation(ctx, pvalue->u.mbmsGeneralInformation);
+         RT_CHECK(ctx, stat, 0, "mbmsGeneralInformation", -1, "MCCH-MessageType");
+         break;
+      case 4: /* mbmsModifiedServicesInformation */
+         pvalue->u.mbmsModifiedServicesInformation = (MBMSModifiedServicesInformation*)rtxMemHeapAlloc(ctx, sizeof(MBMSModifiedServicesInformation));
+         if (pvalue->u.mbmsModifiedServicesInformation == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "mbmsModifiedServicesInformation", -1, "MCCH-MessageType");
+         asn1Init_UMTS_MBMSModifiedServicesInformation(pvalue->u.mbmsModifiedServicesInformation);
+         stat = asn1PD_UMTS_MBMSModifiedServicesInformation(ctx, pvalue->u.mbmsModifiedServicesInformation);
+         RT_CHECK(ctx, stat, 0, "mbmsModifiedServicesInformation", -1, "MCCH-MessageType");
+         break;
+      case 5: /* mbmsNeighbouringCellPTMRBInformation */
+         pvalue->u.mbmsNeighbouringCellPTMRBInformation = (MBMSNeighbouringCellPTMRBInformation*)rtxMemHeapAlloc(ctx, sizeof(MBMSNeighbouringCellPTMRBInformation));
+         if (pvalue->u.mbmsNeighbouringCellPTMRBInformation == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "mbmsNeighbouringCellPTMRBInformation", -1, "MCCH-MessageType");
+         asn1Init_UMTS_MBMSNeighbouringCellPTMRBInformation(pvalue->u.mbmsNeighbouringCellPTMRBInformation);
+         stat = asn1PD_UMTS_MBMSNeighbouringCellPTMRBInformation(ctx, pvalue->u.mbmsNeighbouringCellPTMRBInformation);
+         RT_CHECK(ctx, stat, 0, "mbmsNeighbouringCellPTMRBInformation", -1, "MCCH-MessageType");
+         break;
+      case 6: /* mbmsUnmodifiedServicesInformation */
+         pvalue->u.mbmsUnmodifiedServicesInformation = (MBMSUnmodifiedServicesInformation*)rtxMemHeapAlloc(ctx, sizeof(MBMSUnmodifiedServicesInformation));
+         if (pvalue->u.mbmsUnmodifiedServicesInformation == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "mbmsUnmodifiedServicesInformation", -1, "MCCH-MessageType");
+         asn1Init_UMTS_MBMSUnmodifiedServicesInformation(pvalue->u.mbmsUnmodifiedServicesInformation);
+         stat = asn1PD_UMTS_MBMSUnmodifiedServicesInformation(ctx, pvalue->u.mbmsUnmodifiedServicesInformation);
+         RT_CHECK(ctx, stat, 0, "mbmsUnmodifiedServicesInformation", -1, "MCCH-MessageType");
+         break;
+      case 7: /* spare9 */
+         break;
+      case 8: /* spare8 */
+         break;
+      case 9: /* spare7 */
+         break;
+      case 10: /* spare6 */
+         break;
+      case 11: /* spare5 */
+         break;
+      case 12: /* spare4 */
+         break;
+      case 13: /* spare3 */
+         break;
+      case 14: /* spare2 */
+         break;
+      case 15: /* spare1 */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MCCH-MessageType");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MCCH_Message(rtxContext* RT_RESTRICT ctx, MCCH_Message* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* message */
+   stat = asn1PD_UMTS_MCCH_MessageType(ctx, &pvalue->message);
+   RT_CHECK(ctx, stat, 0, "message", -1, "MCCH-Message");
+   return 0;
+}
+
+int asn1PD_UMTS_MSCH_MessageType(rtxContext* RT_RESTRICT ctx, MSCH_MessageType* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MSCH-MessageType");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* mbmsSchedulingInformation */
+         pvalue->u.mbmsSchedulingInformation = (MBMSSchedulingInformation*)rtxMemHeapAlloc(ctx, sizeof(MBMSSchedulingInformation));
+         if (pvalue->u.mbmsSchedulingInformation == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "mbmsSchedulingInformation", -1, "MSCH-MessageType");
+         asn1Init_UMTS_MBMSSchedulingInformation(pvalue->u.mbmsSchedulingInformation);
+         stat = asn1PD_UMTS_MBMSSchedulingInformation(ctx, pvalue->u.mbmsSchedulingInformation);
+         RT_CHECK(ctx, stat, 0, "mbmsSchedulingInformation", -1, "MSCH-MessageType");
+         break;
+      case 1: /* spare3 */
+         break;
+      case 2: /* spare2 */
+         break;
+      case 3: /* spare1 */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MSCH-MessageType");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MSCH_Message(rtxContext* RT_RESTRICT ctx, MSCH_Message* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* message */
+   stat = asn1PD_UMTS_MSCH_MessageType(ctx, &pvalue->message);
+   RT_CHECK(ctx, stat, 0, "message", -1, "MSCH-Message");
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3_IEs_interRATHandoverInfo(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfoWithInterRATCapabilities_r3_IEs_interRATHandoverInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 0, 255);
+   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfoWithInterRATCapabilities_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfoWithInterRATCapabilities-r3-IEs");
+   /* ue-RATSpecificCapability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InterRAT_UE_RadioAccessCapabilityList(ctx, &pvalue->ue_RATSpecificCapability);
+      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability", -1, "InterRATHandoverInfoWithInterRATCapabilities-r3-IEs");
+   }
+   /* interRATHandoverInfo */
+   stat = asn1PD_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3_IEs_interRATHandoverInfo(ctx, &pvalue->interRATHandoverInfo);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo", -1, "InterRATHandoverInfoWithInterRATCapabilities-r3-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfoWithInterRATCapabilities_v390ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfoWithInterRATCapabilities_v390ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfoWithInterRATCapabilities-v390ext-IEs");
+   /* failureCauseWithProtErr */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCauseWithProtErr);
+      RT_CHECK(ctx, stat, 0, "failureCauseWithProtErr", -1, "InterRATHandoverInfoWithInterRATCapabilities-v390ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfoWithInterRATCapabilities_v690ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfoWithInterRATCapabilities_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfoWithInterRATCapabilities-v690ext-IEs");
+   /* ue-RATSpecificCapability-v690ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_v690ext(ctx, &pvalue->ue_RATSpecificCapability_v690ext);
+      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability-v690ext", -1, "InterRATHandoverInfoWithInterRATCapabilities-v690ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfoWithInterRATCapabilities_v860ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfoWithInterRATCapabilities_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfoWithInterRATCapabilities-v860ext-IEs");
+   /* ue-RATSpecificCapability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_v860ext(ctx, &pvalue->ue_RATSpecificCapability);
+      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability", -1, "InterRATHandoverInfoWithInterRATCapabilities-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfoWithInterRATCapabilities_v920ext_IEs(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfoWithInterRATCapabilities_v920ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfoWithInterRATCapabilities-v920ext-IEs");
+   /* ue-Inactivity-Period */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->ue_Inactivity_Period, 1, 120);
+      RT_CHECK(ctx, stat, 0, "ue-Inactivity-Period", -1, "InterRATHandoverInfoWithInterRATCapabilities-v920ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3_r3_v390NonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfoWithInterRATCapabilities_r3_r3_v390NonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3_r3_v390NonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfoWithInterRATCapabilities_r3_r3_v390NonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfoWithInterRATCapabilities-v920ext */
+   stat = asn1PD_UMTS_InterRATHandoverInfoWithInterRATCapabilities_v920ext_IEs(ctx, &pvalue->interRATHandoverInfoWithInterRATCapabilities_v920ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfoWithInterRATCapabilities-v920ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3_r3_v390NonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3_r3_v390NonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfoWithInterRATCapabilities_r3_r3_v390NonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfoWithInterRATCapabilities-v860ext */
+   stat = asn1PD_UMTS_InterRATHandoverInfoWithInterRATCapabilities_v860ext_IEs(ctx, &pvalue->interRATHandoverInfoWithInterRATCapabilities_v860ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfoWithInterRATCapabilities-v860ext", -1, 0);
+   /* v920NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3_r3_v390NonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3_r3_v390NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfoWithInterRATCapabilities_r3_r3_v390NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfoWithInterRATCapabilities-v690ext */
+   stat = asn1PD_UMTS_InterRATHandoverInfoWithInterRATCapabilities_v690ext_IEs(ctx, &pvalue->interRATHandoverInfoWithInterRATCapabilities_v690ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfoWithInterRATCapabilities-v690ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3_r3_v390NonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3_r3_v390NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfoWithInterRATCapabilities_r3_r3_v390NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfoWithInterRATCapabilities-v390ext */
+   stat = asn1PD_UMTS_InterRATHandoverInfoWithInterRATCapabilities_v390ext_IEs(ctx, &pvalue->interRATHandoverInfoWithInterRATCapabilities_v390ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfoWithInterRATCapabilities-v390ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3_r3_v390NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3_r3(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfoWithInterRATCapabilities_r3_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfo-r3 */
+   stat = asn1PD_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3_IEs(ctx, &pvalue->interRATHandoverInfo_r3);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-r3", -1, 0);
+   /* v390NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3_r3_v390NonCriticalExtensions(ctx, &pvalue->v390NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v390NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfoWithInterRATCapabilities_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfoWithInterRATCapabilities_r3* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfoWithInterRATCapabilities-r3");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r3 */
+         pvalue->u.r3 = (InterRATHandoverInfoWithInterRATCapabilities_r3_r3*)rtxMemHeapAlloc(ctx, sizeof(InterRATHandoverInfoWithInterRATCapabilities_r3_r3));
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "InterRATHandoverInfoWithInterRATCapabilities-r3");
+         asn1Init_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3_r3(pvalue->u.r3);
+         stat = asn1PD_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "InterRATHandoverInfoWithInterRATCapabilities-r3");
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (InterRATHandoverInfoWithInterRATCapabilities_r3_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(InterRATHandoverInfoWithInterRATCapabilities_r3_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, "InterRATHandoverInfoWithInterRATCapabilities-r3");
+         stat = asn1PD_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, "InterRATHandoverInfoWithInterRATCapabilities-r3");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterRATHandoverInfoWithInterRATCapabilities-r3");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_StateOfRRC(rtxContext* RT_RESTRICT ctx, StateOfRRC* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "StateOfRRC");
+   return 0;
+}
+
+int asn1PD_UMTS_StateOfRRC_Procedure(rtxContext* RT_RESTRICT ctx, StateOfRRC_Procedure* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 11);
+   RT_CHECK(ctx, stat, 0, 0, -1, "StateOfRRC-Procedure");
+   return 0;
+}
+
+int asn1PD_UMTS_CipheringStatus(rtxContext* RT_RESTRICT ctx, CipheringStatus* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CipheringStatus");
+   return 0;
+}
+
+int asn1PD_UMTS_CalculationTimeForCiphering(rtxContext* RT_RESTRICT ctx, CalculationTimeForCiphering* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* cell-Id */
+   stat = asn1PD_UMTS_CellIdentity(ctx, &pvalue->cell_Id);
+   RT_CHECK(ctx, stat, 0, "cell-Id", -1, "CalculationTimeForCiphering");
+   /* sfn */
+   stat = pd_ConsUInt16(ctx, &pvalue->sfn, 0, 4095);
+   RT_CHECK(ctx, stat, 0, "sfn", -1, "CalculationTimeForCiphering");
+   return 0;
+}
+
+int asn1PD_UMTS_CipheringInfoPerRB(rtxContext* RT_RESTRICT ctx, CipheringInfoPerRB* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* dl-HFN */
+   RT_SET_SIZE(ctx, 20, 25);
+   stat = pd_BitString32(ctx, &pvalue->dl_HFN, 20, 25);
+   RT_CHECK(ctx, stat, 0, "dl-HFN", -1, "CipheringInfoPerRB");
+   /* ul-HFN */
+   RT_SET_SIZE(ctx, 20, 25);
+   stat = pd_BitString32(ctx, &pvalue->ul_HFN, 20, 25);
+   RT_CHECK(ctx, stat, 0, "ul-HFN", -1, "CipheringInfoPerRB");
+   return 0;
+}
+
+int asn1PD_UMTS_CipheringInfoPerRB_List(rtxContext* RT_RESTRICT ctx, CipheringInfoPerRB_List* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CipheringInfoPerRB-List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CipheringInfoPerRB* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CipheringInfoPerRB));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CipheringInfoPerRB", (int32_t)i, "CipheringInfoPerRB-List");
+      elem = (CipheringInfoPerRB*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_CipheringInfoPerRB(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "CipheringInfoPerRB", (int32_t)i, "CipheringInfoPerRB-List");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_COUNT_CSingle(rtxContext* RT_RESTRICT ctx, COUNT_CSingle* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "COUNT-CSingle");
+   /* count-C */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pd_BitString32(ctx, &pvalue->count_C, 32, 32);
+   RT_CHECK(ctx, stat, 0, "count-C", -1, "COUNT-CSingle");
+   return 0;
+}
+
+int asn1PD_UMTS_COUNT_C_List(rtxContext* RT_RESTRICT ctx, COUNT_C_List* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "COUNT-C-List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      COUNT_CSingle* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(COUNT_CSingle));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "COUNT-CSingle", (int32_t)i, "COUNT-C-List");
+      elem = (COUNT_CSingle*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_COUNT_CSingle(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "COUNT-CSingle", (int32_t)i, "COUNT-C-List");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntegrityProtectionStatus(rtxContext* RT_RESTRICT ctx, IntegrityProtectionStatus* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntegrityProtectionStatus");
+   return 0;
+}
+
+int asn1PD_UMTS_SRB_SpecificIntegrityProtInfo(rtxContext* RT_RESTRICT ctx, SRB_SpecificIntegrityProtInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ul-RRC-HFN */
+   RT_SET_SIZE(ctx, 28, 28);
+   stat = pd_BitString32(ctx, &pvalue->ul_RRC_HFN, 28, 28);
+   RT_CHECK(ctx, stat, 0, "ul-RRC-HFN", -1, "SRB-SpecificIntegrityProtInfo");
+   /* dl-RRC-HFN */
+   RT_SET_SIZE(ctx, 28, 28);
+   stat = pd_BitString32(ctx, &pvalue->dl_RRC_HFN, 28, 28);
+   RT_CHECK(ctx, stat, 0, "dl-RRC-HFN", -1, "SRB-SpecificIntegrityProtInfo");
+   /* ul-RRC-SequenceNumber */
+   stat = pd_ConsUInt8(ctx, &pvalue->ul_RRC_SequenceNumber, 0, 15);
+   RT_CHECK(ctx, stat, "RRC-MessageSequenceNumber", "ul-RRC-SequenceNumber", -1, "SRB-SpecificIntegrityProtInfo");
+   /* dl-RRC-SequenceNumber */
+   stat = pd_ConsUInt8(ctx, &pvalue->dl_RRC_SequenceNumber, 0, 15);
+   RT_CHECK(ctx, stat, "RRC-MessageSequenceNumber", "dl-RRC-SequenceNumber", -1, "SRB-SpecificIntegrityProtInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_SRB_SpecificIntegrityProtInfoList(rtxContext* RT_RESTRICT ctx, SRB_SpecificIntegrityProtInfoList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 4, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-SpecificIntegrityProtInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      SRB_SpecificIntegrityProtInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(SRB_SpecificIntegrityProtInfo));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "SRB-SpecificIntegrityProtInfo", (int32_t)i, "SRB-SpecificIntegrityProtInfoList");
+      elem = (SRB_SpecificIntegrityProtInfo*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_SRB_SpecificIntegrityProtInfo(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "SRB-SpecificIntegrityProtInfo", (int32_t)i, "SRB-SpecificIntegrityProtInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ImplementationSpecificParams(rtxContext* RT_RESTRICT ctx, ImplementationSpecificParams* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 1, 512);
+   stat = pd_BitString(ctx, &pvalue->numbits, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK(ctx, stat, 0, 0, -1, "ImplementationSpecificParams");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_LastKnownPos(rtxContext* RT_RESTRICT ctx, UE_Positioning_LastKnownPos* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* sfn */
+   stat = pd_ConsUInt16(ctx, &pvalue->sfn, 0, 4095);
+   RT_CHECK(ctx, stat, 0, "sfn", -1, "UE-Positioning-LastKnownPos");
+   /* cell-id */
+   stat = asn1PD_UMTS_CellIdentity(ctx, &pvalue->cell_id);
+   RT_CHECK(ctx, stat, 0, "cell-id", -1, "UE-Positioning-LastKnownPos");
+   /* positionEstimate */
+   stat = asn1PD_UMTS_PositionEstimate(ctx, &pvalue->positionEstimate);
+   RT_CHECK(ctx, stat, 0, "positionEstimate", -1, "UE-Positioning-LastKnownPos");
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementCommandWithType(rtxContext* RT_RESTRICT ctx, MeasurementCommandWithType* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementCommandWithType");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* setup */
+         pvalue->u.setup = (MeasurementType*)rtxMemHeapAlloc(ctx, sizeof(MeasurementType));
+         if (pvalue->u.setup == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "setup", -1, "MeasurementCommandWithType");
+         asn1Init_UMTS_MeasurementType(pvalue->u.setup);
+         stat = asn1PD_UMTS_MeasurementType(ctx, pvalue->u.setup);
+         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommandWithType");
+         break;
+      case 1: /* modify */
+         break;
+      case 2: /* release */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommandWithType");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_OngoingMeasRep(rtxContext* RT_RESTRICT ctx, OngoingMeasRep* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "OngoingMeasRep");
+   /* measurementIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->measurementIdentity, 1, 16);
+   RT_CHECK(ctx, stat, "MeasurementIdentity", "measurementIdentity", -1, "OngoingMeasRep");
+   /* measurementCommandWithType */
+   stat = asn1PD_UMTS_MeasurementCommandWithType(ctx, &pvalue->measurementCommandWithType);
+   RT_CHECK(ctx, stat, 0, "measurementCommandWithType", -1, "OngoingMeasRep");
+   /* measurementReportingMode */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
+      RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "OngoingMeasRep");
+   }
+   /* additionalMeasurementID-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementID_List);
+      RT_CHECK(ctx, stat, 0, "additionalMeasurementID-List", -1, "OngoingMeasRep");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_OngoingMeasRepList(rtxContext* RT_RESTRICT ctx, OngoingMeasRepList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "OngoingMeasRepList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      OngoingMeasRep* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(OngoingMeasRep));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "OngoingMeasRep", (int32_t)i, "OngoingMeasRepList");
+      elem = (OngoingMeasRep*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_OngoingMeasRep(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_OngoingMeasRep(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "OngoingMeasRep", (int32_t)i, "OngoingMeasRepList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_IEs_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_IEs_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->dummy, 1, 16);
+      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy", -1, 0);
+   }
+   /* dummy2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_IEs_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_IEs_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (SRNC_RelocationInfo_r3_IEs_modeSpecificInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(SRNC_RelocationInfo_r3_IEs_modeSpecificInfo_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_SRNC_RelocationInfo_r3_IEs_modeSpecificInfo_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_IEs_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_IEs(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 16);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-r3-IEs");
+   /* stateOfRRC */
+   stat = pd_ConsUnsigned(ctx, &pvalue->stateOfRRC, 0, 3);
+   RT_CHECK(ctx, stat, "StateOfRRC", "stateOfRRC", -1, "SRNC-RelocationInfo-r3-IEs");
+   /* stateOfRRC-Procedure */
+   stat = pd_ConsUnsigned(ctx, &pvalue->stateOfRRC_Procedure, 0, 11);
+   RT_CHECK(ctx, stat, "StateOfRRC-Procedure", "stateOfRRC-Procedure", -1, "SRNC-RelocationInfo-r3-IEs");
+   /* cipheringStatus */
+   stat = pd_ConsUnsigned(ctx, &pvalue->cipheringStatus, 0, 1);
+   RT_CHECK(ctx, stat, "CipheringStatus", "cipheringStatus", -1, "SRNC-RelocationInfo-r3-IEs");
+   /* calculationTimeForCiphering */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CalculationTimeForCiphering(ctx, &pvalue->calculationTimeForCiphering);
+      RT_CHECK(ctx, stat, 0, "calculationTimeForCiphering", -1, "SRNC-RelocationInfo-r3-IEs");
+   }
+   /* cipheringInfoPerRB-List */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CipheringInfoPerRB_List(ctx, &pvalue->cipheringInfoPerRB_List);
+      RT_CHECK(ctx, stat, 0, "cipheringInfoPerRB-List", -1, "SRNC-RelocationInfo-r3-IEs");
+   }
+   /* count-C-List */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_COUNT_C_List(ctx, &pvalue->count_C_List);
+      RT_CHECK(ctx, stat, 0, "count-C-List", -1, "SRNC-RelocationInfo-r3-IEs");
+   }
+   /* integrityProtectionStatus */
+   stat = pd_ConsUnsigned(ctx, &pvalue->integrityProtectionStatus, 0, 1);
+   RT_CHECK(ctx, stat, "IntegrityProtectionStatus", "integrityProtectionStatus", -1, "SRNC-RelocationInfo-r3-IEs");
+   /* srb-SpecificIntegrityProtInfo */
+   stat = asn1PD_UMTS_SRB_SpecificIntegrityProtInfoList(ctx, &pvalue->srb_SpecificIntegrityProtInfo);
+   RT_CHECK(ctx, stat, 0, "srb-SpecificIntegrityProtInfo", -1, "SRNC-RelocationInfo-r3-IEs");
+   /* implementationSpecificParams */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_ImplementationSpecificParams(ctx, &pvalue->implementationSpecificParams);
+      RT_CHECK(ctx, stat, 0, "implementationSpecificParams", -1, "SRNC-RelocationInfo-r3-IEs");
+   }
+   /* u-RNTI */
+   stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, "SRNC-RelocationInfo-r3-IEs");
+   /* c-RNTI */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->c_RNTI);
+      RT_CHECK(ctx, stat, 0, "c-RNTI", -1, "SRNC-RelocationInfo-r3-IEs");
+   }
+   /* ue-RadioAccessCapability */
+   stat = asn1PD_UMTS_UE_RadioAccessCapability(ctx, &pvalue->ue_RadioAccessCapability);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "SRNC-RelocationInfo-r3-IEs");
+   /* ue-Positioning-LastKnownPos */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_UE_Positioning_LastKnownPos(ctx, &pvalue->ue_Positioning_LastKnownPos);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-LastKnownPos", -1, "SRNC-RelocationInfo-r3-IEs");
+   }
+   /* ue-RATSpecificCapability */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_InterRAT_UE_RadioAccessCapabilityList(ctx, &pvalue->ue_RATSpecificCapability);
+      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability", -1, "SRNC-RelocationInfo-r3-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "SRNC-RelocationInfo-r3-IEs");
+   }
+   /* cn-CommonGSM-MAP-NAS-SysInfo */
+   stat = asn1PD_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo);
+   RT_CHECK(ctx, stat, 0, "cn-CommonGSM-MAP-NAS-SysInfo", -1, "SRNC-RelocationInfo-r3-IEs");
+   /* cn-DomainInformationList */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_CN_DomainInformationList(ctx, &pvalue->cn_DomainInformationList);
+      RT_CHECK(ctx, stat, 0, "cn-DomainInformationList", -1, "SRNC-RelocationInfo-r3-IEs");
+   }
+   /* ongoingMeasRepList */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_OngoingMeasRepList(ctx, &pvalue->ongoingMeasRepList);
+      RT_CHECK(ctx, stat, 0, "ongoingMeasRepList", -1, "SRNC-RelocationInfo-r3-IEs");
+   }
+   /* predefinedConfigStatusList */
+   stat = asn1PD_UMTS_PredefinedConfigStatusList(ctx, &pvalue->predefinedConfigStatusList);
+   RT_CHECK(ctx, stat, 0, "predefinedConfigStatusList", -1, "SRNC-RelocationInfo-r3-IEs");
+   /* srb-InformationList */
+   stat = asn1PD_UMTS_SRB_InformationSetupList(ctx, &pvalue->srb_InformationList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationList", -1, "SRNC-RelocationInfo-r3-IEs");
+   /* rab-InformationList */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_RAB_InformationSetupList(ctx, &pvalue->rab_InformationList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationList", -1, "SRNC-RelocationInfo-r3-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "SRNC-RelocationInfo-r3-IEs");
+   }
+   /* ul-TransChInfoList */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_TransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-TransChInfoList", -1, "SRNC-RelocationInfo-r3-IEs");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_IEs_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SRNC-RelocationInfo-r3-IEs");
+   /* dl-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "SRNC-RelocationInfo-r3-IEs");
+   }
+   /* dl-TransChInfoList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList(ctx, &pvalue->dl_TransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-TransChInfoList", -1, "SRNC-RelocationInfo-r3-IEs");
+   }
+   /* measurementReport */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8000u;
+      stat = asn1PD_UMTS_MeasurementReport(ctx, &pvalue->measurementReport);
+      RT_CHECK(ctx, stat, 0, "measurementReport", -1, "SRNC-RelocationInfo-r3-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CipheringStatusCNdomain(rtxContext* RT_RESTRICT ctx, CipheringStatusCNdomain* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "CipheringStatusCNdomain");
+   /* cipheringStatus */
+   stat = pd_ConsUnsigned(ctx, &pvalue->cipheringStatus, 0, 1);
+   RT_CHECK(ctx, stat, "CipheringStatus", "cipheringStatus", -1, "CipheringStatusCNdomain");
+   return 0;
+}
+
+int asn1PD_UMTS_CipheringStatusList(rtxContext* RT_RESTRICT ctx, CipheringStatusList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CipheringStatusList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CipheringStatusCNdomain* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CipheringStatusCNdomain));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CipheringStatusCNdomain", (int32_t)i, "CipheringStatusList");
+      elem = (CipheringStatusCNdomain*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_CipheringStatusCNdomain(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "CipheringStatusCNdomain", (int32_t)i, "CipheringStatusList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_v380ext_IEs(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_v380ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "SRNC-RelocationInfo-v380ext-IEs");
+   /* cipheringStatusList */
+   stat = asn1PD_UMTS_CipheringStatusList(ctx, &pvalue->cipheringStatusList);
+   RT_CHECK(ctx, stat, 0, "cipheringStatusList", -1, "SRNC-RelocationInfo-v380ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_CN_DomainInformation_v390ext(rtxContext* RT_RESTRICT ctx, CN_DomainInformation_v390ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* cn-DRX-CycleLengthCoeff */
+   stat = pd_ConsUInt8(ctx, &pvalue->cn_DRX_CycleLengthCoeff, 6, 9);
+   RT_CHECK(ctx, stat, "CN-DRX-CycleLengthCoefficient", "cn-DRX-CycleLengthCoeff", -1, "CN-DomainInformation-v390ext");
+   return 0;
+}
+
+int asn1PD_UMTS_CN_DomainInformationList_v390ext(rtxContext* RT_RESTRICT ctx, CN_DomainInformationList_v390ext* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CN-DomainInformationList-v390ext");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CN_DomainInformation_v390ext* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CN_DomainInformation_v390ext));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CN-DomainInformation-v390ext", (int32_t)i, "CN-DomainInformationList-v390ext");
+      elem = (CN_DomainInformation_v390ext*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_CN_DomainInformation_v390ext(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "CN-DomainInformation-v390ext", (int32_t)i, "CN-DomainInformationList-v390ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_v390ext_IEs(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_v390ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-v390ext-IEs");
+   /* cn-DomainInformationList-v390ext */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CN_DomainInformationList_v390ext(ctx, &pvalue->cn_DomainInformationList_v390ext);
+      RT_CHECK(ctx, stat, 0, "cn-DomainInformationList-v390ext", -1, "SRNC-RelocationInfo-v390ext-IEs");
+   }
+   /* ue-RadioAccessCapability-v370ext */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapability_v370ext(ctx, &pvalue->ue_RadioAccessCapability_v370ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v370ext", -1, "SRNC-RelocationInfo-v390ext-IEs");
+   }
+   /* ue-RadioAccessCapability-v380ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapability_v380ext(ctx, &pvalue->ue_RadioAccessCapability_v380ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v380ext", -1, "SRNC-RelocationInfo-v390ext-IEs");
+   }
+   /* dl-PhysChCapabilityFDD-v380ext */
+   stat = asn1PD_UMTS_DL_PhysChCapabilityFDD_v380ext(ctx, &pvalue->dl_PhysChCapabilityFDD_v380ext);
+   RT_CHECK(ctx, stat, 0, "dl-PhysChCapabilityFDD-v380ext", -1, "SRNC-RelocationInfo-v390ext-IEs");
+   /* failureCauseWithProtErr */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCauseWithProtErr);
+      RT_CHECK(ctx, stat, 0, "failureCauseWithProtErr", -1, "SRNC-RelocationInfo-v390ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CipheringInfoPerRB_List_v3a0ext(rtxContext* RT_RESTRICT ctx, CipheringInfoPerRB_List_v3a0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* dl-UM-SN */
+   RT_SET_SIZE(ctx, 7, 7);
+   stat = pd_BitString32(ctx, &pvalue->dl_UM_SN, 7, 7);
+   RT_CHECK(ctx, stat, 0, "dl-UM-SN", -1, "CipheringInfoPerRB-List-v3a0ext");
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_v3a0ext_IEs(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_v3a0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-v3a0ext-IEs");
+   /* cipheringInfoForSRB1-v3a0ext */
+   stat = asn1PD_UMTS_CipheringInfoPerRB_List_v3a0ext(ctx, &pvalue->cipheringInfoForSRB1_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "cipheringInfoForSRB1-v3a0ext", -1, "SRNC-RelocationInfo-v3a0ext-IEs");
+   /* ue-RadioAccessCapability-v3a0ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapability_v3a0ext(ctx, &pvalue->ue_RadioAccessCapability_v3a0ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v3a0ext", -1, "SRNC-RelocationInfo-v3a0ext-IEs");
+   }
+   /* startValueForCiphering-v3a0ext */
+   stat = asn1PD_UMTS_START_Value(ctx, &pvalue->startValueForCiphering_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "startValueForCiphering-v3a0ext", -1, "SRNC-RelocationInfo-v3a0ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_STARTList2(rtxContext* RT_RESTRICT ctx, STARTList2* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 2, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "STARTList2");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      STARTSingle* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(STARTSingle));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "STARTSingle", (int32_t)i, "STARTList2");
+      elem = (STARTSingle*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_STARTSingle(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_STARTSingle(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "STARTSingle", (int32_t)i, "STARTList2");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_v3b0ext_IEs(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_v3b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-v3b0ext-IEs");
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "SRNC-RelocationInfo-v3b0ext-IEs");
+   /* startValueForCiphering-v3b0ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_STARTList2(ctx, &pvalue->startValueForCiphering_v3b0ext);
+      RT_CHECK(ctx, stat, 0, "startValueForCiphering-v3b0ext", -1, "SRNC-RelocationInfo-v3b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_v3c0ext_IEs(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_v3c0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-v3c0ext-IEs");
+   /* rb-IdentityForHOMessage */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->rb_IdentityForHOMessage, 1, 32);
+      RT_CHECK(ctx, stat, "RB-Identity", "rb-IdentityForHOMessage", -1, "SRNC-RelocationInfo-v3c0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_v3d0ext_IEs(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_v3d0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-v3d0ext-IEs");
+   /* uESpecificBehaviourInformation1idle */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UESpecificBehaviourInformation1idle(ctx, &pvalue->uESpecificBehaviourInformation1idle);
+      RT_CHECK(ctx, stat, 0, "uESpecificBehaviourInformation1idle", -1, "SRNC-RelocationInfo-v3d0ext-IEs");
+   }
+   /* uESpecificBehaviourInformation1interRAT */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UESpecificBehaviourInformation1interRAT(ctx, &pvalue->uESpecificBehaviourInformation1interRAT);
+      RT_CHECK(ctx, stat, 0, "uESpecificBehaviourInformation1interRAT", -1, "SRNC-RelocationInfo-v3d0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TPC_Combination_Info(rtxContext* RT_RESTRICT ctx, TPC_Combination_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* primaryCPICH-Info */
+   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "TPC-Combination-Info");
+   /* tpc-CombinationIndex */
+   stat = pd_ConsUInt8(ctx, &pvalue->tpc_CombinationIndex, 0, 5);
+   RT_CHECK(ctx, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, "TPC-Combination-Info");
+   return 0;
+}
+
+int asn1PD_UMTS_TPC_CombinationInfoList(rtxContext* RT_RESTRICT ctx, TPC_CombinationInfoList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TPC-CombinationInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      TPC_Combination_Info* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TPC_Combination_Info));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "TPC-Combination-Info", (int32_t)i, "TPC-CombinationInfoList");
+      elem = (TPC_Combination_Info*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_TPC_Combination_Info(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "TPC-Combination-Info", (int32_t)i, "TPC-CombinationInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_v3h0ext_IEs_nonCriticalExtension(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_v3h0ext_IEs_nonCriticalExtension* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_v3h0ext_IEs(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_v3h0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-v3h0ext-IEs");
+   /* tpc-CombinationInfoList */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TPC_CombinationInfoList(ctx, &pvalue->tpc_CombinationInfoList);
+      RT_CHECK(ctx, stat, 0, "tpc-CombinationInfoList", -1, "SRNC-RelocationInfo-v3h0ext-IEs");
+   }
+   /* nonCriticalExtension */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_v3h0ext_IEs_nonCriticalExtension(ctx, &pvalue->nonCriticalExtension);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtension", -1, "SRNC-RelocationInfo-v3h0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_v3g0ext_IEs(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_v3g0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-v3g0ext-IEs");
+   /* ue-RadioAccessCapability-v3g0ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapability_v3g0ext(ctx, &pvalue->ue_RadioAccessCapability_v3g0ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v3g0ext", -1, "SRNC-RelocationInfo-v3g0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-v4b0ext-IEs");
+   /* ue-RadioAccessCapability-v4b0ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapability_v4b0ext(ctx, &pvalue->ue_RadioAccessCapability_v4b0ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v4b0ext", -1, "SRNC-RelocationInfo-v4b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_v590ext_IEs(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-v590ext-IEs");
+   /* ue-RadioAccessCapability-v590ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapability_v590ext(ctx, &pvalue->ue_RadioAccessCapability_v590ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v590ext", -1, "SRNC-RelocationInfo-v590ext-IEs");
+   }
+   /* ue-RATSpecificCapability-v590ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_InterRAT_UE_RadioAccessCapability_v590ext(ctx, &pvalue->ue_RATSpecificCapability_v590ext);
+      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability-v590ext", -1, "SRNC-RelocationInfo-v590ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_StoredTGP_Sequence_current_tgps_Status_active(rtxContext* RT_RESTRICT ctx, StoredTGP_Sequence_current_tgps_Status_active* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* tgcfn */
+   stat = pd_ConsUInt8(ctx, &pvalue->tgcfn, 0, 255);
+   RT_CHECK(ctx, stat, "TGCFN", "tgcfn", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_StoredTGP_Sequence_current_tgps_Status(rtxContext* RT_RESTRICT ctx, StoredTGP_Sequence_current_tgps_Status* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* active */
+         pvalue->u.active = (StoredTGP_Sequence_current_tgps_Status_active*)rtxMemHeapAllocZ(ctx, sizeof(StoredTGP_Sequence_current_tgps_Status_active));
+         if (pvalue->u.active == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "active", -1, 0);
+         stat = asn1PD_UMTS_StoredTGP_Sequence_current_tgps_Status_active(ctx, pvalue->u.active);
+         RT_CHECK(ctx, stat, 0, "active", -1, 0);
+         break;
+      case 1: /* inactive */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_StoredTGP_Sequence(rtxContext* RT_RESTRICT ctx, StoredTGP_Sequence* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "StoredTGP-Sequence");
+   /* tgpsi */
+   stat = pd_ConsUInt8(ctx, &pvalue->tgpsi, 1, 6);
+   RT_CHECK(ctx, stat, "TGPSI", "tgpsi", -1, "StoredTGP-Sequence");
+   /* current-tgps-Status */
+   stat = asn1PD_UMTS_StoredTGP_Sequence_current_tgps_Status(ctx, &pvalue->current_tgps_Status);
+   RT_CHECK(ctx, stat, 0, "current-tgps-Status", -1, "StoredTGP-Sequence");
+   /* tgps-ConfigurationParams */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TGPS_ConfigurationParams(ctx, &pvalue->tgps_ConfigurationParams);
+      RT_CHECK(ctx, stat, 0, "tgps-ConfigurationParams", -1, "StoredTGP-Sequence");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_StoredTGP_SequenceList(rtxContext* RT_RESTRICT ctx, StoredTGP_SequenceList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 6);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "StoredTGP-SequenceList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      StoredTGP_Sequence* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(StoredTGP_Sequence));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "StoredTGP-Sequence", (int32_t)i, "StoredTGP-SequenceList");
+      elem = (StoredTGP_Sequence*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_StoredTGP_Sequence(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_StoredTGP_Sequence(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "StoredTGP-Sequence", (int32_t)i, "StoredTGP-SequenceList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CodeChangeStatus(rtxContext* RT_RESTRICT ctx, CodeChangeStatus* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* primaryCPICH-Info */
+   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "CodeChangeStatus");
+   /* scramblingCodeChange */
+   stat = pd_ConsUnsigned(ctx, &pvalue->scramblingCodeChange, 0, 1);
+   RT_CHECK(ctx, stat, "ScramblingCodeChange", "scramblingCodeChange", -1, "CodeChangeStatus");
+   return 0;
+}
+
+int asn1PD_UMTS_CodeChangeStatusList(rtxContext* RT_RESTRICT ctx, CodeChangeStatusList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CodeChangeStatusList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CodeChangeStatus* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CodeChangeStatus));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CodeChangeStatus", (int32_t)i, "CodeChangeStatusList");
+      elem = (CodeChangeStatus*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_CodeChangeStatus(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "CodeChangeStatus", (int32_t)i, "CodeChangeStatusList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_StoredCompressedModeInfo(rtxContext* RT_RESTRICT ctx, StoredCompressedModeInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "StoredCompressedModeInfo");
+   /* storedTGP-SequenceList */
+   stat = asn1PD_UMTS_StoredTGP_SequenceList(ctx, &pvalue->storedTGP_SequenceList);
+   RT_CHECK(ctx, stat, 0, "storedTGP-SequenceList", -1, "StoredCompressedModeInfo");
+   /* codeChangeStatusList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CodeChangeStatusList(ctx, &pvalue->codeChangeStatusList);
+      RT_CHECK(ctx, stat, 0, "codeChangeStatusList", -1, "StoredCompressedModeInfo");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_v5a0ext_IEs(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_v5a0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-v5a0ext-IEs");
+   /* storedCompressedModeInfo */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_StoredCompressedModeInfo(ctx, &pvalue->storedCompressedModeInfo);
+      RT_CHECK(ctx, stat, 0, "storedCompressedModeInfo", -1, "SRNC-RelocationInfo-v5a0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_v5b0ext_IEs(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_v5b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-v5b0ext-IEs");
+   /* interRATCellInfoIndication */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->interRATCellInfoIndication, 0, 3);
+      RT_CHECK(ctx, stat, "InterRATCellInfoIndication", "interRATCellInfoIndication", -1, "SRNC-RelocationInfo-v5b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_v5c0ext_IEs(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_v5c0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-v5c0ext-IEs");
+   /* ue-RadioAccessCapability-v5c0ext */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapability_v5c0ext(ctx, &pvalue->ue_RadioAccessCapability_v5c0ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v5c0ext", -1, "SRNC-RelocationInfo-v5c0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_IntraFreqReportingCriteria_r6_ext(rtxContext* RT_RESTRICT ctx, IntraFreqReportingCriteria_r6_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqReportingCriteria-r6-ext");
+   /* event */
+   stat = asn1PD_UMTS_Event1j_r6(ctx, &pvalue->event);
+   RT_CHECK(ctx, stat, 0, "event", -1, "IntraFreqReportingCriteria-r6-ext");
+   /* hysteresis */
+   stat = pd_ConsUInt8(ctx, &pvalue->hysteresis, 0, 15);
+   RT_CHECK(ctx, stat, "Hysteresis", "hysteresis", -1, "IntraFreqReportingCriteria-r6-ext");
+   /* timeToTrigger */
+   stat = pd_ConsUnsigned(ctx, &pvalue->timeToTrigger, 0, 15);
+   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqReportingCriteria-r6-ext");
+   /* reportingCellStatus */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "IntraFreqReportingCriteria-r6-ext");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_v690ext_IEs(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-v690ext-IEs");
+   /* ueCapabilityContainer */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x1u;
+      {
+         rtxDynBitStr carrier;
+         rtxContext outer;
+         stat = pd_DynBitString(ctx, &carrier);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer", -1, "SRNC-RelocationInfo-v690ext-IEs");
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_UE_CapabilityContainer_IEs(ctx, &pvalue->ueCapabilityContainer);
+            RT_CHECK(ctx, stat, 0, "ueCapabilityContainer", -1, "SRNC-RelocationInfo-v690ext-IEs");
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+      }
+   }
+   /* ueCapabilityContainer-RSC */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x2u;
+      {
+         rtxDynBitStr carrier;
+         rtxContext outer;
+         stat = pd_DynBitString(ctx, &carrier);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-RSC", -1, "SRNC-RelocationInfo-v690ext-IEs");
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_RRCConnectionSetupComplete_r3_add_ext_IEs(ctx, &pvalue->ueCapabilityContainer_RSC);
+            RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-RSC", -1, "SRNC-RelocationInfo-v690ext-IEs");
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+      }
+   }
+   /* ueCapabilityContainer-UCI */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x4u;
+      {
+         rtxDynBitStr carrier;
+         rtxContext outer;
+         stat = pd_DynBitString(ctx, &carrier);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-UCI", -1, "SRNC-RelocationInfo-v690ext-IEs");
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_UECapabilityInformation_r3_add_ext_IEs(ctx, &pvalue->ueCapabilityContainer_UCI);
+            RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-UCI", -1, "SRNC-RelocationInfo-v690ext-IEs");
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+      }
+   }
+   /* rab-InformationSetupList */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_RAB_InformationSetupList_r6_ext(ctx, &pvalue->rab_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, "SRNC-RelocationInfo-v690ext-IEs");
+   }
+   /* measuredResultsOnRACHinterFreq */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_MeasuredResultsOnRACHinterFreq(ctx, &pvalue->measuredResultsOnRACHinterFreq);
+      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACHinterFreq", -1, "SRNC-RelocationInfo-v690ext-IEs");
+   }
+   /* mbms-JoinedInformation */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_MBMS_JoinedInformation_r6(ctx, &pvalue->mbms_JoinedInformation);
+      RT_CHECK(ctx, stat, 0, "mbms-JoinedInformation", -1, "SRNC-RelocationInfo-v690ext-IEs");
+   }
+   /* intraFreqReportingCriteria */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_IntraFreqReportingCriteria_r6_ext(ctx, &pvalue->intraFreqReportingCriteria);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "SRNC-RelocationInfo-v690ext-IEs");
+   }
+   return stat;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_v6b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-v6b0ext-IEs");
+   /* rab-InformationSetupListExt */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RAB_InformationSetupList_v6b0ext(ctx, &pvalue->rab_InformationSetupListExt);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupListExt", -1, "SRNC-RelocationInfo-v6b0ext-IEs");
+   }
+   /* mbmsSelectedServiceInfo */
+   stat = asn1PD_UMTS_MBMS_SelectedServiceInfo(ctx, &pvalue->mbmsSelectedServiceInfo);
+   RT_CHECK(ctx, stat, 0, "mbmsSelectedServiceInfo", -1, "SRNC-RelocationInfo-v6b0ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_v770ext_IEs(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-v770ext-IEs");
+   /* thresholdSFN-GPS-TOW-us */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->thresholdSFN_GPS_TOW_us, 0, 7);
+      RT_CHECK(ctx, stat, "ThresholdSFN-GPS-TOW-us", "thresholdSFN-GPS-TOW-us", -1, "SRNC-RelocationInfo-v770ext-IEs");
+   }
+   /* srns-t-305 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->srns_t_305, 0, 7);
+      RT_CHECK(ctx, stat, "T-305", "srns-t-305", -1, "SRNC-RelocationInfo-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_v7e0ext_IEs(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_v7e0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ue-RadioAccessCapability */
+   stat = asn1PD_UMTS_UE_RadioAccessCapability_v7e0ext(ctx, &pvalue->ue_RadioAccessCapability);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "SRNC-RelocationInfo-v7e0ext-IEs");
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_v7f0ext_IEs(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_v7f0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-v7f0ext-IEs");
+   /* ue-RadioAccessCapability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapability_v7f0ext(ctx, &pvalue->ue_RadioAccessCapability);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "SRNC-RelocationInfo-v7f0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v7f0ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v7f0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v7f0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v7e0ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v7e0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v7e0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v7e0ext", -1, 0);
    /* v7f0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v7f0NonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v780ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v780ext");
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v780ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v780ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v7d0NonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v770ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v770ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v770ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v770ext", -1, 0);
+   /* v7e0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v7d0NonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions(ctx, &pvalue->v7e0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7e0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7* pvalue)
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v6b0ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v6b0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v6b0ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v690ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v690ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v690ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v690ext", -1, 0);
+   /* v6b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v5c0ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v5c0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v5c0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v5c0ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v5b0ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v5b0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v5b0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v5b0ext", -1, 0);
+   /* v5c0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions(ctx, &pvalue->v5c0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v5c0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v5a0ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v5a0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v5a0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v5a0ext", -1, 0);
+   /* v5b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions(ctx, &pvalue->v5b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v5b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v590ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v590ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v590ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v590ext", -1, 0);
+   /* v5a0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions(ctx, &pvalue->v5a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v5a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v4b0ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v4b0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v4b0ext", -1, 0);
+   /* v590NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v3g0ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v3g0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v3g0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v3g0ext", -1, 0);
+   /* v4b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-r7 */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-r7");
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r7_IEs(ctx, &pvalue->physicalChannelReconfiguration_r7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* physicalChannelReconfiguration-r7-add-ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v3d0ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v3d0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v3d0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v3d0ext", -1, 0);
+   /* sRNC-RelocationInfo-r3-add-ext */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-r7-add-ext");
       pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->physicalChannelReconfiguration_r7_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      {
+         rtxDynBitStr carrier;
+         rtxContext outer;
+         stat = pd_DynBitString(ctx, &carrier);
+         RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-r3-add-ext", -1, 0);
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_SRNC_RelocationInfo_v3h0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_r3_add_ext);
+            RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-r3-add-ext", -1, 0);
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+      }
    }
-   /* v780NonCriticalExtensions */
+   /* v3g0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v780NonCriticalExtensions");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions(ctx, &pvalue->v3g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3g0NonCriticalExtensions", -1, 0);
+   }
+   return stat;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v3c0ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v3c0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v3c0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v3c0ext", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r8_IEs_responseToChangeOfUE_Capability(rtxContext* ctx, PhysicalChannelReconfiguration_r8_IEs_responseToChangeOfUE_Capability* pvalue)
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v3b0ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v3b0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v3b0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v3b0ext", -1, 0);
+   /* v3c0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions(ctx, &pvalue->v3c0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3c0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v3a0ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v3a0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v3a0ext", -1, 0);
+   /* v3b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions(ctx, &pvalue->v3b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v390ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v390ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v390ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v390ext", -1, 0);
+   /* v3a0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v380ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v380ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v380ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v380ext", -1, 0);
+   /* v390NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions(ctx, &pvalue->v390NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v390NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_r3(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-r3 */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_IEs(ctx, &pvalue->sRNC_RelocationInfo_r3);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-r3", -1, 0);
+   /* v380NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions(ctx, &pvalue->v380NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v380NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CipheringStatusCNdomain_r4(rtxContext* RT_RESTRICT ctx, CipheringStatusCNdomain_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* cn-DomainIdentity */
+   stat = pd_ConsUnsigned(ctx, &pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "CipheringStatusCNdomain-r4");
+   /* cipheringStatus */
+   stat = pd_ConsUnsigned(ctx, &pvalue->cipheringStatus, 0, 1);
+   RT_CHECK(ctx, stat, "CipheringStatus", "cipheringStatus", -1, "CipheringStatusCNdomain-r4");
+   /* start-Value */
+   stat = asn1PD_UMTS_START_Value(ctx, &pvalue->start_Value);
+   RT_CHECK(ctx, stat, 0, "start-Value", -1, "CipheringStatusCNdomain-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_CipheringStatusList_r4(rtxContext* RT_RESTRICT ctx, CipheringStatusList_r4* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CipheringStatusList-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CipheringStatusCNdomain_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CipheringStatusCNdomain_r4));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CipheringStatusCNdomain-r4", (int32_t)i, "CipheringStatusList-r4");
+      elem = (CipheringStatusCNdomain_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_CipheringStatusCNdomain_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_CipheringStatusCNdomain_r4(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "CipheringStatusCNdomain-r4", (int32_t)i, "CipheringStatusList-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_CipheringInfoPerRB_r4(rtxContext* RT_RESTRICT ctx, CipheringInfoPerRB_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CipheringInfoPerRB-r4");
+   /* rb-Identity */
+   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "CipheringInfoPerRB-r4");
+   /* dl-HFN */
+   RT_SET_SIZE(ctx, 20, 25);
+   stat = pd_BitString32(ctx, &pvalue->dl_HFN, 20, 25);
+   RT_CHECK(ctx, stat, 0, "dl-HFN", -1, "CipheringInfoPerRB-r4");
+   /* dl-UM-SN */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      RT_SET_SIZE(ctx, 7, 7);
+      stat = pd_BitString32(ctx, &pvalue->dl_UM_SN, 7, 7);
+      RT_CHECK(ctx, stat, 0, "dl-UM-SN", -1, "CipheringInfoPerRB-r4");
+   }
+   /* ul-HFN */
+   RT_SET_SIZE(ctx, 20, 25);
+   stat = pd_BitString32(ctx, &pvalue->ul_HFN, 20, 25);
+   RT_CHECK(ctx, stat, 0, "ul-HFN", -1, "CipheringInfoPerRB-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_CipheringInfoPerRB_List_r4(rtxContext* RT_RESTRICT ctx, CipheringInfoPerRB_List_r4* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CipheringInfoPerRB-List-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      CipheringInfoPerRB_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(CipheringInfoPerRB_r4));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "CipheringInfoPerRB-r4", (int32_t)i, "CipheringInfoPerRB-List-r4");
+      elem = (CipheringInfoPerRB_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_CipheringInfoPerRB_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_CipheringInfoPerRB_r4(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "CipheringInfoPerRB-r4", (int32_t)i, "CipheringInfoPerRB-List-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_Capability_r4_supportForRfc2507(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r4_supportForRfc2507* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* notSupported */
+         break;
+      case 1: /* supported */
+         stat = pd_ConsUnsigned(ctx, &pvalue->u.supported, 0, 4);
+         RT_CHECK(ctx, stat, "MaxHcContextSpace", "supported", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_Capability_r4_supportForRfc3095_supported(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r4_supportForRfc3095_supported* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* maxROHC-ContextSessions */
+   if (present & ((uint32_t)1 << 1)) {
+      stat = pd_ConsUnsigned(ctx, &pvalue->maxROHC_ContextSessions, 0, 13);
+      RT_CHECK(ctx, stat, "MaxROHC-ContextSessions-r4", "maxROHC-ContextSessions", -1, 0);
+   }
+   else {
+      pvalue->maxROHC_ContextSessions = 4;
+   }
+   /* reverseCompressionDepth */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUInt16(ctx, &pvalue->reverseCompressionDepth, 0, 65535);
+      RT_CHECK(ctx, stat, 0, "reverseCompressionDepth", -1, 0);
+   }
+   else {
+      pvalue->reverseCompressionDepth = 0;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_Capability_r4_supportForRfc3095(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r4_supportForRfc3095* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* notSupported */
+         break;
+      case 1: /* supported */
+         pvalue->u.supported = (PDCP_Capability_r4_supportForRfc3095_supported*)rtxMemHeapAlloc(ctx, sizeof(PDCP_Capability_r4_supportForRfc3095_supported));
+         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "supported", -1, 0);
+         asn1Init_UMTS_PDCP_Capability_r4_supportForRfc3095_supported(pvalue->u.supported);
+         stat = asn1PD_UMTS_PDCP_Capability_r4_supportForRfc3095_supported(ctx, pvalue->u.supported);
+         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_Capability_r4(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* losslessSRNS-RelocationSupport */
+   stat = rtxDecBitInline(ctx, &pvalue->losslessSRNS_RelocationSupport);
+   RT_CHECK(ctx, stat, 0, "losslessSRNS-RelocationSupport", -1, "PDCP-Capability-r4");
+   /* supportForRfc2507 */
+   stat = asn1PD_UMTS_PDCP_Capability_r4_supportForRfc2507(ctx, &pvalue->supportForRfc2507);
+   RT_CHECK(ctx, stat, 0, "supportForRfc2507", -1, "PDCP-Capability-r4");
+   /* supportForRfc3095 */
+   stat = asn1PD_UMTS_PDCP_Capability_r4_supportForRfc3095(ctx, &pvalue->supportForRfc3095);
+   RT_CHECK(ctx, stat, 0, "supportForRfc3095", -1, "PDCP-Capability-r4");
+   return 0;
+}
+
+int asn1PD_UMTS_RF_Capability_r4_fddRF_Capability(rtxContext* RT_RESTRICT ctx, RF_Capability_r4_fddRF_Capability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ue-PowerClass */
+   stat = pd_ConsUnsigned(ctx, &pvalue->ue_PowerClass, 0, 7);
+   RT_CHECK(ctx, stat, "UE-PowerClassExt", "ue-PowerClass", -1, 0);
+   /* txRxFrequencySeparation */
+   stat = pd_ConsUnsigned(ctx, &pvalue->txRxFrequencySeparation, 0, 2);
+   RT_CHECK(ctx, stat, "TxRxFrequencySeparation", "txRxFrequencySeparation", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RF_Capability_r4_tdd384_RF_Capability(rtxContext* RT_RESTRICT ctx, RF_Capability_r4_tdd384_RF_Capability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ue-PowerClass */
+   stat = pd_ConsUnsigned(ctx, &pvalue->ue_PowerClass, 0, 7);
+   RT_CHECK(ctx, stat, "UE-PowerClassExt", "ue-PowerClass", -1, 0);
+   /* radioFrequencyBandTDDList */
+   stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandTDDList, 0, 7);
+   RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList", "radioFrequencyBandTDDList", -1, 0);
+   /* chipRateCapability */
+   stat = pd_ConsUnsigned(ctx, &pvalue->chipRateCapability, 0, 1);
+   RT_CHECK(ctx, stat, "ChipRateCapability", "chipRateCapability", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RF_Capability_r4_tdd128_RF_Capability(rtxContext* RT_RESTRICT ctx, RF_Capability_r4_tdd128_RF_Capability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* ue-PowerClass */
+   stat = pd_ConsUnsigned(ctx, &pvalue->ue_PowerClass, 0, 7);
+   RT_CHECK(ctx, stat, "UE-PowerClassExt", "ue-PowerClass", -1, 0);
+   /* radioFrequencyBandTDDList */
+   stat = pd_ConsUnsigned(ctx, &pvalue->radioFrequencyBandTDDList, 0, 7);
+   RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList", "radioFrequencyBandTDDList", -1, 0);
+   /* chipRateCapability */
+   stat = pd_ConsUnsigned(ctx, &pvalue->chipRateCapability, 0, 1);
+   RT_CHECK(ctx, stat, "ChipRateCapability", "chipRateCapability", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_RF_Capability_r4(rtxContext* RT_RESTRICT ctx, RF_Capability_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RF-Capability-r4");
+   /* fddRF-Capability */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RF_Capability_r4_fddRF_Capability(ctx, &pvalue->fddRF_Capability);
+      RT_CHECK(ctx, stat, 0, "fddRF-Capability", -1, "RF-Capability-r4");
+   }
+   /* tdd384-RF-Capability */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_RF_Capability_r4_tdd384_RF_Capability(ctx, &pvalue->tdd384_RF_Capability);
+      RT_CHECK(ctx, stat, 0, "tdd384-RF-Capability", -1, "RF-Capability-r4");
+   }
+   /* tdd128-RF-Capability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_RF_Capability_r4_tdd128_RF_Capability(ctx, &pvalue->tdd128_RF_Capability);
+      RT_CHECK(ctx, stat, 0, "tdd128-RF-Capability", -1, "RF-Capability-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityFDD_r4(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-PhysChCapabilityFDD-r4");
+   /* maxNoDPCH-PDSCH-Codes */
+   stat = pd_ConsUInt8(ctx, &pvalue->maxNoDPCH_PDSCH_Codes, 1, 8);
+   RT_CHECK(ctx, stat, 0, "maxNoDPCH-PDSCH-Codes", -1, "DL-PhysChCapabilityFDD-r4");
+   /* maxNoPhysChBitsReceived */
+   stat = pd_ConsUnsigned(ctx, &pvalue->maxNoPhysChBitsReceived, 0, 14);
+   RT_CHECK(ctx, stat, "MaxNoPhysChBitsReceived", "maxNoPhysChBitsReceived", -1, "DL-PhysChCapabilityFDD-r4");
+   /* supportForSF-512 */
+   stat = rtxDecBitInline(ctx, &pvalue->supportForSF_512);
+   RT_CHECK(ctx, stat, 0, "supportForSF-512", -1, "DL-PhysChCapabilityFDD-r4");
+   /* dummy */
+   stat = rtxDecBitInline(ctx, &pvalue->dummy);
+   RT_CHECK(ctx, stat, 0, "dummy", -1, "DL-PhysChCapabilityFDD-r4");
+   /* dummy2 */
+   stat = asn1PD_UMTS_SimultaneousSCCPCH_DPCH_Reception(ctx, &pvalue->dummy2);
+   RT_CHECK(ctx, stat, 0, "dummy2", -1, "DL-PhysChCapabilityFDD-r4");
+   /* dummy3 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "SupportOfDedicatedPilotsForChEstimation", "dummy3", -1, "DL-PhysChCapabilityFDD-r4");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "SupportOfDedicatedPilotsForChEstimation", "dummy3", -1, "DL-PhysChCapabilityFDD-r4");
+         pvalue->dummy3 = ui;
+      }
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_r4_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_r4_fddPhysChCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* downlinkPhysChCapability */
+   stat = asn1PD_UMTS_DL_PhysChCapabilityFDD_r4(ctx, &pvalue->downlinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = asn1PD_UMTS_UL_PhysChCapabilityFDD(ctx, &pvalue->uplinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_r4_tdd384_PhysChCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_r4_tdd384_PhysChCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* downlinkPhysChCapability */
+   stat = asn1PD_UMTS_DL_PhysChCapabilityTDD(ctx, &pvalue->downlinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = asn1PD_UMTS_UL_PhysChCapabilityTDD(ctx, &pvalue->uplinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_r4_tdd128_PhysChCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_r4_tdd128_PhysChCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* downlinkPhysChCapability */
+   stat = asn1PD_UMTS_DL_PhysChCapabilityTDD_LCR_r4(ctx, &pvalue->downlinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = asn1PD_UMTS_UL_PhysChCapabilityTDD_LCR_r4(ctx, &pvalue->uplinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_r4(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelCapability-r4");
+   /* fddPhysChCapability */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PhysicalChannelCapability_r4_fddPhysChCapability(ctx, &pvalue->fddPhysChCapability);
+      RT_CHECK(ctx, stat, 0, "fddPhysChCapability", -1, "PhysicalChannelCapability-r4");
+   }
+   /* tdd384-PhysChCapability */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_PhysicalChannelCapability_r4_tdd384_PhysChCapability(ctx, &pvalue->tdd384_PhysChCapability);
+      RT_CHECK(ctx, stat, 0, "tdd384-PhysChCapability", -1, "PhysicalChannelCapability-r4");
+   }
+   /* tdd128-PhysChCapability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_PhysicalChannelCapability_r4_tdd128_PhysChCapability(ctx, &pvalue->tdd128_PhysChCapability);
+      RT_CHECK(ctx, stat, 0, "tdd128-PhysChCapability", -1, "PhysicalChannelCapability-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_Positioning_Capability_r4_validity_CellPCH_UraPCH(rtxContext* RT_RESTRICT ctx, UE_Positioning_Capability_r4_validity_CellPCH_UraPCH* RT_RESTRICT pvalue)
 {
    int stat;
    {
       uint32_t ui;
       stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
       stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
       *pvalue = ui;
    }
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r8_IEs(rtxContext* ctx, PhysicalChannelReconfiguration_r8_IEs* pvalue)
+int asn1PD_UMTS_UE_Positioning_Capability_r4_sfn_sfnType2Capability(rtxContext* RT_RESTRICT ctx, UE_Positioning_Capability_r4_sfn_sfnType2Capability* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   uint64_t present;
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration-r8-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   int stat;
    {
-      uint32_t hi, lo;
-      stat = rtxDecBitsFast(ctx, &hi, 2);
-      RT_CHECK(ctx, stat);
-      stat = rtxDecBitsFast(ctx, &lo, 32);
-      RT_CHECK(ctx, stat);
-      present = ((uint64_t)hi << 32) | lo;
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
    }
-   /* integrityProtectionModeInfo */
-   if (present & ((uint64_t)1 << 33)) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint64_t)1 << 32)) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* activationTime */
-   if (present & ((uint64_t)1 << 31)) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* delayRestrictionFlag */
-   if (present & ((uint64_t)1 << 30)) {
-      rtxCtxtPushElemName(ctx, "delayRestrictionFlag");
-      pvalue->m |= 0x8u;
-      rtxCtxtPushTypeName(ctx, "DelayRestrictionFlag");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->delayRestrictionFlag = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-U-RNTI */
-   if (present & ((uint64_t)1 << 29)) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-C-RNTI */
-   if (present & ((uint64_t)1 << 28)) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint64_t)1 << 27)) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-H-RNTI */
-   if (present & ((uint64_t)1 << 26)) {
-      rtxCtxtPushElemName(ctx, "new-H-RNTI");
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint64_t)1 << 25)) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint64_t)1 << 24)) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ueMobilityStateIndicator */
-   if (present & ((uint64_t)1 << 23)) {
-      rtxCtxtPushElemName(ctx, "ueMobilityStateIndicator");
-      pvalue->m |= 0x400u;
-      rtxCtxtPushTypeName(ctx, "High-MobilityDetected");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->ueMobilityStateIndicator = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint64_t)1 << 22)) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint64_t)1 << 21)) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ura-Identity */
-   if (present & ((uint64_t)1 << 20)) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportForChangeOfUE-Capability */
-   if (present & ((uint64_t)1 << 19)) {
-      rtxCtxtPushElemName(ctx, "supportForChangeOfUE-Capability");
-      pvalue->m |= 0x4000u;
-      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* responseToChangeOfUE-Capability */
-   if (present & ((uint64_t)1 << 18)) {
-      rtxCtxtPushElemName(ctx, "responseToChangeOfUE-Capability");
-      pvalue->m |= 0x8000u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->responseToChangeOfUE_Capability = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint64_t)1 << 17)) {
-      rtxCtxtPushElemName(ctx, "dl-CounterSynchronisationInfo");
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* harqInfo */
-   if (present & ((uint64_t)1 << 16)) {
-      rtxCtxtPushElemName(ctx, "harqInfo");
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (present & ((uint64_t)1 << 15)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* multi-frequencyInfo */
-   if (present & ((uint64_t)1 << 14)) {
-      rtxCtxtPushElemName(ctx, "multi-frequencyInfo");
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dtx-drx-TimingInfo */
-   if (present & ((uint64_t)1 << 13)) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-TimingInfo");
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dtx-drx-Info */
-   if (present & ((uint64_t)1 << 12)) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-Info");
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hs-scch-LessInfo */
-   if (present & ((uint64_t)1 << 11)) {
-      rtxCtxtPushElemName(ctx, "hs-scch-LessInfo");
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mimoParameters */
-   if (present & ((uint64_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
-      pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_MIMO_Parameters_r8(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint64_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      pvalue->m |= 0x1000000u;
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-DPCH-Info */
-   if (present & ((uint64_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-      pvalue->m |= 0x2000000u;
-      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-EDCH-Information */
-   if (present & ((uint64_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
-      pvalue->m |= 0x4000000u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r8(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint64_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      pvalue->m |= 0x8000000u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonInformation */
-   if (present & ((uint64_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-      pvalue->m |= 0x10000000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint64_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-      pvalue->m |= 0x20000000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-SecondaryCellInfoFDD */
-   if (present & ((uint64_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "dl-SecondaryCellInfoFDD");
-      pvalue->m |= 0x40000000u;
-      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD(ctx, &pvalue->dl_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* controlChannelDRXInfo-TDD128 */
-   if (present & ((uint64_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "controlChannelDRXInfo-TDD128");
-      pvalue->m |= 0x80000000u;
-      stat = asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sps-Information-TDD128 */
-   if (present & ((uint64_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "sps-Information-TDD128");
-      pvalue->m |= 0x100000000ull;
-      stat = asn1PD_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (present & ((uint64_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mbms-PL-ServiceRestrictInfo");
-      pvalue->m |= 0x200000000ull;
-      rtxCtxtPushTypeName(ctx, "MBMS-PL-ServiceRestrictInfo-r6");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_v890ext_IEs(rtxContext* ctx, PhysicalChannelReconfiguration_v890ext_IEs* pvalue)
+int asn1PD_UMTS_UE_Positioning_Capability_r4(rtxContext* RT_RESTRICT ctx, UE_Positioning_Capability_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration-v890ext-IEs");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* dl-SecondaryCellInfoFDD-v890ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Capability-r4");
+   /* standaloneLocMethodsSupported */
+   stat = rtxDecBitInline(ctx, &pvalue->standaloneLocMethodsSupported);
+   RT_CHECK(ctx, stat, 0, "standaloneLocMethodsSupported", -1, "UE-Positioning-Capability-r4");
+   /* ue-BasedOTDOA-Supported */
+   stat = rtxDecBitInline(ctx, &pvalue->ue_BasedOTDOA_Supported);
+   RT_CHECK(ctx, stat, 0, "ue-BasedOTDOA-Supported", -1, "UE-Positioning-Capability-r4");
+   /* networkAssistedGPS-Supported */
+   stat = pd_ConsUnsigned(ctx, &pvalue->networkAssistedGPS_Supported, 0, 3);
+   RT_CHECK(ctx, stat, "NetworkAssistedGPS-Supported", "networkAssistedGPS-Supported", -1, "UE-Positioning-Capability-r4");
+   /* supportForUE-GPS-TimingOfCellFrames */
+   stat = rtxDecBitInline(ctx, &pvalue->supportForUE_GPS_TimingOfCellFrames);
+   RT_CHECK(ctx, stat, 0, "supportForUE-GPS-TimingOfCellFrames", -1, "UE-Positioning-Capability-r4");
+   /* supportForIPDL */
+   stat = rtxDecBitInline(ctx, &pvalue->supportForIPDL);
+   RT_CHECK(ctx, stat, 0, "supportForIPDL", -1, "UE-Positioning-Capability-r4");
+   /* rx-tx-TimeDifferenceType2Capable */
+   stat = rtxDecBitInline(ctx, &pvalue->rx_tx_TimeDifferenceType2Capable);
+   RT_CHECK(ctx, stat, 0, "rx-tx-TimeDifferenceType2Capable", -1, "UE-Positioning-Capability-r4");
+   /* validity-CellPCH-UraPCH */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dl-SecondaryCellInfoFDD-v890ext");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_v890ext(ctx, &pvalue->dl_SecondaryCellInfoFDD_v890ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "validity-CellPCH-UraPCH", -1, "UE-Positioning-Capability-r4");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "validity-CellPCH-UraPCH", -1, "UE-Positioning-Capability-r4");
+         pvalue->validity_CellPCH_UraPCH = ui;
+      }
    }
-   /* dl-HSPDSCH-Information */
+   /* sfn-sfnType2Capability */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "sfn-sfnType2Capability", -1, "UE-Positioning-Capability-r4");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "sfn-sfnType2Capability", -1, "UE-Positioning-Capability-r4");
+         pvalue->sfn_sfnType2Capability = ui;
+      }
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_v8a0ext_IEs(rtxContext* ctx, PhysicalChannelReconfiguration_v8a0ext_IEs* pvalue)
+int asn1PD_UMTS_CompressedModeMeasCapability_r4(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration-v8a0ext-IEs");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CompressedModeMeasCapability-r4");
+   /* fdd-Measurements */
+   stat = rtxDecBitInline(ctx, &pvalue->fdd_Measurements);
+   RT_CHECK(ctx, stat, 0, "fdd-Measurements", -1, "CompressedModeMeasCapability-r4");
+   /* tdd384-Measurements */
+   if (present & ((uint32_t)1 << 3)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext2(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = rtxDecBitInline(ctx, &pvalue->tdd384_Measurements);
+      RT_CHECK(ctx, stat, 0, "tdd384-Measurements", -1, "CompressedModeMeasCapability-r4");
    }
-   rtxCtxtPopTypeName(ctx);
+   /* tdd128-Measurements */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = rtxDecBitInline(ctx, &pvalue->tdd128_Measurements);
+      RT_CHECK(ctx, stat, 0, "tdd128-Measurements", -1, "CompressedModeMeasCapability-r4");
+   }
+   /* gsm-Measurements */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_GSM_Measurements(ctx, &pvalue->gsm_Measurements);
+      RT_CHECK(ctx, stat, 0, "gsm-Measurements", -1, "CompressedModeMeasCapability-r4");
+   }
+   /* multiCarrierMeasurements */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = rtxDecBitInline(ctx, &pvalue->multiCarrierMeasurements);
+      RT_CHECK(ctx, stat, 0, "multiCarrierMeasurements", -1, "CompressedModeMeasCapability-r4");
+   }
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions* pvalue)
+int asn1PD_UMTS_MeasurementCapability_r4(rtxContext* RT_RESTRICT ctx, MeasurementCapability_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
+   /* downlinkCompressedMode */
+   stat = asn1PD_UMTS_CompressedModeMeasCapability_r4(ctx, &pvalue->downlinkCompressedMode);
+   RT_CHECK(ctx, stat, 0, "downlinkCompressedMode", -1, "MeasurementCapability-r4");
+   /* uplinkCompressedMode */
+   stat = asn1PD_UMTS_CompressedModeMeasCapability_r4(ctx, &pvalue->uplinkCompressedMode);
+   RT_CHECK(ctx, stat, 0, "uplinkCompressedMode", -1, "MeasurementCapability-r4");
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(rtxContext* ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_UE_RadioAccessCapability_r4(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v8a0ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v8a0ext");
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v8a0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v8a0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-r4");
+   /* accessStratumReleaseIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->accessStratumReleaseIndicator, 0, 15);
+   RT_CHECK(ctx, stat, "AccessStratumReleaseIndicator", "accessStratumReleaseIndicator", -1, "UE-RadioAccessCapability-r4");
+   /* pdcp-Capability */
+   stat = asn1PD_UMTS_PDCP_Capability_r4(ctx, &pvalue->pdcp_Capability);
+   RT_CHECK(ctx, stat, 0, "pdcp-Capability", -1, "UE-RadioAccessCapability-r4");
+   /* rlc-Capability */
+   stat = asn1PD_UMTS_RLC_Capability(ctx, &pvalue->rlc_Capability);
+   RT_CHECK(ctx, stat, 0, "rlc-Capability", -1, "UE-RadioAccessCapability-r4");
+   /* transportChannelCapability */
+   stat = asn1PD_UMTS_TransportChannelCapability(ctx, &pvalue->transportChannelCapability);
+   RT_CHECK(ctx, stat, 0, "transportChannelCapability", -1, "UE-RadioAccessCapability-r4");
+   /* rf-Capability */
+   stat = asn1PD_UMTS_RF_Capability_r4(ctx, &pvalue->rf_Capability);
+   RT_CHECK(ctx, stat, 0, "rf-Capability", -1, "UE-RadioAccessCapability-r4");
+   /* physicalChannelCapability */
+   stat = asn1PD_UMTS_PhysicalChannelCapability_r4(ctx, &pvalue->physicalChannelCapability);
+   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapability-r4");
+   /* ue-MultiModeRAT-Capability */
+   stat = asn1PD_UMTS_UE_MultiModeRAT_Capability(ctx, &pvalue->ue_MultiModeRAT_Capability);
+   RT_CHECK(ctx, stat, 0, "ue-MultiModeRAT-Capability", -1, "UE-RadioAccessCapability-r4");
+   /* securityCapability */
+   stat = asn1PD_UMTS_SecurityCapability(ctx, &pvalue->securityCapability);
+   RT_CHECK(ctx, stat, 0, "securityCapability", -1, "UE-RadioAccessCapability-r4");
+   /* ue-positioning-Capability */
+   stat = asn1PD_UMTS_UE_Positioning_Capability_r4(ctx, &pvalue->ue_positioning_Capability);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-Capability", -1, "UE-RadioAccessCapability-r4");
+   /* measurementCapability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementCapability_r4(ctx, &pvalue->measurementCapability);
+      RT_CHECK(ctx, stat, 0, "measurementCapability", -1, "UE-RadioAccessCapability-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementCommandWithType_r4(rtxContext* RT_RESTRICT ctx, MeasurementCommandWithType_r4* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementCommandWithType-r4");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* setup */
+         pvalue->u.setup = (MeasurementType_r4*)rtxMemHeapAlloc(ctx, sizeof(MeasurementType_r4));
+         if (pvalue->u.setup == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "setup", -1, "MeasurementCommandWithType-r4");
+         asn1Init_UMTS_MeasurementType_r4(pvalue->u.setup);
+         stat = asn1PD_UMTS_MeasurementType_r4(ctx, pvalue->u.setup);
+         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommandWithType-r4");
+         break;
+      case 1: /* modify */
+         break;
+      case 2: /* release */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommandWithType-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_OngoingMeasRep_r4(rtxContext* RT_RESTRICT ctx, OngoingMeasRep_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "OngoingMeasRep-r4");
+   /* measurementIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->measurementIdentity, 1, 16);
+   RT_CHECK(ctx, stat, "MeasurementIdentity", "measurementIdentity", -1, "OngoingMeasRep-r4");
+   /* measurementCommandWithType */
+   stat = asn1PD_UMTS_MeasurementCommandWithType_r4(ctx, &pvalue->measurementCommandWithType);
+   RT_CHECK(ctx, stat, 0, "measurementCommandWithType", -1, "OngoingMeasRep-r4");
+   /* measurementReportingMode */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
+      RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "OngoingMeasRep-r4");
+   }
+   /* additionalMeasurementID-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementID_List);
+      RT_CHECK(ctx, stat, 0, "additionalMeasurementID-List", -1, "OngoingMeasRep-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_OngoingMeasRepList_r4(rtxContext* RT_RESTRICT ctx, OngoingMeasRepList_r4* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "OngoingMeasRepList-r4");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      OngoingMeasRep_r4* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(OngoingMeasRep_r4));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "OngoingMeasRep-r4", (int32_t)i, "OngoingMeasRepList-r4");
+      elem = (OngoingMeasRep_r4*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_OngoingMeasRep_r4(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_OngoingMeasRep_r4(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "OngoingMeasRep-r4", (int32_t)i, "OngoingMeasRepList-r4");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r4_IEs_dummy_fdd(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r4_IEs_dummy_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy1 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->dummy1, 1, 16);
+      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy1", -1, 0);
+   }
+   /* dummy2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r4_IEs_dummy(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r4_IEs_dummy* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (SRNC_RelocationInfo_r4_IEs_dummy_fdd*)rtxMemHeapAlloc(ctx, sizeof(SRNC_RelocationInfo_r4_IEs_dummy_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_SRNC_RelocationInfo_r4_IEs_dummy_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_SRNC_RelocationInfo_r4_IEs_dummy_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r4_IEs(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r4_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 22);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-r4-IEs");
+   /* rb-IdentityForHOMessage */
+   if (present & ((uint32_t)1 << 21)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->rb_IdentityForHOMessage, 1, 32);
+      RT_CHECK(ctx, stat, "RB-Identity", "rb-IdentityForHOMessage", -1, "SRNC-RelocationInfo-r4-IEs");
+   }
+   /* stateOfRRC */
+   stat = pd_ConsUnsigned(ctx, &pvalue->stateOfRRC, 0, 3);
+   RT_CHECK(ctx, stat, "StateOfRRC", "stateOfRRC", -1, "SRNC-RelocationInfo-r4-IEs");
+   /* stateOfRRC-Procedure */
+   stat = pd_ConsUnsigned(ctx, &pvalue->stateOfRRC_Procedure, 0, 11);
+   RT_CHECK(ctx, stat, "StateOfRRC-Procedure", "stateOfRRC-Procedure", -1, "SRNC-RelocationInfo-r4-IEs");
+   /* cipheringStatusList */
+   stat = asn1PD_UMTS_CipheringStatusList_r4(ctx, &pvalue->cipheringStatusList);
+   RT_CHECK(ctx, stat, 0, "cipheringStatusList", -1, "SRNC-RelocationInfo-r4-IEs");
+   /* latestConfiguredCN-Domain */
+   stat = pd_ConsUnsigned(ctx, &pvalue->latestConfiguredCN_Domain, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "latestConfiguredCN-Domain", -1, "SRNC-RelocationInfo-r4-IEs");
+   /* calculationTimeForCiphering */
+   if (present & ((uint32_t)1 << 20)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CalculationTimeForCiphering(ctx, &pvalue->calculationTimeForCiphering);
+      RT_CHECK(ctx, stat, 0, "calculationTimeForCiphering", -1, "SRNC-RelocationInfo-r4-IEs");
+   }
+   /* count-C-List */
+   if (present & ((uint32_t)1 << 19)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_COUNT_C_List(ctx, &pvalue->count_C_List);
+      RT_CHECK(ctx, stat, 0, "count-C-List", -1, "SRNC-RelocationInfo-r4-IEs");
+   }
+   /* cipheringInfoPerRB-List */
+   if (present & ((uint32_t)1 << 18)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_CipheringInfoPerRB_List_r4(ctx, &pvalue->cipheringInfoPerRB_List);
+      RT_CHECK(ctx, stat, 0, "cipheringInfoPerRB-List", -1, "SRNC-RelocationInfo-r4-IEs");
+   }
+   /* integrityProtectionStatus */
+   stat = pd_ConsUnsigned(ctx, &pvalue->integrityProtectionStatus, 0, 1);
+   RT_CHECK(ctx, stat, "IntegrityProtectionStatus", "integrityProtectionStatus", -1, "SRNC-RelocationInfo-r4-IEs");
+   /* srb-SpecificIntegrityProtInfo */
+   stat = asn1PD_UMTS_SRB_SpecificIntegrityProtInfoList(ctx, &pvalue->srb_SpecificIntegrityProtInfo);
+   RT_CHECK(ctx, stat, 0, "srb-SpecificIntegrityProtInfo", -1, "SRNC-RelocationInfo-r4-IEs");
+   /* implementationSpecificParams */
+   if (present & ((uint32_t)1 << 17)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_ImplementationSpecificParams(ctx, &pvalue->implementationSpecificParams);
+      RT_CHECK(ctx, stat, 0, "implementationSpecificParams", -1, "SRNC-RelocationInfo-r4-IEs");
+   }
+   /* u-RNTI */
+   stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, "SRNC-RelocationInfo-r4-IEs");
+   /* c-RNTI */
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->c_RNTI);
+      RT_CHECK(ctx, stat, 0, "c-RNTI", -1, "SRNC-RelocationInfo-r4-IEs");
+   }
+   /* ue-RadioAccessCapability */
+   stat = asn1PD_UMTS_UE_RadioAccessCapability_r4(ctx, &pvalue->ue_RadioAccessCapability);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "SRNC-RelocationInfo-r4-IEs");
+   /* ue-RadioAccessCapability-ext */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDDList(ctx, &pvalue->ue_RadioAccessCapability_ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-ext", -1, "SRNC-RelocationInfo-r4-IEs");
+   }
+   /* ue-Positioning-LastKnownPos */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_UE_Positioning_LastKnownPos(ctx, &pvalue->ue_Positioning_LastKnownPos);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-LastKnownPos", -1, "SRNC-RelocationInfo-r4-IEs");
+   }
+   /* uESpecificBehaviourInformation1idle */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_UESpecificBehaviourInformation1idle(ctx, &pvalue->uESpecificBehaviourInformation1idle);
+      RT_CHECK(ctx, stat, 0, "uESpecificBehaviourInformation1idle", -1, "SRNC-RelocationInfo-r4-IEs");
+   }
+   /* uESpecificBehaviourInformation1interRAT */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_UESpecificBehaviourInformation1interRAT(ctx, &pvalue->uESpecificBehaviourInformation1interRAT);
+      RT_CHECK(ctx, stat, 0, "uESpecificBehaviourInformation1interRAT", -1, "SRNC-RelocationInfo-r4-IEs");
+   }
+   /* ue-RATSpecificCapability */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_InterRAT_UE_RadioAccessCapabilityList(ctx, &pvalue->ue_RATSpecificCapability);
+      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability", -1, "SRNC-RelocationInfo-r4-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "SRNC-RelocationInfo-r4-IEs");
+   }
+   /* cn-CommonGSM-MAP-NAS-SysInfo */
+   stat = asn1PD_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo);
+   RT_CHECK(ctx, stat, 0, "cn-CommonGSM-MAP-NAS-SysInfo", -1, "SRNC-RelocationInfo-r4-IEs");
+   /* cn-DomainInformationList */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_CN_DomainInformationListFull(ctx, &pvalue->cn_DomainInformationList);
+      RT_CHECK(ctx, stat, 0, "cn-DomainInformationList", -1, "SRNC-RelocationInfo-r4-IEs");
+   }
+   /* ongoingMeasRepList */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_OngoingMeasRepList_r4(ctx, &pvalue->ongoingMeasRepList);
+      RT_CHECK(ctx, stat, 0, "ongoingMeasRepList", -1, "SRNC-RelocationInfo-r4-IEs");
+   }
+   /* predefinedConfigStatusList */
+   stat = asn1PD_UMTS_PredefinedConfigStatusList(ctx, &pvalue->predefinedConfigStatusList);
+   RT_CHECK(ctx, stat, 0, "predefinedConfigStatusList", -1, "SRNC-RelocationInfo-r4-IEs");
+   /* srb-InformationList */
+   stat = asn1PD_UMTS_SRB_InformationSetupList(ctx, &pvalue->srb_InformationList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationList", -1, "SRNC-RelocationInfo-r4-IEs");
+   /* rab-InformationList */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_RAB_InformationSetupList_r4(ctx, &pvalue->rab_InformationList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationList", -1, "SRNC-RelocationInfo-r4-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x8000u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "SRNC-RelocationInfo-r4-IEs");
+   }
+   /* ul-TransChInfoList */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_TransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-TransChInfoList", -1, "SRNC-RelocationInfo-r4-IEs");
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r4_IEs_dummy(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "SRNC-RelocationInfo-r4-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "SRNC-RelocationInfo-r4-IEs");
+   }
+   /* dl-TransChInfoList */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r4(ctx, &pvalue->dl_TransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-TransChInfoList", -1, "SRNC-RelocationInfo-r4-IEs");
+   }
+   /* measurementReport */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x100000u;
+      stat = asn1PD_UMTS_MeasurementReport(ctx, &pvalue->measurementReport);
+      RT_CHECK(ctx, stat, 0, "measurementReport", -1, "SRNC-RelocationInfo-r4-IEs");
+   }
+   /* failureCause */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x200000u;
+      stat = asn1PD_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
+      RT_CHECK(ctx, stat, 0, "failureCause", -1, "SRNC-RelocationInfo-r4-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_v4d0ext_IEs(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_v4d0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-v4d0ext-IEs");
+   /* tpc-CombinationInfoList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TPC_CombinationInfoList(ctx, &pvalue->tpc_CombinationInfoList);
+      RT_CHECK(ctx, stat, 0, "tpc-CombinationInfoList", -1, "SRNC-RelocationInfo-v4d0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v7f0ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v7f0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v7f0ext", -1, 0);
    /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v7g0ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v7g0ext");
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v7g0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v7g0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v8a0NonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v7e0ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v7e0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v7e0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v7e0ext", -1, 0);
+   /* v7f0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v8a0NonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v890ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v890ext");
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v890ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v890ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v7g0NonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v770ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v770ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v770ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v770ext", -1, 0);
+   /* v7e0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v7g0NonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions(ctx, &pvalue->v7e0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7e0NonCriticalExtensions", -1, 0);
    }
    return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v6b0ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v6b0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v6b0ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v690ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v690ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v690ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v690ext", -1, 0);
+   /* v6b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v5c0ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v5c0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v5c0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v5c0ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v5b0ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v5b0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v5b0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v5b0ext", -1, 0);
+   /* v5c0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions(ctx, &pvalue->v5c0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v5c0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v5a0ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v5a0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v5a0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v5a0ext", -1, 0);
+   /* v5b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions(ctx, &pvalue->v5b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v5b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v590ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v590ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v590ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v590ext", -1, 0);
+   /* v5a0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions(ctx, &pvalue->v5a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v5a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v4d0ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v4d0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v4d0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v4d0ext", -1, 0);
+   /* sRNC-RelocationInfo-r4-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->sRNC_RelocationInfo_r4_add_ext);
+      RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-r4-add-ext", -1, 0);
+   }
+   /* v590NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-r4 */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_r4_IEs(ctx, &pvalue->sRNC_RelocationInfo_r4);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-r4", -1, 0);
+   /* v4d0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MaxHcContextSpace_r5(rtxContext* RT_RESTRICT ctx, MaxHcContextSpace_r5* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxHcContextSpace-r5");
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_Capability_r5_supportForRfc2507(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r5_supportForRfc2507* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* notSupported */
+         break;
+      case 1: /* supported */
+         stat = pd_ConsUnsigned(ctx, &pvalue->u.supported, 0, 8);
+         RT_CHECK(ctx, stat, "MaxHcContextSpace-r5", "supported", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_Capability_r5_supportForRfc3095_supported(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r5_supportForRfc3095_supported* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* maxROHC-ContextSessions */
+   if (present & ((uint32_t)1 << 1)) {
+      stat = pd_ConsUnsigned(ctx, &pvalue->maxROHC_ContextSessions, 0, 13);
+      RT_CHECK(ctx, stat, "MaxROHC-ContextSessions-r4", "maxROHC-ContextSessions", -1, 0);
+   }
+   else {
+      pvalue->maxROHC_ContextSessions = 4;
+   }
+   /* reverseCompressionDepth */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUInt16(ctx, &pvalue->reverseCompressionDepth, 0, 65535);
+      RT_CHECK(ctx, stat, 0, "reverseCompressionDepth", -1, 0);
+   }
+   else {
+      pvalue->reverseCompressionDepth = 0;
+   }
+   /* supportForRfc3095ContextRelocation */
+   stat = rtxDecBitInline(ctx, &pvalue->supportForRfc3095ContextRelocation);
+   RT_CHECK(ctx, stat, 0, "supportForRfc3095ContextRelocation", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_Capability_r5_supportForRfc3095(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r5_supportForRfc3095* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* notSupported */
+         break;
+      case 1: /* supported */
+         pvalue->u.supported = (PDCP_Capability_r5_supportForRfc3095_supported*)rtxMemHeapAlloc(ctx, sizeof(PDCP_Capability_r5_supportForRfc3095_supported));
+         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "supported", -1, 0);
+         asn1Init_UMTS_PDCP_Capability_r5_supportForRfc3095_supported(pvalue->u.supported);
+         stat = asn1PD_UMTS_PDCP_Capability_r5_supportForRfc3095_supported(ctx, pvalue->u.supported);
+         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_Capability_r5(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* losslessSRNS-RelocationSupport */
+   stat = rtxDecBitInline(ctx, &pvalue->losslessSRNS_RelocationSupport);
+   RT_CHECK(ctx, stat, 0, "losslessSRNS-RelocationSupport", -1, "PDCP-Capability-r5");
+   /* supportForRfc2507 */
+   stat = asn1PD_UMTS_PDCP_Capability_r5_supportForRfc2507(ctx, &pvalue->supportForRfc2507);
+   RT_CHECK(ctx, stat, 0, "supportForRfc2507", -1, "PDCP-Capability-r5");
+   /* supportForRfc3095 */
+   stat = asn1PD_UMTS_PDCP_Capability_r5_supportForRfc3095(ctx, &pvalue->supportForRfc3095);
+   RT_CHECK(ctx, stat, 0, "supportForRfc3095", -1, "PDCP-Capability-r5");
+   return 0;
+}
+
+int asn1PD_UMTS_TotalRLC_AM_BufferSize_r5(rtxContext* RT_RESTRICT ctx, TotalRLC_AM_BufferSize_r5* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 9);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TotalRLC-AM-BufferSize-r5");
+   return 0;
+}
+
+int asn1PD_UMTS_RLC_Capability_r5(rtxContext* RT_RESTRICT ctx, RLC_Capability_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* totalRLC-AM-BufferSize */
+   stat = pd_ConsUnsigned(ctx, &pvalue->totalRLC_AM_BufferSize, 0, 9);
+   RT_CHECK(ctx, stat, "TotalRLC-AM-BufferSize-r5", "totalRLC-AM-BufferSize", -1, "RLC-Capability-r5");
+   /* maximumRLC-WindowSize */
+   stat = pd_ConsUnsigned(ctx, &pvalue->maximumRLC_WindowSize, 0, 1);
+   RT_CHECK(ctx, stat, "MaximumRLC-WindowSize", "maximumRLC-WindowSize", -1, "RLC-Capability-r5");
+   /* maximumAM-EntityNumber */
+   stat = pd_ConsUnsigned(ctx, &pvalue->maximumAM_EntityNumber, 0, 6);
+   RT_CHECK(ctx, stat, "MaximumAM-EntityNumberRLC-Cap", "maximumAM-EntityNumber", -1, "RLC-Capability-r5");
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityFDD_r5_fdd_hspdsch_supported(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_r5_fdd_hspdsch_supported* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* hsdsch-physical-layer-category */
+   stat = pd_ConsUInt8(ctx, &pvalue->hsdsch_physical_layer_category, 1, 64);
+   RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category", "hsdsch-physical-layer-category", -1, 0);
+   /* dummy */
+   stat = rtxDecBitInline(ctx, &pvalue->dummy);
+   RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   /* dummy2 */
+   stat = rtxDecBitInline(ctx, &pvalue->dummy2);
+   RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityFDD_r5_fdd_hspdsch(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_r5_fdd_hspdsch* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* supported */
+         pvalue->u.supported = (DL_PhysChCapabilityFDD_r5_fdd_hspdsch_supported*)rtxMemHeapAllocZ(ctx, sizeof(DL_PhysChCapabilityFDD_r5_fdd_hspdsch_supported));
+         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "supported", -1, 0);
+         stat = asn1PD_UMTS_DL_PhysChCapabilityFDD_r5_fdd_hspdsch_supported(ctx, pvalue->u.supported);
+         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
+         break;
+      case 1: /* unsupported */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityFDD_r5(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-PhysChCapabilityFDD-r5");
+   /* maxNoDPCH-PDSCH-Codes */
+   stat = pd_ConsUInt8(ctx, &pvalue->maxNoDPCH_PDSCH_Codes, 1, 8);
+   RT_CHECK(ctx, stat, 0, "maxNoDPCH-PDSCH-Codes", -1, "DL-PhysChCapabilityFDD-r5");
+   /* maxNoPhysChBitsReceived */
+   stat = pd_ConsUnsigned(ctx, &pvalue->maxNoPhysChBitsReceived, 0, 14);
+   RT_CHECK(ctx, stat, "MaxNoPhysChBitsReceived", "maxNoPhysChBitsReceived", -1, "DL-PhysChCapabilityFDD-r5");
+   /* supportForSF-512 */
+   stat = rtxDecBitInline(ctx, &pvalue->supportForSF_512);
+   RT_CHECK(ctx, stat, 0, "supportForSF-512", -1, "DL-PhysChCapabilityFDD-r5");
+   /* dummy */
+   stat = rtxDecBitInline(ctx, &pvalue->dummy);
+   RT_CHECK(ctx, stat, 0, "dummy", -1, "DL-PhysChCapabilityFDD-r5");
+   /* dummy2 */
+   stat = asn1PD_UMTS_SimultaneousSCCPCH_DPCH_Reception(ctx, &pvalue->dummy2);
+   RT_CHECK(ctx, stat, 0, "dummy2", -1, "DL-PhysChCapabilityFDD-r5");
+   /* dummy3 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, "SupportOfDedicatedPilotsForChEstimation", "dummy3", -1, "DL-PhysChCapabilityFDD-r5");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, "SupportOfDedicatedPilotsForChEstimation", "dummy3", -1, "DL-PhysChCapabilityFDD-r5");
+         pvalue->dummy3 = ui;
+      }
+   }
+   /* fdd-hspdsch */
+   stat = asn1PD_UMTS_DL_PhysChCapabilityFDD_r5_fdd_hspdsch(ctx, &pvalue->fdd_hspdsch);
+   RT_CHECK(ctx, stat, 0, "fdd-hspdsch", -1, "DL-PhysChCapabilityFDD-r5");
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_r5_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_r5_fddPhysChCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* downlinkPhysChCapability */
+   stat = asn1PD_UMTS_DL_PhysChCapabilityFDD_r5(ctx, &pvalue->downlinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = asn1PD_UMTS_UL_PhysChCapabilityFDD(ctx, &pvalue->uplinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityTDD_r5_tdd384_hspdsch(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_r5_tdd384_hspdsch* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* supported */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.supported, 1, 64);
+         RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category", "supported", -1, 0);
+         break;
+      case 1: /* unsupported */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityTDD_r5(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* maxTS-PerFrame */
+   stat = pd_ConsUInt8(ctx, &pvalue->maxTS_PerFrame, 1, 14);
+   RT_CHECK(ctx, stat, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "DL-PhysChCapabilityTDD-r5");
+   /* maxPhysChPerFrame */
+   stat = pd_ConsUInt8(ctx, &pvalue->maxPhysChPerFrame, 1, 224);
+   RT_CHECK(ctx, stat, "MaxPhysChPerFrame", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityTDD-r5");
+   /* minimumSF */
+   stat = pd_ConsUnsigned(ctx, &pvalue->minimumSF, 0, 1);
+   RT_CHECK(ctx, stat, "MinimumSF-DL", "minimumSF", -1, "DL-PhysChCapabilityTDD-r5");
+   /* supportOfPDSCH */
+   stat = rtxDecBitInline(ctx, &pvalue->supportOfPDSCH);
+   RT_CHECK(ctx, stat, 0, "supportOfPDSCH", -1, "DL-PhysChCapabilityTDD-r5");
+   /* maxPhysChPerTS */
+   stat = pd_ConsUInt8(ctx, &pvalue->maxPhysChPerTS, 1, 16);
+   RT_CHECK(ctx, stat, "MaxPhysChPerTS", "maxPhysChPerTS", -1, "DL-PhysChCapabilityTDD-r5");
+   /* tdd384-hspdsch */
+   stat = asn1PD_UMTS_DL_PhysChCapabilityTDD_r5_tdd384_hspdsch(ctx, &pvalue->tdd384_hspdsch);
+   RT_CHECK(ctx, stat, 0, "tdd384-hspdsch", -1, "DL-PhysChCapabilityTDD-r5");
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_r5_tdd384_PhysChCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_r5_tdd384_PhysChCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* downlinkPhysChCapability */
+   stat = asn1PD_UMTS_DL_PhysChCapabilityTDD_r5(ctx, &pvalue->downlinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = asn1PD_UMTS_UL_PhysChCapabilityTDD(ctx, &pvalue->uplinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityTDD_LCR_r5_tdd128_hspdsch(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_LCR_r5_tdd128_hspdsch* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* supported */
+         stat = pd_ConsUInt8(ctx, &pvalue->u.supported, 1, 64);
+         RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category", "supported", -1, 0);
+         break;
+      case 1: /* unsupported */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_PhysChCapabilityTDD_LCR_r5(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_LCR_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* maxTS-PerSubFrame */
+   stat = pd_ConsUInt8(ctx, &pvalue->maxTS_PerSubFrame, 1, 6);
+   RT_CHECK(ctx, stat, "MaxTS-PerSubFrame-r4", "maxTS-PerSubFrame", -1, "DL-PhysChCapabilityTDD-LCR-r5");
+   /* maxPhysChPerFrame */
+   stat = pd_ConsUInt8(ctx, &pvalue->maxPhysChPerFrame, 1, 96);
+   RT_CHECK(ctx, stat, "MaxPhysChPerSubFrame-r4", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityTDD-LCR-r5");
+   /* minimumSF */
+   stat = pd_ConsUnsigned(ctx, &pvalue->minimumSF, 0, 1);
+   RT_CHECK(ctx, stat, "MinimumSF-DL", "minimumSF", -1, "DL-PhysChCapabilityTDD-LCR-r5");
+   /* supportOfPDSCH */
+   stat = rtxDecBitInline(ctx, &pvalue->supportOfPDSCH);
+   RT_CHECK(ctx, stat, 0, "supportOfPDSCH", -1, "DL-PhysChCapabilityTDD-LCR-r5");
+   /* maxPhysChPerTS */
+   stat = pd_ConsUInt8(ctx, &pvalue->maxPhysChPerTS, 1, 16);
+   RT_CHECK(ctx, stat, "MaxPhysChPerTS", "maxPhysChPerTS", -1, "DL-PhysChCapabilityTDD-LCR-r5");
+   /* supportOf8PSK */
+   stat = rtxDecBitInline(ctx, &pvalue->supportOf8PSK);
+   RT_CHECK(ctx, stat, 0, "supportOf8PSK", -1, "DL-PhysChCapabilityTDD-LCR-r5");
+   /* tdd128-hspdsch */
+   stat = asn1PD_UMTS_DL_PhysChCapabilityTDD_LCR_r5_tdd128_hspdsch(ctx, &pvalue->tdd128_hspdsch);
+   RT_CHECK(ctx, stat, 0, "tdd128-hspdsch", -1, "DL-PhysChCapabilityTDD-LCR-r5");
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_r5_tdd128_PhysChCapability(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_r5_tdd128_PhysChCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* downlinkPhysChCapability */
+   stat = asn1PD_UMTS_DL_PhysChCapabilityTDD_LCR_r5(ctx, &pvalue->downlinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = asn1PD_UMTS_UL_PhysChCapabilityTDD_LCR_r4(ctx, &pvalue->uplinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PhysicalChannelCapability_r5(rtxContext* RT_RESTRICT ctx, PhysicalChannelCapability_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelCapability-r5");
+   /* fddPhysChCapability */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_PhysicalChannelCapability_r5_fddPhysChCapability(ctx, &pvalue->fddPhysChCapability);
+      RT_CHECK(ctx, stat, 0, "fddPhysChCapability", -1, "PhysicalChannelCapability-r5");
+   }
+   /* tdd384-PhysChCapability */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_PhysicalChannelCapability_r5_tdd384_PhysChCapability(ctx, &pvalue->tdd384_PhysChCapability);
+      RT_CHECK(ctx, stat, 0, "tdd384-PhysChCapability", -1, "PhysicalChannelCapability-r5");
+   }
+   /* tdd128-PhysChCapability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_PhysicalChannelCapability_r5_tdd128_PhysChCapability(ctx, &pvalue->tdd128_PhysChCapability);
+      RT_CHECK(ctx, stat, 0, "tdd128-PhysChCapability", -1, "PhysicalChannelCapability-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_UE_MultiModeRAT_Capability_r5(rtxContext* RT_RESTRICT ctx, UE_MultiModeRAT_Capability_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* multiRAT-CapabilityList */
+   stat = asn1PD_UMTS_MultiRAT_Capability(ctx, &pvalue->multiRAT_CapabilityList);
+   RT_CHECK(ctx, stat, 0, "multiRAT-CapabilityList", -1, "UE-MultiModeRAT-Capability-r5");
+   /* multiModeCapability */
+   stat = pd_ConsUnsigned(ctx, &pvalue->multiModeCapability, 0, 2);
+   RT_CHECK(ctx, stat, "MultiModeCapability", "multiModeCapability", -1, "UE-MultiModeRAT-Capability-r5");
+   /* supportOfUTRAN-ToGERAN-NACC */
+   stat = rtxDecBitInline(ctx, &pvalue->supportOfUTRAN_ToGERAN_NACC);
+   RT_CHECK(ctx, stat, 0, "supportOfUTRAN-ToGERAN-NACC", -1, "UE-MultiModeRAT-Capability-r5");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_r5(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-r5");
+   /* accessStratumReleaseIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->accessStratumReleaseIndicator, 0, 15);
+   RT_CHECK(ctx, stat, "AccessStratumReleaseIndicator", "accessStratumReleaseIndicator", -1, "UE-RadioAccessCapability-r5");
+   /* dl-CapabilityWithSimultaneousHS-DSCHConfig */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig, 0, 3);
+      RT_CHECK(ctx, stat, "DL-CapabilityWithSimultaneousHS-DSCHConfig", "dl-CapabilityWithSimultaneousHS-DSCHConfig", -1, "UE-RadioAccessCapability-r5");
+   }
+   /* pdcp-Capability */
+   stat = asn1PD_UMTS_PDCP_Capability_r5(ctx, &pvalue->pdcp_Capability);
+   RT_CHECK(ctx, stat, 0, "pdcp-Capability", -1, "UE-RadioAccessCapability-r5");
+   /* rlc-Capability */
+   stat = asn1PD_UMTS_RLC_Capability_r5(ctx, &pvalue->rlc_Capability);
+   RT_CHECK(ctx, stat, 0, "rlc-Capability", -1, "UE-RadioAccessCapability-r5");
+   /* transportChannelCapability */
+   stat = asn1PD_UMTS_TransportChannelCapability(ctx, &pvalue->transportChannelCapability);
+   RT_CHECK(ctx, stat, 0, "transportChannelCapability", -1, "UE-RadioAccessCapability-r5");
+   /* rf-Capability */
+   stat = asn1PD_UMTS_RF_Capability_r4(ctx, &pvalue->rf_Capability);
+   RT_CHECK(ctx, stat, 0, "rf-Capability", -1, "UE-RadioAccessCapability-r5");
+   /* physicalChannelCapability */
+   stat = asn1PD_UMTS_PhysicalChannelCapability_r5(ctx, &pvalue->physicalChannelCapability);
+   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapability-r5");
+   /* ue-MultiModeRAT-Capability */
+   stat = asn1PD_UMTS_UE_MultiModeRAT_Capability_r5(ctx, &pvalue->ue_MultiModeRAT_Capability);
+   RT_CHECK(ctx, stat, 0, "ue-MultiModeRAT-Capability", -1, "UE-RadioAccessCapability-r5");
+   /* securityCapability */
+   stat = asn1PD_UMTS_SecurityCapability(ctx, &pvalue->securityCapability);
+   RT_CHECK(ctx, stat, 0, "securityCapability", -1, "UE-RadioAccessCapability-r5");
+   /* ue-positioning-Capability */
+   stat = asn1PD_UMTS_UE_Positioning_Capability_r4(ctx, &pvalue->ue_positioning_Capability);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-Capability", -1, "UE-RadioAccessCapability-r5");
+   /* measurementCapability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_MeasurementCapability_r4(ctx, &pvalue->measurementCapability);
+      RT_CHECK(ctx, stat, 0, "measurementCapability", -1, "UE-RadioAccessCapability-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_InterRAT_UE_RadioAccessCapabilityList_r5(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapabilityList_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRAT-UE-RadioAccessCapabilityList-r5");
+   /* interRAT-UE-RadioAccessCapability */
+   stat = asn1PD_UMTS_InterRAT_UE_RadioAccessCapabilityList(ctx, &pvalue->interRAT_UE_RadioAccessCapability);
+   RT_CHECK(ctx, stat, 0, "interRAT-UE-RadioAccessCapability", -1, "InterRAT-UE-RadioAccessCapabilityList-r5");
+   /* geranIu-RadioAccessCapability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_GERANIu_RadioAccessCapability(ctx, &pvalue->geranIu_RadioAccessCapability);
+      RT_CHECK(ctx, stat, 0, "geranIu-RadioAccessCapability", -1, "InterRAT-UE-RadioAccessCapabilityList-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_OngoingMeasRep_r5_measurementCommand_v590ext(rtxContext* RT_RESTRICT ctx, OngoingMeasRep_r5_measurementCommand_v590ext* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* intra-frequency */
+         pvalue->u.intra_frequency = (Intra_FreqEventCriteriaList_v590ext*)rtxMemHeapAlloc(ctx, sizeof(Intra_FreqEventCriteriaList_v590ext));
+         if (pvalue->u.intra_frequency == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "intra-frequency", -1, 0);
+         asn1Init_UMTS_Intra_FreqEventCriteriaList_v590ext(pvalue->u.intra_frequency);
+         stat = asn1PD_UMTS_Intra_FreqEventCriteriaList_v590ext(ctx, pvalue->u.intra_frequency);
+         RT_CHECK(ctx, stat, 0, "intra-frequency", -1, 0);
+         break;
+      case 1: /* inter-frequency */
+         pvalue->u.inter_frequency = (Inter_FreqEventCriteriaList_v590ext*)rtxMemHeapAlloc(ctx, sizeof(Inter_FreqEventCriteriaList_v590ext));
+         if (pvalue->u.inter_frequency == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "inter-frequency", -1, 0);
+         asn1Init_UMTS_Inter_FreqEventCriteriaList_v590ext(pvalue->u.inter_frequency);
+         stat = asn1PD_UMTS_Inter_FreqEventCriteriaList_v590ext(ctx, pvalue->u.inter_frequency);
+         RT_CHECK(ctx, stat, 0, "inter-frequency", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_OngoingMeasRep_r5(rtxContext* RT_RESTRICT ctx, OngoingMeasRep_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "OngoingMeasRep-r5");
+   /* measurementIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->measurementIdentity, 1, 16);
+   RT_CHECK(ctx, stat, "MeasurementIdentity", "measurementIdentity", -1, "OngoingMeasRep-r5");
+   /* measurementCommandWithType */
+   stat = asn1PD_UMTS_MeasurementCommandWithType_r4(ctx, &pvalue->measurementCommandWithType);
+   RT_CHECK(ctx, stat, 0, "measurementCommandWithType", -1, "OngoingMeasRep-r5");
+   /* measurementReportingMode */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
+      RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "OngoingMeasRep-r5");
+   }
+   /* additionalMeasurementID-List */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementID_List);
+      RT_CHECK(ctx, stat, 0, "additionalMeasurementID-List", -1, "OngoingMeasRep-r5");
+   }
+   /* measurementCommand-v590ext */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_OngoingMeasRep_r5_measurementCommand_v590ext(ctx, &pvalue->measurementCommand_v590ext);
+      RT_CHECK(ctx, stat, 0, "measurementCommand-v590ext", -1, "OngoingMeasRep-r5");
+   }
+   /* intraFreqReportingCriteria-1b-r5 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_IntraFreqReportingCriteria_1b_r5(ctx, &pvalue->intraFreqReportingCriteria_1b_r5);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria-1b-r5", -1, "OngoingMeasRep-r5");
+   }
+   /* intraFreqEvent-1d-r5 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_IntraFreqEvent_1d_r5(ctx, &pvalue->intraFreqEvent_1d_r5);
+      RT_CHECK(ctx, stat, 0, "intraFreqEvent-1d-r5", -1, "OngoingMeasRep-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_OngoingMeasRepList_r5(rtxContext* RT_RESTRICT ctx, OngoingMeasRepList_r5* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "OngoingMeasRepList-r5");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      OngoingMeasRep_r5* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(OngoingMeasRep_r5));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "OngoingMeasRep-r5", (int32_t)i, "OngoingMeasRepList-r5");
+      elem = (OngoingMeasRep_r5*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_OngoingMeasRep_r5(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_OngoingMeasRep_r5(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "OngoingMeasRep-r5", (int32_t)i, "OngoingMeasRepList-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r5_IEs_dummy_fdd(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r5_IEs_dummy_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy1 */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->dummy1, 1, 16);
+      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy1", -1, 0);
+   }
+   /* dummy2 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r5_IEs_dummy(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r5_IEs_dummy* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* fdd */
+         pvalue->u.fdd = (SRNC_RelocationInfo_r5_IEs_dummy_fdd*)rtxMemHeapAlloc(ctx, sizeof(SRNC_RelocationInfo_r5_IEs_dummy_fdd));
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "fdd", -1, 0);
+         asn1Init_UMTS_SRNC_RelocationInfo_r5_IEs_dummy_fdd(pvalue->u.fdd);
+         stat = asn1PD_UMTS_SRNC_RelocationInfo_r5_IEs_dummy_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 1: /* tdd */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r5_IEs(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r5_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 24);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-r5-IEs");
+   /* rb-IdentityForHOMessage */
+   if (present & ((uint32_t)1 << 23)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->rb_IdentityForHOMessage, 1, 32);
+      RT_CHECK(ctx, stat, "RB-Identity", "rb-IdentityForHOMessage", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* stateOfRRC */
+   stat = pd_ConsUnsigned(ctx, &pvalue->stateOfRRC, 0, 3);
+   RT_CHECK(ctx, stat, "StateOfRRC", "stateOfRRC", -1, "SRNC-RelocationInfo-r5-IEs");
+   /* stateOfRRC-Procedure */
+   stat = pd_ConsUnsigned(ctx, &pvalue->stateOfRRC_Procedure, 0, 11);
+   RT_CHECK(ctx, stat, "StateOfRRC-Procedure", "stateOfRRC-Procedure", -1, "SRNC-RelocationInfo-r5-IEs");
+   /* cipheringStatusList */
+   stat = asn1PD_UMTS_CipheringStatusList_r4(ctx, &pvalue->cipheringStatusList);
+   RT_CHECK(ctx, stat, 0, "cipheringStatusList", -1, "SRNC-RelocationInfo-r5-IEs");
+   /* latestConfiguredCN-Domain */
+   stat = pd_ConsUnsigned(ctx, &pvalue->latestConfiguredCN_Domain, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "latestConfiguredCN-Domain", -1, "SRNC-RelocationInfo-r5-IEs");
+   /* calculationTimeForCiphering */
+   if (present & ((uint32_t)1 << 22)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CalculationTimeForCiphering(ctx, &pvalue->calculationTimeForCiphering);
+      RT_CHECK(ctx, stat, 0, "calculationTimeForCiphering", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* count-C-List */
+   if (present & ((uint32_t)1 << 21)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_COUNT_C_List(ctx, &pvalue->count_C_List);
+      RT_CHECK(ctx, stat, 0, "count-C-List", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* cipheringInfoPerRB-List */
+   if (present & ((uint32_t)1 << 20)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_CipheringInfoPerRB_List_r4(ctx, &pvalue->cipheringInfoPerRB_List);
+      RT_CHECK(ctx, stat, 0, "cipheringInfoPerRB-List", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* integrityProtectionStatus */
+   stat = pd_ConsUnsigned(ctx, &pvalue->integrityProtectionStatus, 0, 1);
+   RT_CHECK(ctx, stat, "IntegrityProtectionStatus", "integrityProtectionStatus", -1, "SRNC-RelocationInfo-r5-IEs");
+   /* srb-SpecificIntegrityProtInfo */
+   if (present & ((uint32_t)1 << 19)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_SRB_SpecificIntegrityProtInfoList(ctx, &pvalue->srb_SpecificIntegrityProtInfo);
+      RT_CHECK(ctx, stat, 0, "srb-SpecificIntegrityProtInfo", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* implementationSpecificParams */
+   if (present & ((uint32_t)1 << 18)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_ImplementationSpecificParams(ctx, &pvalue->implementationSpecificParams);
+      RT_CHECK(ctx, stat, 0, "implementationSpecificParams", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* u-RNTI */
+   stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, "SRNC-RelocationInfo-r5-IEs");
+   /* c-RNTI */
+   if (present & ((uint32_t)1 << 17)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->c_RNTI);
+      RT_CHECK(ctx, stat, 0, "c-RNTI", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* ue-RadioAccessCapability */
+   stat = asn1PD_UMTS_UE_RadioAccessCapability_r5(ctx, &pvalue->ue_RadioAccessCapability);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "SRNC-RelocationInfo-r5-IEs");
+   /* ue-RadioAccessCapability-ext */
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDDList(ctx, &pvalue->ue_RadioAccessCapability_ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-ext", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* ue-Positioning-LastKnownPos */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_UE_Positioning_LastKnownPos(ctx, &pvalue->ue_Positioning_LastKnownPos);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-LastKnownPos", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* uESpecificBehaviourInformation1idle */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_UESpecificBehaviourInformation1idle(ctx, &pvalue->uESpecificBehaviourInformation1idle);
+      RT_CHECK(ctx, stat, 0, "uESpecificBehaviourInformation1idle", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* uESpecificBehaviourInformation1interRAT */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_UESpecificBehaviourInformation1interRAT(ctx, &pvalue->uESpecificBehaviourInformation1interRAT);
+      RT_CHECK(ctx, stat, 0, "uESpecificBehaviourInformation1interRAT", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* ue-RATSpecificCapability */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x800u;
+      stat = asn1PD_UMTS_InterRAT_UE_RadioAccessCapabilityList_r5(ctx, &pvalue->ue_RATSpecificCapability);
+      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x1000u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* cn-CommonGSM-MAP-NAS-SysInfo */
+   stat = asn1PD_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo);
+   RT_CHECK(ctx, stat, 0, "cn-CommonGSM-MAP-NAS-SysInfo", -1, "SRNC-RelocationInfo-r5-IEs");
+   /* cn-DomainInformationList */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x2000u;
+      stat = asn1PD_UMTS_CN_DomainInformationListFull(ctx, &pvalue->cn_DomainInformationList);
+      RT_CHECK(ctx, stat, 0, "cn-DomainInformationList", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* ongoingMeasRepList */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_OngoingMeasRepList_r5(ctx, &pvalue->ongoingMeasRepList);
+      RT_CHECK(ctx, stat, 0, "ongoingMeasRepList", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* predefinedConfigStatusList */
+   stat = asn1PD_UMTS_PredefinedConfigStatusList(ctx, &pvalue->predefinedConfigStatusList);
+   RT_CHECK(ctx, stat, 0, "predefinedConfigStatusList", -1, "SRNC-RelocationInfo-r5-IEs");
+   /* srb-InformationList */
+   stat = asn1PD_UMTS_SRB_InformationSetupList_r5(ctx, &pvalue->srb_InformationList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationList", -1, "SRNC-RelocationInfo-r5-IEs");
+   /* rab-InformationList */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x8000u;
+      stat = asn1PD_UMTS_RAB_InformationSetupList_r5(ctx, &pvalue->rab_InformationList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationList", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* ul-TransChInfoList */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_TransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-TransChInfoList", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* dummy */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x40000u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r5_IEs_dummy(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* dl-TransChInfoList */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x100000u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_TransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-TransChInfoList", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* tpc-CombinationInfoList */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x200000u;
+      stat = asn1PD_UMTS_TPC_CombinationInfoList(ctx, &pvalue->tpc_CombinationInfoList);
+      RT_CHECK(ctx, stat, 0, "tpc-CombinationInfoList", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* measurementReport */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x400000u;
+      stat = asn1PD_UMTS_MeasurementReport(ctx, &pvalue->measurementReport);
+      RT_CHECK(ctx, stat, 0, "measurementReport", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* failureCause */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x800000u;
+      stat = asn1PD_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
+      RT_CHECK(ctx, stat, 0, "failureCause", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v7f0ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v7f0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v7f0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v7e0ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v7e0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v7e0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v7e0ext", -1, 0);
+   /* v7f0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v770ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v770ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v770ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v770ext", -1, 0);
+   /* v7e0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions(ctx, &pvalue->v7e0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7e0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v6b0ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v6b0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v6b0ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v690ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v690ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v690ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v690ext", -1, 0);
+   /* v6b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v5c0ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v5c0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v5c0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v5c0ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v5b0ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v5b0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v5b0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v5b0ext", -1, 0);
+   /* v5c0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions(ctx, &pvalue->v5c0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v5c0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v5a0ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v5a0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v5a0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v5a0ext", -1, 0);
+   /* v5b0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions(ctx, &pvalue->v5b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v5b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-r5 */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_r5_IEs(ctx, &pvalue->sRNC_RelocationInfo_r5);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-r5", -1, 0);
+   /* sRNC-RelocationInfo-r5-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->sRNC_RelocationInfo_r5_add_ext);
+      RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-r5-add-ext", -1, 0);
+   }
+   /* v5a0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions(ctx, &pvalue->v5a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v5a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_Capability_r6_losslessDLRLC_PDUSizeChange(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r6_losslessDLRLC_PDUSizeChange* RT_RESTRICT pvalue)
+{
+   int stat;
+   {
+      uint32_t ui;
+      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      stat = ui != 0 ? RT_ERR_INVENUM : 0;
+      RT_CHECK(ctx, stat, 0, 0, -1, 0);
+      *pvalue = ui;
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_Capability_r6_supportForRfc2507(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r6_supportForRfc2507* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* notSupported */
+         break;
+      case 1: /* supported */
+         stat = pd_ConsUnsigned(ctx, &pvalue->u.supported, 0, 8);
+         RT_CHECK(ctx, stat, "MaxHcContextSpace-r5", "supported", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_Capability_r6_supportForRfc3095_supported(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r6_supportForRfc3095_supported* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* maxROHC-ContextSessions */
+   if (present & ((uint32_t)1 << 1)) {
+      stat = pd_ConsUnsigned(ctx, &pvalue->maxROHC_ContextSessions, 0, 13);
+      RT_CHECK(ctx, stat, "MaxROHC-ContextSessions-r4", "maxROHC-ContextSessions", -1, 0);
+   }
+   else {
+      pvalue->maxROHC_ContextSessions = 4;
+   }
+   /* reverseCompressionDepth */
+   if (present & ((uint32_t)1 << 0)) {
+      stat = pd_ConsUInt16(ctx, &pvalue->reverseCompressionDepth, 0, 65535);
+      RT_CHECK(ctx, stat, 0, "reverseCompressionDepth", -1, 0);
+   }
+   else {
+      pvalue->reverseCompressionDepth = 0;
+   }
+   /* supportForRfc3095ContextRelocation */
+   stat = rtxDecBitInline(ctx, &pvalue->supportForRfc3095ContextRelocation);
+   RT_CHECK(ctx, stat, 0, "supportForRfc3095ContextRelocation", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_Capability_r6_supportForRfc3095(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r6_supportForRfc3095* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* notSupported */
+         break;
+      case 1: /* supported */
+         pvalue->u.supported = (PDCP_Capability_r6_supportForRfc3095_supported*)rtxMemHeapAlloc(ctx, sizeof(PDCP_Capability_r6_supportForRfc3095_supported));
+         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "supported", -1, 0);
+         asn1Init_UMTS_PDCP_Capability_r6_supportForRfc3095_supported(pvalue->u.supported);
+         stat = asn1PD_UMTS_PDCP_Capability_r6_supportForRfc3095_supported(ctx, pvalue->u.supported);
+         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_PDCP_Capability_r6(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PDCP-Capability-r6");
+   /* losslessSRNS-RelocationSupport */
+   stat = rtxDecBitInline(ctx, &pvalue->losslessSRNS_RelocationSupport);
+   RT_CHECK(ctx, stat, 0, "losslessSRNS-RelocationSupport", -1, "PDCP-Capability-r6");
+   /* losslessDLRLC-PDUSizeChange */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      {
+         uint32_t ui;
+         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
+         RT_CHECK(ctx, stat, 0, "losslessDLRLC-PDUSizeChange", -1, "PDCP-Capability-r6");
+         stat = ui != 0 ? RT_ERR_INVENUM : 0;
+         RT_CHECK(ctx, stat, 0, "losslessDLRLC-PDUSizeChange", -1, "PDCP-Capability-r6");
+         pvalue->losslessDLRLC_PDUSizeChange = ui;
+      }
+   }
+   /* supportForRfc2507 */
+   stat = asn1PD_UMTS_PDCP_Capability_r6_supportForRfc2507(ctx, &pvalue->supportForRfc2507);
+   RT_CHECK(ctx, stat, 0, "supportForRfc2507", -1, "PDCP-Capability-r6");
+   /* supportForRfc3095 */
+   stat = asn1PD_UMTS_PDCP_Capability_r6_supportForRfc3095(ctx, &pvalue->supportForRfc3095);
+   RT_CHECK(ctx, stat, 0, "supportForRfc3095", -1, "PDCP-Capability-r6");
+   return 0;
+}
+
+int asn1PD_UMTS_UE_RadioAccessCapability_r6(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-r6");
+   /* accessStratumReleaseIndicator */
+   stat = pd_ConsUnsigned(ctx, &pvalue->accessStratumReleaseIndicator, 0, 15);
+   RT_CHECK(ctx, stat, "AccessStratumReleaseIndicator", "accessStratumReleaseIndicator", -1, "UE-RadioAccessCapability-r6");
+   /* dl-CapabilityWithSimultaneousHS-DSCHConfig */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUnsigned(ctx, &pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig, 0, 3);
+      RT_CHECK(ctx, stat, "DL-CapabilityWithSimultaneousHS-DSCHConfig", "dl-CapabilityWithSimultaneousHS-DSCHConfig", -1, "UE-RadioAccessCapability-r6");
+   }
+   /* pdcp-Capability */
+   stat = asn1PD_UMTS_PDCP_Capability_r6(ctx, &pvalue->pdcp_Capability);
+   RT_CHECK(ctx, stat, 0, "pdcp-Capability", -1, "UE-RadioAccessCapability-r6");
+   /* rlc-Capability */
+   stat = asn1PD_UMTS_RLC_Capability_r5(ctx, &pvalue->rlc_Capability);
+   RT_CHECK(ctx, stat, 0, "rlc-Capability", -1, "UE-RadioAccessCapability-r6");
+   /* transportChannelCapability */
+   stat = asn1PD_UMTS_TransportChannelCapability(ctx, &pvalue->transportChannelCapability);
+   RT_CHECK(ctx, stat, 0, "transportChannelCapability", -1, "UE-RadioAccessCapability-r6");
+   /* rf-Capability */
+   stat = asn1PD_UMTS_RF_Capability_r4(ctx, &pvalue->rf_Capability);
+   RT_CHECK(ctx, stat, 0, "rf-Capability", -1, "UE-RadioAccessCapability-r6");
+   /* physicalChannelCapability */
+   stat = asn1PD_UMTS_PhysicalChannelCapability_r5(ctx, &pvalue->physicalChannelCapability);
+   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapability-r6");
+   /* ue-MultiModeRAT-Capability */
+   stat = asn1PD_UMTS_UE_MultiModeRAT_Capability_r5(ctx, &pvalue->ue_MultiModeRAT_Capability);
+   RT_CHECK(ctx, stat, 0, "ue-MultiModeRAT-Capability", -1, "UE-RadioAccessCapability-r6");
+   /* securityCapability */
+   stat = asn1PD_UMTS_SecurityCapability(ctx, &pvalue->securityCapability);
+   RT_CHECK(ctx, stat, 0, "securityCapability", -1, "UE-RadioAccessCapability-r6");
+   /* ue-positioning-Capability */
+   stat = asn1PD_UMTS_UE_Positioning_Capability_r4(ctx, &pvalue->ue_positioning_Capability);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-Capability", -1, "UE-RadioAccessCapability-r6");
+   /* measurementCapability */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_MeasurementCapability_r4(ctx, &pvalue->measurementCapability);
+      RT_CHECK(ctx, stat, 0, "measurementCapability", -1, "UE-RadioAccessCapability-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementCommandWithType_r6(rtxContext* RT_RESTRICT ctx, MeasurementCommandWithType_r6* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementCommandWithType-r6");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* setup */
+         pvalue->u.setup = (MeasurementType_r6*)rtxMemHeapAlloc(ctx, sizeof(MeasurementType_r6));
+         if (pvalue->u.setup == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "setup", -1, "MeasurementCommandWithType-r6");
+         asn1Init_UMTS_MeasurementType_r6(pvalue->u.setup);
+         stat = asn1PD_UMTS_MeasurementType_r6(ctx, pvalue->u.setup);
+         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommandWithType-r6");
+         break;
+      case 1: /* modify */
+         break;
+      case 2: /* release */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommandWithType-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_OngoingMeasRep_r6(rtxContext* RT_RESTRICT ctx, OngoingMeasRep_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "OngoingMeasRep-r6");
+   /* measurementIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->measurementIdentity, 1, 16);
+   RT_CHECK(ctx, stat, "MeasurementIdentity", "measurementIdentity", -1, "OngoingMeasRep-r6");
+   /* measurementCommandWithType */
+   stat = asn1PD_UMTS_MeasurementCommandWithType_r6(ctx, &pvalue->measurementCommandWithType);
+   RT_CHECK(ctx, stat, 0, "measurementCommandWithType", -1, "OngoingMeasRep-r6");
+   /* measurementReportingMode */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
+      RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "OngoingMeasRep-r6");
+   }
+   /* additionalMeasurementID-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementID_List);
+      RT_CHECK(ctx, stat, 0, "additionalMeasurementID-List", -1, "OngoingMeasRep-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_OngoingMeasRepList_r6(rtxContext* RT_RESTRICT ctx, OngoingMeasRepList_r6* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "OngoingMeasRepList-r6");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      OngoingMeasRep_r6* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(OngoingMeasRep_r6));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "OngoingMeasRep-r6", (int32_t)i, "OngoingMeasRepList-r6");
+      elem = (OngoingMeasRep_r6*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_OngoingMeasRep_r6(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_OngoingMeasRep_r6(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "OngoingMeasRep-r6", (int32_t)i, "OngoingMeasRepList-r6");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r6_IEs(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r6_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 29);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-r6-IEs");
+   /* rb-IdentityForHOMessage */
+   if (present & ((uint32_t)1 << 28)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt8(ctx, &pvalue->rb_IdentityForHOMessage, 1, 32);
+      RT_CHECK(ctx, stat, "RB-Identity", "rb-IdentityForHOMessage", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* stateOfRRC */
+   stat = pd_ConsUnsigned(ctx, &pvalue->stateOfRRC, 0, 3);
+   RT_CHECK(ctx, stat, "StateOfRRC", "stateOfRRC", -1, "SRNC-RelocationInfo-r6-IEs");
+   /* stateOfRRC-Procedure */
+   stat = pd_ConsUnsigned(ctx, &pvalue->stateOfRRC_Procedure, 0, 11);
+   RT_CHECK(ctx, stat, "StateOfRRC-Procedure", "stateOfRRC-Procedure", -1, "SRNC-RelocationInfo-r6-IEs");
+   /* cipheringStatusList */
+   stat = asn1PD_UMTS_CipheringStatusList_r4(ctx, &pvalue->cipheringStatusList);
+   RT_CHECK(ctx, stat, 0, "cipheringStatusList", -1, "SRNC-RelocationInfo-r6-IEs");
+   /* latestConfiguredCN-Domain */
+   stat = pd_ConsUnsigned(ctx, &pvalue->latestConfiguredCN_Domain, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "latestConfiguredCN-Domain", -1, "SRNC-RelocationInfo-r6-IEs");
+   /* calculationTimeForCiphering */
+   if (present & ((uint32_t)1 << 27)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_CalculationTimeForCiphering(ctx, &pvalue->calculationTimeForCiphering);
+      RT_CHECK(ctx, stat, 0, "calculationTimeForCiphering", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* count-C-List */
+   if (present & ((uint32_t)1 << 26)) {
+      pvalue->m |= 0x4u;
+      stat = asn1PD_UMTS_COUNT_C_List(ctx, &pvalue->count_C_List);
+      RT_CHECK(ctx, stat, 0, "count-C-List", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* cipheringInfoPerRB-List */
+   if (present & ((uint32_t)1 << 25)) {
+      pvalue->m |= 0x8u;
+      stat = asn1PD_UMTS_CipheringInfoPerRB_List_r4(ctx, &pvalue->cipheringInfoPerRB_List);
+      RT_CHECK(ctx, stat, 0, "cipheringInfoPerRB-List", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* integrityProtectionStatus */
+   stat = pd_ConsUnsigned(ctx, &pvalue->integrityProtectionStatus, 0, 1);
+   RT_CHECK(ctx, stat, "IntegrityProtectionStatus", "integrityProtectionStatus", -1, "SRNC-RelocationInfo-r6-IEs");
+   /* srb-SpecificIntegrityProtInfo */
+   if (present & ((uint32_t)1 << 24)) {
+      pvalue->m |= 0x10u;
+      stat = asn1PD_UMTS_SRB_SpecificIntegrityProtInfoList(ctx, &pvalue->srb_SpecificIntegrityProtInfo);
+      RT_CHECK(ctx, stat, 0, "srb-SpecificIntegrityProtInfo", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* implementationSpecificParams */
+   if (present & ((uint32_t)1 << 23)) {
+      pvalue->m |= 0x20u;
+      stat = asn1PD_UMTS_ImplementationSpecificParams(ctx, &pvalue->implementationSpecificParams);
+      RT_CHECK(ctx, stat, 0, "implementationSpecificParams", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* u-RNTI */
+   stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, "SRNC-RelocationInfo-r6-IEs");
+   /* c-RNTI */
+   if (present & ((uint32_t)1 << 22)) {
+      pvalue->m |= 0x40u;
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->c_RNTI);
+      RT_CHECK(ctx, stat, 0, "c-RNTI", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* ue-RadioAccessCapability */
+   stat = asn1PD_UMTS_UE_RadioAccessCapability_r6(ctx, &pvalue->ue_RadioAccessCapability);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "SRNC-RelocationInfo-r6-IEs");
+   /* ue-RadioAccessCapability-ext */
+   if (present & ((uint32_t)1 << 21)) {
+      pvalue->m |= 0x80u;
+      stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDDList(ctx, &pvalue->ue_RadioAccessCapability_ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-ext", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* ue-Positioning-LastKnownPos */
+   if (present & ((uint32_t)1 << 20)) {
+      pvalue->m |= 0x100u;
+      stat = asn1PD_UMTS_UE_Positioning_LastKnownPos(ctx, &pvalue->ue_Positioning_LastKnownPos);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-LastKnownPos", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* uESpecificBehaviourInformation1idle */
+   if (present & ((uint32_t)1 << 19)) {
+      pvalue->m |= 0x200u;
+      stat = asn1PD_UMTS_UESpecificBehaviourInformation1idle(ctx, &pvalue->uESpecificBehaviourInformation1idle);
+      RT_CHECK(ctx, stat, 0, "uESpecificBehaviourInformation1idle", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* uESpecificBehaviourInformation1interRAT */
+   if (present & ((uint32_t)1 << 18)) {
+      pvalue->m |= 0x400u;
+      stat = asn1PD_UMTS_UESpecificBehaviourInformation1interRAT(ctx, &pvalue->uESpecificBehaviourInformation1interRAT);
+      RT_CHECK(ctx, stat, 0, "uESpecificBehaviourInformation1interRAT", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* ueCapabilityContainer */
+   if (present & ((uint32_t)1 << 17)) {
+      pvalue->m |= 0x800u;
+      {
+         rtxDynBitStr carrier;
+         rtxContext outer;
+         stat = pd_DynBitString(ctx, &carrier);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer", -1, "SRNC-RelocationInfo-r6-IEs");
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_UE_CapabilityContainer_IEs(ctx, &pvalue->ueCapabilityContainer);
+            RT_CHECK(ctx, stat, 0, "ueCapabilityContainer", -1, "SRNC-RelocationInfo-r6-IEs");
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+      }
+   }
+   /* ueCapabilityContainer-RSC */
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x1000u;
+      {
+         rtxDynBitStr carrier;
+         rtxContext outer;
+         stat = pd_DynBitString(ctx, &carrier);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-RSC", -1, "SRNC-RelocationInfo-r6-IEs");
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_RRCConnectionSetupComplete_r3_add_ext_IEs(ctx, &pvalue->ueCapabilityContainer_RSC);
+            RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-RSC", -1, "SRNC-RelocationInfo-r6-IEs");
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+      }
+   }
+   /* ueCapabilityContainer-UCI */
+   if (present & ((uint32_t)1 << 15)) {
+      pvalue->m |= 0x2000u;
+      {
+         rtxDynBitStr carrier;
+         rtxContext outer;
+         stat = pd_DynBitString(ctx, &carrier);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-UCI", -1, "SRNC-RelocationInfo-r6-IEs");
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_UECapabilityInformation_r3_add_ext_IEs(ctx, &pvalue->ueCapabilityContainer_UCI);
+            RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-UCI", -1, "SRNC-RelocationInfo-r6-IEs");
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+      }
+   }
+   /* ue-RATSpecificCapability */
+   if (present & ((uint32_t)1 << 14)) {
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_InterRAT_UE_RadioAccessCapabilityList_r5(ctx, &pvalue->ue_RATSpecificCapability);
+      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* ura-Identity */
+   if (present & ((uint32_t)1 << 13)) {
+      pvalue->m |= 0x8000u;
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* cn-CommonGSM-MAP-NAS-SysInfo */
+   stat = asn1PD_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo);
+   RT_CHECK(ctx, stat, 0, "cn-CommonGSM-MAP-NAS-SysInfo", -1, "SRNC-RelocationInfo-r6-IEs");
+   /* cn-DomainInformationList */
+   if (present & ((uint32_t)1 << 12)) {
+      pvalue->m |= 0x10000u;
+      stat = asn1PD_UMTS_CN_DomainInformationListFull(ctx, &pvalue->cn_DomainInformationList);
+      RT_CHECK(ctx, stat, 0, "cn-DomainInformationList", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* ongoingMeasRepList */
+   if (present & ((uint32_t)1 << 11)) {
+      pvalue->m |= 0x20000u;
+      stat = asn1PD_UMTS_OngoingMeasRepList_r6(ctx, &pvalue->ongoingMeasRepList);
+      RT_CHECK(ctx, stat, 0, "ongoingMeasRepList", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* interRATCellInfoIndication */
+   if (present & ((uint32_t)1 << 10)) {
+      pvalue->m |= 0x40000u;
+      stat = pd_ConsUInt8(ctx, &pvalue->interRATCellInfoIndication, 0, 3);
+      RT_CHECK(ctx, stat, "InterRATCellInfoIndication", "interRATCellInfoIndication", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* predefinedConfigStatusList */
+   stat = asn1PD_UMTS_PredefinedConfigStatusList(ctx, &pvalue->predefinedConfigStatusList);
+   RT_CHECK(ctx, stat, 0, "predefinedConfigStatusList", -1, "SRNC-RelocationInfo-r6-IEs");
+   /* srb-InformationList */
+   stat = asn1PD_UMTS_SRB_InformationSetupList_r6(ctx, &pvalue->srb_InformationList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationList", -1, "SRNC-RelocationInfo-r6-IEs");
+   /* rab-InformationList */
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x80000u;
+      stat = asn1PD_UMTS_RAB_InformationSetupList_r6(ctx, &pvalue->rab_InformationList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationList", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x100000u;
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* ul-TransChInfoList */
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x200000u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r6(ctx, &pvalue->ul_TransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-TransChInfoList", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x400000u;
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* dl-TransChInfoList */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x800000u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_TransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-TransChInfoList", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* tpc-CombinationInfoList */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1000000u;
+      stat = asn1PD_UMTS_TPC_CombinationInfoList(ctx, &pvalue->tpc_CombinationInfoList);
+      RT_CHECK(ctx, stat, 0, "tpc-CombinationInfoList", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* storedCompressedModeInfo */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2000000u;
+      stat = asn1PD_UMTS_StoredCompressedModeInfo(ctx, &pvalue->storedCompressedModeInfo);
+      RT_CHECK(ctx, stat, 0, "storedCompressedModeInfo", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* measurementReport */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4000000u;
+      {
+         rtxDynBitStr carrier;
+         rtxContext outer;
+         stat = pd_DynBitString(ctx, &carrier);
+         RT_CHECK(ctx, stat, 0, "measurementReport", -1, "SRNC-RelocationInfo-r6-IEs");
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_MeasurementReport(ctx, &pvalue->measurementReport);
+            RT_CHECK(ctx, stat, 0, "measurementReport", -1, "SRNC-RelocationInfo-r6-IEs");
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+      }
+   }
+   /* failureCause */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8000000u;
+      stat = asn1PD_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
+      RT_CHECK(ctx, stat, 0, "failureCause", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* mbms-JoinedInformation */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10000000u;
+      stat = asn1PD_UMTS_MBMS_JoinedInformation_r6(ctx, &pvalue->mbms_JoinedInformation);
+      RT_CHECK(ctx, stat, 0, "mbms-JoinedInformation", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   return stat;
 }
 

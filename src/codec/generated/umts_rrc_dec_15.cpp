@@ -6,9114 +6,2331 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_SRNC_RelocationInfo_r6_add_ext_IEs_v7f0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r6_add_ext_IEs_v7f0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r6_add_ext_IEs_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r6_add_ext_IEs_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v7f0ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v7f0ext");
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v7f0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v7f0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v890NonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v7f0ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v7f0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v7f0ext", -1, 0);
+   /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v890NonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r6_add_ext_IEs_v7f0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(rtxContext* ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_SRNC_RelocationInfo_r6_add_ext_IEs(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r6_add_ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v7d0ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v7d0ext");
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_v7d0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v7d0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-r6-add-ext-IEs");
+   /* sRNC-RelocationInfo-v7e0ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v7e0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v7e0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v7e0ext", -1, "SRNC-RelocationInfo-r6-add-ext-IEs");
    /* v7f0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v7f0NonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r6_add_ext_IEs_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, "SRNC-RelocationInfo-r6-add-ext-IEs");
    }
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-r8 */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-r8");
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r8_IEs(ctx, &pvalue->physicalChannelReconfiguration_r8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* physicalChannelReconfiguration-r8-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-r8-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->physicalChannelReconfiguration_r8_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v7d0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v7d0NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r9_IEs_responseToChangeOfUE_Capability(rtxContext* ctx, PhysicalChannelReconfiguration_r9_IEs_responseToChangeOfUE_Capability* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_r9_IEs(rtxContext* ctx, PhysicalChannelReconfiguration_r9_IEs* pvalue)
-{
-   int stat = 0;
-   uint64_t present;
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration-r9-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   {
-      uint32_t hi, lo;
-      stat = rtxDecBitsFast(ctx, &hi, 4);
-      RT_CHECK(ctx, stat);
-      stat = rtxDecBitsFast(ctx, &lo, 32);
-      RT_CHECK(ctx, stat);
-      present = ((uint64_t)hi << 32) | lo;
-   }
-   /* integrityProtectionModeInfo */
-   if (present & ((uint64_t)1 << 35)) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint64_t)1 << 34)) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* activationTime */
-   if (present & ((uint64_t)1 << 33)) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* delayRestrictionFlag */
-   if (present & ((uint64_t)1 << 32)) {
-      rtxCtxtPushElemName(ctx, "delayRestrictionFlag");
-      pvalue->m |= 0x8u;
-      rtxCtxtPushTypeName(ctx, "DelayRestrictionFlag");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->delayRestrictionFlag = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-U-RNTI */
-   if (present & ((uint64_t)1 << 31)) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-C-RNTI */
-   if (present & ((uint64_t)1 << 30)) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint64_t)1 << 29)) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-H-RNTI */
-   if (present & ((uint64_t)1 << 28)) {
-      rtxCtxtPushElemName(ctx, "new-H-RNTI");
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint64_t)1 << 27)) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint64_t)1 << 26)) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ueMobilityStateIndicator */
-   if (present & ((uint64_t)1 << 25)) {
-      rtxCtxtPushElemName(ctx, "ueMobilityStateIndicator");
-      pvalue->m |= 0x400u;
-      rtxCtxtPushTypeName(ctx, "High-MobilityDetected");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->ueMobilityStateIndicator = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint64_t)1 << 24)) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint64_t)1 << 23)) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ura-Identity */
-   if (present & ((uint64_t)1 << 22)) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportForChangeOfUE-Capability */
-   if (present & ((uint64_t)1 << 21)) {
-      rtxCtxtPushElemName(ctx, "supportForChangeOfUE-Capability");
-      pvalue->m |= 0x4000u;
-      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* responseToChangeOfUE-Capability */
-   if (present & ((uint64_t)1 << 20)) {
-      rtxCtxtPushElemName(ctx, "responseToChangeOfUE-Capability");
-      pvalue->m |= 0x8000u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->responseToChangeOfUE_Capability = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint64_t)1 << 19)) {
-      rtxCtxtPushElemName(ctx, "dl-CounterSynchronisationInfo");
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* harqInfo */
-   if (present & ((uint64_t)1 << 18)) {
-      rtxCtxtPushElemName(ctx, "harqInfo");
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (present & ((uint64_t)1 << 17)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* multi-frequencyInfo */
-   if (present & ((uint64_t)1 << 16)) {
-      rtxCtxtPushElemName(ctx, "multi-frequencyInfo");
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dtx-drx-TimingInfo */
-   if (present & ((uint64_t)1 << 15)) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-TimingInfo");
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dtx-drx-Info */
-   if (present & ((uint64_t)1 << 14)) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-Info");
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hs-scch-LessInfo */
-   if (present & ((uint64_t)1 << 13)) {
-      rtxCtxtPushElemName(ctx, "hs-scch-LessInfo");
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mimoParameters */
-   if (present & ((uint64_t)1 << 12)) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
-      pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_MIMO_Parameters_r9(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* controlChannelDRXInfo-TDD128 */
-   if (present & ((uint64_t)1 << 11)) {
-      rtxCtxtPushElemName(ctx, "controlChannelDRXInfo-TDD128");
-      pvalue->m |= 0x1000000u;
-      stat = asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sps-Information-TDD128 */
-   if (present & ((uint64_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "sps-Information-TDD128");
-      pvalue->m |= 0x2000000u;
-      stat = asn1PD_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint64_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      pvalue->m |= 0x4000000u;
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-DPCH-Info */
-   if (present & ((uint64_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-      pvalue->m |= 0x8000000u;
-      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-EDCH-Information */
-   if (present & ((uint64_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
-      pvalue->m |= 0x10000000u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r9(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-SecondaryCellInfoFDD */
-   if (present & ((uint64_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "ul-SecondaryCellInfoFDD");
-      pvalue->m |= 0x20000000u;
-      stat = asn1PD_UMTS_UL_SecondaryCellInfoFDD(ctx, &pvalue->ul_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint64_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      pvalue->m |= 0x40000000u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonInformation */
-   if (present & ((uint64_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-      pvalue->m |= 0x80000000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint64_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-      pvalue->m |= 0x100000000ull;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-SecondaryCellInfoFDD */
-   if (present & ((uint64_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "dl-SecondaryCellInfoFDD");
-      pvalue->m |= 0x200000000ull;
-      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_r9(ctx, &pvalue->dl_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (present & ((uint64_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "mbms-PL-ServiceRestrictInfo");
-      pvalue->m |= 0x400000000ull;
-      rtxCtxtPushTypeName(ctx, "MBMS-PL-ServiceRestrictInfo-r6");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellDCHMeasOccasionInfo-TDD128 */
-   if (present & ((uint64_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cellDCHMeasOccasionInfo-TDD128");
-      pvalue->m |= 0x800000000ull;
-      stat = asn1PD_UMTS_CellDCHMeasOccasionInfo_TDD128_r9(ctx, &pvalue->cellDCHMeasOccasionInfo_TDD128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-r9 */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-r9");
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r9_IEs(ctx, &pvalue->physicalChannelReconfiguration_r9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* physicalChannelReconfiguration-r9-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-r9-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->physicalChannelReconfiguration_r9_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r9");
-         pvalue->u.r9 = (PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9));
-         if (pvalue->u.r9 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(pvalue->u.r9);
-         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r8");
-         pvalue->u.r8 = (PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8));
-         if (pvalue->u.r8 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(pvalue->u.r8);
-         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r7");
-         pvalue->u.r7 = (PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7));
-         if (pvalue->u.r7 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(pvalue->u.r7);
-         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r6");
-         pvalue->u.r6 = (PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6));
-         if (pvalue->u.r6 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(pvalue->u.r6);
-         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(ctx, pvalue->u.r6);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r5");
-         pvalue->u.r5 = (PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5));
-         if (pvalue->u.r5 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5(pvalue->u.r5);
-         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5(ctx, pvalue->u.r5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions(rtxContext* ctx, PhysicalChannelReconfiguration_later_than_r3_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r4");
-         pvalue->u.r4 = (PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4));
-         if (pvalue->u.r4 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4(pvalue->u.r4);
-         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3(rtxContext* ctx, PhysicalChannelReconfiguration_later_than_r3* pvalue)
-{
-   int stat = 0;
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* criticalExtensions */
-   rtxCtxtPushElemName(ctx, "criticalExtensions");
-   stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfiguration(rtxContext* ctx, PhysicalChannelReconfiguration* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r3");
-         pvalue->u.r3 = (PhysicalChannelReconfiguration_r3*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_r3));
-         if (pvalue->u.r3 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PhysicalChannelReconfiguration_r3(pvalue->u.r3);
-         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "later-than-r3");
-         pvalue->u.later_than_r3 = (PhysicalChannelReconfiguration_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration_later_than_r3));
-         if (pvalue->u.later_than_r3 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PhysicalChannelReconfiguration_later_than_r3(pvalue->u.later_than_r3);
-         stat = asn1PD_UMTS_PhysicalChannelReconfiguration_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfigurationComplete_v770ext_IEs_deferredMeasurementControlReading(rtxContext* ctx, PhysicalChannelReconfigurationComplete_v770ext_IEs_deferredMeasurementControlReading* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfigurationComplete_v770ext_IEs(rtxContext* ctx, PhysicalChannelReconfigurationComplete_v770ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfigurationComplete-v770ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ext-UL-TimingAdvance */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ext-UL-TimingAdvance");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_EXT_UL_TimingAdvance(ctx, &pvalue->ext_UL_TimingAdvance);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* deferredMeasurementControlReading */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "deferredMeasurementControlReading");
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->deferredMeasurementControlReading = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions* pvalue)
+int asn1PD_UMTS_SRNC_RelocationInfo_v820ext_IEs(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_v820ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfigurationComplete-v770ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfigurationComplete-v770ext");
-   stat = asn1PD_UMTS_PhysicalChannelReconfigurationComplete_v770ext_IEs(ctx, &pvalue->physicalChannelReconfigurationComplete_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-v820ext-IEs");
+   /* rab-InformationList */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RAB_InformationSetupList_v820ext(ctx, &pvalue->rab_InformationList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationList", -1, "SRNC-RelocationInfo-v820ext-IEs");
    }
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions(rtxContext* ctx, PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions* pvalue)
+int asn1PD_UMTS_E_RGCH_Combination_Info(rtxContext* RT_RESTRICT ctx, E_RGCH_Combination_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* primaryCPICH-Info */
+   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "E-RGCH-Combination-Info");
+   /* rg-CombinationIndex */
+   stat = pd_ConsUInt8(ctx, &pvalue->rg_CombinationIndex, 0, 5);
+   RT_CHECK(ctx, stat, 0, "rg-CombinationIndex", -1, "E-RGCH-Combination-Info");
+   return 0;
+}
+
+int asn1PD_UMTS_E_RGCH_CombinationInfoList(rtxContext* RT_RESTRICT ctx, E_RGCH_CombinationInfoList* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-RGCH-CombinationInfoList");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      E_RGCH_Combination_Info* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_RGCH_Combination_Info));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "E-RGCH-Combination-Info", (int32_t)i, "E-RGCH-CombinationInfoList");
+      elem = (E_RGCH_Combination_Info*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_E_RGCH_Combination_Info(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "E-RGCH-Combination-Info", (int32_t)i, "E-RGCH-CombinationInfoList");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_v860ext_IEs(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_v860ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfigurationComplete-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "physicalChannelReconfigurationComplete-r3-add-ext");
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-v860ext-IEs");
+   /* e-RGCH-CombinationInfoList */
+   if (present & ((uint32_t)1 << 0)) {
       pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->physicalChannelReconfigurationComplete_r3_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_E_RGCH_CombinationInfoList(ctx, &pvalue->e_RGCH_CombinationInfoList);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-CombinationInfoList", -1, "SRNC-RelocationInfo-v860ext-IEs");
    }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v820NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v820NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v820NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v820NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v860ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v860ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v860ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v820NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v820NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v820NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* srnc-RelocationInfo-v820ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v820ext_IEs(ctx, &pvalue->srnc_RelocationInfo_v820ext);
+   RT_CHECK(ctx, stat, 0, "srnc-RelocationInfo-v820ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v820NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v770ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v770ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v770ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v770ext", -1, 0);
+   /* v820NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v820NonCriticalExtensions(ctx, &pvalue->v820NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v820NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v6b0ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v6b0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v6b0ext", -1, 0);
    /* v770NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfigurationComplete(rtxContext* ctx, PhysicalChannelReconfigurationComplete* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfigurationComplete");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ul-IntegProtActivationInfo */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "ul-IntegProtActivationInfo");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtActivationInfo(ctx, &pvalue->ul_IntegProtActivationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
    }
-   /* ul-TimingAdvance */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "ul-TimingAdvance");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "UL-TimingAdvance");
-      stat = pd_ConsUInt8(ctx, &pvalue->ul_TimingAdvance, 0, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* count-C-ActivationTime */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "count-C-ActivationTime");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->count_C_ActivationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CounterSynchronisationInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ul-CounterSynchronisationInfo");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_UL_CounterSynchronisationInfo(ctx, &pvalue->ul_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PD_UMTS_PhysicalChannelReconfigurationFailure_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, PhysicalChannelReconfigurationFailure_laterNonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfigurationFailure_laterNonCriticalExtensions(rtxContext* ctx, PhysicalChannelReconfigurationFailure_laterNonCriticalExtensions* pvalue)
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfigurationFailure-r3-add-ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-r6 */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_r6_IEs(ctx, &pvalue->sRNC_RelocationInfo_r6);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-r6", -1, 0);
+   /* sRNC-RelocationInfo-r6-add-ext */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "physicalChannelReconfigurationFailure-r3-add-ext");
       pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->physicalChannelReconfigurationFailure_r3_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfigurationFailure_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalChannelReconfigurationFailure(rtxContext* ctx, PhysicalChannelReconfigurationFailure* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfigurationFailure");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* rrc-TransactionIdentifier */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-      stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* failureCause */
-   rtxCtxtPushElemName(ctx, "failureCause");
-   stat = asn1PD_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PhysicalChannelReconfigurationFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalSharedChannelAllocation_r3_IEs_confirmRequest(rtxContext* ctx, PhysicalSharedChannelAllocation_r3_IEs_confirmRequest* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalSharedChannelAllocation_r3_IEs(rtxContext* ctx, PhysicalSharedChannelAllocation_r3_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PhysicalSharedChannelAllocation-r3-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 7);
-   RT_CHECK(ctx, stat);
-   /* dsch-RNTI */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "dsch-RNTI");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->dsch_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ul-TimingAdvance */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "ul-TimingAdvance");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_UL_TimingAdvanceControl(ctx, &pvalue->ul_TimingAdvance);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pusch-CapacityAllocationInfo */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "pusch-CapacityAllocationInfo");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_PUSCH_CapacityAllocationInfo(ctx, &pvalue->pusch_CapacityAllocationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdsch-CapacityAllocationInfo */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "pdsch-CapacityAllocationInfo");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_PDSCH_CapacityAllocationInfo(ctx, &pvalue->pdsch_CapacityAllocationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* confirmRequest */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "confirmRequest");
-      pvalue->m |= 0x10u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->confirmRequest, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* trafficVolumeReportRequest */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "trafficVolumeReportRequest");
-      pvalue->m |= 0x20u;
-      stat = pd_ConsUInt8(ctx, &pvalue->trafficVolumeReportRequest, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* iscpTimeslotList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "iscpTimeslotList");
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_TimeslotList(ctx, &pvalue->iscpTimeslotList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* requestPCCPCHRSCP */
-   rtxCtxtPushElemName(ctx, "requestPCCPCHRSCP");
-   stat = rtxDecBitInline(ctx, &pvalue->requestPCCPCHRSCP);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalSharedChannelAllocation_r3_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, PhysicalSharedChannelAllocation_r3_laterNonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalSharedChannelAllocation_r3_laterNonCriticalExtensions(rtxContext* ctx, PhysicalSharedChannelAllocation_r3_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* physicalSharedChannelAllocation-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "physicalSharedChannelAllocation-r3-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->physicalSharedChannelAllocation_r3_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_r3_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalSharedChannelAllocation_r3(rtxContext* ctx, PhysicalSharedChannelAllocation_r3* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* physicalSharedChannelAllocation-r3 */
-   rtxCtxtPushElemName(ctx, "physicalSharedChannelAllocation-r3");
-   stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_r3_IEs(ctx, &pvalue->physicalSharedChannelAllocation_r3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalSharedChannelAllocation_r4_IEs_confirmRequest(rtxContext* ctx, PhysicalSharedChannelAllocation_r4_IEs_confirmRequest* pvalue)
-{
-   int stat;
-   stat = pd_ConsUnsigned(ctx, pvalue, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalSharedChannelAllocation_r4_IEs(rtxContext* ctx, PhysicalSharedChannelAllocation_r4_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PhysicalSharedChannelAllocation-r4-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat);
-   /* ul-TimingAdvance */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "ul-TimingAdvance");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_TimingAdvanceControl_r4(ctx, &pvalue->ul_TimingAdvance);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pusch-CapacityAllocationInfo */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "pusch-CapacityAllocationInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r4(ctx, &pvalue->pusch_CapacityAllocationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdsch-CapacityAllocationInfo */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "pdsch-CapacityAllocationInfo");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_PDSCH_CapacityAllocationInfo_r4(ctx, &pvalue->pdsch_CapacityAllocationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* confirmRequest */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "confirmRequest");
-      pvalue->m |= 0x8u;
-      stat = pd_ConsUnsigned(ctx, &pvalue->confirmRequest, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* trafficVolumeReportRequest */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "trafficVolumeReportRequest");
-      pvalue->m |= 0x10u;
-      stat = pd_ConsUInt8(ctx, &pvalue->trafficVolumeReportRequest, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* iscpTimeslotList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "iscpTimeslotList");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_TimeslotList_r4(ctx, &pvalue->iscpTimeslotList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* requestPCCPCHRSCP */
-   rtxCtxtPushElemName(ctx, "requestPCCPCHRSCP");
-   stat = rtxDecBitInline(ctx, &pvalue->requestPCCPCHRSCP);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalSharedChannelAllocation_v690ext_IEs(rtxContext* ctx, PhysicalSharedChannelAllocation_v690ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PhysicalSharedChannelAllocation-v690ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* beaconPLEst */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "beaconPLEst");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "BEACON-PL-Est");
       {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->beaconPLEst = ui;
+         rtxDynBitStr carrier;
+         rtxContext outer;
+         stat = pd_DynBitString(ctx, &carrier);
+         RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-r6-add-ext", -1, 0);
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_SRNC_RelocationInfo_r6_add_ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_r6_add_ext);
+            RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-r6-add-ext", -1, 0);
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
       }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalSharedChannelAllocation_v770ext_IEs(rtxContext* ctx, PhysicalSharedChannelAllocation_v770ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PhysicalSharedChannelAllocation-v770ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 3);
-   RT_CHECK(ctx, stat);
-   /* ul-TimingAdvance */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "ul-TimingAdvance");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_TimingAdvanceControl_r7(ctx, &pvalue->ul_TimingAdvance);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pusch-CapacityAllocationInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "pusch-CapacityAllocationInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PUSCH_CapacityAllocationInfo_r7(ctx, &pvalue->pusch_CapacityAllocationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdsch-CapacityAllocationInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "pdsch-CapacityAllocationInfo");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_PDSCH_CapacityAllocationInfo_r7(ctx, &pvalue->pdsch_CapacityAllocationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* physicalSharedChannelAllocation-v770ext */
-   rtxCtxtPushElemName(ctx, "physicalSharedChannelAllocation-v770ext");
-   stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_v770ext_IEs(ctx, &pvalue->physicalSharedChannelAllocation_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* ctx, PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* physicalSharedChannelAllocation-v690ext */
-   rtxCtxtPushElemName(ctx, "physicalSharedChannelAllocation-v690ext");
-   stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_v690ext_IEs(ctx, &pvalue->physicalSharedChannelAllocation_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* ctx, PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* physicalSharedChannelAllocation-r4-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "physicalSharedChannelAllocation-r4-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->physicalSharedChannelAllocation_r4_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4(rtxContext* ctx, PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* physicalSharedChannelAllocation-r4 */
-   rtxCtxtPushElemName(ctx, "physicalSharedChannelAllocation-r4");
-   stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_r4_IEs(ctx, &pvalue->physicalSharedChannelAllocation_r4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v4d0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v4d0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* ctx, PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions(rtxContext* ctx, PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r4");
-         pvalue->u.r4 = (PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4*)rtxMemHeapAlloc(ctx, sizeof(PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4));
-         if (pvalue->u.r4 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4(pvalue->u.r4);
-         stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3(rtxContext* ctx, PhysicalSharedChannelAllocation_later_than_r3* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dsch-RNTI */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dsch-RNTI");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->dsch_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* criticalExtensions */
-   rtxCtxtPushElemName(ctx, "criticalExtensions");
-   stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PhysicalSharedChannelAllocation(rtxContext* ctx, PhysicalSharedChannelAllocation* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "PhysicalSharedChannelAllocation");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r3");
-         pvalue->u.r3 = (PhysicalSharedChannelAllocation_r3*)rtxMemHeapAlloc(ctx, sizeof(PhysicalSharedChannelAllocation_r3));
-         if (pvalue->u.r3 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PhysicalSharedChannelAllocation_r3(pvalue->u.r3);
-         stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "later-than-r3");
-         pvalue->u.later_than_r3 = (PhysicalSharedChannelAllocation_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(PhysicalSharedChannelAllocation_later_than_r3));
-         if (pvalue->u.later_than_r3 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_PhysicalSharedChannelAllocation_later_than_r3(pvalue->u.later_than_r3);
-         stat = asn1PD_UMTS_PhysicalSharedChannelAllocation_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCHCapacityRequest_allocationConfirmation(rtxContext* ctx, PUSCHCapacityRequest_allocationConfirmation* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "pdschConfirmation");
-         rtxCtxtPushTypeName(ctx, "PDSCH-Identity");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.pdschConfirmation, 1, 64);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "puschConfirmation");
-         rtxCtxtPushTypeName(ctx, "PUSCH-Identity");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.puschConfirmation, 1, 64);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCHCapacityRequest_v590ext(rtxContext* ctx, PUSCHCapacityRequest_v590ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PUSCHCapacityRequest-v590ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* primaryCCPCH-RSCP-delta */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "primaryCCPCH-RSCP-delta");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "DeltaRSCP");
-      stat = pd_ConsInt8(ctx, &pvalue->primaryCCPCH_RSCP_delta, -5, -1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCHCapacityRequest_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, PUSCHCapacityRequest_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCHCapacityRequest_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* ctx, PUSCHCapacityRequest_laterNonCriticalExtensions_v590NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* puschCapacityRequest-v590ext */
-   rtxCtxtPushElemName(ctx, "puschCapacityRequest-v590ext");
-   stat = asn1PD_UMTS_PUSCHCapacityRequest_v590ext(ctx, &pvalue->puschCapacityRequest_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PUSCHCapacityRequest_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCHCapacityRequest_laterNonCriticalExtensions(rtxContext* ctx, PUSCHCapacityRequest_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* puschCapacityRequest-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "puschCapacityRequest-r3-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->puschCapacityRequest_r3_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v590NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PUSCHCapacityRequest_laterNonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_PUSCHCapacityRequest(rtxContext* ctx, PUSCHCapacityRequest* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "PUSCHCapacityRequest");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat);
-   /* dsch-RNTI */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "dsch-RNTI");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->dsch_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* trafficVolume */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "trafficVolume");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_TrafficVolumeMeasuredResultsList(ctx, &pvalue->trafficVolume);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* timeslotListWithISCP */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "timeslotListWithISCP");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_TimeslotListWithISCP(ctx, &pvalue->timeslotListWithISCP);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* primaryCCPCH-RSCP */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "primaryCCPCH-RSCP");
-      pvalue->m |= 0x8u;
-      rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-RSCP");
-      stat = pd_ConsUInt8(ctx, &pvalue->primaryCCPCH_RSCP, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* allocationConfirmation */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "allocationConfirmation");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_PUSCHCapacityRequest_allocationConfirmation(ctx, &pvalue->allocationConfirmation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* protocolErrorIndicator */
-   rtxCtxtPushElemName(ctx, "protocolErrorIndicator");
-   stat = asn1PD_UMTS_ProtocolErrorIndicatorWithMoreInfo(ctx, &pvalue->protocolErrorIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_PUSCHCapacityRequest_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r3_IEs_dummy_fdd(rtxContext* ctx, RadioBearerReconfiguration_r3_IEs_dummy_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* dummy1 */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dummy1");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "CPCH-SetID");
-      stat = pd_ConsUInt8(ctx, &pvalue->dummy1, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy2 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy2");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r3_IEs_dummy(rtxContext* ctx, RadioBearerReconfiguration_r3_IEs_dummy* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (RadioBearerReconfiguration_r3_IEs_dummy_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r3_IEs_dummy_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RadioBearerReconfiguration_r3_IEs_dummy_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_IEs_dummy_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r3_IEs_modeSpecificPhysChInfo_fdd(rtxContext* ctx, RadioBearerReconfiguration_r3_IEs_modeSpecificPhysChInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r3_IEs_modeSpecificPhysChInfo(rtxContext* ctx, RadioBearerReconfiguration_r3_IEs_modeSpecificPhysChInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (RadioBearerReconfiguration_r3_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r3_IEs_modeSpecificPhysChInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RadioBearerReconfiguration_r3_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r3_IEs(rtxContext* ctx, RadioBearerReconfiguration_r3_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RadioBearerReconfiguration-r3-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 21);
-   RT_CHECK(ctx, stat);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 20)) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 19)) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 18)) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 17)) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 16)) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 15)) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
-      pvalue->m |= 0x20u;
-      rtxCtxtPushTypeName(ctx, "UTRAN-DRX-CycleLengthCoefficient");
-      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 14)) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 13)) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rab-InformationReconfigList */
-   if (present & ((uint32_t)1 << 12)) {
-      rtxCtxtPushElemName(ctx, "rab-InformationReconfigList");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReconfigList */
-   rtxCtxtPushElemName(ctx, "rb-InformationReconfigList");
-   stat = asn1PD_UMTS_RB_InformationReconfigList(ctx, &pvalue->rb_InformationReconfigList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rb-InformationAffectedList */
-   if (present & ((uint32_t)1 << 11)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationAffectedList");
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint32_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "ul-deletedTransChInfoList");
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_IEs_dummy(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "dl-DeletedTransChInfoList");
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfo2List(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      pvalue->m |= 0x40000u;
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-ChannelRequirement */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ul-ChannelRequirement");
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_UL_ChannelRequirement(ctx, &pvalue->ul_ChannelRequirement);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificPhysChInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificPhysChInfo");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonInformation */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_DL_CommonInformation(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-InformationPerRL-List */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-   stat = asn1PD_UMTS_DL_InformationPerRL_List(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_v3a0ext(rtxContext* ctx, RadioBearerReconfiguration_v3a0ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RadioBearerReconfiguration-v3a0ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_v4b0ext_IEs(rtxContext* ctx, RadioBearerReconfiguration_v4b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RadioBearerReconfiguration-v4b0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "SSDT-UL");
-      stat = pd_ConsUnsigned(ctx, &pvalue->dummy, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cell-id-PerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cell-id-PerRL-List");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellIdentity_PerRL_List(ctx, &pvalue->cell_id_PerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_v590ext_IEs(rtxContext* ctx, RadioBearerReconfiguration_v590ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RadioBearerReconfiguration-v590ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dl-TPC-PowerOffsetPerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-TPC-PowerOffsetPerRL-List");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_TPC_PowerOffsetPerRL_List(ctx, &pvalue->dl_TPC_PowerOffsetPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_v5d0ext_IEs(rtxContext* ctx, RadioBearerReconfiguration_v5d0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RadioBearerReconfiguration-v5d0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* pdcp-ROHC-TargetMode */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "pdcp-ROHC-TargetMode");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "PDCP-ROHC-TargetMode");
-      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_v690ext_IEs_postVerificationPeriod(rtxContext* ctx, RadioBearerReconfiguration_v690ext_IEs_postVerificationPeriod* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_v690ext_IEs(rtxContext* ctx, RadioBearerReconfiguration_v690ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RadioBearerReconfiguration-v690ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 8);
-   RT_CHECK(ctx, stat);
-   /* delayRestrictionFlag */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "delayRestrictionFlag");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "DelayRestrictionFlag");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->delayRestrictionFlag = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* primary-plmn-Identity */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "primary-plmn-Identity");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* harq-Preamble-Mode */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "harq-Preamble-Mode");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "HARQ-Preamble-Mode");
-      stat = pd_ConsUInt8(ctx, &pvalue->harq_Preamble_Mode, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* beaconPLEst */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "beaconPLEst");
-      pvalue->m |= 0x8u;
-      rtxCtxtPushTypeName(ctx, "BEACON-PL-Est");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->beaconPLEst = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* postVerificationPeriod */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "postVerificationPeriod");
-      pvalue->m |= 0x10u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->postVerificationPeriod = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dhs-sync */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "dhs-sync");
-      pvalue->m |= 0x20u;
-      rtxCtxtPushTypeName(ctx, "DHS-Sync");
-      stat = pd_ConsInt8(ctx, &pvalue->dhs_sync, -20, 10);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* timingMaintainedSynchInd */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "timingMaintainedSynchInd");
-      pvalue->m |= 0x40u;
-      rtxCtxtPushTypeName(ctx, "TimingMaintainedSynchInd");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->timingMaintainedSynchInd = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mbms-PL-ServiceRestrictInfo");
-      pvalue->m |= 0x80u;
-      rtxCtxtPushTypeName(ctx, "MBMS-PL-ServiceRestrictInfo-r6");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_v770ext_IEs(rtxContext* ctx, RadioBearerReconfiguration_v770ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RadioBearerReconfiguration-v770ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ueMobilityStateIndicator */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ueMobilityStateIndicator");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "High-MobilityDetected");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->ueMobilityStateIndicator = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerReconfiguration-v770ext */
-   rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-v770ext");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v770ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerReconfiguration-v690ext */
-   rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-v690ext");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v690ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(rtxContext* ctx, RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerReconfiguration-v5d0ext */
-   rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-v5d0ext");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v5d0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v5d0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerReconfiguration-v590ext */
-   rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-v590ext");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v590ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v5d0NonCriticalExtenstions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v5d0NonCriticalExtenstions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerReconfiguration-v4b0ext */
-   rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-v4b0ext");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v4b0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v4b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v590NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* radioBearerReconfiguration-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-r3-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerReconfiguration_r3_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v4b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v4b0NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerReconfiguration-v3a0ext */
-   rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-v3a0ext");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v3a0ext(ctx, &pvalue->radioBearerReconfiguration_v3a0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r3(rtxContext* ctx, RadioBearerReconfiguration_r3* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerReconfiguration-r3 */
-   rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-r3");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_IEs(ctx, &pvalue->radioBearerReconfiguration_r3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v3aoNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v3aoNonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions(ctx, &pvalue->v3aoNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r4_IEs_dummy_fdd(rtxContext* ctx, RadioBearerReconfiguration_r4_IEs_dummy_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* dummy1 */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dummy1");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "CPCH-SetID");
-      stat = pd_ConsUInt8(ctx, &pvalue->dummy1, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy2 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy2");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r4_IEs_dummy(rtxContext* ctx, RadioBearerReconfiguration_r4_IEs_dummy* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (RadioBearerReconfiguration_r4_IEs_dummy_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r4_IEs_dummy_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RadioBearerReconfiguration_r4_IEs_dummy_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r4_IEs_dummy_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r4_IEs_modeSpecificPhysChInfo_fdd(rtxContext* ctx, RadioBearerReconfiguration_r4_IEs_modeSpecificPhysChInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r4_IEs_modeSpecificPhysChInfo(rtxContext* ctx, RadioBearerReconfiguration_r4_IEs_modeSpecificPhysChInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (RadioBearerReconfiguration_r4_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r4_IEs_modeSpecificPhysChInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RadioBearerReconfiguration_r4_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r4_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r4_IEs(rtxContext* ctx, RadioBearerReconfiguration_r4_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RadioBearerReconfiguration-r4-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 24);
-   RT_CHECK(ctx, stat);
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 23)) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 22)) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 21)) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 20)) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 19)) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 18)) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 17)) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
-      pvalue->m |= 0x40u;
-      rtxCtxtPushTypeName(ctx, "UTRAN-DRX-CycleLengthCoefficient");
-      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 16)) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 15)) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rab-InformationReconfigList */
-   if (present & ((uint32_t)1 << 14)) {
-      rtxCtxtPushElemName(ctx, "rab-InformationReconfigList");
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReconfigList */
-   if (present & ((uint32_t)1 << 13)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationReconfigList");
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_RB_InformationReconfigList_r4(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationAffectedList */
-   if (present & ((uint32_t)1 << 12)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationAffectedList");
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 11)) {
-      rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint32_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "ul-deletedTransChInfoList");
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_r4_IEs_dummy(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "dl-DeletedTransChInfoList");
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r4(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      pvalue->m |= 0x100000u;
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-ChannelRequirement */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "ul-ChannelRequirement");
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_UL_ChannelRequirement_r4(ctx, &pvalue->ul_ChannelRequirement);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificPhysChInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificPhysChInfo");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r4_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonInformation */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-      pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r4(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerReconfiguration-v770ext */
-   rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-v770ext");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v770ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerReconfiguration-v690ext */
-   rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-v690ext");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v690ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerReconfiguration-v5d0ext */
-   rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-v5d0ext");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v5d0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v5d0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerReconfiguration-v590ext */
-   rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-v590ext");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v590ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v5d0NonCriticalExtenstions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v5d0NonCriticalExtenstions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* radioBearerReconfiguration-r4-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-r4-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerReconfiguration_r4_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v590NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerReconfiguration-r4 */
-   rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-r4");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r4_IEs(ctx, &pvalue->radioBearerReconfiguration_r4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v4d0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v4d0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_complete_dummy_fdd(rtxContext* ctx, RadioBearerReconfiguration_r5_IEs_specificationMode_complete_dummy_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* dummy1 */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dummy1");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "CPCH-SetID");
-      stat = pd_ConsUInt8(ctx, &pvalue->dummy1, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy2 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy2");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_complete_dummy(rtxContext* ctx, RadioBearerReconfiguration_r5_IEs_specificationMode_complete_dummy* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (RadioBearerReconfiguration_r5_IEs_specificationMode_complete_dummy_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r5_IEs_specificationMode_complete_dummy_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_complete_dummy_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_complete_dummy_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_complete(rtxContext* ctx, RadioBearerReconfiguration_r5_IEs_specificationMode_complete* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 11);
-   RT_CHECK(ctx, stat);
-   /* rab-InformationReconfigList */
-   if (present & ((uint32_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "rab-InformationReconfigList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReconfigList */
-   if (present & ((uint32_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationReconfigList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RB_InformationReconfigList_r5(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationAffectedList */
-   if (present & ((uint32_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationAffectedList");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList_r5(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-PDCPContextRelocationList */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "rb-PDCPContextRelocationList");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_RB_PDCPContextRelocationList(ctx, &pvalue->rb_PDCPContextRelocationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "ul-deletedTransChInfoList");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_complete_dummy(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dl-DeletedTransChInfoList");
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r5(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* ctx, RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* pvalue)
-{
-   int stat = 0;
-   /* defaultConfigMode */
-   rtxCtxtPushElemName(ctx, "defaultConfigMode");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigMode");
-   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* defaultConfigIdentity */
-   rtxCtxtPushElemName(ctx, "defaultConfigIdentity");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigIdentity-r5");
-   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 13);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* ctx, RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration_preConfigMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "predefinedConfigIdentity");
-         rtxCtxtPushTypeName(ctx, "PredefinedConfigIdentity");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "defaultConfig");
-         pvalue->u.defaultConfig = (RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAllocZ(ctx, sizeof(RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
-         if (pvalue->u.defaultConfig == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration(rtxContext* ctx, RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration* pvalue)
-{
-   int stat = 0;
-   /* preConfigMode */
-   rtxCtxtPushElemName(ctx, "preConfigMode");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode(rtxContext* ctx, RadioBearerReconfiguration_r5_IEs_specificationMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "complete");
-         pvalue->u.complete = (RadioBearerReconfiguration_r5_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r5_IEs_specificationMode_complete));
-         if (pvalue->u.complete == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_complete(pvalue->u.complete);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_complete(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "preconfiguration");
-         pvalue->u.preconfiguration = (RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration));
-         if (pvalue->u.preconfiguration == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_modeSpecificPhysChInfo_fdd(rtxContext* ctx, RadioBearerReconfiguration_r5_IEs_modeSpecificPhysChInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_modeSpecificPhysChInfo(rtxContext* ctx, RadioBearerReconfiguration_r5_IEs_modeSpecificPhysChInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (RadioBearerReconfiguration_r5_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r5_IEs_modeSpecificPhysChInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RadioBearerReconfiguration_r5_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs(rtxContext* ctx, RadioBearerReconfiguration_r5_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RadioBearerReconfiguration-r5-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 16);
-   RT_CHECK(ctx, stat);
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 15)) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 14)) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 13)) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 12)) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 11)) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-H-RNTI */
-   if (present & ((uint32_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "new-H-RNTI");
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
-      pvalue->m |= 0x80u;
-      rtxCtxtPushTypeName(ctx, "UTRAN-DRX-CycleLengthCoefficient");
-      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* specificationMode */
-   rtxCtxtPushElemName(ctx, "specificationMode");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode(ctx, &pvalue->specificationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      pvalue->m |= 0x800u;
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-ChannelRequirement */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "ul-ChannelRequirement");
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_UL_ChannelRequirement_r5(ctx, &pvalue->ul_ChannelRequirement);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificPhysChInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificPhysChInfo");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonInformation */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r5(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r5(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerReconfiguration-v770ext */
-   rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-v770ext");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v770ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerReconfiguration-v690ext */
-   rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-v690ext");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v690ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerReconfiguration-v5d0ext */
-   rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-v5d0ext");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v5d0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v5d0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* radioBearerReconfiguration-r5 */
-   rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-r5");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r5_IEs(ctx, &pvalue->radioBearerReconfiguration_r5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* radioBearerReconfiguration-r5-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-r5-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerReconfiguration_r5_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v5d0NonCriticalExtenstions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v5d0NonCriticalExtenstions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode_complete(rtxContext* ctx, RadioBearerReconfiguration_r6_IEs_specificationMode_complete* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 11);
-   RT_CHECK(ctx, stat);
-   /* rab-InformationReconfigList */
-   if (present & ((uint32_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "rab-InformationReconfigList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReconfigList */
-   if (present & ((uint32_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationReconfigList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RB_InformationReconfigList_r6(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationAffectedList */
-   if (present & ((uint32_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationAffectedList");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList_r6(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-PDCPContextRelocationList */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "rb-PDCPContextRelocationList");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_RB_PDCPContextRelocationList(ctx, &pvalue->rb_PDCPContextRelocationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdcp-ROHC-TargetMode */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "pdcp-ROHC-TargetMode");
-      pvalue->m |= 0x10u;
-      rtxCtxtPushTypeName(ctx, "PDCP-ROHC-TargetMode");
-      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "ul-deletedTransChInfoList");
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r6(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dl-DeletedTransChInfoList");
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r5(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* ctx, RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* pvalue)
-{
-   int stat = 0;
-   /* defaultConfigMode */
-   rtxCtxtPushElemName(ctx, "defaultConfigMode");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigMode");
-   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* defaultConfigIdentity */
-   rtxCtxtPushElemName(ctx, "defaultConfigIdentity");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigIdentity-r6");
-   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* ctx, RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration_preConfigMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "predefinedConfigIdentity");
-         rtxCtxtPushTypeName(ctx, "PredefinedConfigIdentity");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "defaultConfig");
-         pvalue->u.defaultConfig = (RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAllocZ(ctx, sizeof(RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
-         if (pvalue->u.defaultConfig == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration(rtxContext* ctx, RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration* pvalue)
-{
-   int stat = 0;
-   /* preConfigMode */
-   rtxCtxtPushElemName(ctx, "preConfigMode");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode(rtxContext* ctx, RadioBearerReconfiguration_r6_IEs_specificationMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "complete");
-         pvalue->u.complete = (RadioBearerReconfiguration_r6_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r6_IEs_specificationMode_complete));
-         if (pvalue->u.complete == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode_complete(pvalue->u.complete);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode_complete(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "preconfiguration");
-         pvalue->u.preconfiguration = (RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration));
-         if (pvalue->u.preconfiguration == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r6_IEs(rtxContext* ctx, RadioBearerReconfiguration_r6_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RadioBearerReconfiguration-r6-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 21);
-   RT_CHECK(ctx, stat);
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 20)) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 19)) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 18)) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* delayRestrictionFlag */
-   if (present & ((uint32_t)1 << 17)) {
-      rtxCtxtPushElemName(ctx, "delayRestrictionFlag");
-      pvalue->m |= 0x8u;
-      rtxCtxtPushTypeName(ctx, "DelayRestrictionFlag");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->delayRestrictionFlag = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 16)) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 15)) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 14)) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-H-RNTI */
-   if (present & ((uint32_t)1 << 13)) {
-      rtxCtxtPushElemName(ctx, "new-H-RNTI");
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint32_t)1 << 12)) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint32_t)1 << 11)) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
-      pvalue->m |= 0x400u;
-      rtxCtxtPushTypeName(ctx, "UTRAN-DRX-CycleLengthCoefficient");
-      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* specificationMode */
-   rtxCtxtPushElemName(ctx, "specificationMode");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode(ctx, &pvalue->specificationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      pvalue->m |= 0x4000u;
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-DPCH-Info */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_UL_DPCH_Info_r6(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-EDCH-Information */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r6(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r6(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonInformation */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r6(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r6(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mbms-PL-ServiceRestrictInfo");
-      pvalue->m |= 0x100000u;
-      rtxCtxtPushTypeName(ctx, "MBMS-PL-ServiceRestrictInfo-r6");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_v6b0ext_IEs(rtxContext* ctx, RadioBearerReconfiguration_v6b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RadioBearerReconfiguration-v6b0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dl-InformationPerRL-List-v6b0ext */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List-v6b0ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_v6b0ext(ctx, &pvalue->dl_InformationPerRL_List_v6b0ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_v6f0ext_IEs_specificationMode_complete(rtxContext* ctx, RadioBearerReconfiguration_v6f0ext_IEs_specificationMode_complete* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* rab-InformationMBMSPtpList */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "rab-InformationMBMSPtpList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_InformationMBMSPtpList(ctx, &pvalue->rab_InformationMBMSPtpList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_v6f0ext_IEs_specificationMode(rtxContext* ctx, RadioBearerReconfiguration_v6f0ext_IEs_specificationMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "complete");
-         pvalue->u.complete = (RadioBearerReconfiguration_v6f0ext_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_v6f0ext_IEs_specificationMode_complete));
-         if (pvalue->u.complete == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RadioBearerReconfiguration_v6f0ext_IEs_specificationMode_complete(pvalue->u.complete);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_v6f0ext_IEs_specificationMode_complete(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_v6f0ext_IEs(rtxContext* ctx, RadioBearerReconfiguration_v6f0ext_IEs* pvalue)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RadioBearerReconfiguration-v6f0ext-IEs");
-   /* specificationMode */
-   rtxCtxtPushElemName(ctx, "specificationMode");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v6f0ext_IEs_specificationMode(ctx, &pvalue->specificationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerReconfiguration-v770ext */
-   rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-v770ext");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v770ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerRconfiguration-v6f0ext */
-   rtxCtxtPushElemName(ctx, "radioBearerRconfiguration-v6f0ext");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v6f0ext_IEs(ctx, &pvalue->radioBearerRconfiguration_v6f0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerReconfiguration-v6b0ext */
-   rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-v6b0ext");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v6b0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v6b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v6f0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v6f0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions(ctx, &pvalue->v6f0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* radioBearerReconfiguration-r6 */
-   rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-r6");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r6_IEs(ctx, &pvalue->radioBearerReconfiguration_r6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* radioBearerReconfiguration-r6-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-r6-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerReconfiguration_r6_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
    }
    /* v6b0NonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v6b0NonCriticalExtensions");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
    }
-   return 0;
+   return stat;
 }
 
-int asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs_responseToChangeOfUE_Capability(rtxContext* ctx, RadioBearerReconfiguration_r7_IEs_responseToChangeOfUE_Capability* pvalue)
+int asn1PD_UMTS_MeasurementCommandWithType_r7(rtxContext* RT_RESTRICT ctx, MeasurementCommandWithType_r7* RT_RESTRICT pvalue)
 {
    int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementCommandWithType-r7");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* setup */
+         pvalue->u.setup = (MeasurementType_r7*)rtxMemHeapAlloc(ctx, sizeof(MeasurementType_r7));
+         if (pvalue->u.setup == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "setup", -1, "MeasurementCommandWithType-r7");
+         asn1Init_UMTS_MeasurementType_r7(pvalue->u.setup);
+         stat = asn1PD_UMTS_MeasurementType_r7(ctx, pvalue->u.setup);
+         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommandWithType-r7");
+         break;
+      case 1: /* modify */
+         break;
+      case 2: /* release */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommandWithType-r7");
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode_complete(rtxContext* ctx, RadioBearerReconfiguration_r7_IEs_specificationMode_complete* pvalue)
+int asn1PD_UMTS_OngoingMeasRep_r7(rtxContext* RT_RESTRICT ctx, OngoingMeasRep_r7* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 12);
-   RT_CHECK(ctx, stat);
-   /* rab-InformationReconfigList */
-   if (present & ((uint32_t)1 << 11)) {
-      rtxCtxtPushElemName(ctx, "rab-InformationReconfigList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rab-InformationMBMSPtpList */
-   if (present & ((uint32_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "rab-InformationMBMSPtpList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RAB_InformationMBMSPtpList(ctx, &pvalue->rab_InformationMBMSPtpList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReconfigList */
-   if (present & ((uint32_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationReconfigList");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_RB_InformationReconfigList_r7(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationAffectedList */
-   if (present & ((uint32_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationAffectedList");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList_r7(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-PDCPContextRelocationList */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "rb-PDCPContextRelocationList");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_RB_PDCPContextRelocationList(ctx, &pvalue->rb_PDCPContextRelocationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdcp-ROHC-TargetMode */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "pdcp-ROHC-TargetMode");
-      pvalue->m |= 0x20u;
-      rtxCtxtPushTypeName(ctx, "PDCP-ROHC-TargetMode");
-      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "ul-deletedTransChInfoList");
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r7(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-DeletedTransChInfoList */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "OngoingMeasRep-r7");
+   /* measurementIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->measurementIdentity, 1, 16);
+   RT_CHECK(ctx, stat, "MeasurementIdentity", "measurementIdentity", -1, "OngoingMeasRep-r7");
+   /* measurementCommandWithType */
+   stat = asn1PD_UMTS_MeasurementCommandWithType_r7(ctx, &pvalue->measurementCommandWithType);
+   RT_CHECK(ctx, stat, 0, "measurementCommandWithType", -1, "OngoingMeasRep-r7");
+   /* measurementReportingMode */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dl-DeletedTransChInfoList");
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
+      RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "OngoingMeasRep-r7");
    }
-   /* dl-AddReconfTransChInfoList */
+   /* additionalMeasurementID-List */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementID_List);
+      RT_CHECK(ctx, stat, 0, "additionalMeasurementID-List", -1, "OngoingMeasRep-r7");
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* ctx, RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* pvalue)
-{
-   int stat = 0;
-   /* defaultConfigMode */
-   rtxCtxtPushElemName(ctx, "defaultConfigMode");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigMode");
-   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* defaultConfigIdentity */
-   rtxCtxtPushElemName(ctx, "defaultConfigIdentity");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigIdentity-r6");
-   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* ctx, RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration_preConfigMode* pvalue)
+int asn1PD_UMTS_OngoingMeasRepList_r7(rtxContext* RT_RESTRICT ctx, OngoingMeasRepList_r7* RT_RESTRICT pvalue)
 {
    int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "predefinedConfigIdentity");
-         rtxCtxtPushTypeName(ctx, "PredefinedConfigIdentity");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "defaultConfig");
-         pvalue->u.defaultConfig = (RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAllocZ(ctx, sizeof(RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
-         if (pvalue->u.defaultConfig == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "OngoingMeasRepList-r7");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      OngoingMeasRep_r7* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(OngoingMeasRep_r7));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "OngoingMeasRep-r7", (int32_t)i, "OngoingMeasRepList-r7");
+      elem = (OngoingMeasRep_r7*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_OngoingMeasRep_r7(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_OngoingMeasRep_r7(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "OngoingMeasRep-r7", (int32_t)i, "OngoingMeasRepList-r7");
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration(rtxContext* ctx, RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration* pvalue)
-{
-   int stat = 0;
-   /* preConfigMode */
-   rtxCtxtPushElemName(ctx, "preConfigMode");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode(rtxContext* ctx, RadioBearerReconfiguration_r7_IEs_specificationMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "complete");
-         pvalue->u.complete = (RadioBearerReconfiguration_r7_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r7_IEs_specificationMode_complete));
-         if (pvalue->u.complete == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode_complete(pvalue->u.complete);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode_complete(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "preconfiguration");
-         pvalue->u.preconfiguration = (RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration));
-         if (pvalue->u.preconfiguration == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs(rtxContext* ctx, RadioBearerReconfiguration_r7_IEs* pvalue)
+int asn1PD_UMTS_SRNC_RelocationInfo_r7_IEs(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r7_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RadioBearerReconfiguration-r7-IEs");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 29);
-   RT_CHECK(ctx, stat);
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 28)) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
+   stat = rtxDecBitsFast(ctx, &present, 31);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-r7-IEs");
+   /* rb-IdentityForHOMessage */
+   if (present & ((uint32_t)1 << 30)) {
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUInt8(ctx, &pvalue->rb_IdentityForHOMessage, 1, 32);
+      RT_CHECK(ctx, stat, "RB-Identity", "rb-IdentityForHOMessage", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 27)) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
+   /* stateOfRRC */
+   stat = pd_ConsUnsigned(ctx, &pvalue->stateOfRRC, 0, 3);
+   RT_CHECK(ctx, stat, "StateOfRRC", "stateOfRRC", -1, "SRNC-RelocationInfo-r7-IEs");
+   /* stateOfRRC-Procedure */
+   stat = pd_ConsUnsigned(ctx, &pvalue->stateOfRRC_Procedure, 0, 11);
+   RT_CHECK(ctx, stat, "StateOfRRC-Procedure", "stateOfRRC-Procedure", -1, "SRNC-RelocationInfo-r7-IEs");
+   /* cipheringStatusList */
+   stat = asn1PD_UMTS_CipheringStatusList_r4(ctx, &pvalue->cipheringStatusList);
+   RT_CHECK(ctx, stat, 0, "cipheringStatusList", -1, "SRNC-RelocationInfo-r7-IEs");
+   /* latestConfiguredCN-Domain */
+   stat = pd_ConsUnsigned(ctx, &pvalue->latestConfiguredCN_Domain, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "latestConfiguredCN-Domain", -1, "SRNC-RelocationInfo-r7-IEs");
+   /* calculationTimeForCiphering */
+   if (present & ((uint32_t)1 << 29)) {
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_CalculationTimeForCiphering(ctx, &pvalue->calculationTimeForCiphering);
+      RT_CHECK(ctx, stat, 0, "calculationTimeForCiphering", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 26)) {
-      rtxCtxtPushElemName(ctx, "activationTime");
+   /* count-C-List */
+   if (present & ((uint32_t)1 << 28)) {
       pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_COUNT_C_List(ctx, &pvalue->count_C_List);
+      RT_CHECK(ctx, stat, 0, "count-C-List", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* delayRestrictionFlag */
-   if (present & ((uint32_t)1 << 25)) {
-      rtxCtxtPushElemName(ctx, "delayRestrictionFlag");
+   /* cipheringInfoPerRB-List */
+   if (present & ((uint32_t)1 << 27)) {
       pvalue->m |= 0x8u;
-      rtxCtxtPushTypeName(ctx, "DelayRestrictionFlag");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->delayRestrictionFlag = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_CipheringInfoPerRB_List_r4(ctx, &pvalue->cipheringInfoPerRB_List);
+      RT_CHECK(ctx, stat, 0, "cipheringInfoPerRB-List", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 24)) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
+   /* integrityProtectionStatus */
+   stat = pd_ConsUnsigned(ctx, &pvalue->integrityProtectionStatus, 0, 1);
+   RT_CHECK(ctx, stat, "IntegrityProtectionStatus", "integrityProtectionStatus", -1, "SRNC-RelocationInfo-r7-IEs");
+   /* srb-SpecificIntegrityProtInfo */
+   if (present & ((uint32_t)1 << 26)) {
       pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_SRB_SpecificIntegrityProtInfoList(ctx, &pvalue->srb_SpecificIntegrityProtInfo);
+      RT_CHECK(ctx, stat, 0, "srb-SpecificIntegrityProtInfo", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 23)) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
+   /* implementationSpecificParams */
+   if (present & ((uint32_t)1 << 25)) {
       pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_ImplementationSpecificParams(ctx, &pvalue->implementationSpecificParams);
+      RT_CHECK(ctx, stat, 0, "implementationSpecificParams", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 22)) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
+   /* u-RNTI */
+   stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, "SRNC-RelocationInfo-r7-IEs");
+   /* c-RNTI */
+   if (present & ((uint32_t)1 << 24)) {
       pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->c_RNTI);
+      RT_CHECK(ctx, stat, 0, "c-RNTI", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* new-H-RNTI */
-   if (present & ((uint32_t)1 << 21)) {
-      rtxCtxtPushElemName(ctx, "new-H-RNTI");
+   /* ue-RadioAccessCapability */
+   stat = asn1PD_UMTS_UE_RadioAccessCapability_r6(ctx, &pvalue->ue_RadioAccessCapability);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "SRNC-RelocationInfo-r7-IEs");
+   /* ue-RadioAccessCapability-ext */
+   if (present & ((uint32_t)1 << 23)) {
       pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDDList(ctx, &pvalue->ue_RadioAccessCapability_ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-ext", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint32_t)1 << 20)) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
+   /* ue-Positioning-LastKnownPos */
+   if (present & ((uint32_t)1 << 22)) {
       pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UE_Positioning_LastKnownPos(ctx, &pvalue->ue_Positioning_LastKnownPos);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-LastKnownPos", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint32_t)1 << 19)) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
+   /* uESpecificBehaviourInformation1idle */
+   if (present & ((uint32_t)1 << 21)) {
       pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UESpecificBehaviourInformation1idle(ctx, &pvalue->uESpecificBehaviourInformation1idle);
+      RT_CHECK(ctx, stat, 0, "uESpecificBehaviourInformation1idle", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ueMobilityStateIndicator */
-   if (present & ((uint32_t)1 << 18)) {
-      rtxCtxtPushElemName(ctx, "ueMobilityStateIndicator");
+   /* uESpecificBehaviourInformation1interRAT */
+   if (present & ((uint32_t)1 << 20)) {
       pvalue->m |= 0x400u;
-      rtxCtxtPushTypeName(ctx, "High-MobilityDetected");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->ueMobilityStateIndicator = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UESpecificBehaviourInformation1interRAT(ctx, &pvalue->uESpecificBehaviourInformation1interRAT);
+      RT_CHECK(ctx, stat, 0, "uESpecificBehaviourInformation1interRAT", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 17)) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
+   /* ueCapabilityContainer */
+   if (present & ((uint32_t)1 << 19)) {
       pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      {
+         rtxDynBitStr carrier;
+         rtxContext outer;
+         stat = pd_DynBitString(ctx, &carrier);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer", -1, "SRNC-RelocationInfo-r7-IEs");
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_UE_CapabilityContainer_IEs(ctx, &pvalue->ueCapabilityContainer);
+            RT_CHECK(ctx, stat, 0, "ueCapabilityContainer", -1, "SRNC-RelocationInfo-r7-IEs");
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+      }
    }
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 16)) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
+   /* ueCapabilityContainer-RSC */
+   if (present & ((uint32_t)1 << 18)) {
       pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      {
+         rtxDynBitStr carrier;
+         rtxContext outer;
+         stat = pd_DynBitString(ctx, &carrier);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-RSC", -1, "SRNC-RelocationInfo-r7-IEs");
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_RRCConnectionSetupComplete_r3_add_ext_IEs(ctx, &pvalue->ueCapabilityContainer_RSC);
+            RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-RSC", -1, "SRNC-RelocationInfo-r7-IEs");
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+      }
+   }
+   /* ueCapabilityContainer-UCI */
+   if (present & ((uint32_t)1 << 17)) {
+      pvalue->m |= 0x2000u;
+      {
+         rtxDynBitStr carrier;
+         rtxContext outer;
+         stat = pd_DynBitString(ctx, &carrier);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-UCI", -1, "SRNC-RelocationInfo-r7-IEs");
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_UECapabilityInformation_r3_add_ext_IEs(ctx, &pvalue->ueCapabilityContainer_UCI);
+            RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-UCI", -1, "SRNC-RelocationInfo-r7-IEs");
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+      }
+   }
+   /* ue-RATSpecificCapability */
+   if (present & ((uint32_t)1 << 16)) {
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_InterRAT_UE_RadioAccessCapabilityList_r5(ctx, &pvalue->ue_RATSpecificCapability);
+      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability", -1, "SRNC-RelocationInfo-r7-IEs");
    }
    /* ura-Identity */
    if (present & ((uint32_t)1 << 15)) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportForChangeOfUE-Capability */
-   if (present & ((uint32_t)1 << 14)) {
-      rtxCtxtPushElemName(ctx, "supportForChangeOfUE-Capability");
-      pvalue->m |= 0x4000u;
-      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* responseToChangeOfUE-Capability */
-   if (present & ((uint32_t)1 << 13)) {
-      rtxCtxtPushElemName(ctx, "responseToChangeOfUE-Capability");
       pvalue->m |= 0x8000u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->responseToChangeOfUE_Capability = ui;
-      }
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* specificationMode */
-   rtxCtxtPushElemName(ctx, "specificationMode");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode(ctx, &pvalue->specificationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 12)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
+   /* srns-t-305 */
+   if (present & ((uint32_t)1 << 14)) {
       pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUnsigned(ctx, &pvalue->srns_t_305, 0, 7);
+      RT_CHECK(ctx, stat, "T-305", "srns-t-305", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* multi-frequencyInfo */
-   if (present & ((uint32_t)1 << 11)) {
-      rtxCtxtPushElemName(ctx, "multi-frequencyInfo");
+   /* cn-CommonGSM-MAP-NAS-SysInfo */
+   stat = asn1PD_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo);
+   RT_CHECK(ctx, stat, 0, "cn-CommonGSM-MAP-NAS-SysInfo", -1, "SRNC-RelocationInfo-r7-IEs");
+   /* cn-DomainInformationList */
+   if (present & ((uint32_t)1 << 13)) {
       pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_CN_DomainInformationListFull(ctx, &pvalue->cn_DomainInformationList);
+      RT_CHECK(ctx, stat, 0, "cn-DomainInformationList", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* dtx-drx-TimingInfo */
-   if (present & ((uint32_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-TimingInfo");
+   /* ongoingMeasRepList */
+   if (present & ((uint32_t)1 << 12)) {
       pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_OngoingMeasRepList_r7(ctx, &pvalue->ongoingMeasRepList);
+      RT_CHECK(ctx, stat, 0, "ongoingMeasRepList", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* dtx-drx-Info */
-   if (present & ((uint32_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-Info");
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hs-scch-LessInfo */
-   if (present & ((uint32_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "hs-scch-LessInfo");
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mimoParameters */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_MIMO_Parameters_r7(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      pvalue->m |= 0x400000u;
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-DPCH-Info */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-      pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-EDCH-Information */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
-      pvalue->m |= 0x1000000u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r7(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      pvalue->m |= 0x2000000u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonInformation */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-      pvalue->m |= 0x4000000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r7(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-      pvalue->m |= 0x8000000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mbms-PL-ServiceRestrictInfo");
-      pvalue->m |= 0x10000000u;
-      rtxCtxtPushTypeName(ctx, "MBMS-PL-ServiceRestrictInfo-r6");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_v780ext_IEs(rtxContext* ctx, RadioBearerReconfiguration_v780ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RadioBearerReconfiguration-v780ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* hs-DSCH-TBSizeTable */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "hs-DSCH-TBSizeTable");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "HS-DSCH-TBSizeTable");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->hs_DSCH_TBSizeTable = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_v790ext_IEs(rtxContext* ctx, RadioBearerReconfiguration_v790ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RadioBearerReconfiguration-v790ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerReconfiguration-r7-add-ext */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-r7-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerReconfiguration_r7_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_v7d0ext_IEs(rtxContext* ctx, RadioBearerReconfiguration_v7d0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RadioBearerReconfiguration-v7d0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ul-EDCH-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_ext(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_v7f0ext_IEs(rtxContext* ctx, RadioBearerReconfiguration_v7f0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RadioBearerReconfiguration-v7f0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* mimoParameters */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MIMO_Parameters_v7f0ext(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_v7g0ext_IEs(rtxContext* ctx, RadioBearerReconfiguration_v7g0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RadioBearerReconfiguration-v7g0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* mimoParameters */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_MIMO_Parameters_v7g0ext(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerReconfiguration-v7g0ext */
-   rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-v7g0ext");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v7g0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v7g0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerReconfiguration-v7f0ext */
-   rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-v7f0ext");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v7f0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v7f0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v7g0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v7g0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerReconfiguration-v7d0ext */
-   rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-v7d0ext");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v7d0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v7d0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v7f0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v7f0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerReconfiguration-v790ext */
-   rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-v790ext");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v790ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v790ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v7d0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v7d0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerReconfiguration-v780ext */
-   rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-v780ext");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v780ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v780ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v790NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v790NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions(ctx, &pvalue->v790NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerReconfiguration-r7 */
-   rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-r7");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r7_IEs(ctx, &pvalue->radioBearerReconfiguration_r7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v780NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v780NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs_responseToChangeOfUE_Capability(rtxContext* ctx, RadioBearerReconfiguration_r8_IEs_responseToChangeOfUE_Capability* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode_complete(rtxContext* ctx, RadioBearerReconfiguration_r8_IEs_specificationMode_complete* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 12);
-   RT_CHECK(ctx, stat);
-   /* rab-InformationReconfigList */
+   /* interRATCellInfoIndication */
    if (present & ((uint32_t)1 << 11)) {
-      rtxCtxtPushElemName(ctx, "rab-InformationReconfigList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_InformationReconfigList_r8(ctx, &pvalue->rab_InformationReconfigList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x80000u;
+      stat = pd_ConsUInt8(ctx, &pvalue->interRATCellInfoIndication, 0, 3);
+      RT_CHECK(ctx, stat, "InterRATCellInfoIndication", "interRATCellInfoIndication", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* rab-InformationMBMSPtpList */
+   /* predefinedConfigStatusList */
+   stat = asn1PD_UMTS_PredefinedConfigStatusList(ctx, &pvalue->predefinedConfigStatusList);
+   RT_CHECK(ctx, stat, 0, "predefinedConfigStatusList", -1, "SRNC-RelocationInfo-r7-IEs");
+   /* srb-InformationList */
+   stat = asn1PD_UMTS_SRB_InformationSetupList_r7(ctx, &pvalue->srb_InformationList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationList", -1, "SRNC-RelocationInfo-r7-IEs");
+   /* rab-InformationList */
    if (present & ((uint32_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "rab-InformationMBMSPtpList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RAB_InformationMBMSPtpList(ctx, &pvalue->rab_InformationMBMSPtpList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReconfigList */
-   if (present & ((uint32_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationReconfigList");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_RB_InformationReconfigList_r8(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationAffectedList */
-   if (present & ((uint32_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationAffectedList");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList_r8(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-PDCPContextRelocationList */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "rb-PDCPContextRelocationList");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_RB_PDCPContextRelocationList(ctx, &pvalue->rb_PDCPContextRelocationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdcp-ROHC-TargetMode */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "pdcp-ROHC-TargetMode");
-      pvalue->m |= 0x20u;
-      rtxCtxtPushTypeName(ctx, "PDCP-ROHC-TargetMode");
-      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x100000u;
+      stat = asn1PD_UMTS_RAB_InformationSetupList_r7(ctx, &pvalue->rab_InformationList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationList", -1, "SRNC-RelocationInfo-r7-IEs");
    }
    /* ul-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
-      pvalue->m |= 0x40u;
+   if (present & ((uint32_t)1 << 9)) {
+      pvalue->m |= 0x200000u;
       stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "ul-deletedTransChInfoList");
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   /* ul-TransChInfoList */
+   if (present & ((uint32_t)1 << 8)) {
+      pvalue->m |= 0x400000u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r7(ctx, &pvalue->ul_TransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-TransChInfoList", -1, "SRNC-RelocationInfo-r7-IEs");
    }
    /* dl-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
-      pvalue->m |= 0x200u;
+   if (present & ((uint32_t)1 << 7)) {
+      pvalue->m |= 0x800000u;
       stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* dl-DeletedTransChInfoList */
+   /* dl-TransChInfoList */
+   if (present & ((uint32_t)1 << 6)) {
+      pvalue->m |= 0x1000000u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_TransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-TransChInfoList", -1, "SRNC-RelocationInfo-r7-IEs");
+   }
+   /* tpc-CombinationInfoList */
+   if (present & ((uint32_t)1 << 5)) {
+      pvalue->m |= 0x2000000u;
+      stat = asn1PD_UMTS_TPC_CombinationInfoList(ctx, &pvalue->tpc_CombinationInfoList);
+      RT_CHECK(ctx, stat, 0, "tpc-CombinationInfoList", -1, "SRNC-RelocationInfo-r7-IEs");
+   }
+   /* storedCompressedModeInfo */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x4000000u;
+      stat = asn1PD_UMTS_StoredCompressedModeInfo(ctx, &pvalue->storedCompressedModeInfo);
+      RT_CHECK(ctx, stat, 0, "storedCompressedModeInfo", -1, "SRNC-RelocationInfo-r7-IEs");
+   }
+   /* measurementReport */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x8000000u;
+      {
+         rtxDynBitStr carrier;
+         rtxContext outer;
+         stat = pd_DynBitString(ctx, &carrier);
+         RT_CHECK(ctx, stat, 0, "measurementReport", -1, "SRNC-RelocationInfo-r7-IEs");
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_MeasurementReport(ctx, &pvalue->measurementReport);
+            RT_CHECK(ctx, stat, 0, "measurementReport", -1, "SRNC-RelocationInfo-r7-IEs");
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+      }
+   }
+   /* failureCause */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x10000000u;
+      stat = asn1PD_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
+      RT_CHECK(ctx, stat, 0, "failureCause", -1, "SRNC-RelocationInfo-r7-IEs");
+   }
+   /* mbms-JoinedInformation */
    if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dl-DeletedTransChInfoList");
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x20000000u;
+      stat = asn1PD_UMTS_MBMS_JoinedInformation_r6(ctx, &pvalue->mbms_JoinedInformation);
+      RT_CHECK(ctx, stat, 0, "mbms-JoinedInformation", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* dl-AddReconfTransChInfoList */
+   /* mbmsSelectedServiceInfo */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x40000000u;
+      stat = asn1PD_UMTS_MBMS_SelectedServiceInfo(ctx, &pvalue->mbmsSelectedServiceInfo);
+      RT_CHECK(ctx, stat, 0, "mbmsSelectedServiceInfo", -1, "SRNC-RelocationInfo-r7-IEs");
+   }
+   return stat;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r7_add_ext_IEs_v7f0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r7_add_ext_IEs_v7f0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r7_add_ext_IEs_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r7_add_ext_IEs_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v7f0ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v7f0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v7f0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r7_add_ext_IEs_v7f0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* ctx, RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* pvalue)
+int asn1PD_UMTS_SRNC_RelocationInfo_r7_add_ext_IEs(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r7_add_ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   /* defaultConfigMode */
-   rtxCtxtPushElemName(ctx, "defaultConfigMode");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigMode");
-   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* defaultConfigIdentity */
-   rtxCtxtPushElemName(ctx, "defaultConfigIdentity");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigIdentity-r6");
-   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-r7-add-ext-IEs");
+   /* sRNC-RelocationInfo-v7e0ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v7e0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v7e0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v7e0ext", -1, "SRNC-RelocationInfo-r7-add-ext-IEs");
+   /* v7f0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r7_add_ext_IEs_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, "SRNC-RelocationInfo-r7-add-ext-IEs");
+   }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* ctx, RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration_preConfigMode* pvalue)
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7_v820NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7_v820NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7_v820NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7_v820NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v860ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v860ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v860ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7_v820NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7_v820NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7_v820NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* srnc-RelocationInfo-v820ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v820ext_IEs(ctx, &pvalue->srnc_RelocationInfo_v820ext);
+   RT_CHECK(ctx, stat, 0, "srnc-RelocationInfo-v820ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7_v820NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-r7 */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_r7_IEs(ctx, &pvalue->sRNC_RelocationInfo_r7);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-r7", -1, 0);
+   /* sRNC-RelocationInfo-r7-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      {
+         rtxDynBitStr carrier;
+         rtxContext outer;
+         stat = pd_DynBitString(ctx, &carrier);
+         RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-r7-add-ext", -1, 0);
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_SRNC_RelocationInfo_r7_add_ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_r7_add_ext);
+            RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-r7-add-ext", -1, 0);
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+      }
+   }
+   /* v820NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7_v820NonCriticalExtensions(ctx, &pvalue->v820NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v820NonCriticalExtensions", -1, 0);
+   }
+   return stat;
+}
+
+int asn1PD_UMTS_MeasurementCommandWithType_r8(rtxContext* RT_RESTRICT ctx, MeasurementCommandWithType_r8* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementCommandWithType-r8");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* setup */
+         pvalue->u.setup = (MeasurementType_r8*)rtxMemHeapAlloc(ctx, sizeof(MeasurementType_r8));
+         if (pvalue->u.setup == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "setup", -1, "MeasurementCommandWithType-r8");
+         asn1Init_UMTS_MeasurementType_r8(pvalue->u.setup);
+         stat = asn1PD_UMTS_MeasurementType_r8(ctx, pvalue->u.setup);
+         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommandWithType-r8");
+         break;
+      case 1: /* modify */
+         break;
+      case 2: /* release */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommandWithType-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_OngoingMeasRep_r8(rtxContext* RT_RESTRICT ctx, OngoingMeasRep_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "OngoingMeasRep-r8");
+   /* measurementIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->measurementIdentity, 1, 16);
+   RT_CHECK(ctx, stat, "MeasurementIdentity", "measurementIdentity", -1, "OngoingMeasRep-r8");
+   /* measurementCommandWithType */
+   stat = asn1PD_UMTS_MeasurementCommandWithType_r8(ctx, &pvalue->measurementCommandWithType);
+   RT_CHECK(ctx, stat, 0, "measurementCommandWithType", -1, "OngoingMeasRep-r8");
+   /* measurementReportingMode */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
+      RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "OngoingMeasRep-r8");
+   }
+   /* additionalMeasurementID-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementID_List);
+      RT_CHECK(ctx, stat, 0, "additionalMeasurementID-List", -1, "OngoingMeasRep-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_OngoingMeasRepList_r8(rtxContext* RT_RESTRICT ctx, OngoingMeasRepList_r8* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "OngoingMeasRepList-r8");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      OngoingMeasRep_r8* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(OngoingMeasRep_r8));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "OngoingMeasRep-r8", (int32_t)i, "OngoingMeasRepList-r8");
+      elem = (OngoingMeasRep_r8*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_OngoingMeasRep_r8(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_OngoingMeasRep_r8(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "OngoingMeasRep-r8", (int32_t)i, "OngoingMeasRepList-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_StoredTGP_Sequence_r8_current_tgps_Status_active(rtxContext* RT_RESTRICT ctx, StoredTGP_Sequence_r8_current_tgps_Status_active* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* tgcfn */
+   stat = pd_ConsUInt8(ctx, &pvalue->tgcfn, 0, 255);
+   RT_CHECK(ctx, stat, "TGCFN", "tgcfn", -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_StoredTGP_Sequence_r8_current_tgps_Status(rtxContext* RT_RESTRICT ctx, StoredTGP_Sequence_r8_current_tgps_Status* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
    stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "predefinedConfigIdentity");
-         rtxCtxtPushTypeName(ctx, "PredefinedConfigIdentity");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+      case 0: /* active */
+         pvalue->u.active = (StoredTGP_Sequence_r8_current_tgps_Status_active*)rtxMemHeapAllocZ(ctx, sizeof(StoredTGP_Sequence_r8_current_tgps_Status_active));
+         if (pvalue->u.active == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "active", -1, 0);
+         stat = asn1PD_UMTS_StoredTGP_Sequence_r8_current_tgps_Status_active(ctx, pvalue->u.active);
+         RT_CHECK(ctx, stat, 0, "active", -1, 0);
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "defaultConfig");
-         pvalue->u.defaultConfig = (RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAllocZ(ctx, sizeof(RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
-         if (pvalue->u.defaultConfig == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 1: /* inactive */
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration(rtxContext* ctx, RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration* pvalue)
+int asn1PD_UMTS_StoredTGP_Sequence_r8(rtxContext* RT_RESTRICT ctx, StoredTGP_Sequence_r8* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   /* preConfigMode */
-   rtxCtxtPushElemName(ctx, "preConfigMode");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode(rtxContext* ctx, RadioBearerReconfiguration_r8_IEs_specificationMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "complete");
-         pvalue->u.complete = (RadioBearerReconfiguration_r8_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r8_IEs_specificationMode_complete));
-         if (pvalue->u.complete == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode_complete(pvalue->u.complete);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode_complete(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "preconfiguration");
-         pvalue->u.preconfiguration = (RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration));
-         if (pvalue->u.preconfiguration == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "StoredTGP-Sequence-r8");
+   /* tgpsi */
+   stat = pd_ConsUInt8(ctx, &pvalue->tgpsi, 1, 6);
+   RT_CHECK(ctx, stat, "TGPSI", "tgpsi", -1, "StoredTGP-Sequence-r8");
+   /* current-tgps-Status */
+   stat = asn1PD_UMTS_StoredTGP_Sequence_r8_current_tgps_Status(ctx, &pvalue->current_tgps_Status);
+   RT_CHECK(ctx, stat, 0, "current-tgps-Status", -1, "StoredTGP-Sequence-r8");
+   /* tgps-ConfigurationParams */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_TGPS_ConfigurationParams_r8(ctx, &pvalue->tgps_ConfigurationParams);
+      RT_CHECK(ctx, stat, 0, "tgps-ConfigurationParams", -1, "StoredTGP-Sequence-r8");
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs(rtxContext* ctx, RadioBearerReconfiguration_r8_IEs* pvalue)
+int asn1PD_UMTS_StoredTGP_SequenceList_r8(rtxContext* RT_RESTRICT ctx, StoredTGP_SequenceList_r8* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 6);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "StoredTGP-SequenceList-r8");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      StoredTGP_Sequence_r8* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(StoredTGP_Sequence_r8));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "StoredTGP-Sequence-r8", (int32_t)i, "StoredTGP-SequenceList-r8");
+      elem = (StoredTGP_Sequence_r8*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_StoredTGP_Sequence_r8(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_StoredTGP_Sequence_r8(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "StoredTGP-Sequence-r8", (int32_t)i, "StoredTGP-SequenceList-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_StoredCompressedModeInfo_r8(rtxContext* RT_RESTRICT ctx, StoredCompressedModeInfo_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "StoredCompressedModeInfo-r8");
+   /* storedTGP-SequenceList */
+   stat = asn1PD_UMTS_StoredTGP_SequenceList_r8(ctx, &pvalue->storedTGP_SequenceList);
+   RT_CHECK(ctx, stat, 0, "storedTGP-SequenceList", -1, "StoredCompressedModeInfo-r8");
+   /* codeChangeStatusList */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_CodeChangeStatusList(ctx, &pvalue->codeChangeStatusList);
+      RT_CHECK(ctx, stat, 0, "codeChangeStatusList", -1, "StoredCompressedModeInfo-r8");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r8_IEs(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r8_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint64_t present;
-   rtxCtxtPushTypeName(ctx, "RadioBearerReconfiguration-r8-IEs");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    {
       uint32_t hi, lo;
       stat = rtxDecBitsFast(ctx, &hi, 1);
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-r8-IEs");
       stat = rtxDecBitsFast(ctx, &lo, 32);
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-r8-IEs");
       present = ((uint64_t)hi << 32) | lo;
    }
-   /* integrityProtectionModeInfo */
+   /* rb-IdentityForHOMessage */
    if (present & ((uint64_t)1 << 32)) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUInt8(ctx, &pvalue->rb_IdentityForHOMessage, 1, 32);
+      RT_CHECK(ctx, stat, "RB-Identity", "rb-IdentityForHOMessage", -1, "SRNC-RelocationInfo-r8-IEs");
    }
-   /* cipheringModeInfo */
+   /* stateOfRRC */
+   stat = pd_ConsUnsigned(ctx, &pvalue->stateOfRRC, 0, 3);
+   RT_CHECK(ctx, stat, "StateOfRRC", "stateOfRRC", -1, "SRNC-RelocationInfo-r8-IEs");
+   /* stateOfRRC-Procedure */
+   stat = pd_ConsUnsigned(ctx, &pvalue->stateOfRRC_Procedure, 0, 11);
+   RT_CHECK(ctx, stat, "StateOfRRC-Procedure", "stateOfRRC-Procedure", -1, "SRNC-RelocationInfo-r8-IEs");
+   /* cipheringStatusList */
+   stat = asn1PD_UMTS_CipheringStatusList_r4(ctx, &pvalue->cipheringStatusList);
+   RT_CHECK(ctx, stat, 0, "cipheringStatusList", -1, "SRNC-RelocationInfo-r8-IEs");
+   /* latestConfiguredCN-Domain */
+   stat = pd_ConsUnsigned(ctx, &pvalue->latestConfiguredCN_Domain, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "latestConfiguredCN-Domain", -1, "SRNC-RelocationInfo-r8-IEs");
+   /* calculationTimeForCiphering */
    if (present & ((uint64_t)1 << 31)) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_CalculationTimeForCiphering(ctx, &pvalue->calculationTimeForCiphering);
+      RT_CHECK(ctx, stat, 0, "calculationTimeForCiphering", -1, "SRNC-RelocationInfo-r8-IEs");
    }
-   /* activationTime */
+   /* count-C-List */
    if (present & ((uint64_t)1 << 30)) {
-      rtxCtxtPushElemName(ctx, "activationTime");
       pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_COUNT_C_List(ctx, &pvalue->count_C_List);
+      RT_CHECK(ctx, stat, 0, "count-C-List", -1, "SRNC-RelocationInfo-r8-IEs");
    }
-   /* delayRestrictionFlag */
+   /* cipheringInfoPerRB-List */
    if (present & ((uint64_t)1 << 29)) {
-      rtxCtxtPushElemName(ctx, "delayRestrictionFlag");
       pvalue->m |= 0x8u;
-      rtxCtxtPushTypeName(ctx, "DelayRestrictionFlag");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->delayRestrictionFlag = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_CipheringInfoPerRB_List_r4(ctx, &pvalue->cipheringInfoPerRB_List);
+      RT_CHECK(ctx, stat, 0, "cipheringInfoPerRB-List", -1, "SRNC-RelocationInfo-r8-IEs");
    }
-   /* new-U-RNTI */
+   /* integrityProtectionStatus */
+   stat = pd_ConsUnsigned(ctx, &pvalue->integrityProtectionStatus, 0, 1);
+   RT_CHECK(ctx, stat, "IntegrityProtectionStatus", "integrityProtectionStatus", -1, "SRNC-RelocationInfo-r8-IEs");
+   /* srb-SpecificIntegrityProtInfo */
    if (present & ((uint64_t)1 << 28)) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
       pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_SRB_SpecificIntegrityProtInfoList(ctx, &pvalue->srb_SpecificIntegrityProtInfo);
+      RT_CHECK(ctx, stat, 0, "srb-SpecificIntegrityProtInfo", -1, "SRNC-RelocationInfo-r8-IEs");
    }
-   /* new-C-RNTI */
+   /* implementationSpecificParams */
    if (present & ((uint64_t)1 << 27)) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
       pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_ImplementationSpecificParams(ctx, &pvalue->implementationSpecificParams);
+      RT_CHECK(ctx, stat, 0, "implementationSpecificParams", -1, "SRNC-RelocationInfo-r8-IEs");
    }
-   /* new-DSCH-RNTI */
+   /* u-RNTI */
+   stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, "SRNC-RelocationInfo-r8-IEs");
+   /* c-RNTI */
    if (present & ((uint64_t)1 << 26)) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
       pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->c_RNTI);
+      RT_CHECK(ctx, stat, 0, "c-RNTI", -1, "SRNC-RelocationInfo-r8-IEs");
    }
-   /* new-H-RNTI */
+   /* ue-RadioAccessCapability */
+   stat = asn1PD_UMTS_UE_RadioAccessCapability_r6(ctx, &pvalue->ue_RadioAccessCapability);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "SRNC-RelocationInfo-r8-IEs");
+   /* ue-RadioAccessCapability-ext */
    if (present & ((uint64_t)1 << 25)) {
-      rtxCtxtPushElemName(ctx, "new-H-RNTI");
       pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDDList(ctx, &pvalue->ue_RadioAccessCapability_ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-ext", -1, "SRNC-RelocationInfo-r8-IEs");
    }
-   /* newPrimary-E-RNTI */
+   /* ue-Positioning-LastKnownPos */
    if (present & ((uint64_t)1 << 24)) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
       pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UE_Positioning_LastKnownPos(ctx, &pvalue->ue_Positioning_LastKnownPos);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-LastKnownPos", -1, "SRNC-RelocationInfo-r8-IEs");
    }
-   /* newSecondary-E-RNTI */
+   /* uESpecificBehaviourInformation1idle */
    if (present & ((uint64_t)1 << 23)) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
       pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UESpecificBehaviourInformation1idle(ctx, &pvalue->uESpecificBehaviourInformation1idle);
+      RT_CHECK(ctx, stat, 0, "uESpecificBehaviourInformation1idle", -1, "SRNC-RelocationInfo-r8-IEs");
    }
-   /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ueMobilityStateIndicator */
+   /* uESpecificBehaviourInformation1interRAT */
    if (present & ((uint64_t)1 << 22)) {
-      rtxCtxtPushElemName(ctx, "ueMobilityStateIndicator");
       pvalue->m |= 0x400u;
-      rtxCtxtPushTypeName(ctx, "High-MobilityDetected");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->ueMobilityStateIndicator = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UESpecificBehaviourInformation1interRAT(ctx, &pvalue->uESpecificBehaviourInformation1interRAT);
+      RT_CHECK(ctx, stat, 0, "uESpecificBehaviourInformation1interRAT", -1, "SRNC-RelocationInfo-r8-IEs");
    }
-   /* utran-DRX-CycleLengthCoeff */
+   /* ueCapabilityContainer */
    if (present & ((uint64_t)1 << 21)) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
       pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      {
+         rtxDynBitStr carrier;
+         rtxContext outer;
+         stat = pd_DynBitString(ctx, &carrier);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer", -1, "SRNC-RelocationInfo-r8-IEs");
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_UE_CapabilityContainer_IEs(ctx, &pvalue->ueCapabilityContainer);
+            RT_CHECK(ctx, stat, 0, "ueCapabilityContainer", -1, "SRNC-RelocationInfo-r8-IEs");
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+      }
    }
-   /* cn-InformationInfo */
+   /* ueCapabilityContainer-RSC */
    if (present & ((uint64_t)1 << 20)) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
       pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      {
+         rtxDynBitStr carrier;
+         rtxContext outer;
+         stat = pd_DynBitString(ctx, &carrier);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-RSC", -1, "SRNC-RelocationInfo-r8-IEs");
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_RRCConnectionSetupComplete_r3_add_ext_IEs(ctx, &pvalue->ueCapabilityContainer_RSC);
+            RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-RSC", -1, "SRNC-RelocationInfo-r8-IEs");
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+      }
+   }
+   /* ueCapabilityContainer-UCI */
+   if (present & ((uint64_t)1 << 19)) {
+      pvalue->m |= 0x2000u;
+      {
+         rtxDynBitStr carrier;
+         rtxContext outer;
+         stat = pd_DynBitString(ctx, &carrier);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-UCI", -1, "SRNC-RelocationInfo-r8-IEs");
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_UECapabilityInformation_r3_add_ext_IEs(ctx, &pvalue->ueCapabilityContainer_UCI);
+            RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-UCI", -1, "SRNC-RelocationInfo-r8-IEs");
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+      }
+   }
+   /* ue-RATSpecificCapability */
+   if (present & ((uint64_t)1 << 18)) {
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_InterRAT_UE_RadioAccessCapabilityList_r5(ctx, &pvalue->ue_RATSpecificCapability);
+      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability", -1, "SRNC-RelocationInfo-r8-IEs");
    }
    /* ura-Identity */
-   if (present & ((uint64_t)1 << 19)) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportForChangeOfUE-Capability */
-   if (present & ((uint64_t)1 << 18)) {
-      rtxCtxtPushElemName(ctx, "supportForChangeOfUE-Capability");
-      pvalue->m |= 0x4000u;
-      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* responseToChangeOfUE-Capability */
    if (present & ((uint64_t)1 << 17)) {
-      rtxCtxtPushElemName(ctx, "responseToChangeOfUE-Capability");
       pvalue->m |= 0x8000u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->responseToChangeOfUE_Capability = ui;
-      }
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "SRNC-RelocationInfo-r8-IEs");
    }
-   /* defaultConfigForCellFACH */
+   /* srns-t-305 */
    if (present & ((uint64_t)1 << 16)) {
-      rtxCtxtPushElemName(ctx, "defaultConfigForCellFACH");
       pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_DefaultConfigForCellFACH(ctx, &pvalue->defaultConfigForCellFACH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUnsigned(ctx, &pvalue->srns_t_305, 0, 7);
+      RT_CHECK(ctx, stat, "T-305", "srns-t-305", -1, "SRNC-RelocationInfo-r8-IEs");
    }
-   /* specificationMode */
-   rtxCtxtPushElemName(ctx, "specificationMode");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode(ctx, &pvalue->specificationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
+   /* cn-CommonGSM-MAP-NAS-SysInfo */
+   stat = asn1PD_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo);
+   RT_CHECK(ctx, stat, 0, "cn-CommonGSM-MAP-NAS-SysInfo", -1, "SRNC-RelocationInfo-r8-IEs");
+   /* cn-DomainInformationList */
    if (present & ((uint64_t)1 << 15)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
       pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_CN_DomainInformationListFull(ctx, &pvalue->cn_DomainInformationList);
+      RT_CHECK(ctx, stat, 0, "cn-DomainInformationList", -1, "SRNC-RelocationInfo-r8-IEs");
    }
-   /* multi-frequencyInfo */
+   /* ongoingMeasRepList */
    if (present & ((uint64_t)1 << 14)) {
-      rtxCtxtPushElemName(ctx, "multi-frequencyInfo");
       pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_OngoingMeasRepList_r8(ctx, &pvalue->ongoingMeasRepList);
+      RT_CHECK(ctx, stat, 0, "ongoingMeasRepList", -1, "SRNC-RelocationInfo-r8-IEs");
    }
-   /* dtx-drx-TimingInfo */
+   /* interRATCellInfoIndication */
    if (present & ((uint64_t)1 << 13)) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-TimingInfo");
       pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUInt8(ctx, &pvalue->interRATCellInfoIndication, 0, 3);
+      RT_CHECK(ctx, stat, "InterRATCellInfoIndication", "interRATCellInfoIndication", -1, "SRNC-RelocationInfo-r8-IEs");
    }
-   /* dtx-drx-Info */
+   /* predefinedConfigStatusList */
+   stat = asn1PD_UMTS_PredefinedConfigStatusList(ctx, &pvalue->predefinedConfigStatusList);
+   RT_CHECK(ctx, stat, 0, "predefinedConfigStatusList", -1, "SRNC-RelocationInfo-r8-IEs");
+   /* srb-InformationList */
+   stat = asn1PD_UMTS_SRB_InformationSetupList_r8(ctx, &pvalue->srb_InformationList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationList", -1, "SRNC-RelocationInfo-r8-IEs");
+   /* rab-InformationList */
    if (present & ((uint64_t)1 << 12)) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-Info");
       pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hs-scch-LessInfo */
-   if (present & ((uint64_t)1 << 11)) {
-      rtxCtxtPushElemName(ctx, "hs-scch-LessInfo");
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mimoParameters */
-   if (present & ((uint64_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_MIMO_Parameters_r8(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint64_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      pvalue->m |= 0x800000u;
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-DPCH-Info */
-   if (present & ((uint64_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-      pvalue->m |= 0x1000000u;
-      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-EDCH-Information */
-   if (present & ((uint64_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
-      pvalue->m |= 0x2000000u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r8(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint64_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      pvalue->m |= 0x4000000u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonInformation */
-   if (present & ((uint64_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-      pvalue->m |= 0x8000000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint64_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-      pvalue->m |= 0x10000000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-SecondaryCellInfoFDD */
-   if (present & ((uint64_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "dl-SecondaryCellInfoFDD");
-      pvalue->m |= 0x20000000u;
-      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD(ctx, &pvalue->dl_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* controlChannelDRXInfo-TDD128 */
-   if (present & ((uint64_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "controlChannelDRXInfo-TDD128");
-      pvalue->m |= 0x40000000u;
-      stat = asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sps-Information-TDD128 */
-   if (present & ((uint64_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "sps-Information-TDD128");
-      pvalue->m |= 0x80000000u;
-      stat = asn1PD_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (present & ((uint64_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mbms-PL-ServiceRestrictInfo");
-      pvalue->m |= 0x100000000ull;
-      rtxCtxtPushTypeName(ctx, "MBMS-PL-ServiceRestrictInfo-r6");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_v890ext_IEs(rtxContext* ctx, RadioBearerReconfiguration_v890ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RadioBearerReconfiguration-v890ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* dl-SecondaryCellInfoFDD-v890ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dl-SecondaryCellInfoFDD-v890ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_v890ext(ctx, &pvalue->dl_SecondaryCellInfoFDD_v890ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_v8a0ext_IEs(rtxContext* ctx, RadioBearerReconfiguration_v8a0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RadioBearerReconfiguration-v8a0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r8_ext2(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerReconfiguration-v8a0ext */
-   rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-v8a0ext");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v8a0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v8a0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerReconfiguration-v7g0ext */
-   rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-v7g0ext");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v7g0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v7g0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v8a0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v8a0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerReconfiguration-v890ext */
-   rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-v890ext");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v890ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v890ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v7g0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v7g0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerReconfiguration-v7f0ext */
-   rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-v7f0ext");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v7f0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v7f0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v890NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v890NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerReconfiguration-v7d0ext */
-   rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-v7d0ext");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_v7d0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v7d0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v7f0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v7f0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* radioBearerReconfiguration-r8 */
-   rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-r8");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r8_IEs(ctx, &pvalue->radioBearerReconfiguration_r8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* radioBearerReconfiguration-r8-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-r8-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerReconfiguration_r8_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v7d0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v7d0NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs_responseToChangeOfUE_Capability(rtxContext* ctx, RadioBearerReconfiguration_r9_IEs_responseToChangeOfUE_Capability* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode_complete(rtxContext* ctx, RadioBearerReconfiguration_r9_IEs_specificationMode_complete* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 12);
-   RT_CHECK(ctx, stat);
-   /* rab-InformationReconfigList */
-   if (present & ((uint32_t)1 << 11)) {
-      rtxCtxtPushElemName(ctx, "rab-InformationReconfigList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RAB_InformationReconfigList_r8(ctx, &pvalue->rab_InformationReconfigList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rab-InformationMBMSPtpList */
-   if (present & ((uint32_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "rab-InformationMBMSPtpList");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RAB_InformationMBMSPtpList(ctx, &pvalue->rab_InformationMBMSPtpList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReconfigList */
-   if (present & ((uint32_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationReconfigList");
-      pvalue->m |= 0x4u;
-      stat = asn1PD_UMTS_RB_InformationReconfigList_r8(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationAffectedList */
-   if (present & ((uint32_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationAffectedList");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList_r8(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-PDCPContextRelocationList */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "rb-PDCPContextRelocationList");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_RB_PDCPContextRelocationList(ctx, &pvalue->rb_PDCPContextRelocationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdcp-ROHC-TargetMode */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "pdcp-ROHC-TargetMode");
-      pvalue->m |= 0x20u;
-      rtxCtxtPushTypeName(ctx, "PDCP-ROHC-TargetMode");
-      stat = pd_ConsUnsigned(ctx, &pvalue->pdcp_ROHC_TargetMode, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RAB_InformationSetupList_r8(ctx, &pvalue->rab_InformationList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationList", -1, "SRNC-RelocationInfo-r8-IEs");
    }
    /* ul-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
-      pvalue->m |= 0x40u;
+   if (present & ((uint64_t)1 << 11)) {
+      pvalue->m |= 0x200000u;
       stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "SRNC-RelocationInfo-r8-IEs");
    }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "ul-deletedTransChInfoList");
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   /* ul-TransChInfoList */
+   if (present & ((uint64_t)1 << 10)) {
+      pvalue->m |= 0x400000u;
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_TransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-TransChInfoList", -1, "SRNC-RelocationInfo-r8-IEs");
    }
    /* dl-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
-      pvalue->m |= 0x200u;
+   if (present & ((uint64_t)1 << 9)) {
+      pvalue->m |= 0x800000u;
       stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "SRNC-RelocationInfo-r8-IEs");
    }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dl-DeletedTransChInfoList");
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   /* dl-TransChInfoList */
+   if (present & ((uint64_t)1 << 8)) {
+      pvalue->m |= 0x1000000u;
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_TransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-TransChInfoList", -1, "SRNC-RelocationInfo-r8-IEs");
    }
-   /* dl-AddReconfTransChInfoList */
+   /* tpc-CombinationInfoList */
+   if (present & ((uint64_t)1 << 7)) {
+      pvalue->m |= 0x2000000u;
+      stat = asn1PD_UMTS_TPC_CombinationInfoList(ctx, &pvalue->tpc_CombinationInfoList);
+      RT_CHECK(ctx, stat, 0, "tpc-CombinationInfoList", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   /* e-RGCH-CombinationInfoList */
+   if (present & ((uint64_t)1 << 6)) {
+      pvalue->m |= 0x4000000u;
+      stat = asn1PD_UMTS_E_RGCH_CombinationInfoList(ctx, &pvalue->e_RGCH_CombinationInfoList);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-CombinationInfoList", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   /* storedCompressedModeInfo */
+   if (present & ((uint64_t)1 << 5)) {
+      pvalue->m |= 0x8000000u;
+      stat = asn1PD_UMTS_StoredCompressedModeInfo_r8(ctx, &pvalue->storedCompressedModeInfo);
+      RT_CHECK(ctx, stat, 0, "storedCompressedModeInfo", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   /* measurementReport */
+   if (present & ((uint64_t)1 << 4)) {
+      pvalue->m |= 0x10000000u;
+      {
+         rtxDynBitStr carrier;
+         rtxContext outer;
+         stat = pd_DynBitString(ctx, &carrier);
+         RT_CHECK(ctx, stat, 0, "measurementReport", -1, "SRNC-RelocationInfo-r8-IEs");
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_MeasurementReport(ctx, &pvalue->measurementReport);
+            RT_CHECK(ctx, stat, 0, "measurementReport", -1, "SRNC-RelocationInfo-r8-IEs");
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+      }
+   }
+   /* failureCause */
+   if (present & ((uint64_t)1 << 3)) {
+      pvalue->m |= 0x20000000u;
+      stat = asn1PD_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
+      RT_CHECK(ctx, stat, 0, "failureCause", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   /* ue-HistoryInformation */
+   if (present & ((uint64_t)1 << 2)) {
+      pvalue->m |= 0x40000000u;
+      stat = asn1PD_UMTS_UE_HistoryInformation(ctx, &pvalue->ue_HistoryInformation);
+      RT_CHECK(ctx, stat, 0, "ue-HistoryInformation", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   /* mbms-JoinedInformation */
+   if (present & ((uint64_t)1 << 1)) {
+      pvalue->m |= 0x80000000u;
+      stat = asn1PD_UMTS_MBMS_JoinedInformation_r6(ctx, &pvalue->mbms_JoinedInformation);
+      RT_CHECK(ctx, stat, 0, "mbms-JoinedInformation", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   /* mbmsSelectedServiceInfo */
+   if (present & ((uint64_t)1 << 0)) {
+      pvalue->m |= 0x100000000ull;
+      stat = asn1PD_UMTS_MBMS_SelectedServiceInfo(ctx, &pvalue->mbmsSelectedServiceInfo);
+      RT_CHECK(ctx, stat, 0, "mbmsSelectedServiceInfo", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   return stat;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v7f0ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v7f0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v7f0ext", -1, 0);
+   /* nonCriticalExtensions */
    if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r9(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* ctx, RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* pvalue)
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7e0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7e0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   /* defaultConfigMode */
-   rtxCtxtPushElemName(ctx, "defaultConfigMode");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigMode");
-   stat = pd_ConsUnsigned(ctx, &pvalue->defaultConfigMode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* defaultConfigIdentity */
-   rtxCtxtPushElemName(ctx, "defaultConfigIdentity");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigIdentity-r6");
-   stat = pd_ConsUInt8(ctx, &pvalue->defaultConfigIdentity, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v7e0ext */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_v7e0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v7e0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v7e0ext", -1, 0);
+   /* v7f0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
+   }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* ctx, RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration_preConfigMode* pvalue)
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-r8 */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_r8_IEs(ctx, &pvalue->sRNC_RelocationInfo_r8);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-r8", -1, 0);
+   /* sRNC-RelocationInfo-r8-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->sRNC_RelocationInfo_r8_add_ext);
+      RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-r8-add-ext", -1, 0);
+   }
+   /* v7e0NonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7e0NonCriticalExtensions(ctx, &pvalue->v7e0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7e0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_MeasurementCommandWithType_r9(rtxContext* RT_RESTRICT ctx, MeasurementCommandWithType_r9* RT_RESTRICT pvalue)
 {
    int stat;
    uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementCommandWithType-r9");
    pvalue->t = ui + 1;
    switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "predefinedConfigIdentity");
-         rtxCtxtPushTypeName(ctx, "PredefinedConfigIdentity");
-         stat = pd_ConsUInt8(ctx, &pvalue->u.predefinedConfigIdentity, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+      case 0: /* setup */
+         pvalue->u.setup = (MeasurementType_r9*)rtxMemHeapAlloc(ctx, sizeof(MeasurementType_r9));
+         if (pvalue->u.setup == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "setup", -1, "MeasurementCommandWithType-r9");
+         asn1Init_UMTS_MeasurementType_r9(pvalue->u.setup);
+         stat = asn1PD_UMTS_MeasurementType_r9(ctx, pvalue->u.setup);
+         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommandWithType-r9");
          break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "defaultConfig");
-         pvalue->u.defaultConfig = (RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig*)rtxMemHeapAllocZ(ctx, sizeof(RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig));
-         if (pvalue->u.defaultConfig == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+      case 1: /* modify */
+         break;
+      case 2: /* release */
          break;
       default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommandWithType-r9");
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration(rtxContext* ctx, RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration* pvalue)
+int asn1PD_UMTS_OngoingMeasRep_r9(rtxContext* RT_RESTRICT ctx, OngoingMeasRep_r9* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   /* preConfigMode */
-   rtxCtxtPushElemName(ctx, "preConfigMode");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode(rtxContext* ctx, RadioBearerReconfiguration_r9_IEs_specificationMode* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "complete");
-         pvalue->u.complete = (RadioBearerReconfiguration_r9_IEs_specificationMode_complete*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r9_IEs_specificationMode_complete));
-         if (pvalue->u.complete == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode_complete(pvalue->u.complete);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode_complete(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "preconfiguration");
-         pvalue->u.preconfiguration = (RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration));
-         if (pvalue->u.preconfiguration == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration(pvalue->u.preconfiguration);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "OngoingMeasRep-r9");
+   /* measurementIdentity */
+   stat = pd_ConsUInt8(ctx, &pvalue->measurementIdentity, 1, 16);
+   RT_CHECK(ctx, stat, "MeasurementIdentity", "measurementIdentity", -1, "OngoingMeasRep-r9");
+   /* measurementCommandWithType */
+   stat = asn1PD_UMTS_MeasurementCommandWithType_r9(ctx, &pvalue->measurementCommandWithType);
+   RT_CHECK(ctx, stat, 0, "measurementCommandWithType", -1, "OngoingMeasRep-r9");
+   /* measurementReportingMode */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
+      RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "OngoingMeasRep-r9");
+   }
+   /* additionalMeasurementID-List */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementID_List);
+      RT_CHECK(ctx, stat, 0, "additionalMeasurementID-List", -1, "OngoingMeasRep-r9");
    }
    return 0;
 }
 
-int asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs(rtxContext* ctx, RadioBearerReconfiguration_r9_IEs* pvalue)
+int asn1PD_UMTS_OngoingMeasRepList_r9(rtxContext* RT_RESTRICT ctx, OngoingMeasRepList_r9* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "OngoingMeasRepList-r9");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      OngoingMeasRep_r9* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(OngoingMeasRep_r9));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "OngoingMeasRep-r9", (int32_t)i, "OngoingMeasRepList-r9");
+      elem = (OngoingMeasRep_r9*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_OngoingMeasRep_r9(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_OngoingMeasRep_r9(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "OngoingMeasRep-r9", (int32_t)i, "OngoingMeasRepList-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TPC_Combination_Info_r9(rtxContext* RT_RESTRICT ctx, TPC_Combination_Info_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* primaryCPICH-Info */
+   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "TPC-Combination-Info-r9");
+   /* tpc-CombinationIndex */
+   stat = pd_ConsUInt8(ctx, &pvalue->tpc_CombinationIndex, 0, 5);
+   RT_CHECK(ctx, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, "TPC-Combination-Info-r9");
+   return 0;
+}
+
+int asn1PD_UMTS_TPC_CombinationInfoList_r9(rtxContext* RT_RESTRICT ctx, TPC_CombinationInfoList_r9* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TPC-CombinationInfoList-r9");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      TPC_Combination_Info_r9* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(TPC_Combination_Info_r9));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "TPC-Combination-Info-r9", (int32_t)i, "TPC-CombinationInfoList-r9");
+      elem = (TPC_Combination_Info_r9*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_TPC_Combination_Info_r9(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "TPC-Combination-Info-r9", (int32_t)i, "TPC-CombinationInfoList-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_E_RGCH_Combination_Info_r9(rtxContext* RT_RESTRICT ctx, E_RGCH_Combination_Info_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* primaryCPICH-Info */
+   stat = asn1PD_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "E-RGCH-Combination-Info-r9");
+   /* rg-CombinationIndex */
+   stat = pd_ConsUInt8(ctx, &pvalue->rg_CombinationIndex, 0, 5);
+   RT_CHECK(ctx, stat, 0, "rg-CombinationIndex", -1, "E-RGCH-Combination-Info-r9");
+   return 0;
+}
+
+int asn1PD_UMTS_E_RGCH_CombinationInfoList_r9(rtxContext* RT_RESTRICT ctx, E_RGCH_CombinationInfoList_r9* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-RGCH-CombinationInfoList-r9");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      E_RGCH_Combination_Info_r9* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(E_RGCH_Combination_Info_r9));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "E-RGCH-Combination-Info-r9", (int32_t)i, "E-RGCH-CombinationInfoList-r9");
+      elem = (E_RGCH_Combination_Info_r9*)(node + 1);
+      node->data = elem;
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_E_RGCH_Combination_Info_r9(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "E-RGCH-Combination-Info-r9", (int32_t)i, "E-RGCH-CombinationInfoList-r9");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r9_IEs(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r9_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
    uint64_t present;
-   rtxCtxtPushTypeName(ctx, "RadioBearerReconfiguration-r9-IEs");
    pvalue->m = 0;
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    {
       uint32_t hi, lo;
       stat = rtxDecBitsFast(ctx, &hi, 3);
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-r9-IEs");
       stat = rtxDecBitsFast(ctx, &lo, 32);
-      RT_CHECK(ctx, stat);
+      RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-r9-IEs");
       present = ((uint64_t)hi << 32) | lo;
    }
-   /* integrityProtectionModeInfo */
+   /* rb-IdentityForHOMessage */
    if (present & ((uint64_t)1 << 34)) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
       pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUInt8(ctx, &pvalue->rb_IdentityForHOMessage, 1, 32);
+      RT_CHECK(ctx, stat, "RB-Identity", "rb-IdentityForHOMessage", -1, "SRNC-RelocationInfo-r9-IEs");
    }
-   /* cipheringModeInfo */
+   /* stateOfRRC */
+   stat = pd_ConsUnsigned(ctx, &pvalue->stateOfRRC, 0, 3);
+   RT_CHECK(ctx, stat, "StateOfRRC", "stateOfRRC", -1, "SRNC-RelocationInfo-r9-IEs");
+   /* stateOfRRC-Procedure */
+   stat = pd_ConsUnsigned(ctx, &pvalue->stateOfRRC_Procedure, 0, 11);
+   RT_CHECK(ctx, stat, "StateOfRRC-Procedure", "stateOfRRC-Procedure", -1, "SRNC-RelocationInfo-r9-IEs");
+   /* cipheringStatusList */
+   stat = asn1PD_UMTS_CipheringStatusList_r4(ctx, &pvalue->cipheringStatusList);
+   RT_CHECK(ctx, stat, 0, "cipheringStatusList", -1, "SRNC-RelocationInfo-r9-IEs");
+   /* latestConfiguredCN-Domain */
+   stat = pd_ConsUnsigned(ctx, &pvalue->latestConfiguredCN_Domain, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "latestConfiguredCN-Domain", -1, "SRNC-RelocationInfo-r9-IEs");
+   /* calculationTimeForCiphering */
    if (present & ((uint64_t)1 << 33)) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
       pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_CalculationTimeForCiphering(ctx, &pvalue->calculationTimeForCiphering);
+      RT_CHECK(ctx, stat, 0, "calculationTimeForCiphering", -1, "SRNC-RelocationInfo-r9-IEs");
    }
-   /* activationTime */
+   /* count-C-List */
    if (present & ((uint64_t)1 << 32)) {
-      rtxCtxtPushElemName(ctx, "activationTime");
       pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_COUNT_C_List(ctx, &pvalue->count_C_List);
+      RT_CHECK(ctx, stat, 0, "count-C-List", -1, "SRNC-RelocationInfo-r9-IEs");
    }
-   /* delayRestrictionFlag */
+   /* cipheringInfoPerRB-List */
    if (present & ((uint64_t)1 << 31)) {
-      rtxCtxtPushElemName(ctx, "delayRestrictionFlag");
       pvalue->m |= 0x8u;
-      rtxCtxtPushTypeName(ctx, "DelayRestrictionFlag");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->delayRestrictionFlag = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_CipheringInfoPerRB_List_r4(ctx, &pvalue->cipheringInfoPerRB_List);
+      RT_CHECK(ctx, stat, 0, "cipheringInfoPerRB-List", -1, "SRNC-RelocationInfo-r9-IEs");
    }
-   /* new-U-RNTI */
+   /* integrityProtectionStatus */
+   stat = pd_ConsUnsigned(ctx, &pvalue->integrityProtectionStatus, 0, 1);
+   RT_CHECK(ctx, stat, "IntegrityProtectionStatus", "integrityProtectionStatus", -1, "SRNC-RelocationInfo-r9-IEs");
+   /* srb-SpecificIntegrityProtInfo */
    if (present & ((uint64_t)1 << 30)) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
       pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_SRB_SpecificIntegrityProtInfoList(ctx, &pvalue->srb_SpecificIntegrityProtInfo);
+      RT_CHECK(ctx, stat, 0, "srb-SpecificIntegrityProtInfo", -1, "SRNC-RelocationInfo-r9-IEs");
    }
-   /* new-C-RNTI */
+   /* implementationSpecificParams */
    if (present & ((uint64_t)1 << 29)) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
       pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_ImplementationSpecificParams(ctx, &pvalue->implementationSpecificParams);
+      RT_CHECK(ctx, stat, 0, "implementationSpecificParams", -1, "SRNC-RelocationInfo-r9-IEs");
    }
-   /* new-DSCH-RNTI */
+   /* u-RNTI */
+   stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, "SRNC-RelocationInfo-r9-IEs");
+   /* c-RNTI */
    if (present & ((uint64_t)1 << 28)) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
       pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->c_RNTI);
+      RT_CHECK(ctx, stat, 0, "c-RNTI", -1, "SRNC-RelocationInfo-r9-IEs");
    }
-   /* new-H-RNTI */
+   /* ue-RadioAccessCapability */
+   stat = asn1PD_UMTS_UE_RadioAccessCapability_r6(ctx, &pvalue->ue_RadioAccessCapability);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "SRNC-RelocationInfo-r9-IEs");
+   /* ue-RadioAccessCapability-ext */
    if (present & ((uint64_t)1 << 27)) {
-      rtxCtxtPushElemName(ctx, "new-H-RNTI");
       pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UE_RadioAccessCapabBandFDDList(ctx, &pvalue->ue_RadioAccessCapability_ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-ext", -1, "SRNC-RelocationInfo-r9-IEs");
    }
-   /* newPrimary-E-RNTI */
+   /* ue-Positioning-LastKnownPos */
    if (present & ((uint64_t)1 << 26)) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
       pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UE_Positioning_LastKnownPos(ctx, &pvalue->ue_Positioning_LastKnownPos);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-LastKnownPos", -1, "SRNC-RelocationInfo-r9-IEs");
    }
-   /* newSecondary-E-RNTI */
+   /* uESpecificBehaviourInformation1idle */
    if (present & ((uint64_t)1 << 25)) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
       pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UESpecificBehaviourInformation1idle(ctx, &pvalue->uESpecificBehaviourInformation1idle);
+      RT_CHECK(ctx, stat, 0, "uESpecificBehaviourInformation1idle", -1, "SRNC-RelocationInfo-r9-IEs");
    }
-   /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ueMobilityStateIndicator */
+   /* uESpecificBehaviourInformation1interRAT */
    if (present & ((uint64_t)1 << 24)) {
-      rtxCtxtPushElemName(ctx, "ueMobilityStateIndicator");
       pvalue->m |= 0x400u;
-      rtxCtxtPushTypeName(ctx, "High-MobilityDetected");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->ueMobilityStateIndicator = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UESpecificBehaviourInformation1interRAT(ctx, &pvalue->uESpecificBehaviourInformation1interRAT);
+      RT_CHECK(ctx, stat, 0, "uESpecificBehaviourInformation1interRAT", -1, "SRNC-RelocationInfo-r9-IEs");
    }
-   /* utran-DRX-CycleLengthCoeff */
+   /* ueCapabilityContainer */
    if (present & ((uint64_t)1 << 23)) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
       pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      {
+         rtxDynBitStr carrier;
+         rtxContext outer;
+         stat = pd_DynBitString(ctx, &carrier);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer", -1, "SRNC-RelocationInfo-r9-IEs");
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_UE_CapabilityContainer_IEs(ctx, &pvalue->ueCapabilityContainer);
+            RT_CHECK(ctx, stat, 0, "ueCapabilityContainer", -1, "SRNC-RelocationInfo-r9-IEs");
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+      }
    }
-   /* cn-InformationInfo */
+   /* ueCapabilityContainer-RSC */
    if (present & ((uint64_t)1 << 22)) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
       pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      {
+         rtxDynBitStr carrier;
+         rtxContext outer;
+         stat = pd_DynBitString(ctx, &carrier);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-RSC", -1, "SRNC-RelocationInfo-r9-IEs");
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_RRCConnectionSetupComplete_r3_add_ext_IEs(ctx, &pvalue->ueCapabilityContainer_RSC);
+            RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-RSC", -1, "SRNC-RelocationInfo-r9-IEs");
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+      }
+   }
+   /* ueCapabilityContainer-UCI */
+   if (present & ((uint64_t)1 << 21)) {
+      pvalue->m |= 0x2000u;
+      {
+         rtxDynBitStr carrier;
+         rtxContext outer;
+         stat = pd_DynBitString(ctx, &carrier);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-UCI", -1, "SRNC-RelocationInfo-r9-IEs");
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_UECapabilityInformation_r3_add_ext_IEs(ctx, &pvalue->ueCapabilityContainer_UCI);
+            RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-UCI", -1, "SRNC-RelocationInfo-r9-IEs");
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
+      }
+   }
+   /* ue-RATSpecificCapability */
+   if (present & ((uint64_t)1 << 20)) {
+      pvalue->m |= 0x4000u;
+      stat = asn1PD_UMTS_InterRAT_UE_RadioAccessCapabilityList_r5(ctx, &pvalue->ue_RATSpecificCapability);
+      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability", -1, "SRNC-RelocationInfo-r9-IEs");
    }
    /* ura-Identity */
-   if (present & ((uint64_t)1 << 21)) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportForChangeOfUE-Capability */
-   if (present & ((uint64_t)1 << 20)) {
-      rtxCtxtPushElemName(ctx, "supportForChangeOfUE-Capability");
-      pvalue->m |= 0x4000u;
-      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* responseToChangeOfUE-Capability */
    if (present & ((uint64_t)1 << 19)) {
-      rtxCtxtPushElemName(ctx, "responseToChangeOfUE-Capability");
       pvalue->m |= 0x8000u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->responseToChangeOfUE_Capability = ui;
-      }
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "SRNC-RelocationInfo-r9-IEs");
    }
-   /* defaultConfigForCellFACH */
+   /* srns-t-305 */
    if (present & ((uint64_t)1 << 18)) {
-      rtxCtxtPushElemName(ctx, "defaultConfigForCellFACH");
       pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_DefaultConfigForCellFACH(ctx, &pvalue->defaultConfigForCellFACH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUnsigned(ctx, &pvalue->srns_t_305, 0, 7);
+      RT_CHECK(ctx, stat, "T-305", "srns-t-305", -1, "SRNC-RelocationInfo-r9-IEs");
    }
-   /* specificationMode */
-   rtxCtxtPushElemName(ctx, "specificationMode");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode(ctx, &pvalue->specificationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
+   /* cn-CommonGSM-MAP-NAS-SysInfo */
+   stat = asn1PD_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo);
+   RT_CHECK(ctx, stat, 0, "cn-CommonGSM-MAP-NAS-SysInfo", -1, "SRNC-RelocationInfo-r9-IEs");
+   /* cn-DomainInformationList */
    if (present & ((uint64_t)1 << 17)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
       pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_CN_DomainInformationListFull(ctx, &pvalue->cn_DomainInformationList);
+      RT_CHECK(ctx, stat, 0, "cn-DomainInformationList", -1, "SRNC-RelocationInfo-r9-IEs");
    }
-   /* multi-frequencyInfo */
+   /* ongoingMeasRepList */
    if (present & ((uint64_t)1 << 16)) {
-      rtxCtxtPushElemName(ctx, "multi-frequencyInfo");
       pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_OngoingMeasRepList_r9(ctx, &pvalue->ongoingMeasRepList);
+      RT_CHECK(ctx, stat, 0, "ongoingMeasRepList", -1, "SRNC-RelocationInfo-r9-IEs");
    }
-   /* dtx-drx-TimingInfo */
+   /* interRATCellInfoIndication */
    if (present & ((uint64_t)1 << 15)) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-TimingInfo");
       pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pd_ConsUInt8(ctx, &pvalue->interRATCellInfoIndication, 0, 3);
+      RT_CHECK(ctx, stat, "InterRATCellInfoIndication", "interRATCellInfoIndication", -1, "SRNC-RelocationInfo-r9-IEs");
    }
-   /* dtx-drx-Info */
+   /* predefinedConfigStatusList */
+   stat = asn1PD_UMTS_PredefinedConfigStatusList(ctx, &pvalue->predefinedConfigStatusList);
+   RT_CHECK(ctx, stat, 0, "predefinedConfigStatusList", -1, "SRNC-RelocationInfo-r9-IEs");
+   /* srb-InformationList */
+   stat = asn1PD_UMTS_SRB_InformationSetupList_r8(ctx, &pvalue->srb_InformationList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationList", -1, "SRNC-RelocationInfo-r9-IEs");
+   /* rab-InformationList */
    if (present & ((uint64_t)1 << 14)) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-Info");
       pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_RAB_InformationSetupList_r8(ctx, &pvalue->rab_InformationList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationList", -1, "SRNC-RelocationInfo-r9-IEs");
    }
-   /* hs-scch-LessInfo */
+   /* ul-CommonTransChInfo */
    if (present & ((uint64_t)1 << 13)) {
-      rtxCtxtPushElemName(ctx, "hs-scch-LessInfo");
       pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "SRNC-RelocationInfo-r9-IEs");
    }
-   /* mimoParameters */
+   /* ul-TransChInfoList */
    if (present & ((uint64_t)1 << 12)) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
       pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_MIMO_Parameters_r9(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_TransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-TransChInfoList", -1, "SRNC-RelocationInfo-r9-IEs");
    }
-   /* maxAllowedUL-TX-Power */
+   /* dl-CommonTransChInfo */
    if (present & ((uint64_t)1 << 11)) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
       pvalue->m |= 0x800000u;
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "SRNC-RelocationInfo-r9-IEs");
    }
-   /* ul-DPCH-Info */
+   /* dl-TransChInfoList */
    if (present & ((uint64_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
       pvalue->m |= 0x1000000u;
-      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r9(ctx, &pvalue->dl_TransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-TransChInfoList", -1, "SRNC-RelocationInfo-r9-IEs");
    }
-   /* ul-EDCH-Information */
+   /* tpc-CombinationInfoList */
    if (present & ((uint64_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
       pvalue->m |= 0x2000000u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r9(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_TPC_CombinationInfoList(ctx, &pvalue->tpc_CombinationInfoList);
+      RT_CHECK(ctx, stat, 0, "tpc-CombinationInfoList", -1, "SRNC-RelocationInfo-r9-IEs");
    }
-   /* ul-SecondaryCellInfoFDD */
+   /* e-RGCH-CombinationInfoList */
    if (present & ((uint64_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "ul-SecondaryCellInfoFDD");
       pvalue->m |= 0x4000000u;
-      stat = asn1PD_UMTS_UL_SecondaryCellInfoFDD(ctx, &pvalue->ul_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_E_RGCH_CombinationInfoList(ctx, &pvalue->e_RGCH_CombinationInfoList);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-CombinationInfoList", -1, "SRNC-RelocationInfo-r9-IEs");
    }
-   /* dl-HSPDSCH-Information */
+   /* storedCompressedModeInfo */
    if (present & ((uint64_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
       pvalue->m |= 0x8000000u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_StoredCompressedModeInfo_r8(ctx, &pvalue->storedCompressedModeInfo);
+      RT_CHECK(ctx, stat, 0, "storedCompressedModeInfo", -1, "SRNC-RelocationInfo-r9-IEs");
    }
-   /* dl-CommonInformation */
+   /* secondary-tpc-CombinationInfoList */
    if (present & ((uint64_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
       pvalue->m |= 0x10000000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_TPC_CombinationInfoList_r9(ctx, &pvalue->secondary_tpc_CombinationInfoList);
+      RT_CHECK(ctx, stat, 0, "secondary-tpc-CombinationInfoList", -1, "SRNC-RelocationInfo-r9-IEs");
    }
-   /* dl-InformationPerRL-List */
+   /* secondary-e-RGCH-CombinationInfoList */
    if (present & ((uint64_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
       pvalue->m |= 0x20000000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PD_UMTS_E_RGCH_CombinationInfoList_r9(ctx, &pvalue->secondary_e_RGCH_CombinationInfoList);
+      RT_CHECK(ctx, stat, 0, "secondary-e-RGCH-CombinationInfoList", -1, "SRNC-RelocationInfo-r9-IEs");
    }
-   /* dl-SecondaryCellInfoFDD */
+   /* measurementReport */
    if (present & ((uint64_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "dl-SecondaryCellInfoFDD");
       pvalue->m |= 0x40000000u;
-      stat = asn1PD_UMTS_DL_SecondaryCellInfoFDD_r9(ctx, &pvalue->dl_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* controlChannelDRXInfo-TDD128 */
-   if (present & ((uint64_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "controlChannelDRXInfo-TDD128");
-      pvalue->m |= 0x80000000u;
-      stat = asn1PD_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sps-Information-TDD128 */
-   if (present & ((uint64_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "sps-Information-TDD128");
-      pvalue->m |= 0x100000000ull;
-      stat = asn1PD_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (present & ((uint64_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "mbms-PL-ServiceRestrictInfo");
-      pvalue->m |= 0x200000000ull;
-      rtxCtxtPushTypeName(ctx, "MBMS-PL-ServiceRestrictInfo-r6");
       {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
+         rtxDynBitStr carrier;
+         rtxContext outer;
+         stat = pd_DynBitString(ctx, &carrier);
+         RT_CHECK(ctx, stat, 0, "measurementReport", -1, "SRNC-RelocationInfo-r9-IEs");
+         rtxCopyContext(&outer, ctx);
+         stat = pu_setBuffer(ctx, carrier.data, (carrier.numbits + 7) / 8, ctx->aligned);
+         if (stat == 0) {
+            /* a failure leaves the context on the inner buffer: nothing goes on decoding on it */
+            stat = asn1PD_UMTS_MeasurementReport(ctx, &pvalue->measurementReport);
+            RT_CHECK(ctx, stat, 0, "measurementReport", -1, "SRNC-RelocationInfo-r9-IEs");
+         }
+         rtxCopyContext(ctx, &outer);
+         rtxMemHeapFreePtr(ctx, (void*)carrier.data);
       }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
    }
-   /* cellDCHMeasOccasionInfo-TDD128 */
-   if (present & ((uint64_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cellDCHMeasOccasionInfo-TDD128");
-      pvalue->m |= 0x400000000ull;
-      stat = asn1PD_UMTS_CellDCHMeasOccasionInfo_TDD128_r9(ctx, &pvalue->cellDCHMeasOccasionInfo_TDD128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* radioBearerReconfiguration-r9 */
-   rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-r9");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_r9_IEs(ctx, &pvalue->radioBearerReconfiguration_r9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* radioBearerReconfiguration-r9-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "radioBearerReconfiguration-r9-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerReconfiguration_r9_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r9");
-         pvalue->u.r9 = (RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9));
-         if (pvalue->u.r9 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(pvalue->u.r9);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r8");
-         pvalue->u.r8 = (RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8));
-         if (pvalue->u.r8 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(pvalue->u.r8);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r7");
-         pvalue->u.r7 = (RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7));
-         if (pvalue->u.r7 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(pvalue->u.r7);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r6");
-         pvalue->u.r6 = (RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6));
-         if (pvalue->u.r6 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(pvalue->u.r6);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(ctx, pvalue->u.r6);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r5");
-         pvalue->u.r5 = (RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5));
-         if (pvalue->u.r5 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5(pvalue->u.r5);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5(ctx, pvalue->u.r5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3_criticalExtensions* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r4");
-         pvalue->u.r4 = (RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4));
-         if (pvalue->u.r4 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4(pvalue->u.r4);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         pvalue->u.criticalExtensions = (RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions));
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3(rtxContext* ctx, RadioBearerReconfiguration_later_than_r3* pvalue)
-{
-   int stat = 0;
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* criticalExtensions */
-   rtxCtxtPushElemName(ctx, "criticalExtensions");
-   stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfiguration(rtxContext* ctx, RadioBearerReconfiguration* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   rtxCtxtPushTypeName(ctx, "RadioBearerReconfiguration");
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "r3");
-         pvalue->u.r3 = (RadioBearerReconfiguration_r3*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_r3));
-         if (pvalue->u.r3 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RadioBearerReconfiguration_r3(pvalue->u.r3);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "later-than-r3");
-         pvalue->u.later_than_r3 = (RadioBearerReconfiguration_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration_later_than_r3));
-         if (pvalue->u.later_than_r3 == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RadioBearerReconfiguration_later_than_r3(pvalue->u.later_than_r3);
-         stat = asn1PD_UMTS_RadioBearerReconfiguration_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfigurationComplete_v770ext_IEs_deferredMeasurementControlReading(rtxContext* ctx, RadioBearerReconfigurationComplete_v770ext_IEs_deferredMeasurementControlReading* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfigurationComplete_v770ext_IEs(rtxContext* ctx, RadioBearerReconfigurationComplete_v770ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RadioBearerReconfigurationComplete-v770ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* ext-UL-TimingAdvance */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ext-UL-TimingAdvance");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_EXT_UL_TimingAdvance(ctx, &pvalue->ext_UL_TimingAdvance);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* deferredMeasurementControlReading */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "deferredMeasurementControlReading");
-      pvalue->m |= 0x2u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->deferredMeasurementControlReading = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, RadioBearerReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, RadioBearerReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerReconfigurationComplete-v770ext */
-   rtxCtxtPushElemName(ctx, "radioBearerReconfigurationComplete-v770ext");
-   stat = asn1PD_UMTS_RadioBearerReconfigurationComplete_v770ext_IEs(ctx, &pvalue->radioBearerReconfigurationComplete_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfigurationComplete_laterNonCriticalExtensions(rtxContext* ctx, RadioBearerReconfigurationComplete_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* radioBearerReconfigurationComplete-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "radioBearerReconfigurationComplete-r3-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerReconfigurationComplete_r3_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfigurationComplete(rtxContext* ctx, RadioBearerReconfigurationComplete* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RadioBearerReconfigurationComplete");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 6);
-   RT_CHECK(ctx, stat);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ul-IntegProtActivationInfo */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "ul-IntegProtActivationInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtActivationInfo(ctx, &pvalue->ul_IntegProtActivationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-TimingAdvance */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "ul-TimingAdvance");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "UL-TimingAdvance");
-      stat = pd_ConsUInt8(ctx, &pvalue->ul_TimingAdvance, 0, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* count-C-ActivationTime */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "count-C-ActivationTime");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->count_C_ActivationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CounterSynchronisationInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "ul-CounterSynchronisationInfo");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_UL_CounterSynchronisationInfo(ctx, &pvalue->ul_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_RadioBearerReconfigurationComplete_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfigurationFailure_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, RadioBearerReconfigurationFailure_laterNonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfigurationFailure_laterNonCriticalExtensions(rtxContext* ctx, RadioBearerReconfigurationFailure_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* radioBearerReconfigurationFailure-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "radioBearerReconfigurationFailure-r3-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerReconfigurationFailure_r3_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerReconfigurationFailure_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerReconfigurationFailure(rtxContext* ctx, RadioBearerReconfigurationFailure* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RadioBearerReconfigurationFailure");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
    /* failureCause */
-   rtxCtxtPushElemName(ctx, "failureCause");
-   stat = asn1PD_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* potentiallySuccesfulBearerList */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "potentiallySuccesfulBearerList");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RB_IdentityList(ctx, &pvalue->potentiallySuccesfulBearerList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerReconfigurationFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r3_IEs_dummy_fdd(rtxContext* ctx, RadioBearerRelease_r3_IEs_dummy_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* dummy1 */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dummy1");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "CPCH-SetID");
-      stat = pd_ConsUInt8(ctx, &pvalue->dummy1, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy2 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy2");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r3_IEs_dummy(rtxContext* ctx, RadioBearerRelease_r3_IEs_dummy* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (RadioBearerRelease_r3_IEs_dummy_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_r3_IEs_dummy_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RadioBearerRelease_r3_IEs_dummy_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_RadioBearerRelease_r3_IEs_dummy_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r3_IEs_modeSpecificPhysChInfo_fdd(rtxContext* ctx, RadioBearerRelease_r3_IEs_modeSpecificPhysChInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r3_IEs_modeSpecificPhysChInfo(rtxContext* ctx, RadioBearerRelease_r3_IEs_modeSpecificPhysChInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (RadioBearerRelease_r3_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_r3_IEs_modeSpecificPhysChInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RadioBearerRelease_r3_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_RadioBearerRelease_r3_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r3_IEs(rtxContext* ctx, RadioBearerRelease_r3_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RadioBearerRelease-r3-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 24);
-   RT_CHECK(ctx, stat);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   stat = pd_ConsUInt8(ctx, &pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 23)) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 22)) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 21)) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 20)) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 19)) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 18)) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
-      pvalue->m |= 0x20u;
-      rtxCtxtPushTypeName(ctx, "UTRAN-DRX-CycleLengthCoefficient");
-      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 17)) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* signallingConnectionRelIndication */
-   if (present & ((uint32_t)1 << 16)) {
-      rtxCtxtPushElemName(ctx, "signallingConnectionRelIndication");
-      pvalue->m |= 0x80u;
-      rtxCtxtPushTypeName(ctx, "CN-DomainIdentity");
-      stat = pd_ConsUnsigned(ctx, &pvalue->signallingConnectionRelIndication, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 15)) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rab-InformationReconfigList */
-   if (present & ((uint32_t)1 << 14)) {
-      rtxCtxtPushElemName(ctx, "rab-InformationReconfigList");
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReleaseList */
-   rtxCtxtPushElemName(ctx, "rb-InformationReleaseList");
-   stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rb-InformationAffectedList */
-   if (present & ((uint32_t)1 << 13)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationAffectedList");
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint32_t)1 << 12)) {
-      rtxCtxtPushElemName(ctx, "dl-CounterSynchronisationInfo");
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 11)) {
-      rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint32_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "ul-deletedTransChInfoList");
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_RadioBearerRelease_r3_IEs_dummy(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "dl-DeletedTransChInfoList");
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfo2List(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      pvalue->m |= 0x100000u;
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-ChannelRequirement */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "ul-ChannelRequirement");
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_UL_ChannelRequirement(ctx, &pvalue->ul_ChannelRequirement);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificPhysChInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificPhysChInfo");
-   stat = asn1PD_UMTS_RadioBearerRelease_r3_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonInformation */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_DL_CommonInformation(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-      pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_v3a0ext(rtxContext* ctx, RadioBearerRelease_v3a0ext* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RadioBearerRelease-v3a0ext");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_v4b0ext_IEs(rtxContext* ctx, RadioBearerRelease_v4b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RadioBearerRelease-v4b0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "SSDT-UL");
-      stat = pd_ConsUnsigned(ctx, &pvalue->dummy, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cell-id-PerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "cell-id-PerRL-List");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CellIdentity_PerRL_List(ctx, &pvalue->cell_id_PerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_v590ext_IEs(rtxContext* ctx, RadioBearerRelease_v590ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RadioBearerRelease-v590ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dl-TPC-PowerOffsetPerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-TPC-PowerOffsetPerRL-List");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_TPC_PowerOffsetPerRL_List(ctx, &pvalue->dl_TPC_PowerOffsetPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_v690ext_IEs_postVerificationPeriod(rtxContext* ctx, RadioBearerRelease_v690ext_IEs_postVerificationPeriod* pvalue)
-{
-   int stat;
-   {
-      uint32_t ui;
-      stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-      RT_CHECK(ctx, stat);
-      stat = ui != 0 ? RT_ERR_INVENUM : 0;
-      RT_CHECK(ctx, stat);
-      *pvalue = ui;
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_v690ext_IEs(rtxContext* ctx, RadioBearerRelease_v690ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RadioBearerRelease-v690ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 8);
-   RT_CHECK(ctx, stat);
-   /* primary-plmn-Identity */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "primary-plmn-Identity");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* harq-Preamble-Mode */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "harq-Preamble-Mode");
-      pvalue->m |= 0x2u;
-      rtxCtxtPushTypeName(ctx, "HARQ-Preamble-Mode");
-      stat = pd_ConsUInt8(ctx, &pvalue->harq_Preamble_Mode, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* beaconPLEst */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "beaconPLEst");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "BEACON-PL-Est");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->beaconPLEst = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* postVerificationPeriod */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "postVerificationPeriod");
-      pvalue->m |= 0x8u;
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->postVerificationPeriod = ui;
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dhs-sync */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "dhs-sync");
-      pvalue->m |= 0x10u;
-      rtxCtxtPushTypeName(ctx, "DHS-Sync");
-      stat = pd_ConsInt8(ctx, &pvalue->dhs_sync, -20, 10);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* timingMaintainedSynchInd */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "timingMaintainedSynchInd");
-      pvalue->m |= 0x20u;
-      rtxCtxtPushTypeName(ctx, "TimingMaintainedSynchInd");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->timingMaintainedSynchInd = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "mbms-PL-ServiceRestrictInfo");
-      pvalue->m |= 0x40u;
-      rtxCtxtPushTypeName(ctx, "MBMS-PL-ServiceRestrictInfo-r6");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mbms-RB-ListReleasedToChangeTransferMode */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mbms-RB-ListReleasedToChangeTransferMode");
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->mbms_RB_ListReleasedToChangeTransferMode);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_v770ext_IEs(rtxContext* ctx, RadioBearerRelease_v770ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RadioBearerRelease-v770ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* ueMobilityStateIndicator */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "ueMobilityStateIndicator");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "High-MobilityDetected");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->ueMobilityStateIndicator = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerRelease-v770ext */
-   rtxCtxtPushElemName(ctx, "radioBearerRelease-v770ext");
-   stat = asn1PD_UMTS_RadioBearerRelease_v770ext_IEs(ctx, &pvalue->radioBearerRelease_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* ctx, RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerRelease-v690ext */
-   rtxCtxtPushElemName(ctx, "radioBearerRelease-v690ext");
-   stat = asn1PD_UMTS_RadioBearerRelease_v690ext_IEs(ctx, &pvalue->radioBearerRelease_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* ctx, RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerRelease-v590ext */
-   rtxCtxtPushElemName(ctx, "radioBearerRelease-v590ext");
-   stat = asn1PD_UMTS_RadioBearerRelease_v590ext_IEs(ctx, &pvalue->radioBearerRelease_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* ctx, RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerRelease-v4b0ext */
-   rtxCtxtPushElemName(ctx, "radioBearerRelease-v4b0ext");
-   stat = asn1PD_UMTS_RadioBearerRelease_v4b0ext_IEs(ctx, &pvalue->radioBearerRelease_v4b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v590NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* ctx, RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* radioBearerRelease-r3-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "radioBearerRelease-r3-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerRelease_r3_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v4b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v4b0NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions(rtxContext* ctx, RadioBearerRelease_r3_v3a0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerRelease-v3a0ext */
-   rtxCtxtPushElemName(ctx, "radioBearerRelease-v3a0ext");
-   stat = asn1PD_UMTS_RadioBearerRelease_v3a0ext(ctx, &pvalue->radioBearerRelease_v3a0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* laterNonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r3(rtxContext* ctx, RadioBearerRelease_r3* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerRelease-r3 */
-   rtxCtxtPushElemName(ctx, "radioBearerRelease-r3");
-   stat = asn1PD_UMTS_RadioBearerRelease_r3_IEs(ctx, &pvalue->radioBearerRelease_r3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v3a0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v3a0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r4_IEs_dummy_fdd(rtxContext* ctx, RadioBearerRelease_r4_IEs_dummy_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* dummy1 */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dummy1");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "CPCH-SetID");
-      stat = pd_ConsUInt8(ctx, &pvalue->dummy1, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy2 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy2");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r4_IEs_dummy(rtxContext* ctx, RadioBearerRelease_r4_IEs_dummy* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (RadioBearerRelease_r4_IEs_dummy_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_r4_IEs_dummy_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RadioBearerRelease_r4_IEs_dummy_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_RadioBearerRelease_r4_IEs_dummy_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r4_IEs_modeSpecificPhysChInfo_fdd(rtxContext* ctx, RadioBearerRelease_r4_IEs_modeSpecificPhysChInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r4_IEs_modeSpecificPhysChInfo(rtxContext* ctx, RadioBearerRelease_r4_IEs_modeSpecificPhysChInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (RadioBearerRelease_r4_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_r4_IEs_modeSpecificPhysChInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RadioBearerRelease_r4_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_RadioBearerRelease_r4_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r4_IEs(rtxContext* ctx, RadioBearerRelease_r4_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RadioBearerRelease-r4-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 25);
-   RT_CHECK(ctx, stat);
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 24)) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 23)) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 22)) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 21)) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 20)) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 19)) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 18)) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
-      pvalue->m |= 0x40u;
-      rtxCtxtPushTypeName(ctx, "UTRAN-DRX-CycleLengthCoefficient");
-      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 17)) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* signallingConnectionRelIndication */
-   if (present & ((uint32_t)1 << 16)) {
-      rtxCtxtPushElemName(ctx, "signallingConnectionRelIndication");
-      pvalue->m |= 0x100u;
-      rtxCtxtPushTypeName(ctx, "CN-DomainIdentity");
-      stat = pd_ConsUnsigned(ctx, &pvalue->signallingConnectionRelIndication, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 15)) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
-      pvalue->m |= 0x200u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rab-InformationReconfigList */
-   if (present & ((uint32_t)1 << 14)) {
-      rtxCtxtPushElemName(ctx, "rab-InformationReconfigList");
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReleaseList */
-   rtxCtxtPushElemName(ctx, "rb-InformationReleaseList");
-   stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rb-InformationAffectedList */
-   if (present & ((uint32_t)1 << 13)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationAffectedList");
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint32_t)1 << 12)) {
-      rtxCtxtPushElemName(ctx, "dl-CounterSynchronisationInfo");
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 11)) {
-      rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint32_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "ul-deletedTransChInfoList");
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_RadioBearerRelease_r4_IEs_dummy(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "dl-DeletedTransChInfoList");
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r4(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      pvalue->m |= 0x200000u;
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-ChannelRequirement */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "ul-ChannelRequirement");
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_UL_ChannelRequirement_r4(ctx, &pvalue->ul_ChannelRequirement);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificPhysChInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificPhysChInfo");
-   stat = asn1PD_UMTS_RadioBearerRelease_r4_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonInformation */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-      pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-      pvalue->m |= 0x1000000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r4(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerRelease-v770ext */
-   rtxCtxtPushElemName(ctx, "radioBearerRelease-v770ext");
-   stat = asn1PD_UMTS_RadioBearerRelease_v770ext_IEs(ctx, &pvalue->radioBearerRelease_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* ctx, RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerRelease-v690ext */
-   rtxCtxtPushElemName(ctx, "radioBearerRelease-v690ext");
-   stat = asn1PD_UMTS_RadioBearerRelease_v690ext_IEs(ctx, &pvalue->radioBearerRelease_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* ctx, RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerRelease-v590ext */
-   rtxCtxtPushElemName(ctx, "radioBearerRelease-v590ext");
-   stat = asn1PD_UMTS_RadioBearerRelease_v590ext_IEs(ctx, &pvalue->radioBearerRelease_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* ctx, RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* radioBearerRelease-r4-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "radioBearerRelease-r4-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerRelease_r4_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v590NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4(rtxContext* ctx, RadioBearerRelease_later_than_r3_criticalExtensions_r4* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerRelease-r4 */
-   rtxCtxtPushElemName(ctx, "radioBearerRelease-r4");
-   stat = asn1PD_UMTS_RadioBearerRelease_r4_IEs(ctx, &pvalue->radioBearerRelease_r4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v4d0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v4d0NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r5_IEs_dummy_fdd(rtxContext* ctx, RadioBearerRelease_r5_IEs_dummy_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* dummy1 */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dummy1");
-      pvalue->m |= 0x1u;
-      rtxCtxtPushTypeName(ctx, "CPCH-SetID");
-      stat = pd_ConsUInt8(ctx, &pvalue->dummy1, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy2 */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy2");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r5_IEs_dummy(rtxContext* ctx, RadioBearerRelease_r5_IEs_dummy* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (RadioBearerRelease_r5_IEs_dummy_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_r5_IEs_dummy_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RadioBearerRelease_r5_IEs_dummy_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_RadioBearerRelease_r5_IEs_dummy_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r5_IEs_modeSpecificPhysChInfo_fdd(rtxContext* ctx, RadioBearerRelease_r5_IEs_modeSpecificPhysChInfo_fdd* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r5_IEs_modeSpecificPhysChInfo(rtxContext* ctx, RadioBearerRelease_r5_IEs_modeSpecificPhysChInfo* pvalue)
-{
-   int stat;
-   uint32_t ui;
-   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
-   RT_CHECK(ctx, stat);
-   pvalue->t = ui + 1;
-   switch (ui) {
-      case 0:
-         rtxCtxtPushElemName(ctx, "fdd");
-         pvalue->u.fdd = (RadioBearerRelease_r5_IEs_modeSpecificPhysChInfo_fdd*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease_r5_IEs_modeSpecificPhysChInfo_fdd));
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_NOMEM);
-         asn1Init_UMTS_RadioBearerRelease_r5_IEs_modeSpecificPhysChInfo_fdd(pvalue->u.fdd);
-         stat = asn1PD_UMTS_RadioBearerRelease_r5_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         RT_RAISE(ctx, RT_ERR_INVOPT);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r5_IEs(rtxContext* ctx, RadioBearerRelease_r5_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RadioBearerRelease-r5-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 27);
-   RT_CHECK(ctx, stat);
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 26)) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 25)) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 24)) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 23)) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 22)) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 21)) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-H-RNTI */
-   if (present & ((uint32_t)1 << 20)) {
-      rtxCtxtPushElemName(ctx, "new-H-RNTI");
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 19)) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
-      pvalue->m |= 0x80u;
-      rtxCtxtPushTypeName(ctx, "UTRAN-DRX-CycleLengthCoefficient");
-      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 18)) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* signallingConnectionRelIndication */
-   if (present & ((uint32_t)1 << 17)) {
-      rtxCtxtPushElemName(ctx, "signallingConnectionRelIndication");
-      pvalue->m |= 0x200u;
-      rtxCtxtPushTypeName(ctx, "CN-DomainIdentity");
-      stat = pd_ConsUnsigned(ctx, &pvalue->signallingConnectionRelIndication, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 16)) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rab-InformationReconfigList */
-   if (present & ((uint32_t)1 << 15)) {
-      rtxCtxtPushElemName(ctx, "rab-InformationReconfigList");
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReleaseList */
-   rtxCtxtPushElemName(ctx, "rb-InformationReleaseList");
-   stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rb-InformationAffectedList */
-   if (present & ((uint32_t)1 << 14)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationAffectedList");
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList_r5(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint32_t)1 << 13)) {
-      rtxCtxtPushElemName(ctx, "dl-CounterSynchronisationInfo");
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 12)) {
-      rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint32_t)1 << 11)) {
-      rtxCtxtPushElemName(ctx, "ul-deletedTransChInfoList");
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy */
-   if (present & ((uint32_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_RadioBearerRelease_r5_IEs_dummy(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "dl-DeletedTransChInfoList");
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r5(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      pvalue->m |= 0x400000u;
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-ChannelRequirement */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "ul-ChannelRequirement");
-      pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_UL_ChannelRequirement_r5(ctx, &pvalue->ul_ChannelRequirement);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificPhysChInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificPhysChInfo");
-   stat = asn1PD_UMTS_RadioBearerRelease_r5_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      pvalue->m |= 0x1000000u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonInformation */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-      pvalue->m |= 0x2000000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r5(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-      pvalue->m |= 0x4000000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r5(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerRelease-v770ext */
-   rtxCtxtPushElemName(ctx, "radioBearerRelease-v770ext");
-   stat = asn1PD_UMTS_RadioBearerRelease_v770ext_IEs(ctx, &pvalue->radioBearerRelease_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions(rtxContext* ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerRelease-v690ext */
-   rtxCtxtPushElemName(ctx, "radioBearerRelease-v690ext");
-   stat = asn1PD_UMTS_RadioBearerRelease_v690ext_IEs(ctx, &pvalue->radioBearerRelease_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5(rtxContext* ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* radioBearerRelease-r5 */
-   rtxCtxtPushElemName(ctx, "radioBearerRelease-r5");
-   stat = asn1PD_UMTS_RadioBearerRelease_r5_IEs(ctx, &pvalue->radioBearerRelease_r5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* radioBearerRelease-r5-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "radioBearerRelease-r5-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerRelease_r5_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v690NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r6_IEs(rtxContext* ctx, RadioBearerRelease_r6_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RadioBearerRelease-r6-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 32);
-   RT_CHECK(ctx, stat);
-   /* integrityProtectionModeInfo */
-   if (present & ((uint32_t)1 << 31)) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint32_t)1 << 30)) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* activationTime */
-   if (present & ((uint32_t)1 << 29)) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-U-RNTI */
-   if (present & ((uint32_t)1 << 28)) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-C-RNTI */
-   if (present & ((uint32_t)1 << 27)) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint32_t)1 << 26)) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-H-RNTI */
-   if (present & ((uint32_t)1 << 25)) {
-      rtxCtxtPushElemName(ctx, "new-H-RNTI");
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint32_t)1 << 24)) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint32_t)1 << 23)) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint32_t)1 << 22)) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
-      pvalue->m |= 0x200u;
-      rtxCtxtPushTypeName(ctx, "UTRAN-DRX-CycleLengthCoefficient");
-      stat = pd_ConsUInt8(ctx, &pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint32_t)1 << 21)) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* signallingConnectionRelIndication */
-   if (present & ((uint32_t)1 << 20)) {
-      rtxCtxtPushElemName(ctx, "signallingConnectionRelIndication");
-      pvalue->m |= 0x800u;
-      rtxCtxtPushTypeName(ctx, "CN-DomainIdentity");
-      stat = pd_ConsUnsigned(ctx, &pvalue->signallingConnectionRelIndication, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ura-Identity */
-   if (present & ((uint32_t)1 << 19)) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
-      pvalue->m |= 0x1000u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rab-InformationReconfigList */
-   if (present & ((uint32_t)1 << 18)) {
-      rtxCtxtPushElemName(ctx, "rab-InformationReconfigList");
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReleaseList */
-   rtxCtxtPushElemName(ctx, "rb-InformationReleaseList");
-   stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rb-InformationReconfigList */
-   if (present & ((uint32_t)1 << 17)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationReconfigList");
-      pvalue->m |= 0x4000u;
-      stat = asn1PD_UMTS_RB_InformationReconfigList_r6(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationAffectedList */
-   if (present & ((uint32_t)1 << 16)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationAffectedList");
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList_r6(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint32_t)1 << 15)) {
-      rtxCtxtPushElemName(ctx, "dl-CounterSynchronisationInfo");
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 14)) {
-      rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint32_t)1 << 13)) {
-      rtxCtxtPushElemName(ctx, "ul-deletedTransChInfoList");
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 12)) {
-      rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r6(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonTransChInfo */
-   if (present & ((uint32_t)1 << 11)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint32_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "dl-DeletedTransChInfoList");
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r5(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint32_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (present & ((uint32_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint32_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      pvalue->m |= 0x1000000u;
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-DPCH-Info */
-   if (present & ((uint32_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-      pvalue->m |= 0x2000000u;
-      stat = asn1PD_UMTS_UL_DPCH_Info_r6(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-EDCH-Information */
-   if (present & ((uint32_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
-      pvalue->m |= 0x4000000u;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r6(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint32_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      pvalue->m |= 0x8000000u;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r6(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonInformation */
-   if (present & ((uint32_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-      pvalue->m |= 0x10000000u;
-      stat = asn1PD_UMTS_DL_CommonInformation_r6(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-InformationPerRL-List */
-   if (present & ((uint32_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-      pvalue->m |= 0x20000000u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r6(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "mbms-PL-ServiceRestrictInfo");
-      pvalue->m |= 0x40000000u;
-      rtxCtxtPushTypeName(ctx, "MBMS-PL-ServiceRestrictInfo-r6");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mbms-RB-ListReleasedToChangeTransferMode */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mbms-RB-ListReleasedToChangeTransferMode");
-      pvalue->m |= 0x80000000u;
-      stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->mbms_RB_ListReleasedToChangeTransferMode);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_v6b0ext_IEs(rtxContext* ctx, RadioBearerRelease_v6b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   rtxCtxtPushTypeName(ctx, "RadioBearerRelease-v6b0ext-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* dl-InformationPerRL-List-v6b0ext */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List-v6b0ext");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_v6b0ext(ctx, &pvalue->dl_InformationPerRL_List_v6b0ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerRelease-v770ext */
-   rtxCtxtPushElemName(ctx, "radioBearerRelease-v770ext");
-   stat = asn1PD_UMTS_RadioBearerRelease_v770ext_IEs(ctx, &pvalue->radioBearerRelease_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 1);
-   RT_CHECK(ctx, stat);
-   /* radioBearerRelease-v6b0ext */
-   rtxCtxtPushElemName(ctx, "radioBearerRelease-v6b0ext");
-   stat = asn1PD_UMTS_RadioBearerRelease_v6b0ext_IEs(ctx, &pvalue->radioBearerRelease_v6b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v770NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(rtxContext* ctx, RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6* pvalue)
-{
-   int stat = 0;
-   uint32_t present;
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxDecBitsFast(ctx, &present, 2);
-   RT_CHECK(ctx, stat);
-   /* radioBearerRelease-r6 */
-   rtxCtxtPushElemName(ctx, "radioBearerRelease-r6");
-   stat = asn1PD_UMTS_RadioBearerRelease_r6_IEs(ctx, &pvalue->radioBearerRelease_r6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* radioBearerRelease-r6-add-ext */
-   if (present & ((uint32_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "radioBearerRelease-r6-add-ext");
-      pvalue->m |= 0x1u;
-      stat = pd_DynBitString(ctx, &pvalue->radioBearerRelease_r6_add_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v6b0NonCriticalExtensions */
-   if (present & ((uint32_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "v6b0NonCriticalExtensions");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PD_UMTS_RadioBearerRelease_r7_IEs(rtxContext* ctx, RadioBearerRelease_r7_IEs* pvalue)
-{
-   int stat = 0;
-   uint64_t present;
-   rtxCtxtPushTypeName(ctx, "RadioBearerRelease-r7-IEs");
-   pvalue->m = 0;
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   {
-      uint32_t hi, lo;
-      stat = rtxDecBitsFast(ctx, &hi, 7);
-      RT_CHECK(ctx, stat);
-      stat = rtxDecBitsFast(ctx, &lo, 32);
-      RT_CHECK(ctx, stat);
-      present = ((uint64_t)hi << 32) | lo;
-   }
-   /* integrityProtectionModeInfo */
-   if (present & ((uint64_t)1 << 38)) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
-      pvalue->m |= 0x1u;
-      stat = asn1PD_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cipheringModeInfo */
-   if (present & ((uint64_t)1 << 37)) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
-      pvalue->m |= 0x2u;
-      stat = asn1PD_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* activationTime */
-   if (present & ((uint64_t)1 << 36)) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      pvalue->m |= 0x4u;
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pd_ConsUInt8(ctx, &pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-U-RNTI */
-   if (present & ((uint64_t)1 << 35)) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
-      pvalue->m |= 0x8u;
-      stat = asn1PD_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-C-RNTI */
-   if (present & ((uint64_t)1 << 34)) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
-      pvalue->m |= 0x10u;
-      stat = asn1PD_UMTS_C_RNTI(ctx, &pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-DSCH-RNTI */
-   if (present & ((uint64_t)1 << 33)) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
-      pvalue->m |= 0x20u;
-      stat = asn1PD_UMTS_DSCH_RNTI(ctx, &pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-H-RNTI */
-   if (present & ((uint64_t)1 << 32)) {
-      rtxCtxtPushElemName(ctx, "new-H-RNTI");
-      pvalue->m |= 0x40u;
-      stat = asn1PD_UMTS_H_RNTI(ctx, &pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newPrimary-E-RNTI */
-   if (present & ((uint64_t)1 << 31)) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
-      pvalue->m |= 0x80u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newSecondary-E-RNTI */
-   if (present & ((uint64_t)1 << 30)) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
-      pvalue->m |= 0x100u;
-      stat = asn1PD_UMTS_E_RNTI(ctx, &pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
-   stat = pd_ConsUnsigned(ctx, &pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ueMobilityStateIndicator */
-   if (present & ((uint64_t)1 << 29)) {
-      rtxCtxtPushElemName(ctx, "ueMobilityStateIndicator");
-      pvalue->m |= 0x200u;
-      rtxCtxtPushTypeName(ctx, "High-MobilityDetected");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->ueMobilityStateIndicator = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* utran-DRX-CycleLengthCoeff */
-   if (present & ((uint64_t)1 << 28)) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
-      pvalue->m |= 0x400u;
-      stat = asn1PD_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cn-InformationInfo */
-   if (present & ((uint64_t)1 << 27)) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      pvalue->m |= 0x800u;
-      stat = asn1PD_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* signallingConnectionRelIndication */
-   if (present & ((uint64_t)1 << 26)) {
-      rtxCtxtPushElemName(ctx, "signallingConnectionRelIndication");
-      pvalue->m |= 0x1000u;
-      rtxCtxtPushTypeName(ctx, "CN-DomainIdentity");
-      stat = pd_ConsUnsigned(ctx, &pvalue->signallingConnectionRelIndication, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ura-Identity */
-   if (present & ((uint64_t)1 << 25)) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
-      pvalue->m |= 0x2000u;
-      stat = asn1PD_UMTS_URA_Identity(ctx, &pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportForChangeOfUE-Capability */
-   if (present & ((uint64_t)1 << 24)) {
-      rtxCtxtPushElemName(ctx, "supportForChangeOfUE-Capability");
-      pvalue->m |= 0x4000u;
-      stat = rtxDecBitInline(ctx, &pvalue->supportForChangeOfUE_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rab-InformationReconfigList */
-   if (present & ((uint64_t)1 << 23)) {
-      rtxCtxtPushElemName(ctx, "rab-InformationReconfigList");
-      pvalue->m |= 0x8000u;
-      stat = asn1PD_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReleaseList */
-   rtxCtxtPushElemName(ctx, "rb-InformationReleaseList");
-   stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rb-InformationReconfigList */
-   if (present & ((uint64_t)1 << 22)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationReconfigList");
-      pvalue->m |= 0x10000u;
-      stat = asn1PD_UMTS_RB_InformationReconfigList_r7(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationAffectedList */
-   if (present & ((uint64_t)1 << 21)) {
-      rtxCtxtPushElemName(ctx, "rb-InformationAffectedList");
-      pvalue->m |= 0x20000u;
-      stat = asn1PD_UMTS_RB_InformationAffectedList_r7(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (present & ((uint64_t)1 << 20)) {
-      rtxCtxtPushElemName(ctx, "dl-CounterSynchronisationInfo");
-      pvalue->m |= 0x40000u;
-      stat = asn1PD_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CommonTransChInfo */
-   if (present & ((uint64_t)1 << 19)) {
-      rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
-      pvalue->m |= 0x80000u;
-      stat = asn1PD_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-deletedTransChInfoList */
-   if (present & ((uint64_t)1 << 18)) {
-      rtxCtxtPushElemName(ctx, "ul-deletedTransChInfoList");
-      pvalue->m |= 0x100000u;
-      stat = asn1PD_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (present & ((uint64_t)1 << 17)) {
-      rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
-      pvalue->m |= 0x200000u;
-      stat = asn1PD_UMTS_UL_AddReconfTransChInfoList_r7(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonTransChInfo */
-   if (present & ((uint64_t)1 << 16)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
-      pvalue->m |= 0x400000u;
-      stat = asn1PD_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-DeletedTransChInfoList */
-   if (present & ((uint64_t)1 << 15)) {
-      rtxCtxtPushElemName(ctx, "dl-DeletedTransChInfoList");
-      pvalue->m |= 0x800000u;
-      stat = asn1PD_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (present & ((uint64_t)1 << 14)) {
-      rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
-      pvalue->m |= 0x1000000u;
-      stat = asn1PD_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (present & ((uint64_t)1 << 13)) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      pvalue->m |= 0x2000000u;
-      stat = asn1PD_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* multi-frequencyInfo */
-   if (present & ((uint64_t)1 << 12)) {
-      rtxCtxtPushElemName(ctx, "multi-frequencyInfo");
-      pvalue->m |= 0x4000000u;
-      stat = asn1PD_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dtx-drx-TimingInfo */
-   if (present & ((uint64_t)1 << 11)) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-TimingInfo");
-      pvalue->m |= 0x8000000u;
-      stat = asn1PD_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dtx-drx-Info */
-   if (present & ((uint64_t)1 << 10)) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-Info");
-      pvalue->m |= 0x10000000u;
-      stat = asn1PD_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hs-scch-LessInfo */
-   if (present & ((uint64_t)1 << 9)) {
-      rtxCtxtPushElemName(ctx, "hs-scch-LessInfo");
-      pvalue->m |= 0x20000000u;
-      stat = asn1PD_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mimoParameters */
-   if (present & ((uint64_t)1 << 8)) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
-      pvalue->m |= 0x40000000u;
-      stat = asn1PD_UMTS_MIMO_Parameters_r7(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (present & ((uint64_t)1 << 7)) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      pvalue->m |= 0x80000000u;
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      stat = pd_ConsInt8(ctx, &pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-DPCH-Info */
-   if (present & ((uint64_t)1 << 6)) {
-      rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-      pvalue->m |= 0x100000000ull;
-      stat = asn1PD_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-EDCH-Information */
-   if (present & ((uint64_t)1 << 5)) {
-      rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
-      pvalue->m |= 0x200000000ull;
-      stat = asn1PD_UMTS_UL_EDCH_Information_r7(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-HSPDSCH-Information */
-   if (present & ((uint64_t)1 << 4)) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      pvalue->m |= 0x400000000ull;
-      stat = asn1PD_UMTS_DL_HSPDSCH_Information_r7(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonInformation */
    if (present & ((uint64_t)1 << 3)) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-      pvalue->m |= 0x800000000ull;
-      stat = asn1PD_UMTS_DL_CommonInformation_r7(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x80000000u;
+      stat = asn1PD_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
+      RT_CHECK(ctx, stat, 0, "failureCause", -1, "SRNC-RelocationInfo-r9-IEs");
    }
-   /* dl-InformationPerRL-List */
+   /* ue-HistoryInformation */
    if (present & ((uint64_t)1 << 2)) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-      pvalue->m |= 0x1000000000ull;
-      stat = asn1PD_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x100000000ull;
+      stat = asn1PD_UMTS_UE_HistoryInformation(ctx, &pvalue->ue_HistoryInformation);
+      RT_CHECK(ctx, stat, 0, "ue-HistoryInformation", -1, "SRNC-RelocationInfo-r9-IEs");
    }
-   /* mbms-PL-ServiceRestrictInfo */
+   /* mbms-JoinedInformation */
    if (present & ((uint64_t)1 << 1)) {
-      rtxCtxtPushElemName(ctx, "mbms-PL-ServiceRestrictInfo");
-      pvalue->m |= 0x2000000000ull;
-      rtxCtxtPushTypeName(ctx, "MBMS-PL-ServiceRestrictInfo-r6");
-      {
-         uint32_t ui;
-         stat = pd_ConsUnsigned(ctx, &ui, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = ui != 0 ? RT_ERR_INVENUM : 0;
-         RT_CHECK(ctx, stat);
-         pvalue->mbms_PL_ServiceRestrictInfo = ui;
-      }
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x200000000ull;
+      stat = asn1PD_UMTS_MBMS_JoinedInformation_r6(ctx, &pvalue->mbms_JoinedInformation);
+      RT_CHECK(ctx, stat, 0, "mbms-JoinedInformation", -1, "SRNC-RelocationInfo-r9-IEs");
    }
-   /* mbms-RB-ListReleasedToChangeTransferMode */
+   /* mbmsSelectedServiceInfo */
    if (present & ((uint64_t)1 << 0)) {
-      rtxCtxtPushElemName(ctx, "mbms-RB-ListReleasedToChangeTransferMode");
-      pvalue->m |= 0x4000000000ull;
-      stat = asn1PD_UMTS_RB_InformationReleaseList(ctx, &pvalue->mbms_RB_ListReleasedToChangeTransferMode);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      pvalue->m |= 0x400000000ull;
+      stat = asn1PD_UMTS_MBMS_SelectedServiceInfo(ctx, &pvalue->mbmsSelectedServiceInfo);
+      RT_CHECK(ctx, stat, 0, "mbmsSelectedServiceInfo", -1, "SRNC-RelocationInfo-r9-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
+   return stat;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-r9 */
+   stat = asn1PD_UMTS_SRNC_RelocationInfo_r9_IEs(ctx, &pvalue->sRNC_RelocationInfo_r9);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-r9", -1, 0);
+   /* sRNC-RelocationInfo-r9-add-ext */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = pd_DynBitString(ctx, &pvalue->sRNC_RelocationInfo_r9_add_ext);
+      RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-r9-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r9 */
+         pvalue->u.r9 = (SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9*)rtxMemHeapAlloc(ctx, sizeof(SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9));
+         if (pvalue->u.r9 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r9", -1, 0);
+         asn1Init_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(pvalue->u.r9);
+         stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
+         RT_CHECK(ctx, stat, 0, "r9", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r8 */
+         pvalue->u.r8 = (SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8*)rtxMemHeapAlloc(ctx, sizeof(SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8));
+         if (pvalue->u.r8 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r8", -1, 0);
+         asn1Init_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(pvalue->u.r8);
+         stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
+         RT_CHECK(ctx, stat, 0, "r8", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r7 */
+         pvalue->u.r7 = (SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7*)rtxMemHeapAlloc(ctx, sizeof(SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7));
+         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r7", -1, 0);
+         asn1Init_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7(pvalue->u.r7);
+         stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
+         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r6 */
+         pvalue->u.r6 = (SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6*)rtxMemHeapAlloc(ctx, sizeof(SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6));
+         if (pvalue->u.r6 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r6", -1, 0);
+         asn1Init_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6(pvalue->u.r6);
+         stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6(ctx, pvalue->u.r6);
+         RT_CHECK(ctx, stat, 0, "r6", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r5 */
+         pvalue->u.r5 = (SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5*)rtxMemHeapAlloc(ctx, sizeof(SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5));
+         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r5", -1, 0);
+         asn1Init_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5(pvalue->u.r5);
+         stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5(ctx, pvalue->u.r5);
+         RT_CHECK(ctx, stat, 0, "r5", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r4 */
+         pvalue->u.r4 = (SRNC_RelocationInfo_r3_later_than_r3_r4*)rtxMemHeapAlloc(ctx, sizeof(SRNC_RelocationInfo_r3_later_than_r3_r4));
+         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r4", -1, 0);
+         asn1Init_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4(pvalue->u.r4);
+         stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4(ctx, pvalue->u.r4);
+         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions*)rtxMemHeapAlloc(ctx, sizeof(SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, 0);
+         asn1Init_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions(pvalue->u.criticalExtensions);
+         stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_SRNC_RelocationInfo_r3(rtxContext* RT_RESTRICT ctx, SRNC_RelocationInfo_r3* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-r3");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r3 */
+         pvalue->u.r3 = (SRNC_RelocationInfo_r3_r3*)rtxMemHeapAlloc(ctx, sizeof(SRNC_RelocationInfo_r3_r3));
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r3", -1, "SRNC-RelocationInfo-r3");
+         asn1Init_UMTS_SRNC_RelocationInfo_r3_r3(pvalue->u.r3);
+         stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "SRNC-RelocationInfo-r3");
+         break;
+      case 1: /* later-than-r3 */
+         pvalue->u.later_than_r3 = (SRNC_RelocationInfo_r3_later_than_r3*)rtxMemHeapAlloc(ctx, sizeof(SRNC_RelocationInfo_r3_later_than_r3));
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "later-than-r3", -1, "SRNC-RelocationInfo-r3");
+         asn1Init_UMTS_SRNC_RelocationInfo_r3_later_than_r3(pvalue->u.later_than_r3);
+         stat = asn1PD_UMTS_SRNC_RelocationInfo_r3_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "SRNC-RelocationInfo-r3");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SRNC-RelocationInfo-r3");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_DL_RFC3095_Context_dl_mode(rtxContext* RT_RESTRICT ctx, DL_RFC3095_Context_dl_mode* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_RFC3095_Context_dl_ref_ir(rtxContext* RT_RESTRICT ctx, DL_RFC3095_Context_dl_ref_ir* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 1, 3000);
+   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_DL_RFC3095_Context(rtxContext* RT_RESTRICT ctx, DL_RFC3095_Context* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-RFC3095-Context");
+   /* rfc3095-Context-Identity */
+   stat = pd_ConsUInt16(ctx, &pvalue->rfc3095_Context_Identity, 0, 16383);
+   RT_CHECK(ctx, stat, 0, "rfc3095-Context-Identity", -1, "DL-RFC3095-Context");
+   /* dl-mode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->dl_mode, 0, 2);
+   RT_CHECK(ctx, stat, 0, "dl-mode", -1, "DL-RFC3095-Context");
+   /* dl-ref-ir */
+   stat = asn1PD_UMTS_DL_RFC3095_Context_dl_ref_ir(ctx, &pvalue->dl_ref_ir);
+   RT_CHECK(ctx, stat, 0, "dl-ref-ir", -1, "DL-RFC3095-Context");
+   /* dl-ref-time */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt32(ctx, &pvalue->dl_ref_time, 0, 4294967295LL);
+      RT_CHECK(ctx, stat, 0, "dl-ref-time", -1, "DL-RFC3095-Context");
+   }
+   /* dl-curr-time */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt32(ctx, &pvalue->dl_curr_time, 0, 4294967295LL);
+      RT_CHECK(ctx, stat, 0, "dl-curr-time", -1, "DL-RFC3095-Context");
+   }
+   /* dl-syn-offset-id */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt16(ctx, &pvalue->dl_syn_offset_id, 0, 65535);
+      RT_CHECK(ctx, stat, 0, "dl-syn-offset-id", -1, "DL-RFC3095-Context");
+   }
+   /* dl-syn-slope-ts */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUInt32(ctx, &pvalue->dl_syn_slope_ts, 0, 4294967295LL);
+      RT_CHECK(ctx, stat, 0, "dl-syn-slope-ts", -1, "DL-RFC3095-Context");
+   }
+   /* dl-dyn-changed */
+   stat = rtxDecBitInline(ctx, &pvalue->dl_dyn_changed);
+   RT_CHECK(ctx, stat, 0, "dl-dyn-changed", -1, "DL-RFC3095-Context");
+   return 0;
+}
+
+int asn1PD_UMTS_UL_RFC3095_Context_ul_mode(rtxContext* RT_RESTRICT ctx, UL_RFC3095_Context_ul_mode* RT_RESTRICT pvalue)
+{
+   int stat;
+   stat = pd_ConsUnsigned(ctx, pvalue, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_RFC3095_Context_ul_ref_ir(rtxContext* RT_RESTRICT ctx, UL_RFC3095_Context_ul_ref_ir* RT_RESTRICT pvalue)
+{
+   int stat;
+   RT_SET_SIZE(ctx, 1, 3000);
+   stat = pd_OctetString(ctx, &pvalue->numocts, pvalue->data, sizeof(pvalue->data));
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PD_UMTS_UL_RFC3095_Context(rtxContext* RT_RESTRICT ctx, UL_RFC3095_Context* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-RFC3095-Context");
+   /* rfc3095-Context-Identity */
+   stat = pd_ConsUInt16(ctx, &pvalue->rfc3095_Context_Identity, 0, 16383);
+   RT_CHECK(ctx, stat, 0, "rfc3095-Context-Identity", -1, "UL-RFC3095-Context");
+   /* ul-mode */
+   stat = pd_ConsUnsigned(ctx, &pvalue->ul_mode, 0, 2);
+   RT_CHECK(ctx, stat, 0, "ul-mode", -1, "UL-RFC3095-Context");
+   /* ul-ref-ir */
+   stat = asn1PD_UMTS_UL_RFC3095_Context_ul_ref_ir(ctx, &pvalue->ul_ref_ir);
+   RT_CHECK(ctx, stat, 0, "ul-ref-ir", -1, "UL-RFC3095-Context");
+   /* ul-ref-time */
+   if (present & ((uint32_t)1 << 4)) {
+      pvalue->m |= 0x1u;
+      stat = pd_ConsUInt32(ctx, &pvalue->ul_ref_time, 0, 4294967295LL);
+      RT_CHECK(ctx, stat, 0, "ul-ref-time", -1, "UL-RFC3095-Context");
+   }
+   /* ul-curr-time */
+   if (present & ((uint32_t)1 << 3)) {
+      pvalue->m |= 0x2u;
+      stat = pd_ConsUInt32(ctx, &pvalue->ul_curr_time, 0, 4294967295LL);
+      RT_CHECK(ctx, stat, 0, "ul-curr-time", -1, "UL-RFC3095-Context");
+   }
+   /* ul-syn-offset-id */
+   if (present & ((uint32_t)1 << 2)) {
+      pvalue->m |= 0x4u;
+      stat = pd_ConsUInt16(ctx, &pvalue->ul_syn_offset_id, 0, 65535);
+      RT_CHECK(ctx, stat, 0, "ul-syn-offset-id", -1, "UL-RFC3095-Context");
+   }
+   /* ul-syn-slope-ts */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x8u;
+      stat = pd_ConsUInt32(ctx, &pvalue->ul_syn_slope_ts, 0, 4294967295LL);
+      RT_CHECK(ctx, stat, 0, "ul-syn-slope-ts", -1, "UL-RFC3095-Context");
+   }
+   /* ul-ref-sn-1 */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x10u;
+      stat = pd_ConsUInt16(ctx, &pvalue->ul_ref_sn_1, 0, 65535);
+      RT_CHECK(ctx, stat, 0, "ul-ref-sn-1", -1, "UL-RFC3095-Context");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RFC3095_Context_List_element(rtxContext* RT_RESTRICT ctx, RFC3095_Context_List_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-RFC3095-Context */
+   if (present & ((uint32_t)1 << 1)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_DL_RFC3095_Context(ctx, &pvalue->dl_RFC3095_Context);
+      RT_CHECK(ctx, stat, 0, "dl-RFC3095-Context", -1, 0);
+   }
+   /* ul-RFC3095-Context */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x2u;
+      stat = asn1PD_UMTS_UL_RFC3095_Context(ctx, &pvalue->ul_RFC3095_Context);
+      RT_CHECK(ctx, stat, 0, "ul-RFC3095-Context", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RFC3095_Context_List(rtxContext* RT_RESTRICT ctx, RFC3095_Context_List* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 16384);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RFC3095-Context-List");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RFC3095_Context_List_element* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RFC3095_Context_List_element));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "element", (int32_t)i, "RFC3095-Context-List");
+      elem = (RFC3095_Context_List_element*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RFC3095_Context_List_element(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RFC3095_Context_List_element(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "RFC3095-Context-List");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RFC3095_ContextInfo(rtxContext* RT_RESTRICT ctx, RFC3095_ContextInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   /* rb-Identity */
+   stat = pd_ConsUInt8(ctx, &pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RFC3095-ContextInfo");
+   /* rfc3095-Context-List */
+   stat = asn1PD_UMTS_RFC3095_Context_List(ctx, &pvalue->rfc3095_Context_List);
+   RT_CHECK(ctx, stat, 0, "rfc3095-Context-List", -1, "RFC3095-ContextInfo");
+   return 0;
+}
+
+int asn1PD_UMTS_RFC3095_ContextInfoList_r5(rtxContext* RT_RESTRICT ctx, RFC3095_ContextInfoList_r5* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t count, i;
+   RT_SET_SIZE(ctx, 1, 27);
+   stat = pd_Length(ctx, &count);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RFC3095-ContextInfoList-r5");
+   rtxDListInit(pvalue);
+   for (i = 0; i < count; i++) {
+      rtxDListNode* node;
+      RFC3095_ContextInfo* elem;
+      node = (rtxDListNode*)rtxMemHeapAlloc(ctx, sizeof(rtxDListNode) + sizeof(RFC3095_ContextInfo));
+      if (node == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "RFC3095-ContextInfo", (int32_t)i, "RFC3095-ContextInfoList-r5");
+      elem = (RFC3095_ContextInfo*)(node + 1);
+      node->data = elem;
+      asn1Init_UMTS_RFC3095_ContextInfo(elem);
+      rtxDListAppendNode(pvalue, node);
+      stat = asn1PD_UMTS_RFC3095_ContextInfo(ctx, elem);
+      RT_CHECK(ctx, stat, 0, "RFC3095-ContextInfo", (int32_t)i, "RFC3095-ContextInfoList-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RFC3095_ContextInfo_r5_r5_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, RFC3095_ContextInfo_r5_r5_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RFC3095_ContextInfo_r5_r5(rtxContext* RT_RESTRICT ctx, RFC3095_ContextInfo_r5_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   uint32_t present;
+   pvalue->m = 0;
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxDecBitsFast(ctx, &present, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rFC3095-ContextInfoList-r5 */
+   stat = asn1PD_UMTS_RFC3095_ContextInfoList_r5(ctx, &pvalue->rFC3095_ContextInfoList_r5);
+   RT_CHECK(ctx, stat, 0, "rFC3095-ContextInfoList-r5", -1, 0);
+   /* nonCriticalExtensions */
+   if (present & ((uint32_t)1 << 0)) {
+      pvalue->m |= 0x1u;
+      stat = asn1PD_UMTS_RFC3095_ContextInfo_r5_r5_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_RFC3095_ContextInfo_r5_criticalExtensions(rtxContext* RT_RESTRICT ctx, RFC3095_ContextInfo_r5_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   return 0;
+}
+
+int asn1PD_UMTS_RFC3095_ContextInfo_r5(rtxContext* RT_RESTRICT ctx, RFC3095_ContextInfo_r5* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RFC3095-ContextInfo-r5");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* r5 */
+         pvalue->u.r5 = (RFC3095_ContextInfo_r5_r5*)rtxMemHeapAlloc(ctx, sizeof(RFC3095_ContextInfo_r5_r5));
+         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "r5", -1, "RFC3095-ContextInfo-r5");
+         asn1Init_UMTS_RFC3095_ContextInfo_r5_r5(pvalue->u.r5);
+         stat = asn1PD_UMTS_RFC3095_ContextInfo_r5_r5(ctx, pvalue->u.r5);
+         RT_CHECK(ctx, stat, 0, "r5", -1, "RFC3095-ContextInfo-r5");
+         break;
+      case 1: /* criticalExtensions */
+         pvalue->u.criticalExtensions = (RFC3095_ContextInfo_r5_criticalExtensions*)rtxMemHeapAllocZ(ctx, sizeof(RFC3095_ContextInfo_r5_criticalExtensions));
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "criticalExtensions", -1, "RFC3095-ContextInfo-r5");
+         stat = asn1PD_UMTS_RFC3095_ContextInfo_r5_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, "RFC3095-ContextInfo-r5");
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RFC3095-ContextInfo-r5");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_ToTargetRNC_Container(rtxContext* RT_RESTRICT ctx, ToTargetRNC_Container* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ToTargetRNC-Container");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* interRATHandoverInfo */
+         pvalue->u.interRATHandoverInfo = (InterRATHandoverInfoWithInterRATCapabilities_r3*)rtxMemHeapAlloc(ctx, sizeof(InterRATHandoverInfoWithInterRATCapabilities_r3));
+         if (pvalue->u.interRATHandoverInfo == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "interRATHandoverInfo", -1, "ToTargetRNC-Container");
+         asn1Init_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3(pvalue->u.interRATHandoverInfo);
+         stat = asn1PD_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3(ctx, pvalue->u.interRATHandoverInfo);
+         RT_CHECK(ctx, stat, 0, "interRATHandoverInfo", -1, "ToTargetRNC-Container");
+         break;
+      case 1: /* srncRelocation */
+         pvalue->u.srncRelocation = (SRNC_RelocationInfo_r3*)rtxMemHeapAlloc(ctx, sizeof(SRNC_RelocationInfo_r3));
+         if (pvalue->u.srncRelocation == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "srncRelocation", -1, "ToTargetRNC-Container");
+         asn1Init_UMTS_SRNC_RelocationInfo_r3(pvalue->u.srncRelocation);
+         stat = asn1PD_UMTS_SRNC_RelocationInfo_r3(ctx, pvalue->u.srncRelocation);
+         RT_CHECK(ctx, stat, 0, "srncRelocation", -1, "ToTargetRNC-Container");
+         break;
+      case 2: /* rfc3095-ContextInfo */
+         pvalue->u.rfc3095_ContextInfo = (RFC3095_ContextInfo_r5*)rtxMemHeapAlloc(ctx, sizeof(RFC3095_ContextInfo_r5));
+         if (pvalue->u.rfc3095_ContextInfo == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "rfc3095-ContextInfo", -1, "ToTargetRNC-Container");
+         asn1Init_UMTS_RFC3095_ContextInfo_r5(pvalue->u.rfc3095_ContextInfo);
+         stat = asn1PD_UMTS_RFC3095_ContextInfo_r5(ctx, pvalue->u.rfc3095_ContextInfo);
+         RT_CHECK(ctx, stat, 0, "rfc3095-ContextInfo", -1, "ToTargetRNC-Container");
+         break;
+      case 3: /* extension */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ToTargetRNC-Container");
+   }
+   return 0;
+}
+
+int asn1PD_UMTS_TargetRNC_ToSourceRNC_Container(rtxContext* RT_RESTRICT ctx, TargetRNC_ToSourceRNC_Container* RT_RESTRICT pvalue)
+{
+   int stat;
+   uint32_t ui;
+   stat = pd_ConsUnsigned(ctx, &ui, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TargetRNC-ToSourceRNC-Container");
+   pvalue->t = ui + 1;
+   switch (ui) {
+      case 0: /* radioBearerSetup */
+         pvalue->u.radioBearerSetup = (RadioBearerSetup*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerSetup));
+         if (pvalue->u.radioBearerSetup == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "radioBearerSetup", -1, "TargetRNC-ToSourceRNC-Container");
+         asn1Init_UMTS_RadioBearerSetup(pvalue->u.radioBearerSetup);
+         stat = asn1PD_UMTS_RadioBearerSetup(ctx, pvalue->u.radioBearerSetup);
+         RT_CHECK(ctx, stat, 0, "radioBearerSetup", -1, "TargetRNC-ToSourceRNC-Container");
+         break;
+      case 1: /* radioBearerReconfiguration */
+         pvalue->u.radioBearerReconfiguration = (RadioBearerReconfiguration*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerReconfiguration));
+         if (pvalue->u.radioBearerReconfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "radioBearerReconfiguration", -1, "TargetRNC-ToSourceRNC-Container");
+         asn1Init_UMTS_RadioBearerReconfiguration(pvalue->u.radioBearerReconfiguration);
+         stat = asn1PD_UMTS_RadioBearerReconfiguration(ctx, pvalue->u.radioBearerReconfiguration);
+         RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration", -1, "TargetRNC-ToSourceRNC-Container");
+         break;
+      case 2: /* radioBearerRelease */
+         pvalue->u.radioBearerRelease = (RadioBearerRelease*)rtxMemHeapAlloc(ctx, sizeof(RadioBearerRelease));
+         if (pvalue->u.radioBearerRelease == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "radioBearerRelease", -1, "TargetRNC-ToSourceRNC-Container");
+         asn1Init_UMTS_RadioBearerRelease(pvalue->u.radioBearerRelease);
+         stat = asn1PD_UMTS_RadioBearerRelease(ctx, pvalue->u.radioBearerRelease);
+         RT_CHECK(ctx, stat, 0, "radioBearerRelease", -1, "TargetRNC-ToSourceRNC-Container");
+         break;
+      case 3: /* transportChannelReconfiguration */
+         pvalue->u.transportChannelReconfiguration = (TransportChannelReconfiguration*)rtxMemHeapAlloc(ctx, sizeof(TransportChannelReconfiguration));
+         if (pvalue->u.transportChannelReconfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "transportChannelReconfiguration", -1, "TargetRNC-ToSourceRNC-Container");
+         asn1Init_UMTS_TransportChannelReconfiguration(pvalue->u.transportChannelReconfiguration);
+         stat = asn1PD_UMTS_TransportChannelReconfiguration(ctx, pvalue->u.transportChannelReconfiguration);
+         RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration", -1, "TargetRNC-ToSourceRNC-Container");
+         break;
+      case 4: /* physicalChannelReconfiguration */
+         pvalue->u.physicalChannelReconfiguration = (PhysicalChannelReconfiguration*)rtxMemHeapAlloc(ctx, sizeof(PhysicalChannelReconfiguration));
+         if (pvalue->u.physicalChannelReconfiguration == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "physicalChannelReconfiguration", -1, "TargetRNC-ToSourceRNC-Container");
+         asn1Init_UMTS_PhysicalChannelReconfiguration(pvalue->u.physicalChannelReconfiguration);
+         stat = asn1PD_UMTS_PhysicalChannelReconfiguration(ctx, pvalue->u.physicalChannelReconfiguration);
+         RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration", -1, "TargetRNC-ToSourceRNC-Container");
+         break;
+      case 5: /* rrc-FailureInfo */
+         pvalue->u.rrc_FailureInfo = (RRC_FailureInfo*)rtxMemHeapAlloc(ctx, sizeof(RRC_FailureInfo));
+         if (pvalue->u.rrc_FailureInfo == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "rrc-FailureInfo", -1, "TargetRNC-ToSourceRNC-Container");
+         asn1Init_UMTS_RRC_FailureInfo(pvalue->u.rrc_FailureInfo);
+         stat = asn1PD_UMTS_RRC_FailureInfo(ctx, pvalue->u.rrc_FailureInfo);
+         RT_CHECK(ctx, stat, 0, "rrc-FailureInfo", -1, "TargetRNC-ToSourceRNC-Container");
+         break;
+      case 6: /* dL-DCCHmessage */
+         pvalue->u.dL_DCCHmessage = (rtxDynOctStr*)rtxMemHeapAlloc(ctx, sizeof(rtxDynOctStr));
+         if (pvalue->u.dL_DCCHmessage == 0) RT_FAIL(ctx, RT_ERR_NOMEM, 0, "dL-DCCHmessage", -1, "TargetRNC-ToSourceRNC-Container");
+         stat = pd_DynOctetString(ctx, pvalue->u.dL_DCCHmessage);
+         RT_CHECK(ctx, stat, 0, "dL-DCCHmessage", -1, "TargetRNC-ToSourceRNC-Container");
+         break;
+      case 7: /* extension */
+         break;
+      default:
+         RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TargetRNC-ToSourceRNC-Container");
+   }
    return 0;
 }
 

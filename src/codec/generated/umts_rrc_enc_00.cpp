@@ -6,531 +6,387 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PE_UMTS_SFN_Prime(rtxContext* ctx, SFN_Prime value)
+int asn1PE_UMTS_SFN_Prime(rtxContext* RT_RESTRICT ctx, SFN_Prime value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SFN-Prime");
    if ((uint64_t)value > 2047u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "SFN-Prime");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "SFN-Prime");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 2047);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SFN-Prime");
    return 0;
 }
 
-int asn1PE_UMTS_SIB_Type(rtxContext* ctx, SIB_Type value)
+int asn1PE_UMTS_SIB_Type(rtxContext* RT_RESTRICT ctx, SIB_Type value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SIB-Type");
    if (value > 31) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SIB-Type");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SIB-Type");
    return 0;
 }
 
-int asn1PE_UMTS_SegCount(rtxContext* ctx, SegCount value)
+int asn1PE_UMTS_SegCount(rtxContext* RT_RESTRICT ctx, SegCount value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SegCount");
    if ((uint64_t)(value - 1) > 15u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "SegCount");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "SegCount");
    }
    stat = pe_ConsUInt64(ctx, value, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SegCount");
    return 0;
 }
 
-int asn1PE_UMTS_SIB_Data_fixed(rtxContext* ctx, const SIB_Data_fixed* pvalue)
+int asn1PE_UMTS_SIB_Data_fixed(rtxContext* RT_RESTRICT ctx, const SIB_Data_fixed* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SIB-Data-fixed");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SIB-Data-fixed");
    RT_SET_SIZE(ctx, 222, 222);
    stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SIB-Data-fixed");
    return 0;
 }
 
-int asn1PE_UMTS_FirstSegment(rtxContext* ctx, const FirstSegment* pvalue)
+int asn1PE_UMTS_FirstSegment(rtxContext* RT_RESTRICT ctx, const FirstSegment* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "FirstSegment");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "FirstSegment");
    /* sib-Type */
-   rtxCtxtPushElemName(ctx, "sib-Type");
-   rtxCtxtPushTypeName(ctx, "SIB-Type");
    if (pvalue->sib_Type > 31) {
       rtxErrAddUIntParm(ctx, pvalue->sib_Type);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "SIB-Type", "sib-Type", -1, "FirstSegment");
    }
    stat = pe_ConsUInt64(ctx, pvalue->sib_Type, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "SIB-Type", "sib-Type", -1, "FirstSegment");
    /* seg-Count */
-   rtxCtxtPushElemName(ctx, "seg-Count");
-   rtxCtxtPushTypeName(ctx, "SegCount");
    if ((uint64_t)(pvalue->seg_Count - 1) > 15u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "SegCount");
       rtxErrAddUIntParm(ctx, pvalue->seg_Count);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "SegCount", "seg-Count", -1, "FirstSegment");
    }
    stat = pe_ConsUInt64(ctx, pvalue->seg_Count, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "SegCount", "seg-Count", -1, "FirstSegment");
    /* sib-Data-fixed */
-   rtxCtxtPushElemName(ctx, "sib-Data-fixed");
    stat = asn1PE_UMTS_SIB_Data_fixed(ctx, &pvalue->sib_Data_fixed);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "sib-Data-fixed", -1, "FirstSegment");
    return 0;
 }
 
-int asn1PE_UMTS_SegmentIndex(rtxContext* ctx, SegmentIndex value)
+int asn1PE_UMTS_SegmentIndex(rtxContext* RT_RESTRICT ctx, SegmentIndex value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SegmentIndex");
    if ((uint64_t)(value - 1) > 14u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "SegmentIndex");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "SegmentIndex");
    }
    stat = pe_ConsUInt64(ctx, value, 1, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SegmentIndex");
    return 0;
 }
 
-int asn1PE_UMTS_SubsequentSegment(rtxContext* ctx, const SubsequentSegment* pvalue)
+int asn1PE_UMTS_SubsequentSegment(rtxContext* RT_RESTRICT ctx, const SubsequentSegment* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SubsequentSegment");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SubsequentSegment");
    /* sib-Type */
-   rtxCtxtPushElemName(ctx, "sib-Type");
-   rtxCtxtPushTypeName(ctx, "SIB-Type");
    if (pvalue->sib_Type > 31) {
       rtxErrAddUIntParm(ctx, pvalue->sib_Type);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "SIB-Type", "sib-Type", -1, "SubsequentSegment");
    }
    stat = pe_ConsUInt64(ctx, pvalue->sib_Type, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "SIB-Type", "sib-Type", -1, "SubsequentSegment");
    /* segmentIndex */
-   rtxCtxtPushElemName(ctx, "segmentIndex");
-   rtxCtxtPushTypeName(ctx, "SegmentIndex");
    if ((uint64_t)(pvalue->segmentIndex - 1) > 14u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "SegmentIndex");
       rtxErrAddUIntParm(ctx, pvalue->segmentIndex);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "SegmentIndex", "segmentIndex", -1, "SubsequentSegment");
    }
    stat = pe_ConsUInt64(ctx, pvalue->segmentIndex, 1, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "SegmentIndex", "segmentIndex", -1, "SubsequentSegment");
    /* sib-Data-fixed */
-   rtxCtxtPushElemName(ctx, "sib-Data-fixed");
    stat = asn1PE_UMTS_SIB_Data_fixed(ctx, &pvalue->sib_Data_fixed);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "sib-Data-fixed", -1, "SubsequentSegment");
    return 0;
 }
 
-int asn1PE_UMTS_SIB_Data_variable(rtxContext* ctx, const SIB_Data_variable* pvalue)
+int asn1PE_UMTS_SIB_Data_variable(rtxContext* RT_RESTRICT ctx, const SIB_Data_variable* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SIB-Data-variable");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SIB-Data-variable");
    RT_SET_SIZE(ctx, 1, 214);
    stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SIB-Data-variable");
    return 0;
 }
 
-int asn1PE_UMTS_LastSegmentShort(rtxContext* ctx, const LastSegmentShort* pvalue)
+int asn1PE_UMTS_LastSegmentShort(rtxContext* RT_RESTRICT ctx, const LastSegmentShort* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "LastSegmentShort");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "LastSegmentShort");
    /* sib-Type */
-   rtxCtxtPushElemName(ctx, "sib-Type");
-   rtxCtxtPushTypeName(ctx, "SIB-Type");
    if (pvalue->sib_Type > 31) {
       rtxErrAddUIntParm(ctx, pvalue->sib_Type);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "SIB-Type", "sib-Type", -1, "LastSegmentShort");
    }
    stat = pe_ConsUInt64(ctx, pvalue->sib_Type, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "SIB-Type", "sib-Type", -1, "LastSegmentShort");
    /* segmentIndex */
-   rtxCtxtPushElemName(ctx, "segmentIndex");
-   rtxCtxtPushTypeName(ctx, "SegmentIndex");
    if ((uint64_t)(pvalue->segmentIndex - 1) > 14u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "SegmentIndex");
       rtxErrAddUIntParm(ctx, pvalue->segmentIndex);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "SegmentIndex", "segmentIndex", -1, "LastSegmentShort");
    }
    stat = pe_ConsUInt64(ctx, pvalue->segmentIndex, 1, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "SegmentIndex", "segmentIndex", -1, "LastSegmentShort");
    /* sib-Data-variable */
-   rtxCtxtPushElemName(ctx, "sib-Data-variable");
    stat = asn1PE_UMTS_SIB_Data_variable(ctx, &pvalue->sib_Data_variable);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "sib-Data-variable", -1, "LastSegmentShort");
    return 0;
 }
 
-int asn1PE_UMTS_FirstSegmentShort(rtxContext* ctx, const FirstSegmentShort* pvalue)
+int asn1PE_UMTS_FirstSegmentShort(rtxContext* RT_RESTRICT ctx, const FirstSegmentShort* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "FirstSegmentShort");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "FirstSegmentShort");
    /* sib-Type */
-   rtxCtxtPushElemName(ctx, "sib-Type");
-   rtxCtxtPushTypeName(ctx, "SIB-Type");
    if (pvalue->sib_Type > 31) {
       rtxErrAddUIntParm(ctx, pvalue->sib_Type);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "SIB-Type", "sib-Type", -1, "FirstSegmentShort");
    }
    stat = pe_ConsUInt64(ctx, pvalue->sib_Type, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "SIB-Type", "sib-Type", -1, "FirstSegmentShort");
    /* seg-Count */
-   rtxCtxtPushElemName(ctx, "seg-Count");
-   rtxCtxtPushTypeName(ctx, "SegCount");
    if ((uint64_t)(pvalue->seg_Count - 1) > 15u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "SegCount");
       rtxErrAddUIntParm(ctx, pvalue->seg_Count);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "SegCount", "seg-Count", -1, "FirstSegmentShort");
    }
    stat = pe_ConsUInt64(ctx, pvalue->seg_Count, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "SegCount", "seg-Count", -1, "FirstSegmentShort");
    /* sib-Data-variable */
-   rtxCtxtPushElemName(ctx, "sib-Data-variable");
    stat = asn1PE_UMTS_SIB_Data_variable(ctx, &pvalue->sib_Data_variable);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "sib-Data-variable", -1, "FirstSegmentShort");
    return 0;
 }
 
-int asn1PE_UMTS_SystemInformation_BCH_payload_lastAndFirst(rtxContext* ctx, const SystemInformation_BCH_payload_lastAndFirst* pvalue)
+int asn1PE_UMTS_SystemInformation_BCH_payload_lastAndFirst(rtxContext* RT_RESTRICT ctx, const SystemInformation_BCH_payload_lastAndFirst* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* lastSegmentShort */
-   rtxCtxtPushElemName(ctx, "lastSegmentShort");
    stat = asn1PE_UMTS_LastSegmentShort(ctx, &pvalue->lastSegmentShort);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "lastSegmentShort", -1, 0);
    /* firstSegment */
-   rtxCtxtPushElemName(ctx, "firstSegment");
    stat = asn1PE_UMTS_FirstSegmentShort(ctx, &pvalue->firstSegment);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "firstSegment", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CompleteSIBshort(rtxContext* ctx, const CompleteSIBshort* pvalue)
+int asn1PE_UMTS_CompleteSIBshort(rtxContext* RT_RESTRICT ctx, const CompleteSIBshort* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CompleteSIBshort");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompleteSIBshort");
    /* sib-Type */
-   rtxCtxtPushElemName(ctx, "sib-Type");
-   rtxCtxtPushTypeName(ctx, "SIB-Type");
    if (pvalue->sib_Type > 31) {
       rtxErrAddUIntParm(ctx, pvalue->sib_Type);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "SIB-Type", "sib-Type", -1, "CompleteSIBshort");
    }
    stat = pe_ConsUInt64(ctx, pvalue->sib_Type, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "SIB-Type", "sib-Type", -1, "CompleteSIBshort");
    /* sib-Data-variable */
-   rtxCtxtPushElemName(ctx, "sib-Data-variable");
    stat = asn1PE_UMTS_SIB_Data_variable(ctx, &pvalue->sib_Data_variable);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "sib-Data-variable", -1, "CompleteSIBshort");
    return 0;
 }
 
-int asn1PE_UMTS_CompleteSIB_List(rtxContext* ctx, const CompleteSIB_List* pvalue)
+int asn1PE_UMTS_CompleteSIB_List(rtxContext* RT_RESTRICT ctx, const CompleteSIB_List* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompleteSIB-List");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "CompleteSIB-List");
    RT_SET_SIZE(ctx, 1, 16);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CompleteSIB-List");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "CompleteSIBshort", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CompleteSIBshort", (int32_t)i, "CompleteSIB-List");
       stat = asn1PE_UMTS_CompleteSIBshort(ctx, (const CompleteSIBshort*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "CompleteSIBshort", (int32_t)i, "CompleteSIB-List");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SystemInformation_BCH_payload_lastAndComplete(rtxContext* ctx, const SystemInformation_BCH_payload_lastAndComplete* pvalue)
+int asn1PE_UMTS_SystemInformation_BCH_payload_lastAndComplete(rtxContext* RT_RESTRICT ctx, const SystemInformation_BCH_payload_lastAndComplete* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* lastSegmentShort */
-   rtxCtxtPushElemName(ctx, "lastSegmentShort");
    stat = asn1PE_UMTS_LastSegmentShort(ctx, &pvalue->lastSegmentShort);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "lastSegmentShort", -1, 0);
    /* completeSIB-List */
-   rtxCtxtPushElemName(ctx, "completeSIB-List");
    stat = asn1PE_UMTS_CompleteSIB_List(ctx, &pvalue->completeSIB_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "completeSIB-List", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_SystemInformation_BCH_payload_lastAndCompleteAndFirst(rtxContext* ctx, const SystemInformation_BCH_payload_lastAndCompleteAndFirst* pvalue)
+int asn1PE_UMTS_SystemInformation_BCH_payload_lastAndCompleteAndFirst(rtxContext* RT_RESTRICT ctx, const SystemInformation_BCH_payload_lastAndCompleteAndFirst* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* lastSegmentShort */
-   rtxCtxtPushElemName(ctx, "lastSegmentShort");
    stat = asn1PE_UMTS_LastSegmentShort(ctx, &pvalue->lastSegmentShort);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "lastSegmentShort", -1, 0);
    /* completeSIB-List */
-   rtxCtxtPushElemName(ctx, "completeSIB-List");
    stat = asn1PE_UMTS_CompleteSIB_List(ctx, &pvalue->completeSIB_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "completeSIB-List", -1, 0);
    /* firstSegment */
-   rtxCtxtPushElemName(ctx, "firstSegment");
    stat = asn1PE_UMTS_FirstSegmentShort(ctx, &pvalue->firstSegment);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "firstSegment", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_SystemInformation_BCH_payload_completeAndFirst(rtxContext* ctx, const SystemInformation_BCH_payload_completeAndFirst* pvalue)
+int asn1PE_UMTS_SystemInformation_BCH_payload_completeAndFirst(rtxContext* RT_RESTRICT ctx, const SystemInformation_BCH_payload_completeAndFirst* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* completeSIB-List */
-   rtxCtxtPushElemName(ctx, "completeSIB-List");
    stat = asn1PE_UMTS_CompleteSIB_List(ctx, &pvalue->completeSIB_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "completeSIB-List", -1, 0);
    /* firstSegment */
-   rtxCtxtPushElemName(ctx, "firstSegment");
    stat = asn1PE_UMTS_FirstSegmentShort(ctx, &pvalue->firstSegment);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "firstSegment", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CompleteSIB_sib_Data_fixed(rtxContext* ctx, const CompleteSIB_sib_Data_fixed* pvalue)
+int asn1PE_UMTS_CompleteSIB_sib_Data_fixed(rtxContext* RT_RESTRICT ctx, const CompleteSIB_sib_Data_fixed* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    RT_SET_SIZE(ctx, 226, 226);
    stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CompleteSIB(rtxContext* ctx, const CompleteSIB* pvalue)
+int asn1PE_UMTS_CompleteSIB(rtxContext* RT_RESTRICT ctx, const CompleteSIB* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CompleteSIB");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompleteSIB");
    /* sib-Type */
-   rtxCtxtPushElemName(ctx, "sib-Type");
-   rtxCtxtPushTypeName(ctx, "SIB-Type");
    if (pvalue->sib_Type > 31) {
       rtxErrAddUIntParm(ctx, pvalue->sib_Type);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "SIB-Type", "sib-Type", -1, "CompleteSIB");
    }
    stat = pe_ConsUInt64(ctx, pvalue->sib_Type, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "SIB-Type", "sib-Type", -1, "CompleteSIB");
    /* sib-Data-fixed */
-   rtxCtxtPushElemName(ctx, "sib-Data-fixed");
    stat = asn1PE_UMTS_CompleteSIB_sib_Data_fixed(ctx, &pvalue->sib_Data_fixed);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "sib-Data-fixed", -1, "CompleteSIB");
    return 0;
 }
 
-int asn1PE_UMTS_LastSegment(rtxContext* ctx, const LastSegment* pvalue)
+int asn1PE_UMTS_LastSegment(rtxContext* RT_RESTRICT ctx, const LastSegment* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "LastSegment");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "LastSegment");
    /* sib-Type */
-   rtxCtxtPushElemName(ctx, "sib-Type");
-   rtxCtxtPushTypeName(ctx, "SIB-Type");
    if (pvalue->sib_Type > 31) {
       rtxErrAddUIntParm(ctx, pvalue->sib_Type);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "SIB-Type", "sib-Type", -1, "LastSegment");
    }
    stat = pe_ConsUInt64(ctx, pvalue->sib_Type, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "SIB-Type", "sib-Type", -1, "LastSegment");
    /* segmentIndex */
-   rtxCtxtPushElemName(ctx, "segmentIndex");
-   rtxCtxtPushTypeName(ctx, "SegmentIndex");
    if ((uint64_t)(pvalue->segmentIndex - 1) > 14u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "SegmentIndex");
       rtxErrAddUIntParm(ctx, pvalue->segmentIndex);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "SegmentIndex", "segmentIndex", -1, "LastSegment");
    }
    stat = pe_ConsUInt64(ctx, pvalue->segmentIndex, 1, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "SegmentIndex", "segmentIndex", -1, "LastSegment");
    /* sib-Data-fixed */
-   rtxCtxtPushElemName(ctx, "sib-Data-fixed");
    stat = asn1PE_UMTS_SIB_Data_fixed(ctx, &pvalue->sib_Data_fixed);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "sib-Data-fixed", -1, "LastSegment");
    return 0;
 }
 
-int asn1PE_UMTS_SystemInformation_BCH_payload(rtxContext* ctx, const SystemInformation_BCH_payload* pvalue)
+int asn1PE_UMTS_SystemInformation_BCH_payload(rtxContext* RT_RESTRICT ctx, const SystemInformation_BCH_payload* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 15) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 15) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "noSegment");
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "firstSegment");
-         if (pvalue->u.firstSegment == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.firstSegment == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "firstSegment", -1, 0);
          stat = asn1PE_UMTS_FirstSegment(ctx, pvalue->u.firstSegment);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "firstSegment", -1, 0);
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "subsequentSegment");
-         if (pvalue->u.subsequentSegment == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.subsequentSegment == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "subsequentSegment", -1, 0);
          stat = asn1PE_UMTS_SubsequentSegment(ctx, pvalue->u.subsequentSegment);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "subsequentSegment", -1, 0);
          break;
       case 4:
-         rtxCtxtPushElemName(ctx, "lastSegmentShort");
-         if (pvalue->u.lastSegmentShort == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.lastSegmentShort == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "lastSegmentShort", -1, 0);
          stat = asn1PE_UMTS_LastSegmentShort(ctx, pvalue->u.lastSegmentShort);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "lastSegmentShort", -1, 0);
          break;
       case 5:
-         rtxCtxtPushElemName(ctx, "lastAndFirst");
-         if (pvalue->u.lastAndFirst == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.lastAndFirst == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "lastAndFirst", -1, 0);
          stat = asn1PE_UMTS_SystemInformation_BCH_payload_lastAndFirst(ctx, pvalue->u.lastAndFirst);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "lastAndFirst", -1, 0);
          break;
       case 6:
-         rtxCtxtPushElemName(ctx, "lastAndComplete");
-         if (pvalue->u.lastAndComplete == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.lastAndComplete == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "lastAndComplete", -1, 0);
          stat = asn1PE_UMTS_SystemInformation_BCH_payload_lastAndComplete(ctx, pvalue->u.lastAndComplete);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "lastAndComplete", -1, 0);
          break;
       case 7:
-         rtxCtxtPushElemName(ctx, "lastAndCompleteAndFirst");
-         if (pvalue->u.lastAndCompleteAndFirst == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.lastAndCompleteAndFirst == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "lastAndCompleteAndFirst", -1, 0);
          stat = asn1PE_UMTS_SystemInformation_BCH_payload_lastAndCompleteAndFirst(ctx, pvalue->u.lastAndCompleteAndFirst);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "lastAndCompleteAndFirst", -1, 0);
          break;
       case 8:
-         rtxCtxtPushElemName(ctx, "completeSIB-List");
-         if (pvalue->u.completeSIB_List == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.completeSIB_List == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "completeSIB-List", -1, 0);
          stat = asn1PE_UMTS_CompleteSIB_List(ctx, pvalue->u.completeSIB_List);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "completeSIB-List", -1, 0);
          break;
       case 9:
-         rtxCtxtPushElemName(ctx, "completeAndFirst");
-         if (pvalue->u.completeAndFirst == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.completeAndFirst == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "completeAndFirst", -1, 0);
          stat = asn1PE_UMTS_SystemInformation_BCH_payload_completeAndFirst(ctx, pvalue->u.completeAndFirst);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "completeAndFirst", -1, 0);
          break;
       case 10:
-         rtxCtxtPushElemName(ctx, "completeSIB");
-         if (pvalue->u.completeSIB == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.completeSIB == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "completeSIB", -1, 0);
          stat = asn1PE_UMTS_CompleteSIB(ctx, pvalue->u.completeSIB);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "completeSIB", -1, 0);
          break;
       case 11:
-         rtxCtxtPushElemName(ctx, "lastSegment");
-         if (pvalue->u.lastSegment == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.lastSegment == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "lastSegment", -1, 0);
          stat = asn1PE_UMTS_LastSegment(ctx, pvalue->u.lastSegment);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "lastSegment", -1, 0);
          break;
       case 12:
-         rtxCtxtPushElemName(ctx, "spare5");
-         rtxCtxtPopElemName(ctx);
          break;
       case 13:
-         rtxCtxtPushElemName(ctx, "spare4");
-         rtxCtxtPopElemName(ctx);
          break;
       case 14:
-         rtxCtxtPushElemName(ctx, "spare3");
-         rtxCtxtPopElemName(ctx);
          break;
       case 15:
-         rtxCtxtPushElemName(ctx, "spare2");
-         rtxCtxtPopElemName(ctx);
          break;
       case 16:
-         rtxCtxtPushElemName(ctx, "spare1");
-         rtxCtxtPopElemName(ctx);
          break;
       default:
          break;
@@ -538,941 +394,699 @@ int asn1PE_UMTS_SystemInformation_BCH_payload(rtxContext* ctx, const SystemInfor
    return 0;
 }
 
-int asn1PE_UMTS_SystemInformation_BCH(rtxContext* ctx, const SystemInformation_BCH* pvalue)
+int asn1PE_UMTS_SystemInformation_BCH(rtxContext* RT_RESTRICT ctx, const SystemInformation_BCH* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SystemInformation-BCH");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SystemInformation-BCH");
    /* sfn-Prime */
-   rtxCtxtPushElemName(ctx, "sfn-Prime");
-   rtxCtxtPushTypeName(ctx, "SFN-Prime");
    if ((uint64_t)pvalue->sfn_Prime > 2047u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "SFN-Prime");
       rtxErrAddUIntParm(ctx, pvalue->sfn_Prime);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "SFN-Prime", "sfn-Prime", -1, "SystemInformation-BCH");
    }
    stat = pe_ConsUInt64(ctx, pvalue->sfn_Prime, 0, 2047);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "SFN-Prime", "sfn-Prime", -1, "SystemInformation-BCH");
    /* payload */
-   rtxCtxtPushElemName(ctx, "payload");
    stat = asn1PE_UMTS_SystemInformation_BCH_payload(ctx, &pvalue->payload);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "payload", -1, "SystemInformation-BCH");
    return 0;
 }
 
-int asn1PE_UMTS_BCCH_BCH_Message(rtxContext* ctx, const BCCH_BCH_Message* pvalue)
+int asn1PE_UMTS_BCCH_BCH_Message(rtxContext* RT_RESTRICT ctx, const BCCH_BCH_Message* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "BCCH-BCH-Message");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "BCCH-BCH-Message");
    /* message */
-   rtxCtxtPushElemName(ctx, "message");
    stat = asn1PE_UMTS_SystemInformation_BCH(ctx, &pvalue->message);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "message", -1, "BCCH-BCH-Message");
    return 0;
 }
 
-int asn1PE_UMTS_MIB_ValueTag(rtxContext* ctx, MIB_ValueTag value)
+int asn1PE_UMTS_MIB_ValueTag(rtxContext* RT_RESTRICT ctx, MIB_ValueTag value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MIB-ValueTag");
    if ((uint64_t)(value - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "MIB-ValueTag");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MIB-ValueTag");
    }
    stat = pe_ConsUInt64(ctx, value, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MIB-ValueTag");
    return 0;
 }
 
-int asn1PE_UMTS_Digit(rtxContext* ctx, Digit value)
+int asn1PE_UMTS_Digit(rtxContext* RT_RESTRICT ctx, Digit value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Digit");
    if ((uint64_t)value > 9u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "Digit");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "Digit");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Digit");
    return 0;
 }
 
-int asn1PE_UMTS_MCC(rtxContext* ctx, const MCC* pvalue)
+int asn1PE_UMTS_MCC(rtxContext* RT_RESTRICT ctx, const MCC* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MCC");
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MCC");
    if (pvalue->n != 3) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "MCC");
       rtxErrAddUIntParm(ctx, pvalue->n);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MCC");
    }
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "Digit", i);
-      rtxCtxtPushTypeName(ctx, "Digit");
       if ((uint64_t)pvalue->elem[i] > 9u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "Digit");
          rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Digit", "Digit", (int32_t)i, "MCC");
       }
       stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 9);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, "Digit", "Digit", (int32_t)i, "MCC");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_MNC(rtxContext* ctx, const MNC* pvalue)
+int asn1PE_UMTS_MNC(rtxContext* RT_RESTRICT ctx, const MNC* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MNC");
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MNC");
    RT_SET_SIZE(ctx, 2, 3);
    stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MNC");
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "Digit", i);
-      rtxCtxtPushTypeName(ctx, "Digit");
       if ((uint64_t)pvalue->elem[i] > 9u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "Digit");
          rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Digit", "Digit", (int32_t)i, "MNC");
       }
       stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 9);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, "Digit", "Digit", (int32_t)i, "MNC");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PLMN_Identity(rtxContext* ctx, const PLMN_Identity* pvalue)
+int asn1PE_UMTS_PLMN_Identity(rtxContext* RT_RESTRICT ctx, const PLMN_Identity* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PLMN-Identity");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PLMN-Identity");
    /* mcc */
-   rtxCtxtPushElemName(ctx, "mcc");
    stat = asn1PE_UMTS_MCC(ctx, &pvalue->mcc);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "mcc", -1, "PLMN-Identity");
    /* mnc */
-   rtxCtxtPushElemName(ctx, "mnc");
    stat = asn1PE_UMTS_MNC(ctx, &pvalue->mnc);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "mnc", -1, "PLMN-Identity");
    return 0;
 }
 
-int asn1PE_UMTS_PLMN_Type_gsm_MAP(rtxContext* ctx, const PLMN_Type_gsm_MAP* pvalue)
+int asn1PE_UMTS_PLMN_Type_gsm_MAP(rtxContext* RT_RESTRICT ctx, const PLMN_Type_gsm_MAP* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* plmn-Identity */
-   rtxCtxtPushElemName(ctx, "plmn-Identity");
    stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_P_REV(rtxContext* ctx, P_REV value)
+int asn1PE_UMTS_P_REV(rtxContext* RT_RESTRICT ctx, P_REV value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "P-REV");
    RT_SET_SIZE(ctx, 8, 8);
    stat = pe_BitString32(ctx, &value, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "P-REV");
    return 0;
 }
 
-int asn1PE_UMTS_Min_P_REV(rtxContext* ctx, Min_P_REV value)
+int asn1PE_UMTS_Min_P_REV(rtxContext* RT_RESTRICT ctx, Min_P_REV value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Min-P-REV");
    RT_SET_SIZE(ctx, 8, 8);
    stat = pe_BitString32(ctx, &value, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Min-P-REV");
    return 0;
 }
 
-int asn1PE_UMTS_SID(rtxContext* ctx, SID value)
+int asn1PE_UMTS_SID(rtxContext* RT_RESTRICT ctx, SID value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SID");
    RT_SET_SIZE(ctx, 15, 15);
    stat = pe_BitString32(ctx, &value, 15, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SID");
    return 0;
 }
 
-int asn1PE_UMTS_NID(rtxContext* ctx, NID value)
+int asn1PE_UMTS_NID(rtxContext* RT_RESTRICT ctx, NID value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "NID");
    RT_SET_SIZE(ctx, 16, 16);
    stat = pe_BitString32(ctx, &value, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NID");
    return 0;
 }
 
-int asn1PE_UMTS_PLMN_Type_ansi_41(rtxContext* ctx, const PLMN_Type_ansi_41* pvalue)
+int asn1PE_UMTS_PLMN_Type_ansi_41(rtxContext* RT_RESTRICT ctx, const PLMN_Type_ansi_41* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* p-REV */
-   rtxCtxtPushElemName(ctx, "p-REV");
    stat = asn1PE_UMTS_P_REV(ctx, pvalue->p_REV);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "p-REV", -1, 0);
    /* min-P-REV */
-   rtxCtxtPushElemName(ctx, "min-P-REV");
    stat = asn1PE_UMTS_Min_P_REV(ctx, pvalue->min_P_REV);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "min-P-REV", -1, 0);
    /* sid */
-   rtxCtxtPushElemName(ctx, "sid");
    stat = asn1PE_UMTS_SID(ctx, pvalue->sid);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sid", -1, 0);
    /* nid */
-   rtxCtxtPushElemName(ctx, "nid");
    stat = asn1PE_UMTS_NID(ctx, pvalue->nid);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "nid", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_PLMN_Type_gsm_MAP_and_ANSI_41(rtxContext* ctx, const PLMN_Type_gsm_MAP_and_ANSI_41* pvalue)
+int asn1PE_UMTS_PLMN_Type_gsm_MAP_and_ANSI_41(rtxContext* RT_RESTRICT ctx, const PLMN_Type_gsm_MAP_and_ANSI_41* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* plmn-Identity */
-   rtxCtxtPushElemName(ctx, "plmn-Identity");
    stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, 0);
    /* p-REV */
-   rtxCtxtPushElemName(ctx, "p-REV");
    stat = asn1PE_UMTS_P_REV(ctx, pvalue->p_REV);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "p-REV", -1, 0);
    /* min-P-REV */
-   rtxCtxtPushElemName(ctx, "min-P-REV");
    stat = asn1PE_UMTS_Min_P_REV(ctx, pvalue->min_P_REV);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "min-P-REV", -1, 0);
    /* sid */
-   rtxCtxtPushElemName(ctx, "sid");
    stat = asn1PE_UMTS_SID(ctx, pvalue->sid);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sid", -1, 0);
    /* nid */
-   rtxCtxtPushElemName(ctx, "nid");
    stat = asn1PE_UMTS_NID(ctx, pvalue->nid);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "nid", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_PLMN_Type(rtxContext* ctx, const PLMN_Type* pvalue)
+int asn1PE_UMTS_PLMN_Type(rtxContext* RT_RESTRICT ctx, const PLMN_Type* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PLMN-Type");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PLMN-Type");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 3) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "PLMN-Type");
+   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PLMN-Type");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "gsm-MAP");
-         if (pvalue->u.gsm_MAP == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.gsm_MAP == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm-MAP", -1, "PLMN-Type");
          stat = asn1PE_UMTS_PLMN_Type_gsm_MAP(ctx, pvalue->u.gsm_MAP);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "gsm-MAP", -1, "PLMN-Type");
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "ansi-41");
-         if (pvalue->u.ansi_41 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.ansi_41 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ansi-41", -1, "PLMN-Type");
          stat = asn1PE_UMTS_PLMN_Type_ansi_41(ctx, pvalue->u.ansi_41);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "ansi-41", -1, "PLMN-Type");
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "gsm-MAP-and-ANSI-41");
-         if (pvalue->u.gsm_MAP_and_ANSI_41 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.gsm_MAP_and_ANSI_41 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm-MAP-and-ANSI-41", -1, "PLMN-Type");
          stat = asn1PE_UMTS_PLMN_Type_gsm_MAP_and_ANSI_41(ctx, pvalue->u.gsm_MAP_and_ANSI_41);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "gsm-MAP-and-ANSI-41", -1, "PLMN-Type");
          break;
       case 4:
-         rtxCtxtPushElemName(ctx, "spare");
-         rtxCtxtPopElemName(ctx);
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PLMN_ValueTag(rtxContext* ctx, PLMN_ValueTag value)
+int asn1PE_UMTS_PLMN_ValueTag(rtxContext* RT_RESTRICT ctx, PLMN_ValueTag value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PLMN-ValueTag");
    if ((uint64_t)(value - 1) > 255u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "PLMN-ValueTag");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PLMN-ValueTag");
    }
    stat = pe_ConsUInt64(ctx, value, 1, 256);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PLMN-ValueTag");
    return 0;
 }
 
-int asn1PE_UMTS_CellValueTag(rtxContext* ctx, CellValueTag value)
+int asn1PE_UMTS_CellValueTag(rtxContext* RT_RESTRICT ctx, CellValueTag value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CellValueTag");
    if ((uint64_t)(value - 1) > 3u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "CellValueTag");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "CellValueTag");
    }
    stat = pe_ConsUInt64(ctx, value, 1, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellValueTag");
    return 0;
 }
 
-int asn1PE_UMTS_PredefinedConfigIdentity(rtxContext* ctx, PredefinedConfigIdentity value)
+int asn1PE_UMTS_PredefinedConfigIdentity(rtxContext* RT_RESTRICT ctx, PredefinedConfigIdentity value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PredefinedConfigIdentity");
    if ((uint64_t)value > 15u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "PredefinedConfigIdentity");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PredefinedConfigIdentity");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PredefinedConfigIdentity");
    return 0;
 }
 
-int asn1PE_UMTS_PredefinedConfigValueTag(rtxContext* ctx, PredefinedConfigValueTag value)
+int asn1PE_UMTS_PredefinedConfigValueTag(rtxContext* RT_RESTRICT ctx, PredefinedConfigValueTag value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PredefinedConfigValueTag");
    if ((uint64_t)value > 15u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "PredefinedConfigValueTag");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PredefinedConfigValueTag");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PredefinedConfigValueTag");
    return 0;
 }
 
-int asn1PE_UMTS_PredefinedConfigIdentityAndValueTag(rtxContext* ctx, const PredefinedConfigIdentityAndValueTag* pvalue)
+int asn1PE_UMTS_PredefinedConfigIdentityAndValueTag(rtxContext* RT_RESTRICT ctx, const PredefinedConfigIdentityAndValueTag* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PredefinedConfigIdentityAndValueTag");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PredefinedConfigIdentityAndValueTag");
    /* predefinedConfigIdentity */
-   rtxCtxtPushElemName(ctx, "predefinedConfigIdentity");
-   rtxCtxtPushTypeName(ctx, "PredefinedConfigIdentity");
    if ((uint64_t)pvalue->predefinedConfigIdentity > 15u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "PredefinedConfigIdentity");
       rtxErrAddUIntParm(ctx, pvalue->predefinedConfigIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, "PredefinedConfigIdentityAndValueTag");
    }
    stat = pe_ConsUInt64(ctx, pvalue->predefinedConfigIdentity, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, "PredefinedConfigIdentityAndValueTag");
    /* predefinedConfigValueTag */
-   rtxCtxtPushElemName(ctx, "predefinedConfigValueTag");
-   rtxCtxtPushTypeName(ctx, "PredefinedConfigValueTag");
    if ((uint64_t)pvalue->predefinedConfigValueTag > 15u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "PredefinedConfigValueTag");
       rtxErrAddUIntParm(ctx, pvalue->predefinedConfigValueTag);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PredefinedConfigValueTag", "predefinedConfigValueTag", -1, "PredefinedConfigIdentityAndValueTag");
    }
    stat = pe_ConsUInt64(ctx, pvalue->predefinedConfigValueTag, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "PredefinedConfigValueTag", "predefinedConfigValueTag", -1, "PredefinedConfigIdentityAndValueTag");
    return 0;
 }
 
-int asn1PE_UMTS_SIBOccurIdentity(rtxContext* ctx, SIBOccurIdentity value)
+int asn1PE_UMTS_SIBOccurIdentity(rtxContext* RT_RESTRICT ctx, SIBOccurIdentity value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SIBOccurIdentity");
    if ((uint64_t)value > 15u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "SIBOccurIdentity");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "SIBOccurIdentity");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SIBOccurIdentity");
    return 0;
 }
 
-int asn1PE_UMTS_SIBOccurValueTag(rtxContext* ctx, SIBOccurValueTag value)
+int asn1PE_UMTS_SIBOccurValueTag(rtxContext* RT_RESTRICT ctx, SIBOccurValueTag value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SIBOccurValueTag");
    if ((uint64_t)value > 15u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "SIBOccurValueTag");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "SIBOccurValueTag");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SIBOccurValueTag");
    return 0;
 }
 
-int asn1PE_UMTS_SIBOccurrenceIdentityAndValueTag(rtxContext* ctx, const SIBOccurrenceIdentityAndValueTag* pvalue)
+int asn1PE_UMTS_SIBOccurrenceIdentityAndValueTag(rtxContext* RT_RESTRICT ctx, const SIBOccurrenceIdentityAndValueTag* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SIBOccurrenceIdentityAndValueTag");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SIBOccurrenceIdentityAndValueTag");
    /* sibOccurIdentity */
-   rtxCtxtPushElemName(ctx, "sibOccurIdentity");
-   rtxCtxtPushTypeName(ctx, "SIBOccurIdentity");
    if ((uint64_t)pvalue->sibOccurIdentity > 15u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "SIBOccurIdentity");
       rtxErrAddUIntParm(ctx, pvalue->sibOccurIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "SIBOccurIdentity", "sibOccurIdentity", -1, "SIBOccurrenceIdentityAndValueTag");
    }
    stat = pe_ConsUInt64(ctx, pvalue->sibOccurIdentity, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "SIBOccurIdentity", "sibOccurIdentity", -1, "SIBOccurrenceIdentityAndValueTag");
    /* sibOccurValueTag */
-   rtxCtxtPushElemName(ctx, "sibOccurValueTag");
-   rtxCtxtPushTypeName(ctx, "SIBOccurValueTag");
    if ((uint64_t)pvalue->sibOccurValueTag > 15u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "SIBOccurValueTag");
       rtxErrAddUIntParm(ctx, pvalue->sibOccurValueTag);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "SIBOccurValueTag", "sibOccurValueTag", -1, "SIBOccurrenceIdentityAndValueTag");
    }
    stat = pe_ConsUInt64(ctx, pvalue->sibOccurValueTag, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "SIBOccurValueTag", "sibOccurValueTag", -1, "SIBOccurrenceIdentityAndValueTag");
    return 0;
 }
 
-int asn1PE_UMTS_SIBSb_TypeAndTag(rtxContext* ctx, const SIBSb_TypeAndTag* pvalue)
+int asn1PE_UMTS_SIBSb_TypeAndTag(rtxContext* RT_RESTRICT ctx, const SIBSb_TypeAndTag* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SIBSb-TypeAndTag");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SIBSb-TypeAndTag");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 31) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "SIBSb-TypeAndTag");
+   if (pvalue->t - 1 > 31) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SIBSb-TypeAndTag");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "sysInfoType1");
-         rtxCtxtPushTypeName(ctx, "PLMN-ValueTag");
          if ((uint64_t)(pvalue->u.sysInfoType1 - 1) > 255u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "PLMN-ValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType1);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "PLMN-ValueTag", "sysInfoType1", -1, "SIBSb-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType1, 1, 256);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "PLMN-ValueTag", "sysInfoType1", -1, "SIBSb-TypeAndTag");
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "sysInfoType2");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.sysInfoType2 - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType2);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType2", -1, "SIBSb-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType2, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType2", -1, "SIBSb-TypeAndTag");
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "sysInfoType3");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.sysInfoType3 - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType3);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType3", -1, "SIBSb-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType3, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType3", -1, "SIBSb-TypeAndTag");
          break;
       case 4:
-         rtxCtxtPushElemName(ctx, "sysInfoType4");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.sysInfoType4 - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType4);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType4", -1, "SIBSb-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType4, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType4", -1, "SIBSb-TypeAndTag");
          break;
       case 5:
-         rtxCtxtPushElemName(ctx, "sysInfoType5");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.sysInfoType5 - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType5);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType5", -1, "SIBSb-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType5, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType5", -1, "SIBSb-TypeAndTag");
          break;
       case 6:
-         rtxCtxtPushElemName(ctx, "sysInfoType6");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.sysInfoType6 - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType6);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType6", -1, "SIBSb-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType6, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType6", -1, "SIBSb-TypeAndTag");
          break;
       case 7:
-         rtxCtxtPushElemName(ctx, "sysInfoType7");
-         rtxCtxtPopElemName(ctx);
          break;
       case 8:
-         rtxCtxtPushElemName(ctx, "dummy");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.dummy - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.dummy);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "dummy", -1, "SIBSb-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.dummy, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "dummy", -1, "SIBSb-TypeAndTag");
          break;
       case 9:
-         rtxCtxtPushElemName(ctx, "dummy2");
-         rtxCtxtPopElemName(ctx);
          break;
       case 10:
-         rtxCtxtPushElemName(ctx, "dummy3");
-         rtxCtxtPopElemName(ctx);
          break;
       case 11:
-         rtxCtxtPushElemName(ctx, "sysInfoType11");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.sysInfoType11 - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType11);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType11", -1, "SIBSb-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType11, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType11", -1, "SIBSb-TypeAndTag");
          break;
       case 12:
-         rtxCtxtPushElemName(ctx, "sysInfoType12");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.sysInfoType12 - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType12);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType12", -1, "SIBSb-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType12, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType12", -1, "SIBSb-TypeAndTag");
          break;
       case 13:
-         rtxCtxtPushElemName(ctx, "sysInfoType13");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.sysInfoType13 - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType13);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType13", -1, "SIBSb-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType13, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType13", -1, "SIBSb-TypeAndTag");
          break;
       case 14:
-         rtxCtxtPushElemName(ctx, "sysInfoType13-1");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.sysInfoType13_1 - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType13_1);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType13-1", -1, "SIBSb-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType13_1, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType13-1", -1, "SIBSb-TypeAndTag");
          break;
       case 15:
-         rtxCtxtPushElemName(ctx, "sysInfoType13-2");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.sysInfoType13_2 - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType13_2);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType13-2", -1, "SIBSb-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType13_2, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType13-2", -1, "SIBSb-TypeAndTag");
          break;
       case 16:
-         rtxCtxtPushElemName(ctx, "sysInfoType13-3");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.sysInfoType13_3 - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType13_3);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType13-3", -1, "SIBSb-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType13_3, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType13-3", -1, "SIBSb-TypeAndTag");
          break;
       case 17:
-         rtxCtxtPushElemName(ctx, "sysInfoType13-4");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.sysInfoType13_4 - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType13_4);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType13-4", -1, "SIBSb-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType13_4, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType13-4", -1, "SIBSb-TypeAndTag");
          break;
       case 18:
-         rtxCtxtPushElemName(ctx, "sysInfoType14");
-         rtxCtxtPopElemName(ctx);
          break;
       case 19:
-         rtxCtxtPushElemName(ctx, "sysInfoType15");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.sysInfoType15 - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType15);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType15", -1, "SIBSb-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType15, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType15", -1, "SIBSb-TypeAndTag");
          break;
       case 20:
-         rtxCtxtPushElemName(ctx, "sysInfoType16");
-         if (pvalue->u.sysInfoType16 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.sysInfoType16 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sysInfoType16", -1, "SIBSb-TypeAndTag");
          stat = asn1PE_UMTS_PredefinedConfigIdentityAndValueTag(ctx, pvalue->u.sysInfoType16);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "sysInfoType16", -1, "SIBSb-TypeAndTag");
          break;
       case 21:
-         rtxCtxtPushElemName(ctx, "sysInfoType17");
-         rtxCtxtPopElemName(ctx);
          break;
       case 22:
-         rtxCtxtPushElemName(ctx, "sysInfoTypeSB1");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.sysInfoTypeSB1 - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoTypeSB1);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoTypeSB1", -1, "SIBSb-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoTypeSB1, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoTypeSB1", -1, "SIBSb-TypeAndTag");
          break;
       case 23:
-         rtxCtxtPushElemName(ctx, "sysInfoTypeSB2");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.sysInfoTypeSB2 - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoTypeSB2);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoTypeSB2", -1, "SIBSb-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoTypeSB2, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoTypeSB2", -1, "SIBSb-TypeAndTag");
          break;
       case 24:
-         rtxCtxtPushElemName(ctx, "sysInfoType15-1");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.sysInfoType15_1 - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType15_1);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType15-1", -1, "SIBSb-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType15_1, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType15-1", -1, "SIBSb-TypeAndTag");
          break;
       case 25:
-         rtxCtxtPushElemName(ctx, "sysInfoType15-2");
-         if (pvalue->u.sysInfoType15_2 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.sysInfoType15_2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sysInfoType15-2", -1, "SIBSb-TypeAndTag");
          stat = asn1PE_UMTS_SIBOccurrenceIdentityAndValueTag(ctx, pvalue->u.sysInfoType15_2);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "sysInfoType15-2", -1, "SIBSb-TypeAndTag");
          break;
       case 26:
-         rtxCtxtPushElemName(ctx, "sysInfoType15-3");
-         if (pvalue->u.sysInfoType15_3 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.sysInfoType15_3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sysInfoType15-3", -1, "SIBSb-TypeAndTag");
          stat = asn1PE_UMTS_SIBOccurrenceIdentityAndValueTag(ctx, pvalue->u.sysInfoType15_3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "sysInfoType15-3", -1, "SIBSb-TypeAndTag");
          break;
       case 27:
-         rtxCtxtPushElemName(ctx, "sysInfoType15-4");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.sysInfoType15_4 - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType15_4);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType15-4", -1, "SIBSb-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType15_4, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType15-4", -1, "SIBSb-TypeAndTag");
          break;
       case 28:
-         rtxCtxtPushElemName(ctx, "sysInfoType18");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.sysInfoType18 - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType18);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType18", -1, "SIBSb-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType18, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType18", -1, "SIBSb-TypeAndTag");
          break;
       case 29:
-         rtxCtxtPushElemName(ctx, "sysInfoType15-5");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.sysInfoType15_5 - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType15_5);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType15-5", -1, "SIBSb-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType15_5, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType15-5", -1, "SIBSb-TypeAndTag");
          break;
       case 30:
-         rtxCtxtPushElemName(ctx, "sysInfoType5bis");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.sysInfoType5bis - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType5bis);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType5bis", -1, "SIBSb-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType5bis, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType5bis", -1, "SIBSb-TypeAndTag");
          break;
       case 31:
-         rtxCtxtPushElemName(ctx, "spare2");
-         rtxCtxtPopElemName(ctx);
          break;
       case 32:
-         rtxCtxtPushElemName(ctx, "spare1");
-         rtxCtxtPopElemName(ctx);
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SchedulingInformation_scheduling_sib_Pos(rtxContext* ctx, const SchedulingInformation_scheduling_sib_Pos* pvalue)
+int asn1PE_UMTS_SchedulingInformation_scheduling_sib_Pos(rtxContext* RT_RESTRICT ctx, const SchedulingInformation_scheduling_sib_Pos* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 10) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 10) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "rep4");
          if ((uint64_t)pvalue->u.rep4 > 1u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "rep4");
             rtxErrAddUIntParm(ctx, pvalue->u.rep4);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rep4", -1, 0);
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.rep4, 0, 1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "rep4", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "rep8");
          if ((uint64_t)pvalue->u.rep8 > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "rep8");
             rtxErrAddUIntParm(ctx, pvalue->u.rep8);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rep8", -1, 0);
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.rep8, 0, 3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "rep8", -1, 0);
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "rep16");
          if ((uint64_t)pvalue->u.rep16 > 7u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "rep16");
             rtxErrAddUIntParm(ctx, pvalue->u.rep16);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rep16", -1, 0);
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.rep16, 0, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "rep16", -1, 0);
          break;
       case 4:
-         rtxCtxtPushElemName(ctx, "rep32");
          if ((uint64_t)pvalue->u.rep32 > 15u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "rep32");
             rtxErrAddUIntParm(ctx, pvalue->u.rep32);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rep32", -1, 0);
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.rep32, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "rep32", -1, 0);
          break;
       case 5:
-         rtxCtxtPushElemName(ctx, "rep64");
          if ((uint64_t)pvalue->u.rep64 > 31u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "rep64");
             rtxErrAddUIntParm(ctx, pvalue->u.rep64);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rep64", -1, 0);
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.rep64, 0, 31);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "rep64", -1, 0);
          break;
       case 6:
-         rtxCtxtPushElemName(ctx, "rep128");
          if ((uint64_t)pvalue->u.rep128 > 63u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "rep128");
             rtxErrAddUIntParm(ctx, pvalue->u.rep128);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rep128", -1, 0);
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.rep128, 0, 63);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "rep128", -1, 0);
          break;
       case 7:
-         rtxCtxtPushElemName(ctx, "rep256");
          if ((uint64_t)pvalue->u.rep256 > 127u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "rep256");
             rtxErrAddUIntParm(ctx, pvalue->u.rep256);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rep256", -1, 0);
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.rep256, 0, 127);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "rep256", -1, 0);
          break;
       case 8:
-         rtxCtxtPushElemName(ctx, "rep512");
          stat = pe_ConsUInt64(ctx, pvalue->u.rep512, 0, 255);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "rep512", -1, 0);
          break;
       case 9:
-         rtxCtxtPushElemName(ctx, "rep1024");
          if ((uint64_t)pvalue->u.rep1024 > 511u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "rep1024");
             rtxErrAddUIntParm(ctx, pvalue->u.rep1024);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rep1024", -1, 0);
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.rep1024, 0, 511);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "rep1024", -1, 0);
          break;
       case 10:
-         rtxCtxtPushElemName(ctx, "rep2048");
          if ((uint64_t)pvalue->u.rep2048 > 1023u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "rep2048");
             rtxErrAddUIntParm(ctx, pvalue->u.rep2048);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rep2048", -1, 0);
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.rep2048, 0, 1023);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "rep2048", -1, 0);
          break;
       case 11:
-         rtxCtxtPushElemName(ctx, "rep4096");
          if ((uint64_t)pvalue->u.rep4096 > 2047u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "rep4096");
             rtxErrAddUIntParm(ctx, pvalue->u.rep4096);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rep4096", -1, 0);
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.rep4096, 0, 2047);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "rep4096", -1, 0);
          break;
       default:
          break;
@@ -1480,1108 +1094,826 @@ int asn1PE_UMTS_SchedulingInformation_scheduling_sib_Pos(rtxContext* ctx, const 
    return 0;
 }
 
-int asn1PE_UMTS_SibOFF(rtxContext* ctx, SibOFF value)
+int asn1PE_UMTS_SibOFF(rtxContext* RT_RESTRICT ctx, SibOFF value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SibOFF");
    if (value > 15) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SibOFF");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SibOFF");
    return 0;
 }
 
-int asn1PE_UMTS_SibOFF_List(rtxContext* ctx, const SibOFF_List* pvalue)
+int asn1PE_UMTS_SibOFF_List(rtxContext* RT_RESTRICT ctx, const SibOFF_List* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SibOFF-List");
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "SibOFF-List");
    RT_SET_SIZE(ctx, 1, 15);
    stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SibOFF-List");
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "SibOFF", i);
-      rtxCtxtPushTypeName(ctx, "SibOFF");
       if (pvalue->elem[i] > 15) {
          rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "SibOFF", "SibOFF", (int32_t)i, "SibOFF-List");
       }
       stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, "SibOFF", "SibOFF", (int32_t)i, "SibOFF-List");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SchedulingInformation_scheduling(rtxContext* ctx, const SchedulingInformation_scheduling* pvalue)
+int asn1PE_UMTS_SchedulingInformation_scheduling(rtxContext* RT_RESTRICT ctx, const SchedulingInformation_scheduling* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->segCount != 1) << 1) |
       ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* segCount */
    if (pvalue->segCount != 1) {
-      rtxCtxtPushElemName(ctx, "segCount");
-      rtxCtxtPushTypeName(ctx, "SegCount");
       if ((uint64_t)(pvalue->segCount - 1) > 15u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "SegCount");
          rtxErrAddUIntParm(ctx, pvalue->segCount);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "SegCount", "segCount", -1, 0);
       }
       stat = pe_ConsUInt64(ctx, pvalue->segCount, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "SegCount", "segCount", -1, 0);
    }
    /* sib-Pos */
-   rtxCtxtPushElemName(ctx, "sib-Pos");
    stat = asn1PE_UMTS_SchedulingInformation_scheduling_sib_Pos(ctx, &pvalue->sib_Pos);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sib-Pos", -1, 0);
    /* sib-PosOffsetInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sib-PosOffsetInfo");
       stat = asn1PE_UMTS_SibOFF_List(ctx, &pvalue->sib_PosOffsetInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "sib-PosOffsetInfo", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SchedulingInformation(rtxContext* ctx, const SchedulingInformation* pvalue)
+int asn1PE_UMTS_SchedulingInformation(rtxContext* RT_RESTRICT ctx, const SchedulingInformation* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SchedulingInformation");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SchedulingInformation");
    /* scheduling */
-   rtxCtxtPushElemName(ctx, "scheduling");
    stat = asn1PE_UMTS_SchedulingInformation_scheduling(ctx, &pvalue->scheduling);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "scheduling", -1, "SchedulingInformation");
    return 0;
 }
 
-int asn1PE_UMTS_SchedulingInformationSIBSb(rtxContext* ctx, const SchedulingInformationSIBSb* pvalue)
+int asn1PE_UMTS_SchedulingInformationSIBSb(rtxContext* RT_RESTRICT ctx, const SchedulingInformationSIBSb* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SchedulingInformationSIBSb");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SchedulingInformationSIBSb");
    /* sibSb-Type */
-   rtxCtxtPushElemName(ctx, "sibSb-Type");
    stat = asn1PE_UMTS_SIBSb_TypeAndTag(ctx, &pvalue->sibSb_Type);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sibSb-Type", -1, "SchedulingInformationSIBSb");
    /* scheduling */
-   rtxCtxtPushElemName(ctx, "scheduling");
    stat = asn1PE_UMTS_SchedulingInformation(ctx, &pvalue->scheduling);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "scheduling", -1, "SchedulingInformationSIBSb");
    return 0;
 }
 
-int asn1PE_UMTS_SIBSb_ReferenceList(rtxContext* ctx, const SIBSb_ReferenceList* pvalue)
+int asn1PE_UMTS_SIBSb_ReferenceList(rtxContext* RT_RESTRICT ctx, const SIBSb_ReferenceList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SIBSb-ReferenceList");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "SIBSb-ReferenceList");
    RT_SET_SIZE(ctx, 1, 32);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SIBSb-ReferenceList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "SchedulingInformationSIBSb", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "SchedulingInformationSIBSb", (int32_t)i, "SIBSb-ReferenceList");
       stat = asn1PE_UMTS_SchedulingInformationSIBSb(ctx, (const SchedulingInformationSIBSb*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "SchedulingInformationSIBSb", (int32_t)i, "SIBSb-ReferenceList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PLMN_IdentityWithOptionalMCC_r6(rtxContext* ctx, const PLMN_IdentityWithOptionalMCC_r6* pvalue)
+int asn1PE_UMTS_PLMN_IdentityWithOptionalMCC_r6(rtxContext* RT_RESTRICT ctx, const PLMN_IdentityWithOptionalMCC_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PLMN-IdentityWithOptionalMCC-r6");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PLMN-IdentityWithOptionalMCC-r6");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PLMN-IdentityWithOptionalMCC-r6");
    /* mcc */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "mcc");
       stat = asn1PE_UMTS_MCC(ctx, &pvalue->mcc);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "mcc", -1, "PLMN-IdentityWithOptionalMCC-r6");
    }
    /* mnc */
-   rtxCtxtPushElemName(ctx, "mnc");
    stat = asn1PE_UMTS_MNC(ctx, &pvalue->mnc);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "mnc", -1, "PLMN-IdentityWithOptionalMCC-r6");
    return 0;
 }
 
-int asn1PE_UMTS_MultiplePLMN_List_r6_multiplePLMNs(rtxContext* ctx, const MultiplePLMN_List_r6_multiplePLMNs* pvalue)
+int asn1PE_UMTS_MultiplePLMN_List_r6_multiplePLMNs(rtxContext* RT_RESTRICT ctx, const MultiplePLMN_List_r6_multiplePLMNs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 5);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "PLMN-IdentityWithOptionalMCC-r6", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PLMN-IdentityWithOptionalMCC-r6", (int32_t)i, 0);
       stat = asn1PE_UMTS_PLMN_IdentityWithOptionalMCC_r6(ctx, (const PLMN_IdentityWithOptionalMCC_r6*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "PLMN-IdentityWithOptionalMCC-r6", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_MultiplePLMN_List_r6(rtxContext* ctx, const MultiplePLMN_List_r6* pvalue)
+int asn1PE_UMTS_MultiplePLMN_List_r6(rtxContext* RT_RESTRICT ctx, const MultiplePLMN_List_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MultiplePLMN-List-r6");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MultiplePLMN-List-r6");
    /* mibPLMN-Identity */
-   rtxCtxtPushElemName(ctx, "mibPLMN-Identity");
    stat = rtxEncBit(ctx, pvalue->mibPLMN_Identity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "mibPLMN-Identity", -1, "MultiplePLMN-List-r6");
    /* multiplePLMNs */
-   rtxCtxtPushElemName(ctx, "multiplePLMNs");
    stat = asn1PE_UMTS_MultiplePLMN_List_r6_multiplePLMNs(ctx, &pvalue->multiplePLMNs);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "multiplePLMNs", -1, "MultiplePLMN-List-r6");
    return 0;
 }
 
-int asn1PE_UMTS_MasterInformationBlock_v690ext(rtxContext* ctx, const MasterInformationBlock_v690ext* pvalue)
+int asn1PE_UMTS_MasterInformationBlock_v690ext(rtxContext* RT_RESTRICT ctx, const MasterInformationBlock_v690ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MasterInformationBlock-v690ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MasterInformationBlock-v690ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MasterInformationBlock-v690ext");
    /* multiplePLMN-List */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "multiplePLMN-List");
       stat = asn1PE_UMTS_MultiplePLMN_List_r6(ctx, &pvalue->multiplePLMN_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "multiplePLMN-List", -1, "MasterInformationBlock-v690ext");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SIB_TypeExt(rtxContext* ctx, const SIB_TypeExt* pvalue)
+int asn1PE_UMTS_SIB_TypeExt(rtxContext* RT_RESTRICT ctx, const SIB_TypeExt* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SIB-TypeExt");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SIB-TypeExt");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 7) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "SIB-TypeExt");
+   if (pvalue->t - 1 > 7) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SIB-TypeExt");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "systemInfoType11bis");
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "systemInfoType15bis");
-         rtxCtxtPopElemName(ctx);
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "systemInfoType15-1bis");
-         rtxCtxtPopElemName(ctx);
          break;
       case 4:
-         rtxCtxtPushElemName(ctx, "systemInfoType15-2bis");
-         rtxCtxtPopElemName(ctx);
          break;
       case 5:
-         rtxCtxtPushElemName(ctx, "systemInfoType15-3bis");
-         rtxCtxtPopElemName(ctx);
          break;
       case 6:
-         rtxCtxtPushElemName(ctx, "systemInfoType15-6");
-         rtxCtxtPopElemName(ctx);
          break;
       case 7:
-         rtxCtxtPushElemName(ctx, "systemInfoType15-7");
-         rtxCtxtPopElemName(ctx);
          break;
       case 8:
-         rtxCtxtPushElemName(ctx, "systemInfoType15-8");
-         rtxCtxtPopElemName(ctx);
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_ValueTagInfo(rtxContext* ctx, const ValueTagInfo* pvalue)
+int asn1PE_UMTS_ValueTagInfo(rtxContext* RT_RESTRICT ctx, const ValueTagInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ValueTagInfo");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ValueTagInfo");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 3) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "ValueTagInfo");
+   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ValueTagInfo");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "none");
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "cellValueTag");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.cellValueTag - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.cellValueTag);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "cellValueTag", -1, "ValueTagInfo");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.cellValueTag, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "cellValueTag", -1, "ValueTagInfo");
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "plmn-ValueTag");
-         rtxCtxtPushTypeName(ctx, "PLMN-ValueTag");
          if ((uint64_t)(pvalue->u.plmn_ValueTag - 1) > 255u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "PLMN-ValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.plmn_ValueTag);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "PLMN-ValueTag", "plmn-ValueTag", -1, "ValueTagInfo");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.plmn_ValueTag, 1, 256);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "PLMN-ValueTag", "plmn-ValueTag", -1, "ValueTagInfo");
          break;
       case 4:
-         rtxCtxtPushElemName(ctx, "sIBOccurrenceIdentityAndValueTag");
-         if (pvalue->u.sIBOccurrenceIdentityAndValueTag == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.sIBOccurrenceIdentityAndValueTag == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sIBOccurrenceIdentityAndValueTag", -1, "ValueTagInfo");
          stat = asn1PE_UMTS_SIBOccurrenceIdentityAndValueTag(ctx, pvalue->u.sIBOccurrenceIdentityAndValueTag);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "sIBOccurrenceIdentityAndValueTag", -1, "ValueTagInfo");
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_ExtSIBTypeInfoSchedulingInfo(rtxContext* ctx, const ExtSIBTypeInfoSchedulingInfo* pvalue)
+int asn1PE_UMTS_ExtSIBTypeInfoSchedulingInfo(rtxContext* RT_RESTRICT ctx, const ExtSIBTypeInfoSchedulingInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ExtSIBTypeInfoSchedulingInfo");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ExtSIBTypeInfoSchedulingInfo");
    /* extensionSIB-Type */
-   rtxCtxtPushElemName(ctx, "extensionSIB-Type");
    stat = asn1PE_UMTS_SIB_TypeExt(ctx, &pvalue->extensionSIB_Type);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "extensionSIB-Type", -1, "ExtSIBTypeInfoSchedulingInfo");
    /* schedulingInfo */
-   rtxCtxtPushElemName(ctx, "schedulingInfo");
    stat = asn1PE_UMTS_SchedulingInformation(ctx, &pvalue->schedulingInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "schedulingInfo", -1, "ExtSIBTypeInfoSchedulingInfo");
    /* valueTagInfo */
-   rtxCtxtPushElemName(ctx, "valueTagInfo");
    stat = asn1PE_UMTS_ValueTagInfo(ctx, &pvalue->valueTagInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "valueTagInfo", -1, "ExtSIBTypeInfoSchedulingInfo");
    return 0;
 }
 
-int asn1PE_UMTS_ExtSIBTypeInfoSchedulingInfo_List(rtxContext* ctx, const ExtSIBTypeInfoSchedulingInfo_List* pvalue)
+int asn1PE_UMTS_ExtSIBTypeInfoSchedulingInfo_List(rtxContext* RT_RESTRICT ctx, const ExtSIBTypeInfoSchedulingInfo_List* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ExtSIBTypeInfoSchedulingInfo-List");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "ExtSIBTypeInfoSchedulingInfo-List");
    RT_SET_SIZE(ctx, 1, 32);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "ExtSIBTypeInfoSchedulingInfo-List");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "ExtSIBTypeInfoSchedulingInfo", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ExtSIBTypeInfoSchedulingInfo", (int32_t)i, "ExtSIBTypeInfoSchedulingInfo-List");
       stat = asn1PE_UMTS_ExtSIBTypeInfoSchedulingInfo(ctx, (const ExtSIBTypeInfoSchedulingInfo*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ExtSIBTypeInfoSchedulingInfo", (int32_t)i, "ExtSIBTypeInfoSchedulingInfo-List");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_MasterInformationBlock_v6b0ext_IEs(rtxContext* ctx, const MasterInformationBlock_v6b0ext_IEs* pvalue)
+int asn1PE_UMTS_MasterInformationBlock_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, const MasterInformationBlock_v6b0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MasterInformationBlock-v6b0ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MasterInformationBlock-v6b0ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MasterInformationBlock-v6b0ext-IEs");
    /* extSIBTypeInfoSchedulingInfo-List */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "extSIBTypeInfoSchedulingInfo-List");
       stat = asn1PE_UMTS_ExtSIBTypeInfoSchedulingInfo_List(ctx, &pvalue->extSIBTypeInfoSchedulingInfo_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "extSIBTypeInfoSchedulingInfo-List", -1, "MasterInformationBlock-v6b0ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SIB_TypeExt2(rtxContext* ctx, const SIB_TypeExt2* pvalue)
+int asn1PE_UMTS_SIB_TypeExt2(rtxContext* RT_RESTRICT ctx, const SIB_TypeExt2* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SIB-TypeExt2");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SIB-TypeExt2");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 7) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "SIB-TypeExt2");
+   if (pvalue->t - 1 > 7) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SIB-TypeExt2");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "systemInfoType19");
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "systemInfoType15-2ter");
-         rtxCtxtPopElemName(ctx);
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "systemInfoType20");
-         rtxCtxtPopElemName(ctx);
          break;
       case 4:
-         rtxCtxtPushElemName(ctx, "spare5");
-         rtxCtxtPopElemName(ctx);
          break;
       case 5:
-         rtxCtxtPushElemName(ctx, "spare4");
-         rtxCtxtPopElemName(ctx);
          break;
       case 6:
-         rtxCtxtPushElemName(ctx, "spare3");
-         rtxCtxtPopElemName(ctx);
          break;
       case 7:
-         rtxCtxtPushElemName(ctx, "spare2");
-         rtxCtxtPopElemName(ctx);
          break;
       case 8:
-         rtxCtxtPushElemName(ctx, "spare1");
-         rtxCtxtPopElemName(ctx);
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_ExtSIBTypeInfoSchedulingInfo2(rtxContext* ctx, const ExtSIBTypeInfoSchedulingInfo2* pvalue)
+int asn1PE_UMTS_ExtSIBTypeInfoSchedulingInfo2(rtxContext* RT_RESTRICT ctx, const ExtSIBTypeInfoSchedulingInfo2* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ExtSIBTypeInfoSchedulingInfo2");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ExtSIBTypeInfoSchedulingInfo2");
    /* extensionSIB-Type2 */
-   rtxCtxtPushElemName(ctx, "extensionSIB-Type2");
    stat = asn1PE_UMTS_SIB_TypeExt2(ctx, &pvalue->extensionSIB_Type2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "extensionSIB-Type2", -1, "ExtSIBTypeInfoSchedulingInfo2");
    /* schedulingInfo */
-   rtxCtxtPushElemName(ctx, "schedulingInfo");
    stat = asn1PE_UMTS_SchedulingInformation(ctx, &pvalue->schedulingInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "schedulingInfo", -1, "ExtSIBTypeInfoSchedulingInfo2");
    /* valueTagInfo */
-   rtxCtxtPushElemName(ctx, "valueTagInfo");
    stat = asn1PE_UMTS_ValueTagInfo(ctx, &pvalue->valueTagInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "valueTagInfo", -1, "ExtSIBTypeInfoSchedulingInfo2");
    return 0;
 }
 
-int asn1PE_UMTS_ExtSIBTypeInfoSchedulingInfo_List2(rtxContext* ctx, const ExtSIBTypeInfoSchedulingInfo_List2* pvalue)
+int asn1PE_UMTS_ExtSIBTypeInfoSchedulingInfo_List2(rtxContext* RT_RESTRICT ctx, const ExtSIBTypeInfoSchedulingInfo_List2* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ExtSIBTypeInfoSchedulingInfo-List2");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "ExtSIBTypeInfoSchedulingInfo-List2");
    RT_SET_SIZE(ctx, 1, 32);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "ExtSIBTypeInfoSchedulingInfo-List2");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "ExtSIBTypeInfoSchedulingInfo2", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ExtSIBTypeInfoSchedulingInfo2", (int32_t)i, "ExtSIBTypeInfoSchedulingInfo-List2");
       stat = asn1PE_UMTS_ExtSIBTypeInfoSchedulingInfo2(ctx, (const ExtSIBTypeInfoSchedulingInfo2*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ExtSIBTypeInfoSchedulingInfo2", (int32_t)i, "ExtSIBTypeInfoSchedulingInfo-List2");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_GANSS_SBAS_ID(rtxContext* ctx, UE_Positioning_GANSS_SBAS_ID value)
+int asn1PE_UMTS_UE_Positioning_GANSS_SBAS_ID(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_SBAS_ID value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-SBAS-ID");
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UE-Positioning-GANSS-SBAS-ID");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-SBAS-ID");
    return 0;
 }
 
-int asn1PE_UMTS_SIB_TypeExtGANSS(rtxContext* ctx, const SIB_TypeExtGANSS* pvalue)
+int asn1PE_UMTS_SIB_TypeExtGANSS(rtxContext* RT_RESTRICT ctx, const SIB_TypeExtGANSS* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SIB-TypeExtGANSS");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SIB-TypeExtGANSS");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 15) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "SIB-TypeExtGANSS");
+   if (pvalue->t - 1 > 15) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SIB-TypeExtGANSS");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "systemInfoType15-1bis");
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "systemInfoType15-2bis");
-         rtxCtxtPopElemName(ctx);
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "systemInfoType15-2ter");
-         rtxCtxtPopElemName(ctx);
          break;
       case 4:
-         rtxCtxtPushElemName(ctx, "systemInfoType15-3bis");
-         rtxCtxtPopElemName(ctx);
          break;
       case 5:
-         rtxCtxtPushElemName(ctx, "systemInfoType15-6");
-         rtxCtxtPopElemName(ctx);
          break;
       case 6:
-         rtxCtxtPushElemName(ctx, "systemInfoType15-7");
-         rtxCtxtPopElemName(ctx);
          break;
       case 7:
-         rtxCtxtPushElemName(ctx, "systemInfoType15-8");
-         rtxCtxtPopElemName(ctx);
          break;
       case 8:
-         rtxCtxtPushElemName(ctx, "spare9");
-         rtxCtxtPopElemName(ctx);
          break;
       case 9:
-         rtxCtxtPushElemName(ctx, "spare8");
-         rtxCtxtPopElemName(ctx);
          break;
       case 10:
-         rtxCtxtPushElemName(ctx, "spare7");
-         rtxCtxtPopElemName(ctx);
          break;
       case 11:
-         rtxCtxtPushElemName(ctx, "spare6");
-         rtxCtxtPopElemName(ctx);
          break;
       case 12:
-         rtxCtxtPushElemName(ctx, "spare5");
-         rtxCtxtPopElemName(ctx);
          break;
       case 13:
-         rtxCtxtPushElemName(ctx, "spare4");
-         rtxCtxtPopElemName(ctx);
          break;
       case 14:
-         rtxCtxtPushElemName(ctx, "spare3");
-         rtxCtxtPopElemName(ctx);
          break;
       case 15:
-         rtxCtxtPushElemName(ctx, "spare2");
-         rtxCtxtPopElemName(ctx);
          break;
       case 16:
-         rtxCtxtPushElemName(ctx, "spare1");
-         rtxCtxtPopElemName(ctx);
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_ExtGANSS_SchedulingInfo(rtxContext* ctx, const ExtGANSS_SchedulingInfo* pvalue)
+int asn1PE_UMTS_ExtGANSS_SchedulingInfo(rtxContext* RT_RESTRICT ctx, const ExtGANSS_SchedulingInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ExtGANSS-SchedulingInfo");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ExtGANSS-SchedulingInfo");
    /* extensionGANSS-SIBType */
-   rtxCtxtPushElemName(ctx, "extensionGANSS-SIBType");
    stat = asn1PE_UMTS_SIB_TypeExtGANSS(ctx, &pvalue->extensionGANSS_SIBType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "extensionGANSS-SIBType", -1, "ExtGANSS-SchedulingInfo");
    /* schedulingInfo */
-   rtxCtxtPushElemName(ctx, "schedulingInfo");
    stat = asn1PE_UMTS_SchedulingInformation(ctx, &pvalue->schedulingInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "schedulingInfo", -1, "ExtGANSS-SchedulingInfo");
    /* valueTagInfo */
-   rtxCtxtPushElemName(ctx, "valueTagInfo");
    stat = asn1PE_UMTS_ValueTagInfo(ctx, &pvalue->valueTagInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "valueTagInfo", -1, "ExtGANSS-SchedulingInfo");
    return 0;
 }
 
-int asn1PE_UMTS_ExtGANSS_SIBTypeInfoSchedulingInfo_ganssScheduling(rtxContext* ctx, const ExtGANSS_SIBTypeInfoSchedulingInfo_ganssScheduling* pvalue)
+int asn1PE_UMTS_ExtGANSS_SIBTypeInfoSchedulingInfo_ganssScheduling(rtxContext* RT_RESTRICT ctx, const ExtGANSS_SIBTypeInfoSchedulingInfo_ganssScheduling* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 32);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "ExtGANSS-SchedulingInfo", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ExtGANSS-SchedulingInfo", (int32_t)i, 0);
       stat = asn1PE_UMTS_ExtGANSS_SchedulingInfo(ctx, (const ExtGANSS_SchedulingInfo*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ExtGANSS-SchedulingInfo", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_ExtGANSS_SIBTypeInfoSchedulingInfo(rtxContext* ctx, const ExtGANSS_SIBTypeInfoSchedulingInfo* pvalue)
+int asn1PE_UMTS_ExtGANSS_SIBTypeInfoSchedulingInfo(rtxContext* RT_RESTRICT ctx, const ExtGANSS_SIBTypeInfoSchedulingInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ExtGANSS-SIBTypeInfoSchedulingInfo");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ExtGANSS-SIBTypeInfoSchedulingInfo");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ExtGANSS-SIBTypeInfoSchedulingInfo");
    /* ganssID */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ganssID");
       if ((uint64_t)pvalue->ganssID > 7u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "ganssID");
          rtxErrAddUIntParm(ctx, pvalue->ganssID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssID", -1, "ExtGANSS-SIBTypeInfoSchedulingInfo");
       }
       stat = pe_ConsUInt64(ctx, pvalue->ganssID, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ganssID", -1, "ExtGANSS-SIBTypeInfoSchedulingInfo");
    }
    /* sbasID */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "sbasID");
-      rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-SBAS-ID");
       if (pvalue->sbasID > 7) {
          rtxErrAddUIntParm(ctx, pvalue->sbasID);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "UE-Positioning-GANSS-SBAS-ID", "sbasID", -1, "ExtGANSS-SIBTypeInfoSchedulingInfo");
       }
       stat = pe_ConsUInt64(ctx, pvalue->sbasID, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "UE-Positioning-GANSS-SBAS-ID", "sbasID", -1, "ExtGANSS-SIBTypeInfoSchedulingInfo");
    }
    /* ganssScheduling */
-   rtxCtxtPushElemName(ctx, "ganssScheduling");
    stat = asn1PE_UMTS_ExtGANSS_SIBTypeInfoSchedulingInfo_ganssScheduling(ctx, &pvalue->ganssScheduling);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "ganssScheduling", -1, "ExtGANSS-SIBTypeInfoSchedulingInfo");
    return 0;
 }
 
-int asn1PE_UMTS_ExtGANSS_SIBTypeInfoSchedulingInfoList(rtxContext* ctx, const ExtGANSS_SIBTypeInfoSchedulingInfoList* pvalue)
+int asn1PE_UMTS_ExtGANSS_SIBTypeInfoSchedulingInfoList(rtxContext* RT_RESTRICT ctx, const ExtGANSS_SIBTypeInfoSchedulingInfoList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ExtGANSS-SIBTypeInfoSchedulingInfoList");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "ExtGANSS-SIBTypeInfoSchedulingInfoList");
    RT_SET_SIZE(ctx, 1, 8);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "ExtGANSS-SIBTypeInfoSchedulingInfoList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "ExtGANSS-SIBTypeInfoSchedulingInfo", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ExtGANSS-SIBTypeInfoSchedulingInfo", (int32_t)i, "ExtGANSS-SIBTypeInfoSchedulingInfoList");
       stat = asn1PE_UMTS_ExtGANSS_SIBTypeInfoSchedulingInfo(ctx, (const ExtGANSS_SIBTypeInfoSchedulingInfo*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ExtGANSS-SIBTypeInfoSchedulingInfo", (int32_t)i, "ExtGANSS-SIBTypeInfoSchedulingInfoList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_MasterInformationBlock_v860ext_IEs_csg_Indicator(rtxContext* ctx, MasterInformationBlock_v860ext_IEs_csg_Indicator value)
+int asn1PE_UMTS_MasterInformationBlock_v860ext_IEs_csg_Indicator(rtxContext* RT_RESTRICT ctx, MasterInformationBlock_v860ext_IEs_csg_Indicator value)
 {
    int stat = 0;
    if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_MasterInformationBlock_v860ext_IEs(rtxContext* ctx, const MasterInformationBlock_v860ext_IEs* pvalue)
+int asn1PE_UMTS_MasterInformationBlock_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const MasterInformationBlock_v860ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MasterInformationBlock-v860ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MasterInformationBlock-v860ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MasterInformationBlock-v860ext-IEs");
    /* extSIBTypeInfoSchedulingInfo-List */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "extSIBTypeInfoSchedulingInfo-List");
       stat = asn1PE_UMTS_ExtSIBTypeInfoSchedulingInfo_List2(ctx, &pvalue->extSIBTypeInfoSchedulingInfo_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "extSIBTypeInfoSchedulingInfo-List", -1, "MasterInformationBlock-v860ext-IEs");
    }
    /* extGANSS-SIBTypeInfoSchedulingInfoList */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "extGANSS-SIBTypeInfoSchedulingInfoList");
       stat = asn1PE_UMTS_ExtGANSS_SIBTypeInfoSchedulingInfoList(ctx, &pvalue->extGANSS_SIBTypeInfoSchedulingInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "extGANSS-SIBTypeInfoSchedulingInfoList", -1, "MasterInformationBlock-v860ext-IEs");
    }
    /* csg-Indicator */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "csg-Indicator");
       if (pvalue->csg_Indicator > 0) {
          rtxErrAddUIntParm(ctx, pvalue->csg_Indicator);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "csg-Indicator", -1, "MasterInformationBlock-v860ext-IEs");
       }
       stat = pe_ConsUInt64(ctx, pvalue->csg_Indicator, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "csg-Indicator", -1, "MasterInformationBlock-v860ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* pvalue)
+int asn1PE_UMTS_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* ctx, const MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* masterInformationBlock-v860ext */
-   rtxCtxtPushElemName(ctx, "masterInformationBlock-v860ext");
    stat = asn1PE_UMTS_MasterInformationBlock_v860ext_IEs(ctx, &pvalue->masterInformationBlock_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "masterInformationBlock-v860ext", -1, 0);
    /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
       stat = asn1PE_UMTS_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* ctx, const MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* masterInformationBlock-v6b0ext */
-   rtxCtxtPushElemName(ctx, "masterInformationBlock-v6b0ext");
    stat = asn1PE_UMTS_MasterInformationBlock_v6b0ext_IEs(ctx, &pvalue->masterInformationBlock_v6b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "masterInformationBlock-v6b0ext", -1, 0);
    /* v860NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtensions");
       stat = asn1PE_UMTS_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_MasterInformationBlock_v690NonCriticalExtensions(rtxContext* ctx, const MasterInformationBlock_v690NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_MasterInformationBlock_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MasterInformationBlock_v690NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* masterInformationBlock-v690ext */
-   rtxCtxtPushElemName(ctx, "masterInformationBlock-v690ext");
    stat = asn1PE_UMTS_MasterInformationBlock_v690ext(ctx, &pvalue->masterInformationBlock_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "masterInformationBlock-v690ext", -1, 0);
    /* v6b0NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v6b0NonCriticalExtensions");
       stat = asn1PE_UMTS_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_MasterInformationBlock(rtxContext* ctx, const MasterInformationBlock* pvalue)
+int asn1PE_UMTS_MasterInformationBlock(rtxContext* RT_RESTRICT ctx, const MasterInformationBlock* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MasterInformationBlock");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MasterInformationBlock");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MasterInformationBlock");
    /* mib-ValueTag */
-   rtxCtxtPushElemName(ctx, "mib-ValueTag");
-   rtxCtxtPushTypeName(ctx, "MIB-ValueTag");
    if ((uint64_t)(pvalue->mib_ValueTag - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "MIB-ValueTag");
       rtxErrAddUIntParm(ctx, pvalue->mib_ValueTag);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MIB-ValueTag", "mib-ValueTag", -1, "MasterInformationBlock");
    }
    stat = pe_ConsUInt64(ctx, pvalue->mib_ValueTag, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "MIB-ValueTag", "mib-ValueTag", -1, "MasterInformationBlock");
    /* plmn-Type */
-   rtxCtxtPushElemName(ctx, "plmn-Type");
    stat = asn1PE_UMTS_PLMN_Type(ctx, &pvalue->plmn_Type);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "plmn-Type", -1, "MasterInformationBlock");
    /* sibSb-ReferenceList */
-   rtxCtxtPushElemName(ctx, "sibSb-ReferenceList");
    stat = asn1PE_UMTS_SIBSb_ReferenceList(ctx, &pvalue->sibSb_ReferenceList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sibSb-ReferenceList", -1, "MasterInformationBlock");
    /* v690NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
       stat = asn1PE_UMTS_MasterInformationBlock_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, "MasterInformationBlock");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_CellIdentity(rtxContext* ctx, CellIdentity value)
+int asn1PE_UMTS_CellIdentity(rtxContext* RT_RESTRICT ctx, CellIdentity value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CellIdentity");
    RT_SET_SIZE(ctx, 28, 28);
    stat = pe_BitString32(ctx, &value, 28, 28);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellIdentity");
    return 0;
 }
 
-int asn1PE_UMTS_RAT(rtxContext* ctx, RAT value)
+int asn1PE_UMTS_RAT(rtxContext* RT_RESTRICT ctx, RAT value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RAT");
    if (value > 3) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "RAT");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAT");
    return 0;
 }
 
-int asn1PE_UMTS_MappingFunctionType(rtxContext* ctx, MappingFunctionType value)
+int asn1PE_UMTS_MappingFunctionType(rtxContext* RT_RESTRICT ctx, MappingFunctionType value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MappingFunctionType");
    if (value > 3) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MappingFunctionType");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MappingFunctionType");
    return 0;
 }
 
-int asn1PE_UMTS_MapParameter(rtxContext* ctx, MapParameter value)
+int asn1PE_UMTS_MapParameter(rtxContext* RT_RESTRICT ctx, MapParameter value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MapParameter");
    if ((uint64_t)value > 127u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "MapParameter");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MapParameter");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MapParameter");
    return 0;
 }
 
-int asn1PE_UMTS_UpperLimit(rtxContext* ctx, UpperLimit value)
+int asn1PE_UMTS_UpperLimit(rtxContext* RT_RESTRICT ctx, UpperLimit value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UpperLimit");
    if ((uint64_t)(value - 1) > 90u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "UpperLimit");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UpperLimit");
    }
    stat = pe_ConsUInt64(ctx, value, 1, 91);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UpperLimit");
    return 0;
 }
 
-int asn1PE_UMTS_MappingFunctionParameter(rtxContext* ctx, const MappingFunctionParameter* pvalue)
+int asn1PE_UMTS_MappingFunctionParameter(rtxContext* RT_RESTRICT ctx, const MappingFunctionParameter* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MappingFunctionParameter");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MappingFunctionParameter");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MappingFunctionParameter");
    /* functionType */
-   rtxCtxtPushElemName(ctx, "functionType");
-   rtxCtxtPushTypeName(ctx, "MappingFunctionType");
    if (pvalue->functionType > 3) {
       rtxErrAddUIntParm(ctx, pvalue->functionType);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MappingFunctionType", "functionType", -1, "MappingFunctionParameter");
    }
    stat = pe_ConsUInt64(ctx, pvalue->functionType, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "MappingFunctionType", "functionType", -1, "MappingFunctionParameter");
    /* mapParameter1 */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "mapParameter1");
-      rtxCtxtPushTypeName(ctx, "MapParameter");
       if ((uint64_t)pvalue->mapParameter1 > 127u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "MapParameter");
          rtxErrAddUIntParm(ctx, pvalue->mapParameter1);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MapParameter", "mapParameter1", -1, "MappingFunctionParameter");
       }
       stat = pe_ConsUInt64(ctx, pvalue->mapParameter1, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "MapParameter", "mapParameter1", -1, "MappingFunctionParameter");
    }
    /* mapParameter2 */
-   rtxCtxtPushElemName(ctx, "mapParameter2");
-   rtxCtxtPushTypeName(ctx, "MapParameter");
    if ((uint64_t)pvalue->mapParameter2 > 127u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "MapParameter");
       rtxErrAddUIntParm(ctx, pvalue->mapParameter2);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MapParameter", "mapParameter2", -1, "MappingFunctionParameter");
    }
    stat = pe_ConsUInt64(ctx, pvalue->mapParameter2, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "MapParameter", "mapParameter2", -1, "MappingFunctionParameter");
    /* upperLimit */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "upperLimit");
-      rtxCtxtPushTypeName(ctx, "UpperLimit");
       if ((uint64_t)(pvalue->upperLimit - 1) > 90u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "UpperLimit");
          rtxErrAddUIntParm(ctx, pvalue->upperLimit);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UpperLimit", "upperLimit", -1, "MappingFunctionParameter");
       }
       stat = pe_ConsUInt64(ctx, pvalue->upperLimit, 1, 91);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "UpperLimit", "upperLimit", -1, "MappingFunctionParameter");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_MappingFunctionParameterList(rtxContext* ctx, const MappingFunctionParameterList* pvalue)
+int asn1PE_UMTS_MappingFunctionParameterList(rtxContext* RT_RESTRICT ctx, const MappingFunctionParameterList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MappingFunctionParameterList");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MappingFunctionParameterList");
    RT_SET_SIZE(ctx, 1, 3);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MappingFunctionParameterList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "MappingFunctionParameter", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MappingFunctionParameter", (int32_t)i, "MappingFunctionParameterList");
       stat = asn1PE_UMTS_MappingFunctionParameter(ctx, (const MappingFunctionParameter*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "MappingFunctionParameter", (int32_t)i, "MappingFunctionParameterList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_Mapping(rtxContext* ctx, const Mapping* pvalue)
+int asn1PE_UMTS_Mapping(rtxContext* RT_RESTRICT ctx, const Mapping* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Mapping");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Mapping");
    /* rat */
-   rtxCtxtPushElemName(ctx, "rat");
-   rtxCtxtPushTypeName(ctx, "RAT");
    if (pvalue->rat > 3) {
       rtxErrAddUIntParm(ctx, pvalue->rat);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RAT", "rat", -1, "Mapping");
    }
    stat = pe_ConsUInt64(ctx, pvalue->rat, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "RAT", "rat", -1, "Mapping");
    /* mappingFunctionParameterList */
-   rtxCtxtPushElemName(ctx, "mappingFunctionParameterList");
    stat = asn1PE_UMTS_MappingFunctionParameterList(ctx, &pvalue->mappingFunctionParameterList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "mappingFunctionParameterList", -1, "Mapping");
    return 0;
 }
 
-int asn1PE_UMTS_MappingInfo(rtxContext* ctx, const MappingInfo* pvalue)
+int asn1PE_UMTS_MappingInfo(rtxContext* RT_RESTRICT ctx, const MappingInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MappingInfo");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MappingInfo");
    RT_SET_SIZE(ctx, 1, 16);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MappingInfo");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "Mapping", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "Mapping", (int32_t)i, "MappingInfo");
       stat = asn1PE_UMTS_Mapping(ctx, (const Mapping*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "Mapping", (int32_t)i, "MappingInfo");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_Q_Hyst_S(rtxContext* ctx, Q_Hyst_S value)
+int asn1PE_UMTS_Q_Hyst_S(rtxContext* RT_RESTRICT ctx, Q_Hyst_S value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Q-Hyst-S");
    if ((uint64_t)value > 20u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "Q-Hyst-S");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "Q-Hyst-S");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Q-Hyst-S");
    return 0;
 }
 
-int asn1PE_UMTS_CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* ctx, const CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0* pvalue)
+int asn1PE_UMTS_CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* q-HYST-2-S */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "q-HYST-2-S");
-      rtxCtxtPushTypeName(ctx, "Q-Hyst-S");
       if ((uint64_t)pvalue->q_HYST_2_S > 20u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "Q-Hyst-S");
          rtxErrAddUIntParm(ctx, pvalue->q_HYST_2_S);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-Hyst-S", "q-HYST-2-S", -1, 0);
       }
       stat = pe_ConsUInt64(ctx, pvalue->q_HYST_2_S, 0, 20);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "Q-Hyst-S", "q-HYST-2-S", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure(rtxContext* ctx, const CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure* pvalue)
+int asn1PE_UMTS_CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "cpich-Ec-N0");
-         if (pvalue->u.cpich_Ec_N0 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cpich-Ec-N0", -1, 0);
          stat = asn1PE_UMTS_CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "cpich-RSCP");
-         rtxCtxtPopElemName(ctx);
          break;
       default:
          break;
@@ -2589,427 +1921,327 @@ int asn1PE_UMTS_CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure(rtxContex
    return 0;
 }
 
-int asn1PE_UMTS_S_SearchQual(rtxContext* ctx, S_SearchQual value)
+int asn1PE_UMTS_S_SearchQual(rtxContext* RT_RESTRICT ctx, S_SearchQual value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "S-SearchQual");
    if (value < -16 || value > 10) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "S-SearchQual");
       rtxErrAddIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "S-SearchQual");
    }
    stat = pe_ConsInt64(ctx, value, -16, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "S-SearchQual");
    return 0;
 }
 
-int asn1PE_UMTS_S_SearchRXLEV(rtxContext* ctx, S_SearchRXLEV value)
+int asn1PE_UMTS_S_SearchRXLEV(rtxContext* RT_RESTRICT ctx, S_SearchRXLEV value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "S-SearchRXLEV");
    if (value < -53 || value > 45) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "S-SearchRXLEV");
       rtxErrAddIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "S-SearchRXLEV");
    }
    stat = pe_ConsInt64(ctx, value, -53, 45);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "S-SearchRXLEV");
    return 0;
 }
 
-int asn1PE_UMTS_RAT_Identifier(rtxContext* ctx, RAT_Identifier value)
+int asn1PE_UMTS_RAT_Identifier(rtxContext* RT_RESTRICT ctx, RAT_Identifier value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RAT-Identifier");
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "RAT-Identifier");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAT-Identifier");
    return 0;
 }
 
-int asn1PE_UMTS_RAT_FDD_Info(rtxContext* ctx, const RAT_FDD_Info* pvalue)
+int asn1PE_UMTS_RAT_FDD_Info(rtxContext* RT_RESTRICT ctx, const RAT_FDD_Info* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RAT-FDD-Info");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAT-FDD-Info");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAT-FDD-Info");
    /* rat-Identifier */
-   rtxCtxtPushElemName(ctx, "rat-Identifier");
-   rtxCtxtPushTypeName(ctx, "RAT-Identifier");
    if (pvalue->rat_Identifier > 1) {
       rtxErrAddUIntParm(ctx, pvalue->rat_Identifier);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RAT-Identifier", "rat-Identifier", -1, "RAT-FDD-Info");
    }
    stat = pe_ConsUInt64(ctx, pvalue->rat_Identifier, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "RAT-Identifier", "rat-Identifier", -1, "RAT-FDD-Info");
    /* s-SearchRAT */
-   rtxCtxtPushElemName(ctx, "s-SearchRAT");
-   rtxCtxtPushTypeName(ctx, "S-SearchQual");
    if (pvalue->s_SearchRAT < -16 || pvalue->s_SearchRAT > 10) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "S-SearchQual");
       rtxErrAddIntParm(ctx, pvalue->s_SearchRAT);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "S-SearchQual", "s-SearchRAT", -1, "RAT-FDD-Info");
    }
    stat = pe_ConsInt64(ctx, pvalue->s_SearchRAT, -16, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "S-SearchQual", "s-SearchRAT", -1, "RAT-FDD-Info");
    /* s-HCS-RAT */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "s-HCS-RAT");
-      rtxCtxtPushTypeName(ctx, "S-SearchRXLEV");
       if (pvalue->s_HCS_RAT < -53 || pvalue->s_HCS_RAT > 45) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "S-SearchRXLEV");
          rtxErrAddIntParm(ctx, pvalue->s_HCS_RAT);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "S-SearchRXLEV", "s-HCS-RAT", -1, "RAT-FDD-Info");
       }
       stat = pe_ConsInt64(ctx, pvalue->s_HCS_RAT, -53, 45);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "S-SearchRXLEV", "s-HCS-RAT", -1, "RAT-FDD-Info");
    }
    /* s-Limit-SearchRAT */
-   rtxCtxtPushElemName(ctx, "s-Limit-SearchRAT");
-   rtxCtxtPushTypeName(ctx, "S-SearchQual");
    if (pvalue->s_Limit_SearchRAT < -16 || pvalue->s_Limit_SearchRAT > 10) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "S-SearchQual");
       rtxErrAddIntParm(ctx, pvalue->s_Limit_SearchRAT);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "S-SearchQual", "s-Limit-SearchRAT", -1, "RAT-FDD-Info");
    }
    stat = pe_ConsInt64(ctx, pvalue->s_Limit_SearchRAT, -16, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "S-SearchQual", "s-Limit-SearchRAT", -1, "RAT-FDD-Info");
    return 0;
 }
 
-int asn1PE_UMTS_RAT_FDD_InfoList(rtxContext* ctx, const RAT_FDD_InfoList* pvalue)
+int asn1PE_UMTS_RAT_FDD_InfoList(rtxContext* RT_RESTRICT ctx, const RAT_FDD_InfoList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAT-FDD-InfoList");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "RAT-FDD-InfoList");
    RT_SET_SIZE(ctx, 1, 15);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RAT-FDD-InfoList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "RAT-FDD-Info", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RAT-FDD-Info", (int32_t)i, "RAT-FDD-InfoList");
       stat = asn1PE_UMTS_RAT_FDD_Info(ctx, (const RAT_FDD_Info*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "RAT-FDD-Info", (int32_t)i, "RAT-FDD-InfoList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_Q_QualMin(rtxContext* ctx, Q_QualMin value)
+int asn1PE_UMTS_Q_QualMin(rtxContext* RT_RESTRICT ctx, Q_QualMin value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Q-QualMin");
    if (value < -24 || value > 0) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "Q-QualMin");
       rtxErrAddIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "Q-QualMin");
    }
    stat = pe_ConsInt64(ctx, value, -24, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Q-QualMin");
    return 0;
 }
 
-int asn1PE_UMTS_Q_RxlevMin(rtxContext* ctx, Q_RxlevMin value)
+int asn1PE_UMTS_Q_RxlevMin(rtxContext* RT_RESTRICT ctx, Q_RxlevMin value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
    if (value < -58 || value > -13) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "Q-RxlevMin");
       rtxErrAddIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "Q-RxlevMin");
    }
    stat = pe_ConsInt64(ctx, value, -58, -13);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Q-RxlevMin");
    return 0;
 }
 
-int asn1PE_UMTS_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd(rtxContext* ctx, const CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd* pvalue)
+int asn1PE_UMTS_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* s-Intrasearch */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "s-Intrasearch");
-      rtxCtxtPushTypeName(ctx, "S-SearchQual");
       if (pvalue->s_Intrasearch < -16 || pvalue->s_Intrasearch > 10) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "S-SearchQual");
          rtxErrAddIntParm(ctx, pvalue->s_Intrasearch);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "S-SearchQual", "s-Intrasearch", -1, 0);
       }
       stat = pe_ConsInt64(ctx, pvalue->s_Intrasearch, -16, 10);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "S-SearchQual", "s-Intrasearch", -1, 0);
    }
    /* s-Intersearch */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "s-Intersearch");
-      rtxCtxtPushTypeName(ctx, "S-SearchQual");
       if (pvalue->s_Intersearch < -16 || pvalue->s_Intersearch > 10) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "S-SearchQual");
          rtxErrAddIntParm(ctx, pvalue->s_Intersearch);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "S-SearchQual", "s-Intersearch", -1, 0);
       }
       stat = pe_ConsInt64(ctx, pvalue->s_Intersearch, -16, 10);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "S-SearchQual", "s-Intersearch", -1, 0);
    }
    /* s-SearchHCS */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "s-SearchHCS");
-      rtxCtxtPushTypeName(ctx, "S-SearchRXLEV");
       if (pvalue->s_SearchHCS < -53 || pvalue->s_SearchHCS > 45) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "S-SearchRXLEV");
          rtxErrAddIntParm(ctx, pvalue->s_SearchHCS);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "S-SearchRXLEV", "s-SearchHCS", -1, 0);
       }
       stat = pe_ConsInt64(ctx, pvalue->s_SearchHCS, -53, 45);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "S-SearchRXLEV", "s-SearchHCS", -1, 0);
    }
    /* rat-List */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "rat-List");
       stat = asn1PE_UMTS_RAT_FDD_InfoList(ctx, &pvalue->rat_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "rat-List", -1, 0);
    }
    /* q-QualMin */
-   rtxCtxtPushElemName(ctx, "q-QualMin");
-   rtxCtxtPushTypeName(ctx, "Q-QualMin");
    if (pvalue->q_QualMin < -24 || pvalue->q_QualMin > 0) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "Q-QualMin");
       rtxErrAddIntParm(ctx, pvalue->q_QualMin);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-QualMin", "q-QualMin", -1, 0);
    }
    stat = pe_ConsInt64(ctx, pvalue->q_QualMin, -24, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "Q-QualMin", "q-QualMin", -1, 0);
    /* q-RxlevMin */
-   rtxCtxtPushElemName(ctx, "q-RxlevMin");
-   rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
    if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "Q-RxlevMin");
       rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    }
    stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_RAT_TDD_Info(rtxContext* ctx, const RAT_TDD_Info* pvalue)
+int asn1PE_UMTS_RAT_TDD_Info(rtxContext* RT_RESTRICT ctx, const RAT_TDD_Info* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RAT-TDD-Info");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAT-TDD-Info");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAT-TDD-Info");
    /* rat-Identifier */
-   rtxCtxtPushElemName(ctx, "rat-Identifier");
-   rtxCtxtPushTypeName(ctx, "RAT-Identifier");
    if (pvalue->rat_Identifier > 1) {
       rtxErrAddUIntParm(ctx, pvalue->rat_Identifier);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RAT-Identifier", "rat-Identifier", -1, "RAT-TDD-Info");
    }
    stat = pe_ConsUInt64(ctx, pvalue->rat_Identifier, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "RAT-Identifier", "rat-Identifier", -1, "RAT-TDD-Info");
    /* s-SearchRAT */
-   rtxCtxtPushElemName(ctx, "s-SearchRAT");
-   rtxCtxtPushTypeName(ctx, "S-SearchRXLEV");
    if (pvalue->s_SearchRAT < -53 || pvalue->s_SearchRAT > 45) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "S-SearchRXLEV");
       rtxErrAddIntParm(ctx, pvalue->s_SearchRAT);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "S-SearchRXLEV", "s-SearchRAT", -1, "RAT-TDD-Info");
    }
    stat = pe_ConsInt64(ctx, pvalue->s_SearchRAT, -53, 45);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "S-SearchRXLEV", "s-SearchRAT", -1, "RAT-TDD-Info");
    /* s-HCS-RAT */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "s-HCS-RAT");
-      rtxCtxtPushTypeName(ctx, "S-SearchRXLEV");
       if (pvalue->s_HCS_RAT < -53 || pvalue->s_HCS_RAT > 45) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "S-SearchRXLEV");
          rtxErrAddIntParm(ctx, pvalue->s_HCS_RAT);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "S-SearchRXLEV", "s-HCS-RAT", -1, "RAT-TDD-Info");
       }
       stat = pe_ConsInt64(ctx, pvalue->s_HCS_RAT, -53, 45);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "S-SearchRXLEV", "s-HCS-RAT", -1, "RAT-TDD-Info");
    }
    /* s-Limit-SearchRAT */
-   rtxCtxtPushElemName(ctx, "s-Limit-SearchRAT");
-   rtxCtxtPushTypeName(ctx, "S-SearchRXLEV");
    if (pvalue->s_Limit_SearchRAT < -53 || pvalue->s_Limit_SearchRAT > 45) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "S-SearchRXLEV");
       rtxErrAddIntParm(ctx, pvalue->s_Limit_SearchRAT);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "S-SearchRXLEV", "s-Limit-SearchRAT", -1, "RAT-TDD-Info");
    }
    stat = pe_ConsInt64(ctx, pvalue->s_Limit_SearchRAT, -53, 45);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "S-SearchRXLEV", "s-Limit-SearchRAT", -1, "RAT-TDD-Info");
    return 0;
 }
 
-int asn1PE_UMTS_RAT_TDD_InfoList(rtxContext* ctx, const RAT_TDD_InfoList* pvalue)
+int asn1PE_UMTS_RAT_TDD_InfoList(rtxContext* RT_RESTRICT ctx, const RAT_TDD_InfoList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAT-TDD-InfoList");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "RAT-TDD-InfoList");
    RT_SET_SIZE(ctx, 1, 15);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RAT-TDD-InfoList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "RAT-TDD-Info", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RAT-TDD-Info", (int32_t)i, "RAT-TDD-InfoList");
       stat = asn1PE_UMTS_RAT_TDD_Info(ctx, (const RAT_TDD_Info*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "RAT-TDD-Info", (int32_t)i, "RAT-TDD-InfoList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_tdd(rtxContext* ctx, const CellSelectReselectInfoSIB_3_4_modeSpecificInfo_tdd* pvalue)
+int asn1PE_UMTS_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_3_4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* s-Intrasearch */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "s-Intrasearch");
-      rtxCtxtPushTypeName(ctx, "S-SearchRXLEV");
       if (pvalue->s_Intrasearch < -53 || pvalue->s_Intrasearch > 45) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "S-SearchRXLEV");
          rtxErrAddIntParm(ctx, pvalue->s_Intrasearch);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "S-SearchRXLEV", "s-Intrasearch", -1, 0);
       }
       stat = pe_ConsInt64(ctx, pvalue->s_Intrasearch, -53, 45);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "S-SearchRXLEV", "s-Intrasearch", -1, 0);
    }
    /* s-Intersearch */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "s-Intersearch");
-      rtxCtxtPushTypeName(ctx, "S-SearchRXLEV");
       if (pvalue->s_Intersearch < -53 || pvalue->s_Intersearch > 45) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "S-SearchRXLEV");
          rtxErrAddIntParm(ctx, pvalue->s_Intersearch);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "S-SearchRXLEV", "s-Intersearch", -1, 0);
       }
       stat = pe_ConsInt64(ctx, pvalue->s_Intersearch, -53, 45);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "S-SearchRXLEV", "s-Intersearch", -1, 0);
    }
    /* s-SearchHCS */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "s-SearchHCS");
-      rtxCtxtPushTypeName(ctx, "S-SearchRXLEV");
       if (pvalue->s_SearchHCS < -53 || pvalue->s_SearchHCS > 45) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "S-SearchRXLEV");
          rtxErrAddIntParm(ctx, pvalue->s_SearchHCS);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "S-SearchRXLEV", "s-SearchHCS", -1, 0);
       }
       stat = pe_ConsInt64(ctx, pvalue->s_SearchHCS, -53, 45);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "S-SearchRXLEV", "s-SearchHCS", -1, 0);
    }
    /* rat-List */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "rat-List");
       stat = asn1PE_UMTS_RAT_TDD_InfoList(ctx, &pvalue->rat_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "rat-List", -1, 0);
    }
    /* q-RxlevMin */
-   rtxCtxtPushElemName(ctx, "q-RxlevMin");
-   rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
    if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "Q-RxlevMin");
       rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    }
    stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CellSelectReselectInfoSIB_3_4_modeSpecificInfo(rtxContext* ctx, const CellSelectReselectInfoSIB_3_4_modeSpecificInfo* pvalue)
+int asn1PE_UMTS_CellSelectReselectInfoSIB_3_4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_3_4_modeSpecificInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
          stat = asn1PE_UMTS_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
          stat = asn1PE_UMTS_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
          break;
@@ -3017,994 +2249,772 @@ int asn1PE_UMTS_CellSelectReselectInfoSIB_3_4_modeSpecificInfo(rtxContext* ctx, 
    return 0;
 }
 
-int asn1PE_UMTS_T_Reselection_S(rtxContext* ctx, T_Reselection_S value)
+int asn1PE_UMTS_T_Reselection_S(rtxContext* RT_RESTRICT ctx, T_Reselection_S value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "T-Reselection-S");
    if ((uint64_t)value > 31u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "T-Reselection-S");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "T-Reselection-S");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "T-Reselection-S");
    return 0;
 }
 
-int asn1PE_UMTS_HCS_PRIO(rtxContext* ctx, HCS_PRIO value)
+int asn1PE_UMTS_HCS_PRIO(rtxContext* RT_RESTRICT ctx, HCS_PRIO value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HCS-PRIO");
    if ((uint64_t)value > 7u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "HCS-PRIO");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "HCS-PRIO");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HCS-PRIO");
    return 0;
 }
 
-int asn1PE_UMTS_Q_HCS(rtxContext* ctx, Q_HCS value)
+int asn1PE_UMTS_Q_HCS(rtxContext* RT_RESTRICT ctx, Q_HCS value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Q-HCS");
    if ((uint64_t)value > 99u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "Q-HCS");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "Q-HCS");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 99);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Q-HCS");
    return 0;
 }
 
-int asn1PE_UMTS_T_CRMaxHyst(rtxContext* ctx, T_CRMaxHyst value)
+int asn1PE_UMTS_T_CRMaxHyst(rtxContext* RT_RESTRICT ctx, T_CRMaxHyst value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "T-CRMaxHyst");
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-CRMaxHyst");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "T-CRMaxHyst");
    return 0;
 }
 
-int asn1PE_UMTS_N_CR_T_CRMaxHyst(rtxContext* ctx, const N_CR_T_CRMaxHyst* pvalue)
+int asn1PE_UMTS_N_CR_T_CRMaxHyst(rtxContext* RT_RESTRICT ctx, const N_CR_T_CRMaxHyst* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "N-CR-T-CRMaxHyst");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "N-CR-T-CRMaxHyst");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->n_CR != 8) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "N-CR-T-CRMaxHyst");
    /* n-CR */
    if (pvalue->n_CR != 8) {
-      rtxCtxtPushElemName(ctx, "n-CR");
       if ((uint64_t)(pvalue->n_CR - 1) > 15u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "n-CR");
          rtxErrAddUIntParm(ctx, pvalue->n_CR);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "n-CR", -1, "N-CR-T-CRMaxHyst");
       }
       stat = pe_ConsUInt64(ctx, pvalue->n_CR, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "n-CR", -1, "N-CR-T-CRMaxHyst");
    }
    /* t-CRMaxHyst */
-   rtxCtxtPushElemName(ctx, "t-CRMaxHyst");
-   rtxCtxtPushTypeName(ctx, "T-CRMaxHyst");
    if (pvalue->t_CRMaxHyst > 7) {
       rtxErrAddUIntParm(ctx, pvalue->t_CRMaxHyst);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "T-CRMaxHyst", "t-CRMaxHyst", -1, "N-CR-T-CRMaxHyst");
    }
    stat = pe_ConsUInt64(ctx, pvalue->t_CRMaxHyst, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "T-CRMaxHyst", "t-CRMaxHyst", -1, "N-CR-T-CRMaxHyst");
    return 0;
 }
 
-int asn1PE_UMTS_T_CRMax(rtxContext* ctx, const T_CRMax* pvalue)
+int asn1PE_UMTS_T_CRMax(rtxContext* RT_RESTRICT ctx, const T_CRMax* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "T-CRMax");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "T-CRMax");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 5) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "T-CRMax");
+   if (pvalue->t - 1 > 5) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "T-CRMax");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "notUsed");
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "t30");
-         if (pvalue->u.t30 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.t30 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "t30", -1, "T-CRMax");
          stat = asn1PE_UMTS_N_CR_T_CRMaxHyst(ctx, pvalue->u.t30);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "t30", -1, "T-CRMax");
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "t60");
-         if (pvalue->u.t60 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.t60 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "t60", -1, "T-CRMax");
          stat = asn1PE_UMTS_N_CR_T_CRMaxHyst(ctx, pvalue->u.t60);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "t60", -1, "T-CRMax");
          break;
       case 4:
-         rtxCtxtPushElemName(ctx, "t120");
-         if (pvalue->u.t120 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.t120 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "t120", -1, "T-CRMax");
          stat = asn1PE_UMTS_N_CR_T_CRMaxHyst(ctx, pvalue->u.t120);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "t120", -1, "T-CRMax");
          break;
       case 5:
-         rtxCtxtPushElemName(ctx, "t180");
-         if (pvalue->u.t180 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.t180 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "t180", -1, "T-CRMax");
          stat = asn1PE_UMTS_N_CR_T_CRMaxHyst(ctx, pvalue->u.t180);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "t180", -1, "T-CRMax");
          break;
       case 6:
-         rtxCtxtPushElemName(ctx, "t240");
-         if (pvalue->u.t240 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.t240 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "t240", -1, "T-CRMax");
          stat = asn1PE_UMTS_N_CR_T_CRMaxHyst(ctx, pvalue->u.t240);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "t240", -1, "T-CRMax");
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_HCS_ServingCellInformation(rtxContext* ctx, const HCS_ServingCellInformation* pvalue)
+int asn1PE_UMTS_HCS_ServingCellInformation(rtxContext* RT_RESTRICT ctx, const HCS_ServingCellInformation* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HCS-ServingCellInformation");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HCS-ServingCellInformation");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->hcs_PRIO != 0) << 2) |
       ((uint64_t)(pvalue->q_HCS != 0) << 1) |
       ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HCS-ServingCellInformation");
    /* hcs-PRIO */
    if (pvalue->hcs_PRIO != 0) {
-      rtxCtxtPushElemName(ctx, "hcs-PRIO");
-      rtxCtxtPushTypeName(ctx, "HCS-PRIO");
       if ((uint64_t)pvalue->hcs_PRIO > 7u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "HCS-PRIO");
          rtxErrAddUIntParm(ctx, pvalue->hcs_PRIO);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "HCS-PRIO", "hcs-PRIO", -1, "HCS-ServingCellInformation");
       }
       stat = pe_ConsUInt64(ctx, pvalue->hcs_PRIO, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "HCS-PRIO", "hcs-PRIO", -1, "HCS-ServingCellInformation");
    }
    /* q-HCS */
    if (pvalue->q_HCS != 0) {
-      rtxCtxtPushElemName(ctx, "q-HCS");
-      rtxCtxtPushTypeName(ctx, "Q-HCS");
       if ((uint64_t)pvalue->q_HCS > 99u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "Q-HCS");
          rtxErrAddUIntParm(ctx, pvalue->q_HCS);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-HCS", "q-HCS", -1, "HCS-ServingCellInformation");
       }
       stat = pe_ConsUInt64(ctx, pvalue->q_HCS, 0, 99);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "Q-HCS", "q-HCS", -1, "HCS-ServingCellInformation");
    }
    /* t-CR-Max */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "t-CR-Max");
       stat = asn1PE_UMTS_T_CRMax(ctx, &pvalue->t_CR_Max);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "t-CR-Max", -1, "HCS-ServingCellInformation");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_MaxAllowedUL_TX_Power(rtxContext* ctx, MaxAllowedUL_TX_Power value)
+int asn1PE_UMTS_MaxAllowedUL_TX_Power(rtxContext* RT_RESTRICT ctx, MaxAllowedUL_TX_Power value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
    if (value < -50 || value > 33) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
       rtxErrAddIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MaxAllowedUL-TX-Power");
    }
    stat = pe_ConsInt64(ctx, value, -50, 33);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxAllowedUL-TX-Power");
    return 0;
 }
 
-int asn1PE_UMTS_CellSelectReselectInfoSIB_3_4(rtxContext* ctx, const CellSelectReselectInfoSIB_3_4* pvalue)
+int asn1PE_UMTS_CellSelectReselectInfoSIB_3_4(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_3_4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellSelectReselectInfoSIB-3-4");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellSelectReselectInfoSIB-3-4");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellSelectReselectInfoSIB-3-4");
    /* mappingInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "mappingInfo");
       stat = asn1PE_UMTS_MappingInfo(ctx, &pvalue->mappingInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "mappingInfo", -1, "CellSelectReselectInfoSIB-3-4");
    }
    /* cellSelectQualityMeasure */
-   rtxCtxtPushElemName(ctx, "cellSelectQualityMeasure");
    stat = asn1PE_UMTS_CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, "CellSelectReselectInfoSIB-3-4");
    /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
    stat = asn1PE_UMTS_CellSelectReselectInfoSIB_3_4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellSelectReselectInfoSIB-3-4");
    /* q-Hyst-l-S */
-   rtxCtxtPushElemName(ctx, "q-Hyst-l-S");
-   rtxCtxtPushTypeName(ctx, "Q-Hyst-S");
    if ((uint64_t)pvalue->q_Hyst_l_S > 20u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "Q-Hyst-S");
       rtxErrAddUIntParm(ctx, pvalue->q_Hyst_l_S);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-Hyst-S", "q-Hyst-l-S", -1, "CellSelectReselectInfoSIB-3-4");
    }
    stat = pe_ConsUInt64(ctx, pvalue->q_Hyst_l_S, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "Q-Hyst-S", "q-Hyst-l-S", -1, "CellSelectReselectInfoSIB-3-4");
    /* t-Reselection-S */
-   rtxCtxtPushElemName(ctx, "t-Reselection-S");
-   rtxCtxtPushTypeName(ctx, "T-Reselection-S");
    if ((uint64_t)pvalue->t_Reselection_S > 31u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "T-Reselection-S");
       rtxErrAddUIntParm(ctx, pvalue->t_Reselection_S);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "T-Reselection-S", "t-Reselection-S", -1, "CellSelectReselectInfoSIB-3-4");
    }
    stat = pe_ConsUInt64(ctx, pvalue->t_Reselection_S, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "T-Reselection-S", "t-Reselection-S", -1, "CellSelectReselectInfoSIB-3-4");
    /* hcs-ServingCellInformation */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "hcs-ServingCellInformation");
       stat = asn1PE_UMTS_HCS_ServingCellInformation(ctx, &pvalue->hcs_ServingCellInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "hcs-ServingCellInformation", -1, "CellSelectReselectInfoSIB-3-4");
    }
    /* maxAllowedUL-TX-Power */
-   rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-   rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
    if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
       rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-3-4");
    }
    stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-3-4");
    return 0;
 }
 
-int asn1PE_UMTS_AllowedIndicator(rtxContext* ctx, AllowedIndicator value)
+int asn1PE_UMTS_AllowedIndicator(rtxContext* RT_RESTRICT ctx, AllowedIndicator value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "AllowedIndicator");
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "AllowedIndicator");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AllowedIndicator");
    return 0;
 }
 
-int asn1PE_UMTS_T_Barred(rtxContext* ctx, T_Barred value)
+int asn1PE_UMTS_T_Barred(rtxContext* RT_RESTRICT ctx, T_Barred value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "T-Barred");
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-Barred");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "T-Barred");
    return 0;
 }
 
-int asn1PE_UMTS_CellBarred_barred(rtxContext* ctx, const CellBarred_barred* pvalue)
+int asn1PE_UMTS_CellBarred_barred(rtxContext* RT_RESTRICT ctx, const CellBarred_barred* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* intraFreqCellReselectionInd */
-   rtxCtxtPushElemName(ctx, "intraFreqCellReselectionInd");
-   rtxCtxtPushTypeName(ctx, "AllowedIndicator");
    if (pvalue->intraFreqCellReselectionInd > 1) {
       rtxErrAddUIntParm(ctx, pvalue->intraFreqCellReselectionInd);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "AllowedIndicator", "intraFreqCellReselectionInd", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->intraFreqCellReselectionInd, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "AllowedIndicator", "intraFreqCellReselectionInd", -1, 0);
    /* t-Barred */
-   rtxCtxtPushElemName(ctx, "t-Barred");
-   rtxCtxtPushTypeName(ctx, "T-Barred");
    if (pvalue->t_Barred > 7) {
       rtxErrAddUIntParm(ctx, pvalue->t_Barred);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "T-Barred", "t-Barred", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->t_Barred, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "T-Barred", "t-Barred", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CellBarred(rtxContext* ctx, const CellBarred* pvalue)
+int asn1PE_UMTS_CellBarred(rtxContext* RT_RESTRICT ctx, const CellBarred* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellBarred");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellBarred");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "CellBarred");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CellBarred");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "barred");
-         if (pvalue->u.barred == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.barred == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "barred", -1, "CellBarred");
          stat = asn1PE_UMTS_CellBarred_barred(ctx, pvalue->u.barred);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "barred", -1, "CellBarred");
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "notBarred");
-         rtxCtxtPopElemName(ctx);
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_ReservedIndicator(rtxContext* ctx, ReservedIndicator value)
+int asn1PE_UMTS_ReservedIndicator(rtxContext* RT_RESTRICT ctx, ReservedIndicator value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ReservedIndicator");
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ReservedIndicator");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ReservedIndicator");
    return 0;
 }
 
-int asn1PE_UMTS_AccessClassBarred(rtxContext* ctx, AccessClassBarred value)
+int asn1PE_UMTS_AccessClassBarred(rtxContext* RT_RESTRICT ctx, AccessClassBarred value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "AccessClassBarred");
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "AccessClassBarred");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AccessClassBarred");
    return 0;
 }
 
-int asn1PE_UMTS_AccessClassBarredList(rtxContext* ctx, const AccessClassBarredList* pvalue)
+int asn1PE_UMTS_AccessClassBarredList(rtxContext* RT_RESTRICT ctx, const AccessClassBarredList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AccessClassBarredList");
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "AccessClassBarredList");
    if (pvalue->n != 16) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "AccessClassBarredList");
       rtxErrAddUIntParm(ctx, pvalue->n);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "AccessClassBarredList");
    }
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "AccessClassBarred", i);
-      rtxCtxtPushTypeName(ctx, "AccessClassBarred");
       if (pvalue->elem[i] > 1) {
          rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "AccessClassBarred", "AccessClassBarred", (int32_t)i, "AccessClassBarredList");
       }
       stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, "AccessClassBarred", "AccessClassBarred", (int32_t)i, "AccessClassBarredList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_CellAccessRestriction(rtxContext* ctx, const CellAccessRestriction* pvalue)
+int asn1PE_UMTS_CellAccessRestriction(rtxContext* RT_RESTRICT ctx, const CellAccessRestriction* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellAccessRestriction");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellAccessRestriction");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellAccessRestriction");
    /* cellBarred */
-   rtxCtxtPushElemName(ctx, "cellBarred");
    stat = asn1PE_UMTS_CellBarred(ctx, &pvalue->cellBarred);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "cellBarred", -1, "CellAccessRestriction");
    /* cellReservedForOperatorUse */
-   rtxCtxtPushElemName(ctx, "cellReservedForOperatorUse");
-   rtxCtxtPushTypeName(ctx, "ReservedIndicator");
    if (pvalue->cellReservedForOperatorUse > 1) {
       rtxErrAddUIntParm(ctx, pvalue->cellReservedForOperatorUse);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ReservedIndicator", "cellReservedForOperatorUse", -1, "CellAccessRestriction");
    }
    stat = pe_ConsUInt64(ctx, pvalue->cellReservedForOperatorUse, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "ReservedIndicator", "cellReservedForOperatorUse", -1, "CellAccessRestriction");
    /* cellReservationExtension */
-   rtxCtxtPushElemName(ctx, "cellReservationExtension");
-   rtxCtxtPushTypeName(ctx, "ReservedIndicator");
    if (pvalue->cellReservationExtension > 1) {
       rtxErrAddUIntParm(ctx, pvalue->cellReservationExtension);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ReservedIndicator", "cellReservationExtension", -1, "CellAccessRestriction");
    }
    stat = pe_ConsUInt64(ctx, pvalue->cellReservationExtension, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "ReservedIndicator", "cellReservationExtension", -1, "CellAccessRestriction");
    /* accessClassBarredList */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "accessClassBarredList");
       stat = asn1PE_UMTS_AccessClassBarredList(ctx, &pvalue->accessClassBarredList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "accessClassBarredList", -1, "CellAccessRestriction");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_Mapping_LCR_r4(rtxContext* ctx, const Mapping_LCR_r4* pvalue)
+int asn1PE_UMTS_Mapping_LCR_r4(rtxContext* RT_RESTRICT ctx, const Mapping_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Mapping-LCR-r4");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Mapping-LCR-r4");
    /* mappingFunctionParameterList */
-   rtxCtxtPushElemName(ctx, "mappingFunctionParameterList");
    stat = asn1PE_UMTS_MappingFunctionParameterList(ctx, &pvalue->mappingFunctionParameterList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "mappingFunctionParameterList", -1, "Mapping-LCR-r4");
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType3_v4b0ext_IEs(rtxContext* ctx, const SysInfoType3_v4b0ext_IEs* pvalue)
+int asn1PE_UMTS_SysInfoType3_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType3-v4b0ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType3-v4b0ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType3-v4b0ext-IEs");
    /* mapping-LCR */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "mapping-LCR");
       stat = asn1PE_UMTS_Mapping_LCR_r4(ctx, &pvalue->mapping_LCR);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "mapping-LCR", -1, "SysInfoType3-v4b0ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_DeltaQrxlevmin(rtxContext* ctx, DeltaQrxlevmin value)
+int asn1PE_UMTS_DeltaQrxlevmin(rtxContext* RT_RESTRICT ctx, DeltaQrxlevmin value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DeltaQrxlevmin");
    if (value < -2 || value > -1) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "DeltaQrxlevmin");
       rtxErrAddIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DeltaQrxlevmin");
    }
    stat = pe_ConsInt64(ctx, value, -2, -1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DeltaQrxlevmin");
    return 0;
 }
 
-int asn1PE_UMTS_DeltaRSCP(rtxContext* ctx, DeltaRSCP value)
+int asn1PE_UMTS_DeltaRSCP(rtxContext* RT_RESTRICT ctx, DeltaRSCP value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DeltaRSCP");
    if (value < -5 || value > -1) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "DeltaRSCP");
       rtxErrAddIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DeltaRSCP");
    }
    stat = pe_ConsInt64(ctx, value, -5, -1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DeltaRSCP");
    return 0;
 }
 
-int asn1PE_UMTS_CellSelectReselectInfo_v590ext(rtxContext* ctx, const CellSelectReselectInfo_v590ext* pvalue)
+int asn1PE_UMTS_CellSelectReselectInfo_v590ext(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfo_v590ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellSelectReselectInfo-v590ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellSelectReselectInfo-v590ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellSelectReselectInfo-v590ext");
    /* deltaQrxlevmin */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "deltaQrxlevmin");
-      rtxCtxtPushTypeName(ctx, "DeltaQrxlevmin");
       if (pvalue->deltaQrxlevmin < -2 || pvalue->deltaQrxlevmin > -1) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "DeltaQrxlevmin");
          rtxErrAddIntParm(ctx, pvalue->deltaQrxlevmin);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaQrxlevmin", "deltaQrxlevmin", -1, "CellSelectReselectInfo-v590ext");
       }
       stat = pe_ConsInt64(ctx, pvalue->deltaQrxlevmin, -2, -1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "DeltaQrxlevmin", "deltaQrxlevmin", -1, "CellSelectReselectInfo-v590ext");
    }
    /* deltaQhcs */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "deltaQhcs");
-      rtxCtxtPushTypeName(ctx, "DeltaRSCP");
       if (pvalue->deltaQhcs < -5 || pvalue->deltaQhcs > -1) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "DeltaRSCP");
          rtxErrAddIntParm(ctx, pvalue->deltaQhcs);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaRSCP", "deltaQhcs", -1, "CellSelectReselectInfo-v590ext");
       }
       stat = pe_ConsInt64(ctx, pvalue->deltaQhcs, -5, -1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "DeltaRSCP", "deltaQhcs", -1, "CellSelectReselectInfo-v590ext");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType3_v590ext(rtxContext* ctx, const SysInfoType3_v590ext* pvalue)
+int asn1PE_UMTS_SysInfoType3_v590ext(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v590ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType3-v590ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType3-v590ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType3-v590ext");
    /* cellSelectReselectInfo-v590ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellSelectReselectInfo-v590ext");
       stat = asn1PE_UMTS_CellSelectReselectInfo_v590ext(ctx, &pvalue->cellSelectReselectInfo_v590ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "cellSelectReselectInfo-v590ext", -1, "SysInfoType3-v590ext");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SpeedDependentScalingFactor(rtxContext* ctx, SpeedDependentScalingFactor value)
+int asn1PE_UMTS_SpeedDependentScalingFactor(rtxContext* RT_RESTRICT ctx, SpeedDependentScalingFactor value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SpeedDependentScalingFactor");
    if ((uint64_t)value > 10u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "SpeedDependentScalingFactor");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "SpeedDependentScalingFactor");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SpeedDependentScalingFactor");
    return 0;
 }
 
-int asn1PE_UMTS_TreselectionScalingFactor(rtxContext* ctx, TreselectionScalingFactor value)
+int asn1PE_UMTS_TreselectionScalingFactor(rtxContext* RT_RESTRICT ctx, TreselectionScalingFactor value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TreselectionScalingFactor");
    if ((uint64_t)(value - 4) > 15u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "TreselectionScalingFactor");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TreselectionScalingFactor");
    }
    stat = pe_ConsUInt64(ctx, value, 4, 19);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TreselectionScalingFactor");
    return 0;
 }
 
-int asn1PE_UMTS_CellSelectReselectInfoTreselectionScaling_v5c0ext(rtxContext* ctx, const CellSelectReselectInfoTreselectionScaling_v5c0ext* pvalue)
+int asn1PE_UMTS_CellSelectReselectInfoTreselectionScaling_v5c0ext(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoTreselectionScaling_v5c0ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellSelectReselectInfoTreselectionScaling-v5c0ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellSelectReselectInfoTreselectionScaling-v5c0ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellSelectReselectInfoTreselectionScaling-v5c0ext");
    /* non-HCS-t-CR-Max */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "non-HCS-t-CR-Max");
       stat = asn1PE_UMTS_T_CRMax(ctx, &pvalue->non_HCS_t_CR_Max);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "non-HCS-t-CR-Max", -1, "CellSelectReselectInfoTreselectionScaling-v5c0ext");
    }
    /* speedDependentScalingFactor */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "speedDependentScalingFactor");
-      rtxCtxtPushTypeName(ctx, "SpeedDependentScalingFactor");
       if ((uint64_t)pvalue->speedDependentScalingFactor > 10u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "SpeedDependentScalingFactor");
          rtxErrAddUIntParm(ctx, pvalue->speedDependentScalingFactor);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "SpeedDependentScalingFactor", "speedDependentScalingFactor", -1, "CellSelectReselectInfoTreselectionScaling-v5c0ext");
       }
       stat = pe_ConsUInt64(ctx, pvalue->speedDependentScalingFactor, 0, 10);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "SpeedDependentScalingFactor", "speedDependentScalingFactor", -1, "CellSelectReselectInfoTreselectionScaling-v5c0ext");
    }
    /* interFrequencyTreselectionScalingFactor */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "interFrequencyTreselectionScalingFactor");
-      rtxCtxtPushTypeName(ctx, "TreselectionScalingFactor");
       if ((uint64_t)(pvalue->interFrequencyTreselectionScalingFactor - 4) > 15u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "TreselectionScalingFactor");
          rtxErrAddUIntParm(ctx, pvalue->interFrequencyTreselectionScalingFactor);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "TreselectionScalingFactor", "interFrequencyTreselectionScalingFactor", -1, "CellSelectReselectInfoTreselectionScaling-v5c0ext");
       }
       stat = pe_ConsUInt64(ctx, pvalue->interFrequencyTreselectionScalingFactor, 4, 19);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "TreselectionScalingFactor", "interFrequencyTreselectionScalingFactor", -1, "CellSelectReselectInfoTreselectionScaling-v5c0ext");
    }
    /* interRATTreselectionScalingFactor */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "interRATTreselectionScalingFactor");
-      rtxCtxtPushTypeName(ctx, "TreselectionScalingFactor");
       if ((uint64_t)(pvalue->interRATTreselectionScalingFactor - 4) > 15u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "TreselectionScalingFactor");
          rtxErrAddUIntParm(ctx, pvalue->interRATTreselectionScalingFactor);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "TreselectionScalingFactor", "interRATTreselectionScalingFactor", -1, "CellSelectReselectInfoTreselectionScaling-v5c0ext");
       }
       stat = pe_ConsUInt64(ctx, pvalue->interRATTreselectionScalingFactor, 4, 19);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "TreselectionScalingFactor", "interRATTreselectionScalingFactor", -1, "CellSelectReselectInfoTreselectionScaling-v5c0ext");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType3_v5c0ext_IEs(rtxContext* ctx, const SysInfoType3_v5c0ext_IEs* pvalue)
+int asn1PE_UMTS_SysInfoType3_v5c0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v5c0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType3-v5c0ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType3-v5c0ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType3-v5c0ext-IEs");
    /* cellSelectReselectInfoTreselectionScaling-v5c0ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellSelectReselectInfoTreselectionScaling-v5c0ext");
       stat = asn1PE_UMTS_CellSelectReselectInfoTreselectionScaling_v5c0ext(ctx, &pvalue->cellSelectReselectInfoTreselectionScaling_v5c0ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "cellSelectReselectInfoTreselectionScaling-v5c0ext", -1, "SysInfoType3-v5c0ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_DomainSpecificAccessRestriction_v670ext_restriction(rtxContext* ctx, const DomainSpecificAccessRestriction_v670ext_restriction* pvalue)
+int asn1PE_UMTS_DomainSpecificAccessRestriction_v670ext_restriction(rtxContext* RT_RESTRICT ctx, const DomainSpecificAccessRestriction_v670ext_restriction* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* domainSpecficAccessClassBarredList */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "domainSpecficAccessClassBarredList");
       stat = asn1PE_UMTS_AccessClassBarredList(ctx, &pvalue->domainSpecficAccessClassBarredList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "domainSpecficAccessClassBarredList", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_DomainSpecificAccessRestriction_v670ext(rtxContext* ctx, const DomainSpecificAccessRestriction_v670ext* pvalue)
+int asn1PE_UMTS_DomainSpecificAccessRestriction_v670ext(rtxContext* RT_RESTRICT ctx, const DomainSpecificAccessRestriction_v670ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DomainSpecificAccessRestriction-v670ext");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DomainSpecificAccessRestriction-v670ext");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "DomainSpecificAccessRestriction-v670ext");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DomainSpecificAccessRestriction-v670ext");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "noRestriction");
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "restriction");
-         if (pvalue->u.restriction == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.restriction == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "restriction", -1, "DomainSpecificAccessRestriction-v670ext");
          stat = asn1PE_UMTS_DomainSpecificAccessRestriction_v670ext_restriction(ctx, pvalue->u.restriction);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "restriction", -1, "DomainSpecificAccessRestriction-v670ext");
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_DomainSpecificAccessRestrictionParam_v670ext(rtxContext* ctx, const DomainSpecificAccessRestrictionParam_v670ext* pvalue)
+int asn1PE_UMTS_DomainSpecificAccessRestrictionParam_v670ext(rtxContext* RT_RESTRICT ctx, const DomainSpecificAccessRestrictionParam_v670ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DomainSpecificAccessRestrictionParam-v670ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DomainSpecificAccessRestrictionParam-v670ext");
    /* cSDomainSpecificAccessRestriction */
-   rtxCtxtPushElemName(ctx, "cSDomainSpecificAccessRestriction");
    stat = asn1PE_UMTS_DomainSpecificAccessRestriction_v670ext(ctx, &pvalue->cSDomainSpecificAccessRestriction);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "cSDomainSpecificAccessRestriction", -1, "DomainSpecificAccessRestrictionParam-v670ext");
    /* pSDomainSpecificAccessRestriction */
-   rtxCtxtPushElemName(ctx, "pSDomainSpecificAccessRestriction");
    stat = asn1PE_UMTS_DomainSpecificAccessRestriction_v670ext(ctx, &pvalue->pSDomainSpecificAccessRestriction);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "pSDomainSpecificAccessRestriction", -1, "DomainSpecificAccessRestrictionParam-v670ext");
    return 0;
 }
 
-int asn1PE_UMTS_DomainSpecificAccessRestrictionList_v670ext(rtxContext* ctx, const DomainSpecificAccessRestrictionList_v670ext* pvalue)
+int asn1PE_UMTS_DomainSpecificAccessRestrictionList_v670ext(rtxContext* RT_RESTRICT ctx, const DomainSpecificAccessRestrictionList_v670ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DomainSpecificAccessRestrictionList-v670ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DomainSpecificAccessRestrictionList-v670ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DomainSpecificAccessRestrictionList-v670ext");
    /* domainSpecificAccessRestrictionParametersForOperator1 */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "domainSpecificAccessRestrictionParametersForOperator1");
       stat = asn1PE_UMTS_DomainSpecificAccessRestrictionParam_v670ext(ctx, &pvalue->domainSpecificAccessRestrictionParametersForOperator1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "domainSpecificAccessRestrictionParametersForOperator1", -1, "DomainSpecificAccessRestrictionList-v670ext");
    }
    /* domainSpecificAccessRestrictionParametersForOperator2 */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "domainSpecificAccessRestrictionParametersForOperator2");
       stat = asn1PE_UMTS_DomainSpecificAccessRestrictionParam_v670ext(ctx, &pvalue->domainSpecificAccessRestrictionParametersForOperator2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "domainSpecificAccessRestrictionParametersForOperator2", -1, "DomainSpecificAccessRestrictionList-v670ext");
    }
    /* domainSpecificAccessRestrictionParametersForOperator3 */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "domainSpecificAccessRestrictionParametersForOperator3");
       stat = asn1PE_UMTS_DomainSpecificAccessRestrictionParam_v670ext(ctx, &pvalue->domainSpecificAccessRestrictionParametersForOperator3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "domainSpecificAccessRestrictionParametersForOperator3", -1, "DomainSpecificAccessRestrictionList-v670ext");
    }
    /* domainSpecificAccessRestrictionParametersForOperator4 */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "domainSpecificAccessRestrictionParametersForOperator4");
       stat = asn1PE_UMTS_DomainSpecificAccessRestrictionParam_v670ext(ctx, &pvalue->domainSpecificAccessRestrictionParametersForOperator4);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "domainSpecificAccessRestrictionParametersForOperator4", -1, "DomainSpecificAccessRestrictionList-v670ext");
    }
    /* domainSpecificAccessRestrictionParametersForOperator5 */
    if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "domainSpecificAccessRestrictionParametersForOperator5");
       stat = asn1PE_UMTS_DomainSpecificAccessRestrictionParam_v670ext(ctx, &pvalue->domainSpecificAccessRestrictionParametersForOperator5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "domainSpecificAccessRestrictionParametersForOperator5", -1, "DomainSpecificAccessRestrictionList-v670ext");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_DomainSpecificAccessRestrictionForSharedNetwork_v670ext(rtxContext* ctx, const DomainSpecificAccessRestrictionForSharedNetwork_v670ext* pvalue)
+int asn1PE_UMTS_DomainSpecificAccessRestrictionForSharedNetwork_v670ext(rtxContext* RT_RESTRICT ctx, const DomainSpecificAccessRestrictionForSharedNetwork_v670ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DomainSpecificAccessRestrictionForSharedNetwork-v670ext");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DomainSpecificAccessRestrictionForSharedNetwork-v670ext");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "DomainSpecificAccessRestrictionForSharedNetwork-v670ext");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DomainSpecificAccessRestrictionForSharedNetwork-v670ext");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "domainSpecificAccessRestictionList");
-         if (pvalue->u.domainSpecificAccessRestictionList == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.domainSpecificAccessRestictionList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "domainSpecificAccessRestictionList", -1, "DomainSpecificAccessRestrictionForSharedNetwork-v670ext");
          stat = asn1PE_UMTS_DomainSpecificAccessRestrictionList_v670ext(ctx, pvalue->u.domainSpecificAccessRestictionList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "domainSpecificAccessRestictionList", -1, "DomainSpecificAccessRestrictionForSharedNetwork-v670ext");
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "domainSpecificAccessRestictionParametersForAll");
-         if (pvalue->u.domainSpecificAccessRestictionParametersForAll == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.domainSpecificAccessRestictionParametersForAll == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "domainSpecificAccessRestictionParametersForAll", -1, "DomainSpecificAccessRestrictionForSharedNetwork-v670ext");
          stat = asn1PE_UMTS_DomainSpecificAccessRestrictionParam_v670ext(ctx, pvalue->u.domainSpecificAccessRestictionParametersForAll);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "domainSpecificAccessRestictionParametersForAll", -1, "DomainSpecificAccessRestrictionForSharedNetwork-v670ext");
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType3_v670ext(rtxContext* ctx, const SysInfoType3_v670ext* pvalue)
+int asn1PE_UMTS_SysInfoType3_v670ext(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v670ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType3-v670ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType3-v670ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType3-v670ext");
    /* domainSpecificAccessRestrictionParametersForPLMNOfMIB */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "domainSpecificAccessRestrictionParametersForPLMNOfMIB");
       stat = asn1PE_UMTS_DomainSpecificAccessRestrictionParam_v670ext(ctx, &pvalue->domainSpecificAccessRestrictionParametersForPLMNOfMIB);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "domainSpecificAccessRestrictionParametersForPLMNOfMIB", -1, "SysInfoType3-v670ext");
    }
    /* domainSpecificAccessRestictionForSharedNetwork */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "domainSpecificAccessRestictionForSharedNetwork");
       stat = asn1PE_UMTS_DomainSpecificAccessRestrictionForSharedNetwork_v670ext(ctx, &pvalue->domainSpecificAccessRestictionForSharedNetwork);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "domainSpecificAccessRestictionForSharedNetwork", -1, "SysInfoType3-v670ext");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqMeasQuantity_FDD_sib3(rtxContext* ctx, IntraFreqMeasQuantity_FDD_sib3 value)
+int asn1PE_UMTS_IntraFreqMeasQuantity_FDD_sib3(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_FDD_sib3 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "IntraFreqMeasQuantity-FDD-sib3");
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "IntraFreqMeasQuantity-FDD-sib3");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasQuantity-FDD-sib3");
    return 0;
 }
 
-int asn1PE_UMTS_DeferredMeasurementControlReadingSupport_modeSpecificInfo_fdd(rtxContext* ctx, const DeferredMeasurementControlReadingSupport_modeSpecificInfo_fdd* pvalue)
+int asn1PE_UMTS_DeferredMeasurementControlReadingSupport_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DeferredMeasurementControlReadingSupport_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* intraFreqMeasQuantity-FDD */
-   rtxCtxtPushElemName(ctx, "intraFreqMeasQuantity-FDD");
-   rtxCtxtPushTypeName(ctx, "IntraFreqMeasQuantity-FDD-sib3");
    if (pvalue->intraFreqMeasQuantity_FDD > 1) {
       rtxErrAddUIntParm(ctx, pvalue->intraFreqMeasQuantity_FDD);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "IntraFreqMeasQuantity-FDD-sib3", "intraFreqMeasQuantity-FDD", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->intraFreqMeasQuantity_FDD, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "IntraFreqMeasQuantity-FDD-sib3", "intraFreqMeasQuantity-FDD", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqMeasQuantity_TDD_sib3List_element(rtxContext* ctx, IntraFreqMeasQuantity_TDD_sib3List_element value)
+int asn1PE_UMTS_IntraFreqMeasQuantity_TDD_sib3List_element(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_TDD_sib3List_element value)
 {
    int stat = 0;
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqMeasQuantity_TDD_sib3List(rtxContext* ctx, const IntraFreqMeasQuantity_TDD_sib3List* pvalue)
+int asn1PE_UMTS_IntraFreqMeasQuantity_TDD_sib3List(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasQuantity_TDD_sib3List* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqMeasQuantity-TDD-sib3List");
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "IntraFreqMeasQuantity-TDD-sib3List");
    RT_SET_SIZE(ctx, 1, 2);
    stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "IntraFreqMeasQuantity-TDD-sib3List");
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
       if (pvalue->elem[i] > 1) {
          rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "element", (int32_t)i, "IntraFreqMeasQuantity-TDD-sib3List");
       }
       stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "IntraFreqMeasQuantity-TDD-sib3List");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_DeferredMeasurementControlReadingSupport_modeSpecificInfo_tdd(rtxContext* ctx, const DeferredMeasurementControlReadingSupport_modeSpecificInfo_tdd* pvalue)
+int asn1PE_UMTS_DeferredMeasurementControlReadingSupport_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DeferredMeasurementControlReadingSupport_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* intraFreqMeasQuantity-TDDList */
-   rtxCtxtPushElemName(ctx, "intraFreqMeasQuantity-TDDList");
    stat = asn1PE_UMTS_IntraFreqMeasQuantity_TDD_sib3List(ctx, &pvalue->intraFreqMeasQuantity_TDDList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity-TDDList", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_DeferredMeasurementControlReadingSupport_modeSpecificInfo(rtxContext* ctx, const DeferredMeasurementControlReadingSupport_modeSpecificInfo* pvalue)
+int asn1PE_UMTS_DeferredMeasurementControlReadingSupport_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DeferredMeasurementControlReadingSupport_modeSpecificInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
          stat = asn1PE_UMTS_DeferredMeasurementControlReadingSupport_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
          stat = asn1PE_UMTS_DeferredMeasurementControlReadingSupport_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
          break;
@@ -4012,1469 +3022,1139 @@ int asn1PE_UMTS_DeferredMeasurementControlReadingSupport_modeSpecificInfo(rtxCon
    return 0;
 }
 
-int asn1PE_UMTS_DeferredMeasurementControlReadingSupport(rtxContext* ctx, const DeferredMeasurementControlReadingSupport* pvalue)
+int asn1PE_UMTS_DeferredMeasurementControlReadingSupport(rtxContext* RT_RESTRICT ctx, const DeferredMeasurementControlReadingSupport* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DeferredMeasurementControlReadingSupport");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DeferredMeasurementControlReadingSupport");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DeferredMeasurementControlReadingSupport");
    /* modeSpecificInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "modeSpecificInfo");
       stat = asn1PE_UMTS_DeferredMeasurementControlReadingSupport_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DeferredMeasurementControlReadingSupport");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_Q_QualMin_Offset(rtxContext* ctx, Q_QualMin_Offset value)
+int asn1PE_UMTS_Q_QualMin_Offset(rtxContext* RT_RESTRICT ctx, Q_QualMin_Offset value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Q-QualMin-Offset");
    if ((uint64_t)(value - 1) > 15u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "Q-QualMin-Offset");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "Q-QualMin-Offset");
    }
    stat = pe_ConsUInt64(ctx, value, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Q-QualMin-Offset");
    return 0;
 }
 
-int asn1PE_UMTS_Q_RxlevMin_Offset(rtxContext* ctx, Q_RxlevMin_Offset value)
+int asn1PE_UMTS_Q_RxlevMin_Offset(rtxContext* RT_RESTRICT ctx, Q_RxlevMin_Offset value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Q-RxlevMin-Offset");
    if ((uint64_t)(value - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "Q-RxlevMin-Offset");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "Q-RxlevMin-Offset");
    }
    stat = pe_ConsUInt64(ctx, value, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Q-RxlevMin-Offset");
    return 0;
 }
 
-int asn1PE_UMTS_MBSFNOnlyService(rtxContext* ctx, MBSFNOnlyService value)
+int asn1PE_UMTS_MBSFNOnlyService(rtxContext* RT_RESTRICT ctx, MBSFNOnlyService value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBSFNOnlyService");
    if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MBSFNOnlyService");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBSFNOnlyService");
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType3_v770ext_IEs(rtxContext* ctx, const SysInfoType3_v770ext_IEs* pvalue)
+int asn1PE_UMTS_SysInfoType3_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v770ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType3-v770ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType3-v770ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType3-v770ext-IEs");
    /* deferredMeasurementControlReadingSupport */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "deferredMeasurementControlReadingSupport");
       stat = asn1PE_UMTS_DeferredMeasurementControlReadingSupport(ctx, &pvalue->deferredMeasurementControlReadingSupport);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "deferredMeasurementControlReadingSupport", -1, "SysInfoType3-v770ext-IEs");
    }
    /* q-QualMin-Offset */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "q-QualMin-Offset");
-      rtxCtxtPushTypeName(ctx, "Q-QualMin-Offset");
       if ((uint64_t)(pvalue->q_QualMin_Offset - 1) > 15u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "Q-QualMin-Offset");
          rtxErrAddUIntParm(ctx, pvalue->q_QualMin_Offset);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-QualMin-Offset", "q-QualMin-Offset", -1, "SysInfoType3-v770ext-IEs");
       }
       stat = pe_ConsUInt64(ctx, pvalue->q_QualMin_Offset, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "Q-QualMin-Offset", "q-QualMin-Offset", -1, "SysInfoType3-v770ext-IEs");
    }
    /* q-RxlevMin-Offset */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "q-RxlevMin-Offset");
-      rtxCtxtPushTypeName(ctx, "Q-RxlevMin-Offset");
       if ((uint64_t)(pvalue->q_RxlevMin_Offset - 1) > 7u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "Q-RxlevMin-Offset");
          rtxErrAddUIntParm(ctx, pvalue->q_RxlevMin_Offset);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin-Offset", "q-RxlevMin-Offset", -1, "SysInfoType3-v770ext-IEs");
       }
       stat = pe_ConsUInt64(ctx, pvalue->q_RxlevMin_Offset, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "Q-RxlevMin-Offset", "q-RxlevMin-Offset", -1, "SysInfoType3-v770ext-IEs");
    }
    /* mbsfnOnlyService */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "mbsfnOnlyService");
-      rtxCtxtPushTypeName(ctx, "MBSFNOnlyService");
       if (pvalue->mbsfnOnlyService > 0) {
          rtxErrAddUIntParm(ctx, pvalue->mbsfnOnlyService);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBSFNOnlyService", "mbsfnOnlyService", -1, "SysInfoType3-v770ext-IEs");
       }
       stat = pe_ConsUInt64(ctx, pvalue->mbsfnOnlyService, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "MBSFNOnlyService", "mbsfnOnlyService", -1, "SysInfoType3-v770ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PagingPermissionWithAccessControlParameters_pagingResponseRestrictionIndicator(rtxContext* ctx, PagingPermissionWithAccessControlParameters_pagingResponseRestrictionIndicator value)
+int asn1PE_UMTS_PagingPermissionWithAccessControlParameters_pagingResponseRestrictionIndicator(rtxContext* RT_RESTRICT ctx, PagingPermissionWithAccessControlParameters_pagingResponseRestrictionIndicator value)
 {
    int stat = 0;
    if (value > 3) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_PagingPermissionWithAccessControlParameters_locationRegistrationRestrictionIndicator(rtxContext* ctx, PagingPermissionWithAccessControlParameters_locationRegistrationRestrictionIndicator value)
+int asn1PE_UMTS_PagingPermissionWithAccessControlParameters_locationRegistrationRestrictionIndicator(rtxContext* RT_RESTRICT ctx, PagingPermissionWithAccessControlParameters_locationRegistrationRestrictionIndicator value)
 {
    int stat = 0;
    if (value > 2) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_LocationRegistrationAccessClassBarredList(rtxContext* ctx, const LocationRegistrationAccessClassBarredList* pvalue)
+int asn1PE_UMTS_LocationRegistrationAccessClassBarredList(rtxContext* RT_RESTRICT ctx, const LocationRegistrationAccessClassBarredList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "LocationRegistrationAccessClassBarredList");
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "LocationRegistrationAccessClassBarredList");
    if (pvalue->n != 15) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "LocationRegistrationAccessClassBarredList");
       rtxErrAddUIntParm(ctx, pvalue->n);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "LocationRegistrationAccessClassBarredList");
    }
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "AccessClassBarred", i);
-      rtxCtxtPushTypeName(ctx, "AccessClassBarred");
       if (pvalue->elem[i] > 1) {
          rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "AccessClassBarred", "AccessClassBarred", (int32_t)i, "LocationRegistrationAccessClassBarredList");
       }
       stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, "AccessClassBarred", "AccessClassBarred", (int32_t)i, "LocationRegistrationAccessClassBarredList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_LocationRegistrationParameters(rtxContext* ctx, const LocationRegistrationParameters* pvalue)
+int asn1PE_UMTS_LocationRegistrationParameters(rtxContext* RT_RESTRICT ctx, const LocationRegistrationParameters* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "LocationRegistrationParameters");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "LocationRegistrationParameters");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "LocationRegistrationParameters");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "LocationRegistrationParameters");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "noRestriction");
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "restriction");
-         if (pvalue->u.restriction == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.restriction == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "restriction", -1, "LocationRegistrationParameters");
          stat = asn1PE_UMTS_LocationRegistrationAccessClassBarredList(ctx, pvalue->u.restriction);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "restriction", -1, "LocationRegistrationParameters");
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PagingPermissionWithAccessControlParameters(rtxContext* ctx, const PagingPermissionWithAccessControlParameters* pvalue)
+int asn1PE_UMTS_PagingPermissionWithAccessControlParameters(rtxContext* RT_RESTRICT ctx, const PagingPermissionWithAccessControlParameters* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PagingPermissionWithAccessControlParameters");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PagingPermissionWithAccessControlParameters");
    /* pagingResponseRestrictionIndicator */
-   rtxCtxtPushElemName(ctx, "pagingResponseRestrictionIndicator");
    if (pvalue->pagingResponseRestrictionIndicator > 3) {
       rtxErrAddUIntParm(ctx, pvalue->pagingResponseRestrictionIndicator);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "pagingResponseRestrictionIndicator", -1, "PagingPermissionWithAccessControlParameters");
    }
    stat = pe_ConsUInt64(ctx, pvalue->pagingResponseRestrictionIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "pagingResponseRestrictionIndicator", -1, "PagingPermissionWithAccessControlParameters");
    /* locationRegistrationRestrictionIndicator */
-   rtxCtxtPushElemName(ctx, "locationRegistrationRestrictionIndicator");
    if (pvalue->locationRegistrationRestrictionIndicator > 2) {
       rtxErrAddUIntParm(ctx, pvalue->locationRegistrationRestrictionIndicator);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "locationRegistrationRestrictionIndicator", -1, "PagingPermissionWithAccessControlParameters");
    }
    stat = pe_ConsUInt64(ctx, pvalue->locationRegistrationRestrictionIndicator, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "locationRegistrationRestrictionIndicator", -1, "PagingPermissionWithAccessControlParameters");
    /* locationRegistration */
-   rtxCtxtPushElemName(ctx, "locationRegistration");
    stat = asn1PE_UMTS_LocationRegistrationParameters(ctx, &pvalue->locationRegistration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "locationRegistration", -1, "PagingPermissionWithAccessControlParameters");
    return 0;
 }
 
-int asn1PE_UMTS_PagingPermissionWithAccessControlList(rtxContext* ctx, const PagingPermissionWithAccessControlList* pvalue)
+int asn1PE_UMTS_PagingPermissionWithAccessControlList(rtxContext* RT_RESTRICT ctx, const PagingPermissionWithAccessControlList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PagingPermissionWithAccessControlList");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PagingPermissionWithAccessControlList");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PagingPermissionWithAccessControlList");
    /* pagingPermissionWithAccessControlParametersForOperator1 */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pagingPermissionWithAccessControlParametersForOperator1");
       stat = asn1PE_UMTS_PagingPermissionWithAccessControlParameters(ctx, &pvalue->pagingPermissionWithAccessControlParametersForOperator1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pagingPermissionWithAccessControlParametersForOperator1", -1, "PagingPermissionWithAccessControlList");
    }
    /* pagingPermissionWithAccessControlParametersForOperator2 */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "pagingPermissionWithAccessControlParametersForOperator2");
       stat = asn1PE_UMTS_PagingPermissionWithAccessControlParameters(ctx, &pvalue->pagingPermissionWithAccessControlParametersForOperator2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pagingPermissionWithAccessControlParametersForOperator2", -1, "PagingPermissionWithAccessControlList");
    }
    /* pagingPermissionWithAccessControlParametersForOperator3 */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "pagingPermissionWithAccessControlParametersForOperator3");
       stat = asn1PE_UMTS_PagingPermissionWithAccessControlParameters(ctx, &pvalue->pagingPermissionWithAccessControlParametersForOperator3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pagingPermissionWithAccessControlParametersForOperator3", -1, "PagingPermissionWithAccessControlList");
    }
    /* pagingPermissionWithAccessControlParametersForOperator4 */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "pagingPermissionWithAccessControlParametersForOperator4");
       stat = asn1PE_UMTS_PagingPermissionWithAccessControlParameters(ctx, &pvalue->pagingPermissionWithAccessControlParametersForOperator4);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pagingPermissionWithAccessControlParametersForOperator4", -1, "PagingPermissionWithAccessControlList");
    }
    /* pagingPermissionWithAccessControlParametersForOperator5 */
    if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "pagingPermissionWithAccessControlParametersForOperator5");
       stat = asn1PE_UMTS_PagingPermissionWithAccessControlParameters(ctx, &pvalue->pagingPermissionWithAccessControlParametersForOperator5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pagingPermissionWithAccessControlParametersForOperator5", -1, "PagingPermissionWithAccessControlList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PagingPermissionWithAccessControlForSharedNetwork(rtxContext* ctx, const PagingPermissionWithAccessControlForSharedNetwork* pvalue)
+int asn1PE_UMTS_PagingPermissionWithAccessControlForSharedNetwork(rtxContext* RT_RESTRICT ctx, const PagingPermissionWithAccessControlForSharedNetwork* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PagingPermissionWithAccessControlForSharedNetwork");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PagingPermissionWithAccessControlForSharedNetwork");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "PagingPermissionWithAccessControlForSharedNetwork");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PagingPermissionWithAccessControlForSharedNetwork");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "pagingPermissionWithAccessControlList");
-         if (pvalue->u.pagingPermissionWithAccessControlList == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.pagingPermissionWithAccessControlList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "pagingPermissionWithAccessControlList", -1, "PagingPermissionWithAccessControlForSharedNetwork");
          stat = asn1PE_UMTS_PagingPermissionWithAccessControlList(ctx, pvalue->u.pagingPermissionWithAccessControlList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "pagingPermissionWithAccessControlList", -1, "PagingPermissionWithAccessControlForSharedNetwork");
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "pagingPermissionWithAccessControlForAll");
-         if (pvalue->u.pagingPermissionWithAccessControlForAll == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.pagingPermissionWithAccessControlForAll == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "pagingPermissionWithAccessControlForAll", -1, "PagingPermissionWithAccessControlForSharedNetwork");
          stat = asn1PE_UMTS_PagingPermissionWithAccessControlParameters(ctx, pvalue->u.pagingPermissionWithAccessControlForAll);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "pagingPermissionWithAccessControlForAll", -1, "PagingPermissionWithAccessControlForSharedNetwork");
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType3_v830ext_IEs(rtxContext* ctx, const SysInfoType3_v830ext_IEs* pvalue)
+int asn1PE_UMTS_SysInfoType3_v830ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v830ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType3-v830ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType3-v830ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType3-v830ext-IEs");
    /* pagingPermissionWithAccessControlParametersForPLMNOfMIB */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pagingPermissionWithAccessControlParametersForPLMNOfMIB");
       stat = asn1PE_UMTS_PagingPermissionWithAccessControlParameters(ctx, &pvalue->pagingPermissionWithAccessControlParametersForPLMNOfMIB);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pagingPermissionWithAccessControlParametersForPLMNOfMIB", -1, "SysInfoType3-v830ext-IEs");
    }
    /* pagingPermissionWithAccessControlParametersForSharedNetwork */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "pagingPermissionWithAccessControlParametersForSharedNetwork");
       stat = asn1PE_UMTS_PagingPermissionWithAccessControlForSharedNetwork(ctx, &pvalue->pagingPermissionWithAccessControlParametersForSharedNetwork);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pagingPermissionWithAccessControlParametersForSharedNetwork", -1, "SysInfoType3-v830ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_CSG_Identity(rtxContext* ctx, CSG_Identity value)
+int asn1PE_UMTS_CSG_Identity(rtxContext* RT_RESTRICT ctx, CSG_Identity value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CSG-Identity");
    RT_SET_SIZE(ctx, 27, 27);
    stat = pe_BitString32(ctx, &value, 27, 27);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CSG-Identity");
    return 0;
 }
 
-int asn1PE_UMTS_CSG_PSCSplitInfo_numberOfPSCs(rtxContext* ctx, CSG_PSCSplitInfo_numberOfPSCs value)
+int asn1PE_UMTS_CSG_PSCSplitInfo_numberOfPSCs(rtxContext* RT_RESTRICT ctx, CSG_PSCSplitInfo_numberOfPSCs value)
 {
    int stat = 0;
    if (value > 15) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CSG_PSCSplitInfo(rtxContext* ctx, const CSG_PSCSplitInfo* pvalue)
+int asn1PE_UMTS_CSG_PSCSplitInfo(rtxContext* RT_RESTRICT ctx, const CSG_PSCSplitInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CSG-PSCSplitInfo");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CSG-PSCSplitInfo");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CSG-PSCSplitInfo");
    /* startPSC */
-   rtxCtxtPushElemName(ctx, "startPSC");
    if ((uint64_t)pvalue->startPSC > 63u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "startPSC");
       rtxErrAddUIntParm(ctx, pvalue->startPSC);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "startPSC", -1, "CSG-PSCSplitInfo");
    }
    stat = pe_ConsUInt64(ctx, pvalue->startPSC, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "startPSC", -1, "CSG-PSCSplitInfo");
    /* numberOfPSCs */
-   rtxCtxtPushElemName(ctx, "numberOfPSCs");
    if (pvalue->numberOfPSCs > 15) {
       rtxErrAddUIntParm(ctx, pvalue->numberOfPSCs);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "numberOfPSCs", -1, "CSG-PSCSplitInfo");
    }
    stat = pe_ConsUInt64(ctx, pvalue->numberOfPSCs, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "numberOfPSCs", -1, "CSG-PSCSplitInfo");
    /* pscRange2Offset */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pscRange2Offset");
       if ((uint64_t)(pvalue->pscRange2Offset - 1) > 62u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "pscRange2Offset");
          rtxErrAddUIntParm(ctx, pvalue->pscRange2Offset);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "pscRange2Offset", -1, "CSG-PSCSplitInfo");
       }
       stat = pe_ConsUInt64(ctx, pvalue->pscRange2Offset, 1, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pscRange2Offset", -1, "CSG-PSCSplitInfo");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType3_v860ext_IEs(rtxContext* ctx, const SysInfoType3_v860ext_IEs* pvalue)
+int asn1PE_UMTS_SysInfoType3_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v860ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType3-v860ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType3-v860ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType3-v860ext-IEs");
    /* csgIdentity */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "csgIdentity");
       stat = asn1PE_UMTS_CSG_Identity(ctx, pvalue->csgIdentity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "csgIdentity", -1, "SysInfoType3-v860ext-IEs");
    }
    /* csg-PSCSplitInfo */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "csg-PSCSplitInfo");
       stat = asn1PE_UMTS_CSG_PSCSplitInfo(ctx, &pvalue->csg_PSCSplitInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "csg-PSCSplitInfo", -1, "SysInfoType3-v860ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_CellAccessRestriction_v870ext_cellReservedForCSG(rtxContext* ctx, CellAccessRestriction_v870ext_cellReservedForCSG value)
+int asn1PE_UMTS_CellAccessRestriction_v870ext_cellReservedForCSG(rtxContext* RT_RESTRICT ctx, CellAccessRestriction_v870ext_cellReservedForCSG value)
 {
    int stat = 0;
    if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CellAccessRestriction_v870ext(rtxContext* ctx, const CellAccessRestriction_v870ext* pvalue)
+int asn1PE_UMTS_CellAccessRestriction_v870ext(rtxContext* RT_RESTRICT ctx, const CellAccessRestriction_v870ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellAccessRestriction-v870ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellAccessRestriction-v870ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellAccessRestriction-v870ext");
    /* cellReservedForCSG */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellReservedForCSG");
       if (pvalue->cellReservedForCSG > 0) {
          rtxErrAddUIntParm(ctx, pvalue->cellReservedForCSG);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "cellReservedForCSG", -1, "CellAccessRestriction-v870ext");
       }
       stat = pe_ConsUInt64(ctx, pvalue->cellReservedForCSG, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "cellReservedForCSG", -1, "CellAccessRestriction-v870ext");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType3_v870ext_IEs(rtxContext* ctx, const SysInfoType3_v870ext_IEs* pvalue)
+int asn1PE_UMTS_SysInfoType3_v870ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v870ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType3-v870ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType3-v870ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType3-v870ext-IEs");
    /* cellAccessRestriction */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellAccessRestriction");
       stat = asn1PE_UMTS_CellAccessRestriction_v870ext(ctx, &pvalue->cellAccessRestriction);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "cellAccessRestriction", -1, "SysInfoType3-v870ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType3_v920ext_IEs_imsEmergencySupportIndicator(rtxContext* ctx, SysInfoType3_v920ext_IEs_imsEmergencySupportIndicator value)
+int asn1PE_UMTS_SysInfoType3_v920ext_IEs_imsEmergencySupportIndicator(rtxContext* RT_RESTRICT ctx, SysInfoType3_v920ext_IEs_imsEmergencySupportIndicator value)
 {
    int stat = 0;
    if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType3_v920ext_IEs(rtxContext* ctx, const SysInfoType3_v920ext_IEs* pvalue)
+int asn1PE_UMTS_SysInfoType3_v920ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v920ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType3-v920ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType3-v920ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType3-v920ext-IEs");
    /* imsEmergencySupportIndicator */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "imsEmergencySupportIndicator");
       if (pvalue->imsEmergencySupportIndicator > 0) {
          rtxErrAddUIntParm(ctx, pvalue->imsEmergencySupportIndicator);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "imsEmergencySupportIndicator", -1, "SysInfoType3-v920ext-IEs");
       }
       stat = pe_ConsUInt64(ctx, pvalue->imsEmergencySupportIndicator, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "imsEmergencySupportIndicator", -1, "SysInfoType3-v920ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension_nonCriticalExtensions(rtxContext* ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension_nonCriticalExtensions* pvalue)
+int asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension(rtxContext* ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension* pvalue)
+int asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* sysInfoType3-v920ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType3-v920ext");
    stat = asn1PE_UMTS_SysInfoType3_v920ext_IEs(ctx, &pvalue->sysInfoType3_v920ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sysInfoType3-v920ext", -1, 0);
    /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
       stat = asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension(rtxContext* ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension* pvalue)
+int asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* sysInfoType3-v870ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType3-v870ext");
    stat = asn1PE_UMTS_SysInfoType3_v870ext_IEs(ctx, &pvalue->sysInfoType3_v870ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sysInfoType3-v870ext", -1, 0);
    /* v900NonCriticalExtension */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v900NonCriticalExtension");
       stat = asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension(ctx, &pvalue->v900NonCriticalExtension);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "v900NonCriticalExtension", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension(rtxContext* ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension* pvalue)
+int asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* sysInfoType3-v860ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType3-v860ext");
    stat = asn1PE_UMTS_SysInfoType3_v860ext_IEs(ctx, &pvalue->sysInfoType3_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sysInfoType3-v860ext", -1, 0);
    /* v870NonCriticalExtension */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v870NonCriticalExtension");
       stat = asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension(ctx, &pvalue->v870NonCriticalExtension);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "v870NonCriticalExtension", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension(rtxContext* ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension* pvalue)
+int asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* sysInfoType3-v830ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType3-v830ext");
    stat = asn1PE_UMTS_SysInfoType3_v830ext_IEs(ctx, &pvalue->sysInfoType3_v830ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sysInfoType3-v830ext", -1, 0);
    /* v860NonCriticalExtension */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtension");
       stat = asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension(ctx, &pvalue->v860NonCriticalExtension);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtension", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension(rtxContext* ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension* pvalue)
+int asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* sysInfoType3-v770ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType3-v770ext");
    stat = asn1PE_UMTS_SysInfoType3_v770ext_IEs(ctx, &pvalue->sysInfoType3_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sysInfoType3-v770ext", -1, 0);
    /* v830NonCriticalExtension */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v830NonCriticalExtension");
       stat = asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension(ctx, &pvalue->v830NonCriticalExtension);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "v830NonCriticalExtension", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension(rtxContext* ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension* pvalue)
+int asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* sysInfoType3-v670ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType3-v670ext");
    stat = asn1PE_UMTS_SysInfoType3_v670ext(ctx, &pvalue->sysInfoType3_v670ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sysInfoType3-v670ext", -1, 0);
    /* v770NonCriticalExtension */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtension");
       stat = asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension(ctx, &pvalue->v770NonCriticalExtension);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtension", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension(rtxContext* ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension* pvalue)
+int asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* sysInfoType3-v5c0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType3-v5c0ext");
    stat = asn1PE_UMTS_SysInfoType3_v5c0ext_IEs(ctx, &pvalue->sysInfoType3_v5c0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sysInfoType3-v5c0ext", -1, 0);
    /* v670NonCriticalExtension */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v670NonCriticalExtension");
       stat = asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension(ctx, &pvalue->v670NonCriticalExtension);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "v670NonCriticalExtension", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension* pvalue)
+int asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* sysInfoType3-v590ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType3-v590ext");
    stat = asn1PE_UMTS_SysInfoType3_v590ext(ctx, &pvalue->sysInfoType3_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sysInfoType3-v590ext", -1, 0);
    /* v5c0NoncriticalExtension */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v5c0NoncriticalExtension");
       stat = asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension(ctx, &pvalue->v5c0NoncriticalExtension);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "v5c0NoncriticalExtension", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions(rtxContext* ctx, const SysInfoType3_v4b0NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* sysInfoType3-v4b0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType3-v4b0ext");
    stat = asn1PE_UMTS_SysInfoType3_v4b0ext_IEs(ctx, &pvalue->sysInfoType3_v4b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sysInfoType3-v4b0ext", -1, 0);
    /* v590NonCriticalExtension */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtension");
       stat = asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension(ctx, &pvalue->v590NonCriticalExtension);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtension", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType3(rtxContext* ctx, const SysInfoType3* pvalue)
+int asn1PE_UMTS_SysInfoType3(rtxContext* RT_RESTRICT ctx, const SysInfoType3* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType3");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType3");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType3");
    /* sib4indicator */
-   rtxCtxtPushElemName(ctx, "sib4indicator");
    stat = rtxEncBit(ctx, pvalue->sib4indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sib4indicator", -1, "SysInfoType3");
    /* cellIdentity */
-   rtxCtxtPushElemName(ctx, "cellIdentity");
    stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->cellIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "cellIdentity", -1, "SysInfoType3");
    /* cellSelectReselectInfo */
-   rtxCtxtPushElemName(ctx, "cellSelectReselectInfo");
    stat = asn1PE_UMTS_CellSelectReselectInfoSIB_3_4(ctx, &pvalue->cellSelectReselectInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "cellSelectReselectInfo", -1, "SysInfoType3");
    /* cellAccessRestriction */
-   rtxCtxtPushElemName(ctx, "cellAccessRestriction");
    stat = asn1PE_UMTS_CellAccessRestriction(ctx, &pvalue->cellAccessRestriction);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "cellAccessRestriction", -1, "SysInfoType3");
    /* v4b0NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v4b0NonCriticalExtensions");
       stat = asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType3");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SIB_TypeAndTag(rtxContext* ctx, const SIB_TypeAndTag* pvalue)
+int asn1PE_UMTS_SIB_TypeAndTag(rtxContext* RT_RESTRICT ctx, const SIB_TypeAndTag* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SIB-TypeAndTag");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SIB-TypeAndTag");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 31) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "SIB-TypeAndTag");
+   if (pvalue->t - 1 > 31) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SIB-TypeAndTag");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "sysInfoType1");
-         rtxCtxtPushTypeName(ctx, "PLMN-ValueTag");
          if ((uint64_t)(pvalue->u.sysInfoType1 - 1) > 255u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "PLMN-ValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType1);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "PLMN-ValueTag", "sysInfoType1", -1, "SIB-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType1, 1, 256);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "PLMN-ValueTag", "sysInfoType1", -1, "SIB-TypeAndTag");
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "sysInfoType2");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.sysInfoType2 - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType2);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType2", -1, "SIB-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType2, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType2", -1, "SIB-TypeAndTag");
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "sysInfoType3");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.sysInfoType3 - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType3);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType3", -1, "SIB-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType3, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType3", -1, "SIB-TypeAndTag");
          break;
       case 4:
-         rtxCtxtPushElemName(ctx, "sysInfoType4");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.sysInfoType4 - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType4);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType4", -1, "SIB-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType4, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType4", -1, "SIB-TypeAndTag");
          break;
       case 5:
-         rtxCtxtPushElemName(ctx, "sysInfoType5");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.sysInfoType5 - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType5);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType5", -1, "SIB-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType5, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType5", -1, "SIB-TypeAndTag");
          break;
       case 6:
-         rtxCtxtPushElemName(ctx, "sysInfoType6");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.sysInfoType6 - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType6);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType6", -1, "SIB-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType6, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType6", -1, "SIB-TypeAndTag");
          break;
       case 7:
-         rtxCtxtPushElemName(ctx, "sysInfoType7");
-         rtxCtxtPopElemName(ctx);
          break;
       case 8:
-         rtxCtxtPushElemName(ctx, "dummy");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.dummy - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.dummy);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "dummy", -1, "SIB-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.dummy, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "dummy", -1, "SIB-TypeAndTag");
          break;
       case 9:
-         rtxCtxtPushElemName(ctx, "dummy2");
-         rtxCtxtPopElemName(ctx);
          break;
       case 10:
-         rtxCtxtPushElemName(ctx, "dummy3");
-         rtxCtxtPopElemName(ctx);
          break;
       case 11:
-         rtxCtxtPushElemName(ctx, "sysInfoType11");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.sysInfoType11 - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType11);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType11", -1, "SIB-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType11, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType11", -1, "SIB-TypeAndTag");
          break;
       case 12:
-         rtxCtxtPushElemName(ctx, "sysInfoType12");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.sysInfoType12 - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType12);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType12", -1, "SIB-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType12, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType12", -1, "SIB-TypeAndTag");
          break;
       case 13:
-         rtxCtxtPushElemName(ctx, "sysInfoType13");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.sysInfoType13 - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType13);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType13", -1, "SIB-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType13, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType13", -1, "SIB-TypeAndTag");
          break;
       case 14:
-         rtxCtxtPushElemName(ctx, "sysInfoType13-1");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.sysInfoType13_1 - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType13_1);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType13-1", -1, "SIB-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType13_1, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType13-1", -1, "SIB-TypeAndTag");
          break;
       case 15:
-         rtxCtxtPushElemName(ctx, "sysInfoType13-2");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.sysInfoType13_2 - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType13_2);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType13-2", -1, "SIB-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType13_2, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType13-2", -1, "SIB-TypeAndTag");
          break;
       case 16:
-         rtxCtxtPushElemName(ctx, "sysInfoType13-3");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.sysInfoType13_3 - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType13_3);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType13-3", -1, "SIB-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType13_3, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType13-3", -1, "SIB-TypeAndTag");
          break;
       case 17:
-         rtxCtxtPushElemName(ctx, "sysInfoType13-4");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.sysInfoType13_4 - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType13_4);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType13-4", -1, "SIB-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType13_4, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType13-4", -1, "SIB-TypeAndTag");
          break;
       case 18:
-         rtxCtxtPushElemName(ctx, "sysInfoType14");
-         rtxCtxtPopElemName(ctx);
          break;
       case 19:
-         rtxCtxtPushElemName(ctx, "sysInfoType15");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.sysInfoType15 - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType15);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType15", -1, "SIB-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType15, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType15", -1, "SIB-TypeAndTag");
          break;
       case 20:
-         rtxCtxtPushElemName(ctx, "sysInfoType16");
-         if (pvalue->u.sysInfoType16 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.sysInfoType16 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sysInfoType16", -1, "SIB-TypeAndTag");
          stat = asn1PE_UMTS_PredefinedConfigIdentityAndValueTag(ctx, pvalue->u.sysInfoType16);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "sysInfoType16", -1, "SIB-TypeAndTag");
          break;
       case 21:
-         rtxCtxtPushElemName(ctx, "sysInfoType17");
-         rtxCtxtPopElemName(ctx);
          break;
       case 22:
-         rtxCtxtPushElemName(ctx, "sysInfoType15-1");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.sysInfoType15_1 - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType15_1);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType15-1", -1, "SIB-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType15_1, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType15-1", -1, "SIB-TypeAndTag");
          break;
       case 23:
-         rtxCtxtPushElemName(ctx, "sysInfoType15-2");
-         if (pvalue->u.sysInfoType15_2 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.sysInfoType15_2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sysInfoType15-2", -1, "SIB-TypeAndTag");
          stat = asn1PE_UMTS_SIBOccurrenceIdentityAndValueTag(ctx, pvalue->u.sysInfoType15_2);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "sysInfoType15-2", -1, "SIB-TypeAndTag");
          break;
       case 24:
-         rtxCtxtPushElemName(ctx, "sysInfoType15-3");
-         if (pvalue->u.sysInfoType15_3 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.sysInfoType15_3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sysInfoType15-3", -1, "SIB-TypeAndTag");
          stat = asn1PE_UMTS_SIBOccurrenceIdentityAndValueTag(ctx, pvalue->u.sysInfoType15_3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "sysInfoType15-3", -1, "SIB-TypeAndTag");
          break;
       case 25:
-         rtxCtxtPushElemName(ctx, "sysInfoType15-4");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.sysInfoType15_4 - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType15_4);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType15-4", -1, "SIB-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType15_4, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType15-4", -1, "SIB-TypeAndTag");
          break;
       case 26:
-         rtxCtxtPushElemName(ctx, "sysInfoType18");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.sysInfoType18 - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType18);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType18", -1, "SIB-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType18, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType18", -1, "SIB-TypeAndTag");
          break;
       case 27:
-         rtxCtxtPushElemName(ctx, "sysInfoType15-5");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.sysInfoType15_5 - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType15_5);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType15-5", -1, "SIB-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType15_5, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType15-5", -1, "SIB-TypeAndTag");
          break;
       case 28:
-         rtxCtxtPushElemName(ctx, "sysInfoType5bis");
-         rtxCtxtPushTypeName(ctx, "CellValueTag");
          if ((uint64_t)(pvalue->u.sysInfoType5bis - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType5bis);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType5bis", -1, "SIB-TypeAndTag");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType5bis, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType5bis", -1, "SIB-TypeAndTag");
          break;
       case 29:
-         rtxCtxtPushElemName(ctx, "spare4");
-         rtxCtxtPopElemName(ctx);
          break;
       case 30:
-         rtxCtxtPushElemName(ctx, "spare3");
-         rtxCtxtPopElemName(ctx);
          break;
       case 31:
-         rtxCtxtPushElemName(ctx, "spare2");
-         rtxCtxtPopElemName(ctx);
          break;
       case 32:
-         rtxCtxtPushElemName(ctx, "spare1");
-         rtxCtxtPopElemName(ctx);
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SchedulingInformationSIB(rtxContext* ctx, const SchedulingInformationSIB* pvalue)
+int asn1PE_UMTS_SchedulingInformationSIB(rtxContext* RT_RESTRICT ctx, const SchedulingInformationSIB* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SchedulingInformationSIB");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SchedulingInformationSIB");
    /* sib-Type */
-   rtxCtxtPushElemName(ctx, "sib-Type");
    stat = asn1PE_UMTS_SIB_TypeAndTag(ctx, &pvalue->sib_Type);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sib-Type", -1, "SchedulingInformationSIB");
    /* scheduling */
-   rtxCtxtPushElemName(ctx, "scheduling");
    stat = asn1PE_UMTS_SchedulingInformation(ctx, &pvalue->scheduling);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "scheduling", -1, "SchedulingInformationSIB");
    return 0;
 }
 
-int asn1PE_UMTS_SIB_ReferenceList(rtxContext* ctx, const SIB_ReferenceList* pvalue)
+int asn1PE_UMTS_SIB_ReferenceList(rtxContext* RT_RESTRICT ctx, const SIB_ReferenceList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SIB-ReferenceList");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "SIB-ReferenceList");
    RT_SET_SIZE(ctx, 1, 32);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SIB-ReferenceList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "SchedulingInformationSIB", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "SchedulingInformationSIB", (int32_t)i, "SIB-ReferenceList");
       stat = asn1PE_UMTS_SchedulingInformationSIB(ctx, (const SchedulingInformationSIB*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "SchedulingInformationSIB", (int32_t)i, "SIB-ReferenceList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoTypeSB1_v6b0ext(rtxContext* ctx, const SysInfoTypeSB1_v6b0ext* pvalue)
+int asn1PE_UMTS_SysInfoTypeSB1_v6b0ext(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB1_v6b0ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoTypeSB1-v6b0ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoTypeSB1-v6b0ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoTypeSB1-v6b0ext");
    /* extSIBTypeInfoSchedulingInfo-List */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "extSIBTypeInfoSchedulingInfo-List");
       stat = asn1PE_UMTS_ExtSIBTypeInfoSchedulingInfo_List(ctx, &pvalue->extSIBTypeInfoSchedulingInfo_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "extSIBTypeInfoSchedulingInfo-List", -1, "SysInfoTypeSB1-v6b0ext");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoTypeSB1_v860ext(rtxContext* ctx, const SysInfoTypeSB1_v860ext* pvalue)
+int asn1PE_UMTS_SysInfoTypeSB1_v860ext(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB1_v860ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoTypeSB1-v860ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoTypeSB1-v860ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoTypeSB1-v860ext");
    /* extSIBTypeInfoSchedulingInfo-List */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "extSIBTypeInfoSchedulingInfo-List");
       stat = asn1PE_UMTS_ExtSIBTypeInfoSchedulingInfo_List2(ctx, &pvalue->extSIBTypeInfoSchedulingInfo_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "extSIBTypeInfoSchedulingInfo-List", -1, "SysInfoTypeSB1-v860ext");
    }
    /* extGANSS-SIBTypeInfoSchedulingInfoList */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "extGANSS-SIBTypeInfoSchedulingInfoList");
       stat = asn1PE_UMTS_ExtGANSS_SIBTypeInfoSchedulingInfoList(ctx, &pvalue->extGANSS_SIBTypeInfoSchedulingInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "extGANSS-SIBTypeInfoSchedulingInfoList", -1, "SysInfoTypeSB1-v860ext");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* pvalue)
+int asn1PE_UMTS_SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* ctx, const SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* sysInfoTypeSB1-v860ext */
-   rtxCtxtPushElemName(ctx, "sysInfoTypeSB1-v860ext");
    stat = asn1PE_UMTS_SysInfoTypeSB1_v860ext(ctx, &pvalue->sysInfoTypeSB1_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sysInfoTypeSB1-v860ext", -1, 0);
    /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
       stat = asn1PE_UMTS_SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoTypeSB1_v6b0NonCriticalExtensions(rtxContext* ctx, const SysInfoTypeSB1_v6b0NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_SysInfoTypeSB1_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB1_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* sysInfoTypeSB1-v6b0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoTypeSB1-v6b0ext");
    stat = asn1PE_UMTS_SysInfoTypeSB1_v6b0ext(ctx, &pvalue->sysInfoTypeSB1_v6b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sysInfoTypeSB1-v6b0ext", -1, 0);
    /* v860NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtensions");
       stat = asn1PE_UMTS_SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoTypeSB1(rtxContext* ctx, const SysInfoTypeSB1* pvalue)
+int asn1PE_UMTS_SysInfoTypeSB1(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB1* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoTypeSB1");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoTypeSB1");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoTypeSB1");
    /* sib-ReferenceList */
-   rtxCtxtPushElemName(ctx, "sib-ReferenceList");
    stat = asn1PE_UMTS_SIB_ReferenceList(ctx, &pvalue->sib_ReferenceList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sib-ReferenceList", -1, "SysInfoTypeSB1");
    /* v6b0NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v6b0NonCriticalExtensions");
       stat = asn1PE_UMTS_SysInfoTypeSB1_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, "SysInfoTypeSB1");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoTypeSB2_v6b0ext(rtxContext* ctx, const SysInfoTypeSB2_v6b0ext* pvalue)
+int asn1PE_UMTS_SysInfoTypeSB2_v6b0ext(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB2_v6b0ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoTypeSB2-v6b0ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoTypeSB2-v6b0ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoTypeSB2-v6b0ext");
    /* extSIBTypeInfoSchedulingInfo-List */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "extSIBTypeInfoSchedulingInfo-List");
       stat = asn1PE_UMTS_ExtSIBTypeInfoSchedulingInfo_List(ctx, &pvalue->extSIBTypeInfoSchedulingInfo_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "extSIBTypeInfoSchedulingInfo-List", -1, "SysInfoTypeSB2-v6b0ext");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoTypeSB2_v860ext(rtxContext* ctx, const SysInfoTypeSB2_v860ext* pvalue)
+int asn1PE_UMTS_SysInfoTypeSB2_v860ext(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB2_v860ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoTypeSB2-v860ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoTypeSB2-v860ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoTypeSB2-v860ext");
    /* extSIBTypeInfoSchedulingInfo-List */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "extSIBTypeInfoSchedulingInfo-List");
       stat = asn1PE_UMTS_ExtSIBTypeInfoSchedulingInfo_List2(ctx, &pvalue->extSIBTypeInfoSchedulingInfo_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "extSIBTypeInfoSchedulingInfo-List", -1, "SysInfoTypeSB2-v860ext");
    }
    /* extGANSS-SIBTypeInfoSchedulingInfoList */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "extGANSS-SIBTypeInfoSchedulingInfoList");
       stat = asn1PE_UMTS_ExtGANSS_SIBTypeInfoSchedulingInfoList(ctx, &pvalue->extGANSS_SIBTypeInfoSchedulingInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "extGANSS-SIBTypeInfoSchedulingInfoList", -1, "SysInfoTypeSB2-v860ext");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* pvalue)
+int asn1PE_UMTS_SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* ctx, const SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* sysInfoTypeSB2-v860ext */
-   rtxCtxtPushElemName(ctx, "sysInfoTypeSB2-v860ext");
    stat = asn1PE_UMTS_SysInfoTypeSB2_v860ext(ctx, &pvalue->sysInfoTypeSB2_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sysInfoTypeSB2-v860ext", -1, 0);
    /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
       stat = asn1PE_UMTS_SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoTypeSB2_v6b0NonCriticalExtensions(rtxContext* ctx, const SysInfoTypeSB2_v6b0NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_SysInfoTypeSB2_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB2_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* sysInfoTypeSB2-v6b0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoTypeSB2-v6b0ext");
    stat = asn1PE_UMTS_SysInfoTypeSB2_v6b0ext(ctx, &pvalue->sysInfoTypeSB2_v6b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sysInfoTypeSB2-v6b0ext", -1, 0);
    /* v860NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtensions");
       stat = asn1PE_UMTS_SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoTypeSB2(rtxContext* ctx, const SysInfoTypeSB2* pvalue)
+int asn1PE_UMTS_SysInfoTypeSB2(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB2* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoTypeSB2");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoTypeSB2");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoTypeSB2");
    /* sib-ReferenceList */
-   rtxCtxtPushElemName(ctx, "sib-ReferenceList");
    stat = asn1PE_UMTS_SIB_ReferenceList(ctx, &pvalue->sib_ReferenceList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sib-ReferenceList", -1, "SysInfoTypeSB2");
    /* v6b0NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v6b0NonCriticalExtensions");
       stat = asn1PE_UMTS_SysInfoTypeSB2_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, "SysInfoTypeSB2");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_NAS_SystemInformationGSM_MAP(rtxContext* ctx, const NAS_SystemInformationGSM_MAP* pvalue)
+int asn1PE_UMTS_NAS_SystemInformationGSM_MAP(rtxContext* RT_RESTRICT ctx, const NAS_SystemInformationGSM_MAP* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NAS-SystemInformationGSM-MAP");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NAS-SystemInformationGSM-MAP");
    RT_SET_SIZE(ctx, 1, 8);
    stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NAS-SystemInformationGSM-MAP");
    return 0;
 }
 
-int asn1PE_UMTS_CN_DomainIdentity(rtxContext* ctx, CN_DomainIdentity value)
+int asn1PE_UMTS_CN_DomainIdentity(rtxContext* RT_RESTRICT ctx, CN_DomainIdentity value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CN-DomainIdentity");
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "CN-DomainIdentity");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CN-DomainIdentity");
    return 0;
 }
 
-int asn1PE_UMTS_ANSI_41_NAS_Parameter(rtxContext* ctx, const ANSI_41_NAS_Parameter* pvalue)
+int asn1PE_UMTS_ANSI_41_NAS_Parameter(rtxContext* RT_RESTRICT ctx, const ANSI_41_NAS_Parameter* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ANSI-41-NAS-Parameter");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ANSI-41-NAS-Parameter");
    RT_SET_SIZE(ctx, 1, 2048);
    stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ANSI-41-NAS-Parameter");
    return 0;
 }
 
-int asn1PE_UMTS_NAS_SystemInformationANSI_41(rtxContext* ctx, const NAS_SystemInformationANSI_41* pvalue)
+int asn1PE_UMTS_NAS_SystemInformationANSI_41(rtxContext* RT_RESTRICT ctx, const NAS_SystemInformationANSI_41* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NAS-SystemInformationANSI-41");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NAS-SystemInformationANSI-41");
    stat = asn1PE_UMTS_ANSI_41_NAS_Parameter(ctx, pvalue);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NAS-SystemInformationANSI-41");
    return 0;
 }
 
-int asn1PE_UMTS_CN_DomainSysInfo_cn_Type(rtxContext* ctx, const CN_DomainSysInfo_cn_Type* pvalue)
+int asn1PE_UMTS_CN_DomainSysInfo_cn_Type(rtxContext* RT_RESTRICT ctx, const CN_DomainSysInfo_cn_Type* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "gsm-MAP");
-         if (pvalue->u.gsm_MAP == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.gsm_MAP == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm-MAP", -1, 0);
          stat = asn1PE_UMTS_NAS_SystemInformationGSM_MAP(ctx, pvalue->u.gsm_MAP);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "gsm-MAP", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "ansi-41");
-         if (pvalue->u.ansi_41 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.ansi_41 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ansi-41", -1, 0);
          stat = asn1PE_UMTS_NAS_SystemInformationANSI_41(ctx, pvalue->u.ansi_41);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "ansi-41", -1, 0);
          break;
       default:
          break;
@@ -5482,399 +4162,336 @@ int asn1PE_UMTS_CN_DomainSysInfo_cn_Type(rtxContext* ctx, const CN_DomainSysInfo
    return 0;
 }
 
-int asn1PE_UMTS_CN_DRX_CycleLengthCoefficient(rtxContext* ctx, CN_DRX_CycleLengthCoefficient value)
+int asn1PE_UMTS_CN_DRX_CycleLengthCoefficient(rtxContext* RT_RESTRICT ctx, CN_DRX_CycleLengthCoefficient value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CN-DRX-CycleLengthCoefficient");
    if ((uint64_t)(value - 6) > 3u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "CN-DRX-CycleLengthCoefficient");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "CN-DRX-CycleLengthCoefficient");
    }
    stat = pe_ConsUInt64(ctx, value, 6, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CN-DRX-CycleLengthCoefficient");
    return 0;
 }
 
-int asn1PE_UMTS_CN_DomainSysInfo(rtxContext* ctx, const CN_DomainSysInfo* pvalue)
+int asn1PE_UMTS_CN_DomainSysInfo(rtxContext* RT_RESTRICT ctx, const CN_DomainSysInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CN-DomainSysInfo");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CN-DomainSysInfo");
    /* cn-DomainIdentity */
-   rtxCtxtPushElemName(ctx, "cn-DomainIdentity");
-   rtxCtxtPushTypeName(ctx, "CN-DomainIdentity");
    if (pvalue->cn_DomainIdentity > 1) {
       rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "CN-DomainSysInfo");
    }
    stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "CN-DomainSysInfo");
    /* cn-Type */
-   rtxCtxtPushElemName(ctx, "cn-Type");
    stat = asn1PE_UMTS_CN_DomainSysInfo_cn_Type(ctx, &pvalue->cn_Type);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "cn-Type", -1, "CN-DomainSysInfo");
    /* cn-DRX-CycleLengthCoeff */
-   rtxCtxtPushElemName(ctx, "cn-DRX-CycleLengthCoeff");
-   rtxCtxtPushTypeName(ctx, "CN-DRX-CycleLengthCoefficient");
    if ((uint64_t)(pvalue->cn_DRX_CycleLengthCoeff - 6) > 3u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "CN-DRX-CycleLengthCoefficient");
       rtxErrAddUIntParm(ctx, pvalue->cn_DRX_CycleLengthCoeff);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "CN-DRX-CycleLengthCoefficient", "cn-DRX-CycleLengthCoeff", -1, "CN-DomainSysInfo");
    }
    stat = pe_ConsUInt64(ctx, pvalue->cn_DRX_CycleLengthCoeff, 6, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "CN-DRX-CycleLengthCoefficient", "cn-DRX-CycleLengthCoeff", -1, "CN-DomainSysInfo");
    return 0;
 }
 
-int asn1PE_UMTS_CN_DomainSysInfoList(rtxContext* ctx, const CN_DomainSysInfoList* pvalue)
+int asn1PE_UMTS_CN_DomainSysInfoList(rtxContext* RT_RESTRICT ctx, const CN_DomainSysInfoList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CN-DomainSysInfoList");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "CN-DomainSysInfoList");
    RT_SET_SIZE(ctx, 1, 4);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CN-DomainSysInfoList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "CN-DomainSysInfo", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CN-DomainSysInfo", (int32_t)i, "CN-DomainSysInfoList");
       stat = asn1PE_UMTS_CN_DomainSysInfo(ctx, (const CN_DomainSysInfo*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "CN-DomainSysInfo", (int32_t)i, "CN-DomainSysInfoList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_T_301(rtxContext* ctx, T_301 value)
+int asn1PE_UMTS_T_301(rtxContext* RT_RESTRICT ctx, T_301 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "T-301");
    if (value > 15) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-301");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "T-301");
    return 0;
 }
 
-int asn1PE_UMTS_N_301(rtxContext* ctx, N_301 value)
+int asn1PE_UMTS_N_301(rtxContext* RT_RESTRICT ctx, N_301 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "N-301");
    if ((uint64_t)value > 7u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "N-301");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "N-301");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "N-301");
    return 0;
 }
 
-int asn1PE_UMTS_T_302(rtxContext* ctx, T_302 value)
+int asn1PE_UMTS_T_302(rtxContext* RT_RESTRICT ctx, T_302 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "T-302");
    if (value > 15) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-302");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "T-302");
    return 0;
 }
 
-int asn1PE_UMTS_N_302(rtxContext* ctx, N_302 value)
+int asn1PE_UMTS_N_302(rtxContext* RT_RESTRICT ctx, N_302 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "N-302");
    if ((uint64_t)value > 7u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "N-302");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "N-302");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "N-302");
    return 0;
 }
 
-int asn1PE_UMTS_T_304(rtxContext* ctx, T_304 value)
+int asn1PE_UMTS_T_304(rtxContext* RT_RESTRICT ctx, T_304 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "T-304");
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-304");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "T-304");
    return 0;
 }
 
-int asn1PE_UMTS_N_304(rtxContext* ctx, N_304 value)
+int asn1PE_UMTS_N_304(rtxContext* RT_RESTRICT ctx, N_304 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "N-304");
    if ((uint64_t)value > 7u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "N-304");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "N-304");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "N-304");
    return 0;
 }
 
-int asn1PE_UMTS_T_305(rtxContext* ctx, T_305 value)
+int asn1PE_UMTS_T_305(rtxContext* RT_RESTRICT ctx, T_305 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "T-305");
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-305");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "T-305");
    return 0;
 }
 
-int asn1PE_UMTS_T_307(rtxContext* ctx, T_307 value)
+int asn1PE_UMTS_T_307(rtxContext* RT_RESTRICT ctx, T_307 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "T-307");
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-307");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "T-307");
    return 0;
 }
 
-int asn1PE_UMTS_T_308(rtxContext* ctx, T_308 value)
+int asn1PE_UMTS_T_308(rtxContext* RT_RESTRICT ctx, T_308 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "T-308");
    if (value > 3) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-308");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "T-308");
    return 0;
 }
 
-int asn1PE_UMTS_T_309(rtxContext* ctx, T_309 value)
+int asn1PE_UMTS_T_309(rtxContext* RT_RESTRICT ctx, T_309 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "T-309");
    if ((uint64_t)(value - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "T-309");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "T-309");
    }
    stat = pe_ConsUInt64(ctx, value, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "T-309");
    return 0;
 }
 
-int asn1PE_UMTS_T_310(rtxContext* ctx, T_310 value)
+int asn1PE_UMTS_T_310(rtxContext* RT_RESTRICT ctx, T_310 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "T-310");
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-310");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "T-310");
    return 0;
 }
 
-int asn1PE_UMTS_N_310(rtxContext* ctx, N_310 value)
+int asn1PE_UMTS_N_310(rtxContext* RT_RESTRICT ctx, N_310 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "N-310");
    if ((uint64_t)value > 7u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "N-310");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "N-310");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "N-310");
    return 0;
 }
 
-int asn1PE_UMTS_T_311(rtxContext* ctx, T_311 value)
+int asn1PE_UMTS_T_311(rtxContext* RT_RESTRICT ctx, T_311 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "T-311");
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-311");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "T-311");
    return 0;
 }
 
-int asn1PE_UMTS_T_312(rtxContext* ctx, T_312 value)
+int asn1PE_UMTS_T_312(rtxContext* RT_RESTRICT ctx, T_312 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "T-312");
    if ((uint64_t)value > 15u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "T-312");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "T-312");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "T-312");
    return 0;
 }
 
-int asn1PE_UMTS_N_312(rtxContext* ctx, N_312 value)
+int asn1PE_UMTS_N_312(rtxContext* RT_RESTRICT ctx, N_312 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "N-312");
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "N-312");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "N-312");
    return 0;
 }
 
-int asn1PE_UMTS_T_313(rtxContext* ctx, T_313 value)
+int asn1PE_UMTS_T_313(rtxContext* RT_RESTRICT ctx, T_313 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "T-313");
    if ((uint64_t)value > 15u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "T-313");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "T-313");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "T-313");
    return 0;
 }
 
-int asn1PE_UMTS_N_313(rtxContext* ctx, N_313 value)
+int asn1PE_UMTS_N_313(rtxContext* RT_RESTRICT ctx, N_313 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "N-313");
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "N-313");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "N-313");
    return 0;
 }
 
-int asn1PE_UMTS_T_314(rtxContext* ctx, T_314 value)
+int asn1PE_UMTS_T_314(rtxContext* RT_RESTRICT ctx, T_314 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "T-314");
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-314");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "T-314");
    return 0;
 }
 
-int asn1PE_UMTS_T_315(rtxContext* ctx, T_315 value)
+int asn1PE_UMTS_T_315(rtxContext* RT_RESTRICT ctx, T_315 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "T-315");
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-315");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "T-315");
    return 0;
 }
 
-int asn1PE_UMTS_N_315(rtxContext* ctx, N_315 value)
+int asn1PE_UMTS_N_315(rtxContext* RT_RESTRICT ctx, N_315 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "N-315");
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "N-315");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "N-315");
    return 0;
 }
 
-int asn1PE_UMTS_T_316(rtxContext* ctx, T_316 value)
+int asn1PE_UMTS_T_316(rtxContext* RT_RESTRICT ctx, T_316 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "T-316");
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-316");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "T-316");
    return 0;
 }
 
-int asn1PE_UMTS_T_317(rtxContext* ctx, T_317 value)
+int asn1PE_UMTS_T_317(rtxContext* RT_RESTRICT ctx, T_317 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "T-317");
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-317");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "T-317");
    return 0;
 }
 
-int asn1PE_UMTS_UE_ConnTimersAndConstants(rtxContext* ctx, const UE_ConnTimersAndConstants* pvalue)
+int asn1PE_UMTS_UE_ConnTimersAndConstants(rtxContext* RT_RESTRICT ctx, const UE_ConnTimersAndConstants* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-ConnTimersAndConstants");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-ConnTimersAndConstants");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->t_301 != 10) << 21) |
       ((uint64_t)(pvalue->n_301 != 2) << 20) |
@@ -5898,763 +4515,570 @@ int asn1PE_UMTS_UE_ConnTimersAndConstants(rtxContext* ctx, const UE_ConnTimersAn
       ((uint64_t)(pvalue->n_315 != 0) << 2) |
       ((uint64_t)(pvalue->t_316 != 3) << 1) |
       ((uint64_t)(pvalue->t_317 != 4) << 0), 22);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-ConnTimersAndConstants");
    /* t-301 */
    if (pvalue->t_301 != 10) {
-      rtxCtxtPushElemName(ctx, "t-301");
-      rtxCtxtPushTypeName(ctx, "T-301");
       if (pvalue->t_301 > 15) {
          rtxErrAddUIntParm(ctx, pvalue->t_301);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "T-301", "t-301", -1, "UE-ConnTimersAndConstants");
       }
       stat = pe_ConsUInt64(ctx, pvalue->t_301, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "T-301", "t-301", -1, "UE-ConnTimersAndConstants");
    }
    /* n-301 */
    if (pvalue->n_301 != 2) {
-      rtxCtxtPushElemName(ctx, "n-301");
-      rtxCtxtPushTypeName(ctx, "N-301");
       if ((uint64_t)pvalue->n_301 > 7u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "N-301");
          rtxErrAddUIntParm(ctx, pvalue->n_301);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "N-301", "n-301", -1, "UE-ConnTimersAndConstants");
       }
       stat = pe_ConsUInt64(ctx, pvalue->n_301, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "N-301", "n-301", -1, "UE-ConnTimersAndConstants");
    }
    /* t-302 */
    if (pvalue->t_302 != 12) {
-      rtxCtxtPushElemName(ctx, "t-302");
-      rtxCtxtPushTypeName(ctx, "T-302");
       if (pvalue->t_302 > 15) {
          rtxErrAddUIntParm(ctx, pvalue->t_302);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "T-302", "t-302", -1, "UE-ConnTimersAndConstants");
       }
       stat = pe_ConsUInt64(ctx, pvalue->t_302, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "T-302", "t-302", -1, "UE-ConnTimersAndConstants");
    }
    /* n-302 */
    if (pvalue->n_302 != 3) {
-      rtxCtxtPushElemName(ctx, "n-302");
-      rtxCtxtPushTypeName(ctx, "N-302");
       if ((uint64_t)pvalue->n_302 > 7u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "N-302");
          rtxErrAddUIntParm(ctx, pvalue->n_302);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "N-302", "n-302", -1, "UE-ConnTimersAndConstants");
       }
       stat = pe_ConsUInt64(ctx, pvalue->n_302, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "N-302", "n-302", -1, "UE-ConnTimersAndConstants");
    }
    /* t-304 */
    if (pvalue->t_304 != 4) {
-      rtxCtxtPushElemName(ctx, "t-304");
-      rtxCtxtPushTypeName(ctx, "T-304");
       if (pvalue->t_304 > 7) {
          rtxErrAddUIntParm(ctx, pvalue->t_304);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "T-304", "t-304", -1, "UE-ConnTimersAndConstants");
       }
       stat = pe_ConsUInt64(ctx, pvalue->t_304, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "T-304", "t-304", -1, "UE-ConnTimersAndConstants");
    }
    /* n-304 */
    if (pvalue->n_304 != 2) {
-      rtxCtxtPushElemName(ctx, "n-304");
-      rtxCtxtPushTypeName(ctx, "N-304");
       if ((uint64_t)pvalue->n_304 > 7u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "N-304");
          rtxErrAddUIntParm(ctx, pvalue->n_304);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "N-304", "n-304", -1, "UE-ConnTimersAndConstants");
       }
       stat = pe_ConsUInt64(ctx, pvalue->n_304, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "N-304", "n-304", -1, "UE-ConnTimersAndConstants");
    }
    /* t-305 */
    if (pvalue->t_305 != 3) {
-      rtxCtxtPushElemName(ctx, "t-305");
-      rtxCtxtPushTypeName(ctx, "T-305");
       if (pvalue->t_305 > 7) {
          rtxErrAddUIntParm(ctx, pvalue->t_305);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "T-305", "t-305", -1, "UE-ConnTimersAndConstants");
       }
       stat = pe_ConsUInt64(ctx, pvalue->t_305, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "T-305", "t-305", -1, "UE-ConnTimersAndConstants");
    }
    /* t-307 */
    if (pvalue->t_307 != 4) {
-      rtxCtxtPushElemName(ctx, "t-307");
-      rtxCtxtPushTypeName(ctx, "T-307");
       if (pvalue->t_307 > 7) {
          rtxErrAddUIntParm(ctx, pvalue->t_307);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "T-307", "t-307", -1, "UE-ConnTimersAndConstants");
       }
       stat = pe_ConsUInt64(ctx, pvalue->t_307, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "T-307", "t-307", -1, "UE-ConnTimersAndConstants");
    }
    /* t-308 */
    if (pvalue->t_308 != 2) {
-      rtxCtxtPushElemName(ctx, "t-308");
-      rtxCtxtPushTypeName(ctx, "T-308");
       if (pvalue->t_308 > 3) {
          rtxErrAddUIntParm(ctx, pvalue->t_308);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "T-308", "t-308", -1, "UE-ConnTimersAndConstants");
       }
       stat = pe_ConsUInt64(ctx, pvalue->t_308, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "T-308", "t-308", -1, "UE-ConnTimersAndConstants");
    }
    /* t-309 */
    if (pvalue->t_309 != 5) {
-      rtxCtxtPushElemName(ctx, "t-309");
-      rtxCtxtPushTypeName(ctx, "T-309");
       if ((uint64_t)(pvalue->t_309 - 1) > 7u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "T-309");
          rtxErrAddUIntParm(ctx, pvalue->t_309);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "T-309", "t-309", -1, "UE-ConnTimersAndConstants");
       }
       stat = pe_ConsUInt64(ctx, pvalue->t_309, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "T-309", "t-309", -1, "UE-ConnTimersAndConstants");
    }
    /* t-310 */
    if (pvalue->t_310 != 3) {
-      rtxCtxtPushElemName(ctx, "t-310");
-      rtxCtxtPushTypeName(ctx, "T-310");
       if (pvalue->t_310 > 7) {
          rtxErrAddUIntParm(ctx, pvalue->t_310);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "T-310", "t-310", -1, "UE-ConnTimersAndConstants");
       }
       stat = pe_ConsUInt64(ctx, pvalue->t_310, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "T-310", "t-310", -1, "UE-ConnTimersAndConstants");
    }
    /* n-310 */
    if (pvalue->n_310 != 4) {
-      rtxCtxtPushElemName(ctx, "n-310");
-      rtxCtxtPushTypeName(ctx, "N-310");
       if ((uint64_t)pvalue->n_310 > 7u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "N-310");
          rtxErrAddUIntParm(ctx, pvalue->n_310);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "N-310", "n-310", -1, "UE-ConnTimersAndConstants");
       }
       stat = pe_ConsUInt64(ctx, pvalue->n_310, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "N-310", "n-310", -1, "UE-ConnTimersAndConstants");
    }
    /* t-311 */
    if (pvalue->t_311 != 7) {
-      rtxCtxtPushElemName(ctx, "t-311");
-      rtxCtxtPushTypeName(ctx, "T-311");
       if (pvalue->t_311 > 7) {
          rtxErrAddUIntParm(ctx, pvalue->t_311);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "T-311", "t-311", -1, "UE-ConnTimersAndConstants");
       }
       stat = pe_ConsUInt64(ctx, pvalue->t_311, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "T-311", "t-311", -1, "UE-ConnTimersAndConstants");
    }
    /* t-312 */
    if (pvalue->t_312 != 1) {
-      rtxCtxtPushElemName(ctx, "t-312");
-      rtxCtxtPushTypeName(ctx, "T-312");
       if ((uint64_t)pvalue->t_312 > 15u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "T-312");
          rtxErrAddUIntParm(ctx, pvalue->t_312);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "T-312", "t-312", -1, "UE-ConnTimersAndConstants");
       }
       stat = pe_ConsUInt64(ctx, pvalue->t_312, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "T-312", "t-312", -1, "UE-ConnTimersAndConstants");
    }
    /* n-312 */
    if (pvalue->n_312 != 0) {
-      rtxCtxtPushElemName(ctx, "n-312");
-      rtxCtxtPushTypeName(ctx, "N-312");
       if (pvalue->n_312 > 7) {
          rtxErrAddUIntParm(ctx, pvalue->n_312);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "N-312", "n-312", -1, "UE-ConnTimersAndConstants");
       }
       stat = pe_ConsUInt64(ctx, pvalue->n_312, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "N-312", "n-312", -1, "UE-ConnTimersAndConstants");
    }
    /* t-313 */
    if (pvalue->t_313 != 3) {
-      rtxCtxtPushElemName(ctx, "t-313");
-      rtxCtxtPushTypeName(ctx, "T-313");
       if ((uint64_t)pvalue->t_313 > 15u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "T-313");
          rtxErrAddUIntParm(ctx, pvalue->t_313);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "T-313", "t-313", -1, "UE-ConnTimersAndConstants");
       }
       stat = pe_ConsUInt64(ctx, pvalue->t_313, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "T-313", "t-313", -1, "UE-ConnTimersAndConstants");
    }
    /* n-313 */
    if (pvalue->n_313 != 4) {
-      rtxCtxtPushElemName(ctx, "n-313");
-      rtxCtxtPushTypeName(ctx, "N-313");
       if (pvalue->n_313 > 7) {
          rtxErrAddUIntParm(ctx, pvalue->n_313);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "N-313", "n-313", -1, "UE-ConnTimersAndConstants");
       }
       stat = pe_ConsUInt64(ctx, pvalue->n_313, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "N-313", "n-313", -1, "UE-ConnTimersAndConstants");
    }
    /* t-314 */
    if (pvalue->t_314 != 5) {
-      rtxCtxtPushElemName(ctx, "t-314");
-      rtxCtxtPushTypeName(ctx, "T-314");
       if (pvalue->t_314 > 7) {
          rtxErrAddUIntParm(ctx, pvalue->t_314);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "T-314", "t-314", -1, "UE-ConnTimersAndConstants");
       }
       stat = pe_ConsUInt64(ctx, pvalue->t_314, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "T-314", "t-314", -1, "UE-ConnTimersAndConstants");
    }
    /* t-315 */
    if (pvalue->t_315 != 4) {
-      rtxCtxtPushElemName(ctx, "t-315");
-      rtxCtxtPushTypeName(ctx, "T-315");
       if (pvalue->t_315 > 7) {
          rtxErrAddUIntParm(ctx, pvalue->t_315);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "T-315", "t-315", -1, "UE-ConnTimersAndConstants");
       }
       stat = pe_ConsUInt64(ctx, pvalue->t_315, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "T-315", "t-315", -1, "UE-ConnTimersAndConstants");
    }
    /* n-315 */
    if (pvalue->n_315 != 0) {
-      rtxCtxtPushElemName(ctx, "n-315");
-      rtxCtxtPushTypeName(ctx, "N-315");
       if (pvalue->n_315 > 7) {
          rtxErrAddUIntParm(ctx, pvalue->n_315);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "N-315", "n-315", -1, "UE-ConnTimersAndConstants");
       }
       stat = pe_ConsUInt64(ctx, pvalue->n_315, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "N-315", "n-315", -1, "UE-ConnTimersAndConstants");
    }
    /* t-316 */
    if (pvalue->t_316 != 3) {
-      rtxCtxtPushElemName(ctx, "t-316");
-      rtxCtxtPushTypeName(ctx, "T-316");
       if (pvalue->t_316 > 7) {
          rtxErrAddUIntParm(ctx, pvalue->t_316);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "T-316", "t-316", -1, "UE-ConnTimersAndConstants");
       }
       stat = pe_ConsUInt64(ctx, pvalue->t_316, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "T-316", "t-316", -1, "UE-ConnTimersAndConstants");
    }
    /* t-317 */
    if (pvalue->t_317 != 4) {
-      rtxCtxtPushElemName(ctx, "t-317");
-      rtxCtxtPushTypeName(ctx, "T-317");
       if (pvalue->t_317 > 7) {
          rtxErrAddUIntParm(ctx, pvalue->t_317);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "T-317", "t-317", -1, "UE-ConnTimersAndConstants");
       }
       stat = pe_ConsUInt64(ctx, pvalue->t_317, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "T-317", "t-317", -1, "UE-ConnTimersAndConstants");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_T_300(rtxContext* ctx, T_300 value)
+int asn1PE_UMTS_T_300(rtxContext* RT_RESTRICT ctx, T_300 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "T-300");
    if (value > 14) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-300");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "T-300");
    return 0;
 }
 
-int asn1PE_UMTS_N_300(rtxContext* ctx, N_300 value)
+int asn1PE_UMTS_N_300(rtxContext* RT_RESTRICT ctx, N_300 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "N-300");
    if ((uint64_t)value > 7u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "N-300");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "N-300");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "N-300");
    return 0;
 }
 
-int asn1PE_UMTS_UE_IdleTimersAndConstants(rtxContext* ctx, const UE_IdleTimersAndConstants* pvalue)
+int asn1PE_UMTS_UE_IdleTimersAndConstants(rtxContext* RT_RESTRICT ctx, const UE_IdleTimersAndConstants* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-IdleTimersAndConstants");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-IdleTimersAndConstants");
    /* t-300 */
-   rtxCtxtPushElemName(ctx, "t-300");
-   rtxCtxtPushTypeName(ctx, "T-300");
    if (pvalue->t_300 > 14) {
       rtxErrAddUIntParm(ctx, pvalue->t_300);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "T-300", "t-300", -1, "UE-IdleTimersAndConstants");
    }
    stat = pe_ConsUInt64(ctx, pvalue->t_300, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "T-300", "t-300", -1, "UE-IdleTimersAndConstants");
    /* n-300 */
-   rtxCtxtPushElemName(ctx, "n-300");
-   rtxCtxtPushTypeName(ctx, "N-300");
    if ((uint64_t)pvalue->n_300 > 7u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "N-300");
       rtxErrAddUIntParm(ctx, pvalue->n_300);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "N-300", "n-300", -1, "UE-IdleTimersAndConstants");
    }
    stat = pe_ConsUInt64(ctx, pvalue->n_300, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "N-300", "n-300", -1, "UE-IdleTimersAndConstants");
    /* t-312 */
-   rtxCtxtPushElemName(ctx, "t-312");
-   rtxCtxtPushTypeName(ctx, "T-312");
    if ((uint64_t)pvalue->t_312 > 15u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "T-312");
       rtxErrAddUIntParm(ctx, pvalue->t_312);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "T-312", "t-312", -1, "UE-IdleTimersAndConstants");
    }
    stat = pe_ConsUInt64(ctx, pvalue->t_312, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "T-312", "t-312", -1, "UE-IdleTimersAndConstants");
    /* n-312 */
-   rtxCtxtPushElemName(ctx, "n-312");
-   rtxCtxtPushTypeName(ctx, "N-312");
    if (pvalue->n_312 > 7) {
       rtxErrAddUIntParm(ctx, pvalue->n_312);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "N-312", "n-312", -1, "UE-IdleTimersAndConstants");
    }
    stat = pe_ConsUInt64(ctx, pvalue->n_312, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "N-312", "n-312", -1, "UE-IdleTimersAndConstants");
    return 0;
 }
 
-int asn1PE_UMTS_N_312ext(rtxContext* ctx, N_312ext value)
+int asn1PE_UMTS_N_312ext(rtxContext* RT_RESTRICT ctx, N_312ext value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "N-312ext");
    if (value > 3) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "N-312ext");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "N-312ext");
    return 0;
 }
 
-int asn1PE_UMTS_N_315ext(rtxContext* ctx, N_315ext value)
+int asn1PE_UMTS_N_315ext(rtxContext* RT_RESTRICT ctx, N_315ext value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "N-315ext");
    if (value > 3) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "N-315ext");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "N-315ext");
    return 0;
 }
 
-int asn1PE_UMTS_UE_ConnTimersAndConstants_v3a0ext(rtxContext* ctx, const UE_ConnTimersAndConstants_v3a0ext* pvalue)
+int asn1PE_UMTS_UE_ConnTimersAndConstants_v3a0ext(rtxContext* RT_RESTRICT ctx, const UE_ConnTimersAndConstants_v3a0ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-ConnTimersAndConstants-v3a0ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-ConnTimersAndConstants-v3a0ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-ConnTimersAndConstants-v3a0ext");
    /* n-312 */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "n-312");
-      rtxCtxtPushTypeName(ctx, "N-312ext");
       if (pvalue->n_312 > 3) {
          rtxErrAddUIntParm(ctx, pvalue->n_312);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "N-312ext", "n-312", -1, "UE-ConnTimersAndConstants-v3a0ext");
       }
       stat = pe_ConsUInt64(ctx, pvalue->n_312, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "N-312ext", "n-312", -1, "UE-ConnTimersAndConstants-v3a0ext");
    }
    /* n-315 */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "n-315");
-      rtxCtxtPushTypeName(ctx, "N-315ext");
       if (pvalue->n_315 > 3) {
          rtxErrAddUIntParm(ctx, pvalue->n_315);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "N-315ext", "n-315", -1, "UE-ConnTimersAndConstants-v3a0ext");
       }
       stat = pe_ConsUInt64(ctx, pvalue->n_315, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "N-315ext", "n-315", -1, "UE-ConnTimersAndConstants-v3a0ext");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_UE_IdleTimersAndConstants_v3a0ext(rtxContext* ctx, const UE_IdleTimersAndConstants_v3a0ext* pvalue)
+int asn1PE_UMTS_UE_IdleTimersAndConstants_v3a0ext(rtxContext* RT_RESTRICT ctx, const UE_IdleTimersAndConstants_v3a0ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-IdleTimersAndConstants-v3a0ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-IdleTimersAndConstants-v3a0ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-IdleTimersAndConstants-v3a0ext");
    /* n-312 */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "n-312");
-      rtxCtxtPushTypeName(ctx, "N-312ext");
       if (pvalue->n_312 > 3) {
          rtxErrAddUIntParm(ctx, pvalue->n_312);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "N-312ext", "n-312", -1, "UE-IdleTimersAndConstants-v3a0ext");
       }
       stat = pe_ConsUInt64(ctx, pvalue->n_312, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "N-312ext", "n-312", -1, "UE-IdleTimersAndConstants-v3a0ext");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType1_v3a0ext_IEs(rtxContext* ctx, const SysInfoType1_v3a0ext_IEs* pvalue)
+int asn1PE_UMTS_SysInfoType1_v3a0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType1_v3a0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType1-v3a0ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType1-v3a0ext-IEs");
    /* ue-ConnTimersAndConstants-v3a0ext */
-   rtxCtxtPushElemName(ctx, "ue-ConnTimersAndConstants-v3a0ext");
    stat = asn1PE_UMTS_UE_ConnTimersAndConstants_v3a0ext(ctx, &pvalue->ue_ConnTimersAndConstants_v3a0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "ue-ConnTimersAndConstants-v3a0ext", -1, "SysInfoType1-v3a0ext-IEs");
    /* ue-IdleTimersAndConstants-v3a0ext */
-   rtxCtxtPushElemName(ctx, "ue-IdleTimersAndConstants-v3a0ext");
    stat = asn1PE_UMTS_UE_IdleTimersAndConstants_v3a0ext(ctx, &pvalue->ue_IdleTimersAndConstants_v3a0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "ue-IdleTimersAndConstants-v3a0ext", -1, "SysInfoType1-v3a0ext-IEs");
    return 0;
 }
 
-int asn1PE_UMTS_T_323(rtxContext* ctx, T_323 value)
+int asn1PE_UMTS_T_323(rtxContext* RT_RESTRICT ctx, T_323 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "T-323");
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-323");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "T-323");
    return 0;
 }
 
-int asn1PE_UMTS_UE_ConnTimersAndConstants_v860ext(rtxContext* ctx, const UE_ConnTimersAndConstants_v860ext* pvalue)
+int asn1PE_UMTS_UE_ConnTimersAndConstants_v860ext(rtxContext* RT_RESTRICT ctx, const UE_ConnTimersAndConstants_v860ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-ConnTimersAndConstants-v860ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-ConnTimersAndConstants-v860ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-ConnTimersAndConstants-v860ext");
    /* t-323 */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "t-323");
-      rtxCtxtPushTypeName(ctx, "T-323");
       if (pvalue->t_323 > 7) {
          rtxErrAddUIntParm(ctx, pvalue->t_323);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "T-323", "t-323", -1, "UE-ConnTimersAndConstants-v860ext");
       }
       stat = pe_ConsUInt64(ctx, pvalue->t_323, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "T-323", "t-323", -1, "UE-ConnTimersAndConstants-v860ext");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType1_v860ext_IEs(rtxContext* ctx, const SysInfoType1_v860ext_IEs* pvalue)
+int asn1PE_UMTS_SysInfoType1_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType1_v860ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType1-v860ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType1-v860ext-IEs");
    /* ue-ConnTimersAndConstants */
-   rtxCtxtPushElemName(ctx, "ue-ConnTimersAndConstants");
    stat = asn1PE_UMTS_UE_ConnTimersAndConstants_v860ext(ctx, &pvalue->ue_ConnTimersAndConstants);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "ue-ConnTimersAndConstants", -1, "SysInfoType1-v860ext-IEs");
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions_nonCriticalExtensions(rtxContext* ctx, const SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions_nonCriticalExtensions* pvalue)
+int asn1PE_UMTS_SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions(rtxContext* ctx, const SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions* pvalue)
+int asn1PE_UMTS_SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions(rtxContext* RT_RESTRICT ctx, const SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* sysInfoType1-v860ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType1-v860ext");
    stat = asn1PE_UMTS_SysInfoType1_v860ext_IEs(ctx, &pvalue->sysInfoType1_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sysInfoType1-v860ext", -1, 0);
    /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
       stat = asn1PE_UMTS_SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType1_v3a0NonCriticalExtensions(rtxContext* ctx, const SysInfoType1_v3a0NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_SysInfoType1_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType1_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* sysInfoType1-v3a0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType1-v3a0ext");
    stat = asn1PE_UMTS_SysInfoType1_v3a0ext_IEs(ctx, &pvalue->sysInfoType1_v3a0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sysInfoType1-v3a0ext", -1, 0);
    /* v860NonCriticalExtentions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtentions");
       stat = asn1PE_UMTS_SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions(ctx, &pvalue->v860NonCriticalExtentions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtentions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType1(rtxContext* ctx, const SysInfoType1* pvalue)
+int asn1PE_UMTS_SysInfoType1(rtxContext* RT_RESTRICT ctx, const SysInfoType1* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType1");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType1");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType1");
    /* cn-CommonGSM-MAP-NAS-SysInfo */
-   rtxCtxtPushElemName(ctx, "cn-CommonGSM-MAP-NAS-SysInfo");
    stat = asn1PE_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "cn-CommonGSM-MAP-NAS-SysInfo", -1, "SysInfoType1");
    /* cn-DomainSysInfoList */
-   rtxCtxtPushElemName(ctx, "cn-DomainSysInfoList");
    stat = asn1PE_UMTS_CN_DomainSysInfoList(ctx, &pvalue->cn_DomainSysInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "cn-DomainSysInfoList", -1, "SysInfoType1");
    /* ue-ConnTimersAndConstants */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-ConnTimersAndConstants");
       stat = asn1PE_UMTS_UE_ConnTimersAndConstants(ctx, &pvalue->ue_ConnTimersAndConstants);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ue-ConnTimersAndConstants", -1, "SysInfoType1");
    }
    /* ue-IdleTimersAndConstants */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-IdleTimersAndConstants");
       stat = asn1PE_UMTS_UE_IdleTimersAndConstants(ctx, &pvalue->ue_IdleTimersAndConstants);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ue-IdleTimersAndConstants", -1, "SysInfoType1");
    }
    /* v3a0NonCriticalExtensions */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "v3a0NonCriticalExtensions");
       stat = asn1PE_UMTS_SysInfoType1_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, "SysInfoType1");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_URA_Identity(rtxContext* ctx, URA_Identity value)
+int asn1PE_UMTS_URA_Identity(rtxContext* RT_RESTRICT ctx, URA_Identity value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "URA-Identity");
    RT_SET_SIZE(ctx, 16, 16);
    stat = pe_BitString32(ctx, &value, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "URA-Identity");
    return 0;
 }
 
-int asn1PE_UMTS_URA_IdentityList(rtxContext* ctx, const URA_IdentityList* pvalue)
+int asn1PE_UMTS_URA_IdentityList(rtxContext* RT_RESTRICT ctx, const URA_IdentityList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "URA-IdentityList");
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "URA-IdentityList");
    RT_SET_SIZE(ctx, 1, 8);
    stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "URA-IdentityList");
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "URA-Identity", i);
       stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->elem[i]);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "URA-Identity", (int32_t)i, "URA-IdentityList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType2_nonCriticalExtensions(rtxContext* ctx, const SysInfoType2_nonCriticalExtensions* pvalue)
+int asn1PE_UMTS_SysInfoType2_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType2_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType2(rtxContext* ctx, const SysInfoType2* pvalue)
+int asn1PE_UMTS_SysInfoType2(rtxContext* RT_RESTRICT ctx, const SysInfoType2* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType2");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType2");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType2");
    /* ura-IdentityList */
-   rtxCtxtPushElemName(ctx, "ura-IdentityList");
    stat = asn1PE_UMTS_URA_IdentityList(ctx, &pvalue->ura_IdentityList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "ura-IdentityList", -1, "SysInfoType2");
    /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
       stat = asn1PE_UMTS_SysInfoType2_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType2");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_UL_Interference(rtxContext* ctx, UL_Interference value)
+int asn1PE_UMTS_UL_Interference(rtxContext* RT_RESTRICT ctx, UL_Interference value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UL-Interference");
    if (value < -110 || value > -70) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "UL-Interference");
       rtxErrAddIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UL-Interference");
    }
    stat = pe_ConsInt64(ctx, value, -110, -70);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-Interference");
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType7_modeSpecificInfo_fdd(rtxContext* ctx, const SysInfoType7_modeSpecificInfo_fdd* pvalue)
+int asn1PE_UMTS_SysInfoType7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SysInfoType7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* ul-Interference */
-   rtxCtxtPushElemName(ctx, "ul-Interference");
-   rtxCtxtPushTypeName(ctx, "UL-Interference");
    if (pvalue->ul_Interference < -110 || pvalue->ul_Interference > -70) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "UL-Interference");
       rtxErrAddIntParm(ctx, pvalue->ul_Interference);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-Interference", "ul-Interference", -1, 0);
    }
    stat = pe_ConsInt64(ctx, pvalue->ul_Interference, -110, -70);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "UL-Interference", "ul-Interference", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType7_modeSpecificInfo(rtxContext* ctx, const SysInfoType7_modeSpecificInfo* pvalue)
+int asn1PE_UMTS_SysInfoType7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType7_modeSpecificInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
          stat = asn1PE_UMTS_SysInfoType7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
          break;
       default:
          break;
@@ -6662,902 +5086,732 @@ int asn1PE_UMTS_SysInfoType7_modeSpecificInfo(rtxContext* ctx, const SysInfoType
    return 0;
 }
 
-int asn1PE_UMTS_DynamicPersistenceLevel(rtxContext* ctx, DynamicPersistenceLevel value)
+int asn1PE_UMTS_DynamicPersistenceLevel(rtxContext* RT_RESTRICT ctx, DynamicPersistenceLevel value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DynamicPersistenceLevel");
    if ((uint64_t)(value - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "DynamicPersistenceLevel");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DynamicPersistenceLevel");
    }
    stat = pe_ConsUInt64(ctx, value, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DynamicPersistenceLevel");
    return 0;
 }
 
-int asn1PE_UMTS_DynamicPersistenceLevelList(rtxContext* ctx, const DynamicPersistenceLevelList* pvalue)
+int asn1PE_UMTS_DynamicPersistenceLevelList(rtxContext* RT_RESTRICT ctx, const DynamicPersistenceLevelList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DynamicPersistenceLevelList");
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "DynamicPersistenceLevelList");
    RT_SET_SIZE(ctx, 1, 16);
    stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DynamicPersistenceLevelList");
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "DynamicPersistenceLevel", i);
-      rtxCtxtPushTypeName(ctx, "DynamicPersistenceLevel");
       if ((uint64_t)(pvalue->elem[i] - 1) > 7u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "DynamicPersistenceLevel");
          rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DynamicPersistenceLevel", "DynamicPersistenceLevel", (int32_t)i, "DynamicPersistenceLevelList");
       }
       stat = pe_ConsUInt64(ctx, pvalue->elem[i], 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, "DynamicPersistenceLevel", "DynamicPersistenceLevel", (int32_t)i, "DynamicPersistenceLevelList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_ExpirationTimeFactor(rtxContext* ctx, ExpirationTimeFactor value)
+int asn1PE_UMTS_ExpirationTimeFactor(rtxContext* RT_RESTRICT ctx, ExpirationTimeFactor value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ExpirationTimeFactor");
    if ((uint64_t)(value - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "ExpirationTimeFactor");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "ExpirationTimeFactor");
    }
    stat = pe_ConsUInt64(ctx, value, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ExpirationTimeFactor");
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType7_nonCriticalExtensions(rtxContext* ctx, const SysInfoType7_nonCriticalExtensions* pvalue)
+int asn1PE_UMTS_SysInfoType7_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType7_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType7(rtxContext* ctx, const SysInfoType7* pvalue)
+int asn1PE_UMTS_SysInfoType7(rtxContext* RT_RESTRICT ctx, const SysInfoType7* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType7");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType7");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType7");
    /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
    stat = asn1PE_UMTS_SysInfoType7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SysInfoType7");
    /* prach-Information-SIB5-List */
-   rtxCtxtPushElemName(ctx, "prach-Information-SIB5-List");
    stat = asn1PE_UMTS_DynamicPersistenceLevelList(ctx, &pvalue->prach_Information_SIB5_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "prach-Information-SIB5-List", -1, "SysInfoType7");
    /* prach-Information-SIB6-List */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "prach-Information-SIB6-List");
       stat = asn1PE_UMTS_DynamicPersistenceLevelList(ctx, &pvalue->prach_Information_SIB6_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "prach-Information-SIB6-List", -1, "SysInfoType7");
    }
    /* expirationTimeFactor */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "expirationTimeFactor");
-      rtxCtxtPushTypeName(ctx, "ExpirationTimeFactor");
       if ((uint64_t)(pvalue->expirationTimeFactor - 1) > 7u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "ExpirationTimeFactor");
          rtxErrAddUIntParm(ctx, pvalue->expirationTimeFactor);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "ExpirationTimeFactor", "expirationTimeFactor", -1, "SysInfoType7");
       }
       stat = pe_ConsUInt64(ctx, pvalue->expirationTimeFactor, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "ExpirationTimeFactor", "expirationTimeFactor", -1, "SysInfoType7");
    }
    /* nonCriticalExtensions */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
       stat = asn1PE_UMTS_SysInfoType7_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType7");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PLMNsOfIntraFreqCellsList_element(rtxContext* ctx, const PLMNsOfIntraFreqCellsList_element* pvalue)
+int asn1PE_UMTS_PLMNsOfIntraFreqCellsList_element(rtxContext* RT_RESTRICT ctx, const PLMNsOfIntraFreqCellsList_element* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* plmn-Identity */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "plmn-Identity");
       stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_PLMNsOfIntraFreqCellsList(rtxContext* ctx, const PLMNsOfIntraFreqCellsList* pvalue)
+int asn1PE_UMTS_PLMNsOfIntraFreqCellsList(rtxContext* RT_RESTRICT ctx, const PLMNsOfIntraFreqCellsList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PLMNsOfIntraFreqCellsList");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "PLMNsOfIntraFreqCellsList");
    RT_SET_SIZE(ctx, 1, 32);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PLMNsOfIntraFreqCellsList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "PLMNsOfIntraFreqCellsList");
       stat = asn1PE_UMTS_PLMNsOfIntraFreqCellsList_element(ctx, (const PLMNsOfIntraFreqCellsList_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PLMNsOfIntraFreqCellsList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PLMNsOfInterFreqCellsList_element(rtxContext* ctx, const PLMNsOfInterFreqCellsList_element* pvalue)
+int asn1PE_UMTS_PLMNsOfInterFreqCellsList_element(rtxContext* RT_RESTRICT ctx, const PLMNsOfInterFreqCellsList_element* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* plmn-Identity */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "plmn-Identity");
       stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_PLMNsOfInterFreqCellsList(rtxContext* ctx, const PLMNsOfInterFreqCellsList* pvalue)
+int asn1PE_UMTS_PLMNsOfInterFreqCellsList(rtxContext* RT_RESTRICT ctx, const PLMNsOfInterFreqCellsList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PLMNsOfInterFreqCellsList");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "PLMNsOfInterFreqCellsList");
    RT_SET_SIZE(ctx, 1, 32);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PLMNsOfInterFreqCellsList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "PLMNsOfInterFreqCellsList");
       stat = asn1PE_UMTS_PLMNsOfInterFreqCellsList_element(ctx, (const PLMNsOfInterFreqCellsList_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PLMNsOfInterFreqCellsList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PLMNsOfInterRATCellsList_element(rtxContext* ctx, const PLMNsOfInterRATCellsList_element* pvalue)
+int asn1PE_UMTS_PLMNsOfInterRATCellsList_element(rtxContext* RT_RESTRICT ctx, const PLMNsOfInterRATCellsList_element* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* plmn-Identity */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "plmn-Identity");
       stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_PLMNsOfInterRATCellsList(rtxContext* ctx, const PLMNsOfInterRATCellsList* pvalue)
+int asn1PE_UMTS_PLMNsOfInterRATCellsList(rtxContext* RT_RESTRICT ctx, const PLMNsOfInterRATCellsList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PLMNsOfInterRATCellsList");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "PLMNsOfInterRATCellsList");
    RT_SET_SIZE(ctx, 1, 32);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PLMNsOfInterRATCellsList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "PLMNsOfInterRATCellsList");
       stat = asn1PE_UMTS_PLMNsOfInterRATCellsList_element(ctx, (const PLMNsOfInterRATCellsList_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PLMNsOfInterRATCellsList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PLMNIdentitiesOfNeighbourCells(rtxContext* ctx, const PLMNIdentitiesOfNeighbourCells* pvalue)
+int asn1PE_UMTS_PLMNIdentitiesOfNeighbourCells(rtxContext* RT_RESTRICT ctx, const PLMNIdentitiesOfNeighbourCells* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PLMNIdentitiesOfNeighbourCells");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PLMNIdentitiesOfNeighbourCells");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PLMNIdentitiesOfNeighbourCells");
    /* plmnsOfIntraFreqCellsList */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "plmnsOfIntraFreqCellsList");
       stat = asn1PE_UMTS_PLMNsOfIntraFreqCellsList(ctx, &pvalue->plmnsOfIntraFreqCellsList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "plmnsOfIntraFreqCellsList", -1, "PLMNIdentitiesOfNeighbourCells");
    }
    /* plmnsOfInterFreqCellsList */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "plmnsOfInterFreqCellsList");
       stat = asn1PE_UMTS_PLMNsOfInterFreqCellsList(ctx, &pvalue->plmnsOfInterFreqCellsList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "plmnsOfInterFreqCellsList", -1, "PLMNIdentitiesOfNeighbourCells");
    }
    /* plmnsOfInterRATCellsList */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "plmnsOfInterRATCellsList");
       stat = asn1PE_UMTS_PLMNsOfInterRATCellsList(ctx, &pvalue->plmnsOfInterRATCellsList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "plmnsOfInterRATCellsList", -1, "PLMNIdentitiesOfNeighbourCells");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType18_v6b0ext(rtxContext* ctx, const SysInfoType18_v6b0ext* pvalue)
+int asn1PE_UMTS_SysInfoType18_v6b0ext(rtxContext* RT_RESTRICT ctx, const SysInfoType18_v6b0ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType18-v6b0ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType18-v6b0ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType18-v6b0ext");
    /* idleModePLMNIdentitiesSIB11bis */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "idleModePLMNIdentitiesSIB11bis");
       stat = asn1PE_UMTS_PLMNIdentitiesOfNeighbourCells(ctx, &pvalue->idleModePLMNIdentitiesSIB11bis);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "idleModePLMNIdentitiesSIB11bis", -1, "SysInfoType18-v6b0ext");
    }
    /* connectedModePLMNIdentitiesSIB11bis */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "connectedModePLMNIdentitiesSIB11bis");
       stat = asn1PE_UMTS_PLMNIdentitiesOfNeighbourCells(ctx, &pvalue->connectedModePLMNIdentitiesSIB11bis);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "connectedModePLMNIdentitiesSIB11bis", -1, "SysInfoType18-v6b0ext");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_MultiplePLMNsOfIntraFreqCellsList_element_multiplePLMN_list(rtxContext* ctx, const MultiplePLMNsOfIntraFreqCellsList_element_multiplePLMN_list* pvalue)
+int asn1PE_UMTS_MultiplePLMNsOfIntraFreqCellsList_element_multiplePLMN_list(rtxContext* RT_RESTRICT ctx, const MultiplePLMNsOfIntraFreqCellsList_element_multiplePLMN_list* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 6);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "PLMN-IdentityWithOptionalMCC-r6", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PLMN-IdentityWithOptionalMCC-r6", (int32_t)i, 0);
       stat = asn1PE_UMTS_PLMN_IdentityWithOptionalMCC_r6(ctx, (const PLMN_IdentityWithOptionalMCC_r6*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "PLMN-IdentityWithOptionalMCC-r6", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_MultiplePLMNsOfIntraFreqCellsList_element(rtxContext* ctx, const MultiplePLMNsOfIntraFreqCellsList_element* pvalue)
+int asn1PE_UMTS_MultiplePLMNsOfIntraFreqCellsList_element(rtxContext* RT_RESTRICT ctx, const MultiplePLMNsOfIntraFreqCellsList_element* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* multiplePLMN-list */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "multiplePLMN-list");
       stat = asn1PE_UMTS_MultiplePLMNsOfIntraFreqCellsList_element_multiplePLMN_list(ctx, &pvalue->multiplePLMN_list);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "multiplePLMN-list", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_MultiplePLMNsOfIntraFreqCellsList(rtxContext* ctx, const MultiplePLMNsOfIntraFreqCellsList* pvalue)
+int asn1PE_UMTS_MultiplePLMNsOfIntraFreqCellsList(rtxContext* RT_RESTRICT ctx, const MultiplePLMNsOfIntraFreqCellsList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MultiplePLMNsOfIntraFreqCellsList");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MultiplePLMNsOfIntraFreqCellsList");
    RT_SET_SIZE(ctx, 1, 32);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MultiplePLMNsOfIntraFreqCellsList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "MultiplePLMNsOfIntraFreqCellsList");
       stat = asn1PE_UMTS_MultiplePLMNsOfIntraFreqCellsList_element(ctx, (const MultiplePLMNsOfIntraFreqCellsList_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "MultiplePLMNsOfIntraFreqCellsList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_MultiplePLMNsOfInterFreqCellsList_element_multiplePLMN_list(rtxContext* ctx, const MultiplePLMNsOfInterFreqCellsList_element_multiplePLMN_list* pvalue)
+int asn1PE_UMTS_MultiplePLMNsOfInterFreqCellsList_element_multiplePLMN_list(rtxContext* RT_RESTRICT ctx, const MultiplePLMNsOfInterFreqCellsList_element_multiplePLMN_list* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 6);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "PLMN-IdentityWithOptionalMCC-r6", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PLMN-IdentityWithOptionalMCC-r6", (int32_t)i, 0);
       stat = asn1PE_UMTS_PLMN_IdentityWithOptionalMCC_r6(ctx, (const PLMN_IdentityWithOptionalMCC_r6*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "PLMN-IdentityWithOptionalMCC-r6", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_MultiplePLMNsOfInterFreqCellsList_element(rtxContext* ctx, const MultiplePLMNsOfInterFreqCellsList_element* pvalue)
+int asn1PE_UMTS_MultiplePLMNsOfInterFreqCellsList_element(rtxContext* RT_RESTRICT ctx, const MultiplePLMNsOfInterFreqCellsList_element* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* multiplePLMN-list */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "multiplePLMN-list");
       stat = asn1PE_UMTS_MultiplePLMNsOfInterFreqCellsList_element_multiplePLMN_list(ctx, &pvalue->multiplePLMN_list);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "multiplePLMN-list", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_MultiplePLMNsOfInterFreqCellsList(rtxContext* ctx, const MultiplePLMNsOfInterFreqCellsList* pvalue)
+int asn1PE_UMTS_MultiplePLMNsOfInterFreqCellsList(rtxContext* RT_RESTRICT ctx, const MultiplePLMNsOfInterFreqCellsList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MultiplePLMNsOfInterFreqCellsList");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MultiplePLMNsOfInterFreqCellsList");
    RT_SET_SIZE(ctx, 1, 32);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MultiplePLMNsOfInterFreqCellsList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "MultiplePLMNsOfInterFreqCellsList");
       stat = asn1PE_UMTS_MultiplePLMNsOfInterFreqCellsList_element(ctx, (const MultiplePLMNsOfInterFreqCellsList_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "MultiplePLMNsOfInterFreqCellsList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PLMNIdentitiesOfNeighbourCells_v860ext(rtxContext* ctx, const PLMNIdentitiesOfNeighbourCells_v860ext* pvalue)
+int asn1PE_UMTS_PLMNIdentitiesOfNeighbourCells_v860ext(rtxContext* RT_RESTRICT ctx, const PLMNIdentitiesOfNeighbourCells_v860ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PLMNIdentitiesOfNeighbourCells-v860ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PLMNIdentitiesOfNeighbourCells-v860ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PLMNIdentitiesOfNeighbourCells-v860ext");
    /* multipleplmnsOfIntraFreqCellsList */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "multipleplmnsOfIntraFreqCellsList");
       stat = asn1PE_UMTS_MultiplePLMNsOfIntraFreqCellsList(ctx, &pvalue->multipleplmnsOfIntraFreqCellsList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "multipleplmnsOfIntraFreqCellsList", -1, "PLMNIdentitiesOfNeighbourCells-v860ext");
    }
    /* multipleplmnsOfInterFreqCellsList */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "multipleplmnsOfInterFreqCellsList");
       stat = asn1PE_UMTS_MultiplePLMNsOfInterFreqCellsList(ctx, &pvalue->multipleplmnsOfInterFreqCellsList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "multipleplmnsOfInterFreqCellsList", -1, "PLMNIdentitiesOfNeighbourCells-v860ext");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType18_v860ext(rtxContext* ctx, const SysInfoType18_v860ext* pvalue)
+int asn1PE_UMTS_SysInfoType18_v860ext(rtxContext* RT_RESTRICT ctx, const SysInfoType18_v860ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType18-v860ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType18-v860ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType18-v860ext");
    /* idleModePLMNIdentities */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "idleModePLMNIdentities");
       stat = asn1PE_UMTS_PLMNIdentitiesOfNeighbourCells_v860ext(ctx, &pvalue->idleModePLMNIdentities);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "idleModePLMNIdentities", -1, "SysInfoType18-v860ext");
    }
    /* connectedModePLMNIdentities */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "connectedModePLMNIdentities");
       stat = asn1PE_UMTS_PLMNIdentitiesOfNeighbourCells_v860ext(ctx, &pvalue->connectedModePLMNIdentities);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "connectedModePLMNIdentities", -1, "SysInfoType18-v860ext");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* pvalue)
+int asn1PE_UMTS_SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* ctx, const SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* sysInfoType18-v860ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType18-v860ext");
    stat = asn1PE_UMTS_SysInfoType18_v860ext(ctx, &pvalue->sysInfoType18_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sysInfoType18-v860ext", -1, 0);
    /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
       stat = asn1PE_UMTS_SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType18_v6b0NonCriticalExtensions(rtxContext* ctx, const SysInfoType18_v6b0NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_SysInfoType18_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType18_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* sysInfoType18-v6b0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType18-v6b0ext");
    stat = asn1PE_UMTS_SysInfoType18_v6b0ext(ctx, &pvalue->sysInfoType18_v6b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sysInfoType18-v6b0ext", -1, 0);
    /* v860NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtensions");
       stat = asn1PE_UMTS_SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType18(rtxContext* ctx, const SysInfoType18* pvalue)
+int asn1PE_UMTS_SysInfoType18(rtxContext* RT_RESTRICT ctx, const SysInfoType18* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType18");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType18");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType18");
    /* idleModePLMNIdentities */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "idleModePLMNIdentities");
       stat = asn1PE_UMTS_PLMNIdentitiesOfNeighbourCells(ctx, &pvalue->idleModePLMNIdentities);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "idleModePLMNIdentities", -1, "SysInfoType18");
    }
    /* connectedModePLMNIdentities */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "connectedModePLMNIdentities");
       stat = asn1PE_UMTS_PLMNIdentitiesOfNeighbourCells(ctx, &pvalue->connectedModePLMNIdentities);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "connectedModePLMNIdentities", -1, "SysInfoType18");
    }
    /* v6b0NonCriticalExtensions */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "v6b0NonCriticalExtensions");
       stat = asn1PE_UMTS_SysInfoType18_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, "SysInfoType18");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PICH_PowerOffset(rtxContext* ctx, PICH_PowerOffset value)
+int asn1PE_UMTS_PICH_PowerOffset(rtxContext* RT_RESTRICT ctx, PICH_PowerOffset value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PICH-PowerOffset");
    if (value < -10 || value > 5) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "PICH-PowerOffset");
       rtxErrAddIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PICH-PowerOffset");
    }
    stat = pe_ConsInt64(ctx, value, -10, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PICH-PowerOffset");
    return 0;
 }
 
-int asn1PE_UMTS_AICH_PowerOffset(rtxContext* ctx, AICH_PowerOffset value)
+int asn1PE_UMTS_AICH_PowerOffset(rtxContext* RT_RESTRICT ctx, AICH_PowerOffset value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "AICH-PowerOffset");
    if (value < -22 || value > 5) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "AICH-PowerOffset");
       rtxErrAddIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "AICH-PowerOffset");
    }
    stat = pe_ConsInt64(ctx, value, -22, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AICH-PowerOffset");
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType5_modeSpecificInfo_fdd(rtxContext* ctx, const SysInfoType5_modeSpecificInfo_fdd* pvalue)
+int asn1PE_UMTS_SysInfoType5_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SysInfoType5_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* aich-PowerOffset */
-   rtxCtxtPushElemName(ctx, "aich-PowerOffset");
-   rtxCtxtPushTypeName(ctx, "AICH-PowerOffset");
    if (pvalue->aich_PowerOffset < -22 || pvalue->aich_PowerOffset > 5) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "AICH-PowerOffset");
       rtxErrAddIntParm(ctx, pvalue->aich_PowerOffset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "AICH-PowerOffset", "aich-PowerOffset", -1, 0);
    }
    stat = pe_ConsInt64(ctx, pvalue->aich_PowerOffset, -22, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "AICH-PowerOffset", "aich-PowerOffset", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_PUSCH_Identity(rtxContext* ctx, PUSCH_Identity value)
+int asn1PE_UMTS_PUSCH_Identity(rtxContext* RT_RESTRICT ctx, PUSCH_Identity value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PUSCH-Identity");
    if ((uint64_t)(value - 1) > 63u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "PUSCH-Identity");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PUSCH-Identity");
    }
    stat = pe_ConsUInt64(ctx, value, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-Identity");
    return 0;
 }
 
-int asn1PE_UMTS_TFCS_IdentityPlain(rtxContext* ctx, TFCS_IdentityPlain value)
+int asn1PE_UMTS_TFCS_IdentityPlain(rtxContext* RT_RESTRICT ctx, TFCS_IdentityPlain value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TFCS-IdentityPlain");
    if ((uint64_t)(value - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TFCS-IdentityPlain");
    }
    stat = pe_ConsUInt64(ctx, value, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TFCS-IdentityPlain");
    return 0;
 }
 
-int asn1PE_UMTS_SecondInterleavingMode(rtxContext* ctx, SecondInterleavingMode value)
+int asn1PE_UMTS_SecondInterleavingMode(rtxContext* RT_RESTRICT ctx, SecondInterleavingMode value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SecondInterleavingMode");
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SecondInterleavingMode");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SecondInterleavingMode");
    return 0;
 }
 
-int asn1PE_UMTS_TFCI_Coding(rtxContext* ctx, TFCI_Coding value)
+int asn1PE_UMTS_TFCI_Coding(rtxContext* RT_RESTRICT ctx, TFCI_Coding value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TFCI-Coding");
    if (value > 3) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TFCI-Coding");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TFCI-Coding");
    return 0;
 }
 
-int asn1PE_UMTS_PuncturingLimit(rtxContext* ctx, PuncturingLimit value)
+int asn1PE_UMTS_PuncturingLimit(rtxContext* RT_RESTRICT ctx, PuncturingLimit value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PuncturingLimit");
    if (value > 15) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "PuncturingLimit");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PuncturingLimit");
    return 0;
 }
 
-int asn1PE_UMTS_RepetitionPeriodAndLength(rtxContext* ctx, const RepetitionPeriodAndLength* pvalue)
+int asn1PE_UMTS_RepetitionPeriodAndLength(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodAndLength* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RepetitionPeriodAndLength");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RepetitionPeriodAndLength");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 6) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "RepetitionPeriodAndLength");
+   if (pvalue->t - 1 > 6) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RepetitionPeriodAndLength");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "repetitionPeriod1");
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "repetitionPeriod2");
          if ((uint64_t)(pvalue->u.repetitionPeriod2 - 1) > 0u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "repetitionPeriod2");
             rtxErrAddUIntParm(ctx, pvalue->u.repetitionPeriod2);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "repetitionPeriod2", -1, "RepetitionPeriodAndLength");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.repetitionPeriod2, 1, 1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "repetitionPeriod2", -1, "RepetitionPeriodAndLength");
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "repetitionPeriod4");
          if ((uint64_t)(pvalue->u.repetitionPeriod4 - 1) > 2u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "repetitionPeriod4");
             rtxErrAddUIntParm(ctx, pvalue->u.repetitionPeriod4);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "repetitionPeriod4", -1, "RepetitionPeriodAndLength");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.repetitionPeriod4, 1, 3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "repetitionPeriod4", -1, "RepetitionPeriodAndLength");
          break;
       case 4:
-         rtxCtxtPushElemName(ctx, "repetitionPeriod8");
          if ((uint64_t)(pvalue->u.repetitionPeriod8 - 1) > 6u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "repetitionPeriod8");
             rtxErrAddUIntParm(ctx, pvalue->u.repetitionPeriod8);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "repetitionPeriod8", -1, "RepetitionPeriodAndLength");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.repetitionPeriod8, 1, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "repetitionPeriod8", -1, "RepetitionPeriodAndLength");
          break;
       case 5:
-         rtxCtxtPushElemName(ctx, "repetitionPeriod16");
          if ((uint64_t)(pvalue->u.repetitionPeriod16 - 1) > 14u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "repetitionPeriod16");
             rtxErrAddUIntParm(ctx, pvalue->u.repetitionPeriod16);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "repetitionPeriod16", -1, "RepetitionPeriodAndLength");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.repetitionPeriod16, 1, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "repetitionPeriod16", -1, "RepetitionPeriodAndLength");
          break;
       case 6:
-         rtxCtxtPushElemName(ctx, "repetitionPeriod32");
          if ((uint64_t)(pvalue->u.repetitionPeriod32 - 1) > 30u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "repetitionPeriod32");
             rtxErrAddUIntParm(ctx, pvalue->u.repetitionPeriod32);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "repetitionPeriod32", -1, "RepetitionPeriodAndLength");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.repetitionPeriod32, 1, 31);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "repetitionPeriod32", -1, "RepetitionPeriodAndLength");
          break;
       case 7:
-         rtxCtxtPushElemName(ctx, "repetitionPeriod64");
          if ((uint64_t)(pvalue->u.repetitionPeriod64 - 1) > 62u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "repetitionPeriod64");
             rtxErrAddUIntParm(ctx, pvalue->u.repetitionPeriod64);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "repetitionPeriod64", -1, "RepetitionPeriodAndLength");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.repetitionPeriod64, 1, 63);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "repetitionPeriod64", -1, "RepetitionPeriodAndLength");
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_CommonTimeslotInfo(rtxContext* ctx, const CommonTimeslotInfo* pvalue)
+int asn1PE_UMTS_CommonTimeslotInfo(rtxContext* RT_RESTRICT ctx, const CommonTimeslotInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CommonTimeslotInfo");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CommonTimeslotInfo");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CommonTimeslotInfo");
    /* secondInterleavingMode */
-   rtxCtxtPushElemName(ctx, "secondInterleavingMode");
-   rtxCtxtPushTypeName(ctx, "SecondInterleavingMode");
    if (pvalue->secondInterleavingMode > 1) {
       rtxErrAddUIntParm(ctx, pvalue->secondInterleavingMode);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "SecondInterleavingMode", "secondInterleavingMode", -1, "CommonTimeslotInfo");
    }
    stat = pe_ConsUInt64(ctx, pvalue->secondInterleavingMode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "SecondInterleavingMode", "secondInterleavingMode", -1, "CommonTimeslotInfo");
    /* tfci-Coding */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "tfci-Coding");
-      rtxCtxtPushTypeName(ctx, "TFCI-Coding");
       if (pvalue->tfci_Coding > 3) {
          rtxErrAddUIntParm(ctx, pvalue->tfci_Coding);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TFCI-Coding", "tfci-Coding", -1, "CommonTimeslotInfo");
       }
       stat = pe_ConsUInt64(ctx, pvalue->tfci_Coding, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "TFCI-Coding", "tfci-Coding", -1, "CommonTimeslotInfo");
    }
    /* puncturingLimit */
-   rtxCtxtPushElemName(ctx, "puncturingLimit");
-   rtxCtxtPushTypeName(ctx, "PuncturingLimit");
    if (pvalue->puncturingLimit > 15) {
       rtxErrAddUIntParm(ctx, pvalue->puncturingLimit);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "PuncturingLimit", "puncturingLimit", -1, "CommonTimeslotInfo");
    }
    stat = pe_ConsUInt64(ctx, pvalue->puncturingLimit, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "PuncturingLimit", "puncturingLimit", -1, "CommonTimeslotInfo");
    /* repetitionPeriodAndLength */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "repetitionPeriodAndLength");
       stat = asn1PE_UMTS_RepetitionPeriodAndLength(ctx, &pvalue->repetitionPeriodAndLength);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "repetitionPeriodAndLength", -1, "CommonTimeslotInfo");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_TimeslotNumber(rtxContext* ctx, TimeslotNumber value)
+int asn1PE_UMTS_TimeslotNumber(rtxContext* RT_RESTRICT ctx, TimeslotNumber value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
    if ((uint64_t)value > 14u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TimeslotNumber");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimeslotNumber");
    return 0;
 }
 
-int asn1PE_UMTS_MidambleConfigurationBurstType1and3(rtxContext* ctx, MidambleConfigurationBurstType1and3 value)
+int asn1PE_UMTS_MidambleConfigurationBurstType1and3(rtxContext* RT_RESTRICT ctx, MidambleConfigurationBurstType1and3 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType1and3");
    if (value > 2) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MidambleConfigurationBurstType1and3");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MidambleConfigurationBurstType1and3");
    return 0;
 }
 
-int asn1PE_UMTS_MidambleShiftLong(rtxContext* ctx, MidambleShiftLong value)
+int asn1PE_UMTS_MidambleShiftLong(rtxContext* RT_RESTRICT ctx, MidambleShiftLong value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MidambleShiftLong");
    if ((uint64_t)value > 15u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "MidambleShiftLong");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MidambleShiftLong");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MidambleShiftLong");
    return 0;
 }
 
-int asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, const MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode_ueSpecificMidamble* pvalue)
+int asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftLong");
    if ((uint64_t)pvalue->midambleShift > 15u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "MidambleShiftLong");
       rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode(rtxContext* ctx, const MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode* pvalue)
+int asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "commonMidamble");
-         rtxCtxtPopElemName(ctx);
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
          stat = asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
          break;
       default:
          break;
@@ -7565,101 +5819,79 @@ int asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode
    return 0;
 }
 
-int asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type1(rtxContext* ctx, const MidambleShiftAndBurstType_burstType_type1* pvalue)
+int asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type1(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType_type1* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* midambleConfigurationBurstType1and3 */
-   rtxCtxtPushElemName(ctx, "midambleConfigurationBurstType1and3");
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType1and3");
    if (pvalue->midambleConfigurationBurstType1and3 > 2) {
       rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType1and3);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->midambleConfigurationBurstType1and3, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
    /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
    stat = asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_MidambleConfigurationBurstType2(rtxContext* ctx, MidambleConfigurationBurstType2 value)
+int asn1PE_UMTS_MidambleConfigurationBurstType2(rtxContext* RT_RESTRICT ctx, MidambleConfigurationBurstType2 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType2");
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MidambleConfigurationBurstType2");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MidambleConfigurationBurstType2");
    return 0;
 }
 
-int asn1PE_UMTS_MidambleShiftShort(rtxContext* ctx, MidambleShiftShort value)
+int asn1PE_UMTS_MidambleShiftShort(rtxContext* RT_RESTRICT ctx, MidambleShiftShort value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MidambleShiftShort");
    if ((uint64_t)value > 5u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "MidambleShiftShort");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MidambleShiftShort");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MidambleShiftShort");
    return 0;
 }
 
-int asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, const MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode_ueSpecificMidamble* pvalue)
+int asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftShort");
    if ((uint64_t)pvalue->midambleShift > 5u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "MidambleShiftShort");
       rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftShort", "midambleShift", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "MidambleShiftShort", "midambleShift", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode(rtxContext* ctx, const MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode* pvalue)
+int asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "commonMidamble");
-         rtxCtxtPopElemName(ctx);
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
          stat = asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
          break;
       default:
          break;
@@ -7667,68 +5899,52 @@ int asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode
    return 0;
 }
 
-int asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type2(rtxContext* ctx, const MidambleShiftAndBurstType_burstType_type2* pvalue)
+int asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type2(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType_type2* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* midambleConfigurationBurstType2 */
-   rtxCtxtPushElemName(ctx, "midambleConfigurationBurstType2");
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType2");
    if (pvalue->midambleConfigurationBurstType2 > 1) {
       rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType2);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MidambleConfigurationBurstType2", "midambleConfigurationBurstType2", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->midambleConfigurationBurstType2, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType2", "midambleConfigurationBurstType2", -1, 0);
    /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
    stat = asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, const MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode_ueSpecificMidamble* pvalue)
+int asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftLong");
    if ((uint64_t)pvalue->midambleShift > 15u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "MidambleShiftLong");
       rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode(rtxContext* ctx, const MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode* pvalue)
+int asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
          stat = asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
          break;
       default:
          break;
@@ -7736,59 +5952,45 @@ int asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode
    return 0;
 }
 
-int asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type3(rtxContext* ctx, const MidambleShiftAndBurstType_burstType_type3* pvalue)
+int asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type3(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType_type3* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* midambleConfigurationBurstType1and3 */
-   rtxCtxtPushElemName(ctx, "midambleConfigurationBurstType1and3");
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType1and3");
    if (pvalue->midambleConfigurationBurstType1and3 > 2) {
       rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType1and3);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->midambleConfigurationBurstType1and3, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
    /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
    stat = asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_MidambleShiftAndBurstType_burstType(rtxContext* ctx, const MidambleShiftAndBurstType_burstType* pvalue)
+int asn1PE_UMTS_MidambleShiftAndBurstType_burstType(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "type1");
-         if (pvalue->u.type1 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.type1 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "type1", -1, 0);
          stat = asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type1(ctx, pvalue->u.type1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "type1", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "type2");
-         if (pvalue->u.type2 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.type2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "type2", -1, 0);
          stat = asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type2(ctx, pvalue->u.type2);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "type2", -1, 0);
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "type3");
-         if (pvalue->u.type3 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.type3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "type3", -1, 0);
          stat = asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type3(ctx, pvalue->u.type3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "type3", -1, 0);
          break;
       default:
          break;
@@ -7796,166 +5998,128 @@ int asn1PE_UMTS_MidambleShiftAndBurstType_burstType(rtxContext* ctx, const Midam
    return 0;
 }
 
-int asn1PE_UMTS_MidambleShiftAndBurstType(rtxContext* ctx, const MidambleShiftAndBurstType* pvalue)
+int asn1PE_UMTS_MidambleShiftAndBurstType(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MidambleShiftAndBurstType");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MidambleShiftAndBurstType");
    /* burstType */
-   rtxCtxtPushElemName(ctx, "burstType");
    stat = asn1PE_UMTS_MidambleShiftAndBurstType_burstType(ctx, &pvalue->burstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "burstType", -1, "MidambleShiftAndBurstType");
    return 0;
 }
 
-int asn1PE_UMTS_IndividualTimeslotInfo(rtxContext* ctx, const IndividualTimeslotInfo* pvalue)
+int asn1PE_UMTS_IndividualTimeslotInfo(rtxContext* RT_RESTRICT ctx, const IndividualTimeslotInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IndividualTimeslotInfo");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IndividualTimeslotInfo");
    /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
    if ((uint64_t)pvalue->timeslotNumber > 14u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
       rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, "IndividualTimeslotInfo");
    }
    stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, "IndividualTimeslotInfo");
    /* tfci-Existence */
-   rtxCtxtPushElemName(ctx, "tfci-Existence");
    stat = rtxEncBit(ctx, pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, "IndividualTimeslotInfo");
    /* midambleShiftAndBurstType */
-   rtxCtxtPushElemName(ctx, "midambleShiftAndBurstType");
    stat = asn1PE_UMTS_MidambleShiftAndBurstType(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "IndividualTimeslotInfo");
    return 0;
 }
 
-int asn1PE_UMTS_UL_TS_ChannelisationCode(rtxContext* ctx, UL_TS_ChannelisationCode value)
+int asn1PE_UMTS_UL_TS_ChannelisationCode(rtxContext* RT_RESTRICT ctx, UL_TS_ChannelisationCode value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UL-TS-ChannelisationCode");
    if (value > 30) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UL-TS-ChannelisationCode");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 30);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-TS-ChannelisationCode");
    return 0;
 }
 
-int asn1PE_UMTS_UL_TS_ChannelisationCodeList(rtxContext* ctx, const UL_TS_ChannelisationCodeList* pvalue)
+int asn1PE_UMTS_UL_TS_ChannelisationCodeList(rtxContext* RT_RESTRICT ctx, const UL_TS_ChannelisationCodeList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-TS-ChannelisationCodeList");
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "UL-TS-ChannelisationCodeList");
    RT_SET_SIZE(ctx, 1, 2);
    stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UL-TS-ChannelisationCodeList");
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "UL-TS-ChannelisationCode", i);
-      rtxCtxtPushTypeName(ctx, "UL-TS-ChannelisationCode");
       if (pvalue->elem[i] > 30) {
          rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "UL-TS-ChannelisationCode", "UL-TS-ChannelisationCode", (int32_t)i, "UL-TS-ChannelisationCodeList");
       }
       stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 30);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, "UL-TS-ChannelisationCode", "UL-TS-ChannelisationCode", (int32_t)i, "UL-TS-ChannelisationCodeList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_consecutive(rtxContext* ctx, const UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_consecutive* pvalue)
+int asn1PE_UMTS_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_consecutive(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_consecutive* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* numAdditionalTimeslots */
-   rtxCtxtPushElemName(ctx, "numAdditionalTimeslots");
    if ((uint64_t)(pvalue->numAdditionalTimeslots - 1) > 12u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "numAdditionalTimeslots");
       rtxErrAddUIntParm(ctx, pvalue->numAdditionalTimeslots);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "numAdditionalTimeslots", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->numAdditionalTimeslots, 1, 13);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "numAdditionalTimeslots", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_UplinkAdditionalTimeslots_parameters_sameAsLast(rtxContext* ctx, const UplinkAdditionalTimeslots_parameters_sameAsLast* pvalue)
+int asn1PE_UMTS_UplinkAdditionalTimeslots_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_parameters_sameAsLast* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
    if ((uint64_t)pvalue->timeslotNumber > 14u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
       rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_UplinkAdditionalTimeslots_parameters_newParameters(rtxContext* ctx, const UplinkAdditionalTimeslots_parameters_newParameters* pvalue)
+int asn1PE_UMTS_UplinkAdditionalTimeslots_parameters_newParameters(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_parameters_newParameters* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* individualTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "individualTimeslotInfo");
    stat = asn1PE_UMTS_IndividualTimeslotInfo(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
    /* ul-TS-ChannelisationCodeList */
-   rtxCtxtPushElemName(ctx, "ul-TS-ChannelisationCodeList");
    stat = asn1PE_UMTS_UL_TS_ChannelisationCodeList(ctx, &pvalue->ul_TS_ChannelisationCodeList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_UplinkAdditionalTimeslots_parameters(rtxContext* ctx, const UplinkAdditionalTimeslots_parameters* pvalue)
+int asn1PE_UMTS_UplinkAdditionalTimeslots_parameters(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_parameters* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "sameAsLast");
-         if (pvalue->u.sameAsLast == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.sameAsLast == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sameAsLast", -1, 0);
          stat = asn1PE_UMTS_UplinkAdditionalTimeslots_parameters_sameAsLast(ctx, pvalue->u.sameAsLast);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "newParameters");
-         if (pvalue->u.newParameters == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.newParameters == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "newParameters", -1, 0);
          stat = asn1PE_UMTS_UplinkAdditionalTimeslots_parameters_newParameters(ctx, pvalue->u.newParameters);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
          break;
       default:
          break;
@@ -7963,62 +6127,50 @@ int asn1PE_UMTS_UplinkAdditionalTimeslots_parameters(rtxContext* ctx, const Upli
    return 0;
 }
 
-int asn1PE_UMTS_UplinkAdditionalTimeslots(rtxContext* ctx, const UplinkAdditionalTimeslots* pvalue)
+int asn1PE_UMTS_UplinkAdditionalTimeslots(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UplinkAdditionalTimeslots");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UplinkAdditionalTimeslots");
    /* parameters */
-   rtxCtxtPushElemName(ctx, "parameters");
    stat = asn1PE_UMTS_UplinkAdditionalTimeslots_parameters(ctx, &pvalue->parameters);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "parameters", -1, "UplinkAdditionalTimeslots");
    return 0;
 }
 
-int asn1PE_UMTS_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* ctx, const UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList* pvalue)
+int asn1PE_UMTS_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 13);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "UplinkAdditionalTimeslots", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UplinkAdditionalTimeslots", (int32_t)i, 0);
       stat = asn1PE_UMTS_UplinkAdditionalTimeslots(ctx, (const UplinkAdditionalTimeslots*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "UplinkAdditionalTimeslots", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots(rtxContext* ctx, const UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots* pvalue)
+int asn1PE_UMTS_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "consecutive");
-         if (pvalue->u.consecutive == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.consecutive == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "consecutive", -1, 0);
          stat = asn1PE_UMTS_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_consecutive(ctx, pvalue->u.consecutive);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "timeslotList");
-         if (pvalue->u.timeslotList == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.timeslotList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "timeslotList", -1, 0);
          stat = asn1PE_UMTS_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
          break;
       default:
          break;
@@ -8026,26 +6178,20 @@ int asn1PE_UMTS_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots(rtxContex
    return 0;
 }
 
-int asn1PE_UMTS_UplinkTimeslotsCodes_moreTimeslots(rtxContext* ctx, const UplinkTimeslotsCodes_moreTimeslots* pvalue)
+int asn1PE_UMTS_UplinkTimeslotsCodes_moreTimeslots(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_moreTimeslots* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "noMore");
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "additionalTimeslots");
-         if (pvalue->u.additionalTimeslots == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.additionalTimeslots == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "additionalTimeslots", -1, 0);
          stat = asn1PE_UMTS_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "additionalTimeslots", -1, 0);
          break;
       default:
          break;
@@ -8053,353 +6199,285 @@ int asn1PE_UMTS_UplinkTimeslotsCodes_moreTimeslots(rtxContext* ctx, const Uplink
    return 0;
 }
 
-int asn1PE_UMTS_UplinkTimeslotsCodes(rtxContext* ctx, const UplinkTimeslotsCodes* pvalue)
+int asn1PE_UMTS_UplinkTimeslotsCodes(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UplinkTimeslotsCodes");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UplinkTimeslotsCodes");
    /* dynamicSFusage */
-   rtxCtxtPushElemName(ctx, "dynamicSFusage");
    stat = rtxEncBit(ctx, pvalue->dynamicSFusage);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "dynamicSFusage", -1, "UplinkTimeslotsCodes");
    /* firstIndividualTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "firstIndividualTimeslotInfo");
    stat = asn1PE_UMTS_IndividualTimeslotInfo(ctx, &pvalue->firstIndividualTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "UplinkTimeslotsCodes");
    /* ul-TS-ChannelisationCodeList */
-   rtxCtxtPushElemName(ctx, "ul-TS-ChannelisationCodeList");
    stat = asn1PE_UMTS_UL_TS_ChannelisationCodeList(ctx, &pvalue->ul_TS_ChannelisationCodeList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, "UplinkTimeslotsCodes");
    /* moreTimeslots */
-   rtxCtxtPushElemName(ctx, "moreTimeslots");
    stat = asn1PE_UMTS_UplinkTimeslotsCodes_moreTimeslots(ctx, &pvalue->moreTimeslots);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "UplinkTimeslotsCodes");
    return 0;
 }
 
-int asn1PE_UMTS_PUSCH_Info(rtxContext* ctx, const PUSCH_Info* pvalue)
+int asn1PE_UMTS_PUSCH_Info(rtxContext* RT_RESTRICT ctx, const PUSCH_Info* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PUSCH-Info");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-Info");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 2) |
       ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-Info");
    /* tfcs-ID */
    if (pvalue->tfcs_ID != 1) {
-      rtxCtxtPushElemName(ctx, "tfcs-ID");
-      rtxCtxtPushTypeName(ctx, "TFCS-IdentityPlain");
       if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
          rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "PUSCH-Info");
       }
       stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PUSCH-Info");
    }
    /* commonTimeslotInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "commonTimeslotInfo");
       stat = asn1PE_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "PUSCH-Info");
    }
    /* pusch-TimeslotsCodes */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "pusch-TimeslotsCodes");
       stat = asn1PE_UMTS_UplinkTimeslotsCodes(ctx, &pvalue->pusch_TimeslotsCodes);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pusch-TimeslotsCodes", -1, "PUSCH-Info");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_BitModeRLC_SizeInfo_sizeType2(rtxContext* ctx, const BitModeRLC_SizeInfo_sizeType2* pvalue)
+int asn1PE_UMTS_BitModeRLC_SizeInfo_sizeType2(rtxContext* RT_RESTRICT ctx, const BitModeRLC_SizeInfo_sizeType2* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* part1 */
-   rtxCtxtPushElemName(ctx, "part1");
    if ((uint64_t)pvalue->part1 > 15u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "part1");
       rtxErrAddUIntParm(ctx, pvalue->part1);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "part1", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->part1, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "part1", -1, 0);
    /* part2 */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "part2");
       if ((uint64_t)(pvalue->part2 - 1) > 6u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "part2");
          rtxErrAddUIntParm(ctx, pvalue->part2);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "part2", -1, 0);
       }
       stat = pe_ConsUInt64(ctx, pvalue->part2, 1, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "part2", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_BitModeRLC_SizeInfo_sizeType3(rtxContext* ctx, const BitModeRLC_SizeInfo_sizeType3* pvalue)
+int asn1PE_UMTS_BitModeRLC_SizeInfo_sizeType3(rtxContext* RT_RESTRICT ctx, const BitModeRLC_SizeInfo_sizeType3* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* part1 */
-   rtxCtxtPushElemName(ctx, "part1");
    if ((uint64_t)pvalue->part1 > 47u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "part1");
       rtxErrAddUIntParm(ctx, pvalue->part1);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "part1", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->part1, 0, 47);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "part1", -1, 0);
    /* part2 */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "part2");
       if ((uint64_t)(pvalue->part2 - 1) > 14u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "part2");
          rtxErrAddUIntParm(ctx, pvalue->part2);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "part2", -1, 0);
       }
       stat = pe_ConsUInt64(ctx, pvalue->part2, 1, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "part2", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_BitModeRLC_SizeInfo_sizeType4(rtxContext* ctx, const BitModeRLC_SizeInfo_sizeType4* pvalue)
+int asn1PE_UMTS_BitModeRLC_SizeInfo_sizeType4(rtxContext* RT_RESTRICT ctx, const BitModeRLC_SizeInfo_sizeType4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* part1 */
-   rtxCtxtPushElemName(ctx, "part1");
    if ((uint64_t)pvalue->part1 > 62u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "part1");
       rtxErrAddUIntParm(ctx, pvalue->part1);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "part1", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->part1, 0, 62);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "part1", -1, 0);
    /* part2 */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "part2");
       if ((uint64_t)(pvalue->part2 - 1) > 62u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "part2");
          rtxErrAddUIntParm(ctx, pvalue->part2);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "part2", -1, 0);
       }
       stat = pe_ConsUInt64(ctx, pvalue->part2, 1, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "part2", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_BitModeRLC_SizeInfo(rtxContext* ctx, const BitModeRLC_SizeInfo* pvalue)
+int asn1PE_UMTS_BitModeRLC_SizeInfo(rtxContext* RT_RESTRICT ctx, const BitModeRLC_SizeInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "BitModeRLC-SizeInfo");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "BitModeRLC-SizeInfo");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 3) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "BitModeRLC-SizeInfo");
+   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "BitModeRLC-SizeInfo");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "sizeType1");
          if ((uint64_t)pvalue->u.sizeType1 > 127u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "sizeType1");
             rtxErrAddUIntParm(ctx, pvalue->u.sizeType1);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sizeType1", -1, "BitModeRLC-SizeInfo");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sizeType1, 0, 127);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "sizeType1", -1, "BitModeRLC-SizeInfo");
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "sizeType2");
-         if (pvalue->u.sizeType2 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.sizeType2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sizeType2", -1, "BitModeRLC-SizeInfo");
          stat = asn1PE_UMTS_BitModeRLC_SizeInfo_sizeType2(ctx, pvalue->u.sizeType2);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "sizeType2", -1, "BitModeRLC-SizeInfo");
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "sizeType3");
-         if (pvalue->u.sizeType3 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.sizeType3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sizeType3", -1, "BitModeRLC-SizeInfo");
          stat = asn1PE_UMTS_BitModeRLC_SizeInfo_sizeType3(ctx, pvalue->u.sizeType3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "sizeType3", -1, "BitModeRLC-SizeInfo");
          break;
       case 4:
-         rtxCtxtPushElemName(ctx, "sizeType4");
-         if (pvalue->u.sizeType4 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.sizeType4 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sizeType4", -1, "BitModeRLC-SizeInfo");
          stat = asn1PE_UMTS_BitModeRLC_SizeInfo_sizeType4(ctx, pvalue->u.sizeType4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "sizeType4", -1, "BitModeRLC-SizeInfo");
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_OctetModeRLC_SizeInfoType1_sizeType2(rtxContext* ctx, const OctetModeRLC_SizeInfoType1_sizeType2* pvalue)
+int asn1PE_UMTS_OctetModeRLC_SizeInfoType1_sizeType2(rtxContext* RT_RESTRICT ctx, const OctetModeRLC_SizeInfoType1_sizeType2* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* part1 */
-   rtxCtxtPushElemName(ctx, "part1");
    if ((uint64_t)pvalue->part1 > 23u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "part1");
       rtxErrAddUIntParm(ctx, pvalue->part1);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "part1", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->part1, 0, 23);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "part1", -1, 0);
    /* part2 */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "part2");
       if ((uint64_t)(pvalue->part2 - 1) > 2u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "part2");
          rtxErrAddUIntParm(ctx, pvalue->part2);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "part2", -1, 0);
       }
       stat = pe_ConsUInt64(ctx, pvalue->part2, 1, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "part2", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_OctetModeRLC_SizeInfoType1_sizeType3(rtxContext* ctx, const OctetModeRLC_SizeInfoType1_sizeType3* pvalue)
+int asn1PE_UMTS_OctetModeRLC_SizeInfoType1_sizeType3(rtxContext* RT_RESTRICT ctx, const OctetModeRLC_SizeInfoType1_sizeType3* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* part1 */
-   rtxCtxtPushElemName(ctx, "part1");
    if ((uint64_t)pvalue->part1 > 61u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "part1");
       rtxErrAddUIntParm(ctx, pvalue->part1);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "part1", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->part1, 0, 61);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "part1", -1, 0);
    /* part2 */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "part2");
       if ((uint64_t)(pvalue->part2 - 1) > 6u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "part2");
          rtxErrAddUIntParm(ctx, pvalue->part2);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "part2", -1, 0);
       }
       stat = pe_ConsUInt64(ctx, pvalue->part2, 1, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "part2", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_OctetModeRLC_SizeInfoType1(rtxContext* ctx, const OctetModeRLC_SizeInfoType1* pvalue)
+int asn1PE_UMTS_OctetModeRLC_SizeInfoType1(rtxContext* RT_RESTRICT ctx, const OctetModeRLC_SizeInfoType1* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "OctetModeRLC-SizeInfoType1");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "OctetModeRLC-SizeInfoType1");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "OctetModeRLC-SizeInfoType1");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "OctetModeRLC-SizeInfoType1");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "sizeType1");
          if ((uint64_t)pvalue->u.sizeType1 > 31u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "sizeType1");
             rtxErrAddUIntParm(ctx, pvalue->u.sizeType1);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sizeType1", -1, "OctetModeRLC-SizeInfoType1");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sizeType1, 0, 31);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "sizeType1", -1, "OctetModeRLC-SizeInfoType1");
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "sizeType2");
-         if (pvalue->u.sizeType2 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.sizeType2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sizeType2", -1, "OctetModeRLC-SizeInfoType1");
          stat = asn1PE_UMTS_OctetModeRLC_SizeInfoType1_sizeType2(ctx, pvalue->u.sizeType2);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "sizeType2", -1, "OctetModeRLC-SizeInfoType1");
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "sizeType3");
-         if (pvalue->u.sizeType3 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.sizeType3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sizeType3", -1, "OctetModeRLC-SizeInfoType1");
          stat = asn1PE_UMTS_OctetModeRLC_SizeInfoType1_sizeType3(ctx, pvalue->u.sizeType3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "sizeType3", -1, "OctetModeRLC-SizeInfoType1");
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_DedicatedDynamicTF_Info_rlc_Size(rtxContext* ctx, const DedicatedDynamicTF_Info_rlc_Size* pvalue)
+int asn1PE_UMTS_DedicatedDynamicTF_Info_rlc_Size(rtxContext* RT_RESTRICT ctx, const DedicatedDynamicTF_Info_rlc_Size* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "bitMode");
-         if (pvalue->u.bitMode == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.bitMode == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "bitMode", -1, 0);
          stat = asn1PE_UMTS_BitModeRLC_SizeInfo(ctx, pvalue->u.bitMode);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "bitMode", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "octetModeType1");
-         if (pvalue->u.octetModeType1 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.octetModeType1 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "octetModeType1", -1, 0);
          stat = asn1PE_UMTS_OctetModeRLC_SizeInfoType1(ctx, pvalue->u.octetModeType1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "octetModeType1", -1, 0);
          break;
       default:
          break;
@@ -8407,244 +6485,190 @@ int asn1PE_UMTS_DedicatedDynamicTF_Info_rlc_Size(rtxContext* ctx, const Dedicate
    return 0;
 }
 
-int asn1PE_UMTS_NumberOfTransportBlocks(rtxContext* ctx, const NumberOfTransportBlocks* pvalue)
+int asn1PE_UMTS_NumberOfTransportBlocks(rtxContext* RT_RESTRICT ctx, const NumberOfTransportBlocks* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NumberOfTransportBlocks");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NumberOfTransportBlocks");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 3) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "NumberOfTransportBlocks");
+   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "NumberOfTransportBlocks");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "zero");
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "one");
-         rtxCtxtPopElemName(ctx);
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "small");
          if ((uint64_t)(pvalue->u.small - 2) > 15u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "small");
             rtxErrAddUIntParm(ctx, pvalue->u.small);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "small", -1, "NumberOfTransportBlocks");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.small, 2, 17);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "small", -1, "NumberOfTransportBlocks");
          break;
       case 4:
-         rtxCtxtPushElemName(ctx, "large");
          if ((uint64_t)(pvalue->u.large - 18) > 494u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "large");
             rtxErrAddUIntParm(ctx, pvalue->u.large);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "large", -1, "NumberOfTransportBlocks");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.large, 18, 512);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "large", -1, "NumberOfTransportBlocks");
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_DedicatedDynamicTF_Info_numberOfTbSizeList(rtxContext* ctx, const DedicatedDynamicTF_Info_numberOfTbSizeList* pvalue)
+int asn1PE_UMTS_DedicatedDynamicTF_Info_numberOfTbSizeList(rtxContext* RT_RESTRICT ctx, const DedicatedDynamicTF_Info_numberOfTbSizeList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 32);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "NumberOfTransportBlocks", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NumberOfTransportBlocks", (int32_t)i, 0);
       stat = asn1PE_UMTS_NumberOfTransportBlocks(ctx, (const NumberOfTransportBlocks*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "NumberOfTransportBlocks", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_RB_Identity(rtxContext* ctx, RB_Identity value)
+int asn1PE_UMTS_RB_Identity(rtxContext* RT_RESTRICT ctx, RB_Identity value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RB-Identity");
    if ((uint64_t)(value - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "RB-Identity");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "RB-Identity");
    }
    stat = pe_ConsUInt64(ctx, value, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-Identity");
    return 0;
 }
 
-int asn1PE_UMTS_LogicalChannelByRB(rtxContext* ctx, const LogicalChannelByRB* pvalue)
+int asn1PE_UMTS_LogicalChannelByRB(rtxContext* RT_RESTRICT ctx, const LogicalChannelByRB* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "LogicalChannelByRB");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "LogicalChannelByRB");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "LogicalChannelByRB");
    /* rb-Identity */
-   rtxCtxtPushElemName(ctx, "rb-Identity");
-   rtxCtxtPushTypeName(ctx, "RB-Identity");
    if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "RB-Identity");
       rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "LogicalChannelByRB");
    }
    stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "LogicalChannelByRB");
    /* logChOfRb */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "logChOfRb");
       if ((uint64_t)pvalue->logChOfRb > 1u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "logChOfRb");
          rtxErrAddUIntParm(ctx, pvalue->logChOfRb);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "logChOfRb", -1, "LogicalChannelByRB");
       }
       stat = pe_ConsUInt64(ctx, pvalue->logChOfRb, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "logChOfRb", -1, "LogicalChannelByRB");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_LogicalChannelList_explicitList(rtxContext* ctx, const LogicalChannelList_explicitList* pvalue)
+int asn1PE_UMTS_LogicalChannelList_explicitList(rtxContext* RT_RESTRICT ctx, const LogicalChannelList_explicitList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 15);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "LogicalChannelByRB", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "LogicalChannelByRB", (int32_t)i, 0);
       stat = asn1PE_UMTS_LogicalChannelByRB(ctx, (const LogicalChannelByRB*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "LogicalChannelByRB", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_LogicalChannelList(rtxContext* ctx, const LogicalChannelList* pvalue)
+int asn1PE_UMTS_LogicalChannelList(rtxContext* RT_RESTRICT ctx, const LogicalChannelList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "LogicalChannelList");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "LogicalChannelList");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "LogicalChannelList");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "LogicalChannelList");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "allSizes");
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "configured");
-         rtxCtxtPopElemName(ctx);
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "explicitList");
-         if (pvalue->u.explicitList == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.explicitList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "explicitList", -1, "LogicalChannelList");
          stat = asn1PE_UMTS_LogicalChannelList_explicitList(ctx, pvalue->u.explicitList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "explicitList", -1, "LogicalChannelList");
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_DedicatedDynamicTF_Info(rtxContext* ctx, const DedicatedDynamicTF_Info* pvalue)
+int asn1PE_UMTS_DedicatedDynamicTF_Info(rtxContext* RT_RESTRICT ctx, const DedicatedDynamicTF_Info* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DedicatedDynamicTF-Info");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DedicatedDynamicTF-Info");
    /* rlc-Size */
-   rtxCtxtPushElemName(ctx, "rlc-Size");
    stat = asn1PE_UMTS_DedicatedDynamicTF_Info_rlc_Size(ctx, &pvalue->rlc_Size);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "rlc-Size", -1, "DedicatedDynamicTF-Info");
    /* numberOfTbSizeList */
-   rtxCtxtPushElemName(ctx, "numberOfTbSizeList");
    stat = asn1PE_UMTS_DedicatedDynamicTF_Info_numberOfTbSizeList(ctx, &pvalue->numberOfTbSizeList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "numberOfTbSizeList", -1, "DedicatedDynamicTF-Info");
    /* logicalChannelList */
-   rtxCtxtPushElemName(ctx, "logicalChannelList");
    stat = asn1PE_UMTS_LogicalChannelList(ctx, &pvalue->logicalChannelList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "logicalChannelList", -1, "DedicatedDynamicTF-Info");
    return 0;
 }
 
-int asn1PE_UMTS_DedicatedDynamicTF_InfoList(rtxContext* ctx, const DedicatedDynamicTF_InfoList* pvalue)
+int asn1PE_UMTS_DedicatedDynamicTF_InfoList(rtxContext* RT_RESTRICT ctx, const DedicatedDynamicTF_InfoList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DedicatedDynamicTF-InfoList");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "DedicatedDynamicTF-InfoList");
    RT_SET_SIZE(ctx, 1, 32);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DedicatedDynamicTF-InfoList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "DedicatedDynamicTF-Info", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DedicatedDynamicTF-Info", (int32_t)i, "DedicatedDynamicTF-InfoList");
       stat = asn1PE_UMTS_DedicatedDynamicTF_Info(ctx, (const DedicatedDynamicTF_Info*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "DedicatedDynamicTF-Info", (int32_t)i, "DedicatedDynamicTF-InfoList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_DedicatedDynamicTF_Info_DynamicTTI_rlc_Size(rtxContext* ctx, const DedicatedDynamicTF_Info_DynamicTTI_rlc_Size* pvalue)
+int asn1PE_UMTS_DedicatedDynamicTF_Info_DynamicTTI_rlc_Size(rtxContext* RT_RESTRICT ctx, const DedicatedDynamicTF_Info_DynamicTTI_rlc_Size* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "bitMode");
-         if (pvalue->u.bitMode == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.bitMode == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "bitMode", -1, 0);
          stat = asn1PE_UMTS_BitModeRLC_SizeInfo(ctx, pvalue->u.bitMode);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "bitMode", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "octetModeType1");
-         if (pvalue->u.octetModeType1 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.octetModeType1 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "octetModeType1", -1, 0);
          stat = asn1PE_UMTS_OctetModeRLC_SizeInfoType1(ctx, pvalue->u.octetModeType1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "octetModeType1", -1, 0);
          break;
       default:
          break;
@@ -8652,153 +6676,117 @@ int asn1PE_UMTS_DedicatedDynamicTF_Info_DynamicTTI_rlc_Size(rtxContext* ctx, con
    return 0;
 }
 
-int asn1PE_UMTS_TransmissionTimeInterval(rtxContext* ctx, TransmissionTimeInterval value)
+int asn1PE_UMTS_TransmissionTimeInterval(rtxContext* RT_RESTRICT ctx, TransmissionTimeInterval value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TransmissionTimeInterval");
    if (value > 3) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TransmissionTimeInterval");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransmissionTimeInterval");
    return 0;
 }
 
-int asn1PE_UMTS_NumberOfTbSizeAndTTIList_element(rtxContext* ctx, const NumberOfTbSizeAndTTIList_element* pvalue)
+int asn1PE_UMTS_NumberOfTbSizeAndTTIList_element(rtxContext* RT_RESTRICT ctx, const NumberOfTbSizeAndTTIList_element* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* numberOfTransportBlocks */
-   rtxCtxtPushElemName(ctx, "numberOfTransportBlocks");
    stat = asn1PE_UMTS_NumberOfTransportBlocks(ctx, &pvalue->numberOfTransportBlocks);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "numberOfTransportBlocks", -1, 0);
    /* transmissionTimeInterval */
-   rtxCtxtPushElemName(ctx, "transmissionTimeInterval");
-   rtxCtxtPushTypeName(ctx, "TransmissionTimeInterval");
    if (pvalue->transmissionTimeInterval > 3) {
       rtxErrAddUIntParm(ctx, pvalue->transmissionTimeInterval);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TransmissionTimeInterval", "transmissionTimeInterval", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->transmissionTimeInterval, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TransmissionTimeInterval", "transmissionTimeInterval", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_NumberOfTbSizeAndTTIList(rtxContext* ctx, const NumberOfTbSizeAndTTIList* pvalue)
+int asn1PE_UMTS_NumberOfTbSizeAndTTIList(rtxContext* RT_RESTRICT ctx, const NumberOfTbSizeAndTTIList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NumberOfTbSizeAndTTIList");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NumberOfTbSizeAndTTIList");
    RT_SET_SIZE(ctx, 1, 32);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NumberOfTbSizeAndTTIList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "NumberOfTbSizeAndTTIList");
       stat = asn1PE_UMTS_NumberOfTbSizeAndTTIList_element(ctx, (const NumberOfTbSizeAndTTIList_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "NumberOfTbSizeAndTTIList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_DedicatedDynamicTF_Info_DynamicTTI(rtxContext* ctx, const DedicatedDynamicTF_Info_DynamicTTI* pvalue)
+int asn1PE_UMTS_DedicatedDynamicTF_Info_DynamicTTI(rtxContext* RT_RESTRICT ctx, const DedicatedDynamicTF_Info_DynamicTTI* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DedicatedDynamicTF-Info-DynamicTTI");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DedicatedDynamicTF-Info-DynamicTTI");
    /* rlc-Size */
-   rtxCtxtPushElemName(ctx, "rlc-Size");
    stat = asn1PE_UMTS_DedicatedDynamicTF_Info_DynamicTTI_rlc_Size(ctx, &pvalue->rlc_Size);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "rlc-Size", -1, "DedicatedDynamicTF-Info-DynamicTTI");
    /* numberOfTbSizeAndTTIList */
-   rtxCtxtPushElemName(ctx, "numberOfTbSizeAndTTIList");
    stat = asn1PE_UMTS_NumberOfTbSizeAndTTIList(ctx, &pvalue->numberOfTbSizeAndTTIList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "numberOfTbSizeAndTTIList", -1, "DedicatedDynamicTF-Info-DynamicTTI");
    /* logicalChannelList */
-   rtxCtxtPushElemName(ctx, "logicalChannelList");
    stat = asn1PE_UMTS_LogicalChannelList(ctx, &pvalue->logicalChannelList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "logicalChannelList", -1, "DedicatedDynamicTF-Info-DynamicTTI");
    return 0;
 }
 
-int asn1PE_UMTS_DedicatedDynamicTF_InfoList_DynamicTTI(rtxContext* ctx, const DedicatedDynamicTF_InfoList_DynamicTTI* pvalue)
+int asn1PE_UMTS_DedicatedDynamicTF_InfoList_DynamicTTI(rtxContext* RT_RESTRICT ctx, const DedicatedDynamicTF_InfoList_DynamicTTI* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DedicatedDynamicTF-InfoList-DynamicTTI");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "DedicatedDynamicTF-InfoList-DynamicTTI");
    RT_SET_SIZE(ctx, 1, 32);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DedicatedDynamicTF-InfoList-DynamicTTI");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "DedicatedDynamicTF-Info-DynamicTTI", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DedicatedDynamicTF-Info-DynamicTTI", (int32_t)i, "DedicatedDynamicTF-InfoList-DynamicTTI");
       stat = asn1PE_UMTS_DedicatedDynamicTF_Info_DynamicTTI(ctx, (const DedicatedDynamicTF_Info_DynamicTTI*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "DedicatedDynamicTF-Info-DynamicTTI", (int32_t)i, "DedicatedDynamicTF-InfoList-DynamicTTI");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_DedicatedTransChTFS_tti(rtxContext* ctx, const DedicatedTransChTFS_tti* pvalue)
+int asn1PE_UMTS_DedicatedTransChTFS_tti(rtxContext* RT_RESTRICT ctx, const DedicatedTransChTFS_tti* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 4) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 4) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "tti10");
-         if (pvalue->u.tti10 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.tti10 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tti10", -1, 0);
          stat = asn1PE_UMTS_DedicatedDynamicTF_InfoList(ctx, pvalue->u.tti10);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tti10", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tti20");
-         if (pvalue->u.tti20 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.tti20 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tti20", -1, 0);
          stat = asn1PE_UMTS_DedicatedDynamicTF_InfoList(ctx, pvalue->u.tti20);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tti20", -1, 0);
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "tti40");
-         if (pvalue->u.tti40 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.tti40 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tti40", -1, 0);
          stat = asn1PE_UMTS_DedicatedDynamicTF_InfoList(ctx, pvalue->u.tti40);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tti40", -1, 0);
          break;
       case 4:
-         rtxCtxtPushElemName(ctx, "tti80");
-         if (pvalue->u.tti80 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.tti80 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tti80", -1, 0);
          stat = asn1PE_UMTS_DedicatedDynamicTF_InfoList(ctx, pvalue->u.tti80);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tti80", -1, 0);
          break;
       case 5:
-         rtxCtxtPushElemName(ctx, "dynamic");
-         if (pvalue->u.dynamic == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.dynamic == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dynamic", -1, 0);
          stat = asn1PE_UMTS_DedicatedDynamicTF_InfoList_DynamicTTI(ctx, pvalue->u.dynamic);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "dynamic", -1, 0);
          break;
       default:
          break;
@@ -8806,203 +6794,2224 @@ int asn1PE_UMTS_DedicatedTransChTFS_tti(rtxContext* ctx, const DedicatedTransChT
    return 0;
 }
 
-int asn1PE_UMTS_CodingRate(rtxContext* ctx, CodingRate value)
+int asn1PE_UMTS_CodingRate(rtxContext* RT_RESTRICT ctx, CodingRate value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CodingRate");
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "CodingRate");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CodingRate");
    return 0;
 }
 
-int asn1PE_UMTS_ChannelCodingType(rtxContext* ctx, const ChannelCodingType* pvalue)
+int asn1PE_UMTS_ChannelCodingType(rtxContext* RT_RESTRICT ctx, const ChannelCodingType* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ChannelCodingType");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ChannelCodingType");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "ChannelCodingType");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ChannelCodingType");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "noCoding");
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "convolutional");
-         rtxCtxtPushTypeName(ctx, "CodingRate");
          if (pvalue->u.convolutional > 1) {
             rtxErrAddUIntParm(ctx, pvalue->u.convolutional);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "CodingRate", "convolutional", -1, "ChannelCodingType");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.convolutional, 0, 1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "CodingRate", "convolutional", -1, "ChannelCodingType");
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "turbo");
-         rtxCtxtPopElemName(ctx);
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_RateMatchingAttribute(rtxContext* ctx, RateMatchingAttribute value)
+int asn1PE_UMTS_RateMatchingAttribute(rtxContext* RT_RESTRICT ctx, RateMatchingAttribute value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RateMatchingAttribute");
    if ((uint64_t)(value - 1) > 255u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "RateMatchingAttribute");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "RateMatchingAttribute");
    }
    stat = pe_ConsUInt64(ctx, value, 1, 256);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RateMatchingAttribute");
    return 0;
 }
 
-int asn1PE_UMTS_CRC_Size(rtxContext* ctx, CRC_Size value)
+int asn1PE_UMTS_CRC_Size(rtxContext* RT_RESTRICT ctx, CRC_Size value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CRC-Size");
    if (value > 4) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "CRC-Size");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CRC-Size");
    return 0;
 }
 
-int asn1PE_UMTS_SemistaticTF_Information(rtxContext* ctx, const SemistaticTF_Information* pvalue)
+int asn1PE_UMTS_SemistaticTF_Information(rtxContext* RT_RESTRICT ctx, const SemistaticTF_Information* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SemistaticTF-Information");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SemistaticTF-Information");
    /* channelCodingType */
-   rtxCtxtPushElemName(ctx, "channelCodingType");
    stat = asn1PE_UMTS_ChannelCodingType(ctx, &pvalue->channelCodingType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "channelCodingType", -1, "SemistaticTF-Information");
    /* rateMatchingAttribute */
-   rtxCtxtPushElemName(ctx, "rateMatchingAttribute");
-   rtxCtxtPushTypeName(ctx, "RateMatchingAttribute");
    if ((uint64_t)(pvalue->rateMatchingAttribute - 1) > 255u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "RateMatchingAttribute");
       rtxErrAddUIntParm(ctx, pvalue->rateMatchingAttribute);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RateMatchingAttribute", "rateMatchingAttribute", -1, "SemistaticTF-Information");
    }
    stat = pe_ConsUInt64(ctx, pvalue->rateMatchingAttribute, 1, 256);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "RateMatchingAttribute", "rateMatchingAttribute", -1, "SemistaticTF-Information");
    /* crc-Size */
-   rtxCtxtPushElemName(ctx, "crc-Size");
-   rtxCtxtPushTypeName(ctx, "CRC-Size");
    if (pvalue->crc_Size > 4) {
       rtxErrAddUIntParm(ctx, pvalue->crc_Size);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CRC-Size", "crc-Size", -1, "SemistaticTF-Information");
    }
    stat = pe_ConsUInt64(ctx, pvalue->crc_Size, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "CRC-Size", "crc-Size", -1, "SemistaticTF-Information");
    return 0;
 }
 
-int asn1PE_UMTS_DedicatedTransChTFS(rtxContext* ctx, const DedicatedTransChTFS* pvalue)
+int asn1PE_UMTS_DedicatedTransChTFS(rtxContext* RT_RESTRICT ctx, const DedicatedTransChTFS* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DedicatedTransChTFS");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DedicatedTransChTFS");
    /* tti */
-   rtxCtxtPushElemName(ctx, "tti");
    stat = asn1PE_UMTS_DedicatedTransChTFS_tti(ctx, &pvalue->tti);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "tti", -1, "DedicatedTransChTFS");
    /* semistaticTF-Information */
-   rtxCtxtPushElemName(ctx, "semistaticTF-Information");
    stat = asn1PE_UMTS_SemistaticTF_Information(ctx, &pvalue->semistaticTF_Information);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "semistaticTF-Information", -1, "DedicatedTransChTFS");
    return 0;
 }
 
-int asn1PE_UMTS_OctetModeRLC_SizeInfoType2(rtxContext* ctx, const OctetModeRLC_SizeInfoType2* pvalue)
+int asn1PE_UMTS_OctetModeRLC_SizeInfoType2(rtxContext* RT_RESTRICT ctx, const OctetModeRLC_SizeInfoType2* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "OctetModeRLC-SizeInfoType2");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "OctetModeRLC-SizeInfoType2");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "OctetModeRLC-SizeInfoType2");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "OctetModeRLC-SizeInfoType2");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "sizeType1");
          if ((uint64_t)pvalue->u.sizeType1 > 31u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "sizeType1");
             rtxErrAddUIntParm(ctx, pvalue->u.sizeType1);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sizeType1", -1, "OctetModeRLC-SizeInfoType2");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sizeType1, 0, 31);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "sizeType1", -1, "OctetModeRLC-SizeInfoType2");
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "sizeType2");
          if ((uint64_t)pvalue->u.sizeType2 > 63u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "sizeType2");
             rtxErrAddUIntParm(ctx, pvalue->u.sizeType2);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sizeType2", -1, "OctetModeRLC-SizeInfoType2");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sizeType2, 0, 63);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "sizeType2", -1, "OctetModeRLC-SizeInfoType2");
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "sizeType3");
          if ((uint64_t)pvalue->u.sizeType3 > 56u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "sizeType3");
             rtxErrAddUIntParm(ctx, pvalue->u.sizeType3);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sizeType3", -1, "OctetModeRLC-SizeInfoType2");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sizeType3, 0, 56);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "sizeType3", -1, "OctetModeRLC-SizeInfoType2");
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_CommonDynamicTF_Info_rlc_Size_fdd(rtxContext* ctx, const CommonDynamicTF_Info_rlc_Size_fdd* pvalue)
+int asn1PE_UMTS_CommonDynamicTF_Info_rlc_Size_fdd(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info_rlc_Size_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* octetModeRLC-SizeInfoType2 */
-   rtxCtxtPushElemName(ctx, "octetModeRLC-SizeInfoType2");
    stat = asn1PE_UMTS_OctetModeRLC_SizeInfoType2(ctx, &pvalue->octetModeRLC_SizeInfoType2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "octetModeRLC-SizeInfoType2", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CommonDynamicTF_Info_rlc_Size_tdd_commonTDD_Choice(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info_rlc_Size_tdd_commonTDD_Choice* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.bitModeRLC_SizeInfo == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "bitModeRLC-SizeInfo", -1, 0);
+         stat = asn1PE_UMTS_BitModeRLC_SizeInfo(ctx, pvalue->u.bitModeRLC_SizeInfo);
+         RT_CHECK(ctx, stat, 0, "bitModeRLC-SizeInfo", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.octetModeRLC_SizeInfoType1 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "octetModeRLC-SizeInfoType1", -1, 0);
+         stat = asn1PE_UMTS_OctetModeRLC_SizeInfoType1(ctx, pvalue->u.octetModeRLC_SizeInfoType1);
+         RT_CHECK(ctx, stat, 0, "octetModeRLC-SizeInfoType1", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CommonDynamicTF_Info_rlc_Size_tdd(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info_rlc_Size_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* commonTDD-Choice */
+   stat = asn1PE_UMTS_CommonDynamicTF_Info_rlc_Size_tdd_commonTDD_Choice(ctx, &pvalue->commonTDD_Choice);
+   RT_CHECK(ctx, stat, 0, "commonTDD-Choice", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CommonDynamicTF_Info_rlc_Size(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info_rlc_Size* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_CommonDynamicTF_Info_rlc_Size_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_CommonDynamicTF_Info_rlc_Size_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CommonDynamicTF_Info_numberOfTbSizeList(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info_numberOfTbSizeList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NumberOfTransportBlocks", (int32_t)i, 0);
+      stat = asn1PE_UMTS_NumberOfTransportBlocks(ctx, (const NumberOfTransportBlocks*)node->data);
+      RT_CHECK(ctx, stat, 0, "NumberOfTransportBlocks", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CommonDynamicTF_Info(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CommonDynamicTF-Info");
+   /* rlc-Size */
+   stat = asn1PE_UMTS_CommonDynamicTF_Info_rlc_Size(ctx, &pvalue->rlc_Size);
+   RT_CHECK(ctx, stat, 0, "rlc-Size", -1, "CommonDynamicTF-Info");
+   /* numberOfTbSizeList */
+   stat = asn1PE_UMTS_CommonDynamicTF_Info_numberOfTbSizeList(ctx, &pvalue->numberOfTbSizeList);
+   RT_CHECK(ctx, stat, 0, "numberOfTbSizeList", -1, "CommonDynamicTF-Info");
+   /* logicalChannelList */
+   stat = asn1PE_UMTS_LogicalChannelList(ctx, &pvalue->logicalChannelList);
+   RT_CHECK(ctx, stat, 0, "logicalChannelList", -1, "CommonDynamicTF-Info");
+   return 0;
+}
+
+int asn1PE_UMTS_CommonDynamicTF_InfoList(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_InfoList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CommonDynamicTF-InfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CommonDynamicTF-InfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CommonDynamicTF-Info", (int32_t)i, "CommonDynamicTF-InfoList");
+      stat = asn1PE_UMTS_CommonDynamicTF_Info(ctx, (const CommonDynamicTF_Info*)node->data);
+      RT_CHECK(ctx, stat, 0, "CommonDynamicTF-Info", (int32_t)i, "CommonDynamicTF-InfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CommonDynamicTF_Info_DynamicTTI_commonTDD_Choice(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info_DynamicTTI_commonTDD_Choice* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.bitModeRLC_SizeInfo == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "bitModeRLC-SizeInfo", -1, 0);
+         stat = asn1PE_UMTS_BitModeRLC_SizeInfo(ctx, pvalue->u.bitModeRLC_SizeInfo);
+         RT_CHECK(ctx, stat, 0, "bitModeRLC-SizeInfo", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.octetModeRLC_SizeInfoType1 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "octetModeRLC-SizeInfoType1", -1, 0);
+         stat = asn1PE_UMTS_OctetModeRLC_SizeInfoType1(ctx, pvalue->u.octetModeRLC_SizeInfoType1);
+         RT_CHECK(ctx, stat, 0, "octetModeRLC-SizeInfoType1", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CommonDynamicTF_Info_DynamicTTI(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info_DynamicTTI* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CommonDynamicTF-Info-DynamicTTI");
+   /* commonTDD-Choice */
+   stat = asn1PE_UMTS_CommonDynamicTF_Info_DynamicTTI_commonTDD_Choice(ctx, &pvalue->commonTDD_Choice);
+   RT_CHECK(ctx, stat, 0, "commonTDD-Choice", -1, "CommonDynamicTF-Info-DynamicTTI");
+   /* numberOfTbSizeAndTTIList */
+   stat = asn1PE_UMTS_NumberOfTbSizeAndTTIList(ctx, &pvalue->numberOfTbSizeAndTTIList);
+   RT_CHECK(ctx, stat, 0, "numberOfTbSizeAndTTIList", -1, "CommonDynamicTF-Info-DynamicTTI");
+   /* logicalChannelList */
+   stat = asn1PE_UMTS_LogicalChannelList(ctx, &pvalue->logicalChannelList);
+   RT_CHECK(ctx, stat, 0, "logicalChannelList", -1, "CommonDynamicTF-Info-DynamicTTI");
+   return 0;
+}
+
+int asn1PE_UMTS_CommonDynamicTF_InfoList_DynamicTTI(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_InfoList_DynamicTTI* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CommonDynamicTF-InfoList-DynamicTTI");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CommonDynamicTF-InfoList-DynamicTTI");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CommonDynamicTF-Info-DynamicTTI", (int32_t)i, "CommonDynamicTF-InfoList-DynamicTTI");
+      stat = asn1PE_UMTS_CommonDynamicTF_Info_DynamicTTI(ctx, (const CommonDynamicTF_Info_DynamicTTI*)node->data);
+      RT_CHECK(ctx, stat, 0, "CommonDynamicTF-Info-DynamicTTI", (int32_t)i, "CommonDynamicTF-InfoList-DynamicTTI");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CommonTransChTFS_tti(rtxContext* RT_RESTRICT ctx, const CommonTransChTFS_tti* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 4);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 4) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tti10 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tti10", -1, 0);
+         stat = asn1PE_UMTS_CommonDynamicTF_InfoList(ctx, pvalue->u.tti10);
+         RT_CHECK(ctx, stat, 0, "tti10", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tti20 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tti20", -1, 0);
+         stat = asn1PE_UMTS_CommonDynamicTF_InfoList(ctx, pvalue->u.tti20);
+         RT_CHECK(ctx, stat, 0, "tti20", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.tti40 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tti40", -1, 0);
+         stat = asn1PE_UMTS_CommonDynamicTF_InfoList(ctx, pvalue->u.tti40);
+         RT_CHECK(ctx, stat, 0, "tti40", -1, 0);
+         break;
+      case 4:
+         if (pvalue->u.tti80 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tti80", -1, 0);
+         stat = asn1PE_UMTS_CommonDynamicTF_InfoList(ctx, pvalue->u.tti80);
+         RT_CHECK(ctx, stat, 0, "tti80", -1, 0);
+         break;
+      case 5:
+         if (pvalue->u.dynamic == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dynamic", -1, 0);
+         stat = asn1PE_UMTS_CommonDynamicTF_InfoList_DynamicTTI(ctx, pvalue->u.dynamic);
+         RT_CHECK(ctx, stat, 0, "dynamic", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CommonTransChTFS(rtxContext* RT_RESTRICT ctx, const CommonTransChTFS* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CommonTransChTFS");
+   /* tti */
+   stat = asn1PE_UMTS_CommonTransChTFS_tti(ctx, &pvalue->tti);
+   RT_CHECK(ctx, stat, 0, "tti", -1, "CommonTransChTFS");
+   /* semistaticTF-Information */
+   stat = asn1PE_UMTS_SemistaticTF_Information(ctx, &pvalue->semistaticTF_Information);
+   RT_CHECK(ctx, stat, 0, "semistaticTF-Information", -1, "CommonTransChTFS");
+   return 0;
+}
+
+int asn1PE_UMTS_TransportFormatSet(rtxContext* RT_RESTRICT ctx, const TransportFormatSet* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransportFormatSet");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "TransportFormatSet");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TransportFormatSet");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.dedicatedTransChTFS == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dedicatedTransChTFS", -1, "TransportFormatSet");
+         stat = asn1PE_UMTS_DedicatedTransChTFS(ctx, pvalue->u.dedicatedTransChTFS);
+         RT_CHECK(ctx, stat, 0, "dedicatedTransChTFS", -1, "TransportFormatSet");
+         break;
+      case 2:
+         if (pvalue->u.commonTransChTFS == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "commonTransChTFS", -1, "TransportFormatSet");
+         stat = asn1PE_UMTS_CommonTransChTFS(ctx, pvalue->u.commonTransChTFS);
+         RT_CHECK(ctx, stat, 0, "commonTransChTFS", -1, "TransportFormatSet");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GainFactor(rtxContext* RT_RESTRICT ctx, GainFactor value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 15u) {
+      rtxErrAddStrParm(ctx, "GainFactor");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "GainFactor");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "GainFactor");
+   return 0;
+}
+
+int asn1PE_UMTS_SignalledGainFactors_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SignalledGainFactors_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* gainFactorBetaC */
+   if ((uint64_t)pvalue->gainFactorBetaC > 15u) {
+      rtxErrAddStrParm(ctx, "GainFactor");
+      rtxErrAddUIntParm(ctx, pvalue->gainFactorBetaC);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "GainFactor", "gainFactorBetaC", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->gainFactorBetaC, 0, 15);
+   RT_CHECK(ctx, stat, "GainFactor", "gainFactorBetaC", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SignalledGainFactors_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SignalledGainFactors_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_SignalledGainFactors_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ReferenceTFC_ID(rtxContext* RT_RESTRICT ctx, ReferenceTFC_ID value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 3u) {
+      rtxErrAddStrParm(ctx, "ReferenceTFC-ID");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "ReferenceTFC-ID");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ReferenceTFC-ID");
+   return 0;
+}
+
+int asn1PE_UMTS_SignalledGainFactors(rtxContext* RT_RESTRICT ctx, const SignalledGainFactors* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SignalledGainFactors");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SignalledGainFactors");
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_SignalledGainFactors_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SignalledGainFactors");
+   /* gainFactorBetaD */
+   if ((uint64_t)pvalue->gainFactorBetaD > 15u) {
+      rtxErrAddStrParm(ctx, "GainFactor");
+      rtxErrAddUIntParm(ctx, pvalue->gainFactorBetaD);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "GainFactor", "gainFactorBetaD", -1, "SignalledGainFactors");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->gainFactorBetaD, 0, 15);
+   RT_CHECK(ctx, stat, "GainFactor", "gainFactorBetaD", -1, "SignalledGainFactors");
+   /* referenceTFC-ID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->referenceTFC_ID > 3u) {
+         rtxErrAddStrParm(ctx, "ReferenceTFC-ID");
+         rtxErrAddUIntParm(ctx, pvalue->referenceTFC_ID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "ReferenceTFC-ID", "referenceTFC-ID", -1, "SignalledGainFactors");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->referenceTFC_ID, 0, 3);
+      RT_CHECK(ctx, stat, "ReferenceTFC-ID", "referenceTFC-ID", -1, "SignalledGainFactors");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GainFactorInformation(rtxContext* RT_RESTRICT ctx, const GainFactorInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GainFactorInformation");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "GainFactorInformation");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "GainFactorInformation");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.signalledGainFactors == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "signalledGainFactors", -1, "GainFactorInformation");
+         stat = asn1PE_UMTS_SignalledGainFactors(ctx, pvalue->u.signalledGainFactors);
+         RT_CHECK(ctx, stat, 0, "signalledGainFactors", -1, "GainFactorInformation");
+         break;
+      case 2:
+         if ((uint64_t)pvalue->u.computedGainFactors > 3u) {
+            rtxErrAddStrParm(ctx, "ReferenceTFC-ID");
+            rtxErrAddUIntParm(ctx, pvalue->u.computedGainFactors);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "ReferenceTFC-ID", "computedGainFactors", -1, "GainFactorInformation");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.computedGainFactors, 0, 3);
+         RT_CHECK(ctx, stat, "ReferenceTFC-ID", "computedGainFactors", -1, "GainFactorInformation");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PowerOffsetPp_m(rtxContext* RT_RESTRICT ctx, PowerOffsetPp_m value)
+{
+   int stat = 0;
+   if (value < -5 || value > 10) {
+      rtxErrAddStrParm(ctx, "PowerOffsetPp-m");
+      rtxErrAddIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PowerOffsetPp-m");
+   }
+   stat = pe_ConsInt64(ctx, value, -5, 10);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PowerOffsetPp-m");
+   return 0;
+}
+
+int asn1PE_UMTS_PowerOffsetInformation(rtxContext* RT_RESTRICT ctx, const PowerOffsetInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PowerOffsetInformation");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PowerOffsetInformation");
+   /* gainFactorInformation */
+   stat = asn1PE_UMTS_GainFactorInformation(ctx, &pvalue->gainFactorInformation);
+   RT_CHECK(ctx, stat, 0, "gainFactorInformation", -1, "PowerOffsetInformation");
+   /* powerOffsetPp-m */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->powerOffsetPp_m < -5 || pvalue->powerOffsetPp_m > 10) {
+         rtxErrAddStrParm(ctx, "PowerOffsetPp-m");
+         rtxErrAddIntParm(ctx, pvalue->powerOffsetPp_m);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "PowerOffsetPp-m", "powerOffsetPp-m", -1, "PowerOffsetInformation");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->powerOffsetPp_m, -5, 10);
+      RT_CHECK(ctx, stat, "PowerOffsetPp-m", "powerOffsetPp-m", -1, "PowerOffsetInformation");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ctfc2 */
+   if ((uint64_t)pvalue->ctfc2 > 3u) {
+      rtxErrAddStrParm(ctx, "ctfc2");
+      rtxErrAddUIntParm(ctx, pvalue->ctfc2);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ctfc2", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ctfc2, 0, 3);
+   RT_CHECK(ctx, stat, 0, "ctfc2", -1, 0);
+   /* powerOffsetInformation */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation);
+      RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc2Bit(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc2Bit* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 1024);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
+      stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element(ctx, (const TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element*)node->data);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc4Bit_element(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc4Bit_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ctfc4 */
+   if ((uint64_t)pvalue->ctfc4 > 15u) {
+      rtxErrAddStrParm(ctx, "ctfc4");
+      rtxErrAddUIntParm(ctx, pvalue->ctfc4);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ctfc4", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ctfc4, 0, 15);
+   RT_CHECK(ctx, stat, 0, "ctfc4", -1, 0);
+   /* powerOffsetInformation */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation);
+      RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc4Bit(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc4Bit* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 1024);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
+      stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc4Bit_element(ctx, (const TFCS_ReconfAdd_ctfcSize_ctfc4Bit_element*)node->data);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc6Bit_element(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc6Bit_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ctfc6 */
+   if ((uint64_t)pvalue->ctfc6 > 63u) {
+      rtxErrAddStrParm(ctx, "ctfc6");
+      rtxErrAddUIntParm(ctx, pvalue->ctfc6);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ctfc6", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ctfc6, 0, 63);
+   RT_CHECK(ctx, stat, 0, "ctfc6", -1, 0);
+   /* powerOffsetInformation */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation);
+      RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc6Bit(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc6Bit* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 1024);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
+      stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc6Bit_element(ctx, (const TFCS_ReconfAdd_ctfcSize_ctfc6Bit_element*)node->data);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc8Bit_element(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc8Bit_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ctfc8 */
+   stat = pe_ConsUInt64(ctx, pvalue->ctfc8, 0, 255);
+   RT_CHECK(ctx, stat, 0, "ctfc8", -1, 0);
+   /* powerOffsetInformation */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation);
+      RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc8Bit(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc8Bit* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 1024);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
+      stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc8Bit_element(ctx, (const TFCS_ReconfAdd_ctfcSize_ctfc8Bit_element*)node->data);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ctfc12 */
+   if ((uint64_t)pvalue->ctfc12 > 4095u) {
+      rtxErrAddStrParm(ctx, "ctfc12");
+      rtxErrAddUIntParm(ctx, pvalue->ctfc12);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ctfc12", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ctfc12, 0, 4095);
+   RT_CHECK(ctx, stat, 0, "ctfc12", -1, 0);
+   /* powerOffsetInformation */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation);
+      RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc12Bit(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc12Bit* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 1024);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
+      stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element(ctx, (const TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element*)node->data);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ctfc16 */
+   stat = pe_ConsUInt64(ctx, pvalue->ctfc16, 0, 65535);
+   RT_CHECK(ctx, stat, 0, "ctfc16", -1, 0);
+   /* powerOffsetInformation */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation);
+      RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc16Bit(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc16Bit* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 1024);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
+      stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element(ctx, (const TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element*)node->data);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ctfc24 */
+   if ((uint64_t)pvalue->ctfc24 > 16777215u) {
+      rtxErrAddStrParm(ctx, "ctfc24");
+      rtxErrAddUIntParm(ctx, pvalue->ctfc24);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ctfc24", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ctfc24, 0, 16777215);
+   RT_CHECK(ctx, stat, 0, "ctfc24", -1, 0);
+   /* powerOffsetInformation */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation);
+      RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc24Bit(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc24Bit* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 1024);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
+      stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element(ctx, (const TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element*)node->data);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 6) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.ctfc2Bit == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ctfc2Bit", -1, 0);
+         stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc2Bit(ctx, pvalue->u.ctfc2Bit);
+         RT_CHECK(ctx, stat, 0, "ctfc2Bit", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.ctfc4Bit == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ctfc4Bit", -1, 0);
+         stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc4Bit(ctx, pvalue->u.ctfc4Bit);
+         RT_CHECK(ctx, stat, 0, "ctfc4Bit", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.ctfc6Bit == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ctfc6Bit", -1, 0);
+         stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc6Bit(ctx, pvalue->u.ctfc6Bit);
+         RT_CHECK(ctx, stat, 0, "ctfc6Bit", -1, 0);
+         break;
+      case 4:
+         if (pvalue->u.ctfc8Bit == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ctfc8Bit", -1, 0);
+         stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc8Bit(ctx, pvalue->u.ctfc8Bit);
+         RT_CHECK(ctx, stat, 0, "ctfc8Bit", -1, 0);
+         break;
+      case 5:
+         if (pvalue->u.ctfc12Bit == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ctfc12Bit", -1, 0);
+         stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc12Bit(ctx, pvalue->u.ctfc12Bit);
+         RT_CHECK(ctx, stat, 0, "ctfc12Bit", -1, 0);
+         break;
+      case 6:
+         if (pvalue->u.ctfc16Bit == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ctfc16Bit", -1, 0);
+         stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc16Bit(ctx, pvalue->u.ctfc16Bit);
+         RT_CHECK(ctx, stat, 0, "ctfc16Bit", -1, 0);
+         break;
+      case 7:
+         if (pvalue->u.ctfc24Bit == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ctfc24Bit", -1, 0);
+         stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc24Bit(ctx, pvalue->u.ctfc24Bit);
+         RT_CHECK(ctx, stat, 0, "ctfc24Bit", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_ReconfAdd(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TFCS-ReconfAdd");
+   /* ctfcSize */
+   stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize(ctx, &pvalue->ctfcSize);
+   RT_CHECK(ctx, stat, 0, "ctfcSize", -1, "TFCS-ReconfAdd");
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_Removal(rtxContext* RT_RESTRICT ctx, const TFCS_Removal* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TFCS-Removal");
+   /* tfci */
+   if ((uint64_t)pvalue->tfci > 1023u) {
+      rtxErrAddStrParm(ctx, "tfci");
+      rtxErrAddUIntParm(ctx, pvalue->tfci);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "tfci", -1, "TFCS-Removal");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->tfci, 0, 1023);
+   RT_CHECK(ctx, stat, 0, "tfci", -1, "TFCS-Removal");
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_RemovalList(rtxContext* RT_RESTRICT ctx, const TFCS_RemovalList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TFCS-RemovalList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 1024);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "TFCS-RemovalList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "TFCS-Removal", (int32_t)i, "TFCS-RemovalList");
+      stat = asn1PE_UMTS_TFCS_Removal(ctx, (const TFCS_Removal*)node->data);
+      RT_CHECK(ctx, stat, 0, "TFCS-Removal", (int32_t)i, "TFCS-RemovalList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ExplicitTFCS_Configuration_replacement(rtxContext* RT_RESTRICT ctx, const ExplicitTFCS_Configuration_replacement* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tfcsRemoval */
+   stat = asn1PE_UMTS_TFCS_RemovalList(ctx, &pvalue->tfcsRemoval);
+   RT_CHECK(ctx, stat, 0, "tfcsRemoval", -1, 0);
+   /* tfcsAdd */
+   stat = asn1PE_UMTS_TFCS_ReconfAdd(ctx, &pvalue->tfcsAdd);
+   RT_CHECK(ctx, stat, 0, "tfcsAdd", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_ExplicitTFCS_Configuration(rtxContext* RT_RESTRICT ctx, const ExplicitTFCS_Configuration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ExplicitTFCS-Configuration");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK(ctx, stat, 0, "t", -1, "ExplicitTFCS-Configuration");
+   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ExplicitTFCS-Configuration");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "complete", -1, "ExplicitTFCS-Configuration");
+         stat = asn1PE_UMTS_TFCS_ReconfAdd(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, "ExplicitTFCS-Configuration");
+         break;
+      case 2:
+         if (pvalue->u.addition == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "addition", -1, "ExplicitTFCS-Configuration");
+         stat = asn1PE_UMTS_TFCS_ReconfAdd(ctx, pvalue->u.addition);
+         RT_CHECK(ctx, stat, 0, "addition", -1, "ExplicitTFCS-Configuration");
+         break;
+      case 3:
+         if (pvalue->u.removal == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "removal", -1, "ExplicitTFCS-Configuration");
+         stat = asn1PE_UMTS_TFCS_RemovalList(ctx, pvalue->u.removal);
+         RT_CHECK(ctx, stat, 0, "removal", -1, "ExplicitTFCS-Configuration");
+         break;
+      case 4:
+         if (pvalue->u.replacement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "replacement", -1, "ExplicitTFCS-Configuration");
+         stat = asn1PE_UMTS_ExplicitTFCS_Configuration_replacement(ctx, pvalue->u.replacement);
+         RT_CHECK(ctx, stat, 0, "replacement", -1, "ExplicitTFCS-Configuration");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SplitType(rtxContext* RT_RESTRICT ctx, SplitType value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SplitType");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SplitType");
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_InfoForDSCH(rtxContext* RT_RESTRICT ctx, const TFCS_InfoForDSCH* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TFCS-InfoForDSCH");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
+   RT_CHECK(ctx, stat, 0, "t", -1, "TFCS-InfoForDSCH");
+   if (pvalue->t - 1 > 6) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TFCS-InfoForDSCH");
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)pvalue->u.ctfc2bit > 3u) {
+            rtxErrAddStrParm(ctx, "ctfc2bit");
+            rtxErrAddUIntParm(ctx, pvalue->u.ctfc2bit);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ctfc2bit", -1, "TFCS-InfoForDSCH");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.ctfc2bit, 0, 3);
+         RT_CHECK(ctx, stat, 0, "ctfc2bit", -1, "TFCS-InfoForDSCH");
+         break;
+      case 2:
+         if ((uint64_t)pvalue->u.ctfc4bit > 15u) {
+            rtxErrAddStrParm(ctx, "ctfc4bit");
+            rtxErrAddUIntParm(ctx, pvalue->u.ctfc4bit);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ctfc4bit", -1, "TFCS-InfoForDSCH");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.ctfc4bit, 0, 15);
+         RT_CHECK(ctx, stat, 0, "ctfc4bit", -1, "TFCS-InfoForDSCH");
+         break;
+      case 3:
+         if ((uint64_t)pvalue->u.ctfc6bit > 63u) {
+            rtxErrAddStrParm(ctx, "ctfc6bit");
+            rtxErrAddUIntParm(ctx, pvalue->u.ctfc6bit);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ctfc6bit", -1, "TFCS-InfoForDSCH");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.ctfc6bit, 0, 63);
+         RT_CHECK(ctx, stat, 0, "ctfc6bit", -1, "TFCS-InfoForDSCH");
+         break;
+      case 4:
+         stat = pe_ConsUInt64(ctx, pvalue->u.ctfc8bit, 0, 255);
+         RT_CHECK(ctx, stat, 0, "ctfc8bit", -1, "TFCS-InfoForDSCH");
+         break;
+      case 5:
+         if ((uint64_t)pvalue->u.ctfc12bit > 4095u) {
+            rtxErrAddStrParm(ctx, "ctfc12bit");
+            rtxErrAddUIntParm(ctx, pvalue->u.ctfc12bit);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ctfc12bit", -1, "TFCS-InfoForDSCH");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.ctfc12bit, 0, 4095);
+         RT_CHECK(ctx, stat, 0, "ctfc12bit", -1, "TFCS-InfoForDSCH");
+         break;
+      case 6:
+         stat = pe_ConsUInt64(ctx, pvalue->u.ctfc16bit, 0, 65535);
+         RT_CHECK(ctx, stat, 0, "ctfc16bit", -1, "TFCS-InfoForDSCH");
+         break;
+      case 7:
+         if ((uint64_t)pvalue->u.ctfc24bit > 16777215u) {
+            rtxErrAddStrParm(ctx, "ctfc24bit");
+            rtxErrAddUIntParm(ctx, pvalue->u.ctfc24bit);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ctfc24bit", -1, "TFCS-InfoForDSCH");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.ctfc24bit, 0, 16777215);
+         RT_CHECK(ctx, stat, 0, "ctfc24bit", -1, "TFCS-InfoForDSCH");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFCI_Range(rtxContext* RT_RESTRICT ctx, const TFCI_Range* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TFCI-Range");
+   /* maxTFCIField2Value */
+   if ((uint64_t)(pvalue->maxTFCIField2Value - 1) > 1022u) {
+      rtxErrAddStrParm(ctx, "maxTFCIField2Value");
+      rtxErrAddUIntParm(ctx, pvalue->maxTFCIField2Value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "maxTFCIField2Value", -1, "TFCI-Range");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxTFCIField2Value, 1, 1023);
+   RT_CHECK(ctx, stat, 0, "maxTFCIField2Value", -1, "TFCI-Range");
+   /* tfcs-InfoForDSCH */
+   stat = asn1PE_UMTS_TFCS_InfoForDSCH(ctx, &pvalue->tfcs_InfoForDSCH);
+   RT_CHECK(ctx, stat, 0, "tfcs-InfoForDSCH", -1, "TFCI-Range");
+   return 0;
+}
+
+int asn1PE_UMTS_TFCI_RangeList(rtxContext* RT_RESTRICT ctx, const TFCI_RangeList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TFCI-RangeList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 256);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "TFCI-RangeList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "TFCI-Range", (int32_t)i, "TFCI-RangeList");
+      stat = asn1PE_UMTS_TFCI_Range(ctx, (const TFCI_Range*)node->data);
+      RT_CHECK(ctx, stat, 0, "TFCI-Range", (int32_t)i, "TFCI-RangeList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFCI_Field2_Information(rtxContext* RT_RESTRICT ctx, const TFCI_Field2_Information* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TFCI-Field2-Information");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "TFCI-Field2-Information");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TFCI-Field2-Information");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tfci_Range == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tfci-Range", -1, "TFCI-Field2-Information");
+         stat = asn1PE_UMTS_TFCI_RangeList(ctx, pvalue->u.tfci_Range);
+         RT_CHECK(ctx, stat, 0, "tfci-Range", -1, "TFCI-Field2-Information");
+         break;
+      case 2:
+         if (pvalue->u.explicit_config == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "explicit-config", -1, "TFCI-Field2-Information");
+         stat = asn1PE_UMTS_ExplicitTFCS_Configuration(ctx, pvalue->u.explicit_config);
+         RT_CHECK(ctx, stat, 0, "explicit-config", -1, "TFCI-Field2-Information");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SplitTFCI_Signalling(rtxContext* RT_RESTRICT ctx, const SplitTFCI_Signalling* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SplitTFCI-Signalling");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SplitTFCI-Signalling");
+   /* splitType */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->splitType > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->splitType);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "SplitType", "splitType", -1, "SplitTFCI-Signalling");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->splitType, 0, 1);
+      RT_CHECK(ctx, stat, "SplitType", "splitType", -1, "SplitTFCI-Signalling");
+   }
+   /* tfci-Field2-Length */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)(pvalue->tfci_Field2_Length - 1) > 9u) {
+         rtxErrAddStrParm(ctx, "tfci-Field2-Length");
+         rtxErrAddUIntParm(ctx, pvalue->tfci_Field2_Length);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "tfci-Field2-Length", -1, "SplitTFCI-Signalling");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->tfci_Field2_Length, 1, 10);
+      RT_CHECK(ctx, stat, 0, "tfci-Field2-Length", -1, "SplitTFCI-Signalling");
+   }
+   /* tfci-Field1-Information */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_ExplicitTFCS_Configuration(ctx, &pvalue->tfci_Field1_Information);
+      RT_CHECK(ctx, stat, 0, "tfci-Field1-Information", -1, "SplitTFCI-Signalling");
+   }
+   /* tfci-Field2-Information */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_TFCI_Field2_Information(ctx, &pvalue->tfci_Field2_Information);
+      RT_CHECK(ctx, stat, 0, "tfci-Field2-Information", -1, "SplitTFCI-Signalling");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS(rtxContext* RT_RESTRICT ctx, const TFCS* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TFCS");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "TFCS");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TFCS");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.normalTFCI_Signalling == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "normalTFCI-Signalling", -1, "TFCS");
+         stat = asn1PE_UMTS_ExplicitTFCS_Configuration(ctx, pvalue->u.normalTFCI_Signalling);
+         RT_CHECK(ctx, stat, 0, "normalTFCI-Signalling", -1, "TFCS");
+         break;
+      case 2:
+         if (pvalue->u.dummy == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dummy", -1, "TFCS");
+         stat = asn1PE_UMTS_SplitTFCI_Signalling(ctx, pvalue->u.dummy);
+         RT_CHECK(ctx, stat, 0, "dummy", -1, "TFCS");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_SysInfo(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-SysInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-SysInfo");
+   /* pusch-Identity */
+   if ((uint64_t)(pvalue->pusch_Identity - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "PUSCH-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->pusch_Identity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PUSCH-Identity", "pusch-Identity", -1, "PUSCH-SysInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->pusch_Identity, 1, 64);
+   RT_CHECK(ctx, stat, "PUSCH-Identity", "pusch-Identity", -1, "PUSCH-SysInfo");
+   /* pusch-Info */
+   stat = asn1PE_UMTS_PUSCH_Info(ctx, &pvalue->pusch_Info);
+   RT_CHECK(ctx, stat, 0, "pusch-Info", -1, "PUSCH-SysInfo");
+   /* usch-TFS */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->usch_TFS);
+      RT_CHECK(ctx, stat, 0, "usch-TFS", -1, "PUSCH-SysInfo");
+   }
+   /* usch-TFCS */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_TFCS(ctx, &pvalue->usch_TFCS);
+      RT_CHECK(ctx, stat, 0, "usch-TFCS", -1, "PUSCH-SysInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DurationTimeInfo(rtxContext* RT_RESTRICT ctx, DurationTimeInfo value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 4095u) {
+      rtxErrAddStrParm(ctx, "DurationTimeInfo");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DurationTimeInfo");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 4096);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DurationTimeInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_SFN_TimeInfo(rtxContext* RT_RESTRICT ctx, const SFN_TimeInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SFN-TimeInfo");
+   /* activationTimeSFN */
+   if ((uint64_t)pvalue->activationTimeSFN > 4095u) {
+      rtxErrAddStrParm(ctx, "activationTimeSFN");
+      rtxErrAddUIntParm(ctx, pvalue->activationTimeSFN);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "activationTimeSFN", -1, "SFN-TimeInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->activationTimeSFN, 0, 4095);
+   RT_CHECK(ctx, stat, 0, "activationTimeSFN", -1, "SFN-TimeInfo");
+   /* physChDuration */
+   if ((uint64_t)(pvalue->physChDuration - 1) > 4095u) {
+      rtxErrAddStrParm(ctx, "DurationTimeInfo");
+      rtxErrAddUIntParm(ctx, pvalue->physChDuration);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "DurationTimeInfo", "physChDuration", -1, "SFN-TimeInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->physChDuration, 1, 4096);
+   RT_CHECK(ctx, stat, "DurationTimeInfo", "physChDuration", -1, "SFN-TimeInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_SysInfoList_SFN_element(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_SFN_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* pusch-SysInfo */
+   stat = asn1PE_UMTS_PUSCH_SysInfo(ctx, &pvalue->pusch_SysInfo);
+   RT_CHECK(ctx, stat, 0, "pusch-SysInfo", -1, 0);
+   /* sfn-TimeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo);
+      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_SysInfoList_SFN(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_SFN* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-SysInfoList-SFN");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PUSCH-SysInfoList-SFN");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN");
+      stat = asn1PE_UMTS_PUSCH_SysInfoList_SFN_element(ctx, (const PUSCH_SysInfoList_SFN_element*)node->data);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_Identity(rtxContext* RT_RESTRICT ctx, PDSCH_Identity value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "PDSCH-Identity");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PDSCH-Identity");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 64);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-Identity");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_TS_ChannelisationCode(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCode value)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "DL-TS-ChannelisationCode");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-TS-ChannelisationCode");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation_consecutive(rtxContext* RT_RESTRICT ctx, const DL_TS_ChannelisationCodesShort_codesRepresentation_consecutive* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* firstChannelisationCode */
+   if (pvalue->firstChannelisationCode > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->firstChannelisationCode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TS-ChannelisationCode", "firstChannelisationCode", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->firstChannelisationCode, 0, 15);
+   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode", "firstChannelisationCode", -1, 0);
+   /* lastChannelisationCode */
+   if (pvalue->lastChannelisationCode > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->lastChannelisationCode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TS-ChannelisationCode", "lastChannelisationCode", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->lastChannelisationCode, 0, 15);
+   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode", "lastChannelisationCode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap value)
+{
+   int stat = 0;
+   {
+      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
+      uint32_t used = (uint32_t)(last + 1);
+      value.numbits = used <= 16 ? 16 : used;
+      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
+   }
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &value, 16, 16);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation(rtxContext* RT_RESTRICT ctx, const DL_TS_ChannelisationCodesShort_codesRepresentation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.consecutive == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "consecutive", -1, 0);
+         stat = asn1PE_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation_consecutive(ctx, pvalue->u.consecutive);
+         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.bitmap == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "bitmap", -1, 0);
+         stat = asn1PE_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap(ctx, *pvalue->u.bitmap);
+         RT_CHECK(ctx, stat, 0, "bitmap", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_TS_ChannelisationCodesShort(rtxContext* RT_RESTRICT ctx, const DL_TS_ChannelisationCodesShort* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-TS-ChannelisationCodesShort");
+   /* codesRepresentation */
+   stat = asn1PE_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation(ctx, &pvalue->codesRepresentation);
+   RT_CHECK(ctx, stat, 0, "codesRepresentation", -1, "DL-TS-ChannelisationCodesShort");
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkAdditionalTimeslots_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_parameters_sameAsLast* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkAdditionalTimeslots_parameters_newParameters(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_parameters_newParameters* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* individualTimeslotInfo */
+   stat = asn1PE_UMTS_IndividualTimeslotInfo(ctx, &pvalue->individualTimeslotInfo);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
+   /* dl-TS-ChannelisationCodesShort */
+   stat = asn1PE_UMTS_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort);
+   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkAdditionalTimeslots_parameters(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_parameters* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.sameAsLast == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sameAsLast", -1, 0);
+         stat = asn1PE_UMTS_DownlinkAdditionalTimeslots_parameters_sameAsLast(ctx, pvalue->u.sameAsLast);
+         RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.newParameters == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "newParameters", -1, 0);
+         stat = asn1PE_UMTS_DownlinkAdditionalTimeslots_parameters_newParameters(ctx, pvalue->u.newParameters);
+         RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkAdditionalTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DownlinkAdditionalTimeslots");
+   /* parameters */
+   stat = asn1PE_UMTS_DownlinkAdditionalTimeslots_parameters(ctx, &pvalue->parameters);
+   RT_CHECK(ctx, stat, 0, "parameters", -1, "DownlinkAdditionalTimeslots");
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 13);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DownlinkAdditionalTimeslots", (int32_t)i, 0);
+      stat = asn1PE_UMTS_DownlinkAdditionalTimeslots(ctx, (const DownlinkAdditionalTimeslots*)node->data);
+      RT_CHECK(ctx, stat, 0, "DownlinkAdditionalTimeslots", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)(pvalue->u.consecutive - 1) > 12u) {
+            rtxErrAddStrParm(ctx, "consecutive");
+            rtxErrAddUIntParm(ctx, pvalue->u.consecutive);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "consecutive", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.consecutive, 1, 13);
+         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.timeslotList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "timeslotList", -1, 0);
+         stat = asn1PE_UMTS_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList);
+         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkTimeslotsCodes_moreTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_moreTimeslots* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.additionalTimeslots == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "additionalTimeslots", -1, 0);
+         stat = asn1PE_UMTS_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots);
+         RT_CHECK(ctx, stat, 0, "additionalTimeslots", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkTimeslotsCodes(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DownlinkTimeslotsCodes");
+   /* firstIndividualTimeslotInfo */
+   stat = asn1PE_UMTS_IndividualTimeslotInfo(ctx, &pvalue->firstIndividualTimeslotInfo);
+   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "DownlinkTimeslotsCodes");
+   /* dl-TS-ChannelisationCodesShort */
+   stat = asn1PE_UMTS_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort);
+   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, "DownlinkTimeslotsCodes");
+   /* moreTimeslots */
+   stat = asn1PE_UMTS_DownlinkTimeslotsCodes_moreTimeslots(ctx, &pvalue->moreTimeslots);
+   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "DownlinkTimeslotsCodes");
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_Info(rtxContext* RT_RESTRICT ctx, const PDSCH_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-Info");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 2) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-Info");
+   /* tfcs-ID */
+   if (pvalue->tfcs_ID != 1) {
+      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
+         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "PDSCH-Info");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
+      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PDSCH-Info");
+   }
+   /* commonTimeslotInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
+      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "PDSCH-Info");
+   }
+   /* pdsch-TimeslotsCodes */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_DownlinkTimeslotsCodes(ctx, &pvalue->pdsch_TimeslotsCodes);
+      RT_CHECK(ctx, stat, 0, "pdsch-TimeslotsCodes", -1, "PDSCH-Info");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_SysInfo(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-SysInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-SysInfo");
+   /* pdsch-Identity */
+   if ((uint64_t)(pvalue->pdsch_Identity - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "PDSCH-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->pdsch_Identity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PDSCH-Identity", "pdsch-Identity", -1, "PDSCH-SysInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->pdsch_Identity, 1, 64);
+   RT_CHECK(ctx, stat, "PDSCH-Identity", "pdsch-Identity", -1, "PDSCH-SysInfo");
+   /* pdsch-Info */
+   stat = asn1PE_UMTS_PDSCH_Info(ctx, &pvalue->pdsch_Info);
+   RT_CHECK(ctx, stat, 0, "pdsch-Info", -1, "PDSCH-SysInfo");
+   /* dsch-TFS */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->dsch_TFS);
+      RT_CHECK(ctx, stat, 0, "dsch-TFS", -1, "PDSCH-SysInfo");
+   }
+   /* dsch-TFCS */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_TFCS(ctx, &pvalue->dsch_TFCS);
+      RT_CHECK(ctx, stat, 0, "dsch-TFCS", -1, "PDSCH-SysInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_SysInfoList_SFN_element(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList_SFN_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* pdsch-SysInfo */
+   stat = asn1PE_UMTS_PDSCH_SysInfo(ctx, &pvalue->pdsch_SysInfo);
+   RT_CHECK(ctx, stat, 0, "pdsch-SysInfo", -1, 0);
+   /* sfn-TimeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo);
+      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_SysInfoList_SFN(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList_SFN* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-SysInfoList-SFN");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PDSCH-SysInfoList-SFN");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "PDSCH-SysInfoList-SFN");
+      stat = asn1PE_UMTS_PDSCH_SysInfoList_SFN_element(ctx, (const PDSCH_SysInfoList_SFN_element*)node->data);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PDSCH-SysInfoList-SFN");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PrimaryCCPCH_TX_Power(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_TX_Power value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 6) > 37u) {
+      rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PrimaryCCPCH-TX-Power");
+   }
+   stat = pe_ConsUInt64(ctx, value, 6, 43);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PrimaryCCPCH-TX-Power");
+   return 0;
+}
+
+int asn1PE_UMTS_Alpha(rtxContext* RT_RESTRICT ctx, Alpha value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 8u) {
+      rtxErrAddStrParm(ctx, "Alpha");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "Alpha");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Alpha");
+   return 0;
+}
+
+int asn1PE_UMTS_ConstantValueTdd(rtxContext* RT_RESTRICT ctx, ConstantValueTdd value)
+{
+   int stat = 0;
+   if (value < -35 || value > 10) {
+      rtxErrAddStrParm(ctx, "ConstantValueTdd");
+      rtxErrAddIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "ConstantValueTdd");
+   }
+   stat = pe_ConsInt64(ctx, value, -35, 10);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ConstantValueTdd");
+   return 0;
+}
+
+int asn1PE_UMTS_OpenLoopPowerControl_TDD(rtxContext* RT_RESTRICT ctx, const OpenLoopPowerControl_TDD* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "OpenLoopPowerControl-TDD");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "OpenLoopPowerControl-TDD");
+   /* primaryCCPCH-TX-Power */
+   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+      rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "OpenLoopPowerControl-TDD");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "OpenLoopPowerControl-TDD");
+   /* alpha */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->alpha > 8u) {
+         rtxErrAddStrParm(ctx, "Alpha");
+         rtxErrAddUIntParm(ctx, pvalue->alpha);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Alpha", "alpha", -1, "OpenLoopPowerControl-TDD");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->alpha, 0, 8);
+      RT_CHECK(ctx, stat, "Alpha", "alpha", -1, "OpenLoopPowerControl-TDD");
+   }
+   /* prach-ConstantValue */
+   if (pvalue->prach_ConstantValue < -35 || pvalue->prach_ConstantValue > 10) {
+      rtxErrAddStrParm(ctx, "ConstantValueTdd");
+      rtxErrAddIntParm(ctx, pvalue->prach_ConstantValue);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "ConstantValueTdd", "prach-ConstantValue", -1, "OpenLoopPowerControl-TDD");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->prach_ConstantValue, -35, 10);
+   RT_CHECK(ctx, stat, "ConstantValueTdd", "prach-ConstantValue", -1, "OpenLoopPowerControl-TDD");
+   /* dpch-ConstantValue */
+   if (pvalue->dpch_ConstantValue < -35 || pvalue->dpch_ConstantValue > 10) {
+      rtxErrAddStrParm(ctx, "ConstantValueTdd");
+      rtxErrAddIntParm(ctx, pvalue->dpch_ConstantValue);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "ConstantValueTdd", "dpch-ConstantValue", -1, "OpenLoopPowerControl-TDD");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->dpch_ConstantValue, -35, 10);
+   RT_CHECK(ctx, stat, "ConstantValueTdd", "dpch-ConstantValue", -1, "OpenLoopPowerControl-TDD");
+   /* pusch-ConstantValue */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->pusch_ConstantValue < -35 || pvalue->pusch_ConstantValue > 10) {
+         rtxErrAddStrParm(ctx, "ConstantValueTdd");
+         rtxErrAddIntParm(ctx, pvalue->pusch_ConstantValue);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "ConstantValueTdd", "pusch-ConstantValue", -1, "OpenLoopPowerControl-TDD");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->pusch_ConstantValue, -35, 10);
+      RT_CHECK(ctx, stat, "ConstantValueTdd", "pusch-ConstantValue", -1, "OpenLoopPowerControl-TDD");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType5_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const SysInfoType5_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* pusch-SysInfoList-SFN */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PUSCH_SysInfoList_SFN(ctx, &pvalue->pusch_SysInfoList_SFN);
+      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
+   }
+   /* pdsch-SysInfoList-SFN */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_PDSCH_SysInfoList_SFN(ctx, &pvalue->pdsch_SysInfoList_SFN);
+      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
+   }
+   /* openLoopPowerControl-TDD */
+   stat = asn1PE_UMTS_OpenLoopPowerControl_TDD(ctx, &pvalue->openLoopPowerControl_TDD);
+   RT_CHECK(ctx, stat, 0, "openLoopPowerControl-TDD", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType5_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType5_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_SysInfoType5_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_SysInfoType5_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PrimaryCCPCH_Info_fdd(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tx-DiversityIndicator */
+   stat = rtxEncBit(ctx, pvalue->tx_DiversityIndicator);
+   RT_CHECK(ctx, stat, 0, "tx-DiversityIndicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PrimaryCCPCH_Info_tdd_syncCase_syncCase1(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_tdd_syncCase_syncCase1* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* timeslot */
+   if ((uint64_t)pvalue->timeslot > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslot);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslot", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 14);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_TimeslotSync2(rtxContext* RT_RESTRICT ctx, TimeslotSync2 value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 6u) {
+      rtxErrAddStrParm(ctx, "TimeslotSync2");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TimeslotSync2");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimeslotSync2");
+   return 0;
+}
+
+int asn1PE_UMTS_PrimaryCCPCH_Info_tdd_syncCase_syncCase2(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_tdd_syncCase_syncCase2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* timeslotSync2 */
+   if ((uint64_t)pvalue->timeslotSync2 > 6u) {
+      rtxErrAddStrParm(ctx, "TimeslotSync2");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotSync2);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotSync2", "timeslotSync2", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeslotSync2, 0, 6);
+   RT_CHECK(ctx, stat, "TimeslotSync2", "timeslotSync2", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PrimaryCCPCH_Info_tdd_syncCase(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_tdd_syncCase* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.syncCase1 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "syncCase1", -1, 0);
+         stat = asn1PE_UMTS_PrimaryCCPCH_Info_tdd_syncCase_syncCase1(ctx, pvalue->u.syncCase1);
+         RT_CHECK(ctx, stat, 0, "syncCase1", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.syncCase2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "syncCase2", -1, 0);
+         stat = asn1PE_UMTS_PrimaryCCPCH_Info_tdd_syncCase_syncCase2(ctx, pvalue->u.syncCase2);
+         RT_CHECK(ctx, stat, 0, "syncCase2", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellParametersID(rtxContext* RT_RESTRICT ctx, CellParametersID value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 127u) {
+      rtxErrAddStrParm(ctx, "CellParametersID");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "CellParametersID");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 127);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellParametersID");
+   return 0;
+}
+
+int asn1PE_UMTS_PrimaryCCPCH_Info_tdd(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* syncCase */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PrimaryCCPCH_Info_tdd_syncCase(ctx, &pvalue->syncCase);
+      RT_CHECK(ctx, stat, 0, "syncCase", -1, 0);
+   }
+   /* cellParametersID */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->cellParametersID > 127u) {
+         rtxErrAddStrParm(ctx, "CellParametersID");
+         rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "CellParametersID", "cellParametersID", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->cellParametersID, 0, 127);
+      RT_CHECK(ctx, stat, "CellParametersID", "cellParametersID", -1, 0);
+   }
+   /* sctd-Indicator */
+   stat = rtxEncBit(ctx, pvalue->sctd_Indicator);
+   RT_CHECK(ctx, stat, 0, "sctd-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PrimaryCCPCH_Info(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PrimaryCCPCH-Info");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "PrimaryCCPCH-Info");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PrimaryCCPCH-Info");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, "PrimaryCCPCH-Info");
+         stat = asn1PE_UMTS_PrimaryCCPCH_Info_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "PrimaryCCPCH-Info");
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, "PrimaryCCPCH-Info");
+         stat = asn1PE_UMTS_PrimaryCCPCH_Info_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "PrimaryCCPCH-Info");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AvailableSignatures(rtxContext* RT_RESTRICT ctx, AvailableSignatures value)
+{
+   int stat = 0;
+   {
+      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
+      uint32_t used = (uint32_t)(last + 1);
+      value.numbits = used <= 16 ? 16 : used;
+      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "AvailableSignatures");
+   }
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &value, 16, 16);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AvailableSignatures");
+   return 0;
+}
+
+int asn1PE_UMTS_SF_PRACH(rtxContext* RT_RESTRICT ctx, SF_PRACH value)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SF-PRACH");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SF-PRACH");
+   return 0;
+}
+
+int asn1PE_UMTS_PreambleScramblingCodeWordNumber(rtxContext* RT_RESTRICT ctx, PreambleScramblingCodeWordNumber value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 15u) {
+      rtxErrAddStrParm(ctx, "PreambleScramblingCodeWordNumber");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PreambleScramblingCodeWordNumber");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PreambleScramblingCodeWordNumber");
+   return 0;
+}
+
+int asn1PE_UMTS_AvailableSubChannelNumbers(rtxContext* RT_RESTRICT ctx, AvailableSubChannelNumbers value)
+{
+   int stat = 0;
+   {
+      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
+      uint32_t used = (uint32_t)(last + 1);
+      value.numbits = used <= 12 ? 12 : used;
+      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "AvailableSubChannelNumbers");
+   }
+   RT_SET_SIZE(ctx, 12, 12);
+   stat = pe_BitString32(ctx, &value, 12, 12);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AvailableSubChannelNumbers");
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_RACH_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* availableSignatures */
+   stat = asn1PE_UMTS_AvailableSignatures(ctx, pvalue->availableSignatures);
+   RT_CHECK(ctx, stat, 0, "availableSignatures", -1, 0);
+   /* availableSF */
+   if (pvalue->availableSF > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->availableSF);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "SF-PRACH", "availableSF", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->availableSF, 0, 3);
+   RT_CHECK(ctx, stat, "SF-PRACH", "availableSF", -1, 0);
+   /* preambleScramblingCodeWordNumber */
+   if ((uint64_t)pvalue->preambleScramblingCodeWordNumber > 15u) {
+      rtxErrAddStrParm(ctx, "PreambleScramblingCodeWordNumber");
+      rtxErrAddUIntParm(ctx, pvalue->preambleScramblingCodeWordNumber);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PreambleScramblingCodeWordNumber", "preambleScramblingCodeWordNumber", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->preambleScramblingCodeWordNumber, 0, 15);
+   RT_CHECK(ctx, stat, "PreambleScramblingCodeWordNumber", "preambleScramblingCodeWordNumber", -1, 0);
+   /* puncturingLimit */
+   if (pvalue->puncturingLimit > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->puncturingLimit);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "PuncturingLimit", "puncturingLimit", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->puncturingLimit, 0, 15);
+   RT_CHECK(ctx, stat, "PuncturingLimit", "puncturingLimit", -1, 0);
+   /* availableSubChannelNumbers */
+   stat = asn1PE_UMTS_AvailableSubChannelNumbers(ctx, pvalue->availableSubChannelNumbers);
+   RT_CHECK(ctx, stat, 0, "availableSubChannelNumbers", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_TDD_PRACH_CCode8(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCode8 value)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TDD-PRACH-CCode8");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TDD-PRACH-CCode8");
+   return 0;
+}
+
+int asn1PE_UMTS_TDD_PRACH_CCodeList_sf8(rtxContext* RT_RESTRICT ctx, const TDD_PRACH_CCodeList_sf8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TDD-PRACH-CCode8", "TDD-PRACH-CCode8", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 7);
+      RT_CHECK(ctx, stat, "TDD-PRACH-CCode8", "TDD-PRACH-CCode8", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TDD_PRACH_CCode16(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCode16 value)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TDD-PRACH-CCode16");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TDD-PRACH-CCode16");
+   return 0;
+}
+
+int asn1PE_UMTS_TDD_PRACH_CCodeList_sf16(rtxContext* RT_RESTRICT ctx, const TDD_PRACH_CCodeList_sf16* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TDD-PRACH-CCode16", "TDD-PRACH-CCode16", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 15);
+      RT_CHECK(ctx, stat, "TDD-PRACH-CCode16", "TDD-PRACH-CCode16", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TDD_PRACH_CCodeList(rtxContext* RT_RESTRICT ctx, const TDD_PRACH_CCodeList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TDD-PRACH-CCodeList");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "TDD-PRACH-CCodeList");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TDD-PRACH-CCodeList");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.sf8 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sf8", -1, "TDD-PRACH-CCodeList");
+         stat = asn1PE_UMTS_TDD_PRACH_CCodeList_sf8(ctx, pvalue->u.sf8);
+         RT_CHECK(ctx, stat, 0, "sf8", -1, "TDD-PRACH-CCodeList");
+         break;
+      case 2:
+         if (pvalue->u.sf16 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sf16", -1, "TDD-PRACH-CCodeList");
+         stat = asn1PE_UMTS_TDD_PRACH_CCodeList_sf16(ctx, pvalue->u.sf16);
+         RT_CHECK(ctx, stat, 0, "sf16", -1, "TDD-PRACH-CCodeList");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_Midamble(rtxContext* RT_RESTRICT ctx, PRACH_Midamble value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "PRACH-Midamble");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-Midamble");
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_RACH_Info_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* timeslot */
+   if ((uint64_t)pvalue->timeslot > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslot);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslot", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 14);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, 0);
+   /* channelisationCodeList */
+   stat = asn1PE_UMTS_TDD_PRACH_CCodeList(ctx, &pvalue->channelisationCodeList);
+   RT_CHECK(ctx, stat, 0, "channelisationCodeList", -1, 0);
+   /* prach-Midamble */
+   if (pvalue->prach_Midamble > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->prach_Midamble);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "PRACH-Midamble", "prach-Midamble", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->prach_Midamble, 0, 1);
+   RT_CHECK(ctx, stat, "PRACH-Midamble", "prach-Midamble", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_RACH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_PRACH_RACH_Info_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_PRACH_RACH_Info_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_RACH_Info(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-RACH-Info");
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_PRACH_RACH_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "PRACH-RACH-Info");
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelIdentity(rtxContext* RT_RESTRICT ctx, TransportChannelIdentity value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TransportChannelIdentity");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelIdentity");
+   return 0;
+}
+
+int asn1PE_UMTS_AccessServiceClass_FDD_assignedSubChannelNumber(rtxContext* RT_RESTRICT ctx, AccessServiceClass_FDD_assignedSubChannelNumber value)
+{
+   int stat = 0;
+   {
+      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
+      uint32_t used = (uint32_t)(last + 1);
+      value.numbits = used <= 4 ? 4 : used;
+      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
+   }
+   RT_SET_SIZE(ctx, 4, 4);
+   stat = pe_BitString32(ctx, &value, 4, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_AccessServiceClass_FDD(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_FDD* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AccessServiceClass-FDD");
+   /* availableSignatureStartIndex */
+   if ((uint64_t)pvalue->availableSignatureStartIndex > 15u) {
+      rtxErrAddStrParm(ctx, "availableSignatureStartIndex");
+      rtxErrAddUIntParm(ctx, pvalue->availableSignatureStartIndex);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "availableSignatureStartIndex", -1, "AccessServiceClass-FDD");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->availableSignatureStartIndex, 0, 15);
+   RT_CHECK(ctx, stat, 0, "availableSignatureStartIndex", -1, "AccessServiceClass-FDD");
+   /* availableSignatureEndIndex */
+   if ((uint64_t)pvalue->availableSignatureEndIndex > 15u) {
+      rtxErrAddStrParm(ctx, "availableSignatureEndIndex");
+      rtxErrAddUIntParm(ctx, pvalue->availableSignatureEndIndex);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "availableSignatureEndIndex", -1, "AccessServiceClass-FDD");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->availableSignatureEndIndex, 0, 15);
+   RT_CHECK(ctx, stat, 0, "availableSignatureEndIndex", -1, "AccessServiceClass-FDD");
+   /* assignedSubChannelNumber */
+   stat = asn1PE_UMTS_AccessServiceClass_FDD_assignedSubChannelNumber(ctx, pvalue->assignedSubChannelNumber);
+   RT_CHECK(ctx, stat, 0, "assignedSubChannelNumber", -1, "AccessServiceClass-FDD");
+   return 0;
+}
+
+int asn1PE_UMTS_ASCSetting_FDD(rtxContext* RT_RESTRICT ctx, const ASCSetting_FDD* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ASCSetting-FDD");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ASCSetting-FDD");
+   /* accessServiceClass-FDD */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_AccessServiceClass_FDD(ctx, &pvalue->accessServiceClass_FDD);
+      RT_CHECK(ctx, stat, 0, "accessServiceClass-FDD", -1, "ASCSetting-FDD");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_Partitioning_fdd(rtxContext* RT_RESTRICT ctx, const PRACH_Partitioning_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ASCSetting-FDD", (int32_t)i, 0);
+      stat = asn1PE_UMTS_ASCSetting_FDD(ctx, (const ASCSetting_FDD*)node->data);
+      RT_CHECK(ctx, stat, 0, "ASCSetting-FDD", (int32_t)i, 0);
+   }
    return 0;
 }
 

@@ -6,2763 +6,136 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PE_UMTS_CommonDynamicTF_Info_rlc_Size_tdd_commonTDD_Choice(rtxContext* ctx, const CommonDynamicTF_Info_rlc_Size_tdd_commonTDD_Choice* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "bitModeRLC-SizeInfo");
-         if (pvalue->u.bitModeRLC_SizeInfo == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_BitModeRLC_SizeInfo(ctx, pvalue->u.bitModeRLC_SizeInfo);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "octetModeRLC-SizeInfoType1");
-         if (pvalue->u.octetModeRLC_SizeInfoType1 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_OctetModeRLC_SizeInfoType1(ctx, pvalue->u.octetModeRLC_SizeInfoType1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CommonDynamicTF_Info_rlc_Size_tdd(rtxContext* ctx, const CommonDynamicTF_Info_rlc_Size_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* commonTDD-Choice */
-   rtxCtxtPushElemName(ctx, "commonTDD-Choice");
-   stat = asn1PE_UMTS_CommonDynamicTF_Info_rlc_Size_tdd_commonTDD_Choice(ctx, &pvalue->commonTDD_Choice);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CommonDynamicTF_Info_rlc_Size(rtxContext* ctx, const CommonDynamicTF_Info_rlc_Size* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CommonDynamicTF_Info_rlc_Size_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CommonDynamicTF_Info_rlc_Size_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CommonDynamicTF_Info_numberOfTbSizeList(rtxContext* ctx, const CommonDynamicTF_Info_numberOfTbSizeList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "NumberOfTransportBlocks", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_NumberOfTransportBlocks(ctx, (const NumberOfTransportBlocks*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CommonDynamicTF_Info(rtxContext* ctx, const CommonDynamicTF_Info* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CommonDynamicTF-Info");
-   /* rlc-Size */
-   rtxCtxtPushElemName(ctx, "rlc-Size");
-   stat = asn1PE_UMTS_CommonDynamicTF_Info_rlc_Size(ctx, &pvalue->rlc_Size);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* numberOfTbSizeList */
-   rtxCtxtPushElemName(ctx, "numberOfTbSizeList");
-   stat = asn1PE_UMTS_CommonDynamicTF_Info_numberOfTbSizeList(ctx, &pvalue->numberOfTbSizeList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* logicalChannelList */
-   rtxCtxtPushElemName(ctx, "logicalChannelList");
-   stat = asn1PE_UMTS_LogicalChannelList(ctx, &pvalue->logicalChannelList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CommonDynamicTF_InfoList(rtxContext* ctx, const CommonDynamicTF_InfoList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "CommonDynamicTF-InfoList");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "CommonDynamicTF-Info", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_CommonDynamicTF_Info(ctx, (const CommonDynamicTF_Info*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CommonDynamicTF_Info_DynamicTTI_commonTDD_Choice(rtxContext* ctx, const CommonDynamicTF_Info_DynamicTTI_commonTDD_Choice* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "bitModeRLC-SizeInfo");
-         if (pvalue->u.bitModeRLC_SizeInfo == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_BitModeRLC_SizeInfo(ctx, pvalue->u.bitModeRLC_SizeInfo);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "octetModeRLC-SizeInfoType1");
-         if (pvalue->u.octetModeRLC_SizeInfoType1 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_OctetModeRLC_SizeInfoType1(ctx, pvalue->u.octetModeRLC_SizeInfoType1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CommonDynamicTF_Info_DynamicTTI(rtxContext* ctx, const CommonDynamicTF_Info_DynamicTTI* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CommonDynamicTF-Info-DynamicTTI");
-   /* commonTDD-Choice */
-   rtxCtxtPushElemName(ctx, "commonTDD-Choice");
-   stat = asn1PE_UMTS_CommonDynamicTF_Info_DynamicTTI_commonTDD_Choice(ctx, &pvalue->commonTDD_Choice);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* numberOfTbSizeAndTTIList */
-   rtxCtxtPushElemName(ctx, "numberOfTbSizeAndTTIList");
-   stat = asn1PE_UMTS_NumberOfTbSizeAndTTIList(ctx, &pvalue->numberOfTbSizeAndTTIList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* logicalChannelList */
-   rtxCtxtPushElemName(ctx, "logicalChannelList");
-   stat = asn1PE_UMTS_LogicalChannelList(ctx, &pvalue->logicalChannelList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CommonDynamicTF_InfoList_DynamicTTI(rtxContext* ctx, const CommonDynamicTF_InfoList_DynamicTTI* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "CommonDynamicTF-InfoList-DynamicTTI");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "CommonDynamicTF-Info-DynamicTTI", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_CommonDynamicTF_Info_DynamicTTI(ctx, (const CommonDynamicTF_Info_DynamicTTI*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CommonTransChTFS_tti(rtxContext* ctx, const CommonTransChTFS_tti* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 4) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tti10");
-         if (pvalue->u.tti10 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CommonDynamicTF_InfoList(ctx, pvalue->u.tti10);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tti20");
-         if (pvalue->u.tti20 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CommonDynamicTF_InfoList(ctx, pvalue->u.tti20);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "tti40");
-         if (pvalue->u.tti40 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CommonDynamicTF_InfoList(ctx, pvalue->u.tti40);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "tti80");
-         if (pvalue->u.tti80 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CommonDynamicTF_InfoList(ctx, pvalue->u.tti80);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "dynamic");
-         if (pvalue->u.dynamic == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CommonDynamicTF_InfoList_DynamicTTI(ctx, pvalue->u.dynamic);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CommonTransChTFS(rtxContext* ctx, const CommonTransChTFS* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CommonTransChTFS");
-   /* tti */
-   rtxCtxtPushElemName(ctx, "tti");
-   stat = asn1PE_UMTS_CommonTransChTFS_tti(ctx, &pvalue->tti);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* semistaticTF-Information */
-   rtxCtxtPushElemName(ctx, "semistaticTF-Information");
-   stat = asn1PE_UMTS_SemistaticTF_Information(ctx, &pvalue->semistaticTF_Information);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TransportFormatSet(rtxContext* ctx, const TransportFormatSet* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TransportFormatSet");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "dedicatedTransChTFS");
-         if (pvalue->u.dedicatedTransChTFS == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DedicatedTransChTFS(ctx, pvalue->u.dedicatedTransChTFS);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "commonTransChTFS");
-         if (pvalue->u.commonTransChTFS == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CommonTransChTFS(ctx, pvalue->u.commonTransChTFS);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GainFactor(rtxContext* ctx, GainFactor value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "GainFactor");
-   if ((uint64_t)value > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SignalledGainFactors_modeSpecificInfo_fdd(rtxContext* ctx, const SignalledGainFactors_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* gainFactorBetaC */
-   rtxCtxtPushElemName(ctx, "gainFactorBetaC");
-   rtxCtxtPushTypeName(ctx, "GainFactor");
-   if ((uint64_t)pvalue->gainFactorBetaC > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->gainFactorBetaC);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->gainFactorBetaC, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SignalledGainFactors_modeSpecificInfo(rtxContext* ctx, const SignalledGainFactors_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_SignalledGainFactors_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ReferenceTFC_ID(rtxContext* ctx, ReferenceTFC_ID value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ReferenceTFC-ID");
-   if ((uint64_t)value > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SignalledGainFactors(rtxContext* ctx, const SignalledGainFactors* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SignalledGainFactors");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_SignalledGainFactors_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gainFactorBetaD */
-   rtxCtxtPushElemName(ctx, "gainFactorBetaD");
-   rtxCtxtPushTypeName(ctx, "GainFactor");
-   if ((uint64_t)pvalue->gainFactorBetaD > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->gainFactorBetaD);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->gainFactorBetaD, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* referenceTFC-ID */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "referenceTFC-ID");
-      rtxCtxtPushTypeName(ctx, "ReferenceTFC-ID");
-      if ((uint64_t)pvalue->referenceTFC_ID > 3u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->referenceTFC_ID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->referenceTFC_ID, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GainFactorInformation(rtxContext* ctx, const GainFactorInformation* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "GainFactorInformation");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "signalledGainFactors");
-         if (pvalue->u.signalledGainFactors == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_SignalledGainFactors(ctx, pvalue->u.signalledGainFactors);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "computedGainFactors");
-         rtxCtxtPushTypeName(ctx, "ReferenceTFC-ID");
-         if ((uint64_t)pvalue->u.computedGainFactors > 3u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.computedGainFactors);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.computedGainFactors, 0, 3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PowerOffsetPp_m(rtxContext* ctx, PowerOffsetPp_m value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PowerOffsetPp-m");
-   if (value < -5 || value > 10) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, value, -5, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PowerOffsetInformation(rtxContext* ctx, const PowerOffsetInformation* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PowerOffsetInformation");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* gainFactorInformation */
-   rtxCtxtPushElemName(ctx, "gainFactorInformation");
-   stat = asn1PE_UMTS_GainFactorInformation(ctx, &pvalue->gainFactorInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* powerOffsetPp-m */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "powerOffsetPp-m");
-      rtxCtxtPushTypeName(ctx, "PowerOffsetPp-m");
-      if (pvalue->powerOffsetPp_m < -5 || pvalue->powerOffsetPp_m > 10) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->powerOffsetPp_m);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->powerOffsetPp_m, -5, 10);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element(rtxContext* ctx, const TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ctfc2 */
-   rtxCtxtPushElemName(ctx, "ctfc2");
-   if ((uint64_t)pvalue->ctfc2 > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ctfc2);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ctfc2, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* powerOffsetInformation */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "powerOffsetInformation");
-      stat = asn1PE_UMTS_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc2Bit(rtxContext* ctx, const TFCS_ReconfAdd_ctfcSize_ctfc2Bit* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 1024);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element(ctx, (const TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc4Bit_element(rtxContext* ctx, const TFCS_ReconfAdd_ctfcSize_ctfc4Bit_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ctfc4 */
-   rtxCtxtPushElemName(ctx, "ctfc4");
-   if ((uint64_t)pvalue->ctfc4 > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ctfc4);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ctfc4, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* powerOffsetInformation */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "powerOffsetInformation");
-      stat = asn1PE_UMTS_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc4Bit(rtxContext* ctx, const TFCS_ReconfAdd_ctfcSize_ctfc4Bit* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 1024);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc4Bit_element(ctx, (const TFCS_ReconfAdd_ctfcSize_ctfc4Bit_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc6Bit_element(rtxContext* ctx, const TFCS_ReconfAdd_ctfcSize_ctfc6Bit_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ctfc6 */
-   rtxCtxtPushElemName(ctx, "ctfc6");
-   if ((uint64_t)pvalue->ctfc6 > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ctfc6);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ctfc6, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* powerOffsetInformation */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "powerOffsetInformation");
-      stat = asn1PE_UMTS_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc6Bit(rtxContext* ctx, const TFCS_ReconfAdd_ctfcSize_ctfc6Bit* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 1024);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc6Bit_element(ctx, (const TFCS_ReconfAdd_ctfcSize_ctfc6Bit_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc8Bit_element(rtxContext* ctx, const TFCS_ReconfAdd_ctfcSize_ctfc8Bit_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ctfc8 */
-   rtxCtxtPushElemName(ctx, "ctfc8");
-   stat = pe_ConsUInt64(ctx, pvalue->ctfc8, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* powerOffsetInformation */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "powerOffsetInformation");
-      stat = asn1PE_UMTS_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc8Bit(rtxContext* ctx, const TFCS_ReconfAdd_ctfcSize_ctfc8Bit* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 1024);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc8Bit_element(ctx, (const TFCS_ReconfAdd_ctfcSize_ctfc8Bit_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element(rtxContext* ctx, const TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ctfc12 */
-   rtxCtxtPushElemName(ctx, "ctfc12");
-   if ((uint64_t)pvalue->ctfc12 > 4095u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ctfc12);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ctfc12, 0, 4095);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* powerOffsetInformation */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "powerOffsetInformation");
-      stat = asn1PE_UMTS_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc12Bit(rtxContext* ctx, const TFCS_ReconfAdd_ctfcSize_ctfc12Bit* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 1024);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element(ctx, (const TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element(rtxContext* ctx, const TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ctfc16 */
-   rtxCtxtPushElemName(ctx, "ctfc16");
-   stat = pe_ConsUInt64(ctx, pvalue->ctfc16, 0, 65535);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* powerOffsetInformation */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "powerOffsetInformation");
-      stat = asn1PE_UMTS_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc16Bit(rtxContext* ctx, const TFCS_ReconfAdd_ctfcSize_ctfc16Bit* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 1024);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element(ctx, (const TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element(rtxContext* ctx, const TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ctfc24 */
-   rtxCtxtPushElemName(ctx, "ctfc24");
-   if ((uint64_t)pvalue->ctfc24 > 16777215u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ctfc24);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ctfc24, 0, 16777215);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* powerOffsetInformation */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "powerOffsetInformation");
-      stat = asn1PE_UMTS_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc24Bit(rtxContext* ctx, const TFCS_ReconfAdd_ctfcSize_ctfc24Bit* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 1024);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element(ctx, (const TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize(rtxContext* ctx, const TFCS_ReconfAdd_ctfcSize* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 6) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "ctfc2Bit");
-         if (pvalue->u.ctfc2Bit == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc2Bit(ctx, pvalue->u.ctfc2Bit);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ctfc4Bit");
-         if (pvalue->u.ctfc4Bit == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc4Bit(ctx, pvalue->u.ctfc4Bit);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "ctfc6Bit");
-         if (pvalue->u.ctfc6Bit == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc6Bit(ctx, pvalue->u.ctfc6Bit);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "ctfc8Bit");
-         if (pvalue->u.ctfc8Bit == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc8Bit(ctx, pvalue->u.ctfc8Bit);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "ctfc12Bit");
-         if (pvalue->u.ctfc12Bit == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc12Bit(ctx, pvalue->u.ctfc12Bit);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "ctfc16Bit");
-         if (pvalue->u.ctfc16Bit == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc16Bit(ctx, pvalue->u.ctfc16Bit);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "ctfc24Bit");
-         if (pvalue->u.ctfc24Bit == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc24Bit(ctx, pvalue->u.ctfc24Bit);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_ReconfAdd(rtxContext* ctx, const TFCS_ReconfAdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TFCS-ReconfAdd");
-   /* ctfcSize */
-   rtxCtxtPushElemName(ctx, "ctfcSize");
-   stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize(ctx, &pvalue->ctfcSize);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_Removal(rtxContext* ctx, const TFCS_Removal* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TFCS-Removal");
-   /* tfci */
-   rtxCtxtPushElemName(ctx, "tfci");
-   if ((uint64_t)pvalue->tfci > 1023u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->tfci);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tfci, 0, 1023);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_RemovalList(rtxContext* ctx, const TFCS_RemovalList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "TFCS-RemovalList");
-   RT_SET_SIZE(ctx, 1, 1024);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "TFCS-Removal", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_TFCS_Removal(ctx, (const TFCS_Removal*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ExplicitTFCS_Configuration_replacement(rtxContext* ctx, const ExplicitTFCS_Configuration_replacement* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* tfcsRemoval */
-   rtxCtxtPushElemName(ctx, "tfcsRemoval");
-   stat = asn1PE_UMTS_TFCS_RemovalList(ctx, &pvalue->tfcsRemoval);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tfcsAdd */
-   rtxCtxtPushElemName(ctx, "tfcsAdd");
-   stat = asn1PE_UMTS_TFCS_ReconfAdd(ctx, &pvalue->tfcsAdd);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ExplicitTFCS_Configuration(rtxContext* ctx, const ExplicitTFCS_Configuration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ExplicitTFCS-Configuration");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 3) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "complete");
-         if (pvalue->u.complete == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TFCS_ReconfAdd(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "addition");
-         if (pvalue->u.addition == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TFCS_ReconfAdd(ctx, pvalue->u.addition);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "removal");
-         if (pvalue->u.removal == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TFCS_RemovalList(ctx, pvalue->u.removal);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "replacement");
-         if (pvalue->u.replacement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_ExplicitTFCS_Configuration_replacement(ctx, pvalue->u.replacement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SplitType(rtxContext* ctx, SplitType value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SplitType");
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_InfoForDSCH(rtxContext* ctx, const TFCS_InfoForDSCH* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TFCS-InfoForDSCH");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 6) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "ctfc2bit");
-         if ((uint64_t)pvalue->u.ctfc2bit > 3u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.ctfc2bit);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.ctfc2bit, 0, 3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ctfc4bit");
-         if ((uint64_t)pvalue->u.ctfc4bit > 15u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.ctfc4bit);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.ctfc4bit, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "ctfc6bit");
-         if ((uint64_t)pvalue->u.ctfc6bit > 63u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.ctfc6bit);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.ctfc6bit, 0, 63);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "ctfc8bit");
-         stat = pe_ConsUInt64(ctx, pvalue->u.ctfc8bit, 0, 255);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "ctfc12bit");
-         if ((uint64_t)pvalue->u.ctfc12bit > 4095u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.ctfc12bit);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.ctfc12bit, 0, 4095);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "ctfc16bit");
-         stat = pe_ConsUInt64(ctx, pvalue->u.ctfc16bit, 0, 65535);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "ctfc24bit");
-         if ((uint64_t)pvalue->u.ctfc24bit > 16777215u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.ctfc24bit);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.ctfc24bit, 0, 16777215);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TFCI_Range(rtxContext* ctx, const TFCI_Range* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TFCI-Range");
-   /* maxTFCIField2Value */
-   rtxCtxtPushElemName(ctx, "maxTFCIField2Value");
-   if ((uint64_t)(pvalue->maxTFCIField2Value - 1) > 1022u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->maxTFCIField2Value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxTFCIField2Value, 1, 1023);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tfcs-InfoForDSCH */
-   rtxCtxtPushElemName(ctx, "tfcs-InfoForDSCH");
-   stat = asn1PE_UMTS_TFCS_InfoForDSCH(ctx, &pvalue->tfcs_InfoForDSCH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TFCI_RangeList(rtxContext* ctx, const TFCI_RangeList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "TFCI-RangeList");
-   RT_SET_SIZE(ctx, 1, 256);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "TFCI-Range", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_TFCI_Range(ctx, (const TFCI_Range*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TFCI_Field2_Information(rtxContext* ctx, const TFCI_Field2_Information* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TFCI-Field2-Information");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tfci-Range");
-         if (pvalue->u.tfci_Range == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TFCI_RangeList(ctx, pvalue->u.tfci_Range);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "explicit-config");
-         if (pvalue->u.explicit_config == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_ExplicitTFCS_Configuration(ctx, pvalue->u.explicit_config);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SplitTFCI_Signalling(rtxContext* ctx, const SplitTFCI_Signalling* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SplitTFCI-Signalling");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* splitType */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "splitType");
-      rtxCtxtPushTypeName(ctx, "SplitType");
-      if (pvalue->splitType > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->splitType);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->splitType, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tfci-Field2-Length */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "tfci-Field2-Length");
-      if ((uint64_t)(pvalue->tfci_Field2_Length - 1) > 9u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->tfci_Field2_Length);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tfci_Field2_Length, 1, 10);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tfci-Field1-Information */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "tfci-Field1-Information");
-      stat = asn1PE_UMTS_ExplicitTFCS_Configuration(ctx, &pvalue->tfci_Field1_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tfci-Field2-Information */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "tfci-Field2-Information");
-      stat = asn1PE_UMTS_TFCI_Field2_Information(ctx, &pvalue->tfci_Field2_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS(rtxContext* ctx, const TFCS* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TFCS");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "normalTFCI-Signalling");
-         if (pvalue->u.normalTFCI_Signalling == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_ExplicitTFCS_Configuration(ctx, pvalue->u.normalTFCI_Signalling);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "dummy");
-         if (pvalue->u.dummy == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_SplitTFCI_Signalling(ctx, pvalue->u.dummy);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_SysInfo(rtxContext* ctx, const PUSCH_SysInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PUSCH-SysInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* pusch-Identity */
-   rtxCtxtPushElemName(ctx, "pusch-Identity");
-   rtxCtxtPushTypeName(ctx, "PUSCH-Identity");
-   if ((uint64_t)(pvalue->pusch_Identity - 1) > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->pusch_Identity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pusch_Identity, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* pusch-Info */
-   rtxCtxtPushElemName(ctx, "pusch-Info");
-   stat = asn1PE_UMTS_PUSCH_Info(ctx, &pvalue->pusch_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* usch-TFS */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "usch-TFS");
-      stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->usch_TFS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* usch-TFCS */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "usch-TFCS");
-      stat = asn1PE_UMTS_TFCS(ctx, &pvalue->usch_TFCS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DurationTimeInfo(rtxContext* ctx, DurationTimeInfo value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DurationTimeInfo");
-   if ((uint64_t)(value - 1) > 4095u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 4096);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SFN_TimeInfo(rtxContext* ctx, const SFN_TimeInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SFN-TimeInfo");
-   /* activationTimeSFN */
-   rtxCtxtPushElemName(ctx, "activationTimeSFN");
-   if ((uint64_t)pvalue->activationTimeSFN > 4095u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->activationTimeSFN);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->activationTimeSFN, 0, 4095);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* physChDuration */
-   rtxCtxtPushElemName(ctx, "physChDuration");
-   rtxCtxtPushTypeName(ctx, "DurationTimeInfo");
-   if ((uint64_t)(pvalue->physChDuration - 1) > 4095u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->physChDuration);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->physChDuration, 1, 4096);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_SysInfoList_SFN_element(rtxContext* ctx, const PUSCH_SysInfoList_SFN_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* pusch-SysInfo */
-   rtxCtxtPushElemName(ctx, "pusch-SysInfo");
-   stat = asn1PE_UMTS_PUSCH_SysInfo(ctx, &pvalue->pusch_SysInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sfn-TimeInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sfn-TimeInfo");
-      stat = asn1PE_UMTS_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_SysInfoList_SFN(rtxContext* ctx, const PUSCH_SysInfoList_SFN* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "PUSCH-SysInfoList-SFN");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_PUSCH_SysInfoList_SFN_element(ctx, (const PUSCH_SysInfoList_SFN_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_Identity(rtxContext* ctx, PDSCH_Identity value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PDSCH-Identity");
-   if ((uint64_t)(value - 1) > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_TS_ChannelisationCode(rtxContext* ctx, DL_TS_ChannelisationCode value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DL-TS-ChannelisationCode");
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation_consecutive(rtxContext* ctx, const DL_TS_ChannelisationCodesShort_codesRepresentation_consecutive* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* firstChannelisationCode */
-   rtxCtxtPushElemName(ctx, "firstChannelisationCode");
-   rtxCtxtPushTypeName(ctx, "DL-TS-ChannelisationCode");
-   if (pvalue->firstChannelisationCode > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->firstChannelisationCode);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->firstChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* lastChannelisationCode */
-   rtxCtxtPushElemName(ctx, "lastChannelisationCode");
-   rtxCtxtPushTypeName(ctx, "DL-TS-ChannelisationCode");
-   if (pvalue->lastChannelisationCode > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->lastChannelisationCode);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->lastChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap(rtxContext* ctx, DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap value)
-{
-   int stat = 0;
-   {
-      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
-      uint32_t used = (uint32_t)(last + 1);
-      value.numbits = used <= 16 ? 16 : used;
-      if (last < -1) RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &value, 16, 16);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation(rtxContext* ctx, const DL_TS_ChannelisationCodesShort_codesRepresentation* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "consecutive");
-         if (pvalue->u.consecutive == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation_consecutive(ctx, pvalue->u.consecutive);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "bitmap");
-         if (pvalue->u.bitmap == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap(ctx, *pvalue->u.bitmap);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_TS_ChannelisationCodesShort(rtxContext* ctx, const DL_TS_ChannelisationCodesShort* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-TS-ChannelisationCodesShort");
-   /* codesRepresentation */
-   rtxCtxtPushElemName(ctx, "codesRepresentation");
-   stat = asn1PE_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation(ctx, &pvalue->codesRepresentation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkAdditionalTimeslots_parameters_sameAsLast(rtxContext* ctx, const DownlinkAdditionalTimeslots_parameters_sameAsLast* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
-   if ((uint64_t)pvalue->timeslotNumber > 14u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkAdditionalTimeslots_parameters_newParameters(rtxContext* ctx, const DownlinkAdditionalTimeslots_parameters_newParameters* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* individualTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "individualTimeslotInfo");
-   stat = asn1PE_UMTS_IndividualTimeslotInfo(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-TS-ChannelisationCodesShort */
-   rtxCtxtPushElemName(ctx, "dl-TS-ChannelisationCodesShort");
-   stat = asn1PE_UMTS_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkAdditionalTimeslots_parameters(rtxContext* ctx, const DownlinkAdditionalTimeslots_parameters* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "sameAsLast");
-         if (pvalue->u.sameAsLast == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DownlinkAdditionalTimeslots_parameters_sameAsLast(ctx, pvalue->u.sameAsLast);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "newParameters");
-         if (pvalue->u.newParameters == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DownlinkAdditionalTimeslots_parameters_newParameters(ctx, pvalue->u.newParameters);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkAdditionalTimeslots(rtxContext* ctx, const DownlinkAdditionalTimeslots* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DownlinkAdditionalTimeslots");
-   /* parameters */
-   rtxCtxtPushElemName(ctx, "parameters");
-   stat = asn1PE_UMTS_DownlinkAdditionalTimeslots_parameters(ctx, &pvalue->parameters);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* ctx, const DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 13);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "DownlinkAdditionalTimeslots", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_DownlinkAdditionalTimeslots(ctx, (const DownlinkAdditionalTimeslots*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots(rtxContext* ctx, const DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "consecutive");
-         if ((uint64_t)(pvalue->u.consecutive - 1) > 12u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.consecutive);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.consecutive, 1, 13);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "timeslotList");
-         if (pvalue->u.timeslotList == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkTimeslotsCodes_moreTimeslots(rtxContext* ctx, const DownlinkTimeslotsCodes_moreTimeslots* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "noMore");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "additionalTimeslots");
-         if (pvalue->u.additionalTimeslots == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkTimeslotsCodes(rtxContext* ctx, const DownlinkTimeslotsCodes* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DownlinkTimeslotsCodes");
-   /* firstIndividualTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "firstIndividualTimeslotInfo");
-   stat = asn1PE_UMTS_IndividualTimeslotInfo(ctx, &pvalue->firstIndividualTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-TS-ChannelisationCodesShort */
-   rtxCtxtPushElemName(ctx, "dl-TS-ChannelisationCodesShort");
-   stat = asn1PE_UMTS_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* moreTimeslots */
-   rtxCtxtPushElemName(ctx, "moreTimeslots");
-   stat = asn1PE_UMTS_DownlinkTimeslotsCodes_moreTimeslots(ctx, &pvalue->moreTimeslots);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_Info(rtxContext* ctx, const PDSCH_Info* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PDSCH-Info");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 2) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* tfcs-ID */
-   if (pvalue->tfcs_ID != 1) {
-      rtxCtxtPushElemName(ctx, "tfcs-ID");
-      rtxCtxtPushTypeName(ctx, "TFCS-IdentityPlain");
-      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* commonTimeslotInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "commonTimeslotInfo");
-      stat = asn1PE_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdsch-TimeslotsCodes */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "pdsch-TimeslotsCodes");
-      stat = asn1PE_UMTS_DownlinkTimeslotsCodes(ctx, &pvalue->pdsch_TimeslotsCodes);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_SysInfo(rtxContext* ctx, const PDSCH_SysInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PDSCH-SysInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* pdsch-Identity */
-   rtxCtxtPushElemName(ctx, "pdsch-Identity");
-   rtxCtxtPushTypeName(ctx, "PDSCH-Identity");
-   if ((uint64_t)(pvalue->pdsch_Identity - 1) > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->pdsch_Identity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pdsch_Identity, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* pdsch-Info */
-   rtxCtxtPushElemName(ctx, "pdsch-Info");
-   stat = asn1PE_UMTS_PDSCH_Info(ctx, &pvalue->pdsch_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dsch-TFS */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dsch-TFS");
-      stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->dsch_TFS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dsch-TFCS */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dsch-TFCS");
-      stat = asn1PE_UMTS_TFCS(ctx, &pvalue->dsch_TFCS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_SysInfoList_SFN_element(rtxContext* ctx, const PDSCH_SysInfoList_SFN_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* pdsch-SysInfo */
-   rtxCtxtPushElemName(ctx, "pdsch-SysInfo");
-   stat = asn1PE_UMTS_PDSCH_SysInfo(ctx, &pvalue->pdsch_SysInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sfn-TimeInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sfn-TimeInfo");
-      stat = asn1PE_UMTS_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_SysInfoList_SFN(rtxContext* ctx, const PDSCH_SysInfoList_SFN* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "PDSCH-SysInfoList-SFN");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_PDSCH_SysInfoList_SFN_element(ctx, (const PDSCH_SysInfoList_SFN_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_TX_Power(rtxContext* ctx, PrimaryCCPCH_TX_Power value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-   if ((uint64_t)(value - 6) > 37u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 6, 43);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Alpha(rtxContext* ctx, Alpha value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Alpha");
-   if ((uint64_t)value > 8u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ConstantValueTdd(rtxContext* ctx, ConstantValueTdd value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ConstantValueTdd");
-   if (value < -35 || value > 10) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, value, -35, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_OpenLoopPowerControl_TDD(rtxContext* ctx, const OpenLoopPowerControl_TDD* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "OpenLoopPowerControl-TDD");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* primaryCCPCH-TX-Power */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* alpha */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "alpha");
-      rtxCtxtPushTypeName(ctx, "Alpha");
-      if ((uint64_t)pvalue->alpha > 8u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->alpha);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->alpha, 0, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* prach-ConstantValue */
-   rtxCtxtPushElemName(ctx, "prach-ConstantValue");
-   rtxCtxtPushTypeName(ctx, "ConstantValueTdd");
-   if (pvalue->prach_ConstantValue < -35 || pvalue->prach_ConstantValue > 10) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->prach_ConstantValue);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->prach_ConstantValue, -35, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dpch-ConstantValue */
-   rtxCtxtPushElemName(ctx, "dpch-ConstantValue");
-   rtxCtxtPushTypeName(ctx, "ConstantValueTdd");
-   if (pvalue->dpch_ConstantValue < -35 || pvalue->dpch_ConstantValue > 10) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->dpch_ConstantValue);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->dpch_ConstantValue, -35, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* pusch-ConstantValue */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "pusch-ConstantValue");
-      rtxCtxtPushTypeName(ctx, "ConstantValueTdd");
-      if (pvalue->pusch_ConstantValue < -35 || pvalue->pusch_ConstantValue > 10) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->pusch_ConstantValue);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->pusch_ConstantValue, -35, 10);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType5_modeSpecificInfo_tdd(rtxContext* ctx, const SysInfoType5_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* pusch-SysInfoList-SFN */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pusch-SysInfoList-SFN");
-      stat = asn1PE_UMTS_PUSCH_SysInfoList_SFN(ctx, &pvalue->pusch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdsch-SysInfoList-SFN */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "pdsch-SysInfoList-SFN");
-      stat = asn1PE_UMTS_PDSCH_SysInfoList_SFN(ctx, &pvalue->pdsch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* openLoopPowerControl-TDD */
-   rtxCtxtPushElemName(ctx, "openLoopPowerControl-TDD");
-   stat = asn1PE_UMTS_OpenLoopPowerControl_TDD(ctx, &pvalue->openLoopPowerControl_TDD);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType5_modeSpecificInfo(rtxContext* ctx, const SysInfoType5_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_SysInfoType5_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_SysInfoType5_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_Info_fdd(rtxContext* ctx, const PrimaryCCPCH_Info_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* tx-DiversityIndicator */
-   rtxCtxtPushElemName(ctx, "tx-DiversityIndicator");
-   stat = rtxEncBit(ctx, pvalue->tx_DiversityIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_Info_tdd_syncCase_syncCase1(rtxContext* ctx, const PrimaryCCPCH_Info_tdd_syncCase_syncCase1* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* timeslot */
-   rtxCtxtPushElemName(ctx, "timeslot");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
-   if ((uint64_t)pvalue->timeslot > 14u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->timeslot);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TimeslotSync2(rtxContext* ctx, TimeslotSync2 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TimeslotSync2");
-   if ((uint64_t)value > 6u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_Info_tdd_syncCase_syncCase2(rtxContext* ctx, const PrimaryCCPCH_Info_tdd_syncCase_syncCase2* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* timeslotSync2 */
-   rtxCtxtPushElemName(ctx, "timeslotSync2");
-   rtxCtxtPushTypeName(ctx, "TimeslotSync2");
-   if ((uint64_t)pvalue->timeslotSync2 > 6u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->timeslotSync2);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotSync2, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_Info_tdd_syncCase(rtxContext* ctx, const PrimaryCCPCH_Info_tdd_syncCase* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "syncCase1");
-         if (pvalue->u.syncCase1 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PrimaryCCPCH_Info_tdd_syncCase_syncCase1(ctx, pvalue->u.syncCase1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "syncCase2");
-         if (pvalue->u.syncCase2 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PrimaryCCPCH_Info_tdd_syncCase_syncCase2(ctx, pvalue->u.syncCase2);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellParametersID(rtxContext* ctx, CellParametersID value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CellParametersID");
-   if ((uint64_t)value > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_Info_tdd(rtxContext* ctx, const PrimaryCCPCH_Info_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* syncCase */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "syncCase");
-      stat = asn1PE_UMTS_PrimaryCCPCH_Info_tdd_syncCase(ctx, &pvalue->syncCase);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellParametersID */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "cellParametersID");
-      rtxCtxtPushTypeName(ctx, "CellParametersID");
-      if ((uint64_t)pvalue->cellParametersID > 127u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->cellParametersID, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sctd-Indicator */
-   rtxCtxtPushElemName(ctx, "sctd-Indicator");
-   stat = rtxEncBit(ctx, pvalue->sctd_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_Info(rtxContext* ctx, const PrimaryCCPCH_Info* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-Info");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PrimaryCCPCH_Info_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PrimaryCCPCH_Info_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_AvailableSignatures(rtxContext* ctx, AvailableSignatures value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "AvailableSignatures");
-   {
-      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
-      uint32_t used = (uint32_t)(last + 1);
-      value.numbits = used <= 16 ? 16 : used;
-      if (last < -1) RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &value, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SF_PRACH(rtxContext* ctx, SF_PRACH value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SF-PRACH");
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PreambleScramblingCodeWordNumber(rtxContext* ctx, PreambleScramblingCodeWordNumber value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PreambleScramblingCodeWordNumber");
-   if ((uint64_t)value > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_AvailableSubChannelNumbers(rtxContext* ctx, AvailableSubChannelNumbers value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "AvailableSubChannelNumbers");
-   {
-      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
-      uint32_t used = (uint32_t)(last + 1);
-      value.numbits = used <= 12 ? 12 : used;
-      if (last < -1) RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   RT_SET_SIZE(ctx, 12, 12);
-   stat = pe_BitString32(ctx, &value, 12, 12);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_RACH_Info_modeSpecificInfo_fdd(rtxContext* ctx, const PRACH_RACH_Info_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* availableSignatures */
-   rtxCtxtPushElemName(ctx, "availableSignatures");
-   stat = asn1PE_UMTS_AvailableSignatures(ctx, pvalue->availableSignatures);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* availableSF */
-   rtxCtxtPushElemName(ctx, "availableSF");
-   rtxCtxtPushTypeName(ctx, "SF-PRACH");
-   if (pvalue->availableSF > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->availableSF);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->availableSF, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* preambleScramblingCodeWordNumber */
-   rtxCtxtPushElemName(ctx, "preambleScramblingCodeWordNumber");
-   rtxCtxtPushTypeName(ctx, "PreambleScramblingCodeWordNumber");
-   if ((uint64_t)pvalue->preambleScramblingCodeWordNumber > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->preambleScramblingCodeWordNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->preambleScramblingCodeWordNumber, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* puncturingLimit */
-   rtxCtxtPushElemName(ctx, "puncturingLimit");
-   rtxCtxtPushTypeName(ctx, "PuncturingLimit");
-   if (pvalue->puncturingLimit > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->puncturingLimit);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->puncturingLimit, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* availableSubChannelNumbers */
-   rtxCtxtPushElemName(ctx, "availableSubChannelNumbers");
-   stat = asn1PE_UMTS_AvailableSubChannelNumbers(ctx, pvalue->availableSubChannelNumbers);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TDD_PRACH_CCode8(rtxContext* ctx, TDD_PRACH_CCode8 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TDD-PRACH-CCode8");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TDD_PRACH_CCodeList_sf8(rtxContext* ctx, const TDD_PRACH_CCodeList_sf8* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "TDD-PRACH-CCode8", i);
-      rtxCtxtPushTypeName(ctx, "TDD-PRACH-CCode8");
-      if (pvalue->elem[i] > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TDD_PRACH_CCode16(rtxContext* ctx, TDD_PRACH_CCode16 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TDD-PRACH-CCode16");
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TDD_PRACH_CCodeList_sf16(rtxContext* ctx, const TDD_PRACH_CCodeList_sf16* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "TDD-PRACH-CCode16", i);
-      rtxCtxtPushTypeName(ctx, "TDD-PRACH-CCode16");
-      if (pvalue->elem[i] > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TDD_PRACH_CCodeList(rtxContext* ctx, const TDD_PRACH_CCodeList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TDD-PRACH-CCodeList");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "sf8");
-         if (pvalue->u.sf8 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TDD_PRACH_CCodeList_sf8(ctx, pvalue->u.sf8);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "sf16");
-         if (pvalue->u.sf16 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TDD_PRACH_CCodeList_sf16(ctx, pvalue->u.sf16);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_Midamble(rtxContext* ctx, PRACH_Midamble value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PRACH-Midamble");
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_RACH_Info_modeSpecificInfo_tdd(rtxContext* ctx, const PRACH_RACH_Info_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* timeslot */
-   rtxCtxtPushElemName(ctx, "timeslot");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
-   if ((uint64_t)pvalue->timeslot > 14u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->timeslot);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* channelisationCodeList */
-   rtxCtxtPushElemName(ctx, "channelisationCodeList");
-   stat = asn1PE_UMTS_TDD_PRACH_CCodeList(ctx, &pvalue->channelisationCodeList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* prach-Midamble */
-   rtxCtxtPushElemName(ctx, "prach-Midamble");
-   rtxCtxtPushTypeName(ctx, "PRACH-Midamble");
-   if (pvalue->prach_Midamble > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->prach_Midamble);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->prach_Midamble, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_RACH_Info_modeSpecificInfo(rtxContext* ctx, const PRACH_RACH_Info_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PRACH_RACH_Info_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PRACH_RACH_Info_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_RACH_Info(rtxContext* ctx, const PRACH_RACH_Info* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PRACH-RACH-Info");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_PRACH_RACH_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TransportChannelIdentity(rtxContext* ctx, TransportChannelIdentity value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-   if ((uint64_t)(value - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_AccessServiceClass_FDD_assignedSubChannelNumber(rtxContext* ctx, AccessServiceClass_FDD_assignedSubChannelNumber value)
-{
-   int stat = 0;
-   {
-      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
-      uint32_t used = (uint32_t)(last + 1);
-      value.numbits = used <= 4 ? 4 : used;
-      if (last < -1) RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pe_BitString32(ctx, &value, 4, 4);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_AccessServiceClass_FDD(rtxContext* ctx, const AccessServiceClass_FDD* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "AccessServiceClass-FDD");
-   /* availableSignatureStartIndex */
-   rtxCtxtPushElemName(ctx, "availableSignatureStartIndex");
-   if ((uint64_t)pvalue->availableSignatureStartIndex > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->availableSignatureStartIndex);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->availableSignatureStartIndex, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* availableSignatureEndIndex */
-   rtxCtxtPushElemName(ctx, "availableSignatureEndIndex");
-   if ((uint64_t)pvalue->availableSignatureEndIndex > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->availableSignatureEndIndex);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->availableSignatureEndIndex, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* assignedSubChannelNumber */
-   rtxCtxtPushElemName(ctx, "assignedSubChannelNumber");
-   stat = asn1PE_UMTS_AccessServiceClass_FDD_assignedSubChannelNumber(ctx, pvalue->assignedSubChannelNumber);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ASCSetting_FDD(rtxContext* ctx, const ASCSetting_FDD* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ASCSetting-FDD");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* accessServiceClass-FDD */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "accessServiceClass-FDD");
-      stat = asn1PE_UMTS_AccessServiceClass_FDD(ctx, &pvalue->accessServiceClass_FDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_Partitioning_fdd(rtxContext* ctx, const PRACH_Partitioning_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "ASCSetting-FDD", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_ASCSetting_FDD(ctx, (const ASCSetting_FDD*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AccessServiceClass_TDD_channelisationCodeIndices(rtxContext* ctx, AccessServiceClass_TDD_channelisationCodeIndices value)
+int asn1PE_UMTS_AccessServiceClass_TDD_channelisationCodeIndices(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_channelisationCodeIndices value)
 {
    int stat = 0;
    {
       int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
       uint32_t used = (uint32_t)(last + 1);
       value.numbits = used <= 8 ? 8 : used;
-      if (last < -1) RT_RAISE(ctx, RT_ERR_CONSVIO);
+      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
    }
    RT_SET_SIZE(ctx, 8, 8);
    stat = pe_BitString32(ctx, &value, 8, 8);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize_size2_subchannels(rtxContext* ctx, AccessServiceClass_TDD_subchannelSize_size2_subchannels value)
+int asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize_size2_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size2_subchannels value)
 {
    int stat = 0;
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize_size2(rtxContext* ctx, const AccessServiceClass_TDD_subchannelSize_size2* pvalue)
+int asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize_size2(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_subchannelSize_size2* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* subchannels */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "subchannels");
       if (pvalue->subchannels > 1) {
          rtxErrAddUIntParm(ctx, pvalue->subchannels);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "subchannels", -1, 0);
       }
       stat = pe_ConsUInt64(ctx, pvalue->subchannels, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize_size4_subchannels(rtxContext* ctx, AccessServiceClass_TDD_subchannelSize_size4_subchannels value)
+int asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize_size4_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size4_subchannels value)
 {
    int stat = 0;
    {
       int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
       uint32_t used = (uint32_t)(last + 1);
       value.numbits = used <= 4 ? 4 : used;
-      if (last < -1) RT_RAISE(ctx, RT_ERR_CONSVIO);
+      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
    }
    RT_SET_SIZE(ctx, 4, 4);
    stat = pe_BitString32(ctx, &value, 4, 4);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize_size4(rtxContext* ctx, const AccessServiceClass_TDD_subchannelSize_size4* pvalue)
+int asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize_size4(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_subchannelSize_size4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* subchannels */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "subchannels");
       stat = asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize_size4_subchannels(ctx, pvalue->subchannels);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize_size8_subchannels(rtxContext* ctx, AccessServiceClass_TDD_subchannelSize_size8_subchannels value)
+int asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize_size8_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size8_subchannels value)
 {
    int stat = 0;
    {
       int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
       uint32_t used = (uint32_t)(last + 1);
       value.numbits = used <= 8 ? 8 : used;
-      if (last < -1) RT_RAISE(ctx, RT_ERR_CONSVIO);
+      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
    }
    RT_SET_SIZE(ctx, 8, 8);
    stat = pe_BitString32(ctx, &value, 8, 8);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize_size8(rtxContext* ctx, const AccessServiceClass_TDD_subchannelSize_size8* pvalue)
+int asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize_size8(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_subchannelSize_size8* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* subchannels */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "subchannels");
       stat = asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize_size8_subchannels(ctx, pvalue->subchannels);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize(rtxContext* ctx, const AccessServiceClass_TDD_subchannelSize* pvalue)
+int asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_subchannelSize* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 3) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "size1");
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "size2");
-         if (pvalue->u.size2 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.size2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "size2", -1, 0);
          stat = asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize_size2(ctx, pvalue->u.size2);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "size2", -1, 0);
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "size4");
-         if (pvalue->u.size4 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.size4 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "size4", -1, 0);
          stat = asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize_size4(ctx, pvalue->u.size4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "size4", -1, 0);
          break;
       case 4:
-         rtxCtxtPushElemName(ctx, "size8");
-         if (pvalue->u.size8 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.size8 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "size8", -1, 0);
          stat = asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize_size8(ctx, pvalue->u.size8);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "size8", -1, 0);
          break;
       default:
          break;
@@ -2770,472 +143,368 @@ int asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize(rtxContext* ctx, const Acc
    return 0;
 }
 
-int asn1PE_UMTS_AccessServiceClass_TDD(rtxContext* ctx, const AccessServiceClass_TDD* pvalue)
+int asn1PE_UMTS_AccessServiceClass_TDD(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "AccessServiceClass-TDD");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AccessServiceClass-TDD");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AccessServiceClass-TDD");
    /* channelisationCodeIndices */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "channelisationCodeIndices");
       stat = asn1PE_UMTS_AccessServiceClass_TDD_channelisationCodeIndices(ctx, pvalue->channelisationCodeIndices);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "channelisationCodeIndices", -1, "AccessServiceClass-TDD");
    }
    /* subchannelSize */
-   rtxCtxtPushElemName(ctx, "subchannelSize");
    stat = asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize(ctx, &pvalue->subchannelSize);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "subchannelSize", -1, "AccessServiceClass-TDD");
    return 0;
 }
 
-int asn1PE_UMTS_ASCSetting_TDD(rtxContext* ctx, const ASCSetting_TDD* pvalue)
+int asn1PE_UMTS_ASCSetting_TDD(rtxContext* RT_RESTRICT ctx, const ASCSetting_TDD* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ASCSetting-TDD");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ASCSetting-TDD");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ASCSetting-TDD");
    /* accessServiceClass-TDD */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "accessServiceClass-TDD");
       stat = asn1PE_UMTS_AccessServiceClass_TDD(ctx, &pvalue->accessServiceClass_TDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "accessServiceClass-TDD", -1, "ASCSetting-TDD");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PRACH_Partitioning_tdd(rtxContext* ctx, const PRACH_Partitioning_tdd* pvalue)
+int asn1PE_UMTS_PRACH_Partitioning_tdd(rtxContext* RT_RESTRICT ctx, const PRACH_Partitioning_tdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 8);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "ASCSetting-TDD", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ASCSetting-TDD", (int32_t)i, 0);
       stat = asn1PE_UMTS_ASCSetting_TDD(ctx, (const ASCSetting_TDD*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ASCSetting-TDD", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_PRACH_Partitioning(rtxContext* ctx, const PRACH_Partitioning* pvalue)
+int asn1PE_UMTS_PRACH_Partitioning(rtxContext* RT_RESTRICT ctx, const PRACH_Partitioning* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PRACH-Partitioning");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-Partitioning");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "PRACH-Partitioning");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PRACH-Partitioning");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, "PRACH-Partitioning");
          stat = asn1PE_UMTS_PRACH_Partitioning_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "PRACH-Partitioning");
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, "PRACH-Partitioning");
          stat = asn1PE_UMTS_PRACH_Partitioning_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "PRACH-Partitioning");
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PersistenceScalingFactor(rtxContext* ctx, PersistenceScalingFactor value)
+int asn1PE_UMTS_PersistenceScalingFactor(rtxContext* RT_RESTRICT ctx, PersistenceScalingFactor value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PersistenceScalingFactor");
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "PersistenceScalingFactor");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PersistenceScalingFactor");
    return 0;
 }
 
-int asn1PE_UMTS_PersistenceScalingFactorList(rtxContext* ctx, const PersistenceScalingFactorList* pvalue)
+int asn1PE_UMTS_PersistenceScalingFactorList(rtxContext* RT_RESTRICT ctx, const PersistenceScalingFactorList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PersistenceScalingFactorList");
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "PersistenceScalingFactorList");
    RT_SET_SIZE(ctx, 1, 6);
    stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PersistenceScalingFactorList");
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "PersistenceScalingFactor", i);
-      rtxCtxtPushTypeName(ctx, "PersistenceScalingFactor");
       if (pvalue->elem[i] > 7) {
          rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "PersistenceScalingFactor", "PersistenceScalingFactor", (int32_t)i, "PersistenceScalingFactorList");
       }
       stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, "PersistenceScalingFactor", "PersistenceScalingFactor", (int32_t)i, "PersistenceScalingFactorList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_AC_To_ASC_Mapping(rtxContext* ctx, AC_To_ASC_Mapping value)
+int asn1PE_UMTS_AC_To_ASC_Mapping(rtxContext* RT_RESTRICT ctx, AC_To_ASC_Mapping value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "AC-To-ASC-Mapping");
    if ((uint64_t)value > 7u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "AC-To-ASC-Mapping");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "AC-To-ASC-Mapping");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AC-To-ASC-Mapping");
    return 0;
 }
 
-int asn1PE_UMTS_AC_To_ASC_MappingTable(rtxContext* ctx, const AC_To_ASC_MappingTable* pvalue)
+int asn1PE_UMTS_AC_To_ASC_MappingTable(rtxContext* RT_RESTRICT ctx, const AC_To_ASC_MappingTable* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AC-To-ASC-MappingTable");
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "AC-To-ASC-MappingTable");
    if (pvalue->n != 7) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "AC-To-ASC-MappingTable");
       rtxErrAddUIntParm(ctx, pvalue->n);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "AC-To-ASC-MappingTable");
    }
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "AC-To-ASC-Mapping", i);
-      rtxCtxtPushTypeName(ctx, "AC-To-ASC-Mapping");
       if ((uint64_t)pvalue->elem[i] > 7u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "AC-To-ASC-Mapping");
          rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "AC-To-ASC-Mapping", "AC-To-ASC-Mapping", (int32_t)i, "AC-To-ASC-MappingTable");
       }
       stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, "AC-To-ASC-Mapping", "AC-To-ASC-Mapping", (int32_t)i, "AC-To-ASC-MappingTable");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PrimaryCPICH_TX_Power(rtxContext* ctx, PrimaryCPICH_TX_Power value)
+int asn1PE_UMTS_PrimaryCPICH_TX_Power(rtxContext* RT_RESTRICT ctx, PrimaryCPICH_TX_Power value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PrimaryCPICH-TX-Power");
    if (value < -10 || value > 50) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "PrimaryCPICH-TX-Power");
       rtxErrAddIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PrimaryCPICH-TX-Power");
    }
    stat = pe_ConsInt64(ctx, value, -10, 50);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PrimaryCPICH-TX-Power");
    return 0;
 }
 
-int asn1PE_UMTS_ConstantValue(rtxContext* ctx, ConstantValue value)
+int asn1PE_UMTS_ConstantValue(rtxContext* RT_RESTRICT ctx, ConstantValue value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ConstantValue");
    if (value < -35 || value > -10) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "ConstantValue");
       rtxErrAddIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "ConstantValue");
    }
    stat = pe_ConsInt64(ctx, value, -35, -10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ConstantValue");
    return 0;
 }
 
-int asn1PE_UMTS_PowerRampStep(rtxContext* ctx, PowerRampStep value)
+int asn1PE_UMTS_PowerRampStep(rtxContext* RT_RESTRICT ctx, PowerRampStep value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PowerRampStep");
    if ((uint64_t)(value - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "PowerRampStep");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PowerRampStep");
    }
    stat = pe_ConsUInt64(ctx, value, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PowerRampStep");
    return 0;
 }
 
-int asn1PE_UMTS_PreambleRetransMax(rtxContext* ctx, PreambleRetransMax value)
+int asn1PE_UMTS_PreambleRetransMax(rtxContext* RT_RESTRICT ctx, PreambleRetransMax value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PreambleRetransMax");
    if ((uint64_t)(value - 1) > 63u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "PreambleRetransMax");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PreambleRetransMax");
    }
    stat = pe_ConsUInt64(ctx, value, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PreambleRetransMax");
    return 0;
 }
 
-int asn1PE_UMTS_PRACH_PowerOffset(rtxContext* ctx, const PRACH_PowerOffset* pvalue)
+int asn1PE_UMTS_PRACH_PowerOffset(rtxContext* RT_RESTRICT ctx, const PRACH_PowerOffset* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PRACH-PowerOffset");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-PowerOffset");
    /* powerRampStep */
-   rtxCtxtPushElemName(ctx, "powerRampStep");
-   rtxCtxtPushTypeName(ctx, "PowerRampStep");
    if ((uint64_t)(pvalue->powerRampStep - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "PowerRampStep");
       rtxErrAddUIntParm(ctx, pvalue->powerRampStep);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PowerRampStep", "powerRampStep", -1, "PRACH-PowerOffset");
    }
    stat = pe_ConsUInt64(ctx, pvalue->powerRampStep, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "PowerRampStep", "powerRampStep", -1, "PRACH-PowerOffset");
    /* preambleRetransMax */
-   rtxCtxtPushElemName(ctx, "preambleRetransMax");
-   rtxCtxtPushTypeName(ctx, "PreambleRetransMax");
    if ((uint64_t)(pvalue->preambleRetransMax - 1) > 63u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "PreambleRetransMax");
       rtxErrAddUIntParm(ctx, pvalue->preambleRetransMax);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PreambleRetransMax", "preambleRetransMax", -1, "PRACH-PowerOffset");
    }
    stat = pe_ConsUInt64(ctx, pvalue->preambleRetransMax, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "PreambleRetransMax", "preambleRetransMax", -1, "PRACH-PowerOffset");
    return 0;
 }
 
-int asn1PE_UMTS_NB01(rtxContext* ctx, NB01 value)
+int asn1PE_UMTS_NB01(rtxContext* RT_RESTRICT ctx, NB01 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "NB01");
    if ((uint64_t)value > 50u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "NB01");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "NB01");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 50);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NB01");
    return 0;
 }
 
-int asn1PE_UMTS_RACH_TransmissionParameters(rtxContext* ctx, const RACH_TransmissionParameters* pvalue)
+int asn1PE_UMTS_RACH_TransmissionParameters(rtxContext* RT_RESTRICT ctx, const RACH_TransmissionParameters* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RACH-TransmissionParameters");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RACH-TransmissionParameters");
    /* mmax */
-   rtxCtxtPushElemName(ctx, "mmax");
    if ((uint64_t)(pvalue->mmax - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "mmax");
       rtxErrAddUIntParm(ctx, pvalue->mmax);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "mmax", -1, "RACH-TransmissionParameters");
    }
    stat = pe_ConsUInt64(ctx, pvalue->mmax, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "mmax", -1, "RACH-TransmissionParameters");
    /* nb01Min */
-   rtxCtxtPushElemName(ctx, "nb01Min");
-   rtxCtxtPushTypeName(ctx, "NB01");
    if ((uint64_t)pvalue->nb01Min > 50u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "NB01");
       rtxErrAddUIntParm(ctx, pvalue->nb01Min);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "NB01", "nb01Min", -1, "RACH-TransmissionParameters");
    }
    stat = pe_ConsUInt64(ctx, pvalue->nb01Min, 0, 50);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "NB01", "nb01Min", -1, "RACH-TransmissionParameters");
    /* nb01Max */
-   rtxCtxtPushElemName(ctx, "nb01Max");
-   rtxCtxtPushTypeName(ctx, "NB01");
    if ((uint64_t)pvalue->nb01Max > 50u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "NB01");
       rtxErrAddUIntParm(ctx, pvalue->nb01Max);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "NB01", "nb01Max", -1, "RACH-TransmissionParameters");
    }
    stat = pe_ConsUInt64(ctx, pvalue->nb01Max, 0, 50);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "NB01", "nb01Max", -1, "RACH-TransmissionParameters");
    return 0;
 }
 
-int asn1PE_UMTS_ChannelisationCode256(rtxContext* ctx, ChannelisationCode256 value)
+int asn1PE_UMTS_ChannelisationCode256(rtxContext* RT_RESTRICT ctx, ChannelisationCode256 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ChannelisationCode256");
    stat = pe_ConsUInt64(ctx, value, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ChannelisationCode256");
    return 0;
 }
 
-int asn1PE_UMTS_AICH_TransmissionTiming(rtxContext* ctx, AICH_TransmissionTiming value)
+int asn1PE_UMTS_AICH_TransmissionTiming(rtxContext* RT_RESTRICT ctx, AICH_TransmissionTiming value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "AICH-TransmissionTiming");
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "AICH-TransmissionTiming");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AICH-TransmissionTiming");
    return 0;
 }
 
-int asn1PE_UMTS_AICH_Info(rtxContext* ctx, const AICH_Info* pvalue)
+int asn1PE_UMTS_AICH_Info(rtxContext* RT_RESTRICT ctx, const AICH_Info* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "AICH-Info");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AICH-Info");
    /* channelisationCode256 */
-   rtxCtxtPushElemName(ctx, "channelisationCode256");
-   rtxCtxtPushTypeName(ctx, "ChannelisationCode256");
    stat = pe_ConsUInt64(ctx, pvalue->channelisationCode256, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "ChannelisationCode256", "channelisationCode256", -1, "AICH-Info");
    /* sttd-Indicator */
-   rtxCtxtPushElemName(ctx, "sttd-Indicator");
    stat = rtxEncBit(ctx, pvalue->sttd_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sttd-Indicator", -1, "AICH-Info");
    /* aich-TransmissionTiming */
-   rtxCtxtPushElemName(ctx, "aich-TransmissionTiming");
-   rtxCtxtPushTypeName(ctx, "AICH-TransmissionTiming");
    if (pvalue->aich_TransmissionTiming > 1) {
       rtxErrAddUIntParm(ctx, pvalue->aich_TransmissionTiming);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "AICH-TransmissionTiming", "aich-TransmissionTiming", -1, "AICH-Info");
    }
    stat = pe_ConsUInt64(ctx, pvalue->aich_TransmissionTiming, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "AICH-TransmissionTiming", "aich-TransmissionTiming", -1, "AICH-Info");
    return 0;
 }
 
-int asn1PE_UMTS_PRACH_SystemInformation_modeSpecificInfo_fdd(rtxContext* ctx, const PRACH_SystemInformation_modeSpecificInfo_fdd* pvalue)
+int asn1PE_UMTS_PRACH_SystemInformation_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformation_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* primaryCPICH-TX-Power */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-TX-Power");
-      rtxCtxtPushTypeName(ctx, "PrimaryCPICH-TX-Power");
       if (pvalue->primaryCPICH_TX_Power < -10 || pvalue->primaryCPICH_TX_Power > 50) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "PrimaryCPICH-TX-Power");
          rtxErrAddIntParm(ctx, pvalue->primaryCPICH_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
       }
       stat = pe_ConsInt64(ctx, pvalue->primaryCPICH_TX_Power, -10, 50);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
    }
    /* constantValue */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "constantValue");
-      rtxCtxtPushTypeName(ctx, "ConstantValue");
       if (pvalue->constantValue < -35 || pvalue->constantValue > -10) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "ConstantValue");
          rtxErrAddIntParm(ctx, pvalue->constantValue);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "ConstantValue", "constantValue", -1, 0);
       }
       stat = pe_ConsInt64(ctx, pvalue->constantValue, -35, -10);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "ConstantValue", "constantValue", -1, 0);
    }
    /* prach-PowerOffset */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "prach-PowerOffset");
       stat = asn1PE_UMTS_PRACH_PowerOffset(ctx, &pvalue->prach_PowerOffset);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "prach-PowerOffset", -1, 0);
    }
    /* rach-TransmissionParameters */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "rach-TransmissionParameters");
       stat = asn1PE_UMTS_RACH_TransmissionParameters(ctx, &pvalue->rach_TransmissionParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "rach-TransmissionParameters", -1, 0);
    }
    /* aich-Info */
    if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "aich-Info");
       stat = asn1PE_UMTS_AICH_Info(ctx, &pvalue->aich_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "aich-Info", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_PRACH_SystemInformation_modeSpecificInfo(rtxContext* ctx, const PRACH_SystemInformation_modeSpecificInfo* pvalue)
+int asn1PE_UMTS_PRACH_SystemInformation_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformation_modeSpecificInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
          stat = asn1PE_UMTS_PRACH_SystemInformation_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
          break;
       default:
          break;
@@ -3243,728 +512,564 @@ int asn1PE_UMTS_PRACH_SystemInformation_modeSpecificInfo(rtxContext* ctx, const 
    return 0;
 }
 
-int asn1PE_UMTS_PRACH_SystemInformation(rtxContext* ctx, const PRACH_SystemInformation* pvalue)
+int asn1PE_UMTS_PRACH_SystemInformation(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformation* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PRACH-SystemInformation");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-SystemInformation");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-SystemInformation");
    /* prach-RACH-Info */
-   rtxCtxtPushElemName(ctx, "prach-RACH-Info");
    stat = asn1PE_UMTS_PRACH_RACH_Info(ctx, &pvalue->prach_RACH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "prach-RACH-Info", -1, "PRACH-SystemInformation");
    /* transportChannelIdentity */
-   rtxCtxtPushElemName(ctx, "transportChannelIdentity");
-   rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
    if ((uint64_t)(pvalue->transportChannelIdentity - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
       rtxErrAddUIntParm(ctx, pvalue->transportChannelIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "transportChannelIdentity", -1, "PRACH-SystemInformation");
    }
    stat = pe_ConsUInt64(ctx, pvalue->transportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, "PRACH-SystemInformation");
    /* rach-TransportFormatSet */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "rach-TransportFormatSet");
       stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->rach_TransportFormatSet);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "rach-TransportFormatSet", -1, "PRACH-SystemInformation");
    }
    /* rach-TFCS */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "rach-TFCS");
       stat = asn1PE_UMTS_TFCS(ctx, &pvalue->rach_TFCS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "rach-TFCS", -1, "PRACH-SystemInformation");
    }
    /* prach-Partitioning */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "prach-Partitioning");
       stat = asn1PE_UMTS_PRACH_Partitioning(ctx, &pvalue->prach_Partitioning);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "prach-Partitioning", -1, "PRACH-SystemInformation");
    }
    /* persistenceScalingFactorList */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "persistenceScalingFactorList");
       stat = asn1PE_UMTS_PersistenceScalingFactorList(ctx, &pvalue->persistenceScalingFactorList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "persistenceScalingFactorList", -1, "PRACH-SystemInformation");
    }
    /* ac-To-ASC-MappingTable */
    if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "ac-To-ASC-MappingTable");
       stat = asn1PE_UMTS_AC_To_ASC_MappingTable(ctx, &pvalue->ac_To_ASC_MappingTable);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ac-To-ASC-MappingTable", -1, "PRACH-SystemInformation");
    }
    /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
    stat = asn1PE_UMTS_PRACH_SystemInformation_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "PRACH-SystemInformation");
    return 0;
 }
 
-int asn1PE_UMTS_PRACH_SystemInformationList(rtxContext* ctx, const PRACH_SystemInformationList* pvalue)
+int asn1PE_UMTS_PRACH_SystemInformationList(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformationList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-SystemInformationList");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "PRACH-SystemInformationList");
    RT_SET_SIZE(ctx, 1, 16);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PRACH-SystemInformationList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "PRACH-SystemInformation", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PRACH-SystemInformation", (int32_t)i, "PRACH-SystemInformationList");
       stat = asn1PE_UMTS_PRACH_SystemInformation(ctx, (const PRACH_SystemInformation*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "PRACH-SystemInformation", (int32_t)i, "PRACH-SystemInformationList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PCPICH_UsageForChannelEst(rtxContext* ctx, PCPICH_UsageForChannelEst value)
+int asn1PE_UMTS_PCPICH_UsageForChannelEst(rtxContext* RT_RESTRICT ctx, PCPICH_UsageForChannelEst value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PCPICH-UsageForChannelEst");
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "PCPICH-UsageForChannelEst");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PCPICH-UsageForChannelEst");
    return 0;
 }
 
-int asn1PE_UMTS_SecondaryScramblingCode(rtxContext* ctx, SecondaryScramblingCode value)
+int asn1PE_UMTS_SecondaryScramblingCode(rtxContext* RT_RESTRICT ctx, SecondaryScramblingCode value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SecondaryScramblingCode");
    if ((uint64_t)(value - 1) > 14u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "SecondaryScramblingCode");
    }
    stat = pe_ConsUInt64(ctx, value, 1, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SecondaryScramblingCode");
    return 0;
 }
 
-int asn1PE_UMTS_SecondaryCPICH_Info(rtxContext* ctx, const SecondaryCPICH_Info* pvalue)
+int asn1PE_UMTS_SecondaryCPICH_Info(rtxContext* RT_RESTRICT ctx, const SecondaryCPICH_Info* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SecondaryCPICH-Info");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SecondaryCPICH-Info");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SecondaryCPICH-Info");
    /* secondaryDL-ScramblingCode */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "secondaryDL-ScramblingCode");
-      rtxCtxtPushTypeName(ctx, "SecondaryScramblingCode");
       if ((uint64_t)(pvalue->secondaryDL_ScramblingCode - 1) > 14u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
          rtxErrAddUIntParm(ctx, pvalue->secondaryDL_ScramblingCode);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "SecondaryScramblingCode", "secondaryDL-ScramblingCode", -1, "SecondaryCPICH-Info");
       }
       stat = pe_ConsUInt64(ctx, pvalue->secondaryDL_ScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "secondaryDL-ScramblingCode", -1, "SecondaryCPICH-Info");
    }
    /* channelisationCode */
-   rtxCtxtPushElemName(ctx, "channelisationCode");
-   rtxCtxtPushTypeName(ctx, "ChannelisationCode256");
    stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "ChannelisationCode256", "channelisationCode", -1, "SecondaryCPICH-Info");
    return 0;
 }
 
-int asn1PE_UMTS_SF256_AndCodeNumber(rtxContext* ctx, const SF256_AndCodeNumber* pvalue)
+int asn1PE_UMTS_SF256_AndCodeNumber(rtxContext* RT_RESTRICT ctx, const SF256_AndCodeNumber* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SF256-AndCodeNumber");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SF256-AndCodeNumber");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 6) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "SF256-AndCodeNumber");
+   if (pvalue->t - 1 > 6) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SF256-AndCodeNumber");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "sf4");
          if ((uint64_t)pvalue->u.sf4 > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "sf4");
             rtxErrAddUIntParm(ctx, pvalue->u.sf4);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sf4", -1, "SF256-AndCodeNumber");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sf4, 0, 3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "sf4", -1, "SF256-AndCodeNumber");
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "sf8");
          if ((uint64_t)pvalue->u.sf8 > 7u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "sf8");
             rtxErrAddUIntParm(ctx, pvalue->u.sf8);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sf8", -1, "SF256-AndCodeNumber");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sf8, 0, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "sf8", -1, "SF256-AndCodeNumber");
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "sf16");
          if ((uint64_t)pvalue->u.sf16 > 15u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "sf16");
             rtxErrAddUIntParm(ctx, pvalue->u.sf16);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sf16", -1, "SF256-AndCodeNumber");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sf16, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "sf16", -1, "SF256-AndCodeNumber");
          break;
       case 4:
-         rtxCtxtPushElemName(ctx, "sf32");
          if ((uint64_t)pvalue->u.sf32 > 31u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "sf32");
             rtxErrAddUIntParm(ctx, pvalue->u.sf32);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sf32", -1, "SF256-AndCodeNumber");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sf32, 0, 31);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "sf32", -1, "SF256-AndCodeNumber");
          break;
       case 5:
-         rtxCtxtPushElemName(ctx, "sf64");
          if ((uint64_t)pvalue->u.sf64 > 63u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "sf64");
             rtxErrAddUIntParm(ctx, pvalue->u.sf64);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sf64", -1, "SF256-AndCodeNumber");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sf64, 0, 63);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "sf64", -1, "SF256-AndCodeNumber");
          break;
       case 6:
-         rtxCtxtPushElemName(ctx, "sf128");
          if ((uint64_t)pvalue->u.sf128 > 127u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "sf128");
             rtxErrAddUIntParm(ctx, pvalue->u.sf128);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sf128", -1, "SF256-AndCodeNumber");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.sf128, 0, 127);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "sf128", -1, "SF256-AndCodeNumber");
          break;
       case 7:
-         rtxCtxtPushElemName(ctx, "sf256");
          stat = pe_ConsUInt64(ctx, pvalue->u.sf256, 0, 255);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "sf256", -1, "SF256-AndCodeNumber");
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PositionFixedOrFlexible(rtxContext* ctx, PositionFixedOrFlexible value)
+int asn1PE_UMTS_PositionFixedOrFlexible(rtxContext* RT_RESTRICT ctx, PositionFixedOrFlexible value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PositionFixedOrFlexible");
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "PositionFixedOrFlexible");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PositionFixedOrFlexible");
    return 0;
 }
 
-int asn1PE_UMTS_TimingOffset(rtxContext* ctx, TimingOffset value)
+int asn1PE_UMTS_TimingOffset(rtxContext* RT_RESTRICT ctx, TimingOffset value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TimingOffset");
    if ((uint64_t)value > 149u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "TimingOffset");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TimingOffset");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 149);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimingOffset");
    return 0;
 }
 
-int asn1PE_UMTS_SecondaryCCPCH_Info_modeSpecificInfo_fdd(rtxContext* ctx, const SecondaryCCPCH_Info_modeSpecificInfo_fdd* pvalue)
+int asn1PE_UMTS_SecondaryCCPCH_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
       ((uint64_t)(pvalue->timingOffset != 0) << 0), 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* dummy1 */
-   rtxCtxtPushElemName(ctx, "dummy1");
-   rtxCtxtPushTypeName(ctx, "PCPICH-UsageForChannelEst");
    if (pvalue->dummy1 > 1) {
       rtxErrAddUIntParm(ctx, pvalue->dummy1);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "PCPICH-UsageForChannelEst", "dummy1", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->dummy1, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "PCPICH-UsageForChannelEst", "dummy1", -1, 0);
    /* dummy2 */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dummy2");
       stat = asn1PE_UMTS_SecondaryCPICH_Info(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
    }
    /* secondaryScramblingCode */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "secondaryScramblingCode");
-      rtxCtxtPushTypeName(ctx, "SecondaryScramblingCode");
       if ((uint64_t)(pvalue->secondaryScramblingCode - 1) > 14u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
          rtxErrAddUIntParm(ctx, pvalue->secondaryScramblingCode);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "SecondaryScramblingCode", "secondaryScramblingCode", -1, 0);
       }
       stat = pe_ConsUInt64(ctx, pvalue->secondaryScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, 0);
    }
    /* sttd-Indicator */
-   rtxCtxtPushElemName(ctx, "sttd-Indicator");
    stat = rtxEncBit(ctx, pvalue->sttd_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sttd-Indicator", -1, 0);
    /* sf-AndCodeNumber */
-   rtxCtxtPushElemName(ctx, "sf-AndCodeNumber");
    stat = asn1PE_UMTS_SF256_AndCodeNumber(ctx, &pvalue->sf_AndCodeNumber);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sf-AndCodeNumber", -1, 0);
    /* pilotSymbolExistence */
-   rtxCtxtPushElemName(ctx, "pilotSymbolExistence");
    stat = rtxEncBit(ctx, pvalue->pilotSymbolExistence);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "pilotSymbolExistence", -1, 0);
    /* tfci-Existence */
-   rtxCtxtPushElemName(ctx, "tfci-Existence");
    stat = rtxEncBit(ctx, pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
    /* positionFixedOrFlexible */
-   rtxCtxtPushElemName(ctx, "positionFixedOrFlexible");
-   rtxCtxtPushTypeName(ctx, "PositionFixedOrFlexible");
    if (pvalue->positionFixedOrFlexible > 1) {
       rtxErrAddUIntParm(ctx, pvalue->positionFixedOrFlexible);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->positionFixedOrFlexible, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
    /* timingOffset */
    if (pvalue->timingOffset != 0) {
-      rtxCtxtPushElemName(ctx, "timingOffset");
-      rtxCtxtPushTypeName(ctx, "TimingOffset");
       if ((uint64_t)pvalue->timingOffset > 149u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "TimingOffset");
          rtxErrAddUIntParm(ctx, pvalue->timingOffset);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "TimingOffset", "timingOffset", -1, 0);
       }
       stat = pe_ConsUInt64(ctx, pvalue->timingOffset, 0, 149);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "TimingOffset", "timingOffset", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod2(rtxContext* ctx, const RepetitionPeriodLengthAndOffset_repetitionPeriod2* pvalue)
+int asn1PE_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod2(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodLengthAndOffset_repetitionPeriod2* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* length */
-   rtxCtxtPushElemName(ctx, "length");
-   rtxCtxtPopElemName(ctx);
    /* offset */
-   rtxCtxtPushElemName(ctx, "offset");
    if ((uint64_t)pvalue->offset > 1u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "offset");
       rtxErrAddUIntParm(ctx, pvalue->offset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "offset", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->offset, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "offset", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod4(rtxContext* ctx, const RepetitionPeriodLengthAndOffset_repetitionPeriod4* pvalue)
+int asn1PE_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod4(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodLengthAndOffset_repetitionPeriod4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* length */
-   rtxCtxtPushElemName(ctx, "length");
    if ((uint64_t)(pvalue->length - 1) > 2u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "length");
       rtxErrAddUIntParm(ctx, pvalue->length);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "length", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->length, 1, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "length", -1, 0);
    /* offset */
-   rtxCtxtPushElemName(ctx, "offset");
    if ((uint64_t)pvalue->offset > 3u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "offset");
       rtxErrAddUIntParm(ctx, pvalue->offset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "offset", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->offset, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "offset", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod8(rtxContext* ctx, const RepetitionPeriodLengthAndOffset_repetitionPeriod8* pvalue)
+int asn1PE_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod8(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodLengthAndOffset_repetitionPeriod8* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* length */
-   rtxCtxtPushElemName(ctx, "length");
    if ((uint64_t)(pvalue->length - 1) > 6u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "length");
       rtxErrAddUIntParm(ctx, pvalue->length);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "length", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->length, 1, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "length", -1, 0);
    /* offset */
-   rtxCtxtPushElemName(ctx, "offset");
    if ((uint64_t)pvalue->offset > 7u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "offset");
       rtxErrAddUIntParm(ctx, pvalue->offset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "offset", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->offset, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "offset", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod16(rtxContext* ctx, const RepetitionPeriodLengthAndOffset_repetitionPeriod16* pvalue)
+int asn1PE_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod16(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodLengthAndOffset_repetitionPeriod16* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* length */
-   rtxCtxtPushElemName(ctx, "length");
    if ((uint64_t)(pvalue->length - 1) > 14u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "length");
       rtxErrAddUIntParm(ctx, pvalue->length);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "length", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->length, 1, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "length", -1, 0);
    /* offset */
-   rtxCtxtPushElemName(ctx, "offset");
    if ((uint64_t)pvalue->offset > 15u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "offset");
       rtxErrAddUIntParm(ctx, pvalue->offset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "offset", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->offset, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "offset", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod32(rtxContext* ctx, const RepetitionPeriodLengthAndOffset_repetitionPeriod32* pvalue)
+int asn1PE_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod32(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodLengthAndOffset_repetitionPeriod32* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* length */
-   rtxCtxtPushElemName(ctx, "length");
    if ((uint64_t)(pvalue->length - 1) > 30u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "length");
       rtxErrAddUIntParm(ctx, pvalue->length);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "length", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->length, 1, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "length", -1, 0);
    /* offset */
-   rtxCtxtPushElemName(ctx, "offset");
    if ((uint64_t)pvalue->offset > 31u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "offset");
       rtxErrAddUIntParm(ctx, pvalue->offset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "offset", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->offset, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "offset", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod64(rtxContext* ctx, const RepetitionPeriodLengthAndOffset_repetitionPeriod64* pvalue)
+int asn1PE_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod64(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodLengthAndOffset_repetitionPeriod64* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* length */
-   rtxCtxtPushElemName(ctx, "length");
    if ((uint64_t)(pvalue->length - 1) > 62u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "length");
       rtxErrAddUIntParm(ctx, pvalue->length);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "length", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->length, 1, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "length", -1, 0);
    /* offset */
-   rtxCtxtPushElemName(ctx, "offset");
    if ((uint64_t)pvalue->offset > 63u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "offset");
       rtxErrAddUIntParm(ctx, pvalue->offset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "offset", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->offset, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "offset", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_RepetitionPeriodLengthAndOffset(rtxContext* ctx, const RepetitionPeriodLengthAndOffset* pvalue)
+int asn1PE_UMTS_RepetitionPeriodLengthAndOffset(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodLengthAndOffset* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RepetitionPeriodLengthAndOffset");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RepetitionPeriodLengthAndOffset");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 6) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "RepetitionPeriodLengthAndOffset");
+   if (pvalue->t - 1 > 6) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RepetitionPeriodLengthAndOffset");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "repetitionPeriod1");
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "repetitionPeriod2");
-         if (pvalue->u.repetitionPeriod2 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.repetitionPeriod2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "repetitionPeriod2", -1, "RepetitionPeriodLengthAndOffset");
          stat = asn1PE_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod2(ctx, pvalue->u.repetitionPeriod2);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "repetitionPeriod2", -1, "RepetitionPeriodLengthAndOffset");
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "repetitionPeriod4");
-         if (pvalue->u.repetitionPeriod4 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.repetitionPeriod4 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "repetitionPeriod4", -1, "RepetitionPeriodLengthAndOffset");
          stat = asn1PE_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod4(ctx, pvalue->u.repetitionPeriod4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "repetitionPeriod4", -1, "RepetitionPeriodLengthAndOffset");
          break;
       case 4:
-         rtxCtxtPushElemName(ctx, "repetitionPeriod8");
-         if (pvalue->u.repetitionPeriod8 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.repetitionPeriod8 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "repetitionPeriod8", -1, "RepetitionPeriodLengthAndOffset");
          stat = asn1PE_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod8(ctx, pvalue->u.repetitionPeriod8);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "repetitionPeriod8", -1, "RepetitionPeriodLengthAndOffset");
          break;
       case 5:
-         rtxCtxtPushElemName(ctx, "repetitionPeriod16");
-         if (pvalue->u.repetitionPeriod16 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.repetitionPeriod16 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "repetitionPeriod16", -1, "RepetitionPeriodLengthAndOffset");
          stat = asn1PE_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod16(ctx, pvalue->u.repetitionPeriod16);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "repetitionPeriod16", -1, "RepetitionPeriodLengthAndOffset");
          break;
       case 6:
-         rtxCtxtPushElemName(ctx, "repetitionPeriod32");
-         if (pvalue->u.repetitionPeriod32 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.repetitionPeriod32 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "repetitionPeriod32", -1, "RepetitionPeriodLengthAndOffset");
          stat = asn1PE_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod32(ctx, pvalue->u.repetitionPeriod32);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "repetitionPeriod32", -1, "RepetitionPeriodLengthAndOffset");
          break;
       case 7:
-         rtxCtxtPushElemName(ctx, "repetitionPeriod64");
-         if (pvalue->u.repetitionPeriod64 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.repetitionPeriod64 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "repetitionPeriod64", -1, "RepetitionPeriodLengthAndOffset");
          stat = asn1PE_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod64(ctx, pvalue->u.repetitionPeriod64);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "repetitionPeriod64", -1, "RepetitionPeriodLengthAndOffset");
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_CommonTimeslotInfoSCCPCH(rtxContext* ctx, const CommonTimeslotInfoSCCPCH* pvalue)
+int asn1PE_UMTS_CommonTimeslotInfoSCCPCH(rtxContext* RT_RESTRICT ctx, const CommonTimeslotInfoSCCPCH* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CommonTimeslotInfoSCCPCH");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CommonTimeslotInfoSCCPCH");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CommonTimeslotInfoSCCPCH");
    /* secondInterleavingMode */
-   rtxCtxtPushElemName(ctx, "secondInterleavingMode");
-   rtxCtxtPushTypeName(ctx, "SecondInterleavingMode");
    if (pvalue->secondInterleavingMode > 1) {
       rtxErrAddUIntParm(ctx, pvalue->secondInterleavingMode);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "SecondInterleavingMode", "secondInterleavingMode", -1, "CommonTimeslotInfoSCCPCH");
    }
    stat = pe_ConsUInt64(ctx, pvalue->secondInterleavingMode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "SecondInterleavingMode", "secondInterleavingMode", -1, "CommonTimeslotInfoSCCPCH");
    /* tfci-Coding */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "tfci-Coding");
-      rtxCtxtPushTypeName(ctx, "TFCI-Coding");
       if (pvalue->tfci_Coding > 3) {
          rtxErrAddUIntParm(ctx, pvalue->tfci_Coding);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TFCI-Coding", "tfci-Coding", -1, "CommonTimeslotInfoSCCPCH");
       }
       stat = pe_ConsUInt64(ctx, pvalue->tfci_Coding, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "TFCI-Coding", "tfci-Coding", -1, "CommonTimeslotInfoSCCPCH");
    }
    /* puncturingLimit */
-   rtxCtxtPushElemName(ctx, "puncturingLimit");
-   rtxCtxtPushTypeName(ctx, "PuncturingLimit");
    if (pvalue->puncturingLimit > 15) {
       rtxErrAddUIntParm(ctx, pvalue->puncturingLimit);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "PuncturingLimit", "puncturingLimit", -1, "CommonTimeslotInfoSCCPCH");
    }
    stat = pe_ConsUInt64(ctx, pvalue->puncturingLimit, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "PuncturingLimit", "puncturingLimit", -1, "CommonTimeslotInfoSCCPCH");
    /* repetitionPeriodLengthAndOffset */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "repetitionPeriodLengthAndOffset");
       stat = asn1PE_UMTS_RepetitionPeriodLengthAndOffset(ctx, &pvalue->repetitionPeriodLengthAndOffset);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "repetitionPeriodLengthAndOffset", -1, "CommonTimeslotInfoSCCPCH");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SCCPCH_ChannelisationCode(rtxContext* ctx, SCCPCH_ChannelisationCode value)
+int asn1PE_UMTS_SCCPCH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, SCCPCH_ChannelisationCode value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SCCPCH-ChannelisationCode");
    if (value > 15) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SCCPCH-ChannelisationCode");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SCCPCH-ChannelisationCode");
    return 0;
 }
 
-int asn1PE_UMTS_SCCPCH_ChannelisationCodeList(rtxContext* ctx, const SCCPCH_ChannelisationCodeList* pvalue)
+int asn1PE_UMTS_SCCPCH_ChannelisationCodeList(rtxContext* RT_RESTRICT ctx, const SCCPCH_ChannelisationCodeList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SCCPCH-ChannelisationCodeList");
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "SCCPCH-ChannelisationCodeList");
    RT_SET_SIZE(ctx, 1, 16);
    stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SCCPCH-ChannelisationCodeList");
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "SCCPCH-ChannelisationCode", i);
-      rtxCtxtPushTypeName(ctx, "SCCPCH-ChannelisationCode");
       if (pvalue->elem[i] > 15) {
          rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "SCCPCH-ChannelisationCode", "SCCPCH-ChannelisationCode", (int32_t)i, "SCCPCH-ChannelisationCodeList");
       }
       stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, "SCCPCH-ChannelisationCode", "SCCPCH-ChannelisationCode", (int32_t)i, "SCCPCH-ChannelisationCodeList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SecondaryCCPCH_Info_modeSpecificInfo_tdd(rtxContext* ctx, const SecondaryCCPCH_Info_modeSpecificInfo_tdd* pvalue)
+int asn1PE_UMTS_SecondaryCCPCH_Info_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* commonTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "commonTimeslotInfo");
    stat = asn1PE_UMTS_CommonTimeslotInfoSCCPCH(ctx, &pvalue->commonTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, 0);
    /* individualTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "individualTimeslotInfo");
    stat = asn1PE_UMTS_IndividualTimeslotInfo(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
    /* channelisationCode */
-   rtxCtxtPushElemName(ctx, "channelisationCode");
    stat = asn1PE_UMTS_SCCPCH_ChannelisationCodeList(ctx, &pvalue->channelisationCode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "channelisationCode", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_SecondaryCCPCH_Info_modeSpecificInfo(rtxContext* ctx, const SecondaryCCPCH_Info_modeSpecificInfo* pvalue)
+int asn1PE_UMTS_SecondaryCCPCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_modeSpecificInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
          stat = asn1PE_UMTS_SecondaryCCPCH_Info_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
          stat = asn1PE_UMTS_SecondaryCCPCH_Info_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
          break;
@@ -3972,294 +1077,234 @@ int asn1PE_UMTS_SecondaryCCPCH_Info_modeSpecificInfo(rtxContext* ctx, const Seco
    return 0;
 }
 
-int asn1PE_UMTS_SecondaryCCPCH_Info(rtxContext* ctx, const SecondaryCCPCH_Info* pvalue)
+int asn1PE_UMTS_SecondaryCCPCH_Info(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SecondaryCCPCH-Info");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SecondaryCCPCH-Info");
    /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
    stat = asn1PE_UMTS_SecondaryCCPCH_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SecondaryCCPCH-Info");
    return 0;
 }
 
-int asn1PE_UMTS_FACH_PCH_Information(rtxContext* ctx, const FACH_PCH_Information* pvalue)
+int asn1PE_UMTS_FACH_PCH_Information(rtxContext* RT_RESTRICT ctx, const FACH_PCH_Information* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "FACH-PCH-Information");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "FACH-PCH-Information");
    /* transportFormatSet */
-   rtxCtxtPushElemName(ctx, "transportFormatSet");
    stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->transportFormatSet);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, "FACH-PCH-Information");
    /* transportChannelIdentity */
-   rtxCtxtPushElemName(ctx, "transportChannelIdentity");
-   rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
    if ((uint64_t)(pvalue->transportChannelIdentity - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
       rtxErrAddUIntParm(ctx, pvalue->transportChannelIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "transportChannelIdentity", -1, "FACH-PCH-Information");
    }
    stat = pe_ConsUInt64(ctx, pvalue->transportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, "FACH-PCH-Information");
    /* ctch-Indicator */
-   rtxCtxtPushElemName(ctx, "ctch-Indicator");
    stat = rtxEncBit(ctx, pvalue->ctch_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "ctch-Indicator", -1, "FACH-PCH-Information");
    return 0;
 }
 
-int asn1PE_UMTS_FACH_PCH_InformationList(rtxContext* ctx, const FACH_PCH_InformationList* pvalue)
+int asn1PE_UMTS_FACH_PCH_InformationList(rtxContext* RT_RESTRICT ctx, const FACH_PCH_InformationList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "FACH-PCH-InformationList");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "FACH-PCH-InformationList");
    RT_SET_SIZE(ctx, 1, 8);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "FACH-PCH-InformationList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "FACH-PCH-Information", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "FACH-PCH-Information", (int32_t)i, "FACH-PCH-InformationList");
       stat = asn1PE_UMTS_FACH_PCH_Information(ctx, (const FACH_PCH_Information*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "FACH-PCH-Information", (int32_t)i, "FACH-PCH-InformationList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PI_CountPerFrame(rtxContext* ctx, PI_CountPerFrame value)
+int asn1PE_UMTS_PI_CountPerFrame(rtxContext* RT_RESTRICT ctx, PI_CountPerFrame value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PI-CountPerFrame");
    if (value > 3) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "PI-CountPerFrame");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PI-CountPerFrame");
    return 0;
 }
 
-int asn1PE_UMTS_PICH_Info_fdd(rtxContext* ctx, const PICH_Info_fdd* pvalue)
+int asn1PE_UMTS_PICH_Info_fdd(rtxContext* RT_RESTRICT ctx, const PICH_Info_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* channelisationCode256 */
-   rtxCtxtPushElemName(ctx, "channelisationCode256");
-   rtxCtxtPushTypeName(ctx, "ChannelisationCode256");
    stat = pe_ConsUInt64(ctx, pvalue->channelisationCode256, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "ChannelisationCode256", "channelisationCode256", -1, 0);
    /* pi-CountPerFrame */
-   rtxCtxtPushElemName(ctx, "pi-CountPerFrame");
-   rtxCtxtPushTypeName(ctx, "PI-CountPerFrame");
    if (pvalue->pi_CountPerFrame > 3) {
       rtxErrAddUIntParm(ctx, pvalue->pi_CountPerFrame);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "PI-CountPerFrame", "pi-CountPerFrame", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->pi_CountPerFrame, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "PI-CountPerFrame", "pi-CountPerFrame", -1, 0);
    /* sttd-Indicator */
-   rtxCtxtPushElemName(ctx, "sttd-Indicator");
    stat = rtxEncBit(ctx, pvalue->sttd_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sttd-Indicator", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_TDD_PICH_CCode(rtxContext* ctx, TDD_PICH_CCode value)
+int asn1PE_UMTS_TDD_PICH_CCode(rtxContext* RT_RESTRICT ctx, TDD_PICH_CCode value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TDD-PICH-CCode");
    if (value > 15) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TDD-PICH-CCode");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TDD-PICH-CCode");
    return 0;
 }
 
-int asn1PE_UMTS_RepPerLengthOffset_PICH(rtxContext* ctx, const RepPerLengthOffset_PICH* pvalue)
+int asn1PE_UMTS_RepPerLengthOffset_PICH(rtxContext* RT_RESTRICT ctx, const RepPerLengthOffset_PICH* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RepPerLengthOffset-PICH");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RepPerLengthOffset-PICH");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 8) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "RepPerLengthOffset-PICH");
+   if (pvalue->t - 1 > 8) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RepPerLengthOffset-PICH");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "rpp4-2");
          if ((uint64_t)pvalue->u.rpp4_2 > 3u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "rpp4-2");
             rtxErrAddUIntParm(ctx, pvalue->u.rpp4_2);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rpp4-2", -1, "RepPerLengthOffset-PICH");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.rpp4_2, 0, 3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "rpp4-2", -1, "RepPerLengthOffset-PICH");
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "rpp8-2");
          if ((uint64_t)pvalue->u.rpp8_2 > 7u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "rpp8-2");
             rtxErrAddUIntParm(ctx, pvalue->u.rpp8_2);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rpp8-2", -1, "RepPerLengthOffset-PICH");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.rpp8_2, 0, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "rpp8-2", -1, "RepPerLengthOffset-PICH");
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "rpp8-4");
          if ((uint64_t)pvalue->u.rpp8_4 > 7u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "rpp8-4");
             rtxErrAddUIntParm(ctx, pvalue->u.rpp8_4);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rpp8-4", -1, "RepPerLengthOffset-PICH");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.rpp8_4, 0, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "rpp8-4", -1, "RepPerLengthOffset-PICH");
          break;
       case 4:
-         rtxCtxtPushElemName(ctx, "rpp16-2");
          if ((uint64_t)pvalue->u.rpp16_2 > 15u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "rpp16-2");
             rtxErrAddUIntParm(ctx, pvalue->u.rpp16_2);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rpp16-2", -1, "RepPerLengthOffset-PICH");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.rpp16_2, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "rpp16-2", -1, "RepPerLengthOffset-PICH");
          break;
       case 5:
-         rtxCtxtPushElemName(ctx, "rpp16-4");
          if ((uint64_t)pvalue->u.rpp16_4 > 15u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "rpp16-4");
             rtxErrAddUIntParm(ctx, pvalue->u.rpp16_4);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rpp16-4", -1, "RepPerLengthOffset-PICH");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.rpp16_4, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "rpp16-4", -1, "RepPerLengthOffset-PICH");
          break;
       case 6:
-         rtxCtxtPushElemName(ctx, "rpp32-2");
          if ((uint64_t)pvalue->u.rpp32_2 > 31u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "rpp32-2");
             rtxErrAddUIntParm(ctx, pvalue->u.rpp32_2);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rpp32-2", -1, "RepPerLengthOffset-PICH");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.rpp32_2, 0, 31);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "rpp32-2", -1, "RepPerLengthOffset-PICH");
          break;
       case 7:
-         rtxCtxtPushElemName(ctx, "rpp32-4");
          if ((uint64_t)pvalue->u.rpp32_4 > 31u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "rpp32-4");
             rtxErrAddUIntParm(ctx, pvalue->u.rpp32_4);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rpp32-4", -1, "RepPerLengthOffset-PICH");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.rpp32_4, 0, 31);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "rpp32-4", -1, "RepPerLengthOffset-PICH");
          break;
       case 8:
-         rtxCtxtPushElemName(ctx, "rpp64-2");
          if ((uint64_t)pvalue->u.rpp64_2 > 63u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "rpp64-2");
             rtxErrAddUIntParm(ctx, pvalue->u.rpp64_2);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rpp64-2", -1, "RepPerLengthOffset-PICH");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.rpp64_2, 0, 63);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "rpp64-2", -1, "RepPerLengthOffset-PICH");
          break;
       case 9:
-         rtxCtxtPushElemName(ctx, "rpp64-4");
          if ((uint64_t)pvalue->u.rpp64_4 > 63u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "rpp64-4");
             rtxErrAddUIntParm(ctx, pvalue->u.rpp64_4);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rpp64-4", -1, "RepPerLengthOffset-PICH");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.rpp64_4, 0, 63);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "rpp64-4", -1, "RepPerLengthOffset-PICH");
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PagingIndicatorLength(rtxContext* ctx, PagingIndicatorLength value)
+int asn1PE_UMTS_PagingIndicatorLength(rtxContext* RT_RESTRICT ctx, PagingIndicatorLength value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PagingIndicatorLength");
    if (value > 2) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "PagingIndicatorLength");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PagingIndicatorLength");
    return 0;
 }
 
-int asn1PE_UMTS_N_GAP(rtxContext* ctx, N_GAP value)
+int asn1PE_UMTS_N_GAP(rtxContext* RT_RESTRICT ctx, N_GAP value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "N-GAP");
    if (value > 2) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "N-GAP");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "N-GAP");
    return 0;
 }
 
-int asn1PE_UMTS_N_PCH(rtxContext* ctx, N_PCH value)
+int asn1PE_UMTS_N_PCH(rtxContext* RT_RESTRICT ctx, N_PCH value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "N-PCH");
    if ((uint64_t)(value - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "N-PCH");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "N-PCH");
    }
    stat = pe_ConsUInt64(ctx, value, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "N-PCH");
    return 0;
 }
 
-int asn1PE_UMTS_PICH_Info_tdd(rtxContext* ctx, const PICH_Info_tdd* pvalue)
+int asn1PE_UMTS_PICH_Info_tdd(rtxContext* RT_RESTRICT ctx, const PICH_Info_tdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
@@ -4267,461 +1312,359 @@ int asn1PE_UMTS_PICH_Info_tdd(rtxContext* ctx, const PICH_Info_tdd* pvalue)
       ((uint64_t)(pvalue->pagingIndicatorLength != 0) << 2) |
       ((uint64_t)(pvalue->n_GAP != 1) << 1) |
       ((uint64_t)(pvalue->n_PCH != 2) << 0), 6);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* channelisationCode */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "channelisationCode");
-      rtxCtxtPushTypeName(ctx, "TDD-PICH-CCode");
       if (pvalue->channelisationCode > 15) {
          rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TDD-PICH-CCode", "channelisationCode", -1, 0);
       }
       stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "TDD-PICH-CCode", "channelisationCode", -1, 0);
    }
    /* timeslot */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "timeslot");
-      rtxCtxtPushTypeName(ctx, "TimeslotNumber");
       if ((uint64_t)pvalue->timeslot > 14u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "TimeslotNumber");
          rtxErrAddUIntParm(ctx, pvalue->timeslot);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslot", -1, 0);
       }
       stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 14);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, 0);
    }
    /* midambleShiftAndBurstType */
-   rtxCtxtPushElemName(ctx, "midambleShiftAndBurstType");
    stat = asn1PE_UMTS_MidambleShiftAndBurstType(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, 0);
    /* repetitionPeriodLengthOffset */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "repetitionPeriodLengthOffset");
       stat = asn1PE_UMTS_RepPerLengthOffset_PICH(ctx, &pvalue->repetitionPeriodLengthOffset);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "repetitionPeriodLengthOffset", -1, 0);
    }
    /* pagingIndicatorLength */
    if (pvalue->pagingIndicatorLength != 0) {
-      rtxCtxtPushElemName(ctx, "pagingIndicatorLength");
-      rtxCtxtPushTypeName(ctx, "PagingIndicatorLength");
       if (pvalue->pagingIndicatorLength > 2) {
          rtxErrAddUIntParm(ctx, pvalue->pagingIndicatorLength);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "PagingIndicatorLength", "pagingIndicatorLength", -1, 0);
       }
       stat = pe_ConsUInt64(ctx, pvalue->pagingIndicatorLength, 0, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "PagingIndicatorLength", "pagingIndicatorLength", -1, 0);
    }
    /* n-GAP */
    if (pvalue->n_GAP != 1) {
-      rtxCtxtPushElemName(ctx, "n-GAP");
-      rtxCtxtPushTypeName(ctx, "N-GAP");
       if (pvalue->n_GAP > 2) {
          rtxErrAddUIntParm(ctx, pvalue->n_GAP);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "N-GAP", "n-GAP", -1, 0);
       }
       stat = pe_ConsUInt64(ctx, pvalue->n_GAP, 0, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "N-GAP", "n-GAP", -1, 0);
    }
    /* n-PCH */
    if (pvalue->n_PCH != 2) {
-      rtxCtxtPushElemName(ctx, "n-PCH");
-      rtxCtxtPushTypeName(ctx, "N-PCH");
       if ((uint64_t)(pvalue->n_PCH - 1) > 7u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "N-PCH");
          rtxErrAddUIntParm(ctx, pvalue->n_PCH);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "N-PCH", "n-PCH", -1, 0);
       }
       stat = pe_ConsUInt64(ctx, pvalue->n_PCH, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "N-PCH", "n-PCH", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_PICH_Info(rtxContext* ctx, const PICH_Info* pvalue)
+int asn1PE_UMTS_PICH_Info(rtxContext* RT_RESTRICT ctx, const PICH_Info* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PICH-Info");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PICH-Info");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "PICH-Info");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PICH-Info");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, "PICH-Info");
          stat = asn1PE_UMTS_PICH_Info_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "PICH-Info");
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, "PICH-Info");
          stat = asn1PE_UMTS_PICH_Info_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "PICH-Info");
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SCCPCH_SystemInformation(rtxContext* ctx, const SCCPCH_SystemInformation* pvalue)
+int asn1PE_UMTS_SCCPCH_SystemInformation(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SCCPCH-SystemInformation");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SCCPCH-SystemInformation");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SCCPCH-SystemInformation");
    /* secondaryCCPCH-Info */
-   rtxCtxtPushElemName(ctx, "secondaryCCPCH-Info");
    stat = asn1PE_UMTS_SecondaryCCPCH_Info(ctx, &pvalue->secondaryCCPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "secondaryCCPCH-Info", -1, "SCCPCH-SystemInformation");
    /* tfcs */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "tfcs");
       stat = asn1PE_UMTS_TFCS(ctx, &pvalue->tfcs);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "tfcs", -1, "SCCPCH-SystemInformation");
    }
    /* fach-PCH-InformationList */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "fach-PCH-InformationList");
       stat = asn1PE_UMTS_FACH_PCH_InformationList(ctx, &pvalue->fach_PCH_InformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "fach-PCH-InformationList", -1, "SCCPCH-SystemInformation");
    }
    /* pich-Info */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "pich-Info");
       stat = asn1PE_UMTS_PICH_Info(ctx, &pvalue->pich_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pich-Info", -1, "SCCPCH-SystemInformation");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SCCPCH_SystemInformationList(rtxContext* ctx, const SCCPCH_SystemInformationList* pvalue)
+int asn1PE_UMTS_SCCPCH_SystemInformationList(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformationList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SCCPCH-SystemInformationList");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "SCCPCH-SystemInformationList");
    RT_SET_SIZE(ctx, 1, 16);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SCCPCH-SystemInformationList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "SCCPCH-SystemInformation", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "SCCPCH-SystemInformation", (int32_t)i, "SCCPCH-SystemInformationList");
       stat = asn1PE_UMTS_SCCPCH_SystemInformation(ctx, (const SCCPCH_SystemInformation*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "SCCPCH-SystemInformation", (int32_t)i, "SCCPCH-SystemInformationList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_CBS_DRX_Level1Information(rtxContext* ctx, const CBS_DRX_Level1Information* pvalue)
+int asn1PE_UMTS_CBS_DRX_Level1Information(rtxContext* RT_RESTRICT ctx, const CBS_DRX_Level1Information* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CBS-DRX-Level1Information");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CBS-DRX-Level1Information");
    /* ctch-AllocationPeriod */
-   rtxCtxtPushElemName(ctx, "ctch-AllocationPeriod");
    if ((uint64_t)(pvalue->ctch_AllocationPeriod - 1) > 255u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "ctch-AllocationPeriod");
       rtxErrAddUIntParm(ctx, pvalue->ctch_AllocationPeriod);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ctch-AllocationPeriod", -1, "CBS-DRX-Level1Information");
    }
    stat = pe_ConsUInt64(ctx, pvalue->ctch_AllocationPeriod, 1, 256);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "ctch-AllocationPeriod", -1, "CBS-DRX-Level1Information");
    /* cbs-FrameOffset */
-   rtxCtxtPushElemName(ctx, "cbs-FrameOffset");
    stat = pe_ConsUInt64(ctx, pvalue->cbs_FrameOffset, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "cbs-FrameOffset", -1, "CBS-DRX-Level1Information");
    return 0;
 }
 
-int asn1PE_UMTS_PNBSCH_Allocation_r4_numberOfRepetitionsPerSFNPeriod(rtxContext* ctx, PNBSCH_Allocation_r4_numberOfRepetitionsPerSFNPeriod value)
+int asn1PE_UMTS_PNBSCH_Allocation_r4_numberOfRepetitionsPerSFNPeriod(rtxContext* RT_RESTRICT ctx, PNBSCH_Allocation_r4_numberOfRepetitionsPerSFNPeriod value)
 {
    int stat = 0;
    if (value > 23) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 23);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_PNBSCH_Allocation_r4(rtxContext* ctx, const PNBSCH_Allocation_r4* pvalue)
+int asn1PE_UMTS_PNBSCH_Allocation_r4(rtxContext* RT_RESTRICT ctx, const PNBSCH_Allocation_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PNBSCH-Allocation-r4");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PNBSCH-Allocation-r4");
    /* numberOfRepetitionsPerSFNPeriod */
-   rtxCtxtPushElemName(ctx, "numberOfRepetitionsPerSFNPeriod");
    if (pvalue->numberOfRepetitionsPerSFNPeriod > 23) {
       rtxErrAddUIntParm(ctx, pvalue->numberOfRepetitionsPerSFNPeriod);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "numberOfRepetitionsPerSFNPeriod", -1, "PNBSCH-Allocation-r4");
    }
    stat = pe_ConsUInt64(ctx, pvalue->numberOfRepetitionsPerSFNPeriod, 0, 23);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "numberOfRepetitionsPerSFNPeriod", -1, "PNBSCH-Allocation-r4");
    return 0;
 }
 
-int asn1PE_UMTS_MaxPowerIncrease_r4(rtxContext* ctx, MaxPowerIncrease_r4 value)
+int asn1PE_UMTS_MaxPowerIncrease_r4(rtxContext* RT_RESTRICT ctx, MaxPowerIncrease_r4 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaxPowerIncrease-r4");
    if ((uint64_t)value > 3u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "MaxPowerIncrease-r4");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MaxPowerIncrease-r4");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxPowerIncrease-r4");
    return 0;
 }
 
-int asn1PE_UMTS_OpenLoopPowerControl_IPDL_TDD_r4(rtxContext* ctx, const OpenLoopPowerControl_IPDL_TDD_r4* pvalue)
+int asn1PE_UMTS_OpenLoopPowerControl_IPDL_TDD_r4(rtxContext* RT_RESTRICT ctx, const OpenLoopPowerControl_IPDL_TDD_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "OpenLoopPowerControl-IPDL-TDD-r4");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "OpenLoopPowerControl-IPDL-TDD-r4");
    /* ipdl-alpha */
-   rtxCtxtPushElemName(ctx, "ipdl-alpha");
-   rtxCtxtPushTypeName(ctx, "Alpha");
    if ((uint64_t)pvalue->ipdl_alpha > 8u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "Alpha");
       rtxErrAddUIntParm(ctx, pvalue->ipdl_alpha);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Alpha", "ipdl-alpha", -1, "OpenLoopPowerControl-IPDL-TDD-r4");
    }
    stat = pe_ConsUInt64(ctx, pvalue->ipdl_alpha, 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "Alpha", "ipdl-alpha", -1, "OpenLoopPowerControl-IPDL-TDD-r4");
    /* maxPowerIncrease */
-   rtxCtxtPushElemName(ctx, "maxPowerIncrease");
-   rtxCtxtPushTypeName(ctx, "MaxPowerIncrease-r4");
    if ((uint64_t)pvalue->maxPowerIncrease > 3u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "MaxPowerIncrease-r4");
       rtxErrAddUIntParm(ctx, pvalue->maxPowerIncrease);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxPowerIncrease-r4", "maxPowerIncrease", -1, "OpenLoopPowerControl-IPDL-TDD-r4");
    }
    stat = pe_ConsUInt64(ctx, pvalue->maxPowerIncrease, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "MaxPowerIncrease-r4", "maxPowerIncrease", -1, "OpenLoopPowerControl-IPDL-TDD-r4");
    return 0;
 }
 
-int asn1PE_UMTS_Sync_UL_Codes_Bitmap(rtxContext* ctx, Sync_UL_Codes_Bitmap value)
+int asn1PE_UMTS_Sync_UL_Codes_Bitmap(rtxContext* RT_RESTRICT ctx, Sync_UL_Codes_Bitmap value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Sync-UL-Codes-Bitmap");
    {
       int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
       uint32_t used = (uint32_t)(last + 1);
       value.numbits = used <= 8 ? 8 : used;
-      if (last < -1) RT_RAISE(ctx, RT_ERR_CONSVIO);
+      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "Sync-UL-Codes-Bitmap");
    }
    RT_SET_SIZE(ctx, 8, 8);
    stat = pe_BitString32(ctx, &value, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Sync-UL-Codes-Bitmap");
    return 0;
 }
 
-int asn1PE_UMTS_SYNC_UL_Info_r4_max_SYNC_UL_Transmissions(rtxContext* ctx, SYNC_UL_Info_r4_max_SYNC_UL_Transmissions value)
+int asn1PE_UMTS_SYNC_UL_Info_r4_max_SYNC_UL_Transmissions(rtxContext* RT_RESTRICT ctx, SYNC_UL_Info_r4_max_SYNC_UL_Transmissions value)
 {
    int stat = 0;
    if (value > 3) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_SYNC_UL_Info_r4(rtxContext* ctx, const SYNC_UL_Info_r4* pvalue)
+int asn1PE_UMTS_SYNC_UL_Info_r4(rtxContext* RT_RESTRICT ctx, const SYNC_UL_Info_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SYNC-UL-Info-r4");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SYNC-UL-Info-r4");
    /* sync-UL-Codes-Bitmap */
-   rtxCtxtPushElemName(ctx, "sync-UL-Codes-Bitmap");
    stat = asn1PE_UMTS_Sync_UL_Codes_Bitmap(ctx, pvalue->sync_UL_Codes_Bitmap);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sync-UL-Codes-Bitmap", -1, "SYNC-UL-Info-r4");
    /* prxUpPCHdes */
-   rtxCtxtPushElemName(ctx, "prxUpPCHdes");
    if ((uint64_t)pvalue->prxUpPCHdes > 62u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "prxUpPCHdes");
       rtxErrAddUIntParm(ctx, pvalue->prxUpPCHdes);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "prxUpPCHdes", -1, "SYNC-UL-Info-r4");
    }
    stat = pe_ConsUInt64(ctx, pvalue->prxUpPCHdes, 0, 62);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "prxUpPCHdes", -1, "SYNC-UL-Info-r4");
    /* powerRampStep */
-   rtxCtxtPushElemName(ctx, "powerRampStep");
    if ((uint64_t)pvalue->powerRampStep > 3u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "powerRampStep");
       rtxErrAddUIntParm(ctx, pvalue->powerRampStep);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "powerRampStep", -1, "SYNC-UL-Info-r4");
    }
    stat = pe_ConsUInt64(ctx, pvalue->powerRampStep, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "powerRampStep", -1, "SYNC-UL-Info-r4");
    /* max-SYNC-UL-Transmissions */
-   rtxCtxtPushElemName(ctx, "max-SYNC-UL-Transmissions");
    if (pvalue->max_SYNC_UL_Transmissions > 3) {
       rtxErrAddUIntParm(ctx, pvalue->max_SYNC_UL_Transmissions);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "max-SYNC-UL-Transmissions", -1, "SYNC-UL-Info-r4");
    }
    stat = pe_ConsUInt64(ctx, pvalue->max_SYNC_UL_Transmissions, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "max-SYNC-UL-Transmissions", -1, "SYNC-UL-Info-r4");
    /* mmax */
-   rtxCtxtPushElemName(ctx, "mmax");
    if ((uint64_t)(pvalue->mmax - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "mmax");
       rtxErrAddUIntParm(ctx, pvalue->mmax);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "mmax", -1, "SYNC-UL-Info-r4");
    }
    stat = pe_ConsUInt64(ctx, pvalue->mmax, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "mmax", -1, "SYNC-UL-Info-r4");
    return 0;
 }
 
-int asn1PE_UMTS_TimeslotNumber_PRACH_LCR_r4(rtxContext* ctx, TimeslotNumber_PRACH_LCR_r4 value)
+int asn1PE_UMTS_TimeslotNumber_PRACH_LCR_r4(rtxContext* RT_RESTRICT ctx, TimeslotNumber_PRACH_LCR_r4 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-PRACH-LCR-r4");
    if ((uint64_t)(value - 1) > 5u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "TimeslotNumber-PRACH-LCR-r4");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TimeslotNumber-PRACH-LCR-r4");
    }
    stat = pe_ConsUInt64(ctx, value, 1, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimeslotNumber-PRACH-LCR-r4");
    return 0;
 }
 
-int asn1PE_UMTS_TDD_PRACH_CCode_LCR_r4(rtxContext* ctx, TDD_PRACH_CCode_LCR_r4 value)
+int asn1PE_UMTS_TDD_PRACH_CCode_LCR_r4(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCode_LCR_r4 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TDD-PRACH-CCode-LCR-r4");
    if (value > 27) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TDD-PRACH-CCode-LCR-r4");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 27);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TDD-PRACH-CCode-LCR-r4");
    return 0;
 }
 
-int asn1PE_UMTS_PRACH_ChanCodes_LCR_r4(rtxContext* ctx, const PRACH_ChanCodes_LCR_r4* pvalue)
+int asn1PE_UMTS_PRACH_ChanCodes_LCR_r4(rtxContext* RT_RESTRICT ctx, const PRACH_ChanCodes_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-ChanCodes-LCR-r4");
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "PRACH-ChanCodes-LCR-r4");
    RT_SET_SIZE(ctx, 1, 4);
    stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PRACH-ChanCodes-LCR-r4");
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "TDD-PRACH-CCode-LCR-r4", i);
-      rtxCtxtPushTypeName(ctx, "TDD-PRACH-CCode-LCR-r4");
       if (pvalue->elem[i] > 27) {
          rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TDD-PRACH-CCode-LCR-r4", "TDD-PRACH-CCode-LCR-r4", (int32_t)i, "PRACH-ChanCodes-LCR-r4");
       }
       stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 27);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, "TDD-PRACH-CCode-LCR-r4", "TDD-PRACH-CCode-LCR-r4", (int32_t)i, "PRACH-ChanCodes-LCR-r4");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, const MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode_ueSpecificMidamble* pvalue)
+int asn1PE_UMTS_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
    if ((uint64_t)pvalue->midambleShift > 15u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "midambleShift");
       rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "midambleShift", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleShift", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode(rtxContext* ctx, const MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode* pvalue)
+int asn1PE_UMTS_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "commonMidamble");
-         rtxCtxtPopElemName(ctx);
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
          stat = asn1PE_UMTS_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
          break;
       default:
          break;
@@ -4729,248 +1672,186 @@ int asn1PE_UMTS_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode(rtxConte
    return 0;
 }
 
-int asn1PE_UMTS_MidambleShiftAndBurstType_LCR_r4(rtxContext* ctx, const MidambleShiftAndBurstType_LCR_r4* pvalue)
+int asn1PE_UMTS_MidambleShiftAndBurstType_LCR_r4(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MidambleShiftAndBurstType-LCR-r4");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MidambleShiftAndBurstType-LCR-r4");
    /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
    stat = asn1PE_UMTS_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "MidambleShiftAndBurstType-LCR-r4");
    /* midambleConfiguration */
-   rtxCtxtPushElemName(ctx, "midambleConfiguration");
    if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "midambleConfiguration");
       rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "midambleConfiguration", -1, "MidambleShiftAndBurstType-LCR-r4");
    }
    stat = pe_ConsUInt64(ctx, pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "MidambleShiftAndBurstType-LCR-r4");
    return 0;
 }
 
-int asn1PE_UMTS_TimeslotNumber_LCR_r4(rtxContext* ctx, TimeslotNumber_LCR_r4 value)
+int asn1PE_UMTS_TimeslotNumber_LCR_r4(rtxContext* RT_RESTRICT ctx, TimeslotNumber_LCR_r4 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-LCR-r4");
    if ((uint64_t)value > 6u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TimeslotNumber-LCR-r4");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimeslotNumber-LCR-r4");
    return 0;
 }
 
-int asn1PE_UMTS_TDD_FPACH_CCode16_r4(rtxContext* ctx, TDD_FPACH_CCode16_r4 value)
+int asn1PE_UMTS_TDD_FPACH_CCode16_r4(rtxContext* RT_RESTRICT ctx, TDD_FPACH_CCode16_r4 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TDD-FPACH-CCode16-r4");
    if (value > 15) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TDD-FPACH-CCode16-r4");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TDD-FPACH-CCode16-r4");
    return 0;
 }
 
-int asn1PE_UMTS_Wi_LCR(rtxContext* ctx, Wi_LCR value)
+int asn1PE_UMTS_Wi_LCR(rtxContext* RT_RESTRICT ctx, Wi_LCR value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Wi-LCR");
    if ((uint64_t)(value - 1) > 3u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "Wi-LCR");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "Wi-LCR");
    }
    stat = pe_ConsUInt64(ctx, value, 1, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Wi-LCR");
    return 0;
 }
 
-int asn1PE_UMTS_FPACH_Info_r4(rtxContext* ctx, const FPACH_Info_r4* pvalue)
+int asn1PE_UMTS_FPACH_Info_r4(rtxContext* RT_RESTRICT ctx, const FPACH_Info_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "FPACH-Info-r4");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "FPACH-Info-r4");
    /* timeslot */
-   rtxCtxtPushElemName(ctx, "timeslot");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-LCR-r4");
    if ((uint64_t)pvalue->timeslot > 6u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
       rtxErrAddUIntParm(ctx, pvalue->timeslot);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslot", -1, "FPACH-Info-r4");
    }
    stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslot", -1, "FPACH-Info-r4");
    /* channelisationCode */
-   rtxCtxtPushElemName(ctx, "channelisationCode");
-   rtxCtxtPushTypeName(ctx, "TDD-FPACH-CCode16-r4");
    if (pvalue->channelisationCode > 15) {
       rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TDD-FPACH-CCode16-r4", "channelisationCode", -1, "FPACH-Info-r4");
    }
    stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TDD-FPACH-CCode16-r4", "channelisationCode", -1, "FPACH-Info-r4");
    /* midambleShiftAndBurstType */
-   rtxCtxtPushElemName(ctx, "midambleShiftAndBurstType");
    stat = asn1PE_UMTS_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "FPACH-Info-r4");
    /* wi */
-   rtxCtxtPushElemName(ctx, "wi");
-   rtxCtxtPushTypeName(ctx, "Wi-LCR");
    if ((uint64_t)(pvalue->wi - 1) > 3u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "Wi-LCR");
       rtxErrAddUIntParm(ctx, pvalue->wi);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Wi-LCR", "wi", -1, "FPACH-Info-r4");
    }
    stat = pe_ConsUInt64(ctx, pvalue->wi, 1, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "Wi-LCR", "wi", -1, "FPACH-Info-r4");
    return 0;
 }
 
-int asn1PE_UMTS_PRACH_Definition_LCR_r4(rtxContext* ctx, const PRACH_Definition_LCR_r4* pvalue)
+int asn1PE_UMTS_PRACH_Definition_LCR_r4(rtxContext* RT_RESTRICT ctx, const PRACH_Definition_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PRACH-Definition-LCR-r4");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-Definition-LCR-r4");
    /* timeslot */
-   rtxCtxtPushElemName(ctx, "timeslot");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-PRACH-LCR-r4");
    if ((uint64_t)(pvalue->timeslot - 1) > 5u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "TimeslotNumber-PRACH-LCR-r4");
       rtxErrAddUIntParm(ctx, pvalue->timeslot);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-PRACH-LCR-r4", "timeslot", -1, "PRACH-Definition-LCR-r4");
    }
    stat = pe_ConsUInt64(ctx, pvalue->timeslot, 1, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TimeslotNumber-PRACH-LCR-r4", "timeslot", -1, "PRACH-Definition-LCR-r4");
    /* prach-ChanCodes-LCR */
-   rtxCtxtPushElemName(ctx, "prach-ChanCodes-LCR");
    stat = asn1PE_UMTS_PRACH_ChanCodes_LCR_r4(ctx, &pvalue->prach_ChanCodes_LCR);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "prach-ChanCodes-LCR", -1, "PRACH-Definition-LCR-r4");
    /* midambleShiftAndBurstType */
-   rtxCtxtPushElemName(ctx, "midambleShiftAndBurstType");
    stat = asn1PE_UMTS_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "PRACH-Definition-LCR-r4");
    /* fpach-Info */
-   rtxCtxtPushElemName(ctx, "fpach-Info");
    stat = asn1PE_UMTS_FPACH_Info_r4(ctx, &pvalue->fpach_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "fpach-Info", -1, "PRACH-Definition-LCR-r4");
    return 0;
 }
 
-int asn1PE_UMTS_PRACH_RACH_Info_LCR_r4_prach_DefinitionList(rtxContext* ctx, const PRACH_RACH_Info_LCR_r4_prach_DefinitionList* pvalue)
+int asn1PE_UMTS_PRACH_RACH_Info_LCR_r4_prach_DefinitionList(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info_LCR_r4_prach_DefinitionList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 8);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "PRACH-Definition-LCR-r4", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PRACH-Definition-LCR-r4", (int32_t)i, 0);
       stat = asn1PE_UMTS_PRACH_Definition_LCR_r4(ctx, (const PRACH_Definition_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "PRACH-Definition-LCR-r4", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_PRACH_RACH_Info_LCR_r4(rtxContext* ctx, const PRACH_RACH_Info_LCR_r4* pvalue)
+int asn1PE_UMTS_PRACH_RACH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PRACH-RACH-Info-LCR-r4");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-RACH-Info-LCR-r4");
    /* sync-UL-Info */
-   rtxCtxtPushElemName(ctx, "sync-UL-Info");
    stat = asn1PE_UMTS_SYNC_UL_Info_r4(ctx, &pvalue->sync_UL_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sync-UL-Info", -1, "PRACH-RACH-Info-LCR-r4");
    /* prach-DefinitionList */
-   rtxCtxtPushElemName(ctx, "prach-DefinitionList");
    stat = asn1PE_UMTS_PRACH_RACH_Info_LCR_r4_prach_DefinitionList(ctx, &pvalue->prach_DefinitionList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "prach-DefinitionList", -1, "PRACH-RACH-Info-LCR-r4");
    return 0;
 }
 
-int asn1PE_UMTS_CommonTransChTFS_LCR_tti(rtxContext* ctx, const CommonTransChTFS_LCR_tti* pvalue)
+int asn1PE_UMTS_CommonTransChTFS_LCR_tti(rtxContext* RT_RESTRICT ctx, const CommonTransChTFS_LCR_tti* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 5) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 5) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "tti5");
-         if (pvalue->u.tti5 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.tti5 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tti5", -1, 0);
          stat = asn1PE_UMTS_CommonDynamicTF_InfoList(ctx, pvalue->u.tti5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tti5", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tti10");
-         if (pvalue->u.tti10 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.tti10 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tti10", -1, 0);
          stat = asn1PE_UMTS_CommonDynamicTF_InfoList(ctx, pvalue->u.tti10);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tti10", -1, 0);
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "tti20");
-         if (pvalue->u.tti20 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.tti20 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tti20", -1, 0);
          stat = asn1PE_UMTS_CommonDynamicTF_InfoList(ctx, pvalue->u.tti20);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tti20", -1, 0);
          break;
       case 4:
-         rtxCtxtPushElemName(ctx, "tti40");
-         if (pvalue->u.tti40 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.tti40 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tti40", -1, 0);
          stat = asn1PE_UMTS_CommonDynamicTF_InfoList(ctx, pvalue->u.tti40);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tti40", -1, 0);
          break;
       case 5:
-         rtxCtxtPushElemName(ctx, "tti80");
-         if (pvalue->u.tti80 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.tti80 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tti80", -1, 0);
          stat = asn1PE_UMTS_CommonDynamicTF_InfoList(ctx, pvalue->u.tti80);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tti80", -1, 0);
          break;
       case 6:
-         rtxCtxtPushElemName(ctx, "dynamic");
-         if (pvalue->u.dynamic == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.dynamic == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dynamic", -1, 0);
          stat = asn1PE_UMTS_CommonDynamicTF_InfoList_DynamicTTI(ctx, pvalue->u.dynamic);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "dynamic", -1, 0);
          break;
       default:
          break;
@@ -4978,203 +1859,173 @@ int asn1PE_UMTS_CommonTransChTFS_LCR_tti(rtxContext* ctx, const CommonTransChTFS
    return 0;
 }
 
-int asn1PE_UMTS_CommonTransChTFS_LCR(rtxContext* ctx, const CommonTransChTFS_LCR* pvalue)
+int asn1PE_UMTS_CommonTransChTFS_LCR(rtxContext* RT_RESTRICT ctx, const CommonTransChTFS_LCR* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CommonTransChTFS-LCR");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CommonTransChTFS-LCR");
    /* tti */
-   rtxCtxtPushElemName(ctx, "tti");
    stat = asn1PE_UMTS_CommonTransChTFS_LCR_tti(ctx, &pvalue->tti);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "tti", -1, "CommonTransChTFS-LCR");
    /* semistaticTF-Information */
-   rtxCtxtPushElemName(ctx, "semistaticTF-Information");
    stat = asn1PE_UMTS_SemistaticTF_Information(ctx, &pvalue->semistaticTF_Information);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "semistaticTF-Information", -1, "CommonTransChTFS-LCR");
    return 0;
 }
 
-int asn1PE_UMTS_TransportFormatSet_LCR(rtxContext* ctx, const TransportFormatSet_LCR* pvalue)
+int asn1PE_UMTS_TransportFormatSet_LCR(rtxContext* RT_RESTRICT ctx, const TransportFormatSet_LCR* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TransportFormatSet-LCR");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransportFormatSet-LCR");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "TransportFormatSet-LCR");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TransportFormatSet-LCR");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "dedicatedTransChTFS");
-         if (pvalue->u.dedicatedTransChTFS == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.dedicatedTransChTFS == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dedicatedTransChTFS", -1, "TransportFormatSet-LCR");
          stat = asn1PE_UMTS_DedicatedTransChTFS(ctx, pvalue->u.dedicatedTransChTFS);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "dedicatedTransChTFS", -1, "TransportFormatSet-LCR");
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "commonTransChTFS-LCR");
-         if (pvalue->u.commonTransChTFS_LCR == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.commonTransChTFS_LCR == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "commonTransChTFS-LCR", -1, "TransportFormatSet-LCR");
          stat = asn1PE_UMTS_CommonTransChTFS_LCR(ctx, pvalue->u.commonTransChTFS_LCR);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "commonTransChTFS-LCR", -1, "TransportFormatSet-LCR");
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_availableSYNC_UlCodesIndics(rtxContext* ctx, AccessServiceClass_TDD_LCR_r4_availableSYNC_UlCodesIndics value)
+int asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_availableSYNC_UlCodesIndics(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_availableSYNC_UlCodesIndics value)
 {
    int stat = 0;
    {
       int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
       uint32_t used = (uint32_t)(last + 1);
       value.numbits = used <= 8 ? 8 : used;
-      if (last < -1) RT_RAISE(ctx, RT_ERR_CONSVIO);
+      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
    }
    RT_SET_SIZE(ctx, 8, 8);
    stat = pe_BitString32(ctx, &value, 8, 8);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size2_subchannels(rtxContext* ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size2_subchannels value)
+int asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size2_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size2_subchannels value)
 {
    int stat = 0;
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size2(rtxContext* ctx, const AccessServiceClass_TDD_LCR_r4_subchannelSize_size2* pvalue)
+int asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size2(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_LCR_r4_subchannelSize_size2* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* subchannels */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "subchannels");
       if (pvalue->subchannels > 1) {
          rtxErrAddUIntParm(ctx, pvalue->subchannels);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "subchannels", -1, 0);
       }
       stat = pe_ConsUInt64(ctx, pvalue->subchannels, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4_subchannels(rtxContext* ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size4_subchannels value)
+int asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size4_subchannels value)
 {
    int stat = 0;
    {
       int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
       uint32_t used = (uint32_t)(last + 1);
       value.numbits = used <= 4 ? 4 : used;
-      if (last < -1) RT_RAISE(ctx, RT_ERR_CONSVIO);
+      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
    }
    RT_SET_SIZE(ctx, 4, 4);
    stat = pe_BitString32(ctx, &value, 4, 4);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4(rtxContext* ctx, const AccessServiceClass_TDD_LCR_r4_subchannelSize_size4* pvalue)
+int asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_LCR_r4_subchannelSize_size4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* subchannels */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "subchannels");
       stat = asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4_subchannels(ctx, pvalue->subchannels);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8_subchannels(rtxContext* ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size8_subchannels value)
+int asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size8_subchannels value)
 {
    int stat = 0;
    {
       int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
       uint32_t used = (uint32_t)(last + 1);
       value.numbits = used <= 8 ? 8 : used;
-      if (last < -1) RT_RAISE(ctx, RT_ERR_CONSVIO);
+      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
    }
    RT_SET_SIZE(ctx, 8, 8);
    stat = pe_BitString32(ctx, &value, 8, 8);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8(rtxContext* ctx, const AccessServiceClass_TDD_LCR_r4_subchannelSize_size8* pvalue)
+int asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_LCR_r4_subchannelSize_size8* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* subchannels */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "subchannels");
       stat = asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8_subchannels(ctx, pvalue->subchannels);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize(rtxContext* ctx, const AccessServiceClass_TDD_LCR_r4_subchannelSize* pvalue)
+int asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_LCR_r4_subchannelSize* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 3) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "size1");
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "size2");
-         if (pvalue->u.size2 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.size2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "size2", -1, 0);
          stat = asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size2(ctx, pvalue->u.size2);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "size2", -1, 0);
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "size4");
-         if (pvalue->u.size4 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.size4 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "size4", -1, 0);
          stat = asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4(ctx, pvalue->u.size4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "size4", -1, 0);
          break;
       case 4:
-         rtxCtxtPushElemName(ctx, "size8");
-         if (pvalue->u.size8 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.size8 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "size8", -1, 0);
          stat = asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8(ctx, pvalue->u.size8);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "size8", -1, 0);
          break;
       default:
          break;
@@ -5182,287 +2033,229 @@ int asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize(rtxContext* ctx, co
    return 0;
 }
 
-int asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4(rtxContext* ctx, const AccessServiceClass_TDD_LCR_r4* pvalue)
+int asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "AccessServiceClass-TDD-LCR-r4");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AccessServiceClass-TDD-LCR-r4");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AccessServiceClass-TDD-LCR-r4");
    /* availableSYNC-UlCodesIndics */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "availableSYNC-UlCodesIndics");
       stat = asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_availableSYNC_UlCodesIndics(ctx, pvalue->availableSYNC_UlCodesIndics);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "availableSYNC-UlCodesIndics", -1, "AccessServiceClass-TDD-LCR-r4");
    }
    /* subchannelSize */
-   rtxCtxtPushElemName(ctx, "subchannelSize");
    stat = asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize(ctx, &pvalue->subchannelSize);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "subchannelSize", -1, "AccessServiceClass-TDD-LCR-r4");
    return 0;
 }
 
-int asn1PE_UMTS_ASCSetting_TDD_LCR_r4(rtxContext* ctx, const ASCSetting_TDD_LCR_r4* pvalue)
+int asn1PE_UMTS_ASCSetting_TDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const ASCSetting_TDD_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ASCSetting-TDD-LCR-r4");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ASCSetting-TDD-LCR-r4");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ASCSetting-TDD-LCR-r4");
    /* accessServiceClass-TDD-LCR */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "accessServiceClass-TDD-LCR");
       stat = asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4(ctx, &pvalue->accessServiceClass_TDD_LCR);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "accessServiceClass-TDD-LCR", -1, "ASCSetting-TDD-LCR-r4");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PRACH_Partitioning_LCR_r4(rtxContext* ctx, const PRACH_Partitioning_LCR_r4* pvalue)
+int asn1PE_UMTS_PRACH_Partitioning_LCR_r4(rtxContext* RT_RESTRICT ctx, const PRACH_Partitioning_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-Partitioning-LCR-r4");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "PRACH-Partitioning-LCR-r4");
    RT_SET_SIZE(ctx, 1, 8);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PRACH-Partitioning-LCR-r4");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "ASCSetting-TDD-LCR-r4", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ASCSetting-TDD-LCR-r4", (int32_t)i, "PRACH-Partitioning-LCR-r4");
       stat = asn1PE_UMTS_ASCSetting_TDD_LCR_r4(ctx, (const ASCSetting_TDD_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ASCSetting-TDD-LCR-r4", (int32_t)i, "PRACH-Partitioning-LCR-r4");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PRACH_SystemInformation_LCR_r4(rtxContext* ctx, const PRACH_SystemInformation_LCR_r4* pvalue)
+int asn1PE_UMTS_PRACH_SystemInformation_LCR_r4(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformation_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PRACH-SystemInformation-LCR-r4");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-SystemInformation-LCR-r4");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-SystemInformation-LCR-r4");
    /* prach-RACH-Info-LCR */
-   rtxCtxtPushElemName(ctx, "prach-RACH-Info-LCR");
    stat = asn1PE_UMTS_PRACH_RACH_Info_LCR_r4(ctx, &pvalue->prach_RACH_Info_LCR);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "prach-RACH-Info-LCR", -1, "PRACH-SystemInformation-LCR-r4");
    /* rach-TransportFormatSet-LCR */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "rach-TransportFormatSet-LCR");
       stat = asn1PE_UMTS_TransportFormatSet_LCR(ctx, &pvalue->rach_TransportFormatSet_LCR);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "rach-TransportFormatSet-LCR", -1, "PRACH-SystemInformation-LCR-r4");
    }
    /* prach-Partitioning-LCR */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "prach-Partitioning-LCR");
       stat = asn1PE_UMTS_PRACH_Partitioning_LCR_r4(ctx, &pvalue->prach_Partitioning_LCR);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "prach-Partitioning-LCR", -1, "PRACH-SystemInformation-LCR-r4");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PRACH_SystemInformationList_LCR_r4(rtxContext* ctx, const PRACH_SystemInformationList_LCR_r4* pvalue)
+int asn1PE_UMTS_PRACH_SystemInformationList_LCR_r4(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformationList_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-SystemInformationList-LCR-r4");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "PRACH-SystemInformationList-LCR-r4");
    RT_SET_SIZE(ctx, 1, 16);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PRACH-SystemInformationList-LCR-r4");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "PRACH-SystemInformation-LCR-r4", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PRACH-SystemInformation-LCR-r4", (int32_t)i, "PRACH-SystemInformationList-LCR-r4");
       stat = asn1PE_UMTS_PRACH_SystemInformation_LCR_r4(ctx, (const PRACH_SystemInformation_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "PRACH-SystemInformation-LCR-r4", (int32_t)i, "PRACH-SystemInformationList-LCR-r4");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_IndividualTimeslotInfo_LCR_r4_modulation(rtxContext* ctx, IndividualTimeslotInfo_LCR_r4_modulation value)
+int asn1PE_UMTS_IndividualTimeslotInfo_LCR_r4_modulation(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4_modulation value)
 {
    int stat = 0;
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_IndividualTimeslotInfo_LCR_r4_ss_TPC_Symbols(rtxContext* ctx, IndividualTimeslotInfo_LCR_r4_ss_TPC_Symbols value)
+int asn1PE_UMTS_IndividualTimeslotInfo_LCR_r4_ss_TPC_Symbols(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4_ss_TPC_Symbols value)
 {
    int stat = 0;
    if (value > 2) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_IndividualTimeslotInfo_LCR_r4(rtxContext* ctx, const IndividualTimeslotInfo_LCR_r4* pvalue)
+int asn1PE_UMTS_IndividualTimeslotInfo_LCR_r4(rtxContext* RT_RESTRICT ctx, const IndividualTimeslotInfo_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IndividualTimeslotInfo-LCR-r4");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IndividualTimeslotInfo-LCR-r4");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IndividualTimeslotInfo-LCR-r4");
    /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-LCR-r4");
    if ((uint64_t)pvalue->timeslotNumber > 6u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
       rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "IndividualTimeslotInfo-LCR-r4");
    }
    stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "IndividualTimeslotInfo-LCR-r4");
    /* tfci-Existence */
-   rtxCtxtPushElemName(ctx, "tfci-Existence");
    stat = rtxEncBit(ctx, pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, "IndividualTimeslotInfo-LCR-r4");
    /* midambleShiftAndBurstType */
-   rtxCtxtPushElemName(ctx, "midambleShiftAndBurstType");
    stat = asn1PE_UMTS_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "IndividualTimeslotInfo-LCR-r4");
    /* modulation */
-   rtxCtxtPushElemName(ctx, "modulation");
    if (pvalue->modulation > 1) {
       rtxErrAddUIntParm(ctx, pvalue->modulation);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "modulation", -1, "IndividualTimeslotInfo-LCR-r4");
    }
    stat = pe_ConsUInt64(ctx, pvalue->modulation, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "modulation", -1, "IndividualTimeslotInfo-LCR-r4");
    /* ss-TPC-Symbols */
-   rtxCtxtPushElemName(ctx, "ss-TPC-Symbols");
    if (pvalue->ss_TPC_Symbols > 2) {
       rtxErrAddUIntParm(ctx, pvalue->ss_TPC_Symbols);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "ss-TPC-Symbols", -1, "IndividualTimeslotInfo-LCR-r4");
    }
    stat = pe_ConsUInt64(ctx, pvalue->ss_TPC_Symbols, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "ss-TPC-Symbols", -1, "IndividualTimeslotInfo-LCR-r4");
    /* additionalSS-TPC-Symbols */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "additionalSS-TPC-Symbols");
       if ((uint64_t)(pvalue->additionalSS_TPC_Symbols - 1) > 14u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "additionalSS-TPC-Symbols");
          rtxErrAddUIntParm(ctx, pvalue->additionalSS_TPC_Symbols);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "additionalSS-TPC-Symbols", -1, "IndividualTimeslotInfo-LCR-r4");
       }
       stat = pe_ConsUInt64(ctx, pvalue->additionalSS_TPC_Symbols, 1, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "additionalSS-TPC-Symbols", -1, "IndividualTimeslotInfo-LCR-r4");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_consecutive(rtxContext* ctx, const UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_consecutive* pvalue)
+int asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_consecutive(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_consecutive* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* numAdditionalTimeslots */
-   rtxCtxtPushElemName(ctx, "numAdditionalTimeslots");
    if ((uint64_t)(pvalue->numAdditionalTimeslots - 1) > 4u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "numAdditionalTimeslots");
       rtxErrAddUIntParm(ctx, pvalue->numAdditionalTimeslots);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "numAdditionalTimeslots", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->numAdditionalTimeslots, 1, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "numAdditionalTimeslots", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast(rtxContext* ctx, const UplinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast* pvalue)
+int asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
    if ((uint64_t)pvalue->timeslotNumber > 14u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
       rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters(rtxContext* ctx, const UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters* pvalue)
+int asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* individualTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "individualTimeslotInfo");
    stat = asn1PE_UMTS_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
    /* ul-TS-ChannelisationCodeList */
-   rtxCtxtPushElemName(ctx, "ul-TS-ChannelisationCodeList");
    stat = asn1PE_UMTS_UL_TS_ChannelisationCodeList(ctx, &pvalue->ul_TS_ChannelisationCodeList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r4_parameters(rtxContext* ctx, const UplinkAdditionalTimeslots_LCR_r4_parameters* pvalue)
+int asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r4_parameters(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_LCR_r4_parameters* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "sameAsLast");
-         if (pvalue->u.sameAsLast == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.sameAsLast == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sameAsLast", -1, 0);
          stat = asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast(ctx, pvalue->u.sameAsLast);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "newParameters");
-         if (pvalue->u.newParameters == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.newParameters == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "newParameters", -1, 0);
          stat = asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters(ctx, pvalue->u.newParameters);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
          break;
       default:
          break;
@@ -5470,62 +2263,50 @@ int asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r4_parameters(rtxContext* ctx, con
    return 0;
 }
 
-int asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r4(rtxContext* ctx, const UplinkAdditionalTimeslots_LCR_r4* pvalue)
+int asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r4(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UplinkAdditionalTimeslots-LCR-r4");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UplinkAdditionalTimeslots-LCR-r4");
    /* parameters */
-   rtxCtxtPushElemName(ctx, "parameters");
    stat = asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r4_parameters(ctx, &pvalue->parameters);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "parameters", -1, "UplinkAdditionalTimeslots-LCR-r4");
    return 0;
 }
 
-int asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* ctx, const UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList* pvalue)
+int asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 5);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "UplinkAdditionalTimeslots-LCR-r4", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UplinkAdditionalTimeslots-LCR-r4", (int32_t)i, 0);
       stat = asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r4(ctx, (const UplinkAdditionalTimeslots_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "UplinkAdditionalTimeslots-LCR-r4", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(rtxContext* ctx, const UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots* pvalue)
+int asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "consecutive");
-         if (pvalue->u.consecutive == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.consecutive == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "consecutive", -1, 0);
          stat = asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_consecutive(ctx, pvalue->u.consecutive);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "timeslotList");
-         if (pvalue->u.timeslotList == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.timeslotList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "timeslotList", -1, 0);
          stat = asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
          break;
       default:
          break;
@@ -5533,26 +2314,20 @@ int asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(rt
    return 0;
 }
 
-int asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots(rtxContext* ctx, const UplinkTimeslotsCodes_LCR_r4_moreTimeslots* pvalue)
+int asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r4_moreTimeslots* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "noMore");
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "additionalTimeslots");
-         if (pvalue->u.additionalTimeslots == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.additionalTimeslots == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "additionalTimeslots", -1, 0);
          stat = asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "additionalTimeslots", -1, 0);
          break;
       default:
          break;
@@ -5560,223 +2335,169 @@ int asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots(rtxContext* ctx, const
    return 0;
 }
 
-int asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r4(rtxContext* ctx, const UplinkTimeslotsCodes_LCR_r4* pvalue)
+int asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r4(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UplinkTimeslotsCodes-LCR-r4");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UplinkTimeslotsCodes-LCR-r4");
    /* dynamicSFusage */
-   rtxCtxtPushElemName(ctx, "dynamicSFusage");
    stat = rtxEncBit(ctx, pvalue->dynamicSFusage);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "dynamicSFusage", -1, "UplinkTimeslotsCodes-LCR-r4");
    /* firstIndividualTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "firstIndividualTimeslotInfo");
    stat = asn1PE_UMTS_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->firstIndividualTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "UplinkTimeslotsCodes-LCR-r4");
    /* ul-TS-ChannelisationCodeList */
-   rtxCtxtPushElemName(ctx, "ul-TS-ChannelisationCodeList");
    stat = asn1PE_UMTS_UL_TS_ChannelisationCodeList(ctx, &pvalue->ul_TS_ChannelisationCodeList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, "UplinkTimeslotsCodes-LCR-r4");
    /* moreTimeslots */
-   rtxCtxtPushElemName(ctx, "moreTimeslots");
    stat = asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots(ctx, &pvalue->moreTimeslots);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "UplinkTimeslotsCodes-LCR-r4");
    return 0;
 }
 
-int asn1PE_UMTS_PUSCH_Info_LCR_r4(rtxContext* ctx, const PUSCH_Info_LCR_r4* pvalue)
+int asn1PE_UMTS_PUSCH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, const PUSCH_Info_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PUSCH-Info-LCR-r4");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-Info-LCR-r4");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 2) |
       ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-Info-LCR-r4");
    /* tfcs-ID */
    if (pvalue->tfcs_ID != 1) {
-      rtxCtxtPushElemName(ctx, "tfcs-ID");
-      rtxCtxtPushTypeName(ctx, "TFCS-IdentityPlain");
       if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
          rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "PUSCH-Info-LCR-r4");
       }
       stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PUSCH-Info-LCR-r4");
    }
    /* commonTimeslotInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "commonTimeslotInfo");
       stat = asn1PE_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "PUSCH-Info-LCR-r4");
    }
    /* pusch-TimeslotsCodes */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "pusch-TimeslotsCodes");
       stat = asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r4(ctx, &pvalue->pusch_TimeslotsCodes);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pusch-TimeslotsCodes", -1, "PUSCH-Info-LCR-r4");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PUSCH_SysInfo_LCR_r4(rtxContext* ctx, const PUSCH_SysInfo_LCR_r4* pvalue)
+int asn1PE_UMTS_PUSCH_SysInfo_LCR_r4(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfo_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PUSCH-SysInfo-LCR-r4");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-SysInfo-LCR-r4");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-SysInfo-LCR-r4");
    /* pusch-Identity */
-   rtxCtxtPushElemName(ctx, "pusch-Identity");
-   rtxCtxtPushTypeName(ctx, "PUSCH-Identity");
    if ((uint64_t)(pvalue->pusch_Identity - 1) > 63u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "PUSCH-Identity");
       rtxErrAddUIntParm(ctx, pvalue->pusch_Identity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PUSCH-Identity", "pusch-Identity", -1, "PUSCH-SysInfo-LCR-r4");
    }
    stat = pe_ConsUInt64(ctx, pvalue->pusch_Identity, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "PUSCH-Identity", "pusch-Identity", -1, "PUSCH-SysInfo-LCR-r4");
    /* pusch-Info */
-   rtxCtxtPushElemName(ctx, "pusch-Info");
    stat = asn1PE_UMTS_PUSCH_Info_LCR_r4(ctx, &pvalue->pusch_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "pusch-Info", -1, "PUSCH-SysInfo-LCR-r4");
    /* usch-TFS */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "usch-TFS");
       stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->usch_TFS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "usch-TFS", -1, "PUSCH-SysInfo-LCR-r4");
    }
    /* usch-TFCS */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "usch-TFCS");
       stat = asn1PE_UMTS_TFCS(ctx, &pvalue->usch_TFCS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "usch-TFCS", -1, "PUSCH-SysInfo-LCR-r4");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PUSCH_SysInfoList_SFN_LCR_r4_element(rtxContext* ctx, const PUSCH_SysInfoList_SFN_LCR_r4_element* pvalue)
+int asn1PE_UMTS_PUSCH_SysInfoList_SFN_LCR_r4_element(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_SFN_LCR_r4_element* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* pusch-SysInfo */
-   rtxCtxtPushElemName(ctx, "pusch-SysInfo");
    stat = asn1PE_UMTS_PUSCH_SysInfo_LCR_r4(ctx, &pvalue->pusch_SysInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "pusch-SysInfo", -1, 0);
    /* sfn-TimeInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sfn-TimeInfo");
       stat = asn1PE_UMTS_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_PUSCH_SysInfoList_SFN_LCR_r4(rtxContext* ctx, const PUSCH_SysInfoList_SFN_LCR_r4* pvalue)
+int asn1PE_UMTS_PUSCH_SysInfoList_SFN_LCR_r4(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_SFN_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-SysInfoList-SFN-LCR-r4");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "PUSCH-SysInfoList-SFN-LCR-r4");
    RT_SET_SIZE(ctx, 1, 8);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PUSCH-SysInfoList-SFN-LCR-r4");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN-LCR-r4");
       stat = asn1PE_UMTS_PUSCH_SysInfoList_SFN_LCR_r4_element(ctx, (const PUSCH_SysInfoList_SFN_LCR_r4_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN-LCR-r4");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_DownlinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast(rtxContext* ctx, const DownlinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast* pvalue)
+int asn1PE_UMTS_DownlinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-LCR-r4");
    if ((uint64_t)pvalue->timeslotNumber > 6u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
       rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_DownlinkAdditionalTimeslots_LCR_r4_parameters_newParameters(rtxContext* ctx, const DownlinkAdditionalTimeslots_LCR_r4_parameters_newParameters* pvalue)
+int asn1PE_UMTS_DownlinkAdditionalTimeslots_LCR_r4_parameters_newParameters(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_LCR_r4_parameters_newParameters* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* individualTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "individualTimeslotInfo");
    stat = asn1PE_UMTS_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
    /* dl-TS-ChannelisationCodesShort */
-   rtxCtxtPushElemName(ctx, "dl-TS-ChannelisationCodesShort");
    stat = asn1PE_UMTS_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_DownlinkAdditionalTimeslots_LCR_r4_parameters(rtxContext* ctx, const DownlinkAdditionalTimeslots_LCR_r4_parameters* pvalue)
+int asn1PE_UMTS_DownlinkAdditionalTimeslots_LCR_r4_parameters(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_LCR_r4_parameters* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "sameAsLast");
-         if (pvalue->u.sameAsLast == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.sameAsLast == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sameAsLast", -1, 0);
          stat = asn1PE_UMTS_DownlinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast(ctx, pvalue->u.sameAsLast);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "newParameters");
-         if (pvalue->u.newParameters == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.newParameters == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "newParameters", -1, 0);
          stat = asn1PE_UMTS_DownlinkAdditionalTimeslots_LCR_r4_parameters_newParameters(ctx, pvalue->u.newParameters);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
          break;
       default:
          break;
@@ -5784,66 +2505,54 @@ int asn1PE_UMTS_DownlinkAdditionalTimeslots_LCR_r4_parameters(rtxContext* ctx, c
    return 0;
 }
 
-int asn1PE_UMTS_DownlinkAdditionalTimeslots_LCR_r4(rtxContext* ctx, const DownlinkAdditionalTimeslots_LCR_r4* pvalue)
+int asn1PE_UMTS_DownlinkAdditionalTimeslots_LCR_r4(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DownlinkAdditionalTimeslots-LCR-r4");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DownlinkAdditionalTimeslots-LCR-r4");
    /* parameters */
-   rtxCtxtPushElemName(ctx, "parameters");
    stat = asn1PE_UMTS_DownlinkAdditionalTimeslots_LCR_r4_parameters(ctx, &pvalue->parameters);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "parameters", -1, "DownlinkAdditionalTimeslots-LCR-r4");
    return 0;
 }
 
-int asn1PE_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* ctx, const DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList* pvalue)
+int asn1PE_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 5);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "DownlinkAdditionalTimeslots-LCR-r4", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DownlinkAdditionalTimeslots-LCR-r4", (int32_t)i, 0);
       stat = asn1PE_UMTS_DownlinkAdditionalTimeslots_LCR_r4(ctx, (const DownlinkAdditionalTimeslots_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "DownlinkAdditionalTimeslots-LCR-r4", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(rtxContext* ctx, const DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots* pvalue)
+int asn1PE_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "consecutive");
          if ((uint64_t)(pvalue->u.consecutive - 1) > 4u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "consecutive");
             rtxErrAddUIntParm(ctx, pvalue->u.consecutive);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "consecutive", -1, 0);
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.consecutive, 1, 5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "timeslotList");
-         if (pvalue->u.timeslotList == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.timeslotList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "timeslotList", -1, 0);
          stat = asn1PE_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
          break;
       default:
          break;
@@ -5851,26 +2560,20 @@ int asn1PE_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(
    return 0;
 }
 
-int asn1PE_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots(rtxContext* ctx, const DownlinkTimeslotsCodes_LCR_r4_moreTimeslots* pvalue)
+int asn1PE_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_LCR_r4_moreTimeslots* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "noMore");
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "additionalTimeslots");
-         if (pvalue->u.additionalTimeslots == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.additionalTimeslots == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "additionalTimeslots", -1, 0);
          stat = asn1PE_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "additionalTimeslots", -1, 0);
          break;
       default:
          break;
@@ -5878,1240 +2581,960 @@ int asn1PE_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots(rtxContext* ctx, con
    return 0;
 }
 
-int asn1PE_UMTS_DownlinkTimeslotsCodes_LCR_r4(rtxContext* ctx, const DownlinkTimeslotsCodes_LCR_r4* pvalue)
+int asn1PE_UMTS_DownlinkTimeslotsCodes_LCR_r4(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DownlinkTimeslotsCodes-LCR-r4");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DownlinkTimeslotsCodes-LCR-r4");
    /* firstIndividualTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "firstIndividualTimeslotInfo");
    stat = asn1PE_UMTS_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->firstIndividualTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "DownlinkTimeslotsCodes-LCR-r4");
    /* dl-TS-ChannelisationCodesShort */
-   rtxCtxtPushElemName(ctx, "dl-TS-ChannelisationCodesShort");
    stat = asn1PE_UMTS_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, "DownlinkTimeslotsCodes-LCR-r4");
    /* moreTimeslots */
-   rtxCtxtPushElemName(ctx, "moreTimeslots");
    stat = asn1PE_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots(ctx, &pvalue->moreTimeslots);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "DownlinkTimeslotsCodes-LCR-r4");
    return 0;
 }
 
-int asn1PE_UMTS_PDSCH_Info_LCR_r4(rtxContext* ctx, const PDSCH_Info_LCR_r4* pvalue)
+int asn1PE_UMTS_PDSCH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PDSCH-Info-LCR-r4");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-Info-LCR-r4");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 2) |
       ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-Info-LCR-r4");
    /* tfcs-ID */
    if (pvalue->tfcs_ID != 1) {
-      rtxCtxtPushElemName(ctx, "tfcs-ID");
-      rtxCtxtPushTypeName(ctx, "TFCS-IdentityPlain");
       if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
          rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "PDSCH-Info-LCR-r4");
       }
       stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PDSCH-Info-LCR-r4");
    }
    /* commonTimeslotInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "commonTimeslotInfo");
       stat = asn1PE_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "PDSCH-Info-LCR-r4");
    }
    /* pdsch-TimeslotsCodes */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "pdsch-TimeslotsCodes");
       stat = asn1PE_UMTS_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->pdsch_TimeslotsCodes);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pdsch-TimeslotsCodes", -1, "PDSCH-Info-LCR-r4");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PDSCH_SysInfo_LCR_r4(rtxContext* ctx, const PDSCH_SysInfo_LCR_r4* pvalue)
+int asn1PE_UMTS_PDSCH_SysInfo_LCR_r4(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfo_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PDSCH-SysInfo-LCR-r4");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-SysInfo-LCR-r4");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-SysInfo-LCR-r4");
    /* pdsch-Identity */
-   rtxCtxtPushElemName(ctx, "pdsch-Identity");
-   rtxCtxtPushTypeName(ctx, "PDSCH-Identity");
    if ((uint64_t)(pvalue->pdsch_Identity - 1) > 63u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "PDSCH-Identity");
       rtxErrAddUIntParm(ctx, pvalue->pdsch_Identity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PDSCH-Identity", "pdsch-Identity", -1, "PDSCH-SysInfo-LCR-r4");
    }
    stat = pe_ConsUInt64(ctx, pvalue->pdsch_Identity, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "PDSCH-Identity", "pdsch-Identity", -1, "PDSCH-SysInfo-LCR-r4");
    /* pdsch-Info */
-   rtxCtxtPushElemName(ctx, "pdsch-Info");
    stat = asn1PE_UMTS_PDSCH_Info_LCR_r4(ctx, &pvalue->pdsch_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "pdsch-Info", -1, "PDSCH-SysInfo-LCR-r4");
    /* dsch-TFS */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dsch-TFS");
       stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->dsch_TFS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dsch-TFS", -1, "PDSCH-SysInfo-LCR-r4");
    }
    /* dsch-TFCS */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dsch-TFCS");
       stat = asn1PE_UMTS_TFCS(ctx, &pvalue->dsch_TFCS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dsch-TFCS", -1, "PDSCH-SysInfo-LCR-r4");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PDSCH_SysInfoList_SFN_LCR_r4_element(rtxContext* ctx, const PDSCH_SysInfoList_SFN_LCR_r4_element* pvalue)
+int asn1PE_UMTS_PDSCH_SysInfoList_SFN_LCR_r4_element(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList_SFN_LCR_r4_element* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* pdsch-SysInfo */
-   rtxCtxtPushElemName(ctx, "pdsch-SysInfo");
    stat = asn1PE_UMTS_PDSCH_SysInfo_LCR_r4(ctx, &pvalue->pdsch_SysInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "pdsch-SysInfo", -1, 0);
    /* sfn-TimeInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sfn-TimeInfo");
       stat = asn1PE_UMTS_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_PDSCH_SysInfoList_SFN_LCR_r4(rtxContext* ctx, const PDSCH_SysInfoList_SFN_LCR_r4* pvalue)
+int asn1PE_UMTS_PDSCH_SysInfoList_SFN_LCR_r4(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList_SFN_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-SysInfoList-SFN-LCR-r4");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "PDSCH-SysInfoList-SFN-LCR-r4");
    RT_SET_SIZE(ctx, 1, 8);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PDSCH-SysInfoList-SFN-LCR-r4");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "PDSCH-SysInfoList-SFN-LCR-r4");
       stat = asn1PE_UMTS_PDSCH_SysInfoList_SFN_LCR_r4_element(ctx, (const PDSCH_SysInfoList_SFN_LCR_r4_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PDSCH-SysInfoList-SFN-LCR-r4");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PrimaryCCPCH_Info_LCR_r4_ext(rtxContext* ctx, const PrimaryCCPCH_Info_LCR_r4_ext* pvalue)
+int asn1PE_UMTS_PrimaryCCPCH_Info_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_LCR_r4_ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-Info-LCR-r4-ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PrimaryCCPCH-Info-LCR-r4-ext");
    /* tstd-Indicator */
-   rtxCtxtPushElemName(ctx, "tstd-Indicator");
    stat = rtxEncBit(ctx, pvalue->tstd_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "tstd-Indicator", -1, "PrimaryCCPCH-Info-LCR-r4-ext");
    return 0;
 }
 
-int asn1PE_UMTS_IndividualTimeslotInfo_LCR_r4_ext_modulation(rtxContext* ctx, IndividualTimeslotInfo_LCR_r4_ext_modulation value)
+int asn1PE_UMTS_IndividualTimeslotInfo_LCR_r4_ext_modulation(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4_ext_modulation value)
 {
    int stat = 0;
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_IndividualTimeslotInfo_LCR_r4_ext_ss_TPC_Symbols(rtxContext* ctx, IndividualTimeslotInfo_LCR_r4_ext_ss_TPC_Symbols value)
+int asn1PE_UMTS_IndividualTimeslotInfo_LCR_r4_ext_ss_TPC_Symbols(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4_ext_ss_TPC_Symbols value)
 {
    int stat = 0;
    if (value > 2) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_IndividualTimeslotInfo_LCR_r4_ext(rtxContext* ctx, const IndividualTimeslotInfo_LCR_r4_ext* pvalue)
+int asn1PE_UMTS_IndividualTimeslotInfo_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const IndividualTimeslotInfo_LCR_r4_ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IndividualTimeslotInfo-LCR-r4-ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IndividualTimeslotInfo-LCR-r4-ext");
    /* midambleShiftAndBurstType */
-   rtxCtxtPushElemName(ctx, "midambleShiftAndBurstType");
    stat = asn1PE_UMTS_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "IndividualTimeslotInfo-LCR-r4-ext");
    /* modulation */
-   rtxCtxtPushElemName(ctx, "modulation");
    if (pvalue->modulation > 1) {
       rtxErrAddUIntParm(ctx, pvalue->modulation);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "modulation", -1, "IndividualTimeslotInfo-LCR-r4-ext");
    }
    stat = pe_ConsUInt64(ctx, pvalue->modulation, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "modulation", -1, "IndividualTimeslotInfo-LCR-r4-ext");
    /* ss-TPC-Symbols */
-   rtxCtxtPushElemName(ctx, "ss-TPC-Symbols");
    if (pvalue->ss_TPC_Symbols > 2) {
       rtxErrAddUIntParm(ctx, pvalue->ss_TPC_Symbols);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "ss-TPC-Symbols", -1, "IndividualTimeslotInfo-LCR-r4-ext");
    }
    stat = pe_ConsUInt64(ctx, pvalue->ss_TPC_Symbols, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "ss-TPC-Symbols", -1, "IndividualTimeslotInfo-LCR-r4-ext");
    return 0;
 }
 
-int asn1PE_UMTS_SecondaryCCPCH_Info_LCR_r4_ext(rtxContext* ctx, const SecondaryCCPCH_Info_LCR_r4_ext* pvalue)
+int asn1PE_UMTS_SecondaryCCPCH_Info_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_LCR_r4_ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SecondaryCCPCH-Info-LCR-r4-ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SecondaryCCPCH-Info-LCR-r4-ext");
    /* individualTimeslotLCR-Ext */
-   rtxCtxtPushElemName(ctx, "individualTimeslotLCR-Ext");
    stat = asn1PE_UMTS_IndividualTimeslotInfo_LCR_r4_ext(ctx, &pvalue->individualTimeslotLCR_Ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotLCR-Ext", -1, "SecondaryCCPCH-Info-LCR-r4-ext");
    return 0;
 }
 
-int asn1PE_UMTS_PichChannelisationCodeList_LCR_r4(rtxContext* ctx, const PichChannelisationCodeList_LCR_r4* pvalue)
+int asn1PE_UMTS_PichChannelisationCodeList_LCR_r4(rtxContext* RT_RESTRICT ctx, const PichChannelisationCodeList_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PichChannelisationCodeList-LCR-r4");
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "PichChannelisationCodeList-LCR-r4");
    RT_SET_SIZE(ctx, 1, 2);
    stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PichChannelisationCodeList-LCR-r4");
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "DL-TS-ChannelisationCode", i);
-      rtxCtxtPushTypeName(ctx, "DL-TS-ChannelisationCode");
       if (pvalue->elem[i] > 15) {
          rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TS-ChannelisationCode", "DL-TS-ChannelisationCode", (int32_t)i, "PichChannelisationCodeList-LCR-r4");
       }
       stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode", "DL-TS-ChannelisationCode", (int32_t)i, "PichChannelisationCodeList-LCR-r4");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PICH_Info_LCR_r4(rtxContext* ctx, const PICH_Info_LCR_r4* pvalue)
+int asn1PE_UMTS_PICH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, const PICH_Info_LCR_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PICH-Info-LCR-r4");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PICH-Info-LCR-r4");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
       ((uint64_t)(pvalue->pagingIndicatorLength != 0) << 2) |
       ((uint64_t)(pvalue->n_GAP != 1) << 1) |
       ((uint64_t)(pvalue->n_PCH != 2) << 0), 5);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PICH-Info-LCR-r4");
    /* timeslot */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "timeslot");
-      rtxCtxtPushTypeName(ctx, "TimeslotNumber-LCR-r4");
       if ((uint64_t)pvalue->timeslot > 6u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
          rtxErrAddUIntParm(ctx, pvalue->timeslot);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslot", -1, "PICH-Info-LCR-r4");
       }
       stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 6);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslot", -1, "PICH-Info-LCR-r4");
    }
    /* pichChannelisationCodeList-LCR-r4 */
-   rtxCtxtPushElemName(ctx, "pichChannelisationCodeList-LCR-r4");
    stat = asn1PE_UMTS_PichChannelisationCodeList_LCR_r4(ctx, &pvalue->pichChannelisationCodeList_LCR_r4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "pichChannelisationCodeList-LCR-r4", -1, "PICH-Info-LCR-r4");
    /* midambleShiftAndBurstType */
-   rtxCtxtPushElemName(ctx, "midambleShiftAndBurstType");
    stat = asn1PE_UMTS_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "PICH-Info-LCR-r4");
    /* repetitionPeriodLengthOffset */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "repetitionPeriodLengthOffset");
       stat = asn1PE_UMTS_RepPerLengthOffset_PICH(ctx, &pvalue->repetitionPeriodLengthOffset);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "repetitionPeriodLengthOffset", -1, "PICH-Info-LCR-r4");
    }
    /* pagingIndicatorLength */
    if (pvalue->pagingIndicatorLength != 0) {
-      rtxCtxtPushElemName(ctx, "pagingIndicatorLength");
-      rtxCtxtPushTypeName(ctx, "PagingIndicatorLength");
       if (pvalue->pagingIndicatorLength > 2) {
          rtxErrAddUIntParm(ctx, pvalue->pagingIndicatorLength);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "PagingIndicatorLength", "pagingIndicatorLength", -1, "PICH-Info-LCR-r4");
       }
       stat = pe_ConsUInt64(ctx, pvalue->pagingIndicatorLength, 0, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "PagingIndicatorLength", "pagingIndicatorLength", -1, "PICH-Info-LCR-r4");
    }
    /* n-GAP */
    if (pvalue->n_GAP != 1) {
-      rtxCtxtPushElemName(ctx, "n-GAP");
-      rtxCtxtPushTypeName(ctx, "N-GAP");
       if (pvalue->n_GAP > 2) {
          rtxErrAddUIntParm(ctx, pvalue->n_GAP);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "N-GAP", "n-GAP", -1, "PICH-Info-LCR-r4");
       }
       stat = pe_ConsUInt64(ctx, pvalue->n_GAP, 0, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "N-GAP", "n-GAP", -1, "PICH-Info-LCR-r4");
    }
    /* n-PCH */
    if (pvalue->n_PCH != 2) {
-      rtxCtxtPushElemName(ctx, "n-PCH");
-      rtxCtxtPushTypeName(ctx, "N-PCH");
       if ((uint64_t)(pvalue->n_PCH - 1) > 7u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "N-PCH");
          rtxErrAddUIntParm(ctx, pvalue->n_PCH);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "N-PCH", "n-PCH", -1, "PICH-Info-LCR-r4");
       }
       stat = pe_ConsUInt64(ctx, pvalue->n_PCH, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "N-PCH", "n-PCH", -1, "PICH-Info-LCR-r4");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SCCPCH_SystemInformation_LCR_r4_ext(rtxContext* ctx, const SCCPCH_SystemInformation_LCR_r4_ext* pvalue)
+int asn1PE_UMTS_SCCPCH_SystemInformation_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation_LCR_r4_ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SCCPCH-SystemInformation-LCR-r4-ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SCCPCH-SystemInformation-LCR-r4-ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SCCPCH-SystemInformation-LCR-r4-ext");
    /* secondaryCCPCH-LCR-Extensions */
-   rtxCtxtPushElemName(ctx, "secondaryCCPCH-LCR-Extensions");
    stat = asn1PE_UMTS_SecondaryCCPCH_Info_LCR_r4_ext(ctx, &pvalue->secondaryCCPCH_LCR_Extensions);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "secondaryCCPCH-LCR-Extensions", -1, "SCCPCH-SystemInformation-LCR-r4-ext");
    /* pich-Info */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pich-Info");
       stat = asn1PE_UMTS_PICH_Info_LCR_r4(ctx, &pvalue->pich_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pich-Info", -1, "SCCPCH-SystemInformation-LCR-r4-ext");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SCCPCH_SystemInformationList_LCR_r4_ext(rtxContext* ctx, const SCCPCH_SystemInformationList_LCR_r4_ext* pvalue)
+int asn1PE_UMTS_SCCPCH_SystemInformationList_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformationList_LCR_r4_ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SCCPCH-SystemInformationList-LCR-r4-ext");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "SCCPCH-SystemInformationList-LCR-r4-ext");
    RT_SET_SIZE(ctx, 1, 16);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SCCPCH-SystemInformationList-LCR-r4-ext");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "SCCPCH-SystemInformation-LCR-r4-ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "SCCPCH-SystemInformation-LCR-r4-ext", (int32_t)i, "SCCPCH-SystemInformationList-LCR-r4-ext");
       stat = asn1PE_UMTS_SCCPCH_SystemInformation_LCR_r4_ext(ctx, (const SCCPCH_SystemInformation_LCR_r4_ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "SCCPCH-SystemInformation-LCR-r4-ext", (int32_t)i, "SCCPCH-SystemInformationList-LCR-r4-ext");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType5_v4b0ext_IEs_tdd128SpecificInfo(rtxContext* ctx, const SysInfoType5_v4b0ext_IEs_tdd128SpecificInfo* pvalue)
+int asn1PE_UMTS_SysInfoType5_v4b0ext_IEs_tdd128SpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0ext_IEs_tdd128SpecificInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* pusch-SysInfoList-SFN */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pusch-SysInfoList-SFN");
       stat = asn1PE_UMTS_PUSCH_SysInfoList_SFN_LCR_r4(ctx, &pvalue->pusch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
    }
    /* pdsch-SysInfoList-SFN */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "pdsch-SysInfoList-SFN");
       stat = asn1PE_UMTS_PDSCH_SysInfoList_SFN_LCR_r4(ctx, &pvalue->pdsch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
    }
    /* pCCPCH-LCR-Extensions */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "pCCPCH-LCR-Extensions");
       stat = asn1PE_UMTS_PrimaryCCPCH_Info_LCR_r4_ext(ctx, &pvalue->pCCPCH_LCR_Extensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pCCPCH-LCR-Extensions", -1, 0);
    }
    /* sCCPCH-LCR-ExtensionsList */
-   rtxCtxtPushElemName(ctx, "sCCPCH-LCR-ExtensionsList");
    stat = asn1PE_UMTS_SCCPCH_SystemInformationList_LCR_r4_ext(ctx, &pvalue->sCCPCH_LCR_ExtensionsList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sCCPCH-LCR-ExtensionsList", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_RadioFrequencyBandFDD(rtxContext* ctx, RadioFrequencyBandFDD value)
+int asn1PE_UMTS_RadioFrequencyBandFDD(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandFDD value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandFDD");
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "RadioFrequencyBandFDD");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioFrequencyBandFDD");
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType5_v4b0ext_IEs(rtxContext* ctx, const SysInfoType5_v4b0ext_IEs* pvalue)
+int asn1PE_UMTS_SysInfoType5_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType5-v4b0ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType5-v4b0ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5-v4b0ext-IEs");
    /* pNBSCH-Allocation-r4 */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pNBSCH-Allocation-r4");
       stat = asn1PE_UMTS_PNBSCH_Allocation_r4(ctx, &pvalue->pNBSCH_Allocation_r4);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pNBSCH-Allocation-r4", -1, "SysInfoType5-v4b0ext-IEs");
    }
    /* openLoopPowerControl-IPDL-TDD */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "openLoopPowerControl-IPDL-TDD");
       stat = asn1PE_UMTS_OpenLoopPowerControl_IPDL_TDD_r4(ctx, &pvalue->openLoopPowerControl_IPDL_TDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "openLoopPowerControl-IPDL-TDD", -1, "SysInfoType5-v4b0ext-IEs");
    }
    /* prach-SystemInformationList-LCR-r4 */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "prach-SystemInformationList-LCR-r4");
       stat = asn1PE_UMTS_PRACH_SystemInformationList_LCR_r4(ctx, &pvalue->prach_SystemInformationList_LCR_r4);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "prach-SystemInformationList-LCR-r4", -1, "SysInfoType5-v4b0ext-IEs");
    }
    /* tdd128SpecificInfo */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "tdd128SpecificInfo");
       stat = asn1PE_UMTS_SysInfoType5_v4b0ext_IEs_tdd128SpecificInfo(ctx, &pvalue->tdd128SpecificInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "tdd128SpecificInfo", -1, "SysInfoType5-v4b0ext-IEs");
    }
    /* frequencyBandIndicator */
    if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "frequencyBandIndicator");
-      rtxCtxtPushTypeName(ctx, "RadioFrequencyBandFDD");
       if (pvalue->frequencyBandIndicator > 7) {
          rtxErrAddUIntParm(ctx, pvalue->frequencyBandIndicator);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandFDD", "frequencyBandIndicator", -1, "SysInfoType5-v4b0ext-IEs");
       }
       stat = pe_ConsUInt64(ctx, pvalue->frequencyBandIndicator, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "RadioFrequencyBandFDD", "frequencyBandIndicator", -1, "SysInfoType5-v4b0ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_USCH_TransportChannelsInfo_element(rtxContext* ctx, const USCH_TransportChannelsInfo_element* pvalue)
+int asn1PE_UMTS_USCH_TransportChannelsInfo_element(rtxContext* RT_RESTRICT ctx, const USCH_TransportChannelsInfo_element* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* usch-TransportChannelIdentity */
-   rtxCtxtPushElemName(ctx, "usch-TransportChannelIdentity");
-   rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
    if ((uint64_t)(pvalue->usch_TransportChannelIdentity - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
       rtxErrAddUIntParm(ctx, pvalue->usch_TransportChannelIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "usch-TransportChannelIdentity", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->usch_TransportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "usch-TransportChannelIdentity", -1, 0);
    /* usch-TFS */
-   rtxCtxtPushElemName(ctx, "usch-TFS");
    stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->usch_TFS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "usch-TFS", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_USCH_TransportChannelsInfo(rtxContext* ctx, const USCH_TransportChannelsInfo* pvalue)
+int asn1PE_UMTS_USCH_TransportChannelsInfo(rtxContext* RT_RESTRICT ctx, const USCH_TransportChannelsInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "USCH-TransportChannelsInfo");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "USCH-TransportChannelsInfo");
    RT_SET_SIZE(ctx, 1, 32);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "USCH-TransportChannelsInfo");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "USCH-TransportChannelsInfo");
       stat = asn1PE_UMTS_USCH_TransportChannelsInfo_element(ctx, (const USCH_TransportChannelsInfo_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "USCH-TransportChannelsInfo");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PUSCH_SysInfo_HCR_r5(rtxContext* ctx, const PUSCH_SysInfo_HCR_r5* pvalue)
+int asn1PE_UMTS_PUSCH_SysInfo_HCR_r5(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfo_HCR_r5* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PUSCH-SysInfo-HCR-r5");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-SysInfo-HCR-r5");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-SysInfo-HCR-r5");
    /* pusch-Identity */
-   rtxCtxtPushElemName(ctx, "pusch-Identity");
-   rtxCtxtPushTypeName(ctx, "PUSCH-Identity");
    if ((uint64_t)(pvalue->pusch_Identity - 1) > 63u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "PUSCH-Identity");
       rtxErrAddUIntParm(ctx, pvalue->pusch_Identity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PUSCH-Identity", "pusch-Identity", -1, "PUSCH-SysInfo-HCR-r5");
    }
    stat = pe_ConsUInt64(ctx, pvalue->pusch_Identity, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "PUSCH-Identity", "pusch-Identity", -1, "PUSCH-SysInfo-HCR-r5");
    /* pusch-Info */
-   rtxCtxtPushElemName(ctx, "pusch-Info");
    stat = asn1PE_UMTS_PUSCH_Info(ctx, &pvalue->pusch_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "pusch-Info", -1, "PUSCH-SysInfo-HCR-r5");
    /* usch-TransportChannelsInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "usch-TransportChannelsInfo");
       stat = asn1PE_UMTS_USCH_TransportChannelsInfo(ctx, &pvalue->usch_TransportChannelsInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "usch-TransportChannelsInfo", -1, "PUSCH-SysInfo-HCR-r5");
    }
    /* usch-TFCS */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "usch-TFCS");
       stat = asn1PE_UMTS_TFCS(ctx, &pvalue->usch_TFCS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "usch-TFCS", -1, "PUSCH-SysInfo-HCR-r5");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PUSCH_SysInfoList_SFN_HCR_r5_element(rtxContext* ctx, const PUSCH_SysInfoList_SFN_HCR_r5_element* pvalue)
+int asn1PE_UMTS_PUSCH_SysInfoList_SFN_HCR_r5_element(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_SFN_HCR_r5_element* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* pusch-SysInfo */
-   rtxCtxtPushElemName(ctx, "pusch-SysInfo");
    stat = asn1PE_UMTS_PUSCH_SysInfo_HCR_r5(ctx, &pvalue->pusch_SysInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "pusch-SysInfo", -1, 0);
    /* sfn-TimeInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sfn-TimeInfo");
       stat = asn1PE_UMTS_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_PUSCH_SysInfoList_SFN_HCR_r5(rtxContext* ctx, const PUSCH_SysInfoList_SFN_HCR_r5* pvalue)
+int asn1PE_UMTS_PUSCH_SysInfoList_SFN_HCR_r5(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_SFN_HCR_r5* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-SysInfoList-SFN-HCR-r5");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "PUSCH-SysInfoList-SFN-HCR-r5");
    RT_SET_SIZE(ctx, 1, 8);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PUSCH-SysInfoList-SFN-HCR-r5");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN-HCR-r5");
       stat = asn1PE_UMTS_PUSCH_SysInfoList_SFN_HCR_r5_element(ctx, (const PUSCH_SysInfoList_SFN_HCR_r5_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN-HCR-r5");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_DSCH_TransportChannelsInfo_element(rtxContext* ctx, const DSCH_TransportChannelsInfo_element* pvalue)
+int asn1PE_UMTS_DSCH_TransportChannelsInfo_element(rtxContext* RT_RESTRICT ctx, const DSCH_TransportChannelsInfo_element* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* dsch-transport-channel-identity */
-   rtxCtxtPushElemName(ctx, "dsch-transport-channel-identity");
-   rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
    if ((uint64_t)(pvalue->dsch_transport_channel_identity - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
       rtxErrAddUIntParm(ctx, pvalue->dsch_transport_channel_identity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dsch-transport-channel-identity", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->dsch_transport_channel_identity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "dsch-transport-channel-identity", -1, 0);
    /* dsch-TFS */
-   rtxCtxtPushElemName(ctx, "dsch-TFS");
    stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->dsch_TFS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "dsch-TFS", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_DSCH_TransportChannelsInfo(rtxContext* ctx, const DSCH_TransportChannelsInfo* pvalue)
+int asn1PE_UMTS_DSCH_TransportChannelsInfo(rtxContext* RT_RESTRICT ctx, const DSCH_TransportChannelsInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DSCH-TransportChannelsInfo");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "DSCH-TransportChannelsInfo");
    RT_SET_SIZE(ctx, 1, 32);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DSCH-TransportChannelsInfo");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "DSCH-TransportChannelsInfo");
       stat = asn1PE_UMTS_DSCH_TransportChannelsInfo_element(ctx, (const DSCH_TransportChannelsInfo_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "DSCH-TransportChannelsInfo");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PDSCH_SysInfo_HCR_r5(rtxContext* ctx, const PDSCH_SysInfo_HCR_r5* pvalue)
+int asn1PE_UMTS_PDSCH_SysInfo_HCR_r5(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfo_HCR_r5* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PDSCH-SysInfo-HCR-r5");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-SysInfo-HCR-r5");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-SysInfo-HCR-r5");
    /* pdsch-Identity */
-   rtxCtxtPushElemName(ctx, "pdsch-Identity");
-   rtxCtxtPushTypeName(ctx, "PDSCH-Identity");
    if ((uint64_t)(pvalue->pdsch_Identity - 1) > 63u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "PDSCH-Identity");
       rtxErrAddUIntParm(ctx, pvalue->pdsch_Identity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PDSCH-Identity", "pdsch-Identity", -1, "PDSCH-SysInfo-HCR-r5");
    }
    stat = pe_ConsUInt64(ctx, pvalue->pdsch_Identity, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "PDSCH-Identity", "pdsch-Identity", -1, "PDSCH-SysInfo-HCR-r5");
    /* pdsch-Info */
-   rtxCtxtPushElemName(ctx, "pdsch-Info");
    stat = asn1PE_UMTS_PDSCH_Info(ctx, &pvalue->pdsch_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "pdsch-Info", -1, "PDSCH-SysInfo-HCR-r5");
    /* dsch-TransportChannelsInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dsch-TransportChannelsInfo");
       stat = asn1PE_UMTS_DSCH_TransportChannelsInfo(ctx, &pvalue->dsch_TransportChannelsInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dsch-TransportChannelsInfo", -1, "PDSCH-SysInfo-HCR-r5");
    }
    /* dsch-TFCS */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dsch-TFCS");
       stat = asn1PE_UMTS_TFCS(ctx, &pvalue->dsch_TFCS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dsch-TFCS", -1, "PDSCH-SysInfo-HCR-r5");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PDSCH_SysInfoList_SFN_HCR_r5_element(rtxContext* ctx, const PDSCH_SysInfoList_SFN_HCR_r5_element* pvalue)
+int asn1PE_UMTS_PDSCH_SysInfoList_SFN_HCR_r5_element(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList_SFN_HCR_r5_element* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* pdsch-SysInfo */
-   rtxCtxtPushElemName(ctx, "pdsch-SysInfo");
    stat = asn1PE_UMTS_PDSCH_SysInfo_HCR_r5(ctx, &pvalue->pdsch_SysInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "pdsch-SysInfo", -1, 0);
    /* sfn-TimeInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sfn-TimeInfo");
       stat = asn1PE_UMTS_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_PDSCH_SysInfoList_SFN_HCR_r5(rtxContext* ctx, const PDSCH_SysInfoList_SFN_HCR_r5* pvalue)
+int asn1PE_UMTS_PDSCH_SysInfoList_SFN_HCR_r5(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList_SFN_HCR_r5* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-SysInfoList-SFN-HCR-r5");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "PDSCH-SysInfoList-SFN-HCR-r5");
    RT_SET_SIZE(ctx, 1, 8);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PDSCH-SysInfoList-SFN-HCR-r5");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "PDSCH-SysInfoList-SFN-HCR-r5");
       stat = asn1PE_UMTS_PDSCH_SysInfoList_SFN_HCR_r5_element(ctx, (const PDSCH_SysInfoList_SFN_HCR_r5_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PDSCH-SysInfoList-SFN-HCR-r5");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType5_v590ext_IEs_hcr_r5_SpecificInfo(rtxContext* ctx, const SysInfoType5_v590ext_IEs_hcr_r5_SpecificInfo* pvalue)
+int asn1PE_UMTS_SysInfoType5_v590ext_IEs_hcr_r5_SpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v590ext_IEs_hcr_r5_SpecificInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* pusch-SysInfoList-SFN */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pusch-SysInfoList-SFN");
       stat = asn1PE_UMTS_PUSCH_SysInfoList_SFN_HCR_r5(ctx, &pvalue->pusch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
    }
    /* pdsch-SysInfoList-SFN */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "pdsch-SysInfoList-SFN");
       stat = asn1PE_UMTS_PDSCH_SysInfoList_SFN_HCR_r5(ctx, &pvalue->pdsch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType5_v590ext_IEs(rtxContext* ctx, const SysInfoType5_v590ext_IEs* pvalue)
+int asn1PE_UMTS_SysInfoType5_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v590ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType5-v590ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType5-v590ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5-v590ext-IEs");
    /* hcr-r5-SpecificInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "hcr-r5-SpecificInfo");
       stat = asn1PE_UMTS_SysInfoType5_v590ext_IEs_hcr_r5_SpecificInfo(ctx, &pvalue->hcr_r5_SpecificInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "hcr-r5-SpecificInfo", -1, "SysInfoType5-v590ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_RadioFrequencyBandFDD2(rtxContext* ctx, RadioFrequencyBandFDD2 value)
+int asn1PE_UMTS_RadioFrequencyBandFDD2(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandFDD2 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandFDD2");
    if (value > 15) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "RadioFrequencyBandFDD2");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioFrequencyBandFDD2");
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType5_v650ext_IEs(rtxContext* ctx, const SysInfoType5_v650ext_IEs* pvalue)
+int asn1PE_UMTS_SysInfoType5_v650ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v650ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType5-v650ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType5-v650ext-IEs");
    /* frequencyBandIndicator2 */
-   rtxCtxtPushElemName(ctx, "frequencyBandIndicator2");
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandFDD2");
    if (pvalue->frequencyBandIndicator2 > 15) {
       rtxErrAddUIntParm(ctx, pvalue->frequencyBandIndicator2);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandFDD2", "frequencyBandIndicator2", -1, "SysInfoType5-v650ext-IEs");
    }
    stat = pe_ConsUInt64(ctx, pvalue->frequencyBandIndicator2, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "RadioFrequencyBandFDD2", "frequencyBandIndicator2", -1, "SysInfoType5-v650ext-IEs");
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType5_v680ext_IEs_hsdpa_CellIndicator(rtxContext* ctx, SysInfoType5_v680ext_IEs_hsdpa_CellIndicator value)
+int asn1PE_UMTS_SysInfoType5_v680ext_IEs_hsdpa_CellIndicator(rtxContext* RT_RESTRICT ctx, SysInfoType5_v680ext_IEs_hsdpa_CellIndicator value)
 {
    int stat = 0;
    if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType5_v680ext_IEs(rtxContext* ctx, const SysInfoType5_v680ext_IEs* pvalue)
+int asn1PE_UMTS_SysInfoType5_v680ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v680ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType5-v680ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType5-v680ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5-v680ext-IEs");
    /* hsdpa-CellIndicator */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "hsdpa-CellIndicator");
       if (pvalue->hsdpa_CellIndicator > 0) {
          rtxErrAddUIntParm(ctx, pvalue->hsdpa_CellIndicator);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "hsdpa-CellIndicator", -1, "SysInfoType5-v680ext-IEs");
       }
       stat = pe_ConsUInt64(ctx, pvalue->hsdpa_CellIndicator, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "hsdpa-CellIndicator", -1, "SysInfoType5-v680ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType5_v690ext_IEs_edch_CellIndicator(rtxContext* ctx, SysInfoType5_v690ext_IEs_edch_CellIndicator value)
+int asn1PE_UMTS_SysInfoType5_v690ext_IEs_edch_CellIndicator(rtxContext* RT_RESTRICT ctx, SysInfoType5_v690ext_IEs_edch_CellIndicator value)
 {
    int stat = 0;
    if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_DL_UM_RLC_LI_size(rtxContext* ctx, DL_UM_RLC_LI_size value)
+int asn1PE_UMTS_DL_UM_RLC_LI_size(rtxContext* RT_RESTRICT ctx, DL_UM_RLC_LI_size value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DL-UM-RLC-LI-size");
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "DL-UM-RLC-LI-size");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-UM-RLC-LI-size");
    return 0;
 }
 
-int asn1PE_UMTS_TimerOSD_r6(rtxContext* ctx, TimerOSD_r6 value)
+int asn1PE_UMTS_TimerOSD_r6(rtxContext* RT_RESTRICT ctx, TimerOSD_r6 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TimerOSD-r6");
    if (value > 13) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TimerOSD-r6");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 13);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimerOSD-r6");
    return 0;
 }
 
-int asn1PE_UMTS_WindowSizeOSD_r6(rtxContext* ctx, WindowSizeOSD_r6 value)
+int asn1PE_UMTS_WindowSizeOSD_r6(rtxContext* RT_RESTRICT ctx, WindowSizeOSD_r6 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "WindowSizeOSD-r6");
    if (value > 6) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "WindowSizeOSD-r6");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "WindowSizeOSD-r6");
    return 0;
 }
 
-int asn1PE_UMTS_UM_RLC_OutOSeqDelivery_Info_r6(rtxContext* ctx, const UM_RLC_OutOSeqDelivery_Info_r6* pvalue)
+int asn1PE_UMTS_UM_RLC_OutOSeqDelivery_Info_r6(rtxContext* RT_RESTRICT ctx, const UM_RLC_OutOSeqDelivery_Info_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UM-RLC-OutOSeqDelivery-Info-r6");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UM-RLC-OutOSeqDelivery-Info-r6");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UM-RLC-OutOSeqDelivery-Info-r6");
    /* timer-OSD */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "timer-OSD");
-      rtxCtxtPushTypeName(ctx, "TimerOSD-r6");
       if (pvalue->timer_OSD > 13) {
          rtxErrAddUIntParm(ctx, pvalue->timer_OSD);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TimerOSD-r6", "timer-OSD", -1, "UM-RLC-OutOSeqDelivery-Info-r6");
       }
       stat = pe_ConsUInt64(ctx, pvalue->timer_OSD, 0, 13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "TimerOSD-r6", "timer-OSD", -1, "UM-RLC-OutOSeqDelivery-Info-r6");
    }
    /* windowSize-OSD */
-   rtxCtxtPushElemName(ctx, "windowSize-OSD");
-   rtxCtxtPushTypeName(ctx, "WindowSizeOSD-r6");
    if (pvalue->windowSize_OSD > 6) {
       rtxErrAddUIntParm(ctx, pvalue->windowSize_OSD);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "WindowSizeOSD-r6", "windowSize-OSD", -1, "UM-RLC-OutOSeqDelivery-Info-r6");
    }
    stat = pe_ConsUInt64(ctx, pvalue->windowSize_OSD, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "WindowSizeOSD-r6", "windowSize-OSD", -1, "UM-RLC-OutOSeqDelivery-Info-r6");
    return 0;
 }
 
-int asn1PE_UMTS_RLC_Info_MCCH_r6(rtxContext* ctx, const RLC_Info_MCCH_r6* pvalue)
+int asn1PE_UMTS_RLC_Info_MCCH_r6(rtxContext* RT_RESTRICT ctx, const RLC_Info_MCCH_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RLC-Info-MCCH-r6");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-Info-MCCH-r6");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-Info-MCCH-r6");
    /* dl-UM-RLC-LI-size */
-   rtxCtxtPushElemName(ctx, "dl-UM-RLC-LI-size");
-   rtxCtxtPushTypeName(ctx, "DL-UM-RLC-LI-size");
    if (pvalue->dl_UM_RLC_LI_size > 1) {
       rtxErrAddUIntParm(ctx, pvalue->dl_UM_RLC_LI_size);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "RLC-Info-MCCH-r6");
    }
    stat = pe_ConsUInt64(ctx, pvalue->dl_UM_RLC_LI_size, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "RLC-Info-MCCH-r6");
    /* dl-UM-RLC-OutOSeqDelivery-Info */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-UM-RLC-OutOSeqDelivery-Info");
       stat = asn1PE_UMTS_UM_RLC_OutOSeqDelivery_Info_r6(ctx, &pvalue->dl_UM_RLC_OutOSeqDelivery_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dl-UM-RLC-OutOSeqDelivery-Info", -1, "RLC-Info-MCCH-r6");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_MBMS_TCTF_Presence(rtxContext* ctx, MBMS_TCTF_Presence value)
+int asn1PE_UMTS_MBMS_TCTF_Presence(rtxContext* RT_RESTRICT ctx, MBMS_TCTF_Presence value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-TCTF-Presence");
    if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MBMS-TCTF-Presence");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-TCTF-Presence");
    return 0;
 }
 
-int asn1PE_UMTS_MBMS_MCCH_ConfigurationInfo_r6(rtxContext* ctx, const MBMS_MCCH_ConfigurationInfo_r6* pvalue)
+int asn1PE_UMTS_MBMS_MCCH_ConfigurationInfo_r6(rtxContext* RT_RESTRICT ctx, const MBMS_MCCH_ConfigurationInfo_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-MCCH-ConfigurationInfo-r6");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-MCCH-ConfigurationInfo-r6");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-MCCH-ConfigurationInfo-r6");
    /* accessInfoPeriodCoefficient */
-   rtxCtxtPushElemName(ctx, "accessInfoPeriodCoefficient");
    if ((uint64_t)pvalue->accessInfoPeriodCoefficient > 3u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "accessInfoPeriodCoefficient");
       rtxErrAddUIntParm(ctx, pvalue->accessInfoPeriodCoefficient);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "accessInfoPeriodCoefficient", -1, "MBMS-MCCH-ConfigurationInfo-r6");
    }
    stat = pe_ConsUInt64(ctx, pvalue->accessInfoPeriodCoefficient, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "accessInfoPeriodCoefficient", -1, "MBMS-MCCH-ConfigurationInfo-r6");
    /* repetitionPeriodCoefficient */
-   rtxCtxtPushElemName(ctx, "repetitionPeriodCoefficient");
    if ((uint64_t)pvalue->repetitionPeriodCoefficient > 3u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "repetitionPeriodCoefficient");
       rtxErrAddUIntParm(ctx, pvalue->repetitionPeriodCoefficient);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "repetitionPeriodCoefficient", -1, "MBMS-MCCH-ConfigurationInfo-r6");
    }
    stat = pe_ConsUInt64(ctx, pvalue->repetitionPeriodCoefficient, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "repetitionPeriodCoefficient", -1, "MBMS-MCCH-ConfigurationInfo-r6");
    /* modificationPeriodCoefficient */
-   rtxCtxtPushElemName(ctx, "modificationPeriodCoefficient");
    if ((uint64_t)(pvalue->modificationPeriodCoefficient - 7) > 3u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "modificationPeriodCoefficient");
       rtxErrAddUIntParm(ctx, pvalue->modificationPeriodCoefficient);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "modificationPeriodCoefficient", -1, "MBMS-MCCH-ConfigurationInfo-r6");
    }
    stat = pe_ConsUInt64(ctx, pvalue->modificationPeriodCoefficient, 7, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "modificationPeriodCoefficient", -1, "MBMS-MCCH-ConfigurationInfo-r6");
    /* rlc-Info */
-   rtxCtxtPushElemName(ctx, "rlc-Info");
    stat = asn1PE_UMTS_RLC_Info_MCCH_r6(ctx, &pvalue->rlc_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "MBMS-MCCH-ConfigurationInfo-r6");
    /* tctf-Presence */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "tctf-Presence");
-      rtxCtxtPushTypeName(ctx, "MBMS-TCTF-Presence");
       if (pvalue->tctf_Presence > 0) {
          rtxErrAddUIntParm(ctx, pvalue->tctf_Presence);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-TCTF-Presence", "tctf-Presence", -1, "MBMS-MCCH-ConfigurationInfo-r6");
       }
       stat = pe_ConsUInt64(ctx, pvalue->tctf_Presence, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "MBMS-TCTF-Presence", "tctf-Presence", -1, "MBMS-MCCH-ConfigurationInfo-r6");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd(rtxContext* ctx, const SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd* pvalue)
+int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)(pvalue->timingOffset != 0) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* secondaryScramblingCode */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "secondaryScramblingCode");
-      rtxCtxtPushTypeName(ctx, "SecondaryScramblingCode");
       if ((uint64_t)(pvalue->secondaryScramblingCode - 1) > 14u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
          rtxErrAddUIntParm(ctx, pvalue->secondaryScramblingCode);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "SecondaryScramblingCode", "secondaryScramblingCode", -1, 0);
       }
       stat = pe_ConsUInt64(ctx, pvalue->secondaryScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, 0);
    }
    /* sttd-Indicator */
-   rtxCtxtPushElemName(ctx, "sttd-Indicator");
    stat = rtxEncBit(ctx, pvalue->sttd_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sttd-Indicator", -1, 0);
    /* sf-AndCodeNumber */
-   rtxCtxtPushElemName(ctx, "sf-AndCodeNumber");
    stat = asn1PE_UMTS_SF256_AndCodeNumber(ctx, &pvalue->sf_AndCodeNumber);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sf-AndCodeNumber", -1, 0);
    /* timingOffset */
    if (pvalue->timingOffset != 0) {
-      rtxCtxtPushElemName(ctx, "timingOffset");
-      rtxCtxtPushTypeName(ctx, "TimingOffset");
       if ((uint64_t)pvalue->timingOffset > 149u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "TimingOffset");
          rtxErrAddUIntParm(ctx, pvalue->timingOffset);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "TimingOffset", "timingOffset", -1, 0);
       }
       stat = pe_ConsUInt64(ctx, pvalue->timingOffset, 0, 149);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "TimingOffset", "timingOffset", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_CommonTimeslotInfoMBMS(rtxContext* ctx, const CommonTimeslotInfoMBMS* pvalue)
+int asn1PE_UMTS_CommonTimeslotInfoMBMS(rtxContext* RT_RESTRICT ctx, const CommonTimeslotInfoMBMS* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CommonTimeslotInfoMBMS");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CommonTimeslotInfoMBMS");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CommonTimeslotInfoMBMS");
    /* secondInterleavingMode */
-   rtxCtxtPushElemName(ctx, "secondInterleavingMode");
-   rtxCtxtPushTypeName(ctx, "SecondInterleavingMode");
    if (pvalue->secondInterleavingMode > 1) {
       rtxErrAddUIntParm(ctx, pvalue->secondInterleavingMode);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "SecondInterleavingMode", "secondInterleavingMode", -1, "CommonTimeslotInfoMBMS");
    }
    stat = pe_ConsUInt64(ctx, pvalue->secondInterleavingMode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "SecondInterleavingMode", "secondInterleavingMode", -1, "CommonTimeslotInfoMBMS");
    /* tfci-Coding */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "tfci-Coding");
-      rtxCtxtPushTypeName(ctx, "TFCI-Coding");
       if (pvalue->tfci_Coding > 3) {
          rtxErrAddUIntParm(ctx, pvalue->tfci_Coding);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TFCI-Coding", "tfci-Coding", -1, "CommonTimeslotInfoMBMS");
       }
       stat = pe_ConsUInt64(ctx, pvalue->tfci_Coding, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "TFCI-Coding", "tfci-Coding", -1, "CommonTimeslotInfoMBMS");
    }
    /* puncturingLimit */
-   rtxCtxtPushElemName(ctx, "puncturingLimit");
-   rtxCtxtPushTypeName(ctx, "PuncturingLimit");
    if (pvalue->puncturingLimit > 15) {
       rtxErrAddUIntParm(ctx, pvalue->puncturingLimit);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "PuncturingLimit", "puncturingLimit", -1, "CommonTimeslotInfoMBMS");
    }
    stat = pe_ConsUInt64(ctx, pvalue->puncturingLimit, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "PuncturingLimit", "puncturingLimit", -1, "CommonTimeslotInfoMBMS");
    return 0;
 }
 
-int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd384(rtxContext* ctx, const SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd384* pvalue)
+int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd384* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* commonTimeslotInfoMBMS */
-   rtxCtxtPushElemName(ctx, "commonTimeslotInfoMBMS");
    stat = asn1PE_UMTS_CommonTimeslotInfoMBMS(ctx, &pvalue->commonTimeslotInfoMBMS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "commonTimeslotInfoMBMS", -1, 0);
    /* downlinkTimeslotsCodes */
-   rtxCtxtPushElemName(ctx, "downlinkTimeslotsCodes");
    stat = asn1PE_UMTS_DownlinkTimeslotsCodes(ctx, &pvalue->downlinkTimeslotsCodes);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "downlinkTimeslotsCodes", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd128(rtxContext* ctx, const SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd128* pvalue)
+int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* commonTimeslotInfoMBMS */
-   rtxCtxtPushElemName(ctx, "commonTimeslotInfoMBMS");
    stat = asn1PE_UMTS_CommonTimeslotInfoMBMS(ctx, &pvalue->commonTimeslotInfoMBMS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "commonTimeslotInfoMBMS", -1, 0);
    /* downlinkTimeslotsCodes */
-   rtxCtxtPushElemName(ctx, "downlinkTimeslotsCodes");
    stat = asn1PE_UMTS_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->downlinkTimeslotsCodes);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "downlinkTimeslotsCodes", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo(rtxContext* ctx, const SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo* pvalue)
+int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
          stat = asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
          stat = asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
          stat = asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
          break;
       default:
          break;
@@ -7119,280 +3542,214 @@ int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo(rtxContext* ctx, con
    return 0;
 }
 
-int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r6(rtxContext* ctx, const SecondaryCCPCHInfo_MBMS_r6* pvalue)
+int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r6(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SecondaryCCPCHInfo-MBMS-r6");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SecondaryCCPCHInfo-MBMS-r6");
    /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
    stat = asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SecondaryCCPCHInfo-MBMS-r6");
    return 0;
 }
 
-int asn1PE_UMTS_SCCPCH_SystemInformation_MBMS_r6_fachCarryingMCCH(rtxContext* ctx, const SCCPCH_SystemInformation_MBMS_r6_fachCarryingMCCH* pvalue)
+int asn1PE_UMTS_SCCPCH_SystemInformation_MBMS_r6_fachCarryingMCCH(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation_MBMS_r6_fachCarryingMCCH* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* mcch-transportFormatSet */
-   rtxCtxtPushElemName(ctx, "mcch-transportFormatSet");
    stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->mcch_transportFormatSet);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "mcch-transportFormatSet", -1, 0);
    /* mcch-ConfigurationInfo */
-   rtxCtxtPushElemName(ctx, "mcch-ConfigurationInfo");
    stat = asn1PE_UMTS_MBMS_MCCH_ConfigurationInfo_r6(ctx, &pvalue->mcch_ConfigurationInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "mcch-ConfigurationInfo", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_MBMS_FACHCarryingMTCH_List(rtxContext* ctx, const MBMS_FACHCarryingMTCH_List* pvalue)
+int asn1PE_UMTS_MBMS_FACHCarryingMTCH_List(rtxContext* RT_RESTRICT ctx, const MBMS_FACHCarryingMTCH_List* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-FACHCarryingMTCH-List");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MBMS-FACHCarryingMTCH-List");
    RT_SET_SIZE(ctx, 1, 8);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-FACHCarryingMTCH-List");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "TransportFormatSet", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "TransportFormatSet", (int32_t)i, "MBMS-FACHCarryingMTCH-List");
       stat = asn1PE_UMTS_TransportFormatSet(ctx, (const TransportFormatSet*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "TransportFormatSet", (int32_t)i, "MBMS-FACHCarryingMTCH-List");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_MBMS_MSCHSchedulingInfo(rtxContext* ctx, const MBMS_MSCHSchedulingInfo* pvalue)
+int asn1PE_UMTS_MBMS_MSCHSchedulingInfo(rtxContext* RT_RESTRICT ctx, const MBMS_MSCHSchedulingInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-MSCHSchedulingInfo");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-MSCHSchedulingInfo");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 5) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "MBMS-MSCHSchedulingInfo");
+   if (pvalue->t - 1 > 5) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MBMS-MSCHSchedulingInfo");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "schedulingPeriod-32-Offset");
          if ((uint64_t)pvalue->u.schedulingPeriod_32_Offset > 31u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "schedulingPeriod-32-Offset");
             rtxErrAddUIntParm(ctx, pvalue->u.schedulingPeriod_32_Offset);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "schedulingPeriod-32-Offset", -1, "MBMS-MSCHSchedulingInfo");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.schedulingPeriod_32_Offset, 0, 31);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "schedulingPeriod-32-Offset", -1, "MBMS-MSCHSchedulingInfo");
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "schedulingPeriod-64-Offset");
          if ((uint64_t)pvalue->u.schedulingPeriod_64_Offset > 63u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "schedulingPeriod-64-Offset");
             rtxErrAddUIntParm(ctx, pvalue->u.schedulingPeriod_64_Offset);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "schedulingPeriod-64-Offset", -1, "MBMS-MSCHSchedulingInfo");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.schedulingPeriod_64_Offset, 0, 63);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "schedulingPeriod-64-Offset", -1, "MBMS-MSCHSchedulingInfo");
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "schedulingPeriod-128-Offset");
          if ((uint64_t)pvalue->u.schedulingPeriod_128_Offset > 127u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "schedulingPeriod-128-Offset");
             rtxErrAddUIntParm(ctx, pvalue->u.schedulingPeriod_128_Offset);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "schedulingPeriod-128-Offset", -1, "MBMS-MSCHSchedulingInfo");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.schedulingPeriod_128_Offset, 0, 127);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "schedulingPeriod-128-Offset", -1, "MBMS-MSCHSchedulingInfo");
          break;
       case 4:
-         rtxCtxtPushElemName(ctx, "schedulingPeriod-256-Offset");
          stat = pe_ConsUInt64(ctx, pvalue->u.schedulingPeriod_256_Offset, 0, 255);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "schedulingPeriod-256-Offset", -1, "MBMS-MSCHSchedulingInfo");
          break;
       case 5:
-         rtxCtxtPushElemName(ctx, "schedulingPeriod-512-Offset");
          if ((uint64_t)pvalue->u.schedulingPeriod_512_Offset > 511u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "schedulingPeriod-512-Offset");
             rtxErrAddUIntParm(ctx, pvalue->u.schedulingPeriod_512_Offset);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "schedulingPeriod-512-Offset", -1, "MBMS-MSCHSchedulingInfo");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.schedulingPeriod_512_Offset, 0, 511);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "schedulingPeriod-512-Offset", -1, "MBMS-MSCHSchedulingInfo");
          break;
       case 6:
-         rtxCtxtPushElemName(ctx, "schedulingPeriod-1024-Offset");
          if ((uint64_t)pvalue->u.schedulingPeriod_1024_Offset > 1023u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "schedulingPeriod-1024-Offset");
             rtxErrAddUIntParm(ctx, pvalue->u.schedulingPeriod_1024_Offset);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "schedulingPeriod-1024-Offset", -1, "MBMS-MSCHSchedulingInfo");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.schedulingPeriod_1024_Offset, 0, 1023);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "schedulingPeriod-1024-Offset", -1, "MBMS-MSCHSchedulingInfo");
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_RLC_Info_MSCH_r6(rtxContext* ctx, const RLC_Info_MSCH_r6* pvalue)
+int asn1PE_UMTS_RLC_Info_MSCH_r6(rtxContext* RT_RESTRICT ctx, const RLC_Info_MSCH_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RLC-Info-MSCH-r6");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-Info-MSCH-r6");
    /* dl-UM-RLC-LI-size */
-   rtxCtxtPushElemName(ctx, "dl-UM-RLC-LI-size");
-   rtxCtxtPushTypeName(ctx, "DL-UM-RLC-LI-size");
    if (pvalue->dl_UM_RLC_LI_size > 1) {
       rtxErrAddUIntParm(ctx, pvalue->dl_UM_RLC_LI_size);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "RLC-Info-MSCH-r6");
    }
    stat = pe_ConsUInt64(ctx, pvalue->dl_UM_RLC_LI_size, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "RLC-Info-MSCH-r6");
    return 0;
 }
 
-int asn1PE_UMTS_MBMS_MSCH_ConfigurationInfo_r6(rtxContext* ctx, const MBMS_MSCH_ConfigurationInfo_r6* pvalue)
+int asn1PE_UMTS_MBMS_MSCH_ConfigurationInfo_r6(rtxContext* RT_RESTRICT ctx, const MBMS_MSCH_ConfigurationInfo_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-MSCH-ConfigurationInfo-r6");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-MSCH-ConfigurationInfo-r6");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-MSCH-ConfigurationInfo-r6");
    /* mschShedulingInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "mschShedulingInfo");
       stat = asn1PE_UMTS_MBMS_MSCHSchedulingInfo(ctx, &pvalue->mschShedulingInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "mschShedulingInfo", -1, "MBMS-MSCH-ConfigurationInfo-r6");
    }
    /* rlc-Info */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "rlc-Info");
       stat = asn1PE_UMTS_RLC_Info_MSCH_r6(ctx, &pvalue->rlc_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "MBMS-MSCH-ConfigurationInfo-r6");
    }
    /* tctf-Presence */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "tctf-Presence");
-      rtxCtxtPushTypeName(ctx, "MBMS-TCTF-Presence");
       if (pvalue->tctf_Presence > 0) {
          rtxErrAddUIntParm(ctx, pvalue->tctf_Presence);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-TCTF-Presence", "tctf-Presence", -1, "MBMS-MSCH-ConfigurationInfo-r6");
       }
       stat = pe_ConsUInt64(ctx, pvalue->tctf_Presence, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "MBMS-TCTF-Presence", "tctf-Presence", -1, "MBMS-MSCH-ConfigurationInfo-r6");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SCCPCH_SystemInformation_MBMS_r6_fachCarryingMSCH(rtxContext* ctx, const SCCPCH_SystemInformation_MBMS_r6_fachCarryingMSCH* pvalue)
+int asn1PE_UMTS_SCCPCH_SystemInformation_MBMS_r6_fachCarryingMSCH(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation_MBMS_r6_fachCarryingMSCH* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* msch-transportFormatSet */
-   rtxCtxtPushElemName(ctx, "msch-transportFormatSet");
    stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->msch_transportFormatSet);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "msch-transportFormatSet", -1, 0);
    /* dummy */
-   rtxCtxtPushElemName(ctx, "dummy");
    stat = asn1PE_UMTS_MBMS_MSCH_ConfigurationInfo_r6(ctx, &pvalue->dummy);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_SCCPCH_SystemInformation_MBMS_r6(rtxContext* ctx, const SCCPCH_SystemInformation_MBMS_r6* pvalue)
+int asn1PE_UMTS_SCCPCH_SystemInformation_MBMS_r6(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation_MBMS_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SCCPCH-SystemInformation-MBMS-r6");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SCCPCH-SystemInformation-MBMS-r6");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SCCPCH-SystemInformation-MBMS-r6");
    /* secondaryCCPCHInfo-MBMS */
-   rtxCtxtPushElemName(ctx, "secondaryCCPCHInfo-MBMS");
    stat = asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r6(ctx, &pvalue->secondaryCCPCHInfo_MBMS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "secondaryCCPCHInfo-MBMS", -1, "SCCPCH-SystemInformation-MBMS-r6");
    /* transportFormatCombinationSet */
-   rtxCtxtPushElemName(ctx, "transportFormatCombinationSet");
    stat = asn1PE_UMTS_TFCS(ctx, &pvalue->transportFormatCombinationSet);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "transportFormatCombinationSet", -1, "SCCPCH-SystemInformation-MBMS-r6");
    /* fachCarryingMCCH */
-   rtxCtxtPushElemName(ctx, "fachCarryingMCCH");
    stat = asn1PE_UMTS_SCCPCH_SystemInformation_MBMS_r6_fachCarryingMCCH(ctx, &pvalue->fachCarryingMCCH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "fachCarryingMCCH", -1, "SCCPCH-SystemInformation-MBMS-r6");
    /* fachCarryingMTCH-List */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "fachCarryingMTCH-List");
       stat = asn1PE_UMTS_MBMS_FACHCarryingMTCH_List(ctx, &pvalue->fachCarryingMTCH_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "fachCarryingMTCH-List", -1, "SCCPCH-SystemInformation-MBMS-r6");
    }
    /* fachCarryingMSCH */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "fachCarryingMSCH");
       stat = asn1PE_UMTS_SCCPCH_SystemInformation_MBMS_r6_fachCarryingMSCH(ctx, &pvalue->fachCarryingMSCH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "fachCarryingMSCH", -1, "SCCPCH-SystemInformation-MBMS-r6");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType5_v690ext_IEs_sccpch_SystemInformation_MBMS(rtxContext* ctx, const SysInfoType5_v690ext_IEs_sccpch_SystemInformation_MBMS* pvalue)
+int asn1PE_UMTS_SysInfoType5_v690ext_IEs_sccpch_SystemInformation_MBMS(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v690ext_IEs_sccpch_SystemInformation_MBMS* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "mcchOnSCCPCHusedForNonMBMS");
-         if (pvalue->u.mcchOnSCCPCHusedForNonMBMS == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.mcchOnSCCPCHusedForNonMBMS == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "mcchOnSCCPCHusedForNonMBMS", -1, 0);
          stat = asn1PE_UMTS_MBMS_MCCH_ConfigurationInfo_r6(ctx, pvalue->u.mcchOnSCCPCHusedForNonMBMS);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "mcchOnSCCPCHusedForNonMBMS", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "mcchOnSCCPCHusedOnlyForMBMS");
-         if (pvalue->u.mcchOnSCCPCHusedOnlyForMBMS == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.mcchOnSCCPCHusedOnlyForMBMS == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "mcchOnSCCPCHusedOnlyForMBMS", -1, 0);
          stat = asn1PE_UMTS_SCCPCH_SystemInformation_MBMS_r6(ctx, pvalue->u.mcchOnSCCPCHusedOnlyForMBMS);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "mcchOnSCCPCHusedOnlyForMBMS", -1, 0);
          break;
       default:
          break;
@@ -7400,458 +3757,358 @@ int asn1PE_UMTS_SysInfoType5_v690ext_IEs_sccpch_SystemInformation_MBMS(rtxContex
    return 0;
 }
 
-int asn1PE_UMTS_DynamicTFInformationCCCH(rtxContext* ctx, const DynamicTFInformationCCCH* pvalue)
+int asn1PE_UMTS_DynamicTFInformationCCCH(rtxContext* RT_RESTRICT ctx, const DynamicTFInformationCCCH* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DynamicTFInformationCCCH");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DynamicTFInformationCCCH");
    /* octetModeRLC-SizeInfoType2 */
-   rtxCtxtPushElemName(ctx, "octetModeRLC-SizeInfoType2");
    stat = asn1PE_UMTS_OctetModeRLC_SizeInfoType2(ctx, &pvalue->octetModeRLC_SizeInfoType2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "octetModeRLC-SizeInfoType2", -1, "DynamicTFInformationCCCH");
    return 0;
 }
 
-int asn1PE_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH_IEs(rtxContext* ctx, const AdditionalPRACH_TF_and_TFCS_CCCH_IEs* pvalue)
+int asn1PE_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH_IEs(rtxContext* RT_RESTRICT ctx, const AdditionalPRACH_TF_and_TFCS_CCCH_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "AdditionalPRACH-TF-and-TFCS-CCCH-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AdditionalPRACH-TF-and-TFCS-CCCH-IEs");
    /* powerOffsetInformation */
-   rtxCtxtPushElemName(ctx, "powerOffsetInformation");
    stat = asn1PE_UMTS_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, "AdditionalPRACH-TF-and-TFCS-CCCH-IEs");
    /* dynamicTFInformationCCCH */
-   rtxCtxtPushElemName(ctx, "dynamicTFInformationCCCH");
    stat = asn1PE_UMTS_DynamicTFInformationCCCH(ctx, &pvalue->dynamicTFInformationCCCH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "dynamicTFInformationCCCH", -1, "AdditionalPRACH-TF-and-TFCS-CCCH-IEs");
    return 0;
 }
 
-int asn1PE_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH(rtxContext* ctx, const AdditionalPRACH_TF_and_TFCS_CCCH* pvalue)
+int asn1PE_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH(rtxContext* RT_RESTRICT ctx, const AdditionalPRACH_TF_and_TFCS_CCCH* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "AdditionalPRACH-TF-and-TFCS-CCCH");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AdditionalPRACH-TF-and-TFCS-CCCH");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AdditionalPRACH-TF-and-TFCS-CCCH");
    /* additionalPRACH-TF-and-TFCS-CCCH-IEs */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "additionalPRACH-TF-and-TFCS-CCCH-IEs");
       stat = asn1PE_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH_IEs(ctx, &pvalue->additionalPRACH_TF_and_TFCS_CCCH_IEs);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "additionalPRACH-TF-and-TFCS-CCCH-IEs", -1, "AdditionalPRACH-TF-and-TFCS-CCCH");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH_List(rtxContext* ctx, const AdditionalPRACH_TF_and_TFCS_CCCH_List* pvalue)
+int asn1PE_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH_List(rtxContext* RT_RESTRICT ctx, const AdditionalPRACH_TF_and_TFCS_CCCH_List* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AdditionalPRACH-TF-and-TFCS-CCCH-List");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "AdditionalPRACH-TF-and-TFCS-CCCH-List");
    RT_SET_SIZE(ctx, 1, 16);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "AdditionalPRACH-TF-and-TFCS-CCCH-List");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "AdditionalPRACH-TF-and-TFCS-CCCH", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "AdditionalPRACH-TF-and-TFCS-CCCH", (int32_t)i, "AdditionalPRACH-TF-and-TFCS-CCCH-List");
       stat = asn1PE_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH(ctx, (const AdditionalPRACH_TF_and_TFCS_CCCH*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "AdditionalPRACH-TF-and-TFCS-CCCH", (int32_t)i, "AdditionalPRACH-TF-and-TFCS-CCCH-List");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_CBS_DRX_Level1Information_extension_r6(rtxContext* ctx, CBS_DRX_Level1Information_extension_r6 value)
+int asn1PE_UMTS_CBS_DRX_Level1Information_extension_r6(rtxContext* RT_RESTRICT ctx, CBS_DRX_Level1Information_extension_r6 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CBS-DRX-Level1Information-extension-r6");
    if (value > 5) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "CBS-DRX-Level1Information-extension-r6");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CBS-DRX-Level1Information-extension-r6");
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType5_v690ext_IEs(rtxContext* ctx, const SysInfoType5_v690ext_IEs* pvalue)
+int asn1PE_UMTS_SysInfoType5_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v690ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType5-v690ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType5-v690ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5-v690ext-IEs");
    /* edch-CellIndicator */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "edch-CellIndicator");
       if (pvalue->edch_CellIndicator > 0) {
          rtxErrAddUIntParm(ctx, pvalue->edch_CellIndicator);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "edch-CellIndicator", -1, "SysInfoType5-v690ext-IEs");
       }
       stat = pe_ConsUInt64(ctx, pvalue->edch_CellIndicator, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "edch-CellIndicator", -1, "SysInfoType5-v690ext-IEs");
    }
    /* sccpch-SystemInformation-MBMS */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "sccpch-SystemInformation-MBMS");
       stat = asn1PE_UMTS_SysInfoType5_v690ext_IEs_sccpch_SystemInformation_MBMS(ctx, &pvalue->sccpch_SystemInformation_MBMS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "sccpch-SystemInformation-MBMS", -1, "SysInfoType5-v690ext-IEs");
    }
    /* additionalPRACH-TF-and-TFCS-CCCH-List */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "additionalPRACH-TF-and-TFCS-CCCH-List");
       stat = asn1PE_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH_List(ctx, &pvalue->additionalPRACH_TF_and_TFCS_CCCH_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "additionalPRACH-TF-and-TFCS-CCCH-List", -1, "SysInfoType5-v690ext-IEs");
    }
    /* cBS-DRX-Level1Information-extension */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "cBS-DRX-Level1Information-extension");
-      rtxCtxtPushTypeName(ctx, "CBS-DRX-Level1Information-extension-r6");
       if (pvalue->cBS_DRX_Level1Information_extension > 5) {
          rtxErrAddUIntParm(ctx, pvalue->cBS_DRX_Level1Information_extension);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "CBS-DRX-Level1Information-extension-r6", "cBS-DRX-Level1Information-extension", -1, "SysInfoType5-v690ext-IEs");
       }
       stat = pe_ConsUInt64(ctx, pvalue->cBS_DRX_Level1Information_extension, 0, 5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "CBS-DRX-Level1Information-extension-r6", "cBS-DRX-Level1Information-extension", -1, "SysInfoType5-v690ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_LogicalChannelIdentity(rtxContext* ctx, LogicalChannelIdentity value)
+int asn1PE_UMTS_LogicalChannelIdentity(rtxContext* RT_RESTRICT ctx, LogicalChannelIdentity value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "LogicalChannelIdentity");
    if ((uint64_t)(value - 1) > 14u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "LogicalChannelIdentity");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "LogicalChannelIdentity");
    }
    stat = pe_ConsUInt64(ctx, value, 1, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "LogicalChannelIdentity");
    return 0;
 }
 
-int asn1PE_UMTS_MAC_ehs_QueueId(rtxContext* ctx, MAC_ehs_QueueId value)
+int asn1PE_UMTS_MAC_ehs_QueueId(rtxContext* RT_RESTRICT ctx, MAC_ehs_QueueId value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MAC-ehs-QueueId");
    if ((uint64_t)value > 7u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "MAC-ehs-QueueId");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MAC-ehs-QueueId");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-ehs-QueueId");
    return 0;
 }
 
-int asn1PE_UMTS_CommonRBMappingInfo(rtxContext* ctx, const CommonRBMappingInfo* pvalue)
+int asn1PE_UMTS_CommonRBMappingInfo(rtxContext* RT_RESTRICT ctx, const CommonRBMappingInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CommonRBMappingInfo");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CommonRBMappingInfo");
    /* logicalChannelIdentity */
-   rtxCtxtPushElemName(ctx, "logicalChannelIdentity");
-   rtxCtxtPushTypeName(ctx, "LogicalChannelIdentity");
    if ((uint64_t)(pvalue->logicalChannelIdentity - 1) > 14u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "LogicalChannelIdentity");
       rtxErrAddUIntParm(ctx, pvalue->logicalChannelIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "CommonRBMappingInfo");
    }
    stat = pe_ConsUInt64(ctx, pvalue->logicalChannelIdentity, 1, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "CommonRBMappingInfo");
    /* mac-ehs-QueueId */
-   rtxCtxtPushElemName(ctx, "mac-ehs-QueueId");
-   rtxCtxtPushTypeName(ctx, "MAC-ehs-QueueId");
    if ((uint64_t)pvalue->mac_ehs_QueueId > 7u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "MAC-ehs-QueueId");
       rtxErrAddUIntParm(ctx, pvalue->mac_ehs_QueueId);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "CommonRBMappingInfo");
    }
    stat = pe_ConsUInt64(ctx, pvalue->mac_ehs_QueueId, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "CommonRBMappingInfo");
    return 0;
 }
 
-int asn1PE_UMTS_T1_ReleaseTimer(rtxContext* ctx, T1_ReleaseTimer value)
+int asn1PE_UMTS_T1_ReleaseTimer(rtxContext* RT_RESTRICT ctx, T1_ReleaseTimer value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "T1-ReleaseTimer");
    if (value > 15) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T1-ReleaseTimer");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "T1-ReleaseTimer");
    return 0;
 }
 
-int asn1PE_UMTS_Treset_ResetTimer(rtxContext* ctx, Treset_ResetTimer value)
+int asn1PE_UMTS_Treset_ResetTimer(rtxContext* RT_RESTRICT ctx, Treset_ResetTimer value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Treset-ResetTimer");
    if (value > 3) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "Treset-ResetTimer");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Treset-ResetTimer");
    return 0;
 }
 
-int asn1PE_UMTS_MAC_hs_WindowSize(rtxContext* ctx, MAC_hs_WindowSize value)
+int asn1PE_UMTS_MAC_hs_WindowSize(rtxContext* RT_RESTRICT ctx, MAC_hs_WindowSize value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MAC-hs-WindowSize");
    if (value > 6) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MAC-hs-WindowSize");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-hs-WindowSize");
    return 0;
 }
 
-int asn1PE_UMTS_Common_MAC_ehs_ReorderingQueue(rtxContext* ctx, const Common_MAC_ehs_ReorderingQueue* pvalue)
+int asn1PE_UMTS_Common_MAC_ehs_ReorderingQueue(rtxContext* RT_RESTRICT ctx, const Common_MAC_ehs_ReorderingQueue* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Common-MAC-ehs-ReorderingQueue");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Common-MAC-ehs-ReorderingQueue");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Common-MAC-ehs-ReorderingQueue");
    /* mac-ehs-QueueId */
-   rtxCtxtPushElemName(ctx, "mac-ehs-QueueId");
-   rtxCtxtPushTypeName(ctx, "MAC-ehs-QueueId");
    if ((uint64_t)pvalue->mac_ehs_QueueId > 7u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "MAC-ehs-QueueId");
       rtxErrAddUIntParm(ctx, pvalue->mac_ehs_QueueId);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "Common-MAC-ehs-ReorderingQueue");
    }
    stat = pe_ConsUInt64(ctx, pvalue->mac_ehs_QueueId, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "Common-MAC-ehs-ReorderingQueue");
    /* t1-ReleaseTimer */
-   rtxCtxtPushElemName(ctx, "t1-ReleaseTimer");
-   rtxCtxtPushTypeName(ctx, "T1-ReleaseTimer");
    if (pvalue->t1_ReleaseTimer > 15) {
       rtxErrAddUIntParm(ctx, pvalue->t1_ReleaseTimer);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "T1-ReleaseTimer", "t1-ReleaseTimer", -1, "Common-MAC-ehs-ReorderingQueue");
    }
    stat = pe_ConsUInt64(ctx, pvalue->t1_ReleaseTimer, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "T1-ReleaseTimer", "t1-ReleaseTimer", -1, "Common-MAC-ehs-ReorderingQueue");
    /* reorderingResetTimer */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "reorderingResetTimer");
-      rtxCtxtPushTypeName(ctx, "Treset-ResetTimer");
       if (pvalue->reorderingResetTimer > 3) {
          rtxErrAddUIntParm(ctx, pvalue->reorderingResetTimer);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "Treset-ResetTimer", "reorderingResetTimer", -1, "Common-MAC-ehs-ReorderingQueue");
       }
       stat = pe_ConsUInt64(ctx, pvalue->reorderingResetTimer, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "Treset-ResetTimer", "reorderingResetTimer", -1, "Common-MAC-ehs-ReorderingQueue");
    }
    /* mac-ehsWindowSize */
-   rtxCtxtPushElemName(ctx, "mac-ehsWindowSize");
-   rtxCtxtPushTypeName(ctx, "MAC-hs-WindowSize");
    if (pvalue->mac_ehsWindowSize > 6) {
       rtxErrAddUIntParm(ctx, pvalue->mac_ehsWindowSize);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MAC-hs-WindowSize", "mac-ehsWindowSize", -1, "Common-MAC-ehs-ReorderingQueue");
    }
    stat = pe_ConsUInt64(ctx, pvalue->mac_ehsWindowSize, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "MAC-hs-WindowSize", "mac-ehsWindowSize", -1, "Common-MAC-ehs-ReorderingQueue");
    return 0;
 }
 
-int asn1PE_UMTS_Common_MAC_ehs_ReorderingQueueList(rtxContext* ctx, const Common_MAC_ehs_ReorderingQueueList* pvalue)
+int asn1PE_UMTS_Common_MAC_ehs_ReorderingQueueList(rtxContext* RT_RESTRICT ctx, const Common_MAC_ehs_ReorderingQueueList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Common-MAC-ehs-ReorderingQueueList");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "Common-MAC-ehs-ReorderingQueueList");
    RT_SET_SIZE(ctx, 1, 2);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "Common-MAC-ehs-ReorderingQueueList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "Common-MAC-ehs-ReorderingQueue", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "Common-MAC-ehs-ReorderingQueue", (int32_t)i, "Common-MAC-ehs-ReorderingQueueList");
       stat = asn1PE_UMTS_Common_MAC_ehs_ReorderingQueue(ctx, (const Common_MAC_ehs_ReorderingQueue*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "Common-MAC-ehs-ReorderingQueue", (int32_t)i, "Common-MAC-ehs-ReorderingQueueList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_HS_SCCH_Codes(rtxContext* ctx, HS_SCCH_Codes value)
+int asn1PE_UMTS_HS_SCCH_Codes(rtxContext* RT_RESTRICT ctx, HS_SCCH_Codes value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HS-SCCH-Codes");
    if ((uint64_t)value > 127u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "HS-SCCH-Codes");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "HS-SCCH-Codes");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HS-SCCH-Codes");
    return 0;
 }
 
-int asn1PE_UMTS_HS_SCCH_SystemInfo_hS_SCCHChannelisationCodeInfo(rtxContext* ctx, const HS_SCCH_SystemInfo_hS_SCCHChannelisationCodeInfo* pvalue)
+int asn1PE_UMTS_HS_SCCH_SystemInfo_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_SystemInfo_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 4);
    stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "HS-SCCH-Codes", i);
-      rtxCtxtPushTypeName(ctx, "HS-SCCH-Codes");
       if ((uint64_t)pvalue->elem[i] > 127u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "HS-SCCH-Codes");
          rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
       }
       stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_HS_SCCH_SystemInfo(rtxContext* ctx, const HS_SCCH_SystemInfo* pvalue)
+int asn1PE_UMTS_HS_SCCH_SystemInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_SystemInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HS-SCCH-SystemInfo");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-SystemInfo");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HS-SCCH-SystemInfo");
    /* dl-ScramblingCode */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-ScramblingCode");
-      rtxCtxtPushTypeName(ctx, "SecondaryScramblingCode");
       if ((uint64_t)(pvalue->dl_ScramblingCode - 1) > 14u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
          rtxErrAddUIntParm(ctx, pvalue->dl_ScramblingCode);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "SecondaryScramblingCode", "dl-ScramblingCode", -1, "HS-SCCH-SystemInfo");
       }
       stat = pe_ConsUInt64(ctx, pvalue->dl_ScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, "HS-SCCH-SystemInfo");
    }
    /* hS-SCCHChannelisationCodeInfo */
-   rtxCtxtPushElemName(ctx, "hS-SCCHChannelisationCodeInfo");
    stat = asn1PE_UMTS_HS_SCCH_SystemInfo_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "hS-SCCHChannelisationCodeInfo", -1, "HS-SCCH-SystemInfo");
    return 0;
 }
 
-int asn1PE_UMTS_HARQMemorySize(rtxContext* ctx, HARQMemorySize value)
+int asn1PE_UMTS_HARQMemorySize(rtxContext* RT_RESTRICT ctx, HARQMemorySize value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HARQMemorySize");
    if (value > 60) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "HARQMemorySize");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 60);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HARQMemorySize");
    return 0;
 }
 
-int asn1PE_UMTS_HARQ_Info_memoryPartitioning_explicit_(rtxContext* ctx, const HARQ_Info_memoryPartitioning_explicit_* pvalue)
+int asn1PE_UMTS_HARQ_Info_memoryPartitioning_explicit_(rtxContext* RT_RESTRICT ctx, const HARQ_Info_memoryPartitioning_explicit_* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 8);
    stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "HARQMemorySize", i);
-      rtxCtxtPushTypeName(ctx, "HARQMemorySize");
       if (pvalue->elem[i] > 60) {
          rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "HARQMemorySize", "HARQMemorySize", (int32_t)i, 0);
       }
       stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 60);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, "HARQMemorySize", "HARQMemorySize", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_HARQ_Info_memoryPartitioning(rtxContext* ctx, const HARQ_Info_memoryPartitioning* pvalue)
+int asn1PE_UMTS_HARQ_Info_memoryPartitioning(rtxContext* RT_RESTRICT ctx, const HARQ_Info_memoryPartitioning* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "implicit");
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "explicit");
-         if (pvalue->u.explicit_ == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.explicit_ == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "explicit", -1, 0);
          stat = asn1PE_UMTS_HARQ_Info_memoryPartitioning_explicit_(ctx, pvalue->u.explicit_);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "explicit", -1, 0);
          break;
       default:
          break;
@@ -7859,300 +4116,232 @@ int asn1PE_UMTS_HARQ_Info_memoryPartitioning(rtxContext* ctx, const HARQ_Info_me
    return 0;
 }
 
-int asn1PE_UMTS_HARQ_Info(rtxContext* ctx, const HARQ_Info* pvalue)
+int asn1PE_UMTS_HARQ_Info(rtxContext* RT_RESTRICT ctx, const HARQ_Info* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HARQ-Info");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HARQ-Info");
    /* numberOfProcesses */
-   rtxCtxtPushElemName(ctx, "numberOfProcesses");
    if ((uint64_t)(pvalue->numberOfProcesses - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "numberOfProcesses");
       rtxErrAddUIntParm(ctx, pvalue->numberOfProcesses);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "numberOfProcesses", -1, "HARQ-Info");
    }
    stat = pe_ConsUInt64(ctx, pvalue->numberOfProcesses, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "numberOfProcesses", -1, "HARQ-Info");
    /* memoryPartitioning */
-   rtxCtxtPushElemName(ctx, "memoryPartitioning");
    stat = asn1PE_UMTS_HARQ_Info_memoryPartitioning(ctx, &pvalue->memoryPartitioning);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "memoryPartitioning", -1, "HARQ-Info");
    return 0;
 }
 
-int asn1PE_UMTS_H_RNTI(rtxContext* ctx, H_RNTI value)
+int asn1PE_UMTS_H_RNTI(rtxContext* RT_RESTRICT ctx, H_RNTI value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "H-RNTI");
    RT_SET_SIZE(ctx, 16, 16);
    stat = pe_BitString32(ctx, &value, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "H-RNTI");
    return 0;
 }
 
-int asn1PE_UMTS_HS_DSCH_CommonSystemInformation_common_H_RNTI_information(rtxContext* ctx, const HS_DSCH_CommonSystemInformation_common_H_RNTI_information* pvalue)
+int asn1PE_UMTS_HS_DSCH_CommonSystemInformation_common_H_RNTI_information(rtxContext* RT_RESTRICT ctx, const HS_DSCH_CommonSystemInformation_common_H_RNTI_information* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 4);
    stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "H-RNTI", i);
       stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->elem[i]);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "H-RNTI", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_HS_DSCH_CommonSystemInformation(rtxContext* ctx, const HS_DSCH_CommonSystemInformation* pvalue)
+int asn1PE_UMTS_HS_DSCH_CommonSystemInformation(rtxContext* RT_RESTRICT ctx, const HS_DSCH_CommonSystemInformation* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HS-DSCH-CommonSystemInformation");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-DSCH-CommonSystemInformation");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HS-DSCH-CommonSystemInformation");
    /* ccch-MappingInfo */
-   rtxCtxtPushElemName(ctx, "ccch-MappingInfo");
    stat = asn1PE_UMTS_CommonRBMappingInfo(ctx, &pvalue->ccch_MappingInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "ccch-MappingInfo", -1, "HS-DSCH-CommonSystemInformation");
    /* srb1-MappingInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "srb1-MappingInfo");
       stat = asn1PE_UMTS_CommonRBMappingInfo(ctx, &pvalue->srb1_MappingInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "srb1-MappingInfo", -1, "HS-DSCH-CommonSystemInformation");
    }
    /* common-MAC-ehs-ReorderingQueueList */
-   rtxCtxtPushElemName(ctx, "common-MAC-ehs-ReorderingQueueList");
    stat = asn1PE_UMTS_Common_MAC_ehs_ReorderingQueueList(ctx, &pvalue->common_MAC_ehs_ReorderingQueueList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "common-MAC-ehs-ReorderingQueueList", -1, "HS-DSCH-CommonSystemInformation");
    /* hs-scch-SystemInfo */
-   rtxCtxtPushElemName(ctx, "hs-scch-SystemInfo");
    stat = asn1PE_UMTS_HS_SCCH_SystemInfo(ctx, &pvalue->hs_scch_SystemInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "hs-scch-SystemInfo", -1, "HS-DSCH-CommonSystemInformation");
    /* harq-SystemInfo */
-   rtxCtxtPushElemName(ctx, "harq-SystemInfo");
    stat = asn1PE_UMTS_HARQ_Info(ctx, &pvalue->harq_SystemInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "harq-SystemInfo", -1, "HS-DSCH-CommonSystemInformation");
    /* common-H-RNTI-information */
-   rtxCtxtPushElemName(ctx, "common-H-RNTI-information");
    stat = asn1PE_UMTS_HS_DSCH_CommonSystemInformation_common_H_RNTI_information(ctx, &pvalue->common_H_RNTI_information);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "common-H-RNTI-information", -1, "HS-DSCH-CommonSystemInformation");
    /* bcchSpecific-H-RNTI */
-   rtxCtxtPushElemName(ctx, "bcchSpecific-H-RNTI");
    stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->bcchSpecific_H_RNTI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "bcchSpecific-H-RNTI", -1, "HS-DSCH-CommonSystemInformation");
    return 0;
 }
 
-int asn1PE_UMTS_PICH_ForHSDPASupportedPaging(rtxContext* ctx, const PICH_ForHSDPASupportedPaging* pvalue)
+int asn1PE_UMTS_PICH_ForHSDPASupportedPaging(rtxContext* RT_RESTRICT ctx, const PICH_ForHSDPASupportedPaging* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PICH-ForHSDPASupportedPaging");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PICH-ForHSDPASupportedPaging");
    /* hsdpa-AssociatedPichInfo */
-   rtxCtxtPushElemName(ctx, "hsdpa-AssociatedPichInfo");
    stat = asn1PE_UMTS_PICH_Info(ctx, &pvalue->hsdpa_AssociatedPichInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "hsdpa-AssociatedPichInfo", -1, "PICH-ForHSDPASupportedPaging");
    /* hs-pdschChannelisationCode */
-   rtxCtxtPushElemName(ctx, "hs-pdschChannelisationCode");
    if ((uint64_t)(pvalue->hs_pdschChannelisationCode - 1) > 14u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "hs-pdschChannelisationCode");
       rtxErrAddUIntParm(ctx, pvalue->hs_pdschChannelisationCode);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "hs-pdschChannelisationCode", -1, "PICH-ForHSDPASupportedPaging");
    }
    stat = pe_ConsUInt64(ctx, pvalue->hs_pdschChannelisationCode, 1, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "hs-pdschChannelisationCode", -1, "PICH-ForHSDPASupportedPaging");
    return 0;
 }
 
-int asn1PE_UMTS_HS_DSCH_PagingSystemInformation_pich_ForHSDPASupportedPagingList(rtxContext* ctx, const HS_DSCH_PagingSystemInformation_pich_ForHSDPASupportedPagingList* pvalue)
+int asn1PE_UMTS_HS_DSCH_PagingSystemInformation_pich_ForHSDPASupportedPagingList(rtxContext* RT_RESTRICT ctx, const HS_DSCH_PagingSystemInformation_pich_ForHSDPASupportedPagingList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 16);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "PICH-ForHSDPASupportedPaging", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PICH-ForHSDPASupportedPaging", (int32_t)i, 0);
       stat = asn1PE_UMTS_PICH_ForHSDPASupportedPaging(ctx, (const PICH_ForHSDPASupportedPaging*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "PICH-ForHSDPASupportedPaging", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_TransportBlockSizeIndex(rtxContext* ctx, TransportBlockSizeIndex value)
+int asn1PE_UMTS_TransportBlockSizeIndex(rtxContext* RT_RESTRICT ctx, TransportBlockSizeIndex value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TransportBlockSizeIndex");
    if ((uint64_t)(value - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "TransportBlockSizeIndex");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TransportBlockSizeIndex");
    }
    stat = pe_ConsUInt64(ctx, value, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportBlockSizeIndex");
    return 0;
 }
 
-int asn1PE_UMTS_HS_DSCH_PagingSystemInformation_transportBlockSizeList(rtxContext* ctx, const HS_DSCH_PagingSystemInformation_transportBlockSizeList* pvalue)
+int asn1PE_UMTS_HS_DSCH_PagingSystemInformation_transportBlockSizeList(rtxContext* RT_RESTRICT ctx, const HS_DSCH_PagingSystemInformation_transportBlockSizeList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 2);
    stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "TransportBlockSizeIndex", i);
-      rtxCtxtPushTypeName(ctx, "TransportBlockSizeIndex");
       if ((uint64_t)(pvalue->elem[i] - 1) > 31u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "TransportBlockSizeIndex");
          rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportBlockSizeIndex", "TransportBlockSizeIndex", (int32_t)i, 0);
       }
       stat = pe_ConsUInt64(ctx, pvalue->elem[i], 1, 32);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, "TransportBlockSizeIndex", "TransportBlockSizeIndex", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_HS_DSCH_PagingSystemInformation(rtxContext* ctx, const HS_DSCH_PagingSystemInformation* pvalue)
+int asn1PE_UMTS_HS_DSCH_PagingSystemInformation(rtxContext* RT_RESTRICT ctx, const HS_DSCH_PagingSystemInformation* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HS-DSCH-PagingSystemInformation");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-DSCH-PagingSystemInformation");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HS-DSCH-PagingSystemInformation");
    /* dlScramblingCode */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dlScramblingCode");
-      rtxCtxtPushTypeName(ctx, "SecondaryScramblingCode");
       if ((uint64_t)(pvalue->dlScramblingCode - 1) > 14u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
          rtxErrAddUIntParm(ctx, pvalue->dlScramblingCode);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "SecondaryScramblingCode", "dlScramblingCode", -1, "HS-DSCH-PagingSystemInformation");
       }
       stat = pe_ConsUInt64(ctx, pvalue->dlScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "dlScramblingCode", -1, "HS-DSCH-PagingSystemInformation");
    }
    /* pich-ForHSDPASupportedPagingList */
-   rtxCtxtPushElemName(ctx, "pich-ForHSDPASupportedPagingList");
    stat = asn1PE_UMTS_HS_DSCH_PagingSystemInformation_pich_ForHSDPASupportedPagingList(ctx, &pvalue->pich_ForHSDPASupportedPagingList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "pich-ForHSDPASupportedPagingList", -1, "HS-DSCH-PagingSystemInformation");
    /* numberOfPcchTransmissions */
-   rtxCtxtPushElemName(ctx, "numberOfPcchTransmissions");
    if ((uint64_t)(pvalue->numberOfPcchTransmissions - 1) > 4u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "numberOfPcchTransmissions");
       rtxErrAddUIntParm(ctx, pvalue->numberOfPcchTransmissions);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "numberOfPcchTransmissions", -1, "HS-DSCH-PagingSystemInformation");
    }
    stat = pe_ConsUInt64(ctx, pvalue->numberOfPcchTransmissions, 1, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "numberOfPcchTransmissions", -1, "HS-DSCH-PagingSystemInformation");
    /* transportBlockSizeList */
-   rtxCtxtPushElemName(ctx, "transportBlockSizeList");
    stat = asn1PE_UMTS_HS_DSCH_PagingSystemInformation_transportBlockSizeList(ctx, &pvalue->transportBlockSizeList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "transportBlockSizeList", -1, "HS-DSCH-PagingSystemInformation");
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd(rtxContext* ctx, const SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd* pvalue)
+int asn1PE_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* hs-dsch-CommonSystemInformation */
-   rtxCtxtPushElemName(ctx, "hs-dsch-CommonSystemInformation");
    stat = asn1PE_UMTS_HS_DSCH_CommonSystemInformation(ctx, &pvalue->hs_dsch_CommonSystemInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "hs-dsch-CommonSystemInformation", -1, 0);
    /* hs-dsch-PagingSystemInformation */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "hs-dsch-PagingSystemInformation");
       stat = asn1PE_UMTS_HS_DSCH_PagingSystemInformation(ctx, &pvalue->hs_dsch_PagingSystemInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "hs-dsch-PagingSystemInformation", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, const MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble* pvalue)
+int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftLong");
    if ((uint64_t)pvalue->midambleShift > 15u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "MidambleShiftLong");
       rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode(rtxContext* ctx, const MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode* pvalue)
+int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "commonMidamble");
-         rtxCtxtPopElemName(ctx);
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
          stat = asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
          break;
       default:
          break;
@@ -8160,101 +4349,79 @@ int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocatio
    return 0;
 }
 
-int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type1(rtxContext* ctx, const MidambleShiftAndBurstType_VHCR_burstType_type1* pvalue)
+int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type1(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type1* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* midambleConfigurationBurstType1and3 */
-   rtxCtxtPushElemName(ctx, "midambleConfigurationBurstType1and3");
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType1and3");
    if (pvalue->midambleConfigurationBurstType1and3 > 2) {
       rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType1and3);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->midambleConfigurationBurstType1and3, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
    /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
    stat = asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_MidambleConfigurationBurstType2_VHCR(rtxContext* ctx, MidambleConfigurationBurstType2_VHCR value)
+int asn1PE_UMTS_MidambleConfigurationBurstType2_VHCR(rtxContext* RT_RESTRICT ctx, MidambleConfigurationBurstType2_VHCR value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType2-VHCR");
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MidambleConfigurationBurstType2-VHCR");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MidambleConfigurationBurstType2-VHCR");
    return 0;
 }
 
-int asn1PE_UMTS_MidambleShiftShort_VHCR(rtxContext* ctx, MidambleShiftShort_VHCR value)
+int asn1PE_UMTS_MidambleShiftShort_VHCR(rtxContext* RT_RESTRICT ctx, MidambleShiftShort_VHCR value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MidambleShiftShort-VHCR");
    if ((uint64_t)value > 7u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "MidambleShiftShort-VHCR");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MidambleShiftShort-VHCR");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MidambleShiftShort-VHCR");
    return 0;
 }
 
-int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, const MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble* pvalue)
+int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftShort-VHCR");
    if ((uint64_t)pvalue->midambleShift > 7u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "MidambleShiftShort-VHCR");
       rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftShort-VHCR", "midambleShift", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "MidambleShiftShort-VHCR", "midambleShift", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode(rtxContext* ctx, const MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode* pvalue)
+int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "commonMidamble");
-         rtxCtxtPopElemName(ctx);
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
          stat = asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
          break;
       default:
          break;
@@ -8262,68 +4429,52 @@ int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocatio
    return 0;
 }
 
-int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type2(rtxContext* ctx, const MidambleShiftAndBurstType_VHCR_burstType_type2* pvalue)
+int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type2(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type2* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* midambleConfigurationBurstType2 */
-   rtxCtxtPushElemName(ctx, "midambleConfigurationBurstType2");
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType2-VHCR");
    if (pvalue->midambleConfigurationBurstType2 > 1) {
       rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType2);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MidambleConfigurationBurstType2-VHCR", "midambleConfigurationBurstType2", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->midambleConfigurationBurstType2, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType2-VHCR", "midambleConfigurationBurstType2", -1, 0);
    /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
    stat = asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, const MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode_ueSpecificMidamble* pvalue)
+int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftLong");
    if ((uint64_t)pvalue->midambleShift > 15u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "MidambleShiftLong");
       rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode(rtxContext* ctx, const MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode* pvalue)
+int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
          stat = asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
          break;
       default:
          break;
@@ -8331,63 +4482,47 @@ int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocatio
    return 0;
 }
 
-int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type3(rtxContext* ctx, const MidambleShiftAndBurstType_VHCR_burstType_type3* pvalue)
+int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type3(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type3* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* midambleConfigurationBurstType1and3 */
-   rtxCtxtPushElemName(ctx, "midambleConfigurationBurstType1and3");
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType1and3");
    if (pvalue->midambleConfigurationBurstType1and3 > 2) {
       rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType1and3);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->midambleConfigurationBurstType1and3, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
    /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
    stat = asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType(rtxContext* ctx, const MidambleShiftAndBurstType_VHCR_burstType* pvalue)
+int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 3) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "type1");
-         if (pvalue->u.type1 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.type1 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "type1", -1, 0);
          stat = asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type1(ctx, pvalue->u.type1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "type1", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "type2");
-         if (pvalue->u.type2 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.type2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "type2", -1, 0);
          stat = asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type2(ctx, pvalue->u.type2);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "type2", -1, 0);
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "type3");
-         if (pvalue->u.type3 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.type3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "type3", -1, 0);
          stat = asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type3(ctx, pvalue->u.type3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "type3", -1, 0);
          break;
       case 4:
-         rtxCtxtPushElemName(ctx, "mbsfnBurstType4");
-         rtxCtxtPopElemName(ctx);
          break;
       default:
          break;
@@ -8395,166 +4530,128 @@ int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType(rtxContext* ctx, const 
    return 0;
 }
 
-int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR(rtxContext* ctx, const MidambleShiftAndBurstType_VHCR* pvalue)
+int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MidambleShiftAndBurstType-VHCR");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MidambleShiftAndBurstType-VHCR");
    /* burstType */
-   rtxCtxtPushElemName(ctx, "burstType");
    stat = asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType(ctx, &pvalue->burstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "burstType", -1, "MidambleShiftAndBurstType-VHCR");
    return 0;
 }
 
-int asn1PE_UMTS_IndividualTimeslotInfo_VHCR(rtxContext* ctx, const IndividualTimeslotInfo_VHCR* pvalue)
+int asn1PE_UMTS_IndividualTimeslotInfo_VHCR(rtxContext* RT_RESTRICT ctx, const IndividualTimeslotInfo_VHCR* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IndividualTimeslotInfo-VHCR");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IndividualTimeslotInfo-VHCR");
    /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
    if ((uint64_t)pvalue->timeslotNumber > 14u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
       rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, "IndividualTimeslotInfo-VHCR");
    }
    stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, "IndividualTimeslotInfo-VHCR");
    /* tfci-Existence */
-   rtxCtxtPushElemName(ctx, "tfci-Existence");
    stat = rtxEncBit(ctx, pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, "IndividualTimeslotInfo-VHCR");
    /* midambleShiftAndBurstType-VHCR */
-   rtxCtxtPushElemName(ctx, "midambleShiftAndBurstType-VHCR");
    stat = asn1PE_UMTS_MidambleShiftAndBurstType_VHCR(ctx, &pvalue->midambleShiftAndBurstType_VHCR);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType-VHCR", -1, "IndividualTimeslotInfo-VHCR");
    return 0;
 }
 
-int asn1PE_UMTS_UL_TS_ChannelisationCode_VHCR(rtxContext* ctx, UL_TS_ChannelisationCode_VHCR value)
+int asn1PE_UMTS_UL_TS_ChannelisationCode_VHCR(rtxContext* RT_RESTRICT ctx, UL_TS_ChannelisationCode_VHCR value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UL-TS-ChannelisationCode-VHCR");
    if (value > 62) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UL-TS-ChannelisationCode-VHCR");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 62);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-TS-ChannelisationCode-VHCR");
    return 0;
 }
 
-int asn1PE_UMTS_UL_TS_ChannelisationCodeList_VHCR(rtxContext* ctx, const UL_TS_ChannelisationCodeList_VHCR* pvalue)
+int asn1PE_UMTS_UL_TS_ChannelisationCodeList_VHCR(rtxContext* RT_RESTRICT ctx, const UL_TS_ChannelisationCodeList_VHCR* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-TS-ChannelisationCodeList-VHCR");
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "UL-TS-ChannelisationCodeList-VHCR");
    RT_SET_SIZE(ctx, 1, 2);
    stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UL-TS-ChannelisationCodeList-VHCR");
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "UL-TS-ChannelisationCode-VHCR", i);
-      rtxCtxtPushTypeName(ctx, "UL-TS-ChannelisationCode-VHCR");
       if (pvalue->elem[i] > 62) {
          rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "UL-TS-ChannelisationCode-VHCR", "UL-TS-ChannelisationCode-VHCR", (int32_t)i, "UL-TS-ChannelisationCodeList-VHCR");
       }
       stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 62);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, "UL-TS-ChannelisationCode-VHCR", "UL-TS-ChannelisationCode-VHCR", (int32_t)i, "UL-TS-ChannelisationCodeList-VHCR");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_consecutive(rtxContext* ctx, const UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_consecutive* pvalue)
+int asn1PE_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_consecutive(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_consecutive* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* numAdditionalTimeslots */
-   rtxCtxtPushElemName(ctx, "numAdditionalTimeslots");
    if ((uint64_t)(pvalue->numAdditionalTimeslots - 1) > 12u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "numAdditionalTimeslots");
       rtxErrAddUIntParm(ctx, pvalue->numAdditionalTimeslots);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "numAdditionalTimeslots", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->numAdditionalTimeslots, 1, 13);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "numAdditionalTimeslots", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_UplinkAdditionalTimeslots_VHCR_parameters_sameAsLast(rtxContext* ctx, const UplinkAdditionalTimeslots_VHCR_parameters_sameAsLast* pvalue)
+int asn1PE_UMTS_UplinkAdditionalTimeslots_VHCR_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_VHCR_parameters_sameAsLast* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
    if ((uint64_t)pvalue->timeslotNumber > 14u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
       rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_UplinkAdditionalTimeslots_VHCR_parameters_newParameters(rtxContext* ctx, const UplinkAdditionalTimeslots_VHCR_parameters_newParameters* pvalue)
+int asn1PE_UMTS_UplinkAdditionalTimeslots_VHCR_parameters_newParameters(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_VHCR_parameters_newParameters* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* individualTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "individualTimeslotInfo");
    stat = asn1PE_UMTS_IndividualTimeslotInfo_VHCR(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
    /* ul-TS-ChannelisationCodeList */
-   rtxCtxtPushElemName(ctx, "ul-TS-ChannelisationCodeList");
    stat = asn1PE_UMTS_UL_TS_ChannelisationCodeList(ctx, &pvalue->ul_TS_ChannelisationCodeList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_UplinkAdditionalTimeslots_VHCR_parameters(rtxContext* ctx, const UplinkAdditionalTimeslots_VHCR_parameters* pvalue)
+int asn1PE_UMTS_UplinkAdditionalTimeslots_VHCR_parameters(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_VHCR_parameters* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "sameAsLast");
-         if (pvalue->u.sameAsLast == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.sameAsLast == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sameAsLast", -1, 0);
          stat = asn1PE_UMTS_UplinkAdditionalTimeslots_VHCR_parameters_sameAsLast(ctx, pvalue->u.sameAsLast);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "newParameters");
-         if (pvalue->u.newParameters == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.newParameters == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "newParameters", -1, 0);
          stat = asn1PE_UMTS_UplinkAdditionalTimeslots_VHCR_parameters_newParameters(ctx, pvalue->u.newParameters);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
          break;
       default:
          break;
@@ -8562,62 +4659,50 @@ int asn1PE_UMTS_UplinkAdditionalTimeslots_VHCR_parameters(rtxContext* ctx, const
    return 0;
 }
 
-int asn1PE_UMTS_UplinkAdditionalTimeslots_VHCR(rtxContext* ctx, const UplinkAdditionalTimeslots_VHCR* pvalue)
+int asn1PE_UMTS_UplinkAdditionalTimeslots_VHCR(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_VHCR* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UplinkAdditionalTimeslots-VHCR");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UplinkAdditionalTimeslots-VHCR");
    /* parameters */
-   rtxCtxtPushElemName(ctx, "parameters");
    stat = asn1PE_UMTS_UplinkAdditionalTimeslots_VHCR_parameters(ctx, &pvalue->parameters);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "parameters", -1, "UplinkAdditionalTimeslots-VHCR");
    return 0;
 }
 
-int asn1PE_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* ctx, const UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList* pvalue)
+int asn1PE_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 13);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "UplinkAdditionalTimeslots-VHCR", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UplinkAdditionalTimeslots-VHCR", (int32_t)i, 0);
       stat = asn1PE_UMTS_UplinkAdditionalTimeslots_VHCR(ctx, (const UplinkAdditionalTimeslots_VHCR*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "UplinkAdditionalTimeslots-VHCR", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(rtxContext* ctx, const UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots* pvalue)
+int asn1PE_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "consecutive");
-         if (pvalue->u.consecutive == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.consecutive == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "consecutive", -1, 0);
          stat = asn1PE_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_consecutive(ctx, pvalue->u.consecutive);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "timeslotList");
-         if (pvalue->u.timeslotList == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.timeslotList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "timeslotList", -1, 0);
          stat = asn1PE_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
          break;
       default:
          break;
@@ -8625,26 +4710,20 @@ int asn1PE_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(rtxC
    return 0;
 }
 
-int asn1PE_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots(rtxContext* ctx, const UplinkTimeslotsCodes_VHCR_moreTimeslots* pvalue)
+int asn1PE_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_VHCR_moreTimeslots* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "noMore");
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "additionalTimeslots");
-         if (pvalue->u.additionalTimeslots == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.additionalTimeslots == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "additionalTimeslots", -1, 0);
          stat = asn1PE_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "additionalTimeslots", -1, 0);
          break;
       default:
          break;
@@ -8652,262 +4731,204 @@ int asn1PE_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots(rtxContext* ctx, const U
    return 0;
 }
 
-int asn1PE_UMTS_UplinkTimeslotsCodes_VHCR(rtxContext* ctx, const UplinkTimeslotsCodes_VHCR* pvalue)
+int asn1PE_UMTS_UplinkTimeslotsCodes_VHCR(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_VHCR* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UplinkTimeslotsCodes-VHCR");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UplinkTimeslotsCodes-VHCR");
    /* dynamicSFusage */
-   rtxCtxtPushElemName(ctx, "dynamicSFusage");
    stat = rtxEncBit(ctx, pvalue->dynamicSFusage);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "dynamicSFusage", -1, "UplinkTimeslotsCodes-VHCR");
    /* firstIndividualTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "firstIndividualTimeslotInfo");
    stat = asn1PE_UMTS_IndividualTimeslotInfo_VHCR(ctx, &pvalue->firstIndividualTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "UplinkTimeslotsCodes-VHCR");
    /* ul-TS-ChannelisationCodeList */
-   rtxCtxtPushElemName(ctx, "ul-TS-ChannelisationCodeList");
    stat = asn1PE_UMTS_UL_TS_ChannelisationCodeList_VHCR(ctx, &pvalue->ul_TS_ChannelisationCodeList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, "UplinkTimeslotsCodes-VHCR");
    /* moreTimeslots */
-   rtxCtxtPushElemName(ctx, "moreTimeslots");
    stat = asn1PE_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots(ctx, &pvalue->moreTimeslots);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "UplinkTimeslotsCodes-VHCR");
    return 0;
 }
 
-int asn1PE_UMTS_PUSCH_Info_VHCR(rtxContext* ctx, const PUSCH_Info_VHCR* pvalue)
+int asn1PE_UMTS_PUSCH_Info_VHCR(rtxContext* RT_RESTRICT ctx, const PUSCH_Info_VHCR* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PUSCH-Info-VHCR");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-Info-VHCR");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 2) |
       ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-Info-VHCR");
    /* tfcs-ID */
    if (pvalue->tfcs_ID != 1) {
-      rtxCtxtPushElemName(ctx, "tfcs-ID");
-      rtxCtxtPushTypeName(ctx, "TFCS-IdentityPlain");
       if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
          rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "PUSCH-Info-VHCR");
       }
       stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PUSCH-Info-VHCR");
    }
    /* commonTimeslotInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "commonTimeslotInfo");
       stat = asn1PE_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "PUSCH-Info-VHCR");
    }
    /* pusch-TimeslotsCodes-VHCR */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "pusch-TimeslotsCodes-VHCR");
       stat = asn1PE_UMTS_UplinkTimeslotsCodes_VHCR(ctx, &pvalue->pusch_TimeslotsCodes_VHCR);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pusch-TimeslotsCodes-VHCR", -1, "PUSCH-Info-VHCR");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PUSCH_SysInfo_VHCR(rtxContext* ctx, const PUSCH_SysInfo_VHCR* pvalue)
+int asn1PE_UMTS_PUSCH_SysInfo_VHCR(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfo_VHCR* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PUSCH-SysInfo-VHCR");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-SysInfo-VHCR");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-SysInfo-VHCR");
    /* pusch-Identity */
-   rtxCtxtPushElemName(ctx, "pusch-Identity");
-   rtxCtxtPushTypeName(ctx, "PUSCH-Identity");
    if ((uint64_t)(pvalue->pusch_Identity - 1) > 63u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "PUSCH-Identity");
       rtxErrAddUIntParm(ctx, pvalue->pusch_Identity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PUSCH-Identity", "pusch-Identity", -1, "PUSCH-SysInfo-VHCR");
    }
    stat = pe_ConsUInt64(ctx, pvalue->pusch_Identity, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "PUSCH-Identity", "pusch-Identity", -1, "PUSCH-SysInfo-VHCR");
    /* pusch-Info-VHCR */
-   rtxCtxtPushElemName(ctx, "pusch-Info-VHCR");
    stat = asn1PE_UMTS_PUSCH_Info_VHCR(ctx, &pvalue->pusch_Info_VHCR);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "pusch-Info-VHCR", -1, "PUSCH-SysInfo-VHCR");
    /* usch-TransportChannelsInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "usch-TransportChannelsInfo");
       stat = asn1PE_UMTS_USCH_TransportChannelsInfo(ctx, &pvalue->usch_TransportChannelsInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "usch-TransportChannelsInfo", -1, "PUSCH-SysInfo-VHCR");
    }
    /* usch-TFCS */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "usch-TFCS");
       stat = asn1PE_UMTS_TFCS(ctx, &pvalue->usch_TFCS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "usch-TFCS", -1, "PUSCH-SysInfo-VHCR");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PUSCH_SysInfoList_SFN_VHCR_element(rtxContext* ctx, const PUSCH_SysInfoList_SFN_VHCR_element* pvalue)
+int asn1PE_UMTS_PUSCH_SysInfoList_SFN_VHCR_element(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_SFN_VHCR_element* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* pusch-SysInfo-VHCR */
-   rtxCtxtPushElemName(ctx, "pusch-SysInfo-VHCR");
    stat = asn1PE_UMTS_PUSCH_SysInfo_VHCR(ctx, &pvalue->pusch_SysInfo_VHCR);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "pusch-SysInfo-VHCR", -1, 0);
    /* sfn-TimeInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sfn-TimeInfo");
       stat = asn1PE_UMTS_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_PUSCH_SysInfoList_SFN_VHCR(rtxContext* ctx, const PUSCH_SysInfoList_SFN_VHCR* pvalue)
+int asn1PE_UMTS_PUSCH_SysInfoList_SFN_VHCR(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_SFN_VHCR* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-SysInfoList-SFN-VHCR");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "PUSCH-SysInfoList-SFN-VHCR");
    RT_SET_SIZE(ctx, 1, 8);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PUSCH-SysInfoList-SFN-VHCR");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN-VHCR");
       stat = asn1PE_UMTS_PUSCH_SysInfoList_SFN_VHCR_element(ctx, (const PUSCH_SysInfoList_SFN_VHCR_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN-VHCR");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PDSCH_Info_r7_tddOption_tdd384(rtxContext* ctx, const PDSCH_Info_r7_tddOption_tdd384* pvalue)
+int asn1PE_UMTS_PDSCH_Info_r7_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_r7_tddOption_tdd384* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* pdsch-TimeslotsCodes */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pdsch-TimeslotsCodes");
       stat = asn1PE_UMTS_DownlinkTimeslotsCodes(ctx, &pvalue->pdsch_TimeslotsCodes);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pdsch-TimeslotsCodes", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_DL_TS_ChannelisationCode_VHCR(rtxContext* ctx, DL_TS_ChannelisationCode_VHCR value)
+int asn1PE_UMTS_DL_TS_ChannelisationCode_VHCR(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCode_VHCR value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DL-TS-ChannelisationCode-VHCR");
    if (value > 31) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "DL-TS-ChannelisationCode-VHCR");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-TS-ChannelisationCode-VHCR");
    return 0;
 }
 
-int asn1PE_UMTS_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_consecutive(rtxContext* ctx, const DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_consecutive* pvalue)
+int asn1PE_UMTS_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_consecutive(rtxContext* RT_RESTRICT ctx, const DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_consecutive* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* firstChannelisationCode */
-   rtxCtxtPushElemName(ctx, "firstChannelisationCode");
-   rtxCtxtPushTypeName(ctx, "DL-TS-ChannelisationCode-VHCR");
    if (pvalue->firstChannelisationCode > 31) {
       rtxErrAddUIntParm(ctx, pvalue->firstChannelisationCode);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TS-ChannelisationCode-VHCR", "firstChannelisationCode", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->firstChannelisationCode, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode-VHCR", "firstChannelisationCode", -1, 0);
    /* lastChannelisationCode */
-   rtxCtxtPushElemName(ctx, "lastChannelisationCode");
-   rtxCtxtPushTypeName(ctx, "DL-TS-ChannelisationCode-VHCR");
    if (pvalue->lastChannelisationCode > 31) {
       rtxErrAddUIntParm(ctx, pvalue->lastChannelisationCode);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TS-ChannelisationCode-VHCR", "lastChannelisationCode", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->lastChannelisationCode, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode-VHCR", "lastChannelisationCode", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap(rtxContext* ctx, DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap value)
+int asn1PE_UMTS_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap value)
 {
    int stat = 0;
    {
       int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
       uint32_t used = (uint32_t)(last + 1);
       value.numbits = used <= 32 ? 32 : used;
-      if (last < -1) RT_RAISE(ctx, RT_ERR_CONSVIO);
+      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
    }
    RT_SET_SIZE(ctx, 32, 32);
    stat = pe_BitString32(ctx, &value, 32, 32);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation(rtxContext* ctx, const DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation* pvalue)
+int asn1PE_UMTS_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation(rtxContext* RT_RESTRICT ctx, const DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "consecutive");
-         if (pvalue->u.consecutive == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.consecutive == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "consecutive", -1, 0);
          stat = asn1PE_UMTS_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_consecutive(ctx, pvalue->u.consecutive);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "bitmap");
-         if (pvalue->u.bitmap == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.bitmap == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "bitmap", -1, 0);
          stat = asn1PE_UMTS_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap(ctx, *pvalue->u.bitmap);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "bitmap", -1, 0);
          break;
       default:
          break;
@@ -8915,79 +4936,61 @@ int asn1PE_UMTS_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation(rtxConte
    return 0;
 }
 
-int asn1PE_UMTS_DL_TS_ChannelisationCodesShort_VHCR(rtxContext* ctx, const DL_TS_ChannelisationCodesShort_VHCR* pvalue)
+int asn1PE_UMTS_DL_TS_ChannelisationCodesShort_VHCR(rtxContext* RT_RESTRICT ctx, const DL_TS_ChannelisationCodesShort_VHCR* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-TS-ChannelisationCodesShort-VHCR");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-TS-ChannelisationCodesShort-VHCR");
    /* codesRepresentation */
-   rtxCtxtPushElemName(ctx, "codesRepresentation");
    stat = asn1PE_UMTS_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation(ctx, &pvalue->codesRepresentation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "codesRepresentation", -1, "DL-TS-ChannelisationCodesShort-VHCR");
    return 0;
 }
 
-int asn1PE_UMTS_DownlinkAdditionalTimeslots_VHCR_parameters_sameAsLast(rtxContext* ctx, const DownlinkAdditionalTimeslots_VHCR_parameters_sameAsLast* pvalue)
+int asn1PE_UMTS_DownlinkAdditionalTimeslots_VHCR_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_VHCR_parameters_sameAsLast* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
    if ((uint64_t)pvalue->timeslotNumber > 14u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
       rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_DownlinkAdditionalTimeslots_VHCR_parameters_newParameters(rtxContext* ctx, const DownlinkAdditionalTimeslots_VHCR_parameters_newParameters* pvalue)
+int asn1PE_UMTS_DownlinkAdditionalTimeslots_VHCR_parameters_newParameters(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_VHCR_parameters_newParameters* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* individualTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "individualTimeslotInfo");
    stat = asn1PE_UMTS_IndividualTimeslotInfo_VHCR(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
    /* dl-TS-ChannelisationCodesShort */
-   rtxCtxtPushElemName(ctx, "dl-TS-ChannelisationCodesShort");
    stat = asn1PE_UMTS_DL_TS_ChannelisationCodesShort_VHCR(ctx, &pvalue->dl_TS_ChannelisationCodesShort);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_DownlinkAdditionalTimeslots_VHCR_parameters(rtxContext* ctx, const DownlinkAdditionalTimeslots_VHCR_parameters* pvalue)
+int asn1PE_UMTS_DownlinkAdditionalTimeslots_VHCR_parameters(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_VHCR_parameters* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "sameAsLast");
-         if (pvalue->u.sameAsLast == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.sameAsLast == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sameAsLast", -1, 0);
          stat = asn1PE_UMTS_DownlinkAdditionalTimeslots_VHCR_parameters_sameAsLast(ctx, pvalue->u.sameAsLast);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "newParameters");
-         if (pvalue->u.newParameters == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.newParameters == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "newParameters", -1, 0);
          stat = asn1PE_UMTS_DownlinkAdditionalTimeslots_VHCR_parameters_newParameters(ctx, pvalue->u.newParameters);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
          break;
       default:
          break;
@@ -8995,17 +4998,4022 @@ int asn1PE_UMTS_DownlinkAdditionalTimeslots_VHCR_parameters(rtxContext* ctx, con
    return 0;
 }
 
-int asn1PE_UMTS_DownlinkAdditionalTimeslots_VHCR(rtxContext* ctx, const DownlinkAdditionalTimeslots_VHCR* pvalue)
+int asn1PE_UMTS_DownlinkAdditionalTimeslots_VHCR(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_VHCR* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DownlinkAdditionalTimeslots-VHCR");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DownlinkAdditionalTimeslots-VHCR");
    /* parameters */
-   rtxCtxtPushElemName(ctx, "parameters");
    stat = asn1PE_UMTS_DownlinkAdditionalTimeslots_VHCR_parameters(ctx, &pvalue->parameters);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "parameters", -1, "DownlinkAdditionalTimeslots-VHCR");
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 13);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DownlinkAdditionalTimeslots-VHCR", (int32_t)i, 0);
+      stat = asn1PE_UMTS_DownlinkAdditionalTimeslots_VHCR(ctx, (const DownlinkAdditionalTimeslots_VHCR*)node->data);
+      RT_CHECK(ctx, stat, 0, "DownlinkAdditionalTimeslots-VHCR", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)(pvalue->u.consecutive - 1) > 12u) {
+            rtxErrAddStrParm(ctx, "consecutive");
+            rtxErrAddUIntParm(ctx, pvalue->u.consecutive);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "consecutive", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.consecutive, 1, 13);
+         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.timeslotList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "timeslotList", -1, 0);
+         stat = asn1PE_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList);
+         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_VHCR_moreTimeslots* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.additionalTimeslots == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "additionalTimeslots", -1, 0);
+         stat = asn1PE_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots);
+         RT_CHECK(ctx, stat, 0, "additionalTimeslots", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkTimeslotsCodes_VHCR(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_VHCR* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DownlinkTimeslotsCodes-VHCR");
+   /* firstIndividualTimeslotInfo */
+   stat = asn1PE_UMTS_IndividualTimeslotInfo_VHCR(ctx, &pvalue->firstIndividualTimeslotInfo);
+   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "DownlinkTimeslotsCodes-VHCR");
+   /* dl-TS-ChannelisationCodesShort */
+   stat = asn1PE_UMTS_DL_TS_ChannelisationCodesShort_VHCR(ctx, &pvalue->dl_TS_ChannelisationCodesShort);
+   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, "DownlinkTimeslotsCodes-VHCR");
+   /* moreTimeslots */
+   stat = asn1PE_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots(ctx, &pvalue->moreTimeslots);
+   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "DownlinkTimeslotsCodes-VHCR");
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_Info_r7_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_r7_tddOption_tdd768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* pdsch-TimeslotsCodes */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DownlinkTimeslotsCodes_VHCR(ctx, &pvalue->pdsch_TimeslotsCodes);
+      RT_CHECK(ctx, stat, 0, "pdsch-TimeslotsCodes", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_Info_r7_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_r7_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* pdsch-TimeslotsCodes */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->pdsch_TimeslotsCodes);
+      RT_CHECK(ctx, stat, 0, "pdsch-TimeslotsCodes", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_Info_r7_tddOption(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_r7_tddOption* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = asn1PE_UMTS_PDSCH_Info_r7_tddOption_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
+         stat = asn1PE_UMTS_PDSCH_Info_r7_tddOption_tdd768(ctx, pvalue->u.tdd768);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = asn1PE_UMTS_PDSCH_Info_r7_tddOption_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_Info_r7(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-Info-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 1) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-Info-r7");
+   /* tfcs-ID */
+   if (pvalue->tfcs_ID != 1) {
+      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
+         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "PDSCH-Info-r7");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
+      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PDSCH-Info-r7");
+   }
+   /* commonTimeslotInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
+      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "PDSCH-Info-r7");
+   }
+   /* tddOption */
+   stat = asn1PE_UMTS_PDSCH_Info_r7_tddOption(ctx, &pvalue->tddOption);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, "PDSCH-Info-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_SysInfo_VHCR_r7(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfo_VHCR_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-SysInfo-VHCR-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-SysInfo-VHCR-r7");
+   /* pdsch-Identity */
+   if ((uint64_t)(pvalue->pdsch_Identity - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "PDSCH-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->pdsch_Identity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PDSCH-Identity", "pdsch-Identity", -1, "PDSCH-SysInfo-VHCR-r7");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->pdsch_Identity, 1, 64);
+   RT_CHECK(ctx, stat, "PDSCH-Identity", "pdsch-Identity", -1, "PDSCH-SysInfo-VHCR-r7");
+   /* pdsch-Info */
+   stat = asn1PE_UMTS_PDSCH_Info_r7(ctx, &pvalue->pdsch_Info);
+   RT_CHECK(ctx, stat, 0, "pdsch-Info", -1, "PDSCH-SysInfo-VHCR-r7");
+   /* dsch-TransportChannelsInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DSCH_TransportChannelsInfo(ctx, &pvalue->dsch_TransportChannelsInfo);
+      RT_CHECK(ctx, stat, 0, "dsch-TransportChannelsInfo", -1, "PDSCH-SysInfo-VHCR-r7");
+   }
+   /* dsch-TFCS */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_TFCS(ctx, &pvalue->dsch_TFCS);
+      RT_CHECK(ctx, stat, 0, "dsch-TFCS", -1, "PDSCH-SysInfo-VHCR-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_SysInfoList_VHCR_r7(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList_VHCR_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-SysInfoList-VHCR-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PDSCH-SysInfoList-VHCR-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PDSCH-SysInfo-VHCR-r7", (int32_t)i, "PDSCH-SysInfoList-VHCR-r7");
+      stat = asn1PE_UMTS_PDSCH_SysInfo_VHCR_r7(ctx, (const PDSCH_SysInfo_VHCR_r7*)node->data);
+      RT_CHECK(ctx, stat, 0, "PDSCH-SysInfo-VHCR-r7", (int32_t)i, "PDSCH-SysInfoList-VHCR-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TDD768_PRACH_CCode32(rtxContext* RT_RESTRICT ctx, TDD768_PRACH_CCode32 value)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TDD768-PRACH-CCode32");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TDD768-PRACH-CCode32");
+   return 0;
+}
+
+int asn1PE_UMTS_TDD768_PRACH_CCodeList_sf32(rtxContext* RT_RESTRICT ctx, const TDD768_PRACH_CCodeList_sf32* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TDD768-PRACH-CCode32", "TDD768-PRACH-CCode32", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 15);
+      RT_CHECK(ctx, stat, "TDD768-PRACH-CCode32", "TDD768-PRACH-CCode32", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TDD768_PRACH_CCode16(rtxContext* RT_RESTRICT ctx, TDD768_PRACH_CCode16 value)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TDD768-PRACH-CCode16");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TDD768-PRACH-CCode16");
+   return 0;
+}
+
+int asn1PE_UMTS_TDD768_PRACH_CCodeList_sf16(rtxContext* RT_RESTRICT ctx, const TDD768_PRACH_CCodeList_sf16* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TDD768-PRACH-CCode16", "TDD768-PRACH-CCode16", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 15);
+      RT_CHECK(ctx, stat, "TDD768-PRACH-CCode16", "TDD768-PRACH-CCode16", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TDD768_PRACH_CCodeList(rtxContext* RT_RESTRICT ctx, const TDD768_PRACH_CCodeList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TDD768-PRACH-CCodeList");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "TDD768-PRACH-CCodeList");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TDD768-PRACH-CCodeList");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.sf32 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sf32", -1, "TDD768-PRACH-CCodeList");
+         stat = asn1PE_UMTS_TDD768_PRACH_CCodeList_sf32(ctx, pvalue->u.sf32);
+         RT_CHECK(ctx, stat, 0, "sf32", -1, "TDD768-PRACH-CCodeList");
+         break;
+      case 2:
+         if (pvalue->u.sf16 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sf16", -1, "TDD768-PRACH-CCodeList");
+         stat = asn1PE_UMTS_TDD768_PRACH_CCodeList_sf16(ctx, pvalue->u.sf16);
+         RT_CHECK(ctx, stat, 0, "sf16", -1, "TDD768-PRACH-CCodeList");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_RACH_Info_VHCR_r7(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info_VHCR_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-RACH-Info-VHCR-r7");
+   /* timeslot */
+   if ((uint64_t)pvalue->timeslot > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslot);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslot", -1, "PRACH-RACH-Info-VHCR-r7");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 14);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, "PRACH-RACH-Info-VHCR-r7");
+   /* channelisationCodeList */
+   stat = asn1PE_UMTS_TDD768_PRACH_CCodeList(ctx, &pvalue->channelisationCodeList);
+   RT_CHECK(ctx, stat, 0, "channelisationCodeList", -1, "PRACH-RACH-Info-VHCR-r7");
+   /* prach-Midamble */
+   if (pvalue->prach_Midamble > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->prach_Midamble);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "PRACH-Midamble", "prach-Midamble", -1, "PRACH-RACH-Info-VHCR-r7");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->prach_Midamble, 0, 1);
+   RT_CHECK(ctx, stat, "PRACH-Midamble", "prach-Midamble", -1, "PRACH-RACH-Info-VHCR-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_Partitioning_r7_fdd(rtxContext* RT_RESTRICT ctx, const PRACH_Partitioning_r7_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ASCSetting-FDD", (int32_t)i, 0);
+      stat = asn1PE_UMTS_ASCSetting_FDD(ctx, (const ASCSetting_FDD*)node->data);
+      RT_CHECK(ctx, stat, 0, "ASCSetting-FDD", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AccessServiceClass_TDD_r7_channelisationCodeIndices(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_channelisationCodeIndices value)
+{
+   int stat = 0;
+   {
+      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
+      uint32_t used = (uint32_t)(last + 1);
+      value.numbits = used <= 16 ? 16 : used;
+      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
+   }
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &value, 16, 16);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size2_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size2_subchannels value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size2(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_r7_subchannelSize_size2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* subchannels */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->subchannels > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->subchannels);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "subchannels", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->subchannels, 0, 1);
+      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size4_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size4_subchannels value)
+{
+   int stat = 0;
+   {
+      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
+      uint32_t used = (uint32_t)(last + 1);
+      value.numbits = used <= 4 ? 4 : used;
+      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
+   }
+   RT_SET_SIZE(ctx, 4, 4);
+   stat = pe_BitString32(ctx, &value, 4, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size4(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_r7_subchannelSize_size4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* subchannels */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size4_subchannels(ctx, pvalue->subchannels);
+      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size8_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size8_subchannels value)
+{
+   int stat = 0;
+   {
+      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
+      uint32_t used = (uint32_t)(last + 1);
+      value.numbits = used <= 8 ? 8 : used;
+      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
+   }
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &value, 8, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size8(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_r7_subchannelSize_size8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* subchannels */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size8_subchannels(ctx, pvalue->subchannels);
+      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size16_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size16_subchannels value)
+{
+   int stat = 0;
+   {
+      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
+      uint32_t used = (uint32_t)(last + 1);
+      value.numbits = used <= 16 ? 16 : used;
+      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
+   }
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &value, 16, 16);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size16(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_r7_subchannelSize_size16* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* subchannels */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size16_subchannels(ctx, pvalue->subchannels);
+      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_r7_subchannelSize* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 4);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 4) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.size2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "size2", -1, 0);
+         stat = asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size2(ctx, pvalue->u.size2);
+         RT_CHECK(ctx, stat, 0, "size2", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.size4 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "size4", -1, 0);
+         stat = asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size4(ctx, pvalue->u.size4);
+         RT_CHECK(ctx, stat, 0, "size4", -1, 0);
+         break;
+      case 4:
+         if (pvalue->u.size8 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "size8", -1, 0);
+         stat = asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size8(ctx, pvalue->u.size8);
+         RT_CHECK(ctx, stat, 0, "size8", -1, 0);
+         break;
+      case 5:
+         if (pvalue->u.size16 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "size16", -1, 0);
+         stat = asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size16(ctx, pvalue->u.size16);
+         RT_CHECK(ctx, stat, 0, "size16", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AccessServiceClass_TDD_r7(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AccessServiceClass-TDD-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AccessServiceClass-TDD-r7");
+   /* channelisationCodeIndices */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_AccessServiceClass_TDD_r7_channelisationCodeIndices(ctx, pvalue->channelisationCodeIndices);
+      RT_CHECK(ctx, stat, 0, "channelisationCodeIndices", -1, "AccessServiceClass-TDD-r7");
+   }
+   /* subchannelSize */
+   stat = asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize(ctx, &pvalue->subchannelSize);
+   RT_CHECK(ctx, stat, 0, "subchannelSize", -1, "AccessServiceClass-TDD-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_ASCSetting_TDD_r7(rtxContext* RT_RESTRICT ctx, const ASCSetting_TDD_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ASCSetting-TDD-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ASCSetting-TDD-r7");
+   /* accessServiceClass-TDD */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_AccessServiceClass_TDD_r7(ctx, &pvalue->accessServiceClass_TDD);
+      RT_CHECK(ctx, stat, 0, "accessServiceClass-TDD", -1, "ASCSetting-TDD-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_Partitioning_r7_tdd(rtxContext* RT_RESTRICT ctx, const PRACH_Partitioning_r7_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ASCSetting-TDD-r7", (int32_t)i, 0);
+      stat = asn1PE_UMTS_ASCSetting_TDD_r7(ctx, (const ASCSetting_TDD_r7*)node->data);
+      RT_CHECK(ctx, stat, 0, "ASCSetting-TDD-r7", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_Partitioning_r7(rtxContext* RT_RESTRICT ctx, const PRACH_Partitioning_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-Partitioning-r7");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "PRACH-Partitioning-r7");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PRACH-Partitioning-r7");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, "PRACH-Partitioning-r7");
+         stat = asn1PE_UMTS_PRACH_Partitioning_r7_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "PRACH-Partitioning-r7");
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, "PRACH-Partitioning-r7");
+         stat = asn1PE_UMTS_PRACH_Partitioning_r7_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "PRACH-Partitioning-r7");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_SystemInformation_VHCR_r7(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformation_VHCR_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-SystemInformation-VHCR-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-SystemInformation-VHCR-r7");
+   /* prach-RACH-Info */
+   stat = asn1PE_UMTS_PRACH_RACH_Info_VHCR_r7(ctx, &pvalue->prach_RACH_Info);
+   RT_CHECK(ctx, stat, 0, "prach-RACH-Info", -1, "PRACH-SystemInformation-VHCR-r7");
+   /* prach-Partitioning */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PRACH_Partitioning_r7(ctx, &pvalue->prach_Partitioning);
+      RT_CHECK(ctx, stat, 0, "prach-Partitioning", -1, "PRACH-SystemInformation-VHCR-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_SystemInformationList_VHCR_r7(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformationList_VHCR_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-SystemInformationList-VHCR-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PRACH-SystemInformationList-VHCR-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PRACH-SystemInformation-VHCR-r7", (int32_t)i, "PRACH-SystemInformationList-VHCR-r7");
+      stat = asn1PE_UMTS_PRACH_SystemInformation_VHCR_r7(ctx, (const PRACH_SystemInformation_VHCR_r7*)node->data);
+      RT_CHECK(ctx, stat, 0, "PRACH-SystemInformation-VHCR-r7", (int32_t)i, "PRACH-SystemInformationList-VHCR-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* pusch-SysInfoList-SFN */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PUSCH_SysInfoList_SFN_VHCR(ctx, &pvalue->pusch_SysInfoList_SFN);
+      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
+   }
+   /* pdsch-SysInfoList-SFN */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_PDSCH_SysInfoList_VHCR_r7(ctx, &pvalue->pdsch_SysInfoList_SFN);
+      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
+   }
+   /* prach-SystemInformationList */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_PRACH_SystemInformationList_VHCR_r7(ctx, &pvalue->prach_SystemInformationList);
+      RT_CHECK(ctx, stat, 0, "prach-SystemInformationList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_RACH_Info_LCR_v770ext(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info_LCR_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-RACH-Info-LCR-v770ext");
+   /* e-RUCCH-Sync-UL-Codes-Bitmap */
+   stat = asn1PE_UMTS_Sync_UL_Codes_Bitmap(ctx, pvalue->e_RUCCH_Sync_UL_Codes_Bitmap);
+   RT_CHECK(ctx, stat, 0, "e-RUCCH-Sync-UL-Codes-Bitmap", -1, "PRACH-RACH-Info-LCR-v770ext");
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_SystemInformation_LCR_v770ext(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformation_LCR_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-SystemInformation-LCR-v770ext");
+   /* prach-RACH-Info-LCR */
+   stat = asn1PE_UMTS_PRACH_RACH_Info_LCR_v770ext(ctx, &pvalue->prach_RACH_Info_LCR);
+   RT_CHECK(ctx, stat, 0, "prach-RACH-Info-LCR", -1, "PRACH-SystemInformation-LCR-v770ext");
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_SystemInformationList_LCR_v770ext(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformationList_LCR_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-SystemInformationList-LCR-v770ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PRACH-SystemInformationList-LCR-v770ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PRACH-SystemInformation-LCR-v770ext", (int32_t)i, "PRACH-SystemInformationList-LCR-v770ext");
+      stat = asn1PE_UMTS_PRACH_SystemInformation_LCR_v770ext(ctx, (const PRACH_SystemInformation_LCR_v770ext*)node->data);
+      RT_CHECK(ctx, stat, 0, "PRACH-SystemInformation-LCR-v770ext", (int32_t)i, "PRACH-SystemInformationList-LCR-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* prach-SystemInformationList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PRACH_SystemInformationList_LCR_v770ext(ctx, &pvalue->prach_SystemInformationList);
+      RT_CHECK(ctx, stat, 0, "prach-SystemInformationList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v770ext_IEs_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
+         stat = asn1PE_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768(ctx, pvalue->u.tdd768);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = asn1PE_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 15u) {
+      rtxErrAddStrParm(ctx, "MidambleShiftLong");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
+   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
+         stat = asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type1(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type1* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleConfigurationBurstType1and3 */
+   if (pvalue->midambleConfigurationBurstType1and3 > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType1and3);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->midambleConfigurationBurstType1and3, 0, 2);
+   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
+   /* midambleAllocationMode */
+   stat = asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 5u) {
+      rtxErrAddStrParm(ctx, "MidambleShiftShort");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftShort", "midambleShift", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 5);
+   RT_CHECK(ctx, stat, "MidambleShiftShort", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
+         stat = asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type2(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleConfigurationBurstType2 */
+   if (pvalue->midambleConfigurationBurstType2 > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType2);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MidambleConfigurationBurstType2", "midambleConfigurationBurstType2", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->midambleConfigurationBurstType2, 0, 1);
+   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType2", "midambleConfigurationBurstType2", -1, 0);
+   /* midambleAllocationMode */
+   stat = asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 15u) {
+      rtxErrAddStrParm(ctx, "MidambleShiftLong");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
+   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
+         stat = asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type3(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleConfigurationBurstType1and3 */
+   if (pvalue->midambleConfigurationBurstType1and3 > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType1and3);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->midambleConfigurationBurstType1and3, 0, 2);
+   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
+   /* midambleAllocationMode */
+   stat = asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.type1 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "type1", -1, 0);
+         stat = asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type1(ctx, pvalue->u.type1);
+         RT_CHECK(ctx, stat, 0, "type1", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.type2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "type2", -1, 0);
+         stat = asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type2(ctx, pvalue->u.type2);
+         RT_CHECK(ctx, stat, 0, "type2", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.type3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "type3", -1, 0);
+         stat = asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type3(ctx, pvalue->u.type3);
+         RT_CHECK(ctx, stat, 0, "type3", -1, 0);
+         break;
+      case 4:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_r7(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MidambleShiftAndBurstType-r7");
+   /* burstType */
+   stat = asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType(ctx, &pvalue->burstType);
+   RT_CHECK(ctx, stat, 0, "burstType", -1, "MidambleShiftAndBurstType-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_IndividualTimeslotInfo_r7(rtxContext* RT_RESTRICT ctx, const IndividualTimeslotInfo_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IndividualTimeslotInfo-r7");
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, "IndividualTimeslotInfo-r7");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, "IndividualTimeslotInfo-r7");
+   /* tfci-Existence */
+   stat = rtxEncBit(ctx, pvalue->tfci_Existence);
+   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, "IndividualTimeslotInfo-r7");
+   /* midambleShiftAndBurstType */
+   stat = asn1PE_UMTS_MidambleShiftAndBurstType_r7(ctx, &pvalue->midambleShiftAndBurstType);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "IndividualTimeslotInfo-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* individualTimeslotInfo */
+   stat = asn1PE_UMTS_IndividualTimeslotInfo_r7(ctx, &pvalue->individualTimeslotInfo);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
+   /* channelisationCode */
+   stat = asn1PE_UMTS_SCCPCH_ChannelisationCodeList(ctx, &pvalue->channelisationCode);
+   RT_CHECK(ctx, stat, 0, "channelisationCode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SCCPCH_ChannelisationCode_VHCR(rtxContext* RT_RESTRICT ctx, SCCPCH_ChannelisationCode_VHCR value)
+{
+   int stat = 0;
+   if (value > 31) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SCCPCH-ChannelisationCode-VHCR");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 31);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SCCPCH-ChannelisationCode-VHCR");
+   return 0;
+}
+
+int asn1PE_UMTS_SCCPCH_ChannelisationCodeList_VHCR(rtxContext* RT_RESTRICT ctx, const SCCPCH_ChannelisationCodeList_VHCR* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SCCPCH-ChannelisationCodeList-VHCR");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SCCPCH-ChannelisationCodeList-VHCR");
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 31) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "SCCPCH-ChannelisationCode-VHCR", "SCCPCH-ChannelisationCode-VHCR", (int32_t)i, "SCCPCH-ChannelisationCodeList-VHCR");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 31);
+      RT_CHECK(ctx, stat, "SCCPCH-ChannelisationCode-VHCR", "SCCPCH-ChannelisationCode-VHCR", (int32_t)i, "SCCPCH-ChannelisationCodeList-VHCR");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* individualTimeslotInfo */
+   stat = asn1PE_UMTS_IndividualTimeslotInfo_VHCR(ctx, &pvalue->individualTimeslotInfo);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
+   /* channelisationCode */
+   stat = asn1PE_UMTS_SCCPCH_ChannelisationCodeList_VHCR(ctx, &pvalue->channelisationCode);
+   RT_CHECK(ctx, stat, 0, "channelisationCode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = asn1PE_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
+         stat = asn1PE_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768(ctx, pvalue->u.tdd768);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_HCR_VHCR_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SecondaryCCPCH-Info-HCR-VHCR-r7");
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SecondaryCCPCH-Info-HCR-VHCR-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_TDD768_PICH_CCode(rtxContext* RT_RESTRICT ctx, TDD768_PICH_CCode value)
+{
+   int stat = 0;
+   if (value > 31) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TDD768-PICH-CCode");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 31);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TDD768-PICH-CCode");
+   return 0;
+}
+
+int asn1PE_UMTS_PICH_Info_HCR_VHCR_r7_channelisationCode(rtxContext* RT_RESTRICT ctx, const PICH_Info_HCR_VHCR_r7_channelisationCode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 > 15) {
+            rtxErrAddUIntParm(ctx, pvalue->u.tdd384);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "TDD-PICH-CCode", "tdd384", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.tdd384, 0, 15);
+         RT_CHECK(ctx, stat, "TDD-PICH-CCode", "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd768 > 31) {
+            rtxErrAddUIntParm(ctx, pvalue->u.tdd768);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "TDD768-PICH-CCode", "tdd768", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.tdd768, 0, 31);
+         RT_CHECK(ctx, stat, "TDD768-PICH-CCode", "tdd768", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PICH_Info_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, const PICH_Info_HCR_VHCR_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PICH-Info-HCR-VHCR-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)(pvalue->pagingIndicatorLength != 0) << 2) |
+      ((uint64_t)(pvalue->n_GAP != 1) << 1) |
+      ((uint64_t)(pvalue->n_PCH != 2) << 0), 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PICH-Info-HCR-VHCR-r7");
+   /* channelisationCode */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PICH_Info_HCR_VHCR_r7_channelisationCode(ctx, &pvalue->channelisationCode);
+      RT_CHECK(ctx, stat, 0, "channelisationCode", -1, "PICH-Info-HCR-VHCR-r7");
+   }
+   /* timeslot */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->timeslot > 14u) {
+         rtxErrAddStrParm(ctx, "TimeslotNumber");
+         rtxErrAddUIntParm(ctx, pvalue->timeslot);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslot", -1, "PICH-Info-HCR-VHCR-r7");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 14);
+      RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, "PICH-Info-HCR-VHCR-r7");
+   }
+   /* midambleShiftAndBurstType */
+   stat = asn1PE_UMTS_MidambleShiftAndBurstType(ctx, &pvalue->midambleShiftAndBurstType);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "PICH-Info-HCR-VHCR-r7");
+   /* repetitionPeriodLengthOffset */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_RepPerLengthOffset_PICH(ctx, &pvalue->repetitionPeriodLengthOffset);
+      RT_CHECK(ctx, stat, 0, "repetitionPeriodLengthOffset", -1, "PICH-Info-HCR-VHCR-r7");
+   }
+   /* pagingIndicatorLength */
+   if (pvalue->pagingIndicatorLength != 0) {
+      if (pvalue->pagingIndicatorLength > 2) {
+         rtxErrAddUIntParm(ctx, pvalue->pagingIndicatorLength);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "PagingIndicatorLength", "pagingIndicatorLength", -1, "PICH-Info-HCR-VHCR-r7");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->pagingIndicatorLength, 0, 2);
+      RT_CHECK(ctx, stat, "PagingIndicatorLength", "pagingIndicatorLength", -1, "PICH-Info-HCR-VHCR-r7");
+   }
+   /* n-GAP */
+   if (pvalue->n_GAP != 1) {
+      if (pvalue->n_GAP > 2) {
+         rtxErrAddUIntParm(ctx, pvalue->n_GAP);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "N-GAP", "n-GAP", -1, "PICH-Info-HCR-VHCR-r7");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->n_GAP, 0, 2);
+      RT_CHECK(ctx, stat, "N-GAP", "n-GAP", -1, "PICH-Info-HCR-VHCR-r7");
+   }
+   /* n-PCH */
+   if (pvalue->n_PCH != 2) {
+      if ((uint64_t)(pvalue->n_PCH - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "N-PCH");
+         rtxErrAddUIntParm(ctx, pvalue->n_PCH);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "N-PCH", "n-PCH", -1, "PICH-Info-HCR-VHCR-r7");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->n_PCH, 1, 8);
+      RT_CHECK(ctx, stat, "N-PCH", "n-PCH", -1, "PICH-Info-HCR-VHCR-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SCCPCH_SystemInformation_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation_HCR_VHCR_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SCCPCH-SystemInformation-HCR-VHCR-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SCCPCH-SystemInformation-HCR-VHCR-r7");
+   /* secondaryCCPCH-Info */
+   stat = asn1PE_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7(ctx, &pvalue->secondaryCCPCH_Info);
+   RT_CHECK(ctx, stat, 0, "secondaryCCPCH-Info", -1, "SCCPCH-SystemInformation-HCR-VHCR-r7");
+   /* tfcs */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TFCS(ctx, &pvalue->tfcs);
+      RT_CHECK(ctx, stat, 0, "tfcs", -1, "SCCPCH-SystemInformation-HCR-VHCR-r7");
+   }
+   /* fach-PCH-InformationList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_FACH_PCH_InformationList(ctx, &pvalue->fach_PCH_InformationList);
+      RT_CHECK(ctx, stat, 0, "fach-PCH-InformationList", -1, "SCCPCH-SystemInformation-HCR-VHCR-r7");
+   }
+   /* pich-Info */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_PICH_Info_HCR_VHCR_r7(ctx, &pvalue->pich_Info);
+      RT_CHECK(ctx, stat, 0, "pich-Info", -1, "SCCPCH-SystemInformation-HCR-VHCR-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SCCPCH_SystemInformationList_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformationList_HCR_VHCR_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SCCPCH-SystemInformationList-HCR-VHCR-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SCCPCH-SystemInformationList-HCR-VHCR-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "SCCPCH-SystemInformation-HCR-VHCR-r7", (int32_t)i, "SCCPCH-SystemInformationList-HCR-VHCR-r7");
+      stat = asn1PE_UMTS_SCCPCH_SystemInformation_HCR_VHCR_r7(ctx, (const SCCPCH_SystemInformation_HCR_VHCR_r7*)node->data);
+      RT_CHECK(ctx, stat, 0, "SCCPCH-SystemInformation-HCR-VHCR-r7", (int32_t)i, "SCCPCH-SystemInformationList-HCR-VHCR-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd_modulation(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd_modulation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.mod16QAM < -11 || pvalue->u.mod16QAM > 4) {
+            rtxErrAddStrParm(ctx, "mod16QAM");
+            rtxErrAddIntParm(ctx, pvalue->u.mod16QAM);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "mod16QAM", -1, 0);
+         }
+         stat = pe_ConsInt64(ctx, pvalue->u.mod16QAM, -11, 4);
+         RT_CHECK(ctx, stat, 0, "mod16QAM", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)(pvalue->timingOffset != 0) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* secondaryScramblingCode */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->secondaryScramblingCode - 1) > 14u) {
+         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
+         rtxErrAddUIntParm(ctx, pvalue->secondaryScramblingCode);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "SecondaryScramblingCode", "secondaryScramblingCode", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->secondaryScramblingCode, 1, 15);
+      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, 0);
+   }
+   /* sttd-Indicator */
+   stat = rtxEncBit(ctx, pvalue->sttd_Indicator);
+   RT_CHECK(ctx, stat, 0, "sttd-Indicator", -1, 0);
+   /* sf-AndCodeNumber */
+   stat = asn1PE_UMTS_SF256_AndCodeNumber(ctx, &pvalue->sf_AndCodeNumber);
+   RT_CHECK(ctx, stat, 0, "sf-AndCodeNumber", -1, 0);
+   /* timingOffset */
+   if (pvalue->timingOffset != 0) {
+      if ((uint64_t)pvalue->timingOffset > 149u) {
+         rtxErrAddStrParm(ctx, "TimingOffset");
+         rtxErrAddUIntParm(ctx, pvalue->timingOffset);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "TimingOffset", "timingOffset", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->timingOffset, 0, 149);
+      RT_CHECK(ctx, stat, "TimingOffset", "timingOffset", -1, 0);
+   }
+   /* modulation */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd_modulation(ctx, &pvalue->modulation);
+      RT_CHECK(ctx, stat, 0, "modulation", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkAdditionalTimeslots_r7_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_r7_parameters_sameAsLast* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkAdditionalTimeslots_r7_parameters_newParameters(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_r7_parameters_newParameters* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* individualTimeslotInfo */
+   stat = asn1PE_UMTS_IndividualTimeslotInfo_r7(ctx, &pvalue->individualTimeslotInfo);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
+   /* dl-TS-ChannelisationCodesShort */
+   stat = asn1PE_UMTS_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort);
+   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkAdditionalTimeslots_r7_parameters(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_r7_parameters* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.sameAsLast == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sameAsLast", -1, 0);
+         stat = asn1PE_UMTS_DownlinkAdditionalTimeslots_r7_parameters_sameAsLast(ctx, pvalue->u.sameAsLast);
+         RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.newParameters == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "newParameters", -1, 0);
+         stat = asn1PE_UMTS_DownlinkAdditionalTimeslots_r7_parameters_newParameters(ctx, pvalue->u.newParameters);
+         RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkAdditionalTimeslots_r7(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DownlinkAdditionalTimeslots-r7");
+   /* parameters */
+   stat = asn1PE_UMTS_DownlinkAdditionalTimeslots_r7_parameters(ctx, &pvalue->parameters);
+   RT_CHECK(ctx, stat, 0, "parameters", -1, "DownlinkAdditionalTimeslots-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 13);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DownlinkAdditionalTimeslots-r7", (int32_t)i, 0);
+      stat = asn1PE_UMTS_DownlinkAdditionalTimeslots_r7(ctx, (const DownlinkAdditionalTimeslots_r7*)node->data);
+      RT_CHECK(ctx, stat, 0, "DownlinkAdditionalTimeslots-r7", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)(pvalue->u.consecutive - 1) > 12u) {
+            rtxErrAddStrParm(ctx, "consecutive");
+            rtxErrAddUIntParm(ctx, pvalue->u.consecutive);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "consecutive", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.consecutive, 1, 13);
+         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.timeslotList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "timeslotList", -1, 0);
+         stat = asn1PE_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList);
+         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_r7_moreTimeslots* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.additionalTimeslots == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "additionalTimeslots", -1, 0);
+         stat = asn1PE_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots);
+         RT_CHECK(ctx, stat, 0, "additionalTimeslots", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkTimeslotsCodes_r7(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DownlinkTimeslotsCodes-r7");
+   /* firstIndividualTimeslotInfo */
+   stat = asn1PE_UMTS_IndividualTimeslotInfo_r7(ctx, &pvalue->firstIndividualTimeslotInfo);
+   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "DownlinkTimeslotsCodes-r7");
+   /* dl-TS-ChannelisationCodesShort */
+   stat = asn1PE_UMTS_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort);
+   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, "DownlinkTimeslotsCodes-r7");
+   /* moreTimeslots */
+   stat = asn1PE_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots(ctx, &pvalue->moreTimeslots);
+   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "DownlinkTimeslotsCodes-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384_modulation(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384_modulation value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* commonTimeslotInfoMBMS */
+   stat = asn1PE_UMTS_CommonTimeslotInfoMBMS(ctx, &pvalue->commonTimeslotInfoMBMS);
+   RT_CHECK(ctx, stat, 0, "commonTimeslotInfoMBMS", -1, 0);
+   /* downlinkTimeslotsCodes */
+   stat = asn1PE_UMTS_DownlinkTimeslotsCodes_r7(ctx, &pvalue->downlinkTimeslotsCodes);
+   RT_CHECK(ctx, stat, 0, "downlinkTimeslotsCodes", -1, 0);
+   /* modulation */
+   if (pvalue->modulation > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->modulation);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "modulation", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->modulation, 0, 1);
+   RT_CHECK(ctx, stat, 0, "modulation", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768_modulation(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768_modulation value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* commonTimeslotInfoMBMS */
+   stat = asn1PE_UMTS_CommonTimeslotInfoMBMS(ctx, &pvalue->commonTimeslotInfoMBMS);
+   RT_CHECK(ctx, stat, 0, "commonTimeslotInfoMBMS", -1, 0);
+   /* downlinkTimeslotsCodes */
+   stat = asn1PE_UMTS_DownlinkTimeslotsCodes_VHCR(ctx, &pvalue->downlinkTimeslotsCodes);
+   RT_CHECK(ctx, stat, 0, "downlinkTimeslotsCodes", -1, 0);
+   /* modulation */
+   if (pvalue->modulation > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->modulation);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "modulation", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->modulation, 0, 1);
+   RT_CHECK(ctx, stat, 0, "modulation", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_TimeSlotLCR_ext(rtxContext* RT_RESTRICT ctx, TimeSlotLCR_ext value)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TimeSlotLCR-ext");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimeSlotLCR-ext");
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128_modulation(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128_modulation value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* commonTimeslotInfoMBMS */
+   stat = asn1PE_UMTS_CommonTimeslotInfoMBMS(ctx, &pvalue->commonTimeslotInfoMBMS);
+   RT_CHECK(ctx, stat, 0, "commonTimeslotInfoMBMS", -1, 0);
+   /* downlinkTimeslotsCodes */
+   stat = asn1PE_UMTS_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->downlinkTimeslotsCodes);
+   RT_CHECK(ctx, stat, 0, "downlinkTimeslotsCodes", -1, 0);
+   /* mbsfnSpecialTimeSlot */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->mbsfnSpecialTimeSlot > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->mbsfnSpecialTimeSlot);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TimeSlotLCR-ext", "mbsfnSpecialTimeSlot", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mbsfnSpecialTimeSlot, 0, 3);
+      RT_CHECK(ctx, stat, "TimeSlotLCR-ext", "mbsfnSpecialTimeSlot", -1, 0);
+   }
+   /* modulation */
+   if (pvalue->modulation > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->modulation);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "modulation", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->modulation, 0, 1);
+   RT_CHECK(ctx, stat, 0, "modulation", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
+         stat = asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768(ctx, pvalue->u.tdd768);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 4:
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SecondaryCCPCHInfo-MBMS-r7");
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SecondaryCCPCHInfo-MBMS-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMCCH(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation_MBMS_r7_fachCarryingMCCH* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* mcch-transportFormatSet */
+   stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->mcch_transportFormatSet);
+   RT_CHECK(ctx, stat, 0, "mcch-transportFormatSet", -1, 0);
+   /* mcch-ConfigurationInfo */
+   stat = asn1PE_UMTS_MBMS_MCCH_ConfigurationInfo_r6(ctx, &pvalue->mcch_ConfigurationInfo);
+   RT_CHECK(ctx, stat, 0, "mcch-ConfigurationInfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMSCH(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation_MBMS_r7_fachCarryingMSCH* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* msch-transportFormatSet */
+   stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->msch_transportFormatSet);
+   RT_CHECK(ctx, stat, 0, "msch-transportFormatSet", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SCCPCH_SystemInformation_MBMS_r7(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation_MBMS_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SCCPCH-SystemInformation-MBMS-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SCCPCH-SystemInformation-MBMS-r7");
+   /* secondaryCCPCHInfo-MBMS */
+   stat = asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7(ctx, &pvalue->secondaryCCPCHInfo_MBMS);
+   RT_CHECK(ctx, stat, 0, "secondaryCCPCHInfo-MBMS", -1, "SCCPCH-SystemInformation-MBMS-r7");
+   /* transportFormatCombinationSet */
+   stat = asn1PE_UMTS_TFCS(ctx, &pvalue->transportFormatCombinationSet);
+   RT_CHECK(ctx, stat, 0, "transportFormatCombinationSet", -1, "SCCPCH-SystemInformation-MBMS-r7");
+   /* fachCarryingMCCH */
+   stat = asn1PE_UMTS_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMCCH(ctx, &pvalue->fachCarryingMCCH);
+   RT_CHECK(ctx, stat, 0, "fachCarryingMCCH", -1, "SCCPCH-SystemInformation-MBMS-r7");
+   /* fachCarryingMTCH-List */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBMS_FACHCarryingMTCH_List(ctx, &pvalue->fachCarryingMTCH_List);
+      RT_CHECK(ctx, stat, 0, "fachCarryingMTCH-List", -1, "SCCPCH-SystemInformation-MBMS-r7");
+   }
+   /* fachCarryingMSCH */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMSCH(ctx, &pvalue->fachCarryingMSCH);
+      RT_CHECK(ctx, stat, 0, "fachCarryingMSCH", -1, "SCCPCH-SystemInformation-MBMS-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType5_v770ext_IEs_sccpch_SystemInformation_MBMS(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v770ext_IEs_sccpch_SystemInformation_MBMS* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 0);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 0) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.mcchOnSCCPCHusedOnlyForMBMS == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "mcchOnSCCPCHusedOnlyForMBMS", -1, 0);
+         stat = asn1PE_UMTS_SCCPCH_SystemInformation_MBMS_r7(ctx, pvalue->u.mcchOnSCCPCHusedOnlyForMBMS);
+         RT_CHECK(ctx, stat, 0, "mcchOnSCCPCHusedOnlyForMBMS", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TDD_MBSFNTSlotInfo(rtxContext* RT_RESTRICT ctx, const TDD_MBSFNTSlotInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TDD-MBSFNTSlotInfo");
+   /* timeSlotNumber */
+   if ((uint64_t)pvalue->timeSlotNumber > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeSlotNumber);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeSlotNumber", -1, "TDD-MBSFNTSlotInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeSlotNumber, 0, 14);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeSlotNumber", -1, "TDD-MBSFNTSlotInfo");
+   /* cellParametersID */
+   if ((uint64_t)pvalue->cellParametersID > 127u) {
+      rtxErrAddStrParm(ctx, "CellParametersID");
+      rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "CellParametersID", "cellParametersID", -1, "TDD-MBSFNTSlotInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cellParametersID, 0, 127);
+   RT_CHECK(ctx, stat, "CellParametersID", "cellParametersID", -1, "TDD-MBSFNTSlotInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_TDD_MBSFNInformation(rtxContext* RT_RESTRICT ctx, const TDD_MBSFNInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TDD-MBSFNInformation");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 14);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "TDD-MBSFNInformation");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "TDD-MBSFNTSlotInfo", (int32_t)i, "TDD-MBSFNInformation");
+      stat = asn1PE_UMTS_TDD_MBSFNTSlotInfo(ctx, (const TDD_MBSFNTSlotInfo*)node->data);
+      RT_CHECK(ctx, stat, 0, "TDD-MBSFNTSlotInfo", (int32_t)i, "TDD-MBSFNInformation");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType5_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType5-v770ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5-v770ext-IEs");
+   /* modeSpecificInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+      RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SysInfoType5-v770ext-IEs");
+   }
+   /* sccpch-SystemInformationList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_SCCPCH_SystemInformationList_HCR_VHCR_r7(ctx, &pvalue->sccpch_SystemInformationList);
+      RT_CHECK(ctx, stat, 0, "sccpch-SystemInformationList", -1, "SysInfoType5-v770ext-IEs");
+   }
+   /* sccpch-SystemInformation-MBMS */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_SysInfoType5_v770ext_IEs_sccpch_SystemInformation_MBMS(ctx, &pvalue->sccpch_SystemInformation_MBMS);
+      RT_CHECK(ctx, stat, 0, "sccpch-SystemInformation-MBMS", -1, "SysInfoType5-v770ext-IEs");
+   }
+   /* tDD-MBSFNInformation */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_TDD_MBSFNInformation(ctx, &pvalue->tDD_MBSFNInformation);
+      RT_CHECK(ctx, stat, 0, "tDD-MBSFNInformation", -1, "SysInfoType5-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType5_v860ext_IEs_dummy(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v860ext_IEs_dummy* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_T_321(rtxContext* RT_RESTRICT ctx, T_321 value)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-321");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "T-321");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_DSCH_DrxCycleFach(rtxContext* RT_RESTRICT ctx, HS_DSCH_DrxCycleFach value)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "HS-DSCH-DrxCycleFach");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HS-DSCH-DrxCycleFach");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_DSCH_DrxBurstFach(rtxContext* RT_RESTRICT ctx, HS_DSCH_DrxBurstFach value)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "HS-DSCH-DrxBurstFach");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HS-DSCH-DrxBurstFach");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_DSCH_DrxCellfach_info(rtxContext* RT_RESTRICT ctx, const HS_DSCH_DrxCellfach_info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-DSCH-DrxCellfach-info");
+   /* t-321 */
+   if (pvalue->t_321 > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->t_321);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "T-321", "t-321", -1, "HS-DSCH-DrxCellfach-info");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->t_321, 0, 3);
+   RT_CHECK(ctx, stat, "T-321", "t-321", -1, "HS-DSCH-DrxCellfach-info");
+   /* hs-dsch-DrxCycleFach */
+   if (pvalue->hs_dsch_DrxCycleFach > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->hs_dsch_DrxCycleFach);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-DSCH-DrxCycleFach", "hs-dsch-DrxCycleFach", -1, "HS-DSCH-DrxCellfach-info");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->hs_dsch_DrxCycleFach, 0, 3);
+   RT_CHECK(ctx, stat, "HS-DSCH-DrxCycleFach", "hs-dsch-DrxCycleFach", -1, "HS-DSCH-DrxCellfach-info");
+   /* hs-dsch-DrxBurstFach */
+   if (pvalue->hs_dsch_DrxBurstFach > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->hs_dsch_DrxBurstFach);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-DSCH-DrxBurstFach", "hs-dsch-DrxBurstFach", -1, "HS-DSCH-DrxCellfach-info");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->hs_dsch_DrxBurstFach, 0, 7);
+   RT_CHECK(ctx, stat, "HS-DSCH-DrxBurstFach", "hs-dsch-DrxBurstFach", -1, "HS-DSCH-DrxCellfach-info");
+   /* drxInterruption-hs-dsch */
+   stat = rtxEncBit(ctx, pvalue->drxInterruption_hs_dsch);
+   RT_CHECK(ctx, stat, 0, "drxInterruption-hs-dsch", -1, "HS-DSCH-DrxCellfach-info");
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* hs-dsch-DrxCellfach-info */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HS_DSCH_DrxCellfach_info(ctx, &pvalue->hs_dsch_DrxCellfach_info);
+      RT_CHECK(ctx, stat, 0, "hs-dsch-DrxCellfach-info", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_ChannelisationCode_LCR(rtxContext* RT_RESTRICT ctx, HS_ChannelisationCode_LCR value)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "HS-ChannelisationCode-LCR");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HS-ChannelisationCode-LCR");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_TDD128_r6_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD128_r6_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if ((uint64_t)pvalue->u.ueSpecificMidamble > 15u) {
+            rtxErrAddStrParm(ctx, "ueSpecificMidamble");
+            rtxErrAddUIntParm(ctx, pvalue->u.ueSpecificMidamble);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ueSpecificMidamble", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.ueSpecificMidamble, 0, 15);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 15u) {
+      rtxErrAddStrParm(ctx, "MidambleShiftLong");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
+   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD128_r6_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
+         stat = asn1PE_UMTS_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SICH_Configuration_TDD128_r6(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD128_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SICH-Configuration-TDD128-r6");
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 6u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SICH-Configuration-TDD128-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 6);
+   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SICH-Configuration-TDD128-r6");
+   /* channelisationCode */
+   if (pvalue->channelisationCode > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "channelisationCode", -1, "HS-SICH-Configuration-TDD128-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 15);
+   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "channelisationCode", -1, "HS-SICH-Configuration-TDD128-r6");
+   /* midambleAllocationMode */
+   stat = asn1PE_UMTS_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SICH-Configuration-TDD128-r6");
+   /* midambleConfiguration */
+   if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "midambleConfiguration");
+      rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "midambleConfiguration", -1, "HS-SICH-Configuration-TDD128-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "HS-SICH-Configuration-TDD128-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_TDD128_r6(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD128_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-TDD128-r6");
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 6u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SCCH-TDD128-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 6);
+   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SCCH-TDD128-r6");
+   /* firstChannelisationCode */
+   if (pvalue->firstChannelisationCode > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->firstChannelisationCode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "firstChannelisationCode", -1, "HS-SCCH-TDD128-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->firstChannelisationCode, 0, 15);
+   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "firstChannelisationCode", -1, "HS-SCCH-TDD128-r6");
+   /* secondChannelisationCode */
+   if (pvalue->secondChannelisationCode > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->secondChannelisationCode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "secondChannelisationCode", -1, "HS-SCCH-TDD128-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->secondChannelisationCode, 0, 15);
+   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "secondChannelisationCode", -1, "HS-SCCH-TDD128-r6");
+   /* midambleAllocationMode */
+   stat = asn1PE_UMTS_HS_SCCH_TDD128_r6_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SCCH-TDD128-r6");
+   /* midambleConfiguration */
+   if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "midambleConfiguration");
+      rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "midambleConfiguration", -1, "HS-SCCH-TDD128-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "HS-SCCH-TDD128-r6");
+   /* hs-sich-configuration */
+   stat = asn1PE_UMTS_HS_SICH_Configuration_TDD128_r6(ctx, &pvalue->hs_sich_configuration);
+   RT_CHECK(ctx, stat, 0, "hs-sich-configuration", -1, "HS-SCCH-TDD128-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_SystemInfo_TDD128_hs_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_SystemInfo_TDD128_hs_SCCH_SetConfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
+      stat = asn1PE_UMTS_HS_SCCH_TDD128_r6(ctx, (const HS_SCCH_TDD128_r6*)node->data);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_SystemInfo_TDD128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_SystemInfo_TDD128_tpc_step_size value)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_Bler_Target(rtxContext* RT_RESTRICT ctx, Bler_Target value)
+{
+   int stat = 0;
+   if (value < -63 || value > 0) {
+      rtxErrAddStrParm(ctx, "Bler-Target");
+      rtxErrAddIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "Bler-Target");
+   }
+   stat = pe_ConsInt64(ctx, value, -63, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Bler-Target");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_SystemInfo_TDD128(rtxContext* RT_RESTRICT ctx, const HS_SCCH_SystemInfo_TDD128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-SystemInfo-TDD128");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HS-SCCH-SystemInfo-TDD128");
+   /* hs-SCCH-SetConfiguration */
+   stat = asn1PE_UMTS_HS_SCCH_SystemInfo_TDD128_hs_SCCH_SetConfiguration(ctx, &pvalue->hs_SCCH_SetConfiguration);
+   RT_CHECK(ctx, stat, 0, "hs-SCCH-SetConfiguration", -1, "HS-SCCH-SystemInfo-TDD128");
+   /* power-level-HSSICH */
+   if (pvalue->power_level_HSSICH < -120 || pvalue->power_level_HSSICH > -58) {
+      rtxErrAddStrParm(ctx, "power-level-HSSICH");
+      rtxErrAddIntParm(ctx, pvalue->power_level_HSSICH);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "power-level-HSSICH", -1, "HS-SCCH-SystemInfo-TDD128");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->power_level_HSSICH, -120, -58);
+   RT_CHECK(ctx, stat, 0, "power-level-HSSICH", -1, "HS-SCCH-SystemInfo-TDD128");
+   /* nack-ack-power-offset */
+   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
+      rtxErrAddStrParm(ctx, "nack-ack-power-offset");
+      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "nack-ack-power-offset", -1, "HS-SCCH-SystemInfo-TDD128");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, "HS-SCCH-SystemInfo-TDD128");
+   /* tpc-step-size */
+   if (pvalue->tpc_step_size > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->tpc_step_size);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "tpc-step-size", -1, "HS-SCCH-SystemInfo-TDD128");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->tpc_step_size, 0, 3);
+   RT_CHECK(ctx, stat, 0, "tpc-step-size", -1, "HS-SCCH-SystemInfo-TDD128");
+   /* bler-target */
+   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
+      rtxErrAddStrParm(ctx, "Bler-Target");
+      rtxErrAddIntParm(ctx, pvalue->bler_target);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Bler-Target", "bler-target", -1, "HS-SCCH-SystemInfo-TDD128");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->bler_target, -63, 0);
+   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, "HS-SCCH-SystemInfo-TDD128");
+   /* power-control-gap */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->power_control_gap - 1) > 254u) {
+         rtxErrAddStrParm(ctx, "power-control-gap");
+         rtxErrAddUIntParm(ctx, pvalue->power_control_gap);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "power-control-gap", -1, "HS-SCCH-SystemInfo-TDD128");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->power_control_gap, 1, 255);
+      RT_CHECK(ctx, stat, 0, "power-control-gap", -1, "HS-SCCH-SystemInfo-TDD128");
+   }
+   /* pathloss-compensation-switch */
+   if (pvalue->m & 0x2u) {
+      stat = rtxEncBit(ctx, pvalue->pathloss_compensation_switch);
+      RT_CHECK(ctx, stat, 0, "pathloss-compensation-switch", -1, "HS-SCCH-SystemInfo-TDD128");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_PDSCH_Midamble_Configuration_TDD128_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_PDSCH_Midamble_Configuration_TDD128_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if ((uint64_t)pvalue->u.ueSpecificMidamble > 15u) {
+            rtxErrAddStrParm(ctx, "ueSpecificMidamble");
+            rtxErrAddUIntParm(ctx, pvalue->u.ueSpecificMidamble);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ueSpecificMidamble", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.ueSpecificMidamble, 0, 15);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(rtxContext* RT_RESTRICT ctx, const HS_PDSCH_Midamble_Configuration_TDD128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-PDSCH-Midamble-Configuration-TDD128");
+   /* midambleAllocationMode */
+   stat = asn1PE_UMTS_HS_PDSCH_Midamble_Configuration_TDD128_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-PDSCH-Midamble-Configuration-TDD128");
+   /* midambleConfiguration */
+   if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "midambleConfiguration");
+      rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "midambleConfiguration", -1, "HS-PDSCH-Midamble-Configuration-TDD128");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "HS-PDSCH-Midamble-Configuration-TDD128");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_DSCH_CommonSystemInformation_TDD128_common_H_RNTI_information(rtxContext* RT_RESTRICT ctx, const HS_DSCH_CommonSystemInformation_TDD128_common_H_RNTI_information* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->elem[i]);
+      RT_CHECK(ctx, stat, 0, "H-RNTI", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_DSCH_CommonSystemInformation_TDD128(rtxContext* RT_RESTRICT ctx, const HS_DSCH_CommonSystemInformation_TDD128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-DSCH-CommonSystemInformation-TDD128");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HS-DSCH-CommonSystemInformation-TDD128");
+   /* ccch-MappingInfo */
+   stat = asn1PE_UMTS_CommonRBMappingInfo(ctx, &pvalue->ccch_MappingInfo);
+   RT_CHECK(ctx, stat, 0, "ccch-MappingInfo", -1, "HS-DSCH-CommonSystemInformation-TDD128");
+   /* srb1-MappingInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CommonRBMappingInfo(ctx, &pvalue->srb1_MappingInfo);
+      RT_CHECK(ctx, stat, 0, "srb1-MappingInfo", -1, "HS-DSCH-CommonSystemInformation-TDD128");
+   }
+   /* common-MAC-ehs-ReorderingQueueList */
+   stat = asn1PE_UMTS_Common_MAC_ehs_ReorderingQueueList(ctx, &pvalue->common_MAC_ehs_ReorderingQueueList);
+   RT_CHECK(ctx, stat, 0, "common-MAC-ehs-ReorderingQueueList", -1, "HS-DSCH-CommonSystemInformation-TDD128");
+   /* hs-scch-SystemInfo-tdd128 */
+   stat = asn1PE_UMTS_HS_SCCH_SystemInfo_TDD128(ctx, &pvalue->hs_scch_SystemInfo_tdd128);
+   RT_CHECK(ctx, stat, 0, "hs-scch-SystemInfo-tdd128", -1, "HS-DSCH-CommonSystemInformation-TDD128");
+   /* harq-SystemInfo */
+   stat = asn1PE_UMTS_HARQ_Info(ctx, &pvalue->harq_SystemInfo);
+   RT_CHECK(ctx, stat, 0, "harq-SystemInfo", -1, "HS-DSCH-CommonSystemInformation-TDD128");
+   /* hs-pdsch-MidambleConfiguration */
+   stat = asn1PE_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_pdsch_MidambleConfiguration);
+   RT_CHECK(ctx, stat, 0, "hs-pdsch-MidambleConfiguration", -1, "HS-DSCH-CommonSystemInformation-TDD128");
+   /* common-H-RNTI-information */
+   stat = asn1PE_UMTS_HS_DSCH_CommonSystemInformation_TDD128_common_H_RNTI_information(ctx, &pvalue->common_H_RNTI_information);
+   RT_CHECK(ctx, stat, 0, "common-H-RNTI-information", -1, "HS-DSCH-CommonSystemInformation-TDD128");
+   /* bcchSpecific-H-RNTI */
+   stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->bcchSpecific_H_RNTI);
+   RT_CHECK(ctx, stat, 0, "bcchSpecific-H-RNTI", -1, "HS-DSCH-CommonSystemInformation-TDD128");
+   return 0;
+}
+
+int asn1PE_UMTS_OccurrenceSequenceNumberOfPICH(rtxContext* RT_RESTRICT ctx, OccurrenceSequenceNumberOfPICH value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "OccurrenceSequenceNumberOfPICH");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "OccurrenceSequenceNumberOfPICH");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 16);
+   RT_CHECK(ctx, stat, 0, 0, -1, "OccurrenceSequenceNumberOfPICH");
+   return 0;
+}
+
+int asn1PE_UMTS_PICH_ForHSDPASupportedPaging_TDD128_implicit(rtxContext* RT_RESTRICT ctx, const PICH_ForHSDPASupportedPaging_TDD128_implicit* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* occurrenceSequenceNumberOfPICH */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->occurrenceSequenceNumberOfPICH - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "OccurrenceSequenceNumberOfPICH");
+         rtxErrAddUIntParm(ctx, pvalue->occurrenceSequenceNumberOfPICH);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "OccurrenceSequenceNumberOfPICH", "occurrenceSequenceNumberOfPICH", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->occurrenceSequenceNumberOfPICH, 1, 16);
+      RT_CHECK(ctx, stat, "OccurrenceSequenceNumberOfPICH", "occurrenceSequenceNumberOfPICH", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PICH_ForHSDPASupportedPaging_TDD128(rtxContext* RT_RESTRICT ctx, const PICH_ForHSDPASupportedPaging_TDD128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PICH-ForHSDPASupportedPaging-TDD128");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "PICH-ForHSDPASupportedPaging-TDD128");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PICH-ForHSDPASupportedPaging-TDD128");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.implicit == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "implicit", -1, "PICH-ForHSDPASupportedPaging-TDD128");
+         stat = asn1PE_UMTS_PICH_ForHSDPASupportedPaging_TDD128_implicit(ctx, pvalue->u.implicit);
+         RT_CHECK(ctx, stat, 0, "implicit", -1, "PICH-ForHSDPASupportedPaging-TDD128");
+         break;
+      case 2:
+         if (pvalue->u.explicit_ == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "explicit", -1, "PICH-ForHSDPASupportedPaging-TDD128");
+         stat = asn1PE_UMTS_PICH_Info_LCR_r4(ctx, pvalue->u.explicit_);
+         RT_CHECK(ctx, stat, 0, "explicit", -1, "PICH-ForHSDPASupportedPaging-TDD128");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_DSCH_PagingSystemInformation_TDD128_pich_ForHsdschList(rtxContext* RT_RESTRICT ctx, const HS_DSCH_PagingSystemInformation_TDD128_pich_ForHsdschList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PICH-ForHSDPASupportedPaging-TDD128", (int32_t)i, 0);
+      stat = asn1PE_UMTS_PICH_ForHSDPASupportedPaging_TDD128(ctx, (const PICH_ForHSDPASupportedPaging_TDD128*)node->data);
+      RT_CHECK(ctx, stat, 0, "PICH-ForHSDPASupportedPaging-TDD128", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CodeResourceInformation_TDD128(rtxContext* RT_RESTRICT ctx, const CodeResourceInformation_TDD128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CodeResourceInformation-TDD128");
+   /* start-code */
+   if (pvalue->start_code > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->start_code);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "start-code", -1, "CodeResourceInformation-TDD128");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->start_code, 0, 15);
+   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "start-code", -1, "CodeResourceInformation-TDD128");
+   /* stop-code */
+   if (pvalue->stop_code > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->stop_code);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "stop-code", -1, "CodeResourceInformation-TDD128");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->stop_code, 0, 15);
+   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "stop-code", -1, "CodeResourceInformation-TDD128");
+   return 0;
+}
+
+int asn1PE_UMTS_PCCH_InformationList_paging_associatedHspdschInfo_element(rtxContext* RT_RESTRICT ctx, const PCCH_InformationList_paging_associatedHspdschInfo_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* hs-pdsch-MidambleConfiguration */
+   stat = asn1PE_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_pdsch_MidambleConfiguration);
+   RT_CHECK(ctx, stat, 0, "hs-pdsch-MidambleConfiguration", -1, 0);
+   /* timeslotResourceRelatedInfo */
+   RT_SET_SIZE(ctx, 6, 6);
+   stat = pe_BitString32(ctx, &pvalue->timeslotResourceRelatedInfo, 6, 6);
+   RT_CHECK(ctx, stat, 0, "timeslotResourceRelatedInfo", -1, 0);
+   /* codeResourceInformation */
+   stat = asn1PE_UMTS_CodeResourceInformation_TDD128(ctx, &pvalue->codeResourceInformation);
+   RT_CHECK(ctx, stat, 0, "codeResourceInformation", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PCCH_InformationList_paging_associatedHspdschInfo(rtxContext* RT_RESTRICT ctx, const PCCH_InformationList_paging_associatedHspdschInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
+      stat = asn1PE_UMTS_PCCH_InformationList_paging_associatedHspdschInfo_element(ctx, (const PCCH_InformationList_paging_associatedHspdschInfo_element*)node->data);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PCCH_InformationList_transportBlockSizeList(rtxContext* RT_RESTRICT ctx, const PCCH_InformationList_transportBlockSizeList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 2);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)(pvalue->elem[i] - 1) > 31u) {
+         rtxErrAddStrParm(ctx, "TransportBlockSizeIndex");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportBlockSizeIndex", "TransportBlockSizeIndex", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 1, 32);
+      RT_CHECK(ctx, stat, "TransportBlockSizeIndex", "TransportBlockSizeIndex", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PCCH_InformationList(rtxContext* RT_RESTRICT ctx, const PCCH_InformationList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PCCH-InformationList");
+   /* paging-associatedHspdschInfo */
+   stat = asn1PE_UMTS_PCCH_InformationList_paging_associatedHspdschInfo(ctx, &pvalue->paging_associatedHspdschInfo);
+   RT_CHECK(ctx, stat, 0, "paging-associatedHspdschInfo", -1, "PCCH-InformationList");
+   /* paging-sub-Channel-size */
+   if ((uint64_t)(pvalue->paging_sub_Channel_size - 1) > 2u) {
+      rtxErrAddStrParm(ctx, "paging-sub-Channel-size");
+      rtxErrAddUIntParm(ctx, pvalue->paging_sub_Channel_size);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "paging-sub-Channel-size", -1, "PCCH-InformationList");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->paging_sub_Channel_size, 1, 3);
+   RT_CHECK(ctx, stat, 0, "paging-sub-Channel-size", -1, "PCCH-InformationList");
+   /* transportBlockSizeList */
+   stat = asn1PE_UMTS_PCCH_InformationList_transportBlockSizeList(ctx, &pvalue->transportBlockSizeList);
+   RT_CHECK(ctx, stat, 0, "transportBlockSizeList", -1, "PCCH-InformationList");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_DSCH_PagingSystemInformation_TDD128(rtxContext* RT_RESTRICT ctx, const HS_DSCH_PagingSystemInformation_TDD128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-DSCH-PagingSystemInformation-TDD128");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HS-DSCH-PagingSystemInformation-TDD128");
+   /* pich-ForHsdschList */
+   stat = asn1PE_UMTS_HS_DSCH_PagingSystemInformation_TDD128_pich_ForHsdschList(ctx, &pvalue->pich_ForHsdschList);
+   RT_CHECK(ctx, stat, 0, "pich-ForHsdschList", -1, "HS-DSCH-PagingSystemInformation-TDD128");
+   /* dtch-DCCH-reception-window-size */
+   if ((uint64_t)(pvalue->dtch_DCCH_reception_window_size - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "dtch-DCCH-reception-window-size");
+      rtxErrAddUIntParm(ctx, pvalue->dtch_DCCH_reception_window_size);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "dtch-DCCH-reception-window-size", -1, "HS-DSCH-PagingSystemInformation-TDD128");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->dtch_DCCH_reception_window_size, 1, 16);
+   RT_CHECK(ctx, stat, 0, "dtch-DCCH-reception-window-size", -1, "HS-DSCH-PagingSystemInformation-TDD128");
+   /* pcch-InformationList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PCCH_InformationList(ctx, &pvalue->pcch_InformationList);
+      RT_CHECK(ctx, stat, 0, "pcch-InformationList", -1, "HS-DSCH-PagingSystemInformation-TDD128");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128_hs_dsch_CommonSysInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128_hs_dsch_CommonSysInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* hs-dsch-CommonSystemInformation */
+   stat = asn1PE_UMTS_HS_DSCH_CommonSystemInformation_TDD128(ctx, &pvalue->hs_dsch_CommonSystemInformation);
+   RT_CHECK(ctx, stat, 0, "hs-dsch-CommonSystemInformation", -1, 0);
+   /* hs-dsch-PagingSystemInformation */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HS_DSCH_PagingSystemInformation_TDD128(ctx, &pvalue->hs_dsch_PagingSystemInformation);
+      RT_CHECK(ctx, stat, 0, "hs-dsch-PagingSystemInformation", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_DSCH_DrxCellfach_info_TDD128(rtxContext* RT_RESTRICT ctx, const HS_DSCH_DrxCellfach_info_TDD128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-DSCH-DrxCellfach-info-TDD128");
+   /* t-321 */
+   if (pvalue->t_321 > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->t_321);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "T-321", "t-321", -1, "HS-DSCH-DrxCellfach-info-TDD128");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->t_321, 0, 3);
+   RT_CHECK(ctx, stat, "T-321", "t-321", -1, "HS-DSCH-DrxCellfach-info-TDD128");
+   /* hs-dsch-DrxCycleFach */
+   if (pvalue->hs_dsch_DrxCycleFach > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->hs_dsch_DrxCycleFach);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-DSCH-DrxCycleFach", "hs-dsch-DrxCycleFach", -1, "HS-DSCH-DrxCellfach-info-TDD128");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->hs_dsch_DrxCycleFach, 0, 3);
+   RT_CHECK(ctx, stat, "HS-DSCH-DrxCycleFach", "hs-dsch-DrxCycleFach", -1, "HS-DSCH-DrxCellfach-info-TDD128");
+   /* hs-dsch-DrxBurstFach */
+   if (pvalue->hs_dsch_DrxBurstFach > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->hs_dsch_DrxBurstFach);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-DSCH-DrxBurstFach", "hs-dsch-DrxBurstFach", -1, "HS-DSCH-DrxCellfach-info-TDD128");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->hs_dsch_DrxBurstFach, 0, 7);
+   RT_CHECK(ctx, stat, "HS-DSCH-DrxBurstFach", "hs-dsch-DrxBurstFach", -1, "HS-DSCH-DrxCellfach-info-TDD128");
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* hs-dsch-CommonSysInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128_hs_dsch_CommonSysInfo(ctx, &pvalue->hs_dsch_CommonSysInfo);
+      RT_CHECK(ctx, stat, 0, "hs-dsch-CommonSysInfo", -1, 0);
+   }
+   /* hs-dsch-DrxCellfach-info */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_HS_DSCH_DrxCellfach_info_TDD128(ctx, &pvalue->hs_dsch_DrxCellfach_info);
+      RT_CHECK(ctx, stat, 0, "hs-dsch-DrxCellfach-info", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v860ext_IEs_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = asn1PE_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType5_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType5-v860ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5-v860ext-IEs");
+   /* dummy */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType5_v860ext_IEs_dummy(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "SysInfoType5-v860ext-IEs");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SysInfoType5-v860ext-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_UARFCN(rtxContext* RT_RESTRICT ctx, UARFCN value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 16383u) {
+      rtxErrAddStrParm(ctx, "UARFCN");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UARFCN");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 16383);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UARFCN");
+   return 0;
+}
+
+int asn1PE_UMTS_FrequencyInfoTDD(rtxContext* RT_RESTRICT ctx, const FrequencyInfoTDD* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "FrequencyInfoTDD");
+   /* uarfcn-Nt */
+   if ((uint64_t)pvalue->uarfcn_Nt > 16383u) {
+      rtxErrAddStrParm(ctx, "UARFCN");
+      rtxErrAddUIntParm(ctx, pvalue->uarfcn_Nt);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "UARFCN", "uarfcn-Nt", -1, "FrequencyInfoTDD");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->uarfcn_Nt, 0, 16383);
+   RT_CHECK(ctx, stat, "UARFCN", "uarfcn-Nt", -1, "FrequencyInfoTDD");
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_MAC_d_FlowIdentity(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowIdentity value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 7u) {
+      rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowIdentity");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "E-DCH-MAC-d-FlowIdentity");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-MAC-d-FlowIdentity");
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_MAC_d_FlowPowerOffset(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowPowerOffset value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 6u) {
+      rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowPowerOffset");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "E-DCH-MAC-d-FlowPowerOffset");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-MAC-d-FlowPowerOffset");
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_MAC_d_FlowMaxRetrans(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowMaxRetrans value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 15u) {
+      rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowMaxRetrans");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "E-DCH-MAC-d-FlowMaxRetrans");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-MAC-d-FlowMaxRetrans");
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_MAC_d_FlowMultiplexingList(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowMultiplexingList value)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &value, 8, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-MAC-d-FlowMultiplexingList");
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_MAC_d_FlowRetransTimer(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowRetransTimer value)
+{
+   int stat = 0;
+   if (value > 29) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "E-DCH-MAC-d-FlowRetransTimer");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 29);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-MAC-d-FlowRetransTimer");
+   return 0;
+}
+
+int asn1PE_UMTS_Common_E_DCH_MAC_d_Flow(rtxContext* RT_RESTRICT ctx, const Common_E_DCH_MAC_d_Flow* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Common-E-DCH-MAC-d-Flow");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Common-E-DCH-MAC-d-Flow");
+   /* mac-d-FlowIdentity */
+   if ((uint64_t)pvalue->mac_d_FlowIdentity > 7u) {
+      rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->mac_d_FlowIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DCH-MAC-d-FlowIdentity", "mac-d-FlowIdentity", -1, "Common-E-DCH-MAC-d-Flow");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->mac_d_FlowIdentity, 0, 7);
+   RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowIdentity", "mac-d-FlowIdentity", -1, "Common-E-DCH-MAC-d-Flow");
+   /* mac-d-FlowPowerOffset */
+   if ((uint64_t)pvalue->mac_d_FlowPowerOffset > 6u) {
+      rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowPowerOffset");
+      rtxErrAddUIntParm(ctx, pvalue->mac_d_FlowPowerOffset);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DCH-MAC-d-FlowPowerOffset", "mac-d-FlowPowerOffset", -1, "Common-E-DCH-MAC-d-Flow");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->mac_d_FlowPowerOffset, 0, 6);
+   RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowPowerOffset", "mac-d-FlowPowerOffset", -1, "Common-E-DCH-MAC-d-Flow");
+   /* mac-d-FlowMaxRetrans */
+   if ((uint64_t)pvalue->mac_d_FlowMaxRetrans > 15u) {
+      rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowMaxRetrans");
+      rtxErrAddUIntParm(ctx, pvalue->mac_d_FlowMaxRetrans);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DCH-MAC-d-FlowMaxRetrans", "mac-d-FlowMaxRetrans", -1, "Common-E-DCH-MAC-d-Flow");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->mac_d_FlowMaxRetrans, 0, 15);
+   RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowMaxRetrans", "mac-d-FlowMaxRetrans", -1, "Common-E-DCH-MAC-d-Flow");
+   /* mac-d-FlowMultiplexingList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_E_DCH_MAC_d_FlowMultiplexingList(ctx, pvalue->mac_d_FlowMultiplexingList);
+      RT_CHECK(ctx, stat, 0, "mac-d-FlowMultiplexingList", -1, "Common-E-DCH-MAC-d-Flow");
+   }
+   /* e-dch-mac-d-flow-retransmission-timer */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->e_dch_mac_d_flow_retransmission_timer > 29) {
+         rtxErrAddUIntParm(ctx, pvalue->e_dch_mac_d_flow_retransmission_timer);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "E-DCH-MAC-d-FlowRetransTimer", "e-dch-mac-d-flow-retransmission-timer", -1, "Common-E-DCH-MAC-d-Flow");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->e_dch_mac_d_flow_retransmission_timer, 0, 29);
+      RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowRetransTimer", "e-dch-mac-d-flow-retransmission-timer", -1, "Common-E-DCH-MAC-d-Flow");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Common_E_DCH_MAC_d_FlowList(rtxContext* RT_RESTRICT ctx, const Common_E_DCH_MAC_d_FlowList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Common-E-DCH-MAC-d-FlowList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "Common-E-DCH-MAC-d-FlowList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "Common-E-DCH-MAC-d-Flow", (int32_t)i, "Common-E-DCH-MAC-d-FlowList");
+      stat = asn1PE_UMTS_Common_E_DCH_MAC_d_Flow(ctx, (const Common_E_DCH_MAC_d_Flow*)node->data);
+      RT_CHECK(ctx, stat, 0, "Common-E-DCH-MAC-d-Flow", (int32_t)i, "Common-E-DCH-MAC-d-FlowList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_PreambleForEnhancedUplink(rtxContext* RT_RESTRICT ctx, const PRACH_PreambleForEnhancedUplink* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-PreambleForEnhancedUplink");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 0), 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-PreambleForEnhancedUplink");
+   /* availableSignatures */
+   stat = asn1PE_UMTS_AvailableSignatures(ctx, pvalue->availableSignatures);
+   RT_CHECK(ctx, stat, 0, "availableSignatures", -1, "PRACH-PreambleForEnhancedUplink");
+   /* e-ai-Indication */
+   stat = rtxEncBit(ctx, pvalue->e_ai_Indication);
+   RT_CHECK(ctx, stat, 0, "e-ai-Indication", -1, "PRACH-PreambleForEnhancedUplink");
+   /* preambleScramblingCodeWordNumber */
+   if ((uint64_t)pvalue->preambleScramblingCodeWordNumber > 15u) {
+      rtxErrAddStrParm(ctx, "PreambleScramblingCodeWordNumber");
+      rtxErrAddUIntParm(ctx, pvalue->preambleScramblingCodeWordNumber);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PreambleScramblingCodeWordNumber", "preambleScramblingCodeWordNumber", -1, "PRACH-PreambleForEnhancedUplink");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->preambleScramblingCodeWordNumber, 0, 15);
+   RT_CHECK(ctx, stat, "PreambleScramblingCodeWordNumber", "preambleScramblingCodeWordNumber", -1, "PRACH-PreambleForEnhancedUplink");
+   /* availableSubChannelNumbers */
+   stat = asn1PE_UMTS_AvailableSubChannelNumbers(ctx, pvalue->availableSubChannelNumbers);
+   RT_CHECK(ctx, stat, 0, "availableSubChannelNumbers", -1, "PRACH-PreambleForEnhancedUplink");
+   /* prach-Partitioning */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PRACH_Partitioning_r7(ctx, &pvalue->prach_Partitioning);
+      RT_CHECK(ctx, stat, 0, "prach-Partitioning", -1, "PRACH-PreambleForEnhancedUplink");
+   }
+   /* persistenceScalingFactorList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_PersistenceScalingFactorList(ctx, &pvalue->persistenceScalingFactorList);
+      RT_CHECK(ctx, stat, 0, "persistenceScalingFactorList", -1, "PRACH-PreambleForEnhancedUplink");
+   }
+   /* ac-To-ASC-MappingTable */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_AC_To_ASC_MappingTable(ctx, &pvalue->ac_To_ASC_MappingTable);
+      RT_CHECK(ctx, stat, 0, "ac-To-ASC-MappingTable", -1, "PRACH-PreambleForEnhancedUplink");
+   }
+   /* primaryCPICH-TX-Power */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->primaryCPICH_TX_Power < -10 || pvalue->primaryCPICH_TX_Power > 50) {
+         rtxErrAddStrParm(ctx, "PrimaryCPICH-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->primaryCPICH_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, "PRACH-PreambleForEnhancedUplink");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->primaryCPICH_TX_Power, -10, 50);
+      RT_CHECK(ctx, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, "PRACH-PreambleForEnhancedUplink");
+   }
+   /* constantValue */
+   if (pvalue->m & 0x10u) {
+      if (pvalue->constantValue < -35 || pvalue->constantValue > -10) {
+         rtxErrAddStrParm(ctx, "ConstantValue");
+         rtxErrAddIntParm(ctx, pvalue->constantValue);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "ConstantValue", "constantValue", -1, "PRACH-PreambleForEnhancedUplink");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->constantValue, -35, -10);
+      RT_CHECK(ctx, stat, "ConstantValue", "constantValue", -1, "PRACH-PreambleForEnhancedUplink");
+   }
+   /* prach-PowerOffset */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_PRACH_PowerOffset(ctx, &pvalue->prach_PowerOffset);
+      RT_CHECK(ctx, stat, 0, "prach-PowerOffset", -1, "PRACH-PreambleForEnhancedUplink");
+   }
+   /* rach-TransmissionParameters */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_RACH_TransmissionParameters(ctx, &pvalue->rach_TransmissionParameters);
+      RT_CHECK(ctx, stat, 0, "rach-TransmissionParameters", -1, "PRACH-PreambleForEnhancedUplink");
+   }
+   /* aich-Info */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_AICH_Info(ctx, &pvalue->aich_Info);
+      RT_CHECK(ctx, stat, 0, "aich-Info", -1, "PRACH-PreambleForEnhancedUplink");
+   }
+   /* powerOffsetPp-e */
+   if (pvalue->powerOffsetPp_e < -5 || pvalue->powerOffsetPp_e > 10) {
+      rtxErrAddStrParm(ctx, "powerOffsetPp-e");
+      rtxErrAddIntParm(ctx, pvalue->powerOffsetPp_e);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "powerOffsetPp-e", -1, "PRACH-PreambleForEnhancedUplink");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->powerOffsetPp_e, -5, 10);
+   RT_CHECK(ctx, stat, 0, "powerOffsetPp-e", -1, "PRACH-PreambleForEnhancedUplink");
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_TTI(rtxContext* RT_RESTRICT ctx, E_DCH_TTI value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "E-DCH-TTI");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-TTI");
+   return 0;
+}
+
+int asn1PE_UMTS_E_AGCH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, E_AGCH_ChannelisationCode value)
+{
+   int stat = 0;
+   stat = pe_ConsUInt64(ctx, value, 0, 255);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-AGCH-ChannelisationCode");
+   return 0;
+}
+
+int asn1PE_UMTS_E_AGCH_Information(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-AGCH-Information");
+   /* e-AGCH-ChannelisationCode */
+   stat = pe_ConsUInt64(ctx, pvalue->e_AGCH_ChannelisationCode, 0, 255);
+   RT_CHECK(ctx, stat, "E-AGCH-ChannelisationCode", "e-AGCH-ChannelisationCode", -1, "E-AGCH-Information");
+   return 0;
+}
+
+int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_harq_Info(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_harq_Info value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_TPC_StepSizeFDD(rtxContext* RT_RESTRICT ctx, TPC_StepSizeFDD value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 1u) {
+      rtxErrAddStrParm(ctx, "TPC-StepSizeFDD");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TPC-StepSizeFDD");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TPC-StepSizeFDD");
+   return 0;
+}
+
+int asn1PE_UMTS_PowerControlAlgorithm(rtxContext* RT_RESTRICT ctx, const PowerControlAlgorithm* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PowerControlAlgorithm");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "PowerControlAlgorithm");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PowerControlAlgorithm");
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)pvalue->u.algorithm1 > 1u) {
+            rtxErrAddStrParm(ctx, "TPC-StepSizeFDD");
+            rtxErrAddUIntParm(ctx, pvalue->u.algorithm1);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "TPC-StepSizeFDD", "algorithm1", -1, "PowerControlAlgorithm");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.algorithm1, 0, 1);
+         RT_CHECK(ctx, stat, "TPC-StepSizeFDD", "algorithm1", -1, "PowerControlAlgorithm");
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DeltaACK(rtxContext* RT_RESTRICT ctx, DeltaACK value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 8u) {
+      rtxErrAddStrParm(ctx, "DeltaACK");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DeltaACK");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DeltaACK");
+   return 0;
+}
+
+int asn1PE_UMTS_DeltaNACK(rtxContext* RT_RESTRICT ctx, DeltaNACK value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 8u) {
+      rtxErrAddStrParm(ctx, "DeltaNACK");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DeltaNACK");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DeltaNACK");
+   return 0;
+}
+
+int asn1PE_UMTS_ACK_NACK_repetitionFactor(rtxContext* RT_RESTRICT ctx, ACK_NACK_repetitionFactor value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 3u) {
+      rtxErrAddStrParm(ctx, "ACK-NACK-repetitionFactor");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "ACK-NACK-repetitionFactor");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ACK-NACK-repetitionFactor");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCHpowerControlInfoForCommonEDCH(rtxContext* RT_RESTRICT ctx, const UL_DPCHpowerControlInfoForCommonEDCH* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCHpowerControlInfoForCommonEDCH");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DPCHpowerControlInfoForCommonEDCH");
+   /* powerControlAlgorithm */
+   stat = asn1PE_UMTS_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm);
+   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, "UL-DPCHpowerControlInfoForCommonEDCH");
+   /* deltaACK */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->deltaACK > 8u) {
+         rtxErrAddStrParm(ctx, "DeltaACK");
+         rtxErrAddUIntParm(ctx, pvalue->deltaACK);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaACK", "deltaACK", -1, "UL-DPCHpowerControlInfoForCommonEDCH");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->deltaACK, 0, 8);
+      RT_CHECK(ctx, stat, "DeltaACK", "deltaACK", -1, "UL-DPCHpowerControlInfoForCommonEDCH");
+   }
+   /* deltaNACK */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->deltaNACK > 8u) {
+         rtxErrAddStrParm(ctx, "DeltaNACK");
+         rtxErrAddUIntParm(ctx, pvalue->deltaNACK);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaNACK", "deltaNACK", -1, "UL-DPCHpowerControlInfoForCommonEDCH");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->deltaNACK, 0, 8);
+      RT_CHECK(ctx, stat, "DeltaNACK", "deltaNACK", -1, "UL-DPCHpowerControlInfoForCommonEDCH");
+   }
+   /* ack-NACK-repetition-factor */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)(pvalue->ack_NACK_repetition_factor - 1) > 3u) {
+         rtxErrAddStrParm(ctx, "ACK-NACK-repetitionFactor");
+         rtxErrAddUIntParm(ctx, pvalue->ack_NACK_repetition_factor);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "ACK-NACK-repetitionFactor", "ack-NACK-repetition-factor", -1, "UL-DPCHpowerControlInfoForCommonEDCH");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ack_NACK_repetition_factor, 1, 4);
+      RT_CHECK(ctx, stat, "ACK-NACK-repetitionFactor", "ack-NACK-repetition-factor", -1, "UL-DPCHpowerControlInfoForCommonEDCH");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_DPCCH_DPCCH_PowerOffset(rtxContext* RT_RESTRICT ctx, E_DPCCH_DPCCH_PowerOffset value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 8u) {
+      rtxErrAddStrParm(ctx, "E-DPCCH-DPCCH-PowerOffset");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "E-DPCCH-DPCCH-PowerOffset");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPCCH-DPCCH-PowerOffset");
+   return 0;
+}
+
+int asn1PE_UMTS_HappyBit_DelayCondition(rtxContext* RT_RESTRICT ctx, HappyBit_DelayCondition value)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "HappyBit-DelayCondition");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HappyBit-DelayCondition");
+   return 0;
+}
+
+int asn1PE_UMTS_E_TFC_Boost_Info_r7(rtxContext* RT_RESTRICT ctx, const E_TFC_Boost_Info_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-TFC-Boost-Info-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-TFC-Boost-Info-r7");
+   /* e-TFCI-Boost */
+   if ((uint64_t)pvalue->e_TFCI_Boost > 127u) {
+      rtxErrAddStrParm(ctx, "e-TFCI-Boost");
+      rtxErrAddUIntParm(ctx, pvalue->e_TFCI_Boost);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "e-TFCI-Boost", -1, "E-TFC-Boost-Info-r7");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->e_TFCI_Boost, 0, 127);
+   RT_CHECK(ctx, stat, 0, "e-TFCI-Boost", -1, "E-TFC-Boost-Info-r7");
+   /* delta-T2TP */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->delta_T2TP > 6u) {
+         rtxErrAddStrParm(ctx, "delta-T2TP");
+         rtxErrAddUIntParm(ctx, pvalue->delta_T2TP);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "delta-T2TP", -1, "E-TFC-Boost-Info-r7");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->delta_T2TP, 0, 6);
+      RT_CHECK(ctx, stat, 0, "delta-T2TP", -1, "E-TFC-Boost-Info-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_DPDCH_PowerInterpolation(rtxContext* RT_RESTRICT ctx, E_DPDCH_PowerInterpolation value)
+{
+   int stat = 0;
+   stat = rtxEncBit(ctx, value);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPDCH-PowerInterpolation");
+   return 0;
+}
+
+int asn1PE_UMTS_E_DPCCH_Info_r7(rtxContext* RT_RESTRICT ctx, const E_DPCCH_Info_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-DPCCH-Info-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPCCH-Info-r7");
+   /* e-DPCCH-DPCCH-PowerOffset */
+   if ((uint64_t)pvalue->e_DPCCH_DPCCH_PowerOffset > 8u) {
+      rtxErrAddStrParm(ctx, "E-DPCCH-DPCCH-PowerOffset");
+      rtxErrAddUIntParm(ctx, pvalue->e_DPCCH_DPCCH_PowerOffset);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DPCCH-DPCCH-PowerOffset", "e-DPCCH-DPCCH-PowerOffset", -1, "E-DPCCH-Info-r7");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->e_DPCCH_DPCCH_PowerOffset, 0, 8);
+   RT_CHECK(ctx, stat, "E-DPCCH-DPCCH-PowerOffset", "e-DPCCH-DPCCH-PowerOffset", -1, "E-DPCCH-Info-r7");
+   /* happyBit-DelayCondition */
+   if (pvalue->happyBit_DelayCondition > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->happyBit_DelayCondition);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "HappyBit-DelayCondition", "happyBit-DelayCondition", -1, "E-DPCCH-Info-r7");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->happyBit_DelayCondition, 0, 7);
+   RT_CHECK(ctx, stat, "HappyBit-DelayCondition", "happyBit-DelayCondition", -1, "E-DPCCH-Info-r7");
+   /* e-TFC-Boost-Info */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_E_TFC_Boost_Info_r7(ctx, &pvalue->e_TFC_Boost_Info);
+      RT_CHECK(ctx, stat, 0, "e-TFC-Boost-Info", -1, "E-DPCCH-Info-r7");
+   }
+   /* e-DPDCH-PowerInterpolation */
+   if (pvalue->m & 0x2u) {
+      stat = rtxEncBit(ctx, pvalue->e_DPDCH_PowerInterpolation);
+      RT_CHECK(ctx, stat, "E-DPDCH-PowerInterpolation", "e-DPDCH-PowerInterpolation", -1, "E-DPCCH-Info-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_TFCI_TableIndex(rtxContext* RT_RESTRICT ctx, E_TFCI_TableIndex value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 1u) {
+      rtxErrAddStrParm(ctx, "E-TFCI-TableIndex");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "E-TFCI-TableIndex");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-TFCI-TableIndex");
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_MinimumSet_E_TFCI(rtxContext* RT_RESTRICT ctx, E_DCH_MinimumSet_E_TFCI value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 127u) {
+      rtxErrAddStrParm(ctx, "E-DCH-MinimumSet-E-TFCI");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "E-DCH-MinimumSet-E-TFCI");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 127);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-MinimumSet-E-TFCI");
+   return 0;
+}
+
+int asn1PE_UMTS_E_DPDCH_Reference_E_TFCI_r7(rtxContext* RT_RESTRICT ctx, const E_DPDCH_Reference_E_TFCI_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-DPDCH-Reference-E-TFCI-r7");
+   /* reference-E-TFCI */
+   if ((uint64_t)pvalue->reference_E_TFCI > 127u) {
+      rtxErrAddStrParm(ctx, "reference-E-TFCI");
+      rtxErrAddUIntParm(ctx, pvalue->reference_E_TFCI);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "reference-E-TFCI", -1, "E-DPDCH-Reference-E-TFCI-r7");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->reference_E_TFCI, 0, 127);
+   RT_CHECK(ctx, stat, 0, "reference-E-TFCI", -1, "E-DPDCH-Reference-E-TFCI-r7");
+   /* reference-E-TFCI-PO-r7 */
+   if ((uint64_t)pvalue->reference_E_TFCI_PO_r7 > 31u) {
+      rtxErrAddStrParm(ctx, "reference-E-TFCI-PO-r7");
+      rtxErrAddUIntParm(ctx, pvalue->reference_E_TFCI_PO_r7);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "reference-E-TFCI-PO-r7", -1, "E-DPDCH-Reference-E-TFCI-r7");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->reference_E_TFCI_PO_r7, 0, 31);
+   RT_CHECK(ctx, stat, 0, "reference-E-TFCI-PO-r7", -1, "E-DPDCH-Reference-E-TFCI-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_E_DPDCH_Reference_E_TFCIList_r7(rtxContext* RT_RESTRICT ctx, const E_DPDCH_Reference_E_TFCIList_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-DPDCH-Reference-E-TFCIList-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "E-DPDCH-Reference-E-TFCIList-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "E-DPDCH-Reference-E-TFCI-r7", (int32_t)i, "E-DPDCH-Reference-E-TFCIList-r7");
+      stat = asn1PE_UMTS_E_DPDCH_Reference_E_TFCI_r7(ctx, (const E_DPDCH_Reference_E_TFCI_r7*)node->data);
+      RT_CHECK(ctx, stat, 0, "E-DPDCH-Reference-E-TFCI-r7", (int32_t)i, "E-DPDCH-Reference-E-TFCIList-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MinReduced_E_DPDCH_GainFactor(rtxContext* RT_RESTRICT ctx, MinReduced_E_DPDCH_GainFactor value)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MinReduced-E-DPDCH-GainFactor");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MinReduced-E-DPDCH-GainFactor");
+   return 0;
+}
+
+int asn1PE_UMTS_E_DPDCH_MaxChannelisationCodes(rtxContext* RT_RESTRICT ctx, E_DPDCH_MaxChannelisationCodes value)
+{
+   int stat = 0;
+   if (value > 9) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "E-DPDCH-MaxChannelisationCodes");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 9);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPDCH-MaxChannelisationCodes");
+   return 0;
+}
+
+int asn1PE_UMTS_E_DPDCH_PL_NonMax(rtxContext* RT_RESTRICT ctx, E_DPDCH_PL_NonMax value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 11) > 14u) {
+      rtxErrAddStrParm(ctx, "E-DPDCH-PL-NonMax");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "E-DPDCH-PL-NonMax");
+   }
+   stat = pe_ConsUInt64(ctx, value, 11, 25);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPDCH-PL-NonMax");
+   return 0;
+}
+
+int asn1PE_UMTS_E_DPDCH_PeriodicyOfSchedInfo(rtxContext* RT_RESTRICT ctx, E_DPDCH_PeriodicyOfSchedInfo value)
+{
+   int stat = 0;
+   if (value > 8) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "E-DPDCH-PeriodicyOfSchedInfo");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPDCH-PeriodicyOfSchedInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_E_DPDCH_SchedulingInfoConfiguration(rtxContext* RT_RESTRICT ctx, const E_DPDCH_SchedulingInfoConfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-DPDCH-SchedulingInfoConfiguration");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPDCH-SchedulingInfoConfiguration");
+   /* periodicityOfSchedInfo-NoGrant */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->periodicityOfSchedInfo_NoGrant > 8) {
+         rtxErrAddUIntParm(ctx, pvalue->periodicityOfSchedInfo_NoGrant);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "E-DPDCH-PeriodicyOfSchedInfo", "periodicityOfSchedInfo-NoGrant", -1, "E-DPDCH-SchedulingInfoConfiguration");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->periodicityOfSchedInfo_NoGrant, 0, 8);
+      RT_CHECK(ctx, stat, "E-DPDCH-PeriodicyOfSchedInfo", "periodicityOfSchedInfo-NoGrant", -1, "E-DPDCH-SchedulingInfoConfiguration");
+   }
+   /* periodicityOfSchedInfo-Grant */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->periodicityOfSchedInfo_Grant > 8) {
+         rtxErrAddUIntParm(ctx, pvalue->periodicityOfSchedInfo_Grant);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "E-DPDCH-PeriodicyOfSchedInfo", "periodicityOfSchedInfo-Grant", -1, "E-DPDCH-SchedulingInfoConfiguration");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->periodicityOfSchedInfo_Grant, 0, 8);
+      RT_CHECK(ctx, stat, "E-DPDCH-PeriodicyOfSchedInfo", "periodicityOfSchedInfo-Grant", -1, "E-DPDCH-SchedulingInfoConfiguration");
+   }
+   /* powerOffsetForSchedInfo */
+   if ((uint64_t)pvalue->powerOffsetForSchedInfo > 6u) {
+      rtxErrAddStrParm(ctx, "powerOffsetForSchedInfo");
+      rtxErrAddUIntParm(ctx, pvalue->powerOffsetForSchedInfo);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "powerOffsetForSchedInfo", -1, "E-DPDCH-SchedulingInfoConfiguration");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->powerOffsetForSchedInfo, 0, 6);
+   RT_CHECK(ctx, stat, 0, "powerOffsetForSchedInfo", -1, "E-DPDCH-SchedulingInfoConfiguration");
+   return 0;
+}
+
+int asn1PE_UMTS_E_DPDCH_Info_r8(rtxContext* RT_RESTRICT ctx, const E_DPDCH_Info_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-DPDCH-Info-r8");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPDCH-Info-r8");
+   /* e-TFCI-TableIndex */
+   if ((uint64_t)pvalue->e_TFCI_TableIndex > 1u) {
+      rtxErrAddStrParm(ctx, "E-TFCI-TableIndex");
+      rtxErrAddUIntParm(ctx, pvalue->e_TFCI_TableIndex);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "E-TFCI-TableIndex", "e-TFCI-TableIndex", -1, "E-DPDCH-Info-r8");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->e_TFCI_TableIndex, 0, 1);
+   RT_CHECK(ctx, stat, "E-TFCI-TableIndex", "e-TFCI-TableIndex", -1, "E-DPDCH-Info-r8");
+   /* e-DCH-MinimumSet-E-TFCI */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->e_DCH_MinimumSet_E_TFCI > 127u) {
+         rtxErrAddStrParm(ctx, "E-DCH-MinimumSet-E-TFCI");
+         rtxErrAddUIntParm(ctx, pvalue->e_DCH_MinimumSet_E_TFCI);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DCH-MinimumSet-E-TFCI", "e-DCH-MinimumSet-E-TFCI", -1, "E-DPDCH-Info-r8");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->e_DCH_MinimumSet_E_TFCI, 0, 127);
+      RT_CHECK(ctx, stat, "E-DCH-MinimumSet-E-TFCI", "e-DCH-MinimumSet-E-TFCI", -1, "E-DPDCH-Info-r8");
+   }
+   /* reference-E-TFCIs */
+   stat = asn1PE_UMTS_E_DPDCH_Reference_E_TFCIList_r7(ctx, &pvalue->reference_E_TFCIs);
+   RT_CHECK(ctx, stat, 0, "reference-E-TFCIs", -1, "E-DPDCH-Info-r8");
+   /* minReduced-E-DPDCH-GainFactor */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->minReduced_E_DPDCH_GainFactor > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->minReduced_E_DPDCH_GainFactor);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MinReduced-E-DPDCH-GainFactor", "minReduced-E-DPDCH-GainFactor", -1, "E-DPDCH-Info-r8");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->minReduced_E_DPDCH_GainFactor, 0, 7);
+      RT_CHECK(ctx, stat, "MinReduced-E-DPDCH-GainFactor", "minReduced-E-DPDCH-GainFactor", -1, "E-DPDCH-Info-r8");
+   }
+   /* maxChannelisationCodes */
+   if (pvalue->maxChannelisationCodes > 9) {
+      rtxErrAddUIntParm(ctx, pvalue->maxChannelisationCodes);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "E-DPDCH-MaxChannelisationCodes", "maxChannelisationCodes", -1, "E-DPDCH-Info-r8");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxChannelisationCodes, 0, 9);
+   RT_CHECK(ctx, stat, "E-DPDCH-MaxChannelisationCodes", "maxChannelisationCodes", -1, "E-DPDCH-Info-r8");
+   /* pl-NonMax */
+   if ((uint64_t)(pvalue->pl_NonMax - 11) > 14u) {
+      rtxErrAddStrParm(ctx, "E-DPDCH-PL-NonMax");
+      rtxErrAddUIntParm(ctx, pvalue->pl_NonMax);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DPDCH-PL-NonMax", "pl-NonMax", -1, "E-DPDCH-Info-r8");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->pl_NonMax, 11, 25);
+   RT_CHECK(ctx, stat, "E-DPDCH-PL-NonMax", "pl-NonMax", -1, "E-DPDCH-Info-r8");
+   /* schedulingInfoConfiguration */
+   stat = asn1PE_UMTS_E_DPDCH_SchedulingInfoConfiguration(ctx, &pvalue->schedulingInfoConfiguration);
+   RT_CHECK(ctx, stat, 0, "schedulingInfoConfiguration", -1, "E-DPDCH-Info-r8");
+   /* threeIndexStepThreshold */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)pvalue->threeIndexStepThreshold > 37u) {
+         rtxErrAddStrParm(ctx, "threeIndexStepThreshold");
+         rtxErrAddUIntParm(ctx, pvalue->threeIndexStepThreshold);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "threeIndexStepThreshold", -1, "E-DPDCH-Info-r8");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->threeIndexStepThreshold, 0, 37);
+      RT_CHECK(ctx, stat, 0, "threeIndexStepThreshold", -1, "E-DPDCH-Info-r8");
+   }
+   /* twoIndexStepThreshold */
+   if (pvalue->m & 0x8u) {
+      if ((uint64_t)pvalue->twoIndexStepThreshold > 37u) {
+         rtxErrAddStrParm(ctx, "twoIndexStepThreshold");
+         rtxErrAddUIntParm(ctx, pvalue->twoIndexStepThreshold);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "twoIndexStepThreshold", -1, "E-DPDCH-Info-r8");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->twoIndexStepThreshold, 0, 37);
+      RT_CHECK(ctx, stat, 0, "twoIndexStepThreshold", -1, "E-DPDCH-Info-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_max_CCCH_ResourceAllocation(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_max_CCCH_ResourceAllocation value)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_e_dch_TransmitContinuationOffset(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_e_dch_TransmitContinuationOffset value)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementPowerOffset(rtxContext* RT_RESTRICT ctx, MeasurementPowerOffset value)
+{
+   int stat = 0;
+   if (value < -12 || value > 26) {
+      rtxErrAddStrParm(ctx, "MeasurementPowerOffset");
+      rtxErrAddIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MeasurementPowerOffset");
+   }
+   stat = pe_ConsInt64(ctx, value, -12, 26);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementPowerOffset");
+   return 0;
+}
+
+int asn1PE_UMTS_Feedback_cycle_r7(rtxContext* RT_RESTRICT ctx, Feedback_cycle_r7 value)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "Feedback-cycle-r7");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Feedback-cycle-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_CQI_RepetitionFactor(rtxContext* RT_RESTRICT ctx, CQI_RepetitionFactor value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 3u) {
+      rtxErrAddStrParm(ctx, "CQI-RepetitionFactor");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "CQI-RepetitionFactor");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CQI-RepetitionFactor");
+   return 0;
+}
+
+int asn1PE_UMTS_DeltaCQI(rtxContext* RT_RESTRICT ctx, DeltaCQI value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 8u) {
+      rtxErrAddStrParm(ctx, "DeltaCQI");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DeltaCQI");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DeltaCQI");
+   return 0;
+}
+
+int asn1PE_UMTS_Measurement_Feedback_Info_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const Measurement_Feedback_Info_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* measurementPowerOffset */
+   if (pvalue->measurementPowerOffset < -12 || pvalue->measurementPowerOffset > 26) {
+      rtxErrAddStrParm(ctx, "MeasurementPowerOffset");
+      rtxErrAddIntParm(ctx, pvalue->measurementPowerOffset);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementPowerOffset", "measurementPowerOffset", -1, 0);
+   }
+   stat = pe_ConsInt64(ctx, pvalue->measurementPowerOffset, -12, 26);
+   RT_CHECK(ctx, stat, "MeasurementPowerOffset", "measurementPowerOffset", -1, 0);
+   /* feedback-cycle */
+   if (pvalue->feedback_cycle > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->feedback_cycle);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "Feedback-cycle-r7", "feedback-cycle", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->feedback_cycle, 0, 15);
+   RT_CHECK(ctx, stat, "Feedback-cycle-r7", "feedback-cycle", -1, 0);
+   /* cqi-RepetitionFactor */
+   if ((uint64_t)(pvalue->cqi_RepetitionFactor - 1) > 3u) {
+      rtxErrAddStrParm(ctx, "CQI-RepetitionFactor");
+      rtxErrAddUIntParm(ctx, pvalue->cqi_RepetitionFactor);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "CQI-RepetitionFactor", "cqi-RepetitionFactor", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cqi_RepetitionFactor, 1, 4);
+   RT_CHECK(ctx, stat, "CQI-RepetitionFactor", "cqi-RepetitionFactor", -1, 0);
+   /* deltaCQI */
+   if ((uint64_t)pvalue->deltaCQI > 8u) {
+      rtxErrAddStrParm(ctx, "DeltaCQI");
+      rtxErrAddUIntParm(ctx, pvalue->deltaCQI);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaCQI", "deltaCQI", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->deltaCQI, 0, 8);
+   RT_CHECK(ctx, stat, "DeltaCQI", "deltaCQI", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_Measurement_Feedback_Info_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const Measurement_Feedback_Info_r7_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_Measurement_Feedback_Info_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Measurement_Feedback_Info_r7(rtxContext* RT_RESTRICT ctx, const Measurement_Feedback_Info_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Measurement-Feedback-Info-r7");
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_Measurement_Feedback_Info_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "Measurement-Feedback-Info-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_E_HICH_RGCH_SignatureSequence(rtxContext* RT_RESTRICT ctx, E_HICH_RGCH_SignatureSequence value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 39u) {
+      rtxErrAddStrParm(ctx, "E-HICH-RGCH-SignatureSequence");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "E-HICH-RGCH-SignatureSequence");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 39);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-HICH-RGCH-SignatureSequence");
+   return 0;
+}
+
+int asn1PE_UMTS_E_RGCH_CombinationIndex(rtxContext* RT_RESTRICT ctx, E_RGCH_CombinationIndex value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 5u) {
+      rtxErrAddStrParm(ctx, "E-RGCH-CombinationIndex");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "E-RGCH-CombinationIndex");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-RGCH-CombinationIndex");
+   return 0;
+}
+
+int asn1PE_UMTS_E_RGCH_Information(rtxContext* RT_RESTRICT ctx, const E_RGCH_Information* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-RGCH-Information");
+   /* signatureSequence */
+   if ((uint64_t)pvalue->signatureSequence > 39u) {
+      rtxErrAddStrParm(ctx, "E-HICH-RGCH-SignatureSequence");
+      rtxErrAddUIntParm(ctx, pvalue->signatureSequence);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "E-HICH-RGCH-SignatureSequence", "signatureSequence", -1, "E-RGCH-Information");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->signatureSequence, 0, 39);
+   RT_CHECK(ctx, stat, "E-HICH-RGCH-SignatureSequence", "signatureSequence", -1, "E-RGCH-Information");
+   /* rg-CombinationIndex */
+   if ((uint64_t)pvalue->rg_CombinationIndex > 5u) {
+      rtxErrAddStrParm(ctx, "E-RGCH-CombinationIndex");
+      rtxErrAddUIntParm(ctx, pvalue->rg_CombinationIndex);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "E-RGCH-CombinationIndex", "rg-CombinationIndex", -1, "E-RGCH-Information");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rg_CombinationIndex, 0, 5);
+   RT_CHECK(ctx, stat, "E-RGCH-CombinationIndex", "rg-CombinationIndex", -1, "E-RGCH-Information");
+   return 0;
+}
+
+int asn1PE_UMTS_E_HICH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, E_HICH_ChannelisationCode value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 127u) {
+      rtxErrAddStrParm(ctx, "E-HICH-ChannelisationCode");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "E-HICH-ChannelisationCode");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 127);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-HICH-ChannelisationCode");
+   return 0;
+}
+
+int asn1PE_UMTS_E_HICH_Information(rtxContext* RT_RESTRICT ctx, const E_HICH_Information* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-HICH-Information");
+   /* channelisationCode */
+   if ((uint64_t)pvalue->channelisationCode > 127u) {
+      rtxErrAddStrParm(ctx, "E-HICH-ChannelisationCode");
+      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "E-HICH-ChannelisationCode", "channelisationCode", -1, "E-HICH-Information");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 127);
+   RT_CHECK(ctx, stat, "E-HICH-ChannelisationCode", "channelisationCode", -1, "E-HICH-Information");
+   /* signatureSequence */
+   if ((uint64_t)pvalue->signatureSequence > 39u) {
+      rtxErrAddStrParm(ctx, "E-HICH-RGCH-SignatureSequence");
+      rtxErrAddUIntParm(ctx, pvalue->signatureSequence);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "E-HICH-RGCH-SignatureSequence", "signatureSequence", -1, "E-HICH-Information");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->signatureSequence, 0, 39);
+   RT_CHECK(ctx, stat, "E-HICH-RGCH-SignatureSequence", "signatureSequence", -1, "E-HICH-Information");
+   return 0;
+}
+
+int asn1PE_UMTS_ScramblingCodeType(rtxContext* RT_RESTRICT ctx, ScramblingCodeType value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ScramblingCodeType");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ScramblingCodeType");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_ScramblingCode(rtxContext* RT_RESTRICT ctx, UL_ScramblingCode value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 16777215u) {
+      rtxErrAddStrParm(ctx, "UL-ScramblingCode");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UL-ScramblingCode");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 16777215);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-ScramblingCode");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_CodeInfoForCommonEDCH(rtxContext* RT_RESTRICT ctx, const UL_DPCH_CodeInfoForCommonEDCH* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-CodeInfoForCommonEDCH");
+   /* ul-DPCCHscramblingCodeType */
+   if (pvalue->ul_DPCCHscramblingCodeType > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->ul_DPCCHscramblingCodeType);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ScramblingCodeType", "ul-DPCCHscramblingCodeType", -1, "UL-DPCH-CodeInfoForCommonEDCH");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ul_DPCCHscramblingCodeType, 0, 1);
+   RT_CHECK(ctx, stat, "ScramblingCodeType", "ul-DPCCHscramblingCodeType", -1, "UL-DPCH-CodeInfoForCommonEDCH");
+   /* ul-DPCCHscramblingCode */
+   if ((uint64_t)pvalue->ul_DPCCHscramblingCode > 16777215u) {
+      rtxErrAddStrParm(ctx, "UL-ScramblingCode");
+      rtxErrAddUIntParm(ctx, pvalue->ul_DPCCHscramblingCode);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-ScramblingCode", "ul-DPCCHscramblingCode", -1, "UL-DPCH-CodeInfoForCommonEDCH");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ul_DPCCHscramblingCode, 0, 16777215);
+   RT_CHECK(ctx, stat, "UL-ScramblingCode", "ul-DPCCHscramblingCode", -1, "UL-DPCH-CodeInfoForCommonEDCH");
+   return 0;
+}
+
+int asn1PE_UMTS_Common_E_DCH_ResourceInfoList(rtxContext* RT_RESTRICT ctx, const Common_E_DCH_ResourceInfoList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Common-E-DCH-ResourceInfoList");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Common-E-DCH-ResourceInfoList");
+   /* s-offset */
+   if ((uint64_t)pvalue->s_offset > 9u) {
+      rtxErrAddStrParm(ctx, "s-offset");
+      rtxErrAddUIntParm(ctx, pvalue->s_offset);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "s-offset", -1, "Common-E-DCH-ResourceInfoList");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->s_offset, 0, 9);
+   RT_CHECK(ctx, stat, 0, "s-offset", -1, "Common-E-DCH-ResourceInfoList");
+   /* f-dpch-ChannelisationCodeNumber */
+   stat = pe_ConsUInt64(ctx, pvalue->f_dpch_ChannelisationCodeNumber, 0, 255);
+   RT_CHECK(ctx, stat, 0, "f-dpch-ChannelisationCodeNumber", -1, "Common-E-DCH-ResourceInfoList");
+   /* e-RGCH-Information */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_E_RGCH_Information(ctx, &pvalue->e_RGCH_Information);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, "Common-E-DCH-ResourceInfoList");
+   }
+   /* e-hich-Info */
+   stat = asn1PE_UMTS_E_HICH_Information(ctx, &pvalue->e_hich_Info);
+   RT_CHECK(ctx, stat, 0, "e-hich-Info", -1, "Common-E-DCH-ResourceInfoList");
+   /* ul-DPCH-CodeInfoForCommonEDCH */
+   stat = asn1PE_UMTS_UL_DPCH_CodeInfoForCommonEDCH(ctx, &pvalue->ul_DPCH_CodeInfoForCommonEDCH);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-CodeInfoForCommonEDCH", -1, "Common-E-DCH-ResourceInfoList");
+   return 0;
+}
+
+int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_common_E_DCH_ResourceInfoList(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfo_modeSpecificInfo_fdd_common_E_DCH_ResourceInfoList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "Common-E-DCH-ResourceInfoList", (int32_t)i, 0);
+      stat = asn1PE_UMTS_Common_E_DCH_ResourceInfoList(ctx, (const Common_E_DCH_ResourceInfoList*)node->data);
+      RT_CHECK(ctx, stat, 0, "Common-E-DCH-ResourceInfoList", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* prach-PreambleForEnhancedUplink */
+   stat = asn1PE_UMTS_PRACH_PreambleForEnhancedUplink(ctx, &pvalue->prach_PreambleForEnhancedUplink);
+   RT_CHECK(ctx, stat, 0, "prach-PreambleForEnhancedUplink", -1, 0);
+   /* initialServingGrantValue */
+   if ((uint64_t)pvalue->initialServingGrantValue > 37u) {
+      rtxErrAddStrParm(ctx, "initialServingGrantValue");
+      rtxErrAddUIntParm(ctx, pvalue->initialServingGrantValue);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "initialServingGrantValue", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->initialServingGrantValue, 0, 37);
+   RT_CHECK(ctx, stat, 0, "initialServingGrantValue", -1, 0);
+   /* e-dch-TTI */
+   if (pvalue->e_dch_TTI > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->e_dch_TTI);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "E-DCH-TTI", "e-dch-TTI", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->e_dch_TTI, 0, 1);
+   RT_CHECK(ctx, stat, "E-DCH-TTI", "e-dch-TTI", -1, 0);
+   /* e-agch-Information */
+   stat = asn1PE_UMTS_E_AGCH_Information(ctx, &pvalue->e_agch_Information);
+   RT_CHECK(ctx, stat, 0, "e-agch-Information", -1, 0);
+   /* harq-Info */
+   if (pvalue->harq_Info > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->harq_Info);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "harq-Info", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->harq_Info, 0, 1);
+   RT_CHECK(ctx, stat, 0, "harq-Info", -1, 0);
+   /* ul-DPCHpowerControlInfoForCommonEDCH */
+   stat = asn1PE_UMTS_UL_DPCHpowerControlInfoForCommonEDCH(ctx, &pvalue->ul_DPCHpowerControlInfoForCommonEDCH);
+   RT_CHECK(ctx, stat, 0, "ul-DPCHpowerControlInfoForCommonEDCH", -1, 0);
+   /* e-dpcch-Info */
+   stat = asn1PE_UMTS_E_DPCCH_Info_r7(ctx, &pvalue->e_dpcch_Info);
+   RT_CHECK(ctx, stat, 0, "e-dpcch-Info", -1, 0);
+   /* e-dpdch-Info */
+   stat = asn1PE_UMTS_E_DPDCH_Info_r8(ctx, &pvalue->e_dpdch_Info);
+   RT_CHECK(ctx, stat, 0, "e-dpdch-Info", -1, 0);
+   /* dl-FDPCH-TPCcommandErrorRate */
+   if ((uint64_t)(pvalue->dl_FDPCH_TPCcommandErrorRate - 1) > 9u) {
+      rtxErrAddStrParm(ctx, "dl-FDPCH-TPCcommandErrorRate");
+      rtxErrAddUIntParm(ctx, pvalue->dl_FDPCH_TPCcommandErrorRate);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "dl-FDPCH-TPCcommandErrorRate", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->dl_FDPCH_TPCcommandErrorRate, 1, 10);
+   RT_CHECK(ctx, stat, 0, "dl-FDPCH-TPCcommandErrorRate", -1, 0);
+   /* additional-E-DCH-TransmitBackoff */
+   if ((uint64_t)pvalue->additional_E_DCH_TransmitBackoff > 15u) {
+      rtxErrAddStrParm(ctx, "additional-E-DCH-TransmitBackoff");
+      rtxErrAddUIntParm(ctx, pvalue->additional_E_DCH_TransmitBackoff);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "additional-E-DCH-TransmitBackoff", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->additional_E_DCH_TransmitBackoff, 0, 15);
+   RT_CHECK(ctx, stat, 0, "additional-E-DCH-TransmitBackoff", -1, 0);
+   /* max-CCCH-ResourceAllocation */
+   if (pvalue->max_CCCH_ResourceAllocation > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->max_CCCH_ResourceAllocation);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "max-CCCH-ResourceAllocation", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->max_CCCH_ResourceAllocation, 0, 7);
+   RT_CHECK(ctx, stat, 0, "max-CCCH-ResourceAllocation", -1, 0);
+   /* max-PeriodForCollisionResolution */
+   if ((uint64_t)(pvalue->max_PeriodForCollisionResolution - 8) > 16u) {
+      rtxErrAddStrParm(ctx, "max-PeriodForCollisionResolution");
+      rtxErrAddUIntParm(ctx, pvalue->max_PeriodForCollisionResolution);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "max-PeriodForCollisionResolution", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->max_PeriodForCollisionResolution, 8, 24);
+   RT_CHECK(ctx, stat, 0, "max-PeriodForCollisionResolution", -1, 0);
+   /* e-dch-TransmitContinuationOffset */
+   if (pvalue->e_dch_TransmitContinuationOffset > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->e_dch_TransmitContinuationOffset);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "e-dch-TransmitContinuationOffset", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->e_dch_TransmitContinuationOffset, 0, 7);
+   RT_CHECK(ctx, stat, 0, "e-dch-TransmitContinuationOffset", -1, 0);
+   /* ack-nack-support-on-HS-DPCCH */
+   stat = rtxEncBit(ctx, pvalue->ack_nack_support_on_HS_DPCCH);
+   RT_CHECK(ctx, stat, 0, "ack-nack-support-on-HS-DPCCH", -1, 0);
+   /* measurement-Feedback-Info */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_Feedback_Info);
+      RT_CHECK(ctx, stat, 0, "measurement-Feedback-Info", -1, 0);
+   }
+   /* common-E-DCH-ResourceInfoList */
+   stat = asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_common_E_DCH_ResourceInfoList(ctx, &pvalue->common_E_DCH_ResourceInfoList);
+   RT_CHECK(ctx, stat, 0, "common-E-DCH-ResourceInfoList", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_E_RUCCH_Info_TDD128_t_RUCCH(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_TDD128_t_RUCCH value)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_E_RUCCH_Info_TDD128_t_WAIT(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_TDD128_t_WAIT value)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_E_RUCCH_Info_TDD128_t_SI(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_TDD128_t_SI value)
+{
+   int stat = 0;
+   if (value > 6) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_E_RUCCH_AccessServiceClass(rtxContext* RT_RESTRICT ctx, const E_RUCCH_AccessServiceClass* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-RUCCH-AccessServiceClass");
+   stat = asn1PE_UMTS_PRACH_Partitioning_LCR_r4(ctx, pvalue);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-RUCCH-AccessServiceClass");
+   return 0;
+}
+
+int asn1PE_UMTS_SYNC_UL_InfoForE_RUCCH_max_SYNC_UL_Transmissions(rtxContext* RT_RESTRICT ctx, SYNC_UL_InfoForE_RUCCH_max_SYNC_UL_Transmissions value)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SYNC_UL_InfoForE_RUCCH(rtxContext* RT_RESTRICT ctx, const SYNC_UL_InfoForE_RUCCH* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SYNC-UL-InfoForE-RUCCH");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SYNC-UL-InfoForE-RUCCH");
+   /* prxUpPCHdes */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->prxUpPCHdes > 62u) {
+         rtxErrAddStrParm(ctx, "prxUpPCHdes");
+         rtxErrAddUIntParm(ctx, pvalue->prxUpPCHdes);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "prxUpPCHdes", -1, "SYNC-UL-InfoForE-RUCCH");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->prxUpPCHdes, 0, 62);
+      RT_CHECK(ctx, stat, 0, "prxUpPCHdes", -1, "SYNC-UL-InfoForE-RUCCH");
+   }
+   /* powerRampStep */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->powerRampStep > 3u) {
+         rtxErrAddStrParm(ctx, "powerRampStep");
+         rtxErrAddUIntParm(ctx, pvalue->powerRampStep);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "powerRampStep", -1, "SYNC-UL-InfoForE-RUCCH");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->powerRampStep, 0, 3);
+      RT_CHECK(ctx, stat, 0, "powerRampStep", -1, "SYNC-UL-InfoForE-RUCCH");
+   }
+   /* max-SYNC-UL-Transmissions */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->max_SYNC_UL_Transmissions > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->max_SYNC_UL_Transmissions);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "max-SYNC-UL-Transmissions", -1, "SYNC-UL-InfoForE-RUCCH");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->max_SYNC_UL_Transmissions, 0, 3);
+      RT_CHECK(ctx, stat, 0, "max-SYNC-UL-Transmissions", -1, "SYNC-UL-InfoForE-RUCCH");
+   }
+   /* e-RUCCH-Sync-UL-Codes-Bitmap */
+   stat = asn1PE_UMTS_Sync_UL_Codes_Bitmap(ctx, pvalue->e_RUCCH_Sync_UL_Codes_Bitmap);
+   RT_CHECK(ctx, stat, 0, "e-RUCCH-Sync-UL-Codes-Bitmap", -1, "SYNC-UL-InfoForE-RUCCH");
+   /* mmax */
+   if ((uint64_t)(pvalue->mmax - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "mmax");
+      rtxErrAddUIntParm(ctx, pvalue->mmax);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "mmax", -1, "SYNC-UL-InfoForE-RUCCH");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->mmax, 1, 32);
+   RT_CHECK(ctx, stat, 0, "mmax", -1, "SYNC-UL-InfoForE-RUCCH");
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_ChanCodes_List_LCR(rtxContext* RT_RESTRICT ctx, const PRACH_ChanCodes_List_LCR* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-ChanCodes-List-LCR");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 2);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PRACH-ChanCodes-List-LCR");
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 27) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TDD-PRACH-CCode-LCR-r4", "TDD-PRACH-CCode-LCR-r4", (int32_t)i, "PRACH-ChanCodes-List-LCR");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 27);
+      RT_CHECK(ctx, stat, "TDD-PRACH-CCode-LCR-r4", "TDD-PRACH-CCode-LCR-r4", (int32_t)i, "PRACH-ChanCodes-List-LCR");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_Information_LCR(rtxContext* RT_RESTRICT ctx, const PRACH_Information_LCR* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-Information-LCR");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-Information-LCR");
+   /* timeslot */
+   if ((uint64_t)(pvalue->timeslot - 1) > 5u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber-PRACH-LCR-r4");
+      rtxErrAddUIntParm(ctx, pvalue->timeslot);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-PRACH-LCR-r4", "timeslot", -1, "PRACH-Information-LCR");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeslot, 1, 6);
+   RT_CHECK(ctx, stat, "TimeslotNumber-PRACH-LCR-r4", "timeslot", -1, "PRACH-Information-LCR");
+   /* prach-ChanCodes-list-LCR */
+   stat = asn1PE_UMTS_PRACH_ChanCodes_List_LCR(ctx, &pvalue->prach_ChanCodes_list_LCR);
+   RT_CHECK(ctx, stat, 0, "prach-ChanCodes-list-LCR", -1, "PRACH-Information-LCR");
+   /* midambleShiftAndBurstType */
+   stat = asn1PE_UMTS_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "PRACH-Information-LCR");
+   /* fpach-Info */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_FPACH_Info_r4(ctx, &pvalue->fpach_Info);
+      RT_CHECK(ctx, stat, 0, "fpach-Info", -1, "PRACH-Information-LCR");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_Information_LCR_List(rtxContext* RT_RESTRICT ctx, const PRACH_Information_LCR_List* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-Information-LCR-List");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PRACH-Information-LCR-List");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PRACH-Information-LCR", (int32_t)i, "PRACH-Information-LCR-List");
+      stat = asn1PE_UMTS_PRACH_Information_LCR(ctx, (const PRACH_Information_LCR*)node->data);
+      RT_CHECK(ctx, stat, 0, "PRACH-Information-LCR", (int32_t)i, "PRACH-Information-LCR-List");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_RUCCH_Info_TDD128(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_TDD128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-RUCCH-Info-TDD128");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 0), 9);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-RUCCH-Info-TDD128");
+   /* t-RUCCH */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->t_RUCCH > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->t_RUCCH);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "t-RUCCH", -1, "E-RUCCH-Info-TDD128");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->t_RUCCH, 0, 15);
+      RT_CHECK(ctx, stat, 0, "t-RUCCH", -1, "E-RUCCH-Info-TDD128");
+   }
+   /* n-RUCCH */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->n_RUCCH > 7u) {
+         rtxErrAddStrParm(ctx, "n-RUCCH");
+         rtxErrAddUIntParm(ctx, pvalue->n_RUCCH);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "n-RUCCH", -1, "E-RUCCH-Info-TDD128");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->n_RUCCH, 0, 7);
+      RT_CHECK(ctx, stat, 0, "n-RUCCH", -1, "E-RUCCH-Info-TDD128");
+   }
+   /* t-WAIT */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->t_WAIT > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->t_WAIT);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "t-WAIT", -1, "E-RUCCH-Info-TDD128");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->t_WAIT, 0, 7);
+      RT_CHECK(ctx, stat, 0, "t-WAIT", -1, "E-RUCCH-Info-TDD128");
+   }
+   /* t-SI */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->t_SI > 6) {
+         rtxErrAddUIntParm(ctx, pvalue->t_SI);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "t-SI", -1, "E-RUCCH-Info-TDD128");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->t_SI, 0, 6);
+      RT_CHECK(ctx, stat, 0, "t-SI", -1, "E-RUCCH-Info-TDD128");
+   }
+   /* extendedEstimationWindow */
+   if (pvalue->m & 0x10u) {
+      if ((uint64_t)(pvalue->extendedEstimationWindow - 2) > 3u) {
+         rtxErrAddStrParm(ctx, "extendedEstimationWindow");
+         rtxErrAddUIntParm(ctx, pvalue->extendedEstimationWindow);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "extendedEstimationWindow", -1, "E-RUCCH-Info-TDD128");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->extendedEstimationWindow, 2, 5);
+      RT_CHECK(ctx, stat, 0, "extendedEstimationWindow", -1, "E-RUCCH-Info-TDD128");
+   }
+   /* e-RUCCH-AccessServiceClass */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_E_RUCCH_AccessServiceClass(ctx, &pvalue->e_RUCCH_AccessServiceClass);
+      RT_CHECK(ctx, stat, 0, "e-RUCCH-AccessServiceClass", -1, "E-RUCCH-Info-TDD128");
+   }
+   /* e-RUCCH-PersistenceScalingFactor */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_PersistenceScalingFactorList(ctx, &pvalue->e_RUCCH_PersistenceScalingFactor);
+      RT_CHECK(ctx, stat, 0, "e-RUCCH-PersistenceScalingFactor", -1, "E-RUCCH-Info-TDD128");
+   }
+   /* sync-UL-InfoForE-RUCCH */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_SYNC_UL_InfoForE_RUCCH(ctx, &pvalue->sync_UL_InfoForE_RUCCH);
+      RT_CHECK(ctx, stat, 0, "sync-UL-InfoForE-RUCCH", -1, "E-RUCCH-Info-TDD128");
+   }
+   /* prach-information */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_PRACH_Information_LCR_List(ctx, &pvalue->prach_information);
+      RT_CHECK(ctx, stat, 0, "prach-information", -1, "E-RUCCH-Info-TDD128");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Reference_Beta_QPSK(rtxContext* RT_RESTRICT ctx, const Reference_Beta_QPSK* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Reference-Beta-QPSK");
+   /* reference-Code-Rate */
+   if ((uint64_t)pvalue->reference_Code_Rate > 10u) {
+      rtxErrAddStrParm(ctx, "reference-Code-Rate");
+      rtxErrAddUIntParm(ctx, pvalue->reference_Code_Rate);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "reference-Code-Rate", -1, "Reference-Beta-QPSK");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->reference_Code_Rate, 0, 10);
+   RT_CHECK(ctx, stat, 0, "reference-Code-Rate", -1, "Reference-Beta-QPSK");
+   /* reference-Beta */
+   if (pvalue->reference_Beta < -15 || pvalue->reference_Beta > 16) {
+      rtxErrAddStrParm(ctx, "reference-Beta");
+      rtxErrAddIntParm(ctx, pvalue->reference_Beta);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "reference-Beta", -1, "Reference-Beta-QPSK");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->reference_Beta, -15, 16);
+   RT_CHECK(ctx, stat, 0, "reference-Beta", -1, "Reference-Beta-QPSK");
+   return 0;
+}
+
+int asn1PE_UMTS_E_TFCS_Info_reference_Beta_QPSK_List(rtxContext* RT_RESTRICT ctx, const E_TFCS_Info_reference_Beta_QPSK_List* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "Reference-Beta-QPSK", (int32_t)i, 0);
+      stat = asn1PE_UMTS_Reference_Beta_QPSK(ctx, (const Reference_Beta_QPSK*)node->data);
+      RT_CHECK(ctx, stat, 0, "Reference-Beta-QPSK", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Reference_Beta_16QAM(rtxContext* RT_RESTRICT ctx, const Reference_Beta_16QAM* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Reference-Beta-16QAM");
+   /* reference-Code-Rate */
+   if ((uint64_t)pvalue->reference_Code_Rate > 10u) {
+      rtxErrAddStrParm(ctx, "reference-Code-Rate");
+      rtxErrAddUIntParm(ctx, pvalue->reference_Code_Rate);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "reference-Code-Rate", -1, "Reference-Beta-16QAM");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->reference_Code_Rate, 0, 10);
+   RT_CHECK(ctx, stat, 0, "reference-Code-Rate", -1, "Reference-Beta-16QAM");
+   /* reference-Beta */
+   if (pvalue->reference_Beta < -15 || pvalue->reference_Beta > 16) {
+      rtxErrAddStrParm(ctx, "reference-Beta");
+      rtxErrAddIntParm(ctx, pvalue->reference_Beta);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "reference-Beta", -1, "Reference-Beta-16QAM");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->reference_Beta, -15, 16);
+   RT_CHECK(ctx, stat, 0, "reference-Beta", -1, "Reference-Beta-16QAM");
+   return 0;
+}
+
+int asn1PE_UMTS_E_TFCS_Info_reference_Beta_16QAM_List(rtxContext* RT_RESTRICT ctx, const E_TFCS_Info_reference_Beta_16QAM_List* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "Reference-Beta-16QAM", (int32_t)i, 0);
+      stat = asn1PE_UMTS_Reference_Beta_16QAM(ctx, (const Reference_Beta_16QAM*)node->data);
+      RT_CHECK(ctx, stat, 0, "Reference-Beta-16QAM", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_TFCS_Info(rtxContext* RT_RESTRICT ctx, const E_TFCS_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-TFCS-Info");
+   /* reference-Beta-QPSK-List */
+   stat = asn1PE_UMTS_E_TFCS_Info_reference_Beta_QPSK_List(ctx, &pvalue->reference_Beta_QPSK_List);
+   RT_CHECK(ctx, stat, 0, "reference-Beta-QPSK-List", -1, "E-TFCS-Info");
+   /* reference-Beta-16QAM-List */
+   stat = asn1PE_UMTS_E_TFCS_Info_reference_Beta_16QAM_List(ctx, &pvalue->reference_Beta_16QAM_List);
+   RT_CHECK(ctx, stat, 0, "reference-Beta-16QAM-List", -1, "E-TFCS-Info");
+   return 0;
+}
+
+int asn1PE_UMTS_E_PUCH_Info_TDD128_snpl_ReportType(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_TDD128_snpl_ReportType value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_TPC_StepSizeTDD(rtxContext* RT_RESTRICT ctx, TPC_StepSizeTDD value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 2u) {
+      rtxErrAddStrParm(ctx, "TPC-StepSizeTDD");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TPC-StepSizeTDD");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TPC-StepSizeTDD");
    return 0;
 }
 

@@ -6,5172 +6,47 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PE_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* ctx, const DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList* pvalue)
+int asn1PE_UMTS_UL_SynchronisationParameters_r4(rtxContext* RT_RESTRICT ctx, const UL_SynchronisationParameters_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 13);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "DownlinkAdditionalTimeslots-VHCR", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_DownlinkAdditionalTimeslots_VHCR(ctx, (const DownlinkAdditionalTimeslots_VHCR*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(rtxContext* ctx, const DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "consecutive");
-         if ((uint64_t)(pvalue->u.consecutive - 1) > 12u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.consecutive);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.consecutive, 1, 13);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "timeslotList");
-         if (pvalue->u.timeslotList == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots(rtxContext* ctx, const DownlinkTimeslotsCodes_VHCR_moreTimeslots* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "noMore");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "additionalTimeslots");
-         if (pvalue->u.additionalTimeslots == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkTimeslotsCodes_VHCR(rtxContext* ctx, const DownlinkTimeslotsCodes_VHCR* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DownlinkTimeslotsCodes-VHCR");
-   /* firstIndividualTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "firstIndividualTimeslotInfo");
-   stat = asn1PE_UMTS_IndividualTimeslotInfo_VHCR(ctx, &pvalue->firstIndividualTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-TS-ChannelisationCodesShort */
-   rtxCtxtPushElemName(ctx, "dl-TS-ChannelisationCodesShort");
-   stat = asn1PE_UMTS_DL_TS_ChannelisationCodesShort_VHCR(ctx, &pvalue->dl_TS_ChannelisationCodesShort);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* moreTimeslots */
-   rtxCtxtPushElemName(ctx, "moreTimeslots");
-   stat = asn1PE_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots(ctx, &pvalue->moreTimeslots);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_Info_r7_tddOption_tdd768(rtxContext* ctx, const PDSCH_Info_r7_tddOption_tdd768* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* pdsch-TimeslotsCodes */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pdsch-TimeslotsCodes");
-      stat = asn1PE_UMTS_DownlinkTimeslotsCodes_VHCR(ctx, &pvalue->pdsch_TimeslotsCodes);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_Info_r7_tddOption_tdd128(rtxContext* ctx, const PDSCH_Info_r7_tddOption_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* pdsch-TimeslotsCodes */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pdsch-TimeslotsCodes");
-      stat = asn1PE_UMTS_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->pdsch_TimeslotsCodes);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_Info_r7_tddOption(rtxContext* ctx, const PDSCH_Info_r7_tddOption* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PDSCH_Info_r7_tddOption_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd768");
-         if (pvalue->u.tdd768 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PDSCH_Info_r7_tddOption_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PDSCH_Info_r7_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_Info_r7(rtxContext* ctx, const PDSCH_Info_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PDSCH-Info-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 1) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* tfcs-ID */
-   if (pvalue->tfcs_ID != 1) {
-      rtxCtxtPushElemName(ctx, "tfcs-ID");
-      rtxCtxtPushTypeName(ctx, "TFCS-IdentityPlain");
-      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* commonTimeslotInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "commonTimeslotInfo");
-      stat = asn1PE_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tddOption */
-   rtxCtxtPushElemName(ctx, "tddOption");
-   stat = asn1PE_UMTS_PDSCH_Info_r7_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_SysInfo_VHCR_r7(rtxContext* ctx, const PDSCH_SysInfo_VHCR_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PDSCH-SysInfo-VHCR-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* pdsch-Identity */
-   rtxCtxtPushElemName(ctx, "pdsch-Identity");
-   rtxCtxtPushTypeName(ctx, "PDSCH-Identity");
-   if ((uint64_t)(pvalue->pdsch_Identity - 1) > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->pdsch_Identity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pdsch_Identity, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* pdsch-Info */
-   rtxCtxtPushElemName(ctx, "pdsch-Info");
-   stat = asn1PE_UMTS_PDSCH_Info_r7(ctx, &pvalue->pdsch_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dsch-TransportChannelsInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dsch-TransportChannelsInfo");
-      stat = asn1PE_UMTS_DSCH_TransportChannelsInfo(ctx, &pvalue->dsch_TransportChannelsInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dsch-TFCS */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dsch-TFCS");
-      stat = asn1PE_UMTS_TFCS(ctx, &pvalue->dsch_TFCS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_SysInfoList_VHCR_r7(rtxContext* ctx, const PDSCH_SysInfoList_VHCR_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "PDSCH-SysInfoList-VHCR-r7");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "PDSCH-SysInfo-VHCR-r7", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_PDSCH_SysInfo_VHCR_r7(ctx, (const PDSCH_SysInfo_VHCR_r7*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TDD768_PRACH_CCode32(rtxContext* ctx, TDD768_PRACH_CCode32 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TDD768-PRACH-CCode32");
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TDD768_PRACH_CCodeList_sf32(rtxContext* ctx, const TDD768_PRACH_CCodeList_sf32* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "TDD768-PRACH-CCode32", i);
-      rtxCtxtPushTypeName(ctx, "TDD768-PRACH-CCode32");
-      if (pvalue->elem[i] > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TDD768_PRACH_CCode16(rtxContext* ctx, TDD768_PRACH_CCode16 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TDD768-PRACH-CCode16");
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TDD768_PRACH_CCodeList_sf16(rtxContext* ctx, const TDD768_PRACH_CCodeList_sf16* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "TDD768-PRACH-CCode16", i);
-      rtxCtxtPushTypeName(ctx, "TDD768-PRACH-CCode16");
-      if (pvalue->elem[i] > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TDD768_PRACH_CCodeList(rtxContext* ctx, const TDD768_PRACH_CCodeList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TDD768-PRACH-CCodeList");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "sf32");
-         if (pvalue->u.sf32 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TDD768_PRACH_CCodeList_sf32(ctx, pvalue->u.sf32);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "sf16");
-         if (pvalue->u.sf16 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TDD768_PRACH_CCodeList_sf16(ctx, pvalue->u.sf16);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_RACH_Info_VHCR_r7(rtxContext* ctx, const PRACH_RACH_Info_VHCR_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PRACH-RACH-Info-VHCR-r7");
-   /* timeslot */
-   rtxCtxtPushElemName(ctx, "timeslot");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
-   if ((uint64_t)pvalue->timeslot > 14u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->timeslot);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* channelisationCodeList */
-   rtxCtxtPushElemName(ctx, "channelisationCodeList");
-   stat = asn1PE_UMTS_TDD768_PRACH_CCodeList(ctx, &pvalue->channelisationCodeList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* prach-Midamble */
-   rtxCtxtPushElemName(ctx, "prach-Midamble");
-   rtxCtxtPushTypeName(ctx, "PRACH-Midamble");
-   if (pvalue->prach_Midamble > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->prach_Midamble);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->prach_Midamble, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_Partitioning_r7_fdd(rtxContext* ctx, const PRACH_Partitioning_r7_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "ASCSetting-FDD", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_ASCSetting_FDD(ctx, (const ASCSetting_FDD*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AccessServiceClass_TDD_r7_channelisationCodeIndices(rtxContext* ctx, AccessServiceClass_TDD_r7_channelisationCodeIndices value)
-{
-   int stat = 0;
-   {
-      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
-      uint32_t used = (uint32_t)(last + 1);
-      value.numbits = used <= 16 ? 16 : used;
-      if (last < -1) RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &value, 16, 16);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size2_subchannels(rtxContext* ctx, AccessServiceClass_TDD_r7_subchannelSize_size2_subchannels value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size2(rtxContext* ctx, const AccessServiceClass_TDD_r7_subchannelSize_size2* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* subchannels */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "subchannels");
-      if (pvalue->subchannels > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->subchannels);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->subchannels, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size4_subchannels(rtxContext* ctx, AccessServiceClass_TDD_r7_subchannelSize_size4_subchannels value)
-{
-   int stat = 0;
-   {
-      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
-      uint32_t used = (uint32_t)(last + 1);
-      value.numbits = used <= 4 ? 4 : used;
-      if (last < -1) RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pe_BitString32(ctx, &value, 4, 4);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size4(rtxContext* ctx, const AccessServiceClass_TDD_r7_subchannelSize_size4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* subchannels */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "subchannels");
-      stat = asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size4_subchannels(ctx, pvalue->subchannels);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size8_subchannels(rtxContext* ctx, AccessServiceClass_TDD_r7_subchannelSize_size8_subchannels value)
-{
-   int stat = 0;
-   {
-      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
-      uint32_t used = (uint32_t)(last + 1);
-      value.numbits = used <= 8 ? 8 : used;
-      if (last < -1) RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &value, 8, 8);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size8(rtxContext* ctx, const AccessServiceClass_TDD_r7_subchannelSize_size8* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* subchannels */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "subchannels");
-      stat = asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size8_subchannels(ctx, pvalue->subchannels);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size16_subchannels(rtxContext* ctx, AccessServiceClass_TDD_r7_subchannelSize_size16_subchannels value)
-{
-   int stat = 0;
-   {
-      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
-      uint32_t used = (uint32_t)(last + 1);
-      value.numbits = used <= 16 ? 16 : used;
-      if (last < -1) RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &value, 16, 16);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size16(rtxContext* ctx, const AccessServiceClass_TDD_r7_subchannelSize_size16* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* subchannels */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "subchannels");
-      stat = asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size16_subchannels(ctx, pvalue->subchannels);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize(rtxContext* ctx, const AccessServiceClass_TDD_r7_subchannelSize* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 4) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "size1");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "size2");
-         if (pvalue->u.size2 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size2(ctx, pvalue->u.size2);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "size4");
-         if (pvalue->u.size4 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size4(ctx, pvalue->u.size4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "size8");
-         if (pvalue->u.size8 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size8(ctx, pvalue->u.size8);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "size16");
-         if (pvalue->u.size16 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size16(ctx, pvalue->u.size16);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AccessServiceClass_TDD_r7(rtxContext* ctx, const AccessServiceClass_TDD_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "AccessServiceClass-TDD-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* channelisationCodeIndices */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "channelisationCodeIndices");
-      stat = asn1PE_UMTS_AccessServiceClass_TDD_r7_channelisationCodeIndices(ctx, pvalue->channelisationCodeIndices);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* subchannelSize */
-   rtxCtxtPushElemName(ctx, "subchannelSize");
-   stat = asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize(ctx, &pvalue->subchannelSize);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ASCSetting_TDD_r7(rtxContext* ctx, const ASCSetting_TDD_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ASCSetting-TDD-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* accessServiceClass-TDD */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "accessServiceClass-TDD");
-      stat = asn1PE_UMTS_AccessServiceClass_TDD_r7(ctx, &pvalue->accessServiceClass_TDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_Partitioning_r7_tdd(rtxContext* ctx, const PRACH_Partitioning_r7_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "ASCSetting-TDD-r7", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_ASCSetting_TDD_r7(ctx, (const ASCSetting_TDD_r7*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_Partitioning_r7(rtxContext* ctx, const PRACH_Partitioning_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PRACH-Partitioning-r7");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PRACH_Partitioning_r7_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PRACH_Partitioning_r7_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_SystemInformation_VHCR_r7(rtxContext* ctx, const PRACH_SystemInformation_VHCR_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PRACH-SystemInformation-VHCR-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* prach-RACH-Info */
-   rtxCtxtPushElemName(ctx, "prach-RACH-Info");
-   stat = asn1PE_UMTS_PRACH_RACH_Info_VHCR_r7(ctx, &pvalue->prach_RACH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* prach-Partitioning */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "prach-Partitioning");
-      stat = asn1PE_UMTS_PRACH_Partitioning_r7(ctx, &pvalue->prach_Partitioning);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_SystemInformationList_VHCR_r7(rtxContext* ctx, const PRACH_SystemInformationList_VHCR_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "PRACH-SystemInformationList-VHCR-r7");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "PRACH-SystemInformation-VHCR-r7", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_PRACH_SystemInformation_VHCR_r7(ctx, (const PRACH_SystemInformation_VHCR_r7*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768(rtxContext* ctx, const SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* pusch-SysInfoList-SFN */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pusch-SysInfoList-SFN");
-      stat = asn1PE_UMTS_PUSCH_SysInfoList_SFN_VHCR(ctx, &pvalue->pusch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdsch-SysInfoList-SFN */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "pdsch-SysInfoList-SFN");
-      stat = asn1PE_UMTS_PDSCH_SysInfoList_VHCR_r7(ctx, &pvalue->pdsch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* prach-SystemInformationList */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "prach-SystemInformationList");
-      stat = asn1PE_UMTS_PRACH_SystemInformationList_VHCR_r7(ctx, &pvalue->prach_SystemInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_RACH_Info_LCR_v770ext(rtxContext* ctx, const PRACH_RACH_Info_LCR_v770ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PRACH-RACH-Info-LCR-v770ext");
-   /* e-RUCCH-Sync-UL-Codes-Bitmap */
-   rtxCtxtPushElemName(ctx, "e-RUCCH-Sync-UL-Codes-Bitmap");
-   stat = asn1PE_UMTS_Sync_UL_Codes_Bitmap(ctx, pvalue->e_RUCCH_Sync_UL_Codes_Bitmap);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_SystemInformation_LCR_v770ext(rtxContext* ctx, const PRACH_SystemInformation_LCR_v770ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PRACH-SystemInformation-LCR-v770ext");
-   /* prach-RACH-Info-LCR */
-   rtxCtxtPushElemName(ctx, "prach-RACH-Info-LCR");
-   stat = asn1PE_UMTS_PRACH_RACH_Info_LCR_v770ext(ctx, &pvalue->prach_RACH_Info_LCR);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_SystemInformationList_LCR_v770ext(rtxContext* ctx, const PRACH_SystemInformationList_LCR_v770ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "PRACH-SystemInformationList-LCR-v770ext");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "PRACH-SystemInformation-LCR-v770ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_PRACH_SystemInformation_LCR_v770ext(ctx, (const PRACH_SystemInformation_LCR_v770ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128(rtxContext* ctx, const SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* prach-SystemInformationList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "prach-SystemInformationList");
-      stat = asn1PE_UMTS_PRACH_SystemInformationList_LCR_v770ext(ctx, &pvalue->prach_SystemInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo(rtxContext* ctx, const SysInfoType5_v770ext_IEs_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd768");
-         if (pvalue->u.tdd768 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, const MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode_ueSpecificMidamble* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftLong");
-   if ((uint64_t)pvalue->midambleShift > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode(rtxContext* ctx, const MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "commonMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type1(rtxContext* ctx, const MidambleShiftAndBurstType_r7_burstType_type1* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* midambleConfigurationBurstType1and3 */
-   rtxCtxtPushElemName(ctx, "midambleConfigurationBurstType1and3");
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType1and3");
-   if (pvalue->midambleConfigurationBurstType1and3 > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType1and3);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfigurationBurstType1and3, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, const MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode_ueSpecificMidamble* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftShort");
-   if ((uint64_t)pvalue->midambleShift > 5u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode(rtxContext* ctx, const MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "commonMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type2(rtxContext* ctx, const MidambleShiftAndBurstType_r7_burstType_type2* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* midambleConfigurationBurstType2 */
-   rtxCtxtPushElemName(ctx, "midambleConfigurationBurstType2");
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType2");
-   if (pvalue->midambleConfigurationBurstType2 > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType2);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfigurationBurstType2, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, const MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode_ueSpecificMidamble* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftLong");
-   if ((uint64_t)pvalue->midambleShift > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode(rtxContext* ctx, const MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type3(rtxContext* ctx, const MidambleShiftAndBurstType_r7_burstType_type3* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* midambleConfigurationBurstType1and3 */
-   rtxCtxtPushElemName(ctx, "midambleConfigurationBurstType1and3");
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType1and3");
-   if (pvalue->midambleConfigurationBurstType1and3 > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType1and3);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfigurationBurstType1and3, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType(rtxContext* ctx, const MidambleShiftAndBurstType_r7_burstType* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 3) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "type1");
-         if (pvalue->u.type1 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type1(ctx, pvalue->u.type1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "type2");
-         if (pvalue->u.type2 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type2(ctx, pvalue->u.type2);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "type3");
-         if (pvalue->u.type3 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type3(ctx, pvalue->u.type3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "mbsfnBurstType4");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_r7(rtxContext* ctx, const MidambleShiftAndBurstType_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MidambleShiftAndBurstType-r7");
-   /* burstType */
-   rtxCtxtPushElemName(ctx, "burstType");
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType(ctx, &pvalue->burstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IndividualTimeslotInfo_r7(rtxContext* ctx, const IndividualTimeslotInfo_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IndividualTimeslotInfo-r7");
-   /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
-   if ((uint64_t)pvalue->timeslotNumber > 14u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* tfci-Existence */
-   rtxCtxtPushElemName(ctx, "tfci-Existence");
-   stat = rtxEncBit(ctx, pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midambleShiftAndBurstType */
-   rtxCtxtPushElemName(ctx, "midambleShiftAndBurstType");
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_r7(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384(rtxContext* ctx, const SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* individualTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "individualTimeslotInfo");
-   stat = asn1PE_UMTS_IndividualTimeslotInfo_r7(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* channelisationCode */
-   rtxCtxtPushElemName(ctx, "channelisationCode");
-   stat = asn1PE_UMTS_SCCPCH_ChannelisationCodeList(ctx, &pvalue->channelisationCode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SCCPCH_ChannelisationCode_VHCR(rtxContext* ctx, SCCPCH_ChannelisationCode_VHCR value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SCCPCH-ChannelisationCode-VHCR");
-   if (value > 31) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SCCPCH_ChannelisationCodeList_VHCR(rtxContext* ctx, const SCCPCH_ChannelisationCodeList_VHCR* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "SCCPCH-ChannelisationCodeList-VHCR");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "SCCPCH-ChannelisationCode-VHCR", i);
-      rtxCtxtPushTypeName(ctx, "SCCPCH-ChannelisationCode-VHCR");
-      if (pvalue->elem[i] > 31) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768(rtxContext* ctx, const SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* individualTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "individualTimeslotInfo");
-   stat = asn1PE_UMTS_IndividualTimeslotInfo_VHCR(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* channelisationCode */
-   rtxCtxtPushElemName(ctx, "channelisationCode");
-   stat = asn1PE_UMTS_SCCPCH_ChannelisationCodeList_VHCR(ctx, &pvalue->channelisationCode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo(rtxContext* ctx, const SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd768");
-         if (pvalue->u.tdd768 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7(rtxContext* ctx, const SecondaryCCPCH_Info_HCR_VHCR_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SecondaryCCPCH-Info-HCR-VHCR-r7");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TDD768_PICH_CCode(rtxContext* ctx, TDD768_PICH_CCode value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TDD768-PICH-CCode");
-   if (value > 31) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PICH_Info_HCR_VHCR_r7_channelisationCode(rtxContext* ctx, const PICH_Info_HCR_VHCR_r7_channelisationCode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         rtxCtxtPushTypeName(ctx, "TDD-PICH-CCode");
-         if (pvalue->u.tdd384 > 15) {
-            rtxErrAddUIntParm(ctx, pvalue->u.tdd384);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.tdd384, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd768");
-         rtxCtxtPushTypeName(ctx, "TDD768-PICH-CCode");
-         if (pvalue->u.tdd768 > 31) {
-            rtxErrAddUIntParm(ctx, pvalue->u.tdd768);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.tdd768, 0, 31);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PICH_Info_HCR_VHCR_r7(rtxContext* ctx, const PICH_Info_HCR_VHCR_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PICH-Info-HCR-VHCR-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
-      ((uint64_t)(pvalue->pagingIndicatorLength != 0) << 2) |
-      ((uint64_t)(pvalue->n_GAP != 1) << 1) |
-      ((uint64_t)(pvalue->n_PCH != 2) << 0), 6);
-   RT_CHECK(ctx, stat);
-   /* channelisationCode */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "channelisationCode");
-      stat = asn1PE_UMTS_PICH_Info_HCR_VHCR_r7_channelisationCode(ctx, &pvalue->channelisationCode);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* timeslot */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "timeslot");
-      rtxCtxtPushTypeName(ctx, "TimeslotNumber");
-      if ((uint64_t)pvalue->timeslot > 14u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->timeslot);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 14);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* midambleShiftAndBurstType */
-   rtxCtxtPushElemName(ctx, "midambleShiftAndBurstType");
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* repetitionPeriodLengthOffset */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "repetitionPeriodLengthOffset");
-      stat = asn1PE_UMTS_RepPerLengthOffset_PICH(ctx, &pvalue->repetitionPeriodLengthOffset);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pagingIndicatorLength */
-   if (pvalue->pagingIndicatorLength != 0) {
-      rtxCtxtPushElemName(ctx, "pagingIndicatorLength");
-      rtxCtxtPushTypeName(ctx, "PagingIndicatorLength");
-      if (pvalue->pagingIndicatorLength > 2) {
-         rtxErrAddUIntParm(ctx, pvalue->pagingIndicatorLength);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->pagingIndicatorLength, 0, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* n-GAP */
-   if (pvalue->n_GAP != 1) {
-      rtxCtxtPushElemName(ctx, "n-GAP");
-      rtxCtxtPushTypeName(ctx, "N-GAP");
-      if (pvalue->n_GAP > 2) {
-         rtxErrAddUIntParm(ctx, pvalue->n_GAP);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->n_GAP, 0, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* n-PCH */
-   if (pvalue->n_PCH != 2) {
-      rtxCtxtPushElemName(ctx, "n-PCH");
-      rtxCtxtPushTypeName(ctx, "N-PCH");
-      if ((uint64_t)(pvalue->n_PCH - 1) > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n_PCH);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->n_PCH, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SCCPCH_SystemInformation_HCR_VHCR_r7(rtxContext* ctx, const SCCPCH_SystemInformation_HCR_VHCR_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SCCPCH-SystemInformation-HCR-VHCR-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* secondaryCCPCH-Info */
-   rtxCtxtPushElemName(ctx, "secondaryCCPCH-Info");
-   stat = asn1PE_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7(ctx, &pvalue->secondaryCCPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tfcs */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "tfcs");
-      stat = asn1PE_UMTS_TFCS(ctx, &pvalue->tfcs);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* fach-PCH-InformationList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "fach-PCH-InformationList");
-      stat = asn1PE_UMTS_FACH_PCH_InformationList(ctx, &pvalue->fach_PCH_InformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pich-Info */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "pich-Info");
-      stat = asn1PE_UMTS_PICH_Info_HCR_VHCR_r7(ctx, &pvalue->pich_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SCCPCH_SystemInformationList_HCR_VHCR_r7(rtxContext* ctx, const SCCPCH_SystemInformationList_HCR_VHCR_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "SCCPCH-SystemInformationList-HCR-VHCR-r7");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "SCCPCH-SystemInformation-HCR-VHCR-r7", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_SCCPCH_SystemInformation_HCR_VHCR_r7(ctx, (const SCCPCH_SystemInformation_HCR_VHCR_r7*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd_modulation(rtxContext* ctx, const SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd_modulation* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "modQPSK");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "mod16QAM");
-         if (pvalue->u.mod16QAM < -11 || pvalue->u.mod16QAM > 4) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddIntParm(ctx, pvalue->u.mod16QAM);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsInt64(ctx, pvalue->u.mod16QAM, -11, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd(rtxContext* ctx, const SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)(pvalue->timingOffset != 0) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* secondaryScramblingCode */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "secondaryScramblingCode");
-      rtxCtxtPushTypeName(ctx, "SecondaryScramblingCode");
-      if ((uint64_t)(pvalue->secondaryScramblingCode - 1) > 14u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->secondaryScramblingCode);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->secondaryScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sttd-Indicator */
-   rtxCtxtPushElemName(ctx, "sttd-Indicator");
-   stat = rtxEncBit(ctx, pvalue->sttd_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sf-AndCodeNumber */
-   rtxCtxtPushElemName(ctx, "sf-AndCodeNumber");
-   stat = asn1PE_UMTS_SF256_AndCodeNumber(ctx, &pvalue->sf_AndCodeNumber);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* timingOffset */
-   if (pvalue->timingOffset != 0) {
-      rtxCtxtPushElemName(ctx, "timingOffset");
-      rtxCtxtPushTypeName(ctx, "TimingOffset");
-      if ((uint64_t)pvalue->timingOffset > 149u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->timingOffset);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->timingOffset, 0, 149);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modulation */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "modulation");
-      stat = asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd_modulation(ctx, &pvalue->modulation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkAdditionalTimeslots_r7_parameters_sameAsLast(rtxContext* ctx, const DownlinkAdditionalTimeslots_r7_parameters_sameAsLast* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
-   if ((uint64_t)pvalue->timeslotNumber > 14u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkAdditionalTimeslots_r7_parameters_newParameters(rtxContext* ctx, const DownlinkAdditionalTimeslots_r7_parameters_newParameters* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* individualTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "individualTimeslotInfo");
-   stat = asn1PE_UMTS_IndividualTimeslotInfo_r7(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-TS-ChannelisationCodesShort */
-   rtxCtxtPushElemName(ctx, "dl-TS-ChannelisationCodesShort");
-   stat = asn1PE_UMTS_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkAdditionalTimeslots_r7_parameters(rtxContext* ctx, const DownlinkAdditionalTimeslots_r7_parameters* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "sameAsLast");
-         if (pvalue->u.sameAsLast == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DownlinkAdditionalTimeslots_r7_parameters_sameAsLast(ctx, pvalue->u.sameAsLast);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "newParameters");
-         if (pvalue->u.newParameters == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DownlinkAdditionalTimeslots_r7_parameters_newParameters(ctx, pvalue->u.newParameters);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkAdditionalTimeslots_r7(rtxContext* ctx, const DownlinkAdditionalTimeslots_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DownlinkAdditionalTimeslots-r7");
-   /* parameters */
-   rtxCtxtPushElemName(ctx, "parameters");
-   stat = asn1PE_UMTS_DownlinkAdditionalTimeslots_r7_parameters(ctx, &pvalue->parameters);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* ctx, const DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 13);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "DownlinkAdditionalTimeslots-r7", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_DownlinkAdditionalTimeslots_r7(ctx, (const DownlinkAdditionalTimeslots_r7*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots(rtxContext* ctx, const DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "consecutive");
-         if ((uint64_t)(pvalue->u.consecutive - 1) > 12u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.consecutive);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.consecutive, 1, 13);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "timeslotList");
-         if (pvalue->u.timeslotList == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots(rtxContext* ctx, const DownlinkTimeslotsCodes_r7_moreTimeslots* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "noMore");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "additionalTimeslots");
-         if (pvalue->u.additionalTimeslots == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkTimeslotsCodes_r7(rtxContext* ctx, const DownlinkTimeslotsCodes_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DownlinkTimeslotsCodes-r7");
-   /* firstIndividualTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "firstIndividualTimeslotInfo");
-   stat = asn1PE_UMTS_IndividualTimeslotInfo_r7(ctx, &pvalue->firstIndividualTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-TS-ChannelisationCodesShort */
-   rtxCtxtPushElemName(ctx, "dl-TS-ChannelisationCodesShort");
-   stat = asn1PE_UMTS_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* moreTimeslots */
-   rtxCtxtPushElemName(ctx, "moreTimeslots");
-   stat = asn1PE_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots(ctx, &pvalue->moreTimeslots);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384_modulation(rtxContext* ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384_modulation value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384(rtxContext* ctx, const SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* commonTimeslotInfoMBMS */
-   rtxCtxtPushElemName(ctx, "commonTimeslotInfoMBMS");
-   stat = asn1PE_UMTS_CommonTimeslotInfoMBMS(ctx, &pvalue->commonTimeslotInfoMBMS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* downlinkTimeslotsCodes */
-   rtxCtxtPushElemName(ctx, "downlinkTimeslotsCodes");
-   stat = asn1PE_UMTS_DownlinkTimeslotsCodes_r7(ctx, &pvalue->downlinkTimeslotsCodes);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* modulation */
-   rtxCtxtPushElemName(ctx, "modulation");
-   if (pvalue->modulation > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->modulation);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->modulation, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768_modulation(rtxContext* ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768_modulation value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768(rtxContext* ctx, const SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* commonTimeslotInfoMBMS */
-   rtxCtxtPushElemName(ctx, "commonTimeslotInfoMBMS");
-   stat = asn1PE_UMTS_CommonTimeslotInfoMBMS(ctx, &pvalue->commonTimeslotInfoMBMS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* downlinkTimeslotsCodes */
-   rtxCtxtPushElemName(ctx, "downlinkTimeslotsCodes");
-   stat = asn1PE_UMTS_DownlinkTimeslotsCodes_VHCR(ctx, &pvalue->downlinkTimeslotsCodes);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* modulation */
-   rtxCtxtPushElemName(ctx, "modulation");
-   if (pvalue->modulation > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->modulation);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->modulation, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TimeSlotLCR_ext(rtxContext* ctx, TimeSlotLCR_ext value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TimeSlotLCR-ext");
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128_modulation(rtxContext* ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128_modulation value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128(rtxContext* ctx, const SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* commonTimeslotInfoMBMS */
-   rtxCtxtPushElemName(ctx, "commonTimeslotInfoMBMS");
-   stat = asn1PE_UMTS_CommonTimeslotInfoMBMS(ctx, &pvalue->commonTimeslotInfoMBMS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* downlinkTimeslotsCodes */
-   rtxCtxtPushElemName(ctx, "downlinkTimeslotsCodes");
-   stat = asn1PE_UMTS_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->downlinkTimeslotsCodes);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* mbsfnSpecialTimeSlot */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "mbsfnSpecialTimeSlot");
-      rtxCtxtPushTypeName(ctx, "TimeSlotLCR-ext");
-      if (pvalue->mbsfnSpecialTimeSlot > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->mbsfnSpecialTimeSlot);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mbsfnSpecialTimeSlot, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modulation */
-   rtxCtxtPushElemName(ctx, "modulation");
-   if (pvalue->modulation > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->modulation);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->modulation, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo(rtxContext* ctx, const SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 3) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "tdd768");
-         if (pvalue->u.tdd768 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7(rtxContext* ctx, const SecondaryCCPCHInfo_MBMS_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SecondaryCCPCHInfo-MBMS-r7");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMCCH(rtxContext* ctx, const SCCPCH_SystemInformation_MBMS_r7_fachCarryingMCCH* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* mcch-transportFormatSet */
-   rtxCtxtPushElemName(ctx, "mcch-transportFormatSet");
-   stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->mcch_transportFormatSet);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* mcch-ConfigurationInfo */
-   rtxCtxtPushElemName(ctx, "mcch-ConfigurationInfo");
-   stat = asn1PE_UMTS_MBMS_MCCH_ConfigurationInfo_r6(ctx, &pvalue->mcch_ConfigurationInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMSCH(rtxContext* ctx, const SCCPCH_SystemInformation_MBMS_r7_fachCarryingMSCH* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* msch-transportFormatSet */
-   rtxCtxtPushElemName(ctx, "msch-transportFormatSet");
-   stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->msch_transportFormatSet);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SCCPCH_SystemInformation_MBMS_r7(rtxContext* ctx, const SCCPCH_SystemInformation_MBMS_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SCCPCH-SystemInformation-MBMS-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* secondaryCCPCHInfo-MBMS */
-   rtxCtxtPushElemName(ctx, "secondaryCCPCHInfo-MBMS");
-   stat = asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7(ctx, &pvalue->secondaryCCPCHInfo_MBMS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* transportFormatCombinationSet */
-   rtxCtxtPushElemName(ctx, "transportFormatCombinationSet");
-   stat = asn1PE_UMTS_TFCS(ctx, &pvalue->transportFormatCombinationSet);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* fachCarryingMCCH */
-   rtxCtxtPushElemName(ctx, "fachCarryingMCCH");
-   stat = asn1PE_UMTS_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMCCH(ctx, &pvalue->fachCarryingMCCH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* fachCarryingMTCH-List */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "fachCarryingMTCH-List");
-      stat = asn1PE_UMTS_MBMS_FACHCarryingMTCH_List(ctx, &pvalue->fachCarryingMTCH_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* fachCarryingMSCH */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "fachCarryingMSCH");
-      stat = asn1PE_UMTS_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMSCH(ctx, &pvalue->fachCarryingMSCH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType5_v770ext_IEs_sccpch_SystemInformation_MBMS(rtxContext* ctx, const SysInfoType5_v770ext_IEs_sccpch_SystemInformation_MBMS* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 0) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "mcchOnSCCPCHusedOnlyForMBMS");
-         if (pvalue->u.mcchOnSCCPCHusedOnlyForMBMS == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_SCCPCH_SystemInformation_MBMS_r7(ctx, pvalue->u.mcchOnSCCPCHusedOnlyForMBMS);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TDD_MBSFNTSlotInfo(rtxContext* ctx, const TDD_MBSFNTSlotInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TDD-MBSFNTSlotInfo");
-   /* timeSlotNumber */
-   rtxCtxtPushElemName(ctx, "timeSlotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
-   if ((uint64_t)pvalue->timeSlotNumber > 14u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->timeSlotNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeSlotNumber, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* cellParametersID */
-   rtxCtxtPushElemName(ctx, "cellParametersID");
-   rtxCtxtPushTypeName(ctx, "CellParametersID");
-   if ((uint64_t)pvalue->cellParametersID > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cellParametersID, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TDD_MBSFNInformation(rtxContext* ctx, const TDD_MBSFNInformation* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "TDD-MBSFNInformation");
-   RT_SET_SIZE(ctx, 1, 14);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "TDD-MBSFNTSlotInfo", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_TDD_MBSFNTSlotInfo(ctx, (const TDD_MBSFNTSlotInfo*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType5_v770ext_IEs(rtxContext* ctx, const SysInfoType5_v770ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType5-v770ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* modeSpecificInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-      stat = asn1PE_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sccpch-SystemInformationList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "sccpch-SystemInformationList");
-      stat = asn1PE_UMTS_SCCPCH_SystemInformationList_HCR_VHCR_r7(ctx, &pvalue->sccpch_SystemInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sccpch-SystemInformation-MBMS */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "sccpch-SystemInformation-MBMS");
-      stat = asn1PE_UMTS_SysInfoType5_v770ext_IEs_sccpch_SystemInformation_MBMS(ctx, &pvalue->sccpch_SystemInformation_MBMS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tDD-MBSFNInformation */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "tDD-MBSFNInformation");
-      stat = asn1PE_UMTS_TDD_MBSFNInformation(ctx, &pvalue->tDD_MBSFNInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType5_v860ext_IEs_dummy(rtxContext* ctx, const SysInfoType5_v860ext_IEs_dummy* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_T_321(rtxContext* ctx, T_321 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "T-321");
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_DSCH_DrxCycleFach(rtxContext* ctx, HS_DSCH_DrxCycleFach value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HS-DSCH-DrxCycleFach");
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_DSCH_DrxBurstFach(rtxContext* ctx, HS_DSCH_DrxBurstFach value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HS-DSCH-DrxBurstFach");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_DSCH_DrxCellfach_info(rtxContext* ctx, const HS_DSCH_DrxCellfach_info* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HS-DSCH-DrxCellfach-info");
-   /* t-321 */
-   rtxCtxtPushElemName(ctx, "t-321");
-   rtxCtxtPushTypeName(ctx, "T-321");
-   if (pvalue->t_321 > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->t_321);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->t_321, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hs-dsch-DrxCycleFach */
-   rtxCtxtPushElemName(ctx, "hs-dsch-DrxCycleFach");
-   rtxCtxtPushTypeName(ctx, "HS-DSCH-DrxCycleFach");
-   if (pvalue->hs_dsch_DrxCycleFach > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->hs_dsch_DrxCycleFach);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hs_dsch_DrxCycleFach, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hs-dsch-DrxBurstFach */
-   rtxCtxtPushElemName(ctx, "hs-dsch-DrxBurstFach");
-   rtxCtxtPushTypeName(ctx, "HS-DSCH-DrxBurstFach");
-   if (pvalue->hs_dsch_DrxBurstFach > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->hs_dsch_DrxBurstFach);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hs_dsch_DrxBurstFach, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* drxInterruption-hs-dsch */
-   rtxCtxtPushElemName(ctx, "drxInterruption-hs-dsch");
-   stat = rtxEncBit(ctx, pvalue->drxInterruption_hs_dsch);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd(rtxContext* ctx, const SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* hs-dsch-DrxCellfach-info */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "hs-dsch-DrxCellfach-info");
-      stat = asn1PE_UMTS_HS_DSCH_DrxCellfach_info(ctx, &pvalue->hs_dsch_DrxCellfach_info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_ChannelisationCode_LCR(rtxContext* ctx, HS_ChannelisationCode_LCR value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HS-ChannelisationCode-LCR");
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_TDD128_r6_midambleAllocationMode(rtxContext* ctx, const HS_SCCH_TDD128_r6_midambleAllocationMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "commonMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         if ((uint64_t)pvalue->u.ueSpecificMidamble > 15u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.ueSpecificMidamble);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.ueSpecificMidamble, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, const HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftLong");
-   if ((uint64_t)pvalue->midambleShift > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode(rtxContext* ctx, const HS_SICH_Configuration_TDD128_r6_midambleAllocationMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_Configuration_TDD128_r6(rtxContext* ctx, const HS_SICH_Configuration_TDD128_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HS-SICH-Configuration-TDD128-r6");
-   /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-LCR-r4");
-   if ((uint64_t)pvalue->timeslotNumber > 6u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* channelisationCode */
-   rtxCtxtPushElemName(ctx, "channelisationCode");
-   rtxCtxtPushTypeName(ctx, "HS-ChannelisationCode-LCR");
-   if (pvalue->channelisationCode > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PE_UMTS_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midambleConfiguration */
-   rtxCtxtPushElemName(ctx, "midambleConfiguration");
-   if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_TDD128_r6(rtxContext* ctx, const HS_SCCH_TDD128_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HS-SCCH-TDD128-r6");
-   /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-LCR-r4");
-   if ((uint64_t)pvalue->timeslotNumber > 6u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* firstChannelisationCode */
-   rtxCtxtPushElemName(ctx, "firstChannelisationCode");
-   rtxCtxtPushTypeName(ctx, "HS-ChannelisationCode-LCR");
-   if (pvalue->firstChannelisationCode > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->firstChannelisationCode);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->firstChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* secondChannelisationCode */
-   rtxCtxtPushElemName(ctx, "secondChannelisationCode");
-   rtxCtxtPushTypeName(ctx, "HS-ChannelisationCode-LCR");
-   if (pvalue->secondChannelisationCode > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->secondChannelisationCode);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->secondChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PE_UMTS_HS_SCCH_TDD128_r6_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midambleConfiguration */
-   rtxCtxtPushElemName(ctx, "midambleConfiguration");
-   if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hs-sich-configuration */
-   rtxCtxtPushElemName(ctx, "hs-sich-configuration");
-   stat = asn1PE_UMTS_HS_SICH_Configuration_TDD128_r6(ctx, &pvalue->hs_sich_configuration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_SystemInfo_TDD128_hs_SCCH_SetConfiguration(rtxContext* ctx, const HS_SCCH_SystemInfo_TDD128_hs_SCCH_SetConfiguration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "HS-SCCH-TDD128-r6", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_HS_SCCH_TDD128_r6(ctx, (const HS_SCCH_TDD128_r6*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_SystemInfo_TDD128_tpc_step_size(rtxContext* ctx, HS_SCCH_SystemInfo_TDD128_tpc_step_size value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_Bler_Target(rtxContext* ctx, Bler_Target value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Bler-Target");
-   if (value < -63 || value > 0) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, value, -63, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_SystemInfo_TDD128(rtxContext* ctx, const HS_SCCH_SystemInfo_TDD128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HS-SCCH-SystemInfo-TDD128");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* hs-SCCH-SetConfiguration */
-   rtxCtxtPushElemName(ctx, "hs-SCCH-SetConfiguration");
-   stat = asn1PE_UMTS_HS_SCCH_SystemInfo_TDD128_hs_SCCH_SetConfiguration(ctx, &pvalue->hs_SCCH_SetConfiguration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* power-level-HSSICH */
-   rtxCtxtPushElemName(ctx, "power-level-HSSICH");
-   if (pvalue->power_level_HSSICH < -120 || pvalue->power_level_HSSICH > -58) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->power_level_HSSICH);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->power_level_HSSICH, -120, -58);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nack-ack-power-offset */
-   rtxCtxtPushElemName(ctx, "nack-ack-power-offset");
-   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tpc-step-size */
-   rtxCtxtPushElemName(ctx, "tpc-step-size");
-   if (pvalue->tpc_step_size > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->tpc_step_size);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tpc_step_size, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* bler-target */
-   rtxCtxtPushElemName(ctx, "bler-target");
-   rtxCtxtPushTypeName(ctx, "Bler-Target");
-   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->bler_target);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* power-control-gap */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "power-control-gap");
-      if ((uint64_t)(pvalue->power_control_gap - 1) > 254u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->power_control_gap);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->power_control_gap, 1, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pathloss-compensation-switch */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "pathloss-compensation-switch");
-      stat = rtxEncBit(ctx, pvalue->pathloss_compensation_switch);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_PDSCH_Midamble_Configuration_TDD128_midambleAllocationMode(rtxContext* ctx, const HS_PDSCH_Midamble_Configuration_TDD128_midambleAllocationMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "commonMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         if ((uint64_t)pvalue->u.ueSpecificMidamble > 15u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.ueSpecificMidamble);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.ueSpecificMidamble, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(rtxContext* ctx, const HS_PDSCH_Midamble_Configuration_TDD128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HS-PDSCH-Midamble-Configuration-TDD128");
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PE_UMTS_HS_PDSCH_Midamble_Configuration_TDD128_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midambleConfiguration */
-   rtxCtxtPushElemName(ctx, "midambleConfiguration");
-   if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_DSCH_CommonSystemInformation_TDD128_common_H_RNTI_information(rtxContext* ctx, const HS_DSCH_CommonSystemInformation_TDD128_common_H_RNTI_information* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "H-RNTI", i);
-      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->elem[i]);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_DSCH_CommonSystemInformation_TDD128(rtxContext* ctx, const HS_DSCH_CommonSystemInformation_TDD128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HS-DSCH-CommonSystemInformation-TDD128");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ccch-MappingInfo */
-   rtxCtxtPushElemName(ctx, "ccch-MappingInfo");
-   stat = asn1PE_UMTS_CommonRBMappingInfo(ctx, &pvalue->ccch_MappingInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* srb1-MappingInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "srb1-MappingInfo");
-      stat = asn1PE_UMTS_CommonRBMappingInfo(ctx, &pvalue->srb1_MappingInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* common-MAC-ehs-ReorderingQueueList */
-   rtxCtxtPushElemName(ctx, "common-MAC-ehs-ReorderingQueueList");
-   stat = asn1PE_UMTS_Common_MAC_ehs_ReorderingQueueList(ctx, &pvalue->common_MAC_ehs_ReorderingQueueList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hs-scch-SystemInfo-tdd128 */
-   rtxCtxtPushElemName(ctx, "hs-scch-SystemInfo-tdd128");
-   stat = asn1PE_UMTS_HS_SCCH_SystemInfo_TDD128(ctx, &pvalue->hs_scch_SystemInfo_tdd128);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* harq-SystemInfo */
-   rtxCtxtPushElemName(ctx, "harq-SystemInfo");
-   stat = asn1PE_UMTS_HARQ_Info(ctx, &pvalue->harq_SystemInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hs-pdsch-MidambleConfiguration */
-   rtxCtxtPushElemName(ctx, "hs-pdsch-MidambleConfiguration");
-   stat = asn1PE_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_pdsch_MidambleConfiguration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* common-H-RNTI-information */
-   rtxCtxtPushElemName(ctx, "common-H-RNTI-information");
-   stat = asn1PE_UMTS_HS_DSCH_CommonSystemInformation_TDD128_common_H_RNTI_information(ctx, &pvalue->common_H_RNTI_information);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* bcchSpecific-H-RNTI */
-   rtxCtxtPushElemName(ctx, "bcchSpecific-H-RNTI");
-   stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->bcchSpecific_H_RNTI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_OccurrenceSequenceNumberOfPICH(rtxContext* ctx, OccurrenceSequenceNumberOfPICH value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "OccurrenceSequenceNumberOfPICH");
-   if ((uint64_t)(value - 1) > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PICH_ForHSDPASupportedPaging_TDD128_implicit(rtxContext* ctx, const PICH_ForHSDPASupportedPaging_TDD128_implicit* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* occurrenceSequenceNumberOfPICH */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "occurrenceSequenceNumberOfPICH");
-      rtxCtxtPushTypeName(ctx, "OccurrenceSequenceNumberOfPICH");
-      if ((uint64_t)(pvalue->occurrenceSequenceNumberOfPICH - 1) > 15u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->occurrenceSequenceNumberOfPICH);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->occurrenceSequenceNumberOfPICH, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PICH_ForHSDPASupportedPaging_TDD128(rtxContext* ctx, const PICH_ForHSDPASupportedPaging_TDD128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PICH-ForHSDPASupportedPaging-TDD128");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "implicit");
-         if (pvalue->u.implicit == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PICH_ForHSDPASupportedPaging_TDD128_implicit(ctx, pvalue->u.implicit);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "explicit");
-         if (pvalue->u.explicit_ == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PICH_Info_LCR_r4(ctx, pvalue->u.explicit_);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_DSCH_PagingSystemInformation_TDD128_pich_ForHsdschList(rtxContext* ctx, const HS_DSCH_PagingSystemInformation_TDD128_pich_ForHsdschList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "PICH-ForHSDPASupportedPaging-TDD128", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_PICH_ForHSDPASupportedPaging_TDD128(ctx, (const PICH_ForHSDPASupportedPaging_TDD128*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CodeResourceInformation_TDD128(rtxContext* ctx, const CodeResourceInformation_TDD128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CodeResourceInformation-TDD128");
-   /* start-code */
-   rtxCtxtPushElemName(ctx, "start-code");
-   rtxCtxtPushTypeName(ctx, "HS-ChannelisationCode-LCR");
-   if (pvalue->start_code > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->start_code);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->start_code, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* stop-code */
-   rtxCtxtPushElemName(ctx, "stop-code");
-   rtxCtxtPushTypeName(ctx, "HS-ChannelisationCode-LCR");
-   if (pvalue->stop_code > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->stop_code);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->stop_code, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PCCH_InformationList_paging_associatedHspdschInfo_element(rtxContext* ctx, const PCCH_InformationList_paging_associatedHspdschInfo_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* hs-pdsch-MidambleConfiguration */
-   rtxCtxtPushElemName(ctx, "hs-pdsch-MidambleConfiguration");
-   stat = asn1PE_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_pdsch_MidambleConfiguration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* timeslotResourceRelatedInfo */
-   rtxCtxtPushElemName(ctx, "timeslotResourceRelatedInfo");
-   RT_SET_SIZE(ctx, 6, 6);
-   stat = pe_BitString32(ctx, &pvalue->timeslotResourceRelatedInfo, 6, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* codeResourceInformation */
-   rtxCtxtPushElemName(ctx, "codeResourceInformation");
-   stat = asn1PE_UMTS_CodeResourceInformation_TDD128(ctx, &pvalue->codeResourceInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PCCH_InformationList_paging_associatedHspdschInfo(rtxContext* ctx, const PCCH_InformationList_paging_associatedHspdschInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_PCCH_InformationList_paging_associatedHspdschInfo_element(ctx, (const PCCH_InformationList_paging_associatedHspdschInfo_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PCCH_InformationList_transportBlockSizeList(rtxContext* ctx, const PCCH_InformationList_transportBlockSizeList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 2);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "TransportBlockSizeIndex", i);
-      rtxCtxtPushTypeName(ctx, "TransportBlockSizeIndex");
-      if ((uint64_t)(pvalue->elem[i] - 1) > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 1, 32);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PCCH_InformationList(rtxContext* ctx, const PCCH_InformationList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PCCH-InformationList");
-   /* paging-associatedHspdschInfo */
-   rtxCtxtPushElemName(ctx, "paging-associatedHspdschInfo");
-   stat = asn1PE_UMTS_PCCH_InformationList_paging_associatedHspdschInfo(ctx, &pvalue->paging_associatedHspdschInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* paging-sub-Channel-size */
-   rtxCtxtPushElemName(ctx, "paging-sub-Channel-size");
-   if ((uint64_t)(pvalue->paging_sub_Channel_size - 1) > 2u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->paging_sub_Channel_size);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->paging_sub_Channel_size, 1, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* transportBlockSizeList */
-   rtxCtxtPushElemName(ctx, "transportBlockSizeList");
-   stat = asn1PE_UMTS_PCCH_InformationList_transportBlockSizeList(ctx, &pvalue->transportBlockSizeList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_DSCH_PagingSystemInformation_TDD128(rtxContext* ctx, const HS_DSCH_PagingSystemInformation_TDD128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HS-DSCH-PagingSystemInformation-TDD128");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* pich-ForHsdschList */
-   rtxCtxtPushElemName(ctx, "pich-ForHsdschList");
-   stat = asn1PE_UMTS_HS_DSCH_PagingSystemInformation_TDD128_pich_ForHsdschList(ctx, &pvalue->pich_ForHsdschList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dtch-DCCH-reception-window-size */
-   rtxCtxtPushElemName(ctx, "dtch-DCCH-reception-window-size");
-   if ((uint64_t)(pvalue->dtch_DCCH_reception_window_size - 1) > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->dtch_DCCH_reception_window_size);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dtch_DCCH_reception_window_size, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* pcch-InformationList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pcch-InformationList");
-      stat = asn1PE_UMTS_PCCH_InformationList(ctx, &pvalue->pcch_InformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128_hs_dsch_CommonSysInfo(rtxContext* ctx, const SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128_hs_dsch_CommonSysInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* hs-dsch-CommonSystemInformation */
-   rtxCtxtPushElemName(ctx, "hs-dsch-CommonSystemInformation");
-   stat = asn1PE_UMTS_HS_DSCH_CommonSystemInformation_TDD128(ctx, &pvalue->hs_dsch_CommonSystemInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hs-dsch-PagingSystemInformation */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "hs-dsch-PagingSystemInformation");
-      stat = asn1PE_UMTS_HS_DSCH_PagingSystemInformation_TDD128(ctx, &pvalue->hs_dsch_PagingSystemInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_DSCH_DrxCellfach_info_TDD128(rtxContext* ctx, const HS_DSCH_DrxCellfach_info_TDD128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HS-DSCH-DrxCellfach-info-TDD128");
-   /* t-321 */
-   rtxCtxtPushElemName(ctx, "t-321");
-   rtxCtxtPushTypeName(ctx, "T-321");
-   if (pvalue->t_321 > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->t_321);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->t_321, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hs-dsch-DrxCycleFach */
-   rtxCtxtPushElemName(ctx, "hs-dsch-DrxCycleFach");
-   rtxCtxtPushTypeName(ctx, "HS-DSCH-DrxCycleFach");
-   if (pvalue->hs_dsch_DrxCycleFach > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->hs_dsch_DrxCycleFach);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hs_dsch_DrxCycleFach, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hs-dsch-DrxBurstFach */
-   rtxCtxtPushElemName(ctx, "hs-dsch-DrxBurstFach");
-   rtxCtxtPushTypeName(ctx, "HS-DSCH-DrxBurstFach");
-   if (pvalue->hs_dsch_DrxBurstFach > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->hs_dsch_DrxBurstFach);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hs_dsch_DrxBurstFach, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128(rtxContext* ctx, const SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* hs-dsch-CommonSysInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "hs-dsch-CommonSysInfo");
-      stat = asn1PE_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128_hs_dsch_CommonSysInfo(ctx, &pvalue->hs_dsch_CommonSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hs-dsch-DrxCellfach-info */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "hs-dsch-DrxCellfach-info");
-      stat = asn1PE_UMTS_HS_DSCH_DrxCellfach_info_TDD128(ctx, &pvalue->hs_dsch_DrxCellfach_info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo(rtxContext* ctx, const SysInfoType5_v860ext_IEs_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType5_v860ext_IEs(rtxContext* ctx, const SysInfoType5_v860ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType5-v860ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      stat = asn1PE_UMTS_SysInfoType5_v860ext_IEs_dummy(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UARFCN(rtxContext* ctx, UARFCN value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UARFCN");
-   if ((uint64_t)value > 16383u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 16383);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_FrequencyInfoTDD(rtxContext* ctx, const FrequencyInfoTDD* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "FrequencyInfoTDD");
-   /* uarfcn-Nt */
-   rtxCtxtPushElemName(ctx, "uarfcn-Nt");
-   rtxCtxtPushTypeName(ctx, "UARFCN");
-   if ((uint64_t)pvalue->uarfcn_Nt > 16383u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->uarfcn_Nt);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->uarfcn_Nt, 0, 16383);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_MAC_d_FlowIdentity(rtxContext* ctx, E_DCH_MAC_d_FlowIdentity value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "E-DCH-MAC-d-FlowIdentity");
-   if ((uint64_t)value > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_MAC_d_FlowPowerOffset(rtxContext* ctx, E_DCH_MAC_d_FlowPowerOffset value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "E-DCH-MAC-d-FlowPowerOffset");
-   if ((uint64_t)value > 6u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_MAC_d_FlowMaxRetrans(rtxContext* ctx, E_DCH_MAC_d_FlowMaxRetrans value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "E-DCH-MAC-d-FlowMaxRetrans");
-   if ((uint64_t)value > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_MAC_d_FlowMultiplexingList(rtxContext* ctx, E_DCH_MAC_d_FlowMultiplexingList value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "E-DCH-MAC-d-FlowMultiplexingList");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &value, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_MAC_d_FlowRetransTimer(rtxContext* ctx, E_DCH_MAC_d_FlowRetransTimer value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "E-DCH-MAC-d-FlowRetransTimer");
-   if (value > 29) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Common_E_DCH_MAC_d_Flow(rtxContext* ctx, const Common_E_DCH_MAC_d_Flow* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Common-E-DCH-MAC-d-Flow");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* mac-d-FlowIdentity */
-   rtxCtxtPushElemName(ctx, "mac-d-FlowIdentity");
-   rtxCtxtPushTypeName(ctx, "E-DCH-MAC-d-FlowIdentity");
-   if ((uint64_t)pvalue->mac_d_FlowIdentity > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->mac_d_FlowIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mac_d_FlowIdentity, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* mac-d-FlowPowerOffset */
-   rtxCtxtPushElemName(ctx, "mac-d-FlowPowerOffset");
-   rtxCtxtPushTypeName(ctx, "E-DCH-MAC-d-FlowPowerOffset");
-   if ((uint64_t)pvalue->mac_d_FlowPowerOffset > 6u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->mac_d_FlowPowerOffset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mac_d_FlowPowerOffset, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* mac-d-FlowMaxRetrans */
-   rtxCtxtPushElemName(ctx, "mac-d-FlowMaxRetrans");
-   rtxCtxtPushTypeName(ctx, "E-DCH-MAC-d-FlowMaxRetrans");
-   if ((uint64_t)pvalue->mac_d_FlowMaxRetrans > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->mac_d_FlowMaxRetrans);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mac_d_FlowMaxRetrans, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* mac-d-FlowMultiplexingList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "mac-d-FlowMultiplexingList");
-      stat = asn1PE_UMTS_E_DCH_MAC_d_FlowMultiplexingList(ctx, pvalue->mac_d_FlowMultiplexingList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-dch-mac-d-flow-retransmission-timer */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "e-dch-mac-d-flow-retransmission-timer");
-      rtxCtxtPushTypeName(ctx, "E-DCH-MAC-d-FlowRetransTimer");
-      if (pvalue->e_dch_mac_d_flow_retransmission_timer > 29) {
-         rtxErrAddUIntParm(ctx, pvalue->e_dch_mac_d_flow_retransmission_timer);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->e_dch_mac_d_flow_retransmission_timer, 0, 29);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Common_E_DCH_MAC_d_FlowList(rtxContext* ctx, const Common_E_DCH_MAC_d_FlowList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "Common-E-DCH-MAC-d-FlowList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "Common-E-DCH-MAC-d-Flow", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_Common_E_DCH_MAC_d_Flow(ctx, (const Common_E_DCH_MAC_d_Flow*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_PreambleForEnhancedUplink(rtxContext* ctx, const PRACH_PreambleForEnhancedUplink* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PRACH-PreambleForEnhancedUplink");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 0), 8);
-   RT_CHECK(ctx, stat);
-   /* availableSignatures */
-   rtxCtxtPushElemName(ctx, "availableSignatures");
-   stat = asn1PE_UMTS_AvailableSignatures(ctx, pvalue->availableSignatures);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-ai-Indication */
-   rtxCtxtPushElemName(ctx, "e-ai-Indication");
-   stat = rtxEncBit(ctx, pvalue->e_ai_Indication);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* preambleScramblingCodeWordNumber */
-   rtxCtxtPushElemName(ctx, "preambleScramblingCodeWordNumber");
-   rtxCtxtPushTypeName(ctx, "PreambleScramblingCodeWordNumber");
-   if ((uint64_t)pvalue->preambleScramblingCodeWordNumber > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->preambleScramblingCodeWordNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->preambleScramblingCodeWordNumber, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* availableSubChannelNumbers */
-   rtxCtxtPushElemName(ctx, "availableSubChannelNumbers");
-   stat = asn1PE_UMTS_AvailableSubChannelNumbers(ctx, pvalue->availableSubChannelNumbers);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* prach-Partitioning */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "prach-Partitioning");
-      stat = asn1PE_UMTS_PRACH_Partitioning_r7(ctx, &pvalue->prach_Partitioning);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* persistenceScalingFactorList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "persistenceScalingFactorList");
-      stat = asn1PE_UMTS_PersistenceScalingFactorList(ctx, &pvalue->persistenceScalingFactorList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ac-To-ASC-MappingTable */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "ac-To-ASC-MappingTable");
-      stat = asn1PE_UMTS_AC_To_ASC_MappingTable(ctx, &pvalue->ac_To_ASC_MappingTable);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* primaryCPICH-TX-Power */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-TX-Power");
-      rtxCtxtPushTypeName(ctx, "PrimaryCPICH-TX-Power");
-      if (pvalue->primaryCPICH_TX_Power < -10 || pvalue->primaryCPICH_TX_Power > 50) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->primaryCPICH_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->primaryCPICH_TX_Power, -10, 50);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* constantValue */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "constantValue");
-      rtxCtxtPushTypeName(ctx, "ConstantValue");
-      if (pvalue->constantValue < -35 || pvalue->constantValue > -10) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->constantValue);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->constantValue, -35, -10);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* prach-PowerOffset */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "prach-PowerOffset");
-      stat = asn1PE_UMTS_PRACH_PowerOffset(ctx, &pvalue->prach_PowerOffset);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rach-TransmissionParameters */
-   if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "rach-TransmissionParameters");
-      stat = asn1PE_UMTS_RACH_TransmissionParameters(ctx, &pvalue->rach_TransmissionParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* aich-Info */
-   if (pvalue->m & 0x80u) {
-      rtxCtxtPushElemName(ctx, "aich-Info");
-      stat = asn1PE_UMTS_AICH_Info(ctx, &pvalue->aich_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* powerOffsetPp-e */
-   rtxCtxtPushElemName(ctx, "powerOffsetPp-e");
-   if (pvalue->powerOffsetPp_e < -5 || pvalue->powerOffsetPp_e > 10) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->powerOffsetPp_e);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->powerOffsetPp_e, -5, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_TTI(rtxContext* ctx, E_DCH_TTI value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "E-DCH-TTI");
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_ChannelisationCode(rtxContext* ctx, E_AGCH_ChannelisationCode value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "E-AGCH-ChannelisationCode");
-   stat = pe_ConsUInt64(ctx, value, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_Information(rtxContext* ctx, const E_AGCH_Information* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-AGCH-Information");
-   /* e-AGCH-ChannelisationCode */
-   rtxCtxtPushElemName(ctx, "e-AGCH-ChannelisationCode");
-   rtxCtxtPushTypeName(ctx, "E-AGCH-ChannelisationCode");
-   stat = pe_ConsUInt64(ctx, pvalue->e_AGCH_ChannelisationCode, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_harq_Info(rtxContext* ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_harq_Info value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_TPC_StepSizeFDD(rtxContext* ctx, TPC_StepSizeFDD value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TPC-StepSizeFDD");
-   if ((uint64_t)value > 1u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PowerControlAlgorithm(rtxContext* ctx, const PowerControlAlgorithm* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PowerControlAlgorithm");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "algorithm1");
-         rtxCtxtPushTypeName(ctx, "TPC-StepSizeFDD");
-         if ((uint64_t)pvalue->u.algorithm1 > 1u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.algorithm1);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.algorithm1, 0, 1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "algorithm2");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DeltaACK(rtxContext* ctx, DeltaACK value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DeltaACK");
-   if ((uint64_t)value > 8u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DeltaNACK(rtxContext* ctx, DeltaNACK value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DeltaNACK");
-   if ((uint64_t)value > 8u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ACK_NACK_repetitionFactor(rtxContext* ctx, ACK_NACK_repetitionFactor value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ACK-NACK-repetitionFactor");
-   if ((uint64_t)(value - 1) > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCHpowerControlInfoForCommonEDCH(rtxContext* ctx, const UL_DPCHpowerControlInfoForCommonEDCH* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-DPCHpowerControlInfoForCommonEDCH");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* powerControlAlgorithm */
-   rtxCtxtPushElemName(ctx, "powerControlAlgorithm");
-   stat = asn1PE_UMTS_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* deltaACK */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "deltaACK");
-      rtxCtxtPushTypeName(ctx, "DeltaACK");
-      if ((uint64_t)pvalue->deltaACK > 8u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->deltaACK);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->deltaACK, 0, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* deltaNACK */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "deltaNACK");
-      rtxCtxtPushTypeName(ctx, "DeltaNACK");
-      if ((uint64_t)pvalue->deltaNACK > 8u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->deltaNACK);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->deltaNACK, 0, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ack-NACK-repetition-factor */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "ack-NACK-repetition-factor");
-      rtxCtxtPushTypeName(ctx, "ACK-NACK-repetitionFactor");
-      if ((uint64_t)(pvalue->ack_NACK_repetition_factor - 1) > 3u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->ack_NACK_repetition_factor);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ack_NACK_repetition_factor, 1, 4);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DPCCH_DPCCH_PowerOffset(rtxContext* ctx, E_DPCCH_DPCCH_PowerOffset value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "E-DPCCH-DPCCH-PowerOffset");
-   if ((uint64_t)value > 8u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HappyBit_DelayCondition(rtxContext* ctx, HappyBit_DelayCondition value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HappyBit-DelayCondition");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_TFC_Boost_Info_r7(rtxContext* ctx, const E_TFC_Boost_Info_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-TFC-Boost-Info-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* e-TFCI-Boost */
-   rtxCtxtPushElemName(ctx, "e-TFCI-Boost");
-   if ((uint64_t)pvalue->e_TFCI_Boost > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->e_TFCI_Boost);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->e_TFCI_Boost, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* delta-T2TP */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "delta-T2TP");
-      if ((uint64_t)pvalue->delta_T2TP > 6u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->delta_T2TP);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->delta_T2TP, 0, 6);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DPDCH_PowerInterpolation(rtxContext* ctx, E_DPDCH_PowerInterpolation value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "E-DPDCH-PowerInterpolation");
-   stat = rtxEncBit(ctx, value);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DPCCH_Info_r7(rtxContext* ctx, const E_DPCCH_Info_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-DPCCH-Info-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* e-DPCCH-DPCCH-PowerOffset */
-   rtxCtxtPushElemName(ctx, "e-DPCCH-DPCCH-PowerOffset");
-   rtxCtxtPushTypeName(ctx, "E-DPCCH-DPCCH-PowerOffset");
-   if ((uint64_t)pvalue->e_DPCCH_DPCCH_PowerOffset > 8u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->e_DPCCH_DPCCH_PowerOffset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->e_DPCCH_DPCCH_PowerOffset, 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* happyBit-DelayCondition */
-   rtxCtxtPushElemName(ctx, "happyBit-DelayCondition");
-   rtxCtxtPushTypeName(ctx, "HappyBit-DelayCondition");
-   if (pvalue->happyBit_DelayCondition > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->happyBit_DelayCondition);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->happyBit_DelayCondition, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* e-TFC-Boost-Info */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "e-TFC-Boost-Info");
-      stat = asn1PE_UMTS_E_TFC_Boost_Info_r7(ctx, &pvalue->e_TFC_Boost_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-DPDCH-PowerInterpolation */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "e-DPDCH-PowerInterpolation");
-      rtxCtxtPushTypeName(ctx, "E-DPDCH-PowerInterpolation");
-      stat = rtxEncBit(ctx, pvalue->e_DPDCH_PowerInterpolation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_TFCI_TableIndex(rtxContext* ctx, E_TFCI_TableIndex value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "E-TFCI-TableIndex");
-   if ((uint64_t)value > 1u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_MinimumSet_E_TFCI(rtxContext* ctx, E_DCH_MinimumSet_E_TFCI value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "E-DCH-MinimumSet-E-TFCI");
-   if ((uint64_t)value > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DPDCH_Reference_E_TFCI_r7(rtxContext* ctx, const E_DPDCH_Reference_E_TFCI_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-DPDCH-Reference-E-TFCI-r7");
-   /* reference-E-TFCI */
-   rtxCtxtPushElemName(ctx, "reference-E-TFCI");
-   if ((uint64_t)pvalue->reference_E_TFCI > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->reference_E_TFCI);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reference_E_TFCI, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* reference-E-TFCI-PO-r7 */
-   rtxCtxtPushElemName(ctx, "reference-E-TFCI-PO-r7");
-   if ((uint64_t)pvalue->reference_E_TFCI_PO_r7 > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->reference_E_TFCI_PO_r7);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reference_E_TFCI_PO_r7, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DPDCH_Reference_E_TFCIList_r7(rtxContext* ctx, const E_DPDCH_Reference_E_TFCIList_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "E-DPDCH-Reference-E-TFCIList-r7");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "E-DPDCH-Reference-E-TFCI-r7", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_E_DPDCH_Reference_E_TFCI_r7(ctx, (const E_DPDCH_Reference_E_TFCI_r7*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MinReduced_E_DPDCH_GainFactor(rtxContext* ctx, MinReduced_E_DPDCH_GainFactor value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MinReduced-E-DPDCH-GainFactor");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DPDCH_MaxChannelisationCodes(rtxContext* ctx, E_DPDCH_MaxChannelisationCodes value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "E-DPDCH-MaxChannelisationCodes");
-   if (value > 9) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DPDCH_PL_NonMax(rtxContext* ctx, E_DPDCH_PL_NonMax value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "E-DPDCH-PL-NonMax");
-   if ((uint64_t)(value - 11) > 14u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 11, 25);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DPDCH_PeriodicyOfSchedInfo(rtxContext* ctx, E_DPDCH_PeriodicyOfSchedInfo value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "E-DPDCH-PeriodicyOfSchedInfo");
-   if (value > 8) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DPDCH_SchedulingInfoConfiguration(rtxContext* ctx, const E_DPDCH_SchedulingInfoConfiguration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-DPDCH-SchedulingInfoConfiguration");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* periodicityOfSchedInfo-NoGrant */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "periodicityOfSchedInfo-NoGrant");
-      rtxCtxtPushTypeName(ctx, "E-DPDCH-PeriodicyOfSchedInfo");
-      if (pvalue->periodicityOfSchedInfo_NoGrant > 8) {
-         rtxErrAddUIntParm(ctx, pvalue->periodicityOfSchedInfo_NoGrant);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->periodicityOfSchedInfo_NoGrant, 0, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* periodicityOfSchedInfo-Grant */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "periodicityOfSchedInfo-Grant");
-      rtxCtxtPushTypeName(ctx, "E-DPDCH-PeriodicyOfSchedInfo");
-      if (pvalue->periodicityOfSchedInfo_Grant > 8) {
-         rtxErrAddUIntParm(ctx, pvalue->periodicityOfSchedInfo_Grant);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->periodicityOfSchedInfo_Grant, 0, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* powerOffsetForSchedInfo */
-   rtxCtxtPushElemName(ctx, "powerOffsetForSchedInfo");
-   if ((uint64_t)pvalue->powerOffsetForSchedInfo > 6u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->powerOffsetForSchedInfo);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->powerOffsetForSchedInfo, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DPDCH_Info_r8(rtxContext* ctx, const E_DPDCH_Info_r8* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-DPDCH-Info-r8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* e-TFCI-TableIndex */
-   rtxCtxtPushElemName(ctx, "e-TFCI-TableIndex");
-   rtxCtxtPushTypeName(ctx, "E-TFCI-TableIndex");
-   if ((uint64_t)pvalue->e_TFCI_TableIndex > 1u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->e_TFCI_TableIndex);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->e_TFCI_TableIndex, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* e-DCH-MinimumSet-E-TFCI */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "e-DCH-MinimumSet-E-TFCI");
-      rtxCtxtPushTypeName(ctx, "E-DCH-MinimumSet-E-TFCI");
-      if ((uint64_t)pvalue->e_DCH_MinimumSet_E_TFCI > 127u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->e_DCH_MinimumSet_E_TFCI);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->e_DCH_MinimumSet_E_TFCI, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reference-E-TFCIs */
-   rtxCtxtPushElemName(ctx, "reference-E-TFCIs");
-   stat = asn1PE_UMTS_E_DPDCH_Reference_E_TFCIList_r7(ctx, &pvalue->reference_E_TFCIs);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* minReduced-E-DPDCH-GainFactor */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "minReduced-E-DPDCH-GainFactor");
-      rtxCtxtPushTypeName(ctx, "MinReduced-E-DPDCH-GainFactor");
-      if (pvalue->minReduced_E_DPDCH_GainFactor > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->minReduced_E_DPDCH_GainFactor);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->minReduced_E_DPDCH_GainFactor, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxChannelisationCodes */
-   rtxCtxtPushElemName(ctx, "maxChannelisationCodes");
-   rtxCtxtPushTypeName(ctx, "E-DPDCH-MaxChannelisationCodes");
-   if (pvalue->maxChannelisationCodes > 9) {
-      rtxErrAddUIntParm(ctx, pvalue->maxChannelisationCodes);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxChannelisationCodes, 0, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* pl-NonMax */
-   rtxCtxtPushElemName(ctx, "pl-NonMax");
-   rtxCtxtPushTypeName(ctx, "E-DPDCH-PL-NonMax");
-   if ((uint64_t)(pvalue->pl_NonMax - 11) > 14u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->pl_NonMax);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pl_NonMax, 11, 25);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* schedulingInfoConfiguration */
-   rtxCtxtPushElemName(ctx, "schedulingInfoConfiguration");
-   stat = asn1PE_UMTS_E_DPDCH_SchedulingInfoConfiguration(ctx, &pvalue->schedulingInfoConfiguration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* threeIndexStepThreshold */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "threeIndexStepThreshold");
-      if ((uint64_t)pvalue->threeIndexStepThreshold > 37u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->threeIndexStepThreshold);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->threeIndexStepThreshold, 0, 37);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* twoIndexStepThreshold */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "twoIndexStepThreshold");
-      if ((uint64_t)pvalue->twoIndexStepThreshold > 37u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->twoIndexStepThreshold);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->twoIndexStepThreshold, 0, 37);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_max_CCCH_ResourceAllocation(rtxContext* ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_max_CCCH_ResourceAllocation value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_e_dch_TransmitContinuationOffset(rtxContext* ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_e_dch_TransmitContinuationOffset value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementPowerOffset(rtxContext* ctx, MeasurementPowerOffset value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MeasurementPowerOffset");
-   if (value < -12 || value > 26) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, value, -12, 26);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Feedback_cycle_r7(rtxContext* ctx, Feedback_cycle_r7 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Feedback-cycle-r7");
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CQI_RepetitionFactor(rtxContext* ctx, CQI_RepetitionFactor value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CQI-RepetitionFactor");
-   if ((uint64_t)(value - 1) > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DeltaCQI(rtxContext* ctx, DeltaCQI value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DeltaCQI");
-   if ((uint64_t)value > 8u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Measurement_Feedback_Info_r7_modeSpecificInfo_fdd(rtxContext* ctx, const Measurement_Feedback_Info_r7_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* measurementPowerOffset */
-   rtxCtxtPushElemName(ctx, "measurementPowerOffset");
-   rtxCtxtPushTypeName(ctx, "MeasurementPowerOffset");
-   if (pvalue->measurementPowerOffset < -12 || pvalue->measurementPowerOffset > 26) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->measurementPowerOffset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->measurementPowerOffset, -12, 26);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* feedback-cycle */
-   rtxCtxtPushElemName(ctx, "feedback-cycle");
-   rtxCtxtPushTypeName(ctx, "Feedback-cycle-r7");
-   if (pvalue->feedback_cycle > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->feedback_cycle);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->feedback_cycle, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* cqi-RepetitionFactor */
-   rtxCtxtPushElemName(ctx, "cqi-RepetitionFactor");
-   rtxCtxtPushTypeName(ctx, "CQI-RepetitionFactor");
-   if ((uint64_t)(pvalue->cqi_RepetitionFactor - 1) > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->cqi_RepetitionFactor);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cqi_RepetitionFactor, 1, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* deltaCQI */
-   rtxCtxtPushElemName(ctx, "deltaCQI");
-   rtxCtxtPushTypeName(ctx, "DeltaCQI");
-   if ((uint64_t)pvalue->deltaCQI > 8u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->deltaCQI);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->deltaCQI, 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Measurement_Feedback_Info_r7_modeSpecificInfo(rtxContext* ctx, const Measurement_Feedback_Info_r7_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Measurement_Feedback_Info_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Measurement_Feedback_Info_r7(rtxContext* ctx, const Measurement_Feedback_Info_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Measurement-Feedback-Info-r7");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_Measurement_Feedback_Info_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_HICH_RGCH_SignatureSequence(rtxContext* ctx, E_HICH_RGCH_SignatureSequence value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "E-HICH-RGCH-SignatureSequence");
-   if ((uint64_t)value > 39u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 39);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_RGCH_CombinationIndex(rtxContext* ctx, E_RGCH_CombinationIndex value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "E-RGCH-CombinationIndex");
-   if ((uint64_t)value > 5u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_RGCH_Information(rtxContext* ctx, const E_RGCH_Information* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-RGCH-Information");
-   /* signatureSequence */
-   rtxCtxtPushElemName(ctx, "signatureSequence");
-   rtxCtxtPushTypeName(ctx, "E-HICH-RGCH-SignatureSequence");
-   if ((uint64_t)pvalue->signatureSequence > 39u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->signatureSequence);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->signatureSequence, 0, 39);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* rg-CombinationIndex */
-   rtxCtxtPushElemName(ctx, "rg-CombinationIndex");
-   rtxCtxtPushTypeName(ctx, "E-RGCH-CombinationIndex");
-   if ((uint64_t)pvalue->rg_CombinationIndex > 5u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rg_CombinationIndex);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rg_CombinationIndex, 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_HICH_ChannelisationCode(rtxContext* ctx, E_HICH_ChannelisationCode value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "E-HICH-ChannelisationCode");
-   if ((uint64_t)value > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_HICH_Information(rtxContext* ctx, const E_HICH_Information* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-HICH-Information");
-   /* channelisationCode */
-   rtxCtxtPushElemName(ctx, "channelisationCode");
-   rtxCtxtPushTypeName(ctx, "E-HICH-ChannelisationCode");
-   if ((uint64_t)pvalue->channelisationCode > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* signatureSequence */
-   rtxCtxtPushElemName(ctx, "signatureSequence");
-   rtxCtxtPushTypeName(ctx, "E-HICH-RGCH-SignatureSequence");
-   if ((uint64_t)pvalue->signatureSequence > 39u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->signatureSequence);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->signatureSequence, 0, 39);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ScramblingCodeType(rtxContext* ctx, ScramblingCodeType value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ScramblingCodeType");
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_ScramblingCode(rtxContext* ctx, UL_ScramblingCode value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UL-ScramblingCode");
-   if ((uint64_t)value > 16777215u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 16777215);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_CodeInfoForCommonEDCH(rtxContext* ctx, const UL_DPCH_CodeInfoForCommonEDCH* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-DPCH-CodeInfoForCommonEDCH");
-   /* ul-DPCCHscramblingCodeType */
-   rtxCtxtPushElemName(ctx, "ul-DPCCHscramblingCodeType");
-   rtxCtxtPushTypeName(ctx, "ScramblingCodeType");
-   if (pvalue->ul_DPCCHscramblingCodeType > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->ul_DPCCHscramblingCodeType);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ul_DPCCHscramblingCodeType, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ul-DPCCHscramblingCode */
-   rtxCtxtPushElemName(ctx, "ul-DPCCHscramblingCode");
-   rtxCtxtPushTypeName(ctx, "UL-ScramblingCode");
-   if ((uint64_t)pvalue->ul_DPCCHscramblingCode > 16777215u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ul_DPCCHscramblingCode);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ul_DPCCHscramblingCode, 0, 16777215);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Common_E_DCH_ResourceInfoList(rtxContext* ctx, const Common_E_DCH_ResourceInfoList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Common-E-DCH-ResourceInfoList");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* s-offset */
-   rtxCtxtPushElemName(ctx, "s-offset");
-   if ((uint64_t)pvalue->s_offset > 9u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->s_offset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->s_offset, 0, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* f-dpch-ChannelisationCodeNumber */
-   rtxCtxtPushElemName(ctx, "f-dpch-ChannelisationCodeNumber");
-   stat = pe_ConsUInt64(ctx, pvalue->f_dpch_ChannelisationCodeNumber, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-RGCH-Information */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "e-RGCH-Information");
-      stat = asn1PE_UMTS_E_RGCH_Information(ctx, &pvalue->e_RGCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-hich-Info */
-   rtxCtxtPushElemName(ctx, "e-hich-Info");
-   stat = asn1PE_UMTS_E_HICH_Information(ctx, &pvalue->e_hich_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-DPCH-CodeInfoForCommonEDCH */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-CodeInfoForCommonEDCH");
-   stat = asn1PE_UMTS_UL_DPCH_CodeInfoForCommonEDCH(ctx, &pvalue->ul_DPCH_CodeInfoForCommonEDCH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_common_E_DCH_ResourceInfoList(rtxContext* ctx, const CommonEDCHSystemInfo_modeSpecificInfo_fdd_common_E_DCH_ResourceInfoList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "Common-E-DCH-ResourceInfoList", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_Common_E_DCH_ResourceInfoList(ctx, (const Common_E_DCH_ResourceInfoList*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd(rtxContext* ctx, const CommonEDCHSystemInfo_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* prach-PreambleForEnhancedUplink */
-   rtxCtxtPushElemName(ctx, "prach-PreambleForEnhancedUplink");
-   stat = asn1PE_UMTS_PRACH_PreambleForEnhancedUplink(ctx, &pvalue->prach_PreambleForEnhancedUplink);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* initialServingGrantValue */
-   rtxCtxtPushElemName(ctx, "initialServingGrantValue");
-   if ((uint64_t)pvalue->initialServingGrantValue > 37u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->initialServingGrantValue);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->initialServingGrantValue, 0, 37);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-dch-TTI */
-   rtxCtxtPushElemName(ctx, "e-dch-TTI");
-   rtxCtxtPushTypeName(ctx, "E-DCH-TTI");
-   if (pvalue->e_dch_TTI > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->e_dch_TTI);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->e_dch_TTI, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* e-agch-Information */
-   rtxCtxtPushElemName(ctx, "e-agch-Information");
-   stat = asn1PE_UMTS_E_AGCH_Information(ctx, &pvalue->e_agch_Information);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* harq-Info */
-   rtxCtxtPushElemName(ctx, "harq-Info");
-   if (pvalue->harq_Info > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->harq_Info);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->harq_Info, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-DPCHpowerControlInfoForCommonEDCH */
-   rtxCtxtPushElemName(ctx, "ul-DPCHpowerControlInfoForCommonEDCH");
-   stat = asn1PE_UMTS_UL_DPCHpowerControlInfoForCommonEDCH(ctx, &pvalue->ul_DPCHpowerControlInfoForCommonEDCH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-dpcch-Info */
-   rtxCtxtPushElemName(ctx, "e-dpcch-Info");
-   stat = asn1PE_UMTS_E_DPCCH_Info_r7(ctx, &pvalue->e_dpcch_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-dpdch-Info */
-   rtxCtxtPushElemName(ctx, "e-dpdch-Info");
-   stat = asn1PE_UMTS_E_DPDCH_Info_r8(ctx, &pvalue->e_dpdch_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-FDPCH-TPCcommandErrorRate */
-   rtxCtxtPushElemName(ctx, "dl-FDPCH-TPCcommandErrorRate");
-   if ((uint64_t)(pvalue->dl_FDPCH_TPCcommandErrorRate - 1) > 9u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->dl_FDPCH_TPCcommandErrorRate);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dl_FDPCH_TPCcommandErrorRate, 1, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* additional-E-DCH-TransmitBackoff */
-   rtxCtxtPushElemName(ctx, "additional-E-DCH-TransmitBackoff");
-   if ((uint64_t)pvalue->additional_E_DCH_TransmitBackoff > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->additional_E_DCH_TransmitBackoff);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->additional_E_DCH_TransmitBackoff, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* max-CCCH-ResourceAllocation */
-   rtxCtxtPushElemName(ctx, "max-CCCH-ResourceAllocation");
-   if (pvalue->max_CCCH_ResourceAllocation > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->max_CCCH_ResourceAllocation);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->max_CCCH_ResourceAllocation, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* max-PeriodForCollisionResolution */
-   rtxCtxtPushElemName(ctx, "max-PeriodForCollisionResolution");
-   if ((uint64_t)(pvalue->max_PeriodForCollisionResolution - 8) > 16u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->max_PeriodForCollisionResolution);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->max_PeriodForCollisionResolution, 8, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-dch-TransmitContinuationOffset */
-   rtxCtxtPushElemName(ctx, "e-dch-TransmitContinuationOffset");
-   if (pvalue->e_dch_TransmitContinuationOffset > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->e_dch_TransmitContinuationOffset);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->e_dch_TransmitContinuationOffset, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ack-nack-support-on-HS-DPCCH */
-   rtxCtxtPushElemName(ctx, "ack-nack-support-on-HS-DPCCH");
-   stat = rtxEncBit(ctx, pvalue->ack_nack_support_on_HS_DPCCH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurement-Feedback-Info */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measurement-Feedback-Info");
-      stat = asn1PE_UMTS_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_Feedback_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* common-E-DCH-ResourceInfoList */
-   rtxCtxtPushElemName(ctx, "common-E-DCH-ResourceInfoList");
-   stat = asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_common_E_DCH_ResourceInfoList(ctx, &pvalue->common_E_DCH_ResourceInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_RUCCH_Info_TDD128_t_RUCCH(rtxContext* ctx, E_RUCCH_Info_TDD128_t_RUCCH value)
-{
-   int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_E_RUCCH_Info_TDD128_t_WAIT(rtxContext* ctx, E_RUCCH_Info_TDD128_t_WAIT value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_E_RUCCH_Info_TDD128_t_SI(rtxContext* ctx, E_RUCCH_Info_TDD128_t_SI value)
-{
-   int stat = 0;
-   if (value > 6) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 6);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_E_RUCCH_AccessServiceClass(rtxContext* ctx, const E_RUCCH_AccessServiceClass* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-RUCCH-AccessServiceClass");
-   stat = asn1PE_UMTS_PRACH_Partitioning_LCR_r4(ctx, pvalue);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SYNC_UL_InfoForE_RUCCH_max_SYNC_UL_Transmissions(rtxContext* ctx, SYNC_UL_InfoForE_RUCCH_max_SYNC_UL_Transmissions value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_SYNC_UL_InfoForE_RUCCH(rtxContext* ctx, const SYNC_UL_InfoForE_RUCCH* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SYNC-UL-InfoForE-RUCCH");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* prxUpPCHdes */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "prxUpPCHdes");
-      if ((uint64_t)pvalue->prxUpPCHdes > 62u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->prxUpPCHdes);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->prxUpPCHdes, 0, 62);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* powerRampStep */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "powerRampStep");
-      if ((uint64_t)pvalue->powerRampStep > 3u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->powerRampStep);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->powerRampStep, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* max-SYNC-UL-Transmissions */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "max-SYNC-UL-Transmissions");
-      if (pvalue->max_SYNC_UL_Transmissions > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->max_SYNC_UL_Transmissions);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->max_SYNC_UL_Transmissions, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-RUCCH-Sync-UL-Codes-Bitmap */
-   rtxCtxtPushElemName(ctx, "e-RUCCH-Sync-UL-Codes-Bitmap");
-   stat = asn1PE_UMTS_Sync_UL_Codes_Bitmap(ctx, pvalue->e_RUCCH_Sync_UL_Codes_Bitmap);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* mmax */
-   rtxCtxtPushElemName(ctx, "mmax");
-   if ((uint64_t)(pvalue->mmax - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->mmax);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mmax, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_ChanCodes_List_LCR(rtxContext* ctx, const PRACH_ChanCodes_List_LCR* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "PRACH-ChanCodes-List-LCR");
-   RT_SET_SIZE(ctx, 1, 2);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "TDD-PRACH-CCode-LCR-r4", i);
-      rtxCtxtPushTypeName(ctx, "TDD-PRACH-CCode-LCR-r4");
-      if (pvalue->elem[i] > 27) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 27);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_Information_LCR(rtxContext* ctx, const PRACH_Information_LCR* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PRACH-Information-LCR");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* timeslot */
-   rtxCtxtPushElemName(ctx, "timeslot");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-PRACH-LCR-r4");
-   if ((uint64_t)(pvalue->timeslot - 1) > 5u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->timeslot);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslot, 1, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* prach-ChanCodes-list-LCR */
-   rtxCtxtPushElemName(ctx, "prach-ChanCodes-list-LCR");
-   stat = asn1PE_UMTS_PRACH_ChanCodes_List_LCR(ctx, &pvalue->prach_ChanCodes_list_LCR);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midambleShiftAndBurstType */
-   rtxCtxtPushElemName(ctx, "midambleShiftAndBurstType");
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* fpach-Info */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "fpach-Info");
-      stat = asn1PE_UMTS_FPACH_Info_r4(ctx, &pvalue->fpach_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_Information_LCR_List(rtxContext* ctx, const PRACH_Information_LCR_List* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "PRACH-Information-LCR-List");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "PRACH-Information-LCR", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_PRACH_Information_LCR(ctx, (const PRACH_Information_LCR*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_RUCCH_Info_TDD128(rtxContext* ctx, const E_RUCCH_Info_TDD128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-RUCCH-Info-TDD128");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 0), 9);
-   RT_CHECK(ctx, stat);
-   /* t-RUCCH */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "t-RUCCH");
-      if (pvalue->t_RUCCH > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->t_RUCCH);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_RUCCH, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* n-RUCCH */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "n-RUCCH");
-      if ((uint64_t)pvalue->n_RUCCH > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n_RUCCH);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->n_RUCCH, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* t-WAIT */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "t-WAIT");
-      if (pvalue->t_WAIT > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->t_WAIT);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_WAIT, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* t-SI */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "t-SI");
-      if (pvalue->t_SI > 6) {
-         rtxErrAddUIntParm(ctx, pvalue->t_SI);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_SI, 0, 6);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* extendedEstimationWindow */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "extendedEstimationWindow");
-      if ((uint64_t)(pvalue->extendedEstimationWindow - 2) > 3u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->extendedEstimationWindow);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->extendedEstimationWindow, 2, 5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-RUCCH-AccessServiceClass */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "e-RUCCH-AccessServiceClass");
-      stat = asn1PE_UMTS_E_RUCCH_AccessServiceClass(ctx, &pvalue->e_RUCCH_AccessServiceClass);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-RUCCH-PersistenceScalingFactor */
-   if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "e-RUCCH-PersistenceScalingFactor");
-      stat = asn1PE_UMTS_PersistenceScalingFactorList(ctx, &pvalue->e_RUCCH_PersistenceScalingFactor);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sync-UL-InfoForE-RUCCH */
-   if (pvalue->m & 0x80u) {
-      rtxCtxtPushElemName(ctx, "sync-UL-InfoForE-RUCCH");
-      stat = asn1PE_UMTS_SYNC_UL_InfoForE_RUCCH(ctx, &pvalue->sync_UL_InfoForE_RUCCH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* prach-information */
-   if (pvalue->m & 0x100u) {
-      rtxCtxtPushElemName(ctx, "prach-information");
-      stat = asn1PE_UMTS_PRACH_Information_LCR_List(ctx, &pvalue->prach_information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Reference_Beta_QPSK(rtxContext* ctx, const Reference_Beta_QPSK* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Reference-Beta-QPSK");
-   /* reference-Code-Rate */
-   rtxCtxtPushElemName(ctx, "reference-Code-Rate");
-   if ((uint64_t)pvalue->reference_Code_Rate > 10u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->reference_Code_Rate);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reference_Code_Rate, 0, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* reference-Beta */
-   rtxCtxtPushElemName(ctx, "reference-Beta");
-   if (pvalue->reference_Beta < -15 || pvalue->reference_Beta > 16) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->reference_Beta);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->reference_Beta, -15, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_TFCS_Info_reference_Beta_QPSK_List(rtxContext* ctx, const E_TFCS_Info_reference_Beta_QPSK_List* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "Reference-Beta-QPSK", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_Reference_Beta_QPSK(ctx, (const Reference_Beta_QPSK*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Reference_Beta_16QAM(rtxContext* ctx, const Reference_Beta_16QAM* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Reference-Beta-16QAM");
-   /* reference-Code-Rate */
-   rtxCtxtPushElemName(ctx, "reference-Code-Rate");
-   if ((uint64_t)pvalue->reference_Code_Rate > 10u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->reference_Code_Rate);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reference_Code_Rate, 0, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* reference-Beta */
-   rtxCtxtPushElemName(ctx, "reference-Beta");
-   if (pvalue->reference_Beta < -15 || pvalue->reference_Beta > 16) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->reference_Beta);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->reference_Beta, -15, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_TFCS_Info_reference_Beta_16QAM_List(rtxContext* ctx, const E_TFCS_Info_reference_Beta_16QAM_List* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "Reference-Beta-16QAM", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_Reference_Beta_16QAM(ctx, (const Reference_Beta_16QAM*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_TFCS_Info(rtxContext* ctx, const E_TFCS_Info* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-TFCS-Info");
-   /* reference-Beta-QPSK-List */
-   rtxCtxtPushElemName(ctx, "reference-Beta-QPSK-List");
-   stat = asn1PE_UMTS_E_TFCS_Info_reference_Beta_QPSK_List(ctx, &pvalue->reference_Beta_QPSK_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* reference-Beta-16QAM-List */
-   rtxCtxtPushElemName(ctx, "reference-Beta-16QAM-List");
-   stat = asn1PE_UMTS_E_TFCS_Info_reference_Beta_16QAM_List(ctx, &pvalue->reference_Beta_16QAM_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_PUCH_Info_TDD128_snpl_ReportType(rtxContext* ctx, E_PUCH_Info_TDD128_snpl_ReportType value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_TPC_StepSizeTDD(rtxContext* ctx, TPC_StepSizeTDD value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TPC-StepSizeTDD");
-   if ((uint64_t)(value - 1) > 2u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_SynchronisationParameters_r4(rtxContext* ctx, const UL_SynchronisationParameters_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-SynchronisationParameters-r4");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-SynchronisationParameters-r4");
    /* stepSize */
-   rtxCtxtPushElemName(ctx, "stepSize");
    if ((uint64_t)(pvalue->stepSize - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "stepSize");
       rtxErrAddUIntParm(ctx, pvalue->stepSize);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "stepSize", -1, "UL-SynchronisationParameters-r4");
    }
    stat = pe_ConsUInt64(ctx, pvalue->stepSize, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "stepSize", -1, "UL-SynchronisationParameters-r4");
    /* frequency */
-   rtxCtxtPushElemName(ctx, "frequency");
    if ((uint64_t)(pvalue->frequency - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "frequency");
       rtxErrAddUIntParm(ctx, pvalue->frequency);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "frequency", -1, "UL-SynchronisationParameters-r4");
    }
    stat = pe_ConsUInt64(ctx, pvalue->frequency, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "frequency", -1, "UL-SynchronisationParameters-r4");
    return 0;
 }
 
-int asn1PE_UMTS_E_PUCH_TS_Slots_LCR_midambleAllocationMode(rtxContext* ctx, const E_PUCH_TS_Slots_LCR_midambleAllocationMode* pvalue)
+int asn1PE_UMTS_E_PUCH_TS_Slots_LCR_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const E_PUCH_TS_Slots_LCR_midambleAllocationMode* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
          if ((uint64_t)pvalue->u.ueSpecificMidamble > 15u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "ueSpecificMidamble");
             rtxErrAddUIntParm(ctx, pvalue->u.ueSpecificMidamble);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ueSpecificMidamble", -1, 0);
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.ueSpecificMidamble, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
          break;
       default:
          break;
@@ -5179,233 +54,185 @@ int asn1PE_UMTS_E_PUCH_TS_Slots_LCR_midambleAllocationMode(rtxContext* ctx, cons
    return 0;
 }
 
-int asn1PE_UMTS_E_PUCH_TS_Slots_LCR(rtxContext* ctx, const E_PUCH_TS_Slots_LCR* pvalue)
+int asn1PE_UMTS_E_PUCH_TS_Slots_LCR(rtxContext* RT_RESTRICT ctx, const E_PUCH_TS_Slots_LCR* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-PUCH-TS-Slots-LCR");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-PUCH-TS-Slots-LCR");
    /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-LCR-r4");
    if ((uint64_t)pvalue->timeslotNumber > 6u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
       rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "E-PUCH-TS-Slots-LCR");
    }
    stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "E-PUCH-TS-Slots-LCR");
    /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
    stat = asn1PE_UMTS_E_PUCH_TS_Slots_LCR_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "E-PUCH-TS-Slots-LCR");
    /* midambleConfiguration */
-   rtxCtxtPushElemName(ctx, "midambleConfiguration");
    if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "midambleConfiguration");
       rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "midambleConfiguration", -1, "E-PUCH-TS-Slots-LCR");
    }
    stat = pe_ConsUInt64(ctx, pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "E-PUCH-TS-Slots-LCR");
    return 0;
 }
 
-int asn1PE_UMTS_E_PUCH_Info_TDD128_e_PUCH_TS_ConfigurationList(rtxContext* ctx, const E_PUCH_Info_TDD128_e_PUCH_TS_ConfigurationList* pvalue)
+int asn1PE_UMTS_E_PUCH_Info_TDD128_e_PUCH_TS_ConfigurationList(rtxContext* RT_RESTRICT ctx, const E_PUCH_Info_TDD128_e_PUCH_TS_ConfigurationList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 5);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "E-PUCH-TS-Slots-LCR", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "E-PUCH-TS-Slots-LCR", (int32_t)i, 0);
       stat = asn1PE_UMTS_E_PUCH_TS_Slots_LCR(ctx, (const E_PUCH_TS_Slots_LCR*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "E-PUCH-TS-Slots-LCR", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_E_PUCH_Info_TDD128_retransTimerForSchedInfo(rtxContext* ctx, E_PUCH_Info_TDD128_retransTimerForSchedInfo value)
+int asn1PE_UMTS_E_PUCH_Info_TDD128_retransTimerForSchedInfo(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_TDD128_retransTimerForSchedInfo value)
 {
    int stat = 0;
    if (value > 29) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 29);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_E_PUCH_Info_TDD128(rtxContext* ctx, const E_PUCH_Info_TDD128* pvalue)
+int asn1PE_UMTS_E_PUCH_Info_TDD128(rtxContext* RT_RESTRICT ctx, const E_PUCH_Info_TDD128* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-PUCH-Info-TDD128");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-PUCH-Info-TDD128");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-PUCH-Info-TDD128");
    /* e-TFCS-Info */
-   rtxCtxtPushElemName(ctx, "e-TFCS-Info");
    stat = asn1PE_UMTS_E_TFCS_Info(ctx, &pvalue->e_TFCS_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "e-TFCS-Info", -1, "E-PUCH-Info-TDD128");
    /* snpl-ReportType */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "snpl-ReportType");
       if (pvalue->snpl_ReportType > 1) {
          rtxErrAddUIntParm(ctx, pvalue->snpl_ReportType);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "snpl-ReportType", -1, "E-PUCH-Info-TDD128");
       }
       stat = pe_ConsUInt64(ctx, pvalue->snpl_ReportType, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "snpl-ReportType", -1, "E-PUCH-Info-TDD128");
    }
    /* prxBASEdes */
-   rtxCtxtPushElemName(ctx, "prxBASEdes");
    if (pvalue->prxBASEdes < -112 || pvalue->prxBASEdes > -50) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "prxBASEdes");
       rtxErrAddIntParm(ctx, pvalue->prxBASEdes);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "prxBASEdes", -1, "E-PUCH-Info-TDD128");
    }
    stat = pe_ConsInt64(ctx, pvalue->prxBASEdes, -112, -50);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "prxBASEdes", -1, "E-PUCH-Info-TDD128");
    /* beaconPLEst */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "beaconPLEst");
       stat = rtxEncBit(ctx, pvalue->beaconPLEst);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "beaconPLEst", -1, "E-PUCH-Info-TDD128");
    }
    /* tpc-StepSize */
-   rtxCtxtPushElemName(ctx, "tpc-StepSize");
-   rtxCtxtPushTypeName(ctx, "TPC-StepSizeTDD");
    if ((uint64_t)(pvalue->tpc_StepSize - 1) > 2u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "TPC-StepSizeTDD");
       rtxErrAddUIntParm(ctx, pvalue->tpc_StepSize);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TPC-StepSizeTDD", "tpc-StepSize", -1, "E-PUCH-Info-TDD128");
    }
    stat = pe_ConsUInt64(ctx, pvalue->tpc_StepSize, 1, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, "E-PUCH-Info-TDD128");
    /* pebase-PowerControlGAP */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "pebase-PowerControlGAP");
       if ((uint64_t)(pvalue->pebase_PowerControlGAP - 1) > 254u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "pebase-PowerControlGAP");
          rtxErrAddUIntParm(ctx, pvalue->pebase_PowerControlGAP);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "pebase-PowerControlGAP", -1, "E-PUCH-Info-TDD128");
       }
       stat = pe_ConsUInt64(ctx, pvalue->pebase_PowerControlGAP, 1, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "pebase-PowerControlGAP", -1, "E-PUCH-Info-TDD128");
    }
    /* ul-SynchronisationParameters */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "ul-SynchronisationParameters");
       stat = asn1PE_UMTS_UL_SynchronisationParameters_r4(ctx, &pvalue->ul_SynchronisationParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ul-SynchronisationParameters", -1, "E-PUCH-Info-TDD128");
    }
    /* e-PUCH-TS-ConfigurationList */
-   rtxCtxtPushElemName(ctx, "e-PUCH-TS-ConfigurationList");
    stat = asn1PE_UMTS_E_PUCH_Info_TDD128_e_PUCH_TS_ConfigurationList(ctx, &pvalue->e_PUCH_TS_ConfigurationList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "e-PUCH-TS-ConfigurationList", -1, "E-PUCH-Info-TDD128");
    /* minimum-Allowed-Code-Rate */
-   rtxCtxtPushElemName(ctx, "minimum-Allowed-Code-Rate");
    if ((uint64_t)pvalue->minimum_Allowed_Code_Rate > 63u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "minimum-Allowed-Code-Rate");
       rtxErrAddUIntParm(ctx, pvalue->minimum_Allowed_Code_Rate);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "minimum-Allowed-Code-Rate", -1, "E-PUCH-Info-TDD128");
    }
    stat = pe_ConsUInt64(ctx, pvalue->minimum_Allowed_Code_Rate, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "minimum-Allowed-Code-Rate", -1, "E-PUCH-Info-TDD128");
    /* maximum-Allowed-Code-Rate */
-   rtxCtxtPushElemName(ctx, "maximum-Allowed-Code-Rate");
    if ((uint64_t)pvalue->maximum_Allowed_Code_Rate > 63u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "maximum-Allowed-Code-Rate");
       rtxErrAddUIntParm(ctx, pvalue->maximum_Allowed_Code_Rate);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "maximum-Allowed-Code-Rate", -1, "E-PUCH-Info-TDD128");
    }
    stat = pe_ConsUInt64(ctx, pvalue->maximum_Allowed_Code_Rate, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "maximum-Allowed-Code-Rate", -1, "E-PUCH-Info-TDD128");
    /* maximumNumOfRetransSchedInfo */
-   rtxCtxtPushElemName(ctx, "maximumNumOfRetransSchedInfo");
    if ((uint64_t)pvalue->maximumNumOfRetransSchedInfo > 15u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "maximumNumOfRetransSchedInfo");
       rtxErrAddUIntParm(ctx, pvalue->maximumNumOfRetransSchedInfo);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "maximumNumOfRetransSchedInfo", -1, "E-PUCH-Info-TDD128");
    }
    stat = pe_ConsUInt64(ctx, pvalue->maximumNumOfRetransSchedInfo, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "maximumNumOfRetransSchedInfo", -1, "E-PUCH-Info-TDD128");
    /* retransTimerForSchedInfo */
-   rtxCtxtPushElemName(ctx, "retransTimerForSchedInfo");
    if (pvalue->retransTimerForSchedInfo > 29) {
       rtxErrAddUIntParm(ctx, pvalue->retransTimerForSchedInfo);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "retransTimerForSchedInfo", -1, "E-PUCH-Info-TDD128");
    }
    stat = pe_ConsUInt64(ctx, pvalue->retransTimerForSchedInfo, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "retransTimerForSchedInfo", -1, "E-PUCH-Info-TDD128");
    /* dummy */
    if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "dummy");
       if ((uint64_t)pvalue->dummy > 6u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "dummy");
          rtxErrAddUIntParm(ctx, pvalue->dummy);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "dummy", -1, "E-PUCH-Info-TDD128");
       }
       stat = pe_ConsUInt64(ctx, pvalue->dummy, 0, 6);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "E-PUCH-Info-TDD128");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_E_HICH_Information_LCR_midambleAllocationMode(rtxContext* ctx, const E_HICH_Information_LCR_midambleAllocationMode* pvalue)
+int asn1PE_UMTS_E_HICH_Information_LCR_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_LCR_midambleAllocationMode* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
          if ((uint64_t)pvalue->u.ueSpecificMidamble > 15u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "ueSpecificMidamble");
             rtxErrAddUIntParm(ctx, pvalue->u.ueSpecificMidamble);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ueSpecificMidamble", -1, 0);
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.ueSpecificMidamble, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
          break;
       default:
          break;
@@ -5413,136 +240,102 @@ int asn1PE_UMTS_E_HICH_Information_LCR_midambleAllocationMode(rtxContext* ctx, c
    return 0;
 }
 
-int asn1PE_UMTS_E_HICH_Information_LCR(rtxContext* ctx, const E_HICH_Information_LCR* pvalue)
+int asn1PE_UMTS_E_HICH_Information_LCR(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_LCR* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-HICH-Information-LCR");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-HICH-Information-LCR");
    /* ei */
-   rtxCtxtPushElemName(ctx, "ei");
    if ((uint64_t)pvalue->ei > 3u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "ei");
       rtxErrAddUIntParm(ctx, pvalue->ei);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ei", -1, "E-HICH-Information-LCR");
    }
    stat = pe_ConsUInt64(ctx, pvalue->ei, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "ei", -1, "E-HICH-Information-LCR");
    /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-LCR-r4");
    if ((uint64_t)pvalue->timeslotNumber > 6u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
       rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "E-HICH-Information-LCR");
    }
    stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "E-HICH-Information-LCR");
    /* channelisation-Code */
-   rtxCtxtPushElemName(ctx, "channelisation-Code");
-   rtxCtxtPushTypeName(ctx, "HS-ChannelisationCode-LCR");
    if (pvalue->channelisation_Code > 15) {
       rtxErrAddUIntParm(ctx, pvalue->channelisation_Code);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "channelisation-Code", -1, "E-HICH-Information-LCR");
    }
    stat = pe_ConsUInt64(ctx, pvalue->channelisation_Code, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "channelisation-Code", -1, "E-HICH-Information-LCR");
    /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
    stat = asn1PE_UMTS_E_HICH_Information_LCR_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "E-HICH-Information-LCR");
    /* midambleConfiguration */
-   rtxCtxtPushElemName(ctx, "midambleConfiguration");
    if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "midambleConfiguration");
       rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "midambleConfiguration", -1, "E-HICH-Information-LCR");
    }
    stat = pe_ConsUInt64(ctx, pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "E-HICH-Information-LCR");
    return 0;
 }
 
-int asn1PE_UMTS_E_HICH_Information_LCR_List(rtxContext* ctx, const E_HICH_Information_LCR_List* pvalue)
+int asn1PE_UMTS_E_HICH_Information_LCR_List(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_LCR_List* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-HICH-Information-LCR-List");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "E-HICH-Information-LCR-List");
    RT_SET_SIZE(ctx, 1, 4);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "E-HICH-Information-LCR-List");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "E-HICH-Information-LCR", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "E-HICH-Information-LCR", (int32_t)i, "E-HICH-Information-LCR-List");
       stat = asn1PE_UMTS_E_HICH_Information_LCR(ctx, (const E_HICH_Information_LCR*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "E-HICH-Information-LCR", (int32_t)i, "E-HICH-Information-LCR-List");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_E_HICH_Information_TDD128(rtxContext* ctx, const E_HICH_Information_TDD128* pvalue)
+int asn1PE_UMTS_E_HICH_Information_TDD128(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_TDD128* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-HICH-Information-TDD128");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-HICH-Information-TDD128");
    /* n-E-HICH */
-   rtxCtxtPushElemName(ctx, "n-E-HICH");
    if ((uint64_t)(pvalue->n_E_HICH - 4) > 11u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "n-E-HICH");
       rtxErrAddUIntParm(ctx, pvalue->n_E_HICH);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "n-E-HICH", -1, "E-HICH-Information-TDD128");
    }
    stat = pe_ConsUInt64(ctx, pvalue->n_E_HICH, 4, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "n-E-HICH", -1, "E-HICH-Information-TDD128");
    /* e-HICH-InfoList */
-   rtxCtxtPushElemName(ctx, "e-HICH-InfoList");
    stat = asn1PE_UMTS_E_HICH_Information_LCR_List(ctx, &pvalue->e_HICH_InfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "e-HICH-InfoList", -1, "E-HICH-Information-TDD128");
    return 0;
 }
 
-int asn1PE_UMTS_E_AGCH_Individual_LCR_midambleAllocationMode(rtxContext* ctx, const E_AGCH_Individual_LCR_midambleAllocationMode* pvalue)
+int asn1PE_UMTS_E_AGCH_Individual_LCR_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const E_AGCH_Individual_LCR_midambleAllocationMode* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "commonMidamble");
-         rtxCtxtPopElemName(ctx);
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
          if ((uint64_t)pvalue->u.ueSpecificMidamble > 15u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "ueSpecificMidamble");
             rtxErrAddUIntParm(ctx, pvalue->u.ueSpecificMidamble);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ueSpecificMidamble", -1, 0);
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.ueSpecificMidamble, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
          break;
       default:
          break;
@@ -5550,322 +343,246 @@ int asn1PE_UMTS_E_AGCH_Individual_LCR_midambleAllocationMode(rtxContext* ctx, co
    return 0;
 }
 
-int asn1PE_UMTS_E_AGCH_Individual_LCR(rtxContext* ctx, const E_AGCH_Individual_LCR* pvalue)
+int asn1PE_UMTS_E_AGCH_Individual_LCR(rtxContext* RT_RESTRICT ctx, const E_AGCH_Individual_LCR* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-AGCH-Individual-LCR");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-AGCH-Individual-LCR");
    /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-LCR-r4");
    if ((uint64_t)pvalue->timeslotNumber > 6u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
       rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "E-AGCH-Individual-LCR");
    }
    stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "E-AGCH-Individual-LCR");
    /* firstChannelisationCode */
-   rtxCtxtPushElemName(ctx, "firstChannelisationCode");
-   rtxCtxtPushTypeName(ctx, "HS-ChannelisationCode-LCR");
    if (pvalue->firstChannelisationCode > 15) {
       rtxErrAddUIntParm(ctx, pvalue->firstChannelisationCode);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "firstChannelisationCode", -1, "E-AGCH-Individual-LCR");
    }
    stat = pe_ConsUInt64(ctx, pvalue->firstChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "firstChannelisationCode", -1, "E-AGCH-Individual-LCR");
    /* secondChannelisationCode */
-   rtxCtxtPushElemName(ctx, "secondChannelisationCode");
-   rtxCtxtPushTypeName(ctx, "HS-ChannelisationCode-LCR");
    if (pvalue->secondChannelisationCode > 15) {
       rtxErrAddUIntParm(ctx, pvalue->secondChannelisationCode);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "secondChannelisationCode", -1, "E-AGCH-Individual-LCR");
    }
    stat = pe_ConsUInt64(ctx, pvalue->secondChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "secondChannelisationCode", -1, "E-AGCH-Individual-LCR");
    /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
    stat = asn1PE_UMTS_E_AGCH_Individual_LCR_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "E-AGCH-Individual-LCR");
    /* midambleConfiguration */
-   rtxCtxtPushElemName(ctx, "midambleConfiguration");
    if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "midambleConfiguration");
       rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "midambleConfiguration", -1, "E-AGCH-Individual-LCR");
    }
    stat = pe_ConsUInt64(ctx, pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "E-AGCH-Individual-LCR");
    return 0;
 }
 
-int asn1PE_UMTS_E_AGCH_Set_Config_LCR(rtxContext* ctx, const E_AGCH_Set_Config_LCR* pvalue)
+int asn1PE_UMTS_E_AGCH_Set_Config_LCR(rtxContext* RT_RESTRICT ctx, const E_AGCH_Set_Config_LCR* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-AGCH-Set-Config-LCR");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "E-AGCH-Set-Config-LCR");
    RT_SET_SIZE(ctx, 1, 4);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "E-AGCH-Set-Config-LCR");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "E-AGCH-Individual-LCR", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "E-AGCH-Individual-LCR", (int32_t)i, "E-AGCH-Set-Config-LCR");
       stat = asn1PE_UMTS_E_AGCH_Individual_LCR(ctx, (const E_AGCH_Individual_LCR*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "E-AGCH-Individual-LCR", (int32_t)i, "E-AGCH-Set-Config-LCR");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_E_AGCH_Information_TDD128(rtxContext* ctx, const E_AGCH_Information_TDD128* pvalue)
+int asn1PE_UMTS_E_AGCH_Information_TDD128(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_TDD128* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-AGCH-Information-TDD128");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-AGCH-Information-TDD128");
    /* rdi-Indicator */
-   rtxCtxtPushElemName(ctx, "rdi-Indicator");
    stat = rtxEncBit(ctx, pvalue->rdi_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "rdi-Indicator", -1, "E-AGCH-Information-TDD128");
    /* tpc-StepSize */
-   rtxCtxtPushElemName(ctx, "tpc-StepSize");
-   rtxCtxtPushTypeName(ctx, "TPC-StepSizeTDD");
    if ((uint64_t)(pvalue->tpc_StepSize - 1) > 2u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "TPC-StepSizeTDD");
       rtxErrAddUIntParm(ctx, pvalue->tpc_StepSize);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TPC-StepSizeTDD", "tpc-StepSize", -1, "E-AGCH-Information-TDD128");
    }
    stat = pe_ConsUInt64(ctx, pvalue->tpc_StepSize, 1, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, "E-AGCH-Information-TDD128");
    /* e-AGCH-Set-Config */
-   rtxCtxtPushElemName(ctx, "e-AGCH-Set-Config");
    stat = asn1PE_UMTS_E_AGCH_Set_Config_LCR(ctx, &pvalue->e_AGCH_Set_Config);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "e-AGCH-Set-Config", -1, "E-AGCH-Information-TDD128");
    /* e-AGCH-BLER-Target */
-   rtxCtxtPushElemName(ctx, "e-AGCH-BLER-Target");
-   rtxCtxtPushTypeName(ctx, "Bler-Target");
    if (pvalue->e_AGCH_BLER_Target < -63 || pvalue->e_AGCH_BLER_Target > 0) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "Bler-Target");
       rtxErrAddIntParm(ctx, pvalue->e_AGCH_BLER_Target);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Bler-Target", "e-AGCH-BLER-Target", -1, "E-AGCH-Information-TDD128");
    }
    stat = pe_ConsInt64(ctx, pvalue->e_AGCH_BLER_Target, -63, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "Bler-Target", "e-AGCH-BLER-Target", -1, "E-AGCH-Information-TDD128");
    return 0;
 }
 
-int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_harq_Info(rtxContext* ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_harq_Info value)
+int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_harq_Info(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_harq_Info value)
 {
    int stat = 0;
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_E_RNTI(rtxContext* ctx, E_RNTI value)
+int asn1PE_UMTS_E_RNTI(rtxContext* RT_RESTRICT ctx, E_RNTI value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "E-RNTI");
    RT_SET_SIZE(ctx, 16, 16);
    stat = pe_BitString32(ctx, &value, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-RNTI");
    return 0;
 }
 
-int asn1PE_UMTS_Common_E_RNTI_Info_element(rtxContext* ctx, const Common_E_RNTI_Info_element* pvalue)
+int asn1PE_UMTS_Common_E_RNTI_Info_element(rtxContext* RT_RESTRICT ctx, const Common_E_RNTI_Info_element* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* starting-E-RNTI */
-   rtxCtxtPushElemName(ctx, "starting-E-RNTI");
    stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->starting_E_RNTI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "starting-E-RNTI", -1, 0);
    /* number-of-group */
-   rtxCtxtPushElemName(ctx, "number-of-group");
    if ((uint64_t)(pvalue->number_of_group - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "number-of-group");
       rtxErrAddUIntParm(ctx, pvalue->number_of_group);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "number-of-group", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->number_of_group, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "number-of-group", -1, 0);
    /* number-of-ENRTI-per-group */
-   rtxCtxtPushElemName(ctx, "number-of-ENRTI-per-group");
    if ((uint64_t)(pvalue->number_of_ENRTI_per_group - 1) > 1u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "number-of-ENRTI-per-group");
       rtxErrAddUIntParm(ctx, pvalue->number_of_ENRTI_per_group);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "number-of-ENRTI-per-group", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->number_of_ENRTI_per_group, 1, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "number-of-ENRTI-per-group", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_Common_E_RNTI_Info(rtxContext* ctx, const Common_E_RNTI_Info* pvalue)
+int asn1PE_UMTS_Common_E_RNTI_Info(rtxContext* RT_RESTRICT ctx, const Common_E_RNTI_Info* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Common-E-RNTI-Info");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "Common-E-RNTI-Info");
    RT_SET_SIZE(ctx, 1, 256);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "Common-E-RNTI-Info");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "Common-E-RNTI-Info");
       stat = asn1PE_UMTS_Common_E_RNTI_Info_element(ctx, (const Common_E_RNTI_Info_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "Common-E-RNTI-Info");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info_harq_retransmission_timer(rtxContext* ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info_harq_retransmission_timer value)
+int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info_harq_retransmission_timer(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info_harq_retransmission_timer value)
 {
    int stat = 0;
    if (value > 22) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 22);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info(rtxContext* ctx, const CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info* pvalue)
+int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* common-e-rnti-Info */
-   rtxCtxtPushElemName(ctx, "common-e-rnti-Info");
    stat = asn1PE_UMTS_Common_E_RNTI_Info(ctx, &pvalue->common_e_rnti_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "common-e-rnti-Info", -1, 0);
    /* harq-MaximumNumberOfRetransmissions */
-   rtxCtxtPushElemName(ctx, "harq-MaximumNumberOfRetransmissions");
    if ((uint64_t)pvalue->harq_MaximumNumberOfRetransmissions > 7u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "harq-MaximumNumberOfRetransmissions");
       rtxErrAddUIntParm(ctx, pvalue->harq_MaximumNumberOfRetransmissions);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "harq-MaximumNumberOfRetransmissions", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->harq_MaximumNumberOfRetransmissions, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "harq-MaximumNumberOfRetransmissions", -1, 0);
    /* harq-retransmission-timer */
-   rtxCtxtPushElemName(ctx, "harq-retransmission-timer");
    if (pvalue->harq_retransmission_timer > 22) {
       rtxErrAddUIntParm(ctx, pvalue->harq_retransmission_timer);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "harq-retransmission-timer", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->harq_retransmission_timer, 0, 22);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "harq-retransmission-timer", -1, 0);
    /* harq-power-offset */
-   rtxCtxtPushElemName(ctx, "harq-power-offset");
    if ((uint64_t)pvalue->harq_power_offset > 6u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "harq-power-offset");
       rtxErrAddUIntParm(ctx, pvalue->harq_power_offset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "harq-power-offset", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->harq_power_offset, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "harq-power-offset", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128(rtxContext* ctx, const CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128* pvalue)
+int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* e-RUCCH-Info */
-   rtxCtxtPushElemName(ctx, "e-RUCCH-Info");
    stat = asn1PE_UMTS_E_RUCCH_Info_TDD128(ctx, &pvalue->e_RUCCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "e-RUCCH-Info", -1, 0);
    /* e-PUCH-Info */
-   rtxCtxtPushElemName(ctx, "e-PUCH-Info");
    stat = asn1PE_UMTS_E_PUCH_Info_TDD128(ctx, &pvalue->e_PUCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "e-PUCH-Info", -1, 0);
    /* e-hich-Information */
-   rtxCtxtPushElemName(ctx, "e-hich-Information");
    stat = asn1PE_UMTS_E_HICH_Information_TDD128(ctx, &pvalue->e_hich_Information);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "e-hich-Information", -1, 0);
    /* e-agch-Information */
-   rtxCtxtPushElemName(ctx, "e-agch-Information");
    stat = asn1PE_UMTS_E_AGCH_Information_TDD128(ctx, &pvalue->e_agch_Information);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "e-agch-Information", -1, 0);
    /* harq-Info */
-   rtxCtxtPushElemName(ctx, "harq-Info");
    if (pvalue->harq_Info > 1) {
       rtxErrAddUIntParm(ctx, pvalue->harq_Info);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "harq-Info", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->harq_Info, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "harq-Info", -1, 0);
    /* ccch-transmission-Info */
-   rtxCtxtPushElemName(ctx, "ccch-transmission-Info");
    stat = asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info(ctx, &pvalue->ccch_transmission_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "ccch-transmission-Info", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd(rtxContext* ctx, const CommonEDCHSystemInfo_modeSpecificInfo_tdd* pvalue)
+int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "tdd768");
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         rtxCtxtPopElemName(ctx);
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
          stat = asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
          break;
       default:
          break;
@@ -5873,29 +590,23 @@ int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd(rtxContext* ctx, const
    return 0;
 }
 
-int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo(rtxContext* ctx, const CommonEDCHSystemInfo_modeSpecificInfo* pvalue)
+int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfo_modeSpecificInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
          stat = asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
          stat = asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
          break;
@@ -5903,1108 +614,878 @@ int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo(rtxContext* ctx, const Com
    return 0;
 }
 
-int asn1PE_UMTS_CommonEDCHSystemInfo(rtxContext* ctx, const CommonEDCHSystemInfo* pvalue)
+int asn1PE_UMTS_CommonEDCHSystemInfo(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CommonEDCHSystemInfo");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CommonEDCHSystemInfo");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CommonEDCHSystemInfo");
    /* ul-InterferenceForCommonEDCH */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ul-InterferenceForCommonEDCH");
-      rtxCtxtPushTypeName(ctx, "UL-Interference");
       if (pvalue->ul_InterferenceForCommonEDCH < -110 || pvalue->ul_InterferenceForCommonEDCH > -70) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "UL-Interference");
          rtxErrAddIntParm(ctx, pvalue->ul_InterferenceForCommonEDCH);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-Interference", "ul-InterferenceForCommonEDCH", -1, "CommonEDCHSystemInfo");
       }
       stat = pe_ConsInt64(ctx, pvalue->ul_InterferenceForCommonEDCH, -110, -70);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "UL-Interference", "ul-InterferenceForCommonEDCH", -1, "CommonEDCHSystemInfo");
    }
    /* common-E-DCH-MAC-d-FlowList */
-   rtxCtxtPushElemName(ctx, "common-E-DCH-MAC-d-FlowList");
    stat = asn1PE_UMTS_Common_E_DCH_MAC_d_FlowList(ctx, &pvalue->common_E_DCH_MAC_d_FlowList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "common-E-DCH-MAC-d-FlowList", -1, "CommonEDCHSystemInfo");
    /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
    stat = asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CommonEDCHSystemInfo");
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType5_v890ext_IEs(rtxContext* ctx, const SysInfoType5_v890ext_IEs* pvalue)
+int asn1PE_UMTS_SysInfoType5_v890ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v890ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType5-v890ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType5-v890ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5-v890ext-IEs");
    /* secondFrequencyInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "secondFrequencyInfo");
       stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, &pvalue->secondFrequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "secondFrequencyInfo", -1, "SysInfoType5-v890ext-IEs");
    }
    /* commonEDCHSystemInfo */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "commonEDCHSystemInfo");
       stat = asn1PE_UMTS_CommonEDCHSystemInfo(ctx, &pvalue->commonEDCHSystemInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "commonEDCHSystemInfo", -1, "SysInfoType5-v890ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType5_v8b0ext_IEs_tresetUsageIndicator(rtxContext* ctx, SysInfoType5_v8b0ext_IEs_tresetUsageIndicator value)
+int asn1PE_UMTS_SysInfoType5_v8b0ext_IEs_tresetUsageIndicator(rtxContext* RT_RESTRICT ctx, SysInfoType5_v8b0ext_IEs_tresetUsageIndicator value)
 {
    int stat = 0;
    if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_UpPCHposition_LCR(rtxContext* ctx, UpPCHposition_LCR value)
+int asn1PE_UMTS_UpPCHposition_LCR(rtxContext* RT_RESTRICT ctx, UpPCHposition_LCR value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UpPCHposition-LCR");
    if ((uint64_t)value > 127u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "UpPCHposition-LCR");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UpPCHposition-LCR");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UpPCHposition-LCR");
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType5_v8b0ext_IEs(rtxContext* ctx, const SysInfoType5_v8b0ext_IEs* pvalue)
+int asn1PE_UMTS_SysInfoType5_v8b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v8b0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType5-v8b0ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType5-v8b0ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5-v8b0ext-IEs");
    /* tresetUsageIndicator */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "tresetUsageIndicator");
       if (pvalue->tresetUsageIndicator > 0) {
          rtxErrAddUIntParm(ctx, pvalue->tresetUsageIndicator);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "tresetUsageIndicator", -1, "SysInfoType5-v8b0ext-IEs");
       }
       stat = pe_ConsUInt64(ctx, pvalue->tresetUsageIndicator, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "tresetUsageIndicator", -1, "SysInfoType5-v8b0ext-IEs");
    }
    /* upPCHpositionInfo */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "upPCHpositionInfo");
-      rtxCtxtPushTypeName(ctx, "UpPCHposition-LCR");
       if ((uint64_t)pvalue->upPCHpositionInfo > 127u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "UpPCHposition-LCR");
          rtxErrAddUIntParm(ctx, pvalue->upPCHpositionInfo);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UpPCHposition-LCR", "upPCHpositionInfo", -1, "SysInfoType5-v8b0ext-IEs");
       }
       stat = pe_ConsUInt64(ctx, pvalue->upPCHpositionInfo, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "UpPCHposition-LCR", "upPCHpositionInfo", -1, "SysInfoType5-v8b0ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_CommonEDCHSystemInfoFDD_harq_Info(rtxContext* ctx, CommonEDCHSystemInfoFDD_harq_Info value)
+int asn1PE_UMTS_CommonEDCHSystemInfoFDD_harq_Info(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfoFDD_harq_Info value)
 {
    int stat = 0;
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CommonEDCHSystemInfoFDD_max_CCCH_ResourceAllocation(rtxContext* ctx, CommonEDCHSystemInfoFDD_max_CCCH_ResourceAllocation value)
+int asn1PE_UMTS_CommonEDCHSystemInfoFDD_max_CCCH_ResourceAllocation(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfoFDD_max_CCCH_ResourceAllocation value)
 {
    int stat = 0;
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CommonEDCHSystemInfoFDD_e_dch_TransmitContinuationOffset(rtxContext* ctx, CommonEDCHSystemInfoFDD_e_dch_TransmitContinuationOffset value)
+int asn1PE_UMTS_CommonEDCHSystemInfoFDD_e_dch_TransmitContinuationOffset(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfoFDD_e_dch_TransmitContinuationOffset value)
 {
    int stat = 0;
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CommonEDCHSystemInfoFDD_common_E_DCH_ResourceInfoList(rtxContext* ctx, const CommonEDCHSystemInfoFDD_common_E_DCH_ResourceInfoList* pvalue)
+int asn1PE_UMTS_CommonEDCHSystemInfoFDD_common_E_DCH_ResourceInfoList(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfoFDD_common_E_DCH_ResourceInfoList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 32);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "Common-E-DCH-ResourceInfoList", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "Common-E-DCH-ResourceInfoList", (int32_t)i, 0);
       stat = asn1PE_UMTS_Common_E_DCH_ResourceInfoList(ctx, (const Common_E_DCH_ResourceInfoList*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "Common-E-DCH-ResourceInfoList", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_CommonEDCHSystemInfoFDD(rtxContext* ctx, const CommonEDCHSystemInfoFDD* pvalue)
+int asn1PE_UMTS_CommonEDCHSystemInfoFDD(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfoFDD* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CommonEDCHSystemInfoFDD");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CommonEDCHSystemInfoFDD");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CommonEDCHSystemInfoFDD");
    /* ul-InterferenceForCommonEDCH */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ul-InterferenceForCommonEDCH");
-      rtxCtxtPushTypeName(ctx, "UL-Interference");
       if (pvalue->ul_InterferenceForCommonEDCH < -110 || pvalue->ul_InterferenceForCommonEDCH > -70) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "UL-Interference");
          rtxErrAddIntParm(ctx, pvalue->ul_InterferenceForCommonEDCH);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-Interference", "ul-InterferenceForCommonEDCH", -1, "CommonEDCHSystemInfoFDD");
       }
       stat = pe_ConsInt64(ctx, pvalue->ul_InterferenceForCommonEDCH, -110, -70);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "UL-Interference", "ul-InterferenceForCommonEDCH", -1, "CommonEDCHSystemInfoFDD");
    }
    /* common-E-DCH-MAC-d-FlowList */
-   rtxCtxtPushElemName(ctx, "common-E-DCH-MAC-d-FlowList");
    stat = asn1PE_UMTS_Common_E_DCH_MAC_d_FlowList(ctx, &pvalue->common_E_DCH_MAC_d_FlowList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "common-E-DCH-MAC-d-FlowList", -1, "CommonEDCHSystemInfoFDD");
    /* prach-PreambleForEnhancedUplink */
-   rtxCtxtPushElemName(ctx, "prach-PreambleForEnhancedUplink");
    stat = asn1PE_UMTS_PRACH_PreambleForEnhancedUplink(ctx, &pvalue->prach_PreambleForEnhancedUplink);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "prach-PreambleForEnhancedUplink", -1, "CommonEDCHSystemInfoFDD");
    /* initialServingGrantValue */
-   rtxCtxtPushElemName(ctx, "initialServingGrantValue");
    if ((uint64_t)pvalue->initialServingGrantValue > 37u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "initialServingGrantValue");
       rtxErrAddUIntParm(ctx, pvalue->initialServingGrantValue);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "initialServingGrantValue", -1, "CommonEDCHSystemInfoFDD");
    }
    stat = pe_ConsUInt64(ctx, pvalue->initialServingGrantValue, 0, 37);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "initialServingGrantValue", -1, "CommonEDCHSystemInfoFDD");
    /* e-dch-TTI */
-   rtxCtxtPushElemName(ctx, "e-dch-TTI");
-   rtxCtxtPushTypeName(ctx, "E-DCH-TTI");
    if (pvalue->e_dch_TTI > 1) {
       rtxErrAddUIntParm(ctx, pvalue->e_dch_TTI);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "E-DCH-TTI", "e-dch-TTI", -1, "CommonEDCHSystemInfoFDD");
    }
    stat = pe_ConsUInt64(ctx, pvalue->e_dch_TTI, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "E-DCH-TTI", "e-dch-TTI", -1, "CommonEDCHSystemInfoFDD");
    /* e-agch-Information */
-   rtxCtxtPushElemName(ctx, "e-agch-Information");
    stat = asn1PE_UMTS_E_AGCH_Information(ctx, &pvalue->e_agch_Information);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "e-agch-Information", -1, "CommonEDCHSystemInfoFDD");
    /* harq-Info */
-   rtxCtxtPushElemName(ctx, "harq-Info");
    if (pvalue->harq_Info > 1) {
       rtxErrAddUIntParm(ctx, pvalue->harq_Info);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "harq-Info", -1, "CommonEDCHSystemInfoFDD");
    }
    stat = pe_ConsUInt64(ctx, pvalue->harq_Info, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "harq-Info", -1, "CommonEDCHSystemInfoFDD");
    /* ul-DPCHpowerControlInfoForCommonEDCH */
-   rtxCtxtPushElemName(ctx, "ul-DPCHpowerControlInfoForCommonEDCH");
    stat = asn1PE_UMTS_UL_DPCHpowerControlInfoForCommonEDCH(ctx, &pvalue->ul_DPCHpowerControlInfoForCommonEDCH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "ul-DPCHpowerControlInfoForCommonEDCH", -1, "CommonEDCHSystemInfoFDD");
    /* e-dpcch-Info */
-   rtxCtxtPushElemName(ctx, "e-dpcch-Info");
    stat = asn1PE_UMTS_E_DPCCH_Info_r7(ctx, &pvalue->e_dpcch_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "e-dpcch-Info", -1, "CommonEDCHSystemInfoFDD");
    /* e-dpdch-Info */
-   rtxCtxtPushElemName(ctx, "e-dpdch-Info");
    stat = asn1PE_UMTS_E_DPDCH_Info_r8(ctx, &pvalue->e_dpdch_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "e-dpdch-Info", -1, "CommonEDCHSystemInfoFDD");
    /* dl-FDPCH-TPCcommandErrorRate */
-   rtxCtxtPushElemName(ctx, "dl-FDPCH-TPCcommandErrorRate");
    if ((uint64_t)(pvalue->dl_FDPCH_TPCcommandErrorRate - 1) > 9u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "dl-FDPCH-TPCcommandErrorRate");
       rtxErrAddUIntParm(ctx, pvalue->dl_FDPCH_TPCcommandErrorRate);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "dl-FDPCH-TPCcommandErrorRate", -1, "CommonEDCHSystemInfoFDD");
    }
    stat = pe_ConsUInt64(ctx, pvalue->dl_FDPCH_TPCcommandErrorRate, 1, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "dl-FDPCH-TPCcommandErrorRate", -1, "CommonEDCHSystemInfoFDD");
    /* additional-E-DCH-TransmitBackoff */
-   rtxCtxtPushElemName(ctx, "additional-E-DCH-TransmitBackoff");
    if ((uint64_t)pvalue->additional_E_DCH_TransmitBackoff > 15u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "additional-E-DCH-TransmitBackoff");
       rtxErrAddUIntParm(ctx, pvalue->additional_E_DCH_TransmitBackoff);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "additional-E-DCH-TransmitBackoff", -1, "CommonEDCHSystemInfoFDD");
    }
    stat = pe_ConsUInt64(ctx, pvalue->additional_E_DCH_TransmitBackoff, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "additional-E-DCH-TransmitBackoff", -1, "CommonEDCHSystemInfoFDD");
    /* max-CCCH-ResourceAllocation */
-   rtxCtxtPushElemName(ctx, "max-CCCH-ResourceAllocation");
    if (pvalue->max_CCCH_ResourceAllocation > 7) {
       rtxErrAddUIntParm(ctx, pvalue->max_CCCH_ResourceAllocation);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "max-CCCH-ResourceAllocation", -1, "CommonEDCHSystemInfoFDD");
    }
    stat = pe_ConsUInt64(ctx, pvalue->max_CCCH_ResourceAllocation, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "max-CCCH-ResourceAllocation", -1, "CommonEDCHSystemInfoFDD");
    /* max-PeriodForCollisionResolution */
-   rtxCtxtPushElemName(ctx, "max-PeriodForCollisionResolution");
    if ((uint64_t)(pvalue->max_PeriodForCollisionResolution - 8) > 16u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "max-PeriodForCollisionResolution");
       rtxErrAddUIntParm(ctx, pvalue->max_PeriodForCollisionResolution);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "max-PeriodForCollisionResolution", -1, "CommonEDCHSystemInfoFDD");
    }
    stat = pe_ConsUInt64(ctx, pvalue->max_PeriodForCollisionResolution, 8, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "max-PeriodForCollisionResolution", -1, "CommonEDCHSystemInfoFDD");
    /* e-dch-TransmitContinuationOffset */
-   rtxCtxtPushElemName(ctx, "e-dch-TransmitContinuationOffset");
    if (pvalue->e_dch_TransmitContinuationOffset > 7) {
       rtxErrAddUIntParm(ctx, pvalue->e_dch_TransmitContinuationOffset);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "e-dch-TransmitContinuationOffset", -1, "CommonEDCHSystemInfoFDD");
    }
    stat = pe_ConsUInt64(ctx, pvalue->e_dch_TransmitContinuationOffset, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "e-dch-TransmitContinuationOffset", -1, "CommonEDCHSystemInfoFDD");
    /* ack-nack-support-on-HS-DPCCH */
-   rtxCtxtPushElemName(ctx, "ack-nack-support-on-HS-DPCCH");
    stat = rtxEncBit(ctx, pvalue->ack_nack_support_on_HS_DPCCH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "ack-nack-support-on-HS-DPCCH", -1, "CommonEDCHSystemInfoFDD");
    /* measurement-Feedback-Info */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "measurement-Feedback-Info");
       stat = asn1PE_UMTS_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_Feedback_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "measurement-Feedback-Info", -1, "CommonEDCHSystemInfoFDD");
    }
    /* common-E-DCH-ResourceInfoList */
-   rtxCtxtPushElemName(ctx, "common-E-DCH-ResourceInfoList");
    stat = asn1PE_UMTS_CommonEDCHSystemInfoFDD_common_E_DCH_ResourceInfoList(ctx, &pvalue->common_E_DCH_ResourceInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "common-E-DCH-ResourceInfoList", -1, "CommonEDCHSystemInfoFDD");
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType5_v8d0ext_IEs(rtxContext* ctx, const SysInfoType5_v8d0ext_IEs* pvalue)
+int asn1PE_UMTS_SysInfoType5_v8d0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v8d0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType5-v8d0ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType5-v8d0ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5-v8d0ext-IEs");
    /* commonEDCHSystemInfoFDD */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "commonEDCHSystemInfoFDD");
       stat = asn1PE_UMTS_CommonEDCHSystemInfoFDD(ctx, &pvalue->commonEDCHSystemInfoFDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "commonEDCHSystemInfoFDD", -1, "SysInfoType5-v8d0ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions_nonCriticalExtensions* pvalue)
+int asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions(rtxContext* ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* sysInfoType5-v8d0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType5-v8d0ext");
    stat = asn1PE_UMTS_SysInfoType5_v8d0ext_IEs(ctx, &pvalue->sysInfoType5_v8d0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sysInfoType5-v8d0ext", -1, 0);
    /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
       stat = asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions(rtxContext* ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* sysInfoType5-v8b0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType5-v8b0ext");
    stat = asn1PE_UMTS_SysInfoType5_v8b0ext_IEs(ctx, &pvalue->sysInfoType5_v8b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sysInfoType5-v8b0ext", -1, 0);
    /* v8d0NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v8d0NonCriticalExtensions");
       stat = asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions(ctx, &pvalue->v8d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "v8d0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* sysInfoType5-v890ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType5-v890ext");
    stat = asn1PE_UMTS_SysInfoType5_v890ext_IEs(ctx, &pvalue->sysInfoType5_v890ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sysInfoType5-v890ext", -1, 0);
    /* v8b0NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v8b0NonCriticalExtensions");
       stat = asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions(ctx, &pvalue->v8b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "v8b0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* sysInfoType5-v860ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType5-v860ext");
    stat = asn1PE_UMTS_SysInfoType5_v860ext_IEs(ctx, &pvalue->sysInfoType5_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sysInfoType5-v860ext", -1, 0);
    /* v890NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v890NonCriticalExtensions");
       stat = asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* sysInfoType5-v770ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType5-v770ext");
    stat = asn1PE_UMTS_SysInfoType5_v770ext_IEs(ctx, &pvalue->sysInfoType5_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sysInfoType5-v770ext", -1, 0);
    /* v860NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtensions");
       stat = asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* sysInfoType5-v690ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType5-v690ext");
    stat = asn1PE_UMTS_SysInfoType5_v690ext_IEs(ctx, &pvalue->sysInfoType5_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sysInfoType5-v690ext", -1, 0);
    /* v770NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
       stat = asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions(rtxContext* ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* sysInfoType5-v680ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sysInfoType5-v680ext");
       stat = asn1PE_UMTS_SysInfoType5_v680ext_IEs(ctx, &pvalue->sysInfoType5_v680ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "sysInfoType5-v680ext", -1, 0);
    }
    /* v690NonCriticalExtensions */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
       stat = asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions(rtxContext* ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* sysInfoType5-v650ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sysInfoType5-v650ext");
       stat = asn1PE_UMTS_SysInfoType5_v650ext_IEs(ctx, &pvalue->sysInfoType5_v650ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "sysInfoType5-v650ext", -1, 0);
    }
    /* v680NonCriticalExtensions */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v680NonCriticalExtensions");
       stat = asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions(ctx, &pvalue->v680NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "v680NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* sysInfoType5-v590ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sysInfoType5-v590ext");
       stat = asn1PE_UMTS_SysInfoType5_v590ext_IEs(ctx, &pvalue->sysInfoType5_v590ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "sysInfoType5-v590ext", -1, 0);
    }
    /* v650NonCriticalExtensions */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v650NonCriticalExtensions");
       stat = asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions(ctx, &pvalue->v650NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "v650NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions(rtxContext* ctx, const SysInfoType5_v4b0NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* sysInfoType5-v4b0ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sysInfoType5-v4b0ext");
       stat = asn1PE_UMTS_SysInfoType5_v4b0ext_IEs(ctx, &pvalue->sysInfoType5_v4b0ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "sysInfoType5-v4b0ext", -1, 0);
    }
    /* v590NonCriticalExtensions */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtensions");
       stat = asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType5(rtxContext* ctx, const SysInfoType5* pvalue)
+int asn1PE_UMTS_SysInfoType5(rtxContext* RT_RESTRICT ctx, const SysInfoType5* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType5");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType5");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5");
    /* sib6indicator */
-   rtxCtxtPushElemName(ctx, "sib6indicator");
    stat = rtxEncBit(ctx, pvalue->sib6indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sib6indicator", -1, "SysInfoType5");
    /* pich-PowerOffset */
-   rtxCtxtPushElemName(ctx, "pich-PowerOffset");
-   rtxCtxtPushTypeName(ctx, "PICH-PowerOffset");
    if (pvalue->pich_PowerOffset < -10 || pvalue->pich_PowerOffset > 5) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "PICH-PowerOffset");
       rtxErrAddIntParm(ctx, pvalue->pich_PowerOffset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PICH-PowerOffset", "pich-PowerOffset", -1, "SysInfoType5");
    }
    stat = pe_ConsInt64(ctx, pvalue->pich_PowerOffset, -10, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "PICH-PowerOffset", "pich-PowerOffset", -1, "SysInfoType5");
    /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
    stat = asn1PE_UMTS_SysInfoType5_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SysInfoType5");
    /* primaryCCPCH-Info */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "primaryCCPCH-Info");
       stat = asn1PE_UMTS_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "SysInfoType5");
    }
    /* prach-SystemInformationList */
-   rtxCtxtPushElemName(ctx, "prach-SystemInformationList");
    stat = asn1PE_UMTS_PRACH_SystemInformationList(ctx, &pvalue->prach_SystemInformationList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "prach-SystemInformationList", -1, "SysInfoType5");
    /* sCCPCH-SystemInformationList */
-   rtxCtxtPushElemName(ctx, "sCCPCH-SystemInformationList");
    stat = asn1PE_UMTS_SCCPCH_SystemInformationList(ctx, &pvalue->sCCPCH_SystemInformationList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "sCCPCH-SystemInformationList", -1, "SysInfoType5");
    /* cbs-DRX-Level1Information */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "cbs-DRX-Level1Information");
       stat = asn1PE_UMTS_CBS_DRX_Level1Information(ctx, &pvalue->cbs_DRX_Level1Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "cbs-DRX-Level1Information", -1, "SysInfoType5");
    }
    /* v4b0NonCriticalExtensions */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "v4b0NonCriticalExtensions");
       stat = asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType5");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_RAT_Type(rtxContext* ctx, RAT_Type value)
+int asn1PE_UMTS_RAT_Type(rtxContext* RT_RESTRICT ctx, RAT_Type value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RAT-Type");
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "RAT-Type");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAT-Type");
    return 0;
 }
 
-int asn1PE_UMTS_FACH_MeasurementOccasionInfo_inter_RAT_meas_ind(rtxContext* ctx, const FACH_MeasurementOccasionInfo_inter_RAT_meas_ind* pvalue)
+int asn1PE_UMTS_FACH_MeasurementOccasionInfo_inter_RAT_meas_ind(rtxContext* RT_RESTRICT ctx, const FACH_MeasurementOccasionInfo_inter_RAT_meas_ind* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 15);
    stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "RAT-Type", i);
-      rtxCtxtPushTypeName(ctx, "RAT-Type");
       if (pvalue->elem[i] > 1) {
          rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "RAT-Type", "RAT-Type", (int32_t)i, 0);
       }
       stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, "RAT-Type", "RAT-Type", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_FACH_MeasurementOccasionInfo(rtxContext* ctx, const FACH_MeasurementOccasionInfo* pvalue)
+int asn1PE_UMTS_FACH_MeasurementOccasionInfo(rtxContext* RT_RESTRICT ctx, const FACH_MeasurementOccasionInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "FACH-MeasurementOccasionInfo");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "FACH-MeasurementOccasionInfo");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "FACH-MeasurementOccasionInfo");
    /* fACH-meas-occasion-coeff */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "fACH-meas-occasion-coeff");
       if ((uint64_t)(pvalue->fACH_meas_occasion_coeff - 1) > 11u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "fACH-meas-occasion-coeff");
          rtxErrAddUIntParm(ctx, pvalue->fACH_meas_occasion_coeff);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "fACH-meas-occasion-coeff", -1, "FACH-MeasurementOccasionInfo");
       }
       stat = pe_ConsUInt64(ctx, pvalue->fACH_meas_occasion_coeff, 1, 12);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "fACH-meas-occasion-coeff", -1, "FACH-MeasurementOccasionInfo");
    }
    /* inter-freq-FDD-meas-ind */
-   rtxCtxtPushElemName(ctx, "inter-freq-FDD-meas-ind");
    stat = rtxEncBit(ctx, pvalue->inter_freq_FDD_meas_ind);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "inter-freq-FDD-meas-ind", -1, "FACH-MeasurementOccasionInfo");
    /* inter-freq-TDD-meas-ind */
-   rtxCtxtPushElemName(ctx, "inter-freq-TDD-meas-ind");
    stat = rtxEncBit(ctx, pvalue->inter_freq_TDD_meas_ind);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "inter-freq-TDD-meas-ind", -1, "FACH-MeasurementOccasionInfo");
    /* inter-RAT-meas-ind */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "inter-RAT-meas-ind");
       stat = asn1PE_UMTS_FACH_MeasurementOccasionInfo_inter_RAT_meas_ind(ctx, &pvalue->inter_RAT_meas_ind);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "inter-RAT-meas-ind", -1, "FACH-MeasurementOccasionInfo");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_MeasurementIdentity(rtxContext* ctx, MeasurementIdentity value)
+int asn1PE_UMTS_MeasurementIdentity(rtxContext* RT_RESTRICT ctx, MeasurementIdentity value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MeasurementIdentity");
    if ((uint64_t)(value - 1) > 15u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "MeasurementIdentity");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MeasurementIdentity");
    }
    stat = pe_ConsUInt64(ctx, value, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementIdentity");
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqCellID(rtxContext* ctx, IntraFreqCellID value)
+int asn1PE_UMTS_IntraFreqCellID(rtxContext* RT_RESTRICT ctx, IntraFreqCellID value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "IntraFreqCellID");
    if ((uint64_t)value > 31u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "IntraFreqCellID");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "IntraFreqCellID");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellID");
    return 0;
 }
 
-int asn1PE_UMTS_RemovedIntraFreqCellList_removeSomeIntraFreqCells(rtxContext* ctx, const RemovedIntraFreqCellList_removeSomeIntraFreqCells* pvalue)
+int asn1PE_UMTS_RemovedIntraFreqCellList_removeSomeIntraFreqCells(rtxContext* RT_RESTRICT ctx, const RemovedIntraFreqCellList_removeSomeIntraFreqCells* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 32);
    stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "IntraFreqCellID", i);
-      rtxCtxtPushTypeName(ctx, "IntraFreqCellID");
       if ((uint64_t)pvalue->elem[i] > 31u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "IntraFreqCellID");
          rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "IntraFreqCellID", "IntraFreqCellID", (int32_t)i, 0);
       }
       stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, "IntraFreqCellID", "IntraFreqCellID", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_RemovedIntraFreqCellList(rtxContext* ctx, const RemovedIntraFreqCellList* pvalue)
+int asn1PE_UMTS_RemovedIntraFreqCellList(rtxContext* RT_RESTRICT ctx, const RemovedIntraFreqCellList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RemovedIntraFreqCellList");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RemovedIntraFreqCellList");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "RemovedIntraFreqCellList");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RemovedIntraFreqCellList");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "removeAllIntraFreqCells");
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "removeSomeIntraFreqCells");
-         if (pvalue->u.removeSomeIntraFreqCells == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.removeSomeIntraFreqCells == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "removeSomeIntraFreqCells", -1, "RemovedIntraFreqCellList");
          stat = asn1PE_UMTS_RemovedIntraFreqCellList_removeSomeIntraFreqCells(ctx, pvalue->u.removeSomeIntraFreqCells);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "removeSomeIntraFreqCells", -1, "RemovedIntraFreqCellList");
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "removeNoIntraFreqCells");
-         rtxCtxtPopElemName(ctx);
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_CellIndividualOffset(rtxContext* ctx, CellIndividualOffset value)
+int asn1PE_UMTS_CellIndividualOffset(rtxContext* RT_RESTRICT ctx, CellIndividualOffset value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CellIndividualOffset");
    if (value < -20 || value > 20) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "CellIndividualOffset");
       rtxErrAddIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "CellIndividualOffset");
    }
    stat = pe_ConsInt64(ctx, value, -20, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellIndividualOffset");
    return 0;
 }
 
-int asn1PE_UMTS_ReferenceTimeDifferenceToCell(rtxContext* ctx, const ReferenceTimeDifferenceToCell* pvalue)
+int asn1PE_UMTS_ReferenceTimeDifferenceToCell(rtxContext* RT_RESTRICT ctx, const ReferenceTimeDifferenceToCell* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ReferenceTimeDifferenceToCell");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ReferenceTimeDifferenceToCell");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "ReferenceTimeDifferenceToCell");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ReferenceTimeDifferenceToCell");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "accuracy40");
          if ((uint64_t)pvalue->u.accuracy40 > 960u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "accuracy40");
             rtxErrAddUIntParm(ctx, pvalue->u.accuracy40);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "accuracy40", -1, "ReferenceTimeDifferenceToCell");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.accuracy40, 0, 960);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "accuracy40", -1, "ReferenceTimeDifferenceToCell");
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "accuracy256");
          if ((uint64_t)pvalue->u.accuracy256 > 150u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "accuracy256");
             rtxErrAddUIntParm(ctx, pvalue->u.accuracy256);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "accuracy256", -1, "ReferenceTimeDifferenceToCell");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.accuracy256, 0, 150);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "accuracy256", -1, "ReferenceTimeDifferenceToCell");
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "accuracy2560");
          if ((uint64_t)pvalue->u.accuracy2560 > 15u) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "accuracy2560");
             rtxErrAddUIntParm(ctx, pvalue->u.accuracy2560);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "accuracy2560", -1, "ReferenceTimeDifferenceToCell");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.accuracy2560, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "accuracy2560", -1, "ReferenceTimeDifferenceToCell");
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PrimaryScramblingCode(rtxContext* ctx, PrimaryScramblingCode value)
+int asn1PE_UMTS_PrimaryScramblingCode(rtxContext* RT_RESTRICT ctx, PrimaryScramblingCode value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PrimaryScramblingCode");
    if ((uint64_t)value > 511u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "PrimaryScramblingCode");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PrimaryScramblingCode");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 511);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PrimaryScramblingCode");
    return 0;
 }
 
-int asn1PE_UMTS_PrimaryCPICH_Info(rtxContext* ctx, const PrimaryCPICH_Info* pvalue)
+int asn1PE_UMTS_PrimaryCPICH_Info(rtxContext* RT_RESTRICT ctx, const PrimaryCPICH_Info* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PrimaryCPICH-Info");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PrimaryCPICH-Info");
    /* primaryScramblingCode */
-   rtxCtxtPushElemName(ctx, "primaryScramblingCode");
-   rtxCtxtPushTypeName(ctx, "PrimaryScramblingCode");
    if ((uint64_t)pvalue->primaryScramblingCode > 511u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "PrimaryScramblingCode");
       rtxErrAddUIntParm(ctx, pvalue->primaryScramblingCode);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryScramblingCode", "primaryScramblingCode", -1, "PrimaryCPICH-Info");
    }
    stat = pe_ConsUInt64(ctx, pvalue->primaryScramblingCode, 0, 511);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "PrimaryScramblingCode", "primaryScramblingCode", -1, "PrimaryCPICH-Info");
    return 0;
 }
 
-int asn1PE_UMTS_CellInfoSI_RSCP_modeSpecificInfo_fdd(rtxContext* ctx, const CellInfoSI_RSCP_modeSpecificInfo_fdd* pvalue)
+int asn1PE_UMTS_CellInfoSI_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* primaryCPICH-Info */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
       stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
    }
    /* primaryCPICH-TX-Power */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-TX-Power");
-      rtxCtxtPushTypeName(ctx, "PrimaryCPICH-TX-Power");
       if (pvalue->primaryCPICH_TX_Power < -10 || pvalue->primaryCPICH_TX_Power > 50) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "PrimaryCPICH-TX-Power");
          rtxErrAddIntParm(ctx, pvalue->primaryCPICH_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
       }
       stat = pe_ConsInt64(ctx, pvalue->primaryCPICH_TX_Power, -10, 50);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
    }
    /* readSFN-Indicator */
-   rtxCtxtPushElemName(ctx, "readSFN-Indicator");
    stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
    /* tx-DiversityIndicator */
-   rtxCtxtPushElemName(ctx, "tx-DiversityIndicator");
    stat = rtxEncBit(ctx, pvalue->tx_DiversityIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "tx-DiversityIndicator", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_BurstType(rtxContext* ctx, BurstType value)
+int asn1PE_UMTS_BurstType(rtxContext* RT_RESTRICT ctx, BurstType value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "BurstType");
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "BurstType");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "BurstType");
    return 0;
 }
 
-int asn1PE_UMTS_TimeslotInfo(rtxContext* ctx, const TimeslotInfo* pvalue)
+int asn1PE_UMTS_TimeslotInfo(rtxContext* RT_RESTRICT ctx, const TimeslotInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TimeslotInfo");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TimeslotInfo");
    /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
    if ((uint64_t)pvalue->timeslotNumber > 14u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
       rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, "TimeslotInfo");
    }
    stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, "TimeslotInfo");
    /* burstType */
-   rtxCtxtPushElemName(ctx, "burstType");
-   rtxCtxtPushTypeName(ctx, "BurstType");
    if (pvalue->burstType > 1) {
       rtxErrAddUIntParm(ctx, pvalue->burstType);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "BurstType", "burstType", -1, "TimeslotInfo");
    }
    stat = pe_ConsUInt64(ctx, pvalue->burstType, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "BurstType", "burstType", -1, "TimeslotInfo");
    return 0;
 }
 
-int asn1PE_UMTS_TimeslotInfoList(rtxContext* ctx, const TimeslotInfoList* pvalue)
+int asn1PE_UMTS_TimeslotInfoList(rtxContext* RT_RESTRICT ctx, const TimeslotInfoList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TimeslotInfoList");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "TimeslotInfoList");
    RT_SET_SIZE(ctx, 1, 14);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "TimeslotInfoList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "TimeslotInfo", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "TimeslotInfo", (int32_t)i, "TimeslotInfoList");
       stat = asn1PE_UMTS_TimeslotInfo(ctx, (const TimeslotInfo*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "TimeslotInfo", (int32_t)i, "TimeslotInfoList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_CellInfoSI_RSCP_modeSpecificInfo_tdd(rtxContext* ctx, const CellInfoSI_RSCP_modeSpecificInfo_tdd* pvalue)
+int asn1PE_UMTS_CellInfoSI_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* primaryCCPCH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-Info");
    stat = asn1PE_UMTS_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, 0);
    /* primaryCCPCH-TX-Power */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-      rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
       if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
          rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
       }
       stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
    }
    /* timeslotInfoList */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "timeslotInfoList");
       stat = asn1PE_UMTS_TimeslotInfoList(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, 0);
    }
    /* readSFN-Indicator */
-   rtxCtxtPushElemName(ctx, "readSFN-Indicator");
    stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CellInfoSI_RSCP_modeSpecificInfo(rtxContext* ctx, const CellInfoSI_RSCP_modeSpecificInfo* pvalue)
+int asn1PE_UMTS_CellInfoSI_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellInfoSI_RSCP_modeSpecificInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
          stat = asn1PE_UMTS_CellInfoSI_RSCP_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
          stat = asn1PE_UMTS_CellInfoSI_RSCP_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
          break;
@@ -7012,138 +1493,112 @@ int asn1PE_UMTS_CellInfoSI_RSCP_modeSpecificInfo(rtxContext* ctx, const CellInfo
    return 0;
 }
 
-int asn1PE_UMTS_Q_OffsetS_N(rtxContext* ctx, Q_OffsetS_N value)
+int asn1PE_UMTS_Q_OffsetS_N(rtxContext* RT_RESTRICT ctx, Q_OffsetS_N value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Q-OffsetS-N");
    if (value < -50 || value > 50) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "Q-OffsetS-N");
       rtxErrAddIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "Q-OffsetS-N");
    }
    stat = pe_ConsInt64(ctx, value, -50, 50);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Q-OffsetS-N");
    return 0;
 }
 
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd(rtxContext* ctx, const CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd* pvalue)
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* q-QualMin */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "q-QualMin");
-      rtxCtxtPushTypeName(ctx, "Q-QualMin");
       if (pvalue->q_QualMin < -24 || pvalue->q_QualMin > 0) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "Q-QualMin");
          rtxErrAddIntParm(ctx, pvalue->q_QualMin);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-QualMin", "q-QualMin", -1, 0);
       }
       stat = pe_ConsInt64(ctx, pvalue->q_QualMin, -24, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "Q-QualMin", "q-QualMin", -1, 0);
    }
    /* q-RxlevMin */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "q-RxlevMin");
-      rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
       if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "Q-RxlevMin");
          rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
       }
       stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd(rtxContext* ctx, const CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd* pvalue)
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* q-RxlevMin */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "q-RxlevMin");
-      rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
       if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "Q-RxlevMin");
          rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
       }
       stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm(rtxContext* ctx, const CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm* pvalue)
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* q-RxlevMin */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "q-RxlevMin");
-      rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
       if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "Q-RxlevMin");
          rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
       }
       stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo(rtxContext* ctx, const CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo* pvalue)
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
          stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
          stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "gsm");
-         if (pvalue->u.gsm == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm", -1, 0);
          stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
          break;
       default:
          break;
@@ -7151,295 +1606,229 @@ int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo(rtxContext
    return 0;
 }
 
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_RSCP(rtxContext* ctx, const CellSelectReselectInfoSIB_11_12_RSCP* pvalue)
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_RSCP(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_RSCP* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellSelectReselectInfoSIB-11-12-RSCP");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellSelectReselectInfoSIB-11-12-RSCP");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->q_OffsetS_N != 0) << 1) |
       ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellSelectReselectInfoSIB-11-12-RSCP");
    /* q-OffsetS-N */
    if (pvalue->q_OffsetS_N != 0) {
-      rtxCtxtPushElemName(ctx, "q-OffsetS-N");
-      rtxCtxtPushTypeName(ctx, "Q-OffsetS-N");
       if (pvalue->q_OffsetS_N < -50 || pvalue->q_OffsetS_N > 50) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "Q-OffsetS-N");
          rtxErrAddIntParm(ctx, pvalue->q_OffsetS_N);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-OffsetS-N", "q-OffsetS-N", -1, "CellSelectReselectInfoSIB-11-12-RSCP");
       }
       stat = pe_ConsInt64(ctx, pvalue->q_OffsetS_N, -50, 50);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "Q-OffsetS-N", "q-OffsetS-N", -1, "CellSelectReselectInfoSIB-11-12-RSCP");
    }
    /* maxAllowedUL-TX-Power */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
       if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
          rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12-RSCP");
       }
       stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12-RSCP");
    }
    /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
    stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellSelectReselectInfoSIB-11-12-RSCP");
    return 0;
 }
 
-int asn1PE_UMTS_CellInfoSI_RSCP(rtxContext* ctx, const CellInfoSI_RSCP* pvalue)
+int asn1PE_UMTS_CellInfoSI_RSCP(rtxContext* RT_RESTRICT ctx, const CellInfoSI_RSCP* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellInfoSI-RSCP");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellInfoSI-RSCP");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 2) |
       ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfoSI-RSCP");
    /* cellIndividualOffset */
    if (pvalue->cellIndividualOffset != 0) {
-      rtxCtxtPushElemName(ctx, "cellIndividualOffset");
-      rtxCtxtPushTypeName(ctx, "CellIndividualOffset");
       if (pvalue->cellIndividualOffset < -20 || pvalue->cellIndividualOffset > 20) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "CellIndividualOffset");
          rtxErrAddIntParm(ctx, pvalue->cellIndividualOffset);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-RSCP");
       }
       stat = pe_ConsInt64(ctx, pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-RSCP");
    }
    /* referenceTimeDifferenceToCell */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "referenceTimeDifferenceToCell");
       stat = asn1PE_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-RSCP");
    }
    /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
    stat = asn1PE_UMTS_CellInfoSI_RSCP_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellInfoSI-RSCP");
    /* cellSelectionReselectionInfo */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "cellSelectionReselectionInfo");
       stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_RSCP(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-RSCP");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_NewIntraFreqCellSI_RSCP(rtxContext* ctx, const NewIntraFreqCellSI_RSCP* pvalue)
+int asn1PE_UMTS_NewIntraFreqCellSI_RSCP(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_RSCP* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellSI-RSCP");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-RSCP");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-RSCP");
    /* intraFreqCellID */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellID");
-      rtxCtxtPushTypeName(ctx, "IntraFreqCellID");
       if ((uint64_t)pvalue->intraFreqCellID > 31u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "IntraFreqCellID");
          rtxErrAddUIntParm(ctx, pvalue->intraFreqCellID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-RSCP");
       }
       stat = pe_ConsUInt64(ctx, pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-RSCP");
    }
    /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
    stat = asn1PE_UMTS_CellInfoSI_RSCP(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-RSCP");
    return 0;
 }
 
-int asn1PE_UMTS_NewIntraFreqCellSI_List_RSCP(rtxContext* ctx, const NewIntraFreqCellSI_List_RSCP* pvalue)
+int asn1PE_UMTS_NewIntraFreqCellSI_List_RSCP(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_RSCP* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-List-RSCP");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellSI-List-RSCP");
    RT_SET_SIZE(ctx, 1, 32);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-List-RSCP");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "NewIntraFreqCellSI-RSCP", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewIntraFreqCellSI-RSCP", (int32_t)i, "NewIntraFreqCellSI-List-RSCP");
       stat = asn1PE_UMTS_NewIntraFreqCellSI_RSCP(ctx, (const NewIntraFreqCellSI_RSCP*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-RSCP", (int32_t)i, "NewIntraFreqCellSI-List-RSCP");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqCellInfoSI_List_RSCP(rtxContext* ctx, const IntraFreqCellInfoSI_List_RSCP* pvalue)
+int asn1PE_UMTS_IntraFreqCellInfoSI_List_RSCP(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_RSCP* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqCellInfoSI-List-RSCP");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqCellInfoSI-List-RSCP");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-RSCP");
    /* removedIntraFreqCellList */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "removedIntraFreqCellList");
       stat = asn1PE_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-RSCP");
    }
    /* newIntraFreqCellList */
-   rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
    stat = asn1PE_UMTS_NewIntraFreqCellSI_List_RSCP(ctx, &pvalue->newIntraFreqCellList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-RSCP");
    return 0;
 }
 
-int asn1PE_UMTS_FilterCoefficient(rtxContext* ctx, FilterCoefficient value)
+int asn1PE_UMTS_FilterCoefficient(rtxContext* RT_RESTRICT ctx, FilterCoefficient value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "FilterCoefficient");
    if (value > 15) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "FilterCoefficient");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "FilterCoefficient");
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqMeasQuantity_FDD(rtxContext* ctx, IntraFreqMeasQuantity_FDD value)
+int asn1PE_UMTS_IntraFreqMeasQuantity_FDD(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_FDD value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "IntraFreqMeasQuantity-FDD");
    if (value > 3) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "IntraFreqMeasQuantity-FDD");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasQuantity-FDD");
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqMeasQuantity_modeSpecificInfo_fdd(rtxContext* ctx, const IntraFreqMeasQuantity_modeSpecificInfo_fdd* pvalue)
+int asn1PE_UMTS_IntraFreqMeasQuantity_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasQuantity_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* intraFreqMeasQuantity-FDD */
-   rtxCtxtPushElemName(ctx, "intraFreqMeasQuantity-FDD");
-   rtxCtxtPushTypeName(ctx, "IntraFreqMeasQuantity-FDD");
    if (pvalue->intraFreqMeasQuantity_FDD > 3) {
       rtxErrAddUIntParm(ctx, pvalue->intraFreqMeasQuantity_FDD);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "IntraFreqMeasQuantity-FDD", "intraFreqMeasQuantity-FDD", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->intraFreqMeasQuantity_FDD, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "IntraFreqMeasQuantity-FDD", "intraFreqMeasQuantity-FDD", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqMeasQuantity_TDD(rtxContext* ctx, IntraFreqMeasQuantity_TDD value)
+int asn1PE_UMTS_IntraFreqMeasQuantity_TDD(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_TDD value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "IntraFreqMeasQuantity-TDD");
    if (value > 3) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "IntraFreqMeasQuantity-TDD");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasQuantity-TDD");
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqMeasQuantity_TDDList(rtxContext* ctx, const IntraFreqMeasQuantity_TDDList* pvalue)
+int asn1PE_UMTS_IntraFreqMeasQuantity_TDDList(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasQuantity_TDDList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqMeasQuantity-TDDList");
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "IntraFreqMeasQuantity-TDDList");
    RT_SET_SIZE(ctx, 1, 4);
    stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "IntraFreqMeasQuantity-TDDList");
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "IntraFreqMeasQuantity-TDD", i);
-      rtxCtxtPushTypeName(ctx, "IntraFreqMeasQuantity-TDD");
       if (pvalue->elem[i] > 3) {
          rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "IntraFreqMeasQuantity-TDD", "IntraFreqMeasQuantity-TDD", (int32_t)i, "IntraFreqMeasQuantity-TDDList");
       }
       stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, "IntraFreqMeasQuantity-TDD", "IntraFreqMeasQuantity-TDD", (int32_t)i, "IntraFreqMeasQuantity-TDDList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqMeasQuantity_modeSpecificInfo_tdd(rtxContext* ctx, const IntraFreqMeasQuantity_modeSpecificInfo_tdd* pvalue)
+int asn1PE_UMTS_IntraFreqMeasQuantity_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasQuantity_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* intraFreqMeasQuantity-TDDList */
-   rtxCtxtPushElemName(ctx, "intraFreqMeasQuantity-TDDList");
    stat = asn1PE_UMTS_IntraFreqMeasQuantity_TDDList(ctx, &pvalue->intraFreqMeasQuantity_TDDList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity-TDDList", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqMeasQuantity_modeSpecificInfo(rtxContext* ctx, const IntraFreqMeasQuantity_modeSpecificInfo* pvalue)
+int asn1PE_UMTS_IntraFreqMeasQuantity_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasQuantity_modeSpecificInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
          stat = asn1PE_UMTS_IntraFreqMeasQuantity_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
          stat = asn1PE_UMTS_IntraFreqMeasQuantity_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
          break;
@@ -7447,156 +1836,124 @@ int asn1PE_UMTS_IntraFreqMeasQuantity_modeSpecificInfo(rtxContext* ctx, const In
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqMeasQuantity(rtxContext* ctx, const IntraFreqMeasQuantity* pvalue)
+int asn1PE_UMTS_IntraFreqMeasQuantity(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasQuantity* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqMeasQuantity");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqMeasQuantity");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->filterCoefficient != 0) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasQuantity");
    /* filterCoefficient */
    if (pvalue->filterCoefficient != 0) {
-      rtxCtxtPushElemName(ctx, "filterCoefficient");
-      rtxCtxtPushTypeName(ctx, "FilterCoefficient");
       if (pvalue->filterCoefficient > 15) {
          rtxErrAddUIntParm(ctx, pvalue->filterCoefficient);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "FilterCoefficient", "filterCoefficient", -1, "IntraFreqMeasQuantity");
       }
       stat = pe_ConsUInt64(ctx, pvalue->filterCoefficient, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "FilterCoefficient", "filterCoefficient", -1, "IntraFreqMeasQuantity");
    }
    /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
    stat = asn1PE_UMTS_IntraFreqMeasQuantity_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "IntraFreqMeasQuantity");
    return 0;
 }
 
-int asn1PE_UMTS_SFN_SFN_OTD_Type(rtxContext* ctx, SFN_SFN_OTD_Type value)
+int asn1PE_UMTS_SFN_SFN_OTD_Type(rtxContext* RT_RESTRICT ctx, SFN_SFN_OTD_Type value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SFN-SFN-OTD-Type");
    if (value > 2) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SFN-SFN-OTD-Type");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SFN-SFN-OTD-Type");
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqRepQuantityRACH_FDD(rtxContext* ctx, IntraFreqRepQuantityRACH_FDD value)
+int asn1PE_UMTS_IntraFreqRepQuantityRACH_FDD(rtxContext* RT_RESTRICT ctx, IntraFreqRepQuantityRACH_FDD value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "IntraFreqRepQuantityRACH-FDD");
    if (value > 3) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "IntraFreqRepQuantityRACH-FDD");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqRepQuantityRACH-FDD");
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd(rtxContext* ctx, const IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd* pvalue)
+int asn1PE_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* intraFreqRepQuantityRACH-FDD */
-   rtxCtxtPushElemName(ctx, "intraFreqRepQuantityRACH-FDD");
-   rtxCtxtPushTypeName(ctx, "IntraFreqRepQuantityRACH-FDD");
    if (pvalue->intraFreqRepQuantityRACH_FDD > 3) {
       rtxErrAddUIntParm(ctx, pvalue->intraFreqRepQuantityRACH_FDD);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "IntraFreqRepQuantityRACH-FDD", "intraFreqRepQuantityRACH-FDD", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->intraFreqRepQuantityRACH_FDD, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "IntraFreqRepQuantityRACH-FDD", "intraFreqRepQuantityRACH-FDD", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqRepQuantityRACH_TDD(rtxContext* ctx, IntraFreqRepQuantityRACH_TDD value)
+int asn1PE_UMTS_IntraFreqRepQuantityRACH_TDD(rtxContext* RT_RESTRICT ctx, IntraFreqRepQuantityRACH_TDD value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "IntraFreqRepQuantityRACH-TDD");
    if (value > 2) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "IntraFreqRepQuantityRACH-TDD");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqRepQuantityRACH-TDD");
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqRepQuantityRACH_TDDList(rtxContext* ctx, const IntraFreqRepQuantityRACH_TDDList* pvalue)
+int asn1PE_UMTS_IntraFreqRepQuantityRACH_TDDList(rtxContext* RT_RESTRICT ctx, const IntraFreqRepQuantityRACH_TDDList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqRepQuantityRACH-TDDList");
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "IntraFreqRepQuantityRACH-TDDList");
    RT_SET_SIZE(ctx, 1, 2);
    stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "IntraFreqRepQuantityRACH-TDDList");
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "IntraFreqRepQuantityRACH-TDD", i);
-      rtxCtxtPushTypeName(ctx, "IntraFreqRepQuantityRACH-TDD");
       if (pvalue->elem[i] > 2) {
          rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "IntraFreqRepQuantityRACH-TDD", "IntraFreqRepQuantityRACH-TDD", (int32_t)i, "IntraFreqRepQuantityRACH-TDDList");
       }
       stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, "IntraFreqRepQuantityRACH-TDD", "IntraFreqRepQuantityRACH-TDD", (int32_t)i, "IntraFreqRepQuantityRACH-TDDList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd(rtxContext* ctx, const IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd* pvalue)
+int asn1PE_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* intraFreqRepQuantityRACH-TDDList */
-   rtxCtxtPushElemName(ctx, "intraFreqRepQuantityRACH-TDDList");
    stat = asn1PE_UMTS_IntraFreqRepQuantityRACH_TDDList(ctx, &pvalue->intraFreqRepQuantityRACH_TDDList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "intraFreqRepQuantityRACH-TDDList", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo(rtxContext* ctx, const IntraFreqReportingQuantityForRACH_modeSpecificInfo* pvalue)
+int asn1PE_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingQuantityForRACH_modeSpecificInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
          stat = asn1PE_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
          stat = asn1PE_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
          break;
@@ -7604,117 +1961,87 @@ int asn1PE_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo(rtxContext* c
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqReportingQuantityForRACH(rtxContext* ctx, const IntraFreqReportingQuantityForRACH* pvalue)
+int asn1PE_UMTS_IntraFreqReportingQuantityForRACH(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingQuantityForRACH* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqReportingQuantityForRACH");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqReportingQuantityForRACH");
    /* sfn-SFN-OTD-Type */
-   rtxCtxtPushElemName(ctx, "sfn-SFN-OTD-Type");
-   rtxCtxtPushTypeName(ctx, "SFN-SFN-OTD-Type");
    if (pvalue->sfn_SFN_OTD_Type > 2) {
       rtxErrAddUIntParm(ctx, pvalue->sfn_SFN_OTD_Type);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "SFN-SFN-OTD-Type", "sfn-SFN-OTD-Type", -1, "IntraFreqReportingQuantityForRACH");
    }
    stat = pe_ConsUInt64(ctx, pvalue->sfn_SFN_OTD_Type, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "SFN-SFN-OTD-Type", "sfn-SFN-OTD-Type", -1, "IntraFreqReportingQuantityForRACH");
    /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
    stat = asn1PE_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "IntraFreqReportingQuantityForRACH");
    return 0;
 }
 
-int asn1PE_UMTS_MaxReportedCellsOnRACH(rtxContext* ctx, MaxReportedCellsOnRACH value)
+int asn1PE_UMTS_MaxReportedCellsOnRACH(rtxContext* RT_RESTRICT ctx, MaxReportedCellsOnRACH value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaxReportedCellsOnRACH");
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxReportedCellsOnRACH");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxReportedCellsOnRACH");
    return 0;
 }
 
-int asn1PE_UMTS_CellReportingQuantities_modeSpecificInfo_fdd(rtxContext* ctx, const CellReportingQuantities_modeSpecificInfo_fdd* pvalue)
+int asn1PE_UMTS_CellReportingQuantities_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellReportingQuantities_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* cpich-Ec-N0-reportingIndicator */
-   rtxCtxtPushElemName(ctx, "cpich-Ec-N0-reportingIndicator");
    stat = rtxEncBit(ctx, pvalue->cpich_Ec_N0_reportingIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "cpich-Ec-N0-reportingIndicator", -1, 0);
    /* cpich-RSCP-reportingIndicator */
-   rtxCtxtPushElemName(ctx, "cpich-RSCP-reportingIndicator");
    stat = rtxEncBit(ctx, pvalue->cpich_RSCP_reportingIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "cpich-RSCP-reportingIndicator", -1, 0);
    /* pathloss-reportingIndicator */
-   rtxCtxtPushElemName(ctx, "pathloss-reportingIndicator");
    stat = rtxEncBit(ctx, pvalue->pathloss_reportingIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "pathloss-reportingIndicator", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CellReportingQuantities_modeSpecificInfo_tdd(rtxContext* ctx, const CellReportingQuantities_modeSpecificInfo_tdd* pvalue)
+int asn1PE_UMTS_CellReportingQuantities_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellReportingQuantities_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* timeslotISCP-reportingIndicator */
-   rtxCtxtPushElemName(ctx, "timeslotISCP-reportingIndicator");
    stat = rtxEncBit(ctx, pvalue->timeslotISCP_reportingIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "timeslotISCP-reportingIndicator", -1, 0);
    /* proposedTGSN-ReportingRequired */
-   rtxCtxtPushElemName(ctx, "proposedTGSN-ReportingRequired");
    stat = rtxEncBit(ctx, pvalue->proposedTGSN_ReportingRequired);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "proposedTGSN-ReportingRequired", -1, 0);
    /* primaryCCPCH-RSCP-reportingIndicator */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-RSCP-reportingIndicator");
    stat = rtxEncBit(ctx, pvalue->primaryCCPCH_RSCP_reportingIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-RSCP-reportingIndicator", -1, 0);
    /* pathloss-reportingIndicator */
-   rtxCtxtPushElemName(ctx, "pathloss-reportingIndicator");
    stat = rtxEncBit(ctx, pvalue->pathloss_reportingIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "pathloss-reportingIndicator", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CellReportingQuantities_modeSpecificInfo(rtxContext* ctx, const CellReportingQuantities_modeSpecificInfo* pvalue)
+int asn1PE_UMTS_CellReportingQuantities_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellReportingQuantities_modeSpecificInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
          stat = asn1PE_UMTS_CellReportingQuantities_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
          stat = asn1PE_UMTS_CellReportingQuantities_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
          break;
@@ -7722,1100 +2049,811 @@ int asn1PE_UMTS_CellReportingQuantities_modeSpecificInfo(rtxContext* ctx, const 
    return 0;
 }
 
-int asn1PE_UMTS_CellReportingQuantities(rtxContext* ctx, const CellReportingQuantities* pvalue)
+int asn1PE_UMTS_CellReportingQuantities(rtxContext* RT_RESTRICT ctx, const CellReportingQuantities* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellReportingQuantities");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellReportingQuantities");
    /* dummy */
-   rtxCtxtPushElemName(ctx, "dummy");
-   rtxCtxtPushTypeName(ctx, "SFN-SFN-OTD-Type");
    if (pvalue->dummy > 2) {
       rtxErrAddUIntParm(ctx, pvalue->dummy);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "SFN-SFN-OTD-Type", "dummy", -1, "CellReportingQuantities");
    }
    stat = pe_ConsUInt64(ctx, pvalue->dummy, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "SFN-SFN-OTD-Type", "dummy", -1, "CellReportingQuantities");
    /* cellIdentity-reportingIndicator */
-   rtxCtxtPushElemName(ctx, "cellIdentity-reportingIndicator");
    stat = rtxEncBit(ctx, pvalue->cellIdentity_reportingIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "cellIdentity-reportingIndicator", -1, "CellReportingQuantities");
    /* cellSynchronisationInfoReportingIndicator */
-   rtxCtxtPushElemName(ctx, "cellSynchronisationInfoReportingIndicator");
    stat = rtxEncBit(ctx, pvalue->cellSynchronisationInfoReportingIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "cellSynchronisationInfoReportingIndicator", -1, "CellReportingQuantities");
    /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
    stat = asn1PE_UMTS_CellReportingQuantities_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellReportingQuantities");
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqReportingQuantity(rtxContext* ctx, const IntraFreqReportingQuantity* pvalue)
+int asn1PE_UMTS_IntraFreqReportingQuantity(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingQuantity* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqReportingQuantity");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqReportingQuantity");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqReportingQuantity");
    /* activeSetReportingQuantities */
-   rtxCtxtPushElemName(ctx, "activeSetReportingQuantities");
    stat = asn1PE_UMTS_CellReportingQuantities(ctx, &pvalue->activeSetReportingQuantities);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "activeSetReportingQuantities", -1, "IntraFreqReportingQuantity");
    /* monitoredSetReportingQuantities */
-   rtxCtxtPushElemName(ctx, "monitoredSetReportingQuantities");
    stat = asn1PE_UMTS_CellReportingQuantities(ctx, &pvalue->monitoredSetReportingQuantities);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "monitoredSetReportingQuantities", -1, "IntraFreqReportingQuantity");
    /* detectedSetReportingQuantities */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "detectedSetReportingQuantities");
       stat = asn1PE_UMTS_CellReportingQuantities(ctx, &pvalue->detectedSetReportingQuantities);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "detectedSetReportingQuantities", -1, "IntraFreqReportingQuantity");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_TransferMode(rtxContext* ctx, TransferMode value)
+int asn1PE_UMTS_TransferMode(rtxContext* RT_RESTRICT ctx, TransferMode value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TransferMode");
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TransferMode");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransferMode");
    return 0;
 }
 
-int asn1PE_UMTS_PeriodicalOrEventTrigger(rtxContext* ctx, PeriodicalOrEventTrigger value)
+int asn1PE_UMTS_PeriodicalOrEventTrigger(rtxContext* RT_RESTRICT ctx, PeriodicalOrEventTrigger value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PeriodicalOrEventTrigger");
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "PeriodicalOrEventTrigger");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PeriodicalOrEventTrigger");
    return 0;
 }
 
-int asn1PE_UMTS_MeasurementReportingMode(rtxContext* ctx, const MeasurementReportingMode* pvalue)
+int asn1PE_UMTS_MeasurementReportingMode(rtxContext* RT_RESTRICT ctx, const MeasurementReportingMode* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementReportingMode");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementReportingMode");
    /* measurementReportTransferMode */
-   rtxCtxtPushElemName(ctx, "measurementReportTransferMode");
-   rtxCtxtPushTypeName(ctx, "TransferMode");
    if (pvalue->measurementReportTransferMode > 1) {
       rtxErrAddUIntParm(ctx, pvalue->measurementReportTransferMode);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TransferMode", "measurementReportTransferMode", -1, "MeasurementReportingMode");
    }
    stat = pe_ConsUInt64(ctx, pvalue->measurementReportTransferMode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TransferMode", "measurementReportTransferMode", -1, "MeasurementReportingMode");
    /* periodicalOrEventTrigger */
-   rtxCtxtPushElemName(ctx, "periodicalOrEventTrigger");
-   rtxCtxtPushTypeName(ctx, "PeriodicalOrEventTrigger");
    if (pvalue->periodicalOrEventTrigger > 1) {
       rtxErrAddUIntParm(ctx, pvalue->periodicalOrEventTrigger);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "PeriodicalOrEventTrigger", "periodicalOrEventTrigger", -1, "MeasurementReportingMode");
    }
    stat = pe_ConsUInt64(ctx, pvalue->periodicalOrEventTrigger, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "PeriodicalOrEventTrigger", "periodicalOrEventTrigger", -1, "MeasurementReportingMode");
    return 0;
 }
 
-int asn1PE_UMTS_TriggeringCondition2(rtxContext* ctx, TriggeringCondition2 value)
+int asn1PE_UMTS_TriggeringCondition2(rtxContext* RT_RESTRICT ctx, TriggeringCondition2 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TriggeringCondition2");
    if (value > 4) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TriggeringCondition2");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TriggeringCondition2");
    return 0;
 }
 
-int asn1PE_UMTS_ReportingRange(rtxContext* ctx, ReportingRange value)
+int asn1PE_UMTS_ReportingRange(rtxContext* RT_RESTRICT ctx, ReportingRange value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ReportingRange");
    if ((uint64_t)value > 29u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "ReportingRange");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "ReportingRange");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ReportingRange");
    return 0;
 }
 
-int asn1PE_UMTS_ForbiddenAffectCell(rtxContext* ctx, const ForbiddenAffectCell* pvalue)
+int asn1PE_UMTS_ForbiddenAffectCell(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCell* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ForbiddenAffectCell");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ForbiddenAffectCell");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "ForbiddenAffectCell");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ForbiddenAffectCell");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, "ForbiddenAffectCell");
          stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "ForbiddenAffectCell");
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, "ForbiddenAffectCell");
          stat = asn1PE_UMTS_PrimaryCCPCH_Info(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "ForbiddenAffectCell");
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_ForbiddenAffectCellList(rtxContext* ctx, const ForbiddenAffectCellList* pvalue)
+int asn1PE_UMTS_ForbiddenAffectCellList(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCellList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ForbiddenAffectCellList");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "ForbiddenAffectCellList");
    RT_SET_SIZE(ctx, 1, 32);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "ForbiddenAffectCellList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "ForbiddenAffectCell", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ForbiddenAffectCell", (int32_t)i, "ForbiddenAffectCellList");
       stat = asn1PE_UMTS_ForbiddenAffectCell(ctx, (const ForbiddenAffectCell*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ForbiddenAffectCell", (int32_t)i, "ForbiddenAffectCellList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_W(rtxContext* ctx, W value)
+int asn1PE_UMTS_W(rtxContext* RT_RESTRICT ctx, W value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "W");
    if ((uint64_t)value > 20u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "W");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "W");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "W");
    return 0;
 }
 
-int asn1PE_UMTS_ReportDeactivationThreshold(rtxContext* ctx, ReportDeactivationThreshold value)
+int asn1PE_UMTS_ReportDeactivationThreshold(rtxContext* RT_RESTRICT ctx, ReportDeactivationThreshold value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ReportDeactivationThreshold");
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ReportDeactivationThreshold");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ReportDeactivationThreshold");
    return 0;
 }
 
-int asn1PE_UMTS_ReportingAmount(rtxContext* ctx, ReportingAmount value)
+int asn1PE_UMTS_ReportingAmount(rtxContext* RT_RESTRICT ctx, ReportingAmount value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ReportingAmount");
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ReportingAmount");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ReportingAmount");
    return 0;
 }
 
-int asn1PE_UMTS_ReportingInterval(rtxContext* ctx, ReportingInterval value)
+int asn1PE_UMTS_ReportingInterval(rtxContext* RT_RESTRICT ctx, ReportingInterval value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ReportingInterval");
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ReportingInterval");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ReportingInterval");
    return 0;
 }
 
-int asn1PE_UMTS_Event1a(rtxContext* ctx, const Event1a* pvalue)
+int asn1PE_UMTS_Event1a(rtxContext* RT_RESTRICT ctx, const Event1a* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Event1a");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event1a");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Event1a");
    /* triggeringCondition */
-   rtxCtxtPushElemName(ctx, "triggeringCondition");
-   rtxCtxtPushTypeName(ctx, "TriggeringCondition2");
    if (pvalue->triggeringCondition > 4) {
       rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TriggeringCondition2", "triggeringCondition", -1, "Event1a");
    }
    stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TriggeringCondition2", "triggeringCondition", -1, "Event1a");
    /* reportingRange */
-   rtxCtxtPushElemName(ctx, "reportingRange");
-   rtxCtxtPushTypeName(ctx, "ReportingRange");
    if ((uint64_t)pvalue->reportingRange > 29u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "ReportingRange");
       rtxErrAddUIntParm(ctx, pvalue->reportingRange);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "ReportingRange", "reportingRange", -1, "Event1a");
    }
    stat = pe_ConsUInt64(ctx, pvalue->reportingRange, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "ReportingRange", "reportingRange", -1, "Event1a");
    /* forbiddenAffectCellList */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "forbiddenAffectCellList");
       stat = asn1PE_UMTS_ForbiddenAffectCellList(ctx, &pvalue->forbiddenAffectCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellList", -1, "Event1a");
    }
    /* w */
-   rtxCtxtPushElemName(ctx, "w");
-   rtxCtxtPushTypeName(ctx, "W");
    if ((uint64_t)pvalue->w > 20u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "W");
       rtxErrAddUIntParm(ctx, pvalue->w);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "w", -1, "Event1a");
    }
    stat = pe_ConsUInt64(ctx, pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "W", "w", -1, "Event1a");
    /* reportDeactivationThreshold */
-   rtxCtxtPushElemName(ctx, "reportDeactivationThreshold");
-   rtxCtxtPushTypeName(ctx, "ReportDeactivationThreshold");
    if (pvalue->reportDeactivationThreshold > 7) {
       rtxErrAddUIntParm(ctx, pvalue->reportDeactivationThreshold);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportDeactivationThreshold", "reportDeactivationThreshold", -1, "Event1a");
    }
    stat = pe_ConsUInt64(ctx, pvalue->reportDeactivationThreshold, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "ReportDeactivationThreshold", "reportDeactivationThreshold", -1, "Event1a");
    /* reportingAmount */
-   rtxCtxtPushElemName(ctx, "reportingAmount");
-   rtxCtxtPushTypeName(ctx, "ReportingAmount");
    if (pvalue->reportingAmount > 7) {
       rtxErrAddUIntParm(ctx, pvalue->reportingAmount);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportingAmount", "reportingAmount", -1, "Event1a");
    }
    stat = pe_ConsUInt64(ctx, pvalue->reportingAmount, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "ReportingAmount", "reportingAmount", -1, "Event1a");
    /* reportingInterval */
-   rtxCtxtPushElemName(ctx, "reportingInterval");
-   rtxCtxtPushTypeName(ctx, "ReportingInterval");
    if (pvalue->reportingInterval > 7) {
       rtxErrAddUIntParm(ctx, pvalue->reportingInterval);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportingInterval", "reportingInterval", -1, "Event1a");
    }
    stat = pe_ConsUInt64(ctx, pvalue->reportingInterval, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "ReportingInterval", "reportingInterval", -1, "Event1a");
    return 0;
 }
 
-int asn1PE_UMTS_TriggeringCondition1(rtxContext* ctx, TriggeringCondition1 value)
+int asn1PE_UMTS_TriggeringCondition1(rtxContext* RT_RESTRICT ctx, TriggeringCondition1 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TriggeringCondition1");
    if (value > 2) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TriggeringCondition1");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TriggeringCondition1");
    return 0;
 }
 
-int asn1PE_UMTS_Event1b(rtxContext* ctx, const Event1b* pvalue)
+int asn1PE_UMTS_Event1b(rtxContext* RT_RESTRICT ctx, const Event1b* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Event1b");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event1b");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Event1b");
    /* triggeringCondition */
-   rtxCtxtPushElemName(ctx, "triggeringCondition");
-   rtxCtxtPushTypeName(ctx, "TriggeringCondition1");
    if (pvalue->triggeringCondition > 2) {
       rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TriggeringCondition1", "triggeringCondition", -1, "Event1b");
    }
    stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TriggeringCondition1", "triggeringCondition", -1, "Event1b");
    /* reportingRange */
-   rtxCtxtPushElemName(ctx, "reportingRange");
-   rtxCtxtPushTypeName(ctx, "ReportingRange");
    if ((uint64_t)pvalue->reportingRange > 29u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "ReportingRange");
       rtxErrAddUIntParm(ctx, pvalue->reportingRange);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "ReportingRange", "reportingRange", -1, "Event1b");
    }
    stat = pe_ConsUInt64(ctx, pvalue->reportingRange, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "ReportingRange", "reportingRange", -1, "Event1b");
    /* forbiddenAffectCellList */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "forbiddenAffectCellList");
       stat = asn1PE_UMTS_ForbiddenAffectCellList(ctx, &pvalue->forbiddenAffectCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellList", -1, "Event1b");
    }
    /* w */
-   rtxCtxtPushElemName(ctx, "w");
-   rtxCtxtPushTypeName(ctx, "W");
    if ((uint64_t)pvalue->w > 20u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "W");
       rtxErrAddUIntParm(ctx, pvalue->w);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "w", -1, "Event1b");
    }
    stat = pe_ConsUInt64(ctx, pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "W", "w", -1, "Event1b");
    return 0;
 }
 
-int asn1PE_UMTS_ReplacementActivationThreshold(rtxContext* ctx, ReplacementActivationThreshold value)
+int asn1PE_UMTS_ReplacementActivationThreshold(rtxContext* RT_RESTRICT ctx, ReplacementActivationThreshold value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ReplacementActivationThreshold");
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ReplacementActivationThreshold");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ReplacementActivationThreshold");
    return 0;
 }
 
-int asn1PE_UMTS_Event1c(rtxContext* ctx, const Event1c* pvalue)
+int asn1PE_UMTS_Event1c(rtxContext* RT_RESTRICT ctx, const Event1c* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Event1c");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event1c");
    /* replacementActivationThreshold */
-   rtxCtxtPushElemName(ctx, "replacementActivationThreshold");
-   rtxCtxtPushTypeName(ctx, "ReplacementActivationThreshold");
    if (pvalue->replacementActivationThreshold > 7) {
       rtxErrAddUIntParm(ctx, pvalue->replacementActivationThreshold);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ReplacementActivationThreshold", "replacementActivationThreshold", -1, "Event1c");
    }
    stat = pe_ConsUInt64(ctx, pvalue->replacementActivationThreshold, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "ReplacementActivationThreshold", "replacementActivationThreshold", -1, "Event1c");
    /* reportingAmount */
-   rtxCtxtPushElemName(ctx, "reportingAmount");
-   rtxCtxtPushTypeName(ctx, "ReportingAmount");
    if (pvalue->reportingAmount > 7) {
       rtxErrAddUIntParm(ctx, pvalue->reportingAmount);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportingAmount", "reportingAmount", -1, "Event1c");
    }
    stat = pe_ConsUInt64(ctx, pvalue->reportingAmount, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "ReportingAmount", "reportingAmount", -1, "Event1c");
    /* reportingInterval */
-   rtxCtxtPushElemName(ctx, "reportingInterval");
-   rtxCtxtPushTypeName(ctx, "ReportingInterval");
    if (pvalue->reportingInterval > 7) {
       rtxErrAddUIntParm(ctx, pvalue->reportingInterval);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportingInterval", "reportingInterval", -1, "Event1c");
    }
    stat = pe_ConsUInt64(ctx, pvalue->reportingInterval, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "ReportingInterval", "reportingInterval", -1, "Event1c");
    return 0;
 }
 
-int asn1PE_UMTS_ThresholdUsedFrequency(rtxContext* ctx, ThresholdUsedFrequency value)
+int asn1PE_UMTS_ThresholdUsedFrequency(rtxContext* RT_RESTRICT ctx, ThresholdUsedFrequency value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ThresholdUsedFrequency");
    if (value < -115 || value > 165) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "ThresholdUsedFrequency");
       rtxErrAddIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "ThresholdUsedFrequency");
    }
    stat = pe_ConsInt64(ctx, value, -115, 165);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ThresholdUsedFrequency");
    return 0;
 }
 
-int asn1PE_UMTS_Event1e(rtxContext* ctx, const Event1e* pvalue)
+int asn1PE_UMTS_Event1e(rtxContext* RT_RESTRICT ctx, const Event1e* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Event1e");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event1e");
    /* triggeringCondition */
-   rtxCtxtPushElemName(ctx, "triggeringCondition");
-   rtxCtxtPushTypeName(ctx, "TriggeringCondition2");
    if (pvalue->triggeringCondition > 4) {
       rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TriggeringCondition2", "triggeringCondition", -1, "Event1e");
    }
    stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TriggeringCondition2", "triggeringCondition", -1, "Event1e");
    /* thresholdUsedFrequency */
-   rtxCtxtPushElemName(ctx, "thresholdUsedFrequency");
-   rtxCtxtPushTypeName(ctx, "ThresholdUsedFrequency");
    if (pvalue->thresholdUsedFrequency < -115 || pvalue->thresholdUsedFrequency > 165) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "ThresholdUsedFrequency");
       rtxErrAddIntParm(ctx, pvalue->thresholdUsedFrequency);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "ThresholdUsedFrequency", "thresholdUsedFrequency", -1, "Event1e");
    }
    stat = pe_ConsInt64(ctx, pvalue->thresholdUsedFrequency, -115, 165);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "ThresholdUsedFrequency", "thresholdUsedFrequency", -1, "Event1e");
    return 0;
 }
 
-int asn1PE_UMTS_Event1f(rtxContext* ctx, const Event1f* pvalue)
+int asn1PE_UMTS_Event1f(rtxContext* RT_RESTRICT ctx, const Event1f* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Event1f");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event1f");
    /* triggeringCondition */
-   rtxCtxtPushElemName(ctx, "triggeringCondition");
-   rtxCtxtPushTypeName(ctx, "TriggeringCondition1");
    if (pvalue->triggeringCondition > 2) {
       rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TriggeringCondition1", "triggeringCondition", -1, "Event1f");
    }
    stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TriggeringCondition1", "triggeringCondition", -1, "Event1f");
    /* thresholdUsedFrequency */
-   rtxCtxtPushElemName(ctx, "thresholdUsedFrequency");
-   rtxCtxtPushTypeName(ctx, "ThresholdUsedFrequency");
    if (pvalue->thresholdUsedFrequency < -115 || pvalue->thresholdUsedFrequency > 165) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "ThresholdUsedFrequency");
       rtxErrAddIntParm(ctx, pvalue->thresholdUsedFrequency);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "ThresholdUsedFrequency", "thresholdUsedFrequency", -1, "Event1f");
    }
    stat = pe_ConsInt64(ctx, pvalue->thresholdUsedFrequency, -115, 165);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "ThresholdUsedFrequency", "thresholdUsedFrequency", -1, "Event1f");
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqEvent(rtxContext* ctx, const IntraFreqEvent* pvalue)
+int asn1PE_UMTS_IntraFreqEvent(rtxContext* RT_RESTRICT ctx, const IntraFreqEvent* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqEvent");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEvent");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 8) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "IntraFreqEvent");
+   if (pvalue->t - 1 > 8) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqEvent");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "e1a");
-         if (pvalue->u.e1a == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.e1a == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1a", -1, "IntraFreqEvent");
          stat = asn1PE_UMTS_Event1a(ctx, pvalue->u.e1a);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "e1a", -1, "IntraFreqEvent");
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "e1b");
-         if (pvalue->u.e1b == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.e1b == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1b", -1, "IntraFreqEvent");
          stat = asn1PE_UMTS_Event1b(ctx, pvalue->u.e1b);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "e1b", -1, "IntraFreqEvent");
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "e1c");
-         if (pvalue->u.e1c == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.e1c == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1c", -1, "IntraFreqEvent");
          stat = asn1PE_UMTS_Event1c(ctx, pvalue->u.e1c);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "e1c", -1, "IntraFreqEvent");
          break;
       case 4:
-         rtxCtxtPushElemName(ctx, "e1d");
-         rtxCtxtPopElemName(ctx);
          break;
       case 5:
-         rtxCtxtPushElemName(ctx, "e1e");
-         if (pvalue->u.e1e == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.e1e == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1e", -1, "IntraFreqEvent");
          stat = asn1PE_UMTS_Event1e(ctx, pvalue->u.e1e);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "e1e", -1, "IntraFreqEvent");
          break;
       case 6:
-         rtxCtxtPushElemName(ctx, "e1f");
-         if (pvalue->u.e1f == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.e1f == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1f", -1, "IntraFreqEvent");
          stat = asn1PE_UMTS_Event1f(ctx, pvalue->u.e1f);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "e1f", -1, "IntraFreqEvent");
          break;
       case 7:
-         rtxCtxtPushElemName(ctx, "e1g");
-         rtxCtxtPopElemName(ctx);
          break;
       case 8:
-         rtxCtxtPushElemName(ctx, "e1h");
-         rtxCtxtPushTypeName(ctx, "ThresholdUsedFrequency");
          if (pvalue->u.e1h < -115 || pvalue->u.e1h > 165) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "ThresholdUsedFrequency");
             rtxErrAddIntParm(ctx, pvalue->u.e1h);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "ThresholdUsedFrequency", "e1h", -1, "IntraFreqEvent");
          }
          stat = pe_ConsInt64(ctx, pvalue->u.e1h, -115, 165);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "ThresholdUsedFrequency", "e1h", -1, "IntraFreqEvent");
          break;
       case 9:
-         rtxCtxtPushElemName(ctx, "e1i");
-         rtxCtxtPushTypeName(ctx, "ThresholdUsedFrequency");
          if (pvalue->u.e1i < -115 || pvalue->u.e1i > 165) {
-            rtxErrAddElemNameParm(ctx);
+            rtxErrAddStrParm(ctx, "ThresholdUsedFrequency");
             rtxErrAddIntParm(ctx, pvalue->u.e1i);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "ThresholdUsedFrequency", "e1i", -1, "IntraFreqEvent");
          }
          stat = pe_ConsInt64(ctx, pvalue->u.e1i, -115, 165);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "ThresholdUsedFrequency", "e1i", -1, "IntraFreqEvent");
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_Hysteresis(rtxContext* ctx, Hysteresis value)
+int asn1PE_UMTS_Hysteresis(rtxContext* RT_RESTRICT ctx, Hysteresis value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Hysteresis");
    if ((uint64_t)value > 15u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "Hysteresis");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "Hysteresis");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Hysteresis");
    return 0;
 }
 
-int asn1PE_UMTS_TimeToTrigger(rtxContext* ctx, TimeToTrigger value)
+int asn1PE_UMTS_TimeToTrigger(rtxContext* RT_RESTRICT ctx, TimeToTrigger value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
    if (value > 15) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TimeToTrigger");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimeToTrigger");
    return 0;
 }
 
-int asn1PE_UMTS_MaxNumberOfReportingCellsType1(rtxContext* ctx, MaxNumberOfReportingCellsType1 value)
+int asn1PE_UMTS_MaxNumberOfReportingCellsType1(rtxContext* RT_RESTRICT ctx, MaxNumberOfReportingCellsType1 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaxNumberOfReportingCellsType1");
    if (value > 5) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxNumberOfReportingCellsType1");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxNumberOfReportingCellsType1");
    return 0;
 }
 
-int asn1PE_UMTS_MaxNumberOfReportingCellsType3(rtxContext* ctx, MaxNumberOfReportingCellsType3 value)
+int asn1PE_UMTS_MaxNumberOfReportingCellsType3(rtxContext* RT_RESTRICT ctx, MaxNumberOfReportingCellsType3 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaxNumberOfReportingCellsType3");
    if (value > 5) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxNumberOfReportingCellsType3");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxNumberOfReportingCellsType3");
    return 0;
 }
 
-int asn1PE_UMTS_MaxNumberOfReportingCellsType2(rtxContext* ctx, MaxNumberOfReportingCellsType2 value)
+int asn1PE_UMTS_MaxNumberOfReportingCellsType2(rtxContext* RT_RESTRICT ctx, MaxNumberOfReportingCellsType2 value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaxNumberOfReportingCellsType2");
    if (value > 11) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxNumberOfReportingCellsType2");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxNumberOfReportingCellsType2");
    return 0;
 }
 
-int asn1PE_UMTS_ReportingCellStatus(rtxContext* ctx, const ReportingCellStatus* pvalue)
+int asn1PE_UMTS_ReportingCellStatus(rtxContext* RT_RESTRICT ctx, const ReportingCellStatus* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ReportingCellStatus");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ReportingCellStatus");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 13);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 13) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "ReportingCellStatus");
+   if (pvalue->t - 1 > 13) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ReportingCellStatus");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "withinActiveSet");
-         rtxCtxtPushTypeName(ctx, "MaxNumberOfReportingCellsType1");
          if (pvalue->u.withinActiveSet > 5) {
             rtxErrAddUIntParm(ctx, pvalue->u.withinActiveSet);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType1", "withinActiveSet", -1, "ReportingCellStatus");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.withinActiveSet, 0, 5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType1", "withinActiveSet", -1, "ReportingCellStatus");
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "withinMonitoredSetUsedFreq");
-         rtxCtxtPushTypeName(ctx, "MaxNumberOfReportingCellsType1");
          if (pvalue->u.withinMonitoredSetUsedFreq > 5) {
             rtxErrAddUIntParm(ctx, pvalue->u.withinMonitoredSetUsedFreq);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType1", "withinMonitoredSetUsedFreq", -1, "ReportingCellStatus");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.withinMonitoredSetUsedFreq, 0, 5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType1", "withinMonitoredSetUsedFreq", -1, "ReportingCellStatus");
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "withinActiveAndOrMonitoredUsedFreq");
-         rtxCtxtPushTypeName(ctx, "MaxNumberOfReportingCellsType1");
          if (pvalue->u.withinActiveAndOrMonitoredUsedFreq > 5) {
             rtxErrAddUIntParm(ctx, pvalue->u.withinActiveAndOrMonitoredUsedFreq);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType1", "withinActiveAndOrMonitoredUsedFreq", -1, "ReportingCellStatus");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.withinActiveAndOrMonitoredUsedFreq, 0, 5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType1", "withinActiveAndOrMonitoredUsedFreq", -1, "ReportingCellStatus");
          break;
       case 4:
-         rtxCtxtPushElemName(ctx, "withinDetectedSetUsedFreq");
-         rtxCtxtPushTypeName(ctx, "MaxNumberOfReportingCellsType1");
          if (pvalue->u.withinDetectedSetUsedFreq > 5) {
             rtxErrAddUIntParm(ctx, pvalue->u.withinDetectedSetUsedFreq);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType1", "withinDetectedSetUsedFreq", -1, "ReportingCellStatus");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.withinDetectedSetUsedFreq, 0, 5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType1", "withinDetectedSetUsedFreq", -1, "ReportingCellStatus");
          break;
       case 5:
-         rtxCtxtPushElemName(ctx, "withinMonitoredAndOrDetectedUsedFreq");
-         rtxCtxtPushTypeName(ctx, "MaxNumberOfReportingCellsType1");
          if (pvalue->u.withinMonitoredAndOrDetectedUsedFreq > 5) {
             rtxErrAddUIntParm(ctx, pvalue->u.withinMonitoredAndOrDetectedUsedFreq);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType1", "withinMonitoredAndOrDetectedUsedFreq", -1, "ReportingCellStatus");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.withinMonitoredAndOrDetectedUsedFreq, 0, 5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType1", "withinMonitoredAndOrDetectedUsedFreq", -1, "ReportingCellStatus");
          break;
       case 6:
-         rtxCtxtPushElemName(ctx, "allActiveplusMonitoredSet");
-         rtxCtxtPushTypeName(ctx, "MaxNumberOfReportingCellsType3");
          if (pvalue->u.allActiveplusMonitoredSet > 5) {
             rtxErrAddUIntParm(ctx, pvalue->u.allActiveplusMonitoredSet);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType3", "allActiveplusMonitoredSet", -1, "ReportingCellStatus");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.allActiveplusMonitoredSet, 0, 5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType3", "allActiveplusMonitoredSet", -1, "ReportingCellStatus");
          break;
       case 7:
-         rtxCtxtPushElemName(ctx, "allActivePlusDetectedSet");
-         rtxCtxtPushTypeName(ctx, "MaxNumberOfReportingCellsType3");
          if (pvalue->u.allActivePlusDetectedSet > 5) {
             rtxErrAddUIntParm(ctx, pvalue->u.allActivePlusDetectedSet);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType3", "allActivePlusDetectedSet", -1, "ReportingCellStatus");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.allActivePlusDetectedSet, 0, 5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType3", "allActivePlusDetectedSet", -1, "ReportingCellStatus");
          break;
       case 8:
-         rtxCtxtPushElemName(ctx, "allActivePlusMonitoredAndOrDetectedSet");
-         rtxCtxtPushTypeName(ctx, "MaxNumberOfReportingCellsType3");
          if (pvalue->u.allActivePlusMonitoredAndOrDetectedSet > 5) {
             rtxErrAddUIntParm(ctx, pvalue->u.allActivePlusMonitoredAndOrDetectedSet);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType3", "allActivePlusMonitoredAndOrDetectedSet", -1, "ReportingCellStatus");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.allActivePlusMonitoredAndOrDetectedSet, 0, 5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType3", "allActivePlusMonitoredAndOrDetectedSet", -1, "ReportingCellStatus");
          break;
       case 9:
-         rtxCtxtPushElemName(ctx, "withinVirtualActSet");
-         rtxCtxtPushTypeName(ctx, "MaxNumberOfReportingCellsType1");
          if (pvalue->u.withinVirtualActSet > 5) {
             rtxErrAddUIntParm(ctx, pvalue->u.withinVirtualActSet);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType1", "withinVirtualActSet", -1, "ReportingCellStatus");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.withinVirtualActSet, 0, 5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType1", "withinVirtualActSet", -1, "ReportingCellStatus");
          break;
       case 10:
-         rtxCtxtPushElemName(ctx, "withinMonitoredSetNonUsedFreq");
-         rtxCtxtPushTypeName(ctx, "MaxNumberOfReportingCellsType1");
          if (pvalue->u.withinMonitoredSetNonUsedFreq > 5) {
             rtxErrAddUIntParm(ctx, pvalue->u.withinMonitoredSetNonUsedFreq);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType1", "withinMonitoredSetNonUsedFreq", -1, "ReportingCellStatus");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.withinMonitoredSetNonUsedFreq, 0, 5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType1", "withinMonitoredSetNonUsedFreq", -1, "ReportingCellStatus");
          break;
       case 11:
-         rtxCtxtPushElemName(ctx, "withinMonitoredAndOrVirtualActiveSetNonUsedFreq");
-         rtxCtxtPushTypeName(ctx, "MaxNumberOfReportingCellsType1");
          if (pvalue->u.withinMonitoredAndOrVirtualActiveSetNonUsedFreq > 5) {
             rtxErrAddUIntParm(ctx, pvalue->u.withinMonitoredAndOrVirtualActiveSetNonUsedFreq);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType1", "withinMonitoredAndOrVirtualActiveSetNonUsedFreq", -1, "ReportingCellStatus");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.withinMonitoredAndOrVirtualActiveSetNonUsedFreq, 0, 5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType1", "withinMonitoredAndOrVirtualActiveSetNonUsedFreq", -1, "ReportingCellStatus");
          break;
       case 12:
-         rtxCtxtPushElemName(ctx, "allVirtualActSetplusMonitoredSetNonUsedFreq");
-         rtxCtxtPushTypeName(ctx, "MaxNumberOfReportingCellsType3");
          if (pvalue->u.allVirtualActSetplusMonitoredSetNonUsedFreq > 5) {
             rtxErrAddUIntParm(ctx, pvalue->u.allVirtualActSetplusMonitoredSetNonUsedFreq);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType3", "allVirtualActSetplusMonitoredSetNonUsedFreq", -1, "ReportingCellStatus");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.allVirtualActSetplusMonitoredSetNonUsedFreq, 0, 5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType3", "allVirtualActSetplusMonitoredSetNonUsedFreq", -1, "ReportingCellStatus");
          break;
       case 13:
-         rtxCtxtPushElemName(ctx, "withinActSetOrVirtualActSet-InterRATcells");
-         rtxCtxtPushTypeName(ctx, "MaxNumberOfReportingCellsType2");
          if (pvalue->u.withinActSetOrVirtualActSet_InterRATcells > 11) {
             rtxErrAddUIntParm(ctx, pvalue->u.withinActSetOrVirtualActSet_InterRATcells);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType2", "withinActSetOrVirtualActSet-InterRATcells", -1, "ReportingCellStatus");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.withinActSetOrVirtualActSet_InterRATcells, 0, 11);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType2", "withinActSetOrVirtualActSet-InterRATcells", -1, "ReportingCellStatus");
          break;
       case 14:
-         rtxCtxtPushElemName(ctx, "withinActSetAndOrMonitoredUsedFreqOrVirtualActSetAndOrMonitoredNonUsedFreq");
-         rtxCtxtPushTypeName(ctx, "MaxNumberOfReportingCellsType2");
          if (pvalue->u.withinActSetAndOrMonitoredUsedFreqOrVirtualActSetAndOrMonitoredNonUsedFreq > 11) {
             rtxErrAddUIntParm(ctx, pvalue->u.withinActSetAndOrMonitoredUsedFreqOrVirtualActSetAndOrMonitoredNonUsedFreq);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType2", "withinActSetAndOrMonitoredUsedFreqOrVirtualActSetAndOrMonitoredNonUsedFreq", -1, "ReportingCellStatus");
          }
          stat = pe_ConsUInt64(ctx, pvalue->u.withinActSetAndOrMonitoredUsedFreqOrVirtualActSetAndOrMonitoredNonUsedFreq, 0, 11);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType2", "withinActSetAndOrMonitoredUsedFreqOrVirtualActSetAndOrMonitoredNonUsedFreq", -1, "ReportingCellStatus");
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqEventCriteria(rtxContext* ctx, const IntraFreqEventCriteria* pvalue)
+int asn1PE_UMTS_IntraFreqEventCriteria(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteria* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqEventCriteria");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventCriteria");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEventCriteria");
    /* event */
-   rtxCtxtPushElemName(ctx, "event");
    stat = asn1PE_UMTS_IntraFreqEvent(ctx, &pvalue->event);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "event", -1, "IntraFreqEventCriteria");
    /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "Hysteresis");
    if ((uint64_t)pvalue->hysteresis > 15u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "Hysteresis");
       rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria");
    }
    stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria");
    /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
    if (pvalue->timeToTrigger > 15) {
       rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria");
    }
    stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria");
    /* reportingCellStatus */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
       stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "IntraFreqEventCriteria");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqEventCriteriaList(rtxContext* ctx, const IntraFreqEventCriteriaList* pvalue)
+int asn1PE_UMTS_IntraFreqEventCriteriaList(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventCriteriaList");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "IntraFreqEventCriteriaList");
    RT_SET_SIZE(ctx, 1, 8);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "IntraFreqEventCriteriaList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "IntraFreqEventCriteria", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "IntraFreqEventCriteria", (int32_t)i, "IntraFreqEventCriteriaList");
       stat = asn1PE_UMTS_IntraFreqEventCriteria(ctx, (const IntraFreqEventCriteria*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "IntraFreqEventCriteria", (int32_t)i, "IntraFreqEventCriteriaList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqReportingCriteria(rtxContext* ctx, const IntraFreqReportingCriteria* pvalue)
+int asn1PE_UMTS_IntraFreqReportingCriteria(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingCriteria* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqReportingCriteria");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqReportingCriteria");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqReportingCriteria");
    /* eventCriteriaList */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "eventCriteriaList");
       stat = asn1PE_UMTS_IntraFreqEventCriteriaList(ctx, &pvalue->eventCriteriaList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "eventCriteriaList", -1, "IntraFreqReportingCriteria");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_ReportingIntervalLong(rtxContext* ctx, ReportingIntervalLong value)
+int asn1PE_UMTS_ReportingIntervalLong(rtxContext* RT_RESTRICT ctx, ReportingIntervalLong value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ReportingIntervalLong");
    if (value > 15) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ReportingIntervalLong");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ReportingIntervalLong");
    return 0;
 }
 
-int asn1PE_UMTS_PeriodicalReportingCriteria(rtxContext* ctx, const PeriodicalReportingCriteria* pvalue)
+int asn1PE_UMTS_PeriodicalReportingCriteria(rtxContext* RT_RESTRICT ctx, const PeriodicalReportingCriteria* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PeriodicalReportingCriteria");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PeriodicalReportingCriteria");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->reportingAmount != 7) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PeriodicalReportingCriteria");
    /* reportingAmount */
    if (pvalue->reportingAmount != 7) {
-      rtxCtxtPushElemName(ctx, "reportingAmount");
-      rtxCtxtPushTypeName(ctx, "ReportingAmount");
       if (pvalue->reportingAmount > 7) {
          rtxErrAddUIntParm(ctx, pvalue->reportingAmount);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "ReportingAmount", "reportingAmount", -1, "PeriodicalReportingCriteria");
       }
       stat = pe_ConsUInt64(ctx, pvalue->reportingAmount, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "ReportingAmount", "reportingAmount", -1, "PeriodicalReportingCriteria");
    }
    /* reportingInterval */
-   rtxCtxtPushElemName(ctx, "reportingInterval");
-   rtxCtxtPushTypeName(ctx, "ReportingIntervalLong");
    if (pvalue->reportingInterval > 15) {
       rtxErrAddUIntParm(ctx, pvalue->reportingInterval);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportingIntervalLong", "reportingInterval", -1, "PeriodicalReportingCriteria");
    }
    stat = pe_ConsUInt64(ctx, pvalue->reportingInterval, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "ReportingIntervalLong", "reportingInterval", -1, "PeriodicalReportingCriteria");
    return 0;
 }
 
-int asn1PE_UMTS_CellDCH_ReportCriteria(rtxContext* ctx, const CellDCH_ReportCriteria* pvalue)
+int asn1PE_UMTS_CellDCH_ReportCriteria(rtxContext* RT_RESTRICT ctx, const CellDCH_ReportCriteria* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellDCH-ReportCriteria");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellDCH-ReportCriteria");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "CellDCH-ReportCriteria");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CellDCH-ReportCriteria");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "intraFreqReportingCriteria");
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFreqReportingCriteria", -1, "CellDCH-ReportCriteria");
          stat = asn1PE_UMTS_IntraFreqReportingCriteria(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "CellDCH-ReportCriteria");
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "CellDCH-ReportCriteria");
          stat = asn1PE_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "CellDCH-ReportCriteria");
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_ReportingInfoForCellDCH(rtxContext* ctx, const ReportingInfoForCellDCH* pvalue)
+int asn1PE_UMTS_ReportingInfoForCellDCH(rtxContext* RT_RESTRICT ctx, const ReportingInfoForCellDCH* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ReportingInfoForCellDCH");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ReportingInfoForCellDCH");
    /* intraFreqReportingQuantity */
-   rtxCtxtPushElemName(ctx, "intraFreqReportingQuantity");
    stat = asn1PE_UMTS_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantity", -1, "ReportingInfoForCellDCH");
    /* measurementReportingMode */
-   rtxCtxtPushElemName(ctx, "measurementReportingMode");
    stat = asn1PE_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "ReportingInfoForCellDCH");
    /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
    stat = asn1PE_UMTS_CellDCH_ReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "ReportingInfoForCellDCH");
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqMeasurementSysInfo_RSCP(rtxContext* ctx, const IntraFreqMeasurementSysInfo_RSCP* pvalue)
+int asn1PE_UMTS_IntraFreqMeasurementSysInfo_RSCP(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_RSCP* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqMeasurementSysInfo-RSCP");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqMeasurementSysInfo-RSCP");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->intraFreqMeasurementID != 1) << 5) |
       ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
@@ -8823,202 +2861,6152 @@ int asn1PE_UMTS_IntraFreqMeasurementSysInfo_RSCP(rtxContext* ctx, const IntraFre
       ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-RSCP");
    /* intraFreqMeasurementID */
    if (pvalue->intraFreqMeasurementID != 1) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasurementID");
-      rtxCtxtPushTypeName(ctx, "MeasurementIdentity");
       if ((uint64_t)(pvalue->intraFreqMeasurementID - 1) > 15u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "MeasurementIdentity");
          rtxErrAddUIntParm(ctx, pvalue->intraFreqMeasurementID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-RSCP");
       }
       stat = pe_ConsUInt64(ctx, pvalue->intraFreqMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-RSCP");
    }
    /* intraFreqCellInfoSI-List */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellInfoSI-List");
       stat = asn1PE_UMTS_IntraFreqCellInfoSI_List_RSCP(ctx, &pvalue->intraFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-RSCP");
    }
    /* intraFreqMeasQuantity */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasQuantity");
       stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-RSCP");
    }
    /* intraFreqReportingQuantityForRACH */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "intraFreqReportingQuantityForRACH");
       stat = asn1PE_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-RSCP");
    }
    /* maxReportedCellsOnRACH */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "maxReportedCellsOnRACH");
-      rtxCtxtPushTypeName(ctx, "MaxReportedCellsOnRACH");
       if (pvalue->maxReportedCellsOnRACH > 7) {
          rtxErrAddUIntParm(ctx, pvalue->maxReportedCellsOnRACH);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-RSCP");
       }
       stat = pe_ConsUInt64(ctx, pvalue->maxReportedCellsOnRACH, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-RSCP");
    }
    /* reportingInfoForCellDCH */
    if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "reportingInfoForCellDCH");
       stat = asn1PE_UMTS_ReportingInfoForCellDCH(ctx, &pvalue->reportingInfoForCellDCH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-RSCP");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_InterFreqCellID(rtxContext* ctx, InterFreqCellID value)
+int asn1PE_UMTS_InterFreqCellID(rtxContext* RT_RESTRICT ctx, InterFreqCellID value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "InterFreqCellID");
    if ((uint64_t)value > 31u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "InterFreqCellID");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "InterFreqCellID");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellID");
    return 0;
 }
 
-int asn1PE_UMTS_RemovedInterFreqCellList_removeSomeInterFreqCells(rtxContext* ctx, const RemovedInterFreqCellList_removeSomeInterFreqCells* pvalue)
+int asn1PE_UMTS_RemovedInterFreqCellList_removeSomeInterFreqCells(rtxContext* RT_RESTRICT ctx, const RemovedInterFreqCellList_removeSomeInterFreqCells* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 32);
    stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "InterFreqCellID", i);
-      rtxCtxtPushTypeName(ctx, "InterFreqCellID");
       if ((uint64_t)pvalue->elem[i] > 31u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "InterFreqCellID");
          rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterFreqCellID", "InterFreqCellID", (int32_t)i, 0);
       }
       stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, "InterFreqCellID", "InterFreqCellID", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_RemovedInterFreqCellList(rtxContext* ctx, const RemovedInterFreqCellList* pvalue)
+int asn1PE_UMTS_RemovedInterFreqCellList(rtxContext* RT_RESTRICT ctx, const RemovedInterFreqCellList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RemovedInterFreqCellList");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RemovedInterFreqCellList");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "RemovedInterFreqCellList");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RemovedInterFreqCellList");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "removeAllInterFreqCells");
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "removeSomeInterFreqCells");
-         if (pvalue->u.removeSomeInterFreqCells == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.removeSomeInterFreqCells == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "removeSomeInterFreqCells", -1, "RemovedInterFreqCellList");
          stat = asn1PE_UMTS_RemovedInterFreqCellList_removeSomeInterFreqCells(ctx, pvalue->u.removeSomeInterFreqCells);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "removeSomeInterFreqCells", -1, "RemovedInterFreqCellList");
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "removeNoInterFreqCells");
-         rtxCtxtPopElemName(ctx);
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_FrequencyInfoFDD(rtxContext* ctx, const FrequencyInfoFDD* pvalue)
+int asn1PE_UMTS_FrequencyInfoFDD(rtxContext* RT_RESTRICT ctx, const FrequencyInfoFDD* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "FrequencyInfoFDD");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "FrequencyInfoFDD");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "FrequencyInfoFDD");
    /* uarfcn-UL */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "uarfcn-UL");
-      rtxCtxtPushTypeName(ctx, "UARFCN");
       if ((uint64_t)pvalue->uarfcn_UL > 16383u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "UARFCN");
          rtxErrAddUIntParm(ctx, pvalue->uarfcn_UL);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UARFCN", "uarfcn-UL", -1, "FrequencyInfoFDD");
       }
       stat = pe_ConsUInt64(ctx, pvalue->uarfcn_UL, 0, 16383);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "UARFCN", "uarfcn-UL", -1, "FrequencyInfoFDD");
    }
    /* uarfcn-DL */
-   rtxCtxtPushElemName(ctx, "uarfcn-DL");
-   rtxCtxtPushTypeName(ctx, "UARFCN");
    if ((uint64_t)pvalue->uarfcn_DL > 16383u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "UARFCN");
       rtxErrAddUIntParm(ctx, pvalue->uarfcn_DL);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "UARFCN", "uarfcn-DL", -1, "FrequencyInfoFDD");
    }
    stat = pe_ConsUInt64(ctx, pvalue->uarfcn_DL, 0, 16383);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "UARFCN", "uarfcn-DL", -1, "FrequencyInfoFDD");
    return 0;
 }
 
-int asn1PE_UMTS_FrequencyInfo_modeSpecificInfo(rtxContext* ctx, const FrequencyInfo_modeSpecificInfo* pvalue)
+int asn1PE_UMTS_FrequencyInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const FrequencyInfo_modeSpecificInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
          stat = asn1PE_UMTS_FrequencyInfoFDD(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
          stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
          break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_FrequencyInfo(rtxContext* RT_RESTRICT ctx, const FrequencyInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "FrequencyInfo");
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_FrequencyInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "FrequencyInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellSI_RSCP(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_RSCP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-RSCP");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-RSCP");
+   /* interFreqCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->interFreqCellID > 31u) {
+         rtxErrAddStrParm(ctx, "InterFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-RSCP");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->interFreqCellID, 0, 31);
+      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-RSCP");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-RSCP");
+   }
+   /* cellInfo */
+   stat = asn1PE_UMTS_CellInfoSI_RSCP(ctx, &pvalue->cellInfo);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-RSCP");
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellSI_List_RSCP(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_List_RSCP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-List-RSCP");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-List-RSCP");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewInterFreqCellSI-RSCP", (int32_t)i, "NewInterFreqCellSI-List-RSCP");
+      stat = asn1PE_UMTS_NewInterFreqCellSI_RSCP(ctx, (const NewInterFreqCellSI_RSCP*)node->data);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-RSCP", (int32_t)i, "NewInterFreqCellSI-List-RSCP");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqCellInfoSI_List_RSCP(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoSI_List_RSCP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellInfoSI-List-RSCP");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoSI-List-RSCP");
+   /* removedInterFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-RSCP");
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_NewInterFreqCellSI_List_RSCP(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-RSCP");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqMeasurementSysInfo_RSCP(rtxContext* RT_RESTRICT ctx, const InterFreqMeasurementSysInfo_RSCP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasurementSysInfo-RSCP");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-RSCP");
+   /* interFreqCellInfoSI-List */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterFreqCellInfoSI_List_RSCP(ctx, &pvalue->interFreqCellInfoSI_List);
+      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-RSCP");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* intraFreqMeasurementSysInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntraFreqMeasurementSysInfo_RSCP(ctx, &pvalue->intraFreqMeasurementSysInfo);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
+   }
+   /* interFreqMeasurementSysInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_InterFreqMeasurementSysInfo_RSCP(ctx, &pvalue->interFreqMeasurementSysInfo);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellInfoSI_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   }
+   /* primaryCPICH-TX-Power */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->primaryCPICH_TX_Power < -10 || pvalue->primaryCPICH_TX_Power > 50) {
+         rtxErrAddStrParm(ctx, "PrimaryCPICH-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->primaryCPICH_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->primaryCPICH_TX_Power, -10, 50);
+      RT_CHECK(ctx, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
+   }
+   /* readSFN-Indicator */
+   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
+   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
+   /* tx-DiversityIndicator */
+   stat = rtxEncBit(ctx, pvalue->tx_DiversityIndicator);
+   RT_CHECK(ctx, stat, 0, "tx-DiversityIndicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellInfoSI_ECN0_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_ECN0_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* primaryCCPCH-Info */
+   stat = asn1PE_UMTS_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+         rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
+      RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   }
+   /* timeslotInfoList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_TimeslotInfoList(ctx, &pvalue->timeslotInfoList);
+      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, 0);
+   }
+   /* readSFN-Indicator */
+   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
+   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellInfoSI_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellInfoSI_ECN0_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_CellInfoSI_ECN0_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_CellInfoSI_ECN0_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* q-QualMin */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->q_QualMin < -24 || pvalue->q_QualMin > 0) {
+         rtxErrAddStrParm(ctx, "Q-QualMin");
+         rtxErrAddIntParm(ctx, pvalue->q_QualMin);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-QualMin", "q-QualMin", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->q_QualMin, -24, 0);
+      RT_CHECK(ctx, stat, "Q-QualMin", "q-QualMin", -1, 0);
+   }
+   /* q-RxlevMin */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
+         rtxErrAddStrParm(ctx, "Q-RxlevMin");
+         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* q-RxlevMin */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
+         rtxErrAddStrParm(ctx, "Q-RxlevMin");
+         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* q-RxlevMin */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
+         rtxErrAddStrParm(ctx, "Q-RxlevMin");
+         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm", -1, 0);
+         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm(ctx, pvalue->u.gsm);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_ECN0(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_ECN0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellSelectReselectInfoSIB-11-12-ECN0");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->q_Offset1S_N != 0) << 2) |
+      ((uint64_t)(pvalue->q_Offset2S_N != 0) << 1) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellSelectReselectInfoSIB-11-12-ECN0");
+   /* q-Offset1S-N */
+   if (pvalue->q_Offset1S_N != 0) {
+      if (pvalue->q_Offset1S_N < -50 || pvalue->q_Offset1S_N > 50) {
+         rtxErrAddStrParm(ctx, "Q-OffsetS-N");
+         rtxErrAddIntParm(ctx, pvalue->q_Offset1S_N);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-OffsetS-N", "q-Offset1S-N", -1, "CellSelectReselectInfoSIB-11-12-ECN0");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->q_Offset1S_N, -50, 50);
+      RT_CHECK(ctx, stat, "Q-OffsetS-N", "q-Offset1S-N", -1, "CellSelectReselectInfoSIB-11-12-ECN0");
+   }
+   /* q-Offset2S-N */
+   if (pvalue->q_Offset2S_N != 0) {
+      if (pvalue->q_Offset2S_N < -50 || pvalue->q_Offset2S_N > 50) {
+         rtxErrAddStrParm(ctx, "Q-OffsetS-N");
+         rtxErrAddIntParm(ctx, pvalue->q_Offset2S_N);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-OffsetS-N", "q-Offset2S-N", -1, "CellSelectReselectInfoSIB-11-12-ECN0");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->q_Offset2S_N, -50, 50);
+      RT_CHECK(ctx, stat, "Q-OffsetS-N", "q-Offset2S-N", -1, "CellSelectReselectInfoSIB-11-12-ECN0");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12-ECN0");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12-ECN0");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellSelectReselectInfoSIB-11-12-ECN0");
+   return 0;
+}
+
+int asn1PE_UMTS_CellInfoSI_ECN0(rtxContext* RT_RESTRICT ctx, const CellInfoSI_ECN0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellInfoSI-ECN0");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 2) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfoSI-ECN0");
+   /* cellIndividualOffset */
+   if (pvalue->cellIndividualOffset != 0) {
+      if (pvalue->cellIndividualOffset < -20 || pvalue->cellIndividualOffset > 20) {
+         rtxErrAddStrParm(ctx, "CellIndividualOffset");
+         rtxErrAddIntParm(ctx, pvalue->cellIndividualOffset);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-ECN0");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->cellIndividualOffset, -20, 20);
+      RT_CHECK(ctx, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-ECN0");
+   }
+   /* referenceTimeDifferenceToCell */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
+      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-ECN0");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_CellInfoSI_ECN0_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellInfoSI-ECN0");
+   /* cellSelectionReselectionInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_ECN0(ctx, &pvalue->cellSelectionReselectionInfo);
+      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-ECN0");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewIntraFreqCellSI_ECN0(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_ECN0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-ECN0");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-ECN0");
+   /* intraFreqCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->intraFreqCellID > 31u) {
+         rtxErrAddStrParm(ctx, "IntraFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->intraFreqCellID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-ECN0");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->intraFreqCellID, 0, 31);
+      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-ECN0");
+   }
+   /* cellInfo */
+   stat = asn1PE_UMTS_CellInfoSI_ECN0(ctx, &pvalue->cellInfo);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-ECN0");
+   return 0;
+}
+
+int asn1PE_UMTS_NewIntraFreqCellSI_List_ECN0(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_ECN0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-List-ECN0");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-List-ECN0");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewIntraFreqCellSI-ECN0", (int32_t)i, "NewIntraFreqCellSI-List-ECN0");
+      stat = asn1PE_UMTS_NewIntraFreqCellSI_ECN0(ctx, (const NewIntraFreqCellSI_ECN0*)node->data);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-ECN0", (int32_t)i, "NewIntraFreqCellSI-List-ECN0");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqCellInfoSI_List_ECN0(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_ECN0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqCellInfoSI-List-ECN0");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-ECN0");
+   /* removedIntraFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
+      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-ECN0");
+   }
+   /* newIntraFreqCellList */
+   stat = asn1PE_UMTS_NewIntraFreqCellSI_List_ECN0(ctx, &pvalue->newIntraFreqCellList);
+   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-ECN0");
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqMeasurementSysInfo_ECN0(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_ECN0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqMeasurementSysInfo-ECN0");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->intraFreqMeasurementID != 1) << 5) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-ECN0");
+   /* intraFreqMeasurementID */
+   if (pvalue->intraFreqMeasurementID != 1) {
+      if ((uint64_t)(pvalue->intraFreqMeasurementID - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "MeasurementIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->intraFreqMeasurementID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-ECN0");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->intraFreqMeasurementID, 1, 16);
+      RT_CHECK(ctx, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-ECN0");
+   }
+   /* intraFreqCellInfoSI-List */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntraFreqCellInfoSI_List_ECN0(ctx, &pvalue->intraFreqCellInfoSI_List);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-ECN0");
+   }
+   /* intraFreqMeasQuantity */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-ECN0");
+   }
+   /* intraFreqReportingQuantityForRACH */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-ECN0");
+   }
+   /* maxReportedCellsOnRACH */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->maxReportedCellsOnRACH > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->maxReportedCellsOnRACH);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-ECN0");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->maxReportedCellsOnRACH, 0, 7);
+      RT_CHECK(ctx, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-ECN0");
+   }
+   /* reportingInfoForCellDCH */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_ReportingInfoForCellDCH(ctx, &pvalue->reportingInfoForCellDCH);
+      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-ECN0");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellSI_ECN0(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_ECN0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-ECN0");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-ECN0");
+   /* interFreqCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->interFreqCellID > 31u) {
+         rtxErrAddStrParm(ctx, "InterFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-ECN0");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->interFreqCellID, 0, 31);
+      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-ECN0");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-ECN0");
+   }
+   /* cellInfo */
+   stat = asn1PE_UMTS_CellInfoSI_ECN0(ctx, &pvalue->cellInfo);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-ECN0");
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellSI_List_ECN0(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_List_ECN0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-List-ECN0");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-List-ECN0");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewInterFreqCellSI-ECN0", (int32_t)i, "NewInterFreqCellSI-List-ECN0");
+      stat = asn1PE_UMTS_NewInterFreqCellSI_ECN0(ctx, (const NewInterFreqCellSI_ECN0*)node->data);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-ECN0", (int32_t)i, "NewInterFreqCellSI-List-ECN0");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqCellInfoSI_List_ECN0(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoSI_List_ECN0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellInfoSI-List-ECN0");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoSI-List-ECN0");
+   /* removedInterFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-ECN0");
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_NewInterFreqCellSI_List_ECN0(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-ECN0");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqMeasurementSysInfo_ECN0(rtxContext* RT_RESTRICT ctx, const InterFreqMeasurementSysInfo_ECN0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasurementSysInfo-ECN0");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-ECN0");
+   /* interFreqCellInfoSI-List */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterFreqCellInfoSI_List_ECN0(ctx, &pvalue->interFreqCellInfoSI_List);
+      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-ECN0");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* intraFreqMeasurementSysInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntraFreqMeasurementSysInfo_ECN0(ctx, &pvalue->intraFreqMeasurementSysInfo);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
+   }
+   /* interFreqMeasurementSysInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_InterFreqMeasurementSysInfo_ECN0(ctx, &pvalue->interFreqMeasurementSysInfo);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.cpich_RSCP == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cpich-RSCP", -1, 0);
+         stat = asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
+         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cpich-Ec-N0", -1, 0);
+         stat = asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
+         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATCellID(rtxContext* RT_RESTRICT ctx, InterRATCellID value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 31u) {
+      rtxErrAddStrParm(ctx, "InterRATCellID");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "InterRATCellID");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 31);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATCellID");
+   return 0;
+}
+
+int asn1PE_UMTS_RemovedInterRATCellList_removeSomeInterRATCells(rtxContext* RT_RESTRICT ctx, const RemovedInterRATCellList_removeSomeInterRATCells* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 31u) {
+         rtxErrAddStrParm(ctx, "InterRATCellID");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterRATCellID", "InterRATCellID", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 31);
+      RT_CHECK(ctx, stat, "InterRATCellID", "InterRATCellID", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RemovedInterRATCellList(rtxContext* RT_RESTRICT ctx, const RemovedInterRATCellList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RemovedInterRATCellList");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, "RemovedInterRATCellList");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RemovedInterRATCellList");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.removeSomeInterRATCells == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "removeSomeInterRATCells", -1, "RemovedInterRATCellList");
+         stat = asn1PE_UMTS_RemovedInterRATCellList_removeSomeInterRATCells(ctx, pvalue->u.removeSomeInterRATCells);
+         RT_CHECK(ctx, stat, 0, "removeSomeInterRATCells", -1, "RemovedInterRATCellList");
+         break;
+      case 3:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TemporaryOffset1(rtxContext* RT_RESTRICT ctx, TemporaryOffset1 value)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TemporaryOffset1");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TemporaryOffset1");
+   return 0;
+}
+
+int asn1PE_UMTS_PenaltyTime_RSCP(rtxContext* RT_RESTRICT ctx, const PenaltyTime_RSCP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PenaltyTime-RSCP");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
+   RT_CHECK(ctx, stat, 0, "t", -1, "PenaltyTime-RSCP");
+   if (pvalue->t - 1 > 6) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PenaltyTime-RSCP");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.pt10 > 7) {
+            rtxErrAddUIntParm(ctx, pvalue->u.pt10);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "TemporaryOffset1", "pt10", -1, "PenaltyTime-RSCP");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.pt10, 0, 7);
+         RT_CHECK(ctx, stat, "TemporaryOffset1", "pt10", -1, "PenaltyTime-RSCP");
+         break;
+      case 3:
+         if (pvalue->u.pt20 > 7) {
+            rtxErrAddUIntParm(ctx, pvalue->u.pt20);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "TemporaryOffset1", "pt20", -1, "PenaltyTime-RSCP");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.pt20, 0, 7);
+         RT_CHECK(ctx, stat, "TemporaryOffset1", "pt20", -1, "PenaltyTime-RSCP");
+         break;
+      case 4:
+         if (pvalue->u.pt30 > 7) {
+            rtxErrAddUIntParm(ctx, pvalue->u.pt30);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "TemporaryOffset1", "pt30", -1, "PenaltyTime-RSCP");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.pt30, 0, 7);
+         RT_CHECK(ctx, stat, "TemporaryOffset1", "pt30", -1, "PenaltyTime-RSCP");
+         break;
+      case 5:
+         if (pvalue->u.pt40 > 7) {
+            rtxErrAddUIntParm(ctx, pvalue->u.pt40);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "TemporaryOffset1", "pt40", -1, "PenaltyTime-RSCP");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.pt40, 0, 7);
+         RT_CHECK(ctx, stat, "TemporaryOffset1", "pt40", -1, "PenaltyTime-RSCP");
+         break;
+      case 6:
+         if (pvalue->u.pt50 > 7) {
+            rtxErrAddUIntParm(ctx, pvalue->u.pt50);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "TemporaryOffset1", "pt50", -1, "PenaltyTime-RSCP");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.pt50, 0, 7);
+         RT_CHECK(ctx, stat, "TemporaryOffset1", "pt50", -1, "PenaltyTime-RSCP");
+         break;
+      case 7:
+         if (pvalue->u.pt60 > 7) {
+            rtxErrAddUIntParm(ctx, pvalue->u.pt60);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "TemporaryOffset1", "pt60", -1, "PenaltyTime-RSCP");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.pt60, 0, 7);
+         RT_CHECK(ctx, stat, "TemporaryOffset1", "pt60", -1, "PenaltyTime-RSCP");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HCS_CellReselectInformation_RSCP(rtxContext* RT_RESTRICT ctx, const HCS_CellReselectInformation_RSCP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HCS-CellReselectInformation-RSCP");
+   /* penaltyTime */
+   stat = asn1PE_UMTS_PenaltyTime_RSCP(ctx, &pvalue->penaltyTime);
+   RT_CHECK(ctx, stat, 0, "penaltyTime", -1, "HCS-CellReselectInformation-RSCP");
+   return 0;
+}
+
+int asn1PE_UMTS_HCS_NeighbouringCellInformation_RSCP(rtxContext* RT_RESTRICT ctx, const HCS_NeighbouringCellInformation_RSCP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HCS-NeighbouringCellInformation-RSCP");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->hcs_PRIO != 0) << 1) |
+      ((uint64_t)(pvalue->q_HCS != 0) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HCS-NeighbouringCellInformation-RSCP");
+   /* hcs-PRIO */
+   if (pvalue->hcs_PRIO != 0) {
+      if ((uint64_t)pvalue->hcs_PRIO > 7u) {
+         rtxErrAddStrParm(ctx, "HCS-PRIO");
+         rtxErrAddUIntParm(ctx, pvalue->hcs_PRIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "HCS-PRIO", "hcs-PRIO", -1, "HCS-NeighbouringCellInformation-RSCP");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->hcs_PRIO, 0, 7);
+      RT_CHECK(ctx, stat, "HCS-PRIO", "hcs-PRIO", -1, "HCS-NeighbouringCellInformation-RSCP");
+   }
+   /* q-HCS */
+   if (pvalue->q_HCS != 0) {
+      if ((uint64_t)pvalue->q_HCS > 99u) {
+         rtxErrAddStrParm(ctx, "Q-HCS");
+         rtxErrAddUIntParm(ctx, pvalue->q_HCS);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-HCS", "q-HCS", -1, "HCS-NeighbouringCellInformation-RSCP");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->q_HCS, 0, 99);
+      RT_CHECK(ctx, stat, "Q-HCS", "q-HCS", -1, "HCS-NeighbouringCellInformation-RSCP");
+   }
+   /* hcs-CellReselectInformation */
+   stat = asn1PE_UMTS_HCS_CellReselectInformation_RSCP(ctx, &pvalue->hcs_CellReselectInformation);
+   RT_CHECK(ctx, stat, 0, "hcs-CellReselectInformation", -1, "HCS-NeighbouringCellInformation-RSCP");
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* q-QualMin */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->q_QualMin < -24 || pvalue->q_QualMin > 0) {
+         rtxErrAddStrParm(ctx, "Q-QualMin");
+         rtxErrAddIntParm(ctx, pvalue->q_QualMin);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-QualMin", "q-QualMin", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->q_QualMin, -24, 0);
+      RT_CHECK(ctx, stat, "Q-QualMin", "q-QualMin", -1, 0);
+   }
+   /* q-RxlevMin */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
+         rtxErrAddStrParm(ctx, "Q-RxlevMin");
+         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* q-RxlevMin */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
+         rtxErrAddStrParm(ctx, "Q-RxlevMin");
+         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* q-RxlevMin */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
+         rtxErrAddStrParm(ctx, "Q-RxlevMin");
+         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm", -1, 0);
+         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm(ctx, pvalue->u.gsm);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellSelectReselectInfoSIB-11-12");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->q_Offset1S_N != 0) << 3) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellSelectReselectInfoSIB-11-12");
+   /* q-Offset1S-N */
+   if (pvalue->q_Offset1S_N != 0) {
+      if (pvalue->q_Offset1S_N < -50 || pvalue->q_Offset1S_N > 50) {
+         rtxErrAddStrParm(ctx, "Q-OffsetS-N");
+         rtxErrAddIntParm(ctx, pvalue->q_Offset1S_N);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-OffsetS-N", "q-Offset1S-N", -1, "CellSelectReselectInfoSIB-11-12");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->q_Offset1S_N, -50, 50);
+      RT_CHECK(ctx, stat, "Q-OffsetS-N", "q-Offset1S-N", -1, "CellSelectReselectInfoSIB-11-12");
+   }
+   /* q-Offset2S-N */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->q_Offset2S_N < -50 || pvalue->q_Offset2S_N > 50) {
+         rtxErrAddStrParm(ctx, "Q-OffsetS-N");
+         rtxErrAddIntParm(ctx, pvalue->q_Offset2S_N);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-OffsetS-N", "q-Offset2S-N", -1, "CellSelectReselectInfoSIB-11-12");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->q_Offset2S_N, -50, 50);
+      RT_CHECK(ctx, stat, "Q-OffsetS-N", "q-Offset2S-N", -1, "CellSelectReselectInfoSIB-11-12");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12");
+   }
+   /* hcs-NeighbouringCellInformation-RSCP */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_HCS_NeighbouringCellInformation_RSCP(ctx, &pvalue->hcs_NeighbouringCellInformation_RSCP);
+      RT_CHECK(ctx, stat, 0, "hcs-NeighbouringCellInformation-RSCP", -1, "CellSelectReselectInfoSIB-11-12");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellSelectReselectInfoSIB-11-12");
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATCellIndividualOffset(rtxContext* RT_RESTRICT ctx, InterRATCellIndividualOffset value)
+{
+   int stat = 0;
+   if (value < -50 || value > 50) {
+      rtxErrAddStrParm(ctx, "InterRATCellIndividualOffset");
+      rtxErrAddIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "InterRATCellIndividualOffset");
+   }
+   stat = pe_ConsInt64(ctx, value, -50, 50);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATCellIndividualOffset");
+   return 0;
+}
+
+int asn1PE_UMTS_NCC(rtxContext* RT_RESTRICT ctx, NCC value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 7u) {
+      rtxErrAddStrParm(ctx, "NCC");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "NCC");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NCC");
+   return 0;
+}
+
+int asn1PE_UMTS_BCC(rtxContext* RT_RESTRICT ctx, BCC value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 7u) {
+      rtxErrAddStrParm(ctx, "BCC");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "BCC");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "BCC");
+   return 0;
+}
+
+int asn1PE_UMTS_BSIC(rtxContext* RT_RESTRICT ctx, const BSIC* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "BSIC");
+   /* ncc */
+   if ((uint64_t)pvalue->ncc > 7u) {
+      rtxErrAddStrParm(ctx, "NCC");
+      rtxErrAddUIntParm(ctx, pvalue->ncc);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "NCC", "ncc", -1, "BSIC");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ncc, 0, 7);
+   RT_CHECK(ctx, stat, "NCC", "ncc", -1, "BSIC");
+   /* bcc */
+   if ((uint64_t)pvalue->bcc > 7u) {
+      rtxErrAddStrParm(ctx, "BCC");
+      rtxErrAddUIntParm(ctx, pvalue->bcc);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "BCC", "bcc", -1, "BSIC");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->bcc, 0, 7);
+   RT_CHECK(ctx, stat, "BCC", "bcc", -1, "BSIC");
+   return 0;
+}
+
+int asn1PE_UMTS_Frequency_Band(rtxContext* RT_RESTRICT ctx, Frequency_Band value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "Frequency-Band");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Frequency-Band");
+   return 0;
+}
+
+int asn1PE_UMTS_BCCH_ARFCN(rtxContext* RT_RESTRICT ctx, BCCH_ARFCN value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 1023u) {
+      rtxErrAddStrParm(ctx, "BCCH-ARFCN");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "BCCH-ARFCN");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1023);
+   RT_CHECK(ctx, stat, 0, 0, -1, "BCCH-ARFCN");
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterRATCell_B_technologySpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const NewInterRATCell_B_technologySpecificInfo_gsm* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellSelectionReselectionInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12(ctx, &pvalue->cellSelectionReselectionInfo);
+      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, 0);
+   }
+   /* interRATCellIndividualOffset */
+   if (pvalue->interRATCellIndividualOffset < -50 || pvalue->interRATCellIndividualOffset > 50) {
+      rtxErrAddStrParm(ctx, "InterRATCellIndividualOffset");
+      rtxErrAddIntParm(ctx, pvalue->interRATCellIndividualOffset);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "InterRATCellIndividualOffset", "interRATCellIndividualOffset", -1, 0);
+   }
+   stat = pe_ConsInt64(ctx, pvalue->interRATCellIndividualOffset, -50, 50);
+   RT_CHECK(ctx, stat, "InterRATCellIndividualOffset", "interRATCellIndividualOffset", -1, 0);
+   /* bsic */
+   stat = asn1PE_UMTS_BSIC(ctx, &pvalue->bsic);
+   RT_CHECK(ctx, stat, 0, "bsic", -1, 0);
+   /* frequency-band */
+   if (pvalue->frequency_band > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->frequency_band);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "Frequency-Band", "frequency-band", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->frequency_band, 0, 1);
+   RT_CHECK(ctx, stat, "Frequency-Band", "frequency-band", -1, 0);
+   /* bcch-ARFCN */
+   if ((uint64_t)pvalue->bcch_ARFCN > 1023u) {
+      rtxErrAddStrParm(ctx, "BCCH-ARFCN");
+      rtxErrAddUIntParm(ctx, pvalue->bcch_ARFCN);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "BCCH-ARFCN", "bcch-ARFCN", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->bcch_ARFCN, 0, 1023);
+   RT_CHECK(ctx, stat, "BCCH-ARFCN", "bcch-ARFCN", -1, 0);
+   /* dummy */
+   if (pvalue->m & 0x2u) {
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IS_2000SpecificMeasInfo(rtxContext* RT_RESTRICT ctx, IS_2000SpecificMeasInfo value)
+{
+   int stat = 0;
+   if (value > 4) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "IS-2000SpecificMeasInfo");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IS-2000SpecificMeasInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterRATCell_B_technologySpecificInfo_is_2000(rtxContext* RT_RESTRICT ctx, const NewInterRATCell_B_technologySpecificInfo_is_2000* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* is-2000SpecificMeasInfo */
+   if (pvalue->is_2000SpecificMeasInfo > 4) {
+      rtxErrAddUIntParm(ctx, pvalue->is_2000SpecificMeasInfo);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "IS-2000SpecificMeasInfo", "is-2000SpecificMeasInfo", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->is_2000SpecificMeasInfo, 0, 4);
+   RT_CHECK(ctx, stat, "IS-2000SpecificMeasInfo", "is-2000SpecificMeasInfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterRATCell_B_technologySpecificInfo(rtxContext* RT_RESTRICT ctx, const NewInterRATCell_B_technologySpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm", -1, 0);
+         stat = asn1PE_UMTS_NewInterRATCell_B_technologySpecificInfo_gsm(ctx, pvalue->u.gsm);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.is_2000 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "is-2000", -1, 0);
+         stat = asn1PE_UMTS_NewInterRATCell_B_technologySpecificInfo_is_2000(ctx, pvalue->u.is_2000);
+         RT_CHECK(ctx, stat, 0, "is-2000", -1, 0);
+         break;
+      case 3:
+         break;
+      case 4:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterRATCell_B(rtxContext* RT_RESTRICT ctx, const NewInterRATCell_B* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterRATCell-B");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterRATCell-B");
+   /* interRATCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->interRATCellID > 31u) {
+         rtxErrAddStrParm(ctx, "InterRATCellID");
+         rtxErrAddUIntParm(ctx, pvalue->interRATCellID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterRATCellID", "interRATCellID", -1, "NewInterRATCell-B");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->interRATCellID, 0, 31);
+      RT_CHECK(ctx, stat, "InterRATCellID", "interRATCellID", -1, "NewInterRATCell-B");
+   }
+   /* technologySpecificInfo */
+   stat = asn1PE_UMTS_NewInterRATCell_B_technologySpecificInfo(ctx, &pvalue->technologySpecificInfo);
+   RT_CHECK(ctx, stat, 0, "technologySpecificInfo", -1, "NewInterRATCell-B");
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterRATCellList_B(rtxContext* RT_RESTRICT ctx, const NewInterRATCellList_B* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterRATCellList-B");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewInterRATCellList-B");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewInterRATCell-B", (int32_t)i, "NewInterRATCellList-B");
+      stat = asn1PE_UMTS_NewInterRATCell_B(ctx, (const NewInterRATCell_B*)node->data);
+      RT_CHECK(ctx, stat, 0, "NewInterRATCell-B", (int32_t)i, "NewInterRATCellList-B");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATCellInfoList_B(rtxContext* RT_RESTRICT ctx, const InterRATCellInfoList_B* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATCellInfoList-B");
+   /* removedInterRATCellList */
+   stat = asn1PE_UMTS_RemovedInterRATCellList(ctx, &pvalue->removedInterRATCellList);
+   RT_CHECK(ctx, stat, 0, "removedInterRATCellList", -1, "InterRATCellInfoList-B");
+   /* newInterRATCellList */
+   stat = asn1PE_UMTS_NewInterRATCellList_B(ctx, &pvalue->newInterRATCellList);
+   RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, "InterRATCellInfoList-B");
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATMeasurementSysInfo_B(rtxContext* RT_RESTRICT ctx, const InterRATMeasurementSysInfo_B* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATMeasurementSysInfo-B");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATMeasurementSysInfo-B");
+   /* interRATCellInfoList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterRATCellInfoList_B(ctx, &pvalue->interRATCellInfoList);
+      RT_CHECK(ctx, stat, 0, "interRATCellInfoList", -1, "InterRATMeasurementSysInfo-B");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellSelectQualityMeasure */
+   stat = asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
+   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
+   /* interRATMeasurementSysInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterRATMeasurementSysInfo_B(ctx, &pvalue->interRATMeasurementSysInfo);
+      RT_CHECK(ctx, stat, 0, "interRATMeasurementSysInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   }
+   /* primaryCPICH-TX-Power */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->primaryCPICH_TX_Power < -10 || pvalue->primaryCPICH_TX_Power > 50) {
+         rtxErrAddStrParm(ctx, "PrimaryCPICH-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->primaryCPICH_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->primaryCPICH_TX_Power, -10, 50);
+      RT_CHECK(ctx, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
+   }
+   /* readSFN-Indicator */
+   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
+   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
+   /* tx-DiversityIndicator */
+   stat = rtxEncBit(ctx, pvalue->tx_DiversityIndicator);
+   RT_CHECK(ctx, stat, 0, "tx-DiversityIndicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* primaryCCPCH-Info */
+   stat = asn1PE_UMTS_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+         rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
+      RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   }
+   /* timeslotInfoList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_TimeslotInfoList(ctx, &pvalue->timeslotInfoList);
+      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, 0);
+   }
+   /* readSFN-Indicator */
+   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
+   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_RSCP_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* q-QualMin */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->q_QualMin < -24 || pvalue->q_QualMin > 0) {
+         rtxErrAddStrParm(ctx, "Q-QualMin");
+         rtxErrAddIntParm(ctx, pvalue->q_QualMin);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-QualMin", "q-QualMin", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->q_QualMin, -24, 0);
+      RT_CHECK(ctx, stat, "Q-QualMin", "q-QualMin", -1, 0);
+   }
+   /* q-RxlevMin */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
+         rtxErrAddStrParm(ctx, "Q-RxlevMin");
+         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* q-RxlevMin */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
+         rtxErrAddStrParm(ctx, "Q-RxlevMin");
+         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* q-RxlevMin */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
+         rtxErrAddStrParm(ctx, "Q-RxlevMin");
+         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm", -1, 0);
+         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm(ctx, pvalue->u.gsm);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_RSCP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->q_OffsetS_N != 0) << 2) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
+   /* q-OffsetS-N */
+   if (pvalue->q_OffsetS_N != 0) {
+      if (pvalue->q_OffsetS_N < -50 || pvalue->q_OffsetS_N > 50) {
+         rtxErrAddStrParm(ctx, "Q-OffsetS-N");
+         rtxErrAddIntParm(ctx, pvalue->q_OffsetS_N);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-OffsetS-N", "q-OffsetS-N", -1, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->q_OffsetS_N, -50, 50);
+      RT_CHECK(ctx, stat, "Q-OffsetS-N", "q-OffsetS-N", -1, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
+   }
+   /* hcs-NeighbouringCellInformation-RSCP */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_HCS_NeighbouringCellInformation_RSCP(ctx, &pvalue->hcs_NeighbouringCellInformation_RSCP);
+      RT_CHECK(ctx, stat, 0, "hcs-NeighbouringCellInformation-RSCP", -1, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
+   return 0;
+}
+
+int asn1PE_UMTS_CellInfoSI_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_RSCP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellInfoSI-HCS-RSCP");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 2) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfoSI-HCS-RSCP");
+   /* cellIndividualOffset */
+   if (pvalue->cellIndividualOffset != 0) {
+      if (pvalue->cellIndividualOffset < -20 || pvalue->cellIndividualOffset > 20) {
+         rtxErrAddStrParm(ctx, "CellIndividualOffset");
+         rtxErrAddIntParm(ctx, pvalue->cellIndividualOffset);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-HCS-RSCP");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->cellIndividualOffset, -20, 20);
+      RT_CHECK(ctx, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-HCS-RSCP");
+   }
+   /* referenceTimeDifferenceToCell */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
+      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-HCS-RSCP");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellInfoSI-HCS-RSCP");
+   /* cellSelectionReselectionInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP(ctx, &pvalue->cellSelectionReselectionInfo);
+      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-HCS-RSCP");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewIntraFreqCellSI_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_HCS_RSCP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-HCS-RSCP");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-HCS-RSCP");
+   /* intraFreqCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->intraFreqCellID > 31u) {
+         rtxErrAddStrParm(ctx, "IntraFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->intraFreqCellID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-HCS-RSCP");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->intraFreqCellID, 0, 31);
+      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-HCS-RSCP");
+   }
+   /* cellInfo */
+   stat = asn1PE_UMTS_CellInfoSI_HCS_RSCP(ctx, &pvalue->cellInfo);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-HCS-RSCP");
+   return 0;
+}
+
+int asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_HCS_RSCP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-List-HCS-RSCP");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-List-HCS-RSCP");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewIntraFreqCellSI-HCS-RSCP", (int32_t)i, "NewIntraFreqCellSI-List-HCS-RSCP");
+      stat = asn1PE_UMTS_NewIntraFreqCellSI_HCS_RSCP(ctx, (const NewIntraFreqCellSI_HCS_RSCP*)node->data);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-HCS-RSCP", (int32_t)i, "NewIntraFreqCellSI-List-HCS-RSCP");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqCellInfoSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_HCS_RSCP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqCellInfoSI-List-HCS-RSCP");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-HCS-RSCP");
+   /* removedIntraFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
+      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-RSCP");
+   }
+   /* newIntraFreqCellList */
+   stat = asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_RSCP(ctx, &pvalue->newIntraFreqCellList);
+   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-RSCP");
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqMeasurementSysInfo_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_HCS_RSCP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->intraFreqMeasurementID != 1) << 5) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
+   /* intraFreqMeasurementID */
+   if (pvalue->intraFreqMeasurementID != 1) {
+      if ((uint64_t)(pvalue->intraFreqMeasurementID - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "MeasurementIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->intraFreqMeasurementID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->intraFreqMeasurementID, 1, 16);
+      RT_CHECK(ctx, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
+   }
+   /* intraFreqCellInfoSI-List */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntraFreqCellInfoSI_List_HCS_RSCP(ctx, &pvalue->intraFreqCellInfoSI_List);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
+   }
+   /* intraFreqMeasQuantity */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
+   }
+   /* intraFreqReportingQuantityForRACH */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
+   }
+   /* maxReportedCellsOnRACH */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->maxReportedCellsOnRACH > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->maxReportedCellsOnRACH);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->maxReportedCellsOnRACH, 0, 7);
+      RT_CHECK(ctx, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
+   }
+   /* reportingInfoForCellDCH */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_ReportingInfoForCellDCH(ctx, &pvalue->reportingInfoForCellDCH);
+      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellSI_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_HCS_RSCP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-HCS-RSCP");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-HCS-RSCP");
+   /* interFreqCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->interFreqCellID > 31u) {
+         rtxErrAddStrParm(ctx, "InterFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-HCS-RSCP");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->interFreqCellID, 0, 31);
+      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-HCS-RSCP");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-HCS-RSCP");
+   }
+   /* cellInfo */
+   stat = asn1PE_UMTS_CellInfoSI_HCS_RSCP(ctx, &pvalue->cellInfo);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-HCS-RSCP");
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_List_HCS_RSCP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-List-HCS-RSCP");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-List-HCS-RSCP");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewInterFreqCellSI-HCS-RSCP", (int32_t)i, "NewInterFreqCellSI-List-HCS-RSCP");
+      stat = asn1PE_UMTS_NewInterFreqCellSI_HCS_RSCP(ctx, (const NewInterFreqCellSI_HCS_RSCP*)node->data);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-HCS-RSCP", (int32_t)i, "NewInterFreqCellSI-List-HCS-RSCP");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqCellInfoSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoSI_List_HCS_RSCP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellInfoSI-List-HCS-RSCP");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoSI-List-HCS-RSCP");
+   /* removedInterFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-RSCP");
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_NewInterFreqCellSI_List_HCS_RSCP(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-RSCP");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqMeasurementSysInfo_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const InterFreqMeasurementSysInfo_HCS_RSCP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasurementSysInfo-HCS-RSCP");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-HCS-RSCP");
+   /* interFreqCellInfoSI-List */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterFreqCellInfoSI_List_HCS_RSCP(ctx, &pvalue->interFreqCellInfoSI_List);
+      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-HCS-RSCP");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* intraFreqMeasurementSysInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntraFreqMeasurementSysInfo_HCS_RSCP(ctx, &pvalue->intraFreqMeasurementSysInfo);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
+   }
+   /* interFreqMeasurementSysInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_InterFreqMeasurementSysInfo_HCS_RSCP(ctx, &pvalue->interFreqMeasurementSysInfo);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   }
+   /* primaryCPICH-TX-Power */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->primaryCPICH_TX_Power < -10 || pvalue->primaryCPICH_TX_Power > 50) {
+         rtxErrAddStrParm(ctx, "PrimaryCPICH-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->primaryCPICH_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->primaryCPICH_TX_Power, -10, 50);
+      RT_CHECK(ctx, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
+   }
+   /* readSFN-Indicator */
+   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
+   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
+   /* tx-DiversityIndicator */
+   stat = rtxEncBit(ctx, pvalue->tx_DiversityIndicator);
+   RT_CHECK(ctx, stat, 0, "tx-DiversityIndicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* primaryCCPCH-Info */
+   stat = asn1PE_UMTS_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+         rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
+      RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   }
+   /* timeslotInfoList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_TimeslotInfoList(ctx, &pvalue->timeslotInfoList);
+      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, 0);
+   }
+   /* readSFN-Indicator */
+   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
+   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_ECN0_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TemporaryOffset2(rtxContext* RT_RESTRICT ctx, TemporaryOffset2 value)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TemporaryOffset2");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TemporaryOffset2");
+   return 0;
+}
+
+int asn1PE_UMTS_TemporaryOffsetList(rtxContext* RT_RESTRICT ctx, const TemporaryOffsetList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TemporaryOffsetList");
+   /* temporaryOffset1 */
+   if (pvalue->temporaryOffset1 > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->temporaryOffset1);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TemporaryOffset1", "temporaryOffset1", -1, "TemporaryOffsetList");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->temporaryOffset1, 0, 7);
+   RT_CHECK(ctx, stat, "TemporaryOffset1", "temporaryOffset1", -1, "TemporaryOffsetList");
+   /* temporaryOffset2 */
+   if (pvalue->temporaryOffset2 > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->temporaryOffset2);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TemporaryOffset2", "temporaryOffset2", -1, "TemporaryOffsetList");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->temporaryOffset2, 0, 7);
+   RT_CHECK(ctx, stat, "TemporaryOffset2", "temporaryOffset2", -1, "TemporaryOffsetList");
+   return 0;
+}
+
+int asn1PE_UMTS_PenaltyTime_ECN0(rtxContext* RT_RESTRICT ctx, const PenaltyTime_ECN0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PenaltyTime-ECN0");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
+   RT_CHECK(ctx, stat, 0, "t", -1, "PenaltyTime-ECN0");
+   if (pvalue->t - 1 > 6) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PenaltyTime-ECN0");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.pt10 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "pt10", -1, "PenaltyTime-ECN0");
+         stat = asn1PE_UMTS_TemporaryOffsetList(ctx, pvalue->u.pt10);
+         RT_CHECK(ctx, stat, 0, "pt10", -1, "PenaltyTime-ECN0");
+         break;
+      case 3:
+         if (pvalue->u.pt20 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "pt20", -1, "PenaltyTime-ECN0");
+         stat = asn1PE_UMTS_TemporaryOffsetList(ctx, pvalue->u.pt20);
+         RT_CHECK(ctx, stat, 0, "pt20", -1, "PenaltyTime-ECN0");
+         break;
+      case 4:
+         if (pvalue->u.pt30 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "pt30", -1, "PenaltyTime-ECN0");
+         stat = asn1PE_UMTS_TemporaryOffsetList(ctx, pvalue->u.pt30);
+         RT_CHECK(ctx, stat, 0, "pt30", -1, "PenaltyTime-ECN0");
+         break;
+      case 5:
+         if (pvalue->u.pt40 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "pt40", -1, "PenaltyTime-ECN0");
+         stat = asn1PE_UMTS_TemporaryOffsetList(ctx, pvalue->u.pt40);
+         RT_CHECK(ctx, stat, 0, "pt40", -1, "PenaltyTime-ECN0");
+         break;
+      case 6:
+         if (pvalue->u.pt50 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "pt50", -1, "PenaltyTime-ECN0");
+         stat = asn1PE_UMTS_TemporaryOffsetList(ctx, pvalue->u.pt50);
+         RT_CHECK(ctx, stat, 0, "pt50", -1, "PenaltyTime-ECN0");
+         break;
+      case 7:
+         if (pvalue->u.pt60 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "pt60", -1, "PenaltyTime-ECN0");
+         stat = asn1PE_UMTS_TemporaryOffsetList(ctx, pvalue->u.pt60);
+         RT_CHECK(ctx, stat, 0, "pt60", -1, "PenaltyTime-ECN0");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HCS_CellReselectInformation_ECN0(rtxContext* RT_RESTRICT ctx, const HCS_CellReselectInformation_ECN0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HCS-CellReselectInformation-ECN0");
+   /* penaltyTime */
+   stat = asn1PE_UMTS_PenaltyTime_ECN0(ctx, &pvalue->penaltyTime);
+   RT_CHECK(ctx, stat, 0, "penaltyTime", -1, "HCS-CellReselectInformation-ECN0");
+   return 0;
+}
+
+int asn1PE_UMTS_HCS_NeighbouringCellInformation_ECN0(rtxContext* RT_RESTRICT ctx, const HCS_NeighbouringCellInformation_ECN0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HCS-NeighbouringCellInformation-ECN0");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->hcs_PRIO != 0) << 1) |
+      ((uint64_t)(pvalue->q_HCS != 0) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HCS-NeighbouringCellInformation-ECN0");
+   /* hcs-PRIO */
+   if (pvalue->hcs_PRIO != 0) {
+      if ((uint64_t)pvalue->hcs_PRIO > 7u) {
+         rtxErrAddStrParm(ctx, "HCS-PRIO");
+         rtxErrAddUIntParm(ctx, pvalue->hcs_PRIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "HCS-PRIO", "hcs-PRIO", -1, "HCS-NeighbouringCellInformation-ECN0");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->hcs_PRIO, 0, 7);
+      RT_CHECK(ctx, stat, "HCS-PRIO", "hcs-PRIO", -1, "HCS-NeighbouringCellInformation-ECN0");
+   }
+   /* q-HCS */
+   if (pvalue->q_HCS != 0) {
+      if ((uint64_t)pvalue->q_HCS > 99u) {
+         rtxErrAddStrParm(ctx, "Q-HCS");
+         rtxErrAddUIntParm(ctx, pvalue->q_HCS);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-HCS", "q-HCS", -1, "HCS-NeighbouringCellInformation-ECN0");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->q_HCS, 0, 99);
+      RT_CHECK(ctx, stat, "Q-HCS", "q-HCS", -1, "HCS-NeighbouringCellInformation-ECN0");
+   }
+   /* hcs-CellReselectInformation */
+   stat = asn1PE_UMTS_HCS_CellReselectInformation_ECN0(ctx, &pvalue->hcs_CellReselectInformation);
+   RT_CHECK(ctx, stat, 0, "hcs-CellReselectInformation", -1, "HCS-NeighbouringCellInformation-ECN0");
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* q-QualMin */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->q_QualMin < -24 || pvalue->q_QualMin > 0) {
+         rtxErrAddStrParm(ctx, "Q-QualMin");
+         rtxErrAddIntParm(ctx, pvalue->q_QualMin);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-QualMin", "q-QualMin", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->q_QualMin, -24, 0);
+      RT_CHECK(ctx, stat, "Q-QualMin", "q-QualMin", -1, 0);
+   }
+   /* q-RxlevMin */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
+         rtxErrAddStrParm(ctx, "Q-RxlevMin");
+         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* q-RxlevMin */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
+         rtxErrAddStrParm(ctx, "Q-RxlevMin");
+         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* q-RxlevMin */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
+         rtxErrAddStrParm(ctx, "Q-RxlevMin");
+         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm", -1, 0);
+         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm(ctx, pvalue->u.gsm);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_ECN0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->q_Offset1S_N != 0) << 3) |
+      ((uint64_t)(pvalue->q_Offset2S_N != 0) << 2) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
+   /* q-Offset1S-N */
+   if (pvalue->q_Offset1S_N != 0) {
+      if (pvalue->q_Offset1S_N < -50 || pvalue->q_Offset1S_N > 50) {
+         rtxErrAddStrParm(ctx, "Q-OffsetS-N");
+         rtxErrAddIntParm(ctx, pvalue->q_Offset1S_N);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-OffsetS-N", "q-Offset1S-N", -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->q_Offset1S_N, -50, 50);
+      RT_CHECK(ctx, stat, "Q-OffsetS-N", "q-Offset1S-N", -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
+   }
+   /* q-Offset2S-N */
+   if (pvalue->q_Offset2S_N != 0) {
+      if (pvalue->q_Offset2S_N < -50 || pvalue->q_Offset2S_N > 50) {
+         rtxErrAddStrParm(ctx, "Q-OffsetS-N");
+         rtxErrAddIntParm(ctx, pvalue->q_Offset2S_N);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-OffsetS-N", "q-Offset2S-N", -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->q_Offset2S_N, -50, 50);
+      RT_CHECK(ctx, stat, "Q-OffsetS-N", "q-Offset2S-N", -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
+   }
+   /* hcs-NeighbouringCellInformation-ECN0 */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_HCS_NeighbouringCellInformation_ECN0(ctx, &pvalue->hcs_NeighbouringCellInformation_ECN0);
+      RT_CHECK(ctx, stat, 0, "hcs-NeighbouringCellInformation-ECN0", -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
+   return 0;
+}
+
+int asn1PE_UMTS_CellInfoSI_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_ECN0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellInfoSI-HCS-ECN0");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 2) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfoSI-HCS-ECN0");
+   /* cellIndividualOffset */
+   if (pvalue->cellIndividualOffset != 0) {
+      if (pvalue->cellIndividualOffset < -20 || pvalue->cellIndividualOffset > 20) {
+         rtxErrAddStrParm(ctx, "CellIndividualOffset");
+         rtxErrAddIntParm(ctx, pvalue->cellIndividualOffset);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-HCS-ECN0");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->cellIndividualOffset, -20, 20);
+      RT_CHECK(ctx, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-HCS-ECN0");
+   }
+   /* referenceTimeDifferenceToCell */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
+      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-HCS-ECN0");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellInfoSI-HCS-ECN0");
+   /* cellSelectionReselectionInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0(ctx, &pvalue->cellSelectionReselectionInfo);
+      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-HCS-ECN0");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewIntraFreqCellSI_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_HCS_ECN0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-HCS-ECN0");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-HCS-ECN0");
+   /* intraFreqCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->intraFreqCellID > 31u) {
+         rtxErrAddStrParm(ctx, "IntraFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->intraFreqCellID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-HCS-ECN0");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->intraFreqCellID, 0, 31);
+      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-HCS-ECN0");
+   }
+   /* cellInfo */
+   stat = asn1PE_UMTS_CellInfoSI_HCS_ECN0(ctx, &pvalue->cellInfo);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-HCS-ECN0");
+   return 0;
+}
+
+int asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_HCS_ECN0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-List-HCS-ECN0");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-List-HCS-ECN0");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewIntraFreqCellSI-HCS-ECN0", (int32_t)i, "NewIntraFreqCellSI-List-HCS-ECN0");
+      stat = asn1PE_UMTS_NewIntraFreqCellSI_HCS_ECN0(ctx, (const NewIntraFreqCellSI_HCS_ECN0*)node->data);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-HCS-ECN0", (int32_t)i, "NewIntraFreqCellSI-List-HCS-ECN0");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqCellInfoSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_HCS_ECN0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqCellInfoSI-List-HCS-ECN0");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-HCS-ECN0");
+   /* removedIntraFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
+      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-ECN0");
+   }
+   /* newIntraFreqCellList */
+   stat = asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_ECN0(ctx, &pvalue->newIntraFreqCellList);
+   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-ECN0");
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqMeasurementSysInfo_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_HCS_ECN0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->intraFreqMeasurementID != 1) << 5) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
+   /* intraFreqMeasurementID */
+   if (pvalue->intraFreqMeasurementID != 1) {
+      if ((uint64_t)(pvalue->intraFreqMeasurementID - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "MeasurementIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->intraFreqMeasurementID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->intraFreqMeasurementID, 1, 16);
+      RT_CHECK(ctx, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
+   }
+   /* intraFreqCellInfoSI-List */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntraFreqCellInfoSI_List_HCS_ECN0(ctx, &pvalue->intraFreqCellInfoSI_List);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
+   }
+   /* intraFreqMeasQuantity */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
+   }
+   /* intraFreqReportingQuantityForRACH */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
+   }
+   /* maxReportedCellsOnRACH */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->maxReportedCellsOnRACH > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->maxReportedCellsOnRACH);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->maxReportedCellsOnRACH, 0, 7);
+      RT_CHECK(ctx, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
+   }
+   /* reportingInfoForCellDCH */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_ReportingInfoForCellDCH(ctx, &pvalue->reportingInfoForCellDCH);
+      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellSI_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_HCS_ECN0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-HCS-ECN0");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-HCS-ECN0");
+   /* interFreqCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->interFreqCellID > 31u) {
+         rtxErrAddStrParm(ctx, "InterFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-HCS-ECN0");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->interFreqCellID, 0, 31);
+      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-HCS-ECN0");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-HCS-ECN0");
+   }
+   /* cellInfo */
+   stat = asn1PE_UMTS_CellInfoSI_HCS_ECN0(ctx, &pvalue->cellInfo);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-HCS-ECN0");
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_List_HCS_ECN0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-List-HCS-ECN0");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-List-HCS-ECN0");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewInterFreqCellSI-HCS-ECN0", (int32_t)i, "NewInterFreqCellSI-List-HCS-ECN0");
+      stat = asn1PE_UMTS_NewInterFreqCellSI_HCS_ECN0(ctx, (const NewInterFreqCellSI_HCS_ECN0*)node->data);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-HCS-ECN0", (int32_t)i, "NewInterFreqCellSI-List-HCS-ECN0");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqCellInfoSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoSI_List_HCS_ECN0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellInfoSI-List-HCS-ECN0");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoSI-List-HCS-ECN0");
+   /* removedInterFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-ECN0");
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_NewInterFreqCellSI_List_HCS_ECN0(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-ECN0");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqMeasurementSysInfo_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const InterFreqMeasurementSysInfo_HCS_ECN0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasurementSysInfo-HCS-ECN0");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-HCS-ECN0");
+   /* interFreqCellInfoSI-List */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterFreqCellInfoSI_List_HCS_ECN0(ctx, &pvalue->interFreqCellInfoSI_List);
+      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-HCS-ECN0");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* intraFreqMeasurementSysInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntraFreqMeasurementSysInfo_HCS_ECN0(ctx, &pvalue->intraFreqMeasurementSysInfo);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
+   }
+   /* interFreqMeasurementSysInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_InterFreqMeasurementSysInfo_HCS_ECN0(ctx, &pvalue->interFreqMeasurementSysInfo);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.cpich_RSCP == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cpich-RSCP", -1, 0);
+         stat = asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
+         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cpich-Ec-N0", -1, 0);
+         stat = asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
+         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterRATCell_technologySpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const NewInterRATCell_technologySpecificInfo_gsm* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellSelectionReselectionInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12(ctx, &pvalue->cellSelectionReselectionInfo);
+      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, 0);
+   }
+   /* interRATCellIndividualOffset */
+   if (pvalue->interRATCellIndividualOffset < -50 || pvalue->interRATCellIndividualOffset > 50) {
+      rtxErrAddStrParm(ctx, "InterRATCellIndividualOffset");
+      rtxErrAddIntParm(ctx, pvalue->interRATCellIndividualOffset);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "InterRATCellIndividualOffset", "interRATCellIndividualOffset", -1, 0);
+   }
+   stat = pe_ConsInt64(ctx, pvalue->interRATCellIndividualOffset, -50, 50);
+   RT_CHECK(ctx, stat, "InterRATCellIndividualOffset", "interRATCellIndividualOffset", -1, 0);
+   /* bsic */
+   stat = asn1PE_UMTS_BSIC(ctx, &pvalue->bsic);
+   RT_CHECK(ctx, stat, 0, "bsic", -1, 0);
+   /* frequency-band */
+   if (pvalue->frequency_band > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->frequency_band);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "Frequency-Band", "frequency-band", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->frequency_band, 0, 1);
+   RT_CHECK(ctx, stat, "Frequency-Band", "frequency-band", -1, 0);
+   /* bcch-ARFCN */
+   if ((uint64_t)pvalue->bcch_ARFCN > 1023u) {
+      rtxErrAddStrParm(ctx, "BCCH-ARFCN");
+      rtxErrAddUIntParm(ctx, pvalue->bcch_ARFCN);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "BCCH-ARFCN", "bcch-ARFCN", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->bcch_ARFCN, 0, 1023);
+   RT_CHECK(ctx, stat, "BCCH-ARFCN", "bcch-ARFCN", -1, 0);
+   /* dummy */
+   if (pvalue->m & 0x2u) {
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterRATCell_technologySpecificInfo_is_2000(rtxContext* RT_RESTRICT ctx, const NewInterRATCell_technologySpecificInfo_is_2000* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* is-2000SpecificMeasInfo */
+   if (pvalue->is_2000SpecificMeasInfo > 4) {
+      rtxErrAddUIntParm(ctx, pvalue->is_2000SpecificMeasInfo);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "IS-2000SpecificMeasInfo", "is-2000SpecificMeasInfo", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->is_2000SpecificMeasInfo, 0, 4);
+   RT_CHECK(ctx, stat, "IS-2000SpecificMeasInfo", "is-2000SpecificMeasInfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterRATCell_technologySpecificInfo(rtxContext* RT_RESTRICT ctx, const NewInterRATCell_technologySpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm", -1, 0);
+         stat = asn1PE_UMTS_NewInterRATCell_technologySpecificInfo_gsm(ctx, pvalue->u.gsm);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.is_2000 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "is-2000", -1, 0);
+         stat = asn1PE_UMTS_NewInterRATCell_technologySpecificInfo_is_2000(ctx, pvalue->u.is_2000);
+         RT_CHECK(ctx, stat, 0, "is-2000", -1, 0);
+         break;
+      case 3:
+         break;
+      case 4:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterRATCell(rtxContext* RT_RESTRICT ctx, const NewInterRATCell* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterRATCell");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterRATCell");
+   /* interRATCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->interRATCellID > 31u) {
+         rtxErrAddStrParm(ctx, "InterRATCellID");
+         rtxErrAddUIntParm(ctx, pvalue->interRATCellID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterRATCellID", "interRATCellID", -1, "NewInterRATCell");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->interRATCellID, 0, 31);
+      RT_CHECK(ctx, stat, "InterRATCellID", "interRATCellID", -1, "NewInterRATCell");
+   }
+   /* technologySpecificInfo */
+   stat = asn1PE_UMTS_NewInterRATCell_technologySpecificInfo(ctx, &pvalue->technologySpecificInfo);
+   RT_CHECK(ctx, stat, 0, "technologySpecificInfo", -1, "NewInterRATCell");
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterRATCellList(rtxContext* RT_RESTRICT ctx, const NewInterRATCellList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterRATCellList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewInterRATCellList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewInterRATCell", (int32_t)i, "NewInterRATCellList");
+      stat = asn1PE_UMTS_NewInterRATCell(ctx, (const NewInterRATCell*)node->data);
+      RT_CHECK(ctx, stat, 0, "NewInterRATCell", (int32_t)i, "NewInterRATCellList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellsForInterRATMeasList(rtxContext* RT_RESTRICT ctx, const CellsForInterRATMeasList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellsForInterRATMeasList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CellsForInterRATMeasList");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 31u) {
+         rtxErrAddStrParm(ctx, "InterRATCellID");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterRATCellID", "InterRATCellID", (int32_t)i, "CellsForInterRATMeasList");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 31);
+      RT_CHECK(ctx, stat, "InterRATCellID", "InterRATCellID", (int32_t)i, "CellsForInterRATMeasList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATCellInfoList(rtxContext* RT_RESTRICT ctx, const InterRATCellInfoList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATCellInfoList");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATCellInfoList");
+   /* removedInterRATCellList */
+   stat = asn1PE_UMTS_RemovedInterRATCellList(ctx, &pvalue->removedInterRATCellList);
+   RT_CHECK(ctx, stat, 0, "removedInterRATCellList", -1, "InterRATCellInfoList");
+   /* newInterRATCellList */
+   stat = asn1PE_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
+   RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, "InterRATCellInfoList");
+   /* cellsForInterRATMeasList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellsForInterRATMeasList(ctx, &pvalue->cellsForInterRATMeasList);
+      RT_CHECK(ctx, stat, 0, "cellsForInterRATMeasList", -1, "InterRATCellInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATMeasurementSysInfo(rtxContext* RT_RESTRICT ctx, const InterRATMeasurementSysInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATMeasurementSysInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATMeasurementSysInfo");
+   /* interRATCellInfoList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterRATCellInfoList(ctx, &pvalue->interRATCellInfoList);
+      RT_CHECK(ctx, stat, 0, "interRATCellInfoList", -1, "InterRATMeasurementSysInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_used* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellSelectQualityMeasure */
+   stat = asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
+   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
+   /* interRATMeasurementSysInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterRATMeasurementSysInfo(ctx, &pvalue->interRATMeasurementSysInfo);
+      RT_CHECK(ctx, stat, 0, "interRATMeasurementSysInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.hcs_not_used == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "hcs-not-used", -1, 0);
+         stat = asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used(ctx, pvalue->u.hcs_not_used);
+         RT_CHECK(ctx, stat, 0, "hcs-not-used", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.hcs_used == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "hcs-used", -1, 0);
+         stat = asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used(ctx, pvalue->u.hcs_used);
+         RT_CHECK(ctx, stat, 0, "hcs-used", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_TrCH_Identity(rtxContext* RT_RESTRICT ctx, const UL_TrCH_Identity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-TrCH-Identity");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, "UL-TrCH-Identity");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-TrCH-Identity");
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)(pvalue->u.dch - 1) > 31u) {
+            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.dch);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dch", -1, "UL-TrCH-Identity");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.dch, 1, 32);
+         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch", -1, "UL-TrCH-Identity");
+         break;
+      case 2:
+         break;
+      case 3:
+         if ((uint64_t)(pvalue->u.usch - 1) > 31u) {
+            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.usch);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "usch", -1, "UL-TrCH-Identity");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.usch, 1, 32);
+         RT_CHECK(ctx, stat, "TransportChannelIdentity", "usch", -1, "UL-TrCH-Identity");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TrafficVolumeMeasurementObjectList(rtxContext* RT_RESTRICT ctx, const TrafficVolumeMeasurementObjectList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TrafficVolumeMeasurementObjectList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "TrafficVolumeMeasurementObjectList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UL-TrCH-Identity", (int32_t)i, "TrafficVolumeMeasurementObjectList");
+      stat = asn1PE_UMTS_UL_TrCH_Identity(ctx, (const UL_TrCH_Identity*)node->data);
+      RT_CHECK(ctx, stat, 0, "UL-TrCH-Identity", (int32_t)i, "TrafficVolumeMeasurementObjectList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TimeInterval(rtxContext* RT_RESTRICT ctx, TimeInterval value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 12u) {
+      rtxErrAddStrParm(ctx, "TimeInterval");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TimeInterval");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 13);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimeInterval");
+   return 0;
+}
+
+int asn1PE_UMTS_TrafficVolumeMeasQuantity(rtxContext* RT_RESTRICT ctx, const TrafficVolumeMeasQuantity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TrafficVolumeMeasQuantity");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, "TrafficVolumeMeasQuantity");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TrafficVolumeMeasQuantity");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if ((uint64_t)(pvalue->u.averageRLC_BufferPayload - 1) > 12u) {
+            rtxErrAddStrParm(ctx, "TimeInterval");
+            rtxErrAddUIntParm(ctx, pvalue->u.averageRLC_BufferPayload);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeInterval", "averageRLC-BufferPayload", -1, "TrafficVolumeMeasQuantity");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.averageRLC_BufferPayload, 1, 13);
+         RT_CHECK(ctx, stat, "TimeInterval", "averageRLC-BufferPayload", -1, "TrafficVolumeMeasQuantity");
+         break;
+      case 3:
+         if ((uint64_t)(pvalue->u.varianceOfRLC_BufferPayload - 1) > 12u) {
+            rtxErrAddStrParm(ctx, "TimeInterval");
+            rtxErrAddUIntParm(ctx, pvalue->u.varianceOfRLC_BufferPayload);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeInterval", "varianceOfRLC-BufferPayload", -1, "TrafficVolumeMeasQuantity");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.varianceOfRLC_BufferPayload, 1, 13);
+         RT_CHECK(ctx, stat, "TimeInterval", "varianceOfRLC-BufferPayload", -1, "TrafficVolumeMeasQuantity");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TrafficVolumeReportingQuantity(rtxContext* RT_RESTRICT ctx, const TrafficVolumeReportingQuantity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TrafficVolumeReportingQuantity");
+   /* rlc-RB-BufferPayload */
+   stat = rtxEncBit(ctx, pvalue->rlc_RB_BufferPayload);
+   RT_CHECK(ctx, stat, 0, "rlc-RB-BufferPayload", -1, "TrafficVolumeReportingQuantity");
+   /* rlc-RB-BufferPayloadAverage */
+   stat = rtxEncBit(ctx, pvalue->rlc_RB_BufferPayloadAverage);
+   RT_CHECK(ctx, stat, 0, "rlc-RB-BufferPayloadAverage", -1, "TrafficVolumeReportingQuantity");
+   /* rlc-RB-BufferPayloadVariance */
+   stat = rtxEncBit(ctx, pvalue->rlc_RB_BufferPayloadVariance);
+   RT_CHECK(ctx, stat, 0, "rlc-RB-BufferPayloadVariance", -1, "TrafficVolumeReportingQuantity");
+   return 0;
+}
+
+int asn1PE_UMTS_TrafficVolumeEventType(rtxContext* RT_RESTRICT ctx, TrafficVolumeEventType value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TrafficVolumeEventType");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TrafficVolumeEventType");
+   return 0;
+}
+
+int asn1PE_UMTS_TrafficVolumeThreshold(rtxContext* RT_RESTRICT ctx, TrafficVolumeThreshold value)
+{
+   int stat = 0;
+   if (value > 25) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TrafficVolumeThreshold");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 25);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TrafficVolumeThreshold");
+   return 0;
+}
+
+int asn1PE_UMTS_PendingTimeAfterTrigger(rtxContext* RT_RESTRICT ctx, PendingTimeAfterTrigger value)
+{
+   int stat = 0;
+   if (value > 6) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "PendingTimeAfterTrigger");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PendingTimeAfterTrigger");
+   return 0;
+}
+
+int asn1PE_UMTS_TX_InterruptionAfterTrigger(rtxContext* RT_RESTRICT ctx, TX_InterruptionAfterTrigger value)
+{
+   int stat = 0;
+   if (value > 6) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TX-InterruptionAfterTrigger");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TX-InterruptionAfterTrigger");
+   return 0;
+}
+
+int asn1PE_UMTS_TrafficVolumeEventParam(rtxContext* RT_RESTRICT ctx, const TrafficVolumeEventParam* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TrafficVolumeEventParam");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TrafficVolumeEventParam");
+   /* eventID */
+   if (pvalue->eventID > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->eventID);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TrafficVolumeEventType", "eventID", -1, "TrafficVolumeEventParam");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->eventID, 0, 1);
+   RT_CHECK(ctx, stat, "TrafficVolumeEventType", "eventID", -1, "TrafficVolumeEventParam");
+   /* reportingThreshold */
+   if (pvalue->reportingThreshold > 25) {
+      rtxErrAddUIntParm(ctx, pvalue->reportingThreshold);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TrafficVolumeThreshold", "reportingThreshold", -1, "TrafficVolumeEventParam");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->reportingThreshold, 0, 25);
+   RT_CHECK(ctx, stat, "TrafficVolumeThreshold", "reportingThreshold", -1, "TrafficVolumeEventParam");
+   /* timeToTrigger */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->timeToTrigger > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "TrafficVolumeEventParam");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
+      RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "TrafficVolumeEventParam");
+   }
+   /* pendingTimeAfterTrigger */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->pendingTimeAfterTrigger > 6) {
+         rtxErrAddUIntParm(ctx, pvalue->pendingTimeAfterTrigger);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "PendingTimeAfterTrigger", "pendingTimeAfterTrigger", -1, "TrafficVolumeEventParam");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->pendingTimeAfterTrigger, 0, 6);
+      RT_CHECK(ctx, stat, "PendingTimeAfterTrigger", "pendingTimeAfterTrigger", -1, "TrafficVolumeEventParam");
+   }
+   /* tx-InterruptionAfterTrigger */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->tx_InterruptionAfterTrigger > 6) {
+         rtxErrAddUIntParm(ctx, pvalue->tx_InterruptionAfterTrigger);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TX-InterruptionAfterTrigger", "tx-InterruptionAfterTrigger", -1, "TrafficVolumeEventParam");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->tx_InterruptionAfterTrigger, 0, 6);
+      RT_CHECK(ctx, stat, "TX-InterruptionAfterTrigger", "tx-InterruptionAfterTrigger", -1, "TrafficVolumeEventParam");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransChCriteria_eventSpecificParameters(rtxContext* RT_RESTRICT ctx, const TransChCriteria_eventSpecificParameters* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 2);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "TrafficVolumeEventParam", (int32_t)i, 0);
+      stat = asn1PE_UMTS_TrafficVolumeEventParam(ctx, (const TrafficVolumeEventParam*)node->data);
+      RT_CHECK(ctx, stat, 0, "TrafficVolumeEventParam", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransChCriteria(rtxContext* RT_RESTRICT ctx, const TransChCriteria* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransChCriteria");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransChCriteria");
+   /* ul-transportChannelID */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UL_TrCH_Identity(ctx, &pvalue->ul_transportChannelID);
+      RT_CHECK(ctx, stat, 0, "ul-transportChannelID", -1, "TransChCriteria");
+   }
+   /* eventSpecificParameters */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_TransChCriteria_eventSpecificParameters(ctx, &pvalue->eventSpecificParameters);
+      RT_CHECK(ctx, stat, 0, "eventSpecificParameters", -1, "TransChCriteria");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransChCriteriaList(rtxContext* RT_RESTRICT ctx, const TransChCriteriaList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransChCriteriaList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "TransChCriteriaList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "TransChCriteria", (int32_t)i, "TransChCriteriaList");
+      stat = asn1PE_UMTS_TransChCriteria(ctx, (const TransChCriteria*)node->data);
+      RT_CHECK(ctx, stat, 0, "TransChCriteria", (int32_t)i, "TransChCriteriaList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TrafficVolumeReportingCriteria(rtxContext* RT_RESTRICT ctx, const TrafficVolumeReportingCriteria* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TrafficVolumeReportingCriteria");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TrafficVolumeReportingCriteria");
+   /* transChCriteriaList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TransChCriteriaList(ctx, &pvalue->transChCriteriaList);
+      RT_CHECK(ctx, stat, 0, "transChCriteriaList", -1, "TrafficVolumeReportingCriteria");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementValidity_ue_State(rtxContext* RT_RESTRICT ctx, MeasurementValidity_ue_State value)
+{
+   int stat = 0;
+   if (value > 2) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementValidity(rtxContext* RT_RESTRICT ctx, const MeasurementValidity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementValidity");
+   /* ue-State */
+   if (pvalue->ue_State > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->ue_State);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "ue-State", -1, "MeasurementValidity");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ue_State, 0, 2);
+   RT_CHECK(ctx, stat, 0, "ue-State", -1, "MeasurementValidity");
+   return 0;
+}
+
+int asn1PE_UMTS_TrafficVolumeReportCriteriaSysInfo(rtxContext* RT_RESTRICT ctx, const TrafficVolumeReportCriteriaSysInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TrafficVolumeReportCriteriaSysInfo");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "TrafficVolumeReportCriteriaSysInfo");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TrafficVolumeReportCriteriaSysInfo");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.trafficVolumeReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "trafficVolumeReportingCriteria", -1, "TrafficVolumeReportCriteriaSysInfo");
+         stat = asn1PE_UMTS_TrafficVolumeReportingCriteria(ctx, pvalue->u.trafficVolumeReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "trafficVolumeReportingCriteria", -1, "TrafficVolumeReportCriteriaSysInfo");
+         break;
+      case 2:
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "TrafficVolumeReportCriteriaSysInfo");
+         stat = asn1PE_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "TrafficVolumeReportCriteriaSysInfo");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TrafficVolumeMeasSysInfo(rtxContext* RT_RESTRICT ctx, const TrafficVolumeMeasSysInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TrafficVolumeMeasSysInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->trafficVolumeMeasurementID != 4) << 5) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TrafficVolumeMeasSysInfo");
+   /* trafficVolumeMeasurementID */
+   if (pvalue->trafficVolumeMeasurementID != 4) {
+      if ((uint64_t)(pvalue->trafficVolumeMeasurementID - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "MeasurementIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->trafficVolumeMeasurementID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementIdentity", "trafficVolumeMeasurementID", -1, "TrafficVolumeMeasSysInfo");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->trafficVolumeMeasurementID, 1, 16);
+      RT_CHECK(ctx, stat, "MeasurementIdentity", "trafficVolumeMeasurementID", -1, "TrafficVolumeMeasSysInfo");
+   }
+   /* trafficVolumeMeasurementObjectList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TrafficVolumeMeasurementObjectList(ctx, &pvalue->trafficVolumeMeasurementObjectList);
+      RT_CHECK(ctx, stat, 0, "trafficVolumeMeasurementObjectList", -1, "TrafficVolumeMeasSysInfo");
+   }
+   /* trafficVolumeMeasQuantity */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_TrafficVolumeMeasQuantity(ctx, &pvalue->trafficVolumeMeasQuantity);
+      RT_CHECK(ctx, stat, 0, "trafficVolumeMeasQuantity", -1, "TrafficVolumeMeasSysInfo");
+   }
+   /* trafficVolumeReportingQuantity */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_TrafficVolumeReportingQuantity(ctx, &pvalue->trafficVolumeReportingQuantity);
+      RT_CHECK(ctx, stat, 0, "trafficVolumeReportingQuantity", -1, "TrafficVolumeMeasSysInfo");
+   }
+   /* dummy */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_TrafficVolumeReportingCriteria(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "TrafficVolumeMeasSysInfo");
+   }
+   /* measurementValidity */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "TrafficVolumeMeasSysInfo");
+   }
+   /* measurementReportingMode */
+   stat = asn1PE_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
+   RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "TrafficVolumeMeasSysInfo");
+   /* reportCriteriaSysInf */
+   stat = asn1PE_UMTS_TrafficVolumeReportCriteriaSysInfo(ctx, &pvalue->reportCriteriaSysInf);
+   RT_CHECK(ctx, stat, 0, "reportCriteriaSysInf", -1, "TrafficVolumeMeasSysInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_MeasurementQuantity(rtxContext* RT_RESTRICT ctx, UE_MeasurementQuantity value)
+{
+   int stat = 0;
+   if (value > 2) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UE-MeasurementQuantity");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-MeasurementQuantity");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_InternalMeasQuantity(rtxContext* RT_RESTRICT ctx, const UE_InternalMeasQuantity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-InternalMeasQuantity");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->filterCoefficient != 0) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-InternalMeasQuantity");
+   /* measurementQuantity */
+   if (pvalue->measurementQuantity > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->measurementQuantity);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "UE-MeasurementQuantity", "measurementQuantity", -1, "UE-InternalMeasQuantity");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->measurementQuantity, 0, 2);
+   RT_CHECK(ctx, stat, "UE-MeasurementQuantity", "measurementQuantity", -1, "UE-InternalMeasQuantity");
+   /* filterCoefficient */
+   if (pvalue->filterCoefficient != 0) {
+      if (pvalue->filterCoefficient > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->filterCoefficient);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "FilterCoefficient", "filterCoefficient", -1, "UE-InternalMeasQuantity");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->filterCoefficient, 0, 15);
+      RT_CHECK(ctx, stat, "FilterCoefficient", "filterCoefficient", -1, "UE-InternalMeasQuantity");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_InternalMeasurementSysInfo(rtxContext* RT_RESTRICT ctx, const UE_InternalMeasurementSysInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-InternalMeasurementSysInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->ue_InternalMeasurementID != 5) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-InternalMeasurementSysInfo");
+   /* ue-InternalMeasurementID */
+   if (pvalue->ue_InternalMeasurementID != 5) {
+      if ((uint64_t)(pvalue->ue_InternalMeasurementID - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "MeasurementIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->ue_InternalMeasurementID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementIdentity", "ue-InternalMeasurementID", -1, "UE-InternalMeasurementSysInfo");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ue_InternalMeasurementID, 1, 16);
+      RT_CHECK(ctx, stat, "MeasurementIdentity", "ue-InternalMeasurementID", -1, "UE-InternalMeasurementSysInfo");
+   }
+   /* ue-InternalMeasQuantity */
+   stat = asn1PE_UMTS_UE_InternalMeasQuantity(ctx, &pvalue->ue_InternalMeasQuantity);
+   RT_CHECK(ctx, stat, 0, "ue-InternalMeasQuantity", -1, "UE-InternalMeasurementSysInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfo(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementControlSysInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControlSysInfo");
+   /* use-of-HCS */
+   stat = asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS(ctx, &pvalue->use_of_HCS);
+   RT_CHECK(ctx, stat, 0, "use-of-HCS", -1, "MeasurementControlSysInfo");
+   /* trafficVolumeMeasSysInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TrafficVolumeMeasSysInfo(ctx, &pvalue->trafficVolumeMeasSysInfo);
+      RT_CHECK(ctx, stat, 0, "trafficVolumeMeasSysInfo", -1, "MeasurementControlSysInfo");
+   }
+   /* dummy */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_InternalMeasurementSysInfo(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "MeasurementControlSysInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_FACH_MeasurementOccasionInfo_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const FACH_MeasurementOccasionInfo_LCR_r4_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "FACH-MeasurementOccasionInfo-LCR-r4-ext");
+   /* inter-freq-TDD128-meas-ind */
+   stat = rtxEncBit(ctx, pvalue->inter_freq_TDD128_meas_ind);
+   RT_CHECK(ctx, stat, 0, "inter-freq-TDD128-meas-ind", -1, "FACH-MeasurementOccasionInfo-LCR-r4-ext");
+   return 0;
+}
+
+int asn1PE_UMTS_PrimaryCCPCH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PrimaryCCPCH-Info-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PrimaryCCPCH-Info-LCR-r4");
+   /* tstd-Indicator */
+   stat = rtxEncBit(ctx, pvalue->tstd_Indicator);
+   RT_CHECK(ctx, stat, 0, "tstd-Indicator", -1, "PrimaryCCPCH-Info-LCR-r4");
+   /* cellParametersID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->cellParametersID > 127u) {
+         rtxErrAddStrParm(ctx, "CellParametersID");
+         rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "CellParametersID", "cellParametersID", -1, "PrimaryCCPCH-Info-LCR-r4");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->cellParametersID, 0, 127);
+      RT_CHECK(ctx, stat, "CellParametersID", "cellParametersID", -1, "PrimaryCCPCH-Info-LCR-r4");
+   }
+   /* sctd-Indicator */
+   stat = rtxEncBit(ctx, pvalue->sctd_Indicator);
+   RT_CHECK(ctx, stat, 0, "sctd-Indicator", -1, "PrimaryCCPCH-Info-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_TimeslotInfo_LCR_r4(rtxContext* RT_RESTRICT ctx, const TimeslotInfo_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TimeslotInfo-LCR-r4");
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 6u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "TimeslotInfo-LCR-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 6);
+   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "TimeslotInfo-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_TimeslotInfoList_LCR_r4(rtxContext* RT_RESTRICT ctx, const TimeslotInfoList_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TimeslotInfoList-LCR-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 6);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "TimeslotInfoList-LCR-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "TimeslotInfo-LCR-r4", (int32_t)i, "TimeslotInfoList-LCR-r4");
+      stat = asn1PE_UMTS_TimeslotInfo_LCR_r4(ctx, (const TimeslotInfo_LCR_r4*)node->data);
+      RT_CHECK(ctx, stat, 0, "TimeslotInfo-LCR-r4", (int32_t)i, "TimeslotInfoList-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellInfoSI_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const CellInfoSI_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellInfoSI-RSCP-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 4) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfoSI-RSCP-LCR-r4");
+   /* cellIndividualOffset */
+   if (pvalue->cellIndividualOffset != 0) {
+      if (pvalue->cellIndividualOffset < -20 || pvalue->cellIndividualOffset > 20) {
+         rtxErrAddStrParm(ctx, "CellIndividualOffset");
+         rtxErrAddIntParm(ctx, pvalue->cellIndividualOffset);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-RSCP-LCR-r4");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->cellIndividualOffset, -20, 20);
+      RT_CHECK(ctx, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-RSCP-LCR-r4");
+   }
+   /* referenceTimeDifferenceToCell */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
+      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-RSCP-LCR-r4");
+   }
+   /* primaryCCPCH-Info */
+   stat = asn1PE_UMTS_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->primaryCCPCH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "CellInfoSI-RSCP-LCR-r4");
+   /* primaryCCPCH-TX-Power */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+         rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "CellInfoSI-RSCP-LCR-r4");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
+      RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "CellInfoSI-RSCP-LCR-r4");
+   }
+   /* timeslotInfoList */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_TimeslotInfoList_LCR_r4(ctx, &pvalue->timeslotInfoList);
+      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, "CellInfoSI-RSCP-LCR-r4");
+   }
+   /* readSFN-Indicator */
+   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
+   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, "CellInfoSI-RSCP-LCR-r4");
+   /* cellSelectionReselectionInfo */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_RSCP(ctx, &pvalue->cellSelectionReselectionInfo);
+      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewIntraFreqCellSI_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-RSCP-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-RSCP-LCR-r4");
+   /* intraFreqCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->intraFreqCellID > 31u) {
+         rtxErrAddStrParm(ctx, "IntraFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->intraFreqCellID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-RSCP-LCR-r4");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->intraFreqCellID, 0, 31);
+      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-RSCP-LCR-r4");
+   }
+   /* cellInfo */
+   stat = asn1PE_UMTS_CellInfoSI_RSCP_LCR_r4(ctx, &pvalue->cellInfo);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-RSCP-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_NewIntraFreqCellSI_List_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-List-RSCP-LCR-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-List-RSCP-LCR-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewIntraFreqCellSI-RSCP-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-RSCP-LCR-r4");
+      stat = asn1PE_UMTS_NewIntraFreqCellSI_RSCP_LCR_r4(ctx, (const NewIntraFreqCellSI_RSCP_LCR_r4*)node->data);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-RSCP-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqCellInfoSI_List_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqCellInfoSI-List-RSCP-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-RSCP-LCR-r4");
+   /* removedIntraFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
+      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-RSCP-LCR-r4");
+   }
+   /* newIntraFreqCellList */
+   stat = asn1PE_UMTS_NewIntraFreqCellSI_List_RSCP_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
+   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-RSCP-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_ForbiddenAffectCell_LCR_r4(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCell_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ForbiddenAffectCell-LCR-r4");
+   /* tdd */
+   stat = asn1PE_UMTS_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->tdd);
+   RT_CHECK(ctx, stat, 0, "tdd", -1, "ForbiddenAffectCell-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_ForbiddenAffectCellList_LCR_r4(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCellList_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ForbiddenAffectCellList-LCR-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "ForbiddenAffectCellList-LCR-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ForbiddenAffectCell-LCR-r4", (int32_t)i, "ForbiddenAffectCellList-LCR-r4");
+      stat = asn1PE_UMTS_ForbiddenAffectCell_LCR_r4(ctx, (const ForbiddenAffectCell_LCR_r4*)node->data);
+      RT_CHECK(ctx, stat, 0, "ForbiddenAffectCell-LCR-r4", (int32_t)i, "ForbiddenAffectCellList-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Event1a_LCR_r4(rtxContext* RT_RESTRICT ctx, const Event1a_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event1a-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Event1a-LCR-r4");
+   /* triggeringCondition */
+   if (pvalue->triggeringCondition > 4) {
+      rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TriggeringCondition2", "triggeringCondition", -1, "Event1a-LCR-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 4);
+   RT_CHECK(ctx, stat, "TriggeringCondition2", "triggeringCondition", -1, "Event1a-LCR-r4");
+   /* reportingRange */
+   if ((uint64_t)pvalue->reportingRange > 29u) {
+      rtxErrAddStrParm(ctx, "ReportingRange");
+      rtxErrAddUIntParm(ctx, pvalue->reportingRange);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "ReportingRange", "reportingRange", -1, "Event1a-LCR-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->reportingRange, 0, 29);
+   RT_CHECK(ctx, stat, "ReportingRange", "reportingRange", -1, "Event1a-LCR-r4");
+   /* forbiddenAffectCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ForbiddenAffectCellList_LCR_r4(ctx, &pvalue->forbiddenAffectCellList);
+      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellList", -1, "Event1a-LCR-r4");
+   }
+   /* w */
+   if ((uint64_t)pvalue->w > 20u) {
+      rtxErrAddStrParm(ctx, "W");
+      rtxErrAddUIntParm(ctx, pvalue->w);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "w", -1, "Event1a-LCR-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->w, 0, 20);
+   RT_CHECK(ctx, stat, "W", "w", -1, "Event1a-LCR-r4");
+   /* reportDeactivationThreshold */
+   if (pvalue->reportDeactivationThreshold > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->reportDeactivationThreshold);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportDeactivationThreshold", "reportDeactivationThreshold", -1, "Event1a-LCR-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->reportDeactivationThreshold, 0, 7);
+   RT_CHECK(ctx, stat, "ReportDeactivationThreshold", "reportDeactivationThreshold", -1, "Event1a-LCR-r4");
+   /* reportingAmount */
+   if (pvalue->reportingAmount > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->reportingAmount);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportingAmount", "reportingAmount", -1, "Event1a-LCR-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->reportingAmount, 0, 7);
+   RT_CHECK(ctx, stat, "ReportingAmount", "reportingAmount", -1, "Event1a-LCR-r4");
+   /* reportingInterval */
+   if (pvalue->reportingInterval > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->reportingInterval);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportingInterval", "reportingInterval", -1, "Event1a-LCR-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->reportingInterval, 0, 7);
+   RT_CHECK(ctx, stat, "ReportingInterval", "reportingInterval", -1, "Event1a-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_Event1b_LCR_r4(rtxContext* RT_RESTRICT ctx, const Event1b_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event1b-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Event1b-LCR-r4");
+   /* triggeringCondition */
+   if (pvalue->triggeringCondition > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TriggeringCondition1", "triggeringCondition", -1, "Event1b-LCR-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 2);
+   RT_CHECK(ctx, stat, "TriggeringCondition1", "triggeringCondition", -1, "Event1b-LCR-r4");
+   /* reportingRange */
+   if ((uint64_t)pvalue->reportingRange > 29u) {
+      rtxErrAddStrParm(ctx, "ReportingRange");
+      rtxErrAddUIntParm(ctx, pvalue->reportingRange);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "ReportingRange", "reportingRange", -1, "Event1b-LCR-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->reportingRange, 0, 29);
+   RT_CHECK(ctx, stat, "ReportingRange", "reportingRange", -1, "Event1b-LCR-r4");
+   /* forbiddenAffectCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ForbiddenAffectCellList_LCR_r4(ctx, &pvalue->forbiddenAffectCellList);
+      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellList", -1, "Event1b-LCR-r4");
+   }
+   /* w */
+   if ((uint64_t)pvalue->w > 20u) {
+      rtxErrAddStrParm(ctx, "W");
+      rtxErrAddUIntParm(ctx, pvalue->w);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "w", -1, "Event1b-LCR-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->w, 0, 20);
+   RT_CHECK(ctx, stat, "W", "w", -1, "Event1b-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqEvent_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqEvent_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEvent-LCR-r4");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 8);
+   RT_CHECK(ctx, stat, 0, "t", -1, "IntraFreqEvent-LCR-r4");
+   if (pvalue->t - 1 > 8) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqEvent-LCR-r4");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.e1a == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1a", -1, "IntraFreqEvent-LCR-r4");
+         stat = asn1PE_UMTS_Event1a_LCR_r4(ctx, pvalue->u.e1a);
+         RT_CHECK(ctx, stat, 0, "e1a", -1, "IntraFreqEvent-LCR-r4");
+         break;
+      case 2:
+         if (pvalue->u.e1b == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1b", -1, "IntraFreqEvent-LCR-r4");
+         stat = asn1PE_UMTS_Event1b_LCR_r4(ctx, pvalue->u.e1b);
+         RT_CHECK(ctx, stat, 0, "e1b", -1, "IntraFreqEvent-LCR-r4");
+         break;
+      case 3:
+         if (pvalue->u.e1c == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1c", -1, "IntraFreqEvent-LCR-r4");
+         stat = asn1PE_UMTS_Event1c(ctx, pvalue->u.e1c);
+         RT_CHECK(ctx, stat, 0, "e1c", -1, "IntraFreqEvent-LCR-r4");
+         break;
+      case 4:
+         break;
+      case 5:
+         if (pvalue->u.e1e == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1e", -1, "IntraFreqEvent-LCR-r4");
+         stat = asn1PE_UMTS_Event1e(ctx, pvalue->u.e1e);
+         RT_CHECK(ctx, stat, 0, "e1e", -1, "IntraFreqEvent-LCR-r4");
+         break;
+      case 6:
+         if (pvalue->u.e1f == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1f", -1, "IntraFreqEvent-LCR-r4");
+         stat = asn1PE_UMTS_Event1f(ctx, pvalue->u.e1f);
+         RT_CHECK(ctx, stat, 0, "e1f", -1, "IntraFreqEvent-LCR-r4");
+         break;
+      case 7:
+         break;
+      case 8:
+         if (pvalue->u.e1h < -115 || pvalue->u.e1h > 165) {
+            rtxErrAddStrParm(ctx, "ThresholdUsedFrequency");
+            rtxErrAddIntParm(ctx, pvalue->u.e1h);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "ThresholdUsedFrequency", "e1h", -1, "IntraFreqEvent-LCR-r4");
+         }
+         stat = pe_ConsInt64(ctx, pvalue->u.e1h, -115, 165);
+         RT_CHECK(ctx, stat, "ThresholdUsedFrequency", "e1h", -1, "IntraFreqEvent-LCR-r4");
+         break;
+      case 9:
+         if (pvalue->u.e1i < -115 || pvalue->u.e1i > 165) {
+            rtxErrAddStrParm(ctx, "ThresholdUsedFrequency");
+            rtxErrAddIntParm(ctx, pvalue->u.e1i);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "ThresholdUsedFrequency", "e1i", -1, "IntraFreqEvent-LCR-r4");
+         }
+         stat = pe_ConsInt64(ctx, pvalue->u.e1i, -115, 165);
+         RT_CHECK(ctx, stat, "ThresholdUsedFrequency", "e1i", -1, "IntraFreqEvent-LCR-r4");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqEventCriteria_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteria_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventCriteria-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEventCriteria-LCR-r4");
+   /* event */
+   stat = asn1PE_UMTS_IntraFreqEvent_LCR_r4(ctx, &pvalue->event);
+   RT_CHECK(ctx, stat, 0, "event", -1, "IntraFreqEventCriteria-LCR-r4");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 15u) {
+      rtxErrAddStrParm(ctx, "Hysteresis");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria-LCR-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 15);
+   RT_CHECK(ctx, stat, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria-LCR-r4");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria-LCR-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria-LCR-r4");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "IntraFreqEventCriteria-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqEventCriteriaList_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaList_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventCriteriaList-LCR-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "IntraFreqEventCriteriaList-LCR-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "IntraFreqEventCriteria-LCR-r4", (int32_t)i, "IntraFreqEventCriteriaList-LCR-r4");
+      stat = asn1PE_UMTS_IntraFreqEventCriteria_LCR_r4(ctx, (const IntraFreqEventCriteria_LCR_r4*)node->data);
+      RT_CHECK(ctx, stat, 0, "IntraFreqEventCriteria-LCR-r4", (int32_t)i, "IntraFreqEventCriteriaList-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqReportingCriteria_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingCriteria_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqReportingCriteria-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqReportingCriteria-LCR-r4");
+   /* eventCriteriaList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntraFreqEventCriteriaList_LCR_r4(ctx, &pvalue->eventCriteriaList);
+      RT_CHECK(ctx, stat, 0, "eventCriteriaList", -1, "IntraFreqReportingCriteria-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellDCH_ReportCriteria_LCR_r4(rtxContext* RT_RESTRICT ctx, const CellDCH_ReportCriteria_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellDCH-ReportCriteria-LCR-r4");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "CellDCH-ReportCriteria-LCR-r4");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CellDCH-ReportCriteria-LCR-r4");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFreqReportingCriteria", -1, "CellDCH-ReportCriteria-LCR-r4");
+         stat = asn1PE_UMTS_IntraFreqReportingCriteria_LCR_r4(ctx, pvalue->u.intraFreqReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "CellDCH-ReportCriteria-LCR-r4");
+         break;
+      case 2:
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "CellDCH-ReportCriteria-LCR-r4");
+         stat = asn1PE_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "CellDCH-ReportCriteria-LCR-r4");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ReportingInfoForCellDCH_LCR_r4(rtxContext* RT_RESTRICT ctx, const ReportingInfoForCellDCH_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ReportingInfoForCellDCH-LCR-r4");
+   /* intraFreqReportingQuantity */
+   stat = asn1PE_UMTS_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity);
+   RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantity", -1, "ReportingInfoForCellDCH-LCR-r4");
+   /* measurementReportingMode */
+   stat = asn1PE_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
+   RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "ReportingInfoForCellDCH-LCR-r4");
+   /* reportCriteria */
+   stat = asn1PE_UMTS_CellDCH_ReportCriteria_LCR_r4(ctx, &pvalue->reportCriteria);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "ReportingInfoForCellDCH-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqMeasurementSysInfo_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->intraFreqMeasurementID != 1) << 5) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
+   /* intraFreqMeasurementID */
+   if (pvalue->intraFreqMeasurementID != 1) {
+      if ((uint64_t)(pvalue->intraFreqMeasurementID - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "MeasurementIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->intraFreqMeasurementID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->intraFreqMeasurementID, 1, 16);
+      RT_CHECK(ctx, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
+   }
+   /* intraFreqCellInfoSI-List */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntraFreqCellInfoSI_List_RSCP_LCR_r4(ctx, &pvalue->intraFreqCellInfoSI_List);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
+   }
+   /* intraFreqMeasQuantity */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
+   }
+   /* intraFreqReportingQuantityForRACH */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
+   }
+   /* maxReportedCellsOnRACH */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->maxReportedCellsOnRACH > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->maxReportedCellsOnRACH);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->maxReportedCellsOnRACH, 0, 7);
+      RT_CHECK(ctx, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
+   }
+   /* reportingInfoForCellDCH */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_ReportingInfoForCellDCH_LCR_r4(ctx, &pvalue->reportingInfoForCellDCH);
+      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellSI_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-RSCP-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-RSCP-LCR-r4");
+   /* interFreqCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->interFreqCellID > 31u) {
+         rtxErrAddStrParm(ctx, "InterFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-RSCP-LCR-r4");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->interFreqCellID, 0, 31);
+      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-RSCP-LCR-r4");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-RSCP-LCR-r4");
+   }
+   /* cellInfo */
+   stat = asn1PE_UMTS_CellInfoSI_RSCP_LCR_r4(ctx, &pvalue->cellInfo);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-RSCP-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellSI_List_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_List_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-List-RSCP-LCR-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-List-RSCP-LCR-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewInterFreqCellSI-RSCP-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-RSCP-LCR-r4");
+      stat = asn1PE_UMTS_NewInterFreqCellSI_RSCP_LCR_r4(ctx, (const NewInterFreqCellSI_RSCP_LCR_r4*)node->data);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-RSCP-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqCellInfoSI_List_RSCP_LCR(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoSI_List_RSCP_LCR* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellInfoSI-List-RSCP-LCR");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoSI-List-RSCP-LCR");
+   /* removedInterFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-RSCP-LCR");
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_NewInterFreqCellSI_List_RSCP_LCR_r4(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-RSCP-LCR");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqMeasurementSysInfo_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const InterFreqMeasurementSysInfo_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasurementSysInfo-RSCP-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-RSCP-LCR-r4");
+   /* interFreqCellInfoSI-List */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterFreqCellInfoSI_List_RSCP_LCR(ctx, &pvalue->interFreqCellInfoSI_List);
+      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* intraFreqMeasurementSysInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntraFreqMeasurementSysInfo_RSCP_LCR_r4(ctx, &pvalue->intraFreqMeasurementSysInfo);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
+   }
+   /* interFreqMeasurementSysInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_InterFreqMeasurementSysInfo_RSCP_LCR_r4(ctx, &pvalue->interFreqMeasurementSysInfo);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellInfoSI_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const CellInfoSI_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellInfoSI-ECN0-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 4) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfoSI-ECN0-LCR-r4");
+   /* cellIndividualOffset */
+   if (pvalue->cellIndividualOffset != 0) {
+      if (pvalue->cellIndividualOffset < -20 || pvalue->cellIndividualOffset > 20) {
+         rtxErrAddStrParm(ctx, "CellIndividualOffset");
+         rtxErrAddIntParm(ctx, pvalue->cellIndividualOffset);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-ECN0-LCR-r4");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->cellIndividualOffset, -20, 20);
+      RT_CHECK(ctx, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-ECN0-LCR-r4");
+   }
+   /* referenceTimeDifferenceToCell */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
+      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-ECN0-LCR-r4");
+   }
+   /* primaryCCPCH-Info */
+   stat = asn1PE_UMTS_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->primaryCCPCH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "CellInfoSI-ECN0-LCR-r4");
+   /* primaryCCPCH-TX-Power */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+         rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "CellInfoSI-ECN0-LCR-r4");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
+      RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "CellInfoSI-ECN0-LCR-r4");
+   }
+   /* timeslotInfoList */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_TimeslotInfoList_LCR_r4(ctx, &pvalue->timeslotInfoList);
+      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, "CellInfoSI-ECN0-LCR-r4");
+   }
+   /* readSFN-Indicator */
+   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
+   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, "CellInfoSI-ECN0-LCR-r4");
+   /* cellSelectionReselectionInfo */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_ECN0(ctx, &pvalue->cellSelectionReselectionInfo);
+      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewIntraFreqCellSI_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-ECN0-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-ECN0-LCR-r4");
+   /* intraFreqCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->intraFreqCellID > 31u) {
+         rtxErrAddStrParm(ctx, "IntraFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->intraFreqCellID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-ECN0-LCR-r4");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->intraFreqCellID, 0, 31);
+      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-ECN0-LCR-r4");
+   }
+   /* cellInfo */
+   stat = asn1PE_UMTS_CellInfoSI_ECN0_LCR_r4(ctx, &pvalue->cellInfo);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-ECN0-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_NewIntraFreqCellSI_List_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-List-ECN0-LCR-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-List-ECN0-LCR-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewIntraFreqCellSI-ECN0-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-ECN0-LCR-r4");
+      stat = asn1PE_UMTS_NewIntraFreqCellSI_ECN0_LCR_r4(ctx, (const NewIntraFreqCellSI_ECN0_LCR_r4*)node->data);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-ECN0-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqCellInfoSI_List_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqCellInfoSI-List-ECN0-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-ECN0-LCR-r4");
+   /* removedIntraFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
+      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-ECN0-LCR-r4");
+   }
+   /* newIntraFreqCellList */
+   stat = asn1PE_UMTS_NewIntraFreqCellSI_List_ECN0_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
+   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-ECN0-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqMeasurementSysInfo_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->intraFreqMeasurementID != 1) << 5) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
+   /* intraFreqMeasurementID */
+   if (pvalue->intraFreqMeasurementID != 1) {
+      if ((uint64_t)(pvalue->intraFreqMeasurementID - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "MeasurementIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->intraFreqMeasurementID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->intraFreqMeasurementID, 1, 16);
+      RT_CHECK(ctx, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
+   }
+   /* intraFreqCellInfoSI-List */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntraFreqCellInfoSI_List_ECN0_LCR_r4(ctx, &pvalue->intraFreqCellInfoSI_List);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
+   }
+   /* intraFreqMeasQuantity */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
+   }
+   /* intraFreqReportingQuantityForRACH */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
+   }
+   /* maxReportedCellsOnRACH */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->maxReportedCellsOnRACH > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->maxReportedCellsOnRACH);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->maxReportedCellsOnRACH, 0, 7);
+      RT_CHECK(ctx, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
+   }
+   /* reportingInfoForCellDCH */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_ReportingInfoForCellDCH_LCR_r4(ctx, &pvalue->reportingInfoForCellDCH);
+      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellSI_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-ECN0-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-ECN0-LCR-r4");
+   /* interFreqCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->interFreqCellID > 31u) {
+         rtxErrAddStrParm(ctx, "InterFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-ECN0-LCR-r4");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->interFreqCellID, 0, 31);
+      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-ECN0-LCR-r4");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-ECN0-LCR-r4");
+   }
+   /* cellInfo */
+   stat = asn1PE_UMTS_CellInfoSI_ECN0_LCR_r4(ctx, &pvalue->cellInfo);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-ECN0-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellSI_List_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_List_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-List-ECN0-LCR-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-List-ECN0-LCR-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewInterFreqCellSI-ECN0-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-ECN0-LCR-r4");
+      stat = asn1PE_UMTS_NewInterFreqCellSI_ECN0_LCR_r4(ctx, (const NewInterFreqCellSI_ECN0_LCR_r4*)node->data);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-ECN0-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqCellInfoSI_List_ECN0_LCR(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoSI_List_ECN0_LCR* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellInfoSI-List-ECN0-LCR");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoSI-List-ECN0-LCR");
+   /* removedInterFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-ECN0-LCR");
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_NewInterFreqCellSI_List_ECN0_LCR_r4(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-ECN0-LCR");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqMeasurementSysInfo_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const InterFreqMeasurementSysInfo_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasurementSysInfo-ECN0-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-ECN0-LCR-r4");
+   /* interFreqCellInfoSI-List */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterFreqCellInfoSI_List_ECN0_LCR(ctx, &pvalue->interFreqCellInfoSI_List);
+      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* intraFreqMeasurementSysInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntraFreqMeasurementSysInfo_ECN0_LCR_r4(ctx, &pvalue->intraFreqMeasurementSysInfo);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
+   }
+   /* interFreqMeasurementSysInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_InterFreqMeasurementSysInfo_ECN0_LCR_r4(ctx, &pvalue->interFreqMeasurementSysInfo);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.cpich_RSCP == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cpich-RSCP", -1, 0);
+         stat = asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
+         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cpich-Ec-N0", -1, 0);
+         stat = asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
+         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* cellSelectQualityMeasure */
+   stat = asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
+   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellInfoSI_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellInfoSI-HCS-RSCP-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 4) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfoSI-HCS-RSCP-LCR-r4");
+   /* cellIndividualOffset */
+   if (pvalue->cellIndividualOffset != 0) {
+      if (pvalue->cellIndividualOffset < -20 || pvalue->cellIndividualOffset > 20) {
+         rtxErrAddStrParm(ctx, "CellIndividualOffset");
+         rtxErrAddIntParm(ctx, pvalue->cellIndividualOffset);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->cellIndividualOffset, -20, 20);
+      RT_CHECK(ctx, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
+   }
+   /* referenceTimeDifferenceToCell */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
+      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
+   }
+   /* primaryCCPCH-Info */
+   stat = asn1PE_UMTS_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->primaryCCPCH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
+   /* primaryCCPCH-TX-Power */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+         rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
+      RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
+   }
+   /* timeslotInfoList */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_TimeslotInfoList_LCR_r4(ctx, &pvalue->timeslotInfoList);
+      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
+   }
+   /* readSFN-Indicator */
+   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
+   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
+   /* cellSelectionReselectionInfo */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP(ctx, &pvalue->cellSelectionReselectionInfo);
+      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewIntraFreqCellSI_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4");
+   /* intraFreqCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->intraFreqCellID > 31u) {
+         rtxErrAddStrParm(ctx, "IntraFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->intraFreqCellID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->intraFreqCellID, 0, 31);
+      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4");
+   }
+   /* cellInfo */
+   stat = asn1PE_UMTS_CellInfoSI_HCS_RSCP_LCR_r4(ctx, &pvalue->cellInfo);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-List-HCS-RSCP-LCR-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-List-HCS-RSCP-LCR-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-HCS-RSCP-LCR-r4");
+      stat = asn1PE_UMTS_NewIntraFreqCellSI_HCS_RSCP_LCR_r4(ctx, (const NewIntraFreqCellSI_HCS_RSCP_LCR_r4*)node->data);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-HCS-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqCellInfoSI_List_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqCellInfoSI-List-HCS-RSCP-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-HCS-RSCP-LCR-r4");
+   /* removedIntraFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
+      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-RSCP-LCR-r4");
+   }
+   /* newIntraFreqCellList */
+   stat = asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
+   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-RSCP-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->intraFreqMeasurementID != 1) << 5) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   /* intraFreqMeasurementID */
+   if (pvalue->intraFreqMeasurementID != 1) {
+      if ((uint64_t)(pvalue->intraFreqMeasurementID - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "MeasurementIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->intraFreqMeasurementID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->intraFreqMeasurementID, 1, 16);
+      RT_CHECK(ctx, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   }
+   /* intraFreqCellInfoSI-List */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntraFreqCellInfoSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->intraFreqCellInfoSI_List);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   }
+   /* intraFreqMeasQuantity */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   }
+   /* intraFreqReportingQuantityForRACH */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   }
+   /* maxReportedCellsOnRACH */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->maxReportedCellsOnRACH > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->maxReportedCellsOnRACH);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->maxReportedCellsOnRACH, 0, 7);
+      RT_CHECK(ctx, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   }
+   /* reportingInfoForCellDCH */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_ReportingInfoForCellDCH_LCR_r4(ctx, &pvalue->reportingInfoForCellDCH);
+      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellSI_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-HCS-RSCP-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-HCS-RSCP-LCR-r4");
+   /* interFreqCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->interFreqCellID > 31u) {
+         rtxErrAddStrParm(ctx, "InterFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-HCS-RSCP-LCR-r4");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->interFreqCellID, 0, 31);
+      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-HCS-RSCP-LCR-r4");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-HCS-RSCP-LCR-r4");
+   }
+   /* cellInfo */
+   stat = asn1PE_UMTS_CellInfoSI_HCS_RSCP_LCR_r4(ctx, &pvalue->cellInfo);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-HCS-RSCP-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellSI_List_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_List_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-List-HCS-RSCP-LCR-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-List-HCS-RSCP-LCR-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewInterFreqCellSI-HCS-RSCP-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-HCS-RSCP-LCR-r4");
+      stat = asn1PE_UMTS_NewInterFreqCellSI_HCS_RSCP_LCR_r4(ctx, (const NewInterFreqCellSI_HCS_RSCP_LCR_r4*)node->data);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-HCS-RSCP-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-HCS-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqCellInfoSI_List_HCS_RSCP_LCR(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoSI_List_HCS_RSCP_LCR* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellInfoSI-List-HCS-RSCP-LCR");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoSI-List-HCS-RSCP-LCR");
+   /* removedInterFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-RSCP-LCR");
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_NewInterFreqCellSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-RSCP-LCR");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const InterFreqMeasurementSysInfo_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   /* interFreqCellInfoSI-List */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterFreqCellInfoSI_List_HCS_RSCP_LCR(ctx, &pvalue->interFreqCellInfoSI_List);
+      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* intraFreqMeasurementSysInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntraFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(ctx, &pvalue->intraFreqMeasurementSysInfo);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
+   }
+   /* interFreqMeasurementSysInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_InterFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(ctx, &pvalue->interFreqMeasurementSysInfo);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellInfoSI_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellInfoSI-HCS-ECN0-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 4) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfoSI-HCS-ECN0-LCR-r4");
+   /* cellIndividualOffset */
+   if (pvalue->cellIndividualOffset != 0) {
+      if (pvalue->cellIndividualOffset < -20 || pvalue->cellIndividualOffset > 20) {
+         rtxErrAddStrParm(ctx, "CellIndividualOffset");
+         rtxErrAddIntParm(ctx, pvalue->cellIndividualOffset);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->cellIndividualOffset, -20, 20);
+      RT_CHECK(ctx, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
+   }
+   /* referenceTimeDifferenceToCell */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
+      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
+   }
+   /* primaryCCPCH-Info */
+   stat = asn1PE_UMTS_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->primaryCCPCH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
+   /* primaryCCPCH-TX-Power */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+         rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
+      RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
+   }
+   /* timeslotInfoList */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_TimeslotInfoList_LCR_r4(ctx, &pvalue->timeslotInfoList);
+      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
+   }
+   /* readSFN-Indicator */
+   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
+   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
+   /* cellSelectionReselectionInfo */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0(ctx, &pvalue->cellSelectionReselectionInfo);
+      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewIntraFreqCellSI_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4");
+   /* intraFreqCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->intraFreqCellID > 31u) {
+         rtxErrAddStrParm(ctx, "IntraFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->intraFreqCellID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->intraFreqCellID, 0, 31);
+      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4");
+   }
+   /* cellInfo */
+   stat = asn1PE_UMTS_CellInfoSI_HCS_ECN0_LCR_r4(ctx, &pvalue->cellInfo);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-List-HCS-ECN0-LCR-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-List-HCS-ECN0-LCR-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-HCS-ECN0-LCR-r4");
+      stat = asn1PE_UMTS_NewIntraFreqCellSI_HCS_ECN0_LCR_r4(ctx, (const NewIntraFreqCellSI_HCS_ECN0_LCR_r4*)node->data);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-HCS-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqCellInfoSI_List_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqCellInfoSI-List-HCS-ECN0-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-HCS-ECN0-LCR-r4");
+   /* removedIntraFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
+      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-ECN0-LCR-r4");
+   }
+   /* newIntraFreqCellList */
+   stat = asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
+   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-ECN0-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->intraFreqMeasurementID != 1) << 5) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   /* intraFreqMeasurementID */
+   if (pvalue->intraFreqMeasurementID != 1) {
+      if ((uint64_t)(pvalue->intraFreqMeasurementID - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "MeasurementIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->intraFreqMeasurementID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->intraFreqMeasurementID, 1, 16);
+      RT_CHECK(ctx, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   }
+   /* intraFreqCellInfoSI-List */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntraFreqCellInfoSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->intraFreqCellInfoSI_List);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   }
+   /* intraFreqMeasQuantity */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   }
+   /* intraFreqReportingQuantityForRACH */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   }
+   /* maxReportedCellsOnRACH */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->maxReportedCellsOnRACH > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->maxReportedCellsOnRACH);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->maxReportedCellsOnRACH, 0, 7);
+      RT_CHECK(ctx, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   }
+   /* reportingInfoForCellDCH */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_ReportingInfoForCellDCH_LCR_r4(ctx, &pvalue->reportingInfoForCellDCH);
+      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellSI_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-HCS-ECN0-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-HCS-ECN0-LCR-r4");
+   /* interFreqCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->interFreqCellID > 31u) {
+         rtxErrAddStrParm(ctx, "InterFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-HCS-ECN0-LCR-r4");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->interFreqCellID, 0, 31);
+      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-HCS-ECN0-LCR-r4");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-HCS-ECN0-LCR-r4");
+   }
+   /* cellInfo */
+   stat = asn1PE_UMTS_CellInfoSI_HCS_ECN0_LCR_r4(ctx, &pvalue->cellInfo);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-HCS-ECN0-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellSI_List_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_List_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-List-HCS-ECN0-LCR-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-List-HCS-ECN0-LCR-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewInterFreqCellSI-HCS-ECN0-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-HCS-ECN0-LCR-r4");
+      stat = asn1PE_UMTS_NewInterFreqCellSI_HCS_ECN0_LCR_r4(ctx, (const NewInterFreqCellSI_HCS_ECN0_LCR_r4*)node->data);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-HCS-ECN0-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-HCS-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqCellInfoSI_List_HCS_ECN0_LCR(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoSI_List_HCS_ECN0_LCR* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellInfoSI-List-HCS-ECN0-LCR");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoSI-List-HCS-ECN0-LCR");
+   /* removedInterFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-ECN0-LCR");
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_NewInterFreqCellSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-ECN0-LCR");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const InterFreqMeasurementSysInfo_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   /* interFreqCellInfoSI-List */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterFreqCellInfoSI_List_HCS_ECN0_LCR(ctx, &pvalue->interFreqCellInfoSI_List);
+      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* intraFreqMeasurementSysInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntraFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(ctx, &pvalue->intraFreqMeasurementSysInfo);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
+   }
+   /* interFreqMeasurementSysInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_InterFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(ctx, &pvalue->interFreqMeasurementSysInfo);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.cpich_RSCP == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cpich-RSCP", -1, 0);
+         stat = asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
+         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cpich-Ec-N0", -1, 0);
+         stat = asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
+         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* cellSelectQualityMeasure */
+   stat = asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
+   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.hcs_not_used == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "hcs-not-used", -1, 0);
+         stat = asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used(ctx, pvalue->u.hcs_not_used);
+         RT_CHECK(ctx, stat, 0, "hcs-not-used", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.hcs_used == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "hcs-used", -1, 0);
+         stat = asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used(ctx, pvalue->u.hcs_used);
+         RT_CHECK(ctx, stat, 0, "hcs-used", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementControlSysInfo-LCR-r4-ext");
+   /* use-of-HCS */
+   stat = asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS(ctx, &pvalue->use_of_HCS);
+   RT_CHECK(ctx, stat, 0, "use-of-HCS", -1, "MeasurementControlSysInfo-LCR-r4-ext");
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType11-v4b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11-v4b0ext-IEs");
+   /* fach-MeasurementOccasionInfo-LCR-Ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_FACH_MeasurementOccasionInfo_LCR_r4_ext(ctx, &pvalue->fach_MeasurementOccasionInfo_LCR_Ext);
+      RT_CHECK(ctx, stat, 0, "fach-MeasurementOccasionInfo-LCR-Ext", -1, "SysInfoType11-v4b0ext-IEs");
+   }
+   /* measurementControlSysInfo-LCR */
+   stat = asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext(ctx, &pvalue->measurementControlSysInfo_LCR);
+   RT_CHECK(ctx, stat, 0, "measurementControlSysInfo-LCR", -1, "SysInfoType11-v4b0ext-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+      stat = asn1PE_UMTS_CellSelectReselectInfo_v590ext(ctx, (const CellSelectReselectInfo_v590ext*)node->data);
+      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v590ext_IEs_newInterFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+      stat = asn1PE_UMTS_CellSelectReselectInfo_v590ext(ctx, (const CellSelectReselectInfo_v590ext*)node->data);
+      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11_v590ext_IEs_newInterRATCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v590ext_IEs_newInterRATCellInfoList_v590ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+      stat = asn1PE_UMTS_CellSelectReselectInfo_v590ext(ctx, (const CellSelectReselectInfo_v590ext*)node->data);
+      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Intra_FreqEventCriteriaList_v590ext(rtxContext* RT_RESTRICT ctx, const Intra_FreqEventCriteriaList_v590ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Intra-FreqEventCriteriaList-v590ext");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "Intra-FreqEventCriteriaList-v590ext");
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] < -5 || pvalue->elem[i] > -1) {
+         rtxErrAddStrParm(ctx, "DeltaRSCP");
+         rtxErrAddIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaRSCP", "DeltaRSCP", (int32_t)i, "Intra-FreqEventCriteriaList-v590ext");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->elem[i], -5, -1);
+      RT_CHECK(ctx, stat, "DeltaRSCP", "DeltaRSCP", (int32_t)i, "Intra-FreqEventCriteriaList-v590ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PeriodicReportingInfo_1b(rtxContext* RT_RESTRICT ctx, const PeriodicReportingInfo_1b* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PeriodicReportingInfo-1b");
+   /* reportingAmount */
+   if (pvalue->reportingAmount > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->reportingAmount);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportingAmount", "reportingAmount", -1, "PeriodicReportingInfo-1b");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->reportingAmount, 0, 7);
+   RT_CHECK(ctx, stat, "ReportingAmount", "reportingAmount", -1, "PeriodicReportingInfo-1b");
+   /* reportingInterval */
+   if (pvalue->reportingInterval > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->reportingInterval);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportingInterval", "reportingInterval", -1, "PeriodicReportingInfo-1b");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->reportingInterval, 0, 7);
+   RT_CHECK(ctx, stat, "ReportingInterval", "reportingInterval", -1, "PeriodicReportingInfo-1b");
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqReportingCriteria_1b_r5(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingCriteria_1b_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqReportingCriteria-1b-r5");
+   /* periodicReportingInfo-1b */
+   stat = asn1PE_UMTS_PeriodicReportingInfo_1b(ctx, &pvalue->periodicReportingInfo_1b);
+   RT_CHECK(ctx, stat, 0, "periodicReportingInfo-1b", -1, "IntraFreqReportingCriteria-1b-r5");
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqEvent_1d_r5(rtxContext* RT_RESTRICT ctx, const IntraFreqEvent_1d_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEvent-1d-r5");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEvent-1d-r5");
+   /* triggeringCondition */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->triggeringCondition > 4) {
+         rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TriggeringCondition2", "triggeringCondition", -1, "IntraFreqEvent-1d-r5");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 4);
+      RT_CHECK(ctx, stat, "TriggeringCondition2", "triggeringCondition", -1, "IntraFreqEvent-1d-r5");
+   }
+   /* useCIO */
+   if (pvalue->m & 0x2u) {
+      stat = rtxEncBit(ctx, pvalue->useCIO);
+      RT_CHECK(ctx, stat, 0, "useCIO", -1, "IntraFreqEvent-1d-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType11-v590ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11-v590ext-IEs");
+   /* newIntraFrequencyCellInfoList-v590ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType11_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(ctx, &pvalue->newIntraFrequencyCellInfoList_v590ext);
+      RT_CHECK(ctx, stat, 0, "newIntraFrequencyCellInfoList-v590ext", -1, "SysInfoType11-v590ext-IEs");
+   }
+   /* newInterFrequencyCellInfoList-v590ext */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_SysInfoType11_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(ctx, &pvalue->newInterFrequencyCellInfoList_v590ext);
+      RT_CHECK(ctx, stat, 0, "newInterFrequencyCellInfoList-v590ext", -1, "SysInfoType11-v590ext-IEs");
+   }
+   /* newInterRATCellInfoList-v590ext */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_SysInfoType11_v590ext_IEs_newInterRATCellInfoList_v590ext(ctx, &pvalue->newInterRATCellInfoList_v590ext);
+      RT_CHECK(ctx, stat, 0, "newInterRATCellInfoList-v590ext", -1, "SysInfoType11-v590ext-IEs");
+   }
+   /* intraFreqEventCriteriaList-v590ext */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_Intra_FreqEventCriteriaList_v590ext(ctx, &pvalue->intraFreqEventCriteriaList_v590ext);
+      RT_CHECK(ctx, stat, 0, "intraFreqEventCriteriaList-v590ext", -1, "SysInfoType11-v590ext-IEs");
+   }
+   /* intraFreqReportingCriteria-1b-r5 */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_IntraFreqReportingCriteria_1b_r5(ctx, &pvalue->intraFreqReportingCriteria_1b_r5);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria-1b-r5", -1, "SysInfoType11-v590ext-IEs");
+   }
+   /* intraFreqEvent-1d-r5 */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_IntraFreqEvent_1d_r5(ctx, &pvalue->intraFreqEvent_1d_r5);
+      RT_CHECK(ctx, stat, 0, "intraFreqEvent-1d-r5", -1, "SysInfoType11-v590ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqRepQuantityRACH_FDD(rtxContext* RT_RESTRICT ctx, InterFreqRepQuantityRACH_FDD value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "InterFreqRepQuantityRACH-FDD");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqRepQuantityRACH-FDD");
+   return 0;
+}
+
+int asn1PE_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* interFreqRepQuantityRACH-FDD */
+   if (pvalue->interFreqRepQuantityRACH_FDD > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->interFreqRepQuantityRACH_FDD);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "InterFreqRepQuantityRACH-FDD", "interFreqRepQuantityRACH-FDD", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->interFreqRepQuantityRACH_FDD, 0, 1);
+   RT_CHECK(ctx, stat, "InterFreqRepQuantityRACH-FDD", "interFreqRepQuantityRACH-FDD", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqRepQuantityRACH_TDD(rtxContext* RT_RESTRICT ctx, InterFreqRepQuantityRACH_TDD value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "InterFreqRepQuantityRACH-TDD");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqRepQuantityRACH-TDD");
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqRepQuantityRACH_TDDList(rtxContext* RT_RESTRICT ctx, const InterFreqRepQuantityRACH_TDDList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqRepQuantityRACH-TDDList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 2);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "InterFreqRepQuantityRACH-TDDList");
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "InterFreqRepQuantityRACH-TDD", "InterFreqRepQuantityRACH-TDD", (int32_t)i, "InterFreqRepQuantityRACH-TDDList");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 1);
+      RT_CHECK(ctx, stat, "InterFreqRepQuantityRACH-TDD", "InterFreqRepQuantityRACH-TDD", (int32_t)i, "InterFreqRepQuantityRACH-TDDList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* interFreqRepQuantityRACH-TDDList */
+   stat = asn1PE_UMTS_InterFreqRepQuantityRACH_TDDList(ctx, &pvalue->interFreqRepQuantityRACH_TDDList);
+   RT_CHECK(ctx, stat, 0, "interFreqRepQuantityRACH-TDDList", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_Threshold(rtxContext* RT_RESTRICT ctx, Threshold value)
+{
+   int stat = 0;
+   if (value < -115 || value > 0) {
+      rtxErrAddStrParm(ctx, "Threshold");
+      rtxErrAddIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "Threshold");
+   }
+   stat = pe_ConsInt64(ctx, value, -115, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Threshold");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxReportedCellsOnRACHinterFreq(rtxContext* RT_RESTRICT ctx, MaxReportedCellsOnRACHinterFreq value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "MaxReportedCellsOnRACHinterFreq");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MaxReportedCellsOnRACHinterFreq");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxReportedCellsOnRACHinterFreq");
+   return 0;
+}
+
+int asn1PE_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const Dummy_InterFreqRACHReportingInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.interFreqRACHReportingThreshold < -115 || pvalue->u.interFreqRACHReportingThreshold > 0) {
+            rtxErrAddStrParm(ctx, "Threshold");
+            rtxErrAddIntParm(ctx, pvalue->u.interFreqRACHReportingThreshold);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "Threshold", "interFreqRACHReportingThreshold", -1, 0);
+         }
+         stat = pe_ConsInt64(ctx, pvalue->u.interFreqRACHReportingThreshold, -115, 0);
+         RT_CHECK(ctx, stat, "Threshold", "interFreqRACHReportingThreshold", -1, 0);
+         break;
+      case 4:
+         if ((uint64_t)(pvalue->u.maxReportedCellsOnRACHinterFreq - 1) > 7u) {
+            rtxErrAddStrParm(ctx, "MaxReportedCellsOnRACHinterFreq");
+            rtxErrAddUIntParm(ctx, pvalue->u.maxReportedCellsOnRACHinterFreq);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxReportedCellsOnRACHinterFreq", "maxReportedCellsOnRACHinterFreq", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.maxReportedCellsOnRACHinterFreq, 1, 8);
+         RT_CHECK(ctx, stat, "MaxReportedCellsOnRACHinterFreq", "maxReportedCellsOnRACHinterFreq", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Dummy_InterFreqRACHReportingInfo(rtxContext* RT_RESTRICT ctx, const Dummy_InterFreqRACHReportingInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Dummy-InterFreqRACHReportingInfo");
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "Dummy-InterFreqRACHReportingInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType11-v690ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11-v690ext-IEs");
+   /* dummy */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_Dummy_InterFreqRACHReportingInfo(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "SysInfoType11-v690ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const InterFreqRACHReportingInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* interFreqRepQuantityRACH-FDD */
+   if (pvalue->interFreqRepQuantityRACH_FDD > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->interFreqRepQuantityRACH_FDD);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "InterFreqRepQuantityRACH-FDD", "interFreqRepQuantityRACH-FDD", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->interFreqRepQuantityRACH_FDD, 0, 1);
+   RT_CHECK(ctx, stat, "InterFreqRepQuantityRACH-FDD", "interFreqRepQuantityRACH-FDD", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const InterFreqRACHReportingInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* interFreqRepQuantityRACH-TDDList */
+   stat = asn1PE_UMTS_InterFreqRepQuantityRACH_TDDList(ctx, &pvalue->interFreqRepQuantityRACH_TDDList);
+   RT_CHECK(ctx, stat, 0, "interFreqRepQuantityRACH-TDDList", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const InterFreqRACHReportingInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqRACHReportingInfo(rtxContext* RT_RESTRICT ctx, const InterFreqRACHReportingInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqRACHReportingInfo");
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "InterFreqRACHReportingInfo");
+   /* interFreqRACHReportingThreshold */
+   if (pvalue->interFreqRACHReportingThreshold < -115 || pvalue->interFreqRACHReportingThreshold > 0) {
+      rtxErrAddStrParm(ctx, "Threshold");
+      rtxErrAddIntParm(ctx, pvalue->interFreqRACHReportingThreshold);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Threshold", "interFreqRACHReportingThreshold", -1, "InterFreqRACHReportingInfo");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->interFreqRACHReportingThreshold, -115, 0);
+   RT_CHECK(ctx, stat, "Threshold", "interFreqRACHReportingThreshold", -1, "InterFreqRACHReportingInfo");
+   /* maxReportedCellsOnRACHinterFreq */
+   if ((uint64_t)(pvalue->maxReportedCellsOnRACHinterFreq - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "MaxReportedCellsOnRACHinterFreq");
+      rtxErrAddUIntParm(ctx, pvalue->maxReportedCellsOnRACHinterFreq);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxReportedCellsOnRACHinterFreq", "maxReportedCellsOnRACHinterFreq", -1, "InterFreqRACHReportingInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxReportedCellsOnRACHinterFreq, 1, 8);
+   RT_CHECK(ctx, stat, "MaxReportedCellsOnRACHinterFreq", "maxReportedCellsOnRACHinterFreq", -1, "InterFreqRACHReportingInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v6b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType11-v6b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11-v6b0ext-IEs");
+   /* interFreqRACHReportingInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterFreqRACHReportingInfo(ctx, &pvalue->interFreqRACHReportingInfo);
+      RT_CHECK(ctx, stat, 0, "interFreqRACHReportingInfo", -1, "SysInfoType11-v6b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBSFNFrequency(rtxContext* RT_RESTRICT ctx, const MBSFNFrequency* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBSFNFrequency");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBSFNFrequency");
+   /* frequencyInfo */
+   stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "MBSFNFrequency");
+   /* cellParametersID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->cellParametersID > 127u) {
+         rtxErrAddStrParm(ctx, "CellParametersID");
+         rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "CellParametersID", "cellParametersID", -1, "MBSFNFrequency");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->cellParametersID, 0, 127);
+      RT_CHECK(ctx, stat, "CellParametersID", "cellParametersID", -1, "MBSFNFrequency");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBSFNFrequencyList(rtxContext* RT_RESTRICT ctx, const MBSFNFrequencyList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBSFNFrequencyList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 0, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBSFNFrequencyList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBSFNFrequency", (int32_t)i, "MBSFNFrequencyList");
+      stat = asn1PE_UMTS_MBSFNFrequency(ctx, (const MBSFNFrequency*)node->data);
+      RT_CHECK(ctx, stat, 0, "MBSFNFrequency", (int32_t)i, "MBSFNFrequencyList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType11-v770ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11-v770ext-IEs");
+   /* mbsfnFrequencyList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBSFNFrequencyList(ctx, &pvalue->mbsfnFrequencyList);
+      RT_CHECK(ctx, stat, 0, "mbsfnFrequencyList", -1, "SysInfoType11-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCell_v7b0ext(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_v7b0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCell-v7b0ext");
+   /* intraSecondaryFreqIndicator */
+   stat = rtxEncBit(ctx, pvalue->intraSecondaryFreqIndicator);
+   RT_CHECK(ctx, stat, 0, "intraSecondaryFreqIndicator", -1, "NewInterFreqCell-v7b0ext");
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellList_v7b0ext(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellList_v7b0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellList-v7b0ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewInterFreqCellList-v7b0ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewInterFreqCell-v7b0ext", (int32_t)i, "NewInterFreqCellList-v7b0ext");
+      stat = asn1PE_UMTS_NewInterFreqCell_v7b0ext(ctx, (const NewInterFreqCell_v7b0ext*)node->data);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCell-v7b0ext", (int32_t)i, "NewInterFreqCellList-v7b0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11_v7b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v7b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType11-v7b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11-v7b0ext-IEs");
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_NewInterFreqCellList_v7b0ext(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "SysInfoType11-v7b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBSFNFrequency_v860ext_imb_Indication(rtxContext* RT_RESTRICT ctx, MBSFNFrequency_v860ext_imb_Indication value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MBSFNFrequency_v860ext(rtxContext* RT_RESTRICT ctx, const MBSFNFrequency_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBSFNFrequency-v860ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBSFNFrequency-v860ext");
+   /* imb-Indication */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->imb_Indication > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->imb_Indication);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "imb-Indication", -1, "MBSFNFrequency-v860ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->imb_Indication, 0, 0);
+      RT_CHECK(ctx, stat, 0, "imb-Indication", -1, "MBSFNFrequency-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBSFNFrequencyList_v860ext(rtxContext* RT_RESTRICT ctx, const MBSFNFrequencyList_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBSFNFrequencyList-v860ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 0, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBSFNFrequencyList-v860ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBSFNFrequency-v860ext", (int32_t)i, "MBSFNFrequencyList-v860ext");
+      stat = asn1PE_UMTS_MBSFNFrequency_v860ext(ctx, (const MBSFNFrequency_v860ext*)node->data);
+      RT_CHECK(ctx, stat, 0, "MBSFNFrequency-v860ext", (int32_t)i, "MBSFNFrequencyList-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType11-v860ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11-v860ext-IEs");
+   /* mbsfnFrequencyList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBSFNFrequencyList_v860ext(ctx, &pvalue->mbsfnFrequencyList);
+      RT_CHECK(ctx, stat, 0, "mbsfnFrequencyList", -1, "SysInfoType11-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType11-v860ext */
+   stat = asn1PE_UMTS_SysInfoType11_v860ext_IEs(ctx, &pvalue->sysInfoType11_v860ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType11-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType11-v7b0ext */
+   stat = asn1PE_UMTS_SysInfoType11_v7b0ext_IEs(ctx, &pvalue->sysInfoType11_v7b0ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType11-v7b0ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType11-v770ext */
+   stat = asn1PE_UMTS_SysInfoType11_v770ext_IEs(ctx, &pvalue->sysInfoType11_v770ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType11-v770ext", -1, 0);
+   /* v7b0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions(ctx, &pvalue->v7b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType11-v6b0ext */
+   stat = asn1PE_UMTS_SysInfoType11_v6b0ext_IEs(ctx, &pvalue->sysInfoType11_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType11-v6b0ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType11-v690ext */
+   stat = asn1PE_UMTS_SysInfoType11_v690ext_IEs(ctx, &pvalue->sysInfoType11_v690ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType11-v690ext", -1, 0);
+   /* v6b0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType11-v590ext */
+   stat = asn1PE_UMTS_SysInfoType11_v590ext_IEs(ctx, &pvalue->sysInfoType11_v590ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType11-v590ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType11-v4b0ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType11_v4b0ext_IEs(ctx, &pvalue->sysInfoType11_v4b0ext);
+      RT_CHECK(ctx, stat, 0, "sysInfoType11-v4b0ext", -1, 0);
+   }
+   /* v590NonCriticalExtension */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension(ctx, &pvalue->v590NonCriticalExtension);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtension", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11(rtxContext* RT_RESTRICT ctx, const SysInfoType11* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType11");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11");
+   /* sib12indicator */
+   stat = rtxEncBit(ctx, pvalue->sib12indicator);
+   RT_CHECK(ctx, stat, 0, "sib12indicator", -1, "SysInfoType11");
+   /* fach-MeasurementOccasionInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_FACH_MeasurementOccasionInfo(ctx, &pvalue->fach_MeasurementOccasionInfo);
+      RT_CHECK(ctx, stat, 0, "fach-MeasurementOccasionInfo", -1, "SysInfoType11");
+   }
+   /* measurementControlSysInfo */
+   stat = asn1PE_UMTS_MeasurementControlSysInfo(ctx, &pvalue->measurementControlSysInfo);
+   RT_CHECK(ctx, stat, 0, "measurementControlSysInfo", -1, "SysInfoType11");
+   /* v4b0NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType11");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* newIntraFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_NewIntraFreqCellSI_List_RSCP(ctx, &pvalue->newIntraFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_NewInterFreqCellSI_List_RSCP(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* newIntraFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_NewIntraFreqCellSI_List_ECN0(ctx, &pvalue->newIntraFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_NewInterFreqCellSI_List_ECN0(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.cpich_RSCP == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cpich-RSCP", -1, 0);
+         stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
+         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cpich-Ec-N0", -1, 0);
+         stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
+         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellSelectQualityMeasure */
+   stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
+   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
+   /* newInterRATCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
+      RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* newIntraFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_RSCP(ctx, &pvalue->newIntraFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_NewInterFreqCellSI_List_HCS_RSCP(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* newIntraFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_ECN0(ctx, &pvalue->newIntraFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_NewInterFreqCellSI_List_HCS_ECN0(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.cpich_RSCP == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cpich-RSCP", -1, 0);
+         stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
+         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cpich-Ec-N0", -1, 0);
+         stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
+         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_used* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellSelectQualityMeasure */
+   stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
+   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
+   /* newInterRATCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
+      RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.hcs_not_used == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "hcs-not-used", -1, 0);
+         stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used(ctx, pvalue->u.hcs_not_used);
+         RT_CHECK(ctx, stat, 0, "hcs-not-used", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.hcs_used == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "hcs-used", -1, 0);
+         stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used(ctx, pvalue->u.hcs_used);
+         RT_CHECK(ctx, stat, 0, "hcs-used", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementControlSysInfoExtension");
+   /* use-of-HCS */
+   stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS(ctx, &pvalue->use_of_HCS);
+   RT_CHECK(ctx, stat, 0, "use-of-HCS", -1, "MeasurementControlSysInfoExtension");
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* newIntraFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_NewIntraFreqCellSI_List_RSCP_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_NewInterFreqCellSI_List_RSCP_LCR_r4(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* newIntraFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_NewIntraFreqCellSI_List_ECN0_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_NewInterFreqCellSI_List_ECN0_LCR_r4(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.cpich_RSCP == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cpich-RSCP", -1, 0);
+         stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
+         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cpich-Ec-N0", -1, 0);
+         stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
+         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellSelectQualityMeasure */
+   stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
+   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
+   /* newInterRATCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
+      RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* newIntraFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_NewInterFreqCellSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* newIntraFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_NewInterFreqCellSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.cpich_RSCP == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cpich-RSCP", -1, 0);
+         stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
+         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cpich-Ec-N0", -1, 0);
+         stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
+         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellSelectQualityMeasure */
+   stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
+   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
+   /* newInterRATCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
+      RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.hcs_not_used == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "hcs-not-used", -1, 0);
+         stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used(ctx, pvalue->u.hcs_not_used);
+         RT_CHECK(ctx, stat, 0, "hcs-not-used", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.hcs_used == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "hcs-used", -1, 0);
+         stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used(ctx, pvalue->u.hcs_used);
+         RT_CHECK(ctx, stat, 0, "hcs-used", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementControlSysInfoExtension-LCR-r4");
+   /* use-of-HCS */
+   stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS(ctx, &pvalue->use_of_HCS);
+   RT_CHECK(ctx, stat, 0, "use-of-HCS", -1, "MeasurementControlSysInfoExtension-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newIntraFrequencyCellInfoListAddon_r5(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtensionAddon_r5_newIntraFrequencyCellInfoListAddon_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+      stat = asn1PE_UMTS_CellSelectReselectInfo_v590ext(ctx, (const CellSelectReselectInfo_v590ext*)node->data);
+      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newInterFrequencyCellInfoListAddon_r5(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtensionAddon_r5_newInterFrequencyCellInfoListAddon_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+      stat = asn1PE_UMTS_CellSelectReselectInfo_v590ext(ctx, (const CellSelectReselectInfo_v590ext*)node->data);
+      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newInterRATCellInfoListAddon_r5(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtensionAddon_r5_newInterRATCellInfoListAddon_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+      stat = asn1PE_UMTS_CellSelectReselectInfo_v590ext(ctx, (const CellSelectReselectInfo_v590ext*)node->data);
+      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtensionAddon_r5(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtensionAddon_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementControlSysInfoExtensionAddon-r5");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControlSysInfoExtensionAddon-r5");
+   /* newIntraFrequencyCellInfoListAddon-r5 */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newIntraFrequencyCellInfoListAddon_r5(ctx, &pvalue->newIntraFrequencyCellInfoListAddon_r5);
+      RT_CHECK(ctx, stat, 0, "newIntraFrequencyCellInfoListAddon-r5", -1, "MeasurementControlSysInfoExtensionAddon-r5");
+   }
+   /* newInterFrequencyCellInfoListAddon-r5 */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newInterFrequencyCellInfoListAddon_r5(ctx, &pvalue->newInterFrequencyCellInfoListAddon_r5);
+      RT_CHECK(ctx, stat, 0, "newInterFrequencyCellInfoListAddon-r5", -1, "MeasurementControlSysInfoExtensionAddon-r5");
+   }
+   /* newInterRATCellInfoListAddon-r5 */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newInterRATCellInfoListAddon_r5(ctx, &pvalue->newInterRATCellInfoListAddon_r5);
+      RT_CHECK(ctx, stat, 0, "newInterRATCellInfoListAddon-r5", -1, "MeasurementControlSysInfoExtensionAddon-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11bis_v7b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11bis_v7b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType11bis-v7b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11bis-v7b0ext-IEs");
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_NewInterFreqCellList_v7b0ext(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "SysInfoType11bis-v7b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CSG_DedicatedFrequencyInfoList(rtxContext* RT_RESTRICT ctx, const CSG_DedicatedFrequencyInfoList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CSG-DedicatedFrequencyInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CSG-DedicatedFrequencyInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "FrequencyInfo", (int32_t)i, "CSG-DedicatedFrequencyInfoList");
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, (const FrequencyInfo*)node->data);
+      RT_CHECK(ctx, stat, 0, "FrequencyInfo", (int32_t)i, "CSG-DedicatedFrequencyInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11bis_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11bis_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType11bis-v860ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11bis-v860ext-IEs");
+   /* csg-PSCSplitInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CSG_PSCSplitInfo(ctx, &pvalue->csg_PSCSplitInfo);
+      RT_CHECK(ctx, stat, 0, "csg-PSCSplitInfo", -1, "SysInfoType11bis-v860ext-IEs");
+   }
+   /* csg-DedicatedFrequencyInfoList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CSG_DedicatedFrequencyInfoList(ctx, &pvalue->csg_DedicatedFrequencyInfoList);
+      RT_CHECK(ctx, stat, 0, "csg-DedicatedFrequencyInfoList", -1, "SysInfoType11bis-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType11bis-v860ext */
+   stat = asn1PE_UMTS_SysInfoType11bis_v860ext_IEs(ctx, &pvalue->sysInfoType11bis_v860ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType11bis-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11bis_v7b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType11bis-v7b0ext */
+   stat = asn1PE_UMTS_SysInfoType11bis_v7b0ext_IEs(ctx, &pvalue->sysInfoType11bis_v7b0ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType11bis-v7b0ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11bis(rtxContext* RT_RESTRICT ctx, const SysInfoType11bis* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType11bis");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11bis");
+   /* measurementControlSysInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementControlSysInfoExtension(ctx, &pvalue->measurementControlSysInfo);
+      RT_CHECK(ctx, stat, 0, "measurementControlSysInfo", -1, "SysInfoType11bis");
+   }
+   /* measurementControlSysInfo-LCR */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4(ctx, &pvalue->measurementControlSysInfo_LCR);
+      RT_CHECK(ctx, stat, 0, "measurementControlSysInfo-LCR", -1, "SysInfoType11bis");
+   }
+   /* measurementControlSysInfoExtensionAddon-r5 */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_MeasurementControlSysInfoExtensionAddon_r5(ctx, &pvalue->measurementControlSysInfoExtensionAddon_r5);
+      RT_CHECK(ctx, stat, 0, "measurementControlSysInfoExtensionAddon-r5", -1, "SysInfoType11bis");
+   }
+   /* v7b0NonCriticalExtensions */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions(ctx, &pvalue->v7b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7b0NonCriticalExtensions", -1, "SysInfoType11bis");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType12_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType12-v4b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType12-v4b0ext-IEs");
+   /* fach-MeasurementOccasionInfo-LCR-Ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_FACH_MeasurementOccasionInfo_LCR_r4_ext(ctx, &pvalue->fach_MeasurementOccasionInfo_LCR_Ext);
+      RT_CHECK(ctx, stat, 0, "fach-MeasurementOccasionInfo-LCR-Ext", -1, "SysInfoType12-v4b0ext-IEs");
+   }
+   /* measurementControlSysInfo-LCR */
+   stat = asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext(ctx, &pvalue->measurementControlSysInfo_LCR);
+   RT_CHECK(ctx, stat, 0, "measurementControlSysInfo-LCR", -1, "SysInfoType12-v4b0ext-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType12_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+      stat = asn1PE_UMTS_CellSelectReselectInfo_v590ext(ctx, (const CellSelectReselectInfo_v590ext*)node->data);
+      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType12_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v590ext_IEs_newInterFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+      stat = asn1PE_UMTS_CellSelectReselectInfo_v590ext(ctx, (const CellSelectReselectInfo_v590ext*)node->data);
+      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
    }
    return 0;
 }

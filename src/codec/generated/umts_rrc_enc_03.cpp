@@ -6,6194 +6,27 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PE_UMTS_FrequencyInfo(rtxContext* ctx, const FrequencyInfo* pvalue)
+int asn1PE_UMTS_SysInfoType12_v590ext_IEs_newInterRATCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v590ext_IEs_newInterRATCellInfoList_v590ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "FrequencyInfo");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_FrequencyInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCellSI_RSCP(rtxContext* ctx, const NewInterFreqCellSI_RSCP* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellSI-RSCP");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellID */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interFreqCellID");
-      rtxCtxtPushTypeName(ctx, "InterFreqCellID");
-      if ((uint64_t)pvalue->interFreqCellID > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PE_UMTS_CellInfoSI_RSCP(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCellSI_List_RSCP(rtxContext* ctx, const NewInterFreqCellSI_List_RSCP* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellSI-List-RSCP");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "NewInterFreqCellSI-RSCP", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_NewInterFreqCellSI_RSCP(ctx, (const NewInterFreqCellSI_RSCP*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqCellInfoSI_List_RSCP(rtxContext* ctx, const InterFreqCellInfoSI_List_RSCP* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqCellInfoSI-List-RSCP");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* removedInterFreqCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "removedInterFreqCellList");
-      stat = asn1PE_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      stat = asn1PE_UMTS_NewInterFreqCellSI_List_RSCP(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqMeasurementSysInfo_RSCP(rtxContext* ctx, const InterFreqMeasurementSysInfo_RSCP* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqMeasurementSysInfo-RSCP");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellInfoSI-List */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interFreqCellInfoSI-List");
-      stat = asn1PE_UMTS_InterFreqCellInfoSI_List_RSCP(ctx, &pvalue->interFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* intraFreqMeasurementSysInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasurementSysInfo");
-      stat = asn1PE_UMTS_IntraFreqMeasurementSysInfo_RSCP(ctx, &pvalue->intraFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interFreqMeasurementSysInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "interFreqMeasurementSysInfo");
-      stat = asn1PE_UMTS_InterFreqMeasurementSysInfo_RSCP(ctx, &pvalue->interFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfoSI_ECN0_modeSpecificInfo_fdd(rtxContext* ctx, const CellInfoSI_ECN0_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* primaryCPICH-Info */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* primaryCPICH-TX-Power */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-TX-Power");
-      rtxCtxtPushTypeName(ctx, "PrimaryCPICH-TX-Power");
-      if (pvalue->primaryCPICH_TX_Power < -10 || pvalue->primaryCPICH_TX_Power > 50) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->primaryCPICH_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->primaryCPICH_TX_Power, -10, 50);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* readSFN-Indicator */
-   rtxCtxtPushElemName(ctx, "readSFN-Indicator");
-   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tx-DiversityIndicator */
-   rtxCtxtPushElemName(ctx, "tx-DiversityIndicator");
-   stat = rtxEncBit(ctx, pvalue->tx_DiversityIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfoSI_ECN0_modeSpecificInfo_tdd(rtxContext* ctx, const CellInfoSI_ECN0_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* primaryCCPCH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-Info");
-   stat = asn1PE_UMTS_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-      rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-      if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* timeslotInfoList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "timeslotInfoList");
-      stat = asn1PE_UMTS_TimeslotInfoList(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* readSFN-Indicator */
-   rtxCtxtPushElemName(ctx, "readSFN-Indicator");
-   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfoSI_ECN0_modeSpecificInfo(rtxContext* ctx, const CellInfoSI_ECN0_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellInfoSI_ECN0_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellInfoSI_ECN0_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd(rtxContext* ctx, const CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* q-QualMin */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "q-QualMin");
-      rtxCtxtPushTypeName(ctx, "Q-QualMin");
-      if (pvalue->q_QualMin < -24 || pvalue->q_QualMin > 0) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->q_QualMin);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_QualMin, -24, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* q-RxlevMin */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "q-RxlevMin");
-      rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
-      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd(rtxContext* ctx, const CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* q-RxlevMin */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "q-RxlevMin");
-      rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
-      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm(rtxContext* ctx, const CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* q-RxlevMin */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "q-RxlevMin");
-      rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
-      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo(rtxContext* ctx, const CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "gsm");
-         if (pvalue->u.gsm == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_ECN0(rtxContext* ctx, const CellSelectReselectInfoSIB_11_12_ECN0* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellSelectReselectInfoSIB-11-12-ECN0");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->q_Offset1S_N != 0) << 2) |
-      ((uint64_t)(pvalue->q_Offset2S_N != 0) << 1) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* q-Offset1S-N */
-   if (pvalue->q_Offset1S_N != 0) {
-      rtxCtxtPushElemName(ctx, "q-Offset1S-N");
-      rtxCtxtPushTypeName(ctx, "Q-OffsetS-N");
-      if (pvalue->q_Offset1S_N < -50 || pvalue->q_Offset1S_N > 50) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->q_Offset1S_N);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_Offset1S_N, -50, 50);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* q-Offset2S-N */
-   if (pvalue->q_Offset2S_N != 0) {
-      rtxCtxtPushElemName(ctx, "q-Offset2S-N");
-      rtxCtxtPushTypeName(ctx, "Q-OffsetS-N");
-      if (pvalue->q_Offset2S_N < -50 || pvalue->q_Offset2S_N > 50) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->q_Offset2S_N);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_Offset2S_N, -50, 50);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfoSI_ECN0(rtxContext* ctx, const CellInfoSI_ECN0* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellInfoSI-ECN0");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 2) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* cellIndividualOffset */
-   if (pvalue->cellIndividualOffset != 0) {
-      rtxCtxtPushElemName(ctx, "cellIndividualOffset");
-      rtxCtxtPushTypeName(ctx, "CellIndividualOffset");
-      if (pvalue->cellIndividualOffset < -20 || pvalue->cellIndividualOffset > 20) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->cellIndividualOffset);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* referenceTimeDifferenceToCell */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "referenceTimeDifferenceToCell");
-      stat = asn1PE_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_CellInfoSI_ECN0_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellSelectionReselectionInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "cellSelectionReselectionInfo");
-      stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_ECN0(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCellSI_ECN0(rtxContext* ctx, const NewIntraFreqCellSI_ECN0* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellSI-ECN0");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* intraFreqCellID */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellID");
-      rtxCtxtPushTypeName(ctx, "IntraFreqCellID");
-      if ((uint64_t)pvalue->intraFreqCellID > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->intraFreqCellID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PE_UMTS_CellInfoSI_ECN0(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCellSI_List_ECN0(rtxContext* ctx, const NewIntraFreqCellSI_List_ECN0* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellSI-List-ECN0");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "NewIntraFreqCellSI-ECN0", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_NewIntraFreqCellSI_ECN0(ctx, (const NewIntraFreqCellSI_ECN0*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqCellInfoSI_List_ECN0(rtxContext* ctx, const IntraFreqCellInfoSI_List_ECN0* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqCellInfoSI-List-ECN0");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* removedIntraFreqCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "removedIntraFreqCellList");
-      stat = asn1PE_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newIntraFreqCellList */
-   rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
-   stat = asn1PE_UMTS_NewIntraFreqCellSI_List_ECN0(ctx, &pvalue->newIntraFreqCellList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqMeasurementSysInfo_ECN0(rtxContext* ctx, const IntraFreqMeasurementSysInfo_ECN0* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqMeasurementSysInfo-ECN0");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->intraFreqMeasurementID != 1) << 5) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat);
-   /* intraFreqMeasurementID */
-   if (pvalue->intraFreqMeasurementID != 1) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasurementID");
-      rtxCtxtPushTypeName(ctx, "MeasurementIdentity");
-      if ((uint64_t)(pvalue->intraFreqMeasurementID - 1) > 15u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->intraFreqMeasurementID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->intraFreqMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqCellInfoSI-List */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellInfoSI-List");
-      stat = asn1PE_UMTS_IntraFreqCellInfoSI_List_ECN0(ctx, &pvalue->intraFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqMeasQuantity */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasQuantity");
-      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqReportingQuantityForRACH */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "intraFreqReportingQuantityForRACH");
-      stat = asn1PE_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxReportedCellsOnRACH */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "maxReportedCellsOnRACH");
-      rtxCtxtPushTypeName(ctx, "MaxReportedCellsOnRACH");
-      if (pvalue->maxReportedCellsOnRACH > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->maxReportedCellsOnRACH);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->maxReportedCellsOnRACH, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportingInfoForCellDCH */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "reportingInfoForCellDCH");
-      stat = asn1PE_UMTS_ReportingInfoForCellDCH(ctx, &pvalue->reportingInfoForCellDCH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCellSI_ECN0(rtxContext* ctx, const NewInterFreqCellSI_ECN0* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellSI-ECN0");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellID */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interFreqCellID");
-      rtxCtxtPushTypeName(ctx, "InterFreqCellID");
-      if ((uint64_t)pvalue->interFreqCellID > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PE_UMTS_CellInfoSI_ECN0(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCellSI_List_ECN0(rtxContext* ctx, const NewInterFreqCellSI_List_ECN0* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellSI-List-ECN0");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "NewInterFreqCellSI-ECN0", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_NewInterFreqCellSI_ECN0(ctx, (const NewInterFreqCellSI_ECN0*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqCellInfoSI_List_ECN0(rtxContext* ctx, const InterFreqCellInfoSI_List_ECN0* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqCellInfoSI-List-ECN0");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* removedInterFreqCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "removedInterFreqCellList");
-      stat = asn1PE_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      stat = asn1PE_UMTS_NewInterFreqCellSI_List_ECN0(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqMeasurementSysInfo_ECN0(rtxContext* ctx, const InterFreqMeasurementSysInfo_ECN0* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqMeasurementSysInfo-ECN0");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellInfoSI-List */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interFreqCellInfoSI-List");
-      stat = asn1PE_UMTS_InterFreqCellInfoSI_List_ECN0(ctx, &pvalue->interFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* intraFreqMeasurementSysInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasurementSysInfo");
-      stat = asn1PE_UMTS_IntraFreqMeasurementSysInfo_ECN0(ctx, &pvalue->intraFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interFreqMeasurementSysInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "interFreqMeasurementSysInfo");
-      stat = asn1PE_UMTS_InterFreqMeasurementSysInfo_ECN0(ctx, &pvalue->interFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "cpich-RSCP");
-         if (pvalue->u.cpich_RSCP == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "cpich-Ec-N0");
-         if (pvalue->u.cpich_Ec_N0 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATCellID(rtxContext* ctx, InterRATCellID value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "InterRATCellID");
-   if ((uint64_t)value > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RemovedInterRATCellList_removeSomeInterRATCells(rtxContext* ctx, const RemovedInterRATCellList_removeSomeInterRATCells* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "InterRATCellID", i);
-      rtxCtxtPushTypeName(ctx, "InterRATCellID");
-      if ((uint64_t)pvalue->elem[i] > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RemovedInterRATCellList(rtxContext* ctx, const RemovedInterRATCellList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RemovedInterRATCellList");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "removeAllInterRATCells");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "removeSomeInterRATCells");
-         if (pvalue->u.removeSomeInterRATCells == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_RemovedInterRATCellList_removeSomeInterRATCells(ctx, pvalue->u.removeSomeInterRATCells);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "removeNoInterRATCells");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TemporaryOffset1(rtxContext* ctx, TemporaryOffset1 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TemporaryOffset1");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PenaltyTime_RSCP(rtxContext* ctx, const PenaltyTime_RSCP* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PenaltyTime-RSCP");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 6) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "notUsed");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "pt10");
-         rtxCtxtPushTypeName(ctx, "TemporaryOffset1");
-         if (pvalue->u.pt10 > 7) {
-            rtxErrAddUIntParm(ctx, pvalue->u.pt10);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.pt10, 0, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "pt20");
-         rtxCtxtPushTypeName(ctx, "TemporaryOffset1");
-         if (pvalue->u.pt20 > 7) {
-            rtxErrAddUIntParm(ctx, pvalue->u.pt20);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.pt20, 0, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "pt30");
-         rtxCtxtPushTypeName(ctx, "TemporaryOffset1");
-         if (pvalue->u.pt30 > 7) {
-            rtxErrAddUIntParm(ctx, pvalue->u.pt30);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.pt30, 0, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "pt40");
-         rtxCtxtPushTypeName(ctx, "TemporaryOffset1");
-         if (pvalue->u.pt40 > 7) {
-            rtxErrAddUIntParm(ctx, pvalue->u.pt40);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.pt40, 0, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "pt50");
-         rtxCtxtPushTypeName(ctx, "TemporaryOffset1");
-         if (pvalue->u.pt50 > 7) {
-            rtxErrAddUIntParm(ctx, pvalue->u.pt50);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.pt50, 0, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "pt60");
-         rtxCtxtPushTypeName(ctx, "TemporaryOffset1");
-         if (pvalue->u.pt60 > 7) {
-            rtxErrAddUIntParm(ctx, pvalue->u.pt60);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.pt60, 0, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HCS_CellReselectInformation_RSCP(rtxContext* ctx, const HCS_CellReselectInformation_RSCP* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HCS-CellReselectInformation-RSCP");
-   /* penaltyTime */
-   rtxCtxtPushElemName(ctx, "penaltyTime");
-   stat = asn1PE_UMTS_PenaltyTime_RSCP(ctx, &pvalue->penaltyTime);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HCS_NeighbouringCellInformation_RSCP(rtxContext* ctx, const HCS_NeighbouringCellInformation_RSCP* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HCS-NeighbouringCellInformation-RSCP");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->hcs_PRIO != 0) << 1) |
-      ((uint64_t)(pvalue->q_HCS != 0) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* hcs-PRIO */
-   if (pvalue->hcs_PRIO != 0) {
-      rtxCtxtPushElemName(ctx, "hcs-PRIO");
-      rtxCtxtPushTypeName(ctx, "HCS-PRIO");
-      if ((uint64_t)pvalue->hcs_PRIO > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->hcs_PRIO);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hcs_PRIO, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* q-HCS */
-   if (pvalue->q_HCS != 0) {
-      rtxCtxtPushElemName(ctx, "q-HCS");
-      rtxCtxtPushTypeName(ctx, "Q-HCS");
-      if ((uint64_t)pvalue->q_HCS > 99u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->q_HCS);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->q_HCS, 0, 99);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hcs-CellReselectInformation */
-   rtxCtxtPushElemName(ctx, "hcs-CellReselectInformation");
-   stat = asn1PE_UMTS_HCS_CellReselectInformation_RSCP(ctx, &pvalue->hcs_CellReselectInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd(rtxContext* ctx, const CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* q-QualMin */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "q-QualMin");
-      rtxCtxtPushTypeName(ctx, "Q-QualMin");
-      if (pvalue->q_QualMin < -24 || pvalue->q_QualMin > 0) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->q_QualMin);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_QualMin, -24, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* q-RxlevMin */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "q-RxlevMin");
-      rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
-      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd(rtxContext* ctx, const CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* q-RxlevMin */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "q-RxlevMin");
-      rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
-      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm(rtxContext* ctx, const CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* q-RxlevMin */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "q-RxlevMin");
-      rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
-      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo(rtxContext* ctx, const CellSelectReselectInfoSIB_11_12_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "gsm");
-         if (pvalue->u.gsm == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12(rtxContext* ctx, const CellSelectReselectInfoSIB_11_12* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellSelectReselectInfoSIB-11-12");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->q_Offset1S_N != 0) << 3) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* q-Offset1S-N */
-   if (pvalue->q_Offset1S_N != 0) {
-      rtxCtxtPushElemName(ctx, "q-Offset1S-N");
-      rtxCtxtPushTypeName(ctx, "Q-OffsetS-N");
-      if (pvalue->q_Offset1S_N < -50 || pvalue->q_Offset1S_N > 50) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->q_Offset1S_N);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_Offset1S_N, -50, 50);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* q-Offset2S-N */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "q-Offset2S-N");
-      rtxCtxtPushTypeName(ctx, "Q-OffsetS-N");
-      if (pvalue->q_Offset2S_N < -50 || pvalue->q_Offset2S_N > 50) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->q_Offset2S_N);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_Offset2S_N, -50, 50);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hcs-NeighbouringCellInformation-RSCP */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "hcs-NeighbouringCellInformation-RSCP");
-      stat = asn1PE_UMTS_HCS_NeighbouringCellInformation_RSCP(ctx, &pvalue->hcs_NeighbouringCellInformation_RSCP);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATCellIndividualOffset(rtxContext* ctx, InterRATCellIndividualOffset value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "InterRATCellIndividualOffset");
-   if (value < -50 || value > 50) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, value, -50, 50);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NCC(rtxContext* ctx, NCC value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "NCC");
-   if ((uint64_t)value > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_BCC(rtxContext* ctx, BCC value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "BCC");
-   if ((uint64_t)value > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_BSIC(rtxContext* ctx, const BSIC* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "BSIC");
-   /* ncc */
-   rtxCtxtPushElemName(ctx, "ncc");
-   rtxCtxtPushTypeName(ctx, "NCC");
-   if ((uint64_t)pvalue->ncc > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ncc);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ncc, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* bcc */
-   rtxCtxtPushElemName(ctx, "bcc");
-   rtxCtxtPushTypeName(ctx, "BCC");
-   if ((uint64_t)pvalue->bcc > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->bcc);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->bcc, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Frequency_Band(rtxContext* ctx, Frequency_Band value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Frequency-Band");
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_BCCH_ARFCN(rtxContext* ctx, BCCH_ARFCN value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "BCCH-ARFCN");
-   if ((uint64_t)value > 1023u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1023);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterRATCell_B_technologySpecificInfo_gsm(rtxContext* ctx, const NewInterRATCell_B_technologySpecificInfo_gsm* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* cellSelectionReselectionInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellSelectionReselectionInfo");
-      stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interRATCellIndividualOffset */
-   rtxCtxtPushElemName(ctx, "interRATCellIndividualOffset");
-   rtxCtxtPushTypeName(ctx, "InterRATCellIndividualOffset");
-   if (pvalue->interRATCellIndividualOffset < -50 || pvalue->interRATCellIndividualOffset > 50) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->interRATCellIndividualOffset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->interRATCellIndividualOffset, -50, 50);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* bsic */
-   rtxCtxtPushElemName(ctx, "bsic");
-   stat = asn1PE_UMTS_BSIC(ctx, &pvalue->bsic);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequency-band */
-   rtxCtxtPushElemName(ctx, "frequency-band");
-   rtxCtxtPushTypeName(ctx, "Frequency-Band");
-   if (pvalue->frequency_band > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->frequency_band);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->frequency_band, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* bcch-ARFCN */
-   rtxCtxtPushElemName(ctx, "bcch-ARFCN");
-   rtxCtxtPushTypeName(ctx, "BCCH-ARFCN");
-   if ((uint64_t)pvalue->bcch_ARFCN > 1023u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->bcch_ARFCN);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->bcch_ARFCN, 0, 1023);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dummy */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IS_2000SpecificMeasInfo(rtxContext* ctx, IS_2000SpecificMeasInfo value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "IS-2000SpecificMeasInfo");
-   if (value > 4) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterRATCell_B_technologySpecificInfo_is_2000(rtxContext* ctx, const NewInterRATCell_B_technologySpecificInfo_is_2000* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* is-2000SpecificMeasInfo */
-   rtxCtxtPushElemName(ctx, "is-2000SpecificMeasInfo");
-   rtxCtxtPushTypeName(ctx, "IS-2000SpecificMeasInfo");
-   if (pvalue->is_2000SpecificMeasInfo > 4) {
-      rtxErrAddUIntParm(ctx, pvalue->is_2000SpecificMeasInfo);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->is_2000SpecificMeasInfo, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterRATCell_B_technologySpecificInfo(rtxContext* ctx, const NewInterRATCell_B_technologySpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 3) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "gsm");
-         if (pvalue->u.gsm == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_NewInterRATCell_B_technologySpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "is-2000");
-         if (pvalue->u.is_2000 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_NewInterRATCell_B_technologySpecificInfo_is_2000(ctx, pvalue->u.is_2000);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "absent");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "spare1");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterRATCell_B(rtxContext* ctx, const NewInterRATCell_B* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NewInterRATCell-B");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* interRATCellID */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interRATCellID");
-      rtxCtxtPushTypeName(ctx, "InterRATCellID");
-      if ((uint64_t)pvalue->interRATCellID > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->interRATCellID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->interRATCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* technologySpecificInfo */
-   rtxCtxtPushElemName(ctx, "technologySpecificInfo");
-   stat = asn1PE_UMTS_NewInterRATCell_B_technologySpecificInfo(ctx, &pvalue->technologySpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterRATCellList_B(rtxContext* ctx, const NewInterRATCellList_B* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NewInterRATCellList-B");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "NewInterRATCell-B", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_NewInterRATCell_B(ctx, (const NewInterRATCell_B*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATCellInfoList_B(rtxContext* ctx, const InterRATCellInfoList_B* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATCellInfoList-B");
-   /* removedInterRATCellList */
-   rtxCtxtPushElemName(ctx, "removedInterRATCellList");
-   stat = asn1PE_UMTS_RemovedInterRATCellList(ctx, &pvalue->removedInterRATCellList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* newInterRATCellList */
-   rtxCtxtPushElemName(ctx, "newInterRATCellList");
-   stat = asn1PE_UMTS_NewInterRATCellList_B(ctx, &pvalue->newInterRATCellList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATMeasurementSysInfo_B(rtxContext* ctx, const InterRATMeasurementSysInfo_B* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATMeasurementSysInfo-B");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* interRATCellInfoList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interRATCellInfoList");
-      stat = asn1PE_UMTS_InterRATCellInfoList_B(ctx, &pvalue->interRATCellInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used(rtxContext* ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_not_used* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellSelectQualityMeasure */
-   rtxCtxtPushElemName(ctx, "cellSelectQualityMeasure");
-   stat = asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* interRATMeasurementSysInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interRATMeasurementSysInfo");
-      stat = asn1PE_UMTS_InterRATMeasurementSysInfo_B(ctx, &pvalue->interRATMeasurementSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd(rtxContext* ctx, const CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* primaryCPICH-Info */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* primaryCPICH-TX-Power */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-TX-Power");
-      rtxCtxtPushTypeName(ctx, "PrimaryCPICH-TX-Power");
-      if (pvalue->primaryCPICH_TX_Power < -10 || pvalue->primaryCPICH_TX_Power > 50) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->primaryCPICH_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->primaryCPICH_TX_Power, -10, 50);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* readSFN-Indicator */
-   rtxCtxtPushElemName(ctx, "readSFN-Indicator");
-   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tx-DiversityIndicator */
-   rtxCtxtPushElemName(ctx, "tx-DiversityIndicator");
-   stat = rtxEncBit(ctx, pvalue->tx_DiversityIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd(rtxContext* ctx, const CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* primaryCCPCH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-Info");
-   stat = asn1PE_UMTS_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-      rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-      if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* timeslotInfoList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "timeslotInfoList");
-      stat = asn1PE_UMTS_TimeslotInfoList(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* readSFN-Indicator */
-   rtxCtxtPushElemName(ctx, "readSFN-Indicator");
-   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo(rtxContext* ctx, const CellInfoSI_HCS_RSCP_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd(rtxContext* ctx, const CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* q-QualMin */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "q-QualMin");
-      rtxCtxtPushTypeName(ctx, "Q-QualMin");
-      if (pvalue->q_QualMin < -24 || pvalue->q_QualMin > 0) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->q_QualMin);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_QualMin, -24, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* q-RxlevMin */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "q-RxlevMin");
-      rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
-      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd(rtxContext* ctx, const CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* q-RxlevMin */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "q-RxlevMin");
-      rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
-      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm(rtxContext* ctx, const CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* q-RxlevMin */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "q-RxlevMin");
-      rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
-      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo(rtxContext* ctx, const CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "gsm");
-         if (pvalue->u.gsm == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP(rtxContext* ctx, const CellSelectReselectInfoSIB_11_12_HCS_RSCP* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->q_OffsetS_N != 0) << 2) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* q-OffsetS-N */
-   if (pvalue->q_OffsetS_N != 0) {
-      rtxCtxtPushElemName(ctx, "q-OffsetS-N");
-      rtxCtxtPushTypeName(ctx, "Q-OffsetS-N");
-      if (pvalue->q_OffsetS_N < -50 || pvalue->q_OffsetS_N > 50) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->q_OffsetS_N);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_OffsetS_N, -50, 50);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hcs-NeighbouringCellInformation-RSCP */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "hcs-NeighbouringCellInformation-RSCP");
-      stat = asn1PE_UMTS_HCS_NeighbouringCellInformation_RSCP(ctx, &pvalue->hcs_NeighbouringCellInformation_RSCP);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfoSI_HCS_RSCP(rtxContext* ctx, const CellInfoSI_HCS_RSCP* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellInfoSI-HCS-RSCP");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 2) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* cellIndividualOffset */
-   if (pvalue->cellIndividualOffset != 0) {
-      rtxCtxtPushElemName(ctx, "cellIndividualOffset");
-      rtxCtxtPushTypeName(ctx, "CellIndividualOffset");
-      if (pvalue->cellIndividualOffset < -20 || pvalue->cellIndividualOffset > 20) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->cellIndividualOffset);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* referenceTimeDifferenceToCell */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "referenceTimeDifferenceToCell");
-      stat = asn1PE_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellSelectionReselectionInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "cellSelectionReselectionInfo");
-      stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCellSI_HCS_RSCP(rtxContext* ctx, const NewIntraFreqCellSI_HCS_RSCP* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellSI-HCS-RSCP");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* intraFreqCellID */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellID");
-      rtxCtxtPushTypeName(ctx, "IntraFreqCellID");
-      if ((uint64_t)pvalue->intraFreqCellID > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->intraFreqCellID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PE_UMTS_CellInfoSI_HCS_RSCP(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_RSCP(rtxContext* ctx, const NewIntraFreqCellSI_List_HCS_RSCP* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellSI-List-HCS-RSCP");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "NewIntraFreqCellSI-HCS-RSCP", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_NewIntraFreqCellSI_HCS_RSCP(ctx, (const NewIntraFreqCellSI_HCS_RSCP*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqCellInfoSI_List_HCS_RSCP(rtxContext* ctx, const IntraFreqCellInfoSI_List_HCS_RSCP* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqCellInfoSI-List-HCS-RSCP");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* removedIntraFreqCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "removedIntraFreqCellList");
-      stat = asn1PE_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newIntraFreqCellList */
-   rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
-   stat = asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_RSCP(ctx, &pvalue->newIntraFreqCellList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqMeasurementSysInfo_HCS_RSCP(rtxContext* ctx, const IntraFreqMeasurementSysInfo_HCS_RSCP* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqMeasurementSysInfo-HCS-RSCP");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->intraFreqMeasurementID != 1) << 5) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat);
-   /* intraFreqMeasurementID */
-   if (pvalue->intraFreqMeasurementID != 1) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasurementID");
-      rtxCtxtPushTypeName(ctx, "MeasurementIdentity");
-      if ((uint64_t)(pvalue->intraFreqMeasurementID - 1) > 15u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->intraFreqMeasurementID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->intraFreqMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqCellInfoSI-List */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellInfoSI-List");
-      stat = asn1PE_UMTS_IntraFreqCellInfoSI_List_HCS_RSCP(ctx, &pvalue->intraFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqMeasQuantity */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasQuantity");
-      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqReportingQuantityForRACH */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "intraFreqReportingQuantityForRACH");
-      stat = asn1PE_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxReportedCellsOnRACH */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "maxReportedCellsOnRACH");
-      rtxCtxtPushTypeName(ctx, "MaxReportedCellsOnRACH");
-      if (pvalue->maxReportedCellsOnRACH > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->maxReportedCellsOnRACH);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->maxReportedCellsOnRACH, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportingInfoForCellDCH */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "reportingInfoForCellDCH");
-      stat = asn1PE_UMTS_ReportingInfoForCellDCH(ctx, &pvalue->reportingInfoForCellDCH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCellSI_HCS_RSCP(rtxContext* ctx, const NewInterFreqCellSI_HCS_RSCP* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellSI-HCS-RSCP");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellID */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interFreqCellID");
-      rtxCtxtPushTypeName(ctx, "InterFreqCellID");
-      if ((uint64_t)pvalue->interFreqCellID > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PE_UMTS_CellInfoSI_HCS_RSCP(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCellSI_List_HCS_RSCP(rtxContext* ctx, const NewInterFreqCellSI_List_HCS_RSCP* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellSI-List-HCS-RSCP");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "NewInterFreqCellSI-HCS-RSCP", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_NewInterFreqCellSI_HCS_RSCP(ctx, (const NewInterFreqCellSI_HCS_RSCP*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqCellInfoSI_List_HCS_RSCP(rtxContext* ctx, const InterFreqCellInfoSI_List_HCS_RSCP* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqCellInfoSI-List-HCS-RSCP");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* removedInterFreqCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "removedInterFreqCellList");
-      stat = asn1PE_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      stat = asn1PE_UMTS_NewInterFreqCellSI_List_HCS_RSCP(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqMeasurementSysInfo_HCS_RSCP(rtxContext* ctx, const InterFreqMeasurementSysInfo_HCS_RSCP* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqMeasurementSysInfo-HCS-RSCP");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellInfoSI-List */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interFreqCellInfoSI-List");
-      stat = asn1PE_UMTS_InterFreqCellInfoSI_List_HCS_RSCP(ctx, &pvalue->interFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* intraFreqMeasurementSysInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasurementSysInfo");
-      stat = asn1PE_UMTS_IntraFreqMeasurementSysInfo_HCS_RSCP(ctx, &pvalue->intraFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interFreqMeasurementSysInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "interFreqMeasurementSysInfo");
-      stat = asn1PE_UMTS_InterFreqMeasurementSysInfo_HCS_RSCP(ctx, &pvalue->interFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd(rtxContext* ctx, const CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* primaryCPICH-Info */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* primaryCPICH-TX-Power */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-TX-Power");
-      rtxCtxtPushTypeName(ctx, "PrimaryCPICH-TX-Power");
-      if (pvalue->primaryCPICH_TX_Power < -10 || pvalue->primaryCPICH_TX_Power > 50) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->primaryCPICH_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->primaryCPICH_TX_Power, -10, 50);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* readSFN-Indicator */
-   rtxCtxtPushElemName(ctx, "readSFN-Indicator");
-   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tx-DiversityIndicator */
-   rtxCtxtPushElemName(ctx, "tx-DiversityIndicator");
-   stat = rtxEncBit(ctx, pvalue->tx_DiversityIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd(rtxContext* ctx, const CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* primaryCCPCH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-Info");
-   stat = asn1PE_UMTS_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-      rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-      if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* timeslotInfoList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "timeslotInfoList");
-      stat = asn1PE_UMTS_TimeslotInfoList(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* readSFN-Indicator */
-   rtxCtxtPushElemName(ctx, "readSFN-Indicator");
-   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo(rtxContext* ctx, const CellInfoSI_HCS_ECN0_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TemporaryOffset2(rtxContext* ctx, TemporaryOffset2 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TemporaryOffset2");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TemporaryOffsetList(rtxContext* ctx, const TemporaryOffsetList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TemporaryOffsetList");
-   /* temporaryOffset1 */
-   rtxCtxtPushElemName(ctx, "temporaryOffset1");
-   rtxCtxtPushTypeName(ctx, "TemporaryOffset1");
-   if (pvalue->temporaryOffset1 > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->temporaryOffset1);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->temporaryOffset1, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* temporaryOffset2 */
-   rtxCtxtPushElemName(ctx, "temporaryOffset2");
-   rtxCtxtPushTypeName(ctx, "TemporaryOffset2");
-   if (pvalue->temporaryOffset2 > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->temporaryOffset2);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->temporaryOffset2, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PenaltyTime_ECN0(rtxContext* ctx, const PenaltyTime_ECN0* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PenaltyTime-ECN0");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 6) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "notUsed");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "pt10");
-         if (pvalue->u.pt10 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TemporaryOffsetList(ctx, pvalue->u.pt10);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "pt20");
-         if (pvalue->u.pt20 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TemporaryOffsetList(ctx, pvalue->u.pt20);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "pt30");
-         if (pvalue->u.pt30 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TemporaryOffsetList(ctx, pvalue->u.pt30);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "pt40");
-         if (pvalue->u.pt40 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TemporaryOffsetList(ctx, pvalue->u.pt40);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "pt50");
-         if (pvalue->u.pt50 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TemporaryOffsetList(ctx, pvalue->u.pt50);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "pt60");
-         if (pvalue->u.pt60 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TemporaryOffsetList(ctx, pvalue->u.pt60);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HCS_CellReselectInformation_ECN0(rtxContext* ctx, const HCS_CellReselectInformation_ECN0* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HCS-CellReselectInformation-ECN0");
-   /* penaltyTime */
-   rtxCtxtPushElemName(ctx, "penaltyTime");
-   stat = asn1PE_UMTS_PenaltyTime_ECN0(ctx, &pvalue->penaltyTime);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HCS_NeighbouringCellInformation_ECN0(rtxContext* ctx, const HCS_NeighbouringCellInformation_ECN0* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HCS-NeighbouringCellInformation-ECN0");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->hcs_PRIO != 0) << 1) |
-      ((uint64_t)(pvalue->q_HCS != 0) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* hcs-PRIO */
-   if (pvalue->hcs_PRIO != 0) {
-      rtxCtxtPushElemName(ctx, "hcs-PRIO");
-      rtxCtxtPushTypeName(ctx, "HCS-PRIO");
-      if ((uint64_t)pvalue->hcs_PRIO > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->hcs_PRIO);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hcs_PRIO, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* q-HCS */
-   if (pvalue->q_HCS != 0) {
-      rtxCtxtPushElemName(ctx, "q-HCS");
-      rtxCtxtPushTypeName(ctx, "Q-HCS");
-      if ((uint64_t)pvalue->q_HCS > 99u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->q_HCS);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->q_HCS, 0, 99);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hcs-CellReselectInformation */
-   rtxCtxtPushElemName(ctx, "hcs-CellReselectInformation");
-   stat = asn1PE_UMTS_HCS_CellReselectInformation_ECN0(ctx, &pvalue->hcs_CellReselectInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd(rtxContext* ctx, const CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* q-QualMin */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "q-QualMin");
-      rtxCtxtPushTypeName(ctx, "Q-QualMin");
-      if (pvalue->q_QualMin < -24 || pvalue->q_QualMin > 0) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->q_QualMin);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_QualMin, -24, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* q-RxlevMin */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "q-RxlevMin");
-      rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
-      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd(rtxContext* ctx, const CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* q-RxlevMin */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "q-RxlevMin");
-      rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
-      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm(rtxContext* ctx, const CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* q-RxlevMin */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "q-RxlevMin");
-      rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
-      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo(rtxContext* ctx, const CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "gsm");
-         if (pvalue->u.gsm == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0(rtxContext* ctx, const CellSelectReselectInfoSIB_11_12_HCS_ECN0* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->q_Offset1S_N != 0) << 3) |
-      ((uint64_t)(pvalue->q_Offset2S_N != 0) << 2) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* q-Offset1S-N */
-   if (pvalue->q_Offset1S_N != 0) {
-      rtxCtxtPushElemName(ctx, "q-Offset1S-N");
-      rtxCtxtPushTypeName(ctx, "Q-OffsetS-N");
-      if (pvalue->q_Offset1S_N < -50 || pvalue->q_Offset1S_N > 50) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->q_Offset1S_N);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_Offset1S_N, -50, 50);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* q-Offset2S-N */
-   if (pvalue->q_Offset2S_N != 0) {
-      rtxCtxtPushElemName(ctx, "q-Offset2S-N");
-      rtxCtxtPushTypeName(ctx, "Q-OffsetS-N");
-      if (pvalue->q_Offset2S_N < -50 || pvalue->q_Offset2S_N > 50) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->q_Offset2S_N);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_Offset2S_N, -50, 50);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hcs-NeighbouringCellInformation-ECN0 */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "hcs-NeighbouringCellInformation-ECN0");
-      stat = asn1PE_UMTS_HCS_NeighbouringCellInformation_ECN0(ctx, &pvalue->hcs_NeighbouringCellInformation_ECN0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfoSI_HCS_ECN0(rtxContext* ctx, const CellInfoSI_HCS_ECN0* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellInfoSI-HCS-ECN0");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 2) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* cellIndividualOffset */
-   if (pvalue->cellIndividualOffset != 0) {
-      rtxCtxtPushElemName(ctx, "cellIndividualOffset");
-      rtxCtxtPushTypeName(ctx, "CellIndividualOffset");
-      if (pvalue->cellIndividualOffset < -20 || pvalue->cellIndividualOffset > 20) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->cellIndividualOffset);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* referenceTimeDifferenceToCell */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "referenceTimeDifferenceToCell");
-      stat = asn1PE_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellSelectionReselectionInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "cellSelectionReselectionInfo");
-      stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCellSI_HCS_ECN0(rtxContext* ctx, const NewIntraFreqCellSI_HCS_ECN0* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellSI-HCS-ECN0");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* intraFreqCellID */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellID");
-      rtxCtxtPushTypeName(ctx, "IntraFreqCellID");
-      if ((uint64_t)pvalue->intraFreqCellID > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->intraFreqCellID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PE_UMTS_CellInfoSI_HCS_ECN0(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_ECN0(rtxContext* ctx, const NewIntraFreqCellSI_List_HCS_ECN0* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellSI-List-HCS-ECN0");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "NewIntraFreqCellSI-HCS-ECN0", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_NewIntraFreqCellSI_HCS_ECN0(ctx, (const NewIntraFreqCellSI_HCS_ECN0*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqCellInfoSI_List_HCS_ECN0(rtxContext* ctx, const IntraFreqCellInfoSI_List_HCS_ECN0* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqCellInfoSI-List-HCS-ECN0");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* removedIntraFreqCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "removedIntraFreqCellList");
-      stat = asn1PE_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newIntraFreqCellList */
-   rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
-   stat = asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_ECN0(ctx, &pvalue->newIntraFreqCellList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqMeasurementSysInfo_HCS_ECN0(rtxContext* ctx, const IntraFreqMeasurementSysInfo_HCS_ECN0* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqMeasurementSysInfo-HCS-ECN0");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->intraFreqMeasurementID != 1) << 5) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat);
-   /* intraFreqMeasurementID */
-   if (pvalue->intraFreqMeasurementID != 1) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasurementID");
-      rtxCtxtPushTypeName(ctx, "MeasurementIdentity");
-      if ((uint64_t)(pvalue->intraFreqMeasurementID - 1) > 15u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->intraFreqMeasurementID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->intraFreqMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqCellInfoSI-List */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellInfoSI-List");
-      stat = asn1PE_UMTS_IntraFreqCellInfoSI_List_HCS_ECN0(ctx, &pvalue->intraFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqMeasQuantity */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasQuantity");
-      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqReportingQuantityForRACH */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "intraFreqReportingQuantityForRACH");
-      stat = asn1PE_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxReportedCellsOnRACH */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "maxReportedCellsOnRACH");
-      rtxCtxtPushTypeName(ctx, "MaxReportedCellsOnRACH");
-      if (pvalue->maxReportedCellsOnRACH > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->maxReportedCellsOnRACH);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->maxReportedCellsOnRACH, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportingInfoForCellDCH */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "reportingInfoForCellDCH");
-      stat = asn1PE_UMTS_ReportingInfoForCellDCH(ctx, &pvalue->reportingInfoForCellDCH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCellSI_HCS_ECN0(rtxContext* ctx, const NewInterFreqCellSI_HCS_ECN0* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellSI-HCS-ECN0");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellID */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interFreqCellID");
-      rtxCtxtPushTypeName(ctx, "InterFreqCellID");
-      if ((uint64_t)pvalue->interFreqCellID > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PE_UMTS_CellInfoSI_HCS_ECN0(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCellSI_List_HCS_ECN0(rtxContext* ctx, const NewInterFreqCellSI_List_HCS_ECN0* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellSI-List-HCS-ECN0");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "NewInterFreqCellSI-HCS-ECN0", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_NewInterFreqCellSI_HCS_ECN0(ctx, (const NewInterFreqCellSI_HCS_ECN0*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqCellInfoSI_List_HCS_ECN0(rtxContext* ctx, const InterFreqCellInfoSI_List_HCS_ECN0* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqCellInfoSI-List-HCS-ECN0");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* removedInterFreqCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "removedInterFreqCellList");
-      stat = asn1PE_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      stat = asn1PE_UMTS_NewInterFreqCellSI_List_HCS_ECN0(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqMeasurementSysInfo_HCS_ECN0(rtxContext* ctx, const InterFreqMeasurementSysInfo_HCS_ECN0* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqMeasurementSysInfo-HCS-ECN0");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellInfoSI-List */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interFreqCellInfoSI-List");
-      stat = asn1PE_UMTS_InterFreqCellInfoSI_List_HCS_ECN0(ctx, &pvalue->interFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* intraFreqMeasurementSysInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasurementSysInfo");
-      stat = asn1PE_UMTS_IntraFreqMeasurementSysInfo_HCS_ECN0(ctx, &pvalue->intraFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interFreqMeasurementSysInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "interFreqMeasurementSysInfo");
-      stat = asn1PE_UMTS_InterFreqMeasurementSysInfo_HCS_ECN0(ctx, &pvalue->interFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "cpich-RSCP");
-         if (pvalue->u.cpich_RSCP == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "cpich-Ec-N0");
-         if (pvalue->u.cpich_Ec_N0 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterRATCell_technologySpecificInfo_gsm(rtxContext* ctx, const NewInterRATCell_technologySpecificInfo_gsm* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* cellSelectionReselectionInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellSelectionReselectionInfo");
-      stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interRATCellIndividualOffset */
-   rtxCtxtPushElemName(ctx, "interRATCellIndividualOffset");
-   rtxCtxtPushTypeName(ctx, "InterRATCellIndividualOffset");
-   if (pvalue->interRATCellIndividualOffset < -50 || pvalue->interRATCellIndividualOffset > 50) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->interRATCellIndividualOffset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->interRATCellIndividualOffset, -50, 50);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* bsic */
-   rtxCtxtPushElemName(ctx, "bsic");
-   stat = asn1PE_UMTS_BSIC(ctx, &pvalue->bsic);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequency-band */
-   rtxCtxtPushElemName(ctx, "frequency-band");
-   rtxCtxtPushTypeName(ctx, "Frequency-Band");
-   if (pvalue->frequency_band > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->frequency_band);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->frequency_band, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* bcch-ARFCN */
-   rtxCtxtPushElemName(ctx, "bcch-ARFCN");
-   rtxCtxtPushTypeName(ctx, "BCCH-ARFCN");
-   if ((uint64_t)pvalue->bcch_ARFCN > 1023u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->bcch_ARFCN);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->bcch_ARFCN, 0, 1023);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dummy */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterRATCell_technologySpecificInfo_is_2000(rtxContext* ctx, const NewInterRATCell_technologySpecificInfo_is_2000* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* is-2000SpecificMeasInfo */
-   rtxCtxtPushElemName(ctx, "is-2000SpecificMeasInfo");
-   rtxCtxtPushTypeName(ctx, "IS-2000SpecificMeasInfo");
-   if (pvalue->is_2000SpecificMeasInfo > 4) {
-      rtxErrAddUIntParm(ctx, pvalue->is_2000SpecificMeasInfo);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->is_2000SpecificMeasInfo, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterRATCell_technologySpecificInfo(rtxContext* ctx, const NewInterRATCell_technologySpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 3) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "gsm");
-         if (pvalue->u.gsm == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_NewInterRATCell_technologySpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "is-2000");
-         if (pvalue->u.is_2000 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_NewInterRATCell_technologySpecificInfo_is_2000(ctx, pvalue->u.is_2000);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "absent");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "spare1");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterRATCell(rtxContext* ctx, const NewInterRATCell* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NewInterRATCell");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* interRATCellID */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interRATCellID");
-      rtxCtxtPushTypeName(ctx, "InterRATCellID");
-      if ((uint64_t)pvalue->interRATCellID > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->interRATCellID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->interRATCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* technologySpecificInfo */
-   rtxCtxtPushElemName(ctx, "technologySpecificInfo");
-   stat = asn1PE_UMTS_NewInterRATCell_technologySpecificInfo(ctx, &pvalue->technologySpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterRATCellList(rtxContext* ctx, const NewInterRATCellList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NewInterRATCellList");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "NewInterRATCell", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_NewInterRATCell(ctx, (const NewInterRATCell*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellsForInterRATMeasList(rtxContext* ctx, const CellsForInterRATMeasList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "CellsForInterRATMeasList");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "InterRATCellID", i);
-      rtxCtxtPushTypeName(ctx, "InterRATCellID");
-      if ((uint64_t)pvalue->elem[i] > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATCellInfoList(rtxContext* ctx, const InterRATCellInfoList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATCellInfoList");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* removedInterRATCellList */
-   rtxCtxtPushElemName(ctx, "removedInterRATCellList");
-   stat = asn1PE_UMTS_RemovedInterRATCellList(ctx, &pvalue->removedInterRATCellList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* newInterRATCellList */
-   rtxCtxtPushElemName(ctx, "newInterRATCellList");
-   stat = asn1PE_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellsForInterRATMeasList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellsForInterRATMeasList");
-      stat = asn1PE_UMTS_CellsForInterRATMeasList(ctx, &pvalue->cellsForInterRATMeasList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATMeasurementSysInfo(rtxContext* ctx, const InterRATMeasurementSysInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATMeasurementSysInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* interRATCellInfoList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interRATCellInfoList");
-      stat = asn1PE_UMTS_InterRATCellInfoList(ctx, &pvalue->interRATCellInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used(rtxContext* ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_used* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellSelectQualityMeasure */
-   rtxCtxtPushElemName(ctx, "cellSelectQualityMeasure");
-   stat = asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* interRATMeasurementSysInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interRATMeasurementSysInfo");
-      stat = asn1PE_UMTS_InterRATMeasurementSysInfo(ctx, &pvalue->interRATMeasurementSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS(rtxContext* ctx, const MeasurementControlSysInfo_use_of_HCS* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "hcs-not-used");
-         if (pvalue->u.hcs_not_used == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used(ctx, pvalue->u.hcs_not_used);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "hcs-used");
-         if (pvalue->u.hcs_used == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used(ctx, pvalue->u.hcs_used);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TrCH_Identity(rtxContext* ctx, const UL_TrCH_Identity* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-TrCH-Identity");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "dch");
-         rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-         if ((uint64_t)(pvalue->u.dch - 1) > 31u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.dch);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.dch, 1, 32);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "rachorcpch");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "usch");
-         rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-         if ((uint64_t)(pvalue->u.usch - 1) > 31u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.usch);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.usch, 1, 32);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TrafficVolumeMeasurementObjectList(rtxContext* ctx, const TrafficVolumeMeasurementObjectList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "TrafficVolumeMeasurementObjectList");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "UL-TrCH-Identity", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_UL_TrCH_Identity(ctx, (const UL_TrCH_Identity*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TimeInterval(rtxContext* ctx, TimeInterval value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TimeInterval");
-   if ((uint64_t)(value - 1) > 12u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 13);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TrafficVolumeMeasQuantity(rtxContext* ctx, const TrafficVolumeMeasQuantity* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TrafficVolumeMeasQuantity");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "rlc-BufferPayload");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "averageRLC-BufferPayload");
-         rtxCtxtPushTypeName(ctx, "TimeInterval");
-         if ((uint64_t)(pvalue->u.averageRLC_BufferPayload - 1) > 12u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.averageRLC_BufferPayload);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.averageRLC_BufferPayload, 1, 13);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "varianceOfRLC-BufferPayload");
-         rtxCtxtPushTypeName(ctx, "TimeInterval");
-         if ((uint64_t)(pvalue->u.varianceOfRLC_BufferPayload - 1) > 12u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.varianceOfRLC_BufferPayload);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.varianceOfRLC_BufferPayload, 1, 13);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TrafficVolumeReportingQuantity(rtxContext* ctx, const TrafficVolumeReportingQuantity* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TrafficVolumeReportingQuantity");
-   /* rlc-RB-BufferPayload */
-   rtxCtxtPushElemName(ctx, "rlc-RB-BufferPayload");
-   stat = rtxEncBit(ctx, pvalue->rlc_RB_BufferPayload);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rlc-RB-BufferPayloadAverage */
-   rtxCtxtPushElemName(ctx, "rlc-RB-BufferPayloadAverage");
-   stat = rtxEncBit(ctx, pvalue->rlc_RB_BufferPayloadAverage);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rlc-RB-BufferPayloadVariance */
-   rtxCtxtPushElemName(ctx, "rlc-RB-BufferPayloadVariance");
-   stat = rtxEncBit(ctx, pvalue->rlc_RB_BufferPayloadVariance);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TrafficVolumeEventType(rtxContext* ctx, TrafficVolumeEventType value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TrafficVolumeEventType");
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TrafficVolumeThreshold(rtxContext* ctx, TrafficVolumeThreshold value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TrafficVolumeThreshold");
-   if (value > 25) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 25);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PendingTimeAfterTrigger(rtxContext* ctx, PendingTimeAfterTrigger value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PendingTimeAfterTrigger");
-   if (value > 6) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TX_InterruptionAfterTrigger(rtxContext* ctx, TX_InterruptionAfterTrigger value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TX-InterruptionAfterTrigger");
-   if (value > 6) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TrafficVolumeEventParam(rtxContext* ctx, const TrafficVolumeEventParam* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TrafficVolumeEventParam");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* eventID */
-   rtxCtxtPushElemName(ctx, "eventID");
-   rtxCtxtPushTypeName(ctx, "TrafficVolumeEventType");
-   if (pvalue->eventID > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->eventID);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->eventID, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingThreshold */
-   rtxCtxtPushElemName(ctx, "reportingThreshold");
-   rtxCtxtPushTypeName(ctx, "TrafficVolumeThreshold");
-   if (pvalue->reportingThreshold > 25) {
-      rtxErrAddUIntParm(ctx, pvalue->reportingThreshold);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingThreshold, 0, 25);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "timeToTrigger");
-      rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-      if (pvalue->timeToTrigger > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pendingTimeAfterTrigger */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "pendingTimeAfterTrigger");
-      rtxCtxtPushTypeName(ctx, "PendingTimeAfterTrigger");
-      if (pvalue->pendingTimeAfterTrigger > 6) {
-         rtxErrAddUIntParm(ctx, pvalue->pendingTimeAfterTrigger);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->pendingTimeAfterTrigger, 0, 6);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tx-InterruptionAfterTrigger */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "tx-InterruptionAfterTrigger");
-      rtxCtxtPushTypeName(ctx, "TX-InterruptionAfterTrigger");
-      if (pvalue->tx_InterruptionAfterTrigger > 6) {
-         rtxErrAddUIntParm(ctx, pvalue->tx_InterruptionAfterTrigger);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tx_InterruptionAfterTrigger, 0, 6);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TransChCriteria_eventSpecificParameters(rtxContext* ctx, const TransChCriteria_eventSpecificParameters* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 2);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "TrafficVolumeEventParam", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_TrafficVolumeEventParam(ctx, (const TrafficVolumeEventParam*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TransChCriteria(rtxContext* ctx, const TransChCriteria* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TransChCriteria");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ul-transportChannelID */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ul-transportChannelID");
-      stat = asn1PE_UMTS_UL_TrCH_Identity(ctx, &pvalue->ul_transportChannelID);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* eventSpecificParameters */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "eventSpecificParameters");
-      stat = asn1PE_UMTS_TransChCriteria_eventSpecificParameters(ctx, &pvalue->eventSpecificParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TransChCriteriaList(rtxContext* ctx, const TransChCriteriaList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "TransChCriteriaList");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "TransChCriteria", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_TransChCriteria(ctx, (const TransChCriteria*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TrafficVolumeReportingCriteria(rtxContext* ctx, const TrafficVolumeReportingCriteria* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TrafficVolumeReportingCriteria");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* transChCriteriaList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "transChCriteriaList");
-      stat = asn1PE_UMTS_TransChCriteriaList(ctx, &pvalue->transChCriteriaList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementValidity_ue_State(rtxContext* ctx, MeasurementValidity_ue_State value)
-{
-   int stat = 0;
-   if (value > 2) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 2);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementValidity(rtxContext* ctx, const MeasurementValidity* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementValidity");
-   /* ue-State */
-   rtxCtxtPushElemName(ctx, "ue-State");
-   if (pvalue->ue_State > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->ue_State);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_State, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TrafficVolumeReportCriteriaSysInfo(rtxContext* ctx, const TrafficVolumeReportCriteriaSysInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TrafficVolumeReportCriteriaSysInfo");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "trafficVolumeReportingCriteria");
-         if (pvalue->u.trafficVolumeReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TrafficVolumeReportingCriteria(ctx, pvalue->u.trafficVolumeReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TrafficVolumeMeasSysInfo(rtxContext* ctx, const TrafficVolumeMeasSysInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TrafficVolumeMeasSysInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->trafficVolumeMeasurementID != 4) << 5) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat);
-   /* trafficVolumeMeasurementID */
-   if (pvalue->trafficVolumeMeasurementID != 4) {
-      rtxCtxtPushElemName(ctx, "trafficVolumeMeasurementID");
-      rtxCtxtPushTypeName(ctx, "MeasurementIdentity");
-      if ((uint64_t)(pvalue->trafficVolumeMeasurementID - 1) > 15u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->trafficVolumeMeasurementID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->trafficVolumeMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* trafficVolumeMeasurementObjectList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "trafficVolumeMeasurementObjectList");
-      stat = asn1PE_UMTS_TrafficVolumeMeasurementObjectList(ctx, &pvalue->trafficVolumeMeasurementObjectList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* trafficVolumeMeasQuantity */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "trafficVolumeMeasQuantity");
-      stat = asn1PE_UMTS_TrafficVolumeMeasQuantity(ctx, &pvalue->trafficVolumeMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* trafficVolumeReportingQuantity */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "trafficVolumeReportingQuantity");
-      stat = asn1PE_UMTS_TrafficVolumeReportingQuantity(ctx, &pvalue->trafficVolumeReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      stat = asn1PE_UMTS_TrafficVolumeReportingCriteria(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementValidity */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "measurementValidity");
-      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementReportingMode */
-   rtxCtxtPushElemName(ctx, "measurementReportingMode");
-   stat = asn1PE_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* reportCriteriaSysInf */
-   rtxCtxtPushElemName(ctx, "reportCriteriaSysInf");
-   stat = asn1PE_UMTS_TrafficVolumeReportCriteriaSysInfo(ctx, &pvalue->reportCriteriaSysInf);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_MeasurementQuantity(rtxContext* ctx, UE_MeasurementQuantity value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-MeasurementQuantity");
-   if (value > 2) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalMeasQuantity(rtxContext* ctx, const UE_InternalMeasQuantity* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-InternalMeasQuantity");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->filterCoefficient != 0) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measurementQuantity */
-   rtxCtxtPushElemName(ctx, "measurementQuantity");
-   rtxCtxtPushTypeName(ctx, "UE-MeasurementQuantity");
-   if (pvalue->measurementQuantity > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->measurementQuantity);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->measurementQuantity, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* filterCoefficient */
-   if (pvalue->filterCoefficient != 0) {
-      rtxCtxtPushElemName(ctx, "filterCoefficient");
-      rtxCtxtPushTypeName(ctx, "FilterCoefficient");
-      if (pvalue->filterCoefficient > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->filterCoefficient);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->filterCoefficient, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalMeasurementSysInfo(rtxContext* ctx, const UE_InternalMeasurementSysInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-InternalMeasurementSysInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->ue_InternalMeasurementID != 5) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-InternalMeasurementID */
-   if (pvalue->ue_InternalMeasurementID != 5) {
-      rtxCtxtPushElemName(ctx, "ue-InternalMeasurementID");
-      rtxCtxtPushTypeName(ctx, "MeasurementIdentity");
-      if ((uint64_t)(pvalue->ue_InternalMeasurementID - 1) > 15u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->ue_InternalMeasurementID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ue_InternalMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-InternalMeasQuantity */
-   rtxCtxtPushElemName(ctx, "ue-InternalMeasQuantity");
-   stat = asn1PE_UMTS_UE_InternalMeasQuantity(ctx, &pvalue->ue_InternalMeasQuantity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfo(rtxContext* ctx, const MeasurementControlSysInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementControlSysInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* use-of-HCS */
-   rtxCtxtPushElemName(ctx, "use-of-HCS");
-   stat = asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS(ctx, &pvalue->use_of_HCS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* trafficVolumeMeasSysInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "trafficVolumeMeasSysInfo");
-      stat = asn1PE_UMTS_TrafficVolumeMeasSysInfo(ctx, &pvalue->trafficVolumeMeasSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      stat = asn1PE_UMTS_UE_InternalMeasurementSysInfo(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_FACH_MeasurementOccasionInfo_LCR_r4_ext(rtxContext* ctx, const FACH_MeasurementOccasionInfo_LCR_r4_ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "FACH-MeasurementOccasionInfo-LCR-r4-ext");
-   /* inter-freq-TDD128-meas-ind */
-   rtxCtxtPushElemName(ctx, "inter-freq-TDD128-meas-ind");
-   stat = rtxEncBit(ctx, pvalue->inter_freq_TDD128_meas_ind);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_Info_LCR_r4(rtxContext* ctx, const PrimaryCCPCH_Info_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-Info-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* tstd-Indicator */
-   rtxCtxtPushElemName(ctx, "tstd-Indicator");
-   stat = rtxEncBit(ctx, pvalue->tstd_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellParametersID */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellParametersID");
-      rtxCtxtPushTypeName(ctx, "CellParametersID");
-      if ((uint64_t)pvalue->cellParametersID > 127u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->cellParametersID, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sctd-Indicator */
-   rtxCtxtPushElemName(ctx, "sctd-Indicator");
-   stat = rtxEncBit(ctx, pvalue->sctd_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TimeslotInfo_LCR_r4(rtxContext* ctx, const TimeslotInfo_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TimeslotInfo-LCR-r4");
-   /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-LCR-r4");
-   if ((uint64_t)pvalue->timeslotNumber > 6u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TimeslotInfoList_LCR_r4(rtxContext* ctx, const TimeslotInfoList_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "TimeslotInfoList-LCR-r4");
-   RT_SET_SIZE(ctx, 1, 6);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "TimeslotInfo-LCR-r4", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_TimeslotInfo_LCR_r4(ctx, (const TimeslotInfo_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfoSI_RSCP_LCR_r4(rtxContext* ctx, const CellInfoSI_RSCP_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellInfoSI-RSCP-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 4) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat);
-   /* cellIndividualOffset */
-   if (pvalue->cellIndividualOffset != 0) {
-      rtxCtxtPushElemName(ctx, "cellIndividualOffset");
-      rtxCtxtPushTypeName(ctx, "CellIndividualOffset");
-      if (pvalue->cellIndividualOffset < -20 || pvalue->cellIndividualOffset > 20) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->cellIndividualOffset);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* referenceTimeDifferenceToCell */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "referenceTimeDifferenceToCell");
-      stat = asn1PE_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* primaryCCPCH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-Info");
-   stat = asn1PE_UMTS_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-      rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-      if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* timeslotInfoList */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "timeslotInfoList");
-      stat = asn1PE_UMTS_TimeslotInfoList_LCR_r4(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* readSFN-Indicator */
-   rtxCtxtPushElemName(ctx, "readSFN-Indicator");
-   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellSelectionReselectionInfo */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "cellSelectionReselectionInfo");
-      stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_RSCP(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCellSI_RSCP_LCR_r4(rtxContext* ctx, const NewIntraFreqCellSI_RSCP_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellSI-RSCP-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* intraFreqCellID */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellID");
-      rtxCtxtPushTypeName(ctx, "IntraFreqCellID");
-      if ((uint64_t)pvalue->intraFreqCellID > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->intraFreqCellID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PE_UMTS_CellInfoSI_RSCP_LCR_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCellSI_List_RSCP_LCR_r4(rtxContext* ctx, const NewIntraFreqCellSI_List_RSCP_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellSI-List-RSCP-LCR-r4");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "NewIntraFreqCellSI-RSCP-LCR-r4", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_NewIntraFreqCellSI_RSCP_LCR_r4(ctx, (const NewIntraFreqCellSI_RSCP_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqCellInfoSI_List_RSCP_LCR_r4(rtxContext* ctx, const IntraFreqCellInfoSI_List_RSCP_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqCellInfoSI-List-RSCP-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* removedIntraFreqCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "removedIntraFreqCellList");
-      stat = asn1PE_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newIntraFreqCellList */
-   rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
-   stat = asn1PE_UMTS_NewIntraFreqCellSI_List_RSCP_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ForbiddenAffectCell_LCR_r4(rtxContext* ctx, const ForbiddenAffectCell_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ForbiddenAffectCell-LCR-r4");
-   /* tdd */
-   rtxCtxtPushElemName(ctx, "tdd");
-   stat = asn1PE_UMTS_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->tdd);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ForbiddenAffectCellList_LCR_r4(rtxContext* ctx, const ForbiddenAffectCellList_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "ForbiddenAffectCellList-LCR-r4");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "ForbiddenAffectCell-LCR-r4", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_ForbiddenAffectCell_LCR_r4(ctx, (const ForbiddenAffectCell_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Event1a_LCR_r4(rtxContext* ctx, const Event1a_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Event1a-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* triggeringCondition */
-   rtxCtxtPushElemName(ctx, "triggeringCondition");
-   rtxCtxtPushTypeName(ctx, "TriggeringCondition2");
-   if (pvalue->triggeringCondition > 4) {
-      rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingRange */
-   rtxCtxtPushElemName(ctx, "reportingRange");
-   rtxCtxtPushTypeName(ctx, "ReportingRange");
-   if ((uint64_t)pvalue->reportingRange > 29u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->reportingRange);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingRange, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* forbiddenAffectCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "forbiddenAffectCellList");
-      stat = asn1PE_UMTS_ForbiddenAffectCellList_LCR_r4(ctx, &pvalue->forbiddenAffectCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* w */
-   rtxCtxtPushElemName(ctx, "w");
-   rtxCtxtPushTypeName(ctx, "W");
-   if ((uint64_t)pvalue->w > 20u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->w);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportDeactivationThreshold */
-   rtxCtxtPushElemName(ctx, "reportDeactivationThreshold");
-   rtxCtxtPushTypeName(ctx, "ReportDeactivationThreshold");
-   if (pvalue->reportDeactivationThreshold > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->reportDeactivationThreshold);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportDeactivationThreshold, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingAmount */
-   rtxCtxtPushElemName(ctx, "reportingAmount");
-   rtxCtxtPushTypeName(ctx, "ReportingAmount");
-   if (pvalue->reportingAmount > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->reportingAmount);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingAmount, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingInterval */
-   rtxCtxtPushElemName(ctx, "reportingInterval");
-   rtxCtxtPushTypeName(ctx, "ReportingInterval");
-   if (pvalue->reportingInterval > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->reportingInterval);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingInterval, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Event1b_LCR_r4(rtxContext* ctx, const Event1b_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Event1b-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* triggeringCondition */
-   rtxCtxtPushElemName(ctx, "triggeringCondition");
-   rtxCtxtPushTypeName(ctx, "TriggeringCondition1");
-   if (pvalue->triggeringCondition > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingRange */
-   rtxCtxtPushElemName(ctx, "reportingRange");
-   rtxCtxtPushTypeName(ctx, "ReportingRange");
-   if ((uint64_t)pvalue->reportingRange > 29u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->reportingRange);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingRange, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* forbiddenAffectCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "forbiddenAffectCellList");
-      stat = asn1PE_UMTS_ForbiddenAffectCellList_LCR_r4(ctx, &pvalue->forbiddenAffectCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* w */
-   rtxCtxtPushElemName(ctx, "w");
-   rtxCtxtPushTypeName(ctx, "W");
-   if ((uint64_t)pvalue->w > 20u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->w);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqEvent_LCR_r4(rtxContext* ctx, const IntraFreqEvent_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqEvent-LCR-r4");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 8) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "e1a");
-         if (pvalue->u.e1a == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event1a_LCR_r4(ctx, pvalue->u.e1a);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "e1b");
-         if (pvalue->u.e1b == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event1b_LCR_r4(ctx, pvalue->u.e1b);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "e1c");
-         if (pvalue->u.e1c == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event1c(ctx, pvalue->u.e1c);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "e1d");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "e1e");
-         if (pvalue->u.e1e == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event1e(ctx, pvalue->u.e1e);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "e1f");
-         if (pvalue->u.e1f == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event1f(ctx, pvalue->u.e1f);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "e1g");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 8:
-         rtxCtxtPushElemName(ctx, "e1h");
-         rtxCtxtPushTypeName(ctx, "ThresholdUsedFrequency");
-         if (pvalue->u.e1h < -115 || pvalue->u.e1h > 165) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddIntParm(ctx, pvalue->u.e1h);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsInt64(ctx, pvalue->u.e1h, -115, 165);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 9:
-         rtxCtxtPushElemName(ctx, "e1i");
-         rtxCtxtPushTypeName(ctx, "ThresholdUsedFrequency");
-         if (pvalue->u.e1i < -115 || pvalue->u.e1i > 165) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddIntParm(ctx, pvalue->u.e1i);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsInt64(ctx, pvalue->u.e1i, -115, 165);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqEventCriteria_LCR_r4(rtxContext* ctx, const IntraFreqEventCriteria_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqEventCriteria-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* event */
-   rtxCtxtPushElemName(ctx, "event");
-   stat = asn1PE_UMTS_IntraFreqEvent_LCR_r4(ctx, &pvalue->event);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "Hysteresis");
-   if ((uint64_t)pvalue->hysteresis > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqEventCriteriaList_LCR_r4(rtxContext* ctx, const IntraFreqEventCriteriaList_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "IntraFreqEventCriteriaList-LCR-r4");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "IntraFreqEventCriteria-LCR-r4", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_IntraFreqEventCriteria_LCR_r4(ctx, (const IntraFreqEventCriteria_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqReportingCriteria_LCR_r4(rtxContext* ctx, const IntraFreqReportingCriteria_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqReportingCriteria-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* eventCriteriaList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "eventCriteriaList");
-      stat = asn1PE_UMTS_IntraFreqEventCriteriaList_LCR_r4(ctx, &pvalue->eventCriteriaList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellDCH_ReportCriteria_LCR_r4(rtxContext* ctx, const CellDCH_ReportCriteria_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellDCH-ReportCriteria-LCR-r4");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "intraFreqReportingCriteria");
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_IntraFreqReportingCriteria_LCR_r4(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ReportingInfoForCellDCH_LCR_r4(rtxContext* ctx, const ReportingInfoForCellDCH_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ReportingInfoForCellDCH-LCR-r4");
-   /* intraFreqReportingQuantity */
-   rtxCtxtPushElemName(ctx, "intraFreqReportingQuantity");
-   stat = asn1PE_UMTS_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementReportingMode */
-   rtxCtxtPushElemName(ctx, "measurementReportingMode");
-   stat = asn1PE_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PE_UMTS_CellDCH_ReportCriteria_LCR_r4(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqMeasurementSysInfo_RSCP_LCR_r4(rtxContext* ctx, const IntraFreqMeasurementSysInfo_RSCP_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->intraFreqMeasurementID != 1) << 5) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat);
-   /* intraFreqMeasurementID */
-   if (pvalue->intraFreqMeasurementID != 1) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasurementID");
-      rtxCtxtPushTypeName(ctx, "MeasurementIdentity");
-      if ((uint64_t)(pvalue->intraFreqMeasurementID - 1) > 15u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->intraFreqMeasurementID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->intraFreqMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqCellInfoSI-List */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellInfoSI-List");
-      stat = asn1PE_UMTS_IntraFreqCellInfoSI_List_RSCP_LCR_r4(ctx, &pvalue->intraFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqMeasQuantity */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasQuantity");
-      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqReportingQuantityForRACH */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "intraFreqReportingQuantityForRACH");
-      stat = asn1PE_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxReportedCellsOnRACH */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "maxReportedCellsOnRACH");
-      rtxCtxtPushTypeName(ctx, "MaxReportedCellsOnRACH");
-      if (pvalue->maxReportedCellsOnRACH > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->maxReportedCellsOnRACH);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->maxReportedCellsOnRACH, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportingInfoForCellDCH */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "reportingInfoForCellDCH");
-      stat = asn1PE_UMTS_ReportingInfoForCellDCH_LCR_r4(ctx, &pvalue->reportingInfoForCellDCH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCellSI_RSCP_LCR_r4(rtxContext* ctx, const NewInterFreqCellSI_RSCP_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellSI-RSCP-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellID */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interFreqCellID");
-      rtxCtxtPushTypeName(ctx, "InterFreqCellID");
-      if ((uint64_t)pvalue->interFreqCellID > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PE_UMTS_CellInfoSI_RSCP_LCR_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCellSI_List_RSCP_LCR_r4(rtxContext* ctx, const NewInterFreqCellSI_List_RSCP_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellSI-List-RSCP-LCR-r4");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "NewInterFreqCellSI-RSCP-LCR-r4", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_NewInterFreqCellSI_RSCP_LCR_r4(ctx, (const NewInterFreqCellSI_RSCP_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqCellInfoSI_List_RSCP_LCR(rtxContext* ctx, const InterFreqCellInfoSI_List_RSCP_LCR* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqCellInfoSI-List-RSCP-LCR");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* removedInterFreqCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "removedInterFreqCellList");
-      stat = asn1PE_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      stat = asn1PE_UMTS_NewInterFreqCellSI_List_RSCP_LCR_r4(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqMeasurementSysInfo_RSCP_LCR_r4(rtxContext* ctx, const InterFreqMeasurementSysInfo_RSCP_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqMeasurementSysInfo-RSCP-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellInfoSI-List */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interFreqCellInfoSI-List");
-      stat = asn1PE_UMTS_InterFreqCellInfoSI_List_RSCP_LCR(ctx, &pvalue->interFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* intraFreqMeasurementSysInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasurementSysInfo");
-      stat = asn1PE_UMTS_IntraFreqMeasurementSysInfo_RSCP_LCR_r4(ctx, &pvalue->intraFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interFreqMeasurementSysInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "interFreqMeasurementSysInfo");
-      stat = asn1PE_UMTS_InterFreqMeasurementSysInfo_RSCP_LCR_r4(ctx, &pvalue->interFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfoSI_ECN0_LCR_r4(rtxContext* ctx, const CellInfoSI_ECN0_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellInfoSI-ECN0-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 4) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat);
-   /* cellIndividualOffset */
-   if (pvalue->cellIndividualOffset != 0) {
-      rtxCtxtPushElemName(ctx, "cellIndividualOffset");
-      rtxCtxtPushTypeName(ctx, "CellIndividualOffset");
-      if (pvalue->cellIndividualOffset < -20 || pvalue->cellIndividualOffset > 20) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->cellIndividualOffset);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* referenceTimeDifferenceToCell */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "referenceTimeDifferenceToCell");
-      stat = asn1PE_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* primaryCCPCH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-Info");
-   stat = asn1PE_UMTS_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-      rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-      if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* timeslotInfoList */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "timeslotInfoList");
-      stat = asn1PE_UMTS_TimeslotInfoList_LCR_r4(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* readSFN-Indicator */
-   rtxCtxtPushElemName(ctx, "readSFN-Indicator");
-   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellSelectionReselectionInfo */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "cellSelectionReselectionInfo");
-      stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_ECN0(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCellSI_ECN0_LCR_r4(rtxContext* ctx, const NewIntraFreqCellSI_ECN0_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellSI-ECN0-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* intraFreqCellID */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellID");
-      rtxCtxtPushTypeName(ctx, "IntraFreqCellID");
-      if ((uint64_t)pvalue->intraFreqCellID > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->intraFreqCellID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PE_UMTS_CellInfoSI_ECN0_LCR_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCellSI_List_ECN0_LCR_r4(rtxContext* ctx, const NewIntraFreqCellSI_List_ECN0_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellSI-List-ECN0-LCR-r4");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "NewIntraFreqCellSI-ECN0-LCR-r4", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_NewIntraFreqCellSI_ECN0_LCR_r4(ctx, (const NewIntraFreqCellSI_ECN0_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqCellInfoSI_List_ECN0_LCR_r4(rtxContext* ctx, const IntraFreqCellInfoSI_List_ECN0_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqCellInfoSI-List-ECN0-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* removedIntraFreqCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "removedIntraFreqCellList");
-      stat = asn1PE_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newIntraFreqCellList */
-   rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
-   stat = asn1PE_UMTS_NewIntraFreqCellSI_List_ECN0_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqMeasurementSysInfo_ECN0_LCR_r4(rtxContext* ctx, const IntraFreqMeasurementSysInfo_ECN0_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->intraFreqMeasurementID != 1) << 5) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat);
-   /* intraFreqMeasurementID */
-   if (pvalue->intraFreqMeasurementID != 1) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasurementID");
-      rtxCtxtPushTypeName(ctx, "MeasurementIdentity");
-      if ((uint64_t)(pvalue->intraFreqMeasurementID - 1) > 15u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->intraFreqMeasurementID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->intraFreqMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqCellInfoSI-List */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellInfoSI-List");
-      stat = asn1PE_UMTS_IntraFreqCellInfoSI_List_ECN0_LCR_r4(ctx, &pvalue->intraFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqMeasQuantity */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasQuantity");
-      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqReportingQuantityForRACH */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "intraFreqReportingQuantityForRACH");
-      stat = asn1PE_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxReportedCellsOnRACH */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "maxReportedCellsOnRACH");
-      rtxCtxtPushTypeName(ctx, "MaxReportedCellsOnRACH");
-      if (pvalue->maxReportedCellsOnRACH > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->maxReportedCellsOnRACH);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->maxReportedCellsOnRACH, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportingInfoForCellDCH */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "reportingInfoForCellDCH");
-      stat = asn1PE_UMTS_ReportingInfoForCellDCH_LCR_r4(ctx, &pvalue->reportingInfoForCellDCH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCellSI_ECN0_LCR_r4(rtxContext* ctx, const NewInterFreqCellSI_ECN0_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellSI-ECN0-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellID */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interFreqCellID");
-      rtxCtxtPushTypeName(ctx, "InterFreqCellID");
-      if ((uint64_t)pvalue->interFreqCellID > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PE_UMTS_CellInfoSI_ECN0_LCR_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCellSI_List_ECN0_LCR_r4(rtxContext* ctx, const NewInterFreqCellSI_List_ECN0_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellSI-List-ECN0-LCR-r4");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "NewInterFreqCellSI-ECN0-LCR-r4", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_NewInterFreqCellSI_ECN0_LCR_r4(ctx, (const NewInterFreqCellSI_ECN0_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqCellInfoSI_List_ECN0_LCR(rtxContext* ctx, const InterFreqCellInfoSI_List_ECN0_LCR* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqCellInfoSI-List-ECN0-LCR");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* removedInterFreqCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "removedInterFreqCellList");
-      stat = asn1PE_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      stat = asn1PE_UMTS_NewInterFreqCellSI_List_ECN0_LCR_r4(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqMeasurementSysInfo_ECN0_LCR_r4(rtxContext* ctx, const InterFreqMeasurementSysInfo_ECN0_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqMeasurementSysInfo-ECN0-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellInfoSI-List */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interFreqCellInfoSI-List");
-      stat = asn1PE_UMTS_InterFreqCellInfoSI_List_ECN0_LCR(ctx, &pvalue->interFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* intraFreqMeasurementSysInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasurementSysInfo");
-      stat = asn1PE_UMTS_IntraFreqMeasurementSysInfo_ECN0_LCR_r4(ctx, &pvalue->intraFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interFreqMeasurementSysInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "interFreqMeasurementSysInfo");
-      stat = asn1PE_UMTS_InterFreqMeasurementSysInfo_ECN0_LCR_r4(ctx, &pvalue->interFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "cpich-RSCP");
-         if (pvalue->u.cpich_RSCP == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "cpich-Ec-N0");
-         if (pvalue->u.cpich_Ec_N0 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used(rtxContext* ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* cellSelectQualityMeasure */
-   rtxCtxtPushElemName(ctx, "cellSelectQualityMeasure");
-   stat = asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfoSI_HCS_RSCP_LCR_r4(rtxContext* ctx, const CellInfoSI_HCS_RSCP_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellInfoSI-HCS-RSCP-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 4) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat);
-   /* cellIndividualOffset */
-   if (pvalue->cellIndividualOffset != 0) {
-      rtxCtxtPushElemName(ctx, "cellIndividualOffset");
-      rtxCtxtPushTypeName(ctx, "CellIndividualOffset");
-      if (pvalue->cellIndividualOffset < -20 || pvalue->cellIndividualOffset > 20) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->cellIndividualOffset);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* referenceTimeDifferenceToCell */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "referenceTimeDifferenceToCell");
-      stat = asn1PE_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* primaryCCPCH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-Info");
-   stat = asn1PE_UMTS_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-      rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-      if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* timeslotInfoList */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "timeslotInfoList");
-      stat = asn1PE_UMTS_TimeslotInfoList_LCR_r4(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* readSFN-Indicator */
-   rtxCtxtPushElemName(ctx, "readSFN-Indicator");
-   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellSelectionReselectionInfo */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "cellSelectionReselectionInfo");
-      stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCellSI_HCS_RSCP_LCR_r4(rtxContext* ctx, const NewIntraFreqCellSI_HCS_RSCP_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* intraFreqCellID */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellID");
-      rtxCtxtPushTypeName(ctx, "IntraFreqCellID");
-      if ((uint64_t)pvalue->intraFreqCellID > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->intraFreqCellID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PE_UMTS_CellInfoSI_HCS_RSCP_LCR_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4(rtxContext* ctx, const NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellSI-List-HCS-RSCP-LCR-r4");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_NewIntraFreqCellSI_HCS_RSCP_LCR_r4(ctx, (const NewIntraFreqCellSI_HCS_RSCP_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqCellInfoSI_List_HCS_RSCP_LCR_r4(rtxContext* ctx, const IntraFreqCellInfoSI_List_HCS_RSCP_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqCellInfoSI-List-HCS-RSCP-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* removedIntraFreqCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "removedIntraFreqCellList");
-      stat = asn1PE_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newIntraFreqCellList */
-   rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
-   stat = asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(rtxContext* ctx, const IntraFreqMeasurementSysInfo_HCS_RSCP_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->intraFreqMeasurementID != 1) << 5) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat);
-   /* intraFreqMeasurementID */
-   if (pvalue->intraFreqMeasurementID != 1) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasurementID");
-      rtxCtxtPushTypeName(ctx, "MeasurementIdentity");
-      if ((uint64_t)(pvalue->intraFreqMeasurementID - 1) > 15u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->intraFreqMeasurementID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->intraFreqMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqCellInfoSI-List */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellInfoSI-List");
-      stat = asn1PE_UMTS_IntraFreqCellInfoSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->intraFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqMeasQuantity */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasQuantity");
-      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqReportingQuantityForRACH */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "intraFreqReportingQuantityForRACH");
-      stat = asn1PE_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxReportedCellsOnRACH */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "maxReportedCellsOnRACH");
-      rtxCtxtPushTypeName(ctx, "MaxReportedCellsOnRACH");
-      if (pvalue->maxReportedCellsOnRACH > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->maxReportedCellsOnRACH);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->maxReportedCellsOnRACH, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportingInfoForCellDCH */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "reportingInfoForCellDCH");
-      stat = asn1PE_UMTS_ReportingInfoForCellDCH_LCR_r4(ctx, &pvalue->reportingInfoForCellDCH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCellSI_HCS_RSCP_LCR_r4(rtxContext* ctx, const NewInterFreqCellSI_HCS_RSCP_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellSI-HCS-RSCP-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellID */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interFreqCellID");
-      rtxCtxtPushTypeName(ctx, "InterFreqCellID");
-      if ((uint64_t)pvalue->interFreqCellID > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PE_UMTS_CellInfoSI_HCS_RSCP_LCR_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCellSI_List_HCS_RSCP_LCR_r4(rtxContext* ctx, const NewInterFreqCellSI_List_HCS_RSCP_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellSI-List-HCS-RSCP-LCR-r4");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "NewInterFreqCellSI-HCS-RSCP-LCR-r4", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_NewInterFreqCellSI_HCS_RSCP_LCR_r4(ctx, (const NewInterFreqCellSI_HCS_RSCP_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqCellInfoSI_List_HCS_RSCP_LCR(rtxContext* ctx, const InterFreqCellInfoSI_List_HCS_RSCP_LCR* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqCellInfoSI-List-HCS-RSCP-LCR");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* removedInterFreqCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "removedInterFreqCellList");
-      stat = asn1PE_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      stat = asn1PE_UMTS_NewInterFreqCellSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(rtxContext* ctx, const InterFreqMeasurementSysInfo_HCS_RSCP_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellInfoSI-List */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interFreqCellInfoSI-List");
-      stat = asn1PE_UMTS_InterFreqCellInfoSI_List_HCS_RSCP_LCR(ctx, &pvalue->interFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* intraFreqMeasurementSysInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasurementSysInfo");
-      stat = asn1PE_UMTS_IntraFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(ctx, &pvalue->intraFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interFreqMeasurementSysInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "interFreqMeasurementSysInfo");
-      stat = asn1PE_UMTS_InterFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(ctx, &pvalue->interFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfoSI_HCS_ECN0_LCR_r4(rtxContext* ctx, const CellInfoSI_HCS_ECN0_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellInfoSI-HCS-ECN0-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 4) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat);
-   /* cellIndividualOffset */
-   if (pvalue->cellIndividualOffset != 0) {
-      rtxCtxtPushElemName(ctx, "cellIndividualOffset");
-      rtxCtxtPushTypeName(ctx, "CellIndividualOffset");
-      if (pvalue->cellIndividualOffset < -20 || pvalue->cellIndividualOffset > 20) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->cellIndividualOffset);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* referenceTimeDifferenceToCell */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "referenceTimeDifferenceToCell");
-      stat = asn1PE_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* primaryCCPCH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-Info");
-   stat = asn1PE_UMTS_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-      rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-      if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* timeslotInfoList */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "timeslotInfoList");
-      stat = asn1PE_UMTS_TimeslotInfoList_LCR_r4(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* readSFN-Indicator */
-   rtxCtxtPushElemName(ctx, "readSFN-Indicator");
-   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellSelectionReselectionInfo */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "cellSelectionReselectionInfo");
-      stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCellSI_HCS_ECN0_LCR_r4(rtxContext* ctx, const NewIntraFreqCellSI_HCS_ECN0_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* intraFreqCellID */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellID");
-      rtxCtxtPushTypeName(ctx, "IntraFreqCellID");
-      if ((uint64_t)pvalue->intraFreqCellID > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->intraFreqCellID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PE_UMTS_CellInfoSI_HCS_ECN0_LCR_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4(rtxContext* ctx, const NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellSI-List-HCS-ECN0-LCR-r4");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_NewIntraFreqCellSI_HCS_ECN0_LCR_r4(ctx, (const NewIntraFreqCellSI_HCS_ECN0_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqCellInfoSI_List_HCS_ECN0_LCR_r4(rtxContext* ctx, const IntraFreqCellInfoSI_List_HCS_ECN0_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqCellInfoSI-List-HCS-ECN0-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* removedIntraFreqCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "removedIntraFreqCellList");
-      stat = asn1PE_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newIntraFreqCellList */
-   rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
-   stat = asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(rtxContext* ctx, const IntraFreqMeasurementSysInfo_HCS_ECN0_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->intraFreqMeasurementID != 1) << 5) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat);
-   /* intraFreqMeasurementID */
-   if (pvalue->intraFreqMeasurementID != 1) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasurementID");
-      rtxCtxtPushTypeName(ctx, "MeasurementIdentity");
-      if ((uint64_t)(pvalue->intraFreqMeasurementID - 1) > 15u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->intraFreqMeasurementID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->intraFreqMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqCellInfoSI-List */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellInfoSI-List");
-      stat = asn1PE_UMTS_IntraFreqCellInfoSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->intraFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqMeasQuantity */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasQuantity");
-      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqReportingQuantityForRACH */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "intraFreqReportingQuantityForRACH");
-      stat = asn1PE_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxReportedCellsOnRACH */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "maxReportedCellsOnRACH");
-      rtxCtxtPushTypeName(ctx, "MaxReportedCellsOnRACH");
-      if (pvalue->maxReportedCellsOnRACH > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->maxReportedCellsOnRACH);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->maxReportedCellsOnRACH, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportingInfoForCellDCH */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "reportingInfoForCellDCH");
-      stat = asn1PE_UMTS_ReportingInfoForCellDCH_LCR_r4(ctx, &pvalue->reportingInfoForCellDCH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCellSI_HCS_ECN0_LCR_r4(rtxContext* ctx, const NewInterFreqCellSI_HCS_ECN0_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellSI-HCS-ECN0-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellID */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interFreqCellID");
-      rtxCtxtPushTypeName(ctx, "InterFreqCellID");
-      if ((uint64_t)pvalue->interFreqCellID > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PE_UMTS_CellInfoSI_HCS_ECN0_LCR_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCellSI_List_HCS_ECN0_LCR_r4(rtxContext* ctx, const NewInterFreqCellSI_List_HCS_ECN0_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellSI-List-HCS-ECN0-LCR-r4");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "NewInterFreqCellSI-HCS-ECN0-LCR-r4", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_NewInterFreqCellSI_HCS_ECN0_LCR_r4(ctx, (const NewInterFreqCellSI_HCS_ECN0_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqCellInfoSI_List_HCS_ECN0_LCR(rtxContext* ctx, const InterFreqCellInfoSI_List_HCS_ECN0_LCR* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqCellInfoSI-List-HCS-ECN0-LCR");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* removedInterFreqCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "removedInterFreqCellList");
-      stat = asn1PE_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      stat = asn1PE_UMTS_NewInterFreqCellSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(rtxContext* ctx, const InterFreqMeasurementSysInfo_HCS_ECN0_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellInfoSI-List */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interFreqCellInfoSI-List");
-      stat = asn1PE_UMTS_InterFreqCellInfoSI_List_HCS_ECN0_LCR(ctx, &pvalue->interFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* intraFreqMeasurementSysInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasurementSysInfo");
-      stat = asn1PE_UMTS_IntraFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(ctx, &pvalue->intraFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interFreqMeasurementSysInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "interFreqMeasurementSysInfo");
-      stat = asn1PE_UMTS_InterFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(ctx, &pvalue->interFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "cpich-RSCP");
-         if (pvalue->u.cpich_RSCP == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "cpich-Ec-N0");
-         if (pvalue->u.cpich_Ec_N0 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used(rtxContext* ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* cellSelectQualityMeasure */
-   rtxCtxtPushElemName(ctx, "cellSelectQualityMeasure");
-   stat = asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS(rtxContext* ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "hcs-not-used");
-         if (pvalue->u.hcs_not_used == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used(ctx, pvalue->u.hcs_not_used);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "hcs-used");
-         if (pvalue->u.hcs_used == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used(ctx, pvalue->u.hcs_used);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext(rtxContext* ctx, const MeasurementControlSysInfo_LCR_r4_ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementControlSysInfo-LCR-r4-ext");
-   /* use-of-HCS */
-   rtxCtxtPushElemName(ctx, "use-of-HCS");
-   stat = asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS(ctx, &pvalue->use_of_HCS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType11_v4b0ext_IEs(rtxContext* ctx, const SysInfoType11_v4b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType11-v4b0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* fach-MeasurementOccasionInfo-LCR-Ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "fach-MeasurementOccasionInfo-LCR-Ext");
-      stat = asn1PE_UMTS_FACH_MeasurementOccasionInfo_LCR_r4_ext(ctx, &pvalue->fach_MeasurementOccasionInfo_LCR_Ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementControlSysInfo-LCR */
-   rtxCtxtPushElemName(ctx, "measurementControlSysInfo-LCR");
-   stat = asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext(ctx, &pvalue->measurementControlSysInfo_LCR);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType11_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(rtxContext* ctx, const SysInfoType11_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 32);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "CellSelectReselectInfo-v590ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
       stat = asn1PE_UMTS_CellSelectReselectInfo_v590ext(ctx, (const CellSelectReselectInfo_v590ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType11_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(rtxContext* ctx, const SysInfoType11_v590ext_IEs_newInterFrequencyCellInfoList_v590ext* pvalue)
+int asn1PE_UMTS_SysInfoType12_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v590ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "CellSelectReselectInfo-v590ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_CellSelectReselectInfo_v590ext(ctx, (const CellSelectReselectInfo_v590ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType11_v590ext_IEs_newInterRATCellInfoList_v590ext(rtxContext* ctx, const SysInfoType11_v590ext_IEs_newInterRATCellInfoList_v590ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "CellSelectReselectInfo-v590ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_CellSelectReselectInfo_v590ext(ctx, (const CellSelectReselectInfo_v590ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Intra_FreqEventCriteriaList_v590ext(rtxContext* ctx, const Intra_FreqEventCriteriaList_v590ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "Intra-FreqEventCriteriaList-v590ext");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "DeltaRSCP", i);
-      rtxCtxtPushTypeName(ctx, "DeltaRSCP");
-      if (pvalue->elem[i] < -5 || pvalue->elem[i] > -1) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->elem[i], -5, -1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PeriodicReportingInfo_1b(rtxContext* ctx, const PeriodicReportingInfo_1b* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PeriodicReportingInfo-1b");
-   /* reportingAmount */
-   rtxCtxtPushElemName(ctx, "reportingAmount");
-   rtxCtxtPushTypeName(ctx, "ReportingAmount");
-   if (pvalue->reportingAmount > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->reportingAmount);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingAmount, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingInterval */
-   rtxCtxtPushElemName(ctx, "reportingInterval");
-   rtxCtxtPushTypeName(ctx, "ReportingInterval");
-   if (pvalue->reportingInterval > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->reportingInterval);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingInterval, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqReportingCriteria_1b_r5(rtxContext* ctx, const IntraFreqReportingCriteria_1b_r5* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqReportingCriteria-1b-r5");
-   /* periodicReportingInfo-1b */
-   rtxCtxtPushElemName(ctx, "periodicReportingInfo-1b");
-   stat = asn1PE_UMTS_PeriodicReportingInfo_1b(ctx, &pvalue->periodicReportingInfo_1b);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqEvent_1d_r5(rtxContext* ctx, const IntraFreqEvent_1d_r5* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqEvent-1d-r5");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* triggeringCondition */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "triggeringCondition");
-      rtxCtxtPushTypeName(ctx, "TriggeringCondition2");
-      if (pvalue->triggeringCondition > 4) {
-         rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 4);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* useCIO */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "useCIO");
-      stat = rtxEncBit(ctx, pvalue->useCIO);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType11_v590ext_IEs(rtxContext* ctx, const SysInfoType11_v590ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType11-v590ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType12-v590ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
@@ -6201,846 +34,370 @@ int asn1PE_UMTS_SysInfoType11_v590ext_IEs(rtxContext* ctx, const SysInfoType11_v
       ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType12-v590ext-IEs");
    /* newIntraFrequencyCellInfoList-v590ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "newIntraFrequencyCellInfoList-v590ext");
-      stat = asn1PE_UMTS_SysInfoType11_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(ctx, &pvalue->newIntraFrequencyCellInfoList_v590ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_SysInfoType12_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(ctx, &pvalue->newIntraFrequencyCellInfoList_v590ext);
+      RT_CHECK(ctx, stat, 0, "newIntraFrequencyCellInfoList-v590ext", -1, "SysInfoType12-v590ext-IEs");
    }
    /* newInterFrequencyCellInfoList-v590ext */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "newInterFrequencyCellInfoList-v590ext");
-      stat = asn1PE_UMTS_SysInfoType11_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(ctx, &pvalue->newInterFrequencyCellInfoList_v590ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_SysInfoType12_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(ctx, &pvalue->newInterFrequencyCellInfoList_v590ext);
+      RT_CHECK(ctx, stat, 0, "newInterFrequencyCellInfoList-v590ext", -1, "SysInfoType12-v590ext-IEs");
    }
    /* newInterRATCellInfoList-v590ext */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "newInterRATCellInfoList-v590ext");
-      stat = asn1PE_UMTS_SysInfoType11_v590ext_IEs_newInterRATCellInfoList_v590ext(ctx, &pvalue->newInterRATCellInfoList_v590ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_SysInfoType12_v590ext_IEs_newInterRATCellInfoList_v590ext(ctx, &pvalue->newInterRATCellInfoList_v590ext);
+      RT_CHECK(ctx, stat, 0, "newInterRATCellInfoList-v590ext", -1, "SysInfoType12-v590ext-IEs");
    }
    /* intraFreqEventCriteriaList-v590ext */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "intraFreqEventCriteriaList-v590ext");
       stat = asn1PE_UMTS_Intra_FreqEventCriteriaList_v590ext(ctx, &pvalue->intraFreqEventCriteriaList_v590ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "intraFreqEventCriteriaList-v590ext", -1, "SysInfoType12-v590ext-IEs");
    }
    /* intraFreqReportingCriteria-1b-r5 */
    if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "intraFreqReportingCriteria-1b-r5");
       stat = asn1PE_UMTS_IntraFreqReportingCriteria_1b_r5(ctx, &pvalue->intraFreqReportingCriteria_1b_r5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria-1b-r5", -1, "SysInfoType12-v590ext-IEs");
    }
    /* intraFreqEvent-1d-r5 */
    if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "intraFreqEvent-1d-r5");
       stat = asn1PE_UMTS_IntraFreqEvent_1d_r5(ctx, &pvalue->intraFreqEvent_1d_r5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqRepQuantityRACH_FDD(rtxContext* ctx, InterFreqRepQuantityRACH_FDD value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "InterFreqRepQuantityRACH-FDD");
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(rtxContext* ctx, const Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* interFreqRepQuantityRACH-FDD */
-   rtxCtxtPushElemName(ctx, "interFreqRepQuantityRACH-FDD");
-   rtxCtxtPushTypeName(ctx, "InterFreqRepQuantityRACH-FDD");
-   if (pvalue->interFreqRepQuantityRACH_FDD > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->interFreqRepQuantityRACH_FDD);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->interFreqRepQuantityRACH_FDD, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqRepQuantityRACH_TDD(rtxContext* ctx, InterFreqRepQuantityRACH_TDD value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "InterFreqRepQuantityRACH-TDD");
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqRepQuantityRACH_TDDList(rtxContext* ctx, const InterFreqRepQuantityRACH_TDDList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "InterFreqRepQuantityRACH-TDDList");
-   RT_SET_SIZE(ctx, 1, 2);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "InterFreqRepQuantityRACH-TDD", i);
-      rtxCtxtPushTypeName(ctx, "InterFreqRepQuantityRACH-TDD");
-      if (pvalue->elem[i] > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(rtxContext* ctx, const Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* interFreqRepQuantityRACH-TDDList */
-   rtxCtxtPushElemName(ctx, "interFreqRepQuantityRACH-TDDList");
-   stat = asn1PE_UMTS_InterFreqRepQuantityRACH_TDDList(ctx, &pvalue->interFreqRepQuantityRACH_TDDList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Threshold(rtxContext* ctx, Threshold value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Threshold");
-   if (value < -115 || value > 0) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, value, -115, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MaxReportedCellsOnRACHinterFreq(rtxContext* ctx, MaxReportedCellsOnRACHinterFreq value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaxReportedCellsOnRACHinterFreq");
-   if ((uint64_t)(value - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo(rtxContext* ctx, const Dummy_InterFreqRACHReportingInfo_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 3) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "interFreqRACHReportingThreshold");
-         rtxCtxtPushTypeName(ctx, "Threshold");
-         if (pvalue->u.interFreqRACHReportingThreshold < -115 || pvalue->u.interFreqRACHReportingThreshold > 0) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddIntParm(ctx, pvalue->u.interFreqRACHReportingThreshold);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsInt64(ctx, pvalue->u.interFreqRACHReportingThreshold, -115, 0);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "maxReportedCellsOnRACHinterFreq");
-         rtxCtxtPushTypeName(ctx, "MaxReportedCellsOnRACHinterFreq");
-         if ((uint64_t)(pvalue->u.maxReportedCellsOnRACHinterFreq - 1) > 7u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.maxReportedCellsOnRACHinterFreq);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.maxReportedCellsOnRACHinterFreq, 1, 8);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
+      RT_CHECK(ctx, stat, 0, "intraFreqEvent-1d-r5", -1, "SysInfoType12-v590ext-IEs");
    }
    return 0;
 }
 
-int asn1PE_UMTS_Dummy_InterFreqRACHReportingInfo(rtxContext* ctx, const Dummy_InterFreqRACHReportingInfo* pvalue)
+int asn1PE_UMTS_SysInfoType12_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v690ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Dummy-InterFreqRACHReportingInfo");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType11_v690ext_IEs(rtxContext* ctx, const SysInfoType11_v690ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType11-v690ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType12-v690ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType12-v690ext-IEs");
    /* dummy */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dummy");
       stat = asn1PE_UMTS_Dummy_InterFreqRACHReportingInfo(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(rtxContext* ctx, const InterFreqRACHReportingInfo_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* interFreqRepQuantityRACH-FDD */
-   rtxCtxtPushElemName(ctx, "interFreqRepQuantityRACH-FDD");
-   rtxCtxtPushTypeName(ctx, "InterFreqRepQuantityRACH-FDD");
-   if (pvalue->interFreqRepQuantityRACH_FDD > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->interFreqRepQuantityRACH_FDD);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->interFreqRepQuantityRACH_FDD, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(rtxContext* ctx, const InterFreqRACHReportingInfo_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* interFreqRepQuantityRACH-TDDList */
-   rtxCtxtPushElemName(ctx, "interFreqRepQuantityRACH-TDDList");
-   stat = asn1PE_UMTS_InterFreqRepQuantityRACH_TDDList(ctx, &pvalue->interFreqRepQuantityRACH_TDDList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo(rtxContext* ctx, const InterFreqRACHReportingInfo_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "SysInfoType12-v690ext-IEs");
    }
    return 0;
 }
 
-int asn1PE_UMTS_InterFreqRACHReportingInfo(rtxContext* ctx, const InterFreqRACHReportingInfo* pvalue)
+int asn1PE_UMTS_SysInfoType12_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v6b0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqRACHReportingInfo");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* interFreqRACHReportingThreshold */
-   rtxCtxtPushElemName(ctx, "interFreqRACHReportingThreshold");
-   rtxCtxtPushTypeName(ctx, "Threshold");
-   if (pvalue->interFreqRACHReportingThreshold < -115 || pvalue->interFreqRACHReportingThreshold > 0) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->interFreqRACHReportingThreshold);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->interFreqRACHReportingThreshold, -115, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maxReportedCellsOnRACHinterFreq */
-   rtxCtxtPushElemName(ctx, "maxReportedCellsOnRACHinterFreq");
-   rtxCtxtPushTypeName(ctx, "MaxReportedCellsOnRACHinterFreq");
-   if ((uint64_t)(pvalue->maxReportedCellsOnRACHinterFreq - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->maxReportedCellsOnRACHinterFreq);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxReportedCellsOnRACHinterFreq, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType11_v6b0ext_IEs(rtxContext* ctx, const SysInfoType11_v6b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType11-v6b0ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType12-v6b0ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType12-v6b0ext-IEs");
    /* interFreqRACHReportingInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interFreqRACHReportingInfo");
       stat = asn1PE_UMTS_InterFreqRACHReportingInfo(ctx, &pvalue->interFreqRACHReportingInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "interFreqRACHReportingInfo", -1, "SysInfoType12-v6b0ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_MBSFNFrequency(rtxContext* ctx, const MBSFNFrequency* pvalue)
+int asn1PE_UMTS_SysInfoType12_v7b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v7b0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBSFNFrequency");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType12-v7b0ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellParametersID */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellParametersID");
-      rtxCtxtPushTypeName(ctx, "CellParametersID");
-      if ((uint64_t)pvalue->cellParametersID > 127u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->cellParametersID, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBSFNFrequencyList(rtxContext* ctx, const MBSFNFrequencyList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MBSFNFrequencyList");
-   RT_SET_SIZE(ctx, 0, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "MBSFNFrequency", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MBSFNFrequency(ctx, (const MBSFNFrequency*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType11_v770ext_IEs(rtxContext* ctx, const SysInfoType11_v770ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType11-v770ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* mbsfnFrequencyList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "mbsfnFrequencyList");
-      stat = asn1PE_UMTS_MBSFNFrequencyList(ctx, &pvalue->mbsfnFrequencyList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCell_v7b0ext(rtxContext* ctx, const NewInterFreqCell_v7b0ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCell-v7b0ext");
-   /* intraSecondaryFreqIndicator */
-   rtxCtxtPushElemName(ctx, "intraSecondaryFreqIndicator");
-   stat = rtxEncBit(ctx, pvalue->intraSecondaryFreqIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCellList_v7b0ext(rtxContext* ctx, const NewInterFreqCellList_v7b0ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellList-v7b0ext");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "NewInterFreqCell-v7b0ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_NewInterFreqCell_v7b0ext(ctx, (const NewInterFreqCell_v7b0ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType11_v7b0ext_IEs(rtxContext* ctx, const SysInfoType11_v7b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType11-v7b0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType12-v7b0ext-IEs");
    /* newInterFreqCellList */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
       stat = asn1PE_UMTS_NewInterFreqCellList_v7b0ext(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "SysInfoType12-v7b0ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_MBSFNFrequency_v860ext_imb_Indication(rtxContext* ctx, MBSFNFrequency_v860ext_imb_Indication value)
+int asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_MBSFNFrequency_v860ext(rtxContext* ctx, const MBSFNFrequency_v860ext* pvalue)
+int asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBSFNFrequency-v860ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* imb-Indication */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "imb-Indication");
-      if (pvalue->imb_Indication > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->imb_Indication);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->imb_Indication, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBSFNFrequencyList_v860ext(rtxContext* ctx, const MBSFNFrequencyList_v860ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MBSFNFrequencyList-v860ext");
-   RT_SET_SIZE(ctx, 0, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "MBSFNFrequency-v860ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MBSFNFrequency_v860ext(ctx, (const MBSFNFrequency_v860ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType11_v860ext_IEs(rtxContext* ctx, const SysInfoType11_v860ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType11-v860ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* mbsfnFrequencyList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "mbsfnFrequencyList");
-      stat = asn1PE_UMTS_MBSFNFrequencyList_v860ext(ctx, &pvalue->mbsfnFrequencyList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType11-v860ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType11-v860ext");
-   stat = asn1PE_UMTS_SysInfoType11_v860ext_IEs(ctx, &pvalue->sysInfoType11_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType12-v7b0ext */
+   stat = asn1PE_UMTS_SysInfoType12_v7b0ext_IEs(ctx, &pvalue->sysInfoType12_v7b0ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType12-v7b0ext", -1, 0);
    /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions(rtxContext* ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType11-v7b0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType11-v7b0ext");
-   stat = asn1PE_UMTS_SysInfoType11_v7b0ext_IEs(ctx, &pvalue->sysInfoType11_v7b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v860NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType11-v770ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType11-v770ext");
-   stat = asn1PE_UMTS_SysInfoType11_v770ext_IEs(ctx, &pvalue->sysInfoType11_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType12-v6b0ext */
+   stat = asn1PE_UMTS_SysInfoType12_v6b0ext_IEs(ctx, &pvalue->sysInfoType12_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType12-v6b0ext", -1, 0);
    /* v7b0NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v7b0NonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions(ctx, &pvalue->v7b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions(ctx, &pvalue->v7b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7b0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType11-v6b0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType11-v6b0ext");
-   stat = asn1PE_UMTS_SysInfoType11_v6b0ext_IEs(ctx, &pvalue->sysInfoType11_v6b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v770NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(rtxContext* ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType11-v690ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType11-v690ext");
-   stat = asn1PE_UMTS_SysInfoType11_v690ext_IEs(ctx, &pvalue->sysInfoType11_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType12-v690ext */
+   stat = asn1PE_UMTS_SysInfoType12_v690ext_IEs(ctx, &pvalue->sysInfoType12_v690ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType12-v690ext", -1, 0);
    /* v6b0NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v6b0NonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension* pvalue)
+int asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType11-v590ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType11-v590ext");
-   stat = asn1PE_UMTS_SysInfoType11_v590ext_IEs(ctx, &pvalue->sysInfoType11_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType12-v590ext */
+   stat = asn1PE_UMTS_SysInfoType12_v590ext_IEs(ctx, &pvalue->sysInfoType12_v590ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType12-v590ext", -1, 0);
    /* v690NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions(rtxContext* ctx, const SysInfoType11_v4b0NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType11-v4b0ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType12-v4b0ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sysInfoType11-v4b0ext");
-      stat = asn1PE_UMTS_SysInfoType11_v4b0ext_IEs(ctx, &pvalue->sysInfoType11_v4b0ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_SysInfoType12_v4b0ext_IEs(ctx, &pvalue->sysInfoType12_v4b0ext);
+      RT_CHECK(ctx, stat, 0, "sysInfoType12-v4b0ext", -1, 0);
    }
    /* v590NonCriticalExtension */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtension");
-      stat = asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension(ctx, &pvalue->v590NonCriticalExtension);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension(ctx, &pvalue->v590NonCriticalExtension);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtension", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType11(rtxContext* ctx, const SysInfoType11* pvalue)
+int asn1PE_UMTS_SysInfoType12(rtxContext* RT_RESTRICT ctx, const SysInfoType12* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType11");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType12");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* sib12indicator */
-   rtxCtxtPushElemName(ctx, "sib12indicator");
-   stat = rtxEncBit(ctx, pvalue->sib12indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType12");
    /* fach-MeasurementOccasionInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "fach-MeasurementOccasionInfo");
       stat = asn1PE_UMTS_FACH_MeasurementOccasionInfo(ctx, &pvalue->fach_MeasurementOccasionInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "fach-MeasurementOccasionInfo", -1, "SysInfoType12");
    }
    /* measurementControlSysInfo */
-   rtxCtxtPushElemName(ctx, "measurementControlSysInfo");
    stat = asn1PE_UMTS_MeasurementControlSysInfo(ctx, &pvalue->measurementControlSysInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, "measurementControlSysInfo", -1, "SysInfoType12");
    /* v4b0NonCriticalExtensions */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v4b0NonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* newIntraFreqCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
-      stat = asn1PE_UMTS_NewIntraFreqCellSI_List_RSCP(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      stat = asn1PE_UMTS_NewInterFreqCellSI_List_RSCP(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType12");
    }
    return 0;
 }
 
-int asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* pvalue)
+int asn1PE_UMTS_Re_EstablishmentTimer(rtxContext* RT_RESTRICT ctx, Re_EstablishmentTimer value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* newIntraFreqCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
-      stat = asn1PE_UMTS_NewIntraFreqCellSI_List_ECN0(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "Re-EstablishmentTimer");
    }
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      stat = asn1PE_UMTS_NewInterFreqCellSI_List_ECN0(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Re-EstablishmentTimer");
    return 0;
 }
 
-int asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* pvalue)
+int asn1PE_UMTS_TimerMRW(rtxContext* RT_RESTRICT ctx, TimerMRW value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TimerMRW");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimerMRW");
+   return 0;
+}
+
+int asn1PE_UMTS_TimerDiscard(rtxContext* RT_RESTRICT ctx, TimerDiscard value)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TimerDiscard");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimerDiscard");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxMRW(rtxContext* RT_RESTRICT ctx, MaxMRW value)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxMRW");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxMRW");
+   return 0;
+}
+
+int asn1PE_UMTS_ExplicitDiscard(rtxContext* RT_RESTRICT ctx, const ExplicitDiscard* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ExplicitDiscard");
+   /* timerMRW */
+   if (pvalue->timerMRW > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timerMRW);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TimerMRW", "timerMRW", -1, "ExplicitDiscard");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timerMRW, 0, 15);
+   RT_CHECK(ctx, stat, "TimerMRW", "timerMRW", -1, "ExplicitDiscard");
+   /* timerDiscard */
+   if (pvalue->timerDiscard > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timerDiscard);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TimerDiscard", "timerDiscard", -1, "ExplicitDiscard");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timerDiscard, 0, 15);
+   RT_CHECK(ctx, stat, "TimerDiscard", "timerDiscard", -1, "ExplicitDiscard");
+   /* maxMRW */
+   if (pvalue->maxMRW > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->maxMRW);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxMRW", "maxMRW", -1, "ExplicitDiscard");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxMRW, 0, 7);
+   RT_CHECK(ctx, stat, "MaxMRW", "maxMRW", -1, "ExplicitDiscard");
+   return 0;
+}
+
+int asn1PE_UMTS_NoExplicitDiscard(rtxContext* RT_RESTRICT ctx, NoExplicitDiscard value)
+{
+   int stat = 0;
+   if (value > 9) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "NoExplicitDiscard");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 9);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NoExplicitDiscard");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxDAT(rtxContext* RT_RESTRICT ctx, MaxDAT value)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxDAT");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxDAT");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxDAT_Retransmissions(rtxContext* RT_RESTRICT ctx, const MaxDAT_Retransmissions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MaxDAT-Retransmissions");
+   /* maxDAT */
+   if (pvalue->maxDAT > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->maxDAT);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxDAT", "maxDAT", -1, "MaxDAT-Retransmissions");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxDAT, 0, 15);
+   RT_CHECK(ctx, stat, "MaxDAT", "maxDAT", -1, "MaxDAT-Retransmissions");
+   /* timerMRW */
+   if (pvalue->timerMRW > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timerMRW);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TimerMRW", "timerMRW", -1, "MaxDAT-Retransmissions");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timerMRW, 0, 15);
+   RT_CHECK(ctx, stat, "TimerMRW", "timerMRW", -1, "MaxDAT-Retransmissions");
+   /* maxMRW */
+   if (pvalue->maxMRW > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->maxMRW);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxMRW", "maxMRW", -1, "MaxDAT-Retransmissions");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxMRW, 0, 7);
+   RT_CHECK(ctx, stat, "MaxMRW", "maxMRW", -1, "MaxDAT-Retransmissions");
+   return 0;
+}
+
+int asn1PE_UMTS_TransmissionRLC_Discard(rtxContext* RT_RESTRICT ctx, const TransmissionRLC_Discard* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransmissionRLC-Discard");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK(ctx, stat, 0, "t", -1, "TransmissionRLC-Discard");
+   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TransmissionRLC-Discard");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "cpich-RSCP");
-         if (pvalue->u.cpich_RSCP == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.timerBasedExplicit == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "timerBasedExplicit", -1, "TransmissionRLC-Discard");
+         stat = asn1PE_UMTS_ExplicitDiscard(ctx, pvalue->u.timerBasedExplicit);
+         RT_CHECK(ctx, stat, 0, "timerBasedExplicit", -1, "TransmissionRLC-Discard");
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "cpich-Ec-N0");
-         if (pvalue->u.cpich_Ec_N0 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.timerBasedNoExplicit > 9) {
+            rtxErrAddUIntParm(ctx, pvalue->u.timerBasedNoExplicit);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "NoExplicitDiscard", "timerBasedNoExplicit", -1, "TransmissionRLC-Discard");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.timerBasedNoExplicit, 0, 9);
+         RT_CHECK(ctx, stat, "NoExplicitDiscard", "timerBasedNoExplicit", -1, "TransmissionRLC-Discard");
+         break;
+      case 3:
+         if (pvalue->u.maxDAT_Retransmissions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "maxDAT-Retransmissions", -1, "TransmissionRLC-Discard");
+         stat = asn1PE_UMTS_MaxDAT_Retransmissions(ctx, pvalue->u.maxDAT_Retransmissions);
+         RT_CHECK(ctx, stat, 0, "maxDAT-Retransmissions", -1, "TransmissionRLC-Discard");
+         break;
+      case 4:
+         if (pvalue->u.noDiscard > 15) {
+            rtxErrAddUIntParm(ctx, pvalue->u.noDiscard);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxDAT", "noDiscard", -1, "TransmissionRLC-Discard");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.noDiscard, 0, 15);
+         RT_CHECK(ctx, stat, "MaxDAT", "noDiscard", -1, "TransmissionRLC-Discard");
          break;
       default:
          break;
@@ -7048,349 +405,285 @@ int asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellS
    return 0;
 }
 
-int asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used(rtxContext* ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used* pvalue)
+int asn1PE_UMTS_TransmissionWindowSize(rtxContext* RT_RESTRICT ctx, TransmissionWindowSize value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TransmissionWindowSize");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransmissionWindowSize");
+   return 0;
+}
+
+int asn1PE_UMTS_TimerRST(rtxContext* RT_RESTRICT ctx, TimerRST value)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TimerRST");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimerRST");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxRST(rtxContext* RT_RESTRICT ctx, MaxRST value)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxRST");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxRST");
+   return 0;
+}
+
+int asn1PE_UMTS_TimerPollProhibit(rtxContext* RT_RESTRICT ctx, TimerPollProhibit value)
+{
+   int stat = 0;
+   if (value > 63) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TimerPollProhibit");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 63);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimerPollProhibit");
+   return 0;
+}
+
+int asn1PE_UMTS_TimerPoll(rtxContext* RT_RESTRICT ctx, TimerPoll value)
+{
+   int stat = 0;
+   if (value > 63) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TimerPoll");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 63);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimerPoll");
+   return 0;
+}
+
+int asn1PE_UMTS_Poll_PDU(rtxContext* RT_RESTRICT ctx, Poll_PDU value)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "Poll-PDU");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Poll-PDU");
+   return 0;
+}
+
+int asn1PE_UMTS_Poll_SDU(rtxContext* RT_RESTRICT ctx, Poll_SDU value)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "Poll-SDU");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Poll-SDU");
+   return 0;
+}
+
+int asn1PE_UMTS_PollWindow(rtxContext* RT_RESTRICT ctx, PollWindow value)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "PollWindow");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PollWindow");
+   return 0;
+}
+
+int asn1PE_UMTS_TimerPollPeriodic(rtxContext* RT_RESTRICT ctx, TimerPollPeriodic value)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TimerPollPeriodic");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimerPollPeriodic");
+   return 0;
+}
+
+int asn1PE_UMTS_PollingInfo(rtxContext* RT_RESTRICT ctx, const PollingInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PollingInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PollingInfo");
+   /* timerPollProhibit */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->timerPollProhibit > 63) {
+         rtxErrAddUIntParm(ctx, pvalue->timerPollProhibit);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TimerPollProhibit", "timerPollProhibit", -1, "PollingInfo");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->timerPollProhibit, 0, 63);
+      RT_CHECK(ctx, stat, "TimerPollProhibit", "timerPollProhibit", -1, "PollingInfo");
+   }
+   /* timerPoll */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->timerPoll > 63) {
+         rtxErrAddUIntParm(ctx, pvalue->timerPoll);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TimerPoll", "timerPoll", -1, "PollingInfo");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->timerPoll, 0, 63);
+      RT_CHECK(ctx, stat, "TimerPoll", "timerPoll", -1, "PollingInfo");
+   }
+   /* poll-PDU */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->poll_PDU > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->poll_PDU);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "Poll-PDU", "poll-PDU", -1, "PollingInfo");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->poll_PDU, 0, 7);
+      RT_CHECK(ctx, stat, "Poll-PDU", "poll-PDU", -1, "PollingInfo");
+   }
+   /* poll-SDU */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->poll_SDU > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->poll_SDU);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "Poll-SDU", "poll-SDU", -1, "PollingInfo");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->poll_SDU, 0, 3);
+      RT_CHECK(ctx, stat, "Poll-SDU", "poll-SDU", -1, "PollingInfo");
+   }
+   /* lastTransmissionPDU-Poll */
+   stat = rtxEncBit(ctx, pvalue->lastTransmissionPDU_Poll);
+   RT_CHECK(ctx, stat, 0, "lastTransmissionPDU-Poll", -1, "PollingInfo");
+   /* lastRetransmissionPDU-Poll */
+   stat = rtxEncBit(ctx, pvalue->lastRetransmissionPDU_Poll);
+   RT_CHECK(ctx, stat, 0, "lastRetransmissionPDU-Poll", -1, "PollingInfo");
+   /* pollWindow */
+   if (pvalue->m & 0x10u) {
+      if (pvalue->pollWindow > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->pollWindow);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "PollWindow", "pollWindow", -1, "PollingInfo");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->pollWindow, 0, 7);
+      RT_CHECK(ctx, stat, "PollWindow", "pollWindow", -1, "PollingInfo");
+   }
+   /* timerPollPeriodic */
+   if (pvalue->m & 0x20u) {
+      if (pvalue->timerPollPeriodic > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->timerPollPeriodic);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TimerPollPeriodic", "timerPollPeriodic", -1, "PollingInfo");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->timerPollPeriodic, 0, 7);
+      RT_CHECK(ctx, stat, "TimerPollPeriodic", "timerPollPeriodic", -1, "PollingInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AM_RLC_Mode(rtxContext* RT_RESTRICT ctx, const UL_AM_RLC_Mode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-AM-RLC-Mode");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellSelectQualityMeasure */
-   rtxCtxtPushElemName(ctx, "cellSelectQualityMeasure");
-   stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* newInterRATCellList */
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-AM-RLC-Mode");
+   /* transmissionRLC-Discard */
+   stat = asn1PE_UMTS_TransmissionRLC_Discard(ctx, &pvalue->transmissionRLC_Discard);
+   RT_CHECK(ctx, stat, 0, "transmissionRLC-Discard", -1, "UL-AM-RLC-Mode");
+   /* transmissionWindowSize */
+   if (pvalue->transmissionWindowSize > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->transmissionWindowSize);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TransmissionWindowSize", "transmissionWindowSize", -1, "UL-AM-RLC-Mode");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->transmissionWindowSize, 0, 15);
+   RT_CHECK(ctx, stat, "TransmissionWindowSize", "transmissionWindowSize", -1, "UL-AM-RLC-Mode");
+   /* timerRST */
+   if (pvalue->timerRST > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timerRST);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TimerRST", "timerRST", -1, "UL-AM-RLC-Mode");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timerRST, 0, 15);
+   RT_CHECK(ctx, stat, "TimerRST", "timerRST", -1, "UL-AM-RLC-Mode");
+   /* max-RST */
+   if (pvalue->max_RST > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->max_RST);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxRST", "max-RST", -1, "UL-AM-RLC-Mode");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->max_RST, 0, 7);
+   RT_CHECK(ctx, stat, "MaxRST", "max-RST", -1, "UL-AM-RLC-Mode");
+   /* pollingInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "newInterRATCellList");
-      stat = asn1PE_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_PollingInfo(ctx, &pvalue->pollingInfo);
+      RT_CHECK(ctx, stat, 0, "pollingInfo", -1, "UL-AM-RLC-Mode");
    }
    return 0;
 }
 
-int asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* pvalue)
+int asn1PE_UMTS_UL_UM_RLC_Mode(rtxContext* RT_RESTRICT ctx, const UL_UM_RLC_Mode* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* newIntraFreqCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
-      stat = asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_RSCP(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      stat = asn1PE_UMTS_NewInterFreqCellSI_List_HCS_RSCP(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* newIntraFreqCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
-      stat = asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_ECN0(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      stat = asn1PE_UMTS_NewInterFreqCellSI_List_HCS_ECN0(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "cpich-RSCP");
-         if (pvalue->u.cpich_RSCP == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "cpich-Ec-N0");
-         if (pvalue->u.cpich_Ec_N0 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used(rtxContext* ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_used* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-UM-RLC-Mode");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellSelectQualityMeasure */
-   rtxCtxtPushElemName(ctx, "cellSelectQualityMeasure");
-   stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* newInterRATCellList */
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-UM-RLC-Mode");
+   /* transmissionRLC-Discard */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "newInterRATCellList");
-      stat = asn1PE_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_TransmissionRLC_Discard(ctx, &pvalue->transmissionRLC_Discard);
+      RT_CHECK(ctx, stat, 0, "transmissionRLC-Discard", -1, "UL-UM-RLC-Mode");
    }
    return 0;
 }
 
-int asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS(rtxContext* ctx, const MeasurementControlSysInfoExtension_use_of_HCS* pvalue)
+int asn1PE_UMTS_UL_TM_RLC_Mode(rtxContext* RT_RESTRICT ctx, const UL_TM_RLC_Mode* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "hcs-not-used");
-         if (pvalue->u.hcs_not_used == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used(ctx, pvalue->u.hcs_not_used);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "hcs-used");
-         if (pvalue->u.hcs_used == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used(ctx, pvalue->u.hcs_used);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfoExtension(rtxContext* ctx, const MeasurementControlSysInfoExtension* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementControlSysInfoExtension");
-   /* use-of-HCS */
-   rtxCtxtPushElemName(ctx, "use-of-HCS");
-   stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS(ctx, &pvalue->use_of_HCS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* newIntraFreqCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
-      stat = asn1PE_UMTS_NewIntraFreqCellSI_List_RSCP_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      stat = asn1PE_UMTS_NewInterFreqCellSI_List_RSCP_LCR_r4(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* newIntraFreqCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
-      stat = asn1PE_UMTS_NewIntraFreqCellSI_List_ECN0_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      stat = asn1PE_UMTS_NewInterFreqCellSI_List_ECN0_LCR_r4(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "cpich-RSCP");
-         if (pvalue->u.cpich_RSCP == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "cpich-Ec-N0");
-         if (pvalue->u.cpich_Ec_N0 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used(rtxContext* ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-TM-RLC-Mode");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellSelectQualityMeasure */
-   rtxCtxtPushElemName(ctx, "cellSelectQualityMeasure");
-   stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* newInterRATCellList */
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-TM-RLC-Mode");
+   /* transmissionRLC-Discard */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "newInterRATCellList");
-      stat = asn1PE_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_TransmissionRLC_Discard(ctx, &pvalue->transmissionRLC_Discard);
+      RT_CHECK(ctx, stat, 0, "transmissionRLC-Discard", -1, "UL-TM-RLC-Mode");
    }
+   /* segmentationIndication */
+   stat = rtxEncBit(ctx, pvalue->segmentationIndication);
+   RT_CHECK(ctx, stat, 0, "segmentationIndication", -1, "UL-TM-RLC-Mode");
    return 0;
 }
 
-int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* pvalue)
+int asn1PE_UMTS_UL_RLC_Mode(rtxContext* RT_RESTRICT ctx, const UL_RLC_Mode* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* newIntraFreqCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
-      stat = asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      stat = asn1PE_UMTS_NewInterFreqCellSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* newIntraFreqCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
-      stat = asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      stat = asn1PE_UMTS_NewInterFreqCellSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-RLC-Mode");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK(ctx, stat, 0, "t", -1, "UL-RLC-Mode");
+   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-RLC-Mode");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "cpich-RSCP");
-         if (pvalue->u.cpich_RSCP == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.ul_AM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ul-AM-RLC-Mode", -1, "UL-RLC-Mode");
+         stat = asn1PE_UMTS_UL_AM_RLC_Mode(ctx, pvalue->u.ul_AM_RLC_Mode);
+         RT_CHECK(ctx, stat, 0, "ul-AM-RLC-Mode", -1, "UL-RLC-Mode");
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "cpich-Ec-N0");
-         if (pvalue->u.cpich_Ec_N0 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.ul_UM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ul-UM-RLC-Mode", -1, "UL-RLC-Mode");
+         stat = asn1PE_UMTS_UL_UM_RLC_Mode(ctx, pvalue->u.ul_UM_RLC_Mode);
+         RT_CHECK(ctx, stat, 0, "ul-UM-RLC-Mode", -1, "UL-RLC-Mode");
+         break;
+      case 3:
+         if (pvalue->u.ul_TM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ul-TM-RLC-Mode", -1, "UL-RLC-Mode");
+         stat = asn1PE_UMTS_UL_TM_RLC_Mode(ctx, pvalue->u.ul_TM_RLC_Mode);
+         RT_CHECK(ctx, stat, 0, "ul-TM-RLC-Mode", -1, "UL-RLC-Mode");
+         break;
+      case 4:
          break;
       default:
          break;
@@ -7398,1620 +691,8341 @@ int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_ce
    return 0;
 }
 
-int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used(rtxContext* ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used* pvalue)
+int asn1PE_UMTS_ReceivingWindowSize(rtxContext* RT_RESTRICT ctx, ReceivingWindowSize value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellSelectQualityMeasure */
-   rtxCtxtPushElemName(ctx, "cellSelectQualityMeasure");
-   stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* newInterRATCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "newInterRATCellList");
-      stat = asn1PE_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ReceivingWindowSize");
    }
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ReceivingWindowSize");
    return 0;
 }
 
-int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS(rtxContext* ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS* pvalue)
+int asn1PE_UMTS_TimerStatusProhibit(rtxContext* RT_RESTRICT ctx, TimerStatusProhibit value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "hcs-not-used");
-         if (pvalue->u.hcs_not_used == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used(ctx, pvalue->u.hcs_not_used);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "hcs-used");
-         if (pvalue->u.hcs_used == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used(ctx, pvalue->u.hcs_used);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
+   if (value > 63) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TimerStatusProhibit");
    }
+   stat = pe_ConsUInt64(ctx, value, 0, 63);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimerStatusProhibit");
    return 0;
 }
 
-int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4(rtxContext* ctx, const MeasurementControlSysInfoExtension_LCR_r4* pvalue)
+int asn1PE_UMTS_TimerEPC(rtxContext* RT_RESTRICT ctx, TimerEPC value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementControlSysInfoExtension-LCR-r4");
-   /* use-of-HCS */
-   rtxCtxtPushElemName(ctx, "use-of-HCS");
-   stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS(ctx, &pvalue->use_of_HCS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newIntraFrequencyCellInfoListAddon_r5(rtxContext* ctx, const MeasurementControlSysInfoExtensionAddon_r5_newIntraFrequencyCellInfoListAddon_r5* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "CellSelectReselectInfo-v590ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_CellSelectReselectInfo_v590ext(ctx, (const CellSelectReselectInfo_v590ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TimerEPC");
    }
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimerEPC");
    return 0;
 }
 
-int asn1PE_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newInterFrequencyCellInfoListAddon_r5(rtxContext* ctx, const MeasurementControlSysInfoExtensionAddon_r5_newInterFrequencyCellInfoListAddon_r5* pvalue)
+int asn1PE_UMTS_TimerStatusPeriodic(rtxContext* RT_RESTRICT ctx, TimerStatusPeriodic value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "CellSelectReselectInfo-v590ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_CellSelectReselectInfo_v590ext(ctx, (const CellSelectReselectInfo_v590ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TimerStatusPeriodic");
    }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimerStatusPeriodic");
    return 0;
 }
 
-int asn1PE_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newInterRATCellInfoListAddon_r5(rtxContext* ctx, const MeasurementControlSysInfoExtensionAddon_r5_newInterRATCellInfoListAddon_r5* pvalue)
+int asn1PE_UMTS_DL_RLC_StatusInfo(rtxContext* RT_RESTRICT ctx, const DL_RLC_StatusInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "CellSelectReselectInfo-v590ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_CellSelectReselectInfo_v590ext(ctx, (const CellSelectReselectInfo_v590ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfoExtensionAddon_r5(rtxContext* ctx, const MeasurementControlSysInfoExtensionAddon_r5* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementControlSysInfoExtensionAddon-r5");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-RLC-StatusInfo");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* newIntraFrequencyCellInfoListAddon-r5 */
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-RLC-StatusInfo");
+   /* timerStatusProhibit */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "newIntraFrequencyCellInfoListAddon-r5");
-      stat = asn1PE_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newIntraFrequencyCellInfoListAddon_r5(ctx, &pvalue->newIntraFrequencyCellInfoListAddon_r5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if (pvalue->timerStatusProhibit > 63) {
+         rtxErrAddUIntParm(ctx, pvalue->timerStatusProhibit);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TimerStatusProhibit", "timerStatusProhibit", -1, "DL-RLC-StatusInfo");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->timerStatusProhibit, 0, 63);
+      RT_CHECK(ctx, stat, "TimerStatusProhibit", "timerStatusProhibit", -1, "DL-RLC-StatusInfo");
    }
-   /* newInterFrequencyCellInfoListAddon-r5 */
+   /* dummy */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "newInterFrequencyCellInfoListAddon-r5");
-      stat = asn1PE_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newInterFrequencyCellInfoListAddon_r5(ctx, &pvalue->newInterFrequencyCellInfoListAddon_r5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if (pvalue->dummy > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->dummy);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TimerEPC", "dummy", -1, "DL-RLC-StatusInfo");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dummy, 0, 15);
+      RT_CHECK(ctx, stat, "TimerEPC", "dummy", -1, "DL-RLC-StatusInfo");
    }
-   /* newInterRATCellInfoListAddon-r5 */
+   /* missingPDU-Indicator */
+   stat = rtxEncBit(ctx, pvalue->missingPDU_Indicator);
+   RT_CHECK(ctx, stat, 0, "missingPDU-Indicator", -1, "DL-RLC-StatusInfo");
+   /* timerStatusPeriodic */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "newInterRATCellInfoListAddon-r5");
-      stat = asn1PE_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newInterRATCellInfoListAddon_r5(ctx, &pvalue->newInterRATCellInfoListAddon_r5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if (pvalue->timerStatusPeriodic > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->timerStatusPeriodic);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TimerStatusPeriodic", "timerStatusPeriodic", -1, "DL-RLC-StatusInfo");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->timerStatusPeriodic, 0, 7);
+      RT_CHECK(ctx, stat, "TimerStatusPeriodic", "timerStatusPeriodic", -1, "DL-RLC-StatusInfo");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType11bis_v7b0ext_IEs(rtxContext* ctx, const SysInfoType11bis_v7b0ext_IEs* pvalue)
+int asn1PE_UMTS_DL_AM_RLC_Mode(rtxContext* RT_RESTRICT ctx, const DL_AM_RLC_Mode* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType11bis-v7b0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      stat = asn1PE_UMTS_NewInterFreqCellList_v7b0ext(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-AM-RLC-Mode");
+   /* inSequenceDelivery */
+   stat = rtxEncBit(ctx, pvalue->inSequenceDelivery);
+   RT_CHECK(ctx, stat, 0, "inSequenceDelivery", -1, "DL-AM-RLC-Mode");
+   /* receivingWindowSize */
+   if (pvalue->receivingWindowSize > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->receivingWindowSize);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ReceivingWindowSize", "receivingWindowSize", -1, "DL-AM-RLC-Mode");
    }
-   rtxCtxtPopTypeName(ctx);
+   stat = pe_ConsUInt64(ctx, pvalue->receivingWindowSize, 0, 15);
+   RT_CHECK(ctx, stat, "ReceivingWindowSize", "receivingWindowSize", -1, "DL-AM-RLC-Mode");
+   /* dl-RLC-StatusInfo */
+   stat = asn1PE_UMTS_DL_RLC_StatusInfo(ctx, &pvalue->dl_RLC_StatusInfo);
+   RT_CHECK(ctx, stat, 0, "dl-RLC-StatusInfo", -1, "DL-AM-RLC-Mode");
    return 0;
 }
 
-int asn1PE_UMTS_CSG_DedicatedFrequencyInfoList(rtxContext* ctx, const CSG_DedicatedFrequencyInfoList* pvalue)
+int asn1PE_UMTS_DL_TM_RLC_Mode(rtxContext* RT_RESTRICT ctx, const DL_TM_RLC_Mode* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "CSG-DedicatedFrequencyInfoList");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "FrequencyInfo", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, (const FrequencyInfo*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-TM-RLC-Mode");
+   /* segmentationIndication */
+   stat = rtxEncBit(ctx, pvalue->segmentationIndication);
+   RT_CHECK(ctx, stat, 0, "segmentationIndication", -1, "DL-TM-RLC-Mode");
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType11bis_v860ext_IEs(rtxContext* ctx, const SysInfoType11bis_v860ext_IEs* pvalue)
+int asn1PE_UMTS_DL_RLC_Mode(rtxContext* RT_RESTRICT ctx, const DL_RLC_Mode* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType11bis-v860ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-RLC-Mode");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, "DL-RLC-Mode");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-RLC-Mode");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.dl_AM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode");
+         stat = asn1PE_UMTS_DL_AM_RLC_Mode(ctx, pvalue->u.dl_AM_RLC_Mode);
+         RT_CHECK(ctx, stat, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode");
+         break;
+      case 2:
+         break;
+      case 3:
+         if (pvalue->u.dl_TM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode");
+         stat = asn1PE_UMTS_DL_TM_RLC_Mode(ctx, pvalue->u.dl_TM_RLC_Mode);
+         RT_CHECK(ctx, stat, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RLC_Info(rtxContext* RT_RESTRICT ctx, const RLC_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-Info");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* csg-PSCSplitInfo */
+   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-Info");
+   /* ul-RLC-Mode */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "csg-PSCSplitInfo");
-      stat = asn1PE_UMTS_CSG_PSCSplitInfo(ctx, &pvalue->csg_PSCSplitInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UL_RLC_Mode(ctx, &pvalue->ul_RLC_Mode);
+      RT_CHECK(ctx, stat, 0, "ul-RLC-Mode", -1, "RLC-Info");
    }
-   /* csg-DedicatedFrequencyInfoList */
+   /* dl-RLC-Mode */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "csg-DedicatedFrequencyInfoList");
-      stat = asn1PE_UMTS_CSG_DedicatedFrequencyInfoList(ctx, &pvalue->csg_DedicatedFrequencyInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_DL_RLC_Mode(ctx, &pvalue->dl_RLC_Mode);
+      RT_CHECK(ctx, stat, 0, "dl-RLC-Mode", -1, "RLC-Info");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* pvalue)
+int asn1PE_UMTS_RLC_InfoChoice(rtxContext* RT_RESTRICT ctx, const RLC_InfoChoice* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-InfoChoice");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "RLC-InfoChoice");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RLC-InfoChoice");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.rlc_Info == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "rlc-Info", -1, "RLC-InfoChoice");
+         stat = asn1PE_UMTS_RLC_Info(ctx, pvalue->u.rlc_Info);
+         RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RLC-InfoChoice");
+         break;
+      case 2:
+         if ((uint64_t)(pvalue->u.same_as_RB - 1) > 31u) {
+            rtxErrAddStrParm(ctx, "RB-Identity");
+            rtxErrAddUIntParm(ctx, pvalue->u.same_as_RB);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "same-as-RB", -1, "RLC-InfoChoice");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.same_as_RB, 1, 32);
+         RT_CHECK(ctx, stat, "RB-Identity", "same-as-RB", -1, "RLC-InfoChoice");
+         break;
+      default:
+         break;
+   }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* ctx, const SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_UL_TransportChannelType(rtxContext* RT_RESTRICT ctx, const UL_TransportChannelType* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-TransportChannelType");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK(ctx, stat, 0, "t", -1, "UL-TransportChannelType");
+   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-TransportChannelType");
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)(pvalue->u.dch - 1) > 31u) {
+            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.dch);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dch", -1, "UL-TransportChannelType");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.dch, 1, 32);
+         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch", -1, "UL-TransportChannelType");
+         break;
+      case 2:
+         break;
+      case 3:
+         break;
+      case 4:
+         if ((uint64_t)(pvalue->u.usch - 1) > 31u) {
+            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.usch);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "usch", -1, "UL-TransportChannelType");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.usch, 1, 32);
+         RT_CHECK(ctx, stat, "TransportChannelIdentity", "usch", -1, "UL-TransportChannelType");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RLC_SizeInfo(rtxContext* RT_RESTRICT ctx, const RLC_SizeInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-SizeInfo");
+   /* rlc-SizeIndex */
+   if ((uint64_t)(pvalue->rlc_SizeIndex - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "rlc-SizeIndex");
+      rtxErrAddUIntParm(ctx, pvalue->rlc_SizeIndex);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rlc-SizeIndex", -1, "RLC-SizeInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rlc_SizeIndex, 1, 32);
+   RT_CHECK(ctx, stat, 0, "rlc-SizeIndex", -1, "RLC-SizeInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_RLC_SizeExplicitList(rtxContext* RT_RESTRICT ctx, const RLC_SizeExplicitList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-SizeExplicitList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RLC-SizeExplicitList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RLC-SizeInfo", (int32_t)i, "RLC-SizeExplicitList");
+      stat = asn1PE_UMTS_RLC_SizeInfo(ctx, (const RLC_SizeInfo*)node->data);
+      RT_CHECK(ctx, stat, 0, "RLC-SizeInfo", (int32_t)i, "RLC-SizeExplicitList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_LogicalChannelMapping_rlc_SizeList(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_rlc_SizeList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if (pvalue->u.explicitList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "explicitList", -1, 0);
+         stat = asn1PE_UMTS_RLC_SizeExplicitList(ctx, pvalue->u.explicitList);
+         RT_CHECK(ctx, stat, 0, "explicitList", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MAC_LogicalChannelPriority(rtxContext* RT_RESTRICT ctx, MAC_LogicalChannelPriority value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "MAC-LogicalChannelPriority");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MAC-LogicalChannelPriority");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-LogicalChannelPriority");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-LogicalChannelMapping");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType11bis-v860ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType11bis-v860ext");
-   stat = asn1PE_UMTS_SysInfoType11bis_v860ext_IEs(ctx, &pvalue->sysInfoType11bis_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-LogicalChannelMapping");
+   /* ul-TransportChannelType */
+   stat = asn1PE_UMTS_UL_TransportChannelType(ctx, &pvalue->ul_TransportChannelType);
+   RT_CHECK(ctx, stat, 0, "ul-TransportChannelType", -1, "UL-LogicalChannelMapping");
+   /* logicalChannelIdentity */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->logicalChannelIdentity - 1) > 14u) {
+         rtxErrAddStrParm(ctx, "LogicalChannelIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->logicalChannelIdentity);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "UL-LogicalChannelMapping");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->logicalChannelIdentity, 1, 15);
+      RT_CHECK(ctx, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "UL-LogicalChannelMapping");
+   }
+   /* rlc-SizeList */
+   stat = asn1PE_UMTS_UL_LogicalChannelMapping_rlc_SizeList(ctx, &pvalue->rlc_SizeList);
+   RT_CHECK(ctx, stat, 0, "rlc-SizeList", -1, "UL-LogicalChannelMapping");
+   /* mac-LogicalChannelPriority */
+   if ((uint64_t)(pvalue->mac_LogicalChannelPriority - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "MAC-LogicalChannelPriority");
+      rtxErrAddUIntParm(ctx, pvalue->mac_LogicalChannelPriority);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MAC-LogicalChannelPriority", "mac-LogicalChannelPriority", -1, "UL-LogicalChannelMapping");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->mac_LogicalChannelPriority, 1, 8);
+   RT_CHECK(ctx, stat, "MAC-LogicalChannelPriority", "mac-LogicalChannelPriority", -1, "UL-LogicalChannelMapping");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_LogicalChannelMappingList_ul_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappingList_ul_LogicalChannelMapping* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 2, 2);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UL-LogicalChannelMapping", (int32_t)i, 0);
+      stat = asn1PE_UMTS_UL_LogicalChannelMapping(ctx, (const UL_LogicalChannelMapping*)node->data);
+      RT_CHECK(ctx, stat, 0, "UL-LogicalChannelMapping", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_LogicalChannelMappingList(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappingList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-LogicalChannelMappingList");
+   /* rlc-LogicalChannelMappingIndicator */
+   stat = rtxEncBit(ctx, pvalue->rlc_LogicalChannelMappingIndicator);
+   RT_CHECK(ctx, stat, 0, "rlc-LogicalChannelMappingIndicator", -1, "UL-LogicalChannelMappingList");
+   /* ul-LogicalChannelMapping */
+   stat = asn1PE_UMTS_UL_LogicalChannelMappingList_ul_LogicalChannelMapping(ctx, &pvalue->ul_LogicalChannelMapping);
+   RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMapping", -1, "UL-LogicalChannelMappingList");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_LogicalChannelMappings(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappings* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-LogicalChannelMappings");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "UL-LogicalChannelMappings");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-LogicalChannelMappings");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.oneLogicalChannel == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "oneLogicalChannel", -1, "UL-LogicalChannelMappings");
+         stat = asn1PE_UMTS_UL_LogicalChannelMapping(ctx, pvalue->u.oneLogicalChannel);
+         RT_CHECK(ctx, stat, 0, "oneLogicalChannel", -1, "UL-LogicalChannelMappings");
+         break;
+      case 2:
+         if (pvalue->u.twoLogicalChannels == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "twoLogicalChannels", -1, "UL-LogicalChannelMappings");
+         stat = asn1PE_UMTS_UL_LogicalChannelMappingList(ctx, pvalue->u.twoLogicalChannels);
+         RT_CHECK(ctx, stat, 0, "twoLogicalChannels", -1, "UL-LogicalChannelMappings");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelIdentityDCHandDSCH(rtxContext* RT_RESTRICT ctx, const TransportChannelIdentityDCHandDSCH* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransportChannelIdentityDCHandDSCH");
+   /* dch-transport-ch-id */
+   if ((uint64_t)(pvalue->dch_transport_ch_id - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->dch_transport_ch_id);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dch-transport-ch-id", -1, "TransportChannelIdentityDCHandDSCH");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->dch_transport_ch_id, 1, 32);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch-transport-ch-id", -1, "TransportChannelIdentityDCHandDSCH");
+   /* dsch-transport-ch-id */
+   if ((uint64_t)(pvalue->dsch_transport_ch_id - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->dsch_transport_ch_id);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dsch-transport-ch-id", -1, "TransportChannelIdentityDCHandDSCH");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->dsch_transport_ch_id, 1, 32);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "dsch-transport-ch-id", -1, "TransportChannelIdentityDCHandDSCH");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_TransportChannelType(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelType* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-TransportChannelType");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK(ctx, stat, 0, "t", -1, "DL-TransportChannelType");
+   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-TransportChannelType");
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)(pvalue->u.dch - 1) > 31u) {
+            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.dch);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dch", -1, "DL-TransportChannelType");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.dch, 1, 32);
+         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch", -1, "DL-TransportChannelType");
+         break;
+      case 2:
+         break;
+      case 3:
+         if ((uint64_t)(pvalue->u.dsch - 1) > 31u) {
+            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.dsch);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dsch", -1, "DL-TransportChannelType");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.dsch, 1, 32);
+         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dsch", -1, "DL-TransportChannelType");
+         break;
+      case 4:
+         if (pvalue->u.dch_and_dsch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dch-and-dsch", -1, "DL-TransportChannelType");
+         stat = asn1PE_UMTS_TransportChannelIdentityDCHandDSCH(ctx, pvalue->u.dch_and_dsch);
+         RT_CHECK(ctx, stat, 0, "dch-and-dsch", -1, "DL-TransportChannelType");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, const DL_LogicalChannelMapping* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-LogicalChannelMapping");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-LogicalChannelMapping");
+   /* dl-TransportChannelType */
+   stat = asn1PE_UMTS_DL_TransportChannelType(ctx, &pvalue->dl_TransportChannelType);
+   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-LogicalChannelMapping");
+   /* logicalChannelIdentity */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->logicalChannelIdentity - 1) > 14u) {
+         rtxErrAddStrParm(ctx, "LogicalChannelIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->logicalChannelIdentity);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "DL-LogicalChannelMapping");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->logicalChannelIdentity, 1, 15);
+      RT_CHECK(ctx, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "DL-LogicalChannelMapping");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_LogicalChannelMappingList(rtxContext* RT_RESTRICT ctx, const DL_LogicalChannelMappingList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-LogicalChannelMappingList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 2);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-LogicalChannelMappingList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-LogicalChannelMapping", (int32_t)i, "DL-LogicalChannelMappingList");
+      stat = asn1PE_UMTS_DL_LogicalChannelMapping(ctx, (const DL_LogicalChannelMapping*)node->data);
+      RT_CHECK(ctx, stat, 0, "DL-LogicalChannelMapping", (int32_t)i, "DL-LogicalChannelMappingList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_MappingOption(rtxContext* RT_RESTRICT ctx, const RB_MappingOption* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-MappingOption");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-MappingOption");
+   /* ul-LogicalChannelMappings */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UL_LogicalChannelMappings(ctx, &pvalue->ul_LogicalChannelMappings);
+      RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMappings", -1, "RB-MappingOption");
+   }
+   /* dl-LogicalChannelMappingList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_DL_LogicalChannelMappingList(ctx, &pvalue->dl_LogicalChannelMappingList);
+      RT_CHECK(ctx, stat, 0, "dl-LogicalChannelMappingList", -1, "RB-MappingOption");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_MappingInfo(rtxContext* RT_RESTRICT ctx, const RB_MappingInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-MappingInfo");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-MappingInfo");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-MappingOption", (int32_t)i, "RB-MappingInfo");
+      stat = asn1PE_UMTS_RB_MappingOption(ctx, (const RB_MappingOption*)node->data);
+      RT_CHECK(ctx, stat, 0, "RB-MappingOption", (int32_t)i, "RB-MappingInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRB_InformationSetup(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetup* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetup");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-InformationSetup");
+   /* rb-Identity */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+         rtxErrAddStrParm(ctx, "RB-Identity");
+         rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
+      RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup");
+   }
+   /* rlc-InfoChoice */
+   stat = asn1PE_UMTS_RLC_InfoChoice(ctx, &pvalue->rlc_InfoChoice);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "SRB-InformationSetup");
+   /* rb-MappingInfo */
+   stat = asn1PE_UMTS_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "SRB-InformationSetup");
+   return 0;
+}
+
+int asn1PE_UMTS_SRB_InformationSetupList(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetupList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SRB-InformationSetupList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "SRB-InformationSetup", (int32_t)i, "SRB-InformationSetupList");
+      stat = asn1PE_UMTS_SRB_InformationSetup(ctx, (const SRB_InformationSetup*)node->data);
+      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup", (int32_t)i, "SRB-InformationSetupList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MaxPDCP_SN_WindowSize(rtxContext* RT_RESTRICT ctx, MaxPDCP_SN_WindowSize value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxPDCP-SN-WindowSize");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxPDCP-SN-WindowSize");
+   return 0;
+}
+
+int asn1PE_UMTS_LosslessSRNS_RelocSupport(rtxContext* RT_RESTRICT ctx, const LosslessSRNS_RelocSupport* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "LosslessSRNS-RelocSupport");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "LosslessSRNS-RelocSupport");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "LosslessSRNS-RelocSupport");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.supported > 1) {
+            rtxErrAddUIntParm(ctx, pvalue->u.supported);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxPDCP-SN-WindowSize", "supported", -1, "LosslessSRNS-RelocSupport");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.supported, 0, 1);
+         RT_CHECK(ctx, stat, "MaxPDCP-SN-WindowSize", "supported", -1, "LosslessSRNS-RelocSupport");
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_PDU_Header(rtxContext* RT_RESTRICT ctx, PDCP_PDU_Header value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "PDCP-PDU-Header");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PDCP-PDU-Header");
+   return 0;
+}
+
+int asn1PE_UMTS_ExpectReordering(rtxContext* RT_RESTRICT ctx, ExpectReordering value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ExpectReordering");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ExpectReordering");
+   return 0;
+}
+
+int asn1PE_UMTS_RFC2507_Info(rtxContext* RT_RESTRICT ctx, const RFC2507_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RFC2507-Info");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->f_MAX_PERIOD != 256) << 4) |
+      ((uint64_t)(pvalue->f_MAX_TIME != 5) << 3) |
+      ((uint64_t)(pvalue->max_HEADER != 168) << 2) |
+      ((uint64_t)(pvalue->tcp_SPACE != 15) << 1) |
+      ((uint64_t)(pvalue->non_TCP_SPACE != 15) << 0), 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RFC2507-Info");
+   /* f-MAX-PERIOD */
+   if (pvalue->f_MAX_PERIOD != 256) {
+      if ((uint64_t)(pvalue->f_MAX_PERIOD - 1) > 65534u) {
+         rtxErrAddStrParm(ctx, "f-MAX-PERIOD");
+         rtxErrAddUIntParm(ctx, pvalue->f_MAX_PERIOD);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "f-MAX-PERIOD", -1, "RFC2507-Info");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->f_MAX_PERIOD, 1, 65535);
+      RT_CHECK(ctx, stat, 0, "f-MAX-PERIOD", -1, "RFC2507-Info");
+   }
+   /* f-MAX-TIME */
+   if (pvalue->f_MAX_TIME != 5) {
+      if ((uint64_t)(pvalue->f_MAX_TIME - 1) > 254u) {
+         rtxErrAddStrParm(ctx, "f-MAX-TIME");
+         rtxErrAddUIntParm(ctx, pvalue->f_MAX_TIME);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "f-MAX-TIME", -1, "RFC2507-Info");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->f_MAX_TIME, 1, 255);
+      RT_CHECK(ctx, stat, 0, "f-MAX-TIME", -1, "RFC2507-Info");
+   }
+   /* max-HEADER */
+   if (pvalue->max_HEADER != 168) {
+      if ((uint64_t)(pvalue->max_HEADER - 60) > 65475u) {
+         rtxErrAddStrParm(ctx, "max-HEADER");
+         rtxErrAddUIntParm(ctx, pvalue->max_HEADER);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "max-HEADER", -1, "RFC2507-Info");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->max_HEADER, 60, 65535);
+      RT_CHECK(ctx, stat, 0, "max-HEADER", -1, "RFC2507-Info");
+   }
+   /* tcp-SPACE */
+   if (pvalue->tcp_SPACE != 15) {
+      if ((uint64_t)(pvalue->tcp_SPACE - 3) > 252u) {
+         rtxErrAddStrParm(ctx, "tcp-SPACE");
+         rtxErrAddUIntParm(ctx, pvalue->tcp_SPACE);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "tcp-SPACE", -1, "RFC2507-Info");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->tcp_SPACE, 3, 255);
+      RT_CHECK(ctx, stat, 0, "tcp-SPACE", -1, "RFC2507-Info");
+   }
+   /* non-TCP-SPACE */
+   if (pvalue->non_TCP_SPACE != 15) {
+      if ((uint64_t)(pvalue->non_TCP_SPACE - 3) > 65532u) {
+         rtxErrAddStrParm(ctx, "non-TCP-SPACE");
+         rtxErrAddUIntParm(ctx, pvalue->non_TCP_SPACE);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "non-TCP-SPACE", -1, "RFC2507-Info");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->non_TCP_SPACE, 3, 65535);
+      RT_CHECK(ctx, stat, 0, "non-TCP-SPACE", -1, "RFC2507-Info");
+   }
+   /* expectReordering */
+   if (pvalue->expectReordering > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->expectReordering);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ExpectReordering", "expectReordering", -1, "RFC2507-Info");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->expectReordering, 0, 1);
+   RT_CHECK(ctx, stat, "ExpectReordering", "expectReordering", -1, "RFC2507-Info");
+   return 0;
+}
+
+int asn1PE_UMTS_AlgorithmSpecificInfo(rtxContext* RT_RESTRICT ctx, const AlgorithmSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AlgorithmSpecificInfo");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 0);
+   RT_CHECK(ctx, stat, 0, "t", -1, "AlgorithmSpecificInfo");
+   if (pvalue->t - 1 > 0) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "AlgorithmSpecificInfo");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.rfc2507_Info == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "rfc2507-Info", -1, "AlgorithmSpecificInfo");
+         stat = asn1PE_UMTS_RFC2507_Info(ctx, pvalue->u.rfc2507_Info);
+         RT_CHECK(ctx, stat, 0, "rfc2507-Info", -1, "AlgorithmSpecificInfo");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HeaderCompressionInfo(rtxContext* RT_RESTRICT ctx, const HeaderCompressionInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HeaderCompressionInfo");
+   /* algorithmSpecificInfo */
+   stat = asn1PE_UMTS_AlgorithmSpecificInfo(ctx, &pvalue->algorithmSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "algorithmSpecificInfo", -1, "HeaderCompressionInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_HeaderCompressionInfoList(rtxContext* RT_RESTRICT ctx, const HeaderCompressionInfoList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HeaderCompressionInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "HeaderCompressionInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "HeaderCompressionInfo", (int32_t)i, "HeaderCompressionInfoList");
+      stat = asn1PE_UMTS_HeaderCompressionInfo(ctx, (const HeaderCompressionInfo*)node->data);
+      RT_CHECK(ctx, stat, 0, "HeaderCompressionInfo", (int32_t)i, "HeaderCompressionInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_Info(rtxContext* RT_RESTRICT ctx, const PDCP_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDCP-Info");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PDCP-Info");
+   /* losslessSRNS-RelocSupport */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_LosslessSRNS_RelocSupport(ctx, &pvalue->losslessSRNS_RelocSupport);
+      RT_CHECK(ctx, stat, 0, "losslessSRNS-RelocSupport", -1, "PDCP-Info");
+   }
+   /* pdcp-PDU-Header */
+   if (pvalue->pdcp_PDU_Header > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->pdcp_PDU_Header);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "PDCP-PDU-Header", "pdcp-PDU-Header", -1, "PDCP-Info");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->pdcp_PDU_Header, 0, 1);
+   RT_CHECK(ctx, stat, "PDCP-PDU-Header", "pdcp-PDU-Header", -1, "PDCP-Info");
+   /* headerCompressionInfoList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_HeaderCompressionInfoList(ctx, &pvalue->headerCompressionInfoList);
+      RT_CHECK(ctx, stat, 0, "headerCompressionInfoList", -1, "PDCP-Info");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationSetup(rtxContext* RT_RESTRICT ctx, const RB_InformationSetup* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationSetup");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationSetup");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup");
+   /* pdcp-Info */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PDCP_Info(ctx, &pvalue->pdcp_Info);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationSetup");
+   }
+   /* rlc-InfoChoice */
+   stat = asn1PE_UMTS_RLC_InfoChoice(ctx, &pvalue->rlc_InfoChoice);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "RB-InformationSetup");
+   /* rb-MappingInfo */
+   stat = asn1PE_UMTS_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationSetup");
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationSetupList(rtxContext* RT_RESTRICT ctx, const RB_InformationSetupList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationSetupList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-InformationSetupList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-InformationSetup", (int32_t)i, "RB-InformationSetupList");
+      stat = asn1PE_UMTS_RB_InformationSetup(ctx, (const RB_InformationSetup*)node->data);
+      RT_CHECK(ctx, stat, 0, "RB-InformationSetup", (int32_t)i, "RB-InformationSetupList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PredefinedRB_Configuration(rtxContext* RT_RESTRICT ctx, const PredefinedRB_Configuration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PredefinedRB-Configuration");
+   /* re-EstablishmentTimer */
+   if (pvalue->re_EstablishmentTimer > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->re_EstablishmentTimer);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "Re-EstablishmentTimer", "re-EstablishmentTimer", -1, "PredefinedRB-Configuration");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->re_EstablishmentTimer, 0, 1);
+   RT_CHECK(ctx, stat, "Re-EstablishmentTimer", "re-EstablishmentTimer", -1, "PredefinedRB-Configuration");
+   /* srb-InformationList */
+   stat = asn1PE_UMTS_SRB_InformationSetupList(ctx, &pvalue->srb_InformationList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationList", -1, "PredefinedRB-Configuration");
+   /* rb-InformationList */
+   stat = asn1PE_UMTS_RB_InformationSetupList(ctx, &pvalue->rb_InformationList);
+   RT_CHECK(ctx, stat, 0, "rb-InformationList", -1, "PredefinedRB-Configuration");
+   return 0;
+}
+
+int asn1PE_UMTS_TFC_Value(rtxContext* RT_RESTRICT ctx, TFC_Value value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 1023u) {
+      rtxErrAddStrParm(ctx, "TFC-Value");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TFC-Value");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1023);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TFC-Value");
+   return 0;
+}
+
+int asn1PE_UMTS_AllowedTFC_List(rtxContext* RT_RESTRICT ctx, const AllowedTFC_List* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AllowedTFC-List");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 1024);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "AllowedTFC-List");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 1023u) {
+         rtxErrAddStrParm(ctx, "TFC-Value");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "TFC-Value", "TFC-Value", (int32_t)i, "AllowedTFC-List");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 1023);
+      RT_CHECK(ctx, stat, "TFC-Value", "TFC-Value", (int32_t)i, "AllowedTFC-List");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Non_allowedTFC_List(rtxContext* RT_RESTRICT ctx, const Non_allowedTFC_List* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Non-allowedTFC-List");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 1024);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "Non-allowedTFC-List");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 1023u) {
+         rtxErrAddStrParm(ctx, "TFC-Value");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "TFC-Value", "TFC-Value", (int32_t)i, "Non-allowedTFC-List");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 1023);
+      RT_CHECK(ctx, stat, "TFC-Value", "TFC-Value", (int32_t)i, "Non-allowedTFC-List");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_TrCH_Type(rtxContext* RT_RESTRICT ctx, UL_TrCH_Type value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UL-TrCH-Type");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-TrCH-Type");
+   return 0;
+}
+
+int asn1PE_UMTS_AllowedTFI_List_element(rtxContext* RT_RESTRICT ctx, AllowedTFI_List_element value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 31u) {
+      rtxErrAddStrParm(ctx, 0);
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 31);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_AllowedTFI_List(rtxContext* RT_RESTRICT ctx, const AllowedTFI_List* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AllowedTFI-List");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "AllowedTFI-List");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 31u) {
+         rtxErrAddStrParm(ctx, "element");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "element", (int32_t)i, "AllowedTFI-List");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 31);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "AllowedTFI-List");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RestrictedTrChInfo(rtxContext* RT_RESTRICT ctx, const RestrictedTrChInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RestrictedTrChInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RestrictedTrChInfo");
+   /* ul-TransportChannelType */
+   if (pvalue->ul_TransportChannelType > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->ul_TransportChannelType);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "UL-TrCH-Type", "ul-TransportChannelType", -1, "RestrictedTrChInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ul_TransportChannelType, 0, 1);
+   RT_CHECK(ctx, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, "RestrictedTrChInfo");
+   /* restrictedTrChIdentity */
+   if ((uint64_t)(pvalue->restrictedTrChIdentity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->restrictedTrChIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "restrictedTrChIdentity", -1, "RestrictedTrChInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->restrictedTrChIdentity, 1, 32);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "restrictedTrChIdentity", -1, "RestrictedTrChInfo");
+   /* allowedTFI-List */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_AllowedTFI_List(ctx, &pvalue->allowedTFI_List);
+      RT_CHECK(ctx, stat, 0, "allowedTFI-List", -1, "RestrictedTrChInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RestrictedTrChInfoList(rtxContext* RT_RESTRICT ctx, const RestrictedTrChInfoList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RestrictedTrChInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RestrictedTrChInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RestrictedTrChInfo", (int32_t)i, "RestrictedTrChInfoList");
+      stat = asn1PE_UMTS_RestrictedTrChInfo(ctx, (const RestrictedTrChInfo*)node->data);
+      RT_CHECK(ctx, stat, 0, "RestrictedTrChInfo", (int32_t)i, "RestrictedTrChInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFC_Subset(rtxContext* RT_RESTRICT ctx, const TFC_Subset* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TFC-Subset");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 4);
+   RT_CHECK(ctx, stat, 0, "t", -1, "TFC-Subset");
+   if (pvalue->t - 1 > 4) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TFC-Subset");
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)pvalue->u.minimumAllowedTFC_Number > 1023u) {
+            rtxErrAddStrParm(ctx, "TFC-Value");
+            rtxErrAddUIntParm(ctx, pvalue->u.minimumAllowedTFC_Number);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "TFC-Value", "minimumAllowedTFC-Number", -1, "TFC-Subset");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.minimumAllowedTFC_Number, 0, 1023);
+         RT_CHECK(ctx, stat, "TFC-Value", "minimumAllowedTFC-Number", -1, "TFC-Subset");
+         break;
+      case 2:
+         if (pvalue->u.allowedTFC_List == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "allowedTFC-List", -1, "TFC-Subset");
+         stat = asn1PE_UMTS_AllowedTFC_List(ctx, pvalue->u.allowedTFC_List);
+         RT_CHECK(ctx, stat, 0, "allowedTFC-List", -1, "TFC-Subset");
+         break;
+      case 3:
+         if (pvalue->u.non_allowedTFC_List == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "non-allowedTFC-List", -1, "TFC-Subset");
+         stat = asn1PE_UMTS_Non_allowedTFC_List(ctx, pvalue->u.non_allowedTFC_List);
+         RT_CHECK(ctx, stat, 0, "non-allowedTFC-List", -1, "TFC-Subset");
+         break;
+      case 4:
+         if (pvalue->u.restrictedTrChInfoList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "restrictedTrChInfoList", -1, "TFC-Subset");
+         stat = asn1PE_UMTS_RestrictedTrChInfoList(ctx, pvalue->u.restrictedTrChInfoList);
+         RT_CHECK(ctx, stat, 0, "restrictedTrChInfoList", -1, "TFC-Subset");
+         break;
+      case 5:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_CommonTransChInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ul-TFCS */
+   stat = asn1PE_UMTS_TFCS(ctx, &pvalue->ul_TFCS);
+   RT_CHECK(ctx, stat, 0, "ul-TFCS", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_Identity(rtxContext* RT_RESTRICT ctx, const TFCS_Identity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TFCS-Identity");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TFCS-Identity");
+   /* tfcs-ID */
+   if (pvalue->tfcs_ID != 1) {
+      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
+         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "TFCS-Identity");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
+      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "TFCS-Identity");
+   }
+   /* sharedChannelIndicator */
+   stat = rtxEncBit(ctx, pvalue->sharedChannelIndicator);
+   RT_CHECK(ctx, stat, 0, "sharedChannelIndicator", -1, "TFCS-Identity");
+   return 0;
+}
+
+int asn1PE_UMTS_IndividualUL_CCTrCH_Info(rtxContext* RT_RESTRICT ctx, const IndividualUL_CCTrCH_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IndividualUL-CCTrCH-Info");
+   /* ul-TFCS-Identity */
+   stat = asn1PE_UMTS_TFCS_Identity(ctx, &pvalue->ul_TFCS_Identity);
+   RT_CHECK(ctx, stat, 0, "ul-TFCS-Identity", -1, "IndividualUL-CCTrCH-Info");
+   /* ul-TFCS */
+   stat = asn1PE_UMTS_TFCS(ctx, &pvalue->ul_TFCS);
+   RT_CHECK(ctx, stat, 0, "ul-TFCS", -1, "IndividualUL-CCTrCH-Info");
+   /* tfc-Subset */
+   stat = asn1PE_UMTS_TFC_Subset(ctx, &pvalue->tfc_Subset);
+   RT_CHECK(ctx, stat, 0, "tfc-Subset", -1, "IndividualUL-CCTrCH-Info");
+   return 0;
+}
+
+int asn1PE_UMTS_IndividualUL_CCTrCH_InfoList(rtxContext* RT_RESTRICT ctx, const IndividualUL_CCTrCH_InfoList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IndividualUL-CCTrCH-InfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "IndividualUL-CCTrCH-InfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "IndividualUL-CCTrCH-Info", (int32_t)i, "IndividualUL-CCTrCH-InfoList");
+      stat = asn1PE_UMTS_IndividualUL_CCTrCH_Info(ctx, (const IndividualUL_CCTrCH_Info*)node->data);
+      RT_CHECK(ctx, stat, 0, "IndividualUL-CCTrCH-Info", (int32_t)i, "IndividualUL-CCTrCH-InfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_CommonTransChInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* individualUL-CCTrCH-InfoList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IndividualUL_CCTrCH_InfoList(ctx, &pvalue->individualUL_CCTrCH_InfoList);
+      RT_CHECK(ctx, stat, 0, "individualUL-CCTrCH-InfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_CommonTransChInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_UL_CommonTransChInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_UL_CommonTransChInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_CommonTransChInfo(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-CommonTransChInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-CommonTransChInfo");
+   /* tfc-Subset */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TFC_Subset(ctx, &pvalue->tfc_Subset);
+      RT_CHECK(ctx, stat, 0, "tfc-Subset", -1, "UL-CommonTransChInfo");
+   }
+   /* prach-TFCS */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_TFCS(ctx, &pvalue->prach_TFCS);
+      RT_CHECK(ctx, stat, 0, "prach-TFCS", -1, "UL-CommonTransChInfo");
+   }
+   /* modeSpecificInfo */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+      RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-CommonTransChInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInformation(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-AddReconfTransChInformation");
+   /* ul-TransportChannelType */
+   if (pvalue->ul_TransportChannelType > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->ul_TransportChannelType);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "UL-TrCH-Type", "ul-TransportChannelType", -1, "UL-AddReconfTransChInformation");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ul_TransportChannelType, 0, 1);
+   RT_CHECK(ctx, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, "UL-AddReconfTransChInformation");
+   /* transportChannelIdentity */
+   if ((uint64_t)(pvalue->transportChannelIdentity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->transportChannelIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "transportChannelIdentity", -1, "UL-AddReconfTransChInformation");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->transportChannelIdentity, 1, 32);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, "UL-AddReconfTransChInformation");
+   /* transportFormatSet */
+   stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->transportFormatSet);
+   RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, "UL-AddReconfTransChInformation");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInfoList(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInfoList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-AddReconfTransChInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UL-AddReconfTransChInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UL-AddReconfTransChInformation", (int32_t)i, "UL-AddReconfTransChInfoList");
+      stat = asn1PE_UMTS_UL_AddReconfTransChInformation(ctx, (const UL_AddReconfTransChInformation*)node->data);
+      RT_CHECK(ctx, stat, 0, "UL-AddReconfTransChInformation", (int32_t)i, "UL-AddReconfTransChInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonTransChInfo_modeSpecificInfo_fdd_dl_Parameters(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_modeSpecificInfo_fdd_dl_Parameters* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.dl_DCH_TFCS == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-DCH-TFCS", -1, 0);
+         stat = asn1PE_UMTS_TFCS(ctx, pvalue->u.dl_DCH_TFCS);
+         RT_CHECK(ctx, stat, 0, "dl-DCH-TFCS", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonTransChInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-Parameters */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_modeSpecificInfo_fdd_dl_Parameters(ctx, &pvalue->dl_Parameters);
+      RT_CHECK(ctx, stat, 0, "dl-Parameters", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IndividualDL_CCTrCH_Info_tfcs_SignallingMode(rtxContext* RT_RESTRICT ctx, const IndividualDL_CCTrCH_Info_tfcs_SignallingMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.explicit_config == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "explicit-config", -1, 0);
+         stat = asn1PE_UMTS_TFCS(ctx, pvalue->u.explicit_config);
+         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.sameAsUL == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sameAsUL", -1, 0);
+         stat = asn1PE_UMTS_TFCS_Identity(ctx, pvalue->u.sameAsUL);
+         RT_CHECK(ctx, stat, 0, "sameAsUL", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IndividualDL_CCTrCH_Info(rtxContext* RT_RESTRICT ctx, const IndividualDL_CCTrCH_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IndividualDL-CCTrCH-Info");
+   /* dl-TFCS-Identity */
+   stat = asn1PE_UMTS_TFCS_Identity(ctx, &pvalue->dl_TFCS_Identity);
+   RT_CHECK(ctx, stat, 0, "dl-TFCS-Identity", -1, "IndividualDL-CCTrCH-Info");
+   /* tfcs-SignallingMode */
+   stat = asn1PE_UMTS_IndividualDL_CCTrCH_Info_tfcs_SignallingMode(ctx, &pvalue->tfcs_SignallingMode);
+   RT_CHECK(ctx, stat, 0, "tfcs-SignallingMode", -1, "IndividualDL-CCTrCH-Info");
+   return 0;
+}
+
+int asn1PE_UMTS_IndividualDL_CCTrCH_InfoList(rtxContext* RT_RESTRICT ctx, const IndividualDL_CCTrCH_InfoList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IndividualDL-CCTrCH-InfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "IndividualDL-CCTrCH-InfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "IndividualDL-CCTrCH-Info", (int32_t)i, "IndividualDL-CCTrCH-InfoList");
+      stat = asn1PE_UMTS_IndividualDL_CCTrCH_Info(ctx, (const IndividualDL_CCTrCH_Info*)node->data);
+      RT_CHECK(ctx, stat, 0, "IndividualDL-CCTrCH-Info", (int32_t)i, "IndividualDL-CCTrCH-InfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonTransChInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* individualDL-CCTrCH-InfoList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IndividualDL_CCTrCH_InfoList(ctx, &pvalue->individualDL_CCTrCH_InfoList);
+      RT_CHECK(ctx, stat, 0, "individualDL-CCTrCH-InfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonTransChInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_DL_CommonTransChInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_DL_CommonTransChInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonTransChInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-CommonTransChInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CommonTransChInfo");
+   /* sccpch-TFCS */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TFCS(ctx, &pvalue->sccpch_TFCS);
+      RT_CHECK(ctx, stat, 0, "sccpch-TFCS", -1, "DL-CommonTransChInfo");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_DL_CommonTransChInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonTransChInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_TrCH_Type(rtxContext* RT_RESTRICT ctx, DL_TrCH_Type value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "DL-TrCH-Type");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-TrCH-Type");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_TransportChannelIdentity(rtxContext* RT_RESTRICT ctx, const UL_TransportChannelIdentity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-TransportChannelIdentity");
+   /* ul-TransportChannelType */
+   if (pvalue->ul_TransportChannelType > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->ul_TransportChannelType);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "UL-TrCH-Type", "ul-TransportChannelType", -1, "UL-TransportChannelIdentity");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ul_TransportChannelType, 0, 1);
+   RT_CHECK(ctx, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, "UL-TransportChannelIdentity");
+   /* ul-TransportChannelIdentity */
+   if ((uint64_t)(pvalue->ul_TransportChannelIdentity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->ul_TransportChannelIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "ul-TransportChannelIdentity", -1, "UL-TransportChannelIdentity");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ul_TransportChannelIdentity, 1, 32);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "ul-TransportChannelIdentity", -1, "UL-TransportChannelIdentity");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AddReconfTransChInformation_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_tfs_SignallingMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.explicit_config == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "explicit-config", -1, 0);
+         stat = asn1PE_UMTS_TransportFormatSet(ctx, pvalue->u.explicit_config);
+         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.sameAsULTrCH == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sameAsULTrCH", -1, 0);
+         stat = asn1PE_UMTS_UL_TransportChannelIdentity(ctx, pvalue->u.sameAsULTrCH);
+         RT_CHECK(ctx, stat, 0, "sameAsULTrCH", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_BLER_QualityValue(rtxContext* RT_RESTRICT ctx, BLER_QualityValue value)
+{
+   int stat = 0;
+   if (value < -63 || value > 0) {
+      rtxErrAddStrParm(ctx, "BLER-QualityValue");
+      rtxErrAddIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "BLER-QualityValue");
+   }
+   stat = pe_ConsInt64(ctx, value, -63, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, "BLER-QualityValue");
+   return 0;
+}
+
+int asn1PE_UMTS_QualityTarget(rtxContext* RT_RESTRICT ctx, const QualityTarget* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "QualityTarget");
+   /* bler-QualityValue */
+   if (pvalue->bler_QualityValue < -63 || pvalue->bler_QualityValue > 0) {
+      rtxErrAddStrParm(ctx, "BLER-QualityValue");
+      rtxErrAddIntParm(ctx, pvalue->bler_QualityValue);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "BLER-QualityValue", "bler-QualityValue", -1, "QualityTarget");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->bler_QualityValue, -63, 0);
+   RT_CHECK(ctx, stat, "BLER-QualityValue", "bler-QualityValue", -1, "QualityTarget");
+   return 0;
+}
+
+int asn1PE_UMTS_MessType(rtxContext* RT_RESTRICT ctx, MessType value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MessType");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MessType");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_ControlledTrChList(rtxContext* RT_RESTRICT ctx, const UL_ControlledTrChList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-ControlledTrChList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UL-ControlledTrChList");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)(pvalue->elem[i] - 1) > 31u) {
+         rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "TransportChannelIdentity", (int32_t)i, "UL-ControlledTrChList");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 1, 32);
+      RT_CHECK(ctx, stat, "TransportChannelIdentity", "TransportChannelIdentity", (int32_t)i, "UL-ControlledTrChList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TM_SignallingInfo_tm_SignallingMode_mode2(rtxContext* RT_RESTRICT ctx, const TM_SignallingInfo_tm_SignallingMode_mode2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ul-controlledTrChList */
+   stat = asn1PE_UMTS_UL_ControlledTrChList(ctx, &pvalue->ul_controlledTrChList);
+   RT_CHECK(ctx, stat, 0, "ul-controlledTrChList", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_TM_SignallingInfo_tm_SignallingMode(rtxContext* RT_RESTRICT ctx, const TM_SignallingInfo_tm_SignallingMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.mode2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "mode2", -1, 0);
+         stat = asn1PE_UMTS_TM_SignallingInfo_tm_SignallingMode_mode2(ctx, pvalue->u.mode2);
+         RT_CHECK(ctx, stat, 0, "mode2", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TM_SignallingInfo(rtxContext* RT_RESTRICT ctx, const TM_SignallingInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TM-SignallingInfo");
+   /* messType */
+   if (pvalue->messType > 0) {
+      rtxErrAddUIntParm(ctx, pvalue->messType);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MessType", "messType", -1, "TM-SignallingInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->messType, 0, 0);
+   RT_CHECK(ctx, stat, "MessType", "messType", -1, "TM-SignallingInfo");
+   /* tm-SignallingMode */
+   stat = asn1PE_UMTS_TM_SignallingInfo_tm_SignallingMode(ctx, &pvalue->tm_SignallingMode);
+   RT_CHECK(ctx, stat, 0, "tm-SignallingMode", -1, "TM-SignallingInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AddReconfTransChInformation(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-AddReconfTransChInformation");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInformation");
+   /* dl-TransportChannelType */
+   if (pvalue->dl_TransportChannelType > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->dl_TransportChannelType);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TrCH-Type", "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->dl_TransportChannelType, 0, 1);
+   RT_CHECK(ctx, stat, "DL-TrCH-Type", "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation");
+   /* dl-transportChannelIdentity */
+   if ((uint64_t)(pvalue->dl_transportChannelIdentity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->dl_transportChannelIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dl-transportChannelIdentity", -1, "DL-AddReconfTransChInformation");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->dl_transportChannelIdentity, 1, 32);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "dl-transportChannelIdentity", -1, "DL-AddReconfTransChInformation");
+   /* tfs-SignallingMode */
+   stat = asn1PE_UMTS_DL_AddReconfTransChInformation_tfs_SignallingMode(ctx, &pvalue->tfs_SignallingMode);
+   RT_CHECK(ctx, stat, 0, "tfs-SignallingMode", -1, "DL-AddReconfTransChInformation");
+   /* dch-QualityTarget */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_QualityTarget(ctx, &pvalue->dch_QualityTarget);
+      RT_CHECK(ctx, stat, 0, "dch-QualityTarget", -1, "DL-AddReconfTransChInformation");
+   }
+   /* dummy */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_TM_SignallingInfo(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "DL-AddReconfTransChInformation");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AddReconfTransChInfoList(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInfoList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-AddReconfTransChInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-AddReconfTransChInformation", (int32_t)i, "DL-AddReconfTransChInfoList");
+      stat = asn1PE_UMTS_DL_AddReconfTransChInformation(ctx, (const DL_AddReconfTransChInformation*)node->data);
+      RT_CHECK(ctx, stat, 0, "DL-AddReconfTransChInformation", (int32_t)i, "DL-AddReconfTransChInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PreDefTransChConfiguration(rtxContext* RT_RESTRICT ctx, const PreDefTransChConfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PreDefTransChConfiguration");
+   /* ul-CommonTransChInfo */
+   stat = asn1PE_UMTS_UL_CommonTransChInfo(ctx, &pvalue->ul_CommonTransChInfo);
+   RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "PreDefTransChConfiguration");
+   /* ul-AddReconfTrChInfoList */
+   stat = asn1PE_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTrChInfoList);
+   RT_CHECK(ctx, stat, 0, "ul-AddReconfTrChInfoList", -1, "PreDefTransChConfiguration");
+   /* dl-CommonTransChInfo */
+   stat = asn1PE_UMTS_DL_CommonTransChInfo(ctx, &pvalue->dl_CommonTransChInfo);
+   RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "PreDefTransChConfiguration");
+   /* dl-TrChInfoList */
+   stat = asn1PE_UMTS_DL_AddReconfTransChInfoList(ctx, &pvalue->dl_TrChInfoList);
+   RT_CHECK(ctx, stat, 0, "dl-TrChInfoList", -1, "PreDefTransChConfiguration");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfoPredef_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfoPredef_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* powerControlAlgorithm */
+   stat = asn1PE_UMTS_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm);
+   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfoPredef_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfoPredef_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* dpch-ConstantValue */
+   if (pvalue->dpch_ConstantValue < -35 || pvalue->dpch_ConstantValue > 10) {
+      rtxErrAddStrParm(ctx, "ConstantValueTdd");
+      rtxErrAddIntParm(ctx, pvalue->dpch_ConstantValue);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "ConstantValueTdd", "dpch-ConstantValue", -1, 0);
+   }
+   stat = pe_ConsInt64(ctx, pvalue->dpch_ConstantValue, -35, 10);
+   RT_CHECK(ctx, stat, "ConstantValueTdd", "dpch-ConstantValue", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfoPredef(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfoPredef* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-PowerControlInfoPredef");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "UL-DPCH-PowerControlInfoPredef");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-DPCH-PowerControlInfoPredef");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, "UL-DPCH-PowerControlInfoPredef");
+         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfoPredef_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "UL-DPCH-PowerControlInfoPredef");
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, "UL-DPCH-PowerControlInfoPredef");
+         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfoPredef_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "UL-DPCH-PowerControlInfoPredef");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPredef_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tfci-Existence */
+   stat = rtxEncBit(ctx, pvalue->tfci_Existence);
+   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
+   /* puncturingLimit */
+   if (pvalue->puncturingLimit > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->puncturingLimit);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "PuncturingLimit", "puncturingLimit", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->puncturingLimit, 0, 15);
+   RT_CHECK(ctx, stat, "PuncturingLimit", "puncturingLimit", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPredef_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* commonTimeslotInfo */
+   stat = asn1PE_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
+   RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPredef_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_InfoPredef(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPredef* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-InfoPredef");
+   /* ul-DPCH-PowerControlInfo */
+   stat = asn1PE_UMTS_UL_DPCH_PowerControlInfoPredef(ctx, &pvalue->ul_DPCH_PowerControlInfo);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "UL-DPCH-InfoPredef");
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-DPCH-InfoPredef");
+   return 0;
+}
+
+int asn1PE_UMTS_PilotBits128(rtxContext* RT_RESTRICT ctx, PilotBits128 value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "PilotBits128");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PilotBits128");
+   return 0;
+}
+
+int asn1PE_UMTS_PilotBits256(rtxContext* RT_RESTRICT ctx, PilotBits256 value)
+{
+   int stat = 0;
+   if (value > 2) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "PilotBits256");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PilotBits256");
+   return 0;
+}
+
+int asn1PE_UMTS_SF512_AndPilot(rtxContext* RT_RESTRICT ctx, const SF512_AndPilot* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SF512-AndPilot");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
+   RT_CHECK(ctx, stat, 0, "t", -1, "SF512-AndPilot");
+   if (pvalue->t - 1 > 7) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SF512-AndPilot");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         break;
+      case 4:
+         break;
+      case 5:
+         break;
+      case 6:
+         if (pvalue->u.sfd128 > 1) {
+            rtxErrAddUIntParm(ctx, pvalue->u.sfd128);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "PilotBits128", "sfd128", -1, "SF512-AndPilot");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.sfd128, 0, 1);
+         RT_CHECK(ctx, stat, "PilotBits128", "sfd128", -1, "SF512-AndPilot");
+         break;
+      case 7:
+         if (pvalue->u.sfd256 > 2) {
+            rtxErrAddUIntParm(ctx, pvalue->u.sfd256);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "PilotBits256", "sfd256", -1, "SF512-AndPilot");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.sfd256, 0, 2);
+         RT_CHECK(ctx, stat, "PilotBits256", "sfd256", -1, "SF512-AndPilot");
+         break;
+      case 8:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* spreadingFactorAndPilot */
+   stat = asn1PE_UMTS_SF512_AndPilot(ctx, &pvalue->spreadingFactorAndPilot);
+   RT_CHECK(ctx, stat, 0, "spreadingFactorAndPilot", -1, 0);
+   /* positionFixedOrFlexible */
+   if (pvalue->positionFixedOrFlexible > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->positionFixedOrFlexible);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->positionFixedOrFlexible, 0, 1);
+   RT_CHECK(ctx, stat, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
+   /* tfci-Existence */
+   stat = rtxEncBit(ctx, pvalue->tfci_Existence);
+   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* commonTimeslotInfo */
+   stat = asn1PE_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
+   RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommonPredef_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommonPredef(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommonPredef* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-DPCH-InfoCommonPredef");
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-DPCH-InfoCommonPredef");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformationPredef(rtxContext* RT_RESTRICT ctx, const DL_CommonInformationPredef* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-CommonInformationPredef");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CommonInformationPredef");
+   /* dl-DPCH-InfoCommon */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_DPCH_InfoCommonPredef(ctx, &pvalue->dl_DPCH_InfoCommon);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, "DL-CommonInformationPredef");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PreDefPhyChConfiguration(rtxContext* RT_RESTRICT ctx, const PreDefPhyChConfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PreDefPhyChConfiguration");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PreDefPhyChConfiguration");
+   /* ul-DPCH-InfoPredef */
+   stat = asn1PE_UMTS_UL_DPCH_InfoPredef(ctx, &pvalue->ul_DPCH_InfoPredef);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-InfoPredef", -1, "PreDefPhyChConfiguration");
+   /* dl-CommonInformationPredef */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_CommonInformationPredef(ctx, &pvalue->dl_CommonInformationPredef);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformationPredef", -1, "PreDefPhyChConfiguration");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PreDefRadioConfiguration(rtxContext* RT_RESTRICT ctx, const PreDefRadioConfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PreDefRadioConfiguration");
+   /* predefinedRB-Configuration */
+   stat = asn1PE_UMTS_PredefinedRB_Configuration(ctx, &pvalue->predefinedRB_Configuration);
+   RT_CHECK(ctx, stat, 0, "predefinedRB-Configuration", -1, "PreDefRadioConfiguration");
+   /* preDefTransChConfiguration */
+   stat = asn1PE_UMTS_PreDefTransChConfiguration(ctx, &pvalue->preDefTransChConfiguration);
+   RT_CHECK(ctx, stat, 0, "preDefTransChConfiguration", -1, "PreDefRadioConfiguration");
+   /* preDefPhyChConfiguration */
+   stat = asn1PE_UMTS_PreDefPhyChConfiguration(ctx, &pvalue->preDefPhyChConfiguration);
+   RT_CHECK(ctx, stat, 0, "preDefPhyChConfiguration", -1, "PreDefRadioConfiguration");
+   return 0;
+}
+
+int asn1PE_UMTS_NumberOfTPC_Bits(rtxContext* RT_RESTRICT ctx, NumberOfTPC_Bits value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "NumberOfTPC-Bits");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NumberOfTPC-Bits");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* numberOfTPC-Bits */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->numberOfTPC_Bits > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->numberOfTPC_Bits);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "NumberOfTPC-Bits", "numberOfTPC-Bits", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->numberOfTPC_Bits, 0, 0);
+      RT_CHECK(ctx, stat, "NumberOfTPC-Bits", "numberOfTPC-Bits", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPredef_v770ext_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_InfoPredef_v770ext(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPredef_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-InfoPredef-v770ext");
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-DPCH-InfoPredef-v770ext");
+   return 0;
+}
+
+int asn1PE_UMTS_PreDefPhyChConfiguration_v770ext(rtxContext* RT_RESTRICT ctx, const PreDefPhyChConfiguration_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PreDefPhyChConfiguration-v770ext");
+   /* ul-DPCH-InfoPredef */
+   stat = asn1PE_UMTS_UL_DPCH_InfoPredef_v770ext(ctx, &pvalue->ul_DPCH_InfoPredef);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-InfoPredef", -1, "PreDefPhyChConfiguration-v770ext");
+   return 0;
+}
+
+int asn1PE_UMTS_PreDefRadioConfiguration_v770ext(rtxContext* RT_RESTRICT ctx, const PreDefRadioConfiguration_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PreDefRadioConfiguration-v770ext");
+   /* preDefPhyChConfiguration */
+   stat = asn1PE_UMTS_PreDefPhyChConfiguration_v770ext(ctx, &pvalue->preDefPhyChConfiguration);
+   RT_CHECK(ctx, stat, 0, "preDefPhyChConfiguration", -1, "PreDefRadioConfiguration-v770ext");
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType16_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType16_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType16-v770ext-IEs");
+   /* preDefinedRadioConfiguration */
+   stat = asn1PE_UMTS_PreDefRadioConfiguration_v770ext(ctx, &pvalue->preDefinedRadioConfiguration);
+   RT_CHECK(ctx, stat, 0, "preDefinedRadioConfiguration", -1, "SysInfoType16-v770ext-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_MAC_hs_WindowSize_r9(rtxContext* RT_RESTRICT ctx, MAC_hs_WindowSize_r9 value)
+{
+   int stat = 0;
+   if (value > 8) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MAC-hs-WindowSize-r9");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-hs-WindowSize-r9");
+   return 0;
+}
+
+int asn1PE_UMTS_PreDefRadioConfiguration_v920ext(rtxContext* RT_RESTRICT ctx, const PreDefRadioConfiguration_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PreDefRadioConfiguration-v920ext");
+   /* mac-ehsWindowSize */
+   if (pvalue->mac_ehsWindowSize > 8) {
+      rtxErrAddUIntParm(ctx, pvalue->mac_ehsWindowSize);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MAC-hs-WindowSize-r9", "mac-ehsWindowSize", -1, "PreDefRadioConfiguration-v920ext");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->mac_ehsWindowSize, 0, 8);
+   RT_CHECK(ctx, stat, "MAC-hs-WindowSize-r9", "mac-ehsWindowSize", -1, "PreDefRadioConfiguration-v920ext");
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType16_v920ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType16_v920ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType16-v920ext-IEs");
+   /* preDefinedRadioConfiguration */
+   stat = asn1PE_UMTS_PreDefRadioConfiguration_v920ext(ctx, &pvalue->preDefinedRadioConfiguration);
+   RT_CHECK(ctx, stat, 0, "preDefinedRadioConfiguration", -1, "SysInfoType16-v920ext-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType16-v920ext */
+   stat = asn1PE_UMTS_SysInfoType16_v920ext_IEs(ctx, &pvalue->sysInfoType16_v920ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType16-v920ext", -1, 0);
    /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions(rtxContext* ctx, const SysInfoType11bis_v7b0NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_SysInfoType16_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType16_v770NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType11bis-v7b0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType11bis-v7b0ext");
-   stat = asn1PE_UMTS_SysInfoType11bis_v7b0ext_IEs(ctx, &pvalue->sysInfoType11bis_v7b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v860NonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType16-v770ext */
+   stat = asn1PE_UMTS_SysInfoType16_v770ext_IEs(ctx, &pvalue->sysInfoType16_v770ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType16-v770ext", -1, 0);
+   /* v920NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType11bis(rtxContext* ctx, const SysInfoType11bis* pvalue)
+int asn1PE_UMTS_SysInfoType16(rtxContext* RT_RESTRICT ctx, const SysInfoType16* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType11bis");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType16");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType16");
+   /* preDefinedRadioConfiguration */
+   stat = asn1PE_UMTS_PreDefRadioConfiguration(ctx, &pvalue->preDefinedRadioConfiguration);
+   RT_CHECK(ctx, stat, 0, "preDefinedRadioConfiguration", -1, "SysInfoType16");
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType16_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, "SysInfoType16");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Ansi_41_IDNNS(rtxContext* RT_RESTRICT ctx, Ansi_41_IDNNS value)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 14, 14);
+   stat = pe_BitString32(ctx, &value, 14, 14);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Ansi-41-IDNNS");
+   return 0;
+}
+
+int asn1PE_UMTS_CN_DomainInformation(rtxContext* RT_RESTRICT ctx, const CN_DomainInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CN-DomainInformation");
+   /* cn-DomainIdentity */
+   if (pvalue->cn_DomainIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "CN-DomainInformation");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "CN-DomainInformation");
+   /* cn-DomainSpecificNAS-Info */
+   stat = asn1PE_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_DomainSpecificNAS_Info);
+   RT_CHECK(ctx, stat, 0, "cn-DomainSpecificNAS-Info", -1, "CN-DomainInformation");
+   return 0;
+}
+
+int asn1PE_UMTS_CN_DomainInformationFull(rtxContext* RT_RESTRICT ctx, const CN_DomainInformationFull* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CN-DomainInformationFull");
+   /* cn-DomainIdentity */
+   if (pvalue->cn_DomainIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "CN-DomainInformationFull");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "CN-DomainInformationFull");
+   /* cn-DomainSpecificNAS-Info */
+   stat = asn1PE_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_DomainSpecificNAS_Info);
+   RT_CHECK(ctx, stat, 0, "cn-DomainSpecificNAS-Info", -1, "CN-DomainInformationFull");
+   /* cn-DRX-CycleLengthCoeff */
+   if ((uint64_t)(pvalue->cn_DRX_CycleLengthCoeff - 6) > 3u) {
+      rtxErrAddStrParm(ctx, "CN-DRX-CycleLengthCoefficient");
+      rtxErrAddUIntParm(ctx, pvalue->cn_DRX_CycleLengthCoeff);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "CN-DRX-CycleLengthCoefficient", "cn-DRX-CycleLengthCoeff", -1, "CN-DomainInformationFull");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cn_DRX_CycleLengthCoeff, 6, 9);
+   RT_CHECK(ctx, stat, "CN-DRX-CycleLengthCoefficient", "cn-DRX-CycleLengthCoeff", -1, "CN-DomainInformationFull");
+   return 0;
+}
+
+int asn1PE_UMTS_CN_DomainInformationList(rtxContext* RT_RESTRICT ctx, const CN_DomainInformationList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CN-DomainInformationList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CN-DomainInformationList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CN-DomainInformation", (int32_t)i, "CN-DomainInformationList");
+      stat = asn1PE_UMTS_CN_DomainInformation(ctx, (const CN_DomainInformation*)node->data);
+      RT_CHECK(ctx, stat, 0, "CN-DomainInformation", (int32_t)i, "CN-DomainInformationList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CN_DomainInformationListFull(rtxContext* RT_RESTRICT ctx, const CN_DomainInformationListFull* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CN-DomainInformationListFull");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CN-DomainInformationListFull");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CN-DomainInformationFull", (int32_t)i, "CN-DomainInformationListFull");
+      stat = asn1PE_UMTS_CN_DomainInformationFull(ctx, (const CN_DomainInformationFull*)node->data);
+      RT_CHECK(ctx, stat, 0, "CN-DomainInformationFull", (int32_t)i, "CN-DomainInformationListFull");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CN_InformationInfo(rtxContext* RT_RESTRICT ctx, const CN_InformationInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CN-InformationInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CN-InformationInfo");
+   /* plmn-Identity */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
+      RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, "CN-InformationInfo");
+   }
+   /* cn-CommonGSM-MAP-NAS-SysInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo);
+      RT_CHECK(ctx, stat, 0, "cn-CommonGSM-MAP-NAS-SysInfo", -1, "CN-InformationInfo");
+   }
+   /* cn-DomainInformationList */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_CN_DomainInformationList(ctx, &pvalue->cn_DomainInformationList);
+      RT_CHECK(ctx, stat, 0, "cn-DomainInformationList", -1, "CN-InformationInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CN_InformationInfo_r6(rtxContext* RT_RESTRICT ctx, const CN_InformationInfo_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CN-InformationInfo-r6");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* measurementControlSysInfo */
+   RT_CHECK(ctx, stat, 0, 0, -1, "CN-InformationInfo-r6");
+   /* plmn-Identity */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measurementControlSysInfo");
-      stat = asn1PE_UMTS_MeasurementControlSysInfoExtension(ctx, &pvalue->measurementControlSysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
+      RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, "CN-InformationInfo-r6");
    }
-   /* measurementControlSysInfo-LCR */
+   /* cn-CommonGSM-MAP-NAS-SysInfo */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "measurementControlSysInfo-LCR");
-      stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4(ctx, &pvalue->measurementControlSysInfo_LCR);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo);
+      RT_CHECK(ctx, stat, 0, "cn-CommonGSM-MAP-NAS-SysInfo", -1, "CN-InformationInfo-r6");
    }
-   /* measurementControlSysInfoExtensionAddon-r5 */
+   /* cn-DomainInformationList */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "measurementControlSysInfoExtensionAddon-r5");
-      stat = asn1PE_UMTS_MeasurementControlSysInfoExtensionAddon_r5(ctx, &pvalue->measurementControlSysInfoExtensionAddon_r5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CN_DomainInformationList(ctx, &pvalue->cn_DomainInformationList);
+      RT_CHECK(ctx, stat, 0, "cn-DomainInformationList", -1, "CN-InformationInfo-r6");
    }
-   /* v7b0NonCriticalExtensions */
+   /* primary-plmn-Identity */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "v7b0NonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions(ctx, &pvalue->v7b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType12_v4b0ext_IEs(rtxContext* ctx, const SysInfoType12_v4b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType12-v4b0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* fach-MeasurementOccasionInfo-LCR-Ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "fach-MeasurementOccasionInfo-LCR-Ext");
-      stat = asn1PE_UMTS_FACH_MeasurementOccasionInfo_LCR_r4_ext(ctx, &pvalue->fach_MeasurementOccasionInfo_LCR_Ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementControlSysInfo-LCR */
-   rtxCtxtPushElemName(ctx, "measurementControlSysInfo-LCR");
-   stat = asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext(ctx, &pvalue->measurementControlSysInfo_LCR);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType12_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(rtxContext* ctx, const SysInfoType12_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "CellSelectReselectInfo-v590ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_CellSelectReselectInfo_v590ext(ctx, (const CellSelectReselectInfo_v590ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
+      RT_CHECK(ctx, stat, 0, "primary-plmn-Identity", -1, "CN-InformationInfo-r6");
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType12_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(rtxContext* ctx, const SysInfoType12_v590ext_IEs_newInterFrequencyCellInfoList_v590ext* pvalue)
+int asn1PE_UMTS_CN_InformationInfoFull(rtxContext* RT_RESTRICT ctx, const CN_InformationInfoFull* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "CellSelectReselectInfo-v590ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_CellSelectReselectInfo_v590ext(ctx, (const CellSelectReselectInfo_v590ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType12_v590ext_IEs_newInterRATCellInfoList_v590ext(rtxContext* ctx, const SysInfoType12_v590ext_IEs_newInterRATCellInfoList_v590ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "CellSelectReselectInfo-v590ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_CellSelectReselectInfo_v590ext(ctx, (const CellSelectReselectInfo_v590ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType12_v590ext_IEs(rtxContext* ctx, const SysInfoType12_v590ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType12-v590ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat);
-   /* newIntraFrequencyCellInfoList-v590ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "newIntraFrequencyCellInfoList-v590ext");
-      stat = asn1PE_UMTS_SysInfoType12_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(ctx, &pvalue->newIntraFrequencyCellInfoList_v590ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFrequencyCellInfoList-v590ext */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "newInterFrequencyCellInfoList-v590ext");
-      stat = asn1PE_UMTS_SysInfoType12_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(ctx, &pvalue->newInterFrequencyCellInfoList_v590ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterRATCellInfoList-v590ext */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "newInterRATCellInfoList-v590ext");
-      stat = asn1PE_UMTS_SysInfoType12_v590ext_IEs_newInterRATCellInfoList_v590ext(ctx, &pvalue->newInterRATCellInfoList_v590ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqEventCriteriaList-v590ext */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "intraFreqEventCriteriaList-v590ext");
-      stat = asn1PE_UMTS_Intra_FreqEventCriteriaList_v590ext(ctx, &pvalue->intraFreqEventCriteriaList_v590ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqReportingCriteria-1b-r5 */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "intraFreqReportingCriteria-1b-r5");
-      stat = asn1PE_UMTS_IntraFreqReportingCriteria_1b_r5(ctx, &pvalue->intraFreqReportingCriteria_1b_r5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqEvent-1d-r5 */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "intraFreqEvent-1d-r5");
-      stat = asn1PE_UMTS_IntraFreqEvent_1d_r5(ctx, &pvalue->intraFreqEvent_1d_r5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType12_v690ext_IEs(rtxContext* ctx, const SysInfoType12_v690ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType12-v690ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      stat = asn1PE_UMTS_Dummy_InterFreqRACHReportingInfo(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType12_v6b0ext_IEs(rtxContext* ctx, const SysInfoType12_v6b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType12-v6b0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* interFreqRACHReportingInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interFreqRACHReportingInfo");
-      stat = asn1PE_UMTS_InterFreqRACHReportingInfo(ctx, &pvalue->interFreqRACHReportingInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType12_v7b0ext_IEs(rtxContext* ctx, const SysInfoType12_v7b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType12-v7b0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      stat = asn1PE_UMTS_NewInterFreqCellList_v7b0ext(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions(rtxContext* ctx, const SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType12-v7b0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType12-v7b0ext");
-   stat = asn1PE_UMTS_SysInfoType12_v7b0ext_IEs(ctx, &pvalue->sysInfoType12_v7b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* ctx, const SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType12-v6b0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType12-v6b0ext");
-   stat = asn1PE_UMTS_SysInfoType12_v6b0ext_IEs(ctx, &pvalue->sysInfoType12_v6b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v7b0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v7b0NonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions(ctx, &pvalue->v7b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(rtxContext* ctx, const SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType12-v690ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType12-v690ext");
-   stat = asn1PE_UMTS_SysInfoType12_v690ext_IEs(ctx, &pvalue->sysInfoType12_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v6b0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v6b0NonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* ctx, const SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType12-v590ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType12-v590ext");
-   stat = asn1PE_UMTS_SysInfoType12_v590ext_IEs(ctx, &pvalue->sysInfoType12_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v690NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions(rtxContext* ctx, const SysInfoType12_v4b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType12-v4b0ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sysInfoType12-v4b0ext");
-      stat = asn1PE_UMTS_SysInfoType12_v4b0ext_IEs(ctx, &pvalue->sysInfoType12_v4b0ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v590NonCriticalExtension */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtension");
-      stat = asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension(ctx, &pvalue->v590NonCriticalExtension);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType12(rtxContext* ctx, const SysInfoType12* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType12");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* fach-MeasurementOccasionInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "fach-MeasurementOccasionInfo");
-      stat = asn1PE_UMTS_FACH_MeasurementOccasionInfo(ctx, &pvalue->fach_MeasurementOccasionInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementControlSysInfo */
-   rtxCtxtPushElemName(ctx, "measurementControlSysInfo");
-   stat = asn1PE_UMTS_MeasurementControlSysInfo(ctx, &pvalue->measurementControlSysInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v4b0NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v4b0NonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Re_EstablishmentTimer(rtxContext* ctx, Re_EstablishmentTimer value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Re-EstablishmentTimer");
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TimerMRW(rtxContext* ctx, TimerMRW value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TimerMRW");
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TimerDiscard(rtxContext* ctx, TimerDiscard value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TimerDiscard");
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MaxMRW(rtxContext* ctx, MaxMRW value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaxMRW");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ExplicitDiscard(rtxContext* ctx, const ExplicitDiscard* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ExplicitDiscard");
-   /* timerMRW */
-   rtxCtxtPushElemName(ctx, "timerMRW");
-   rtxCtxtPushTypeName(ctx, "TimerMRW");
-   if (pvalue->timerMRW > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timerMRW);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timerMRW, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timerDiscard */
-   rtxCtxtPushElemName(ctx, "timerDiscard");
-   rtxCtxtPushTypeName(ctx, "TimerDiscard");
-   if (pvalue->timerDiscard > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timerDiscard);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timerDiscard, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maxMRW */
-   rtxCtxtPushElemName(ctx, "maxMRW");
-   rtxCtxtPushTypeName(ctx, "MaxMRW");
-   if (pvalue->maxMRW > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->maxMRW);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxMRW, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NoExplicitDiscard(rtxContext* ctx, NoExplicitDiscard value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "NoExplicitDiscard");
-   if (value > 9) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MaxDAT(rtxContext* ctx, MaxDAT value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaxDAT");
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MaxDAT_Retransmissions(rtxContext* ctx, const MaxDAT_Retransmissions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MaxDAT-Retransmissions");
-   /* maxDAT */
-   rtxCtxtPushElemName(ctx, "maxDAT");
-   rtxCtxtPushTypeName(ctx, "MaxDAT");
-   if (pvalue->maxDAT > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->maxDAT);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxDAT, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timerMRW */
-   rtxCtxtPushElemName(ctx, "timerMRW");
-   rtxCtxtPushTypeName(ctx, "TimerMRW");
-   if (pvalue->timerMRW > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timerMRW);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timerMRW, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maxMRW */
-   rtxCtxtPushElemName(ctx, "maxMRW");
-   rtxCtxtPushTypeName(ctx, "MaxMRW");
-   if (pvalue->maxMRW > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->maxMRW);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxMRW, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TransmissionRLC_Discard(rtxContext* ctx, const TransmissionRLC_Discard* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TransmissionRLC-Discard");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 3) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "timerBasedExplicit");
-         if (pvalue->u.timerBasedExplicit == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_ExplicitDiscard(ctx, pvalue->u.timerBasedExplicit);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "timerBasedNoExplicit");
-         rtxCtxtPushTypeName(ctx, "NoExplicitDiscard");
-         if (pvalue->u.timerBasedNoExplicit > 9) {
-            rtxErrAddUIntParm(ctx, pvalue->u.timerBasedNoExplicit);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.timerBasedNoExplicit, 0, 9);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "maxDAT-Retransmissions");
-         if (pvalue->u.maxDAT_Retransmissions == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MaxDAT_Retransmissions(ctx, pvalue->u.maxDAT_Retransmissions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "noDiscard");
-         rtxCtxtPushTypeName(ctx, "MaxDAT");
-         if (pvalue->u.noDiscard > 15) {
-            rtxErrAddUIntParm(ctx, pvalue->u.noDiscard);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.noDiscard, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TransmissionWindowSize(rtxContext* ctx, TransmissionWindowSize value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TransmissionWindowSize");
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TimerRST(rtxContext* ctx, TimerRST value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TimerRST");
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MaxRST(rtxContext* ctx, MaxRST value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaxRST");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TimerPollProhibit(rtxContext* ctx, TimerPollProhibit value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TimerPollProhibit");
-   if (value > 63) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TimerPoll(rtxContext* ctx, TimerPoll value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TimerPoll");
-   if (value > 63) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Poll_PDU(rtxContext* ctx, Poll_PDU value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Poll-PDU");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Poll_SDU(rtxContext* ctx, Poll_SDU value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Poll-SDU");
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PollWindow(rtxContext* ctx, PollWindow value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PollWindow");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TimerPollPeriodic(rtxContext* ctx, TimerPollPeriodic value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TimerPollPeriodic");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PollingInfo(rtxContext* ctx, const PollingInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PollingInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat);
-   /* timerPollProhibit */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "timerPollProhibit");
-      rtxCtxtPushTypeName(ctx, "TimerPollProhibit");
-      if (pvalue->timerPollProhibit > 63) {
-         rtxErrAddUIntParm(ctx, pvalue->timerPollProhibit);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->timerPollProhibit, 0, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* timerPoll */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "timerPoll");
-      rtxCtxtPushTypeName(ctx, "TimerPoll");
-      if (pvalue->timerPoll > 63) {
-         rtxErrAddUIntParm(ctx, pvalue->timerPoll);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->timerPoll, 0, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* poll-PDU */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "poll-PDU");
-      rtxCtxtPushTypeName(ctx, "Poll-PDU");
-      if (pvalue->poll_PDU > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->poll_PDU);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->poll_PDU, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* poll-SDU */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "poll-SDU");
-      rtxCtxtPushTypeName(ctx, "Poll-SDU");
-      if (pvalue->poll_SDU > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->poll_SDU);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->poll_SDU, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* lastTransmissionPDU-Poll */
-   rtxCtxtPushElemName(ctx, "lastTransmissionPDU-Poll");
-   stat = rtxEncBit(ctx, pvalue->lastTransmissionPDU_Poll);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* lastRetransmissionPDU-Poll */
-   rtxCtxtPushElemName(ctx, "lastRetransmissionPDU-Poll");
-   stat = rtxEncBit(ctx, pvalue->lastRetransmissionPDU_Poll);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* pollWindow */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "pollWindow");
-      rtxCtxtPushTypeName(ctx, "PollWindow");
-      if (pvalue->pollWindow > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->pollWindow);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->pollWindow, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* timerPollPeriodic */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "timerPollPeriodic");
-      rtxCtxtPushTypeName(ctx, "TimerPollPeriodic");
-      if (pvalue->timerPollPeriodic > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->timerPollPeriodic);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->timerPollPeriodic, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_AM_RLC_Mode(rtxContext* ctx, const UL_AM_RLC_Mode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-AM-RLC-Mode");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* transmissionRLC-Discard */
-   rtxCtxtPushElemName(ctx, "transmissionRLC-Discard");
-   stat = asn1PE_UMTS_TransmissionRLC_Discard(ctx, &pvalue->transmissionRLC_Discard);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* transmissionWindowSize */
-   rtxCtxtPushElemName(ctx, "transmissionWindowSize");
-   rtxCtxtPushTypeName(ctx, "TransmissionWindowSize");
-   if (pvalue->transmissionWindowSize > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->transmissionWindowSize);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->transmissionWindowSize, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timerRST */
-   rtxCtxtPushElemName(ctx, "timerRST");
-   rtxCtxtPushTypeName(ctx, "TimerRST");
-   if (pvalue->timerRST > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timerRST);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timerRST, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* max-RST */
-   rtxCtxtPushElemName(ctx, "max-RST");
-   rtxCtxtPushTypeName(ctx, "MaxRST");
-   if (pvalue->max_RST > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->max_RST);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->max_RST, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* pollingInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pollingInfo");
-      stat = asn1PE_UMTS_PollingInfo(ctx, &pvalue->pollingInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_UM_RLC_Mode(rtxContext* ctx, const UL_UM_RLC_Mode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-UM-RLC-Mode");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* transmissionRLC-Discard */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "transmissionRLC-Discard");
-      stat = asn1PE_UMTS_TransmissionRLC_Discard(ctx, &pvalue->transmissionRLC_Discard);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TM_RLC_Mode(rtxContext* ctx, const UL_TM_RLC_Mode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-TM-RLC-Mode");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* transmissionRLC-Discard */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "transmissionRLC-Discard");
-      stat = asn1PE_UMTS_TransmissionRLC_Discard(ctx, &pvalue->transmissionRLC_Discard);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* segmentationIndication */
-   rtxCtxtPushElemName(ctx, "segmentationIndication");
-   stat = rtxEncBit(ctx, pvalue->segmentationIndication);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_RLC_Mode(rtxContext* ctx, const UL_RLC_Mode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-RLC-Mode");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 3) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "ul-AM-RLC-Mode");
-         if (pvalue->u.ul_AM_RLC_Mode == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_AM_RLC_Mode(ctx, pvalue->u.ul_AM_RLC_Mode);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ul-UM-RLC-Mode");
-         if (pvalue->u.ul_UM_RLC_Mode == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_UM_RLC_Mode(ctx, pvalue->u.ul_UM_RLC_Mode);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "ul-TM-RLC-Mode");
-         if (pvalue->u.ul_TM_RLC_Mode == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_TM_RLC_Mode(ctx, pvalue->u.ul_TM_RLC_Mode);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "spare");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ReceivingWindowSize(rtxContext* ctx, ReceivingWindowSize value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ReceivingWindowSize");
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TimerStatusProhibit(rtxContext* ctx, TimerStatusProhibit value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TimerStatusProhibit");
-   if (value > 63) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TimerEPC(rtxContext* ctx, TimerEPC value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TimerEPC");
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TimerStatusPeriodic(rtxContext* ctx, TimerStatusPeriodic value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TimerStatusPeriodic");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_RLC_StatusInfo(rtxContext* ctx, const DL_RLC_StatusInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-RLC-StatusInfo");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CN-InformationInfoFull");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* timerStatusProhibit */
+   RT_CHECK(ctx, stat, 0, 0, -1, "CN-InformationInfoFull");
+   /* plmn-Identity */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "timerStatusProhibit");
-      rtxCtxtPushTypeName(ctx, "TimerStatusProhibit");
-      if (pvalue->timerStatusProhibit > 63) {
-         rtxErrAddUIntParm(ctx, pvalue->timerStatusProhibit);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->timerStatusProhibit, 0, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
+      RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, "CN-InformationInfoFull");
    }
-   /* dummy */
+   /* cn-CommonGSM-MAP-NAS-SysInfo */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      rtxCtxtPushTypeName(ctx, "TimerEPC");
-      if (pvalue->dummy > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->dummy);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dummy, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo);
+      RT_CHECK(ctx, stat, 0, "cn-CommonGSM-MAP-NAS-SysInfo", -1, "CN-InformationInfoFull");
    }
-   /* missingPDU-Indicator */
-   rtxCtxtPushElemName(ctx, "missingPDU-Indicator");
-   stat = rtxEncBit(ctx, pvalue->missingPDU_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* timerStatusPeriodic */
+   /* cn-DomainInformationListFull */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "timerStatusPeriodic");
-      rtxCtxtPushTypeName(ctx, "TimerStatusPeriodic");
-      if (pvalue->timerStatusPeriodic > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->timerStatusPeriodic);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->timerStatusPeriodic, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CN_DomainInformationListFull(ctx, &pvalue->cn_DomainInformationListFull);
+      RT_CHECK(ctx, stat, 0, "cn-DomainInformationListFull", -1, "CN-InformationInfoFull");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_DL_AM_RLC_Mode(rtxContext* ctx, const DL_AM_RLC_Mode* pvalue)
+int asn1PE_UMTS_RoutingParameter(rtxContext* RT_RESTRICT ctx, RoutingParameter value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-AM-RLC-Mode");
-   /* inSequenceDelivery */
-   rtxCtxtPushElemName(ctx, "inSequenceDelivery");
-   stat = rtxEncBit(ctx, pvalue->inSequenceDelivery);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* receivingWindowSize */
-   rtxCtxtPushElemName(ctx, "receivingWindowSize");
-   rtxCtxtPushTypeName(ctx, "ReceivingWindowSize");
-   if (pvalue->receivingWindowSize > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->receivingWindowSize);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->receivingWindowSize, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dl-RLC-StatusInfo */
-   rtxCtxtPushElemName(ctx, "dl-RLC-StatusInfo");
-   stat = asn1PE_UMTS_DL_RLC_StatusInfo(ctx, &pvalue->dl_RLC_StatusInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_SET_SIZE(ctx, 10, 10);
+   stat = pe_BitString32(ctx, &value, 10, 10);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RoutingParameter");
    return 0;
 }
 
-int asn1PE_UMTS_DL_TM_RLC_Mode(rtxContext* ctx, const DL_TM_RLC_Mode* pvalue)
+int asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_localPTMSI(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_localPTMSI* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-TM-RLC-Mode");
-   /* segmentationIndication */
-   rtxCtxtPushElemName(ctx, "segmentationIndication");
-   stat = rtxEncBit(ctx, pvalue->segmentationIndication);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* routingparameter */
+   stat = asn1PE_UMTS_RoutingParameter(ctx, pvalue->routingparameter);
+   RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_DL_RLC_Mode(rtxContext* ctx, const DL_RLC_Mode* pvalue)
+int asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-RLC-Mode");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* routingparameter */
+   stat = asn1PE_UMTS_RoutingParameter(ctx, pvalue->routingparameter);
+   RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* routingparameter */
+   stat = asn1PE_UMTS_RoutingParameter(ctx, pvalue->routingparameter);
+   RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* routingparameter */
+   stat = asn1PE_UMTS_RoutingParameter(ctx, pvalue->routingparameter);
+   RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* routingparameter */
+   stat = asn1PE_UMTS_RoutingParameter(ctx, pvalue->routingparameter);
+   RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_iMEI(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_iMEI* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* routingparameter */
+   stat = asn1PE_UMTS_RoutingParameter(ctx, pvalue->routingparameter);
+   RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_spare2(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_spare2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* routingparameter */
+   stat = asn1PE_UMTS_RoutingParameter(ctx, pvalue->routingparameter);
+   RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_spare1(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_spare1* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* routingparameter */
+   stat = asn1PE_UMTS_RoutingParameter(ctx, pvalue->routingparameter);
+   RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_Gsm_map_IDNNS_routingbasis(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 7) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "dl-AM-RLC-Mode");
-         if (pvalue->u.dl_AM_RLC_Mode == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_AM_RLC_Mode(ctx, pvalue->u.dl_AM_RLC_Mode);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.localPTMSI == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "localPTMSI", -1, 0);
+         stat = asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_localPTMSI(ctx, pvalue->u.localPTMSI);
+         RT_CHECK(ctx, stat, 0, "localPTMSI", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "dl-UM-RLC-Mode");
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.tMSIofsamePLMN == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tMSIofsamePLMN", -1, 0);
+         stat = asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN(ctx, pvalue->u.tMSIofsamePLMN);
+         RT_CHECK(ctx, stat, 0, "tMSIofsamePLMN", -1, 0);
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "dl-TM-RLC-Mode");
-         if (pvalue->u.dl_TM_RLC_Mode == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_TM_RLC_Mode(ctx, pvalue->u.dl_TM_RLC_Mode);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.tMSIofdifferentPLMN == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tMSIofdifferentPLMN", -1, 0);
+         stat = asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN(ctx, pvalue->u.tMSIofdifferentPLMN);
+         RT_CHECK(ctx, stat, 0, "tMSIofdifferentPLMN", -1, 0);
+         break;
+      case 4:
+         if (pvalue->u.iMSIresponsetopaging == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "iMSIresponsetopaging", -1, 0);
+         stat = asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging(ctx, pvalue->u.iMSIresponsetopaging);
+         RT_CHECK(ctx, stat, 0, "iMSIresponsetopaging", -1, 0);
+         break;
+      case 5:
+         if (pvalue->u.iMSIcauseUEinitiatedEvent == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "iMSIcauseUEinitiatedEvent", -1, 0);
+         stat = asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent(ctx, pvalue->u.iMSIcauseUEinitiatedEvent);
+         RT_CHECK(ctx, stat, 0, "iMSIcauseUEinitiatedEvent", -1, 0);
+         break;
+      case 6:
+         if (pvalue->u.iMEI == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "iMEI", -1, 0);
+         stat = asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_iMEI(ctx, pvalue->u.iMEI);
+         RT_CHECK(ctx, stat, 0, "iMEI", -1, 0);
+         break;
+      case 7:
+         if (pvalue->u.spare2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "spare2", -1, 0);
+         stat = asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_spare2(ctx, pvalue->u.spare2);
+         RT_CHECK(ctx, stat, 0, "spare2", -1, 0);
+         break;
+      case 8:
+         if (pvalue->u.spare1 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "spare1", -1, 0);
+         stat = asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_spare1(ctx, pvalue->u.spare1);
+         RT_CHECK(ctx, stat, 0, "spare1", -1, 0);
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_RLC_Info(rtxContext* ctx, const RLC_Info* pvalue)
+int asn1PE_UMTS_Gsm_map_IDNNS(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RLC-Info");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Gsm-map-IDNNS");
+   /* routingbasis */
+   stat = asn1PE_UMTS_Gsm_map_IDNNS_routingbasis(ctx, &pvalue->routingbasis);
+   RT_CHECK(ctx, stat, 0, "routingbasis", -1, "Gsm-map-IDNNS");
+   /* dummy */
+   stat = rtxEncBit(ctx, pvalue->dummy);
+   RT_CHECK(ctx, stat, 0, "dummy", -1, "Gsm-map-IDNNS");
+   return 0;
+}
+
+int asn1PE_UMTS_IMEI_Digit(rtxContext* RT_RESTRICT ctx, IMEI_Digit value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 15u) {
+      rtxErrAddStrParm(ctx, "IMEI-Digit");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "IMEI-Digit");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IMEI-Digit");
+   return 0;
+}
+
+int asn1PE_UMTS_IMEI(rtxContext* RT_RESTRICT ctx, const IMEI* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IMEI");
+   uint32_t i;
+   if (pvalue->n != 15) {
+      rtxErrAddStrParm(ctx, "IMEI");
+      rtxErrAddUIntParm(ctx, pvalue->n);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "IMEI");
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 15u) {
+         rtxErrAddStrParm(ctx, "IMEI-Digit");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "IMEI-Digit", "IMEI-Digit", (int32_t)i, "IMEI");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 15);
+      RT_CHECK(ctx, stat, "IMEI-Digit", "IMEI-Digit", (int32_t)i, "IMEI");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IMSI_GSM_MAP(rtxContext* RT_RESTRICT ctx, const IMSI_GSM_MAP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IMSI-GSM-MAP");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 6, 21);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "IMSI-GSM-MAP");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 9u) {
+         rtxErrAddStrParm(ctx, "Digit");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Digit", "Digit", (int32_t)i, "IMSI-GSM-MAP");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 9);
+      RT_CHECK(ctx, stat, "Digit", "Digit", (int32_t)i, "IMSI-GSM-MAP");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraDomainNasNodeSelector_version_release99_cn_Type(rtxContext* RT_RESTRICT ctx, const IntraDomainNasNodeSelector_version_release99_cn_Type* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.gsm_Map_IDNNS == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm-Map-IDNNS", -1, 0);
+         stat = asn1PE_UMTS_Gsm_map_IDNNS(ctx, pvalue->u.gsm_Map_IDNNS);
+         RT_CHECK(ctx, stat, 0, "gsm-Map-IDNNS", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.ansi_41_IDNNS == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ansi-41-IDNNS", -1, 0);
+         stat = asn1PE_UMTS_Ansi_41_IDNNS(ctx, *pvalue->u.ansi_41_IDNNS);
+         RT_CHECK(ctx, stat, 0, "ansi-41-IDNNS", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraDomainNasNodeSelector_version_release99(rtxContext* RT_RESTRICT ctx, const IntraDomainNasNodeSelector_version_release99* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* cn-Type */
+   stat = asn1PE_UMTS_IntraDomainNasNodeSelector_version_release99_cn_Type(ctx, &pvalue->cn_Type);
+   RT_CHECK(ctx, stat, 0, "cn-Type", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_IntraDomainNasNodeSelector_version_later(rtxContext* RT_RESTRICT ctx, const IntraDomainNasNodeSelector_version_later* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* futurecoding */
+   RT_SET_SIZE(ctx, 15, 15);
+   stat = pe_BitString32(ctx, &pvalue->futurecoding, 15, 15);
+   RT_CHECK(ctx, stat, 0, "futurecoding", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_IntraDomainNasNodeSelector_version(rtxContext* RT_RESTRICT ctx, const IntraDomainNasNodeSelector_version* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.release99 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "release99", -1, 0);
+         stat = asn1PE_UMTS_IntraDomainNasNodeSelector_version_release99(ctx, pvalue->u.release99);
+         RT_CHECK(ctx, stat, 0, "release99", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.later == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "later", -1, 0);
+         stat = asn1PE_UMTS_IntraDomainNasNodeSelector_version_later(ctx, pvalue->u.later);
+         RT_CHECK(ctx, stat, 0, "later", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraDomainNasNodeSelector(rtxContext* RT_RESTRICT ctx, const IntraDomainNasNodeSelector* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraDomainNasNodeSelector");
+   /* version */
+   stat = asn1PE_UMTS_IntraDomainNasNodeSelector_version(ctx, &pvalue->version);
+   RT_CHECK(ctx, stat, 0, "version", -1, "IntraDomainNasNodeSelector");
+   return 0;
+}
+
+int asn1PE_UMTS_LAI(rtxContext* RT_RESTRICT ctx, const LAI* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "LAI");
+   /* plmn-Identity */
+   stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
+   RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, "LAI");
+   /* lac */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &pvalue->lac, 16, 16);
+   RT_CHECK(ctx, stat, 0, "lac", -1, "LAI");
+   return 0;
+}
+
+int asn1PE_UMTS_NAS_Message(rtxContext* RT_RESTRICT ctx, const NAS_Message* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NAS-Message");
+   RT_SET_SIZE(ctx, 1, 4095);
+   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NAS-Message");
+   return 0;
+}
+
+int asn1PE_UMTS_NAS_Synchronisation_Indicator(rtxContext* RT_RESTRICT ctx, NAS_Synchronisation_Indicator value)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 4, 4);
+   stat = pe_BitString32(ctx, &value, 4, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NAS-Synchronisation-Indicator");
+   return 0;
+}
+
+int asn1PE_UMTS_P_TMSI_GSM_MAP(rtxContext* RT_RESTRICT ctx, P_TMSI_GSM_MAP value)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32(ctx, &value, 32, 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "P-TMSI-GSM-MAP");
+   return 0;
+}
+
+int asn1PE_UMTS_PagingRecordTypeID(rtxContext* RT_RESTRICT ctx, PagingRecordTypeID value)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "PagingRecordTypeID");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PagingRecordTypeID");
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_Identity(rtxContext* RT_RESTRICT ctx, const RAB_Identity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-Identity");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "RAB-Identity");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RAB-Identity");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.gsm_MAP_RAB_Identity == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm-MAP-RAB-Identity", -1, "RAB-Identity");
+         RT_SET_SIZE(ctx, 8, 8);
+         stat = pe_BitString32(ctx, pvalue->u.gsm_MAP_RAB_Identity, 8, 8);
+         RT_CHECK(ctx, stat, 0, "gsm-MAP-RAB-Identity", -1, "RAB-Identity");
+         break;
+      case 2:
+         if (pvalue->u.ansi_41_RAB_Identity == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ansi-41-RAB-Identity", -1, "RAB-Identity");
+         RT_SET_SIZE(ctx, 8, 8);
+         stat = pe_BitString32(ctx, pvalue->u.ansi_41_RAB_Identity, 8, 8);
+         RT_CHECK(ctx, stat, 0, "ansi-41-RAB-Identity", -1, "RAB-Identity");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RoutingAreaCode(rtxContext* RT_RESTRICT ctx, RoutingAreaCode value)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &value, 8, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RoutingAreaCode");
+   return 0;
+}
+
+int asn1PE_UMTS_RAI(rtxContext* RT_RESTRICT ctx, const RAI* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAI");
+   /* lai */
+   stat = asn1PE_UMTS_LAI(ctx, &pvalue->lai);
+   RT_CHECK(ctx, stat, 0, "lai", -1, "RAI");
+   /* rac */
+   stat = asn1PE_UMTS_RoutingAreaCode(ctx, pvalue->rac);
+   RT_CHECK(ctx, stat, 0, "rac", -1, "RAI");
+   return 0;
+}
+
+int asn1PE_UMTS_TMSI_GSM_MAP(rtxContext* RT_RESTRICT ctx, TMSI_GSM_MAP value)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32(ctx, &value, 32, 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TMSI-GSM-MAP");
+   return 0;
+}
+
+int asn1PE_UMTS_CellIdentity_PerRL_List(rtxContext* RT_RESTRICT ctx, const CellIdentity_PerRL_List* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellIdentity-PerRL-List");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CellIdentity-PerRL-List");
+   for (i = 0; i < pvalue->n; i++) {
+      stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->elem[i]);
+      RT_CHECK(ctx, stat, 0, "CellIdentity", (int32_t)i, "CellIdentity-PerRL-List");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_T_322(rtxContext* RT_RESTRICT ctx, T_322 value)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-322");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "T-322");
+   return 0;
+}
+
+int asn1PE_UMTS_PriorityLevel_radioAccessTechnology_utraFDD_element(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology_utraFDD_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* uarfcn */
+   if ((uint64_t)pvalue->uarfcn > 16383u) {
+      rtxErrAddStrParm(ctx, "UARFCN");
+      rtxErrAddUIntParm(ctx, pvalue->uarfcn);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "UARFCN", "uarfcn", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->uarfcn, 0, 16383);
+   RT_CHECK(ctx, stat, "UARFCN", "uarfcn", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PriorityLevel_radioAccessTechnology_utraFDD(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology_utraFDD* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
+      stat = asn1PE_UMTS_PriorityLevel_radioAccessTechnology_utraFDD_element(ctx, (const PriorityLevel_radioAccessTechnology_utraFDD_element*)node->data);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PriorityLevel_radioAccessTechnology_utraTDD_element(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology_utraTDD_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* uarfcn */
+   if ((uint64_t)pvalue->uarfcn > 16383u) {
+      rtxErrAddStrParm(ctx, "UARFCN");
+      rtxErrAddUIntParm(ctx, pvalue->uarfcn);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "UARFCN", "uarfcn", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->uarfcn, 0, 16383);
+   RT_CHECK(ctx, stat, "UARFCN", "uarfcn", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PriorityLevel_radioAccessTechnology_utraTDD(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology_utraTDD* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
+      stat = asn1PE_UMTS_PriorityLevel_radioAccessTechnology_utraTDD_element(ctx, (const PriorityLevel_radioAccessTechnology_utraTDD_element*)node->data);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_EARFCN(rtxContext* RT_RESTRICT ctx, EARFCN value)
+{
+   int stat = 0;
+   stat = pe_ConsUInt64(ctx, value, 0, 65535);
+   RT_CHECK(ctx, stat, 0, 0, -1, "EARFCN");
+   return 0;
+}
+
+int asn1PE_UMTS_PriorityLevel_radioAccessTechnology_eutra_element(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology_eutra_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* earfcn */
+   stat = pe_ConsUInt64(ctx, pvalue->earfcn, 0, 65535);
+   RT_CHECK(ctx, stat, "EARFCN", "earfcn", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PriorityLevel_radioAccessTechnology_eutra(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology_eutra* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
+      stat = asn1PE_UMTS_PriorityLevel_radioAccessTechnology_eutra_element(ctx, (const PriorityLevel_radioAccessTechnology_eutra_element*)node->data);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GSM_CellGroup_bandIndicator(rtxContext* RT_RESTRICT ctx, GSM_CellGroup_bandIndicator value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_GSM_CellGroup_followingARFCNs_explicitListOfARFCNs(rtxContext* RT_RESTRICT ctx, const GSM_CellGroup_followingARFCNs_explicitListOfARFCNs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 0, 31);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 1023u) {
+         rtxErrAddStrParm(ctx, "BCCH-ARFCN");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "BCCH-ARFCN", "BCCH-ARFCN", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 1023);
+      RT_CHECK(ctx, stat, "BCCH-ARFCN", "BCCH-ARFCN", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GSM_CellGroup_followingARFCNs_equallySpacedARFCNs(rtxContext* RT_RESTRICT ctx, const GSM_CellGroup_followingARFCNs_equallySpacedARFCNs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* arfcn-Spacing */
+   if ((uint64_t)(pvalue->arfcn_Spacing - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "arfcn-Spacing");
+      rtxErrAddUIntParm(ctx, pvalue->arfcn_Spacing);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "arfcn-Spacing", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->arfcn_Spacing, 1, 8);
+   RT_CHECK(ctx, stat, 0, "arfcn-Spacing", -1, 0);
+   /* numberOfFollowingARFCNs */
+   if ((uint64_t)pvalue->numberOfFollowingARFCNs > 31u) {
+      rtxErrAddStrParm(ctx, "numberOfFollowingARFCNs");
+      rtxErrAddUIntParm(ctx, pvalue->numberOfFollowingARFCNs);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "numberOfFollowingARFCNs", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->numberOfFollowingARFCNs, 0, 31);
+   RT_CHECK(ctx, stat, 0, "numberOfFollowingARFCNs", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs(rtxContext* RT_RESTRICT ctx, const GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs(rtxContext* RT_RESTRICT ctx, const GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* endingARFCN */
+   if ((uint64_t)pvalue->endingARFCN > 1023u) {
+      rtxErrAddStrParm(ctx, "BCCH-ARFCN");
+      rtxErrAddUIntParm(ctx, pvalue->endingARFCN);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "BCCH-ARFCN", "endingARFCN", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->endingARFCN, 0, 1023);
+   RT_CHECK(ctx, stat, "BCCH-ARFCN", "endingARFCN", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_GSM_CellGroup_followingARFCNs(rtxContext* RT_RESTRICT ctx, const GSM_CellGroup_followingARFCNs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.explicitListOfARFCNs == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "explicitListOfARFCNs", -1, 0);
+         stat = asn1PE_UMTS_GSM_CellGroup_followingARFCNs_explicitListOfARFCNs(ctx, pvalue->u.explicitListOfARFCNs);
+         RT_CHECK(ctx, stat, 0, "explicitListOfARFCNs", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.equallySpacedARFCNs == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "equallySpacedARFCNs", -1, 0);
+         stat = asn1PE_UMTS_GSM_CellGroup_followingARFCNs_equallySpacedARFCNs(ctx, pvalue->u.equallySpacedARFCNs);
+         RT_CHECK(ctx, stat, 0, "equallySpacedARFCNs", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.variableBitMapOfARFCNs == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "variableBitMapOfARFCNs", -1, 0);
+         stat = asn1PE_UMTS_GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs(ctx, pvalue->u.variableBitMapOfARFCNs);
+         RT_CHECK(ctx, stat, 0, "variableBitMapOfARFCNs", -1, 0);
+         break;
+      case 4:
+         if (pvalue->u.continuousRangeOfARFCNs == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "continuousRangeOfARFCNs", -1, 0);
+         stat = asn1PE_UMTS_GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs(ctx, pvalue->u.continuousRangeOfARFCNs);
+         RT_CHECK(ctx, stat, 0, "continuousRangeOfARFCNs", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GSM_CellGroup(rtxContext* RT_RESTRICT ctx, const GSM_CellGroup* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GSM-CellGroup");
+   /* startingARFCN */
+   if ((uint64_t)pvalue->startingARFCN > 1023u) {
+      rtxErrAddStrParm(ctx, "BCCH-ARFCN");
+      rtxErrAddUIntParm(ctx, pvalue->startingARFCN);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "BCCH-ARFCN", "startingARFCN", -1, "GSM-CellGroup");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->startingARFCN, 0, 1023);
+   RT_CHECK(ctx, stat, "BCCH-ARFCN", "startingARFCN", -1, "GSM-CellGroup");
+   /* bandIndicator */
+   if (pvalue->bandIndicator > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->bandIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "bandIndicator", -1, "GSM-CellGroup");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->bandIndicator, 0, 1);
+   RT_CHECK(ctx, stat, 0, "bandIndicator", -1, "GSM-CellGroup");
+   /* followingARFCNs */
+   stat = asn1PE_UMTS_GSM_CellGroup_followingARFCNs(ctx, &pvalue->followingARFCNs);
+   RT_CHECK(ctx, stat, 0, "followingARFCNs", -1, "GSM-CellGroup");
+   return 0;
+}
+
+int asn1PE_UMTS_PriorityLevel_radioAccessTechnology_gsm(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology_gsm* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* gsm-CellGroup */
+   stat = asn1PE_UMTS_GSM_CellGroup(ctx, &pvalue->gsm_CellGroup);
+   RT_CHECK(ctx, stat, 0, "gsm-CellGroup", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PriorityLevel_radioAccessTechnology(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.utraFDD == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "utraFDD", -1, 0);
+         stat = asn1PE_UMTS_PriorityLevel_radioAccessTechnology_utraFDD(ctx, pvalue->u.utraFDD);
+         RT_CHECK(ctx, stat, 0, "utraFDD", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.utraTDD == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "utraTDD", -1, 0);
+         stat = asn1PE_UMTS_PriorityLevel_radioAccessTechnology_utraTDD(ctx, pvalue->u.utraTDD);
+         RT_CHECK(ctx, stat, 0, "utraTDD", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.eutra == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "eutra", -1, 0);
+         stat = asn1PE_UMTS_PriorityLevel_radioAccessTechnology_eutra(ctx, pvalue->u.eutra);
+         RT_CHECK(ctx, stat, 0, "eutra", -1, 0);
+         break;
+      case 4:
+         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm", -1, 0);
+         stat = asn1PE_UMTS_PriorityLevel_radioAccessTechnology_gsm(ctx, pvalue->u.gsm);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PriorityLevel(rtxContext* RT_RESTRICT ctx, const PriorityLevel* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PriorityLevel");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PriorityLevel");
+   /* priority */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->priority > 7u) {
+         rtxErrAddStrParm(ctx, "priority");
+         rtxErrAddUIntParm(ctx, pvalue->priority);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "priority", -1, "PriorityLevel");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->priority, 0, 7);
+      RT_CHECK(ctx, stat, 0, "priority", -1, "PriorityLevel");
+   }
+   /* radioAccessTechnology */
+   stat = asn1PE_UMTS_PriorityLevel_radioAccessTechnology(ctx, &pvalue->radioAccessTechnology);
+   RT_CHECK(ctx, stat, 0, "radioAccessTechnology", -1, "PriorityLevel");
+   return 0;
+}
+
+int asn1PE_UMTS_PriorityLevelList(rtxContext* RT_RESTRICT ctx, const PriorityLevelList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PriorityLevelList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PriorityLevelList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PriorityLevel", (int32_t)i, "PriorityLevelList");
+      stat = asn1PE_UMTS_PriorityLevel(ctx, (const PriorityLevel*)node->data);
+      RT_CHECK(ctx, stat, 0, "PriorityLevel", (int32_t)i, "PriorityLevelList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DedicatedPriorityInformation_action_configureDedicatedPriorities(rtxContext* RT_RESTRICT ctx, const DedicatedPriorityInformation_action_configureDedicatedPriorities* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ul-RLC-Mode */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* t-322 */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ul-RLC-Mode");
-      stat = asn1PE_UMTS_UL_RLC_Mode(ctx, &pvalue->ul_RLC_Mode);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if (pvalue->t_322 > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->t_322);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "T-322", "t-322", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->t_322, 0, 7);
+      RT_CHECK(ctx, stat, "T-322", "t-322", -1, 0);
    }
-   /* dl-RLC-Mode */
+   /* priorityLevelList */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dl-RLC-Mode");
-      stat = asn1PE_UMTS_DL_RLC_Mode(ctx, &pvalue->dl_RLC_Mode);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_PriorityLevelList(ctx, &pvalue->priorityLevelList);
+      RT_CHECK(ctx, stat, 0, "priorityLevelList", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
+   /* eutraDetection */
+   stat = rtxEncBit(ctx, pvalue->eutraDetection);
+   RT_CHECK(ctx, stat, 0, "eutraDetection", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_RLC_InfoChoice(rtxContext* ctx, const RLC_InfoChoice* pvalue)
+int asn1PE_UMTS_DedicatedPriorityInformation_action(rtxContext* RT_RESTRICT ctx, const DedicatedPriorityInformation_action* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RLC-InfoChoice");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "rlc-Info");
-         if (pvalue->u.rlc_Info == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_RLC_Info(ctx, pvalue->u.rlc_Info);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "same-as-RB");
-         rtxCtxtPushTypeName(ctx, "RB-Identity");
-         if ((uint64_t)(pvalue->u.same_as_RB - 1) > 31u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.same_as_RB);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.same_as_RB, 1, 32);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.configureDedicatedPriorities == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "configureDedicatedPriorities", -1, 0);
+         stat = asn1PE_UMTS_DedicatedPriorityInformation_action_configureDedicatedPriorities(ctx, pvalue->u.configureDedicatedPriorities);
+         RT_CHECK(ctx, stat, 0, "configureDedicatedPriorities", -1, 0);
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_UL_TransportChannelType(rtxContext* ctx, const UL_TransportChannelType* pvalue)
+int asn1PE_UMTS_DedicatedPriorityInformation(rtxContext* RT_RESTRICT ctx, const DedicatedPriorityInformation* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-TransportChannelType");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 3) RT_RAISE(ctx, RT_ERR_INVOPT);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DedicatedPriorityInformation");
+   /* action */
+   stat = asn1PE_UMTS_DedicatedPriorityInformation_action(ctx, &pvalue->action);
+   RT_CHECK(ctx, stat, 0, "action", -1, "DedicatedPriorityInformation");
+   return 0;
+}
+
+int asn1PE_UMTS_Q_Hyst_S_Fine(rtxContext* RT_RESTRICT ctx, Q_Hyst_S_Fine value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 40u) {
+      rtxErrAddStrParm(ctx, "Q-Hyst-S-Fine");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "Q-Hyst-S-Fine");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 40);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Q-Hyst-S-Fine");
+   return 0;
+}
+
+int asn1PE_UMTS_T_Reselection_S_Fine(rtxContext* RT_RESTRICT ctx, T_Reselection_S_Fine value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 31u) {
+      rtxErrAddStrParm(ctx, "T-Reselection-S-Fine");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "T-Reselection-S-Fine");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 31);
+   RT_CHECK(ctx, stat, 0, 0, -1, "T-Reselection-S-Fine");
+   return 0;
+}
+
+int asn1PE_UMTS_AccessStratumReleaseIndicator(rtxContext* RT_RESTRICT ctx, AccessStratumReleaseIndicator value)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "AccessStratumReleaseIndicator");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AccessStratumReleaseIndicator");
+   return 0;
+}
+
+int asn1PE_UMTS_ActivationTime(rtxContext* RT_RESTRICT ctx, ActivationTime value)
+{
+   int stat = 0;
+   stat = pe_ConsUInt64(ctx, value, 0, 255);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ActivationTime");
+   return 0;
+}
+
+int asn1PE_UMTS_N_AP_RetransMax(rtxContext* RT_RESTRICT ctx, N_AP_RetransMax value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "N-AP-RetransMax");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "N-AP-RetransMax");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 64);
+   RT_CHECK(ctx, stat, 0, 0, -1, "N-AP-RetransMax");
+   return 0;
+}
+
+int asn1PE_UMTS_N_AccessFails(rtxContext* RT_RESTRICT ctx, N_AccessFails value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "N-AccessFails");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "N-AccessFails");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 64);
+   RT_CHECK(ctx, stat, 0, 0, -1, "N-AccessFails");
+   return 0;
+}
+
+int asn1PE_UMTS_NF_BO_NoAICH(rtxContext* RT_RESTRICT ctx, NF_BO_NoAICH value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 31u) {
+      rtxErrAddStrParm(ctx, "NF-BO-NoAICH");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "NF-BO-NoAICH");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 31);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NF-BO-NoAICH");
+   return 0;
+}
+
+int asn1PE_UMTS_NS_BO_Busy(rtxContext* RT_RESTRICT ctx, NS_BO_Busy value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 63u) {
+      rtxErrAddStrParm(ctx, "NS-BO-Busy");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "NS-BO-Busy");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 63);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NS-BO-Busy");
+   return 0;
+}
+
+int asn1PE_UMTS_NF_BO_AllBusy(rtxContext* RT_RESTRICT ctx, NF_BO_AllBusy value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 31u) {
+      rtxErrAddStrParm(ctx, "NF-BO-AllBusy");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "NF-BO-AllBusy");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 31);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NF-BO-AllBusy");
+   return 0;
+}
+
+int asn1PE_UMTS_NF_BO_Mismatch(rtxContext* RT_RESTRICT ctx, NF_BO_Mismatch value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 127u) {
+      rtxErrAddStrParm(ctx, "NF-BO-Mismatch");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "NF-BO-Mismatch");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 127);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NF-BO-Mismatch");
+   return 0;
+}
+
+int asn1PE_UMTS_T_CPCH(rtxContext* RT_RESTRICT ctx, T_CPCH value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-CPCH");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "T-CPCH");
+   return 0;
+}
+
+int asn1PE_UMTS_BackoffControlParams(rtxContext* RT_RESTRICT ctx, const BackoffControlParams* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "BackoffControlParams");
+   /* n-AP-RetransMax */
+   if ((uint64_t)(pvalue->n_AP_RetransMax - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "N-AP-RetransMax");
+      rtxErrAddUIntParm(ctx, pvalue->n_AP_RetransMax);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "N-AP-RetransMax", "n-AP-RetransMax", -1, "BackoffControlParams");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->n_AP_RetransMax, 1, 64);
+   RT_CHECK(ctx, stat, "N-AP-RetransMax", "n-AP-RetransMax", -1, "BackoffControlParams");
+   /* n-AccessFails */
+   if ((uint64_t)(pvalue->n_AccessFails - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "N-AccessFails");
+      rtxErrAddUIntParm(ctx, pvalue->n_AccessFails);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "N-AccessFails", "n-AccessFails", -1, "BackoffControlParams");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->n_AccessFails, 1, 64);
+   RT_CHECK(ctx, stat, "N-AccessFails", "n-AccessFails", -1, "BackoffControlParams");
+   /* nf-BO-NoAICH */
+   if ((uint64_t)pvalue->nf_BO_NoAICH > 31u) {
+      rtxErrAddStrParm(ctx, "NF-BO-NoAICH");
+      rtxErrAddUIntParm(ctx, pvalue->nf_BO_NoAICH);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "NF-BO-NoAICH", "nf-BO-NoAICH", -1, "BackoffControlParams");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->nf_BO_NoAICH, 0, 31);
+   RT_CHECK(ctx, stat, "NF-BO-NoAICH", "nf-BO-NoAICH", -1, "BackoffControlParams");
+   /* ns-BO-Busy */
+   if ((uint64_t)pvalue->ns_BO_Busy > 63u) {
+      rtxErrAddStrParm(ctx, "NS-BO-Busy");
+      rtxErrAddUIntParm(ctx, pvalue->ns_BO_Busy);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "NS-BO-Busy", "ns-BO-Busy", -1, "BackoffControlParams");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ns_BO_Busy, 0, 63);
+   RT_CHECK(ctx, stat, "NS-BO-Busy", "ns-BO-Busy", -1, "BackoffControlParams");
+   /* nf-BO-AllBusy */
+   if ((uint64_t)pvalue->nf_BO_AllBusy > 31u) {
+      rtxErrAddStrParm(ctx, "NF-BO-AllBusy");
+      rtxErrAddUIntParm(ctx, pvalue->nf_BO_AllBusy);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "NF-BO-AllBusy", "nf-BO-AllBusy", -1, "BackoffControlParams");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->nf_BO_AllBusy, 0, 31);
+   RT_CHECK(ctx, stat, "NF-BO-AllBusy", "nf-BO-AllBusy", -1, "BackoffControlParams");
+   /* nf-BO-Mismatch */
+   if ((uint64_t)pvalue->nf_BO_Mismatch > 127u) {
+      rtxErrAddStrParm(ctx, "NF-BO-Mismatch");
+      rtxErrAddUIntParm(ctx, pvalue->nf_BO_Mismatch);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "NF-BO-Mismatch", "nf-BO-Mismatch", -1, "BackoffControlParams");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->nf_BO_Mismatch, 0, 127);
+   RT_CHECK(ctx, stat, "NF-BO-Mismatch", "nf-BO-Mismatch", -1, "BackoffControlParams");
+   /* t-CPCH */
+   if (pvalue->t_CPCH > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->t_CPCH);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "T-CPCH", "t-CPCH", -1, "BackoffControlParams");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->t_CPCH, 0, 1);
+   RT_CHECK(ctx, stat, "T-CPCH", "t-CPCH", -1, "BackoffControlParams");
+   return 0;
+}
+
+int asn1PE_UMTS_BandComb(rtxContext* RT_RESTRICT ctx, BandComb value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 255u) {
+      rtxErrAddStrParm(ctx, "BandComb");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "BandComb");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 256);
+   RT_CHECK(ctx, stat, 0, 0, -1, "BandComb");
+   return 0;
+}
+
+int asn1PE_UMTS_C_RNTI(rtxContext* RT_RESTRICT ctx, C_RNTI value)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &value, 16, 16);
+   RT_CHECK(ctx, stat, 0, 0, -1, "C-RNTI");
+   return 0;
+}
+
+int asn1PE_UMTS_SystemSpecificCapUpdateReq(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SystemSpecificCapUpdateReq");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SystemSpecificCapUpdateReq");
+   return 0;
+}
+
+int asn1PE_UMTS_SystemSpecificCapUpdateReqList(rtxContext* RT_RESTRICT ctx, const SystemSpecificCapUpdateReqList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SystemSpecificCapUpdateReqList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SystemSpecificCapUpdateReqList");
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "SystemSpecificCapUpdateReq", "SystemSpecificCapUpdateReq", (int32_t)i, "SystemSpecificCapUpdateReqList");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 0);
+      RT_CHECK(ctx, stat, "SystemSpecificCapUpdateReq", "SystemSpecificCapUpdateReq", (int32_t)i, "SystemSpecificCapUpdateReqList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CapabilityUpdateRequirement(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CapabilityUpdateRequirement");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CapabilityUpdateRequirement");
+   /* ue-RadioCapabilityFDDUpdateRequirement */
+   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityFDDUpdateRequirement);
+   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityFDDUpdateRequirement", -1, "CapabilityUpdateRequirement");
+   /* ue-RadioCapabilityTDDUpdateRequirement */
+   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityTDDUpdateRequirement);
+   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement", -1, "CapabilityUpdateRequirement");
+   /* systemSpecificCapUpdateReqList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SystemSpecificCapUpdateReqList(ctx, &pvalue->systemSpecificCapUpdateReqList);
+      RT_CHECK(ctx, stat, 0, "systemSpecificCapUpdateReqList", -1, "CapabilityUpdateRequirement");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CapabilityUpdateRequirement_r4_ext(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement_r4_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CapabilityUpdateRequirement-r4-ext");
+   /* ue-RadioCapabilityUpdateRequirement-TDD128 */
+   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityUpdateRequirement_TDD128);
+   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityUpdateRequirement-TDD128", -1, "CapabilityUpdateRequirement-r4-ext");
+   return 0;
+}
+
+int asn1PE_UMTS_CapabilityUpdateRequirement_r4(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CapabilityUpdateRequirement-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CapabilityUpdateRequirement-r4");
+   /* ue-RadioCapabilityFDDUpdateRequirement-FDD */
+   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityFDDUpdateRequirement_FDD);
+   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityFDDUpdateRequirement-FDD", -1, "CapabilityUpdateRequirement-r4");
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD384 */
+   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD384);
+   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD384", -1, "CapabilityUpdateRequirement-r4");
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD128 */
+   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD128);
+   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD128", -1, "CapabilityUpdateRequirement-r4");
+   /* systemSpecificCapUpdateReqList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SystemSpecificCapUpdateReqList(ctx, &pvalue->systemSpecificCapUpdateReqList);
+      RT_CHECK(ctx, stat, 0, "systemSpecificCapUpdateReqList", -1, "CapabilityUpdateRequirement-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SystemSpecificCapUpdateReq_r5(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq_r5 value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SystemSpecificCapUpdateReq-r5");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SystemSpecificCapUpdateReq-r5");
+   return 0;
+}
+
+int asn1PE_UMTS_SystemSpecificCapUpdateReqList_r5(rtxContext* RT_RESTRICT ctx, const SystemSpecificCapUpdateReqList_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SystemSpecificCapUpdateReqList-r5");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SystemSpecificCapUpdateReqList-r5");
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "SystemSpecificCapUpdateReq-r5", "SystemSpecificCapUpdateReq-r5", (int32_t)i, "SystemSpecificCapUpdateReqList-r5");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 1);
+      RT_CHECK(ctx, stat, "SystemSpecificCapUpdateReq-r5", "SystemSpecificCapUpdateReq-r5", (int32_t)i, "SystemSpecificCapUpdateReqList-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CapabilityUpdateRequirement_r5(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CapabilityUpdateRequirement-r5");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CapabilityUpdateRequirement-r5");
+   /* ue-RadioCapabilityFDDUpdateRequirement-FDD */
+   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityFDDUpdateRequirement_FDD);
+   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityFDDUpdateRequirement-FDD", -1, "CapabilityUpdateRequirement-r5");
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD384 */
+   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD384);
+   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD384", -1, "CapabilityUpdateRequirement-r5");
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD128 */
+   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD128);
+   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD128", -1, "CapabilityUpdateRequirement-r5");
+   /* systemSpecificCapUpdateReqList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SystemSpecificCapUpdateReqList_r5(ctx, &pvalue->systemSpecificCapUpdateReqList);
+      RT_CHECK(ctx, stat, 0, "systemSpecificCapUpdateReqList", -1, "CapabilityUpdateRequirement-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CapabilityUpdateRequirement_v770ext(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CapabilityUpdateRequirement-v770ext");
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD768 */
+   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD768);
+   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD768", -1, "CapabilityUpdateRequirement-v770ext");
+   return 0;
+}
+
+int asn1PE_UMTS_CapabilityUpdateRequirement_r7(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CapabilityUpdateRequirement-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CapabilityUpdateRequirement-r7");
+   /* ue-RadioCapabilityFDDUpdateRequirement-FDD */
+   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityFDDUpdateRequirement_FDD);
+   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityFDDUpdateRequirement-FDD", -1, "CapabilityUpdateRequirement-r7");
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD384 */
+   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD384);
+   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD384", -1, "CapabilityUpdateRequirement-r7");
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD768 */
+   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD768);
+   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD768", -1, "CapabilityUpdateRequirement-r7");
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD128 */
+   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD128);
+   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD128", -1, "CapabilityUpdateRequirement-r7");
+   /* systemSpecificCapUpdateReqList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SystemSpecificCapUpdateReqList_r5(ctx, &pvalue->systemSpecificCapUpdateReqList);
+      RT_CHECK(ctx, stat, 0, "systemSpecificCapUpdateReqList", -1, "CapabilityUpdateRequirement-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SystemSpecificCapUpdateReq_r8(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq_r8 value)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SystemSpecificCapUpdateReq-r8");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SystemSpecificCapUpdateReq-r8");
+   return 0;
+}
+
+int asn1PE_UMTS_SystemSpecificCapUpdateReqList_r8(rtxContext* RT_RESTRICT ctx, const SystemSpecificCapUpdateReqList_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SystemSpecificCapUpdateReqList-r8");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SystemSpecificCapUpdateReqList-r8");
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "SystemSpecificCapUpdateReq-r8", "SystemSpecificCapUpdateReq-r8", (int32_t)i, "SystemSpecificCapUpdateReqList-r8");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 7);
+      RT_CHECK(ctx, stat, "SystemSpecificCapUpdateReq-r8", "SystemSpecificCapUpdateReq-r8", (int32_t)i, "SystemSpecificCapUpdateReqList-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CapabilityUpdateRequirement_v860ext(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CapabilityUpdateRequirement-v860ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CapabilityUpdateRequirement-v860ext");
+   /* systemSpecificCapUpdateReqList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SystemSpecificCapUpdateReqList_r8(ctx, &pvalue->systemSpecificCapUpdateReqList);
+      RT_CHECK(ctx, stat, 0, "systemSpecificCapUpdateReqList", -1, "CapabilityUpdateRequirement-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CapabilityUpdateRequirement_r8(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CapabilityUpdateRequirement-r8");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CapabilityUpdateRequirement-r8");
+   /* ue-RadioCapabilityFDDUpdateRequirement-FDD */
+   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityFDDUpdateRequirement_FDD);
+   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityFDDUpdateRequirement-FDD", -1, "CapabilityUpdateRequirement-r8");
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD384 */
+   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD384);
+   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD384", -1, "CapabilityUpdateRequirement-r8");
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD768 */
+   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD768);
+   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD768", -1, "CapabilityUpdateRequirement-r8");
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD128 */
+   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD128);
+   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD128", -1, "CapabilityUpdateRequirement-r8");
+   /* systemSpecificCapUpdateReqList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SystemSpecificCapUpdateReqList_r8(ctx, &pvalue->systemSpecificCapUpdateReqList);
+      RT_CHECK(ctx, stat, 0, "systemSpecificCapUpdateReqList", -1, "CapabilityUpdateRequirement-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateCause(rtxContext* RT_RESTRICT ctx, CellUpdateCause value)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "CellUpdateCause");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateCause");
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateCause_ext(rtxContext* RT_RESTRICT ctx, CellUpdateCause_ext value)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "CellUpdateCause-ext");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateCause-ext");
+   return 0;
+}
+
+int asn1PE_UMTS_ChipRateCapability(rtxContext* RT_RESTRICT ctx, ChipRateCapability value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ChipRateCapability");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ChipRateCapability");
+   return 0;
+}
+
+int asn1PE_UMTS_CipheringAlgorithm(rtxContext* RT_RESTRICT ctx, CipheringAlgorithm value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "CipheringAlgorithm");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CipheringAlgorithm");
+   return 0;
+}
+
+int asn1PE_UMTS_CipheringAlgorithm_r7(rtxContext* RT_RESTRICT ctx, CipheringAlgorithm_r7 value)
+{
+   int stat = 0;
+   if (value > 2) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "CipheringAlgorithm-r7");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CipheringAlgorithm-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_CipheringModeCommand(rtxContext* RT_RESTRICT ctx, const CipheringModeCommand* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CipheringModeCommand");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "CipheringModeCommand");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CipheringModeCommand");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "dch");
-         rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-         if ((uint64_t)(pvalue->u.dch - 1) > 31u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.dch);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+         if (pvalue->u.startRestart > 1) {
+            rtxErrAddUIntParm(ctx, pvalue->u.startRestart);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "CipheringAlgorithm", "startRestart", -1, "CipheringModeCommand");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.dch, 1, 32);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         stat = pe_ConsUInt64(ctx, pvalue->u.startRestart, 0, 1);
+         RT_CHECK(ctx, stat, "CipheringAlgorithm", "startRestart", -1, "CipheringModeCommand");
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "rach");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "dummy");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "usch");
-         rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-         if ((uint64_t)(pvalue->u.usch - 1) > 31u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.usch);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.usch, 1, 32);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_RLC_SizeInfo(rtxContext* ctx, const RLC_SizeInfo* pvalue)
+int asn1PE_UMTS_CipheringModeCommand_r7(rtxContext* RT_RESTRICT ctx, const CipheringModeCommand_r7* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RLC-SizeInfo");
-   /* rlc-SizeIndex */
-   rtxCtxtPushElemName(ctx, "rlc-SizeIndex");
-   if ((uint64_t)(pvalue->rlc_SizeIndex - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rlc_SizeIndex);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CipheringModeCommand-r7");
+   /* startRestart */
+   if (pvalue->startRestart > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->startRestart);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CipheringAlgorithm-r7", "startRestart", -1, "CipheringModeCommand-r7");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->rlc_SizeIndex, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   stat = pe_ConsUInt64(ctx, pvalue->startRestart, 0, 2);
+   RT_CHECK(ctx, stat, "CipheringAlgorithm-r7", "startRestart", -1, "CipheringModeCommand-r7");
    return 0;
 }
 
-int asn1PE_UMTS_RLC_SizeExplicitList(rtxContext* ctx, const RLC_SizeExplicitList* pvalue)
+int asn1PE_UMTS_RLC_SequenceNumber(rtxContext* RT_RESTRICT ctx, RLC_SequenceNumber value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if ((uint64_t)value > 4095u) {
+      rtxErrAddStrParm(ctx, "RLC-SequenceNumber");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "RLC-SequenceNumber");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 4095);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-SequenceNumber");
+   return 0;
+}
+
+int asn1PE_UMTS_RB_ActivationTimeInfo(rtxContext* RT_RESTRICT ctx, const RB_ActivationTimeInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-ActivationTimeInfo");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-ActivationTimeInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-ActivationTimeInfo");
+   /* rlc-SequenceNumber */
+   if ((uint64_t)pvalue->rlc_SequenceNumber > 4095u) {
+      rtxErrAddStrParm(ctx, "RLC-SequenceNumber");
+      rtxErrAddUIntParm(ctx, pvalue->rlc_SequenceNumber);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RLC-SequenceNumber", "rlc-SequenceNumber", -1, "RB-ActivationTimeInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rlc_SequenceNumber, 0, 4095);
+   RT_CHECK(ctx, stat, "RLC-SequenceNumber", "rlc-SequenceNumber", -1, "RB-ActivationTimeInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_RB_ActivationTimeInfoList(rtxContext* RT_RESTRICT ctx, const RB_ActivationTimeInfoList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-ActivationTimeInfoList");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "RLC-SizeExplicitList");
    RT_SET_SIZE(ctx, 1, 32);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-ActivationTimeInfoList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "RLC-SizeInfo", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_RLC_SizeInfo(ctx, (const RLC_SizeInfo*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-ActivationTimeInfo", (int32_t)i, "RB-ActivationTimeInfoList");
+      stat = asn1PE_UMTS_RB_ActivationTimeInfo(ctx, (const RB_ActivationTimeInfo*)node->data);
+      RT_CHECK(ctx, stat, 0, "RB-ActivationTimeInfo", (int32_t)i, "RB-ActivationTimeInfoList");
    }
-   rtxCtxtPopTypeName(ctx);
+   return 0;
+}
+
+int asn1PE_UMTS_CipheringModeInfo(rtxContext* RT_RESTRICT ctx, const CipheringModeInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CipheringModeInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CipheringModeInfo");
+   /* cipheringModeCommand */
+   stat = asn1PE_UMTS_CipheringModeCommand(ctx, &pvalue->cipheringModeCommand);
+   RT_CHECK(ctx, stat, 0, "cipheringModeCommand", -1, "CipheringModeInfo");
+   /* activationTimeForDPCH */
+   if (pvalue->m & 0x1u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTimeForDPCH, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTimeForDPCH", -1, "CipheringModeInfo");
+   }
+   /* rb-DL-CiphActivationTimeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->rb_DL_CiphActivationTimeInfo);
+      RT_CHECK(ctx, stat, 0, "rb-DL-CiphActivationTimeInfo", -1, "CipheringModeInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CipheringModeInfo_r7(rtxContext* RT_RESTRICT ctx, const CipheringModeInfo_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CipheringModeInfo-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CipheringModeInfo-r7");
+   /* cipheringModeCommand */
+   stat = asn1PE_UMTS_CipheringModeCommand_r7(ctx, &pvalue->cipheringModeCommand);
+   RT_CHECK(ctx, stat, 0, "cipheringModeCommand", -1, "CipheringModeInfo-r7");
+   /* activationTimeForDPCH */
+   if (pvalue->m & 0x1u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTimeForDPCH, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTimeForDPCH", -1, "CipheringModeInfo-r7");
+   }
+   /* rb-DL-CiphActivationTimeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->rb_DL_CiphActivationTimeInfo);
+      RT_CHECK(ctx, stat, 0, "rb-DL-CiphActivationTimeInfo", -1, "CipheringModeInfo-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IMSI_DS_41(rtxContext* RT_RESTRICT ctx, const IMSI_DS_41* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IMSI-DS-41");
+   RT_SET_SIZE(ctx, 5, 7);
+   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IMSI-DS-41");
+   return 0;
+}
+
+int asn1PE_UMTS_TMSI_DS_41(rtxContext* RT_RESTRICT ctx, const TMSI_DS_41* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TMSI-DS-41");
+   RT_SET_SIZE(ctx, 2, 17);
+   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TMSI-DS-41");
+   return 0;
+}
+
+int asn1PE_UMTS_CN_PagedUE_Identity(rtxContext* RT_RESTRICT ctx, const CN_PagedUE_Identity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CN-PagedUE-Identity");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
+   RT_CHECK(ctx, stat, 0, "t", -1, "CN-PagedUE-Identity");
+   if (pvalue->t - 1 > 7) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CN-PagedUE-Identity");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.imsi_GSM_MAP == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "imsi-GSM-MAP", -1, "CN-PagedUE-Identity");
+         stat = asn1PE_UMTS_IMSI_GSM_MAP(ctx, pvalue->u.imsi_GSM_MAP);
+         RT_CHECK(ctx, stat, 0, "imsi-GSM-MAP", -1, "CN-PagedUE-Identity");
+         break;
+      case 2:
+         if (pvalue->u.tmsi_GSM_MAP == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tmsi-GSM-MAP", -1, "CN-PagedUE-Identity");
+         stat = asn1PE_UMTS_TMSI_GSM_MAP(ctx, *pvalue->u.tmsi_GSM_MAP);
+         RT_CHECK(ctx, stat, 0, "tmsi-GSM-MAP", -1, "CN-PagedUE-Identity");
+         break;
+      case 3:
+         if (pvalue->u.p_TMSI_GSM_MAP == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "p-TMSI-GSM-MAP", -1, "CN-PagedUE-Identity");
+         stat = asn1PE_UMTS_P_TMSI_GSM_MAP(ctx, *pvalue->u.p_TMSI_GSM_MAP);
+         RT_CHECK(ctx, stat, 0, "p-TMSI-GSM-MAP", -1, "CN-PagedUE-Identity");
+         break;
+      case 4:
+         if (pvalue->u.imsi_DS_41 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "imsi-DS-41", -1, "CN-PagedUE-Identity");
+         stat = asn1PE_UMTS_IMSI_DS_41(ctx, pvalue->u.imsi_DS_41);
+         RT_CHECK(ctx, stat, 0, "imsi-DS-41", -1, "CN-PagedUE-Identity");
+         break;
+      case 5:
+         if (pvalue->u.tmsi_DS_41 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tmsi-DS-41", -1, "CN-PagedUE-Identity");
+         stat = asn1PE_UMTS_TMSI_DS_41(ctx, pvalue->u.tmsi_DS_41);
+         RT_CHECK(ctx, stat, 0, "tmsi-DS-41", -1, "CN-PagedUE-Identity");
+         break;
+      case 6:
+         break;
+      case 7:
+         break;
+      case 8:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GSM_Measurements(rtxContext* RT_RESTRICT ctx, const GSM_Measurements* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GSM-Measurements");
+   /* gsm900 */
+   stat = rtxEncBit(ctx, pvalue->gsm900);
+   RT_CHECK(ctx, stat, 0, "gsm900", -1, "GSM-Measurements");
+   /* dcs1800 */
+   stat = rtxEncBit(ctx, pvalue->dcs1800);
+   RT_CHECK(ctx, stat, 0, "dcs1800", -1, "GSM-Measurements");
+   /* gsm1900 */
+   stat = rtxEncBit(ctx, pvalue->gsm1900);
+   RT_CHECK(ctx, stat, 0, "gsm1900", -1, "GSM-Measurements");
+   return 0;
+}
+
+int asn1PE_UMTS_CompressedModeMeasCapability(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapability");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CompressedModeMeasCapability");
+   /* fdd-Measurements */
+   stat = rtxEncBit(ctx, pvalue->fdd_Measurements);
+   RT_CHECK(ctx, stat, 0, "fdd-Measurements", -1, "CompressedModeMeasCapability");
+   /* tdd-Measurements */
+   if (pvalue->m & 0x1u) {
+      stat = rtxEncBit(ctx, pvalue->tdd_Measurements);
+      RT_CHECK(ctx, stat, 0, "tdd-Measurements", -1, "CompressedModeMeasCapability");
+   }
+   /* gsm-Measurements */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_GSM_Measurements(ctx, &pvalue->gsm_Measurements);
+      RT_CHECK(ctx, stat, 0, "gsm-Measurements", -1, "CompressedModeMeasCapability");
+   }
+   /* multiCarrierMeasurements */
+   if (pvalue->m & 0x4u) {
+      stat = rtxEncBit(ctx, pvalue->multiCarrierMeasurements);
+      RT_CHECK(ctx, stat, 0, "multiCarrierMeasurements", -1, "CompressedModeMeasCapability");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CompressedModeMeasCapability_LCR_r4(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapability_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapability-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CompressedModeMeasCapability-LCR-r4");
+   /* tdd128-Measurements */
+   if (pvalue->m & 0x1u) {
+      stat = rtxEncBit(ctx, pvalue->tdd128_Measurements);
+      RT_CHECK(ctx, stat, 0, "tdd128-Measurements", -1, "CompressedModeMeasCapability-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CompressedModeMeasCapability_v860ext_adjacentFrequencyMeasurements(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability_v860ext_adjacentFrequencyMeasurements value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CompressedModeMeasCapability_v860ext(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapability_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapability-v860ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CompressedModeMeasCapability-v860ext");
+   /* adjacentFrequencyMeasurements */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->adjacentFrequencyMeasurements > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->adjacentFrequencyMeasurements);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "adjacentFrequencyMeasurements", -1, "CompressedModeMeasCapability-v860ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->adjacentFrequencyMeasurements, 0, 0);
+      RT_CHECK(ctx, stat, 0, "adjacentFrequencyMeasurements", -1, "CompressedModeMeasCapability-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CompressedModeMeasCapability_v920ext_interBandMeasurements(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability_v920ext_interBandMeasurements value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CompressedModeMeasCapability_v920ext(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapability_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapability-v920ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CompressedModeMeasCapability-v920ext");
+   /* interBandMeasurements */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->interBandMeasurements > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->interBandMeasurements);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "interBandMeasurements", -1, "CompressedModeMeasCapability-v920ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->interBandMeasurements, 0, 0);
+      RT_CHECK(ctx, stat, 0, "interBandMeasurements", -1, "CompressedModeMeasCapability-v920ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioFrequencyBandEUTRA(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandEUTRA value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "RadioFrequencyBandEUTRA");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "RadioFrequencyBandEUTRA");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 64);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioFrequencyBandEUTRA");
+   return 0;
+}
+
+int asn1PE_UMTS_CompressedModeMeasCapabEUTRA(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabEUTRA* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabEUTRA");
+   /* radioFrequencyBandEUTRA */
+   if ((uint64_t)(pvalue->radioFrequencyBandEUTRA - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "RadioFrequencyBandEUTRA");
+      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandEUTRA);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RadioFrequencyBandEUTRA", "radioFrequencyBandEUTRA", -1, "CompressedModeMeasCapabEUTRA");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandEUTRA, 1, 64);
+   RT_CHECK(ctx, stat, "RadioFrequencyBandEUTRA", "radioFrequencyBandEUTRA", -1, "CompressedModeMeasCapabEUTRA");
+   /* compressedMode */
+   stat = rtxEncBit(ctx, pvalue->compressedMode);
+   RT_CHECK(ctx, stat, 0, "compressedMode", -1, "CompressedModeMeasCapabEUTRA");
+   return 0;
+}
+
+int asn1PE_UMTS_CompressedModeMeasCapabEUTRAList(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabEUTRAList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabEUTRAList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CompressedModeMeasCapabEUTRAList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CompressedModeMeasCapabEUTRA", (int32_t)i, "CompressedModeMeasCapabEUTRAList");
+      stat = asn1PE_UMTS_CompressedModeMeasCapabEUTRA(ctx, (const CompressedModeMeasCapabEUTRA*)node->data);
+      RT_CHECK(ctx, stat, 0, "CompressedModeMeasCapabEUTRA", (int32_t)i, "CompressedModeMeasCapabEUTRAList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CompressedModeMeasCapabFDD(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabFDD* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabFDD");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CompressedModeMeasCapabFDD");
+   /* radioFrequencyBandFDD */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->radioFrequencyBandFDD > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandFDD);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "CompressedModeMeasCapabFDD");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandFDD, 0, 7);
+      RT_CHECK(ctx, stat, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "CompressedModeMeasCapabFDD");
+   }
+   /* dl-MeasurementsFDD */
+   stat = rtxEncBit(ctx, pvalue->dl_MeasurementsFDD);
+   RT_CHECK(ctx, stat, 0, "dl-MeasurementsFDD", -1, "CompressedModeMeasCapabFDD");
+   /* ul-MeasurementsFDD */
+   stat = rtxEncBit(ctx, pvalue->ul_MeasurementsFDD);
+   RT_CHECK(ctx, stat, 0, "ul-MeasurementsFDD", -1, "CompressedModeMeasCapabFDD");
+   return 0;
+}
+
+int asn1PE_UMTS_CompressedModeMeasCapabFDDList(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabFDDList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabFDDList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CompressedModeMeasCapabFDDList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CompressedModeMeasCapabFDD", (int32_t)i, "CompressedModeMeasCapabFDDList");
+      stat = asn1PE_UMTS_CompressedModeMeasCapabFDD(ctx, (const CompressedModeMeasCapabFDD*)node->data);
+      RT_CHECK(ctx, stat, 0, "CompressedModeMeasCapabFDD", (int32_t)i, "CompressedModeMeasCapabFDDList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CompressedModeMeasCapabFDD2(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabFDD2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabFDD2");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CompressedModeMeasCapabFDD2");
+   /* radioFrequencyBandFDD */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->radioFrequencyBandFDD > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandFDD);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "CompressedModeMeasCapabFDD2");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandFDD, 0, 7);
+      RT_CHECK(ctx, stat, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "CompressedModeMeasCapabFDD2");
+   }
+   /* radioFrequencyBandFDD2 */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->radioFrequencyBandFDD2 > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandFDD2);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandFDD2", "radioFrequencyBandFDD2", -1, "CompressedModeMeasCapabFDD2");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandFDD2, 0, 15);
+      RT_CHECK(ctx, stat, "RadioFrequencyBandFDD2", "radioFrequencyBandFDD2", -1, "CompressedModeMeasCapabFDD2");
+   }
+   /* dl-MeasurementsFDD */
+   stat = rtxEncBit(ctx, pvalue->dl_MeasurementsFDD);
+   RT_CHECK(ctx, stat, 0, "dl-MeasurementsFDD", -1, "CompressedModeMeasCapabFDD2");
+   /* ul-MeasurementsFDD */
+   stat = rtxEncBit(ctx, pvalue->ul_MeasurementsFDD);
+   RT_CHECK(ctx, stat, 0, "ul-MeasurementsFDD", -1, "CompressedModeMeasCapabFDD2");
+   return 0;
+}
+
+int asn1PE_UMTS_CompressedModeMeasCapabFDDList2(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabFDDList2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabFDDList2");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CompressedModeMeasCapabFDDList2");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CompressedModeMeasCapabFDD2", (int32_t)i, "CompressedModeMeasCapabFDDList2");
+      stat = asn1PE_UMTS_CompressedModeMeasCapabFDD2(ctx, (const CompressedModeMeasCapabFDD2*)node->data);
+      RT_CHECK(ctx, stat, 0, "CompressedModeMeasCapabFDD2", (int32_t)i, "CompressedModeMeasCapabFDDList2");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CompressedModeMeasCapabFDD_ext(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabFDD_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabFDD-ext");
+   /* radioFrequencyBandFDD2 */
+   if (pvalue->radioFrequencyBandFDD2 > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandFDD2);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandFDD2", "radioFrequencyBandFDD2", -1, "CompressedModeMeasCapabFDD-ext");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandFDD2, 0, 15);
+   RT_CHECK(ctx, stat, "RadioFrequencyBandFDD2", "radioFrequencyBandFDD2", -1, "CompressedModeMeasCapabFDD-ext");
+   /* dl-MeasurementsFDD */
+   stat = rtxEncBit(ctx, pvalue->dl_MeasurementsFDD);
+   RT_CHECK(ctx, stat, 0, "dl-MeasurementsFDD", -1, "CompressedModeMeasCapabFDD-ext");
+   /* ul-MeasurementsFDD */
+   stat = rtxEncBit(ctx, pvalue->ul_MeasurementsFDD);
+   RT_CHECK(ctx, stat, 0, "ul-MeasurementsFDD", -1, "CompressedModeMeasCapabFDD-ext");
+   return 0;
+}
+
+int asn1PE_UMTS_CompressedModeMeasCapabFDDList_ext(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabFDDList_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabFDDList-ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CompressedModeMeasCapabFDDList-ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CompressedModeMeasCapabFDD-ext", (int32_t)i, "CompressedModeMeasCapabFDDList-ext");
+      stat = asn1PE_UMTS_CompressedModeMeasCapabFDD_ext(ctx, (const CompressedModeMeasCapabFDD_ext*)node->data);
+      RT_CHECK(ctx, stat, 0, "CompressedModeMeasCapabFDD-ext", (int32_t)i, "CompressedModeMeasCapabFDDList-ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioFrequencyBandTDD(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDD value)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "RadioFrequencyBandTDD");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioFrequencyBandTDD");
+   return 0;
+}
+
+int asn1PE_UMTS_CompressedModeMeasCapabTDD(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabTDD* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabTDD");
+   /* radioFrequencyBandTDD */
+   if (pvalue->radioFrequencyBandTDD > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandTDD);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandTDD", "radioFrequencyBandTDD", -1, "CompressedModeMeasCapabTDD");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandTDD, 0, 3);
+   RT_CHECK(ctx, stat, "RadioFrequencyBandTDD", "radioFrequencyBandTDD", -1, "CompressedModeMeasCapabTDD");
+   /* dl-MeasurementsTDD */
+   stat = rtxEncBit(ctx, pvalue->dl_MeasurementsTDD);
+   RT_CHECK(ctx, stat, 0, "dl-MeasurementsTDD", -1, "CompressedModeMeasCapabTDD");
+   /* ul-MeasurementsTDD */
+   stat = rtxEncBit(ctx, pvalue->ul_MeasurementsTDD);
+   RT_CHECK(ctx, stat, 0, "ul-MeasurementsTDD", -1, "CompressedModeMeasCapabTDD");
+   return 0;
+}
+
+int asn1PE_UMTS_CompressedModeMeasCapabTDDList(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabTDDList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabTDDList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CompressedModeMeasCapabTDDList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CompressedModeMeasCapabTDD", (int32_t)i, "CompressedModeMeasCapabTDDList");
+      stat = asn1PE_UMTS_CompressedModeMeasCapabTDD(ctx, (const CompressedModeMeasCapabTDD*)node->data);
+      RT_CHECK(ctx, stat, 0, "CompressedModeMeasCapabTDD", (int32_t)i, "CompressedModeMeasCapabTDDList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioFrequencyBandGSM(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandGSM value)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "RadioFrequencyBandGSM");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioFrequencyBandGSM");
+   return 0;
+}
+
+int asn1PE_UMTS_CompressedModeMeasCapabGSM(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabGSM* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabGSM");
+   /* radioFrequencyBandGSM */
+   if (pvalue->radioFrequencyBandGSM > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandGSM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandGSM", "radioFrequencyBandGSM", -1, "CompressedModeMeasCapabGSM");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandGSM, 0, 15);
+   RT_CHECK(ctx, stat, "RadioFrequencyBandGSM", "radioFrequencyBandGSM", -1, "CompressedModeMeasCapabGSM");
+   /* dl-MeasurementsGSM */
+   stat = rtxEncBit(ctx, pvalue->dl_MeasurementsGSM);
+   RT_CHECK(ctx, stat, 0, "dl-MeasurementsGSM", -1, "CompressedModeMeasCapabGSM");
+   /* ul-MeasurementsGSM */
+   stat = rtxEncBit(ctx, pvalue->ul_MeasurementsGSM);
+   RT_CHECK(ctx, stat, 0, "ul-MeasurementsGSM", -1, "CompressedModeMeasCapabGSM");
+   return 0;
+}
+
+int asn1PE_UMTS_CompressedModeMeasCapabGSMList(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabGSMList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabGSMList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CompressedModeMeasCapabGSMList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CompressedModeMeasCapabGSM", (int32_t)i, "CompressedModeMeasCapabGSMList");
+      stat = asn1PE_UMTS_CompressedModeMeasCapabGSM(ctx, (const CompressedModeMeasCapabGSM*)node->data);
+      RT_CHECK(ctx, stat, 0, "CompressedModeMeasCapabGSM", (int32_t)i, "CompressedModeMeasCapabGSMList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CompressedModeMeasCapabMC(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabMC* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabMC");
+   /* dl-MeasurementsMC */
+   stat = rtxEncBit(ctx, pvalue->dl_MeasurementsMC);
+   RT_CHECK(ctx, stat, 0, "dl-MeasurementsMC", -1, "CompressedModeMeasCapabMC");
+   /* ul-MeasurementsMC */
+   stat = rtxEncBit(ctx, pvalue->ul_MeasurementsMC);
+   RT_CHECK(ctx, stat, 0, "ul-MeasurementsMC", -1, "CompressedModeMeasCapabMC");
+   return 0;
+}
+
+int asn1PE_UMTS_NS_IP(rtxContext* RT_RESTRICT ctx, NS_IP value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 28u) {
+      rtxErrAddStrParm(ctx, "NS-IP");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "NS-IP");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 28);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NS-IP");
+   return 0;
+}
+
+int asn1PE_UMTS_InitialPriorityDelayList(rtxContext* RT_RESTRICT ctx, const InitialPriorityDelayList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InitialPriorityDelayList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "InitialPriorityDelayList");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 28u) {
+         rtxErrAddStrParm(ctx, "NS-IP");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "NS-IP", "NS-IP", (int32_t)i, "InitialPriorityDelayList");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 28);
+      RT_CHECK(ctx, stat, "NS-IP", "NS-IP", (int32_t)i, "InitialPriorityDelayList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCCH_BER(rtxContext* RT_RESTRICT ctx, DL_DPCCH_BER value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 63u) {
+      rtxErrAddStrParm(ctx, "DL-DPCCH-BER");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DL-DPCCH-BER");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 63);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-DPCCH-BER");
+   return 0;
+}
+
+int asn1PE_UMTS_CPCH_Parameters(rtxContext* RT_RESTRICT ctx, const CPCH_Parameters* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CPCH-Parameters");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CPCH-Parameters");
+   /* initialPriorityDelayList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InitialPriorityDelayList(ctx, &pvalue->initialPriorityDelayList);
+      RT_CHECK(ctx, stat, 0, "initialPriorityDelayList", -1, "CPCH-Parameters");
+   }
+   /* backoffControlParams */
+   stat = asn1PE_UMTS_BackoffControlParams(ctx, &pvalue->backoffControlParams);
+   RT_CHECK(ctx, stat, 0, "backoffControlParams", -1, "CPCH-Parameters");
+   /* powerControlAlgorithm */
+   stat = asn1PE_UMTS_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm);
+   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, "CPCH-Parameters");
+   /* dl-DPCCH-BER */
+   if ((uint64_t)pvalue->dl_DPCCH_BER > 63u) {
+      rtxErrAddStrParm(ctx, "DL-DPCCH-BER");
+      rtxErrAddUIntParm(ctx, pvalue->dl_DPCCH_BER);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "DL-DPCCH-BER", "dl-DPCCH-BER", -1, "CPCH-Parameters");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->dl_DPCCH_BER, 0, 63);
+   RT_CHECK(ctx, stat, "DL-DPCCH-BER", "dl-DPCCH-BER", -1, "CPCH-Parameters");
+   return 0;
+}
+
+int asn1PE_UMTS_CSG_ProximityIndicationCapability_supportOfIntraFreqProximityIndication(rtxContext* RT_RESTRICT ctx, CSG_ProximityIndicationCapability_supportOfIntraFreqProximityIndication value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CSG_ProximityIndicationCapability_supportOfInterFreqProximityIndication(rtxContext* RT_RESTRICT ctx, CSG_ProximityIndicationCapability_supportOfInterFreqProximityIndication value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CSG_ProximityIndicationCapability_supportOfE_UtraProximityIndication(rtxContext* RT_RESTRICT ctx, CSG_ProximityIndicationCapability_supportOfE_UtraProximityIndication value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CSG_ProximityIndicationCapability(rtxContext* RT_RESTRICT ctx, const CSG_ProximityIndicationCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CSG-ProximityIndicationCapability");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CSG-ProximityIndicationCapability");
+   /* supportOfIntraFreqProximityIndication */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportOfIntraFreqProximityIndication > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfIntraFreqProximityIndication);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfIntraFreqProximityIndication", -1, "CSG-ProximityIndicationCapability");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfIntraFreqProximityIndication, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportOfIntraFreqProximityIndication", -1, "CSG-ProximityIndicationCapability");
+   }
+   /* supportOfInterFreqProximityIndication */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->supportOfInterFreqProximityIndication > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfInterFreqProximityIndication);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfInterFreqProximityIndication", -1, "CSG-ProximityIndicationCapability");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfInterFreqProximityIndication, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportOfInterFreqProximityIndication", -1, "CSG-ProximityIndicationCapability");
+   }
+   /* supportOfE-UtraProximityIndication */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->supportOfE_UtraProximityIndication > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfE_UtraProximityIndication);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfE-UtraProximityIndication", -1, "CSG-ProximityIndicationCapability");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfE_UtraProximityIndication, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportOfE-UtraProximityIndication", -1, "CSG-ProximityIndicationCapability");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CapabilityWithSimultaneousHS_DSCHConfig(rtxContext* RT_RESTRICT ctx, DL_CapabilityWithSimultaneousHS_DSCHConfig value)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "DL-CapabilityWithSimultaneousHS-DSCHConfig");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CapabilityWithSimultaneousHS-DSCHConfig");
+   return 0;
+}
+
+int asn1PE_UMTS_DPCH_FrameOffset(rtxContext* RT_RESTRICT ctx, DPCH_FrameOffset value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 149u) {
+      rtxErrAddStrParm(ctx, "DPCH-FrameOffset");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DPCH-FrameOffset");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 149);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DPCH-FrameOffset");
+   return 0;
+}
+
+int asn1PE_UMTS_FDPCH_SlotFormat(rtxContext* RT_RESTRICT ctx, FDPCH_SlotFormat value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 9u) {
+      rtxErrAddStrParm(ctx, "FDPCH-SlotFormat");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "FDPCH-SlotFormat");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 9);
+   RT_CHECK(ctx, stat, 0, 0, -1, "FDPCH-SlotFormat");
+   return 0;
+}
+
+int asn1PE_UMTS_TPC_CombinationIndex(rtxContext* RT_RESTRICT ctx, TPC_CombinationIndex value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 5u) {
+      rtxErrAddStrParm(ctx, "TPC-CombinationIndex");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TPC-CombinationIndex");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TPC-CombinationIndex");
+   return 0;
+}
+
+int asn1PE_UMTS_STTDIndication(rtxContext* RT_RESTRICT ctx, STTDIndication value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "STTDIndication");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, "STTDIndication");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_FDPCH_InfoPerRL_r7(rtxContext* RT_RESTRICT ctx, const DL_FDPCH_InfoPerRL_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-FDPCH-InfoPerRL-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-FDPCH-InfoPerRL-r7");
+   /* pCPICH-UsageForChannelEst */
+   if (pvalue->pCPICH_UsageForChannelEst > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->pCPICH_UsageForChannelEst);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, "DL-FDPCH-InfoPerRL-r7");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->pCPICH_UsageForChannelEst, 0, 1);
+   RT_CHECK(ctx, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, "DL-FDPCH-InfoPerRL-r7");
+   /* fdpch-FrameOffset */
+   if ((uint64_t)pvalue->fdpch_FrameOffset > 149u) {
+      rtxErrAddStrParm(ctx, "DPCH-FrameOffset");
+      rtxErrAddUIntParm(ctx, pvalue->fdpch_FrameOffset);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "DPCH-FrameOffset", "fdpch-FrameOffset", -1, "DL-FDPCH-InfoPerRL-r7");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->fdpch_FrameOffset, 0, 149);
+   RT_CHECK(ctx, stat, "DPCH-FrameOffset", "fdpch-FrameOffset", -1, "DL-FDPCH-InfoPerRL-r7");
+   /* fdpch-SlotFormat */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->fdpch_SlotFormat > 9u) {
+         rtxErrAddStrParm(ctx, "FDPCH-SlotFormat");
+         rtxErrAddUIntParm(ctx, pvalue->fdpch_SlotFormat);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "FDPCH-SlotFormat", "fdpch-SlotFormat", -1, "DL-FDPCH-InfoPerRL-r7");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->fdpch_SlotFormat, 0, 9);
+      RT_CHECK(ctx, stat, "FDPCH-SlotFormat", "fdpch-SlotFormat", -1, "DL-FDPCH-InfoPerRL-r7");
+   }
+   /* secondaryCPICH-Info */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_SecondaryCPICH_Info(ctx, &pvalue->secondaryCPICH_Info);
+      RT_CHECK(ctx, stat, 0, "secondaryCPICH-Info", -1, "DL-FDPCH-InfoPerRL-r7");
+   }
+   /* secondaryScramblingCode */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)(pvalue->secondaryScramblingCode - 1) > 14u) {
+         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
+         rtxErrAddUIntParm(ctx, pvalue->secondaryScramblingCode);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "SecondaryScramblingCode", "secondaryScramblingCode", -1, "DL-FDPCH-InfoPerRL-r7");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->secondaryScramblingCode, 1, 15);
+      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, "DL-FDPCH-InfoPerRL-r7");
+   }
+   /* dl-ChannelisationCode */
+   stat = pe_ConsUInt64(ctx, pvalue->dl_ChannelisationCode, 0, 255);
+   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCode", -1, "DL-FDPCH-InfoPerRL-r7");
+   /* tpc-CombinationIndex */
+   if ((uint64_t)pvalue->tpc_CombinationIndex > 5u) {
+      rtxErrAddStrParm(ctx, "TPC-CombinationIndex");
+      rtxErrAddUIntParm(ctx, pvalue->tpc_CombinationIndex);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, "DL-FDPCH-InfoPerRL-r7");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->tpc_CombinationIndex, 0, 5);
+   RT_CHECK(ctx, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, "DL-FDPCH-InfoPerRL-r7");
+   /* sttdIndication */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->sttdIndication > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->sttdIndication);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "STTDIndication", "sttdIndication", -1, "DL-FDPCH-InfoPerRL-r7");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->sttdIndication, 0, 0);
+      RT_CHECK(ctx, stat, "STTDIndication", "sttdIndication", -1, "DL-FDPCH-InfoPerRL-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerSecondaryRL_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, const DL_InformationPerSecondaryRL_e_RGCH_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e-RGCH-Information", -1, 0);
+         stat = asn1PE_UMTS_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information);
+         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerSecondaryRL(rtxContext* RT_RESTRICT ctx, const DL_InformationPerSecondaryRL* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerSecondaryRL");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerSecondaryRL");
+   /* primaryCPICH-Info */
+   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "DL-InformationPerSecondaryRL");
+   /* cell-id */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->cell_id);
+      RT_CHECK(ctx, stat, 0, "cell-id", -1, "DL-InformationPerSecondaryRL");
+   }
+   /* dl-FDPCHInfoPerRL-SecULFreq */
+   stat = asn1PE_UMTS_DL_FDPCH_InfoPerRL_r7(ctx, &pvalue->dl_FDPCHInfoPerRL_SecULFreq);
+   RT_CHECK(ctx, stat, 0, "dl-FDPCHInfoPerRL-SecULFreq", -1, "DL-InformationPerSecondaryRL");
+   /* e-AGCH-Information */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_E_AGCH_Information(ctx, &pvalue->e_AGCH_Information);
+      RT_CHECK(ctx, stat, 0, "e-AGCH-Information", -1, "DL-InformationPerSecondaryRL");
+   }
+   /* e-HICH-Information */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_E_HICH_Information(ctx, &pvalue->e_HICH_Information);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "DL-InformationPerSecondaryRL");
+   }
+   /* e-RGCH-Info */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_DL_InformationPerSecondaryRL_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, "DL-InformationPerSecondaryRL");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerSecondaryRL_List(rtxContext* RT_RESTRICT ctx, const DL_InformationPerSecondaryRL_List* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerSecondaryRL-List");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-InformationPerSecondaryRL-List");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-InformationPerSecondaryRL", (int32_t)i, "DL-InformationPerSecondaryRL-List");
+      stat = asn1PE_UMTS_DL_InformationPerSecondaryRL(ctx, (const DL_InformationPerSecondaryRL*)node->data);
+      RT_CHECK(ctx, stat, 0, "DL-InformationPerSecondaryRL", (int32_t)i, "DL-InformationPerSecondaryRL-List");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MaxNoPhysChBitsReceived(rtxContext* RT_RESTRICT ctx, MaxNoPhysChBitsReceived value)
+{
+   int stat = 0;
+   if (value > 14) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxNoPhysChBitsReceived");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 14);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxNoPhysChBitsReceived");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxNoSCCPCH_RL(rtxContext* RT_RESTRICT ctx, MaxNoSCCPCH_RL value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxNoSCCPCH-RL");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxNoSCCPCH-RL");
+   return 0;
+}
+
+int asn1PE_UMTS_SimultaneousSCCPCH_DPCH_Reception_supported(rtxContext* RT_RESTRICT ctx, const SimultaneousSCCPCH_DPCH_Reception_supported* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* maxNoSCCPCH-RL */
+   if (pvalue->maxNoSCCPCH_RL > 0) {
+      rtxErrAddUIntParm(ctx, pvalue->maxNoSCCPCH_RL);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNoSCCPCH-RL", "maxNoSCCPCH-RL", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxNoSCCPCH_RL, 0, 0);
+   RT_CHECK(ctx, stat, "MaxNoSCCPCH-RL", "maxNoSCCPCH-RL", -1, 0);
+   /* simultaneousSCCPCH-DPCH-DPDCH-Reception */
+   stat = rtxEncBit(ctx, pvalue->simultaneousSCCPCH_DPCH_DPDCH_Reception);
+   RT_CHECK(ctx, stat, 0, "simultaneousSCCPCH-DPCH-DPDCH-Reception", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SimultaneousSCCPCH_DPCH_Reception(rtxContext* RT_RESTRICT ctx, const SimultaneousSCCPCH_DPCH_Reception* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SimultaneousSCCPCH-DPCH-Reception");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "SimultaneousSCCPCH-DPCH-Reception");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SimultaneousSCCPCH-DPCH-Reception");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "supported", -1, "SimultaneousSCCPCH-DPCH-Reception");
+         stat = asn1PE_UMTS_SimultaneousSCCPCH_DPCH_Reception_supported(ctx, pvalue->u.supported);
+         RT_CHECK(ctx, stat, 0, "supported", -1, "SimultaneousSCCPCH-DPCH-Reception");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityFDD(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityFDD* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-PhysChCapabilityFDD");
+   /* maxNoDPCH-PDSCH-Codes */
+   if ((uint64_t)(pvalue->maxNoDPCH_PDSCH_Codes - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "maxNoDPCH-PDSCH-Codes");
+      rtxErrAddUIntParm(ctx, pvalue->maxNoDPCH_PDSCH_Codes);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "maxNoDPCH-PDSCH-Codes", -1, "DL-PhysChCapabilityFDD");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxNoDPCH_PDSCH_Codes, 1, 8);
+   RT_CHECK(ctx, stat, 0, "maxNoDPCH-PDSCH-Codes", -1, "DL-PhysChCapabilityFDD");
+   /* maxNoPhysChBitsReceived */
+   if (pvalue->maxNoPhysChBitsReceived > 14) {
+      rtxErrAddUIntParm(ctx, pvalue->maxNoPhysChBitsReceived);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNoPhysChBitsReceived", "maxNoPhysChBitsReceived", -1, "DL-PhysChCapabilityFDD");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxNoPhysChBitsReceived, 0, 14);
+   RT_CHECK(ctx, stat, "MaxNoPhysChBitsReceived", "maxNoPhysChBitsReceived", -1, "DL-PhysChCapabilityFDD");
+   /* supportForSF-512 */
+   stat = rtxEncBit(ctx, pvalue->supportForSF_512);
+   RT_CHECK(ctx, stat, 0, "supportForSF-512", -1, "DL-PhysChCapabilityFDD");
+   /* dummy */
+   stat = rtxEncBit(ctx, pvalue->dummy);
+   RT_CHECK(ctx, stat, 0, "dummy", -1, "DL-PhysChCapabilityFDD");
+   /* dummy2 */
+   stat = asn1PE_UMTS_SimultaneousSCCPCH_DPCH_Reception(ctx, &pvalue->dummy2);
+   RT_CHECK(ctx, stat, 0, "dummy2", -1, "DL-PhysChCapabilityFDD");
+   return 0;
+}
+
+int asn1PE_UMTS_SupportOfDedicatedPilotsForChEstimation(rtxContext* RT_RESTRICT ctx, SupportOfDedicatedPilotsForChEstimation value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SupportOfDedicatedPilotsForChEstimation");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SupportOfDedicatedPilotsForChEstimation");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityFDD_v380ext(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityFDD_v380ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-PhysChCapabilityFDD-v380ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-PhysChCapabilityFDD-v380ext");
+   /* dummy */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->dummy > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->dummy);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "SupportOfDedicatedPilotsForChEstimation", "dummy", -1, "DL-PhysChCapabilityFDD-v380ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dummy, 0, 0);
+      RT_CHECK(ctx, stat, "SupportOfDedicatedPilotsForChEstimation", "dummy", -1, "DL-PhysChCapabilityFDD-v380ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HSDSCH_physical_layer_category_ext(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_ext value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 19u) {
+      rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category-ext");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "HSDSCH-physical-layer-category-ext");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 20);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HSDSCH-physical-layer-category-ext");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityFDD_v770ext_hsscchlessHsdschOperation(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_hsscchlessHsdschOperation value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityFDD_v770ext_enhancedFdpch(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_enhancedFdpch value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellFach(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellFach value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellUraPch(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellUraPch value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityFDD_v770ext(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityFDD_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-PhysChCapabilityFDD-v770ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-PhysChCapabilityFDD-v770ext");
+   /* hsdsch-physical-layer-category-ext */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->hsdsch_physical_layer_category_ext - 1) > 19u) {
+         rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category-ext");
+         rtxErrAddUIntParm(ctx, pvalue->hsdsch_physical_layer_category_ext);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category-ext", "hsdsch-physical-layer-category-ext", -1, "DL-PhysChCapabilityFDD-v770ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->hsdsch_physical_layer_category_ext, 1, 20);
+      RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category-ext", "hsdsch-physical-layer-category-ext", -1, "DL-PhysChCapabilityFDD-v770ext");
+   }
+   /* hsscchlessHsdschOperation */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->hsscchlessHsdschOperation > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->hsscchlessHsdschOperation);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "hsscchlessHsdschOperation", -1, "DL-PhysChCapabilityFDD-v770ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->hsscchlessHsdschOperation, 0, 0);
+      RT_CHECK(ctx, stat, 0, "hsscchlessHsdschOperation", -1, "DL-PhysChCapabilityFDD-v770ext");
+   }
+   /* enhancedFdpch */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->enhancedFdpch > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->enhancedFdpch);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "enhancedFdpch", -1, "DL-PhysChCapabilityFDD-v770ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->enhancedFdpch, 0, 0);
+      RT_CHECK(ctx, stat, 0, "enhancedFdpch", -1, "DL-PhysChCapabilityFDD-v770ext");
+   }
+   /* hsdschReception-CellFach */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->hsdschReception_CellFach > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->hsdschReception_CellFach);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "hsdschReception-CellFach", -1, "DL-PhysChCapabilityFDD-v770ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->hsdschReception_CellFach, 0, 0);
+      RT_CHECK(ctx, stat, 0, "hsdschReception-CellFach", -1, "DL-PhysChCapabilityFDD-v770ext");
+   }
+   /* hsdschReception-CellUraPch */
+   if (pvalue->m & 0x10u) {
+      if (pvalue->hsdschReception_CellUraPch > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->hsdschReception_CellUraPch);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "hsdschReception-CellUraPch", -1, "DL-PhysChCapabilityFDD-v770ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->hsdschReception_CellUraPch, 0, 0);
+      RT_CHECK(ctx, stat, 0, "hsdschReception-CellUraPch", -1, "DL-PhysChCapabilityFDD-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HSDSCH_physical_layer_category_ext2(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_ext2 value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 21) > 3u) {
+      rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category-ext2");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "HSDSCH-physical-layer-category-ext2");
+   }
+   stat = pe_ConsUInt64(ctx, value, 21, 24);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HSDSCH-physical-layer-category-ext2");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityFDD_v860ext_supportOfTargetCellPreConfig(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v860ext_supportOfTargetCellPreConfig value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityFDD_v860ext_supportOfHsdschDrxOperation(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v860ext_supportOfHsdschDrxOperation value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityFDD_v860ext(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityFDD_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-PhysChCapabilityFDD-v860ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-PhysChCapabilityFDD-v860ext");
+   /* hsdsch-physical-layer-category-ext2 */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->hsdsch_physical_layer_category_ext2 - 21) > 3u) {
+         rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category-ext2");
+         rtxErrAddUIntParm(ctx, pvalue->hsdsch_physical_layer_category_ext2);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category-ext2", "hsdsch-physical-layer-category-ext2", -1, "DL-PhysChCapabilityFDD-v860ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->hsdsch_physical_layer_category_ext2, 21, 24);
+      RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category-ext2", "hsdsch-physical-layer-category-ext2", -1, "DL-PhysChCapabilityFDD-v860ext");
+   }
+   /* supportOfTargetCellPreConfig */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->supportOfTargetCellPreConfig > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfTargetCellPreConfig);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfTargetCellPreConfig", -1, "DL-PhysChCapabilityFDD-v860ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfTargetCellPreConfig, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportOfTargetCellPreConfig", -1, "DL-PhysChCapabilityFDD-v860ext");
+   }
+   /* supportOfHsdschDrxOperation */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->supportOfHsdschDrxOperation > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfHsdschDrxOperation);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfHsdschDrxOperation", -1, "DL-PhysChCapabilityFDD-v860ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfHsdschDrxOperation, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportOfHsdschDrxOperation", -1, "DL-PhysChCapabilityFDD-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HSDSCH_physical_layer_category_ext3(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_ext3 value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 25) > 3u) {
+      rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category-ext3");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "HSDSCH-physical-layer-category-ext3");
+   }
+   stat = pe_ConsUInt64(ctx, value, 25, 28);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HSDSCH-physical-layer-category-ext3");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityFDD_v920ext_supportOfMimoOnlySingleStream(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v920ext_supportOfMimoOnlySingleStream value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityFDD_v920ext(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityFDD_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-PhysChCapabilityFDD-v920ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-PhysChCapabilityFDD-v920ext");
+   /* hsdsch-physical-layer-category-ext3 */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->hsdsch_physical_layer_category_ext3 - 25) > 3u) {
+         rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category-ext3");
+         rtxErrAddUIntParm(ctx, pvalue->hsdsch_physical_layer_category_ext3);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category-ext3", "hsdsch-physical-layer-category-ext3", -1, "DL-PhysChCapabilityFDD-v920ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->hsdsch_physical_layer_category_ext3, 25, 28);
+      RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category-ext3", "hsdsch-physical-layer-category-ext3", -1, "DL-PhysChCapabilityFDD-v920ext");
+   }
+   /* supportOfMimoOnlySingleStream */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->supportOfMimoOnlySingleStream > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfMimoOnlySingleStream);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfMimoOnlySingleStream", -1, "DL-PhysChCapabilityFDD-v920ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfMimoOnlySingleStream, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportOfMimoOnlySingleStream", -1, "DL-PhysChCapabilityFDD-v920ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MaxTS_PerFrame(rtxContext* RT_RESTRICT ctx, MaxTS_PerFrame value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 13u) {
+      rtxErrAddStrParm(ctx, "MaxTS-PerFrame");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MaxTS-PerFrame");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 14);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxTS-PerFrame");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxPhysChPerFrame(rtxContext* RT_RESTRICT ctx, MaxPhysChPerFrame value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 223u) {
+      rtxErrAddStrParm(ctx, "MaxPhysChPerFrame");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MaxPhysChPerFrame");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 224);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxPhysChPerFrame");
+   return 0;
+}
+
+int asn1PE_UMTS_MinimumSF_DL(rtxContext* RT_RESTRICT ctx, MinimumSF_DL value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MinimumSF-DL");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MinimumSF-DL");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxPhysChPerTS(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTS value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "MaxPhysChPerTS");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MaxPhysChPerTS");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 16);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxPhysChPerTS");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityTDD(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityTDD* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-PhysChCapabilityTDD");
+   /* maxTS-PerFrame */
+   if ((uint64_t)(pvalue->maxTS_PerFrame - 1) > 13u) {
+      rtxErrAddStrParm(ctx, "MaxTS-PerFrame");
+      rtxErrAddUIntParm(ctx, pvalue->maxTS_PerFrame);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "DL-PhysChCapabilityTDD");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxTS_PerFrame, 1, 14);
+   RT_CHECK(ctx, stat, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "DL-PhysChCapabilityTDD");
+   /* maxPhysChPerFrame */
+   if ((uint64_t)(pvalue->maxPhysChPerFrame - 1) > 223u) {
+      rtxErrAddStrParm(ctx, "MaxPhysChPerFrame");
+      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerFrame);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxPhysChPerFrame", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityTDD");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerFrame, 1, 224);
+   RT_CHECK(ctx, stat, "MaxPhysChPerFrame", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityTDD");
+   /* minimumSF */
+   if (pvalue->minimumSF > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->minimumSF);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MinimumSF-DL", "minimumSF", -1, "DL-PhysChCapabilityTDD");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->minimumSF, 0, 1);
+   RT_CHECK(ctx, stat, "MinimumSF-DL", "minimumSF", -1, "DL-PhysChCapabilityTDD");
+   /* supportOfPDSCH */
+   stat = rtxEncBit(ctx, pvalue->supportOfPDSCH);
+   RT_CHECK(ctx, stat, 0, "supportOfPDSCH", -1, "DL-PhysChCapabilityTDD");
+   /* maxPhysChPerTS */
+   if ((uint64_t)(pvalue->maxPhysChPerTS - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "MaxPhysChPerTS");
+      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerTS);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxPhysChPerTS", "maxPhysChPerTS", -1, "DL-PhysChCapabilityTDD");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerTS, 1, 16);
+   RT_CHECK(ctx, stat, "MaxPhysChPerTS", "maxPhysChPerTS", -1, "DL-PhysChCapabilityTDD");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxTS_PerSubFrame_r4(rtxContext* RT_RESTRICT ctx, MaxTS_PerSubFrame_r4 value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 5u) {
+      rtxErrAddStrParm(ctx, "MaxTS-PerSubFrame-r4");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MaxTS-PerSubFrame-r4");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxTS-PerSubFrame-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxPhysChPerSubFrame_r4(rtxContext* RT_RESTRICT ctx, MaxPhysChPerSubFrame_r4 value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 95u) {
+      rtxErrAddStrParm(ctx, "MaxPhysChPerSubFrame-r4");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MaxPhysChPerSubFrame-r4");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 96);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxPhysChPerSubFrame-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityTDD_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-PhysChCapabilityTDD-LCR-r4");
+   /* maxTS-PerSubFrame */
+   if ((uint64_t)(pvalue->maxTS_PerSubFrame - 1) > 5u) {
+      rtxErrAddStrParm(ctx, "MaxTS-PerSubFrame-r4");
+      rtxErrAddUIntParm(ctx, pvalue->maxTS_PerSubFrame);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxTS-PerSubFrame-r4", "maxTS-PerSubFrame", -1, "DL-PhysChCapabilityTDD-LCR-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxTS_PerSubFrame, 1, 6);
+   RT_CHECK(ctx, stat, "MaxTS-PerSubFrame-r4", "maxTS-PerSubFrame", -1, "DL-PhysChCapabilityTDD-LCR-r4");
+   /* maxPhysChPerFrame */
+   if ((uint64_t)(pvalue->maxPhysChPerFrame - 1) > 95u) {
+      rtxErrAddStrParm(ctx, "MaxPhysChPerSubFrame-r4");
+      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerFrame);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxPhysChPerSubFrame-r4", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityTDD-LCR-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerFrame, 1, 96);
+   RT_CHECK(ctx, stat, "MaxPhysChPerSubFrame-r4", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityTDD-LCR-r4");
+   /* minimumSF */
+   if (pvalue->minimumSF > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->minimumSF);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MinimumSF-DL", "minimumSF", -1, "DL-PhysChCapabilityTDD-LCR-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->minimumSF, 0, 1);
+   RT_CHECK(ctx, stat, "MinimumSF-DL", "minimumSF", -1, "DL-PhysChCapabilityTDD-LCR-r4");
+   /* supportOfPDSCH */
+   stat = rtxEncBit(ctx, pvalue->supportOfPDSCH);
+   RT_CHECK(ctx, stat, 0, "supportOfPDSCH", -1, "DL-PhysChCapabilityTDD-LCR-r4");
+   /* maxPhysChPerTS */
+   if ((uint64_t)(pvalue->maxPhysChPerTS - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "MaxPhysChPerTS");
+      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerTS);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxPhysChPerTS", "maxPhysChPerTS", -1, "DL-PhysChCapabilityTDD-LCR-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerTS, 1, 16);
+   RT_CHECK(ctx, stat, "MaxPhysChPerTS", "maxPhysChPerTS", -1, "DL-PhysChCapabilityTDD-LCR-r4");
+   /* supportOf8PSK */
+   stat = rtxEncBit(ctx, pvalue->supportOf8PSK);
+   RT_CHECK(ctx, stat, 0, "supportOf8PSK", -1, "DL-PhysChCapabilityTDD-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_MultiCarrier_HSDSCH_physical_layer_category(rtxContext* RT_RESTRICT ctx, MultiCarrier_HSDSCH_physical_layer_category value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "MultiCarrier-HSDSCH-physical-layer-category");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MultiCarrier-HSDSCH-physical-layer-category");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 64);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MultiCarrier-HSDSCH-physical-layer-category");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityTDD_128_v770ext(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityTDD_128_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-PhysChCapabilityTDD-128-v770ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-PhysChCapabilityTDD-128-v770ext");
+   /* multiCarrier-physical-layer-category */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->multiCarrier_physical_layer_category - 1) > 63u) {
+         rtxErrAddStrParm(ctx, "MultiCarrier-HSDSCH-physical-layer-category");
+         rtxErrAddUIntParm(ctx, pvalue->multiCarrier_physical_layer_category);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MultiCarrier-HSDSCH-physical-layer-category", "multiCarrier-physical-layer-category", -1, "DL-PhysChCapabilityTDD-128-v770ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->multiCarrier_physical_layer_category, 1, 64);
+      RT_CHECK(ctx, stat, "MultiCarrier-HSDSCH-physical-layer-category", "multiCarrier-physical-layer-category", -1, "DL-PhysChCapabilityTDD-128-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HSDSCH_physical_layer_category_extension(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_extension value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category-extension");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "HSDSCH-physical-layer-category-extension");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 64);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HSDSCH-physical-layer-category-extension");
+   return 0;
+}
+
+int asn1PE_UMTS_MultiCarrier_HSDSCH_physical_layer_category_extension(rtxContext* RT_RESTRICT ctx, MultiCarrier_HSDSCH_physical_layer_category_extension value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 35u) {
+      rtxErrAddStrParm(ctx, "MultiCarrier-HSDSCH-physical-layer-category-extension");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MultiCarrier-HSDSCH-physical-layer-category-extension");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 36);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MultiCarrier-HSDSCH-physical-layer-category-extension");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityTDD_128_v860ext_supportOfSFModeForHSPDSCHDualStream(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_128_v860ext_supportOfSFModeForHSPDSCHDualStream value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityTDD_128_v860ext(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityTDD_128_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-PhysChCapabilityTDD-128-v860ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-PhysChCapabilityTDD-128-v860ext");
+   /* hSDSCH-physical-layer-category-extension */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->hSDSCH_physical_layer_category_extension - 1) > 63u) {
+         rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category-extension");
+         rtxErrAddUIntParm(ctx, pvalue->hSDSCH_physical_layer_category_extension);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category-extension", "hSDSCH-physical-layer-category-extension", -1, "DL-PhysChCapabilityTDD-128-v860ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->hSDSCH_physical_layer_category_extension, 1, 64);
+      RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category-extension", "hSDSCH-physical-layer-category-extension", -1, "DL-PhysChCapabilityTDD-128-v860ext");
+   }
+   /* multiCarrier-physical-layer-category-extension */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)(pvalue->multiCarrier_physical_layer_category_extension - 1) > 35u) {
+         rtxErrAddStrParm(ctx, "MultiCarrier-HSDSCH-physical-layer-category-extension");
+         rtxErrAddUIntParm(ctx, pvalue->multiCarrier_physical_layer_category_extension);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MultiCarrier-HSDSCH-physical-layer-category-extension", "multiCarrier-physical-layer-category-extension", -1, "DL-PhysChCapabilityTDD-128-v860ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->multiCarrier_physical_layer_category_extension, 1, 36);
+      RT_CHECK(ctx, stat, "MultiCarrier-HSDSCH-physical-layer-category-extension", "multiCarrier-physical-layer-category-extension", -1, "DL-PhysChCapabilityTDD-128-v860ext");
+   }
+   /* supportOfSFModeForHSPDSCHDualStream */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->supportOfSFModeForHSPDSCHDualStream > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfSFModeForHSPDSCHDualStream);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfSFModeForHSPDSCHDualStream", -1, "DL-PhysChCapabilityTDD-128-v860ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfSFModeForHSPDSCHDualStream, 0, 1);
+      RT_CHECK(ctx, stat, 0, "supportOfSFModeForHSPDSCHDualStream", -1, "DL-PhysChCapabilityTDD-128-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MaxPhysChPerFrame_768(rtxContext* RT_RESTRICT ctx, MaxPhysChPerFrame_768 value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 447u) {
+      rtxErrAddStrParm(ctx, "MaxPhysChPerFrame-768");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MaxPhysChPerFrame-768");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 448);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxPhysChPerFrame-768");
+   return 0;
+}
+
+int asn1PE_UMTS_MinimumSF_DL_768(rtxContext* RT_RESTRICT ctx, MinimumSF_DL_768 value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MinimumSF-DL-768");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MinimumSF-DL-768");
+   return 0;
+}
+
+int asn1PE_UMTS_HSDSCH_physical_layer_category(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "HSDSCH-physical-layer-category");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 64);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HSDSCH-physical-layer-category");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityTDD_768_tdd768_hspdsch(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityTDD_768_tdd768_hspdsch* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)(pvalue->u.supported - 1) > 63u) {
+            rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category");
+            rtxErrAddUIntParm(ctx, pvalue->u.supported);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category", "supported", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.supported, 1, 64);
+         RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category", "supported", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MaxPhysChPerTS_768(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTS_768 value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "MaxPhysChPerTS-768");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MaxPhysChPerTS-768");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxPhysChPerTS-768");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityTDD_768(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityTDD_768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-PhysChCapabilityTDD-768");
+   /* maxTS-PerFrame */
+   if ((uint64_t)(pvalue->maxTS_PerFrame - 1) > 13u) {
+      rtxErrAddStrParm(ctx, "MaxTS-PerFrame");
+      rtxErrAddUIntParm(ctx, pvalue->maxTS_PerFrame);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "DL-PhysChCapabilityTDD-768");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxTS_PerFrame, 1, 14);
+   RT_CHECK(ctx, stat, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "DL-PhysChCapabilityTDD-768");
+   /* maxPhysChPerFrame */
+   if ((uint64_t)(pvalue->maxPhysChPerFrame - 1) > 447u) {
+      rtxErrAddStrParm(ctx, "MaxPhysChPerFrame-768");
+      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerFrame);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxPhysChPerFrame-768", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityTDD-768");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerFrame, 1, 448);
+   RT_CHECK(ctx, stat, "MaxPhysChPerFrame-768", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityTDD-768");
+   /* minimumSF */
+   if (pvalue->minimumSF > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->minimumSF);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MinimumSF-DL-768", "minimumSF", -1, "DL-PhysChCapabilityTDD-768");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->minimumSF, 0, 1);
+   RT_CHECK(ctx, stat, "MinimumSF-DL-768", "minimumSF", -1, "DL-PhysChCapabilityTDD-768");
+   /* supportOfPDSCH */
+   stat = rtxEncBit(ctx, pvalue->supportOfPDSCH);
+   RT_CHECK(ctx, stat, 0, "supportOfPDSCH", -1, "DL-PhysChCapabilityTDD-768");
+   /* tdd768-hspdsch */
+   stat = asn1PE_UMTS_DL_PhysChCapabilityTDD_768_tdd768_hspdsch(ctx, &pvalue->tdd768_hspdsch);
+   RT_CHECK(ctx, stat, 0, "tdd768-hspdsch", -1, "DL-PhysChCapabilityTDD-768");
+   /* maxPhysChPerTS */
+   if ((uint64_t)(pvalue->maxPhysChPerTS - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "MaxPhysChPerTS-768");
+      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerTS);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxPhysChPerTS-768", "maxPhysChPerTS", -1, "DL-PhysChCapabilityTDD-768");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerTS, 1, 32);
+   RT_CHECK(ctx, stat, "MaxPhysChPerTS-768", "maxPhysChPerTS", -1, "DL-PhysChCapabilityTDD-768");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityInfoTDD_768(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityInfoTDD_768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-PhysChCapabilityInfoTDD-768");
+   /* maxTS-PerFrame */
+   if ((uint64_t)(pvalue->maxTS_PerFrame - 1) > 13u) {
+      rtxErrAddStrParm(ctx, "MaxTS-PerFrame");
+      rtxErrAddUIntParm(ctx, pvalue->maxTS_PerFrame);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "DL-PhysChCapabilityInfoTDD-768");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxTS_PerFrame, 1, 14);
+   RT_CHECK(ctx, stat, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "DL-PhysChCapabilityInfoTDD-768");
+   /* maxPhysChPerFrame */
+   if ((uint64_t)(pvalue->maxPhysChPerFrame - 1) > 447u) {
+      rtxErrAddStrParm(ctx, "MaxPhysChPerFrame-768");
+      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerFrame);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxPhysChPerFrame-768", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityInfoTDD-768");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerFrame, 1, 448);
+   RT_CHECK(ctx, stat, "MaxPhysChPerFrame-768", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityInfoTDD-768");
+   /* minimumSF */
+   if (pvalue->minimumSF > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->minimumSF);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MinimumSF-DL-768", "minimumSF", -1, "DL-PhysChCapabilityInfoTDD-768");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->minimumSF, 0, 1);
+   RT_CHECK(ctx, stat, "MinimumSF-DL-768", "minimumSF", -1, "DL-PhysChCapabilityInfoTDD-768");
+   /* supportOfPDSCH */
+   stat = rtxEncBit(ctx, pvalue->supportOfPDSCH);
+   RT_CHECK(ctx, stat, 0, "supportOfPDSCH", -1, "DL-PhysChCapabilityInfoTDD-768");
+   /* maxPhysChPerTS */
+   if ((uint64_t)(pvalue->maxPhysChPerTS - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "MaxPhysChPerTS-768");
+      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerTS);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxPhysChPerTS-768", "maxPhysChPerTS", -1, "DL-PhysChCapabilityInfoTDD-768");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerTS, 1, 32);
+   RT_CHECK(ctx, stat, "MaxPhysChPerTS-768", "maxPhysChPerTS", -1, "DL-PhysChCapabilityInfoTDD-768");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxNoBits(rtxContext* RT_RESTRICT ctx, MaxNoBits value)
+{
+   int stat = 0;
+   if (value > 12) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxNoBits");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 12);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxNoBits");
+   return 0;
+}
+
+int asn1PE_UMTS_TurboSupport(rtxContext* RT_RESTRICT ctx, const TurboSupport* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TurboSupport");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "TurboSupport");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TurboSupport");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.supported > 12) {
+            rtxErrAddUIntParm(ctx, pvalue->u.supported);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNoBits", "supported", -1, "TurboSupport");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.supported, 0, 12);
+         RT_CHECK(ctx, stat, "MaxNoBits", "supported", -1, "TurboSupport");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MaxSimultaneousTransChsDL(rtxContext* RT_RESTRICT ctx, MaxSimultaneousTransChsDL value)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxSimultaneousTransChsDL");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxSimultaneousTransChsDL");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxSimultaneousCCTrCH_Count(rtxContext* RT_RESTRICT ctx, MaxSimultaneousCCTrCH_Count value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "MaxSimultaneousCCTrCH-Count");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MaxSimultaneousCCTrCH-Count");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxSimultaneousCCTrCH-Count");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxTransportBlocksDL(rtxContext* RT_RESTRICT ctx, MaxTransportBlocksDL value)
+{
+   int stat = 0;
+   if (value > 9) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxTransportBlocksDL");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 9);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxTransportBlocksDL");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxNumberOfTFC_DL(rtxContext* RT_RESTRICT ctx, MaxNumberOfTFC_DL value)
+{
+   int stat = 0;
+   if (value > 8) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxNumberOfTFC-DL");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxNumberOfTFC-DL");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxNumberOfTF(rtxContext* RT_RESTRICT ctx, MaxNumberOfTF value)
+{
+   int stat = 0;
+   if (value > 5) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxNumberOfTF");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxNumberOfTF");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_TransChCapability(rtxContext* RT_RESTRICT ctx, const DL_TransChCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-TransChCapability");
+   /* maxNoBitsReceived */
+   if (pvalue->maxNoBitsReceived > 12) {
+      rtxErrAddUIntParm(ctx, pvalue->maxNoBitsReceived);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNoBits", "maxNoBitsReceived", -1, "DL-TransChCapability");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxNoBitsReceived, 0, 12);
+   RT_CHECK(ctx, stat, "MaxNoBits", "maxNoBitsReceived", -1, "DL-TransChCapability");
+   /* maxConvCodeBitsReceived */
+   if (pvalue->maxConvCodeBitsReceived > 12) {
+      rtxErrAddUIntParm(ctx, pvalue->maxConvCodeBitsReceived);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNoBits", "maxConvCodeBitsReceived", -1, "DL-TransChCapability");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxConvCodeBitsReceived, 0, 12);
+   RT_CHECK(ctx, stat, "MaxNoBits", "maxConvCodeBitsReceived", -1, "DL-TransChCapability");
+   /* turboDecodingSupport */
+   stat = asn1PE_UMTS_TurboSupport(ctx, &pvalue->turboDecodingSupport);
+   RT_CHECK(ctx, stat, 0, "turboDecodingSupport", -1, "DL-TransChCapability");
+   /* maxSimultaneousTransChs */
+   if (pvalue->maxSimultaneousTransChs > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->maxSimultaneousTransChs);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxSimultaneousTransChsDL", "maxSimultaneousTransChs", -1, "DL-TransChCapability");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxSimultaneousTransChs, 0, 3);
+   RT_CHECK(ctx, stat, "MaxSimultaneousTransChsDL", "maxSimultaneousTransChs", -1, "DL-TransChCapability");
+   /* maxSimultaneousCCTrCH-Count */
+   if ((uint64_t)(pvalue->maxSimultaneousCCTrCH_Count - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "MaxSimultaneousCCTrCH-Count");
+      rtxErrAddUIntParm(ctx, pvalue->maxSimultaneousCCTrCH_Count);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxSimultaneousCCTrCH-Count", "maxSimultaneousCCTrCH-Count", -1, "DL-TransChCapability");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxSimultaneousCCTrCH_Count, 1, 8);
+   RT_CHECK(ctx, stat, "MaxSimultaneousCCTrCH-Count", "maxSimultaneousCCTrCH-Count", -1, "DL-TransChCapability");
+   /* maxReceivedTransportBlocks */
+   if (pvalue->maxReceivedTransportBlocks > 9) {
+      rtxErrAddUIntParm(ctx, pvalue->maxReceivedTransportBlocks);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxTransportBlocksDL", "maxReceivedTransportBlocks", -1, "DL-TransChCapability");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxReceivedTransportBlocks, 0, 9);
+   RT_CHECK(ctx, stat, "MaxTransportBlocksDL", "maxReceivedTransportBlocks", -1, "DL-TransChCapability");
+   /* maxNumberOfTFC */
+   if (pvalue->maxNumberOfTFC > 8) {
+      rtxErrAddUIntParm(ctx, pvalue->maxNumberOfTFC);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNumberOfTFC-DL", "maxNumberOfTFC", -1, "DL-TransChCapability");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxNumberOfTFC, 0, 8);
+   RT_CHECK(ctx, stat, "MaxNumberOfTFC-DL", "maxNumberOfTFC", -1, "DL-TransChCapability");
+   /* maxNumberOfTF */
+   if (pvalue->maxNumberOfTF > 5) {
+      rtxErrAddUIntParm(ctx, pvalue->maxNumberOfTF);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNumberOfTF", "maxNumberOfTF", -1, "DL-TransChCapability");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxNumberOfTF, 0, 5);
+   RT_CHECK(ctx, stat, "MaxNumberOfTF", "maxNumberOfTF", -1, "DL-TransChCapability");
+   return 0;
+}
+
+int asn1PE_UMTS_TransmissionProbability(rtxContext* RT_RESTRICT ctx, TransmissionProbability value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "TransmissionProbability");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TransmissionProbability");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransmissionProbability");
+   return 0;
+}
+
+int asn1PE_UMTS_MaximumBitRate(rtxContext* RT_RESTRICT ctx, MaximumBitRate value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 32u) {
+      rtxErrAddStrParm(ctx, "MaximumBitRate");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MaximumBitRate");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaximumBitRate");
+   return 0;
+}
+
+int asn1PE_UMTS_DRAC_SysInfo(rtxContext* RT_RESTRICT ctx, const DRAC_SysInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DRAC-SysInfo");
+   /* transmissionProbability */
+   if ((uint64_t)(pvalue->transmissionProbability - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "TransmissionProbability");
+      rtxErrAddUIntParm(ctx, pvalue->transmissionProbability);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransmissionProbability", "transmissionProbability", -1, "DRAC-SysInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->transmissionProbability, 1, 8);
+   RT_CHECK(ctx, stat, "TransmissionProbability", "transmissionProbability", -1, "DRAC-SysInfo");
+   /* maximumBitRate */
+   if ((uint64_t)pvalue->maximumBitRate > 32u) {
+      rtxErrAddStrParm(ctx, "MaximumBitRate");
+      rtxErrAddUIntParm(ctx, pvalue->maximumBitRate);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaximumBitRate", "maximumBitRate", -1, "DRAC-SysInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maximumBitRate, 0, 32);
+   RT_CHECK(ctx, stat, "MaximumBitRate", "maximumBitRate", -1, "DRAC-SysInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_DRAC_SysInfoList(rtxContext* RT_RESTRICT ctx, const DRAC_SysInfoList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DRAC-SysInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DRAC-SysInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DRAC-SysInfo", (int32_t)i, "DRAC-SysInfoList");
+      stat = asn1PE_UMTS_DRAC_SysInfo(ctx, (const DRAC_SysInfo*)node->data);
+      RT_CHECK(ctx, stat, 0, "DRAC-SysInfo", (int32_t)i, "DRAC-SysInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DSCH_RNTI(rtxContext* RT_RESTRICT ctx, DSCH_RNTI value)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &value, 16, 16);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DSCH-RNTI");
+   return 0;
+}
+
+int asn1PE_UMTS_DelayRestrictionFlag(rtxContext* RT_RESTRICT ctx, DelayRestrictionFlag value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "DelayRestrictionFlag");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DelayRestrictionFlag");
+   return 0;
+}
+
+int asn1PE_UMTS_ESN_DS_41(rtxContext* RT_RESTRICT ctx, ESN_DS_41 value)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32(ctx, &value, 32, 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ESN-DS-41");
+   return 0;
+}
+
+int asn1PE_UMTS_EstablishmentCause(rtxContext* RT_RESTRICT ctx, EstablishmentCause value)
+{
+   int stat = 0;
+   if (value > 31) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "EstablishmentCause");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 31);
+   RT_CHECK(ctx, stat, 0, 0, -1, "EstablishmentCause");
+   return 0;
+}
+
+int asn1PE_UMTS_TGPSI(rtxContext* RT_RESTRICT ctx, TGPSI value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 5u) {
+      rtxErrAddStrParm(ctx, "TGPSI");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TGPSI");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TGPSI");
+   return 0;
+}
+
+int asn1PE_UMTS_ProtocolErrorCause(rtxContext* RT_RESTRICT ctx, ProtocolErrorCause value)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ProtocolErrorCause");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ProtocolErrorCause");
+   return 0;
+}
+
+int asn1PE_UMTS_ProtocolErrorInformation_diagnosticsType_type1(rtxContext* RT_RESTRICT ctx, const ProtocolErrorInformation_diagnosticsType_type1* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* protocolErrorCause */
+   if (pvalue->protocolErrorCause > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->protocolErrorCause);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ProtocolErrorCause", "protocolErrorCause", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->protocolErrorCause, 0, 7);
+   RT_CHECK(ctx, stat, "ProtocolErrorCause", "protocolErrorCause", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_ProtocolErrorInformation_diagnosticsType(rtxContext* RT_RESTRICT ctx, const ProtocolErrorInformation_diagnosticsType* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.type1 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "type1", -1, 0);
+         stat = asn1PE_UMTS_ProtocolErrorInformation_diagnosticsType_type1(ctx, pvalue->u.type1);
+         RT_CHECK(ctx, stat, 0, "type1", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ProtocolErrorInformation(rtxContext* RT_RESTRICT ctx, const ProtocolErrorInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ProtocolErrorInformation");
+   /* diagnosticsType */
+   stat = asn1PE_UMTS_ProtocolErrorInformation_diagnosticsType(ctx, &pvalue->diagnosticsType);
+   RT_CHECK(ctx, stat, 0, "diagnosticsType", -1, "ProtocolErrorInformation");
+   return 0;
+}
+
+int asn1PE_UMTS_FailureCauseWithProtErr(rtxContext* RT_RESTRICT ctx, const FailureCauseWithProtErr* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "FailureCauseWithProtErr");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 15);
+   RT_CHECK(ctx, stat, 0, "t", -1, "FailureCauseWithProtErr");
+   if (pvalue->t - 1 > 15) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "FailureCauseWithProtErr");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         break;
+      case 4:
+         if ((uint64_t)(pvalue->u.compressedModeRuntimeError - 1) > 5u) {
+            rtxErrAddStrParm(ctx, "TGPSI");
+            rtxErrAddUIntParm(ctx, pvalue->u.compressedModeRuntimeError);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "TGPSI", "compressedModeRuntimeError", -1, "FailureCauseWithProtErr");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.compressedModeRuntimeError, 1, 6);
+         RT_CHECK(ctx, stat, "TGPSI", "compressedModeRuntimeError", -1, "FailureCauseWithProtErr");
+         break;
+      case 5:
+         if (pvalue->u.protocolError == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "protocolError", -1, "FailureCauseWithProtErr");
+         stat = asn1PE_UMTS_ProtocolErrorInformation(ctx, pvalue->u.protocolError);
+         RT_CHECK(ctx, stat, 0, "protocolError", -1, "FailureCauseWithProtErr");
+         break;
+      case 6:
+         break;
+      case 7:
+         break;
+      case 8:
+         break;
+      case 9:
+         break;
+      case 10:
+         break;
+      case 11:
+         break;
+      case 12:
+         break;
+      case 13:
+         break;
+      case 14:
+         break;
+      case 15:
+         break;
+      case 16:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRC_TransactionIdentifier(rtxContext* RT_RESTRICT ctx, RRC_TransactionIdentifier value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "RRC-TransactionIdentifier");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRC-TransactionIdentifier");
+   return 0;
+}
+
+int asn1PE_UMTS_FailureCauseWithProtErrTrId(rtxContext* RT_RESTRICT ctx, const FailureCauseWithProtErrTrId* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "FailureCauseWithProtErrTrId");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "FailureCauseWithProtErrTrId");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "FailureCauseWithProtErrTrId");
+   /* failureCause */
+   stat = asn1PE_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
+   RT_CHECK(ctx, stat, 0, "failureCause", -1, "FailureCauseWithProtErrTrId");
+   return 0;
+}
+
+int asn1PE_UMTS_GANSS_Mode(rtxContext* RT_RESTRICT ctx, GANSS_Mode value)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "GANSS-Mode");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "GANSS-Mode");
+   return 0;
+}
+
+int asn1PE_UMTS_ReleaseCause(rtxContext* RT_RESTRICT ctx, ReleaseCause value)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ReleaseCause");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ReleaseCause");
+   return 0;
+}
+
+int asn1PE_UMTS_RRC_ConnectionReleaseInformation_release(rtxContext* RT_RESTRICT ctx, const RRC_ConnectionReleaseInformation_release* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* releaseCause */
+   if (pvalue->releaseCause > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->releaseCause);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ReleaseCause", "releaseCause", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->releaseCause, 0, 7);
+   RT_CHECK(ctx, stat, "ReleaseCause", "releaseCause", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRC_ConnectionReleaseInformation(rtxContext* RT_RESTRICT ctx, const RRC_ConnectionReleaseInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRC-ConnectionReleaseInformation");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "RRC-ConnectionReleaseInformation");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RRC-ConnectionReleaseInformation");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.release == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "release", -1, "RRC-ConnectionReleaseInformation");
+         stat = asn1PE_UMTS_RRC_ConnectionReleaseInformation_release(ctx, pvalue->u.release);
+         RT_CHECK(ctx, stat, 0, "release", -1, "RRC-ConnectionReleaseInformation");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_U_RNTI_Group(rtxContext* RT_RESTRICT ctx, const U_RNTI_Group* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "U-RNTI-Group");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 31);
+   RT_CHECK(ctx, stat, 0, "t", -1, "U-RNTI-Group");
+   if (pvalue->t - 1 > 31) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "U-RNTI-Group");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b1 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b1", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 31, 31);
+         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b1, 31, 31);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b1", -1, "U-RNTI-Group");
+         break;
+      case 3:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b2", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 30, 30);
+         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b2, 30, 30);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b2", -1, "U-RNTI-Group");
+         break;
+      case 4:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b3", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 29, 29);
+         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b3, 29, 29);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b3", -1, "U-RNTI-Group");
+         break;
+      case 5:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b4 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b4", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 28, 28);
+         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b4, 28, 28);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b4", -1, "U-RNTI-Group");
+         break;
+      case 6:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b5 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b5", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 27, 27);
+         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b5, 27, 27);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b5", -1, "U-RNTI-Group");
+         break;
+      case 7:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b6 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b6", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 26, 26);
+         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b6, 26, 26);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b6", -1, "U-RNTI-Group");
+         break;
+      case 8:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b7 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b7", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 25, 25);
+         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b7, 25, 25);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b7", -1, "U-RNTI-Group");
+         break;
+      case 9:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b8 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b8", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 24, 24);
+         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b8, 24, 24);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b8", -1, "U-RNTI-Group");
+         break;
+      case 10:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b9 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b9", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 23, 23);
+         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b9, 23, 23);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b9", -1, "U-RNTI-Group");
+         break;
+      case 11:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b10 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b10", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 22, 22);
+         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b10, 22, 22);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b10", -1, "U-RNTI-Group");
+         break;
+      case 12:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b11 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b11", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 21, 21);
+         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b11, 21, 21);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b11", -1, "U-RNTI-Group");
+         break;
+      case 13:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b12 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b12", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 20, 20);
+         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b12, 20, 20);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b12", -1, "U-RNTI-Group");
+         break;
+      case 14:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b13 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b13", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 19, 19);
+         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b13, 19, 19);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b13", -1, "U-RNTI-Group");
+         break;
+      case 15:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b14 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b14", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 18, 18);
+         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b14, 18, 18);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b14", -1, "U-RNTI-Group");
+         break;
+      case 16:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b15 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b15", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 17, 17);
+         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b15, 17, 17);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b15", -1, "U-RNTI-Group");
+         break;
+      case 17:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b16 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b16", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 16, 16);
+         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b16, 16, 16);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b16", -1, "U-RNTI-Group");
+         break;
+      case 18:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b17 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b17", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 15, 15);
+         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b17, 15, 15);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b17", -1, "U-RNTI-Group");
+         break;
+      case 19:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b18 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b18", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 14, 14);
+         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b18, 14, 14);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b18", -1, "U-RNTI-Group");
+         break;
+      case 20:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b19 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b19", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 13, 13);
+         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b19, 13, 13);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b19", -1, "U-RNTI-Group");
+         break;
+      case 21:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b20 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b20", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 12, 12);
+         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b20, 12, 12);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b20", -1, "U-RNTI-Group");
+         break;
+      case 22:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b21 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b21", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 11, 11);
+         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b21, 11, 11);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b21", -1, "U-RNTI-Group");
+         break;
+      case 23:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b22 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b22", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 10, 10);
+         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b22, 10, 10);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b22", -1, "U-RNTI-Group");
+         break;
+      case 24:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b23 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b23", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 9, 9);
+         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b23, 9, 9);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b23", -1, "U-RNTI-Group");
+         break;
+      case 25:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b24 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b24", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 8, 8);
+         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b24, 8, 8);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b24", -1, "U-RNTI-Group");
+         break;
+      case 26:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b25 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b25", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 7, 7);
+         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b25, 7, 7);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b25", -1, "U-RNTI-Group");
+         break;
+      case 27:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b26 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b26", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 6, 6);
+         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b26, 6, 6);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b26", -1, "U-RNTI-Group");
+         break;
+      case 28:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b27 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b27", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 5, 5);
+         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b27, 5, 5);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b27", -1, "U-RNTI-Group");
+         break;
+      case 29:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b28 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b28", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 4, 4);
+         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b28, 4, 4);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b28", -1, "U-RNTI-Group");
+         break;
+      case 30:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b29 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b29", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 3, 3);
+         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b29, 3, 3);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b29", -1, "U-RNTI-Group");
+         break;
+      case 31:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b30 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b30", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 2, 2);
+         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b30, 2, 2);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b30", -1, "U-RNTI-Group");
+         break;
+      case 32:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b31 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b31", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 1, 1);
+         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b31, 1, 1);
+         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b31", -1, "U-RNTI-Group");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GroupReleaseInformation(rtxContext* RT_RESTRICT ctx, const GroupReleaseInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GroupReleaseInformation");
+   /* uRNTI-Group */
+   stat = asn1PE_UMTS_U_RNTI_Group(ctx, &pvalue->uRNTI_Group);
+   RT_CHECK(ctx, stat, 0, "uRNTI-Group", -1, "GroupReleaseInformation");
+   return 0;
+}
+
+int asn1PE_UMTS_GroupIdentityWithReleaseInformation(rtxContext* RT_RESTRICT ctx, const GroupIdentityWithReleaseInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GroupIdentityWithReleaseInformation");
+   /* rrc-ConnectionReleaseInformation */
+   stat = asn1PE_UMTS_RRC_ConnectionReleaseInformation(ctx, &pvalue->rrc_ConnectionReleaseInformation);
+   RT_CHECK(ctx, stat, 0, "rrc-ConnectionReleaseInformation", -1, "GroupIdentityWithReleaseInformation");
+   /* groupReleaseInformation */
+   stat = asn1PE_UMTS_GroupReleaseInformation(ctx, &pvalue->groupReleaseInformation);
+   RT_CHECK(ctx, stat, 0, "groupReleaseInformation", -1, "GroupIdentityWithReleaseInformation");
+   return 0;
+}
+
+int asn1PE_UMTS_High_MobilityDetected(rtxContext* RT_RESTRICT ctx, High_MobilityDetected value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "High-MobilityDetected");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, "High-MobilityDetected");
+   return 0;
+}
+
+int asn1PE_UMTS_UESpecificBehaviourInformation1idle(rtxContext* RT_RESTRICT ctx, UESpecificBehaviourInformation1idle value)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 4, 4);
+   stat = pe_BitString32(ctx, &value, 4, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UESpecificBehaviourInformation1idle");
+   return 0;
+}
+
+int asn1PE_UMTS_UESpecificBehaviourInformation1interRAT(rtxContext* RT_RESTRICT ctx, UESpecificBehaviourInformation1interRAT value)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &value, 8, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UESpecificBehaviourInformation1interRAT");
+   return 0;
+}
+
+int asn1PE_UMTS_IdleIntervalMeasCapabEUTRA(rtxContext* RT_RESTRICT ctx, const IdleIntervalMeasCapabEUTRA* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IdleIntervalMeasCapabEUTRA");
+   /* radioFrequencyBandEUTRA */
+   if ((uint64_t)(pvalue->radioFrequencyBandEUTRA - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "RadioFrequencyBandEUTRA");
+      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandEUTRA);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RadioFrequencyBandEUTRA", "radioFrequencyBandEUTRA", -1, "IdleIntervalMeasCapabEUTRA");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandEUTRA, 1, 64);
+   RT_CHECK(ctx, stat, "RadioFrequencyBandEUTRA", "radioFrequencyBandEUTRA", -1, "IdleIntervalMeasCapabEUTRA");
+   /* idleInterval */
+   stat = rtxEncBit(ctx, pvalue->idleInterval);
+   RT_CHECK(ctx, stat, 0, "idleInterval", -1, "IdleIntervalMeasCapabEUTRA");
+   return 0;
+}
+
+int asn1PE_UMTS_IdleIntervalMeasCapabEUTRAList(rtxContext* RT_RESTRICT ctx, const IdleIntervalMeasCapabEUTRAList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IdleIntervalMeasCapabEUTRAList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "IdleIntervalMeasCapabEUTRAList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "IdleIntervalMeasCapabEUTRA", (int32_t)i, "IdleIntervalMeasCapabEUTRAList");
+      stat = asn1PE_UMTS_IdleIntervalMeasCapabEUTRA(ctx, (const IdleIntervalMeasCapabEUTRA*)node->data);
+      RT_CHECK(ctx, stat, 0, "IdleIntervalMeasCapabEUTRA", (int32_t)i, "IdleIntervalMeasCapabEUTRAList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IMSI_and_ESN_DS_41(rtxContext* RT_RESTRICT ctx, const IMSI_and_ESN_DS_41* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IMSI-and-ESN-DS-41");
+   /* imsi-DS-41 */
+   stat = asn1PE_UMTS_IMSI_DS_41(ctx, &pvalue->imsi_DS_41);
+   RT_CHECK(ctx, stat, 0, "imsi-DS-41", -1, "IMSI-and-ESN-DS-41");
+   /* esn-DS-41 */
+   stat = asn1PE_UMTS_ESN_DS_41(ctx, pvalue->esn_DS_41);
+   RT_CHECK(ctx, stat, 0, "esn-DS-41", -1, "IMSI-and-ESN-DS-41");
+   return 0;
+}
+
+int asn1PE_UMTS_TMSI_and_LAI_GSM_MAP(rtxContext* RT_RESTRICT ctx, const TMSI_and_LAI_GSM_MAP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TMSI-and-LAI-GSM-MAP");
+   /* tmsi */
+   stat = asn1PE_UMTS_TMSI_GSM_MAP(ctx, pvalue->tmsi);
+   RT_CHECK(ctx, stat, 0, "tmsi", -1, "TMSI-and-LAI-GSM-MAP");
+   /* lai */
+   stat = asn1PE_UMTS_LAI(ctx, &pvalue->lai);
+   RT_CHECK(ctx, stat, 0, "lai", -1, "TMSI-and-LAI-GSM-MAP");
+   return 0;
+}
+
+int asn1PE_UMTS_P_TMSI_and_RAI_GSM_MAP(rtxContext* RT_RESTRICT ctx, const P_TMSI_and_RAI_GSM_MAP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "P-TMSI-and-RAI-GSM-MAP");
+   /* p-TMSI */
+   stat = asn1PE_UMTS_P_TMSI_GSM_MAP(ctx, pvalue->p_TMSI);
+   RT_CHECK(ctx, stat, 0, "p-TMSI", -1, "P-TMSI-and-RAI-GSM-MAP");
+   /* rai */
+   stat = asn1PE_UMTS_RAI(ctx, &pvalue->rai);
+   RT_CHECK(ctx, stat, 0, "rai", -1, "P-TMSI-and-RAI-GSM-MAP");
+   return 0;
+}
+
+int asn1PE_UMTS_InitialUE_Identity(rtxContext* RT_RESTRICT ctx, const InitialUE_Identity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InitialUE-Identity");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
+   RT_CHECK(ctx, stat, 0, "t", -1, "InitialUE-Identity");
+   if (pvalue->t - 1 > 7) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InitialUE-Identity");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.imsi == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "imsi", -1, "InitialUE-Identity");
+         stat = asn1PE_UMTS_IMSI_GSM_MAP(ctx, pvalue->u.imsi);
+         RT_CHECK(ctx, stat, 0, "imsi", -1, "InitialUE-Identity");
+         break;
+      case 2:
+         if (pvalue->u.tmsi_and_LAI == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tmsi-and-LAI", -1, "InitialUE-Identity");
+         stat = asn1PE_UMTS_TMSI_and_LAI_GSM_MAP(ctx, pvalue->u.tmsi_and_LAI);
+         RT_CHECK(ctx, stat, 0, "tmsi-and-LAI", -1, "InitialUE-Identity");
+         break;
+      case 3:
+         if (pvalue->u.p_TMSI_and_RAI == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "p-TMSI-and-RAI", -1, "InitialUE-Identity");
+         stat = asn1PE_UMTS_P_TMSI_and_RAI_GSM_MAP(ctx, pvalue->u.p_TMSI_and_RAI);
+         RT_CHECK(ctx, stat, 0, "p-TMSI-and-RAI", -1, "InitialUE-Identity");
+         break;
+      case 4:
+         if (pvalue->u.imei == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "imei", -1, "InitialUE-Identity");
+         stat = asn1PE_UMTS_IMEI(ctx, pvalue->u.imei);
+         RT_CHECK(ctx, stat, 0, "imei", -1, "InitialUE-Identity");
+         break;
+      case 5:
+         if (pvalue->u.esn_DS_41 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "esn-DS-41", -1, "InitialUE-Identity");
+         stat = asn1PE_UMTS_ESN_DS_41(ctx, *pvalue->u.esn_DS_41);
+         RT_CHECK(ctx, stat, 0, "esn-DS-41", -1, "InitialUE-Identity");
+         break;
+      case 6:
+         if (pvalue->u.imsi_DS_41 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "imsi-DS-41", -1, "InitialUE-Identity");
+         stat = asn1PE_UMTS_IMSI_DS_41(ctx, pvalue->u.imsi_DS_41);
+         RT_CHECK(ctx, stat, 0, "imsi-DS-41", -1, "InitialUE-Identity");
+         break;
+      case 7:
+         if (pvalue->u.imsi_and_ESN_DS_41 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "imsi-and-ESN-DS-41", -1, "InitialUE-Identity");
+         stat = asn1PE_UMTS_IMSI_and_ESN_DS_41(ctx, pvalue->u.imsi_and_ESN_DS_41);
+         RT_CHECK(ctx, stat, 0, "imsi-and-ESN-DS-41", -1, "InitialUE-Identity");
+         break;
+      case 8:
+         if (pvalue->u.tmsi_DS_41 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tmsi-DS-41", -1, "InitialUE-Identity");
+         stat = asn1PE_UMTS_TMSI_DS_41(ctx, pvalue->u.tmsi_DS_41);
+         RT_CHECK(ctx, stat, 0, "tmsi-DS-41", -1, "InitialUE-Identity");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MessageAuthenticationCode(rtxContext* RT_RESTRICT ctx, MessageAuthenticationCode value)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32(ctx, &value, 32, 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MessageAuthenticationCode");
+   return 0;
+}
+
+int asn1PE_UMTS_RRC_MessageSequenceNumber(rtxContext* RT_RESTRICT ctx, RRC_MessageSequenceNumber value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 15u) {
+      rtxErrAddStrParm(ctx, "RRC-MessageSequenceNumber");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "RRC-MessageSequenceNumber");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRC-MessageSequenceNumber");
+   return 0;
+}
+
+int asn1PE_UMTS_IntegrityCheckInfo(rtxContext* RT_RESTRICT ctx, const IntegrityCheckInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntegrityCheckInfo");
+   /* messageAuthenticationCode */
+   stat = asn1PE_UMTS_MessageAuthenticationCode(ctx, pvalue->messageAuthenticationCode);
+   RT_CHECK(ctx, stat, 0, "messageAuthenticationCode", -1, "IntegrityCheckInfo");
+   /* rrc-MessageSequenceNumber */
+   if ((uint64_t)pvalue->rrc_MessageSequenceNumber > 15u) {
+      rtxErrAddStrParm(ctx, "RRC-MessageSequenceNumber");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_MessageSequenceNumber);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-MessageSequenceNumber", "rrc-MessageSequenceNumber", -1, "IntegrityCheckInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_MessageSequenceNumber, 0, 15);
+   RT_CHECK(ctx, stat, "RRC-MessageSequenceNumber", "rrc-MessageSequenceNumber", -1, "IntegrityCheckInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_RRC_MessageSequenceNumberList(rtxContext* RT_RESTRICT ctx, const RRC_MessageSequenceNumberList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRC-MessageSequenceNumberList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 4, 5);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RRC-MessageSequenceNumberList");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 15u) {
+         rtxErrAddStrParm(ctx, "RRC-MessageSequenceNumber");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-MessageSequenceNumber", "RRC-MessageSequenceNumber", (int32_t)i, "RRC-MessageSequenceNumberList");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 15);
+      RT_CHECK(ctx, stat, "RRC-MessageSequenceNumber", "RRC-MessageSequenceNumber", (int32_t)i, "RRC-MessageSequenceNumberList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntegrityProtActivationInfo(rtxContext* RT_RESTRICT ctx, const IntegrityProtActivationInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntegrityProtActivationInfo");
+   /* rrc-MessageSequenceNumberList */
+   stat = asn1PE_UMTS_RRC_MessageSequenceNumberList(ctx, &pvalue->rrc_MessageSequenceNumberList);
+   RT_CHECK(ctx, stat, 0, "rrc-MessageSequenceNumberList", -1, "IntegrityProtActivationInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_IntegrityProtectionAlgorithm(rtxContext* RT_RESTRICT ctx, IntegrityProtectionAlgorithm value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "IntegrityProtectionAlgorithm");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntegrityProtectionAlgorithm");
+   return 0;
+}
+
+int asn1PE_UMTS_IntegrityProtectionAlgorithm_r7(rtxContext* RT_RESTRICT ctx, IntegrityProtectionAlgorithm_r7 value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "IntegrityProtectionAlgorithm-r7");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntegrityProtectionAlgorithm-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_IntegrityProtInitNumber(rtxContext* RT_RESTRICT ctx, IntegrityProtInitNumber value)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32(ctx, &value, 32, 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntegrityProtInitNumber");
+   return 0;
+}
+
+int asn1PE_UMTS_IntegrityProtectionModeCommand_startIntegrityProtection(rtxContext* RT_RESTRICT ctx, const IntegrityProtectionModeCommand_startIntegrityProtection* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* integrityProtInitNumber */
+   stat = asn1PE_UMTS_IntegrityProtInitNumber(ctx, pvalue->integrityProtInitNumber);
+   RT_CHECK(ctx, stat, 0, "integrityProtInitNumber", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_IntegrityProtectionModeCommand_modify(rtxContext* RT_RESTRICT ctx, const IntegrityProtectionModeCommand_modify* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* dl-IntegrityProtActivationInfo */
+   stat = asn1PE_UMTS_IntegrityProtActivationInfo(ctx, &pvalue->dl_IntegrityProtActivationInfo);
+   RT_CHECK(ctx, stat, 0, "dl-IntegrityProtActivationInfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_IntegrityProtectionModeCommand(rtxContext* RT_RESTRICT ctx, const IntegrityProtectionModeCommand* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntegrityProtectionModeCommand");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "IntegrityProtectionModeCommand");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntegrityProtectionModeCommand");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.startIntegrityProtection == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "startIntegrityProtection", -1, "IntegrityProtectionModeCommand");
+         stat = asn1PE_UMTS_IntegrityProtectionModeCommand_startIntegrityProtection(ctx, pvalue->u.startIntegrityProtection);
+         RT_CHECK(ctx, stat, 0, "startIntegrityProtection", -1, "IntegrityProtectionModeCommand");
+         break;
+      case 2:
+         if (pvalue->u.modify == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "modify", -1, "IntegrityProtectionModeCommand");
+         stat = asn1PE_UMTS_IntegrityProtectionModeCommand_modify(ctx, pvalue->u.modify);
+         RT_CHECK(ctx, stat, 0, "modify", -1, "IntegrityProtectionModeCommand");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntegrityProtectionModeInfo(rtxContext* RT_RESTRICT ctx, const IntegrityProtectionModeInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntegrityProtectionModeInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntegrityProtectionModeInfo");
+   /* integrityProtectionModeCommand */
+   stat = asn1PE_UMTS_IntegrityProtectionModeCommand(ctx, &pvalue->integrityProtectionModeCommand);
+   RT_CHECK(ctx, stat, 0, "integrityProtectionModeCommand", -1, "IntegrityProtectionModeInfo");
+   /* integrityProtectionAlgorithm */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->integrityProtectionAlgorithm > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->integrityProtectionAlgorithm);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "IntegrityProtectionAlgorithm", "integrityProtectionAlgorithm", -1, "IntegrityProtectionModeInfo");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->integrityProtectionAlgorithm, 0, 0);
+      RT_CHECK(ctx, stat, "IntegrityProtectionAlgorithm", "integrityProtectionAlgorithm", -1, "IntegrityProtectionModeInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntegrityProtectionModeInfo_r7(rtxContext* RT_RESTRICT ctx, const IntegrityProtectionModeInfo_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntegrityProtectionModeInfo-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntegrityProtectionModeInfo-r7");
+   /* integrityProtectionModeCommand */
+   stat = asn1PE_UMTS_IntegrityProtectionModeCommand(ctx, &pvalue->integrityProtectionModeCommand);
+   RT_CHECK(ctx, stat, 0, "integrityProtectionModeCommand", -1, "IntegrityProtectionModeInfo-r7");
+   /* integrityProtectionAlgorithm */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->integrityProtectionAlgorithm > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->integrityProtectionAlgorithm);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "IntegrityProtectionAlgorithm-r7", "integrityProtectionAlgorithm", -1, "IntegrityProtectionModeInfo-r7");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->integrityProtectionAlgorithm, 0, 1);
+      RT_CHECK(ctx, stat, "IntegrityProtectionAlgorithm-r7", "integrityProtectionAlgorithm", -1, "IntegrityProtectionModeInfo-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MaxHcContextSpace(rtxContext* RT_RESTRICT ctx, MaxHcContextSpace value)
+{
+   int stat = 0;
+   if (value > 4) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxHcContextSpace");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxHcContextSpace");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxHcContextSpace_r5_ext(rtxContext* RT_RESTRICT ctx, MaxHcContextSpace_r5_ext value)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxHcContextSpace-r5-ext");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxHcContextSpace-r5-ext");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxROHC_ContextSessions_r4(rtxContext* RT_RESTRICT ctx, MaxROHC_ContextSessions_r4 value)
+{
+   int stat = 0;
+   if (value > 13) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxROHC-ContextSessions-r4");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 13);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxROHC-ContextSessions-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_MaximumAM_EntityNumberRLC_Cap(rtxContext* RT_RESTRICT ctx, MaximumAM_EntityNumberRLC_Cap value)
+{
+   int stat = 0;
+   if (value > 6) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaximumAM-EntityNumberRLC-Cap");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaximumAM-EntityNumberRLC-Cap");
+   return 0;
+}
+
+int asn1PE_UMTS_MaximumRLC_WindowSize(rtxContext* RT_RESTRICT ctx, MaximumRLC_WindowSize value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaximumRLC-WindowSize");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaximumRLC-WindowSize");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxNoDPDCH_BitsTransmitted(rtxContext* RT_RESTRICT ctx, MaxNoDPDCH_BitsTransmitted value)
+{
+   int stat = 0;
+   if (value > 9) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxNoDPDCH-BitsTransmitted");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 9);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxNoDPDCH-BitsTransmitted");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxNumberOfTFC_UL(rtxContext* RT_RESTRICT ctx, MaxNumberOfTFC_UL value)
+{
+   int stat = 0;
+   if (value > 10) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxNumberOfTFC-UL");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 10);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxNumberOfTFC-UL");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxPhysChPerTimeslot(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTimeslot value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxPhysChPerTimeslot");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxPhysChPerTimeslot");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxPhysChPerTimeslot_LCR_r7(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTimeslot_LCR_r7 value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 3u) {
+      rtxErrAddStrParm(ctx, "MaxPhysChPerTimeslot-LCR-r7");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MaxPhysChPerTimeslot-LCR-r7");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxPhysChPerTimeslot-LCR-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxSimultaneousTransChsUL(rtxContext* RT_RESTRICT ctx, MaxSimultaneousTransChsUL value)
+{
+   int stat = 0;
+   if (value > 4) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxSimultaneousTransChsUL");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxSimultaneousTransChsUL");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxTransportBlocksUL(rtxContext* RT_RESTRICT ctx, MaxTransportBlocksUL value)
+{
+   int stat = 0;
+   if (value > 10) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxTransportBlocksUL");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 10);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxTransportBlocksUL");
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementCapability(rtxContext* RT_RESTRICT ctx, const MeasurementCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCapability");
+   /* downlinkCompressedMode */
+   stat = asn1PE_UMTS_CompressedModeMeasCapability(ctx, &pvalue->downlinkCompressedMode);
+   RT_CHECK(ctx, stat, 0, "downlinkCompressedMode", -1, "MeasurementCapability");
+   /* uplinkCompressedMode */
+   stat = asn1PE_UMTS_CompressedModeMeasCapability(ctx, &pvalue->uplinkCompressedMode);
+   RT_CHECK(ctx, stat, 0, "uplinkCompressedMode", -1, "MeasurementCapability");
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementCapabilityExt(rtxContext* RT_RESTRICT ctx, const MeasurementCapabilityExt* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCapabilityExt");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementCapabilityExt");
+   /* compressedModeMeasCapabFDDList */
+   stat = asn1PE_UMTS_CompressedModeMeasCapabFDDList(ctx, &pvalue->compressedModeMeasCapabFDDList);
+   RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabFDDList", -1, "MeasurementCapabilityExt");
+   /* compressedModeMeasCapabTDDList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CompressedModeMeasCapabTDDList(ctx, &pvalue->compressedModeMeasCapabTDDList);
+      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabTDDList", -1, "MeasurementCapabilityExt");
+   }
+   /* compressedModeMeasCapabGSMList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CompressedModeMeasCapabGSMList(ctx, &pvalue->compressedModeMeasCapabGSMList);
+      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabGSMList", -1, "MeasurementCapabilityExt");
+   }
+   /* compressedModeMeasCapabMC */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_CompressedModeMeasCapabMC(ctx, &pvalue->compressedModeMeasCapabMC);
+      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabMC", -1, "MeasurementCapabilityExt");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementCapabilityExt2(rtxContext* RT_RESTRICT ctx, const MeasurementCapabilityExt2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCapabilityExt2");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementCapabilityExt2");
+   /* compressedModeMeasCapabFDDList */
+   stat = asn1PE_UMTS_CompressedModeMeasCapabFDDList2(ctx, &pvalue->compressedModeMeasCapabFDDList);
+   RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabFDDList", -1, "MeasurementCapabilityExt2");
+   /* compressedModeMeasCapabTDDList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CompressedModeMeasCapabTDDList(ctx, &pvalue->compressedModeMeasCapabTDDList);
+      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabTDDList", -1, "MeasurementCapabilityExt2");
+   }
+   /* compressedModeMeasCapabGSMList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CompressedModeMeasCapabGSMList(ctx, &pvalue->compressedModeMeasCapabGSMList);
+      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabGSMList", -1, "MeasurementCapabilityExt2");
+   }
+   /* compressedModeMeasCapabMC */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_CompressedModeMeasCapabMC(ctx, &pvalue->compressedModeMeasCapabMC);
+      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabMC", -1, "MeasurementCapabilityExt2");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementCapabilityExt3(rtxContext* RT_RESTRICT ctx, const MeasurementCapabilityExt3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCapabilityExt3");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementCapabilityExt3");
+   /* compressedModeMeasCapabEUTRAList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CompressedModeMeasCapabEUTRAList(ctx, &pvalue->compressedModeMeasCapabEUTRAList);
+      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabEUTRAList", -1, "MeasurementCapabilityExt3");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementCapability_r4_ext(rtxContext* RT_RESTRICT ctx, const MeasurementCapability_r4_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCapability-r4-ext");
+   /* downlinkCompressedMode-LCR */
+   stat = asn1PE_UMTS_CompressedModeMeasCapability_LCR_r4(ctx, &pvalue->downlinkCompressedMode_LCR);
+   RT_CHECK(ctx, stat, 0, "downlinkCompressedMode-LCR", -1, "MeasurementCapability-r4-ext");
+   /* uplinkCompressedMode-LCR */
+   stat = asn1PE_UMTS_CompressedModeMeasCapability_LCR_r4(ctx, &pvalue->uplinkCompressedMode_LCR);
+   RT_CHECK(ctx, stat, 0, "uplinkCompressedMode-LCR", -1, "MeasurementCapability-r4-ext");
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementCapability_v860ext(rtxContext* RT_RESTRICT ctx, const MeasurementCapability_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCapability-v860ext");
+   /* downlinkCompressedMode */
+   stat = asn1PE_UMTS_CompressedModeMeasCapability_v860ext(ctx, &pvalue->downlinkCompressedMode);
+   RT_CHECK(ctx, stat, 0, "downlinkCompressedMode", -1, "MeasurementCapability-v860ext");
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementCapability_v920ext(rtxContext* RT_RESTRICT ctx, const MeasurementCapability_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCapability-v920ext");
+   /* downlinkCompressedMode */
+   stat = asn1PE_UMTS_CompressedModeMeasCapability_v920ext(ctx, &pvalue->downlinkCompressedMode);
+   RT_CHECK(ctx, stat, 0, "downlinkCompressedMode", -1, "MeasurementCapability-v920ext");
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementCapabilityTDD(rtxContext* RT_RESTRICT ctx, const MeasurementCapabilityTDD* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCapabilityTDD");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementCapabilityTDD");
+   /* idleIntervalMeasCapabEUTRAList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IdleIntervalMeasCapabEUTRAList(ctx, &pvalue->idleIntervalMeasCapabEUTRAList);
+      RT_CHECK(ctx, stat, 0, "idleIntervalMeasCapabEUTRAList", -1, "MeasurementCapabilityTDD");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MinimumSF_UL(rtxContext* RT_RESTRICT ctx, MinimumSF_UL value)
+{
+   int stat = 0;
+   if (value > 4) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MinimumSF-UL");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MinimumSF-UL");
+   return 0;
+}
+
+int asn1PE_UMTS_MultiModeCapability(rtxContext* RT_RESTRICT ctx, MultiModeCapability value)
+{
+   int stat = 0;
+   if (value > 2) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MultiModeCapability");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MultiModeCapability");
+   return 0;
+}
+
+int asn1PE_UMTS_MultiRAT_Capability(rtxContext* RT_RESTRICT ctx, const MultiRAT_Capability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MultiRAT-Capability");
+   /* supportOfGSM */
+   stat = rtxEncBit(ctx, pvalue->supportOfGSM);
+   RT_CHECK(ctx, stat, 0, "supportOfGSM", -1, "MultiRAT-Capability");
+   /* supportOfMulticarrier */
+   stat = rtxEncBit(ctx, pvalue->supportOfMulticarrier);
+   RT_CHECK(ctx, stat, 0, "supportOfMulticarrier", -1, "MultiRAT-Capability");
+   return 0;
+}
+
+int asn1PE_UMTS_MultiModeRAT_Capability_v590ext(rtxContext* RT_RESTRICT ctx, const MultiModeRAT_Capability_v590ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MultiModeRAT-Capability-v590ext");
+   /* supportOfUTRAN-ToGERAN-NACC */
+   stat = rtxEncBit(ctx, pvalue->supportOfUTRAN_ToGERAN_NACC);
+   RT_CHECK(ctx, stat, 0, "supportOfUTRAN-ToGERAN-NACC", -1, "MultiModeRAT-Capability-v590ext");
+   return 0;
+}
+
+int asn1PE_UMTS_MultiModeRAT_Capability_v680ext_supportOfHandoverToGAN(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v680ext_supportOfHandoverToGAN value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MultiModeRAT_Capability_v680ext(rtxContext* RT_RESTRICT ctx, const MultiModeRAT_Capability_v680ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MultiModeRAT-Capability-v680ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MultiModeRAT-Capability-v680ext");
+   /* supportOfHandoverToGAN */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportOfHandoverToGAN > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfHandoverToGAN);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfHandoverToGAN", -1, "MultiModeRAT-Capability-v680ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfHandoverToGAN, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportOfHandoverToGAN", -1, "MultiModeRAT-Capability-v680ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MultiModeRAT_Capability_v770ext_supportOfPSHandoverToGAN(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v770ext_supportOfPSHandoverToGAN value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MultiModeRAT_Capability_v770ext(rtxContext* RT_RESTRICT ctx, const MultiModeRAT_Capability_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MultiModeRAT-Capability-v770ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MultiModeRAT-Capability-v770ext");
+   /* supportOfPSHandoverToGAN */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportOfPSHandoverToGAN > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfPSHandoverToGAN);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfPSHandoverToGAN", -1, "MultiModeRAT-Capability-v770ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfPSHandoverToGAN, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportOfPSHandoverToGAN", -1, "MultiModeRAT-Capability-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MultiModeRAT_Capability_v860ext_supportOfEUTRAFDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfEUTRAFDD value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRAFDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRAFDD value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MultiModeRAT_Capability_v860ext_supportOfEUTRATDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfEUTRATDD value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRATDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRATDD value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MultiModeRAT_Capability_v860ext(rtxContext* RT_RESTRICT ctx, const MultiModeRAT_Capability_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MultiModeRAT-Capability-v860ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MultiModeRAT-Capability-v860ext");
+   /* supportOfEUTRAFDD */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportOfEUTRAFDD > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfEUTRAFDD);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfEUTRAFDD", -1, "MultiModeRAT-Capability-v860ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfEUTRAFDD, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportOfEUTRAFDD", -1, "MultiModeRAT-Capability-v860ext");
+   }
+   /* supportOfInterRATHOToEUTRAFDD */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->supportOfInterRATHOToEUTRAFDD > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfInterRATHOToEUTRAFDD);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfInterRATHOToEUTRAFDD", -1, "MultiModeRAT-Capability-v860ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfInterRATHOToEUTRAFDD, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportOfInterRATHOToEUTRAFDD", -1, "MultiModeRAT-Capability-v860ext");
+   }
+   /* supportOfEUTRATDD */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->supportOfEUTRATDD > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfEUTRATDD);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfEUTRATDD", -1, "MultiModeRAT-Capability-v860ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfEUTRATDD, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportOfEUTRATDD", -1, "MultiModeRAT-Capability-v860ext");
+   }
+   /* supportOfInterRATHOToEUTRATDD */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->supportOfInterRATHOToEUTRATDD > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfInterRATHOToEUTRATDD);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfInterRATHOToEUTRATDD", -1, "MultiModeRAT-Capability-v860ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfInterRATHOToEUTRATDD, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportOfInterRATHOToEUTRATDD", -1, "MultiModeRAT-Capability-v860ext");
+   }
+   /* eutraFeatureGroupIndicators */
+   if (pvalue->m & 0x10u) {
+      RT_SET_SIZE(ctx, 4, 4);
+      stat = pe_BitString32(ctx, &pvalue->eutraFeatureGroupIndicators, 4, 4);
+      RT_CHECK(ctx, stat, 0, "eutraFeatureGroupIndicators", -1, "MultiModeRAT-Capability-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_N_308(rtxContext* RT_RESTRICT ctx, N_308 value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "N-308");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "N-308");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "N-308");
+   return 0;
+}
+
+int asn1PE_UMTS_N_312_r5(rtxContext* RT_RESTRICT ctx, N_312_r5 value)
+{
+   int stat = 0;
+   if (value > 11) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "N-312-r5");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 11);
+   RT_CHECK(ctx, stat, 0, 0, -1, "N-312-r5");
+   return 0;
+}
+
+int asn1PE_UMTS_N_315_r5(rtxContext* RT_RESTRICT ctx, N_315_r5 value)
+{
+   int stat = 0;
+   if (value > 11) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "N-315-r5");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 11);
+   RT_CHECK(ctx, stat, 0, 0, -1, "N-315-r5");
+   return 0;
+}
+
+int asn1PE_UMTS_NeighCellSI_AcquisitionCapability_supportOfIntraFreqSIAcquisitionForHO(rtxContext* RT_RESTRICT ctx, NeighCellSI_AcquisitionCapability_supportOfIntraFreqSIAcquisitionForHO value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_NeighCellSI_AcquisitionCapability_supportOfInterFreqSIAcquisitionForHO(rtxContext* RT_RESTRICT ctx, NeighCellSI_AcquisitionCapability_supportOfInterFreqSIAcquisitionForHO value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_NeighCellSI_AcquisitionCapability_supportOfE_UtraSIAcquisitionForHO(rtxContext* RT_RESTRICT ctx, NeighCellSI_AcquisitionCapability_supportOfE_UtraSIAcquisitionForHO value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_NeighCellSI_AcquisitionCapability(rtxContext* RT_RESTRICT ctx, const NeighCellSI_AcquisitionCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NeighCellSI-AcquisitionCapability");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NeighCellSI-AcquisitionCapability");
+   /* supportOfIntraFreqSIAcquisitionForHO */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportOfIntraFreqSIAcquisitionForHO > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfIntraFreqSIAcquisitionForHO);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfIntraFreqSIAcquisitionForHO", -1, "NeighCellSI-AcquisitionCapability");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfIntraFreqSIAcquisitionForHO, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportOfIntraFreqSIAcquisitionForHO", -1, "NeighCellSI-AcquisitionCapability");
+   }
+   /* supportOfInterFreqSIAcquisitionForHO */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->supportOfInterFreqSIAcquisitionForHO > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfInterFreqSIAcquisitionForHO);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfInterFreqSIAcquisitionForHO", -1, "NeighCellSI-AcquisitionCapability");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfInterFreqSIAcquisitionForHO, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportOfInterFreqSIAcquisitionForHO", -1, "NeighCellSI-AcquisitionCapability");
+   }
+   /* supportOfE-UtraSIAcquisitionForHO */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->supportOfE_UtraSIAcquisitionForHO > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfE_UtraSIAcquisitionForHO);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfE-UtraSIAcquisitionForHO", -1, "NeighCellSI-AcquisitionCapability");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfE_UtraSIAcquisitionForHO, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportOfE-UtraSIAcquisitionForHO", -1, "NeighCellSI-AcquisitionCapability");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NetworkAssistedGANSS_Supported_List_element_gANSS_Id(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List_element_gANSS_Id value)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_GANSS_Signal_Id(rtxContext* RT_RESTRICT ctx, GANSS_Signal_Id value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 7u) {
+      rtxErrAddStrParm(ctx, "GANSS-Signal-Id");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "GANSS-Signal-Id");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "GANSS-Signal-Id");
+   return 0;
+}
+
+int asn1PE_UMTS_NetworkAssistedGANSS_Supported_List_element(rtxContext* RT_RESTRICT ctx, const NetworkAssistedGANSS_Supported_List_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* gANSS-Id */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->gANSS_Id > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->gANSS_Id);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "gANSS-Id", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->gANSS_Id, 0, 7);
+      RT_CHECK(ctx, stat, 0, "gANSS-Id", -1, 0);
+   }
+   /* gANSS-Mode */
+   if (pvalue->gANSS_Mode > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->gANSS_Mode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "GANSS-Mode", "gANSS-Mode", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->gANSS_Mode, 0, 3);
+   RT_CHECK(ctx, stat, "GANSS-Mode", "gANSS-Mode", -1, 0);
+   /* gANSS-SignalId */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->gANSS_SignalId > 7u) {
+         rtxErrAddStrParm(ctx, "GANSS-Signal-Id");
+         rtxErrAddUIntParm(ctx, pvalue->gANSS_SignalId);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "GANSS-Signal-Id", "gANSS-SignalId", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->gANSS_SignalId, 0, 7);
+      RT_CHECK(ctx, stat, "GANSS-Signal-Id", "gANSS-SignalId", -1, 0);
+   }
+   /* supportForUE-GANSS-TimingOfCellFrames */
+   stat = rtxEncBit(ctx, pvalue->supportForUE_GANSS_TimingOfCellFrames);
+   RT_CHECK(ctx, stat, 0, "supportForUE-GANSS-TimingOfCellFrames", -1, 0);
+   /* supportForUE-GANSS-CarrierPhaseMeasurement */
+   if (pvalue->m & 0x4u) {
+      stat = rtxEncBit(ctx, pvalue->supportForUE_GANSS_CarrierPhaseMeasurement);
+      RT_CHECK(ctx, stat, 0, "supportForUE-GANSS-CarrierPhaseMeasurement", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NetworkAssistedGANSS_Supported_List(rtxContext* RT_RESTRICT ctx, const NetworkAssistedGANSS_Supported_List* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NetworkAssistedGANSS-Supported-List");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NetworkAssistedGANSS-Supported-List");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "NetworkAssistedGANSS-Supported-List");
+      stat = asn1PE_UMTS_NetworkAssistedGANSS_Supported_List_element(ctx, (const NetworkAssistedGANSS_Supported_List_element*)node->data);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "NetworkAssistedGANSS-Supported-List");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NetworkAssistedGANSS_Supported_List_v860ext_element_non_native_AD_choices_supported(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List_v860ext_element_non_native_AD_choices_supported value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_NetworkAssistedGANSS_Supported_List_v860ext_element(rtxContext* RT_RESTRICT ctx, const NetworkAssistedGANSS_Supported_List_v860ext_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sbas-Ids */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pe_BitString32(ctx, &pvalue->sbas_Ids, 8, 8);
+      RT_CHECK(ctx, stat, 0, "sbas-Ids", -1, 0);
+   }
+   /* gANSS-SignalIds */
+   if (pvalue->m & 0x2u) {
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pe_BitString32(ctx, &pvalue->gANSS_SignalIds, 8, 8);
+      RT_CHECK(ctx, stat, 0, "gANSS-SignalIds", -1, 0);
+   }
+   /* non-native-AD-choices-supported */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->non_native_AD_choices_supported > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->non_native_AD_choices_supported);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "non-native-AD-choices-supported", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->non_native_AD_choices_supported, 0, 0);
+      RT_CHECK(ctx, stat, 0, "non-native-AD-choices-supported", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NetworkAssistedGANSS_Supported_List_v860ext(rtxContext* RT_RESTRICT ctx, const NetworkAssistedGANSS_Supported_List_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NetworkAssistedGANSS-Supported-List-v860ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NetworkAssistedGANSS-Supported-List-v860ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "NetworkAssistedGANSS-Supported-List-v860ext");
+      stat = asn1PE_UMTS_NetworkAssistedGANSS_Supported_List_v860ext_element(ctx, (const NetworkAssistedGANSS_Supported_List_v860ext_element*)node->data);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "NetworkAssistedGANSS-Supported-List-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NetworkAssistedGPS_Supported(rtxContext* RT_RESTRICT ctx, NetworkAssistedGPS_Supported value)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "NetworkAssistedGPS-Supported");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NetworkAssistedGPS-Supported");
+   return 0;
+}
+
+int asn1PE_UMTS_PagingCause(rtxContext* RT_RESTRICT ctx, PagingCause value)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "PagingCause");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PagingCause");
+   return 0;
+}
+
+int asn1PE_UMTS_PagingRecord_cn_Identity(rtxContext* RT_RESTRICT ctx, const PagingRecord_cn_Identity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* pagingCause */
+   if (pvalue->pagingCause > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->pagingCause);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "PagingCause", "pagingCause", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->pagingCause, 0, 7);
+   RT_CHECK(ctx, stat, "PagingCause", "pagingCause", -1, 0);
+   /* cn-DomainIdentity */
+   if (pvalue->cn_DomainIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, 0);
+   /* cn-pagedUE-Identity */
+   stat = asn1PE_UMTS_CN_PagedUE_Identity(ctx, &pvalue->cn_pagedUE_Identity);
+   RT_CHECK(ctx, stat, 0, "cn-pagedUE-Identity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_Identity(rtxContext* RT_RESTRICT ctx, SRNC_Identity value)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 12, 12);
+   stat = pe_BitString32(ctx, &value, 12, 12);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-Identity");
+   return 0;
+}
+
+int asn1PE_UMTS_S_RNTI(rtxContext* RT_RESTRICT ctx, S_RNTI value)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 20, 20);
+   stat = pe_BitString32(ctx, &value, 20, 20);
+   RT_CHECK(ctx, stat, 0, 0, -1, "S-RNTI");
+   return 0;
+}
+
+int asn1PE_UMTS_U_RNTI(rtxContext* RT_RESTRICT ctx, const U_RNTI* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "U-RNTI");
+   /* srnc-Identity */
+   stat = asn1PE_UMTS_SRNC_Identity(ctx, pvalue->srnc_Identity);
+   RT_CHECK(ctx, stat, 0, "srnc-Identity", -1, "U-RNTI");
+   /* s-RNTI */
+   stat = asn1PE_UMTS_S_RNTI(ctx, pvalue->s_RNTI);
+   RT_CHECK(ctx, stat, 0, "s-RNTI", -1, "U-RNTI");
+   return 0;
+}
+
+int asn1PE_UMTS_PagingRecord_utran_Identity_cn_OriginatedPage_connectedMode_UE(rtxContext* RT_RESTRICT ctx, const PagingRecord_utran_Identity_cn_OriginatedPage_connectedMode_UE* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* pagingCause */
+   if (pvalue->pagingCause > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->pagingCause);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "PagingCause", "pagingCause", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->pagingCause, 0, 7);
+   RT_CHECK(ctx, stat, "PagingCause", "pagingCause", -1, 0);
+   /* cn-DomainIdentity */
+   if (pvalue->cn_DomainIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, 0);
+   /* pagingRecordTypeID */
+   if (pvalue->pagingRecordTypeID > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->pagingRecordTypeID);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "PagingRecordTypeID", "pagingRecordTypeID", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->pagingRecordTypeID, 0, 3);
+   RT_CHECK(ctx, stat, "PagingRecordTypeID", "pagingRecordTypeID", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PagingRecord_utran_Identity(rtxContext* RT_RESTRICT ctx, const PagingRecord_utran_Identity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* u-RNTI */
+   stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, 0);
+   /* cn-OriginatedPage-connectedMode-UE */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PagingRecord_utran_Identity_cn_OriginatedPage_connectedMode_UE(ctx, &pvalue->cn_OriginatedPage_connectedMode_UE);
+      RT_CHECK(ctx, stat, 0, "cn-OriginatedPage-connectedMode-UE", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PagingRecord(rtxContext* RT_RESTRICT ctx, const PagingRecord* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PagingRecord");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "PagingRecord");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PagingRecord");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.cn_Identity == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cn-Identity", -1, "PagingRecord");
+         stat = asn1PE_UMTS_PagingRecord_cn_Identity(ctx, pvalue->u.cn_Identity);
+         RT_CHECK(ctx, stat, 0, "cn-Identity", -1, "PagingRecord");
+         break;
+      case 2:
+         if (pvalue->u.utran_Identity == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "utran-Identity", -1, "PagingRecord");
+         stat = asn1PE_UMTS_PagingRecord_utran_Identity(ctx, pvalue->u.utran_Identity);
+         RT_CHECK(ctx, stat, 0, "utran-Identity", -1, "PagingRecord");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PagingRecord2_r5_utran_SingleUE_Identity_cn_OriginatedPage_connectedMode_UE(rtxContext* RT_RESTRICT ctx, const PagingRecord2_r5_utran_SingleUE_Identity_cn_OriginatedPage_connectedMode_UE* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* pagingCause */
+   if (pvalue->pagingCause > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->pagingCause);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "PagingCause", "pagingCause", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->pagingCause, 0, 7);
+   RT_CHECK(ctx, stat, "PagingCause", "pagingCause", -1, 0);
+   /* cn-DomainIdentity */
+   if (pvalue->cn_DomainIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, 0);
+   /* pagingRecordTypeID */
+   if (pvalue->pagingRecordTypeID > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->pagingRecordTypeID);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "PagingRecordTypeID", "pagingRecordTypeID", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->pagingRecordTypeID, 0, 3);
+   RT_CHECK(ctx, stat, "PagingRecordTypeID", "pagingRecordTypeID", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PagingRecord2_r5_utran_SingleUE_Identity(rtxContext* RT_RESTRICT ctx, const PagingRecord2_r5_utran_SingleUE_Identity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* u-RNTI */
+   stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, 0);
+   /* cn-OriginatedPage-connectedMode-UE */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PagingRecord2_r5_utran_SingleUE_Identity_cn_OriginatedPage_connectedMode_UE(ctx, &pvalue->cn_OriginatedPage_connectedMode_UE);
+      RT_CHECK(ctx, stat, 0, "cn-OriginatedPage-connectedMode-UE", -1, 0);
+   }
+   /* rrc-ConnectionReleaseInformation */
+   stat = asn1PE_UMTS_RRC_ConnectionReleaseInformation(ctx, &pvalue->rrc_ConnectionReleaseInformation);
+   RT_CHECK(ctx, stat, 0, "rrc-ConnectionReleaseInformation", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PagingRecord2_r5_utran_GroupIdentity(rtxContext* RT_RESTRICT ctx, const PagingRecord2_r5_utran_GroupIdentity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GroupIdentityWithReleaseInformation", (int32_t)i, 0);
+      stat = asn1PE_UMTS_GroupIdentityWithReleaseInformation(ctx, (const GroupIdentityWithReleaseInformation*)node->data);
+      RT_CHECK(ctx, stat, 0, "GroupIdentityWithReleaseInformation", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PagingRecord2_r5(rtxContext* RT_RESTRICT ctx, const PagingRecord2_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PagingRecord2-r5");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "PagingRecord2-r5");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PagingRecord2-r5");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.utran_SingleUE_Identity == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "utran-SingleUE-Identity", -1, "PagingRecord2-r5");
+         stat = asn1PE_UMTS_PagingRecord2_r5_utran_SingleUE_Identity(ctx, pvalue->u.utran_SingleUE_Identity);
+         RT_CHECK(ctx, stat, 0, "utran-SingleUE-Identity", -1, "PagingRecord2-r5");
+         break;
+      case 2:
+         if (pvalue->u.utran_GroupIdentity == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "utran-GroupIdentity", -1, "PagingRecord2-r5");
+         stat = asn1PE_UMTS_PagingRecord2_r5_utran_GroupIdentity(ctx, pvalue->u.utran_GroupIdentity);
+         RT_CHECK(ctx, stat, 0, "utran-GroupIdentity", -1, "PagingRecord2-r5");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PagingRecordList(rtxContext* RT_RESTRICT ctx, const PagingRecordList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PagingRecordList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PagingRecordList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PagingRecord", (int32_t)i, "PagingRecordList");
+      stat = asn1PE_UMTS_PagingRecord(ctx, (const PagingRecord*)node->data);
+      RT_CHECK(ctx, stat, 0, "PagingRecord", (int32_t)i, "PagingRecordList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PagingRecord2List_r5(rtxContext* RT_RESTRICT ctx, const PagingRecord2List_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PagingRecord2List-r5");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PagingRecord2List-r5");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PagingRecord2-r5", (int32_t)i, "PagingRecord2List-r5");
+      stat = asn1PE_UMTS_PagingRecord2_r5(ctx, (const PagingRecord2_r5*)node->data);
+      RT_CHECK(ctx, stat, 0, "PagingRecord2-r5", (int32_t)i, "PagingRecord2List-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_Capability_supportForRfc2507(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_supportForRfc2507* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.supported > 4) {
+            rtxErrAddUIntParm(ctx, pvalue->u.supported);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxHcContextSpace", "supported", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.supported, 0, 4);
+         RT_CHECK(ctx, stat, "MaxHcContextSpace", "supported", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_Capability(rtxContext* RT_RESTRICT ctx, const PDCP_Capability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDCP-Capability");
+   /* losslessSRNS-RelocationSupport */
+   stat = rtxEncBit(ctx, pvalue->losslessSRNS_RelocationSupport);
+   RT_CHECK(ctx, stat, 0, "losslessSRNS-RelocationSupport", -1, "PDCP-Capability");
+   /* supportForRfc2507 */
+   stat = asn1PE_UMTS_PDCP_Capability_supportForRfc2507(ctx, &pvalue->supportForRfc2507);
+   RT_CHECK(ctx, stat, 0, "supportForRfc2507", -1, "PDCP-Capability");
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_Capability_r4_ext_supportForRfc3095_supported(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_r4_ext_supportForRfc3095_supported* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->maxROHC_ContextSessions != 4) << 1) |
+      ((uint64_t)(pvalue->reverseCompressionDepth != 0) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* maxROHC-ContextSessions */
+   if (pvalue->maxROHC_ContextSessions != 4) {
+      if (pvalue->maxROHC_ContextSessions > 13) {
+         rtxErrAddUIntParm(ctx, pvalue->maxROHC_ContextSessions);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MaxROHC-ContextSessions-r4", "maxROHC-ContextSessions", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->maxROHC_ContextSessions, 0, 13);
+      RT_CHECK(ctx, stat, "MaxROHC-ContextSessions-r4", "maxROHC-ContextSessions", -1, 0);
+   }
+   /* reverseCompressionDepth */
+   if (pvalue->reverseCompressionDepth != 0) {
+      stat = pe_ConsUInt64(ctx, pvalue->reverseCompressionDepth, 0, 65535);
+      RT_CHECK(ctx, stat, 0, "reverseCompressionDepth", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_Capability_r4_ext_supportForRfc3095(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_r4_ext_supportForRfc3095* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "supported", -1, 0);
+         stat = asn1PE_UMTS_PDCP_Capability_r4_ext_supportForRfc3095_supported(ctx, pvalue->u.supported);
+         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_Capability_r4_ext(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_r4_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDCP-Capability-r4-ext");
+   /* supportForRfc3095 */
+   stat = asn1PE_UMTS_PDCP_Capability_r4_ext_supportForRfc3095(ctx, &pvalue->supportForRfc3095);
+   RT_CHECK(ctx, stat, 0, "supportForRfc3095", -1, "PDCP-Capability-r4-ext");
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_Capability_r5_ext(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_r5_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDCP-Capability-r5-ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PDCP-Capability-r5-ext");
+   /* supportForRfc3095ContextRelocation */
+   stat = rtxEncBit(ctx, pvalue->supportForRfc3095ContextRelocation);
+   RT_CHECK(ctx, stat, 0, "supportForRfc3095ContextRelocation", -1, "PDCP-Capability-r5-ext");
+   /* maxHcContextSpace */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->maxHcContextSpace > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->maxHcContextSpace);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MaxHcContextSpace-r5-ext", "maxHcContextSpace", -1, "PDCP-Capability-r5-ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->maxHcContextSpace, 0, 3);
+      RT_CHECK(ctx, stat, "MaxHcContextSpace-r5-ext", "maxHcContextSpace", -1, "PDCP-Capability-r5-ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_Capability_r5_ext2_losslessDLRLC_PDUSizeChange(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r5_ext2_losslessDLRLC_PDUSizeChange value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_Capability_r5_ext2(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_r5_ext2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDCP-Capability-r5-ext2");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PDCP-Capability-r5-ext2");
+   /* losslessDLRLC-PDUSizeChange */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->losslessDLRLC_PDUSizeChange > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->losslessDLRLC_PDUSizeChange);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "losslessDLRLC-PDUSizeChange", -1, "PDCP-Capability-r5-ext2");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->losslessDLRLC_PDUSizeChange, 0, 0);
+      RT_CHECK(ctx, stat, 0, "losslessDLRLC-PDUSizeChange", -1, "PDCP-Capability-r5-ext2");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_Capability_v770ext_supportForCSVoiceoverHSPA(rtxContext* RT_RESTRICT ctx, PDCP_Capability_v770ext_supportForCSVoiceoverHSPA value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_Capability_v770ext(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDCP-Capability-v770ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PDCP-Capability-v770ext");
+   /* supportForCSVoiceoverHSPA */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportForCSVoiceoverHSPA > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportForCSVoiceoverHSPA);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportForCSVoiceoverHSPA", -1, "PDCP-Capability-v770ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportForCSVoiceoverHSPA, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportForCSVoiceoverHSPA", -1, "PDCP-Capability-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_PhysChCapabilityFDD(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityFDD* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-PhysChCapabilityFDD");
+   /* maxNoDPDCH-BitsTransmitted */
+   if (pvalue->maxNoDPDCH_BitsTransmitted > 9) {
+      rtxErrAddUIntParm(ctx, pvalue->maxNoDPDCH_BitsTransmitted);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNoDPDCH-BitsTransmitted", "maxNoDPDCH-BitsTransmitted", -1, "UL-PhysChCapabilityFDD");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxNoDPDCH_BitsTransmitted, 0, 9);
+   RT_CHECK(ctx, stat, "MaxNoDPDCH-BitsTransmitted", "maxNoDPDCH-BitsTransmitted", -1, "UL-PhysChCapabilityFDD");
+   /* dummy */
+   stat = rtxEncBit(ctx, pvalue->dummy);
+   RT_CHECK(ctx, stat, 0, "dummy", -1, "UL-PhysChCapabilityFDD");
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_fddPhysChCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* downlinkPhysChCapability */
+   stat = asn1PE_UMTS_DL_PhysChCapabilityFDD(ctx, &pvalue->downlinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = asn1PE_UMTS_UL_PhysChCapabilityFDD(ctx, &pvalue->uplinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_PhysChCapabilityTDD(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-PhysChCapabilityTDD");
+   /* maxTS-PerFrame */
+   if ((uint64_t)(pvalue->maxTS_PerFrame - 1) > 13u) {
+      rtxErrAddStrParm(ctx, "MaxTS-PerFrame");
+      rtxErrAddUIntParm(ctx, pvalue->maxTS_PerFrame);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "UL-PhysChCapabilityTDD");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxTS_PerFrame, 1, 14);
+   RT_CHECK(ctx, stat, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "UL-PhysChCapabilityTDD");
+   /* maxPhysChPerTimeslot */
+   if (pvalue->maxPhysChPerTimeslot > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerTimeslot);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxPhysChPerTimeslot", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityTDD");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerTimeslot, 0, 1);
+   RT_CHECK(ctx, stat, "MaxPhysChPerTimeslot", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityTDD");
+   /* minimumSF */
+   if (pvalue->minimumSF > 4) {
+      rtxErrAddUIntParm(ctx, pvalue->minimumSF);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MinimumSF-UL", "minimumSF", -1, "UL-PhysChCapabilityTDD");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->minimumSF, 0, 4);
+   RT_CHECK(ctx, stat, "MinimumSF-UL", "minimumSF", -1, "UL-PhysChCapabilityTDD");
+   /* supportOfPUSCH */
+   stat = rtxEncBit(ctx, pvalue->supportOfPUSCH);
+   RT_CHECK(ctx, stat, 0, "supportOfPUSCH", -1, "UL-PhysChCapabilityTDD");
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_tddPhysChCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_tddPhysChCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* downlinkPhysChCapability */
+   stat = asn1PE_UMTS_DL_PhysChCapabilityTDD(ctx, &pvalue->downlinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = asn1PE_UMTS_UL_PhysChCapabilityTDD(ctx, &pvalue->uplinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelCapability");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelCapability");
+   /* fddPhysChCapability */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PhysicalChannelCapability_fddPhysChCapability(ctx, &pvalue->fddPhysChCapability);
+      RT_CHECK(ctx, stat, 0, "fddPhysChCapability", -1, "PhysicalChannelCapability");
+   }
+   /* tddPhysChCapability */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_PhysicalChannelCapability_tddPhysChCapability(ctx, &pvalue->tddPhysChCapability);
+      RT_CHECK(ctx, stat, 0, "tddPhysChCapability", -1, "PhysicalChannelCapability");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_PhysChCapabilityFDD_v770ext_discontinuousDpcchTransmission(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD_v770ext_discontinuousDpcchTransmission value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_PhysChCapabilityFDD_v770ext_slotFormat4(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD_v770ext_slotFormat4 value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_PhysChCapabilityFDD_v770ext(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityFDD_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-PhysChCapabilityFDD-v770ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-PhysChCapabilityFDD-v770ext");
+   /* edch-PhysicalLayerCategory-extension */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->edch_PhysicalLayerCategory_extension - 7) > 0u) {
+         rtxErrAddStrParm(ctx, "edch-PhysicalLayerCategory-extension");
+         rtxErrAddUIntParm(ctx, pvalue->edch_PhysicalLayerCategory_extension);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "edch-PhysicalLayerCategory-extension", -1, "UL-PhysChCapabilityFDD-v770ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->edch_PhysicalLayerCategory_extension, 7, 7);
+      RT_CHECK(ctx, stat, 0, "edch-PhysicalLayerCategory-extension", -1, "UL-PhysChCapabilityFDD-v770ext");
+   }
+   /* discontinuousDpcchTransmission */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->discontinuousDpcchTransmission > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->discontinuousDpcchTransmission);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "discontinuousDpcchTransmission", -1, "UL-PhysChCapabilityFDD-v770ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->discontinuousDpcchTransmission, 0, 0);
+      RT_CHECK(ctx, stat, 0, "discontinuousDpcchTransmission", -1, "UL-PhysChCapabilityFDD-v770ext");
+   }
+   /* slotFormat4 */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->slotFormat4 > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->slotFormat4);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "slotFormat4", -1, "UL-PhysChCapabilityFDD-v770ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->slotFormat4, 0, 0);
+      RT_CHECK(ctx, stat, 0, "slotFormat4", -1, "UL-PhysChCapabilityFDD-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_v770ext_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v770ext_fddPhysChCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* downlinkPhysChCapability */
+   stat = asn1PE_UMTS_DL_PhysChCapabilityFDD_v770ext(ctx, &pvalue->downlinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = asn1PE_UMTS_UL_PhysChCapabilityFDD_v770ext(ctx, &pvalue->uplinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tdd-edch-PhysicalLayerCategory */
+   if ((uint64_t)(pvalue->tdd_edch_PhysicalLayerCategory - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "tdd-edch-PhysicalLayerCategory");
+      rtxErrAddUIntParm(ctx, pvalue->tdd_edch_PhysicalLayerCategory);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "tdd-edch-PhysicalLayerCategory", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->tdd_edch_PhysicalLayerCategory, 1, 16);
+   RT_CHECK(ctx, stat, 0, "tdd-edch-PhysicalLayerCategory", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "supported", -1, 0);
+         stat = asn1PE_UMTS_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported(ctx, pvalue->u.supported);
+         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_PhysChCapabilityTDD_384_v770ext(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_384_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-PhysChCapabilityTDD-384-v770ext");
+   /* tdd384-edch */
+   stat = asn1PE_UMTS_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch(ctx, &pvalue->tdd384_edch);
+   RT_CHECK(ctx, stat, 0, "tdd384-edch", -1, "UL-PhysChCapabilityTDD-384-v770ext");
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_384(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v770ext_tddPhysChCapability_384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* uplinkPhysChCapability */
+   stat = asn1PE_UMTS_UL_PhysChCapabilityTDD_384_v770ext(ctx, &pvalue->uplinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_PhysChCapabilityTDD_768_tdd384_edch_supported(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_768_tdd384_edch_supported* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tdd-edch-PhysicalLayerCategory */
+   if ((uint64_t)(pvalue->tdd_edch_PhysicalLayerCategory - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "tdd-edch-PhysicalLayerCategory");
+      rtxErrAddUIntParm(ctx, pvalue->tdd_edch_PhysicalLayerCategory);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "tdd-edch-PhysicalLayerCategory", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->tdd_edch_PhysicalLayerCategory, 1, 16);
+   RT_CHECK(ctx, stat, 0, "tdd-edch-PhysicalLayerCategory", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_PhysChCapabilityTDD_768_tdd384_edch(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_768_tdd384_edch* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "supported", -1, 0);
+         stat = asn1PE_UMTS_UL_PhysChCapabilityTDD_768_tdd384_edch_supported(ctx, pvalue->u.supported);
+         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_PhysChCapabilityTDD_768(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-PhysChCapabilityTDD-768");
+   /* maxTS-PerFrame */
+   if ((uint64_t)(pvalue->maxTS_PerFrame - 1) > 13u) {
+      rtxErrAddStrParm(ctx, "MaxTS-PerFrame");
+      rtxErrAddUIntParm(ctx, pvalue->maxTS_PerFrame);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "UL-PhysChCapabilityTDD-768");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxTS_PerFrame, 1, 14);
+   RT_CHECK(ctx, stat, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "UL-PhysChCapabilityTDD-768");
+   /* maxPhysChPerTimeslot */
+   if (pvalue->maxPhysChPerTimeslot > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerTimeslot);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxPhysChPerTimeslot", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityTDD-768");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerTimeslot, 0, 1);
+   RT_CHECK(ctx, stat, "MaxPhysChPerTimeslot", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityTDD-768");
+   /* minimumSF */
+   if (pvalue->minimumSF > 4) {
+      rtxErrAddUIntParm(ctx, pvalue->minimumSF);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MinimumSF-UL", "minimumSF", -1, "UL-PhysChCapabilityTDD-768");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->minimumSF, 0, 4);
+   RT_CHECK(ctx, stat, "MinimumSF-UL", "minimumSF", -1, "UL-PhysChCapabilityTDD-768");
+   /* supportOfPUSCH */
+   stat = rtxEncBit(ctx, pvalue->supportOfPUSCH);
+   RT_CHECK(ctx, stat, 0, "supportOfPUSCH", -1, "UL-PhysChCapabilityTDD-768");
+   /* tdd384-edch */
+   stat = asn1PE_UMTS_UL_PhysChCapabilityTDD_768_tdd384_edch(ctx, &pvalue->tdd384_edch);
+   RT_CHECK(ctx, stat, 0, "tdd384-edch", -1, "UL-PhysChCapabilityTDD-768");
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_768(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v770ext_tddPhysChCapability_768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* downlinkPhysChCapability */
+   stat = asn1PE_UMTS_DL_PhysChCapabilityTDD_768(ctx, &pvalue->downlinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = asn1PE_UMTS_UL_PhysChCapabilityTDD_768(ctx, &pvalue->uplinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tdd-edch-PhysicalLayerCategory */
+   if ((uint64_t)(pvalue->tdd_edch_PhysicalLayerCategory - 1) > 5u) {
+      rtxErrAddStrParm(ctx, "tdd-edch-PhysicalLayerCategory");
+      rtxErrAddUIntParm(ctx, pvalue->tdd_edch_PhysicalLayerCategory);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "tdd-edch-PhysicalLayerCategory", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->tdd_edch_PhysicalLayerCategory, 1, 6);
+   RT_CHECK(ctx, stat, 0, "tdd-edch-PhysicalLayerCategory", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "supported", -1, 0);
+         stat = asn1PE_UMTS_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported(ctx, pvalue->u.supported);
+         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_PhysChCapabilityTDD_128_v770ext(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_128_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-PhysChCapabilityTDD-128-v770ext");
+   /* maxPhysChPerTimeslot */
+   if ((uint64_t)(pvalue->maxPhysChPerTimeslot - 1) > 3u) {
+      rtxErrAddStrParm(ctx, "MaxPhysChPerTimeslot-LCR-r7");
+      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerTimeslot);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxPhysChPerTimeslot-LCR-r7", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityTDD-128-v770ext");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerTimeslot, 1, 4);
+   RT_CHECK(ctx, stat, "MaxPhysChPerTimeslot-LCR-r7", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityTDD-128-v770ext");
+   /* tdd128-edch */
+   stat = asn1PE_UMTS_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch(ctx, &pvalue->tdd128_edch);
+   RT_CHECK(ctx, stat, 0, "tdd128-edch", -1, "UL-PhysChCapabilityTDD-128-v770ext");
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_128(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v770ext_tddPhysChCapability_128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* downlinkPhysChCapability */
+   stat = asn1PE_UMTS_DL_PhysChCapabilityTDD_128_v770ext(ctx, &pvalue->downlinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = asn1PE_UMTS_UL_PhysChCapabilityTDD_128_v770ext(ctx, &pvalue->uplinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_v770ext(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelCapability-v770ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelCapability-v770ext");
+   /* fddPhysChCapability */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PhysicalChannelCapability_v770ext_fddPhysChCapability(ctx, &pvalue->fddPhysChCapability);
+      RT_CHECK(ctx, stat, 0, "fddPhysChCapability", -1, "PhysicalChannelCapability-v770ext");
+   }
+   /* tddPhysChCapability-384 */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_384(ctx, &pvalue->tddPhysChCapability_384);
+      RT_CHECK(ctx, stat, 0, "tddPhysChCapability-384", -1, "PhysicalChannelCapability-v770ext");
+   }
+   /* tddPhysChCapability-768 */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_768(ctx, &pvalue->tddPhysChCapability_768);
+      RT_CHECK(ctx, stat, 0, "tddPhysChCapability-768", -1, "PhysicalChannelCapability-v770ext");
+   }
+   /* tddPhysChCapability-128 */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_128(ctx, &pvalue->tddPhysChCapability_128);
+      RT_CHECK(ctx, stat, 0, "tddPhysChCapability-128", -1, "PhysicalChannelCapability-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_v860ext_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v860ext_fddPhysChCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* downlinkPhysChCapability */
+   stat = asn1PE_UMTS_DL_PhysChCapabilityFDD_v860ext(ctx, &pvalue->downlinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_v860ext_tddPhysChCapability_128(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v860ext_tddPhysChCapability_128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* downlinkPhysChCapability */
+   stat = asn1PE_UMTS_DL_PhysChCapabilityTDD_128_v860ext(ctx, &pvalue->downlinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_v860ext(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelCapability-v860ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelCapability-v860ext");
+   /* fddPhysChCapability */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PhysicalChannelCapability_v860ext_fddPhysChCapability(ctx, &pvalue->fddPhysChCapability);
+      RT_CHECK(ctx, stat, 0, "fddPhysChCapability", -1, "PhysicalChannelCapability-v860ext");
+   }
+   /* tddPhysChCapability-128 */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_PhysicalChannelCapability_v860ext_tddPhysChCapability_128(ctx, &pvalue->tddPhysChCapability_128);
+      RT_CHECK(ctx, stat, 0, "tddPhysChCapability-128", -1, "PhysicalChannelCapability-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_PhysChCapabilityFDD_v920ext(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityFDD_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-PhysChCapabilityFDD-v920ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-PhysChCapabilityFDD-v920ext");
+   /* edch-PhysicalLayerCategory-extension2 */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->edch_PhysicalLayerCategory_extension2 - 8) > 1u) {
+         rtxErrAddStrParm(ctx, "edch-PhysicalLayerCategory-extension2");
+         rtxErrAddUIntParm(ctx, pvalue->edch_PhysicalLayerCategory_extension2);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "edch-PhysicalLayerCategory-extension2", -1, "UL-PhysChCapabilityFDD-v920ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->edch_PhysicalLayerCategory_extension2, 8, 9);
+      RT_CHECK(ctx, stat, 0, "edch-PhysicalLayerCategory-extension2", -1, "UL-PhysChCapabilityFDD-v920ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_v920ext_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v920ext_fddPhysChCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* downlinkPhysChCapability */
+   stat = asn1PE_UMTS_DL_PhysChCapabilityFDD_v920ext(ctx, &pvalue->downlinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = asn1PE_UMTS_UL_PhysChCapabilityFDD_v920ext(ctx, &pvalue->uplinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_v920ext(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelCapability-v920ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelCapability-v920ext");
+   /* fddPhysChCapability */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PhysicalChannelCapability_v920ext_fddPhysChCapability(ctx, &pvalue->fddPhysChCapability);
+      RT_CHECK(ctx, stat, 0, "fddPhysChCapability", -1, "PhysicalChannelCapability-v920ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_768(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* downlinkPhysChCapability */
+   stat = asn1PE_UMTS_DL_PhysChCapabilityInfoTDD_768(ctx, &pvalue->downlinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = asn1PE_UMTS_UL_PhysChCapabilityTDD(ctx, &pvalue->uplinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_PhysChCapabilityInfoTDD_128_v770ext(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityInfoTDD_128_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-PhysChCapabilityInfoTDD-128-v770ext");
+   /* maxPhysChPerTimeslot */
+   if ((uint64_t)(pvalue->maxPhysChPerTimeslot - 1) > 3u) {
+      rtxErrAddStrParm(ctx, "MaxPhysChPerTimeslot-LCR-r7");
+      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerTimeslot);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxPhysChPerTimeslot-LCR-r7", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityInfoTDD-128-v770ext");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerTimeslot, 1, 4);
+   RT_CHECK(ctx, stat, "MaxPhysChPerTimeslot-LCR-r7", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityInfoTDD-128-v770ext");
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_128(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* uplinkPhysChCapability */
+   stat = asn1PE_UMTS_UL_PhysChCapabilityInfoTDD_128_v770ext(ctx, &pvalue->uplinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapabilityInfo_v770ext(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapabilityInfo_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelCapabilityInfo-v770ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelCapabilityInfo-v770ext");
+   /* tddPhysChCapability-768 */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_768(ctx, &pvalue->tddPhysChCapability_768);
+      RT_CHECK(ctx, stat, 0, "tddPhysChCapability-768", -1, "PhysicalChannelCapabilityInfo-v770ext");
+   }
+   /* tddPhysChCapability-128 */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_128(ctx, &pvalue->tddPhysChCapability_128);
+      RT_CHECK(ctx, stat, 0, "tddPhysChCapability-128", -1, "PhysicalChannelCapabilityInfo-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_PhysChCapabilityTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-PhysChCapabilityTDD-LCR-r4");
+   /* maxTS-PerSubFrame */
+   if ((uint64_t)(pvalue->maxTS_PerSubFrame - 1) > 5u) {
+      rtxErrAddStrParm(ctx, "MaxTS-PerSubFrame-r4");
+      rtxErrAddUIntParm(ctx, pvalue->maxTS_PerSubFrame);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxTS-PerSubFrame-r4", "maxTS-PerSubFrame", -1, "UL-PhysChCapabilityTDD-LCR-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxTS_PerSubFrame, 1, 6);
+   RT_CHECK(ctx, stat, "MaxTS-PerSubFrame-r4", "maxTS-PerSubFrame", -1, "UL-PhysChCapabilityTDD-LCR-r4");
+   /* maxPhysChPerTimeslot */
+   if (pvalue->maxPhysChPerTimeslot > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerTimeslot);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxPhysChPerTimeslot", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityTDD-LCR-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerTimeslot, 0, 1);
+   RT_CHECK(ctx, stat, "MaxPhysChPerTimeslot", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityTDD-LCR-r4");
+   /* minimumSF */
+   if (pvalue->minimumSF > 4) {
+      rtxErrAddUIntParm(ctx, pvalue->minimumSF);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MinimumSF-UL", "minimumSF", -1, "UL-PhysChCapabilityTDD-LCR-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->minimumSF, 0, 4);
+   RT_CHECK(ctx, stat, "MinimumSF-UL", "minimumSF", -1, "UL-PhysChCapabilityTDD-LCR-r4");
+   /* supportOfPUSCH */
+   stat = rtxEncBit(ctx, pvalue->supportOfPUSCH);
+   RT_CHECK(ctx, stat, 0, "supportOfPUSCH", -1, "UL-PhysChCapabilityTDD-LCR-r4");
+   /* supportOf8PSK */
+   stat = rtxEncBit(ctx, pvalue->supportOf8PSK);
+   RT_CHECK(ctx, stat, 0, "supportOf8PSK", -1, "UL-PhysChCapabilityTDD-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_LCR_r4_tdd128_PhysChCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_LCR_r4_tdd128_PhysChCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* downlinkPhysChCapability */
+   stat = asn1PE_UMTS_DL_PhysChCapabilityTDD_LCR_r4(ctx, &pvalue->downlinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = asn1PE_UMTS_UL_PhysChCapabilityTDD_LCR_r4(ctx, &pvalue->uplinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_LCR_r4(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelCapability-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelCapability-LCR-r4");
+   /* tdd128-PhysChCapability */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PhysicalChannelCapability_LCR_r4_tdd128_PhysChCapability(ctx, &pvalue->tdd128_PhysChCapability);
+      RT_CHECK(ctx, stat, 0, "tdd128-PhysChCapability", -1, "PhysicalChannelCapability-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* hsdsch-physical-layer-category */
+   if ((uint64_t)(pvalue->hsdsch_physical_layer_category - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category");
+      rtxErrAddUIntParm(ctx, pvalue->hsdsch_physical_layer_category);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category", "hsdsch-physical-layer-category", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->hsdsch_physical_layer_category, 1, 64);
+   RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category", "hsdsch-physical-layer-category", -1, 0);
+   /* dummy */
+   stat = rtxEncBit(ctx, pvalue->dummy);
+   RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   /* dummy2 */
+   stat = rtxEncBit(ctx, pvalue->dummy2);
+   RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "supported", -1, 0);
+         stat = asn1PE_UMTS_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported(ctx, pvalue->u.supported);
+         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_hspdsch_r5_tdd384_hspdsch(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_hspdsch_r5_tdd384_hspdsch* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)(pvalue->u.supported - 1) > 63u) {
+            rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category");
+            rtxErrAddUIntParm(ctx, pvalue->u.supported);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category", "supported", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.supported, 1, 64);
+         RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category", "supported", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_hspdsch_r5_tdd128_hspdsch(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_hspdsch_r5_tdd128_hspdsch* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)(pvalue->u.supported - 1) > 63u) {
+            rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category");
+            rtxErrAddUIntParm(ctx, pvalue->u.supported);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category", "supported", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.supported, 1, 64);
+         RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category", "supported", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
    return 0;
 }
 

@@ -6,9005 +6,9004 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PE_UMTS_UL_LogicalChannelMapping_rlc_SizeList(rtxContext* ctx, const UL_LogicalChannelMapping_rlc_SizeList* pvalue)
+int asn1PE_UMTS_PhysicalChannelCapability_hspdsch_r5(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_hspdsch_r5* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "allSizes");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "configured");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "explicitList");
-         if (pvalue->u.explicitList == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_RLC_SizeExplicitList(ctx, pvalue->u.explicitList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelCapability-hspdsch-r5");
+   /* fdd-hspdsch */
+   stat = asn1PE_UMTS_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch(ctx, &pvalue->fdd_hspdsch);
+   RT_CHECK(ctx, stat, 0, "fdd-hspdsch", -1, "PhysicalChannelCapability-hspdsch-r5");
+   /* tdd384-hspdsch */
+   stat = asn1PE_UMTS_PhysicalChannelCapability_hspdsch_r5_tdd384_hspdsch(ctx, &pvalue->tdd384_hspdsch);
+   RT_CHECK(ctx, stat, 0, "tdd384-hspdsch", -1, "PhysicalChannelCapability-hspdsch-r5");
+   /* tdd128-hspdsch */
+   stat = asn1PE_UMTS_PhysicalChannelCapability_hspdsch_r5_tdd128_hspdsch(ctx, &pvalue->tdd128_hspdsch);
+   RT_CHECK(ctx, stat, 0, "tdd128-hspdsch", -1, "PhysicalChannelCapability-hspdsch-r5");
    return 0;
 }
 
-int asn1PE_UMTS_MAC_LogicalChannelPriority(rtxContext* ctx, MAC_LogicalChannelPriority value)
+int asn1PE_UMTS_Pre_RedirectionInfo(rtxContext* RT_RESTRICT ctx, const Pre_RedirectionInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MAC-LogicalChannelPriority");
-   if ((uint64_t)(value - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Pre-RedirectionInfo");
+   /* supportEUTRA-FDD */
+   stat = rtxEncBit(ctx, pvalue->supportEUTRA_FDD);
+   RT_CHECK(ctx, stat, 0, "supportEUTRA-FDD", -1, "Pre-RedirectionInfo");
+   /* supportEUTRA-TDD */
+   stat = rtxEncBit(ctx, pvalue->supportEUTRA_TDD);
+   RT_CHECK(ctx, stat, 0, "supportEUTRA-TDD", -1, "Pre-RedirectionInfo");
    return 0;
 }
 
-int asn1PE_UMTS_UL_LogicalChannelMapping(rtxContext* ctx, const UL_LogicalChannelMapping* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-LogicalChannelMapping");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ul-TransportChannelType */
-   rtxCtxtPushElemName(ctx, "ul-TransportChannelType");
-   stat = asn1PE_UMTS_UL_TransportChannelType(ctx, &pvalue->ul_TransportChannelType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* logicalChannelIdentity */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "logicalChannelIdentity");
-      rtxCtxtPushTypeName(ctx, "LogicalChannelIdentity");
-      if ((uint64_t)(pvalue->logicalChannelIdentity - 1) > 14u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->logicalChannelIdentity);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->logicalChannelIdentity, 1, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rlc-SizeList */
-   rtxCtxtPushElemName(ctx, "rlc-SizeList");
-   stat = asn1PE_UMTS_UL_LogicalChannelMapping_rlc_SizeList(ctx, &pvalue->rlc_SizeList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* mac-LogicalChannelPriority */
-   rtxCtxtPushElemName(ctx, "mac-LogicalChannelPriority");
-   rtxCtxtPushTypeName(ctx, "MAC-LogicalChannelPriority");
-   if ((uint64_t)(pvalue->mac_LogicalChannelPriority - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->mac_LogicalChannelPriority);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mac_LogicalChannelPriority, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_LogicalChannelMappingList_ul_LogicalChannelMapping(rtxContext* ctx, const UL_LogicalChannelMappingList_ul_LogicalChannelMapping* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 2, 2);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "UL-LogicalChannelMapping", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_UL_LogicalChannelMapping(ctx, (const UL_LogicalChannelMapping*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_LogicalChannelMappingList(rtxContext* ctx, const UL_LogicalChannelMappingList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-LogicalChannelMappingList");
-   /* rlc-LogicalChannelMappingIndicator */
-   rtxCtxtPushElemName(ctx, "rlc-LogicalChannelMappingIndicator");
-   stat = rtxEncBit(ctx, pvalue->rlc_LogicalChannelMappingIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-LogicalChannelMapping */
-   rtxCtxtPushElemName(ctx, "ul-LogicalChannelMapping");
-   stat = asn1PE_UMTS_UL_LogicalChannelMappingList_ul_LogicalChannelMapping(ctx, &pvalue->ul_LogicalChannelMapping);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_LogicalChannelMappings(rtxContext* ctx, const UL_LogicalChannelMappings* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-LogicalChannelMappings");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "oneLogicalChannel");
-         if (pvalue->u.oneLogicalChannel == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_LogicalChannelMapping(ctx, pvalue->u.oneLogicalChannel);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "twoLogicalChannels");
-         if (pvalue->u.twoLogicalChannels == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_LogicalChannelMappingList(ctx, pvalue->u.twoLogicalChannels);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TransportChannelIdentityDCHandDSCH(rtxContext* ctx, const TransportChannelIdentityDCHandDSCH* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TransportChannelIdentityDCHandDSCH");
-   /* dch-transport-ch-id */
-   rtxCtxtPushElemName(ctx, "dch-transport-ch-id");
-   rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-   if ((uint64_t)(pvalue->dch_transport_ch_id - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->dch_transport_ch_id);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dch_transport_ch_id, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dsch-transport-ch-id */
-   rtxCtxtPushElemName(ctx, "dsch-transport-ch-id");
-   rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-   if ((uint64_t)(pvalue->dsch_transport_ch_id - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->dsch_transport_ch_id);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dsch_transport_ch_id, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_TransportChannelType(rtxContext* ctx, const DL_TransportChannelType* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-TransportChannelType");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 3) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "dch");
-         rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-         if ((uint64_t)(pvalue->u.dch - 1) > 31u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.dch);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.dch, 1, 32);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "fach");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "dsch");
-         rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-         if ((uint64_t)(pvalue->u.dsch - 1) > 31u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.dsch);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.dsch, 1, 32);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "dch-and-dsch");
-         if (pvalue->u.dch_and_dsch == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TransportChannelIdentityDCHandDSCH(ctx, pvalue->u.dch_and_dsch);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_LogicalChannelMapping(rtxContext* ctx, const DL_LogicalChannelMapping* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-LogicalChannelMapping");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* dl-TransportChannelType */
-   rtxCtxtPushElemName(ctx, "dl-TransportChannelType");
-   stat = asn1PE_UMTS_DL_TransportChannelType(ctx, &pvalue->dl_TransportChannelType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* logicalChannelIdentity */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "logicalChannelIdentity");
-      rtxCtxtPushTypeName(ctx, "LogicalChannelIdentity");
-      if ((uint64_t)(pvalue->logicalChannelIdentity - 1) > 14u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->logicalChannelIdentity);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->logicalChannelIdentity, 1, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_LogicalChannelMappingList(rtxContext* ctx, const DL_LogicalChannelMappingList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "DL-LogicalChannelMappingList");
-   RT_SET_SIZE(ctx, 1, 2);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "DL-LogicalChannelMapping", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_DL_LogicalChannelMapping(ctx, (const DL_LogicalChannelMapping*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RB_MappingOption(rtxContext* ctx, const RB_MappingOption* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RB-MappingOption");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ul-LogicalChannelMappings */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ul-LogicalChannelMappings");
-      stat = asn1PE_UMTS_UL_LogicalChannelMappings(ctx, &pvalue->ul_LogicalChannelMappings);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-LogicalChannelMappingList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dl-LogicalChannelMappingList");
-      stat = asn1PE_UMTS_DL_LogicalChannelMappingList(ctx, &pvalue->dl_LogicalChannelMappingList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RB_MappingInfo(rtxContext* ctx, const RB_MappingInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "RB-MappingInfo");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "RB-MappingOption", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_RB_MappingOption(ctx, (const RB_MappingOption*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SRB_InformationSetup(rtxContext* ctx, const SRB_InformationSetup* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SRB-InformationSetup");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* rb-Identity */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "rb-Identity");
-      rtxCtxtPushTypeName(ctx, "RB-Identity");
-      if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rlc-InfoChoice */
-   rtxCtxtPushElemName(ctx, "rlc-InfoChoice");
-   stat = asn1PE_UMTS_RLC_InfoChoice(ctx, &pvalue->rlc_InfoChoice);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rb-MappingInfo */
-   rtxCtxtPushElemName(ctx, "rb-MappingInfo");
-   stat = asn1PE_UMTS_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SRB_InformationSetupList(rtxContext* ctx, const SRB_InformationSetupList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "SRB-InformationSetupList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "SRB-InformationSetup", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_SRB_InformationSetup(ctx, (const SRB_InformationSetup*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MaxPDCP_SN_WindowSize(rtxContext* ctx, MaxPDCP_SN_WindowSize value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaxPDCP-SN-WindowSize");
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_LosslessSRNS_RelocSupport(rtxContext* ctx, const LosslessSRNS_RelocSupport* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "LosslessSRNS-RelocSupport");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "supported");
-         rtxCtxtPushTypeName(ctx, "MaxPDCP-SN-WindowSize");
-         if (pvalue->u.supported > 1) {
-            rtxErrAddUIntParm(ctx, pvalue->u.supported);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.supported, 0, 1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "notSupported");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PDCP_PDU_Header(rtxContext* ctx, PDCP_PDU_Header value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PDCP-PDU-Header");
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ExpectReordering(rtxContext* ctx, ExpectReordering value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ExpectReordering");
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RFC2507_Info(rtxContext* ctx, const RFC2507_Info* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RFC2507-Info");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->f_MAX_PERIOD != 256) << 4) |
-      ((uint64_t)(pvalue->f_MAX_TIME != 5) << 3) |
-      ((uint64_t)(pvalue->max_HEADER != 168) << 2) |
-      ((uint64_t)(pvalue->tcp_SPACE != 15) << 1) |
-      ((uint64_t)(pvalue->non_TCP_SPACE != 15) << 0), 5);
-   RT_CHECK(ctx, stat);
-   /* f-MAX-PERIOD */
-   if (pvalue->f_MAX_PERIOD != 256) {
-      rtxCtxtPushElemName(ctx, "f-MAX-PERIOD");
-      if ((uint64_t)(pvalue->f_MAX_PERIOD - 1) > 65534u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->f_MAX_PERIOD);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->f_MAX_PERIOD, 1, 65535);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* f-MAX-TIME */
-   if (pvalue->f_MAX_TIME != 5) {
-      rtxCtxtPushElemName(ctx, "f-MAX-TIME");
-      if ((uint64_t)(pvalue->f_MAX_TIME - 1) > 254u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->f_MAX_TIME);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->f_MAX_TIME, 1, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* max-HEADER */
-   if (pvalue->max_HEADER != 168) {
-      rtxCtxtPushElemName(ctx, "max-HEADER");
-      if ((uint64_t)(pvalue->max_HEADER - 60) > 65475u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->max_HEADER);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->max_HEADER, 60, 65535);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tcp-SPACE */
-   if (pvalue->tcp_SPACE != 15) {
-      rtxCtxtPushElemName(ctx, "tcp-SPACE");
-      if ((uint64_t)(pvalue->tcp_SPACE - 3) > 252u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->tcp_SPACE);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tcp_SPACE, 3, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* non-TCP-SPACE */
-   if (pvalue->non_TCP_SPACE != 15) {
-      rtxCtxtPushElemName(ctx, "non-TCP-SPACE");
-      if ((uint64_t)(pvalue->non_TCP_SPACE - 3) > 65532u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->non_TCP_SPACE);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->non_TCP_SPACE, 3, 65535);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* expectReordering */
-   rtxCtxtPushElemName(ctx, "expectReordering");
-   rtxCtxtPushTypeName(ctx, "ExpectReordering");
-   if (pvalue->expectReordering > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->expectReordering);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->expectReordering, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_AlgorithmSpecificInfo(rtxContext* ctx, const AlgorithmSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "AlgorithmSpecificInfo");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 0) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "rfc2507-Info");
-         if (pvalue->u.rfc2507_Info == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_RFC2507_Info(ctx, pvalue->u.rfc2507_Info);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HeaderCompressionInfo(rtxContext* ctx, const HeaderCompressionInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HeaderCompressionInfo");
-   /* algorithmSpecificInfo */
-   rtxCtxtPushElemName(ctx, "algorithmSpecificInfo");
-   stat = asn1PE_UMTS_AlgorithmSpecificInfo(ctx, &pvalue->algorithmSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HeaderCompressionInfoList(rtxContext* ctx, const HeaderCompressionInfoList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "HeaderCompressionInfoList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "HeaderCompressionInfo", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_HeaderCompressionInfo(ctx, (const HeaderCompressionInfo*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PDCP_Info(rtxContext* ctx, const PDCP_Info* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PDCP-Info");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* losslessSRNS-RelocSupport */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "losslessSRNS-RelocSupport");
-      stat = asn1PE_UMTS_LosslessSRNS_RelocSupport(ctx, &pvalue->losslessSRNS_RelocSupport);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdcp-PDU-Header */
-   rtxCtxtPushElemName(ctx, "pdcp-PDU-Header");
-   rtxCtxtPushTypeName(ctx, "PDCP-PDU-Header");
-   if (pvalue->pdcp_PDU_Header > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->pdcp_PDU_Header);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pdcp_PDU_Header, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* headerCompressionInfoList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "headerCompressionInfoList");
-      stat = asn1PE_UMTS_HeaderCompressionInfoList(ctx, &pvalue->headerCompressionInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RB_InformationSetup(rtxContext* ctx, const RB_InformationSetup* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RB-InformationSetup");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* rb-Identity */
-   rtxCtxtPushElemName(ctx, "rb-Identity");
-   rtxCtxtPushTypeName(ctx, "RB-Identity");
-   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* pdcp-Info */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pdcp-Info");
-      stat = asn1PE_UMTS_PDCP_Info(ctx, &pvalue->pdcp_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rlc-InfoChoice */
-   rtxCtxtPushElemName(ctx, "rlc-InfoChoice");
-   stat = asn1PE_UMTS_RLC_InfoChoice(ctx, &pvalue->rlc_InfoChoice);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rb-MappingInfo */
-   rtxCtxtPushElemName(ctx, "rb-MappingInfo");
-   stat = asn1PE_UMTS_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RB_InformationSetupList(rtxContext* ctx, const RB_InformationSetupList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "RB-InformationSetupList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "RB-InformationSetup", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_RB_InformationSetup(ctx, (const RB_InformationSetup*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PredefinedRB_Configuration(rtxContext* ctx, const PredefinedRB_Configuration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PredefinedRB-Configuration");
-   /* re-EstablishmentTimer */
-   rtxCtxtPushElemName(ctx, "re-EstablishmentTimer");
-   rtxCtxtPushTypeName(ctx, "Re-EstablishmentTimer");
-   if (pvalue->re_EstablishmentTimer > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->re_EstablishmentTimer);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->re_EstablishmentTimer, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* srb-InformationList */
-   rtxCtxtPushElemName(ctx, "srb-InformationList");
-   stat = asn1PE_UMTS_SRB_InformationSetupList(ctx, &pvalue->srb_InformationList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rb-InformationList */
-   rtxCtxtPushElemName(ctx, "rb-InformationList");
-   stat = asn1PE_UMTS_RB_InformationSetupList(ctx, &pvalue->rb_InformationList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TFC_Value(rtxContext* ctx, TFC_Value value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TFC-Value");
-   if ((uint64_t)value > 1023u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1023);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_AllowedTFC_List(rtxContext* ctx, const AllowedTFC_List* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "AllowedTFC-List");
-   RT_SET_SIZE(ctx, 1, 1024);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "TFC-Value", i);
-      rtxCtxtPushTypeName(ctx, "TFC-Value");
-      if ((uint64_t)pvalue->elem[i] > 1023u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 1023);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Non_allowedTFC_List(rtxContext* ctx, const Non_allowedTFC_List* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "Non-allowedTFC-List");
-   RT_SET_SIZE(ctx, 1, 1024);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "TFC-Value", i);
-      rtxCtxtPushTypeName(ctx, "TFC-Value");
-      if ((uint64_t)pvalue->elem[i] > 1023u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 1023);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TrCH_Type(rtxContext* ctx, UL_TrCH_Type value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UL-TrCH-Type");
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_AllowedTFI_List_element(rtxContext* ctx, AllowedTFI_List_element value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 31);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_AllowedTFI_List(rtxContext* ctx, const AllowedTFI_List* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "AllowedTFI-List");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if ((uint64_t)pvalue->elem[i] > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RestrictedTrChInfo(rtxContext* ctx, const RestrictedTrChInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RestrictedTrChInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ul-TransportChannelType */
-   rtxCtxtPushElemName(ctx, "ul-TransportChannelType");
-   rtxCtxtPushTypeName(ctx, "UL-TrCH-Type");
-   if (pvalue->ul_TransportChannelType > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->ul_TransportChannelType);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ul_TransportChannelType, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* restrictedTrChIdentity */
-   rtxCtxtPushElemName(ctx, "restrictedTrChIdentity");
-   rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-   if ((uint64_t)(pvalue->restrictedTrChIdentity - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->restrictedTrChIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->restrictedTrChIdentity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* allowedTFI-List */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "allowedTFI-List");
-      stat = asn1PE_UMTS_AllowedTFI_List(ctx, &pvalue->allowedTFI_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RestrictedTrChInfoList(rtxContext* ctx, const RestrictedTrChInfoList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "RestrictedTrChInfoList");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "RestrictedTrChInfo", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_RestrictedTrChInfo(ctx, (const RestrictedTrChInfo*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TFC_Subset(rtxContext* ctx, const TFC_Subset* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TFC-Subset");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 4) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "minimumAllowedTFC-Number");
-         rtxCtxtPushTypeName(ctx, "TFC-Value");
-         if ((uint64_t)pvalue->u.minimumAllowedTFC_Number > 1023u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.minimumAllowedTFC_Number);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.minimumAllowedTFC_Number, 0, 1023);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "allowedTFC-List");
-         if (pvalue->u.allowedTFC_List == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_AllowedTFC_List(ctx, pvalue->u.allowedTFC_List);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "non-allowedTFC-List");
-         if (pvalue->u.non_allowedTFC_List == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Non_allowedTFC_List(ctx, pvalue->u.non_allowedTFC_List);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "restrictedTrChInfoList");
-         if (pvalue->u.restrictedTrChInfoList == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_RestrictedTrChInfoList(ctx, pvalue->u.restrictedTrChInfoList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "fullTFCS");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_CommonTransChInfo_modeSpecificInfo_fdd(rtxContext* ctx, const UL_CommonTransChInfo_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* ul-TFCS */
-   rtxCtxtPushElemName(ctx, "ul-TFCS");
-   stat = asn1PE_UMTS_TFCS(ctx, &pvalue->ul_TFCS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_Identity(rtxContext* ctx, const TFCS_Identity* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TFCS-Identity");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* tfcs-ID */
-   if (pvalue->tfcs_ID != 1) {
-      rtxCtxtPushElemName(ctx, "tfcs-ID");
-      rtxCtxtPushTypeName(ctx, "TFCS-IdentityPlain");
-      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sharedChannelIndicator */
-   rtxCtxtPushElemName(ctx, "sharedChannelIndicator");
-   stat = rtxEncBit(ctx, pvalue->sharedChannelIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IndividualUL_CCTrCH_Info(rtxContext* ctx, const IndividualUL_CCTrCH_Info* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IndividualUL-CCTrCH-Info");
-   /* ul-TFCS-Identity */
-   rtxCtxtPushElemName(ctx, "ul-TFCS-Identity");
-   stat = asn1PE_UMTS_TFCS_Identity(ctx, &pvalue->ul_TFCS_Identity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-TFCS */
-   rtxCtxtPushElemName(ctx, "ul-TFCS");
-   stat = asn1PE_UMTS_TFCS(ctx, &pvalue->ul_TFCS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tfc-Subset */
-   rtxCtxtPushElemName(ctx, "tfc-Subset");
-   stat = asn1PE_UMTS_TFC_Subset(ctx, &pvalue->tfc_Subset);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IndividualUL_CCTrCH_InfoList(rtxContext* ctx, const IndividualUL_CCTrCH_InfoList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "IndividualUL-CCTrCH-InfoList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "IndividualUL-CCTrCH-Info", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_IndividualUL_CCTrCH_Info(ctx, (const IndividualUL_CCTrCH_Info*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_CommonTransChInfo_modeSpecificInfo_tdd(rtxContext* ctx, const UL_CommonTransChInfo_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* individualUL-CCTrCH-InfoList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "individualUL-CCTrCH-InfoList");
-      stat = asn1PE_UMTS_IndividualUL_CCTrCH_InfoList(ctx, &pvalue->individualUL_CCTrCH_InfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_CommonTransChInfo_modeSpecificInfo(rtxContext* ctx, const UL_CommonTransChInfo_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_CommonTransChInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_CommonTransChInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_CommonTransChInfo(rtxContext* ctx, const UL_CommonTransChInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-CommonTransChInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* tfc-Subset */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "tfc-Subset");
-      stat = asn1PE_UMTS_TFC_Subset(ctx, &pvalue->tfc_Subset);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* prach-TFCS */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "prach-TFCS");
-      stat = asn1PE_UMTS_TFCS(ctx, &pvalue->prach_TFCS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-      stat = asn1PE_UMTS_UL_CommonTransChInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_AddReconfTransChInformation(rtxContext* ctx, const UL_AddReconfTransChInformation* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-AddReconfTransChInformation");
-   /* ul-TransportChannelType */
-   rtxCtxtPushElemName(ctx, "ul-TransportChannelType");
-   rtxCtxtPushTypeName(ctx, "UL-TrCH-Type");
-   if (pvalue->ul_TransportChannelType > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->ul_TransportChannelType);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ul_TransportChannelType, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* transportChannelIdentity */
-   rtxCtxtPushElemName(ctx, "transportChannelIdentity");
-   rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-   if ((uint64_t)(pvalue->transportChannelIdentity - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->transportChannelIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->transportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* transportFormatSet */
-   rtxCtxtPushElemName(ctx, "transportFormatSet");
-   stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->transportFormatSet);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_AddReconfTransChInfoList(rtxContext* ctx, const UL_AddReconfTransChInfoList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "UL-AddReconfTransChInfoList");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "UL-AddReconfTransChInformation", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_UL_AddReconfTransChInformation(ctx, (const UL_AddReconfTransChInformation*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonTransChInfo_modeSpecificInfo_fdd_dl_Parameters(rtxContext* ctx, const DL_CommonTransChInfo_modeSpecificInfo_fdd_dl_Parameters* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "dl-DCH-TFCS");
-         if (pvalue->u.dl_DCH_TFCS == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TFCS(ctx, pvalue->u.dl_DCH_TFCS);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "sameAsUL");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonTransChInfo_modeSpecificInfo_fdd(rtxContext* ctx, const DL_CommonTransChInfo_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* dl-Parameters */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-Parameters");
-      stat = asn1PE_UMTS_DL_CommonTransChInfo_modeSpecificInfo_fdd_dl_Parameters(ctx, &pvalue->dl_Parameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IndividualDL_CCTrCH_Info_tfcs_SignallingMode(rtxContext* ctx, const IndividualDL_CCTrCH_Info_tfcs_SignallingMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "explicit-config");
-         if (pvalue->u.explicit_config == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TFCS(ctx, pvalue->u.explicit_config);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "sameAsUL");
-         if (pvalue->u.sameAsUL == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TFCS_Identity(ctx, pvalue->u.sameAsUL);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IndividualDL_CCTrCH_Info(rtxContext* ctx, const IndividualDL_CCTrCH_Info* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IndividualDL-CCTrCH-Info");
-   /* dl-TFCS-Identity */
-   rtxCtxtPushElemName(ctx, "dl-TFCS-Identity");
-   stat = asn1PE_UMTS_TFCS_Identity(ctx, &pvalue->dl_TFCS_Identity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tfcs-SignallingMode */
-   rtxCtxtPushElemName(ctx, "tfcs-SignallingMode");
-   stat = asn1PE_UMTS_IndividualDL_CCTrCH_Info_tfcs_SignallingMode(ctx, &pvalue->tfcs_SignallingMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IndividualDL_CCTrCH_InfoList(rtxContext* ctx, const IndividualDL_CCTrCH_InfoList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "IndividualDL-CCTrCH-InfoList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "IndividualDL-CCTrCH-Info", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_IndividualDL_CCTrCH_Info(ctx, (const IndividualDL_CCTrCH_Info*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonTransChInfo_modeSpecificInfo_tdd(rtxContext* ctx, const DL_CommonTransChInfo_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* individualDL-CCTrCH-InfoList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "individualDL-CCTrCH-InfoList");
-      stat = asn1PE_UMTS_IndividualDL_CCTrCH_InfoList(ctx, &pvalue->individualDL_CCTrCH_InfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonTransChInfo_modeSpecificInfo(rtxContext* ctx, const DL_CommonTransChInfo_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_CommonTransChInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_CommonTransChInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonTransChInfo(rtxContext* ctx, const DL_CommonTransChInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-CommonTransChInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sccpch-TFCS */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sccpch-TFCS");
-      stat = asn1PE_UMTS_TFCS(ctx, &pvalue->sccpch_TFCS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_DL_CommonTransChInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_TrCH_Type(rtxContext* ctx, DL_TrCH_Type value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DL-TrCH-Type");
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TransportChannelIdentity(rtxContext* ctx, const UL_TransportChannelIdentity* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-TransportChannelIdentity");
-   /* ul-TransportChannelType */
-   rtxCtxtPushElemName(ctx, "ul-TransportChannelType");
-   rtxCtxtPushTypeName(ctx, "UL-TrCH-Type");
-   if (pvalue->ul_TransportChannelType > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->ul_TransportChannelType);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ul_TransportChannelType, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ul-TransportChannelIdentity */
-   rtxCtxtPushElemName(ctx, "ul-TransportChannelIdentity");
-   rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-   if ((uint64_t)(pvalue->ul_TransportChannelIdentity - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ul_TransportChannelIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ul_TransportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_AddReconfTransChInformation_tfs_SignallingMode(rtxContext* ctx, const DL_AddReconfTransChInformation_tfs_SignallingMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "explicit-config");
-         if (pvalue->u.explicit_config == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TransportFormatSet(ctx, pvalue->u.explicit_config);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "sameAsULTrCH");
-         if (pvalue->u.sameAsULTrCH == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_TransportChannelIdentity(ctx, pvalue->u.sameAsULTrCH);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_BLER_QualityValue(rtxContext* ctx, BLER_QualityValue value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "BLER-QualityValue");
-   if (value < -63 || value > 0) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, value, -63, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_QualityTarget(rtxContext* ctx, const QualityTarget* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "QualityTarget");
-   /* bler-QualityValue */
-   rtxCtxtPushElemName(ctx, "bler-QualityValue");
-   rtxCtxtPushTypeName(ctx, "BLER-QualityValue");
-   if (pvalue->bler_QualityValue < -63 || pvalue->bler_QualityValue > 0) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->bler_QualityValue);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->bler_QualityValue, -63, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MessType(rtxContext* ctx, MessType value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MessType");
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_ControlledTrChList(rtxContext* ctx, const UL_ControlledTrChList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "UL-ControlledTrChList");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "TransportChannelIdentity", i);
-      rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-      if ((uint64_t)(pvalue->elem[i] - 1) > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 1, 32);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TM_SignallingInfo_tm_SignallingMode_mode2(rtxContext* ctx, const TM_SignallingInfo_tm_SignallingMode_mode2* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* ul-controlledTrChList */
-   rtxCtxtPushElemName(ctx, "ul-controlledTrChList");
-   stat = asn1PE_UMTS_UL_ControlledTrChList(ctx, &pvalue->ul_controlledTrChList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TM_SignallingInfo_tm_SignallingMode(rtxContext* ctx, const TM_SignallingInfo_tm_SignallingMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "mode1");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "mode2");
-         if (pvalue->u.mode2 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TM_SignallingInfo_tm_SignallingMode_mode2(ctx, pvalue->u.mode2);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TM_SignallingInfo(rtxContext* ctx, const TM_SignallingInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TM-SignallingInfo");
-   /* messType */
-   rtxCtxtPushElemName(ctx, "messType");
-   rtxCtxtPushTypeName(ctx, "MessType");
-   if (pvalue->messType > 0) {
-      rtxErrAddUIntParm(ctx, pvalue->messType);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->messType, 0, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* tm-SignallingMode */
-   rtxCtxtPushElemName(ctx, "tm-SignallingMode");
-   stat = asn1PE_UMTS_TM_SignallingInfo_tm_SignallingMode(ctx, &pvalue->tm_SignallingMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_AddReconfTransChInformation(rtxContext* ctx, const DL_AddReconfTransChInformation* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-AddReconfTransChInformation");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* dl-TransportChannelType */
-   rtxCtxtPushElemName(ctx, "dl-TransportChannelType");
-   rtxCtxtPushTypeName(ctx, "DL-TrCH-Type");
-   if (pvalue->dl_TransportChannelType > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->dl_TransportChannelType);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dl_TransportChannelType, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dl-transportChannelIdentity */
-   rtxCtxtPushElemName(ctx, "dl-transportChannelIdentity");
-   rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-   if ((uint64_t)(pvalue->dl_transportChannelIdentity - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->dl_transportChannelIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dl_transportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* tfs-SignallingMode */
-   rtxCtxtPushElemName(ctx, "tfs-SignallingMode");
-   stat = asn1PE_UMTS_DL_AddReconfTransChInformation_tfs_SignallingMode(ctx, &pvalue->tfs_SignallingMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dch-QualityTarget */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dch-QualityTarget");
-      stat = asn1PE_UMTS_QualityTarget(ctx, &pvalue->dch_QualityTarget);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      stat = asn1PE_UMTS_TM_SignallingInfo(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_AddReconfTransChInfoList(rtxContext* ctx, const DL_AddReconfTransChInfoList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "DL-AddReconfTransChInfoList");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "DL-AddReconfTransChInformation", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_DL_AddReconfTransChInformation(ctx, (const DL_AddReconfTransChInformation*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PreDefTransChConfiguration(rtxContext* ctx, const PreDefTransChConfiguration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PreDefTransChConfiguration");
-   /* ul-CommonTransChInfo */
-   rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
-   stat = asn1PE_UMTS_UL_CommonTransChInfo(ctx, &pvalue->ul_CommonTransChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-AddReconfTrChInfoList */
-   rtxCtxtPushElemName(ctx, "ul-AddReconfTrChInfoList");
-   stat = asn1PE_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTrChInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonTransChInfo */
-   rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
-   stat = asn1PE_UMTS_DL_CommonTransChInfo(ctx, &pvalue->dl_CommonTransChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-TrChInfoList */
-   rtxCtxtPushElemName(ctx, "dl-TrChInfoList");
-   stat = asn1PE_UMTS_DL_AddReconfTransChInfoList(ctx, &pvalue->dl_TrChInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfoPredef_fdd(rtxContext* ctx, const UL_DPCH_PowerControlInfoPredef_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* powerControlAlgorithm */
-   rtxCtxtPushElemName(ctx, "powerControlAlgorithm");
-   stat = asn1PE_UMTS_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfoPredef_tdd(rtxContext* ctx, const UL_DPCH_PowerControlInfoPredef_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* dpch-ConstantValue */
-   rtxCtxtPushElemName(ctx, "dpch-ConstantValue");
-   rtxCtxtPushTypeName(ctx, "ConstantValueTdd");
-   if (pvalue->dpch_ConstantValue < -35 || pvalue->dpch_ConstantValue > 10) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->dpch_ConstantValue);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->dpch_ConstantValue, -35, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfoPredef(rtxContext* ctx, const UL_DPCH_PowerControlInfoPredef* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-DPCH-PowerControlInfoPredef");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfoPredef_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfoPredef_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo_fdd(rtxContext* ctx, const UL_DPCH_InfoPredef_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* tfci-Existence */
-   rtxCtxtPushElemName(ctx, "tfci-Existence");
-   stat = rtxEncBit(ctx, pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* puncturingLimit */
-   rtxCtxtPushElemName(ctx, "puncturingLimit");
-   rtxCtxtPushTypeName(ctx, "PuncturingLimit");
-   if (pvalue->puncturingLimit > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->puncturingLimit);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->puncturingLimit, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo_tdd(rtxContext* ctx, const UL_DPCH_InfoPredef_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* commonTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "commonTimeslotInfo");
-   stat = asn1PE_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo(rtxContext* ctx, const UL_DPCH_InfoPredef_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_InfoPredef(rtxContext* ctx, const UL_DPCH_InfoPredef* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-DPCH-InfoPredef");
-   /* ul-DPCH-PowerControlInfo */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-PowerControlInfo");
-   stat = asn1PE_UMTS_UL_DPCH_PowerControlInfoPredef(ctx, &pvalue->ul_DPCH_PowerControlInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PilotBits128(rtxContext* ctx, PilotBits128 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PilotBits128");
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PilotBits256(rtxContext* ctx, PilotBits256 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PilotBits256");
-   if (value > 2) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SF512_AndPilot(rtxContext* ctx, const SF512_AndPilot* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SF512-AndPilot");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 7) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "sfd4");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "sfd8");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "sfd16");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "sfd32");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "sfd64");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "sfd128");
-         rtxCtxtPushTypeName(ctx, "PilotBits128");
-         if (pvalue->u.sfd128 > 1) {
-            rtxErrAddUIntParm(ctx, pvalue->u.sfd128);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sfd128, 0, 1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "sfd256");
-         rtxCtxtPushTypeName(ctx, "PilotBits256");
-         if (pvalue->u.sfd256 > 2) {
-            rtxErrAddUIntParm(ctx, pvalue->u.sfd256);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sfd256, 0, 2);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 8:
-         rtxCtxtPushElemName(ctx, "sfd512");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd(rtxContext* ctx, const DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* spreadingFactorAndPilot */
-   rtxCtxtPushElemName(ctx, "spreadingFactorAndPilot");
-   stat = asn1PE_UMTS_SF512_AndPilot(ctx, &pvalue->spreadingFactorAndPilot);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* positionFixedOrFlexible */
-   rtxCtxtPushElemName(ctx, "positionFixedOrFlexible");
-   rtxCtxtPushTypeName(ctx, "PositionFixedOrFlexible");
-   if (pvalue->positionFixedOrFlexible > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->positionFixedOrFlexible);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->positionFixedOrFlexible, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* tfci-Existence */
-   rtxCtxtPushElemName(ctx, "tfci-Existence");
-   stat = rtxEncBit(ctx, pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd(rtxContext* ctx, const DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* commonTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "commonTimeslotInfo");
-   stat = asn1PE_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo(rtxContext* ctx, const DL_DPCH_InfoCommonPredef_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_DPCH_InfoCommonPredef(rtxContext* ctx, const DL_DPCH_InfoCommonPredef* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-DPCH-InfoCommonPredef");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonInformationPredef(rtxContext* ctx, const DL_CommonInformationPredef* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-CommonInformationPredef");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* dl-DPCH-InfoCommon */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-DPCH-InfoCommon");
-      stat = asn1PE_UMTS_DL_DPCH_InfoCommonPredef(ctx, &pvalue->dl_DPCH_InfoCommon);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PreDefPhyChConfiguration(rtxContext* ctx, const PreDefPhyChConfiguration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PreDefPhyChConfiguration");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ul-DPCH-InfoPredef */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-InfoPredef");
-   stat = asn1PE_UMTS_UL_DPCH_InfoPredef(ctx, &pvalue->ul_DPCH_InfoPredef);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonInformationPredef */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformationPredef");
-      stat = asn1PE_UMTS_DL_CommonInformationPredef(ctx, &pvalue->dl_CommonInformationPredef);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PreDefRadioConfiguration(rtxContext* ctx, const PreDefRadioConfiguration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PreDefRadioConfiguration");
-   /* predefinedRB-Configuration */
-   rtxCtxtPushElemName(ctx, "predefinedRB-Configuration");
-   stat = asn1PE_UMTS_PredefinedRB_Configuration(ctx, &pvalue->predefinedRB_Configuration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* preDefTransChConfiguration */
-   rtxCtxtPushElemName(ctx, "preDefTransChConfiguration");
-   stat = asn1PE_UMTS_PreDefTransChConfiguration(ctx, &pvalue->preDefTransChConfiguration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* preDefPhyChConfiguration */
-   rtxCtxtPushElemName(ctx, "preDefPhyChConfiguration");
-   stat = asn1PE_UMTS_PreDefPhyChConfiguration(ctx, &pvalue->preDefPhyChConfiguration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NumberOfTPC_Bits(rtxContext* ctx, NumberOfTPC_Bits value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "NumberOfTPC-Bits");
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd(rtxContext* ctx, const UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* numberOfTPC-Bits */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "numberOfTPC-Bits");
-      rtxCtxtPushTypeName(ctx, "NumberOfTPC-Bits");
-      if (pvalue->numberOfTPC_Bits > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->numberOfTPC_Bits);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->numberOfTPC_Bits, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo(rtxContext* ctx, const UL_DPCH_InfoPredef_v770ext_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_InfoPredef_v770ext(rtxContext* ctx, const UL_DPCH_InfoPredef_v770ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-DPCH-InfoPredef-v770ext");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PreDefPhyChConfiguration_v770ext(rtxContext* ctx, const PreDefPhyChConfiguration_v770ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PreDefPhyChConfiguration-v770ext");
-   /* ul-DPCH-InfoPredef */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-InfoPredef");
-   stat = asn1PE_UMTS_UL_DPCH_InfoPredef_v770ext(ctx, &pvalue->ul_DPCH_InfoPredef);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PreDefRadioConfiguration_v770ext(rtxContext* ctx, const PreDefRadioConfiguration_v770ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PreDefRadioConfiguration-v770ext");
-   /* preDefPhyChConfiguration */
-   rtxCtxtPushElemName(ctx, "preDefPhyChConfiguration");
-   stat = asn1PE_UMTS_PreDefPhyChConfiguration_v770ext(ctx, &pvalue->preDefPhyChConfiguration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType16_v770ext_IEs(rtxContext* ctx, const SysInfoType16_v770ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType16-v770ext-IEs");
-   /* preDefinedRadioConfiguration */
-   rtxCtxtPushElemName(ctx, "preDefinedRadioConfiguration");
-   stat = asn1PE_UMTS_PreDefRadioConfiguration_v770ext(ctx, &pvalue->preDefinedRadioConfiguration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MAC_hs_WindowSize_r9(rtxContext* ctx, MAC_hs_WindowSize_r9 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MAC-hs-WindowSize-r9");
-   if (value > 8) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PreDefRadioConfiguration_v920ext(rtxContext* ctx, const PreDefRadioConfiguration_v920ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PreDefRadioConfiguration-v920ext");
-   /* mac-ehsWindowSize */
-   rtxCtxtPushElemName(ctx, "mac-ehsWindowSize");
-   rtxCtxtPushTypeName(ctx, "MAC-hs-WindowSize-r9");
-   if (pvalue->mac_ehsWindowSize > 8) {
-      rtxErrAddUIntParm(ctx, pvalue->mac_ehsWindowSize);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mac_ehsWindowSize, 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType16_v920ext_IEs(rtxContext* ctx, const SysInfoType16_v920ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType16-v920ext-IEs");
-   /* preDefinedRadioConfiguration */
-   rtxCtxtPushElemName(ctx, "preDefinedRadioConfiguration");
-   stat = asn1PE_UMTS_PreDefRadioConfiguration_v920ext(ctx, &pvalue->preDefinedRadioConfiguration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions(rtxContext* ctx, const SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType16-v920ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType16-v920ext");
-   stat = asn1PE_UMTS_SysInfoType16_v920ext_IEs(ctx, &pvalue->sysInfoType16_v920ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType16_v770NonCriticalExtensions(rtxContext* ctx, const SysInfoType16_v770NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType16-v770ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType16-v770ext");
-   stat = asn1PE_UMTS_SysInfoType16_v770ext_IEs(ctx, &pvalue->sysInfoType16_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v920NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v920NonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType16(rtxContext* ctx, const SysInfoType16* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType16");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* preDefinedRadioConfiguration */
-   rtxCtxtPushElemName(ctx, "preDefinedRadioConfiguration");
-   stat = asn1PE_UMTS_PreDefRadioConfiguration(ctx, &pvalue->preDefinedRadioConfiguration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v770NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType16_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Ansi_41_IDNNS(rtxContext* ctx, Ansi_41_IDNNS value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Ansi-41-IDNNS");
-   RT_SET_SIZE(ctx, 14, 14);
-   stat = pe_BitString32(ctx, &value, 14, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CN_DomainInformation(rtxContext* ctx, const CN_DomainInformation* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CN-DomainInformation");
-   /* cn-DomainIdentity */
-   rtxCtxtPushElemName(ctx, "cn-DomainIdentity");
-   rtxCtxtPushTypeName(ctx, "CN-DomainIdentity");
-   if (pvalue->cn_DomainIdentity > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* cn-DomainSpecificNAS-Info */
-   rtxCtxtPushElemName(ctx, "cn-DomainSpecificNAS-Info");
-   stat = asn1PE_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_DomainSpecificNAS_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CN_DomainInformationFull(rtxContext* ctx, const CN_DomainInformationFull* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CN-DomainInformationFull");
-   /* cn-DomainIdentity */
-   rtxCtxtPushElemName(ctx, "cn-DomainIdentity");
-   rtxCtxtPushTypeName(ctx, "CN-DomainIdentity");
-   if (pvalue->cn_DomainIdentity > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* cn-DomainSpecificNAS-Info */
-   rtxCtxtPushElemName(ctx, "cn-DomainSpecificNAS-Info");
-   stat = asn1PE_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_DomainSpecificNAS_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cn-DRX-CycleLengthCoeff */
-   rtxCtxtPushElemName(ctx, "cn-DRX-CycleLengthCoeff");
-   rtxCtxtPushTypeName(ctx, "CN-DRX-CycleLengthCoefficient");
-   if ((uint64_t)(pvalue->cn_DRX_CycleLengthCoeff - 6) > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->cn_DRX_CycleLengthCoeff);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cn_DRX_CycleLengthCoeff, 6, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CN_DomainInformationList(rtxContext* ctx, const CN_DomainInformationList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "CN-DomainInformationList");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "CN-DomainInformation", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_CN_DomainInformation(ctx, (const CN_DomainInformation*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CN_DomainInformationListFull(rtxContext* ctx, const CN_DomainInformationListFull* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "CN-DomainInformationListFull");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "CN-DomainInformationFull", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_CN_DomainInformationFull(ctx, (const CN_DomainInformationFull*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CN_InformationInfo(rtxContext* ctx, const CN_InformationInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CN-InformationInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* plmn-Identity */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "plmn-Identity");
-      stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cn-CommonGSM-MAP-NAS-SysInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "cn-CommonGSM-MAP-NAS-SysInfo");
-      stat = asn1PE_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cn-DomainInformationList */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "cn-DomainInformationList");
-      stat = asn1PE_UMTS_CN_DomainInformationList(ctx, &pvalue->cn_DomainInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CN_InformationInfo_r6(rtxContext* ctx, const CN_InformationInfo_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CN-InformationInfo-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* plmn-Identity */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "plmn-Identity");
-      stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cn-CommonGSM-MAP-NAS-SysInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "cn-CommonGSM-MAP-NAS-SysInfo");
-      stat = asn1PE_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cn-DomainInformationList */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "cn-DomainInformationList");
-      stat = asn1PE_UMTS_CN_DomainInformationList(ctx, &pvalue->cn_DomainInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* primary-plmn-Identity */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "primary-plmn-Identity");
-      stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CN_InformationInfoFull(rtxContext* ctx, const CN_InformationInfoFull* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CN-InformationInfoFull");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* plmn-Identity */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "plmn-Identity");
-      stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cn-CommonGSM-MAP-NAS-SysInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "cn-CommonGSM-MAP-NAS-SysInfo");
-      stat = asn1PE_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cn-DomainInformationListFull */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "cn-DomainInformationListFull");
-      stat = asn1PE_UMTS_CN_DomainInformationListFull(ctx, &pvalue->cn_DomainInformationListFull);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RoutingParameter(rtxContext* ctx, RoutingParameter value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RoutingParameter");
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pe_BitString32(ctx, &value, 10, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_localPTMSI(rtxContext* ctx, const Gsm_map_IDNNS_routingbasis_localPTMSI* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* routingparameter */
-   rtxCtxtPushElemName(ctx, "routingparameter");
-   stat = asn1PE_UMTS_RoutingParameter(ctx, pvalue->routingparameter);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN(rtxContext* ctx, const Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* routingparameter */
-   rtxCtxtPushElemName(ctx, "routingparameter");
-   stat = asn1PE_UMTS_RoutingParameter(ctx, pvalue->routingparameter);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN(rtxContext* ctx, const Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* routingparameter */
-   rtxCtxtPushElemName(ctx, "routingparameter");
-   stat = asn1PE_UMTS_RoutingParameter(ctx, pvalue->routingparameter);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging(rtxContext* ctx, const Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* routingparameter */
-   rtxCtxtPushElemName(ctx, "routingparameter");
-   stat = asn1PE_UMTS_RoutingParameter(ctx, pvalue->routingparameter);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent(rtxContext* ctx, const Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* routingparameter */
-   rtxCtxtPushElemName(ctx, "routingparameter");
-   stat = asn1PE_UMTS_RoutingParameter(ctx, pvalue->routingparameter);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_iMEI(rtxContext* ctx, const Gsm_map_IDNNS_routingbasis_iMEI* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* routingparameter */
-   rtxCtxtPushElemName(ctx, "routingparameter");
-   stat = asn1PE_UMTS_RoutingParameter(ctx, pvalue->routingparameter);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_spare2(rtxContext* ctx, const Gsm_map_IDNNS_routingbasis_spare2* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* routingparameter */
-   rtxCtxtPushElemName(ctx, "routingparameter");
-   stat = asn1PE_UMTS_RoutingParameter(ctx, pvalue->routingparameter);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_spare1(rtxContext* ctx, const Gsm_map_IDNNS_routingbasis_spare1* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* routingparameter */
-   rtxCtxtPushElemName(ctx, "routingparameter");
-   stat = asn1PE_UMTS_RoutingParameter(ctx, pvalue->routingparameter);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Gsm_map_IDNNS_routingbasis(rtxContext* ctx, const Gsm_map_IDNNS_routingbasis* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 7) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "localPTMSI");
-         if (pvalue->u.localPTMSI == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_localPTMSI(ctx, pvalue->u.localPTMSI);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tMSIofsamePLMN");
-         if (pvalue->u.tMSIofsamePLMN == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN(ctx, pvalue->u.tMSIofsamePLMN);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "tMSIofdifferentPLMN");
-         if (pvalue->u.tMSIofdifferentPLMN == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN(ctx, pvalue->u.tMSIofdifferentPLMN);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "iMSIresponsetopaging");
-         if (pvalue->u.iMSIresponsetopaging == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging(ctx, pvalue->u.iMSIresponsetopaging);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "iMSIcauseUEinitiatedEvent");
-         if (pvalue->u.iMSIcauseUEinitiatedEvent == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent(ctx, pvalue->u.iMSIcauseUEinitiatedEvent);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "iMEI");
-         if (pvalue->u.iMEI == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_iMEI(ctx, pvalue->u.iMEI);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "spare2");
-         if (pvalue->u.spare2 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_spare2(ctx, pvalue->u.spare2);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 8:
-         rtxCtxtPushElemName(ctx, "spare1");
-         if (pvalue->u.spare1 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_spare1(ctx, pvalue->u.spare1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Gsm_map_IDNNS(rtxContext* ctx, const Gsm_map_IDNNS* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Gsm-map-IDNNS");
-   /* routingbasis */
-   rtxCtxtPushElemName(ctx, "routingbasis");
-   stat = asn1PE_UMTS_Gsm_map_IDNNS_routingbasis(ctx, &pvalue->routingbasis);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dummy */
-   rtxCtxtPushElemName(ctx, "dummy");
-   stat = rtxEncBit(ctx, pvalue->dummy);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IMEI_Digit(rtxContext* ctx, IMEI_Digit value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "IMEI-Digit");
-   if ((uint64_t)value > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IMEI(rtxContext* ctx, const IMEI* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "IMEI");
-   if (pvalue->n != 15) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->n);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "IMEI-Digit", i);
-      rtxCtxtPushTypeName(ctx, "IMEI-Digit");
-      if ((uint64_t)pvalue->elem[i] > 15u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IMSI_GSM_MAP(rtxContext* ctx, const IMSI_GSM_MAP* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "IMSI-GSM-MAP");
-   RT_SET_SIZE(ctx, 6, 21);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "Digit", i);
-      rtxCtxtPushTypeName(ctx, "Digit");
-      if ((uint64_t)pvalue->elem[i] > 9u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 9);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraDomainNasNodeSelector_version_release99_cn_Type(rtxContext* ctx, const IntraDomainNasNodeSelector_version_release99_cn_Type* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "gsm-Map-IDNNS");
-         if (pvalue->u.gsm_Map_IDNNS == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Gsm_map_IDNNS(ctx, pvalue->u.gsm_Map_IDNNS);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ansi-41-IDNNS");
-         if (pvalue->u.ansi_41_IDNNS == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Ansi_41_IDNNS(ctx, *pvalue->u.ansi_41_IDNNS);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraDomainNasNodeSelector_version_release99(rtxContext* ctx, const IntraDomainNasNodeSelector_version_release99* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* cn-Type */
-   rtxCtxtPushElemName(ctx, "cn-Type");
-   stat = asn1PE_UMTS_IntraDomainNasNodeSelector_version_release99_cn_Type(ctx, &pvalue->cn_Type);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraDomainNasNodeSelector_version_later(rtxContext* ctx, const IntraDomainNasNodeSelector_version_later* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* futurecoding */
-   rtxCtxtPushElemName(ctx, "futurecoding");
-   RT_SET_SIZE(ctx, 15, 15);
-   stat = pe_BitString32(ctx, &pvalue->futurecoding, 15, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraDomainNasNodeSelector_version(rtxContext* ctx, const IntraDomainNasNodeSelector_version* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "release99");
-         if (pvalue->u.release99 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_IntraDomainNasNodeSelector_version_release99(ctx, pvalue->u.release99);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "later");
-         if (pvalue->u.later == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_IntraDomainNasNodeSelector_version_later(ctx, pvalue->u.later);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraDomainNasNodeSelector(rtxContext* ctx, const IntraDomainNasNodeSelector* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraDomainNasNodeSelector");
-   /* version */
-   rtxCtxtPushElemName(ctx, "version");
-   stat = asn1PE_UMTS_IntraDomainNasNodeSelector_version(ctx, &pvalue->version);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_LAI(rtxContext* ctx, const LAI* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "LAI");
-   /* plmn-Identity */
-   rtxCtxtPushElemName(ctx, "plmn-Identity");
-   stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* lac */
-   rtxCtxtPushElemName(ctx, "lac");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->lac, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NAS_Message(rtxContext* ctx, const NAS_Message* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NAS-Message");
-   RT_SET_SIZE(ctx, 1, 4095);
-   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NAS_Synchronisation_Indicator(rtxContext* ctx, NAS_Synchronisation_Indicator value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "NAS-Synchronisation-Indicator");
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pe_BitString32(ctx, &value, 4, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_P_TMSI_GSM_MAP(rtxContext* ctx, P_TMSI_GSM_MAP value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "P-TMSI-GSM-MAP");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &value, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PagingRecordTypeID(rtxContext* ctx, PagingRecordTypeID value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PagingRecordTypeID");
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RAB_Identity(rtxContext* ctx, const RAB_Identity* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RAB-Identity");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "gsm-MAP-RAB-Identity");
-         if (pvalue->u.gsm_MAP_RAB_Identity == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         RT_SET_SIZE(ctx, 8, 8);
-         stat = pe_BitString32(ctx, pvalue->u.gsm_MAP_RAB_Identity, 8, 8);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ansi-41-RAB-Identity");
-         if (pvalue->u.ansi_41_RAB_Identity == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         RT_SET_SIZE(ctx, 8, 8);
-         stat = pe_BitString32(ctx, pvalue->u.ansi_41_RAB_Identity, 8, 8);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RoutingAreaCode(rtxContext* ctx, RoutingAreaCode value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RoutingAreaCode");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &value, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RAI(rtxContext* ctx, const RAI* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RAI");
-   /* lai */
-   rtxCtxtPushElemName(ctx, "lai");
-   stat = asn1PE_UMTS_LAI(ctx, &pvalue->lai);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rac */
-   rtxCtxtPushElemName(ctx, "rac");
-   stat = asn1PE_UMTS_RoutingAreaCode(ctx, pvalue->rac);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TMSI_GSM_MAP(rtxContext* ctx, TMSI_GSM_MAP value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TMSI-GSM-MAP");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &value, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellIdentity_PerRL_List(rtxContext* ctx, const CellIdentity_PerRL_List* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "CellIdentity-PerRL-List");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "CellIdentity", i);
-      stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->elem[i]);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_T_322(rtxContext* ctx, T_322 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "T-322");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PriorityLevel_radioAccessTechnology_utraFDD_element(rtxContext* ctx, const PriorityLevel_radioAccessTechnology_utraFDD_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* uarfcn */
-   rtxCtxtPushElemName(ctx, "uarfcn");
-   rtxCtxtPushTypeName(ctx, "UARFCN");
-   if ((uint64_t)pvalue->uarfcn > 16383u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->uarfcn);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->uarfcn, 0, 16383);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PriorityLevel_radioAccessTechnology_utraFDD(rtxContext* ctx, const PriorityLevel_radioAccessTechnology_utraFDD* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_PriorityLevel_radioAccessTechnology_utraFDD_element(ctx, (const PriorityLevel_radioAccessTechnology_utraFDD_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PriorityLevel_radioAccessTechnology_utraTDD_element(rtxContext* ctx, const PriorityLevel_radioAccessTechnology_utraTDD_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* uarfcn */
-   rtxCtxtPushElemName(ctx, "uarfcn");
-   rtxCtxtPushTypeName(ctx, "UARFCN");
-   if ((uint64_t)pvalue->uarfcn > 16383u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->uarfcn);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->uarfcn, 0, 16383);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PriorityLevel_radioAccessTechnology_utraTDD(rtxContext* ctx, const PriorityLevel_radioAccessTechnology_utraTDD* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_PriorityLevel_radioAccessTechnology_utraTDD_element(ctx, (const PriorityLevel_radioAccessTechnology_utraTDD_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_EARFCN(rtxContext* ctx, EARFCN value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "EARFCN");
-   stat = pe_ConsUInt64(ctx, value, 0, 65535);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PriorityLevel_radioAccessTechnology_eutra_element(rtxContext* ctx, const PriorityLevel_radioAccessTechnology_eutra_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* earfcn */
-   rtxCtxtPushElemName(ctx, "earfcn");
-   rtxCtxtPushTypeName(ctx, "EARFCN");
-   stat = pe_ConsUInt64(ctx, pvalue->earfcn, 0, 65535);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PriorityLevel_radioAccessTechnology_eutra(rtxContext* ctx, const PriorityLevel_radioAccessTechnology_eutra* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_PriorityLevel_radioAccessTechnology_eutra_element(ctx, (const PriorityLevel_radioAccessTechnology_eutra_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_CellGroup_bandIndicator(rtxContext* ctx, GSM_CellGroup_bandIndicator value)
+int asn1PE_UMTS_ProtocolErrorIndicator(rtxContext* RT_RESTRICT ctx, ProtocolErrorIndicator value)
 {
    int stat = 0;
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ProtocolErrorIndicator");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ProtocolErrorIndicator");
    return 0;
 }
 
-int asn1PE_UMTS_GSM_CellGroup_followingARFCNs_explicitListOfARFCNs(rtxContext* ctx, const GSM_CellGroup_followingARFCNs_explicitListOfARFCNs* pvalue)
+int asn1PE_UMTS_ProtocolErrorIndicatorWithMoreInfo_errorOccurred(rtxContext* RT_RESTRICT ctx, const ProtocolErrorIndicatorWithMoreInfo_errorOccurred* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 0, 31);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "BCCH-ARFCN", i);
-      rtxCtxtPushTypeName(ctx, "BCCH-ARFCN");
-      if ((uint64_t)pvalue->elem[i] > 1023u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 1023);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_CellGroup_followingARFCNs_equallySpacedARFCNs(rtxContext* ctx, const GSM_CellGroup_followingARFCNs_equallySpacedARFCNs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* arfcn-Spacing */
-   rtxCtxtPushElemName(ctx, "arfcn-Spacing");
-   if ((uint64_t)(pvalue->arfcn_Spacing - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->arfcn_Spacing);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->arfcn_Spacing, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* numberOfFollowingARFCNs */
-   rtxCtxtPushElemName(ctx, "numberOfFollowingARFCNs");
-   if ((uint64_t)pvalue->numberOfFollowingARFCNs > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->numberOfFollowingARFCNs);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->numberOfFollowingARFCNs, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs(rtxContext* ctx, const GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs(rtxContext* ctx, const GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* endingARFCN */
-   rtxCtxtPushElemName(ctx, "endingARFCN");
-   rtxCtxtPushTypeName(ctx, "BCCH-ARFCN");
-   if ((uint64_t)pvalue->endingARFCN > 1023u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->endingARFCN);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->endingARFCN, 0, 1023);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_CellGroup_followingARFCNs(rtxContext* ctx, const GSM_CellGroup_followingARFCNs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 3) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "explicitListOfARFCNs");
-         if (pvalue->u.explicitListOfARFCNs == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_GSM_CellGroup_followingARFCNs_explicitListOfARFCNs(ctx, pvalue->u.explicitListOfARFCNs);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "equallySpacedARFCNs");
-         if (pvalue->u.equallySpacedARFCNs == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_GSM_CellGroup_followingARFCNs_equallySpacedARFCNs(ctx, pvalue->u.equallySpacedARFCNs);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "variableBitMapOfARFCNs");
-         if (pvalue->u.variableBitMapOfARFCNs == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs(ctx, pvalue->u.variableBitMapOfARFCNs);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "continuousRangeOfARFCNs");
-         if (pvalue->u.continuousRangeOfARFCNs == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs(ctx, pvalue->u.continuousRangeOfARFCNs);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_CellGroup(rtxContext* ctx, const GSM_CellGroup* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "GSM-CellGroup");
-   /* startingARFCN */
-   rtxCtxtPushElemName(ctx, "startingARFCN");
-   rtxCtxtPushTypeName(ctx, "BCCH-ARFCN");
-   if ((uint64_t)pvalue->startingARFCN > 1023u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->startingARFCN);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->startingARFCN, 0, 1023);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* bandIndicator */
-   rtxCtxtPushElemName(ctx, "bandIndicator");
-   if (pvalue->bandIndicator > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->bandIndicator);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->bandIndicator, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* followingARFCNs */
-   rtxCtxtPushElemName(ctx, "followingARFCNs");
-   stat = asn1PE_UMTS_GSM_CellGroup_followingARFCNs(ctx, &pvalue->followingARFCNs);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PriorityLevel_radioAccessTechnology_gsm(rtxContext* ctx, const PriorityLevel_radioAccessTechnology_gsm* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* gsm-CellGroup */
-   rtxCtxtPushElemName(ctx, "gsm-CellGroup");
-   stat = asn1PE_UMTS_GSM_CellGroup(ctx, &pvalue->gsm_CellGroup);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PriorityLevel_radioAccessTechnology(rtxContext* ctx, const PriorityLevel_radioAccessTechnology* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 3) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "utraFDD");
-         if (pvalue->u.utraFDD == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PriorityLevel_radioAccessTechnology_utraFDD(ctx, pvalue->u.utraFDD);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "utraTDD");
-         if (pvalue->u.utraTDD == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PriorityLevel_radioAccessTechnology_utraTDD(ctx, pvalue->u.utraTDD);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "eutra");
-         if (pvalue->u.eutra == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PriorityLevel_radioAccessTechnology_eutra(ctx, pvalue->u.eutra);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "gsm");
-         if (pvalue->u.gsm == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PriorityLevel_radioAccessTechnology_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PriorityLevel(rtxContext* ctx, const PriorityLevel* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PriorityLevel");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* priority */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "priority");
-      if ((uint64_t)pvalue->priority > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->priority);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->priority, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* radioAccessTechnology */
-   rtxCtxtPushElemName(ctx, "radioAccessTechnology");
-   stat = asn1PE_UMTS_PriorityLevel_radioAccessTechnology(ctx, &pvalue->radioAccessTechnology);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PriorityLevelList(rtxContext* ctx, const PriorityLevelList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "PriorityLevelList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "PriorityLevel", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_PriorityLevel(ctx, (const PriorityLevel*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DedicatedPriorityInformation_action_configureDedicatedPriorities(rtxContext* ctx, const DedicatedPriorityInformation_action_configureDedicatedPriorities* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* t-322 */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "t-322");
-      rtxCtxtPushTypeName(ctx, "T-322");
-      if (pvalue->t_322 > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->t_322);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_322, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* priorityLevelList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "priorityLevelList");
-      stat = asn1PE_UMTS_PriorityLevelList(ctx, &pvalue->priorityLevelList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* eutraDetection */
-   rtxCtxtPushElemName(ctx, "eutraDetection");
-   stat = rtxEncBit(ctx, pvalue->eutraDetection);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DedicatedPriorityInformation_action(rtxContext* ctx, const DedicatedPriorityInformation_action* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "clearDedicatedPriorities");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "configureDedicatedPriorities");
-         if (pvalue->u.configureDedicatedPriorities == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DedicatedPriorityInformation_action_configureDedicatedPriorities(ctx, pvalue->u.configureDedicatedPriorities);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DedicatedPriorityInformation(rtxContext* ctx, const DedicatedPriorityInformation* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DedicatedPriorityInformation");
-   /* action */
-   rtxCtxtPushElemName(ctx, "action");
-   stat = asn1PE_UMTS_DedicatedPriorityInformation_action(ctx, &pvalue->action);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Q_Hyst_S_Fine(rtxContext* ctx, Q_Hyst_S_Fine value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Q-Hyst-S-Fine");
-   if ((uint64_t)value > 40u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 40);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_T_Reselection_S_Fine(rtxContext* ctx, T_Reselection_S_Fine value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "T-Reselection-S-Fine");
-   if ((uint64_t)value > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_AccessStratumReleaseIndicator(rtxContext* ctx, AccessStratumReleaseIndicator value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "AccessStratumReleaseIndicator");
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ActivationTime(rtxContext* ctx, ActivationTime value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ActivationTime");
-   stat = pe_ConsUInt64(ctx, value, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_N_AP_RetransMax(rtxContext* ctx, N_AP_RetransMax value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "N-AP-RetransMax");
-   if ((uint64_t)(value - 1) > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_N_AccessFails(rtxContext* ctx, N_AccessFails value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "N-AccessFails");
-   if ((uint64_t)(value - 1) > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NF_BO_NoAICH(rtxContext* ctx, NF_BO_NoAICH value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "NF-BO-NoAICH");
-   if ((uint64_t)value > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NS_BO_Busy(rtxContext* ctx, NS_BO_Busy value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "NS-BO-Busy");
-   if ((uint64_t)value > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NF_BO_AllBusy(rtxContext* ctx, NF_BO_AllBusy value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "NF-BO-AllBusy");
-   if ((uint64_t)value > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NF_BO_Mismatch(rtxContext* ctx, NF_BO_Mismatch value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "NF-BO-Mismatch");
-   if ((uint64_t)value > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_T_CPCH(rtxContext* ctx, T_CPCH value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "T-CPCH");
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_BackoffControlParams(rtxContext* ctx, const BackoffControlParams* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "BackoffControlParams");
-   /* n-AP-RetransMax */
-   rtxCtxtPushElemName(ctx, "n-AP-RetransMax");
-   rtxCtxtPushTypeName(ctx, "N-AP-RetransMax");
-   if ((uint64_t)(pvalue->n_AP_RetransMax - 1) > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->n_AP_RetransMax);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->n_AP_RetransMax, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* n-AccessFails */
-   rtxCtxtPushElemName(ctx, "n-AccessFails");
-   rtxCtxtPushTypeName(ctx, "N-AccessFails");
-   if ((uint64_t)(pvalue->n_AccessFails - 1) > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->n_AccessFails);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->n_AccessFails, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* nf-BO-NoAICH */
-   rtxCtxtPushElemName(ctx, "nf-BO-NoAICH");
-   rtxCtxtPushTypeName(ctx, "NF-BO-NoAICH");
-   if ((uint64_t)pvalue->nf_BO_NoAICH > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->nf_BO_NoAICH);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->nf_BO_NoAICH, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ns-BO-Busy */
-   rtxCtxtPushElemName(ctx, "ns-BO-Busy");
-   rtxCtxtPushTypeName(ctx, "NS-BO-Busy");
-   if ((uint64_t)pvalue->ns_BO_Busy > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ns_BO_Busy);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ns_BO_Busy, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* nf-BO-AllBusy */
-   rtxCtxtPushElemName(ctx, "nf-BO-AllBusy");
-   rtxCtxtPushTypeName(ctx, "NF-BO-AllBusy");
-   if ((uint64_t)pvalue->nf_BO_AllBusy > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->nf_BO_AllBusy);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->nf_BO_AllBusy, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* nf-BO-Mismatch */
-   rtxCtxtPushElemName(ctx, "nf-BO-Mismatch");
-   rtxCtxtPushTypeName(ctx, "NF-BO-Mismatch");
-   if ((uint64_t)pvalue->nf_BO_Mismatch > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->nf_BO_Mismatch);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->nf_BO_Mismatch, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* t-CPCH */
-   rtxCtxtPushElemName(ctx, "t-CPCH");
-   rtxCtxtPushTypeName(ctx, "T-CPCH");
-   if (pvalue->t_CPCH > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->t_CPCH);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->t_CPCH, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_BandComb(rtxContext* ctx, BandComb value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "BandComb");
-   if ((uint64_t)(value - 1) > 255u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 256);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_C_RNTI(rtxContext* ctx, C_RNTI value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "C-RNTI");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &value, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SystemSpecificCapUpdateReq(rtxContext* ctx, SystemSpecificCapUpdateReq value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SystemSpecificCapUpdateReq");
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SystemSpecificCapUpdateReqList(rtxContext* ctx, const SystemSpecificCapUpdateReqList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "SystemSpecificCapUpdateReqList");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "SystemSpecificCapUpdateReq", i);
-      rtxCtxtPushTypeName(ctx, "SystemSpecificCapUpdateReq");
-      if (pvalue->elem[i] > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CapabilityUpdateRequirement(rtxContext* ctx, const CapabilityUpdateRequirement* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CapabilityUpdateRequirement");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioCapabilityFDDUpdateRequirement */
-   rtxCtxtPushElemName(ctx, "ue-RadioCapabilityFDDUpdateRequirement");
-   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityFDDUpdateRequirement);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-RadioCapabilityTDDUpdateRequirement */
-   rtxCtxtPushElemName(ctx, "ue-RadioCapabilityTDDUpdateRequirement");
-   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityTDDUpdateRequirement);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* systemSpecificCapUpdateReqList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "systemSpecificCapUpdateReqList");
-      stat = asn1PE_UMTS_SystemSpecificCapUpdateReqList(ctx, &pvalue->systemSpecificCapUpdateReqList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CapabilityUpdateRequirement_r4_ext(rtxContext* ctx, const CapabilityUpdateRequirement_r4_ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CapabilityUpdateRequirement-r4-ext");
-   /* ue-RadioCapabilityUpdateRequirement-TDD128 */
-   rtxCtxtPushElemName(ctx, "ue-RadioCapabilityUpdateRequirement-TDD128");
-   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityUpdateRequirement_TDD128);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CapabilityUpdateRequirement_r4(rtxContext* ctx, const CapabilityUpdateRequirement_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CapabilityUpdateRequirement-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioCapabilityFDDUpdateRequirement-FDD */
-   rtxCtxtPushElemName(ctx, "ue-RadioCapabilityFDDUpdateRequirement-FDD");
-   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityFDDUpdateRequirement_FDD);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD384 */
-   rtxCtxtPushElemName(ctx, "ue-RadioCapabilityTDDUpdateRequirement-TDD384");
-   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD384);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD128 */
-   rtxCtxtPushElemName(ctx, "ue-RadioCapabilityTDDUpdateRequirement-TDD128");
-   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD128);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* systemSpecificCapUpdateReqList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "systemSpecificCapUpdateReqList");
-      stat = asn1PE_UMTS_SystemSpecificCapUpdateReqList(ctx, &pvalue->systemSpecificCapUpdateReqList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SystemSpecificCapUpdateReq_r5(rtxContext* ctx, SystemSpecificCapUpdateReq_r5 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SystemSpecificCapUpdateReq-r5");
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SystemSpecificCapUpdateReqList_r5(rtxContext* ctx, const SystemSpecificCapUpdateReqList_r5* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "SystemSpecificCapUpdateReqList-r5");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "SystemSpecificCapUpdateReq-r5", i);
-      rtxCtxtPushTypeName(ctx, "SystemSpecificCapUpdateReq-r5");
-      if (pvalue->elem[i] > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CapabilityUpdateRequirement_r5(rtxContext* ctx, const CapabilityUpdateRequirement_r5* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CapabilityUpdateRequirement-r5");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioCapabilityFDDUpdateRequirement-FDD */
-   rtxCtxtPushElemName(ctx, "ue-RadioCapabilityFDDUpdateRequirement-FDD");
-   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityFDDUpdateRequirement_FDD);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD384 */
-   rtxCtxtPushElemName(ctx, "ue-RadioCapabilityTDDUpdateRequirement-TDD384");
-   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD384);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD128 */
-   rtxCtxtPushElemName(ctx, "ue-RadioCapabilityTDDUpdateRequirement-TDD128");
-   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD128);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* systemSpecificCapUpdateReqList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "systemSpecificCapUpdateReqList");
-      stat = asn1PE_UMTS_SystemSpecificCapUpdateReqList_r5(ctx, &pvalue->systemSpecificCapUpdateReqList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CapabilityUpdateRequirement_v770ext(rtxContext* ctx, const CapabilityUpdateRequirement_v770ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CapabilityUpdateRequirement-v770ext");
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD768 */
-   rtxCtxtPushElemName(ctx, "ue-RadioCapabilityTDDUpdateRequirement-TDD768");
-   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD768);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CapabilityUpdateRequirement_r7(rtxContext* ctx, const CapabilityUpdateRequirement_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CapabilityUpdateRequirement-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioCapabilityFDDUpdateRequirement-FDD */
-   rtxCtxtPushElemName(ctx, "ue-RadioCapabilityFDDUpdateRequirement-FDD");
-   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityFDDUpdateRequirement_FDD);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD384 */
-   rtxCtxtPushElemName(ctx, "ue-RadioCapabilityTDDUpdateRequirement-TDD384");
-   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD384);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD768 */
-   rtxCtxtPushElemName(ctx, "ue-RadioCapabilityTDDUpdateRequirement-TDD768");
-   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD768);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD128 */
-   rtxCtxtPushElemName(ctx, "ue-RadioCapabilityTDDUpdateRequirement-TDD128");
-   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD128);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* systemSpecificCapUpdateReqList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "systemSpecificCapUpdateReqList");
-      stat = asn1PE_UMTS_SystemSpecificCapUpdateReqList_r5(ctx, &pvalue->systemSpecificCapUpdateReqList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SystemSpecificCapUpdateReq_r8(rtxContext* ctx, SystemSpecificCapUpdateReq_r8 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SystemSpecificCapUpdateReq-r8");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SystemSpecificCapUpdateReqList_r8(rtxContext* ctx, const SystemSpecificCapUpdateReqList_r8* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "SystemSpecificCapUpdateReqList-r8");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "SystemSpecificCapUpdateReq-r8", i);
-      rtxCtxtPushTypeName(ctx, "SystemSpecificCapUpdateReq-r8");
-      if (pvalue->elem[i] > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CapabilityUpdateRequirement_v860ext(rtxContext* ctx, const CapabilityUpdateRequirement_v860ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CapabilityUpdateRequirement-v860ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* systemSpecificCapUpdateReqList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "systemSpecificCapUpdateReqList");
-      stat = asn1PE_UMTS_SystemSpecificCapUpdateReqList_r8(ctx, &pvalue->systemSpecificCapUpdateReqList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CapabilityUpdateRequirement_r8(rtxContext* ctx, const CapabilityUpdateRequirement_r8* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CapabilityUpdateRequirement-r8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioCapabilityFDDUpdateRequirement-FDD */
-   rtxCtxtPushElemName(ctx, "ue-RadioCapabilityFDDUpdateRequirement-FDD");
-   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityFDDUpdateRequirement_FDD);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD384 */
-   rtxCtxtPushElemName(ctx, "ue-RadioCapabilityTDDUpdateRequirement-TDD384");
-   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD384);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD768 */
-   rtxCtxtPushElemName(ctx, "ue-RadioCapabilityTDDUpdateRequirement-TDD768");
-   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD768);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD128 */
-   rtxCtxtPushElemName(ctx, "ue-RadioCapabilityTDDUpdateRequirement-TDD128");
-   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD128);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* systemSpecificCapUpdateReqList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "systemSpecificCapUpdateReqList");
-      stat = asn1PE_UMTS_SystemSpecificCapUpdateReqList_r8(ctx, &pvalue->systemSpecificCapUpdateReqList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateCause(rtxContext* ctx, CellUpdateCause value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CellUpdateCause");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateCause_ext(rtxContext* ctx, CellUpdateCause_ext value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CellUpdateCause-ext");
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ChipRateCapability(rtxContext* ctx, ChipRateCapability value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ChipRateCapability");
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CipheringAlgorithm(rtxContext* ctx, CipheringAlgorithm value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CipheringAlgorithm");
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CipheringAlgorithm_r7(rtxContext* ctx, CipheringAlgorithm_r7 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CipheringAlgorithm-r7");
-   if (value > 2) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CipheringModeCommand(rtxContext* ctx, const CipheringModeCommand* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CipheringModeCommand");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "startRestart");
-         rtxCtxtPushTypeName(ctx, "CipheringAlgorithm");
-         if (pvalue->u.startRestart > 1) {
-            rtxErrAddUIntParm(ctx, pvalue->u.startRestart);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.startRestart, 0, 1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "dummy");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CipheringModeCommand_r7(rtxContext* ctx, const CipheringModeCommand_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CipheringModeCommand-r7");
-   /* startRestart */
-   rtxCtxtPushElemName(ctx, "startRestart");
-   rtxCtxtPushTypeName(ctx, "CipheringAlgorithm-r7");
-   if (pvalue->startRestart > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->startRestart);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->startRestart, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RLC_SequenceNumber(rtxContext* ctx, RLC_SequenceNumber value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RLC-SequenceNumber");
-   if ((uint64_t)value > 4095u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 4095);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RB_ActivationTimeInfo(rtxContext* ctx, const RB_ActivationTimeInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RB-ActivationTimeInfo");
-   /* rb-Identity */
-   rtxCtxtPushElemName(ctx, "rb-Identity");
-   rtxCtxtPushTypeName(ctx, "RB-Identity");
-   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* rlc-SequenceNumber */
-   rtxCtxtPushElemName(ctx, "rlc-SequenceNumber");
-   rtxCtxtPushTypeName(ctx, "RLC-SequenceNumber");
-   if ((uint64_t)pvalue->rlc_SequenceNumber > 4095u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rlc_SequenceNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rlc_SequenceNumber, 0, 4095);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RB_ActivationTimeInfoList(rtxContext* ctx, const RB_ActivationTimeInfoList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "RB-ActivationTimeInfoList");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "RB-ActivationTimeInfo", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_RB_ActivationTimeInfo(ctx, (const RB_ActivationTimeInfo*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CipheringModeInfo(rtxContext* ctx, const CipheringModeInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CipheringModeInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* cipheringModeCommand */
-   rtxCtxtPushElemName(ctx, "cipheringModeCommand");
-   stat = asn1PE_UMTS_CipheringModeCommand(ctx, &pvalue->cipheringModeCommand);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* activationTimeForDPCH */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "activationTimeForDPCH");
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pe_ConsUInt64(ctx, pvalue->activationTimeForDPCH, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-DL-CiphActivationTimeInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "rb-DL-CiphActivationTimeInfo");
-      stat = asn1PE_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->rb_DL_CiphActivationTimeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CipheringModeInfo_r7(rtxContext* ctx, const CipheringModeInfo_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CipheringModeInfo-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* cipheringModeCommand */
-   rtxCtxtPushElemName(ctx, "cipheringModeCommand");
-   stat = asn1PE_UMTS_CipheringModeCommand_r7(ctx, &pvalue->cipheringModeCommand);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* activationTimeForDPCH */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "activationTimeForDPCH");
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pe_ConsUInt64(ctx, pvalue->activationTimeForDPCH, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-DL-CiphActivationTimeInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "rb-DL-CiphActivationTimeInfo");
-      stat = asn1PE_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->rb_DL_CiphActivationTimeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IMSI_DS_41(rtxContext* ctx, const IMSI_DS_41* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IMSI-DS-41");
-   RT_SET_SIZE(ctx, 5, 7);
-   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TMSI_DS_41(rtxContext* ctx, const TMSI_DS_41* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TMSI-DS-41");
-   RT_SET_SIZE(ctx, 2, 17);
-   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CN_PagedUE_Identity(rtxContext* ctx, const CN_PagedUE_Identity* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CN-PagedUE-Identity");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 7) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "imsi-GSM-MAP");
-         if (pvalue->u.imsi_GSM_MAP == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_IMSI_GSM_MAP(ctx, pvalue->u.imsi_GSM_MAP);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tmsi-GSM-MAP");
-         if (pvalue->u.tmsi_GSM_MAP == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TMSI_GSM_MAP(ctx, *pvalue->u.tmsi_GSM_MAP);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "p-TMSI-GSM-MAP");
-         if (pvalue->u.p_TMSI_GSM_MAP == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_P_TMSI_GSM_MAP(ctx, *pvalue->u.p_TMSI_GSM_MAP);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "imsi-DS-41");
-         if (pvalue->u.imsi_DS_41 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_IMSI_DS_41(ctx, pvalue->u.imsi_DS_41);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "tmsi-DS-41");
-         if (pvalue->u.tmsi_DS_41 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TMSI_DS_41(ctx, pvalue->u.tmsi_DS_41);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "spare3");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "spare2");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 8:
-         rtxCtxtPushElemName(ctx, "spare1");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_Measurements(rtxContext* ctx, const GSM_Measurements* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "GSM-Measurements");
-   /* gsm900 */
-   rtxCtxtPushElemName(ctx, "gsm900");
-   stat = rtxEncBit(ctx, pvalue->gsm900);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dcs1800 */
-   rtxCtxtPushElemName(ctx, "dcs1800");
-   stat = rtxEncBit(ctx, pvalue->dcs1800);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gsm1900 */
-   rtxCtxtPushElemName(ctx, "gsm1900");
-   stat = rtxEncBit(ctx, pvalue->gsm1900);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CompressedModeMeasCapability(rtxContext* ctx, const CompressedModeMeasCapability* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CompressedModeMeasCapability");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* fdd-Measurements */
-   rtxCtxtPushElemName(ctx, "fdd-Measurements");
-   stat = rtxEncBit(ctx, pvalue->fdd_Measurements);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tdd-Measurements */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "tdd-Measurements");
-      stat = rtxEncBit(ctx, pvalue->tdd_Measurements);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* gsm-Measurements */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "gsm-Measurements");
-      stat = asn1PE_UMTS_GSM_Measurements(ctx, &pvalue->gsm_Measurements);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* multiCarrierMeasurements */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "multiCarrierMeasurements");
-      stat = rtxEncBit(ctx, pvalue->multiCarrierMeasurements);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CompressedModeMeasCapability_LCR_r4(rtxContext* ctx, const CompressedModeMeasCapability_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CompressedModeMeasCapability-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* tdd128-Measurements */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "tdd128-Measurements");
-      stat = rtxEncBit(ctx, pvalue->tdd128_Measurements);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CompressedModeMeasCapability_v860ext_adjacentFrequencyMeasurements(rtxContext* ctx, CompressedModeMeasCapability_v860ext_adjacentFrequencyMeasurements value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_CompressedModeMeasCapability_v860ext(rtxContext* ctx, const CompressedModeMeasCapability_v860ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CompressedModeMeasCapability-v860ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* adjacentFrequencyMeasurements */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "adjacentFrequencyMeasurements");
-      if (pvalue->adjacentFrequencyMeasurements > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->adjacentFrequencyMeasurements);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->adjacentFrequencyMeasurements, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CompressedModeMeasCapability_v920ext_interBandMeasurements(rtxContext* ctx, CompressedModeMeasCapability_v920ext_interBandMeasurements value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_CompressedModeMeasCapability_v920ext(rtxContext* ctx, const CompressedModeMeasCapability_v920ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CompressedModeMeasCapability-v920ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* interBandMeasurements */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interBandMeasurements");
-      if (pvalue->interBandMeasurements > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->interBandMeasurements);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->interBandMeasurements, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RadioFrequencyBandEUTRA(rtxContext* ctx, RadioFrequencyBandEUTRA value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandEUTRA");
-   if ((uint64_t)(value - 1) > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CompressedModeMeasCapabEUTRA(rtxContext* ctx, const CompressedModeMeasCapabEUTRA* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CompressedModeMeasCapabEUTRA");
-   /* radioFrequencyBandEUTRA */
-   rtxCtxtPushElemName(ctx, "radioFrequencyBandEUTRA");
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandEUTRA");
-   if ((uint64_t)(pvalue->radioFrequencyBandEUTRA - 1) > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandEUTRA);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandEUTRA, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* compressedMode */
-   rtxCtxtPushElemName(ctx, "compressedMode");
-   stat = rtxEncBit(ctx, pvalue->compressedMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CompressedModeMeasCapabEUTRAList(rtxContext* ctx, const CompressedModeMeasCapabEUTRAList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "CompressedModeMeasCapabEUTRAList");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "CompressedModeMeasCapabEUTRA", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_CompressedModeMeasCapabEUTRA(ctx, (const CompressedModeMeasCapabEUTRA*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CompressedModeMeasCapabFDD(rtxContext* ctx, const CompressedModeMeasCapabFDD* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CompressedModeMeasCapabFDD");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* radioFrequencyBandFDD */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "radioFrequencyBandFDD");
-      rtxCtxtPushTypeName(ctx, "RadioFrequencyBandFDD");
-      if (pvalue->radioFrequencyBandFDD > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandFDD);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandFDD, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-MeasurementsFDD */
-   rtxCtxtPushElemName(ctx, "dl-MeasurementsFDD");
-   stat = rtxEncBit(ctx, pvalue->dl_MeasurementsFDD);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-MeasurementsFDD */
-   rtxCtxtPushElemName(ctx, "ul-MeasurementsFDD");
-   stat = rtxEncBit(ctx, pvalue->ul_MeasurementsFDD);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CompressedModeMeasCapabFDDList(rtxContext* ctx, const CompressedModeMeasCapabFDDList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "CompressedModeMeasCapabFDDList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "CompressedModeMeasCapabFDD", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_CompressedModeMeasCapabFDD(ctx, (const CompressedModeMeasCapabFDD*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CompressedModeMeasCapabFDD2(rtxContext* ctx, const CompressedModeMeasCapabFDD2* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CompressedModeMeasCapabFDD2");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* radioFrequencyBandFDD */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "radioFrequencyBandFDD");
-      rtxCtxtPushTypeName(ctx, "RadioFrequencyBandFDD");
-      if (pvalue->radioFrequencyBandFDD > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandFDD);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandFDD, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* radioFrequencyBandFDD2 */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "radioFrequencyBandFDD2");
-      rtxCtxtPushTypeName(ctx, "RadioFrequencyBandFDD2");
-      if (pvalue->radioFrequencyBandFDD2 > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandFDD2);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandFDD2, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-MeasurementsFDD */
-   rtxCtxtPushElemName(ctx, "dl-MeasurementsFDD");
-   stat = rtxEncBit(ctx, pvalue->dl_MeasurementsFDD);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-MeasurementsFDD */
-   rtxCtxtPushElemName(ctx, "ul-MeasurementsFDD");
-   stat = rtxEncBit(ctx, pvalue->ul_MeasurementsFDD);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CompressedModeMeasCapabFDDList2(rtxContext* ctx, const CompressedModeMeasCapabFDDList2* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "CompressedModeMeasCapabFDDList2");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "CompressedModeMeasCapabFDD2", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_CompressedModeMeasCapabFDD2(ctx, (const CompressedModeMeasCapabFDD2*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CompressedModeMeasCapabFDD_ext(rtxContext* ctx, const CompressedModeMeasCapabFDD_ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CompressedModeMeasCapabFDD-ext");
-   /* radioFrequencyBandFDD2 */
-   rtxCtxtPushElemName(ctx, "radioFrequencyBandFDD2");
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandFDD2");
-   if (pvalue->radioFrequencyBandFDD2 > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandFDD2);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandFDD2, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dl-MeasurementsFDD */
-   rtxCtxtPushElemName(ctx, "dl-MeasurementsFDD");
-   stat = rtxEncBit(ctx, pvalue->dl_MeasurementsFDD);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-MeasurementsFDD */
-   rtxCtxtPushElemName(ctx, "ul-MeasurementsFDD");
-   stat = rtxEncBit(ctx, pvalue->ul_MeasurementsFDD);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CompressedModeMeasCapabFDDList_ext(rtxContext* ctx, const CompressedModeMeasCapabFDDList_ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "CompressedModeMeasCapabFDDList-ext");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "CompressedModeMeasCapabFDD-ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_CompressedModeMeasCapabFDD_ext(ctx, (const CompressedModeMeasCapabFDD_ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RadioFrequencyBandTDD(rtxContext* ctx, RadioFrequencyBandTDD value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandTDD");
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CompressedModeMeasCapabTDD(rtxContext* ctx, const CompressedModeMeasCapabTDD* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CompressedModeMeasCapabTDD");
-   /* radioFrequencyBandTDD */
-   rtxCtxtPushElemName(ctx, "radioFrequencyBandTDD");
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandTDD");
-   if (pvalue->radioFrequencyBandTDD > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandTDD);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandTDD, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dl-MeasurementsTDD */
-   rtxCtxtPushElemName(ctx, "dl-MeasurementsTDD");
-   stat = rtxEncBit(ctx, pvalue->dl_MeasurementsTDD);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-MeasurementsTDD */
-   rtxCtxtPushElemName(ctx, "ul-MeasurementsTDD");
-   stat = rtxEncBit(ctx, pvalue->ul_MeasurementsTDD);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CompressedModeMeasCapabTDDList(rtxContext* ctx, const CompressedModeMeasCapabTDDList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "CompressedModeMeasCapabTDDList");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "CompressedModeMeasCapabTDD", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_CompressedModeMeasCapabTDD(ctx, (const CompressedModeMeasCapabTDD*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RadioFrequencyBandGSM(rtxContext* ctx, RadioFrequencyBandGSM value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandGSM");
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CompressedModeMeasCapabGSM(rtxContext* ctx, const CompressedModeMeasCapabGSM* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CompressedModeMeasCapabGSM");
-   /* radioFrequencyBandGSM */
-   rtxCtxtPushElemName(ctx, "radioFrequencyBandGSM");
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandGSM");
-   if (pvalue->radioFrequencyBandGSM > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandGSM);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandGSM, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dl-MeasurementsGSM */
-   rtxCtxtPushElemName(ctx, "dl-MeasurementsGSM");
-   stat = rtxEncBit(ctx, pvalue->dl_MeasurementsGSM);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-MeasurementsGSM */
-   rtxCtxtPushElemName(ctx, "ul-MeasurementsGSM");
-   stat = rtxEncBit(ctx, pvalue->ul_MeasurementsGSM);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CompressedModeMeasCapabGSMList(rtxContext* ctx, const CompressedModeMeasCapabGSMList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "CompressedModeMeasCapabGSMList");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "CompressedModeMeasCapabGSM", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_CompressedModeMeasCapabGSM(ctx, (const CompressedModeMeasCapabGSM*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CompressedModeMeasCapabMC(rtxContext* ctx, const CompressedModeMeasCapabMC* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CompressedModeMeasCapabMC");
-   /* dl-MeasurementsMC */
-   rtxCtxtPushElemName(ctx, "dl-MeasurementsMC");
-   stat = rtxEncBit(ctx, pvalue->dl_MeasurementsMC);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-MeasurementsMC */
-   rtxCtxtPushElemName(ctx, "ul-MeasurementsMC");
-   stat = rtxEncBit(ctx, pvalue->ul_MeasurementsMC);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NS_IP(rtxContext* ctx, NS_IP value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "NS-IP");
-   if ((uint64_t)value > 28u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 28);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InitialPriorityDelayList(rtxContext* ctx, const InitialPriorityDelayList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "InitialPriorityDelayList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "NS-IP", i);
-      rtxCtxtPushTypeName(ctx, "NS-IP");
-      if ((uint64_t)pvalue->elem[i] > 28u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 28);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_DPCCH_BER(rtxContext* ctx, DL_DPCCH_BER value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DL-DPCCH-BER");
-   if ((uint64_t)value > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CPCH_Parameters(rtxContext* ctx, const CPCH_Parameters* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CPCH-Parameters");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* initialPriorityDelayList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "initialPriorityDelayList");
-      stat = asn1PE_UMTS_InitialPriorityDelayList(ctx, &pvalue->initialPriorityDelayList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* backoffControlParams */
-   rtxCtxtPushElemName(ctx, "backoffControlParams");
-   stat = asn1PE_UMTS_BackoffControlParams(ctx, &pvalue->backoffControlParams);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* powerControlAlgorithm */
-   rtxCtxtPushElemName(ctx, "powerControlAlgorithm");
-   stat = asn1PE_UMTS_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-DPCCH-BER */
-   rtxCtxtPushElemName(ctx, "dl-DPCCH-BER");
-   rtxCtxtPushTypeName(ctx, "DL-DPCCH-BER");
-   if ((uint64_t)pvalue->dl_DPCCH_BER > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->dl_DPCCH_BER);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dl_DPCCH_BER, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CSG_ProximityIndicationCapability_supportOfIntraFreqProximityIndication(rtxContext* ctx, CSG_ProximityIndicationCapability_supportOfIntraFreqProximityIndication value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_CSG_ProximityIndicationCapability_supportOfInterFreqProximityIndication(rtxContext* ctx, CSG_ProximityIndicationCapability_supportOfInterFreqProximityIndication value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_CSG_ProximityIndicationCapability_supportOfE_UtraProximityIndication(rtxContext* ctx, CSG_ProximityIndicationCapability_supportOfE_UtraProximityIndication value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_CSG_ProximityIndicationCapability(rtxContext* ctx, const CSG_ProximityIndicationCapability* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CSG-ProximityIndicationCapability");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* supportOfIntraFreqProximityIndication */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "supportOfIntraFreqProximityIndication");
-      if (pvalue->supportOfIntraFreqProximityIndication > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfIntraFreqProximityIndication);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfIntraFreqProximityIndication, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportOfInterFreqProximityIndication */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "supportOfInterFreqProximityIndication");
-      if (pvalue->supportOfInterFreqProximityIndication > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfInterFreqProximityIndication);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfInterFreqProximityIndication, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportOfE-UtraProximityIndication */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "supportOfE-UtraProximityIndication");
-      if (pvalue->supportOfE_UtraProximityIndication > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfE_UtraProximityIndication);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfE_UtraProximityIndication, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CapabilityWithSimultaneousHS_DSCHConfig(rtxContext* ctx, DL_CapabilityWithSimultaneousHS_DSCHConfig value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DL-CapabilityWithSimultaneousHS-DSCHConfig");
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DPCH_FrameOffset(rtxContext* ctx, DPCH_FrameOffset value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DPCH-FrameOffset");
-   if ((uint64_t)value > 149u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 149);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_FDPCH_SlotFormat(rtxContext* ctx, FDPCH_SlotFormat value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "FDPCH-SlotFormat");
-   if ((uint64_t)value > 9u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TPC_CombinationIndex(rtxContext* ctx, TPC_CombinationIndex value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TPC-CombinationIndex");
-   if ((uint64_t)value > 5u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_STTDIndication(rtxContext* ctx, STTDIndication value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "STTDIndication");
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_FDPCH_InfoPerRL_r7(rtxContext* ctx, const DL_FDPCH_InfoPerRL_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-FDPCH-InfoPerRL-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* pCPICH-UsageForChannelEst */
-   rtxCtxtPushElemName(ctx, "pCPICH-UsageForChannelEst");
-   rtxCtxtPushTypeName(ctx, "PCPICH-UsageForChannelEst");
-   if (pvalue->pCPICH_UsageForChannelEst > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->pCPICH_UsageForChannelEst);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pCPICH_UsageForChannelEst, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* fdpch-FrameOffset */
-   rtxCtxtPushElemName(ctx, "fdpch-FrameOffset");
-   rtxCtxtPushTypeName(ctx, "DPCH-FrameOffset");
-   if ((uint64_t)pvalue->fdpch_FrameOffset > 149u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->fdpch_FrameOffset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->fdpch_FrameOffset, 0, 149);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* fdpch-SlotFormat */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "fdpch-SlotFormat");
-      rtxCtxtPushTypeName(ctx, "FDPCH-SlotFormat");
-      if ((uint64_t)pvalue->fdpch_SlotFormat > 9u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->fdpch_SlotFormat);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->fdpch_SlotFormat, 0, 9);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* secondaryCPICH-Info */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "secondaryCPICH-Info");
-      stat = asn1PE_UMTS_SecondaryCPICH_Info(ctx, &pvalue->secondaryCPICH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* secondaryScramblingCode */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "secondaryScramblingCode");
-      rtxCtxtPushTypeName(ctx, "SecondaryScramblingCode");
-      if ((uint64_t)(pvalue->secondaryScramblingCode - 1) > 14u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->secondaryScramblingCode);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->secondaryScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-ChannelisationCode */
-   rtxCtxtPushElemName(ctx, "dl-ChannelisationCode");
-   stat = pe_ConsUInt64(ctx, pvalue->dl_ChannelisationCode, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tpc-CombinationIndex */
-   rtxCtxtPushElemName(ctx, "tpc-CombinationIndex");
-   rtxCtxtPushTypeName(ctx, "TPC-CombinationIndex");
-   if ((uint64_t)pvalue->tpc_CombinationIndex > 5u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->tpc_CombinationIndex);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tpc_CombinationIndex, 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* sttdIndication */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "sttdIndication");
-      rtxCtxtPushTypeName(ctx, "STTDIndication");
-      if (pvalue->sttdIndication > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->sttdIndication);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->sttdIndication, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerSecondaryRL_e_RGCH_Info(rtxContext* ctx, const DL_InformationPerSecondaryRL_e_RGCH_Info* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "e-RGCH-Information");
-         if (pvalue->u.e_RGCH_Information == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "releaseIndicator");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerSecondaryRL(rtxContext* ctx, const DL_InformationPerSecondaryRL* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-InformationPerSecondaryRL");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cell-id */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cell-id");
-      stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->cell_id);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-FDPCHInfoPerRL-SecULFreq */
-   rtxCtxtPushElemName(ctx, "dl-FDPCHInfoPerRL-SecULFreq");
-   stat = asn1PE_UMTS_DL_FDPCH_InfoPerRL_r7(ctx, &pvalue->dl_FDPCHInfoPerRL_SecULFreq);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-AGCH-Information */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "e-AGCH-Information");
-      stat = asn1PE_UMTS_E_AGCH_Information(ctx, &pvalue->e_AGCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-HICH-Information */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "e-HICH-Information");
-      stat = asn1PE_UMTS_E_HICH_Information(ctx, &pvalue->e_HICH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-RGCH-Info */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "e-RGCH-Info");
-      stat = asn1PE_UMTS_DL_InformationPerSecondaryRL_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerSecondaryRL_List(rtxContext* ctx, const DL_InformationPerSecondaryRL_List* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "DL-InformationPerSecondaryRL-List");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "DL-InformationPerSecondaryRL", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_DL_InformationPerSecondaryRL(ctx, (const DL_InformationPerSecondaryRL*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MaxNoPhysChBitsReceived(rtxContext* ctx, MaxNoPhysChBitsReceived value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaxNoPhysChBitsReceived");
-   if (value > 14) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MaxNoSCCPCH_RL(rtxContext* ctx, MaxNoSCCPCH_RL value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaxNoSCCPCH-RL");
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SimultaneousSCCPCH_DPCH_Reception_supported(rtxContext* ctx, const SimultaneousSCCPCH_DPCH_Reception_supported* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* maxNoSCCPCH-RL */
-   rtxCtxtPushElemName(ctx, "maxNoSCCPCH-RL");
-   rtxCtxtPushTypeName(ctx, "MaxNoSCCPCH-RL");
-   if (pvalue->maxNoSCCPCH_RL > 0) {
-      rtxErrAddUIntParm(ctx, pvalue->maxNoSCCPCH_RL);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxNoSCCPCH_RL, 0, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* simultaneousSCCPCH-DPCH-DPDCH-Reception */
-   rtxCtxtPushElemName(ctx, "simultaneousSCCPCH-DPCH-DPDCH-Reception");
-   stat = rtxEncBit(ctx, pvalue->simultaneousSCCPCH_DPCH_DPDCH_Reception);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SimultaneousSCCPCH_DPCH_Reception(rtxContext* ctx, const SimultaneousSCCPCH_DPCH_Reception* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SimultaneousSCCPCH-DPCH-Reception");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "notSupported");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "supported");
-         if (pvalue->u.supported == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_SimultaneousSCCPCH_DPCH_Reception_supported(ctx, pvalue->u.supported);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityFDD(rtxContext* ctx, const DL_PhysChCapabilityFDD* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-PhysChCapabilityFDD");
-   /* maxNoDPCH-PDSCH-Codes */
-   rtxCtxtPushElemName(ctx, "maxNoDPCH-PDSCH-Codes");
-   if ((uint64_t)(pvalue->maxNoDPCH_PDSCH_Codes - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->maxNoDPCH_PDSCH_Codes);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxNoDPCH_PDSCH_Codes, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* maxNoPhysChBitsReceived */
-   rtxCtxtPushElemName(ctx, "maxNoPhysChBitsReceived");
-   rtxCtxtPushTypeName(ctx, "MaxNoPhysChBitsReceived");
-   if (pvalue->maxNoPhysChBitsReceived > 14) {
-      rtxErrAddUIntParm(ctx, pvalue->maxNoPhysChBitsReceived);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxNoPhysChBitsReceived, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* supportForSF-512 */
-   rtxCtxtPushElemName(ctx, "supportForSF-512");
-   stat = rtxEncBit(ctx, pvalue->supportForSF_512);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dummy */
-   rtxCtxtPushElemName(ctx, "dummy");
-   stat = rtxEncBit(ctx, pvalue->dummy);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dummy2 */
-   rtxCtxtPushElemName(ctx, "dummy2");
-   stat = asn1PE_UMTS_SimultaneousSCCPCH_DPCH_Reception(ctx, &pvalue->dummy2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SupportOfDedicatedPilotsForChEstimation(rtxContext* ctx, SupportOfDedicatedPilotsForChEstimation value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SupportOfDedicatedPilotsForChEstimation");
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityFDD_v380ext(rtxContext* ctx, const DL_PhysChCapabilityFDD_v380ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-PhysChCapabilityFDD-v380ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      rtxCtxtPushTypeName(ctx, "SupportOfDedicatedPilotsForChEstimation");
-      if (pvalue->dummy > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->dummy);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dummy, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HSDSCH_physical_layer_category_ext(rtxContext* ctx, HSDSCH_physical_layer_category_ext value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HSDSCH-physical-layer-category-ext");
-   if ((uint64_t)(value - 1) > 19u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityFDD_v770ext_hsscchlessHsdschOperation(rtxContext* ctx, DL_PhysChCapabilityFDD_v770ext_hsscchlessHsdschOperation value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityFDD_v770ext_enhancedFdpch(rtxContext* ctx, DL_PhysChCapabilityFDD_v770ext_enhancedFdpch value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellFach(rtxContext* ctx, DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellFach value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellUraPch(rtxContext* ctx, DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellUraPch value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityFDD_v770ext(rtxContext* ctx, const DL_PhysChCapabilityFDD_v770ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-PhysChCapabilityFDD-v770ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat);
-   /* hsdsch-physical-layer-category-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "hsdsch-physical-layer-category-ext");
-      rtxCtxtPushTypeName(ctx, "HSDSCH-physical-layer-category-ext");
-      if ((uint64_t)(pvalue->hsdsch_physical_layer_category_ext - 1) > 19u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->hsdsch_physical_layer_category_ext);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hsdsch_physical_layer_category_ext, 1, 20);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hsscchlessHsdschOperation */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "hsscchlessHsdschOperation");
-      if (pvalue->hsscchlessHsdschOperation > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->hsscchlessHsdschOperation);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hsscchlessHsdschOperation, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* enhancedFdpch */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "enhancedFdpch");
-      if (pvalue->enhancedFdpch > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->enhancedFdpch);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->enhancedFdpch, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hsdschReception-CellFach */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "hsdschReception-CellFach");
-      if (pvalue->hsdschReception_CellFach > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->hsdschReception_CellFach);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hsdschReception_CellFach, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hsdschReception-CellUraPch */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "hsdschReception-CellUraPch");
-      if (pvalue->hsdschReception_CellUraPch > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->hsdschReception_CellUraPch);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hsdschReception_CellUraPch, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HSDSCH_physical_layer_category_ext2(rtxContext* ctx, HSDSCH_physical_layer_category_ext2 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HSDSCH-physical-layer-category-ext2");
-   if ((uint64_t)(value - 21) > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 21, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityFDD_v860ext_supportOfTargetCellPreConfig(rtxContext* ctx, DL_PhysChCapabilityFDD_v860ext_supportOfTargetCellPreConfig value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityFDD_v860ext_supportOfHsdschDrxOperation(rtxContext* ctx, DL_PhysChCapabilityFDD_v860ext_supportOfHsdschDrxOperation value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityFDD_v860ext(rtxContext* ctx, const DL_PhysChCapabilityFDD_v860ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-PhysChCapabilityFDD-v860ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* hsdsch-physical-layer-category-ext2 */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "hsdsch-physical-layer-category-ext2");
-      rtxCtxtPushTypeName(ctx, "HSDSCH-physical-layer-category-ext2");
-      if ((uint64_t)(pvalue->hsdsch_physical_layer_category_ext2 - 21) > 3u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->hsdsch_physical_layer_category_ext2);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hsdsch_physical_layer_category_ext2, 21, 24);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportOfTargetCellPreConfig */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "supportOfTargetCellPreConfig");
-      if (pvalue->supportOfTargetCellPreConfig > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfTargetCellPreConfig);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfTargetCellPreConfig, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportOfHsdschDrxOperation */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "supportOfHsdschDrxOperation");
-      if (pvalue->supportOfHsdschDrxOperation > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfHsdschDrxOperation);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfHsdschDrxOperation, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HSDSCH_physical_layer_category_ext3(rtxContext* ctx, HSDSCH_physical_layer_category_ext3 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HSDSCH-physical-layer-category-ext3");
-   if ((uint64_t)(value - 25) > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 25, 28);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityFDD_v920ext_supportOfMimoOnlySingleStream(rtxContext* ctx, DL_PhysChCapabilityFDD_v920ext_supportOfMimoOnlySingleStream value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityFDD_v920ext(rtxContext* ctx, const DL_PhysChCapabilityFDD_v920ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-PhysChCapabilityFDD-v920ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* hsdsch-physical-layer-category-ext3 */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "hsdsch-physical-layer-category-ext3");
-      rtxCtxtPushTypeName(ctx, "HSDSCH-physical-layer-category-ext3");
-      if ((uint64_t)(pvalue->hsdsch_physical_layer_category_ext3 - 25) > 3u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->hsdsch_physical_layer_category_ext3);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hsdsch_physical_layer_category_ext3, 25, 28);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportOfMimoOnlySingleStream */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "supportOfMimoOnlySingleStream");
-      if (pvalue->supportOfMimoOnlySingleStream > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfMimoOnlySingleStream);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfMimoOnlySingleStream, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MaxTS_PerFrame(rtxContext* ctx, MaxTS_PerFrame value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaxTS-PerFrame");
-   if ((uint64_t)(value - 1) > 13u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MaxPhysChPerFrame(rtxContext* ctx, MaxPhysChPerFrame value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerFrame");
-   if ((uint64_t)(value - 1) > 223u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 224);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MinimumSF_DL(rtxContext* ctx, MinimumSF_DL value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MinimumSF-DL");
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MaxPhysChPerTS(rtxContext* ctx, MaxPhysChPerTS value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerTS");
-   if ((uint64_t)(value - 1) > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityTDD(rtxContext* ctx, const DL_PhysChCapabilityTDD* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-PhysChCapabilityTDD");
-   /* maxTS-PerFrame */
-   rtxCtxtPushElemName(ctx, "maxTS-PerFrame");
-   rtxCtxtPushTypeName(ctx, "MaxTS-PerFrame");
-   if ((uint64_t)(pvalue->maxTS_PerFrame - 1) > 13u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->maxTS_PerFrame);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxTS_PerFrame, 1, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maxPhysChPerFrame */
-   rtxCtxtPushElemName(ctx, "maxPhysChPerFrame");
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerFrame");
-   if ((uint64_t)(pvalue->maxPhysChPerFrame - 1) > 223u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerFrame);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerFrame, 1, 224);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* minimumSF */
-   rtxCtxtPushElemName(ctx, "minimumSF");
-   rtxCtxtPushTypeName(ctx, "MinimumSF-DL");
-   if (pvalue->minimumSF > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->minimumSF);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->minimumSF, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* supportOfPDSCH */
-   rtxCtxtPushElemName(ctx, "supportOfPDSCH");
-   stat = rtxEncBit(ctx, pvalue->supportOfPDSCH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* maxPhysChPerTS */
-   rtxCtxtPushElemName(ctx, "maxPhysChPerTS");
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerTS");
-   if ((uint64_t)(pvalue->maxPhysChPerTS - 1) > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerTS);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerTS, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MaxTS_PerSubFrame_r4(rtxContext* ctx, MaxTS_PerSubFrame_r4 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaxTS-PerSubFrame-r4");
-   if ((uint64_t)(value - 1) > 5u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MaxPhysChPerSubFrame_r4(rtxContext* ctx, MaxPhysChPerSubFrame_r4 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerSubFrame-r4");
-   if ((uint64_t)(value - 1) > 95u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 96);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityTDD_LCR_r4(rtxContext* ctx, const DL_PhysChCapabilityTDD_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-PhysChCapabilityTDD-LCR-r4");
-   /* maxTS-PerSubFrame */
-   rtxCtxtPushElemName(ctx, "maxTS-PerSubFrame");
-   rtxCtxtPushTypeName(ctx, "MaxTS-PerSubFrame-r4");
-   if ((uint64_t)(pvalue->maxTS_PerSubFrame - 1) > 5u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->maxTS_PerSubFrame);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxTS_PerSubFrame, 1, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maxPhysChPerFrame */
-   rtxCtxtPushElemName(ctx, "maxPhysChPerFrame");
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerSubFrame-r4");
-   if ((uint64_t)(pvalue->maxPhysChPerFrame - 1) > 95u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerFrame);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerFrame, 1, 96);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* minimumSF */
-   rtxCtxtPushElemName(ctx, "minimumSF");
-   rtxCtxtPushTypeName(ctx, "MinimumSF-DL");
-   if (pvalue->minimumSF > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->minimumSF);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->minimumSF, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* supportOfPDSCH */
-   rtxCtxtPushElemName(ctx, "supportOfPDSCH");
-   stat = rtxEncBit(ctx, pvalue->supportOfPDSCH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* maxPhysChPerTS */
-   rtxCtxtPushElemName(ctx, "maxPhysChPerTS");
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerTS");
-   if ((uint64_t)(pvalue->maxPhysChPerTS - 1) > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerTS);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerTS, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* supportOf8PSK */
-   rtxCtxtPushElemName(ctx, "supportOf8PSK");
-   stat = rtxEncBit(ctx, pvalue->supportOf8PSK);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MultiCarrier_HSDSCH_physical_layer_category(rtxContext* ctx, MultiCarrier_HSDSCH_physical_layer_category value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MultiCarrier-HSDSCH-physical-layer-category");
-   if ((uint64_t)(value - 1) > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityTDD_128_v770ext(rtxContext* ctx, const DL_PhysChCapabilityTDD_128_v770ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-PhysChCapabilityTDD-128-v770ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* multiCarrier-physical-layer-category */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "multiCarrier-physical-layer-category");
-      rtxCtxtPushTypeName(ctx, "MultiCarrier-HSDSCH-physical-layer-category");
-      if ((uint64_t)(pvalue->multiCarrier_physical_layer_category - 1) > 63u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->multiCarrier_physical_layer_category);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->multiCarrier_physical_layer_category, 1, 64);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HSDSCH_physical_layer_category_extension(rtxContext* ctx, HSDSCH_physical_layer_category_extension value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HSDSCH-physical-layer-category-extension");
-   if ((uint64_t)(value - 1) > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MultiCarrier_HSDSCH_physical_layer_category_extension(rtxContext* ctx, MultiCarrier_HSDSCH_physical_layer_category_extension value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MultiCarrier-HSDSCH-physical-layer-category-extension");
-   if ((uint64_t)(value - 1) > 35u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 36);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityTDD_128_v860ext_supportOfSFModeForHSPDSCHDualStream(rtxContext* ctx, DL_PhysChCapabilityTDD_128_v860ext_supportOfSFModeForHSPDSCHDualStream value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityTDD_128_v860ext(rtxContext* ctx, const DL_PhysChCapabilityTDD_128_v860ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-PhysChCapabilityTDD-128-v860ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* hSDSCH-physical-layer-category-extension */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "hSDSCH-physical-layer-category-extension");
-      rtxCtxtPushTypeName(ctx, "HSDSCH-physical-layer-category-extension");
-      if ((uint64_t)(pvalue->hSDSCH_physical_layer_category_extension - 1) > 63u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->hSDSCH_physical_layer_category_extension);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hSDSCH_physical_layer_category_extension, 1, 64);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* multiCarrier-physical-layer-category-extension */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "multiCarrier-physical-layer-category-extension");
-      rtxCtxtPushTypeName(ctx, "MultiCarrier-HSDSCH-physical-layer-category-extension");
-      if ((uint64_t)(pvalue->multiCarrier_physical_layer_category_extension - 1) > 35u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->multiCarrier_physical_layer_category_extension);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->multiCarrier_physical_layer_category_extension, 1, 36);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportOfSFModeForHSPDSCHDualStream */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "supportOfSFModeForHSPDSCHDualStream");
-      if (pvalue->supportOfSFModeForHSPDSCHDualStream > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfSFModeForHSPDSCHDualStream);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfSFModeForHSPDSCHDualStream, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MaxPhysChPerFrame_768(rtxContext* ctx, MaxPhysChPerFrame_768 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerFrame-768");
-   if ((uint64_t)(value - 1) > 447u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 448);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MinimumSF_DL_768(rtxContext* ctx, MinimumSF_DL_768 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MinimumSF-DL-768");
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HSDSCH_physical_layer_category(rtxContext* ctx, HSDSCH_physical_layer_category value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HSDSCH-physical-layer-category");
-   if ((uint64_t)(value - 1) > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityTDD_768_tdd768_hspdsch(rtxContext* ctx, const DL_PhysChCapabilityTDD_768_tdd768_hspdsch* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "supported");
-         rtxCtxtPushTypeName(ctx, "HSDSCH-physical-layer-category");
-         if ((uint64_t)(pvalue->u.supported - 1) > 63u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.supported);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.supported, 1, 64);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "unsupported");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MaxPhysChPerTS_768(rtxContext* ctx, MaxPhysChPerTS_768 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerTS-768");
-   if ((uint64_t)(value - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityTDD_768(rtxContext* ctx, const DL_PhysChCapabilityTDD_768* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-PhysChCapabilityTDD-768");
-   /* maxTS-PerFrame */
-   rtxCtxtPushElemName(ctx, "maxTS-PerFrame");
-   rtxCtxtPushTypeName(ctx, "MaxTS-PerFrame");
-   if ((uint64_t)(pvalue->maxTS_PerFrame - 1) > 13u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->maxTS_PerFrame);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxTS_PerFrame, 1, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maxPhysChPerFrame */
-   rtxCtxtPushElemName(ctx, "maxPhysChPerFrame");
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerFrame-768");
-   if ((uint64_t)(pvalue->maxPhysChPerFrame - 1) > 447u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerFrame);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerFrame, 1, 448);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* minimumSF */
-   rtxCtxtPushElemName(ctx, "minimumSF");
-   rtxCtxtPushTypeName(ctx, "MinimumSF-DL-768");
-   if (pvalue->minimumSF > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->minimumSF);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->minimumSF, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* supportOfPDSCH */
-   rtxCtxtPushElemName(ctx, "supportOfPDSCH");
-   stat = rtxEncBit(ctx, pvalue->supportOfPDSCH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tdd768-hspdsch */
-   rtxCtxtPushElemName(ctx, "tdd768-hspdsch");
-   stat = asn1PE_UMTS_DL_PhysChCapabilityTDD_768_tdd768_hspdsch(ctx, &pvalue->tdd768_hspdsch);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* maxPhysChPerTS */
-   rtxCtxtPushElemName(ctx, "maxPhysChPerTS");
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerTS-768");
-   if ((uint64_t)(pvalue->maxPhysChPerTS - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerTS);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerTS, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityInfoTDD_768(rtxContext* ctx, const DL_PhysChCapabilityInfoTDD_768* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-PhysChCapabilityInfoTDD-768");
-   /* maxTS-PerFrame */
-   rtxCtxtPushElemName(ctx, "maxTS-PerFrame");
-   rtxCtxtPushTypeName(ctx, "MaxTS-PerFrame");
-   if ((uint64_t)(pvalue->maxTS_PerFrame - 1) > 13u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->maxTS_PerFrame);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxTS_PerFrame, 1, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maxPhysChPerFrame */
-   rtxCtxtPushElemName(ctx, "maxPhysChPerFrame");
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerFrame-768");
-   if ((uint64_t)(pvalue->maxPhysChPerFrame - 1) > 447u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerFrame);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerFrame, 1, 448);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* minimumSF */
-   rtxCtxtPushElemName(ctx, "minimumSF");
-   rtxCtxtPushTypeName(ctx, "MinimumSF-DL-768");
-   if (pvalue->minimumSF > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->minimumSF);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->minimumSF, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* supportOfPDSCH */
-   rtxCtxtPushElemName(ctx, "supportOfPDSCH");
-   stat = rtxEncBit(ctx, pvalue->supportOfPDSCH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* maxPhysChPerTS */
-   rtxCtxtPushElemName(ctx, "maxPhysChPerTS");
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerTS-768");
-   if ((uint64_t)(pvalue->maxPhysChPerTS - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerTS);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerTS, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MaxNoBits(rtxContext* ctx, MaxNoBits value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaxNoBits");
-   if (value > 12) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 12);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TurboSupport(rtxContext* ctx, const TurboSupport* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TurboSupport");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "notSupported");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "supported");
-         rtxCtxtPushTypeName(ctx, "MaxNoBits");
-         if (pvalue->u.supported > 12) {
-            rtxErrAddUIntParm(ctx, pvalue->u.supported);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.supported, 0, 12);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MaxSimultaneousTransChsDL(rtxContext* ctx, MaxSimultaneousTransChsDL value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaxSimultaneousTransChsDL");
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MaxSimultaneousCCTrCH_Count(rtxContext* ctx, MaxSimultaneousCCTrCH_Count value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaxSimultaneousCCTrCH-Count");
-   if ((uint64_t)(value - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MaxTransportBlocksDL(rtxContext* ctx, MaxTransportBlocksDL value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaxTransportBlocksDL");
-   if (value > 9) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MaxNumberOfTFC_DL(rtxContext* ctx, MaxNumberOfTFC_DL value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaxNumberOfTFC-DL");
-   if (value > 8) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MaxNumberOfTF(rtxContext* ctx, MaxNumberOfTF value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaxNumberOfTF");
-   if (value > 5) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_TransChCapability(rtxContext* ctx, const DL_TransChCapability* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-TransChCapability");
-   /* maxNoBitsReceived */
-   rtxCtxtPushElemName(ctx, "maxNoBitsReceived");
-   rtxCtxtPushTypeName(ctx, "MaxNoBits");
-   if (pvalue->maxNoBitsReceived > 12) {
-      rtxErrAddUIntParm(ctx, pvalue->maxNoBitsReceived);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxNoBitsReceived, 0, 12);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maxConvCodeBitsReceived */
-   rtxCtxtPushElemName(ctx, "maxConvCodeBitsReceived");
-   rtxCtxtPushTypeName(ctx, "MaxNoBits");
-   if (pvalue->maxConvCodeBitsReceived > 12) {
-      rtxErrAddUIntParm(ctx, pvalue->maxConvCodeBitsReceived);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxConvCodeBitsReceived, 0, 12);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* turboDecodingSupport */
-   rtxCtxtPushElemName(ctx, "turboDecodingSupport");
-   stat = asn1PE_UMTS_TurboSupport(ctx, &pvalue->turboDecodingSupport);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* maxSimultaneousTransChs */
-   rtxCtxtPushElemName(ctx, "maxSimultaneousTransChs");
-   rtxCtxtPushTypeName(ctx, "MaxSimultaneousTransChsDL");
-   if (pvalue->maxSimultaneousTransChs > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->maxSimultaneousTransChs);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxSimultaneousTransChs, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maxSimultaneousCCTrCH-Count */
-   rtxCtxtPushElemName(ctx, "maxSimultaneousCCTrCH-Count");
-   rtxCtxtPushTypeName(ctx, "MaxSimultaneousCCTrCH-Count");
-   if ((uint64_t)(pvalue->maxSimultaneousCCTrCH_Count - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->maxSimultaneousCCTrCH_Count);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxSimultaneousCCTrCH_Count, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maxReceivedTransportBlocks */
-   rtxCtxtPushElemName(ctx, "maxReceivedTransportBlocks");
-   rtxCtxtPushTypeName(ctx, "MaxTransportBlocksDL");
-   if (pvalue->maxReceivedTransportBlocks > 9) {
-      rtxErrAddUIntParm(ctx, pvalue->maxReceivedTransportBlocks);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxReceivedTransportBlocks, 0, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maxNumberOfTFC */
-   rtxCtxtPushElemName(ctx, "maxNumberOfTFC");
-   rtxCtxtPushTypeName(ctx, "MaxNumberOfTFC-DL");
-   if (pvalue->maxNumberOfTFC > 8) {
-      rtxErrAddUIntParm(ctx, pvalue->maxNumberOfTFC);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxNumberOfTFC, 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maxNumberOfTF */
-   rtxCtxtPushElemName(ctx, "maxNumberOfTF");
-   rtxCtxtPushTypeName(ctx, "MaxNumberOfTF");
-   if (pvalue->maxNumberOfTF > 5) {
-      rtxErrAddUIntParm(ctx, pvalue->maxNumberOfTF);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxNumberOfTF, 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TransmissionProbability(rtxContext* ctx, TransmissionProbability value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TransmissionProbability");
-   if ((uint64_t)(value - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MaximumBitRate(rtxContext* ctx, MaximumBitRate value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaximumBitRate");
-   if ((uint64_t)value > 32u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DRAC_SysInfo(rtxContext* ctx, const DRAC_SysInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DRAC-SysInfo");
-   /* transmissionProbability */
-   rtxCtxtPushElemName(ctx, "transmissionProbability");
-   rtxCtxtPushTypeName(ctx, "TransmissionProbability");
-   if ((uint64_t)(pvalue->transmissionProbability - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->transmissionProbability);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->transmissionProbability, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maximumBitRate */
-   rtxCtxtPushElemName(ctx, "maximumBitRate");
-   rtxCtxtPushTypeName(ctx, "MaximumBitRate");
-   if ((uint64_t)pvalue->maximumBitRate > 32u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->maximumBitRate);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maximumBitRate, 0, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DRAC_SysInfoList(rtxContext* ctx, const DRAC_SysInfoList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "DRAC-SysInfoList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "DRAC-SysInfo", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_DRAC_SysInfo(ctx, (const DRAC_SysInfo*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DSCH_RNTI(rtxContext* ctx, DSCH_RNTI value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DSCH-RNTI");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &value, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DelayRestrictionFlag(rtxContext* ctx, DelayRestrictionFlag value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DelayRestrictionFlag");
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ESN_DS_41(rtxContext* ctx, ESN_DS_41 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ESN-DS-41");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &value, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_EstablishmentCause(rtxContext* ctx, EstablishmentCause value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "EstablishmentCause");
-   if (value > 31) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TGPSI(rtxContext* ctx, TGPSI value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TGPSI");
-   if ((uint64_t)(value - 1) > 5u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ProtocolErrorCause(rtxContext* ctx, ProtocolErrorCause value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ProtocolErrorCause");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ProtocolErrorInformation_diagnosticsType_type1(rtxContext* ctx, const ProtocolErrorInformation_diagnosticsType_type1* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* protocolErrorCause */
-   rtxCtxtPushElemName(ctx, "protocolErrorCause");
-   rtxCtxtPushTypeName(ctx, "ProtocolErrorCause");
-   if (pvalue->protocolErrorCause > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->protocolErrorCause);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->protocolErrorCause, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ProtocolErrorInformation_diagnosticsType(rtxContext* ctx, const ProtocolErrorInformation_diagnosticsType* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "type1");
-         if (pvalue->u.type1 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_ProtocolErrorInformation_diagnosticsType_type1(ctx, pvalue->u.type1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "spare");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ProtocolErrorInformation(rtxContext* ctx, const ProtocolErrorInformation* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ProtocolErrorInformation");
-   /* diagnosticsType */
-   rtxCtxtPushElemName(ctx, "diagnosticsType");
-   stat = asn1PE_UMTS_ProtocolErrorInformation_diagnosticsType(ctx, &pvalue->diagnosticsType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_FailureCauseWithProtErr(rtxContext* ctx, const FailureCauseWithProtErr* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "FailureCauseWithProtErr");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 15) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "configurationUnsupported");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "physicalChannelFailure");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "incompatibleSimultaneousReconfiguration");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "compressedModeRuntimeError");
-         rtxCtxtPushTypeName(ctx, "TGPSI");
-         if ((uint64_t)(pvalue->u.compressedModeRuntimeError - 1) > 5u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.compressedModeRuntimeError);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.compressedModeRuntimeError, 1, 6);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "protocolError");
-         if (pvalue->u.protocolError == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_ProtocolErrorInformation(ctx, pvalue->u.protocolError);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "cellUpdateOccurred");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "invalidConfiguration");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 8:
-         rtxCtxtPushElemName(ctx, "configurationIncomplete");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 9:
-         rtxCtxtPushElemName(ctx, "unsupportedMeasurement");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 10:
-         rtxCtxtPushElemName(ctx, "mbmsSessionAlreadyReceivedCorrectly");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 11:
-         rtxCtxtPushElemName(ctx, "lowerPriorityMBMSService");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 12:
-         rtxCtxtPushElemName(ctx, "spare5");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 13:
-         rtxCtxtPushElemName(ctx, "spare4");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 14:
-         rtxCtxtPushElemName(ctx, "spare3");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 15:
-         rtxCtxtPushElemName(ctx, "spare2");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 16:
-         rtxCtxtPushElemName(ctx, "spare1");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RRC_TransactionIdentifier(rtxContext* ctx, RRC_TransactionIdentifier value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   if ((uint64_t)value > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_FailureCauseWithProtErrTrId(rtxContext* ctx, const FailureCauseWithProtErrTrId* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "FailureCauseWithProtErrTrId");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
    if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
       rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* failureCause */
-   rtxCtxtPushElemName(ctx, "failureCause");
-   stat = asn1PE_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* protocolErrorInformation */
+   stat = asn1PE_UMTS_ProtocolErrorInformation(ctx, &pvalue->protocolErrorInformation);
+   RT_CHECK(ctx, stat, 0, "protocolErrorInformation", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_GANSS_Mode(rtxContext* ctx, GANSS_Mode value)
+int asn1PE_UMTS_ProtocolErrorIndicatorWithMoreInfo(rtxContext* RT_RESTRICT ctx, const ProtocolErrorIndicatorWithMoreInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "GANSS-Mode");
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ProtocolErrorIndicatorWithMoreInfo");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "ProtocolErrorIndicatorWithMoreInfo");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ProtocolErrorIndicatorWithMoreInfo");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.errorOccurred == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "errorOccurred", -1, "ProtocolErrorIndicatorWithMoreInfo");
+         stat = asn1PE_UMTS_ProtocolErrorIndicatorWithMoreInfo_errorOccurred(ctx, pvalue->u.errorOccurred);
+         RT_CHECK(ctx, stat, 0, "errorOccurred", -1, "ProtocolErrorIndicatorWithMoreInfo");
+         break;
+      default:
+         break;
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_ReleaseCause(rtxContext* ctx, ReleaseCause value)
+int asn1PE_UMTS_ReceivedMessageType(rtxContext* RT_RESTRICT ctx, ReceivedMessageType value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ReleaseCause");
+   if (value > 31) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ReceivedMessageType");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 31);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ReceivedMessageType");
+   return 0;
+}
+
+int asn1PE_UMTS_IdentificationOfReceivedMessage(rtxContext* RT_RESTRICT ctx, const IdentificationOfReceivedMessage* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IdentificationOfReceivedMessage");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "IdentificationOfReceivedMessage");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "IdentificationOfReceivedMessage");
+   /* receivedMessageType */
+   if (pvalue->receivedMessageType > 31) {
+      rtxErrAddUIntParm(ctx, pvalue->receivedMessageType);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ReceivedMessageType", "receivedMessageType", -1, "IdentificationOfReceivedMessage");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->receivedMessageType, 0, 31);
+   RT_CHECK(ctx, stat, "ReceivedMessageType", "receivedMessageType", -1, "IdentificationOfReceivedMessage");
+   return 0;
+}
+
+int asn1PE_UMTS_ProtocolErrorMoreInformation_diagnosticsType_type1(rtxContext* RT_RESTRICT ctx, const ProtocolErrorMoreInformation_diagnosticsType_type1* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 7) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if (pvalue->u.messageNotCompatibleWithReceiverState == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "messageNotCompatibleWithReceiverState", -1, 0);
+         stat = asn1PE_UMTS_IdentificationOfReceivedMessage(ctx, pvalue->u.messageNotCompatibleWithReceiverState);
+         RT_CHECK(ctx, stat, 0, "messageNotCompatibleWithReceiverState", -1, 0);
+         break;
+      case 4:
+         if (pvalue->u.ie_ValueNotComprehended == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ie-ValueNotComprehended", -1, 0);
+         stat = asn1PE_UMTS_IdentificationOfReceivedMessage(ctx, pvalue->u.ie_ValueNotComprehended);
+         RT_CHECK(ctx, stat, 0, "ie-ValueNotComprehended", -1, 0);
+         break;
+      case 5:
+         if (pvalue->u.conditionalInformationElementError == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "conditionalInformationElementError", -1, 0);
+         stat = asn1PE_UMTS_IdentificationOfReceivedMessage(ctx, pvalue->u.conditionalInformationElementError);
+         RT_CHECK(ctx, stat, 0, "conditionalInformationElementError", -1, 0);
+         break;
+      case 6:
+         if (pvalue->u.messageExtensionNotComprehended == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "messageExtensionNotComprehended", -1, 0);
+         stat = asn1PE_UMTS_IdentificationOfReceivedMessage(ctx, pvalue->u.messageExtensionNotComprehended);
+         RT_CHECK(ctx, stat, 0, "messageExtensionNotComprehended", -1, 0);
+         break;
+      case 7:
+         break;
+      case 8:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ProtocolErrorMoreInformation_diagnosticsType(rtxContext* RT_RESTRICT ctx, const ProtocolErrorMoreInformation_diagnosticsType* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.type1 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "type1", -1, 0);
+         stat = asn1PE_UMTS_ProtocolErrorMoreInformation_diagnosticsType_type1(ctx, pvalue->u.type1);
+         RT_CHECK(ctx, stat, 0, "type1", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ProtocolErrorMoreInformation(rtxContext* RT_RESTRICT ctx, const ProtocolErrorMoreInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ProtocolErrorMoreInformation");
+   /* diagnosticsType */
+   stat = asn1PE_UMTS_ProtocolErrorMoreInformation_diagnosticsType(ctx, &pvalue->diagnosticsType);
+   RT_CHECK(ctx, stat, 0, "diagnosticsType", -1, "ProtocolErrorMoreInformation");
+   return 0;
+}
+
+int asn1PE_UMTS_RadioFrequencyBandTDDList(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDDList value)
+{
+   int stat = 0;
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "RadioFrequencyBandTDDList");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioFrequencyBandTDDList");
    return 0;
 }
 
-int asn1PE_UMTS_RRC_ConnectionReleaseInformation_release(rtxContext* ctx, const RRC_ConnectionReleaseInformation_release* pvalue)
+int asn1PE_UMTS_RadioFrequencyBandTDDList_r7(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDDList_r7 value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* releaseCause */
-   rtxCtxtPushElemName(ctx, "releaseCause");
-   rtxCtxtPushTypeName(ctx, "ReleaseCause");
-   if (pvalue->releaseCause > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->releaseCause);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->releaseCause, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RRC_ConnectionReleaseInformation(rtxContext* ctx, const RRC_ConnectionReleaseInformation* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RRC-ConnectionReleaseInformation");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "noRelease");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "release");
-         if (pvalue->u.release == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_RRC_ConnectionReleaseInformation_release(ctx, pvalue->u.release);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_U_RNTI_Group(rtxContext* ctx, const U_RNTI_Group* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "U-RNTI-Group");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 31) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "all");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b1");
-         if (pvalue->u.u_RNTI_BitMaskIndex_b1 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         RT_SET_SIZE(ctx, 31, 31);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b1, 31, 31);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b2");
-         if (pvalue->u.u_RNTI_BitMaskIndex_b2 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         RT_SET_SIZE(ctx, 30, 30);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b2, 30, 30);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b3");
-         if (pvalue->u.u_RNTI_BitMaskIndex_b3 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         RT_SET_SIZE(ctx, 29, 29);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b3, 29, 29);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b4");
-         if (pvalue->u.u_RNTI_BitMaskIndex_b4 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         RT_SET_SIZE(ctx, 28, 28);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b4, 28, 28);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b5");
-         if (pvalue->u.u_RNTI_BitMaskIndex_b5 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         RT_SET_SIZE(ctx, 27, 27);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b5, 27, 27);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b6");
-         if (pvalue->u.u_RNTI_BitMaskIndex_b6 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         RT_SET_SIZE(ctx, 26, 26);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b6, 26, 26);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 8:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b7");
-         if (pvalue->u.u_RNTI_BitMaskIndex_b7 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         RT_SET_SIZE(ctx, 25, 25);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b7, 25, 25);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 9:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b8");
-         if (pvalue->u.u_RNTI_BitMaskIndex_b8 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         RT_SET_SIZE(ctx, 24, 24);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b8, 24, 24);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 10:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b9");
-         if (pvalue->u.u_RNTI_BitMaskIndex_b9 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         RT_SET_SIZE(ctx, 23, 23);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b9, 23, 23);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 11:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b10");
-         if (pvalue->u.u_RNTI_BitMaskIndex_b10 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         RT_SET_SIZE(ctx, 22, 22);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b10, 22, 22);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 12:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b11");
-         if (pvalue->u.u_RNTI_BitMaskIndex_b11 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         RT_SET_SIZE(ctx, 21, 21);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b11, 21, 21);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 13:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b12");
-         if (pvalue->u.u_RNTI_BitMaskIndex_b12 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         RT_SET_SIZE(ctx, 20, 20);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b12, 20, 20);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 14:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b13");
-         if (pvalue->u.u_RNTI_BitMaskIndex_b13 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         RT_SET_SIZE(ctx, 19, 19);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b13, 19, 19);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 15:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b14");
-         if (pvalue->u.u_RNTI_BitMaskIndex_b14 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         RT_SET_SIZE(ctx, 18, 18);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b14, 18, 18);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 16:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b15");
-         if (pvalue->u.u_RNTI_BitMaskIndex_b15 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         RT_SET_SIZE(ctx, 17, 17);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b15, 17, 17);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 17:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b16");
-         if (pvalue->u.u_RNTI_BitMaskIndex_b16 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         RT_SET_SIZE(ctx, 16, 16);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b16, 16, 16);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 18:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b17");
-         if (pvalue->u.u_RNTI_BitMaskIndex_b17 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         RT_SET_SIZE(ctx, 15, 15);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b17, 15, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 19:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b18");
-         if (pvalue->u.u_RNTI_BitMaskIndex_b18 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         RT_SET_SIZE(ctx, 14, 14);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b18, 14, 14);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 20:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b19");
-         if (pvalue->u.u_RNTI_BitMaskIndex_b19 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         RT_SET_SIZE(ctx, 13, 13);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b19, 13, 13);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 21:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b20");
-         if (pvalue->u.u_RNTI_BitMaskIndex_b20 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         RT_SET_SIZE(ctx, 12, 12);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b20, 12, 12);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 22:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b21");
-         if (pvalue->u.u_RNTI_BitMaskIndex_b21 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         RT_SET_SIZE(ctx, 11, 11);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b21, 11, 11);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 23:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b22");
-         if (pvalue->u.u_RNTI_BitMaskIndex_b22 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         RT_SET_SIZE(ctx, 10, 10);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b22, 10, 10);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 24:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b23");
-         if (pvalue->u.u_RNTI_BitMaskIndex_b23 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         RT_SET_SIZE(ctx, 9, 9);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b23, 9, 9);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 25:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b24");
-         if (pvalue->u.u_RNTI_BitMaskIndex_b24 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         RT_SET_SIZE(ctx, 8, 8);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b24, 8, 8);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 26:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b25");
-         if (pvalue->u.u_RNTI_BitMaskIndex_b25 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         RT_SET_SIZE(ctx, 7, 7);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b25, 7, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 27:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b26");
-         if (pvalue->u.u_RNTI_BitMaskIndex_b26 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         RT_SET_SIZE(ctx, 6, 6);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b26, 6, 6);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 28:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b27");
-         if (pvalue->u.u_RNTI_BitMaskIndex_b27 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         RT_SET_SIZE(ctx, 5, 5);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b27, 5, 5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 29:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b28");
-         if (pvalue->u.u_RNTI_BitMaskIndex_b28 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         RT_SET_SIZE(ctx, 4, 4);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b28, 4, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 30:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b29");
-         if (pvalue->u.u_RNTI_BitMaskIndex_b29 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         RT_SET_SIZE(ctx, 3, 3);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b29, 3, 3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 31:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b30");
-         if (pvalue->u.u_RNTI_BitMaskIndex_b30 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         RT_SET_SIZE(ctx, 2, 2);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b30, 2, 2);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 32:
-         rtxCtxtPushElemName(ctx, "u-RNTI-BitMaskIndex-b31");
-         if (pvalue->u.u_RNTI_BitMaskIndex_b31 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         RT_SET_SIZE(ctx, 1, 1);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b31, 1, 1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GroupReleaseInformation(rtxContext* ctx, const GroupReleaseInformation* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "GroupReleaseInformation");
-   /* uRNTI-Group */
-   rtxCtxtPushElemName(ctx, "uRNTI-Group");
-   stat = asn1PE_UMTS_U_RNTI_Group(ctx, &pvalue->uRNTI_Group);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GroupIdentityWithReleaseInformation(rtxContext* ctx, const GroupIdentityWithReleaseInformation* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "GroupIdentityWithReleaseInformation");
-   /* rrc-ConnectionReleaseInformation */
-   rtxCtxtPushElemName(ctx, "rrc-ConnectionReleaseInformation");
-   stat = asn1PE_UMTS_RRC_ConnectionReleaseInformation(ctx, &pvalue->rrc_ConnectionReleaseInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* groupReleaseInformation */
-   rtxCtxtPushElemName(ctx, "groupReleaseInformation");
-   stat = asn1PE_UMTS_GroupReleaseInformation(ctx, &pvalue->groupReleaseInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_High_MobilityDetected(rtxContext* ctx, High_MobilityDetected value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "High-MobilityDetected");
-   if (value > 0) {
+   if (value > 15) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UESpecificBehaviourInformation1idle(rtxContext* ctx, UESpecificBehaviourInformation1idle value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UESpecificBehaviourInformation1idle");
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pe_BitString32(ctx, &value, 4, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UESpecificBehaviourInformation1interRAT(rtxContext* ctx, UESpecificBehaviourInformation1interRAT value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UESpecificBehaviourInformation1interRAT");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &value, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IdleIntervalMeasCapabEUTRA(rtxContext* ctx, const IdleIntervalMeasCapabEUTRA* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IdleIntervalMeasCapabEUTRA");
-   /* radioFrequencyBandEUTRA */
-   rtxCtxtPushElemName(ctx, "radioFrequencyBandEUTRA");
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandEUTRA");
-   if ((uint64_t)(pvalue->radioFrequencyBandEUTRA - 1) > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandEUTRA);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandEUTRA, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* idleInterval */
-   rtxCtxtPushElemName(ctx, "idleInterval");
-   stat = rtxEncBit(ctx, pvalue->idleInterval);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IdleIntervalMeasCapabEUTRAList(rtxContext* ctx, const IdleIntervalMeasCapabEUTRAList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "IdleIntervalMeasCapabEUTRAList");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "IdleIntervalMeasCapabEUTRA", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_IdleIntervalMeasCapabEUTRA(ctx, (const IdleIntervalMeasCapabEUTRA*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IMSI_and_ESN_DS_41(rtxContext* ctx, const IMSI_and_ESN_DS_41* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IMSI-and-ESN-DS-41");
-   /* imsi-DS-41 */
-   rtxCtxtPushElemName(ctx, "imsi-DS-41");
-   stat = asn1PE_UMTS_IMSI_DS_41(ctx, &pvalue->imsi_DS_41);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* esn-DS-41 */
-   rtxCtxtPushElemName(ctx, "esn-DS-41");
-   stat = asn1PE_UMTS_ESN_DS_41(ctx, pvalue->esn_DS_41);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TMSI_and_LAI_GSM_MAP(rtxContext* ctx, const TMSI_and_LAI_GSM_MAP* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TMSI-and-LAI-GSM-MAP");
-   /* tmsi */
-   rtxCtxtPushElemName(ctx, "tmsi");
-   stat = asn1PE_UMTS_TMSI_GSM_MAP(ctx, pvalue->tmsi);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* lai */
-   rtxCtxtPushElemName(ctx, "lai");
-   stat = asn1PE_UMTS_LAI(ctx, &pvalue->lai);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_P_TMSI_and_RAI_GSM_MAP(rtxContext* ctx, const P_TMSI_and_RAI_GSM_MAP* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "P-TMSI-and-RAI-GSM-MAP");
-   /* p-TMSI */
-   rtxCtxtPushElemName(ctx, "p-TMSI");
-   stat = asn1PE_UMTS_P_TMSI_GSM_MAP(ctx, pvalue->p_TMSI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rai */
-   rtxCtxtPushElemName(ctx, "rai");
-   stat = asn1PE_UMTS_RAI(ctx, &pvalue->rai);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InitialUE_Identity(rtxContext* ctx, const InitialUE_Identity* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InitialUE-Identity");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 7) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "imsi");
-         if (pvalue->u.imsi == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_IMSI_GSM_MAP(ctx, pvalue->u.imsi);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tmsi-and-LAI");
-         if (pvalue->u.tmsi_and_LAI == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TMSI_and_LAI_GSM_MAP(ctx, pvalue->u.tmsi_and_LAI);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "p-TMSI-and-RAI");
-         if (pvalue->u.p_TMSI_and_RAI == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_P_TMSI_and_RAI_GSM_MAP(ctx, pvalue->u.p_TMSI_and_RAI);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "imei");
-         if (pvalue->u.imei == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_IMEI(ctx, pvalue->u.imei);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "esn-DS-41");
-         if (pvalue->u.esn_DS_41 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_ESN_DS_41(ctx, *pvalue->u.esn_DS_41);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "imsi-DS-41");
-         if (pvalue->u.imsi_DS_41 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_IMSI_DS_41(ctx, pvalue->u.imsi_DS_41);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "imsi-and-ESN-DS-41");
-         if (pvalue->u.imsi_and_ESN_DS_41 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_IMSI_and_ESN_DS_41(ctx, pvalue->u.imsi_and_ESN_DS_41);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 8:
-         rtxCtxtPushElemName(ctx, "tmsi-DS-41");
-         if (pvalue->u.tmsi_DS_41 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TMSI_DS_41(ctx, pvalue->u.tmsi_DS_41);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MessageAuthenticationCode(rtxContext* ctx, MessageAuthenticationCode value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MessageAuthenticationCode");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &value, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RRC_MessageSequenceNumber(rtxContext* ctx, RRC_MessageSequenceNumber value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RRC-MessageSequenceNumber");
-   if ((uint64_t)value > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "RadioFrequencyBandTDDList-r7");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioFrequencyBandTDDList-r7");
    return 0;
 }
 
-int asn1PE_UMTS_IntegrityCheckInfo(rtxContext* ctx, const IntegrityCheckInfo* pvalue)
+int asn1PE_UMTS_RadioFrequencyBandTDDext(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDDext value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntegrityCheckInfo");
-   /* messageAuthenticationCode */
-   rtxCtxtPushElemName(ctx, "messageAuthenticationCode");
-   stat = asn1PE_UMTS_MessageAuthenticationCode(ctx, pvalue->messageAuthenticationCode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rrc-MessageSequenceNumber */
-   rtxCtxtPushElemName(ctx, "rrc-MessageSequenceNumber");
-   rtxCtxtPushTypeName(ctx, "RRC-MessageSequenceNumber");
-   if ((uint64_t)pvalue->rrc_MessageSequenceNumber > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rrc_MessageSequenceNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "RadioFrequencyBandTDDext");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_MessageSequenceNumber, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioFrequencyBandTDDext");
    return 0;
 }
 
-int asn1PE_UMTS_RRC_MessageSequenceNumberList(rtxContext* ctx, const RRC_MessageSequenceNumberList* pvalue)
+int asn1PE_UMTS_RadioFrequencyBandTDDextList(rtxContext* RT_RESTRICT ctx, const RadioFrequencyBandTDDextList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioFrequencyBandTDDextList");
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "RRC-MessageSequenceNumberList");
-   RT_SET_SIZE(ctx, 4, 5);
+   RT_SET_SIZE(ctx, 1, 16);
    stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RadioFrequencyBandTDDextList");
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "RRC-MessageSequenceNumber", i);
-      rtxCtxtPushTypeName(ctx, "RRC-MessageSequenceNumber");
-      if ((uint64_t)pvalue->elem[i] > 15u) {
-         rtxErrAddElemNameParm(ctx);
+      if (pvalue->elem[i] > 15) {
          rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandTDDext", "RadioFrequencyBandTDDext", (int32_t)i, "RadioFrequencyBandTDDextList");
       }
       stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
+      RT_CHECK(ctx, stat, "RadioFrequencyBandTDDext", "RadioFrequencyBandTDDext", (int32_t)i, "RadioFrequencyBandTDDextList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_IntegrityProtActivationInfo(rtxContext* ctx, const IntegrityProtActivationInfo* pvalue)
+int asn1PE_UMTS_Rb_timer_indicator(rtxContext* RT_RESTRICT ctx, const Rb_timer_indicator* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntegrityProtActivationInfo");
-   /* rrc-MessageSequenceNumberList */
-   rtxCtxtPushElemName(ctx, "rrc-MessageSequenceNumberList");
-   stat = asn1PE_UMTS_RRC_MessageSequenceNumberList(ctx, &pvalue->rrc_MessageSequenceNumberList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Rb-timer-indicator");
+   /* t314-expired */
+   stat = rtxEncBit(ctx, pvalue->t314_expired);
+   RT_CHECK(ctx, stat, 0, "t314-expired", -1, "Rb-timer-indicator");
+   /* t315-expired */
+   stat = rtxEncBit(ctx, pvalue->t315_expired);
+   RT_CHECK(ctx, stat, 0, "t315-expired", -1, "Rb-timer-indicator");
    return 0;
 }
 
-int asn1PE_UMTS_IntegrityProtectionAlgorithm(rtxContext* ctx, IntegrityProtectionAlgorithm value)
+int asn1PE_UMTS_InterRATInfo(rtxContext* RT_RESTRICT ctx, InterRATInfo value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "IntegrityProtectionAlgorithm");
    if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "InterRATInfo");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATInfo");
    return 0;
 }
 
-int asn1PE_UMTS_IntegrityProtectionAlgorithm_r7(rtxContext* ctx, IntegrityProtectionAlgorithm_r7 value)
+int asn1PE_UMTS_RedirectionInfo(rtxContext* RT_RESTRICT ctx, const RedirectionInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "IntegrityProtectionAlgorithm-r7");
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntegrityProtInitNumber(rtxContext* ctx, IntegrityProtInitNumber value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "IntegrityProtInitNumber");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &value, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntegrityProtectionModeCommand_startIntegrityProtection(rtxContext* ctx, const IntegrityProtectionModeCommand_startIntegrityProtection* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* integrityProtInitNumber */
-   rtxCtxtPushElemName(ctx, "integrityProtInitNumber");
-   stat = asn1PE_UMTS_IntegrityProtInitNumber(ctx, pvalue->integrityProtInitNumber);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntegrityProtectionModeCommand_modify(rtxContext* ctx, const IntegrityProtectionModeCommand_modify* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* dl-IntegrityProtActivationInfo */
-   rtxCtxtPushElemName(ctx, "dl-IntegrityProtActivationInfo");
-   stat = asn1PE_UMTS_IntegrityProtActivationInfo(ctx, &pvalue->dl_IntegrityProtActivationInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntegrityProtectionModeCommand(rtxContext* ctx, const IntegrityProtectionModeCommand* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntegrityProtectionModeCommand");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RedirectionInfo");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "RedirectionInfo");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RedirectionInfo");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "startIntegrityProtection");
-         if (pvalue->u.startIntegrityProtection == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_IntegrityProtectionModeCommand_startIntegrityProtection(ctx, pvalue->u.startIntegrityProtection);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.frequencyInfo == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "frequencyInfo", -1, "RedirectionInfo");
+         stat = asn1PE_UMTS_FrequencyInfo(ctx, pvalue->u.frequencyInfo);
+         RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RedirectionInfo");
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "modify");
-         if (pvalue->u.modify == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_IntegrityProtectionModeCommand_modify(ctx, pvalue->u.modify);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.interRATInfo > 0) {
+            rtxErrAddUIntParm(ctx, pvalue->u.interRATInfo);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "InterRATInfo", "interRATInfo", -1, "RedirectionInfo");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.interRATInfo, 0, 0);
+         RT_CHECK(ctx, stat, "InterRATInfo", "interRATInfo", -1, "RedirectionInfo");
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_IntegrityProtectionModeInfo(rtxContext* ctx, const IntegrityProtectionModeInfo* pvalue)
+int asn1PE_UMTS_GSM_TargetCellInfo(rtxContext* RT_RESTRICT ctx, const GSM_TargetCellInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntegrityProtectionModeInfo");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GSM-TargetCellInfo");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* integrityProtectionModeCommand */
-   rtxCtxtPushElemName(ctx, "integrityProtectionModeCommand");
-   stat = asn1PE_UMTS_IntegrityProtectionModeCommand(ctx, &pvalue->integrityProtectionModeCommand);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* integrityProtectionAlgorithm */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionAlgorithm");
-      rtxCtxtPushTypeName(ctx, "IntegrityProtectionAlgorithm");
-      if (pvalue->integrityProtectionAlgorithm > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->integrityProtectionAlgorithm);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->integrityProtectionAlgorithm, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "GSM-TargetCellInfo");
+   /* bcch-ARFCN */
+   if ((uint64_t)pvalue->bcch_ARFCN > 1023u) {
+      rtxErrAddStrParm(ctx, "BCCH-ARFCN");
+      rtxErrAddUIntParm(ctx, pvalue->bcch_ARFCN);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "BCCH-ARFCN", "bcch-ARFCN", -1, "GSM-TargetCellInfo");
    }
-   rtxCtxtPopTypeName(ctx);
+   stat = pe_ConsUInt64(ctx, pvalue->bcch_ARFCN, 0, 1023);
+   RT_CHECK(ctx, stat, "BCCH-ARFCN", "bcch-ARFCN", -1, "GSM-TargetCellInfo");
+   /* frequency-band */
+   if (pvalue->frequency_band > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->frequency_band);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "Frequency-Band", "frequency-band", -1, "GSM-TargetCellInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->frequency_band, 0, 1);
+   RT_CHECK(ctx, stat, "Frequency-Band", "frequency-band", -1, "GSM-TargetCellInfo");
+   /* bsic */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_BSIC(ctx, &pvalue->bsic);
+      RT_CHECK(ctx, stat, 0, "bsic", -1, "GSM-TargetCellInfo");
+   }
    return 0;
 }
 
-int asn1PE_UMTS_IntegrityProtectionModeInfo_r7(rtxContext* ctx, const IntegrityProtectionModeInfo_r7* pvalue)
+int asn1PE_UMTS_GSM_TargetCellInfoList(rtxContext* RT_RESTRICT ctx, const GSM_TargetCellInfoList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntegrityProtectionModeInfo-r7");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GSM-TargetCellInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GSM-TargetCellInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GSM-TargetCellInfo", (int32_t)i, "GSM-TargetCellInfoList");
+      stat = asn1PE_UMTS_GSM_TargetCellInfo(ctx, (const GSM_TargetCellInfo*)node->data);
+      RT_CHECK(ctx, stat, 0, "GSM-TargetCellInfo", (int32_t)i, "GSM-TargetCellInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATInfo_r6(rtxContext* RT_RESTRICT ctx, const InterRATInfo_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATInfo-r6");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* integrityProtectionModeCommand */
-   rtxCtxtPushElemName(ctx, "integrityProtectionModeCommand");
-   stat = asn1PE_UMTS_IntegrityProtectionModeCommand(ctx, &pvalue->integrityProtectionModeCommand);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* integrityProtectionAlgorithm */
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATInfo-r6");
+   /* rat */
+   if (pvalue->rat > 0) {
+      rtxErrAddUIntParm(ctx, pvalue->rat);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "InterRATInfo", "rat", -1, "InterRATInfo-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rat, 0, 0);
+   RT_CHECK(ctx, stat, "InterRATInfo", "rat", -1, "InterRATInfo-r6");
+   /* gsm-TargetCellInfoList */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionAlgorithm");
-      rtxCtxtPushTypeName(ctx, "IntegrityProtectionAlgorithm-r7");
-      if (pvalue->integrityProtectionAlgorithm > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->integrityProtectionAlgorithm);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->integrityProtectionAlgorithm, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_GSM_TargetCellInfoList(ctx, &pvalue->gsm_TargetCellInfoList);
+      RT_CHECK(ctx, stat, 0, "gsm-TargetCellInfoList", -1, "InterRATInfo-r6");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_MaxHcContextSpace(rtxContext* ctx, MaxHcContextSpace value)
+int asn1PE_UMTS_RedirectionInfo_r6(rtxContext* RT_RESTRICT ctx, const RedirectionInfo_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaxHcContextSpace");
-   if (value > 4) {
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RedirectionInfo-r6");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "RedirectionInfo-r6");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RedirectionInfo-r6");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.frequencyInfo == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "frequencyInfo", -1, "RedirectionInfo-r6");
+         stat = asn1PE_UMTS_FrequencyInfo(ctx, pvalue->u.frequencyInfo);
+         RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RedirectionInfo-r6");
+         break;
+      case 2:
+         if (pvalue->u.interRATInfo == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interRATInfo", -1, "RedirectionInfo-r6");
+         stat = asn1PE_UMTS_InterRATInfo_r6(ctx, pvalue->u.interRATInfo);
+         RT_CHECK(ctx, stat, 0, "interRATInfo", -1, "RedirectionInfo-r6");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_EUTRA_PhysicalCellIdentity(rtxContext* RT_RESTRICT ctx, EUTRA_PhysicalCellIdentity value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 503u) {
+      rtxErrAddStrParm(ctx, "EUTRA-PhysicalCellIdentity");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "EUTRA-PhysicalCellIdentity");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   stat = pe_ConsUInt64(ctx, value, 0, 503);
+   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-PhysicalCellIdentity");
    return 0;
 }
 
-int asn1PE_UMTS_MaxHcContextSpace_r5_ext(rtxContext* ctx, MaxHcContextSpace_r5_ext value)
+int asn1PE_UMTS_EUTRA_BlacklistedCell(rtxContext* RT_RESTRICT ctx, const EUTRA_BlacklistedCell* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaxHcContextSpace-r5-ext");
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-BlacklistedCell");
+   /* physicalCellIdentity */
+   if ((uint64_t)pvalue->physicalCellIdentity > 503u) {
+      rtxErrAddStrParm(ctx, "EUTRA-PhysicalCellIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->physicalCellIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "EUTRA-PhysicalCellIdentity", "physicalCellIdentity", -1, "EUTRA-BlacklistedCell");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   stat = pe_ConsUInt64(ctx, pvalue->physicalCellIdentity, 0, 503);
+   RT_CHECK(ctx, stat, "EUTRA-PhysicalCellIdentity", "physicalCellIdentity", -1, "EUTRA-BlacklistedCell");
    return 0;
 }
 
-int asn1PE_UMTS_MaxROHC_ContextSessions_r4(rtxContext* ctx, MaxROHC_ContextSessions_r4 value)
+int asn1PE_UMTS_EUTRA_BlacklistedCellPerFreqList(rtxContext* RT_RESTRICT ctx, const EUTRA_BlacklistedCellPerFreqList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaxROHC-ContextSessions-r4");
-   if (value > 13) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-BlacklistedCellPerFreqList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "EUTRA-BlacklistedCellPerFreqList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "EUTRA-BlacklistedCell", (int32_t)i, "EUTRA-BlacklistedCellPerFreqList");
+      stat = asn1PE_UMTS_EUTRA_BlacklistedCell(ctx, (const EUTRA_BlacklistedCell*)node->data);
+      RT_CHECK(ctx, stat, 0, "EUTRA-BlacklistedCell", (int32_t)i, "EUTRA-BlacklistedCellPerFreqList");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 13);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_MaximumAM_EntityNumberRLC_Cap(rtxContext* ctx, MaximumAM_EntityNumberRLC_Cap value)
+int asn1PE_UMTS_EUTRA_TargetFreqInfo(rtxContext* RT_RESTRICT ctx, const EUTRA_TargetFreqInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaximumAM-EntityNumberRLC-Cap");
-   if (value > 6) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-TargetFreqInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-TargetFreqInfo");
+   /* dlEUTRACarrierFreq */
+   stat = pe_ConsUInt64(ctx, pvalue->dlEUTRACarrierFreq, 0, 65535);
+   RT_CHECK(ctx, stat, "EARFCN", "dlEUTRACarrierFreq", -1, "EUTRA-TargetFreqInfo");
+   /* eutraBlacklistedCellPerFreqList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_EUTRA_BlacklistedCellPerFreqList(ctx, &pvalue->eutraBlacklistedCellPerFreqList);
+      RT_CHECK(ctx, stat, 0, "eutraBlacklistedCellPerFreqList", -1, "EUTRA-TargetFreqInfo");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_MaximumRLC_WindowSize(rtxContext* ctx, MaximumRLC_WindowSize value)
+int asn1PE_UMTS_EUTRA_TargetFreqInfoList(rtxContext* RT_RESTRICT ctx, const EUTRA_TargetFreqInfoList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaximumRLC-WindowSize");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-TargetFreqInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "EUTRA-TargetFreqInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "EUTRA-TargetFreqInfo", (int32_t)i, "EUTRA-TargetFreqInfoList");
+      stat = asn1PE_UMTS_EUTRA_TargetFreqInfo(ctx, (const EUTRA_TargetFreqInfo*)node->data);
+      RT_CHECK(ctx, stat, 0, "EUTRA-TargetFreqInfo", (int32_t)i, "EUTRA-TargetFreqInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATInfo_v860ext_eutra(rtxContext* RT_RESTRICT ctx, const InterRATInfo_v860ext_eutra* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* eutra-TargetFreqInfoList */
+   stat = asn1PE_UMTS_EUTRA_TargetFreqInfoList(ctx, &pvalue->eutra_TargetFreqInfoList);
+   RT_CHECK(ctx, stat, 0, "eutra-TargetFreqInfoList", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATInfo_v860ext(rtxContext* RT_RESTRICT ctx, const InterRATInfo_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATInfo-v860ext");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "InterRATInfo-v860ext");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterRATInfo-v860ext");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.eutra == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "eutra", -1, "InterRATInfo-v860ext");
+         stat = asn1PE_UMTS_InterRATInfo_v860ext_eutra(ctx, pvalue->u.eutra);
+         RT_CHECK(ctx, stat, 0, "eutra", -1, "InterRATInfo-v860ext");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RedirectionInfo_v860ext(rtxContext* RT_RESTRICT ctx, const RedirectionInfo_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RedirectionInfo-v860ext");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "RedirectionInfo-v860ext");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RedirectionInfo-v860ext");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.interRATInfo == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interRATInfo", -1, "RedirectionInfo-v860ext");
+         stat = asn1PE_UMTS_InterRATInfo_v860ext(ctx, pvalue->u.interRATInfo);
+         RT_CHECK(ctx, stat, 0, "interRATInfo", -1, "RedirectionInfo-v860ext");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RejectionCause(rtxContext* RT_RESTRICT ctx, RejectionCause value)
+{
+   int stat = 0;
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "RejectionCause");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RejectionCause");
    return 0;
 }
 
-int asn1PE_UMTS_MaxNoDPDCH_BitsTransmitted(rtxContext* ctx, MaxNoDPDCH_BitsTransmitted value)
+int asn1PE_UMTS_UE_PowerClass(rtxContext* RT_RESTRICT ctx, UE_PowerClass value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaxNoDPDCH-BitsTransmitted");
-   if (value > 9) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MaxNumberOfTFC_UL(rtxContext* ctx, MaxNumberOfTFC_UL value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaxNumberOfTFC-UL");
-   if (value > 10) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MaxPhysChPerTimeslot(rtxContext* ctx, MaxPhysChPerTimeslot value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerTimeslot");
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MaxPhysChPerTimeslot_LCR_r7(rtxContext* ctx, MaxPhysChPerTimeslot_LCR_r7 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerTimeslot-LCR-r7");
    if ((uint64_t)(value - 1) > 3u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "UE-PowerClass");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UE-PowerClass");
    }
    stat = pe_ConsUInt64(ctx, value, 1, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-PowerClass");
    return 0;
 }
 
-int asn1PE_UMTS_MaxSimultaneousTransChsUL(rtxContext* ctx, MaxSimultaneousTransChsUL value)
+int asn1PE_UMTS_TxRxFrequencySeparation(rtxContext* RT_RESTRICT ctx, TxRxFrequencySeparation value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaxSimultaneousTransChsUL");
-   if (value > 4) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MaxTransportBlocksUL(rtxContext* ctx, MaxTransportBlocksUL value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaxTransportBlocksUL");
-   if (value > 10) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCapability(rtxContext* ctx, const MeasurementCapability* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementCapability");
-   /* downlinkCompressedMode */
-   rtxCtxtPushElemName(ctx, "downlinkCompressedMode");
-   stat = asn1PE_UMTS_CompressedModeMeasCapability(ctx, &pvalue->downlinkCompressedMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* uplinkCompressedMode */
-   rtxCtxtPushElemName(ctx, "uplinkCompressedMode");
-   stat = asn1PE_UMTS_CompressedModeMeasCapability(ctx, &pvalue->uplinkCompressedMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCapabilityExt(rtxContext* ctx, const MeasurementCapabilityExt* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementCapabilityExt");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* compressedModeMeasCapabFDDList */
-   rtxCtxtPushElemName(ctx, "compressedModeMeasCapabFDDList");
-   stat = asn1PE_UMTS_CompressedModeMeasCapabFDDList(ctx, &pvalue->compressedModeMeasCapabFDDList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* compressedModeMeasCapabTDDList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "compressedModeMeasCapabTDDList");
-      stat = asn1PE_UMTS_CompressedModeMeasCapabTDDList(ctx, &pvalue->compressedModeMeasCapabTDDList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* compressedModeMeasCapabGSMList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "compressedModeMeasCapabGSMList");
-      stat = asn1PE_UMTS_CompressedModeMeasCapabGSMList(ctx, &pvalue->compressedModeMeasCapabGSMList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* compressedModeMeasCapabMC */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "compressedModeMeasCapabMC");
-      stat = asn1PE_UMTS_CompressedModeMeasCapabMC(ctx, &pvalue->compressedModeMeasCapabMC);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCapabilityExt2(rtxContext* ctx, const MeasurementCapabilityExt2* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementCapabilityExt2");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* compressedModeMeasCapabFDDList */
-   rtxCtxtPushElemName(ctx, "compressedModeMeasCapabFDDList");
-   stat = asn1PE_UMTS_CompressedModeMeasCapabFDDList2(ctx, &pvalue->compressedModeMeasCapabFDDList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* compressedModeMeasCapabTDDList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "compressedModeMeasCapabTDDList");
-      stat = asn1PE_UMTS_CompressedModeMeasCapabTDDList(ctx, &pvalue->compressedModeMeasCapabTDDList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* compressedModeMeasCapabGSMList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "compressedModeMeasCapabGSMList");
-      stat = asn1PE_UMTS_CompressedModeMeasCapabGSMList(ctx, &pvalue->compressedModeMeasCapabGSMList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* compressedModeMeasCapabMC */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "compressedModeMeasCapabMC");
-      stat = asn1PE_UMTS_CompressedModeMeasCapabMC(ctx, &pvalue->compressedModeMeasCapabMC);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCapabilityExt3(rtxContext* ctx, const MeasurementCapabilityExt3* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementCapabilityExt3");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* compressedModeMeasCapabEUTRAList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "compressedModeMeasCapabEUTRAList");
-      stat = asn1PE_UMTS_CompressedModeMeasCapabEUTRAList(ctx, &pvalue->compressedModeMeasCapabEUTRAList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCapability_r4_ext(rtxContext* ctx, const MeasurementCapability_r4_ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementCapability-r4-ext");
-   /* downlinkCompressedMode-LCR */
-   rtxCtxtPushElemName(ctx, "downlinkCompressedMode-LCR");
-   stat = asn1PE_UMTS_CompressedModeMeasCapability_LCR_r4(ctx, &pvalue->downlinkCompressedMode_LCR);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* uplinkCompressedMode-LCR */
-   rtxCtxtPushElemName(ctx, "uplinkCompressedMode-LCR");
-   stat = asn1PE_UMTS_CompressedModeMeasCapability_LCR_r4(ctx, &pvalue->uplinkCompressedMode_LCR);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCapability_v860ext(rtxContext* ctx, const MeasurementCapability_v860ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementCapability-v860ext");
-   /* downlinkCompressedMode */
-   rtxCtxtPushElemName(ctx, "downlinkCompressedMode");
-   stat = asn1PE_UMTS_CompressedModeMeasCapability_v860ext(ctx, &pvalue->downlinkCompressedMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCapability_v920ext(rtxContext* ctx, const MeasurementCapability_v920ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementCapability-v920ext");
-   /* downlinkCompressedMode */
-   rtxCtxtPushElemName(ctx, "downlinkCompressedMode");
-   stat = asn1PE_UMTS_CompressedModeMeasCapability_v920ext(ctx, &pvalue->downlinkCompressedMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCapabilityTDD(rtxContext* ctx, const MeasurementCapabilityTDD* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementCapabilityTDD");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* idleIntervalMeasCapabEUTRAList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "idleIntervalMeasCapabEUTRAList");
-      stat = asn1PE_UMTS_IdleIntervalMeasCapabEUTRAList(ctx, &pvalue->idleIntervalMeasCapabEUTRAList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MinimumSF_UL(rtxContext* ctx, MinimumSF_UL value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MinimumSF-UL");
-   if (value > 4) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MultiModeCapability(rtxContext* ctx, MultiModeCapability value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MultiModeCapability");
    if (value > 2) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TxRxFrequencySeparation");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TxRxFrequencySeparation");
    return 0;
 }
 
-int asn1PE_UMTS_MultiRAT_Capability(rtxContext* ctx, const MultiRAT_Capability* pvalue)
+int asn1PE_UMTS_RF_Capability_fddRF_Capability(rtxContext* RT_RESTRICT ctx, const RF_Capability_fddRF_Capability* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MultiRAT-Capability");
-   /* supportOfGSM */
-   rtxCtxtPushElemName(ctx, "supportOfGSM");
-   stat = rtxEncBit(ctx, pvalue->supportOfGSM);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* supportOfMulticarrier */
-   rtxCtxtPushElemName(ctx, "supportOfMulticarrier");
-   stat = rtxEncBit(ctx, pvalue->supportOfMulticarrier);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MultiModeRAT_Capability_v590ext(rtxContext* ctx, const MultiModeRAT_Capability_v590ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MultiModeRAT-Capability-v590ext");
-   /* supportOfUTRAN-ToGERAN-NACC */
-   rtxCtxtPushElemName(ctx, "supportOfUTRAN-ToGERAN-NACC");
-   stat = rtxEncBit(ctx, pvalue->supportOfUTRAN_ToGERAN_NACC);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MultiModeRAT_Capability_v680ext_supportOfHandoverToGAN(rtxContext* ctx, MultiModeRAT_Capability_v680ext_supportOfHandoverToGAN value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ue-PowerClass */
+   if ((uint64_t)(pvalue->ue_PowerClass - 1) > 3u) {
+      rtxErrAddStrParm(ctx, "UE-PowerClass");
+      rtxErrAddUIntParm(ctx, pvalue->ue_PowerClass);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "UE-PowerClass", "ue-PowerClass", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
+   stat = pe_ConsUInt64(ctx, pvalue->ue_PowerClass, 1, 4);
+   RT_CHECK(ctx, stat, "UE-PowerClass", "ue-PowerClass", -1, 0);
+   /* txRxFrequencySeparation */
+   if (pvalue->txRxFrequencySeparation > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->txRxFrequencySeparation);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TxRxFrequencySeparation", "txRxFrequencySeparation", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->txRxFrequencySeparation, 0, 2);
+   RT_CHECK(ctx, stat, "TxRxFrequencySeparation", "txRxFrequencySeparation", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_MultiModeRAT_Capability_v680ext(rtxContext* ctx, const MultiModeRAT_Capability_v680ext* pvalue)
+int asn1PE_UMTS_RF_Capability_tddRF_Capability(rtxContext* RT_RESTRICT ctx, const RF_Capability_tddRF_Capability* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MultiModeRAT-Capability-v680ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ue-PowerClass */
+   if ((uint64_t)(pvalue->ue_PowerClass - 1) > 3u) {
+      rtxErrAddStrParm(ctx, "UE-PowerClass");
+      rtxErrAddUIntParm(ctx, pvalue->ue_PowerClass);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "UE-PowerClass", "ue-PowerClass", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ue_PowerClass, 1, 4);
+   RT_CHECK(ctx, stat, "UE-PowerClass", "ue-PowerClass", -1, 0);
+   /* radioFrequencyTDDBandList */
+   if (pvalue->radioFrequencyTDDBandList > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyTDDBandList);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandTDDList", "radioFrequencyTDDBandList", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyTDDBandList, 0, 7);
+   RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList", "radioFrequencyTDDBandList", -1, 0);
+   /* chipRateCapability */
+   if (pvalue->chipRateCapability > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->chipRateCapability);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ChipRateCapability", "chipRateCapability", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->chipRateCapability, 0, 1);
+   RT_CHECK(ctx, stat, "ChipRateCapability", "chipRateCapability", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RF_Capability(rtxContext* RT_RESTRICT ctx, const RF_Capability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RF-Capability");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RF-Capability");
+   /* fddRF-Capability */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RF_Capability_fddRF_Capability(ctx, &pvalue->fddRF_Capability);
+      RT_CHECK(ctx, stat, 0, "fddRF-Capability", -1, "RF-Capability");
+   }
+   /* tddRF-Capability */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RF_Capability_tddRF_Capability(ctx, &pvalue->tddRF_Capability);
+      RT_CHECK(ctx, stat, 0, "tddRF-Capability", -1, "RF-Capability");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RF_Capability_r4_ext_tddRF_Capability(rtxContext* RT_RESTRICT ctx, const RF_Capability_r4_ext_tddRF_Capability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ue-PowerClass */
+   if ((uint64_t)(pvalue->ue_PowerClass - 1) > 3u) {
+      rtxErrAddStrParm(ctx, "UE-PowerClass");
+      rtxErrAddUIntParm(ctx, pvalue->ue_PowerClass);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "UE-PowerClass", "ue-PowerClass", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ue_PowerClass, 1, 4);
+   RT_CHECK(ctx, stat, "UE-PowerClass", "ue-PowerClass", -1, 0);
+   /* radioFrequencyBandTDDList */
+   if (pvalue->radioFrequencyBandTDDList > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandTDDList);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandTDDList", "radioFrequencyBandTDDList", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandTDDList, 0, 7);
+   RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList", "radioFrequencyBandTDDList", -1, 0);
+   /* chipRateCapability */
+   if (pvalue->chipRateCapability > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->chipRateCapability);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ChipRateCapability", "chipRateCapability", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->chipRateCapability, 0, 1);
+   RT_CHECK(ctx, stat, "ChipRateCapability", "chipRateCapability", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RF_Capability_r4_ext(rtxContext* RT_RESTRICT ctx, const RF_Capability_r4_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RF-Capability-r4-ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* supportOfHandoverToGAN */
+   RT_CHECK(ctx, stat, 0, 0, -1, "RF-Capability-r4-ext");
+   /* tddRF-Capability */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "supportOfHandoverToGAN");
-      if (pvalue->supportOfHandoverToGAN > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfHandoverToGAN);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+      stat = asn1PE_UMTS_RF_Capability_r4_ext_tddRF_Capability(ctx, &pvalue->tddRF_Capability);
+      RT_CHECK(ctx, stat, 0, "tddRF-Capability", -1, "RF-Capability-r4-ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RF_Capability_v770ext_tdd768RF_Capability(rtxContext* RT_RESTRICT ctx, const RF_Capability_v770ext_tdd768RF_Capability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ue-PowerClass */
+   if ((uint64_t)(pvalue->ue_PowerClass - 1) > 3u) {
+      rtxErrAddStrParm(ctx, "UE-PowerClass");
+      rtxErrAddUIntParm(ctx, pvalue->ue_PowerClass);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "UE-PowerClass", "ue-PowerClass", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ue_PowerClass, 1, 4);
+   RT_CHECK(ctx, stat, "UE-PowerClass", "ue-PowerClass", -1, 0);
+   /* radioFrequencyBandTDDList */
+   if (pvalue->radioFrequencyBandTDDList > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandTDDList);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandTDDList-r7", "radioFrequencyBandTDDList", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandTDDList, 0, 15);
+   RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList-r7", "radioFrequencyBandTDDList", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RF_Capability_v770ext(rtxContext* RT_RESTRICT ctx, const RF_Capability_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RF-Capability-v770ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RF-Capability-v770ext");
+   /* tdd384RF-Capability */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->tdd384RF_Capability > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->tdd384RF_Capability);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandTDDList-r7", "tdd384RF-Capability", -1, "RF-Capability-v770ext");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfHandoverToGAN, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->tdd384RF_Capability, 0, 15);
+      RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList-r7", "tdd384RF-Capability", -1, "RF-Capability-v770ext");
    }
-   rtxCtxtPopTypeName(ctx);
+   /* tdd768RF-Capability */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RF_Capability_v770ext_tdd768RF_Capability(ctx, &pvalue->tdd768RF_Capability);
+      RT_CHECK(ctx, stat, 0, "tdd768RF-Capability", -1, "RF-Capability-v770ext");
+   }
+   /* tdd128RF-Capability */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->tdd128RF_Capability > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->tdd128RF_Capability);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandTDDList-r7", "tdd128RF-Capability", -1, "RF-Capability-v770ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->tdd128RF_Capability, 0, 15);
+      RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList-r7", "tdd128RF-Capability", -1, "RF-Capability-v770ext");
+   }
    return 0;
 }
 
-int asn1PE_UMTS_MultiModeRAT_Capability_v770ext_supportOfPSHandoverToGAN(rtxContext* ctx, MultiModeRAT_Capability_v770ext_supportOfPSHandoverToGAN value)
+int asn1PE_UMTS_RF_Capability_v860ext(rtxContext* RT_RESTRICT ctx, const RF_Capability_v860ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (value > 0) {
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RF-Capability-v860ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RF-Capability-v860ext");
+   /* tdd128RF-Capability */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioFrequencyBandTDDextList(ctx, &pvalue->tdd128RF_Capability);
+      RT_CHECK(ctx, stat, 0, "tdd128RF-Capability", -1, "RF-Capability-v860ext");
+   }
+   /* tdd384RF-Capability */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RadioFrequencyBandTDDextList(ctx, &pvalue->tdd384RF_Capability);
+      RT_CHECK(ctx, stat, 0, "tdd384RF-Capability", -1, "RF-Capability-v860ext");
+   }
+   /* tdd768RF-Capability */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_RadioFrequencyBandTDDextList(ctx, &pvalue->tdd768RF_Capability);
+      RT_CHECK(ctx, stat, 0, "tdd768RF-Capability", -1, "RF-Capability-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TotalRLC_AM_BufferSize(rtxContext* RT_RESTRICT ctx, TotalRLC_AM_BufferSize value)
+{
+   int stat = 0;
+   if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TotalRLC-AM-BufferSize");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TotalRLC-AM-BufferSize");
    return 0;
 }
 
-int asn1PE_UMTS_MultiModeRAT_Capability_v770ext(rtxContext* ctx, const MultiModeRAT_Capability_v770ext* pvalue)
+int asn1PE_UMTS_RLC_Capability(rtxContext* RT_RESTRICT ctx, const RLC_Capability* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MultiModeRAT-Capability-v770ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-Capability");
+   /* totalRLC-AM-BufferSize */
+   if (pvalue->totalRLC_AM_BufferSize > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->totalRLC_AM_BufferSize);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TotalRLC-AM-BufferSize", "totalRLC-AM-BufferSize", -1, "RLC-Capability");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->totalRLC_AM_BufferSize, 0, 7);
+   RT_CHECK(ctx, stat, "TotalRLC-AM-BufferSize", "totalRLC-AM-BufferSize", -1, "RLC-Capability");
+   /* maximumRLC-WindowSize */
+   if (pvalue->maximumRLC_WindowSize > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->maximumRLC_WindowSize);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MaximumRLC-WindowSize", "maximumRLC-WindowSize", -1, "RLC-Capability");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maximumRLC_WindowSize, 0, 1);
+   RT_CHECK(ctx, stat, "MaximumRLC-WindowSize", "maximumRLC-WindowSize", -1, "RLC-Capability");
+   /* maximumAM-EntityNumber */
+   if (pvalue->maximumAM_EntityNumber > 6) {
+      rtxErrAddUIntParm(ctx, pvalue->maximumAM_EntityNumber);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MaximumAM-EntityNumberRLC-Cap", "maximumAM-EntityNumber", -1, "RLC-Capability");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maximumAM_EntityNumber, 0, 6);
+   RT_CHECK(ctx, stat, "MaximumAM-EntityNumberRLC-Cap", "maximumAM-EntityNumber", -1, "RLC-Capability");
+   return 0;
+}
+
+int asn1PE_UMTS_TotalRLC_AM_BufferSize_r5_ext(rtxContext* RT_RESTRICT ctx, TotalRLC_AM_BufferSize_r5_ext value)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TotalRLC-AM-BufferSize-r5-ext");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TotalRLC-AM-BufferSize-r5-ext");
+   return 0;
+}
+
+int asn1PE_UMTS_RLC_Capability_r5_ext(rtxContext* RT_RESTRICT ctx, const RLC_Capability_r5_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-Capability-r5-ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* supportOfPSHandoverToGAN */
+   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-Capability-r5-ext");
+   /* totalRLC-AM-BufferSize */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "supportOfPSHandoverToGAN");
-      if (pvalue->supportOfPSHandoverToGAN > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfPSHandoverToGAN);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+      if (pvalue->totalRLC_AM_BufferSize > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->totalRLC_AM_BufferSize);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TotalRLC-AM-BufferSize-r5-ext", "totalRLC-AM-BufferSize", -1, "RLC-Capability-r5-ext");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfPSHandoverToGAN, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->totalRLC_AM_BufferSize, 0, 3);
+      RT_CHECK(ctx, stat, "TotalRLC-AM-BufferSize-r5-ext", "totalRLC-AM-BufferSize", -1, "RLC-Capability-r5-ext");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_MultiModeRAT_Capability_v860ext_supportOfEUTRAFDD(rtxContext* ctx, MultiModeRAT_Capability_v860ext_supportOfEUTRAFDD value)
+int asn1PE_UMTS_RLC_Capability_v770ext(rtxContext* RT_RESTRICT ctx, const RLC_Capability_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-Capability-v770ext");
+   /* supportOfTwoLogicalChannel */
+   stat = rtxEncBit(ctx, pvalue->supportOfTwoLogicalChannel);
+   RT_CHECK(ctx, stat, 0, "supportOfTwoLogicalChannel", -1, "RLC-Capability-v770ext");
+   return 0;
+}
+
+int asn1PE_UMTS_TotalRLC_AM_BufferSize_v920ext(rtxContext* RT_RESTRICT ctx, TotalRLC_AM_BufferSize_v920ext value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TotalRLC-AM-BufferSize-v920ext");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TotalRLC-AM-BufferSize-v920ext");
+   return 0;
+}
+
+int asn1PE_UMTS_RLC_Capability_v920ext(rtxContext* RT_RESTRICT ctx, const RLC_Capability_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-Capability-v920ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-Capability-v920ext");
+   /* totalRLC-AM-BufferSize */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->totalRLC_AM_BufferSize > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->totalRLC_AM_BufferSize);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TotalRLC-AM-BufferSize-v920ext", "totalRLC-AM-BufferSize", -1, "RLC-Capability-v920ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->totalRLC_AM_BufferSize, 0, 1);
+      RT_CHECK(ctx, stat, "TotalRLC-AM-BufferSize-v920ext", "totalRLC-AM-BufferSize", -1, "RLC-Capability-v920ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRC_StateIndicator(rtxContext* RT_RESTRICT ctx, RRC_StateIndicator value)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "RRC-StateIndicator");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRC-StateIndicator");
+   return 0;
+}
+
+int asn1PE_UMTS_S_RNTI_2(rtxContext* RT_RESTRICT ctx, S_RNTI_2 value)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 10, 10);
+   stat = pe_BitString32(ctx, &value, 10, 10);
+   RT_CHECK(ctx, stat, 0, 0, -1, "S-RNTI-2");
+   return 0;
+}
+
+int asn1PE_UMTS_SecurityCapability_cipheringAlgorithmCap(rtxContext* RT_RESTRICT ctx, SecurityCapability_cipheringAlgorithmCap value)
+{
+   int stat = 0;
+   {
+      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
+      uint32_t used = (uint32_t)(last + 1);
+      value.numbits = used <= 16 ? 16 : used;
+      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
+   }
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &value, 16, 16);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SecurityCapability_integrityProtectionAlgorithmCap(rtxContext* RT_RESTRICT ctx, SecurityCapability_integrityProtectionAlgorithmCap value)
+{
+   int stat = 0;
+   {
+      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
+      uint32_t used = (uint32_t)(last + 1);
+      value.numbits = used <= 16 ? 16 : used;
+      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
+   }
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &value, 16, 16);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SecurityCapability(rtxContext* RT_RESTRICT ctx, const SecurityCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SecurityCapability");
+   /* cipheringAlgorithmCap */
+   stat = asn1PE_UMTS_SecurityCapability_cipheringAlgorithmCap(ctx, pvalue->cipheringAlgorithmCap);
+   RT_CHECK(ctx, stat, 0, "cipheringAlgorithmCap", -1, "SecurityCapability");
+   /* integrityProtectionAlgorithmCap */
+   stat = asn1PE_UMTS_SecurityCapability_integrityProtectionAlgorithmCap(ctx, pvalue->integrityProtectionAlgorithmCap);
+   RT_CHECK(ctx, stat, 0, "integrityProtectionAlgorithmCap", -1, "SecurityCapability");
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryServingEDCHCell_Info(rtxContext* RT_RESTRICT ctx, const SecondaryServingEDCHCell_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SecondaryServingEDCHCell-Info");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SecondaryServingEDCHCell-Info");
+   /* primary-E-RNTI */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->primary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "primary-E-RNTI", -1, "SecondaryServingEDCHCell-Info");
+   }
+   /* secondary-E-RNTI */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->secondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "secondary-E-RNTI", -1, "SecondaryServingEDCHCell-Info");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryEDCH_Info_Common_servingGrant_primary_Secondary_GrantSelector(rtxContext* RT_RESTRICT ctx, SecondaryEDCH_Info_Common_servingGrant_primary_Secondary_GrantSelector value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryEDCH_Info_Common_servingGrant(rtxContext* RT_RESTRICT ctx, const SecondaryEDCH_Info_Common_servingGrant* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* primary-Secondary-GrantSelector */
+   if (pvalue->primary_Secondary_GrantSelector > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->primary_Secondary_GrantSelector);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "primary-Secondary-GrantSelector", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->primary_Secondary_GrantSelector, 0, 1);
+   RT_CHECK(ctx, stat, 0, "primary-Secondary-GrantSelector", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PC_Preamble(rtxContext* RT_RESTRICT ctx, PC_Preamble value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 7u) {
+      rtxErrAddStrParm(ctx, "PC-Preamble");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PC-Preamble");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PC-Preamble");
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryEDCH_Info_Common(rtxContext* RT_RESTRICT ctx, const SecondaryEDCH_Info_Common* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SecondaryEDCH-Info-Common");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SecondaryEDCH-Info-Common");
+   /* frequencyInfo */
+   stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "SecondaryEDCH-Info-Common");
+   /* scramblingCodeType */
+   if (pvalue->scramblingCodeType > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->scramblingCodeType);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ScramblingCodeType", "scramblingCodeType", -1, "SecondaryEDCH-Info-Common");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->scramblingCodeType, 0, 1);
+   RT_CHECK(ctx, stat, "ScramblingCodeType", "scramblingCodeType", -1, "SecondaryEDCH-Info-Common");
+   /* scramblingCodeNumber */
+   if ((uint64_t)pvalue->scramblingCodeNumber > 16777215u) {
+      rtxErrAddStrParm(ctx, "UL-ScramblingCode");
+      rtxErrAddUIntParm(ctx, pvalue->scramblingCodeNumber);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-ScramblingCode", "scramblingCodeNumber", -1, "SecondaryEDCH-Info-Common");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->scramblingCodeNumber, 0, 16777215);
+   RT_CHECK(ctx, stat, "UL-ScramblingCode", "scramblingCodeNumber", -1, "SecondaryEDCH-Info-Common");
+   /* ms2-SchedTransmGrantHARQAlloc */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pe_BitString32(ctx, &pvalue->ms2_SchedTransmGrantHARQAlloc, 8, 8);
+      RT_CHECK(ctx, stat, 0, "ms2-SchedTransmGrantHARQAlloc", -1, "SecondaryEDCH-Info-Common");
+   }
+   /* servingGrant */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_SecondaryEDCH_Info_Common_servingGrant(ctx, &pvalue->servingGrant);
+      RT_CHECK(ctx, stat, 0, "servingGrant", -1, "SecondaryEDCH-Info-Common");
+   }
+   /* minReduced-E-DPDCH-GainFactor */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->minReduced_E_DPDCH_GainFactor > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->minReduced_E_DPDCH_GainFactor);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MinReduced-E-DPDCH-GainFactor", "minReduced-E-DPDCH-GainFactor", -1, "SecondaryEDCH-Info-Common");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->minReduced_E_DPDCH_GainFactor, 0, 7);
+      RT_CHECK(ctx, stat, "MinReduced-E-DPDCH-GainFactor", "minReduced-E-DPDCH-GainFactor", -1, "SecondaryEDCH-Info-Common");
+   }
+   /* e-DCH-minimumSet-E-TFCI */
+   if (pvalue->m & 0x8u) {
+      if ((uint64_t)pvalue->e_DCH_minimumSet_E_TFCI > 127u) {
+         rtxErrAddStrParm(ctx, "E-DCH-MinimumSet-E-TFCI");
+         rtxErrAddUIntParm(ctx, pvalue->e_DCH_minimumSet_E_TFCI);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DCH-MinimumSet-E-TFCI", "e-DCH-minimumSet-E-TFCI", -1, "SecondaryEDCH-Info-Common");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->e_DCH_minimumSet_E_TFCI, 0, 127);
+      RT_CHECK(ctx, stat, "E-DCH-MinimumSet-E-TFCI", "e-DCH-minimumSet-E-TFCI", -1, "SecondaryEDCH-Info-Common");
+   }
+   /* dpcchPowerOffset-SecondaryULFrequency */
+   if ((uint64_t)pvalue->dpcchPowerOffset_SecondaryULFrequency > 7u) {
+      rtxErrAddStrParm(ctx, "dpcchPowerOffset-SecondaryULFrequency");
+      rtxErrAddUIntParm(ctx, pvalue->dpcchPowerOffset_SecondaryULFrequency);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "dpcchPowerOffset-SecondaryULFrequency", -1, "SecondaryEDCH-Info-Common");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->dpcchPowerOffset_SecondaryULFrequency, 0, 7);
+   RT_CHECK(ctx, stat, 0, "dpcchPowerOffset-SecondaryULFrequency", -1, "SecondaryEDCH-Info-Common");
+   /* pc-Preamble */
+   if ((uint64_t)pvalue->pc_Preamble > 7u) {
+      rtxErrAddStrParm(ctx, "PC-Preamble");
+      rtxErrAddUIntParm(ctx, pvalue->pc_Preamble);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PC-Preamble", "pc-Preamble", -1, "SecondaryEDCH-Info-Common");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->pc_Preamble, 0, 7);
+   RT_CHECK(ctx, stat, "PC-Preamble", "pc-Preamble", -1, "SecondaryEDCH-Info-Common");
+   return 0;
+}
+
+int asn1PE_UMTS_HARQ_Preamble_Mode(rtxContext* RT_RESTRICT ctx, HARQ_Preamble_Mode value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 1u) {
+      rtxErrAddStrParm(ctx, "HARQ-Preamble-Mode");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "HARQ-Preamble-Mode");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HARQ-Preamble-Mode");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 127u) {
+         rtxErrAddStrParm(ctx, "HS-SCCH-Codes");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 127);
+      RT_CHECK(ctx, stat, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* hS-SCCHChannelisationCodeInfo */
+   stat = asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo);
+   RT_CHECK(ctx, stat, 0, "hS-SCCHChannelisationCodeInfo", -1, 0);
+   /* dl-ScramblingCode */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->dl_ScramblingCode - 1) > 14u) {
+         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
+         rtxErrAddUIntParm(ctx, pvalue->dl_ScramblingCode);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dl_ScramblingCode, 1, 15);
+      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SICH_Power_Control_Info_TDD384(rtxContext* RT_RESTRICT ctx, const HS_SICH_Power_Control_Info_TDD384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SICH-Power-Control-Info-TDD384");
+   /* ul-target-SIR */
+   if (pvalue->ul_target_SIR < -22 || pvalue->ul_target_SIR > 40) {
+      rtxErrAddStrParm(ctx, "ul-target-SIR");
+      rtxErrAddIntParm(ctx, pvalue->ul_target_SIR);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ul-target-SIR", -1, "HS-SICH-Power-Control-Info-TDD384");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->ul_target_SIR, -22, 40);
+   RT_CHECK(ctx, stat, 0, "ul-target-SIR", -1, "HS-SICH-Power-Control-Info-TDD384");
+   /* hs-sich-ConstantValue */
+   if (pvalue->hs_sich_ConstantValue < -35 || pvalue->hs_sich_ConstantValue > -10) {
+      rtxErrAddStrParm(ctx, "ConstantValue");
+      rtxErrAddIntParm(ctx, pvalue->hs_sich_ConstantValue);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "ConstantValue", "hs-sich-ConstantValue", -1, "HS-SICH-Power-Control-Info-TDD384");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->hs_sich_ConstantValue, -35, -10);
+   RT_CHECK(ctx, stat, "ConstantValue", "hs-sich-ConstantValue", -1, "HS-SICH-Power-Control-Info-TDD384");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 15u) {
+      rtxErrAddStrParm(ctx, "MidambleShiftLong");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
+   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_TDD384_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD384_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
+         stat = asn1PE_UMTS_HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 15u) {
+      rtxErrAddStrParm(ctx, "MidambleShiftLong");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
+   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SICH_Configuration_TDD384_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD384_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
+         stat = asn1PE_UMTS_HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SICH_Configuration_TDD384(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SICH-Configuration-TDD384");
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, "HS-SICH-Configuration-TDD384");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, "HS-SICH-Configuration-TDD384");
+   /* channelisationCode */
+   if (pvalue->channelisationCode > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TS-ChannelisationCode", "channelisationCode", -1, "HS-SICH-Configuration-TDD384");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 15);
+   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode", "channelisationCode", -1, "HS-SICH-Configuration-TDD384");
+   /* midambleAllocationMode */
+   stat = asn1PE_UMTS_HS_SICH_Configuration_TDD384_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SICH-Configuration-TDD384");
+   /* midambleconfiguration */
+   if (pvalue->midambleconfiguration > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->midambleconfiguration);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SICH-Configuration-TDD384");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->midambleconfiguration, 0, 2);
+   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SICH-Configuration-TDD384");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_TDD384(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-TDD384");
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, "HS-SCCH-TDD384");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, "HS-SCCH-TDD384");
+   /* channelisationCode */
+   if (pvalue->channelisationCode > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TS-ChannelisationCode", "channelisationCode", -1, "HS-SCCH-TDD384");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 15);
+   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode", "channelisationCode", -1, "HS-SCCH-TDD384");
+   /* midambleAllocationMode */
+   stat = asn1PE_UMTS_HS_SCCH_TDD384_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SCCH-TDD384");
+   /* midambleconfiguration */
+   if (pvalue->midambleconfiguration > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->midambleconfiguration);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SCCH-TDD384");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->midambleconfiguration, 0, 2);
+   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SCCH-TDD384");
+   /* bler-target */
+   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
+      rtxErrAddStrParm(ctx, "Bler-Target");
+      rtxErrAddIntParm(ctx, pvalue->bler_target);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Bler-Target", "bler-target", -1, "HS-SCCH-TDD384");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->bler_target, -63, 0);
+   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, "HS-SCCH-TDD384");
+   /* hs-sich-configuration */
+   stat = asn1PE_UMTS_HS_SICH_Configuration_TDD384(ctx, &pvalue->hs_sich_configuration);
+   RT_CHECK(ctx, stat, 0, "hs-sich-configuration", -1, "HS-SCCH-TDD384");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "HS-SCCH-TDD384", (int32_t)i, 0);
+      stat = asn1PE_UMTS_HS_SCCH_TDD384(ctx, (const HS_SCCH_TDD384*)node->data);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD384", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* nack-ack-power-offset */
+   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
+      rtxErrAddStrParm(ctx, "nack-ack-power-offset");
+      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "nack-ack-power-offset", -1, 0);
+   }
+   stat = pe_ConsInt64(ctx, pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, 0);
+   /* hs-SICH-PowerControl-Info */
+   stat = asn1PE_UMTS_HS_SICH_Power_Control_Info_TDD384(ctx, &pvalue->hs_SICH_PowerControl_Info);
+   RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl-Info", -1, 0);
+   /* hS-SCCH-SetConfiguration */
+   stat = asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_TDD128_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD128_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if ((uint64_t)pvalue->u.ueSpecificMidamble > 15u) {
+            rtxErrAddStrParm(ctx, "ueSpecificMidamble");
+            rtxErrAddUIntParm(ctx, pvalue->u.ueSpecificMidamble);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ueSpecificMidamble", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.ueSpecificMidamble, 0, 15);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 15u) {
+      rtxErrAddStrParm(ctx, "MidambleShiftLong");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
+   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SICH_Configuration_TDD128_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD128_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
+         stat = asn1PE_UMTS_HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SICH_Configuration_TDD128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128_tpc_step_size value)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SICH_Configuration_TDD128(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SICH-Configuration-TDD128");
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 6u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SICH-Configuration-TDD128");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 6);
+   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SICH-Configuration-TDD128");
+   /* channelisationCode */
+   if (pvalue->channelisationCode > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "channelisationCode", -1, "HS-SICH-Configuration-TDD128");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 15);
+   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "channelisationCode", -1, "HS-SICH-Configuration-TDD128");
+   /* midambleAllocationMode */
+   stat = asn1PE_UMTS_HS_SICH_Configuration_TDD128_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SICH-Configuration-TDD128");
+   /* midambleConfiguration */
+   if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "midambleConfiguration");
+      rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "midambleConfiguration", -1, "HS-SICH-Configuration-TDD128");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "HS-SICH-Configuration-TDD128");
+   /* nack-ack-power-offset */
+   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
+      rtxErrAddStrParm(ctx, "nack-ack-power-offset");
+      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "nack-ack-power-offset", -1, "HS-SICH-Configuration-TDD128");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, "HS-SICH-Configuration-TDD128");
+   /* power-level-HSSICH */
+   if (pvalue->power_level_HSSICH < -120 || pvalue->power_level_HSSICH > -58) {
+      rtxErrAddStrParm(ctx, "power-level-HSSICH");
+      rtxErrAddIntParm(ctx, pvalue->power_level_HSSICH);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "power-level-HSSICH", -1, "HS-SICH-Configuration-TDD128");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->power_level_HSSICH, -120, -58);
+   RT_CHECK(ctx, stat, 0, "power-level-HSSICH", -1, "HS-SICH-Configuration-TDD128");
+   /* tpc-step-size */
+   if (pvalue->tpc_step_size > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->tpc_step_size);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "tpc-step-size", -1, "HS-SICH-Configuration-TDD128");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->tpc_step_size, 0, 3);
+   RT_CHECK(ctx, stat, 0, "tpc-step-size", -1, "HS-SICH-Configuration-TDD128");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_TDD128(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-TDD128");
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 6u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SCCH-TDD128");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 6);
+   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SCCH-TDD128");
+   /* firstChannelisationCode */
+   if (pvalue->firstChannelisationCode > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->firstChannelisationCode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "firstChannelisationCode", -1, "HS-SCCH-TDD128");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->firstChannelisationCode, 0, 15);
+   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "firstChannelisationCode", -1, "HS-SCCH-TDD128");
+   /* secondChannelisationCode */
+   if (pvalue->secondChannelisationCode > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->secondChannelisationCode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "secondChannelisationCode", -1, "HS-SCCH-TDD128");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->secondChannelisationCode, 0, 15);
+   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "secondChannelisationCode", -1, "HS-SCCH-TDD128");
+   /* midambleAllocationMode */
+   stat = asn1PE_UMTS_HS_SCCH_TDD128_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SCCH-TDD128");
+   /* midambleConfiguration */
+   if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "midambleConfiguration");
+      rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "midambleConfiguration", -1, "HS-SCCH-TDD128");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "HS-SCCH-TDD128");
+   /* bler-target */
+   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
+      rtxErrAddStrParm(ctx, "Bler-Target");
+      rtxErrAddIntParm(ctx, pvalue->bler_target);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Bler-Target", "bler-target", -1, "HS-SCCH-TDD128");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->bler_target, -63, 0);
+   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, "HS-SCCH-TDD128");
+   /* hs-sich-configuration */
+   stat = asn1PE_UMTS_HS_SICH_Configuration_TDD128(ctx, &pvalue->hs_sich_configuration);
+   RT_CHECK(ctx, stat, 0, "hs-sich-configuration", -1, "HS-SCCH-TDD128");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "HS-SCCH-TDD128", (int32_t)i, 0);
+      stat = asn1PE_UMTS_HS_SCCH_TDD128(ctx, (const HS_SCCH_TDD128*)node->data);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD128", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-Info");
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "HS-SCCH-Info");
+   return 0;
+}
+
+int asn1PE_UMTS_Feedback_cycle(rtxContext* RT_RESTRICT ctx, Feedback_cycle value)
+{
+   int stat = 0;
+   if (value > 8) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "Feedback-cycle");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Feedback-cycle");
+   return 0;
+}
+
+int asn1PE_UMTS_Measurement_Feedback_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const Measurement_Feedback_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* measurementPowerOffset */
+   if (pvalue->measurementPowerOffset < -12 || pvalue->measurementPowerOffset > 26) {
+      rtxErrAddStrParm(ctx, "MeasurementPowerOffset");
+      rtxErrAddIntParm(ctx, pvalue->measurementPowerOffset);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementPowerOffset", "measurementPowerOffset", -1, 0);
+   }
+   stat = pe_ConsInt64(ctx, pvalue->measurementPowerOffset, -12, 26);
+   RT_CHECK(ctx, stat, "MeasurementPowerOffset", "measurementPowerOffset", -1, 0);
+   /* feedback-cycle */
+   if (pvalue->feedback_cycle > 8) {
+      rtxErrAddUIntParm(ctx, pvalue->feedback_cycle);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "Feedback-cycle", "feedback-cycle", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->feedback_cycle, 0, 8);
+   RT_CHECK(ctx, stat, "Feedback-cycle", "feedback-cycle", -1, 0);
+   /* cqi-RepetitionFactor */
+   if ((uint64_t)(pvalue->cqi_RepetitionFactor - 1) > 3u) {
+      rtxErrAddStrParm(ctx, "CQI-RepetitionFactor");
+      rtxErrAddUIntParm(ctx, pvalue->cqi_RepetitionFactor);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "CQI-RepetitionFactor", "cqi-RepetitionFactor", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cqi_RepetitionFactor, 1, 4);
+   RT_CHECK(ctx, stat, "CQI-RepetitionFactor", "cqi-RepetitionFactor", -1, 0);
+   /* deltaCQI */
+   if ((uint64_t)pvalue->deltaCQI > 8u) {
+      rtxErrAddStrParm(ctx, "DeltaCQI");
+      rtxErrAddUIntParm(ctx, pvalue->deltaCQI);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaCQI", "deltaCQI", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->deltaCQI, 0, 8);
+   RT_CHECK(ctx, stat, "DeltaCQI", "deltaCQI", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_Measurement_Feedback_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const Measurement_Feedback_Info_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_Measurement_Feedback_Info_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Measurement_Feedback_Info(rtxContext* RT_RESTRICT ctx, const Measurement_Feedback_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Measurement-Feedback-Info");
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_Measurement_Feedback_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "Measurement-Feedback-Info");
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 15u) {
+      rtxErrAddStrParm(ctx, "MidambleShiftLong");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
+   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
+         stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type1(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_burstType_type1* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleConfigurationBurstType1and3 */
+   if (pvalue->midambleConfigurationBurstType1and3 > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType1and3);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->midambleConfigurationBurstType1and3, 0, 2);
+   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
+   /* midambleAllocationMode */
+   stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 5u) {
+      rtxErrAddStrParm(ctx, "MidambleShiftShort");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftShort", "midambleShift", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 5);
+   RT_CHECK(ctx, stat, "MidambleShiftShort", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
+         stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type2(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_burstType_type2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleConfigurationBurstType2 */
+   if (pvalue->midambleConfigurationBurstType2 > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType2);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MidambleConfigurationBurstType2", "midambleConfigurationBurstType2", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->midambleConfigurationBurstType2, 0, 1);
+   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType2", "midambleConfigurationBurstType2", -1, 0);
+   /* midambleAllocationMode */
+   stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_burstType* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.type1 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "type1", -1, 0);
+         stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type1(ctx, pvalue->u.type1);
+         RT_CHECK(ctx, stat, 0, "type1", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.type2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "type2", -1, 0);
+         stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type2(ctx, pvalue->u.type2);
+         RT_CHECK(ctx, stat, 0, "type2", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_DL(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MidambleShiftAndBurstType-DL");
+   /* burstType */
+   stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType(ctx, &pvalue->burstType);
+   RT_CHECK(ctx, stat, 0, "burstType", -1, "MidambleShiftAndBurstType-DL");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_TS_Configuration_element(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_TS_Configuration_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* timeslot */
+   if ((uint64_t)pvalue->timeslot > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslot);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslot", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 14);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, 0);
+   /* midambleShiftAndBurstType */
+   stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL(ctx, &pvalue->midambleShiftAndBurstType);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_TS_Configuration(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_TS_Configuration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-HSPDSCH-TS-Configuration");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 13);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-HSPDSCH-TS-Configuration");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "DL-HSPDSCH-TS-Configuration");
+      stat = asn1PE_UMTS_DL_HSPDSCH_TS_Configuration_element(ctx, (const DL_HSPDSCH_TS_Configuration_element*)node->data);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "DL-HSPDSCH-TS-Configuration");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-HSPDSCH-TS-Configuration */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_TS_Configuration(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* hs-PDSCH-Midamble-Configuration-tdd128 */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration_tdd128);
+      RT_CHECK(ctx, stat, 0, "hs-PDSCH-Midamble-Configuration-tdd128", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = asn1PE_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = asn1PE_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-HSPDSCH-Information");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-HSPDSCH-Information");
+   /* hs-scch-Info */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HS_SCCH_Info(ctx, &pvalue->hs_scch_Info);
+      RT_CHECK(ctx, stat, 0, "hs-scch-Info", -1, "DL-HSPDSCH-Information");
+   }
+   /* measurement-feedback-Info */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_Measurement_Feedback_Info(ctx, &pvalue->measurement_feedback_Info);
+      RT_CHECK(ctx, stat, 0, "measurement-feedback-Info", -1, "DL-HSPDSCH-Information");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_DL_HSPDSCH_Information_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-HSPDSCH-Information");
+   return 0;
+}
+
+int asn1PE_UMTS_Serving_HSDSCH_CellInformation_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_mac_hsResetIndicator value)
 {
    int stat = 0;
    if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRAFDD(rtxContext* ctx, MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRAFDD value)
+int asn1PE_UMTS_Serving_HSDSCH_CellInformation(rtxContext* RT_RESTRICT ctx, const Serving_HSDSCH_CellInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Serving-HSDSCH-CellInformation");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Serving-HSDSCH-CellInformation");
+   /* deltaACK */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->deltaACK > 8u) {
+         rtxErrAddStrParm(ctx, "DeltaACK");
+         rtxErrAddUIntParm(ctx, pvalue->deltaACK);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaACK", "deltaACK", -1, "Serving-HSDSCH-CellInformation");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->deltaACK, 0, 8);
+      RT_CHECK(ctx, stat, "DeltaACK", "deltaACK", -1, "Serving-HSDSCH-CellInformation");
+   }
+   /* deltaNACK */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->deltaNACK > 8u) {
+         rtxErrAddStrParm(ctx, "DeltaNACK");
+         rtxErrAddUIntParm(ctx, pvalue->deltaNACK);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaNACK", "deltaNACK", -1, "Serving-HSDSCH-CellInformation");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->deltaNACK, 0, 8);
+      RT_CHECK(ctx, stat, "DeltaNACK", "deltaNACK", -1, "Serving-HSDSCH-CellInformation");
+   }
+   /* harq-Preamble-Mode */
+   if ((uint64_t)pvalue->harq_Preamble_Mode > 1u) {
+      rtxErrAddStrParm(ctx, "HARQ-Preamble-Mode");
+      rtxErrAddUIntParm(ctx, pvalue->harq_Preamble_Mode);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "Serving-HSDSCH-CellInformation");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->harq_Preamble_Mode, 0, 1);
+   RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "Serving-HSDSCH-CellInformation");
+   /* primaryCPICH-Info */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "Serving-HSDSCH-CellInformation");
+   }
+   /* dl-hspdsch-Information */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information(ctx, &pvalue->dl_hspdsch_Information);
+      RT_CHECK(ctx, stat, 0, "dl-hspdsch-Information", -1, "Serving-HSDSCH-CellInformation");
+   }
+   /* harqInfo */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_HARQ_Info(ctx, &pvalue->harqInfo);
+      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "Serving-HSDSCH-CellInformation");
+   }
+   /* mac-hsResetIndicator */
+   if (pvalue->m & 0x20u) {
+      if (pvalue->mac_hsResetIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mac_hsResetIndicator);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mac_hsResetIndicator, 0, 0);
+      RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 127u) {
+         rtxErrAddStrParm(ctx, "HS-SCCH-Codes");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 127);
+      RT_CHECK(ctx, stat, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* hS-SCCHChannelisationCodeInfo */
+   stat = asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo);
+   RT_CHECK(ctx, stat, 0, "hS-SCCHChannelisationCodeInfo", -1, 0);
+   /* dl-ScramblingCode */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->dl_ScramblingCode - 1) > 14u) {
+         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
+         rtxErrAddUIntParm(ctx, pvalue->dl_ScramblingCode);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dl_ScramblingCode, 1, 15);
+      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DHS_Sync(rtxContext* RT_RESTRICT ctx, DHS_Sync value)
+{
+   int stat = 0;
+   if (value < -20 || value > 10) {
+      rtxErrAddStrParm(ctx, "DHS-Sync");
+      rtxErrAddIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DHS-Sync");
+   }
+   stat = pe_ConsInt64(ctx, value, -20, 10);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DHS-Sync");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 15u) {
+      rtxErrAddStrParm(ctx, "MidambleShiftLong");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
+   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_TDD384_r6_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD384_r6_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
+         stat = asn1PE_UMTS_HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_TDD384_r6(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD384_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-TDD384-r6");
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, "HS-SCCH-TDD384-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, "HS-SCCH-TDD384-r6");
+   /* channelisationCode */
+   if (pvalue->channelisationCode > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TS-ChannelisationCode", "channelisationCode", -1, "HS-SCCH-TDD384-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 15);
+   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode", "channelisationCode", -1, "HS-SCCH-TDD384-r6");
+   /* midambleAllocationMode */
+   stat = asn1PE_UMTS_HS_SCCH_TDD384_r6_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SCCH-TDD384-r6");
+   /* midambleconfiguration */
+   if (pvalue->midambleconfiguration > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->midambleconfiguration);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SCCH-TDD384-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->midambleconfiguration, 0, 2);
+   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SCCH-TDD384-r6");
+   /* hs-sich-configuration */
+   stat = asn1PE_UMTS_HS_SICH_Configuration_TDD384(ctx, &pvalue->hs_sich_configuration);
+   RT_CHECK(ctx, stat, 0, "hs-sich-configuration", -1, "HS-SCCH-TDD384-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "HS-SCCH-TDD384-r6", (int32_t)i, 0);
+      stat = asn1PE_UMTS_HS_SCCH_TDD384_r6(ctx, (const HS_SCCH_TDD384_r6*)node->data);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD384-r6", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* nack-ack-power-offset */
+   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
+      rtxErrAddStrParm(ctx, "nack-ack-power-offset");
+      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "nack-ack-power-offset", -1, 0);
+   }
+   stat = pe_ConsInt64(ctx, pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, 0);
+   /* hs-SICH-PowerControl-Info */
+   stat = asn1PE_UMTS_HS_SICH_Power_Control_Info_TDD384(ctx, &pvalue->hs_SICH_PowerControl_Info);
+   RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl-Info", -1, 0);
+   /* dhs-sync */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->dhs_sync < -20 || pvalue->dhs_sync > 10) {
+         rtxErrAddStrParm(ctx, "DHS-Sync");
+         rtxErrAddIntParm(ctx, pvalue->dhs_sync);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DHS-Sync", "dhs-sync", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->dhs_sync, -20, 10);
+      RT_CHECK(ctx, stat, "DHS-Sync", "dhs-sync", -1, 0);
+   }
+   /* bler-target */
+   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
+      rtxErrAddStrParm(ctx, "Bler-Target");
+      rtxErrAddIntParm(ctx, pvalue->bler_target);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Bler-Target", "bler-target", -1, 0);
+   }
+   stat = pe_ConsInt64(ctx, pvalue->bler_target, -63, 0);
+   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, 0);
+   /* hS-SCCH-SetConfiguration */
+   stat = asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SICH_Power_Control_Info_TDD768(rtxContext* RT_RESTRICT ctx, const HS_SICH_Power_Control_Info_TDD768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SICH-Power-Control-Info-TDD768");
+   /* ul-target-SIR */
+   if (pvalue->ul_target_SIR < -22 || pvalue->ul_target_SIR > 40) {
+      rtxErrAddStrParm(ctx, "ul-target-SIR");
+      rtxErrAddIntParm(ctx, pvalue->ul_target_SIR);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ul-target-SIR", -1, "HS-SICH-Power-Control-Info-TDD768");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->ul_target_SIR, -22, 40);
+   RT_CHECK(ctx, stat, 0, "ul-target-SIR", -1, "HS-SICH-Power-Control-Info-TDD768");
+   /* hs-sich-ConstantValue */
+   if (pvalue->hs_sich_ConstantValue < -35 || pvalue->hs_sich_ConstantValue > -10) {
+      rtxErrAddStrParm(ctx, "ConstantValue");
+      rtxErrAddIntParm(ctx, pvalue->hs_sich_ConstantValue);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "ConstantValue", "hs-sich-ConstantValue", -1, "HS-SICH-Power-Control-Info-TDD768");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->hs_sich_ConstantValue, -35, -10);
+   RT_CHECK(ctx, stat, "ConstantValue", "hs-sich-ConstantValue", -1, "HS-SICH-Power-Control-Info-TDD768");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 15u) {
+      rtxErrAddStrParm(ctx, "MidambleShiftLong");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
+   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_TDD768_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD768_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
+         stat = asn1PE_UMTS_HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 15u) {
+      rtxErrAddStrParm(ctx, "MidambleShiftLong");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
+   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SICH_Configuration_TDD768_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD768_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
+         stat = asn1PE_UMTS_HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SICH_Configuration_TDD768(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SICH-Configuration-TDD768");
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, "HS-SICH-Configuration-TDD768");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, "HS-SICH-Configuration-TDD768");
+   /* channelisationCode */
+   if (pvalue->channelisationCode > 31) {
+      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TS-ChannelisationCode-VHCR", "channelisationCode", -1, "HS-SICH-Configuration-TDD768");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 31);
+   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode-VHCR", "channelisationCode", -1, "HS-SICH-Configuration-TDD768");
+   /* midambleAllocationMode */
+   stat = asn1PE_UMTS_HS_SICH_Configuration_TDD768_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SICH-Configuration-TDD768");
+   /* midambleconfiguration */
+   if (pvalue->midambleconfiguration > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->midambleconfiguration);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SICH-Configuration-TDD768");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->midambleconfiguration, 0, 2);
+   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SICH-Configuration-TDD768");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_TDD768(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-TDD768");
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, "HS-SCCH-TDD768");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, "HS-SCCH-TDD768");
+   /* channelisationCode */
+   if (pvalue->channelisationCode > 31) {
+      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TS-ChannelisationCode-VHCR", "channelisationCode", -1, "HS-SCCH-TDD768");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 31);
+   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode-VHCR", "channelisationCode", -1, "HS-SCCH-TDD768");
+   /* midambleAllocationMode */
+   stat = asn1PE_UMTS_HS_SCCH_TDD768_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SCCH-TDD768");
+   /* midambleconfiguration */
+   if (pvalue->midambleconfiguration > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->midambleconfiguration);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SCCH-TDD768");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->midambleconfiguration, 0, 2);
+   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SCCH-TDD768");
+   /* hs-sich-configuration */
+   stat = asn1PE_UMTS_HS_SICH_Configuration_TDD768(ctx, &pvalue->hs_sich_configuration);
+   RT_CHECK(ctx, stat, 0, "hs-sich-configuration", -1, "HS-SCCH-TDD768");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "HS-SCCH-TDD768", (int32_t)i, 0);
+      stat = asn1PE_UMTS_HS_SCCH_TDD768(ctx, (const HS_SCCH_TDD768*)node->data);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD768", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* nack-ack-power-offset */
+   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
+      rtxErrAddStrParm(ctx, "nack-ack-power-offset");
+      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "nack-ack-power-offset", -1, 0);
+   }
+   stat = pe_ConsInt64(ctx, pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, 0);
+   /* hs-SICH-PowerControl-Info */
+   stat = asn1PE_UMTS_HS_SICH_Power_Control_Info_TDD768(ctx, &pvalue->hs_SICH_PowerControl_Info);
+   RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl-Info", -1, 0);
+   /* dhs-sync */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->dhs_sync < -20 || pvalue->dhs_sync > 10) {
+         rtxErrAddStrParm(ctx, "DHS-Sync");
+         rtxErrAddIntParm(ctx, pvalue->dhs_sync);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DHS-Sync", "dhs-sync", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->dhs_sync, -20, 10);
+      RT_CHECK(ctx, stat, "DHS-Sync", "dhs-sync", -1, 0);
+   }
+   /* bler-target */
+   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
+      rtxErrAddStrParm(ctx, "Bler-Target");
+      rtxErrAddIntParm(ctx, pvalue->bler_target);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Bler-Target", "bler-target", -1, 0);
+   }
+   stat = pe_ConsInt64(ctx, pvalue->bler_target, -63, 0);
+   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, 0);
+   /* hS-SCCH-SetConfiguration */
+   stat = asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_tpc_step_size value)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PowerControlGAP(rtxContext* RT_RESTRICT ctx, PowerControlGAP value)
+{
+   int stat = 0;
+   stat = pe_ConsUInt64(ctx, value, 0, 255);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PowerControlGAP");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
+      stat = asn1PE_UMTS_HS_SCCH_TDD128_r6(ctx, (const HS_SCCH_TDD128_r6*)node->data);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* nack-ack-power-offset */
+   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
+      rtxErrAddStrParm(ctx, "nack-ack-power-offset");
+      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "nack-ack-power-offset", -1, 0);
+   }
+   stat = pe_ConsInt64(ctx, pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, 0);
+   /* power-level-HSSICH */
+   if (pvalue->power_level_HSSICH < -120 || pvalue->power_level_HSSICH > -58) {
+      rtxErrAddStrParm(ctx, "power-level-HSSICH");
+      rtxErrAddIntParm(ctx, pvalue->power_level_HSSICH);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "power-level-HSSICH", -1, 0);
+   }
+   stat = pe_ConsInt64(ctx, pvalue->power_level_HSSICH, -120, -58);
+   RT_CHECK(ctx, stat, 0, "power-level-HSSICH", -1, 0);
+   /* tpc-step-size */
+   if (pvalue->tpc_step_size > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->tpc_step_size);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "tpc-step-size", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->tpc_step_size, 0, 3);
+   RT_CHECK(ctx, stat, 0, "tpc-step-size", -1, 0);
+   /* bler-target */
+   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
+      rtxErrAddStrParm(ctx, "Bler-Target");
+      rtxErrAddIntParm(ctx, pvalue->bler_target);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Bler-Target", "bler-target", -1, 0);
+   }
+   stat = pe_ConsInt64(ctx, pvalue->bler_target, -63, 0);
+   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, 0);
+   /* powerControlGAP */
+   if (pvalue->m & 0x1u) {
+      stat = pe_ConsUInt64(ctx, pvalue->powerControlGAP, 0, 255);
+      RT_CHECK(ctx, stat, "PowerControlGAP", "powerControlGAP", -1, 0);
+   }
+   /* pathlossCompensationSwitch */
+   if (pvalue->m & 0x2u) {
+      stat = rtxEncBit(ctx, pvalue->pathlossCompensationSwitch);
+      RT_CHECK(ctx, stat, 0, "pathlossCompensationSwitch", -1, 0);
+   }
+   /* hS-SCCH-SetConfiguration */
+   stat = asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
+         stat = asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r7(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-Info-r7");
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "HS-SCCH-Info-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-HSPDSCH-TS-Configuration */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_TS_Configuration(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 15u) {
+      rtxErrAddStrParm(ctx, "MidambleShiftLong");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
+   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
+         stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType_type1* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleConfigurationBurstType1and3 */
+   if (pvalue->midambleConfigurationBurstType1and3 > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType1and3);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->midambleConfigurationBurstType1and3, 0, 2);
+   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
+   /* midambleAllocationMode */
+   stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 7u) {
+      rtxErrAddStrParm(ctx, "MidambleShiftShort-VHCR");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftShort-VHCR", "midambleShift", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 7);
+   RT_CHECK(ctx, stat, "MidambleShiftShort-VHCR", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
+         stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType_type2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleConfigurationBurstType2 */
+   if (pvalue->midambleConfigurationBurstType2 > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType2);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MidambleConfigurationBurstType2-VHCR", "midambleConfigurationBurstType2", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->midambleConfigurationBurstType2, 0, 1);
+   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType2-VHCR", "midambleConfigurationBurstType2", -1, 0);
+   /* midambleAllocationMode */
+   stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.type1 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "type1", -1, 0);
+         stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1(ctx, pvalue->u.type1);
+         RT_CHECK(ctx, stat, 0, "type1", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.type2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "type2", -1, 0);
+         stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2(ctx, pvalue->u.type2);
+         RT_CHECK(ctx, stat, 0, "type2", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MidambleShiftAndBurstType-DL-VHCR");
+   /* burstType */
+   stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType(ctx, &pvalue->burstType);
+   RT_CHECK(ctx, stat, 0, "burstType", -1, "MidambleShiftAndBurstType-DL-VHCR");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_TS_Configuration_VHCR_element(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_TS_Configuration_VHCR_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* timeslot */
+   if ((uint64_t)pvalue->timeslot > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslot);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslot", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 14);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, 0);
+   /* midambleShiftAndBurstType */
+   stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR(ctx, &pvalue->midambleShiftAndBurstType);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_TS_Configuration_VHCR(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_TS_Configuration_VHCR* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-HSPDSCH-TS-Configuration-VHCR");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 13);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-HSPDSCH-TS-Configuration-VHCR");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "DL-HSPDSCH-TS-Configuration-VHCR");
+      stat = asn1PE_UMTS_DL_HSPDSCH_TS_Configuration_VHCR_element(ctx, (const DL_HSPDSCH_TS_Configuration_VHCR_element*)node->data);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "DL-HSPDSCH-TS-Configuration-VHCR");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-HSPDSCH-TS-Configuration */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_TS_Configuration_VHCR(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_MultiCarrier_Information_tsn_Length(rtxContext* RT_RESTRICT ctx, DL_MultiCarrier_Information_tsn_Length value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_TDD128_MultiCarrier_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD128_MultiCarrier_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if ((uint64_t)pvalue->u.ueSpecificMidamble > 15u) {
+            rtxErrAddStrParm(ctx, "ueSpecificMidamble");
+            rtxErrAddUIntParm(ctx, pvalue->u.ueSpecificMidamble);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ueSpecificMidamble", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.ueSpecificMidamble, 0, 15);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_TDD128_MultiCarrier(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD128_MultiCarrier* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-TDD128-MultiCarrier");
+   /* uarfcn-HS-SCCH-Rx */
+   if ((uint64_t)pvalue->uarfcn_HS_SCCH_Rx > 16383u) {
+      rtxErrAddStrParm(ctx, "UARFCN");
+      rtxErrAddUIntParm(ctx, pvalue->uarfcn_HS_SCCH_Rx);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "UARFCN", "uarfcn-HS-SCCH-Rx", -1, "HS-SCCH-TDD128-MultiCarrier");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->uarfcn_HS_SCCH_Rx, 0, 16383);
+   RT_CHECK(ctx, stat, "UARFCN", "uarfcn-HS-SCCH-Rx", -1, "HS-SCCH-TDD128-MultiCarrier");
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 6u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SCCH-TDD128-MultiCarrier");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 6);
+   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SCCH-TDD128-MultiCarrier");
+   /* firstChannelisationCode */
+   if (pvalue->firstChannelisationCode > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->firstChannelisationCode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "firstChannelisationCode", -1, "HS-SCCH-TDD128-MultiCarrier");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->firstChannelisationCode, 0, 15);
+   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "firstChannelisationCode", -1, "HS-SCCH-TDD128-MultiCarrier");
+   /* secondChannelisationCode */
+   if (pvalue->secondChannelisationCode > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->secondChannelisationCode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "secondChannelisationCode", -1, "HS-SCCH-TDD128-MultiCarrier");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->secondChannelisationCode, 0, 15);
+   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "secondChannelisationCode", -1, "HS-SCCH-TDD128-MultiCarrier");
+   /* midambleAllocationMode */
+   stat = asn1PE_UMTS_HS_SCCH_TDD128_MultiCarrier_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SCCH-TDD128-MultiCarrier");
+   /* midambleConfiguration */
+   if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "midambleConfiguration");
+      rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "midambleConfiguration", -1, "HS-SCCH-TDD128-MultiCarrier");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "HS-SCCH-TDD128-MultiCarrier");
+   /* bler-target */
+   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
+      rtxErrAddStrParm(ctx, "Bler-Target");
+      rtxErrAddIntParm(ctx, pvalue->bler_target);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Bler-Target", "bler-target", -1, "HS-SCCH-TDD128-MultiCarrier");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->bler_target, -63, 0);
+   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, "HS-SCCH-TDD128-MultiCarrier");
+   /* hs-sich-configuration */
+   stat = asn1PE_UMTS_HS_SICH_Configuration_TDD128(ctx, &pvalue->hs_sich_configuration);
+   RT_CHECK(ctx, stat, 0, "hs-sich-configuration", -1, "HS-SCCH-TDD128-MultiCarrier");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_MultiCarrier_Information_element_hs_SCCH_TDD128_MultiCarrier(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_MultiCarrier_Information_element_hs_SCCH_TDD128_MultiCarrier* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "HS-SCCH-TDD128-MultiCarrier", (int32_t)i, 0);
+      stat = asn1PE_UMTS_HS_SCCH_TDD128_MultiCarrier(ctx, (const HS_SCCH_TDD128_MultiCarrier*)node->data);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD128-MultiCarrier", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_MultiCarrier_Information_element(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_MultiCarrier_Information_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uarfcn-Carrier */
+   if ((uint64_t)pvalue->uarfcn_Carrier > 16383u) {
+      rtxErrAddStrParm(ctx, "UARFCN");
+      rtxErrAddUIntParm(ctx, pvalue->uarfcn_Carrier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "UARFCN", "uarfcn-Carrier", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->uarfcn_Carrier, 0, 16383);
+   RT_CHECK(ctx, stat, "UARFCN", "uarfcn-Carrier", -1, 0);
+   /* harqInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HARQ_Info(ctx, &pvalue->harqInfo);
+      RT_CHECK(ctx, stat, 0, "harqInfo", -1, 0);
+   }
+   /* hs-PDSCH-Midamble-Configuration */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration);
+      RT_CHECK(ctx, stat, 0, "hs-PDSCH-Midamble-Configuration", -1, 0);
+   }
+   /* hs-SCCH-TDD128-MultiCarrier */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_MultiCarrier_Information_element_hs_SCCH_TDD128_MultiCarrier(ctx, &pvalue->hs_SCCH_TDD128_MultiCarrier);
+      RT_CHECK(ctx, stat, 0, "hs-SCCH-TDD128-MultiCarrier", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_MultiCarrier_Information(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_MultiCarrier_Information* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-HSPDSCH-MultiCarrier-Information");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 6);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-HSPDSCH-MultiCarrier-Information");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "DL-HSPDSCH-MultiCarrier-Information");
+      stat = asn1PE_UMTS_DL_HSPDSCH_MultiCarrier_Information_element(ctx, (const DL_HSPDSCH_MultiCarrier_Information_element*)node->data);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "DL-HSPDSCH-MultiCarrier-Information");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_MultiCarrier_Information(rtxContext* RT_RESTRICT ctx, const DL_MultiCarrier_Information* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-MultiCarrier-Information");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-MultiCarrier-Information");
+   /* tsn-Length */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->tsn_Length > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->tsn_Length);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "tsn-Length", -1, "DL-MultiCarrier-Information");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->tsn_Length, 0, 1);
+      RT_CHECK(ctx, stat, 0, "tsn-Length", -1, "DL-MultiCarrier-Information");
+   }
+   /* multiCarrierNumber */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)(pvalue->multiCarrierNumber - 1) > 5u) {
+         rtxErrAddStrParm(ctx, "multiCarrierNumber");
+         rtxErrAddUIntParm(ctx, pvalue->multiCarrierNumber);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "multiCarrierNumber", -1, "DL-MultiCarrier-Information");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->multiCarrierNumber, 1, 6);
+      RT_CHECK(ctx, stat, 0, "multiCarrierNumber", -1, "DL-MultiCarrier-Information");
+   }
+   /* dl-HSPDSCH-MultiCarrier-Information */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_MultiCarrier_Information(ctx, &pvalue->dl_HSPDSCH_MultiCarrier_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-MultiCarrier-Information", -1, "DL-MultiCarrier-Information");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* hs-PDSCH-Midamble-Configuration-tdd128 */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration_tdd128);
+      RT_CHECK(ctx, stat, 0, "hs-PDSCH-Midamble-Configuration-tdd128", -1, 0);
+   }
+   /* dl-MultiCarrier-Information */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_DL_MultiCarrier_Information(ctx, &pvalue->dl_MultiCarrier_Information);
+      RT_CHECK(ctx, stat, 0, "dl-MultiCarrier-Information", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
+         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd_dl_64QAM_Configured value)
 {
    int stat = 0;
    if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_MultiModeRAT_Capability_v860ext_supportOfEUTRATDD(rtxContext* ctx, MultiModeRAT_Capability_v860ext_supportOfEUTRATDD value)
+int asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-64QAM-Configured */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->dl_64QAM_Configured > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->dl_64QAM_Configured);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "dl-64QAM-Configured", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dl_64QAM_Configured, 0, 0);
+      RT_CHECK(ctx, stat, 0, "dl-64QAM-Configured", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r7_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r7(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-HSPDSCH-Information-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-HSPDSCH-Information-r7");
+   /* hs-scch-Info */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HS_SCCH_Info_r7(ctx, &pvalue->hs_scch_Info);
+      RT_CHECK(ctx, stat, 0, "hs-scch-Info", -1, "DL-HSPDSCH-Information-r7");
+   }
+   /* measurement-feedback-Info */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_feedback_Info);
+      RT_CHECK(ctx, stat, 0, "measurement-feedback-Info", -1, "DL-HSPDSCH-Information-r7");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-HSPDSCH-Information-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_HARQ_Info_r7_numberOfProcesses(rtxContext* RT_RESTRICT ctx, HARQ_Info_r7_numberOfProcesses value)
+{
+   int stat = 0;
+   if (value > 10) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 10);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HARQ_Info_r7_memoryPartitioning_explicit__memorySize(rtxContext* RT_RESTRICT ctx, const HARQ_Info_r7_memoryPartitioning_explicit__memorySize* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 60) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "HARQMemorySize", "HARQMemorySize", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 60);
+      RT_CHECK(ctx, stat, "HARQMemorySize", "HARQMemorySize", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HARQ_Info_r7_memoryPartitioning_explicit__additionalMemorySizesForMIMO(rtxContext* RT_RESTRICT ctx, const HARQ_Info_r7_memoryPartitioning_explicit__additionalMemorySizesForMIMO* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 60) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "HARQMemorySize", "HARQMemorySize", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 60);
+      RT_CHECK(ctx, stat, "HARQMemorySize", "HARQMemorySize", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HARQ_Info_r7_memoryPartitioning_explicit_(rtxContext* RT_RESTRICT ctx, const HARQ_Info_r7_memoryPartitioning_explicit_* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* memorySize */
+   stat = asn1PE_UMTS_HARQ_Info_r7_memoryPartitioning_explicit__memorySize(ctx, &pvalue->memorySize);
+   RT_CHECK(ctx, stat, 0, "memorySize", -1, 0);
+   /* additionalMemorySizesForMIMO */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HARQ_Info_r7_memoryPartitioning_explicit__additionalMemorySizesForMIMO(ctx, &pvalue->additionalMemorySizesForMIMO);
+      RT_CHECK(ctx, stat, 0, "additionalMemorySizesForMIMO", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HARQ_Info_r7_memoryPartitioning(rtxContext* RT_RESTRICT ctx, const HARQ_Info_r7_memoryPartitioning* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.explicit_ == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "explicit", -1, 0);
+         stat = asn1PE_UMTS_HARQ_Info_r7_memoryPartitioning_explicit_(ctx, pvalue->u.explicit_);
+         RT_CHECK(ctx, stat, 0, "explicit", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HARQ_Info_r7(rtxContext* RT_RESTRICT ctx, const HARQ_Info_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HARQ-Info-r7");
+   /* numberOfProcesses */
+   if (pvalue->numberOfProcesses > 10) {
+      rtxErrAddUIntParm(ctx, pvalue->numberOfProcesses);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "numberOfProcesses", -1, "HARQ-Info-r7");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->numberOfProcesses, 0, 10);
+   RT_CHECK(ctx, stat, 0, "numberOfProcesses", -1, "HARQ-Info-r7");
+   /* memoryPartitioning */
+   stat = asn1PE_UMTS_HARQ_Info_r7_memoryPartitioning(ctx, &pvalue->memoryPartitioning);
+   RT_CHECK(ctx, stat, 0, "memoryPartitioning", -1, "HARQ-Info-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_Serving_HSDSCH_CellInformation_r7_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r7_mac_hsResetIndicator value)
 {
    int stat = 0;
    if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRATDD(rtxContext* ctx, MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRATDD value)
+int asn1PE_UMTS_Serving_HSDSCH_CellInformation_r7(rtxContext* RT_RESTRICT ctx, const Serving_HSDSCH_CellInformation_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Serving-HSDSCH-CellInformation-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Serving-HSDSCH-CellInformation-r7");
+   /* deltaACK */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->deltaACK > 8u) {
+         rtxErrAddStrParm(ctx, "DeltaACK");
+         rtxErrAddUIntParm(ctx, pvalue->deltaACK);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaACK", "deltaACK", -1, "Serving-HSDSCH-CellInformation-r7");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->deltaACK, 0, 8);
+      RT_CHECK(ctx, stat, "DeltaACK", "deltaACK", -1, "Serving-HSDSCH-CellInformation-r7");
+   }
+   /* deltaNACK */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->deltaNACK > 8u) {
+         rtxErrAddStrParm(ctx, "DeltaNACK");
+         rtxErrAddUIntParm(ctx, pvalue->deltaNACK);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaNACK", "deltaNACK", -1, "Serving-HSDSCH-CellInformation-r7");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->deltaNACK, 0, 8);
+      RT_CHECK(ctx, stat, "DeltaNACK", "deltaNACK", -1, "Serving-HSDSCH-CellInformation-r7");
+   }
+   /* harq-Preamble-Mode */
+   if ((uint64_t)pvalue->harq_Preamble_Mode > 1u) {
+      rtxErrAddStrParm(ctx, "HARQ-Preamble-Mode");
+      rtxErrAddUIntParm(ctx, pvalue->harq_Preamble_Mode);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "Serving-HSDSCH-CellInformation-r7");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->harq_Preamble_Mode, 0, 1);
+   RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "Serving-HSDSCH-CellInformation-r7");
+   /* primaryCPICH-Info */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "Serving-HSDSCH-CellInformation-r7");
+   }
+   /* dl-hspdsch-Information */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r7(ctx, &pvalue->dl_hspdsch_Information);
+      RT_CHECK(ctx, stat, 0, "dl-hspdsch-Information", -1, "Serving-HSDSCH-CellInformation-r7");
+   }
+   /* harqInfo */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
+      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "Serving-HSDSCH-CellInformation-r7");
+   }
+   /* mac-hsResetIndicator */
+   if (pvalue->m & 0x20u) {
+      if (pvalue->mac_hsResetIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mac_hsResetIndicator);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation-r7");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mac_hsResetIndicator, 0, 0);
+      RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-HSPDSCH-TS-Configuration */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_TS_Configuration(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-HSPDSCH-TS-Configuration */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_TS_Configuration_VHCR(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* hs-PDSCH-Midamble-Configuration-tdd128 */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration_tdd128);
+      RT_CHECK(ctx, stat, 0, "hs-PDSCH-Midamble-Configuration-tdd128", -1, 0);
+   }
+   /* dl-MultiCarrier-Information */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_DL_MultiCarrier_Information(ctx, &pvalue->dl_MultiCarrier_Information);
+      RT_CHECK(ctx, stat, 0, "dl-MultiCarrier-Information", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
+         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd_dl_64QAM_Configured value)
 {
    int stat = 0;
    if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_MultiModeRAT_Capability_v860ext(rtxContext* ctx, const MultiModeRAT_Capability_v860ext* pvalue)
+int asn1PE_UMTS_HS_DSCH_TBSizeTable(rtxContext* RT_RESTRICT ctx, HS_DSCH_TBSizeTable value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MultiModeRAT-Capability-v860ext");
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "HS-DSCH-TBSizeTable");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HS-DSCH-TBSizeTable");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-64QAM-Configured */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->dl_64QAM_Configured > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->dl_64QAM_Configured);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "dl-64QAM-Configured", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dl_64QAM_Configured, 0, 0);
+      RT_CHECK(ctx, stat, 0, "dl-64QAM-Configured", -1, 0);
+   }
+   /* hs-DSCH-TBSizeTable */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->hs_DSCH_TBSizeTable > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->hs_DSCH_TBSizeTable);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->hs_DSCH_TBSizeTable, 0, 0);
+      RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r8(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-HSPDSCH-Information-r8");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-HSPDSCH-Information-r8");
+   /* hs-scch-Info */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HS_SCCH_Info_r7(ctx, &pvalue->hs_scch_Info);
+      RT_CHECK(ctx, stat, 0, "hs-scch-Info", -1, "DL-HSPDSCH-Information-r8");
+   }
+   /* measurement-feedback-Info */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_feedback_Info);
+      RT_CHECK(ctx, stat, 0, "measurement-feedback-Info", -1, "DL-HSPDSCH-Information-r8");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-HSPDSCH-Information-r8");
+   return 0;
+}
+
+int asn1PE_UMTS_Serving_HSDSCH_CellInformation_r8_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r8_mac_hsResetIndicator value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_Serving_HSDSCH_CellInformation_r8(rtxContext* RT_RESTRICT ctx, const Serving_HSDSCH_CellInformation_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Serving-HSDSCH-CellInformation-r8");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Serving-HSDSCH-CellInformation-r8");
+   /* deltaACK */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->deltaACK > 8u) {
+         rtxErrAddStrParm(ctx, "DeltaACK");
+         rtxErrAddUIntParm(ctx, pvalue->deltaACK);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaACK", "deltaACK", -1, "Serving-HSDSCH-CellInformation-r8");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->deltaACK, 0, 8);
+      RT_CHECK(ctx, stat, "DeltaACK", "deltaACK", -1, "Serving-HSDSCH-CellInformation-r8");
+   }
+   /* deltaNACK */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->deltaNACK > 8u) {
+         rtxErrAddStrParm(ctx, "DeltaNACK");
+         rtxErrAddUIntParm(ctx, pvalue->deltaNACK);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaNACK", "deltaNACK", -1, "Serving-HSDSCH-CellInformation-r8");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->deltaNACK, 0, 8);
+      RT_CHECK(ctx, stat, "DeltaNACK", "deltaNACK", -1, "Serving-HSDSCH-CellInformation-r8");
+   }
+   /* harq-Preamble-Mode */
+   if ((uint64_t)pvalue->harq_Preamble_Mode > 1u) {
+      rtxErrAddStrParm(ctx, "HARQ-Preamble-Mode");
+      rtxErrAddUIntParm(ctx, pvalue->harq_Preamble_Mode);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "Serving-HSDSCH-CellInformation-r8");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->harq_Preamble_Mode, 0, 1);
+   RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "Serving-HSDSCH-CellInformation-r8");
+   /* primaryCPICH-Info */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "Serving-HSDSCH-CellInformation-r8");
+   }
+   /* dl-hspdsch-Information */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_hspdsch_Information);
+      RT_CHECK(ctx, stat, 0, "dl-hspdsch-Information", -1, "Serving-HSDSCH-CellInformation-r8");
+   }
+   /* harqInfo */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
+      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "Serving-HSDSCH-CellInformation-r8");
+   }
+   /* mac-hsResetIndicator */
+   if (pvalue->m & 0x20u) {
+      if (pvalue->mac_hsResetIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mac_hsResetIndicator);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation-r8");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mac_hsResetIndicator, 0, 0);
+      RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 127u) {
+         rtxErrAddStrParm(ctx, "HS-SCCH-Codes");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 127);
+      RT_CHECK(ctx, stat, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* hS-SCCHChannelisationCodeInfo */
+   stat = asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo);
+   RT_CHECK(ctx, stat, 0, "hS-SCCHChannelisationCodeInfo", -1, 0);
+   /* dl-ScramblingCode */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->dl_ScramblingCode - 1) > 14u) {
+         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
+         rtxErrAddUIntParm(ctx, pvalue->dl_ScramblingCode);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dl_ScramblingCode, 1, 15);
+      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "HS-SCCH-TDD384-r6", (int32_t)i, 0);
+      stat = asn1PE_UMTS_HS_SCCH_TDD384_r6(ctx, (const HS_SCCH_TDD384_r6*)node->data);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD384-r6", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* nack-ack-power-offset */
+   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
+      rtxErrAddStrParm(ctx, "nack-ack-power-offset");
+      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "nack-ack-power-offset", -1, 0);
+   }
+   stat = pe_ConsInt64(ctx, pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, 0);
+   /* hs-SICH-PowerControl-Info */
+   stat = asn1PE_UMTS_HS_SICH_Power_Control_Info_TDD384(ctx, &pvalue->hs_SICH_PowerControl_Info);
+   RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl-Info", -1, 0);
+   /* dhs-sync */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->dhs_sync < -20 || pvalue->dhs_sync > 10) {
+         rtxErrAddStrParm(ctx, "DHS-Sync");
+         rtxErrAddIntParm(ctx, pvalue->dhs_sync);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DHS-Sync", "dhs-sync", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->dhs_sync, -20, 10);
+      RT_CHECK(ctx, stat, "DHS-Sync", "dhs-sync", -1, 0);
+   }
+   /* bler-target */
+   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
+      rtxErrAddStrParm(ctx, "Bler-Target");
+      rtxErrAddIntParm(ctx, pvalue->bler_target);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Bler-Target", "bler-target", -1, 0);
+   }
+   stat = pe_ConsInt64(ctx, pvalue->bler_target, -63, 0);
+   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, 0);
+   /* hS-SCCH-SetConfiguration */
+   stat = asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "HS-SCCH-TDD768", (int32_t)i, 0);
+      stat = asn1PE_UMTS_HS_SCCH_TDD768(ctx, (const HS_SCCH_TDD768*)node->data);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD768", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* nack-ack-power-offset */
+   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
+      rtxErrAddStrParm(ctx, "nack-ack-power-offset");
+      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "nack-ack-power-offset", -1, 0);
+   }
+   stat = pe_ConsInt64(ctx, pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, 0);
+   /* hs-SICH-PowerControl-Info */
+   stat = asn1PE_UMTS_HS_SICH_Power_Control_Info_TDD768(ctx, &pvalue->hs_SICH_PowerControl_Info);
+   RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl-Info", -1, 0);
+   /* dhs-sync */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->dhs_sync < -20 || pvalue->dhs_sync > 10) {
+         rtxErrAddStrParm(ctx, "DHS-Sync");
+         rtxErrAddIntParm(ctx, pvalue->dhs_sync);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DHS-Sync", "dhs-sync", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->dhs_sync, -20, 10);
+      RT_CHECK(ctx, stat, "DHS-Sync", "dhs-sync", -1, 0);
+   }
+   /* bler-target */
+   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
+      rtxErrAddStrParm(ctx, "Bler-Target");
+      rtxErrAddIntParm(ctx, pvalue->bler_target);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Bler-Target", "bler-target", -1, 0);
+   }
+   stat = pe_ConsInt64(ctx, pvalue->bler_target, -63, 0);
+   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, 0);
+   /* hS-SCCH-SetConfiguration */
+   stat = asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_tpc_step_size value)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size value)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
+      stat = asn1PE_UMTS_HS_SCCH_TDD128_r6(ctx, (const HS_SCCH_TDD128_r6*)node->data);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* nack-ack-power-offset */
+   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
+      rtxErrAddStrParm(ctx, "nack-ack-power-offset");
+      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "nack-ack-power-offset", -1, 0);
+   }
+   stat = pe_ConsInt64(ctx, pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, 0);
+   /* power-level-HSSICH */
+   if (pvalue->power_level_HSSICH < -120 || pvalue->power_level_HSSICH > -58) {
+      rtxErrAddStrParm(ctx, "power-level-HSSICH");
+      rtxErrAddIntParm(ctx, pvalue->power_level_HSSICH);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "power-level-HSSICH", -1, 0);
+   }
+   stat = pe_ConsInt64(ctx, pvalue->power_level_HSSICH, -120, -58);
+   RT_CHECK(ctx, stat, 0, "power-level-HSSICH", -1, 0);
+   /* tpc-step-size */
+   if (pvalue->tpc_step_size > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->tpc_step_size);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "tpc-step-size", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->tpc_step_size, 0, 3);
+   RT_CHECK(ctx, stat, 0, "tpc-step-size", -1, 0);
+   /* bler-target */
+   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
+      rtxErrAddStrParm(ctx, "Bler-Target");
+      rtxErrAddIntParm(ctx, pvalue->bler_target);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Bler-Target", "bler-target", -1, 0);
+   }
+   stat = pe_ConsInt64(ctx, pvalue->bler_target, -63, 0);
+   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, 0);
+   /* hS-SCCH-tpc-step-size */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->hS_SCCH_tpc_step_size > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->hS_SCCH_tpc_step_size);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "hS-SCCH-tpc-step-size", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->hS_SCCH_tpc_step_size, 0, 3);
+      RT_CHECK(ctx, stat, 0, "hS-SCCH-tpc-step-size", -1, 0);
+   }
+   /* powerControlGAP */
+   if (pvalue->m & 0x2u) {
+      stat = pe_ConsUInt64(ctx, pvalue->powerControlGAP, 0, 255);
+      RT_CHECK(ctx, stat, "PowerControlGAP", "powerControlGAP", -1, 0);
+   }
+   /* pathlossCompensationSwitch */
+   if (pvalue->m & 0x4u) {
+      stat = rtxEncBit(ctx, pvalue->pathlossCompensationSwitch);
+      RT_CHECK(ctx, stat, 0, "pathlossCompensationSwitch", -1, 0);
+   }
+   /* hS-SCCH-SetConfiguration */
+   stat = asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
+         stat = asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r9(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-Info-r9");
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "HS-SCCH-Info-r9");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-HSPDSCH-TS-Configuration */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_TS_Configuration(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-HSPDSCH-TS-Configuration */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_TS_Configuration_VHCR(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128_tS0_Indicator(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128_tS0_Indicator value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_OutofSyncWindow(rtxContext* RT_RESTRICT ctx, OutofSyncWindow value)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "OutofSyncWindow");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "OutofSyncWindow");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* hs-PDSCH-Midamble-Configuration-tdd128 */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration_tdd128);
+      RT_CHECK(ctx, stat, 0, "hs-PDSCH-Midamble-Configuration-tdd128", -1, 0);
+   }
+   /* dl-MultiCarrier-Information */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_DL_MultiCarrier_Information(ctx, &pvalue->dl_MultiCarrier_Information);
+      RT_CHECK(ctx, stat, 0, "dl-MultiCarrier-Information", -1, 0);
+   }
+   /* tS0-Indicator */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->tS0_Indicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->tS0_Indicator);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "tS0-Indicator", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->tS0_Indicator, 0, 0);
+      RT_CHECK(ctx, stat, 0, "tS0-Indicator", -1, 0);
+   }
+   /* outofSyncWindow */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->outofSyncWindow > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->outofSyncWindow);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "OutofSyncWindow", "outofSyncWindow", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->outofSyncWindow, 0, 7);
+      RT_CHECK(ctx, stat, "OutofSyncWindow", "outofSyncWindow", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
+         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd_dl_64QAM_Configured value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-64QAM-Configured */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->dl_64QAM_Configured > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->dl_64QAM_Configured);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "dl-64QAM-Configured", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dl_64QAM_Configured, 0, 0);
+      RT_CHECK(ctx, stat, 0, "dl-64QAM-Configured", -1, 0);
+   }
+   /* hs-DSCH-TBSizeTable */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->hs_DSCH_TBSizeTable > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->hs_DSCH_TBSizeTable);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->hs_DSCH_TBSizeTable, 0, 0);
+      RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r9_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r9(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-HSPDSCH-Information-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-HSPDSCH-Information-r9");
+   /* hs-scch-Info */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HS_SCCH_Info_r9(ctx, &pvalue->hs_scch_Info);
+      RT_CHECK(ctx, stat, 0, "hs-scch-Info", -1, "DL-HSPDSCH-Information-r9");
+   }
+   /* measurement-feedback-Info */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_feedback_Info);
+      RT_CHECK(ctx, stat, 0, "measurement-feedback-Info", -1, "DL-HSPDSCH-Information-r9");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-HSPDSCH-Information-r9");
+   return 0;
+}
+
+int asn1PE_UMTS_Serving_HSDSCH_CellInformation_r9_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r9_mac_hsResetIndicator value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_Serving_HSDSCH_CellInformation_r9(rtxContext* RT_RESTRICT ctx, const Serving_HSDSCH_CellInformation_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Serving-HSDSCH-CellInformation-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Serving-HSDSCH-CellInformation-r9");
+   /* deltaACK */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->deltaACK > 8u) {
+         rtxErrAddStrParm(ctx, "DeltaACK");
+         rtxErrAddUIntParm(ctx, pvalue->deltaACK);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaACK", "deltaACK", -1, "Serving-HSDSCH-CellInformation-r9");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->deltaACK, 0, 8);
+      RT_CHECK(ctx, stat, "DeltaACK", "deltaACK", -1, "Serving-HSDSCH-CellInformation-r9");
+   }
+   /* deltaNACK */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->deltaNACK > 8u) {
+         rtxErrAddStrParm(ctx, "DeltaNACK");
+         rtxErrAddUIntParm(ctx, pvalue->deltaNACK);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaNACK", "deltaNACK", -1, "Serving-HSDSCH-CellInformation-r9");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->deltaNACK, 0, 8);
+      RT_CHECK(ctx, stat, "DeltaNACK", "deltaNACK", -1, "Serving-HSDSCH-CellInformation-r9");
+   }
+   /* harq-Preamble-Mode */
+   if ((uint64_t)pvalue->harq_Preamble_Mode > 1u) {
+      rtxErrAddStrParm(ctx, "HARQ-Preamble-Mode");
+      rtxErrAddUIntParm(ctx, pvalue->harq_Preamble_Mode);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "Serving-HSDSCH-CellInformation-r9");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->harq_Preamble_Mode, 0, 1);
+   RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "Serving-HSDSCH-CellInformation-r9");
+   /* primaryCPICH-Info */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "Serving-HSDSCH-CellInformation-r9");
+   }
+   /* dl-hspdsch-Information */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_hspdsch_Information);
+      RT_CHECK(ctx, stat, 0, "dl-hspdsch-Information", -1, "Serving-HSDSCH-CellInformation-r9");
+   }
+   /* harqInfo */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
+      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "Serving-HSDSCH-CellInformation-r9");
+   }
+   /* mac-hsResetIndicator */
+   if (pvalue->m & 0x20u) {
+      if (pvalue->mac_hsResetIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mac_hsResetIndicator);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation-r9");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mac_hsResetIndicator, 0, 0);
+      RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SR_VCC_Info_nonce(rtxContext* RT_RESTRICT ctx, const SR_VCC_Info_nonce* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 128, 128);
+   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SR_VCC_Info(rtxContext* RT_RESTRICT ctx, const SR_VCC_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SR-VCC-Info");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SR-VCC-Info");
+   /* nonce */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SR_VCC_Info_nonce(ctx, &pvalue->nonce);
+      RT_CHECK(ctx, stat, 0, "nonce", -1, "SR-VCC-Info");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InfoReplace(rtxContext* RT_RESTRICT ctx, const RAB_InfoReplace* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InfoReplace");
+   /* rab-Identity */
+   stat = asn1PE_UMTS_RAB_Identity(ctx, &pvalue->rab_Identity);
+   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-InfoReplace");
+   /* cn-DomainIdentity */
+   if (pvalue->cn_DomainIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-InfoReplace");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-InfoReplace");
+   return 0;
+}
+
+int asn1PE_UMTS_SR_VCC_SecurityRABInfo_v860ext(rtxContext* RT_RESTRICT ctx, const SR_VCC_SecurityRABInfo_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SR-VCC-SecurityRABInfo-v860ext");
+   /* sr-vcc-Info */
+   stat = asn1PE_UMTS_SR_VCC_Info(ctx, &pvalue->sr_vcc_Info);
+   RT_CHECK(ctx, stat, 0, "sr-vcc-Info", -1, "SR-VCC-SecurityRABInfo-v860ext");
+   /* rab-InfoReplace */
+   stat = asn1PE_UMTS_RAB_InfoReplace(ctx, &pvalue->rab_InfoReplace);
+   RT_CHECK(ctx, stat, 0, "rab-InfoReplace", -1, "SR-VCC-SecurityRABInfo-v860ext");
+   return 0;
+}
+
+int asn1PE_UMTS_START_Value(rtxContext* RT_RESTRICT ctx, START_Value value)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 20, 20);
+   stat = pe_BitString32(ctx, &value, 20, 20);
+   RT_CHECK(ctx, stat, 0, 0, -1, "START-Value");
+   return 0;
+}
+
+int asn1PE_UMTS_STARTSingle(rtxContext* RT_RESTRICT ctx, const STARTSingle* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "STARTSingle");
+   /* cn-DomainIdentity */
+   if (pvalue->cn_DomainIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "STARTSingle");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "STARTSingle");
+   /* start-Value */
+   stat = asn1PE_UMTS_START_Value(ctx, pvalue->start_Value);
+   RT_CHECK(ctx, stat, 0, "start-Value", -1, "STARTSingle");
+   return 0;
+}
+
+int asn1PE_UMTS_STARTList(rtxContext* RT_RESTRICT ctx, const STARTList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "STARTList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "STARTList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "STARTSingle", (int32_t)i, "STARTList");
+      stat = asn1PE_UMTS_STARTSingle(ctx, (const STARTSingle*)node->data);
+      RT_CHECK(ctx, stat, 0, "STARTSingle", (int32_t)i, "STARTList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SystemSpecificCapUpdateReq_v590ext(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq_v590ext value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SystemSpecificCapUpdateReq-v590ext");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SystemSpecificCapUpdateReq-v590ext");
+   return 0;
+}
+
+int asn1PE_UMTS_T_318(rtxContext* RT_RESTRICT ctx, T_318 value)
+{
+   int stat = 0;
+   if (value > 14) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-318");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 14);
+   RT_CHECK(ctx, stat, 0, 0, -1, "T-318");
+   return 0;
+}
+
+int asn1PE_UMTS_T_319(rtxContext* RT_RESTRICT ctx, T_319 value)
+{
+   int stat = 0;
+   if (value > 6) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-319");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "T-319");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_TransChCapability_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_TransChCapability_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* maxSimultaneousCCTrCH-Count */
+   if ((uint64_t)(pvalue->maxSimultaneousCCTrCH_Count - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "MaxSimultaneousCCTrCH-Count");
+      rtxErrAddUIntParm(ctx, pvalue->maxSimultaneousCCTrCH_Count);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxSimultaneousCCTrCH-Count", "maxSimultaneousCCTrCH-Count", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxSimultaneousCCTrCH_Count, 1, 8);
+   RT_CHECK(ctx, stat, "MaxSimultaneousCCTrCH-Count", "maxSimultaneousCCTrCH-Count", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_TransChCapability_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_TransChCapability_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_UL_TransChCapability_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_TransChCapability(rtxContext* RT_RESTRICT ctx, const UL_TransChCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-TransChCapability");
+   /* maxNoBitsTransmitted */
+   if (pvalue->maxNoBitsTransmitted > 12) {
+      rtxErrAddUIntParm(ctx, pvalue->maxNoBitsTransmitted);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNoBits", "maxNoBitsTransmitted", -1, "UL-TransChCapability");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxNoBitsTransmitted, 0, 12);
+   RT_CHECK(ctx, stat, "MaxNoBits", "maxNoBitsTransmitted", -1, "UL-TransChCapability");
+   /* maxConvCodeBitsTransmitted */
+   if (pvalue->maxConvCodeBitsTransmitted > 12) {
+      rtxErrAddUIntParm(ctx, pvalue->maxConvCodeBitsTransmitted);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNoBits", "maxConvCodeBitsTransmitted", -1, "UL-TransChCapability");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxConvCodeBitsTransmitted, 0, 12);
+   RT_CHECK(ctx, stat, "MaxNoBits", "maxConvCodeBitsTransmitted", -1, "UL-TransChCapability");
+   /* turboEncodingSupport */
+   stat = asn1PE_UMTS_TurboSupport(ctx, &pvalue->turboEncodingSupport);
+   RT_CHECK(ctx, stat, 0, "turboEncodingSupport", -1, "UL-TransChCapability");
+   /* maxSimultaneousTransChs */
+   if (pvalue->maxSimultaneousTransChs > 4) {
+      rtxErrAddUIntParm(ctx, pvalue->maxSimultaneousTransChs);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxSimultaneousTransChsUL", "maxSimultaneousTransChs", -1, "UL-TransChCapability");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxSimultaneousTransChs, 0, 4);
+   RT_CHECK(ctx, stat, "MaxSimultaneousTransChsUL", "maxSimultaneousTransChs", -1, "UL-TransChCapability");
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_UL_TransChCapability_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-TransChCapability");
+   /* maxTransmittedBlocks */
+   if (pvalue->maxTransmittedBlocks > 10) {
+      rtxErrAddUIntParm(ctx, pvalue->maxTransmittedBlocks);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxTransportBlocksUL", "maxTransmittedBlocks", -1, "UL-TransChCapability");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxTransmittedBlocks, 0, 10);
+   RT_CHECK(ctx, stat, "MaxTransportBlocksUL", "maxTransmittedBlocks", -1, "UL-TransChCapability");
+   /* maxNumberOfTFC */
+   if (pvalue->maxNumberOfTFC > 10) {
+      rtxErrAddUIntParm(ctx, pvalue->maxNumberOfTFC);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNumberOfTFC-UL", "maxNumberOfTFC", -1, "UL-TransChCapability");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxNumberOfTFC, 0, 10);
+   RT_CHECK(ctx, stat, "MaxNumberOfTFC-UL", "maxNumberOfTFC", -1, "UL-TransChCapability");
+   /* maxNumberOfTF */
+   if (pvalue->maxNumberOfTF > 5) {
+      rtxErrAddUIntParm(ctx, pvalue->maxNumberOfTF);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNumberOfTF", "maxNumberOfTF", -1, "UL-TransChCapability");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxNumberOfTF, 0, 5);
+   RT_CHECK(ctx, stat, "MaxNumberOfTF", "maxNumberOfTF", -1, "UL-TransChCapability");
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelCapability(rtxContext* RT_RESTRICT ctx, const TransportChannelCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransportChannelCapability");
+   /* dl-TransChCapability */
+   stat = asn1PE_UMTS_DL_TransChCapability(ctx, &pvalue->dl_TransChCapability);
+   RT_CHECK(ctx, stat, 0, "dl-TransChCapability", -1, "TransportChannelCapability");
+   /* ul-TransChCapability */
+   stat = asn1PE_UMTS_UL_TransChCapability(ctx, &pvalue->ul_TransChCapability);
+   RT_CHECK(ctx, stat, 0, "ul-TransChCapability", -1, "TransportChannelCapability");
+   return 0;
+}
+
+int asn1PE_UMTS_U_RNTI_Short(rtxContext* RT_RESTRICT ctx, const U_RNTI_Short* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "U-RNTI-Short");
+   /* srnc-Identity */
+   stat = asn1PE_UMTS_SRNC_Identity(ctx, pvalue->srnc_Identity);
+   RT_CHECK(ctx, stat, 0, "srnc-Identity", -1, "U-RNTI-Short");
+   /* s-RNTI-2 */
+   stat = asn1PE_UMTS_S_RNTI_2(ctx, pvalue->s_RNTI_2);
+   RT_CHECK(ctx, stat, 0, "s-RNTI-2", -1, "U-RNTI-Short");
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_edch_r6_fdd_edch_supported(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_edch_r6_fdd_edch_supported* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* edch-PhysicalLayerCategory */
+   if ((uint64_t)(pvalue->edch_PhysicalLayerCategory - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "edch-PhysicalLayerCategory");
+      rtxErrAddUIntParm(ctx, pvalue->edch_PhysicalLayerCategory);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "edch-PhysicalLayerCategory", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->edch_PhysicalLayerCategory, 1, 16);
+   RT_CHECK(ctx, stat, 0, "edch-PhysicalLayerCategory", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_edch_r6_fdd_edch(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_edch_r6_fdd_edch* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "supported", -1, 0);
+         stat = asn1PE_UMTS_PhysicalChannelCapability_edch_r6_fdd_edch_supported(ctx, pvalue->u.supported);
+         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_edch_r6(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_edch_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelCapability-edch-r6");
+   /* fdd-edch */
+   stat = asn1PE_UMTS_PhysicalChannelCapability_edch_r6_fdd_edch(ctx, &pvalue->fdd_edch);
+   RT_CHECK(ctx, stat, 0, "fdd-edch", -1, "PhysicalChannelCapability-edch-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v690ext_deviceType(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v690ext_deviceType value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v690ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v690ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v690ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v690ext");
+   /* physicalchannelcapability-edch */
+   stat = asn1PE_UMTS_PhysicalChannelCapability_edch_r6(ctx, &pvalue->physicalchannelcapability_edch);
+   RT_CHECK(ctx, stat, 0, "physicalchannelcapability-edch", -1, "UE-RadioAccessCapability-v690ext");
+   /* deviceType */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->deviceType > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->deviceType);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "deviceType", -1, "UE-RadioAccessCapability-v690ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->deviceType, 0, 0);
+      RT_CHECK(ctx, stat, 0, "deviceType", -1, "UE-RadioAccessCapability-v690ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRAT_UE_RadioAccessCapability_v690ext_supportOfInter_RAT_PS_Handover(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability_v690ext_supportOfInter_RAT_PS_Handover value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_GSM_MS_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, const GSM_MS_RadioAccessCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GSM-MS-RadioAccessCapability");
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
+   RT_CHECK(ctx, stat, 0, 0, -1, "GSM-MS-RadioAccessCapability");
+   return 0;
+}
+
+int asn1PE_UMTS_InterRAT_UE_RadioAccessCapability_v690ext(rtxContext* RT_RESTRICT ctx, const InterRAT_UE_RadioAccessCapability_v690ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRAT-UE-RadioAccessCapability-v690ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRAT-UE-RadioAccessCapability-v690ext");
+   /* supportOfInter-RAT-PS-Handover */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportOfInter_RAT_PS_Handover > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfInter_RAT_PS_Handover);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfInter-RAT-PS-Handover", -1, "InterRAT-UE-RadioAccessCapability-v690ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfInter_RAT_PS_Handover, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportOfInter-RAT-PS-Handover", -1, "InterRAT-UE-RadioAccessCapability-v690ext");
+   }
+   /* gsm-MS-RadioAccessCapability */
+   stat = asn1PE_UMTS_GSM_MS_RadioAccessCapability(ctx, &pvalue->gsm_MS_RadioAccessCapability);
+   RT_CHECK(ctx, stat, 0, "gsm-MS-RadioAccessCapability", -1, "InterRAT-UE-RadioAccessCapability-v690ext");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v6b0ext_IEs_supportForSIB11bis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v6b0ext_IEs_supportForSIB11bis value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v6b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v6b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v6b0ext-IEs");
+   /* supportForSIB11bis */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportForSIB11bis > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportForSIB11bis);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportForSIB11bis", -1, "UE-RadioAccessCapability-v6b0ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportForSIB11bis, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportForSIB11bis", -1, "UE-RadioAccessCapability-v6b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v6e0ext_IEs_supportForFDPCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v6e0ext_IEs_supportForFDPCH value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v6e0ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v6e0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v6e0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v6e0ext-IEs");
+   /* supportForFDPCH */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportForFDPCH > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportForFDPCH);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportForFDPCH", -1, "UE-RadioAccessCapability-v6e0ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportForFDPCH, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportForFDPCH", -1, "UE-RadioAccessCapability-v6e0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_GANSSPositioning_Capability(rtxContext* RT_RESTRICT ctx, const UE_GANSSPositioning_Capability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-GANSSPositioning-Capability");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-GANSSPositioning-Capability");
+   /* networkAssistedGANSS-supportedList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_NetworkAssistedGANSS_Supported_List(ctx, &pvalue->networkAssistedGANSS_supportedList);
+      RT_CHECK(ctx, stat, 0, "networkAssistedGANSS-supportedList", -1, "UE-GANSSPositioning-Capability");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_PositioningCapability_v770ext(rtxContext* RT_RESTRICT ctx, const UE_PositioningCapability_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-PositioningCapability-v770ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-PositioningCapability-v770ext");
+   /* ue-GANSSPositioning-Capability */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_GANSSPositioning_Capability(ctx, &pvalue->ue_GANSSPositioning_Capability);
+      RT_CHECK(ctx, stat, 0, "ue-GANSSPositioning-Capability", -1, "UE-PositioningCapability-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v770ext_IEs_mac_ehsSupport(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v770ext_IEs_mac_ehsSupport value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_SpecificCapabilityInformation_LCRTDD(rtxContext* RT_RESTRICT ctx, UE_SpecificCapabilityInformation_LCRTDD value)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UE-SpecificCapabilityInformation-LCRTDD");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-SpecificCapabilityInformation-LCRTDD");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v770ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v770ext-IEs");
+   /* pdcp-Capability */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PDCP_Capability_v770ext(ctx, &pvalue->pdcp_Capability);
+      RT_CHECK(ctx, stat, 0, "pdcp-Capability", -1, "UE-RadioAccessCapability-v770ext-IEs");
+   }
+   /* rlc-Capability */
+   stat = asn1PE_UMTS_RLC_Capability_v770ext(ctx, &pvalue->rlc_Capability);
+   RT_CHECK(ctx, stat, 0, "rlc-Capability", -1, "UE-RadioAccessCapability-v770ext-IEs");
+   /* rf-Capability */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RF_Capability_v770ext(ctx, &pvalue->rf_Capability);
+      RT_CHECK(ctx, stat, 0, "rf-Capability", -1, "UE-RadioAccessCapability-v770ext-IEs");
+   }
+   /* physicalChannelCapability */
+   stat = asn1PE_UMTS_PhysicalChannelCapability_v770ext(ctx, &pvalue->physicalChannelCapability);
+   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapability-v770ext-IEs");
+   /* multiModeRAT-Capability */
+   stat = asn1PE_UMTS_MultiModeRAT_Capability_v770ext(ctx, &pvalue->multiModeRAT_Capability);
+   RT_CHECK(ctx, stat, 0, "multiModeRAT-Capability", -1, "UE-RadioAccessCapability-v770ext-IEs");
+   /* ue-PositioningCapability */
+   stat = asn1PE_UMTS_UE_PositioningCapability_v770ext(ctx, &pvalue->ue_PositioningCapability);
+   RT_CHECK(ctx, stat, 0, "ue-PositioningCapability", -1, "UE-RadioAccessCapability-v770ext-IEs");
+   /* mac-ehsSupport */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->mac_ehsSupport > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mac_ehsSupport);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "mac-ehsSupport", -1, "UE-RadioAccessCapability-v770ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mac_ehsSupport, 0, 0);
+      RT_CHECK(ctx, stat, 0, "mac-ehsSupport", -1, "UE-RadioAccessCapability-v770ext-IEs");
+   }
+   /* ue-specificCapabilityInformation */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->ue_specificCapabilityInformation > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->ue_specificCapabilityInformation);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "UE-SpecificCapabilityInformation-LCRTDD", "ue-specificCapabilityInformation", -1, "UE-RadioAccessCapability-v770ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ue_specificCapabilityInformation, 0, 15);
+      RT_CHECK(ctx, stat, "UE-SpecificCapabilityInformation-LCRTDD", "ue-specificCapabilityInformation", -1, "UE-RadioAccessCapability-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v790ext_IEs_supportForEDPCCHPowerBoosting(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v790ext_IEs_supportForEDPCCHPowerBoosting value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v790ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v790ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v790ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v790ext-IEs");
+   /* supportForEDPCCHPowerBoosting */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportForEDPCCHPowerBoosting > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportForEDPCCHPowerBoosting);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportForEDPCCHPowerBoosting", -1, "UE-RadioAccessCapability-v790ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportForEDPCCHPowerBoosting, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportForEDPCCHPowerBoosting", -1, "UE-RadioAccessCapability-v790ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_GANSSPositioning_Capability_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_GANSSPositioning_Capability_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-GANSSPositioning-Capability-v860ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-GANSSPositioning-Capability-v860ext-IEs");
+   /* networkAssistedGANSS-supportedList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_NetworkAssistedGANSS_Supported_List_v860ext(ctx, &pvalue->networkAssistedGANSS_supportedList);
+      RT_CHECK(ctx, stat, 0, "networkAssistedGANSS-supportedList", -1, "UE-GANSSPositioning-Capability-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_PositioningCapability_v860ext(rtxContext* RT_RESTRICT ctx, const UE_PositioningCapability_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-PositioningCapability-v860ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-PositioningCapability-v860ext");
+   /* ue-GANSSPositioning-Capability-v860ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_GANSSPositioning_Capability_v860ext_IEs(ctx, &pvalue->ue_GANSSPositioning_Capability_v860ext);
+      RT_CHECK(ctx, stat, 0, "ue-GANSSPositioning-Capability-v860ext", -1, "UE-PositioningCapability-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfCommonEDCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfCommonEDCH value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfMACiis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfMACiis value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfSPSOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfSPSOperation value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfControlChannelDRXOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfControlChannelDRXOperation value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfCSG(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfCSG value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabBandFDD3(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDD3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabBandFDD3");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDD3");
+   /* radioFrequencyBandFDD */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->radioFrequencyBandFDD > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandFDD);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "UE-RadioAccessCapabBandFDD3");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandFDD, 0, 7);
+      RT_CHECK(ctx, stat, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "UE-RadioAccessCapabBandFDD3");
+   }
+   /* radioFrequencyBandFDD2 */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->radioFrequencyBandFDD2 > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandFDD2);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandFDD2", "radioFrequencyBandFDD2", -1, "UE-RadioAccessCapabBandFDD3");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandFDD2, 0, 15);
+      RT_CHECK(ctx, stat, "RadioFrequencyBandFDD2", "radioFrequencyBandFDD2", -1, "UE-RadioAccessCapabBandFDD3");
+   }
+   /* measurementCapability3 */
+   stat = asn1PE_UMTS_MeasurementCapabilityExt3(ctx, &pvalue->measurementCapability3);
+   RT_CHECK(ctx, stat, 0, "measurementCapability3", -1, "UE-RadioAccessCapabBandFDD3");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabBandFDDList3(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDDList3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabBandFDDList3");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDDList3");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UE-RadioAccessCapabBandFDD3", (int32_t)i, "UE-RadioAccessCapabBandFDDList3");
+      stat = asn1PE_UMTS_UE_RadioAccessCapabBandFDD3(ctx, (const UE_RadioAccessCapabBandFDD3*)node->data);
+      RT_CHECK(ctx, stat, 0, "UE-RadioAccessCapabBandFDD3", (int32_t)i, "UE-RadioAccessCapabBandFDDList3");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v860ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 0), 9);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v860ext-IEs");
+   /* rf-Capability */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RF_Capability_v860ext(ctx, &pvalue->rf_Capability);
+      RT_CHECK(ctx, stat, 0, "rf-Capability", -1, "UE-RadioAccessCapability-v860ext-IEs");
+   }
+   /* physicalChannelCapability */
+   stat = asn1PE_UMTS_PhysicalChannelCapability_v860ext(ctx, &pvalue->physicalChannelCapability);
+   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapability-v860ext-IEs");
+   /* multiModeRAT-Capability */
+   stat = asn1PE_UMTS_MultiModeRAT_Capability_v860ext(ctx, &pvalue->multiModeRAT_Capability);
+   RT_CHECK(ctx, stat, 0, "multiModeRAT-Capability", -1, "UE-RadioAccessCapability-v860ext-IEs");
+   /* ue-PositioningCapability */
+   stat = asn1PE_UMTS_UE_PositioningCapability_v860ext(ctx, &pvalue->ue_PositioningCapability);
+   RT_CHECK(ctx, stat, 0, "ue-PositioningCapability", -1, "UE-RadioAccessCapability-v860ext-IEs");
+   /* measurementCapability */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_MeasurementCapability_v860ext(ctx, &pvalue->measurementCapability);
+      RT_CHECK(ctx, stat, 0, "measurementCapability", -1, "UE-RadioAccessCapability-v860ext-IEs");
+   }
+   /* measurementCapabilityTDD */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_MeasurementCapabilityTDD(ctx, &pvalue->measurementCapabilityTDD);
+      RT_CHECK(ctx, stat, 0, "measurementCapabilityTDD", -1, "UE-RadioAccessCapability-v860ext-IEs");
+   }
+   /* supportOfCommonEDCH */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->supportOfCommonEDCH > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfCommonEDCH);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfCommonEDCH", -1, "UE-RadioAccessCapability-v860ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfCommonEDCH, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportOfCommonEDCH", -1, "UE-RadioAccessCapability-v860ext-IEs");
+   }
+   /* supportOfMACiis */
+   if (pvalue->m & 0x10u) {
+      if (pvalue->supportOfMACiis > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfMACiis);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfMACiis", -1, "UE-RadioAccessCapability-v860ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfMACiis, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportOfMACiis", -1, "UE-RadioAccessCapability-v860ext-IEs");
+   }
+   /* supportOfSPSOperation */
+   if (pvalue->m & 0x20u) {
+      if (pvalue->supportOfSPSOperation > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfSPSOperation);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfSPSOperation", -1, "UE-RadioAccessCapability-v860ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfSPSOperation, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportOfSPSOperation", -1, "UE-RadioAccessCapability-v860ext-IEs");
+   }
+   /* supportOfControlChannelDRXOperation */
+   if (pvalue->m & 0x40u) {
+      if (pvalue->supportOfControlChannelDRXOperation > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfControlChannelDRXOperation);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfControlChannelDRXOperation", -1, "UE-RadioAccessCapability-v860ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfControlChannelDRXOperation, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportOfControlChannelDRXOperation", -1, "UE-RadioAccessCapability-v860ext-IEs");
+   }
+   /* supportOfCSG */
+   if (pvalue->m & 0x80u) {
+      if (pvalue->supportOfCSG > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfCSG);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfCSG", -1, "UE-RadioAccessCapability-v860ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfCSG, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportOfCSG", -1, "UE-RadioAccessCapability-v860ext-IEs");
+   }
+   /* ue-RadioAccessCapabBandFDDList3 */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapabBandFDDList3(ctx, &pvalue->ue_RadioAccessCapabBandFDDList3);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabBandFDDList3", -1, "UE-RadioAccessCapability-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_EUTRA_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, const EUTRA_RadioAccessCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-RadioAccessCapability");
+   /* ue-EUTRA-Capability */
+   RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+   stat = pe_OctetString(ctx, pvalue->ue_EUTRA_Capability.numocts, pvalue->ue_EUTRA_Capability.data);
+   RT_CHECK(ctx, stat, 0, "ue-EUTRA-Capability", -1, "EUTRA-RadioAccessCapability");
+   return 0;
+}
+
+int asn1PE_UMTS_InterRAT_UE_RadioAccessCapability_v860ext(rtxContext* RT_RESTRICT ctx, const InterRAT_UE_RadioAccessCapability_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRAT-UE-RadioAccessCapability-v860ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRAT-UE-RadioAccessCapability-v860ext");
+   /* eutra-RadioAccessCapability */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_EUTRA_RadioAccessCapability(ctx, &pvalue->eutra_RadioAccessCapability);
+      RT_CHECK(ctx, stat, 0, "eutra-RadioAccessCapability", -1, "InterRAT-UE-RadioAccessCapability-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v880ext_IEs_supportForPriorityReselectionInUTRAN(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v880ext_IEs_supportForPriorityReselectionInUTRAN value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v880ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v880ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v880ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v880ext-IEs");
+   /* supportForPriorityReselectionInUTRAN */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportForPriorityReselectionInUTRAN > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportForPriorityReselectionInUTRAN);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportForPriorityReselectionInUTRAN", -1, "UE-RadioAccessCapability-v880ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportForPriorityReselectionInUTRAN, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportForPriorityReselectionInUTRAN", -1, "UE-RadioAccessCapability-v880ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v890ext_IEs_supportCellSpecificTxDiversityinDC_Operation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v890ext_IEs_supportCellSpecificTxDiversityinDC_Operation value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v890ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v890ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v890ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v890ext-IEs");
+   /* supportCellSpecificTxDiversityinDC-Operation */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportCellSpecificTxDiversityinDC_Operation > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportCellSpecificTxDiversityinDC_Operation);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportCellSpecificTxDiversityinDC-Operation", -1, "UE-RadioAccessCapability-v890ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportCellSpecificTxDiversityinDC_Operation, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportCellSpecificTxDiversityinDC-Operation", -1, "UE-RadioAccessCapability-v890ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabBandCombList(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandCombList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabBandCombList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabBandCombList");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)(pvalue->elem[i] - 1) > 255u) {
+         rtxErrAddStrParm(ctx, "BandComb");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "BandComb", "BandComb", (int32_t)i, "UE-RadioAccessCapabBandCombList");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 1, 256);
+      RT_CHECK(ctx, stat, "BandComb", "BandComb", (int32_t)i, "UE-RadioAccessCapabBandCombList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v920ext_IEs_supportOfenhancedTS0(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v920ext_IEs_supportOfenhancedTS0 value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v920ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v920ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v920ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat);
-   /* supportOfEUTRAFDD */
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v920ext-IEs");
+   /* ue-RadioAccessCapabBandCombList */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "supportOfEUTRAFDD");
-      if (pvalue->supportOfEUTRAFDD > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfEUTRAFDD);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfEUTRAFDD, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UE_RadioAccessCapabBandCombList(ctx, &pvalue->ue_RadioAccessCapabBandCombList);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabBandCombList", -1, "UE-RadioAccessCapability-v920ext-IEs");
    }
-   /* supportOfInterRATHOToEUTRAFDD */
+   /* physicalChannelCapability */
+   stat = asn1PE_UMTS_PhysicalChannelCapability_v920ext(ctx, &pvalue->physicalChannelCapability);
+   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapability-v920ext-IEs");
+   /* rlc-Capability */
+   stat = asn1PE_UMTS_RLC_Capability_v920ext(ctx, &pvalue->rlc_Capability);
+   RT_CHECK(ctx, stat, 0, "rlc-Capability", -1, "UE-RadioAccessCapability-v920ext-IEs");
+   /* supportOfenhancedTS0 */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "supportOfInterRATHOToEUTRAFDD");
-      if (pvalue->supportOfInterRATHOToEUTRAFDD > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfInterRATHOToEUTRAFDD);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+      if (pvalue->supportOfenhancedTS0 > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfenhancedTS0);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfenhancedTS0", -1, "UE-RadioAccessCapability-v920ext-IEs");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfInterRATHOToEUTRAFDD, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfenhancedTS0, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportOfenhancedTS0", -1, "UE-RadioAccessCapability-v920ext-IEs");
    }
-   /* supportOfEUTRATDD */
+   /* measurementCapability */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "supportOfEUTRATDD");
-      if (pvalue->supportOfEUTRATDD > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfEUTRATDD);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfEUTRATDD, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_MeasurementCapability_v920ext(ctx, &pvalue->measurementCapability);
+      RT_CHECK(ctx, stat, 0, "measurementCapability", -1, "UE-RadioAccessCapability-v920ext-IEs");
    }
-   /* supportOfInterRATHOToEUTRATDD */
+   /* csgProximityIndicationCapability */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "supportOfInterRATHOToEUTRATDD");
-      if (pvalue->supportOfInterRATHOToEUTRATDD > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfInterRATHOToEUTRATDD);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfInterRATHOToEUTRATDD, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CSG_ProximityIndicationCapability(ctx, &pvalue->csgProximityIndicationCapability);
+      RT_CHECK(ctx, stat, 0, "csgProximityIndicationCapability", -1, "UE-RadioAccessCapability-v920ext-IEs");
    }
-   /* eutraFeatureGroupIndicators */
+   /* neighCellSI-AcquisitionCapability */
    if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "eutraFeatureGroupIndicators");
-      RT_SET_SIZE(ctx, 4, 4);
-      stat = pe_BitString32(ctx, &pvalue->eutraFeatureGroupIndicators, 4, 4);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_NeighCellSI_AcquisitionCapability(ctx, &pvalue->neighCellSI_AcquisitionCapability);
+      RT_CHECK(ctx, stat, 0, "neighCellSI-AcquisitionCapability", -1, "UE-RadioAccessCapability-v920ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_N_308(rtxContext* ctx, N_308 value)
+int asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "N-308");
-   if ((uint64_t)(value - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_N_312_r5(rtxContext* ctx, N_312_r5 value)
+int asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "N-312-r5");
-   if (value > 11) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ue-RadioAccessCapability-v920ext */
+   stat = asn1PE_UMTS_UE_RadioAccessCapability_v920ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v920ext);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v920ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_N_315_r5(rtxContext* ctx, N_315_r5 value)
+int asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "N-315-r5");
-   if (value > 11) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ue-RadioAccessCapability-v890ext */
+   stat = asn1PE_UMTS_UE_RadioAccessCapability_v890ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v890ext);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v890ext", -1, 0);
+   /* v920NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtensions", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_NeighCellSI_AcquisitionCapability_supportOfIntraFreqSIAcquisitionForHO(rtxContext* ctx, NeighCellSI_AcquisitionCapability_supportOfIntraFreqSIAcquisitionForHO value)
+int asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ue-RadioAccessCapability-v880ext */
+   stat = asn1PE_UMTS_UE_RadioAccessCapability_v880ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v880ext);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v880ext", -1, 0);
+   /* v890NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
    return 0;
 }
 
-int asn1PE_UMTS_NeighCellSI_AcquisitionCapability_supportOfInterFreqSIAcquisitionForHO(rtxContext* ctx, NeighCellSI_AcquisitionCapability_supportOfInterFreqSIAcquisitionForHO value)
+int asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ue-RadioAccessCapability-v860ext */
+   stat = asn1PE_UMTS_UE_RadioAccessCapability_v860ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v860ext);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v860ext", -1, 0);
+   /* ue-RATSpecificCapability-v860ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterRAT_UE_RadioAccessCapability_v860ext(ctx, &pvalue->ue_RATSpecificCapability_v860ext);
+      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability-v860ext", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
+   /* v880NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions(ctx, &pvalue->v880NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v880NonCriticalExtensions", -1, 0);
+   }
    return 0;
 }
 
-int asn1PE_UMTS_NeighCellSI_AcquisitionCapability_supportOfE_UtraSIAcquisitionForHO(rtxContext* ctx, NeighCellSI_AcquisitionCapability_supportOfE_UtraSIAcquisitionForHO value)
+int asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ue-RadioAccessCapability-v790ext */
+   stat = asn1PE_UMTS_UE_RadioAccessCapability_v790ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v790ext);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v790ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
    return 0;
 }
 
-int asn1PE_UMTS_NeighCellSI_AcquisitionCapability(rtxContext* ctx, const NeighCellSI_AcquisitionCapability* pvalue)
+int asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NeighCellSI-AcquisitionCapability");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ue-RadioAccessCapability-v770ext */
+   stat = asn1PE_UMTS_UE_RadioAccessCapability_v770ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v770ext);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v770ext", -1, 0);
+   /* v790NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions(ctx, &pvalue->v790NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v790NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ue-RadioAccessCapability-v6e0ext */
+   stat = asn1PE_UMTS_UE_RadioAccessCapability_v6e0ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v6e0ext);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v6e0ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ue-RadioAccessCapability-v6b0ext */
+   stat = asn1PE_UMTS_UE_RadioAccessCapability_v6b0ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v6b0ext", -1, 0);
+   /* v6e0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions(ctx, &pvalue->v6e0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6e0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_CapabilityContainer_IEs(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-CapabilityContainer-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-CapabilityContainer-IEs");
+   /* ue-RadioAccessCapability-v690ext */
+   stat = asn1PE_UMTS_UE_RadioAccessCapability_v690ext(ctx, &pvalue->ue_RadioAccessCapability_v690ext);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v690ext", -1, "UE-CapabilityContainer-IEs");
+   /* ue-RATSpecificCapability-v690ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterRAT_UE_RadioAccessCapability_v690ext(ctx, &pvalue->ue_RATSpecificCapability_v690ext);
+      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability-v690ext", -1, "UE-CapabilityContainer-IEs");
+   }
+   /* v6b0NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, "UE-CapabilityContainer-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_ConnTimersAndConstants_r5(rtxContext* RT_RESTRICT ctx, const UE_ConnTimersAndConstants_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-ConnTimersAndConstants-r5");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->t_301 != 10) << 21) |
+      ((uint64_t)(pvalue->n_301 != 2) << 20) |
+      ((uint64_t)(pvalue->t_302 != 12) << 19) |
+      ((uint64_t)(pvalue->n_302 != 3) << 18) |
+      ((uint64_t)(pvalue->t_304 != 4) << 17) |
+      ((uint64_t)(pvalue->n_304 != 2) << 16) |
+      ((uint64_t)(pvalue->t_305 != 3) << 15) |
+      ((uint64_t)(pvalue->t_307 != 4) << 14) |
+      ((uint64_t)(pvalue->t_308 != 2) << 13) |
+      ((uint64_t)(pvalue->t_309 != 5) << 12) |
+      ((uint64_t)(pvalue->t_310 != 3) << 11) |
+      ((uint64_t)(pvalue->n_310 != 4) << 10) |
+      ((uint64_t)(pvalue->t_311 != 7) << 9) |
+      ((uint64_t)(pvalue->t_312 != 1) << 8) |
+      ((uint64_t)(pvalue->n_312 != 0) << 7) |
+      ((uint64_t)(pvalue->t_313 != 3) << 6) |
+      ((uint64_t)(pvalue->n_313 != 4) << 5) |
+      ((uint64_t)(pvalue->t_314 != 5) << 4) |
+      ((uint64_t)(pvalue->t_315 != 4) << 3) |
+      ((uint64_t)(pvalue->n_315 != 0) << 2) |
+      ((uint64_t)(pvalue->t_316 != 3) << 1) |
+      ((uint64_t)(pvalue->t_317 != 4) << 0), 22);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-ConnTimersAndConstants-r5");
+   /* t-301 */
+   if (pvalue->t_301 != 10) {
+      if (pvalue->t_301 > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->t_301);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "T-301", "t-301", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->t_301, 0, 15);
+      RT_CHECK(ctx, stat, "T-301", "t-301", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* n-301 */
+   if (pvalue->n_301 != 2) {
+      if ((uint64_t)pvalue->n_301 > 7u) {
+         rtxErrAddStrParm(ctx, "N-301");
+         rtxErrAddUIntParm(ctx, pvalue->n_301);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "N-301", "n-301", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->n_301, 0, 7);
+      RT_CHECK(ctx, stat, "N-301", "n-301", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* t-302 */
+   if (pvalue->t_302 != 12) {
+      if (pvalue->t_302 > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->t_302);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "T-302", "t-302", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->t_302, 0, 15);
+      RT_CHECK(ctx, stat, "T-302", "t-302", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* n-302 */
+   if (pvalue->n_302 != 3) {
+      if ((uint64_t)pvalue->n_302 > 7u) {
+         rtxErrAddStrParm(ctx, "N-302");
+         rtxErrAddUIntParm(ctx, pvalue->n_302);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "N-302", "n-302", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->n_302, 0, 7);
+      RT_CHECK(ctx, stat, "N-302", "n-302", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* t-304 */
+   if (pvalue->t_304 != 4) {
+      if (pvalue->t_304 > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->t_304);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "T-304", "t-304", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->t_304, 0, 7);
+      RT_CHECK(ctx, stat, "T-304", "t-304", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* n-304 */
+   if (pvalue->n_304 != 2) {
+      if ((uint64_t)pvalue->n_304 > 7u) {
+         rtxErrAddStrParm(ctx, "N-304");
+         rtxErrAddUIntParm(ctx, pvalue->n_304);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "N-304", "n-304", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->n_304, 0, 7);
+      RT_CHECK(ctx, stat, "N-304", "n-304", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* t-305 */
+   if (pvalue->t_305 != 3) {
+      if (pvalue->t_305 > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->t_305);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "T-305", "t-305", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->t_305, 0, 7);
+      RT_CHECK(ctx, stat, "T-305", "t-305", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* t-307 */
+   if (pvalue->t_307 != 4) {
+      if (pvalue->t_307 > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->t_307);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "T-307", "t-307", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->t_307, 0, 7);
+      RT_CHECK(ctx, stat, "T-307", "t-307", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* t-308 */
+   if (pvalue->t_308 != 2) {
+      if (pvalue->t_308 > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->t_308);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "T-308", "t-308", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->t_308, 0, 3);
+      RT_CHECK(ctx, stat, "T-308", "t-308", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* t-309 */
+   if (pvalue->t_309 != 5) {
+      if ((uint64_t)(pvalue->t_309 - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "T-309");
+         rtxErrAddUIntParm(ctx, pvalue->t_309);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "T-309", "t-309", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->t_309, 1, 8);
+      RT_CHECK(ctx, stat, "T-309", "t-309", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* t-310 */
+   if (pvalue->t_310 != 3) {
+      if (pvalue->t_310 > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->t_310);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "T-310", "t-310", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->t_310, 0, 7);
+      RT_CHECK(ctx, stat, "T-310", "t-310", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* n-310 */
+   if (pvalue->n_310 != 4) {
+      if ((uint64_t)pvalue->n_310 > 7u) {
+         rtxErrAddStrParm(ctx, "N-310");
+         rtxErrAddUIntParm(ctx, pvalue->n_310);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "N-310", "n-310", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->n_310, 0, 7);
+      RT_CHECK(ctx, stat, "N-310", "n-310", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* t-311 */
+   if (pvalue->t_311 != 7) {
+      if (pvalue->t_311 > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->t_311);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "T-311", "t-311", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->t_311, 0, 7);
+      RT_CHECK(ctx, stat, "T-311", "t-311", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* t-312 */
+   if (pvalue->t_312 != 1) {
+      if ((uint64_t)pvalue->t_312 > 15u) {
+         rtxErrAddStrParm(ctx, "T-312");
+         rtxErrAddUIntParm(ctx, pvalue->t_312);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "T-312", "t-312", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->t_312, 0, 15);
+      RT_CHECK(ctx, stat, "T-312", "t-312", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* n-312 */
+   if (pvalue->n_312 != 0) {
+      if (pvalue->n_312 > 11) {
+         rtxErrAddUIntParm(ctx, pvalue->n_312);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "N-312-r5", "n-312", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->n_312, 0, 11);
+      RT_CHECK(ctx, stat, "N-312-r5", "n-312", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* t-313 */
+   if (pvalue->t_313 != 3) {
+      if ((uint64_t)pvalue->t_313 > 15u) {
+         rtxErrAddStrParm(ctx, "T-313");
+         rtxErrAddUIntParm(ctx, pvalue->t_313);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "T-313", "t-313", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->t_313, 0, 15);
+      RT_CHECK(ctx, stat, "T-313", "t-313", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* n-313 */
+   if (pvalue->n_313 != 4) {
+      if (pvalue->n_313 > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->n_313);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "N-313", "n-313", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->n_313, 0, 7);
+      RT_CHECK(ctx, stat, "N-313", "n-313", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* t-314 */
+   if (pvalue->t_314 != 5) {
+      if (pvalue->t_314 > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->t_314);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "T-314", "t-314", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->t_314, 0, 7);
+      RT_CHECK(ctx, stat, "T-314", "t-314", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* t-315 */
+   if (pvalue->t_315 != 4) {
+      if (pvalue->t_315 > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->t_315);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "T-315", "t-315", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->t_315, 0, 7);
+      RT_CHECK(ctx, stat, "T-315", "t-315", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* n-315 */
+   if (pvalue->n_315 != 0) {
+      if (pvalue->n_315 > 11) {
+         rtxErrAddUIntParm(ctx, pvalue->n_315);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "N-315-r5", "n-315", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->n_315, 0, 11);
+      RT_CHECK(ctx, stat, "N-315-r5", "n-315", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* t-316 */
+   if (pvalue->t_316 != 3) {
+      if (pvalue->t_316 > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->t_316);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "T-316", "t-316", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->t_316, 0, 7);
+      RT_CHECK(ctx, stat, "T-316", "t-316", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* t-317 */
+   if (pvalue->t_317 != 4) {
+      if (pvalue->t_317 > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->t_317);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "T-317", "t-317", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->t_317, 0, 7);
+      RT_CHECK(ctx, stat, "T-317", "t-317", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_HSPA_Identities_r6(rtxContext* RT_RESTRICT ctx, const UE_HSPA_Identities_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-HSPA-Identities-r6");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* supportOfIntraFreqSIAcquisitionForHO */
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-HSPA-Identities-r6");
+   /* new-H-RNTI */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "supportOfIntraFreqSIAcquisitionForHO");
-      if (pvalue->supportOfIntraFreqSIAcquisitionForHO > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfIntraFreqSIAcquisitionForHO);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfIntraFreqSIAcquisitionForHO, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "UE-HSPA-Identities-r6");
    }
-   /* supportOfInterFreqSIAcquisitionForHO */
+   /* newPrimary-E-RNTI */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "supportOfInterFreqSIAcquisitionForHO");
-      if (pvalue->supportOfInterFreqSIAcquisitionForHO > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfInterFreqSIAcquisitionForHO);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfInterFreqSIAcquisitionForHO, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "UE-HSPA-Identities-r6");
    }
-   /* supportOfE-UtraSIAcquisitionForHO */
+   /* newSecondary-E-RNTI */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "supportOfE-UtraSIAcquisitionForHO");
-      if (pvalue->supportOfE_UtraSIAcquisitionForHO > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfE_UtraSIAcquisitionForHO);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfE_UtraSIAcquisitionForHO, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "UE-HSPA-Identities-r6");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_NetworkAssistedGANSS_Supported_List_element_gANSS_Id(rtxContext* ctx, NetworkAssistedGANSS_Supported_List_element_gANSS_Id value)
+int asn1PE_UMTS_UE_MultiModeRAT_Capability(rtxContext* RT_RESTRICT ctx, const UE_MultiModeRAT_Capability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-MultiModeRAT-Capability");
+   /* multiRAT-CapabilityList */
+   stat = asn1PE_UMTS_MultiRAT_Capability(ctx, &pvalue->multiRAT_CapabilityList);
+   RT_CHECK(ctx, stat, 0, "multiRAT-CapabilityList", -1, "UE-MultiModeRAT-Capability");
+   /* multiModeCapability */
+   if (pvalue->multiModeCapability > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->multiModeCapability);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MultiModeCapability", "multiModeCapability", -1, "UE-MultiModeRAT-Capability");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->multiModeCapability, 0, 2);
+   RT_CHECK(ctx, stat, "MultiModeCapability", "multiModeCapability", -1, "UE-MultiModeRAT-Capability");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_PowerClassExt(rtxContext* RT_RESTRICT ctx, UE_PowerClassExt value)
 {
    int stat = 0;
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UE-PowerClassExt");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-PowerClassExt");
    return 0;
 }
 
-int asn1PE_UMTS_GANSS_Signal_Id(rtxContext* ctx, GANSS_Signal_Id value)
+int asn1PE_UMTS_UE_Positioning_Capability(rtxContext* RT_RESTRICT ctx, const UE_Positioning_Capability* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "GANSS-Signal-Id");
-   if ((uint64_t)value > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-Capability");
+   /* standaloneLocMethodsSupported */
+   stat = rtxEncBit(ctx, pvalue->standaloneLocMethodsSupported);
+   RT_CHECK(ctx, stat, 0, "standaloneLocMethodsSupported", -1, "UE-Positioning-Capability");
+   /* ue-BasedOTDOA-Supported */
+   stat = rtxEncBit(ctx, pvalue->ue_BasedOTDOA_Supported);
+   RT_CHECK(ctx, stat, 0, "ue-BasedOTDOA-Supported", -1, "UE-Positioning-Capability");
+   /* networkAssistedGPS-Supported */
+   if (pvalue->networkAssistedGPS_Supported > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->networkAssistedGPS_Supported);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "NetworkAssistedGPS-Supported", "networkAssistedGPS-Supported", -1, "UE-Positioning-Capability");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   stat = pe_ConsUInt64(ctx, pvalue->networkAssistedGPS_Supported, 0, 3);
+   RT_CHECK(ctx, stat, "NetworkAssistedGPS-Supported", "networkAssistedGPS-Supported", -1, "UE-Positioning-Capability");
+   /* supportForUE-GPS-TimingOfCellFrames */
+   stat = rtxEncBit(ctx, pvalue->supportForUE_GPS_TimingOfCellFrames);
+   RT_CHECK(ctx, stat, 0, "supportForUE-GPS-TimingOfCellFrames", -1, "UE-Positioning-Capability");
+   /* supportForIPDL */
+   stat = rtxEncBit(ctx, pvalue->supportForIPDL);
+   RT_CHECK(ctx, stat, 0, "supportForIPDL", -1, "UE-Positioning-Capability");
    return 0;
 }
 
-int asn1PE_UMTS_NetworkAssistedGANSS_Supported_List_element(rtxContext* ctx, const NetworkAssistedGANSS_Supported_List_element* pvalue)
+int asn1PE_UMTS_UE_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* gANSS-Id */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability");
+   /* pdcp-Capability */
+   stat = asn1PE_UMTS_PDCP_Capability(ctx, &pvalue->pdcp_Capability);
+   RT_CHECK(ctx, stat, 0, "pdcp-Capability", -1, "UE-RadioAccessCapability");
+   /* rlc-Capability */
+   stat = asn1PE_UMTS_RLC_Capability(ctx, &pvalue->rlc_Capability);
+   RT_CHECK(ctx, stat, 0, "rlc-Capability", -1, "UE-RadioAccessCapability");
+   /* transportChannelCapability */
+   stat = asn1PE_UMTS_TransportChannelCapability(ctx, &pvalue->transportChannelCapability);
+   RT_CHECK(ctx, stat, 0, "transportChannelCapability", -1, "UE-RadioAccessCapability");
+   /* rf-Capability */
+   stat = asn1PE_UMTS_RF_Capability(ctx, &pvalue->rf_Capability);
+   RT_CHECK(ctx, stat, 0, "rf-Capability", -1, "UE-RadioAccessCapability");
+   /* physicalChannelCapability */
+   stat = asn1PE_UMTS_PhysicalChannelCapability(ctx, &pvalue->physicalChannelCapability);
+   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapability");
+   /* ue-MultiModeRAT-Capability */
+   stat = asn1PE_UMTS_UE_MultiModeRAT_Capability(ctx, &pvalue->ue_MultiModeRAT_Capability);
+   RT_CHECK(ctx, stat, 0, "ue-MultiModeRAT-Capability", -1, "UE-RadioAccessCapability");
+   /* securityCapability */
+   stat = asn1PE_UMTS_SecurityCapability(ctx, &pvalue->securityCapability);
+   RT_CHECK(ctx, stat, 0, "securityCapability", -1, "UE-RadioAccessCapability");
+   /* ue-positioning-Capability */
+   stat = asn1PE_UMTS_UE_Positioning_Capability(ctx, &pvalue->ue_positioning_Capability);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-Capability", -1, "UE-RadioAccessCapability");
+   /* measurementCapability */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "gANSS-Id");
-      if (pvalue->gANSS_Id > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->gANSS_Id);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->gANSS_Id, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* gANSS-Mode */
-   rtxCtxtPushElemName(ctx, "gANSS-Mode");
-   rtxCtxtPushTypeName(ctx, "GANSS-Mode");
-   if (pvalue->gANSS_Mode > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->gANSS_Mode);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->gANSS_Mode, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* gANSS-SignalId */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "gANSS-SignalId");
-      rtxCtxtPushTypeName(ctx, "GANSS-Signal-Id");
-      if ((uint64_t)pvalue->gANSS_SignalId > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->gANSS_SignalId);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->gANSS_SignalId, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportForUE-GANSS-TimingOfCellFrames */
-   rtxCtxtPushElemName(ctx, "supportForUE-GANSS-TimingOfCellFrames");
-   stat = rtxEncBit(ctx, pvalue->supportForUE_GANSS_TimingOfCellFrames);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* supportForUE-GANSS-CarrierPhaseMeasurement */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "supportForUE-GANSS-CarrierPhaseMeasurement");
-      stat = rtxEncBit(ctx, pvalue->supportForUE_GANSS_CarrierPhaseMeasurement);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_MeasurementCapability(ctx, &pvalue->measurementCapability);
+      RT_CHECK(ctx, stat, 0, "measurementCapability", -1, "UE-RadioAccessCapability");
    }
    return 0;
 }
 
-int asn1PE_UMTS_NetworkAssistedGANSS_Supported_List(rtxContext* ctx, const NetworkAssistedGANSS_Supported_List* pvalue)
+int asn1PE_UMTS_UE_RadioAccessCapabBandFDD_fddRF_Capability(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDD_fddRF_Capability* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ue-PowerClass */
+   if (pvalue->ue_PowerClass > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->ue_PowerClass);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "UE-PowerClassExt", "ue-PowerClass", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ue_PowerClass, 0, 7);
+   RT_CHECK(ctx, stat, "UE-PowerClassExt", "ue-PowerClass", -1, 0);
+   /* txRxFrequencySeparation */
+   if (pvalue->txRxFrequencySeparation > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->txRxFrequencySeparation);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TxRxFrequencySeparation", "txRxFrequencySeparation", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->txRxFrequencySeparation, 0, 2);
+   RT_CHECK(ctx, stat, "TxRxFrequencySeparation", "txRxFrequencySeparation", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabBandFDD(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDD* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabBandFDD");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDD");
+   /* radioFrequencyBandFDD */
+   if (pvalue->radioFrequencyBandFDD > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandFDD);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "UE-RadioAccessCapabBandFDD");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandFDD, 0, 7);
+   RT_CHECK(ctx, stat, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "UE-RadioAccessCapabBandFDD");
+   /* fddRF-Capability */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapabBandFDD_fddRF_Capability(ctx, &pvalue->fddRF_Capability);
+      RT_CHECK(ctx, stat, 0, "fddRF-Capability", -1, "UE-RadioAccessCapabBandFDD");
+   }
+   /* measurementCapability */
+   stat = asn1PE_UMTS_MeasurementCapabilityExt(ctx, &pvalue->measurementCapability);
+   RT_CHECK(ctx, stat, 0, "measurementCapability", -1, "UE-RadioAccessCapabBandFDD");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabBandFDDList(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDDList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabBandFDDList");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NetworkAssistedGANSS-Supported-List");
    RT_SET_SIZE(ctx, 1, 8);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDDList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_NetworkAssistedGANSS_Supported_List_element(ctx, (const NetworkAssistedGANSS_Supported_List_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UE-RadioAccessCapabBandFDD", (int32_t)i, "UE-RadioAccessCapabBandFDDList");
+      stat = asn1PE_UMTS_UE_RadioAccessCapabBandFDD(ctx, (const UE_RadioAccessCapabBandFDD*)node->data);
+      RT_CHECK(ctx, stat, 0, "UE-RadioAccessCapabBandFDD", (int32_t)i, "UE-RadioAccessCapabBandFDDList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_NetworkAssistedGANSS_Supported_List_v860ext_element_non_native_AD_choices_supported(rtxContext* ctx, NetworkAssistedGANSS_Supported_List_v860ext_element_non_native_AD_choices_supported value)
+int asn1PE_UMTS_UE_RadioAccessCapability_v370ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v370ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v370ext");
+   /* ue-RadioAccessCapabBandFDDList */
+   stat = asn1PE_UMTS_UE_RadioAccessCapabBandFDDList(ctx, &pvalue->ue_RadioAccessCapabBandFDDList);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabBandFDDList", -1, "UE-RadioAccessCapability-v370ext");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityInfo(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabilityInfo");
+   /* ue-RadioAccessCapability */
+   stat = asn1PE_UMTS_UE_RadioAccessCapability(ctx, &pvalue->ue_RadioAccessCapability);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "UE-RadioAccessCapabilityInfo");
+   /* ue-RadioAccessCapability-v370ext */
+   stat = asn1PE_UMTS_UE_RadioAccessCapability_v370ext(ctx, &pvalue->ue_RadioAccessCapability_v370ext);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v370ext", -1, "UE-RadioAccessCapabilityInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_PositioningCapabilityExt_v380(rtxContext* RT_RESTRICT ctx, const UE_PositioningCapabilityExt_v380* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-PositioningCapabilityExt-v380");
+   /* rx-tx-TimeDifferenceType2Capable */
+   stat = rtxEncBit(ctx, pvalue->rx_tx_TimeDifferenceType2Capable);
+   RT_CHECK(ctx, stat, 0, "rx-tx-TimeDifferenceType2Capable", -1, "UE-PositioningCapabilityExt-v380");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v380ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v380ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v380ext");
+   /* ue-PositioningCapabilityExt-v380 */
+   stat = asn1PE_UMTS_UE_PositioningCapabilityExt_v380(ctx, &pvalue->ue_PositioningCapabilityExt_v380);
+   RT_CHECK(ctx, stat, 0, "ue-PositioningCapabilityExt-v380", -1, "UE-RadioAccessCapability-v380ext");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_PositioningCapabilityExt_v3a0_validity_CellPCH_UraPCH(rtxContext* RT_RESTRICT ctx, UE_PositioningCapabilityExt_v3a0_validity_CellPCH_UraPCH value)
 {
    int stat = 0;
    if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_NetworkAssistedGANSS_Supported_List_v860ext_element(rtxContext* ctx, const NetworkAssistedGANSS_Supported_List_v860ext_element* pvalue)
+int asn1PE_UMTS_UE_PositioningCapabilityExt_v3a0(rtxContext* RT_RESTRICT ctx, const UE_PositioningCapabilityExt_v3a0* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-PositioningCapabilityExt-v3a0");
+   /* validity-CellPCH-UraPCH */
+   if (pvalue->validity_CellPCH_UraPCH > 0) {
+      rtxErrAddUIntParm(ctx, pvalue->validity_CellPCH_UraPCH);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "validity-CellPCH-UraPCH", -1, "UE-PositioningCapabilityExt-v3a0");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->validity_CellPCH_UraPCH, 0, 0);
+   RT_CHECK(ctx, stat, 0, "validity-CellPCH-UraPCH", -1, "UE-PositioningCapabilityExt-v3a0");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v3a0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v3a0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v3a0ext");
+   /* ue-PositioningCapabilityExt-v3a0 */
+   stat = asn1PE_UMTS_UE_PositioningCapabilityExt_v3a0(ctx, &pvalue->ue_PositioningCapabilityExt_v3a0);
+   RT_CHECK(ctx, stat, 0, "ue-PositioningCapabilityExt-v3a0", -1, "UE-RadioAccessCapability-v3a0ext");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_PositioningCapabilityExt_v3g0_sfn_sfnType2Capability(rtxContext* RT_RESTRICT ctx, UE_PositioningCapabilityExt_v3g0_sfn_sfnType2Capability value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_PositioningCapabilityExt_v3g0(rtxContext* RT_RESTRICT ctx, const UE_PositioningCapabilityExt_v3g0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-PositioningCapabilityExt-v3g0");
+   /* sfn-sfnType2Capability */
+   if (pvalue->sfn_sfnType2Capability > 0) {
+      rtxErrAddUIntParm(ctx, pvalue->sfn_sfnType2Capability);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "sfn-sfnType2Capability", -1, "UE-PositioningCapabilityExt-v3g0");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->sfn_sfnType2Capability, 0, 0);
+   RT_CHECK(ctx, stat, 0, "sfn-sfnType2Capability", -1, "UE-PositioningCapabilityExt-v3g0");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v3g0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v3g0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v3g0ext");
+   /* ue-PositioningCapabilityExt-v3g0 */
+   stat = asn1PE_UMTS_UE_PositioningCapabilityExt_v3g0(ctx, &pvalue->ue_PositioningCapabilityExt_v3g0);
+   RT_CHECK(ctx, stat, 0, "ue-PositioningCapabilityExt-v3g0", -1, "UE-RadioAccessCapability-v3g0ext");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabBandFDD2_fddRF_Capability(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDD2_fddRF_Capability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ue-PowerClass */
+   if (pvalue->ue_PowerClass > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->ue_PowerClass);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "UE-PowerClassExt", "ue-PowerClass", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ue_PowerClass, 0, 7);
+   RT_CHECK(ctx, stat, "UE-PowerClassExt", "ue-PowerClass", -1, 0);
+   /* txRxFrequencySeparation */
+   if (pvalue->txRxFrequencySeparation > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->txRxFrequencySeparation);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TxRxFrequencySeparation", "txRxFrequencySeparation", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->txRxFrequencySeparation, 0, 2);
+   RT_CHECK(ctx, stat, "TxRxFrequencySeparation", "txRxFrequencySeparation", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabBandFDD2(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDD2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabBandFDD2");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDD2");
+   /* radioFrequencyBandFDD2 */
+   if (pvalue->radioFrequencyBandFDD2 > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandFDD2);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandFDD2", "radioFrequencyBandFDD2", -1, "UE-RadioAccessCapabBandFDD2");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandFDD2, 0, 15);
+   RT_CHECK(ctx, stat, "RadioFrequencyBandFDD2", "radioFrequencyBandFDD2", -1, "UE-RadioAccessCapabBandFDD2");
+   /* fddRF-Capability */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapabBandFDD2_fddRF_Capability(ctx, &pvalue->fddRF_Capability);
+      RT_CHECK(ctx, stat, 0, "fddRF-Capability", -1, "UE-RadioAccessCapabBandFDD2");
+   }
+   /* measurementCapability2 */
+   stat = asn1PE_UMTS_MeasurementCapabilityExt2(ctx, &pvalue->measurementCapability2);
+   RT_CHECK(ctx, stat, 0, "measurementCapability2", -1, "UE-RadioAccessCapabBandFDD2");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabBandFDDList2(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDDList2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabBandFDDList2");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDDList2");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UE-RadioAccessCapabBandFDD2", (int32_t)i, "UE-RadioAccessCapabBandFDDList2");
+      stat = asn1PE_UMTS_UE_RadioAccessCapabBandFDD2(ctx, (const UE_RadioAccessCapabBandFDD2*)node->data);
+      RT_CHECK(ctx, stat, 0, "UE-RadioAccessCapabBandFDD2", (int32_t)i, "UE-RadioAccessCapabBandFDDList2");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabBandFDD_ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDD_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabBandFDD-ext");
+   /* radioFrequencyBandFDD */
+   if (pvalue->radioFrequencyBandFDD > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandFDD);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "UE-RadioAccessCapabBandFDD-ext");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandFDD, 0, 7);
+   RT_CHECK(ctx, stat, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "UE-RadioAccessCapabBandFDD-ext");
+   /* compressedModeMeasCapabFDDList-ext */
+   stat = asn1PE_UMTS_CompressedModeMeasCapabFDDList_ext(ctx, &pvalue->compressedModeMeasCapabFDDList_ext);
+   RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabFDDList-ext", -1, "UE-RadioAccessCapabBandFDD-ext");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabBandFDDList_ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDDList_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabBandFDDList-ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDDList-ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UE-RadioAccessCapabBandFDD-ext", (int32_t)i, "UE-RadioAccessCapabBandFDDList-ext");
+      stat = asn1PE_UMTS_UE_RadioAccessCapabBandFDD_ext(ctx, (const UE_RadioAccessCapabBandFDD_ext*)node->data);
+      RT_CHECK(ctx, stat, 0, "UE-RadioAccessCapabBandFDD-ext", (int32_t)i, "UE-RadioAccessCapabBandFDDList-ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v650ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v650ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v650ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v650ext");
+   /* ue-RadioAccessCapabBandFDDList2 */
+   stat = asn1PE_UMTS_UE_RadioAccessCapabBandFDDList2(ctx, &pvalue->ue_RadioAccessCapabBandFDDList2);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabBandFDDList2", -1, "UE-RadioAccessCapability-v650ext");
+   /* ue-RadioAccessCapabBandFDDList-ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapabBandFDDList_ext(ctx, &pvalue->ue_RadioAccessCapabBandFDDList_ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabBandFDDList-ext", -1, "UE-RadioAccessCapability-v650ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v7e0ext_supportForTwoDRXSchemesInPCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7e0ext_supportForTwoDRXSchemesInPCH value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v7e0ext_supportEDPDCHPowerInterpolation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7e0ext_supportEDPDCHPowerInterpolation value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v7e0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v7e0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v7e0ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v7e0ext");
+   /* supportForTwoDRXSchemesInPCH */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportForTwoDRXSchemesInPCH > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportForTwoDRXSchemesInPCH);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportForTwoDRXSchemesInPCH", -1, "UE-RadioAccessCapability-v7e0ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportForTwoDRXSchemesInPCH, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportForTwoDRXSchemesInPCH", -1, "UE-RadioAccessCapability-v7e0ext");
+   }
+   /* supportEDPDCHPowerInterpolation */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->supportEDPDCHPowerInterpolation > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportEDPDCHPowerInterpolation);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportEDPDCHPowerInterpolation", -1, "UE-RadioAccessCapability-v7e0ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportEDPDCHPowerInterpolation, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportEDPDCHPowerInterpolation", -1, "UE-RadioAccessCapability-v7e0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v7f0ext_supportofTxDivOnNonMIMOChannel(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7f0ext_supportofTxDivOnNonMIMOChannel value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp_TDD128_v7f0ext_supportForCSVoiceoverHSPA(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_v7f0ext_supportForCSVoiceoverHSPA value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp_TDD128_v7f0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp_TDD128_v7f0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+   /* hSDSCH-physical-layer-category */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->hSDSCH_physical_layer_category - 1) > 63u) {
+         rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category");
+         rtxErrAddUIntParm(ctx, pvalue->hSDSCH_physical_layer_category);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category", "hSDSCH-physical-layer-category", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->hSDSCH_physical_layer_category, 1, 64);
+      RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category", "hSDSCH-physical-layer-category", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+   }
+   /* multiCarrier-physical-layer-category */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)(pvalue->multiCarrier_physical_layer_category - 1) > 63u) {
+         rtxErrAddStrParm(ctx, "MultiCarrier-HSDSCH-physical-layer-category");
+         rtxErrAddUIntParm(ctx, pvalue->multiCarrier_physical_layer_category);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MultiCarrier-HSDSCH-physical-layer-category", "multiCarrier-physical-layer-category", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->multiCarrier_physical_layer_category, 1, 64);
+      RT_CHECK(ctx, stat, "MultiCarrier-HSDSCH-physical-layer-category", "multiCarrier-physical-layer-category", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+   }
+   /* tdd-edch-PhysicalLayerCategory */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)(pvalue->tdd_edch_PhysicalLayerCategory - 1) > 5u) {
+         rtxErrAddStrParm(ctx, "tdd-edch-PhysicalLayerCategory");
+         rtxErrAddUIntParm(ctx, pvalue->tdd_edch_PhysicalLayerCategory);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "tdd-edch-PhysicalLayerCategory", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->tdd_edch_PhysicalLayerCategory, 1, 6);
+      RT_CHECK(ctx, stat, 0, "tdd-edch-PhysicalLayerCategory", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+   }
+   /* dl-CapabilityWithSimultaneousHS-DSCHConfig */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "DL-CapabilityWithSimultaneousHS-DSCHConfig", "dl-CapabilityWithSimultaneousHS-DSCHConfig", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig, 0, 3);
+      RT_CHECK(ctx, stat, "DL-CapabilityWithSimultaneousHS-DSCHConfig", "dl-CapabilityWithSimultaneousHS-DSCHConfig", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+   }
+   /* supportForCSVoiceoverHSPA */
+   if (pvalue->m & 0x10u) {
+      if (pvalue->supportForCSVoiceoverHSPA > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportForCSVoiceoverHSPA);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportForCSVoiceoverHSPA", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportForCSVoiceoverHSPA, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportForCSVoiceoverHSPA", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+   }
+   /* totalRLC-AM-BufferSize */
+   if (pvalue->m & 0x20u) {
+      if (pvalue->totalRLC_AM_BufferSize > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->totalRLC_AM_BufferSize);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TotalRLC-AM-BufferSize-r5-ext", "totalRLC-AM-BufferSize", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->totalRLC_AM_BufferSize, 0, 3);
+      RT_CHECK(ctx, stat, "TotalRLC-AM-BufferSize-r5-ext", "totalRLC-AM-BufferSize", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v7f0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v7f0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v7f0ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* sbas-Ids */
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v7f0ext");
+   /* supportofTxDivOnNonMIMOChannel */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sbas-Ids");
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pe_BitString32(ctx, &pvalue->sbas_Ids, 8, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* gANSS-SignalIds */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "gANSS-SignalIds");
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pe_BitString32(ctx, &pvalue->gANSS_SignalIds, 8, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* non-native-AD-choices-supported */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "non-native-AD-choices-supported");
-      if (pvalue->non_native_AD_choices_supported > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->non_native_AD_choices_supported);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+      if (pvalue->supportofTxDivOnNonMIMOChannel > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportofTxDivOnNonMIMOChannel);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportofTxDivOnNonMIMOChannel", -1, "UE-RadioAccessCapability-v7f0ext");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->non_native_AD_choices_supported, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->supportofTxDivOnNonMIMOChannel, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportofTxDivOnNonMIMOChannel", -1, "UE-RadioAccessCapability-v7f0ext");
+   }
+   /* physicalChannelCapability-LCR */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_PhysicalChannelCapability_LCR_r4(ctx, &pvalue->physicalChannelCapability_LCR);
+      RT_CHECK(ctx, stat, 0, "physicalChannelCapability-LCR", -1, "UE-RadioAccessCapability-v7f0ext");
+   }
+   /* ue-RadioAccessCapabilityComp-TDD128 */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapabilityComp_TDD128_v7f0ext(ctx, &pvalue->ue_RadioAccessCapabilityComp_TDD128);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityComp-TDD128", -1, "UE-RadioAccessCapability-v7f0ext");
    }
    return 0;
 }
 
-int asn1PE_UMTS_NetworkAssistedGANSS_Supported_List_v860ext(rtxContext* ctx, const NetworkAssistedGANSS_Supported_List_v860ext* pvalue)
+int asn1PE_UMTS_UE_RadioAccessCapabilityInfo_v770ext_ganssSupportIndication(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityInfo_v770ext_ganssSupportIndication value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NetworkAssistedGANSS-Supported-List-v860ext");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_NetworkAssistedGANSS_Supported_List_v860ext_element(ctx, (const NetworkAssistedGANSS_Supported_List_v860ext_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_NetworkAssistedGPS_Supported(rtxContext* ctx, NetworkAssistedGPS_Supported value)
+int asn1PE_UMTS_UE_RadioAccessCapabilityInfo_v770ext_mac_ehsSupport(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityInfo_v770ext_mac_ehsSupport value)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "NetworkAssistedGPS-Supported");
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityInfo_v770ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityInfo_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabilityInfo-v770ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabilityInfo-v770ext");
+   /* rf-Capability */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RF_Capability_v770ext(ctx, &pvalue->rf_Capability);
+      RT_CHECK(ctx, stat, 0, "rf-Capability", -1, "UE-RadioAccessCapabilityInfo-v770ext");
+   }
+   /* physicalChannelCapability */
+   stat = asn1PE_UMTS_PhysicalChannelCapabilityInfo_v770ext(ctx, &pvalue->physicalChannelCapability);
+   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapabilityInfo-v770ext");
+   /* ganssSupportIndication */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->ganssSupportIndication > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->ganssSupportIndication);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "ganssSupportIndication", -1, "UE-RadioAccessCapabilityInfo-v770ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ganssSupportIndication, 0, 0);
+      RT_CHECK(ctx, stat, 0, "ganssSupportIndication", -1, "UE-RadioAccessCapabilityInfo-v770ext");
+   }
+   /* mac-ehsSupport */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->mac_ehsSupport > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mac_ehsSupport);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "mac-ehsSupport", -1, "UE-RadioAccessCapabilityInfo-v770ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mac_ehsSupport, 0, 0);
+      RT_CHECK(ctx, stat, 0, "mac-ehsSupport", -1, "UE-RadioAccessCapabilityInfo-v770ext");
+   }
+   /* ue-SpecificCapabilityInformation */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->ue_SpecificCapabilityInformation > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->ue_SpecificCapabilityInformation);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "UE-SpecificCapabilityInformation-LCRTDD", "ue-SpecificCapabilityInformation", -1, "UE-RadioAccessCapabilityInfo-v770ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ue_SpecificCapabilityInformation, 0, 15);
+      RT_CHECK(ctx, stat, "UE-SpecificCapabilityInformation-LCRTDD", "ue-SpecificCapabilityInformation", -1, "UE-RadioAccessCapabilityInfo-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v860ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v860ext");
+   /* ue-RadioAccessCapabBandFDDList3 */
+   stat = asn1PE_UMTS_UE_RadioAccessCapabBandFDDList3(ctx, &pvalue->ue_RadioAccessCapabBandFDDList3);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabBandFDDList3", -1, "UE-RadioAccessCapability-v860ext");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v880ext_supportForPriorityReselectionInUTRAN(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v880ext_supportForPriorityReselectionInUTRAN value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v880ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v880ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v880ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v880ext");
+   /* supportForPriorityReselectionInUTRAN */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportForPriorityReselectionInUTRAN > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportForPriorityReselectionInUTRAN);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportForPriorityReselectionInUTRAN", -1, "UE-RadioAccessCapability-v880ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportForPriorityReselectionInUTRAN, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportForPriorityReselectionInUTRAN", -1, "UE-RadioAccessCapability-v880ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v890ext_supportCellSpecificTxDiversityinDC_Operation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v890ext_supportCellSpecificTxDiversityinDC_Operation value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v890ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v890ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v890ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v890ext");
+   /* supportCellSpecificTxDiversityinDC-Operation */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportCellSpecificTxDiversityinDC_Operation > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportCellSpecificTxDiversityinDC_Operation);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportCellSpecificTxDiversityinDC-Operation", -1, "UE-RadioAccessCapability-v890ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportCellSpecificTxDiversityinDC_Operation, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportCellSpecificTxDiversityinDC-Operation", -1, "UE-RadioAccessCapability-v890ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v920ext_supportOfenhancedTS0(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v920ext_supportOfenhancedTS0 value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v920ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v920ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v920ext");
+   /* supportOfenhancedTS0 */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportOfenhancedTS0 > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfenhancedTS0);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfenhancedTS0", -1, "UE-RadioAccessCapability-v920ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfenhancedTS0, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportOfenhancedTS0", -1, "UE-RadioAccessCapability-v920ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v4b0ext_tdd_CapabilityExt(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v4b0ext_tdd_CapabilityExt* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* rf-Capability */
+   stat = asn1PE_UMTS_RF_Capability_r4_ext(ctx, &pvalue->rf_Capability);
+   RT_CHECK(ctx, stat, 0, "rf-Capability", -1, 0);
+   /* physicalChannelCapability-LCR */
+   stat = asn1PE_UMTS_PhysicalChannelCapability_LCR_r4(ctx, &pvalue->physicalChannelCapability_LCR);
+   RT_CHECK(ctx, stat, 0, "physicalChannelCapability-LCR", -1, 0);
+   /* measurementCapability-r4-ext */
+   stat = asn1PE_UMTS_MeasurementCapability_r4_ext(ctx, &pvalue->measurementCapability_r4_ext);
+   RT_CHECK(ctx, stat, 0, "measurementCapability-r4-ext", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v4b0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v4b0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v4b0ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v4b0ext");
+   /* pdcp-Capability-r4-ext */
+   stat = asn1PE_UMTS_PDCP_Capability_r4_ext(ctx, &pvalue->pdcp_Capability_r4_ext);
+   RT_CHECK(ctx, stat, 0, "pdcp-Capability-r4-ext", -1, "UE-RadioAccessCapability-v4b0ext");
+   /* tdd-CapabilityExt */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapability_v4b0ext_tdd_CapabilityExt(ctx, &pvalue->tdd_CapabilityExt);
+      RT_CHECK(ctx, stat, 0, "tdd-CapabilityExt", -1, "UE-RadioAccessCapability-v4b0ext");
+   }
+   /* accessStratumReleaseIndicator */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->accessStratumReleaseIndicator > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->accessStratumReleaseIndicator);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "AccessStratumReleaseIndicator", "accessStratumReleaseIndicator", -1, "UE-RadioAccessCapability-v4b0ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->accessStratumReleaseIndicator, 0, 15);
+      RT_CHECK(ctx, stat, "AccessStratumReleaseIndicator", "accessStratumReleaseIndicator", -1, "UE-RadioAccessCapability-v4b0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RF_CapabBandFDDComp(rtxContext* RT_RESTRICT ctx, RF_CapabBandFDDComp value)
+{
+   int stat = 0;
    if (value > 3) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "RF-CapabBandFDDComp");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RF-CapabBandFDDComp");
    return 0;
 }
 
-int asn1PE_UMTS_PagingCause(rtxContext* ctx, PagingCause value)
+int asn1PE_UMTS_RF_CapabBandListFDDComp(rtxContext* RT_RESTRICT ctx, const RF_CapabBandListFDDComp* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PagingCause");
-   if (value > 7) {
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RF-CapabBandListFDDComp");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RF-CapabBandListFDDComp");
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "RF-CapabBandFDDComp", "RF-CapabBandFDDComp", (int32_t)i, "RF-CapabBandListFDDComp");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 3);
+      RT_CHECK(ctx, stat, "RF-CapabBandFDDComp", "RF-CapabBandFDDComp", (int32_t)i, "RF-CapabBandListFDDComp");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RF_CapabilityComp_fdd(rtxContext* RT_RESTRICT ctx, const RF_CapabilityComp_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "supported", -1, 0);
+         stat = asn1PE_UMTS_RF_CapabBandListFDDComp(ctx, pvalue->u.supported);
+         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RF_CapabilityComp_tdd384_RF_Capability(rtxContext* RT_RESTRICT ctx, const RF_CapabilityComp_tdd384_RF_Capability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.supported > 7) {
+            rtxErrAddUIntParm(ctx, pvalue->u.supported);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandTDDList", "supported", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.supported, 0, 7);
+         RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList", "supported", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RF_CapabilityComp_tdd128_RF_Capability(rtxContext* RT_RESTRICT ctx, const RF_CapabilityComp_tdd128_RF_Capability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.supported > 7) {
+            rtxErrAddUIntParm(ctx, pvalue->u.supported);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandTDDList", "supported", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.supported, 0, 7);
+         RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList", "supported", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RF_CapabilityComp(rtxContext* RT_RESTRICT ctx, const RF_CapabilityComp* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RF-CapabilityComp");
+   /* fdd */
+   stat = asn1PE_UMTS_RF_CapabilityComp_fdd(ctx, &pvalue->fdd);
+   RT_CHECK(ctx, stat, 0, "fdd", -1, "RF-CapabilityComp");
+   /* tdd384-RF-Capability */
+   stat = asn1PE_UMTS_RF_CapabilityComp_tdd384_RF_Capability(ctx, &pvalue->tdd384_RF_Capability);
+   RT_CHECK(ctx, stat, 0, "tdd384-RF-Capability", -1, "RF-CapabilityComp");
+   /* tdd128-RF-Capability */
+   stat = asn1PE_UMTS_RF_CapabilityComp_tdd128_RF_Capability(ctx, &pvalue->tdd128_RF_Capability);
+   RT_CHECK(ctx, stat, 0, "tdd128-RF-Capability", -1, "RF-CapabilityComp");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabilityComp");
+   /* totalAM-RLCMemoryExceeds10kB */
+   stat = rtxEncBit(ctx, pvalue->totalAM_RLCMemoryExceeds10kB);
+   RT_CHECK(ctx, stat, 0, "totalAM-RLCMemoryExceeds10kB", -1, "UE-RadioAccessCapabilityComp");
+   /* rf-CapabilityComp */
+   stat = asn1PE_UMTS_RF_CapabilityComp(ctx, &pvalue->rf_CapabilityComp);
+   RT_CHECK(ctx, stat, 0, "rf-CapabilityComp", -1, "UE-RadioAccessCapabilityComp");
+   return 0;
+}
+
+int asn1PE_UMTS_RF_CapabBandListFDDComp_ext(rtxContext* RT_RESTRICT ctx, const RF_CapabBandListFDDComp_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RF-CapabBandListFDDComp-ext");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 15);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RF-CapabBandListFDDComp-ext");
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "RF-CapabBandFDDComp", "RF-CapabBandFDDComp", (int32_t)i, "RF-CapabBandListFDDComp-ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 3);
+      RT_CHECK(ctx, stat, "RF-CapabBandFDDComp", "RF-CapabBandFDDComp", (int32_t)i, "RF-CapabBandListFDDComp-ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp_ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabilityComp-ext");
+   /* rf-CapabilityFDDComp */
+   stat = asn1PE_UMTS_RF_CapabBandListFDDComp_ext(ctx, &pvalue->rf_CapabilityFDDComp);
+   RT_CHECK(ctx, stat, 0, "rf-CapabilityFDDComp", -1, "UE-RadioAccessCapabilityComp-ext");
+   return 0;
+}
+
+int asn1PE_UMTS_RF_CapabilityComp_v770ext_tdd768_RF_Capability(rtxContext* RT_RESTRICT ctx, const RF_CapabilityComp_v770ext_tdd768_RF_Capability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.supported > 15) {
+            rtxErrAddUIntParm(ctx, pvalue->u.supported);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandTDDList-r7", "supported", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.supported, 0, 15);
+         RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList-r7", "supported", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RF_CapabilityComp_v770ext(rtxContext* RT_RESTRICT ctx, const RF_CapabilityComp_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RF-CapabilityComp-v770ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RF-CapabilityComp-v770ext");
+   /* tdd384-RF-Capability */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->tdd384_RF_Capability > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->tdd384_RF_Capability);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandTDDList-r7", "tdd384-RF-Capability", -1, "RF-CapabilityComp-v770ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->tdd384_RF_Capability, 0, 15);
+      RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList-r7", "tdd384-RF-Capability", -1, "RF-CapabilityComp-v770ext");
+   }
+   /* tdd768-RF-Capability */
+   stat = asn1PE_UMTS_RF_CapabilityComp_v770ext_tdd768_RF_Capability(ctx, &pvalue->tdd768_RF_Capability);
+   RT_CHECK(ctx, stat, 0, "tdd768-RF-Capability", -1, "RF-CapabilityComp-v770ext");
+   /* tdd128-RF-Capability */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->tdd128_RF_Capability > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->tdd128_RF_Capability);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandTDDList-r7", "tdd128-RF-Capability", -1, "RF-CapabilityComp-v770ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->tdd128_RF_Capability, 0, 15);
+      RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList-r7", "tdd128-RF-Capability", -1, "RF-CapabilityComp-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp_v770ext_securityCapabilityIndication(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_v770ext_securityCapabilityIndication value)
+{
+   int stat = 0;
+   if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp_v770ext_ganssSupportIndication(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_v770ext_ganssSupportIndication value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp_v770ext_mac_ehsSupport(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_v770ext_mac_ehsSupport value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp_v770ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabilityComp-v770ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp-v770ext");
+   /* rf-CapabilityComp */
+   stat = asn1PE_UMTS_RF_CapabilityComp_v770ext(ctx, &pvalue->rf_CapabilityComp);
+   RT_CHECK(ctx, stat, 0, "rf-CapabilityComp", -1, "UE-RadioAccessCapabilityComp-v770ext");
+   /* securityCapabilityIndication */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->securityCapabilityIndication > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->securityCapabilityIndication);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "securityCapabilityIndication", -1, "UE-RadioAccessCapabilityComp-v770ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->securityCapabilityIndication, 0, 0);
+      RT_CHECK(ctx, stat, 0, "securityCapabilityIndication", -1, "UE-RadioAccessCapabilityComp-v770ext");
+   }
+   /* ganssSupportIndication */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->ganssSupportIndication > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->ganssSupportIndication);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "ganssSupportIndication", -1, "UE-RadioAccessCapabilityComp-v770ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ganssSupportIndication, 0, 0);
+      RT_CHECK(ctx, stat, 0, "ganssSupportIndication", -1, "UE-RadioAccessCapabilityComp-v770ext");
+   }
+   /* mac-ehsSupport */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->mac_ehsSupport > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mac_ehsSupport);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "mac-ehsSupport", -1, "UE-RadioAccessCapabilityComp-v770ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mac_ehsSupport, 0, 0);
+      RT_CHECK(ctx, stat, 0, "mac-ehsSupport", -1, "UE-RadioAccessCapabilityComp-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_fddPhysicalChannelCapab_hspdsch_edch(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp2_fddPhysicalChannelCapab_hspdsch_edch* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-CapabilityWithSimultaneousHS-DSCHConfig */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "DL-CapabilityWithSimultaneousHS-DSCHConfig", "dl-CapabilityWithSimultaneousHS-DSCHConfig", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig, 0, 3);
+      RT_CHECK(ctx, stat, "DL-CapabilityWithSimultaneousHS-DSCHConfig", "dl-CapabilityWithSimultaneousHS-DSCHConfig", -1, 0);
+   }
+   /* physicalChannelCapabComp-hspdsch-r6 */
+   if ((uint64_t)(pvalue->physicalChannelCapabComp_hspdsch_r6 - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category");
+      rtxErrAddUIntParm(ctx, pvalue->physicalChannelCapabComp_hspdsch_r6);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category", "physicalChannelCapabComp-hspdsch-r6", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->physicalChannelCapabComp_hspdsch_r6, 1, 64);
+   RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category", "physicalChannelCapabComp-hspdsch-r6", -1, 0);
+   /* physicalChannelCapability-edch-r6 */
+   stat = asn1PE_UMTS_PhysicalChannelCapability_edch_r6(ctx, &pvalue->physicalChannelCapability_edch_r6);
+   RT_CHECK(ctx, stat, 0, "physicalChannelCapability-edch-r6", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp2(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabilityComp2");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp2");
+   /* fddPhysicalChannelCapab-hspdsch-edch */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapabilityComp2_fddPhysicalChannelCapab_hspdsch_edch(ctx, &pvalue->fddPhysicalChannelCapab_hspdsch_edch);
+      RT_CHECK(ctx, stat, 0, "fddPhysicalChannelCapab-hspdsch-edch", -1, "UE-RadioAccessCapabilityComp2");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v770ext_hsscchlessHsdschOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_hsscchlessHsdschOperation value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v770ext_enhancedFdpch(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_enhancedFdpch value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellFach(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellFach value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellUraPch(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellUraPch value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v770ext_discontinuousDpcchTransmission(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_discontinuousDpcchTransmission value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v770ext_slotFormat4(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_slotFormat4 value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v770ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp2_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabilityComp2-v770ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 0), 9);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp2-v770ext");
+   /* hsdsch-physical-layer-category-ext */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->hsdsch_physical_layer_category_ext - 1) > 19u) {
+         rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category-ext");
+         rtxErrAddUIntParm(ctx, pvalue->hsdsch_physical_layer_category_ext);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category-ext", "hsdsch-physical-layer-category-ext", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->hsdsch_physical_layer_category_ext, 1, 20);
+      RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category-ext", "hsdsch-physical-layer-category-ext", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+   }
+   /* edch-PhysicalLayerCategory-extension */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)(pvalue->edch_PhysicalLayerCategory_extension - 7) > 0u) {
+         rtxErrAddStrParm(ctx, "edch-PhysicalLayerCategory-extension");
+         rtxErrAddUIntParm(ctx, pvalue->edch_PhysicalLayerCategory_extension);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "edch-PhysicalLayerCategory-extension", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->edch_PhysicalLayerCategory_extension, 7, 7);
+      RT_CHECK(ctx, stat, 0, "edch-PhysicalLayerCategory-extension", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+   }
+   /* hsscchlessHsdschOperation */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->hsscchlessHsdschOperation > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->hsscchlessHsdschOperation);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "hsscchlessHsdschOperation", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->hsscchlessHsdschOperation, 0, 0);
+      RT_CHECK(ctx, stat, 0, "hsscchlessHsdschOperation", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+   }
+   /* enhancedFdpch */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->enhancedFdpch > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->enhancedFdpch);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "enhancedFdpch", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->enhancedFdpch, 0, 0);
+      RT_CHECK(ctx, stat, 0, "enhancedFdpch", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+   }
+   /* hsdschReception-CellFach */
+   if (pvalue->m & 0x10u) {
+      if (pvalue->hsdschReception_CellFach > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->hsdschReception_CellFach);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "hsdschReception-CellFach", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->hsdschReception_CellFach, 0, 0);
+      RT_CHECK(ctx, stat, 0, "hsdschReception-CellFach", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+   }
+   /* hsdschReception-CellUraPch */
+   if (pvalue->m & 0x20u) {
+      if (pvalue->hsdschReception_CellUraPch > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->hsdschReception_CellUraPch);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "hsdschReception-CellUraPch", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->hsdschReception_CellUraPch, 0, 0);
+      RT_CHECK(ctx, stat, 0, "hsdschReception-CellUraPch", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+   }
+   /* discontinuousDpcchTransmission */
+   if (pvalue->m & 0x40u) {
+      if (pvalue->discontinuousDpcchTransmission > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->discontinuousDpcchTransmission);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "discontinuousDpcchTransmission", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->discontinuousDpcchTransmission, 0, 0);
+      RT_CHECK(ctx, stat, 0, "discontinuousDpcchTransmission", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+   }
+   /* slotFormat4 */
+   if (pvalue->m & 0x80u) {
+      if (pvalue->slotFormat4 > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->slotFormat4);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "slotFormat4", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->slotFormat4, 0, 0);
+      RT_CHECK(ctx, stat, 0, "slotFormat4", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+   }
+   /* pdcp-Capability */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_PDCP_Capability_v770ext(ctx, &pvalue->pdcp_Capability);
+      RT_CHECK(ctx, stat, 0, "pdcp-Capability", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v7f0ext_supportofTxDivOnNonMIMOChannel(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v7f0ext_supportofTxDivOnNonMIMOChannel value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v7f0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp2_v7f0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabilityComp2-v7f0ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp2-v7f0ext");
+   /* supportofTxDivOnNonMIMOChannel */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportofTxDivOnNonMIMOChannel > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportofTxDivOnNonMIMOChannel);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportofTxDivOnNonMIMOChannel", -1, "UE-RadioAccessCapabilityComp2-v7f0ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportofTxDivOnNonMIMOChannel, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportofTxDivOnNonMIMOChannel", -1, "UE-RadioAccessCapabilityComp2-v7f0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v860ext_supportOfMACiis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v860ext_supportOfMACiis value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v860ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp2_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabilityComp2-v860ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp2-v860ext");
+   /* hsdsch-physical-layer-category-ext2 */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->hsdsch_physical_layer_category_ext2 - 21) > 3u) {
+         rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category-ext2");
+         rtxErrAddUIntParm(ctx, pvalue->hsdsch_physical_layer_category_ext2);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category-ext2", "hsdsch-physical-layer-category-ext2", -1, "UE-RadioAccessCapabilityComp2-v860ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->hsdsch_physical_layer_category_ext2, 21, 24);
+      RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category-ext2", "hsdsch-physical-layer-category-ext2", -1, "UE-RadioAccessCapabilityComp2-v860ext");
+   }
+   /* supportOfMACiis */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->supportOfMACiis > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfMACiis);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfMACiis", -1, "UE-RadioAccessCapabilityComp2-v860ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfMACiis, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportOfMACiis", -1, "UE-RadioAccessCapabilityComp2-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v920ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp2_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabilityComp2-v920ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp2-v920ext");
+   /* hsdsch-physical-layer-category-ext3 */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->hsdsch_physical_layer_category_ext3 - 25) > 3u) {
+         rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category-ext3");
+         rtxErrAddUIntParm(ctx, pvalue->hsdsch_physical_layer_category_ext3);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category-ext3", "hsdsch-physical-layer-category-ext3", -1, "UE-RadioAccessCapabilityComp2-v920ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->hsdsch_physical_layer_category_ext3, 25, 28);
+      RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category-ext3", "hsdsch-physical-layer-category-ext3", -1, "UE-RadioAccessCapabilityComp2-v920ext");
+   }
+   /* edch-PhysicalLayerCategory-extension2 */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)(pvalue->edch_PhysicalLayerCategory_extension2 - 8) > 1u) {
+         rtxErrAddStrParm(ctx, "edch-PhysicalLayerCategory-extension2");
+         rtxErrAddUIntParm(ctx, pvalue->edch_PhysicalLayerCategory_extension2);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "edch-PhysicalLayerCategory-extension2", -1, "UE-RadioAccessCapabilityComp2-v920ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->edch_PhysicalLayerCategory_extension2, 8, 9);
+      RT_CHECK(ctx, stat, 0, "edch-PhysicalLayerCategory-extension2", -1, "UE-RadioAccessCapabilityComp2-v920ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfSFModeForHSPDSCHDualStream(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfSFModeForHSPDSCHDualStream value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfCommonEDCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfCommonEDCH value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfMACiis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfMACiis value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfSPSOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfSPSOperation value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfControlChannelDRXOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfControlChannelDRXOperation value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp_TDD128(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp_TDD128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabilityComp-TDD128");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp-TDD128");
+   /* tdd128RF-Capability */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioFrequencyBandTDDextList(ctx, &pvalue->tdd128RF_Capability);
+      RT_CHECK(ctx, stat, 0, "tdd128RF-Capability", -1, "UE-RadioAccessCapabilityComp-TDD128");
+   }
+   /* supportOfSFModeForHSPDSCHDualStream */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->supportOfSFModeForHSPDSCHDualStream > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfSFModeForHSPDSCHDualStream);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfSFModeForHSPDSCHDualStream", -1, "UE-RadioAccessCapabilityComp-TDD128");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfSFModeForHSPDSCHDualStream, 0, 1);
+      RT_CHECK(ctx, stat, 0, "supportOfSFModeForHSPDSCHDualStream", -1, "UE-RadioAccessCapabilityComp-TDD128");
+   }
+   /* supportOfCommonEDCH */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->supportOfCommonEDCH > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfCommonEDCH);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfCommonEDCH", -1, "UE-RadioAccessCapabilityComp-TDD128");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfCommonEDCH, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportOfCommonEDCH", -1, "UE-RadioAccessCapabilityComp-TDD128");
+   }
+   /* supportOfMACiis */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->supportOfMACiis > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfMACiis);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfMACiis", -1, "UE-RadioAccessCapabilityComp-TDD128");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfMACiis, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportOfMACiis", -1, "UE-RadioAccessCapabilityComp-TDD128");
+   }
+   /* supportOfSPSOperation */
+   if (pvalue->m & 0x10u) {
+      if (pvalue->supportOfSPSOperation > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfSPSOperation);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfSPSOperation", -1, "UE-RadioAccessCapabilityComp-TDD128");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfSPSOperation, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportOfSPSOperation", -1, "UE-RadioAccessCapabilityComp-TDD128");
+   }
+   /* supportOfControlChannelDRXOperation */
+   if (pvalue->m & 0x20u) {
+      if (pvalue->supportOfControlChannelDRXOperation > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfControlChannelDRXOperation);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfControlChannelDRXOperation", -1, "UE-RadioAccessCapabilityComp-TDD128");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfControlChannelDRXOperation, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportOfControlChannelDRXOperation", -1, "UE-RadioAccessCapabilityComp-TDD128");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v590ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v590ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v590ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v590ext");
+   /* dl-CapabilityWithSimultaneousHS-DSCHConfig */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "DL-CapabilityWithSimultaneousHS-DSCHConfig", "dl-CapabilityWithSimultaneousHS-DSCHConfig", -1, "UE-RadioAccessCapability-v590ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig, 0, 3);
+      RT_CHECK(ctx, stat, "DL-CapabilityWithSimultaneousHS-DSCHConfig", "dl-CapabilityWithSimultaneousHS-DSCHConfig", -1, "UE-RadioAccessCapability-v590ext");
+   }
+   /* pdcp-Capability-r5-ext */
+   stat = asn1PE_UMTS_PDCP_Capability_r5_ext(ctx, &pvalue->pdcp_Capability_r5_ext);
+   RT_CHECK(ctx, stat, 0, "pdcp-Capability-r5-ext", -1, "UE-RadioAccessCapability-v590ext");
+   /* rlc-Capability-r5-ext */
+   stat = asn1PE_UMTS_RLC_Capability_r5_ext(ctx, &pvalue->rlc_Capability_r5_ext);
+   RT_CHECK(ctx, stat, 0, "rlc-Capability-r5-ext", -1, "UE-RadioAccessCapability-v590ext");
+   /* physicalChannelCapability */
+   stat = asn1PE_UMTS_PhysicalChannelCapability_hspdsch_r5(ctx, &pvalue->physicalChannelCapability);
+   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapability-v590ext");
+   /* multiModeRAT-Capability-v590ext */
+   stat = asn1PE_UMTS_MultiModeRAT_Capability_v590ext(ctx, &pvalue->multiModeRAT_Capability_v590ext);
+   RT_CHECK(ctx, stat, 0, "multiModeRAT-Capability-v590ext", -1, "UE-RadioAccessCapability-v590ext");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v5c0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v5c0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v5c0ext");
+   /* pdcp-Capability-r5-ext2 */
+   stat = asn1PE_UMTS_PDCP_Capability_r5_ext2(ctx, &pvalue->pdcp_Capability_r5_ext2);
+   RT_CHECK(ctx, stat, 0, "pdcp-Capability-r5-ext2", -1, "UE-RadioAccessCapability-v5c0ext");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v680ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v680ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v680ext");
+   /* multiModeRAT-Capability-v680ext */
+   stat = asn1PE_UMTS_MultiModeRAT_Capability_v680ext(ctx, &pvalue->multiModeRAT_Capability_v680ext);
+   RT_CHECK(ctx, stat, 0, "multiModeRAT-Capability-v680ext", -1, "UE-RadioAccessCapability-v680ext");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_PhysChCapabilityFDD_r6(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityFDD_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-PhysChCapabilityFDD-r6");
+   /* maxNoDPDCH-BitsTransmitted */
+   if (pvalue->maxNoDPDCH_BitsTransmitted > 9) {
+      rtxErrAddUIntParm(ctx, pvalue->maxNoDPDCH_BitsTransmitted);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNoDPDCH-BitsTransmitted", "maxNoDPDCH-BitsTransmitted", -1, "UL-PhysChCapabilityFDD-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxNoDPDCH_BitsTransmitted, 0, 9);
+   RT_CHECK(ctx, stat, "MaxNoDPDCH-BitsTransmitted", "maxNoDPDCH-BitsTransmitted", -1, "UL-PhysChCapabilityFDD-r6");
+   /* physicalchannelcapability-edch */
+   stat = asn1PE_UMTS_PhysicalChannelCapability_edch_r6(ctx, &pvalue->physicalchannelcapability_edch);
+   RT_CHECK(ctx, stat, 0, "physicalchannelcapability-edch", -1, "UL-PhysChCapabilityFDD-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_SecondaryCellInfoFDD_newConfiguration(rtxContext* RT_RESTRICT ctx, const UL_SecondaryCellInfoFDD_newConfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* secondaryServingEDCHCell-Info */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SecondaryServingEDCHCell_Info(ctx, &pvalue->secondaryServingEDCHCell_Info);
+      RT_CHECK(ctx, stat, 0, "secondaryServingEDCHCell-Info", -1, 0);
+   }
+   /* secondaryEDCH-Info-Common */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_SecondaryEDCH_Info_Common(ctx, &pvalue->secondaryEDCH_Info_Common);
+      RT_CHECK(ctx, stat, 0, "secondaryEDCH-Info-Common", -1, 0);
+   }
+   /* dl-InformationPerSecondaryRL-List */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_DL_InformationPerSecondaryRL_List(ctx, &pvalue->dl_InformationPerSecondaryRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerSecondaryRL-List", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_SecondaryCellInfoFDD(rtxContext* RT_RESTRICT ctx, const UL_SecondaryCellInfoFDD* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-SecondaryCellInfoFDD");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "UL-SecondaryCellInfoFDD");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-SecondaryCellInfoFDD");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.newConfiguration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "newConfiguration", -1, "UL-SecondaryCellInfoFDD");
+         stat = asn1PE_UMTS_UL_SecondaryCellInfoFDD_newConfiguration(ctx, pvalue->u.newConfiguration);
+         RT_CHECK(ctx, stat, 0, "newConfiguration", -1, "UL-SecondaryCellInfoFDD");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_SecurityInformation(rtxContext* RT_RESTRICT ctx, const UE_SecurityInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-SecurityInformation");
+   /* start-CS */
+   stat = asn1PE_UMTS_START_Value(ctx, pvalue->start_CS);
+   RT_CHECK(ctx, stat, 0, "start-CS", -1, "UE-SecurityInformation");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_SecurityInformation2(rtxContext* RT_RESTRICT ctx, const UE_SecurityInformation2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-SecurityInformation2");
+   /* start-PS */
+   stat = asn1PE_UMTS_START_Value(ctx, pvalue->start_PS);
+   RT_CHECK(ctx, stat, 0, "start-PS", -1, "UE-SecurityInformation2");
+   return 0;
+}
+
+int asn1PE_UMTS_URA_UpdateCause(rtxContext* RT_RESTRICT ctx, URA_UpdateCause value)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "URA-UpdateCause");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "URA-UpdateCause");
+   return 0;
+}
+
+int asn1PE_UMTS_UTRAN_DRX_CycleLengthCoefficient(rtxContext* RT_RESTRICT ctx, UTRAN_DRX_CycleLengthCoefficient value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 3) > 6u) {
+      rtxErrAddStrParm(ctx, "UTRAN-DRX-CycleLengthCoefficient");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UTRAN-DRX-CycleLengthCoefficient");
+   }
+   stat = pe_ConsUInt64(ctx, value, 3, 9);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UTRAN-DRX-CycleLengthCoefficient");
+   return 0;
+}
+
+int asn1PE_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(rtxContext* RT_RESTRICT ctx, const UTRAN_DRX_CycleLengthCoefficient_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UTRAN-DRX-CycleLengthCoefficient-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UTRAN-DRX-CycleLengthCoefficient-r7");
+   /* drx-CycleLengthCoefficient */
+   if ((uint64_t)(pvalue->drx_CycleLengthCoefficient - 3) > 6u) {
+      rtxErrAddStrParm(ctx, "drx-CycleLengthCoefficient");
+      rtxErrAddUIntParm(ctx, pvalue->drx_CycleLengthCoefficient);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "drx-CycleLengthCoefficient", -1, "UTRAN-DRX-CycleLengthCoefficient-r7");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->drx_CycleLengthCoefficient, 3, 9);
+   RT_CHECK(ctx, stat, 0, "drx-CycleLengthCoefficient", -1, "UTRAN-DRX-CycleLengthCoefficient-r7");
+   /* drx-CycleLengthCoefficient2 */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->drx_CycleLengthCoefficient2 - 3) > 6u) {
+         rtxErrAddStrParm(ctx, "drx-CycleLengthCoefficient2");
+         rtxErrAddUIntParm(ctx, pvalue->drx_CycleLengthCoefficient2);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "drx-CycleLengthCoefficient2", -1, "UTRAN-DRX-CycleLengthCoefficient-r7");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->drx_CycleLengthCoefficient2, 3, 9);
+      RT_CHECK(ctx, stat, 0, "drx-CycleLengthCoefficient2", -1, "UTRAN-DRX-CycleLengthCoefficient-r7");
+   }
+   /* timeForDRXCycle2 */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->timeForDRXCycle2 > 6) {
+         rtxErrAddUIntParm(ctx, pvalue->timeForDRXCycle2);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "T-319", "timeForDRXCycle2", -1, "UTRAN-DRX-CycleLengthCoefficient-r7");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->timeForDRXCycle2, 0, 6);
+      RT_CHECK(ctx, stat, "T-319", "timeForDRXCycle2", -1, "UTRAN-DRX-CycleLengthCoefficient-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_WaitTime(rtxContext* RT_RESTRICT ctx, WaitTime value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 15u) {
+      rtxErrAddStrParm(ctx, "WaitTime");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "WaitTime");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "WaitTime");
+   return 0;
+}
+
+int asn1PE_UMTS_ROHC_Profile_r4(rtxContext* RT_RESTRICT ctx, ROHC_Profile_r4 value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 2u) {
+      rtxErrAddStrParm(ctx, "ROHC-Profile-r4");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "ROHC-Profile-r4");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ROHC-Profile-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_ROHC_ProfileList_r4(rtxContext* RT_RESTRICT ctx, const ROHC_ProfileList_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ROHC-ProfileList-r4");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "ROHC-ProfileList-r4");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)(pvalue->elem[i] - 1) > 2u) {
+         rtxErrAddStrParm(ctx, "ROHC-Profile-r4");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "ROHC-Profile-r4", "ROHC-Profile-r4", (int32_t)i, "ROHC-ProfileList-r4");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 1, 3);
+      RT_CHECK(ctx, stat, "ROHC-Profile-r4", "ROHC-Profile-r4", (int32_t)i, "ROHC-ProfileList-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CID_InclusionInfo_r4(rtxContext* RT_RESTRICT ctx, CID_InclusionInfo_r4 value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "CID-InclusionInfo-r4");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CID-InclusionInfo-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_ROHC_PacketSize_r4(rtxContext* RT_RESTRICT ctx, ROHC_PacketSize_r4 value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 2) > 1498u) {
+      rtxErrAddStrParm(ctx, "ROHC-PacketSize-r4");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "ROHC-PacketSize-r4");
+   }
+   stat = pe_ConsUInt64(ctx, value, 2, 1500);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ROHC-PacketSize-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_ROHC_PacketSizeList_r4(rtxContext* RT_RESTRICT ctx, const ROHC_PacketSizeList_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ROHC-PacketSizeList-r4");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "ROHC-PacketSizeList-r4");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)(pvalue->elem[i] - 2) > 1498u) {
+         rtxErrAddStrParm(ctx, "ROHC-PacketSize-r4");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "ROHC-PacketSize-r4", "ROHC-PacketSize-r4", (int32_t)i, "ROHC-PacketSizeList-r4");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 2, 1500);
+      RT_CHECK(ctx, stat, "ROHC-PacketSize-r4", "ROHC-PacketSize-r4", (int32_t)i, "ROHC-PacketSizeList-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_RFC3095_r4(rtxContext* RT_RESTRICT ctx, const UL_RFC3095_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-RFC3095-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->max_CID != 15) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-RFC3095-r4");
+   /* dummy1 */
+   if (pvalue->dummy1 > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->dummy1);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CID-InclusionInfo-r4", "dummy1", -1, "UL-RFC3095-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->dummy1, 0, 1);
+   RT_CHECK(ctx, stat, "CID-InclusionInfo-r4", "dummy1", -1, "UL-RFC3095-r4");
+   /* max-CID */
+   if (pvalue->max_CID != 15) {
+      if ((uint64_t)(pvalue->max_CID - 1) > 16382u) {
+         rtxErrAddStrParm(ctx, "max-CID");
+         rtxErrAddUIntParm(ctx, pvalue->max_CID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "max-CID", -1, "UL-RFC3095-r4");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->max_CID, 1, 16383);
+      RT_CHECK(ctx, stat, 0, "max-CID", -1, "UL-RFC3095-r4");
+   }
+   /* dummy */
+   stat = asn1PE_UMTS_ROHC_PacketSizeList_r4(ctx, &pvalue->dummy);
+   RT_CHECK(ctx, stat, 0, "dummy", -1, "UL-RFC3095-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_RFC3095_r4(rtxContext* RT_RESTRICT ctx, const DL_RFC3095_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-RFC3095-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->max_CID != 15) << 1) |
+      ((uint64_t)(pvalue->reverseDecompressionDepth != 0) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-RFC3095-r4");
+   /* dummy */
+   if (pvalue->dummy > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->dummy);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CID-InclusionInfo-r4", "dummy", -1, "DL-RFC3095-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->dummy, 0, 1);
+   RT_CHECK(ctx, stat, "CID-InclusionInfo-r4", "dummy", -1, "DL-RFC3095-r4");
+   /* max-CID */
+   if (pvalue->max_CID != 15) {
+      if ((uint64_t)(pvalue->max_CID - 1) > 16382u) {
+         rtxErrAddStrParm(ctx, "max-CID");
+         rtxErrAddUIntParm(ctx, pvalue->max_CID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "max-CID", -1, "DL-RFC3095-r4");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->max_CID, 1, 16383);
+      RT_CHECK(ctx, stat, 0, "max-CID", -1, "DL-RFC3095-r4");
+   }
+   /* reverseDecompressionDepth */
+   if (pvalue->reverseDecompressionDepth != 0) {
+      stat = pe_ConsUInt64(ctx, pvalue->reverseDecompressionDepth, 0, 65535);
+      RT_CHECK(ctx, stat, 0, "reverseDecompressionDepth", -1, "DL-RFC3095-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RFC3095_Info_r4(rtxContext* RT_RESTRICT ctx, const RFC3095_Info_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RFC3095-Info-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RFC3095-Info-r4");
+   /* rohcProfileList */
+   stat = asn1PE_UMTS_ROHC_ProfileList_r4(ctx, &pvalue->rohcProfileList);
+   RT_CHECK(ctx, stat, 0, "rohcProfileList", -1, "RFC3095-Info-r4");
+   /* ul-RFC3095 */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UL_RFC3095_r4(ctx, &pvalue->ul_RFC3095);
+      RT_CHECK(ctx, stat, 0, "ul-RFC3095", -1, "RFC3095-Info-r4");
+   }
+   /* dl-RFC3095 */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_DL_RFC3095_r4(ctx, &pvalue->dl_RFC3095);
+      RT_CHECK(ctx, stat, 0, "dl-RFC3095", -1, "RFC3095-Info-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AlgorithmSpecificInfo_r4(rtxContext* RT_RESTRICT ctx, const AlgorithmSpecificInfo_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AlgorithmSpecificInfo-r4");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "AlgorithmSpecificInfo-r4");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "AlgorithmSpecificInfo-r4");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.rfc2507_Info == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "rfc2507-Info", -1, "AlgorithmSpecificInfo-r4");
+         stat = asn1PE_UMTS_RFC2507_Info(ctx, pvalue->u.rfc2507_Info);
+         RT_CHECK(ctx, stat, 0, "rfc2507-Info", -1, "AlgorithmSpecificInfo-r4");
+         break;
+      case 2:
+         if (pvalue->u.rfc3095_Info == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "rfc3095-Info", -1, "AlgorithmSpecificInfo-r4");
+         stat = asn1PE_UMTS_RFC3095_Info_r4(ctx, pvalue->u.rfc3095_Info);
+         RT_CHECK(ctx, stat, 0, "rfc3095-Info", -1, "AlgorithmSpecificInfo-r4");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_COUNT_C(rtxContext* RT_RESTRICT ctx, COUNT_C value)
+{
+   int stat = 0;
+   stat = pe_ConsUInt64(ctx, value, 0, 4294967295ULL);
+   RT_CHECK(ctx, stat, 0, 0, -1, "COUNT-C");
+   return 0;
+}
+
+int asn1PE_UMTS_COUNT_C_MSB(rtxContext* RT_RESTRICT ctx, COUNT_C_MSB value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 33554431u) {
+      rtxErrAddStrParm(ctx, "COUNT-C-MSB");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "COUNT-C-MSB");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 33554431);
+   RT_CHECK(ctx, stat, 0, 0, -1, "COUNT-C-MSB");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AMR_Rate(rtxContext* RT_RESTRICT ctx, UL_AMR_Rate value)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UL-AMR-Rate");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-AMR-Rate");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxCS_Delay(rtxContext* RT_RESTRICT ctx, MaxCS_Delay value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 18u) {
+      rtxErrAddStrParm(ctx, "MaxCS-Delay");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MaxCS-Delay");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 18);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxCS-Delay");
+   return 0;
+}
+
+int asn1PE_UMTS_CS_HSPA_Information(rtxContext* RT_RESTRICT ctx, const CS_HSPA_Information* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CS-HSPA-Information");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CS-HSPA-Information");
+   /* ul-AMR-Rate */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->ul_AMR_Rate > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->ul_AMR_Rate);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "UL-AMR-Rate", "ul-AMR-Rate", -1, "CS-HSPA-Information");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ul_AMR_Rate, 0, 15);
+      RT_CHECK(ctx, stat, "UL-AMR-Rate", "ul-AMR-Rate", -1, "CS-HSPA-Information");
+   }
+   /* maxCS-Delay */
+   if ((uint64_t)pvalue->maxCS_Delay > 18u) {
+      rtxErrAddStrParm(ctx, "MaxCS-Delay");
+      rtxErrAddUIntParm(ctx, pvalue->maxCS_Delay);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxCS-Delay", "maxCS-Delay", -1, "CS-HSPA-Information");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxCS_Delay, 0, 18);
+   RT_CHECK(ctx, stat, "MaxCS-Delay", "maxCS-Delay", -1, "CS-HSPA-Information");
+   return 0;
+}
+
+int asn1PE_UMTS_DefaultConfigMode(rtxContext* RT_RESTRICT ctx, DefaultConfigMode value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "DefaultConfigMode");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DefaultConfigMode");
+   return 0;
+}
+
+int asn1PE_UMTS_DefaultConfigIdForCellFACH(rtxContext* RT_RESTRICT ctx, DefaultConfigIdForCellFACH value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 15u) {
+      rtxErrAddStrParm(ctx, "DefaultConfigIdForCellFACH");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DefaultConfigIdForCellFACH");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DefaultConfigIdForCellFACH");
+   return 0;
+}
+
+int asn1PE_UMTS_DefaultConfigForCellFACH(rtxContext* RT_RESTRICT ctx, const DefaultConfigForCellFACH* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DefaultConfigForCellFACH");
+   /* defaultConfigMode */
+   if (pvalue->defaultConfigMode > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigMode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DefaultConfigMode", "defaultConfigMode", -1, "DefaultConfigForCellFACH");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, "DefaultConfigForCellFACH");
+   /* defaultConfigIdForCellFACH */
+   if ((uint64_t)pvalue->defaultConfigIdForCellFACH > 15u) {
+      rtxErrAddStrParm(ctx, "DefaultConfigIdForCellFACH");
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigIdForCellFACH);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultConfigIdForCellFACH", "defaultConfigIdForCellFACH", -1, "DefaultConfigForCellFACH");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigIdForCellFACH, 0, 15);
+   RT_CHECK(ctx, stat, "DefaultConfigIdForCellFACH", "defaultConfigIdForCellFACH", -1, "DefaultConfigForCellFACH");
+   return 0;
+}
+
+int asn1PE_UMTS_DefaultConfigIdentity(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 10u) {
+      rtxErrAddStrParm(ctx, "DefaultConfigIdentity");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DefaultConfigIdentity");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 10);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DefaultConfigIdentity");
+   return 0;
+}
+
+int asn1PE_UMTS_DefaultConfigIdentity_r4(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity_r4 value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 12u) {
+      rtxErrAddStrParm(ctx, "DefaultConfigIdentity-r4");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DefaultConfigIdentity-r4");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 12);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DefaultConfigIdentity-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_DefaultConfigIdentity_r5(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity_r5 value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 13u) {
+      rtxErrAddStrParm(ctx, "DefaultConfigIdentity-r5");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DefaultConfigIdentity-r5");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 13);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DefaultConfigIdentity-r5");
+   return 0;
+}
+
+int asn1PE_UMTS_DefaultConfigIdentity_r6(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity_r6 value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 31u) {
+      rtxErrAddStrParm(ctx, "DefaultConfigIdentity-r6");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DefaultConfigIdentity-r6");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 31);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DefaultConfigIdentity-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_DDI(rtxContext* RT_RESTRICT ctx, DDI value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 62u) {
+      rtxErrAddStrParm(ctx, "DDI");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DDI");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 62);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DDI");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AM_RLC_Mode_r5(rtxContext* RT_RESTRICT ctx, const DL_AM_RLC_Mode_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-AM-RLC-Mode-r5");
+   /* dl-RLC-PDU-size */
+   stat = asn1PE_UMTS_OctetModeRLC_SizeInfoType1(ctx, &pvalue->dl_RLC_PDU_size);
+   RT_CHECK(ctx, stat, 0, "dl-RLC-PDU-size", -1, "DL-AM-RLC-Mode-r5");
+   /* inSequenceDelivery */
+   stat = rtxEncBit(ctx, pvalue->inSequenceDelivery);
+   RT_CHECK(ctx, stat, 0, "inSequenceDelivery", -1, "DL-AM-RLC-Mode-r5");
+   /* receivingWindowSize */
+   if (pvalue->receivingWindowSize > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->receivingWindowSize);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ReceivingWindowSize", "receivingWindowSize", -1, "DL-AM-RLC-Mode-r5");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->receivingWindowSize, 0, 15);
+   RT_CHECK(ctx, stat, "ReceivingWindowSize", "receivingWindowSize", -1, "DL-AM-RLC-Mode-r5");
+   /* dl-RLC-StatusInfo */
+   stat = asn1PE_UMTS_DL_RLC_StatusInfo(ctx, &pvalue->dl_RLC_StatusInfo);
+   RT_CHECK(ctx, stat, 0, "dl-RLC-StatusInfo", -1, "DL-AM-RLC-Mode-r5");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AM_RLC_Mode_r7_dl_RLC_PDU_size_flexibleSize(rtxContext* RT_RESTRICT ctx, DL_AM_RLC_Mode_r7_dl_RLC_PDU_size_flexibleSize value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AM_RLC_Mode_r7_dl_RLC_PDU_size(rtxContext* RT_RESTRICT ctx, const DL_AM_RLC_Mode_r7_dl_RLC_PDU_size* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fixedSize == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fixedSize", -1, 0);
+         stat = asn1PE_UMTS_OctetModeRLC_SizeInfoType1(ctx, pvalue->u.fixedSize);
+         RT_CHECK(ctx, stat, 0, "fixedSize", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.flexibleSize > 1) {
+            rtxErrAddUIntParm(ctx, pvalue->u.flexibleSize);
+            RT_FAIL(ctx, RT_ERR_INVENUM, 0, "flexibleSize", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.flexibleSize, 0, 1);
+         RT_CHECK(ctx, stat, 0, "flexibleSize", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AM_RLC_Mode_r7(rtxContext* RT_RESTRICT ctx, const DL_AM_RLC_Mode_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-AM-RLC-Mode-r7");
+   /* dl-RLC-PDU-size */
+   stat = asn1PE_UMTS_DL_AM_RLC_Mode_r7_dl_RLC_PDU_size(ctx, &pvalue->dl_RLC_PDU_size);
+   RT_CHECK(ctx, stat, 0, "dl-RLC-PDU-size", -1, "DL-AM-RLC-Mode-r7");
+   /* inSequenceDelivery */
+   stat = rtxEncBit(ctx, pvalue->inSequenceDelivery);
+   RT_CHECK(ctx, stat, 0, "inSequenceDelivery", -1, "DL-AM-RLC-Mode-r7");
+   /* receivingWindowSize */
+   if (pvalue->receivingWindowSize > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->receivingWindowSize);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ReceivingWindowSize", "receivingWindowSize", -1, "DL-AM-RLC-Mode-r7");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->receivingWindowSize, 0, 15);
+   RT_CHECK(ctx, stat, "ReceivingWindowSize", "receivingWindowSize", -1, "DL-AM-RLC-Mode-r7");
+   /* dl-RLC-StatusInfo */
+   stat = asn1PE_UMTS_DL_RLC_StatusInfo(ctx, &pvalue->dl_RLC_StatusInfo);
+   RT_CHECK(ctx, stat, 0, "dl-RLC-StatusInfo", -1, "DL-AM-RLC-Mode-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_SN_Info(rtxContext* RT_RESTRICT ctx, PDCP_SN_Info value)
+{
+   int stat = 0;
+   stat = pe_ConsUInt64(ctx, value, 0, 65535);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PDCP-SN-Info");
+   return 0;
+}
+
+int asn1PE_UMTS_RB_WithPDCP_Info(rtxContext* RT_RESTRICT ctx, const RB_WithPDCP_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-WithPDCP-Info");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-WithPDCP-Info");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-WithPDCP-Info");
+   /* pdcp-SN-Info */
+   stat = pe_ConsUInt64(ctx, pvalue->pdcp_SN_Info, 0, 65535);
+   RT_CHECK(ctx, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-WithPDCP-Info");
+   return 0;
+}
+
+int asn1PE_UMTS_RB_WithPDCP_InfoList(rtxContext* RT_RESTRICT ctx, const RB_WithPDCP_InfoList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-WithPDCP-InfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 27);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-WithPDCP-InfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-WithPDCP-Info", (int32_t)i, "RB-WithPDCP-InfoList");
+      stat = asn1PE_UMTS_RB_WithPDCP_Info(ctx, (const RB_WithPDCP_Info*)node->data);
+      RT_CHECK(ctx, stat, 0, "RB-WithPDCP-Info", (int32_t)i, "RB-WithPDCP-InfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CounterSynchronisationInfo(rtxContext* RT_RESTRICT ctx, const DL_CounterSynchronisationInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-CounterSynchronisationInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CounterSynchronisationInfo");
+   /* rB-WithPDCP-InfoList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RB_WithPDCP_InfoList(ctx, &pvalue->rB_WithPDCP_InfoList);
+      RT_CHECK(ctx, stat, 0, "rB-WithPDCP-InfoList", -1, "DL-CounterSynchronisationInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_PDCPContextRelocation(rtxContext* RT_RESTRICT ctx, const RB_PDCPContextRelocation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-PDCPContextRelocation");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-PDCPContextRelocation");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-PDCPContextRelocation");
+   /* dl-RFC3095-Context-Relocation */
+   stat = rtxEncBit(ctx, pvalue->dl_RFC3095_Context_Relocation);
+   RT_CHECK(ctx, stat, 0, "dl-RFC3095-Context-Relocation", -1, "RB-PDCPContextRelocation");
+   /* ul-RFC3095-Context-Relocation */
+   stat = rtxEncBit(ctx, pvalue->ul_RFC3095_Context_Relocation);
+   RT_CHECK(ctx, stat, 0, "ul-RFC3095-Context-Relocation", -1, "RB-PDCPContextRelocation");
+   return 0;
+}
+
+int asn1PE_UMTS_RB_PDCPContextRelocationList(rtxContext* RT_RESTRICT ctx, const RB_PDCPContextRelocationList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-PDCPContextRelocationList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 27);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-PDCPContextRelocationList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-PDCPContextRelocation", (int32_t)i, "RB-PDCPContextRelocationList");
+      stat = asn1PE_UMTS_RB_PDCPContextRelocation(ctx, (const RB_PDCPContextRelocation*)node->data);
+      RT_CHECK(ctx, stat, 0, "RB-PDCPContextRelocation", (int32_t)i, "RB-PDCPContextRelocationList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(rtxContext* RT_RESTRICT ctx, const DL_CounterSynchronisationInfo_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-CounterSynchronisationInfo-r5");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CounterSynchronisationInfo-r5");
+   /* rb-WithPDCP-InfoList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RB_WithPDCP_InfoList(ctx, &pvalue->rb_WithPDCP_InfoList);
+      RT_CHECK(ctx, stat, 0, "rb-WithPDCP-InfoList", -1, "DL-CounterSynchronisationInfo-r5");
+   }
+   /* rb-PDCPContextRelocationList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RB_PDCPContextRelocationList(ctx, &pvalue->rb_PDCPContextRelocationList);
+      RT_CHECK(ctx, stat, 0, "rb-PDCPContextRelocationList", -1, "DL-CounterSynchronisationInfo-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MAC_d_FlowIdentity(rtxContext* RT_RESTRICT ctx, MAC_d_FlowIdentity value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 7u) {
+      rtxErrAddStrParm(ctx, "MAC-d-FlowIdentity");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MAC-d-FlowIdentity");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-d-FlowIdentity");
    return 0;
 }
 
-int asn1PE_UMTS_PagingRecord_cn_Identity(rtxContext* ctx, const PagingRecord_cn_Identity* pvalue)
+int asn1PE_UMTS_MAC_d_FlowIdentityDCHandHSDSCH(rtxContext* RT_RESTRICT ctx, const MAC_d_FlowIdentityDCHandHSDSCH* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* pagingCause */
-   rtxCtxtPushElemName(ctx, "pagingCause");
-   rtxCtxtPushTypeName(ctx, "PagingCause");
-   if (pvalue->pagingCause > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->pagingCause);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MAC-d-FlowIdentityDCHandHSDSCH");
+   /* dch-transport-ch-id */
+   if ((uint64_t)(pvalue->dch_transport_ch_id - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->dch_transport_ch_id);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dch-transport-ch-id", -1, "MAC-d-FlowIdentityDCHandHSDSCH");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->pagingCause, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   stat = pe_ConsUInt64(ctx, pvalue->dch_transport_ch_id, 1, 32);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch-transport-ch-id", -1, "MAC-d-FlowIdentityDCHandHSDSCH");
+   /* hsdsch-mac-d-flow-id */
+   if ((uint64_t)pvalue->hsdsch_mac_d_flow_id > 7u) {
+      rtxErrAddStrParm(ctx, "MAC-d-FlowIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->hsdsch_mac_d_flow_id);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MAC-d-FlowIdentity", "hsdsch-mac-d-flow-id", -1, "MAC-d-FlowIdentityDCHandHSDSCH");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->hsdsch_mac_d_flow_id, 0, 7);
+   RT_CHECK(ctx, stat, "MAC-d-FlowIdentity", "hsdsch-mac-d-flow-id", -1, "MAC-d-FlowIdentityDCHandHSDSCH");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_TransportChannelType_r5(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelType_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-TransportChannelType-r5");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 5);
+   RT_CHECK(ctx, stat, 0, "t", -1, "DL-TransportChannelType-r5");
+   if (pvalue->t - 1 > 5) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-TransportChannelType-r5");
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)(pvalue->u.dch - 1) > 31u) {
+            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.dch);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dch", -1, "DL-TransportChannelType-r5");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.dch, 1, 32);
+         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch", -1, "DL-TransportChannelType-r5");
+         break;
+      case 2:
+         break;
+      case 3:
+         if ((uint64_t)(pvalue->u.dsch - 1) > 31u) {
+            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.dsch);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dsch", -1, "DL-TransportChannelType-r5");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.dsch, 1, 32);
+         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dsch", -1, "DL-TransportChannelType-r5");
+         break;
+      case 4:
+         if (pvalue->u.dch_and_dsch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dch-and-dsch", -1, "DL-TransportChannelType-r5");
+         stat = asn1PE_UMTS_TransportChannelIdentityDCHandDSCH(ctx, pvalue->u.dch_and_dsch);
+         RT_CHECK(ctx, stat, 0, "dch-and-dsch", -1, "DL-TransportChannelType-r5");
+         break;
+      case 5:
+         if ((uint64_t)pvalue->u.hsdsch > 7u) {
+            rtxErrAddStrParm(ctx, "MAC-d-FlowIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.hsdsch);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "MAC-d-FlowIdentity", "hsdsch", -1, "DL-TransportChannelType-r5");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.hsdsch, 0, 7);
+         RT_CHECK(ctx, stat, "MAC-d-FlowIdentity", "hsdsch", -1, "DL-TransportChannelType-r5");
+         break;
+      case 6:
+         if (pvalue->u.dch_and_hsdsch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dch-and-hsdsch", -1, "DL-TransportChannelType-r5");
+         stat = asn1PE_UMTS_MAC_d_FlowIdentityDCHandHSDSCH(ctx, pvalue->u.dch_and_hsdsch);
+         RT_CHECK(ctx, stat, 0, "dch-and-hsdsch", -1, "DL-TransportChannelType-r5");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_LogicalChannelMapping_r5(rtxContext* RT_RESTRICT ctx, const DL_LogicalChannelMapping_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-LogicalChannelMapping-r5");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-LogicalChannelMapping-r5");
+   /* dl-TransportChannelType */
+   stat = asn1PE_UMTS_DL_TransportChannelType_r5(ctx, &pvalue->dl_TransportChannelType);
+   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-LogicalChannelMapping-r5");
+   /* logicalChannelIdentity */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->logicalChannelIdentity - 1) > 14u) {
+         rtxErrAddStrParm(ctx, "LogicalChannelIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->logicalChannelIdentity);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "DL-LogicalChannelMapping-r5");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->logicalChannelIdentity, 1, 15);
+      RT_CHECK(ctx, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "DL-LogicalChannelMapping-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_TransportChannelType_r7_hsdsch(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelType_r7_hsdsch* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)pvalue->u.mac_hs > 7u) {
+            rtxErrAddStrParm(ctx, "MAC-d-FlowIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.mac_hs);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "MAC-d-FlowIdentity", "mac-hs", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.mac_hs, 0, 7);
+         RT_CHECK(ctx, stat, "MAC-d-FlowIdentity", "mac-hs", -1, 0);
+         break;
+      case 2:
+         if ((uint64_t)pvalue->u.mac_ehs > 7u) {
+            rtxErrAddStrParm(ctx, "MAC-ehs-QueueId");
+            rtxErrAddUIntParm(ctx, pvalue->u.mac_ehs);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "MAC-ehs-QueueId", "mac-ehs", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.mac_ehs, 0, 7);
+         RT_CHECK(ctx, stat, "MAC-ehs-QueueId", "mac-ehs", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MAC_ehs_QueueIdDCHandHSDSCH(rtxContext* RT_RESTRICT ctx, const MAC_ehs_QueueIdDCHandHSDSCH* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MAC-ehs-QueueIdDCHandHSDSCH");
+   /* dch-transport-ch-id */
+   if ((uint64_t)(pvalue->dch_transport_ch_id - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->dch_transport_ch_id);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dch-transport-ch-id", -1, "MAC-ehs-QueueIdDCHandHSDSCH");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->dch_transport_ch_id, 1, 32);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch-transport-ch-id", -1, "MAC-ehs-QueueIdDCHandHSDSCH");
+   /* hsdsch-mac-ehs-QueueId */
+   if ((uint64_t)pvalue->hsdsch_mac_ehs_QueueId > 7u) {
+      rtxErrAddStrParm(ctx, "MAC-ehs-QueueId");
+      rtxErrAddUIntParm(ctx, pvalue->hsdsch_mac_ehs_QueueId);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MAC-ehs-QueueId", "hsdsch-mac-ehs-QueueId", -1, "MAC-ehs-QueueIdDCHandHSDSCH");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->hsdsch_mac_ehs_QueueId, 0, 7);
+   RT_CHECK(ctx, stat, "MAC-ehs-QueueId", "hsdsch-mac-ehs-QueueId", -1, "MAC-ehs-QueueIdDCHandHSDSCH");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_TransportChannelType_r7_dch_and_hsdsch(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelType_r7_dch_and_hsdsch* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.mac_hs == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "mac-hs", -1, 0);
+         stat = asn1PE_UMTS_MAC_d_FlowIdentityDCHandHSDSCH(ctx, pvalue->u.mac_hs);
+         RT_CHECK(ctx, stat, 0, "mac-hs", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.mac_ehs == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "mac-ehs", -1, 0);
+         stat = asn1PE_UMTS_MAC_ehs_QueueIdDCHandHSDSCH(ctx, pvalue->u.mac_ehs);
+         RT_CHECK(ctx, stat, 0, "mac-ehs", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_TransportChannelType_r7(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelType_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-TransportChannelType-r7");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 5);
+   RT_CHECK(ctx, stat, 0, "t", -1, "DL-TransportChannelType-r7");
+   if (pvalue->t - 1 > 5) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-TransportChannelType-r7");
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)(pvalue->u.dch - 1) > 31u) {
+            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.dch);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dch", -1, "DL-TransportChannelType-r7");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.dch, 1, 32);
+         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch", -1, "DL-TransportChannelType-r7");
+         break;
+      case 2:
+         break;
+      case 3:
+         if ((uint64_t)(pvalue->u.dsch - 1) > 31u) {
+            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.dsch);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dsch", -1, "DL-TransportChannelType-r7");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.dsch, 1, 32);
+         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dsch", -1, "DL-TransportChannelType-r7");
+         break;
+      case 4:
+         if (pvalue->u.dch_and_dsch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dch-and-dsch", -1, "DL-TransportChannelType-r7");
+         stat = asn1PE_UMTS_TransportChannelIdentityDCHandDSCH(ctx, pvalue->u.dch_and_dsch);
+         RT_CHECK(ctx, stat, 0, "dch-and-dsch", -1, "DL-TransportChannelType-r7");
+         break;
+      case 5:
+         if (pvalue->u.hsdsch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "hsdsch", -1, "DL-TransportChannelType-r7");
+         stat = asn1PE_UMTS_DL_TransportChannelType_r7_hsdsch(ctx, pvalue->u.hsdsch);
+         RT_CHECK(ctx, stat, 0, "hsdsch", -1, "DL-TransportChannelType-r7");
+         break;
+      case 6:
+         if (pvalue->u.dch_and_hsdsch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dch-and-hsdsch", -1, "DL-TransportChannelType-r7");
+         stat = asn1PE_UMTS_DL_TransportChannelType_r7_dch_and_hsdsch(ctx, pvalue->u.dch_and_hsdsch);
+         RT_CHECK(ctx, stat, 0, "dch-and-hsdsch", -1, "DL-TransportChannelType-r7");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_LogicalChannelMapping_r7(rtxContext* RT_RESTRICT ctx, const DL_LogicalChannelMapping_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-LogicalChannelMapping-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-LogicalChannelMapping-r7");
+   /* dl-TransportChannelType */
+   stat = asn1PE_UMTS_DL_TransportChannelType_r7(ctx, &pvalue->dl_TransportChannelType);
+   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-LogicalChannelMapping-r7");
+   /* logicalChannelIdentity */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->logicalChannelIdentity - 1) > 14u) {
+         rtxErrAddStrParm(ctx, "LogicalChannelIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->logicalChannelIdentity);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "DL-LogicalChannelMapping-r7");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->logicalChannelIdentity, 1, 15);
+      RT_CHECK(ctx, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "DL-LogicalChannelMapping-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_LogicalChannelMappingList_r5(rtxContext* RT_RESTRICT ctx, const DL_LogicalChannelMappingList_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-LogicalChannelMappingList-r5");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 2);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-LogicalChannelMappingList-r5");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-LogicalChannelMapping-r5", (int32_t)i, "DL-LogicalChannelMappingList-r5");
+      stat = asn1PE_UMTS_DL_LogicalChannelMapping_r5(ctx, (const DL_LogicalChannelMapping_r5*)node->data);
+      RT_CHECK(ctx, stat, 0, "DL-LogicalChannelMapping-r5", (int32_t)i, "DL-LogicalChannelMappingList-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_LogicalChannelMappingList_r7(rtxContext* RT_RESTRICT ctx, const DL_LogicalChannelMappingList_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-LogicalChannelMappingList-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 2);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-LogicalChannelMappingList-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-LogicalChannelMapping-r7", (int32_t)i, "DL-LogicalChannelMappingList-r7");
+      stat = asn1PE_UMTS_DL_LogicalChannelMapping_r7(ctx, (const DL_LogicalChannelMapping_r7*)node->data);
+      RT_CHECK(ctx, stat, 0, "DL-LogicalChannelMapping-r7", (int32_t)i, "DL-LogicalChannelMappingList-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_Reception_Window_Size_r6(rtxContext* RT_RESTRICT ctx, DL_Reception_Window_Size_r6 value)
+{
+   int stat = 0;
+   if (value > 5) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "DL-Reception-Window-Size-r6");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-Reception-Window-Size-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_UM_RLC_Mode_r5(rtxContext* RT_RESTRICT ctx, const DL_UM_RLC_Mode_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-UM-RLC-Mode-r5");
+   /* dl-UM-RLC-LI-size */
+   if (pvalue->dl_UM_RLC_LI_size > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->dl_UM_RLC_LI_size);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "DL-UM-RLC-Mode-r5");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->dl_UM_RLC_LI_size, 0, 1);
+   RT_CHECK(ctx, stat, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "DL-UM-RLC-Mode-r5");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_RLC_Mode_r5(rtxContext* RT_RESTRICT ctx, const DL_RLC_Mode_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-RLC-Mode-r5");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, "DL-RLC-Mode-r5");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-RLC-Mode-r5");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.dl_AM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode-r5");
+         stat = asn1PE_UMTS_DL_AM_RLC_Mode_r5(ctx, pvalue->u.dl_AM_RLC_Mode);
+         RT_CHECK(ctx, stat, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode-r5");
+         break;
+      case 2:
+         if (pvalue->u.dl_UM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-UM-RLC-Mode", -1, "DL-RLC-Mode-r5");
+         stat = asn1PE_UMTS_DL_UM_RLC_Mode_r5(ctx, pvalue->u.dl_UM_RLC_Mode);
+         RT_CHECK(ctx, stat, 0, "dl-UM-RLC-Mode", -1, "DL-RLC-Mode-r5");
+         break;
+      case 3:
+         if (pvalue->u.dl_TM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode-r5");
+         stat = asn1PE_UMTS_DL_TM_RLC_Mode(ctx, pvalue->u.dl_TM_RLC_Mode);
+         RT_CHECK(ctx, stat, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode-r5");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_UM_RLC_Mode_r6(rtxContext* RT_RESTRICT ctx, const DL_UM_RLC_Mode_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-UM-RLC-Mode-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-UM-RLC-Mode-r6");
+   /* dl-UM-RLC-LI-size */
+   if (pvalue->dl_UM_RLC_LI_size > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->dl_UM_RLC_LI_size);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "DL-UM-RLC-Mode-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->dl_UM_RLC_LI_size, 0, 1);
+   RT_CHECK(ctx, stat, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "DL-UM-RLC-Mode-r6");
+   /* dl-Reception-Window-Size */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->dl_Reception_Window_Size > 5) {
+         rtxErrAddUIntParm(ctx, pvalue->dl_Reception_Window_Size);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "DL-Reception-Window-Size-r6", "dl-Reception-Window-Size", -1, "DL-UM-RLC-Mode-r6");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dl_Reception_Window_Size, 0, 5);
+      RT_CHECK(ctx, stat, "DL-Reception-Window-Size-r6", "dl-Reception-Window-Size", -1, "DL-UM-RLC-Mode-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_RLC_Mode_r6(rtxContext* RT_RESTRICT ctx, const DL_RLC_Mode_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-RLC-Mode-r6");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, "DL-RLC-Mode-r6");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-RLC-Mode-r6");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.dl_AM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode-r6");
+         stat = asn1PE_UMTS_DL_AM_RLC_Mode_r5(ctx, pvalue->u.dl_AM_RLC_Mode);
+         RT_CHECK(ctx, stat, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode-r6");
+         break;
+      case 2:
+         if (pvalue->u.dl_UM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-UM-RLC-Mode", -1, "DL-RLC-Mode-r6");
+         stat = asn1PE_UMTS_DL_UM_RLC_Mode_r6(ctx, pvalue->u.dl_UM_RLC_Mode);
+         RT_CHECK(ctx, stat, 0, "dl-UM-RLC-Mode", -1, "DL-RLC-Mode-r6");
+         break;
+      case 3:
+         if (pvalue->u.dl_TM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode-r6");
+         stat = asn1PE_UMTS_DL_TM_RLC_Mode(ctx, pvalue->u.dl_TM_RLC_Mode);
+         RT_CHECK(ctx, stat, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode-r6");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_RLC_Mode_r7(rtxContext* RT_RESTRICT ctx, const DL_RLC_Mode_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-RLC-Mode-r7");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, "DL-RLC-Mode-r7");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-RLC-Mode-r7");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.dl_AM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode-r7");
+         stat = asn1PE_UMTS_DL_AM_RLC_Mode_r7(ctx, pvalue->u.dl_AM_RLC_Mode);
+         RT_CHECK(ctx, stat, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode-r7");
+         break;
+      case 2:
+         if (pvalue->u.dl_UM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-UM-RLC-Mode", -1, "DL-RLC-Mode-r7");
+         stat = asn1PE_UMTS_DL_UM_RLC_Mode_r6(ctx, pvalue->u.dl_UM_RLC_Mode);
+         RT_CHECK(ctx, stat, 0, "dl-UM-RLC-Mode", -1, "DL-RLC-Mode-r7");
+         break;
+      case 3:
+         if (pvalue->u.dl_TM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode-r7");
+         stat = asn1PE_UMTS_DL_TM_RLC_Mode(ctx, pvalue->u.dl_TM_RLC_Mode);
+         RT_CHECK(ctx, stat, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode-r7");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HeaderCompressionInfo_r4(rtxContext* RT_RESTRICT ctx, const HeaderCompressionInfo_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HeaderCompressionInfo-r4");
+   /* algorithmSpecificInfo */
+   stat = asn1PE_UMTS_AlgorithmSpecificInfo_r4(ctx, &pvalue->algorithmSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "algorithmSpecificInfo", -1, "HeaderCompressionInfo-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_HeaderCompressionInfoList_r4(rtxContext* RT_RESTRICT ctx, const HeaderCompressionInfoList_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HeaderCompressionInfoList-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "HeaderCompressionInfoList-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "HeaderCompressionInfo-r4", (int32_t)i, "HeaderCompressionInfoList-r4");
+      stat = asn1PE_UMTS_HeaderCompressionInfo_r4(ctx, (const HeaderCompressionInfo_r4*)node->data);
+      RT_CHECK(ctx, stat, 0, "HeaderCompressionInfo-r4", (int32_t)i, "HeaderCompressionInfoList-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MAC_d_HFN_initial_value(rtxContext* RT_RESTRICT ctx, MAC_d_HFN_initial_value value)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pe_BitString32(ctx, &value, 24, 24);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-d-HFN-initial-value");
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_Info_r4(rtxContext* RT_RESTRICT ctx, const PDCP_Info_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDCP-Info-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PDCP-Info-r4");
+   /* losslessSRNS-RelocSupport */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_LosslessSRNS_RelocSupport(ctx, &pvalue->losslessSRNS_RelocSupport);
+      RT_CHECK(ctx, stat, 0, "losslessSRNS-RelocSupport", -1, "PDCP-Info-r4");
+   }
+   /* pdcp-PDU-Header */
+   if (pvalue->pdcp_PDU_Header > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->pdcp_PDU_Header);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "PDCP-PDU-Header", "pdcp-PDU-Header", -1, "PDCP-Info-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->pdcp_PDU_Header, 0, 1);
+   RT_CHECK(ctx, stat, "PDCP-PDU-Header", "pdcp-PDU-Header", -1, "PDCP-Info-r4");
+   /* headerCompressionInfoList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_HeaderCompressionInfoList_r4(ctx, &pvalue->headerCompressionInfoList);
+      RT_CHECK(ctx, stat, 0, "headerCompressionInfoList", -1, "PDCP-Info-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_InfoReconfig(rtxContext* RT_RESTRICT ctx, const PDCP_InfoReconfig* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDCP-InfoReconfig");
+   /* pdcp-Info */
+   stat = asn1PE_UMTS_PDCP_Info(ctx, &pvalue->pdcp_Info);
+   RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "PDCP-InfoReconfig");
+   /* dummy */
+   stat = pe_ConsUInt64(ctx, pvalue->dummy, 0, 65535);
+   RT_CHECK(ctx, stat, 0, "dummy", -1, "PDCP-InfoReconfig");
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_InfoReconfig_r4(rtxContext* RT_RESTRICT ctx, const PDCP_InfoReconfig_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDCP-InfoReconfig-r4");
+   /* pdcp-Info */
+   stat = asn1PE_UMTS_PDCP_Info_r4(ctx, &pvalue->pdcp_Info);
+   RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "PDCP-InfoReconfig-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_ROHC_TargetMode(rtxContext* RT_RESTRICT ctx, PDCP_ROHC_TargetMode value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "PDCP-ROHC-TargetMode");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PDCP-ROHC-TargetMode");
+   return 0;
+}
+
+int asn1PE_UMTS_PredefinedConfigStatusInfo_other(rtxContext* RT_RESTRICT ctx, const PredefinedConfigStatusInfo_other* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if ((uint64_t)pvalue->u.storedWithDifferentValueTag > 15u) {
+            rtxErrAddStrParm(ctx, "PredefinedConfigValueTag");
+            rtxErrAddUIntParm(ctx, pvalue->u.storedWithDifferentValueTag);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "PredefinedConfigValueTag", "storedWithDifferentValueTag", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.storedWithDifferentValueTag, 0, 15);
+         RT_CHECK(ctx, stat, "PredefinedConfigValueTag", "storedWithDifferentValueTag", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PredefinedConfigStatusInfo(rtxContext* RT_RESTRICT ctx, const PredefinedConfigStatusInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PredefinedConfigStatusInfo");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "PredefinedConfigStatusInfo");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PredefinedConfigStatusInfo");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.other == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "other", -1, "PredefinedConfigStatusInfo");
+         stat = asn1PE_UMTS_PredefinedConfigStatusInfo_other(ctx, pvalue->u.other);
+         RT_CHECK(ctx, stat, 0, "other", -1, "PredefinedConfigStatusInfo");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PredefinedConfigStatusList(rtxContext* RT_RESTRICT ctx, const PredefinedConfigStatusList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PredefinedConfigStatusList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PredefinedConfigStatusList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PredefinedConfigStatusInfo", (int32_t)i, "PredefinedConfigStatusList");
+      stat = asn1PE_UMTS_PredefinedConfigStatusInfo(ctx, (const PredefinedConfigStatusInfo*)node->data);
+      RT_CHECK(ctx, stat, 0, "PredefinedConfigStatusInfo", (int32_t)i, "PredefinedConfigStatusList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PredefinedConfigValueTagList(rtxContext* RT_RESTRICT ctx, const PredefinedConfigValueTagList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PredefinedConfigValueTagList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PredefinedConfigValueTagList");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 15u) {
+         rtxErrAddStrParm(ctx, "PredefinedConfigValueTag");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "PredefinedConfigValueTag", "PredefinedConfigValueTag", (int32_t)i, "PredefinedConfigValueTagList");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 15);
+      RT_CHECK(ctx, stat, "PredefinedConfigValueTag", "PredefinedConfigValueTag", (int32_t)i, "PredefinedConfigValueTagList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PredefinedConfigSetWithDifferentValueTag(rtxContext* RT_RESTRICT ctx, const PredefinedConfigSetWithDifferentValueTag* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PredefinedConfigSetWithDifferentValueTag");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->startPosition != 0) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PredefinedConfigSetWithDifferentValueTag");
+   /* startPosition */
+   if (pvalue->startPosition != 0) {
+      if ((uint64_t)pvalue->startPosition > 10u) {
+         rtxErrAddStrParm(ctx, "startPosition");
+         rtxErrAddUIntParm(ctx, pvalue->startPosition);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "startPosition", -1, "PredefinedConfigSetWithDifferentValueTag");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->startPosition, 0, 10);
+      RT_CHECK(ctx, stat, 0, "startPosition", -1, "PredefinedConfigSetWithDifferentValueTag");
+   }
+   /* valueTagList */
+   stat = asn1PE_UMTS_PredefinedConfigValueTagList(ctx, &pvalue->valueTagList);
+   RT_CHECK(ctx, stat, 0, "valueTagList", -1, "PredefinedConfigSetWithDifferentValueTag");
+   return 0;
+}
+
+int asn1PE_UMTS_PredefinedConfigSetsWithDifferentValueTag(rtxContext* RT_RESTRICT ctx, const PredefinedConfigSetsWithDifferentValueTag* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PredefinedConfigSetsWithDifferentValueTag");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 2);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PredefinedConfigSetsWithDifferentValueTag");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PredefinedConfigSetWithDifferentValueTag", (int32_t)i, "PredefinedConfigSetsWithDifferentValueTag");
+      stat = asn1PE_UMTS_PredefinedConfigSetWithDifferentValueTag(ctx, (const PredefinedConfigSetWithDifferentValueTag*)node->data);
+      RT_CHECK(ctx, stat, 0, "PredefinedConfigSetWithDifferentValueTag", (int32_t)i, "PredefinedConfigSetsWithDifferentValueTag");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PredefinedConfigStatusListVarSz(rtxContext* RT_RESTRICT ctx, const PredefinedConfigStatusListVarSz* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PredefinedConfigStatusListVarSz");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PredefinedConfigStatusListVarSz");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PredefinedConfigStatusInfo", (int32_t)i, "PredefinedConfigStatusListVarSz");
+      stat = asn1PE_UMTS_PredefinedConfigStatusInfo(ctx, (const PredefinedConfigStatusInfo*)node->data);
+      RT_CHECK(ctx, stat, 0, "PredefinedConfigStatusInfo", (int32_t)i, "PredefinedConfigStatusListVarSz");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PredefinedConfigStatusListComp(rtxContext* RT_RESTRICT ctx, const PredefinedConfigStatusListComp* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PredefinedConfigStatusListComp");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PredefinedConfigStatusListComp");
+   /* setsWithDifferentValueTag */
+   stat = asn1PE_UMTS_PredefinedConfigSetsWithDifferentValueTag(ctx, &pvalue->setsWithDifferentValueTag);
+   RT_CHECK(ctx, stat, 0, "setsWithDifferentValueTag", -1, "PredefinedConfigStatusListComp");
+   /* otherEntries */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PredefinedConfigStatusListVarSz(ctx, &pvalue->otherEntries);
+      RT_CHECK(ctx, stat, 0, "otherEntries", -1, "PredefinedConfigStatusListComp");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_Info(rtxContext* RT_RESTRICT ctx, const RAB_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-Info");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-Info");
+   /* rab-Identity */
+   stat = asn1PE_UMTS_RAB_Identity(ctx, &pvalue->rab_Identity);
+   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-Info");
    /* cn-DomainIdentity */
-   rtxCtxtPushElemName(ctx, "cn-DomainIdentity");
-   rtxCtxtPushTypeName(ctx, "CN-DomainIdentity");
    if (pvalue->cn_DomainIdentity > 1) {
       rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-Info");
    }
    stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* cn-pagedUE-Identity */
-   rtxCtxtPushElemName(ctx, "cn-pagedUE-Identity");
-   stat = asn1PE_UMTS_CN_PagedUE_Identity(ctx, &pvalue->cn_pagedUE_Identity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-Info");
+   /* nas-Synchronisation-Indicator */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_NAS_Synchronisation_Indicator(ctx, pvalue->nas_Synchronisation_Indicator);
+      RT_CHECK(ctx, stat, 0, "nas-Synchronisation-Indicator", -1, "RAB-Info");
+   }
+   /* re-EstablishmentTimer */
+   if (pvalue->re_EstablishmentTimer > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->re_EstablishmentTimer);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "Re-EstablishmentTimer", "re-EstablishmentTimer", -1, "RAB-Info");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->re_EstablishmentTimer, 0, 1);
+   RT_CHECK(ctx, stat, "Re-EstablishmentTimer", "re-EstablishmentTimer", -1, "RAB-Info");
    return 0;
 }
 
-int asn1PE_UMTS_SRNC_Identity(rtxContext* ctx, SRNC_Identity value)
+int asn1PE_UMTS_MBMS_SessionIdentity(rtxContext* RT_RESTRICT ctx, const MBMS_SessionIdentity* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SRNC-Identity");
-   RT_SET_SIZE(ctx, 12, 12);
-   stat = pe_BitString32(ctx, &value, 12, 12);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-SessionIdentity");
+   RT_SET_SIZE(ctx, 1, 1);
+   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-SessionIdentity");
    return 0;
 }
 
-int asn1PE_UMTS_S_RNTI(rtxContext* ctx, S_RNTI value)
+int asn1PE_UMTS_RAB_Info_r6_ext(rtxContext* RT_RESTRICT ctx, const RAB_Info_r6_ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "S-RNTI");
-   RT_SET_SIZE(ctx, 20, 20);
-   stat = pe_BitString32(ctx, &value, 20, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-Info-r6-ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-Info-r6-ext");
+   /* mbms-SessionIdentity */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBMS_SessionIdentity(ctx, &pvalue->mbms_SessionIdentity);
+      RT_CHECK(ctx, stat, 0, "mbms-SessionIdentity", -1, "RAB-Info-r6-ext");
+   }
    return 0;
 }
 
-int asn1PE_UMTS_U_RNTI(rtxContext* ctx, const U_RNTI* pvalue)
+int asn1PE_UMTS_RAB_Info_v6b0ext_mbms_ServiceIdentity(rtxContext* RT_RESTRICT ctx, const RAB_Info_v6b0ext_mbms_ServiceIdentity* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "U-RNTI");
-   /* srnc-Identity */
-   rtxCtxtPushElemName(ctx, "srnc-Identity");
-   stat = asn1PE_UMTS_SRNC_Identity(ctx, pvalue->srnc_Identity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* s-RNTI */
-   rtxCtxtPushElemName(ctx, "s-RNTI");
-   stat = asn1PE_UMTS_S_RNTI(ctx, pvalue->s_RNTI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 3, 3);
+   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_Info_v6b0ext(rtxContext* RT_RESTRICT ctx, const RAB_Info_v6b0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-Info-v6b0ext");
+   /* mbms-ServiceIdentity */
+   stat = asn1PE_UMTS_RAB_Info_v6b0ext_mbms_ServiceIdentity(ctx, &pvalue->mbms_ServiceIdentity);
+   RT_CHECK(ctx, stat, 0, "mbms-ServiceIdentity", -1, "RAB-Info-v6b0ext");
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_Info_r6(rtxContext* RT_RESTRICT ctx, const RAB_Info_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-Info-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-Info-r6");
+   /* rab-Identity */
+   stat = asn1PE_UMTS_RAB_Identity(ctx, &pvalue->rab_Identity);
+   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-Info-r6");
+   /* mbms-SessionIdentity */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBMS_SessionIdentity(ctx, &pvalue->mbms_SessionIdentity);
+      RT_CHECK(ctx, stat, 0, "mbms-SessionIdentity", -1, "RAB-Info-r6");
+   }
+   /* cn-DomainIdentity */
+   if (pvalue->cn_DomainIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-Info-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-Info-r6");
+   /* nas-Synchronisation-Indicator */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_NAS_Synchronisation_Indicator(ctx, pvalue->nas_Synchronisation_Indicator);
+      RT_CHECK(ctx, stat, 0, "nas-Synchronisation-Indicator", -1, "RAB-Info-r6");
+   }
+   /* re-EstablishmentTimer */
+   if (pvalue->re_EstablishmentTimer > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->re_EstablishmentTimer);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "Re-EstablishmentTimer", "re-EstablishmentTimer", -1, "RAB-Info-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->re_EstablishmentTimer, 0, 1);
+   RT_CHECK(ctx, stat, "Re-EstablishmentTimer", "re-EstablishmentTimer", -1, "RAB-Info-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_Info_r7_mbms_ServiceIdentity(rtxContext* RT_RESTRICT ctx, const RAB_Info_r7_mbms_ServiceIdentity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 3, 3);
+   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_Info_r7(rtxContext* RT_RESTRICT ctx, const RAB_Info_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-Info-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-Info-r7");
+   /* rab-Identity */
+   stat = asn1PE_UMTS_RAB_Identity(ctx, &pvalue->rab_Identity);
+   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-Info-r7");
+   /* mbms-SessionIdentity */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBMS_SessionIdentity(ctx, &pvalue->mbms_SessionIdentity);
+      RT_CHECK(ctx, stat, 0, "mbms-SessionIdentity", -1, "RAB-Info-r7");
+   }
+   /* mbms-ServiceIdentity */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RAB_Info_r7_mbms_ServiceIdentity(ctx, &pvalue->mbms_ServiceIdentity);
+      RT_CHECK(ctx, stat, 0, "mbms-ServiceIdentity", -1, "RAB-Info-r7");
+   }
+   /* cn-DomainIdentity */
+   if (pvalue->cn_DomainIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-Info-r7");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-Info-r7");
+   /* nas-Synchronisation-Indicator */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_NAS_Synchronisation_Indicator(ctx, pvalue->nas_Synchronisation_Indicator);
+      RT_CHECK(ctx, stat, 0, "nas-Synchronisation-Indicator", -1, "RAB-Info-r7");
+   }
+   /* re-EstablishmentTimer */
+   if (pvalue->re_EstablishmentTimer > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->re_EstablishmentTimer);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "Re-EstablishmentTimer", "re-EstablishmentTimer", -1, "RAB-Info-r7");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->re_EstablishmentTimer, 0, 1);
+   RT_CHECK(ctx, stat, "Re-EstablishmentTimer", "re-EstablishmentTimer", -1, "RAB-Info-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationList(rtxContext* RT_RESTRICT ctx, const RAB_InformationList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RAB-InformationList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RAB-Info", (int32_t)i, "RAB-InformationList");
+      stat = asn1PE_UMTS_RAB_Info(ctx, (const RAB_Info*)node->data);
+      RT_CHECK(ctx, stat, 0, "RAB-Info", (int32_t)i, "RAB-InformationList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationList_r6(rtxContext* RT_RESTRICT ctx, const RAB_InformationList_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationList-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RAB-InformationList-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RAB-Info-r6", (int32_t)i, "RAB-InformationList-r6");
+      stat = asn1PE_UMTS_RAB_Info_r6(ctx, (const RAB_Info_r6*)node->data);
+      RT_CHECK(ctx, stat, 0, "RAB-Info-r6", (int32_t)i, "RAB-InformationList-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationReconfig(rtxContext* RT_RESTRICT ctx, const RAB_InformationReconfig* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationReconfig");
+   /* rab-Identity */
+   stat = asn1PE_UMTS_RAB_Identity(ctx, &pvalue->rab_Identity);
+   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-InformationReconfig");
+   /* cn-DomainIdentity */
+   if (pvalue->cn_DomainIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-InformationReconfig");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-InformationReconfig");
+   /* nas-Synchronisation-Indicator */
+   stat = asn1PE_UMTS_NAS_Synchronisation_Indicator(ctx, pvalue->nas_Synchronisation_Indicator);
+   RT_CHECK(ctx, stat, 0, "nas-Synchronisation-Indicator", -1, "RAB-InformationReconfig");
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationReconfigList(rtxContext* RT_RESTRICT ctx, const RAB_InformationReconfigList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationReconfigList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RAB-InformationReconfigList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RAB-InformationReconfig", (int32_t)i, "RAB-InformationReconfigList");
+      stat = asn1PE_UMTS_RAB_InformationReconfig(ctx, (const RAB_InformationReconfig*)node->data);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationReconfig", (int32_t)i, "RAB-InformationReconfigList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationReconfig_r8(rtxContext* RT_RESTRICT ctx, const RAB_InformationReconfig_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationReconfig-r8");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationReconfig-r8");
+   /* rab-Identity */
+   stat = asn1PE_UMTS_RAB_Identity(ctx, &pvalue->rab_Identity);
+   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-InformationReconfig-r8");
+   /* cn-DomainIdentity */
+   if (pvalue->cn_DomainIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-InformationReconfig-r8");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-InformationReconfig-r8");
+   /* nas-Synchronisation-Indicator */
+   stat = asn1PE_UMTS_NAS_Synchronisation_Indicator(ctx, pvalue->nas_Synchronisation_Indicator);
+   RT_CHECK(ctx, stat, 0, "nas-Synchronisation-Indicator", -1, "RAB-InformationReconfig-r8");
+   /* cs-HSPA-Information */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CS_HSPA_Information(ctx, &pvalue->cs_HSPA_Information);
+      RT_CHECK(ctx, stat, 0, "cs-HSPA-Information", -1, "RAB-InformationReconfig-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationReconfigList_r8(rtxContext* RT_RESTRICT ctx, const RAB_InformationReconfigList_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationReconfigList-r8");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RAB-InformationReconfigList-r8");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RAB-InformationReconfig-r8", (int32_t)i, "RAB-InformationReconfigList-r8");
+      stat = asn1PE_UMTS_RAB_InformationReconfig_r8(ctx, (const RAB_InformationReconfig_r8*)node->data);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationReconfig-r8", (int32_t)i, "RAB-InformationReconfigList-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_Info_Post(rtxContext* RT_RESTRICT ctx, const RAB_Info_Post* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-Info-Post");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-Info-Post");
+   /* rab-Identity */
+   stat = asn1PE_UMTS_RAB_Identity(ctx, &pvalue->rab_Identity);
+   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-Info-Post");
+   /* cn-DomainIdentity */
+   if (pvalue->cn_DomainIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-Info-Post");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-Info-Post");
+   /* nas-Synchronisation-Indicator */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_NAS_Synchronisation_Indicator(ctx, pvalue->nas_Synchronisation_Indicator);
+      RT_CHECK(ctx, stat, 0, "nas-Synchronisation-Indicator", -1, "RAB-Info-Post");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationMBMSPtp_mbms_ServiceIdentity(rtxContext* RT_RESTRICT ctx, const RAB_InformationMBMSPtp_mbms_ServiceIdentity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 3, 3);
+   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationMBMSPtp(rtxContext* RT_RESTRICT ctx, const RAB_InformationMBMSPtp* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationMBMSPtp");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationMBMSPtp");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RAB-InformationMBMSPtp");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RAB-InformationMBMSPtp");
+   /* mbms-ServiceIdentity */
+   stat = asn1PE_UMTS_RAB_InformationMBMSPtp_mbms_ServiceIdentity(ctx, &pvalue->mbms_ServiceIdentity);
+   RT_CHECK(ctx, stat, 0, "mbms-ServiceIdentity", -1, "RAB-InformationMBMSPtp");
+   /* mbms-SessionIdentity */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBMS_SessionIdentity(ctx, &pvalue->mbms_SessionIdentity);
+      RT_CHECK(ctx, stat, 0, "mbms-SessionIdentity", -1, "RAB-InformationMBMSPtp");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationMBMSPtpList(rtxContext* RT_RESTRICT ctx, const RAB_InformationMBMSPtpList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationMBMSPtpList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RAB-InformationMBMSPtpList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RAB-InformationMBMSPtp", (int32_t)i, "RAB-InformationMBMSPtpList");
+      stat = asn1PE_UMTS_RAB_InformationMBMSPtp(ctx, (const RAB_InformationMBMSPtp*)node->data);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationMBMSPtp", (int32_t)i, "RAB-InformationMBMSPtpList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationSetup(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetup");
+   /* rab-Info */
+   stat = asn1PE_UMTS_RAB_Info(ctx, &pvalue->rab_Info);
+   RT_CHECK(ctx, stat, 0, "rab-Info", -1, "RAB-InformationSetup");
+   /* rb-InformationSetupList */
+   stat = asn1PE_UMTS_RB_InformationSetupList(ctx, &pvalue->rb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "rb-InformationSetupList", -1, "RAB-InformationSetup");
    return 0;
 }
 

@@ -6,1379 +6,291 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PE_UMTS_PagingRecord_utran_Identity_cn_OriginatedPage_connectedMode_UE(rtxContext* ctx, const PagingRecord_utran_Identity_cn_OriginatedPage_connectedMode_UE* pvalue)
+int asn1PE_UMTS_RB_InformationSetup_r4(rtxContext* RT_RESTRICT ctx, const RB_InformationSetup_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* pagingCause */
-   rtxCtxtPushElemName(ctx, "pagingCause");
-   rtxCtxtPushTypeName(ctx, "PagingCause");
-   if (pvalue->pagingCause > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->pagingCause);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pagingCause, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* cn-DomainIdentity */
-   rtxCtxtPushElemName(ctx, "cn-DomainIdentity");
-   rtxCtxtPushTypeName(ctx, "CN-DomainIdentity");
-   if (pvalue->cn_DomainIdentity > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* pagingRecordTypeID */
-   rtxCtxtPushElemName(ctx, "pagingRecordTypeID");
-   rtxCtxtPushTypeName(ctx, "PagingRecordTypeID");
-   if (pvalue->pagingRecordTypeID > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->pagingRecordTypeID);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pagingRecordTypeID, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PagingRecord_utran_Identity(rtxContext* ctx, const PagingRecord_utran_Identity* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationSetup-r4");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* u-RNTI */
-   rtxCtxtPushElemName(ctx, "u-RNTI");
-   stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cn-OriginatedPage-connectedMode-UE */
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationSetup-r4");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r4");
+   /* pdcp-Info */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cn-OriginatedPage-connectedMode-UE");
-      stat = asn1PE_UMTS_PagingRecord_utran_Identity_cn_OriginatedPage_connectedMode_UE(ctx, &pvalue->cn_OriginatedPage_connectedMode_UE);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_PDCP_Info_r4(ctx, &pvalue->pdcp_Info);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationSetup-r4");
    }
+   /* rlc-InfoChoice */
+   stat = asn1PE_UMTS_RLC_InfoChoice(ctx, &pvalue->rlc_InfoChoice);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "RB-InformationSetup-r4");
+   /* rb-MappingInfo */
+   stat = asn1PE_UMTS_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationSetup-r4");
    return 0;
 }
 
-int asn1PE_UMTS_PagingRecord(rtxContext* ctx, const PagingRecord* pvalue)
+int asn1PE_UMTS_RB_InformationSetupList_r4(rtxContext* RT_RESTRICT ctx, const RB_InformationSetupList_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PagingRecord");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "cn-Identity");
-         if (pvalue->u.cn_Identity == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PagingRecord_cn_Identity(ctx, pvalue->u.cn_Identity);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "utran-Identity");
-         if (pvalue->u.utran_Identity == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PagingRecord_utran_Identity(ctx, pvalue->u.utran_Identity);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PagingRecord2_r5_utran_SingleUE_Identity_cn_OriginatedPage_connectedMode_UE(rtxContext* ctx, const PagingRecord2_r5_utran_SingleUE_Identity_cn_OriginatedPage_connectedMode_UE* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* pagingCause */
-   rtxCtxtPushElemName(ctx, "pagingCause");
-   rtxCtxtPushTypeName(ctx, "PagingCause");
-   if (pvalue->pagingCause > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->pagingCause);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pagingCause, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* cn-DomainIdentity */
-   rtxCtxtPushElemName(ctx, "cn-DomainIdentity");
-   rtxCtxtPushTypeName(ctx, "CN-DomainIdentity");
-   if (pvalue->cn_DomainIdentity > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* pagingRecordTypeID */
-   rtxCtxtPushElemName(ctx, "pagingRecordTypeID");
-   rtxCtxtPushTypeName(ctx, "PagingRecordTypeID");
-   if (pvalue->pagingRecordTypeID > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->pagingRecordTypeID);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pagingRecordTypeID, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PagingRecord2_r5_utran_SingleUE_Identity(rtxContext* ctx, const PagingRecord2_r5_utran_SingleUE_Identity* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* u-RNTI */
-   rtxCtxtPushElemName(ctx, "u-RNTI");
-   stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cn-OriginatedPage-connectedMode-UE */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cn-OriginatedPage-connectedMode-UE");
-      stat = asn1PE_UMTS_PagingRecord2_r5_utran_SingleUE_Identity_cn_OriginatedPage_connectedMode_UE(ctx, &pvalue->cn_OriginatedPage_connectedMode_UE);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rrc-ConnectionReleaseInformation */
-   rtxCtxtPushElemName(ctx, "rrc-ConnectionReleaseInformation");
-   stat = asn1PE_UMTS_RRC_ConnectionReleaseInformation(ctx, &pvalue->rrc_ConnectionReleaseInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PagingRecord2_r5_utran_GroupIdentity(rtxContext* ctx, const PagingRecord2_r5_utran_GroupIdentity* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationSetupList-r4");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 8);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-InformationSetupList-r4");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "GroupIdentityWithReleaseInformation", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_GroupIdentityWithReleaseInformation(ctx, (const GroupIdentityWithReleaseInformation*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-InformationSetup-r4", (int32_t)i, "RB-InformationSetupList-r4");
+      stat = asn1PE_UMTS_RB_InformationSetup_r4(ctx, (const RB_InformationSetup_r4*)node->data);
+      RT_CHECK(ctx, stat, 0, "RB-InformationSetup-r4", (int32_t)i, "RB-InformationSetupList-r4");
    }
    return 0;
 }
 
-int asn1PE_UMTS_PagingRecord2_r5(rtxContext* ctx, const PagingRecord2_r5* pvalue)
+int asn1PE_UMTS_RAB_InformationSetup_r4(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PagingRecord2-r5");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "utran-SingleUE-Identity");
-         if (pvalue->u.utran_SingleUE_Identity == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PagingRecord2_r5_utran_SingleUE_Identity(ctx, pvalue->u.utran_SingleUE_Identity);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "utran-GroupIdentity");
-         if (pvalue->u.utran_GroupIdentity == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PagingRecord2_r5_utran_GroupIdentity(ctx, pvalue->u.utran_GroupIdentity);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetup-r4");
+   /* rab-Info */
+   stat = asn1PE_UMTS_RAB_Info(ctx, &pvalue->rab_Info);
+   RT_CHECK(ctx, stat, 0, "rab-Info", -1, "RAB-InformationSetup-r4");
+   /* rb-InformationSetupList */
+   stat = asn1PE_UMTS_RB_InformationSetupList_r4(ctx, &pvalue->rb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "rb-InformationSetupList", -1, "RAB-InformationSetup-r4");
    return 0;
 }
 
-int asn1PE_UMTS_PagingRecordList(rtxContext* ctx, const PagingRecordList* pvalue)
+int asn1PE_UMTS_RLC_Info_r5(rtxContext* RT_RESTRICT ctx, const RLC_Info_r5* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "PagingRecordList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "PagingRecord", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_PagingRecord(ctx, (const PagingRecord*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PagingRecord2List_r5(rtxContext* ctx, const PagingRecord2List_r5* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "PagingRecord2List-r5");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "PagingRecord2-r5", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_PagingRecord2_r5(ctx, (const PagingRecord2_r5*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PDCP_Capability_supportForRfc2507(rtxContext* ctx, const PDCP_Capability_supportForRfc2507* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "notSupported");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "supported");
-         rtxCtxtPushTypeName(ctx, "MaxHcContextSpace");
-         if (pvalue->u.supported > 4) {
-            rtxErrAddUIntParm(ctx, pvalue->u.supported);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.supported, 0, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDCP_Capability(rtxContext* ctx, const PDCP_Capability* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PDCP-Capability");
-   /* losslessSRNS-RelocationSupport */
-   rtxCtxtPushElemName(ctx, "losslessSRNS-RelocationSupport");
-   stat = rtxEncBit(ctx, pvalue->losslessSRNS_RelocationSupport);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* supportForRfc2507 */
-   rtxCtxtPushElemName(ctx, "supportForRfc2507");
-   stat = asn1PE_UMTS_PDCP_Capability_supportForRfc2507(ctx, &pvalue->supportForRfc2507);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PDCP_Capability_r4_ext_supportForRfc3095_supported(rtxContext* ctx, const PDCP_Capability_r4_ext_supportForRfc3095_supported* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->maxROHC_ContextSessions != 4) << 1) |
-      ((uint64_t)(pvalue->reverseCompressionDepth != 0) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* maxROHC-ContextSessions */
-   if (pvalue->maxROHC_ContextSessions != 4) {
-      rtxCtxtPushElemName(ctx, "maxROHC-ContextSessions");
-      rtxCtxtPushTypeName(ctx, "MaxROHC-ContextSessions-r4");
-      if (pvalue->maxROHC_ContextSessions > 13) {
-         rtxErrAddUIntParm(ctx, pvalue->maxROHC_ContextSessions);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->maxROHC_ContextSessions, 0, 13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reverseCompressionDepth */
-   if (pvalue->reverseCompressionDepth != 0) {
-      rtxCtxtPushElemName(ctx, "reverseCompressionDepth");
-      stat = pe_ConsUInt64(ctx, pvalue->reverseCompressionDepth, 0, 65535);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDCP_Capability_r4_ext_supportForRfc3095(rtxContext* ctx, const PDCP_Capability_r4_ext_supportForRfc3095* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "notSupported");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "supported");
-         if (pvalue->u.supported == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PDCP_Capability_r4_ext_supportForRfc3095_supported(ctx, pvalue->u.supported);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDCP_Capability_r4_ext(rtxContext* ctx, const PDCP_Capability_r4_ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PDCP-Capability-r4-ext");
-   /* supportForRfc3095 */
-   rtxCtxtPushElemName(ctx, "supportForRfc3095");
-   stat = asn1PE_UMTS_PDCP_Capability_r4_ext_supportForRfc3095(ctx, &pvalue->supportForRfc3095);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PDCP_Capability_r5_ext(rtxContext* ctx, const PDCP_Capability_r5_ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PDCP-Capability-r5-ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* supportForRfc3095ContextRelocation */
-   rtxCtxtPushElemName(ctx, "supportForRfc3095ContextRelocation");
-   stat = rtxEncBit(ctx, pvalue->supportForRfc3095ContextRelocation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* maxHcContextSpace */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "maxHcContextSpace");
-      rtxCtxtPushTypeName(ctx, "MaxHcContextSpace-r5-ext");
-      if (pvalue->maxHcContextSpace > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->maxHcContextSpace);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->maxHcContextSpace, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PDCP_Capability_r5_ext2_losslessDLRLC_PDUSizeChange(rtxContext* ctx, PDCP_Capability_r5_ext2_losslessDLRLC_PDUSizeChange value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_PDCP_Capability_r5_ext2(rtxContext* ctx, const PDCP_Capability_r5_ext2* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PDCP-Capability-r5-ext2");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* losslessDLRLC-PDUSizeChange */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "losslessDLRLC-PDUSizeChange");
-      if (pvalue->losslessDLRLC_PDUSizeChange > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->losslessDLRLC_PDUSizeChange);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->losslessDLRLC_PDUSizeChange, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PDCP_Capability_v770ext_supportForCSVoiceoverHSPA(rtxContext* ctx, PDCP_Capability_v770ext_supportForCSVoiceoverHSPA value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_PDCP_Capability_v770ext(rtxContext* ctx, const PDCP_Capability_v770ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PDCP-Capability-v770ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* supportForCSVoiceoverHSPA */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "supportForCSVoiceoverHSPA");
-      if (pvalue->supportForCSVoiceoverHSPA > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportForCSVoiceoverHSPA);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportForCSVoiceoverHSPA, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_PhysChCapabilityFDD(rtxContext* ctx, const UL_PhysChCapabilityFDD* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-PhysChCapabilityFDD");
-   /* maxNoDPDCH-BitsTransmitted */
-   rtxCtxtPushElemName(ctx, "maxNoDPDCH-BitsTransmitted");
-   rtxCtxtPushTypeName(ctx, "MaxNoDPDCH-BitsTransmitted");
-   if (pvalue->maxNoDPDCH_BitsTransmitted > 9) {
-      rtxErrAddUIntParm(ctx, pvalue->maxNoDPDCH_BitsTransmitted);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxNoDPDCH_BitsTransmitted, 0, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dummy */
-   rtxCtxtPushElemName(ctx, "dummy");
-   stat = rtxEncBit(ctx, pvalue->dummy);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_fddPhysChCapability(rtxContext* ctx, const PhysicalChannelCapability_fddPhysChCapability* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* downlinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "downlinkPhysChCapability");
-   stat = asn1PE_UMTS_DL_PhysChCapabilityFDD(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* uplinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "uplinkPhysChCapability");
-   stat = asn1PE_UMTS_UL_PhysChCapabilityFDD(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_PhysChCapabilityTDD(rtxContext* ctx, const UL_PhysChCapabilityTDD* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-PhysChCapabilityTDD");
-   /* maxTS-PerFrame */
-   rtxCtxtPushElemName(ctx, "maxTS-PerFrame");
-   rtxCtxtPushTypeName(ctx, "MaxTS-PerFrame");
-   if ((uint64_t)(pvalue->maxTS_PerFrame - 1) > 13u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->maxTS_PerFrame);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxTS_PerFrame, 1, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maxPhysChPerTimeslot */
-   rtxCtxtPushElemName(ctx, "maxPhysChPerTimeslot");
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerTimeslot");
-   if (pvalue->maxPhysChPerTimeslot > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerTimeslot);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerTimeslot, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* minimumSF */
-   rtxCtxtPushElemName(ctx, "minimumSF");
-   rtxCtxtPushTypeName(ctx, "MinimumSF-UL");
-   if (pvalue->minimumSF > 4) {
-      rtxErrAddUIntParm(ctx, pvalue->minimumSF);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->minimumSF, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* supportOfPUSCH */
-   rtxCtxtPushElemName(ctx, "supportOfPUSCH");
-   stat = rtxEncBit(ctx, pvalue->supportOfPUSCH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_tddPhysChCapability(rtxContext* ctx, const PhysicalChannelCapability_tddPhysChCapability* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* downlinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "downlinkPhysChCapability");
-   stat = asn1PE_UMTS_DL_PhysChCapabilityTDD(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* uplinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "uplinkPhysChCapability");
-   stat = asn1PE_UMTS_UL_PhysChCapabilityTDD(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability(rtxContext* ctx, const PhysicalChannelCapability* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelCapability");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-Info-r5");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* fddPhysChCapability */
+   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-Info-r5");
+   /* ul-RLC-Mode */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "fddPhysChCapability");
-      stat = asn1PE_UMTS_PhysicalChannelCapability_fddPhysChCapability(ctx, &pvalue->fddPhysChCapability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UL_RLC_Mode(ctx, &pvalue->ul_RLC_Mode);
+      RT_CHECK(ctx, stat, 0, "ul-RLC-Mode", -1, "RLC-Info-r5");
    }
-   /* tddPhysChCapability */
+   /* dl-RLC-Mode */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "tddPhysChCapability");
-      stat = asn1PE_UMTS_PhysicalChannelCapability_tddPhysChCapability(ctx, &pvalue->tddPhysChCapability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_DL_RLC_Mode_r5(ctx, &pvalue->dl_RLC_Mode);
+      RT_CHECK(ctx, stat, 0, "dl-RLC-Mode", -1, "RLC-Info-r5");
    }
-   rtxCtxtPopTypeName(ctx);
+   /* rlc-OneSidedReEst */
+   stat = rtxEncBit(ctx, pvalue->rlc_OneSidedReEst);
+   RT_CHECK(ctx, stat, 0, "rlc-OneSidedReEst", -1, "RLC-Info-r5");
    return 0;
 }
 
-int asn1PE_UMTS_UL_PhysChCapabilityFDD_v770ext_discontinuousDpcchTransmission(rtxContext* ctx, UL_PhysChCapabilityFDD_v770ext_discontinuousDpcchTransmission value)
+int asn1PE_UMTS_RLC_InfoChoice_r5(rtxContext* RT_RESTRICT ctx, const RLC_InfoChoice_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-InfoChoice-r5");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "RLC-InfoChoice-r5");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RLC-InfoChoice-r5");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.rlc_Info == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "rlc-Info", -1, "RLC-InfoChoice-r5");
+         stat = asn1PE_UMTS_RLC_Info_r5(ctx, pvalue->u.rlc_Info);
+         RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RLC-InfoChoice-r5");
+         break;
+      case 2:
+         if ((uint64_t)(pvalue->u.same_as_RB - 1) > 31u) {
+            rtxErrAddStrParm(ctx, "RB-Identity");
+            rtxErrAddUIntParm(ctx, pvalue->u.same_as_RB);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "same-as-RB", -1, "RLC-InfoChoice-r5");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.same_as_RB, 1, 32);
+         RT_CHECK(ctx, stat, "RB-Identity", "same-as-RB", -1, "RLC-InfoChoice-r5");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_MappingOption_r5(rtxContext* RT_RESTRICT ctx, const RB_MappingOption_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-MappingOption-r5");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-MappingOption-r5");
+   /* ul-LogicalChannelMappings */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UL_LogicalChannelMappings(ctx, &pvalue->ul_LogicalChannelMappings);
+      RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMappings", -1, "RB-MappingOption-r5");
+   }
+   /* dl-LogicalChannelMappingList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_DL_LogicalChannelMappingList_r5(ctx, &pvalue->dl_LogicalChannelMappingList);
+      RT_CHECK(ctx, stat, 0, "dl-LogicalChannelMappingList", -1, "RB-MappingOption-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_MappingInfo_r5(rtxContext* RT_RESTRICT ctx, const RB_MappingInfo_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-MappingInfo-r5");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-MappingInfo-r5");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-MappingOption-r5", (int32_t)i, "RB-MappingInfo-r5");
+      stat = asn1PE_UMTS_RB_MappingOption_r5(ctx, (const RB_MappingOption_r5*)node->data);
+      RT_CHECK(ctx, stat, 0, "RB-MappingOption-r5", (int32_t)i, "RB-MappingInfo-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationSetup_r5(rtxContext* RT_RESTRICT ctx, const RB_InformationSetup_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationSetup-r5");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationSetup-r5");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r5");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r5");
+   /* pdcp-Info */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PDCP_Info_r4(ctx, &pvalue->pdcp_Info);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationSetup-r5");
+   }
+   /* rlc-InfoChoice */
+   stat = asn1PE_UMTS_RLC_InfoChoice_r5(ctx, &pvalue->rlc_InfoChoice);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "RB-InformationSetup-r5");
+   /* rb-MappingInfo */
+   stat = asn1PE_UMTS_RB_MappingInfo_r5(ctx, &pvalue->rb_MappingInfo);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationSetup-r5");
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationSetupList_r5(rtxContext* RT_RESTRICT ctx, const RB_InformationSetupList_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationSetupList-r5");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-InformationSetupList-r5");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-InformationSetup-r5", (int32_t)i, "RB-InformationSetupList-r5");
+      stat = asn1PE_UMTS_RB_InformationSetup_r5(ctx, (const RB_InformationSetup_r5*)node->data);
+      RT_CHECK(ctx, stat, 0, "RB-InformationSetup-r5", (int32_t)i, "RB-InformationSetupList-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationSetup_r5(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetup-r5");
+   /* rab-Info */
+   stat = asn1PE_UMTS_RAB_Info(ctx, &pvalue->rab_Info);
+   RT_CHECK(ctx, stat, 0, "rab-Info", -1, "RAB-InformationSetup-r5");
+   /* rb-InformationSetupList */
+   stat = asn1PE_UMTS_RB_InformationSetupList_r5(ctx, &pvalue->rb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "rb-InformationSetupList", -1, "RAB-InformationSetup-r5");
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationSetup_r6_ext(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_r6_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetup-r6-ext");
+   /* rab-Info-r6-ext */
+   stat = asn1PE_UMTS_RAB_Info_r6_ext(ctx, &pvalue->rab_Info_r6_ext);
+   RT_CHECK(ctx, stat, 0, "rab-Info-r6-ext", -1, "RAB-InformationSetup-r6-ext");
+   return 0;
+}
+
+int asn1PE_UMTS_RLC_Info_r6_altE_bitInterpretation(rtxContext* RT_RESTRICT ctx, RLC_Info_r6_altE_bitInterpretation value)
 {
    int stat = 0;
    if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_UL_PhysChCapabilityFDD_v770ext_slotFormat4(rtxContext* ctx, UL_PhysChCapabilityFDD_v770ext_slotFormat4 value)
+int asn1PE_UMTS_RLC_Info_r6(rtxContext* RT_RESTRICT ctx, const RLC_Info_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_PhysChCapabilityFDD_v770ext(rtxContext* ctx, const UL_PhysChCapabilityFDD_v770ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-PhysChCapabilityFDD-v770ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-Info-r6");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* edch-PhysicalLayerCategory-extension */
+   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-Info-r6");
+   /* ul-RLC-Mode */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "edch-PhysicalLayerCategory-extension");
-      if ((uint64_t)(pvalue->edch_PhysicalLayerCategory_extension - 7) > 0u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->edch_PhysicalLayerCategory_extension);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->edch_PhysicalLayerCategory_extension, 7, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UL_RLC_Mode(ctx, &pvalue->ul_RLC_Mode);
+      RT_CHECK(ctx, stat, 0, "ul-RLC-Mode", -1, "RLC-Info-r6");
    }
-   /* discontinuousDpcchTransmission */
+   /* dl-RLC-Mode */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "discontinuousDpcchTransmission");
-      if (pvalue->discontinuousDpcchTransmission > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->discontinuousDpcchTransmission);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->discontinuousDpcchTransmission, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_DL_RLC_Mode_r6(ctx, &pvalue->dl_RLC_Mode);
+      RT_CHECK(ctx, stat, 0, "dl-RLC-Mode", -1, "RLC-Info-r6");
    }
-   /* slotFormat4 */
+   /* rlc-OneSidedReEst */
+   stat = rtxEncBit(ctx, pvalue->rlc_OneSidedReEst);
+   RT_CHECK(ctx, stat, 0, "rlc-OneSidedReEst", -1, "RLC-Info-r6");
+   /* altE-bitInterpretation */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "slotFormat4");
-      if (pvalue->slotFormat4 > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->slotFormat4);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+      if (pvalue->altE_bitInterpretation > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->altE_bitInterpretation);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "altE-bitInterpretation", -1, "RLC-Info-r6");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->slotFormat4, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->altE_bitInterpretation, 0, 0);
+      RT_CHECK(ctx, stat, 0, "altE-bitInterpretation", -1, "RLC-Info-r6");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PhysicalChannelCapability_v770ext_fddPhysChCapability(rtxContext* ctx, const PhysicalChannelCapability_v770ext_fddPhysChCapability* pvalue)
+int asn1PE_UMTS_RLC_InfoChoice_r6(rtxContext* RT_RESTRICT ctx, const RLC_InfoChoice_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* downlinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "downlinkPhysChCapability");
-   stat = asn1PE_UMTS_DL_PhysChCapabilityFDD_v770ext(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* uplinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "uplinkPhysChCapability");
-   stat = asn1PE_UMTS_UL_PhysChCapabilityFDD_v770ext(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported(rtxContext* ctx, const UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* tdd-edch-PhysicalLayerCategory */
-   rtxCtxtPushElemName(ctx, "tdd-edch-PhysicalLayerCategory");
-   if ((uint64_t)(pvalue->tdd_edch_PhysicalLayerCategory - 1) > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->tdd_edch_PhysicalLayerCategory);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tdd_edch_PhysicalLayerCategory, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch(rtxContext* ctx, const UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-InfoChoice-r6");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "RLC-InfoChoice-r6");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RLC-InfoChoice-r6");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "supported");
-         if (pvalue->u.supported == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported(ctx, pvalue->u.supported);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.rlc_Info == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "rlc-Info", -1, "RLC-InfoChoice-r6");
+         stat = asn1PE_UMTS_RLC_Info_r6(ctx, pvalue->u.rlc_Info);
+         RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RLC-InfoChoice-r6");
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "unsupported");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_PhysChCapabilityTDD_384_v770ext(rtxContext* ctx, const UL_PhysChCapabilityTDD_384_v770ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-PhysChCapabilityTDD-384-v770ext");
-   /* tdd384-edch */
-   rtxCtxtPushElemName(ctx, "tdd384-edch");
-   stat = asn1PE_UMTS_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch(ctx, &pvalue->tdd384_edch);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_384(rtxContext* ctx, const PhysicalChannelCapability_v770ext_tddPhysChCapability_384* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* uplinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "uplinkPhysChCapability");
-   stat = asn1PE_UMTS_UL_PhysChCapabilityTDD_384_v770ext(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_PhysChCapabilityTDD_768_tdd384_edch_supported(rtxContext* ctx, const UL_PhysChCapabilityTDD_768_tdd384_edch_supported* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* tdd-edch-PhysicalLayerCategory */
-   rtxCtxtPushElemName(ctx, "tdd-edch-PhysicalLayerCategory");
-   if ((uint64_t)(pvalue->tdd_edch_PhysicalLayerCategory - 1) > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->tdd_edch_PhysicalLayerCategory);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tdd_edch_PhysicalLayerCategory, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_PhysChCapabilityTDD_768_tdd384_edch(rtxContext* ctx, const UL_PhysChCapabilityTDD_768_tdd384_edch* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "supported");
-         if (pvalue->u.supported == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_PhysChCapabilityTDD_768_tdd384_edch_supported(ctx, pvalue->u.supported);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "unsupported");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_PhysChCapabilityTDD_768(rtxContext* ctx, const UL_PhysChCapabilityTDD_768* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-PhysChCapabilityTDD-768");
-   /* maxTS-PerFrame */
-   rtxCtxtPushElemName(ctx, "maxTS-PerFrame");
-   rtxCtxtPushTypeName(ctx, "MaxTS-PerFrame");
-   if ((uint64_t)(pvalue->maxTS_PerFrame - 1) > 13u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->maxTS_PerFrame);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxTS_PerFrame, 1, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maxPhysChPerTimeslot */
-   rtxCtxtPushElemName(ctx, "maxPhysChPerTimeslot");
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerTimeslot");
-   if (pvalue->maxPhysChPerTimeslot > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerTimeslot);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerTimeslot, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* minimumSF */
-   rtxCtxtPushElemName(ctx, "minimumSF");
-   rtxCtxtPushTypeName(ctx, "MinimumSF-UL");
-   if (pvalue->minimumSF > 4) {
-      rtxErrAddUIntParm(ctx, pvalue->minimumSF);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->minimumSF, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* supportOfPUSCH */
-   rtxCtxtPushElemName(ctx, "supportOfPUSCH");
-   stat = rtxEncBit(ctx, pvalue->supportOfPUSCH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tdd384-edch */
-   rtxCtxtPushElemName(ctx, "tdd384-edch");
-   stat = asn1PE_UMTS_UL_PhysChCapabilityTDD_768_tdd384_edch(ctx, &pvalue->tdd384_edch);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_768(rtxContext* ctx, const PhysicalChannelCapability_v770ext_tddPhysChCapability_768* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* downlinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "downlinkPhysChCapability");
-   stat = asn1PE_UMTS_DL_PhysChCapabilityTDD_768(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* uplinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "uplinkPhysChCapability");
-   stat = asn1PE_UMTS_UL_PhysChCapabilityTDD_768(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported(rtxContext* ctx, const UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* tdd-edch-PhysicalLayerCategory */
-   rtxCtxtPushElemName(ctx, "tdd-edch-PhysicalLayerCategory");
-   if ((uint64_t)(pvalue->tdd_edch_PhysicalLayerCategory - 1) > 5u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->tdd_edch_PhysicalLayerCategory);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tdd_edch_PhysicalLayerCategory, 1, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch(rtxContext* ctx, const UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "supported");
-         if (pvalue->u.supported == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported(ctx, pvalue->u.supported);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "unsupported");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_PhysChCapabilityTDD_128_v770ext(rtxContext* ctx, const UL_PhysChCapabilityTDD_128_v770ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-PhysChCapabilityTDD-128-v770ext");
-   /* maxPhysChPerTimeslot */
-   rtxCtxtPushElemName(ctx, "maxPhysChPerTimeslot");
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerTimeslot-LCR-r7");
-   if ((uint64_t)(pvalue->maxPhysChPerTimeslot - 1) > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerTimeslot);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerTimeslot, 1, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* tdd128-edch */
-   rtxCtxtPushElemName(ctx, "tdd128-edch");
-   stat = asn1PE_UMTS_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch(ctx, &pvalue->tdd128_edch);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_128(rtxContext* ctx, const PhysicalChannelCapability_v770ext_tddPhysChCapability_128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* downlinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "downlinkPhysChCapability");
-   stat = asn1PE_UMTS_DL_PhysChCapabilityTDD_128_v770ext(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* uplinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "uplinkPhysChCapability");
-   stat = asn1PE_UMTS_UL_PhysChCapabilityTDD_128_v770ext(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_v770ext(rtxContext* ctx, const PhysicalChannelCapability_v770ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelCapability-v770ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* fddPhysChCapability */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "fddPhysChCapability");
-      stat = asn1PE_UMTS_PhysicalChannelCapability_v770ext_fddPhysChCapability(ctx, &pvalue->fddPhysChCapability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tddPhysChCapability-384 */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "tddPhysChCapability-384");
-      stat = asn1PE_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_384(ctx, &pvalue->tddPhysChCapability_384);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tddPhysChCapability-768 */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "tddPhysChCapability-768");
-      stat = asn1PE_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_768(ctx, &pvalue->tddPhysChCapability_768);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tddPhysChCapability-128 */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "tddPhysChCapability-128");
-      stat = asn1PE_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_128(ctx, &pvalue->tddPhysChCapability_128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_v860ext_fddPhysChCapability(rtxContext* ctx, const PhysicalChannelCapability_v860ext_fddPhysChCapability* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* downlinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "downlinkPhysChCapability");
-   stat = asn1PE_UMTS_DL_PhysChCapabilityFDD_v860ext(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_v860ext_tddPhysChCapability_128(rtxContext* ctx, const PhysicalChannelCapability_v860ext_tddPhysChCapability_128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* downlinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "downlinkPhysChCapability");
-   stat = asn1PE_UMTS_DL_PhysChCapabilityTDD_128_v860ext(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_v860ext(rtxContext* ctx, const PhysicalChannelCapability_v860ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelCapability-v860ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* fddPhysChCapability */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "fddPhysChCapability");
-      stat = asn1PE_UMTS_PhysicalChannelCapability_v860ext_fddPhysChCapability(ctx, &pvalue->fddPhysChCapability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tddPhysChCapability-128 */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "tddPhysChCapability-128");
-      stat = asn1PE_UMTS_PhysicalChannelCapability_v860ext_tddPhysChCapability_128(ctx, &pvalue->tddPhysChCapability_128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_PhysChCapabilityFDD_v920ext(rtxContext* ctx, const UL_PhysChCapabilityFDD_v920ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-PhysChCapabilityFDD-v920ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* edch-PhysicalLayerCategory-extension2 */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "edch-PhysicalLayerCategory-extension2");
-      if ((uint64_t)(pvalue->edch_PhysicalLayerCategory_extension2 - 8) > 1u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->edch_PhysicalLayerCategory_extension2);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->edch_PhysicalLayerCategory_extension2, 8, 9);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_v920ext_fddPhysChCapability(rtxContext* ctx, const PhysicalChannelCapability_v920ext_fddPhysChCapability* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* downlinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "downlinkPhysChCapability");
-   stat = asn1PE_UMTS_DL_PhysChCapabilityFDD_v920ext(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* uplinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "uplinkPhysChCapability");
-   stat = asn1PE_UMTS_UL_PhysChCapabilityFDD_v920ext(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_v920ext(rtxContext* ctx, const PhysicalChannelCapability_v920ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelCapability-v920ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* fddPhysChCapability */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "fddPhysChCapability");
-      stat = asn1PE_UMTS_PhysicalChannelCapability_v920ext_fddPhysChCapability(ctx, &pvalue->fddPhysChCapability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_768(rtxContext* ctx, const PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_768* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* downlinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "downlinkPhysChCapability");
-   stat = asn1PE_UMTS_DL_PhysChCapabilityInfoTDD_768(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* uplinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "uplinkPhysChCapability");
-   stat = asn1PE_UMTS_UL_PhysChCapabilityTDD(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_PhysChCapabilityInfoTDD_128_v770ext(rtxContext* ctx, const UL_PhysChCapabilityInfoTDD_128_v770ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-PhysChCapabilityInfoTDD-128-v770ext");
-   /* maxPhysChPerTimeslot */
-   rtxCtxtPushElemName(ctx, "maxPhysChPerTimeslot");
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerTimeslot-LCR-r7");
-   if ((uint64_t)(pvalue->maxPhysChPerTimeslot - 1) > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerTimeslot);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerTimeslot, 1, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_128(rtxContext* ctx, const PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* uplinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "uplinkPhysChCapability");
-   stat = asn1PE_UMTS_UL_PhysChCapabilityInfoTDD_128_v770ext(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapabilityInfo_v770ext(rtxContext* ctx, const PhysicalChannelCapabilityInfo_v770ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelCapabilityInfo-v770ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* tddPhysChCapability-768 */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "tddPhysChCapability-768");
-      stat = asn1PE_UMTS_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_768(ctx, &pvalue->tddPhysChCapability_768);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tddPhysChCapability-128 */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "tddPhysChCapability-128");
-      stat = asn1PE_UMTS_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_128(ctx, &pvalue->tddPhysChCapability_128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_PhysChCapabilityTDD_LCR_r4(rtxContext* ctx, const UL_PhysChCapabilityTDD_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-PhysChCapabilityTDD-LCR-r4");
-   /* maxTS-PerSubFrame */
-   rtxCtxtPushElemName(ctx, "maxTS-PerSubFrame");
-   rtxCtxtPushTypeName(ctx, "MaxTS-PerSubFrame-r4");
-   if ((uint64_t)(pvalue->maxTS_PerSubFrame - 1) > 5u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->maxTS_PerSubFrame);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxTS_PerSubFrame, 1, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maxPhysChPerTimeslot */
-   rtxCtxtPushElemName(ctx, "maxPhysChPerTimeslot");
-   rtxCtxtPushTypeName(ctx, "MaxPhysChPerTimeslot");
-   if (pvalue->maxPhysChPerTimeslot > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerTimeslot);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerTimeslot, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* minimumSF */
-   rtxCtxtPushElemName(ctx, "minimumSF");
-   rtxCtxtPushTypeName(ctx, "MinimumSF-UL");
-   if (pvalue->minimumSF > 4) {
-      rtxErrAddUIntParm(ctx, pvalue->minimumSF);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->minimumSF, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* supportOfPUSCH */
-   rtxCtxtPushElemName(ctx, "supportOfPUSCH");
-   stat = rtxEncBit(ctx, pvalue->supportOfPUSCH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* supportOf8PSK */
-   rtxCtxtPushElemName(ctx, "supportOf8PSK");
-   stat = rtxEncBit(ctx, pvalue->supportOf8PSK);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_LCR_r4_tdd128_PhysChCapability(rtxContext* ctx, const PhysicalChannelCapability_LCR_r4_tdd128_PhysChCapability* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* downlinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "downlinkPhysChCapability");
-   stat = asn1PE_UMTS_DL_PhysChCapabilityTDD_LCR_r4(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* uplinkPhysChCapability */
-   rtxCtxtPushElemName(ctx, "uplinkPhysChCapability");
-   stat = asn1PE_UMTS_UL_PhysChCapabilityTDD_LCR_r4(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_LCR_r4(rtxContext* ctx, const PhysicalChannelCapability_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelCapability-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* tdd128-PhysChCapability */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "tdd128-PhysChCapability");
-      stat = asn1PE_UMTS_PhysicalChannelCapability_LCR_r4_tdd128_PhysChCapability(ctx, &pvalue->tdd128_PhysChCapability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported(rtxContext* ctx, const PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* hsdsch-physical-layer-category */
-   rtxCtxtPushElemName(ctx, "hsdsch-physical-layer-category");
-   rtxCtxtPushTypeName(ctx, "HSDSCH-physical-layer-category");
-   if ((uint64_t)(pvalue->hsdsch_physical_layer_category - 1) > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->hsdsch_physical_layer_category);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hsdsch_physical_layer_category, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dummy */
-   rtxCtxtPushElemName(ctx, "dummy");
-   stat = rtxEncBit(ctx, pvalue->dummy);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dummy2 */
-   rtxCtxtPushElemName(ctx, "dummy2");
-   stat = rtxEncBit(ctx, pvalue->dummy2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch(rtxContext* ctx, const PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "supported");
-         if (pvalue->u.supported == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported(ctx, pvalue->u.supported);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "unsupported");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_hspdsch_r5_tdd384_hspdsch(rtxContext* ctx, const PhysicalChannelCapability_hspdsch_r5_tdd384_hspdsch* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "supported");
-         rtxCtxtPushTypeName(ctx, "HSDSCH-physical-layer-category");
-         if ((uint64_t)(pvalue->u.supported - 1) > 63u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.supported);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+         if ((uint64_t)(pvalue->u.same_as_RB - 1) > 31u) {
+            rtxErrAddStrParm(ctx, "RB-Identity");
+            rtxErrAddUIntParm(ctx, pvalue->u.same_as_RB);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "same-as-RB", -1, "RLC-InfoChoice-r6");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.supported, 1, 64);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "unsupported");
-         rtxCtxtPopElemName(ctx);
+         stat = pe_ConsUInt64(ctx, pvalue->u.same_as_RB, 1, 32);
+         RT_CHECK(ctx, stat, "RB-Identity", "same-as-RB", -1, "RLC-InfoChoice-r6");
          break;
       default:
          break;
@@ -1386,248 +298,22 @@ int asn1PE_UMTS_PhysicalChannelCapability_hspdsch_r5_tdd384_hspdsch(rtxContext* 
    return 0;
 }
 
-int asn1PE_UMTS_PhysicalChannelCapability_hspdsch_r5_tdd128_hspdsch(rtxContext* ctx, const PhysicalChannelCapability_hspdsch_r5_tdd128_hspdsch* pvalue)
+int asn1PE_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch_rlc_SizeList(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch_rlc_SizeList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "supported");
-         rtxCtxtPushTypeName(ctx, "HSDSCH-physical-layer-category");
-         if ((uint64_t)(pvalue->u.supported - 1) > 63u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.supported);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.supported, 1, 64);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "unsupported");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_hspdsch_r5(rtxContext* ctx, const PhysicalChannelCapability_hspdsch_r5* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelCapability-hspdsch-r5");
-   /* fdd-hspdsch */
-   rtxCtxtPushElemName(ctx, "fdd-hspdsch");
-   stat = asn1PE_UMTS_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch(ctx, &pvalue->fdd_hspdsch);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tdd384-hspdsch */
-   rtxCtxtPushElemName(ctx, "tdd384-hspdsch");
-   stat = asn1PE_UMTS_PhysicalChannelCapability_hspdsch_r5_tdd384_hspdsch(ctx, &pvalue->tdd384_hspdsch);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tdd128-hspdsch */
-   rtxCtxtPushElemName(ctx, "tdd128-hspdsch");
-   stat = asn1PE_UMTS_PhysicalChannelCapability_hspdsch_r5_tdd128_hspdsch(ctx, &pvalue->tdd128_hspdsch);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Pre_RedirectionInfo(rtxContext* ctx, const Pre_RedirectionInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Pre-RedirectionInfo");
-   /* supportEUTRA-FDD */
-   rtxCtxtPushElemName(ctx, "supportEUTRA-FDD");
-   stat = rtxEncBit(ctx, pvalue->supportEUTRA_FDD);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* supportEUTRA-TDD */
-   rtxCtxtPushElemName(ctx, "supportEUTRA-TDD");
-   stat = rtxEncBit(ctx, pvalue->supportEUTRA_TDD);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ProtocolErrorIndicator(rtxContext* ctx, ProtocolErrorIndicator value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ProtocolErrorIndicator");
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ProtocolErrorIndicatorWithMoreInfo_errorOccurred(rtxContext* ctx, const ProtocolErrorIndicatorWithMoreInfo_errorOccurred* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* protocolErrorInformation */
-   rtxCtxtPushElemName(ctx, "protocolErrorInformation");
-   stat = asn1PE_UMTS_ProtocolErrorInformation(ctx, &pvalue->protocolErrorInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ProtocolErrorIndicatorWithMoreInfo(rtxContext* ctx, const ProtocolErrorIndicatorWithMoreInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ProtocolErrorIndicatorWithMoreInfo");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "noError");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "errorOccurred");
-         if (pvalue->u.errorOccurred == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_ProtocolErrorIndicatorWithMoreInfo_errorOccurred(ctx, pvalue->u.errorOccurred);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ReceivedMessageType(rtxContext* ctx, ReceivedMessageType value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ReceivedMessageType");
-   if (value > 31) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IdentificationOfReceivedMessage(rtxContext* ctx, const IdentificationOfReceivedMessage* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IdentificationOfReceivedMessage");
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* receivedMessageType */
-   rtxCtxtPushElemName(ctx, "receivedMessageType");
-   rtxCtxtPushTypeName(ctx, "ReceivedMessageType");
-   if (pvalue->receivedMessageType > 31) {
-      rtxErrAddUIntParm(ctx, pvalue->receivedMessageType);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->receivedMessageType, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ProtocolErrorMoreInformation_diagnosticsType_type1(rtxContext* ctx, const ProtocolErrorMoreInformation_diagnosticsType_type1* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 7) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "asn1-ViolationOrEncodingError");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "messageTypeNonexistent");
-         rtxCtxtPopElemName(ctx);
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "messageNotCompatibleWithReceiverState");
-         if (pvalue->u.messageNotCompatibleWithReceiverState == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_IdentificationOfReceivedMessage(ctx, pvalue->u.messageNotCompatibleWithReceiverState);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "ie-ValueNotComprehended");
-         if (pvalue->u.ie_ValueNotComprehended == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_IdentificationOfReceivedMessage(ctx, pvalue->u.ie_ValueNotComprehended);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "conditionalInformationElementError");
-         if (pvalue->u.conditionalInformationElementError == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_IdentificationOfReceivedMessage(ctx, pvalue->u.conditionalInformationElementError);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "messageExtensionNotComprehended");
-         if (pvalue->u.messageExtensionNotComprehended == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_IdentificationOfReceivedMessage(ctx, pvalue->u.messageExtensionNotComprehended);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "spare1");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 8:
-         rtxCtxtPushElemName(ctx, "spare2");
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.explicitList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "explicitList", -1, 0);
+         stat = asn1PE_UMTS_RLC_SizeExplicitList(ctx, pvalue->u.explicitList);
+         RT_CHECK(ctx, stat, 0, "explicitList", -1, 0);
          break;
       default:
          break;
@@ -1635,1577 +321,392 @@ int asn1PE_UMTS_ProtocolErrorMoreInformation_diagnosticsType_type1(rtxContext* c
    return 0;
 }
 
-int asn1PE_UMTS_ProtocolErrorMoreInformation_diagnosticsType(rtxContext* ctx, const ProtocolErrorMoreInformation_diagnosticsType* pvalue)
+int asn1PE_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "type1");
-         if (pvalue->u.type1 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_ProtocolErrorMoreInformation_diagnosticsType_type1(ctx, pvalue->u.type1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "spare");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ProtocolErrorMoreInformation(rtxContext* ctx, const ProtocolErrorMoreInformation* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ProtocolErrorMoreInformation");
-   /* diagnosticsType */
-   rtxCtxtPushElemName(ctx, "diagnosticsType");
-   stat = asn1PE_UMTS_ProtocolErrorMoreInformation_diagnosticsType(ctx, &pvalue->diagnosticsType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RadioFrequencyBandTDDList(rtxContext* ctx, RadioFrequencyBandTDDList value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandTDDList");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RadioFrequencyBandTDDList_r7(rtxContext* ctx, RadioFrequencyBandTDDList_r7 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandTDDList-r7");
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RadioFrequencyBandTDDext(rtxContext* ctx, RadioFrequencyBandTDDext value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandTDDext");
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RadioFrequencyBandTDDextList(rtxContext* ctx, const RadioFrequencyBandTDDextList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandTDDextList");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "RadioFrequencyBandTDDext", i);
-      rtxCtxtPushTypeName(ctx, "RadioFrequencyBandTDDext");
-      if (pvalue->elem[i] > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Rb_timer_indicator(rtxContext* ctx, const Rb_timer_indicator* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Rb-timer-indicator");
-   /* t314-expired */
-   rtxCtxtPushElemName(ctx, "t314-expired");
-   stat = rtxEncBit(ctx, pvalue->t314_expired);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* t315-expired */
-   rtxCtxtPushElemName(ctx, "t315-expired");
-   stat = rtxEncBit(ctx, pvalue->t315_expired);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATInfo(rtxContext* ctx, InterRATInfo value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "InterRATInfo");
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RedirectionInfo(rtxContext* ctx, const RedirectionInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RedirectionInfo");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "frequencyInfo");
-         if (pvalue->u.frequencyInfo == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_FrequencyInfo(ctx, pvalue->u.frequencyInfo);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "interRATInfo");
-         rtxCtxtPushTypeName(ctx, "InterRATInfo");
-         if (pvalue->u.interRATInfo > 0) {
-            rtxErrAddUIntParm(ctx, pvalue->u.interRATInfo);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.interRATInfo, 0, 0);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_TargetCellInfo(rtxContext* ctx, const GSM_TargetCellInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "GSM-TargetCellInfo");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* bcch-ARFCN */
-   rtxCtxtPushElemName(ctx, "bcch-ARFCN");
-   rtxCtxtPushTypeName(ctx, "BCCH-ARFCN");
-   if ((uint64_t)pvalue->bcch_ARFCN > 1023u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->bcch_ARFCN);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->bcch_ARFCN, 0, 1023);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* frequency-band */
-   rtxCtxtPushElemName(ctx, "frequency-band");
-   rtxCtxtPushTypeName(ctx, "Frequency-Band");
-   if (pvalue->frequency_band > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->frequency_band);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->frequency_band, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* bsic */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ul-TransportChannelType */
+   stat = asn1PE_UMTS_UL_TransportChannelType(ctx, &pvalue->ul_TransportChannelType);
+   RT_CHECK(ctx, stat, 0, "ul-TransportChannelType", -1, 0);
+   /* logicalChannelIdentity */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "bsic");
-      stat = asn1PE_UMTS_BSIC(ctx, &pvalue->bsic);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if ((uint64_t)(pvalue->logicalChannelIdentity - 1) > 14u) {
+         rtxErrAddStrParm(ctx, "LogicalChannelIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->logicalChannelIdentity);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "LogicalChannelIdentity", "logicalChannelIdentity", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->logicalChannelIdentity, 1, 15);
+      RT_CHECK(ctx, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
+   /* rlc-SizeList */
+   stat = asn1PE_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch_rlc_SizeList(ctx, &pvalue->rlc_SizeList);
+   RT_CHECK(ctx, stat, 0, "rlc-SizeList", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_GSM_TargetCellInfoList(rtxContext* ctx, const GSM_TargetCellInfoList* pvalue)
+int asn1PE_UMTS_RLC_PDU_Size(rtxContext* RT_RESTRICT ctx, const RLC_PDU_Size* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-PDU-Size");
+   stat = asn1PE_UMTS_OctetModeRLC_SizeInfoType1(ctx, pvalue);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-PDU-Size");
+   return 0;
+}
+
+int asn1PE_UMTS_RLC_PDU_SizeList(rtxContext* RT_RESTRICT ctx, const RLC_PDU_SizeList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-PDU-SizeList");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "GSM-TargetCellInfoList");
    RT_SET_SIZE(ctx, 1, 32);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RLC-PDU-SizeList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "GSM-TargetCellInfo", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_GSM_TargetCellInfo(ctx, (const GSM_TargetCellInfo*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RLC-PDU-Size", (int32_t)i, "RLC-PDU-SizeList");
+      stat = asn1PE_UMTS_RLC_PDU_Size(ctx, (const RLC_PDU_Size*)node->data);
+      RT_CHECK(ctx, stat, 0, "RLC-PDU-Size", (int32_t)i, "RLC-PDU-SizeList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_InterRATInfo_r6(rtxContext* ctx, const InterRATInfo_r6* pvalue)
+int asn1PE_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type_e_dch(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r6_ul_TrCH_Type_e_dch* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATInfo-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* rat */
-   rtxCtxtPushElemName(ctx, "rat");
-   rtxCtxtPushTypeName(ctx, "InterRATInfo");
-   if (pvalue->rat > 0) {
-      rtxErrAddUIntParm(ctx, pvalue->rat);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* logicalChannelIdentity */
+   if ((uint64_t)(pvalue->logicalChannelIdentity - 1) > 14u) {
+      rtxErrAddStrParm(ctx, "LogicalChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->logicalChannelIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "LogicalChannelIdentity", "logicalChannelIdentity", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->rat, 0, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* gsm-TargetCellInfoList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "gsm-TargetCellInfoList");
-      stat = asn1PE_UMTS_GSM_TargetCellInfoList(ctx, &pvalue->gsm_TargetCellInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   stat = pe_ConsUInt64(ctx, pvalue->logicalChannelIdentity, 1, 15);
+   RT_CHECK(ctx, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, 0);
+   /* e-DCH-MAC-d-FlowIdentity */
+   if ((uint64_t)pvalue->e_DCH_MAC_d_FlowIdentity > 7u) {
+      rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->e_DCH_MAC_d_FlowIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DCH-MAC-d-FlowIdentity", "e-DCH-MAC-d-FlowIdentity", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
+   stat = pe_ConsUInt64(ctx, pvalue->e_DCH_MAC_d_FlowIdentity, 0, 7);
+   RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowIdentity", "e-DCH-MAC-d-FlowIdentity", -1, 0);
+   /* ddi */
+   if ((uint64_t)pvalue->ddi > 62u) {
+      rtxErrAddStrParm(ctx, "DDI");
+      rtxErrAddUIntParm(ctx, pvalue->ddi);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "DDI", "ddi", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ddi, 0, 62);
+   RT_CHECK(ctx, stat, "DDI", "ddi", -1, 0);
+   /* rlc-PDU-SizeList */
+   stat = asn1PE_UMTS_RLC_PDU_SizeList(ctx, &pvalue->rlc_PDU_SizeList);
+   RT_CHECK(ctx, stat, 0, "rlc-PDU-SizeList", -1, 0);
+   /* includeInSchedulingInfo */
+   stat = rtxEncBit(ctx, pvalue->includeInSchedulingInfo);
+   RT_CHECK(ctx, stat, 0, "includeInSchedulingInfo", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_RedirectionInfo_r6(rtxContext* ctx, const RedirectionInfo_r6* pvalue)
+int asn1PE_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r6_ul_TrCH_Type* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RedirectionInfo-r6");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "frequencyInfo");
-         if (pvalue->u.frequencyInfo == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_FrequencyInfo(ctx, pvalue->u.frequencyInfo);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.dch_rach_usch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dch-rach-usch", -1, 0);
+         stat = asn1PE_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch(ctx, pvalue->u.dch_rach_usch);
+         RT_CHECK(ctx, stat, 0, "dch-rach-usch", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "interRATInfo");
-         if (pvalue->u.interRATInfo == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterRATInfo_r6(ctx, pvalue->u.interRATInfo);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.e_dch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e-dch", -1, 0);
+         stat = asn1PE_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type_e_dch(ctx, pvalue->u.e_dch);
+         RT_CHECK(ctx, stat, 0, "e-dch", -1, 0);
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_EUTRA_PhysicalCellIdentity(rtxContext* ctx, EUTRA_PhysicalCellIdentity value)
+int asn1PE_UMTS_UL_LogicalChannelMapping_r6(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "EUTRA-PhysicalCellIdentity");
-   if ((uint64_t)value > 503u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-LogicalChannelMapping-r6");
+   /* ul-TrCH-Type */
+   stat = asn1PE_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type(ctx, &pvalue->ul_TrCH_Type);
+   RT_CHECK(ctx, stat, 0, "ul-TrCH-Type", -1, "UL-LogicalChannelMapping-r6");
+   /* mac-LogicalChannelPriority */
+   if ((uint64_t)(pvalue->mac_LogicalChannelPriority - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "MAC-LogicalChannelPriority");
+      rtxErrAddUIntParm(ctx, pvalue->mac_LogicalChannelPriority);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MAC-LogicalChannelPriority", "mac-LogicalChannelPriority", -1, "UL-LogicalChannelMapping-r6");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 503);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   stat = pe_ConsUInt64(ctx, pvalue->mac_LogicalChannelPriority, 1, 8);
+   RT_CHECK(ctx, stat, "MAC-LogicalChannelPriority", "mac-LogicalChannelPriority", -1, "UL-LogicalChannelMapping-r6");
    return 0;
 }
 
-int asn1PE_UMTS_EUTRA_BlacklistedCell(rtxContext* ctx, const EUTRA_BlacklistedCell* pvalue)
+int asn1PE_UMTS_UL_LogicalChannelMappingList_r6_ul_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappingList_r6_ul_LogicalChannelMapping* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "EUTRA-BlacklistedCell");
-   /* physicalCellIdentity */
-   rtxCtxtPushElemName(ctx, "physicalCellIdentity");
-   rtxCtxtPushTypeName(ctx, "EUTRA-PhysicalCellIdentity");
-   if ((uint64_t)pvalue->physicalCellIdentity > 503u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->physicalCellIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->physicalCellIdentity, 0, 503);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_EUTRA_BlacklistedCellPerFreqList(rtxContext* ctx, const EUTRA_BlacklistedCellPerFreqList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "EUTRA-BlacklistedCellPerFreqList");
-   RT_SET_SIZE(ctx, 1, 16);
+   RT_SET_SIZE(ctx, 2, 2);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "EUTRA-BlacklistedCell", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_EUTRA_BlacklistedCell(ctx, (const EUTRA_BlacklistedCell*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UL-LogicalChannelMapping-r6", (int32_t)i, 0);
+      stat = asn1PE_UMTS_UL_LogicalChannelMapping_r6(ctx, (const UL_LogicalChannelMapping_r6*)node->data);
+      RT_CHECK(ctx, stat, 0, "UL-LogicalChannelMapping-r6", (int32_t)i, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_EUTRA_TargetFreqInfo(rtxContext* ctx, const EUTRA_TargetFreqInfo* pvalue)
+int asn1PE_UMTS_UL_LogicalChannelMappingList_r6(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappingList_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "EUTRA-TargetFreqInfo");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-LogicalChannelMappingList-r6");
+   /* rlc-LogicalChannelMappingIndicator */
+   stat = rtxEncBit(ctx, pvalue->rlc_LogicalChannelMappingIndicator);
+   RT_CHECK(ctx, stat, 0, "rlc-LogicalChannelMappingIndicator", -1, "UL-LogicalChannelMappingList-r6");
+   /* ul-LogicalChannelMapping */
+   stat = asn1PE_UMTS_UL_LogicalChannelMappingList_r6_ul_LogicalChannelMapping(ctx, &pvalue->ul_LogicalChannelMapping);
+   RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMapping", -1, "UL-LogicalChannelMappingList-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_LogicalChannelMappings_r6(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappings_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-LogicalChannelMappings-r6");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "UL-LogicalChannelMappings-r6");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-LogicalChannelMappings-r6");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.oneLogicalChannel == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "oneLogicalChannel", -1, "UL-LogicalChannelMappings-r6");
+         stat = asn1PE_UMTS_UL_LogicalChannelMapping_r6(ctx, pvalue->u.oneLogicalChannel);
+         RT_CHECK(ctx, stat, 0, "oneLogicalChannel", -1, "UL-LogicalChannelMappings-r6");
+         break;
+      case 2:
+         if (pvalue->u.twoLogicalChannels == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "twoLogicalChannels", -1, "UL-LogicalChannelMappings-r6");
+         stat = asn1PE_UMTS_UL_LogicalChannelMappingList_r6(ctx, pvalue->u.twoLogicalChannels);
+         RT_CHECK(ctx, stat, 0, "twoLogicalChannels", -1, "UL-LogicalChannelMappings-r6");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_MappingOption_r6(rtxContext* RT_RESTRICT ctx, const RB_MappingOption_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-MappingOption-r6");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* dlEUTRACarrierFreq */
-   rtxCtxtPushElemName(ctx, "dlEUTRACarrierFreq");
-   rtxCtxtPushTypeName(ctx, "EARFCN");
-   stat = pe_ConsUInt64(ctx, pvalue->dlEUTRACarrierFreq, 0, 65535);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* eutraBlacklistedCellPerFreqList */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-MappingOption-r6");
+   /* ul-LogicalChannelMappings */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "eutraBlacklistedCellPerFreqList");
-      stat = asn1PE_UMTS_EUTRA_BlacklistedCellPerFreqList(ctx, &pvalue->eutraBlacklistedCellPerFreqList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UL_LogicalChannelMappings_r6(ctx, &pvalue->ul_LogicalChannelMappings);
+      RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMappings", -1, "RB-MappingOption-r6");
    }
-   rtxCtxtPopTypeName(ctx);
+   /* dl-LogicalChannelMappingList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_DL_LogicalChannelMappingList_r5(ctx, &pvalue->dl_LogicalChannelMappingList);
+      RT_CHECK(ctx, stat, 0, "dl-LogicalChannelMappingList", -1, "RB-MappingOption-r6");
+   }
    return 0;
 }
 
-int asn1PE_UMTS_EUTRA_TargetFreqInfoList(rtxContext* ctx, const EUTRA_TargetFreqInfoList* pvalue)
+int asn1PE_UMTS_RB_MappingInfo_r6(rtxContext* RT_RESTRICT ctx, const RB_MappingInfo_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-MappingInfo-r6");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "EUTRA-TargetFreqInfoList");
    RT_SET_SIZE(ctx, 1, 8);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-MappingInfo-r6");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "EUTRA-TargetFreqInfo", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_EUTRA_TargetFreqInfo(ctx, (const EUTRA_TargetFreqInfo*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-MappingOption-r6", (int32_t)i, "RB-MappingInfo-r6");
+      stat = asn1PE_UMTS_RB_MappingOption_r6(ctx, (const RB_MappingOption_r6*)node->data);
+      RT_CHECK(ctx, stat, 0, "RB-MappingOption-r6", (int32_t)i, "RB-MappingInfo-r6");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_InterRATInfo_v860ext_eutra(rtxContext* ctx, const InterRATInfo_v860ext_eutra* pvalue)
+int asn1PE_UMTS_RB_InformationSetup_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationSetup_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* eutra-TargetFreqInfoList */
-   rtxCtxtPushElemName(ctx, "eutra-TargetFreqInfoList");
-   stat = asn1PE_UMTS_EUTRA_TargetFreqInfoList(ctx, &pvalue->eutra_TargetFreqInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATInfo_v860ext(rtxContext* ctx, const InterRATInfo_v860ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATInfo-v860ext");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "gsm");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "eutra");
-         if (pvalue->u.eutra == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterRATInfo_v860ext_eutra(ctx, pvalue->u.eutra);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RedirectionInfo_v860ext(rtxContext* ctx, const RedirectionInfo_v860ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RedirectionInfo-v860ext");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "frequencyInfo");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "interRATInfo");
-         if (pvalue->u.interRATInfo == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterRATInfo_v860ext(ctx, pvalue->u.interRATInfo);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RejectionCause(rtxContext* ctx, RejectionCause value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RejectionCause");
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_PowerClass(rtxContext* ctx, UE_PowerClass value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-PowerClass");
-   if ((uint64_t)(value - 1) > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TxRxFrequencySeparation(rtxContext* ctx, TxRxFrequencySeparation value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TxRxFrequencySeparation");
-   if (value > 2) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RF_Capability_fddRF_Capability(rtxContext* ctx, const RF_Capability_fddRF_Capability* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* ue-PowerClass */
-   rtxCtxtPushElemName(ctx, "ue-PowerClass");
-   rtxCtxtPushTypeName(ctx, "UE-PowerClass");
-   if ((uint64_t)(pvalue->ue_PowerClass - 1) > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ue_PowerClass);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_PowerClass, 1, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* txRxFrequencySeparation */
-   rtxCtxtPushElemName(ctx, "txRxFrequencySeparation");
-   rtxCtxtPushTypeName(ctx, "TxRxFrequencySeparation");
-   if (pvalue->txRxFrequencySeparation > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->txRxFrequencySeparation);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->txRxFrequencySeparation, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RF_Capability_tddRF_Capability(rtxContext* ctx, const RF_Capability_tddRF_Capability* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* ue-PowerClass */
-   rtxCtxtPushElemName(ctx, "ue-PowerClass");
-   rtxCtxtPushTypeName(ctx, "UE-PowerClass");
-   if ((uint64_t)(pvalue->ue_PowerClass - 1) > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ue_PowerClass);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_PowerClass, 1, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* radioFrequencyTDDBandList */
-   rtxCtxtPushElemName(ctx, "radioFrequencyTDDBandList");
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandTDDList");
-   if (pvalue->radioFrequencyTDDBandList > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyTDDBandList);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyTDDBandList, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* chipRateCapability */
-   rtxCtxtPushElemName(ctx, "chipRateCapability");
-   rtxCtxtPushTypeName(ctx, "ChipRateCapability");
-   if (pvalue->chipRateCapability > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->chipRateCapability);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->chipRateCapability, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RF_Capability(rtxContext* ctx, const RF_Capability* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RF-Capability");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* fddRF-Capability */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "fddRF-Capability");
-      stat = asn1PE_UMTS_RF_Capability_fddRF_Capability(ctx, &pvalue->fddRF_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tddRF-Capability */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "tddRF-Capability");
-      stat = asn1PE_UMTS_RF_Capability_tddRF_Capability(ctx, &pvalue->tddRF_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RF_Capability_r4_ext_tddRF_Capability(rtxContext* ctx, const RF_Capability_r4_ext_tddRF_Capability* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* ue-PowerClass */
-   rtxCtxtPushElemName(ctx, "ue-PowerClass");
-   rtxCtxtPushTypeName(ctx, "UE-PowerClass");
-   if ((uint64_t)(pvalue->ue_PowerClass - 1) > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ue_PowerClass);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_PowerClass, 1, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* radioFrequencyBandTDDList */
-   rtxCtxtPushElemName(ctx, "radioFrequencyBandTDDList");
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandTDDList");
-   if (pvalue->radioFrequencyBandTDDList > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandTDDList);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandTDDList, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* chipRateCapability */
-   rtxCtxtPushElemName(ctx, "chipRateCapability");
-   rtxCtxtPushTypeName(ctx, "ChipRateCapability");
-   if (pvalue->chipRateCapability > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->chipRateCapability);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->chipRateCapability, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RF_Capability_r4_ext(rtxContext* ctx, const RF_Capability_r4_ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RF-Capability-r4-ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationSetup-r6");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* tddRF-Capability */
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationSetup-r6");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r6");
+   /* pdcp-Info */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "tddRF-Capability");
-      stat = asn1PE_UMTS_RF_Capability_r4_ext_tddRF_Capability(ctx, &pvalue->tddRF_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_PDCP_Info_r4(ctx, &pvalue->pdcp_Info);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationSetup-r6");
    }
-   rtxCtxtPopTypeName(ctx);
+   /* rlc-InfoChoice */
+   stat = asn1PE_UMTS_RLC_InfoChoice_r6(ctx, &pvalue->rlc_InfoChoice);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "RB-InformationSetup-r6");
+   /* rb-MappingInfo */
+   stat = asn1PE_UMTS_RB_MappingInfo_r6(ctx, &pvalue->rb_MappingInfo);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationSetup-r6");
    return 0;
 }
 
-int asn1PE_UMTS_RF_Capability_v770ext_tdd768RF_Capability(rtxContext* ctx, const RF_Capability_v770ext_tdd768RF_Capability* pvalue)
+int asn1PE_UMTS_RB_InformationSetupList_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationSetupList_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* ue-PowerClass */
-   rtxCtxtPushElemName(ctx, "ue-PowerClass");
-   rtxCtxtPushTypeName(ctx, "UE-PowerClass");
-   if ((uint64_t)(pvalue->ue_PowerClass - 1) > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ue_PowerClass);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationSetupList-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-InformationSetupList-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-InformationSetup-r6", (int32_t)i, "RB-InformationSetupList-r6");
+      stat = asn1PE_UMTS_RB_InformationSetup_r6(ctx, (const RB_InformationSetup_r6*)node->data);
+      RT_CHECK(ctx, stat, 0, "RB-InformationSetup-r6", (int32_t)i, "RB-InformationSetupList-r6");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_PowerClass, 1, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* radioFrequencyBandTDDList */
-   rtxCtxtPushElemName(ctx, "radioFrequencyBandTDDList");
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandTDDList-r7");
-   if (pvalue->radioFrequencyBandTDDList > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandTDDList);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandTDDList, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_RF_Capability_v770ext(rtxContext* ctx, const RF_Capability_v770ext* pvalue)
+int asn1PE_UMTS_RAB_InformationSetup_r6(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RF-Capability-v770ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* tdd384RF-Capability */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "tdd384RF-Capability");
-      rtxCtxtPushTypeName(ctx, "RadioFrequencyBandTDDList-r7");
-      if (pvalue->tdd384RF_Capability > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->tdd384RF_Capability);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tdd384RF_Capability, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tdd768RF-Capability */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "tdd768RF-Capability");
-      stat = asn1PE_UMTS_RF_Capability_v770ext_tdd768RF_Capability(ctx, &pvalue->tdd768RF_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tdd128RF-Capability */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "tdd128RF-Capability");
-      rtxCtxtPushTypeName(ctx, "RadioFrequencyBandTDDList-r7");
-      if (pvalue->tdd128RF_Capability > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->tdd128RF_Capability);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tdd128RF_Capability, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetup-r6");
+   /* rab-Info */
+   stat = asn1PE_UMTS_RAB_Info_r6(ctx, &pvalue->rab_Info);
+   RT_CHECK(ctx, stat, 0, "rab-Info", -1, "RAB-InformationSetup-r6");
+   /* rb-InformationSetupList */
+   stat = asn1PE_UMTS_RB_InformationSetupList_r6(ctx, &pvalue->rb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "rb-InformationSetupList", -1, "RAB-InformationSetup-r6");
    return 0;
 }
 
-int asn1PE_UMTS_RF_Capability_v860ext(rtxContext* ctx, const RF_Capability_v860ext* pvalue)
+int asn1PE_UMTS_RAB_InformationSetup_v6b0ext(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_v6b0ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RF-Capability-v860ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* tdd128RF-Capability */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "tdd128RF-Capability");
-      stat = asn1PE_UMTS_RadioFrequencyBandTDDextList(ctx, &pvalue->tdd128RF_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tdd384RF-Capability */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "tdd384RF-Capability");
-      stat = asn1PE_UMTS_RadioFrequencyBandTDDextList(ctx, &pvalue->tdd384RF_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tdd768RF-Capability */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "tdd768RF-Capability");
-      stat = asn1PE_UMTS_RadioFrequencyBandTDDextList(ctx, &pvalue->tdd768RF_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TotalRLC_AM_BufferSize(rtxContext* ctx, TotalRLC_AM_BufferSize value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TotalRLC-AM-BufferSize");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RLC_Capability(rtxContext* ctx, const RLC_Capability* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RLC-Capability");
-   /* totalRLC-AM-BufferSize */
-   rtxCtxtPushElemName(ctx, "totalRLC-AM-BufferSize");
-   rtxCtxtPushTypeName(ctx, "TotalRLC-AM-BufferSize");
-   if (pvalue->totalRLC_AM_BufferSize > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->totalRLC_AM_BufferSize);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->totalRLC_AM_BufferSize, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maximumRLC-WindowSize */
-   rtxCtxtPushElemName(ctx, "maximumRLC-WindowSize");
-   rtxCtxtPushTypeName(ctx, "MaximumRLC-WindowSize");
-   if (pvalue->maximumRLC_WindowSize > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->maximumRLC_WindowSize);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maximumRLC_WindowSize, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maximumAM-EntityNumber */
-   rtxCtxtPushElemName(ctx, "maximumAM-EntityNumber");
-   rtxCtxtPushTypeName(ctx, "MaximumAM-EntityNumberRLC-Cap");
-   if (pvalue->maximumAM_EntityNumber > 6) {
-      rtxErrAddUIntParm(ctx, pvalue->maximumAM_EntityNumber);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maximumAM_EntityNumber, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TotalRLC_AM_BufferSize_r5_ext(rtxContext* ctx, TotalRLC_AM_BufferSize_r5_ext value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TotalRLC-AM-BufferSize-r5-ext");
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RLC_Capability_r5_ext(rtxContext* ctx, const RLC_Capability_r5_ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RLC-Capability-r5-ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetup-v6b0ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* totalRLC-AM-BufferSize */
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationSetup-v6b0ext");
+   /* rab-Info-v6b0ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "totalRLC-AM-BufferSize");
-      rtxCtxtPushTypeName(ctx, "TotalRLC-AM-BufferSize-r5-ext");
-      if (pvalue->totalRLC_AM_BufferSize > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->totalRLC_AM_BufferSize);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->totalRLC_AM_BufferSize, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RAB_Info_v6b0ext(ctx, &pvalue->rab_Info_v6b0ext);
+      RT_CHECK(ctx, stat, 0, "rab-Info-v6b0ext", -1, "RAB-InformationSetup-v6b0ext");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_RLC_Capability_v770ext(rtxContext* ctx, const RLC_Capability_v770ext* pvalue)
+int asn1PE_UMTS_RLC_Info_r7_altE_bitInterpretation(rtxContext* RT_RESTRICT ctx, RLC_Info_r7_altE_bitInterpretation value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RLC-Capability-v770ext");
-   /* supportOfTwoLogicalChannel */
-   rtxCtxtPushElemName(ctx, "supportOfTwoLogicalChannel");
-   stat = rtxEncBit(ctx, pvalue->supportOfTwoLogicalChannel);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TotalRLC_AM_BufferSize_v920ext(rtxContext* ctx, TotalRLC_AM_BufferSize_v920ext value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TotalRLC-AM-BufferSize-v920ext");
-   if (value > 1) {
+   if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_RLC_Capability_v920ext(rtxContext* ctx, const RLC_Capability_v920ext* pvalue)
+int asn1PE_UMTS_RLC_Info_r7_useSpecialValueOfHEField(rtxContext* RT_RESTRICT ctx, RLC_Info_r7_useSpecialValueOfHEField value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RLC-Capability-v920ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* totalRLC-AM-BufferSize */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "totalRLC-AM-BufferSize");
-      rtxCtxtPushTypeName(ctx, "TotalRLC-AM-BufferSize-v920ext");
-      if (pvalue->totalRLC_AM_BufferSize > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->totalRLC_AM_BufferSize);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->totalRLC_AM_BufferSize, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RRC_StateIndicator(rtxContext* ctx, RRC_StateIndicator value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
-   if (value > 3) {
+   if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_S_RNTI_2(rtxContext* ctx, S_RNTI_2 value)
+int asn1PE_UMTS_RLC_Info_r7(rtxContext* RT_RESTRICT ctx, const RLC_Info_r7* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "S-RNTI-2");
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pe_BitString32(ctx, &value, 10, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SecurityCapability_cipheringAlgorithmCap(rtxContext* ctx, SecurityCapability_cipheringAlgorithmCap value)
-{
-   int stat = 0;
-   {
-      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
-      uint32_t used = (uint32_t)(last + 1);
-      value.numbits = used <= 16 ? 16 : used;
-      if (last < -1) RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &value, 16, 16);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_SecurityCapability_integrityProtectionAlgorithmCap(rtxContext* ctx, SecurityCapability_integrityProtectionAlgorithmCap value)
-{
-   int stat = 0;
-   {
-      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
-      uint32_t used = (uint32_t)(last + 1);
-      value.numbits = used <= 16 ? 16 : used;
-      if (last < -1) RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &value, 16, 16);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_SecurityCapability(rtxContext* ctx, const SecurityCapability* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SecurityCapability");
-   /* cipheringAlgorithmCap */
-   rtxCtxtPushElemName(ctx, "cipheringAlgorithmCap");
-   stat = asn1PE_UMTS_SecurityCapability_cipheringAlgorithmCap(ctx, pvalue->cipheringAlgorithmCap);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* integrityProtectionAlgorithmCap */
-   rtxCtxtPushElemName(ctx, "integrityProtectionAlgorithmCap");
-   stat = asn1PE_UMTS_SecurityCapability_integrityProtectionAlgorithmCap(ctx, pvalue->integrityProtectionAlgorithmCap);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryServingEDCHCell_Info(rtxContext* ctx, const SecondaryServingEDCHCell_Info* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SecondaryServingEDCHCell-Info");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* primary-E-RNTI */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "primary-E-RNTI");
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->primary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* secondary-E-RNTI */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "secondary-E-RNTI");
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->secondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryEDCH_Info_Common_servingGrant_primary_Secondary_GrantSelector(rtxContext* ctx, SecondaryEDCH_Info_Common_servingGrant_primary_Secondary_GrantSelector value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryEDCH_Info_Common_servingGrant(rtxContext* ctx, const SecondaryEDCH_Info_Common_servingGrant* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* primary-Secondary-GrantSelector */
-   rtxCtxtPushElemName(ctx, "primary-Secondary-GrantSelector");
-   if (pvalue->primary_Secondary_GrantSelector > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->primary_Secondary_GrantSelector);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->primary_Secondary_GrantSelector, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PC_Preamble(rtxContext* ctx, PC_Preamble value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PC-Preamble");
-   if ((uint64_t)value > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryEDCH_Info_Common(rtxContext* ctx, const SecondaryEDCH_Info_Common* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SecondaryEDCH-Info-Common");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-Info-r7");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* scramblingCodeType */
-   rtxCtxtPushElemName(ctx, "scramblingCodeType");
-   rtxCtxtPushTypeName(ctx, "ScramblingCodeType");
-   if (pvalue->scramblingCodeType > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->scramblingCodeType);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->scramblingCodeType, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* scramblingCodeNumber */
-   rtxCtxtPushElemName(ctx, "scramblingCodeNumber");
-   rtxCtxtPushTypeName(ctx, "UL-ScramblingCode");
-   if ((uint64_t)pvalue->scramblingCodeNumber > 16777215u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->scramblingCodeNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->scramblingCodeNumber, 0, 16777215);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ms2-SchedTransmGrantHARQAlloc */
+   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-Info-r7");
+   /* ul-RLC-Mode */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ms2-SchedTransmGrantHARQAlloc");
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pe_BitString32(ctx, &pvalue->ms2_SchedTransmGrantHARQAlloc, 8, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UL_RLC_Mode(ctx, &pvalue->ul_RLC_Mode);
+      RT_CHECK(ctx, stat, 0, "ul-RLC-Mode", -1, "RLC-Info-r7");
    }
-   /* servingGrant */
+   /* dl-RLC-Mode */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "servingGrant");
-      stat = asn1PE_UMTS_SecondaryEDCH_Info_Common_servingGrant(ctx, &pvalue->servingGrant);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_DL_RLC_Mode_r7(ctx, &pvalue->dl_RLC_Mode);
+      RT_CHECK(ctx, stat, 0, "dl-RLC-Mode", -1, "RLC-Info-r7");
    }
-   /* minReduced-E-DPDCH-GainFactor */
+   /* rlc-OneSidedReEst */
+   stat = rtxEncBit(ctx, pvalue->rlc_OneSidedReEst);
+   RT_CHECK(ctx, stat, 0, "rlc-OneSidedReEst", -1, "RLC-Info-r7");
+   /* altE-bitInterpretation */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "minReduced-E-DPDCH-GainFactor");
-      rtxCtxtPushTypeName(ctx, "MinReduced-E-DPDCH-GainFactor");
-      if (pvalue->minReduced_E_DPDCH_GainFactor > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->minReduced_E_DPDCH_GainFactor);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+      if (pvalue->altE_bitInterpretation > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->altE_bitInterpretation);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "altE-bitInterpretation", -1, "RLC-Info-r7");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->minReduced_E_DPDCH_GainFactor, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->altE_bitInterpretation, 0, 0);
+      RT_CHECK(ctx, stat, 0, "altE-bitInterpretation", -1, "RLC-Info-r7");
    }
-   /* e-DCH-minimumSet-E-TFCI */
+   /* useSpecialValueOfHEField */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "e-DCH-minimumSet-E-TFCI");
-      rtxCtxtPushTypeName(ctx, "E-DCH-MinimumSet-E-TFCI");
-      if ((uint64_t)pvalue->e_DCH_minimumSet_E_TFCI > 127u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->e_DCH_minimumSet_E_TFCI);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+      if (pvalue->useSpecialValueOfHEField > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->useSpecialValueOfHEField);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "useSpecialValueOfHEField", -1, "RLC-Info-r7");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->e_DCH_minimumSet_E_TFCI, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dpcchPowerOffset-SecondaryULFrequency */
-   rtxCtxtPushElemName(ctx, "dpcchPowerOffset-SecondaryULFrequency");
-   if ((uint64_t)pvalue->dpcchPowerOffset_SecondaryULFrequency > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->dpcchPowerOffset_SecondaryULFrequency);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dpcchPowerOffset_SecondaryULFrequency, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* pc-Preamble */
-   rtxCtxtPushElemName(ctx, "pc-Preamble");
-   rtxCtxtPushTypeName(ctx, "PC-Preamble");
-   if ((uint64_t)pvalue->pc_Preamble > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->pc_Preamble);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pc_Preamble, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HARQ_Preamble_Mode(rtxContext* ctx, HARQ_Preamble_Mode value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HARQ-Preamble-Mode");
-   if ((uint64_t)value > 1u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* ctx, const HS_SCCH_Info_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "HS-SCCH-Codes", i);
-      rtxCtxtPushTypeName(ctx, "HS-SCCH-Codes");
-      if ((uint64_t)pvalue->elem[i] > 127u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->useSpecialValueOfHEField, 0, 0);
+      RT_CHECK(ctx, stat, 0, "useSpecialValueOfHEField", -1, "RLC-Info-r7");
    }
    return 0;
 }
 
-int asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_fdd(rtxContext* ctx, const HS_SCCH_Info_modeSpecificInfo_fdd* pvalue)
+int asn1PE_UMTS_RLC_InfoChoice_r7(rtxContext* RT_RESTRICT ctx, const RLC_InfoChoice_r7* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* hS-SCCHChannelisationCodeInfo */
-   rtxCtxtPushElemName(ctx, "hS-SCCHChannelisationCodeInfo");
-   stat = asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-ScramblingCode */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-ScramblingCode");
-      rtxCtxtPushTypeName(ctx, "SecondaryScramblingCode");
-      if ((uint64_t)(pvalue->dl_ScramblingCode - 1) > 14u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->dl_ScramblingCode);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dl_ScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_Power_Control_Info_TDD384(rtxContext* ctx, const HS_SICH_Power_Control_Info_TDD384* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HS-SICH-Power-Control-Info-TDD384");
-   /* ul-target-SIR */
-   rtxCtxtPushElemName(ctx, "ul-target-SIR");
-   if (pvalue->ul_target_SIR < -22 || pvalue->ul_target_SIR > 40) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->ul_target_SIR);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->ul_target_SIR, -22, 40);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hs-sich-ConstantValue */
-   rtxCtxtPushElemName(ctx, "hs-sich-ConstantValue");
-   rtxCtxtPushTypeName(ctx, "ConstantValue");
-   if (pvalue->hs_sich_ConstantValue < -35 || pvalue->hs_sich_ConstantValue > -10) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->hs_sich_ConstantValue);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->hs_sich_ConstantValue, -35, -10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, const HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftLong");
-   if ((uint64_t)pvalue->midambleShift > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_TDD384_midambleAllocationMode(rtxContext* ctx, const HS_SCCH_TDD384_midambleAllocationMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "commonMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, const HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftLong");
-   if ((uint64_t)pvalue->midambleShift > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_Configuration_TDD384_midambleAllocationMode(rtxContext* ctx, const HS_SICH_Configuration_TDD384_midambleAllocationMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-InfoChoice-r7");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "RLC-InfoChoice-r7");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RLC-InfoChoice-r7");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.rlc_Info == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "rlc-Info", -1, "RLC-InfoChoice-r7");
+         stat = asn1PE_UMTS_RLC_Info_r7(ctx, pvalue->u.rlc_Info);
+         RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RLC-InfoChoice-r7");
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_Configuration_TDD384(rtxContext* ctx, const HS_SICH_Configuration_TDD384* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HS-SICH-Configuration-TDD384");
-   /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
-   if ((uint64_t)pvalue->timeslotNumber > 14u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* channelisationCode */
-   rtxCtxtPushElemName(ctx, "channelisationCode");
-   rtxCtxtPushTypeName(ctx, "DL-TS-ChannelisationCode");
-   if (pvalue->channelisationCode > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PE_UMTS_HS_SICH_Configuration_TDD384_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midambleconfiguration */
-   rtxCtxtPushElemName(ctx, "midambleconfiguration");
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType1and3");
-   if (pvalue->midambleconfiguration > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->midambleconfiguration);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleconfiguration, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_TDD384(rtxContext* ctx, const HS_SCCH_TDD384* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HS-SCCH-TDD384");
-   /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
-   if ((uint64_t)pvalue->timeslotNumber > 14u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* channelisationCode */
-   rtxCtxtPushElemName(ctx, "channelisationCode");
-   rtxCtxtPushTypeName(ctx, "DL-TS-ChannelisationCode");
-   if (pvalue->channelisationCode > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PE_UMTS_HS_SCCH_TDD384_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midambleconfiguration */
-   rtxCtxtPushElemName(ctx, "midambleconfiguration");
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType1and3");
-   if (pvalue->midambleconfiguration > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->midambleconfiguration);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleconfiguration, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* bler-target */
-   rtxCtxtPushElemName(ctx, "bler-target");
-   rtxCtxtPushTypeName(ctx, "Bler-Target");
-   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->bler_target);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hs-sich-configuration */
-   rtxCtxtPushElemName(ctx, "hs-sich-configuration");
-   stat = asn1PE_UMTS_HS_SICH_Configuration_TDD384(ctx, &pvalue->hs_sich_configuration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* ctx, const HS_SCCH_Info_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "HS-SCCH-TDD384", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_HS_SCCH_TDD384(ctx, (const HS_SCCH_TDD384*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384(rtxContext* ctx, const HS_SCCH_Info_modeSpecificInfo_tdd_tdd384* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* nack-ack-power-offset */
-   rtxCtxtPushElemName(ctx, "nack-ack-power-offset");
-   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hs-SICH-PowerControl-Info */
-   rtxCtxtPushElemName(ctx, "hs-SICH-PowerControl-Info");
-   stat = asn1PE_UMTS_HS_SICH_Power_Control_Info_TDD384(ctx, &pvalue->hs_SICH_PowerControl_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hS-SCCH-SetConfiguration */
-   rtxCtxtPushElemName(ctx, "hS-SCCH-SetConfiguration");
-   stat = asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_TDD128_midambleAllocationMode(rtxContext* ctx, const HS_SCCH_TDD128_midambleAllocationMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "commonMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         if ((uint64_t)pvalue->u.ueSpecificMidamble > 15u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.ueSpecificMidamble);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
+         if ((uint64_t)(pvalue->u.same_as_RB - 1) > 31u) {
+            rtxErrAddStrParm(ctx, "RB-Identity");
+            rtxErrAddUIntParm(ctx, pvalue->u.same_as_RB);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "same-as-RB", -1, "RLC-InfoChoice-r7");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.ueSpecificMidamble, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         stat = pe_ConsUInt64(ctx, pvalue->u.same_as_RB, 1, 32);
+         RT_CHECK(ctx, stat, "RB-Identity", "same-as-RB", -1, "RLC-InfoChoice-r7");
          break;
       default:
          break;
@@ -3213,2270 +714,234 @@ int asn1PE_UMTS_HS_SCCH_TDD128_midambleAllocationMode(rtxContext* ctx, const HS_
    return 0;
 }
 
-int asn1PE_UMTS_HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, const HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble* pvalue)
+int asn1PE_UMTS_RB_MappingOption_r7(rtxContext* RT_RESTRICT ctx, const RB_MappingOption_r7* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftLong");
-   if ((uint64_t)pvalue->midambleShift > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_Configuration_TDD128_midambleAllocationMode(rtxContext* ctx, const HS_SICH_Configuration_TDD128_midambleAllocationMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_Configuration_TDD128_tpc_step_size(rtxContext* ctx, HS_SICH_Configuration_TDD128_tpc_step_size value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_Configuration_TDD128(rtxContext* ctx, const HS_SICH_Configuration_TDD128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HS-SICH-Configuration-TDD128");
-   /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-LCR-r4");
-   if ((uint64_t)pvalue->timeslotNumber > 6u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* channelisationCode */
-   rtxCtxtPushElemName(ctx, "channelisationCode");
-   rtxCtxtPushTypeName(ctx, "HS-ChannelisationCode-LCR");
-   if (pvalue->channelisationCode > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PE_UMTS_HS_SICH_Configuration_TDD128_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midambleConfiguration */
-   rtxCtxtPushElemName(ctx, "midambleConfiguration");
-   if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nack-ack-power-offset */
-   rtxCtxtPushElemName(ctx, "nack-ack-power-offset");
-   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* power-level-HSSICH */
-   rtxCtxtPushElemName(ctx, "power-level-HSSICH");
-   if (pvalue->power_level_HSSICH < -120 || pvalue->power_level_HSSICH > -58) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->power_level_HSSICH);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->power_level_HSSICH, -120, -58);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tpc-step-size */
-   rtxCtxtPushElemName(ctx, "tpc-step-size");
-   if (pvalue->tpc_step_size > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->tpc_step_size);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tpc_step_size, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_TDD128(rtxContext* ctx, const HS_SCCH_TDD128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HS-SCCH-TDD128");
-   /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-LCR-r4");
-   if ((uint64_t)pvalue->timeslotNumber > 6u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* firstChannelisationCode */
-   rtxCtxtPushElemName(ctx, "firstChannelisationCode");
-   rtxCtxtPushTypeName(ctx, "HS-ChannelisationCode-LCR");
-   if (pvalue->firstChannelisationCode > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->firstChannelisationCode);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->firstChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* secondChannelisationCode */
-   rtxCtxtPushElemName(ctx, "secondChannelisationCode");
-   rtxCtxtPushTypeName(ctx, "HS-ChannelisationCode-LCR");
-   if (pvalue->secondChannelisationCode > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->secondChannelisationCode);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->secondChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PE_UMTS_HS_SCCH_TDD128_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midambleConfiguration */
-   rtxCtxtPushElemName(ctx, "midambleConfiguration");
-   if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* bler-target */
-   rtxCtxtPushElemName(ctx, "bler-target");
-   rtxCtxtPushTypeName(ctx, "Bler-Target");
-   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->bler_target);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hs-sich-configuration */
-   rtxCtxtPushElemName(ctx, "hs-sich-configuration");
-   stat = asn1PE_UMTS_HS_SICH_Configuration_TDD128(ctx, &pvalue->hs_sich_configuration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd128(rtxContext* ctx, const HS_SCCH_Info_modeSpecificInfo_tdd_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "HS-SCCH-TDD128", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_HS_SCCH_TDD128(ctx, (const HS_SCCH_TDD128*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd(rtxContext* ctx, const HS_SCCH_Info_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo(rtxContext* ctx, const HS_SCCH_Info_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info(rtxContext* ctx, const HS_SCCH_Info* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HS-SCCH-Info");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Feedback_cycle(rtxContext* ctx, Feedback_cycle value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Feedback-cycle");
-   if (value > 8) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Measurement_Feedback_Info_modeSpecificInfo_fdd(rtxContext* ctx, const Measurement_Feedback_Info_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* measurementPowerOffset */
-   rtxCtxtPushElemName(ctx, "measurementPowerOffset");
-   rtxCtxtPushTypeName(ctx, "MeasurementPowerOffset");
-   if (pvalue->measurementPowerOffset < -12 || pvalue->measurementPowerOffset > 26) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->measurementPowerOffset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->measurementPowerOffset, -12, 26);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* feedback-cycle */
-   rtxCtxtPushElemName(ctx, "feedback-cycle");
-   rtxCtxtPushTypeName(ctx, "Feedback-cycle");
-   if (pvalue->feedback_cycle > 8) {
-      rtxErrAddUIntParm(ctx, pvalue->feedback_cycle);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->feedback_cycle, 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* cqi-RepetitionFactor */
-   rtxCtxtPushElemName(ctx, "cqi-RepetitionFactor");
-   rtxCtxtPushTypeName(ctx, "CQI-RepetitionFactor");
-   if ((uint64_t)(pvalue->cqi_RepetitionFactor - 1) > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->cqi_RepetitionFactor);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cqi_RepetitionFactor, 1, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* deltaCQI */
-   rtxCtxtPushElemName(ctx, "deltaCQI");
-   rtxCtxtPushTypeName(ctx, "DeltaCQI");
-   if ((uint64_t)pvalue->deltaCQI > 8u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->deltaCQI);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->deltaCQI, 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Measurement_Feedback_Info_modeSpecificInfo(rtxContext* ctx, const Measurement_Feedback_Info_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Measurement_Feedback_Info_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Measurement_Feedback_Info(rtxContext* ctx, const Measurement_Feedback_Info* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Measurement-Feedback-Info");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_Measurement_Feedback_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, const MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftLong");
-   if ((uint64_t)pvalue->midambleShift > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode(rtxContext* ctx, const MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "commonMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type1(rtxContext* ctx, const MidambleShiftAndBurstType_DL_burstType_type1* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* midambleConfigurationBurstType1and3 */
-   rtxCtxtPushElemName(ctx, "midambleConfigurationBurstType1and3");
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType1and3");
-   if (pvalue->midambleConfigurationBurstType1and3 > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType1and3);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfigurationBurstType1and3, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, const MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftShort");
-   if ((uint64_t)pvalue->midambleShift > 5u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode(rtxContext* ctx, const MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "commonMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type2(rtxContext* ctx, const MidambleShiftAndBurstType_DL_burstType_type2* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* midambleConfigurationBurstType2 */
-   rtxCtxtPushElemName(ctx, "midambleConfigurationBurstType2");
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType2");
-   if (pvalue->midambleConfigurationBurstType2 > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType2);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfigurationBurstType2, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType(rtxContext* ctx, const MidambleShiftAndBurstType_DL_burstType* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "type1");
-         if (pvalue->u.type1 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type1(ctx, pvalue->u.type1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "type2");
-         if (pvalue->u.type2 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type2(ctx, pvalue->u.type2);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_DL(rtxContext* ctx, const MidambleShiftAndBurstType_DL* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MidambleShiftAndBurstType-DL");
-   /* burstType */
-   rtxCtxtPushElemName(ctx, "burstType");
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType(ctx, &pvalue->burstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_TS_Configuration_element(rtxContext* ctx, const DL_HSPDSCH_TS_Configuration_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* timeslot */
-   rtxCtxtPushElemName(ctx, "timeslot");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
-   if ((uint64_t)pvalue->timeslot > 14u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->timeslot);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleShiftAndBurstType */
-   rtxCtxtPushElemName(ctx, "midambleShiftAndBurstType");
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_TS_Configuration(rtxContext* ctx, const DL_HSPDSCH_TS_Configuration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "DL-HSPDSCH-TS-Configuration");
-   RT_SET_SIZE(ctx, 1, 13);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_DL_HSPDSCH_TS_Configuration_element(ctx, (const DL_HSPDSCH_TS_Configuration_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384(rtxContext* ctx, const DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* dl-HSPDSCH-TS-Configuration */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-TS-Configuration");
-      stat = asn1PE_UMTS_DL_HSPDSCH_TS_Configuration(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128(rtxContext* ctx, const DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* hs-PDSCH-Midamble-Configuration-tdd128 */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "hs-PDSCH-Midamble-Configuration-tdd128");
-      stat = asn1PE_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration_tdd128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd(rtxContext* ctx, const DL_HSPDSCH_Information_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_modeSpecificInfo(rtxContext* ctx, const DL_HSPDSCH_Information_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "fdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information(rtxContext* ctx, const DL_HSPDSCH_Information* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-HSPDSCH-Information");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-MappingOption-r7");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* hs-scch-Info */
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-MappingOption-r7");
+   /* ul-LogicalChannelMappings */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "hs-scch-Info");
-      stat = asn1PE_UMTS_HS_SCCH_Info(ctx, &pvalue->hs_scch_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UL_LogicalChannelMappings_r6(ctx, &pvalue->ul_LogicalChannelMappings);
+      RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMappings", -1, "RB-MappingOption-r7");
    }
-   /* measurement-feedback-Info */
+   /* dl-LogicalChannelMappingList */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "measurement-feedback-Info");
-      stat = asn1PE_UMTS_Measurement_Feedback_Info(ctx, &pvalue->measurement_feedback_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_DL_HSPDSCH_Information_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Serving_HSDSCH_CellInformation_mac_hsResetIndicator(rtxContext* ctx, Serving_HSDSCH_CellInformation_mac_hsResetIndicator value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_Serving_HSDSCH_CellInformation(rtxContext* ctx, const Serving_HSDSCH_CellInformation* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Serving-HSDSCH-CellInformation");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat);
-   /* deltaACK */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "deltaACK");
-      rtxCtxtPushTypeName(ctx, "DeltaACK");
-      if ((uint64_t)pvalue->deltaACK > 8u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->deltaACK);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->deltaACK, 0, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* deltaNACK */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "deltaNACK");
-      rtxCtxtPushTypeName(ctx, "DeltaNACK");
-      if ((uint64_t)pvalue->deltaNACK > 8u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->deltaNACK);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->deltaNACK, 0, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* harq-Preamble-Mode */
-   rtxCtxtPushElemName(ctx, "harq-Preamble-Mode");
-   rtxCtxtPushTypeName(ctx, "HARQ-Preamble-Mode");
-   if ((uint64_t)pvalue->harq_Preamble_Mode > 1u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->harq_Preamble_Mode);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->harq_Preamble_Mode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCPICH-Info */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-hspdsch-Information */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "dl-hspdsch-Information");
-      stat = asn1PE_UMTS_DL_HSPDSCH_Information(ctx, &pvalue->dl_hspdsch_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* harqInfo */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "harqInfo");
-      stat = asn1PE_UMTS_HARQ_Info(ctx, &pvalue->harqInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mac-hsResetIndicator */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "mac-hsResetIndicator");
-      if (pvalue->mac_hsResetIndicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->mac_hsResetIndicator);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mac_hsResetIndicator, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* ctx, const HS_SCCH_Info_r7_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "HS-SCCH-Codes", i);
-      rtxCtxtPushTypeName(ctx, "HS-SCCH-Codes");
-      if ((uint64_t)pvalue->elem[i] > 127u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
+      stat = asn1PE_UMTS_DL_LogicalChannelMappingList_r7(ctx, &pvalue->dl_LogicalChannelMappingList);
+      RT_CHECK(ctx, stat, 0, "dl-LogicalChannelMappingList", -1, "RB-MappingOption-r7");
    }
    return 0;
 }
 
-int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_fdd(rtxContext* ctx, const HS_SCCH_Info_r7_modeSpecificInfo_fdd* pvalue)
+int asn1PE_UMTS_RB_MappingInfo_r7(rtxContext* RT_RESTRICT ctx, const RB_MappingInfo_r7* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* hS-SCCHChannelisationCodeInfo */
-   rtxCtxtPushElemName(ctx, "hS-SCCHChannelisationCodeInfo");
-   stat = asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-ScramblingCode */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-ScramblingCode");
-      rtxCtxtPushTypeName(ctx, "SecondaryScramblingCode");
-      if ((uint64_t)(pvalue->dl_ScramblingCode - 1) > 14u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->dl_ScramblingCode);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dl_ScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DHS_Sync(rtxContext* ctx, DHS_Sync value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DHS-Sync");
-   if (value < -20 || value > 10) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, value, -20, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, const HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftLong");
-   if ((uint64_t)pvalue->midambleShift > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_TDD384_r6_midambleAllocationMode(rtxContext* ctx, const HS_SCCH_TDD384_r6_midambleAllocationMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "commonMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_TDD384_r6(rtxContext* ctx, const HS_SCCH_TDD384_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HS-SCCH-TDD384-r6");
-   /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
-   if ((uint64_t)pvalue->timeslotNumber > 14u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* channelisationCode */
-   rtxCtxtPushElemName(ctx, "channelisationCode");
-   rtxCtxtPushTypeName(ctx, "DL-TS-ChannelisationCode");
-   if (pvalue->channelisationCode > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PE_UMTS_HS_SCCH_TDD384_r6_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midambleconfiguration */
-   rtxCtxtPushElemName(ctx, "midambleconfiguration");
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType1and3");
-   if (pvalue->midambleconfiguration > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->midambleconfiguration);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleconfiguration, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hs-sich-configuration */
-   rtxCtxtPushElemName(ctx, "hs-sich-configuration");
-   stat = asn1PE_UMTS_HS_SICH_Configuration_TDD384(ctx, &pvalue->hs_sich_configuration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-MappingInfo-r7");
    const rtxDListNode* node;
    uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
+   RT_SET_SIZE(ctx, 1, 8);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-MappingInfo-r7");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "HS-SCCH-TDD384-r6", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_HS_SCCH_TDD384_r6(ctx, (const HS_SCCH_TDD384_r6*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-MappingOption-r7", (int32_t)i, "RB-MappingInfo-r7");
+      stat = asn1PE_UMTS_RB_MappingOption_r7(ctx, (const RB_MappingOption_r7*)node->data);
+      RT_CHECK(ctx, stat, 0, "RB-MappingOption-r7", (int32_t)i, "RB-MappingInfo-r7");
    }
    return 0;
 }
 
-int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384(rtxContext* ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384* pvalue)
+int asn1PE_UMTS_RB_InformationSetup_r7(rtxContext* RT_RESTRICT ctx, const RB_InformationSetup_r7* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationSetup-r7");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* nack-ack-power-offset */
-   rtxCtxtPushElemName(ctx, "nack-ack-power-offset");
-   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationSetup-r7");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r7");
    }
-   stat = pe_ConsInt64(ctx, pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hs-SICH-PowerControl-Info */
-   rtxCtxtPushElemName(ctx, "hs-SICH-PowerControl-Info");
-   stat = asn1PE_UMTS_HS_SICH_Power_Control_Info_TDD384(ctx, &pvalue->hs_SICH_PowerControl_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dhs-sync */
+   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r7");
+   /* pdcp-Info */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dhs-sync");
-      rtxCtxtPushTypeName(ctx, "DHS-Sync");
-      if (pvalue->dhs_sync < -20 || pvalue->dhs_sync > 10) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->dhs_sync);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+      stat = asn1PE_UMTS_PDCP_Info_r4(ctx, &pvalue->pdcp_Info);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationSetup-r7");
+   }
+   /* rlc-InfoChoice */
+   stat = asn1PE_UMTS_RLC_InfoChoice_r7(ctx, &pvalue->rlc_InfoChoice);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "RB-InformationSetup-r7");
+   /* rb-MappingInfo */
+   stat = asn1PE_UMTS_RB_MappingInfo_r7(ctx, &pvalue->rb_MappingInfo);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationSetup-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationSetupList_r7(rtxContext* RT_RESTRICT ctx, const RB_InformationSetupList_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationSetupList-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-InformationSetupList-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-InformationSetup-r7", (int32_t)i, "RB-InformationSetupList-r7");
+      stat = asn1PE_UMTS_RB_InformationSetup_r7(ctx, (const RB_InformationSetup_r7*)node->data);
+      RT_CHECK(ctx, stat, 0, "RB-InformationSetup-r7", (int32_t)i, "RB-InformationSetupList-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationSetup_r7(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetup-r7");
+   /* rab-Info */
+   stat = asn1PE_UMTS_RAB_Info_r7(ctx, &pvalue->rab_Info);
+   RT_CHECK(ctx, stat, 0, "rab-Info", -1, "RAB-InformationSetup-r7");
+   /* rb-InformationSetupList */
+   stat = asn1PE_UMTS_RB_InformationSetupList_r7(ctx, &pvalue->rb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "rb-InformationSetupList", -1, "RAB-InformationSetup-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch_rlc_SizeList(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch_rlc_SizeList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if (pvalue->u.explicitList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "explicitList", -1, 0);
+         stat = asn1PE_UMTS_RLC_SizeExplicitList(ctx, pvalue->u.explicitList);
+         RT_CHECK(ctx, stat, 0, "explicitList", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ul-TransportChannelType */
+   stat = asn1PE_UMTS_UL_TransportChannelType(ctx, &pvalue->ul_TransportChannelType);
+   RT_CHECK(ctx, stat, 0, "ul-TransportChannelType", -1, 0);
+   /* logicalChannelIdentity */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->logicalChannelIdentity - 1) > 14u) {
+         rtxErrAddStrParm(ctx, "LogicalChannelIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->logicalChannelIdentity);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "LogicalChannelIdentity", "logicalChannelIdentity", -1, 0);
       }
-      stat = pe_ConsInt64(ctx, pvalue->dhs_sync, -20, 10);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->logicalChannelIdentity, 1, 15);
+      RT_CHECK(ctx, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, 0);
    }
-   /* bler-target */
-   rtxCtxtPushElemName(ctx, "bler-target");
-   rtxCtxtPushTypeName(ctx, "Bler-Target");
-   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->bler_target);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hS-SCCH-SetConfiguration */
-   rtxCtxtPushElemName(ctx, "hS-SCCH-SetConfiguration");
-   stat = asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   /* rlc-SizeList */
+   stat = asn1PE_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch_rlc_SizeList(ctx, &pvalue->rlc_SizeList);
+   RT_CHECK(ctx, stat, 0, "rlc-SizeList", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_HS_SICH_Power_Control_Info_TDD768(rtxContext* ctx, const HS_SICH_Power_Control_Info_TDD768* pvalue)
+int asn1PE_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size_fixedSize(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size_fixedSize* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HS-SICH-Power-Control-Info-TDD768");
-   /* ul-target-SIR */
-   rtxCtxtPushElemName(ctx, "ul-target-SIR");
-   if (pvalue->ul_target_SIR < -22 || pvalue->ul_target_SIR > 40) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->ul_target_SIR);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ddi */
+   if ((uint64_t)pvalue->ddi > 62u) {
+      rtxErrAddStrParm(ctx, "DDI");
+      rtxErrAddUIntParm(ctx, pvalue->ddi);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "DDI", "ddi", -1, 0);
    }
-   stat = pe_ConsInt64(ctx, pvalue->ul_target_SIR, -22, 40);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hs-sich-ConstantValue */
-   rtxCtxtPushElemName(ctx, "hs-sich-ConstantValue");
-   rtxCtxtPushTypeName(ctx, "ConstantValue");
-   if (pvalue->hs_sich_ConstantValue < -35 || pvalue->hs_sich_ConstantValue > -10) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->hs_sich_ConstantValue);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->hs_sich_ConstantValue, -35, -10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   stat = pe_ConsUInt64(ctx, pvalue->ddi, 0, 62);
+   RT_CHECK(ctx, stat, "DDI", "ddi", -1, 0);
+   /* rlc-PDU-SizeList */
+   stat = asn1PE_UMTS_RLC_PDU_SizeList(ctx, &pvalue->rlc_PDU_SizeList);
+   RT_CHECK(ctx, stat, 0, "rlc-PDU-SizeList", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, const HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftLong");
-   if ((uint64_t)pvalue->midambleShift > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_TDD768_midambleAllocationMode(rtxContext* ctx, const HS_SCCH_TDD768_midambleAllocationMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "commonMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, const HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftLong");
-   if ((uint64_t)pvalue->midambleShift > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_Configuration_TDD768_midambleAllocationMode(rtxContext* ctx, const HS_SICH_Configuration_TDD768_midambleAllocationMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_Configuration_TDD768(rtxContext* ctx, const HS_SICH_Configuration_TDD768* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HS-SICH-Configuration-TDD768");
-   /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
-   if ((uint64_t)pvalue->timeslotNumber > 14u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* channelisationCode */
-   rtxCtxtPushElemName(ctx, "channelisationCode");
-   rtxCtxtPushTypeName(ctx, "DL-TS-ChannelisationCode-VHCR");
-   if (pvalue->channelisationCode > 31) {
-      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PE_UMTS_HS_SICH_Configuration_TDD768_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midambleconfiguration */
-   rtxCtxtPushElemName(ctx, "midambleconfiguration");
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType1and3");
-   if (pvalue->midambleconfiguration > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->midambleconfiguration);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleconfiguration, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_TDD768(rtxContext* ctx, const HS_SCCH_TDD768* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HS-SCCH-TDD768");
-   /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
-   if ((uint64_t)pvalue->timeslotNumber > 14u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* channelisationCode */
-   rtxCtxtPushElemName(ctx, "channelisationCode");
-   rtxCtxtPushTypeName(ctx, "DL-TS-ChannelisationCode-VHCR");
-   if (pvalue->channelisationCode > 31) {
-      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PE_UMTS_HS_SCCH_TDD768_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midambleconfiguration */
-   rtxCtxtPushElemName(ctx, "midambleconfiguration");
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType1and3");
-   if (pvalue->midambleconfiguration > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->midambleconfiguration);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleconfiguration, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hs-sich-configuration */
-   rtxCtxtPushElemName(ctx, "hs-sich-configuration");
-   stat = asn1PE_UMTS_HS_SICH_Configuration_TDD768(ctx, &pvalue->hs_sich_configuration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(rtxContext* ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "HS-SCCH-TDD768", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_HS_SCCH_TDD768(ctx, (const HS_SCCH_TDD768*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768(rtxContext* ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* nack-ack-power-offset */
-   rtxCtxtPushElemName(ctx, "nack-ack-power-offset");
-   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hs-SICH-PowerControl-Info */
-   rtxCtxtPushElemName(ctx, "hs-SICH-PowerControl-Info");
-   stat = asn1PE_UMTS_HS_SICH_Power_Control_Info_TDD768(ctx, &pvalue->hs_SICH_PowerControl_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dhs-sync */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dhs-sync");
-      rtxCtxtPushTypeName(ctx, "DHS-Sync");
-      if (pvalue->dhs_sync < -20 || pvalue->dhs_sync > 10) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->dhs_sync);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->dhs_sync, -20, 10);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* bler-target */
-   rtxCtxtPushElemName(ctx, "bler-target");
-   rtxCtxtPushTypeName(ctx, "Bler-Target");
-   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->bler_target);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hS-SCCH-SetConfiguration */
-   rtxCtxtPushElemName(ctx, "hS-SCCH-SetConfiguration");
-   stat = asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_tpc_step_size(rtxContext* ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_tpc_step_size value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_PowerControlGAP(rtxContext* ctx, PowerControlGAP value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PowerControlGAP");
-   stat = pe_ConsUInt64(ctx, value, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(rtxContext* ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "HS-SCCH-TDD128-r6", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_HS_SCCH_TDD128_r6(ctx, (const HS_SCCH_TDD128_r6*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128(rtxContext* ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* nack-ack-power-offset */
-   rtxCtxtPushElemName(ctx, "nack-ack-power-offset");
-   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* power-level-HSSICH */
-   rtxCtxtPushElemName(ctx, "power-level-HSSICH");
-   if (pvalue->power_level_HSSICH < -120 || pvalue->power_level_HSSICH > -58) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->power_level_HSSICH);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->power_level_HSSICH, -120, -58);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tpc-step-size */
-   rtxCtxtPushElemName(ctx, "tpc-step-size");
-   if (pvalue->tpc_step_size > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->tpc_step_size);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tpc_step_size, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* bler-target */
-   rtxCtxtPushElemName(ctx, "bler-target");
-   rtxCtxtPushTypeName(ctx, "Bler-Target");
-   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->bler_target);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* powerControlGAP */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "powerControlGAP");
-      rtxCtxtPushTypeName(ctx, "PowerControlGAP");
-      stat = pe_ConsUInt64(ctx, pvalue->powerControlGAP, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pathlossCompensationSwitch */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "pathlossCompensationSwitch");
-      stat = rtxEncBit(ctx, pvalue->pathlossCompensationSwitch);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hS-SCCH-SetConfiguration */
-   rtxCtxtPushElemName(ctx, "hS-SCCH-SetConfiguration");
-   stat = asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd(rtxContext* ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd768");
-         if (pvalue->u.tdd768 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo(rtxContext* ctx, const HS_SCCH_Info_r7_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r7(rtxContext* ctx, const HS_SCCH_Info_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HS-SCCH-Info-r7");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384(rtxContext* ctx, const DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* dl-HSPDSCH-TS-Configuration */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-TS-Configuration");
-      stat = asn1PE_UMTS_DL_HSPDSCH_TS_Configuration(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftLong");
-   if ((uint64_t)pvalue->midambleShift > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode(rtxContext* ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "commonMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1(rtxContext* ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType_type1* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* midambleConfigurationBurstType1and3 */
-   rtxCtxtPushElemName(ctx, "midambleConfigurationBurstType1and3");
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType1and3");
-   if (pvalue->midambleConfigurationBurstType1and3 > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType1and3);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfigurationBurstType1and3, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftShort-VHCR");
-   if ((uint64_t)pvalue->midambleShift > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode(rtxContext* ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "commonMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2(rtxContext* ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType_type2* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* midambleConfigurationBurstType2 */
-   rtxCtxtPushElemName(ctx, "midambleConfigurationBurstType2");
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType2-VHCR");
-   if (pvalue->midambleConfigurationBurstType2 > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType2);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfigurationBurstType2, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType(rtxContext* ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "type1");
-         if (pvalue->u.type1 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1(ctx, pvalue->u.type1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "type2");
-         if (pvalue->u.type2 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2(ctx, pvalue->u.type2);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR(rtxContext* ctx, const MidambleShiftAndBurstType_DL_VHCR* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MidambleShiftAndBurstType-DL-VHCR");
-   /* burstType */
-   rtxCtxtPushElemName(ctx, "burstType");
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType(ctx, &pvalue->burstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_TS_Configuration_VHCR_element(rtxContext* ctx, const DL_HSPDSCH_TS_Configuration_VHCR_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* timeslot */
-   rtxCtxtPushElemName(ctx, "timeslot");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
-   if ((uint64_t)pvalue->timeslot > 14u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->timeslot);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleShiftAndBurstType */
-   rtxCtxtPushElemName(ctx, "midambleShiftAndBurstType");
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_TS_Configuration_VHCR(rtxContext* ctx, const DL_HSPDSCH_TS_Configuration_VHCR* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "DL-HSPDSCH-TS-Configuration-VHCR");
-   RT_SET_SIZE(ctx, 1, 13);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_DL_HSPDSCH_TS_Configuration_VHCR_element(ctx, (const DL_HSPDSCH_TS_Configuration_VHCR_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768(rtxContext* ctx, const DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* dl-HSPDSCH-TS-Configuration */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-TS-Configuration");
-      stat = asn1PE_UMTS_DL_HSPDSCH_TS_Configuration_VHCR(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_MultiCarrier_Information_tsn_Length(rtxContext* ctx, DL_MultiCarrier_Information_tsn_Length value)
+int asn1PE_UMTS_RLC_PDU_SizeConstraint_lengthIndicatorSize(rtxContext* RT_RESTRICT ctx, RLC_PDU_SizeConstraint_lengthIndicatorSize value)
 {
    int stat = 0;
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_HS_SCCH_TDD128_MultiCarrier_midambleAllocationMode(rtxContext* ctx, const HS_SCCH_TDD128_MultiCarrier_midambleAllocationMode* pvalue)
+int asn1PE_UMTS_RLC_PDU_SizeConstraint(rtxContext* RT_RESTRICT ctx, const RLC_PDU_SizeConstraint* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "commonMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         if ((uint64_t)pvalue->u.ueSpecificMidamble > 15u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.ueSpecificMidamble);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.ueSpecificMidamble, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_TDD128_MultiCarrier(rtxContext* ctx, const HS_SCCH_TDD128_MultiCarrier* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HS-SCCH-TDD128-MultiCarrier");
-   /* uarfcn-HS-SCCH-Rx */
-   rtxCtxtPushElemName(ctx, "uarfcn-HS-SCCH-Rx");
-   rtxCtxtPushTypeName(ctx, "UARFCN");
-   if ((uint64_t)pvalue->uarfcn_HS_SCCH_Rx > 16383u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->uarfcn_HS_SCCH_Rx);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->uarfcn_HS_SCCH_Rx, 0, 16383);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-LCR-r4");
-   if ((uint64_t)pvalue->timeslotNumber > 6u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* firstChannelisationCode */
-   rtxCtxtPushElemName(ctx, "firstChannelisationCode");
-   rtxCtxtPushTypeName(ctx, "HS-ChannelisationCode-LCR");
-   if (pvalue->firstChannelisationCode > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->firstChannelisationCode);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->firstChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* secondChannelisationCode */
-   rtxCtxtPushElemName(ctx, "secondChannelisationCode");
-   rtxCtxtPushTypeName(ctx, "HS-ChannelisationCode-LCR");
-   if (pvalue->secondChannelisationCode > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->secondChannelisationCode);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->secondChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PE_UMTS_HS_SCCH_TDD128_MultiCarrier_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midambleConfiguration */
-   rtxCtxtPushElemName(ctx, "midambleConfiguration");
-   if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* bler-target */
-   rtxCtxtPushElemName(ctx, "bler-target");
-   rtxCtxtPushTypeName(ctx, "Bler-Target");
-   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->bler_target);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hs-sich-configuration */
-   rtxCtxtPushElemName(ctx, "hs-sich-configuration");
-   stat = asn1PE_UMTS_HS_SICH_Configuration_TDD128(ctx, &pvalue->hs_sich_configuration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_MultiCarrier_Information_element_hs_SCCH_TDD128_MultiCarrier(rtxContext* ctx, const DL_HSPDSCH_MultiCarrier_Information_element_hs_SCCH_TDD128_MultiCarrier* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "HS-SCCH-TDD128-MultiCarrier", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_HS_SCCH_TDD128_MultiCarrier(ctx, (const HS_SCCH_TDD128_MultiCarrier*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_MultiCarrier_Information_element(rtxContext* ctx, const DL_HSPDSCH_MultiCarrier_Information_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* uarfcn-Carrier */
-   rtxCtxtPushElemName(ctx, "uarfcn-Carrier");
-   rtxCtxtPushTypeName(ctx, "UARFCN");
-   if ((uint64_t)pvalue->uarfcn_Carrier > 16383u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->uarfcn_Carrier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->uarfcn_Carrier, 0, 16383);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* harqInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "harqInfo");
-      stat = asn1PE_UMTS_HARQ_Info(ctx, &pvalue->harqInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hs-PDSCH-Midamble-Configuration */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "hs-PDSCH-Midamble-Configuration");
-      stat = asn1PE_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hs-SCCH-TDD128-MultiCarrier */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "hs-SCCH-TDD128-MultiCarrier");
-      stat = asn1PE_UMTS_DL_HSPDSCH_MultiCarrier_Information_element_hs_SCCH_TDD128_MultiCarrier(ctx, &pvalue->hs_SCCH_TDD128_MultiCarrier);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_MultiCarrier_Information(rtxContext* ctx, const DL_HSPDSCH_MultiCarrier_Information* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "DL-HSPDSCH-MultiCarrier-Information");
-   RT_SET_SIZE(ctx, 1, 6);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_DL_HSPDSCH_MultiCarrier_Information_element(ctx, (const DL_HSPDSCH_MultiCarrier_Information_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_MultiCarrier_Information(rtxContext* ctx, const DL_MultiCarrier_Information* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-MultiCarrier-Information");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* tsn-Length */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "tsn-Length");
-      if (pvalue->tsn_Length > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->tsn_Length);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tsn_Length, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* multiCarrierNumber */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "multiCarrierNumber");
-      if ((uint64_t)(pvalue->multiCarrierNumber - 1) > 5u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->multiCarrierNumber);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->multiCarrierNumber, 1, 6);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-HSPDSCH-MultiCarrier-Information */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-MultiCarrier-Information");
-      stat = asn1PE_UMTS_DL_HSPDSCH_MultiCarrier_Information(ctx, &pvalue->dl_HSPDSCH_MultiCarrier_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128(rtxContext* ctx, const DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* hs-PDSCH-Midamble-Configuration-tdd128 */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "hs-PDSCH-Midamble-Configuration-tdd128");
-      stat = asn1PE_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration_tdd128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-MultiCarrier-Information */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dl-MultiCarrier-Information");
-      stat = asn1PE_UMTS_DL_MultiCarrier_Information(ctx, &pvalue->dl_MultiCarrier_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd(rtxContext* ctx, const DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd768");
-         if (pvalue->u.tdd768 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd_dl_64QAM_Configured(rtxContext* ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd_dl_64QAM_Configured value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd(rtxContext* ctx, const DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-PDU-SizeConstraint");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* dl-64QAM-Configured */
+   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-PDU-SizeConstraint");
+   /* lengthIndicatorSize */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-64QAM-Configured");
-      if (pvalue->dl_64QAM_Configured > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->dl_64QAM_Configured);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+      if (pvalue->lengthIndicatorSize > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->lengthIndicatorSize);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "lengthIndicatorSize", -1, "RLC-PDU-SizeConstraint");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->dl_64QAM_Configured, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->lengthIndicatorSize, 0, 1);
+      RT_CHECK(ctx, stat, 0, "lengthIndicatorSize", -1, "RLC-PDU-SizeConstraint");
    }
+   /* minRLC-PDU-Size */
+   if ((uint64_t)pvalue->minRLC_PDU_Size > 1503u) {
+      rtxErrAddStrParm(ctx, "minRLC-PDU-Size");
+      rtxErrAddUIntParm(ctx, pvalue->minRLC_PDU_Size);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "minRLC-PDU-Size", -1, "RLC-PDU-SizeConstraint");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->minRLC_PDU_Size, 0, 1503);
+   RT_CHECK(ctx, stat, 0, "minRLC-PDU-Size", -1, "RLC-PDU-SizeConstraint");
+   /* largestRLC-PDU-Size */
+   if ((uint64_t)pvalue->largestRLC_PDU_Size > 1503u) {
+      rtxErrAddStrParm(ctx, "largestRLC-PDU-Size");
+      rtxErrAddUIntParm(ctx, pvalue->largestRLC_PDU_Size);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "largestRLC-PDU-Size", -1, "RLC-PDU-SizeConstraint");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->largestRLC_PDU_Size, 0, 1503);
+   RT_CHECK(ctx, stat, 0, "largestRLC-PDU-Size", -1, "RLC-PDU-SizeConstraint");
    return 0;
 }
 
-int asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo(rtxContext* ctx, const DL_HSPDSCH_Information_r7_modeSpecificInfo* pvalue)
+int asn1PE_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.fixedSize == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fixedSize", -1, 0);
+         stat = asn1PE_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size_fixedSize(ctx, pvalue->u.fixedSize);
+         RT_CHECK(ctx, stat, 0, "fixedSize", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.flexibleSize == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "flexibleSize", -1, 0);
+         stat = asn1PE_UMTS_RLC_PDU_SizeConstraint(ctx, pvalue->u.flexibleSize);
+         RT_CHECK(ctx, stat, 0, "flexibleSize", -1, 0);
          break;
       default:
          break;
@@ -5484,3533 +949,8076 @@ int asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo(rtxContext* ctx, cons
    return 0;
 }
 
-int asn1PE_UMTS_DL_HSPDSCH_Information_r7(rtxContext* ctx, const DL_HSPDSCH_Information_r7* pvalue)
+int asn1PE_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-HSPDSCH-Information-r7");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* logicalChannelIdentity */
+   if ((uint64_t)(pvalue->logicalChannelIdentity - 1) > 14u) {
+      rtxErrAddStrParm(ctx, "LogicalChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->logicalChannelIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "LogicalChannelIdentity", "logicalChannelIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->logicalChannelIdentity, 1, 15);
+   RT_CHECK(ctx, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, 0);
+   /* e-DCH-MAC-d-FlowIdentity */
+   if ((uint64_t)pvalue->e_DCH_MAC_d_FlowIdentity > 7u) {
+      rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->e_DCH_MAC_d_FlowIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DCH-MAC-d-FlowIdentity", "e-DCH-MAC-d-FlowIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->e_DCH_MAC_d_FlowIdentity, 0, 7);
+   RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowIdentity", "e-DCH-MAC-d-FlowIdentity", -1, 0);
+   /* rlc-PDU-Size */
+   stat = asn1PE_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size(ctx, &pvalue->rlc_PDU_Size);
+   RT_CHECK(ctx, stat, 0, "rlc-PDU-Size", -1, 0);
+   /* includeInSchedulingInfo */
+   stat = rtxEncBit(ctx, pvalue->includeInSchedulingInfo);
+   RT_CHECK(ctx, stat, 0, "includeInSchedulingInfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r8_ul_TrCH_Type* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.dch_rach_usch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dch-rach-usch", -1, 0);
+         stat = asn1PE_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch(ctx, pvalue->u.dch_rach_usch);
+         RT_CHECK(ctx, stat, 0, "dch-rach-usch", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.e_dch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e-dch", -1, 0);
+         stat = asn1PE_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch(ctx, pvalue->u.e_dch);
+         RT_CHECK(ctx, stat, 0, "e-dch", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_LogicalChannelMapping_r8(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-LogicalChannelMapping-r8");
+   /* ul-TrCH-Type */
+   stat = asn1PE_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type(ctx, &pvalue->ul_TrCH_Type);
+   RT_CHECK(ctx, stat, 0, "ul-TrCH-Type", -1, "UL-LogicalChannelMapping-r8");
+   /* mac-LogicalChannelPriority */
+   if ((uint64_t)(pvalue->mac_LogicalChannelPriority - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "MAC-LogicalChannelPriority");
+      rtxErrAddUIntParm(ctx, pvalue->mac_LogicalChannelPriority);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MAC-LogicalChannelPriority", "mac-LogicalChannelPriority", -1, "UL-LogicalChannelMapping-r8");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->mac_LogicalChannelPriority, 1, 8);
+   RT_CHECK(ctx, stat, "MAC-LogicalChannelPriority", "mac-LogicalChannelPriority", -1, "UL-LogicalChannelMapping-r8");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_LogicalChannelMappingList_r8_ul_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappingList_r8_ul_LogicalChannelMapping* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 2, 2);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UL-LogicalChannelMapping-r8", (int32_t)i, 0);
+      stat = asn1PE_UMTS_UL_LogicalChannelMapping_r8(ctx, (const UL_LogicalChannelMapping_r8*)node->data);
+      RT_CHECK(ctx, stat, 0, "UL-LogicalChannelMapping-r8", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_LogicalChannelMappingList_r8(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappingList_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-LogicalChannelMappingList-r8");
+   /* rlc-LogicalChannelMappingIndicator */
+   stat = rtxEncBit(ctx, pvalue->rlc_LogicalChannelMappingIndicator);
+   RT_CHECK(ctx, stat, 0, "rlc-LogicalChannelMappingIndicator", -1, "UL-LogicalChannelMappingList-r8");
+   /* ul-LogicalChannelMapping */
+   stat = asn1PE_UMTS_UL_LogicalChannelMappingList_r8_ul_LogicalChannelMapping(ctx, &pvalue->ul_LogicalChannelMapping);
+   RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMapping", -1, "UL-LogicalChannelMappingList-r8");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_LogicalChannelMappings_r8(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappings_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-LogicalChannelMappings-r8");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "UL-LogicalChannelMappings-r8");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-LogicalChannelMappings-r8");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.oneLogicalChannel == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "oneLogicalChannel", -1, "UL-LogicalChannelMappings-r8");
+         stat = asn1PE_UMTS_UL_LogicalChannelMapping_r8(ctx, pvalue->u.oneLogicalChannel);
+         RT_CHECK(ctx, stat, 0, "oneLogicalChannel", -1, "UL-LogicalChannelMappings-r8");
+         break;
+      case 2:
+         if (pvalue->u.twoLogicalChannels == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "twoLogicalChannels", -1, "UL-LogicalChannelMappings-r8");
+         stat = asn1PE_UMTS_UL_LogicalChannelMappingList_r8(ctx, pvalue->u.twoLogicalChannels);
+         RT_CHECK(ctx, stat, 0, "twoLogicalChannels", -1, "UL-LogicalChannelMappings-r8");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_MappingOption_r8(rtxContext* RT_RESTRICT ctx, const RB_MappingOption_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-MappingOption-r8");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* hs-scch-Info */
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-MappingOption-r8");
+   /* ul-LogicalChannelMappings */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "hs-scch-Info");
-      stat = asn1PE_UMTS_HS_SCCH_Info_r7(ctx, &pvalue->hs_scch_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UL_LogicalChannelMappings_r8(ctx, &pvalue->ul_LogicalChannelMappings);
+      RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMappings", -1, "RB-MappingOption-r8");
    }
-   /* measurement-feedback-Info */
+   /* dl-LogicalChannelMappingList */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "measurement-feedback-Info");
-      stat = asn1PE_UMTS_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_feedback_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_DL_LogicalChannelMappingList_r7(ctx, &pvalue->dl_LogicalChannelMappingList);
+      RT_CHECK(ctx, stat, 0, "dl-LogicalChannelMappingList", -1, "RB-MappingOption-r8");
    }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_HARQ_Info_r7_numberOfProcesses(rtxContext* ctx, HARQ_Info_r7_numberOfProcesses value)
+int asn1PE_UMTS_RB_MappingInfo_r8(rtxContext* RT_RESTRICT ctx, const RB_MappingInfo_r8* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (value > 10) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 10);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_HARQ_Info_r7_memoryPartitioning_explicit__memorySize(rtxContext* ctx, const HARQ_Info_r7_memoryPartitioning_explicit__memorySize* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-MappingInfo-r8");
+   const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "HARQMemorySize", i);
-      rtxCtxtPushTypeName(ctx, "HARQMemorySize");
-      if (pvalue->elem[i] > 60) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 60);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-MappingInfo-r8");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-MappingOption-r8", (int32_t)i, "RB-MappingInfo-r8");
+      stat = asn1PE_UMTS_RB_MappingOption_r8(ctx, (const RB_MappingOption_r8*)node->data);
+      RT_CHECK(ctx, stat, 0, "RB-MappingOption-r8", (int32_t)i, "RB-MappingInfo-r8");
    }
    return 0;
 }
 
-int asn1PE_UMTS_HARQ_Info_r7_memoryPartitioning_explicit__additionalMemorySizesForMIMO(rtxContext* ctx, const HARQ_Info_r7_memoryPartitioning_explicit__additionalMemorySizesForMIMO* pvalue)
+int asn1PE_UMTS_RB_InformationSetup_r8(rtxContext* RT_RESTRICT ctx, const RB_InformationSetup_r8* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationSetup-r8");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationSetup-r8");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r8");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r8");
+   /* pdcp-Info */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PDCP_Info_r4(ctx, &pvalue->pdcp_Info);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationSetup-r8");
+   }
+   /* rlc-InfoChoice */
+   stat = asn1PE_UMTS_RLC_InfoChoice_r7(ctx, &pvalue->rlc_InfoChoice);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "RB-InformationSetup-r8");
+   /* rb-MappingInfo */
+   stat = asn1PE_UMTS_RB_MappingInfo_r8(ctx, &pvalue->rb_MappingInfo);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationSetup-r8");
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationSetupList_r8(rtxContext* RT_RESTRICT ctx, const RB_InformationSetupList_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationSetupList-r8");
+   const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "HARQMemorySize", i);
-      rtxCtxtPushTypeName(ctx, "HARQMemorySize");
-      if (pvalue->elem[i] > 60) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 60);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HARQ_Info_r7_memoryPartitioning_explicit_(rtxContext* ctx, const HARQ_Info_r7_memoryPartitioning_explicit_* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* memorySize */
-   rtxCtxtPushElemName(ctx, "memorySize");
-   stat = asn1PE_UMTS_HARQ_Info_r7_memoryPartitioning_explicit__memorySize(ctx, &pvalue->memorySize);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* additionalMemorySizesForMIMO */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "additionalMemorySizesForMIMO");
-      stat = asn1PE_UMTS_HARQ_Info_r7_memoryPartitioning_explicit__additionalMemorySizesForMIMO(ctx, &pvalue->additionalMemorySizesForMIMO);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HARQ_Info_r7_memoryPartitioning(rtxContext* ctx, const HARQ_Info_r7_memoryPartitioning* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "implicit");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "explicit");
-         if (pvalue->u.explicit_ == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HARQ_Info_r7_memoryPartitioning_explicit_(ctx, pvalue->u.explicit_);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HARQ_Info_r7(rtxContext* ctx, const HARQ_Info_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HARQ-Info-r7");
-   /* numberOfProcesses */
-   rtxCtxtPushElemName(ctx, "numberOfProcesses");
-   if (pvalue->numberOfProcesses > 10) {
-      rtxErrAddUIntParm(ctx, pvalue->numberOfProcesses);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->numberOfProcesses, 0, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* memoryPartitioning */
-   rtxCtxtPushElemName(ctx, "memoryPartitioning");
-   stat = asn1PE_UMTS_HARQ_Info_r7_memoryPartitioning(ctx, &pvalue->memoryPartitioning);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Serving_HSDSCH_CellInformation_r7_mac_hsResetIndicator(rtxContext* ctx, Serving_HSDSCH_CellInformation_r7_mac_hsResetIndicator value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_Serving_HSDSCH_CellInformation_r7(rtxContext* ctx, const Serving_HSDSCH_CellInformation_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Serving-HSDSCH-CellInformation-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat);
-   /* deltaACK */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "deltaACK");
-      rtxCtxtPushTypeName(ctx, "DeltaACK");
-      if ((uint64_t)pvalue->deltaACK > 8u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->deltaACK);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->deltaACK, 0, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* deltaNACK */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "deltaNACK");
-      rtxCtxtPushTypeName(ctx, "DeltaNACK");
-      if ((uint64_t)pvalue->deltaNACK > 8u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->deltaNACK);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->deltaNACK, 0, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* harq-Preamble-Mode */
-   rtxCtxtPushElemName(ctx, "harq-Preamble-Mode");
-   rtxCtxtPushTypeName(ctx, "HARQ-Preamble-Mode");
-   if ((uint64_t)pvalue->harq_Preamble_Mode > 1u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->harq_Preamble_Mode);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->harq_Preamble_Mode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCPICH-Info */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-hspdsch-Information */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "dl-hspdsch-Information");
-      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r7(ctx, &pvalue->dl_hspdsch_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* harqInfo */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "harqInfo");
-      stat = asn1PE_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mac-hsResetIndicator */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "mac-hsResetIndicator");
-      if (pvalue->mac_hsResetIndicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->mac_hsResetIndicator);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mac_hsResetIndicator, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384(rtxContext* ctx, const DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* dl-HSPDSCH-TS-Configuration */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-TS-Configuration");
-      stat = asn1PE_UMTS_DL_HSPDSCH_TS_Configuration(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768(rtxContext* ctx, const DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* dl-HSPDSCH-TS-Configuration */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-TS-Configuration");
-      stat = asn1PE_UMTS_DL_HSPDSCH_TS_Configuration_VHCR(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128(rtxContext* ctx, const DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* hs-PDSCH-Midamble-Configuration-tdd128 */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "hs-PDSCH-Midamble-Configuration-tdd128");
-      stat = asn1PE_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration_tdd128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-MultiCarrier-Information */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dl-MultiCarrier-Information");
-      stat = asn1PE_UMTS_DL_MultiCarrier_Information(ctx, &pvalue->dl_MultiCarrier_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd(rtxContext* ctx, const DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd768");
-         if (pvalue->u.tdd768 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd_dl_64QAM_Configured(rtxContext* ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd_dl_64QAM_Configured value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_DSCH_TBSizeTable(rtxContext* ctx, HS_DSCH_TBSizeTable value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HS-DSCH-TBSizeTable");
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd(rtxContext* ctx, const DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* dl-64QAM-Configured */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-64QAM-Configured");
-      if (pvalue->dl_64QAM_Configured > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->dl_64QAM_Configured);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dl_64QAM_Configured, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hs-DSCH-TBSizeTable */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "hs-DSCH-TBSizeTable");
-      rtxCtxtPushTypeName(ctx, "HS-DSCH-TBSizeTable");
-      if (pvalue->hs_DSCH_TBSizeTable > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->hs_DSCH_TBSizeTable);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hs_DSCH_TBSizeTable, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo(rtxContext* ctx, const DL_HSPDSCH_Information_r8_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r8(rtxContext* ctx, const DL_HSPDSCH_Information_r8* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-HSPDSCH-Information-r8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* hs-scch-Info */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "hs-scch-Info");
-      stat = asn1PE_UMTS_HS_SCCH_Info_r7(ctx, &pvalue->hs_scch_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurement-feedback-Info */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "measurement-feedback-Info");
-      stat = asn1PE_UMTS_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_feedback_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Serving_HSDSCH_CellInformation_r8_mac_hsResetIndicator(rtxContext* ctx, Serving_HSDSCH_CellInformation_r8_mac_hsResetIndicator value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_Serving_HSDSCH_CellInformation_r8(rtxContext* ctx, const Serving_HSDSCH_CellInformation_r8* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Serving-HSDSCH-CellInformation-r8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat);
-   /* deltaACK */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "deltaACK");
-      rtxCtxtPushTypeName(ctx, "DeltaACK");
-      if ((uint64_t)pvalue->deltaACK > 8u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->deltaACK);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->deltaACK, 0, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* deltaNACK */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "deltaNACK");
-      rtxCtxtPushTypeName(ctx, "DeltaNACK");
-      if ((uint64_t)pvalue->deltaNACK > 8u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->deltaNACK);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->deltaNACK, 0, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* harq-Preamble-Mode */
-   rtxCtxtPushElemName(ctx, "harq-Preamble-Mode");
-   rtxCtxtPushTypeName(ctx, "HARQ-Preamble-Mode");
-   if ((uint64_t)pvalue->harq_Preamble_Mode > 1u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->harq_Preamble_Mode);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->harq_Preamble_Mode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCPICH-Info */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-hspdsch-Information */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "dl-hspdsch-Information");
-      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_hspdsch_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* harqInfo */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "harqInfo");
-      stat = asn1PE_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mac-hsResetIndicator */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "mac-hsResetIndicator");
-      if (pvalue->mac_hsResetIndicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->mac_hsResetIndicator);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mac_hsResetIndicator, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* ctx, const HS_SCCH_Info_r9_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "HS-SCCH-Codes", i);
-      rtxCtxtPushTypeName(ctx, "HS-SCCH-Codes");
-      if ((uint64_t)pvalue->elem[i] > 127u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_fdd(rtxContext* ctx, const HS_SCCH_Info_r9_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* hS-SCCHChannelisationCodeInfo */
-   rtxCtxtPushElemName(ctx, "hS-SCCHChannelisationCodeInfo");
-   stat = asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-ScramblingCode */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-ScramblingCode");
-      rtxCtxtPushTypeName(ctx, "SecondaryScramblingCode");
-      if ((uint64_t)(pvalue->dl_ScramblingCode - 1) > 14u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->dl_ScramblingCode);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dl_ScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-InformationSetupList-r8");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "HS-SCCH-TDD384-r6", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_HS_SCCH_TDD384_r6(ctx, (const HS_SCCH_TDD384_r6*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-InformationSetup-r8", (int32_t)i, "RB-InformationSetupList-r8");
+      stat = asn1PE_UMTS_RB_InformationSetup_r8(ctx, (const RB_InformationSetup_r8*)node->data);
+      RT_CHECK(ctx, stat, 0, "RB-InformationSetup-r8", (int32_t)i, "RB-InformationSetupList-r8");
    }
    return 0;
 }
 
-int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384(rtxContext* ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384* pvalue)
+int asn1PE_UMTS_RAB_InformationSetup_r8(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_r8* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* nack-ack-power-offset */
-   rtxCtxtPushElemName(ctx, "nack-ack-power-offset");
-   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hs-SICH-PowerControl-Info */
-   rtxCtxtPushElemName(ctx, "hs-SICH-PowerControl-Info");
-   stat = asn1PE_UMTS_HS_SICH_Power_Control_Info_TDD384(ctx, &pvalue->hs_SICH_PowerControl_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dhs-sync */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dhs-sync");
-      rtxCtxtPushTypeName(ctx, "DHS-Sync");
-      if (pvalue->dhs_sync < -20 || pvalue->dhs_sync > 10) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->dhs_sync);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->dhs_sync, -20, 10);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* bler-target */
-   rtxCtxtPushElemName(ctx, "bler-target");
-   rtxCtxtPushTypeName(ctx, "Bler-Target");
-   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->bler_target);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hS-SCCH-SetConfiguration */
-   rtxCtxtPushElemName(ctx, "hS-SCCH-SetConfiguration");
-   stat = asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(rtxContext* ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "HS-SCCH-TDD768", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_HS_SCCH_TDD768(ctx, (const HS_SCCH_TDD768*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768(rtxContext* ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* nack-ack-power-offset */
-   rtxCtxtPushElemName(ctx, "nack-ack-power-offset");
-   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hs-SICH-PowerControl-Info */
-   rtxCtxtPushElemName(ctx, "hs-SICH-PowerControl-Info");
-   stat = asn1PE_UMTS_HS_SICH_Power_Control_Info_TDD768(ctx, &pvalue->hs_SICH_PowerControl_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dhs-sync */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dhs-sync");
-      rtxCtxtPushTypeName(ctx, "DHS-Sync");
-      if (pvalue->dhs_sync < -20 || pvalue->dhs_sync > 10) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->dhs_sync);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->dhs_sync, -20, 10);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* bler-target */
-   rtxCtxtPushElemName(ctx, "bler-target");
-   rtxCtxtPushTypeName(ctx, "Bler-Target");
-   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->bler_target);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hS-SCCH-SetConfiguration */
-   rtxCtxtPushElemName(ctx, "hS-SCCH-SetConfiguration");
-   stat = asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_tpc_step_size(rtxContext* ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_tpc_step_size value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size(rtxContext* ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(rtxContext* ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "HS-SCCH-TDD128-r6", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_HS_SCCH_TDD128_r6(ctx, (const HS_SCCH_TDD128_r6*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128(rtxContext* ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* nack-ack-power-offset */
-   rtxCtxtPushElemName(ctx, "nack-ack-power-offset");
-   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* power-level-HSSICH */
-   rtxCtxtPushElemName(ctx, "power-level-HSSICH");
-   if (pvalue->power_level_HSSICH < -120 || pvalue->power_level_HSSICH > -58) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->power_level_HSSICH);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->power_level_HSSICH, -120, -58);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tpc-step-size */
-   rtxCtxtPushElemName(ctx, "tpc-step-size");
-   if (pvalue->tpc_step_size > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->tpc_step_size);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tpc_step_size, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* bler-target */
-   rtxCtxtPushElemName(ctx, "bler-target");
-   rtxCtxtPushTypeName(ctx, "Bler-Target");
-   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->bler_target);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hS-SCCH-tpc-step-size */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "hS-SCCH-tpc-step-size");
-      if (pvalue->hS_SCCH_tpc_step_size > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->hS_SCCH_tpc_step_size);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hS_SCCH_tpc_step_size, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* powerControlGAP */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "powerControlGAP");
-      rtxCtxtPushTypeName(ctx, "PowerControlGAP");
-      stat = pe_ConsUInt64(ctx, pvalue->powerControlGAP, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pathlossCompensationSwitch */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "pathlossCompensationSwitch");
-      stat = rtxEncBit(ctx, pvalue->pathlossCompensationSwitch);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hS-SCCH-SetConfiguration */
-   rtxCtxtPushElemName(ctx, "hS-SCCH-SetConfiguration");
-   stat = asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd(rtxContext* ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd768");
-         if (pvalue->u.tdd768 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo(rtxContext* ctx, const HS_SCCH_Info_r9_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r9(rtxContext* ctx, const HS_SCCH_Info_r9* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HS-SCCH-Info-r9");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384(rtxContext* ctx, const DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* dl-HSPDSCH-TS-Configuration */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-TS-Configuration");
-      stat = asn1PE_UMTS_DL_HSPDSCH_TS_Configuration(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768(rtxContext* ctx, const DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* dl-HSPDSCH-TS-Configuration */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-TS-Configuration");
-      stat = asn1PE_UMTS_DL_HSPDSCH_TS_Configuration_VHCR(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128_tS0_Indicator(rtxContext* ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128_tS0_Indicator value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_OutofSyncWindow(rtxContext* ctx, OutofSyncWindow value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "OutofSyncWindow");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128(rtxContext* ctx, const DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* hs-PDSCH-Midamble-Configuration-tdd128 */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "hs-PDSCH-Midamble-Configuration-tdd128");
-      stat = asn1PE_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration_tdd128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-MultiCarrier-Information */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dl-MultiCarrier-Information");
-      stat = asn1PE_UMTS_DL_MultiCarrier_Information(ctx, &pvalue->dl_MultiCarrier_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tS0-Indicator */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "tS0-Indicator");
-      if (pvalue->tS0_Indicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->tS0_Indicator);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tS0_Indicator, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* outofSyncWindow */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "outofSyncWindow");
-      rtxCtxtPushTypeName(ctx, "OutofSyncWindow");
-      if (pvalue->outofSyncWindow > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->outofSyncWindow);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->outofSyncWindow, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd(rtxContext* ctx, const DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd768");
-         if (pvalue->u.tdd768 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd_dl_64QAM_Configured(rtxContext* ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd_dl_64QAM_Configured value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd(rtxContext* ctx, const DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetup-r8");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* dl-64QAM-Configured */
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationSetup-r8");
+   /* rab-Info */
+   stat = asn1PE_UMTS_RAB_Info_r7(ctx, &pvalue->rab_Info);
+   RT_CHECK(ctx, stat, 0, "rab-Info", -1, "RAB-InformationSetup-r8");
+   /* cs-HSPA-Information */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-64QAM-Configured");
-      if (pvalue->dl_64QAM_Configured > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->dl_64QAM_Configured);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dl_64QAM_Configured, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CS_HSPA_Information(ctx, &pvalue->cs_HSPA_Information);
+      RT_CHECK(ctx, stat, 0, "cs-HSPA-Information", -1, "RAB-InformationSetup-r8");
    }
-   /* hs-DSCH-TBSizeTable */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "hs-DSCH-TBSizeTable");
-      rtxCtxtPushTypeName(ctx, "HS-DSCH-TBSizeTable");
-      if (pvalue->hs_DSCH_TBSizeTable > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->hs_DSCH_TBSizeTable);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hs_DSCH_TBSizeTable, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo(rtxContext* ctx, const DL_HSPDSCH_Information_r9_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r9(rtxContext* ctx, const DL_HSPDSCH_Information_r9* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-HSPDSCH-Information-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* hs-scch-Info */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "hs-scch-Info");
-      stat = asn1PE_UMTS_HS_SCCH_Info_r9(ctx, &pvalue->hs_scch_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurement-feedback-Info */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "measurement-feedback-Info");
-      stat = asn1PE_UMTS_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_feedback_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Serving_HSDSCH_CellInformation_r9_mac_hsResetIndicator(rtxContext* ctx, Serving_HSDSCH_CellInformation_r9_mac_hsResetIndicator value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_Serving_HSDSCH_CellInformation_r9(rtxContext* ctx, const Serving_HSDSCH_CellInformation_r9* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Serving-HSDSCH-CellInformation-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat);
-   /* deltaACK */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "deltaACK");
-      rtxCtxtPushTypeName(ctx, "DeltaACK");
-      if ((uint64_t)pvalue->deltaACK > 8u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->deltaACK);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->deltaACK, 0, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* deltaNACK */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "deltaNACK");
-      rtxCtxtPushTypeName(ctx, "DeltaNACK");
-      if ((uint64_t)pvalue->deltaNACK > 8u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->deltaNACK);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->deltaNACK, 0, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* harq-Preamble-Mode */
-   rtxCtxtPushElemName(ctx, "harq-Preamble-Mode");
-   rtxCtxtPushTypeName(ctx, "HARQ-Preamble-Mode");
-   if ((uint64_t)pvalue->harq_Preamble_Mode > 1u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->harq_Preamble_Mode);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->harq_Preamble_Mode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCPICH-Info */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-hspdsch-Information */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "dl-hspdsch-Information");
-      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_hspdsch_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* harqInfo */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "harqInfo");
-      stat = asn1PE_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mac-hsResetIndicator */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "mac-hsResetIndicator");
-      if (pvalue->mac_hsResetIndicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->mac_hsResetIndicator);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mac_hsResetIndicator, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SR_VCC_Info_nonce(rtxContext* ctx, const SR_VCC_Info_nonce* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   RT_SET_SIZE(ctx, 128, 128);
-   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_SR_VCC_Info(rtxContext* ctx, const SR_VCC_Info* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SR-VCC-Info");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* nonce */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonce");
-      stat = asn1PE_UMTS_SR_VCC_Info_nonce(ctx, &pvalue->nonce);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RAB_InfoReplace(rtxContext* ctx, const RAB_InfoReplace* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RAB-InfoReplace");
-   /* rab-Identity */
-   rtxCtxtPushElemName(ctx, "rab-Identity");
-   stat = asn1PE_UMTS_RAB_Identity(ctx, &pvalue->rab_Identity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cn-DomainIdentity */
-   rtxCtxtPushElemName(ctx, "cn-DomainIdentity");
-   rtxCtxtPushTypeName(ctx, "CN-DomainIdentity");
-   if (pvalue->cn_DomainIdentity > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SR_VCC_SecurityRABInfo_v860ext(rtxContext* ctx, const SR_VCC_SecurityRABInfo_v860ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SR-VCC-SecurityRABInfo-v860ext");
-   /* sr-vcc-Info */
-   rtxCtxtPushElemName(ctx, "sr-vcc-Info");
-   stat = asn1PE_UMTS_SR_VCC_Info(ctx, &pvalue->sr_vcc_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
    /* rab-InfoReplace */
-   rtxCtxtPushElemName(ctx, "rab-InfoReplace");
-   stat = asn1PE_UMTS_RAB_InfoReplace(ctx, &pvalue->rab_InfoReplace);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_START_Value(rtxContext* ctx, START_Value value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "START-Value");
-   RT_SET_SIZE(ctx, 20, 20);
-   stat = pe_BitString32(ctx, &value, 20, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_STARTSingle(rtxContext* ctx, const STARTSingle* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "STARTSingle");
-   /* cn-DomainIdentity */
-   rtxCtxtPushElemName(ctx, "cn-DomainIdentity");
-   rtxCtxtPushTypeName(ctx, "CN-DomainIdentity");
-   if (pvalue->cn_DomainIdentity > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RAB_InfoReplace(ctx, &pvalue->rab_InfoReplace);
+      RT_CHECK(ctx, stat, 0, "rab-InfoReplace", -1, "RAB-InformationSetup-r8");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* start-Value */
-   rtxCtxtPushElemName(ctx, "start-Value");
-   stat = asn1PE_UMTS_START_Value(ctx, pvalue->start_Value);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   /* rb-InformationSetupList */
+   stat = asn1PE_UMTS_RB_InformationSetupList_r8(ctx, &pvalue->rb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "rb-InformationSetupList", -1, "RAB-InformationSetup-r8");
    return 0;
 }
 
-int asn1PE_UMTS_STARTList(rtxContext* ctx, const STARTList* pvalue)
+int asn1PE_UMTS_RAB_InformationSetup_v820ext(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_v820ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetup-v820ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationSetup-v820ext");
+   /* cs-HSPA-Information */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CS_HSPA_Information(ctx, &pvalue->cs_HSPA_Information);
+      RT_CHECK(ctx, stat, 0, "cs-HSPA-Information", -1, "RAB-InformationSetup-v820ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationSetupList(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetupList");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "STARTList");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "STARTSingle", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_STARTSingle(ctx, (const STARTSingle*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SystemSpecificCapUpdateReq_v590ext(rtxContext* ctx, SystemSpecificCapUpdateReq_v590ext value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SystemSpecificCapUpdateReq-v590ext");
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_T_318(rtxContext* ctx, T_318 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "T-318");
-   if (value > 14) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_T_319(rtxContext* ctx, T_319 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "T-319");
-   if (value > 6) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TransChCapability_modeSpecificInfo_tdd(rtxContext* ctx, const UL_TransChCapability_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* maxSimultaneousCCTrCH-Count */
-   rtxCtxtPushElemName(ctx, "maxSimultaneousCCTrCH-Count");
-   rtxCtxtPushTypeName(ctx, "MaxSimultaneousCCTrCH-Count");
-   if ((uint64_t)(pvalue->maxSimultaneousCCTrCH_Count - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->maxSimultaneousCCTrCH_Count);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxSimultaneousCCTrCH_Count, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TransChCapability_modeSpecificInfo(rtxContext* ctx, const UL_TransChCapability_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_TransChCapability_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TransChCapability(rtxContext* ctx, const UL_TransChCapability* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-TransChCapability");
-   /* maxNoBitsTransmitted */
-   rtxCtxtPushElemName(ctx, "maxNoBitsTransmitted");
-   rtxCtxtPushTypeName(ctx, "MaxNoBits");
-   if (pvalue->maxNoBitsTransmitted > 12) {
-      rtxErrAddUIntParm(ctx, pvalue->maxNoBitsTransmitted);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxNoBitsTransmitted, 0, 12);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maxConvCodeBitsTransmitted */
-   rtxCtxtPushElemName(ctx, "maxConvCodeBitsTransmitted");
-   rtxCtxtPushTypeName(ctx, "MaxNoBits");
-   if (pvalue->maxConvCodeBitsTransmitted > 12) {
-      rtxErrAddUIntParm(ctx, pvalue->maxConvCodeBitsTransmitted);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxConvCodeBitsTransmitted, 0, 12);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* turboEncodingSupport */
-   rtxCtxtPushElemName(ctx, "turboEncodingSupport");
-   stat = asn1PE_UMTS_TurboSupport(ctx, &pvalue->turboEncodingSupport);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* maxSimultaneousTransChs */
-   rtxCtxtPushElemName(ctx, "maxSimultaneousTransChs");
-   rtxCtxtPushTypeName(ctx, "MaxSimultaneousTransChsUL");
-   if (pvalue->maxSimultaneousTransChs > 4) {
-      rtxErrAddUIntParm(ctx, pvalue->maxSimultaneousTransChs);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxSimultaneousTransChs, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_UL_TransChCapability_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* maxTransmittedBlocks */
-   rtxCtxtPushElemName(ctx, "maxTransmittedBlocks");
-   rtxCtxtPushTypeName(ctx, "MaxTransportBlocksUL");
-   if (pvalue->maxTransmittedBlocks > 10) {
-      rtxErrAddUIntParm(ctx, pvalue->maxTransmittedBlocks);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxTransmittedBlocks, 0, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maxNumberOfTFC */
-   rtxCtxtPushElemName(ctx, "maxNumberOfTFC");
-   rtxCtxtPushTypeName(ctx, "MaxNumberOfTFC-UL");
-   if (pvalue->maxNumberOfTFC > 10) {
-      rtxErrAddUIntParm(ctx, pvalue->maxNumberOfTFC);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxNumberOfTFC, 0, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* maxNumberOfTF */
-   rtxCtxtPushElemName(ctx, "maxNumberOfTF");
-   rtxCtxtPushTypeName(ctx, "MaxNumberOfTF");
-   if (pvalue->maxNumberOfTF > 5) {
-      rtxErrAddUIntParm(ctx, pvalue->maxNumberOfTF);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxNumberOfTF, 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TransportChannelCapability(rtxContext* ctx, const TransportChannelCapability* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TransportChannelCapability");
-   /* dl-TransChCapability */
-   rtxCtxtPushElemName(ctx, "dl-TransChCapability");
-   stat = asn1PE_UMTS_DL_TransChCapability(ctx, &pvalue->dl_TransChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-TransChCapability */
-   rtxCtxtPushElemName(ctx, "ul-TransChCapability");
-   stat = asn1PE_UMTS_UL_TransChCapability(ctx, &pvalue->ul_TransChCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_U_RNTI_Short(rtxContext* ctx, const U_RNTI_Short* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "U-RNTI-Short");
-   /* srnc-Identity */
-   rtxCtxtPushElemName(ctx, "srnc-Identity");
-   stat = asn1PE_UMTS_SRNC_Identity(ctx, pvalue->srnc_Identity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* s-RNTI-2 */
-   rtxCtxtPushElemName(ctx, "s-RNTI-2");
-   stat = asn1PE_UMTS_S_RNTI_2(ctx, pvalue->s_RNTI_2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_edch_r6_fdd_edch_supported(rtxContext* ctx, const PhysicalChannelCapability_edch_r6_fdd_edch_supported* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* edch-PhysicalLayerCategory */
-   rtxCtxtPushElemName(ctx, "edch-PhysicalLayerCategory");
-   if ((uint64_t)(pvalue->edch_PhysicalLayerCategory - 1) > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->edch_PhysicalLayerCategory);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->edch_PhysicalLayerCategory, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_edch_r6_fdd_edch(rtxContext* ctx, const PhysicalChannelCapability_edch_r6_fdd_edch* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "supported");
-         if (pvalue->u.supported == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PhysicalChannelCapability_edch_r6_fdd_edch_supported(ctx, pvalue->u.supported);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "unsupported");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_edch_r6(rtxContext* ctx, const PhysicalChannelCapability_edch_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelCapability-edch-r6");
-   /* fdd-edch */
-   rtxCtxtPushElemName(ctx, "fdd-edch");
-   stat = asn1PE_UMTS_PhysicalChannelCapability_edch_r6_fdd_edch(ctx, &pvalue->fdd_edch);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v690ext_deviceType(rtxContext* ctx, UE_RadioAccessCapability_v690ext_deviceType value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v690ext(rtxContext* ctx, const UE_RadioAccessCapability_v690ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability-v690ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* physicalchannelcapability-edch */
-   rtxCtxtPushElemName(ctx, "physicalchannelcapability-edch");
-   stat = asn1PE_UMTS_PhysicalChannelCapability_edch_r6(ctx, &pvalue->physicalchannelcapability_edch);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* deviceType */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "deviceType");
-      if (pvalue->deviceType > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->deviceType);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->deviceType, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRAT_UE_RadioAccessCapability_v690ext_supportOfInter_RAT_PS_Handover(rtxContext* ctx, InterRAT_UE_RadioAccessCapability_v690ext_supportOfInter_RAT_PS_Handover value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_MS_RadioAccessCapability(rtxContext* ctx, const GSM_MS_RadioAccessCapability* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "GSM-MS-RadioAccessCapability");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRAT_UE_RadioAccessCapability_v690ext(rtxContext* ctx, const InterRAT_UE_RadioAccessCapability_v690ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRAT-UE-RadioAccessCapability-v690ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* supportOfInter-RAT-PS-Handover */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "supportOfInter-RAT-PS-Handover");
-      if (pvalue->supportOfInter_RAT_PS_Handover > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfInter_RAT_PS_Handover);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfInter_RAT_PS_Handover, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* gsm-MS-RadioAccessCapability */
-   rtxCtxtPushElemName(ctx, "gsm-MS-RadioAccessCapability");
-   stat = asn1PE_UMTS_GSM_MS_RadioAccessCapability(ctx, &pvalue->gsm_MS_RadioAccessCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v6b0ext_IEs_supportForSIB11bis(rtxContext* ctx, UE_RadioAccessCapability_v6b0ext_IEs_supportForSIB11bis value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v6b0ext_IEs(rtxContext* ctx, const UE_RadioAccessCapability_v6b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability-v6b0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* supportForSIB11bis */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "supportForSIB11bis");
-      if (pvalue->supportForSIB11bis > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportForSIB11bis);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportForSIB11bis, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v6e0ext_IEs_supportForFDPCH(rtxContext* ctx, UE_RadioAccessCapability_v6e0ext_IEs_supportForFDPCH value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v6e0ext_IEs(rtxContext* ctx, const UE_RadioAccessCapability_v6e0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability-v6e0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* supportForFDPCH */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "supportForFDPCH");
-      if (pvalue->supportForFDPCH > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportForFDPCH);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportForFDPCH, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_GANSSPositioning_Capability(rtxContext* ctx, const UE_GANSSPositioning_Capability* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-GANSSPositioning-Capability");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* networkAssistedGANSS-supportedList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "networkAssistedGANSS-supportedList");
-      stat = asn1PE_UMTS_NetworkAssistedGANSS_Supported_List(ctx, &pvalue->networkAssistedGANSS_supportedList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_PositioningCapability_v770ext(rtxContext* ctx, const UE_PositioningCapability_v770ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-PositioningCapability-v770ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-GANSSPositioning-Capability */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-GANSSPositioning-Capability");
-      stat = asn1PE_UMTS_UE_GANSSPositioning_Capability(ctx, &pvalue->ue_GANSSPositioning_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v770ext_IEs_mac_ehsSupport(rtxContext* ctx, UE_RadioAccessCapability_v770ext_IEs_mac_ehsSupport value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_SpecificCapabilityInformation_LCRTDD(rtxContext* ctx, UE_SpecificCapabilityInformation_LCRTDD value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-SpecificCapabilityInformation-LCRTDD");
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v770ext_IEs(rtxContext* ctx, const UE_RadioAccessCapability_v770ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability-v770ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* pdcp-Capability */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pdcp-Capability");
-      stat = asn1PE_UMTS_PDCP_Capability_v770ext(ctx, &pvalue->pdcp_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rlc-Capability */
-   rtxCtxtPushElemName(ctx, "rlc-Capability");
-   stat = asn1PE_UMTS_RLC_Capability_v770ext(ctx, &pvalue->rlc_Capability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rf-Capability */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "rf-Capability");
-      stat = asn1PE_UMTS_RF_Capability_v770ext(ctx, &pvalue->rf_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* physicalChannelCapability */
-   rtxCtxtPushElemName(ctx, "physicalChannelCapability");
-   stat = asn1PE_UMTS_PhysicalChannelCapability_v770ext(ctx, &pvalue->physicalChannelCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* multiModeRAT-Capability */
-   rtxCtxtPushElemName(ctx, "multiModeRAT-Capability");
-   stat = asn1PE_UMTS_MultiModeRAT_Capability_v770ext(ctx, &pvalue->multiModeRAT_Capability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-PositioningCapability */
-   rtxCtxtPushElemName(ctx, "ue-PositioningCapability");
-   stat = asn1PE_UMTS_UE_PositioningCapability_v770ext(ctx, &pvalue->ue_PositioningCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* mac-ehsSupport */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "mac-ehsSupport");
-      if (pvalue->mac_ehsSupport > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->mac_ehsSupport);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mac_ehsSupport, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-specificCapabilityInformation */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "ue-specificCapabilityInformation");
-      rtxCtxtPushTypeName(ctx, "UE-SpecificCapabilityInformation-LCRTDD");
-      if (pvalue->ue_specificCapabilityInformation > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->ue_specificCapabilityInformation);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ue_specificCapabilityInformation, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v790ext_IEs_supportForEDPCCHPowerBoosting(rtxContext* ctx, UE_RadioAccessCapability_v790ext_IEs_supportForEDPCCHPowerBoosting value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v790ext_IEs(rtxContext* ctx, const UE_RadioAccessCapability_v790ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability-v790ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* supportForEDPCCHPowerBoosting */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "supportForEDPCCHPowerBoosting");
-      if (pvalue->supportForEDPCCHPowerBoosting > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportForEDPCCHPowerBoosting);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportForEDPCCHPowerBoosting, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_GANSSPositioning_Capability_v860ext_IEs(rtxContext* ctx, const UE_GANSSPositioning_Capability_v860ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-GANSSPositioning-Capability-v860ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* networkAssistedGANSS-supportedList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "networkAssistedGANSS-supportedList");
-      stat = asn1PE_UMTS_NetworkAssistedGANSS_Supported_List_v860ext(ctx, &pvalue->networkAssistedGANSS_supportedList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_PositioningCapability_v860ext(rtxContext* ctx, const UE_PositioningCapability_v860ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-PositioningCapability-v860ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-GANSSPositioning-Capability-v860ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-GANSSPositioning-Capability-v860ext");
-      stat = asn1PE_UMTS_UE_GANSSPositioning_Capability_v860ext_IEs(ctx, &pvalue->ue_GANSSPositioning_Capability_v860ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfCommonEDCH(rtxContext* ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfCommonEDCH value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfMACiis(rtxContext* ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfMACiis value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfSPSOperation(rtxContext* ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfSPSOperation value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfControlChannelDRXOperation(rtxContext* ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfControlChannelDRXOperation value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfCSG(rtxContext* ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfCSG value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabBandFDD3(rtxContext* ctx, const UE_RadioAccessCapabBandFDD3* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapabBandFDD3");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* radioFrequencyBandFDD */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "radioFrequencyBandFDD");
-      rtxCtxtPushTypeName(ctx, "RadioFrequencyBandFDD");
-      if (pvalue->radioFrequencyBandFDD > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandFDD);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandFDD, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* radioFrequencyBandFDD2 */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "radioFrequencyBandFDD2");
-      rtxCtxtPushTypeName(ctx, "RadioFrequencyBandFDD2");
-      if (pvalue->radioFrequencyBandFDD2 > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandFDD2);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandFDD2, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementCapability3 */
-   rtxCtxtPushElemName(ctx, "measurementCapability3");
-   stat = asn1PE_UMTS_MeasurementCapabilityExt3(ctx, &pvalue->measurementCapability3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabBandFDDList3(rtxContext* ctx, const UE_RadioAccessCapabBandFDDList3* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapabBandFDDList3");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "UE-RadioAccessCapabBandFDD3", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_UE_RadioAccessCapabBandFDD3(ctx, (const UE_RadioAccessCapabBandFDD3*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v860ext_IEs(rtxContext* ctx, const UE_RadioAccessCapability_v860ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability-v860ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 0), 9);
-   RT_CHECK(ctx, stat);
-   /* rf-Capability */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "rf-Capability");
-      stat = asn1PE_UMTS_RF_Capability_v860ext(ctx, &pvalue->rf_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* physicalChannelCapability */
-   rtxCtxtPushElemName(ctx, "physicalChannelCapability");
-   stat = asn1PE_UMTS_PhysicalChannelCapability_v860ext(ctx, &pvalue->physicalChannelCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* multiModeRAT-Capability */
-   rtxCtxtPushElemName(ctx, "multiModeRAT-Capability");
-   stat = asn1PE_UMTS_MultiModeRAT_Capability_v860ext(ctx, &pvalue->multiModeRAT_Capability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-PositioningCapability */
-   rtxCtxtPushElemName(ctx, "ue-PositioningCapability");
-   stat = asn1PE_UMTS_UE_PositioningCapability_v860ext(ctx, &pvalue->ue_PositioningCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementCapability */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "measurementCapability");
-      stat = asn1PE_UMTS_MeasurementCapability_v860ext(ctx, &pvalue->measurementCapability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementCapabilityTDD */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "measurementCapabilityTDD");
-      stat = asn1PE_UMTS_MeasurementCapabilityTDD(ctx, &pvalue->measurementCapabilityTDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportOfCommonEDCH */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "supportOfCommonEDCH");
-      if (pvalue->supportOfCommonEDCH > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfCommonEDCH);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfCommonEDCH, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportOfMACiis */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "supportOfMACiis");
-      if (pvalue->supportOfMACiis > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfMACiis);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfMACiis, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportOfSPSOperation */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "supportOfSPSOperation");
-      if (pvalue->supportOfSPSOperation > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfSPSOperation);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfSPSOperation, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportOfControlChannelDRXOperation */
-   if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "supportOfControlChannelDRXOperation");
-      if (pvalue->supportOfControlChannelDRXOperation > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfControlChannelDRXOperation);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfControlChannelDRXOperation, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportOfCSG */
-   if (pvalue->m & 0x80u) {
-      rtxCtxtPushElemName(ctx, "supportOfCSG");
-      if (pvalue->supportOfCSG > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfCSG);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfCSG, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-RadioAccessCapabBandFDDList3 */
-   if (pvalue->m & 0x100u) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapabBandFDDList3");
-      stat = asn1PE_UMTS_UE_RadioAccessCapabBandFDDList3(ctx, &pvalue->ue_RadioAccessCapabBandFDDList3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_EUTRA_RadioAccessCapability(rtxContext* ctx, const EUTRA_RadioAccessCapability* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "EUTRA-RadioAccessCapability");
-   /* ue-EUTRA-Capability */
-   rtxCtxtPushElemName(ctx, "ue-EUTRA-Capability");
-   RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-   stat = pe_OctetString(ctx, pvalue->ue_EUTRA_Capability.numocts, pvalue->ue_EUTRA_Capability.data);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRAT_UE_RadioAccessCapability_v860ext(rtxContext* ctx, const InterRAT_UE_RadioAccessCapability_v860ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRAT-UE-RadioAccessCapability-v860ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* eutra-RadioAccessCapability */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "eutra-RadioAccessCapability");
-      stat = asn1PE_UMTS_EUTRA_RadioAccessCapability(ctx, &pvalue->eutra_RadioAccessCapability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v880ext_IEs_supportForPriorityReselectionInUTRAN(rtxContext* ctx, UE_RadioAccessCapability_v880ext_IEs_supportForPriorityReselectionInUTRAN value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v880ext_IEs(rtxContext* ctx, const UE_RadioAccessCapability_v880ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability-v880ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* supportForPriorityReselectionInUTRAN */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "supportForPriorityReselectionInUTRAN");
-      if (pvalue->supportForPriorityReselectionInUTRAN > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportForPriorityReselectionInUTRAN);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportForPriorityReselectionInUTRAN, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v890ext_IEs_supportCellSpecificTxDiversityinDC_Operation(rtxContext* ctx, UE_RadioAccessCapability_v890ext_IEs_supportCellSpecificTxDiversityinDC_Operation value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v890ext_IEs(rtxContext* ctx, const UE_RadioAccessCapability_v890ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability-v890ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* supportCellSpecificTxDiversityinDC-Operation */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "supportCellSpecificTxDiversityinDC-Operation");
-      if (pvalue->supportCellSpecificTxDiversityinDC_Operation > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportCellSpecificTxDiversityinDC_Operation);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportCellSpecificTxDiversityinDC_Operation, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabBandCombList(rtxContext* ctx, const UE_RadioAccessCapabBandCombList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapabBandCombList");
    RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RAB-InformationSetupList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RAB-InformationSetup", (int32_t)i, "RAB-InformationSetupList");
+      stat = asn1PE_UMTS_RAB_InformationSetup(ctx, (const RAB_InformationSetup*)node->data);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup", (int32_t)i, "RAB-InformationSetupList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationSetupList_r4(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetupList-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RAB-InformationSetupList-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RAB-InformationSetup-r4", (int32_t)i, "RAB-InformationSetupList-r4");
+      stat = asn1PE_UMTS_RAB_InformationSetup_r4(ctx, (const RAB_InformationSetup_r4*)node->data);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-r4", (int32_t)i, "RAB-InformationSetupList-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationSetupList_r5(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetupList-r5");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RAB-InformationSetupList-r5");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RAB-InformationSetup-r5", (int32_t)i, "RAB-InformationSetupList-r5");
+      stat = asn1PE_UMTS_RAB_InformationSetup_r5(ctx, (const RAB_InformationSetup_r5*)node->data);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-r5", (int32_t)i, "RAB-InformationSetupList-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationSetupList_r6(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetupList-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RAB-InformationSetupList-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RAB-InformationSetup-r6", (int32_t)i, "RAB-InformationSetupList-r6");
+      stat = asn1PE_UMTS_RAB_InformationSetup_r6(ctx, (const RAB_InformationSetup_r6*)node->data);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-r6", (int32_t)i, "RAB-InformationSetupList-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationSetupList_r6_ext(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_r6_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetupList-r6-ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RAB-InformationSetupList-r6-ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RAB-InformationSetup-r6-ext", (int32_t)i, "RAB-InformationSetupList-r6-ext");
+      stat = asn1PE_UMTS_RAB_InformationSetup_r6_ext(ctx, (const RAB_InformationSetup_r6_ext*)node->data);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-r6-ext", (int32_t)i, "RAB-InformationSetupList-r6-ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationSetupList_v6b0ext(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_v6b0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetupList-v6b0ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RAB-InformationSetupList-v6b0ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RAB-InformationSetup-v6b0ext", (int32_t)i, "RAB-InformationSetupList-v6b0ext");
+      stat = asn1PE_UMTS_RAB_InformationSetup_v6b0ext(ctx, (const RAB_InformationSetup_v6b0ext*)node->data);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-v6b0ext", (int32_t)i, "RAB-InformationSetupList-v6b0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationSetupList_r7(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetupList-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RAB-InformationSetupList-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RAB-InformationSetup-r7", (int32_t)i, "RAB-InformationSetupList-r7");
+      stat = asn1PE_UMTS_RAB_InformationSetup_r7(ctx, (const RAB_InformationSetup_r7*)node->data);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-r7", (int32_t)i, "RAB-InformationSetupList-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationSetupList_r8(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetupList-r8");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RAB-InformationSetupList-r8");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RAB-InformationSetup-r8", (int32_t)i, "RAB-InformationSetupList-r8");
+      stat = asn1PE_UMTS_RAB_InformationSetup_r8(ctx, (const RAB_InformationSetup_r8*)node->data);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-r8", (int32_t)i, "RAB-InformationSetupList-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationSetupList_v820ext(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_v820ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetupList-v820ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RAB-InformationSetupList-v820ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RAB-InformationSetup-v820ext", (int32_t)i, "RAB-InformationSetupList-v820ext");
+      stat = asn1PE_UMTS_RAB_InformationSetup_v820ext(ctx, (const RAB_InformationSetup_v820ext*)node->data);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-v820ext", (int32_t)i, "RAB-InformationSetupList-v820ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_COUNT_C_Information(rtxContext* RT_RESTRICT ctx, const RB_COUNT_C_Information* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-COUNT-C-Information");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-COUNT-C-Information");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-COUNT-C-Information");
+   /* count-C-UL */
+   stat = pe_ConsUInt64(ctx, pvalue->count_C_UL, 0, 4294967295ULL);
+   RT_CHECK(ctx, stat, "COUNT-C", "count-C-UL", -1, "RB-COUNT-C-Information");
+   /* count-C-DL */
+   stat = pe_ConsUInt64(ctx, pvalue->count_C_DL, 0, 4294967295ULL);
+   RT_CHECK(ctx, stat, "COUNT-C", "count-C-DL", -1, "RB-COUNT-C-Information");
+   return 0;
+}
+
+int asn1PE_UMTS_RB_COUNT_C_InformationList(rtxContext* RT_RESTRICT ctx, const RB_COUNT_C_InformationList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-COUNT-C-InformationList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 27);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-COUNT-C-InformationList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-COUNT-C-Information", (int32_t)i, "RB-COUNT-C-InformationList");
+      stat = asn1PE_UMTS_RB_COUNT_C_Information(ctx, (const RB_COUNT_C_Information*)node->data);
+      RT_CHECK(ctx, stat, 0, "RB-COUNT-C-Information", (int32_t)i, "RB-COUNT-C-InformationList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_COUNT_C_MSB_Information(rtxContext* RT_RESTRICT ctx, const RB_COUNT_C_MSB_Information* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-COUNT-C-MSB-Information");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-COUNT-C-MSB-Information");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-COUNT-C-MSB-Information");
+   /* count-C-MSB-UL */
+   if ((uint64_t)pvalue->count_C_MSB_UL > 33554431u) {
+      rtxErrAddStrParm(ctx, "COUNT-C-MSB");
+      rtxErrAddUIntParm(ctx, pvalue->count_C_MSB_UL);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "COUNT-C-MSB", "count-C-MSB-UL", -1, "RB-COUNT-C-MSB-Information");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->count_C_MSB_UL, 0, 33554431);
+   RT_CHECK(ctx, stat, "COUNT-C-MSB", "count-C-MSB-UL", -1, "RB-COUNT-C-MSB-Information");
+   /* count-C-MSB-DL */
+   if ((uint64_t)pvalue->count_C_MSB_DL > 33554431u) {
+      rtxErrAddStrParm(ctx, "COUNT-C-MSB");
+      rtxErrAddUIntParm(ctx, pvalue->count_C_MSB_DL);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "COUNT-C-MSB", "count-C-MSB-DL", -1, "RB-COUNT-C-MSB-Information");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->count_C_MSB_DL, 0, 33554431);
+   RT_CHECK(ctx, stat, "COUNT-C-MSB", "count-C-MSB-DL", -1, "RB-COUNT-C-MSB-Information");
+   return 0;
+}
+
+int asn1PE_UMTS_RB_COUNT_C_MSB_InformationList(rtxContext* RT_RESTRICT ctx, const RB_COUNT_C_MSB_InformationList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-COUNT-C-MSB-InformationList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 27);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-COUNT-C-MSB-InformationList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-COUNT-C-MSB-Information", (int32_t)i, "RB-COUNT-C-MSB-InformationList");
+      stat = asn1PE_UMTS_RB_COUNT_C_MSB_Information(ctx, (const RB_COUNT_C_MSB_Information*)node->data);
+      RT_CHECK(ctx, stat, 0, "RB-COUNT-C-MSB-Information", (int32_t)i, "RB-COUNT-C-MSB-InformationList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_IdentityList(rtxContext* RT_RESTRICT ctx, const RB_IdentityList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-IdentityList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
    stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-IdentityList");
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "BandComb", i);
-      rtxCtxtPushTypeName(ctx, "BandComb");
-      if ((uint64_t)(pvalue->elem[i] - 1) > 255u) {
-         rtxErrAddElemNameParm(ctx);
+      if ((uint64_t)(pvalue->elem[i] - 1) > 31u) {
+         rtxErrAddStrParm(ctx, "RB-Identity");
          rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "RB-Identity", (int32_t)i, "RB-IdentityList");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 1, 256);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 1, 32);
+      RT_CHECK(ctx, stat, "RB-Identity", "RB-Identity", (int32_t)i, "RB-IdentityList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_UE_RadioAccessCapability_v920ext_IEs_supportOfenhancedTS0(rtxContext* ctx, UE_RadioAccessCapability_v920ext_IEs_supportOfenhancedTS0 value)
+int asn1PE_UMTS_RB_InformationAffected(rtxContext* RT_RESTRICT ctx, const RB_InformationAffected* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (value > 0) {
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationAffected");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected");
+   /* rb-MappingInfo */
+   stat = asn1PE_UMTS_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationAffected");
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationAffected_r5(rtxContext* RT_RESTRICT ctx, const RB_InformationAffected_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationAffected-r5");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected-r5");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected-r5");
+   /* rb-MappingInfo */
+   stat = asn1PE_UMTS_RB_MappingInfo_r5(ctx, &pvalue->rb_MappingInfo);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationAffected-r5");
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationAffected_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationAffected_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationAffected-r6");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected-r6");
+   /* rb-MappingInfo */
+   stat = asn1PE_UMTS_RB_MappingInfo_r6(ctx, &pvalue->rb_MappingInfo);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationAffected-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationAffected_r7(rtxContext* RT_RESTRICT ctx, const RB_InformationAffected_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationAffected-r7");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected-r7");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected-r7");
+   /* rb-MappingInfo */
+   stat = asn1PE_UMTS_RB_MappingInfo_r7(ctx, &pvalue->rb_MappingInfo);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationAffected-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationAffected_r8(rtxContext* RT_RESTRICT ctx, const RB_InformationAffected_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationAffected-r8");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected-r8");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected-r8");
+   /* rb-MappingInfo */
+   stat = asn1PE_UMTS_RB_MappingInfo_r8(ctx, &pvalue->rb_MappingInfo);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationAffected-r8");
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationAffectedList(rtxContext* RT_RESTRICT ctx, const RB_InformationAffectedList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationAffectedList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-InformationAffectedList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-InformationAffected", (int32_t)i, "RB-InformationAffectedList");
+      stat = asn1PE_UMTS_RB_InformationAffected(ctx, (const RB_InformationAffected*)node->data);
+      RT_CHECK(ctx, stat, 0, "RB-InformationAffected", (int32_t)i, "RB-InformationAffectedList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationAffectedList_r5(rtxContext* RT_RESTRICT ctx, const RB_InformationAffectedList_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationAffectedList-r5");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-InformationAffectedList-r5");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-InformationAffected-r5", (int32_t)i, "RB-InformationAffectedList-r5");
+      stat = asn1PE_UMTS_RB_InformationAffected_r5(ctx, (const RB_InformationAffected_r5*)node->data);
+      RT_CHECK(ctx, stat, 0, "RB-InformationAffected-r5", (int32_t)i, "RB-InformationAffectedList-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationAffectedList_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationAffectedList_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationAffectedList-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-InformationAffectedList-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-InformationAffected-r6", (int32_t)i, "RB-InformationAffectedList-r6");
+      stat = asn1PE_UMTS_RB_InformationAffected_r6(ctx, (const RB_InformationAffected_r6*)node->data);
+      RT_CHECK(ctx, stat, 0, "RB-InformationAffected-r6", (int32_t)i, "RB-InformationAffectedList-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationAffectedList_r7(rtxContext* RT_RESTRICT ctx, const RB_InformationAffectedList_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationAffectedList-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-InformationAffectedList-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-InformationAffected-r7", (int32_t)i, "RB-InformationAffectedList-r7");
+      stat = asn1PE_UMTS_RB_InformationAffected_r7(ctx, (const RB_InformationAffected_r7*)node->data);
+      RT_CHECK(ctx, stat, 0, "RB-InformationAffected-r7", (int32_t)i, "RB-InformationAffectedList-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationAffectedList_r8(rtxContext* RT_RESTRICT ctx, const RB_InformationAffectedList_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationAffectedList-r8");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-InformationAffectedList-r8");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-InformationAffected-r8", (int32_t)i, "RB-InformationAffectedList-r8");
+      stat = asn1PE_UMTS_RB_InformationAffected_r8(ctx, (const RB_InformationAffected_r8*)node->data);
+      RT_CHECK(ctx, stat, 0, "RB-InformationAffected-r8", (int32_t)i, "RB-InformationAffectedList-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationChanged_r6_rb_Change(rtxContext* RT_RESTRICT ctx, const RB_InformationChanged_r6_rb_Change* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if ((uint64_t)(pvalue->u.re_mapToDefaultRb - 1) > 31u) {
+            rtxErrAddStrParm(ctx, "RB-Identity");
+            rtxErrAddUIntParm(ctx, pvalue->u.re_mapToDefaultRb);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "re-mapToDefaultRb", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.re_mapToDefaultRb, 1, 32);
+         RT_CHECK(ctx, stat, "RB-Identity", "re-mapToDefaultRb", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationChanged_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationChanged_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationChanged-r6");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationChanged-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationChanged-r6");
+   /* rb-Change */
+   stat = asn1PE_UMTS_RB_InformationChanged_r6_rb_Change(ctx, &pvalue->rb_Change);
+   RT_CHECK(ctx, stat, 0, "rb-Change", -1, "RB-InformationChanged-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationChangedList_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationChangedList_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationChangedList-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-InformationChangedList-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-InformationChanged-r6", (int32_t)i, "RB-InformationChangedList-r6");
+      stat = asn1PE_UMTS_RB_InformationChanged_r6(ctx, (const RB_InformationChanged_r6*)node->data);
+      RT_CHECK(ctx, stat, 0, "RB-InformationChanged-r6", (int32_t)i, "RB-InformationChangedList-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_StopContinue(rtxContext* RT_RESTRICT ctx, RB_StopContinue value)
+{
+   int stat = 0;
+   if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "RB-StopContinue");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-StopContinue");
    return 0;
 }
 
-int asn1PE_UMTS_UE_RadioAccessCapability_v920ext_IEs(rtxContext* ctx, const UE_RadioAccessCapability_v920ext_IEs* pvalue)
+int asn1PE_UMTS_RB_InformationReconfig(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfig* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability-v920ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReconfig");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapabBandCombList */
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationReconfig");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig");
+   /* pdcp-Info */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapabBandCombList");
-      stat = asn1PE_UMTS_UE_RadioAccessCapabBandCombList(ctx, &pvalue->ue_RadioAccessCapabBandCombList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_PDCP_InfoReconfig(ctx, &pvalue->pdcp_Info);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationReconfig");
    }
-   /* physicalChannelCapability */
-   rtxCtxtPushElemName(ctx, "physicalChannelCapability");
-   stat = asn1PE_UMTS_PhysicalChannelCapability_v920ext(ctx, &pvalue->physicalChannelCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rlc-Capability */
-   rtxCtxtPushElemName(ctx, "rlc-Capability");
-   stat = asn1PE_UMTS_RLC_Capability_v920ext(ctx, &pvalue->rlc_Capability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* supportOfenhancedTS0 */
+   /* pdcp-SN-Info */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "supportOfenhancedTS0");
-      if (pvalue->supportOfenhancedTS0 > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfenhancedTS0);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfenhancedTS0, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->pdcp_SN_Info, 0, 65535);
+      RT_CHECK(ctx, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-InformationReconfig");
    }
-   /* measurementCapability */
+   /* rlc-Info */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "measurementCapability");
-      stat = asn1PE_UMTS_MeasurementCapability_v920ext(ctx, &pvalue->measurementCapability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RLC_Info(ctx, &pvalue->rlc_Info);
+      RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RB-InformationReconfig");
    }
-   /* csgProximityIndicationCapability */
+   /* rb-MappingInfo */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "csgProximityIndicationCapability");
-      stat = asn1PE_UMTS_CSG_ProximityIndicationCapability(ctx, &pvalue->csgProximityIndicationCapability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo);
+      RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationReconfig");
    }
-   /* neighCellSI-AcquisitionCapability */
+   /* rb-StopContinue */
    if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "neighCellSI-AcquisitionCapability");
-      stat = asn1PE_UMTS_NeighCellSI_AcquisitionCapability(ctx, &pvalue->neighCellSI_AcquisitionCapability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if (pvalue->rb_StopContinue > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->rb_StopContinue);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->rb_StopContinue, 0, 1);
+      RT_CHECK(ctx, stat, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions* pvalue)
+int asn1PE_UMTS_RB_InformationReconfig_r4(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfig_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReconfig-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationReconfig-r4");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r4");
+   /* pdcp-Info */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PDCP_InfoReconfig_r4(ctx, &pvalue->pdcp_Info);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationReconfig-r4");
+   }
+   /* pdcp-SN-Info */
+   if (pvalue->m & 0x2u) {
+      stat = pe_ConsUInt64(ctx, pvalue->pdcp_SN_Info, 0, 65535);
+      RT_CHECK(ctx, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-InformationReconfig-r4");
+   }
+   /* rlc-Info */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_RLC_Info(ctx, &pvalue->rlc_Info);
+      RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RB-InformationReconfig-r4");
+   }
+   /* rb-MappingInfo */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo);
+      RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationReconfig-r4");
+   }
+   /* rb-StopContinue */
+   if (pvalue->m & 0x10u) {
+      if (pvalue->rb_StopContinue > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->rb_StopContinue);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r4");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->rb_StopContinue, 0, 1);
+      RT_CHECK(ctx, stat, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r4");
+   }
    return 0;
 }
 
-int asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions(rtxContext* ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_RB_InformationReconfig_r5(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfig_r5* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReconfig-r5");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationReconfig-r5");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r5");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r5");
+   /* pdcp-Info */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PDCP_InfoReconfig_r4(ctx, &pvalue->pdcp_Info);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationReconfig-r5");
+   }
+   /* pdcp-SN-Info */
+   if (pvalue->m & 0x2u) {
+      stat = pe_ConsUInt64(ctx, pvalue->pdcp_SN_Info, 0, 65535);
+      RT_CHECK(ctx, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-InformationReconfig-r5");
+   }
+   /* rlc-Info */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_RLC_Info_r5(ctx, &pvalue->rlc_Info);
+      RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RB-InformationReconfig-r5");
+   }
+   /* rb-MappingInfo */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_RB_MappingInfo_r5(ctx, &pvalue->rb_MappingInfo);
+      RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationReconfig-r5");
+   }
+   /* rb-StopContinue */
+   if (pvalue->m & 0x10u) {
+      if (pvalue->rb_StopContinue > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->rb_StopContinue);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r5");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->rb_StopContinue, 0, 1);
+      RT_CHECK(ctx, stat, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationReconfig_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfig_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReconfig-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationReconfig-r6");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r6");
+   /* pdcp-Info */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PDCP_InfoReconfig_r4(ctx, &pvalue->pdcp_Info);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationReconfig-r6");
+   }
+   /* pdcp-SN-Info */
+   if (pvalue->m & 0x2u) {
+      stat = pe_ConsUInt64(ctx, pvalue->pdcp_SN_Info, 0, 65535);
+      RT_CHECK(ctx, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-InformationReconfig-r6");
+   }
+   /* rlc-Info */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_RLC_Info_r6(ctx, &pvalue->rlc_Info);
+      RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RB-InformationReconfig-r6");
+   }
+   /* rb-MappingInfo */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_RB_MappingInfo_r6(ctx, &pvalue->rb_MappingInfo);
+      RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationReconfig-r6");
+   }
+   /* rb-StopContinue */
+   if (pvalue->m & 0x10u) {
+      if (pvalue->rb_StopContinue > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->rb_StopContinue);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r6");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->rb_StopContinue, 0, 1);
+      RT_CHECK(ctx, stat, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationReconfig_r7(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfig_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReconfig-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationReconfig-r7");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r7");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r7");
+   /* pdcp-Info */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PDCP_InfoReconfig_r4(ctx, &pvalue->pdcp_Info);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationReconfig-r7");
+   }
+   /* pdcp-SN-Info */
+   if (pvalue->m & 0x2u) {
+      stat = pe_ConsUInt64(ctx, pvalue->pdcp_SN_Info, 0, 65535);
+      RT_CHECK(ctx, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-InformationReconfig-r7");
+   }
+   /* rlc-Info */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_RLC_Info_r7(ctx, &pvalue->rlc_Info);
+      RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RB-InformationReconfig-r7");
+   }
+   /* rb-MappingInfo */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_RB_MappingInfo_r7(ctx, &pvalue->rb_MappingInfo);
+      RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationReconfig-r7");
+   }
+   /* rb-StopContinue */
+   if (pvalue->m & 0x10u) {
+      if (pvalue->rb_StopContinue > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->rb_StopContinue);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r7");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->rb_StopContinue, 0, 1);
+      RT_CHECK(ctx, stat, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationReconfig_r8(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfig_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReconfig-r8");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationReconfig-r8");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r8");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r8");
+   /* pdcp-Info */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PDCP_InfoReconfig_r4(ctx, &pvalue->pdcp_Info);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationReconfig-r8");
+   }
+   /* pdcp-SN-Info */
+   if (pvalue->m & 0x2u) {
+      stat = pe_ConsUInt64(ctx, pvalue->pdcp_SN_Info, 0, 65535);
+      RT_CHECK(ctx, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-InformationReconfig-r8");
+   }
+   /* rlc-Info */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_RLC_Info_r7(ctx, &pvalue->rlc_Info);
+      RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RB-InformationReconfig-r8");
+   }
+   /* rb-MappingInfo */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_RB_MappingInfo_r8(ctx, &pvalue->rb_MappingInfo);
+      RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationReconfig-r8");
+   }
+   /* rb-StopContinue */
+   if (pvalue->m & 0x10u) {
+      if (pvalue->rb_StopContinue > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->rb_StopContinue);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r8");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->rb_StopContinue, 0, 1);
+      RT_CHECK(ctx, stat, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationReconfigList(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfigList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReconfigList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-InformationReconfigList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-InformationReconfig", (int32_t)i, "RB-InformationReconfigList");
+      stat = asn1PE_UMTS_RB_InformationReconfig(ctx, (const RB_InformationReconfig*)node->data);
+      RT_CHECK(ctx, stat, 0, "RB-InformationReconfig", (int32_t)i, "RB-InformationReconfigList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationReconfigList_r4(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfigList_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReconfigList-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-InformationReconfigList-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-InformationReconfig-r4", (int32_t)i, "RB-InformationReconfigList-r4");
+      stat = asn1PE_UMTS_RB_InformationReconfig_r4(ctx, (const RB_InformationReconfig_r4*)node->data);
+      RT_CHECK(ctx, stat, 0, "RB-InformationReconfig-r4", (int32_t)i, "RB-InformationReconfigList-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationReconfigList_r5(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfigList_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReconfigList-r5");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-InformationReconfigList-r5");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-InformationReconfig-r5", (int32_t)i, "RB-InformationReconfigList-r5");
+      stat = asn1PE_UMTS_RB_InformationReconfig_r5(ctx, (const RB_InformationReconfig_r5*)node->data);
+      RT_CHECK(ctx, stat, 0, "RB-InformationReconfig-r5", (int32_t)i, "RB-InformationReconfigList-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationReconfigList_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfigList_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReconfigList-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-InformationReconfigList-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-InformationReconfig-r6", (int32_t)i, "RB-InformationReconfigList-r6");
+      stat = asn1PE_UMTS_RB_InformationReconfig_r6(ctx, (const RB_InformationReconfig_r6*)node->data);
+      RT_CHECK(ctx, stat, 0, "RB-InformationReconfig-r6", (int32_t)i, "RB-InformationReconfigList-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationReconfigList_r7(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfigList_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReconfigList-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-InformationReconfigList-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-InformationReconfig-r7", (int32_t)i, "RB-InformationReconfigList-r7");
+      stat = asn1PE_UMTS_RB_InformationReconfig_r7(ctx, (const RB_InformationReconfig_r7*)node->data);
+      RT_CHECK(ctx, stat, 0, "RB-InformationReconfig-r7", (int32_t)i, "RB-InformationReconfigList-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationReconfigList_r8(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfigList_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReconfigList-r8");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-InformationReconfigList-r8");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-InformationReconfig-r8", (int32_t)i, "RB-InformationReconfigList-r8");
+      stat = asn1PE_UMTS_RB_InformationReconfig_r8(ctx, (const RB_InformationReconfig_r8*)node->data);
+      RT_CHECK(ctx, stat, 0, "RB-InformationReconfig-r8", (int32_t)i, "RB-InformationReconfigList-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationReleaseList(rtxContext* RT_RESTRICT ctx, const RB_InformationReleaseList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReleaseList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-InformationReleaseList");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)(pvalue->elem[i] - 1) > 31u) {
+         rtxErrAddStrParm(ctx, "RB-Identity");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "RB-Identity", (int32_t)i, "RB-InformationReleaseList");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 1, 32);
+      RT_CHECK(ctx, stat, "RB-Identity", "RB-Identity", (int32_t)i, "RB-InformationReleaseList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TimerDAR_r6(rtxContext* RT_RESTRICT ctx, TimerDAR_r6 value)
+{
+   int stat = 0;
+   if (value > 13) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TimerDAR-r6");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 13);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimerDAR-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_WindowSizeDAR_r6(rtxContext* RT_RESTRICT ctx, WindowSizeDAR_r6 value)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "WindowSizeDAR-r6");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "WindowSizeDAR-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_UM_RLC_DuplAvoid_Reord_Info_r6(rtxContext* RT_RESTRICT ctx, const UM_RLC_DuplAvoid_Reord_Info_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UM-RLC-DuplAvoid-Reord-Info-r6");
+   /* timer-DAR */
+   if (pvalue->timer_DAR > 13) {
+      rtxErrAddUIntParm(ctx, pvalue->timer_DAR);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TimerDAR-r6", "timer-DAR", -1, "UM-RLC-DuplAvoid-Reord-Info-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timer_DAR, 0, 13);
+   RT_CHECK(ctx, stat, "TimerDAR-r6", "timer-DAR", -1, "UM-RLC-DuplAvoid-Reord-Info-r6");
+   /* widowSize-DAR */
+   if (pvalue->widowSize_DAR > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->widowSize_DAR);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "WindowSizeDAR-r6", "widowSize-DAR", -1, "UM-RLC-DuplAvoid-Reord-Info-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->widowSize_DAR, 0, 7);
+   RT_CHECK(ctx, stat, "WindowSizeDAR-r6", "widowSize-DAR", -1, "UM-RLC-DuplAvoid-Reord-Info-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_RLC_Info_MTCH_r6(rtxContext* RT_RESTRICT ctx, const RLC_Info_MTCH_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-Info-MTCH-r6");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapability-v920ext */
-   rtxCtxtPushElemName(ctx, "ue-RadioAccessCapability-v920ext");
-   stat = asn1PE_UMTS_UE_RadioAccessCapability_v920ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v920ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-Info-MTCH-r6");
+   /* dl-UM-RLC-LI-size */
+   if (pvalue->dl_UM_RLC_LI_size > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->dl_UM_RLC_LI_size);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "RLC-Info-MTCH-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->dl_UM_RLC_LI_size, 0, 1);
+   RT_CHECK(ctx, stat, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "RLC-Info-MTCH-r6");
+   /* dl-UM-RLC-DuplAvoid-Reord-Info */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UM_RLC_DuplAvoid_Reord_Info_r6(ctx, &pvalue->dl_UM_RLC_DuplAvoid_Reord_Info);
+      RT_CHECK(ctx, stat, 0, "dl-UM-RLC-DuplAvoid-Reord-Info", -1, "RLC-Info-MTCH-r6");
    }
    return 0;
 }
 
-int asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_SRB_InformationSetup_r5(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetup_r5* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetup-r5");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapability-v890ext */
-   rtxCtxtPushElemName(ctx, "ue-RadioAccessCapability-v890ext");
-   stat = asn1PE_UMTS_UE_RadioAccessCapability_v890ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v890ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v920NonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-InformationSetup-r5");
+   /* rb-Identity */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v920NonCriticalExtensions");
-      stat = asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+         rtxErrAddStrParm(ctx, "RB-Identity");
+         rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup-r5");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
+      RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup-r5");
    }
+   /* rlc-InfoChoice */
+   stat = asn1PE_UMTS_RLC_InfoChoice_r5(ctx, &pvalue->rlc_InfoChoice);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "SRB-InformationSetup-r5");
+   /* rb-MappingInfo */
+   stat = asn1PE_UMTS_RB_MappingInfo_r5(ctx, &pvalue->rb_MappingInfo);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "SRB-InformationSetup-r5");
    return 0;
 }
 
-int asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions(rtxContext* ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_SRB_InformationSetup_r6(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetup_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetup-r6");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapability-v880ext */
-   rtxCtxtPushElemName(ctx, "ue-RadioAccessCapability-v880ext");
-   stat = asn1PE_UMTS_UE_RadioAccessCapability_v880ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v880ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v890NonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-InformationSetup-r6");
+   /* rb-Identity */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v890NonCriticalExtensions");
-      stat = asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+         rtxErrAddStrParm(ctx, "RB-Identity");
+         rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup-r6");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
+      RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup-r6");
+   }
+   /* rlc-InfoChoice */
+   stat = asn1PE_UMTS_RLC_InfoChoice_r6(ctx, &pvalue->rlc_InfoChoice);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "SRB-InformationSetup-r6");
+   /* rb-MappingInfo */
+   stat = asn1PE_UMTS_RB_MappingInfo_r6(ctx, &pvalue->rb_MappingInfo);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "SRB-InformationSetup-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_SRB_InformationSetup_r7(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetup_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetup-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-InformationSetup-r7");
+   /* rb-Identity */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+         rtxErrAddStrParm(ctx, "RB-Identity");
+         rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup-r7");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
+      RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup-r7");
+   }
+   /* rlc-InfoChoice */
+   stat = asn1PE_UMTS_RLC_InfoChoice_r7(ctx, &pvalue->rlc_InfoChoice);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "SRB-InformationSetup-r7");
+   /* rb-MappingInfo */
+   stat = asn1PE_UMTS_RB_MappingInfo_r7(ctx, &pvalue->rb_MappingInfo);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "SRB-InformationSetup-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_SRB_InformationSetup_r8(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetup_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetup-r8");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-InformationSetup-r8");
+   /* rb-Identity */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+         rtxErrAddStrParm(ctx, "RB-Identity");
+         rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup-r8");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
+      RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup-r8");
+   }
+   /* rlc-InfoChoice */
+   stat = asn1PE_UMTS_RLC_InfoChoice_r7(ctx, &pvalue->rlc_InfoChoice);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "SRB-InformationSetup-r8");
+   /* rb-MappingInfo */
+   stat = asn1PE_UMTS_RB_MappingInfo_r8(ctx, &pvalue->rb_MappingInfo);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "SRB-InformationSetup-r8");
+   return 0;
+}
+
+int asn1PE_UMTS_SRB_InformationSetupList_r5(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetupList-r5");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SRB-InformationSetupList-r5");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "SRB-InformationSetup-r5", (int32_t)i, "SRB-InformationSetupList-r5");
+      stat = asn1PE_UMTS_SRB_InformationSetup_r5(ctx, (const SRB_InformationSetup_r5*)node->data);
+      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r5", (int32_t)i, "SRB-InformationSetupList-r5");
    }
    return 0;
 }
 
-int asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_SRB_InformationSetupList_r6(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetupList-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SRB-InformationSetupList-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "SRB-InformationSetup-r6", (int32_t)i, "SRB-InformationSetupList-r6");
+      stat = asn1PE_UMTS_SRB_InformationSetup_r6(ctx, (const SRB_InformationSetup_r6*)node->data);
+      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r6", (int32_t)i, "SRB-InformationSetupList-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRB_InformationSetupList_r7(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetupList-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SRB-InformationSetupList-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "SRB-InformationSetup-r7", (int32_t)i, "SRB-InformationSetupList-r7");
+      stat = asn1PE_UMTS_SRB_InformationSetup_r7(ctx, (const SRB_InformationSetup_r7*)node->data);
+      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r7", (int32_t)i, "SRB-InformationSetupList-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRB_InformationSetupList_r8(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetupList-r8");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SRB-InformationSetupList-r8");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "SRB-InformationSetup-r8", (int32_t)i, "SRB-InformationSetupList-r8");
+      stat = asn1PE_UMTS_SRB_InformationSetup_r8(ctx, (const SRB_InformationSetup_r8*)node->data);
+      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r8", (int32_t)i, "SRB-InformationSetupList-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRB_InformationSetupList2(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetupList2");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 3, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SRB-InformationSetupList2");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "SRB-InformationSetup", (int32_t)i, "SRB-InformationSetupList2");
+      stat = asn1PE_UMTS_SRB_InformationSetup(ctx, (const SRB_InformationSetup*)node->data);
+      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup", (int32_t)i, "SRB-InformationSetupList2");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRB_InformationSetupList2_r6(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList2_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetupList2-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 3, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SRB-InformationSetupList2-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "SRB-InformationSetup-r6", (int32_t)i, "SRB-InformationSetupList2-r6");
+      stat = asn1PE_UMTS_SRB_InformationSetup_r6(ctx, (const SRB_InformationSetup_r6*)node->data);
+      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r6", (int32_t)i, "SRB-InformationSetupList2-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRB_InformationSetupList2_r7(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList2_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetupList2-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 3, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SRB-InformationSetupList2-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "SRB-InformationSetup-r7", (int32_t)i, "SRB-InformationSetupList2-r7");
+      stat = asn1PE_UMTS_SRB_InformationSetup_r7(ctx, (const SRB_InformationSetup_r7*)node->data);
+      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r7", (int32_t)i, "SRB-InformationSetupList2-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRB_InformationSetupList2_r8(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList2_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetupList2-r8");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 3, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SRB-InformationSetupList2-r8");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "SRB-InformationSetup-r8", (int32_t)i, "SRB-InformationSetupList2-r8");
+      stat = asn1PE_UMTS_SRB_InformationSetup_r8(ctx, (const SRB_InformationSetup_r8*)node->data);
+      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r8", (int32_t)i, "SRB-InformationSetupList2-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_CounterSynchronisationInfo(rtxContext* RT_RESTRICT ctx, const UL_CounterSynchronisationInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-CounterSynchronisationInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-CounterSynchronisationInfo");
+   /* rB-WithPDCP-InfoList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RB_WithPDCP_InfoList(ctx, &pvalue->rB_WithPDCP_InfoList);
+      RT_CHECK(ctx, stat, 0, "rB-WithPDCP-InfoList", -1, "UL-CounterSynchronisationInfo");
+   }
+   /* startList */
+   stat = asn1PE_UMTS_STARTList(ctx, &pvalue->startList);
+   RT_CHECK(ctx, stat, 0, "startList", -1, "UL-CounterSynchronisationInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_MAC_d_PDUsizeInfo(rtxContext* RT_RESTRICT ctx, const MAC_d_PDUsizeInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MAC-d-PDUsizeInfo");
+   /* mac-d-PDU-Size */
+   if ((uint64_t)(pvalue->mac_d_PDU_Size - 1) > 4999u) {
+      rtxErrAddStrParm(ctx, "mac-d-PDU-Size");
+      rtxErrAddUIntParm(ctx, pvalue->mac_d_PDU_Size);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "mac-d-PDU-Size", -1, "MAC-d-PDUsizeInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->mac_d_PDU_Size, 1, 5000);
+   RT_CHECK(ctx, stat, 0, "mac-d-PDU-Size", -1, "MAC-d-PDUsizeInfo");
+   /* mac-d-PDU-Index */
+   if ((uint64_t)pvalue->mac_d_PDU_Index > 7u) {
+      rtxErrAddStrParm(ctx, "mac-d-PDU-Index");
+      rtxErrAddUIntParm(ctx, pvalue->mac_d_PDU_Index);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "mac-d-PDU-Index", -1, "MAC-d-PDUsizeInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->mac_d_PDU_Index, 0, 7);
+   RT_CHECK(ctx, stat, 0, "mac-d-PDU-Index", -1, "MAC-d-PDUsizeInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_MAC_d_PDU_SizeInfo_List(rtxContext* RT_RESTRICT ctx, const MAC_d_PDU_SizeInfo_List* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MAC-d-PDU-SizeInfo-List");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MAC-d-PDU-SizeInfo-List");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MAC-d-PDUsizeInfo", (int32_t)i, "MAC-d-PDU-SizeInfo-List");
+      stat = asn1PE_UMTS_MAC_d_PDUsizeInfo(ctx, (const MAC_d_PDUsizeInfo*)node->data);
+      RT_CHECK(ctx, stat, 0, "MAC-d-PDUsizeInfo", (int32_t)i, "MAC-d-PDU-SizeInfo-List");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MAC_hs_AddReconfQueue(rtxContext* RT_RESTRICT ctx, const MAC_hs_AddReconfQueue* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MAC-hs-AddReconfQueue");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-hs-AddReconfQueue");
+   /* mac-hsQueueId */
+   if ((uint64_t)pvalue->mac_hsQueueId > 7u) {
+      rtxErrAddStrParm(ctx, "mac-hsQueueId");
+      rtxErrAddUIntParm(ctx, pvalue->mac_hsQueueId);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "mac-hsQueueId", -1, "MAC-hs-AddReconfQueue");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->mac_hsQueueId, 0, 7);
+   RT_CHECK(ctx, stat, 0, "mac-hsQueueId", -1, "MAC-hs-AddReconfQueue");
+   /* mac-dFlowId */
+   if ((uint64_t)pvalue->mac_dFlowId > 7u) {
+      rtxErrAddStrParm(ctx, "MAC-d-FlowIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->mac_dFlowId);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MAC-d-FlowIdentity", "mac-dFlowId", -1, "MAC-hs-AddReconfQueue");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->mac_dFlowId, 0, 7);
+   RT_CHECK(ctx, stat, "MAC-d-FlowIdentity", "mac-dFlowId", -1, "MAC-hs-AddReconfQueue");
+   /* reorderingReleaseTimer */
+   if (pvalue->reorderingReleaseTimer > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->reorderingReleaseTimer);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "T1-ReleaseTimer", "reorderingReleaseTimer", -1, "MAC-hs-AddReconfQueue");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->reorderingReleaseTimer, 0, 15);
+   RT_CHECK(ctx, stat, "T1-ReleaseTimer", "reorderingReleaseTimer", -1, "MAC-hs-AddReconfQueue");
+   /* mac-hsWindowSize */
+   if (pvalue->mac_hsWindowSize > 6) {
+      rtxErrAddUIntParm(ctx, pvalue->mac_hsWindowSize);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MAC-hs-WindowSize", "mac-hsWindowSize", -1, "MAC-hs-AddReconfQueue");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->mac_hsWindowSize, 0, 6);
+   RT_CHECK(ctx, stat, "MAC-hs-WindowSize", "mac-hsWindowSize", -1, "MAC-hs-AddReconfQueue");
+   /* mac-d-PDU-SizeInfo-List */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MAC_d_PDU_SizeInfo_List(ctx, &pvalue->mac_d_PDU_SizeInfo_List);
+      RT_CHECK(ctx, stat, 0, "mac-d-PDU-SizeInfo-List", -1, "MAC-hs-AddReconfQueue");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MAC_hs_AddReconfQueue_List(rtxContext* RT_RESTRICT ctx, const MAC_hs_AddReconfQueue_List* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MAC-hs-AddReconfQueue-List");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MAC-hs-AddReconfQueue-List");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MAC-hs-AddReconfQueue", (int32_t)i, "MAC-hs-AddReconfQueue-List");
+      stat = asn1PE_UMTS_MAC_hs_AddReconfQueue(ctx, (const MAC_hs_AddReconfQueue*)node->data);
+      RT_CHECK(ctx, stat, 0, "MAC-hs-AddReconfQueue", (int32_t)i, "MAC-hs-AddReconfQueue-List");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MAC_hs_DelQueue(rtxContext* RT_RESTRICT ctx, const MAC_hs_DelQueue* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MAC-hs-DelQueue");
+   /* mac-hsQueueId */
+   if ((uint64_t)pvalue->mac_hsQueueId > 7u) {
+      rtxErrAddStrParm(ctx, "mac-hsQueueId");
+      rtxErrAddUIntParm(ctx, pvalue->mac_hsQueueId);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "mac-hsQueueId", -1, "MAC-hs-DelQueue");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->mac_hsQueueId, 0, 7);
+   RT_CHECK(ctx, stat, 0, "mac-hsQueueId", -1, "MAC-hs-DelQueue");
+   return 0;
+}
+
+int asn1PE_UMTS_MAC_hs_DelQueue_List(rtxContext* RT_RESTRICT ctx, const MAC_hs_DelQueue_List* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MAC-hs-DelQueue-List");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MAC-hs-DelQueue-List");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MAC-hs-DelQueue", (int32_t)i, "MAC-hs-DelQueue-List");
+      stat = asn1PE_UMTS_MAC_hs_DelQueue(ctx, (const MAC_hs_DelQueue*)node->data);
+      RT_CHECK(ctx, stat, 0, "MAC-hs-DelQueue", (int32_t)i, "MAC-hs-DelQueue-List");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AddOrReconfMAC_dFlow(rtxContext* RT_RESTRICT ctx, const AddOrReconfMAC_dFlow* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AddOrReconfMAC-dFlow");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapability-v860ext */
-   rtxCtxtPushElemName(ctx, "ue-RadioAccessCapability-v860ext");
-   stat = asn1PE_UMTS_UE_RadioAccessCapability_v860ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-RATSpecificCapability-v860ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, "AddOrReconfMAC-dFlow");
+   /* mac-hs-AddReconfQueue-List */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-RATSpecificCapability-v860ext");
-      stat = asn1PE_UMTS_InterRAT_UE_RadioAccessCapability_v860ext(ctx, &pvalue->ue_RATSpecificCapability_v860ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_MAC_hs_AddReconfQueue_List(ctx, &pvalue->mac_hs_AddReconfQueue_List);
+      RT_CHECK(ctx, stat, 0, "mac-hs-AddReconfQueue-List", -1, "AddOrReconfMAC-dFlow");
    }
-   /* v880NonCriticalExtensions */
+   /* mac-hs-DelQueue-List */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v880NonCriticalExtensions");
-      stat = asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions(ctx, &pvalue->v880NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_MAC_hs_DelQueue_List(ctx, &pvalue->mac_hs_DelQueue_List);
+      RT_CHECK(ctx, stat, 0, "mac-hs-DelQueue-List", -1, "AddOrReconfMAC-dFlow");
    }
    return 0;
 }
 
-int asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions(rtxContext* ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_MAC_ehs_AddReconfReordQ(rtxContext* RT_RESTRICT ctx, const MAC_ehs_AddReconfReordQ* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MAC-ehs-AddReconfReordQ");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapability-v790ext */
-   rtxCtxtPushElemName(ctx, "ue-RadioAccessCapability-v790ext");
-   stat = asn1PE_UMTS_UE_RadioAccessCapability_v790ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v790ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v860NonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-ehs-AddReconfReordQ");
+   /* mac-ehs-QueueId */
+   if ((uint64_t)pvalue->mac_ehs_QueueId > 7u) {
+      rtxErrAddStrParm(ctx, "MAC-ehs-QueueId");
+      rtxErrAddUIntParm(ctx, pvalue->mac_ehs_QueueId);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "MAC-ehs-AddReconfReordQ");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->mac_ehs_QueueId, 0, 7);
+   RT_CHECK(ctx, stat, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "MAC-ehs-AddReconfReordQ");
+   /* reorderingReleaseTimer */
+   if (pvalue->reorderingReleaseTimer > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->reorderingReleaseTimer);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "T1-ReleaseTimer", "reorderingReleaseTimer", -1, "MAC-ehs-AddReconfReordQ");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->reorderingReleaseTimer, 0, 15);
+   RT_CHECK(ctx, stat, "T1-ReleaseTimer", "reorderingReleaseTimer", -1, "MAC-ehs-AddReconfReordQ");
+   /* reorderingResetTimer */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtensions");
-      stat = asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if (pvalue->reorderingResetTimer > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->reorderingResetTimer);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "Treset-ResetTimer", "reorderingResetTimer", -1, "MAC-ehs-AddReconfReordQ");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->reorderingResetTimer, 0, 3);
+      RT_CHECK(ctx, stat, "Treset-ResetTimer", "reorderingResetTimer", -1, "MAC-ehs-AddReconfReordQ");
+   }
+   /* mac-ehsWindowSize */
+   if (pvalue->mac_ehsWindowSize > 6) {
+      rtxErrAddUIntParm(ctx, pvalue->mac_ehsWindowSize);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MAC-hs-WindowSize", "mac-ehsWindowSize", -1, "MAC-ehs-AddReconfReordQ");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->mac_ehsWindowSize, 0, 6);
+   RT_CHECK(ctx, stat, "MAC-hs-WindowSize", "mac-ehsWindowSize", -1, "MAC-ehs-AddReconfReordQ");
+   return 0;
+}
+
+int asn1PE_UMTS_MAC_ehs_AddReconfReordQ_List(rtxContext* RT_RESTRICT ctx, const MAC_ehs_AddReconfReordQ_List* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MAC-ehs-AddReconfReordQ-List");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MAC-ehs-AddReconfReordQ-List");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MAC-ehs-AddReconfReordQ", (int32_t)i, "MAC-ehs-AddReconfReordQ-List");
+      stat = asn1PE_UMTS_MAC_ehs_AddReconfReordQ(ctx, (const MAC_ehs_AddReconfReordQ*)node->data);
+      RT_CHECK(ctx, stat, 0, "MAC-ehs-AddReconfReordQ", (int32_t)i, "MAC-ehs-AddReconfReordQ-List");
    }
    return 0;
 }
 
-int asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_MAC_ehs_DelReordQ(rtxContext* RT_RESTRICT ctx, const MAC_ehs_DelReordQ* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapability-v770ext */
-   rtxCtxtPushElemName(ctx, "ue-RadioAccessCapability-v770ext");
-   stat = asn1PE_UMTS_UE_RadioAccessCapability_v770ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v790NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v790NonCriticalExtensions");
-      stat = asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions(ctx, &pvalue->v790NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MAC-ehs-DelReordQ");
+   /* mac-ehs-QueueId */
+   if ((uint64_t)pvalue->mac_ehs_QueueId > 7u) {
+      rtxErrAddStrParm(ctx, "MAC-ehs-QueueId");
+      rtxErrAddUIntParm(ctx, pvalue->mac_ehs_QueueId);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "MAC-ehs-DelReordQ");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->mac_ehs_QueueId, 0, 7);
+   RT_CHECK(ctx, stat, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "MAC-ehs-DelReordQ");
+   return 0;
+}
+
+int asn1PE_UMTS_MAC_ehs_DelReordQ_List(rtxContext* RT_RESTRICT ctx, const MAC_ehs_DelReordQ_List* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MAC-ehs-DelReordQ-List");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MAC-ehs-DelReordQ-List");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MAC-ehs-DelReordQ", (int32_t)i, "MAC-ehs-DelReordQ-List");
+      stat = asn1PE_UMTS_MAC_ehs_DelReordQ(ctx, (const MAC_ehs_DelReordQ*)node->data);
+      RT_CHECK(ctx, stat, 0, "MAC-ehs-DelReordQ", (int32_t)i, "MAC-ehs-DelReordQ-List");
    }
    return 0;
 }
 
-int asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions(rtxContext* ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_AddOrReconfMAC_ehs_ReordQ(rtxContext* RT_RESTRICT ctx, const AddOrReconfMAC_ehs_ReordQ* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapability-v6e0ext */
-   rtxCtxtPushElemName(ctx, "ue-RadioAccessCapability-v6e0ext");
-   stat = asn1PE_UMTS_UE_RadioAccessCapability_v6e0ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v6e0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v770NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      stat = asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions(rtxContext* ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapability-v6b0ext */
-   rtxCtxtPushElemName(ctx, "ue-RadioAccessCapability-v6b0ext");
-   stat = asn1PE_UMTS_UE_RadioAccessCapability_v6b0ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v6b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v6e0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v6e0NonCriticalExtensions");
-      stat = asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions(ctx, &pvalue->v6e0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_CapabilityContainer_IEs(rtxContext* ctx, const UE_CapabilityContainer_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-CapabilityContainer-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AddOrReconfMAC-ehs-ReordQ");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapability-v690ext */
-   rtxCtxtPushElemName(ctx, "ue-RadioAccessCapability-v690ext");
-   stat = asn1PE_UMTS_UE_RadioAccessCapability_v690ext(ctx, &pvalue->ue_RadioAccessCapability_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-RATSpecificCapability-v690ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, "AddOrReconfMAC-ehs-ReordQ");
+   /* mac-ehs-AddReconfQueue-List */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-RATSpecificCapability-v690ext");
-      stat = asn1PE_UMTS_InterRAT_UE_RadioAccessCapability_v690ext(ctx, &pvalue->ue_RATSpecificCapability_v690ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_MAC_ehs_AddReconfReordQ_List(ctx, &pvalue->mac_ehs_AddReconfQueue_List);
+      RT_CHECK(ctx, stat, 0, "mac-ehs-AddReconfQueue-List", -1, "AddOrReconfMAC-ehs-ReordQ");
    }
-   /* v6b0NonCriticalExtensions */
+   /* dummy */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v6b0NonCriticalExtensions");
-      stat = asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_MAC_ehs_DelReordQ_List(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "AddOrReconfMAC-ehs-ReordQ");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_UE_ConnTimersAndConstants_r5(rtxContext* ctx, const UE_ConnTimersAndConstants_r5* pvalue)
+int asn1PE_UMTS_MAC_ehs_AddReconfReordQ_r9(rtxContext* RT_RESTRICT ctx, const MAC_ehs_AddReconfReordQ_r9* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-ConnTimersAndConstants-r5");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MAC-ehs-AddReconfReordQ-r9");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->t_301 != 10) << 21) |
-      ((uint64_t)(pvalue->n_301 != 2) << 20) |
-      ((uint64_t)(pvalue->t_302 != 12) << 19) |
-      ((uint64_t)(pvalue->n_302 != 3) << 18) |
-      ((uint64_t)(pvalue->t_304 != 4) << 17) |
-      ((uint64_t)(pvalue->n_304 != 2) << 16) |
-      ((uint64_t)(pvalue->t_305 != 3) << 15) |
-      ((uint64_t)(pvalue->t_307 != 4) << 14) |
-      ((uint64_t)(pvalue->t_308 != 2) << 13) |
-      ((uint64_t)(pvalue->t_309 != 5) << 12) |
-      ((uint64_t)(pvalue->t_310 != 3) << 11) |
-      ((uint64_t)(pvalue->n_310 != 4) << 10) |
-      ((uint64_t)(pvalue->t_311 != 7) << 9) |
-      ((uint64_t)(pvalue->t_312 != 1) << 8) |
-      ((uint64_t)(pvalue->n_312 != 0) << 7) |
-      ((uint64_t)(pvalue->t_313 != 3) << 6) |
-      ((uint64_t)(pvalue->n_313 != 4) << 5) |
-      ((uint64_t)(pvalue->t_314 != 5) << 4) |
-      ((uint64_t)(pvalue->t_315 != 4) << 3) |
-      ((uint64_t)(pvalue->n_315 != 0) << 2) |
-      ((uint64_t)(pvalue->t_316 != 3) << 1) |
-      ((uint64_t)(pvalue->t_317 != 4) << 0), 22);
-   RT_CHECK(ctx, stat);
-   /* t-301 */
-   if (pvalue->t_301 != 10) {
-      rtxCtxtPushElemName(ctx, "t-301");
-      rtxCtxtPushTypeName(ctx, "T-301");
-      if (pvalue->t_301 > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->t_301);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_301, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-ehs-AddReconfReordQ-r9");
+   /* mac-ehs-QueueId */
+   if ((uint64_t)pvalue->mac_ehs_QueueId > 7u) {
+      rtxErrAddStrParm(ctx, "MAC-ehs-QueueId");
+      rtxErrAddUIntParm(ctx, pvalue->mac_ehs_QueueId);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "MAC-ehs-AddReconfReordQ-r9");
    }
-   /* n-301 */
-   if (pvalue->n_301 != 2) {
-      rtxCtxtPushElemName(ctx, "n-301");
-      rtxCtxtPushTypeName(ctx, "N-301");
-      if ((uint64_t)pvalue->n_301 > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n_301);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->n_301, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+   stat = pe_ConsUInt64(ctx, pvalue->mac_ehs_QueueId, 0, 7);
+   RT_CHECK(ctx, stat, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "MAC-ehs-AddReconfReordQ-r9");
+   /* reorderingReleaseTimer */
+   if (pvalue->reorderingReleaseTimer > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->reorderingReleaseTimer);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "T1-ReleaseTimer", "reorderingReleaseTimer", -1, "MAC-ehs-AddReconfReordQ-r9");
    }
-   /* t-302 */
-   if (pvalue->t_302 != 12) {
-      rtxCtxtPushElemName(ctx, "t-302");
-      rtxCtxtPushTypeName(ctx, "T-302");
-      if (pvalue->t_302 > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->t_302);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+   stat = pe_ConsUInt64(ctx, pvalue->reorderingReleaseTimer, 0, 15);
+   RT_CHECK(ctx, stat, "T1-ReleaseTimer", "reorderingReleaseTimer", -1, "MAC-ehs-AddReconfReordQ-r9");
+   /* reorderingResetTimer */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->reorderingResetTimer > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->reorderingResetTimer);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "Treset-ResetTimer", "reorderingResetTimer", -1, "MAC-ehs-AddReconfReordQ-r9");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->t_302, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->reorderingResetTimer, 0, 3);
+      RT_CHECK(ctx, stat, "Treset-ResetTimer", "reorderingResetTimer", -1, "MAC-ehs-AddReconfReordQ-r9");
    }
-   /* n-302 */
-   if (pvalue->n_302 != 3) {
-      rtxCtxtPushElemName(ctx, "n-302");
-      rtxCtxtPushTypeName(ctx, "N-302");
-      if ((uint64_t)pvalue->n_302 > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n_302);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->n_302, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+   /* mac-ehsWindowSize */
+   if (pvalue->mac_ehsWindowSize > 8) {
+      rtxErrAddUIntParm(ctx, pvalue->mac_ehsWindowSize);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MAC-hs-WindowSize-r9", "mac-ehsWindowSize", -1, "MAC-ehs-AddReconfReordQ-r9");
    }
-   /* t-304 */
-   if (pvalue->t_304 != 4) {
-      rtxCtxtPushElemName(ctx, "t-304");
-      rtxCtxtPushTypeName(ctx, "T-304");
-      if (pvalue->t_304 > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->t_304);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_304, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* n-304 */
-   if (pvalue->n_304 != 2) {
-      rtxCtxtPushElemName(ctx, "n-304");
-      rtxCtxtPushTypeName(ctx, "N-304");
-      if ((uint64_t)pvalue->n_304 > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n_304);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->n_304, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* t-305 */
-   if (pvalue->t_305 != 3) {
-      rtxCtxtPushElemName(ctx, "t-305");
-      rtxCtxtPushTypeName(ctx, "T-305");
-      if (pvalue->t_305 > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->t_305);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_305, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* t-307 */
-   if (pvalue->t_307 != 4) {
-      rtxCtxtPushElemName(ctx, "t-307");
-      rtxCtxtPushTypeName(ctx, "T-307");
-      if (pvalue->t_307 > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->t_307);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_307, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* t-308 */
-   if (pvalue->t_308 != 2) {
-      rtxCtxtPushElemName(ctx, "t-308");
-      rtxCtxtPushTypeName(ctx, "T-308");
-      if (pvalue->t_308 > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->t_308);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_308, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* t-309 */
-   if (pvalue->t_309 != 5) {
-      rtxCtxtPushElemName(ctx, "t-309");
-      rtxCtxtPushTypeName(ctx, "T-309");
-      if ((uint64_t)(pvalue->t_309 - 1) > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->t_309);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_309, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* t-310 */
-   if (pvalue->t_310 != 3) {
-      rtxCtxtPushElemName(ctx, "t-310");
-      rtxCtxtPushTypeName(ctx, "T-310");
-      if (pvalue->t_310 > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->t_310);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_310, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* n-310 */
-   if (pvalue->n_310 != 4) {
-      rtxCtxtPushElemName(ctx, "n-310");
-      rtxCtxtPushTypeName(ctx, "N-310");
-      if ((uint64_t)pvalue->n_310 > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n_310);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->n_310, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* t-311 */
-   if (pvalue->t_311 != 7) {
-      rtxCtxtPushElemName(ctx, "t-311");
-      rtxCtxtPushTypeName(ctx, "T-311");
-      if (pvalue->t_311 > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->t_311);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_311, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* t-312 */
-   if (pvalue->t_312 != 1) {
-      rtxCtxtPushElemName(ctx, "t-312");
-      rtxCtxtPushTypeName(ctx, "T-312");
-      if ((uint64_t)pvalue->t_312 > 15u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->t_312);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_312, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* n-312 */
-   if (pvalue->n_312 != 0) {
-      rtxCtxtPushElemName(ctx, "n-312");
-      rtxCtxtPushTypeName(ctx, "N-312-r5");
-      if (pvalue->n_312 > 11) {
-         rtxErrAddUIntParm(ctx, pvalue->n_312);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->n_312, 0, 11);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* t-313 */
-   if (pvalue->t_313 != 3) {
-      rtxCtxtPushElemName(ctx, "t-313");
-      rtxCtxtPushTypeName(ctx, "T-313");
-      if ((uint64_t)pvalue->t_313 > 15u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->t_313);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_313, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* n-313 */
-   if (pvalue->n_313 != 4) {
-      rtxCtxtPushElemName(ctx, "n-313");
-      rtxCtxtPushTypeName(ctx, "N-313");
-      if (pvalue->n_313 > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->n_313);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->n_313, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* t-314 */
-   if (pvalue->t_314 != 5) {
-      rtxCtxtPushElemName(ctx, "t-314");
-      rtxCtxtPushTypeName(ctx, "T-314");
-      if (pvalue->t_314 > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->t_314);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_314, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* t-315 */
-   if (pvalue->t_315 != 4) {
-      rtxCtxtPushElemName(ctx, "t-315");
-      rtxCtxtPushTypeName(ctx, "T-315");
-      if (pvalue->t_315 > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->t_315);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_315, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* n-315 */
-   if (pvalue->n_315 != 0) {
-      rtxCtxtPushElemName(ctx, "n-315");
-      rtxCtxtPushTypeName(ctx, "N-315-r5");
-      if (pvalue->n_315 > 11) {
-         rtxErrAddUIntParm(ctx, pvalue->n_315);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->n_315, 0, 11);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* t-316 */
-   if (pvalue->t_316 != 3) {
-      rtxCtxtPushElemName(ctx, "t-316");
-      rtxCtxtPushTypeName(ctx, "T-316");
-      if (pvalue->t_316 > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->t_316);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_316, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* t-317 */
-   if (pvalue->t_317 != 4) {
-      rtxCtxtPushElemName(ctx, "t-317");
-      rtxCtxtPushTypeName(ctx, "T-317");
-      if (pvalue->t_317 > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->t_317);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_317, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
+   stat = pe_ConsUInt64(ctx, pvalue->mac_ehsWindowSize, 0, 8);
+   RT_CHECK(ctx, stat, "MAC-hs-WindowSize-r9", "mac-ehsWindowSize", -1, "MAC-ehs-AddReconfReordQ-r9");
    return 0;
 }
 
-int asn1PE_UMTS_UE_HSPA_Identities_r6(rtxContext* ctx, const UE_HSPA_Identities_r6* pvalue)
+int asn1PE_UMTS_MAC_ehs_AddReconfReordQ_List_r9(rtxContext* RT_RESTRICT ctx, const MAC_ehs_AddReconfReordQ_List_r9* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-HSPA-Identities-r6");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MAC-ehs-AddReconfReordQ-List-r9");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MAC-ehs-AddReconfReordQ-List-r9");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MAC-ehs-AddReconfReordQ-r9", (int32_t)i, "MAC-ehs-AddReconfReordQ-List-r9");
+      stat = asn1PE_UMTS_MAC_ehs_AddReconfReordQ_r9(ctx, (const MAC_ehs_AddReconfReordQ_r9*)node->data);
+      RT_CHECK(ctx, stat, 0, "MAC-ehs-AddReconfReordQ-r9", (int32_t)i, "MAC-ehs-AddReconfReordQ-List-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AddOrReconfMAC_ehs_ReordQ_r9(rtxContext* RT_RESTRICT ctx, const AddOrReconfMAC_ehs_ReordQ_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AddOrReconfMAC-ehs-ReordQ-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AddOrReconfMAC-ehs-ReordQ-r9");
+   /* mac-ehs-AddReconfQueue-List */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MAC_ehs_AddReconfReordQ_List_r9(ctx, &pvalue->mac_ehs_AddReconfQueue_List);
+      RT_CHECK(ctx, stat, 0, "mac-ehs-AddReconfQueue-List", -1, "AddOrReconfMAC-ehs-ReordQ-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CPCH_SetID(rtxContext* RT_RESTRICT ctx, CPCH_SetID value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "CPCH-SetID");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "CPCH-SetID");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 16);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CPCH-SetID");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AddReconfTransChInformation2_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation2_tfs_SignallingMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.explicit_config == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "explicit-config", -1, 0);
+         stat = asn1PE_UMTS_TransportFormatSet(ctx, pvalue->u.explicit_config);
+         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.sameAsULTrCH == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sameAsULTrCH", -1, 0);
+         stat = asn1PE_UMTS_UL_TransportChannelIdentity(ctx, pvalue->u.sameAsULTrCH);
+         RT_CHECK(ctx, stat, 0, "sameAsULTrCH", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AddReconfTransChInformation2(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-AddReconfTransChInformation2");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInformation2");
+   /* dl-TransportChannelType */
+   if (pvalue->dl_TransportChannelType > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->dl_TransportChannelType);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TrCH-Type", "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation2");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->dl_TransportChannelType, 0, 1);
+   RT_CHECK(ctx, stat, "DL-TrCH-Type", "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation2");
+   /* transportChannelIdentity */
+   if ((uint64_t)(pvalue->transportChannelIdentity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->transportChannelIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "transportChannelIdentity", -1, "DL-AddReconfTransChInformation2");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->transportChannelIdentity, 1, 32);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, "DL-AddReconfTransChInformation2");
+   /* tfs-SignallingMode */
+   stat = asn1PE_UMTS_DL_AddReconfTransChInformation2_tfs_SignallingMode(ctx, &pvalue->tfs_SignallingMode);
+   RT_CHECK(ctx, stat, 0, "tfs-SignallingMode", -1, "DL-AddReconfTransChInformation2");
+   /* qualityTarget */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_QualityTarget(ctx, &pvalue->qualityTarget);
+      RT_CHECK(ctx, stat, 0, "qualityTarget", -1, "DL-AddReconfTransChInformation2");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AddReconfTransChInfo2List(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInfo2List* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-AddReconfTransChInfo2List");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInfo2List");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-AddReconfTransChInformation2", (int32_t)i, "DL-AddReconfTransChInfo2List");
+      stat = asn1PE_UMTS_DL_AddReconfTransChInformation2(ctx, (const DL_AddReconfTransChInformation2*)node->data);
+      RT_CHECK(ctx, stat, 0, "DL-AddReconfTransChInformation2", (int32_t)i, "DL-AddReconfTransChInfo2List");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AddReconfTransChInformation_r4_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r4_tfs_SignallingMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.explicit_config == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "explicit-config", -1, 0);
+         stat = asn1PE_UMTS_TransportFormatSet(ctx, pvalue->u.explicit_config);
+         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.sameAsULTrCH == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sameAsULTrCH", -1, 0);
+         stat = asn1PE_UMTS_UL_TransportChannelIdentity(ctx, pvalue->u.sameAsULTrCH);
+         RT_CHECK(ctx, stat, 0, "sameAsULTrCH", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AddReconfTransChInformation_r4(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-AddReconfTransChInformation-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInformation-r4");
+   /* dl-TransportChannelType */
+   if (pvalue->dl_TransportChannelType > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->dl_TransportChannelType);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TrCH-Type", "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->dl_TransportChannelType, 0, 1);
+   RT_CHECK(ctx, stat, "DL-TrCH-Type", "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation-r4");
+   /* dl-transportChannelIdentity */
+   if ((uint64_t)(pvalue->dl_transportChannelIdentity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->dl_transportChannelIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dl-transportChannelIdentity", -1, "DL-AddReconfTransChInformation-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->dl_transportChannelIdentity, 1, 32);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "dl-transportChannelIdentity", -1, "DL-AddReconfTransChInformation-r4");
+   /* tfs-SignallingMode */
+   stat = asn1PE_UMTS_DL_AddReconfTransChInformation_r4_tfs_SignallingMode(ctx, &pvalue->tfs_SignallingMode);
+   RT_CHECK(ctx, stat, 0, "tfs-SignallingMode", -1, "DL-AddReconfTransChInformation-r4");
+   /* dch-QualityTarget */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_QualityTarget(ctx, &pvalue->dch_QualityTarget);
+      RT_CHECK(ctx, stat, 0, "dch-QualityTarget", -1, "DL-AddReconfTransChInformation-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AddReconfTransChInfoList_r4(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInfoList_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-AddReconfTransChInfoList-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInfoList-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-AddReconfTransChInformation-r4", (int32_t)i, "DL-AddReconfTransChInfoList-r4");
+      stat = asn1PE_UMTS_DL_AddReconfTransChInformation_r4(ctx, (const DL_AddReconfTransChInformation_r4*)node->data);
+      RT_CHECK(ctx, stat, 0, "DL-AddReconfTransChInformation-r4", (int32_t)i, "DL-AddReconfTransChInfoList-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_TrCH_TypeId1_r5(rtxContext* RT_RESTRICT ctx, const DL_TrCH_TypeId1_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-TrCH-TypeId1-r5");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, "DL-TrCH-TypeId1-r5");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-TrCH-TypeId1-r5");
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)(pvalue->u.dch - 1) > 31u) {
+            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.dch);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dch", -1, "DL-TrCH-TypeId1-r5");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.dch, 1, 32);
+         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch", -1, "DL-TrCH-TypeId1-r5");
+         break;
+      case 2:
+         if ((uint64_t)(pvalue->u.dsch - 1) > 31u) {
+            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.dsch);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dsch", -1, "DL-TrCH-TypeId1-r5");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.dsch, 1, 32);
+         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dsch", -1, "DL-TrCH-TypeId1-r5");
+         break;
+      case 3:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HSDSCH_Info(rtxContext* RT_RESTRICT ctx, const HSDSCH_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HSDSCH-Info");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HSDSCH-Info");
+   /* harqInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HARQ_Info(ctx, &pvalue->harqInfo);
+      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "HSDSCH-Info");
+   }
+   /* addOrReconfMAC-dFlow */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_AddOrReconfMAC_dFlow(ctx, &pvalue->addOrReconfMAC_dFlow);
+      RT_CHECK(ctx, stat, 0, "addOrReconfMAC-dFlow", -1, "HSDSCH-Info");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AddReconfTransChInformation_r5_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r5_tfs_SignallingMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.explicit_config == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "explicit-config", -1, 0);
+         stat = asn1PE_UMTS_TransportFormatSet(ctx, pvalue->u.explicit_config);
+         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.sameAsULTrCH == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sameAsULTrCH", -1, 0);
+         stat = asn1PE_UMTS_UL_TransportChannelIdentity(ctx, pvalue->u.sameAsULTrCH);
+         RT_CHECK(ctx, stat, 0, "sameAsULTrCH", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.hsdsch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "hsdsch", -1, 0);
+         stat = asn1PE_UMTS_HSDSCH_Info(ctx, pvalue->u.hsdsch);
+         RT_CHECK(ctx, stat, 0, "hsdsch", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AddReconfTransChInformation_r5(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-AddReconfTransChInformation-r5");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInformation-r5");
+   /* dl-TransportChannelType */
+   stat = asn1PE_UMTS_DL_TrCH_TypeId1_r5(ctx, &pvalue->dl_TransportChannelType);
+   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation-r5");
+   /* tfs-SignallingMode */
+   stat = asn1PE_UMTS_DL_AddReconfTransChInformation_r5_tfs_SignallingMode(ctx, &pvalue->tfs_SignallingMode);
+   RT_CHECK(ctx, stat, 0, "tfs-SignallingMode", -1, "DL-AddReconfTransChInformation-r5");
+   /* dch-QualityTarget */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_QualityTarget(ctx, &pvalue->dch_QualityTarget);
+      RT_CHECK(ctx, stat, 0, "dch-QualityTarget", -1, "DL-AddReconfTransChInformation-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AddReconfTransChInfoList_r5(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInfoList_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-AddReconfTransChInfoList-r5");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInfoList-r5");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-AddReconfTransChInformation-r5", (int32_t)i, "DL-AddReconfTransChInfoList-r5");
+      stat = asn1PE_UMTS_DL_AddReconfTransChInformation_r5(ctx, (const DL_AddReconfTransChInformation_r5*)node->data);
+      RT_CHECK(ctx, stat, 0, "DL-AddReconfTransChInformation-r5", (int32_t)i, "DL-AddReconfTransChInfoList-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HSDSCH_Info_r7_dl_MAC_HeaderType(rtxContext* RT_RESTRICT ctx, const HSDSCH_Info_r7_dl_MAC_HeaderType* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.mac_hs == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "mac-hs", -1, 0);
+         stat = asn1PE_UMTS_AddOrReconfMAC_dFlow(ctx, pvalue->u.mac_hs);
+         RT_CHECK(ctx, stat, 0, "mac-hs", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.mac_ehs == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "mac-ehs", -1, 0);
+         stat = asn1PE_UMTS_AddOrReconfMAC_ehs_ReordQ(ctx, pvalue->u.mac_ehs);
+         RT_CHECK(ctx, stat, 0, "mac-ehs", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HSDSCH_Info_r7(rtxContext* RT_RESTRICT ctx, const HSDSCH_Info_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HSDSCH-Info-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HSDSCH-Info-r7");
+   /* harqInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
+      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "HSDSCH-Info-r7");
+   }
+   /* dl-MAC-HeaderType */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_HSDSCH_Info_r7_dl_MAC_HeaderType(ctx, &pvalue->dl_MAC_HeaderType);
+      RT_CHECK(ctx, stat, 0, "dl-MAC-HeaderType", -1, "HSDSCH-Info-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AddReconfTransChInformation_r7_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r7_tfs_SignallingMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.explicit_config == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "explicit-config", -1, 0);
+         stat = asn1PE_UMTS_TransportFormatSet(ctx, pvalue->u.explicit_config);
+         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.sameAsULTrCH == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sameAsULTrCH", -1, 0);
+         stat = asn1PE_UMTS_UL_TransportChannelIdentity(ctx, pvalue->u.sameAsULTrCH);
+         RT_CHECK(ctx, stat, 0, "sameAsULTrCH", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.hsdsch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "hsdsch", -1, 0);
+         stat = asn1PE_UMTS_HSDSCH_Info_r7(ctx, pvalue->u.hsdsch);
+         RT_CHECK(ctx, stat, 0, "hsdsch", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AddReconfTransChInformation_r7(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-AddReconfTransChInformation-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInformation-r7");
+   /* dl-TransportChannelType */
+   stat = asn1PE_UMTS_DL_TrCH_TypeId1_r5(ctx, &pvalue->dl_TransportChannelType);
+   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation-r7");
+   /* tfs-SignallingMode */
+   stat = asn1PE_UMTS_DL_AddReconfTransChInformation_r7_tfs_SignallingMode(ctx, &pvalue->tfs_SignallingMode);
+   RT_CHECK(ctx, stat, 0, "tfs-SignallingMode", -1, "DL-AddReconfTransChInformation-r7");
+   /* dch-QualityTarget */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_QualityTarget(ctx, &pvalue->dch_QualityTarget);
+      RT_CHECK(ctx, stat, 0, "dch-QualityTarget", -1, "DL-AddReconfTransChInformation-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AddReconfTransChInfoList_r7(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInfoList_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-AddReconfTransChInfoList-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInfoList-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-AddReconfTransChInformation-r7", (int32_t)i, "DL-AddReconfTransChInfoList-r7");
+      stat = asn1PE_UMTS_DL_AddReconfTransChInformation_r7(ctx, (const DL_AddReconfTransChInformation_r7*)node->data);
+      RT_CHECK(ctx, stat, 0, "DL-AddReconfTransChInformation-r7", (int32_t)i, "DL-AddReconfTransChInfoList-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HSDSCH_Info_r9_dl_MAC_HeaderType(rtxContext* RT_RESTRICT ctx, const HSDSCH_Info_r9_dl_MAC_HeaderType* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.mac_hs == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "mac-hs", -1, 0);
+         stat = asn1PE_UMTS_AddOrReconfMAC_dFlow(ctx, pvalue->u.mac_hs);
+         RT_CHECK(ctx, stat, 0, "mac-hs", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.mac_ehs == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "mac-ehs", -1, 0);
+         stat = asn1PE_UMTS_AddOrReconfMAC_ehs_ReordQ_r9(ctx, pvalue->u.mac_ehs);
+         RT_CHECK(ctx, stat, 0, "mac-ehs", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HSDSCH_Info_r9(rtxContext* RT_RESTRICT ctx, const HSDSCH_Info_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HSDSCH-Info-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HSDSCH-Info-r9");
+   /* harqInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
+      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "HSDSCH-Info-r9");
+   }
+   /* dl-MAC-HeaderType */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_HSDSCH_Info_r9_dl_MAC_HeaderType(ctx, &pvalue->dl_MAC_HeaderType);
+      RT_CHECK(ctx, stat, 0, "dl-MAC-HeaderType", -1, "HSDSCH-Info-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AddReconfTransChInformation_r9_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r9_tfs_SignallingMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.explicit_config == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "explicit-config", -1, 0);
+         stat = asn1PE_UMTS_TransportFormatSet(ctx, pvalue->u.explicit_config);
+         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.sameAsULTrCH == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sameAsULTrCH", -1, 0);
+         stat = asn1PE_UMTS_UL_TransportChannelIdentity(ctx, pvalue->u.sameAsULTrCH);
+         RT_CHECK(ctx, stat, 0, "sameAsULTrCH", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.hsdsch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "hsdsch", -1, 0);
+         stat = asn1PE_UMTS_HSDSCH_Info_r9(ctx, pvalue->u.hsdsch);
+         RT_CHECK(ctx, stat, 0, "hsdsch", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AddReconfTransChInformation_r9(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-AddReconfTransChInformation-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInformation-r9");
+   /* dl-TransportChannelType */
+   stat = asn1PE_UMTS_DL_TrCH_TypeId1_r5(ctx, &pvalue->dl_TransportChannelType);
+   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation-r9");
+   /* tfs-SignallingMode */
+   stat = asn1PE_UMTS_DL_AddReconfTransChInformation_r9_tfs_SignallingMode(ctx, &pvalue->tfs_SignallingMode);
+   RT_CHECK(ctx, stat, 0, "tfs-SignallingMode", -1, "DL-AddReconfTransChInformation-r9");
+   /* dch-QualityTarget */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_QualityTarget(ctx, &pvalue->dch_QualityTarget);
+      RT_CHECK(ctx, stat, 0, "dch-QualityTarget", -1, "DL-AddReconfTransChInformation-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AddReconfTransChInfoList_r9(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInfoList_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-AddReconfTransChInfoList-r9");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInfoList-r9");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-AddReconfTransChInformation-r9", (int32_t)i, "DL-AddReconfTransChInfoList-r9");
+      stat = asn1PE_UMTS_DL_AddReconfTransChInformation_r9(ctx, (const DL_AddReconfTransChInformation_r9*)node->data);
+      RT_CHECK(ctx, stat, 0, "DL-AddReconfTransChInformation-r9", (int32_t)i, "DL-AddReconfTransChInfoList-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters_dl_DCH_TFCS(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters_dl_DCH_TFCS* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* tfcs */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TFCS(ctx, &pvalue->tfcs);
+      RT_CHECK(ctx, stat, 0, "tfcs", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.dl_DCH_TFCS == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-DCH-TFCS", -1, 0);
+         stat = asn1PE_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters_dl_DCH_TFCS(ctx, pvalue->u.dl_DCH_TFCS);
+         RT_CHECK(ctx, stat, 0, "dl-DCH-TFCS", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-Parameters */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters(ctx, &pvalue->dl_Parameters);
+      RT_CHECK(ctx, stat, 0, "dl-Parameters", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* individualDL-CCTrCH-InfoList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IndividualDL_CCTrCH_InfoList(ctx, &pvalue->individualDL_CCTrCH_InfoList);
+      RT_CHECK(ctx, stat, 0, "individualDL-CCTrCH-InfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonTransChInfo_r4(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-CommonTransChInfo-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CommonTransChInfo-r4");
+   /* sccpch-TFCS */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TFCS(ctx, &pvalue->sccpch_TFCS);
+      RT_CHECK(ctx, stat, 0, "sccpch-TFCS", -1, "DL-CommonTransChInfo-r4");
+   }
+   /* modeSpecificInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+      RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonTransChInfo-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_TransportChannelIdentity(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelIdentity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-TransportChannelIdentity");
+   /* dl-TransportChannelType */
+   if (pvalue->dl_TransportChannelType > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->dl_TransportChannelType);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TrCH-Type", "dl-TransportChannelType", -1, "DL-TransportChannelIdentity");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->dl_TransportChannelType, 0, 1);
+   RT_CHECK(ctx, stat, "DL-TrCH-Type", "dl-TransportChannelType", -1, "DL-TransportChannelIdentity");
+   /* dl-TransportChannelIdentity */
+   if ((uint64_t)(pvalue->dl_TransportChannelIdentity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->dl_TransportChannelIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dl-TransportChannelIdentity", -1, "DL-TransportChannelIdentity");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->dl_TransportChannelIdentity, 1, 32);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "dl-TransportChannelIdentity", -1, "DL-TransportChannelIdentity");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DeletedTransChInfoList(rtxContext* RT_RESTRICT ctx, const DL_DeletedTransChInfoList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-DeletedTransChInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-DeletedTransChInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-TransportChannelIdentity", (int32_t)i, "DL-DeletedTransChInfoList");
+      stat = asn1PE_UMTS_DL_TransportChannelIdentity(ctx, (const DL_TransportChannelIdentity*)node->data);
+      RT_CHECK(ctx, stat, 0, "DL-TransportChannelIdentity", (int32_t)i, "DL-DeletedTransChInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_TrCH_TypeId2_r5(rtxContext* RT_RESTRICT ctx, const DL_TrCH_TypeId2_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-TrCH-TypeId2-r5");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, "DL-TrCH-TypeId2-r5");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-TrCH-TypeId2-r5");
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)(pvalue->u.dch - 1) > 31u) {
+            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.dch);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dch", -1, "DL-TrCH-TypeId2-r5");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.dch, 1, 32);
+         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch", -1, "DL-TrCH-TypeId2-r5");
+         break;
+      case 2:
+         if ((uint64_t)(pvalue->u.dsch - 1) > 31u) {
+            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.dsch);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dsch", -1, "DL-TrCH-TypeId2-r5");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.dsch, 1, 32);
+         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dsch", -1, "DL-TrCH-TypeId2-r5");
+         break;
+      case 3:
+         if ((uint64_t)pvalue->u.hsdsch > 7u) {
+            rtxErrAddStrParm(ctx, "MAC-d-FlowIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.hsdsch);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "MAC-d-FlowIdentity", "hsdsch", -1, "DL-TrCH-TypeId2-r5");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.hsdsch, 0, 7);
+         RT_CHECK(ctx, stat, "MAC-d-FlowIdentity", "hsdsch", -1, "DL-TrCH-TypeId2-r5");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_TransportChannelIdentity_r5(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelIdentity_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-TransportChannelIdentity-r5");
+   /* dl-TransportChannelType */
+   stat = asn1PE_UMTS_DL_TrCH_TypeId2_r5(ctx, &pvalue->dl_TransportChannelType);
+   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-TransportChannelIdentity-r5");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DeletedTransChInfoList_r5(rtxContext* RT_RESTRICT ctx, const DL_DeletedTransChInfoList_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-DeletedTransChInfoList-r5");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-DeletedTransChInfoList-r5");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-TransportChannelIdentity-r5", (int32_t)i, "DL-DeletedTransChInfoList-r5");
+      stat = asn1PE_UMTS_DL_TransportChannelIdentity_r5(ctx, (const DL_TransportChannelIdentity_r5*)node->data);
+      RT_CHECK(ctx, stat, 0, "DL-TransportChannelIdentity-r5", (int32_t)i, "DL-DeletedTransChInfoList-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_TrCH_TypeId2_r7_hsdsch(rtxContext* RT_RESTRICT ctx, const DL_TrCH_TypeId2_r7_hsdsch* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)pvalue->u.mac_hs > 7u) {
+            rtxErrAddStrParm(ctx, "MAC-d-FlowIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.mac_hs);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "MAC-d-FlowIdentity", "mac-hs", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.mac_hs, 0, 7);
+         RT_CHECK(ctx, stat, "MAC-d-FlowIdentity", "mac-hs", -1, 0);
+         break;
+      case 2:
+         if ((uint64_t)pvalue->u.mac_ehs > 7u) {
+            rtxErrAddStrParm(ctx, "MAC-ehs-QueueId");
+            rtxErrAddUIntParm(ctx, pvalue->u.mac_ehs);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "MAC-ehs-QueueId", "mac-ehs", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.mac_ehs, 0, 7);
+         RT_CHECK(ctx, stat, "MAC-ehs-QueueId", "mac-ehs", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_TrCH_TypeId2_r7(rtxContext* RT_RESTRICT ctx, const DL_TrCH_TypeId2_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-TrCH-TypeId2-r7");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, "DL-TrCH-TypeId2-r7");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-TrCH-TypeId2-r7");
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)(pvalue->u.dch - 1) > 31u) {
+            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.dch);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dch", -1, "DL-TrCH-TypeId2-r7");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.dch, 1, 32);
+         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch", -1, "DL-TrCH-TypeId2-r7");
+         break;
+      case 2:
+         if ((uint64_t)(pvalue->u.dsch - 1) > 31u) {
+            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.dsch);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dsch", -1, "DL-TrCH-TypeId2-r7");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.dsch, 1, 32);
+         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dsch", -1, "DL-TrCH-TypeId2-r7");
+         break;
+      case 3:
+         if (pvalue->u.hsdsch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "hsdsch", -1, "DL-TrCH-TypeId2-r7");
+         stat = asn1PE_UMTS_DL_TrCH_TypeId2_r7_hsdsch(ctx, pvalue->u.hsdsch);
+         RT_CHECK(ctx, stat, 0, "hsdsch", -1, "DL-TrCH-TypeId2-r7");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_TransportChannelIdentity_r7(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelIdentity_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-TransportChannelIdentity-r7");
+   /* dl-TransportChannelType */
+   stat = asn1PE_UMTS_DL_TrCH_TypeId2_r7(ctx, &pvalue->dl_TransportChannelType);
+   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-TransportChannelIdentity-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DeletedTransChInfoList_r7(rtxContext* RT_RESTRICT ctx, const DL_DeletedTransChInfoList_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-DeletedTransChInfoList-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-DeletedTransChInfoList-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-TransportChannelIdentity-r7", (int32_t)i, "DL-DeletedTransChInfoList-r7");
+      stat = asn1PE_UMTS_DL_TransportChannelIdentity_r7(ctx, (const DL_TransportChannelIdentity_r7*)node->data);
+      RT_CHECK(ctx, stat, 0, "DL-TransportChannelIdentity-r7", (int32_t)i, "DL-DeletedTransChInfoList-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DRAC_ClassIdentity(rtxContext* RT_RESTRICT ctx, DRAC_ClassIdentity value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "DRAC-ClassIdentity");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DRAC-ClassIdentity");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DRAC-ClassIdentity");
+   return 0;
+}
+
+int asn1PE_UMTS_TransmissionTimeValidity(rtxContext* RT_RESTRICT ctx, TransmissionTimeValidity value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 255u) {
+      rtxErrAddStrParm(ctx, "TransmissionTimeValidity");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TransmissionTimeValidity");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 256);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransmissionTimeValidity");
+   return 0;
+}
+
+int asn1PE_UMTS_TimeDurationBeforeRetry(rtxContext* RT_RESTRICT ctx, TimeDurationBeforeRetry value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 255u) {
+      rtxErrAddStrParm(ctx, "TimeDurationBeforeRetry");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TimeDurationBeforeRetry");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 256);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimeDurationBeforeRetry");
+   return 0;
+}
+
+int asn1PE_UMTS_DRAC_StaticInformation(rtxContext* RT_RESTRICT ctx, const DRAC_StaticInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DRAC-StaticInformation");
+   /* transmissionTimeValidity */
+   if ((uint64_t)(pvalue->transmissionTimeValidity - 1) > 255u) {
+      rtxErrAddStrParm(ctx, "TransmissionTimeValidity");
+      rtxErrAddUIntParm(ctx, pvalue->transmissionTimeValidity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransmissionTimeValidity", "transmissionTimeValidity", -1, "DRAC-StaticInformation");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->transmissionTimeValidity, 1, 256);
+   RT_CHECK(ctx, stat, "TransmissionTimeValidity", "transmissionTimeValidity", -1, "DRAC-StaticInformation");
+   /* timeDurationBeforeRetry */
+   if ((uint64_t)(pvalue->timeDurationBeforeRetry - 1) > 255u) {
+      rtxErrAddStrParm(ctx, "TimeDurationBeforeRetry");
+      rtxErrAddUIntParm(ctx, pvalue->timeDurationBeforeRetry);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeDurationBeforeRetry", "timeDurationBeforeRetry", -1, "DRAC-StaticInformation");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeDurationBeforeRetry, 1, 256);
+   RT_CHECK(ctx, stat, "TimeDurationBeforeRetry", "timeDurationBeforeRetry", -1, "DRAC-StaticInformation");
+   /* drac-ClassIdentity */
+   if ((uint64_t)(pvalue->drac_ClassIdentity - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "DRAC-ClassIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->drac_ClassIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "DRAC-ClassIdentity", "drac-ClassIdentity", -1, "DRAC-StaticInformation");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->drac_ClassIdentity, 1, 8);
+   RT_CHECK(ctx, stat, "DRAC-ClassIdentity", "drac-ClassIdentity", -1, "DRAC-StaticInformation");
+   return 0;
+}
+
+int asn1PE_UMTS_DRAC_StaticInformationList(rtxContext* RT_RESTRICT ctx, const DRAC_StaticInformationList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DRAC-StaticInformationList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DRAC-StaticInformationList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DRAC-StaticInformation", (int32_t)i, "DRAC-StaticInformationList");
+      stat = asn1PE_UMTS_DRAC_StaticInformation(ctx, (const DRAC_StaticInformation*)node->data);
+      RT_CHECK(ctx, stat, 0, "DRAC-StaticInformation", (int32_t)i, "DRAC-StaticInformationList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType_non_ScheduledTransGrantInfo(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType_non_ScheduledTransGrantInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* maxMAC-e-PDUContents */
+   if ((uint64_t)(pvalue->maxMAC_e_PDUContents - 1) > 19981u) {
+      rtxErrAddStrParm(ctx, "maxMAC-e-PDUContents");
+      rtxErrAddUIntParm(ctx, pvalue->maxMAC_e_PDUContents);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "maxMAC-e-PDUContents", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxMAC_e_PDUContents, 1, 19982);
+   RT_CHECK(ctx, stat, 0, "maxMAC-e-PDUContents", -1, 0);
+   /* ms2-NonSchedTransmGrantHARQAlloc */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pe_BitString32(ctx, &pvalue->ms2_NonSchedTransmGrantHARQAlloc, 8, 8);
+      RT_CHECK(ctx, stat, 0, "ms2-NonSchedTransmGrantHARQAlloc", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.non_ScheduledTransGrantInfo == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "non-ScheduledTransGrantInfo", -1, 0);
+         stat = asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType_non_ScheduledTransGrantInfo(ctx, pvalue->u.non_ScheduledTransGrantInfo);
+         RT_CHECK(ctx, stat, 0, "non-ScheduledTransGrantInfo", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-DCH-AddReconf-MAC-d-Flow");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-AddReconf-MAC-d-Flow");
+   /* mac-d-FlowIdentity */
+   if ((uint64_t)pvalue->mac_d_FlowIdentity > 7u) {
+      rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->mac_d_FlowIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DCH-MAC-d-FlowIdentity", "mac-d-FlowIdentity", -1, "E-DCH-AddReconf-MAC-d-Flow");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->mac_d_FlowIdentity, 0, 7);
+   RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowIdentity", "mac-d-FlowIdentity", -1, "E-DCH-AddReconf-MAC-d-Flow");
+   /* mac-d-FlowPowerOffset */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->mac_d_FlowPowerOffset > 6u) {
+         rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowPowerOffset");
+         rtxErrAddUIntParm(ctx, pvalue->mac_d_FlowPowerOffset);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DCH-MAC-d-FlowPowerOffset", "mac-d-FlowPowerOffset", -1, "E-DCH-AddReconf-MAC-d-Flow");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mac_d_FlowPowerOffset, 0, 6);
+      RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowPowerOffset", "mac-d-FlowPowerOffset", -1, "E-DCH-AddReconf-MAC-d-Flow");
+   }
+   /* mac-d-FlowMaxRetrans */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->mac_d_FlowMaxRetrans > 15u) {
+         rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowMaxRetrans");
+         rtxErrAddUIntParm(ctx, pvalue->mac_d_FlowMaxRetrans);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DCH-MAC-d-FlowMaxRetrans", "mac-d-FlowMaxRetrans", -1, "E-DCH-AddReconf-MAC-d-Flow");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mac_d_FlowMaxRetrans, 0, 15);
+      RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowMaxRetrans", "mac-d-FlowMaxRetrans", -1, "E-DCH-AddReconf-MAC-d-Flow");
+   }
+   /* mac-d-FlowMultiplexingList */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_E_DCH_MAC_d_FlowMultiplexingList(ctx, pvalue->mac_d_FlowMultiplexingList);
+      RT_CHECK(ctx, stat, 0, "mac-d-FlowMultiplexingList", -1, "E-DCH-AddReconf-MAC-d-Flow");
+   }
+   /* transmissionGrantType */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType(ctx, &pvalue->transmissionGrantType);
+      RT_CHECK(ctx, stat, 0, "transmissionGrantType", -1, "E-DCH-AddReconf-MAC-d-Flow");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* maxMAC-e-PDUContents */
+   if ((uint64_t)(pvalue->maxMAC_e_PDUContents - 1) > 19981u) {
+      rtxErrAddStrParm(ctx, "maxMAC-e-PDUContents");
+      rtxErrAddUIntParm(ctx, pvalue->maxMAC_e_PDUContents);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "maxMAC-e-PDUContents", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxMAC_e_PDUContents, 1, 19982);
+   RT_CHECK(ctx, stat, 0, "maxMAC-e-PDUContents", -1, 0);
+   /* ms2-NonSchedTransmGrantHARQAlloc */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pe_BitString32(ctx, &pvalue->ms2_NonSchedTransmGrantHARQAlloc, 8, 8);
+      RT_CHECK(ctx, stat, 0, "ms2-NonSchedTransmGrantHARQAlloc", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.non_ScheduledTransGrantInfo == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "non-ScheduledTransGrantInfo", -1, 0);
+         stat = asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo(ctx, pvalue->u.non_ScheduledTransGrantInfo);
+         RT_CHECK(ctx, stat, 0, "non-ScheduledTransGrantInfo", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
+   /* mac-d-FlowIdentity */
+   if ((uint64_t)pvalue->mac_d_FlowIdentity > 7u) {
+      rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->mac_d_FlowIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DCH-MAC-d-FlowIdentity", "mac-d-FlowIdentity", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->mac_d_FlowIdentity, 0, 7);
+   RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowIdentity", "mac-d-FlowIdentity", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
+   /* mac-d-FlowPowerOffset */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->mac_d_FlowPowerOffset > 6u) {
+         rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowPowerOffset");
+         rtxErrAddUIntParm(ctx, pvalue->mac_d_FlowPowerOffset);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DCH-MAC-d-FlowPowerOffset", "mac-d-FlowPowerOffset", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mac_d_FlowPowerOffset, 0, 6);
+      RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowPowerOffset", "mac-d-FlowPowerOffset", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
+   }
+   /* mac-d-FlowMaxRetrans */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->mac_d_FlowMaxRetrans > 15u) {
+         rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowMaxRetrans");
+         rtxErrAddUIntParm(ctx, pvalue->mac_d_FlowMaxRetrans);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DCH-MAC-d-FlowMaxRetrans", "mac-d-FlowMaxRetrans", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mac_d_FlowMaxRetrans, 0, 15);
+      RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowMaxRetrans", "mac-d-FlowMaxRetrans", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
+   }
+   /* mac-d-FlowRetransTimer */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->mac_d_FlowRetransTimer > 29) {
+         rtxErrAddUIntParm(ctx, pvalue->mac_d_FlowRetransTimer);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "E-DCH-MAC-d-FlowRetransTimer", "mac-d-FlowRetransTimer", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mac_d_FlowRetransTimer, 0, 29);
+      RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowRetransTimer", "mac-d-FlowRetransTimer", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
+   }
+   /* mac-d-FlowMultiplexingList */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_E_DCH_MAC_d_FlowMultiplexingList(ctx, pvalue->mac_d_FlowMultiplexingList);
+      RT_CHECK(ctx, stat, 0, "mac-d-FlowMultiplexingList", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
+   }
+   /* transmissionGrantType */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType(ctx, &pvalue->transmissionGrantType);
+      RT_CHECK(ctx, stat, 0, "transmissionGrantType", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_AddReconf_MAC_d_FlowList(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_FlowList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-DCH-AddReconf-MAC-d-FlowList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "E-DCH-AddReconf-MAC-d-FlowList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "E-DCH-AddReconf-MAC-d-Flow", (int32_t)i, "E-DCH-AddReconf-MAC-d-FlowList");
+      stat = asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow(ctx, (const E_DCH_AddReconf_MAC_d_Flow*)node->data);
+      RT_CHECK(ctx, stat, 0, "E-DCH-AddReconf-MAC-d-Flow", (int32_t)i, "E-DCH-AddReconf-MAC-d-FlowList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_AddReconf_MAC_d_FlowList_r7(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_FlowList_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-DCH-AddReconf-MAC-d-FlowList-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "E-DCH-AddReconf-MAC-d-FlowList-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "E-DCH-AddReconf-MAC-d-Flow-r7", (int32_t)i, "E-DCH-AddReconf-MAC-d-FlowList-r7");
+      stat = asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7(ctx, (const E_DCH_AddReconf_MAC_d_Flow_r7*)node->data);
+      RT_CHECK(ctx, stat, 0, "E-DCH-AddReconf-MAC-d-Flow-r7", (int32_t)i, "E-DCH-AddReconf-MAC-d-FlowList-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PowerOffsetInfoShort_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const PowerOffsetInfoShort_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* gainFactorBetaC */
+   if ((uint64_t)pvalue->gainFactorBetaC > 15u) {
+      rtxErrAddStrParm(ctx, "GainFactor");
+      rtxErrAddUIntParm(ctx, pvalue->gainFactorBetaC);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "GainFactor", "gainFactorBetaC", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->gainFactorBetaC, 0, 15);
+   RT_CHECK(ctx, stat, "GainFactor", "gainFactorBetaC", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PowerOffsetInfoShort_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const PowerOffsetInfoShort_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_PowerOffsetInfoShort_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PowerOffsetInfoShort(rtxContext* RT_RESTRICT ctx, const PowerOffsetInfoShort* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PowerOffsetInfoShort");
+   /* referenceTFC */
+   if ((uint64_t)pvalue->referenceTFC > 1023u) {
+      rtxErrAddStrParm(ctx, "TFC-Value");
+      rtxErrAddUIntParm(ctx, pvalue->referenceTFC);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TFC-Value", "referenceTFC", -1, "PowerOffsetInfoShort");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->referenceTFC, 0, 1023);
+   RT_CHECK(ctx, stat, "TFC-Value", "referenceTFC", -1, "PowerOffsetInfoShort");
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_PowerOffsetInfoShort_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "PowerOffsetInfoShort");
+   /* gainFactorBetaD */
+   if ((uint64_t)pvalue->gainFactorBetaD > 15u) {
+      rtxErrAddStrParm(ctx, "GainFactor");
+      rtxErrAddUIntParm(ctx, pvalue->gainFactorBetaD);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "GainFactor", "gainFactorBetaD", -1, "PowerOffsetInfoShort");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->gainFactorBetaD, 0, 15);
+   RT_CHECK(ctx, stat, "GainFactor", "gainFactorBetaD", -1, "PowerOffsetInfoShort");
+   return 0;
+}
+
+int asn1PE_UMTS_TFC_SubsetList_element_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const TFC_SubsetList_element_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* tfcs-ID */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TFCS_Identity(ctx, &pvalue->tfcs_ID);
+      RT_CHECK(ctx, stat, 0, "tfcs-ID", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFC_SubsetList_element_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const TFC_SubsetList_element_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_TFC_SubsetList_element_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFC_SubsetList_element(rtxContext* RT_RESTRICT ctx, const TFC_SubsetList_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_TFC_SubsetList_element_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
+   /* tfc-Subset */
+   stat = asn1PE_UMTS_TFC_Subset(ctx, &pvalue->tfc_Subset);
+   RT_CHECK(ctx, stat, 0, "tfc-Subset", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_TFC_SubsetList(rtxContext* RT_RESTRICT ctx, const TFC_SubsetList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TFC-SubsetList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 1024);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "TFC-SubsetList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "TFC-SubsetList");
+      stat = asn1PE_UMTS_TFC_SubsetList_element(ctx, (const TFC_SubsetList_element*)node->data);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "TFC-SubsetList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInformation_r6_dch_usch(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r6_dch_usch* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ul-TransportChannelType */
+   if (pvalue->ul_TransportChannelType > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->ul_TransportChannelType);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "UL-TrCH-Type", "ul-TransportChannelType", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ul_TransportChannelType, 0, 1);
+   RT_CHECK(ctx, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, 0);
+   /* transportChannelIdentity */
+   if ((uint64_t)(pvalue->transportChannelIdentity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->transportChannelIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "transportChannelIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->transportChannelIdentity, 1, 32);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, 0);
+   /* transportFormatSet */
+   stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->transportFormatSet);
+   RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInformation_r6_e_dch_harq_Info(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r6_e_dch_harq_Info value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInformation_r6_e_dch(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r6_e_dch* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* tti */
+   if (pvalue->tti > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->tti);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "E-DCH-TTI", "tti", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->tti, 0, 1);
+   RT_CHECK(ctx, stat, "E-DCH-TTI", "tti", -1, 0);
+   /* harq-Info */
+   if (pvalue->harq_Info > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->harq_Info);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "harq-Info", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->harq_Info, 0, 1);
+   RT_CHECK(ctx, stat, 0, "harq-Info", -1, 0);
+   /* addReconf-MAC-d-FlowList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_E_DCH_AddReconf_MAC_d_FlowList(ctx, &pvalue->addReconf_MAC_d_FlowList);
+      RT_CHECK(ctx, stat, 0, "addReconf-MAC-d-FlowList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInformation_r6(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-AddReconfTransChInformation-r6");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "UL-AddReconfTransChInformation-r6");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-AddReconfTransChInformation-r6");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.dch_usch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dch-usch", -1, "UL-AddReconfTransChInformation-r6");
+         stat = asn1PE_UMTS_UL_AddReconfTransChInformation_r6_dch_usch(ctx, pvalue->u.dch_usch);
+         RT_CHECK(ctx, stat, 0, "dch-usch", -1, "UL-AddReconfTransChInformation-r6");
+         break;
+      case 2:
+         if (pvalue->u.e_dch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e-dch", -1, "UL-AddReconfTransChInformation-r6");
+         stat = asn1PE_UMTS_UL_AddReconfTransChInformation_r6_e_dch(ctx, pvalue->u.e_dch);
+         RT_CHECK(ctx, stat, 0, "e-dch", -1, "UL-AddReconfTransChInformation-r6");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInfoList_r6(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInfoList_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-AddReconfTransChInfoList-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UL-AddReconfTransChInfoList-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UL-AddReconfTransChInformation-r6", (int32_t)i, "UL-AddReconfTransChInfoList-r6");
+      stat = asn1PE_UMTS_UL_AddReconfTransChInformation_r6(ctx, (const UL_AddReconfTransChInformation_r6*)node->data);
+      RT_CHECK(ctx, stat, 0, "UL-AddReconfTransChInformation-r6", (int32_t)i, "UL-AddReconfTransChInfoList-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInformation_r7_dch_usch(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r7_dch_usch* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ul-TransportChannelType */
+   if (pvalue->ul_TransportChannelType > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->ul_TransportChannelType);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "UL-TrCH-Type", "ul-TransportChannelType", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ul_TransportChannelType, 0, 1);
+   RT_CHECK(ctx, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, 0);
+   /* transportChannelIdentity */
+   if ((uint64_t)(pvalue->transportChannelIdentity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->transportChannelIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "transportChannelIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->transportChannelIdentity, 1, 32);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, 0);
+   /* transportFormatSet */
+   stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->transportFormatSet);
+   RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInformation_r7_e_dch_modeSpecific_fdd(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r7_e_dch_modeSpecific_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tti */
+   if (pvalue->tti > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->tti);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "E-DCH-TTI", "tti", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->tti, 0, 1);
+   RT_CHECK(ctx, stat, "E-DCH-TTI", "tti", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInformation_r7_e_dch_modeSpecific(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r7_e_dch_modeSpecific* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_UL_AddReconfTransChInformation_r7_e_dch_modeSpecific_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInformation_r7_e_dch_harq_Info(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r7_e_dch_harq_Info value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInformation_r7_e_dch(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r7_e_dch* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* modeSpecific */
+   stat = asn1PE_UMTS_UL_AddReconfTransChInformation_r7_e_dch_modeSpecific(ctx, &pvalue->modeSpecific);
+   RT_CHECK(ctx, stat, 0, "modeSpecific", -1, 0);
+   /* harq-Info */
+   if (pvalue->harq_Info > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->harq_Info);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "harq-Info", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->harq_Info, 0, 1);
+   RT_CHECK(ctx, stat, 0, "harq-Info", -1, 0);
+   /* addReconf-MAC-d-FlowList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_E_DCH_AddReconf_MAC_d_FlowList_r7(ctx, &pvalue->addReconf_MAC_d_FlowList);
+      RT_CHECK(ctx, stat, 0, "addReconf-MAC-d-FlowList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInformation_r7(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-AddReconfTransChInformation-r7");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "UL-AddReconfTransChInformation-r7");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-AddReconfTransChInformation-r7");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.dch_usch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dch-usch", -1, "UL-AddReconfTransChInformation-r7");
+         stat = asn1PE_UMTS_UL_AddReconfTransChInformation_r7_dch_usch(ctx, pvalue->u.dch_usch);
+         RT_CHECK(ctx, stat, 0, "dch-usch", -1, "UL-AddReconfTransChInformation-r7");
+         break;
+      case 2:
+         if (pvalue->u.e_dch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e-dch", -1, "UL-AddReconfTransChInformation-r7");
+         stat = asn1PE_UMTS_UL_AddReconfTransChInformation_r7_e_dch(ctx, pvalue->u.e_dch);
+         RT_CHECK(ctx, stat, 0, "e-dch", -1, "UL-AddReconfTransChInformation-r7");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInfoList_r7(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInfoList_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-AddReconfTransChInfoList-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UL-AddReconfTransChInfoList-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UL-AddReconfTransChInformation-r7", (int32_t)i, "UL-AddReconfTransChInfoList-r7");
+      stat = asn1PE_UMTS_UL_AddReconfTransChInformation_r7(ctx, (const UL_AddReconfTransChInformation_r7*)node->data);
+      RT_CHECK(ctx, stat, 0, "UL-AddReconfTransChInformation-r7", (int32_t)i, "UL-AddReconfTransChInfoList-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInformation_r8_dch_usch(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r8_dch_usch* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ul-TransportChannelType */
+   if (pvalue->ul_TransportChannelType > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->ul_TransportChannelType);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "UL-TrCH-Type", "ul-TransportChannelType", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ul_TransportChannelType, 0, 1);
+   RT_CHECK(ctx, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, 0);
+   /* transportChannelIdentity */
+   if ((uint64_t)(pvalue->transportChannelIdentity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->transportChannelIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "transportChannelIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->transportChannelIdentity, 1, 32);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, 0);
+   /* transportFormatSet */
+   stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->transportFormatSet);
+   RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInformation_r8_e_dch_ul_MAC_HeaderType(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_e_dch_ul_MAC_HeaderType value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInformation_r8_e_dch_modeSpecific_fdd(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r8_e_dch_modeSpecific_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tti */
+   if (pvalue->tti > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->tti);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "E-DCH-TTI", "tti", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->tti, 0, 1);
+   RT_CHECK(ctx, stat, "E-DCH-TTI", "tti", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInformation_r8_e_dch_modeSpecific(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r8_e_dch_modeSpecific* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_UL_AddReconfTransChInformation_r8_e_dch_modeSpecific_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInformation_r8_e_dch_harq_Info(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_e_dch_harq_Info value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInformation_r8_e_dch(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r8_e_dch* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ul-MAC-HeaderType */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->ul_MAC_HeaderType > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->ul_MAC_HeaderType);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "ul-MAC-HeaderType", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ul_MAC_HeaderType, 0, 0);
+      RT_CHECK(ctx, stat, 0, "ul-MAC-HeaderType", -1, 0);
+   }
+   /* modeSpecific */
+   stat = asn1PE_UMTS_UL_AddReconfTransChInformation_r8_e_dch_modeSpecific(ctx, &pvalue->modeSpecific);
+   RT_CHECK(ctx, stat, 0, "modeSpecific", -1, 0);
+   /* harq-Info */
+   if (pvalue->harq_Info > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->harq_Info);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "harq-Info", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->harq_Info, 0, 1);
+   RT_CHECK(ctx, stat, 0, "harq-Info", -1, 0);
+   /* addReconf-MAC-d-FlowList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_E_DCH_AddReconf_MAC_d_FlowList_r7(ctx, &pvalue->addReconf_MAC_d_FlowList);
+      RT_CHECK(ctx, stat, 0, "addReconf-MAC-d-FlowList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInformation_r8(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-AddReconfTransChInformation-r8");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "UL-AddReconfTransChInformation-r8");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-AddReconfTransChInformation-r8");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.dch_usch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dch-usch", -1, "UL-AddReconfTransChInformation-r8");
+         stat = asn1PE_UMTS_UL_AddReconfTransChInformation_r8_dch_usch(ctx, pvalue->u.dch_usch);
+         RT_CHECK(ctx, stat, 0, "dch-usch", -1, "UL-AddReconfTransChInformation-r8");
+         break;
+      case 2:
+         if (pvalue->u.e_dch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e-dch", -1, "UL-AddReconfTransChInformation-r8");
+         stat = asn1PE_UMTS_UL_AddReconfTransChInformation_r8_e_dch(ctx, pvalue->u.e_dch);
+         RT_CHECK(ctx, stat, 0, "e-dch", -1, "UL-AddReconfTransChInformation-r8");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInfoList_r8(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInfoList_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-AddReconfTransChInfoList-r8");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UL-AddReconfTransChInfoList-r8");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UL-AddReconfTransChInformation-r8", (int32_t)i, "UL-AddReconfTransChInfoList-r8");
+      stat = asn1PE_UMTS_UL_AddReconfTransChInformation_r8(ctx, (const UL_AddReconfTransChInformation_r8*)node->data);
+      RT_CHECK(ctx, stat, 0, "UL-AddReconfTransChInformation-r8", (int32_t)i, "UL-AddReconfTransChInfoList-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_CommonTransChInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ul-TFCS */
+   stat = asn1PE_UMTS_TFCS(ctx, &pvalue->ul_TFCS);
+   RT_CHECK(ctx, stat, 0, "ul-TFCS", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_CommonTransChInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* individualUL-CCTrCH-InfoList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IndividualUL_CCTrCH_InfoList(ctx, &pvalue->individualUL_CCTrCH_InfoList);
+      RT_CHECK(ctx, stat, 0, "individualUL-CCTrCH-InfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_CommonTransChInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_UL_CommonTransChInfo_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_UL_CommonTransChInfo_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_CommonTransChInfo_r4(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-CommonTransChInfo-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-CommonTransChInfo-r4");
+   /* tfc-Subset */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TFC_Subset(ctx, &pvalue->tfc_Subset);
+      RT_CHECK(ctx, stat, 0, "tfc-Subset", -1, "UL-CommonTransChInfo-r4");
+   }
+   /* prach-TFCS */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_TFCS(ctx, &pvalue->prach_TFCS);
+      RT_CHECK(ctx, stat, 0, "prach-TFCS", -1, "UL-CommonTransChInfo-r4");
+   }
+   /* modeSpecificInfo */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+      RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-CommonTransChInfo-r4");
+   }
+   /* tfc-SubsetList */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_TFC_SubsetList(ctx, &pvalue->tfc_SubsetList);
+      RT_CHECK(ctx, stat, 0, "tfc-SubsetList", -1, "UL-CommonTransChInfo-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DeletedTransChInfoList(rtxContext* RT_RESTRICT ctx, const UL_DeletedTransChInfoList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-DeletedTransChInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UL-DeletedTransChInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UL-TransportChannelIdentity", (int32_t)i, "UL-DeletedTransChInfoList");
+      stat = asn1PE_UMTS_UL_TransportChannelIdentity(ctx, (const UL_TransportChannelIdentity*)node->data);
+      RT_CHECK(ctx, stat, 0, "UL-TransportChannelIdentity", (int32_t)i, "UL-DeletedTransChInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_TransportChannelIdentity_r6_dch_usch(rtxContext* RT_RESTRICT ctx, const UL_TransportChannelIdentity_r6_dch_usch* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ul-TransportChannelType */
+   if (pvalue->ul_TransportChannelType > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->ul_TransportChannelType);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "UL-TrCH-Type", "ul-TransportChannelType", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ul_TransportChannelType, 0, 1);
+   RT_CHECK(ctx, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, 0);
+   /* ul-TransportChannelIdentity */
+   if ((uint64_t)(pvalue->ul_TransportChannelIdentity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->ul_TransportChannelIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "ul-TransportChannelIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ul_TransportChannelIdentity, 1, 32);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "ul-TransportChannelIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_TransportChannelIdentity_r6(rtxContext* RT_RESTRICT ctx, const UL_TransportChannelIdentity_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-TransportChannelIdentity-r6");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "UL-TransportChannelIdentity-r6");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-TransportChannelIdentity-r6");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.dch_usch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dch-usch", -1, "UL-TransportChannelIdentity-r6");
+         stat = asn1PE_UMTS_UL_TransportChannelIdentity_r6_dch_usch(ctx, pvalue->u.dch_usch);
+         RT_CHECK(ctx, stat, 0, "dch-usch", -1, "UL-TransportChannelIdentity-r6");
+         break;
+      case 2:
+         if ((uint64_t)pvalue->u.e_dch > 7u) {
+            rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.e_dch);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DCH-MAC-d-FlowIdentity", "e-dch", -1, "UL-TransportChannelIdentity-r6");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.e_dch, 0, 7);
+         RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowIdentity", "e-dch", -1, "UL-TransportChannelIdentity-r6");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DeletedTransChInfoList_r6(rtxContext* RT_RESTRICT ctx, const UL_DeletedTransChInfoList_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-DeletedTransChInfoList-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UL-DeletedTransChInfoList-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UL-TransportChannelIdentity-r6", (int32_t)i, "UL-DeletedTransChInfoList-r6");
+      stat = asn1PE_UMTS_UL_TransportChannelIdentity_r6(ctx, (const UL_TransportChannelIdentity_r6*)node->data);
+      RT_CHECK(ctx, stat, 0, "UL-TransportChannelIdentity-r6", (int32_t)i, "UL-DeletedTransChInfoList-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ActivationTimeOffset(rtxContext* RT_RESTRICT ctx, ActivationTimeOffset value)
+{
+   int stat = 0;
+   stat = pe_ConsUInt64(ctx, value, 0, 255);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ActivationTimeOffset");
+   return 0;
+}
+
+int asn1PE_UMTS_AllocationPeriodInfo(rtxContext* RT_RESTRICT ctx, const AllocationPeriodInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AllocationPeriodInfo");
+   /* allocationActivationTime */
+   stat = pe_ConsUInt64(ctx, pvalue->allocationActivationTime, 0, 255);
+   RT_CHECK(ctx, stat, 0, "allocationActivationTime", -1, "AllocationPeriodInfo");
+   /* allocationDuration */
+   if ((uint64_t)(pvalue->allocationDuration - 1) > 255u) {
+      rtxErrAddStrParm(ctx, "allocationDuration");
+      rtxErrAddUIntParm(ctx, pvalue->allocationDuration);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "allocationDuration", -1, "AllocationPeriodInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->allocationDuration, 1, 256);
+   RT_CHECK(ctx, stat, 0, "allocationDuration", -1, "AllocationPeriodInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_AP_AICH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, AP_AICH_ChannelisationCode value)
+{
+   int stat = 0;
+   stat = pe_ConsUInt64(ctx, value, 0, 255);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AP-AICH-ChannelisationCode");
+   return 0;
+}
+
+int asn1PE_UMTS_AP_PreambleScramblingCode(rtxContext* RT_RESTRICT ctx, AP_PreambleScramblingCode value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 79u) {
+      rtxErrAddStrParm(ctx, "AP-PreambleScramblingCode");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "AP-PreambleScramblingCode");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 79);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AP-PreambleScramblingCode");
+   return 0;
+}
+
+int asn1PE_UMTS_AP_Signature(rtxContext* RT_RESTRICT ctx, AP_Signature value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 15u) {
+      rtxErrAddStrParm(ctx, "AP-Signature");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "AP-Signature");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AP-Signature");
+   return 0;
+}
+
+int asn1PE_UMTS_AP_Subchannel(rtxContext* RT_RESTRICT ctx, AP_Subchannel value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 11u) {
+      rtxErrAddStrParm(ctx, "AP-Subchannel");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "AP-Subchannel");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 11);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AP-Subchannel");
+   return 0;
+}
+
+int asn1PE_UMTS_AvailableAP_SubchannelList(rtxContext* RT_RESTRICT ctx, const AvailableAP_SubchannelList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AvailableAP-SubchannelList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 12);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "AvailableAP-SubchannelList");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 11u) {
+         rtxErrAddStrParm(ctx, "AP-Subchannel");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "AP-Subchannel", "AP-Subchannel", (int32_t)i, "AvailableAP-SubchannelList");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 11);
+      RT_CHECK(ctx, stat, "AP-Subchannel", "AP-Subchannel", (int32_t)i, "AvailableAP-SubchannelList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AP_Signature_VCAM(rtxContext* RT_RESTRICT ctx, const AP_Signature_VCAM* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AP-Signature-VCAM");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AP-Signature-VCAM");
+   /* ap-Signature */
+   if ((uint64_t)pvalue->ap_Signature > 15u) {
+      rtxErrAddStrParm(ctx, "AP-Signature");
+      rtxErrAddUIntParm(ctx, pvalue->ap_Signature);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "AP-Signature", "ap-Signature", -1, "AP-Signature-VCAM");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ap_Signature, 0, 15);
+   RT_CHECK(ctx, stat, "AP-Signature", "ap-Signature", -1, "AP-Signature-VCAM");
+   /* availableAP-SubchannelList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_AvailableAP_SubchannelList(ctx, &pvalue->availableAP_SubchannelList);
+      RT_CHECK(ctx, stat, 0, "availableAP-SubchannelList", -1, "AP-Signature-VCAM");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AvailableAP_Signature_VCAMList(rtxContext* RT_RESTRICT ctx, const AvailableAP_Signature_VCAMList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AvailableAP-Signature-VCAMList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "AvailableAP-Signature-VCAMList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "AP-Signature-VCAM", (int32_t)i, "AvailableAP-Signature-VCAMList");
+      stat = asn1PE_UMTS_AP_Signature_VCAM(ctx, (const AP_Signature_VCAM*)node->data);
+      RT_CHECK(ctx, stat, 0, "AP-Signature-VCAM", (int32_t)i, "AvailableAP-Signature-VCAMList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AvailableAP_SignatureList(rtxContext* RT_RESTRICT ctx, const AvailableAP_SignatureList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AvailableAP-SignatureList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "AvailableAP-SignatureList");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 15u) {
+         rtxErrAddStrParm(ctx, "AP-Signature");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "AP-Signature", "AP-Signature", (int32_t)i, "AvailableAP-SignatureList");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 15);
+      RT_CHECK(ctx, stat, "AP-Signature", "AP-Signature", (int32_t)i, "AvailableAP-SignatureList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MinimumSpreadingFactor(rtxContext* RT_RESTRICT ctx, MinimumSpreadingFactor value)
+{
+   int stat = 0;
+   if (value > 6) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MinimumSpreadingFactor");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MinimumSpreadingFactor");
+   return 0;
+}
+
+int asn1PE_UMTS_NF_Max(rtxContext* RT_RESTRICT ctx, NF_Max value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "NF-Max");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "NF-Max");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 64);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NF-Max");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxAvailablePCPCH_Number(rtxContext* RT_RESTRICT ctx, MaxAvailablePCPCH_Number value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "MaxAvailablePCPCH-Number");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MaxAvailablePCPCH-Number");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 64);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxAvailablePCPCH-Number");
+   return 0;
+}
+
+int asn1PE_UMTS_AvailableMinimumSF_VCAM(rtxContext* RT_RESTRICT ctx, const AvailableMinimumSF_VCAM* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AvailableMinimumSF-VCAM");
+   /* minimumSpreadingFactor */
+   if (pvalue->minimumSpreadingFactor > 6) {
+      rtxErrAddUIntParm(ctx, pvalue->minimumSpreadingFactor);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MinimumSpreadingFactor", "minimumSpreadingFactor", -1, "AvailableMinimumSF-VCAM");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->minimumSpreadingFactor, 0, 6);
+   RT_CHECK(ctx, stat, "MinimumSpreadingFactor", "minimumSpreadingFactor", -1, "AvailableMinimumSF-VCAM");
+   /* nf-Max */
+   if ((uint64_t)(pvalue->nf_Max - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "NF-Max");
+      rtxErrAddUIntParm(ctx, pvalue->nf_Max);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "NF-Max", "nf-Max", -1, "AvailableMinimumSF-VCAM");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->nf_Max, 1, 64);
+   RT_CHECK(ctx, stat, "NF-Max", "nf-Max", -1, "AvailableMinimumSF-VCAM");
+   /* maxAvailablePCPCH-Number */
+   if ((uint64_t)(pvalue->maxAvailablePCPCH_Number - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "MaxAvailablePCPCH-Number");
+      rtxErrAddUIntParm(ctx, pvalue->maxAvailablePCPCH_Number);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAvailablePCPCH-Number", "maxAvailablePCPCH-Number", -1, "AvailableMinimumSF-VCAM");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxAvailablePCPCH_Number, 1, 64);
+   RT_CHECK(ctx, stat, "MaxAvailablePCPCH-Number", "maxAvailablePCPCH-Number", -1, "AvailableMinimumSF-VCAM");
+   /* availableAP-Signature-VCAMList */
+   stat = asn1PE_UMTS_AvailableAP_Signature_VCAMList(ctx, &pvalue->availableAP_Signature_VCAMList);
+   RT_CHECK(ctx, stat, 0, "availableAP-Signature-VCAMList", -1, "AvailableMinimumSF-VCAM");
+   return 0;
+}
+
+int asn1PE_UMTS_AvailableMinimumSF_ListVCAM(rtxContext* RT_RESTRICT ctx, const AvailableMinimumSF_ListVCAM* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AvailableMinimumSF-ListVCAM");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 7);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "AvailableMinimumSF-ListVCAM");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "AvailableMinimumSF-VCAM", (int32_t)i, "AvailableMinimumSF-ListVCAM");
+      stat = asn1PE_UMTS_AvailableMinimumSF_VCAM(ctx, (const AvailableMinimumSF_VCAM*)node->data);
+      RT_CHECK(ctx, stat, 0, "AvailableMinimumSF-VCAM", (int32_t)i, "AvailableMinimumSF-ListVCAM");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_BEACON_PL_Est(rtxContext* RT_RESTRICT ctx, BEACON_PL_Est value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "BEACON-PL-Est");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, "BEACON-PL-Est");
+   return 0;
+}
+
+int asn1PE_UMTS_DPCCH_PowerOffset(rtxContext* RT_RESTRICT ctx, DPCCH_PowerOffset value)
+{
+   int stat = 0;
+   if (value < -82 || value > -3) {
+      rtxErrAddStrParm(ctx, "DPCCH-PowerOffset");
+      rtxErrAddIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DPCCH-PowerOffset");
+   }
+   stat = pe_ConsInt64(ctx, value, -82, -3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DPCCH-PowerOffset");
+   return 0;
+}
+
+int asn1PE_UMTS_SRB_delay(rtxContext* RT_RESTRICT ctx, SRB_delay value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 7u) {
+      rtxErrAddStrParm(ctx, "SRB-delay");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "SRB-delay");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-delay");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* dpcch-PowerOffset */
+   if (pvalue->dpcch_PowerOffset < -82 || pvalue->dpcch_PowerOffset > -3) {
+      rtxErrAddStrParm(ctx, "DPCCH-PowerOffset");
+      rtxErrAddIntParm(ctx, pvalue->dpcch_PowerOffset);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
+   }
+   stat = pe_ConsInt64(ctx, pvalue->dpcch_PowerOffset, -82, -3);
+   RT_CHECK(ctx, stat, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
+   /* pc-Preamble */
+   if ((uint64_t)pvalue->pc_Preamble > 7u) {
+      rtxErrAddStrParm(ctx, "PC-Preamble");
+      rtxErrAddUIntParm(ctx, pvalue->pc_Preamble);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PC-Preamble", "pc-Preamble", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->pc_Preamble, 0, 7);
+   RT_CHECK(ctx, stat, "PC-Preamble", "pc-Preamble", -1, 0);
+   /* sRB-delay */
+   if ((uint64_t)pvalue->sRB_delay > 7u) {
+      rtxErrAddStrParm(ctx, "SRB-delay");
+      rtxErrAddUIntParm(ctx, pvalue->sRB_delay);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "SRB-delay", "sRB-delay", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->sRB_delay, 0, 7);
+   RT_CHECK(ctx, stat, "SRB-delay", "sRB-delay", -1, 0);
+   /* powerControlAlgorithm */
+   stat = asn1PE_UMTS_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm);
+   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_TargetSIR(rtxContext* RT_RESTRICT ctx, UL_TargetSIR value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 62u) {
+      rtxErrAddStrParm(ctx, "UL-TargetSIR");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UL-TargetSIR");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 62);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-TargetSIR");
+   return 0;
+}
+
+int asn1PE_UMTS_TDD_UL_Interference(rtxContext* RT_RESTRICT ctx, TDD_UL_Interference value)
+{
+   int stat = 0;
+   if (value < -110 || value > -52) {
+      rtxErrAddStrParm(ctx, "TDD-UL-Interference");
+      rtxErrAddIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TDD-UL-Interference");
+   }
+   stat = pe_ConsInt64(ctx, value, -110, -52);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TDD-UL-Interference");
+   return 0;
+}
+
+int asn1PE_UMTS_IndividualTS_Interference(rtxContext* RT_RESTRICT ctx, const IndividualTS_Interference* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IndividualTS-Interference");
+   /* timeslot */
+   if ((uint64_t)pvalue->timeslot > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslot);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslot", -1, "IndividualTS-Interference");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 14);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, "IndividualTS-Interference");
+   /* ul-TimeslotInterference */
+   if (pvalue->ul_TimeslotInterference < -110 || pvalue->ul_TimeslotInterference > -52) {
+      rtxErrAddStrParm(ctx, "TDD-UL-Interference");
+      rtxErrAddIntParm(ctx, pvalue->ul_TimeslotInterference);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TDD-UL-Interference", "ul-TimeslotInterference", -1, "IndividualTS-Interference");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->ul_TimeslotInterference, -110, -52);
+   RT_CHECK(ctx, stat, "TDD-UL-Interference", "ul-TimeslotInterference", -1, "IndividualTS-Interference");
+   return 0;
+}
+
+int asn1PE_UMTS_IndividualTS_InterferenceList(rtxContext* RT_RESTRICT ctx, const IndividualTS_InterferenceList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IndividualTS-InterferenceList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 14);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "IndividualTS-InterferenceList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "IndividualTS-Interference", (int32_t)i, "IndividualTS-InterferenceList");
+      stat = asn1PE_UMTS_IndividualTS_Interference(ctx, (const IndividualTS_Interference*)node->data);
+      RT_CHECK(ctx, stat, 0, "IndividualTS-Interference", (int32_t)i, "IndividualTS-InterferenceList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* individualTS-InterferenceList */
+   stat = asn1PE_UMTS_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList);
+   RT_CHECK(ctx, stat, 0, "individualTS-InterferenceList", -1, 0);
+   /* dpch-ConstantValue */
+   if (pvalue->dpch_ConstantValue < -35 || pvalue->dpch_ConstantValue > 10) {
+      rtxErrAddStrParm(ctx, "ConstantValueTdd");
+      rtxErrAddIntParm(ctx, pvalue->dpch_ConstantValue);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "ConstantValueTdd", "dpch-ConstantValue", -1, 0);
+   }
+   stat = pe_ConsInt64(ctx, pvalue->dpch_ConstantValue, -35, 10);
+   RT_CHECK(ctx, stat, "ConstantValueTdd", "dpch-ConstantValue", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+      rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.individuallySignalled == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "individuallySignalled", -1, 0);
+         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling_individuallySignalled(ctx, pvalue->u.individuallySignalled);
+         RT_CHECK(ctx, stat, 0, "individuallySignalled", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ul-TargetSIR */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->ul_TargetSIR > 62u) {
+         rtxErrAddStrParm(ctx, "UL-TargetSIR");
+         rtxErrAddUIntParm(ctx, pvalue->ul_TargetSIR);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ul_TargetSIR, 0, 62);
+      RT_CHECK(ctx, stat, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
+   }
+   /* ul-OL-PC-Signalling */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling(ctx, &pvalue->ul_OL_PC_Signalling);
+      RT_CHECK(ctx, stat, 0, "ul-OL-PC-Signalling", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-PowerControlInfo");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "UL-DPCH-PowerControlInfo");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-DPCH-PowerControlInfo");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, "UL-DPCH-PowerControlInfo");
+         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "UL-DPCH-PowerControlInfo");
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, "UL-DPCH-PowerControlInfo");
+         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "UL-DPCH-PowerControlInfo");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CCTrCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, const CCTrCH_PowerControlInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CCTrCH-PowerControlInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CCTrCH-PowerControlInfo");
+   /* tfcs-Identity */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TFCS_Identity(ctx, &pvalue->tfcs_Identity);
+      RT_CHECK(ctx, stat, 0, "tfcs-Identity", -1, "CCTrCH-PowerControlInfo");
+   }
+   /* ul-DPCH-PowerControlInfo */
+   stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo(ctx, &pvalue->ul_DPCH_PowerControlInfo);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "CCTrCH-PowerControlInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* dpcch-PowerOffset */
+   if (pvalue->dpcch_PowerOffset < -82 || pvalue->dpcch_PowerOffset > -3) {
+      rtxErrAddStrParm(ctx, "DPCCH-PowerOffset");
+      rtxErrAddIntParm(ctx, pvalue->dpcch_PowerOffset);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
+   }
+   stat = pe_ConsInt64(ctx, pvalue->dpcch_PowerOffset, -82, -3);
+   RT_CHECK(ctx, stat, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
+   /* pc-Preamble */
+   if ((uint64_t)pvalue->pc_Preamble > 7u) {
+      rtxErrAddStrParm(ctx, "PC-Preamble");
+      rtxErrAddUIntParm(ctx, pvalue->pc_Preamble);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PC-Preamble", "pc-Preamble", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->pc_Preamble, 0, 7);
+   RT_CHECK(ctx, stat, "PC-Preamble", "pc-Preamble", -1, 0);
+   /* sRB-delay */
+   if ((uint64_t)pvalue->sRB_delay > 7u) {
+      rtxErrAddStrParm(ctx, "SRB-delay");
+      rtxErrAddUIntParm(ctx, pvalue->sRB_delay);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "SRB-delay", "sRB-delay", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->sRB_delay, 0, 7);
+   RT_CHECK(ctx, stat, "SRB-delay", "sRB-delay", -1, 0);
+   /* powerControlAlgorithm */
+   stat = asn1PE_UMTS_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm);
+   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* individualTS-InterferenceList */
+   stat = asn1PE_UMTS_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList);
+   RT_CHECK(ctx, stat, 0, "individualTS-InterferenceList", -1, 0);
+   /* dpch-ConstantValue */
+   if (pvalue->dpch_ConstantValue < -35 || pvalue->dpch_ConstantValue > -10) {
+      rtxErrAddStrParm(ctx, "ConstantValue");
+      rtxErrAddIntParm(ctx, pvalue->dpch_ConstantValue);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "ConstantValue", "dpch-ConstantValue", -1, 0);
+   }
+   stat = pe_ConsInt64(ctx, pvalue->dpch_ConstantValue, -35, -10);
+   RT_CHECK(ctx, stat, "ConstantValue", "dpch-ConstantValue", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tpc-StepSize */
+   if ((uint64_t)(pvalue->tpc_StepSize - 1) > 2u) {
+      rtxErrAddStrParm(ctx, "TPC-StepSizeTDD");
+      rtxErrAddUIntParm(ctx, pvalue->tpc_StepSize);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->tpc_StepSize, 1, 3);
+   RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tddOption */
+   stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(ctx, &pvalue->tddOption);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+      rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.individuallySignalled == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "individuallySignalled", -1, 0);
+         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled(ctx, pvalue->u.individuallySignalled);
+         RT_CHECK(ctx, stat, 0, "individuallySignalled", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ul-TargetSIR */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->ul_TargetSIR > 62u) {
+         rtxErrAddStrParm(ctx, "UL-TargetSIR");
+         rtxErrAddUIntParm(ctx, pvalue->ul_TargetSIR);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ul_TargetSIR, 0, 62);
+      RT_CHECK(ctx, stat, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
+   }
+   /* ul-OL-PC-Signalling */
+   stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling(ctx, &pvalue->ul_OL_PC_Signalling);
+   RT_CHECK(ctx, stat, 0, "ul-OL-PC-Signalling", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-PowerControlInfo-r4");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "UL-DPCH-PowerControlInfo-r4");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-DPCH-PowerControlInfo-r4");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r4");
+         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r4");
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r4");
+         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r4");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CCTrCH_PowerControlInfo_r4(rtxContext* RT_RESTRICT ctx, const CCTrCH_PowerControlInfo_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CCTrCH-PowerControlInfo-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CCTrCH-PowerControlInfo-r4");
+   /* tfcs-Identity */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TFCS_Identity(ctx, &pvalue->tfcs_Identity);
+      RT_CHECK(ctx, stat, 0, "tfcs-Identity", -1, "CCTrCH-PowerControlInfo-r4");
+   }
+   /* ul-DPCH-PowerControlInfo */
+   stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4(ctx, &pvalue->ul_DPCH_PowerControlInfo);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "CCTrCH-PowerControlInfo-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* new-H-RNTI */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "new-H-RNTI");
-      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dpcch-PowerOffset */
+   if (pvalue->dpcch_PowerOffset < -82 || pvalue->dpcch_PowerOffset > -3) {
+      rtxErrAddStrParm(ctx, "DPCCH-PowerOffset");
+      rtxErrAddIntParm(ctx, pvalue->dpcch_PowerOffset);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
    }
-   /* newPrimary-E-RNTI */
+   stat = pe_ConsInt64(ctx, pvalue->dpcch_PowerOffset, -82, -3);
+   RT_CHECK(ctx, stat, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
+   /* pc-Preamble */
+   if ((uint64_t)pvalue->pc_Preamble > 7u) {
+      rtxErrAddStrParm(ctx, "PC-Preamble");
+      rtxErrAddUIntParm(ctx, pvalue->pc_Preamble);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PC-Preamble", "pc-Preamble", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->pc_Preamble, 0, 7);
+   RT_CHECK(ctx, stat, "PC-Preamble", "pc-Preamble", -1, 0);
+   /* sRB-delay */
+   if ((uint64_t)pvalue->sRB_delay > 7u) {
+      rtxErrAddStrParm(ctx, "SRB-delay");
+      rtxErrAddUIntParm(ctx, pvalue->sRB_delay);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "SRB-delay", "sRB-delay", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->sRB_delay, 0, 7);
+   RT_CHECK(ctx, stat, "SRB-delay", "sRB-delay", -1, 0);
+   /* powerControlAlgorithm */
+   stat = asn1PE_UMTS_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm);
+   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, 0);
+   /* deltaACK */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->deltaACK > 8u) {
+         rtxErrAddStrParm(ctx, "DeltaACK");
+         rtxErrAddUIntParm(ctx, pvalue->deltaACK);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaACK", "deltaACK", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->deltaACK, 0, 8);
+      RT_CHECK(ctx, stat, "DeltaACK", "deltaACK", -1, 0);
+   }
+   /* deltaNACK */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if ((uint64_t)pvalue->deltaNACK > 8u) {
+         rtxErrAddStrParm(ctx, "DeltaNACK");
+         rtxErrAddUIntParm(ctx, pvalue->deltaNACK);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaNACK", "deltaNACK", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->deltaNACK, 0, 8);
+      RT_CHECK(ctx, stat, "DeltaNACK", "deltaNACK", -1, 0);
    }
-   /* newSecondary-E-RNTI */
+   /* ack-NACK-repetition-factor */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if ((uint64_t)(pvalue->ack_NACK_repetition_factor - 1) > 3u) {
+         rtxErrAddStrParm(ctx, "ACK-NACK-repetitionFactor");
+         rtxErrAddUIntParm(ctx, pvalue->ack_NACK_repetition_factor);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "ACK-NACK-repetitionFactor", "ack-NACK-repetition-factor", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ack_NACK_repetition_factor, 1, 4);
+      RT_CHECK(ctx, stat, "ACK-NACK-repetitionFactor", "ack-NACK-repetition-factor", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_UE_MultiModeRAT_Capability(rtxContext* ctx, const UE_MultiModeRAT_Capability* pvalue)
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-MultiModeRAT-Capability");
-   /* multiRAT-CapabilityList */
-   rtxCtxtPushElemName(ctx, "multiRAT-CapabilityList");
-   stat = asn1PE_UMTS_MultiRAT_Capability(ctx, &pvalue->multiRAT_CapabilityList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* multiModeCapability */
-   rtxCtxtPushElemName(ctx, "multiModeCapability");
-   rtxCtxtPushTypeName(ctx, "MultiModeCapability");
-   if (pvalue->multiModeCapability > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->multiModeCapability);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* individualTS-InterferenceList */
+   stat = asn1PE_UMTS_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList);
+   RT_CHECK(ctx, stat, 0, "individualTS-InterferenceList", -1, 0);
+   /* dpch-ConstantValue */
+   if (pvalue->dpch_ConstantValue < -35 || pvalue->dpch_ConstantValue > -10) {
+      rtxErrAddStrParm(ctx, "ConstantValue");
+      rtxErrAddIntParm(ctx, pvalue->dpch_ConstantValue);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "ConstantValue", "dpch-ConstantValue", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->multiModeCapability, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   stat = pe_ConsInt64(ctx, pvalue->dpch_ConstantValue, -35, -10);
+   RT_CHECK(ctx, stat, "ConstantValue", "dpch-ConstantValue", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_UE_PowerClassExt(rtxContext* ctx, UE_PowerClassExt value)
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-PowerClassExt");
-   if (value > 7) {
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tpc-StepSize */
+   if ((uint64_t)(pvalue->tpc_StepSize - 1) > 2u) {
+      rtxErrAddStrParm(ctx, "TPC-StepSizeTDD");
+      rtxErrAddUIntParm(ctx, pvalue->tpc_StepSize);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->tpc_StepSize, 1, 3);
+   RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tddOption */
+   stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(ctx, &pvalue->tddOption);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+      rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.individuallySignalled == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "individuallySignalled", -1, 0);
+         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled(ctx, pvalue->u.individuallySignalled);
+         RT_CHECK(ctx, stat, 0, "individuallySignalled", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ul-TargetSIR */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->ul_TargetSIR > 62u) {
+         rtxErrAddStrParm(ctx, "UL-TargetSIR");
+         rtxErrAddUIntParm(ctx, pvalue->ul_TargetSIR);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ul_TargetSIR, 0, 62);
+      RT_CHECK(ctx, stat, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
+   }
+   /* ul-OL-PC-Signalling */
+   stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling(ctx, &pvalue->ul_OL_PC_Signalling);
+   RT_CHECK(ctx, stat, 0, "ul-OL-PC-Signalling", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-PowerControlInfo-r5");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "UL-DPCH-PowerControlInfo-r5");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-DPCH-PowerControlInfo-r5");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r5");
+         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r5");
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r5");
+         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r5");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CCTrCH_PowerControlInfo_r5(rtxContext* RT_RESTRICT ctx, const CCTrCH_PowerControlInfo_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CCTrCH-PowerControlInfo-r5");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CCTrCH-PowerControlInfo-r5");
+   /* tfcs-Identity */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TFCS_Identity(ctx, &pvalue->tfcs_Identity);
+      RT_CHECK(ctx, stat, 0, "tfcs-Identity", -1, "CCTrCH-PowerControlInfo-r5");
+   }
+   /* ul-DPCH-PowerControlInfo */
+   stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5(ctx, &pvalue->ul_DPCH_PowerControlInfo);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "CCTrCH-PowerControlInfo-r5");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dpcch-PowerOffset */
+   if (pvalue->dpcch_PowerOffset < -82 || pvalue->dpcch_PowerOffset > -3) {
+      rtxErrAddStrParm(ctx, "DPCCH-PowerOffset");
+      rtxErrAddIntParm(ctx, pvalue->dpcch_PowerOffset);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
+   }
+   stat = pe_ConsInt64(ctx, pvalue->dpcch_PowerOffset, -82, -3);
+   RT_CHECK(ctx, stat, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
+   /* pc-Preamble */
+   if ((uint64_t)pvalue->pc_Preamble > 7u) {
+      rtxErrAddStrParm(ctx, "PC-Preamble");
+      rtxErrAddUIntParm(ctx, pvalue->pc_Preamble);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PC-Preamble", "pc-Preamble", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->pc_Preamble, 0, 7);
+   RT_CHECK(ctx, stat, "PC-Preamble", "pc-Preamble", -1, 0);
+   /* sRB-delay */
+   if ((uint64_t)pvalue->sRB_delay > 7u) {
+      rtxErrAddStrParm(ctx, "SRB-delay");
+      rtxErrAddUIntParm(ctx, pvalue->sRB_delay);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "SRB-delay", "sRB-delay", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->sRB_delay, 0, 7);
+   RT_CHECK(ctx, stat, "SRB-delay", "sRB-delay", -1, 0);
+   /* powerControlAlgorithm */
+   stat = asn1PE_UMTS_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm);
+   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, 0);
+   /* deltaACK */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->deltaACK > 8u) {
+         rtxErrAddStrParm(ctx, "DeltaACK");
+         rtxErrAddUIntParm(ctx, pvalue->deltaACK);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaACK", "deltaACK", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->deltaACK, 0, 8);
+      RT_CHECK(ctx, stat, "DeltaACK", "deltaACK", -1, 0);
+   }
+   /* deltaNACK */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->deltaNACK > 8u) {
+         rtxErrAddStrParm(ctx, "DeltaNACK");
+         rtxErrAddUIntParm(ctx, pvalue->deltaNACK);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaNACK", "deltaNACK", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->deltaNACK, 0, 8);
+      RT_CHECK(ctx, stat, "DeltaNACK", "deltaNACK", -1, 0);
+   }
+   /* ack-NACK-repetition-factor */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)(pvalue->ack_NACK_repetition_factor - 1) > 3u) {
+         rtxErrAddStrParm(ctx, "ACK-NACK-repetitionFactor");
+         rtxErrAddUIntParm(ctx, pvalue->ack_NACK_repetition_factor);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "ACK-NACK-repetitionFactor", "ack-NACK-repetition-factor", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ack_NACK_repetition_factor, 1, 4);
+      RT_CHECK(ctx, stat, "ACK-NACK-repetitionFactor", "ack-NACK-repetition-factor", -1, 0);
+   }
+   /* harq-Preamble-Mode */
+   if ((uint64_t)pvalue->harq_Preamble_Mode > 1u) {
+      rtxErrAddStrParm(ctx, "HARQ-Preamble-Mode");
+      rtxErrAddUIntParm(ctx, pvalue->harq_Preamble_Mode);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->harq_Preamble_Mode, 0, 1);
+   RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* individualTS-InterferenceList */
+   stat = asn1PE_UMTS_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList);
+   RT_CHECK(ctx, stat, 0, "individualTS-InterferenceList", -1, 0);
+   /* dpch-ConstantValue */
+   if (pvalue->dpch_ConstantValue < -35 || pvalue->dpch_ConstantValue > -10) {
+      rtxErrAddStrParm(ctx, "ConstantValue");
+      rtxErrAddIntParm(ctx, pvalue->dpch_ConstantValue);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "ConstantValue", "dpch-ConstantValue", -1, 0);
+   }
+   stat = pe_ConsInt64(ctx, pvalue->dpch_ConstantValue, -35, -10);
+   RT_CHECK(ctx, stat, "ConstantValue", "dpch-ConstantValue", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* individualTS-InterferenceList */
+   stat = asn1PE_UMTS_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList);
+   RT_CHECK(ctx, stat, 0, "individualTS-InterferenceList", -1, 0);
+   /* dpch-ConstantValue */
+   if (pvalue->dpch_ConstantValue < -35 || pvalue->dpch_ConstantValue > -10) {
+      rtxErrAddStrParm(ctx, "ConstantValue");
+      rtxErrAddIntParm(ctx, pvalue->dpch_ConstantValue);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "ConstantValue", "dpch-ConstantValue", -1, 0);
+   }
+   stat = pe_ConsInt64(ctx, pvalue->dpch_ConstantValue, -35, -10);
+   RT_CHECK(ctx, stat, "ConstantValue", "dpch-ConstantValue", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* beaconPLEst */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->beaconPLEst > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->beaconPLEst);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "BEACON-PL-Est", "beaconPLEst", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->beaconPLEst, 0, 0);
+      RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, 0);
+   }
+   /* tpc-StepSize */
+   if ((uint64_t)(pvalue->tpc_StepSize - 1) > 2u) {
+      rtxErrAddStrParm(ctx, "TPC-StepSizeTDD");
+      rtxErrAddUIntParm(ctx, pvalue->tpc_StepSize);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->tpc_StepSize, 1, 3);
+   RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
+         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd768(ctx, pvalue->u.tdd768);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tddOption */
+   stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(ctx, &pvalue->tddOption);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+      rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.individuallySignalled == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "individuallySignalled", -1, 0);
+         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled(ctx, pvalue->u.individuallySignalled);
+         RT_CHECK(ctx, stat, 0, "individuallySignalled", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ul-TargetSIR */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->ul_TargetSIR > 62u) {
+         rtxErrAddStrParm(ctx, "UL-TargetSIR");
+         rtxErrAddUIntParm(ctx, pvalue->ul_TargetSIR);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ul_TargetSIR, 0, 62);
+      RT_CHECK(ctx, stat, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
+   }
+   /* ul-OL-PC-Signalling */
+   stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling(ctx, &pvalue->ul_OL_PC_Signalling);
+   RT_CHECK(ctx, stat, 0, "ul-OL-PC-Signalling", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-PowerControlInfo-r7");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "UL-DPCH-PowerControlInfo-r7");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-DPCH-PowerControlInfo-r7");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r7");
+         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r7");
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r7");
+         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r7");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CCTrCH_PowerControlInfo_r7(rtxContext* RT_RESTRICT ctx, const CCTrCH_PowerControlInfo_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CCTrCH-PowerControlInfo-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CCTrCH-PowerControlInfo-r7");
+   /* tfcs-Identity */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TFCS_Identity(ctx, &pvalue->tfcs_Identity);
+      RT_CHECK(ctx, stat, 0, "tfcs-Identity", -1, "CCTrCH-PowerControlInfo-r7");
+   }
+   /* ul-DPCH-PowerControlInfo */
+   stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7(ctx, &pvalue->ul_DPCH_PowerControlInfo);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "CCTrCH-PowerControlInfo-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_CD_AccessSlotSubchannel(rtxContext* RT_RESTRICT ctx, CD_AccessSlotSubchannel value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 11u) {
+      rtxErrAddStrParm(ctx, "CD-AccessSlotSubchannel");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "CD-AccessSlotSubchannel");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   stat = pe_ConsUInt64(ctx, value, 0, 11);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CD-AccessSlotSubchannel");
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_Capability(rtxContext* ctx, const UE_Positioning_Capability* pvalue)
+int asn1PE_UMTS_CD_AccessSlotSubchannelList(rtxContext* RT_RESTRICT ctx, const CD_AccessSlotSubchannelList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-Capability");
-   /* standaloneLocMethodsSupported */
-   rtxCtxtPushElemName(ctx, "standaloneLocMethodsSupported");
-   stat = rtxEncBit(ctx, pvalue->standaloneLocMethodsSupported);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-BasedOTDOA-Supported */
-   rtxCtxtPushElemName(ctx, "ue-BasedOTDOA-Supported");
-   stat = rtxEncBit(ctx, pvalue->ue_BasedOTDOA_Supported);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* networkAssistedGPS-Supported */
-   rtxCtxtPushElemName(ctx, "networkAssistedGPS-Supported");
-   rtxCtxtPushTypeName(ctx, "NetworkAssistedGPS-Supported");
-   if (pvalue->networkAssistedGPS_Supported > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->networkAssistedGPS_Supported);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CD-AccessSlotSubchannelList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 12);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CD-AccessSlotSubchannelList");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 11u) {
+         rtxErrAddStrParm(ctx, "CD-AccessSlotSubchannel");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "CD-AccessSlotSubchannel", "CD-AccessSlotSubchannel", (int32_t)i, "CD-AccessSlotSubchannelList");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 11);
+      RT_CHECK(ctx, stat, "CD-AccessSlotSubchannel", "CD-AccessSlotSubchannel", (int32_t)i, "CD-AccessSlotSubchannelList");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->networkAssistedGPS_Supported, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* supportForUE-GPS-TimingOfCellFrames */
-   rtxCtxtPushElemName(ctx, "supportForUE-GPS-TimingOfCellFrames");
-   stat = rtxEncBit(ctx, pvalue->supportForUE_GPS_TimingOfCellFrames);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* supportForIPDL */
-   rtxCtxtPushElemName(ctx, "supportForIPDL");
-   stat = rtxEncBit(ctx, pvalue->supportForIPDL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_UE_RadioAccessCapability(rtxContext* ctx, const UE_RadioAccessCapability* pvalue)
+int asn1PE_UMTS_CD_CA_ICH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, CD_CA_ICH_ChannelisationCode value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability");
+   stat = pe_ConsUInt64(ctx, value, 0, 255);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CD-CA-ICH-ChannelisationCode");
+   return 0;
+}
+
+int asn1PE_UMTS_CD_PreambleScramblingCode(rtxContext* RT_RESTRICT ctx, CD_PreambleScramblingCode value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 79u) {
+      rtxErrAddStrParm(ctx, "CD-PreambleScramblingCode");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "CD-PreambleScramblingCode");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 79);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CD-PreambleScramblingCode");
+   return 0;
+}
+
+int asn1PE_UMTS_CD_SignatureCode(rtxContext* RT_RESTRICT ctx, CD_SignatureCode value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 15u) {
+      rtxErrAddStrParm(ctx, "CD-SignatureCode");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "CD-SignatureCode");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CD-SignatureCode");
+   return 0;
+}
+
+int asn1PE_UMTS_CD_SignatureCodeList(rtxContext* RT_RESTRICT ctx, const CD_SignatureCodeList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CD-SignatureCodeList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CD-SignatureCodeList");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 15u) {
+         rtxErrAddStrParm(ctx, "CD-SignatureCode");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "CD-SignatureCode", "CD-SignatureCode", (int32_t)i, "CD-SignatureCodeList");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 15);
+      RT_CHECK(ctx, stat, "CD-SignatureCode", "CD-SignatureCode", (int32_t)i, "CD-SignatureCodeList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellAndChannelIdentity(rtxContext* RT_RESTRICT ctx, const CellAndChannelIdentity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellAndChannelIdentity");
+   /* burstType */
+   if (pvalue->burstType > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->burstType);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "BurstType", "burstType", -1, "CellAndChannelIdentity");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->burstType, 0, 1);
+   RT_CHECK(ctx, stat, "BurstType", "burstType", -1, "CellAndChannelIdentity");
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 15u) {
+      rtxErrAddStrParm(ctx, "MidambleShiftLong");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, "CellAndChannelIdentity");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
+   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, "CellAndChannelIdentity");
+   /* timeslot */
+   if ((uint64_t)pvalue->timeslot > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslot);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslot", -1, "CellAndChannelIdentity");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 14);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, "CellAndChannelIdentity");
+   /* cellParametersID */
+   if ((uint64_t)pvalue->cellParametersID > 127u) {
+      rtxErrAddStrParm(ctx, "CellParametersID");
+      rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "CellParametersID", "cellParametersID", -1, "CellAndChannelIdentity");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cellParametersID, 0, 127);
+   RT_CHECK(ctx, stat, "CellParametersID", "cellParametersID", -1, "CellAndChannelIdentity");
+   return 0;
+}
+
+int asn1PE_UMTS_Cfntargetsfnframeoffset(rtxContext* RT_RESTRICT ctx, Cfntargetsfnframeoffset value)
+{
+   int stat = 0;
+   stat = pe_ConsUInt64(ctx, value, 0, 255);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Cfntargetsfnframeoffset");
+   return 0;
+}
+
+int asn1PE_UMTS_ChannelAssignmentActive(rtxContext* RT_RESTRICT ctx, const ChannelAssignmentActive* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ChannelAssignmentActive");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "ChannelAssignmentActive");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ChannelAssignmentActive");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.isActive == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "isActive", -1, "ChannelAssignmentActive");
+         stat = asn1PE_UMTS_AvailableMinimumSF_ListVCAM(ctx, pvalue->u.isActive);
+         RT_CHECK(ctx, stat, 0, "isActive", -1, "ChannelAssignmentActive");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ChannelReqParamsForUCSM(rtxContext* RT_RESTRICT ctx, const ChannelReqParamsForUCSM* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ChannelReqParamsForUCSM");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* pdcp-Capability */
-   rtxCtxtPushElemName(ctx, "pdcp-Capability");
-   stat = asn1PE_UMTS_PDCP_Capability(ctx, &pvalue->pdcp_Capability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rlc-Capability */
-   rtxCtxtPushElemName(ctx, "rlc-Capability");
-   stat = asn1PE_UMTS_RLC_Capability(ctx, &pvalue->rlc_Capability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* transportChannelCapability */
-   rtxCtxtPushElemName(ctx, "transportChannelCapability");
-   stat = asn1PE_UMTS_TransportChannelCapability(ctx, &pvalue->transportChannelCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rf-Capability */
-   rtxCtxtPushElemName(ctx, "rf-Capability");
-   stat = asn1PE_UMTS_RF_Capability(ctx, &pvalue->rf_Capability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* physicalChannelCapability */
-   rtxCtxtPushElemName(ctx, "physicalChannelCapability");
-   stat = asn1PE_UMTS_PhysicalChannelCapability(ctx, &pvalue->physicalChannelCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-MultiModeRAT-Capability */
-   rtxCtxtPushElemName(ctx, "ue-MultiModeRAT-Capability");
-   stat = asn1PE_UMTS_UE_MultiModeRAT_Capability(ctx, &pvalue->ue_MultiModeRAT_Capability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* securityCapability */
-   rtxCtxtPushElemName(ctx, "securityCapability");
-   stat = asn1PE_UMTS_SecurityCapability(ctx, &pvalue->securityCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-positioning-Capability */
-   rtxCtxtPushElemName(ctx, "ue-positioning-Capability");
-   stat = asn1PE_UMTS_UE_Positioning_Capability(ctx, &pvalue->ue_positioning_Capability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementCapability */
+   RT_CHECK(ctx, stat, 0, 0, -1, "ChannelReqParamsForUCSM");
+   /* availableAP-SignatureList */
+   stat = asn1PE_UMTS_AvailableAP_SignatureList(ctx, &pvalue->availableAP_SignatureList);
+   RT_CHECK(ctx, stat, 0, "availableAP-SignatureList", -1, "ChannelReqParamsForUCSM");
+   /* availableAP-SubchannelList */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measurementCapability");
-      stat = asn1PE_UMTS_MeasurementCapability(ctx, &pvalue->measurementCapability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_AvailableAP_SubchannelList(ctx, &pvalue->availableAP_SubchannelList);
+      RT_CHECK(ctx, stat, 0, "availableAP-SubchannelList", -1, "ChannelReqParamsForUCSM");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_UE_RadioAccessCapabBandFDD_fddRF_Capability(rtxContext* ctx, const UE_RadioAccessCapabBandFDD_fddRF_Capability* pvalue)
+int asn1PE_UMTS_ClosedLoopTimingAdjMode(rtxContext* RT_RESTRICT ctx, ClosedLoopTimingAdjMode value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* ue-PowerClass */
-   rtxCtxtPushElemName(ctx, "ue-PowerClass");
-   rtxCtxtPushTypeName(ctx, "UE-PowerClassExt");
-   if (pvalue->ue_PowerClass > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->ue_PowerClass);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ClosedLoopTimingAdjMode");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_PowerClass, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* txRxFrequencySeparation */
-   rtxCtxtPushElemName(ctx, "txRxFrequencySeparation");
-   rtxCtxtPushTypeName(ctx, "TxRxFrequencySeparation");
-   if (pvalue->txRxFrequencySeparation > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->txRxFrequencySeparation);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->txRxFrequencySeparation, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ClosedLoopTimingAdjMode");
    return 0;
 }
 
-int asn1PE_UMTS_UE_RadioAccessCapabBandFDD(rtxContext* ctx, const UE_RadioAccessCapabBandFDD* pvalue)
+int asn1PE_UMTS_CodeNumberDSCH(rtxContext* RT_RESTRICT ctx, CodeNumberDSCH value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapabBandFDD");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* radioFrequencyBandFDD */
-   rtxCtxtPushElemName(ctx, "radioFrequencyBandFDD");
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandFDD");
-   if (pvalue->radioFrequencyBandFDD > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandFDD);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandFDD, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* fddRF-Capability */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "fddRF-Capability");
-      stat = asn1PE_UMTS_UE_RadioAccessCapabBandFDD_fddRF_Capability(ctx, &pvalue->fddRF_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementCapability */
-   rtxCtxtPushElemName(ctx, "measurementCapability");
-   stat = asn1PE_UMTS_MeasurementCapabilityExt(ctx, &pvalue->measurementCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   stat = pe_ConsUInt64(ctx, value, 0, 255);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CodeNumberDSCH");
    return 0;
 }
 
-int asn1PE_UMTS_UE_RadioAccessCapabBandFDDList(rtxContext* ctx, const UE_RadioAccessCapabBandFDDList* pvalue)
+int asn1PE_UMTS_SF_PDSCH(rtxContext* RT_RESTRICT ctx, SF_PDSCH value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (value > 6) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SF-PDSCH");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SF-PDSCH");
+   return 0;
+}
+
+int asn1PE_UMTS_MultiCodeInfo(rtxContext* RT_RESTRICT ctx, MultiCodeInfo value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "MultiCodeInfo");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MultiCodeInfo");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 16);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MultiCodeInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_CodeMap(rtxContext* RT_RESTRICT ctx, const PDSCH_CodeMap* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-CodeMap");
+   /* spreadingFactor */
+   if (pvalue->spreadingFactor > 6) {
+      rtxErrAddUIntParm(ctx, pvalue->spreadingFactor);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "SF-PDSCH", "spreadingFactor", -1, "PDSCH-CodeMap");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->spreadingFactor, 0, 6);
+   RT_CHECK(ctx, stat, "SF-PDSCH", "spreadingFactor", -1, "PDSCH-CodeMap");
+   /* multiCodeInfo */
+   if ((uint64_t)(pvalue->multiCodeInfo - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "MultiCodeInfo");
+      rtxErrAddUIntParm(ctx, pvalue->multiCodeInfo);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MultiCodeInfo", "multiCodeInfo", -1, "PDSCH-CodeMap");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->multiCodeInfo, 1, 16);
+   RT_CHECK(ctx, stat, "MultiCodeInfo", "multiCodeInfo", -1, "PDSCH-CodeMap");
+   /* codeNumberStart */
+   stat = pe_ConsUInt64(ctx, pvalue->codeNumberStart, 0, 255);
+   RT_CHECK(ctx, stat, "CodeNumberDSCH", "codeNumberStart", -1, "PDSCH-CodeMap");
+   /* codeNumberStop */
+   stat = pe_ConsUInt64(ctx, pvalue->codeNumberStop, 0, 255);
+   RT_CHECK(ctx, stat, "CodeNumberDSCH", "codeNumberStop", -1, "PDSCH-CodeMap");
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_CodeMapList(rtxContext* RT_RESTRICT ctx, const PDSCH_CodeMapList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-CodeMapList");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapabBandFDDList");
+   RT_SET_SIZE(ctx, 1, 256);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PDSCH-CodeMapList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PDSCH-CodeMap", (int32_t)i, "PDSCH-CodeMapList");
+      stat = asn1PE_UMTS_PDSCH_CodeMap(ctx, (const PDSCH_CodeMap*)node->data);
+      RT_CHECK(ctx, stat, 0, "PDSCH-CodeMap", (int32_t)i, "PDSCH-CodeMapList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CodeRange(rtxContext* RT_RESTRICT ctx, const CodeRange* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CodeRange");
+   /* pdsch-CodeMapList */
+   stat = asn1PE_UMTS_PDSCH_CodeMapList(ctx, &pvalue->pdsch_CodeMapList);
+   RT_CHECK(ctx, stat, 0, "pdsch-CodeMapList", -1, "CodeRange");
+   return 0;
+}
+
+int asn1PE_UMTS_CodeWordSet(rtxContext* RT_RESTRICT ctx, CodeWordSet value)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "CodeWordSet");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CodeWordSet");
+   return 0;
+}
+
+int asn1PE_UMTS_ControlChannelDRXCycle_TDD128(rtxContext* RT_RESTRICT ctx, ControlChannelDRXCycle_TDD128 value)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ControlChannelDRXCycle-TDD128");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ControlChannelDRXCycle-TDD128");
+   return 0;
+}
+
+int asn1PE_UMTS_EnablingDelay_TDD128(rtxContext* RT_RESTRICT ctx, EnablingDelay_TDD128 value)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "EnablingDelay-TDD128");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "EnablingDelay-TDD128");
+   return 0;
+}
+
+int asn1PE_UMTS_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_continue_(rtxContext* RT_RESTRICT ctx, const ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_continue_* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* enablingDelay */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->enablingDelay > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->enablingDelay);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "EnablingDelay-TDD128", "enablingDelay", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->enablingDelay, 0, 15);
+      RT_CHECK(ctx, stat, "EnablingDelay-TDD128", "enablingDelay", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_DRX_InactivityThreshold_TDD128(rtxContext* RT_RESTRICT ctx, HS_SCCH_DRX_InactivityThreshold_TDD128 value)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "HS-SCCH-DRX-InactivityThreshold-TDD128");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HS-SCCH-DRX-InactivityThreshold-TDD128");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_DRX_Info_TDD128(rtxContext* RT_RESTRICT ctx, const HS_SCCH_DRX_Info_TDD128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-DRX-Info-TDD128");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HS-SCCH-DRX-Info-TDD128");
+   /* hS-SCCH-DRX-Cycle */
+   if (pvalue->hS_SCCH_DRX_Cycle > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->hS_SCCH_DRX_Cycle);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ControlChannelDRXCycle-TDD128", "hS-SCCH-DRX-Cycle", -1, "HS-SCCH-DRX-Info-TDD128");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->hS_SCCH_DRX_Cycle, 0, 7);
+   RT_CHECK(ctx, stat, "ControlChannelDRXCycle-TDD128", "hS-SCCH-DRX-Cycle", -1, "HS-SCCH-DRX-Info-TDD128");
+   /* hS-SCCH-DRX-InactivityThreshold */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->hS_SCCH_DRX_InactivityThreshold > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->hS_SCCH_DRX_InactivityThreshold);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "HS-SCCH-DRX-InactivityThreshold-TDD128", "hS-SCCH-DRX-InactivityThreshold", -1, "HS-SCCH-DRX-Info-TDD128");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->hS_SCCH_DRX_InactivityThreshold, 0, 15);
+      RT_CHECK(ctx, stat, "HS-SCCH-DRX-InactivityThreshold-TDD128", "hS-SCCH-DRX-InactivityThreshold", -1, "HS-SCCH-DRX-Info-TDD128");
+   }
+   /* hS-SCCH-DRX-Offset */
+   if ((uint64_t)pvalue->hS_SCCH_DRX_Offset > 63u) {
+      rtxErrAddStrParm(ctx, "hS-SCCH-DRX-Offset");
+      rtxErrAddUIntParm(ctx, pvalue->hS_SCCH_DRX_Offset);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "hS-SCCH-DRX-Offset", -1, "HS-SCCH-DRX-Info-TDD128");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->hS_SCCH_DRX_Offset, 0, 63);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-DRX-Offset", -1, "HS-SCCH-DRX-Info-TDD128");
+   return 0;
+}
+
+int asn1PE_UMTS_E_AGCH_InactivityMonitorThreshold_TDD128(rtxContext* RT_RESTRICT ctx, E_AGCH_InactivityMonitorThreshold_TDD128 value)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "E-AGCH-InactivityMonitorThreshold-TDD128");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-AGCH-InactivityMonitorThreshold-TDD128");
+   return 0;
+}
+
+int asn1PE_UMTS_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType_e_AGCH_DRX_Parameters(rtxContext* RT_RESTRICT ctx, const E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType_e_AGCH_DRX_Parameters* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* e-AGCH-DRX-Cycle */
+   if (pvalue->e_AGCH_DRX_Cycle > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->e_AGCH_DRX_Cycle);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ControlChannelDRXCycle-TDD128", "e-AGCH-DRX-Cycle", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->e_AGCH_DRX_Cycle, 0, 7);
+   RT_CHECK(ctx, stat, "ControlChannelDRXCycle-TDD128", "e-AGCH-DRX-Cycle", -1, 0);
+   /* e-AGCH-InactivityMonitorThreshold */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->e_AGCH_InactivityMonitorThreshold > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->e_AGCH_InactivityMonitorThreshold);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "E-AGCH-InactivityMonitorThreshold-TDD128", "e-AGCH-InactivityMonitorThreshold", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->e_AGCH_InactivityMonitorThreshold, 0, 15);
+      RT_CHECK(ctx, stat, "E-AGCH-InactivityMonitorThreshold-TDD128", "e-AGCH-InactivityMonitorThreshold", -1, 0);
+   }
+   /* e-AGCH-DRX-Offset */
+   if ((uint64_t)pvalue->e_AGCH_DRX_Offset > 63u) {
+      rtxErrAddStrParm(ctx, "e-AGCH-DRX-Offset");
+      rtxErrAddUIntParm(ctx, pvalue->e_AGCH_DRX_Offset);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "e-AGCH-DRX-Offset", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->e_AGCH_DRX_Offset, 0, 63);
+   RT_CHECK(ctx, stat, 0, "e-AGCH-DRX-Offset", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType(rtxContext* RT_RESTRICT ctx, const E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.e_AGCH_DRX_Parameters == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e-AGCH-DRX-Parameters", -1, 0);
+         stat = asn1PE_UMTS_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType_e_AGCH_DRX_Parameters(ctx, pvalue->u.e_AGCH_DRX_Parameters);
+         RT_CHECK(ctx, stat, 0, "e-AGCH-DRX-Parameters", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_AGCH_DRX_Info_TDD128(rtxContext* RT_RESTRICT ctx, const E_AGCH_DRX_Info_TDD128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-AGCH-DRX-Info-TDD128");
+   /* e-AGCH-DRX-InfoType */
+   stat = asn1PE_UMTS_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType(ctx, &pvalue->e_AGCH_DRX_InfoType);
+   RT_CHECK(ctx, stat, 0, "e-AGCH-DRX-InfoType", -1, "E-AGCH-DRX-Info-TDD128");
+   return 0;
+}
+
+int asn1PE_UMTS_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_newOperation(rtxContext* RT_RESTRICT ctx, const ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_newOperation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* hS-SCCH-Drx-Info */
+   stat = asn1PE_UMTS_HS_SCCH_DRX_Info_TDD128(ctx, &pvalue->hS_SCCH_Drx_Info);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-Drx-Info", -1, 0);
+   /* e-AGCH-Drx-Info */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_E_AGCH_DRX_Info_TDD128(ctx, &pvalue->e_AGCH_Drx_Info);
+      RT_CHECK(ctx, stat, 0, "e-AGCH-Drx-Info", -1, 0);
+   }
+   /* enablingDelay */
+   if (pvalue->enablingDelay > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->enablingDelay);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "EnablingDelay-TDD128", "enablingDelay", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->enablingDelay, 0, 15);
+   RT_CHECK(ctx, stat, "EnablingDelay-TDD128", "enablingDelay", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation(rtxContext* RT_RESTRICT ctx, const ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.continue_ == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "continue", -1, 0);
+         stat = asn1PE_UMTS_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_continue_(ctx, pvalue->u.continue_);
+         RT_CHECK(ctx, stat, 0, "continue", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.newOperation == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "newOperation", -1, 0);
+         stat = asn1PE_UMTS_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_newOperation(ctx, pvalue->u.newOperation);
+         RT_CHECK(ctx, stat, 0, "newOperation", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ControlChannelDRXInfo_TDD128_r8(rtxContext* RT_RESTRICT ctx, const ControlChannelDRXInfo_TDD128_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ControlChannelDRXInfo-TDD128-r8");
+   /* controlChannelDrxOperation */
+   stat = asn1PE_UMTS_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation(ctx, &pvalue->controlChannelDrxOperation);
+   RT_CHECK(ctx, stat, 0, "controlChannelDrxOperation", -1, "ControlChannelDRXInfo-TDD128-r8");
+   return 0;
+}
+
+int asn1PE_UMTS_DynamicPersistenceLevelTF_List(rtxContext* RT_RESTRICT ctx, const DynamicPersistenceLevelTF_List* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DynamicPersistenceLevelTF-List");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DynamicPersistenceLevelTF-List");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)(pvalue->elem[i] - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "DynamicPersistenceLevel");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DynamicPersistenceLevel", "DynamicPersistenceLevel", (int32_t)i, "DynamicPersistenceLevelTF-List");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 1, 8);
+      RT_CHECK(ctx, stat, "DynamicPersistenceLevel", "DynamicPersistenceLevel", (int32_t)i, "DynamicPersistenceLevelTF-List");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CPCH_PersistenceLevels(rtxContext* RT_RESTRICT ctx, const CPCH_PersistenceLevels* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CPCH-PersistenceLevels");
+   /* cpch-SetID */
+   if ((uint64_t)(pvalue->cpch_SetID - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "CPCH-SetID");
+      rtxErrAddUIntParm(ctx, pvalue->cpch_SetID);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "CPCH-SetID", "cpch-SetID", -1, "CPCH-PersistenceLevels");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cpch_SetID, 1, 16);
+   RT_CHECK(ctx, stat, "CPCH-SetID", "cpch-SetID", -1, "CPCH-PersistenceLevels");
+   /* dynamicPersistenceLevelTF-List */
+   stat = asn1PE_UMTS_DynamicPersistenceLevelTF_List(ctx, &pvalue->dynamicPersistenceLevelTF_List);
+   RT_CHECK(ctx, stat, 0, "dynamicPersistenceLevelTF-List", -1, "CPCH-PersistenceLevels");
+   return 0;
+}
+
+int asn1PE_UMTS_CPCH_PersistenceLevelsList(rtxContext* RT_RESTRICT ctx, const CPCH_PersistenceLevelsList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CPCH-PersistenceLevelsList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CPCH-PersistenceLevelsList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CPCH-PersistenceLevels", (int32_t)i, "CPCH-PersistenceLevelsList");
+      stat = asn1PE_UMTS_CPCH_PersistenceLevels(ctx, (const CPCH_PersistenceLevels*)node->data);
+      RT_CHECK(ctx, stat, 0, "CPCH-PersistenceLevels", (int32_t)i, "CPCH-PersistenceLevelsList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DeltaPp_m(rtxContext* RT_RESTRICT ctx, DeltaPp_m value)
+{
+   int stat = 0;
+   if (value < -10 || value > 10) {
+      rtxErrAddStrParm(ctx, "DeltaPp-m");
+      rtxErrAddIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DeltaPp-m");
+   }
+   stat = pe_ConsInt64(ctx, value, -10, 10);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DeltaPp-m");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCCH_SlotFormat(rtxContext* RT_RESTRICT ctx, UL_DPCCH_SlotFormat value)
+{
+   int stat = 0;
+   if (value > 2) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UL-DPCCH-SlotFormat");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DPCCH-SlotFormat");
+   return 0;
+}
+
+int asn1PE_UMTS_N_StartMessage(rtxContext* RT_RESTRICT ctx, N_StartMessage value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "N-StartMessage");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "N-StartMessage");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "N-StartMessage");
+   return 0;
+}
+
+int asn1PE_UMTS_N_EOT(rtxContext* RT_RESTRICT ctx, N_EOT value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 7u) {
+      rtxErrAddStrParm(ctx, "N-EOT");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "N-EOT");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "N-EOT");
+   return 0;
+}
+
+int asn1PE_UMTS_CPCH_StatusIndicationMode(rtxContext* RT_RESTRICT ctx, CPCH_StatusIndicationMode value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "CPCH-StatusIndicationMode");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CPCH-StatusIndicationMode");
+   return 0;
+}
+
+int asn1PE_UMTS_PCP_Length(rtxContext* RT_RESTRICT ctx, PCP_Length value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "PCP-Length");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PCP-Length");
+   return 0;
+}
+
+int asn1PE_UMTS_UCSM_Info(rtxContext* RT_RESTRICT ctx, const UCSM_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UCSM-Info");
+   /* minimumSpreadingFactor */
+   if (pvalue->minimumSpreadingFactor > 6) {
+      rtxErrAddUIntParm(ctx, pvalue->minimumSpreadingFactor);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MinimumSpreadingFactor", "minimumSpreadingFactor", -1, "UCSM-Info");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->minimumSpreadingFactor, 0, 6);
+   RT_CHECK(ctx, stat, "MinimumSpreadingFactor", "minimumSpreadingFactor", -1, "UCSM-Info");
+   /* nf-Max */
+   if ((uint64_t)(pvalue->nf_Max - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "NF-Max");
+      rtxErrAddUIntParm(ctx, pvalue->nf_Max);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "NF-Max", "nf-Max", -1, "UCSM-Info");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->nf_Max, 1, 64);
+   RT_CHECK(ctx, stat, "NF-Max", "nf-Max", -1, "UCSM-Info");
+   /* channelReqParamsForUCSM */
+   stat = asn1PE_UMTS_ChannelReqParamsForUCSM(ctx, &pvalue->channelReqParamsForUCSM);
+   RT_CHECK(ctx, stat, 0, "channelReqParamsForUCSM", -1, "UCSM-Info");
+   return 0;
+}
+
+int asn1PE_UMTS_PCPCH_ChannelInfo(rtxContext* RT_RESTRICT ctx, const PCPCH_ChannelInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PCPCH-ChannelInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PCPCH-ChannelInfo");
+   /* pcpch-UL-ScramblingCode */
+   if ((uint64_t)pvalue->pcpch_UL_ScramblingCode > 79u) {
+      rtxErrAddStrParm(ctx, "pcpch-UL-ScramblingCode");
+      rtxErrAddUIntParm(ctx, pvalue->pcpch_UL_ScramblingCode);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "pcpch-UL-ScramblingCode", -1, "PCPCH-ChannelInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->pcpch_UL_ScramblingCode, 0, 79);
+   RT_CHECK(ctx, stat, 0, "pcpch-UL-ScramblingCode", -1, "PCPCH-ChannelInfo");
+   /* pcpch-DL-ChannelisationCode */
+   if ((uint64_t)pvalue->pcpch_DL_ChannelisationCode > 511u) {
+      rtxErrAddStrParm(ctx, "pcpch-DL-ChannelisationCode");
+      rtxErrAddUIntParm(ctx, pvalue->pcpch_DL_ChannelisationCode);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "pcpch-DL-ChannelisationCode", -1, "PCPCH-ChannelInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->pcpch_DL_ChannelisationCode, 0, 511);
+   RT_CHECK(ctx, stat, 0, "pcpch-DL-ChannelisationCode", -1, "PCPCH-ChannelInfo");
+   /* pcpch-DL-ScramblingCode */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->pcpch_DL_ScramblingCode - 1) > 14u) {
+         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
+         rtxErrAddUIntParm(ctx, pvalue->pcpch_DL_ScramblingCode);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "SecondaryScramblingCode", "pcpch-DL-ScramblingCode", -1, "PCPCH-ChannelInfo");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->pcpch_DL_ScramblingCode, 1, 15);
+      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "pcpch-DL-ScramblingCode", -1, "PCPCH-ChannelInfo");
+   }
+   /* pcp-Length */
+   if (pvalue->pcp_Length > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->pcp_Length);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "PCP-Length", "pcp-Length", -1, "PCPCH-ChannelInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->pcp_Length, 0, 1);
+   RT_CHECK(ctx, stat, "PCP-Length", "pcp-Length", -1, "PCPCH-ChannelInfo");
+   /* ucsm-Info */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UCSM_Info(ctx, &pvalue->ucsm_Info);
+      RT_CHECK(ctx, stat, 0, "ucsm-Info", -1, "PCPCH-ChannelInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PCPCH_ChannelInfoList(rtxContext* RT_RESTRICT ctx, const PCPCH_ChannelInfoList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PCPCH-ChannelInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PCPCH-ChannelInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PCPCH-ChannelInfo", (int32_t)i, "PCPCH-ChannelInfoList");
+      stat = asn1PE_UMTS_PCPCH_ChannelInfo(ctx, (const PCPCH_ChannelInfo*)node->data);
+      RT_CHECK(ctx, stat, 0, "PCPCH-ChannelInfo", (int32_t)i, "PCPCH-ChannelInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CPCH_SetInfo(rtxContext* RT_RESTRICT ctx, const CPCH_SetInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CPCH-SetInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CPCH-SetInfo");
+   /* cpch-SetID */
+   if ((uint64_t)(pvalue->cpch_SetID - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "CPCH-SetID");
+      rtxErrAddUIntParm(ctx, pvalue->cpch_SetID);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "CPCH-SetID", "cpch-SetID", -1, "CPCH-SetInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cpch_SetID, 1, 16);
+   RT_CHECK(ctx, stat, "CPCH-SetID", "cpch-SetID", -1, "CPCH-SetInfo");
+   /* transportFormatSet */
+   stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->transportFormatSet);
+   RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, "CPCH-SetInfo");
+   /* tfcs */
+   stat = asn1PE_UMTS_TFCS(ctx, &pvalue->tfcs);
+   RT_CHECK(ctx, stat, 0, "tfcs", -1, "CPCH-SetInfo");
+   /* ap-PreambleScramblingCode */
+   if ((uint64_t)pvalue->ap_PreambleScramblingCode > 79u) {
+      rtxErrAddStrParm(ctx, "AP-PreambleScramblingCode");
+      rtxErrAddUIntParm(ctx, pvalue->ap_PreambleScramblingCode);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "AP-PreambleScramblingCode", "ap-PreambleScramblingCode", -1, "CPCH-SetInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ap_PreambleScramblingCode, 0, 79);
+   RT_CHECK(ctx, stat, "AP-PreambleScramblingCode", "ap-PreambleScramblingCode", -1, "CPCH-SetInfo");
+   /* ap-AICH-ChannelisationCode */
+   stat = pe_ConsUInt64(ctx, pvalue->ap_AICH_ChannelisationCode, 0, 255);
+   RT_CHECK(ctx, stat, "AP-AICH-ChannelisationCode", "ap-AICH-ChannelisationCode", -1, "CPCH-SetInfo");
+   /* cd-PreambleScramblingCode */
+   if ((uint64_t)pvalue->cd_PreambleScramblingCode > 79u) {
+      rtxErrAddStrParm(ctx, "CD-PreambleScramblingCode");
+      rtxErrAddUIntParm(ctx, pvalue->cd_PreambleScramblingCode);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "CD-PreambleScramblingCode", "cd-PreambleScramblingCode", -1, "CPCH-SetInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cd_PreambleScramblingCode, 0, 79);
+   RT_CHECK(ctx, stat, "CD-PreambleScramblingCode", "cd-PreambleScramblingCode", -1, "CPCH-SetInfo");
+   /* cd-CA-ICH-ChannelisationCode */
+   stat = pe_ConsUInt64(ctx, pvalue->cd_CA_ICH_ChannelisationCode, 0, 255);
+   RT_CHECK(ctx, stat, "CD-CA-ICH-ChannelisationCode", "cd-CA-ICH-ChannelisationCode", -1, "CPCH-SetInfo");
+   /* cd-AccessSlotSubchannelList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CD_AccessSlotSubchannelList(ctx, &pvalue->cd_AccessSlotSubchannelList);
+      RT_CHECK(ctx, stat, 0, "cd-AccessSlotSubchannelList", -1, "CPCH-SetInfo");
+   }
+   /* cd-SignatureCodeList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CD_SignatureCodeList(ctx, &pvalue->cd_SignatureCodeList);
+      RT_CHECK(ctx, stat, 0, "cd-SignatureCodeList", -1, "CPCH-SetInfo");
+   }
+   /* deltaPp-m */
+   if (pvalue->deltaPp_m < -10 || pvalue->deltaPp_m > 10) {
+      rtxErrAddStrParm(ctx, "DeltaPp-m");
+      rtxErrAddIntParm(ctx, pvalue->deltaPp_m);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaPp-m", "deltaPp-m", -1, "CPCH-SetInfo");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->deltaPp_m, -10, 10);
+   RT_CHECK(ctx, stat, "DeltaPp-m", "deltaPp-m", -1, "CPCH-SetInfo");
+   /* ul-DPCCH-SlotFormat */
+   if (pvalue->ul_DPCCH_SlotFormat > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->ul_DPCCH_SlotFormat);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "UL-DPCCH-SlotFormat", "ul-DPCCH-SlotFormat", -1, "CPCH-SetInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ul_DPCCH_SlotFormat, 0, 2);
+   RT_CHECK(ctx, stat, "UL-DPCCH-SlotFormat", "ul-DPCCH-SlotFormat", -1, "CPCH-SetInfo");
+   /* n-StartMessage */
+   if ((uint64_t)(pvalue->n_StartMessage - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "N-StartMessage");
+      rtxErrAddUIntParm(ctx, pvalue->n_StartMessage);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "N-StartMessage", "n-StartMessage", -1, "CPCH-SetInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->n_StartMessage, 1, 8);
+   RT_CHECK(ctx, stat, "N-StartMessage", "n-StartMessage", -1, "CPCH-SetInfo");
+   /* n-EOT */
+   if ((uint64_t)pvalue->n_EOT > 7u) {
+      rtxErrAddStrParm(ctx, "N-EOT");
+      rtxErrAddUIntParm(ctx, pvalue->n_EOT);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "N-EOT", "n-EOT", -1, "CPCH-SetInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->n_EOT, 0, 7);
+   RT_CHECK(ctx, stat, "N-EOT", "n-EOT", -1, "CPCH-SetInfo");
+   /* channelAssignmentActive */
+   stat = asn1PE_UMTS_ChannelAssignmentActive(ctx, &pvalue->channelAssignmentActive);
+   RT_CHECK(ctx, stat, 0, "channelAssignmentActive", -1, "CPCH-SetInfo");
+   /* cpch-StatusIndicationMode */
+   if (pvalue->cpch_StatusIndicationMode > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cpch_StatusIndicationMode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CPCH-StatusIndicationMode", "cpch-StatusIndicationMode", -1, "CPCH-SetInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cpch_StatusIndicationMode, 0, 1);
+   RT_CHECK(ctx, stat, "CPCH-StatusIndicationMode", "cpch-StatusIndicationMode", -1, "CPCH-SetInfo");
+   /* pcpch-ChannelInfoList */
+   stat = asn1PE_UMTS_PCPCH_ChannelInfoList(ctx, &pvalue->pcpch_ChannelInfoList);
+   RT_CHECK(ctx, stat, 0, "pcpch-ChannelInfoList", -1, "CPCH-SetInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_CPCH_SetInfoList(rtxContext* RT_RESTRICT ctx, const CPCH_SetInfoList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CPCH-SetInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CPCH-SetInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CPCH-SetInfo", (int32_t)i, "CPCH-SetInfoList");
+      stat = asn1PE_UMTS_CPCH_SetInfo(ctx, (const CPCH_SetInfo*)node->data);
+      RT_CHECK(ctx, stat, 0, "CPCH-SetInfo", (int32_t)i, "CPCH-SetInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CQI_DTX_Timer(rtxContext* RT_RESTRICT ctx, CQI_DTX_Timer value)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "CQI-DTX-Timer");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CQI-DTX-Timer");
+   return 0;
+}
+
+int asn1PE_UMTS_CSICH_PowerOffset(rtxContext* RT_RESTRICT ctx, CSICH_PowerOffset value)
+{
+   int stat = 0;
+   if (value < -10 || value > 5) {
+      rtxErrAddStrParm(ctx, "CSICH-PowerOffset");
+      rtxErrAddIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "CSICH-PowerOffset");
+   }
+   stat = pe_ConsInt64(ctx, value, -10, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CSICH-PowerOffset");
+   return 0;
+}
+
+int asn1PE_UMTS_DefaultDPCH_OffsetValueFDD(rtxContext* RT_RESTRICT ctx, DefaultDPCH_OffsetValueFDD value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 599u) {
+      rtxErrAddStrParm(ctx, "DefaultDPCH-OffsetValueFDD");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DefaultDPCH-OffsetValueFDD");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 599);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DefaultDPCH-OffsetValueFDD");
+   return 0;
+}
+
+int asn1PE_UMTS_DefaultDPCH_OffsetValueTDD(rtxContext* RT_RESTRICT ctx, DefaultDPCH_OffsetValueTDD value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 7u) {
+      rtxErrAddStrParm(ctx, "DefaultDPCH-OffsetValueTDD");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DefaultDPCH-OffsetValueTDD");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DefaultDPCH-OffsetValueTDD");
+   return 0;
+}
+
+int asn1PE_UMTS_DeltaSIR(rtxContext* RT_RESTRICT ctx, DeltaSIR value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 30u) {
+      rtxErrAddStrParm(ctx, "DeltaSIR");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DeltaSIR");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 30);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DeltaSIR");
+   return 0;
+}
+
+int asn1PE_UMTS_TimeInfo(rtxContext* RT_RESTRICT ctx, const TimeInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TimeInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimeInfo");
+   /* activationTime */
+   if (pvalue->m & 0x1u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "TimeInfo");
+   }
+   /* durationTimeInfo */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)(pvalue->durationTimeInfo - 1) > 4095u) {
+         rtxErrAddStrParm(ctx, "DurationTimeInfo");
+         rtxErrAddUIntParm(ctx, pvalue->durationTimeInfo);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DurationTimeInfo", "durationTimeInfo", -1, "TimeInfo");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->durationTimeInfo, 1, 4096);
+      RT_CHECK(ctx, stat, "DurationTimeInfo", "durationTimeInfo", -1, "TimeInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_CCTrChTPCList(rtxContext* RT_RESTRICT ctx, const UL_CCTrChTPCList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-CCTrChTPCList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 0, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UL-CCTrChTPCList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "TFCS-Identity", (int32_t)i, "UL-CCTrChTPCList");
+      stat = asn1PE_UMTS_TFCS_Identity(ctx, (const TFCS_Identity*)node->data);
+      RT_CHECK(ctx, stat, 0, "TFCS-Identity", (int32_t)i, "UL-CCTrChTPCList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CCTrCh(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-CCTrCh");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 3) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CCTrCh");
+   /* tfcs-ID */
+   if (pvalue->tfcs_ID != 1) {
+      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
+         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "DL-CCTrCh");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
+      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "DL-CCTrCh");
+   }
+   /* timeInfo */
+   stat = asn1PE_UMTS_TimeInfo(ctx, &pvalue->timeInfo);
+   RT_CHECK(ctx, stat, 0, "timeInfo", -1, "DL-CCTrCh");
+   /* commonTimeslotInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
+      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "DL-CCTrCh");
+   }
+   /* dl-CCTrCH-TimeslotsCodes */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_DownlinkTimeslotsCodes(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, "DL-CCTrCh");
+   }
+   /* ul-CCTrChTPCList */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_UL_CCTrChTPCList(ctx, &pvalue->ul_CCTrChTPCList);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrChTPCList", -1, "DL-CCTrCh");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CCTrCh_r4_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r4_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-CCTrCH-TimeslotsCodes */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DownlinkTimeslotsCodes(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CCTrCh_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r4_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-CCTrCH-TimeslotsCodes */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CCTrCh_r4_tddOption(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r4_tddOption* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = asn1PE_UMTS_DL_CCTrCh_r4_tddOption_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = asn1PE_UMTS_DL_CCTrCh_r4_tddOption_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CCTrCh_r4(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-CCTrCh-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 2) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CCTrCh-r4");
+   /* tfcs-ID */
+   if (pvalue->tfcs_ID != 1) {
+      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
+         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "DL-CCTrCh-r4");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
+      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "DL-CCTrCh-r4");
+   }
+   /* timeInfo */
+   stat = asn1PE_UMTS_TimeInfo(ctx, &pvalue->timeInfo);
+   RT_CHECK(ctx, stat, 0, "timeInfo", -1, "DL-CCTrCh-r4");
+   /* commonTimeslotInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
+      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "DL-CCTrCh-r4");
+   }
+   /* tddOption */
+   stat = asn1PE_UMTS_DL_CCTrCh_r4_tddOption(ctx, &pvalue->tddOption);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, "DL-CCTrCh-r4");
+   /* ul-CCTrChTPCList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UL_CCTrChTPCList(ctx, &pvalue->ul_CCTrChTPCList);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrChTPCList", -1, "DL-CCTrCh-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CCTrCh_r7_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r7_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-CCTrCH-TimeslotsCodes */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DownlinkTimeslotsCodes_r7(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CCTrCh_r7_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r7_tddOption_tdd768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-CCTrCH-TimeslotsCodes */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DownlinkTimeslotsCodes_VHCR(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CCTrCh_r7_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r7_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-CCTrCH-TimeslotsCodes */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CCTrCh_r7_tddOption(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r7_tddOption* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = asn1PE_UMTS_DL_CCTrCh_r7_tddOption_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
+         stat = asn1PE_UMTS_DL_CCTrCh_r7_tddOption_tdd768(ctx, pvalue->u.tdd768);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = asn1PE_UMTS_DL_CCTrCh_r7_tddOption_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CCTrCh_r7(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-CCTrCh-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 2) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CCTrCh-r7");
+   /* tfcs-ID */
+   if (pvalue->tfcs_ID != 1) {
+      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
+         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "DL-CCTrCh-r7");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
+      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "DL-CCTrCh-r7");
+   }
+   /* timeInfo */
+   stat = asn1PE_UMTS_TimeInfo(ctx, &pvalue->timeInfo);
+   RT_CHECK(ctx, stat, 0, "timeInfo", -1, "DL-CCTrCh-r7");
+   /* commonTimeslotInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
+      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "DL-CCTrCh-r7");
+   }
+   /* tddOption */
+   stat = asn1PE_UMTS_DL_CCTrCh_r7_tddOption(ctx, &pvalue->tddOption);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, "DL-CCTrCh-r7");
+   /* ul-CCTrChTPCList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UL_CCTrChTPCList(ctx, &pvalue->ul_CCTrChTPCList);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrChTPCList", -1, "DL-CCTrCh-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CCTrChList(rtxContext* RT_RESTRICT ctx, const DL_CCTrChList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-CCTrChList");
+   const rtxDListNode* node;
+   uint32_t i;
    RT_SET_SIZE(ctx, 1, 8);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-CCTrChList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "UE-RadioAccessCapabBandFDD", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_UE_RadioAccessCapabBandFDD(ctx, (const UE_RadioAccessCapabBandFDD*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-CCTrCh", (int32_t)i, "DL-CCTrChList");
+      stat = asn1PE_UMTS_DL_CCTrCh(ctx, (const DL_CCTrCh*)node->data);
+      RT_CHECK(ctx, stat, 0, "DL-CCTrCh", (int32_t)i, "DL-CCTrChList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_UE_RadioAccessCapability_v370ext(rtxContext* ctx, const UE_RadioAccessCapability_v370ext* pvalue)
+int asn1PE_UMTS_DL_CCTrChList_r7(rtxContext* RT_RESTRICT ctx, const DL_CCTrChList_r7* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability-v370ext");
-   /* ue-RadioAccessCapabBandFDDList */
-   rtxCtxtPushElemName(ctx, "ue-RadioAccessCapabBandFDDList");
-   stat = asn1PE_UMTS_UE_RadioAccessCapabBandFDDList(ctx, &pvalue->ue_RadioAccessCapabBandFDDList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-CCTrChList-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-CCTrChList-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-CCTrCh-r7", (int32_t)i, "DL-CCTrChList-r7");
+      stat = asn1PE_UMTS_DL_CCTrCh_r7(ctx, (const DL_CCTrCh_r7*)node->data);
+      RT_CHECK(ctx, stat, 0, "DL-CCTrCh-r7", (int32_t)i, "DL-CCTrChList-r7");
+   }
    return 0;
 }
 
-int asn1PE_UMTS_UE_RadioAccessCapabilityInfo(rtxContext* ctx, const UE_RadioAccessCapabilityInfo* pvalue)
+int asn1PE_UMTS_DL_CCTrChList_r4(rtxContext* RT_RESTRICT ctx, const DL_CCTrChList_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapabilityInfo");
-   /* ue-RadioAccessCapability */
-   rtxCtxtPushElemName(ctx, "ue-RadioAccessCapability");
-   stat = asn1PE_UMTS_UE_RadioAccessCapability(ctx, &pvalue->ue_RadioAccessCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-RadioAccessCapability-v370ext */
-   rtxCtxtPushElemName(ctx, "ue-RadioAccessCapability-v370ext");
-   stat = asn1PE_UMTS_UE_RadioAccessCapability_v370ext(ctx, &pvalue->ue_RadioAccessCapability_v370ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-CCTrChList-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-CCTrChList-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-CCTrCh-r4", (int32_t)i, "DL-CCTrChList-r4");
+      stat = asn1PE_UMTS_DL_CCTrCh_r4(ctx, (const DL_CCTrCh_r4*)node->data);
+      RT_CHECK(ctx, stat, 0, "DL-CCTrCh-r4", (int32_t)i, "DL-CCTrChList-r4");
+   }
    return 0;
 }
 
-int asn1PE_UMTS_UE_PositioningCapabilityExt_v380(rtxContext* ctx, const UE_PositioningCapabilityExt_v380* pvalue)
+int asn1PE_UMTS_DL_CCTrChListToRemove(rtxContext* RT_RESTRICT ctx, const DL_CCTrChListToRemove* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-PositioningCapabilityExt-v380");
-   /* rx-tx-TimeDifferenceType2Capable */
-   rtxCtxtPushElemName(ctx, "rx-tx-TimeDifferenceType2Capable");
-   stat = rtxEncBit(ctx, pvalue->rx_tx_TimeDifferenceType2Capable);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-CCTrChListToRemove");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-CCTrChListToRemove");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)(pvalue->elem[i] - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "TFCS-IdentityPlain", (int32_t)i, "DL-CCTrChListToRemove");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 1, 8);
+      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "TFCS-IdentityPlain", (int32_t)i, "DL-CCTrChListToRemove");
+   }
    return 0;
 }
 
-int asn1PE_UMTS_UE_RadioAccessCapability_v380ext(rtxContext* ctx, const UE_RadioAccessCapability_v380ext* pvalue)
+int asn1PE_UMTS_SF512_AndCodeNumber(rtxContext* RT_RESTRICT ctx, const SF512_AndCodeNumber* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability-v380ext");
-   /* ue-PositioningCapabilityExt-v380 */
-   rtxCtxtPushElemName(ctx, "ue-PositioningCapabilityExt-v380");
-   stat = asn1PE_UMTS_UE_PositioningCapabilityExt_v380(ctx, &pvalue->ue_PositioningCapabilityExt_v380);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SF512-AndCodeNumber");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
+   RT_CHECK(ctx, stat, 0, "t", -1, "SF512-AndCodeNumber");
+   if (pvalue->t - 1 > 7) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SF512-AndCodeNumber");
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)pvalue->u.sf4 > 3u) {
+            rtxErrAddStrParm(ctx, "sf4");
+            rtxErrAddUIntParm(ctx, pvalue->u.sf4);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sf4", -1, "SF512-AndCodeNumber");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.sf4, 0, 3);
+         RT_CHECK(ctx, stat, 0, "sf4", -1, "SF512-AndCodeNumber");
+         break;
+      case 2:
+         if ((uint64_t)pvalue->u.sf8 > 7u) {
+            rtxErrAddStrParm(ctx, "sf8");
+            rtxErrAddUIntParm(ctx, pvalue->u.sf8);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sf8", -1, "SF512-AndCodeNumber");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.sf8, 0, 7);
+         RT_CHECK(ctx, stat, 0, "sf8", -1, "SF512-AndCodeNumber");
+         break;
+      case 3:
+         if ((uint64_t)pvalue->u.sf16 > 15u) {
+            rtxErrAddStrParm(ctx, "sf16");
+            rtxErrAddUIntParm(ctx, pvalue->u.sf16);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sf16", -1, "SF512-AndCodeNumber");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.sf16, 0, 15);
+         RT_CHECK(ctx, stat, 0, "sf16", -1, "SF512-AndCodeNumber");
+         break;
+      case 4:
+         if ((uint64_t)pvalue->u.sf32 > 31u) {
+            rtxErrAddStrParm(ctx, "sf32");
+            rtxErrAddUIntParm(ctx, pvalue->u.sf32);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sf32", -1, "SF512-AndCodeNumber");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.sf32, 0, 31);
+         RT_CHECK(ctx, stat, 0, "sf32", -1, "SF512-AndCodeNumber");
+         break;
+      case 5:
+         if ((uint64_t)pvalue->u.sf64 > 63u) {
+            rtxErrAddStrParm(ctx, "sf64");
+            rtxErrAddUIntParm(ctx, pvalue->u.sf64);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sf64", -1, "SF512-AndCodeNumber");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.sf64, 0, 63);
+         RT_CHECK(ctx, stat, 0, "sf64", -1, "SF512-AndCodeNumber");
+         break;
+      case 6:
+         if ((uint64_t)pvalue->u.sf128 > 127u) {
+            rtxErrAddStrParm(ctx, "sf128");
+            rtxErrAddUIntParm(ctx, pvalue->u.sf128);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sf128", -1, "SF512-AndCodeNumber");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.sf128, 0, 127);
+         RT_CHECK(ctx, stat, 0, "sf128", -1, "SF512-AndCodeNumber");
+         break;
+      case 7:
+         stat = pe_ConsUInt64(ctx, pvalue->u.sf256, 0, 255);
+         RT_CHECK(ctx, stat, 0, "sf256", -1, "SF512-AndCodeNumber");
+         break;
+      case 8:
+         if ((uint64_t)pvalue->u.sf512 > 511u) {
+            rtxErrAddStrParm(ctx, "sf512");
+            rtxErrAddUIntParm(ctx, pvalue->u.sf512);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sf512", -1, "SF512-AndCodeNumber");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.sf512, 0, 511);
+         RT_CHECK(ctx, stat, 0, "sf512", -1, "SF512-AndCodeNumber");
+         break;
+      default:
+         break;
+   }
    return 0;
 }
 
-int asn1PE_UMTS_UE_PositioningCapabilityExt_v3a0_validity_CellPCH_UraPCH(rtxContext* ctx, UE_PositioningCapabilityExt_v3a0_validity_CellPCH_UraPCH value)
+int asn1PE_UMTS_ScramblingCodeChange(rtxContext* RT_RESTRICT ctx, ScramblingCodeChange value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ScramblingCodeChange");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ScramblingCodeChange");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_ChannelisationCode(rtxContext* RT_RESTRICT ctx, const DL_ChannelisationCode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-ChannelisationCode");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-ChannelisationCode");
+   /* secondaryScramblingCode */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->secondaryScramblingCode - 1) > 14u) {
+         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
+         rtxErrAddUIntParm(ctx, pvalue->secondaryScramblingCode);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "SecondaryScramblingCode", "secondaryScramblingCode", -1, "DL-ChannelisationCode");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->secondaryScramblingCode, 1, 15);
+      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, "DL-ChannelisationCode");
+   }
+   /* sf-AndCodeNumber */
+   stat = asn1PE_UMTS_SF512_AndCodeNumber(ctx, &pvalue->sf_AndCodeNumber);
+   RT_CHECK(ctx, stat, 0, "sf-AndCodeNumber", -1, "DL-ChannelisationCode");
+   /* scramblingCodeChange */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->scramblingCodeChange > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->scramblingCodeChange);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "ScramblingCodeChange", "scramblingCodeChange", -1, "DL-ChannelisationCode");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->scramblingCodeChange, 0, 1);
+      RT_CHECK(ctx, stat, "ScramblingCodeChange", "scramblingCodeChange", -1, "DL-ChannelisationCode");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_ChannelisationCodeList(rtxContext* RT_RESTRICT ctx, const DL_ChannelisationCodeList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-ChannelisationCodeList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-ChannelisationCodeList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-ChannelisationCode", (int32_t)i, "DL-ChannelisationCodeList");
+      stat = asn1PE_UMTS_DL_ChannelisationCode(ctx, (const DL_ChannelisationCode*)node->data);
+      RT_CHECK(ctx, stat, 0, "DL-ChannelisationCode", (int32_t)i, "DL-ChannelisationCodeList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommon_cfnHandling_initialise(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_cfnHandling_initialise* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (pvalue->m & 0x1u) {
+      stat = pe_ConsUInt64(ctx, pvalue->dummy, 0, 255);
+      RT_CHECK(ctx, stat, "Cfntargetsfnframeoffset", "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommon_cfnHandling(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_cfnHandling* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.initialise == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "initialise", -1, 0);
+         stat = asn1PE_UMTS_DL_DPCH_InfoCommon_cfnHandling_initialise(ctx, pvalue->u.initialise);
+         RT_CHECK(ctx, stat, 0, "initialise", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DPC_Mode(rtxContext* RT_RESTRICT ctx, DPC_Mode value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "DPC-Mode");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DPC-Mode");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_PowerControlInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_PowerControlInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* dpc-Mode */
+   if (pvalue->dpc_Mode > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->dpc_Mode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DPC-Mode", "dpc-Mode", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->dpc_Mode, 0, 1);
+   RT_CHECK(ctx, stat, "DPC-Mode", "dpc-Mode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_PowerControlInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_PowerControlInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* tpc-StepSizeTDD */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->tpc_StepSizeTDD - 1) > 2u) {
+         rtxErrAddStrParm(ctx, "TPC-StepSizeTDD");
+         rtxErrAddUIntParm(ctx, pvalue->tpc_StepSizeTDD);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "TPC-StepSizeTDD", "tpc-StepSizeTDD", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->tpc_StepSizeTDD, 1, 3);
+      RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSizeTDD", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_PowerControlInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_DPCH_PowerControlInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_DL_DPCH_PowerControlInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_DL_DPCH_PowerControlInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, const DL_DPCH_PowerControlInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-DPCH-PowerControlInfo");
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_DL_DPCH_PowerControlInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-DPCH-PowerControlInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_PowerOffsetPilot_pdpdch(rtxContext* RT_RESTRICT ctx, PowerOffsetPilot_pdpdch value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 24u) {
+      rtxErrAddStrParm(ctx, "PowerOffsetPilot-pdpdch");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PowerOffsetPilot-pdpdch");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 24);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PowerOffsetPilot-pdpdch");
+   return 0;
+}
+
+int asn1PE_UMTS_RestrictedTrCH(rtxContext* RT_RESTRICT ctx, const RestrictedTrCH* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RestrictedTrCH");
+   /* dl-restrictedTrCh-Type */
+   if (pvalue->dl_restrictedTrCh_Type > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->dl_restrictedTrCh_Type);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TrCH-Type", "dl-restrictedTrCh-Type", -1, "RestrictedTrCH");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->dl_restrictedTrCh_Type, 0, 1);
+   RT_CHECK(ctx, stat, "DL-TrCH-Type", "dl-restrictedTrCh-Type", -1, "RestrictedTrCH");
+   /* restrictedDL-TrCH-Identity */
+   if ((uint64_t)(pvalue->restrictedDL_TrCH_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->restrictedDL_TrCH_Identity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "restrictedDL-TrCH-Identity", -1, "RestrictedTrCH");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->restrictedDL_TrCH_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "restrictedDL-TrCH-Identity", -1, "RestrictedTrCH");
+   /* allowedTFIList */
+   stat = asn1PE_UMTS_AllowedTFI_List(ctx, &pvalue->allowedTFIList);
+   RT_CHECK(ctx, stat, 0, "allowedTFIList", -1, "RestrictedTrCH");
+   return 0;
+}
+
+int asn1PE_UMTS_RestrictedTrCH_InfoList(rtxContext* RT_RESTRICT ctx, const RestrictedTrCH_InfoList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RestrictedTrCH-InfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RestrictedTrCH-InfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RestrictedTrCH", (int32_t)i, "RestrictedTrCH-InfoList");
+      stat = asn1PE_UMTS_RestrictedTrCH(ctx, (const RestrictedTrCH*)node->data);
+      RT_CHECK(ctx, stat, 0, "RestrictedTrCH", (int32_t)i, "RestrictedTrCH-InfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Dl_rate_matching_restriction(rtxContext* RT_RESTRICT ctx, const Dl_rate_matching_restriction* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Dl-rate-matching-restriction");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Dl-rate-matching-restriction");
+   /* restrictedTrCH-InfoList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RestrictedTrCH_InfoList(ctx, &pvalue->restrictedTrCH_InfoList);
+      RT_CHECK(ctx, stat, 0, "restrictedTrCH-InfoList", -1, "Dl-rate-matching-restriction");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommon_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-DPCH-PowerControlInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, 0);
+   }
+   /* powerOffsetPilot-pdpdch */
+   if ((uint64_t)pvalue->powerOffsetPilot_pdpdch > 24u) {
+      rtxErrAddStrParm(ctx, "PowerOffsetPilot-pdpdch");
+      rtxErrAddUIntParm(ctx, pvalue->powerOffsetPilot_pdpdch);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PowerOffsetPilot-pdpdch", "powerOffsetPilot-pdpdch", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->powerOffsetPilot_pdpdch, 0, 24);
+   RT_CHECK(ctx, stat, "PowerOffsetPilot-pdpdch", "powerOffsetPilot-pdpdch", -1, 0);
+   /* dl-rate-matching-restriction */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_Dl_rate_matching_restriction(ctx, &pvalue->dl_rate_matching_restriction);
+      RT_CHECK(ctx, stat, 0, "dl-rate-matching-restriction", -1, 0);
+   }
+   /* spreadingFactorAndPilot */
+   stat = asn1PE_UMTS_SF512_AndPilot(ctx, &pvalue->spreadingFactorAndPilot);
+   RT_CHECK(ctx, stat, 0, "spreadingFactorAndPilot", -1, 0);
+   /* positionFixedOrFlexible */
+   if (pvalue->positionFixedOrFlexible > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->positionFixedOrFlexible);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->positionFixedOrFlexible, 0, 1);
+   RT_CHECK(ctx, stat, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
+   /* tfci-Existence */
+   stat = rtxEncBit(ctx, pvalue->tfci_Existence);
+   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommon_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-DPCH-PowerControlInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommon_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_DL_DPCH_InfoCommon_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_DL_DPCH_InfoCommon_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommon(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-DPCH-InfoCommon");
+   /* cfnHandling */
+   stat = asn1PE_UMTS_DL_DPCH_InfoCommon_cfnHandling(ctx, &pvalue->cfnHandling);
+   RT_CHECK(ctx, stat, 0, "cfnHandling", -1, "DL-DPCH-InfoCommon");
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_DL_DPCH_InfoCommon_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-DPCH-InfoCommon");
+   return 0;
+}
+
+int asn1PE_UMTS_TGCFN(rtxContext* RT_RESTRICT ctx, TGCFN value)
+{
+   int stat = 0;
+   stat = pe_ConsUInt64(ctx, value, 0, 255);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TGCFN");
+   return 0;
+}
+
+int asn1PE_UMTS_TGP_Sequence_tgps_Status_activate(rtxContext* RT_RESTRICT ctx, const TGP_Sequence_tgps_Status_activate* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tgcfn */
+   stat = pe_ConsUInt64(ctx, pvalue->tgcfn, 0, 255);
+   RT_CHECK(ctx, stat, "TGCFN", "tgcfn", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_TGP_Sequence_tgps_Status(rtxContext* RT_RESTRICT ctx, const TGP_Sequence_tgps_Status* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.activate == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "activate", -1, 0);
+         stat = asn1PE_UMTS_TGP_Sequence_tgps_Status_activate(ctx, pvalue->u.activate);
+         RT_CHECK(ctx, stat, 0, "activate", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TGMP(rtxContext* RT_RESTRICT ctx, TGMP value)
+{
+   int stat = 0;
+   if (value > 5) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TGMP");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TGMP");
+   return 0;
+}
+
+int asn1PE_UMTS_TGPRC(rtxContext* RT_RESTRICT ctx, TGPRC value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 511u) {
+      rtxErrAddStrParm(ctx, "TGPRC");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TGPRC");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 511);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TGPRC");
+   return 0;
+}
+
+int asn1PE_UMTS_TGSN(rtxContext* RT_RESTRICT ctx, TGSN value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 14u) {
+      rtxErrAddStrParm(ctx, "TGSN");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TGSN");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 14);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TGSN");
+   return 0;
+}
+
+int asn1PE_UMTS_TGL(rtxContext* RT_RESTRICT ctx, TGL value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 13u) {
+      rtxErrAddStrParm(ctx, "TGL");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TGL");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 14);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TGL");
+   return 0;
+}
+
+int asn1PE_UMTS_TGD(rtxContext* RT_RESTRICT ctx, TGD value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 15) > 255u) {
+      rtxErrAddStrParm(ctx, "TGD");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TGD");
+   }
+   stat = pe_ConsUInt64(ctx, value, 15, 270);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TGD");
+   return 0;
+}
+
+int asn1PE_UMTS_TGPL(rtxContext* RT_RESTRICT ctx, TGPL value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 143u) {
+      rtxErrAddStrParm(ctx, "TGPL");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TGPL");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 144);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TGPL");
+   return 0;
+}
+
+int asn1PE_UMTS_RPP(rtxContext* RT_RESTRICT ctx, RPP value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "RPP");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RPP");
+   return 0;
+}
+
+int asn1PE_UMTS_ITP(rtxContext* RT_RESTRICT ctx, ITP value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ITP");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ITP");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_CompressedModeMethod(rtxContext* RT_RESTRICT ctx, UL_CompressedModeMethod value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UL-CompressedModeMethod");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-CompressedModeMethod");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CompressedModeMethod(rtxContext* RT_RESTRICT ctx, DL_CompressedModeMethod value)
+{
+   int stat = 0;
+   if (value > 2) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "DL-CompressedModeMethod");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CompressedModeMethod");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DL_Mode_ul_and_dl(rtxContext* RT_RESTRICT ctx, const UL_DL_Mode_ul_and_dl* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ul */
+   if (pvalue->ul > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->ul);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "UL-CompressedModeMethod", "ul", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ul, 0, 1);
+   RT_CHECK(ctx, stat, "UL-CompressedModeMethod", "ul", -1, 0);
+   /* dl */
+   if (pvalue->dl > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->dl);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-CompressedModeMethod", "dl", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->dl, 0, 2);
+   RT_CHECK(ctx, stat, "DL-CompressedModeMethod", "dl", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DL_Mode(rtxContext* RT_RESTRICT ctx, const UL_DL_Mode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-DL-Mode");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, "UL-DL-Mode");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-DL-Mode");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.ul > 1) {
+            rtxErrAddUIntParm(ctx, pvalue->u.ul);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "UL-CompressedModeMethod", "ul", -1, "UL-DL-Mode");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.ul, 0, 1);
+         RT_CHECK(ctx, stat, "UL-CompressedModeMethod", "ul", -1, "UL-DL-Mode");
+         break;
+      case 2:
+         if (pvalue->u.dl > 2) {
+            rtxErrAddUIntParm(ctx, pvalue->u.dl);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "DL-CompressedModeMethod", "dl", -1, "UL-DL-Mode");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.dl, 0, 2);
+         RT_CHECK(ctx, stat, "DL-CompressedModeMethod", "dl", -1, "UL-DL-Mode");
+         break;
+      case 3:
+         if (pvalue->u.ul_and_dl == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ul-and-dl", -1, "UL-DL-Mode");
+         stat = asn1PE_UMTS_UL_DL_Mode_ul_and_dl(ctx, pvalue->u.ul_and_dl);
+         RT_CHECK(ctx, stat, 0, "ul-and-dl", -1, "UL-DL-Mode");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_FrameType(rtxContext* RT_RESTRICT ctx, DL_FrameType value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "DL-FrameType");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-FrameType");
+   return 0;
+}
+
+int asn1PE_UMTS_NidentifyAbort(rtxContext* RT_RESTRICT ctx, NidentifyAbort value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 127u) {
+      rtxErrAddStrParm(ctx, "NidentifyAbort");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "NidentifyAbort");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 128);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NidentifyAbort");
+   return 0;
+}
+
+int asn1PE_UMTS_TreconfirmAbort(rtxContext* RT_RESTRICT ctx, TreconfirmAbort value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 19u) {
+      rtxErrAddStrParm(ctx, "TreconfirmAbort");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TreconfirmAbort");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 20);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TreconfirmAbort");
+   return 0;
+}
+
+int asn1PE_UMTS_TGPS_ConfigurationParams(rtxContext* RT_RESTRICT ctx, const TGPS_ConfigurationParams* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TGPS-ConfigurationParams");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TGPS-ConfigurationParams");
+   /* tgmp */
+   if (pvalue->tgmp > 5) {
+      rtxErrAddUIntParm(ctx, pvalue->tgmp);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TGMP", "tgmp", -1, "TGPS-ConfigurationParams");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->tgmp, 0, 5);
+   RT_CHECK(ctx, stat, "TGMP", "tgmp", -1, "TGPS-ConfigurationParams");
+   /* tgprc */
+   if ((uint64_t)pvalue->tgprc > 511u) {
+      rtxErrAddStrParm(ctx, "TGPRC");
+      rtxErrAddUIntParm(ctx, pvalue->tgprc);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TGPRC", "tgprc", -1, "TGPS-ConfigurationParams");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->tgprc, 0, 511);
+   RT_CHECK(ctx, stat, "TGPRC", "tgprc", -1, "TGPS-ConfigurationParams");
+   /* tgsn */
+   if ((uint64_t)pvalue->tgsn > 14u) {
+      rtxErrAddStrParm(ctx, "TGSN");
+      rtxErrAddUIntParm(ctx, pvalue->tgsn);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TGSN", "tgsn", -1, "TGPS-ConfigurationParams");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->tgsn, 0, 14);
+   RT_CHECK(ctx, stat, "TGSN", "tgsn", -1, "TGPS-ConfigurationParams");
+   /* tgl1 */
+   if ((uint64_t)(pvalue->tgl1 - 1) > 13u) {
+      rtxErrAddStrParm(ctx, "TGL");
+      rtxErrAddUIntParm(ctx, pvalue->tgl1);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TGL", "tgl1", -1, "TGPS-ConfigurationParams");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->tgl1, 1, 14);
+   RT_CHECK(ctx, stat, "TGL", "tgl1", -1, "TGPS-ConfigurationParams");
+   /* tgl2 */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->tgl2 - 1) > 13u) {
+         rtxErrAddStrParm(ctx, "TGL");
+         rtxErrAddUIntParm(ctx, pvalue->tgl2);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "TGL", "tgl2", -1, "TGPS-ConfigurationParams");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->tgl2, 1, 14);
+      RT_CHECK(ctx, stat, "TGL", "tgl2", -1, "TGPS-ConfigurationParams");
+   }
+   /* tgd */
+   if ((uint64_t)(pvalue->tgd - 15) > 255u) {
+      rtxErrAddStrParm(ctx, "TGD");
+      rtxErrAddUIntParm(ctx, pvalue->tgd);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TGD", "tgd", -1, "TGPS-ConfigurationParams");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->tgd, 15, 270);
+   RT_CHECK(ctx, stat, "TGD", "tgd", -1, "TGPS-ConfigurationParams");
+   /* tgpl1 */
+   if ((uint64_t)(pvalue->tgpl1 - 1) > 143u) {
+      rtxErrAddStrParm(ctx, "TGPL");
+      rtxErrAddUIntParm(ctx, pvalue->tgpl1);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TGPL", "tgpl1", -1, "TGPS-ConfigurationParams");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->tgpl1, 1, 144);
+   RT_CHECK(ctx, stat, "TGPL", "tgpl1", -1, "TGPS-ConfigurationParams");
+   /* dummy */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)(pvalue->dummy - 1) > 143u) {
+         rtxErrAddStrParm(ctx, "TGPL");
+         rtxErrAddUIntParm(ctx, pvalue->dummy);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "TGPL", "dummy", -1, "TGPS-ConfigurationParams");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dummy, 1, 144);
+      RT_CHECK(ctx, stat, "TGPL", "dummy", -1, "TGPS-ConfigurationParams");
+   }
+   /* rpp */
+   if (pvalue->rpp > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->rpp);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RPP", "rpp", -1, "TGPS-ConfigurationParams");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rpp, 0, 1);
+   RT_CHECK(ctx, stat, "RPP", "rpp", -1, "TGPS-ConfigurationParams");
+   /* itp */
+   if (pvalue->itp > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->itp);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ITP", "itp", -1, "TGPS-ConfigurationParams");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->itp, 0, 1);
+   RT_CHECK(ctx, stat, "ITP", "itp", -1, "TGPS-ConfigurationParams");
+   /* ul-DL-Mode */
+   stat = asn1PE_UMTS_UL_DL_Mode(ctx, &pvalue->ul_DL_Mode);
+   RT_CHECK(ctx, stat, 0, "ul-DL-Mode", -1, "TGPS-ConfigurationParams");
+   /* dl-FrameType */
+   if (pvalue->dl_FrameType > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->dl_FrameType);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-FrameType", "dl-FrameType", -1, "TGPS-ConfigurationParams");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->dl_FrameType, 0, 1);
+   RT_CHECK(ctx, stat, "DL-FrameType", "dl-FrameType", -1, "TGPS-ConfigurationParams");
+   /* deltaSIR1 */
+   if ((uint64_t)pvalue->deltaSIR1 > 30u) {
+      rtxErrAddStrParm(ctx, "DeltaSIR");
+      rtxErrAddUIntParm(ctx, pvalue->deltaSIR1);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaSIR", "deltaSIR1", -1, "TGPS-ConfigurationParams");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->deltaSIR1, 0, 30);
+   RT_CHECK(ctx, stat, "DeltaSIR", "deltaSIR1", -1, "TGPS-ConfigurationParams");
+   /* deltaSIRAfter1 */
+   if ((uint64_t)pvalue->deltaSIRAfter1 > 30u) {
+      rtxErrAddStrParm(ctx, "DeltaSIR");
+      rtxErrAddUIntParm(ctx, pvalue->deltaSIRAfter1);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaSIR", "deltaSIRAfter1", -1, "TGPS-ConfigurationParams");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->deltaSIRAfter1, 0, 30);
+   RT_CHECK(ctx, stat, "DeltaSIR", "deltaSIRAfter1", -1, "TGPS-ConfigurationParams");
+   /* deltaSIR2 */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)pvalue->deltaSIR2 > 30u) {
+         rtxErrAddStrParm(ctx, "DeltaSIR");
+         rtxErrAddUIntParm(ctx, pvalue->deltaSIR2);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaSIR", "deltaSIR2", -1, "TGPS-ConfigurationParams");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->deltaSIR2, 0, 30);
+      RT_CHECK(ctx, stat, "DeltaSIR", "deltaSIR2", -1, "TGPS-ConfigurationParams");
+   }
+   /* deltaSIRAfter2 */
+   if (pvalue->m & 0x8u) {
+      if ((uint64_t)pvalue->deltaSIRAfter2 > 30u) {
+         rtxErrAddStrParm(ctx, "DeltaSIR");
+         rtxErrAddUIntParm(ctx, pvalue->deltaSIRAfter2);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaSIR", "deltaSIRAfter2", -1, "TGPS-ConfigurationParams");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->deltaSIRAfter2, 0, 30);
+      RT_CHECK(ctx, stat, "DeltaSIR", "deltaSIRAfter2", -1, "TGPS-ConfigurationParams");
+   }
+   /* nidentifyAbort */
+   if (pvalue->m & 0x10u) {
+      if ((uint64_t)(pvalue->nidentifyAbort - 1) > 127u) {
+         rtxErrAddStrParm(ctx, "NidentifyAbort");
+         rtxErrAddUIntParm(ctx, pvalue->nidentifyAbort);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "NidentifyAbort", "nidentifyAbort", -1, "TGPS-ConfigurationParams");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->nidentifyAbort, 1, 128);
+      RT_CHECK(ctx, stat, "NidentifyAbort", "nidentifyAbort", -1, "TGPS-ConfigurationParams");
+   }
+   /* treconfirmAbort */
+   if (pvalue->m & 0x20u) {
+      if ((uint64_t)(pvalue->treconfirmAbort - 1) > 19u) {
+         rtxErrAddStrParm(ctx, "TreconfirmAbort");
+         rtxErrAddUIntParm(ctx, pvalue->treconfirmAbort);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "TreconfirmAbort", "treconfirmAbort", -1, "TGPS-ConfigurationParams");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->treconfirmAbort, 1, 20);
+      RT_CHECK(ctx, stat, "TreconfirmAbort", "treconfirmAbort", -1, "TGPS-ConfigurationParams");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TGP_Sequence(rtxContext* RT_RESTRICT ctx, const TGP_Sequence* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TGP-Sequence");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TGP-Sequence");
+   /* tgpsi */
+   if ((uint64_t)(pvalue->tgpsi - 1) > 5u) {
+      rtxErrAddStrParm(ctx, "TGPSI");
+      rtxErrAddUIntParm(ctx, pvalue->tgpsi);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TGPSI", "tgpsi", -1, "TGP-Sequence");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->tgpsi, 1, 6);
+   RT_CHECK(ctx, stat, "TGPSI", "tgpsi", -1, "TGP-Sequence");
+   /* tgps-Status */
+   stat = asn1PE_UMTS_TGP_Sequence_tgps_Status(ctx, &pvalue->tgps_Status);
+   RT_CHECK(ctx, stat, 0, "tgps-Status", -1, "TGP-Sequence");
+   /* tgps-ConfigurationParams */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TGPS_ConfigurationParams(ctx, &pvalue->tgps_ConfigurationParams);
+      RT_CHECK(ctx, stat, 0, "tgps-ConfigurationParams", -1, "TGP-Sequence");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TGP_SequenceList(rtxContext* RT_RESTRICT ctx, const TGP_SequenceList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TGP-SequenceList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 6);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "TGP-SequenceList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "TGP-Sequence", (int32_t)i, "TGP-SequenceList");
+      stat = asn1PE_UMTS_TGP_Sequence(ctx, (const TGP_Sequence*)node->data);
+      RT_CHECK(ctx, stat, 0, "TGP-Sequence", (int32_t)i, "TGP-SequenceList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DPCH_CompressedModeInfo(rtxContext* RT_RESTRICT ctx, const DPCH_CompressedModeInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DPCH-CompressedModeInfo");
+   /* tgp-SequenceList */
+   stat = asn1PE_UMTS_TGP_SequenceList(ctx, &pvalue->tgp_SequenceList);
+   RT_CHECK(ctx, stat, 0, "tgp-SequenceList", -1, "DPCH-CompressedModeInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_TX_DiversityMode(rtxContext* RT_RESTRICT ctx, TX_DiversityMode value)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TX-DiversityMode");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TX-DiversityMode");
+   return 0;
+}
+
+int asn1PE_UMTS_S_Field(rtxContext* RT_RESTRICT ctx, S_Field value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "S-Field");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "S-Field");
+   return 0;
+}
+
+int asn1PE_UMTS_SSDT_Information(rtxContext* RT_RESTRICT ctx, const SSDT_Information* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SSDT-Information");
+   /* s-Field */
+   if (pvalue->s_Field > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->s_Field);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "S-Field", "s-Field", -1, "SSDT-Information");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->s_Field, 0, 1);
+   RT_CHECK(ctx, stat, "S-Field", "s-Field", -1, "SSDT-Information");
+   /* codeWordSet */
+   if (pvalue->codeWordSet > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->codeWordSet);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CodeWordSet", "codeWordSet", -1, "SSDT-Information");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->codeWordSet, 0, 3);
+   RT_CHECK(ctx, stat, "CodeWordSet", "codeWordSet", -1, "SSDT-Information");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->defaultDPCH_OffsetValue > 599u) {
+         rtxErrAddStrParm(ctx, "DefaultDPCH-OffsetValueFDD");
+         rtxErrAddUIntParm(ctx, pvalue->defaultDPCH_OffsetValue);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->defaultDPCH_OffsetValue, 0, 599);
+      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   /* dpch-CompressedModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_DPCH_CompressedModeInfo(ctx, &pvalue->dpch_CompressedModeInfo);
+      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeInfo", -1, 0);
+   }
+   /* tx-DiversityMode */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->tx_DiversityMode > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->tx_DiversityMode);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->tx_DiversityMode, 0, 3);
+      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
+   }
+   /* dummy */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_SSDT_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->defaultDPCH_OffsetValue > 7u) {
+         rtxErrAddStrParm(ctx, "DefaultDPCH-OffsetValueTDD");
+         rtxErrAddUIntParm(ctx, pvalue->defaultDPCH_OffsetValue);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->defaultDPCH_OffsetValue, 0, 7);
+      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_DL_CommonInformation_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_DL_CommonInformation_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-CommonInformation");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CommonInformation");
+   /* dl-DPCH-InfoCommon */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_DPCH_InfoCommon(ctx, &pvalue->dl_DPCH_InfoCommon);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, "DL-CommonInformation");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_DL_CommonInformation_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonInformation");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommon_r4_cfnHandling_initialise(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r4_cfnHandling_initialise* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (pvalue->m & 0x1u) {
+      stat = pe_ConsUInt64(ctx, pvalue->dummy, 0, 255);
+      RT_CHECK(ctx, stat, "Cfntargetsfnframeoffset", "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommon_r4_cfnHandling(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r4_cfnHandling* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.initialise == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "initialise", -1, 0);
+         stat = asn1PE_UMTS_DL_DPCH_InfoCommon_r4_cfnHandling_initialise(ctx, pvalue->u.initialise);
+         RT_CHECK(ctx, stat, 0, "initialise", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommon_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-DPCH-PowerControlInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, 0);
+   }
+   /* powerOffsetPilot-pdpdch */
+   if ((uint64_t)pvalue->powerOffsetPilot_pdpdch > 24u) {
+      rtxErrAddStrParm(ctx, "PowerOffsetPilot-pdpdch");
+      rtxErrAddUIntParm(ctx, pvalue->powerOffsetPilot_pdpdch);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PowerOffsetPilot-pdpdch", "powerOffsetPilot-pdpdch", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->powerOffsetPilot_pdpdch, 0, 24);
+   RT_CHECK(ctx, stat, "PowerOffsetPilot-pdpdch", "powerOffsetPilot-pdpdch", -1, 0);
+   /* dl-rate-matching-restriction */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_Dl_rate_matching_restriction(ctx, &pvalue->dl_rate_matching_restriction);
+      RT_CHECK(ctx, stat, 0, "dl-rate-matching-restriction", -1, 0);
+   }
+   /* spreadingFactorAndPilot */
+   stat = asn1PE_UMTS_SF512_AndPilot(ctx, &pvalue->spreadingFactorAndPilot);
+   RT_CHECK(ctx, stat, 0, "spreadingFactorAndPilot", -1, 0);
+   /* positionFixedOrFlexible */
+   if (pvalue->positionFixedOrFlexible > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->positionFixedOrFlexible);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->positionFixedOrFlexible, 0, 1);
+   RT_CHECK(ctx, stat, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
+   /* tfci-Existence */
+   stat = rtxEncBit(ctx, pvalue->tfci_Existence);
+   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommon_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-DPCH-PowerControlInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommon_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r4_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_DL_DPCH_InfoCommon_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_DL_DPCH_InfoCommon_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommon_r4(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-DPCH-InfoCommon-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-DPCH-InfoCommon-r4");
+   /* cfnHandling */
+   stat = asn1PE_UMTS_DL_DPCH_InfoCommon_r4_cfnHandling(ctx, &pvalue->cfnHandling);
+   RT_CHECK(ctx, stat, 0, "cfnHandling", -1, "DL-DPCH-InfoCommon-r4");
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_DL_DPCH_InfoCommon_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-DPCH-InfoCommon-r4");
+   /* mac-d-HFN-initial-value */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MAC_d_HFN_initial_value(ctx, pvalue->mac_d_HFN_initial_value);
+      RT_CHECK(ctx, stat, 0, "mac-d-HFN-initial-value", -1, "DL-DPCH-InfoCommon-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SSDT_UL(rtxContext* RT_RESTRICT ctx, SSDT_UL value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SSDT-UL");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SSDT-UL");
+   return 0;
+}
+
+int asn1PE_UMTS_SSDT_Information_r4(rtxContext* RT_RESTRICT ctx, const SSDT_Information_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SSDT-Information-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SSDT-Information-r4");
+   /* s-Field */
+   if (pvalue->s_Field > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->s_Field);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "S-Field", "s-Field", -1, "SSDT-Information-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->s_Field, 0, 1);
+   RT_CHECK(ctx, stat, "S-Field", "s-Field", -1, "SSDT-Information-r4");
+   /* codeWordSet */
+   if (pvalue->codeWordSet > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->codeWordSet);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CodeWordSet", "codeWordSet", -1, "SSDT-Information-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->codeWordSet, 0, 3);
+   RT_CHECK(ctx, stat, "CodeWordSet", "codeWordSet", -1, "SSDT-Information-r4");
+   /* ssdt-UL-r4 */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->ssdt_UL_r4 > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->ssdt_UL_r4);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "SSDT-UL", "ssdt-UL-r4", -1, "SSDT-Information-r4");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ssdt_UL_r4, 0, 1);
+      RT_CHECK(ctx, stat, "SSDT-UL", "ssdt-UL-r4", -1, "SSDT-Information-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->defaultDPCH_OffsetValue > 599u) {
+         rtxErrAddStrParm(ctx, "DefaultDPCH-OffsetValueFDD");
+         rtxErrAddUIntParm(ctx, pvalue->defaultDPCH_OffsetValue);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->defaultDPCH_OffsetValue, 0, 599);
+      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   /* dpch-CompressedModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_DPCH_CompressedModeInfo(ctx, &pvalue->dpch_CompressedModeInfo);
+      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeInfo", -1, 0);
+   }
+   /* tx-DiversityMode */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->tx_DiversityMode > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->tx_DiversityMode);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->tx_DiversityMode, 0, 3);
+      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
+   }
+   /* dummy */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_SSDT_Information_r4(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tstd-Indicator */
+   stat = rtxEncBit(ctx, pvalue->tstd_Indicator);
+   RT_CHECK(ctx, stat, 0, "tstd-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = asn1PE_UMTS_DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* tddOption */
+   stat = asn1PE_UMTS_DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->defaultDPCH_OffsetValue > 7u) {
+         rtxErrAddStrParm(ctx, "DefaultDPCH-OffsetValueTDD");
+         rtxErrAddUIntParm(ctx, pvalue->defaultDPCH_OffsetValue);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->defaultDPCH_OffsetValue, 0, 7);
+      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r4_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_DL_CommonInformation_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_DL_CommonInformation_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r4(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-CommonInformation-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CommonInformation-r4");
+   /* dl-DPCH-InfoCommon */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_DPCH_InfoCommon_r4(ctx, &pvalue->dl_DPCH_InfoCommon);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, "DL-CommonInformation-r4");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_DL_CommonInformation_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonInformation-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r5_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r5_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->defaultDPCH_OffsetValue > 599u) {
+         rtxErrAddStrParm(ctx, "DefaultDPCH-OffsetValueFDD");
+         rtxErrAddUIntParm(ctx, pvalue->defaultDPCH_OffsetValue);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->defaultDPCH_OffsetValue, 0, 599);
+      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   /* dpch-CompressedModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_DPCH_CompressedModeInfo(ctx, &pvalue->dpch_CompressedModeInfo);
+      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeInfo", -1, 0);
+   }
+   /* tx-DiversityMode */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->tx_DiversityMode > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->tx_DiversityMode);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->tx_DiversityMode, 0, 3);
+      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
+   }
+   /* dummy */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_SSDT_Information_r4(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tstd-Indicator */
+   stat = rtxEncBit(ctx, pvalue->tstd_Indicator);
+   RT_CHECK(ctx, stat, 0, "tstd-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = asn1PE_UMTS_DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r5_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r5_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* tddOption */
+   stat = asn1PE_UMTS_DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->defaultDPCH_OffsetValue > 7u) {
+         rtxErrAddStrParm(ctx, "DefaultDPCH-OffsetValueTDD");
+         rtxErrAddUIntParm(ctx, pvalue->defaultDPCH_OffsetValue);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->defaultDPCH_OffsetValue, 0, 7);
+      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r5_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r5_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_DL_CommonInformation_r5_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_DL_CommonInformation_r5_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r5_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5_mac_hsResetIndicator value)
 {
    int stat = 0;
    if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_UE_PositioningCapabilityExt_v3a0(rtxContext* ctx, const UE_PositioningCapabilityExt_v3a0* pvalue)
+int asn1PE_UMTS_DL_CommonInformation_r5(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r5* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-PositioningCapabilityExt-v3a0");
-   /* validity-CellPCH-UraPCH */
-   rtxCtxtPushElemName(ctx, "validity-CellPCH-UraPCH");
-   if (pvalue->validity_CellPCH_UraPCH > 0) {
-      rtxErrAddUIntParm(ctx, pvalue->validity_CellPCH_UraPCH);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-CommonInformation-r5");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CommonInformation-r5");
+   /* dl-DPCH-InfoCommon */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_DPCH_InfoCommon_r4(ctx, &pvalue->dl_DPCH_InfoCommon);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, "DL-CommonInformation-r5");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->validity_CellPCH_UraPCH, 0, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_DL_CommonInformation_r5_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonInformation-r5");
+   /* mac-hsResetIndicator */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->mac_hsResetIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mac_hsResetIndicator);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r5");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mac_hsResetIndicator, 0, 0);
+      RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r5");
+   }
    return 0;
 }
 
-int asn1PE_UMTS_UE_RadioAccessCapability_v3a0ext(rtxContext* ctx, const UE_RadioAccessCapability_v3a0ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability-v3a0ext");
-   /* ue-PositioningCapabilityExt-v3a0 */
-   rtxCtxtPushElemName(ctx, "ue-PositioningCapabilityExt-v3a0");
-   stat = asn1PE_UMTS_UE_PositioningCapabilityExt_v3a0(ctx, &pvalue->ue_PositioningCapabilityExt_v3a0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_PositioningCapabilityExt_v3g0_sfn_sfnType2Capability(rtxContext* ctx, UE_PositioningCapabilityExt_v3g0_sfn_sfnType2Capability value)
+int asn1PE_UMTS_TimingMaintainedSynchInd(rtxContext* RT_RESTRICT ctx, TimingMaintainedSynchInd value)
 {
    int stat = 0;
    if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TimingMaintainedSynchInd");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TimingMaintainedSynchInd");
    return 0;
 }
 
-int asn1PE_UMTS_UE_PositioningCapabilityExt_v3g0(rtxContext* ctx, const UE_PositioningCapabilityExt_v3g0* pvalue)
+int asn1PE_UMTS_DL_DPCH_InfoCommon_r6_cfnHandling_maintain(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r6_cfnHandling_maintain* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-PositioningCapabilityExt-v3g0");
-   /* sfn-sfnType2Capability */
-   rtxCtxtPushElemName(ctx, "sfn-sfnType2Capability");
-   if (pvalue->sfn_sfnType2Capability > 0) {
-      rtxErrAddUIntParm(ctx, pvalue->sfn_sfnType2Capability);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* timingmaintainedsynchind */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->timingmaintainedsynchind > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->timingmaintainedsynchind);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TimingMaintainedSynchInd", "timingmaintainedsynchind", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->timingmaintainedsynchind, 0, 0);
+      RT_CHECK(ctx, stat, "TimingMaintainedSynchInd", "timingmaintainedsynchind", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->sfn_sfnType2Capability, 0, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_UE_RadioAccessCapability_v3g0ext(rtxContext* ctx, const UE_RadioAccessCapability_v3g0ext* pvalue)
+int asn1PE_UMTS_DL_DPCH_InfoCommon_r6_cfnHandling(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r6_cfnHandling* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-RadioAccessCapability-v3g0ext");
-   /* ue-PositioningCapabilityExt-v3g0 */
-   rtxCtxtPushElemName(ctx, "ue-PositioningCapabilityExt-v3g0");
-   stat = asn1PE_UMTS_UE_PositioningCapabilityExt_v3g0(ctx, &pvalue->ue_PositioningCapabilityExt_v3g0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.maintain == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "maintain", -1, 0);
+         stat = asn1PE_UMTS_DL_DPCH_InfoCommon_r6_cfnHandling_maintain(ctx, pvalue->u.maintain);
+         RT_CHECK(ctx, stat, 0, "maintain", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommon_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-DPCH-PowerControlInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, 0);
+   }
+   /* powerOffsetPilot-pdpdch */
+   if ((uint64_t)pvalue->powerOffsetPilot_pdpdch > 24u) {
+      rtxErrAddStrParm(ctx, "PowerOffsetPilot-pdpdch");
+      rtxErrAddUIntParm(ctx, pvalue->powerOffsetPilot_pdpdch);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PowerOffsetPilot-pdpdch", "powerOffsetPilot-pdpdch", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->powerOffsetPilot_pdpdch, 0, 24);
+   RT_CHECK(ctx, stat, "PowerOffsetPilot-pdpdch", "powerOffsetPilot-pdpdch", -1, 0);
+   /* dl-rate-matching-restriction */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_Dl_rate_matching_restriction(ctx, &pvalue->dl_rate_matching_restriction);
+      RT_CHECK(ctx, stat, 0, "dl-rate-matching-restriction", -1, 0);
+   }
+   /* spreadingFactorAndPilot */
+   stat = asn1PE_UMTS_SF512_AndPilot(ctx, &pvalue->spreadingFactorAndPilot);
+   RT_CHECK(ctx, stat, 0, "spreadingFactorAndPilot", -1, 0);
+   /* positionFixedOrFlexible */
+   if (pvalue->positionFixedOrFlexible > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->positionFixedOrFlexible);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->positionFixedOrFlexible, 0, 1);
+   RT_CHECK(ctx, stat, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
+   /* tfci-Existence */
+   stat = rtxEncBit(ctx, pvalue->tfci_Existence);
+   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommon_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-DPCH-PowerControlInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommon_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r6_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_DL_DPCH_InfoCommon_r6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_DL_DPCH_InfoCommon_r6_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommon_r6(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-DPCH-InfoCommon-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-DPCH-InfoCommon-r6");
+   /* cfnHandling */
+   stat = asn1PE_UMTS_DL_DPCH_InfoCommon_r6_cfnHandling(ctx, &pvalue->cfnHandling);
+   RT_CHECK(ctx, stat, 0, "cfnHandling", -1, "DL-DPCH-InfoCommon-r6");
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_DL_DPCH_InfoCommon_r6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-DPCH-InfoCommon-r6");
+   /* mac-d-HFN-initial-value */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MAC_d_HFN_initial_value(ctx, pvalue->mac_d_HFN_initial_value);
+      RT_CHECK(ctx, stat, 0, "mac-d-HFN-initial-value", -1, "DL-DPCH-InfoCommon-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_FDPCH_InfoCommon_r6_cfnHandling_maintain(rtxContext* RT_RESTRICT ctx, const DL_FDPCH_InfoCommon_r6_cfnHandling_maintain* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* timingmaintainedsynchind */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->timingmaintainedsynchind > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->timingmaintainedsynchind);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TimingMaintainedSynchInd", "timingmaintainedsynchind", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->timingmaintainedsynchind, 0, 0);
+      RT_CHECK(ctx, stat, "TimingMaintainedSynchInd", "timingmaintainedsynchind", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_FDPCH_InfoCommon_r6_cfnHandling(rtxContext* RT_RESTRICT ctx, const DL_FDPCH_InfoCommon_r6_cfnHandling* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.maintain == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "maintain", -1, 0);
+         stat = asn1PE_UMTS_DL_FDPCH_InfoCommon_r6_cfnHandling_maintain(ctx, pvalue->u.maintain);
+         RT_CHECK(ctx, stat, 0, "maintain", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_FDPCH_InfoCommon_r6(rtxContext* RT_RESTRICT ctx, const DL_FDPCH_InfoCommon_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-FDPCH-InfoCommon-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-FDPCH-InfoCommon-r6");
+   /* cfnHandling */
+   stat = asn1PE_UMTS_DL_FDPCH_InfoCommon_r6_cfnHandling(ctx, &pvalue->cfnHandling);
+   RT_CHECK(ctx, stat, 0, "cfnHandling", -1, "DL-FDPCH-InfoCommon-r6");
+   /* dl-FDPCH-PowerControlInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_FDPCH_PowerControlInfo);
+      RT_CHECK(ctx, stat, 0, "dl-FDPCH-PowerControlInfo", -1, "DL-FDPCH-InfoCommon-r6");
+   }
+   /* dl-FDPCH-TPCcommandErrorRate */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)(pvalue->dl_FDPCH_TPCcommandErrorRate - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "dl-FDPCH-TPCcommandErrorRate");
+         rtxErrAddUIntParm(ctx, pvalue->dl_FDPCH_TPCcommandErrorRate);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "dl-FDPCH-TPCcommandErrorRate", -1, "DL-FDPCH-InfoCommon-r6");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dl_FDPCH_TPCcommandErrorRate, 1, 16);
+      RT_CHECK(ctx, stat, 0, "dl-FDPCH-TPCcommandErrorRate", -1, "DL-FDPCH-InfoCommon-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r6_dl_dpchInfoCommon(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r6_dl_dpchInfoCommon* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.dl_DPCH_InfoCommon == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-DPCH-InfoCommon", -1, 0);
+         stat = asn1PE_UMTS_DL_DPCH_InfoCommon_r6(ctx, pvalue->u.dl_DPCH_InfoCommon);
+         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.dl_FDPCH_InfoCommon == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-FDPCH-InfoCommon", -1, 0);
+         stat = asn1PE_UMTS_DL_FDPCH_InfoCommon_r6(ctx, pvalue->u.dl_FDPCH_InfoCommon);
+         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoCommon", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->defaultDPCH_OffsetValue > 599u) {
+         rtxErrAddStrParm(ctx, "DefaultDPCH-OffsetValueFDD");
+         rtxErrAddUIntParm(ctx, pvalue->defaultDPCH_OffsetValue);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->defaultDPCH_OffsetValue, 0, 599);
+      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   /* dpch-CompressedModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_DPCH_CompressedModeInfo(ctx, &pvalue->dpch_CompressedModeInfo);
+      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeInfo", -1, 0);
+   }
+   /* tx-DiversityMode */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->tx_DiversityMode > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->tx_DiversityMode);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->tx_DiversityMode, 0, 3);
+      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tstd-Indicator */
+   stat = rtxEncBit(ctx, pvalue->tstd_Indicator);
+   RT_CHECK(ctx, stat, 0, "tstd-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = asn1PE_UMTS_DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* tddOption */
+   stat = asn1PE_UMTS_DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->defaultDPCH_OffsetValue > 7u) {
+         rtxErrAddStrParm(ctx, "DefaultDPCH-OffsetValueTDD");
+         rtxErrAddUIntParm(ctx, pvalue->defaultDPCH_OffsetValue);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->defaultDPCH_OffsetValue, 0, 7);
+      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r6_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_DL_CommonInformation_r6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_DL_CommonInformation_r6_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
    return 0;
 }
 

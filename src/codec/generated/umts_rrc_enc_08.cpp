@@ -6,494 +6,2021 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PE_UMTS_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo(rtxContext* ctx, const DL_HSPDSCH_Information_r8_ext_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "fdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r8_ext(rtxContext* ctx, const DL_HSPDSCH_Information_r8_ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-HSPDSCH-Information-r8-ext");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size(rtxContext* ctx, HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size value)
+int asn1PE_UMTS_EnvironmentCharacterisation(rtxContext* RT_RESTRICT ctx, EnvironmentCharacterisation value)
 {
    int stat = 0;
    if (value > 3) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "EnvironmentCharacterisation");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "EnvironmentCharacterisation");
    return 0;
 }
 
-int asn1PE_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128(rtxContext* ctx, const HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128* pvalue)
+int asn1PE_UMTS_Eutra_EventResult_reportedCells(rtxContext* RT_RESTRICT ctx, const Eutra_EventResult_reportedCells* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* hS-SCCH-tpc-step-size */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "hS-SCCH-tpc-step-size");
-      if (pvalue->hS_SCCH_tpc_step_size > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->hS_SCCH_tpc_step_size);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 503u) {
+         rtxErrAddStrParm(ctx, "EUTRA-PhysicalCellIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "EUTRA-PhysicalCellIdentity", "EUTRA-PhysicalCellIdentity", (int32_t)i, 0);
       }
-      stat = pe_ConsUInt64(ctx, pvalue->hS_SCCH_tpc_step_size, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 503);
+      RT_CHECK(ctx, stat, "EUTRA-PhysicalCellIdentity", "EUTRA-PhysicalCellIdentity", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd(rtxContext* ctx, const HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd* pvalue)
+int asn1PE_UMTS_Eutra_EventResult(rtxContext* RT_RESTRICT ctx, const Eutra_EventResult* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd768");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Eutra-EventResult");
+   /* earfcn */
+   stat = pe_ConsUInt64(ctx, pvalue->earfcn, 0, 65535);
+   RT_CHECK(ctx, stat, "EARFCN", "earfcn", -1, "Eutra-EventResult");
+   /* reportedCells */
+   stat = asn1PE_UMTS_Eutra_EventResult_reportedCells(ctx, &pvalue->reportedCells);
+   RT_CHECK(ctx, stat, 0, "reportedCells", -1, "Eutra-EventResult");
    return 0;
 }
 
-int asn1PE_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo(rtxContext* ctx, const HS_SCCH_Info_r8_ext_modeSpecificInfo* pvalue)
+int asn1PE_UMTS_Eutra_EventResultList(rtxContext* RT_RESTRICT ctx, const Eutra_EventResultList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r8_ext(rtxContext* ctx, const HS_SCCH_Info_r8_ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HS-SCCH-Info-r8-ext");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r8_ext2(rtxContext* ctx, const DL_HSPDSCH_Information_r8_ext2* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-HSPDSCH-Information-r8-ext2");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* hs-scch-Info */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "hs-scch-Info");
-      stat = asn1PE_UMTS_HS_SCCH_Info_r8_ext(ctx, &pvalue->hs_scch_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DSCH_RadioLinkIdentifier(rtxContext* ctx, DSCH_RadioLinkIdentifier value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DSCH-RadioLinkIdentifier");
-   if ((uint64_t)value > 511u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 511);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RL_IdentifierList(rtxContext* ctx, const RL_IdentifierList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Eutra-EventResultList");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "RL-IdentifierList");
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "Eutra-EventResultList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "Eutra-EventResult", (int32_t)i, "Eutra-EventResultList");
+      stat = asn1PE_UMTS_Eutra_EventResult(ctx, (const Eutra_EventResult*)node->data);
+      RT_CHECK(ctx, stat, 0, "Eutra-EventResult", (int32_t)i, "Eutra-EventResultList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_EventIDInterRAT(rtxContext* RT_RESTRICT ctx, EventIDInterRAT value)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "EventIDInterRAT");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "EventIDInterRAT");
+   return 0;
+}
+
+int asn1PE_UMTS_EUTRA_EventResults(rtxContext* RT_RESTRICT ctx, const EUTRA_EventResults* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-EventResults");
+   /* eventID */
+   if (pvalue->eventID > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->eventID);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "EventIDInterRAT", "eventID", -1, "EUTRA-EventResults");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->eventID, 0, 3);
+   RT_CHECK(ctx, stat, "EventIDInterRAT", "eventID", -1, "EUTRA-EventResults");
+   /* eutra-EventResultsList */
+   stat = asn1PE_UMTS_Eutra_EventResultList(ctx, &pvalue->eutra_EventResultsList);
+   RT_CHECK(ctx, stat, 0, "eutra-EventResultsList", -1, "EUTRA-EventResults");
+   return 0;
+}
+
+int asn1PE_UMTS_EUTRA_MeasurementBandwidth(rtxContext* RT_RESTRICT ctx, EUTRA_MeasurementBandwidth value)
+{
+   int stat = 0;
+   if (value > 5) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "EUTRA-MeasurementBandwidth");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-MeasurementBandwidth");
+   return 0;
+}
+
+int asn1PE_UMTS_EUTRA_FrequencyAndPriorityInfo(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyAndPriorityInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-FrequencyAndPriorityInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-FrequencyAndPriorityInfo");
+   /* earfcn */
+   stat = pe_ConsUInt64(ctx, pvalue->earfcn, 0, 65535);
+   RT_CHECK(ctx, stat, "EARFCN", "earfcn", -1, "EUTRA-FrequencyAndPriorityInfo");
+   /* measurementBandwidth */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->measurementBandwidth > 5) {
+         rtxErrAddUIntParm(ctx, pvalue->measurementBandwidth);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "EUTRA-MeasurementBandwidth", "measurementBandwidth", -1, "EUTRA-FrequencyAndPriorityInfo");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->measurementBandwidth, 0, 5);
+      RT_CHECK(ctx, stat, "EUTRA-MeasurementBandwidth", "measurementBandwidth", -1, "EUTRA-FrequencyAndPriorityInfo");
+   }
+   /* priority */
+   if ((uint64_t)pvalue->priority > 7u) {
+      rtxErrAddStrParm(ctx, "priority");
+      rtxErrAddUIntParm(ctx, pvalue->priority);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "priority", -1, "EUTRA-FrequencyAndPriorityInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->priority, 0, 7);
+   RT_CHECK(ctx, stat, 0, "priority", -1, "EUTRA-FrequencyAndPriorityInfo");
+   /* qRxLevMinEUTRA */
+   if (pvalue->qRxLevMinEUTRA < -70 || pvalue->qRxLevMinEUTRA > -22) {
+      rtxErrAddStrParm(ctx, "qRxLevMinEUTRA");
+      rtxErrAddIntParm(ctx, pvalue->qRxLevMinEUTRA);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "qRxLevMinEUTRA", -1, "EUTRA-FrequencyAndPriorityInfo");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->qRxLevMinEUTRA, -70, -22);
+   RT_CHECK(ctx, stat, 0, "qRxLevMinEUTRA", -1, "EUTRA-FrequencyAndPriorityInfo");
+   /* threshXhigh */
+   if ((uint64_t)pvalue->threshXhigh > 31u) {
+      rtxErrAddStrParm(ctx, "threshXhigh");
+      rtxErrAddUIntParm(ctx, pvalue->threshXhigh);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "threshXhigh", -1, "EUTRA-FrequencyAndPriorityInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->threshXhigh, 0, 31);
+   RT_CHECK(ctx, stat, 0, "threshXhigh", -1, "EUTRA-FrequencyAndPriorityInfo");
+   /* threshXlow */
+   if ((uint64_t)pvalue->threshXlow > 31u) {
+      rtxErrAddStrParm(ctx, "threshXlow");
+      rtxErrAddUIntParm(ctx, pvalue->threshXlow);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "threshXlow", -1, "EUTRA-FrequencyAndPriorityInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->threshXlow, 0, 31);
+   RT_CHECK(ctx, stat, 0, "threshXlow", -1, "EUTRA-FrequencyAndPriorityInfo");
+   /* eutra-blackListedCellList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_EUTRA_BlacklistedCellPerFreqList(ctx, &pvalue->eutra_blackListedCellList);
+      RT_CHECK(ctx, stat, 0, "eutra-blackListedCellList", -1, "EUTRA-FrequencyAndPriorityInfo");
+   }
+   /* eutraDetection */
+   stat = rtxEncBit(ctx, pvalue->eutraDetection);
+   RT_CHECK(ctx, stat, 0, "eutraDetection", -1, "EUTRA-FrequencyAndPriorityInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_EUTRA_FrequencyAndPriorityInfo_v920ext(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyAndPriorityInfo_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-FrequencyAndPriorityInfo-v920ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-FrequencyAndPriorityInfo-v920ext");
+   /* qqualMinEUTRA */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->qqualMinEUTRA < -34 || pvalue->qqualMinEUTRA > -3) {
+         rtxErrAddStrParm(ctx, "qqualMinEUTRA");
+         rtxErrAddIntParm(ctx, pvalue->qqualMinEUTRA);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "qqualMinEUTRA", -1, "EUTRA-FrequencyAndPriorityInfo-v920ext");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->qqualMinEUTRA, -34, -3);
+      RT_CHECK(ctx, stat, 0, "qqualMinEUTRA", -1, "EUTRA-FrequencyAndPriorityInfo-v920ext");
+   }
+   /* threshXhigh2 */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->threshXhigh2 > 31u) {
+         rtxErrAddStrParm(ctx, "threshXhigh2");
+         rtxErrAddUIntParm(ctx, pvalue->threshXhigh2);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "threshXhigh2", -1, "EUTRA-FrequencyAndPriorityInfo-v920ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->threshXhigh2, 0, 31);
+      RT_CHECK(ctx, stat, 0, "threshXhigh2", -1, "EUTRA-FrequencyAndPriorityInfo-v920ext");
+   }
+   /* threshXlow2 */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)pvalue->threshXlow2 > 31u) {
+         rtxErrAddStrParm(ctx, "threshXlow2");
+         rtxErrAddUIntParm(ctx, pvalue->threshXlow2);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "threshXlow2", -1, "EUTRA-FrequencyAndPriorityInfo-v920ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->threshXlow2, 0, 31);
+      RT_CHECK(ctx, stat, 0, "threshXlow2", -1, "EUTRA-FrequencyAndPriorityInfo-v920ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_EUTRA_FrequencyAndPriorityInfoList(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyAndPriorityInfoList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-FrequencyAndPriorityInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
    RT_SET_SIZE(ctx, 1, 8);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "EUTRA-FrequencyAndPriorityInfoList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "PrimaryCPICH-Info", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, (const PrimaryCPICH_Info*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "EUTRA-FrequencyAndPriorityInfo", (int32_t)i, "EUTRA-FrequencyAndPriorityInfoList");
+      stat = asn1PE_UMTS_EUTRA_FrequencyAndPriorityInfo(ctx, (const EUTRA_FrequencyAndPriorityInfo*)node->data);
+      RT_CHECK(ctx, stat, 0, "EUTRA-FrequencyAndPriorityInfo", (int32_t)i, "EUTRA-FrequencyAndPriorityInfoList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PDSCH_SHO_DCH_Info(rtxContext* ctx, const PDSCH_SHO_DCH_Info* pvalue)
+int asn1PE_UMTS_EUTRA_FrequencyAndPriorityInfoList_v920ext(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyAndPriorityInfoList_v920ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PDSCH-SHO-DCH-Info");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* dsch-RadioLinkIdentifier */
-   rtxCtxtPushElemName(ctx, "dsch-RadioLinkIdentifier");
-   rtxCtxtPushTypeName(ctx, "DSCH-RadioLinkIdentifier");
-   if ((uint64_t)pvalue->dsch_RadioLinkIdentifier > 511u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->dsch_RadioLinkIdentifier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dsch_RadioLinkIdentifier, 0, 511);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* rl-IdentifierList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "rl-IdentifierList");
-      stat = asn1PE_UMTS_RL_IdentifierList(ctx, &pvalue->rl_IdentifierList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MaxTFCI_Field2Value(rtxContext* ctx, MaxTFCI_Field2Value value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MaxTFCI-Field2Value");
-   if ((uint64_t)(value - 1) > 1022u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 1023);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DSCH_Mapping(rtxContext* ctx, const DSCH_Mapping* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DSCH-Mapping");
-   /* maxTFCI-Field2Value */
-   rtxCtxtPushElemName(ctx, "maxTFCI-Field2Value");
-   rtxCtxtPushTypeName(ctx, "MaxTFCI-Field2Value");
-   if ((uint64_t)(pvalue->maxTFCI_Field2Value - 1) > 1022u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->maxTFCI_Field2Value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxTFCI_Field2Value, 1, 1023);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* spreadingFactor */
-   rtxCtxtPushElemName(ctx, "spreadingFactor");
-   rtxCtxtPushTypeName(ctx, "SF-PDSCH");
-   if (pvalue->spreadingFactor > 6) {
-      rtxErrAddUIntParm(ctx, pvalue->spreadingFactor);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->spreadingFactor, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* codeNumber */
-   rtxCtxtPushElemName(ctx, "codeNumber");
-   rtxCtxtPushTypeName(ctx, "CodeNumberDSCH");
-   stat = pe_ConsUInt64(ctx, pvalue->codeNumber, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* multiCodeInfo */
-   rtxCtxtPushElemName(ctx, "multiCodeInfo");
-   rtxCtxtPushTypeName(ctx, "MultiCodeInfo");
-   if ((uint64_t)(pvalue->multiCodeInfo - 1) > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->multiCodeInfo);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->multiCodeInfo, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DSCH_MappingList(rtxContext* ctx, const DSCH_MappingList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-FrequencyAndPriorityInfoList-v920ext");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "DSCH-MappingList");
-   RT_SET_SIZE(ctx, 1, 256);
+   RT_SET_SIZE(ctx, 1, 8);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "EUTRA-FrequencyAndPriorityInfoList-v920ext");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "DSCH-Mapping", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_DSCH_Mapping(ctx, (const DSCH_Mapping*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "EUTRA-FrequencyAndPriorityInfo-v920ext", (int32_t)i, "EUTRA-FrequencyAndPriorityInfoList-v920ext");
+      stat = asn1PE_UMTS_EUTRA_FrequencyAndPriorityInfo_v920ext(ctx, (const EUTRA_FrequencyAndPriorityInfo_v920ext*)node->data);
+      RT_CHECK(ctx, stat, 0, "EUTRA-FrequencyAndPriorityInfo-v920ext", (int32_t)i, "EUTRA-FrequencyAndPriorityInfoList-v920ext");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PDSCH_CodeInfo(rtxContext* ctx, const PDSCH_CodeInfo* pvalue)
+int asn1PE_UMTS_EUTRA_FrequencyRemoval_removeSomeFrequencies(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyRemoval_removeSomeFrequencies* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PDSCH-CodeInfo");
-   /* spreadingFactor */
-   rtxCtxtPushElemName(ctx, "spreadingFactor");
-   rtxCtxtPushTypeName(ctx, "SF-PDSCH");
-   if (pvalue->spreadingFactor > 6) {
-      rtxErrAddUIntParm(ctx, pvalue->spreadingFactor);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->spreadingFactor, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* codeNumber */
-   rtxCtxtPushElemName(ctx, "codeNumber");
-   rtxCtxtPushTypeName(ctx, "CodeNumberDSCH");
-   stat = pe_ConsUInt64(ctx, pvalue->codeNumber, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* multiCodeInfo */
-   rtxCtxtPushElemName(ctx, "multiCodeInfo");
-   rtxCtxtPushTypeName(ctx, "MultiCodeInfo");
-   if ((uint64_t)(pvalue->multiCodeInfo - 1) > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->multiCodeInfo);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->multiCodeInfo, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_CodeInfoList(rtxContext* ctx, const PDSCH_CodeInfoList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "PDSCH-CodeInfoList");
-   RT_SET_SIZE(ctx, 1, 512);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "PDSCH-CodeInfo", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_PDSCH_CodeInfo(ctx, (const PDSCH_CodeInfo*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 65535);
+      RT_CHECK(ctx, stat, "EARFCN", "EARFCN", (int32_t)i, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_ReplacedPDSCH_CodeInfo(rtxContext* ctx, const ReplacedPDSCH_CodeInfo* pvalue)
+int asn1PE_UMTS_EUTRA_FrequencyRemoval(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyRemoval* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ReplacedPDSCH-CodeInfo");
-   /* tfci-Field2 */
-   rtxCtxtPushElemName(ctx, "tfci-Field2");
-   rtxCtxtPushTypeName(ctx, "MaxTFCI-Field2Value");
-   if ((uint64_t)(pvalue->tfci_Field2 - 1) > 1022u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->tfci_Field2);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tfci_Field2, 1, 1023);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* spreadingFactor */
-   rtxCtxtPushElemName(ctx, "spreadingFactor");
-   rtxCtxtPushTypeName(ctx, "SF-PDSCH");
-   if (pvalue->spreadingFactor > 6) {
-      rtxErrAddUIntParm(ctx, pvalue->spreadingFactor);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->spreadingFactor, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* codeNumber */
-   rtxCtxtPushElemName(ctx, "codeNumber");
-   rtxCtxtPushTypeName(ctx, "CodeNumberDSCH");
-   stat = pe_ConsUInt64(ctx, pvalue->codeNumber, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* multiCodeInfo */
-   rtxCtxtPushElemName(ctx, "multiCodeInfo");
-   rtxCtxtPushTypeName(ctx, "MultiCodeInfo");
-   if ((uint64_t)(pvalue->multiCodeInfo - 1) > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->multiCodeInfo);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->multiCodeInfo, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ReplacedPDSCH_CodeInfoList(rtxContext* ctx, const ReplacedPDSCH_CodeInfoList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "ReplacedPDSCH-CodeInfoList");
-   RT_SET_SIZE(ctx, 1, 512);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "ReplacedPDSCH-CodeInfo", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_ReplacedPDSCH_CodeInfo(ctx, (const ReplacedPDSCH_CodeInfo*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_CodeMapping_signallingMethod(rtxContext* ctx, const PDSCH_CodeMapping_signallingMethod* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 3) RT_RAISE(ctx, RT_ERR_INVOPT);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-FrequencyRemoval");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, "EUTRA-FrequencyRemoval");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "EUTRA-FrequencyRemoval");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "codeRange");
-         if (pvalue->u.codeRange == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CodeRange(ctx, pvalue->u.codeRange);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tfci-Range");
-         if (pvalue->u.tfci_Range == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DSCH_MappingList(ctx, pvalue->u.tfci_Range);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.removeSomeFrequencies == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "removeSomeFrequencies", -1, "EUTRA-FrequencyRemoval");
+         stat = asn1PE_UMTS_EUTRA_FrequencyRemoval_removeSomeFrequencies(ctx, pvalue->u.removeSomeFrequencies);
+         RT_CHECK(ctx, stat, 0, "removeSomeFrequencies", -1, "EUTRA-FrequencyRemoval");
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "explicit-config");
-         if (pvalue->u.explicit_config == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PDSCH_CodeInfoList(ctx, pvalue->u.explicit_config);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_EUTRA_FrequencyInfo(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-FrequencyInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-FrequencyInfo");
+   /* earfcn */
+   stat = pe_ConsUInt64(ctx, pvalue->earfcn, 0, 65535);
+   RT_CHECK(ctx, stat, "EARFCN", "earfcn", -1, "EUTRA-FrequencyInfo");
+   /* measurementBandwidth */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->measurementBandwidth > 5) {
+         rtxErrAddUIntParm(ctx, pvalue->measurementBandwidth);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "EUTRA-MeasurementBandwidth", "measurementBandwidth", -1, "EUTRA-FrequencyInfo");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->measurementBandwidth, 0, 5);
+      RT_CHECK(ctx, stat, "EUTRA-MeasurementBandwidth", "measurementBandwidth", -1, "EUTRA-FrequencyInfo");
+   }
+   /* eutra-blackListedCellList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_EUTRA_BlacklistedCellPerFreqList(ctx, &pvalue->eutra_blackListedCellList);
+      RT_CHECK(ctx, stat, 0, "eutra-blackListedCellList", -1, "EUTRA-FrequencyInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_EUTRA_FrequencyInfoList(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyInfoList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-FrequencyInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "EUTRA-FrequencyInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "EUTRA-FrequencyInfo", (int32_t)i, "EUTRA-FrequencyInfoList");
+      stat = asn1PE_UMTS_EUTRA_FrequencyInfo(ctx, (const EUTRA_FrequencyInfo*)node->data);
+      RT_CHECK(ctx, stat, 0, "EUTRA-FrequencyInfo", (int32_t)i, "EUTRA-FrequencyInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_EUTRA_FrequencyList(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-FrequencyList");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-FrequencyList");
+   /* eutraFrequencyRemoval */
+   stat = asn1PE_UMTS_EUTRA_FrequencyRemoval(ctx, &pvalue->eutraFrequencyRemoval);
+   RT_CHECK(ctx, stat, 0, "eutraFrequencyRemoval", -1, "EUTRA-FrequencyList");
+   /* eutraNewFrequencies */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_EUTRA_FrequencyInfoList(ctx, &pvalue->eutraNewFrequencies);
+      RT_CHECK(ctx, stat, 0, "eutraNewFrequencies", -1, "EUTRA-FrequencyList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_EUTRA_SIAcquisition(rtxContext* RT_RESTRICT ctx, const EUTRA_SIAcquisition* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-SIAcquisition");
+   /* earfcn */
+   stat = pe_ConsUInt64(ctx, pvalue->earfcn, 0, 65535);
+   RT_CHECK(ctx, stat, "EARFCN", "earfcn", -1, "EUTRA-SIAcquisition");
+   /* physicalCellIdentity */
+   if ((uint64_t)pvalue->physicalCellIdentity > 503u) {
+      rtxErrAddStrParm(ctx, "EUTRA-PhysicalCellIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->physicalCellIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "EUTRA-PhysicalCellIdentity", "physicalCellIdentity", -1, "EUTRA-SIAcquisition");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->physicalCellIdentity, 0, 503);
+   RT_CHECK(ctx, stat, "EUTRA-PhysicalCellIdentity", "physicalCellIdentity", -1, "EUTRA-SIAcquisition");
+   return 0;
+}
+
+int asn1PE_UMTS_EUTRA_FrequencyList_r9(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyList_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-FrequencyList-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-FrequencyList-r9");
+   /* eutraFrequencyRemoval */
+   stat = asn1PE_UMTS_EUTRA_FrequencyRemoval(ctx, &pvalue->eutraFrequencyRemoval);
+   RT_CHECK(ctx, stat, 0, "eutraFrequencyRemoval", -1, "EUTRA-FrequencyList-r9");
+   /* eutraNewFrequencies */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_EUTRA_FrequencyInfoList(ctx, &pvalue->eutraNewFrequencies);
+      RT_CHECK(ctx, stat, 0, "eutraNewFrequencies", -1, "EUTRA-FrequencyList-r9");
+   }
+   /* eutraSIAcquisition */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_EUTRA_SIAcquisition(ctx, &pvalue->eutraSIAcquisition);
+      RT_CHECK(ctx, stat, 0, "eutraSIAcquisition", -1, "EUTRA-FrequencyList-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_EUTRA_MeasuredCells(rtxContext* RT_RESTRICT ctx, const EUTRA_MeasuredCells* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-MeasuredCells");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-MeasuredCells");
+   /* physicalCellIdentity */
+   if ((uint64_t)pvalue->physicalCellIdentity > 503u) {
+      rtxErrAddStrParm(ctx, "EUTRA-PhysicalCellIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->physicalCellIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "EUTRA-PhysicalCellIdentity", "physicalCellIdentity", -1, "EUTRA-MeasuredCells");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->physicalCellIdentity, 0, 503);
+   RT_CHECK(ctx, stat, "EUTRA-PhysicalCellIdentity", "physicalCellIdentity", -1, "EUTRA-MeasuredCells");
+   /* rSRP */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->rSRP > 97u) {
+         rtxErrAddStrParm(ctx, "rSRP");
+         rtxErrAddUIntParm(ctx, pvalue->rSRP);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rSRP", -1, "EUTRA-MeasuredCells");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->rSRP, 0, 97);
+      RT_CHECK(ctx, stat, 0, "rSRP", -1, "EUTRA-MeasuredCells");
+   }
+   /* rSRQ */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->rSRQ > 33u) {
+         rtxErrAddStrParm(ctx, "rSRQ");
+         rtxErrAddUIntParm(ctx, pvalue->rSRQ);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rSRQ", -1, "EUTRA-MeasuredCells");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->rSRQ, 0, 33);
+      RT_CHECK(ctx, stat, 0, "rSRQ", -1, "EUTRA-MeasuredCells");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Eutra_MeasuredResult_measuredEUTRACells(rtxContext* RT_RESTRICT ctx, const Eutra_MeasuredResult_measuredEUTRACells* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "EUTRA-MeasuredCells", (int32_t)i, 0);
+      stat = asn1PE_UMTS_EUTRA_MeasuredCells(ctx, (const EUTRA_MeasuredCells*)node->data);
+      RT_CHECK(ctx, stat, 0, "EUTRA-MeasuredCells", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Eutra_MeasuredResult(rtxContext* RT_RESTRICT ctx, const Eutra_MeasuredResult* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Eutra-MeasuredResult");
+   /* earfcn */
+   stat = pe_ConsUInt64(ctx, pvalue->earfcn, 0, 65535);
+   RT_CHECK(ctx, stat, "EARFCN", "earfcn", -1, "Eutra-MeasuredResult");
+   /* measuredEUTRACells */
+   stat = asn1PE_UMTS_Eutra_MeasuredResult_measuredEUTRACells(ctx, &pvalue->measuredEUTRACells);
+   RT_CHECK(ctx, stat, 0, "measuredEUTRACells", -1, "Eutra-MeasuredResult");
+   return 0;
+}
+
+int asn1PE_UMTS_Eutra_MeasuredResultList(rtxContext* RT_RESTRICT ctx, const Eutra_MeasuredResultList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Eutra-MeasuredResultList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "Eutra-MeasuredResultList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "Eutra-MeasuredResult", (int32_t)i, "Eutra-MeasuredResultList");
+      stat = asn1PE_UMTS_Eutra_MeasuredResult(ctx, (const Eutra_MeasuredResult*)node->data);
+      RT_CHECK(ctx, stat, 0, "Eutra-MeasuredResult", (int32_t)i, "Eutra-MeasuredResultList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_EUTRA_MeasuredResults(rtxContext* RT_RESTRICT ctx, const EUTRA_MeasuredResults* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-MeasuredResults");
+   /* eutraMeasuredResultList */
+   stat = asn1PE_UMTS_Eutra_MeasuredResultList(ctx, &pvalue->eutraMeasuredResultList);
+   RT_CHECK(ctx, stat, 0, "eutraMeasuredResultList", -1, "EUTRA-MeasuredResults");
+   return 0;
+}
+
+int asn1PE_UMTS_EUTRA_SIacquisitionResults_cgiInfo(rtxContext* RT_RESTRICT ctx, const EUTRA_SIacquisitionResults_cgiInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* plmn-Identity */
+   stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
+   RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, 0);
+   /* cellIdentity */
+   RT_SET_SIZE(ctx, 28, 28);
+   stat = pe_BitString32(ctx, &pvalue->cellIdentity, 28, 28);
+   RT_CHECK(ctx, stat, 0, "cellIdentity", -1, 0);
+   /* trackingAreaCode */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &pvalue->trackingAreaCode, 16, 16);
+   RT_CHECK(ctx, stat, 0, "trackingAreaCode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_EUTRA_SIacquisitionResults_csgMemberIndication(rtxContext* RT_RESTRICT ctx, EUTRA_SIacquisitionResults_csgMemberIndication value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_EUTRA_SIacquisitionResults(rtxContext* RT_RESTRICT ctx, const EUTRA_SIacquisitionResults* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-SIacquisitionResults");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-SIacquisitionResults");
+   /* cgiInfo */
+   stat = asn1PE_UMTS_EUTRA_SIacquisitionResults_cgiInfo(ctx, &pvalue->cgiInfo);
+   RT_CHECK(ctx, stat, 0, "cgiInfo", -1, "EUTRA-SIacquisitionResults");
+   /* csgIdentity */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CSG_Identity(ctx, pvalue->csgIdentity);
+      RT_CHECK(ctx, stat, 0, "csgIdentity", -1, "EUTRA-SIacquisitionResults");
+   }
+   /* csgMemberIndication */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->csgMemberIndication > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->csgMemberIndication);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "csgMemberIndication", -1, "EUTRA-SIacquisitionResults");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->csgMemberIndication, 0, 0);
+      RT_CHECK(ctx, stat, 0, "csgMemberIndication", -1, "EUTRA-SIacquisitionResults");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_EUTRA_MeasuredCells_v920ext(rtxContext* RT_RESTRICT ctx, const EUTRA_MeasuredCells_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-MeasuredCells-v920ext");
+   /* eutraSIacquisitionResults */
+   stat = asn1PE_UMTS_EUTRA_SIacquisitionResults(ctx, &pvalue->eutraSIacquisitionResults);
+   RT_CHECK(ctx, stat, 0, "eutraSIacquisitionResults", -1, "EUTRA-MeasuredCells-v920ext");
+   return 0;
+}
+
+int asn1PE_UMTS_Eutra_MeasuredResult_v920ext_measuredEUTRACells_v920ext(rtxContext* RT_RESTRICT ctx, const Eutra_MeasuredResult_v920ext_measuredEUTRACells_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "EUTRA-MeasuredCells-v920ext", (int32_t)i, 0);
+      stat = asn1PE_UMTS_EUTRA_MeasuredCells_v920ext(ctx, (const EUTRA_MeasuredCells_v920ext*)node->data);
+      RT_CHECK(ctx, stat, 0, "EUTRA-MeasuredCells-v920ext", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Eutra_MeasuredResult_v920ext(rtxContext* RT_RESTRICT ctx, const Eutra_MeasuredResult_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Eutra-MeasuredResult-v920ext");
+   /* measuredEUTRACells-v920ext */
+   stat = asn1PE_UMTS_Eutra_MeasuredResult_v920ext_measuredEUTRACells_v920ext(ctx, &pvalue->measuredEUTRACells_v920ext);
+   RT_CHECK(ctx, stat, 0, "measuredEUTRACells-v920ext", -1, "Eutra-MeasuredResult-v920ext");
+   return 0;
+}
+
+int asn1PE_UMTS_Eutra_MeasuredResultList_v920ext(rtxContext* RT_RESTRICT ctx, const Eutra_MeasuredResultList_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Eutra-MeasuredResultList-v920ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "Eutra-MeasuredResultList-v920ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "Eutra-MeasuredResult-v920ext", (int32_t)i, "Eutra-MeasuredResultList-v920ext");
+      stat = asn1PE_UMTS_Eutra_MeasuredResult_v920ext(ctx, (const Eutra_MeasuredResult_v920ext*)node->data);
+      RT_CHECK(ctx, stat, 0, "Eutra-MeasuredResult-v920ext", (int32_t)i, "Eutra-MeasuredResultList-v920ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_EUTRA_MeasuredResults_v920ext(rtxContext* RT_RESTRICT ctx, const EUTRA_MeasuredResults_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-MeasuredResults-v920ext");
+   /* eutraMeasuredResultList-v920ext */
+   stat = asn1PE_UMTS_Eutra_MeasuredResultList_v920ext(ctx, &pvalue->eutraMeasuredResultList_v920ext);
+   RT_CHECK(ctx, stat, 0, "eutraMeasuredResultList-v920ext", -1, "EUTRA-MeasuredResults-v920ext");
+   return 0;
+}
+
+int asn1PE_UMTS_ForbiddenAffectCell_r4(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCell_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ForbiddenAffectCell-r4");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "ForbiddenAffectCell-r4");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ForbiddenAffectCell-r4");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, "ForbiddenAffectCell-r4");
+         stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "ForbiddenAffectCell-r4");
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, "ForbiddenAffectCell-r4");
+         stat = asn1PE_UMTS_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "ForbiddenAffectCell-r4");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ForbiddenAffectCellList_r4(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCellList_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ForbiddenAffectCellList-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "ForbiddenAffectCellList-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ForbiddenAffectCell-r4", (int32_t)i, "ForbiddenAffectCellList-r4");
+      stat = asn1PE_UMTS_ForbiddenAffectCell_r4(ctx, (const ForbiddenAffectCell_r4*)node->data);
+      RT_CHECK(ctx, stat, 0, "ForbiddenAffectCell-r4", (int32_t)i, "ForbiddenAffectCellList-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Event1a_r4(rtxContext* RT_RESTRICT ctx, const Event1a_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event1a-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Event1a-r4");
+   /* triggeringCondition */
+   if (pvalue->triggeringCondition > 4) {
+      rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TriggeringCondition2", "triggeringCondition", -1, "Event1a-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 4);
+   RT_CHECK(ctx, stat, "TriggeringCondition2", "triggeringCondition", -1, "Event1a-r4");
+   /* reportingRange */
+   if ((uint64_t)pvalue->reportingRange > 29u) {
+      rtxErrAddStrParm(ctx, "ReportingRange");
+      rtxErrAddUIntParm(ctx, pvalue->reportingRange);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "ReportingRange", "reportingRange", -1, "Event1a-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->reportingRange, 0, 29);
+   RT_CHECK(ctx, stat, "ReportingRange", "reportingRange", -1, "Event1a-r4");
+   /* forbiddenAffectCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ForbiddenAffectCellList_r4(ctx, &pvalue->forbiddenAffectCellList);
+      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellList", -1, "Event1a-r4");
+   }
+   /* w */
+   if ((uint64_t)pvalue->w > 20u) {
+      rtxErrAddStrParm(ctx, "W");
+      rtxErrAddUIntParm(ctx, pvalue->w);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "w", -1, "Event1a-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->w, 0, 20);
+   RT_CHECK(ctx, stat, "W", "w", -1, "Event1a-r4");
+   /* reportDeactivationThreshold */
+   if (pvalue->reportDeactivationThreshold > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->reportDeactivationThreshold);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportDeactivationThreshold", "reportDeactivationThreshold", -1, "Event1a-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->reportDeactivationThreshold, 0, 7);
+   RT_CHECK(ctx, stat, "ReportDeactivationThreshold", "reportDeactivationThreshold", -1, "Event1a-r4");
+   /* reportingAmount */
+   if (pvalue->reportingAmount > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->reportingAmount);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportingAmount", "reportingAmount", -1, "Event1a-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->reportingAmount, 0, 7);
+   RT_CHECK(ctx, stat, "ReportingAmount", "reportingAmount", -1, "Event1a-r4");
+   /* reportingInterval */
+   if (pvalue->reportingInterval > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->reportingInterval);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportingInterval", "reportingInterval", -1, "Event1a-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->reportingInterval, 0, 7);
+   RT_CHECK(ctx, stat, "ReportingInterval", "reportingInterval", -1, "Event1a-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_ForbiddenAffectCellOnSecULFreq(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCellOnSecULFreq* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ForbiddenAffectCellOnSecULFreq");
+   /* primaryCPICH */
+   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH", -1, "ForbiddenAffectCellOnSecULFreq");
+   return 0;
+}
+
+int asn1PE_UMTS_ForbiddenAffectCellListOnSecULFreq(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCellListOnSecULFreq* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ForbiddenAffectCellListOnSecULFreq");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "ForbiddenAffectCellListOnSecULFreq");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ForbiddenAffectCellOnSecULFreq", (int32_t)i, "ForbiddenAffectCellListOnSecULFreq");
+      stat = asn1PE_UMTS_ForbiddenAffectCellOnSecULFreq(ctx, (const ForbiddenAffectCellOnSecULFreq*)node->data);
+      RT_CHECK(ctx, stat, 0, "ForbiddenAffectCellOnSecULFreq", (int32_t)i, "ForbiddenAffectCellListOnSecULFreq");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Event1a_OnSecUlFreq_r9(rtxContext* RT_RESTRICT ctx, const Event1a_OnSecUlFreq_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event1a-OnSecUlFreq-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Event1a-OnSecUlFreq-r9");
+   /* triggeringCondition */
+   if (pvalue->triggeringCondition > 4) {
+      rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TriggeringCondition2", "triggeringCondition", -1, "Event1a-OnSecUlFreq-r9");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 4);
+   RT_CHECK(ctx, stat, "TriggeringCondition2", "triggeringCondition", -1, "Event1a-OnSecUlFreq-r9");
+   /* reportingRange */
+   if ((uint64_t)pvalue->reportingRange > 29u) {
+      rtxErrAddStrParm(ctx, "ReportingRange");
+      rtxErrAddUIntParm(ctx, pvalue->reportingRange);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "ReportingRange", "reportingRange", -1, "Event1a-OnSecUlFreq-r9");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->reportingRange, 0, 29);
+   RT_CHECK(ctx, stat, "ReportingRange", "reportingRange", -1, "Event1a-OnSecUlFreq-r9");
+   /* forbiddenAffectCellListOnSecULFreq */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ForbiddenAffectCellListOnSecULFreq(ctx, &pvalue->forbiddenAffectCellListOnSecULFreq);
+      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellListOnSecULFreq", -1, "Event1a-OnSecUlFreq-r9");
+   }
+   /* w */
+   if ((uint64_t)pvalue->w > 20u) {
+      rtxErrAddStrParm(ctx, "W");
+      rtxErrAddUIntParm(ctx, pvalue->w);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "w", -1, "Event1a-OnSecUlFreq-r9");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->w, 0, 20);
+   RT_CHECK(ctx, stat, "W", "w", -1, "Event1a-OnSecUlFreq-r9");
+   /* reportDeactivationThreshold */
+   if (pvalue->reportDeactivationThreshold > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->reportDeactivationThreshold);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportDeactivationThreshold", "reportDeactivationThreshold", -1, "Event1a-OnSecUlFreq-r9");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->reportDeactivationThreshold, 0, 7);
+   RT_CHECK(ctx, stat, "ReportDeactivationThreshold", "reportDeactivationThreshold", -1, "Event1a-OnSecUlFreq-r9");
+   /* reportingAmount */
+   if (pvalue->reportingAmount > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->reportingAmount);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportingAmount", "reportingAmount", -1, "Event1a-OnSecUlFreq-r9");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->reportingAmount, 0, 7);
+   RT_CHECK(ctx, stat, "ReportingAmount", "reportingAmount", -1, "Event1a-OnSecUlFreq-r9");
+   /* reportingInterval */
+   if (pvalue->reportingInterval > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->reportingInterval);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportingInterval", "reportingInterval", -1, "Event1a-OnSecUlFreq-r9");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->reportingInterval, 0, 7);
+   RT_CHECK(ctx, stat, "ReportingInterval", "reportingInterval", -1, "Event1a-OnSecUlFreq-r9");
+   return 0;
+}
+
+int asn1PE_UMTS_Event1b_r4(rtxContext* RT_RESTRICT ctx, const Event1b_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event1b-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Event1b-r4");
+   /* triggeringCondition */
+   if (pvalue->triggeringCondition > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TriggeringCondition1", "triggeringCondition", -1, "Event1b-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 2);
+   RT_CHECK(ctx, stat, "TriggeringCondition1", "triggeringCondition", -1, "Event1b-r4");
+   /* reportingRange */
+   if ((uint64_t)pvalue->reportingRange > 29u) {
+      rtxErrAddStrParm(ctx, "ReportingRange");
+      rtxErrAddUIntParm(ctx, pvalue->reportingRange);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "ReportingRange", "reportingRange", -1, "Event1b-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->reportingRange, 0, 29);
+   RT_CHECK(ctx, stat, "ReportingRange", "reportingRange", -1, "Event1b-r4");
+   /* forbiddenAffectCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ForbiddenAffectCellList_r4(ctx, &pvalue->forbiddenAffectCellList);
+      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellList", -1, "Event1b-r4");
+   }
+   /* w */
+   if ((uint64_t)pvalue->w > 20u) {
+      rtxErrAddStrParm(ctx, "W");
+      rtxErrAddUIntParm(ctx, pvalue->w);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "w", -1, "Event1b-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->w, 0, 20);
+   RT_CHECK(ctx, stat, "W", "w", -1, "Event1b-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_Event1b_r7(rtxContext* RT_RESTRICT ctx, const Event1b_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event1b-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Event1b-r7");
+   /* triggeringCondition */
+   if (pvalue->triggeringCondition > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TriggeringCondition1", "triggeringCondition", -1, "Event1b-r7");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 2);
+   RT_CHECK(ctx, stat, "TriggeringCondition1", "triggeringCondition", -1, "Event1b-r7");
+   /* reportingRange */
+   if ((uint64_t)pvalue->reportingRange > 29u) {
+      rtxErrAddStrParm(ctx, "ReportingRange");
+      rtxErrAddUIntParm(ctx, pvalue->reportingRange);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "ReportingRange", "reportingRange", -1, "Event1b-r7");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->reportingRange, 0, 29);
+   RT_CHECK(ctx, stat, "ReportingRange", "reportingRange", -1, "Event1b-r7");
+   /* forbiddenAffectCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ForbiddenAffectCellList_r4(ctx, &pvalue->forbiddenAffectCellList);
+      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellList", -1, "Event1b-r7");
+   }
+   /* w */
+   if ((uint64_t)pvalue->w > 20u) {
+      rtxErrAddStrParm(ctx, "W");
+      rtxErrAddUIntParm(ctx, pvalue->w);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "w", -1, "Event1b-r7");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->w, 0, 20);
+   RT_CHECK(ctx, stat, "W", "w", -1, "Event1b-r7");
+   /* periodicReportingInfo-1b */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_PeriodicReportingInfo_1b(ctx, &pvalue->periodicReportingInfo_1b);
+      RT_CHECK(ctx, stat, 0, "periodicReportingInfo-1b", -1, "Event1b-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Event1b_OnSecUlFreq_r9(rtxContext* RT_RESTRICT ctx, const Event1b_OnSecUlFreq_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event1b-OnSecUlFreq-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Event1b-OnSecUlFreq-r9");
+   /* triggeringCondition */
+   if (pvalue->triggeringCondition > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TriggeringCondition1", "triggeringCondition", -1, "Event1b-OnSecUlFreq-r9");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 2);
+   RT_CHECK(ctx, stat, "TriggeringCondition1", "triggeringCondition", -1, "Event1b-OnSecUlFreq-r9");
+   /* reportingRange */
+   if ((uint64_t)pvalue->reportingRange > 29u) {
+      rtxErrAddStrParm(ctx, "ReportingRange");
+      rtxErrAddUIntParm(ctx, pvalue->reportingRange);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "ReportingRange", "reportingRange", -1, "Event1b-OnSecUlFreq-r9");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->reportingRange, 0, 29);
+   RT_CHECK(ctx, stat, "ReportingRange", "reportingRange", -1, "Event1b-OnSecUlFreq-r9");
+   /* forbiddenAffectCellListOnSecULFreq */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ForbiddenAffectCellListOnSecULFreq(ctx, &pvalue->forbiddenAffectCellListOnSecULFreq);
+      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellListOnSecULFreq", -1, "Event1b-OnSecUlFreq-r9");
+   }
+   /* w */
+   if ((uint64_t)pvalue->w > 20u) {
+      rtxErrAddStrParm(ctx, "W");
+      rtxErrAddUIntParm(ctx, pvalue->w);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "w", -1, "Event1b-OnSecUlFreq-r9");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->w, 0, 20);
+   RT_CHECK(ctx, stat, "W", "w", -1, "Event1b-OnSecUlFreq-r9");
+   /* periodicReportingInfo-1b */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_PeriodicReportingInfo_1b(ctx, &pvalue->periodicReportingInfo_1b);
+      RT_CHECK(ctx, stat, 0, "periodicReportingInfo-1b", -1, "Event1b-OnSecUlFreq-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Event1d(rtxContext* RT_RESTRICT ctx, const Event1d* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event1d");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Event1d");
+   /* triggeringCondition */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->triggeringCondition > 4) {
+         rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TriggeringCondition2", "triggeringCondition", -1, "Event1d");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 4);
+      RT_CHECK(ctx, stat, "TriggeringCondition2", "triggeringCondition", -1, "Event1d");
+   }
+   /* useCIO */
+   if (pvalue->m & 0x2u) {
+      stat = rtxEncBit(ctx, pvalue->useCIO);
+      RT_CHECK(ctx, stat, 0, "useCIO", -1, "Event1d");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ThresholdUsedFrequency_r6(rtxContext* RT_RESTRICT ctx, ThresholdUsedFrequency_r6 value)
+{
+   int stat = 0;
+   if (value < -120 || value > 165) {
+      rtxErrAddStrParm(ctx, "ThresholdUsedFrequency-r6");
+      rtxErrAddIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "ThresholdUsedFrequency-r6");
+   }
+   stat = pe_ConsInt64(ctx, value, -120, 165);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ThresholdUsedFrequency-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_Event1e_r6(rtxContext* RT_RESTRICT ctx, const Event1e_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event1e-r6");
+   /* triggeringCondition */
+   if (pvalue->triggeringCondition > 4) {
+      rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TriggeringCondition2", "triggeringCondition", -1, "Event1e-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 4);
+   RT_CHECK(ctx, stat, "TriggeringCondition2", "triggeringCondition", -1, "Event1e-r6");
+   /* thresholdUsedFrequency */
+   if (pvalue->thresholdUsedFrequency < -120 || pvalue->thresholdUsedFrequency > 165) {
+      rtxErrAddStrParm(ctx, "ThresholdUsedFrequency-r6");
+      rtxErrAddIntParm(ctx, pvalue->thresholdUsedFrequency);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "ThresholdUsedFrequency-r6", "thresholdUsedFrequency", -1, "Event1e-r6");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->thresholdUsedFrequency, -120, 165);
+   RT_CHECK(ctx, stat, "ThresholdUsedFrequency-r6", "thresholdUsedFrequency", -1, "Event1e-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_Event1f_r6(rtxContext* RT_RESTRICT ctx, const Event1f_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event1f-r6");
+   /* triggeringCondition */
+   if (pvalue->triggeringCondition > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TriggeringCondition1", "triggeringCondition", -1, "Event1f-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 2);
+   RT_CHECK(ctx, stat, "TriggeringCondition1", "triggeringCondition", -1, "Event1f-r6");
+   /* thresholdUsedFrequency */
+   if (pvalue->thresholdUsedFrequency < -120 || pvalue->thresholdUsedFrequency > 165) {
+      rtxErrAddStrParm(ctx, "ThresholdUsedFrequency-r6");
+      rtxErrAddIntParm(ctx, pvalue->thresholdUsedFrequency);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "ThresholdUsedFrequency-r6", "thresholdUsedFrequency", -1, "Event1f-r6");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->thresholdUsedFrequency, -120, 165);
+   RT_CHECK(ctx, stat, "ThresholdUsedFrequency-r6", "thresholdUsedFrequency", -1, "Event1f-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_Event1j_r6(rtxContext* RT_RESTRICT ctx, const Event1j_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event1j-r6");
+   /* replacementActivationThreshold */
+   if (pvalue->replacementActivationThreshold > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->replacementActivationThreshold);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ReplacementActivationThreshold", "replacementActivationThreshold", -1, "Event1j-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->replacementActivationThreshold, 0, 7);
+   RT_CHECK(ctx, stat, "ReplacementActivationThreshold", "replacementActivationThreshold", -1, "Event1j-r6");
+   /* reportingAmount */
+   if (pvalue->reportingAmount > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->reportingAmount);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportingAmount", "reportingAmount", -1, "Event1j-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->reportingAmount, 0, 7);
+   RT_CHECK(ctx, stat, "ReportingAmount", "reportingAmount", -1, "Event1j-r6");
+   /* reportingInterval */
+   if (pvalue->reportingInterval > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->reportingInterval);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportingInterval", "reportingInterval", -1, "Event1j-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->reportingInterval, 0, 7);
+   RT_CHECK(ctx, stat, "ReportingInterval", "reportingInterval", -1, "Event1j-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_HysteresisInterFreq(rtxContext* RT_RESTRICT ctx, HysteresisInterFreq value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 29u) {
+      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "HysteresisInterFreq");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 29);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HysteresisInterFreq");
+   return 0;
+}
+
+int asn1PE_UMTS_NonUsedFreqParameter(rtxContext* RT_RESTRICT ctx, const NonUsedFreqParameter* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NonUsedFreqParameter");
+   /* nonUsedFreqThreshold */
+   if (pvalue->nonUsedFreqThreshold < -115 || pvalue->nonUsedFreqThreshold > 0) {
+      rtxErrAddStrParm(ctx, "Threshold");
+      rtxErrAddIntParm(ctx, pvalue->nonUsedFreqThreshold);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Threshold", "nonUsedFreqThreshold", -1, "NonUsedFreqParameter");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->nonUsedFreqThreshold, -115, 0);
+   RT_CHECK(ctx, stat, "Threshold", "nonUsedFreqThreshold", -1, "NonUsedFreqParameter");
+   /* nonUsedFreqW */
+   if ((uint64_t)pvalue->nonUsedFreqW > 20u) {
+      rtxErrAddStrParm(ctx, "W");
+      rtxErrAddUIntParm(ctx, pvalue->nonUsedFreqW);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "nonUsedFreqW", -1, "NonUsedFreqParameter");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->nonUsedFreqW, 0, 20);
+   RT_CHECK(ctx, stat, "W", "nonUsedFreqW", -1, "NonUsedFreqParameter");
+   return 0;
+}
+
+int asn1PE_UMTS_NonUsedFreqParameterList(rtxContext* RT_RESTRICT ctx, const NonUsedFreqParameterList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NonUsedFreqParameterList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NonUsedFreqParameterList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NonUsedFreqParameter", (int32_t)i, "NonUsedFreqParameterList");
+      stat = asn1PE_UMTS_NonUsedFreqParameter(ctx, (const NonUsedFreqParameter*)node->data);
+      RT_CHECK(ctx, stat, 0, "NonUsedFreqParameter", (int32_t)i, "NonUsedFreqParameterList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Event2a(rtxContext* RT_RESTRICT ctx, const Event2a* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event2a");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Event2a");
+   /* dummy */
+   if (pvalue->dummy < -115 || pvalue->dummy > 0) {
+      rtxErrAddStrParm(ctx, "Threshold");
+      rtxErrAddIntParm(ctx, pvalue->dummy);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Threshold", "dummy", -1, "Event2a");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->dummy, -115, 0);
+   RT_CHECK(ctx, stat, "Threshold", "dummy", -1, "Event2a");
+   /* usedFreqW */
+   if ((uint64_t)pvalue->usedFreqW > 20u) {
+      rtxErrAddStrParm(ctx, "W");
+      rtxErrAddUIntParm(ctx, pvalue->usedFreqW);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "usedFreqW", -1, "Event2a");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->usedFreqW, 0, 20);
+   RT_CHECK(ctx, stat, "W", "usedFreqW", -1, "Event2a");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 29u) {
+      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "HysteresisInterFreq", "hysteresis", -1, "Event2a");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 29);
+   RT_CHECK(ctx, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2a");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event2a");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2a");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2a");
+   }
+   /* nonUsedFreqParameterList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_NonUsedFreqParameterList(ctx, &pvalue->nonUsedFreqParameterList);
+      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2a");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NonUsedFreqWList_r6(rtxContext* RT_RESTRICT ctx, const NonUsedFreqWList_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NonUsedFreqWList-r6");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NonUsedFreqWList-r6");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 20u) {
+         rtxErrAddStrParm(ctx, "W");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "W", (int32_t)i, "NonUsedFreqWList-r6");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 20);
+      RT_CHECK(ctx, stat, "W", "W", (int32_t)i, "NonUsedFreqWList-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Event2a_r6(rtxContext* RT_RESTRICT ctx, const Event2a_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event2a-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Event2a-r6");
+   /* usedFreqW */
+   if ((uint64_t)pvalue->usedFreqW > 20u) {
+      rtxErrAddStrParm(ctx, "W");
+      rtxErrAddUIntParm(ctx, pvalue->usedFreqW);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "usedFreqW", -1, "Event2a-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->usedFreqW, 0, 20);
+   RT_CHECK(ctx, stat, "W", "usedFreqW", -1, "Event2a-r6");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 29u) {
+      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "HysteresisInterFreq", "hysteresis", -1, "Event2a-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 29);
+   RT_CHECK(ctx, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2a-r6");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event2a-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2a-r6");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2a-r6");
+   }
+   /* nonUsedFreqParameterList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_NonUsedFreqWList_r6(ctx, &pvalue->nonUsedFreqParameterList);
+      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2a-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Event2b(rtxContext* RT_RESTRICT ctx, const Event2b* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event2b");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Event2b");
+   /* usedFreqThreshold */
+   if (pvalue->usedFreqThreshold < -115 || pvalue->usedFreqThreshold > 0) {
+      rtxErrAddStrParm(ctx, "Threshold");
+      rtxErrAddIntParm(ctx, pvalue->usedFreqThreshold);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Threshold", "usedFreqThreshold", -1, "Event2b");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->usedFreqThreshold, -115, 0);
+   RT_CHECK(ctx, stat, "Threshold", "usedFreqThreshold", -1, "Event2b");
+   /* usedFreqW */
+   if ((uint64_t)pvalue->usedFreqW > 20u) {
+      rtxErrAddStrParm(ctx, "W");
+      rtxErrAddUIntParm(ctx, pvalue->usedFreqW);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "usedFreqW", -1, "Event2b");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->usedFreqW, 0, 20);
+   RT_CHECK(ctx, stat, "W", "usedFreqW", -1, "Event2b");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 29u) {
+      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "HysteresisInterFreq", "hysteresis", -1, "Event2b");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 29);
+   RT_CHECK(ctx, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2b");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event2b");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2b");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2b");
+   }
+   /* nonUsedFreqParameterList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_NonUsedFreqParameterList(ctx, &pvalue->nonUsedFreqParameterList);
+      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2b");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Threshold_r6(rtxContext* RT_RESTRICT ctx, Threshold_r6 value)
+{
+   int stat = 0;
+   if (value < -120 || value > 0) {
+      rtxErrAddStrParm(ctx, "Threshold-r6");
+      rtxErrAddIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "Threshold-r6");
+   }
+   stat = pe_ConsInt64(ctx, value, -120, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Threshold-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_NonUsedFreqParameter_r6(rtxContext* RT_RESTRICT ctx, const NonUsedFreqParameter_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NonUsedFreqParameter-r6");
+   /* nonUsedFreqThreshold */
+   if (pvalue->nonUsedFreqThreshold < -120 || pvalue->nonUsedFreqThreshold > 0) {
+      rtxErrAddStrParm(ctx, "Threshold-r6");
+      rtxErrAddIntParm(ctx, pvalue->nonUsedFreqThreshold);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Threshold-r6", "nonUsedFreqThreshold", -1, "NonUsedFreqParameter-r6");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->nonUsedFreqThreshold, -120, 0);
+   RT_CHECK(ctx, stat, "Threshold-r6", "nonUsedFreqThreshold", -1, "NonUsedFreqParameter-r6");
+   /* nonUsedFreqW */
+   if ((uint64_t)pvalue->nonUsedFreqW > 20u) {
+      rtxErrAddStrParm(ctx, "W");
+      rtxErrAddUIntParm(ctx, pvalue->nonUsedFreqW);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "nonUsedFreqW", -1, "NonUsedFreqParameter-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->nonUsedFreqW, 0, 20);
+   RT_CHECK(ctx, stat, "W", "nonUsedFreqW", -1, "NonUsedFreqParameter-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_NonUsedFreqParameterList_r6(rtxContext* RT_RESTRICT ctx, const NonUsedFreqParameterList_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NonUsedFreqParameterList-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NonUsedFreqParameterList-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NonUsedFreqParameter-r6", (int32_t)i, "NonUsedFreqParameterList-r6");
+      stat = asn1PE_UMTS_NonUsedFreqParameter_r6(ctx, (const NonUsedFreqParameter_r6*)node->data);
+      RT_CHECK(ctx, stat, 0, "NonUsedFreqParameter-r6", (int32_t)i, "NonUsedFreqParameterList-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Event2b_r6(rtxContext* RT_RESTRICT ctx, const Event2b_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event2b-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Event2b-r6");
+   /* usedFreqThreshold */
+   if (pvalue->usedFreqThreshold < -120 || pvalue->usedFreqThreshold > 0) {
+      rtxErrAddStrParm(ctx, "Threshold-r6");
+      rtxErrAddIntParm(ctx, pvalue->usedFreqThreshold);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Threshold-r6", "usedFreqThreshold", -1, "Event2b-r6");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->usedFreqThreshold, -120, 0);
+   RT_CHECK(ctx, stat, "Threshold-r6", "usedFreqThreshold", -1, "Event2b-r6");
+   /* usedFreqW */
+   if ((uint64_t)pvalue->usedFreqW > 20u) {
+      rtxErrAddStrParm(ctx, "W");
+      rtxErrAddUIntParm(ctx, pvalue->usedFreqW);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "usedFreqW", -1, "Event2b-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->usedFreqW, 0, 20);
+   RT_CHECK(ctx, stat, "W", "usedFreqW", -1, "Event2b-r6");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 29u) {
+      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "HysteresisInterFreq", "hysteresis", -1, "Event2b-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 29);
+   RT_CHECK(ctx, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2b-r6");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event2b-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2b-r6");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2b-r6");
+   }
+   /* nonUsedFreqParameterList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_NonUsedFreqParameterList_r6(ctx, &pvalue->nonUsedFreqParameterList);
+      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2b-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Event2c(rtxContext* RT_RESTRICT ctx, const Event2c* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event2c");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Event2c");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 29u) {
+      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "HysteresisInterFreq", "hysteresis", -1, "Event2c");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 29);
+   RT_CHECK(ctx, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2c");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event2c");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2c");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2c");
+   }
+   /* nonUsedFreqParameterList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_NonUsedFreqParameterList(ctx, &pvalue->nonUsedFreqParameterList);
+      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2c");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Event2c_r6(rtxContext* RT_RESTRICT ctx, const Event2c_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event2c-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Event2c-r6");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 29u) {
+      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "HysteresisInterFreq", "hysteresis", -1, "Event2c-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 29);
+   RT_CHECK(ctx, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2c-r6");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event2c-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2c-r6");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2c-r6");
+   }
+   /* nonUsedFreqParameterList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_NonUsedFreqParameterList_r6(ctx, &pvalue->nonUsedFreqParameterList);
+      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2c-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Event2d(rtxContext* RT_RESTRICT ctx, const Event2d* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event2d");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Event2d");
+   /* usedFreqThreshold */
+   if (pvalue->usedFreqThreshold < -115 || pvalue->usedFreqThreshold > 0) {
+      rtxErrAddStrParm(ctx, "Threshold");
+      rtxErrAddIntParm(ctx, pvalue->usedFreqThreshold);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Threshold", "usedFreqThreshold", -1, "Event2d");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->usedFreqThreshold, -115, 0);
+   RT_CHECK(ctx, stat, "Threshold", "usedFreqThreshold", -1, "Event2d");
+   /* usedFreqW */
+   if ((uint64_t)pvalue->usedFreqW > 20u) {
+      rtxErrAddStrParm(ctx, "W");
+      rtxErrAddUIntParm(ctx, pvalue->usedFreqW);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "usedFreqW", -1, "Event2d");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->usedFreqW, 0, 20);
+   RT_CHECK(ctx, stat, "W", "usedFreqW", -1, "Event2d");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 29u) {
+      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "HysteresisInterFreq", "hysteresis", -1, "Event2d");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 29);
+   RT_CHECK(ctx, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2d");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event2d");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2d");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2d");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Event2d_r6(rtxContext* RT_RESTRICT ctx, const Event2d_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event2d-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Event2d-r6");
+   /* usedFreqThreshold */
+   if (pvalue->usedFreqThreshold < -120 || pvalue->usedFreqThreshold > 0) {
+      rtxErrAddStrParm(ctx, "Threshold-r6");
+      rtxErrAddIntParm(ctx, pvalue->usedFreqThreshold);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Threshold-r6", "usedFreqThreshold", -1, "Event2d-r6");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->usedFreqThreshold, -120, 0);
+   RT_CHECK(ctx, stat, "Threshold-r6", "usedFreqThreshold", -1, "Event2d-r6");
+   /* usedFreqW */
+   if ((uint64_t)pvalue->usedFreqW > 20u) {
+      rtxErrAddStrParm(ctx, "W");
+      rtxErrAddUIntParm(ctx, pvalue->usedFreqW);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "usedFreqW", -1, "Event2d-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->usedFreqW, 0, 20);
+   RT_CHECK(ctx, stat, "W", "usedFreqW", -1, "Event2d-r6");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 29u) {
+      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "HysteresisInterFreq", "hysteresis", -1, "Event2d-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 29);
+   RT_CHECK(ctx, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2d-r6");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event2d-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2d-r6");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2d-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Event2e(rtxContext* RT_RESTRICT ctx, const Event2e* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event2e");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Event2e");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 29u) {
+      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "HysteresisInterFreq", "hysteresis", -1, "Event2e");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 29);
+   RT_CHECK(ctx, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2e");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event2e");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2e");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2e");
+   }
+   /* nonUsedFreqParameterList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_NonUsedFreqParameterList(ctx, &pvalue->nonUsedFreqParameterList);
+      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2e");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Event2e_r6(rtxContext* RT_RESTRICT ctx, const Event2e_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event2e-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Event2e-r6");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 29u) {
+      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "HysteresisInterFreq", "hysteresis", -1, "Event2e-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 29);
+   RT_CHECK(ctx, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2e-r6");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event2e-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2e-r6");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2e-r6");
+   }
+   /* nonUsedFreqParameterList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_NonUsedFreqParameterList_r6(ctx, &pvalue->nonUsedFreqParameterList);
+      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2e-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Event2f(rtxContext* RT_RESTRICT ctx, const Event2f* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event2f");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Event2f");
+   /* usedFreqThreshold */
+   if (pvalue->usedFreqThreshold < -115 || pvalue->usedFreqThreshold > 0) {
+      rtxErrAddStrParm(ctx, "Threshold");
+      rtxErrAddIntParm(ctx, pvalue->usedFreqThreshold);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Threshold", "usedFreqThreshold", -1, "Event2f");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->usedFreqThreshold, -115, 0);
+   RT_CHECK(ctx, stat, "Threshold", "usedFreqThreshold", -1, "Event2f");
+   /* usedFreqW */
+   if ((uint64_t)pvalue->usedFreqW > 20u) {
+      rtxErrAddStrParm(ctx, "W");
+      rtxErrAddUIntParm(ctx, pvalue->usedFreqW);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "usedFreqW", -1, "Event2f");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->usedFreqW, 0, 20);
+   RT_CHECK(ctx, stat, "W", "usedFreqW", -1, "Event2f");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 29u) {
+      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "HysteresisInterFreq", "hysteresis", -1, "Event2f");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 29);
+   RT_CHECK(ctx, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2f");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event2f");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2f");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2f");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Event2f_r6(rtxContext* RT_RESTRICT ctx, const Event2f_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event2f-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Event2f-r6");
+   /* usedFreqThreshold */
+   if (pvalue->usedFreqThreshold < -120 || pvalue->usedFreqThreshold > 0) {
+      rtxErrAddStrParm(ctx, "Threshold-r6");
+      rtxErrAddIntParm(ctx, pvalue->usedFreqThreshold);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Threshold-r6", "usedFreqThreshold", -1, "Event2f-r6");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->usedFreqThreshold, -120, 0);
+   RT_CHECK(ctx, stat, "Threshold-r6", "usedFreqThreshold", -1, "Event2f-r6");
+   /* usedFreqW */
+   if ((uint64_t)pvalue->usedFreqW > 20u) {
+      rtxErrAddStrParm(ctx, "W");
+      rtxErrAddUIntParm(ctx, pvalue->usedFreqW);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "usedFreqW", -1, "Event2f-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->usedFreqW, 0, 20);
+   RT_CHECK(ctx, stat, "W", "usedFreqW", -1, "Event2f-r6");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 29u) {
+      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "HysteresisInterFreq", "hysteresis", -1, "Event2f-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 29);
+   RT_CHECK(ctx, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2f-r6");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event2f-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2f-r6");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2f-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Event3a(rtxContext* RT_RESTRICT ctx, const Event3a* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event3a");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Event3a");
+   /* thresholdOwnSystem */
+   if (pvalue->thresholdOwnSystem < -115 || pvalue->thresholdOwnSystem > 0) {
+      rtxErrAddStrParm(ctx, "Threshold");
+      rtxErrAddIntParm(ctx, pvalue->thresholdOwnSystem);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Threshold", "thresholdOwnSystem", -1, "Event3a");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->thresholdOwnSystem, -115, 0);
+   RT_CHECK(ctx, stat, "Threshold", "thresholdOwnSystem", -1, "Event3a");
+   /* w */
+   if ((uint64_t)pvalue->w > 20u) {
+      rtxErrAddStrParm(ctx, "W");
+      rtxErrAddUIntParm(ctx, pvalue->w);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "w", -1, "Event3a");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->w, 0, 20);
+   RT_CHECK(ctx, stat, "W", "w", -1, "Event3a");
+   /* thresholdOtherSystem */
+   if (pvalue->thresholdOtherSystem < -115 || pvalue->thresholdOtherSystem > 0) {
+      rtxErrAddStrParm(ctx, "Threshold");
+      rtxErrAddIntParm(ctx, pvalue->thresholdOtherSystem);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Threshold", "thresholdOtherSystem", -1, "Event3a");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->thresholdOtherSystem, -115, 0);
+   RT_CHECK(ctx, stat, "Threshold", "thresholdOtherSystem", -1, "Event3a");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 15u) {
+      rtxErrAddStrParm(ctx, "Hysteresis");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Hysteresis", "hysteresis", -1, "Event3a");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 15);
+   RT_CHECK(ctx, stat, "Hysteresis", "hysteresis", -1, "Event3a");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event3a");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event3a");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event3a");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Event3b(rtxContext* RT_RESTRICT ctx, const Event3b* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event3b");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Event3b");
+   /* thresholdOtherSystem */
+   if (pvalue->thresholdOtherSystem < -115 || pvalue->thresholdOtherSystem > 0) {
+      rtxErrAddStrParm(ctx, "Threshold");
+      rtxErrAddIntParm(ctx, pvalue->thresholdOtherSystem);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Threshold", "thresholdOtherSystem", -1, "Event3b");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->thresholdOtherSystem, -115, 0);
+   RT_CHECK(ctx, stat, "Threshold", "thresholdOtherSystem", -1, "Event3b");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 15u) {
+      rtxErrAddStrParm(ctx, "Hysteresis");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Hysteresis", "hysteresis", -1, "Event3b");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 15);
+   RT_CHECK(ctx, stat, "Hysteresis", "hysteresis", -1, "Event3b");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event3b");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event3b");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event3b");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Event3c(rtxContext* RT_RESTRICT ctx, const Event3c* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event3c");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Event3c");
+   /* thresholdOtherSystem */
+   if (pvalue->thresholdOtherSystem < -115 || pvalue->thresholdOtherSystem > 0) {
+      rtxErrAddStrParm(ctx, "Threshold");
+      rtxErrAddIntParm(ctx, pvalue->thresholdOtherSystem);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Threshold", "thresholdOtherSystem", -1, "Event3c");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->thresholdOtherSystem, -115, 0);
+   RT_CHECK(ctx, stat, "Threshold", "thresholdOtherSystem", -1, "Event3c");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 15u) {
+      rtxErrAddStrParm(ctx, "Hysteresis");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Hysteresis", "hysteresis", -1, "Event3c");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 15);
+   RT_CHECK(ctx, stat, "Hysteresis", "hysteresis", -1, "Event3c");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event3c");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event3c");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event3c");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Event3d(rtxContext* RT_RESTRICT ctx, const Event3d* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event3d");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Event3d");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 15u) {
+      rtxErrAddStrParm(ctx, "Hysteresis");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Hysteresis", "hysteresis", -1, "Event3d");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 15);
+   RT_CHECK(ctx, stat, "Hysteresis", "hysteresis", -1, "Event3d");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event3d");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event3d");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event3d");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_EventIDInterFreq(rtxContext* RT_RESTRICT ctx, EventIDInterFreq value)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "EventIDInterFreq");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "EventIDInterFreq");
+   return 0;
+}
+
+int asn1PE_UMTS_EventIDIntraFreq(rtxContext* RT_RESTRICT ctx, EventIDIntraFreq value)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "EventIDIntraFreq");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "EventIDIntraFreq");
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqEventResults(rtxContext* RT_RESTRICT ctx, const IntraFreqEventResults* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventResults");
+   /* eventID */
+   if (pvalue->eventID > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->eventID);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "EventIDIntraFreq", "eventID", -1, "IntraFreqEventResults");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->eventID, 0, 15);
+   RT_CHECK(ctx, stat, "EventIDIntraFreq", "eventID", -1, "IntraFreqEventResults");
+   /* cellMeasurementEventResults */
+   stat = asn1PE_UMTS_CellMeasurementEventResults(ctx, &pvalue->cellMeasurementEventResults);
+   RT_CHECK(ctx, stat, 0, "cellMeasurementEventResults", -1, "IntraFreqEventResults");
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqCell(rtxContext* RT_RESTRICT ctx, const InterFreqCell* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCell");
+   /* frequencyInfo */
+   stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "InterFreqCell");
+   /* nonFreqRelatedEventResults */
+   stat = asn1PE_UMTS_CellMeasurementEventResults(ctx, &pvalue->nonFreqRelatedEventResults);
+   RT_CHECK(ctx, stat, 0, "nonFreqRelatedEventResults", -1, "InterFreqCell");
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqCellList(rtxContext* RT_RESTRICT ctx, const InterFreqCellList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "InterFreqCellList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "InterFreqCell", (int32_t)i, "InterFreqCellList");
+      stat = asn1PE_UMTS_InterFreqCell(ctx, (const InterFreqCell*)node->data);
+      RT_CHECK(ctx, stat, 0, "InterFreqCell", (int32_t)i, "InterFreqCellList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqEventResults(rtxContext* RT_RESTRICT ctx, const InterFreqEventResults* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqEventResults");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqEventResults");
+   /* eventID */
+   if (pvalue->eventID > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->eventID);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "EventIDInterFreq", "eventID", -1, "InterFreqEventResults");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->eventID, 0, 7);
+   RT_CHECK(ctx, stat, "EventIDInterFreq", "eventID", -1, "InterFreqEventResults");
+   /* interFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterFreqCellList(ctx, &pvalue->interFreqCellList);
+      RT_CHECK(ctx, stat, 0, "interFreqCellList", -1, "InterFreqEventResults");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATEventResults(rtxContext* RT_RESTRICT ctx, const InterRATEventResults* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATEventResults");
+   /* eventID */
+   if (pvalue->eventID > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->eventID);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "EventIDInterRAT", "eventID", -1, "InterRATEventResults");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->eventID, 0, 3);
+   RT_CHECK(ctx, stat, "EventIDInterRAT", "eventID", -1, "InterRATEventResults");
+   /* cellToReportList */
+   stat = asn1PE_UMTS_CellToReportList(ctx, &pvalue->cellToReportList);
+   RT_CHECK(ctx, stat, 0, "cellToReportList", -1, "InterRATEventResults");
+   return 0;
+}
+
+int asn1PE_UMTS_TrafficVolumeEventResults(rtxContext* RT_RESTRICT ctx, const TrafficVolumeEventResults* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TrafficVolumeEventResults");
+   /* ul-transportChannelCausingEvent */
+   stat = asn1PE_UMTS_UL_TrCH_Identity(ctx, &pvalue->ul_transportChannelCausingEvent);
+   RT_CHECK(ctx, stat, 0, "ul-transportChannelCausingEvent", -1, "TrafficVolumeEventResults");
+   /* trafficVolumeEventIdentity */
+   if (pvalue->trafficVolumeEventIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->trafficVolumeEventIdentity);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TrafficVolumeEventType", "trafficVolumeEventIdentity", -1, "TrafficVolumeEventResults");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->trafficVolumeEventIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "TrafficVolumeEventType", "trafficVolumeEventIdentity", -1, "TrafficVolumeEventResults");
+   return 0;
+}
+
+int asn1PE_UMTS_QualityEventResults(rtxContext* RT_RESTRICT ctx, const QualityEventResults* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "QualityEventResults");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "QualityEventResults");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)(pvalue->elem[i] - 1) > 31u) {
+         rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "TransportChannelIdentity", (int32_t)i, "QualityEventResults");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 1, 32);
+      RT_CHECK(ctx, stat, "TransportChannelIdentity", "TransportChannelIdentity", (int32_t)i, "QualityEventResults");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_InternalEventResults(rtxContext* RT_RESTRICT ctx, const UE_InternalEventResults* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-InternalEventResults");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
+   RT_CHECK(ctx, stat, 0, "t", -1, "UE-InternalEventResults");
+   if (pvalue->t - 1 > 7) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UE-InternalEventResults");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
          break;
       case 4:
-         rtxCtxtPushElemName(ctx, "replace");
-         if (pvalue->u.replace == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_ReplacedPDSCH_CodeInfoList(ctx, pvalue->u.replace);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         break;
+      case 5:
+         break;
+      case 6:
+         if (pvalue->u.event6f == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event6f", -1, "UE-InternalEventResults");
+         stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, pvalue->u.event6f);
+         RT_CHECK(ctx, stat, 0, "event6f", -1, "UE-InternalEventResults");
+         break;
+      case 7:
+         if (pvalue->u.event6g == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event6g", -1, "UE-InternalEventResults");
+         stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, pvalue->u.event6g);
+         RT_CHECK(ctx, stat, 0, "event6g", -1, "UE-InternalEventResults");
+         break;
+      case 8:
          break;
       default:
          break;
@@ -501,90 +2028,66 @@ int asn1PE_UMTS_PDSCH_CodeMapping_signallingMethod(rtxContext* ctx, const PDSCH_
    return 0;
 }
 
-int asn1PE_UMTS_PDSCH_CodeMapping(rtxContext* ctx, const PDSCH_CodeMapping* pvalue)
+int asn1PE_UMTS_UTRAN_GPSReferenceTimeResult_ue_GPSTimingOfCell(rtxContext* RT_RESTRICT ctx, const UTRAN_GPSReferenceTimeResult_ue_GPSTimingOfCell* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PDSCH-CodeMapping");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* dl-ScramblingCode */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-ScramblingCode");
-      rtxCtxtPushTypeName(ctx, "SecondaryScramblingCode");
-      if ((uint64_t)(pvalue->dl_ScramblingCode - 1) > 14u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->dl_ScramblingCode);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dl_ScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ms-part */
+   if ((uint64_t)pvalue->ms_part > 16383u) {
+      rtxErrAddStrParm(ctx, "ms-part");
+      rtxErrAddUIntParm(ctx, pvalue->ms_part);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ms-part", -1, 0);
    }
-   /* signallingMethod */
-   rtxCtxtPushElemName(ctx, "signallingMethod");
-   stat = asn1PE_UMTS_PDSCH_CodeMapping_signallingMethod(ctx, &pvalue->signallingMethod);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   stat = pe_ConsUInt64(ctx, pvalue->ms_part, 0, 16383);
+   RT_CHECK(ctx, stat, 0, "ms-part", -1, 0);
+   /* ls-part */
+   stat = pe_ConsUInt64(ctx, pvalue->ls_part, 0, 4294967295ULL);
+   RT_CHECK(ctx, stat, 0, "ls-part", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_DL_InformationPerRL_modeSpecificInfo_fdd(rtxContext* ctx, const DL_InformationPerRL_modeSpecificInfo_fdd* pvalue)
+int asn1PE_UMTS_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UTRAN_GPSReferenceTimeResult_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dummy1 */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dummy1");
-      stat = asn1PE_UMTS_PDSCH_SHO_DCH_Info(ctx, &pvalue->dummy1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy2 */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dummy2");
-      stat = asn1PE_UMTS_PDSCH_CodeMapping(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* referenceIdentity */
+   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->referenceIdentity);
+   RT_CHECK(ctx, stat, 0, "referenceIdentity", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_DL_InformationPerRL_modeSpecificInfo(rtxContext* ctx, const DL_InformationPerRL_modeSpecificInfo* pvalue)
+int asn1PE_UMTS_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UTRAN_GPSReferenceTimeResult_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* referenceIdentity */
+   if ((uint64_t)pvalue->referenceIdentity > 127u) {
+      rtxErrAddStrParm(ctx, "CellParametersID");
+      rtxErrAddUIntParm(ctx, pvalue->referenceIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "CellParametersID", "referenceIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->referenceIdentity, 0, 127);
+   RT_CHECK(ctx, stat, "CellParametersID", "referenceIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UTRAN_GPSReferenceTimeResult_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UTRAN_GPSReferenceTimeResult_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_InformationPerRL_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PrimaryCCPCH_Info(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
          break;
@@ -592,2354 +2095,128 @@ int asn1PE_UMTS_DL_InformationPerRL_modeSpecificInfo(rtxContext* ctx, const DL_I
    return 0;
 }
 
-int asn1PE_UMTS_SIB_ReferenceListFACH(rtxContext* ctx, const SIB_ReferenceListFACH* pvalue)
+int asn1PE_UMTS_UTRAN_GPSReferenceTimeResult(rtxContext* RT_RESTRICT ctx, const UTRAN_GPSReferenceTimeResult* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "SIB-ReferenceListFACH");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "SchedulingInformationSIB", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_SchedulingInformationSIB(ctx, (const SchedulingInformationSIB*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SCCPCH_InfoForFACH_modeSpecificInfo_fdd(rtxContext* ctx, const SCCPCH_InfoForFACH_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* fach-PCH-InformationList */
-   rtxCtxtPushElemName(ctx, "fach-PCH-InformationList");
-   stat = asn1PE_UMTS_FACH_PCH_InformationList(ctx, &pvalue->fach_PCH_InformationList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sib-ReferenceListFACH */
-   rtxCtxtPushElemName(ctx, "sib-ReferenceListFACH");
-   stat = asn1PE_UMTS_SIB_ReferenceListFACH(ctx, &pvalue->sib_ReferenceListFACH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SCCPCH_InfoForFACH_modeSpecificInfo_tdd(rtxContext* ctx, const SCCPCH_InfoForFACH_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* fach-PCH-InformationList */
-   rtxCtxtPushElemName(ctx, "fach-PCH-InformationList");
-   stat = asn1PE_UMTS_FACH_PCH_InformationList(ctx, &pvalue->fach_PCH_InformationList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SCCPCH_InfoForFACH_modeSpecificInfo(rtxContext* ctx, const SCCPCH_InfoForFACH_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_SCCPCH_InfoForFACH_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_SCCPCH_InfoForFACH_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SCCPCH_InfoForFACH(rtxContext* ctx, const SCCPCH_InfoForFACH* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SCCPCH-InfoForFACH");
-   /* secondaryCCPCH-Info */
-   rtxCtxtPushElemName(ctx, "secondaryCCPCH-Info");
-   stat = asn1PE_UMTS_SecondaryCCPCH_Info(ctx, &pvalue->secondaryCCPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tfcs */
-   rtxCtxtPushElemName(ctx, "tfcs");
-   stat = asn1PE_UMTS_TFCS(ctx, &pvalue->tfcs);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UTRAN-GPSReferenceTimeResult");
+   /* ue-GPSTimingOfCell */
+   stat = asn1PE_UMTS_UTRAN_GPSReferenceTimeResult_ue_GPSTimingOfCell(ctx, &pvalue->ue_GPSTimingOfCell);
+   RT_CHECK(ctx, stat, 0, "ue-GPSTimingOfCell", -1, "UTRAN-GPSReferenceTimeResult");
    /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_SCCPCH_InfoForFACH_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   stat = asn1PE_UMTS_UTRAN_GPSReferenceTimeResult_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UTRAN-GPSReferenceTimeResult");
+   /* sfn */
+   if ((uint64_t)pvalue->sfn > 4095u) {
+      rtxErrAddStrParm(ctx, "sfn");
+      rtxErrAddUIntParm(ctx, pvalue->sfn);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sfn", -1, "UTRAN-GPSReferenceTimeResult");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->sfn, 0, 4095);
+   RT_CHECK(ctx, stat, 0, "sfn", -1, "UTRAN-GPSReferenceTimeResult");
    return 0;
 }
 
-int asn1PE_UMTS_DL_InformationPerRL(rtxContext* ctx, const DL_InformationPerRL* pvalue)
+int asn1PE_UMTS_GPS_TOW_1msec(rtxContext* RT_RESTRICT ctx, GPS_TOW_1msec value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-InformationPerRL");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_DL_InformationPerRL_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-DPCH-InfoPerRL */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-DPCH-InfoPerRL");
-      stat = asn1PE_UMTS_DL_DPCH_InfoPerRL(ctx, &pvalue->dl_DPCH_InfoPerRL);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      stat = asn1PE_UMTS_SCCPCH_InfoForFACH(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r4_modeSpecificInfo_fdd(rtxContext* ctx, const DL_InformationPerRL_r4_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dummy1 */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dummy1");
-      stat = asn1PE_UMTS_PDSCH_SHO_DCH_Info(ctx, &pvalue->dummy1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy2 */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dummy2");
-      stat = asn1PE_UMTS_PDSCH_CodeMapping(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_Info_r4_fdd(rtxContext* ctx, const PrimaryCCPCH_Info_r4_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* tx-DiversityIndicator */
-   rtxCtxtPushElemName(ctx, "tx-DiversityIndicator");
-   stat = rtxEncBit(ctx, pvalue->tx_DiversityIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase1(rtxContext* ctx, const PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase1* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* timeslot */
-   rtxCtxtPushElemName(ctx, "timeslot");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
-   if ((uint64_t)pvalue->timeslot > 14u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->timeslot);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase2(rtxContext* ctx, const PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase2* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* timeslotSync2 */
-   rtxCtxtPushElemName(ctx, "timeslotSync2");
-   rtxCtxtPushTypeName(ctx, "TimeslotSync2");
-   if ((uint64_t)pvalue->timeslotSync2 > 6u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->timeslotSync2);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotSync2, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase(rtxContext* ctx, const PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "syncCase1");
-         if (pvalue->u.syncCase1 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase1(ctx, pvalue->u.syncCase1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "syncCase2");
-         if (pvalue->u.syncCase2 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase2(ctx, pvalue->u.syncCase2);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768(rtxContext* ctx, const PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* syncCase */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "syncCase");
-      stat = asn1PE_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase(ctx, &pvalue->syncCase);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd128(rtxContext* ctx, const PrimaryCCPCH_Info_r4_tdd_tddOption_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* tstd-Indicator */
-   rtxCtxtPushElemName(ctx, "tstd-Indicator");
-   stat = rtxEncBit(ctx, pvalue->tstd_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption(rtxContext* ctx, const PrimaryCCPCH_Info_r4_tdd_tddOption* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384-tdd768");
-         if (pvalue->u.tdd384_tdd768 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768(ctx, pvalue->u.tdd384_tdd768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_Info_r4_tdd(rtxContext* ctx, const PrimaryCCPCH_Info_r4_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* tddOption */
-   rtxCtxtPushElemName(ctx, "tddOption");
-   stat = asn1PE_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellParametersID */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellParametersID");
-      rtxCtxtPushTypeName(ctx, "CellParametersID");
-      if ((uint64_t)pvalue->cellParametersID > 127u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->cellParametersID, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sctd-Indicator */
-   rtxCtxtPushElemName(ctx, "sctd-Indicator");
-   stat = rtxEncBit(ctx, pvalue->sctd_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_Info_r4(rtxContext* ctx, const PrimaryCCPCH_Info_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-Info-r4");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PrimaryCCPCH_Info_r4_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PrimaryCCPCH_Info_r4_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r4_modeSpecificInfo(rtxContext* ctx, const DL_InformationPerRL_r4_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_InformationPerRL_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_fdd(rtxContext* ctx, const SecondaryCCPCH_Info_r4_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)(pvalue->timingOffset != 0) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* secondaryScramblingCode */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "secondaryScramblingCode");
-      rtxCtxtPushTypeName(ctx, "SecondaryScramblingCode");
-      if ((uint64_t)(pvalue->secondaryScramblingCode - 1) > 14u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->secondaryScramblingCode);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->secondaryScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sttd-Indicator */
-   rtxCtxtPushElemName(ctx, "sttd-Indicator");
-   stat = rtxEncBit(ctx, pvalue->sttd_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sf-AndCodeNumber */
-   rtxCtxtPushElemName(ctx, "sf-AndCodeNumber");
-   stat = asn1PE_UMTS_SF256_AndCodeNumber(ctx, &pvalue->sf_AndCodeNumber);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* pilotSymbolExistence */
-   rtxCtxtPushElemName(ctx, "pilotSymbolExistence");
-   stat = rtxEncBit(ctx, pvalue->pilotSymbolExistence);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tfci-Existence */
-   rtxCtxtPushElemName(ctx, "tfci-Existence");
-   stat = rtxEncBit(ctx, pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* positionFixedOrFlexible */
-   rtxCtxtPushElemName(ctx, "positionFixedOrFlexible");
-   rtxCtxtPushTypeName(ctx, "PositionFixedOrFlexible");
-   if (pvalue->positionFixedOrFlexible > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->positionFixedOrFlexible);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->positionFixedOrFlexible, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timingOffset */
-   if (pvalue->timingOffset != 0) {
-      rtxCtxtPushElemName(ctx, "timingOffset");
-      rtxCtxtPushTypeName(ctx, "TimingOffset");
-      if ((uint64_t)pvalue->timingOffset > 149u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->timingOffset);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->timingOffset, 0, 149);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd384(rtxContext* ctx, const SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd384* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* individualTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "individualTimeslotInfo");
-   stat = asn1PE_UMTS_IndividualTimeslotInfo(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* ctx, const SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* individualTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "individualTimeslotInfo");
-   stat = asn1PE_UMTS_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption(rtxContext* ctx, const SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd(rtxContext* ctx, const SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* commonTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "commonTimeslotInfo");
-   stat = asn1PE_UMTS_CommonTimeslotInfoSCCPCH(ctx, &pvalue->commonTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tddOption */
-   rtxCtxtPushElemName(ctx, "tddOption");
-   stat = asn1PE_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* channelisationCode */
-   rtxCtxtPushElemName(ctx, "channelisationCode");
-   stat = asn1PE_UMTS_SCCPCH_ChannelisationCodeList(ctx, &pvalue->channelisationCode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo(rtxContext* ctx, const SecondaryCCPCH_Info_r4_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCH_Info_r4(rtxContext* ctx, const SecondaryCCPCH_Info_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SecondaryCCPCH-Info-r4");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SCCPCH_InfoForFACH_r4_modeSpecificInfo_fdd(rtxContext* ctx, const SCCPCH_InfoForFACH_r4_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* sib-ReferenceListFACH */
-   rtxCtxtPushElemName(ctx, "sib-ReferenceListFACH");
-   stat = asn1PE_UMTS_SIB_ReferenceListFACH(ctx, &pvalue->sib_ReferenceListFACH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SCCPCH_InfoForFACH_r4_modeSpecificInfo(rtxContext* ctx, const SCCPCH_InfoForFACH_r4_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_SCCPCH_InfoForFACH_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SCCPCH_InfoForFACH_r4(rtxContext* ctx, const SCCPCH_InfoForFACH_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SCCPCH-InfoForFACH-r4");
-   /* secondaryCCPCH-Info */
-   rtxCtxtPushElemName(ctx, "secondaryCCPCH-Info");
-   stat = asn1PE_UMTS_SecondaryCCPCH_Info_r4(ctx, &pvalue->secondaryCCPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tfcs */
-   rtxCtxtPushElemName(ctx, "tfcs");
-   stat = asn1PE_UMTS_TFCS(ctx, &pvalue->tfcs);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* fach-PCH-InformationList */
-   rtxCtxtPushElemName(ctx, "fach-PCH-InformationList");
-   stat = asn1PE_UMTS_FACH_PCH_InformationList(ctx, &pvalue->fach_PCH_InformationList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_SCCPCH_InfoForFACH_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r4(rtxContext* ctx, const DL_InformationPerRL_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-InformationPerRL-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_DL_InformationPerRL_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-DPCH-InfoPerRL */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-DPCH-InfoPerRL");
-      stat = asn1PE_UMTS_DL_DPCH_InfoPerRL_r4(ctx, &pvalue->dl_DPCH_InfoPerRL);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      stat = asn1PE_UMTS_SCCPCH_InfoForFACH_r4(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cell-id */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "cell-id");
-      stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->cell_id);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r5_modeSpecificInfo_fdd(rtxContext* ctx, const DL_InformationPerRL_r5_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dummy1 */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dummy1");
-      stat = asn1PE_UMTS_PDSCH_SHO_DCH_Info(ctx, &pvalue->dummy1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy2 */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dummy2");
-      stat = asn1PE_UMTS_PDSCH_CodeMapping(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* servingHSDSCH-RL-indicator */
-   rtxCtxtPushElemName(ctx, "servingHSDSCH-RL-indicator");
-   stat = rtxEncBit(ctx, pvalue->servingHSDSCH_RL_indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r5_modeSpecificInfo(rtxContext* ctx, const DL_InformationPerRL_r5_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_InformationPerRL_r5_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r5(rtxContext* ctx, const DL_InformationPerRL_r5* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-InformationPerRL-r5");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_DL_InformationPerRL_r5_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-DPCH-InfoPerRL */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-DPCH-InfoPerRL");
-      stat = asn1PE_UMTS_DL_DPCH_InfoPerRL_r5(ctx, &pvalue->dl_DPCH_InfoPerRL);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      stat = asn1PE_UMTS_SCCPCH_InfoForFACH_r4(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cell-id */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "cell-id");
-      stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->cell_id);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r5bis_modeSpecificInfo_fdd(rtxContext* ctx, const DL_InformationPerRL_r5bis_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dummy1 */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dummy1");
-      stat = asn1PE_UMTS_PDSCH_SHO_DCH_Info(ctx, &pvalue->dummy1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy2 */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dummy2");
-      stat = asn1PE_UMTS_PDSCH_CodeMapping(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r5bis_modeSpecificInfo(rtxContext* ctx, const DL_InformationPerRL_r5bis_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_InformationPerRL_r5bis_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r5bis(rtxContext* ctx, const DL_InformationPerRL_r5bis* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-InformationPerRL-r5bis");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_DL_InformationPerRL_r5bis_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-DPCH-InfoPerRL */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-DPCH-InfoPerRL");
-      stat = asn1PE_UMTS_DL_DPCH_InfoPerRL_r5(ctx, &pvalue->dl_DPCH_InfoPerRL);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      stat = asn1PE_UMTS_SCCPCH_InfoForFACH_r4(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cell-id */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "cell-id");
-      stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->cell_id);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r6_modeSpecificInfo_fdd(rtxContext* ctx, const DL_InformationPerRL_r6_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* servingHSDSCH-RL-indicator */
-   rtxCtxtPushElemName(ctx, "servingHSDSCH-RL-indicator");
-   stat = rtxEncBit(ctx, pvalue->servingHSDSCH_RL_indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* servingEDCH-RL-indicator */
-   rtxCtxtPushElemName(ctx, "servingEDCH-RL-indicator");
-   stat = rtxEncBit(ctx, pvalue->servingEDCH_RL_indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r6_modeSpecificInfo(rtxContext* ctx, const DL_InformationPerRL_r6_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_InformationPerRL_r6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r6_dl_dpchInfo(rtxContext* ctx, const DL_InformationPerRL_r6_dl_dpchInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "dl-DPCH-InfoPerRL");
-         if (pvalue->u.dl_DPCH_InfoPerRL == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_DPCH_InfoPerRL_r6(ctx, pvalue->u.dl_DPCH_InfoPerRL);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "dl-FDPCH-InfoPerRL");
-         if (pvalue->u.dl_FDPCH_InfoPerRL == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_FDPCH_InfoPerRL_r6(ctx, pvalue->u.dl_FDPCH_InfoPerRL);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r6_e_HICH_Info(rtxContext* ctx, const DL_InformationPerRL_r6_e_HICH_Info* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "e-HICH-Information");
-         if (pvalue->u.e_HICH_Information == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_E_HICH_Information(ctx, pvalue->u.e_HICH_Information);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "releaseIndicator");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r6_e_RGCH_Info(rtxContext* ctx, const DL_InformationPerRL_r6_e_RGCH_Info* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "e-RGCH-Information");
-         if (pvalue->u.e_RGCH_Information == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "releaseIndicator");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r6(rtxContext* ctx, const DL_InformationPerRL_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-InformationPerRL-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_DL_InformationPerRL_r6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-dpchInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-dpchInfo");
-      stat = asn1PE_UMTS_DL_InformationPerRL_r6_dl_dpchInfo(ctx, &pvalue->dl_dpchInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-AGCH-Information */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "e-AGCH-Information");
-      stat = asn1PE_UMTS_E_AGCH_Information(ctx, &pvalue->e_AGCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-HICH-Info */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "e-HICH-Info");
-      stat = asn1PE_UMTS_DL_InformationPerRL_r6_e_HICH_Info(ctx, &pvalue->e_HICH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-RGCH-Info */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "e-RGCH-Info");
-      stat = asn1PE_UMTS_DL_InformationPerRL_r6_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cell-id */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "cell-id");
-      stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->cell_id);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_v6b0ext(rtxContext* ctx, const DL_InformationPerRL_v6b0ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-InformationPerRL-v6b0ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sttdIndication */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sttdIndication");
-      rtxCtxtPushTypeName(ctx, "STTDIndication");
-      if (pvalue->sttdIndication > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->sttdIndication);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->sttdIndication, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo_fdd(rtxContext* ctx, const DL_InformationPerRL_r7_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* servingHSDSCH-RL-indicator */
-   rtxCtxtPushElemName(ctx, "servingHSDSCH-RL-indicator");
-   stat = rtxEncBit(ctx, pvalue->servingHSDSCH_RL_indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* servingEDCH-RL-indicator */
-   rtxCtxtPushElemName(ctx, "servingEDCH-RL-indicator");
-   stat = rtxEncBit(ctx, pvalue->servingEDCH_RL_indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo(rtxContext* ctx, const DL_InformationPerRL_r7_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r7_dl_dpchInfo(rtxContext* ctx, const DL_InformationPerRL_r7_dl_dpchInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "dl-DPCH-InfoPerRL");
-         if (pvalue->u.dl_DPCH_InfoPerRL == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_DPCH_InfoPerRL_r7(ctx, pvalue->u.dl_DPCH_InfoPerRL);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "dl-FDPCH-InfoPerRL");
-         if (pvalue->u.dl_FDPCH_InfoPerRL == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_FDPCH_InfoPerRL_r7(ctx, pvalue->u.dl_FDPCH_InfoPerRL);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_Information_r7_modeSpecific_fdd(rtxContext* ctx, const E_AGCH_Information_r7_modeSpecific_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* e-AGCH-ChannelisationCode */
-   rtxCtxtPushElemName(ctx, "e-AGCH-ChannelisationCode");
-   rtxCtxtPushTypeName(ctx, "E-AGCH-ChannelisationCode");
-   stat = pe_ConsUInt64(ctx, pvalue->e_AGCH_ChannelisationCode, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleConfigurationBurstType1(rtxContext* ctx, MidambleConfigurationBurstType1 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType1");
-   if (value > 2) {
+   if ((uint64_t)value > 604799999u) {
+      rtxErrAddStrParm(ctx, "GPS-TOW-1msec");
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "GPS-TOW-1msec");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   stat = pe_ConsUInt64(ctx, value, 0, 604799999);
+   RT_CHECK(ctx, stat, 0, 0, -1, "GPS-TOW-1msec");
    return 0;
 }
 
-int asn1PE_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, const MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode_ueSpecificMidamble* pvalue)
+int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftLong");
-   if ((uint64_t)pvalue->midambleShift > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode(rtxContext* ctx, const MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode* pvalue)
+int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* cellAndChannelIdentity */
+   stat = asn1PE_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
+   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* sfn */
+   if ((uint64_t)pvalue->sfn > 4095u) {
+      rtxErrAddStrParm(ctx, "sfn");
+      rtxErrAddUIntParm(ctx, pvalue->sfn);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sfn", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->sfn, 0, 4095);
+   RT_CHECK(ctx, stat, 0, "sfn", -1, 0);
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_referenceTime* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.utran_GPSReferenceTimeResult == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "utran-GPSReferenceTimeResult", -1, 0);
+         stat = asn1PE_UMTS_UTRAN_GPSReferenceTimeResult(ctx, pvalue->u.utran_GPSReferenceTimeResult);
+         RT_CHECK(ctx, stat, 0, "utran-GPSReferenceTimeResult", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "commonMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type1(rtxContext* ctx, const MidambleShiftAndBurstType_EDCH_burstType_type1* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* midambleConfigurationBurstType1 */
-   rtxCtxtPushElemName(ctx, "midambleConfigurationBurstType1");
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType1");
-   if (pvalue->midambleConfigurationBurstType1 > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType1);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfigurationBurstType1, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* ctx, const MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode_ueSpecificMidamble* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   rtxCtxtPushTypeName(ctx, "MidambleShiftShort");
-   if ((uint64_t)pvalue->midambleShift > 5u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode(rtxContext* ctx, const MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "commonMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         if (pvalue->u.ueSpecificMidamble == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type2(rtxContext* ctx, const MidambleShiftAndBurstType_EDCH_burstType_type2* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* midambleConfigurationBurstType2 */
-   rtxCtxtPushElemName(ctx, "midambleConfigurationBurstType2");
-   rtxCtxtPushTypeName(ctx, "MidambleConfigurationBurstType2");
-   if (pvalue->midambleConfigurationBurstType2 > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType2);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfigurationBurstType2, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_EDCH_burstType(rtxContext* ctx, const MidambleShiftAndBurstType_EDCH_burstType* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "type1");
-         if (pvalue->u.type1 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type1(ctx, pvalue->u.type1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "type2");
-         if (pvalue->u.type2 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type2(ctx, pvalue->u.type2);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_EDCH(rtxContext* ctx, const MidambleShiftAndBurstType_EDCH* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MidambleShiftAndBurstType-EDCH");
-   /* burstType */
-   rtxCtxtPushElemName(ctx, "burstType");
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_EDCH_burstType(ctx, &pvalue->burstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_Individual(rtxContext* ctx, const E_AGCH_Individual* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-AGCH-Individual");
-   /* tS-number */
-   rtxCtxtPushElemName(ctx, "tS-number");
-   if ((uint64_t)pvalue->tS_number > 14u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->tS_number);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tS_number, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* channelisation-code */
-   rtxCtxtPushElemName(ctx, "channelisation-code");
-   rtxCtxtPushTypeName(ctx, "DL-TS-ChannelisationCode");
-   if (pvalue->channelisation_code > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->channelisation_code);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->channelisation_code, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleShiftAndBurstType */
-   rtxCtxtPushElemName(ctx, "midambleShiftAndBurstType");
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_EDCH(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_Set_Config(rtxContext* ctx, const E_AGCH_Set_Config* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "E-AGCH-Set-Config");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "E-AGCH-Individual", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_E_AGCH_Individual(ctx, (const E_AGCH_Individual*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd384(rtxContext* ctx, const E_AGCH_Information_r7_modeSpecific_tdd_tdd384* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* long-Term-Grant-Indicator */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "long-Term-Grant-Indicator");
-      stat = rtxEncBit(ctx, pvalue->long_Term_Grant_Indicator);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* length-of-TTRI-field */
-   rtxCtxtPushElemName(ctx, "length-of-TTRI-field");
-   if ((uint64_t)(pvalue->length_of_TTRI_field - 1) > 11u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->length_of_TTRI_field);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->length_of_TTRI_field, 1, 12);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-AGCH-Set-Config */
-   rtxCtxtPushElemName(ctx, "e-AGCH-Set-Config");
-   stat = asn1PE_UMTS_E_AGCH_Set_Config(ctx, &pvalue->e_AGCH_Set_Config);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-AGCH-BLER-Target */
-   rtxCtxtPushElemName(ctx, "e-AGCH-BLER-Target");
-   rtxCtxtPushTypeName(ctx, "Bler-Target");
-   if (pvalue->e_AGCH_BLER_Target < -63 || pvalue->e_AGCH_BLER_Target > 0) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->e_AGCH_BLER_Target);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->e_AGCH_BLER_Target, -63, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_Individual_VHCR(rtxContext* ctx, const E_AGCH_Individual_VHCR* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-AGCH-Individual-VHCR");
-   /* tS-number */
-   rtxCtxtPushElemName(ctx, "tS-number");
-   if ((uint64_t)pvalue->tS_number > 14u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->tS_number);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tS_number, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* channelisation-code */
-   rtxCtxtPushElemName(ctx, "channelisation-code");
-   rtxCtxtPushTypeName(ctx, "DL-TS-ChannelisationCode-VHCR");
-   if (pvalue->channelisation_code > 31) {
-      rtxErrAddUIntParm(ctx, pvalue->channelisation_code);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->channelisation_code, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleShiftAndBurstType */
-   rtxCtxtPushElemName(ctx, "midambleShiftAndBurstType");
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_EDCH(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_Set_Config_VHCR(rtxContext* ctx, const E_AGCH_Set_Config_VHCR* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "E-AGCH-Set-Config-VHCR");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "E-AGCH-Individual-VHCR", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_E_AGCH_Individual_VHCR(ctx, (const E_AGCH_Individual_VHCR*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd768(rtxContext* ctx, const E_AGCH_Information_r7_modeSpecific_tdd_tdd768* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* long-Term-Grant-Indicator */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "long-Term-Grant-Indicator");
-      stat = rtxEncBit(ctx, pvalue->long_Term_Grant_Indicator);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* length-of-TTRI-field */
-   rtxCtxtPushElemName(ctx, "length-of-TTRI-field");
-   if ((uint64_t)(pvalue->length_of_TTRI_field - 1) > 11u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->length_of_TTRI_field);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->length_of_TTRI_field, 1, 12);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-AGCH-Set-Config */
-   rtxCtxtPushElemName(ctx, "e-AGCH-Set-Config");
-   stat = asn1PE_UMTS_E_AGCH_Set_Config_VHCR(ctx, &pvalue->e_AGCH_Set_Config);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-AGCH-BLER-Target */
-   rtxCtxtPushElemName(ctx, "e-AGCH-BLER-Target");
-   rtxCtxtPushTypeName(ctx, "Bler-Target");
-   if (pvalue->e_AGCH_BLER_Target < -63 || pvalue->e_AGCH_BLER_Target > 0) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->e_AGCH_BLER_Target);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->e_AGCH_BLER_Target, -63, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd128(rtxContext* ctx, const E_AGCH_Information_r7_modeSpecific_tdd_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* rdi-Indicator */
-   rtxCtxtPushElemName(ctx, "rdi-Indicator");
-   stat = rtxEncBit(ctx, pvalue->rdi_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tpc-StepSize */
-   rtxCtxtPushElemName(ctx, "tpc-StepSize");
-   rtxCtxtPushTypeName(ctx, "TPC-StepSizeTDD");
-   if ((uint64_t)(pvalue->tpc_StepSize - 1) > 2u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->tpc_StepSize);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tpc_StepSize, 1, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* e-AGCH-Set-Config */
-   rtxCtxtPushElemName(ctx, "e-AGCH-Set-Config");
-   stat = asn1PE_UMTS_E_AGCH_Set_Config_LCR(ctx, &pvalue->e_AGCH_Set_Config);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-AGCH-BLER-Target */
-   rtxCtxtPushElemName(ctx, "e-AGCH-BLER-Target");
-   rtxCtxtPushTypeName(ctx, "Bler-Target");
-   if (pvalue->e_AGCH_BLER_Target < -63 || pvalue->e_AGCH_BLER_Target > 0) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->e_AGCH_BLER_Target);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->e_AGCH_BLER_Target, -63, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_Information_r7_modeSpecific_tdd(rtxContext* ctx, const E_AGCH_Information_r7_modeSpecific_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd768");
-         if (pvalue->u.tdd768 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_Information_r7_modeSpecific(rtxContext* ctx, const E_AGCH_Information_r7_modeSpecific* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_E_AGCH_Information_r7_modeSpecific_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_E_AGCH_Information_r7_modeSpecific_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_Information_r7(rtxContext* ctx, const E_AGCH_Information_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-AGCH-Information-r7");
-   /* modeSpecific */
-   rtxCtxtPushElemName(ctx, "modeSpecific");
-   stat = asn1PE_UMTS_E_AGCH_Information_r7_modeSpecific(ctx, &pvalue->modeSpecific);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_HICH_Info(rtxContext* ctx, const DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_HICH_Info* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "e-HICH-Information");
-         if (pvalue->u.e_HICH_Information == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_E_HICH_Information(ctx, pvalue->u.e_HICH_Information);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "releaseIndicator");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_RGCH_Info(rtxContext* ctx, const DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_RGCH_Info* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "e-RGCH-Information");
-         if (pvalue->u.e_RGCH_Information == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "releaseIndicator");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_fdd(rtxContext* ctx, const DL_InformationPerRL_r7_modeSpecificInfo2_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* e-HICH-Info */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "e-HICH-Info");
-      stat = asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_HICH_Info(ctx, &pvalue->e_HICH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-RGCH-Info */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "e-RGCH-Info");
-      stat = asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_HICH_Information_TDD384_768_modeSpecificInfo(rtxContext* ctx, const E_HICH_Information_TDD384_768_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         rtxCtxtPushTypeName(ctx, "DL-TS-ChannelisationCode");
-         if (pvalue->u.tdd384 > 15) {
-            rtxErrAddUIntParm(ctx, pvalue->u.tdd384);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
+         if ((uint64_t)pvalue->u.gps_ReferenceTimeOnly > 604799999u) {
+            rtxErrAddStrParm(ctx, "GPS-TOW-1msec");
+            rtxErrAddUIntParm(ctx, pvalue->u.gps_ReferenceTimeOnly);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "GPS-TOW-1msec", "gps-ReferenceTimeOnly", -1, 0);
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.tdd384, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd768");
-         rtxCtxtPushTypeName(ctx, "DL-TS-ChannelisationCode-VHCR");
-         if (pvalue->u.tdd768 > 31) {
-            rtxErrAddUIntParm(ctx, pvalue->u.tdd768);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.tdd768, 0, 31);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_HICH_Information_TDD384_768_burst_Type(rtxContext* ctx, E_HICH_Information_TDD384_768_burst_Type value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_E_HICH_Information_TDD384_768_midamble_Allocation_Mode(rtxContext* ctx, E_HICH_Information_TDD384_768_midamble_Allocation_Mode value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_E_HICH_Information_TDD384_768(rtxContext* ctx, const E_HICH_Information_TDD384_768* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-HICH-Information-TDD384-768");
-   /* n-E-HICH */
-   rtxCtxtPushElemName(ctx, "n-E-HICH");
-   if ((uint64_t)(pvalue->n_E_HICH - 4) > 40u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->n_E_HICH);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->n_E_HICH, 4, 44);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tS-Number */
-   rtxCtxtPushElemName(ctx, "tS-Number");
-   if ((uint64_t)pvalue->tS_Number > 14u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->tS_Number);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tS_Number, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_E_HICH_Information_TDD384_768_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* burst-Type */
-   rtxCtxtPushElemName(ctx, "burst-Type");
-   if (pvalue->burst_Type > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->burst_Type);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->burst_Type, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midamble-Allocation-Mode */
-   rtxCtxtPushElemName(ctx, "midamble-Allocation-Mode");
-   if (pvalue->midamble_Allocation_Mode > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->midamble_Allocation_Mode);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midamble_Allocation_Mode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd384_tdd768(rtxContext* ctx, const DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd384_tdd768* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* e-HICH-Info */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "e-HICH-Info");
-      stat = asn1PE_UMTS_E_HICH_Information_TDD384_768(ctx, &pvalue->e_HICH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd128(rtxContext* ctx, const DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* e-HICH-Info */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "e-HICH-Info");
-      stat = asn1PE_UMTS_E_HICH_Information_TDD128(ctx, &pvalue->e_HICH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd(rtxContext* ctx, const DL_InformationPerRL_r7_modeSpecificInfo2_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384-tdd768");
-         if (pvalue->u.tdd384_tdd768 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd384_tdd768(ctx, pvalue->u.tdd384_tdd768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2(rtxContext* ctx, const DL_InformationPerRL_r7_modeSpecificInfo2* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r7(rtxContext* ctx, const DL_InformationPerRL_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-InformationPerRL-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-dpchInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-dpchInfo");
-      stat = asn1PE_UMTS_DL_InformationPerRL_r7_dl_dpchInfo(ctx, &pvalue->dl_dpchInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-AGCH-Information */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "e-AGCH-Information");
-      stat = asn1PE_UMTS_E_AGCH_Information_r7(ctx, &pvalue->e_AGCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo2 */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo2");
-   stat = asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2(ctx, &pvalue->modeSpecificInfo2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cell-id */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "cell-id");
-      stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->cell_id);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo_fdd(rtxContext* ctx, const DL_InformationPerRL_r8_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* servingHSDSCH-RL-indicator */
-   rtxCtxtPushElemName(ctx, "servingHSDSCH-RL-indicator");
-   stat = rtxEncBit(ctx, pvalue->servingHSDSCH_RL_indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* servingEDCH-RL-indicator */
-   rtxCtxtPushElemName(ctx, "servingEDCH-RL-indicator");
-   stat = rtxEncBit(ctx, pvalue->servingEDCH_RL_indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo(rtxContext* ctx, const DL_InformationPerRL_r8_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r8_dl_dpchInfo(rtxContext* ctx, const DL_InformationPerRL_r8_dl_dpchInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "dl-DPCH-InfoPerRL");
-         if (pvalue->u.dl_DPCH_InfoPerRL == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_DPCH_InfoPerRL_r7(ctx, pvalue->u.dl_DPCH_InfoPerRL);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "dl-FDPCH-InfoPerRL");
-         if (pvalue->u.dl_FDPCH_InfoPerRL == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_FDPCH_InfoPerRL_r7(ctx, pvalue->u.dl_FDPCH_InfoPerRL);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_Information_r8_modeSpecific_fdd(rtxContext* ctx, const E_AGCH_Information_r8_modeSpecific_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* e-AGCH-ChannelisationCode */
-   rtxCtxtPushElemName(ctx, "e-AGCH-ChannelisationCode");
-   rtxCtxtPushTypeName(ctx, "E-AGCH-ChannelisationCode");
-   stat = pe_ConsUInt64(ctx, pvalue->e_AGCH_ChannelisationCode, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd384(rtxContext* ctx, const E_AGCH_Information_r8_modeSpecific_tdd_tdd384* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* long-Term-Grant-Indicator */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "long-Term-Grant-Indicator");
-      stat = rtxEncBit(ctx, pvalue->long_Term_Grant_Indicator);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* length-of-TTRI-field */
-   rtxCtxtPushElemName(ctx, "length-of-TTRI-field");
-   if ((uint64_t)(pvalue->length_of_TTRI_field - 1) > 11u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->length_of_TTRI_field);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->length_of_TTRI_field, 1, 12);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-AGCH-Set-Config */
-   rtxCtxtPushElemName(ctx, "e-AGCH-Set-Config");
-   stat = asn1PE_UMTS_E_AGCH_Set_Config(ctx, &pvalue->e_AGCH_Set_Config);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-AGCH-BLER-Target */
-   rtxCtxtPushElemName(ctx, "e-AGCH-BLER-Target");
-   rtxCtxtPushTypeName(ctx, "Bler-Target");
-   if (pvalue->e_AGCH_BLER_Target < -63 || pvalue->e_AGCH_BLER_Target > 0) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->e_AGCH_BLER_Target);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->e_AGCH_BLER_Target, -63, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd768(rtxContext* ctx, const E_AGCH_Information_r8_modeSpecific_tdd_tdd768* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* long-Term-Grant-Indicator */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "long-Term-Grant-Indicator");
-      stat = rtxEncBit(ctx, pvalue->long_Term_Grant_Indicator);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* length-of-TTRI-field */
-   rtxCtxtPushElemName(ctx, "length-of-TTRI-field");
-   if ((uint64_t)(pvalue->length_of_TTRI_field - 1) > 11u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->length_of_TTRI_field);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->length_of_TTRI_field, 1, 12);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-AGCH-Set-Config */
-   rtxCtxtPushElemName(ctx, "e-AGCH-Set-Config");
-   stat = asn1PE_UMTS_E_AGCH_Set_Config_VHCR(ctx, &pvalue->e_AGCH_Set_Config);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-AGCH-BLER-Target */
-   rtxCtxtPushElemName(ctx, "e-AGCH-BLER-Target");
-   rtxCtxtPushTypeName(ctx, "Bler-Target");
-   if (pvalue->e_AGCH_BLER_Target < -63 || pvalue->e_AGCH_BLER_Target > 0) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->e_AGCH_BLER_Target);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->e_AGCH_BLER_Target, -63, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd128(rtxContext* ctx, const E_AGCH_Information_r8_modeSpecific_tdd_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* rdi-Indicator */
-   rtxCtxtPushElemName(ctx, "rdi-Indicator");
-   stat = rtxEncBit(ctx, pvalue->rdi_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tpc-StepSize */
-   rtxCtxtPushElemName(ctx, "tpc-StepSize");
-   rtxCtxtPushTypeName(ctx, "TPC-StepSizeTDD");
-   if ((uint64_t)(pvalue->tpc_StepSize - 1) > 2u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->tpc_StepSize);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tpc_StepSize, 1, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* e-AGCH-Set-Config */
-   rtxCtxtPushElemName(ctx, "e-AGCH-Set-Config");
-   stat = asn1PE_UMTS_E_AGCH_Set_Config_LCR(ctx, &pvalue->e_AGCH_Set_Config);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-AGCH-BLER-Target */
-   rtxCtxtPushElemName(ctx, "e-AGCH-BLER-Target");
-   rtxCtxtPushTypeName(ctx, "Bler-Target");
-   if (pvalue->e_AGCH_BLER_Target < -63 || pvalue->e_AGCH_BLER_Target > 0) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->e_AGCH_BLER_Target);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->e_AGCH_BLER_Target, -63, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* e-AGCH-InactivityMonitorThreshold */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "e-AGCH-InactivityMonitorThreshold");
-      rtxCtxtPushTypeName(ctx, "E-AGCH-InactivityMonitorThreshold-TDD128");
-      if (pvalue->e_AGCH_InactivityMonitorThreshold > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->e_AGCH_InactivityMonitorThreshold);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->e_AGCH_InactivityMonitorThreshold, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_Information_r8_modeSpecific_tdd(rtxContext* ctx, const E_AGCH_Information_r8_modeSpecific_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd768");
-         if (pvalue->u.tdd768 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         stat = pe_ConsUInt64(ctx, pvalue->u.gps_ReferenceTimeOnly, 0, 604799999);
+         RT_CHECK(ctx, stat, "GPS-TOW-1msec", "gps-ReferenceTimeOnly", -1, 0);
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.cell_Timing == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cell-Timing", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing(ctx, pvalue->u.cell_Timing);
+         RT_CHECK(ctx, stat, 0, "cell-Timing", -1, 0);
          break;
       default:
          break;
@@ -2947,29 +2224,38 @@ int asn1PE_UMTS_E_AGCH_Information_r8_modeSpecific_tdd(rtxContext* ctx, const E_
    return 0;
 }
 
-int asn1PE_UMTS_E_AGCH_Information_r8_modeSpecific(rtxContext* ctx, const E_AGCH_Information_r8_modeSpecific* pvalue)
+int asn1PE_UMTS_PositionEstimate(rtxContext* RT_RESTRICT ctx, const PositionEstimate* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PositionEstimate");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 4);
+   RT_CHECK(ctx, stat, 0, "t", -1, "PositionEstimate");
+   if (pvalue->t - 1 > 4) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PositionEstimate");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_E_AGCH_Information_r8_modeSpecific_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.ellipsoidPoint == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ellipsoidPoint", -1, "PositionEstimate");
+         stat = asn1PE_UMTS_EllipsoidPoint(ctx, pvalue->u.ellipsoidPoint);
+         RT_CHECK(ctx, stat, 0, "ellipsoidPoint", -1, "PositionEstimate");
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_E_AGCH_Information_r8_modeSpecific_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.ellipsoidPointUncertCircle == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ellipsoidPointUncertCircle", -1, "PositionEstimate");
+         stat = asn1PE_UMTS_EllipsoidPointUncertCircle(ctx, pvalue->u.ellipsoidPointUncertCircle);
+         RT_CHECK(ctx, stat, 0, "ellipsoidPointUncertCircle", -1, "PositionEstimate");
+         break;
+      case 3:
+         if (pvalue->u.ellipsoidPointUncertEllipse == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ellipsoidPointUncertEllipse", -1, "PositionEstimate");
+         stat = asn1PE_UMTS_EllipsoidPointUncertEllipse(ctx, pvalue->u.ellipsoidPointUncertEllipse);
+         RT_CHECK(ctx, stat, 0, "ellipsoidPointUncertEllipse", -1, "PositionEstimate");
+         break;
+      case 4:
+         if (pvalue->u.ellipsoidPointAltitude == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ellipsoidPointAltitude", -1, "PositionEstimate");
+         stat = asn1PE_UMTS_EllipsoidPointAltitude(ctx, pvalue->u.ellipsoidPointAltitude);
+         RT_CHECK(ctx, stat, 0, "ellipsoidPointAltitude", -1, "PositionEstimate");
+         break;
+      case 5:
+         if (pvalue->u.ellipsoidPointAltitudeEllipse == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ellipsoidPointAltitudeEllipse", -1, "PositionEstimate");
+         stat = asn1PE_UMTS_EllipsoidPointAltitudeEllipsoide(ctx, pvalue->u.ellipsoidPointAltitudeEllipse);
+         RT_CHECK(ctx, stat, 0, "ellipsoidPointAltitudeEllipse", -1, "PositionEstimate");
          break;
       default:
          break;
@@ -2977,40 +2263,124 @@ int asn1PE_UMTS_E_AGCH_Information_r8_modeSpecific(rtxContext* ctx, const E_AGCH
    return 0;
 }
 
-int asn1PE_UMTS_E_AGCH_Information_r8(rtxContext* ctx, const E_AGCH_Information_r8* pvalue)
+int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-AGCH-Information-r8");
-   /* modeSpecific */
-   rtxCtxtPushElemName(ctx, "modeSpecific");
-   stat = asn1PE_UMTS_E_AGCH_Information_r8_modeSpecific(ctx, &pvalue->modeSpecific);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-PositionEstimateInfo");
+   /* referenceTime */
+   stat = asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime(ctx, &pvalue->referenceTime);
+   RT_CHECK(ctx, stat, 0, "referenceTime", -1, "UE-Positioning-PositionEstimateInfo");
+   /* positionEstimate */
+   stat = asn1PE_UMTS_PositionEstimate(ctx, &pvalue->positionEstimate);
+   RT_CHECK(ctx, stat, 0, "positionEstimate", -1, "UE-Positioning-PositionEstimateInfo");
    return 0;
 }
 
-int asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_HICH_Info(rtxContext* ctx, const DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_HICH_Info* pvalue)
+int asn1PE_UMTS_UE_RX_TX_TimeDifferenceType2(rtxContext* RT_RESTRICT ctx, UE_RX_TX_TimeDifferenceType2 value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if ((uint64_t)value > 8191u) {
+      rtxErrAddStrParm(ctx, "UE-RX-TX-TimeDifferenceType2");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UE-RX-TX-TimeDifferenceType2");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 8191);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RX-TX-TimeDifferenceType2");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_Quality(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_Quality* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-Quality");
+   /* stdResolution */
+   RT_SET_SIZE(ctx, 2, 2);
+   stat = pe_BitString32(ctx, &pvalue->stdResolution, 2, 2);
+   RT_CHECK(ctx, stat, 0, "stdResolution", -1, "UE-Positioning-OTDOA-Quality");
+   /* numberOfOTDOA-Measurements */
+   RT_SET_SIZE(ctx, 3, 3);
+   stat = pe_BitString32(ctx, &pvalue->numberOfOTDOA_Measurements, 3, 3);
+   RT_CHECK(ctx, stat, 0, "numberOfOTDOA-Measurements", -1, "UE-Positioning-OTDOA-Quality");
+   /* stdOfOTDOA-Measurements */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pe_BitString32(ctx, &pvalue->stdOfOTDOA_Measurements, 5, 5);
+   RT_CHECK(ctx, stat, 0, "stdOfOTDOA-Measurements", -1, "UE-Positioning-OTDOA-Quality");
+   return 0;
+}
+
+int asn1PE_UMTS_NeighbourQuality(rtxContext* RT_RESTRICT ctx, const NeighbourQuality* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NeighbourQuality");
+   /* ue-Positioning-OTDOA-Quality */
+   stat = asn1PE_UMTS_UE_Positioning_OTDOA_Quality(ctx, &pvalue->ue_Positioning_OTDOA_Quality);
+   RT_CHECK(ctx, stat, 0, "ue-Positioning-OTDOA-Quality", -1, "NeighbourQuality");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RX_TX_TimeDifferenceType2Info(rtxContext* RT_RESTRICT ctx, const UE_RX_TX_TimeDifferenceType2Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RX-TX-TimeDifferenceType2Info");
+   /* ue-RX-TX-TimeDifferenceType2 */
+   if ((uint64_t)pvalue->ue_RX_TX_TimeDifferenceType2 > 8191u) {
+      rtxErrAddStrParm(ctx, "UE-RX-TX-TimeDifferenceType2");
+      rtxErrAddUIntParm(ctx, pvalue->ue_RX_TX_TimeDifferenceType2);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "UE-RX-TX-TimeDifferenceType2", "ue-RX-TX-TimeDifferenceType2", -1, "UE-RX-TX-TimeDifferenceType2Info");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ue_RX_TX_TimeDifferenceType2, 0, 8191);
+   RT_CHECK(ctx, stat, "UE-RX-TX-TimeDifferenceType2", "ue-RX-TX-TimeDifferenceType2", -1, "UE-RX-TX-TimeDifferenceType2Info");
+   /* neighbourQuality */
+   stat = asn1PE_UMTS_NeighbourQuality(ctx, &pvalue->neighbourQuality);
+   RT_CHECK(ctx, stat, 0, "neighbourQuality", -1, "UE-RX-TX-TimeDifferenceType2Info");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_Measurement_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* referenceCellIDentity */
+   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->referenceCellIDentity);
+   RT_CHECK(ctx, stat, 0, "referenceCellIDentity", -1, 0);
+   /* ue-RX-TX-TimeDifferenceType2Info */
+   stat = asn1PE_UMTS_UE_RX_TX_TimeDifferenceType2Info(ctx, &pvalue->ue_RX_TX_TimeDifferenceType2Info);
+   RT_CHECK(ctx, stat, 0, "ue-RX-TX-TimeDifferenceType2Info", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_Measurement_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* referenceCellIdentity */
+   if ((uint64_t)pvalue->referenceCellIdentity > 127u) {
+      rtxErrAddStrParm(ctx, "CellParametersID");
+      rtxErrAddUIntParm(ctx, pvalue->referenceCellIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "CellParametersID", "referenceCellIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->referenceCellIdentity, 0, 127);
+   RT_CHECK(ctx, stat, "CellParametersID", "referenceCellIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_Measurement_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_Measurement_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "e-HICH-Information");
-         if (pvalue->u.e_HICH_Information == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_E_HICH_Information(ctx, pvalue->u.e_HICH_Information);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "releaseIndicator");
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
          break;
@@ -3018,115 +2388,59 @@ int asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_HICH_Info(rtxCont
    return 0;
 }
 
-int asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_RGCH_Info(rtxContext* ctx, const DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_RGCH_Info* pvalue)
+int asn1PE_UMTS_Neighbour_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const Neighbour_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "e-RGCH-Information");
-         if (pvalue->u.e_RGCH_Information == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "releaseIndicator");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_fdd(rtxContext* ctx, const DL_InformationPerRL_r8_modeSpecificInfo2_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* e-HICH-Info */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* neighbourIdentity */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "e-HICH-Info");
-      stat = asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_HICH_Info(ctx, &pvalue->e_HICH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->neighbourIdentity);
+      RT_CHECK(ctx, stat, 0, "neighbourIdentity", -1, 0);
    }
-   /* e-RGCH-Info */
+   /* uE-RX-TX-TimeDifferenceType2Info */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "e-RGCH-Info");
-      stat = asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UE_RX_TX_TimeDifferenceType2Info(ctx, &pvalue->uE_RX_TX_TimeDifferenceType2Info);
+      RT_CHECK(ctx, stat, 0, "uE-RX-TX-TimeDifferenceType2Info", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd384_tdd768(rtxContext* ctx, const DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd384_tdd768* pvalue)
+int asn1PE_UMTS_Neighbour_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const Neighbour_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* e-HICH-Info */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* neighbourAndChannelIdentity */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "e-HICH-Info");
-      stat = asn1PE_UMTS_E_HICH_Information_TDD384_768(ctx, &pvalue->e_HICH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CellAndChannelIdentity(ctx, &pvalue->neighbourAndChannelIdentity);
+      RT_CHECK(ctx, stat, 0, "neighbourAndChannelIdentity", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd128(rtxContext* ctx, const DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd128* pvalue)
+int asn1PE_UMTS_Neighbour_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const Neighbour_modeSpecificInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* e-HICH-Info */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "e-HICH-Info");
-      stat = asn1PE_UMTS_E_HICH_Information_TDD128(ctx, &pvalue->e_HICH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd(rtxContext* ctx, const DL_InformationPerRL_r8_modeSpecificInfo2_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "tdd384-tdd768");
-         if (pvalue->u.tdd384_tdd768 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd384_tdd768(ctx, pvalue->u.tdd384_tdd768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_Neighbour_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_Neighbour_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
          break;
@@ -3134,350 +2448,86 @@ int asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd(rtxContext* ctx, co
    return 0;
 }
 
-int asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2(rtxContext* ctx, const DL_InformationPerRL_r8_modeSpecificInfo2* pvalue)
+int asn1PE_UMTS_Neighbour(rtxContext* RT_RESTRICT ctx, const Neighbour* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r8(rtxContext* ctx, const DL_InformationPerRL_r8* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-InformationPerRL-r8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Neighbour");
    /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-dpchInfo */
+   stat = asn1PE_UMTS_Neighbour_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "Neighbour");
+   /* neighbourQuality */
+   stat = asn1PE_UMTS_NeighbourQuality(ctx, &pvalue->neighbourQuality);
+   RT_CHECK(ctx, stat, 0, "neighbourQuality", -1, "Neighbour");
+   /* sfn-SFN-ObsTimeDifference2 */
+   stat = pe_ConsUInt64(ctx, pvalue->sfn_SFN_ObsTimeDifference2, 0, 65535);
+   RT_CHECK(ctx, stat, "SFN-SFN-ObsTimeDifference2", "sfn-SFN-ObsTimeDifference2", -1, "Neighbour");
+   return 0;
+}
+
+int asn1PE_UMTS_NeighbourList(rtxContext* RT_RESTRICT ctx, const NeighbourList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NeighbourList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NeighbourList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "Neighbour", (int32_t)i, "NeighbourList");
+      stat = asn1PE_UMTS_Neighbour(ctx, (const Neighbour*)node->data);
+      RT_CHECK(ctx, stat, 0, "Neighbour", (int32_t)i, "NeighbourList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_Measurement(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_Measurement* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-Measurement");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-Measurement");
+   /* sfn */
+   if ((uint64_t)pvalue->sfn > 4095u) {
+      rtxErrAddStrParm(ctx, "sfn");
+      rtxErrAddUIntParm(ctx, pvalue->sfn);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sfn", -1, "UE-Positioning-OTDOA-Measurement");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->sfn, 0, 4095);
+   RT_CHECK(ctx, stat, 0, "sfn", -1, "UE-Positioning-OTDOA-Measurement");
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_UE_Positioning_OTDOA_Measurement_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-Measurement");
+   /* neighbourList */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-dpchInfo");
-      stat = asn1PE_UMTS_DL_InformationPerRL_r8_dl_dpchInfo(ctx, &pvalue->dl_dpchInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_NeighbourList(ctx, &pvalue->neighbourList);
+      RT_CHECK(ctx, stat, 0, "neighbourList", -1, "UE-Positioning-OTDOA-Measurement");
    }
-   /* e-AGCH-Information */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "e-AGCH-Information");
-      stat = asn1PE_UMTS_E_AGCH_Information_r8(ctx, &pvalue->e_AGCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo2 */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo2");
-   stat = asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2(ctx, &pvalue->modeSpecificInfo2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cell-id */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "cell-id");
-      stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->cell_id);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_DL_InformationPerRL_List(rtxContext* ctx, const DL_InformationPerRL_List* pvalue)
+int asn1PE_UMTS_UE_Positioning_GPS_MeasurementResults_referenceTime(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_MeasurementResults_referenceTime* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "DL-InformationPerRL-List");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "DL-InformationPerRL", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_DL_InformationPerRL(ctx, (const DL_InformationPerRL*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_List_r4(rtxContext* ctx, const DL_InformationPerRL_List_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "DL-InformationPerRL-List-r4");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "DL-InformationPerRL-r4", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_DL_InformationPerRL_r4(ctx, (const DL_InformationPerRL_r4*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_List_r5(rtxContext* ctx, const DL_InformationPerRL_List_r5* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "DL-InformationPerRL-List-r5");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "DL-InformationPerRL-r5", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_DL_InformationPerRL_r5(ctx, (const DL_InformationPerRL_r5*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_List_r6(rtxContext* ctx, const DL_InformationPerRL_List_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "DL-InformationPerRL-List-r6");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "DL-InformationPerRL-r6", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_DL_InformationPerRL_r6(ctx, (const DL_InformationPerRL_r6*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_List_v6b0ext(rtxContext* ctx, const DL_InformationPerRL_List_v6b0ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "DL-InformationPerRL-List-v6b0ext");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "DL-InformationPerRL-v6b0ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_DL_InformationPerRL_v6b0ext(ctx, (const DL_InformationPerRL_v6b0ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_List_r5bis(rtxContext* ctx, const DL_InformationPerRL_List_r5bis* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "DL-InformationPerRL-List-r5bis");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "DL-InformationPerRL-r5bis", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_DL_InformationPerRL_r5bis(ctx, (const DL_InformationPerRL_r5bis*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_List_r7(rtxContext* ctx, const DL_InformationPerRL_List_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "DL-InformationPerRL-List-r7");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "DL-InformationPerRL-r7", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_DL_InformationPerRL_r7(ctx, (const DL_InformationPerRL_r7*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_List_r8(rtxContext* ctx, const DL_InformationPerRL_List_r8* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "DL-InformationPerRL-List-r8");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "DL-InformationPerRL-r8", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_DL_InformationPerRL_r8(ctx, (const DL_InformationPerRL_r8*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_PostFDD(rtxContext* ctx, const DL_InformationPerRL_PostFDD* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-InformationPerRL-PostFDD");
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-DPCH-InfoPerRL */
-   rtxCtxtPushElemName(ctx, "dl-DPCH-InfoPerRL");
-   stat = asn1PE_UMTS_DL_DPCH_InfoPerRL_PostFDD(ctx, &pvalue->dl_DPCH_InfoPerRL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_ListPostFDD(rtxContext* ctx, const DL_InformationPerRL_ListPostFDD* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "DL-InformationPerRL-ListPostFDD");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "DL-InformationPerRL-PostFDD", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_DL_InformationPerRL_PostFDD(ctx, (const DL_InformationPerRL_PostFDD*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_InfoPost_syncCase_syncCase1(rtxContext* ctx, const PrimaryCCPCH_InfoPost_syncCase_syncCase1* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* timeslot */
-   rtxCtxtPushElemName(ctx, "timeslot");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
-   if ((uint64_t)pvalue->timeslot > 14u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->timeslot);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_InfoPost_syncCase_syncCase2(rtxContext* ctx, const PrimaryCCPCH_InfoPost_syncCase_syncCase2* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* timeslotSync2 */
-   rtxCtxtPushElemName(ctx, "timeslotSync2");
-   rtxCtxtPushTypeName(ctx, "TimeslotSync2");
-   if ((uint64_t)pvalue->timeslotSync2 > 6u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->timeslotSync2);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotSync2, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_InfoPost_syncCase(rtxContext* ctx, const PrimaryCCPCH_InfoPost_syncCase* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "syncCase1");
-         if (pvalue->u.syncCase1 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PrimaryCCPCH_InfoPost_syncCase_syncCase1(ctx, pvalue->u.syncCase1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.utran_GPSReferenceTimeResult == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "utran-GPSReferenceTimeResult", -1, 0);
+         stat = asn1PE_UMTS_UTRAN_GPSReferenceTimeResult(ctx, pvalue->u.utran_GPSReferenceTimeResult);
+         RT_CHECK(ctx, stat, 0, "utran-GPSReferenceTimeResult", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "syncCase2");
-         if (pvalue->u.syncCase2 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PrimaryCCPCH_InfoPost_syncCase_syncCase2(ctx, pvalue->u.syncCase2);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if ((uint64_t)pvalue->u.gps_ReferenceTimeOnly > 604799999u) {
+            rtxErrAddStrParm(ctx, "GPS-TOW-1msec");
+            rtxErrAddUIntParm(ctx, pvalue->u.gps_ReferenceTimeOnly);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "GPS-TOW-1msec", "gps-ReferenceTimeOnly", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.gps_ReferenceTimeOnly, 0, 604799999);
+         RT_CHECK(ctx, stat, "GPS-TOW-1msec", "gps-ReferenceTimeOnly", -1, 0);
          break;
       default:
          break;
@@ -3485,1324 +2535,1858 @@ int asn1PE_UMTS_PrimaryCCPCH_InfoPost_syncCase(rtxContext* ctx, const PrimaryCCP
    return 0;
 }
 
-int asn1PE_UMTS_PrimaryCCPCH_InfoPost(rtxContext* ctx, const PrimaryCCPCH_InfoPost* pvalue)
+int asn1PE_UMTS_MultipathIndicator(rtxContext* RT_RESTRICT ctx, MultipathIndicator value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-InfoPost");
-   /* syncCase */
-   rtxCtxtPushElemName(ctx, "syncCase");
-   stat = asn1PE_UMTS_PrimaryCCPCH_InfoPost_syncCase(ctx, &pvalue->syncCase);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellParametersID */
-   rtxCtxtPushElemName(ctx, "cellParametersID");
-   rtxCtxtPushTypeName(ctx, "CellParametersID");
-   if ((uint64_t)pvalue->cellParametersID > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MultipathIndicator");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->cellParametersID, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* sctd-Indicator */
-   rtxCtxtPushElemName(ctx, "sctd-Indicator");
-   stat = rtxEncBit(ctx, pvalue->sctd_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MultipathIndicator");
    return 0;
 }
 
-int asn1PE_UMTS_DL_InformationPerRL_PostTDD(rtxContext* ctx, const DL_InformationPerRL_PostTDD* pvalue)
+int asn1PE_UMTS_GPS_MeasurementParam(rtxContext* RT_RESTRICT ctx, const GPS_MeasurementParam* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-InformationPerRL-PostTDD");
-   /* primaryCCPCH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-Info");
-   stat = asn1PE_UMTS_PrimaryCCPCH_InfoPost(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-DPCH-InfoPerRL */
-   rtxCtxtPushElemName(ctx, "dl-DPCH-InfoPerRL");
-   stat = asn1PE_UMTS_DL_DPCH_InfoPerRL_PostTDD(ctx, &pvalue->dl_DPCH_InfoPerRL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_InfoPostTDD_LCR_r4(rtxContext* ctx, const PrimaryCCPCH_InfoPostTDD_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-InfoPostTDD-LCR-r4");
-   /* tstd-Indicator */
-   rtxCtxtPushElemName(ctx, "tstd-Indicator");
-   stat = rtxEncBit(ctx, pvalue->tstd_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellParametersID */
-   rtxCtxtPushElemName(ctx, "cellParametersID");
-   rtxCtxtPushTypeName(ctx, "CellParametersID");
-   if ((uint64_t)pvalue->cellParametersID > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GPS-MeasurementParam");
+   /* satelliteID */
+   if ((uint64_t)pvalue->satelliteID > 63u) {
+      rtxErrAddStrParm(ctx, "satelliteID");
+      rtxErrAddUIntParm(ctx, pvalue->satelliteID);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "satelliteID", -1, "GPS-MeasurementParam");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->cellParametersID, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* sctd-Indicator */
-   rtxCtxtPushElemName(ctx, "sctd-Indicator");
-   stat = rtxEncBit(ctx, pvalue->sctd_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   stat = pe_ConsUInt64(ctx, pvalue->satelliteID, 0, 63);
+   RT_CHECK(ctx, stat, 0, "satelliteID", -1, "GPS-MeasurementParam");
+   /* c-N0 */
+   if ((uint64_t)pvalue->c_N0 > 63u) {
+      rtxErrAddStrParm(ctx, "c-N0");
+      rtxErrAddUIntParm(ctx, pvalue->c_N0);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "c-N0", -1, "GPS-MeasurementParam");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->c_N0, 0, 63);
+   RT_CHECK(ctx, stat, 0, "c-N0", -1, "GPS-MeasurementParam");
+   /* doppler */
+   if (pvalue->doppler < -32768 || pvalue->doppler > 32768) {
+      rtxErrAddStrParm(ctx, "doppler");
+      rtxErrAddIntParm(ctx, pvalue->doppler);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "doppler", -1, "GPS-MeasurementParam");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->doppler, -32768, 32768);
+   RT_CHECK(ctx, stat, 0, "doppler", -1, "GPS-MeasurementParam");
+   /* wholeGPS-Chips */
+   if ((uint64_t)pvalue->wholeGPS_Chips > 1022u) {
+      rtxErrAddStrParm(ctx, "wholeGPS-Chips");
+      rtxErrAddUIntParm(ctx, pvalue->wholeGPS_Chips);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "wholeGPS-Chips", -1, "GPS-MeasurementParam");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->wholeGPS_Chips, 0, 1022);
+   RT_CHECK(ctx, stat, 0, "wholeGPS-Chips", -1, "GPS-MeasurementParam");
+   /* fractionalGPS-Chips */
+   if ((uint64_t)pvalue->fractionalGPS_Chips > 1023u) {
+      rtxErrAddStrParm(ctx, "fractionalGPS-Chips");
+      rtxErrAddUIntParm(ctx, pvalue->fractionalGPS_Chips);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "fractionalGPS-Chips", -1, "GPS-MeasurementParam");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->fractionalGPS_Chips, 0, 1023);
+   RT_CHECK(ctx, stat, 0, "fractionalGPS-Chips", -1, "GPS-MeasurementParam");
+   /* multipathIndicator */
+   if (pvalue->multipathIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->multipathIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MultipathIndicator", "multipathIndicator", -1, "GPS-MeasurementParam");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->multipathIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "MultipathIndicator", "multipathIndicator", -1, "GPS-MeasurementParam");
+   /* pseudorangeRMS-Error */
+   if ((uint64_t)pvalue->pseudorangeRMS_Error > 63u) {
+      rtxErrAddStrParm(ctx, "pseudorangeRMS-Error");
+      rtxErrAddUIntParm(ctx, pvalue->pseudorangeRMS_Error);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "pseudorangeRMS-Error", -1, "GPS-MeasurementParam");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->pseudorangeRMS_Error, 0, 63);
+   RT_CHECK(ctx, stat, 0, "pseudorangeRMS-Error", -1, "GPS-MeasurementParam");
    return 0;
 }
 
-int asn1PE_UMTS_DL_InformationPerRL_PostTDD_LCR_r4(rtxContext* ctx, const DL_InformationPerRL_PostTDD_LCR_r4* pvalue)
+int asn1PE_UMTS_GPS_MeasurementParamList(rtxContext* RT_RESTRICT ctx, const GPS_MeasurementParamList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-InformationPerRL-PostTDD-LCR-r4");
-   /* primaryCCPCH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-Info");
-   stat = asn1PE_UMTS_PrimaryCCPCH_InfoPostTDD_LCR_r4(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-DPCH-InfoPerRL */
-   rtxCtxtPushElemName(ctx, "dl-DPCH-InfoPerRL");
-   stat = asn1PE_UMTS_DL_DPCH_InfoPerRL_PostTDD_LCR_r4(ctx, &pvalue->dl_DPCH_InfoPerRL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GPS-MeasurementParamList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GPS-MeasurementParamList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GPS-MeasurementParam", (int32_t)i, "GPS-MeasurementParamList");
+      stat = asn1PE_UMTS_GPS_MeasurementParam(ctx, (const GPS_MeasurementParam*)node->data);
+      RT_CHECK(ctx, stat, 0, "GPS-MeasurementParam", (int32_t)i, "GPS-MeasurementParamList");
+   }
    return 0;
 }
 
-int asn1PE_UMTS_DL_PDSCH_Information(rtxContext* ctx, const DL_PDSCH_Information* pvalue)
+int asn1PE_UMTS_UE_Positioning_GPS_MeasurementResults(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_MeasurementResults* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-PDSCH-Information");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-MeasurementResults");
+   /* referenceTime */
+   stat = asn1PE_UMTS_UE_Positioning_GPS_MeasurementResults_referenceTime(ctx, &pvalue->referenceTime);
+   RT_CHECK(ctx, stat, 0, "referenceTime", -1, "UE-Positioning-GPS-MeasurementResults");
+   /* gps-MeasurementParamList */
+   stat = asn1PE_UMTS_GPS_MeasurementParamList(ctx, &pvalue->gps_MeasurementParamList);
+   RT_CHECK(ctx, stat, 0, "gps-MeasurementParamList", -1, "UE-Positioning-GPS-MeasurementResults");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_MeasurementEventResults(rtxContext* RT_RESTRICT ctx, const UE_Positioning_MeasurementEventResults* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-MeasurementEventResults");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK(ctx, stat, 0, "t", -1, "UE-Positioning-MeasurementEventResults");
+   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UE-Positioning-MeasurementEventResults");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.event7a == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event7a", -1, "UE-Positioning-MeasurementEventResults");
+         stat = asn1PE_UMTS_UE_Positioning_PositionEstimateInfo(ctx, pvalue->u.event7a);
+         RT_CHECK(ctx, stat, 0, "event7a", -1, "UE-Positioning-MeasurementEventResults");
+         break;
+      case 2:
+         if (pvalue->u.event7b == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event7b", -1, "UE-Positioning-MeasurementEventResults");
+         stat = asn1PE_UMTS_UE_Positioning_OTDOA_Measurement(ctx, pvalue->u.event7b);
+         RT_CHECK(ctx, stat, 0, "event7b", -1, "UE-Positioning-MeasurementEventResults");
+         break;
+      case 3:
+         if (pvalue->u.event7c == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event7c", -1, "UE-Positioning-MeasurementEventResults");
+         stat = asn1PE_UMTS_UE_Positioning_GPS_MeasurementResults(ctx, pvalue->u.event7c);
+         RT_CHECK(ctx, stat, 0, "event7c", -1, "UE-Positioning-MeasurementEventResults");
+         break;
+      case 4:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_EventResults(rtxContext* RT_RESTRICT ctx, const EventResults* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EventResults");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
+   RT_CHECK(ctx, stat, 0, "t", -1, "EventResults");
+   if (pvalue->t - 1 > 7) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "EventResults");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.intraFreqEventResults == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFreqEventResults", -1, "EventResults");
+         stat = asn1PE_UMTS_IntraFreqEventResults(ctx, pvalue->u.intraFreqEventResults);
+         RT_CHECK(ctx, stat, 0, "intraFreqEventResults", -1, "EventResults");
+         break;
+      case 2:
+         if (pvalue->u.interFreqEventResults == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interFreqEventResults", -1, "EventResults");
+         stat = asn1PE_UMTS_InterFreqEventResults(ctx, pvalue->u.interFreqEventResults);
+         RT_CHECK(ctx, stat, 0, "interFreqEventResults", -1, "EventResults");
+         break;
+      case 3:
+         if (pvalue->u.interRATEventResults == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interRATEventResults", -1, "EventResults");
+         stat = asn1PE_UMTS_InterRATEventResults(ctx, pvalue->u.interRATEventResults);
+         RT_CHECK(ctx, stat, 0, "interRATEventResults", -1, "EventResults");
+         break;
+      case 4:
+         if (pvalue->u.trafficVolumeEventResults == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "trafficVolumeEventResults", -1, "EventResults");
+         stat = asn1PE_UMTS_TrafficVolumeEventResults(ctx, pvalue->u.trafficVolumeEventResults);
+         RT_CHECK(ctx, stat, 0, "trafficVolumeEventResults", -1, "EventResults");
+         break;
+      case 5:
+         if (pvalue->u.qualityEventResults == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "qualityEventResults", -1, "EventResults");
+         stat = asn1PE_UMTS_QualityEventResults(ctx, pvalue->u.qualityEventResults);
+         RT_CHECK(ctx, stat, 0, "qualityEventResults", -1, "EventResults");
+         break;
+      case 6:
+         if (pvalue->u.ue_InternalEventResults == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-InternalEventResults", -1, "EventResults");
+         stat = asn1PE_UMTS_UE_InternalEventResults(ctx, pvalue->u.ue_InternalEventResults);
+         RT_CHECK(ctx, stat, 0, "ue-InternalEventResults", -1, "EventResults");
+         break;
+      case 7:
+         if (pvalue->u.ue_positioning_MeasurementEventResults == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-positioning-MeasurementEventResults", -1, "EventResults");
+         stat = asn1PE_UMTS_UE_Positioning_MeasurementEventResults(ctx, pvalue->u.ue_positioning_MeasurementEventResults);
+         RT_CHECK(ctx, stat, 0, "ue-positioning-MeasurementEventResults", -1, "EventResults");
+         break;
+      case 8:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UTRAN_GANSSReferenceTime_ue_GANSSTimingOfCellFrames(rtxContext* RT_RESTRICT ctx, const UTRAN_GANSSReferenceTime_ue_GANSSTimingOfCellFrames* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ms-Part */
+   if ((uint64_t)pvalue->ms_Part > 80u) {
+      rtxErrAddStrParm(ctx, "ms-Part");
+      rtxErrAddUIntParm(ctx, pvalue->ms_Part);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ms-Part", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ms_Part, 0, 80);
+   RT_CHECK(ctx, stat, 0, "ms-Part", -1, 0);
+   /* ls-Part */
+   stat = pe_ConsUInt64(ctx, pvalue->ls_Part, 0, 4294967295ULL);
+   RT_CHECK(ctx, stat, 0, "ls-Part", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UTRAN_GANSSReferenceTime_mode_fdd(rtxContext* RT_RESTRICT ctx, const UTRAN_GANSSReferenceTime_mode_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* primary-CPICH-Info */
+   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primary_CPICH_Info);
+   RT_CHECK(ctx, stat, 0, "primary-CPICH-Info", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UTRAN_GANSSReferenceTime_mode_tdd(rtxContext* RT_RESTRICT ctx, const UTRAN_GANSSReferenceTime_mode_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* cellParameters */
+   if ((uint64_t)pvalue->cellParameters > 127u) {
+      rtxErrAddStrParm(ctx, "CellParametersID");
+      rtxErrAddUIntParm(ctx, pvalue->cellParameters);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "CellParametersID", "cellParameters", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cellParameters, 0, 127);
+   RT_CHECK(ctx, stat, "CellParametersID", "cellParameters", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UTRAN_GANSSReferenceTime_mode(rtxContext* RT_RESTRICT ctx, const UTRAN_GANSSReferenceTime_mode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_UTRAN_GANSSReferenceTime_mode_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_UTRAN_GANSSReferenceTime_mode_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UTRAN_GANSSReferenceTime(rtxContext* RT_RESTRICT ctx, const UTRAN_GANSSReferenceTime* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UTRAN-GANSSReferenceTime");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* dummy1 */
+   RT_CHECK(ctx, stat, 0, 0, -1, "UTRAN-GANSSReferenceTime");
+   /* ue-GANSSTimingOfCellFrames */
+   stat = asn1PE_UMTS_UTRAN_GANSSReferenceTime_ue_GANSSTimingOfCellFrames(ctx, &pvalue->ue_GANSSTimingOfCellFrames);
+   RT_CHECK(ctx, stat, 0, "ue-GANSSTimingOfCellFrames", -1, "UTRAN-GANSSReferenceTime");
+   /* gANSS-TimeId */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dummy1");
-      stat = asn1PE_UMTS_PDSCH_SHO_DCH_Info(ctx, &pvalue->dummy1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if ((uint64_t)pvalue->gANSS_TimeId > 7u) {
+         rtxErrAddStrParm(ctx, "gANSS-TimeId");
+         rtxErrAddUIntParm(ctx, pvalue->gANSS_TimeId);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "gANSS-TimeId", -1, "UTRAN-GANSSReferenceTime");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->gANSS_TimeId, 0, 7);
+      RT_CHECK(ctx, stat, 0, "gANSS-TimeId", -1, "UTRAN-GANSSReferenceTime");
    }
-   /* dummy2 */
+   /* gANSS-TimeUncertainty */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dummy2");
-      stat = asn1PE_UMTS_PDSCH_CodeMapping(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_SecondaryCellInfoFDD_newConfiguration_dl_64QAM_Configured(rtxContext* ctx, DL_SecondaryCellInfoFDD_newConfiguration_dl_64QAM_Configured value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_SecondaryCellInfoFDD_newConfiguration_hS_SCCHChannelisationCodeInfo(rtxContext* ctx, const DL_SecondaryCellInfoFDD_newConfiguration_hS_SCCHChannelisationCodeInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "HS-SCCH-Codes", i);
-      rtxCtxtPushTypeName(ctx, "HS-SCCH-Codes");
-      if ((uint64_t)pvalue->elem[i] > 127u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+      if ((uint64_t)pvalue->gANSS_TimeUncertainty > 127u) {
+         rtxErrAddStrParm(ctx, "gANSS-TimeUncertainty");
+         rtxErrAddUIntParm(ctx, pvalue->gANSS_TimeUncertainty);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "gANSS-TimeUncertainty", -1, "UTRAN-GANSSReferenceTime");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->gANSS_TimeUncertainty, 0, 127);
+      RT_CHECK(ctx, stat, 0, "gANSS-TimeUncertainty", -1, "UTRAN-GANSSReferenceTime");
    }
+   /* mode */
+   stat = asn1PE_UMTS_UTRAN_GANSSReferenceTime_mode(ctx, &pvalue->mode);
+   RT_CHECK(ctx, stat, 0, "mode", -1, "UTRAN-GANSSReferenceTime");
+   /* referenceSfn */
+   if ((uint64_t)pvalue->referenceSfn > 4095u) {
+      rtxErrAddStrParm(ctx, "referenceSfn");
+      rtxErrAddUIntParm(ctx, pvalue->referenceSfn);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "referenceSfn", -1, "UTRAN-GANSSReferenceTime");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->referenceSfn, 0, 4095);
+   RT_CHECK(ctx, stat, 0, "referenceSfn", -1, "UTRAN-GANSSReferenceTime");
    return 0;
 }
 
-int asn1PE_UMTS_DL_SecondaryCellInfoFDD_newConfiguration(rtxContext* ctx, const DL_SecondaryCellInfoFDD_newConfiguration* pvalue)
+int asn1PE_UMTS_GANSSReferenceTimeOnly(rtxContext* RT_RESTRICT ctx, const GANSSReferenceTimeOnly* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* new-H-RNTI */
-   rtxCtxtPushElemName(ctx, "new-H-RNTI");
-   stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-64QAM-Configured */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-64QAM-Configured");
-      if (pvalue->dl_64QAM_Configured > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->dl_64QAM_Configured);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dl_64QAM_Configured, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hs-DSCH-TBSizeTable */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "hs-DSCH-TBSizeTable");
-      rtxCtxtPushTypeName(ctx, "HS-DSCH-TBSizeTable");
-      if (pvalue->hs_DSCH_TBSizeTable > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->hs_DSCH_TBSizeTable);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hs_DSCH_TBSizeTable, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-ScramblingCode */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "dl-ScramblingCode");
-      rtxCtxtPushTypeName(ctx, "SecondaryScramblingCode");
-      if ((uint64_t)(pvalue->dl_ScramblingCode - 1) > 14u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->dl_ScramblingCode);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dl_ScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hS-SCCHChannelisationCodeInfo */
-   rtxCtxtPushElemName(ctx, "hS-SCCHChannelisationCodeInfo");
-   stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD_newConfiguration_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementPowerOffset */
-   rtxCtxtPushElemName(ctx, "measurementPowerOffset");
-   rtxCtxtPushTypeName(ctx, "MeasurementPowerOffset");
-   if (pvalue->measurementPowerOffset < -12 || pvalue->measurementPowerOffset > 26) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->measurementPowerOffset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->measurementPowerOffset, -12, 26);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* uarfcn-DL */
-   rtxCtxtPushElemName(ctx, "uarfcn-DL");
-   rtxCtxtPushTypeName(ctx, "UARFCN");
-   if ((uint64_t)pvalue->uarfcn_DL > 16383u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->uarfcn_DL);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->uarfcn_DL, 0, 16383);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_SecondaryCellInfoFDD(rtxContext* ctx, const DL_SecondaryCellInfoFDD* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-SecondaryCellInfoFDD");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "continue");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "newConfiguration");
-         if (pvalue->u.newConfiguration == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD_newConfiguration(ctx, pvalue->u.newConfiguration);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_SecondaryCellInfoFDD_v890ext_differentTxModeFromServingHS_DSCHCell(rtxContext* ctx, DL_SecondaryCellInfoFDD_v890ext_differentTxModeFromServingHS_DSCHCell value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_SecondaryCellInfoFDD_v890ext(rtxContext* ctx, const DL_SecondaryCellInfoFDD_v890ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-SecondaryCellInfoFDD-v890ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* differentTxModeFromServingHS-DSCHCell */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "differentTxModeFromServingHS-DSCHCell");
-      if (pvalue->differentTxModeFromServingHS_DSCHCell > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->differentTxModeFromServingHS_DSCHCell);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->differentTxModeFromServingHS_DSCHCell, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_dl_64QAM_Configured(rtxContext* ctx, DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_dl_64QAM_Configured value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_hS_SCCHChannelisationCodeInfo(rtxContext* ctx, const DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_hS_SCCHChannelisationCodeInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "HS-SCCH-Codes", i);
-      rtxCtxtPushTypeName(ctx, "HS-SCCH-Codes");
-      if ((uint64_t)pvalue->elem[i] > 127u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_differentTxModeFromServingHS_DSCHCell(rtxContext* ctx, DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_differentTxModeFromServingHS_DSCHCell value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration(rtxContext* ctx, const DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* new-H-RNTI */
-   rtxCtxtPushElemName(ctx, "new-H-RNTI");
-   stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-64QAM-Configured */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-64QAM-Configured");
-      if (pvalue->dl_64QAM_Configured > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->dl_64QAM_Configured);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dl_64QAM_Configured, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hs-DSCH-TBSizeTable */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "hs-DSCH-TBSizeTable");
-      rtxCtxtPushTypeName(ctx, "HS-DSCH-TBSizeTable");
-      if (pvalue->hs_DSCH_TBSizeTable > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->hs_DSCH_TBSizeTable);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hs_DSCH_TBSizeTable, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-ScramblingCode */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "dl-ScramblingCode");
-      rtxCtxtPushTypeName(ctx, "SecondaryScramblingCode");
-      if ((uint64_t)(pvalue->dl_ScramblingCode - 1) > 14u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->dl_ScramblingCode);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dl_ScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hS-SCCHChannelisationCodeInfo */
-   rtxCtxtPushElemName(ctx, "hS-SCCHChannelisationCodeInfo");
-   stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementPowerOffset */
-   rtxCtxtPushElemName(ctx, "measurementPowerOffset");
-   rtxCtxtPushTypeName(ctx, "MeasurementPowerOffset");
-   if (pvalue->measurementPowerOffset < -12 || pvalue->measurementPowerOffset > 26) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->measurementPowerOffset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->measurementPowerOffset, -12, 26);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* uarfcn-DL */
-   rtxCtxtPushElemName(ctx, "uarfcn-DL");
-   rtxCtxtPushTypeName(ctx, "UARFCN");
-   if ((uint64_t)pvalue->uarfcn_DL > 16383u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->uarfcn_DL);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->uarfcn_DL, 0, 16383);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* differentTxModeFromServingHS-DSCHCell */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "differentTxModeFromServingHS-DSCHCell");
-      if (pvalue->differentTxModeFromServingHS_DSCHCell > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->differentTxModeFromServingHS_DSCHCell);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->differentTxModeFromServingHS_DSCHCell, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo(rtxContext* ctx, const DL_SecondaryCellInfoFDD_r9_configurationInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "continue");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "newConfiguration");
-         if (pvalue->u.newConfiguration == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration(ctx, pvalue->u.newConfiguration);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MIMO_N_M_Ratio(rtxContext* ctx, MIMO_N_M_Ratio value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MIMO-N-M-Ratio");
-   if (value > 9) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_S_CPICH_PowerOffset_MIMO(rtxContext* ctx, S_CPICH_PowerOffset_MIMO value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "S-CPICH-PowerOffset-MIMO");
-   if (value < -6 || value > 0) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, value, -6, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MIMO_PilotConfiguration_r9_secondCPICH_Pattern_diversityPattern(rtxContext* ctx, const MIMO_PilotConfiguration_r9_secondCPICH_Pattern_diversityPattern* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* channelisationCode */
-   rtxCtxtPushElemName(ctx, "channelisationCode");
-   rtxCtxtPushTypeName(ctx, "ChannelisationCode256");
-   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* s-cpich-PowerOffset-Mimo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "s-cpich-PowerOffset-Mimo");
-      rtxCtxtPushTypeName(ctx, "S-CPICH-PowerOffset-MIMO");
-      if (pvalue->s_cpich_PowerOffset_Mimo < -6 || pvalue->s_cpich_PowerOffset_Mimo > 0) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->s_cpich_PowerOffset_Mimo);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->s_cpich_PowerOffset_Mimo, -6, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MIMO_PilotConfiguration_r9_secondCPICH_Pattern(rtxContext* ctx, const MIMO_PilotConfiguration_r9_secondCPICH_Pattern* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "normalPattern");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "diversityPattern");
-         if (pvalue->u.diversityPattern == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MIMO_PilotConfiguration_r9_secondCPICH_Pattern_diversityPattern(ctx, pvalue->u.diversityPattern);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MIMO_PilotConfiguration_r9(rtxContext* ctx, const MIMO_PilotConfiguration_r9* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MIMO-PilotConfiguration-r9");
-   /* secondCPICH-Pattern */
-   rtxCtxtPushElemName(ctx, "secondCPICH-Pattern");
-   stat = asn1PE_UMTS_MIMO_PilotConfiguration_r9_secondCPICH_Pattern(ctx, &pvalue->secondCPICH_Pattern);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCellMIMOparametersFDD_newConfiguration(rtxContext* ctx, const SecondaryCellMIMOparametersFDD_newConfiguration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSReferenceTimeOnly");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* mimoN-M-Ratio */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "mimoN-M-Ratio");
-      rtxCtxtPushTypeName(ctx, "MIMO-N-M-Ratio");
-      if (pvalue->mimoN_M_Ratio > 9) {
-         rtxErrAddUIntParm(ctx, pvalue->mimoN_M_Ratio);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mimoN_M_Ratio, 0, 9);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "GANSSReferenceTimeOnly");
+   /* gANSS-tod */
+   if ((uint64_t)pvalue->gANSS_tod > 3599999u) {
+      rtxErrAddStrParm(ctx, "gANSS-tod");
+      rtxErrAddUIntParm(ctx, pvalue->gANSS_tod);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "gANSS-tod", -1, "GANSSReferenceTimeOnly");
    }
-   /* mimoPilotConfiguration */
+   stat = pe_ConsUInt64(ctx, pvalue->gANSS_tod, 0, 3599999);
+   RT_CHECK(ctx, stat, 0, "gANSS-tod", -1, "GANSSReferenceTimeOnly");
+   /* gANSS-timeId */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->gANSS_timeId > 7u) {
+         rtxErrAddStrParm(ctx, "gANSS-timeId");
+         rtxErrAddUIntParm(ctx, pvalue->gANSS_timeId);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "gANSS-timeId", -1, "GANSSReferenceTimeOnly");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->gANSS_timeId, 0, 7);
+      RT_CHECK(ctx, stat, 0, "gANSS-timeId", -1, "GANSSReferenceTimeOnly");
+   }
+   /* gANSS-tod-uncertainty */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "mimoPilotConfiguration");
-      stat = asn1PE_UMTS_MIMO_PilotConfiguration_r9(ctx, &pvalue->mimoPilotConfiguration);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if ((uint64_t)pvalue->gANSS_tod_uncertainty > 127u) {
+         rtxErrAddStrParm(ctx, "gANSS-tod-uncertainty");
+         rtxErrAddUIntParm(ctx, pvalue->gANSS_tod_uncertainty);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "gANSS-tod-uncertainty", -1, "GANSSReferenceTimeOnly");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->gANSS_tod_uncertainty, 0, 127);
+      RT_CHECK(ctx, stat, 0, "gANSS-tod-uncertainty", -1, "GANSSReferenceTimeOnly");
    }
    return 0;
 }
 
-int asn1PE_UMTS_SecondaryCellMIMOparametersFDD(rtxContext* ctx, const SecondaryCellMIMOparametersFDD* pvalue)
+int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7_referenceTime(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7_referenceTime* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SecondaryCellMIMOparametersFDD");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "continue");
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.utran_GANSSReferenceTimeResult == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "utran-GANSSReferenceTimeResult", -1, 0);
+         stat = asn1PE_UMTS_UTRAN_GANSSReferenceTime(ctx, pvalue->u.utran_GANSSReferenceTimeResult);
+         RT_CHECK(ctx, stat, 0, "utran-GANSSReferenceTimeResult", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "newConfiguration");
-         if (pvalue->u.newConfiguration == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_SecondaryCellMIMOparametersFDD_newConfiguration(ctx, pvalue->u.newConfiguration);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.ganssReferenceTimeOnly == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ganssReferenceTimeOnly", -1, 0);
+         stat = asn1PE_UMTS_GANSSReferenceTimeOnly(ctx, pvalue->u.ganssReferenceTimeOnly);
+         RT_CHECK(ctx, stat, 0, "ganssReferenceTimeOnly", -1, 0);
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_DL_SecondaryCellInfoFDD_r9(rtxContext* ctx, const DL_SecondaryCellInfoFDD_r9* pvalue)
+int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-SecondaryCellInfoFDD-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* configurationInfo */
-   rtxCtxtPushElemName(ctx, "configurationInfo");
-   stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo(ctx, &pvalue->configurationInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* secondaryCellMIMOparameters */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "secondaryCellMIMOparameters");
-      stat = asn1PE_UMTS_SecondaryCellMIMOparametersFDD(ctx, &pvalue->secondaryCellMIMOparameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* referenceTime */
+   stat = asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7_referenceTime(ctx, &pvalue->referenceTime);
+   RT_CHECK(ctx, stat, 0, "referenceTime", -1, 0);
+   /* positionEstimate */
+   stat = asn1PE_UMTS_PositionEstimate(ctx, &pvalue->positionEstimate);
+   RT_CHECK(ctx, stat, 0, "positionEstimate", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_DL_TPC_PowerOffsetPerRL(rtxContext* ctx, const DL_TPC_PowerOffsetPerRL* pvalue)
+int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-TPC-PowerOffsetPerRL");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* powerOffsetTPC-pdpdch */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "powerOffsetTPC-pdpdch");
-      rtxCtxtPushTypeName(ctx, "PowerOffsetTPC-pdpdch");
-      if ((uint64_t)pvalue->powerOffsetTPC_pdpdch > 24u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->powerOffsetTPC_pdpdch);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->powerOffsetTPC_pdpdch, 0, 24);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r7", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7(ctx, pvalue->u.r7);
+         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
+         break;
+      default:
+         break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_DL_TPC_PowerOffsetPerRL_List(rtxContext* ctx, const DL_TPC_PowerOffsetPerRL_List* pvalue)
+int asn1PE_UMTS_HorizontalVelocity(rtxContext* RT_RESTRICT ctx, const HorizontalVelocity* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "DL-TPC-PowerOffsetPerRL-List");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "DL-TPC-PowerOffsetPerRL", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_DL_TPC_PowerOffsetPerRL(ctx, (const DL_TPC_PowerOffsetPerRL*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HorizontalVelocity");
+   /* bearing */
+   if ((uint64_t)pvalue->bearing > 359u) {
+      rtxErrAddStrParm(ctx, "bearing");
+      rtxErrAddUIntParm(ctx, pvalue->bearing);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "bearing", -1, "HorizontalVelocity");
    }
-   rtxCtxtPopTypeName(ctx);
+   stat = pe_ConsUInt64(ctx, pvalue->bearing, 0, 359);
+   RT_CHECK(ctx, stat, 0, "bearing", -1, "HorizontalVelocity");
+   /* horizontalSpeed */
+   if ((uint64_t)pvalue->horizontalSpeed > 2047u) {
+      rtxErrAddStrParm(ctx, "horizontalSpeed");
+      rtxErrAddUIntParm(ctx, pvalue->horizontalSpeed);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "horizontalSpeed", -1, "HorizontalVelocity");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->horizontalSpeed, 0, 2047);
+   RT_CHECK(ctx, stat, 0, "horizontalSpeed", -1, "HorizontalVelocity");
    return 0;
 }
 
-int asn1PE_UMTS_DL_ChannelCodes_MBSFN_IMB384(rtxContext* ctx, const DL_ChannelCodes_MBSFN_IMB384* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DL-ChannelCodes-MBSFN-IMB384");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* firstChannelisationCode */
-   rtxCtxtPushElemName(ctx, "firstChannelisationCode");
-   if ((uint64_t)(pvalue->firstChannelisationCode - 1) > 14u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->firstChannelisationCode);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->firstChannelisationCode, 1, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* lastChannelisationCode */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "lastChannelisationCode");
-      if ((uint64_t)(pvalue->lastChannelisationCode - 1) > 14u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->lastChannelisationCode);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->lastChannelisationCode, 1, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_EDCH_Information_r8_mac_es_e_resetIndicator(rtxContext* ctx, UL_EDCH_Information_r8_mac_es_e_resetIndicator value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DPDCH_SchedulingTransmConfiguration_servingGrant_primary_Secondary_GrantSelector(rtxContext* ctx, E_DPDCH_SchedulingTransmConfiguration_servingGrant_primary_Secondary_GrantSelector value)
+int asn1PE_UMTS_HorizontalWithVerticalVelocity_verticalSpeedDirection(rtxContext* RT_RESTRICT ctx, HorizontalWithVerticalVelocity_verticalSpeedDirection value)
 {
    int stat = 0;
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_E_DPDCH_SchedulingTransmConfiguration_servingGrant(rtxContext* ctx, const E_DPDCH_SchedulingTransmConfiguration_servingGrant* pvalue)
+int asn1PE_UMTS_HorizontalWithVerticalVelocity(rtxContext* RT_RESTRICT ctx, const HorizontalWithVerticalVelocity* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* value */
-   rtxCtxtPushElemName(ctx, "value");
-   if ((uint64_t)pvalue->value > 38u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HorizontalWithVerticalVelocity");
+   /* verticalSpeedDirection */
+   if (pvalue->verticalSpeedDirection > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->verticalSpeedDirection);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "verticalSpeedDirection", -1, "HorizontalWithVerticalVelocity");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->value, 0, 38);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primary-Secondary-GrantSelector */
-   rtxCtxtPushElemName(ctx, "primary-Secondary-GrantSelector");
-   if (pvalue->primary_Secondary_GrantSelector > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->primary_Secondary_GrantSelector);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+   stat = pe_ConsUInt64(ctx, pvalue->verticalSpeedDirection, 0, 1);
+   RT_CHECK(ctx, stat, 0, "verticalSpeedDirection", -1, "HorizontalWithVerticalVelocity");
+   /* bearing */
+   if ((uint64_t)pvalue->bearing > 359u) {
+      rtxErrAddStrParm(ctx, "bearing");
+      rtxErrAddUIntParm(ctx, pvalue->bearing);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "bearing", -1, "HorizontalWithVerticalVelocity");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->primary_Secondary_GrantSelector, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   stat = pe_ConsUInt64(ctx, pvalue->bearing, 0, 359);
+   RT_CHECK(ctx, stat, 0, "bearing", -1, "HorizontalWithVerticalVelocity");
+   /* horizontalSpeed */
+   if ((uint64_t)pvalue->horizontalSpeed > 2047u) {
+      rtxErrAddStrParm(ctx, "horizontalSpeed");
+      rtxErrAddUIntParm(ctx, pvalue->horizontalSpeed);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "horizontalSpeed", -1, "HorizontalWithVerticalVelocity");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->horizontalSpeed, 0, 2047);
+   RT_CHECK(ctx, stat, 0, "horizontalSpeed", -1, "HorizontalWithVerticalVelocity");
+   /* verticalSpeed */
+   stat = pe_ConsUInt64(ctx, pvalue->verticalSpeed, 0, 255);
+   RT_CHECK(ctx, stat, 0, "verticalSpeed", -1, "HorizontalWithVerticalVelocity");
    return 0;
 }
 
-int asn1PE_UMTS_E_DPDCH_SchedulingTransmConfiguration(rtxContext* ctx, const E_DPDCH_SchedulingTransmConfiguration* pvalue)
+int asn1PE_UMTS_HorizontalVelocityWithUncertainty(rtxContext* RT_RESTRICT ctx, const HorizontalVelocityWithUncertainty* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-DPDCH-SchedulingTransmConfiguration");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HorizontalVelocityWithUncertainty");
+   /* bearing */
+   if ((uint64_t)pvalue->bearing > 359u) {
+      rtxErrAddStrParm(ctx, "bearing");
+      rtxErrAddUIntParm(ctx, pvalue->bearing);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "bearing", -1, "HorizontalVelocityWithUncertainty");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->bearing, 0, 359);
+   RT_CHECK(ctx, stat, 0, "bearing", -1, "HorizontalVelocityWithUncertainty");
+   /* horizontalSpeed */
+   if ((uint64_t)pvalue->horizontalSpeed > 2047u) {
+      rtxErrAddStrParm(ctx, "horizontalSpeed");
+      rtxErrAddUIntParm(ctx, pvalue->horizontalSpeed);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "horizontalSpeed", -1, "HorizontalVelocityWithUncertainty");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->horizontalSpeed, 0, 2047);
+   RT_CHECK(ctx, stat, 0, "horizontalSpeed", -1, "HorizontalVelocityWithUncertainty");
+   /* horizontalSpeedUncertainty */
+   stat = pe_ConsUInt64(ctx, pvalue->horizontalSpeedUncertainty, 0, 255);
+   RT_CHECK(ctx, stat, 0, "horizontalSpeedUncertainty", -1, "HorizontalVelocityWithUncertainty");
+   return 0;
+}
+
+int asn1PE_UMTS_HorizontalWithVerticalVelocityAndUncertainty_verticalSpeedDirection(rtxContext* RT_RESTRICT ctx, HorizontalWithVerticalVelocityAndUncertainty_verticalSpeedDirection value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HorizontalWithVerticalVelocityAndUncertainty(rtxContext* RT_RESTRICT ctx, const HorizontalWithVerticalVelocityAndUncertainty* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HorizontalWithVerticalVelocityAndUncertainty");
+   /* verticalSpeedDirection */
+   if (pvalue->verticalSpeedDirection > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->verticalSpeedDirection);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "verticalSpeedDirection", -1, "HorizontalWithVerticalVelocityAndUncertainty");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->verticalSpeedDirection, 0, 1);
+   RT_CHECK(ctx, stat, 0, "verticalSpeedDirection", -1, "HorizontalWithVerticalVelocityAndUncertainty");
+   /* bearing */
+   if ((uint64_t)pvalue->bearing > 359u) {
+      rtxErrAddStrParm(ctx, "bearing");
+      rtxErrAddUIntParm(ctx, pvalue->bearing);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "bearing", -1, "HorizontalWithVerticalVelocityAndUncertainty");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->bearing, 0, 359);
+   RT_CHECK(ctx, stat, 0, "bearing", -1, "HorizontalWithVerticalVelocityAndUncertainty");
+   /* horizontalSpeed */
+   if ((uint64_t)pvalue->horizontalSpeed > 2047u) {
+      rtxErrAddStrParm(ctx, "horizontalSpeed");
+      rtxErrAddUIntParm(ctx, pvalue->horizontalSpeed);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "horizontalSpeed", -1, "HorizontalWithVerticalVelocityAndUncertainty");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->horizontalSpeed, 0, 2047);
+   RT_CHECK(ctx, stat, 0, "horizontalSpeed", -1, "HorizontalWithVerticalVelocityAndUncertainty");
+   /* verticalSpeed */
+   stat = pe_ConsUInt64(ctx, pvalue->verticalSpeed, 0, 255);
+   RT_CHECK(ctx, stat, 0, "verticalSpeed", -1, "HorizontalWithVerticalVelocityAndUncertainty");
+   /* horizontalUncertaintySpeed */
+   stat = pe_ConsUInt64(ctx, pvalue->horizontalUncertaintySpeed, 0, 255);
+   RT_CHECK(ctx, stat, 0, "horizontalUncertaintySpeed", -1, "HorizontalWithVerticalVelocityAndUncertainty");
+   /* verticalUncertaintySpeed */
+   stat = pe_ConsUInt64(ctx, pvalue->verticalUncertaintySpeed, 0, 255);
+   RT_CHECK(ctx, stat, 0, "verticalUncertaintySpeed", -1, "HorizontalWithVerticalVelocityAndUncertainty");
+   return 0;
+}
+
+int asn1PE_UMTS_VelocityEstimate(rtxContext* RT_RESTRICT ctx, const VelocityEstimate* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "VelocityEstimate");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK(ctx, stat, 0, "t", -1, "VelocityEstimate");
+   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "VelocityEstimate");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.horizontalVelocity == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "horizontalVelocity", -1, "VelocityEstimate");
+         stat = asn1PE_UMTS_HorizontalVelocity(ctx, pvalue->u.horizontalVelocity);
+         RT_CHECK(ctx, stat, 0, "horizontalVelocity", -1, "VelocityEstimate");
+         break;
+      case 2:
+         if (pvalue->u.horizontalWithVerticalVelocity == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "horizontalWithVerticalVelocity", -1, "VelocityEstimate");
+         stat = asn1PE_UMTS_HorizontalWithVerticalVelocity(ctx, pvalue->u.horizontalWithVerticalVelocity);
+         RT_CHECK(ctx, stat, 0, "horizontalWithVerticalVelocity", -1, "VelocityEstimate");
+         break;
+      case 3:
+         if (pvalue->u.horizontalVelocityWithUncertainty == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "horizontalVelocityWithUncertainty", -1, "VelocityEstimate");
+         stat = asn1PE_UMTS_HorizontalVelocityWithUncertainty(ctx, pvalue->u.horizontalVelocityWithUncertainty);
+         RT_CHECK(ctx, stat, 0, "horizontalVelocityWithUncertainty", -1, "VelocityEstimate");
+         break;
+      case 4:
+         if (pvalue->u.horizontalWithVerticalVelocityAndUncertainty == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "horizontalWithVerticalVelocityAndUncertainty", -1, "VelocityEstimate");
+         stat = asn1PE_UMTS_HorizontalWithVerticalVelocityAndUncertainty(ctx, pvalue->u.horizontalWithVerticalVelocityAndUncertainty);
+         RT_CHECK(ctx, stat, 0, "horizontalWithVerticalVelocityAndUncertainty", -1, "VelocityEstimate");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GPS_ReferenceTimeUncertainty(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_ReferenceTimeUncertainty value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 127u) {
+      rtxErrAddStrParm(ctx, "UE-Positioning-GPS-ReferenceTimeUncertainty");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UE-Positioning-GPS-ReferenceTimeUncertainty");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 127);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-ReferenceTimeUncertainty");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_v770ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-PositionEstimateInfo-v770ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ms2-SchedTransmGrantHARQAlloc */
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-PositionEstimateInfo-v770ext");
+   /* referenceTimeOptions */
+   stat = asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions(ctx, &pvalue->referenceTimeOptions);
+   RT_CHECK(ctx, stat, 0, "referenceTimeOptions", -1, "UE-Positioning-PositionEstimateInfo-v770ext");
+   /* positionData */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &pvalue->positionData, 16, 16);
+   RT_CHECK(ctx, stat, 0, "positionData", -1, "UE-Positioning-PositionEstimateInfo-v770ext");
+   /* velocityEstimate */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ms2-SchedTransmGrantHARQAlloc");
+      stat = asn1PE_UMTS_VelocityEstimate(ctx, &pvalue->velocityEstimate);
+      RT_CHECK(ctx, stat, 0, "velocityEstimate", -1, "UE-Positioning-PositionEstimateInfo-v770ext");
+   }
+   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty > 127u) {
+         rtxErrAddStrParm(ctx, "UE-Positioning-GPS-ReferenceTimeUncertainty");
+         rtxErrAddUIntParm(ctx, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-PositionEstimateInfo-v770ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
+      RT_CHECK(ctx, stat, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-PositionEstimateInfo-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GPS_MeasurementResults_v770ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_MeasurementResults_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-MeasurementResults-v770ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-MeasurementResults-v770ext");
+   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty > 127u) {
+         rtxErrAddStrParm(ctx, "UE-Positioning-GPS-ReferenceTimeUncertainty");
+         rtxErrAddUIntParm(ctx, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-GPS-MeasurementResults-v770ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
+      RT_CHECK(ctx, stat, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-GPS-MeasurementResults-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_MeasuredResults_referenceTime(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_MeasuredResults_referenceTime* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.utran_GANSSReferenceTimeResult == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "utran-GANSSReferenceTimeResult", -1, 0);
+         stat = asn1PE_UMTS_UTRAN_GANSSReferenceTime(ctx, pvalue->u.utran_GANSSReferenceTimeResult);
+         RT_CHECK(ctx, stat, 0, "utran-GANSSReferenceTimeResult", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.ganssReferenceTimeOnly == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ganssReferenceTimeOnly", -1, 0);
+         stat = asn1PE_UMTS_GANSSReferenceTimeOnly(ctx, pvalue->u.ganssReferenceTimeOnly);
+         RT_CHECK(ctx, stat, 0, "ganssReferenceTimeOnly", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSMeasurementParameters_element_multipathIndicator(rtxContext* RT_RESTRICT ctx, GANSSMeasurementParameters_element_multipathIndicator value)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSMeasurementParameters_element(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementParameters_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* satId */
+   if ((uint64_t)pvalue->satId > 63u) {
+      rtxErrAddStrParm(ctx, "satId");
+      rtxErrAddUIntParm(ctx, pvalue->satId);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "satId", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->satId, 0, 63);
+   RT_CHECK(ctx, stat, 0, "satId", -1, 0);
+   /* cSurNzero */
+   if ((uint64_t)pvalue->cSurNzero > 63u) {
+      rtxErrAddStrParm(ctx, "cSurNzero");
+      rtxErrAddUIntParm(ctx, pvalue->cSurNzero);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "cSurNzero", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cSurNzero, 0, 63);
+   RT_CHECK(ctx, stat, 0, "cSurNzero", -1, 0);
+   /* multipathIndicator */
+   if (pvalue->multipathIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->multipathIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "multipathIndicator", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->multipathIndicator, 0, 3);
+   RT_CHECK(ctx, stat, 0, "multipathIndicator", -1, 0);
+   /* carrierQualityIndication */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 2, 2);
+      stat = pe_BitString32(ctx, &pvalue->carrierQualityIndication, 2, 2);
+      RT_CHECK(ctx, stat, 0, "carrierQualityIndication", -1, 0);
+   }
+   /* ganssCodePhase */
+   if ((uint64_t)pvalue->ganssCodePhase > 2097151u) {
+      rtxErrAddStrParm(ctx, "ganssCodePhase");
+      rtxErrAddUIntParm(ctx, pvalue->ganssCodePhase);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssCodePhase", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ganssCodePhase, 0, 2097151);
+   RT_CHECK(ctx, stat, 0, "ganssCodePhase", -1, 0);
+   /* ganssIntegerCodePhase */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->ganssIntegerCodePhase > 63u) {
+         rtxErrAddStrParm(ctx, "ganssIntegerCodePhase");
+         rtxErrAddUIntParm(ctx, pvalue->ganssIntegerCodePhase);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssIntegerCodePhase", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ganssIntegerCodePhase, 0, 63);
+      RT_CHECK(ctx, stat, 0, "ganssIntegerCodePhase", -1, 0);
+   }
+   /* codePhaseRmsError */
+   if ((uint64_t)pvalue->codePhaseRmsError > 63u) {
+      rtxErrAddStrParm(ctx, "codePhaseRmsError");
+      rtxErrAddUIntParm(ctx, pvalue->codePhaseRmsError);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "codePhaseRmsError", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->codePhaseRmsError, 0, 63);
+   RT_CHECK(ctx, stat, 0, "codePhaseRmsError", -1, 0);
+   /* doppler */
+   stat = pe_ConsInt64(ctx, pvalue->doppler, -32768, 32767);
+   RT_CHECK(ctx, stat, 0, "doppler", -1, 0);
+   /* adr */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)pvalue->adr > 33554431u) {
+         rtxErrAddStrParm(ctx, "adr");
+         rtxErrAddUIntParm(ctx, pvalue->adr);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "adr", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->adr, 0, 33554431);
+      RT_CHECK(ctx, stat, 0, "adr", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSMeasurementParameters(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementParameters* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSMeasurementParameters");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GANSSMeasurementParameters");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "GANSSMeasurementParameters");
+      stat = asn1PE_UMTS_GANSSMeasurementParameters_element(ctx, (const GANSSMeasurementParameters_element*)node->data);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "GANSSMeasurementParameters");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSMeasurementSignalList_element(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementSignalList_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ganssSignalId */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->ganssSignalId > 7u) {
+         rtxErrAddStrParm(ctx, "GANSS-Signal-Id");
+         rtxErrAddUIntParm(ctx, pvalue->ganssSignalId);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "GANSS-Signal-Id", "ganssSignalId", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ganssSignalId, 0, 7);
+      RT_CHECK(ctx, stat, "GANSS-Signal-Id", "ganssSignalId", -1, 0);
+   }
+   /* ganssCodePhaseAmbiguity */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->ganssCodePhaseAmbiguity > 31u) {
+         rtxErrAddStrParm(ctx, "ganssCodePhaseAmbiguity");
+         rtxErrAddUIntParm(ctx, pvalue->ganssCodePhaseAmbiguity);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssCodePhaseAmbiguity", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ganssCodePhaseAmbiguity, 0, 31);
+      RT_CHECK(ctx, stat, 0, "ganssCodePhaseAmbiguity", -1, 0);
+   }
+   /* ganssMeasurementParameters */
+   stat = asn1PE_UMTS_GANSSMeasurementParameters(ctx, &pvalue->ganssMeasurementParameters);
+   RT_CHECK(ctx, stat, 0, "ganssMeasurementParameters", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSMeasurementSignalList(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementSignalList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSMeasurementSignalList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GANSSMeasurementSignalList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "GANSSMeasurementSignalList");
+      stat = asn1PE_UMTS_GANSSMeasurementSignalList_element(ctx, (const GANSSMeasurementSignalList_element*)node->data);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "GANSSMeasurementSignalList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSGenericMeasurementInfo_element(rtxContext* RT_RESTRICT ctx, const GANSSGenericMeasurementInfo_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ganssId */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->ganssId > 7u) {
+         rtxErrAddStrParm(ctx, "ganssId");
+         rtxErrAddUIntParm(ctx, pvalue->ganssId);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssId", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ganssId, 0, 7);
+      RT_CHECK(ctx, stat, 0, "ganssId", -1, 0);
+   }
+   /* ganssMeasurementSignalList */
+   stat = asn1PE_UMTS_GANSSMeasurementSignalList(ctx, &pvalue->ganssMeasurementSignalList);
+   RT_CHECK(ctx, stat, 0, "ganssMeasurementSignalList", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSGenericMeasurementInfo(rtxContext* RT_RESTRICT ctx, const GANSSGenericMeasurementInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSGenericMeasurementInfo");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GANSSGenericMeasurementInfo");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "GANSSGenericMeasurementInfo");
+      stat = asn1PE_UMTS_GANSSGenericMeasurementInfo_element(ctx, (const GANSSGenericMeasurementInfo_element*)node->data);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "GANSSGenericMeasurementInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_MeasuredResults(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_MeasuredResults* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-MeasuredResults");
+   /* referenceTime */
+   stat = asn1PE_UMTS_UE_Positioning_GANSS_MeasuredResults_referenceTime(ctx, &pvalue->referenceTime);
+   RT_CHECK(ctx, stat, 0, "referenceTime", -1, "UE-Positioning-GANSS-MeasuredResults");
+   /* ganssGenericMeasurementInfo */
+   stat = asn1PE_UMTS_GANSSGenericMeasurementInfo(ctx, &pvalue->ganssGenericMeasurementInfo);
+   RT_CHECK(ctx, stat, 0, "ganssGenericMeasurementInfo", -1, "UE-Positioning-GANSS-MeasuredResults");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_MeasurementEventResults_v770ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_MeasurementEventResults_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-MeasurementEventResults-v770ext");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK(ctx, stat, 0, "t", -1, "UE-Positioning-MeasurementEventResults-v770ext");
+   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UE-Positioning-MeasurementEventResults-v770ext");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.event7a == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event7a", -1, "UE-Positioning-MeasurementEventResults-v770ext");
+         stat = asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_v770ext(ctx, pvalue->u.event7a);
+         RT_CHECK(ctx, stat, 0, "event7a", -1, "UE-Positioning-MeasurementEventResults-v770ext");
+         break;
+      case 2:
+         if (pvalue->u.event7c == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event7c", -1, "UE-Positioning-MeasurementEventResults-v770ext");
+         stat = asn1PE_UMTS_UE_Positioning_GPS_MeasurementResults_v770ext(ctx, pvalue->u.event7c);
+         RT_CHECK(ctx, stat, 0, "event7c", -1, "UE-Positioning-MeasurementEventResults-v770ext");
+         break;
+      case 3:
+         if (pvalue->u.event7d == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event7d", -1, "UE-Positioning-MeasurementEventResults-v770ext");
+         stat = asn1PE_UMTS_UE_Positioning_GANSS_MeasuredResults(ctx, pvalue->u.event7d);
+         RT_CHECK(ctx, stat, 0, "event7d", -1, "UE-Positioning-MeasurementEventResults-v770ext");
+         break;
+      case 4:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_EventResults_v770ext(rtxContext* RT_RESTRICT ctx, const EventResults_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EventResults-v770ext");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 0);
+   RT_CHECK(ctx, stat, 0, "t", -1, "EventResults-v770ext");
+   if (pvalue->t - 1 > 0) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "EventResults-v770ext");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.ue_positioning_MeasurementEventResults == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-positioning-MeasurementEventResults", -1, "EventResults-v770ext");
+         stat = asn1PE_UMTS_UE_Positioning_MeasurementEventResults_v770ext(ctx, pvalue->u.ue_positioning_MeasurementEventResults);
+         RT_CHECK(ctx, stat, 0, "ue-positioning-MeasurementEventResults", -1, "EventResults-v770ext");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSMeasurementParameters_v860ext_element(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementParameters_v860ext_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ganssIntegerCodePhaseExt */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->ganssIntegerCodePhaseExt - 64) > 63u) {
+         rtxErrAddStrParm(ctx, "ganssIntegerCodePhaseExt");
+         rtxErrAddUIntParm(ctx, pvalue->ganssIntegerCodePhaseExt);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssIntegerCodePhaseExt", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ganssIntegerCodePhaseExt, 64, 127);
+      RT_CHECK(ctx, stat, 0, "ganssIntegerCodePhaseExt", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSMeasurementParameters_v860ext(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementParameters_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSMeasurementParameters-v860ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GANSSMeasurementParameters-v860ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "GANSSMeasurementParameters-v860ext");
+      stat = asn1PE_UMTS_GANSSMeasurementParameters_v860ext_element(ctx, (const GANSSMeasurementParameters_v860ext_element*)node->data);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "GANSSMeasurementParameters-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSMeasurementSignalList_v860ext_element(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementSignalList_v860ext_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ganssCodePhaseAmbiguityExt */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->ganssCodePhaseAmbiguityExt - 32) > 95u) {
+         rtxErrAddStrParm(ctx, "ganssCodePhaseAmbiguityExt");
+         rtxErrAddUIntParm(ctx, pvalue->ganssCodePhaseAmbiguityExt);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssCodePhaseAmbiguityExt", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ganssCodePhaseAmbiguityExt, 32, 127);
+      RT_CHECK(ctx, stat, 0, "ganssCodePhaseAmbiguityExt", -1, 0);
+   }
+   /* ganssMeasurementParameters */
+   stat = asn1PE_UMTS_GANSSMeasurementParameters_v860ext(ctx, &pvalue->ganssMeasurementParameters);
+   RT_CHECK(ctx, stat, 0, "ganssMeasurementParameters", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSMeasurementSignalList_v860ext(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementSignalList_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSMeasurementSignalList-v860ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GANSSMeasurementSignalList-v860ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "GANSSMeasurementSignalList-v860ext");
+      stat = asn1PE_UMTS_GANSSMeasurementSignalList_v860ext_element(ctx, (const GANSSMeasurementSignalList_v860ext_element*)node->data);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "GANSSMeasurementSignalList-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSGenericMeasurementInfo_v860ext_element(rtxContext* RT_RESTRICT ctx, const GANSSGenericMeasurementInfo_v860ext_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ganssMeasurementSignalList */
+   stat = asn1PE_UMTS_GANSSMeasurementSignalList_v860ext(ctx, &pvalue->ganssMeasurementSignalList);
+   RT_CHECK(ctx, stat, 0, "ganssMeasurementSignalList", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSGenericMeasurementInfo_v860ext(rtxContext* RT_RESTRICT ctx, const GANSSGenericMeasurementInfo_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSGenericMeasurementInfo-v860ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GANSSGenericMeasurementInfo-v860ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "GANSSGenericMeasurementInfo-v860ext");
+      stat = asn1PE_UMTS_GANSSGenericMeasurementInfo_v860ext_element(ctx, (const GANSSGenericMeasurementInfo_v860ext_element*)node->data);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "GANSSGenericMeasurementInfo-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_MeasuredResults_v860ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_MeasuredResults_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-MeasuredResults-v860ext");
+   /* ganssGenericMeasurementInfo */
+   stat = asn1PE_UMTS_GANSSGenericMeasurementInfo_v860ext(ctx, &pvalue->ganssGenericMeasurementInfo);
+   RT_CHECK(ctx, stat, 0, "ganssGenericMeasurementInfo", -1, "UE-Positioning-GANSS-MeasuredResults-v860ext");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_MeasurementEventResults_v860ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_MeasurementEventResults_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-MeasurementEventResults-v860ext");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 0);
+   RT_CHECK(ctx, stat, 0, "t", -1, "UE-Positioning-MeasurementEventResults-v860ext");
+   if (pvalue->t - 1 > 0) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UE-Positioning-MeasurementEventResults-v860ext");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.event7d == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event7d", -1, "UE-Positioning-MeasurementEventResults-v860ext");
+         stat = asn1PE_UMTS_UE_Positioning_GANSS_MeasuredResults_v860ext(ctx, pvalue->u.event7d);
+         RT_CHECK(ctx, stat, 0, "event7d", -1, "UE-Positioning-MeasurementEventResults-v860ext");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_EventResults_v860ext(rtxContext* RT_RESTRICT ctx, const EventResults_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EventResults-v860ext");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 0);
+   RT_CHECK(ctx, stat, 0, "t", -1, "EventResults-v860ext");
+   if (pvalue->t - 1 > 0) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "EventResults-v860ext");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.ue_positioning_MeasurementEventResults == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-positioning-MeasurementEventResults", -1, "EventResults-v860ext");
+         stat = asn1PE_UMTS_UE_Positioning_MeasurementEventResults_v860ext(ctx, pvalue->u.ue_positioning_MeasurementEventResults);
+         RT_CHECK(ctx, stat, 0, "ue-positioning-MeasurementEventResults", -1, "EventResults-v860ext");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqEventResultsOnSecUlFreq(rtxContext* RT_RESTRICT ctx, const IntraFreqEventResultsOnSecUlFreq* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventResultsOnSecUlFreq");
+   /* eventID */
+   if (pvalue->eventID > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->eventID);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "EventIDIntraFreq", "eventID", -1, "IntraFreqEventResultsOnSecUlFreq");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->eventID, 0, 15);
+   RT_CHECK(ctx, stat, "EventIDIntraFreq", "eventID", -1, "IntraFreqEventResultsOnSecUlFreq");
+   /* cellMeasurementEventResultsOnSecUlFreq */
+   stat = asn1PE_UMTS_CellMeasurementEventResultsOnSecUlFreq(ctx, &pvalue->cellMeasurementEventResultsOnSecUlFreq);
+   RT_CHECK(ctx, stat, 0, "cellMeasurementEventResultsOnSecUlFreq", -1, "IntraFreqEventResultsOnSecUlFreq");
+   return 0;
+}
+
+int asn1PE_UMTS_EventResultsOnSecUlFreq(rtxContext* RT_RESTRICT ctx, const EventResultsOnSecUlFreq* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EventResultsOnSecUlFreq");
+   /* intraFreqEventResults */
+   stat = asn1PE_UMTS_IntraFreqEventResultsOnSecUlFreq(ctx, &pvalue->intraFreqEventResults);
+   RT_CHECK(ctx, stat, 0, "intraFreqEventResults", -1, "EventResultsOnSecUlFreq");
+   return 0;
+}
+
+int asn1PE_UMTS_ExtraDoppler_dopplerUncertainty(rtxContext* RT_RESTRICT ctx, ExtraDoppler_dopplerUncertainty value)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_ExtraDoppler(rtxContext* RT_RESTRICT ctx, const ExtraDoppler* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ExtraDoppler");
+   /* dopplerFirstOrder */
+   if (pvalue->dopplerFirstOrder < -42 || pvalue->dopplerFirstOrder > 21) {
+      rtxErrAddStrParm(ctx, "dopplerFirstOrder");
+      rtxErrAddIntParm(ctx, pvalue->dopplerFirstOrder);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "dopplerFirstOrder", -1, "ExtraDoppler");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->dopplerFirstOrder, -42, 21);
+   RT_CHECK(ctx, stat, 0, "dopplerFirstOrder", -1, "ExtraDoppler");
+   /* dopplerUncertainty */
+   if (pvalue->dopplerUncertainty > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->dopplerUncertainty);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "dopplerUncertainty", -1, "ExtraDoppler");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->dopplerUncertainty, 0, 7);
+   RT_CHECK(ctx, stat, 0, "dopplerUncertainty", -1, "ExtraDoppler");
+   return 0;
+}
+
+int asn1PE_UMTS_FineSFN_SFN(rtxContext* RT_RESTRICT ctx, FineSFN_SFN value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 15u) {
+      rtxErrAddStrParm(ctx, "FineSFN-SFN");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "FineSFN-SFN");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "FineSFN-SFN");
+   return 0;
+}
+
+int asn1PE_UMTS_FreqQualityEstimateQuantity_FDD(rtxContext* RT_RESTRICT ctx, FreqQualityEstimateQuantity_FDD value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "FreqQualityEstimateQuantity-FDD");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "FreqQualityEstimateQuantity-FDD");
+   return 0;
+}
+
+int asn1PE_UMTS_FreqQualityEstimateQuantity_TDD(rtxContext* RT_RESTRICT ctx, FreqQualityEstimateQuantity_TDD value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "FreqQualityEstimateQuantity-TDD");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, "FreqQualityEstimateQuantity-TDD");
+   return 0;
+}
+
+int asn1PE_UMTS_ReqDataBitAssistance_ganssSatelliteInfo_element(rtxContext* RT_RESTRICT ctx, ReqDataBitAssistance_ganssSatelliteInfo_element value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 63u) {
+      rtxErrAddStrParm(ctx, 0);
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 63);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_ReqDataBitAssistance_ganssSatelliteInfo(rtxContext* RT_RESTRICT ctx, const ReqDataBitAssistance_ganssSatelliteInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 63u) {
+         rtxErrAddStrParm(ctx, "element");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "element", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 63);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ReqDataBitAssistance(rtxContext* RT_RESTRICT ctx, const ReqDataBitAssistance* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ReqDataBitAssistance");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ReqDataBitAssistance");
+   /* ganssSignalID */
+   stat = asn1PE_UMTS_DGANSS_Sig_Id_Req(ctx, pvalue->ganssSignalID);
+   RT_CHECK(ctx, stat, 0, "ganssSignalID", -1, "ReqDataBitAssistance");
+   /* ganssDataBitInterval */
+   if ((uint64_t)pvalue->ganssDataBitInterval > 15u) {
+      rtxErrAddStrParm(ctx, "ganssDataBitInterval");
+      rtxErrAddUIntParm(ctx, pvalue->ganssDataBitInterval);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssDataBitInterval", -1, "ReqDataBitAssistance");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ganssDataBitInterval, 0, 15);
+   RT_CHECK(ctx, stat, 0, "ganssDataBitInterval", -1, "ReqDataBitAssistance");
+   /* ganssSatelliteInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ReqDataBitAssistance_ganssSatelliteInfo(ctx, &pvalue->ganssSatelliteInfo);
+      RT_CHECK(ctx, stat, 0, "ganssSatelliteInfo", -1, "ReqDataBitAssistance");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GanssDataBits(rtxContext* RT_RESTRICT ctx, const GanssDataBits* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GanssDataBits");
+   /* ganssTod */
+   if ((uint64_t)pvalue->ganssTod > 86399u) {
+      rtxErrAddStrParm(ctx, "ganssTod");
+      rtxErrAddUIntParm(ctx, pvalue->ganssTod);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssTod", -1, "GanssDataBits");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ganssTod, 0, 86399);
+   RT_CHECK(ctx, stat, 0, "ganssTod", -1, "GanssDataBits");
+   /* dataBitAssistance */
+   stat = asn1PE_UMTS_ReqDataBitAssistance(ctx, &pvalue->dataBitAssistance);
+   RT_CHECK(ctx, stat, 0, "dataBitAssistance", -1, "GanssDataBits");
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSDecipheringKeys_currentDecipheringKey(rtxContext* RT_RESTRICT ctx, const GANSSDecipheringKeys_currentDecipheringKey* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 56, 56);
+   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSDecipheringKeys_nextDecipheringKey(rtxContext* RT_RESTRICT ctx, const GANSSDecipheringKeys_nextDecipheringKey* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 56, 56);
+   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSDecipheringKeys(rtxContext* RT_RESTRICT ctx, const GANSSDecipheringKeys* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSDecipheringKeys");
+   /* currentDecipheringKey */
+   stat = asn1PE_UMTS_GANSSDecipheringKeys_currentDecipheringKey(ctx, &pvalue->currentDecipheringKey);
+   RT_CHECK(ctx, stat, 0, "currentDecipheringKey", -1, "GANSSDecipheringKeys");
+   /* nextDecipheringKey */
+   stat = asn1PE_UMTS_GANSSDecipheringKeys_nextDecipheringKey(ctx, &pvalue->nextDecipheringKey);
+   RT_CHECK(ctx, stat, 0, "nextDecipheringKey", -1, "GANSSDecipheringKeys");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_TimeModel_gnss_to_id(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_TimeModel_gnss_to_id value)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_TimeModel(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_TimeModel* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-TimeModel");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-TimeModel");
+   /* ganss-timeModelreferenceTime */
+   if ((uint64_t)pvalue->ganss_timeModelreferenceTime > 37799u) {
+      rtxErrAddStrParm(ctx, "ganss-timeModelreferenceTime");
+      rtxErrAddUIntParm(ctx, pvalue->ganss_timeModelreferenceTime);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganss-timeModelreferenceTime", -1, "UE-Positioning-GANSS-TimeModel");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ganss_timeModelreferenceTime, 0, 37799);
+   RT_CHECK(ctx, stat, 0, "ganss-timeModelreferenceTime", -1, "UE-Positioning-GANSS-TimeModel");
+   /* ganss-t-a0 */
+   if (pvalue->ganss_t_a0 < -2147483648LL || pvalue->ganss_t_a0 > 2147483647) {
+      rtxErrAddStrParm(ctx, "ganss-t-a0");
+      rtxErrAddIntParm(ctx, pvalue->ganss_t_a0);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganss-t-a0", -1, "UE-Positioning-GANSS-TimeModel");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->ganss_t_a0, -2147483648LL, 2147483647);
+   RT_CHECK(ctx, stat, 0, "ganss-t-a0", -1, "UE-Positioning-GANSS-TimeModel");
+   /* ganss-t-a1 */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->ganss_t_a1 < -8388608 || pvalue->ganss_t_a1 > 8388607) {
+         rtxErrAddStrParm(ctx, "ganss-t-a1");
+         rtxErrAddIntParm(ctx, pvalue->ganss_t_a1);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganss-t-a1", -1, "UE-Positioning-GANSS-TimeModel");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->ganss_t_a1, -8388608, 8388607);
+      RT_CHECK(ctx, stat, 0, "ganss-t-a1", -1, "UE-Positioning-GANSS-TimeModel");
+   }
+   /* ganss-t-a2 */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->ganss_t_a2 < -64 || pvalue->ganss_t_a2 > 63) {
+         rtxErrAddStrParm(ctx, "ganss-t-a2");
+         rtxErrAddIntParm(ctx, pvalue->ganss_t_a2);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganss-t-a2", -1, "UE-Positioning-GANSS-TimeModel");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->ganss_t_a2, -64, 63);
+      RT_CHECK(ctx, stat, 0, "ganss-t-a2", -1, "UE-Positioning-GANSS-TimeModel");
+   }
+   /* gnss-to-id */
+   if (pvalue->gnss_to_id > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->gnss_to_id);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "gnss-to-id", -1, "UE-Positioning-GANSS-TimeModel");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->gnss_to_id, 0, 7);
+   RT_CHECK(ctx, stat, 0, "gnss-to-id", -1, "UE-Positioning-GANSS-TimeModel");
+   /* ganss-wk-number */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)pvalue->ganss_wk_number > 8191u) {
+         rtxErrAddStrParm(ctx, "ganss-wk-number");
+         rtxErrAddUIntParm(ctx, pvalue->ganss_wk_number);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganss-wk-number", -1, "UE-Positioning-GANSS-TimeModel");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ganss_wk_number, 0, 8191);
+      RT_CHECK(ctx, stat, 0, "ganss-wk-number", -1, "UE-Positioning-GANSS-TimeModel");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSTimeModelsList(rtxContext* RT_RESTRICT ctx, const GANSSTimeModelsList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSTimeModelsList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 7);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GANSSTimeModelsList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UE-Positioning-GANSS-TimeModel", (int32_t)i, "GANSSTimeModelsList");
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_TimeModel(ctx, (const UE_Positioning_GANSS_TimeModel*)node->data);
+      RT_CHECK(ctx, stat, 0, "UE-Positioning-GANSS-TimeModel", (int32_t)i, "GANSSTimeModelsList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_DGANSSCorrections(rtxContext* RT_RESTRICT ctx, const UE_Positioning_DGANSSCorrections* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-DGANSSCorrections");
+   /* dganssreferencetime */
+   if ((uint64_t)pvalue->dganssreferencetime > 119u) {
+      rtxErrAddStrParm(ctx, "dganssreferencetime");
+      rtxErrAddUIntParm(ctx, pvalue->dganssreferencetime);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "dganssreferencetime", -1, "UE-Positioning-DGANSSCorrections");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->dganssreferencetime, 0, 119);
+   RT_CHECK(ctx, stat, 0, "dganssreferencetime", -1, "UE-Positioning-DGANSSCorrections");
+   /* dganssInfoList */
+   stat = asn1PE_UMTS_DGANSSInfoList(ctx, &pvalue->dganssInfoList);
+   RT_CHECK(ctx, stat, 0, "dganssInfoList", -1, "UE-Positioning-DGANSSCorrections");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_NavigationModel_non_broadcastIndication(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_NavigationModel_non_broadcastIndication value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_Satellite_clock_model(rtxContext* RT_RESTRICT ctx, const Satellite_clock_model* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Satellite-clock-model");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Satellite-clock-model");
+   /* t-oc */
+   RT_SET_SIZE(ctx, 14, 14);
+   stat = pe_BitString32(ctx, &pvalue->t_oc, 14, 14);
+   RT_CHECK(ctx, stat, 0, "t-oc", -1, "Satellite-clock-model");
+   /* af2 */
+   RT_SET_SIZE(ctx, 12, 12);
+   stat = pe_BitString32(ctx, &pvalue->af2, 12, 12);
+   RT_CHECK(ctx, stat, 0, "af2", -1, "Satellite-clock-model");
+   /* af1 */
+   RT_SET_SIZE(ctx, 18, 18);
+   stat = pe_BitString32(ctx, &pvalue->af1, 18, 18);
+   RT_CHECK(ctx, stat, 0, "af1", -1, "Satellite-clock-model");
+   /* af0 */
+   RT_SET_SIZE(ctx, 28, 28);
+   stat = pe_BitString32(ctx, &pvalue->af0, 28, 28);
+   RT_CHECK(ctx, stat, 0, "af0", -1, "Satellite-clock-model");
+   /* tgd */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 10, 10);
+      stat = pe_BitString32(ctx, &pvalue->tgd, 10, 10);
+      RT_CHECK(ctx, stat, 0, "tgd", -1, "Satellite-clock-model");
+   }
+   /* model-id */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->model_id > 1u) {
+         rtxErrAddStrParm(ctx, "model-id");
+         rtxErrAddUIntParm(ctx, pvalue->model_id);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "model-id", -1, "Satellite-clock-model");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->model_id, 0, 1);
+      RT_CHECK(ctx, stat, 0, "model-id", -1, "Satellite-clock-model");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Satellite_clock_modelList(rtxContext* RT_RESTRICT ctx, const Satellite_clock_modelList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Satellite-clock-modelList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "Satellite-clock-modelList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "Satellite-clock-model", (int32_t)i, "Satellite-clock-modelList");
+      stat = asn1PE_UMTS_Satellite_clock_model(ctx, (const Satellite_clock_model*)node->data);
+      RT_CHECK(ctx, stat, 0, "Satellite-clock-model", (int32_t)i, "Satellite-clock-modelList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_ClockModel(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_ClockModel* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-ClockModel");
+   /* satellite-clock-modelList */
+   stat = asn1PE_UMTS_Satellite_clock_modelList(ctx, &pvalue->satellite_clock_modelList);
+   RT_CHECK(ctx, stat, 0, "satellite-clock-modelList", -1, "UE-Positioning-GANSS-ClockModel");
+   return 0;
+}
+
+int asn1PE_UMTS_KeplerianParameters(rtxContext* RT_RESTRICT ctx, const KeplerianParameters* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "KeplerianParameters");
+   /* toe-nav */
+   RT_SET_SIZE(ctx, 14, 14);
+   stat = pe_BitString32(ctx, &pvalue->toe_nav, 14, 14);
+   RT_CHECK(ctx, stat, 0, "toe-nav", -1, "KeplerianParameters");
+   /* ganss-omega-nav */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32(ctx, &pvalue->ganss_omega_nav, 32, 32);
+   RT_CHECK(ctx, stat, 0, "ganss-omega-nav", -1, "KeplerianParameters");
+   /* delta-n-nav */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &pvalue->delta_n_nav, 16, 16);
+   RT_CHECK(ctx, stat, 0, "delta-n-nav", -1, "KeplerianParameters");
+   /* m-zero-nav */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32(ctx, &pvalue->m_zero_nav, 32, 32);
+   RT_CHECK(ctx, stat, 0, "m-zero-nav", -1, "KeplerianParameters");
+   /* omegadot-nav */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pe_BitString32(ctx, &pvalue->omegadot_nav, 24, 24);
+   RT_CHECK(ctx, stat, 0, "omegadot-nav", -1, "KeplerianParameters");
+   /* ganss-e-nav */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32(ctx, &pvalue->ganss_e_nav, 32, 32);
+   RT_CHECK(ctx, stat, 0, "ganss-e-nav", -1, "KeplerianParameters");
+   /* idot-nav */
+   RT_SET_SIZE(ctx, 14, 14);
+   stat = pe_BitString32(ctx, &pvalue->idot_nav, 14, 14);
+   RT_CHECK(ctx, stat, 0, "idot-nav", -1, "KeplerianParameters");
+   /* a-sqrt-nav */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32(ctx, &pvalue->a_sqrt_nav, 32, 32);
+   RT_CHECK(ctx, stat, 0, "a-sqrt-nav", -1, "KeplerianParameters");
+   /* i-zero-nav */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32(ctx, &pvalue->i_zero_nav, 32, 32);
+   RT_CHECK(ctx, stat, 0, "i-zero-nav", -1, "KeplerianParameters");
+   /* omega-zero-nav */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32(ctx, &pvalue->omega_zero_nav, 32, 32);
+   RT_CHECK(ctx, stat, 0, "omega-zero-nav", -1, "KeplerianParameters");
+   /* c-rs-nav */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &pvalue->c_rs_nav, 16, 16);
+   RT_CHECK(ctx, stat, 0, "c-rs-nav", -1, "KeplerianParameters");
+   /* c-is-nav */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &pvalue->c_is_nav, 16, 16);
+   RT_CHECK(ctx, stat, 0, "c-is-nav", -1, "KeplerianParameters");
+   /* c-us-nav */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &pvalue->c_us_nav, 16, 16);
+   RT_CHECK(ctx, stat, 0, "c-us-nav", -1, "KeplerianParameters");
+   /* c-rc-nav */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &pvalue->c_rc_nav, 16, 16);
+   RT_CHECK(ctx, stat, 0, "c-rc-nav", -1, "KeplerianParameters");
+   /* c-ic-nav */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &pvalue->c_ic_nav, 16, 16);
+   RT_CHECK(ctx, stat, 0, "c-ic-nav", -1, "KeplerianParameters");
+   /* c-uc-nav */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &pvalue->c_uc_nav, 16, 16);
+   RT_CHECK(ctx, stat, 0, "c-uc-nav", -1, "KeplerianParameters");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_OrbitModel(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_OrbitModel* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-OrbitModel");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-OrbitModel");
+   /* keplerianParameters */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_KeplerianParameters(ctx, &pvalue->keplerianParameters);
+      RT_CHECK(ctx, stat, 0, "keplerianParameters", -1, "UE-Positioning-GANSS-OrbitModel");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Ganss_Sat_Info_Nav(rtxContext* RT_RESTRICT ctx, const Ganss_Sat_Info_Nav* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Ganss-Sat-Info-Nav");
+   /* satId */
+   if ((uint64_t)pvalue->satId > 63u) {
+      rtxErrAddStrParm(ctx, "satId");
+      rtxErrAddUIntParm(ctx, pvalue->satId);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "satId", -1, "Ganss-Sat-Info-Nav");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->satId, 0, 63);
+   RT_CHECK(ctx, stat, 0, "satId", -1, "Ganss-Sat-Info-Nav");
+   /* svHealth */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pe_BitString32(ctx, &pvalue->svHealth, 5, 5);
+   RT_CHECK(ctx, stat, 0, "svHealth", -1, "Ganss-Sat-Info-Nav");
+   /* iod */
+   RT_SET_SIZE(ctx, 10, 10);
+   stat = pe_BitString32(ctx, &pvalue->iod, 10, 10);
+   RT_CHECK(ctx, stat, 0, "iod", -1, "Ganss-Sat-Info-Nav");
+   /* ganssClockModel */
+   stat = asn1PE_UMTS_UE_Positioning_GANSS_ClockModel(ctx, &pvalue->ganssClockModel);
+   RT_CHECK(ctx, stat, 0, "ganssClockModel", -1, "Ganss-Sat-Info-Nav");
+   /* ganssOrbitModel */
+   stat = asn1PE_UMTS_UE_Positioning_GANSS_OrbitModel(ctx, &pvalue->ganssOrbitModel);
+   RT_CHECK(ctx, stat, 0, "ganssOrbitModel", -1, "Ganss-Sat-Info-Nav");
+   return 0;
+}
+
+int asn1PE_UMTS_Ganss_Sat_Info_NavList(rtxContext* RT_RESTRICT ctx, const Ganss_Sat_Info_NavList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Ganss-Sat-Info-NavList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "Ganss-Sat-Info-NavList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "Ganss-Sat-Info-Nav", (int32_t)i, "Ganss-Sat-Info-NavList");
+      stat = asn1PE_UMTS_Ganss_Sat_Info_Nav(ctx, (const Ganss_Sat_Info_Nav*)node->data);
+      RT_CHECK(ctx, stat, 0, "Ganss-Sat-Info-Nav", (int32_t)i, "Ganss-Sat-Info-NavList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_NavigationModel(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_NavigationModel* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-NavigationModel");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-NavigationModel");
+   /* non-broadcastIndication */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->non_broadcastIndication > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->non_broadcastIndication);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "non-broadcastIndication", -1, "UE-Positioning-GANSS-NavigationModel");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->non_broadcastIndication, 0, 0);
+      RT_CHECK(ctx, stat, 0, "non-broadcastIndication", -1, "UE-Positioning-GANSS-NavigationModel");
+   }
+   /* ganssSatInfoNavList */
+   stat = asn1PE_UMTS_Ganss_Sat_Info_NavList(ctx, &pvalue->ganssSatInfoNavList);
+   RT_CHECK(ctx, stat, 0, "ganssSatInfoNavList", -1, "UE-Positioning-GANSS-NavigationModel");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_RealTimeIntegrity_element(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_RealTimeIntegrity_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* bad-ganss-satId */
+   if ((uint64_t)pvalue->bad_ganss_satId > 63u) {
+      rtxErrAddStrParm(ctx, "bad-ganss-satId");
+      rtxErrAddUIntParm(ctx, pvalue->bad_ganss_satId);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "bad-ganss-satId", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->bad_ganss_satId, 0, 63);
+   RT_CHECK(ctx, stat, 0, "bad-ganss-satId", -1, 0);
+   /* bad-ganss-signalId */
+   if (pvalue->m & 0x1u) {
       RT_SET_SIZE(ctx, 8, 8);
-      stat = pe_BitString32(ctx, &pvalue->ms2_SchedTransmGrantHARQAlloc, 8, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_BitString32(ctx, &pvalue->bad_ganss_signalId, 8, 8);
+      RT_CHECK(ctx, stat, 0, "bad-ganss-signalId", -1, 0);
    }
-   /* servingGrant */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "servingGrant");
-      stat = asn1PE_UMTS_E_DPDCH_SchedulingTransmConfiguration_servingGrant(ctx, &pvalue->servingGrant);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_UL_16QAM_Settings(rtxContext* ctx, const UL_16QAM_Settings* pvalue)
+int asn1PE_UMTS_UE_Positioning_GANSS_RealTimeIntegrity(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_RealTimeIntegrity* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-16QAM-Settings");
-   /* beta-Ed-Gain-E-AGCH-Table-Selection */
-   rtxCtxtPushElemName(ctx, "beta-Ed-Gain-E-AGCH-Table-Selection");
-   if ((uint64_t)pvalue->beta_Ed_Gain_E_AGCH_Table_Selection > 1u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->beta_Ed_Gain_E_AGCH_Table_Selection);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-RealTimeIntegrity");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-RealTimeIntegrity");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "UE-Positioning-GANSS-RealTimeIntegrity");
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_RealTimeIntegrity_element(ctx, (const UE_Positioning_GANSS_RealTimeIntegrity_element*)node->data);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "UE-Positioning-GANSS-RealTimeIntegrity");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->beta_Ed_Gain_E_AGCH_Table_Selection, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_UL_EDCH_Information_r8_modeSpecificInfo_fdd(rtxContext* ctx, const UL_EDCH_Information_r8_modeSpecificInfo_fdd* pvalue)
+int asn1PE_UMTS_UE_Positioning_GANSS_Data_Bit_Assistance(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_Data_Bit_Assistance* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-Data-Bit-Assistance");
+   /* ganss-tod */
+   if ((uint64_t)pvalue->ganss_tod > 59u) {
+      rtxErrAddStrParm(ctx, "ganss-tod");
+      rtxErrAddUIntParm(ctx, pvalue->ganss_tod);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganss-tod", -1, "UE-Positioning-GANSS-Data-Bit-Assistance");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ganss_tod, 0, 59);
+   RT_CHECK(ctx, stat, 0, "ganss-tod", -1, "UE-Positioning-GANSS-Data-Bit-Assistance");
+   /* dataBitAssistanceList */
+   stat = asn1PE_UMTS_DataBitAssistanceList(ctx, &pvalue->dataBitAssistanceList);
+   RT_CHECK(ctx, stat, 0, "dataBitAssistanceList", -1, "UE-Positioning-GANSS-Data-Bit-Assistance");
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSSatelliteInformation(rtxContext* RT_RESTRICT ctx, const GANSSSatelliteInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSSatelliteInformation");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* e-DPCCH-Info */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "GANSSSatelliteInformation");
+   /* ganssSatId */
+   if ((uint64_t)pvalue->ganssSatId > 63u) {
+      rtxErrAddStrParm(ctx, "ganssSatId");
+      rtxErrAddUIntParm(ctx, pvalue->ganssSatId);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssSatId", -1, "GANSSSatelliteInformation");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ganssSatId, 0, 63);
+   RT_CHECK(ctx, stat, 0, "ganssSatId", -1, "GANSSSatelliteInformation");
+   /* dopplerZeroOrder */
+   if (pvalue->dopplerZeroOrder < -2048 || pvalue->dopplerZeroOrder > 2047) {
+      rtxErrAddStrParm(ctx, "dopplerZeroOrder");
+      rtxErrAddIntParm(ctx, pvalue->dopplerZeroOrder);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "dopplerZeroOrder", -1, "GANSSSatelliteInformation");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->dopplerZeroOrder, -2048, 2047);
+   RT_CHECK(ctx, stat, 0, "dopplerZeroOrder", -1, "GANSSSatelliteInformation");
+   /* extraDoppler */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "e-DPCCH-Info");
-      stat = asn1PE_UMTS_E_DPCCH_Info_r7(ctx, &pvalue->e_DPCCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_ExtraDoppler(ctx, &pvalue->extraDoppler);
+      RT_CHECK(ctx, stat, 0, "extraDoppler", -1, "GANSSSatelliteInformation");
    }
-   /* e-DPDCH-Info */
+   /* codePhase */
+   if ((uint64_t)pvalue->codePhase > 1023u) {
+      rtxErrAddStrParm(ctx, "codePhase");
+      rtxErrAddUIntParm(ctx, pvalue->codePhase);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "codePhase", -1, "GANSSSatelliteInformation");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->codePhase, 0, 1023);
+   RT_CHECK(ctx, stat, 0, "codePhase", -1, "GANSSSatelliteInformation");
+   /* integerCodePhase */
+   if ((uint64_t)pvalue->integerCodePhase > 127u) {
+      rtxErrAddStrParm(ctx, "integerCodePhase");
+      rtxErrAddUIntParm(ctx, pvalue->integerCodePhase);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "integerCodePhase", -1, "GANSSSatelliteInformation");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->integerCodePhase, 0, 127);
+   RT_CHECK(ctx, stat, 0, "integerCodePhase", -1, "GANSSSatelliteInformation");
+   /* codePhaseSearchWindow */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pe_BitString32(ctx, &pvalue->codePhaseSearchWindow, 5, 5);
+   RT_CHECK(ctx, stat, 0, "codePhaseSearchWindow", -1, "GANSSSatelliteInformation");
+   /* azimuthandElevation */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "e-DPDCH-Info");
-      stat = asn1PE_UMTS_E_DPDCH_Info_r8(ctx, &pvalue->e_DPDCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* schedulingTransmConfiguration */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "schedulingTransmConfiguration");
-      stat = asn1PE_UMTS_E_DPDCH_SchedulingTransmConfiguration(ctx, &pvalue->schedulingTransmConfiguration);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-16QAM-Settings */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "ul-16QAM-Settings");
-      stat = asn1PE_UMTS_UL_16QAM_Settings(ctx, &pvalue->ul_16QAM_Settings);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_AzimuthAndElevation(ctx, &pvalue->azimuthandElevation);
+      RT_CHECK(ctx, stat, 0, "azimuthandElevation", -1, "GANSSSatelliteInformation");
    }
    return 0;
 }
 
-int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_RUCCH(rtxContext* ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_RUCCH value)
+int asn1PE_UMTS_GANSSSatelliteInformationList(rtxContext* RT_RESTRICT ctx, const GANSSSatelliteInformationList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_e_RUCCH_Midamble(rtxContext* ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_e_RUCCH_Midamble value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_adv(rtxContext* ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_adv value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_SCHED(rtxContext* ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_SCHED value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_SF16Codes(rtxContext* ctx, SF16Codes value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SF16Codes");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF16(rtxContext* ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF16* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSSatelliteInformationList");
+   const rtxDListNode* node;
    uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "SF16Codes", i);
-      rtxCtxtPushTypeName(ctx, "SF16Codes");
-      if (pvalue->elem[i] > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GANSSSatelliteInformationList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GANSSSatelliteInformation", (int32_t)i, "GANSSSatelliteInformationList");
+      stat = asn1PE_UMTS_GANSSSatelliteInformation(ctx, (const GANSSSatelliteInformation*)node->data);
+      RT_CHECK(ctx, stat, 0, "GANSSSatelliteInformation", (int32_t)i, "GANSSSatelliteInformationList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_SF8Codes(rtxContext* ctx, SF8Codes value)
+int asn1PE_UMTS_UE_Positioning_GANSS_ReferenceMeasurementInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_ReferenceMeasurementInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SF8Codes");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF8(rtxContext* ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF8* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "SF8Codes", i);
-      rtxCtxtPushTypeName(ctx, "SF8Codes");
-      if (pvalue->elem[i] > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384(rtxContext* ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "sF16");
-         if (pvalue->u.sF16 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF16(ctx, pvalue->u.sF16);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "sF8");
-         if (pvalue->u.sF8 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF8(ctx, pvalue->u.sF8);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SF32Codes(rtxContext* ctx, SF32Codes value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SF32Codes");
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF32(rtxContext* ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF32* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "SF32Codes", i);
-      rtxCtxtPushTypeName(ctx, "SF32Codes");
-      if (pvalue->elem[i] > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SF16Codes2(rtxContext* ctx, SF16Codes2 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SF16Codes2");
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF816(rtxContext* ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF816* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "SF16Codes2", i);
-      rtxCtxtPushTypeName(ctx, "SF16Codes2");
-      if (pvalue->elem[i] > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768(rtxContext* ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "sF32");
-         if (pvalue->u.sF32 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF32(ctx, pvalue->u.sF32);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "sF816");
-         if (pvalue->u.sF816 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF816(ctx, pvalue->u.sF816);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo(rtxContext* ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd768");
-         if (pvalue->u.tdd768 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768(rtxContext* ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-ReferenceMeasurementInfo");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat);
-   /* e-RUCCH-ConstantValue */
-   rtxCtxtPushElemName(ctx, "e-RUCCH-ConstantValue");
-   if (pvalue->e_RUCCH_ConstantValue < -35 || pvalue->e_RUCCH_ConstantValue > 10) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->e_RUCCH_ConstantValue);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->e_RUCCH_ConstantValue, -35, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-RUCCH-PersistenceScalingFactor */
-   rtxCtxtPushElemName(ctx, "e-RUCCH-PersistenceScalingFactor");
-   rtxCtxtPushTypeName(ctx, "PersistenceScalingFactor");
-   if (pvalue->e_RUCCH_PersistenceScalingFactor > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->e_RUCCH_PersistenceScalingFactor);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->e_RUCCH_PersistenceScalingFactor, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* t-RUCCH */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-ReferenceMeasurementInfo");
+   /* ganssSignalId */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "t-RUCCH");
-      if (pvalue->t_RUCCH > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->t_RUCCH);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+      if ((uint64_t)pvalue->ganssSignalId > 7u) {
+         rtxErrAddStrParm(ctx, "GANSS-Signal-Id");
+         rtxErrAddUIntParm(ctx, pvalue->ganssSignalId);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "GANSS-Signal-Id", "ganssSignalId", -1, "UE-Positioning-GANSS-ReferenceMeasurementInfo");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->t_RUCCH, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->ganssSignalId, 0, 7);
+      RT_CHECK(ctx, stat, "GANSS-Signal-Id", "ganssSignalId", -1, "UE-Positioning-GANSS-ReferenceMeasurementInfo");
    }
-   /* e-RUCCH-TS-Number */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "e-RUCCH-TS-Number");
-      if ((uint64_t)pvalue->e_RUCCH_TS_Number > 14u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->e_RUCCH_TS_Number);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->e_RUCCH_TS_Number, 0, 14);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-RUCCH-Midamble */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "e-RUCCH-Midamble");
-      if (pvalue->e_RUCCH_Midamble > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->e_RUCCH_Midamble);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->e_RUCCH_Midamble, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* t-adv */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "t-adv");
-      if (pvalue->t_adv > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->t_adv);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_adv, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* t-SCHED */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "t-SCHED");
-      if (pvalue->t_SCHED > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->t_SCHED);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_SCHED, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   /* satelliteInformationList */
+   stat = asn1PE_UMTS_GANSSSatelliteInformationList(ctx, &pvalue->satelliteInformationList);
+   RT_CHECK(ctx, stat, 0, "satelliteInformationList", -1, "UE-Positioning-GANSS-ReferenceMeasurementInfo");
    return 0;
 }
 
-int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd128_t_RUCCH(rtxContext* ctx, E_RUCCH_Info_modeSpecificInfo_tdd128_t_RUCCH value)
+int asn1PE_UMTS_UE_Positioning_GANSS_Almanac(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_Almanac* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-Almanac");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-Almanac");
+   /* ganss-wk-number */
+   stat = pe_ConsUInt64(ctx, pvalue->ganss_wk_number, 0, 255);
+   RT_CHECK(ctx, stat, 0, "ganss-wk-number", -1, "UE-Positioning-GANSS-Almanac");
+   /* alm-keplerianParameters */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ALM_keplerianParameters(ctx, &pvalue->alm_keplerianParameters);
+      RT_CHECK(ctx, stat, 0, "alm-keplerianParameters", -1, "UE-Positioning-GANSS-Almanac");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
    return 0;
 }
 
-int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd128_t_WAIT(rtxContext* ctx, E_RUCCH_Info_modeSpecificInfo_tdd128_t_WAIT value)
+int asn1PE_UMTS_UE_Positioning_GANSS_UTCModel(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_UTCModel* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-UTCModel");
+   /* a-one-utc */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pe_BitString32(ctx, &pvalue->a_one_utc, 24, 24);
+   RT_CHECK(ctx, stat, 0, "a-one-utc", -1, "UE-Positioning-GANSS-UTCModel");
+   /* a-zero-utc */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32(ctx, &pvalue->a_zero_utc, 32, 32);
+   RT_CHECK(ctx, stat, 0, "a-zero-utc", -1, "UE-Positioning-GANSS-UTCModel");
+   /* t-ot-utc */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &pvalue->t_ot_utc, 8, 8);
+   RT_CHECK(ctx, stat, 0, "t-ot-utc", -1, "UE-Positioning-GANSS-UTCModel");
+   /* delta-t-ls-utc */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &pvalue->delta_t_ls_utc, 8, 8);
+   RT_CHECK(ctx, stat, 0, "delta-t-ls-utc", -1, "UE-Positioning-GANSS-UTCModel");
+   /* w-n-t-utc */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &pvalue->w_n_t_utc, 8, 8);
+   RT_CHECK(ctx, stat, 0, "w-n-t-utc", -1, "UE-Positioning-GANSS-UTCModel");
+   /* w-n-lsf-utc */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &pvalue->w_n_lsf_utc, 8, 8);
+   RT_CHECK(ctx, stat, 0, "w-n-lsf-utc", -1, "UE-Positioning-GANSS-UTCModel");
+   /* dn-utc */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &pvalue->dn_utc, 8, 8);
+   RT_CHECK(ctx, stat, 0, "dn-utc", -1, "UE-Positioning-GANSS-UTCModel");
+   /* delta-t-lsf-utc */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &pvalue->delta_t_lsf_utc, 8, 8);
+   RT_CHECK(ctx, stat, 0, "delta-t-lsf-utc", -1, "UE-Positioning-GANSS-UTCModel");
    return 0;
 }
 
-int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd128_t_SI(rtxContext* ctx, E_RUCCH_Info_modeSpecificInfo_tdd128_t_SI value)
+int asn1PE_UMTS_GANSSGenericData(rtxContext* RT_RESTRICT ctx, const GANSSGenericData* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (value > 6) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 6);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd128(rtxContext* ctx, const E_RUCCH_Info_modeSpecificInfo_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSGenericData");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 8) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 7) |
@@ -4813,1244 +4397,802 @@ int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd128(rtxContext* ctx, const E_RU
       ((uint64_t)((pvalue->m >> 6) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 7) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 8) & 1u) << 0), 9);
-   RT_CHECK(ctx, stat);
-   /* t-RUCCH */
+   RT_CHECK(ctx, stat, 0, 0, -1, "GANSSGenericData");
+   /* ganssId */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "t-RUCCH");
-      if (pvalue->t_RUCCH > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->t_RUCCH);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+      if ((uint64_t)pvalue->ganssId > 7u) {
+         rtxErrAddStrParm(ctx, "ganssId");
+         rtxErrAddUIntParm(ctx, pvalue->ganssId);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssId", -1, "GANSSGenericData");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->t_RUCCH, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->ganssId, 0, 7);
+      RT_CHECK(ctx, stat, 0, "ganssId", -1, "GANSSGenericData");
    }
-   /* n-RUCCH */
+   /* ganssTimeModelsList */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "n-RUCCH");
-      if ((uint64_t)pvalue->n_RUCCH > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n_RUCCH);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->n_RUCCH, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_GANSSTimeModelsList(ctx, &pvalue->ganssTimeModelsList);
+      RT_CHECK(ctx, stat, 0, "ganssTimeModelsList", -1, "GANSSGenericData");
    }
-   /* t-WAIT */
+   /* uePositioningDGANSSCorrections */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "t-WAIT");
-      if (pvalue->t_WAIT > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->t_WAIT);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_WAIT, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UE_Positioning_DGANSSCorrections(ctx, &pvalue->uePositioningDGANSSCorrections);
+      RT_CHECK(ctx, stat, 0, "uePositioningDGANSSCorrections", -1, "GANSSGenericData");
    }
-   /* t-SI */
+   /* uePositioningGANSSNavigationModel */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "t-SI");
-      if (pvalue->t_SI > 6) {
-         rtxErrAddUIntParm(ctx, pvalue->t_SI);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_SI, 0, 6);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_NavigationModel(ctx, &pvalue->uePositioningGANSSNavigationModel);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSNavigationModel", -1, "GANSSGenericData");
    }
-   /* extendedEstimationWindow */
+   /* uePositioningGANSSRealTimeIntegrity */
    if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "extendedEstimationWindow");
-      if ((uint64_t)(pvalue->extendedEstimationWindow - 2) > 3u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->extendedEstimationWindow);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->extendedEstimationWindow, 2, 5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_RealTimeIntegrity(ctx, &pvalue->uePositioningGANSSRealTimeIntegrity);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSRealTimeIntegrity", -1, "GANSSGenericData");
    }
-   /* e-RUCCH-AccessServiceClass */
+   /* uePositioningGANSSDataBitAssistance */
    if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "e-RUCCH-AccessServiceClass");
-      stat = asn1PE_UMTS_E_RUCCH_AccessServiceClass(ctx, &pvalue->e_RUCCH_AccessServiceClass);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_Data_Bit_Assistance(ctx, &pvalue->uePositioningGANSSDataBitAssistance);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSDataBitAssistance", -1, "GANSSGenericData");
    }
-   /* e-RUCCH-PersistenceScalingFactor */
+   /* uePositioningGANSSReferenceMeasurementInfo */
    if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "e-RUCCH-PersistenceScalingFactor");
-      stat = asn1PE_UMTS_PersistenceScalingFactorList(ctx, &pvalue->e_RUCCH_PersistenceScalingFactor);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceMeasurementInfo(ctx, &pvalue->uePositioningGANSSReferenceMeasurementInfo);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSReferenceMeasurementInfo", -1, "GANSSGenericData");
    }
-   /* sync-UL-InfoForE-RUCCH */
+   /* uePositioningGANSSAlmanac */
    if (pvalue->m & 0x80u) {
-      rtxCtxtPushElemName(ctx, "sync-UL-InfoForE-RUCCH");
-      stat = asn1PE_UMTS_SYNC_UL_InfoForE_RUCCH(ctx, &pvalue->sync_UL_InfoForE_RUCCH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_Almanac(ctx, &pvalue->uePositioningGANSSAlmanac);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAlmanac", -1, "GANSSGenericData");
    }
-   /* prach-information */
+   /* uePositioningGANSSUTCModel */
    if (pvalue->m & 0x100u) {
-      rtxCtxtPushElemName(ctx, "prach-information");
-      stat = asn1PE_UMTS_PRACH_Information_LCR_List(ctx, &pvalue->prach_information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_UTCModel(ctx, &pvalue->uePositioningGANSSUTCModel);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSUTCModel", -1, "GANSSGenericData");
    }
    return 0;
 }
 
-int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo(rtxContext* ctx, const E_RUCCH_Info_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384-tdd768");
-         if (pvalue->u.tdd384_tdd768 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768(ctx, pvalue->u.tdd384_tdd768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_RUCCH_Info(rtxContext* ctx, const E_RUCCH_Info* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-RUCCH-Info");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_PUCH_TS_Slots(rtxContext* ctx, const E_PUCH_TS_Slots* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-PUCH-TS-Slots");
-   /* ts-Number */
-   rtxCtxtPushElemName(ctx, "ts-Number");
-   if ((uint64_t)pvalue->ts_Number > 14u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ts_Number);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ts_Number, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midambleShiftAndBurstType */
-   rtxCtxtPushElemName(ctx, "midambleShiftAndBurstType");
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_EDCH(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_PUCH_Info_modeSpecificInfo_tdd348_tdd768_e_PUCH_TS_ConfigurationList(rtxContext* ctx, const E_PUCH_Info_modeSpecificInfo_tdd348_tdd768_e_PUCH_TS_ConfigurationList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 12);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "E-PUCH-TS-Slots", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_E_PUCH_TS_Slots(ctx, (const E_PUCH_TS_Slots*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_PUCH_Info_modeSpecificInfo_tdd348_tdd768(rtxContext* ctx, const E_PUCH_Info_modeSpecificInfo_tdd348_tdd768* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* noSlotsForTFCIandTPC */
-   rtxCtxtPushElemName(ctx, "noSlotsForTFCIandTPC");
-   if ((uint64_t)(pvalue->noSlotsForTFCIandTPC - 1) > 11u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->noSlotsForTFCIandTPC);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->noSlotsForTFCIandTPC, 1, 12);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-PUCH-ContantValue */
-   rtxCtxtPushElemName(ctx, "e-PUCH-ContantValue");
-   if (pvalue->e_PUCH_ContantValue < -35 || pvalue->e_PUCH_ContantValue > 10) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->e_PUCH_ContantValue);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->e_PUCH_ContantValue, -35, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-PUCH-TS-ConfigurationList */
-   rtxCtxtPushElemName(ctx, "e-PUCH-TS-ConfigurationList");
-   stat = asn1PE_UMTS_E_PUCH_Info_modeSpecificInfo_tdd348_tdd768_e_PUCH_TS_ConfigurationList(ctx, &pvalue->e_PUCH_TS_ConfigurationList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-PUCH-CodeHopping */
-   rtxCtxtPushElemName(ctx, "e-PUCH-CodeHopping");
-   stat = rtxEncBit(ctx, pvalue->e_PUCH_CodeHopping);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-PUCH-TPC-Step-Size */
-   rtxCtxtPushElemName(ctx, "e-PUCH-TPC-Step-Size");
-   if ((uint64_t)(pvalue->e_PUCH_TPC_Step_Size - 1) > 2u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->e_PUCH_TPC_Step_Size);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->e_PUCH_TPC_Step_Size, 1, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* minimum-Allowed-Code-Rate */
-   rtxCtxtPushElemName(ctx, "minimum-Allowed-Code-Rate");
-   if ((uint64_t)pvalue->minimum_Allowed_Code_Rate > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->minimum_Allowed_Code_Rate);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->minimum_Allowed_Code_Rate, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* maximum-Allowed-Code-Rate */
-   rtxCtxtPushElemName(ctx, "maximum-Allowed-Code-Rate");
-   if ((uint64_t)pvalue->maximum_Allowed_Code_Rate > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->maximum_Allowed_Code_Rate);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maximum_Allowed_Code_Rate, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_PUCH_Info_modeSpecificInfo_tdd128_snpl_ReportType(rtxContext* ctx, E_PUCH_Info_modeSpecificInfo_tdd128_snpl_ReportType value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_E_PUCH_Info_modeSpecificInfo_tdd128_e_PUCH_TS_ConfigurationList(rtxContext* ctx, const E_PUCH_Info_modeSpecificInfo_tdd128_e_PUCH_TS_ConfigurationList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 5);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "E-PUCH-TS-Slots-LCR", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_E_PUCH_TS_Slots_LCR(ctx, (const E_PUCH_TS_Slots_LCR*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_PUCH_Info_modeSpecificInfo_tdd128_retransTimerForSchedInfo(rtxContext* ctx, E_PUCH_Info_modeSpecificInfo_tdd128_retransTimerForSchedInfo value)
-{
-   int stat = 0;
-   if (value > 29) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 29);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_E_PUCH_Info_modeSpecificInfo_tdd128(rtxContext* ctx, const E_PUCH_Info_modeSpecificInfo_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* snpl-ReportType */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "snpl-ReportType");
-      if (pvalue->snpl_ReportType > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->snpl_ReportType);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->snpl_ReportType, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* prxBASEdes */
-   rtxCtxtPushElemName(ctx, "prxBASEdes");
-   if (pvalue->prxBASEdes < -112 || pvalue->prxBASEdes > -50) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->prxBASEdes);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->prxBASEdes, -112, -50);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* beaconPLEst */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "beaconPLEst");
-      stat = rtxEncBit(ctx, pvalue->beaconPLEst);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tpc-StepSize */
-   rtxCtxtPushElemName(ctx, "tpc-StepSize");
-   rtxCtxtPushTypeName(ctx, "TPC-StepSizeTDD");
-   if ((uint64_t)(pvalue->tpc_StepSize - 1) > 2u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->tpc_StepSize);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tpc_StepSize, 1, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* pebase-PowerControlGAP */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "pebase-PowerControlGAP");
-      rtxCtxtPushTypeName(ctx, "PowerControlGAP");
-      stat = pe_ConsUInt64(ctx, pvalue->pebase_PowerControlGAP, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-SynchronisationParameters */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "ul-SynchronisationParameters");
-      stat = asn1PE_UMTS_UL_SynchronisationParameters_r4(ctx, &pvalue->ul_SynchronisationParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-PUCH-TS-ConfigurationList */
-   rtxCtxtPushElemName(ctx, "e-PUCH-TS-ConfigurationList");
-   stat = asn1PE_UMTS_E_PUCH_Info_modeSpecificInfo_tdd128_e_PUCH_TS_ConfigurationList(ctx, &pvalue->e_PUCH_TS_ConfigurationList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* minimum-Allowed-Code-Rate */
-   rtxCtxtPushElemName(ctx, "minimum-Allowed-Code-Rate");
-   if ((uint64_t)pvalue->minimum_Allowed_Code_Rate > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->minimum_Allowed_Code_Rate);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->minimum_Allowed_Code_Rate, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* maximum-Allowed-Code-Rate */
-   rtxCtxtPushElemName(ctx, "maximum-Allowed-Code-Rate");
-   if ((uint64_t)pvalue->maximum_Allowed_Code_Rate > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->maximum_Allowed_Code_Rate);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maximum_Allowed_Code_Rate, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* maximumNumOfRetransSchedInfo */
-   rtxCtxtPushElemName(ctx, "maximumNumOfRetransSchedInfo");
-   if ((uint64_t)pvalue->maximumNumOfRetransSchedInfo > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->maximumNumOfRetransSchedInfo);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maximumNumOfRetransSchedInfo, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* retransTimerForSchedInfo */
-   rtxCtxtPushElemName(ctx, "retransTimerForSchedInfo");
-   if (pvalue->retransTimerForSchedInfo > 29) {
-      rtxErrAddUIntParm(ctx, pvalue->retransTimerForSchedInfo);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->retransTimerForSchedInfo, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_PUCH_Info_modeSpecificInfo(rtxContext* ctx, const E_PUCH_Info_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd348-tdd768");
-         if (pvalue->u.tdd348_tdd768 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_E_PUCH_Info_modeSpecificInfo_tdd348_tdd768(ctx, pvalue->u.tdd348_tdd768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_E_PUCH_Info_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_PUCH_Info(rtxContext* ctx, const E_PUCH_Info* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-PUCH-Info");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* e-TFCS-Info */
-   rtxCtxtPushElemName(ctx, "e-TFCS-Info");
-   stat = asn1PE_UMTS_E_TFCS_Info(ctx, &pvalue->e_TFCS_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_E_PUCH_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* powerOffsetForSchedInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "powerOffsetForSchedInfo");
-      if ((uint64_t)pvalue->powerOffsetForSchedInfo > 6u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->powerOffsetForSchedInfo);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->powerOffsetForSchedInfo, 0, 6);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_tdd384_768(rtxContext* ctx, const Non_ScheduledTransGrantInfoTDD_tdd384_768* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* timeslotResourceRelatedInfo */
-   rtxCtxtPushElemName(ctx, "timeslotResourceRelatedInfo");
-   RT_SET_SIZE(ctx, 13, 13);
-   stat = pe_BitString32(ctx, &pvalue->timeslotResourceRelatedInfo, 13, 13);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* powerResourceRelatedInfo */
-   rtxCtxtPushElemName(ctx, "powerResourceRelatedInfo");
-   if ((uint64_t)(pvalue->powerResourceRelatedInfo - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->powerResourceRelatedInfo);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->powerResourceRelatedInfo, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* activationTime */
-   rtxCtxtPushElemName(ctx, "activationTime");
-   rtxCtxtPushTypeName(ctx, "ActivationTime");
-   stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* repetitionPeriodAndLength */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "repetitionPeriodAndLength");
-      stat = asn1PE_UMTS_RepetitionPeriodAndLength(ctx, &pvalue->repetitionPeriodAndLength);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* codeResourceInfo */
-   rtxCtxtPushElemName(ctx, "codeResourceInfo");
-   rtxCtxtPushTypeName(ctx, "UL-TS-ChannelisationCode");
-   if (pvalue->codeResourceInfo > 30) {
-      rtxErrAddUIntParm(ctx, pvalue->codeResourceInfo);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->codeResourceInfo, 0, 30);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info_midambleAllocationMode(rtxContext* ctx, const Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info_midambleAllocationMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         if ((uint64_t)pvalue->u.ueSpecificMidamble > 15u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.ueSpecificMidamble);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.ueSpecificMidamble, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info(rtxContext* ctx, const Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-LCR-r4");
-   if ((uint64_t)pvalue->timeslotNumber > 6u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* channelisation-Code */
-   rtxCtxtPushElemName(ctx, "channelisation-Code");
-   rtxCtxtPushTypeName(ctx, "HS-ChannelisationCode-LCR");
-   if (pvalue->channelisation_Code > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->channelisation_Code);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->channelisation_Code, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midambleConfiguration */
-   rtxCtxtPushElemName(ctx, "midambleConfiguration");
-   if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* signatureSequenceGroupIndex */
-   rtxCtxtPushElemName(ctx, "signatureSequenceGroupIndex");
-   if ((uint64_t)pvalue->signatureSequenceGroupIndex > 19u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->signatureSequenceGroupIndex);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->signatureSequenceGroupIndex, 0, 19);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_tdd128(rtxContext* ctx, const Non_ScheduledTransGrantInfoTDD_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* n-E-UCCH */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "n-E-UCCH");
-      if ((uint64_t)(pvalue->n_E_UCCH - 1) > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n_E_UCCH);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->n_E_UCCH, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* n-E-HICH */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "n-E-HICH");
-      if ((uint64_t)(pvalue->n_E_HICH - 4) > 11u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n_E_HICH);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->n_E_HICH, 4, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* timeslotResourceRelatedInfo */
-   rtxCtxtPushElemName(ctx, "timeslotResourceRelatedInfo");
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pe_BitString32(ctx, &pvalue->timeslotResourceRelatedInfo, 5, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* powerResourceRelatedInfo */
-   rtxCtxtPushElemName(ctx, "powerResourceRelatedInfo");
-   if ((uint64_t)(pvalue->powerResourceRelatedInfo - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->powerResourceRelatedInfo);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->powerResourceRelatedInfo, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* activationTime */
-   rtxCtxtPushElemName(ctx, "activationTime");
-   rtxCtxtPushTypeName(ctx, "ActivationTime");
-   stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* sfnNum */
-   rtxCtxtPushElemName(ctx, "sfnNum");
-   if ((uint64_t)pvalue->sfnNum > 1u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->sfnNum);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->sfnNum, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* repetitionPeriodAndLength */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "repetitionPeriodAndLength");
-      stat = asn1PE_UMTS_RepetitionPeriodAndLength(ctx, &pvalue->repetitionPeriodAndLength);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* codeResourceInfo */
-   rtxCtxtPushElemName(ctx, "codeResourceInfo");
-   rtxCtxtPushTypeName(ctx, "UL-TS-ChannelisationCode");
-   if (pvalue->codeResourceInfo > 30) {
-      rtxErrAddUIntParm(ctx, pvalue->codeResourceInfo);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->codeResourceInfo, 0, 30);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* e-HICH-Info */
-   rtxCtxtPushElemName(ctx, "e-HICH-Info");
-   stat = asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info(ctx, &pvalue->e_HICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD(rtxContext* ctx, const Non_ScheduledTransGrantInfoTDD* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Non-ScheduledTransGrantInfoTDD");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384-768");
-         if (pvalue->u.tdd384_768 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_tdd384_768(ctx, pvalue->u.tdd384_768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_EDCH_Information_r8_modeSpecificInfo_tdd(rtxContext* ctx, const UL_EDCH_Information_r8_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* e-RUCCH-Info */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "e-RUCCH-Info");
-      stat = asn1PE_UMTS_E_RUCCH_Info(ctx, &pvalue->e_RUCCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-PUCH-Info */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "e-PUCH-Info");
-      stat = asn1PE_UMTS_E_PUCH_Info(ctx, &pvalue->e_PUCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* non-ScheduledTransGrantInfo */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "non-ScheduledTransGrantInfo");
-      stat = asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD(ctx, &pvalue->non_ScheduledTransGrantInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_EDCH_Information_r8_modeSpecificInfo(rtxContext* ctx, const UL_EDCH_Information_r8_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_EDCH_Information_r8_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_EDCH_Information_r8_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_EDCH_Information_r8(rtxContext* ctx, const UL_EDCH_Information_r8* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-EDCH-Information-r8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* mac-es-e-resetIndicator */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "mac-es-e-resetIndicator");
-      if (pvalue->mac_es_e_resetIndicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->mac_es_e_resetIndicator);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mac_es_e_resetIndicator, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_UL_EDCH_Information_r8_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DLUL_HSPA_Information_r8(rtxContext* ctx, const DLUL_HSPA_Information_r8* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DLUL-HSPA-Information-r8");
-   /* ul-EDCH-Information */
-   rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
-   stat = asn1PE_UMTS_UL_EDCH_Information_r8(ctx, &pvalue->ul_EDCH_Information);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonInformation */
-   rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-   stat = asn1PE_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL-List */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-   stat = asn1PE_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-HSPDSCH-Information */
-   rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-   stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_HSPDSCH_Information);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_EDCH_Information_r9_mac_es_e_resetIndicator(rtxContext* ctx, UL_EDCH_Information_r9_mac_es_e_resetIndicator value)
+int asn1PE_UMTS_UE_Positioning_GANSS_AddNavigationModels_non_broadcastIndication(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AddNavigationModels_non_broadcastIndication value)
 {
    int stat = 0;
    if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_UL_EDCH_Information_r9_modeSpecificInfo_fdd(rtxContext* ctx, const UL_EDCH_Information_r9_modeSpecificInfo_fdd* pvalue)
+int asn1PE_UMTS_NAVclockModel(rtxContext* RT_RESTRICT ctx, const NAVclockModel* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* e-DPCCH-Info */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "e-DPCCH-Info");
-      stat = asn1PE_UMTS_E_DPCCH_Info_r7(ctx, &pvalue->e_DPCCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-DPDCH-Info */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "e-DPDCH-Info");
-      stat = asn1PE_UMTS_E_DPDCH_Info_r8(ctx, &pvalue->e_DPDCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* schedulingTransmConfiguration */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "schedulingTransmConfiguration");
-      stat = asn1PE_UMTS_E_DPDCH_SchedulingTransmConfiguration(ctx, &pvalue->schedulingTransmConfiguration);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-16QAM-Settings */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "ul-16QAM-Settings");
-      stat = asn1PE_UMTS_UL_16QAM_Settings(ctx, &pvalue->ul_16QAM_Settings);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NAVclockModel");
+   /* navToc */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &pvalue->navToc, 16, 16);
+   RT_CHECK(ctx, stat, 0, "navToc", -1, "NAVclockModel");
+   /* navaf2 */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &pvalue->navaf2, 8, 8);
+   RT_CHECK(ctx, stat, 0, "navaf2", -1, "NAVclockModel");
+   /* navaf1 */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &pvalue->navaf1, 16, 16);
+   RT_CHECK(ctx, stat, 0, "navaf1", -1, "NAVclockModel");
+   /* navaf0 */
+   RT_SET_SIZE(ctx, 22, 22);
+   stat = pe_BitString32(ctx, &pvalue->navaf0, 22, 22);
+   RT_CHECK(ctx, stat, 0, "navaf0", -1, "NAVclockModel");
+   /* navTgd */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &pvalue->navTgd, 8, 8);
+   RT_CHECK(ctx, stat, 0, "navTgd", -1, "NAVclockModel");
    return 0;
 }
 
-int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd384_768(rtxContext* ctx, const Non_ScheduledTransGrantInfoTDD_r9_tdd384_768* pvalue)
+int asn1PE_UMTS_GLONASSclockModel(rtxContext* RT_RESTRICT ctx, const GLONASSclockModel* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GLONASSclockModel");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* timeslotResourceRelatedInfo */
-   rtxCtxtPushElemName(ctx, "timeslotResourceRelatedInfo");
-   RT_SET_SIZE(ctx, 13, 13);
-   stat = pe_BitString32(ctx, &pvalue->timeslotResourceRelatedInfo, 13, 13);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* powerResourceRelatedInfo */
-   rtxCtxtPushElemName(ctx, "powerResourceRelatedInfo");
-   if ((uint64_t)(pvalue->powerResourceRelatedInfo - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->powerResourceRelatedInfo);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->powerResourceRelatedInfo, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* activationTime */
-   rtxCtxtPushElemName(ctx, "activationTime");
-   rtxCtxtPushTypeName(ctx, "ActivationTime");
-   stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* repetitionPeriodAndLength */
+   RT_CHECK(ctx, stat, 0, 0, -1, "GLONASSclockModel");
+   /* gloTau */
+   RT_SET_SIZE(ctx, 22, 22);
+   stat = pe_BitString32(ctx, &pvalue->gloTau, 22, 22);
+   RT_CHECK(ctx, stat, 0, "gloTau", -1, "GLONASSclockModel");
+   /* gloGamma */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pe_BitString32(ctx, &pvalue->gloGamma, 11, 11);
+   RT_CHECK(ctx, stat, 0, "gloGamma", -1, "GLONASSclockModel");
+   /* gloDeltaTau */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "repetitionPeriodAndLength");
-      stat = asn1PE_UMTS_RepetitionPeriodAndLength(ctx, &pvalue->repetitionPeriodAndLength);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* codeResourceInfo */
-   rtxCtxtPushElemName(ctx, "codeResourceInfo");
-   rtxCtxtPushTypeName(ctx, "UL-TS-ChannelisationCode");
-   if (pvalue->codeResourceInfo > 30) {
-      rtxErrAddUIntParm(ctx, pvalue->codeResourceInfo);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->codeResourceInfo, 0, 30);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info_midambleAllocationMode(rtxContext* ctx, const Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info_midambleAllocationMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         if ((uint64_t)pvalue->u.ueSpecificMidamble > 15u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.ueSpecificMidamble);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.ueSpecificMidamble, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
+      RT_SET_SIZE(ctx, 5, 5);
+      stat = pe_BitString32(ctx, &pvalue->gloDeltaTau, 5, 5);
+      RT_CHECK(ctx, stat, 0, "gloDeltaTau", -1, "GLONASSclockModel");
    }
    return 0;
 }
 
-int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info(rtxContext* ctx, const Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info* pvalue)
+int asn1PE_UMTS_SBASclockModel(rtxContext* RT_RESTRICT ctx, const SBASclockModel* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-LCR-r4");
-   if ((uint64_t)pvalue->timeslotNumber > 6u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* channelisation-Code */
-   rtxCtxtPushElemName(ctx, "channelisation-Code");
-   rtxCtxtPushTypeName(ctx, "HS-ChannelisationCode-LCR");
-   if (pvalue->channelisation_Code > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->channelisation_Code);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->channelisation_Code, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midambleConfiguration */
-   rtxCtxtPushElemName(ctx, "midambleConfiguration");
-   if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* signatureSequenceGroupIndex */
-   rtxCtxtPushElemName(ctx, "signatureSequenceGroupIndex");
-   if ((uint64_t)pvalue->signatureSequenceGroupIndex > 19u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->signatureSequenceGroupIndex);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->signatureSequenceGroupIndex, 0, 19);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SBASclockModel");
+   /* sbasTo */
+   RT_SET_SIZE(ctx, 13, 13);
+   stat = pe_BitString32(ctx, &pvalue->sbasTo, 13, 13);
+   RT_CHECK(ctx, stat, 0, "sbasTo", -1, "SBASclockModel");
+   /* sbasAgfo */
+   RT_SET_SIZE(ctx, 12, 12);
+   stat = pe_BitString32(ctx, &pvalue->sbasAgfo, 12, 12);
+   RT_CHECK(ctx, stat, 0, "sbasAgfo", -1, "SBASclockModel");
+   /* sbasAgf1 */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &pvalue->sbasAgf1, 8, 8);
+   RT_CHECK(ctx, stat, 0, "sbasAgf1", -1, "SBASclockModel");
    return 0;
 }
 
-int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd128_t_SI_nst(rtxContext* ctx, Non_ScheduledTransGrantInfoTDD_r9_tdd128_t_SI_nst value)
+int asn1PE_UMTS_UE_Positioning_GANSS_AddClockModels(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AddClockModels* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (value > 6) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 6);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd128(rtxContext* ctx, const Non_ScheduledTransGrantInfoTDD_r9_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-AddClockModels");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* n-E-UCCH */
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-AddClockModels");
+   /* navClockModel */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "n-E-UCCH");
-      if ((uint64_t)(pvalue->n_E_UCCH - 1) > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n_E_UCCH);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->n_E_UCCH, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_NAVclockModel(ctx, &pvalue->navClockModel);
+      RT_CHECK(ctx, stat, 0, "navClockModel", -1, "UE-Positioning-GANSS-AddClockModels");
    }
-   /* n-E-HICH */
+   /* cnavClockModel */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "n-E-HICH");
-      if ((uint64_t)(pvalue->n_E_HICH - 4) > 11u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->n_E_HICH);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->n_E_HICH, 4, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CNAVclockModel(ctx, &pvalue->cnavClockModel);
+      RT_CHECK(ctx, stat, 0, "cnavClockModel", -1, "UE-Positioning-GANSS-AddClockModels");
    }
-   /* timeslotResourceRelatedInfo */
-   rtxCtxtPushElemName(ctx, "timeslotResourceRelatedInfo");
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pe_BitString32(ctx, &pvalue->timeslotResourceRelatedInfo, 5, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* powerResourceRelatedInfo */
-   rtxCtxtPushElemName(ctx, "powerResourceRelatedInfo");
-   if ((uint64_t)(pvalue->powerResourceRelatedInfo - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->powerResourceRelatedInfo);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->powerResourceRelatedInfo, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* activationTime */
-   rtxCtxtPushElemName(ctx, "activationTime");
-   rtxCtxtPushTypeName(ctx, "ActivationTime");
-   stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* sfnNum */
-   rtxCtxtPushElemName(ctx, "sfnNum");
-   if ((uint64_t)pvalue->sfnNum > 1u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->sfnNum);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->sfnNum, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* repetitionPeriodAndLength */
+   /* glonassClockModel */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "repetitionPeriodAndLength");
-      stat = asn1PE_UMTS_RepetitionPeriodAndLength(ctx, &pvalue->repetitionPeriodAndLength);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_GLONASSclockModel(ctx, &pvalue->glonassClockModel);
+      RT_CHECK(ctx, stat, 0, "glonassClockModel", -1, "UE-Positioning-GANSS-AddClockModels");
    }
-   /* codeResourceInfo */
-   rtxCtxtPushElemName(ctx, "codeResourceInfo");
-   rtxCtxtPushTypeName(ctx, "UL-TS-ChannelisationCode");
-   if (pvalue->codeResourceInfo > 30) {
-      rtxErrAddUIntParm(ctx, pvalue->codeResourceInfo);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->codeResourceInfo, 0, 30);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* e-HICH-Info */
-   rtxCtxtPushElemName(ctx, "e-HICH-Info");
-   stat = asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info(ctx, &pvalue->e_HICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* t-SI-nst */
+   /* sbasClockModel */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "t-SI-nst");
-      if (pvalue->t_SI_nst > 6) {
-         rtxErrAddUIntParm(ctx, pvalue->t_SI_nst);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+      stat = asn1PE_UMTS_SBASclockModel(ctx, &pvalue->sbasClockModel);
+      RT_CHECK(ctx, stat, 0, "sbasClockModel", -1, "UE-Positioning-GANSS-AddClockModels");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NavModel_NAVKeplerianSet(rtxContext* RT_RESTRICT ctx, const NavModel_NAVKeplerianSet* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NavModel-NAVKeplerianSet");
+   /* navURA */
+   RT_SET_SIZE(ctx, 4, 4);
+   stat = pe_BitString32(ctx, &pvalue->navURA, 4, 4);
+   RT_CHECK(ctx, stat, 0, "navURA", -1, "NavModel-NAVKeplerianSet");
+   /* navFitFlag */
+   RT_SET_SIZE(ctx, 1, 1);
+   stat = pe_BitString32(ctx, &pvalue->navFitFlag, 1, 1);
+   RT_CHECK(ctx, stat, 0, "navFitFlag", -1, "NavModel-NAVKeplerianSet");
+   /* navToe */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &pvalue->navToe, 16, 16);
+   RT_CHECK(ctx, stat, 0, "navToe", -1, "NavModel-NAVKeplerianSet");
+   /* navOmega */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32(ctx, &pvalue->navOmega, 32, 32);
+   RT_CHECK(ctx, stat, 0, "navOmega", -1, "NavModel-NAVKeplerianSet");
+   /* navDeltaN */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &pvalue->navDeltaN, 16, 16);
+   RT_CHECK(ctx, stat, 0, "navDeltaN", -1, "NavModel-NAVKeplerianSet");
+   /* navM0 */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32(ctx, &pvalue->navM0, 32, 32);
+   RT_CHECK(ctx, stat, 0, "navM0", -1, "NavModel-NAVKeplerianSet");
+   /* navOmegaADot */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pe_BitString32(ctx, &pvalue->navOmegaADot, 24, 24);
+   RT_CHECK(ctx, stat, 0, "navOmegaADot", -1, "NavModel-NAVKeplerianSet");
+   /* navE */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32(ctx, &pvalue->navE, 32, 32);
+   RT_CHECK(ctx, stat, 0, "navE", -1, "NavModel-NAVKeplerianSet");
+   /* navIDot */
+   RT_SET_SIZE(ctx, 14, 14);
+   stat = pe_BitString32(ctx, &pvalue->navIDot, 14, 14);
+   RT_CHECK(ctx, stat, 0, "navIDot", -1, "NavModel-NAVKeplerianSet");
+   /* navAPowerHalf */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32(ctx, &pvalue->navAPowerHalf, 32, 32);
+   RT_CHECK(ctx, stat, 0, "navAPowerHalf", -1, "NavModel-NAVKeplerianSet");
+   /* navI0 */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32(ctx, &pvalue->navI0, 32, 32);
+   RT_CHECK(ctx, stat, 0, "navI0", -1, "NavModel-NAVKeplerianSet");
+   /* navOmegaA0 */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32(ctx, &pvalue->navOmegaA0, 32, 32);
+   RT_CHECK(ctx, stat, 0, "navOmegaA0", -1, "NavModel-NAVKeplerianSet");
+   /* navCrs */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &pvalue->navCrs, 16, 16);
+   RT_CHECK(ctx, stat, 0, "navCrs", -1, "NavModel-NAVKeplerianSet");
+   /* navCis */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &pvalue->navCis, 16, 16);
+   RT_CHECK(ctx, stat, 0, "navCis", -1, "NavModel-NAVKeplerianSet");
+   /* navCus */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &pvalue->navCus, 16, 16);
+   RT_CHECK(ctx, stat, 0, "navCus", -1, "NavModel-NAVKeplerianSet");
+   /* navCrc */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &pvalue->navCrc, 16, 16);
+   RT_CHECK(ctx, stat, 0, "navCrc", -1, "NavModel-NAVKeplerianSet");
+   /* navCic */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &pvalue->navCic, 16, 16);
+   RT_CHECK(ctx, stat, 0, "navCic", -1, "NavModel-NAVKeplerianSet");
+   /* navCuc */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &pvalue->navCuc, 16, 16);
+   RT_CHECK(ctx, stat, 0, "navCuc", -1, "NavModel-NAVKeplerianSet");
+   return 0;
+}
+
+int asn1PE_UMTS_NavModel_CNAVKeplerianSet_cnavMo(rtxContext* RT_RESTRICT ctx, const NavModel_CNAVKeplerianSet_cnavMo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 33, 33);
+   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_NavModel_CNAVKeplerianSet_cnavE(rtxContext* RT_RESTRICT ctx, const NavModel_CNAVKeplerianSet_cnavE* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 33, 33);
+   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_NavModel_CNAVKeplerianSet_cnavOmega(rtxContext* RT_RESTRICT ctx, const NavModel_CNAVKeplerianSet_cnavOmega* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 33, 33);
+   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_NavModel_CNAVKeplerianSet_cnavOMEGA0(rtxContext* RT_RESTRICT ctx, const NavModel_CNAVKeplerianSet_cnavOMEGA0* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 33, 33);
+   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_NavModel_CNAVKeplerianSet_cnavIo(rtxContext* RT_RESTRICT ctx, const NavModel_CNAVKeplerianSet_cnavIo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 33, 33);
+   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_NavModel_CNAVKeplerianSet(rtxContext* RT_RESTRICT ctx, const NavModel_CNAVKeplerianSet* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NavModel-CNAVKeplerianSet");
+   /* cnavTop */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pe_BitString32(ctx, &pvalue->cnavTop, 11, 11);
+   RT_CHECK(ctx, stat, 0, "cnavTop", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavURAindex */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pe_BitString32(ctx, &pvalue->cnavURAindex, 5, 5);
+   RT_CHECK(ctx, stat, 0, "cnavURAindex", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavDeltaA */
+   RT_SET_SIZE(ctx, 26, 26);
+   stat = pe_BitString32(ctx, &pvalue->cnavDeltaA, 26, 26);
+   RT_CHECK(ctx, stat, 0, "cnavDeltaA", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavAdot */
+   RT_SET_SIZE(ctx, 25, 25);
+   stat = pe_BitString32(ctx, &pvalue->cnavAdot, 25, 25);
+   RT_CHECK(ctx, stat, 0, "cnavAdot", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavDeltaNo */
+   RT_SET_SIZE(ctx, 17, 17);
+   stat = pe_BitString32(ctx, &pvalue->cnavDeltaNo, 17, 17);
+   RT_CHECK(ctx, stat, 0, "cnavDeltaNo", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavDeltaNoDot */
+   RT_SET_SIZE(ctx, 23, 23);
+   stat = pe_BitString32(ctx, &pvalue->cnavDeltaNoDot, 23, 23);
+   RT_CHECK(ctx, stat, 0, "cnavDeltaNoDot", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavMo */
+   stat = asn1PE_UMTS_NavModel_CNAVKeplerianSet_cnavMo(ctx, &pvalue->cnavMo);
+   RT_CHECK(ctx, stat, 0, "cnavMo", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavE */
+   stat = asn1PE_UMTS_NavModel_CNAVKeplerianSet_cnavE(ctx, &pvalue->cnavE);
+   RT_CHECK(ctx, stat, 0, "cnavE", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavOmega */
+   stat = asn1PE_UMTS_NavModel_CNAVKeplerianSet_cnavOmega(ctx, &pvalue->cnavOmega);
+   RT_CHECK(ctx, stat, 0, "cnavOmega", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavOMEGA0 */
+   stat = asn1PE_UMTS_NavModel_CNAVKeplerianSet_cnavOMEGA0(ctx, &pvalue->cnavOMEGA0);
+   RT_CHECK(ctx, stat, 0, "cnavOMEGA0", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavDeltaOmegaDot */
+   RT_SET_SIZE(ctx, 17, 17);
+   stat = pe_BitString32(ctx, &pvalue->cnavDeltaOmegaDot, 17, 17);
+   RT_CHECK(ctx, stat, 0, "cnavDeltaOmegaDot", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavIo */
+   stat = asn1PE_UMTS_NavModel_CNAVKeplerianSet_cnavIo(ctx, &pvalue->cnavIo);
+   RT_CHECK(ctx, stat, 0, "cnavIo", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavIoDot */
+   RT_SET_SIZE(ctx, 15, 15);
+   stat = pe_BitString32(ctx, &pvalue->cnavIoDot, 15, 15);
+   RT_CHECK(ctx, stat, 0, "cnavIoDot", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavCis */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &pvalue->cnavCis, 16, 16);
+   RT_CHECK(ctx, stat, 0, "cnavCis", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavCic */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &pvalue->cnavCic, 16, 16);
+   RT_CHECK(ctx, stat, 0, "cnavCic", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavCrs */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pe_BitString32(ctx, &pvalue->cnavCrs, 24, 24);
+   RT_CHECK(ctx, stat, 0, "cnavCrs", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavCrc */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pe_BitString32(ctx, &pvalue->cnavCrc, 24, 24);
+   RT_CHECK(ctx, stat, 0, "cnavCrc", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavCus */
+   RT_SET_SIZE(ctx, 21, 21);
+   stat = pe_BitString32(ctx, &pvalue->cnavCus, 21, 21);
+   RT_CHECK(ctx, stat, 0, "cnavCus", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavCuc */
+   RT_SET_SIZE(ctx, 21, 21);
+   stat = pe_BitString32(ctx, &pvalue->cnavCuc, 21, 21);
+   RT_CHECK(ctx, stat, 0, "cnavCuc", -1, "NavModel-CNAVKeplerianSet");
+   return 0;
+}
+
+int asn1PE_UMTS_NavModel_GLONASSecef(rtxContext* RT_RESTRICT ctx, const NavModel_GLONASSecef* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NavModel-GLONASSecef");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NavModel-GLONASSecef");
+   /* gloEn */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pe_BitString32(ctx, &pvalue->gloEn, 5, 5);
+   RT_CHECK(ctx, stat, 0, "gloEn", -1, "NavModel-GLONASSecef");
+   /* gloP1 */
+   RT_SET_SIZE(ctx, 2, 2);
+   stat = pe_BitString32(ctx, &pvalue->gloP1, 2, 2);
+   RT_CHECK(ctx, stat, 0, "gloP1", -1, "NavModel-GLONASSecef");
+   /* gloP2 */
+   RT_SET_SIZE(ctx, 1, 1);
+   stat = pe_BitString32(ctx, &pvalue->gloP2, 1, 1);
+   RT_CHECK(ctx, stat, 0, "gloP2", -1, "NavModel-GLONASSecef");
+   /* gloM */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 2, 2);
+      stat = pe_BitString32(ctx, &pvalue->gloM, 2, 2);
+      RT_CHECK(ctx, stat, 0, "gloM", -1, "NavModel-GLONASSecef");
+   }
+   /* gloX */
+   RT_SET_SIZE(ctx, 27, 27);
+   stat = pe_BitString32(ctx, &pvalue->gloX, 27, 27);
+   RT_CHECK(ctx, stat, 0, "gloX", -1, "NavModel-GLONASSecef");
+   /* gloXdot */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pe_BitString32(ctx, &pvalue->gloXdot, 24, 24);
+   RT_CHECK(ctx, stat, 0, "gloXdot", -1, "NavModel-GLONASSecef");
+   /* gloXdotdot */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pe_BitString32(ctx, &pvalue->gloXdotdot, 5, 5);
+   RT_CHECK(ctx, stat, 0, "gloXdotdot", -1, "NavModel-GLONASSecef");
+   /* gloY */
+   RT_SET_SIZE(ctx, 27, 27);
+   stat = pe_BitString32(ctx, &pvalue->gloY, 27, 27);
+   RT_CHECK(ctx, stat, 0, "gloY", -1, "NavModel-GLONASSecef");
+   /* gloYdot */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pe_BitString32(ctx, &pvalue->gloYdot, 24, 24);
+   RT_CHECK(ctx, stat, 0, "gloYdot", -1, "NavModel-GLONASSecef");
+   /* gloYdotdot */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pe_BitString32(ctx, &pvalue->gloYdotdot, 5, 5);
+   RT_CHECK(ctx, stat, 0, "gloYdotdot", -1, "NavModel-GLONASSecef");
+   /* gloZ */
+   RT_SET_SIZE(ctx, 27, 27);
+   stat = pe_BitString32(ctx, &pvalue->gloZ, 27, 27);
+   RT_CHECK(ctx, stat, 0, "gloZ", -1, "NavModel-GLONASSecef");
+   /* gloZdot */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pe_BitString32(ctx, &pvalue->gloZdot, 24, 24);
+   RT_CHECK(ctx, stat, 0, "gloZdot", -1, "NavModel-GLONASSecef");
+   /* gloZdotdot */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pe_BitString32(ctx, &pvalue->gloZdotdot, 5, 5);
+   RT_CHECK(ctx, stat, 0, "gloZdotdot", -1, "NavModel-GLONASSecef");
+   return 0;
+}
+
+int asn1PE_UMTS_NavModel_SBASecef(rtxContext* RT_RESTRICT ctx, const NavModel_SBASecef* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NavModel-SBASecef");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NavModel-SBASecef");
+   /* sbasTo */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 13, 13);
+      stat = pe_BitString32(ctx, &pvalue->sbasTo, 13, 13);
+      RT_CHECK(ctx, stat, 0, "sbasTo", -1, "NavModel-SBASecef");
+   }
+   /* sbasAccuracy */
+   RT_SET_SIZE(ctx, 4, 4);
+   stat = pe_BitString32(ctx, &pvalue->sbasAccuracy, 4, 4);
+   RT_CHECK(ctx, stat, 0, "sbasAccuracy", -1, "NavModel-SBASecef");
+   /* sbasXg */
+   RT_SET_SIZE(ctx, 30, 30);
+   stat = pe_BitString32(ctx, &pvalue->sbasXg, 30, 30);
+   RT_CHECK(ctx, stat, 0, "sbasXg", -1, "NavModel-SBASecef");
+   /* sbasYg */
+   RT_SET_SIZE(ctx, 30, 30);
+   stat = pe_BitString32(ctx, &pvalue->sbasYg, 30, 30);
+   RT_CHECK(ctx, stat, 0, "sbasYg", -1, "NavModel-SBASecef");
+   /* sbasZg */
+   RT_SET_SIZE(ctx, 25, 25);
+   stat = pe_BitString32(ctx, &pvalue->sbasZg, 25, 25);
+   RT_CHECK(ctx, stat, 0, "sbasZg", -1, "NavModel-SBASecef");
+   /* sbasXgDot */
+   RT_SET_SIZE(ctx, 17, 17);
+   stat = pe_BitString32(ctx, &pvalue->sbasXgDot, 17, 17);
+   RT_CHECK(ctx, stat, 0, "sbasXgDot", -1, "NavModel-SBASecef");
+   /* sbasYgDot */
+   RT_SET_SIZE(ctx, 17, 17);
+   stat = pe_BitString32(ctx, &pvalue->sbasYgDot, 17, 17);
+   RT_CHECK(ctx, stat, 0, "sbasYgDot", -1, "NavModel-SBASecef");
+   /* sbasZgDot */
+   RT_SET_SIZE(ctx, 18, 18);
+   stat = pe_BitString32(ctx, &pvalue->sbasZgDot, 18, 18);
+   RT_CHECK(ctx, stat, 0, "sbasZgDot", -1, "NavModel-SBASecef");
+   /* sbasXgDotDot */
+   RT_SET_SIZE(ctx, 10, 10);
+   stat = pe_BitString32(ctx, &pvalue->sbasXgDotDot, 10, 10);
+   RT_CHECK(ctx, stat, 0, "sbasXgDotDot", -1, "NavModel-SBASecef");
+   /* sbagYgDotDot */
+   RT_SET_SIZE(ctx, 10, 10);
+   stat = pe_BitString32(ctx, &pvalue->sbagYgDotDot, 10, 10);
+   RT_CHECK(ctx, stat, 0, "sbagYgDotDot", -1, "NavModel-SBASecef");
+   /* sbasZgDotDot */
+   RT_SET_SIZE(ctx, 10, 10);
+   stat = pe_BitString32(ctx, &pvalue->sbasZgDotDot, 10, 10);
+   RT_CHECK(ctx, stat, 0, "sbasZgDotDot", -1, "NavModel-SBASecef");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_AddOrbitModels(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AddOrbitModels* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-AddOrbitModels");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-AddOrbitModels");
+   /* navKeplerianSet */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_NavModel_NAVKeplerianSet(ctx, &pvalue->navKeplerianSet);
+      RT_CHECK(ctx, stat, 0, "navKeplerianSet", -1, "UE-Positioning-GANSS-AddOrbitModels");
+   }
+   /* cnavKeplerianSet */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_NavModel_CNAVKeplerianSet(ctx, &pvalue->cnavKeplerianSet);
+      RT_CHECK(ctx, stat, 0, "cnavKeplerianSet", -1, "UE-Positioning-GANSS-AddOrbitModels");
+   }
+   /* glonassECEF */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_NavModel_GLONASSecef(ctx, &pvalue->glonassECEF);
+      RT_CHECK(ctx, stat, 0, "glonassECEF", -1, "UE-Positioning-GANSS-AddOrbitModels");
+   }
+   /* sbasECEF */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_NavModel_SBASecef(ctx, &pvalue->sbasECEF);
+      RT_CHECK(ctx, stat, 0, "sbasECEF", -1, "UE-Positioning-GANSS-AddOrbitModels");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Ganss_Sat_Info_AddNav(rtxContext* RT_RESTRICT ctx, const Ganss_Sat_Info_AddNav* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Ganss-Sat-Info-AddNav");
+   /* satId */
+   if ((uint64_t)pvalue->satId > 63u) {
+      rtxErrAddStrParm(ctx, "satId");
+      rtxErrAddUIntParm(ctx, pvalue->satId);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "satId", -1, "Ganss-Sat-Info-AddNav");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->satId, 0, 63);
+   RT_CHECK(ctx, stat, 0, "satId", -1, "Ganss-Sat-Info-AddNav");
+   /* svHealth */
+   RT_SET_SIZE(ctx, 6, 6);
+   stat = pe_BitString32(ctx, &pvalue->svHealth, 6, 6);
+   RT_CHECK(ctx, stat, 0, "svHealth", -1, "Ganss-Sat-Info-AddNav");
+   /* iod */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pe_BitString32(ctx, &pvalue->iod, 11, 11);
+   RT_CHECK(ctx, stat, 0, "iod", -1, "Ganss-Sat-Info-AddNav");
+   /* ganssClockModel */
+   stat = asn1PE_UMTS_UE_Positioning_GANSS_AddClockModels(ctx, &pvalue->ganssClockModel);
+   RT_CHECK(ctx, stat, 0, "ganssClockModel", -1, "Ganss-Sat-Info-AddNav");
+   /* ganssOrbitModel */
+   stat = asn1PE_UMTS_UE_Positioning_GANSS_AddOrbitModels(ctx, &pvalue->ganssOrbitModel);
+   RT_CHECK(ctx, stat, 0, "ganssOrbitModel", -1, "Ganss-Sat-Info-AddNav");
+   return 0;
+}
+
+int asn1PE_UMTS_Ganss_Sat_Info_AddNavList(rtxContext* RT_RESTRICT ctx, const Ganss_Sat_Info_AddNavList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Ganss-Sat-Info-AddNavList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "Ganss-Sat-Info-AddNavList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "Ganss-Sat-Info-AddNav", (int32_t)i, "Ganss-Sat-Info-AddNavList");
+      stat = asn1PE_UMTS_Ganss_Sat_Info_AddNav(ctx, (const Ganss_Sat_Info_AddNav*)node->data);
+      RT_CHECK(ctx, stat, 0, "Ganss-Sat-Info-AddNav", (int32_t)i, "Ganss-Sat-Info-AddNavList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_AddNavigationModels(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AddNavigationModels* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-AddNavigationModels");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-AddNavigationModels");
+   /* non-broadcastIndication */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->non_broadcastIndication > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->non_broadcastIndication);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "non-broadcastIndication", -1, "UE-Positioning-GANSS-AddNavigationModels");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->t_SI_nst, 0, 6);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->non_broadcastIndication, 0, 0);
+      RT_CHECK(ctx, stat, 0, "non-broadcastIndication", -1, "UE-Positioning-GANSS-AddNavigationModels");
+   }
+   /* ganssSatInfoNavList */
+   stat = asn1PE_UMTS_Ganss_Sat_Info_AddNavList(ctx, &pvalue->ganssSatInfoNavList);
+   RT_CHECK(ctx, stat, 0, "ganssSatInfoNavList", -1, "UE-Positioning-GANSS-AddNavigationModels");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_Almanac_v860ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_Almanac_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-Almanac-v860ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-Almanac-v860ext");
+   /* alm-keplerianNAVAlmanac */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ALM_NAVKeplerianSet(ctx, &pvalue->alm_keplerianNAVAlmanac);
+      RT_CHECK(ctx, stat, 0, "alm-keplerianNAVAlmanac", -1, "UE-Positioning-GANSS-Almanac-v860ext");
+   }
+   /* alm-keplerianReducedAlmanac */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_ALM_ReducedKeplerianSet(ctx, &pvalue->alm_keplerianReducedAlmanac);
+      RT_CHECK(ctx, stat, 0, "alm-keplerianReducedAlmanac", -1, "UE-Positioning-GANSS-Almanac-v860ext");
+   }
+   /* alm-keplerianMidiAlmanac */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_ALM_MidiAlmanacSet(ctx, &pvalue->alm_keplerianMidiAlmanac);
+      RT_CHECK(ctx, stat, 0, "alm-keplerianMidiAlmanac", -1, "UE-Positioning-GANSS-Almanac-v860ext");
+   }
+   /* alm-keplerianGLONASS */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_ALM_GlonassAlmanacSet(ctx, &pvalue->alm_keplerianGLONASS);
+      RT_CHECK(ctx, stat, 0, "alm-keplerianGLONASS", -1, "UE-Positioning-GANSS-Almanac-v860ext");
+   }
+   /* alm-ecefSBASAlmanac */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_ALM_ECEFsbasAlmanacSet(ctx, &pvalue->alm_ecefSBASAlmanac);
+      RT_CHECK(ctx, stat, 0, "alm-ecefSBASAlmanac", -1, "UE-Positioning-GANSS-Almanac-v860ext");
    }
    return 0;
 }
 
-int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_r9(rtxContext* ctx, const Non_ScheduledTransGrantInfoTDD_r9* pvalue)
+int asn1PE_UMTS_UTCmodelSet1(rtxContext* RT_RESTRICT ctx, const UTCmodelSet1* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Non-ScheduledTransGrantInfoTDD-r9");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384-768");
-         if (pvalue->u.tdd384_768 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd384_768(ctx, pvalue->u.tdd384_768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UTCmodelSet1");
+   /* utcA0 */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &pvalue->utcA0, 16, 16);
+   RT_CHECK(ctx, stat, 0, "utcA0", -1, "UTCmodelSet1");
+   /* utcA1 */
+   RT_SET_SIZE(ctx, 13, 13);
+   stat = pe_BitString32(ctx, &pvalue->utcA1, 13, 13);
+   RT_CHECK(ctx, stat, 0, "utcA1", -1, "UTCmodelSet1");
+   /* utcA2 */
+   RT_SET_SIZE(ctx, 7, 7);
+   stat = pe_BitString32(ctx, &pvalue->utcA2, 7, 7);
+   RT_CHECK(ctx, stat, 0, "utcA2", -1, "UTCmodelSet1");
+   /* utcDeltaTls */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &pvalue->utcDeltaTls, 8, 8);
+   RT_CHECK(ctx, stat, 0, "utcDeltaTls", -1, "UTCmodelSet1");
+   /* utcTot */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &pvalue->utcTot, 16, 16);
+   RT_CHECK(ctx, stat, 0, "utcTot", -1, "UTCmodelSet1");
+   /* utcWNot */
+   RT_SET_SIZE(ctx, 13, 13);
+   stat = pe_BitString32(ctx, &pvalue->utcWNot, 13, 13);
+   RT_CHECK(ctx, stat, 0, "utcWNot", -1, "UTCmodelSet1");
+   /* utcWNlsf */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &pvalue->utcWNlsf, 8, 8);
+   RT_CHECK(ctx, stat, 0, "utcWNlsf", -1, "UTCmodelSet1");
+   /* utcDN */
+   RT_SET_SIZE(ctx, 4, 4);
+   stat = pe_BitString32(ctx, &pvalue->utcDN, 4, 4);
+   RT_CHECK(ctx, stat, 0, "utcDN", -1, "UTCmodelSet1");
+   /* utcDeltaTlsf */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &pvalue->utcDeltaTlsf, 8, 8);
+   RT_CHECK(ctx, stat, 0, "utcDeltaTlsf", -1, "UTCmodelSet1");
    return 0;
 }
 
-int asn1PE_UMTS_UL_EDCH_Information_r9_modeSpecificInfo_tdd(rtxContext* ctx, const UL_EDCH_Information_r9_modeSpecificInfo_tdd* pvalue)
+int asn1PE_UMTS_UTCmodelSet2(rtxContext* RT_RESTRICT ctx, const UTCmodelSet2* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UTCmodelSet2");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UTCmodelSet2");
+   /* nA */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pe_BitString32(ctx, &pvalue->nA, 11, 11);
+   RT_CHECK(ctx, stat, 0, "nA", -1, "UTCmodelSet2");
+   /* tauC */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32(ctx, &pvalue->tauC, 32, 32);
+   RT_CHECK(ctx, stat, 0, "tauC", -1, "UTCmodelSet2");
+   /* deltaUT1 */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DeltaUT1(ctx, &pvalue->deltaUT1);
+      RT_CHECK(ctx, stat, 0, "deltaUT1", -1, "UTCmodelSet2");
+   }
+   /* kp */
+   if (pvalue->m & 0x2u) {
+      RT_SET_SIZE(ctx, 2, 2);
+      stat = pe_BitString32(ctx, &pvalue->kp, 2, 2);
+      RT_CHECK(ctx, stat, 0, "kp", -1, "UTCmodelSet2");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UTCmodelSet3(rtxContext* RT_RESTRICT ctx, const UTCmodelSet3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UTCmodelSet3");
+   /* utcA1wnt */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pe_BitString32(ctx, &pvalue->utcA1wnt, 24, 24);
+   RT_CHECK(ctx, stat, 0, "utcA1wnt", -1, "UTCmodelSet3");
+   /* utcA0wnt */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32(ctx, &pvalue->utcA0wnt, 32, 32);
+   RT_CHECK(ctx, stat, 0, "utcA0wnt", -1, "UTCmodelSet3");
+   /* utcTot */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &pvalue->utcTot, 8, 8);
+   RT_CHECK(ctx, stat, 0, "utcTot", -1, "UTCmodelSet3");
+   /* utcWNt */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &pvalue->utcWNt, 8, 8);
+   RT_CHECK(ctx, stat, 0, "utcWNt", -1, "UTCmodelSet3");
+   /* utcDeltaTls */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &pvalue->utcDeltaTls, 8, 8);
+   RT_CHECK(ctx, stat, 0, "utcDeltaTls", -1, "UTCmodelSet3");
+   /* utcWNlsf */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &pvalue->utcWNlsf, 8, 8);
+   RT_CHECK(ctx, stat, 0, "utcWNlsf", -1, "UTCmodelSet3");
+   /* utcDN */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &pvalue->utcDN, 8, 8);
+   RT_CHECK(ctx, stat, 0, "utcDN", -1, "UTCmodelSet3");
+   /* utcDeltaTlsf */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &pvalue->utcDeltaTlsf, 8, 8);
+   RT_CHECK(ctx, stat, 0, "utcDeltaTlsf", -1, "UTCmodelSet3");
+   /* utcStandardID */
+   RT_SET_SIZE(ctx, 3, 3);
+   stat = pe_BitString32(ctx, &pvalue->utcStandardID, 3, 3);
+   RT_CHECK(ctx, stat, 0, "utcStandardID", -1, "UTCmodelSet3");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_AddUTCModels(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AddUTCModels* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-AddUTCModels");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* e-RUCCH-Info */
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-AddUTCModels");
+   /* utcModel1 */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "e-RUCCH-Info");
-      stat = asn1PE_UMTS_E_RUCCH_Info(ctx, &pvalue->e_RUCCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UTCmodelSet1(ctx, &pvalue->utcModel1);
+      RT_CHECK(ctx, stat, 0, "utcModel1", -1, "UE-Positioning-GANSS-AddUTCModels");
    }
-   /* e-PUCH-Info */
+   /* utcModel2 */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "e-PUCH-Info");
-      stat = asn1PE_UMTS_E_PUCH_Info(ctx, &pvalue->e_PUCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UTCmodelSet2(ctx, &pvalue->utcModel2);
+      RT_CHECK(ctx, stat, 0, "utcModel2", -1, "UE-Positioning-GANSS-AddUTCModels");
    }
-   /* non-ScheduledTransGrantInfo */
+   /* utcModel3 */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "non-ScheduledTransGrantInfo");
-      stat = asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_r9(ctx, &pvalue->non_ScheduledTransGrantInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UTCmodelSet3(ctx, &pvalue->utcModel3);
+      RT_CHECK(ctx, stat, 0, "utcModel3", -1, "UE-Positioning-GANSS-AddUTCModels");
    }
    return 0;
 }
 
-int asn1PE_UMTS_UL_EDCH_Information_r9_modeSpecificInfo(rtxContext* ctx, const UL_EDCH_Information_r9_modeSpecificInfo* pvalue)
+int asn1PE_UMTS_UE_Positioning_GANSS_AuxiliaryInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AuxiliaryInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-AuxiliaryInfo");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "UE-Positioning-GANSS-AuxiliaryInfo");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UE-Positioning-GANSS-AuxiliaryInfo");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_EDCH_Information_r9_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.ganssID1 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ganssID1", -1, "UE-Positioning-GANSS-AuxiliaryInfo");
+         stat = asn1PE_UMTS_AuxInfoGANSS_ID1(ctx, pvalue->u.ganssID1);
+         RT_CHECK(ctx, stat, 0, "ganssID1", -1, "UE-Positioning-GANSS-AuxiliaryInfo");
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_EDCH_Information_r9_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.ganssID3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ganssID3", -1, "UE-Positioning-GANSS-AuxiliaryInfo");
+         stat = asn1PE_UMTS_AuxInfoGANSS_ID3(ctx, pvalue->u.ganssID3);
+         RT_CHECK(ctx, stat, 0, "ganssID3", -1, "UE-Positioning-GANSS-AuxiliaryInfo");
          break;
       default:
          break;
@@ -6058,2551 +5200,1199 @@ int asn1PE_UMTS_UL_EDCH_Information_r9_modeSpecificInfo(rtxContext* ctx, const U
    return 0;
 }
 
-int asn1PE_UMTS_UL_EDCH_Information_r9(rtxContext* ctx, const UL_EDCH_Information_r9* pvalue)
+int asn1PE_UMTS_GANSSGenericData_v860ext(rtxContext* RT_RESTRICT ctx, const GANSSGenericData_v860ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-EDCH-Information-r9");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSGenericData-v860ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "GANSSGenericData-v860ext");
+   /* uePositiningGANSSsbasID */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->uePositiningGANSSsbasID > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->uePositiningGANSSsbasID);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "UE-Positioning-GANSS-SBAS-ID", "uePositiningGANSSsbasID", -1, "GANSSGenericData-v860ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->uePositiningGANSSsbasID, 0, 7);
+      RT_CHECK(ctx, stat, "UE-Positioning-GANSS-SBAS-ID", "uePositiningGANSSsbasID", -1, "GANSSGenericData-v860ext");
+   }
+   /* uePositioningGANSSAddNavigationModels */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_AddNavigationModels(ctx, &pvalue->uePositioningGANSSAddNavigationModels);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAddNavigationModels", -1, "GANSSGenericData-v860ext");
+   }
+   /* uePositioningGANSSAlmanac */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_Almanac_v860ext(ctx, &pvalue->uePositioningGANSSAlmanac);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAlmanac", -1, "GANSSGenericData-v860ext");
+   }
+   /* uePositioningGANSSAddUTCModels */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_AddUTCModels(ctx, &pvalue->uePositioningGANSSAddUTCModels);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAddUTCModels", -1, "GANSSGenericData-v860ext");
+   }
+   /* uePositioningGANSSAuxiliaryInfo */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_AuxiliaryInfo(ctx, &pvalue->uePositioningGANSSAuxiliaryInfo);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAuxiliaryInfo", -1, "GANSSGenericData-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_Almanac_r8(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_Almanac_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-Almanac-r8");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-Almanac-r8");
+   /* ganss-wk-number */
+   stat = pe_ConsUInt64(ctx, pvalue->ganss_wk_number, 0, 255);
+   RT_CHECK(ctx, stat, 0, "ganss-wk-number", -1, "UE-Positioning-GANSS-Almanac-r8");
+   /* alm-keplerianParameters */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ALM_keplerianParameters(ctx, &pvalue->alm_keplerianParameters);
+      RT_CHECK(ctx, stat, 0, "alm-keplerianParameters", -1, "UE-Positioning-GANSS-Almanac-r8");
+   }
+   /* alm-keplerianNAVAlmanac */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_ALM_NAVKeplerianSet(ctx, &pvalue->alm_keplerianNAVAlmanac);
+      RT_CHECK(ctx, stat, 0, "alm-keplerianNAVAlmanac", -1, "UE-Positioning-GANSS-Almanac-r8");
+   }
+   /* alm-keplerianReducedAlmanac */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_ALM_ReducedKeplerianSet(ctx, &pvalue->alm_keplerianReducedAlmanac);
+      RT_CHECK(ctx, stat, 0, "alm-keplerianReducedAlmanac", -1, "UE-Positioning-GANSS-Almanac-r8");
+   }
+   /* alm-keplerianMidiAlmanac */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_ALM_MidiAlmanacSet(ctx, &pvalue->alm_keplerianMidiAlmanac);
+      RT_CHECK(ctx, stat, 0, "alm-keplerianMidiAlmanac", -1, "UE-Positioning-GANSS-Almanac-r8");
+   }
+   /* alm-keplerianGLONASS */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_ALM_GlonassAlmanacSet(ctx, &pvalue->alm_keplerianGLONASS);
+      RT_CHECK(ctx, stat, 0, "alm-keplerianGLONASS", -1, "UE-Positioning-GANSS-Almanac-r8");
+   }
+   /* alm-ecefSBASAlmanac */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_ALM_ECEFsbasAlmanacSet(ctx, &pvalue->alm_ecefSBASAlmanac);
+      RT_CHECK(ctx, stat, 0, "alm-ecefSBASAlmanac", -1, "UE-Positioning-GANSS-Almanac-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSGenericData_r8(rtxContext* RT_RESTRICT ctx, const GANSSGenericData_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSGenericData-r8");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 0), 13);
+   RT_CHECK(ctx, stat, 0, 0, -1, "GANSSGenericData-r8");
+   /* ganssId */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->ganssId > 7u) {
+         rtxErrAddStrParm(ctx, "ganssId");
+         rtxErrAddUIntParm(ctx, pvalue->ganssId);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssId", -1, "GANSSGenericData-r8");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ganssId, 0, 7);
+      RT_CHECK(ctx, stat, 0, "ganssId", -1, "GANSSGenericData-r8");
+   }
+   /* uePositiningGANSSsbasID */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->uePositiningGANSSsbasID > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->uePositiningGANSSsbasID);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "UE-Positioning-GANSS-SBAS-ID", "uePositiningGANSSsbasID", -1, "GANSSGenericData-r8");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->uePositiningGANSSsbasID, 0, 7);
+      RT_CHECK(ctx, stat, "UE-Positioning-GANSS-SBAS-ID", "uePositiningGANSSsbasID", -1, "GANSSGenericData-r8");
+   }
+   /* ganssTimeModelsList */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_GANSSTimeModelsList(ctx, &pvalue->ganssTimeModelsList);
+      RT_CHECK(ctx, stat, 0, "ganssTimeModelsList", -1, "GANSSGenericData-r8");
+   }
+   /* uePositioningDGANSSCorrections */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_UE_Positioning_DGANSSCorrections(ctx, &pvalue->uePositioningDGANSSCorrections);
+      RT_CHECK(ctx, stat, 0, "uePositioningDGANSSCorrections", -1, "GANSSGenericData-r8");
+   }
+   /* uePositioningGANSSNavigationModel */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_NavigationModel(ctx, &pvalue->uePositioningGANSSNavigationModel);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSNavigationModel", -1, "GANSSGenericData-r8");
+   }
+   /* uePositioningGANSSAddNavigationModels */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_AddNavigationModels(ctx, &pvalue->uePositioningGANSSAddNavigationModels);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAddNavigationModels", -1, "GANSSGenericData-r8");
+   }
+   /* uePositioningGANSSRealTimeIntegrity */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_RealTimeIntegrity(ctx, &pvalue->uePositioningGANSSRealTimeIntegrity);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSRealTimeIntegrity", -1, "GANSSGenericData-r8");
+   }
+   /* uePositioningGANSSDataBitAssistance */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_Data_Bit_Assistance(ctx, &pvalue->uePositioningGANSSDataBitAssistance);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSDataBitAssistance", -1, "GANSSGenericData-r8");
+   }
+   /* uePositioningGANSSReferenceMeasurementInfo */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceMeasurementInfo(ctx, &pvalue->uePositioningGANSSReferenceMeasurementInfo);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSReferenceMeasurementInfo", -1, "GANSSGenericData-r8");
+   }
+   /* uePositioningGANSSAlmanac */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_Almanac_r8(ctx, &pvalue->uePositioningGANSSAlmanac);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAlmanac", -1, "GANSSGenericData-r8");
+   }
+   /* uePositioningGANSSUTCModel */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_UTCModel(ctx, &pvalue->uePositioningGANSSUTCModel);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSUTCModel", -1, "GANSSGenericData-r8");
+   }
+   /* uePositioningGANSSAddUTCModels */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_AddUTCModels(ctx, &pvalue->uePositioningGANSSAddUTCModels);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAddUTCModels", -1, "GANSSGenericData-r8");
+   }
+   /* uePositioningGANSSAuxiliaryInfo */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_AuxiliaryInfo(ctx, &pvalue->uePositioningGANSSAuxiliaryInfo);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAuxiliaryInfo", -1, "GANSSGenericData-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_DGANSSCorrections_r9(rtxContext* RT_RESTRICT ctx, const UE_Positioning_DGANSSCorrections_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-DGANSSCorrections-r9");
+   /* dganssreferencetime */
+   if ((uint64_t)pvalue->dganssreferencetime > 119u) {
+      rtxErrAddStrParm(ctx, "dganssreferencetime");
+      rtxErrAddUIntParm(ctx, pvalue->dganssreferencetime);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "dganssreferencetime", -1, "UE-Positioning-DGANSSCorrections-r9");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->dganssreferencetime, 0, 119);
+   RT_CHECK(ctx, stat, 0, "dganssreferencetime", -1, "UE-Positioning-DGANSSCorrections-r9");
+   /* dganssInfoList */
+   stat = asn1PE_UMTS_DGANSSInfoList_r9(ctx, &pvalue->dganssInfoList);
+   RT_CHECK(ctx, stat, 0, "dganssInfoList", -1, "UE-Positioning-DGANSSCorrections-r9");
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSGenericData_r9(rtxContext* RT_RESTRICT ctx, const GANSSGenericData_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSGenericData-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 0), 13);
+   RT_CHECK(ctx, stat, 0, 0, -1, "GANSSGenericData-r9");
+   /* ganssId */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->ganssId > 7u) {
+         rtxErrAddStrParm(ctx, "ganssId");
+         rtxErrAddUIntParm(ctx, pvalue->ganssId);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssId", -1, "GANSSGenericData-r9");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ganssId, 0, 7);
+      RT_CHECK(ctx, stat, 0, "ganssId", -1, "GANSSGenericData-r9");
+   }
+   /* uePositiningGANSSsbasID */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->uePositiningGANSSsbasID > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->uePositiningGANSSsbasID);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "UE-Positioning-GANSS-SBAS-ID", "uePositiningGANSSsbasID", -1, "GANSSGenericData-r9");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->uePositiningGANSSsbasID, 0, 7);
+      RT_CHECK(ctx, stat, "UE-Positioning-GANSS-SBAS-ID", "uePositiningGANSSsbasID", -1, "GANSSGenericData-r9");
+   }
+   /* ganssTimeModelsList */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_GANSSTimeModelsList(ctx, &pvalue->ganssTimeModelsList);
+      RT_CHECK(ctx, stat, 0, "ganssTimeModelsList", -1, "GANSSGenericData-r9");
+   }
+   /* uePositioningDGANSSCorrections */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_UE_Positioning_DGANSSCorrections_r9(ctx, &pvalue->uePositioningDGANSSCorrections);
+      RT_CHECK(ctx, stat, 0, "uePositioningDGANSSCorrections", -1, "GANSSGenericData-r9");
+   }
+   /* uePositioningGANSSNavigationModel */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_NavigationModel(ctx, &pvalue->uePositioningGANSSNavigationModel);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSNavigationModel", -1, "GANSSGenericData-r9");
+   }
+   /* uePositioningGANSSAddNavigationModels */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_AddNavigationModels(ctx, &pvalue->uePositioningGANSSAddNavigationModels);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAddNavigationModels", -1, "GANSSGenericData-r9");
+   }
+   /* uePositioningGANSSRealTimeIntegrity */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_RealTimeIntegrity(ctx, &pvalue->uePositioningGANSSRealTimeIntegrity);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSRealTimeIntegrity", -1, "GANSSGenericData-r9");
+   }
+   /* uePositioningGANSSDataBitAssistance */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_Data_Bit_Assistance(ctx, &pvalue->uePositioningGANSSDataBitAssistance);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSDataBitAssistance", -1, "GANSSGenericData-r9");
+   }
+   /* uePositioningGANSSReferenceMeasurementInfo */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceMeasurementInfo(ctx, &pvalue->uePositioningGANSSReferenceMeasurementInfo);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSReferenceMeasurementInfo", -1, "GANSSGenericData-r9");
+   }
+   /* uePositioningGANSSAlmanac */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_Almanac_r8(ctx, &pvalue->uePositioningGANSSAlmanac);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAlmanac", -1, "GANSSGenericData-r9");
+   }
+   /* uePositioningGANSSUTCModel */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_UTCModel(ctx, &pvalue->uePositioningGANSSUTCModel);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSUTCModel", -1, "GANSSGenericData-r9");
+   }
+   /* uePositioningGANSSAddUTCModels */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_AddUTCModels(ctx, &pvalue->uePositioningGANSSAddUTCModels);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAddUTCModels", -1, "GANSSGenericData-r9");
+   }
+   /* uePositioningGANSSAuxiliaryInfo */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_AuxiliaryInfo(ctx, &pvalue->uePositioningGANSSAuxiliaryInfo);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAuxiliaryInfo", -1, "GANSSGenericData-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_DGANSSCorrections_v920ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_DGANSSCorrections_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-DGANSSCorrections-v920ext");
+   /* dganssInfoList */
+   stat = asn1PE_UMTS_DGANSSInfoList_v920ext(ctx, &pvalue->dganssInfoList);
+   RT_CHECK(ctx, stat, 0, "dganssInfoList", -1, "UE-Positioning-DGANSSCorrections-v920ext");
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSGenericData_v920ext(rtxContext* RT_RESTRICT ctx, const GANSSGenericData_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSGenericData-v920ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* mac-es-e-resetIndicator */
+   RT_CHECK(ctx, stat, 0, 0, -1, "GANSSGenericData-v920ext");
+   /* uePositioningDGANSSCorrections */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "mac-es-e-resetIndicator");
-      if (pvalue->mac_es_e_resetIndicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->mac_es_e_resetIndicator);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mac_es_e_resetIndicator, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_UL_EDCH_Information_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DLUL_HSPA_Information_r9(rtxContext* ctx, const DLUL_HSPA_Information_r9* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DLUL-HSPA-Information-r9");
-   /* ul-EDCH-Information */
-   rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
-   stat = asn1PE_UMTS_UL_EDCH_Information_r9(ctx, &pvalue->ul_EDCH_Information);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonInformation */
-   rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-   stat = asn1PE_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL-List */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-   stat = asn1PE_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-HSPDSCH-Information */
-   rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-   stat = asn1PE_UMTS_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_HSPDSCH_Information);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DPCCH_PowerOffset2(rtxContext* ctx, DPCCH_PowerOffset2 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DPCCH-PowerOffset2");
-   if (value < -28 || value > -13) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, value, -28, -13);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TGPS_Reconfiguration_CFN(rtxContext* ctx, TGPS_Reconfiguration_CFN value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TGPS-Reconfiguration-CFN");
-   stat = pe_ConsUInt64(ctx, value, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TGP_SequenceShort_tgps_Status_activate(rtxContext* ctx, const TGP_SequenceShort_tgps_Status_activate* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* tgcfn */
-   rtxCtxtPushElemName(ctx, "tgcfn");
-   rtxCtxtPushTypeName(ctx, "TGCFN");
-   stat = pe_ConsUInt64(ctx, pvalue->tgcfn, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TGP_SequenceShort_tgps_Status(rtxContext* ctx, const TGP_SequenceShort_tgps_Status* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "activate");
-         if (pvalue->u.activate == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TGP_SequenceShort_tgps_Status_activate(ctx, pvalue->u.activate);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "deactivate");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
+      stat = asn1PE_UMTS_UE_Positioning_DGANSSCorrections_v920ext(ctx, &pvalue->uePositioningDGANSSCorrections);
+      RT_CHECK(ctx, stat, 0, "uePositioningDGANSSCorrections", -1, "GANSSGenericData-v920ext");
    }
    return 0;
 }
 
-int asn1PE_UMTS_TGP_SequenceShort(rtxContext* ctx, const TGP_SequenceShort* pvalue)
+int asn1PE_UMTS_GANSSGenericDataList(rtxContext* RT_RESTRICT ctx, const GANSSGenericDataList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TGP-SequenceShort");
-   /* tgpsi */
-   rtxCtxtPushElemName(ctx, "tgpsi");
-   rtxCtxtPushTypeName(ctx, "TGPSI");
-   if ((uint64_t)(pvalue->tgpsi - 1) > 5u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->tgpsi);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tgpsi, 1, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* tgps-Status */
-   rtxCtxtPushElemName(ctx, "tgps-Status");
-   stat = asn1PE_UMTS_TGP_SequenceShort_tgps_Status(ctx, &pvalue->tgps_Status);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DPCH_CompressedModeStatusInfo_tgp_SequenceShortList(rtxContext* ctx, const DPCH_CompressedModeStatusInfo_tgp_SequenceShortList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSGenericDataList");
    const rtxDListNode* node;
    uint32_t i;
-   RT_SET_SIZE(ctx, 1, 6);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "TGP-SequenceShort", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_TGP_SequenceShort(ctx, (const TGP_SequenceShort*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DPCH_CompressedModeStatusInfo(rtxContext* ctx, const DPCH_CompressedModeStatusInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DPCH-CompressedModeStatusInfo");
-   /* tgps-Reconfiguration-CFN */
-   rtxCtxtPushElemName(ctx, "tgps-Reconfiguration-CFN");
-   rtxCtxtPushTypeName(ctx, "TGPS-Reconfiguration-CFN");
-   stat = pe_ConsUInt64(ctx, pvalue->tgps_Reconfiguration_CFN, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* tgp-SequenceShortList */
-   rtxCtxtPushElemName(ctx, "tgp-SequenceShortList");
-   stat = asn1PE_UMTS_DPCH_CompressedModeStatusInfo_tgp_SequenceShortList(ctx, &pvalue->tgp_SequenceShortList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_DRX_Cycle_InactivityThreshold(rtxContext* ctx, UE_DRX_Cycle_InactivityThreshold value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-DRX-Cycle-InactivityThreshold");
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_DRX_Cycle(rtxContext* ctx, UE_DRX_Cycle value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-DRX-Cycle");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_GrantMonitoring_InactivityThreshold(rtxContext* ctx, UE_GrantMonitoring_InactivityThreshold value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-GrantMonitoring-InactivityThreshold");
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DRX_Info(rtxContext* ctx, const DRX_Info* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DRX-Info");
-   /* ue-drx-Cycle */
-   rtxCtxtPushElemName(ctx, "ue-drx-Cycle");
-   rtxCtxtPushTypeName(ctx, "UE-DRX-Cycle");
-   if (pvalue->ue_drx_Cycle > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->ue_drx_Cycle);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_drx_Cycle, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ue-drx-Cycle-InactivityThreshold */
-   rtxCtxtPushElemName(ctx, "ue-drx-Cycle-InactivityThreshold");
-   rtxCtxtPushTypeName(ctx, "UE-DRX-Cycle-InactivityThreshold");
-   if (pvalue->ue_drx_Cycle_InactivityThreshold > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->ue_drx_Cycle_InactivityThreshold);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_drx_Cycle_InactivityThreshold, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ue-GrantMonitoring-InactivityThreshold */
-   rtxCtxtPushElemName(ctx, "ue-GrantMonitoring-InactivityThreshold");
-   rtxCtxtPushTypeName(ctx, "UE-GrantMonitoring-InactivityThreshold");
-   if (pvalue->ue_GrantMonitoring_InactivityThreshold > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->ue_GrantMonitoring_InactivityThreshold);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_GrantMonitoring_InactivityThreshold, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ue-drx-GrantMonitoring */
-   rtxCtxtPushElemName(ctx, "ue-drx-GrantMonitoring");
-   stat = rtxEncBit(ctx, pvalue->ue_drx_GrantMonitoring);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_DTX_Cycle1_10ms(rtxContext* ctx, UE_DTX_Cycle1_10ms value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-DTX-Cycle1-10ms");
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_DTX_Cycle2_10ms(rtxContext* ctx, UE_DTX_Cycle2_10ms value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-DTX-Cycle2-10ms");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MAC_DTX_Cycle_10ms(rtxContext* ctx, MAC_DTX_Cycle_10ms value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MAC-DTX-Cycle-10ms");
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DTX_E_DCH_TTI_10ms(rtxContext* ctx, const DTX_E_DCH_TTI_10ms* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DTX-E-DCH-TTI-10ms");
-   /* ue-dtx-Cycle1-10ms */
-   rtxCtxtPushElemName(ctx, "ue-dtx-Cycle1-10ms");
-   rtxCtxtPushTypeName(ctx, "UE-DTX-Cycle1-10ms");
-   if (pvalue->ue_dtx_Cycle1_10ms > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->ue_dtx_Cycle1_10ms);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_dtx_Cycle1_10ms, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ue-dtx-Cycle2-10ms */
-   rtxCtxtPushElemName(ctx, "ue-dtx-Cycle2-10ms");
-   rtxCtxtPushTypeName(ctx, "UE-DTX-Cycle2-10ms");
-   if (pvalue->ue_dtx_Cycle2_10ms > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->ue_dtx_Cycle2_10ms);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_dtx_Cycle2_10ms, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* mac-dtx-Cycle-10ms */
-   rtxCtxtPushElemName(ctx, "mac-dtx-Cycle-10ms");
-   rtxCtxtPushTypeName(ctx, "MAC-DTX-Cycle-10ms");
-   if (pvalue->mac_dtx_Cycle_10ms > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->mac_dtx_Cycle_10ms);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mac_dtx_Cycle_10ms, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_DTX_Cycle1_2ms(rtxContext* ctx, UE_DTX_Cycle1_2ms value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-DTX-Cycle1-2ms");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_DTX_Cycle2_2ms(rtxContext* ctx, UE_DTX_Cycle2_2ms value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-DTX-Cycle2-2ms");
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MAC_DTX_Cycle_2ms(rtxContext* ctx, MAC_DTX_Cycle_2ms value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MAC-DTX-Cycle-2ms");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DTX_E_DCH_TTI_2ms(rtxContext* ctx, const DTX_E_DCH_TTI_2ms* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DTX-E-DCH-TTI-2ms");
-   /* ue-dtx-Cycle1-2ms */
-   rtxCtxtPushElemName(ctx, "ue-dtx-Cycle1-2ms");
-   rtxCtxtPushTypeName(ctx, "UE-DTX-Cycle1-2ms");
-   if (pvalue->ue_dtx_Cycle1_2ms > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->ue_dtx_Cycle1_2ms);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_dtx_Cycle1_2ms, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ue-dtx-Cycle2-2ms */
-   rtxCtxtPushElemName(ctx, "ue-dtx-Cycle2-2ms");
-   rtxCtxtPushTypeName(ctx, "UE-DTX-Cycle2-2ms");
-   if (pvalue->ue_dtx_Cycle2_2ms > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->ue_dtx_Cycle2_2ms);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_dtx_Cycle2_2ms, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* mac-dtx-Cycle-2ms */
-   rtxCtxtPushElemName(ctx, "mac-dtx-Cycle-2ms");
-   rtxCtxtPushTypeName(ctx, "MAC-DTX-Cycle-2ms");
-   if (pvalue->mac_dtx_Cycle_2ms > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->mac_dtx_Cycle_2ms);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mac_dtx_Cycle_2ms, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DTX_Info_e_dch_TTI_Length(rtxContext* ctx, const DTX_Info_e_dch_TTI_Length* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "dtx-e-dch-TTI-10ms");
-         if (pvalue->u.dtx_e_dch_TTI_10ms == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DTX_E_DCH_TTI_10ms(ctx, pvalue->u.dtx_e_dch_TTI_10ms);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "dtx-e-dch-TTI-2ms");
-         if (pvalue->u.dtx_e_dch_TTI_2ms == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DTX_E_DCH_TTI_2ms(ctx, pvalue->u.dtx_e_dch_TTI_2ms);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_DTX_Cycle2InactivityThreshold(rtxContext* ctx, UE_DTX_Cycle2InactivityThreshold value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-DTX-Cycle2InactivityThreshold");
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_DTX_long_preamble_length(rtxContext* ctx, UE_DTX_long_preamble_length value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-DTX-long-preamble-length");
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MAC_InactivityThreshold(rtxContext* ctx, MAC_InactivityThreshold value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MAC-InactivityThreshold");
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_DPCCH_Burst(rtxContext* ctx, UE_DPCCH_Burst value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-DPCCH-Burst");
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DTX_Info(rtxContext* ctx, const DTX_Info* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DTX-Info");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* e-dch-TTI-Length */
-   rtxCtxtPushElemName(ctx, "e-dch-TTI-Length");
-   stat = asn1PE_UMTS_DTX_Info_e_dch_TTI_Length(ctx, &pvalue->e_dch_TTI_Length);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-dtx-cycle2InactivityThreshold */
-   rtxCtxtPushElemName(ctx, "ue-dtx-cycle2InactivityThreshold");
-   rtxCtxtPushTypeName(ctx, "UE-DTX-Cycle2InactivityThreshold");
-   if (pvalue->ue_dtx_cycle2InactivityThreshold > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->ue_dtx_cycle2InactivityThreshold);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_dtx_cycle2InactivityThreshold, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ue-dtx-cycle2DefaultSG */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-dtx-cycle2DefaultSG");
-      if ((uint64_t)pvalue->ue_dtx_cycle2DefaultSG > 38u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->ue_dtx_cycle2DefaultSG);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ue_dtx_cycle2DefaultSG, 0, 38);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-dtx-long-preamble-length */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-dtx-long-preamble-length");
-      rtxCtxtPushTypeName(ctx, "UE-DTX-long-preamble-length");
-      if (pvalue->ue_dtx_long_preamble_length > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->ue_dtx_long_preamble_length);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ue_dtx_long_preamble_length, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mac-InactivityThreshold */
-   rtxCtxtPushElemName(ctx, "mac-InactivityThreshold");
-   rtxCtxtPushTypeName(ctx, "MAC-InactivityThreshold");
-   if (pvalue->mac_InactivityThreshold > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->mac_InactivityThreshold);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mac_InactivityThreshold, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* cqi-dtx-Timer */
-   rtxCtxtPushElemName(ctx, "cqi-dtx-Timer");
-   rtxCtxtPushTypeName(ctx, "CQI-DTX-Timer");
-   if (pvalue->cqi_dtx_Timer > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->cqi_dtx_Timer);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cqi_dtx_Timer, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ue-dpcch-Burst1 */
-   rtxCtxtPushElemName(ctx, "ue-dpcch-Burst1");
-   rtxCtxtPushTypeName(ctx, "UE-DPCCH-Burst");
-   if (pvalue->ue_dpcch_Burst1 > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->ue_dpcch_Burst1);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_dpcch_Burst1, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ue-dpcch-Burst2 */
-   rtxCtxtPushElemName(ctx, "ue-dpcch-Burst2");
-   rtxCtxtPushTypeName(ctx, "UE-DPCCH-Burst");
-   if (pvalue->ue_dpcch_Burst2 > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->ue_dpcch_Burst2);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_dpcch_Burst2, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Uplink_DPCCH_Slot_Format_Information(rtxContext* ctx, Uplink_DPCCH_Slot_Format_Information value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Uplink-DPCCH-Slot-Format-Information");
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DTX_DRX_Info_r7(rtxContext* ctx, const DTX_DRX_Info_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DTX-DRX-Info-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* dtx-Info */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dtx-Info");
-      stat = asn1PE_UMTS_DTX_Info(ctx, &pvalue->dtx_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* drx-Info */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "drx-Info");
-      stat = asn1PE_UMTS_DRX_Info(ctx, &pvalue->drx_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uplink-DPCCHSlotFormatInformation */
-   rtxCtxtPushElemName(ctx, "uplink-DPCCHSlotFormatInformation");
-   rtxCtxtPushTypeName(ctx, "Uplink-DPCCH-Slot-Format-Information");
-   if (pvalue->uplink_DPCCHSlotFormatInformation > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->uplink_DPCCHSlotFormatInformation);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->uplink_DPCCHSlotFormatInformation, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_RL_InfoNewServingCell_servingGrant_primary_Secondary_GrantSelector(rtxContext* ctx, E_DCH_RL_InfoNewServingCell_servingGrant_primary_Secondary_GrantSelector value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_RL_InfoNewServingCell_servingGrant(rtxContext* ctx, const E_DCH_RL_InfoNewServingCell_servingGrant* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* value */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "value");
-      if ((uint64_t)pvalue->value > 38u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->value);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->value, 0, 38);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* primary-Secondary-GrantSelector */
-   rtxCtxtPushElemName(ctx, "primary-Secondary-GrantSelector");
-   if (pvalue->primary_Secondary_GrantSelector > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->primary_Secondary_GrantSelector);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->primary_Secondary_GrantSelector, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DPDCH_Reference_E_TFCI(rtxContext* ctx, const E_DPDCH_Reference_E_TFCI* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-DPDCH-Reference-E-TFCI");
-   /* reference-E-TFCI */
-   rtxCtxtPushElemName(ctx, "reference-E-TFCI");
-   if ((uint64_t)pvalue->reference_E_TFCI > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->reference_E_TFCI);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reference_E_TFCI, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* reference-E-TFCI-PO */
-   rtxCtxtPushElemName(ctx, "reference-E-TFCI-PO");
-   if ((uint64_t)pvalue->reference_E_TFCI_PO > 29u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->reference_E_TFCI_PO);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reference_E_TFCI_PO, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DPDCH_Reference_E_TFCIList(rtxContext* ctx, const E_DPDCH_Reference_E_TFCIList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "E-DPDCH-Reference-E-TFCIList");
    RT_SET_SIZE(ctx, 1, 8);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GANSSGenericDataList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "E-DPDCH-Reference-E-TFCI", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_E_DPDCH_Reference_E_TFCI(ctx, (const E_DPDCH_Reference_E_TFCI*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_RL_InfoNewServingCell_e_RGCH_Info(rtxContext* ctx, const E_DCH_RL_InfoNewServingCell_e_RGCH_Info* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "e-RGCH-Information");
-         if (pvalue->u.e_RGCH_Information == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "releaseIndicator");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GANSSGenericData", (int32_t)i, "GANSSGenericDataList");
+      stat = asn1PE_UMTS_GANSSGenericData(ctx, (const GANSSGenericData*)node->data);
+      RT_CHECK(ctx, stat, 0, "GANSSGenericData", (int32_t)i, "GANSSGenericDataList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_E_DCH_RL_InfoNewServingCell(rtxContext* ctx, const E_DCH_RL_InfoNewServingCell* pvalue)
+int asn1PE_UMTS_GANSSGenericDataList_v860ext(rtxContext* RT_RESTRICT ctx, const GANSSGenericDataList_v860ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-DCH-RL-InfoNewServingCell");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 0), 8);
-   RT_CHECK(ctx, stat);
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-AGCH-Information */
-   rtxCtxtPushElemName(ctx, "e-AGCH-Information");
-   stat = asn1PE_UMTS_E_AGCH_Information(ctx, &pvalue->e_AGCH_Information);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* servingGrant */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "servingGrant");
-      stat = asn1PE_UMTS_E_DCH_RL_InfoNewServingCell_servingGrant(ctx, &pvalue->servingGrant);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-DPCCH-DPCCH-PowerOffset */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "e-DPCCH-DPCCH-PowerOffset");
-      rtxCtxtPushTypeName(ctx, "E-DPCCH-DPCCH-PowerOffset");
-      if ((uint64_t)pvalue->e_DPCCH_DPCCH_PowerOffset > 8u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->e_DPCCH_DPCCH_PowerOffset);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->e_DPCCH_DPCCH_PowerOffset, 0, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reference-E-TFCIs */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "reference-E-TFCIs");
-      stat = asn1PE_UMTS_E_DPDCH_Reference_E_TFCIList(ctx, &pvalue->reference_E_TFCIs);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* powerOffsetForSchedInfo */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "powerOffsetForSchedInfo");
-      if ((uint64_t)pvalue->powerOffsetForSchedInfo > 6u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->powerOffsetForSchedInfo);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->powerOffsetForSchedInfo, 0, 6);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* threeIndexStepThreshold */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "threeIndexStepThreshold");
-      if ((uint64_t)pvalue->threeIndexStepThreshold > 37u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->threeIndexStepThreshold);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->threeIndexStepThreshold, 0, 37);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* twoIndexStepThreshold */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "twoIndexStepThreshold");
-      if ((uint64_t)pvalue->twoIndexStepThreshold > 37u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->twoIndexStepThreshold);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->twoIndexStepThreshold, 0, 37);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-HICH-Information */
-   if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "e-HICH-Information");
-      stat = asn1PE_UMTS_E_HICH_Information(ctx, &pvalue->e_HICH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-RGCH-Info */
-   if (pvalue->m & 0x80u) {
-      rtxCtxtPushElemName(ctx, "e-RGCH-Info");
-      stat = asn1PE_UMTS_E_DCH_RL_InfoNewServingCell_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_RL_InfoOtherCell_e_HICH_Info(rtxContext* ctx, const E_DCH_RL_InfoOtherCell_e_HICH_Info* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "e-HICH-Information");
-         if (pvalue->u.e_HICH_Information == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_E_HICH_Information(ctx, pvalue->u.e_HICH_Information);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "releaseIndicator");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_RL_InfoOtherCell_e_RGCH_Info(rtxContext* ctx, const E_DCH_RL_InfoOtherCell_e_RGCH_Info* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "e-RGCH-Information");
-         if (pvalue->u.e_RGCH_Information == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "releaseIndicator");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_RL_InfoOtherCell(rtxContext* ctx, const E_DCH_RL_InfoOtherCell* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-DCH-RL-InfoOtherCell");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-HICH-Info */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "e-HICH-Info");
-      stat = asn1PE_UMTS_E_DCH_RL_InfoOtherCell_e_HICH_Info(ctx, &pvalue->e_HICH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-RGCH-Info */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "e-RGCH-Info");
-      stat = asn1PE_UMTS_E_DCH_RL_InfoOtherCell_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_ReconfigurationInfo_e_DCH_RL_InfoOtherCellList(rtxContext* ctx, const E_DCH_ReconfigurationInfo_e_DCH_RL_InfoOtherCellList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSGenericDataList-v860ext");
    const rtxDListNode* node;
    uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
+   RT_SET_SIZE(ctx, 1, 8);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GANSSGenericDataList-v860ext");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "E-DCH-RL-InfoOtherCell", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_E_DCH_RL_InfoOtherCell(ctx, (const E_DCH_RL_InfoOtherCell*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GANSSGenericData-v860ext", (int32_t)i, "GANSSGenericDataList-v860ext");
+      stat = asn1PE_UMTS_GANSSGenericData_v860ext(ctx, (const GANSSGenericData_v860ext*)node->data);
+      RT_CHECK(ctx, stat, 0, "GANSSGenericData-v860ext", (int32_t)i, "GANSSGenericDataList-v860ext");
    }
    return 0;
 }
 
-int asn1PE_UMTS_E_DCH_ReconfigurationInfo(rtxContext* ctx, const E_DCH_ReconfigurationInfo* pvalue)
+int asn1PE_UMTS_GANSSGenericDataList_r8(rtxContext* RT_RESTRICT ctx, const GANSSGenericDataList_r8* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-DCH-ReconfigurationInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* e-DCH-RL-InfoNewServingCell */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "e-DCH-RL-InfoNewServingCell");
-      stat = asn1PE_UMTS_E_DCH_RL_InfoNewServingCell(ctx, &pvalue->e_DCH_RL_InfoNewServingCell);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSGenericDataList-r8");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GANSSGenericDataList-r8");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GANSSGenericData-r8", (int32_t)i, "GANSSGenericDataList-r8");
+      stat = asn1PE_UMTS_GANSSGenericData_r8(ctx, (const GANSSGenericData_r8*)node->data);
+      RT_CHECK(ctx, stat, 0, "GANSSGenericData-r8", (int32_t)i, "GANSSGenericDataList-r8");
    }
-   /* e-DCH-RL-InfoOtherCellList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "e-DCH-RL-InfoOtherCellList");
-      stat = asn1PE_UMTS_E_DCH_ReconfigurationInfo_e_DCH_RL_InfoOtherCellList(ctx, &pvalue->e_DCH_RL_InfoOtherCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_E_DCH_RL_InfoNewServingCell_r7_servingGrant_primary_Secondary_GrantSelector(rtxContext* ctx, E_DCH_RL_InfoNewServingCell_r7_servingGrant_primary_Secondary_GrantSelector value)
+int asn1PE_UMTS_GANSSGenericDataList_r9(rtxContext* RT_RESTRICT ctx, const GANSSGenericDataList_r9* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSGenericDataList-r9");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GANSSGenericDataList-r9");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GANSSGenericData-r9", (int32_t)i, "GANSSGenericDataList-r9");
+      stat = asn1PE_UMTS_GANSSGenericData_r9(ctx, (const GANSSGenericData_r9*)node->data);
+      RT_CHECK(ctx, stat, 0, "GANSSGenericData-r9", (int32_t)i, "GANSSGenericDataList-r9");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
    return 0;
 }
 
-int asn1PE_UMTS_E_DCH_RL_InfoNewServingCell_r7_servingGrant(rtxContext* ctx, const E_DCH_RL_InfoNewServingCell_r7_servingGrant* pvalue)
+int asn1PE_UMTS_GANSSGenericDataList_v920ext(rtxContext* RT_RESTRICT ctx, const GANSSGenericDataList_v920ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSGenericDataList-v920ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GANSSGenericDataList-v920ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GANSSGenericData-v920ext", (int32_t)i, "GANSSGenericDataList-v920ext");
+      stat = asn1PE_UMTS_GANSSGenericData_v920ext(ctx, (const GANSSGenericData_v920ext*)node->data);
+      RT_CHECK(ctx, stat, 0, "GANSSGenericData-v920ext", (int32_t)i, "GANSSGenericDataList-v920ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SatellitesListRelatedData(rtxContext* RT_RESTRICT ctx, const SatellitesListRelatedData* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SatellitesListRelatedData");
+   /* satId */
+   if ((uint64_t)pvalue->satId > 63u) {
+      rtxErrAddStrParm(ctx, "satId");
+      rtxErrAddUIntParm(ctx, pvalue->satId);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "satId", -1, "SatellitesListRelatedData");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->satId, 0, 63);
+   RT_CHECK(ctx, stat, 0, "satId", -1, "SatellitesListRelatedData");
+   /* iod */
+   if ((uint64_t)pvalue->iod > 1023u) {
+      rtxErrAddStrParm(ctx, "iod");
+      rtxErrAddUIntParm(ctx, pvalue->iod);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "iod", -1, "SatellitesListRelatedData");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->iod, 0, 1023);
+   RT_CHECK(ctx, stat, 0, "iod", -1, "SatellitesListRelatedData");
+   return 0;
+}
+
+int asn1PE_UMTS_SatellitesListRelatedDataList(rtxContext* RT_RESTRICT ctx, const SatellitesListRelatedDataList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SatellitesListRelatedDataList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SatellitesListRelatedDataList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "SatellitesListRelatedData", (int32_t)i, "SatellitesListRelatedDataList");
+      stat = asn1PE_UMTS_SatellitesListRelatedData(ctx, (const SatellitesListRelatedData*)node->data);
+      RT_CHECK(ctx, stat, 0, "SatellitesListRelatedData", (int32_t)i, "SatellitesListRelatedDataList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GanssNavigationModelAdditionalData(rtxContext* RT_RESTRICT ctx, const GanssNavigationModelAdditionalData* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GanssNavigationModelAdditionalData");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* value */
+   RT_CHECK(ctx, stat, 0, 0, -1, "GanssNavigationModelAdditionalData");
+   /* ganssWeek */
+   if ((uint64_t)pvalue->ganssWeek > 4095u) {
+      rtxErrAddStrParm(ctx, "ganssWeek");
+      rtxErrAddUIntParm(ctx, pvalue->ganssWeek);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssWeek", -1, "GanssNavigationModelAdditionalData");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ganssWeek, 0, 4095);
+   RT_CHECK(ctx, stat, 0, "ganssWeek", -1, "GanssNavigationModelAdditionalData");
+   /* ganssToe */
+   if ((uint64_t)pvalue->ganssToe > 167u) {
+      rtxErrAddStrParm(ctx, "ganssToe");
+      rtxErrAddUIntParm(ctx, pvalue->ganssToe);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssToe", -1, "GanssNavigationModelAdditionalData");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ganssToe, 0, 167);
+   RT_CHECK(ctx, stat, 0, "ganssToe", -1, "GanssNavigationModelAdditionalData");
+   /* t-toeLimit */
+   if ((uint64_t)pvalue->t_toeLimit > 10u) {
+      rtxErrAddStrParm(ctx, "t-toeLimit");
+      rtxErrAddUIntParm(ctx, pvalue->t_toeLimit);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "t-toeLimit", -1, "GanssNavigationModelAdditionalData");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->t_toeLimit, 0, 10);
+   RT_CHECK(ctx, stat, 0, "t-toeLimit", -1, "GanssNavigationModelAdditionalData");
+   /* satellitesListRelatedDataList */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "value");
-      if ((uint64_t)pvalue->value > 38u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->value);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->value, 0, 38);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* primary-Secondary-GrantSelector */
-   rtxCtxtPushElemName(ctx, "primary-Secondary-GrantSelector");
-   if (pvalue->primary_Secondary_GrantSelector > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->primary_Secondary_GrantSelector);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->primary_Secondary_GrantSelector, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_RL_InfoNewServingCell_r7_e_RGCH_Info(rtxContext* ctx, const E_DCH_RL_InfoNewServingCell_r7_e_RGCH_Info* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "e-RGCH-Information");
-         if (pvalue->u.e_RGCH_Information == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "releaseIndicator");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
+      stat = asn1PE_UMTS_SatellitesListRelatedDataList(ctx, &pvalue->satellitesListRelatedDataList);
+      RT_CHECK(ctx, stat, 0, "satellitesListRelatedDataList", -1, "GanssNavigationModelAdditionalData");
    }
    return 0;
 }
 
-int asn1PE_UMTS_E_DCH_RL_InfoNewServingCell_r7(rtxContext* ctx, const E_DCH_RL_InfoNewServingCell_r7* pvalue)
+int asn1PE_UMTS_GanssReqGenericData(rtxContext* RT_RESTRICT ctx, const GanssReqGenericData* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-DCH-RL-InfoNewServingCell-r7");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GanssReqGenericData");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 0), 8);
-   RT_CHECK(ctx, stat);
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-AGCH-Information */
-   rtxCtxtPushElemName(ctx, "e-AGCH-Information");
-   stat = asn1PE_UMTS_E_AGCH_Information(ctx, &pvalue->e_AGCH_Information);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* servingGrant */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "GanssReqGenericData");
+   /* ganssId */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "servingGrant");
-      stat = asn1PE_UMTS_E_DCH_RL_InfoNewServingCell_r7_servingGrant(ctx, &pvalue->servingGrant);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-DPCCH-DPCCH-PowerOffset */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "e-DPCCH-DPCCH-PowerOffset");
-      rtxCtxtPushTypeName(ctx, "E-DPCCH-DPCCH-PowerOffset");
-      if ((uint64_t)pvalue->e_DPCCH_DPCCH_PowerOffset > 8u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->e_DPCCH_DPCCH_PowerOffset);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+      if ((uint64_t)pvalue->ganssId > 7u) {
+         rtxErrAddStrParm(ctx, "ganssId");
+         rtxErrAddUIntParm(ctx, pvalue->ganssId);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssId", -1, "GanssReqGenericData");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->e_DPCCH_DPCCH_PowerOffset, 0, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->ganssId, 0, 7);
+      RT_CHECK(ctx, stat, 0, "ganssId", -1, "GanssReqGenericData");
    }
-   /* reference-E-TFCIs */
+   /* ganssRealTimeIntegrity */
+   stat = rtxEncBit(ctx, pvalue->ganssRealTimeIntegrity);
+   RT_CHECK(ctx, stat, 0, "ganssRealTimeIntegrity", -1, "GanssReqGenericData");
+   /* ganssDifferentialCorrection */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_DGANSS_Sig_Id_Req(ctx, pvalue->ganssDifferentialCorrection);
+      RT_CHECK(ctx, stat, 0, "ganssDifferentialCorrection", -1, "GanssReqGenericData");
+   }
+   /* ganssAlmanac */
+   stat = rtxEncBit(ctx, pvalue->ganssAlmanac);
+   RT_CHECK(ctx, stat, 0, "ganssAlmanac", -1, "GanssReqGenericData");
+   /* ganssNavigationModel */
+   stat = rtxEncBit(ctx, pvalue->ganssNavigationModel);
+   RT_CHECK(ctx, stat, 0, "ganssNavigationModel", -1, "GanssReqGenericData");
+   /* ganssTimeModelGNSS-GNSS */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "reference-E-TFCIs");
-      stat = asn1PE_UMTS_E_DPDCH_Reference_E_TFCIList_r7(ctx, &pvalue->reference_E_TFCIs);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pe_BitString32(ctx, &pvalue->ganssTimeModelGNSS_GNSS, 8, 8);
+      RT_CHECK(ctx, stat, 0, "ganssTimeModelGNSS-GNSS", -1, "GanssReqGenericData");
    }
-   /* powerOffsetForSchedInfo */
+   /* ganssReferenceMeasurementInfo */
+   stat = rtxEncBit(ctx, pvalue->ganssReferenceMeasurementInfo);
+   RT_CHECK(ctx, stat, 0, "ganssReferenceMeasurementInfo", -1, "GanssReqGenericData");
+   /* ganssDataBits */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "powerOffsetForSchedInfo");
-      if ((uint64_t)pvalue->powerOffsetForSchedInfo > 6u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->powerOffsetForSchedInfo);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->powerOffsetForSchedInfo, 0, 6);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_GanssDataBits(ctx, &pvalue->ganssDataBits);
+      RT_CHECK(ctx, stat, 0, "ganssDataBits", -1, "GanssReqGenericData");
    }
-   /* threeIndexStepThreshold */
+   /* ganssUTCModel */
+   stat = rtxEncBit(ctx, pvalue->ganssUTCModel);
+   RT_CHECK(ctx, stat, 0, "ganssUTCModel", -1, "GanssReqGenericData");
+   /* ganssNavigationModelAdditionalData */
    if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "threeIndexStepThreshold");
-      if ((uint64_t)pvalue->threeIndexStepThreshold > 37u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->threeIndexStepThreshold);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->threeIndexStepThreshold, 0, 37);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* twoIndexStepThreshold */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "twoIndexStepThreshold");
-      if ((uint64_t)pvalue->twoIndexStepThreshold > 37u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->twoIndexStepThreshold);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->twoIndexStepThreshold, 0, 37);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-HICH-Information */
-   if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "e-HICH-Information");
-      stat = asn1PE_UMTS_E_HICH_Information(ctx, &pvalue->e_HICH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-RGCH-Info */
-   if (pvalue->m & 0x80u) {
-      rtxCtxtPushElemName(ctx, "e-RGCH-Info");
-      stat = asn1PE_UMTS_E_DCH_RL_InfoNewServingCell_r7_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_ReconfigurationInfo_r7_e_DCH_RL_InfoOtherCellList(rtxContext* ctx, const E_DCH_ReconfigurationInfo_r7_e_DCH_RL_InfoOtherCellList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "E-DCH-RL-InfoOtherCell", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_E_DCH_RL_InfoOtherCell(ctx, (const E_DCH_RL_InfoOtherCell*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      stat = asn1PE_UMTS_GanssNavigationModelAdditionalData(ctx, &pvalue->ganssNavigationModelAdditionalData);
+      RT_CHECK(ctx, stat, 0, "ganssNavigationModelAdditionalData", -1, "GanssReqGenericData");
    }
    return 0;
 }
 
-int asn1PE_UMTS_E_DCH_ReconfigurationInfo_r7(rtxContext* ctx, const E_DCH_ReconfigurationInfo_r7* pvalue)
+int asn1PE_UMTS_GanssReqGenericData_v860ext_ganssAddNavigationModel(rtxContext* RT_RESTRICT ctx, GanssReqGenericData_v860ext_ganssAddNavigationModel value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-DCH-ReconfigurationInfo-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* e-DCH-RL-InfoNewServingCell */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "e-DCH-RL-InfoNewServingCell");
-      stat = asn1PE_UMTS_E_DCH_RL_InfoNewServingCell_r7(ctx, &pvalue->e_DCH_RL_InfoNewServingCell);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-DCH-RL-InfoOtherCellList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "e-DCH-RL-InfoOtherCellList");
-      stat = asn1PE_UMTS_E_DCH_ReconfigurationInfo_r7_e_DCH_RL_InfoOtherCellList(ctx, &pvalue->e_DCH_RL_InfoOtherCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_RL_InfoNewSecServingCell_e_RGCH_Info(rtxContext* ctx, const E_DCH_RL_InfoNewSecServingCell_e_RGCH_Info* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "e-RGCH-Information");
-         if (pvalue->u.e_RGCH_Information == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "releaseIndicator");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_RL_InfoNewSecServingCell(rtxContext* ctx, const E_DCH_RL_InfoNewSecServingCell* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-DCH-RL-InfoNewSecServingCell");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* e-AGCH-Information */
-   rtxCtxtPushElemName(ctx, "e-AGCH-Information");
-   stat = asn1PE_UMTS_E_AGCH_Information(ctx, &pvalue->e_AGCH_Information);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-HICH-Information */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "e-HICH-Information");
-      stat = asn1PE_UMTS_E_HICH_Information(ctx, &pvalue->e_HICH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-RGCH-Info */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "e-RGCH-Info");
-      stat = asn1PE_UMTS_E_DCH_RL_InfoNewSecServingCell_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_RL_InfoOtherCell_SecULFreq_e_RGCH_Info(rtxContext* ctx, const E_DCH_RL_InfoOtherCell_SecULFreq_e_RGCH_Info* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "e-RGCH-Information");
-         if (pvalue->u.e_RGCH_Information == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "releaseIndicator");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_RL_InfoOtherCell_SecULFreq(rtxContext* ctx, const E_DCH_RL_InfoOtherCell_SecULFreq* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-DCH-RL-InfoOtherCell-SecULFreq");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-HICH-Information */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "e-HICH-Information");
-      stat = asn1PE_UMTS_E_HICH_Information(ctx, &pvalue->e_HICH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-RGCH-Info */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "e-RGCH-Info");
-      stat = asn1PE_UMTS_E_DCH_RL_InfoOtherCell_SecULFreq_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_ReconfigurationInfo_SecULFrequency_e_DCH_RL_InfoOtherCellList_SecULFreq(rtxContext* ctx, const E_DCH_ReconfigurationInfo_SecULFrequency_e_DCH_RL_InfoOtherCellList_SecULFreq* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "E-DCH-RL-InfoOtherCell-SecULFreq", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_E_DCH_RL_InfoOtherCell_SecULFreq(ctx, (const E_DCH_RL_InfoOtherCell_SecULFreq*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_ReconfigurationInfo_SecULFrequency(rtxContext* ctx, const E_DCH_ReconfigurationInfo_SecULFrequency* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-DCH-ReconfigurationInfo-SecULFrequency");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* e-DCH-RL-InfoNewSecServingCell */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "e-DCH-RL-InfoNewSecServingCell");
-      stat = asn1PE_UMTS_E_DCH_RL_InfoNewSecServingCell(ctx, &pvalue->e_DCH_RL_InfoNewSecServingCell);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-DCH-RL-InfoOtherCellList-SecULFreq */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "e-DCH-RL-InfoOtherCellList-SecULFreq");
-      stat = asn1PE_UMTS_E_DCH_ReconfigurationInfo_SecULFrequency_e_DCH_RL_InfoOtherCellList_SecULFreq(ctx, &pvalue->e_DCH_RL_InfoOtherCellList_SecULFreq);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_RL_InfoSameServingCell(rtxContext* ctx, const E_DCH_RL_InfoSameServingCell* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-DCH-RL-InfoSameServingCell");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* e-DPCCH-DPCCH-PowerOffset */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "e-DPCCH-DPCCH-PowerOffset");
-      rtxCtxtPushTypeName(ctx, "E-DPCCH-DPCCH-PowerOffset");
-      if ((uint64_t)pvalue->e_DPCCH_DPCCH_PowerOffset > 8u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->e_DPCCH_DPCCH_PowerOffset);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->e_DPCCH_DPCCH_PowerOffset, 0, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reference-E-TFCIs */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "reference-E-TFCIs");
-      stat = asn1PE_UMTS_E_DPDCH_Reference_E_TFCIList_r7(ctx, &pvalue->reference_E_TFCIs);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_HICH_Information_For_SPS_TDD128_configurationmode_implicit(rtxContext* ctx, const E_HICH_Information_For_SPS_TDD128_configurationmode_implicit* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ei */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ei");
-      if ((uint64_t)pvalue->ei > 3u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->ei);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ei, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_HICH_Information_For_SPS_TDD128_configurationmode_explicit__midambleAllocationMode(rtxContext* ctx, const E_HICH_Information_For_SPS_TDD128_configurationmode_explicit__midambleAllocationMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "defaultMidamble");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ueSpecificMidamble");
-         if ((uint64_t)pvalue->u.ueSpecificMidamble > 15u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.ueSpecificMidamble);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.ueSpecificMidamble, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_HICH_Information_For_SPS_TDD128_configurationmode_explicit_(rtxContext* ctx, const E_HICH_Information_For_SPS_TDD128_configurationmode_explicit_* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-LCR-r4");
-   if ((uint64_t)pvalue->timeslotNumber > 6u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* channelisation-Code */
-   rtxCtxtPushElemName(ctx, "channelisation-Code");
-   rtxCtxtPushTypeName(ctx, "HS-ChannelisationCode-LCR");
-   if (pvalue->channelisation_Code > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->channelisation_Code);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->channelisation_Code, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleAllocationMode */
-   rtxCtxtPushElemName(ctx, "midambleAllocationMode");
-   stat = asn1PE_UMTS_E_HICH_Information_For_SPS_TDD128_configurationmode_explicit__midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midambleConfiguration */
-   rtxCtxtPushElemName(ctx, "midambleConfiguration");
-   if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_HICH_Information_For_SPS_TDD128_configurationmode(rtxContext* ctx, const E_HICH_Information_For_SPS_TDD128_configurationmode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "implicit");
-         if (pvalue->u.implicit == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_E_HICH_Information_For_SPS_TDD128_configurationmode_implicit(ctx, pvalue->u.implicit);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "explicit");
-         if (pvalue->u.explicit_ == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_E_HICH_Information_For_SPS_TDD128_configurationmode_explicit_(ctx, pvalue->u.explicit_);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_HICH_Information_For_SPS_TDD128(rtxContext* ctx, const E_HICH_Information_For_SPS_TDD128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-HICH-Information-For-SPS-TDD128");
-   /* configurationmode */
-   rtxCtxtPushElemName(ctx, "configurationmode");
-   stat = asn1PE_UMTS_E_HICH_Information_For_SPS_TDD128_configurationmode(ctx, &pvalue->configurationmode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* signatureSequenceGroupIndex */
-   rtxCtxtPushElemName(ctx, "signatureSequenceGroupIndex");
-   if ((uint64_t)pvalue->signatureSequenceGroupIndex > 19u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->signatureSequenceGroupIndex);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->signatureSequenceGroupIndex, 0, 19);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RepetitionPeriodAndLengthForSPS(rtxContext* ctx, const RepetitionPeriodAndLengthForSPS* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RepetitionPeriodAndLengthForSPS");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 5) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "repetitionPeriod1");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "repetitionPeriod2");
-         if ((uint64_t)(pvalue->u.repetitionPeriod2 - 1) > 0u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.repetitionPeriod2);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.repetitionPeriod2, 1, 1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "repetitionPeriod4");
-         if ((uint64_t)(pvalue->u.repetitionPeriod4 - 1) > 2u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.repetitionPeriod4);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.repetitionPeriod4, 1, 3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "repetitionPeriod8");
-         if ((uint64_t)(pvalue->u.repetitionPeriod8 - 1) > 6u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.repetitionPeriod8);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.repetitionPeriod8, 1, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "repetitionPeriod16");
-         if ((uint64_t)(pvalue->u.repetitionPeriod16 - 1) > 14u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.repetitionPeriod16);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.repetitionPeriod16, 1, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "repetitionPeriod32");
-         if ((uint64_t)(pvalue->u.repetitionPeriod32 - 1) > 30u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.repetitionPeriod32);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.repetitionPeriod32, 1, 31);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_TxPatternList_TDD128_element(rtxContext* ctx, const E_DCH_TxPatternList_TDD128_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* repetitionPeriodAndLength */
-   rtxCtxtPushElemName(ctx, "repetitionPeriodAndLength");
-   stat = asn1PE_UMTS_RepetitionPeriodAndLengthForSPS(ctx, &pvalue->repetitionPeriodAndLength);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_TxPatternList_TDD128(rtxContext* ctx, const E_DCH_TxPatternList_TDD128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "E-DCH-TxPatternList-TDD128");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_E_DCH_TxPatternList_TDD128_element(ctx, (const E_DCH_TxPatternList_TDD128_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_SPS_NewOperation_TDD128_initialSPSInfoForEDCH(rtxContext* ctx, const E_DCH_SPS_NewOperation_TDD128_initialSPSInfoForEDCH* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* n-E-UCCH */
-   rtxCtxtPushElemName(ctx, "n-E-UCCH");
-   if ((uint64_t)(pvalue->n_E_UCCH - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->n_E_UCCH);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->n_E_UCCH, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* codeResourceInfo */
-   rtxCtxtPushElemName(ctx, "codeResourceInfo");
-   rtxCtxtPushTypeName(ctx, "UL-TS-ChannelisationCode");
-   if (pvalue->codeResourceInfo > 30) {
-      rtxErrAddUIntParm(ctx, pvalue->codeResourceInfo);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->codeResourceInfo, 0, 30);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeslotResourceRelatedInfo */
-   rtxCtxtPushElemName(ctx, "timeslotResourceRelatedInfo");
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pe_BitString32(ctx, &pvalue->timeslotResourceRelatedInfo, 5, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* powerResourceRelatedInfo */
-   rtxCtxtPushElemName(ctx, "powerResourceRelatedInfo");
-   if ((uint64_t)(pvalue->powerResourceRelatedInfo - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->powerResourceRelatedInfo);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->powerResourceRelatedInfo, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* activationTime */
-   rtxCtxtPushElemName(ctx, "activationTime");
-   rtxCtxtPushTypeName(ctx, "ActivationTime");
-   stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* subframeNum */
-   rtxCtxtPushElemName(ctx, "subframeNum");
-   if ((uint64_t)pvalue->subframeNum > 1u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->subframeNum);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->subframeNum, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* initialTxPatternIndex */
-   rtxCtxtPushElemName(ctx, "initialTxPatternIndex");
-   if ((uint64_t)pvalue->initialTxPatternIndex > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->initialTxPatternIndex);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->initialTxPatternIndex, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_SPS_NewOperation_TDD128(rtxContext* ctx, const E_DCH_SPS_NewOperation_TDD128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-DCH-SPS-NewOperation-TDD128");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* e-hich-Info */
-   rtxCtxtPushElemName(ctx, "e-hich-Info");
-   stat = asn1PE_UMTS_E_HICH_Information_For_SPS_TDD128(ctx, &pvalue->e_hich_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-dch-TxPattern */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "e-dch-TxPattern");
-      stat = asn1PE_UMTS_E_DCH_TxPatternList_TDD128(ctx, &pvalue->e_dch_TxPattern);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* initialSPSInfoForEDCH */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "initialSPSInfoForEDCH");
-      stat = asn1PE_UMTS_E_DCH_SPS_NewOperation_TDD128_initialSPSInfoForEDCH(ctx, &pvalue->initialSPSInfoForEDCH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_SPS_Information_TDD128_e_dch_SPS_Operation(rtxContext* ctx, const E_DCH_SPS_Information_TDD128_e_dch_SPS_Operation* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "continue");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "newOperation");
-         if (pvalue->u.newOperation == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_E_DCH_SPS_NewOperation_TDD128(ctx, pvalue->u.newOperation);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_SPS_Information_TDD128(rtxContext* ctx, const E_DCH_SPS_Information_TDD128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-DCH-SPS-Information-TDD128");
-   /* e-dch-SPS-Operation */
-   rtxCtxtPushElemName(ctx, "e-dch-SPS-Operation");
-   stat = asn1PE_UMTS_E_DCH_SPS_Information_TDD128_e_dch_SPS_Operation(ctx, &pvalue->e_dch_SPS_Operation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DPCCH_Info(rtxContext* ctx, const E_DPCCH_Info* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-DPCCH-Info");
-   /* e-DPCCH-DPCCH-PowerOffset */
-   rtxCtxtPushElemName(ctx, "e-DPCCH-DPCCH-PowerOffset");
-   rtxCtxtPushTypeName(ctx, "E-DPCCH-DPCCH-PowerOffset");
-   if ((uint64_t)pvalue->e_DPCCH_DPCCH_PowerOffset > 8u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->e_DPCCH_DPCCH_PowerOffset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->e_DPCCH_DPCCH_PowerOffset, 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* happyBit-DelayCondition */
-   rtxCtxtPushElemName(ctx, "happyBit-DelayCondition");
-   rtxCtxtPushTypeName(ctx, "HappyBit-DelayCondition");
-   if (pvalue->happyBit_DelayCondition > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->happyBit_DelayCondition);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->happyBit_DelayCondition, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DPDCH_Info(rtxContext* ctx, const E_DPDCH_Info* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-DPDCH-Info");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* e-TFCI-TableIndex */
-   rtxCtxtPushElemName(ctx, "e-TFCI-TableIndex");
-   rtxCtxtPushTypeName(ctx, "E-TFCI-TableIndex");
-   if ((uint64_t)pvalue->e_TFCI_TableIndex > 1u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->e_TFCI_TableIndex);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->e_TFCI_TableIndex, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* e-DCH-MinimumSet-E-TFCI */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "e-DCH-MinimumSet-E-TFCI");
-      rtxCtxtPushTypeName(ctx, "E-DCH-MinimumSet-E-TFCI");
-      if ((uint64_t)pvalue->e_DCH_MinimumSet_E_TFCI > 127u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->e_DCH_MinimumSet_E_TFCI);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->e_DCH_MinimumSet_E_TFCI, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reference-E-TFCIs */
-   rtxCtxtPushElemName(ctx, "reference-E-TFCIs");
-   stat = asn1PE_UMTS_E_DPDCH_Reference_E_TFCIList(ctx, &pvalue->reference_E_TFCIs);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* maxChannelisationCodes */
-   rtxCtxtPushElemName(ctx, "maxChannelisationCodes");
-   rtxCtxtPushTypeName(ctx, "E-DPDCH-MaxChannelisationCodes");
-   if (pvalue->maxChannelisationCodes > 9) {
-      rtxErrAddUIntParm(ctx, pvalue->maxChannelisationCodes);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxChannelisationCodes, 0, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* pl-NonMax */
-   rtxCtxtPushElemName(ctx, "pl-NonMax");
-   rtxCtxtPushTypeName(ctx, "E-DPDCH-PL-NonMax");
-   if ((uint64_t)(pvalue->pl_NonMax - 11) > 14u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->pl_NonMax);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pl_NonMax, 11, 25);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* schedulingInfoConfiguration */
-   rtxCtxtPushElemName(ctx, "schedulingInfoConfiguration");
-   stat = asn1PE_UMTS_E_DPDCH_SchedulingInfoConfiguration(ctx, &pvalue->schedulingInfoConfiguration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* threeIndexStepThreshold */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "threeIndexStepThreshold");
-      if ((uint64_t)pvalue->threeIndexStepThreshold > 37u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->threeIndexStepThreshold);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->threeIndexStepThreshold, 0, 37);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* twoIndexStepThreshold */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "twoIndexStepThreshold");
-      if ((uint64_t)pvalue->twoIndexStepThreshold > 37u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->twoIndexStepThreshold);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->twoIndexStepThreshold, 0, 37);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DPDCH_Info_r7(rtxContext* ctx, const E_DPDCH_Info_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "E-DPDCH-Info-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* e-TFCI-TableIndex */
-   rtxCtxtPushElemName(ctx, "e-TFCI-TableIndex");
-   rtxCtxtPushTypeName(ctx, "E-TFCI-TableIndex");
-   if ((uint64_t)pvalue->e_TFCI_TableIndex > 1u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->e_TFCI_TableIndex);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->e_TFCI_TableIndex, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* e-DCH-MinimumSet-E-TFCI */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "e-DCH-MinimumSet-E-TFCI");
-      rtxCtxtPushTypeName(ctx, "E-DCH-MinimumSet-E-TFCI");
-      if ((uint64_t)pvalue->e_DCH_MinimumSet_E_TFCI > 127u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->e_DCH_MinimumSet_E_TFCI);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->e_DCH_MinimumSet_E_TFCI, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reference-E-TFCIs */
-   rtxCtxtPushElemName(ctx, "reference-E-TFCIs");
-   stat = asn1PE_UMTS_E_DPDCH_Reference_E_TFCIList_r7(ctx, &pvalue->reference_E_TFCIs);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* maxChannelisationCodes */
-   rtxCtxtPushElemName(ctx, "maxChannelisationCodes");
-   rtxCtxtPushTypeName(ctx, "E-DPDCH-MaxChannelisationCodes");
-   if (pvalue->maxChannelisationCodes > 9) {
-      rtxErrAddUIntParm(ctx, pvalue->maxChannelisationCodes);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxChannelisationCodes, 0, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* pl-NonMax */
-   rtxCtxtPushElemName(ctx, "pl-NonMax");
-   rtxCtxtPushTypeName(ctx, "E-DPDCH-PL-NonMax");
-   if ((uint64_t)(pvalue->pl_NonMax - 11) > 14u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->pl_NonMax);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pl_NonMax, 11, 25);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* schedulingInfoConfiguration */
-   rtxCtxtPushElemName(ctx, "schedulingInfoConfiguration");
-   stat = asn1PE_UMTS_E_DPDCH_SchedulingInfoConfiguration(ctx, &pvalue->schedulingInfoConfiguration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* threeIndexStepThreshold */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "threeIndexStepThreshold");
-      if ((uint64_t)pvalue->threeIndexStepThreshold > 37u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->threeIndexStepThreshold);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->threeIndexStepThreshold, 0, 37);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* twoIndexStepThreshold */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "twoIndexStepThreshold");
-      if ((uint64_t)pvalue->twoIndexStepThreshold > 37u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->twoIndexStepThreshold);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->twoIndexStepThreshold, 0, 37);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_EnablingDelay(rtxContext* ctx, EnablingDelay value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "EnablingDelay");
-   if (value > 15) {
+   if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_EXT_UL_TimingAdvance_modeSpecificInfo_tdd384(rtxContext* ctx, const EXT_UL_TimingAdvance_modeSpecificInfo_tdd384* pvalue)
+int asn1PE_UMTS_GanssReqGenericData_v860ext_ganssAddUTCmodel(rtxContext* RT_RESTRICT ctx, GanssReqGenericData_v860ext_ganssAddUTCmodel value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* ex-ul-TimingAdvance */
-   rtxCtxtPushElemName(ctx, "ex-ul-TimingAdvance");
-   stat = pe_ConsUInt64(ctx, pvalue->ex_ul_TimingAdvance, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_EXT_UL_TimingAdvance_modeSpecificInfo_tdd768(rtxContext* ctx, const EXT_UL_TimingAdvance_modeSpecificInfo_tdd768* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* ex-ul-TimingAdvance */
-   rtxCtxtPushElemName(ctx, "ex-ul-TimingAdvance");
-   if ((uint64_t)pvalue->ex_ul_TimingAdvance > 511u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ex_ul_TimingAdvance);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ex_ul_TimingAdvance, 0, 511);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_EXT_UL_TimingAdvance_modeSpecificInfo(rtxContext* ctx, const EXT_UL_TimingAdvance_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_EXT_UL_TimingAdvance_modeSpecificInfo_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd768");
-         if (pvalue->u.tdd768 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_EXT_UL_TimingAdvance_modeSpecificInfo_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_EXT_UL_TimingAdvance(rtxContext* ctx, const EXT_UL_TimingAdvance* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "EXT-UL-TimingAdvance");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_EXT_UL_TimingAdvance_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_ChannelisationCodeSetInfo_LCR(rtxContext* ctx, const HS_ChannelisationCodeSetInfo_LCR* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HS-ChannelisationCodeSetInfo-LCR");
-   /* startCode */
-   rtxCtxtPushElemName(ctx, "startCode");
-   rtxCtxtPushTypeName(ctx, "HS-ChannelisationCode-LCR");
-   if (pvalue->startCode > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->startCode);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->startCode, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* stopCode */
-   rtxCtxtPushElemName(ctx, "stopCode");
-   rtxCtxtPushTypeName(ctx, "HS-ChannelisationCode-LCR");
-   if (pvalue->stopCode > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->stopCode);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->stopCode, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_DSCH_RxPatternList_TDD128_element(rtxContext* ctx, const HS_DSCH_RxPatternList_TDD128_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* repetitionPeriodAndLength */
-   rtxCtxtPushElemName(ctx, "repetitionPeriodAndLength");
-   stat = asn1PE_UMTS_RepetitionPeriodAndLengthForSPS(ctx, &pvalue->repetitionPeriodAndLength);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_DSCH_RxPatternList_TDD128(rtxContext* ctx, const HS_DSCH_RxPatternList_TDD128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "HS-DSCH-RxPatternList-TDD128");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_HS_DSCH_RxPatternList_TDD128_element(ctx, (const HS_DSCH_RxPatternList_TDD128_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_DSCH_TbsList_TDD128_element(rtxContext* ctx, const HS_DSCH_TbsList_TDD128_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* hs-dsch-TBSizeIndex */
-   rtxCtxtPushElemName(ctx, "hs-dsch-TBSizeIndex");
-   if ((uint64_t)(pvalue->hs_dsch_TBSizeIndex - 1) > 62u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->hs_dsch_TBSizeIndex);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hs_dsch_TBSizeIndex, 1, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_DSCH_TbsList_TDD128(rtxContext* ctx, const HS_DSCH_TbsList_TDD128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "HS-DSCH-TbsList-TDD128");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_HS_DSCH_TbsList_TDD128_element(ctx, (const HS_DSCH_TbsList_TDD128_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_DSCH_SPS_NewOperation_TDD128_hARQInfoForSPS(rtxContext* ctx, const HS_DSCH_SPS_NewOperation_TDD128_hARQInfoForSPS* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* numberOfProcesses */
-   rtxCtxtPushElemName(ctx, "numberOfProcesses");
-   if ((uint64_t)(pvalue->numberOfProcesses - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->numberOfProcesses);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->numberOfProcesses, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* memorySize */
-   rtxCtxtPushElemName(ctx, "memorySize");
-   rtxCtxtPushTypeName(ctx, "HARQMemorySize");
-   if (pvalue->memorySize > 60) {
-      rtxErrAddUIntParm(ctx, pvalue->memorySize);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->memorySize, 0, 60);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_List_TDD128_element_implicit(rtxContext* ctx, const HS_SICH_List_TDD128_element_implicit* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* hS-SCCH-Index */
-   rtxCtxtPushElemName(ctx, "hS-SCCH-Index");
-   if ((uint64_t)pvalue->hS_SCCH_Index > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->hS_SCCH_Index);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hS_SCCH_Index, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_List_TDD128_element_explicit_(rtxContext* ctx, const HS_SICH_List_TDD128_element_explicit_* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* hS-SICH-Info */
-   rtxCtxtPushElemName(ctx, "hS-SICH-Info");
-   stat = asn1PE_UMTS_HS_SICH_Configuration_TDD128_r6(ctx, &pvalue->hS_SICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_List_TDD128_element(rtxContext* ctx, const HS_SICH_List_TDD128_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "implicit");
-         if (pvalue->u.implicit == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HS_SICH_List_TDD128_element_implicit(ctx, pvalue->u.implicit);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "explicit");
-         if (pvalue->u.explicit_ == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HS_SICH_List_TDD128_element_explicit_(ctx, pvalue->u.explicit_);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_List_TDD128(rtxContext* ctx, const HS_SICH_List_TDD128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "HS-SICH-List-TDD128");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_HS_SICH_List_TDD128_element(ctx, (const HS_SICH_List_TDD128_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH_modulation(rtxContext* ctx, HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH_modulation value)
-{
-   int stat = 0;
-   if (value > 1) {
+   if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH(rtxContext* ctx, const HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH* pvalue)
+int asn1PE_UMTS_GanssReqGenericData_v860ext_ganssAuxInfo(rtxContext* RT_RESTRICT ctx, GanssReqGenericData_v860ext_ganssAuxInfo value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* timeslotInfo */
-   rtxCtxtPushElemName(ctx, "timeslotInfo");
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pe_BitString32(ctx, &pvalue->timeslotInfo, 5, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* codeResourceInfo */
-   rtxCtxtPushElemName(ctx, "codeResourceInfo");
-   stat = asn1PE_UMTS_HS_ChannelisationCodeSetInfo_LCR(ctx, &pvalue->codeResourceInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* activationTime */
-   rtxCtxtPushElemName(ctx, "activationTime");
-   rtxCtxtPushTypeName(ctx, "ActivationTime");
-   stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* sfnNum */
-   rtxCtxtPushElemName(ctx, "sfnNum");
-   if ((uint64_t)pvalue->sfnNum > 1u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->sfnNum);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->sfnNum, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* initialRxPatternIndex */
-   rtxCtxtPushElemName(ctx, "initialRxPatternIndex");
-   if ((uint64_t)pvalue->initialRxPatternIndex > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->initialRxPatternIndex);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->initialRxPatternIndex, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* initialTfsIndex */
-   rtxCtxtPushElemName(ctx, "initialTfsIndex");
-   if ((uint64_t)pvalue->initialTfsIndex > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->initialTfsIndex);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->initialTfsIndex, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* modulation */
-   rtxCtxtPushElemName(ctx, "modulation");
-   if (pvalue->modulation > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->modulation);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->modulation, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hs-sich-Index */
-   rtxCtxtPushElemName(ctx, "hs-sich-Index");
-   if ((uint64_t)pvalue->hs_sich_Index > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->hs_sich_Index);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hs_sich_Index, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_HS_DSCH_SPS_NewOperation_TDD128(rtxContext* ctx, const HS_DSCH_SPS_NewOperation_TDD128* pvalue)
+int asn1PE_UMTS_GanssReqGenericData_v860ext_ganssAddADchoices(rtxContext* RT_RESTRICT ctx, const GanssReqGenericData_v860ext_ganssAddADchoices* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HS-DSCH-SPS-NewOperation-TDD128");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* hs-dsch-TbsList */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* orbitModelID */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "hs-dsch-TbsList");
-      stat = asn1PE_UMTS_HS_DSCH_TbsList_TDD128(ctx, &pvalue->hs_dsch_TbsList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if ((uint64_t)pvalue->orbitModelID > 7u) {
+         rtxErrAddStrParm(ctx, "orbitModelID");
+         rtxErrAddUIntParm(ctx, pvalue->orbitModelID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "orbitModelID", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->orbitModelID, 0, 7);
+      RT_CHECK(ctx, stat, 0, "orbitModelID", -1, 0);
    }
-   /* hs-dsch-RxPatternList */
+   /* clockModelID */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "hs-dsch-RxPatternList");
-      stat = asn1PE_UMTS_HS_DSCH_RxPatternList_TDD128(ctx, &pvalue->hs_dsch_RxPatternList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if ((uint64_t)pvalue->clockModelID > 7u) {
+         rtxErrAddStrParm(ctx, "clockModelID");
+         rtxErrAddUIntParm(ctx, pvalue->clockModelID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "clockModelID", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->clockModelID, 0, 7);
+      RT_CHECK(ctx, stat, 0, "clockModelID", -1, 0);
    }
-   /* hARQInfoForSPS */
+   /* utcModelID */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "hARQInfoForSPS");
-      stat = asn1PE_UMTS_HS_DSCH_SPS_NewOperation_TDD128_hARQInfoForSPS(ctx, &pvalue->hARQInfoForSPS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if ((uint64_t)pvalue->utcModelID > 7u) {
+         rtxErrAddStrParm(ctx, "utcModelID");
+         rtxErrAddUIntParm(ctx, pvalue->utcModelID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "utcModelID", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->utcModelID, 0, 7);
+      RT_CHECK(ctx, stat, 0, "utcModelID", -1, 0);
    }
-   /* hs-sich-List */
-   rtxCtxtPushElemName(ctx, "hs-sich-List");
-   stat = asn1PE_UMTS_HS_SICH_List_TDD128(ctx, &pvalue->hs_sich_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* initialSPSInfoForHSDSCH */
+   /* almanacModelID */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "initialSPSInfoForHSDSCH");
-      stat = asn1PE_UMTS_HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH(ctx, &pvalue->initialSPSInfoForHSDSCH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if ((uint64_t)pvalue->almanacModelID > 7u) {
+         rtxErrAddStrParm(ctx, "almanacModelID");
+         rtxErrAddUIntParm(ctx, pvalue->almanacModelID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "almanacModelID", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->almanacModelID, 0, 7);
+      RT_CHECK(ctx, stat, 0, "almanacModelID", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_HS_DSCH_SPS_Information_TDD128_hs_dsch_SPS_Operation(rtxContext* ctx, const HS_DSCH_SPS_Information_TDD128_hs_dsch_SPS_Operation* pvalue)
+int asn1PE_UMTS_GanssReqGenericData_v860ext(rtxContext* RT_RESTRICT ctx, const GanssReqGenericData_v860ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GanssReqGenericData-v860ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "GanssReqGenericData-v860ext");
+   /* sbasId */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->sbasId > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->sbasId);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "UE-Positioning-GANSS-SBAS-ID", "sbasId", -1, "GanssReqGenericData-v860ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->sbasId, 0, 7);
+      RT_CHECK(ctx, stat, "UE-Positioning-GANSS-SBAS-ID", "sbasId", -1, "GanssReqGenericData-v860ext");
+   }
+   /* ganssAddNavigationModel */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->ganssAddNavigationModel > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->ganssAddNavigationModel);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "ganssAddNavigationModel", -1, "GanssReqGenericData-v860ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ganssAddNavigationModel, 0, 0);
+      RT_CHECK(ctx, stat, 0, "ganssAddNavigationModel", -1, "GanssReqGenericData-v860ext");
+   }
+   /* ganssAddUTCmodel */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->ganssAddUTCmodel > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->ganssAddUTCmodel);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "ganssAddUTCmodel", -1, "GanssReqGenericData-v860ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ganssAddUTCmodel, 0, 0);
+      RT_CHECK(ctx, stat, 0, "ganssAddUTCmodel", -1, "GanssReqGenericData-v860ext");
+   }
+   /* ganssAuxInfo */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->ganssAuxInfo > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->ganssAuxInfo);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "ganssAuxInfo", -1, "GanssReqGenericData-v860ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ganssAuxInfo, 0, 0);
+      RT_CHECK(ctx, stat, 0, "ganssAuxInfo", -1, "GanssReqGenericData-v860ext");
+   }
+   /* ganssAddADchoices */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_GanssReqGenericData_v860ext_ganssAddADchoices(ctx, &pvalue->ganssAddADchoices);
+      RT_CHECK(ctx, stat, 0, "ganssAddADchoices", -1, "GanssReqGenericData-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GanssRequestedGenericAssistanceDataList(rtxContext* RT_RESTRICT ctx, const GanssRequestedGenericAssistanceDataList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GanssRequestedGenericAssistanceDataList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GanssRequestedGenericAssistanceDataList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GanssReqGenericData", (int32_t)i, "GanssRequestedGenericAssistanceDataList");
+      stat = asn1PE_UMTS_GanssReqGenericData(ctx, (const GanssReqGenericData*)node->data);
+      RT_CHECK(ctx, stat, 0, "GanssReqGenericData", (int32_t)i, "GanssRequestedGenericAssistanceDataList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GanssRequestedGenericAssistanceDataList_v860ext(rtxContext* RT_RESTRICT ctx, const GanssRequestedGenericAssistanceDataList_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GanssRequestedGenericAssistanceDataList-v860ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GanssRequestedGenericAssistanceDataList-v860ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GanssReqGenericData-v860ext", (int32_t)i, "GanssRequestedGenericAssistanceDataList-v860ext");
+      stat = asn1PE_UMTS_GanssReqGenericData_v860ext(ctx, (const GanssReqGenericData_v860ext*)node->data);
+      RT_CHECK(ctx, stat, 0, "GanssReqGenericData-v860ext", (int32_t)i, "GanssRequestedGenericAssistanceDataList-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GANSS_Storm_Flag(rtxContext* RT_RESTRICT ctx, const GANSS_Storm_Flag* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSS-Storm-Flag");
+   /* storm-flag-one */
+   stat = rtxEncBit(ctx, pvalue->storm_flag_one);
+   RT_CHECK(ctx, stat, 0, "storm-flag-one", -1, "GANSS-Storm-Flag");
+   /* storm-flag-two */
+   stat = rtxEncBit(ctx, pvalue->storm_flag_two);
+   RT_CHECK(ctx, stat, 0, "storm-flag-two", -1, "GANSS-Storm-Flag");
+   /* storm-flag-three */
+   stat = rtxEncBit(ctx, pvalue->storm_flag_three);
+   RT_CHECK(ctx, stat, 0, "storm-flag-three", -1, "GANSS-Storm-Flag");
+   /* storm-flag-four */
+   stat = rtxEncBit(ctx, pvalue->storm_flag_four);
+   RT_CHECK(ctx, stat, 0, "storm-flag-four", -1, "GANSS-Storm-Flag");
+   /* storm-flag-five */
+   stat = rtxEncBit(ctx, pvalue->storm_flag_five);
+   RT_CHECK(ctx, stat, 0, "storm-flag-five", -1, "GANSS-Storm-Flag");
+   return 0;
+}
+
+int asn1PE_UMTS_GSM_CarrierRSSI(rtxContext* RT_RESTRICT ctx, GSM_CarrierRSSI value)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 6, 6);
+   stat = pe_BitString32(ctx, &value, 6, 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "GSM-CarrierRSSI");
+   return 0;
+}
+
+int asn1PE_UMTS_ObservedTimeDifferenceToGSM(rtxContext* RT_RESTRICT ctx, ObservedTimeDifferenceToGSM value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 4095u) {
+      rtxErrAddStrParm(ctx, "ObservedTimeDifferenceToGSM");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "ObservedTimeDifferenceToGSM");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 4095);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ObservedTimeDifferenceToGSM");
+   return 0;
+}
+
+int asn1PE_UMTS_GSM_MeasuredResults(rtxContext* RT_RESTRICT ctx, const GSM_MeasuredResults* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GSM-MeasuredResults");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "GSM-MeasuredResults");
+   /* gsm-CarrierRSSI */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_GSM_CarrierRSSI(ctx, pvalue->gsm_CarrierRSSI);
+      RT_CHECK(ctx, stat, 0, "gsm-CarrierRSSI", -1, "GSM-MeasuredResults");
+   }
+   /* dummy */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)(pvalue->dummy - 46) > 127u) {
+         rtxErrAddStrParm(ctx, "dummy");
+         rtxErrAddUIntParm(ctx, pvalue->dummy);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "dummy", -1, "GSM-MeasuredResults");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dummy, 46, 173);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "GSM-MeasuredResults");
+   }
+   /* bsicReported */
+   stat = asn1PE_UMTS_BSICReported(ctx, &pvalue->bsicReported);
+   RT_CHECK(ctx, stat, 0, "bsicReported", -1, "GSM-MeasuredResults");
+   /* dummy2 */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)pvalue->dummy2 > 4095u) {
+         rtxErrAddStrParm(ctx, "ObservedTimeDifferenceToGSM");
+         rtxErrAddUIntParm(ctx, pvalue->dummy2);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "ObservedTimeDifferenceToGSM", "dummy2", -1, "GSM-MeasuredResults");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dummy2, 0, 4095);
+      RT_CHECK(ctx, stat, "ObservedTimeDifferenceToGSM", "dummy2", -1, "GSM-MeasuredResults");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GSM_MeasuredResultsList(rtxContext* RT_RESTRICT ctx, const GSM_MeasuredResultsList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GSM-MeasuredResultsList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GSM-MeasuredResultsList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GSM-MeasuredResults", (int32_t)i, "GSM-MeasuredResultsList");
+      stat = asn1PE_UMTS_GSM_MeasuredResults(ctx, (const GSM_MeasuredResults*)node->data);
+      RT_CHECK(ctx, stat, 0, "GSM-MeasuredResults", (int32_t)i, "GSM-MeasuredResultsList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GPS_TOW_1sec(rtxContext* RT_RESTRICT ctx, GPS_TOW_1sec value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 604799u) {
+      rtxErrAddStrParm(ctx, "GPS-TOW-1sec");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "GPS-TOW-1sec");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 604799);
+   RT_CHECK(ctx, stat, 0, 0, -1, "GPS-TOW-1sec");
+   return 0;
+}
+
+int asn1PE_UMTS_GPS_TOW_Assist(rtxContext* RT_RESTRICT ctx, const GPS_TOW_Assist* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GPS-TOW-Assist");
+   /* satID */
+   if ((uint64_t)pvalue->satID > 63u) {
+      rtxErrAddStrParm(ctx, "SatID");
+      rtxErrAddUIntParm(ctx, pvalue->satID);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "SatID", "satID", -1, "GPS-TOW-Assist");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->satID, 0, 63);
+   RT_CHECK(ctx, stat, "SatID", "satID", -1, "GPS-TOW-Assist");
+   /* tlm-Message */
+   RT_SET_SIZE(ctx, 14, 14);
+   stat = pe_BitString32(ctx, &pvalue->tlm_Message, 14, 14);
+   RT_CHECK(ctx, stat, 0, "tlm-Message", -1, "GPS-TOW-Assist");
+   /* tlm-Reserved */
+   RT_SET_SIZE(ctx, 2, 2);
+   stat = pe_BitString32(ctx, &pvalue->tlm_Reserved, 2, 2);
+   RT_CHECK(ctx, stat, 0, "tlm-Reserved", -1, "GPS-TOW-Assist");
+   /* alert */
+   stat = rtxEncBit(ctx, pvalue->alert);
+   RT_CHECK(ctx, stat, 0, "alert", -1, "GPS-TOW-Assist");
+   /* antiSpoof */
+   stat = rtxEncBit(ctx, pvalue->antiSpoof);
+   RT_CHECK(ctx, stat, 0, "antiSpoof", -1, "GPS-TOW-Assist");
+   return 0;
+}
+
+int asn1PE_UMTS_GPS_TOW_AssistList(rtxContext* RT_RESTRICT ctx, const GPS_TOW_AssistList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GPS-TOW-AssistList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GPS-TOW-AssistList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GPS-TOW-Assist", (int32_t)i, "GPS-TOW-AssistList");
+      stat = asn1PE_UMTS_GPS_TOW_Assist(ctx, (const GPS_TOW_Assist*)node->data);
+      RT_CHECK(ctx, stat, 0, "GPS-TOW-Assist", (int32_t)i, "GPS-TOW-AssistList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GSM_CellID(rtxContext* RT_RESTRICT ctx, const GSM_CellID* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GSM-CellID");
+   /* gsm-CellID */
+   if ((uint64_t)pvalue->gsm_CellID > 31u) {
+      rtxErrAddStrParm(ctx, "gsm-CellID");
+      rtxErrAddUIntParm(ctx, pvalue->gsm_CellID);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "gsm-CellID", -1, "GSM-CellID");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->gsm_CellID, 0, 31);
+   RT_CHECK(ctx, stat, 0, "gsm-CellID", -1, "GSM-CellID");
+   return 0;
+}
+
+int asn1PE_UMTS_GSM_PriorityInfo(rtxContext* RT_RESTRICT ctx, const GSM_PriorityInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GSM-PriorityInfo");
+   /* gsmCellGroup */
+   stat = asn1PE_UMTS_GSM_CellGroup(ctx, &pvalue->gsmCellGroup);
+   RT_CHECK(ctx, stat, 0, "gsmCellGroup", -1, "GSM-PriorityInfo");
+   /* priority */
+   if ((uint64_t)pvalue->priority > 7u) {
+      rtxErrAddStrParm(ctx, "priority");
+      rtxErrAddUIntParm(ctx, pvalue->priority);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "priority", -1, "GSM-PriorityInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->priority, 0, 7);
+   RT_CHECK(ctx, stat, 0, "priority", -1, "GSM-PriorityInfo");
+   /* qRxLevMinGSM */
+   if (pvalue->qRxLevMinGSM < -58 || pvalue->qRxLevMinGSM > -13) {
+      rtxErrAddStrParm(ctx, "qRxLevMinGSM");
+      rtxErrAddIntParm(ctx, pvalue->qRxLevMinGSM);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "qRxLevMinGSM", -1, "GSM-PriorityInfo");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->qRxLevMinGSM, -58, -13);
+   RT_CHECK(ctx, stat, 0, "qRxLevMinGSM", -1, "GSM-PriorityInfo");
+   /* threshXhigh */
+   if ((uint64_t)pvalue->threshXhigh > 31u) {
+      rtxErrAddStrParm(ctx, "threshXhigh");
+      rtxErrAddUIntParm(ctx, pvalue->threshXhigh);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "threshXhigh", -1, "GSM-PriorityInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->threshXhigh, 0, 31);
+   RT_CHECK(ctx, stat, 0, "threshXhigh", -1, "GSM-PriorityInfo");
+   /* threshXlow */
+   if ((uint64_t)pvalue->threshXlow > 31u) {
+      rtxErrAddStrParm(ctx, "threshXlow");
+      rtxErrAddUIntParm(ctx, pvalue->threshXlow);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "threshXlow", -1, "GSM-PriorityInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->threshXlow, 0, 31);
+   RT_CHECK(ctx, stat, 0, "threshXlow", -1, "GSM-PriorityInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_GSM_PriorityInfoList(rtxContext* RT_RESTRICT ctx, const GSM_PriorityInfoList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GSM-PriorityInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GSM-PriorityInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GSM-PriorityInfo", (int32_t)i, "GSM-PriorityInfoList");
+      stat = asn1PE_UMTS_GSM_PriorityInfo(ctx, (const GSM_PriorityInfo*)node->data);
+      RT_CHECK(ctx, stat, 0, "GSM-PriorityInfo", (int32_t)i, "GSM-PriorityInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GSMCellGroupingList(rtxContext* RT_RESTRICT ctx, const GSMCellGroupingList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GSMCellGroupingList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GSMCellGroupingList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GSM-CellID", (int32_t)i, "GSMCellGroupingList");
+      stat = asn1PE_UMTS_GSM_CellID(ctx, (const GSM_CellID*)node->data);
+      RT_CHECK(ctx, stat, 0, "GSM-CellID", (int32_t)i, "GSMCellGroupingList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IdleIntervalInfo(rtxContext* RT_RESTRICT ctx, const IdleIntervalInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IdleIntervalInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IdleIntervalInfo");
+   /* k */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->k - 2) > 1u) {
+         rtxErrAddStrParm(ctx, "k");
+         rtxErrAddUIntParm(ctx, pvalue->k);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "k", -1, "IdleIntervalInfo");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->k, 2, 3);
+      RT_CHECK(ctx, stat, 0, "k", -1, "IdleIntervalInfo");
+   }
+   /* offset */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->offset > 7u) {
+         rtxErrAddStrParm(ctx, "offset");
+         rtxErrAddUIntParm(ctx, pvalue->offset);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "offset", -1, "IdleIntervalInfo");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->offset, 0, 7);
+      RT_CHECK(ctx, stat, 0, "offset", -1, "IdleIntervalInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqCell_LCR_r4(rtxContext* RT_RESTRICT ctx, const InterFreqCell_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCell-LCR-r4");
+   /* frequencyInfo */
+   stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "InterFreqCell-LCR-r4");
+   /* nonFreqRelatedEventResults */
+   stat = asn1PE_UMTS_CellMeasurementEventResults_LCR_r4(ctx, &pvalue->nonFreqRelatedEventResults);
+   RT_CHECK(ctx, stat, 0, "nonFreqRelatedEventResults", -1, "InterFreqCell-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCell(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCell");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCell");
+   /* interFreqCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->interFreqCellID > 31u) {
+         rtxErrAddStrParm(ctx, "InterFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCell");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->interFreqCellID, 0, 31);
+      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCell");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCell");
+   }
+   /* cellInfo */
+   stat = asn1PE_UMTS_CellInfo(ctx, &pvalue->cellInfo);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCell");
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellList(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewInterFreqCellList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewInterFreqCell", (int32_t)i, "NewInterFreqCellList");
+      stat = asn1PE_UMTS_NewInterFreqCell(ctx, (const NewInterFreqCell*)node->data);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCell", (int32_t)i, "NewInterFreqCellList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqCellInfoList(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellInfoList");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoList");
+   /* removedInterFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoList");
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_NewInterFreqCellList(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoList");
+   }
+   /* cellsForInterFreqMeasList */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_CellsForInterFreqMeasList(ctx, &pvalue->cellsForInterFreqMeasList);
+      RT_CHECK(ctx, stat, 0, "cellsForInterFreqMeasList", -1, "InterFreqCellInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCell_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCell-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCell-r4");
+   /* interFreqCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->interFreqCellID > 31u) {
+         rtxErrAddStrParm(ctx, "InterFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCell-r4");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->interFreqCellID, 0, 31);
+      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCell-r4");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCell-r4");
+   }
+   /* cellInfo */
+   stat = asn1PE_UMTS_CellInfo_r4(ctx, &pvalue->cellInfo);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCell-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellList_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellList_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellList-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewInterFreqCellList-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewInterFreqCell-r4", (int32_t)i, "NewInterFreqCellList-r4");
+      stat = asn1PE_UMTS_NewInterFreqCell_r4(ctx, (const NewInterFreqCell_r4*)node->data);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCell-r4", (int32_t)i, "NewInterFreqCellList-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqCellInfoList_r4(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoList_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellInfoList-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoList-r4");
+   /* removedInterFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoList-r4");
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_NewInterFreqCellList_r4(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoList-r4");
+   }
+   /* cellsForInterFreqMeasList */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_CellsForInterFreqMeasList(ctx, &pvalue->cellsForInterFreqMeasList);
+      RT_CHECK(ctx, stat, 0, "cellsForInterFreqMeasList", -1, "InterFreqCellInfoList-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCell_r8_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_r8_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* intraSecondaryFreqIndicator */
+   stat = rtxEncBit(ctx, pvalue->intraSecondaryFreqIndicator);
+   RT_CHECK(ctx, stat, 0, "intraSecondaryFreqIndicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCell_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_r8_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "continue");
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "newOperation");
-         if (pvalue->u.newOperation == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HS_DSCH_SPS_NewOperation_TDD128(ctx, pvalue->u.newOperation);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = asn1PE_UMTS_NewInterFreqCell_r8_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
          break;
       default:
          break;
@@ -8610,107 +6400,106 @@ int asn1PE_UMTS_HS_DSCH_SPS_Information_TDD128_hs_dsch_SPS_Operation(rtxContext*
    return 0;
 }
 
-int asn1PE_UMTS_HS_DSCH_SPS_Information_TDD128(rtxContext* ctx, const HS_DSCH_SPS_Information_TDD128* pvalue)
+int asn1PE_UMTS_NewInterFreqCell_r8(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_r8* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HS-DSCH-SPS-Information-TDD128");
-   /* hs-dsch-SPS-Operation */
-   rtxCtxtPushElemName(ctx, "hs-dsch-SPS-Operation");
-   stat = asn1PE_UMTS_HS_DSCH_SPS_Information_TDD128_hs_dsch_SPS_Operation(ctx, &pvalue->hs_dsch_SPS_Operation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_LessTFSList_element(rtxContext* ctx, const HS_SCCH_LessTFSList_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* hs-scch-LessTFSI */
-   rtxCtxtPushElemName(ctx, "hs-scch-LessTFSI");
-   if ((uint64_t)(pvalue->hs_scch_LessTFSI - 1) > 89u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->hs_scch_LessTFSI);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCell-r8");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCell-r8");
+   /* interFreqCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->interFreqCellID > 31u) {
+         rtxErrAddStrParm(ctx, "InterFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCell-r8");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->interFreqCellID, 0, 31);
+      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCell-r8");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->hs_scch_LessTFSI, 1, 90);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hs-scch-LessSecondCodeSupport */
-   rtxCtxtPushElemName(ctx, "hs-scch-LessSecondCodeSupport");
-   stat = rtxEncBit(ctx, pvalue->hs_scch_LessSecondCodeSupport);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   /* frequencyInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCell-r8");
+   }
+   /* cellInfo */
+   stat = asn1PE_UMTS_CellInfo_r4(ctx, &pvalue->cellInfo);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCell-r8");
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_NewInterFreqCell_r8_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "NewInterFreqCell-r8");
    return 0;
 }
 
-int asn1PE_UMTS_HS_SCCH_LessTFSList(rtxContext* ctx, const HS_SCCH_LessTFSList* pvalue)
+int asn1PE_UMTS_NewInterFreqCellList_r8(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellList_r8* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellList-r8");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "HS-SCCH-LessTFSList");
-   RT_SET_SIZE(ctx, 1, 4);
+   RT_SET_SIZE(ctx, 1, 32);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewInterFreqCellList-r8");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_HS_SCCH_LessTFSList_element(ctx, (const HS_SCCH_LessTFSList_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewInterFreqCell-r8", (int32_t)i, "NewInterFreqCellList-r8");
+      stat = asn1PE_UMTS_NewInterFreqCell_r8(ctx, (const NewInterFreqCell_r8*)node->data);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCell-r8", (int32_t)i, "NewInterFreqCellList-r8");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_HS_SCCH_Less_NewOperation(rtxContext* ctx, const HS_SCCH_Less_NewOperation* pvalue)
+int asn1PE_UMTS_InterFreqCellInfoList_r8(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoList_r8* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HS-SCCH-Less-NewOperation");
-   /* hs-pdsch-CodeIndex */
-   rtxCtxtPushElemName(ctx, "hs-pdsch-CodeIndex");
-   if ((uint64_t)(pvalue->hs_pdsch_CodeIndex - 1) > 14u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->hs_pdsch_CodeIndex);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellInfoList-r8");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoList-r8");
+   /* removedInterFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoList-r8");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->hs_pdsch_CodeIndex, 1, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hs-scch-LessTFS */
-   rtxCtxtPushElemName(ctx, "hs-scch-LessTFS");
-   stat = asn1PE_UMTS_HS_SCCH_LessTFSList(ctx, &pvalue->hs_scch_LessTFS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_NewInterFreqCellList_r8(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoList-r8");
+   }
+   /* cellsForInterFreqMeasList */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_CellsForInterFreqMeasList(ctx, &pvalue->cellsForInterFreqMeasList);
+      RT_CHECK(ctx, stat, 0, "cellsForInterFreqMeasList", -1, "InterFreqCellInfoList-r8");
+   }
    return 0;
 }
 
-int asn1PE_UMTS_HS_SCCH_LessInfo_r7_hs_scchLessOperation(rtxContext* ctx, const HS_SCCH_LessInfo_r7_hs_scchLessOperation* pvalue)
+int asn1PE_UMTS_NewInterFreqCell_r9_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_r9_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* intraSecondaryFreqIndicator */
+   stat = rtxEncBit(ctx, pvalue->intraSecondaryFreqIndicator);
+   RT_CHECK(ctx, stat, 0, "intraSecondaryFreqIndicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCell_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_r9_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "continue");
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "newOperation");
-         if (pvalue->u.newOperation == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HS_SCCH_Less_NewOperation(ctx, pvalue->u.newOperation);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = asn1PE_UMTS_NewInterFreqCell_r9_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
          break;
       default:
          break;
@@ -8718,126 +6507,2059 @@ int asn1PE_UMTS_HS_SCCH_LessInfo_r7_hs_scchLessOperation(rtxContext* ctx, const 
    return 0;
 }
 
-int asn1PE_UMTS_HS_SCCH_LessInfo_r7(rtxContext* ctx, const HS_SCCH_LessInfo_r7* pvalue)
+int asn1PE_UMTS_NewInterFreqCell_r9(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_r9* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HS-SCCH-LessInfo-r7");
-   /* hs-scchLessOperation */
-   rtxCtxtPushElemName(ctx, "hs-scchLessOperation");
-   stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7_hs_scchLessOperation(ctx, &pvalue->hs_scchLessOperation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCell-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCell-r9");
+   /* interFreqCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->interFreqCellID > 31u) {
+         rtxErrAddStrParm(ctx, "InterFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCell-r9");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->interFreqCellID, 0, 31);
+      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCell-r9");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCell-r9");
+   }
+   /* cellInfo */
+   stat = asn1PE_UMTS_CellInfo_r9(ctx, &pvalue->cellInfo);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCell-r9");
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_NewInterFreqCell_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "NewInterFreqCell-r9");
    return 0;
 }
 
-int asn1PE_UMTS_HS_SICH_ReferenceSignalInfoList_element(rtxContext* ctx, const HS_SICH_ReferenceSignalInfoList_element* pvalue)
+int asn1PE_UMTS_NewInterFreqCellList_r9(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellList_r9* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* midambleConfiguration */
-   rtxCtxtPushElemName(ctx, "midambleConfiguration");
-   if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midambleShift */
-   rtxCtxtPushElemName(ctx, "midambleShift");
-   if ((uint64_t)pvalue->midambleShift > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* timeSlot */
-   rtxCtxtPushElemName(ctx, "timeSlot");
-   if ((uint64_t)(pvalue->timeSlot - 1) > 4u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->timeSlot);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeSlot, 1, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_ReferenceSignalInfoList(rtxContext* ctx, const HS_SICH_ReferenceSignalInfoList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellList-r9");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "HS-SICH-ReferenceSignalInfoList");
-   RT_SET_SIZE(ctx, 1, 4);
+   RT_SET_SIZE(ctx, 1, 32);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewInterFreqCellList-r9");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_HS_SICH_ReferenceSignalInfoList_element(ctx, (const HS_SICH_ReferenceSignalInfoList_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewInterFreqCell-r9", (int32_t)i, "NewInterFreqCellList-r9");
+      stat = asn1PE_UMTS_NewInterFreqCell_r9(ctx, (const NewInterFreqCell_r9*)node->data);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCell-r9", (int32_t)i, "NewInterFreqCellList-r9");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_MIMO_Operation(rtxContext* ctx, MIMO_Operation value)
+int asn1PE_UMTS_InterFreqSIAcquisition_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const InterFreqSIAcquisition_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MIMO-Operation");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* primaryScramblingCode */
+   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryScramblingCode);
+   RT_CHECK(ctx, stat, 0, "primaryScramblingCode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqSIAcquisition_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const InterFreqSIAcquisition_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_InterFreqSIAcquisition_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqSIAcquisition(rtxContext* RT_RESTRICT ctx, const InterFreqSIAcquisition* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqSIAcquisition");
+   /* frequencyInfo */
+   stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "InterFreqSIAcquisition");
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_InterFreqSIAcquisition_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "InterFreqSIAcquisition");
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqCellInfoList_r9(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoList_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellInfoList-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoList-r9");
+   /* removedInterFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoList-r9");
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_NewInterFreqCellList_r9(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoList-r9");
+   }
+   /* cellsForInterFreqMeasList */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_CellsForInterFreqMeasList(ctx, &pvalue->cellsForInterFreqMeasList);
+      RT_CHECK(ctx, stat, 0, "cellsForInterFreqMeasList", -1, "InterFreqCellInfoList-r9");
+   }
+   /* cSGInterFreqCellInfoList */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_CSGInterFreqCellInfoList(ctx, &pvalue->cSGInterFreqCellInfoList);
+      RT_CHECK(ctx, stat, 0, "cSGInterFreqCellInfoList", -1, "InterFreqCellInfoList-r9");
+   }
+   /* interFreqSIAcquisition */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_InterFreqSIAcquisition(ctx, &pvalue->interFreqSIAcquisition);
+      RT_CHECK(ctx, stat, 0, "interFreqSIAcquisition", -1, "InterFreqCellInfoList-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqCellList_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const InterFreqCellList_LCR_r4_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellList-LCR-r4-ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "InterFreqCellList-LCR-r4-ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "InterFreqCell-LCR-r4", (int32_t)i, "InterFreqCellList-LCR-r4-ext");
+      stat = asn1PE_UMTS_InterFreqCell_LCR_r4(ctx, (const InterFreqCell_LCR_r4*)node->data);
+      RT_CHECK(ctx, stat, 0, "InterFreqCell-LCR-r4", (int32_t)i, "InterFreqCellList-LCR-r4-ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqCellMeasuredResultsList(rtxContext* RT_RESTRICT ctx, const InterFreqCellMeasuredResultsList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellMeasuredResultsList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "InterFreqCellMeasuredResultsList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CellMeasuredResults", (int32_t)i, "InterFreqCellMeasuredResultsList");
+      stat = asn1PE_UMTS_CellMeasuredResults(ctx, (const CellMeasuredResults*)node->data);
+      RT_CHECK(ctx, stat, 0, "CellMeasuredResults", (int32_t)i, "InterFreqCellMeasuredResultsList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqCellMeasuredResultsList_v920ext(rtxContext* RT_RESTRICT ctx, const InterFreqCellMeasuredResultsList_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellMeasuredResultsList-v920ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "InterFreqCellMeasuredResultsList-v920ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CellMeasuredResults-v920ext", (int32_t)i, "InterFreqCellMeasuredResultsList-v920ext");
+      stat = asn1PE_UMTS_CellMeasuredResults_v920ext(ctx, (const CellMeasuredResults_v920ext*)node->data);
+      RT_CHECK(ctx, stat, 0, "CellMeasuredResults-v920ext", (int32_t)i, "InterFreqCellMeasuredResultsList-v920ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqEvent(rtxContext* RT_RESTRICT ctx, const InterFreqEvent* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqEvent");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 5);
+   RT_CHECK(ctx, stat, 0, "t", -1, "InterFreqEvent");
+   if (pvalue->t - 1 > 5) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterFreqEvent");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.event2a == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event2a", -1, "InterFreqEvent");
+         stat = asn1PE_UMTS_Event2a(ctx, pvalue->u.event2a);
+         RT_CHECK(ctx, stat, 0, "event2a", -1, "InterFreqEvent");
+         break;
+      case 2:
+         if (pvalue->u.event2b == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event2b", -1, "InterFreqEvent");
+         stat = asn1PE_UMTS_Event2b(ctx, pvalue->u.event2b);
+         RT_CHECK(ctx, stat, 0, "event2b", -1, "InterFreqEvent");
+         break;
+      case 3:
+         if (pvalue->u.event2c == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event2c", -1, "InterFreqEvent");
+         stat = asn1PE_UMTS_Event2c(ctx, pvalue->u.event2c);
+         RT_CHECK(ctx, stat, 0, "event2c", -1, "InterFreqEvent");
+         break;
+      case 4:
+         if (pvalue->u.event2d == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event2d", -1, "InterFreqEvent");
+         stat = asn1PE_UMTS_Event2d(ctx, pvalue->u.event2d);
+         RT_CHECK(ctx, stat, 0, "event2d", -1, "InterFreqEvent");
+         break;
+      case 5:
+         if (pvalue->u.event2e == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event2e", -1, "InterFreqEvent");
+         stat = asn1PE_UMTS_Event2e(ctx, pvalue->u.event2e);
+         RT_CHECK(ctx, stat, 0, "event2e", -1, "InterFreqEvent");
+         break;
+      case 6:
+         if (pvalue->u.event2f == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event2f", -1, "InterFreqEvent");
+         stat = asn1PE_UMTS_Event2f(ctx, pvalue->u.event2f);
+         RT_CHECK(ctx, stat, 0, "event2f", -1, "InterFreqEvent");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqEvent_r6(rtxContext* RT_RESTRICT ctx, const InterFreqEvent_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqEvent-r6");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 5);
+   RT_CHECK(ctx, stat, 0, "t", -1, "InterFreqEvent-r6");
+   if (pvalue->t - 1 > 5) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterFreqEvent-r6");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.event2a == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event2a", -1, "InterFreqEvent-r6");
+         stat = asn1PE_UMTS_Event2a_r6(ctx, pvalue->u.event2a);
+         RT_CHECK(ctx, stat, 0, "event2a", -1, "InterFreqEvent-r6");
+         break;
+      case 2:
+         if (pvalue->u.event2b == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event2b", -1, "InterFreqEvent-r6");
+         stat = asn1PE_UMTS_Event2b_r6(ctx, pvalue->u.event2b);
+         RT_CHECK(ctx, stat, 0, "event2b", -1, "InterFreqEvent-r6");
+         break;
+      case 3:
+         if (pvalue->u.event2c == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event2c", -1, "InterFreqEvent-r6");
+         stat = asn1PE_UMTS_Event2c_r6(ctx, pvalue->u.event2c);
+         RT_CHECK(ctx, stat, 0, "event2c", -1, "InterFreqEvent-r6");
+         break;
+      case 4:
+         if (pvalue->u.event2d == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event2d", -1, "InterFreqEvent-r6");
+         stat = asn1PE_UMTS_Event2d_r6(ctx, pvalue->u.event2d);
+         RT_CHECK(ctx, stat, 0, "event2d", -1, "InterFreqEvent-r6");
+         break;
+      case 5:
+         if (pvalue->u.event2e == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event2e", -1, "InterFreqEvent-r6");
+         stat = asn1PE_UMTS_Event2e_r6(ctx, pvalue->u.event2e);
+         RT_CHECK(ctx, stat, 0, "event2e", -1, "InterFreqEvent-r6");
+         break;
+      case 6:
+         if (pvalue->u.event2f == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event2f", -1, "InterFreqEvent-r6");
+         stat = asn1PE_UMTS_Event2f_r6(ctx, pvalue->u.event2f);
+         RT_CHECK(ctx, stat, 0, "event2f", -1, "InterFreqEvent-r6");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqEventList(rtxContext* RT_RESTRICT ctx, const InterFreqEventList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqEventList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "InterFreqEventList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "InterFreqEvent", (int32_t)i, "InterFreqEventList");
+      stat = asn1PE_UMTS_InterFreqEvent(ctx, (const InterFreqEvent*)node->data);
+      RT_CHECK(ctx, stat, 0, "InterFreqEvent", (int32_t)i, "InterFreqEventList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqEventList_r6(rtxContext* RT_RESTRICT ctx, const InterFreqEventList_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqEventList-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "InterFreqEventList-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "InterFreqEvent-r6", (int32_t)i, "InterFreqEventList-r6");
+      stat = asn1PE_UMTS_InterFreqEvent_r6(ctx, (const InterFreqEvent_r6*)node->data);
+      RT_CHECK(ctx, stat, 0, "InterFreqEvent-r6", (int32_t)i, "InterFreqEventList-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFrequencyMeasuredResultsList_v590ext(rtxContext* RT_RESTRICT ctx, const InterFrequencyMeasuredResultsList_v590ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFrequencyMeasuredResultsList-v590ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "InterFrequencyMeasuredResultsList-v590ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DeltaRSCPPerCell", (int32_t)i, "InterFrequencyMeasuredResultsList-v590ext");
+      stat = asn1PE_UMTS_DeltaRSCPPerCell(ctx, (const DeltaRSCPPerCell*)node->data);
+      RT_CHECK(ctx, stat, 0, "DeltaRSCPPerCell", (int32_t)i, "InterFrequencyMeasuredResultsList-v590ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ThreholdNonUsedFrequency_deltaList(rtxContext* RT_RESTRICT ctx, const ThreholdNonUsedFrequency_deltaList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ThreholdNonUsedFrequency-deltaList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "ThreholdNonUsedFrequency-deltaList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DeltaRSCPPerCell", (int32_t)i, "ThreholdNonUsedFrequency-deltaList");
+      stat = asn1PE_UMTS_DeltaRSCPPerCell(ctx, (const DeltaRSCPPerCell*)node->data);
+      RT_CHECK(ctx, stat, 0, "DeltaRSCPPerCell", (int32_t)i, "ThreholdNonUsedFrequency-deltaList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Inter_FreqEventCriteria_v590ext(rtxContext* RT_RESTRICT ctx, const Inter_FreqEventCriteria_v590ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Inter-FreqEventCriteria-v590ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Inter-FreqEventCriteria-v590ext");
+   /* threholdUsedFrequency-delta */
+   if (pvalue->threholdUsedFrequency_delta < -5 || pvalue->threholdUsedFrequency_delta > -1) {
+      rtxErrAddStrParm(ctx, "DeltaRSCP");
+      rtxErrAddIntParm(ctx, pvalue->threholdUsedFrequency_delta);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaRSCP", "threholdUsedFrequency-delta", -1, "Inter-FreqEventCriteria-v590ext");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->threholdUsedFrequency_delta, -5, -1);
+   RT_CHECK(ctx, stat, "DeltaRSCP", "threholdUsedFrequency-delta", -1, "Inter-FreqEventCriteria-v590ext");
+   /* threholdNonUsedFrequency-deltaList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ThreholdNonUsedFrequency_deltaList(ctx, &pvalue->threholdNonUsedFrequency_deltaList);
+      RT_CHECK(ctx, stat, 0, "threholdNonUsedFrequency-deltaList", -1, "Inter-FreqEventCriteria-v590ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Inter_FreqEventCriteriaList_v590ext(rtxContext* RT_RESTRICT ctx, const Inter_FreqEventCriteriaList_v590ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Inter-FreqEventCriteriaList-v590ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "Inter-FreqEventCriteriaList-v590ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "Inter-FreqEventCriteria-v590ext", (int32_t)i, "Inter-FreqEventCriteriaList-v590ext");
+      stat = asn1PE_UMTS_Inter_FreqEventCriteria_v590ext(ctx, (const Inter_FreqEventCriteria_v590ext*)node->data);
+      RT_CHECK(ctx, stat, 0, "Inter-FreqEventCriteria-v590ext", (int32_t)i, "Inter-FreqEventCriteriaList-v590ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFrequencyMeasuredResultsList_v590ext(rtxContext* RT_RESTRICT ctx, const IntraFrequencyMeasuredResultsList_v590ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFrequencyMeasuredResultsList-v590ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "IntraFrequencyMeasuredResultsList-v590ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DeltaRSCPPerCell", (int32_t)i, "IntraFrequencyMeasuredResultsList-v590ext");
+      stat = asn1PE_UMTS_DeltaRSCPPerCell(ctx, (const DeltaRSCPPerCell*)node->data);
+      RT_CHECK(ctx, stat, 0, "DeltaRSCPPerCell", (int32_t)i, "IntraFrequencyMeasuredResultsList-v590ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqEventResults_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const InterFreqEventResults_LCR_r4_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqEventResults-LCR-r4-ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqEventResults-LCR-r4-ext");
+   /* eventID */
+   if (pvalue->eventID > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->eventID);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "EventIDInterFreq", "eventID", -1, "InterFreqEventResults-LCR-r4-ext");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->eventID, 0, 7);
+   RT_CHECK(ctx, stat, "EventIDInterFreq", "eventID", -1, "InterFreqEventResults-LCR-r4-ext");
+   /* interFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterFreqCellList_LCR_r4_ext(ctx, &pvalue->interFreqCellList);
+      RT_CHECK(ctx, stat, 0, "interFreqCellList", -1, "InterFreqEventResults-LCR-r4-ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria(rtxContext* RT_RESTRICT ctx, const InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* intraFreqMeasQuantity */
+   stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
+   RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* freqQualityEstimateQuantity-FDD */
+   if (pvalue->freqQualityEstimateQuantity_FDD > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->freqQualityEstimateQuantity_FDD);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "FreqQualityEstimateQuantity-FDD", "freqQualityEstimateQuantity-FDD", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->freqQualityEstimateQuantity_FDD, 0, 1);
+   RT_CHECK(ctx, stat, "FreqQualityEstimateQuantity-FDD", "freqQualityEstimateQuantity-FDD", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* freqQualityEstimateQuantity-TDD */
+   if (pvalue->freqQualityEstimateQuantity_TDD > 0) {
+      rtxErrAddUIntParm(ctx, pvalue->freqQualityEstimateQuantity_TDD);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "FreqQualityEstimateQuantity-TDD", "freqQualityEstimateQuantity-TDD", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->freqQualityEstimateQuantity_TDD, 0, 0);
+   RT_CHECK(ctx, stat, "FreqQualityEstimateQuantity-TDD", "freqQualityEstimateQuantity-TDD", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria(rtxContext* RT_RESTRICT ctx, const InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->filterCoefficient != 0) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* filterCoefficient */
+   if (pvalue->filterCoefficient != 0) {
+      if (pvalue->filterCoefficient > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->filterCoefficient);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "FilterCoefficient", "filterCoefficient", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->filterCoefficient, 0, 15);
+      RT_CHECK(ctx, stat, "FilterCoefficient", "filterCoefficient", -1, 0);
+   }
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria(rtxContext* RT_RESTRICT ctx, const InterFreqMeasQuantity_reportingCriteria* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFreqReportingCriteria", -1, 0);
+         stat = asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria(ctx, pvalue->u.intraFreqReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.interFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interFreqReportingCriteria", -1, 0);
+         stat = asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria(ctx, pvalue->u.interFreqReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "interFreqReportingCriteria", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqMeasQuantity(rtxContext* RT_RESTRICT ctx, const InterFreqMeasQuantity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasQuantity");
+   /* reportingCriteria */
+   stat = asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria(ctx, &pvalue->reportingCriteria);
+   RT_CHECK(ctx, stat, 0, "reportingCriteria", -1, "InterFreqMeasQuantity");
+   return 0;
+}
+
+int asn1PE_UMTS_UTRA_CarrierRSSI(rtxContext* RT_RESTRICT ctx, UTRA_CarrierRSSI value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 127u) {
+      rtxErrAddStrParm(ctx, "UTRA-CarrierRSSI");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UTRA-CarrierRSSI");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 127);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UTRA-CarrierRSSI");
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqMeasuredResults(rtxContext* RT_RESTRICT ctx, const InterFreqMeasuredResults* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasuredResults");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasuredResults");
+   /* frequencyInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "InterFreqMeasuredResults");
+   }
+   /* utra-CarrierRSSI */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->utra_CarrierRSSI > 127u) {
+         rtxErrAddStrParm(ctx, "UTRA-CarrierRSSI");
+         rtxErrAddUIntParm(ctx, pvalue->utra_CarrierRSSI);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UTRA-CarrierRSSI", "utra-CarrierRSSI", -1, "InterFreqMeasuredResults");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->utra_CarrierRSSI, 0, 127);
+      RT_CHECK(ctx, stat, "UTRA-CarrierRSSI", "utra-CarrierRSSI", -1, "InterFreqMeasuredResults");
+   }
+   /* interFreqCellMeasuredResultsList */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_InterFreqCellMeasuredResultsList(ctx, &pvalue->interFreqCellMeasuredResultsList);
+      RT_CHECK(ctx, stat, 0, "interFreqCellMeasuredResultsList", -1, "InterFreqMeasuredResults");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqMeasuredResults_v920ext(rtxContext* RT_RESTRICT ctx, const InterFreqMeasuredResults_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasuredResults-v920ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasuredResults-v920ext");
+   /* interFreqCellMeasuredResultsList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterFreqCellMeasuredResultsList_v920ext(ctx, &pvalue->interFreqCellMeasuredResultsList);
+      RT_CHECK(ctx, stat, 0, "interFreqCellMeasuredResultsList", -1, "InterFreqMeasuredResults-v920ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqMeasuredResultsList(rtxContext* RT_RESTRICT ctx, const InterFreqMeasuredResultsList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasuredResultsList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "InterFreqMeasuredResultsList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "InterFreqMeasuredResults", (int32_t)i, "InterFreqMeasuredResultsList");
+      stat = asn1PE_UMTS_InterFreqMeasuredResults(ctx, (const InterFreqMeasuredResults*)node->data);
+      RT_CHECK(ctx, stat, 0, "InterFreqMeasuredResults", (int32_t)i, "InterFreqMeasuredResultsList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqMeasuredResultsList_v920ext(rtxContext* RT_RESTRICT ctx, const InterFreqMeasuredResultsList_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasuredResultsList-v920ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "InterFreqMeasuredResultsList-v920ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "InterFreqMeasuredResults-v920ext", (int32_t)i, "InterFreqMeasuredResultsList-v920ext");
+      stat = asn1PE_UMTS_InterFreqMeasuredResults_v920ext(ctx, (const InterFreqMeasuredResults_v920ext*)node->data);
+      RT_CHECK(ctx, stat, 0, "InterFreqMeasuredResults-v920ext", (int32_t)i, "InterFreqMeasuredResultsList-v920ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqRACHRepCellsList(rtxContext* RT_RESTRICT ctx, const InterFreqRACHRepCellsList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqRACHRepCellsList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "InterFreqRACHRepCellsList");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 31u) {
+         rtxErrAddStrParm(ctx, "InterFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterFreqCellID", "InterFreqCellID", (int32_t)i, "InterFreqRACHRepCellsList");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 31);
+      RT_CHECK(ctx, stat, "InterFreqCellID", "InterFreqCellID", (int32_t)i, "InterFreqRACHRepCellsList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqReportingCriteria(rtxContext* RT_RESTRICT ctx, const InterFreqReportingCriteria* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqReportingCriteria");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqReportingCriteria");
+   /* interFreqEventList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterFreqEventList(ctx, &pvalue->interFreqEventList);
+      RT_CHECK(ctx, stat, 0, "interFreqEventList", -1, "InterFreqReportingCriteria");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PeriodicalWithReportingCellStatus(rtxContext* RT_RESTRICT ctx, const PeriodicalWithReportingCellStatus* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PeriodicalWithReportingCellStatus");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PeriodicalWithReportingCellStatus");
+   /* periodicalReportingCriteria */
+   stat = asn1PE_UMTS_PeriodicalReportingCriteria(ctx, &pvalue->periodicalReportingCriteria);
+   RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "PeriodicalWithReportingCellStatus");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "PeriodicalWithReportingCellStatus");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ReportingCellStatusOpt(rtxContext* RT_RESTRICT ctx, const ReportingCellStatusOpt* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ReportingCellStatusOpt");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ReportingCellStatusOpt");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "ReportingCellStatusOpt");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqReportCriteria(rtxContext* RT_RESTRICT ctx, const InterFreqReportCriteria* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqReportCriteria");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK(ctx, stat, 0, "t", -1, "InterFreqReportCriteria");
+   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterFreqReportCriteria");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria");
+         stat = asn1PE_UMTS_IntraFreqReportingCriteria(ctx, pvalue->u.intraFreqReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria");
+         break;
+      case 2:
+         if (pvalue->u.interFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria");
+         stat = asn1PE_UMTS_InterFreqReportingCriteria(ctx, pvalue->u.interFreqReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria");
+         break;
+      case 3:
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria");
+         stat = asn1PE_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria");
+         break;
+      case 4:
+         if (pvalue->u.noReporting == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "noReporting", -1, "InterFreqReportCriteria");
+         stat = asn1PE_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
+         RT_CHECK(ctx, stat, 0, "noReporting", -1, "InterFreqReportCriteria");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqEvent_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqEvent_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEvent-r4");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 8);
+   RT_CHECK(ctx, stat, 0, "t", -1, "IntraFreqEvent-r4");
+   if (pvalue->t - 1 > 8) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqEvent-r4");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.e1a == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1a", -1, "IntraFreqEvent-r4");
+         stat = asn1PE_UMTS_Event1a_r4(ctx, pvalue->u.e1a);
+         RT_CHECK(ctx, stat, 0, "e1a", -1, "IntraFreqEvent-r4");
+         break;
+      case 2:
+         if (pvalue->u.e1b == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1b", -1, "IntraFreqEvent-r4");
+         stat = asn1PE_UMTS_Event1b_r4(ctx, pvalue->u.e1b);
+         RT_CHECK(ctx, stat, 0, "e1b", -1, "IntraFreqEvent-r4");
+         break;
+      case 3:
+         if (pvalue->u.e1c == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1c", -1, "IntraFreqEvent-r4");
+         stat = asn1PE_UMTS_Event1c(ctx, pvalue->u.e1c);
+         RT_CHECK(ctx, stat, 0, "e1c", -1, "IntraFreqEvent-r4");
+         break;
+      case 4:
+         break;
+      case 5:
+         if (pvalue->u.e1e == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1e", -1, "IntraFreqEvent-r4");
+         stat = asn1PE_UMTS_Event1e(ctx, pvalue->u.e1e);
+         RT_CHECK(ctx, stat, 0, "e1e", -1, "IntraFreqEvent-r4");
+         break;
+      case 6:
+         if (pvalue->u.e1f == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1f", -1, "IntraFreqEvent-r4");
+         stat = asn1PE_UMTS_Event1f(ctx, pvalue->u.e1f);
+         RT_CHECK(ctx, stat, 0, "e1f", -1, "IntraFreqEvent-r4");
+         break;
+      case 7:
+         break;
+      case 8:
+         if (pvalue->u.e1h < -115 || pvalue->u.e1h > 165) {
+            rtxErrAddStrParm(ctx, "ThresholdUsedFrequency");
+            rtxErrAddIntParm(ctx, pvalue->u.e1h);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "ThresholdUsedFrequency", "e1h", -1, "IntraFreqEvent-r4");
+         }
+         stat = pe_ConsInt64(ctx, pvalue->u.e1h, -115, 165);
+         RT_CHECK(ctx, stat, "ThresholdUsedFrequency", "e1h", -1, "IntraFreqEvent-r4");
+         break;
+      case 9:
+         if (pvalue->u.e1i < -115 || pvalue->u.e1i > 165) {
+            rtxErrAddStrParm(ctx, "ThresholdUsedFrequency");
+            rtxErrAddIntParm(ctx, pvalue->u.e1i);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "ThresholdUsedFrequency", "e1i", -1, "IntraFreqEvent-r4");
+         }
+         stat = pe_ConsInt64(ctx, pvalue->u.e1i, -115, 165);
+         RT_CHECK(ctx, stat, "ThresholdUsedFrequency", "e1i", -1, "IntraFreqEvent-r4");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqEventCriteria_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteria_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventCriteria-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEventCriteria-r4");
+   /* event */
+   stat = asn1PE_UMTS_IntraFreqEvent_r4(ctx, &pvalue->event);
+   RT_CHECK(ctx, stat, 0, "event", -1, "IntraFreqEventCriteria-r4");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 15u) {
+      rtxErrAddStrParm(ctx, "Hysteresis");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 15);
+   RT_CHECK(ctx, stat, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria-r4");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria-r4");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "IntraFreqEventCriteria-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqEventCriteriaList_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaList_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventCriteriaList-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "IntraFreqEventCriteriaList-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "IntraFreqEventCriteria-r4", (int32_t)i, "IntraFreqEventCriteriaList-r4");
+      stat = asn1PE_UMTS_IntraFreqEventCriteria_r4(ctx, (const IntraFreqEventCriteria_r4*)node->data);
+      RT_CHECK(ctx, stat, 0, "IntraFreqEventCriteria-r4", (int32_t)i, "IntraFreqEventCriteriaList-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqReportingCriteria_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingCriteria_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqReportingCriteria-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqReportingCriteria-r4");
+   /* eventCriteriaList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntraFreqEventCriteriaList_r4(ctx, &pvalue->eventCriteriaList);
+      RT_CHECK(ctx, stat, 0, "eventCriteriaList", -1, "IntraFreqReportingCriteria-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqReportCriteria_r4(rtxContext* RT_RESTRICT ctx, const InterFreqReportCriteria_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqReportCriteria-r4");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK(ctx, stat, 0, "t", -1, "InterFreqReportCriteria-r4");
+   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterFreqReportCriteria-r4");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r4");
+         stat = asn1PE_UMTS_IntraFreqReportingCriteria_r4(ctx, pvalue->u.intraFreqReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r4");
+         break;
+      case 2:
+         if (pvalue->u.interFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r4");
+         stat = asn1PE_UMTS_InterFreqReportingCriteria(ctx, pvalue->u.interFreqReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r4");
+         break;
+      case 3:
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r4");
+         stat = asn1PE_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r4");
+         break;
+      case 4:
+         if (pvalue->u.noReporting == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "noReporting", -1, "InterFreqReportCriteria-r4");
+         stat = asn1PE_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
+         RT_CHECK(ctx, stat, 0, "noReporting", -1, "InterFreqReportCriteria-r4");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqEvent_r6(rtxContext* RT_RESTRICT ctx, const IntraFreqEvent_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEvent-r6");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 9);
+   RT_CHECK(ctx, stat, 0, "t", -1, "IntraFreqEvent-r6");
+   if (pvalue->t - 1 > 9) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqEvent-r6");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.e1a == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1a", -1, "IntraFreqEvent-r6");
+         stat = asn1PE_UMTS_Event1a_r4(ctx, pvalue->u.e1a);
+         RT_CHECK(ctx, stat, 0, "e1a", -1, "IntraFreqEvent-r6");
+         break;
+      case 2:
+         if (pvalue->u.e1b == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1b", -1, "IntraFreqEvent-r6");
+         stat = asn1PE_UMTS_Event1b_r4(ctx, pvalue->u.e1b);
+         RT_CHECK(ctx, stat, 0, "e1b", -1, "IntraFreqEvent-r6");
+         break;
+      case 3:
+         if (pvalue->u.e1c == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1c", -1, "IntraFreqEvent-r6");
+         stat = asn1PE_UMTS_Event1c(ctx, pvalue->u.e1c);
+         RT_CHECK(ctx, stat, 0, "e1c", -1, "IntraFreqEvent-r6");
+         break;
+      case 4:
+         if (pvalue->u.e1d == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1d", -1, "IntraFreqEvent-r6");
+         stat = asn1PE_UMTS_Event1d(ctx, pvalue->u.e1d);
+         RT_CHECK(ctx, stat, 0, "e1d", -1, "IntraFreqEvent-r6");
+         break;
+      case 5:
+         if (pvalue->u.e1e == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1e", -1, "IntraFreqEvent-r6");
+         stat = asn1PE_UMTS_Event1e_r6(ctx, pvalue->u.e1e);
+         RT_CHECK(ctx, stat, 0, "e1e", -1, "IntraFreqEvent-r6");
+         break;
+      case 6:
+         if (pvalue->u.e1f == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1f", -1, "IntraFreqEvent-r6");
+         stat = asn1PE_UMTS_Event1f_r6(ctx, pvalue->u.e1f);
+         RT_CHECK(ctx, stat, 0, "e1f", -1, "IntraFreqEvent-r6");
+         break;
+      case 7:
+         break;
+      case 8:
+         if (pvalue->u.e1h < -120 || pvalue->u.e1h > 165) {
+            rtxErrAddStrParm(ctx, "ThresholdUsedFrequency-r6");
+            rtxErrAddIntParm(ctx, pvalue->u.e1h);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "ThresholdUsedFrequency-r6", "e1h", -1, "IntraFreqEvent-r6");
+         }
+         stat = pe_ConsInt64(ctx, pvalue->u.e1h, -120, 165);
+         RT_CHECK(ctx, stat, "ThresholdUsedFrequency-r6", "e1h", -1, "IntraFreqEvent-r6");
+         break;
+      case 9:
+         if (pvalue->u.e1i < -120 || pvalue->u.e1i > 165) {
+            rtxErrAddStrParm(ctx, "ThresholdUsedFrequency-r6");
+            rtxErrAddIntParm(ctx, pvalue->u.e1i);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "ThresholdUsedFrequency-r6", "e1i", -1, "IntraFreqEvent-r6");
+         }
+         stat = pe_ConsInt64(ctx, pvalue->u.e1i, -120, 165);
+         RT_CHECK(ctx, stat, "ThresholdUsedFrequency-r6", "e1i", -1, "IntraFreqEvent-r6");
+         break;
+      case 10:
+         if (pvalue->u.e1j == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1j", -1, "IntraFreqEvent-r6");
+         stat = asn1PE_UMTS_Event1j_r6(ctx, pvalue->u.e1j);
+         RT_CHECK(ctx, stat, 0, "e1j", -1, "IntraFreqEvent-r6");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqEventCriteria_r6(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteria_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventCriteria-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEventCriteria-r6");
+   /* event */
+   stat = asn1PE_UMTS_IntraFreqEvent_r6(ctx, &pvalue->event);
+   RT_CHECK(ctx, stat, 0, "event", -1, "IntraFreqEventCriteria-r6");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 15u) {
+      rtxErrAddStrParm(ctx, "Hysteresis");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 15);
+   RT_CHECK(ctx, stat, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria-r6");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria-r6");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "IntraFreqEventCriteria-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqEventCriteriaList_r6(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaList_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventCriteriaList-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "IntraFreqEventCriteriaList-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "IntraFreqEventCriteria-r6", (int32_t)i, "IntraFreqEventCriteriaList-r6");
+      stat = asn1PE_UMTS_IntraFreqEventCriteria_r6(ctx, (const IntraFreqEventCriteria_r6*)node->data);
+      RT_CHECK(ctx, stat, 0, "IntraFreqEventCriteria-r6", (int32_t)i, "IntraFreqEventCriteriaList-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqReportingCriteria_r6(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingCriteria_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqReportingCriteria-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqReportingCriteria-r6");
+   /* eventCriteriaList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntraFreqEventCriteriaList_r6(ctx, &pvalue->eventCriteriaList);
+      RT_CHECK(ctx, stat, 0, "eventCriteriaList", -1, "IntraFreqReportingCriteria-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqReportingCriteria_r6(rtxContext* RT_RESTRICT ctx, const InterFreqReportingCriteria_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqReportingCriteria-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqReportingCriteria-r6");
+   /* interFreqEventList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterFreqEventList_r6(ctx, &pvalue->interFreqEventList);
+      RT_CHECK(ctx, stat, 0, "interFreqEventList", -1, "InterFreqReportingCriteria-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqReportCriteria_r6(rtxContext* RT_RESTRICT ctx, const InterFreqReportCriteria_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqReportCriteria-r6");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK(ctx, stat, 0, "t", -1, "InterFreqReportCriteria-r6");
+   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterFreqReportCriteria-r6");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r6");
+         stat = asn1PE_UMTS_IntraFreqReportingCriteria_r6(ctx, pvalue->u.intraFreqReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r6");
+         break;
+      case 2:
+         if (pvalue->u.interFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r6");
+         stat = asn1PE_UMTS_InterFreqReportingCriteria_r6(ctx, pvalue->u.interFreqReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r6");
+         break;
+      case 3:
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r6");
+         stat = asn1PE_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r6");
+         break;
+      case 4:
+         if (pvalue->u.noReporting == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "noReporting", -1, "InterFreqReportCriteria-r6");
+         stat = asn1PE_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
+         RT_CHECK(ctx, stat, 0, "noReporting", -1, "InterFreqReportCriteria-r6");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqEvent_r7(rtxContext* RT_RESTRICT ctx, const IntraFreqEvent_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEvent-r7");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 9);
+   RT_CHECK(ctx, stat, 0, "t", -1, "IntraFreqEvent-r7");
+   if (pvalue->t - 1 > 9) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqEvent-r7");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.e1a == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1a", -1, "IntraFreqEvent-r7");
+         stat = asn1PE_UMTS_Event1a_r4(ctx, pvalue->u.e1a);
+         RT_CHECK(ctx, stat, 0, "e1a", -1, "IntraFreqEvent-r7");
+         break;
+      case 2:
+         if (pvalue->u.e1b == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1b", -1, "IntraFreqEvent-r7");
+         stat = asn1PE_UMTS_Event1b_r7(ctx, pvalue->u.e1b);
+         RT_CHECK(ctx, stat, 0, "e1b", -1, "IntraFreqEvent-r7");
+         break;
+      case 3:
+         if (pvalue->u.e1c == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1c", -1, "IntraFreqEvent-r7");
+         stat = asn1PE_UMTS_Event1c(ctx, pvalue->u.e1c);
+         RT_CHECK(ctx, stat, 0, "e1c", -1, "IntraFreqEvent-r7");
+         break;
+      case 4:
+         if (pvalue->u.e1d == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1d", -1, "IntraFreqEvent-r7");
+         stat = asn1PE_UMTS_Event1d(ctx, pvalue->u.e1d);
+         RT_CHECK(ctx, stat, 0, "e1d", -1, "IntraFreqEvent-r7");
+         break;
+      case 5:
+         if (pvalue->u.e1e == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1e", -1, "IntraFreqEvent-r7");
+         stat = asn1PE_UMTS_Event1e_r6(ctx, pvalue->u.e1e);
+         RT_CHECK(ctx, stat, 0, "e1e", -1, "IntraFreqEvent-r7");
+         break;
+      case 6:
+         if (pvalue->u.e1f == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1f", -1, "IntraFreqEvent-r7");
+         stat = asn1PE_UMTS_Event1f_r6(ctx, pvalue->u.e1f);
+         RT_CHECK(ctx, stat, 0, "e1f", -1, "IntraFreqEvent-r7");
+         break;
+      case 7:
+         break;
+      case 8:
+         if (pvalue->u.e1h < -120 || pvalue->u.e1h > 165) {
+            rtxErrAddStrParm(ctx, "ThresholdUsedFrequency-r6");
+            rtxErrAddIntParm(ctx, pvalue->u.e1h);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "ThresholdUsedFrequency-r6", "e1h", -1, "IntraFreqEvent-r7");
+         }
+         stat = pe_ConsInt64(ctx, pvalue->u.e1h, -120, 165);
+         RT_CHECK(ctx, stat, "ThresholdUsedFrequency-r6", "e1h", -1, "IntraFreqEvent-r7");
+         break;
+      case 9:
+         if (pvalue->u.e1i < -120 || pvalue->u.e1i > 165) {
+            rtxErrAddStrParm(ctx, "ThresholdUsedFrequency-r6");
+            rtxErrAddIntParm(ctx, pvalue->u.e1i);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "ThresholdUsedFrequency-r6", "e1i", -1, "IntraFreqEvent-r7");
+         }
+         stat = pe_ConsInt64(ctx, pvalue->u.e1i, -120, 165);
+         RT_CHECK(ctx, stat, "ThresholdUsedFrequency-r6", "e1i", -1, "IntraFreqEvent-r7");
+         break;
+      case 10:
+         if (pvalue->u.e1j == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1j", -1, "IntraFreqEvent-r7");
+         stat = asn1PE_UMTS_Event1j_r6(ctx, pvalue->u.e1j);
+         RT_CHECK(ctx, stat, 0, "e1j", -1, "IntraFreqEvent-r7");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqEventCriteria_r7(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteria_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventCriteria-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEventCriteria-r7");
+   /* event */
+   stat = asn1PE_UMTS_IntraFreqEvent_r7(ctx, &pvalue->event);
+   RT_CHECK(ctx, stat, 0, "event", -1, "IntraFreqEventCriteria-r7");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 15u) {
+      rtxErrAddStrParm(ctx, "Hysteresis");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria-r7");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 15);
+   RT_CHECK(ctx, stat, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria-r7");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria-r7");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria-r7");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "IntraFreqEventCriteria-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqEventCriteriaList_r7(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaList_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventCriteriaList-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "IntraFreqEventCriteriaList-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "IntraFreqEventCriteria-r7", (int32_t)i, "IntraFreqEventCriteriaList-r7");
+      stat = asn1PE_UMTS_IntraFreqEventCriteria_r7(ctx, (const IntraFreqEventCriteria_r7*)node->data);
+      RT_CHECK(ctx, stat, 0, "IntraFreqEventCriteria-r7", (int32_t)i, "IntraFreqEventCriteriaList-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqReportingCriteria_r7(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingCriteria_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqReportingCriteria-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqReportingCriteria-r7");
+   /* eventCriteriaList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntraFreqEventCriteriaList_r7(ctx, &pvalue->eventCriteriaList);
+      RT_CHECK(ctx, stat, 0, "eventCriteriaList", -1, "IntraFreqReportingCriteria-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqReportCriteria_r7(rtxContext* RT_RESTRICT ctx, const InterFreqReportCriteria_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqReportCriteria-r7");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK(ctx, stat, 0, "t", -1, "InterFreqReportCriteria-r7");
+   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterFreqReportCriteria-r7");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r7");
+         stat = asn1PE_UMTS_IntraFreqReportingCriteria_r7(ctx, pvalue->u.intraFreqReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r7");
+         break;
+      case 2:
+         if (pvalue->u.interFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r7");
+         stat = asn1PE_UMTS_InterFreqReportingCriteria_r6(ctx, pvalue->u.interFreqReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r7");
+         break;
+      case 3:
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r7");
+         stat = asn1PE_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r7");
+         break;
+      case 4:
+         if (pvalue->u.noReporting == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "noReporting", -1, "InterFreqReportCriteria-r7");
+         stat = asn1PE_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
+         RT_CHECK(ctx, stat, 0, "noReporting", -1, "InterFreqReportCriteria-r7");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqEventOnSecULFreq(rtxContext* RT_RESTRICT ctx, const IntraFreqEventOnSecULFreq* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventOnSecULFreq");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 4);
+   RT_CHECK(ctx, stat, 0, "t", -1, "IntraFreqEventOnSecULFreq");
+   if (pvalue->t - 1 > 4) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqEventOnSecULFreq");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.e1a == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1a", -1, "IntraFreqEventOnSecULFreq");
+         stat = asn1PE_UMTS_Event1a_OnSecUlFreq_r9(ctx, pvalue->u.e1a);
+         RT_CHECK(ctx, stat, 0, "e1a", -1, "IntraFreqEventOnSecULFreq");
+         break;
+      case 2:
+         if (pvalue->u.e1b == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1b", -1, "IntraFreqEventOnSecULFreq");
+         stat = asn1PE_UMTS_Event1b_OnSecUlFreq_r9(ctx, pvalue->u.e1b);
+         RT_CHECK(ctx, stat, 0, "e1b", -1, "IntraFreqEventOnSecULFreq");
+         break;
+      case 3:
+         if (pvalue->u.e1c == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1c", -1, "IntraFreqEventOnSecULFreq");
+         stat = asn1PE_UMTS_Event1c(ctx, pvalue->u.e1c);
+         RT_CHECK(ctx, stat, 0, "e1c", -1, "IntraFreqEventOnSecULFreq");
+         break;
+      case 4:
+         if (pvalue->u.e1e == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1e", -1, "IntraFreqEventOnSecULFreq");
+         stat = asn1PE_UMTS_Event1e_r6(ctx, pvalue->u.e1e);
+         RT_CHECK(ctx, stat, 0, "e1e", -1, "IntraFreqEventOnSecULFreq");
+         break;
+      case 5:
+         if (pvalue->u.e1f == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1f", -1, "IntraFreqEventOnSecULFreq");
+         stat = asn1PE_UMTS_Event1f_r6(ctx, pvalue->u.e1f);
+         RT_CHECK(ctx, stat, 0, "e1f", -1, "IntraFreqEventOnSecULFreq");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqEventCriteriaOnSecULFreq(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaOnSecULFreq* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventCriteriaOnSecULFreq");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEventCriteriaOnSecULFreq");
+   /* event */
+   stat = asn1PE_UMTS_IntraFreqEventOnSecULFreq(ctx, &pvalue->event);
+   RT_CHECK(ctx, stat, 0, "event", -1, "IntraFreqEventCriteriaOnSecULFreq");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 15u) {
+      rtxErrAddStrParm(ctx, "Hysteresis");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteriaOnSecULFreq");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 15);
+   RT_CHECK(ctx, stat, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteriaOnSecULFreq");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteriaOnSecULFreq");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteriaOnSecULFreq");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "IntraFreqEventCriteriaOnSecULFreq");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqEventCriteriaListOnSecULFreq_intraFreqEventCriteria(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaListOnSecULFreq_intraFreqEventCriteria* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "IntraFreqEventCriteriaOnSecULFreq", (int32_t)i, 0);
+      stat = asn1PE_UMTS_IntraFreqEventCriteriaOnSecULFreq(ctx, (const IntraFreqEventCriteriaOnSecULFreq*)node->data);
+      RT_CHECK(ctx, stat, 0, "IntraFreqEventCriteriaOnSecULFreq", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqEventCriteriaListOnSecULFreq(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaListOnSecULFreq* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventCriteriaListOnSecULFreq");
+   /* frequencyInfo */
+   stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "IntraFreqEventCriteriaListOnSecULFreq");
+   /* intraFreqEventCriteria */
+   stat = asn1PE_UMTS_IntraFreqEventCriteriaListOnSecULFreq_intraFreqEventCriteria(ctx, &pvalue->intraFreqEventCriteria);
+   RT_CHECK(ctx, stat, 0, "intraFreqEventCriteria", -1, "IntraFreqEventCriteriaListOnSecULFreq");
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqReportingCriteria_r9(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingCriteria_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqReportingCriteria-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqReportingCriteria-r9");
+   /* eventCriteriaList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntraFreqEventCriteriaList_r7(ctx, &pvalue->eventCriteriaList);
+      RT_CHECK(ctx, stat, 0, "eventCriteriaList", -1, "IntraFreqReportingCriteria-r9");
+   }
+   /* eventCriteriaListOnSecULFreq */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_IntraFreqEventCriteriaListOnSecULFreq(ctx, &pvalue->eventCriteriaListOnSecULFreq);
+      RT_CHECK(ctx, stat, 0, "eventCriteriaListOnSecULFreq", -1, "IntraFreqReportingCriteria-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqReportCriteria_r9(rtxContext* RT_RESTRICT ctx, const InterFreqReportCriteria_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqReportCriteria-r9");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK(ctx, stat, 0, "t", -1, "InterFreqReportCriteria-r9");
+   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterFreqReportCriteria-r9");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r9");
+         stat = asn1PE_UMTS_IntraFreqReportingCriteria_r9(ctx, pvalue->u.intraFreqReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r9");
+         break;
+      case 2:
+         if (pvalue->u.interFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r9");
+         stat = asn1PE_UMTS_InterFreqReportingCriteria_r6(ctx, pvalue->u.interFreqReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r9");
+         break;
+      case 3:
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r9");
+         stat = asn1PE_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r9");
+         break;
+      case 4:
+         if (pvalue->u.noReporting == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "noReporting", -1, "InterFreqReportCriteria-r9");
+         stat = asn1PE_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
+         RT_CHECK(ctx, stat, 0, "noReporting", -1, "InterFreqReportCriteria-r9");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqReportingQuantity(rtxContext* RT_RESTRICT ctx, const InterFreqReportingQuantity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqReportingQuantity");
+   /* utra-Carrier-RSSI */
+   stat = rtxEncBit(ctx, pvalue->utra_Carrier_RSSI);
+   RT_CHECK(ctx, stat, 0, "utra-Carrier-RSSI", -1, "InterFreqReportingQuantity");
+   /* frequencyQualityEstimate */
+   stat = rtxEncBit(ctx, pvalue->frequencyQualityEstimate);
+   RT_CHECK(ctx, stat, 0, "frequencyQualityEstimate", -1, "InterFreqReportingQuantity");
+   /* nonFreqRelatedQuantities */
+   stat = asn1PE_UMTS_CellReportingQuantities(ctx, &pvalue->nonFreqRelatedQuantities);
+   RT_CHECK(ctx, stat, 0, "nonFreqRelatedQuantities", -1, "InterFreqReportingQuantity");
+   return 0;
+}
+
+int asn1PE_UMTS_RL_AdditionInfoList(rtxContext* RT_RESTRICT ctx, const RL_AdditionInfoList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RL-AdditionInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RL-AdditionInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PrimaryCPICH-Info", (int32_t)i, "RL-AdditionInfoList");
+      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, (const PrimaryCPICH_Info*)node->data);
+      RT_CHECK(ctx, stat, 0, "PrimaryCPICH-Info", (int32_t)i, "RL-AdditionInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RL_InformationLists(rtxContext* RT_RESTRICT ctx, const RL_InformationLists* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RL-InformationLists");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RL-InformationLists");
+   /* rl-AdditionInfoList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RL_AdditionInfoList(ctx, &pvalue->rl_AdditionInfoList);
+      RT_CHECK(ctx, stat, 0, "rl-AdditionInfoList", -1, "RL-InformationLists");
+   }
+   /* rL-RemovalInformationList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RL_RemovalInformationList(ctx, &pvalue->rL_RemovalInformationList);
+      RT_CHECK(ctx, stat, 0, "rL-RemovalInformationList", -1, "RL-InformationLists");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_AutonomousUpdateMode(rtxContext* RT_RESTRICT ctx, const UE_AutonomousUpdateMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-AutonomousUpdateMode");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, "UE-AutonomousUpdateMode");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UE-AutonomousUpdateMode");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if (pvalue->u.dummy2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dummy2", -1, "UE-AutonomousUpdateMode");
+         stat = asn1PE_UMTS_RL_InformationLists(ctx, pvalue->u.dummy2);
+         RT_CHECK(ctx, stat, 0, "dummy2", -1, "UE-AutonomousUpdateMode");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFrequencyMeasurement(rtxContext* RT_RESTRICT ctx, const InterFrequencyMeasurement* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFrequencyMeasurement");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFrequencyMeasurement");
+   /* interFreqCellInfoList */
+   stat = asn1PE_UMTS_InterFreqCellInfoList(ctx, &pvalue->interFreqCellInfoList);
+   RT_CHECK(ctx, stat, 0, "interFreqCellInfoList", -1, "InterFrequencyMeasurement");
+   /* interFreqMeasQuantity */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasQuantity", -1, "InterFrequencyMeasurement");
+   }
+   /* interFreqReportingQuantity */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity);
+      RT_CHECK(ctx, stat, 0, "interFreqReportingQuantity", -1, "InterFrequencyMeasurement");
+   }
+   /* measurementValidity */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "InterFrequencyMeasurement");
+   }
+   /* interFreqSetUpdate */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate);
+      RT_CHECK(ctx, stat, 0, "interFreqSetUpdate", -1, "InterFrequencyMeasurement");
+   }
+   /* reportCriteria */
+   stat = asn1PE_UMTS_InterFreqReportCriteria(ctx, &pvalue->reportCriteria);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterFrequencyMeasurement");
+   return 0;
+}
+
+int asn1PE_UMTS_InterFrequencyMeasurement_r4(rtxContext* RT_RESTRICT ctx, const InterFrequencyMeasurement_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFrequencyMeasurement-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFrequencyMeasurement-r4");
+   /* interFreqCellInfoList */
+   stat = asn1PE_UMTS_InterFreqCellInfoList_r4(ctx, &pvalue->interFreqCellInfoList);
+   RT_CHECK(ctx, stat, 0, "interFreqCellInfoList", -1, "InterFrequencyMeasurement-r4");
+   /* interFreqMeasQuantity */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasQuantity", -1, "InterFrequencyMeasurement-r4");
+   }
+   /* interFreqReportingQuantity */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity);
+      RT_CHECK(ctx, stat, 0, "interFreqReportingQuantity", -1, "InterFrequencyMeasurement-r4");
+   }
+   /* measurementValidity */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "InterFrequencyMeasurement-r4");
+   }
+   /* interFreqSetUpdate */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate);
+      RT_CHECK(ctx, stat, 0, "interFreqSetUpdate", -1, "InterFrequencyMeasurement-r4");
+   }
+   /* reportCriteria */
+   stat = asn1PE_UMTS_InterFreqReportCriteria_r4(ctx, &pvalue->reportCriteria);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterFrequencyMeasurement-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_InterFrequencyMeasurement_r6(rtxContext* RT_RESTRICT ctx, const InterFrequencyMeasurement_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFrequencyMeasurement-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFrequencyMeasurement-r6");
+   /* interFreqCellInfoList */
+   stat = asn1PE_UMTS_InterFreqCellInfoList_r4(ctx, &pvalue->interFreqCellInfoList);
+   RT_CHECK(ctx, stat, 0, "interFreqCellInfoList", -1, "InterFrequencyMeasurement-r6");
+   /* interFreqMeasQuantity */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasQuantity", -1, "InterFrequencyMeasurement-r6");
+   }
+   /* interFreqReportingQuantity */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity);
+      RT_CHECK(ctx, stat, 0, "interFreqReportingQuantity", -1, "InterFrequencyMeasurement-r6");
+   }
+   /* measurementValidity */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "InterFrequencyMeasurement-r6");
+   }
+   /* interFreqSetUpdate */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate);
+      RT_CHECK(ctx, stat, 0, "interFreqSetUpdate", -1, "InterFrequencyMeasurement-r6");
+   }
+   /* reportCriteria */
+   stat = asn1PE_UMTS_InterFreqReportCriteria_r6(ctx, &pvalue->reportCriteria);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterFrequencyMeasurement-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_InterFrequencyMeasurement_r7(rtxContext* RT_RESTRICT ctx, const InterFrequencyMeasurement_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFrequencyMeasurement-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFrequencyMeasurement-r7");
+   /* interFreqCellInfoList */
+   stat = asn1PE_UMTS_InterFreqCellInfoList_r4(ctx, &pvalue->interFreqCellInfoList);
+   RT_CHECK(ctx, stat, 0, "interFreqCellInfoList", -1, "InterFrequencyMeasurement-r7");
+   /* interFreqMeasQuantity */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasQuantity", -1, "InterFrequencyMeasurement-r7");
+   }
+   /* interFreqReportingQuantity */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity);
+      RT_CHECK(ctx, stat, 0, "interFreqReportingQuantity", -1, "InterFrequencyMeasurement-r7");
+   }
+   /* measurementValidity */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "InterFrequencyMeasurement-r7");
+   }
+   /* interFreqSetUpdate */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate);
+      RT_CHECK(ctx, stat, 0, "interFreqSetUpdate", -1, "InterFrequencyMeasurement-r7");
+   }
+   /* reportCriteria */
+   stat = asn1PE_UMTS_InterFreqReportCriteria_r7(ctx, &pvalue->reportCriteria);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterFrequencyMeasurement-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_InterFrequencyMeasurement_r8(rtxContext* RT_RESTRICT ctx, const InterFrequencyMeasurement_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFrequencyMeasurement-r8");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFrequencyMeasurement-r8");
+   /* interFreqCellInfoList */
+   stat = asn1PE_UMTS_InterFreqCellInfoList_r8(ctx, &pvalue->interFreqCellInfoList);
+   RT_CHECK(ctx, stat, 0, "interFreqCellInfoList", -1, "InterFrequencyMeasurement-r8");
+   /* interFreqMeasQuantity */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasQuantity", -1, "InterFrequencyMeasurement-r8");
+   }
+   /* interFreqReportingQuantity */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity);
+      RT_CHECK(ctx, stat, 0, "interFreqReportingQuantity", -1, "InterFrequencyMeasurement-r8");
+   }
+   /* measurementValidity */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "InterFrequencyMeasurement-r8");
+   }
+   /* interFreqSetUpdate */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate);
+      RT_CHECK(ctx, stat, 0, "interFreqSetUpdate", -1, "InterFrequencyMeasurement-r8");
+   }
+   /* adjacentFrequencyIndex */
+   if (pvalue->m & 0x10u) {
+      if ((uint64_t)pvalue->adjacentFrequencyIndex > 31u) {
+         rtxErrAddStrParm(ctx, "adjacentFrequencyIndex");
+         rtxErrAddUIntParm(ctx, pvalue->adjacentFrequencyIndex);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "adjacentFrequencyIndex", -1, "InterFrequencyMeasurement-r8");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->adjacentFrequencyIndex, 0, 31);
+      RT_CHECK(ctx, stat, 0, "adjacentFrequencyIndex", -1, "InterFrequencyMeasurement-r8");
+   }
+   /* reportCriteria */
+   stat = asn1PE_UMTS_InterFreqReportCriteria_r7(ctx, &pvalue->reportCriteria);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterFrequencyMeasurement-r8");
+   return 0;
+}
+
+int asn1PE_UMTS_InterFrequencyMeasurement_r9(rtxContext* RT_RESTRICT ctx, const InterFrequencyMeasurement_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFrequencyMeasurement-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterFrequencyMeasurement-r9");
+   /* interFreqCellInfoList */
+   stat = asn1PE_UMTS_InterFreqCellInfoList_r9(ctx, &pvalue->interFreqCellInfoList);
+   RT_CHECK(ctx, stat, 0, "interFreqCellInfoList", -1, "InterFrequencyMeasurement-r9");
+   /* interFreqMeasQuantity */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasQuantity", -1, "InterFrequencyMeasurement-r9");
+   }
+   /* interFreqReportingQuantity */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity);
+      RT_CHECK(ctx, stat, 0, "interFreqReportingQuantity", -1, "InterFrequencyMeasurement-r9");
+   }
+   /* measurementValidity */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "InterFrequencyMeasurement-r9");
+   }
+   /* interFreqSetUpdate */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate);
+      RT_CHECK(ctx, stat, 0, "interFreqSetUpdate", -1, "InterFrequencyMeasurement-r9");
+   }
+   /* adjacentFrequencyIndex */
+   if (pvalue->m & 0x10u) {
+      if ((uint64_t)pvalue->adjacentFrequencyIndex > 31u) {
+         rtxErrAddStrParm(ctx, "adjacentFrequencyIndex");
+         rtxErrAddUIntParm(ctx, pvalue->adjacentFrequencyIndex);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "adjacentFrequencyIndex", -1, "InterFrequencyMeasurement-r9");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->adjacentFrequencyIndex, 0, 31);
+      RT_CHECK(ctx, stat, 0, "adjacentFrequencyIndex", -1, "InterFrequencyMeasurement-r9");
+   }
+   /* interBandFrequencyIndex */
+   if (pvalue->m & 0x20u) {
+      if ((uint64_t)pvalue->interBandFrequencyIndex > 31u) {
+         rtxErrAddStrParm(ctx, "interBandFrequencyIndex");
+         rtxErrAddUIntParm(ctx, pvalue->interBandFrequencyIndex);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "interBandFrequencyIndex", -1, "InterFrequencyMeasurement-r9");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->interBandFrequencyIndex, 0, 31);
+      RT_CHECK(ctx, stat, 0, "interBandFrequencyIndex", -1, "InterFrequencyMeasurement-r9");
+   }
+   /* reportCriteria */
+   stat = asn1PE_UMTS_InterFreqReportCriteria_r9(ctx, &pvalue->reportCriteria);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterFrequencyMeasurement-r9");
+   return 0;
+}
+
+int asn1PE_UMTS_NC_Mode(rtxContext* RT_RESTRICT ctx, NC_Mode value)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 3, 3);
+   stat = pe_BitString32(ctx, &value, 3, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NC-Mode");
+   return 0;
+}
+
+int asn1PE_UMTS_InterRAT_TargetCellDescription_technologySpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const InterRAT_TargetCellDescription_technologySpecificInfo_gsm* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* bsic */
+   stat = asn1PE_UMTS_BSIC(ctx, &pvalue->bsic);
+   RT_CHECK(ctx, stat, 0, "bsic", -1, 0);
+   /* frequency-band */
+   if (pvalue->frequency_band > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->frequency_band);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "Frequency-Band", "frequency-band", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->frequency_band, 0, 1);
+   RT_CHECK(ctx, stat, "Frequency-Band", "frequency-band", -1, 0);
+   /* bcch-ARFCN */
+   if ((uint64_t)pvalue->bcch_ARFCN > 1023u) {
+      rtxErrAddStrParm(ctx, "BCCH-ARFCN");
+      rtxErrAddUIntParm(ctx, pvalue->bcch_ARFCN);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "BCCH-ARFCN", "bcch-ARFCN", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->bcch_ARFCN, 0, 1023);
+   RT_CHECK(ctx, stat, "BCCH-ARFCN", "bcch-ARFCN", -1, 0);
+   /* ncMode */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_NC_Mode(ctx, pvalue->ncMode);
+      RT_CHECK(ctx, stat, 0, "ncMode", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRAT_TargetCellDescription_technologySpecificInfo(rtxContext* RT_RESTRICT ctx, const InterRAT_TargetCellDescription_technologySpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm", -1, 0);
+         stat = asn1PE_UMTS_InterRAT_TargetCellDescription_technologySpecificInfo_gsm(ctx, pvalue->u.gsm);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
+         break;
+      case 2:
+         break;
+      case 3:
+         break;
+      case 4:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRAT_TargetCellDescription(rtxContext* RT_RESTRICT ctx, const InterRAT_TargetCellDescription* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRAT-TargetCellDescription");
+   /* technologySpecificInfo */
+   stat = asn1PE_UMTS_InterRAT_TargetCellDescription_technologySpecificInfo(ctx, &pvalue->technologySpecificInfo);
+   RT_CHECK(ctx, stat, 0, "technologySpecificInfo", -1, "InterRAT-TargetCellDescription");
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATCellInfoIndication(rtxContext* RT_RESTRICT ctx, InterRATCellInfoIndication value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 3u) {
+      rtxErrAddStrParm(ctx, "InterRATCellInfoIndication");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "InterRATCellInfoIndication");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATCellInfoIndication");
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATCellInfoList_r4(rtxContext* RT_RESTRICT ctx, const InterRATCellInfoList_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATCellInfoList-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATCellInfoList-r4");
+   /* removedInterRATCellList */
+   stat = asn1PE_UMTS_RemovedInterRATCellList(ctx, &pvalue->removedInterRATCellList);
+   RT_CHECK(ctx, stat, 0, "removedInterRATCellList", -1, "InterRATCellInfoList-r4");
+   /* newInterRATCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
+      RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, "InterRATCellInfoList-r4");
+   }
+   /* cellsForInterRATMeasList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CellsForInterRATMeasList(ctx, &pvalue->cellsForInterRATMeasList);
+      RT_CHECK(ctx, stat, 0, "cellsForInterRATMeasList", -1, "InterRATCellInfoList-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATCellInfoList_r6(rtxContext* RT_RESTRICT ctx, const InterRATCellInfoList_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATCellInfoList-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATCellInfoList-r6");
+   /* removedInterRATCellList */
+   stat = asn1PE_UMTS_RemovedInterRATCellList(ctx, &pvalue->removedInterRATCellList);
+   RT_CHECK(ctx, stat, 0, "removedInterRATCellList", -1, "InterRATCellInfoList-r6");
+   /* newInterRATCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
+      RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, "InterRATCellInfoList-r6");
+   }
+   /* cellsForInterRATMeasList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CellsForInterRATMeasList(ctx, &pvalue->cellsForInterRATMeasList);
+      RT_CHECK(ctx, stat, 0, "cellsForInterRATMeasList", -1, "InterRATCellInfoList-r6");
+   }
+   /* interRATCellInfoIndication-r6 */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)pvalue->interRATCellInfoIndication_r6 > 3u) {
+         rtxErrAddStrParm(ctx, "InterRATCellInfoIndication");
+         rtxErrAddUIntParm(ctx, pvalue->interRATCellInfoIndication_r6);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterRATCellInfoIndication", "interRATCellInfoIndication-r6", -1, "InterRATCellInfoList-r6");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->interRATCellInfoIndication_r6, 0, 3);
+      RT_CHECK(ctx, stat, "InterRATCellInfoIndication", "interRATCellInfoIndication-r6", -1, "InterRATCellInfoList-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATEvent(rtxContext* RT_RESTRICT ctx, const InterRATEvent* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATEvent");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK(ctx, stat, 0, "t", -1, "InterRATEvent");
+   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterRATEvent");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.event3a == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event3a", -1, "InterRATEvent");
+         stat = asn1PE_UMTS_Event3a(ctx, pvalue->u.event3a);
+         RT_CHECK(ctx, stat, 0, "event3a", -1, "InterRATEvent");
+         break;
+      case 2:
+         if (pvalue->u.event3b == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event3b", -1, "InterRATEvent");
+         stat = asn1PE_UMTS_Event3b(ctx, pvalue->u.event3b);
+         RT_CHECK(ctx, stat, 0, "event3b", -1, "InterRATEvent");
+         break;
+      case 3:
+         if (pvalue->u.event3c == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event3c", -1, "InterRATEvent");
+         stat = asn1PE_UMTS_Event3c(ctx, pvalue->u.event3c);
+         RT_CHECK(ctx, stat, 0, "event3c", -1, "InterRATEvent");
+         break;
+      case 4:
+         if (pvalue->u.event3d == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event3d", -1, "InterRATEvent");
+         stat = asn1PE_UMTS_Event3d(ctx, pvalue->u.event3d);
+         RT_CHECK(ctx, stat, 0, "event3d", -1, "InterRATEvent");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATEventList(rtxContext* RT_RESTRICT ctx, const InterRATEventList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATEventList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "InterRATEventList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "InterRATEvent", (int32_t)i, "InterRATEventList");
+      stat = asn1PE_UMTS_InterRATEvent(ctx, (const InterRATEvent*)node->data);
+      RT_CHECK(ctx, stat, 0, "InterRATEvent", (int32_t)i, "InterRATEventList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementQuantityGSM(rtxContext* RT_RESTRICT ctx, MeasurementQuantityGSM value)
+{
+   int stat = 0;
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MeasurementQuantityGSM");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementQuantityGSM");
    return 0;
 }
 
-int asn1PE_UMTS_MIMO_PilotConfiguration_secondCPICH_Pattern_diversityPattern(rtxContext* ctx, const MIMO_PilotConfiguration_secondCPICH_Pattern_diversityPattern* pvalue)
+int asn1PE_UMTS_InterRATMeasQuantity_ratSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const InterRATMeasQuantity_ratSpecificInfo_gsm* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* channelisationCode */
-   rtxCtxtPushElemName(ctx, "channelisationCode");
-   rtxCtxtPushTypeName(ctx, "ChannelisationCode256");
-   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->filterCoefficient != 0) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementQuantity */
+   if (pvalue->measurementQuantity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->measurementQuantity);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MeasurementQuantityGSM", "measurementQuantity", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->measurementQuantity, 0, 1);
+   RT_CHECK(ctx, stat, "MeasurementQuantityGSM", "measurementQuantity", -1, 0);
+   /* filterCoefficient */
+   if (pvalue->filterCoefficient != 0) {
+      if (pvalue->filterCoefficient > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->filterCoefficient);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "FilterCoefficient", "filterCoefficient", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->filterCoefficient, 0, 15);
+      RT_CHECK(ctx, stat, "FilterCoefficient", "filterCoefficient", -1, 0);
+   }
+   /* bsic-VerificationRequired */
+   if (pvalue->bsic_VerificationRequired > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->bsic_VerificationRequired);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "BSIC-VerificationRequired", "bsic-VerificationRequired", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->bsic_VerificationRequired, 0, 1);
+   RT_CHECK(ctx, stat, "BSIC-VerificationRequired", "bsic-VerificationRequired", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_MIMO_PilotConfiguration_secondCPICH_Pattern(rtxContext* ctx, const MIMO_PilotConfiguration_secondCPICH_Pattern* pvalue)
+int asn1PE_UMTS_InterRATMeasQuantity_ratSpecificInfo_is_2000(rtxContext* RT_RESTRICT ctx, const InterRATMeasQuantity_ratSpecificInfo_is_2000* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* tadd-EcIo */
+   if ((uint64_t)pvalue->tadd_EcIo > 63u) {
+      rtxErrAddStrParm(ctx, "tadd-EcIo");
+      rtxErrAddUIntParm(ctx, pvalue->tadd_EcIo);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "tadd-EcIo", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->tadd_EcIo, 0, 63);
+   RT_CHECK(ctx, stat, 0, "tadd-EcIo", -1, 0);
+   /* tcomp-EcIo */
+   if ((uint64_t)pvalue->tcomp_EcIo > 15u) {
+      rtxErrAddStrParm(ctx, "tcomp-EcIo");
+      rtxErrAddUIntParm(ctx, pvalue->tcomp_EcIo);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "tcomp-EcIo", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->tcomp_EcIo, 0, 15);
+   RT_CHECK(ctx, stat, 0, "tcomp-EcIo", -1, 0);
+   /* softSlope */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->softSlope > 63u) {
+         rtxErrAddStrParm(ctx, "softSlope");
+         rtxErrAddUIntParm(ctx, pvalue->softSlope);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "softSlope", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->softSlope, 0, 63);
+      RT_CHECK(ctx, stat, 0, "softSlope", -1, 0);
+   }
+   /* addIntercept */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->addIntercept > 63u) {
+         rtxErrAddStrParm(ctx, "addIntercept");
+         rtxErrAddUIntParm(ctx, pvalue->addIntercept);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "addIntercept", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->addIntercept, 0, 63);
+      RT_CHECK(ctx, stat, 0, "addIntercept", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATMeasQuantity_ratSpecificInfo(rtxContext* RT_RESTRICT ctx, const InterRATMeasQuantity_ratSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "normalPattern");
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm", -1, 0);
+         stat = asn1PE_UMTS_InterRATMeasQuantity_ratSpecificInfo_gsm(ctx, pvalue->u.gsm);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "diversityPattern");
-         if (pvalue->u.diversityPattern == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MIMO_PilotConfiguration_secondCPICH_Pattern_diversityPattern(ctx, pvalue->u.diversityPattern);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.is_2000 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "is-2000", -1, 0);
+         stat = asn1PE_UMTS_InterRATMeasQuantity_ratSpecificInfo_is_2000(ctx, pvalue->u.is_2000);
+         RT_CHECK(ctx, stat, 0, "is-2000", -1, 0);
          break;
       default:
          break;
@@ -8845,164 +8567,452 @@ int asn1PE_UMTS_MIMO_PilotConfiguration_secondCPICH_Pattern(rtxContext* ctx, con
    return 0;
 }
 
-int asn1PE_UMTS_MIMO_PilotConfiguration(rtxContext* ctx, const MIMO_PilotConfiguration* pvalue)
+int asn1PE_UMTS_InterRATMeasQuantity(rtxContext* RT_RESTRICT ctx, const InterRATMeasQuantity* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MIMO-PilotConfiguration");
-   /* secondCPICH-Pattern */
-   rtxCtxtPushElemName(ctx, "secondCPICH-Pattern");
-   stat = asn1PE_UMTS_MIMO_PilotConfiguration_secondCPICH_Pattern(ctx, &pvalue->secondCPICH_Pattern);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATMeasQuantity");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATMeasQuantity");
+   /* measQuantityUTRAN-QualityEstimate */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->measQuantityUTRAN_QualityEstimate);
+      RT_CHECK(ctx, stat, 0, "measQuantityUTRAN-QualityEstimate", -1, "InterRATMeasQuantity");
+   }
+   /* ratSpecificInfo */
+   stat = asn1PE_UMTS_InterRATMeasQuantity_ratSpecificInfo(ctx, &pvalue->ratSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "ratSpecificInfo", -1, "InterRATMeasQuantity");
    return 0;
 }
 
-int asn1PE_UMTS_MIMO_Parameters_r7(rtxContext* ctx, const MIMO_Parameters_r7* pvalue)
+int asn1PE_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const InterRATMeasQuantity_r8_ratSpecificInfo_gsm* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MIMO-Parameters-r7");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->filterCoefficient != 0) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementQuantity */
+   if (pvalue->measurementQuantity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->measurementQuantity);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MeasurementQuantityGSM", "measurementQuantity", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->measurementQuantity, 0, 1);
+   RT_CHECK(ctx, stat, "MeasurementQuantityGSM", "measurementQuantity", -1, 0);
+   /* filterCoefficient */
+   if (pvalue->filterCoefficient != 0) {
+      if (pvalue->filterCoefficient > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->filterCoefficient);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "FilterCoefficient", "filterCoefficient", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->filterCoefficient, 0, 15);
+      RT_CHECK(ctx, stat, "FilterCoefficient", "filterCoefficient", -1, 0);
+   }
+   /* bsic-VerificationRequired */
+   if (pvalue->bsic_VerificationRequired > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->bsic_VerificationRequired);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "BSIC-VerificationRequired", "bsic-VerificationRequired", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->bsic_VerificationRequired, 0, 1);
+   RT_CHECK(ctx, stat, "BSIC-VerificationRequired", "bsic-VerificationRequired", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_is_2000(rtxContext* RT_RESTRICT ctx, const InterRATMeasQuantity_r8_ratSpecificInfo_is_2000* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* mimoOperation */
-   rtxCtxtPushElemName(ctx, "mimoOperation");
-   rtxCtxtPushTypeName(ctx, "MIMO-Operation");
-   if (pvalue->mimoOperation > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->mimoOperation);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* tadd-EcIo */
+   if ((uint64_t)pvalue->tadd_EcIo > 63u) {
+      rtxErrAddStrParm(ctx, "tadd-EcIo");
+      rtxErrAddUIntParm(ctx, pvalue->tadd_EcIo);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "tadd-EcIo", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->mimoOperation, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* mimoN-M-Ratio */
+   stat = pe_ConsUInt64(ctx, pvalue->tadd_EcIo, 0, 63);
+   RT_CHECK(ctx, stat, 0, "tadd-EcIo", -1, 0);
+   /* tcomp-EcIo */
+   if ((uint64_t)pvalue->tcomp_EcIo > 15u) {
+      rtxErrAddStrParm(ctx, "tcomp-EcIo");
+      rtxErrAddUIntParm(ctx, pvalue->tcomp_EcIo);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "tcomp-EcIo", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->tcomp_EcIo, 0, 15);
+   RT_CHECK(ctx, stat, 0, "tcomp-EcIo", -1, 0);
+   /* softSlope */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "mimoN-M-Ratio");
-      rtxCtxtPushTypeName(ctx, "MIMO-N-M-Ratio");
-      if (pvalue->mimoN_M_Ratio > 9) {
-         rtxErrAddUIntParm(ctx, pvalue->mimoN_M_Ratio);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+      if ((uint64_t)pvalue->softSlope > 63u) {
+         rtxErrAddStrParm(ctx, "softSlope");
+         rtxErrAddUIntParm(ctx, pvalue->softSlope);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "softSlope", -1, 0);
       }
-      stat = pe_ConsUInt64(ctx, pvalue->mimoN_M_Ratio, 0, 9);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->softSlope, 0, 63);
+      RT_CHECK(ctx, stat, 0, "softSlope", -1, 0);
    }
-   /* mimoPilotConfiguration */
+   /* addIntercept */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "mimoPilotConfiguration");
-      stat = asn1PE_UMTS_MIMO_PilotConfiguration(ctx, &pvalue->mimoPilotConfiguration);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MIMO_PilotConfiguration_v7f0ext(rtxContext* ctx, const MIMO_PilotConfiguration_v7f0ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MIMO-PilotConfiguration-v7f0ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* s-cpich-PowerOffset-Mimo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "s-cpich-PowerOffset-Mimo");
-      rtxCtxtPushTypeName(ctx, "S-CPICH-PowerOffset-MIMO");
-      if (pvalue->s_cpich_PowerOffset_Mimo < -6 || pvalue->s_cpich_PowerOffset_Mimo > 0) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->s_cpich_PowerOffset_Mimo);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+      if ((uint64_t)pvalue->addIntercept > 63u) {
+         rtxErrAddStrParm(ctx, "addIntercept");
+         rtxErrAddUIntParm(ctx, pvalue->addIntercept);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "addIntercept", -1, 0);
       }
-      stat = pe_ConsInt64(ctx, pvalue->s_cpich_PowerOffset_Mimo, -6, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->addIntercept, 0, 63);
+      RT_CHECK(ctx, stat, 0, "addIntercept", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_MIMO_Parameters_v7f0ext(rtxContext* ctx, const MIMO_Parameters_v7f0ext* pvalue)
+int asn1PE_UMTS_MeasurementQuantityEUTRA(rtxContext* RT_RESTRICT ctx, MeasurementQuantityEUTRA value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MIMO-Parameters-v7f0ext");
-   stat = asn1PE_UMTS_MIMO_PilotConfiguration_v7f0ext(ctx, pvalue);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MIMO_Parameters_v7g0ext_precodingWeightSetRestriction(rtxContext* ctx, MIMO_Parameters_v7g0ext_precodingWeightSetRestriction value)
-{
-   int stat = 0;
-   if (value > 0) {
+   if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MeasurementQuantityEUTRA");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementQuantityEUTRA");
    return 0;
 }
 
-int asn1PE_UMTS_MIMO_Parameters_v7g0ext(rtxContext* ctx, const MIMO_Parameters_v7g0ext* pvalue)
+int asn1PE_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_e_UTRA(rtxContext* RT_RESTRICT ctx, const InterRATMeasQuantity_r8_ratSpecificInfo_e_UTRA* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MIMO-Parameters-v7g0ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->filterCoefficient != 0) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementQuantity */
+   if (pvalue->measurementQuantity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->measurementQuantity);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MeasurementQuantityEUTRA", "measurementQuantity", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->measurementQuantity, 0, 1);
+   RT_CHECK(ctx, stat, "MeasurementQuantityEUTRA", "measurementQuantity", -1, 0);
+   /* filterCoefficient */
+   if (pvalue->filterCoefficient != 0) {
+      if (pvalue->filterCoefficient > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->filterCoefficient);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "FilterCoefficient", "filterCoefficient", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->filterCoefficient, 0, 15);
+      RT_CHECK(ctx, stat, "FilterCoefficient", "filterCoefficient", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo(rtxContext* RT_RESTRICT ctx, const InterRATMeasQuantity_r8_ratSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm", -1, 0);
+         stat = asn1PE_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_gsm(ctx, pvalue->u.gsm);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.is_2000 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "is-2000", -1, 0);
+         stat = asn1PE_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_is_2000(ctx, pvalue->u.is_2000);
+         RT_CHECK(ctx, stat, 0, "is-2000", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.e_UTRA == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e-UTRA", -1, 0);
+         stat = asn1PE_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_e_UTRA(ctx, pvalue->u.e_UTRA);
+         RT_CHECK(ctx, stat, 0, "e-UTRA", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATMeasQuantity_r8(rtxContext* RT_RESTRICT ctx, const InterRATMeasQuantity_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATMeasQuantity-r8");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* precodingWeightSetRestriction */
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATMeasQuantity-r8");
+   /* measQuantityUTRAN-QualityEstimate */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "precodingWeightSetRestriction");
-      if (pvalue->precodingWeightSetRestriction > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->precodingWeightSetRestriction);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->precodingWeightSetRestriction, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->measQuantityUTRAN_QualityEstimate);
+      RT_CHECK(ctx, stat, 0, "measQuantityUTRAN-QualityEstimate", -1, "InterRATMeasQuantity-r8");
    }
-   rtxCtxtPopTypeName(ctx);
+   /* ratSpecificInfo */
+   stat = asn1PE_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo(ctx, &pvalue->ratSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "ratSpecificInfo", -1, "InterRATMeasQuantity-r8");
    return 0;
 }
 
-int asn1PE_UMTS_MIMO_Parameters_r8_modeSpecificInfo_fdd(rtxContext* ctx, const MIMO_Parameters_r8_modeSpecificInfo_fdd* pvalue)
+int asn1PE_UMTS_InterRATMeasuredResults(rtxContext* RT_RESTRICT ctx, const InterRATMeasuredResults* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATMeasuredResults");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "InterRATMeasuredResults");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterRATMeasuredResults");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm", -1, "InterRATMeasuredResults");
+         stat = asn1PE_UMTS_GSM_MeasuredResultsList(ctx, pvalue->u.gsm);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, "InterRATMeasuredResults");
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATMeasuredResultsList(rtxContext* RT_RESTRICT ctx, const InterRATMeasuredResultsList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATMeasuredResultsList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "InterRATMeasuredResultsList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "InterRATMeasuredResults", (int32_t)i, "InterRATMeasuredResultsList");
+      stat = asn1PE_UMTS_InterRATMeasuredResults(ctx, (const InterRATMeasuredResults*)node->data);
+      RT_CHECK(ctx, stat, 0, "InterRATMeasuredResults", (int32_t)i, "InterRATMeasuredResultsList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATReportingQuantity_ratSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const InterRATReportingQuantity_ratSpecificInfo_gsm* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* dummy */
+   stat = rtxEncBit(ctx, pvalue->dummy);
+   RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   /* dummy2 */
+   stat = rtxEncBit(ctx, pvalue->dummy2);
+   RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   /* gsm-Carrier-RSSI */
+   stat = rtxEncBit(ctx, pvalue->gsm_Carrier_RSSI);
+   RT_CHECK(ctx, stat, 0, "gsm-Carrier-RSSI", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATReportingQuantity_ratSpecificInfo(rtxContext* RT_RESTRICT ctx, const InterRATReportingQuantity_ratSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 0);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 0) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm", -1, 0);
+         stat = asn1PE_UMTS_InterRATReportingQuantity_ratSpecificInfo_gsm(ctx, pvalue->u.gsm);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATReportingQuantity(rtxContext* RT_RESTRICT ctx, const InterRATReportingQuantity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATReportingQuantity");
+   /* utran-EstimatedQuality */
+   stat = rtxEncBit(ctx, pvalue->utran_EstimatedQuality);
+   RT_CHECK(ctx, stat, 0, "utran-EstimatedQuality", -1, "InterRATReportingQuantity");
+   /* ratSpecificInfo */
+   stat = asn1PE_UMTS_InterRATReportingQuantity_ratSpecificInfo(ctx, &pvalue->ratSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "ratSpecificInfo", -1, "InterRATReportingQuantity");
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATReportingCriteria(rtxContext* RT_RESTRICT ctx, const InterRATReportingCriteria* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATReportingCriteria");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* mimoN-M-Ratio */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATReportingCriteria");
+   /* interRATEventList */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "mimoN-M-Ratio");
-      rtxCtxtPushTypeName(ctx, "MIMO-N-M-Ratio");
-      if (pvalue->mimoN_M_Ratio > 9) {
-         rtxErrAddUIntParm(ctx, pvalue->mimoN_M_Ratio);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mimoN_M_Ratio, 0, 9);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_InterRATEventList(ctx, &pvalue->interRATEventList);
+      RT_CHECK(ctx, stat, 0, "interRATEventList", -1, "InterRATReportingCriteria");
    }
-   /* mimoPilotConfiguration */
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATReportCriteria(rtxContext* RT_RESTRICT ctx, const InterRATReportCriteria* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATReportCriteria");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, "InterRATReportCriteria");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterRATReportCriteria");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.interRATReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interRATReportingCriteria", -1, "InterRATReportCriteria");
+         stat = asn1PE_UMTS_InterRATReportingCriteria(ctx, pvalue->u.interRATReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "interRATReportingCriteria", -1, "InterRATReportCriteria");
+         break;
+      case 2:
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "InterRATReportCriteria");
+         stat = asn1PE_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "InterRATReportCriteria");
+         break;
+      case 3:
+         if (pvalue->u.noReporting == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "noReporting", -1, "InterRATReportCriteria");
+         stat = asn1PE_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
+         RT_CHECK(ctx, stat, 0, "noReporting", -1, "InterRATReportCriteria");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATMeasurement(rtxContext* RT_RESTRICT ctx, const InterRATMeasurement* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATMeasurement");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATMeasurement");
+   /* interRATCellInfoList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterRATCellInfoList(ctx, &pvalue->interRATCellInfoList);
+      RT_CHECK(ctx, stat, 0, "interRATCellInfoList", -1, "InterRATMeasurement");
+   }
+   /* interRATMeasQuantity */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "mimoPilotConfiguration");
-      stat = asn1PE_UMTS_MIMO_PilotConfiguration(ctx, &pvalue->mimoPilotConfiguration);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_InterRATMeasQuantity(ctx, &pvalue->interRATMeasQuantity);
+      RT_CHECK(ctx, stat, 0, "interRATMeasQuantity", -1, "InterRATMeasurement");
    }
+   /* interRATReportingQuantity */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_InterRATReportingQuantity(ctx, &pvalue->interRATReportingQuantity);
+      RT_CHECK(ctx, stat, 0, "interRATReportingQuantity", -1, "InterRATMeasurement");
+   }
+   /* reportCriteria */
+   stat = asn1PE_UMTS_InterRATReportCriteria(ctx, &pvalue->reportCriteria);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterRATMeasurement");
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATMeasurement_r4(rtxContext* RT_RESTRICT ctx, const InterRATMeasurement_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATMeasurement-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATMeasurement-r4");
+   /* interRATCellInfoList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterRATCellInfoList_r4(ctx, &pvalue->interRATCellInfoList);
+      RT_CHECK(ctx, stat, 0, "interRATCellInfoList", -1, "InterRATMeasurement-r4");
+   }
+   /* interRATMeasQuantity */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_InterRATMeasQuantity(ctx, &pvalue->interRATMeasQuantity);
+      RT_CHECK(ctx, stat, 0, "interRATMeasQuantity", -1, "InterRATMeasurement-r4");
+   }
+   /* interRATReportingQuantity */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_InterRATReportingQuantity(ctx, &pvalue->interRATReportingQuantity);
+      RT_CHECK(ctx, stat, 0, "interRATReportingQuantity", -1, "InterRATMeasurement-r4");
+   }
+   /* reportCriteria */
+   stat = asn1PE_UMTS_InterRATReportCriteria(ctx, &pvalue->reportCriteria);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterRATMeasurement-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATMeasurement_r6(rtxContext* RT_RESTRICT ctx, const InterRATMeasurement_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATMeasurement-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATMeasurement-r6");
+   /* interRATCellInfoList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterRATCellInfoList_r6(ctx, &pvalue->interRATCellInfoList);
+      RT_CHECK(ctx, stat, 0, "interRATCellInfoList", -1, "InterRATMeasurement-r6");
+   }
+   /* interRATMeasQuantity */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_InterRATMeasQuantity(ctx, &pvalue->interRATMeasQuantity);
+      RT_CHECK(ctx, stat, 0, "interRATMeasQuantity", -1, "InterRATMeasurement-r6");
+   }
+   /* interRATReportingQuantity */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_InterRATReportingQuantity(ctx, &pvalue->interRATReportingQuantity);
+      RT_CHECK(ctx, stat, 0, "interRATReportingQuantity", -1, "InterRATMeasurement-r6");
+   }
+   /* reportCriteria */
+   stat = asn1PE_UMTS_InterRATReportCriteria(ctx, &pvalue->reportCriteria);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterRATMeasurement-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATMeasurement_r8_interRATMeasurementObjects(rtxContext* RT_RESTRICT ctx, const InterRATMeasurement_r8_interRATMeasurementObjects* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.interRATCellInfoList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interRATCellInfoList", -1, 0);
+         stat = asn1PE_UMTS_InterRATCellInfoList_r6(ctx, pvalue->u.interRATCellInfoList);
+         RT_CHECK(ctx, stat, 0, "interRATCellInfoList", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.eutra_FrequencyList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "eutra-FrequencyList", -1, 0);
+         stat = asn1PE_UMTS_EUTRA_FrequencyList(ctx, pvalue->u.eutra_FrequencyList);
+         RT_CHECK(ctx, stat, 0, "eutra-FrequencyList", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const InterRATReportingQuantity_r8_ratSpecificInfo_gsm* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* gsm-Carrier-RSSI */
+   stat = rtxEncBit(ctx, pvalue->gsm_Carrier_RSSI);
+   RT_CHECK(ctx, stat, 0, "gsm-Carrier-RSSI", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo_eutra_reportingQuantity(rtxContext* RT_RESTRICT ctx, InterRATReportingQuantity_r8_ratSpecificInfo_eutra_reportingQuantity value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 

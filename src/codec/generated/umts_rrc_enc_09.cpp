@@ -6,64 +6,37 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PE_UMTS_MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream(rtxContext* ctx, MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream value)
+int asn1PE_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo_eutra(rtxContext* RT_RESTRICT ctx, const InterRATReportingQuantity_r8_ratSpecificInfo_eutra* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* reportingQuantity */
+   if (pvalue->reportingQuantity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->reportingQuantity);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "reportingQuantity", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
+   stat = pe_ConsUInt64(ctx, pvalue->reportingQuantity, 0, 1);
+   RT_CHECK(ctx, stat, 0, "reportingQuantity", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128(rtxContext* ctx, const MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128* pvalue)
+int asn1PE_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo(rtxContext* RT_RESTRICT ctx, const InterRATReportingQuantity_r8_ratSpecificInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* mimoSFModeForHSPDSCHDualStream */
-   rtxCtxtPushElemName(ctx, "mimoSFModeForHSPDSCHDualStream");
-   if (pvalue->mimoSFModeForHSPDSCHDualStream > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->mimoSFModeForHSPDSCHDualStream);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mimoSFModeForHSPDSCHDualStream, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hs-sich-ReferenceSignalInfoList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "hs-sich-ReferenceSignalInfoList");
-      stat = asn1PE_UMTS_HS_SICH_ReferenceSignalInfoList(ctx, &pvalue->hs_sich_ReferenceSignalInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MIMO_Parameters_r8_modeSpecificInfo_tdd(rtxContext* ctx, const MIMO_Parameters_r8_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm", -1, 0);
+         stat = asn1PE_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo_gsm(ctx, pvalue->u.gsm);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd384-tdd768");
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.eutra == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "eutra", -1, 0);
+         stat = asn1PE_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo_eutra(ctx, pvalue->u.eutra);
+         RT_CHECK(ctx, stat, 0, "eutra", -1, 0);
          break;
       default:
          break;
@@ -71,2429 +44,72 @@ int asn1PE_UMTS_MIMO_Parameters_r8_modeSpecificInfo_tdd(rtxContext* ctx, const M
    return 0;
 }
 
-int asn1PE_UMTS_MIMO_Parameters_r8_modeSpecificInfo(rtxContext* ctx, const MIMO_Parameters_r8_modeSpecificInfo* pvalue)
+int asn1PE_UMTS_InterRATReportingQuantity_r8(rtxContext* RT_RESTRICT ctx, const InterRATReportingQuantity_r8* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MIMO_Parameters_r8_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MIMO_Parameters_r8_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATReportingQuantity-r8");
+   /* utran-EstimatedQuality */
+   stat = rtxEncBit(ctx, pvalue->utran_EstimatedQuality);
+   RT_CHECK(ctx, stat, 0, "utran-EstimatedQuality", -1, "InterRATReportingQuantity-r8");
+   /* ratSpecificInfo */
+   stat = asn1PE_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo(ctx, &pvalue->ratSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "ratSpecificInfo", -1, "InterRATReportingQuantity-r8");
    return 0;
 }
 
-int asn1PE_UMTS_MIMO_Parameters_r8(rtxContext* ctx, const MIMO_Parameters_r8* pvalue)
+int asn1PE_UMTS_InterRATMeasurement_r8(rtxContext* RT_RESTRICT ctx, const InterRATMeasurement_r8* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MIMO-Parameters-r8");
-   /* mimoOperation */
-   rtxCtxtPushElemName(ctx, "mimoOperation");
-   rtxCtxtPushTypeName(ctx, "MIMO-Operation");
-   if (pvalue->mimoOperation > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->mimoOperation);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mimoOperation, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_MIMO_Parameters_r8_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MIMO_Parameters_r9_modeSpecificInfo_fdd_precodingWeightSetRestriction(rtxContext* ctx, MIMO_Parameters_r9_modeSpecificInfo_fdd_precodingWeightSetRestriction value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_MIMO_Parameters_r9_modeSpecificInfo_fdd(rtxContext* ctx, const MIMO_Parameters_r9_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* mimoN-M-Ratio */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "mimoN-M-Ratio");
-      rtxCtxtPushTypeName(ctx, "MIMO-N-M-Ratio");
-      if (pvalue->mimoN_M_Ratio > 9) {
-         rtxErrAddUIntParm(ctx, pvalue->mimoN_M_Ratio);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mimoN_M_Ratio, 0, 9);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mimoPilotConfiguration */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "mimoPilotConfiguration");
-      stat = asn1PE_UMTS_MIMO_PilotConfiguration_r9(ctx, &pvalue->mimoPilotConfiguration);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* precodingWeightSetRestriction */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "precodingWeightSetRestriction");
-      if (pvalue->precodingWeightSetRestriction > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->precodingWeightSetRestriction);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->precodingWeightSetRestriction, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream(rtxContext* ctx, MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128(rtxContext* ctx, const MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* mimoSFModeForHSPDSCHDualStream */
-   rtxCtxtPushElemName(ctx, "mimoSFModeForHSPDSCHDualStream");
-   if (pvalue->mimoSFModeForHSPDSCHDualStream > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->mimoSFModeForHSPDSCHDualStream);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mimoSFModeForHSPDSCHDualStream, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hs-sich-ReferenceSignalInfoList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "hs-sich-ReferenceSignalInfoList");
-      stat = asn1PE_UMTS_HS_SICH_ReferenceSignalInfoList(ctx, &pvalue->hs_sich_ReferenceSignalInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MIMO_Parameters_r9_modeSpecificInfo_tdd(rtxContext* ctx, const MIMO_Parameters_r9_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd384-tdd768");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MIMO_Parameters_r9_modeSpecificInfo(rtxContext* ctx, const MIMO_Parameters_r9_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MIMO_Parameters_r9_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MIMO_Parameters_r9_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MIMO_Parameters_r9(rtxContext* ctx, const MIMO_Parameters_r9* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MIMO-Parameters-r9");
-   /* mimoOperation */
-   rtxCtxtPushElemName(ctx, "mimoOperation");
-   rtxCtxtPushTypeName(ctx, "MIMO-Operation");
-   if (pvalue->mimoOperation > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->mimoOperation);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mimoOperation, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_MIMO_Parameters_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(rtxContext* ctx, const Multi_frequencyInfo_LCR_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Multi-frequencyInfo-LCR-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* secondFrequencyInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "secondFrequencyInfo");
-      stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, &pvalue->secondFrequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* fPachFrequencyInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "fPachFrequencyInfo");
-      stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, &pvalue->fPachFrequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* upPCHpositionInfo */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "upPCHpositionInfo");
-      rtxCtxtPushTypeName(ctx, "UpPCHposition-LCR");
-      if ((uint64_t)pvalue->upPCHpositionInfo > 127u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->upPCHpositionInfo);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->upPCHpositionInfo, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_DTX_DRX_Offset(rtxContext* ctx, UE_DTX_DRX_Offset value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-DTX-DRX-Offset");
-   if ((uint64_t)value > 159u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 159);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewTiming(rtxContext* ctx, const NewTiming* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NewTiming");
-   /* enablingDelay */
-   rtxCtxtPushElemName(ctx, "enablingDelay");
-   rtxCtxtPushTypeName(ctx, "EnablingDelay");
-   if (pvalue->enablingDelay > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->enablingDelay);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->enablingDelay, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ue-dtx-drx-Offset */
-   rtxCtxtPushElemName(ctx, "ue-dtx-drx-Offset");
-   rtxCtxtPushTypeName(ctx, "UE-DTX-DRX-Offset");
-   if ((uint64_t)pvalue->ue_dtx_drx_Offset > 159u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ue_dtx_drx_Offset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_dtx_drx_Offset, 0, 159);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_ext_tdd128_t_SI_nst(rtxContext* ctx, Non_ScheduledTransGrantInfoTDD_ext_tdd128_t_SI_nst value)
-{
-   int stat = 0;
-   if (value > 6) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 6);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_ext_tdd128(rtxContext* ctx, const Non_ScheduledTransGrantInfoTDD_ext_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* t-SI-nst */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "t-SI-nst");
-      if (pvalue->t_SI_nst > 6) {
-         rtxErrAddUIntParm(ctx, pvalue->t_SI_nst);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_SI_nst, 0, 6);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_ext(rtxContext* ctx, const Non_ScheduledTransGrantInfoTDD_ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Non-ScheduledTransGrantInfoTDD-ext");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384-768");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_ext_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NumberOfDPDCH(rtxContext* ctx, NumberOfDPDCH value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "NumberOfDPDCH");
-   if ((uint64_t)(value - 1) > 5u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NumberOfFBI_Bits(rtxContext* ctx, NumberOfFBI_Bits value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "NumberOfFBI-Bits");
-   if ((uint64_t)(value - 1) > 1u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_PowerControlInfo(rtxContext* ctx, const PDSCH_PowerControlInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PDSCH-PowerControlInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* tpc-StepSizeTDD */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "tpc-StepSizeTDD");
-      rtxCtxtPushTypeName(ctx, "TPC-StepSizeTDD");
-      if ((uint64_t)(pvalue->tpc_StepSizeTDD - 1) > 2u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->tpc_StepSizeTDD);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tpc_StepSizeTDD, 1, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CCTrChTPCList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ul-CCTrChTPCList");
-      stat = asn1PE_UMTS_UL_CCTrChTPCList(ctx, &pvalue->ul_CCTrChTPCList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_CapacityAllocationInfo_configuration_old_Configuration(rtxContext* ctx, const PDSCH_CapacityAllocationInfo_configuration_old_Configuration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* tfcs-ID */
-   if (pvalue->tfcs_ID != 1) {
-      rtxCtxtPushElemName(ctx, "tfcs-ID");
-      rtxCtxtPushTypeName(ctx, "TFCS-IdentityPlain");
-      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdsch-Identity */
-   rtxCtxtPushElemName(ctx, "pdsch-Identity");
-   rtxCtxtPushTypeName(ctx, "PDSCH-Identity");
-   if ((uint64_t)(pvalue->pdsch_Identity - 1) > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->pdsch_Identity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pdsch_Identity, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_CapacityAllocationInfo_configuration_new_Configuration(rtxContext* ctx, const PDSCH_CapacityAllocationInfo_configuration_new_Configuration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* pdsch-Info */
-   rtxCtxtPushElemName(ctx, "pdsch-Info");
-   stat = asn1PE_UMTS_PDSCH_Info(ctx, &pvalue->pdsch_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* pdsch-Identity */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pdsch-Identity");
-      rtxCtxtPushTypeName(ctx, "PDSCH-Identity");
-      if ((uint64_t)(pvalue->pdsch_Identity - 1) > 63u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->pdsch_Identity);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->pdsch_Identity, 1, 64);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_CapacityAllocationInfo_configuration(rtxContext* ctx, const PDSCH_CapacityAllocationInfo_configuration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "old-Configuration");
-         if (pvalue->u.old_Configuration == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PDSCH_CapacityAllocationInfo_configuration_old_Configuration(ctx, pvalue->u.old_Configuration);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "new-Configuration");
-         if (pvalue->u.new_Configuration == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PDSCH_CapacityAllocationInfo_configuration_new_Configuration(ctx, pvalue->u.new_Configuration);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_CapacityAllocationInfo(rtxContext* ctx, const PDSCH_CapacityAllocationInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PDSCH-CapacityAllocationInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* pdsch-PowerControlInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pdsch-PowerControlInfo");
-      stat = asn1PE_UMTS_PDSCH_PowerControlInfo(ctx, &pvalue->pdsch_PowerControlInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdsch-AllocationPeriodInfo */
-   rtxCtxtPushElemName(ctx, "pdsch-AllocationPeriodInfo");
-   stat = asn1PE_UMTS_AllocationPeriodInfo(ctx, &pvalue->pdsch_AllocationPeriodInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* configuration */
-   rtxCtxtPushElemName(ctx, "configuration");
-   stat = asn1PE_UMTS_PDSCH_CapacityAllocationInfo_configuration(ctx, &pvalue->configuration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r4_configuration_old_Configuration(rtxContext* ctx, const PDSCH_CapacityAllocationInfo_r4_configuration_old_Configuration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* tfcs-ID */
-   if (pvalue->tfcs_ID != 1) {
-      rtxCtxtPushElemName(ctx, "tfcs-ID");
-      rtxCtxtPushTypeName(ctx, "TFCS-IdentityPlain");
-      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdsch-Identity */
-   rtxCtxtPushElemName(ctx, "pdsch-Identity");
-   rtxCtxtPushTypeName(ctx, "PDSCH-Identity");
-   if ((uint64_t)(pvalue->pdsch_Identity - 1) > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->pdsch_Identity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pdsch_Identity, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_Info_r4_tddOption_tdd384(rtxContext* ctx, const PDSCH_Info_r4_tddOption_tdd384* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* pdsch-TimeslotsCodes */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pdsch-TimeslotsCodes");
-      stat = asn1PE_UMTS_DownlinkTimeslotsCodes(ctx, &pvalue->pdsch_TimeslotsCodes);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_Info_r4_tddOption_tdd128(rtxContext* ctx, const PDSCH_Info_r4_tddOption_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* pdsch-TimeslotsCodes */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pdsch-TimeslotsCodes");
-      stat = asn1PE_UMTS_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->pdsch_TimeslotsCodes);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_Info_r4_tddOption(rtxContext* ctx, const PDSCH_Info_r4_tddOption* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PDSCH_Info_r4_tddOption_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PDSCH_Info_r4_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_Info_r4(rtxContext* ctx, const PDSCH_Info_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PDSCH-Info-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 1) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* tfcs-ID */
-   if (pvalue->tfcs_ID != 1) {
-      rtxCtxtPushElemName(ctx, "tfcs-ID");
-      rtxCtxtPushTypeName(ctx, "TFCS-IdentityPlain");
-      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* commonTimeslotInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "commonTimeslotInfo");
-      stat = asn1PE_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tddOption */
-   rtxCtxtPushElemName(ctx, "tddOption");
-   stat = asn1PE_UMTS_PDSCH_Info_r4_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r4_configuration_new_Configuration(rtxContext* ctx, const PDSCH_CapacityAllocationInfo_r4_configuration_new_Configuration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* pdsch-Info */
-   rtxCtxtPushElemName(ctx, "pdsch-Info");
-   stat = asn1PE_UMTS_PDSCH_Info_r4(ctx, &pvalue->pdsch_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* pdsch-Identity */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pdsch-Identity");
-      rtxCtxtPushTypeName(ctx, "PDSCH-Identity");
-      if ((uint64_t)(pvalue->pdsch_Identity - 1) > 63u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->pdsch_Identity);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->pdsch_Identity, 1, 64);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdsch-PowerControlInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "pdsch-PowerControlInfo");
-      stat = asn1PE_UMTS_PDSCH_PowerControlInfo(ctx, &pvalue->pdsch_PowerControlInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r4_configuration(rtxContext* ctx, const PDSCH_CapacityAllocationInfo_r4_configuration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "old-Configuration");
-         if (pvalue->u.old_Configuration == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r4_configuration_old_Configuration(ctx, pvalue->u.old_Configuration);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "new-Configuration");
-         if (pvalue->u.new_Configuration == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r4_configuration_new_Configuration(ctx, pvalue->u.new_Configuration);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r4(rtxContext* ctx, const PDSCH_CapacityAllocationInfo_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PDSCH-CapacityAllocationInfo-r4");
-   /* pdsch-AllocationPeriodInfo */
-   rtxCtxtPushElemName(ctx, "pdsch-AllocationPeriodInfo");
-   stat = asn1PE_UMTS_AllocationPeriodInfo(ctx, &pvalue->pdsch_AllocationPeriodInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* configuration */
-   rtxCtxtPushElemName(ctx, "configuration");
-   stat = asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r4_configuration(ctx, &pvalue->configuration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r7_configuration_old_Configuration(rtxContext* ctx, const PDSCH_CapacityAllocationInfo_r7_configuration_old_Configuration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* tfcs-ID */
-   if (pvalue->tfcs_ID != 1) {
-      rtxCtxtPushElemName(ctx, "tfcs-ID");
-      rtxCtxtPushTypeName(ctx, "TFCS-IdentityPlain");
-      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdsch-Identity */
-   rtxCtxtPushElemName(ctx, "pdsch-Identity");
-   rtxCtxtPushTypeName(ctx, "PDSCH-Identity");
-   if ((uint64_t)(pvalue->pdsch_Identity - 1) > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->pdsch_Identity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pdsch_Identity, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r7_configuration_new_Configuration(rtxContext* ctx, const PDSCH_CapacityAllocationInfo_r7_configuration_new_Configuration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* pdsch-Info */
-   rtxCtxtPushElemName(ctx, "pdsch-Info");
-   stat = asn1PE_UMTS_PDSCH_Info_r7(ctx, &pvalue->pdsch_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* pdsch-Identity */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pdsch-Identity");
-      rtxCtxtPushTypeName(ctx, "PDSCH-Identity");
-      if ((uint64_t)(pvalue->pdsch_Identity - 1) > 63u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->pdsch_Identity);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->pdsch_Identity, 1, 64);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdsch-PowerControlInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "pdsch-PowerControlInfo");
-      stat = asn1PE_UMTS_PDSCH_PowerControlInfo(ctx, &pvalue->pdsch_PowerControlInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r7_configuration(rtxContext* ctx, const PDSCH_CapacityAllocationInfo_r7_configuration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "old-Configuration");
-         if (pvalue->u.old_Configuration == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r7_configuration_old_Configuration(ctx, pvalue->u.old_Configuration);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "new-Configuration");
-         if (pvalue->u.new_Configuration == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r7_configuration_new_Configuration(ctx, pvalue->u.new_Configuration);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r7(rtxContext* ctx, const PDSCH_CapacityAllocationInfo_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PDSCH-CapacityAllocationInfo-r7");
-   /* pdsch-AllocationPeriodInfo */
-   rtxCtxtPushElemName(ctx, "pdsch-AllocationPeriodInfo");
-   stat = asn1PE_UMTS_AllocationPeriodInfo(ctx, &pvalue->pdsch_AllocationPeriodInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* configuration */
-   rtxCtxtPushElemName(ctx, "configuration");
-   stat = asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r7_configuration(ctx, &pvalue->configuration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_SysInfoList(rtxContext* ctx, const PDSCH_SysInfoList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "PDSCH-SysInfoList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "PDSCH-SysInfo", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_PDSCH_SysInfo(ctx, (const PDSCH_SysInfo*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_SysInfoList_HCR_r5(rtxContext* ctx, const PDSCH_SysInfoList_HCR_r5* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "PDSCH-SysInfoList-HCR-r5");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "PDSCH-SysInfo-HCR-r5", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_PDSCH_SysInfo_HCR_r5(ctx, (const PDSCH_SysInfo_HCR_r5*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_SysInfoList_LCR_r4(rtxContext* ctx, const PDSCH_SysInfoList_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "PDSCH-SysInfoList-LCR-r4");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "PDSCH-SysInfo-LCR-r4", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_PDSCH_SysInfo_LCR_r4(ctx, (const PDSCH_SysInfo_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TPC_CommandTargetRate(rtxContext* ctx, TPC_CommandTargetRate value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TPC-CommandTargetRate");
-   if ((uint64_t)value > 10u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PLCCH_Info(rtxContext* ctx, const PLCCH_Info* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PLCCH-Info");
-   /* plcchSequenceNumber */
-   rtxCtxtPushElemName(ctx, "plcchSequenceNumber");
-   if ((uint64_t)(pvalue->plcchSequenceNumber - 1) > 13u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->plcchSequenceNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->plcchSequenceNumber, 1, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-LCR-r4");
-   if ((uint64_t)pvalue->timeslotNumber > 6u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* channelisationCode */
-   rtxCtxtPushElemName(ctx, "channelisationCode");
-   rtxCtxtPushTypeName(ctx, "DL-TS-ChannelisationCode");
-   if (pvalue->channelisationCode > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* tpcCommandTargetRate */
-   rtxCtxtPushElemName(ctx, "tpcCommandTargetRate");
-   rtxCtxtPushTypeName(ctx, "TPC-CommandTargetRate");
-   if ((uint64_t)pvalue->tpcCommandTargetRate > 10u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->tpcCommandTargetRate);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tpcCommandTargetRate, 0, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(rtxContext* ctx, const PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* tfcs-ID */
-   if (pvalue->tfcs_ID != 1) {
-      rtxCtxtPushElemName(ctx, "tfcs-ID");
-      rtxCtxtPushTypeName(ctx, "TFCS-IdentityPlain");
-      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pusch-Identity */
-   rtxCtxtPushElemName(ctx, "pusch-Identity");
-   rtxCtxtPushTypeName(ctx, "PUSCH-Identity");
-   if ((uint64_t)(pvalue->pusch_Identity - 1) > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->pusch_Identity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pusch_Identity, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(rtxContext* ctx, const PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* pusch-Info */
-   rtxCtxtPushElemName(ctx, "pusch-Info");
-   stat = asn1PE_UMTS_PUSCH_Info(ctx, &pvalue->pusch_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* pusch-Identity */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pusch-Identity");
-      rtxCtxtPushTypeName(ctx, "PUSCH-Identity");
-      if ((uint64_t)(pvalue->pusch_Identity - 1) > 63u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->pusch_Identity);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->pusch_Identity, 1, 64);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration(rtxContext* ctx, const PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "old-Configuration");
-         if (pvalue->u.old_Configuration == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(ctx, pvalue->u.old_Configuration);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "new-Configuration");
-         if (pvalue->u.new_Configuration == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(ctx, pvalue->u.new_Configuration);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment(rtxContext* ctx, const PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* pusch-AllocationPeriodInfo */
-   rtxCtxtPushElemName(ctx, "pusch-AllocationPeriodInfo");
-   stat = asn1PE_UMTS_AllocationPeriodInfo(ctx, &pvalue->pusch_AllocationPeriodInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* pusch-PowerControlInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pusch-PowerControlInfo");
-      rtxCtxtPushTypeName(ctx, "UL-TargetSIR");
-      if ((uint64_t)pvalue->pusch_PowerControlInfo > 62u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->pusch_PowerControlInfo);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->pusch_PowerControlInfo, 0, 62);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* configuration */
-   rtxCtxtPushElemName(ctx, "configuration");
-   stat = asn1PE_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration(ctx, &pvalue->configuration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation(rtxContext* ctx, const PUSCH_CapacityAllocationInfo_pusch_Allocation* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "pusch-AllocationPending");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "pusch-AllocationAssignment");
-         if (pvalue->u.pusch_AllocationAssignment == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment(ctx, pvalue->u.pusch_AllocationAssignment);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_CapacityAllocationInfo(rtxContext* ctx, const PUSCH_CapacityAllocationInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PUSCH-CapacityAllocationInfo");
-   /* pusch-Allocation */
-   rtxCtxtPushElemName(ctx, "pusch-Allocation");
-   stat = asn1PE_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation(ctx, &pvalue->pusch_Allocation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_PowerControlInfo_r4_tddOption_tdd128(rtxContext* ctx, const PUSCH_PowerControlInfo_r4_tddOption_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* tpc-StepSize */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "tpc-StepSize");
-      rtxCtxtPushTypeName(ctx, "TPC-StepSizeTDD");
-      if ((uint64_t)(pvalue->tpc_StepSize - 1) > 2u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->tpc_StepSize);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tpc_StepSize, 1, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_PowerControlInfo_r4_tddOption(rtxContext* ctx, const PUSCH_PowerControlInfo_r4_tddOption* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PUSCH_PowerControlInfo_r4_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_PowerControlInfo_r4(rtxContext* ctx, const PUSCH_PowerControlInfo_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PUSCH-PowerControlInfo-r4");
-   /* ul-TargetSIR */
-   rtxCtxtPushElemName(ctx, "ul-TargetSIR");
-   rtxCtxtPushTypeName(ctx, "UL-TargetSIR");
-   if ((uint64_t)pvalue->ul_TargetSIR > 62u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ul_TargetSIR);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ul_TargetSIR, 0, 62);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* tddOption */
-   rtxCtxtPushElemName(ctx, "tddOption");
-   stat = asn1PE_UMTS_PUSCH_PowerControlInfo_r4_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(rtxContext* ctx, const PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* tfcs-ID */
-   if (pvalue->tfcs_ID != 1) {
-      rtxCtxtPushElemName(ctx, "tfcs-ID");
-      rtxCtxtPushTypeName(ctx, "TFCS-IdentityPlain");
-      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pusch-Identity */
-   rtxCtxtPushElemName(ctx, "pusch-Identity");
-   rtxCtxtPushTypeName(ctx, "PUSCH-Identity");
-   if ((uint64_t)(pvalue->pusch_Identity - 1) > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->pusch_Identity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pusch_Identity, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_Info_r4_tddOption_tdd384(rtxContext* ctx, const PUSCH_Info_r4_tddOption_tdd384* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* pusch-TimeslotsCodes */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pusch-TimeslotsCodes");
-      stat = asn1PE_UMTS_UplinkTimeslotsCodes(ctx, &pvalue->pusch_TimeslotsCodes);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_Info_r4_tddOption_tdd128(rtxContext* ctx, const PUSCH_Info_r4_tddOption_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* pusch-TimeslotsCodes */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pusch-TimeslotsCodes");
-      stat = asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r4(ctx, &pvalue->pusch_TimeslotsCodes);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_Info_r4_tddOption(rtxContext* ctx, const PUSCH_Info_r4_tddOption* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PUSCH_Info_r4_tddOption_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PUSCH_Info_r4_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_Info_r4(rtxContext* ctx, const PUSCH_Info_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PUSCH-Info-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 1) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* tfcs-ID */
-   if (pvalue->tfcs_ID != 1) {
-      rtxCtxtPushElemName(ctx, "tfcs-ID");
-      rtxCtxtPushTypeName(ctx, "TFCS-IdentityPlain");
-      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* commonTimeslotInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "commonTimeslotInfo");
-      stat = asn1PE_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tddOption */
-   rtxCtxtPushElemName(ctx, "tddOption");
-   stat = asn1PE_UMTS_PUSCH_Info_r4_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(rtxContext* ctx, const PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* pusch-Info */
-   rtxCtxtPushElemName(ctx, "pusch-Info");
-   stat = asn1PE_UMTS_PUSCH_Info_r4(ctx, &pvalue->pusch_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* pusch-Identity */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pusch-Identity");
-      rtxCtxtPushTypeName(ctx, "PUSCH-Identity");
-      if ((uint64_t)(pvalue->pusch_Identity - 1) > 63u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->pusch_Identity);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->pusch_Identity, 1, 64);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration(rtxContext* ctx, const PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "old-Configuration");
-         if (pvalue->u.old_Configuration == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(ctx, pvalue->u.old_Configuration);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "new-Configuration");
-         if (pvalue->u.new_Configuration == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(ctx, pvalue->u.new_Configuration);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment(rtxContext* ctx, const PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* pusch-AllocationPeriodInfo */
-   rtxCtxtPushElemName(ctx, "pusch-AllocationPeriodInfo");
-   stat = asn1PE_UMTS_AllocationPeriodInfo(ctx, &pvalue->pusch_AllocationPeriodInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* pusch-PowerControlInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pusch-PowerControlInfo");
-      stat = asn1PE_UMTS_PUSCH_PowerControlInfo_r4(ctx, &pvalue->pusch_PowerControlInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* configuration */
-   rtxCtxtPushElemName(ctx, "configuration");
-   stat = asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration(ctx, &pvalue->configuration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation(rtxContext* ctx, const PUSCH_CapacityAllocationInfo_r4_pusch_Allocation* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "pusch-AllocationPending");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "pusch-AllocationAssignment");
-         if (pvalue->u.pusch_AllocationAssignment == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment(ctx, pvalue->u.pusch_AllocationAssignment);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r4(rtxContext* ctx, const PUSCH_CapacityAllocationInfo_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PUSCH-CapacityAllocationInfo-r4");
-   /* pusch-Allocation */
-   rtxCtxtPushElemName(ctx, "pusch-Allocation");
-   stat = asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation(ctx, &pvalue->pusch_Allocation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_PowerControlInfo_r7_tddOption_tdd128(rtxContext* ctx, const PUSCH_PowerControlInfo_r7_tddOption_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* tpc-StepSize */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "tpc-StepSize");
-      rtxCtxtPushTypeName(ctx, "TPC-StepSizeTDD");
-      if ((uint64_t)(pvalue->tpc_StepSize - 1) > 2u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->tpc_StepSize);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tpc_StepSize, 1, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_PowerControlInfo_r7_tddOption(rtxContext* ctx, const PUSCH_PowerControlInfo_r7_tddOption* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd768");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PUSCH_PowerControlInfo_r7_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_PowerControlInfo_r7(rtxContext* ctx, const PUSCH_PowerControlInfo_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PUSCH-PowerControlInfo-r7");
-   /* ul-TargetSIR */
-   rtxCtxtPushElemName(ctx, "ul-TargetSIR");
-   rtxCtxtPushTypeName(ctx, "UL-TargetSIR");
-   if ((uint64_t)pvalue->ul_TargetSIR > 62u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ul_TargetSIR);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ul_TargetSIR, 0, 62);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* tddOption */
-   rtxCtxtPushElemName(ctx, "tddOption");
-   stat = asn1PE_UMTS_PUSCH_PowerControlInfo_r7_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(rtxContext* ctx, const PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* tfcs-ID */
-   if (pvalue->tfcs_ID != 1) {
-      rtxCtxtPushElemName(ctx, "tfcs-ID");
-      rtxCtxtPushTypeName(ctx, "TFCS-IdentityPlain");
-      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pusch-Identity */
-   rtxCtxtPushElemName(ctx, "pusch-Identity");
-   rtxCtxtPushTypeName(ctx, "PUSCH-Identity");
-   if ((uint64_t)(pvalue->pusch_Identity - 1) > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->pusch_Identity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pusch_Identity, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(rtxContext* ctx, const PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* pusch-Info */
-   rtxCtxtPushElemName(ctx, "pusch-Info");
-   stat = asn1PE_UMTS_PUSCH_Info_VHCR(ctx, &pvalue->pusch_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* pusch-Identity */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pusch-Identity");
-      rtxCtxtPushTypeName(ctx, "PUSCH-Identity");
-      if ((uint64_t)(pvalue->pusch_Identity - 1) > 63u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->pusch_Identity);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->pusch_Identity, 1, 64);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration(rtxContext* ctx, const PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "old-Configuration");
-         if (pvalue->u.old_Configuration == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(ctx, pvalue->u.old_Configuration);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "new-Configuration");
-         if (pvalue->u.new_Configuration == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(ctx, pvalue->u.new_Configuration);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment(rtxContext* ctx, const PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* pusch-AllocationPeriodInfo */
-   rtxCtxtPushElemName(ctx, "pusch-AllocationPeriodInfo");
-   stat = asn1PE_UMTS_AllocationPeriodInfo(ctx, &pvalue->pusch_AllocationPeriodInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* pusch-PowerControlInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pusch-PowerControlInfo");
-      stat = asn1PE_UMTS_PUSCH_PowerControlInfo_r7(ctx, &pvalue->pusch_PowerControlInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* configuration */
-   rtxCtxtPushElemName(ctx, "configuration");
-   stat = asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration(ctx, &pvalue->configuration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation(rtxContext* ctx, const PUSCH_CapacityAllocationInfo_r7_pusch_Allocation* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "pusch-AllocationPending");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "pusch-AllocationAssignment");
-         if (pvalue->u.pusch_AllocationAssignment == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment(ctx, pvalue->u.pusch_AllocationAssignment);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r7(rtxContext* ctx, const PUSCH_CapacityAllocationInfo_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PUSCH-CapacityAllocationInfo-r7");
-   /* pusch-Allocation */
-   rtxCtxtPushElemName(ctx, "pusch-Allocation");
-   stat = asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation(ctx, &pvalue->pusch_Allocation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_SysInfoList(rtxContext* ctx, const PUSCH_SysInfoList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "PUSCH-SysInfoList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "PUSCH-SysInfo", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_PUSCH_SysInfo(ctx, (const PUSCH_SysInfo*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_SysInfoList_HCR_r5(rtxContext* ctx, const PUSCH_SysInfoList_HCR_r5* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "PUSCH-SysInfoList-HCR-r5");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "PUSCH-SysInfo-HCR-r5", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_PUSCH_SysInfo_HCR_r5(ctx, (const PUSCH_SysInfo_HCR_r5*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_SysInfoList_LCR_r4(rtxContext* ctx, const PUSCH_SysInfoList_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "PUSCH-SysInfoList-LCR-r4");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "PUSCH-SysInfo-LCR-r4", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_PUSCH_SysInfo_LCR_r4(ctx, (const PUSCH_SysInfo_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ReducedScramblingCodeNumber(rtxContext* ctx, ReducedScramblingCodeNumber value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ReducedScramblingCodeNumber");
-   if ((uint64_t)value > 8191u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 8191);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RepPerLengthOffset_MICH(rtxContext* ctx, const RepPerLengthOffset_MICH* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RepPerLengthOffset-MICH");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 8) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "rpp4-2");
-         if ((uint64_t)pvalue->u.rpp4_2 > 3u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.rpp4_2);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.rpp4_2, 0, 3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "rpp8-2");
-         if ((uint64_t)pvalue->u.rpp8_2 > 7u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.rpp8_2);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.rpp8_2, 0, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "rpp8-4");
-         if ((uint64_t)pvalue->u.rpp8_4 > 7u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.rpp8_4);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.rpp8_4, 0, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "rpp16-2");
-         if ((uint64_t)pvalue->u.rpp16_2 > 15u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.rpp16_2);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.rpp16_2, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "rpp16-4");
-         if ((uint64_t)pvalue->u.rpp16_4 > 15u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.rpp16_4);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.rpp16_4, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "rpp32-2");
-         if ((uint64_t)pvalue->u.rpp32_2 > 31u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.rpp32_2);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.rpp32_2, 0, 31);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "rpp32-4");
-         if ((uint64_t)pvalue->u.rpp32_4 > 31u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.rpp32_4);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.rpp32_4, 0, 31);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 8:
-         rtxCtxtPushElemName(ctx, "rpp64-2");
-         if ((uint64_t)pvalue->u.rpp64_2 > 63u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.rpp64_2);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.rpp64_2, 0, 63);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 9:
-         rtxCtxtPushElemName(ctx, "rpp64-4");
-         if ((uint64_t)pvalue->u.rpp64_4 > 63u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.rpp64_4);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.rpp64_4, 0, 63);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RL_AdditionInformation(rtxContext* ctx, const RL_AdditionInformation* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RL-AdditionInformation");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-DPCH-InfoPerRL */
-   rtxCtxtPushElemName(ctx, "dl-DPCH-InfoPerRL");
-   stat = asn1PE_UMTS_DL_DPCH_InfoPerRL(ctx, &pvalue->dl_DPCH_InfoPerRL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dummy */
-   rtxCtxtPushElemName(ctx, "dummy");
-   stat = rtxEncBit(ctx, pvalue->dummy);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dummy2 */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dummy2");
-      stat = asn1PE_UMTS_SCCPCH_InfoForFACH(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RL_AdditionInformation_r6_dl_dpchInfo(rtxContext* ctx, const RL_AdditionInformation_r6_dl_dpchInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "dl-DPCH-InfoPerRL");
-         if (pvalue->u.dl_DPCH_InfoPerRL == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_DPCH_InfoPerRL_r5(ctx, pvalue->u.dl_DPCH_InfoPerRL);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "dl-FDPCH-InfoPerRL");
-         if (pvalue->u.dl_FDPCH_InfoPerRL == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_FDPCH_InfoPerRL_r6(ctx, pvalue->u.dl_FDPCH_InfoPerRL);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RL_AdditionInformation_r6(rtxContext* ctx, const RL_AdditionInformation_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RL-AdditionInformation-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cell-Id */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cell-Id");
-      stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->cell_Id);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-dpchInfo */
-   rtxCtxtPushElemName(ctx, "dl-dpchInfo");
-   stat = asn1PE_UMTS_RL_AdditionInformation_r6_dl_dpchInfo(ctx, &pvalue->dl_dpchInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-HICH-Information */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "e-HICH-Information");
-      stat = asn1PE_UMTS_E_HICH_Information(ctx, &pvalue->e_HICH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-RGCH-Information */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "e-RGCH-Information");
-      stat = asn1PE_UMTS_E_RGCH_Information(ctx, &pvalue->e_RGCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RL_AdditionInformation_r7_dl_dpchInfo(rtxContext* ctx, const RL_AdditionInformation_r7_dl_dpchInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "dl-DPCH-InfoPerRL");
-         if (pvalue->u.dl_DPCH_InfoPerRL == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_DPCH_InfoPerRL_r5(ctx, pvalue->u.dl_DPCH_InfoPerRL);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "dl-FDPCH-InfoPerRL");
-         if (pvalue->u.dl_FDPCH_InfoPerRL == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_FDPCH_InfoPerRL_r7(ctx, pvalue->u.dl_FDPCH_InfoPerRL);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RL_AdditionInformation_r7(rtxContext* ctx, const RL_AdditionInformation_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RL-AdditionInformation-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cell-Id */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cell-Id");
-      stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->cell_Id);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-dpchInfo */
-   rtxCtxtPushElemName(ctx, "dl-dpchInfo");
-   stat = asn1PE_UMTS_RL_AdditionInformation_r7_dl_dpchInfo(ctx, &pvalue->dl_dpchInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-HICH-Information */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "e-HICH-Information");
-      stat = asn1PE_UMTS_E_HICH_Information(ctx, &pvalue->e_HICH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-RGCH-Information */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "e-RGCH-Information");
-      stat = asn1PE_UMTS_E_RGCH_Information(ctx, &pvalue->e_RGCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RL_AdditionInformation_r8_dl_dpchInfo(rtxContext* ctx, const RL_AdditionInformation_r8_dl_dpchInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "dl-DPCH-InfoPerRL");
-         if (pvalue->u.dl_DPCH_InfoPerRL == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_DPCH_InfoPerRL_r5(ctx, pvalue->u.dl_DPCH_InfoPerRL);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "dl-FDPCH-InfoPerRL");
-         if (pvalue->u.dl_FDPCH_InfoPerRL == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_FDPCH_InfoPerRL_r7(ctx, pvalue->u.dl_FDPCH_InfoPerRL);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DTX_DRX_TimingInfo_r7_timing(rtxContext* ctx, const DTX_DRX_TimingInfo_r7_timing* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "continue");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "newTiming");
-         if (pvalue->u.newTiming == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_NewTiming(ctx, pvalue->u.newTiming);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DTX_DRX_TimingInfo_r7(rtxContext* ctx, const DTX_DRX_TimingInfo_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DTX-DRX-TimingInfo-r7");
-   /* timing */
-   rtxCtxtPushElemName(ctx, "timing");
-   stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7_timing(ctx, &pvalue->timing);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TargetCellPreconfigInfo(rtxContext* ctx, const TargetCellPreconfigInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TargetCellPreconfigInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 0), 8);
-   RT_CHECK(ctx, stat);
-   /* activationTimeOffset */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "activationTimeOffset");
-      rtxCtxtPushTypeName(ctx, "ActivationTimeOffset");
-      stat = pe_ConsUInt64(ctx, pvalue->activationTimeOffset, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-H-RNTI */
-   rtxCtxtPushElemName(ctx, "new-H-RNTI");
-   stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* newPrimary-E-RNTI */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newSecondary-E-RNTI */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* serving-HSDSCH-CellInformation */
-   rtxCtxtPushElemName(ctx, "serving-HSDSCH-CellInformation");
-   stat = asn1PE_UMTS_Serving_HSDSCH_CellInformation_r8(ctx, &pvalue->serving_HSDSCH_CellInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-dch-ReconfigurationInfo */
-   rtxCtxtPushElemName(ctx, "e-dch-ReconfigurationInfo");
-   stat = asn1PE_UMTS_E_DCH_ReconfigurationInfo_r7(ctx, &pvalue->e_dch_ReconfigurationInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dtx-drx-TimingInfo */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-TimingInfo");
-      stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dtx-drx-Info */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-Info");
-      stat = asn1PE_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hs-scch-LessInfo */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "hs-scch-LessInfo");
-      stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mimoParameters */
-   if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
-      stat = asn1PE_UMTS_MIMO_Parameters_r8(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-SecondaryCellInfoFDD */
-   if (pvalue->m & 0x80u) {
-      rtxCtxtPushElemName(ctx, "dl-SecondaryCellInfoFDD");
-      stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD(ctx, &pvalue->dl_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RL_AdditionInformation_r8(rtxContext* ctx, const RL_AdditionInformation_r8* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RL-AdditionInformation-r8");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATMeasurement-r8");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cell-Id */
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATMeasurement-r8");
+   /* interRATMeasurementObjects */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cell-Id");
-      stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->cell_Id);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_InterRATMeasurement_r8_interRATMeasurementObjects(ctx, &pvalue->interRATMeasurementObjects);
+      RT_CHECK(ctx, stat, 0, "interRATMeasurementObjects", -1, "InterRATMeasurement-r8");
    }
-   /* dl-dpchInfo */
-   rtxCtxtPushElemName(ctx, "dl-dpchInfo");
-   stat = asn1PE_UMTS_RL_AdditionInformation_r8_dl_dpchInfo(ctx, &pvalue->dl_dpchInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-HICH-Information */
+   /* interRATMeasQuantity */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "e-HICH-Information");
-      stat = asn1PE_UMTS_E_HICH_Information(ctx, &pvalue->e_HICH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_InterRATMeasQuantity_r8(ctx, &pvalue->interRATMeasQuantity);
+      RT_CHECK(ctx, stat, 0, "interRATMeasQuantity", -1, "InterRATMeasurement-r8");
    }
-   /* e-RGCH-Information */
+   /* interRATReportingQuantity */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "e-RGCH-Information");
-      stat = asn1PE_UMTS_E_RGCH_Information(ctx, &pvalue->e_RGCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_InterRATReportingQuantity_r8(ctx, &pvalue->interRATReportingQuantity);
+      RT_CHECK(ctx, stat, 0, "interRATReportingQuantity", -1, "InterRATMeasurement-r8");
    }
-   /* targetCellPreconfigInfo */
+   /* reportCriteria */
+   stat = asn1PE_UMTS_InterRATReportCriteria(ctx, &pvalue->reportCriteria);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterRATMeasurement-r8");
+   /* idleIntervalInfo */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "targetCellPreconfigInfo");
-      stat = asn1PE_UMTS_TargetCellPreconfigInfo(ctx, &pvalue->targetCellPreconfigInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_IdleIntervalInfo(ctx, &pvalue->idleIntervalInfo);
+      RT_CHECK(ctx, stat, 0, "idleIntervalInfo", -1, "InterRATMeasurement-r8");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_RL_AdditionInformation_r9_dl_dpchInfo(rtxContext* ctx, const RL_AdditionInformation_r9_dl_dpchInfo* pvalue)
+int asn1PE_UMTS_InterRATMeasurement_r9_interRATMeasurementObjects(rtxContext* RT_RESTRICT ctx, const InterRATMeasurement_r9_interRATMeasurementObjects* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "dl-DPCH-InfoPerRL");
-         if (pvalue->u.dl_DPCH_InfoPerRL == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_DPCH_InfoPerRL_r5(ctx, pvalue->u.dl_DPCH_InfoPerRL);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.interRATCellInfoList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interRATCellInfoList", -1, 0);
+         stat = asn1PE_UMTS_InterRATCellInfoList_r6(ctx, pvalue->u.interRATCellInfoList);
+         RT_CHECK(ctx, stat, 0, "interRATCellInfoList", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "dl-FDPCH-InfoPerRL");
-         if (pvalue->u.dl_FDPCH_InfoPerRL == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DL_FDPCH_InfoPerRL_r7(ctx, pvalue->u.dl_FDPCH_InfoPerRL);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.eutra_FrequencyList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "eutra-FrequencyList", -1, 0);
+         stat = asn1PE_UMTS_EUTRA_FrequencyList_r9(ctx, pvalue->u.eutra_FrequencyList);
+         RT_CHECK(ctx, stat, 0, "eutra-FrequencyList", -1, 0);
          break;
       default:
          break;
@@ -2501,11 +117,3744 @@ int asn1PE_UMTS_RL_AdditionInformation_r9_dl_dpchInfo(rtxContext* ctx, const RL_
    return 0;
 }
 
-int asn1PE_UMTS_TargetCellPreconfigInfo_r9(rtxContext* ctx, const TargetCellPreconfigInfo_r9* pvalue)
+int asn1PE_UMTS_InterRATMeasurement_r9(rtxContext* RT_RESTRICT ctx, const InterRATMeasurement_r9* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TargetCellPreconfigInfo-r9");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATMeasurement-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATMeasurement-r9");
+   /* interRATMeasurementObjects */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterRATMeasurement_r9_interRATMeasurementObjects(ctx, &pvalue->interRATMeasurementObjects);
+      RT_CHECK(ctx, stat, 0, "interRATMeasurementObjects", -1, "InterRATMeasurement-r9");
+   }
+   /* interRATMeasQuantity */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_InterRATMeasQuantity_r8(ctx, &pvalue->interRATMeasQuantity);
+      RT_CHECK(ctx, stat, 0, "interRATMeasQuantity", -1, "InterRATMeasurement-r9");
+   }
+   /* interRATReportingQuantity */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_InterRATReportingQuantity_r8(ctx, &pvalue->interRATReportingQuantity);
+      RT_CHECK(ctx, stat, 0, "interRATReportingQuantity", -1, "InterRATMeasurement-r9");
+   }
+   /* reportCriteria */
+   stat = asn1PE_UMTS_InterRATReportCriteria(ctx, &pvalue->reportCriteria);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterRATMeasurement-r9");
+   /* idleIntervalInfo */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_IdleIntervalInfo(ctx, &pvalue->idleIntervalInfo);
+      RT_CHECK(ctx, stat, 0, "idleIntervalInfo", -1, "InterRATMeasurement-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewIntraFreqCell(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCell* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCell");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCell");
+   /* intraFreqCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->intraFreqCellID > 31u) {
+         rtxErrAddStrParm(ctx, "IntraFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->intraFreqCellID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCell");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->intraFreqCellID, 0, 31);
+      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCell");
+   }
+   /* cellInfo */
+   stat = asn1PE_UMTS_CellInfo(ctx, &pvalue->cellInfo);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCell");
+   return 0;
+}
+
+int asn1PE_UMTS_NewIntraFreqCellList(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewIntraFreqCellList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewIntraFreqCell", (int32_t)i, "NewIntraFreqCellList");
+      stat = asn1PE_UMTS_NewIntraFreqCell(ctx, (const NewIntraFreqCell*)node->data);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCell", (int32_t)i, "NewIntraFreqCellList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqCellInfoList(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqCellInfoList");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoList");
+   /* removedIntraFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
+      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoList");
+   }
+   /* newIntraFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_NewIntraFreqCellList(ctx, &pvalue->newIntraFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoList");
+   }
+   /* cellsForIntraFreqMeasList */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_CellsForIntraFreqMeasList(ctx, &pvalue->cellsForIntraFreqMeasList);
+      RT_CHECK(ctx, stat, 0, "cellsForIntraFreqMeasList", -1, "IntraFreqCellInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewIntraFreqCell_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCell_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCell-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCell-r4");
+   /* intraFreqCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->intraFreqCellID > 31u) {
+         rtxErrAddStrParm(ctx, "IntraFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->intraFreqCellID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCell-r4");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->intraFreqCellID, 0, 31);
+      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCell-r4");
+   }
+   /* cellInfo */
+   stat = asn1PE_UMTS_CellInfo_r4(ctx, &pvalue->cellInfo);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCell-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_NewIntraFreqCellList_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellList_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellList-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewIntraFreqCellList-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewIntraFreqCell-r4", (int32_t)i, "NewIntraFreqCellList-r4");
+      stat = asn1PE_UMTS_NewIntraFreqCell_r4(ctx, (const NewIntraFreqCell_r4*)node->data);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCell-r4", (int32_t)i, "NewIntraFreqCellList-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqCellInfoList_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoList_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqCellInfoList-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoList-r4");
+   /* removedIntraFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
+      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoList-r4");
+   }
+   /* newIntraFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_NewIntraFreqCellList_r4(ctx, &pvalue->newIntraFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoList-r4");
+   }
+   /* cellsForIntraFreqMeasList */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_CellsForIntraFreqMeasList(ctx, &pvalue->cellsForIntraFreqMeasList);
+      RT_CHECK(ctx, stat, 0, "cellsForIntraFreqMeasList", -1, "IntraFreqCellInfoList-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RemovedIntraFreqCellListOnSecULFreq_removeSomeIntraFreqCells(rtxContext* RT_RESTRICT ctx, const RemovedIntraFreqCellListOnSecULFreq_removeSomeIntraFreqCells* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 31u) {
+         rtxErrAddStrParm(ctx, "IntraFreqCellIDOnSecULFreq");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "IntraFreqCellIDOnSecULFreq", "IntraFreqCellIDOnSecULFreq", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 31);
+      RT_CHECK(ctx, stat, "IntraFreqCellIDOnSecULFreq", "IntraFreqCellIDOnSecULFreq", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RemovedIntraFreqCellListOnSecULFreq(rtxContext* RT_RESTRICT ctx, const RemovedIntraFreqCellListOnSecULFreq* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RemovedIntraFreqCellListOnSecULFreq");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, "RemovedIntraFreqCellListOnSecULFreq");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RemovedIntraFreqCellListOnSecULFreq");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.removeSomeIntraFreqCells == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "removeSomeIntraFreqCells", -1, "RemovedIntraFreqCellListOnSecULFreq");
+         stat = asn1PE_UMTS_RemovedIntraFreqCellListOnSecULFreq_removeSomeIntraFreqCells(ctx, pvalue->u.removeSomeIntraFreqCells);
+         RT_CHECK(ctx, stat, 0, "removeSomeIntraFreqCells", -1, "RemovedIntraFreqCellListOnSecULFreq");
+         break;
+      case 3:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewIntraFreqCellOnSecULFreq(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellOnSecULFreq* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellOnSecULFreq");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellOnSecULFreq");
+   /* intraFreqCellIDOnSecULFreq */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->intraFreqCellIDOnSecULFreq > 31u) {
+         rtxErrAddStrParm(ctx, "IntraFreqCellIDOnSecULFreq");
+         rtxErrAddUIntParm(ctx, pvalue->intraFreqCellIDOnSecULFreq);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "IntraFreqCellIDOnSecULFreq", "intraFreqCellIDOnSecULFreq", -1, "NewIntraFreqCellOnSecULFreq");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->intraFreqCellIDOnSecULFreq, 0, 31);
+      RT_CHECK(ctx, stat, "IntraFreqCellIDOnSecULFreq", "intraFreqCellIDOnSecULFreq", -1, "NewIntraFreqCellOnSecULFreq");
+   }
+   /* cellInfo */
+   stat = asn1PE_UMTS_CellInfo_r4(ctx, &pvalue->cellInfo);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellOnSecULFreq");
+   return 0;
+}
+
+int asn1PE_UMTS_NewIntraFreqCellListOnSecULFreq(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellListOnSecULFreq* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellListOnSecULFreq");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewIntraFreqCellListOnSecULFreq");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewIntraFreqCellOnSecULFreq", (int32_t)i, "NewIntraFreqCellListOnSecULFreq");
+      stat = asn1PE_UMTS_NewIntraFreqCellOnSecULFreq(ctx, (const NewIntraFreqCellOnSecULFreq*)node->data);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellOnSecULFreq", (int32_t)i, "NewIntraFreqCellListOnSecULFreq");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqCellInfoListInfoOnSecULFreq(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoListInfoOnSecULFreq* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqCellInfoListInfoOnSecULFreq");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoListInfoOnSecULFreq");
+   /* removedIntraFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RemovedIntraFreqCellListOnSecULFreq(ctx, &pvalue->removedIntraFreqCellList);
+      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoListInfoOnSecULFreq");
+   }
+   /* newIntraFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_NewIntraFreqCellListOnSecULFreq(ctx, &pvalue->newIntraFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoListInfoOnSecULFreq");
+   }
+   /* cellsForIntraFreqMeasList */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_CellsForIntraFreqMeasListOnSecULFreq(ctx, &pvalue->cellsForIntraFreqMeasList);
+      RT_CHECK(ctx, stat, 0, "cellsForIntraFreqMeasList", -1, "IntraFreqCellInfoListInfoOnSecULFreq");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqCellInfoListOnSecULFreq(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoListOnSecULFreq* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqCellInfoListOnSecULFreq");
+   /* intraFreqCellInfoListOnSecULFreq */
+   stat = asn1PE_UMTS_IntraFreqCellInfoListInfoOnSecULFreq(ctx, &pvalue->intraFreqCellInfoListOnSecULFreq);
+   RT_CHECK(ctx, stat, 0, "intraFreqCellInfoListOnSecULFreq", -1, "IntraFreqCellInfoListOnSecULFreq");
+   return 0;
+}
+
+int asn1PE_UMTS_NewIntraFreqCell_r9(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCell_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCell-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCell-r9");
+   /* intraFreqCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->intraFreqCellID > 31u) {
+         rtxErrAddStrParm(ctx, "IntraFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->intraFreqCellID);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCell-r9");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->intraFreqCellID, 0, 31);
+      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCell-r9");
+   }
+   /* cellInfo */
+   stat = asn1PE_UMTS_CellInfo_r9(ctx, &pvalue->cellInfo);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCell-r9");
+   return 0;
+}
+
+int asn1PE_UMTS_NewIntraFreqCellList_r9(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellList_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellList-r9");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewIntraFreqCellList-r9");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewIntraFreqCell-r9", (int32_t)i, "NewIntraFreqCellList-r9");
+      stat = asn1PE_UMTS_NewIntraFreqCell_r9(ctx, (const NewIntraFreqCell_r9*)node->data);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCell-r9", (int32_t)i, "NewIntraFreqCellList-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqSIAcquisitionInfo(rtxContext* RT_RESTRICT ctx, const IntraFreqSIAcquisitionInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqSIAcquisitionInfo");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "IntraFreqSIAcquisitionInfo");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PrimaryCPICH-Info", (int32_t)i, "IntraFreqSIAcquisitionInfo");
+      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, (const PrimaryCPICH_Info*)node->data);
+      RT_CHECK(ctx, stat, 0, "PrimaryCPICH-Info", (int32_t)i, "IntraFreqSIAcquisitionInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqSIAcquisition_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const IntraFreqSIAcquisition_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* intraFreqSIAcquisitionInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntraFreqSIAcquisitionInfo(ctx, &pvalue->intraFreqSIAcquisitionInfo);
+      RT_CHECK(ctx, stat, 0, "intraFreqSIAcquisitionInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqSIAcquisition_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const IntraFreqSIAcquisition_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_IntraFreqSIAcquisition_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqSIAcquisition(rtxContext* RT_RESTRICT ctx, const IntraFreqSIAcquisition* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqSIAcquisition");
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_IntraFreqSIAcquisition_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "IntraFreqSIAcquisition");
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqCellInfoList_r9(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoList_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqCellInfoList-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoList-r9");
+   /* removedIntraFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
+      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoList-r9");
+   }
+   /* newIntraFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_NewIntraFreqCellList_r9(ctx, &pvalue->newIntraFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoList-r9");
+   }
+   /* cellsForIntraFreqMeasList */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_CellsForIntraFreqMeasList(ctx, &pvalue->cellsForIntraFreqMeasList);
+      RT_CHECK(ctx, stat, 0, "cellsForIntraFreqMeasList", -1, "IntraFreqCellInfoList-r9");
+   }
+   /* cSGIntraFreqCellInfoList */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_CSGIntraFreqCellInfoList(ctx, &pvalue->cSGIntraFreqCellInfoList);
+      RT_CHECK(ctx, stat, 0, "cSGIntraFreqCellInfoList", -1, "IntraFreqCellInfoList-r9");
+   }
+   /* intraFreqSIAcquisition */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_IntraFreqSIAcquisition(ctx, &pvalue->intraFreqSIAcquisition);
+      RT_CHECK(ctx, stat, 0, "intraFreqSIAcquisition", -1, "IntraFreqCellInfoList-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqMeasuredResultsList(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasuredResultsList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqMeasuredResultsList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "IntraFreqMeasuredResultsList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CellMeasuredResults", (int32_t)i, "IntraFreqMeasuredResultsList");
+      stat = asn1PE_UMTS_CellMeasuredResults(ctx, (const CellMeasuredResults*)node->data);
+      RT_CHECK(ctx, stat, 0, "CellMeasuredResults", (int32_t)i, "IntraFreqMeasuredResultsList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqMeasuredResultsList_v920ext(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasuredResultsList_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqMeasuredResultsList-v920ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "IntraFreqMeasuredResultsList-v920ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CellMeasuredResults-v920ext", (int32_t)i, "IntraFreqMeasuredResultsList-v920ext");
+      stat = asn1PE_UMTS_CellMeasuredResults_v920ext(ctx, (const CellMeasuredResults_v920ext*)node->data);
+      RT_CHECK(ctx, stat, 0, "CellMeasuredResults-v920ext", (int32_t)i, "IntraFreqMeasuredResultsList-v920ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqReportCriteria(rtxContext* RT_RESTRICT ctx, const IntraFreqReportCriteria* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqReportCriteria");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, "IntraFreqReportCriteria");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqReportCriteria");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria");
+         stat = asn1PE_UMTS_IntraFreqReportingCriteria(ctx, pvalue->u.intraFreqReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria");
+         break;
+      case 2:
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria");
+         stat = asn1PE_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria");
+         break;
+      case 3:
+         if (pvalue->u.noReporting == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "noReporting", -1, "IntraFreqReportCriteria");
+         stat = asn1PE_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
+         RT_CHECK(ctx, stat, 0, "noReporting", -1, "IntraFreqReportCriteria");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqReportCriteria_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqReportCriteria_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqReportCriteria-r4");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, "IntraFreqReportCriteria-r4");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqReportCriteria-r4");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria-r4");
+         stat = asn1PE_UMTS_IntraFreqReportingCriteria_r4(ctx, pvalue->u.intraFreqReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria-r4");
+         break;
+      case 2:
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria-r4");
+         stat = asn1PE_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria-r4");
+         break;
+      case 3:
+         if (pvalue->u.noReporting == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "noReporting", -1, "IntraFreqReportCriteria-r4");
+         stat = asn1PE_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
+         RT_CHECK(ctx, stat, 0, "noReporting", -1, "IntraFreqReportCriteria-r4");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqReportCriteria_r6(rtxContext* RT_RESTRICT ctx, const IntraFreqReportCriteria_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqReportCriteria-r6");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, "IntraFreqReportCriteria-r6");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqReportCriteria-r6");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria-r6");
+         stat = asn1PE_UMTS_IntraFreqReportingCriteria_r6(ctx, pvalue->u.intraFreqReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria-r6");
+         break;
+      case 2:
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria-r6");
+         stat = asn1PE_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria-r6");
+         break;
+      case 3:
+         if (pvalue->u.noReporting == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "noReporting", -1, "IntraFreqReportCriteria-r6");
+         stat = asn1PE_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
+         RT_CHECK(ctx, stat, 0, "noReporting", -1, "IntraFreqReportCriteria-r6");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqReportCriteria_r7(rtxContext* RT_RESTRICT ctx, const IntraFreqReportCriteria_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqReportCriteria-r7");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, "IntraFreqReportCriteria-r7");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqReportCriteria-r7");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria-r7");
+         stat = asn1PE_UMTS_IntraFreqReportingCriteria_r7(ctx, pvalue->u.intraFreqReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria-r7");
+         break;
+      case 2:
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria-r7");
+         stat = asn1PE_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria-r7");
+         break;
+      case 3:
+         if (pvalue->u.noReporting == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "noReporting", -1, "IntraFreqReportCriteria-r7");
+         stat = asn1PE_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
+         RT_CHECK(ctx, stat, 0, "noReporting", -1, "IntraFreqReportCriteria-r7");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqReportCriteria_r9(rtxContext* RT_RESTRICT ctx, const IntraFreqReportCriteria_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqReportCriteria-r9");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, "IntraFreqReportCriteria-r9");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqReportCriteria-r9");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria-r9");
+         stat = asn1PE_UMTS_IntraFreqReportingCriteria_r9(ctx, pvalue->u.intraFreqReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria-r9");
+         break;
+      case 2:
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria-r9");
+         stat = asn1PE_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria-r9");
+         break;
+      case 3:
+         if (pvalue->u.noReporting == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "noReporting", -1, "IntraFreqReportCriteria-r9");
+         stat = asn1PE_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
+         RT_CHECK(ctx, stat, 0, "noReporting", -1, "IntraFreqReportCriteria-r9");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFrequencyMeasurement(rtxContext* RT_RESTRICT ctx, const IntraFrequencyMeasurement* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFrequencyMeasurement");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFrequencyMeasurement");
+   /* intraFreqCellInfoList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntraFreqCellInfoList(ctx, &pvalue->intraFreqCellInfoList);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoList", -1, "IntraFrequencyMeasurement");
+   }
+   /* intraFreqMeasQuantity */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFrequencyMeasurement");
+   }
+   /* intraFreqReportingQuantity */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantity", -1, "IntraFrequencyMeasurement");
+   }
+   /* measurementValidity */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "IntraFrequencyMeasurement");
+   }
+   /* reportCriteria */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_IntraFreqReportCriteria(ctx, &pvalue->reportCriteria);
+      RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "IntraFrequencyMeasurement");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFrequencyMeasurement_r4(rtxContext* RT_RESTRICT ctx, const IntraFrequencyMeasurement_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFrequencyMeasurement-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFrequencyMeasurement-r4");
+   /* intraFreqCellInfoList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntraFreqCellInfoList_r4(ctx, &pvalue->intraFreqCellInfoList);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoList", -1, "IntraFrequencyMeasurement-r4");
+   }
+   /* intraFreqMeasQuantity */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFrequencyMeasurement-r4");
+   }
+   /* intraFreqReportingQuantity */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantity", -1, "IntraFrequencyMeasurement-r4");
+   }
+   /* measurementValidity */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "IntraFrequencyMeasurement-r4");
+   }
+   /* reportCriteria */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_IntraFreqReportCriteria_r4(ctx, &pvalue->reportCriteria);
+      RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "IntraFrequencyMeasurement-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFrequencyMeasurement_r6(rtxContext* RT_RESTRICT ctx, const IntraFrequencyMeasurement_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFrequencyMeasurement-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFrequencyMeasurement-r6");
+   /* intraFreqCellInfoList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntraFreqCellInfoList_r4(ctx, &pvalue->intraFreqCellInfoList);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoList", -1, "IntraFrequencyMeasurement-r6");
+   }
+   /* intraFreqMeasQuantity */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFrequencyMeasurement-r6");
+   }
+   /* intraFreqReportingQuantity */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantity", -1, "IntraFrequencyMeasurement-r6");
+   }
+   /* measurementValidity */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "IntraFrequencyMeasurement-r6");
+   }
+   /* reportCriteria */
+   stat = asn1PE_UMTS_IntraFreqReportCriteria_r6(ctx, &pvalue->reportCriteria);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "IntraFrequencyMeasurement-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFrequencyMeasurement_r7(rtxContext* RT_RESTRICT ctx, const IntraFrequencyMeasurement_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFrequencyMeasurement-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFrequencyMeasurement-r7");
+   /* intraFreqCellInfoList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntraFreqCellInfoList_r4(ctx, &pvalue->intraFreqCellInfoList);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoList", -1, "IntraFrequencyMeasurement-r7");
+   }
+   /* intraFreqMeasQuantity */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFrequencyMeasurement-r7");
+   }
+   /* intraFreqReportingQuantity */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantity", -1, "IntraFrequencyMeasurement-r7");
+   }
+   /* measurementValidity */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "IntraFrequencyMeasurement-r7");
+   }
+   /* reportCriteria */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_IntraFreqReportCriteria_r7(ctx, &pvalue->reportCriteria);
+      RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "IntraFrequencyMeasurement-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFrequencyMeasurement_r9(rtxContext* RT_RESTRICT ctx, const IntraFrequencyMeasurement_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFrequencyMeasurement-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFrequencyMeasurement-r9");
+   /* intraFreqCellInfoList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntraFreqCellInfoList_r9(ctx, &pvalue->intraFreqCellInfoList);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoList", -1, "IntraFrequencyMeasurement-r9");
+   }
+   /* intraFreqCellInfoListOnSecULFreq */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_IntraFreqCellInfoListOnSecULFreq(ctx, &pvalue->intraFreqCellInfoListOnSecULFreq);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoListOnSecULFreq", -1, "IntraFrequencyMeasurement-r9");
+   }
+   /* intraFreqMeasQuantity */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFrequencyMeasurement-r9");
+   }
+   /* intraFreqReportingQuantity */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantity", -1, "IntraFrequencyMeasurement-r9");
+   }
+   /* measurementValidity */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "IntraFrequencyMeasurement-r9");
+   }
+   /* reportCriteria */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_IntraFreqReportCriteria_r9(ctx, &pvalue->reportCriteria);
+      RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "IntraFrequencyMeasurement-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFrequencyMeasuredResultsListOnSecULFreq(rtxContext* RT_RESTRICT ctx, const IntraFrequencyMeasuredResultsListOnSecULFreq* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFrequencyMeasuredResultsListOnSecULFreq");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "IntraFrequencyMeasuredResultsListOnSecULFreq");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CellMeasuredResults-r9", (int32_t)i, "IntraFrequencyMeasuredResultsListOnSecULFreq");
+      stat = asn1PE_UMTS_CellMeasuredResults_r9(ctx, (const CellMeasuredResults_r9*)node->data);
+      RT_CHECK(ctx, stat, 0, "CellMeasuredResults-r9", (int32_t)i, "IntraFrequencyMeasuredResultsListOnSecULFreq");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IP_Length(rtxContext* RT_RESTRICT ctx, IP_Length value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "IP-Length");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IP-Length");
+   return 0;
+}
+
+int asn1PE_UMTS_IP_PCCPCH_r4(rtxContext* RT_RESTRICT ctx, IP_PCCPCH_r4 value)
+{
+   int stat = 0;
+   stat = rtxEncBit(ctx, value);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IP-PCCPCH-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_IP_Spacing(rtxContext* RT_RESTRICT ctx, IP_Spacing value)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "IP-Spacing");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IP-Spacing");
+   return 0;
+}
+
+int asn1PE_UMTS_IP_Spacing_TDD(rtxContext* RT_RESTRICT ctx, IP_Spacing_TDD value)
+{
+   int stat = 0;
+   if (value > 4) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "IP-Spacing-TDD");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IP-Spacing-TDD");
+   return 0;
+}
+
+int asn1PE_UMTS_RLC_BuffersPayload(rtxContext* RT_RESTRICT ctx, RLC_BuffersPayload value)
+{
+   int stat = 0;
+   if (value > 31) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "RLC-BuffersPayload");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 31);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-BuffersPayload");
+   return 0;
+}
+
+int asn1PE_UMTS_VarianceOfRLC_BufferPayload(rtxContext* RT_RESTRICT ctx, VarianceOfRLC_BufferPayload value)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "VarianceOfRLC-BufferPayload");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "VarianceOfRLC-BufferPayload");
+   return 0;
+}
+
+int asn1PE_UMTS_TrafficVolumeMeasuredResults(rtxContext* RT_RESTRICT ctx, const TrafficVolumeMeasuredResults* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TrafficVolumeMeasuredResults");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TrafficVolumeMeasuredResults");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "TrafficVolumeMeasuredResults");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "TrafficVolumeMeasuredResults");
+   /* rlc-BuffersPayload */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->rlc_BuffersPayload > 31) {
+         rtxErrAddUIntParm(ctx, pvalue->rlc_BuffersPayload);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "RLC-BuffersPayload", "rlc-BuffersPayload", -1, "TrafficVolumeMeasuredResults");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->rlc_BuffersPayload, 0, 31);
+      RT_CHECK(ctx, stat, "RLC-BuffersPayload", "rlc-BuffersPayload", -1, "TrafficVolumeMeasuredResults");
+   }
+   /* averageRLC-BufferPayload */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->averageRLC_BufferPayload > 31) {
+         rtxErrAddUIntParm(ctx, pvalue->averageRLC_BufferPayload);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "AverageRLC-BufferPayload", "averageRLC-BufferPayload", -1, "TrafficVolumeMeasuredResults");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->averageRLC_BufferPayload, 0, 31);
+      RT_CHECK(ctx, stat, "AverageRLC-BufferPayload", "averageRLC-BufferPayload", -1, "TrafficVolumeMeasuredResults");
+   }
+   /* varianceOfRLC-BufferPayload */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->varianceOfRLC_BufferPayload > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->varianceOfRLC_BufferPayload);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "VarianceOfRLC-BufferPayload", "varianceOfRLC-BufferPayload", -1, "TrafficVolumeMeasuredResults");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->varianceOfRLC_BufferPayload, 0, 15);
+      RT_CHECK(ctx, stat, "VarianceOfRLC-BufferPayload", "varianceOfRLC-BufferPayload", -1, "TrafficVolumeMeasuredResults");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TrafficVolumeMeasuredResultsList(rtxContext* RT_RESTRICT ctx, const TrafficVolumeMeasuredResultsList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TrafficVolumeMeasuredResultsList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "TrafficVolumeMeasuredResultsList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "TrafficVolumeMeasuredResults", (int32_t)i, "TrafficVolumeMeasuredResultsList");
+      stat = asn1PE_UMTS_TrafficVolumeMeasuredResults(ctx, (const TrafficVolumeMeasuredResults*)node->data);
+      RT_CHECK(ctx, stat, 0, "TrafficVolumeMeasuredResults", (int32_t)i, "TrafficVolumeMeasuredResultsList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SIR(rtxContext* RT_RESTRICT ctx, SIR value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 63u) {
+      rtxErrAddStrParm(ctx, "SIR");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "SIR");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 63);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SIR");
+   return 0;
+}
+
+int asn1PE_UMTS_SIR_TimeslotList(rtxContext* RT_RESTRICT ctx, const SIR_TimeslotList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SIR-TimeslotList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 14);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SIR-TimeslotList");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 63u) {
+         rtxErrAddStrParm(ctx, "SIR");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "SIR", "SIR", (int32_t)i, "SIR-TimeslotList");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 63);
+      RT_CHECK(ctx, stat, "SIR", "SIR", (int32_t)i, "SIR-TimeslotList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SIR_MeasurementResults(rtxContext* RT_RESTRICT ctx, const SIR_MeasurementResults* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SIR-MeasurementResults");
+   /* tfcs-ID */
+   if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
+      rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "SIR-MeasurementResults");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
+   RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "SIR-MeasurementResults");
+   /* sir-TimeslotList */
+   stat = asn1PE_UMTS_SIR_TimeslotList(ctx, &pvalue->sir_TimeslotList);
+   RT_CHECK(ctx, stat, 0, "sir-TimeslotList", -1, "SIR-MeasurementResults");
+   return 0;
+}
+
+int asn1PE_UMTS_SIR_MeasurementList(rtxContext* RT_RESTRICT ctx, const SIR_MeasurementList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SIR-MeasurementList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SIR-MeasurementList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "SIR-MeasurementResults", (int32_t)i, "SIR-MeasurementList");
+      stat = asn1PE_UMTS_SIR_MeasurementResults(ctx, (const SIR_MeasurementResults*)node->data);
+      RT_CHECK(ctx, stat, 0, "SIR-MeasurementResults", (int32_t)i, "SIR-MeasurementList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_QualityMeasuredResults_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const QualityMeasuredResults_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sir-MeasurementResults */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SIR_MeasurementList(ctx, &pvalue->sir_MeasurementResults);
+      RT_CHECK(ctx, stat, 0, "sir-MeasurementResults", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_QualityMeasuredResults_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const QualityMeasuredResults_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_QualityMeasuredResults_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_QualityMeasuredResults(rtxContext* RT_RESTRICT ctx, const QualityMeasuredResults* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "QualityMeasuredResults");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "QualityMeasuredResults");
+   /* blerMeasurementResultsList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_BLER_MeasurementResultsList(ctx, &pvalue->blerMeasurementResultsList);
+      RT_CHECK(ctx, stat, 0, "blerMeasurementResultsList", -1, "QualityMeasuredResults");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_QualityMeasuredResults_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "QualityMeasuredResults");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_TransmittedPower(rtxContext* RT_RESTRICT ctx, UE_TransmittedPower value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 104u) {
+      rtxErrAddStrParm(ctx, "UE-TransmittedPower");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UE-TransmittedPower");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 104);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-TransmittedPower");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RX_TX_TimeDifferenceType1(rtxContext* RT_RESTRICT ctx, UE_RX_TX_TimeDifferenceType1 value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 768) > 1023u) {
+      rtxErrAddStrParm(ctx, "UE-RX-TX-TimeDifferenceType1");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UE-RX-TX-TimeDifferenceType1");
+   }
+   stat = pe_ConsUInt64(ctx, value, 768, 1791);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RX-TX-TimeDifferenceType1");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RX_TX_ReportEntry(rtxContext* RT_RESTRICT ctx, const UE_RX_TX_ReportEntry* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RX-TX-ReportEntry");
+   /* primaryCPICH-Info */
+   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "UE-RX-TX-ReportEntry");
+   /* ue-RX-TX-TimeDifferenceType1 */
+   if ((uint64_t)(pvalue->ue_RX_TX_TimeDifferenceType1 - 768) > 1023u) {
+      rtxErrAddStrParm(ctx, "UE-RX-TX-TimeDifferenceType1");
+      rtxErrAddUIntParm(ctx, pvalue->ue_RX_TX_TimeDifferenceType1);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "UE-RX-TX-TimeDifferenceType1", "ue-RX-TX-TimeDifferenceType1", -1, "UE-RX-TX-ReportEntry");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ue_RX_TX_TimeDifferenceType1, 768, 1791);
+   RT_CHECK(ctx, stat, "UE-RX-TX-TimeDifferenceType1", "ue-RX-TX-TimeDifferenceType1", -1, "UE-RX-TX-ReportEntry");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RX_TX_ReportEntryList(rtxContext* RT_RESTRICT ctx, const UE_RX_TX_ReportEntryList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RX-TX-ReportEntryList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UE-RX-TX-ReportEntryList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UE-RX-TX-ReportEntry", (int32_t)i, "UE-RX-TX-ReportEntryList");
+      stat = asn1PE_UMTS_UE_RX_TX_ReportEntry(ctx, (const UE_RX_TX_ReportEntry*)node->data);
+      RT_CHECK(ctx, stat, 0, "UE-RX-TX-ReportEntry", (int32_t)i, "UE-RX-TX-ReportEntryList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_InternalMeasuredResults_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UE_InternalMeasuredResults_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ue-TransmittedPowerFDD */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->ue_TransmittedPowerFDD > 104u) {
+         rtxErrAddStrParm(ctx, "UE-TransmittedPower");
+         rtxErrAddUIntParm(ctx, pvalue->ue_TransmittedPowerFDD);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UE-TransmittedPower", "ue-TransmittedPowerFDD", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ue_TransmittedPowerFDD, 0, 104);
+      RT_CHECK(ctx, stat, "UE-TransmittedPower", "ue-TransmittedPowerFDD", -1, 0);
+   }
+   /* ue-RX-TX-ReportEntryList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_RX_TX_ReportEntryList(ctx, &pvalue->ue_RX_TX_ReportEntryList);
+      RT_CHECK(ctx, stat, 0, "ue-RX-TX-ReportEntryList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_TransmittedPowerTDD_List(rtxContext* RT_RESTRICT ctx, const UE_TransmittedPowerTDD_List* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-TransmittedPowerTDD-List");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 14);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UE-TransmittedPowerTDD-List");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 104u) {
+         rtxErrAddStrParm(ctx, "UE-TransmittedPower");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UE-TransmittedPower", "UE-TransmittedPower", (int32_t)i, "UE-TransmittedPowerTDD-List");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 104);
+      RT_CHECK(ctx, stat, "UE-TransmittedPower", "UE-TransmittedPower", (int32_t)i, "UE-TransmittedPowerTDD-List");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_InternalMeasuredResults_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UE_InternalMeasuredResults_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ue-TransmittedPowerTDD-List */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_TransmittedPowerTDD_List(ctx, &pvalue->ue_TransmittedPowerTDD_List);
+      RT_CHECK(ctx, stat, 0, "ue-TransmittedPowerTDD-List", -1, 0);
+   }
+   /* appliedTA */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->appliedTA > 63u) {
+         rtxErrAddStrParm(ctx, "UL-TimingAdvance");
+         rtxErrAddUIntParm(ctx, pvalue->appliedTA);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-TimingAdvance", "appliedTA", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->appliedTA, 0, 63);
+      RT_CHECK(ctx, stat, "UL-TimingAdvance", "appliedTA", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_InternalMeasuredResults_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_InternalMeasuredResults_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_UE_InternalMeasuredResults_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_UE_InternalMeasuredResults_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_InternalMeasuredResults(rtxContext* RT_RESTRICT ctx, const UE_InternalMeasuredResults* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-InternalMeasuredResults");
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_UE_InternalMeasuredResults_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-InternalMeasuredResults");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_ErrorCause(rtxContext* RT_RESTRICT ctx, UE_Positioning_ErrorCause value)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UE-Positioning-ErrorCause");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-ErrorCause");
+   return 0;
+}
+
+int asn1PE_UMTS_SatData(rtxContext* RT_RESTRICT ctx, const SatData* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SatData");
+   /* satID */
+   if ((uint64_t)pvalue->satID > 63u) {
+      rtxErrAddStrParm(ctx, "SatID");
+      rtxErrAddUIntParm(ctx, pvalue->satID);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "SatID", "satID", -1, "SatData");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->satID, 0, 63);
+   RT_CHECK(ctx, stat, "SatID", "satID", -1, "SatData");
+   /* iode */
+   stat = pe_ConsUInt64(ctx, pvalue->iode, 0, 255);
+   RT_CHECK(ctx, stat, "IODE", "iode", -1, "SatData");
+   return 0;
+}
+
+int asn1PE_UMTS_SatDataList(rtxContext* RT_RESTRICT ctx, const SatDataList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SatDataList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 0, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SatDataList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "SatData", (int32_t)i, "SatDataList");
+      stat = asn1PE_UMTS_SatData(ctx, (const SatData*)node->data);
+      RT_CHECK(ctx, stat, 0, "SatData", (int32_t)i, "SatDataList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GPS_NavModelAddDataReq(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_NavModelAddDataReq* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-NavModelAddDataReq");
+   /* gps-Week */
+   if ((uint64_t)pvalue->gps_Week > 1023u) {
+      rtxErrAddStrParm(ctx, "gps-Week");
+      rtxErrAddUIntParm(ctx, pvalue->gps_Week);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "gps-Week", -1, "UE-Positioning-GPS-NavModelAddDataReq");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->gps_Week, 0, 1023);
+   RT_CHECK(ctx, stat, 0, "gps-Week", -1, "UE-Positioning-GPS-NavModelAddDataReq");
+   /* gps-Toe */
+   stat = pe_ConsUInt64(ctx, pvalue->gps_Toe, 0, 255);
+   RT_CHECK(ctx, stat, 0, "gps-Toe", -1, "UE-Positioning-GPS-NavModelAddDataReq");
+   /* tToeLimit */
+   if ((uint64_t)pvalue->tToeLimit > 15u) {
+      rtxErrAddStrParm(ctx, "tToeLimit");
+      rtxErrAddUIntParm(ctx, pvalue->tToeLimit);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "tToeLimit", -1, "UE-Positioning-GPS-NavModelAddDataReq");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->tToeLimit, 0, 15);
+   RT_CHECK(ctx, stat, 0, "tToeLimit", -1, "UE-Positioning-GPS-NavModelAddDataReq");
+   /* satDataList */
+   stat = asn1PE_UMTS_SatDataList(ctx, &pvalue->satDataList);
+   RT_CHECK(ctx, stat, 0, "satDataList", -1, "UE-Positioning-GPS-NavModelAddDataReq");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GPS_AdditionalAssistanceDataRequest(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_AdditionalAssistanceDataRequest* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
+   /* almanacRequest */
+   stat = rtxEncBit(ctx, pvalue->almanacRequest);
+   RT_CHECK(ctx, stat, 0, "almanacRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
+   /* utcModelRequest */
+   stat = rtxEncBit(ctx, pvalue->utcModelRequest);
+   RT_CHECK(ctx, stat, 0, "utcModelRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
+   /* ionosphericModelRequest */
+   stat = rtxEncBit(ctx, pvalue->ionosphericModelRequest);
+   RT_CHECK(ctx, stat, 0, "ionosphericModelRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
+   /* navigationModelRequest */
+   stat = rtxEncBit(ctx, pvalue->navigationModelRequest);
+   RT_CHECK(ctx, stat, 0, "navigationModelRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
+   /* dgpsCorrectionsRequest */
+   stat = rtxEncBit(ctx, pvalue->dgpsCorrectionsRequest);
+   RT_CHECK(ctx, stat, 0, "dgpsCorrectionsRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
+   /* referenceLocationRequest */
+   stat = rtxEncBit(ctx, pvalue->referenceLocationRequest);
+   RT_CHECK(ctx, stat, 0, "referenceLocationRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
+   /* referenceTimeRequest */
+   stat = rtxEncBit(ctx, pvalue->referenceTimeRequest);
+   RT_CHECK(ctx, stat, 0, "referenceTimeRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
+   /* aquisitionAssistanceRequest */
+   stat = rtxEncBit(ctx, pvalue->aquisitionAssistanceRequest);
+   RT_CHECK(ctx, stat, 0, "aquisitionAssistanceRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
+   /* realTimeIntegrityRequest */
+   stat = rtxEncBit(ctx, pvalue->realTimeIntegrityRequest);
+   RT_CHECK(ctx, stat, 0, "realTimeIntegrityRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
+   /* navModelAddDataRequest */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_GPS_NavModelAddDataReq(ctx, &pvalue->navModelAddDataRequest);
+      RT_CHECK(ctx, stat, 0, "navModelAddDataRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_Error(rtxContext* RT_RESTRICT ctx, const UE_Positioning_Error* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-Error");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Error");
+   /* errorReason */
+   if (pvalue->errorReason > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->errorReason);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "UE-Positioning-ErrorCause", "errorReason", -1, "UE-Positioning-Error");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->errorReason, 0, 7);
+   RT_CHECK(ctx, stat, "UE-Positioning-ErrorCause", "errorReason", -1, "UE-Positioning-Error");
+   /* ue-positioning-GPS-additionalAssistanceDataRequest */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_GPS_AdditionalAssistanceDataRequest(ctx, &pvalue->ue_positioning_GPS_additionalAssistanceDataRequest);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-additionalAssistanceDataRequest", -1, "UE-Positioning-Error");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_MeasuredResults(rtxContext* RT_RESTRICT ctx, const UE_Positioning_MeasuredResults* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-MeasuredResults");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-MeasuredResults");
+   /* ue-positioning-OTDOA-Measurement */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_OTDOA_Measurement(ctx, &pvalue->ue_positioning_OTDOA_Measurement);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-Measurement", -1, "UE-Positioning-MeasuredResults");
+   }
+   /* ue-positioning-PositionEstimateInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_Positioning_PositionEstimateInfo(ctx, &pvalue->ue_positioning_PositionEstimateInfo);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-PositionEstimateInfo", -1, "UE-Positioning-MeasuredResults");
+   }
+   /* ue-positioning-GPS-Measurement */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_UE_Positioning_GPS_MeasurementResults(ctx, &pvalue->ue_positioning_GPS_Measurement);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Measurement", -1, "UE-Positioning-MeasuredResults");
+   }
+   /* ue-positioning-Error */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_UE_Positioning_Error(ctx, &pvalue->ue_positioning_Error);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-Error", -1, "UE-Positioning-MeasuredResults");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasuredResults(rtxContext* RT_RESTRICT ctx, const MeasuredResults* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasuredResults");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
+   RT_CHECK(ctx, stat, 0, "t", -1, "MeasuredResults");
+   if (pvalue->t - 1 > 7) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasuredResults");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.intraFreqMeasuredResultsList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFreqMeasuredResultsList", -1, "MeasuredResults");
+         stat = asn1PE_UMTS_IntraFreqMeasuredResultsList(ctx, pvalue->u.intraFreqMeasuredResultsList);
+         RT_CHECK(ctx, stat, 0, "intraFreqMeasuredResultsList", -1, "MeasuredResults");
+         break;
+      case 2:
+         if (pvalue->u.interFreqMeasuredResultsList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interFreqMeasuredResultsList", -1, "MeasuredResults");
+         stat = asn1PE_UMTS_InterFreqMeasuredResultsList(ctx, pvalue->u.interFreqMeasuredResultsList);
+         RT_CHECK(ctx, stat, 0, "interFreqMeasuredResultsList", -1, "MeasuredResults");
+         break;
+      case 3:
+         if (pvalue->u.interRATMeasuredResultsList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interRATMeasuredResultsList", -1, "MeasuredResults");
+         stat = asn1PE_UMTS_InterRATMeasuredResultsList(ctx, pvalue->u.interRATMeasuredResultsList);
+         RT_CHECK(ctx, stat, 0, "interRATMeasuredResultsList", -1, "MeasuredResults");
+         break;
+      case 4:
+         if (pvalue->u.trafficVolumeMeasuredResultsList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "trafficVolumeMeasuredResultsList", -1, "MeasuredResults");
+         stat = asn1PE_UMTS_TrafficVolumeMeasuredResultsList(ctx, pvalue->u.trafficVolumeMeasuredResultsList);
+         RT_CHECK(ctx, stat, 0, "trafficVolumeMeasuredResultsList", -1, "MeasuredResults");
+         break;
+      case 5:
+         if (pvalue->u.qualityMeasuredResults == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "qualityMeasuredResults", -1, "MeasuredResults");
+         stat = asn1PE_UMTS_QualityMeasuredResults(ctx, pvalue->u.qualityMeasuredResults);
+         RT_CHECK(ctx, stat, 0, "qualityMeasuredResults", -1, "MeasuredResults");
+         break;
+      case 6:
+         if (pvalue->u.ue_InternalMeasuredResults == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-InternalMeasuredResults", -1, "MeasuredResults");
+         stat = asn1PE_UMTS_UE_InternalMeasuredResults(ctx, pvalue->u.ue_InternalMeasuredResults);
+         RT_CHECK(ctx, stat, 0, "ue-InternalMeasuredResults", -1, "MeasuredResults");
+         break;
+      case 7:
+         if (pvalue->u.ue_positioning_MeasuredResults == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-positioning-MeasuredResults", -1, "MeasuredResults");
+         stat = asn1PE_UMTS_UE_Positioning_MeasuredResults(ctx, pvalue->u.ue_positioning_MeasuredResults);
+         RT_CHECK(ctx, stat, 0, "ue-positioning-MeasuredResults", -1, "MeasuredResults");
+         break;
+      case 8:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasuredResultsOnSecUlFreq(rtxContext* RT_RESTRICT ctx, const MeasuredResultsOnSecUlFreq* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasuredResultsOnSecUlFreq");
+   /* intraFreqMeasuredResultsList */
+   stat = asn1PE_UMTS_IntraFrequencyMeasuredResultsListOnSecULFreq(ctx, &pvalue->intraFreqMeasuredResultsList);
+   RT_CHECK(ctx, stat, 0, "intraFreqMeasuredResultsList", -1, "MeasuredResultsOnSecUlFreq");
+   return 0;
+}
+
+int asn1PE_UMTS_Neighbour_v390ext_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const Neighbour_v390ext_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* frequencyInfo */
+   stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_Neighbour_v390ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const Neighbour_v390ext_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_Neighbour_v390ext_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Neighbour_v390ext(rtxContext* RT_RESTRICT ctx, const Neighbour_v390ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Neighbour-v390ext");
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_Neighbour_v390ext_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "Neighbour-v390ext");
+   return 0;
+}
+
+int asn1PE_UMTS_NeighbourList_v390ext(rtxContext* RT_RESTRICT ctx, const NeighbourList_v390ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NeighbourList-v390ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NeighbourList-v390ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "Neighbour-v390ext", (int32_t)i, "NeighbourList-v390ext");
+      stat = asn1PE_UMTS_Neighbour_v390ext(ctx, (const Neighbour_v390ext*)node->data);
+      RT_CHECK(ctx, stat, 0, "Neighbour-v390ext", (int32_t)i, "NeighbourList-v390ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_Measurement_v390ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_Measurement_v390ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-Measurement-v390ext");
+   /* neighbourList-v390ext */
+   stat = asn1PE_UMTS_NeighbourList_v390ext(ctx, &pvalue->neighbourList_v390ext);
+   RT_CHECK(ctx, stat, 0, "neighbourList-v390ext", -1, "UE-Positioning-OTDOA-Measurement-v390ext");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_MeasuredResults_v390ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_MeasuredResults_v390ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-MeasuredResults-v390ext");
+   /* ue-Positioning-OTDOA-Measurement-v390ext */
+   stat = asn1PE_UMTS_UE_Positioning_OTDOA_Measurement_v390ext(ctx, &pvalue->ue_Positioning_OTDOA_Measurement_v390ext);
+   RT_CHECK(ctx, stat, 0, "ue-Positioning-OTDOA-Measurement-v390ext", -1, "UE-Positioning-MeasuredResults-v390ext");
+   return 0;
+}
+
+int asn1PE_UMTS_MeasuredResults_v390ext(rtxContext* RT_RESTRICT ctx, const MeasuredResults_v390ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasuredResults-v390ext");
+   /* ue-positioning-MeasuredResults-v390ext */
+   stat = asn1PE_UMTS_UE_Positioning_MeasuredResults_v390ext(ctx, &pvalue->ue_positioning_MeasuredResults_v390ext);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-MeasuredResults-v390ext", -1, "MeasuredResults-v390ext");
+   return 0;
+}
+
+int asn1PE_UMTS_MeasuredResults_v590ext(rtxContext* RT_RESTRICT ctx, const MeasuredResults_v590ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasuredResults-v590ext");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "MeasuredResults-v590ext");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasuredResults-v590ext");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.intraFrequencyMeasuredResultsList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFrequencyMeasuredResultsList", -1, "MeasuredResults-v590ext");
+         stat = asn1PE_UMTS_IntraFrequencyMeasuredResultsList_v590ext(ctx, pvalue->u.intraFrequencyMeasuredResultsList);
+         RT_CHECK(ctx, stat, 0, "intraFrequencyMeasuredResultsList", -1, "MeasuredResults-v590ext");
+         break;
+      case 2:
+         if (pvalue->u.interFrequencyMeasuredResultsList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interFrequencyMeasuredResultsList", -1, "MeasuredResults-v590ext");
+         stat = asn1PE_UMTS_InterFrequencyMeasuredResultsList_v590ext(ctx, pvalue->u.interFrequencyMeasuredResultsList);
+         RT_CHECK(ctx, stat, 0, "interFrequencyMeasuredResultsList", -1, "MeasuredResults-v590ext");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd384_768(rtxContext* RT_RESTRICT ctx, const UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd384_768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* appliedTA */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_EXT_UL_TimingAdvance(ctx, &pvalue->appliedTA);
+      RT_CHECK(ctx, stat, 0, "appliedTA", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_T_ADVinfo_ext(rtxContext* RT_RESTRICT ctx, const T_ADVinfo_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "T-ADVinfo-ext");
+   /* t-ADV */
+   if ((uint64_t)pvalue->t_ADV > 8191u) {
+      rtxErrAddStrParm(ctx, "t-ADV");
+      rtxErrAddUIntParm(ctx, pvalue->t_ADV);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "t-ADV", -1, "T-ADVinfo-ext");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->t_ADV, 0, 8191);
+   RT_CHECK(ctx, stat, 0, "t-ADV", -1, "T-ADVinfo-ext");
+   /* sfn */
+   if ((uint64_t)pvalue->sfn > 4095u) {
+      rtxErrAddStrParm(ctx, "sfn");
+      rtxErrAddUIntParm(ctx, pvalue->sfn);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sfn", -1, "T-ADVinfo-ext");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->sfn, 0, 4095);
+   RT_CHECK(ctx, stat, 0, "sfn", -1, "T-ADVinfo-ext");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* t-ADVinfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_T_ADVinfo_ext(ctx, &pvalue->t_ADVinfo);
+      RT_CHECK(ctx, stat, 0, "t-ADVinfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_InternalMeasuredResults_v770ext_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384_768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384-768", -1, 0);
+         stat = asn1PE_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd384_768(ctx, pvalue->u.tdd384_768);
+         RT_CHECK(ctx, stat, 0, "tdd384-768", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = asn1PE_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_InternalMeasuredResults_v770ext(rtxContext* RT_RESTRICT ctx, const UE_InternalMeasuredResults_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-InternalMeasuredResults-v770ext");
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-InternalMeasuredResults-v770ext");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_ErrorCause_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_ErrorCause_r7 value)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UE-Positioning-ErrorCause-r7");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-ErrorCause-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_AdditionalAssistanceDataRequest(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AdditionalAssistanceDataRequest* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest");
+   /* ganssReferenceTime */
+   stat = rtxEncBit(ctx, pvalue->ganssReferenceTime);
+   RT_CHECK(ctx, stat, 0, "ganssReferenceTime", -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest");
+   /* ganssreferenceLocation */
+   stat = rtxEncBit(ctx, pvalue->ganssreferenceLocation);
+   RT_CHECK(ctx, stat, 0, "ganssreferenceLocation", -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest");
+   /* ganssIonosphericModel */
+   stat = rtxEncBit(ctx, pvalue->ganssIonosphericModel);
+   RT_CHECK(ctx, stat, 0, "ganssIonosphericModel", -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest");
+   /* ganssRequestedGenericAssistanceDataList */
+   stat = asn1PE_UMTS_GanssRequestedGenericAssistanceDataList(ctx, &pvalue->ganssRequestedGenericAssistanceDataList);
+   RT_CHECK(ctx, stat, 0, "ganssRequestedGenericAssistanceDataList", -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_Error_r7(rtxContext* RT_RESTRICT ctx, const UE_Positioning_Error_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-Error-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Error-r7");
+   /* errorReason */
+   if (pvalue->errorReason > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->errorReason);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "UE-Positioning-ErrorCause-r7", "errorReason", -1, "UE-Positioning-Error-r7");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->errorReason, 0, 15);
+   RT_CHECK(ctx, stat, "UE-Positioning-ErrorCause-r7", "errorReason", -1, "UE-Positioning-Error-r7");
+   /* ue-positioning-GPS-additionalAssistanceDataRequest */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_GPS_AdditionalAssistanceDataRequest(ctx, &pvalue->ue_positioning_GPS_additionalAssistanceDataRequest);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-additionalAssistanceDataRequest", -1, "UE-Positioning-Error-r7");
+   }
+   /* ue-positioning-GANSS-additionalAssistanceDataRequest */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_AdditionalAssistanceDataRequest(ctx, &pvalue->ue_positioning_GANSS_additionalAssistanceDataRequest);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-additionalAssistanceDataRequest", -1, "UE-Positioning-Error-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_MeasuredResults_v770ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_MeasuredResults_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-MeasuredResults-v770ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-MeasuredResults-v770ext");
+   /* ue-positioning-PositionEstimateInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_v770ext(ctx, &pvalue->ue_positioning_PositionEstimateInfo);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-PositionEstimateInfo", -1, "UE-Positioning-MeasuredResults-v770ext");
+   }
+   /* ue-positioning-GPS-Measurement */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_Positioning_GPS_MeasurementResults_v770ext(ctx, &pvalue->ue_positioning_GPS_Measurement);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Measurement", -1, "UE-Positioning-MeasuredResults-v770ext");
+   }
+   /* ue-positioning-Error */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_UE_Positioning_Error_r7(ctx, &pvalue->ue_positioning_Error);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-Error", -1, "UE-Positioning-MeasuredResults-v770ext");
+   }
+   /* ue-positioning-Ganss-MeasuredResults */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_MeasuredResults(ctx, &pvalue->ue_positioning_Ganss_MeasuredResults);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-Ganss-MeasuredResults", -1, "UE-Positioning-MeasuredResults-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasuredResults_v770ext(rtxContext* RT_RESTRICT ctx, const MeasuredResults_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasuredResults-v770ext");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "MeasuredResults-v770ext");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasuredResults-v770ext");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.ueInternalMeasuredResults == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueInternalMeasuredResults", -1, "MeasuredResults-v770ext");
+         stat = asn1PE_UMTS_UE_InternalMeasuredResults_v770ext(ctx, pvalue->u.ueInternalMeasuredResults);
+         RT_CHECK(ctx, stat, 0, "ueInternalMeasuredResults", -1, "MeasuredResults-v770ext");
+         break;
+      case 2:
+         if (pvalue->u.ue_positioning_MeasuredResults == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-positioning-MeasuredResults", -1, "MeasuredResults-v770ext");
+         stat = asn1PE_UMTS_UE_Positioning_MeasuredResults_v770ext(ctx, pvalue->u.ue_positioning_MeasuredResults);
+         RT_CHECK(ctx, stat, 0, "ue-positioning-MeasuredResults", -1, "MeasuredResults-v770ext");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext_ganssEOPreq(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext_ganssEOPreq value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest-v860ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest-v860ext");
+   /* ganssAddIonoModelReq */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 2, 2);
+      stat = pe_BitString32(ctx, &pvalue->ganssAddIonoModelReq, 2, 2);
+      RT_CHECK(ctx, stat, 0, "ganssAddIonoModelReq", -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest-v860ext");
+   }
+   /* ganssEOPreq */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->ganssEOPreq > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->ganssEOPreq);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "ganssEOPreq", -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest-v860ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ganssEOPreq, 0, 0);
+      RT_CHECK(ctx, stat, 0, "ganssEOPreq", -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest-v860ext");
+   }
+   /* ganssRequestedGenericAssistanceDataList */
+   stat = asn1PE_UMTS_GanssRequestedGenericAssistanceDataList_v860ext(ctx, &pvalue->ganssRequestedGenericAssistanceDataList);
+   RT_CHECK(ctx, stat, 0, "ganssRequestedGenericAssistanceDataList", -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest-v860ext");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_Error_v860ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_Error_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-Error-v860ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Error-v860ext");
+   /* ue-positioning-GANSS-additionalAssistanceDataRequest */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext(ctx, &pvalue->ue_positioning_GANSS_additionalAssistanceDataRequest);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-additionalAssistanceDataRequest", -1, "UE-Positioning-Error-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_MeasuredResults_v860ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_MeasuredResults_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-MeasuredResults-v860ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-MeasuredResults-v860ext");
+   /* ue-positioning-Error */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_Error_v860ext(ctx, &pvalue->ue_positioning_Error);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-Error", -1, "UE-Positioning-MeasuredResults-v860ext");
+   }
+   /* ue-positioning-Ganss-MeasurementResults */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_MeasuredResults_v860ext(ctx, &pvalue->ue_positioning_Ganss_MeasurementResults);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-Ganss-MeasurementResults", -1, "UE-Positioning-MeasuredResults-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasuredResults_v860ext(rtxContext* RT_RESTRICT ctx, const MeasuredResults_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasuredResults-v860ext");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 0);
+   RT_CHECK(ctx, stat, 0, "t", -1, "MeasuredResults-v860ext");
+   if (pvalue->t - 1 > 0) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasuredResults-v860ext");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.ue_positioning_MeasuredResults == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-positioning-MeasuredResults", -1, "MeasuredResults-v860ext");
+         stat = asn1PE_UMTS_UE_Positioning_MeasuredResults_v860ext(ctx, pvalue->u.ue_positioning_MeasuredResults);
+         RT_CHECK(ctx, stat, 0, "ue-positioning-MeasuredResults", -1, "MeasuredResults-v860ext");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasuredResults_v920ext(rtxContext* RT_RESTRICT ctx, const MeasuredResults_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasuredResults-v920ext");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "MeasuredResults-v920ext");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasuredResults-v920ext");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.intraFreqMeasuredResultsList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFreqMeasuredResultsList", -1, "MeasuredResults-v920ext");
+         stat = asn1PE_UMTS_IntraFreqMeasuredResultsList_v920ext(ctx, pvalue->u.intraFreqMeasuredResultsList);
+         RT_CHECK(ctx, stat, 0, "intraFreqMeasuredResultsList", -1, "MeasuredResults-v920ext");
+         break;
+      case 2:
+         if (pvalue->u.interFreqMeasuredResultsList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interFreqMeasuredResultsList", -1, "MeasuredResults-v920ext");
+         stat = asn1PE_UMTS_InterFreqMeasuredResultsList_v920ext(ctx, pvalue->u.interFreqMeasuredResultsList);
+         RT_CHECK(ctx, stat, 0, "interFreqMeasuredResultsList", -1, "MeasuredResults-v920ext");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasuredResultsList_v920ext(rtxContext* RT_RESTRICT ctx, const MeasuredResultsList_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasuredResultsList-v920ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MeasuredResultsList-v920ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MeasuredResults-v920ext", (int32_t)i, "MeasuredResultsList-v920ext");
+      stat = asn1PE_UMTS_MeasuredResults_v920ext(ctx, (const MeasuredResults_v920ext*)node->data);
+      RT_CHECK(ctx, stat, 0, "MeasuredResults-v920ext", (int32_t)i, "MeasuredResultsList-v920ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasuredResultsListOnSecUlFreq(rtxContext* RT_RESTRICT ctx, const MeasuredResultsListOnSecUlFreq* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasuredResultsListOnSecUlFreq");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MeasuredResultsListOnSecUlFreq");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MeasuredResultsOnSecUlFreq", (int32_t)i, "MeasuredResultsListOnSecUlFreq");
+      stat = asn1PE_UMTS_MeasuredResultsOnSecUlFreq(ctx, (const MeasuredResultsOnSecUlFreq*)node->data);
+      RT_CHECK(ctx, stat, 0, "MeasuredResultsOnSecUlFreq", (int32_t)i, "MeasuredResultsListOnSecUlFreq");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_T_ADVinfo(rtxContext* RT_RESTRICT ctx, const T_ADVinfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "T-ADVinfo");
+   /* t-ADV */
+   if ((uint64_t)pvalue->t_ADV > 2047u) {
+      rtxErrAddStrParm(ctx, "t-ADV");
+      rtxErrAddUIntParm(ctx, pvalue->t_ADV);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "t-ADV", -1, "T-ADVinfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->t_ADV, 0, 2047);
+   RT_CHECK(ctx, stat, 0, "t-ADV", -1, "T-ADVinfo");
+   /* sfn */
+   if ((uint64_t)pvalue->sfn > 4095u) {
+      rtxErrAddStrParm(ctx, "sfn");
+      rtxErrAddUIntParm(ctx, pvalue->sfn);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sfn", -1, "T-ADVinfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->sfn, 0, 4095);
+   RT_CHECK(ctx, stat, 0, "sfn", -1, "T-ADVinfo");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_InternalMeasuredResults_LCR_r4(rtxContext* RT_RESTRICT ctx, const UE_InternalMeasuredResults_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-InternalMeasuredResults-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-InternalMeasuredResults-LCR-r4");
+   /* ue-TransmittedPowerTDD-List */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_TransmittedPowerTDD_List(ctx, &pvalue->ue_TransmittedPowerTDD_List);
+      RT_CHECK(ctx, stat, 0, "ue-TransmittedPowerTDD-List", -1, "UE-InternalMeasuredResults-LCR-r4");
+   }
+   /* t-ADVinfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_T_ADVinfo(ctx, &pvalue->t_ADVinfo);
+      RT_CHECK(ctx, stat, 0, "t-ADVinfo", -1, "UE-InternalMeasuredResults-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasuredResults_LCR_r4(rtxContext* RT_RESTRICT ctx, const MeasuredResults_LCR_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasuredResults-LCR-r4");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
+   RT_CHECK(ctx, stat, 0, "t", -1, "MeasuredResults-LCR-r4");
+   if (pvalue->t - 1 > 7) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasuredResults-LCR-r4");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.intraFreqMeasuredResultsList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFreqMeasuredResultsList", -1, "MeasuredResults-LCR-r4");
+         stat = asn1PE_UMTS_IntraFreqMeasuredResultsList(ctx, pvalue->u.intraFreqMeasuredResultsList);
+         RT_CHECK(ctx, stat, 0, "intraFreqMeasuredResultsList", -1, "MeasuredResults-LCR-r4");
+         break;
+      case 2:
+         if (pvalue->u.interFreqMeasuredResultsList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interFreqMeasuredResultsList", -1, "MeasuredResults-LCR-r4");
+         stat = asn1PE_UMTS_InterFreqMeasuredResultsList(ctx, pvalue->u.interFreqMeasuredResultsList);
+         RT_CHECK(ctx, stat, 0, "interFreqMeasuredResultsList", -1, "MeasuredResults-LCR-r4");
+         break;
+      case 3:
+         if (pvalue->u.interRATMeasuredResultsList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interRATMeasuredResultsList", -1, "MeasuredResults-LCR-r4");
+         stat = asn1PE_UMTS_InterRATMeasuredResultsList(ctx, pvalue->u.interRATMeasuredResultsList);
+         RT_CHECK(ctx, stat, 0, "interRATMeasuredResultsList", -1, "MeasuredResults-LCR-r4");
+         break;
+      case 4:
+         if (pvalue->u.trafficVolumeMeasuredResultsList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "trafficVolumeMeasuredResultsList", -1, "MeasuredResults-LCR-r4");
+         stat = asn1PE_UMTS_TrafficVolumeMeasuredResultsList(ctx, pvalue->u.trafficVolumeMeasuredResultsList);
+         RT_CHECK(ctx, stat, 0, "trafficVolumeMeasuredResultsList", -1, "MeasuredResults-LCR-r4");
+         break;
+      case 5:
+         if (pvalue->u.qualityMeasuredResults == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "qualityMeasuredResults", -1, "MeasuredResults-LCR-r4");
+         stat = asn1PE_UMTS_QualityMeasuredResults(ctx, pvalue->u.qualityMeasuredResults);
+         RT_CHECK(ctx, stat, 0, "qualityMeasuredResults", -1, "MeasuredResults-LCR-r4");
+         break;
+      case 6:
+         if (pvalue->u.ue_InternalMeasuredResults == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-InternalMeasuredResults", -1, "MeasuredResults-LCR-r4");
+         stat = asn1PE_UMTS_UE_InternalMeasuredResults_LCR_r4(ctx, pvalue->u.ue_InternalMeasuredResults);
+         RT_CHECK(ctx, stat, 0, "ue-InternalMeasuredResults", -1, "MeasuredResults-LCR-r4");
+         break;
+      case 7:
+         if (pvalue->u.ue_positioniing_MeasuredResults == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-positioniing-MeasuredResults", -1, "MeasuredResults-LCR-r4");
+         stat = asn1PE_UMTS_UE_Positioning_MeasuredResults(ctx, pvalue->u.ue_positioniing_MeasuredResults);
+         RT_CHECK(ctx, stat, 0, "ue-positioniing-MeasuredResults", -1, "MeasuredResults-LCR-r4");
+         break;
+      case 8:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasuredResultsList(rtxContext* RT_RESTRICT ctx, const MeasuredResultsList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasuredResultsList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MeasuredResultsList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MeasuredResults", (int32_t)i, "MeasuredResultsList");
+      stat = asn1PE_UMTS_MeasuredResults(ctx, (const MeasuredResults*)node->data);
+      RT_CHECK(ctx, stat, 0, "MeasuredResults", (int32_t)i, "MeasuredResultsList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasuredResultsList_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const MeasuredResultsList_LCR_r4_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasuredResultsList-LCR-r4-ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MeasuredResultsList-LCR-r4-ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MeasuredResults-LCR-r4", (int32_t)i, "MeasuredResultsList-LCR-r4-ext");
+      stat = asn1PE_UMTS_MeasuredResults_LCR_r4(ctx, (const MeasuredResults_LCR_r4*)node->data);
+      RT_CHECK(ctx, stat, 0, "MeasuredResults-LCR-r4", (int32_t)i, "MeasuredResultsList-LCR-r4-ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasuredResultsList_v770xet_element(rtxContext* RT_RESTRICT ctx, const MeasuredResultsList_v770xet_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measuredResults */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasuredResults_v770ext(ctx, &pvalue->measuredResults);
+      RT_CHECK(ctx, stat, 0, "measuredResults", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasuredResultsList_v770xet(rtxContext* RT_RESTRICT ctx, const MeasuredResultsList_v770xet* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasuredResultsList-v770xet");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MeasuredResultsList-v770xet");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "MeasuredResultsList-v770xet");
+      stat = asn1PE_UMTS_MeasuredResultsList_v770xet_element(ctx, (const MeasuredResultsList_v770xet_element*)node->data);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "MeasuredResultsList-v770xet");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasuredResultsList_v860ext_element(rtxContext* RT_RESTRICT ctx, const MeasuredResultsList_v860ext_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measuredResults */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasuredResults_v860ext(ctx, &pvalue->measuredResults);
+      RT_CHECK(ctx, stat, 0, "measuredResults", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasuredResultsList_v860ext(rtxContext* RT_RESTRICT ctx, const MeasuredResultsList_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasuredResultsList-v860ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MeasuredResultsList-v860ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "MeasuredResultsList-v860ext");
+      stat = asn1PE_UMTS_MeasuredResultsList_v860ext_element(ctx, (const MeasuredResultsList_v860ext_element*)node->data);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "MeasuredResultsList-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd_measurementQuantity(rtxContext* RT_RESTRICT ctx, const MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd_measurementQuantity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)pvalue->u.cpich_Ec_N0 > 63u) {
+            rtxErrAddStrParm(ctx, "CPICH-Ec-N0");
+            rtxErrAddUIntParm(ctx, pvalue->u.cpich_Ec_N0);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CPICH-Ec-N0", "cpich-Ec-N0", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.cpich_Ec_N0, 0, 63);
+         RT_CHECK(ctx, stat, "CPICH-Ec-N0", "cpich-Ec-N0", -1, 0);
+         break;
+      case 2:
+         if ((uint64_t)pvalue->u.cpich_RSCP > 127u) {
+            rtxErrAddStrParm(ctx, "CPICH-RSCP");
+            rtxErrAddUIntParm(ctx, pvalue->u.cpich_RSCP);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CPICH-RSCP", "cpich-RSCP", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.cpich_RSCP, 0, 127);
+         RT_CHECK(ctx, stat, "CPICH-RSCP", "cpich-RSCP", -1, 0);
+         break;
+      case 3:
+         if ((uint64_t)(pvalue->u.pathloss - 46) > 127u) {
+            rtxErrAddStrParm(ctx, "Pathloss");
+            rtxErrAddUIntParm(ctx, pvalue->u.pathloss);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "Pathloss", "pathloss", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.pathloss, 46, 173);
+         RT_CHECK(ctx, stat, "Pathloss", "pathloss", -1, 0);
+         break;
+      case 4:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* measurementQuantity */
+   stat = asn1PE_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd_measurementQuantity(ctx, &pvalue->measurementQuantity);
+   RT_CHECK(ctx, stat, 0, "measurementQuantity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const MeasuredResultsOnRACH_currentCell_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* timeslotISCP */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TimeslotISCP_List(ctx, &pvalue->timeslotISCP);
+      RT_CHECK(ctx, stat, 0, "timeslotISCP", -1, 0);
+   }
+   /* primaryCCPCH-RSCP */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->primaryCCPCH_RSCP > 127u) {
+         rtxErrAddStrParm(ctx, "PrimaryCCPCH-RSCP");
+         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_RSCP);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-RSCP", "primaryCCPCH-RSCP", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_RSCP, 0, 127);
+      RT_CHECK(ctx, stat, "PrimaryCCPCH-RSCP", "primaryCCPCH-RSCP", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const MeasuredResultsOnRACH_currentCell_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasuredResultsOnRACH_currentCell(rtxContext* RT_RESTRICT ctx, const MeasuredResultsOnRACH_currentCell* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MonitoredCellRACH_Result_modeSpecificInfo_fdd_measurementQuantity(rtxContext* RT_RESTRICT ctx, const MonitoredCellRACH_Result_modeSpecificInfo_fdd_measurementQuantity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)pvalue->u.cpich_Ec_N0 > 63u) {
+            rtxErrAddStrParm(ctx, "CPICH-Ec-N0");
+            rtxErrAddUIntParm(ctx, pvalue->u.cpich_Ec_N0);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CPICH-Ec-N0", "cpich-Ec-N0", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.cpich_Ec_N0, 0, 63);
+         RT_CHECK(ctx, stat, "CPICH-Ec-N0", "cpich-Ec-N0", -1, 0);
+         break;
+      case 2:
+         if ((uint64_t)pvalue->u.cpich_RSCP > 127u) {
+            rtxErrAddStrParm(ctx, "CPICH-RSCP");
+            rtxErrAddUIntParm(ctx, pvalue->u.cpich_RSCP);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "CPICH-RSCP", "cpich-RSCP", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.cpich_RSCP, 0, 127);
+         RT_CHECK(ctx, stat, "CPICH-RSCP", "cpich-RSCP", -1, 0);
+         break;
+      case 3:
+         if ((uint64_t)(pvalue->u.pathloss - 46) > 127u) {
+            rtxErrAddStrParm(ctx, "Pathloss");
+            rtxErrAddUIntParm(ctx, pvalue->u.pathloss);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "Pathloss", "pathloss", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.pathloss, 46, 173);
+         RT_CHECK(ctx, stat, "Pathloss", "pathloss", -1, 0);
+         break;
+      case 4:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MonitoredCellRACH_Result_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const MonitoredCellRACH_Result_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   /* measurementQuantity */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MonitoredCellRACH_Result_modeSpecificInfo_fdd_measurementQuantity(ctx, &pvalue->measurementQuantity);
+      RT_CHECK(ctx, stat, 0, "measurementQuantity", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MonitoredCellRACH_Result_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const MonitoredCellRACH_Result_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* cellParametersID */
+   if ((uint64_t)pvalue->cellParametersID > 127u) {
+      rtxErrAddStrParm(ctx, "CellParametersID");
+      rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "CellParametersID", "cellParametersID", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cellParametersID, 0, 127);
+   RT_CHECK(ctx, stat, "CellParametersID", "cellParametersID", -1, 0);
+   /* primaryCCPCH-RSCP */
+   if ((uint64_t)pvalue->primaryCCPCH_RSCP > 127u) {
+      rtxErrAddStrParm(ctx, "PrimaryCCPCH-RSCP");
+      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_RSCP);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-RSCP", "primaryCCPCH-RSCP", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_RSCP, 0, 127);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-RSCP", "primaryCCPCH-RSCP", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MonitoredCellRACH_Result_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const MonitoredCellRACH_Result_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_MonitoredCellRACH_Result_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_MonitoredCellRACH_Result_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MonitoredCellRACH_Result(rtxContext* RT_RESTRICT ctx, const MonitoredCellRACH_Result* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MonitoredCellRACH-Result");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MonitoredCellRACH-Result");
+   /* sfn-SFN-ObsTimeDifference */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SFN_SFN_ObsTimeDifference(ctx, &pvalue->sfn_SFN_ObsTimeDifference);
+      RT_CHECK(ctx, stat, 0, "sfn-SFN-ObsTimeDifference", -1, "MonitoredCellRACH-Result");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_MonitoredCellRACH_Result_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "MonitoredCellRACH-Result");
+   return 0;
+}
+
+int asn1PE_UMTS_MonitoredCellRACH_List(rtxContext* RT_RESTRICT ctx, const MonitoredCellRACH_List* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MonitoredCellRACH-List");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MonitoredCellRACH-List");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MonitoredCellRACH-Result", (int32_t)i, "MonitoredCellRACH-List");
+      stat = asn1PE_UMTS_MonitoredCellRACH_Result(ctx, (const MonitoredCellRACH_Result*)node->data);
+      RT_CHECK(ctx, stat, 0, "MonitoredCellRACH-Result", (int32_t)i, "MonitoredCellRACH-List");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasuredResultsOnRACH(rtxContext* RT_RESTRICT ctx, const MeasuredResultsOnRACH* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasuredResultsOnRACH");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasuredResultsOnRACH");
+   /* currentCell */
+   stat = asn1PE_UMTS_MeasuredResultsOnRACH_currentCell(ctx, &pvalue->currentCell);
+   RT_CHECK(ctx, stat, 0, "currentCell", -1, "MeasuredResultsOnRACH");
+   /* monitoredCells */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MonitoredCellRACH_List(ctx, &pvalue->monitoredCells);
+      RT_CHECK(ctx, stat, 0, "monitoredCells", -1, "MeasuredResultsOnRACH");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MonitoredCellRACH_List_v7g0ext(rtxContext* RT_RESTRICT ctx, const MonitoredCellRACH_List_v7g0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MonitoredCellRACH-List-v7g0ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MonitoredCellRACH-List-v7g0ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DeltaRSCPPerCell", (int32_t)i, "MonitoredCellRACH-List-v7g0ext");
+      stat = asn1PE_UMTS_DeltaRSCPPerCell(ctx, (const DeltaRSCPPerCell*)node->data);
+      RT_CHECK(ctx, stat, 0, "DeltaRSCPPerCell", (int32_t)i, "MonitoredCellRACH-List-v7g0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasuredResultsOnRACH_v7g0ext(rtxContext* RT_RESTRICT ctx, const MeasuredResultsOnRACH_v7g0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasuredResultsOnRACH-v7g0ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasuredResultsOnRACH-v7g0ext");
+   /* currentCell-DeltaRSCP */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DeltaRSCPPerCell(ctx, &pvalue->currentCell_DeltaRSCP);
+      RT_CHECK(ctx, stat, 0, "currentCell-DeltaRSCP", -1, "MeasuredResultsOnRACH-v7g0ext");
+   }
+   /* monitoredCellRACH-List-v7g0ext */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_MonitoredCellRACH_List_v7g0ext(ctx, &pvalue->monitoredCellRACH_List_v7g0ext);
+      RT_CHECK(ctx, stat, 0, "monitoredCellRACH-List-v7g0ext", -1, "MeasuredResultsOnRACH-v7g0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasuredResultsOnRACHinterFreq(rtxContext* RT_RESTRICT ctx, const MeasuredResultsOnRACHinterFreq* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasuredResultsOnRACHinterFreq");
+   /* interFreqCellIndication-SIB11 */
+   if ((uint64_t)pvalue->interFreqCellIndication_SIB11 > 1u) {
+      rtxErrAddStrParm(ctx, "interFreqCellIndication-SIB11");
+      rtxErrAddUIntParm(ctx, pvalue->interFreqCellIndication_SIB11);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "interFreqCellIndication-SIB11", -1, "MeasuredResultsOnRACHinterFreq");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->interFreqCellIndication_SIB11, 0, 1);
+   RT_CHECK(ctx, stat, 0, "interFreqCellIndication-SIB11", -1, "MeasuredResultsOnRACHinterFreq");
+   /* interFreqCellIndication-SIB12 */
+   if ((uint64_t)pvalue->interFreqCellIndication_SIB12 > 1u) {
+      rtxErrAddStrParm(ctx, "interFreqCellIndication-SIB12");
+      rtxErrAddUIntParm(ctx, pvalue->interFreqCellIndication_SIB12);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "interFreqCellIndication-SIB12", -1, "MeasuredResultsOnRACHinterFreq");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->interFreqCellIndication_SIB12, 0, 1);
+   RT_CHECK(ctx, stat, 0, "interFreqCellIndication-SIB12", -1, "MeasuredResultsOnRACHinterFreq");
+   /* interFreqRACHRepCellsList */
+   stat = asn1PE_UMTS_InterFreqRACHRepCellsList(ctx, &pvalue->interFreqRACHRepCellsList);
+   RT_CHECK(ctx, stat, 0, "interFreqRACHRepCellsList", -1, "MeasuredResultsOnRACHinterFreq");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_MethodType(rtxContext* RT_RESTRICT ctx, UE_Positioning_MethodType value)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UE-Positioning-MethodType");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-MethodType");
+   return 0;
+}
+
+int asn1PE_UMTS_PositioningMethod(rtxContext* RT_RESTRICT ctx, PositioningMethod value)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "PositioningMethod");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PositioningMethod");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_ResponseTime(rtxContext* RT_RESTRICT ctx, UE_Positioning_ResponseTime value)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UE-Positioning-ResponseTime");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-ResponseTime");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_Accuracy(rtxContext* RT_RESTRICT ctx, UE_Positioning_Accuracy value)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 7, 7);
+   stat = pe_BitString32(ctx, &value, 7, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Accuracy");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_ReportingQuantity(rtxContext* RT_RESTRICT ctx, const UE_Positioning_ReportingQuantity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-ReportingQuantity");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-ReportingQuantity");
+   /* methodType */
+   if (pvalue->methodType > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->methodType);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "UE-Positioning-MethodType", "methodType", -1, "UE-Positioning-ReportingQuantity");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->methodType, 0, 3);
+   RT_CHECK(ctx, stat, "UE-Positioning-MethodType", "methodType", -1, "UE-Positioning-ReportingQuantity");
+   /* positioningMethod */
+   if (pvalue->positioningMethod > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->positioningMethod);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "PositioningMethod", "positioningMethod", -1, "UE-Positioning-ReportingQuantity");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->positioningMethod, 0, 3);
+   RT_CHECK(ctx, stat, "PositioningMethod", "positioningMethod", -1, "UE-Positioning-ReportingQuantity");
+   /* dummy1 */
+   if (pvalue->dummy1 > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->dummy1);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "UE-Positioning-ResponseTime", "dummy1", -1, "UE-Positioning-ReportingQuantity");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->dummy1, 0, 7);
+   RT_CHECK(ctx, stat, "UE-Positioning-ResponseTime", "dummy1", -1, "UE-Positioning-ReportingQuantity");
+   /* horizontal-Accuracy */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_Accuracy(ctx, pvalue->horizontal_Accuracy);
+      RT_CHECK(ctx, stat, 0, "horizontal-Accuracy", -1, "UE-Positioning-ReportingQuantity");
+   }
+   /* gps-TimingOfCellWanted */
+   stat = rtxEncBit(ctx, pvalue->gps_TimingOfCellWanted);
+   RT_CHECK(ctx, stat, 0, "gps-TimingOfCellWanted", -1, "UE-Positioning-ReportingQuantity");
+   /* dummy2 */
+   stat = rtxEncBit(ctx, pvalue->dummy2);
+   RT_CHECK(ctx, stat, 0, "dummy2", -1, "UE-Positioning-ReportingQuantity");
+   /* additionalAssistanceDataRequest */
+   stat = rtxEncBit(ctx, pvalue->additionalAssistanceDataRequest);
+   RT_CHECK(ctx, stat, 0, "additionalAssistanceDataRequest", -1, "UE-Positioning-ReportingQuantity");
+   /* environmentCharacterisation */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->environmentCharacterisation > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->environmentCharacterisation);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "EnvironmentCharacterisation", "environmentCharacterisation", -1, "UE-Positioning-ReportingQuantity");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->environmentCharacterisation, 0, 3);
+      RT_CHECK(ctx, stat, "EnvironmentCharacterisation", "environmentCharacterisation", -1, "UE-Positioning-ReportingQuantity");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_MeasurementInterval(rtxContext* RT_RESTRICT ctx, UE_Positioning_MeasurementInterval value)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UE-Positioning-MeasurementInterval");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-MeasurementInterval");
+   return 0;
+}
+
+int asn1PE_UMTS_ThresholdPositionChange(rtxContext* RT_RESTRICT ctx, ThresholdPositionChange value)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ThresholdPositionChange");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ThresholdPositionChange");
+   return 0;
+}
+
+int asn1PE_UMTS_ThresholdSFN_SFN_Change(rtxContext* RT_RESTRICT ctx, ThresholdSFN_SFN_Change value)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ThresholdSFN-SFN-Change");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ThresholdSFN-SFN-Change");
+   return 0;
+}
+
+int asn1PE_UMTS_ThresholdSFN_GPS_TOW(rtxContext* RT_RESTRICT ctx, ThresholdSFN_GPS_TOW value)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ThresholdSFN-GPS-TOW");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ThresholdSFN-GPS-TOW");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_EventSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_EventSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-EventSpecificInfo");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, "UE-Positioning-EventSpecificInfo");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UE-Positioning-EventSpecificInfo");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.e7a > 15) {
+            rtxErrAddUIntParm(ctx, pvalue->u.e7a);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "ThresholdPositionChange", "e7a", -1, "UE-Positioning-EventSpecificInfo");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.e7a, 0, 15);
+         RT_CHECK(ctx, stat, "ThresholdPositionChange", "e7a", -1, "UE-Positioning-EventSpecificInfo");
+         break;
+      case 2:
+         if (pvalue->u.e7b > 15) {
+            rtxErrAddUIntParm(ctx, pvalue->u.e7b);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "ThresholdSFN-SFN-Change", "e7b", -1, "UE-Positioning-EventSpecificInfo");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.e7b, 0, 15);
+         RT_CHECK(ctx, stat, "ThresholdSFN-SFN-Change", "e7b", -1, "UE-Positioning-EventSpecificInfo");
+         break;
+      case 3:
+         if (pvalue->u.e7c > 7) {
+            rtxErrAddUIntParm(ctx, pvalue->u.e7c);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "ThresholdSFN-GPS-TOW", "e7c", -1, "UE-Positioning-EventSpecificInfo");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.e7c, 0, 7);
+         RT_CHECK(ctx, stat, "ThresholdSFN-GPS-TOW", "e7c", -1, "UE-Positioning-EventSpecificInfo");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_EventParam(rtxContext* RT_RESTRICT ctx, const UE_Positioning_EventParam* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-EventParam");
+   /* reportingAmount */
+   if (pvalue->reportingAmount > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->reportingAmount);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportingAmount", "reportingAmount", -1, "UE-Positioning-EventParam");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->reportingAmount, 0, 7);
+   RT_CHECK(ctx, stat, "ReportingAmount", "reportingAmount", -1, "UE-Positioning-EventParam");
+   /* reportFirstFix */
+   stat = rtxEncBit(ctx, pvalue->reportFirstFix);
+   RT_CHECK(ctx, stat, 0, "reportFirstFix", -1, "UE-Positioning-EventParam");
+   /* measurementInterval */
+   if (pvalue->measurementInterval > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->measurementInterval);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "UE-Positioning-MeasurementInterval", "measurementInterval", -1, "UE-Positioning-EventParam");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->measurementInterval, 0, 7);
+   RT_CHECK(ctx, stat, "UE-Positioning-MeasurementInterval", "measurementInterval", -1, "UE-Positioning-EventParam");
+   /* eventSpecificInfo */
+   stat = asn1PE_UMTS_UE_Positioning_EventSpecificInfo(ctx, &pvalue->eventSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "eventSpecificInfo", -1, "UE-Positioning-EventParam");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_EventParamList(rtxContext* RT_RESTRICT ctx, const UE_Positioning_EventParamList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-EventParamList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UE-Positioning-EventParamList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UE-Positioning-EventParam", (int32_t)i, "UE-Positioning-EventParamList");
+      stat = asn1PE_UMTS_UE_Positioning_EventParam(ctx, (const UE_Positioning_EventParam*)node->data);
+      RT_CHECK(ctx, stat, 0, "UE-Positioning-EventParam", (int32_t)i, "UE-Positioning-EventParamList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_ReportCriteria(rtxContext* RT_RESTRICT ctx, const UE_Positioning_ReportCriteria* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-ReportCriteria");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, "UE-Positioning-ReportCriteria");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UE-Positioning-ReportCriteria");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.ue_positioning_ReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-positioning-ReportingCriteria", -1, "UE-Positioning-ReportCriteria");
+         stat = asn1PE_UMTS_UE_Positioning_EventParamList(ctx, pvalue->u.ue_positioning_ReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "ue-positioning-ReportingCriteria", -1, "UE-Positioning-ReportCriteria");
+         break;
+      case 2:
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "UE-Positioning-ReportCriteria");
+         stat = asn1PE_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "UE-Positioning-ReportCriteria");
+         break;
+      case 3:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* cellAndChannelIdentity */
+   stat = asn1PE_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
+   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueBased(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueBased* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueAssisted(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueAssisted* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.ueBased == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueBased", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueBased(ctx, pvalue->u.ueBased);
+         RT_CHECK(ctx, stat, 0, "ueBased", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.ueAssisted == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueAssisted", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueAssisted(ctx, pvalue->u.ueAssisted);
+         RT_CHECK(ctx, stat, 0, "ueAssisted", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_IPDL_Parameters(rtxContext* RT_RESTRICT ctx, const UE_Positioning_IPDL_Parameters* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-IPDL-Parameters");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-IPDL-Parameters");
+   /* ip-Spacing */
+   if (pvalue->ip_Spacing > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->ip_Spacing);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "IP-Spacing", "ip-Spacing", -1, "UE-Positioning-IPDL-Parameters");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ip_Spacing, 0, 7);
+   RT_CHECK(ctx, stat, "IP-Spacing", "ip-Spacing", -1, "UE-Positioning-IPDL-Parameters");
+   /* ip-Length */
+   if (pvalue->ip_Length > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->ip_Length);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "IP-Length", "ip-Length", -1, "UE-Positioning-IPDL-Parameters");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ip_Length, 0, 1);
+   RT_CHECK(ctx, stat, "IP-Length", "ip-Length", -1, "UE-Positioning-IPDL-Parameters");
+   /* ip-Offset */
+   if ((uint64_t)pvalue->ip_Offset > 9u) {
+      rtxErrAddStrParm(ctx, "ip-Offset");
+      rtxErrAddUIntParm(ctx, pvalue->ip_Offset);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ip-Offset", -1, "UE-Positioning-IPDL-Parameters");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ip_Offset, 0, 9);
+   RT_CHECK(ctx, stat, 0, "ip-Offset", -1, "UE-Positioning-IPDL-Parameters");
+   /* seed */
+   if ((uint64_t)pvalue->seed > 63u) {
+      rtxErrAddStrParm(ctx, "seed");
+      rtxErrAddUIntParm(ctx, pvalue->seed);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "seed", -1, "UE-Positioning-IPDL-Parameters");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->seed, 0, 63);
+   RT_CHECK(ctx, stat, 0, "seed", -1, "UE-Positioning-IPDL-Parameters");
+   /* burstModeParameters */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_BurstModeParameters(ctx, &pvalue->burstModeParameters);
+      RT_CHECK(ctx, stat, 0, "burstModeParameters", -1, "UE-Positioning-IPDL-Parameters");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-ReferenceCellInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-ReferenceCellInfo");
+   /* sfn */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->sfn > 4095u) {
+         rtxErrAddStrParm(ctx, "sfn");
+         rtxErrAddUIntParm(ctx, pvalue->sfn);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sfn", -1, "UE-Positioning-OTDOA-ReferenceCellInfo");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->sfn, 0, 4095);
+      RT_CHECK(ctx, stat, 0, "sfn", -1, "UE-Positioning-OTDOA-ReferenceCellInfo");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-ReferenceCellInfo");
+   /* frequencyInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "UE-Positioning-OTDOA-ReferenceCellInfo");
+   }
+   /* positioningMode */
+   stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode(ctx, &pvalue->positioningMode);
+   RT_CHECK(ctx, stat, 0, "positioningMode", -1, "UE-Positioning-OTDOA-ReferenceCellInfo");
+   /* ue-positioning-IPDL-Paremeters */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-IPDL-Paremeters", -1, "UE-Positioning-OTDOA-ReferenceCellInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* cellAndChannelIdentity */
+   stat = asn1PE_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
+   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SFN_SFN_RelTimeDifference1(rtxContext* RT_RESTRICT ctx, const SFN_SFN_RelTimeDifference1* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SFN-SFN-RelTimeDifference1");
+   /* sfn-Offset */
+   if ((uint64_t)pvalue->sfn_Offset > 4095u) {
+      rtxErrAddStrParm(ctx, "sfn-Offset");
+      rtxErrAddUIntParm(ctx, pvalue->sfn_Offset);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sfn-Offset", -1, "SFN-SFN-RelTimeDifference1");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->sfn_Offset, 0, 4095);
+   RT_CHECK(ctx, stat, 0, "sfn-Offset", -1, "SFN-SFN-RelTimeDifference1");
+   /* sfn-sfn-Reltimedifference */
+   if ((uint64_t)pvalue->sfn_sfn_Reltimedifference > 38399u) {
+      rtxErrAddStrParm(ctx, "sfn-sfn-Reltimedifference");
+      rtxErrAddUIntParm(ctx, pvalue->sfn_sfn_Reltimedifference);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sfn-sfn-Reltimedifference", -1, "SFN-SFN-RelTimeDifference1");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->sfn_sfn_Reltimedifference, 0, 38399);
+   RT_CHECK(ctx, stat, 0, "sfn-sfn-Reltimedifference", -1, "SFN-SFN-RelTimeDifference1");
+   return 0;
+}
+
+int asn1PE_UMTS_SFN_SFN_Drift(rtxContext* RT_RESTRICT ctx, SFN_SFN_Drift value)
+{
+   int stat = 0;
+   if (value > 28) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SFN-SFN-Drift");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 28);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SFN-SFN-Drift");
+   return 0;
+}
+
+int asn1PE_UMTS_OTDOA_SearchWindowSize(rtxContext* RT_RESTRICT ctx, OTDOA_SearchWindowSize value)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "OTDOA-SearchWindowSize");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "OTDOA-SearchWindowSize");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueBased(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueBased* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueAssisted(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueAssisted* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.ueBased == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueBased", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueBased(ctx, pvalue->u.ueBased);
+         RT_CHECK(ctx, stat, 0, "ueBased", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.ueAssisted == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueAssisted", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueAssisted(ctx, pvalue->u.ueAssisted);
+         RT_CHECK(ctx, stat, 0, "ueAssisted", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellInfo");
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-NeighbourCellInfo");
+   /* frequencyInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "UE-Positioning-OTDOA-NeighbourCellInfo");
+   }
+   /* ue-positioning-IPDL-Paremeters */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-IPDL-Paremeters", -1, "UE-Positioning-OTDOA-NeighbourCellInfo");
+   }
+   /* sfn-SFN-RelTimeDifference */
+   stat = asn1PE_UMTS_SFN_SFN_RelTimeDifference1(ctx, &pvalue->sfn_SFN_RelTimeDifference);
+   RT_CHECK(ctx, stat, 0, "sfn-SFN-RelTimeDifference", -1, "UE-Positioning-OTDOA-NeighbourCellInfo");
+   /* sfn-SFN-Drift */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->sfn_SFN_Drift > 28) {
+         rtxErrAddUIntParm(ctx, pvalue->sfn_SFN_Drift);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "SFN-SFN-Drift", "sfn-SFN-Drift", -1, "UE-Positioning-OTDOA-NeighbourCellInfo");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->sfn_SFN_Drift, 0, 28);
+      RT_CHECK(ctx, stat, "SFN-SFN-Drift", "sfn-SFN-Drift", -1, "UE-Positioning-OTDOA-NeighbourCellInfo");
+   }
+   /* searchWindowSize */
+   if (pvalue->searchWindowSize > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->searchWindowSize);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "OTDOA-SearchWindowSize", "searchWindowSize", -1, "UE-Positioning-OTDOA-NeighbourCellInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->searchWindowSize, 0, 7);
+   RT_CHECK(ctx, stat, "OTDOA-SearchWindowSize", "searchWindowSize", -1, "UE-Positioning-OTDOA-NeighbourCellInfo");
+   /* positioningMode */
+   stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode(ctx, &pvalue->positioningMode);
+   RT_CHECK(ctx, stat, 0, "positioningMode", -1, "UE-Positioning-OTDOA-NeighbourCellInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellList(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UE-Positioning-OTDOA-NeighbourCellInfo", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList");
+      stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo(ctx, (const UE_Positioning_OTDOA_NeighbourCellInfo*)node->data);
+      RT_CHECK(ctx, stat, 0, "UE-Positioning-OTDOA-NeighbourCellInfo", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_AssistanceData* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData");
+   /* ue-positioning-OTDOA-ReferenceCellInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo(ctx, &pvalue->ue_positioning_OTDOA_ReferenceCellInfo);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-ReferenceCellInfo", -1, "UE-Positioning-OTDOA-AssistanceData");
+   }
+   /* ue-positioning-OTDOA-NeighbourCellList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellList(ctx, &pvalue->ue_positioning_OTDOA_NeighbourCellList);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-NeighbourCellList", -1, "UE-Positioning-OTDOA-AssistanceData");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UTRAN_GPSReferenceTime_utran_GPSTimingOfCell(rtxContext* RT_RESTRICT ctx, const UTRAN_GPSReferenceTime_utran_GPSTimingOfCell* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ms-part */
+   if ((uint64_t)pvalue->ms_part > 1023u) {
+      rtxErrAddStrParm(ctx, "ms-part");
+      rtxErrAddUIntParm(ctx, pvalue->ms_part);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ms-part", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ms_part, 0, 1023);
+   RT_CHECK(ctx, stat, 0, "ms-part", -1, 0);
+   /* ls-part */
+   stat = pe_ConsUInt64(ctx, pvalue->ls_part, 0, 4294967295ULL);
+   RT_CHECK(ctx, stat, 0, "ls-part", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UTRAN_GPSReferenceTime_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UTRAN_GPSReferenceTime_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* referenceIdentity */
+   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->referenceIdentity);
+   RT_CHECK(ctx, stat, 0, "referenceIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UTRAN_GPSReferenceTime_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UTRAN_GPSReferenceTime_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* referenceIdentity */
+   if ((uint64_t)pvalue->referenceIdentity > 127u) {
+      rtxErrAddStrParm(ctx, "CellParametersID");
+      rtxErrAddUIntParm(ctx, pvalue->referenceIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "CellParametersID", "referenceIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->referenceIdentity, 0, 127);
+   RT_CHECK(ctx, stat, "CellParametersID", "referenceIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UTRAN_GPSReferenceTime_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UTRAN_GPSReferenceTime_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_UTRAN_GPSReferenceTime_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_UTRAN_GPSReferenceTime_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UTRAN_GPSReferenceTime(rtxContext* RT_RESTRICT ctx, const UTRAN_GPSReferenceTime* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UTRAN-GPSReferenceTime");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UTRAN-GPSReferenceTime");
+   /* utran-GPSTimingOfCell */
+   stat = asn1PE_UMTS_UTRAN_GPSReferenceTime_utran_GPSTimingOfCell(ctx, &pvalue->utran_GPSTimingOfCell);
+   RT_CHECK(ctx, stat, 0, "utran-GPSTimingOfCell", -1, "UTRAN-GPSReferenceTime");
+   /* modeSpecificInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UTRAN_GPSReferenceTime_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+      RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UTRAN-GPSReferenceTime");
+   }
+   /* sfn */
+   if ((uint64_t)pvalue->sfn > 4095u) {
+      rtxErrAddStrParm(ctx, "sfn");
+      rtxErrAddUIntParm(ctx, pvalue->sfn);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sfn", -1, "UTRAN-GPSReferenceTime");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->sfn, 0, 4095);
+   RT_CHECK(ctx, stat, 0, "sfn", -1, "UTRAN-GPSReferenceTime");
+   return 0;
+}
+
+int asn1PE_UMTS_SFN_TOW_Uncertainty(rtxContext* RT_RESTRICT ctx, SFN_TOW_Uncertainty value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SFN-TOW-Uncertainty");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SFN-TOW-Uncertainty");
+   return 0;
+}
+
+int asn1PE_UMTS_UTRAN_GPS_DriftRate(rtxContext* RT_RESTRICT ctx, UTRAN_GPS_DriftRate value)
+{
+   int stat = 0;
+   if (value > 14) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UTRAN-GPS-DriftRate");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 14);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UTRAN-GPS-DriftRate");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GPS_ReferenceTime(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_ReferenceTime* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-ReferenceTime");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-ReferenceTime");
+   /* gps-Week */
+   if ((uint64_t)pvalue->gps_Week > 1023u) {
+      rtxErrAddStrParm(ctx, "gps-Week");
+      rtxErrAddUIntParm(ctx, pvalue->gps_Week);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "gps-Week", -1, "UE-Positioning-GPS-ReferenceTime");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->gps_Week, 0, 1023);
+   RT_CHECK(ctx, stat, 0, "gps-Week", -1, "UE-Positioning-GPS-ReferenceTime");
+   /* gps-tow-1msec */
+   if ((uint64_t)pvalue->gps_tow_1msec > 604799999u) {
+      rtxErrAddStrParm(ctx, "GPS-TOW-1msec");
+      rtxErrAddUIntParm(ctx, pvalue->gps_tow_1msec);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "GPS-TOW-1msec", "gps-tow-1msec", -1, "UE-Positioning-GPS-ReferenceTime");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->gps_tow_1msec, 0, 604799999);
+   RT_CHECK(ctx, stat, "GPS-TOW-1msec", "gps-tow-1msec", -1, "UE-Positioning-GPS-ReferenceTime");
+   /* utran-GPSReferenceTime */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UTRAN_GPSReferenceTime(ctx, &pvalue->utran_GPSReferenceTime);
+      RT_CHECK(ctx, stat, 0, "utran-GPSReferenceTime", -1, "UE-Positioning-GPS-ReferenceTime");
+   }
+   /* sfn-tow-Uncertainty */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->sfn_tow_Uncertainty > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->sfn_tow_Uncertainty);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "SFN-TOW-Uncertainty", "sfn-tow-Uncertainty", -1, "UE-Positioning-GPS-ReferenceTime");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->sfn_tow_Uncertainty, 0, 1);
+      RT_CHECK(ctx, stat, "SFN-TOW-Uncertainty", "sfn-tow-Uncertainty", -1, "UE-Positioning-GPS-ReferenceTime");
+   }
+   /* utran-GPS-DriftRate */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->utran_GPS_DriftRate > 14) {
+         rtxErrAddUIntParm(ctx, pvalue->utran_GPS_DriftRate);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "UTRAN-GPS-DriftRate", "utran-GPS-DriftRate", -1, "UE-Positioning-GPS-ReferenceTime");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->utran_GPS_DriftRate, 0, 14);
+      RT_CHECK(ctx, stat, "UTRAN-GPS-DriftRate", "utran-GPS-DriftRate", -1, "UE-Positioning-GPS-ReferenceTime");
+   }
+   /* gps-TOW-AssistList */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_GPS_TOW_AssistList(ctx, &pvalue->gps_TOW_AssistList);
+      RT_CHECK(ctx, stat, 0, "gps-TOW-AssistList", -1, "UE-Positioning-GPS-ReferenceTime");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ReferenceLocation(rtxContext* RT_RESTRICT ctx, const ReferenceLocation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ReferenceLocation");
+   /* ellipsoidPointAltitudeEllipsoide */
+   stat = asn1PE_UMTS_EllipsoidPointAltitudeEllipsoide(ctx, &pvalue->ellipsoidPointAltitudeEllipsoide);
+   RT_CHECK(ctx, stat, 0, "ellipsoidPointAltitudeEllipsoide", -1, "ReferenceLocation");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GPS_DGPS_Corrections(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_DGPS_Corrections* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-DGPS-Corrections");
+   /* gps-TOW */
+   if ((uint64_t)pvalue->gps_TOW > 604799u) {
+      rtxErrAddStrParm(ctx, "GPS-TOW-1sec");
+      rtxErrAddUIntParm(ctx, pvalue->gps_TOW);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "GPS-TOW-1sec", "gps-TOW", -1, "UE-Positioning-GPS-DGPS-Corrections");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->gps_TOW, 0, 604799);
+   RT_CHECK(ctx, stat, "GPS-TOW-1sec", "gps-TOW", -1, "UE-Positioning-GPS-DGPS-Corrections");
+   /* statusHealth */
+   if (pvalue->statusHealth > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->statusHealth);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DiffCorrectionStatus", "statusHealth", -1, "UE-Positioning-GPS-DGPS-Corrections");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->statusHealth, 0, 7);
+   RT_CHECK(ctx, stat, "DiffCorrectionStatus", "statusHealth", -1, "UE-Positioning-GPS-DGPS-Corrections");
+   /* dgps-CorrectionSatInfoList */
+   stat = asn1PE_UMTS_DGPS_CorrectionSatInfoList(ctx, &pvalue->dgps_CorrectionSatInfoList);
+   RT_CHECK(ctx, stat, 0, "dgps-CorrectionSatInfoList", -1, "UE-Positioning-GPS-DGPS-Corrections");
+   return 0;
+}
+
+int asn1PE_UMTS_SatelliteStatus(rtxContext* RT_RESTRICT ctx, SatelliteStatus value)
+{
+   int stat = 0;
+   if (value > 4) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SatelliteStatus");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SatelliteStatus");
+   return 0;
+}
+
+int asn1PE_UMTS_SubFrame1Reserved(rtxContext* RT_RESTRICT ctx, const SubFrame1Reserved* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SubFrame1Reserved");
+   /* reserved1 */
+   RT_SET_SIZE(ctx, 23, 23);
+   stat = pe_BitString32(ctx, &pvalue->reserved1, 23, 23);
+   RT_CHECK(ctx, stat, 0, "reserved1", -1, "SubFrame1Reserved");
+   /* reserved2 */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pe_BitString32(ctx, &pvalue->reserved2, 24, 24);
+   RT_CHECK(ctx, stat, 0, "reserved2", -1, "SubFrame1Reserved");
+   /* reserved3 */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pe_BitString32(ctx, &pvalue->reserved3, 24, 24);
+   RT_CHECK(ctx, stat, 0, "reserved3", -1, "SubFrame1Reserved");
+   /* reserved4 */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &pvalue->reserved4, 16, 16);
+   RT_CHECK(ctx, stat, 0, "reserved4", -1, "SubFrame1Reserved");
+   return 0;
+}
+
+int asn1PE_UMTS_EphemerisParameter(rtxContext* RT_RESTRICT ctx, const EphemerisParameter* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EphemerisParameter");
+   /* codeOnL2 */
+   RT_SET_SIZE(ctx, 2, 2);
+   stat = pe_BitString32(ctx, &pvalue->codeOnL2, 2, 2);
+   RT_CHECK(ctx, stat, 0, "codeOnL2", -1, "EphemerisParameter");
+   /* uraIndex */
+   RT_SET_SIZE(ctx, 4, 4);
+   stat = pe_BitString32(ctx, &pvalue->uraIndex, 4, 4);
+   RT_CHECK(ctx, stat, 0, "uraIndex", -1, "EphemerisParameter");
+   /* satHealth */
+   RT_SET_SIZE(ctx, 6, 6);
+   stat = pe_BitString32(ctx, &pvalue->satHealth, 6, 6);
+   RT_CHECK(ctx, stat, 0, "satHealth", -1, "EphemerisParameter");
+   /* iodc */
+   RT_SET_SIZE(ctx, 10, 10);
+   stat = pe_BitString32(ctx, &pvalue->iodc, 10, 10);
+   RT_CHECK(ctx, stat, 0, "iodc", -1, "EphemerisParameter");
+   /* l2Pflag */
+   RT_SET_SIZE(ctx, 1, 1);
+   stat = pe_BitString32(ctx, &pvalue->l2Pflag, 1, 1);
+   RT_CHECK(ctx, stat, 0, "l2Pflag", -1, "EphemerisParameter");
+   /* sf1Revd */
+   stat = asn1PE_UMTS_SubFrame1Reserved(ctx, &pvalue->sf1Revd);
+   RT_CHECK(ctx, stat, 0, "sf1Revd", -1, "EphemerisParameter");
+   /* t-GD */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &pvalue->t_GD, 8, 8);
+   RT_CHECK(ctx, stat, 0, "t-GD", -1, "EphemerisParameter");
+   /* t-oc */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &pvalue->t_oc, 16, 16);
+   RT_CHECK(ctx, stat, 0, "t-oc", -1, "EphemerisParameter");
+   /* af2 */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &pvalue->af2, 8, 8);
+   RT_CHECK(ctx, stat, 0, "af2", -1, "EphemerisParameter");
+   /* af1 */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &pvalue->af1, 16, 16);
+   RT_CHECK(ctx, stat, 0, "af1", -1, "EphemerisParameter");
+   /* af0 */
+   RT_SET_SIZE(ctx, 22, 22);
+   stat = pe_BitString32(ctx, &pvalue->af0, 22, 22);
+   RT_CHECK(ctx, stat, 0, "af0", -1, "EphemerisParameter");
+   /* c-rs */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &pvalue->c_rs, 16, 16);
+   RT_CHECK(ctx, stat, 0, "c-rs", -1, "EphemerisParameter");
+   /* delta-n */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &pvalue->delta_n, 16, 16);
+   RT_CHECK(ctx, stat, 0, "delta-n", -1, "EphemerisParameter");
+   /* m0 */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32(ctx, &pvalue->m0, 32, 32);
+   RT_CHECK(ctx, stat, 0, "m0", -1, "EphemerisParameter");
+   /* c-uc */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &pvalue->c_uc, 16, 16);
+   RT_CHECK(ctx, stat, 0, "c-uc", -1, "EphemerisParameter");
+   /* e */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32(ctx, &pvalue->e, 32, 32);
+   RT_CHECK(ctx, stat, 0, "e", -1, "EphemerisParameter");
+   /* c-us */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &pvalue->c_us, 16, 16);
+   RT_CHECK(ctx, stat, 0, "c-us", -1, "EphemerisParameter");
+   /* a-Sqrt */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32(ctx, &pvalue->a_Sqrt, 32, 32);
+   RT_CHECK(ctx, stat, 0, "a-Sqrt", -1, "EphemerisParameter");
+   /* t-oe */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &pvalue->t_oe, 16, 16);
+   RT_CHECK(ctx, stat, 0, "t-oe", -1, "EphemerisParameter");
+   /* fitInterval */
+   RT_SET_SIZE(ctx, 1, 1);
+   stat = pe_BitString32(ctx, &pvalue->fitInterval, 1, 1);
+   RT_CHECK(ctx, stat, 0, "fitInterval", -1, "EphemerisParameter");
+   /* aodo */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pe_BitString32(ctx, &pvalue->aodo, 5, 5);
+   RT_CHECK(ctx, stat, 0, "aodo", -1, "EphemerisParameter");
+   /* c-ic */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &pvalue->c_ic, 16, 16);
+   RT_CHECK(ctx, stat, 0, "c-ic", -1, "EphemerisParameter");
+   /* omega0 */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32(ctx, &pvalue->omega0, 32, 32);
+   RT_CHECK(ctx, stat, 0, "omega0", -1, "EphemerisParameter");
+   /* c-is */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &pvalue->c_is, 16, 16);
+   RT_CHECK(ctx, stat, 0, "c-is", -1, "EphemerisParameter");
+   /* i0 */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32(ctx, &pvalue->i0, 32, 32);
+   RT_CHECK(ctx, stat, 0, "i0", -1, "EphemerisParameter");
+   /* c-rc */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &pvalue->c_rc, 16, 16);
+   RT_CHECK(ctx, stat, 0, "c-rc", -1, "EphemerisParameter");
+   /* omega */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32(ctx, &pvalue->omega, 32, 32);
+   RT_CHECK(ctx, stat, 0, "omega", -1, "EphemerisParameter");
+   /* omegaDot */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pe_BitString32(ctx, &pvalue->omegaDot, 24, 24);
+   RT_CHECK(ctx, stat, 0, "omegaDot", -1, "EphemerisParameter");
+   /* iDot */
+   RT_SET_SIZE(ctx, 14, 14);
+   stat = pe_BitString32(ctx, &pvalue->iDot, 14, 14);
+   RT_CHECK(ctx, stat, 0, "iDot", -1, "EphemerisParameter");
+   return 0;
+}
+
+int asn1PE_UMTS_NavigationModelSatInfo(rtxContext* RT_RESTRICT ctx, const NavigationModelSatInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NavigationModelSatInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NavigationModelSatInfo");
+   /* satID */
+   if ((uint64_t)pvalue->satID > 63u) {
+      rtxErrAddStrParm(ctx, "SatID");
+      rtxErrAddUIntParm(ctx, pvalue->satID);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "SatID", "satID", -1, "NavigationModelSatInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->satID, 0, 63);
+   RT_CHECK(ctx, stat, "SatID", "satID", -1, "NavigationModelSatInfo");
+   /* satelliteStatus */
+   if (pvalue->satelliteStatus > 4) {
+      rtxErrAddUIntParm(ctx, pvalue->satelliteStatus);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "SatelliteStatus", "satelliteStatus", -1, "NavigationModelSatInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->satelliteStatus, 0, 4);
+   RT_CHECK(ctx, stat, "SatelliteStatus", "satelliteStatus", -1, "NavigationModelSatInfo");
+   /* ephemerisParameter */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_EphemerisParameter(ctx, &pvalue->ephemerisParameter);
+      RT_CHECK(ctx, stat, 0, "ephemerisParameter", -1, "NavigationModelSatInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NavigationModelSatInfoList(rtxContext* RT_RESTRICT ctx, const NavigationModelSatInfoList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NavigationModelSatInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NavigationModelSatInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NavigationModelSatInfo", (int32_t)i, "NavigationModelSatInfoList");
+      stat = asn1PE_UMTS_NavigationModelSatInfo(ctx, (const NavigationModelSatInfo*)node->data);
+      RT_CHECK(ctx, stat, 0, "NavigationModelSatInfo", (int32_t)i, "NavigationModelSatInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GPS_NavigationModel(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_NavigationModel* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-NavigationModel");
+   /* navigationModelSatInfoList */
+   stat = asn1PE_UMTS_NavigationModelSatInfoList(ctx, &pvalue->navigationModelSatInfoList);
+   RT_CHECK(ctx, stat, 0, "navigationModelSatInfoList", -1, "UE-Positioning-GPS-NavigationModel");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GPS_IonosphericModel(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_IonosphericModel* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-IonosphericModel");
+   /* alpha0 */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &pvalue->alpha0, 8, 8);
+   RT_CHECK(ctx, stat, 0, "alpha0", -1, "UE-Positioning-GPS-IonosphericModel");
+   /* alpha1 */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &pvalue->alpha1, 8, 8);
+   RT_CHECK(ctx, stat, 0, "alpha1", -1, "UE-Positioning-GPS-IonosphericModel");
+   /* alpha2 */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &pvalue->alpha2, 8, 8);
+   RT_CHECK(ctx, stat, 0, "alpha2", -1, "UE-Positioning-GPS-IonosphericModel");
+   /* alpha3 */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &pvalue->alpha3, 8, 8);
+   RT_CHECK(ctx, stat, 0, "alpha3", -1, "UE-Positioning-GPS-IonosphericModel");
+   /* beta0 */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &pvalue->beta0, 8, 8);
+   RT_CHECK(ctx, stat, 0, "beta0", -1, "UE-Positioning-GPS-IonosphericModel");
+   /* beta1 */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &pvalue->beta1, 8, 8);
+   RT_CHECK(ctx, stat, 0, "beta1", -1, "UE-Positioning-GPS-IonosphericModel");
+   /* beta2 */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &pvalue->beta2, 8, 8);
+   RT_CHECK(ctx, stat, 0, "beta2", -1, "UE-Positioning-GPS-IonosphericModel");
+   /* beta3 */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &pvalue->beta3, 8, 8);
+   RT_CHECK(ctx, stat, 0, "beta3", -1, "UE-Positioning-GPS-IonosphericModel");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GPS_UTC_Model(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_UTC_Model* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-UTC-Model");
+   /* a1 */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pe_BitString32(ctx, &pvalue->a1, 24, 24);
+   RT_CHECK(ctx, stat, 0, "a1", -1, "UE-Positioning-GPS-UTC-Model");
+   /* a0 */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32(ctx, &pvalue->a0, 32, 32);
+   RT_CHECK(ctx, stat, 0, "a0", -1, "UE-Positioning-GPS-UTC-Model");
+   /* t-ot */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &pvalue->t_ot, 8, 8);
+   RT_CHECK(ctx, stat, 0, "t-ot", -1, "UE-Positioning-GPS-UTC-Model");
+   /* wn-t */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &pvalue->wn_t, 8, 8);
+   RT_CHECK(ctx, stat, 0, "wn-t", -1, "UE-Positioning-GPS-UTC-Model");
+   /* delta-t-LS */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &pvalue->delta_t_LS, 8, 8);
+   RT_CHECK(ctx, stat, 0, "delta-t-LS", -1, "UE-Positioning-GPS-UTC-Model");
+   /* wn-lsf */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &pvalue->wn_lsf, 8, 8);
+   RT_CHECK(ctx, stat, 0, "wn-lsf", -1, "UE-Positioning-GPS-UTC-Model");
+   /* dn */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &pvalue->dn, 8, 8);
+   RT_CHECK(ctx, stat, 0, "dn", -1, "UE-Positioning-GPS-UTC-Model");
+   /* delta-t-LSF */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &pvalue->delta_t_LSF, 8, 8);
+   RT_CHECK(ctx, stat, 0, "delta-t-LSF", -1, "UE-Positioning-GPS-UTC-Model");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GPS_Almanac_sv_GlobalHealth(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_Almanac_sv_GlobalHealth* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 364, 364);
+   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GPS_Almanac(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_Almanac* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-Almanac");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-Almanac");
+   /* wn-a */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &pvalue->wn_a, 8, 8);
+   RT_CHECK(ctx, stat, 0, "wn-a", -1, "UE-Positioning-GPS-Almanac");
+   /* almanacSatInfoList */
+   stat = asn1PE_UMTS_AlmanacSatInfoList(ctx, &pvalue->almanacSatInfoList);
+   RT_CHECK(ctx, stat, 0, "almanacSatInfoList", -1, "UE-Positioning-GPS-Almanac");
+   /* sv-GlobalHealth */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_GPS_Almanac_sv_GlobalHealth(ctx, &pvalue->sv_GlobalHealth);
+      RT_CHECK(ctx, stat, 0, "sv-GlobalHealth", -1, "UE-Positioning-GPS-Almanac");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GPS_AcquisitionAssistance(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_AcquisitionAssistance* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-AcquisitionAssistance");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-AcquisitionAssistance");
+   /* gps-ReferenceTime */
+   if ((uint64_t)pvalue->gps_ReferenceTime > 604799999u) {
+      rtxErrAddStrParm(ctx, "GPS-TOW-1msec");
+      rtxErrAddUIntParm(ctx, pvalue->gps_ReferenceTime);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "GPS-TOW-1msec", "gps-ReferenceTime", -1, "UE-Positioning-GPS-AcquisitionAssistance");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->gps_ReferenceTime, 0, 604799999);
+   RT_CHECK(ctx, stat, "GPS-TOW-1msec", "gps-ReferenceTime", -1, "UE-Positioning-GPS-AcquisitionAssistance");
+   /* utran-GPSReferenceTime */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UTRAN_GPSReferenceTime(ctx, &pvalue->utran_GPSReferenceTime);
+      RT_CHECK(ctx, stat, 0, "utran-GPSReferenceTime", -1, "UE-Positioning-GPS-AcquisitionAssistance");
+   }
+   /* satelliteInformationList */
+   stat = asn1PE_UMTS_AcquisitionSatInfoList(ctx, &pvalue->satelliteInformationList);
+   RT_CHECK(ctx, stat, 0, "satelliteInformationList", -1, "UE-Positioning-GPS-AcquisitionAssistance");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* referenceIdentity */
+   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->referenceIdentity);
+   RT_CHECK(ctx, stat, 0, "referenceIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* referenceIdentity */
+   if ((uint64_t)pvalue->referenceIdentity > 127u) {
+      rtxErrAddStrParm(ctx, "CellParametersID");
+      rtxErrAddUIntParm(ctx, pvalue->referenceIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "CellParametersID", "referenceIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->referenceIdentity, 0, 127);
+   RT_CHECK(ctx, stat, "CellParametersID", "referenceIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GPS_ReferenceCellInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_ReferenceCellInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-ReferenceCellInfo");
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-GPS-ReferenceCellInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GPS_AssistanceData(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_AssistanceData* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-AssistanceData");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 9) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 8) |
@@ -2517,495 +3866,106 @@ int asn1PE_UMTS_TargetCellPreconfigInfo_r9(rtxContext* ctx, const TargetCellPrec
       ((uint64_t)((pvalue->m >> 7) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 8) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 9) & 1u) << 0), 10);
-   RT_CHECK(ctx, stat);
-   /* activationTimeOffset */
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-AssistanceData");
+   /* ue-positioning-GPS-ReferenceTime */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "activationTimeOffset");
-      rtxCtxtPushTypeName(ctx, "ActivationTimeOffset");
-      stat = pe_ConsUInt64(ctx, pvalue->activationTimeOffset, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UE_Positioning_GPS_ReferenceTime(ctx, &pvalue->ue_positioning_GPS_ReferenceTime);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceTime", -1, "UE-Positioning-GPS-AssistanceData");
    }
-   /* new-H-RNTI */
-   rtxCtxtPushElemName(ctx, "new-H-RNTI");
-   stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* newPrimary-E-RNTI */
+   /* ue-positioning-GPS-ReferenceLocation */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_ReferenceLocation(ctx, &pvalue->ue_positioning_GPS_ReferenceLocation);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceLocation", -1, "UE-Positioning-GPS-AssistanceData");
    }
-   /* newSecondary-E-RNTI */
+   /* ue-positioning-GPS-DGPS-Corrections */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UE_Positioning_GPS_DGPS_Corrections(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-DGPS-Corrections", -1, "UE-Positioning-GPS-AssistanceData");
    }
-   /* serving-HSDSCH-CellInformation */
-   rtxCtxtPushElemName(ctx, "serving-HSDSCH-CellInformation");
-   stat = asn1PE_UMTS_Serving_HSDSCH_CellInformation_r9(ctx, &pvalue->serving_HSDSCH_CellInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-dch-ReconfigurationInfo */
-   rtxCtxtPushElemName(ctx, "e-dch-ReconfigurationInfo");
-   stat = asn1PE_UMTS_E_DCH_ReconfigurationInfo_r7(ctx, &pvalue->e_dch_ReconfigurationInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dtx-drx-TimingInfo */
+   /* ue-positioning-GPS-NavigationModel */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-TimingInfo");
-      stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UE_Positioning_GPS_NavigationModel(ctx, &pvalue->ue_positioning_GPS_NavigationModel);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-NavigationModel", -1, "UE-Positioning-GPS-AssistanceData");
    }
-   /* dtx-drx-Info */
+   /* ue-positioning-GPS-IonosphericModel */
    if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-Info");
-      stat = asn1PE_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UE_Positioning_GPS_IonosphericModel(ctx, &pvalue->ue_positioning_GPS_IonosphericModel);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-IonosphericModel", -1, "UE-Positioning-GPS-AssistanceData");
    }
-   /* hs-scch-LessInfo */
+   /* ue-positioning-GPS-UTC-Model */
    if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "hs-scch-LessInfo");
-      stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UE_Positioning_GPS_UTC_Model(ctx, &pvalue->ue_positioning_GPS_UTC_Model);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-UTC-Model", -1, "UE-Positioning-GPS-AssistanceData");
    }
-   /* mimoParameters */
+   /* ue-positioning-GPS-Almanac */
    if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
-      stat = asn1PE_UMTS_MIMO_Parameters_r9(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UE_Positioning_GPS_Almanac(ctx, &pvalue->ue_positioning_GPS_Almanac);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Almanac", -1, "UE-Positioning-GPS-AssistanceData");
    }
-   /* dl-SecondaryCellInfoFDD */
+   /* ue-positioning-GPS-AcquisitionAssistance */
    if (pvalue->m & 0x80u) {
-      rtxCtxtPushElemName(ctx, "dl-SecondaryCellInfoFDD");
-      stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD_r9(ctx, &pvalue->dl_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UE_Positioning_GPS_AcquisitionAssistance(ctx, &pvalue->ue_positioning_GPS_AcquisitionAssistance);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AcquisitionAssistance", -1, "UE-Positioning-GPS-AssistanceData");
    }
-   /* ul-SecondaryCellInfoFDD */
+   /* ue-positioning-GPS-Real-timeIntegrity */
    if (pvalue->m & 0x100u) {
-      rtxCtxtPushElemName(ctx, "ul-SecondaryCellInfoFDD");
-      stat = asn1PE_UMTS_UL_SecondaryCellInfoFDD(ctx, &pvalue->ul_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_BadSatList(ctx, &pvalue->ue_positioning_GPS_Real_timeIntegrity);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Real-timeIntegrity", -1, "UE-Positioning-GPS-AssistanceData");
    }
-   /* e-dch-ReconfigurationInfo-SecULFrequency */
+   /* dummy */
    if (pvalue->m & 0x200u) {
-      rtxCtxtPushElemName(ctx, "e-dch-ReconfigurationInfo-SecULFrequency");
-      stat = asn1PE_UMTS_E_DCH_ReconfigurationInfo_SecULFrequency(ctx, &pvalue->e_dch_ReconfigurationInfo_SecULFrequency);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UE_Positioning_GPS_ReferenceCellInfo(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "UE-Positioning-GPS-AssistanceData");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_RL_AdditionInformation_r9(rtxContext* ctx, const RL_AdditionInformation_r9* pvalue)
+int asn1PE_UMTS_UE_Positioning_Measurement(rtxContext* RT_RESTRICT ctx, const UE_Positioning_Measurement* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RL-AdditionInformation-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cell-Id */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cell-Id");
-      stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->cell_Id);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-dpchInfo */
-   rtxCtxtPushElemName(ctx, "dl-dpchInfo");
-   stat = asn1PE_UMTS_RL_AdditionInformation_r9_dl_dpchInfo(ctx, &pvalue->dl_dpchInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-HICH-Information */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "e-HICH-Information");
-      stat = asn1PE_UMTS_E_HICH_Information(ctx, &pvalue->e_HICH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-RGCH-Information */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "e-RGCH-Information");
-      stat = asn1PE_UMTS_E_RGCH_Information(ctx, &pvalue->e_RGCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* targetCellPreconfigInfo */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "targetCellPreconfigInfo");
-      stat = asn1PE_UMTS_TargetCellPreconfigInfo_r9(ctx, &pvalue->targetCellPreconfigInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RL_AdditionInformation_v6b0ext(rtxContext* ctx, const RL_AdditionInformation_v6b0ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RL-AdditionInformation-v6b0ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sttdIndication */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sttdIndication");
-      rtxCtxtPushTypeName(ctx, "STTDIndication");
-      if (pvalue->sttdIndication > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->sttdIndication);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->sttdIndication, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TargetCellPreconfigInfo_v890ext(rtxContext* ctx, const TargetCellPreconfigInfo_v890ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TargetCellPreconfigInfo-v890ext");
-   stat = asn1PE_UMTS_MIMO_Parameters_v7f0ext(ctx, pvalue);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RL_AdditionInformation_v890ext(rtxContext* ctx, const RL_AdditionInformation_v890ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RL-AdditionInformation-v890ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* targetCellPreconfigInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "targetCellPreconfigInfo");
-      stat = asn1PE_UMTS_TargetCellPreconfigInfo_v890ext(ctx, &pvalue->targetCellPreconfigInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RL_AdditionInformationList(rtxContext* ctx, const RL_AdditionInformationList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "RL-AdditionInformationList");
-   RT_SET_SIZE(ctx, 1, 7);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "RL-AdditionInformation", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_RL_AdditionInformation(ctx, (const RL_AdditionInformation*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RL_AdditionInformationList_r6(rtxContext* ctx, const RL_AdditionInformationList_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "RL-AdditionInformationList-r6");
-   RT_SET_SIZE(ctx, 1, 7);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "RL-AdditionInformation-r6", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_RL_AdditionInformation_r6(ctx, (const RL_AdditionInformation_r6*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RL_AdditionInformationList_r7(rtxContext* ctx, const RL_AdditionInformationList_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "RL-AdditionInformationList-r7");
-   RT_SET_SIZE(ctx, 1, 7);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "RL-AdditionInformation-r7", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_RL_AdditionInformation_r7(ctx, (const RL_AdditionInformation_r7*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RL_AdditionInformation_list_v6b0ext(rtxContext* ctx, const RL_AdditionInformation_list_v6b0ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "RL-AdditionInformation-list-v6b0ext");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "RL-AdditionInformation-v6b0ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_RL_AdditionInformation_v6b0ext(ctx, (const RL_AdditionInformation_v6b0ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RL_AdditionInformationList_r8(rtxContext* ctx, const RL_AdditionInformationList_r8* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "RL-AdditionInformationList-r8");
-   RT_SET_SIZE(ctx, 1, 7);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "RL-AdditionInformation-r8", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_RL_AdditionInformation_r8(ctx, (const RL_AdditionInformation_r8*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RL_AdditionInformationList_v890ext(rtxContext* ctx, const RL_AdditionInformationList_v890ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "RL-AdditionInformationList-v890ext");
-   RT_SET_SIZE(ctx, 1, 7);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "RL-AdditionInformation-v890ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_RL_AdditionInformation_v890ext(ctx, (const RL_AdditionInformation_v890ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RL_AdditionInformationList_r9(rtxContext* ctx, const RL_AdditionInformationList_r9* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "RL-AdditionInformationList-r9");
-   RT_SET_SIZE(ctx, 1, 7);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "RL-AdditionInformation-r9", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_RL_AdditionInformation_r9(ctx, (const RL_AdditionInformation_r9*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RL_AdditionInformation_SecULFreq(rtxContext* ctx, const RL_AdditionInformation_SecULFreq* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RL-AdditionInformation-SecULFreq");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-Measurement");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cell-id */
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Measurement");
+   /* ue-positioning-ReportingQuantity */
+   stat = asn1PE_UMTS_UE_Positioning_ReportingQuantity(ctx, &pvalue->ue_positioning_ReportingQuantity);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-ReportingQuantity", -1, "UE-Positioning-Measurement");
+   /* reportCriteria */
+   stat = asn1PE_UMTS_UE_Positioning_ReportCriteria(ctx, &pvalue->reportCriteria);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "UE-Positioning-Measurement");
+   /* ue-positioning-OTDOA-AssistanceData */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cell-id");
-      stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->cell_id);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData", -1, "UE-Positioning-Measurement");
    }
-   /* dl-FDPCH-InfoPerRL */
-   rtxCtxtPushElemName(ctx, "dl-FDPCH-InfoPerRL");
-   stat = asn1PE_UMTS_DL_FDPCH_InfoPerRL_r7(ctx, &pvalue->dl_FDPCH_InfoPerRL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-HICH-Information */
-   rtxCtxtPushElemName(ctx, "e-HICH-Information");
-   stat = asn1PE_UMTS_E_HICH_Information(ctx, &pvalue->e_HICH_Information);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e-RGCH-Information */
+   /* ue-positioning-GPS-AssistanceData */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "e-RGCH-Information");
-      stat = asn1PE_UMTS_E_RGCH_Information(ctx, &pvalue->e_RGCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UE_Positioning_GPS_AssistanceData(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AssistanceData", -1, "UE-Positioning-Measurement");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_RL_AdditionInformationList_SecULFreq(rtxContext* ctx, const RL_AdditionInformationList_SecULFreq* pvalue)
+int asn1PE_UMTS_TrafficVolumeReportCriteria(rtxContext* RT_RESTRICT ctx, const TrafficVolumeReportCriteria* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "RL-AdditionInformationList-SecULFreq");
-   RT_SET_SIZE(ctx, 1, 3);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "RL-AdditionInformation-SecULFreq", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_RL_AdditionInformation_SecULFreq(ctx, (const RL_AdditionInformation_SecULFreq*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RL_RemovalInformationList(rtxContext* ctx, const RL_RemovalInformationList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "RL-RemovalInformationList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "PrimaryCPICH-Info", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, (const PrimaryCPICH_Info*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RL_RemovalInformationList_SecULFreq(rtxContext* ctx, const RL_RemovalInformationList_SecULFreq* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "RL-RemovalInformationList-SecULFreq");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "PrimaryCPICH-Info", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, (const PrimaryCPICH_Info*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCHFrameType2Info_modulation_mod16QAM(rtxContext* ctx, const SecondaryCCPCHFrameType2Info_modulation_mod16QAM* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* cpich-SecCCPCH-PowerOffset */
-   rtxCtxtPushElemName(ctx, "cpich-SecCCPCH-PowerOffset");
-   if (pvalue->cpich_SecCCPCH_PowerOffset < -11 || pvalue->cpich_SecCCPCH_PowerOffset > 4) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->cpich_SecCCPCH_PowerOffset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->cpich_SecCCPCH_PowerOffset, -11, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCHFrameType2Info_modulation(rtxContext* ctx, const SecondaryCCPCHFrameType2Info_modulation* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TrafficVolumeReportCriteria");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, "TrafficVolumeReportCriteria");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TrafficVolumeReportCriteria");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "modQPSK");
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.trafficVolumeReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "trafficVolumeReportingCriteria", -1, "TrafficVolumeReportCriteria");
+         stat = asn1PE_UMTS_TrafficVolumeReportingCriteria(ctx, pvalue->u.trafficVolumeReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "trafficVolumeReportingCriteria", -1, "TrafficVolumeReportCriteria");
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "mod16QAM");
-         if (pvalue->u.mod16QAM == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_SecondaryCCPCHFrameType2Info_modulation_mod16QAM(ctx, pvalue->u.mod16QAM);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "TrafficVolumeReportCriteria");
+         stat = asn1PE_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "TrafficVolumeReportCriteria");
+         break;
+      case 3:
          break;
       default:
          break;
@@ -3013,1006 +3973,4766 @@ int asn1PE_UMTS_SecondaryCCPCHFrameType2Info_modulation(rtxContext* ctx, const S
    return 0;
 }
 
-int asn1PE_UMTS_SecondaryCCPCHFrameType2Info(rtxContext* ctx, const SecondaryCCPCHFrameType2Info* pvalue)
+int asn1PE_UMTS_TrafficVolumeMeasurement(rtxContext* RT_RESTRICT ctx, const TrafficVolumeMeasurement* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SecondaryCCPCHFrameType2Info");
-   /* subFrameNumber */
-   rtxCtxtPushElemName(ctx, "subFrameNumber");
-   if ((uint64_t)pvalue->subFrameNumber > 4u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->subFrameNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TrafficVolumeMeasurement");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TrafficVolumeMeasurement");
+   /* trafficVolumeMeasurementObjectList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TrafficVolumeMeasurementObjectList(ctx, &pvalue->trafficVolumeMeasurementObjectList);
+      RT_CHECK(ctx, stat, 0, "trafficVolumeMeasurementObjectList", -1, "TrafficVolumeMeasurement");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->subFrameNumber, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-ChannelisationCodes */
-   rtxCtxtPushElemName(ctx, "dl-ChannelisationCodes");
-   stat = asn1PE_UMTS_DL_ChannelCodes_MBSFN_IMB384(ctx, &pvalue->dl_ChannelisationCodes);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* modulation */
-   rtxCtxtPushElemName(ctx, "modulation");
-   stat = asn1PE_UMTS_SecondaryCCPCHFrameType2Info_modulation(ctx, &pvalue->modulation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   /* trafficVolumeMeasQuantity */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_TrafficVolumeMeasQuantity(ctx, &pvalue->trafficVolumeMeasQuantity);
+      RT_CHECK(ctx, stat, 0, "trafficVolumeMeasQuantity", -1, "TrafficVolumeMeasurement");
+   }
+   /* trafficVolumeReportingQuantity */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_TrafficVolumeReportingQuantity(ctx, &pvalue->trafficVolumeReportingQuantity);
+      RT_CHECK(ctx, stat, 0, "trafficVolumeReportingQuantity", -1, "TrafficVolumeMeasurement");
+   }
+   /* measurementValidity */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "TrafficVolumeMeasurement");
+   }
+   /* reportCriteria */
+   stat = asn1PE_UMTS_TrafficVolumeReportCriteria(ctx, &pvalue->reportCriteria);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "TrafficVolumeMeasurement");
    return 0;
 }
 
-int asn1PE_UMTS_SecondaryCCPCHInfoDiff_MBMS(rtxContext* ctx, const SecondaryCCPCHInfoDiff_MBMS* pvalue)
+int asn1PE_UMTS_SIR_TFCS(rtxContext* RT_RESTRICT ctx, SIR_TFCS value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SecondaryCCPCHInfoDiff-MBMS");
+   stat = asn1PE_UMTS_TFCS_IdentityPlain(ctx, value);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SIR-TFCS");
+   return 0;
+}
+
+int asn1PE_UMTS_SIR_TFCS_List(rtxContext* RT_RESTRICT ctx, const SIR_TFCS_List* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SIR-TFCS-List");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SIR-TFCS-List");
+   for (i = 0; i < pvalue->n; i++) {
+      stat = asn1PE_UMTS_SIR_TFCS(ctx, pvalue->elem[i]);
+      RT_CHECK(ctx, stat, 0, "SIR-TFCS", (int32_t)i, "SIR-TFCS-List");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_QualityReportingQuantity_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const QualityReportingQuantity_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sir-TFCS-List */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SIR_TFCS_List(ctx, &pvalue->sir_TFCS_List);
+      RT_CHECK(ctx, stat, 0, "sir-TFCS-List", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_QualityReportingQuantity_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const QualityReportingQuantity_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_QualityReportingQuantity_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_QualityReportingQuantity(rtxContext* RT_RESTRICT ctx, const QualityReportingQuantity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "QualityReportingQuantity");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "QualityReportingQuantity");
+   /* dl-TransChBLER */
+   stat = rtxEncBit(ctx, pvalue->dl_TransChBLER);
+   RT_CHECK(ctx, stat, 0, "dl-TransChBLER", -1, "QualityReportingQuantity");
+   /* bler-dl-TransChIdList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_BLER_TransChIdList(ctx, &pvalue->bler_dl_TransChIdList);
+      RT_CHECK(ctx, stat, 0, "bler-dl-TransChIdList", -1, "QualityReportingQuantity");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_QualityReportingQuantity_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "QualityReportingQuantity");
+   return 0;
+}
+
+int asn1PE_UMTS_QualityReportingCriteriaSingle(rtxContext* RT_RESTRICT ctx, const QualityReportingCriteriaSingle* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "QualityReportingCriteriaSingle");
+   /* transportChannelIdentity */
+   if ((uint64_t)(pvalue->transportChannelIdentity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->transportChannelIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "transportChannelIdentity", -1, "QualityReportingCriteriaSingle");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->transportChannelIdentity, 1, 32);
+   RT_CHECK(ctx, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, "QualityReportingCriteriaSingle");
+   /* totalCRC */
+   if ((uint64_t)(pvalue->totalCRC - 1) > 511u) {
+      rtxErrAddStrParm(ctx, "totalCRC");
+      rtxErrAddUIntParm(ctx, pvalue->totalCRC);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "totalCRC", -1, "QualityReportingCriteriaSingle");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->totalCRC, 1, 512);
+   RT_CHECK(ctx, stat, 0, "totalCRC", -1, "QualityReportingCriteriaSingle");
+   /* badCRC */
+   if ((uint64_t)(pvalue->badCRC - 1) > 511u) {
+      rtxErrAddStrParm(ctx, "badCRC");
+      rtxErrAddUIntParm(ctx, pvalue->badCRC);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "badCRC", -1, "QualityReportingCriteriaSingle");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->badCRC, 1, 512);
+   RT_CHECK(ctx, stat, 0, "badCRC", -1, "QualityReportingCriteriaSingle");
+   /* pendingAfterTrigger */
+   if ((uint64_t)(pvalue->pendingAfterTrigger - 1) > 511u) {
+      rtxErrAddStrParm(ctx, "pendingAfterTrigger");
+      rtxErrAddUIntParm(ctx, pvalue->pendingAfterTrigger);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "pendingAfterTrigger", -1, "QualityReportingCriteriaSingle");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->pendingAfterTrigger, 1, 512);
+   RT_CHECK(ctx, stat, 0, "pendingAfterTrigger", -1, "QualityReportingCriteriaSingle");
+   return 0;
+}
+
+int asn1PE_UMTS_QualityReportingCriteria(rtxContext* RT_RESTRICT ctx, const QualityReportingCriteria* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "QualityReportingCriteria");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "QualityReportingCriteria");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "QualityReportingCriteriaSingle", (int32_t)i, "QualityReportingCriteria");
+      stat = asn1PE_UMTS_QualityReportingCriteriaSingle(ctx, (const QualityReportingCriteriaSingle*)node->data);
+      RT_CHECK(ctx, stat, 0, "QualityReportingCriteriaSingle", (int32_t)i, "QualityReportingCriteria");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_QualityReportCriteria(rtxContext* RT_RESTRICT ctx, const QualityReportCriteria* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "QualityReportCriteria");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, "QualityReportCriteria");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "QualityReportCriteria");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.qualityReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "qualityReportingCriteria", -1, "QualityReportCriteria");
+         stat = asn1PE_UMTS_QualityReportingCriteria(ctx, pvalue->u.qualityReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "qualityReportingCriteria", -1, "QualityReportCriteria");
+         break;
+      case 2:
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "QualityReportCriteria");
+         stat = asn1PE_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "QualityReportCriteria");
+         break;
+      case 3:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_QualityMeasurement(rtxContext* RT_RESTRICT ctx, const QualityMeasurement* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "QualityMeasurement");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "QualityMeasurement");
+   /* qualityReportingQuantity */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_QualityReportingQuantity(ctx, &pvalue->qualityReportingQuantity);
+      RT_CHECK(ctx, stat, 0, "qualityReportingQuantity", -1, "QualityMeasurement");
+   }
+   /* reportCriteria */
+   stat = asn1PE_UMTS_QualityReportCriteria(ctx, &pvalue->reportCriteria);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "QualityMeasurement");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_InternalReportingQuantity_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UE_InternalReportingQuantity_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ue-RX-TX-TimeDifference */
+   stat = rtxEncBit(ctx, pvalue->ue_RX_TX_TimeDifference);
+   RT_CHECK(ctx, stat, 0, "ue-RX-TX-TimeDifference", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_InternalReportingQuantity_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UE_InternalReportingQuantity_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* appliedTA */
+   stat = rtxEncBit(ctx, pvalue->appliedTA);
+   RT_CHECK(ctx, stat, 0, "appliedTA", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_InternalReportingQuantity_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_InternalReportingQuantity_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_UE_InternalReportingQuantity_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_UE_InternalReportingQuantity_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_InternalReportingQuantity(rtxContext* RT_RESTRICT ctx, const UE_InternalReportingQuantity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-InternalReportingQuantity");
+   /* ue-TransmittedPower */
+   stat = rtxEncBit(ctx, pvalue->ue_TransmittedPower);
+   RT_CHECK(ctx, stat, 0, "ue-TransmittedPower", -1, "UE-InternalReportingQuantity");
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_UE_InternalReportingQuantity_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-InternalReportingQuantity");
+   return 0;
+}
+
+int asn1PE_UMTS_TransmittedPowerThreshold(rtxContext* RT_RESTRICT ctx, TransmittedPowerThreshold value)
+{
+   int stat = 0;
+   if (value < -50 || value > 33) {
+      rtxErrAddStrParm(ctx, "TransmittedPowerThreshold");
+      rtxErrAddIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TransmittedPowerThreshold");
+   }
+   stat = pe_ConsInt64(ctx, value, -50, 33);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransmittedPowerThreshold");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_6AB_Event(rtxContext* RT_RESTRICT ctx, const UE_6AB_Event* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-6AB-Event");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "UE-6AB-Event");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "UE-6AB-Event");
+   /* transmittedPowerThreshold */
+   if (pvalue->transmittedPowerThreshold < -50 || pvalue->transmittedPowerThreshold > 33) {
+      rtxErrAddStrParm(ctx, "TransmittedPowerThreshold");
+      rtxErrAddIntParm(ctx, pvalue->transmittedPowerThreshold);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransmittedPowerThreshold", "transmittedPowerThreshold", -1, "UE-6AB-Event");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->transmittedPowerThreshold, -50, 33);
+   RT_CHECK(ctx, stat, "TransmittedPowerThreshold", "transmittedPowerThreshold", -1, "UE-6AB-Event");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RX_TX_TimeDifferenceThreshold(rtxContext* RT_RESTRICT ctx, UE_RX_TX_TimeDifferenceThreshold value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 768) > 512u) {
+      rtxErrAddStrParm(ctx, "UE-RX-TX-TimeDifferenceThreshold");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UE-RX-TX-TimeDifferenceThreshold");
+   }
+   stat = pe_ConsUInt64(ctx, value, 768, 1280);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RX-TX-TimeDifferenceThreshold");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_6FG_Event(rtxContext* RT_RESTRICT ctx, const UE_6FG_Event* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-6FG-Event");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "UE-6FG-Event");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "UE-6FG-Event");
+   /* ue-RX-TX-TimeDifferenceThreshold */
+   if ((uint64_t)(pvalue->ue_RX_TX_TimeDifferenceThreshold - 768) > 512u) {
+      rtxErrAddStrParm(ctx, "UE-RX-TX-TimeDifferenceThreshold");
+      rtxErrAddUIntParm(ctx, pvalue->ue_RX_TX_TimeDifferenceThreshold);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "UE-RX-TX-TimeDifferenceThreshold", "ue-RX-TX-TimeDifferenceThreshold", -1, "UE-6FG-Event");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ue_RX_TX_TimeDifferenceThreshold, 768, 1280);
+   RT_CHECK(ctx, stat, "UE-RX-TX-TimeDifferenceThreshold", "ue-RX-TX-TimeDifferenceThreshold", -1, "UE-6FG-Event");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_InternalEventParam(rtxContext* RT_RESTRICT ctx, const UE_InternalEventParam* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-InternalEventParam");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
+   RT_CHECK(ctx, stat, 0, "t", -1, "UE-InternalEventParam");
+   if (pvalue->t - 1 > 6) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UE-InternalEventParam");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.event6a == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event6a", -1, "UE-InternalEventParam");
+         stat = asn1PE_UMTS_UE_6AB_Event(ctx, pvalue->u.event6a);
+         RT_CHECK(ctx, stat, 0, "event6a", -1, "UE-InternalEventParam");
+         break;
+      case 2:
+         if (pvalue->u.event6b == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event6b", -1, "UE-InternalEventParam");
+         stat = asn1PE_UMTS_UE_6AB_Event(ctx, pvalue->u.event6b);
+         RT_CHECK(ctx, stat, 0, "event6b", -1, "UE-InternalEventParam");
+         break;
+      case 3:
+         if (pvalue->u.event6c > 15) {
+            rtxErrAddUIntParm(ctx, pvalue->u.event6c);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "event6c", -1, "UE-InternalEventParam");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.event6c, 0, 15);
+         RT_CHECK(ctx, stat, "TimeToTrigger", "event6c", -1, "UE-InternalEventParam");
+         break;
+      case 4:
+         if (pvalue->u.event6d > 15) {
+            rtxErrAddUIntParm(ctx, pvalue->u.event6d);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "event6d", -1, "UE-InternalEventParam");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.event6d, 0, 15);
+         RT_CHECK(ctx, stat, "TimeToTrigger", "event6d", -1, "UE-InternalEventParam");
+         break;
+      case 5:
+         if (pvalue->u.event6e > 15) {
+            rtxErrAddUIntParm(ctx, pvalue->u.event6e);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "event6e", -1, "UE-InternalEventParam");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.event6e, 0, 15);
+         RT_CHECK(ctx, stat, "TimeToTrigger", "event6e", -1, "UE-InternalEventParam");
+         break;
+      case 6:
+         if (pvalue->u.event6f == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event6f", -1, "UE-InternalEventParam");
+         stat = asn1PE_UMTS_UE_6FG_Event(ctx, pvalue->u.event6f);
+         RT_CHECK(ctx, stat, 0, "event6f", -1, "UE-InternalEventParam");
+         break;
+      case 7:
+         if (pvalue->u.event6g == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event6g", -1, "UE-InternalEventParam");
+         stat = asn1PE_UMTS_UE_6FG_Event(ctx, pvalue->u.event6g);
+         RT_CHECK(ctx, stat, 0, "event6g", -1, "UE-InternalEventParam");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_InternalEventParamList(rtxContext* RT_RESTRICT ctx, const UE_InternalEventParamList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-InternalEventParamList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UE-InternalEventParamList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UE-InternalEventParam", (int32_t)i, "UE-InternalEventParamList");
+      stat = asn1PE_UMTS_UE_InternalEventParam(ctx, (const UE_InternalEventParam*)node->data);
+      RT_CHECK(ctx, stat, 0, "UE-InternalEventParam", (int32_t)i, "UE-InternalEventParamList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_InternalReportingCriteria(rtxContext* RT_RESTRICT ctx, const UE_InternalReportingCriteria* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-InternalReportingCriteria");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-InternalReportingCriteria");
+   /* ue-InternalEventParamList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_InternalEventParamList(ctx, &pvalue->ue_InternalEventParamList);
+      RT_CHECK(ctx, stat, 0, "ue-InternalEventParamList", -1, "UE-InternalReportingCriteria");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_InternalReportCriteria(rtxContext* RT_RESTRICT ctx, const UE_InternalReportCriteria* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-InternalReportCriteria");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, "UE-InternalReportCriteria");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UE-InternalReportCriteria");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.ue_InternalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-InternalReportingCriteria", -1, "UE-InternalReportCriteria");
+         stat = asn1PE_UMTS_UE_InternalReportingCriteria(ctx, pvalue->u.ue_InternalReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "ue-InternalReportingCriteria", -1, "UE-InternalReportCriteria");
+         break;
+      case 2:
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "UE-InternalReportCriteria");
+         stat = asn1PE_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "UE-InternalReportCriteria");
+         break;
+      case 3:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_InternalMeasurement(rtxContext* RT_RESTRICT ctx, const UE_InternalMeasurement* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-InternalMeasurement");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-InternalMeasurement");
+   /* ue-InternalMeasQuantity */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_InternalMeasQuantity(ctx, &pvalue->ue_InternalMeasQuantity);
+      RT_CHECK(ctx, stat, 0, "ue-InternalMeasQuantity", -1, "UE-InternalMeasurement");
+   }
+   /* ue-InternalReportingQuantity */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_InternalReportingQuantity(ctx, &pvalue->ue_InternalReportingQuantity);
+      RT_CHECK(ctx, stat, 0, "ue-InternalReportingQuantity", -1, "UE-InternalMeasurement");
+   }
+   /* reportCriteria */
+   stat = asn1PE_UMTS_UE_InternalReportCriteria(ctx, &pvalue->reportCriteria);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "UE-InternalMeasurement");
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementType(rtxContext* RT_RESTRICT ctx, const MeasurementType* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementType");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
+   RT_CHECK(ctx, stat, 0, "t", -1, "MeasurementType");
+   if (pvalue->t - 1 > 6) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementType");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.intraFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFrequencyMeasurement", -1, "MeasurementType");
+         stat = asn1PE_UMTS_IntraFrequencyMeasurement(ctx, pvalue->u.intraFrequencyMeasurement);
+         RT_CHECK(ctx, stat, 0, "intraFrequencyMeasurement", -1, "MeasurementType");
+         break;
+      case 2:
+         if (pvalue->u.interFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interFrequencyMeasurement", -1, "MeasurementType");
+         stat = asn1PE_UMTS_InterFrequencyMeasurement(ctx, pvalue->u.interFrequencyMeasurement);
+         RT_CHECK(ctx, stat, 0, "interFrequencyMeasurement", -1, "MeasurementType");
+         break;
+      case 3:
+         if (pvalue->u.interRATMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interRATMeasurement", -1, "MeasurementType");
+         stat = asn1PE_UMTS_InterRATMeasurement(ctx, pvalue->u.interRATMeasurement);
+         RT_CHECK(ctx, stat, 0, "interRATMeasurement", -1, "MeasurementType");
+         break;
+      case 4:
+         if (pvalue->u.ue_positioning_Measurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-positioning-Measurement", -1, "MeasurementType");
+         stat = asn1PE_UMTS_UE_Positioning_Measurement(ctx, pvalue->u.ue_positioning_Measurement);
+         RT_CHECK(ctx, stat, 0, "ue-positioning-Measurement", -1, "MeasurementType");
+         break;
+      case 5:
+         if (pvalue->u.trafficVolumeMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "trafficVolumeMeasurement", -1, "MeasurementType");
+         stat = asn1PE_UMTS_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement);
+         RT_CHECK(ctx, stat, 0, "trafficVolumeMeasurement", -1, "MeasurementType");
+         break;
+      case 6:
+         if (pvalue->u.qualityMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "qualityMeasurement", -1, "MeasurementType");
+         stat = asn1PE_UMTS_QualityMeasurement(ctx, pvalue->u.qualityMeasurement);
+         RT_CHECK(ctx, stat, 0, "qualityMeasurement", -1, "MeasurementType");
+         break;
+      case 7:
+         if (pvalue->u.ue_InternalMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-InternalMeasurement", -1, "MeasurementType");
+         stat = asn1PE_UMTS_UE_InternalMeasurement(ctx, pvalue->u.ue_InternalMeasurement);
+         RT_CHECK(ctx, stat, 0, "ue-InternalMeasurement", -1, "MeasurementType");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementCommand_modify(rtxContext* RT_RESTRICT ctx, const MeasurementCommand_modify* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementType */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementType(ctx, &pvalue->measurementType);
+      RT_CHECK(ctx, stat, 0, "measurementType", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementCommand(rtxContext* RT_RESTRICT ctx, const MeasurementCommand* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCommand");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, "MeasurementCommand");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommand");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.setup == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "setup", -1, "MeasurementCommand");
+         stat = asn1PE_UMTS_MeasurementType(ctx, pvalue->u.setup);
+         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommand");
+         break;
+      case 2:
+         if (pvalue->u.modify == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "modify", -1, "MeasurementCommand");
+         stat = asn1PE_UMTS_MeasurementCommand_modify(ctx, pvalue->u.modify);
+         RT_CHECK(ctx, stat, 0, "modify", -1, "MeasurementCommand");
+         break;
+      case 3:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_ReportingQuantity_r4(rtxContext* RT_RESTRICT ctx, const UE_Positioning_ReportingQuantity_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-ReportingQuantity-r4");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* secondaryScramblingCode */
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-ReportingQuantity-r4");
+   /* methodType */
+   if (pvalue->methodType > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->methodType);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "UE-Positioning-MethodType", "methodType", -1, "UE-Positioning-ReportingQuantity-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->methodType, 0, 3);
+   RT_CHECK(ctx, stat, "UE-Positioning-MethodType", "methodType", -1, "UE-Positioning-ReportingQuantity-r4");
+   /* positioningMethod */
+   if (pvalue->positioningMethod > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->positioningMethod);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "PositioningMethod", "positioningMethod", -1, "UE-Positioning-ReportingQuantity-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->positioningMethod, 0, 3);
+   RT_CHECK(ctx, stat, "PositioningMethod", "positioningMethod", -1, "UE-Positioning-ReportingQuantity-r4");
+   /* horizontalAccuracy */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "secondaryScramblingCode");
-      rtxCtxtPushTypeName(ctx, "SecondaryScramblingCode");
-      if ((uint64_t)(pvalue->secondaryScramblingCode - 1) > 14u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->secondaryScramblingCode);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->secondaryScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UE_Positioning_Accuracy(ctx, pvalue->horizontalAccuracy);
+      RT_CHECK(ctx, stat, 0, "horizontalAccuracy", -1, "UE-Positioning-ReportingQuantity-r4");
    }
-   /* sttd-Indicator */
-   rtxCtxtPushElemName(ctx, "sttd-Indicator");
-   stat = rtxEncBit(ctx, pvalue->sttd_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sf-AndCodeNumber */
+   /* verticalAccuracy */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "sf-AndCodeNumber");
-      stat = asn1PE_UMTS_SF256_AndCodeNumber(ctx, &pvalue->sf_AndCodeNumber);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UE_Positioning_Accuracy(ctx, pvalue->verticalAccuracy);
+      RT_CHECK(ctx, stat, 0, "verticalAccuracy", -1, "UE-Positioning-ReportingQuantity-r4");
    }
-   /* timingOffset */
+   /* gps-TimingOfCellWanted */
+   stat = rtxEncBit(ctx, pvalue->gps_TimingOfCellWanted);
+   RT_CHECK(ctx, stat, 0, "gps-TimingOfCellWanted", -1, "UE-Positioning-ReportingQuantity-r4");
+   /* additionalAssistanceDataReq */
+   stat = rtxEncBit(ctx, pvalue->additionalAssistanceDataReq);
+   RT_CHECK(ctx, stat, 0, "additionalAssistanceDataReq", -1, "UE-Positioning-ReportingQuantity-r4");
+   /* environmentCharacterisation */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "timingOffset");
-      rtxCtxtPushTypeName(ctx, "TimingOffset");
-      if ((uint64_t)pvalue->timingOffset > 149u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->timingOffset);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+      if (pvalue->environmentCharacterisation > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->environmentCharacterisation);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "EnvironmentCharacterisation", "environmentCharacterisation", -1, "UE-Positioning-ReportingQuantity-r4");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->timingOffset, 0, 149);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->environmentCharacterisation, 0, 3);
+      RT_CHECK(ctx, stat, "EnvironmentCharacterisation", "environmentCharacterisation", -1, "UE-Positioning-ReportingQuantity-r4");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_ServingCellChangeMACreset(rtxContext* ctx, ServingCellChangeMACreset value)
+int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ServingCellChangeMACreset");
-   stat = rtxEncBit(ctx, value);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_ServingCellChangeMsgType(rtxContext* ctx, ServingCellChangeMsgType value)
+int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ServingCellChangeMsgType");
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* cellAndChannelIdentity */
+   stat = asn1PE_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
+   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_ServingCellChangeTrId(rtxContext* ctx, ServingCellChangeTrId value)
+int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ServingCellChangeTrId");
-   if ((uint64_t)value > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_ServingCellChangeParameters(rtxContext* ctx, const ServingCellChangeParameters* pvalue)
+int asn1PE_UMTS_ReferenceCellPosition(rtxContext* RT_RESTRICT ctx, const ReferenceCellPosition* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ServingCellChangeParameters");
-   /* servingCellChangeMACreset */
-   rtxCtxtPushElemName(ctx, "servingCellChangeMACreset");
-   rtxCtxtPushTypeName(ctx, "ServingCellChangeMACreset");
-   stat = rtxEncBit(ctx, pvalue->servingCellChangeMACreset);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* servingCellChangeMsgType */
-   rtxCtxtPushElemName(ctx, "servingCellChangeMsgType");
-   rtxCtxtPushTypeName(ctx, "ServingCellChangeMsgType");
-   if (pvalue->servingCellChangeMsgType > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->servingCellChangeMsgType);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ReferenceCellPosition");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "ReferenceCellPosition");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ReferenceCellPosition");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.ellipsoidPoint == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ellipsoidPoint", -1, "ReferenceCellPosition");
+         stat = asn1PE_UMTS_EllipsoidPoint(ctx, pvalue->u.ellipsoidPoint);
+         RT_CHECK(ctx, stat, 0, "ellipsoidPoint", -1, "ReferenceCellPosition");
+         break;
+      case 2:
+         if (pvalue->u.ellipsoidPointWithAltitude == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ellipsoidPointWithAltitude", -1, "ReferenceCellPosition");
+         stat = asn1PE_UMTS_EllipsoidPointAltitude(ctx, pvalue->u.ellipsoidPointWithAltitude);
+         RT_CHECK(ctx, stat, 0, "ellipsoidPointWithAltitude", -1, "ReferenceCellPosition");
+         break;
+      default:
+         break;
    }
-   stat = pe_ConsUInt64(ctx, pvalue->servingCellChangeMsgType, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* servingCellChangeTrId */
-   rtxCtxtPushElemName(ctx, "servingCellChangeTrId");
-   rtxCtxtPushTypeName(ctx, "ServingCellChangeTrId");
-   if ((uint64_t)pvalue->servingCellChangeTrId > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->servingCellChangeTrId);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->servingCellChangeTrId, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SpecialBurstScheduling(rtxContext* ctx, SpecialBurstScheduling value)
+int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueBased(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueBased* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SpecialBurstScheduling");
-   if ((uint64_t)value > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SpreadingFactor(rtxContext* ctx, SpreadingFactor value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SpreadingFactor");
-   if (value > 6) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SPS_Information_TDD128_r8(rtxContext* ctx, const SPS_Information_TDD128_r8* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SPS-Information-TDD128-r8");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* e-dch-SPS-Info */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellPosition */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "e-dch-SPS-Info");
-      stat = asn1PE_UMTS_E_DCH_SPS_Information_TDD128(ctx, &pvalue->e_dch_SPS_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_ReferenceCellPosition(ctx, &pvalue->cellPosition);
+      RT_CHECK(ctx, stat, 0, "cellPosition", -1, 0);
    }
-   /* hs-dsch-SPS-Info */
+   /* roundTripTime */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "hs-dsch-SPS-Info");
-      stat = asn1PE_UMTS_HS_DSCH_SPS_Information_TDD128(ctx, &pvalue->hs_dsch_SPS_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if ((uint64_t)pvalue->roundTripTime > 32766u) {
+         rtxErrAddStrParm(ctx, "roundTripTime");
+         rtxErrAddUIntParm(ctx, pvalue->roundTripTime);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "roundTripTime", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->roundTripTime, 0, 32766);
+      RT_CHECK(ctx, stat, 0, "roundTripTime", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SynchronisationParameters_r4_sync_UL_CodesBitmap(rtxContext* ctx, SynchronisationParameters_r4_sync_UL_CodesBitmap value)
+int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueAssisted(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueAssisted* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.ueBased == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueBased", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueBased(ctx, pvalue->u.ueBased);
+         RT_CHECK(ctx, stat, 0, "ueBased", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.ueAssisted == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueAssisted", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueAssisted(ctx, pvalue->u.ueAssisted);
+         RT_CHECK(ctx, stat, 0, "ueAssisted", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ip-Spacing */
+   if (pvalue->ip_Spacing > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->ip_Spacing);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "IP-Spacing", "ip-Spacing", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ip_Spacing, 0, 7);
+   RT_CHECK(ctx, stat, "IP-Spacing", "ip-Spacing", -1, 0);
+   /* ip-Length */
+   if (pvalue->ip_Length > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->ip_Length);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "IP-Length", "ip-Length", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ip_Length, 0, 1);
+   RT_CHECK(ctx, stat, "IP-Length", "ip-Length", -1, 0);
+   /* ip-Offset */
+   if ((uint64_t)pvalue->ip_Offset > 9u) {
+      rtxErrAddStrParm(ctx, "ip-Offset");
+      rtxErrAddUIntParm(ctx, pvalue->ip_Offset);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ip-Offset", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ip_Offset, 0, 9);
+   RT_CHECK(ctx, stat, 0, "ip-Offset", -1, 0);
+   /* seed */
+   if ((uint64_t)pvalue->seed > 63u) {
+      rtxErrAddStrParm(ctx, "seed");
+      rtxErrAddUIntParm(ctx, pvalue->seed);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "seed", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->seed, 0, 63);
+   RT_CHECK(ctx, stat, 0, "seed", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ip-Spacing-TDD */
+   if (pvalue->ip_Spacing_TDD > 4) {
+      rtxErrAddUIntParm(ctx, pvalue->ip_Spacing_TDD);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "IP-Spacing-TDD", "ip-Spacing-TDD", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ip_Spacing_TDD, 0, 4);
+   RT_CHECK(ctx, stat, "IP-Spacing-TDD", "ip-Spacing-TDD", -1, 0);
+   /* ip-slot */
+   if ((uint64_t)pvalue->ip_slot > 14u) {
+      rtxErrAddStrParm(ctx, "ip-slot");
+      rtxErrAddUIntParm(ctx, pvalue->ip_slot);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ip-slot", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ip_slot, 0, 14);
+   RT_CHECK(ctx, stat, 0, "ip-slot", -1, 0);
+   /* ip-Start */
+   if ((uint64_t)pvalue->ip_Start > 4095u) {
+      rtxErrAddStrParm(ctx, "ip-Start");
+      rtxErrAddUIntParm(ctx, pvalue->ip_Start);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ip-Start", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ip_Start, 0, 4095);
+   RT_CHECK(ctx, stat, 0, "ip-Start", -1, 0);
+   /* ip-PCCPCG */
+   if (pvalue->m & 0x1u) {
+      stat = rtxEncBit(ctx, pvalue->ip_PCCPCG);
+      RT_CHECK(ctx, stat, "IP-PCCPCH-r4", "ip-PCCPCG", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_IPDL_Parameters_r4(rtxContext* RT_RESTRICT ctx, const UE_Positioning_IPDL_Parameters_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-IPDL-Parameters-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-IPDL-Parameters-r4");
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-IPDL-Parameters-r4");
+   /* burstModeParameters */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_BurstModeParameters(ctx, &pvalue->burstModeParameters);
+      RT_CHECK(ctx, stat, 0, "burstModeParameters", -1, "UE-Positioning-IPDL-Parameters-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r4");
+   /* sfn */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->sfn > 4095u) {
+         rtxErrAddStrParm(ctx, "sfn");
+         rtxErrAddUIntParm(ctx, pvalue->sfn);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sfn", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r4");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->sfn, 0, 4095);
+      RT_CHECK(ctx, stat, 0, "sfn", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r4");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r4");
+   /* frequencyInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r4");
+   }
+   /* positioningMode */
+   stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode(ctx, &pvalue->positioningMode);
+   RT_CHECK(ctx, stat, 0, "positioningMode", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r4");
+   /* ue-positioning-IPDL-Paremeters */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters_r4(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-IPDL-Paremeters", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* cellAndChannelIdentity */
+   stat = asn1PE_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
+   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SFN_Offset_Validity(rtxContext* RT_RESTRICT ctx, SFN_Offset_Validity value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SFN-Offset-Validity");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SFN-Offset-Validity");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueBased(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueBased* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* relativeNorth */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->relativeNorth < -20000 || pvalue->relativeNorth > 20000) {
+         rtxErrAddStrParm(ctx, "relativeNorth");
+         rtxErrAddIntParm(ctx, pvalue->relativeNorth);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "relativeNorth", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->relativeNorth, -20000, 20000);
+      RT_CHECK(ctx, stat, 0, "relativeNorth", -1, 0);
+   }
+   /* relativeEast */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->relativeEast < -20000 || pvalue->relativeEast > 20000) {
+         rtxErrAddStrParm(ctx, "relativeEast");
+         rtxErrAddIntParm(ctx, pvalue->relativeEast);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "relativeEast", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->relativeEast, -20000, 20000);
+      RT_CHECK(ctx, stat, 0, "relativeEast", -1, 0);
+   }
+   /* relativeAltitude */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->relativeAltitude < -4000 || pvalue->relativeAltitude > 4000) {
+         rtxErrAddStrParm(ctx, "relativeAltitude");
+         rtxErrAddIntParm(ctx, pvalue->relativeAltitude);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "relativeAltitude", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->relativeAltitude, -4000, 4000);
+      RT_CHECK(ctx, stat, 0, "relativeAltitude", -1, 0);
+   }
+   /* fineSFN-SFN */
+   if (pvalue->m & 0x8u) {
+      if ((uint64_t)pvalue->fineSFN_SFN > 15u) {
+         rtxErrAddStrParm(ctx, "FineSFN-SFN");
+         rtxErrAddUIntParm(ctx, pvalue->fineSFN_SFN);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "FineSFN-SFN", "fineSFN-SFN", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->fineSFN_SFN, 0, 15);
+      RT_CHECK(ctx, stat, "FineSFN-SFN", "fineSFN-SFN", -1, 0);
+   }
+   /* roundTripTime */
+   if (pvalue->m & 0x10u) {
+      if ((uint64_t)pvalue->roundTripTime > 32766u) {
+         rtxErrAddStrParm(ctx, "roundTripTime");
+         rtxErrAddUIntParm(ctx, pvalue->roundTripTime);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "roundTripTime", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->roundTripTime, 0, 32766);
+      RT_CHECK(ctx, stat, 0, "roundTripTime", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueAssisted(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueAssisted* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.ueBased == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueBased", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueBased(ctx, pvalue->u.ueBased);
+         RT_CHECK(ctx, stat, 0, "ueBased", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.ueAssisted == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueAssisted", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueAssisted(ctx, pvalue->u.ueAssisted);
+         RT_CHECK(ctx, stat, 0, "ueAssisted", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
+   /* frequencyInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
+   }
+   /* ue-positioning-IPDL-Paremeters */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters_r4(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-IPDL-Paremeters", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
+   }
+   /* sfn-SFN-RelTimeDifference */
+   stat = asn1PE_UMTS_SFN_SFN_RelTimeDifference1(ctx, &pvalue->sfn_SFN_RelTimeDifference);
+   RT_CHECK(ctx, stat, 0, "sfn-SFN-RelTimeDifference", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
+   /* sfn-Offset-Validity */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->sfn_Offset_Validity > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->sfn_Offset_Validity);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->sfn_Offset_Validity, 0, 0);
+      RT_CHECK(ctx, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
+   }
+   /* sfn-SFN-Drift */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->sfn_SFN_Drift > 28) {
+         rtxErrAddUIntParm(ctx, pvalue->sfn_SFN_Drift);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "SFN-SFN-Drift", "sfn-SFN-Drift", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->sfn_SFN_Drift, 0, 28);
+      RT_CHECK(ctx, stat, "SFN-SFN-Drift", "sfn-SFN-Drift", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
+   }
+   /* searchWindowSize */
+   if (pvalue->searchWindowSize > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->searchWindowSize);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "OTDOA-SearchWindowSize", "searchWindowSize", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->searchWindowSize, 0, 7);
+   RT_CHECK(ctx, stat, "OTDOA-SearchWindowSize", "searchWindowSize", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
+   /* positioningMode */
+   stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode(ctx, &pvalue->positioningMode);
+   RT_CHECK(ctx, stat, 0, "positioningMode", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellList_r4(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellList_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellList-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellList-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UE-Positioning-OTDOA-NeighbourCellInfo-r4", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList-r4");
+      stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4(ctx, (const UE_Positioning_OTDOA_NeighbourCellInfo_r4*)node->data);
+      RT_CHECK(ctx, stat, 0, "UE-Positioning-OTDOA-NeighbourCellInfo-r4", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_r4(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_AssistanceData_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData-r4");
+   /* ue-positioning-OTDOA-ReferenceCellInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4(ctx, &pvalue->ue_positioning_OTDOA_ReferenceCellInfo);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-ReferenceCellInfo", -1, "UE-Positioning-OTDOA-AssistanceData-r4");
+   }
+   /* ue-positioning-OTDOA-NeighbourCellList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellList_r4(ctx, &pvalue->ue_positioning_OTDOA_NeighbourCellList);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-NeighbourCellList", -1, "UE-Positioning-OTDOA-AssistanceData-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_Measurement_r4(rtxContext* RT_RESTRICT ctx, const UE_Positioning_Measurement_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-Measurement-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Measurement-r4");
+   /* ue-positioning-ReportingQuantity */
+   stat = asn1PE_UMTS_UE_Positioning_ReportingQuantity_r4(ctx, &pvalue->ue_positioning_ReportingQuantity);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-ReportingQuantity", -1, "UE-Positioning-Measurement-r4");
+   /* measurementValidity */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "UE-Positioning-Measurement-r4");
+   }
+   /* reportCriteria */
+   stat = asn1PE_UMTS_UE_Positioning_ReportCriteria(ctx, &pvalue->reportCriteria);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "UE-Positioning-Measurement-r4");
+   /* ue-positioning-OTDOA-AssistanceData */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_r4(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData", -1, "UE-Positioning-Measurement-r4");
+   }
+   /* ue-positioning-GPS-AssistanceData */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_UE_Positioning_GPS_AssistanceData(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AssistanceData", -1, "UE-Positioning-Measurement-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UE_InternalReportingQuantity_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ue-RX-TX-TimeDifference */
+   stat = rtxEncBit(ctx, pvalue->ue_RX_TX_TimeDifference);
+   RT_CHECK(ctx, stat, 0, "ue-RX-TX-TimeDifference", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* appliedTA */
+   stat = rtxEncBit(ctx, pvalue->appliedTA);
+   RT_CHECK(ctx, stat, 0, "appliedTA", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* t-ADVinfo */
+   stat = rtxEncBit(ctx, pvalue->t_ADVinfo);
+   RT_CHECK(ctx, stat, 0, "t-ADVinfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, const UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = asn1PE_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = asn1PE_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tddOption */
+   stat = asn1PE_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_InternalReportingQuantity_r4_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_InternalReportingQuantity_r4(rtxContext* RT_RESTRICT ctx, const UE_InternalReportingQuantity_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-InternalReportingQuantity-r4");
+   /* ue-TransmittedPower */
+   stat = rtxEncBit(ctx, pvalue->ue_TransmittedPower);
+   RT_CHECK(ctx, stat, 0, "ue-TransmittedPower", -1, "UE-InternalReportingQuantity-r4");
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-InternalReportingQuantity-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_InternalMeasurement_r4(rtxContext* RT_RESTRICT ctx, const UE_InternalMeasurement_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-InternalMeasurement-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-InternalMeasurement-r4");
+   /* ue-InternalMeasQuantity */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_InternalMeasQuantity(ctx, &pvalue->ue_InternalMeasQuantity);
+      RT_CHECK(ctx, stat, 0, "ue-InternalMeasQuantity", -1, "UE-InternalMeasurement-r4");
+   }
+   /* ue-InternalReportingQuantity */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_InternalReportingQuantity_r4(ctx, &pvalue->ue_InternalReportingQuantity);
+      RT_CHECK(ctx, stat, 0, "ue-InternalReportingQuantity", -1, "UE-InternalMeasurement-r4");
+   }
+   /* reportCriteria */
+   stat = asn1PE_UMTS_UE_InternalReportCriteria(ctx, &pvalue->reportCriteria);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "UE-InternalMeasurement-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementType_r4(rtxContext* RT_RESTRICT ctx, const MeasurementType_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementType-r4");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
+   RT_CHECK(ctx, stat, 0, "t", -1, "MeasurementType-r4");
+   if (pvalue->t - 1 > 6) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementType-r4");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.intraFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r4");
+         stat = asn1PE_UMTS_IntraFrequencyMeasurement_r4(ctx, pvalue->u.intraFrequencyMeasurement);
+         RT_CHECK(ctx, stat, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r4");
+         break;
+      case 2:
+         if (pvalue->u.interFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interFrequencyMeasurement", -1, "MeasurementType-r4");
+         stat = asn1PE_UMTS_InterFrequencyMeasurement_r4(ctx, pvalue->u.interFrequencyMeasurement);
+         RT_CHECK(ctx, stat, 0, "interFrequencyMeasurement", -1, "MeasurementType-r4");
+         break;
+      case 3:
+         if (pvalue->u.interRATMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interRATMeasurement", -1, "MeasurementType-r4");
+         stat = asn1PE_UMTS_InterRATMeasurement_r4(ctx, pvalue->u.interRATMeasurement);
+         RT_CHECK(ctx, stat, 0, "interRATMeasurement", -1, "MeasurementType-r4");
+         break;
+      case 4:
+         if (pvalue->u.up_Measurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "up-Measurement", -1, "MeasurementType-r4");
+         stat = asn1PE_UMTS_UE_Positioning_Measurement_r4(ctx, pvalue->u.up_Measurement);
+         RT_CHECK(ctx, stat, 0, "up-Measurement", -1, "MeasurementType-r4");
+         break;
+      case 5:
+         if (pvalue->u.trafficVolumeMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r4");
+         stat = asn1PE_UMTS_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement);
+         RT_CHECK(ctx, stat, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r4");
+         break;
+      case 6:
+         if (pvalue->u.qualityMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "qualityMeasurement", -1, "MeasurementType-r4");
+         stat = asn1PE_UMTS_QualityMeasurement(ctx, pvalue->u.qualityMeasurement);
+         RT_CHECK(ctx, stat, 0, "qualityMeasurement", -1, "MeasurementType-r4");
+         break;
+      case 7:
+         if (pvalue->u.ue_InternalMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-InternalMeasurement", -1, "MeasurementType-r4");
+         stat = asn1PE_UMTS_UE_InternalMeasurement_r4(ctx, pvalue->u.ue_InternalMeasurement);
+         RT_CHECK(ctx, stat, 0, "ue-InternalMeasurement", -1, "MeasurementType-r4");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementCommand_r4_modify(rtxContext* RT_RESTRICT ctx, const MeasurementCommand_r4_modify* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementType */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementType_r4(ctx, &pvalue->measurementType);
+      RT_CHECK(ctx, stat, 0, "measurementType", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementCommand_r4(rtxContext* RT_RESTRICT ctx, const MeasurementCommand_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCommand-r4");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, "MeasurementCommand-r4");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommand-r4");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.setup == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "setup", -1, "MeasurementCommand-r4");
+         stat = asn1PE_UMTS_MeasurementType_r4(ctx, pvalue->u.setup);
+         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommand-r4");
+         break;
+      case 2:
+         if (pvalue->u.modify == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "modify", -1, "MeasurementCommand-r4");
+         stat = asn1PE_UMTS_MeasurementCommand_r4_modify(ctx, pvalue->u.modify);
+         RT_CHECK(ctx, stat, 0, "modify", -1, "MeasurementCommand-r4");
+         break;
+      case 3:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementType_r6(rtxContext* RT_RESTRICT ctx, const MeasurementType_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementType-r6");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
+   RT_CHECK(ctx, stat, 0, "t", -1, "MeasurementType-r6");
+   if (pvalue->t - 1 > 6) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementType-r6");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.intraFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r6");
+         stat = asn1PE_UMTS_IntraFrequencyMeasurement_r6(ctx, pvalue->u.intraFrequencyMeasurement);
+         RT_CHECK(ctx, stat, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r6");
+         break;
+      case 2:
+         if (pvalue->u.interFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interFrequencyMeasurement", -1, "MeasurementType-r6");
+         stat = asn1PE_UMTS_InterFrequencyMeasurement_r6(ctx, pvalue->u.interFrequencyMeasurement);
+         RT_CHECK(ctx, stat, 0, "interFrequencyMeasurement", -1, "MeasurementType-r6");
+         break;
+      case 3:
+         if (pvalue->u.interRATMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interRATMeasurement", -1, "MeasurementType-r6");
+         stat = asn1PE_UMTS_InterRATMeasurement_r6(ctx, pvalue->u.interRATMeasurement);
+         RT_CHECK(ctx, stat, 0, "interRATMeasurement", -1, "MeasurementType-r6");
+         break;
+      case 4:
+         if (pvalue->u.up_Measurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "up-Measurement", -1, "MeasurementType-r6");
+         stat = asn1PE_UMTS_UE_Positioning_Measurement_r4(ctx, pvalue->u.up_Measurement);
+         RT_CHECK(ctx, stat, 0, "up-Measurement", -1, "MeasurementType-r6");
+         break;
+      case 5:
+         if (pvalue->u.trafficVolumeMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r6");
+         stat = asn1PE_UMTS_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement);
+         RT_CHECK(ctx, stat, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r6");
+         break;
+      case 6:
+         if (pvalue->u.qualityMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "qualityMeasurement", -1, "MeasurementType-r6");
+         stat = asn1PE_UMTS_QualityMeasurement(ctx, pvalue->u.qualityMeasurement);
+         RT_CHECK(ctx, stat, 0, "qualityMeasurement", -1, "MeasurementType-r6");
+         break;
+      case 7:
+         if (pvalue->u.ue_InternalMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-InternalMeasurement", -1, "MeasurementType-r6");
+         stat = asn1PE_UMTS_UE_InternalMeasurement_r4(ctx, pvalue->u.ue_InternalMeasurement);
+         RT_CHECK(ctx, stat, 0, "ue-InternalMeasurement", -1, "MeasurementType-r6");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementCommand_r6_modify(rtxContext* RT_RESTRICT ctx, const MeasurementCommand_r6_modify* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementType */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementType_r6(ctx, &pvalue->measurementType);
+      RT_CHECK(ctx, stat, 0, "measurementType", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementCommand_r6(rtxContext* RT_RESTRICT ctx, const MeasurementCommand_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCommand-r6");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, "MeasurementCommand-r6");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommand-r6");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.setup == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "setup", -1, "MeasurementCommand-r6");
+         stat = asn1PE_UMTS_MeasurementType_r6(ctx, pvalue->u.setup);
+         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommand-r6");
+         break;
+      case 2:
+         if (pvalue->u.modify == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "modify", -1, "MeasurementCommand-r6");
+         stat = asn1PE_UMTS_MeasurementCommand_r6_modify(ctx, pvalue->u.modify);
+         RT_CHECK(ctx, stat, 0, "modify", -1, "MeasurementCommand-r6");
+         break;
+      case 3:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_ReportingQuantity_r7_velocityRequested(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportingQuantity_r7_velocityRequested value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_ReportingQuantity_r7(rtxContext* RT_RESTRICT ctx, const UE_Positioning_ReportingQuantity_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-ReportingQuantity-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 0), 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-ReportingQuantity-r7");
+   /* methodType */
+   if (pvalue->methodType > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->methodType);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "UE-Positioning-MethodType", "methodType", -1, "UE-Positioning-ReportingQuantity-r7");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->methodType, 0, 3);
+   RT_CHECK(ctx, stat, "UE-Positioning-MethodType", "methodType", -1, "UE-Positioning-ReportingQuantity-r7");
+   /* positioningMethod */
+   if (pvalue->positioningMethod > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->positioningMethod);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "PositioningMethod", "positioningMethod", -1, "UE-Positioning-ReportingQuantity-r7");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->positioningMethod, 0, 3);
+   RT_CHECK(ctx, stat, "PositioningMethod", "positioningMethod", -1, "UE-Positioning-ReportingQuantity-r7");
+   /* horizontalAccuracy */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_Accuracy(ctx, pvalue->horizontalAccuracy);
+      RT_CHECK(ctx, stat, 0, "horizontalAccuracy", -1, "UE-Positioning-ReportingQuantity-r7");
+   }
+   /* verticalAccuracy */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_Positioning_Accuracy(ctx, pvalue->verticalAccuracy);
+      RT_CHECK(ctx, stat, 0, "verticalAccuracy", -1, "UE-Positioning-ReportingQuantity-r7");
+   }
+   /* gps-TimingOfCellWanted */
+   stat = rtxEncBit(ctx, pvalue->gps_TimingOfCellWanted);
+   RT_CHECK(ctx, stat, 0, "gps-TimingOfCellWanted", -1, "UE-Positioning-ReportingQuantity-r7");
+   /* additionalAssistanceDataReq */
+   stat = rtxEncBit(ctx, pvalue->additionalAssistanceDataReq);
+   RT_CHECK(ctx, stat, 0, "additionalAssistanceDataReq", -1, "UE-Positioning-ReportingQuantity-r7");
+   /* environmentCharacterisation */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->environmentCharacterisation > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->environmentCharacterisation);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "EnvironmentCharacterisation", "environmentCharacterisation", -1, "UE-Positioning-ReportingQuantity-r7");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->environmentCharacterisation, 0, 3);
+      RT_CHECK(ctx, stat, "EnvironmentCharacterisation", "environmentCharacterisation", -1, "UE-Positioning-ReportingQuantity-r7");
+   }
+   /* velocityRequested */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->velocityRequested > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->velocityRequested);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "velocityRequested", -1, "UE-Positioning-ReportingQuantity-r7");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->velocityRequested, 0, 0);
+      RT_CHECK(ctx, stat, 0, "velocityRequested", -1, "UE-Positioning-ReportingQuantity-r7");
+   }
+   /* gANSSPositioningMethods */
+   if (pvalue->m & 0x10u) {
+      RT_SET_SIZE(ctx, 16, 16);
+      stat = pe_BitString32(ctx, &pvalue->gANSSPositioningMethods, 16, 16);
+      RT_CHECK(ctx, stat, 0, "gANSSPositioningMethods", -1, "UE-Positioning-ReportingQuantity-r7");
+   }
+   /* gANSSTimingOfCellWanted */
+   if (pvalue->m & 0x20u) {
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pe_BitString32(ctx, &pvalue->gANSSTimingOfCellWanted, 8, 8);
+      RT_CHECK(ctx, stat, 0, "gANSSTimingOfCellWanted", -1, "UE-Positioning-ReportingQuantity-r7");
+   }
+   /* gANSSCarrierPhaseMeasurementRequested */
+   if (pvalue->m & 0x40u) {
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pe_BitString32(ctx, &pvalue->gANSSCarrierPhaseMeasurementRequested, 8, 8);
+      RT_CHECK(ctx, stat, 0, "gANSSCarrierPhaseMeasurementRequested", -1, "UE-Positioning-ReportingQuantity-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ThresholdSFN_GPS_TOW_us(rtxContext* RT_RESTRICT ctx, ThresholdSFN_GPS_TOW_us value)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ThresholdSFN-GPS-TOW-us");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ThresholdSFN-GPS-TOW-us");
+   return 0;
+}
+
+int asn1PE_UMTS_ThresholdSFN_GANSS_TOW(rtxContext* RT_RESTRICT ctx, ThresholdSFN_GANSS_TOW value)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ThresholdSFN-GANSS-TOW");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ThresholdSFN-GANSS-TOW");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_EventSpecificInfo_r7(rtxContext* RT_RESTRICT ctx, const UE_Positioning_EventSpecificInfo_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-EventSpecificInfo-r7");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK(ctx, stat, 0, "t", -1, "UE-Positioning-EventSpecificInfo-r7");
+   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UE-Positioning-EventSpecificInfo-r7");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.e7a > 15) {
+            rtxErrAddUIntParm(ctx, pvalue->u.e7a);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "ThresholdPositionChange", "e7a", -1, "UE-Positioning-EventSpecificInfo-r7");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.e7a, 0, 15);
+         RT_CHECK(ctx, stat, "ThresholdPositionChange", "e7a", -1, "UE-Positioning-EventSpecificInfo-r7");
+         break;
+      case 2:
+         if (pvalue->u.e7b > 15) {
+            rtxErrAddUIntParm(ctx, pvalue->u.e7b);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "ThresholdSFN-SFN-Change", "e7b", -1, "UE-Positioning-EventSpecificInfo-r7");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.e7b, 0, 15);
+         RT_CHECK(ctx, stat, "ThresholdSFN-SFN-Change", "e7b", -1, "UE-Positioning-EventSpecificInfo-r7");
+         break;
+      case 3:
+         if (pvalue->u.e7c > 7) {
+            rtxErrAddUIntParm(ctx, pvalue->u.e7c);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "ThresholdSFN-GPS-TOW-us", "e7c", -1, "UE-Positioning-EventSpecificInfo-r7");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.e7c, 0, 7);
+         RT_CHECK(ctx, stat, "ThresholdSFN-GPS-TOW-us", "e7c", -1, "UE-Positioning-EventSpecificInfo-r7");
+         break;
+      case 4:
+         if (pvalue->u.e7d > 7) {
+            rtxErrAddUIntParm(ctx, pvalue->u.e7d);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "ThresholdSFN-GANSS-TOW", "e7d", -1, "UE-Positioning-EventSpecificInfo-r7");
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.e7d, 0, 7);
+         RT_CHECK(ctx, stat, "ThresholdSFN-GANSS-TOW", "e7d", -1, "UE-Positioning-EventSpecificInfo-r7");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_EventParam_r7(rtxContext* RT_RESTRICT ctx, const UE_Positioning_EventParam_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-EventParam-r7");
+   /* reportingAmount */
+   if (pvalue->reportingAmount > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->reportingAmount);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportingAmount", "reportingAmount", -1, "UE-Positioning-EventParam-r7");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->reportingAmount, 0, 7);
+   RT_CHECK(ctx, stat, "ReportingAmount", "reportingAmount", -1, "UE-Positioning-EventParam-r7");
+   /* reportFirstFix */
+   stat = rtxEncBit(ctx, pvalue->reportFirstFix);
+   RT_CHECK(ctx, stat, 0, "reportFirstFix", -1, "UE-Positioning-EventParam-r7");
+   /* measurementInterval */
+   if (pvalue->measurementInterval > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->measurementInterval);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "UE-Positioning-MeasurementInterval", "measurementInterval", -1, "UE-Positioning-EventParam-r7");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->measurementInterval, 0, 7);
+   RT_CHECK(ctx, stat, "UE-Positioning-MeasurementInterval", "measurementInterval", -1, "UE-Positioning-EventParam-r7");
+   /* eventSpecificInfo */
+   stat = asn1PE_UMTS_UE_Positioning_EventSpecificInfo_r7(ctx, &pvalue->eventSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "eventSpecificInfo", -1, "UE-Positioning-EventParam-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_EventParamList_r7(rtxContext* RT_RESTRICT ctx, const UE_Positioning_EventParamList_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-EventParamList-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UE-Positioning-EventParamList-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UE-Positioning-EventParam-r7", (int32_t)i, "UE-Positioning-EventParamList-r7");
+      stat = asn1PE_UMTS_UE_Positioning_EventParam_r7(ctx, (const UE_Positioning_EventParam_r7*)node->data);
+      RT_CHECK(ctx, stat, 0, "UE-Positioning-EventParam-r7", (int32_t)i, "UE-Positioning-EventParamList-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_ReportCriteria_r7(rtxContext* RT_RESTRICT ctx, const UE_Positioning_ReportCriteria_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-ReportCriteria-r7");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, "UE-Positioning-ReportCriteria-r7");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UE-Positioning-ReportCriteria-r7");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.ue_positioning_ReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-positioning-ReportingCriteria", -1, "UE-Positioning-ReportCriteria-r7");
+         stat = asn1PE_UMTS_UE_Positioning_EventParamList_r7(ctx, pvalue->u.ue_positioning_ReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "ue-positioning-ReportingCriteria", -1, "UE-Positioning-ReportCriteria-r7");
+         break;
+      case 2:
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "UE-Positioning-ReportCriteria-r7");
+         stat = asn1PE_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "UE-Positioning-ReportCriteria-r7");
+         break;
+      case 3:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* cellAndChannelIdentity */
+   stat = asn1PE_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
+   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueBased(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueBased* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellPosition */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ReferenceCellPosition(ctx, &pvalue->cellPosition);
+      RT_CHECK(ctx, stat, 0, "cellPosition", -1, 0);
+   }
+   /* roundTripTime */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->roundTripTime > 32766u) {
+         rtxErrAddStrParm(ctx, "roundTripTime");
+         rtxErrAddUIntParm(ctx, pvalue->roundTripTime);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "roundTripTime", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->roundTripTime, 0, 32766);
+      RT_CHECK(ctx, stat, 0, "roundTripTime", -1, 0);
+   }
+   /* roundTripTimeExtension */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)pvalue->roundTripTimeExtension > 70274u) {
+         rtxErrAddStrParm(ctx, "roundTripTimeExtension");
+         rtxErrAddUIntParm(ctx, pvalue->roundTripTimeExtension);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "roundTripTimeExtension", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->roundTripTimeExtension, 0, 70274);
+      RT_CHECK(ctx, stat, 0, "roundTripTimeExtension", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueAssisted(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueAssisted* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.ueBased == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueBased", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueBased(ctx, pvalue->u.ueBased);
+         RT_CHECK(ctx, stat, 0, "ueBased", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.ueAssisted == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueAssisted", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueAssisted(ctx, pvalue->u.ueAssisted);
+         RT_CHECK(ctx, stat, 0, "ueAssisted", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r7");
+   /* sfn */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->sfn > 4095u) {
+         rtxErrAddStrParm(ctx, "sfn");
+         rtxErrAddUIntParm(ctx, pvalue->sfn);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sfn", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r7");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->sfn, 0, 4095);
+      RT_CHECK(ctx, stat, 0, "sfn", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r7");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r7");
+   /* frequencyInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r7");
+   }
+   /* positioningMode */
+   stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode(ctx, &pvalue->positioningMode);
+   RT_CHECK(ctx, stat, 0, "positioningMode", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r7");
+   /* ue-positioning-IPDL-Paremeters */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters_r4(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-IPDL-Paremeters", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* cellAndChannelIdentity */
+   stat = asn1PE_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
+   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueBased(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueBased* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* relativeNorth */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->relativeNorth < -20000 || pvalue->relativeNorth > 20000) {
+         rtxErrAddStrParm(ctx, "relativeNorth");
+         rtxErrAddIntParm(ctx, pvalue->relativeNorth);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "relativeNorth", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->relativeNorth, -20000, 20000);
+      RT_CHECK(ctx, stat, 0, "relativeNorth", -1, 0);
+   }
+   /* relativeEast */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->relativeEast < -20000 || pvalue->relativeEast > 20000) {
+         rtxErrAddStrParm(ctx, "relativeEast");
+         rtxErrAddIntParm(ctx, pvalue->relativeEast);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "relativeEast", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->relativeEast, -20000, 20000);
+      RT_CHECK(ctx, stat, 0, "relativeEast", -1, 0);
+   }
+   /* relativeAltitude */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->relativeAltitude < -4000 || pvalue->relativeAltitude > 4000) {
+         rtxErrAddStrParm(ctx, "relativeAltitude");
+         rtxErrAddIntParm(ctx, pvalue->relativeAltitude);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "relativeAltitude", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->relativeAltitude, -4000, 4000);
+      RT_CHECK(ctx, stat, 0, "relativeAltitude", -1, 0);
+   }
+   /* fineSFN-SFN */
+   if (pvalue->m & 0x8u) {
+      if ((uint64_t)pvalue->fineSFN_SFN > 15u) {
+         rtxErrAddStrParm(ctx, "FineSFN-SFN");
+         rtxErrAddUIntParm(ctx, pvalue->fineSFN_SFN);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "FineSFN-SFN", "fineSFN-SFN", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->fineSFN_SFN, 0, 15);
+      RT_CHECK(ctx, stat, "FineSFN-SFN", "fineSFN-SFN", -1, 0);
+   }
+   /* roundTripTime */
+   if (pvalue->m & 0x10u) {
+      if ((uint64_t)pvalue->roundTripTime > 32766u) {
+         rtxErrAddStrParm(ctx, "roundTripTime");
+         rtxErrAddUIntParm(ctx, pvalue->roundTripTime);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "roundTripTime", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->roundTripTime, 0, 32766);
+      RT_CHECK(ctx, stat, 0, "roundTripTime", -1, 0);
+   }
+   /* roundTripTimeExtension */
+   if (pvalue->m & 0x20u) {
+      if ((uint64_t)pvalue->roundTripTimeExtension > 70274u) {
+         rtxErrAddStrParm(ctx, "roundTripTimeExtension");
+         rtxErrAddUIntParm(ctx, pvalue->roundTripTimeExtension);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "roundTripTimeExtension", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->roundTripTimeExtension, 0, 70274);
+      RT_CHECK(ctx, stat, 0, "roundTripTimeExtension", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueAssisted(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueAssisted* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.ueBased == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueBased", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueBased(ctx, pvalue->u.ueBased);
+         RT_CHECK(ctx, stat, 0, "ueBased", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.ueAssisted == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueAssisted", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueAssisted(ctx, pvalue->u.ueAssisted);
+         RT_CHECK(ctx, stat, 0, "ueAssisted", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
+   /* frequencyInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
+   }
+   /* ue-positioning-IPDL-Paremeters */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters_r4(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-IPDL-Paremeters", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
+   }
+   /* sfn-SFN-RelTimeDifference */
+   stat = asn1PE_UMTS_SFN_SFN_RelTimeDifference1(ctx, &pvalue->sfn_SFN_RelTimeDifference);
+   RT_CHECK(ctx, stat, 0, "sfn-SFN-RelTimeDifference", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
+   /* sfn-Offset-Validity */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->sfn_Offset_Validity > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->sfn_Offset_Validity);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->sfn_Offset_Validity, 0, 0);
+      RT_CHECK(ctx, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
+   }
+   /* sfn-SFN-Drift */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->sfn_SFN_Drift > 28) {
+         rtxErrAddUIntParm(ctx, pvalue->sfn_SFN_Drift);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "SFN-SFN-Drift", "sfn-SFN-Drift", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->sfn_SFN_Drift, 0, 28);
+      RT_CHECK(ctx, stat, "SFN-SFN-Drift", "sfn-SFN-Drift", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
+   }
+   /* searchWindowSize */
+   if (pvalue->searchWindowSize > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->searchWindowSize);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "OTDOA-SearchWindowSize", "searchWindowSize", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->searchWindowSize, 0, 7);
+   RT_CHECK(ctx, stat, "OTDOA-SearchWindowSize", "searchWindowSize", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
+   /* positioningMode */
+   stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode(ctx, &pvalue->positioningMode);
+   RT_CHECK(ctx, stat, 0, "positioningMode", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellList_r7(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellList_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellList-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellList-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UE-Positioning-OTDOA-NeighbourCellInfo-r7", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList-r7");
+      stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7(ctx, (const UE_Positioning_OTDOA_NeighbourCellInfo_r7*)node->data);
+      RT_CHECK(ctx, stat, 0, "UE-Positioning-OTDOA-NeighbourCellInfo-r7", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_r7(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_AssistanceData_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData-r7");
+   /* ue-positioning-OTDOA-ReferenceCellInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7(ctx, &pvalue->ue_positioning_OTDOA_ReferenceCellInfo);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-ReferenceCellInfo", -1, "UE-Positioning-OTDOA-AssistanceData-r7");
+   }
+   /* ue-positioning-OTDOA-NeighbourCellList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellList_r7(ctx, &pvalue->ue_positioning_OTDOA_NeighbourCellList);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-NeighbourCellList", -1, "UE-Positioning-OTDOA-AssistanceData-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GPS_ReferenceTime_r7(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_ReferenceTime_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-ReferenceTime-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-ReferenceTime-r7");
+   /* gps-Week */
+   if ((uint64_t)pvalue->gps_Week > 1023u) {
+      rtxErrAddStrParm(ctx, "gps-Week");
+      rtxErrAddUIntParm(ctx, pvalue->gps_Week);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "gps-Week", -1, "UE-Positioning-GPS-ReferenceTime-r7");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->gps_Week, 0, 1023);
+   RT_CHECK(ctx, stat, 0, "gps-Week", -1, "UE-Positioning-GPS-ReferenceTime-r7");
+   /* gps-tow-1msec */
+   if ((uint64_t)pvalue->gps_tow_1msec > 604799999u) {
+      rtxErrAddStrParm(ctx, "GPS-TOW-1msec");
+      rtxErrAddUIntParm(ctx, pvalue->gps_tow_1msec);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "GPS-TOW-1msec", "gps-tow-1msec", -1, "UE-Positioning-GPS-ReferenceTime-r7");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->gps_tow_1msec, 0, 604799999);
+   RT_CHECK(ctx, stat, "GPS-TOW-1msec", "gps-tow-1msec", -1, "UE-Positioning-GPS-ReferenceTime-r7");
+   /* utran-GPSReferenceTime */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UTRAN_GPSReferenceTime(ctx, &pvalue->utran_GPSReferenceTime);
+      RT_CHECK(ctx, stat, 0, "utran-GPSReferenceTime", -1, "UE-Positioning-GPS-ReferenceTime-r7");
+   }
+   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty > 127u) {
+         rtxErrAddStrParm(ctx, "UE-Positioning-GPS-ReferenceTimeUncertainty");
+         rtxErrAddUIntParm(ctx, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-GPS-ReferenceTime-r7");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
+      RT_CHECK(ctx, stat, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-GPS-ReferenceTime-r7");
+   }
+   /* sfn-tow-Uncertainty */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->sfn_tow_Uncertainty > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->sfn_tow_Uncertainty);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "SFN-TOW-Uncertainty", "sfn-tow-Uncertainty", -1, "UE-Positioning-GPS-ReferenceTime-r7");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->sfn_tow_Uncertainty, 0, 1);
+      RT_CHECK(ctx, stat, "SFN-TOW-Uncertainty", "sfn-tow-Uncertainty", -1, "UE-Positioning-GPS-ReferenceTime-r7");
+   }
+   /* utran-GPS-DriftRate */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->utran_GPS_DriftRate > 14) {
+         rtxErrAddUIntParm(ctx, pvalue->utran_GPS_DriftRate);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "UTRAN-GPS-DriftRate", "utran-GPS-DriftRate", -1, "UE-Positioning-GPS-ReferenceTime-r7");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->utran_GPS_DriftRate, 0, 14);
+      RT_CHECK(ctx, stat, "UTRAN-GPS-DriftRate", "utran-GPS-DriftRate", -1, "UE-Positioning-GPS-ReferenceTime-r7");
+   }
+   /* gps-TOW-AssistList */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_GPS_TOW_AssistList(ctx, &pvalue->gps_TOW_AssistList);
+      RT_CHECK(ctx, stat, 0, "gps-TOW-AssistList", -1, "UE-Positioning-GPS-ReferenceTime-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GPS_AcquisitionAssistance_r7(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_AcquisitionAssistance_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-AcquisitionAssistance-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-AcquisitionAssistance-r7");
+   /* gps-ReferenceTime */
+   if ((uint64_t)pvalue->gps_ReferenceTime > 604799999u) {
+      rtxErrAddStrParm(ctx, "GPS-TOW-1msec");
+      rtxErrAddUIntParm(ctx, pvalue->gps_ReferenceTime);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "GPS-TOW-1msec", "gps-ReferenceTime", -1, "UE-Positioning-GPS-AcquisitionAssistance-r7");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->gps_ReferenceTime, 0, 604799999);
+   RT_CHECK(ctx, stat, "GPS-TOW-1msec", "gps-ReferenceTime", -1, "UE-Positioning-GPS-AcquisitionAssistance-r7");
+   /* utran-GPSReferenceTime */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UTRAN_GPSReferenceTime(ctx, &pvalue->utran_GPSReferenceTime);
+      RT_CHECK(ctx, stat, 0, "utran-GPSReferenceTime", -1, "UE-Positioning-GPS-AcquisitionAssistance-r7");
+   }
+   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty > 127u) {
+         rtxErrAddStrParm(ctx, "UE-Positioning-GPS-ReferenceTimeUncertainty");
+         rtxErrAddUIntParm(ctx, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-GPS-AcquisitionAssistance-r7");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
+      RT_CHECK(ctx, stat, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-GPS-AcquisitionAssistance-r7");
+   }
+   /* satelliteInformationList */
+   stat = asn1PE_UMTS_AcquisitionSatInfoList(ctx, &pvalue->satelliteInformationList);
+   RT_CHECK(ctx, stat, 0, "satelliteInformationList", -1, "UE-Positioning-GPS-AcquisitionAssistance-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GPS_AssistanceData_r7(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_AssistanceData_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-AssistanceData-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 0), 9);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-AssistanceData-r7");
+   /* ue-positioning-GPS-ReferenceTime */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_GPS_ReferenceTime_r7(ctx, &pvalue->ue_positioning_GPS_ReferenceTime);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceTime", -1, "UE-Positioning-GPS-AssistanceData-r7");
+   }
+   /* ue-positioning-GPS-ReferenceLocation */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_ReferenceLocation(ctx, &pvalue->ue_positioning_GPS_ReferenceLocation);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceLocation", -1, "UE-Positioning-GPS-AssistanceData-r7");
+   }
+   /* ue-positioning-GPS-DGPS-Corrections */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_UE_Positioning_GPS_DGPS_Corrections(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-DGPS-Corrections", -1, "UE-Positioning-GPS-AssistanceData-r7");
+   }
+   /* ue-positioning-GPS-NavigationModel */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_UE_Positioning_GPS_NavigationModel(ctx, &pvalue->ue_positioning_GPS_NavigationModel);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-NavigationModel", -1, "UE-Positioning-GPS-AssistanceData-r7");
+   }
+   /* ue-positioning-GPS-IonosphericModel */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_UE_Positioning_GPS_IonosphericModel(ctx, &pvalue->ue_positioning_GPS_IonosphericModel);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-IonosphericModel", -1, "UE-Positioning-GPS-AssistanceData-r7");
+   }
+   /* ue-positioning-GPS-UTC-Model */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_UE_Positioning_GPS_UTC_Model(ctx, &pvalue->ue_positioning_GPS_UTC_Model);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-UTC-Model", -1, "UE-Positioning-GPS-AssistanceData-r7");
+   }
+   /* ue-positioning-GPS-Almanac */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_UE_Positioning_GPS_Almanac(ctx, &pvalue->ue_positioning_GPS_Almanac);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Almanac", -1, "UE-Positioning-GPS-AssistanceData-r7");
+   }
+   /* ue-positioning-GPS-AcquisitionAssistance */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_UE_Positioning_GPS_AcquisitionAssistance_r7(ctx, &pvalue->ue_positioning_GPS_AcquisitionAssistance);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AcquisitionAssistance", -1, "UE-Positioning-GPS-AssistanceData-r7");
+   }
+   /* ue-positioning-GPS-Real-timeIntegrity */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_BadSatList(ctx, &pvalue->ue_positioning_GPS_Real_timeIntegrity);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Real-timeIntegrity", -1, "UE-Positioning-GPS-AssistanceData-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_fdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* primary-CPICH-Info */
+   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primary_CPICH_Info);
+   RT_CHECK(ctx, stat, 0, "primary-CPICH-Info", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_tdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* cellParameters */
+   if ((uint64_t)pvalue->cellParameters > 127u) {
+      rtxErrAddStrParm(ctx, "CellParametersID");
+      rtxErrAddUIntParm(ctx, pvalue->cellParameters);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "CellParametersID", "cellParameters", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cellParameters, 0, 127);
+   RT_CHECK(ctx, stat, "CellParametersID", "cellParameters", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* timingOfCellFrames */
+   if ((uint64_t)pvalue->timingOfCellFrames > 3999999u) {
+      rtxErrAddStrParm(ctx, "timingOfCellFrames");
+      rtxErrAddUIntParm(ctx, pvalue->timingOfCellFrames);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "timingOfCellFrames", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timingOfCellFrames, 0, 3999999);
+   RT_CHECK(ctx, stat, 0, "timingOfCellFrames", -1, 0);
+   /* mode */
+   stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode(ctx, &pvalue->mode);
+   RT_CHECK(ctx, stat, 0, "mode", -1, 0);
+   /* referenceSfn */
+   if ((uint64_t)pvalue->referenceSfn > 4095u) {
+      rtxErrAddStrParm(ctx, "referenceSfn");
+      rtxErrAddUIntParm(ctx, pvalue->referenceSfn);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "referenceSfn", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->referenceSfn, 0, 4095);
+   RT_CHECK(ctx, stat, 0, "referenceSfn", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_Tutran_Ganss_DriftRate(rtxContext* RT_RESTRICT ctx, Tutran_Ganss_DriftRate value)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "Tutran-Ganss-DriftRate");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Tutran-Ganss-DriftRate");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_ReferenceTime* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-ReferenceTime");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-ReferenceTime");
+   /* ganssDay */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->ganssDay > 8191u) {
+         rtxErrAddStrParm(ctx, "ganssDay");
+         rtxErrAddUIntParm(ctx, pvalue->ganssDay);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssDay", -1, "UE-Positioning-GANSS-ReferenceTime");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ganssDay, 0, 8191);
+      RT_CHECK(ctx, stat, 0, "ganssDay", -1, "UE-Positioning-GANSS-ReferenceTime");
+   }
+   /* ganssTod */
+   if ((uint64_t)pvalue->ganssTod > 86399u) {
+      rtxErrAddStrParm(ctx, "ganssTod");
+      rtxErrAddUIntParm(ctx, pvalue->ganssTod);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssTod", -1, "UE-Positioning-GANSS-ReferenceTime");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ganssTod, 0, 86399);
+   RT_CHECK(ctx, stat, 0, "ganssTod", -1, "UE-Positioning-GANSS-ReferenceTime");
+   /* ganssTodUncertainty */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->ganssTodUncertainty > 127u) {
+         rtxErrAddStrParm(ctx, "ganssTodUncertainty");
+         rtxErrAddUIntParm(ctx, pvalue->ganssTodUncertainty);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssTodUncertainty", -1, "UE-Positioning-GANSS-ReferenceTime");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ganssTodUncertainty, 0, 127);
+      RT_CHECK(ctx, stat, 0, "ganssTodUncertainty", -1, "UE-Positioning-GANSS-ReferenceTime");
+   }
+   /* ganssTimeId */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)pvalue->ganssTimeId > 7u) {
+         rtxErrAddStrParm(ctx, "ganssTimeId");
+         rtxErrAddUIntParm(ctx, pvalue->ganssTimeId);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssTimeId", -1, "UE-Positioning-GANSS-ReferenceTime");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ganssTimeId, 0, 7);
+      RT_CHECK(ctx, stat, 0, "ganssTimeId", -1, "UE-Positioning-GANSS-ReferenceTime");
+   }
+   /* utran-ganssreferenceTime */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime(ctx, &pvalue->utran_ganssreferenceTime);
+      RT_CHECK(ctx, stat, 0, "utran-ganssreferenceTime", -1, "UE-Positioning-GANSS-ReferenceTime");
+   }
+   /* tutran-ganss-driftRate */
+   if (pvalue->m & 0x10u) {
+      if (pvalue->tutran_ganss_driftRate > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->tutran_ganss_driftRate);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "Tutran-Ganss-DriftRate", "tutran-ganss-driftRate", -1, "UE-Positioning-GANSS-ReferenceTime");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->tutran_ganss_driftRate, 0, 15);
+      RT_CHECK(ctx, stat, "Tutran-Ganss-DriftRate", "tutran-ganss-driftRate", -1, "UE-Positioning-GANSS-ReferenceTime");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ReferenceLocationGANSS(rtxContext* RT_RESTRICT ctx, const ReferenceLocationGANSS* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ReferenceLocationGANSS");
+   /* ellipsoidPointAltitudeEllipsoide */
+   stat = asn1PE_UMTS_EllipsoidPointAltitudeEllipsoide(ctx, &pvalue->ellipsoidPointAltitudeEllipsoide);
+   RT_CHECK(ctx, stat, 0, "ellipsoidPointAltitudeEllipsoide", -1, "ReferenceLocationGANSS");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_IonosphericModel(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_IonosphericModel* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-IonosphericModel");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-IonosphericModel");
+   /* alpha-zero-ionos */
+   RT_SET_SIZE(ctx, 12, 12);
+   stat = pe_BitString32(ctx, &pvalue->alpha_zero_ionos, 12, 12);
+   RT_CHECK(ctx, stat, 0, "alpha-zero-ionos", -1, "UE-Positioning-GANSS-IonosphericModel");
+   /* alpha-one-ionos */
+   RT_SET_SIZE(ctx, 12, 12);
+   stat = pe_BitString32(ctx, &pvalue->alpha_one_ionos, 12, 12);
+   RT_CHECK(ctx, stat, 0, "alpha-one-ionos", -1, "UE-Positioning-GANSS-IonosphericModel");
+   /* alpha-two-ionos */
+   RT_SET_SIZE(ctx, 12, 12);
+   stat = pe_BitString32(ctx, &pvalue->alpha_two_ionos, 12, 12);
+   RT_CHECK(ctx, stat, 0, "alpha-two-ionos", -1, "UE-Positioning-GANSS-IonosphericModel");
+   /* gANSS-storm-flags */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_GANSS_Storm_Flag(ctx, &pvalue->gANSS_storm_flags);
+      RT_CHECK(ctx, stat, 0, "gANSS-storm-flags", -1, "UE-Positioning-GANSS-IonosphericModel");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_AssistanceData(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AssistanceData* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-AssistanceData");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-AssistanceData");
+   /* ue-positioning-GANSS-ReferenceTime */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime(ctx, &pvalue->ue_positioning_GANSS_ReferenceTime);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-ReferenceTime", -1, "UE-Positioning-GANSS-AssistanceData");
+   }
+   /* uePositioningGanssReferencePosition */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_ReferenceLocationGANSS(ctx, &pvalue->uePositioningGanssReferencePosition);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssReferencePosition", -1, "UE-Positioning-GANSS-AssistanceData");
+   }
+   /* uePositioningGanssIonosphericModel */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_IonosphericModel(ctx, &pvalue->uePositioningGanssIonosphericModel);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssIonosphericModel", -1, "UE-Positioning-GANSS-AssistanceData");
+   }
+   /* ganssGenericDataList */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_GANSSGenericDataList(ctx, &pvalue->ganssGenericDataList);
+      RT_CHECK(ctx, stat, 0, "ganssGenericDataList", -1, "UE-Positioning-GANSS-AssistanceData");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_Measurement_r7(rtxContext* RT_RESTRICT ctx, const UE_Positioning_Measurement_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-Measurement-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Measurement-r7");
+   /* ue-positioning-ReportingQuantity */
+   stat = asn1PE_UMTS_UE_Positioning_ReportingQuantity_r7(ctx, &pvalue->ue_positioning_ReportingQuantity);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-ReportingQuantity", -1, "UE-Positioning-Measurement-r7");
+   /* measurementValidity */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "UE-Positioning-Measurement-r7");
+   }
+   /* reportCriteria */
+   stat = asn1PE_UMTS_UE_Positioning_ReportCriteria_r7(ctx, &pvalue->reportCriteria);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "UE-Positioning-Measurement-r7");
+   /* ue-positioning-OTDOA-AssistanceData */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_r7(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData", -1, "UE-Positioning-Measurement-r7");
+   }
+   /* ue-positioning-GPS-AssistanceData */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_UE_Positioning_GPS_AssistanceData_r7(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AssistanceData", -1, "UE-Positioning-Measurement-r7");
+   }
+   /* ue-positioning-GANSS-AssistanceData */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_AssistanceData(ctx, &pvalue->ue_positioning_GANSS_AssistanceData);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AssistanceData", -1, "UE-Positioning-Measurement-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementType_r7(rtxContext* RT_RESTRICT ctx, const MeasurementType_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementType-r7");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
+   RT_CHECK(ctx, stat, 0, "t", -1, "MeasurementType-r7");
+   if (pvalue->t - 1 > 6) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementType-r7");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.intraFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r7");
+         stat = asn1PE_UMTS_IntraFrequencyMeasurement_r7(ctx, pvalue->u.intraFrequencyMeasurement);
+         RT_CHECK(ctx, stat, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r7");
+         break;
+      case 2:
+         if (pvalue->u.interFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interFrequencyMeasurement", -1, "MeasurementType-r7");
+         stat = asn1PE_UMTS_InterFrequencyMeasurement_r7(ctx, pvalue->u.interFrequencyMeasurement);
+         RT_CHECK(ctx, stat, 0, "interFrequencyMeasurement", -1, "MeasurementType-r7");
+         break;
+      case 3:
+         if (pvalue->u.interRATMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interRATMeasurement", -1, "MeasurementType-r7");
+         stat = asn1PE_UMTS_InterRATMeasurement_r6(ctx, pvalue->u.interRATMeasurement);
+         RT_CHECK(ctx, stat, 0, "interRATMeasurement", -1, "MeasurementType-r7");
+         break;
+      case 4:
+         if (pvalue->u.up_Measurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "up-Measurement", -1, "MeasurementType-r7");
+         stat = asn1PE_UMTS_UE_Positioning_Measurement_r7(ctx, pvalue->u.up_Measurement);
+         RT_CHECK(ctx, stat, 0, "up-Measurement", -1, "MeasurementType-r7");
+         break;
+      case 5:
+         if (pvalue->u.trafficVolumeMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r7");
+         stat = asn1PE_UMTS_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement);
+         RT_CHECK(ctx, stat, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r7");
+         break;
+      case 6:
+         if (pvalue->u.qualityMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "qualityMeasurement", -1, "MeasurementType-r7");
+         stat = asn1PE_UMTS_QualityMeasurement(ctx, pvalue->u.qualityMeasurement);
+         RT_CHECK(ctx, stat, 0, "qualityMeasurement", -1, "MeasurementType-r7");
+         break;
+      case 7:
+         if (pvalue->u.ue_InternalMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-InternalMeasurement", -1, "MeasurementType-r7");
+         stat = asn1PE_UMTS_UE_InternalMeasurement_r4(ctx, pvalue->u.ue_InternalMeasurement);
+         RT_CHECK(ctx, stat, 0, "ue-InternalMeasurement", -1, "MeasurementType-r7");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementCommand_r7_modify(rtxContext* RT_RESTRICT ctx, const MeasurementCommand_r7_modify* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementType */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementType_r7(ctx, &pvalue->measurementType);
+      RT_CHECK(ctx, stat, 0, "measurementType", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementCommand_r7(rtxContext* RT_RESTRICT ctx, const MeasurementCommand_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCommand-r7");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, "MeasurementCommand-r7");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommand-r7");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.setup == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "setup", -1, "MeasurementCommand-r7");
+         stat = asn1PE_UMTS_MeasurementType_r7(ctx, pvalue->u.setup);
+         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommand-r7");
+         break;
+      case 2:
+         if (pvalue->u.modify == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "modify", -1, "MeasurementCommand-r7");
+         stat = asn1PE_UMTS_MeasurementCommand_r7_modify(ctx, pvalue->u.modify);
+         RT_CHECK(ctx, stat, 0, "modify", -1, "MeasurementCommand-r7");
+         break;
+      case 3:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_ReportingQuantity_r8_velocityRequested(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportingQuantity_r8_velocityRequested value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_ReportingQuantity_r8(rtxContext* RT_RESTRICT ctx, const UE_Positioning_ReportingQuantity_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-ReportingQuantity-r8");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 0), 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-ReportingQuantity-r8");
+   /* methodType */
+   if (pvalue->methodType > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->methodType);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "UE-Positioning-MethodType", "methodType", -1, "UE-Positioning-ReportingQuantity-r8");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->methodType, 0, 3);
+   RT_CHECK(ctx, stat, "UE-Positioning-MethodType", "methodType", -1, "UE-Positioning-ReportingQuantity-r8");
+   /* positioningMethod */
+   if (pvalue->positioningMethod > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->positioningMethod);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "PositioningMethod", "positioningMethod", -1, "UE-Positioning-ReportingQuantity-r8");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->positioningMethod, 0, 3);
+   RT_CHECK(ctx, stat, "PositioningMethod", "positioningMethod", -1, "UE-Positioning-ReportingQuantity-r8");
+   /* horizontalAccuracy */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_Accuracy(ctx, pvalue->horizontalAccuracy);
+      RT_CHECK(ctx, stat, 0, "horizontalAccuracy", -1, "UE-Positioning-ReportingQuantity-r8");
+   }
+   /* verticalAccuracy */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_Positioning_Accuracy(ctx, pvalue->verticalAccuracy);
+      RT_CHECK(ctx, stat, 0, "verticalAccuracy", -1, "UE-Positioning-ReportingQuantity-r8");
+   }
+   /* gps-TimingOfCellWanted */
+   stat = rtxEncBit(ctx, pvalue->gps_TimingOfCellWanted);
+   RT_CHECK(ctx, stat, 0, "gps-TimingOfCellWanted", -1, "UE-Positioning-ReportingQuantity-r8");
+   /* additionalAssistanceDataReq */
+   stat = rtxEncBit(ctx, pvalue->additionalAssistanceDataReq);
+   RT_CHECK(ctx, stat, 0, "additionalAssistanceDataReq", -1, "UE-Positioning-ReportingQuantity-r8");
+   /* environmentCharacterisation */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->environmentCharacterisation > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->environmentCharacterisation);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "EnvironmentCharacterisation", "environmentCharacterisation", -1, "UE-Positioning-ReportingQuantity-r8");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->environmentCharacterisation, 0, 3);
+      RT_CHECK(ctx, stat, "EnvironmentCharacterisation", "environmentCharacterisation", -1, "UE-Positioning-ReportingQuantity-r8");
+   }
+   /* velocityRequested */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->velocityRequested > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->velocityRequested);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "velocityRequested", -1, "UE-Positioning-ReportingQuantity-r8");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->velocityRequested, 0, 0);
+      RT_CHECK(ctx, stat, 0, "velocityRequested", -1, "UE-Positioning-ReportingQuantity-r8");
+   }
+   /* gANSSPositioningMethods */
+   if (pvalue->m & 0x10u) {
+      RT_SET_SIZE(ctx, 16, 16);
+      stat = pe_BitString32(ctx, &pvalue->gANSSPositioningMethods, 16, 16);
+      RT_CHECK(ctx, stat, 0, "gANSSPositioningMethods", -1, "UE-Positioning-ReportingQuantity-r8");
+   }
+   /* gANSSTimingOfCellWanted */
+   if (pvalue->m & 0x20u) {
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pe_BitString32(ctx, &pvalue->gANSSTimingOfCellWanted, 8, 8);
+      RT_CHECK(ctx, stat, 0, "gANSSTimingOfCellWanted", -1, "UE-Positioning-ReportingQuantity-r8");
+   }
+   /* gANSSCarrierPhaseMeasurementRequested */
+   if (pvalue->m & 0x40u) {
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pe_BitString32(ctx, &pvalue->gANSSCarrierPhaseMeasurementRequested, 8, 8);
+      RT_CHECK(ctx, stat, 0, "gANSSCarrierPhaseMeasurementRequested", -1, "UE-Positioning-ReportingQuantity-r8");
+   }
+   /* gANSSMultiFreqMeasurementRequested */
+   if (pvalue->m & 0x80u) {
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pe_BitString32(ctx, &pvalue->gANSSMultiFreqMeasurementRequested, 8, 8);
+      RT_CHECK(ctx, stat, 0, "gANSSMultiFreqMeasurementRequested", -1, "UE-Positioning-ReportingQuantity-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_AddIonoModel(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AddIonoModel* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-AddIonoModel");
+   /* dataID */
+   RT_SET_SIZE(ctx, 2, 2);
+   stat = pe_BitString32(ctx, &pvalue->dataID, 2, 2);
+   RT_CHECK(ctx, stat, 0, "dataID", -1, "UE-Positioning-GANSS-AddIonoModel");
+   /* alpha-beta-parameters */
+   stat = asn1PE_UMTS_UE_Positioning_GPS_IonosphericModel(ctx, &pvalue->alpha_beta_parameters);
+   RT_CHECK(ctx, stat, 0, "alpha-beta-parameters", -1, "UE-Positioning-GANSS-AddIonoModel");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_EarthOrientPara(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_EarthOrientPara* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-EarthOrientPara");
+   /* teop */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32(ctx, &pvalue->teop, 16, 16);
+   RT_CHECK(ctx, stat, 0, "teop", -1, "UE-Positioning-GANSS-EarthOrientPara");
+   /* pmX */
+   RT_SET_SIZE(ctx, 21, 21);
+   stat = pe_BitString32(ctx, &pvalue->pmX, 21, 21);
+   RT_CHECK(ctx, stat, 0, "pmX", -1, "UE-Positioning-GANSS-EarthOrientPara");
+   /* pmXdot */
+   RT_SET_SIZE(ctx, 15, 15);
+   stat = pe_BitString32(ctx, &pvalue->pmXdot, 15, 15);
+   RT_CHECK(ctx, stat, 0, "pmXdot", -1, "UE-Positioning-GANSS-EarthOrientPara");
+   /* pmY */
+   RT_SET_SIZE(ctx, 21, 21);
+   stat = pe_BitString32(ctx, &pvalue->pmY, 21, 21);
+   RT_CHECK(ctx, stat, 0, "pmY", -1, "UE-Positioning-GANSS-EarthOrientPara");
+   /* pmYdot */
+   RT_SET_SIZE(ctx, 15, 15);
+   stat = pe_BitString32(ctx, &pvalue->pmYdot, 15, 15);
+   RT_CHECK(ctx, stat, 0, "pmYdot", -1, "UE-Positioning-GANSS-EarthOrientPara");
+   /* deltaUT1 */
+   RT_SET_SIZE(ctx, 31, 31);
+   stat = pe_BitString32(ctx, &pvalue->deltaUT1, 31, 31);
+   RT_CHECK(ctx, stat, 0, "deltaUT1", -1, "UE-Positioning-GANSS-EarthOrientPara");
+   /* deltaUT1dot */
+   RT_SET_SIZE(ctx, 19, 19);
+   stat = pe_BitString32(ctx, &pvalue->deltaUT1dot, 19, 19);
+   RT_CHECK(ctx, stat, 0, "deltaUT1dot", -1, "UE-Positioning-GANSS-EarthOrientPara");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_AssistanceData_r8(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AssistanceData_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-AssistanceData-r8");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-AssistanceData-r8");
+   /* ue-positioning-GANSS-ReferenceTime */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime(ctx, &pvalue->ue_positioning_GANSS_ReferenceTime);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-ReferenceTime", -1, "UE-Positioning-GANSS-AssistanceData-r8");
+   }
+   /* uePositioningGanssReferencePosition */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_ReferenceLocationGANSS(ctx, &pvalue->uePositioningGanssReferencePosition);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssReferencePosition", -1, "UE-Positioning-GANSS-AssistanceData-r8");
+   }
+   /* uePositioningGanssIonosphericModel */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_IonosphericModel(ctx, &pvalue->uePositioningGanssIonosphericModel);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssIonosphericModel", -1, "UE-Positioning-GANSS-AssistanceData-r8");
+   }
+   /* uePositioningGanssAddIonoModel */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_AddIonoModel(ctx, &pvalue->uePositioningGanssAddIonoModel);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssAddIonoModel", -1, "UE-Positioning-GANSS-AssistanceData-r8");
+   }
+   /* uePositioningGanssEarthOrientationPara */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_EarthOrientPara(ctx, &pvalue->uePositioningGanssEarthOrientationPara);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssEarthOrientationPara", -1, "UE-Positioning-GANSS-AssistanceData-r8");
+   }
+   /* ganssGenericDataList */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_GANSSGenericDataList_r8(ctx, &pvalue->ganssGenericDataList);
+      RT_CHECK(ctx, stat, 0, "ganssGenericDataList", -1, "UE-Positioning-GANSS-AssistanceData-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_Measurement_r8(rtxContext* RT_RESTRICT ctx, const UE_Positioning_Measurement_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-Measurement-r8");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Measurement-r8");
+   /* ue-positioning-ReportingQuantity */
+   stat = asn1PE_UMTS_UE_Positioning_ReportingQuantity_r8(ctx, &pvalue->ue_positioning_ReportingQuantity);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-ReportingQuantity", -1, "UE-Positioning-Measurement-r8");
+   /* measurementValidity */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "UE-Positioning-Measurement-r8");
+   }
+   /* reportCriteria */
+   stat = asn1PE_UMTS_UE_Positioning_ReportCriteria_r7(ctx, &pvalue->reportCriteria);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "UE-Positioning-Measurement-r8");
+   /* ue-positioning-OTDOA-AssistanceData */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_r7(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData", -1, "UE-Positioning-Measurement-r8");
+   }
+   /* ue-positioning-GPS-AssistanceData */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_UE_Positioning_GPS_AssistanceData_r7(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AssistanceData", -1, "UE-Positioning-Measurement-r8");
+   }
+   /* ue-positioning-GANSS-AssistanceData */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_AssistanceData_r8(ctx, &pvalue->ue_positioning_GANSS_AssistanceData);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AssistanceData", -1, "UE-Positioning-Measurement-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementType_r8(rtxContext* RT_RESTRICT ctx, const MeasurementType_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementType-r8");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
+   RT_CHECK(ctx, stat, 0, "t", -1, "MeasurementType-r8");
+   if (pvalue->t - 1 > 6) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementType-r8");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.intraFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r8");
+         stat = asn1PE_UMTS_IntraFrequencyMeasurement_r7(ctx, pvalue->u.intraFrequencyMeasurement);
+         RT_CHECK(ctx, stat, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r8");
+         break;
+      case 2:
+         if (pvalue->u.interFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interFrequencyMeasurement", -1, "MeasurementType-r8");
+         stat = asn1PE_UMTS_InterFrequencyMeasurement_r8(ctx, pvalue->u.interFrequencyMeasurement);
+         RT_CHECK(ctx, stat, 0, "interFrequencyMeasurement", -1, "MeasurementType-r8");
+         break;
+      case 3:
+         if (pvalue->u.interRATMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interRATMeasurement", -1, "MeasurementType-r8");
+         stat = asn1PE_UMTS_InterRATMeasurement_r8(ctx, pvalue->u.interRATMeasurement);
+         RT_CHECK(ctx, stat, 0, "interRATMeasurement", -1, "MeasurementType-r8");
+         break;
+      case 4:
+         if (pvalue->u.up_Measurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "up-Measurement", -1, "MeasurementType-r8");
+         stat = asn1PE_UMTS_UE_Positioning_Measurement_r8(ctx, pvalue->u.up_Measurement);
+         RT_CHECK(ctx, stat, 0, "up-Measurement", -1, "MeasurementType-r8");
+         break;
+      case 5:
+         if (pvalue->u.trafficVolumeMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r8");
+         stat = asn1PE_UMTS_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement);
+         RT_CHECK(ctx, stat, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r8");
+         break;
+      case 6:
+         if (pvalue->u.qualityMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "qualityMeasurement", -1, "MeasurementType-r8");
+         stat = asn1PE_UMTS_QualityMeasurement(ctx, pvalue->u.qualityMeasurement);
+         RT_CHECK(ctx, stat, 0, "qualityMeasurement", -1, "MeasurementType-r8");
+         break;
+      case 7:
+         if (pvalue->u.ue_InternalMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-InternalMeasurement", -1, "MeasurementType-r8");
+         stat = asn1PE_UMTS_UE_InternalMeasurement_r4(ctx, pvalue->u.ue_InternalMeasurement);
+         RT_CHECK(ctx, stat, 0, "ue-InternalMeasurement", -1, "MeasurementType-r8");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementCommand_r8_modify(rtxContext* RT_RESTRICT ctx, const MeasurementCommand_r8_modify* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementType */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementType_r8(ctx, &pvalue->measurementType);
+      RT_CHECK(ctx, stat, 0, "measurementType", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementCommand_r8(rtxContext* RT_RESTRICT ctx, const MeasurementCommand_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCommand-r8");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, "MeasurementCommand-r8");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommand-r8");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.setup == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "setup", -1, "MeasurementCommand-r8");
+         stat = asn1PE_UMTS_MeasurementType_r8(ctx, pvalue->u.setup);
+         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommand-r8");
+         break;
+      case 2:
+         if (pvalue->u.modify == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "modify", -1, "MeasurementCommand-r8");
+         stat = asn1PE_UMTS_MeasurementCommand_r8_modify(ctx, pvalue->u.modify);
+         RT_CHECK(ctx, stat, 0, "modify", -1, "MeasurementCommand-r8");
+         break;
+      case 3:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GPS_DGPS_Corrections_r9(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_DGPS_Corrections_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-DGPS-Corrections-r9");
+   /* gps-TOW */
+   if ((uint64_t)pvalue->gps_TOW > 604799u) {
+      rtxErrAddStrParm(ctx, "GPS-TOW-1sec");
+      rtxErrAddUIntParm(ctx, pvalue->gps_TOW);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "GPS-TOW-1sec", "gps-TOW", -1, "UE-Positioning-GPS-DGPS-Corrections-r9");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->gps_TOW, 0, 604799);
+   RT_CHECK(ctx, stat, "GPS-TOW-1sec", "gps-TOW", -1, "UE-Positioning-GPS-DGPS-Corrections-r9");
+   /* statusHealth */
+   if (pvalue->statusHealth > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->statusHealth);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DiffCorrectionStatus", "statusHealth", -1, "UE-Positioning-GPS-DGPS-Corrections-r9");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->statusHealth, 0, 7);
+   RT_CHECK(ctx, stat, "DiffCorrectionStatus", "statusHealth", -1, "UE-Positioning-GPS-DGPS-Corrections-r9");
+   /* dgps-CorrectionSatInfoList */
+   stat = asn1PE_UMTS_DGPS_CorrectionSatInfoList_r9(ctx, &pvalue->dgps_CorrectionSatInfoList);
+   RT_CHECK(ctx, stat, 0, "dgps-CorrectionSatInfoList", -1, "UE-Positioning-GPS-DGPS-Corrections-r9");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GPS_AssistanceData_r9(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_AssistanceData_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-AssistanceData-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 0), 9);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-AssistanceData-r9");
+   /* ue-positioning-GPS-ReferenceTime */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_GPS_ReferenceTime_r7(ctx, &pvalue->ue_positioning_GPS_ReferenceTime);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceTime", -1, "UE-Positioning-GPS-AssistanceData-r9");
+   }
+   /* ue-positioning-GPS-ReferenceLocation */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_ReferenceLocation(ctx, &pvalue->ue_positioning_GPS_ReferenceLocation);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceLocation", -1, "UE-Positioning-GPS-AssistanceData-r9");
+   }
+   /* ue-positioning-GPS-DGPS-Corrections */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_UE_Positioning_GPS_DGPS_Corrections_r9(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-DGPS-Corrections", -1, "UE-Positioning-GPS-AssistanceData-r9");
+   }
+   /* ue-positioning-GPS-NavigationModel */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_UE_Positioning_GPS_NavigationModel(ctx, &pvalue->ue_positioning_GPS_NavigationModel);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-NavigationModel", -1, "UE-Positioning-GPS-AssistanceData-r9");
+   }
+   /* ue-positioning-GPS-IonosphericModel */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_UE_Positioning_GPS_IonosphericModel(ctx, &pvalue->ue_positioning_GPS_IonosphericModel);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-IonosphericModel", -1, "UE-Positioning-GPS-AssistanceData-r9");
+   }
+   /* ue-positioning-GPS-UTC-Model */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_UE_Positioning_GPS_UTC_Model(ctx, &pvalue->ue_positioning_GPS_UTC_Model);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-UTC-Model", -1, "UE-Positioning-GPS-AssistanceData-r9");
+   }
+   /* ue-positioning-GPS-Almanac */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_UE_Positioning_GPS_Almanac(ctx, &pvalue->ue_positioning_GPS_Almanac);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Almanac", -1, "UE-Positioning-GPS-AssistanceData-r9");
+   }
+   /* ue-positioning-GPS-AcquisitionAssistance */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_UE_Positioning_GPS_AcquisitionAssistance_r7(ctx, &pvalue->ue_positioning_GPS_AcquisitionAssistance);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AcquisitionAssistance", -1, "UE-Positioning-GPS-AssistanceData-r9");
+   }
+   /* ue-positioning-GPS-Real-timeIntegrity */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_BadSatList(ctx, &pvalue->ue_positioning_GPS_Real_timeIntegrity);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Real-timeIntegrity", -1, "UE-Positioning-GPS-AssistanceData-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_AssistanceData_r9(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AssistanceData_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-AssistanceData-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-AssistanceData-r9");
+   /* ue-positioning-GANSS-ReferenceTime */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime(ctx, &pvalue->ue_positioning_GANSS_ReferenceTime);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-ReferenceTime", -1, "UE-Positioning-GANSS-AssistanceData-r9");
+   }
+   /* uePositioningGanssReferencePosition */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_ReferenceLocationGANSS(ctx, &pvalue->uePositioningGanssReferencePosition);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssReferencePosition", -1, "UE-Positioning-GANSS-AssistanceData-r9");
+   }
+   /* uePositioningGanssIonosphericModel */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_IonosphericModel(ctx, &pvalue->uePositioningGanssIonosphericModel);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssIonosphericModel", -1, "UE-Positioning-GANSS-AssistanceData-r9");
+   }
+   /* uePositioningGanssAddIonoModel */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_AddIonoModel(ctx, &pvalue->uePositioningGanssAddIonoModel);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssAddIonoModel", -1, "UE-Positioning-GANSS-AssistanceData-r9");
+   }
+   /* uePositioningGanssEarthOrientationPara */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_EarthOrientPara(ctx, &pvalue->uePositioningGanssEarthOrientationPara);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssEarthOrientationPara", -1, "UE-Positioning-GANSS-AssistanceData-r9");
+   }
+   /* ganssGenericDataList */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_GANSSGenericDataList_r9(ctx, &pvalue->ganssGenericDataList);
+      RT_CHECK(ctx, stat, 0, "ganssGenericDataList", -1, "UE-Positioning-GANSS-AssistanceData-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_Measurement_r9(rtxContext* RT_RESTRICT ctx, const UE_Positioning_Measurement_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-Measurement-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Measurement-r9");
+   /* ue-positioning-ReportingQuantity */
+   stat = asn1PE_UMTS_UE_Positioning_ReportingQuantity_r8(ctx, &pvalue->ue_positioning_ReportingQuantity);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-ReportingQuantity", -1, "UE-Positioning-Measurement-r9");
+   /* measurementValidity */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "UE-Positioning-Measurement-r9");
+   }
+   /* reportCriteria */
+   stat = asn1PE_UMTS_UE_Positioning_ReportCriteria_r7(ctx, &pvalue->reportCriteria);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "UE-Positioning-Measurement-r9");
+   /* ue-positioning-OTDOA-AssistanceData */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_r7(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData", -1, "UE-Positioning-Measurement-r9");
+   }
+   /* ue-positioning-GPS-AssistanceData */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_UE_Positioning_GPS_AssistanceData_r9(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AssistanceData", -1, "UE-Positioning-Measurement-r9");
+   }
+   /* ue-positioning-GANSS-AssistanceData */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_AssistanceData_r9(ctx, &pvalue->ue_positioning_GANSS_AssistanceData);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AssistanceData", -1, "UE-Positioning-Measurement-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementType_r9(rtxContext* RT_RESTRICT ctx, const MeasurementType_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementType-r9");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
+   RT_CHECK(ctx, stat, 0, "t", -1, "MeasurementType-r9");
+   if (pvalue->t - 1 > 7) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementType-r9");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.intraFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r9");
+         stat = asn1PE_UMTS_IntraFrequencyMeasurement_r9(ctx, pvalue->u.intraFrequencyMeasurement);
+         RT_CHECK(ctx, stat, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r9");
+         break;
+      case 2:
+         if (pvalue->u.interFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interFrequencyMeasurement", -1, "MeasurementType-r9");
+         stat = asn1PE_UMTS_InterFrequencyMeasurement_r9(ctx, pvalue->u.interFrequencyMeasurement);
+         RT_CHECK(ctx, stat, 0, "interFrequencyMeasurement", -1, "MeasurementType-r9");
+         break;
+      case 3:
+         if (pvalue->u.interRATMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interRATMeasurement", -1, "MeasurementType-r9");
+         stat = asn1PE_UMTS_InterRATMeasurement_r9(ctx, pvalue->u.interRATMeasurement);
+         RT_CHECK(ctx, stat, 0, "interRATMeasurement", -1, "MeasurementType-r9");
+         break;
+      case 4:
+         if (pvalue->u.up_Measurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "up-Measurement", -1, "MeasurementType-r9");
+         stat = asn1PE_UMTS_UE_Positioning_Measurement_r9(ctx, pvalue->u.up_Measurement);
+         RT_CHECK(ctx, stat, 0, "up-Measurement", -1, "MeasurementType-r9");
+         break;
+      case 5:
+         if (pvalue->u.trafficVolumeMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r9");
+         stat = asn1PE_UMTS_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement);
+         RT_CHECK(ctx, stat, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r9");
+         break;
+      case 6:
+         if (pvalue->u.qualityMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "qualityMeasurement", -1, "MeasurementType-r9");
+         stat = asn1PE_UMTS_QualityMeasurement(ctx, pvalue->u.qualityMeasurement);
+         RT_CHECK(ctx, stat, 0, "qualityMeasurement", -1, "MeasurementType-r9");
+         break;
+      case 7:
+         if (pvalue->u.ue_InternalMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-InternalMeasurement", -1, "MeasurementType-r9");
+         stat = asn1PE_UMTS_UE_InternalMeasurement_r4(ctx, pvalue->u.ue_InternalMeasurement);
+         RT_CHECK(ctx, stat, 0, "ue-InternalMeasurement", -1, "MeasurementType-r9");
+         break;
+      case 8:
+         if (pvalue->u.csgProximityDetection == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "csgProximityDetection", -1, "MeasurementType-r9");
+         stat = asn1PE_UMTS_CSGProximityDetection(ctx, pvalue->u.csgProximityDetection);
+         RT_CHECK(ctx, stat, 0, "csgProximityDetection", -1, "MeasurementType-r9");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementCommand_r9_modify(rtxContext* RT_RESTRICT ctx, const MeasurementCommand_r9_modify* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementType */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementType_r9(ctx, &pvalue->measurementType);
+      RT_CHECK(ctx, stat, 0, "measurementType", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementCommand_r9(rtxContext* RT_RESTRICT ctx, const MeasurementCommand_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCommand-r9");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, "MeasurementCommand-r9");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommand-r9");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.setup == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "setup", -1, "MeasurementCommand-r9");
+         stat = asn1PE_UMTS_MeasurementType_r9(ctx, pvalue->u.setup);
+         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommand-r9");
+         break;
+      case 2:
+         if (pvalue->u.modify == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "modify", -1, "MeasurementCommand-r9");
+         stat = asn1PE_UMTS_MeasurementCommand_r9_modify(ctx, pvalue->u.modify);
+         RT_CHECK(ctx, stat, 0, "modify", -1, "MeasurementCommand-r9");
+         break;
+      case 3:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Neighbour_TDD_r7(rtxContext* RT_RESTRICT ctx, const Neighbour_TDD_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Neighbour-TDD-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Neighbour-TDD-r7");
+   /* uarfcn */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->uarfcn > 16383u) {
+         rtxErrAddStrParm(ctx, "UARFCN");
+         rtxErrAddUIntParm(ctx, pvalue->uarfcn);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UARFCN", "uarfcn", -1, "Neighbour-TDD-r7");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->uarfcn, 0, 16383);
+      RT_CHECK(ctx, stat, "UARFCN", "uarfcn", -1, "Neighbour-TDD-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NeighbourList_TDD_r7(rtxContext* RT_RESTRICT ctx, const NeighbourList_TDD_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NeighbourList-TDD-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NeighbourList-TDD-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "Neighbour-TDD-r7", (int32_t)i, "NeighbourList-TDD-r7");
+      stat = asn1PE_UMTS_Neighbour_TDD_r7(ctx, (const Neighbour_TDD_r7*)node->data);
+      RT_CHECK(ctx, stat, 0, "Neighbour-TDD-r7", (int32_t)i, "NeighbourList-TDD-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCell_LCR_v8a0ext(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_LCR_v8a0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCell-LCR-v8a0ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCell-LCR-v8a0ext");
+   /* cellInfo-LCR-r8 */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellInfo_LCR_r8_ext(ctx, &pvalue->cellInfo_LCR_r8);
+      RT_CHECK(ctx, stat, 0, "cellInfo-LCR-r8", -1, "NewInterFreqCell-LCR-v8a0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellList_LCR_v8a0ext(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellList_LCR_v8a0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellList-LCR-v8a0ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewInterFreqCellList-LCR-v8a0ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewInterFreqCell-LCR-v8a0ext", (int32_t)i, "NewInterFreqCellList-LCR-v8a0ext");
+      stat = asn1PE_UMTS_NewInterFreqCell_LCR_v8a0ext(ctx, (const NewInterFreqCell_LCR_v8a0ext*)node->data);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCell-LCR-v8a0ext", (int32_t)i, "NewInterFreqCellList-LCR-v8a0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewIntraFreqCell_LCR_v8a0ext(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCell_LCR_v8a0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCell-LCR-v8a0ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCell-LCR-v8a0ext");
+   /* cellInfo-LCR-r8 */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellInfo_LCR_r8_ext(ctx, &pvalue->cellInfo_LCR_r8);
+      RT_CHECK(ctx, stat, 0, "cellInfo-LCR-r8", -1, "NewIntraFreqCell-LCR-v8a0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewIntraFreqCellList_LCR_v8a0ext(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellList_LCR_v8a0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellList-LCR-v8a0ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewIntraFreqCellList-LCR-v8a0ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewIntraFreqCell-LCR-v8a0ext", (int32_t)i, "NewIntraFreqCellList-LCR-v8a0ext");
+      stat = asn1PE_UMTS_NewIntraFreqCell_LCR_v8a0ext(ctx, (const NewIntraFreqCell_LCR_v8a0ext*)node->data);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCell-LCR-v8a0ext", (int32_t)i, "NewIntraFreqCellList-LCR-v8a0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TimeslotWithISCP(rtxContext* RT_RESTRICT ctx, const TimeslotWithISCP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TimeslotWithISCP");
+   /* timeslot */
+   if ((uint64_t)pvalue->timeslot > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslot);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslot", -1, "TimeslotWithISCP");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 14);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, "TimeslotWithISCP");
+   /* timeslotISCP */
+   if ((uint64_t)pvalue->timeslotISCP > 127u) {
+      rtxErrAddStrParm(ctx, "TimeslotISCP");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotISCP);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotISCP", "timeslotISCP", -1, "TimeslotWithISCP");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeslotISCP, 0, 127);
+   RT_CHECK(ctx, stat, "TimeslotISCP", "timeslotISCP", -1, "TimeslotWithISCP");
+   return 0;
+}
+
+int asn1PE_UMTS_TimeslotListWithISCP(rtxContext* RT_RESTRICT ctx, const TimeslotListWithISCP* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TimeslotListWithISCP");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 14);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "TimeslotListWithISCP");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "TimeslotWithISCP", (int32_t)i, "TimeslotListWithISCP");
+      stat = asn1PE_UMTS_TimeslotWithISCP(ctx, (const TimeslotWithISCP*)node->data);
+      RT_CHECK(ctx, stat, 0, "TimeslotWithISCP", (int32_t)i, "TimeslotListWithISCP");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_CipherParameters(rtxContext* RT_RESTRICT ctx, const UE_Positioning_CipherParameters* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-CipherParameters");
+   /* cipheringKeyFlag */
+   RT_SET_SIZE(ctx, 1, 1);
+   stat = pe_BitString32(ctx, &pvalue->cipheringKeyFlag, 1, 1);
+   RT_CHECK(ctx, stat, 0, "cipheringKeyFlag", -1, "UE-Positioning-CipherParameters");
+   /* cipheringSerialNumber */
+   stat = pe_ConsUInt64(ctx, pvalue->cipheringSerialNumber, 0, 65535);
+   RT_CHECK(ctx, stat, 0, "cipheringSerialNumber", -1, "UE-Positioning-CipherParameters");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_AssistanceData_v860ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AssistanceData_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-AssistanceData-v860ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-AssistanceData-v860ext");
+   /* uePositioningGanssAddIonoModel */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_AddIonoModel(ctx, &pvalue->uePositioningGanssAddIonoModel);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssAddIonoModel", -1, "UE-Positioning-GANSS-AssistanceData-v860ext");
+   }
+   /* uePositioningGanssEarthOrientationPara */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_EarthOrientPara(ctx, &pvalue->uePositioningGanssEarthOrientationPara);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssEarthOrientationPara", -1, "UE-Positioning-GANSS-AssistanceData-v860ext");
+   }
+   /* ganssGenericDataList */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_GANSSGenericDataList_v860ext(ctx, &pvalue->ganssGenericDataList);
+      RT_CHECK(ctx, stat, 0, "ganssGenericDataList", -1, "UE-Positioning-GANSS-AssistanceData-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_AssistanceData_v920ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AssistanceData_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-AssistanceData-v920ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-AssistanceData-v920ext");
+   /* ganssGenericDataList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_GANSSGenericDataList_v920ext(ctx, &pvalue->ganssGenericDataList);
+      RT_CHECK(ctx, stat, 0, "ganssGenericDataList", -1, "UE-Positioning-GANSS-AssistanceData-v920ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_Data(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_Data* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-Data");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-Data");
+   /* ganssDataCipheringInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_CipherParameters(ctx, &pvalue->ganssDataCipheringInfo);
+      RT_CHECK(ctx, stat, 0, "ganssDataCipheringInfo", -1, "UE-Positioning-GANSS-Data");
+   }
+   /* ganssDecipheringKeys */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_GANSSDecipheringKeys(ctx, &pvalue->ganssDecipheringKeys);
+      RT_CHECK(ctx, stat, 0, "ganssDecipheringKeys", -1, "UE-Positioning-GANSS-Data");
+   }
+   /* uePositioningGanssReferenceTime */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime(ctx, &pvalue->uePositioningGanssReferenceTime);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssReferenceTime", -1, "UE-Positioning-GANSS-Data");
+   }
+   /* uePositioningGanssReferencePosition */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_ReferenceLocationGANSS(ctx, &pvalue->uePositioningGanssReferencePosition);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssReferencePosition", -1, "UE-Positioning-GANSS-Data");
+   }
+   /* uePositioningGanssIonosphericModel */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_IonosphericModel(ctx, &pvalue->uePositioningGanssIonosphericModel);
+      RT_CHECK(ctx, stat, 0, "uePositioningGanssIonosphericModel", -1, "UE-Positioning-GANSS-Data");
+   }
+   /* ganssGenericDataList */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_GANSSGenericDataList(ctx, &pvalue->ganssGenericDataList);
+      RT_CHECK(ctx, stat, 0, "ganssGenericDataList", -1, "UE-Positioning-GANSS-Data");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_TimeModels(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_TimeModels* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-TimeModels");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 7);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-TimeModels");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UE-Positioning-GANSS-TimeModel", (int32_t)i, "UE-Positioning-GANSS-TimeModels");
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_TimeModel(ctx, (const UE_Positioning_GANSS_TimeModel*)node->data);
+      RT_CHECK(ctx, stat, 0, "UE-Positioning-GANSS-TimeModel", (int32_t)i, "UE-Positioning-GANSS-TimeModels");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GPS_AcquisitionAssistance_v770ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_AcquisitionAssistance_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-AcquisitionAssistance-v770ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-AcquisitionAssistance-v770ext");
+   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty > 127u) {
+         rtxErrAddStrParm(ctx, "UE-Positioning-GPS-ReferenceTimeUncertainty");
+         rtxErrAddUIntParm(ctx, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-GPS-AcquisitionAssistance-v770ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
+      RT_CHECK(ctx, stat, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-GPS-AcquisitionAssistance-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GPS_ReferenceTime_v770ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_ReferenceTime_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-ReferenceTime-v770ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-ReferenceTime-v770ext");
+   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty > 127u) {
+         rtxErrAddStrParm(ctx, "UE-Positioning-GPS-ReferenceTimeUncertainty");
+         rtxErrAddUIntParm(ctx, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-GPS-ReferenceTime-v770ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
+      RT_CHECK(ctx, stat, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-GPS-ReferenceTime-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GPS_AssistanceData_v770ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_AssistanceData_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-AssistanceData-v770ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-AssistanceData-v770ext");
+   /* ue-positioning-GPS-ReferenceTime */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_GPS_ReferenceTime_v770ext(ctx, &pvalue->ue_positioning_GPS_ReferenceTime);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceTime", -1, "UE-Positioning-GPS-AssistanceData-v770ext");
+   }
+   /* ue-positioning-GPS-AcquisitionAssistance */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_Positioning_GPS_AcquisitionAssistance_v770ext(ctx, &pvalue->ue_positioning_GPS_AcquisitionAssistance);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AcquisitionAssistance", -1, "UE-Positioning-GPS-AssistanceData-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GPS_DGPS_Corrections_v920ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_DGPS_Corrections_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-DGPS-Corrections-v920ext");
+   /* dgps-CorrectionSatInfoList */
+   stat = asn1PE_UMTS_DGPS_CorrectionSatInfoList_v920ext(ctx, &pvalue->dgps_CorrectionSatInfoList);
+   RT_CHECK(ctx, stat, 0, "dgps-CorrectionSatInfoList", -1, "UE-Positioning-GPS-DGPS-Corrections-v920ext");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GPS_AssistanceData_v920ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_AssistanceData_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-AssistanceData-v920ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-AssistanceData-v920ext");
+   /* ue-positioning-GPS-DGPS-Corrections */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_GPS_DGPS_Corrections_v920ext(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-DGPS-Corrections", -1, "UE-Positioning-GPS-AssistanceData-v920ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_IPDL_Parameters_TDD_r4_ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_IPDL_Parameters_TDD_r4_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
+   /* ip-Spacing */
+   if (pvalue->ip_Spacing > 4) {
+      rtxErrAddUIntParm(ctx, pvalue->ip_Spacing);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "IP-Spacing-TDD", "ip-Spacing", -1, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ip_Spacing, 0, 4);
+   RT_CHECK(ctx, stat, "IP-Spacing-TDD", "ip-Spacing", -1, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
+   /* ip-slot */
+   if ((uint64_t)pvalue->ip_slot > 14u) {
+      rtxErrAddStrParm(ctx, "ip-slot");
+      rtxErrAddUIntParm(ctx, pvalue->ip_slot);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ip-slot", -1, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ip_slot, 0, 14);
+   RT_CHECK(ctx, stat, 0, "ip-slot", -1, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
+   /* ip-Start */
+   if ((uint64_t)pvalue->ip_Start > 4095u) {
+      rtxErrAddStrParm(ctx, "ip-Start");
+      rtxErrAddUIntParm(ctx, pvalue->ip_Start);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ip-Start", -1, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ip_Start, 0, 4095);
+   RT_CHECK(ctx, stat, 0, "ip-Start", -1, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
+   /* ip-PCCPCG */
+   if (pvalue->m & 0x1u) {
+      stat = rtxEncBit(ctx, pvalue->ip_PCCPCG);
+      RT_CHECK(ctx, stat, "IP-PCCPCH-r4", "ip-PCCPCG", -1, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
+   }
+   /* burstModeParameters */
+   stat = asn1PE_UMTS_BurstModeParameters(ctx, &pvalue->burstModeParameters);
+   RT_CHECK(ctx, stat, 0, "burstModeParameters", -1, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_ReportingQuantity_v390ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_ReportingQuantity_v390ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-ReportingQuantity-v390ext");
+   /* vertical-Accuracy */
+   stat = asn1PE_UMTS_UE_Positioning_Accuracy(ctx, pvalue->vertical_Accuracy);
+   RT_CHECK(ctx, stat, 0, "vertical-Accuracy", -1, "UE-Positioning-ReportingQuantity-v390ext");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* cellAndChannelIdentity */
+   stat = asn1PE_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
+   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_UEB* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
+   /* sfn */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->sfn > 4095u) {
+         rtxErrAddStrParm(ctx, "sfn");
+         rtxErrAddUIntParm(ctx, pvalue->sfn);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sfn", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->sfn, 0, 4095);
+      RT_CHECK(ctx, stat, 0, "sfn", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
+   /* frequencyInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
+   }
+   /* cellPosition */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_ReferenceCellPosition(ctx, &pvalue->cellPosition);
+      RT_CHECK(ctx, stat, 0, "cellPosition", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
+   }
+   /* roundTripTime */
+   if (pvalue->m & 0x8u) {
+      if ((uint64_t)pvalue->roundTripTime > 32766u) {
+         rtxErrAddStrParm(ctx, "roundTripTime");
+         rtxErrAddUIntParm(ctx, pvalue->roundTripTime);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "roundTripTime", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->roundTripTime, 0, 32766);
+      RT_CHECK(ctx, stat, 0, "roundTripTime", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
+   }
+   /* ue-positioning-IPDL-Paremeters */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-IPDL-Paremeters", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* cellAndChannelIdentity */
+   stat = asn1PE_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
+   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_UEB* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 0), 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   /* frequencyInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   }
+   /* ue-positioning-IPDL-Paremeters */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-IPDL-Paremeters", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   }
+   /* sfn-SFN-RelTimeDifference */
+   stat = asn1PE_UMTS_SFN_SFN_RelTimeDifference1(ctx, &pvalue->sfn_SFN_RelTimeDifference);
+   RT_CHECK(ctx, stat, 0, "sfn-SFN-RelTimeDifference", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   /* sfn-SFN-Drift */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->sfn_SFN_Drift > 28) {
+         rtxErrAddUIntParm(ctx, pvalue->sfn_SFN_Drift);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "SFN-SFN-Drift", "sfn-SFN-Drift", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->sfn_SFN_Drift, 0, 28);
+      RT_CHECK(ctx, stat, "SFN-SFN-Drift", "sfn-SFN-Drift", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   }
+   /* searchWindowSize */
+   if (pvalue->searchWindowSize > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->searchWindowSize);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "OTDOA-SearchWindowSize", "searchWindowSize", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->searchWindowSize, 0, 7);
+   RT_CHECK(ctx, stat, "OTDOA-SearchWindowSize", "searchWindowSize", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   /* relativeNorth */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->relativeNorth < -20000 || pvalue->relativeNorth > 20000) {
+         rtxErrAddStrParm(ctx, "relativeNorth");
+         rtxErrAddIntParm(ctx, pvalue->relativeNorth);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "relativeNorth", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->relativeNorth, -20000, 20000);
+      RT_CHECK(ctx, stat, 0, "relativeNorth", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   }
+   /* relativeEast */
+   if (pvalue->m & 0x10u) {
+      if (pvalue->relativeEast < -20000 || pvalue->relativeEast > 20000) {
+         rtxErrAddStrParm(ctx, "relativeEast");
+         rtxErrAddIntParm(ctx, pvalue->relativeEast);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "relativeEast", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->relativeEast, -20000, 20000);
+      RT_CHECK(ctx, stat, 0, "relativeEast", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   }
+   /* relativeAltitude */
+   if (pvalue->m & 0x20u) {
+      if (pvalue->relativeAltitude < -4000 || pvalue->relativeAltitude > 4000) {
+         rtxErrAddStrParm(ctx, "relativeAltitude");
+         rtxErrAddIntParm(ctx, pvalue->relativeAltitude);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "relativeAltitude", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->relativeAltitude, -4000, 4000);
+      RT_CHECK(ctx, stat, 0, "relativeAltitude", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   }
+   /* fineSFN-SFN */
+   if ((uint64_t)pvalue->fineSFN_SFN > 15u) {
+      rtxErrAddStrParm(ctx, "FineSFN-SFN");
+      rtxErrAddUIntParm(ctx, pvalue->fineSFN_SFN);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "FineSFN-SFN", "fineSFN-SFN", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->fineSFN_SFN, 0, 15);
+   RT_CHECK(ctx, stat, "FineSFN-SFN", "fineSFN-SFN", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   /* roundTripTime */
+   if (pvalue->m & 0x40u) {
+      if ((uint64_t)pvalue->roundTripTime > 32766u) {
+         rtxErrAddStrParm(ctx, "roundTripTime");
+         rtxErrAddUIntParm(ctx, pvalue->roundTripTime);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "roundTripTime", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->roundTripTime, 0, 32766);
+      RT_CHECK(ctx, stat, 0, "roundTripTime", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellList_UEB(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellList_UEB* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellList-UEB");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellList-UEB");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList-UEB");
+      stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB(ctx, (const UE_Positioning_OTDOA_NeighbourCellInfo_UEB*)node->data);
+      RT_CHECK(ctx, stat, 0, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList-UEB");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_AssistanceData_UEB* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData-UEB");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData-UEB");
+   /* ue-positioning-OTDOA-ReferenceCellInfo-UEB */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB(ctx, &pvalue->ue_positioning_OTDOA_ReferenceCellInfo_UEB);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-ReferenceCellInfo-UEB", -1, "UE-Positioning-OTDOA-AssistanceData-UEB");
+   }
+   /* ue-positioning-OTDOA-NeighbourCellList-UEB */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellList_UEB(ctx, &pvalue->ue_positioning_OTDOA_NeighbourCellList_UEB);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-NeighbourCellList-UEB", -1, "UE-Positioning-OTDOA-AssistanceData-UEB");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_Measurement_v390ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_Measurement_v390ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-Measurement-v390ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Measurement-v390ext");
+   /* ue-positioning-ReportingQuantity-v390ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_ReportingQuantity_v390ext(ctx, &pvalue->ue_positioning_ReportingQuantity_v390ext);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-ReportingQuantity-v390ext", -1, "UE-Positioning-Measurement-v390ext");
+   }
+   /* measurementValidity */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "UE-Positioning-Measurement-v390ext");
+   }
+   /* ue-positioning-OTDOA-AssistanceData-UEB */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData_UEB);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData-UEB", -1, "UE-Positioning-Measurement-v390ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_Measurement_v920ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_Measurement_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-Measurement-v920ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Measurement-v920ext");
+   /* ue-positioning-GPS-AssistanceData */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_GPS_AssistanceData_v920ext(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AssistanceData", -1, "UE-Positioning-Measurement-v920ext");
+   }
+   /* ue-positioning-GANSS-AssistanceData */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_AssistanceData_v920ext(ctx, &pvalue->ue_positioning_GANSS_AssistanceData);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AssistanceData", -1, "UE-Positioning-Measurement-v920ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_IPDL_Parameters_TDDList_r4_ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_IPDL_Parameters_TDDList_r4_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-IPDL-Parameters-TDDList-r4-ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UE-Positioning-IPDL-Parameters-TDDList-r4-ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UE-Positioning-IPDL-Parameters-TDD-r4-ext", (int32_t)i, "UE-Positioning-IPDL-Parameters-TDDList-r4-ext");
+      stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters_TDD_r4_ext(ctx, (const UE_Positioning_IPDL_Parameters_TDD_r4_ext*)node->data);
+      RT_CHECK(ctx, stat, 0, "UE-Positioning-IPDL-Parameters-TDD-r4-ext", (int32_t)i, "UE-Positioning-IPDL-Parameters-TDDList-r4-ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_r4ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_AssistanceData_r4ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData-r4ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData-r4ext");
+   /* ue-Positioning-IPDL-Parameters-TDD-r4-ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters_TDD_r4_ext(ctx, &pvalue->ue_Positioning_IPDL_Parameters_TDD_r4_ext);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-IPDL-Parameters-TDD-r4-ext", -1, "UE-Positioning-OTDOA-AssistanceData-r4ext");
+   }
+   /* ue-Positioning-IPDL-Parameters-TDDList-r4-ext */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters_TDDList_r4_ext(ctx, &pvalue->ue_Positioning_IPDL_Parameters_TDDList_r4_ext);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-IPDL-Parameters-TDDList-r4-ext", -1, "UE-Positioning-OTDOA-AssistanceData-r4ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_UEB_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB-ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB-ext");
+   /* roundTripTimeExtension */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->roundTripTimeExtension > 70274u) {
+         rtxErrAddStrParm(ctx, "roundTripTimeExtension");
+         rtxErrAddUIntParm(ctx, pvalue->roundTripTimeExtension);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "roundTripTimeExtension", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB-ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->roundTripTimeExtension, 0, 70274);
+      RT_CHECK(ctx, stat, 0, "roundTripTimeExtension", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB-ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB-ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB-ext");
+   /* roundTripTimeExtension */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->roundTripTimeExtension > 70274u) {
+         rtxErrAddStrParm(ctx, "roundTripTimeExtension");
+         rtxErrAddUIntParm(ctx, pvalue->roundTripTimeExtension);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "roundTripTimeExtension", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB-ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->roundTripTimeExtension, 0, 70274);
+      RT_CHECK(ctx, stat, 0, "roundTripTimeExtension", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB-ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellList_UEB_ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellList_UEB_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellList-UEB-ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellList-UEB-ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB-ext", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList-UEB-ext");
+      stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext(ctx, (const UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext*)node->data);
+      RT_CHECK(ctx, stat, 0, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB-ext", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList-UEB-ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB_ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_AssistanceData_UEB_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData-UEB-ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData-UEB-ext");
+   /* ue-positioning-OTDOA-ReferenceCellInfo-UEB-ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_ext(ctx, &pvalue->ue_positioning_OTDOA_ReferenceCellInfo_UEB_ext);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-ReferenceCellInfo-UEB-ext", -1, "UE-Positioning-OTDOA-AssistanceData-UEB-ext");
+   }
+   /* ue-positioning-OTDOA-NeighbourCellList-UEB-ext */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellList_UEB_ext(ctx, &pvalue->ue_positioning_OTDOA_NeighbourCellList_UEB_ext);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-NeighbourCellList-UEB-ext", -1, "UE-Positioning-OTDOA-AssistanceData-UEB-ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_MeasuredResultsTDD_ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_MeasuredResultsTDD_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-MeasuredResultsTDD-ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-MeasuredResultsTDD-ext");
+   /* neighbourList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_NeighbourList_TDD_r7(ctx, &pvalue->neighbourList);
+      RT_CHECK(ctx, stat, 0, "neighbourList", -1, "UE-Positioning-OTDOA-MeasuredResultsTDD-ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UTRAN_FDD_Frequency(rtxContext* RT_RESTRICT ctx, const UTRAN_FDD_Frequency* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UTRAN-FDD-Frequency");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UTRAN-FDD-Frequency");
+   /* uarfcn */
+   if ((uint64_t)pvalue->uarfcn > 16383u) {
+      rtxErrAddStrParm(ctx, "UARFCN");
+      rtxErrAddUIntParm(ctx, pvalue->uarfcn);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "UARFCN", "uarfcn", -1, "UTRAN-FDD-Frequency");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->uarfcn, 0, 16383);
+   RT_CHECK(ctx, stat, "UARFCN", "uarfcn", -1, "UTRAN-FDD-Frequency");
+   /* priority */
+   if ((uint64_t)pvalue->priority > 7u) {
+      rtxErrAddStrParm(ctx, "priority");
+      rtxErrAddUIntParm(ctx, pvalue->priority);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "priority", -1, "UTRAN-FDD-Frequency");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->priority, 0, 7);
+   RT_CHECK(ctx, stat, 0, "priority", -1, "UTRAN-FDD-Frequency");
+   /* threshXhigh */
+   if ((uint64_t)pvalue->threshXhigh > 31u) {
+      rtxErrAddStrParm(ctx, "threshXhigh");
+      rtxErrAddUIntParm(ctx, pvalue->threshXhigh);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "threshXhigh", -1, "UTRAN-FDD-Frequency");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->threshXhigh, 0, 31);
+   RT_CHECK(ctx, stat, 0, "threshXhigh", -1, "UTRAN-FDD-Frequency");
+   /* threshXlow */
+   if ((uint64_t)pvalue->threshXlow > 31u) {
+      rtxErrAddStrParm(ctx, "threshXlow");
+      rtxErrAddUIntParm(ctx, pvalue->threshXlow);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "threshXlow", -1, "UTRAN-FDD-Frequency");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->threshXlow, 0, 31);
+   RT_CHECK(ctx, stat, 0, "threshXlow", -1, "UTRAN-FDD-Frequency");
+   /* qQualMinFDD */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->qQualMinFDD < -24 || pvalue->qQualMinFDD > 0) {
+         rtxErrAddStrParm(ctx, "qQualMinFDD");
+         rtxErrAddIntParm(ctx, pvalue->qQualMinFDD);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "qQualMinFDD", -1, "UTRAN-FDD-Frequency");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->qQualMinFDD, -24, 0);
+      RT_CHECK(ctx, stat, 0, "qQualMinFDD", -1, "UTRAN-FDD-Frequency");
+   }
+   /* qRxLevMinFDD */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->qRxLevMinFDD < -60 || pvalue->qRxLevMinFDD > -13) {
+         rtxErrAddStrParm(ctx, "qRxLevMinFDD");
+         rtxErrAddIntParm(ctx, pvalue->qRxLevMinFDD);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "qRxLevMinFDD", -1, "UTRAN-FDD-Frequency");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->qRxLevMinFDD, -60, -13);
+      RT_CHECK(ctx, stat, 0, "qRxLevMinFDD", -1, "UTRAN-FDD-Frequency");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UTRAN_FDD_FrequencyList(rtxContext* RT_RESTRICT ctx, const UTRAN_FDD_FrequencyList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UTRAN-FDD-FrequencyList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UTRAN-FDD-FrequencyList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UTRAN-FDD-Frequency", (int32_t)i, "UTRAN-FDD-FrequencyList");
+      stat = asn1PE_UMTS_UTRAN_FDD_Frequency(ctx, (const UTRAN_FDD_Frequency*)node->data);
+      RT_CHECK(ctx, stat, 0, "UTRAN-FDD-Frequency", (int32_t)i, "UTRAN-FDD-FrequencyList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UTRAN_TDD_Frequency(rtxContext* RT_RESTRICT ctx, const UTRAN_TDD_Frequency* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UTRAN-TDD-Frequency");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UTRAN-TDD-Frequency");
+   /* uarfcn */
+   if ((uint64_t)pvalue->uarfcn > 16383u) {
+      rtxErrAddStrParm(ctx, "UARFCN");
+      rtxErrAddUIntParm(ctx, pvalue->uarfcn);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "UARFCN", "uarfcn", -1, "UTRAN-TDD-Frequency");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->uarfcn, 0, 16383);
+   RT_CHECK(ctx, stat, "UARFCN", "uarfcn", -1, "UTRAN-TDD-Frequency");
+   /* priority */
+   if ((uint64_t)pvalue->priority > 7u) {
+      rtxErrAddStrParm(ctx, "priority");
+      rtxErrAddUIntParm(ctx, pvalue->priority);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "priority", -1, "UTRAN-TDD-Frequency");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->priority, 0, 7);
+   RT_CHECK(ctx, stat, 0, "priority", -1, "UTRAN-TDD-Frequency");
+   /* threshXhigh */
+   if ((uint64_t)pvalue->threshXhigh > 31u) {
+      rtxErrAddStrParm(ctx, "threshXhigh");
+      rtxErrAddUIntParm(ctx, pvalue->threshXhigh);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "threshXhigh", -1, "UTRAN-TDD-Frequency");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->threshXhigh, 0, 31);
+   RT_CHECK(ctx, stat, 0, "threshXhigh", -1, "UTRAN-TDD-Frequency");
+   /* threshXlow */
+   if ((uint64_t)pvalue->threshXlow > 31u) {
+      rtxErrAddStrParm(ctx, "threshXlow");
+      rtxErrAddUIntParm(ctx, pvalue->threshXlow);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "threshXlow", -1, "UTRAN-TDD-Frequency");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->threshXlow, 0, 31);
+   RT_CHECK(ctx, stat, 0, "threshXlow", -1, "UTRAN-TDD-Frequency");
+   /* qRxLevMinTDD */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->qRxLevMinTDD < -60 || pvalue->qRxLevMinTDD > -13) {
+         rtxErrAddStrParm(ctx, "qRxLevMinTDD");
+         rtxErrAddIntParm(ctx, pvalue->qRxLevMinTDD);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "qRxLevMinTDD", -1, "UTRAN-TDD-Frequency");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->qRxLevMinTDD, -60, -13);
+      RT_CHECK(ctx, stat, 0, "qRxLevMinTDD", -1, "UTRAN-TDD-Frequency");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UTRAN_TDD_FrequencyList(rtxContext* RT_RESTRICT ctx, const UTRAN_TDD_FrequencyList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UTRAN-TDD-FrequencyList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UTRAN-TDD-FrequencyList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UTRAN-TDD-Frequency", (int32_t)i, "UTRAN-TDD-FrequencyList");
+      stat = asn1PE_UMTS_UTRAN_TDD_Frequency(ctx, (const UTRAN_TDD_Frequency*)node->data);
+      RT_CHECK(ctx, stat, 0, "UTRAN-TDD-Frequency", (int32_t)i, "UTRAN-TDD-FrequencyList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UTRA_PriorityInfoList_utra_ServingCell(rtxContext* RT_RESTRICT ctx, const UTRA_PriorityInfoList_utra_ServingCell* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* priority */
+   if ((uint64_t)pvalue->priority > 7u) {
+      rtxErrAddStrParm(ctx, "priority");
+      rtxErrAddUIntParm(ctx, pvalue->priority);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "priority", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->priority, 0, 7);
+   RT_CHECK(ctx, stat, 0, "priority", -1, 0);
+   /* s-PrioritySearch1 */
+   if ((uint64_t)pvalue->s_PrioritySearch1 > 31u) {
+      rtxErrAddStrParm(ctx, "s-PrioritySearch1");
+      rtxErrAddUIntParm(ctx, pvalue->s_PrioritySearch1);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "s-PrioritySearch1", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->s_PrioritySearch1, 0, 31);
+   RT_CHECK(ctx, stat, 0, "s-PrioritySearch1", -1, 0);
+   /* s-PrioritySearch2 */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->s_PrioritySearch2 > 7u) {
+         rtxErrAddStrParm(ctx, "s-PrioritySearch2");
+         rtxErrAddUIntParm(ctx, pvalue->s_PrioritySearch2);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "s-PrioritySearch2", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->s_PrioritySearch2, 0, 7);
+      RT_CHECK(ctx, stat, 0, "s-PrioritySearch2", -1, 0);
+   }
+   /* threshServingLow */
+   if ((uint64_t)pvalue->threshServingLow > 31u) {
+      rtxErrAddStrParm(ctx, "threshServingLow");
+      rtxErrAddUIntParm(ctx, pvalue->threshServingLow);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "threshServingLow", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->threshServingLow, 0, 31);
+   RT_CHECK(ctx, stat, 0, "threshServingLow", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UTRA_PriorityInfoList(rtxContext* RT_RESTRICT ctx, const UTRA_PriorityInfoList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UTRA-PriorityInfoList");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UTRA-PriorityInfoList");
+   /* utra-ServingCell */
+   stat = asn1PE_UMTS_UTRA_PriorityInfoList_utra_ServingCell(ctx, &pvalue->utra_ServingCell);
+   RT_CHECK(ctx, stat, 0, "utra-ServingCell", -1, "UTRA-PriorityInfoList");
+   /* utran-FDD-FrequencyList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UTRAN_FDD_FrequencyList(ctx, &pvalue->utran_FDD_FrequencyList);
+      RT_CHECK(ctx, stat, 0, "utran-FDD-FrequencyList", -1, "UTRA-PriorityInfoList");
+   }
+   /* utran-TDD-FrequencyList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UTRAN_TDD_FrequencyList(ctx, &pvalue->utran_TDD_FrequencyList);
+      RT_CHECK(ctx, stat, 0, "utran-TDD-FrequencyList", -1, "UTRA-PriorityInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UTRA_PriorityInfoList_v920ext(rtxContext* RT_RESTRICT ctx, const UTRA_PriorityInfoList_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UTRA-PriorityInfoList-v920ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UTRA-PriorityInfoList-v920ext");
+   /* threshServingLow2 */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->threshServingLow2 > 31u) {
+         rtxErrAddStrParm(ctx, "threshServingLow2");
+         rtxErrAddUIntParm(ctx, pvalue->threshServingLow2);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "threshServingLow2", -1, "UTRA-PriorityInfoList-v920ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->threshServingLow2, 0, 31);
+      RT_CHECK(ctx, stat, 0, "threshServingLow2", -1, "UTRA-PriorityInfoList-v920ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_BCCH_ModificationTime(rtxContext* RT_RESTRICT ctx, BCCH_ModificationTime value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 511u) {
+      rtxErrAddStrParm(ctx, "BCCH-ModificationTime");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "BCCH-ModificationTime");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 511);
+   RT_CHECK(ctx, stat, 0, 0, -1, "BCCH-ModificationTime");
+   return 0;
+}
+
+int asn1PE_UMTS_BCCH_ModificationInfo(rtxContext* RT_RESTRICT ctx, const BCCH_ModificationInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "BCCH-ModificationInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "BCCH-ModificationInfo");
+   /* mib-ValueTag */
+   if ((uint64_t)(pvalue->mib_ValueTag - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "MIB-ValueTag");
+      rtxErrAddUIntParm(ctx, pvalue->mib_ValueTag);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MIB-ValueTag", "mib-ValueTag", -1, "BCCH-ModificationInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->mib_ValueTag, 1, 8);
+   RT_CHECK(ctx, stat, "MIB-ValueTag", "mib-ValueTag", -1, "BCCH-ModificationInfo");
+   /* bcch-ModificationTime */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->bcch_ModificationTime > 511u) {
+         rtxErrAddStrParm(ctx, "BCCH-ModificationTime");
+         rtxErrAddUIntParm(ctx, pvalue->bcch_ModificationTime);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "BCCH-ModificationTime", "bcch-ModificationTime", -1, "BCCH-ModificationInfo");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->bcch_ModificationTime, 0, 511);
+      RT_CHECK(ctx, stat, "BCCH-ModificationTime", "bcch-ModificationTime", -1, "BCCH-ModificationInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CDMA2000_Message_payload(rtxContext* RT_RESTRICT ctx, const CDMA2000_Message_payload* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 1, 512);
+   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CDMA2000_Message(rtxContext* RT_RESTRICT ctx, const CDMA2000_Message* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CDMA2000-Message");
+   /* msg-Type */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32(ctx, &pvalue->msg_Type, 8, 8);
+   RT_CHECK(ctx, stat, 0, "msg-Type", -1, "CDMA2000-Message");
+   /* payload */
+   stat = asn1PE_UMTS_CDMA2000_Message_payload(ctx, &pvalue->payload);
+   RT_CHECK(ctx, stat, 0, "payload", -1, "CDMA2000-Message");
+   return 0;
+}
+
+int asn1PE_UMTS_CDMA2000_MessageList(rtxContext* RT_RESTRICT ctx, const CDMA2000_MessageList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CDMA2000-MessageList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CDMA2000-MessageList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CDMA2000-Message", (int32_t)i, "CDMA2000-MessageList");
+      stat = asn1PE_UMTS_CDMA2000_Message(ctx, (const CDMA2000_Message*)node->data);
+      RT_CHECK(ctx, stat, 0, "CDMA2000-Message", (int32_t)i, "CDMA2000-MessageList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_FrequencyInfoCDMA2000(rtxContext* RT_RESTRICT ctx, const FrequencyInfoCDMA2000* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "FrequencyInfoCDMA2000");
+   /* band-Class */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pe_BitString32(ctx, &pvalue->band_Class, 5, 5);
+   RT_CHECK(ctx, stat, 0, "band-Class", -1, "FrequencyInfoCDMA2000");
+   /* cdma-Freq */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pe_BitString32(ctx, &pvalue->cdma_Freq, 11, 11);
+   RT_CHECK(ctx, stat, 0, "cdma-Freq", -1, "FrequencyInfoCDMA2000");
+   return 0;
+}
+
+int asn1PE_UMTS_CDMA2000_UMTS_Frequency_List(rtxContext* RT_RESTRICT ctx, const CDMA2000_UMTS_Frequency_List* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CDMA2000-UMTS-Frequency-List");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CDMA2000-UMTS-Frequency-List");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "FrequencyInfoCDMA2000", (int32_t)i, "CDMA2000-UMTS-Frequency-List");
+      stat = asn1PE_UMTS_FrequencyInfoCDMA2000(ctx, (const FrequencyInfoCDMA2000*)node->data);
+      RT_CHECK(ctx, stat, 0, "FrequencyInfoCDMA2000", (int32_t)i, "CDMA2000-UMTS-Frequency-List");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DataTransmFrequency_dataTransmFreqGranularity(rtxContext* RT_RESTRICT ctx, DataTransmFrequency_dataTransmFreqGranularity value)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DataTransmFrequency(rtxContext* RT_RESTRICT ctx, const DataTransmFrequency* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DataTransmFrequency");
+   /* dataTransmFreqGranularity */
+   if (pvalue->dataTransmFreqGranularity > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->dataTransmFreqGranularity);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "dataTransmFreqGranularity", -1, "DataTransmFrequency");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->dataTransmFreqGranularity, 0, 7);
+   RT_CHECK(ctx, stat, 0, "dataTransmFreqGranularity", -1, "DataTransmFrequency");
+   /* numberOfDataTransmOcc */
+   if ((uint64_t)(pvalue->numberOfDataTransmOcc - 1) > 609u) {
+      rtxErrAddStrParm(ctx, "numberOfDataTransmOcc");
+      rtxErrAddUIntParm(ctx, pvalue->numberOfDataTransmOcc);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "numberOfDataTransmOcc", -1, "DataTransmFrequency");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->numberOfDataTransmOcc, 1, 610);
+   RT_CHECK(ctx, stat, 0, "numberOfDataTransmOcc", -1, "DataTransmFrequency");
+   return 0;
+}
+
+int asn1PE_UMTS_DataVolumePerRB(rtxContext* RT_RESTRICT ctx, const DataVolumePerRB* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DataVolumePerRB");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "DataVolumePerRB");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "DataVolumePerRB");
+   /* dataVolume */
+   stat = pe_ConsUInt64(ctx, pvalue->dataVolume, 0, 4294967295ULL);
+   RT_CHECK(ctx, stat, 0, "dataVolume", -1, "DataVolumePerRB");
+   return 0;
+}
+
+int asn1PE_UMTS_DataVolumePerRB_List(rtxContext* RT_RESTRICT ctx, const DataVolumePerRB_List* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DataVolumePerRB-List");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DataVolumePerRB-List");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DataVolumePerRB", (int32_t)i, "DataVolumePerRB-List");
+      stat = asn1PE_UMTS_DataVolumePerRB(ctx, (const DataVolumePerRB*)node->data);
+      RT_CHECK(ctx, stat, 0, "DataVolumePerRB", (int32_t)i, "DataVolumePerRB-List");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DataVolumeHistory(rtxContext* RT_RESTRICT ctx, const DataVolumeHistory* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DataVolumeHistory");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DataVolumeHistory");
+   /* dataVolumeMontoringWindow */
+   if ((uint64_t)(pvalue->dataVolumeMontoringWindow - 1) > 119u) {
+      rtxErrAddStrParm(ctx, "dataVolumeMontoringWindow");
+      rtxErrAddUIntParm(ctx, pvalue->dataVolumeMontoringWindow);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "dataVolumeMontoringWindow", -1, "DataVolumeHistory");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->dataVolumeMontoringWindow, 1, 120);
+   RT_CHECK(ctx, stat, 0, "dataVolumeMontoringWindow", -1, "DataVolumeHistory");
+   /* dataTransmFrequency */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DataTransmFrequency(ctx, &pvalue->dataTransmFrequency);
+      RT_CHECK(ctx, stat, 0, "dataTransmFrequency", -1, "DataVolumeHistory");
+   }
+   /* dataVolumePerRB */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_DataVolumePerRB_List(ctx, &pvalue->dataVolumePerRB);
+      RT_CHECK(ctx, stat, 0, "dataVolumePerRB", -1, "DataVolumeHistory");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ETWS_Information_warningType(rtxContext* RT_RESTRICT ctx, const ETWS_Information_warningType* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 1, 2);
+   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_ETWS_Information_messageIdentifier(rtxContext* RT_RESTRICT ctx, const ETWS_Information_messageIdentifier* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 2, 2);
+   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_ETWS_Information_serialNumber(rtxContext* RT_RESTRICT ctx, const ETWS_Information_serialNumber* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 2, 2);
+   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_ETWS_Information(rtxContext* RT_RESTRICT ctx, const ETWS_Information* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ETWS-Information");
+   /* warningType */
+   stat = asn1PE_UMTS_ETWS_Information_warningType(ctx, &pvalue->warningType);
+   RT_CHECK(ctx, stat, 0, "warningType", -1, "ETWS-Information");
+   /* messageIdentifier */
+   stat = asn1PE_UMTS_ETWS_Information_messageIdentifier(ctx, &pvalue->messageIdentifier);
+   RT_CHECK(ctx, stat, 0, "messageIdentifier", -1, "ETWS-Information");
+   /* serialNumber */
+   stat = asn1PE_UMTS_ETWS_Information_serialNumber(ctx, &pvalue->serialNumber);
+   RT_CHECK(ctx, stat, 0, "serialNumber", -1, "ETWS-Information");
+   return 0;
+}
+
+int asn1PE_UMTS_ETWS_WarningSecurityInfo(rtxContext* RT_RESTRICT ctx, const ETWS_WarningSecurityInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ETWS-WarningSecurityInfo");
+   RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ETWS-WarningSecurityInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_FDD_UMTS_Frequency_List(rtxContext* RT_RESTRICT ctx, const FDD_UMTS_Frequency_List* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "FDD-UMTS-Frequency-List");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "FDD-UMTS-Frequency-List");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "FrequencyInfoFDD", (int32_t)i, "FDD-UMTS-Frequency-List");
+      stat = asn1PE_UMTS_FrequencyInfoFDD(ctx, (const FrequencyInfoFDD*)node->data);
+      RT_CHECK(ctx, stat, 0, "FrequencyInfoFDD", (int32_t)i, "FDD-UMTS-Frequency-List");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GERAN_SystemInfoBlock(rtxContext* RT_RESTRICT ctx, const GERAN_SystemInfoBlock* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GERAN-SystemInfoBlock");
+   RT_SET_SIZE(ctx, 1, 23);
+   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
+   RT_CHECK(ctx, stat, 0, 0, -1, "GERAN-SystemInfoBlock");
+   return 0;
+}
+
+int asn1PE_UMTS_GERAN_SystemInformation(rtxContext* RT_RESTRICT ctx, const GERAN_SystemInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GERAN-SystemInformation");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GERAN-SystemInformation");
+   for (i = 0; i < pvalue->n; i++) {
+      stat = asn1PE_UMTS_GERAN_SystemInfoBlock(ctx, &pvalue->elem[i]);
+      RT_CHECK(ctx, stat, 0, "GERAN-SystemInfoBlock", (int32_t)i, "GERAN-SystemInformation");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GSM_BA_Range(rtxContext* RT_RESTRICT ctx, const GSM_BA_Range* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GSM-BA-Range");
+   /* gsmLowRangeUARFCN */
+   if ((uint64_t)pvalue->gsmLowRangeUARFCN > 16383u) {
+      rtxErrAddStrParm(ctx, "UARFCN");
+      rtxErrAddUIntParm(ctx, pvalue->gsmLowRangeUARFCN);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "UARFCN", "gsmLowRangeUARFCN", -1, "GSM-BA-Range");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->gsmLowRangeUARFCN, 0, 16383);
+   RT_CHECK(ctx, stat, "UARFCN", "gsmLowRangeUARFCN", -1, "GSM-BA-Range");
+   /* gsmUpRangeUARFCN */
+   if ((uint64_t)pvalue->gsmUpRangeUARFCN > 16383u) {
+      rtxErrAddStrParm(ctx, "UARFCN");
+      rtxErrAddUIntParm(ctx, pvalue->gsmUpRangeUARFCN);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "UARFCN", "gsmUpRangeUARFCN", -1, "GSM-BA-Range");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->gsmUpRangeUARFCN, 0, 16383);
+   RT_CHECK(ctx, stat, "UARFCN", "gsmUpRangeUARFCN", -1, "GSM-BA-Range");
+   return 0;
+}
+
+int asn1PE_UMTS_GSM_BA_Range_List(rtxContext* RT_RESTRICT ctx, const GSM_BA_Range_List* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GSM-BA-Range-List");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GSM-BA-Range-List");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GSM-BA-Range", (int32_t)i, "GSM-BA-Range-List");
+      stat = asn1PE_UMTS_GSM_BA_Range(ctx, (const GSM_BA_Range*)node->data);
+      RT_CHECK(ctx, stat, 0, "GSM-BA-Range", (int32_t)i, "GSM-BA-Range-List");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GSM_Classmark2(rtxContext* RT_RESTRICT ctx, const GSM_Classmark2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GSM-Classmark2");
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
+   RT_CHECK(ctx, stat, 0, 0, -1, "GSM-Classmark2");
+   return 0;
+}
+
+int asn1PE_UMTS_GSM_Classmark3(rtxContext* RT_RESTRICT ctx, const GSM_Classmark3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GSM-Classmark3");
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
+   RT_CHECK(ctx, stat, 0, 0, -1, "GSM-Classmark3");
+   return 0;
+}
+
+int asn1PE_UMTS_GSM_MessageList_element(rtxContext* RT_RESTRICT ctx, const GSM_MessageList_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 1, 512);
+   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_GSM_MessageList(rtxContext* RT_RESTRICT ctx, const GSM_MessageList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GSM-MessageList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GSM-MessageList");
+   for (i = 0; i < pvalue->n; i++) {
+      stat = asn1PE_UMTS_GSM_MessageList_element(ctx, &pvalue->elem[i]);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "GSM-MessageList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GsmSecurityCapability(rtxContext* RT_RESTRICT ctx, GsmSecurityCapability value)
 {
    int stat = 0;
    {
       int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
       uint32_t used = (uint32_t)(last + 1);
-      value.numbits = used <= 8 ? 8 : used;
-      if (last < -1) RT_RAISE(ctx, RT_ERR_CONSVIO);
+      value.numbits = used <= 7 ? 7 : used;
+      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "GsmSecurityCapability");
    }
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &value, 8, 8);
-   RT_CHECK(ctx, stat);
+   RT_SET_SIZE(ctx, 7, 7);
+   stat = pe_BitString32(ctx, &value, 7, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "GsmSecurityCapability");
    return 0;
 }
 
-int asn1PE_UMTS_SYNC_UL_Procedure_r4_max_SYNC_UL_Transmissions(rtxContext* ctx, SYNC_UL_Procedure_r4_max_SYNC_UL_Transmissions value)
+int asn1PE_UMTS_HNBName(rtxContext* RT_RESTRICT ctx, const HNBName* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HNBName");
+   RT_SET_SIZE(ctx, 1, 48);
+   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HNBName");
    return 0;
 }
 
-int asn1PE_UMTS_SYNC_UL_Procedure_r4(rtxContext* ctx, const SYNC_UL_Procedure_r4* pvalue)
+int asn1PE_UMTS_InterRAT_ChangeFailureCause(rtxContext* RT_RESTRICT ctx, const InterRAT_ChangeFailureCause* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SYNC-UL-Procedure-r4");
-   /* max-SYNC-UL-Transmissions */
-   rtxCtxtPushElemName(ctx, "max-SYNC-UL-Transmissions");
-   if (pvalue->max_SYNC_UL_Transmissions > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->max_SYNC_UL_Transmissions);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->max_SYNC_UL_Transmissions, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* powerRampStep */
-   rtxCtxtPushElemName(ctx, "powerRampStep");
-   if ((uint64_t)pvalue->powerRampStep > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->powerRampStep);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->powerRampStep, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SynchronisationParameters_r4(rtxContext* ctx, const SynchronisationParameters_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SynchronisationParameters-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sync-UL-CodesBitmap */
-   rtxCtxtPushElemName(ctx, "sync-UL-CodesBitmap");
-   stat = asn1PE_UMTS_SynchronisationParameters_r4_sync_UL_CodesBitmap(ctx, pvalue->sync_UL_CodesBitmap);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* fpach-Info */
-   rtxCtxtPushElemName(ctx, "fpach-Info");
-   stat = asn1PE_UMTS_FPACH_Info_r4(ctx, &pvalue->fpach_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* prxUpPCHdes */
-   rtxCtxtPushElemName(ctx, "prxUpPCHdes");
-   if ((uint64_t)pvalue->prxUpPCHdes > 62u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->prxUpPCHdes);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->prxUpPCHdes, 0, 62);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sync-UL-Procedure */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sync-UL-Procedure");
-      stat = asn1PE_UMTS_SYNC_UL_Procedure_r4(ctx, &pvalue->sync_UL_Procedure);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TFC_ControlDuration(rtxContext* ctx, TFC_ControlDuration value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TFC-ControlDuration");
-   if (value > 12) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 12);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TimeslotList(rtxContext* ctx, const TimeslotList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "TimeslotList");
-   RT_SET_SIZE(ctx, 1, 14);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "TimeslotNumber", i);
-      rtxCtxtPushTypeName(ctx, "TimeslotNumber");
-      if ((uint64_t)pvalue->elem[i] > 14u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 14);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TimeslotList_r4_tdd384(rtxContext* ctx, const TimeslotList_r4_tdd384* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 14);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "TimeslotNumber", i);
-      rtxCtxtPushTypeName(ctx, "TimeslotNumber");
-      if ((uint64_t)pvalue->elem[i] > 14u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 14);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TimeslotList_r4_tdd128(rtxContext* ctx, const TimeslotList_r4_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 6);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "TimeslotNumber-LCR-r4", i);
-      rtxCtxtPushTypeName(ctx, "TimeslotNumber-LCR-r4");
-      if ((uint64_t)pvalue->elem[i] > 6u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 6);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TimeslotList_r4(rtxContext* ctx, const TimeslotList_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TimeslotList-r4");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRAT-ChangeFailureCause");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
+   RT_CHECK(ctx, stat, 0, "t", -1, "InterRAT-ChangeFailureCause");
+   if (pvalue->t - 1 > 7) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterRAT-ChangeFailureCause");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TimeslotList_r4_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TimeslotList_r4_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_16QAM_Config_mac_es_e_resetIndicator(rtxContext* ctx, UL_16QAM_Config_mac_es_e_resetIndicator value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_16QAM_Config(rtxContext* ctx, const UL_16QAM_Config* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-16QAM-Config");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* ul-16QAM-Settings */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ul-16QAM-Settings");
-      stat = asn1PE_UMTS_UL_16QAM_Settings(ctx, &pvalue->ul_16QAM_Settings);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-TFCI-TableIndex */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "e-TFCI-TableIndex");
-      rtxCtxtPushTypeName(ctx, "E-TFCI-TableIndex");
-      if ((uint64_t)pvalue->e_TFCI_TableIndex > 1u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->e_TFCI_TableIndex);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->e_TFCI_TableIndex, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mac-es-e-resetIndicator */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "mac-es-e-resetIndicator");
-      if (pvalue->mac_es_e_resetIndicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->mac_es_e_resetIndicator);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mac_es_e_resetIndicator, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_CCTrCH(rtxContext* ctx, const UL_CCTrCH* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-CCTrCH");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 2) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* tfcs-ID */
-   if (pvalue->tfcs_ID != 1) {
-      rtxCtxtPushElemName(ctx, "tfcs-ID");
-      rtxCtxtPushTypeName(ctx, "TFCS-IdentityPlain");
-      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-TargetSIR */
-   rtxCtxtPushElemName(ctx, "ul-TargetSIR");
-   rtxCtxtPushTypeName(ctx, "UL-TargetSIR");
-   if ((uint64_t)pvalue->ul_TargetSIR > 62u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ul_TargetSIR);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ul_TargetSIR, 0, 62);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeInfo */
-   rtxCtxtPushElemName(ctx, "timeInfo");
-   stat = asn1PE_UMTS_TimeInfo(ctx, &pvalue->timeInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* commonTimeslotInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "commonTimeslotInfo");
-      stat = asn1PE_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CCTrCH-TimeslotsCodes */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ul-CCTrCH-TimeslotsCodes");
-      stat = asn1PE_UMTS_UplinkTimeslotsCodes(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_CCTrCH_r4_tddOption_tdd384(rtxContext* ctx, const UL_CCTrCH_r4_tddOption_tdd384* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ul-CCTrCH-TimeslotsCodes */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ul-CCTrCH-TimeslotsCodes");
-      stat = asn1PE_UMTS_UplinkTimeslotsCodes(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_CCTrCH_r4_tddOption_tdd128(rtxContext* ctx, const UL_CCTrCH_r4_tddOption_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ul-CCTrCH-TimeslotsCodes */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ul-CCTrCH-TimeslotsCodes");
-      stat = asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r4(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_CCTrCH_r4_tddOption(rtxContext* ctx, const UL_CCTrCH_r4_tddOption* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_CCTrCH_r4_tddOption_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_CCTrCH_r4_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_CCTrCH_r4(rtxContext* ctx, const UL_CCTrCH_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-CCTrCH-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 1) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* tfcs-ID */
-   if (pvalue->tfcs_ID != 1) {
-      rtxCtxtPushElemName(ctx, "tfcs-ID");
-      rtxCtxtPushTypeName(ctx, "TFCS-IdentityPlain");
-      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-TargetSIR */
-   rtxCtxtPushElemName(ctx, "ul-TargetSIR");
-   rtxCtxtPushTypeName(ctx, "UL-TargetSIR");
-   if ((uint64_t)pvalue->ul_TargetSIR > 62u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ul_TargetSIR);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ul_TargetSIR, 0, 62);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeInfo */
-   rtxCtxtPushElemName(ctx, "timeInfo");
-   stat = asn1PE_UMTS_TimeInfo(ctx, &pvalue->timeInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* commonTimeslotInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "commonTimeslotInfo");
-      stat = asn1PE_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tddOption */
-   rtxCtxtPushElemName(ctx, "tddOption");
-   stat = asn1PE_UMTS_UL_CCTrCH_r4_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_CCTrCH_r7_tddOption_tdd384(rtxContext* ctx, const UL_CCTrCH_r7_tddOption_tdd384* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ul-CCTrCH-TimeslotsCodes */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ul-CCTrCH-TimeslotsCodes");
-      stat = asn1PE_UMTS_UplinkTimeslotsCodes(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_CCTrCH_r7_tddOption_tdd768(rtxContext* ctx, const UL_CCTrCH_r7_tddOption_tdd768* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ul-CCTrCH-TimeslotsCodes */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ul-CCTrCH-TimeslotsCodes");
-      stat = asn1PE_UMTS_UplinkTimeslotsCodes_VHCR(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TS_ChannelisationCodeList_r7_element(rtxContext* ctx, const UL_TS_ChannelisationCodeList_r7_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ul-TS-Channelisation-Code */
-   rtxCtxtPushElemName(ctx, "ul-TS-Channelisation-Code");
-   rtxCtxtPushTypeName(ctx, "UL-TS-ChannelisationCode");
-   if (pvalue->ul_TS_Channelisation_Code > 30) {
-      rtxErrAddUIntParm(ctx, pvalue->ul_TS_Channelisation_Code);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ul_TS_Channelisation_Code, 0, 30);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* plcch-info */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "plcch-info");
-      stat = asn1PE_UMTS_PLCCH_Info(ctx, &pvalue->plcch_info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TS_ChannelisationCodeList_r7(rtxContext* ctx, const UL_TS_ChannelisationCodeList_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "UL-TS-ChannelisationCodeList-r7");
-   RT_SET_SIZE(ctx, 1, 2);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_UL_TS_ChannelisationCodeList_r7_element(ctx, (const UL_TS_ChannelisationCodeList_r7_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_consecutive(rtxContext* ctx, const UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_consecutive* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* numAdditionalTimeslots */
-   rtxCtxtPushElemName(ctx, "numAdditionalTimeslots");
-   if ((uint64_t)(pvalue->numAdditionalTimeslots - 1) > 4u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->numAdditionalTimeslots);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->numAdditionalTimeslots, 1, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r7_parameters_sameAsLast(rtxContext* ctx, const UplinkAdditionalTimeslots_LCR_r7_parameters_sameAsLast* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* timeslotNumber */
-   rtxCtxtPushElemName(ctx, "timeslotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
-   if ((uint64_t)pvalue->timeslotNumber > 14u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r7_parameters_newParameters(rtxContext* ctx, const UplinkAdditionalTimeslots_LCR_r7_parameters_newParameters* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* individualTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "individualTimeslotInfo");
-   stat = asn1PE_UMTS_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-TS-ChannelisationCodeList */
-   rtxCtxtPushElemName(ctx, "ul-TS-ChannelisationCodeList");
-   stat = asn1PE_UMTS_UL_TS_ChannelisationCodeList_r7(ctx, &pvalue->ul_TS_ChannelisationCodeList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r7_parameters(rtxContext* ctx, const UplinkAdditionalTimeslots_LCR_r7_parameters* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "sameAsLast");
-         if (pvalue->u.sameAsLast == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r7_parameters_sameAsLast(ctx, pvalue->u.sameAsLast);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "newParameters");
-         if (pvalue->u.newParameters == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r7_parameters_newParameters(ctx, pvalue->u.newParameters);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r7(rtxContext* ctx, const UplinkAdditionalTimeslots_LCR_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UplinkAdditionalTimeslots-LCR-r7");
-   /* parameters */
-   rtxCtxtPushElemName(ctx, "parameters");
-   stat = asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r7_parameters(ctx, &pvalue->parameters);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* ctx, const UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_timeslotList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 5);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "UplinkAdditionalTimeslots-LCR-r7", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r7(ctx, (const UplinkAdditionalTimeslots_LCR_r7*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots(rtxContext* ctx, const UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "consecutive");
-         if (pvalue->u.consecutive == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_consecutive(ctx, pvalue->u.consecutive);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "timeslotList");
-         if (pvalue->u.timeslotList == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r7_moreTimeslots(rtxContext* ctx, const UplinkTimeslotsCodes_LCR_r7_moreTimeslots* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "noMore");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "additionalTimeslots");
-         if (pvalue->u.additionalTimeslots == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r7(rtxContext* ctx, const UplinkTimeslotsCodes_LCR_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UplinkTimeslotsCodes-LCR-r7");
-   /* dynamicSFusage */
-   rtxCtxtPushElemName(ctx, "dynamicSFusage");
-   stat = rtxEncBit(ctx, pvalue->dynamicSFusage);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* firstIndividualTimeslotInfo */
-   rtxCtxtPushElemName(ctx, "firstIndividualTimeslotInfo");
-   stat = asn1PE_UMTS_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->firstIndividualTimeslotInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-TS-ChannelisationCodeList */
-   rtxCtxtPushElemName(ctx, "ul-TS-ChannelisationCodeList");
-   stat = asn1PE_UMTS_UL_TS_ChannelisationCodeList_r7(ctx, &pvalue->ul_TS_ChannelisationCodeList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* moreTimeslots */
-   rtxCtxtPushElemName(ctx, "moreTimeslots");
-   stat = asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r7_moreTimeslots(ctx, &pvalue->moreTimeslots);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_CCTrCH_r7_tddOption_tdd128(rtxContext* ctx, const UL_CCTrCH_r7_tddOption_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ul-CCTrCH-TimeslotsCodes */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ul-CCTrCH-TimeslotsCodes");
-      stat = asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r7(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_CCTrCH_r7_tddOption(rtxContext* ctx, const UL_CCTrCH_r7_tddOption* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_CCTrCH_r7_tddOption_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd768");
-         if (pvalue->u.tdd768 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_CCTrCH_r7_tddOption_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_CCTrCH_r7_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.protocolError == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "protocolError", -1, "InterRAT-ChangeFailureCause");
+         stat = asn1PE_UMTS_ProtocolErrorInformation(ctx, pvalue->u.protocolError);
+         RT_CHECK(ctx, stat, 0, "protocolError", -1, "InterRAT-ChangeFailureCause");
+         break;
+      case 4:
+         break;
+      case 5:
+         break;
+      case 6:
+         break;
+      case 7:
+         break;
+      case 8:
          break;
       default:
          break;
@@ -4020,4311 +8740,81 @@ int asn1PE_UMTS_UL_CCTrCH_r7_tddOption(rtxContext* ctx, const UL_CCTrCH_r7_tddOp
    return 0;
 }
 
-int asn1PE_UMTS_UL_CCTrCH_r7(rtxContext* ctx, const UL_CCTrCH_r7* pvalue)
+int asn1PE_UMTS_GERANIu_MessageList_element(rtxContext* RT_RESTRICT ctx, const GERANIu_MessageList_element* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-CCTrCH-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 1) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* tfcs-ID */
-   if (pvalue->tfcs_ID != 1) {
-      rtxCtxtPushElemName(ctx, "tfcs-ID");
-      rtxCtxtPushTypeName(ctx, "TFCS-IdentityPlain");
-      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-TargetSIR */
-   rtxCtxtPushElemName(ctx, "ul-TargetSIR");
-   rtxCtxtPushTypeName(ctx, "UL-TargetSIR");
-   if ((uint64_t)pvalue->ul_TargetSIR > 62u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ul_TargetSIR);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ul_TargetSIR, 0, 62);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeInfo */
-   rtxCtxtPushElemName(ctx, "timeInfo");
-   stat = asn1PE_UMTS_TimeInfo(ctx, &pvalue->timeInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* commonTimeslotInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "commonTimeslotInfo");
-      stat = asn1PE_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tddOption */
-   rtxCtxtPushElemName(ctx, "tddOption");
-   stat = asn1PE_UMTS_UL_CCTrCH_r7_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 1, 32768);
+   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_UL_CCTrCHList(rtxContext* ctx, const UL_CCTrCHList* pvalue)
+int asn1PE_UMTS_GERANIu_MessageList(rtxContext* RT_RESTRICT ctx, const GERANIu_MessageList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GERANIu-MessageList");
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "UL-CCTrCHList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "UL-CCTrCH", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_UL_CCTrCH(ctx, (const UL_CCTrCH*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_CCTrCHList_r4(rtxContext* ctx, const UL_CCTrCHList_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "UL-CCTrCHList-r4");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "UL-CCTrCH-r4", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_UL_CCTrCH_r4(ctx, (const UL_CCTrCH_r4*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_CCTrCHList_r7(rtxContext* ctx, const UL_CCTrCHList_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "UL-CCTrCHList-r7");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "UL-CCTrCH-r7", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_UL_CCTrCH_r7(ctx, (const UL_CCTrCH_r7*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_CCTrCHListToRemove(rtxContext* ctx, const UL_CCTrCHListToRemove* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "UL-CCTrCHListToRemove");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "TFCS-IdentityPlain", i);
-      rtxCtxtPushTypeName(ctx, "TFCS-IdentityPlain");
-      if ((uint64_t)(pvalue->elem[i] - 1) > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_modeSpecificInfo_fdd(rtxContext* ctx, const UL_DPCH_Info_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->numberOfDPDCH != 1) << 1) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* scramblingCodeType */
-   rtxCtxtPushElemName(ctx, "scramblingCodeType");
-   rtxCtxtPushTypeName(ctx, "ScramblingCodeType");
-   if (pvalue->scramblingCodeType > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->scramblingCodeType);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->scramblingCodeType, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* scramblingCode */
-   rtxCtxtPushElemName(ctx, "scramblingCode");
-   rtxCtxtPushTypeName(ctx, "UL-ScramblingCode");
-   if ((uint64_t)pvalue->scramblingCode > 16777215u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->scramblingCode);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->scramblingCode, 0, 16777215);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* numberOfDPDCH */
-   if (pvalue->numberOfDPDCH != 1) {
-      rtxCtxtPushElemName(ctx, "numberOfDPDCH");
-      rtxCtxtPushTypeName(ctx, "NumberOfDPDCH");
-      if ((uint64_t)(pvalue->numberOfDPDCH - 1) > 5u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->numberOfDPDCH);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->numberOfDPDCH, 1, 6);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* spreadingFactor */
-   rtxCtxtPushElemName(ctx, "spreadingFactor");
-   rtxCtxtPushTypeName(ctx, "SpreadingFactor");
-   if (pvalue->spreadingFactor > 6) {
-      rtxErrAddUIntParm(ctx, pvalue->spreadingFactor);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->spreadingFactor, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* tfci-Existence */
-   rtxCtxtPushElemName(ctx, "tfci-Existence");
-   stat = rtxEncBit(ctx, pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* numberOfFBI-Bits */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "numberOfFBI-Bits");
-      rtxCtxtPushTypeName(ctx, "NumberOfFBI-Bits");
-      if ((uint64_t)(pvalue->numberOfFBI_Bits - 1) > 1u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->numberOfFBI_Bits);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->numberOfFBI_Bits, 1, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* puncturingLimit */
-   rtxCtxtPushElemName(ctx, "puncturingLimit");
-   rtxCtxtPushTypeName(ctx, "PuncturingLimit");
-   if (pvalue->puncturingLimit > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->puncturingLimit);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->puncturingLimit, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TimingAdvance(rtxContext* ctx, UL_TimingAdvance value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UL-TimingAdvance");
-   if ((uint64_t)value > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TimingAdvanceControl_enabled(rtxContext* ctx, const UL_TimingAdvanceControl_enabled* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ul-TimingAdvance */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ul-TimingAdvance");
-      rtxCtxtPushTypeName(ctx, "UL-TimingAdvance");
-      if ((uint64_t)pvalue->ul_TimingAdvance > 63u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->ul_TimingAdvance);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ul_TimingAdvance, 0, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* activationTime */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TimingAdvanceControl(rtxContext* ctx, const UL_TimingAdvanceControl* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-TimingAdvanceControl");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "disabled");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "enabled");
-         if (pvalue->u.enabled == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_TimingAdvanceControl_enabled(ctx, pvalue->u.enabled);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_modeSpecificInfo_tdd(rtxContext* ctx, const UL_DPCH_Info_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* ul-TimingAdvance */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ul-TimingAdvance");
-      stat = asn1PE_UMTS_UL_TimingAdvanceControl(ctx, &pvalue->ul_TimingAdvance);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CCTrCHList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ul-CCTrCHList");
-      stat = asn1PE_UMTS_UL_CCTrCHList(ctx, &pvalue->ul_CCTrCHList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CCTrCHListToRemove */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "ul-CCTrCHListToRemove");
-      stat = asn1PE_UMTS_UL_CCTrCHListToRemove(ctx, &pvalue->ul_CCTrCHListToRemove);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_modeSpecificInfo(rtxContext* ctx, const UL_DPCH_Info_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_DPCH_Info_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_DPCH_Info_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info(rtxContext* ctx, const UL_DPCH_Info* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-DPCH-Info");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ul-DPCH-PowerControlInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ul-DPCH-PowerControlInfo");
-      stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo(ctx, &pvalue->ul_DPCH_PowerControlInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_UL_DPCH_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_ChannelRequirement(rtxContext* ctx, const UL_ChannelRequirement* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-ChannelRequirement");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-         if (pvalue->u.ul_DPCH_Info == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_DPCH_Info(ctx, pvalue->u.ul_DPCH_Info);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "dummy");
-         if (pvalue->u.dummy == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CPCH_SetInfo(ctx, pvalue->u.dummy);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_r4_modeSpecificInfo_fdd(rtxContext* ctx, const UL_DPCH_Info_r4_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->numberOfDPDCH != 1) << 1) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* scramblingCodeType */
-   rtxCtxtPushElemName(ctx, "scramblingCodeType");
-   rtxCtxtPushTypeName(ctx, "ScramblingCodeType");
-   if (pvalue->scramblingCodeType > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->scramblingCodeType);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->scramblingCodeType, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* scramblingCode */
-   rtxCtxtPushElemName(ctx, "scramblingCode");
-   rtxCtxtPushTypeName(ctx, "UL-ScramblingCode");
-   if ((uint64_t)pvalue->scramblingCode > 16777215u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->scramblingCode);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->scramblingCode, 0, 16777215);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* numberOfDPDCH */
-   if (pvalue->numberOfDPDCH != 1) {
-      rtxCtxtPushElemName(ctx, "numberOfDPDCH");
-      rtxCtxtPushTypeName(ctx, "NumberOfDPDCH");
-      if ((uint64_t)(pvalue->numberOfDPDCH - 1) > 5u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->numberOfDPDCH);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->numberOfDPDCH, 1, 6);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* spreadingFactor */
-   rtxCtxtPushElemName(ctx, "spreadingFactor");
-   rtxCtxtPushTypeName(ctx, "SpreadingFactor");
-   if (pvalue->spreadingFactor > 6) {
-      rtxErrAddUIntParm(ctx, pvalue->spreadingFactor);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->spreadingFactor, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* tfci-Existence */
-   rtxCtxtPushElemName(ctx, "tfci-Existence");
-   stat = rtxEncBit(ctx, pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* numberOfFBI-Bits */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "numberOfFBI-Bits");
-      rtxCtxtPushTypeName(ctx, "NumberOfFBI-Bits");
-      if ((uint64_t)(pvalue->numberOfFBI_Bits - 1) > 1u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->numberOfFBI_Bits);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->numberOfFBI_Bits, 1, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* puncturingLimit */
-   rtxCtxtPushElemName(ctx, "puncturingLimit");
-   rtxCtxtPushTypeName(ctx, "PuncturingLimit");
-   if (pvalue->puncturingLimit > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->puncturingLimit);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->puncturingLimit, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TimingAdvanceControl_r4_enabled_tddOption_tdd384(rtxContext* ctx, const UL_TimingAdvanceControl_r4_enabled_tddOption_tdd384* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ul-TimingAdvance */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ul-TimingAdvance");
-      rtxCtxtPushTypeName(ctx, "UL-TimingAdvance");
-      if ((uint64_t)pvalue->ul_TimingAdvance > 63u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->ul_TimingAdvance);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ul_TimingAdvance, 0, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* activationTime */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TimingAdvanceControl_r4_enabled_tddOption_tdd128(rtxContext* ctx, const UL_TimingAdvanceControl_r4_enabled_tddOption_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ul-SynchronisationParameters */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ul-SynchronisationParameters");
-      stat = asn1PE_UMTS_UL_SynchronisationParameters_r4(ctx, &pvalue->ul_SynchronisationParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* synchronisationParameters */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "synchronisationParameters");
-      stat = asn1PE_UMTS_SynchronisationParameters_r4(ctx, &pvalue->synchronisationParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TimingAdvanceControl_r4_enabled_tddOption(rtxContext* ctx, const UL_TimingAdvanceControl_r4_enabled_tddOption* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_TimingAdvanceControl_r4_enabled_tddOption_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_TimingAdvanceControl_r4_enabled_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TimingAdvanceControl_r4_enabled(rtxContext* ctx, const UL_TimingAdvanceControl_r4_enabled* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* tddOption */
-   rtxCtxtPushElemName(ctx, "tddOption");
-   stat = asn1PE_UMTS_UL_TimingAdvanceControl_r4_enabled_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TimingAdvanceControl_r4(rtxContext* ctx, const UL_TimingAdvanceControl_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-TimingAdvanceControl-r4");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "disabled");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "enabled");
-         if (pvalue->u.enabled == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_TimingAdvanceControl_r4_enabled(ctx, pvalue->u.enabled);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_r4_modeSpecificInfo_tdd(rtxContext* ctx, const UL_DPCH_Info_r4_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* ul-TimingAdvance */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ul-TimingAdvance");
-      stat = asn1PE_UMTS_UL_TimingAdvanceControl_r4(ctx, &pvalue->ul_TimingAdvance);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CCTrCHList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ul-CCTrCHList");
-      stat = asn1PE_UMTS_UL_CCTrCHList_r4(ctx, &pvalue->ul_CCTrCHList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CCTrCHListToRemove */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "ul-CCTrCHListToRemove");
-      stat = asn1PE_UMTS_UL_CCTrCHListToRemove(ctx, &pvalue->ul_CCTrCHListToRemove);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_r4_modeSpecificInfo(rtxContext* ctx, const UL_DPCH_Info_r4_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_DPCH_Info_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_DPCH_Info_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_r4(rtxContext* ctx, const UL_DPCH_Info_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-DPCH-Info-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ul-DPCH-PowerControlInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ul-DPCH-PowerControlInfo");
-      stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4(ctx, &pvalue->ul_DPCH_PowerControlInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_UL_DPCH_Info_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_ChannelRequirement_r4(rtxContext* ctx, const UL_ChannelRequirement_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-ChannelRequirement-r4");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-         if (pvalue->u.ul_DPCH_Info == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_DPCH_Info_r4(ctx, pvalue->u.ul_DPCH_Info);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "dummy");
-         if (pvalue->u.dummy == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CPCH_SetInfo(ctx, pvalue->u.dummy);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_r5_modeSpecificInfo_fdd(rtxContext* ctx, const UL_DPCH_Info_r5_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->numberOfDPDCH != 1) << 1) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* scramblingCodeType */
-   rtxCtxtPushElemName(ctx, "scramblingCodeType");
-   rtxCtxtPushTypeName(ctx, "ScramblingCodeType");
-   if (pvalue->scramblingCodeType > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->scramblingCodeType);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->scramblingCodeType, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* scramblingCode */
-   rtxCtxtPushElemName(ctx, "scramblingCode");
-   rtxCtxtPushTypeName(ctx, "UL-ScramblingCode");
-   if ((uint64_t)pvalue->scramblingCode > 16777215u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->scramblingCode);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->scramblingCode, 0, 16777215);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* numberOfDPDCH */
-   if (pvalue->numberOfDPDCH != 1) {
-      rtxCtxtPushElemName(ctx, "numberOfDPDCH");
-      rtxCtxtPushTypeName(ctx, "NumberOfDPDCH");
-      if ((uint64_t)(pvalue->numberOfDPDCH - 1) > 5u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->numberOfDPDCH);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->numberOfDPDCH, 1, 6);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* spreadingFactor */
-   rtxCtxtPushElemName(ctx, "spreadingFactor");
-   rtxCtxtPushTypeName(ctx, "SpreadingFactor");
-   if (pvalue->spreadingFactor > 6) {
-      rtxErrAddUIntParm(ctx, pvalue->spreadingFactor);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->spreadingFactor, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* tfci-Existence */
-   rtxCtxtPushElemName(ctx, "tfci-Existence");
-   stat = rtxEncBit(ctx, pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* numberOfFBI-Bits */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "numberOfFBI-Bits");
-      rtxCtxtPushTypeName(ctx, "NumberOfFBI-Bits");
-      if ((uint64_t)(pvalue->numberOfFBI_Bits - 1) > 1u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->numberOfFBI_Bits);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->numberOfFBI_Bits, 1, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* puncturingLimit */
-   rtxCtxtPushElemName(ctx, "puncturingLimit");
-   rtxCtxtPushTypeName(ctx, "PuncturingLimit");
-   if (pvalue->puncturingLimit > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->puncturingLimit);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->puncturingLimit, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_r5_modeSpecificInfo_tdd(rtxContext* ctx, const UL_DPCH_Info_r5_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* ul-TimingAdvance */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ul-TimingAdvance");
-      stat = asn1PE_UMTS_UL_TimingAdvanceControl_r4(ctx, &pvalue->ul_TimingAdvance);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CCTrCHList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ul-CCTrCHList");
-      stat = asn1PE_UMTS_UL_CCTrCHList_r4(ctx, &pvalue->ul_CCTrCHList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CCTrCHListToRemove */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "ul-CCTrCHListToRemove");
-      stat = asn1PE_UMTS_UL_CCTrCHListToRemove(ctx, &pvalue->ul_CCTrCHListToRemove);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_r5_modeSpecificInfo(rtxContext* ctx, const UL_DPCH_Info_r5_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_DPCH_Info_r5_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_DPCH_Info_r5_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_r5(rtxContext* ctx, const UL_DPCH_Info_r5* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-DPCH-Info-r5");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ul-DPCH-PowerControlInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ul-DPCH-PowerControlInfo");
-      stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5(ctx, &pvalue->ul_DPCH_PowerControlInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_UL_DPCH_Info_r5_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_ChannelRequirement_r5(rtxContext* ctx, const UL_ChannelRequirement_r5* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-ChannelRequirement-r5");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-         if (pvalue->u.ul_DPCH_Info == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_DPCH_Info_r5(ctx, pvalue->u.ul_DPCH_Info);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "dummy");
-         if (pvalue->u.dummy == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CPCH_SetInfo(ctx, pvalue->u.dummy);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_ChannelRequirementWithCPCH_SetID(rtxContext* ctx, const UL_ChannelRequirementWithCPCH_SetID* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-ChannelRequirementWithCPCH-SetID");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-         if (pvalue->u.ul_DPCH_Info == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_DPCH_Info(ctx, pvalue->u.ul_DPCH_Info);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "dummy1");
-         if (pvalue->u.dummy1 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CPCH_SetInfo(ctx, pvalue->u.dummy1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "dummy2");
-         rtxCtxtPushTypeName(ctx, "CPCH-SetID");
-         if ((uint64_t)(pvalue->u.dummy2 - 1) > 15u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.dummy2);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.dummy2, 1, 16);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_ChannelRequirementWithCPCH_SetID_r4(rtxContext* ctx, const UL_ChannelRequirementWithCPCH_SetID_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-ChannelRequirementWithCPCH-SetID-r4");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-         if (pvalue->u.ul_DPCH_Info == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_DPCH_Info_r4(ctx, pvalue->u.ul_DPCH_Info);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "dummy1");
-         if (pvalue->u.dummy1 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CPCH_SetInfo(ctx, pvalue->u.dummy1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "dummy2");
-         rtxCtxtPushTypeName(ctx, "CPCH-SetID");
-         if ((uint64_t)(pvalue->u.dummy2 - 1) > 15u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.dummy2);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.dummy2, 1, 16);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_ChannelRequirementWithCPCH_SetID_r5(rtxContext* ctx, const UL_ChannelRequirementWithCPCH_SetID_r5* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-ChannelRequirementWithCPCH-SetID-r5");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-         if (pvalue->u.ul_DPCH_Info == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_DPCH_Info_r5(ctx, pvalue->u.ul_DPCH_Info);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "dummy1");
-         if (pvalue->u.dummy1 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CPCH_SetInfo(ctx, pvalue->u.dummy1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "dummy2");
-         rtxCtxtPushTypeName(ctx, "CPCH-SetID");
-         if ((uint64_t)(pvalue->u.dummy2 - 1) > 15u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.dummy2);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.dummy2, 1, 16);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6_fdd(rtxContext* ctx, const UL_DPCH_PowerControlInfo_r6_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* dpcch-PowerOffset */
-   rtxCtxtPushElemName(ctx, "dpcch-PowerOffset");
-   rtxCtxtPushTypeName(ctx, "DPCCH-PowerOffset");
-   if (pvalue->dpcch_PowerOffset < -82 || pvalue->dpcch_PowerOffset > -3) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->dpcch_PowerOffset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->dpcch_PowerOffset, -82, -3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* pc-Preamble */
-   rtxCtxtPushElemName(ctx, "pc-Preamble");
-   rtxCtxtPushTypeName(ctx, "PC-Preamble");
-   if ((uint64_t)pvalue->pc_Preamble > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->pc_Preamble);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pc_Preamble, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* sRB-delay */
-   rtxCtxtPushElemName(ctx, "sRB-delay");
-   rtxCtxtPushTypeName(ctx, "SRB-delay");
-   if ((uint64_t)pvalue->sRB_delay > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->sRB_delay);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->sRB_delay, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* powerControlAlgorithm */
-   rtxCtxtPushElemName(ctx, "powerControlAlgorithm");
-   stat = asn1PE_UMTS_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* deltaACK */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "deltaACK");
-      rtxCtxtPushTypeName(ctx, "DeltaACK");
-      if ((uint64_t)pvalue->deltaACK > 8u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->deltaACK);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->deltaACK, 0, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* deltaNACK */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "deltaNACK");
-      rtxCtxtPushTypeName(ctx, "DeltaNACK");
-      if ((uint64_t)pvalue->deltaNACK > 8u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->deltaNACK);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->deltaNACK, 0, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ack-NACK-repetition-factor */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "ack-NACK-repetition-factor");
-      rtxCtxtPushTypeName(ctx, "ACK-NACK-repetitionFactor");
-      if ((uint64_t)(pvalue->ack_NACK_repetition_factor - 1) > 3u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->ack_NACK_repetition_factor);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ack_NACK_repetition_factor, 1, 4);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* harq-Preamble-Mode */
-   rtxCtxtPushElemName(ctx, "harq-Preamble-Mode");
-   rtxCtxtPushTypeName(ctx, "HARQ-Preamble-Mode");
-   if ((uint64_t)pvalue->harq_Preamble_Mode > 1u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->harq_Preamble_Mode);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->harq_Preamble_Mode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* ctx, const UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* individualTS-InterferenceList */
-   rtxCtxtPushElemName(ctx, "individualTS-InterferenceList");
-   stat = asn1PE_UMTS_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dpch-ConstantValue */
-   rtxCtxtPushElemName(ctx, "dpch-ConstantValue");
-   rtxCtxtPushTypeName(ctx, "ConstantValue");
-   if (pvalue->dpch_ConstantValue < -35 || pvalue->dpch_ConstantValue > -10) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->dpch_ConstantValue);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->dpch_ConstantValue, -35, -10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* ctx, const UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* beaconPLEst */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "beaconPLEst");
-      rtxCtxtPushTypeName(ctx, "BEACON-PL-Est");
-      if (pvalue->beaconPLEst > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->beaconPLEst);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->beaconPLEst, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tpc-StepSize */
-   rtxCtxtPushElemName(ctx, "tpc-StepSize");
-   rtxCtxtPushTypeName(ctx, "TPC-StepSizeTDD");
-   if ((uint64_t)(pvalue->tpc_StepSize - 1) > 2u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->tpc_StepSize);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tpc_StepSize, 1, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* ctx, const UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* ctx, const UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* tddOption */
-   rtxCtxtPushElemName(ctx, "tddOption");
-   stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling(rtxContext* ctx, const UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "broadcast-UL-OL-PC-info");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "individuallySignalled");
-         if (pvalue->u.individuallySignalled == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled(ctx, pvalue->u.individuallySignalled);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6_tdd(rtxContext* ctx, const UL_DPCH_PowerControlInfo_r6_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ul-TargetSIR */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ul-TargetSIR");
-      rtxCtxtPushTypeName(ctx, "UL-TargetSIR");
-      if ((uint64_t)pvalue->ul_TargetSIR > 62u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->ul_TargetSIR);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ul_TargetSIR, 0, 62);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-OL-PC-Signalling */
-   rtxCtxtPushElemName(ctx, "ul-OL-PC-Signalling");
-   stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling(ctx, &pvalue->ul_OL_PC_Signalling);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6(rtxContext* ctx, const UL_DPCH_PowerControlInfo_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-DPCH-PowerControlInfo-r6");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_present(rtxContext* ctx, const UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_present* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->numberOfDPDCH != 1) << 1) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* numberOfDPDCH */
-   if (pvalue->numberOfDPDCH != 1) {
-      rtxCtxtPushElemName(ctx, "numberOfDPDCH");
-      rtxCtxtPushTypeName(ctx, "NumberOfDPDCH");
-      if ((uint64_t)(pvalue->numberOfDPDCH - 1) > 5u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->numberOfDPDCH);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->numberOfDPDCH, 1, 6);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* spreadingFactor */
-   rtxCtxtPushElemName(ctx, "spreadingFactor");
-   rtxCtxtPushTypeName(ctx, "SpreadingFactor");
-   if (pvalue->spreadingFactor > 6) {
-      rtxErrAddUIntParm(ctx, pvalue->spreadingFactor);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->spreadingFactor, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* tfci-Existence */
-   rtxCtxtPushElemName(ctx, "tfci-Existence");
-   stat = rtxEncBit(ctx, pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* numberOfFBI-Bits */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "numberOfFBI-Bits");
-      rtxCtxtPushTypeName(ctx, "NumberOfFBI-Bits");
-      if ((uint64_t)(pvalue->numberOfFBI_Bits - 1) > 1u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->numberOfFBI_Bits);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->numberOfFBI_Bits, 1, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* puncturingLimit */
-   rtxCtxtPushElemName(ctx, "puncturingLimit");
-   rtxCtxtPushTypeName(ctx, "PuncturingLimit");
-   if (pvalue->puncturingLimit > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->puncturingLimit);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->puncturingLimit, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_notPresent(rtxContext* ctx, const UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_notPresent* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* tfci-Existence */
-   rtxCtxtPushElemName(ctx, "tfci-Existence");
-   stat = rtxEncBit(ctx, pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* numberOfFBI-Bits */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "numberOfFBI-Bits");
-      rtxCtxtPushTypeName(ctx, "NumberOfFBI-Bits");
-      if ((uint64_t)(pvalue->numberOfFBI_Bits - 1) > 1u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->numberOfFBI_Bits);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->numberOfFBI_Bits, 1, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence(rtxContext* ctx, const UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "present");
-         if (pvalue->u.present == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_present(ctx, pvalue->u.present);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "notPresent");
-         if (pvalue->u.notPresent == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_notPresent(ctx, pvalue->u.notPresent);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_fdd(rtxContext* ctx, const UL_DPCH_Info_r6_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* scramblingCodeType */
-   rtxCtxtPushElemName(ctx, "scramblingCodeType");
-   rtxCtxtPushTypeName(ctx, "ScramblingCodeType");
-   if (pvalue->scramblingCodeType > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->scramblingCodeType);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->scramblingCodeType, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* scramblingCode */
-   rtxCtxtPushElemName(ctx, "scramblingCode");
-   rtxCtxtPushTypeName(ctx, "UL-ScramblingCode");
-   if ((uint64_t)pvalue->scramblingCode > 16777215u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->scramblingCode);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->scramblingCode, 0, 16777215);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dpdchPresence */
-   rtxCtxtPushElemName(ctx, "dpdchPresence");
-   stat = asn1PE_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence(ctx, &pvalue->dpdchPresence);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_tdd(rtxContext* ctx, const UL_DPCH_Info_r6_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* ul-TimingAdvance */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ul-TimingAdvance");
-      stat = asn1PE_UMTS_UL_TimingAdvanceControl_r4(ctx, &pvalue->ul_TimingAdvance);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CCTrCHList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ul-CCTrCHList");
-      stat = asn1PE_UMTS_UL_CCTrCHList_r4(ctx, &pvalue->ul_CCTrCHList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CCTrCHListToRemove */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "ul-CCTrCHListToRemove");
-      stat = asn1PE_UMTS_UL_CCTrCHListToRemove(ctx, &pvalue->ul_CCTrCHListToRemove);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_r6_modeSpecificInfo(rtxContext* ctx, const UL_DPCH_Info_r6_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_r6(rtxContext* ctx, const UL_DPCH_Info_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-DPCH-Info-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ul-DPCH-PowerControlInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ul-DPCH-PowerControlInfo");
-      stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6(ctx, &pvalue->ul_DPCH_PowerControlInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_UL_DPCH_Info_r6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_present(rtxContext* ctx, const UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_present* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->numberOfDPDCH != 1) << 2) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* numberOfDPDCH */
-   if (pvalue->numberOfDPDCH != 1) {
-      rtxCtxtPushElemName(ctx, "numberOfDPDCH");
-      rtxCtxtPushTypeName(ctx, "NumberOfDPDCH");
-      if ((uint64_t)(pvalue->numberOfDPDCH - 1) > 5u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->numberOfDPDCH);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->numberOfDPDCH, 1, 6);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* spreadingFactor */
-   rtxCtxtPushElemName(ctx, "spreadingFactor");
-   rtxCtxtPushTypeName(ctx, "SpreadingFactor");
-   if (pvalue->spreadingFactor > 6) {
-      rtxErrAddUIntParm(ctx, pvalue->spreadingFactor);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->spreadingFactor, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* tfci-Existence */
-   rtxCtxtPushElemName(ctx, "tfci-Existence");
-   stat = rtxEncBit(ctx, pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* numberOfFBI-Bits */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "numberOfFBI-Bits");
-      rtxCtxtPushTypeName(ctx, "NumberOfFBI-Bits");
-      if ((uint64_t)(pvalue->numberOfFBI_Bits - 1) > 1u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->numberOfFBI_Bits);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->numberOfFBI_Bits, 1, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* numberOfTPC-Bits */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "numberOfTPC-Bits");
-      rtxCtxtPushTypeName(ctx, "NumberOfTPC-Bits");
-      if (pvalue->numberOfTPC_Bits > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->numberOfTPC_Bits);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->numberOfTPC_Bits, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* puncturingLimit */
-   rtxCtxtPushElemName(ctx, "puncturingLimit");
-   rtxCtxtPushTypeName(ctx, "PuncturingLimit");
-   if (pvalue->puncturingLimit > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->puncturingLimit);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->puncturingLimit, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_notPresent(rtxContext* ctx, const UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_notPresent* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* tfci-Existence */
-   rtxCtxtPushElemName(ctx, "tfci-Existence");
-   stat = rtxEncBit(ctx, pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* numberOfFBI-Bits */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "numberOfFBI-Bits");
-      rtxCtxtPushTypeName(ctx, "NumberOfFBI-Bits");
-      if ((uint64_t)(pvalue->numberOfFBI_Bits - 1) > 1u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->numberOfFBI_Bits);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->numberOfFBI_Bits, 1, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* numberOfTPC-Bits */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "numberOfTPC-Bits");
-      rtxCtxtPushTypeName(ctx, "NumberOfTPC-Bits");
-      if (pvalue->numberOfTPC_Bits > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->numberOfTPC_Bits);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->numberOfTPC_Bits, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence(rtxContext* ctx, const UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "present");
-         if (pvalue->u.present == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_present(ctx, pvalue->u.present);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "notPresent");
-         if (pvalue->u.notPresent == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_notPresent(ctx, pvalue->u.notPresent);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd(rtxContext* ctx, const UL_DPCH_Info_r7_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* scramblingCodeType */
-   rtxCtxtPushElemName(ctx, "scramblingCodeType");
-   rtxCtxtPushTypeName(ctx, "ScramblingCodeType");
-   if (pvalue->scramblingCodeType > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->scramblingCodeType);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->scramblingCodeType, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* scramblingCode */
-   rtxCtxtPushElemName(ctx, "scramblingCode");
-   rtxCtxtPushTypeName(ctx, "UL-ScramblingCode");
-   if ((uint64_t)pvalue->scramblingCode > 16777215u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->scramblingCode);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->scramblingCode, 0, 16777215);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dpdchPresence */
-   rtxCtxtPushElemName(ctx, "dpdchPresence");
-   stat = asn1PE_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence(ctx, &pvalue->dpdchPresence);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd384(rtxContext* ctx, const UL_TimingAdvanceControl_r7_enabled_tddOption_tdd384* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* ul-TimingAdvance */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ul-TimingAdvance");
-      rtxCtxtPushTypeName(ctx, "UL-TimingAdvance");
-      if ((uint64_t)pvalue->ul_TimingAdvance > 63u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->ul_TimingAdvance);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ul_TimingAdvance, 0, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ext-UL-TimingAdvance */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ext-UL-TimingAdvance");
-      stat = asn1PE_UMTS_EXT_UL_TimingAdvance(ctx, &pvalue->ext_UL_TimingAdvance);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* activationTime */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd768(rtxContext* ctx, const UL_TimingAdvanceControl_r7_enabled_tddOption_tdd768* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ext-UL-TimingAdvance */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ext-UL-TimingAdvance");
-      stat = asn1PE_UMTS_EXT_UL_TimingAdvance(ctx, &pvalue->ext_UL_TimingAdvance);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* activationTime */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd128(rtxContext* ctx, const UL_TimingAdvanceControl_r7_enabled_tddOption_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ul-SynchronisationParameters */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ul-SynchronisationParameters");
-      stat = asn1PE_UMTS_UL_SynchronisationParameters_r4(ctx, &pvalue->ul_SynchronisationParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* synchronisationParameters */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "synchronisationParameters");
-      stat = asn1PE_UMTS_SynchronisationParameters_r4(ctx, &pvalue->synchronisationParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption(rtxContext* ctx, const UL_TimingAdvanceControl_r7_enabled_tddOption* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd768");
-         if (pvalue->u.tdd768 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TimingAdvanceControl_r7_enabled(rtxContext* ctx, const UL_TimingAdvanceControl_r7_enabled* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* tddOption */
-   rtxCtxtPushElemName(ctx, "tddOption");
-   stat = asn1PE_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TimingAdvanceControl_r7(rtxContext* ctx, const UL_TimingAdvanceControl_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-TimingAdvanceControl-r7");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "disabled");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "enabled");
-         if (pvalue->u.enabled == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_TimingAdvanceControl_r7_enabled(ctx, pvalue->u.enabled);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_tdd(rtxContext* ctx, const UL_DPCH_Info_r7_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* ul-TimingAdvance */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ul-TimingAdvance");
-      stat = asn1PE_UMTS_UL_TimingAdvanceControl_r7(ctx, &pvalue->ul_TimingAdvance);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CCTrCHList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ul-CCTrCHList");
-      stat = asn1PE_UMTS_UL_CCTrCHList_r7(ctx, &pvalue->ul_CCTrCHList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CCTrCHListToRemove */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "ul-CCTrCHListToRemove");
-      stat = asn1PE_UMTS_UL_CCTrCHListToRemove(ctx, &pvalue->ul_CCTrCHListToRemove);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_r7_modeSpecificInfo(rtxContext* ctx, const UL_DPCH_Info_r7_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_r7(rtxContext* ctx, const UL_DPCH_Info_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-DPCH-Info-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ul-DPCH-PowerControlInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ul-DPCH-PowerControlInfo");
-      stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7(ctx, &pvalue->ul_DPCH_PowerControlInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_UL_DPCH_Info_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfoPostFDD(rtxContext* ctx, const UL_DPCH_PowerControlInfoPostFDD* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-DPCH-PowerControlInfoPostFDD");
-   /* dpcch-PowerOffset */
-   rtxCtxtPushElemName(ctx, "dpcch-PowerOffset");
-   rtxCtxtPushTypeName(ctx, "DPCCH-PowerOffset2");
-   if (pvalue->dpcch_PowerOffset < -28 || pvalue->dpcch_PowerOffset > -13) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->dpcch_PowerOffset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->dpcch_PowerOffset, -28, -13);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* pc-Preamble */
-   rtxCtxtPushElemName(ctx, "pc-Preamble");
-   rtxCtxtPushTypeName(ctx, "PC-Preamble");
-   if ((uint64_t)pvalue->pc_Preamble > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->pc_Preamble);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pc_Preamble, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* sRB-delay */
-   rtxCtxtPushElemName(ctx, "sRB-delay");
-   rtxCtxtPushTypeName(ctx, "SRB-delay");
-   if ((uint64_t)pvalue->sRB_delay > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->sRB_delay);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->sRB_delay, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_InfoPostFDD(rtxContext* ctx, const UL_DPCH_InfoPostFDD* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-DPCH-InfoPostFDD");
-   /* ul-DPCH-PowerControlInfo */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-PowerControlInfo");
-   stat = asn1PE_UMTS_UL_DPCH_PowerControlInfoPostFDD(ctx, &pvalue->ul_DPCH_PowerControlInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* scramblingCodeType */
-   rtxCtxtPushElemName(ctx, "scramblingCodeType");
-   rtxCtxtPushTypeName(ctx, "ScramblingCodeType");
-   if (pvalue->scramblingCodeType > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->scramblingCodeType);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->scramblingCodeType, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reducedScramblingCodeNumber */
-   rtxCtxtPushElemName(ctx, "reducedScramblingCodeNumber");
-   rtxCtxtPushTypeName(ctx, "ReducedScramblingCodeNumber");
-   if ((uint64_t)pvalue->reducedScramblingCodeNumber > 8191u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->reducedScramblingCodeNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reducedScramblingCodeNumber, 0, 8191);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* spreadingFactor */
-   rtxCtxtPushElemName(ctx, "spreadingFactor");
-   rtxCtxtPushTypeName(ctx, "SpreadingFactor");
-   if (pvalue->spreadingFactor > 6) {
-      rtxErrAddUIntParm(ctx, pvalue->spreadingFactor);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->spreadingFactor, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfoPostTDD(rtxContext* ctx, const UL_DPCH_PowerControlInfoPostTDD* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-DPCH-PowerControlInfoPostTDD");
-   /* ul-TargetSIR */
-   rtxCtxtPushElemName(ctx, "ul-TargetSIR");
-   rtxCtxtPushTypeName(ctx, "UL-TargetSIR");
-   if ((uint64_t)pvalue->ul_TargetSIR > 62u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ul_TargetSIR);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ul_TargetSIR, 0, 62);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ul-TimeslotInterference */
-   rtxCtxtPushElemName(ctx, "ul-TimeslotInterference");
-   rtxCtxtPushTypeName(ctx, "TDD-UL-Interference");
-   if (pvalue->ul_TimeslotInterference < -110 || pvalue->ul_TimeslotInterference > -52) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->ul_TimeslotInterference);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->ul_TimeslotInterference, -110, -52);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_InfoPostTDD(rtxContext* ctx, const UL_DPCH_InfoPostTDD* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-DPCH-InfoPostTDD");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ul-DPCH-PowerControlInfo */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-PowerControlInfo");
-   stat = asn1PE_UMTS_UL_DPCH_PowerControlInfoPostTDD(ctx, &pvalue->ul_DPCH_PowerControlInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-TimingAdvance */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ul-TimingAdvance");
-      stat = asn1PE_UMTS_UL_TimingAdvanceControl(ctx, &pvalue->ul_TimingAdvance);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CCTrCH-TimeslotsCodes */
-   rtxCtxtPushElemName(ctx, "ul-CCTrCH-TimeslotsCodes");
-   stat = asn1PE_UMTS_UplinkTimeslotsCodes(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfoPostTDD_LCR_r4(rtxContext* ctx, const UL_DPCH_PowerControlInfoPostTDD_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-DPCH-PowerControlInfoPostTDD-LCR-r4");
-   /* ul-TargetSIR */
-   rtxCtxtPushElemName(ctx, "ul-TargetSIR");
-   rtxCtxtPushTypeName(ctx, "UL-TargetSIR");
-   if ((uint64_t)pvalue->ul_TargetSIR > 62u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ul_TargetSIR);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ul_TargetSIR, 0, 62);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TimingAdvanceControl_LCR_r4_enabled(rtxContext* ctx, const UL_TimingAdvanceControl_LCR_r4_enabled* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ul-SynchronisationParameters */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ul-SynchronisationParameters");
-      stat = asn1PE_UMTS_UL_SynchronisationParameters_r4(ctx, &pvalue->ul_SynchronisationParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* synchronisationParameters */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "synchronisationParameters");
-      stat = asn1PE_UMTS_SynchronisationParameters_r4(ctx, &pvalue->synchronisationParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TimingAdvanceControl_LCR_r4(rtxContext* ctx, const UL_TimingAdvanceControl_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-TimingAdvanceControl-LCR-r4");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "disabled");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "enabled");
-         if (pvalue->u.enabled == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_TimingAdvanceControl_LCR_r4_enabled(ctx, pvalue->u.enabled);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_InfoPostTDD_LCR_r4(rtxContext* ctx, const UL_DPCH_InfoPostTDD_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-DPCH-InfoPostTDD-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ul-DPCH-PowerControlInfo */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-PowerControlInfo");
-   stat = asn1PE_UMTS_UL_DPCH_PowerControlInfoPostTDD_LCR_r4(ctx, &pvalue->ul_DPCH_PowerControlInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-TimingAdvance */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ul-TimingAdvance");
-      stat = asn1PE_UMTS_UL_TimingAdvanceControl_LCR_r4(ctx, &pvalue->ul_TimingAdvance);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CCTrCH-TimeslotsCodes */
-   rtxCtxtPushElemName(ctx, "ul-CCTrCH-TimeslotsCodes");
-   stat = asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r4(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_EDCH_Information_ext_tdd(rtxContext* ctx, const UL_EDCH_Information_ext_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* non-ScheduledTransGrantInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "non-ScheduledTransGrantInfo");
-      stat = asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_ext(ctx, &pvalue->non_ScheduledTransGrantInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_EDCH_Information_ext(rtxContext* ctx, const UL_EDCH_Information_ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-EDCH-Information-ext");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_EDCH_Information_ext_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_EDCH_Information_r6_mac_es_e_resetIndicator(rtxContext* ctx, UL_EDCH_Information_r6_mac_es_e_resetIndicator value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_EDCH_Information_r6(rtxContext* ctx, const UL_EDCH_Information_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-EDCH-Information-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* mac-es-e-resetIndicator */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "mac-es-e-resetIndicator");
-      if (pvalue->mac_es_e_resetIndicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->mac_es_e_resetIndicator);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mac_es_e_resetIndicator, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-DPCCH-Info */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "e-DPCCH-Info");
-      stat = asn1PE_UMTS_E_DPCCH_Info(ctx, &pvalue->e_DPCCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-DPDCH-Info */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "e-DPDCH-Info");
-      stat = asn1PE_UMTS_E_DPDCH_Info(ctx, &pvalue->e_DPDCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* schedulingTransmConfiguration */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "schedulingTransmConfiguration");
-      stat = asn1PE_UMTS_E_DPDCH_SchedulingTransmConfiguration(ctx, &pvalue->schedulingTransmConfiguration);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_EDCH_Information_r7_mac_es_e_resetIndicator(rtxContext* ctx, UL_EDCH_Information_r7_mac_es_e_resetIndicator value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_EDCH_Information_r7_modeSpecificInfo_fdd(rtxContext* ctx, const UL_EDCH_Information_r7_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* e-DPCCH-Info */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "e-DPCCH-Info");
-      stat = asn1PE_UMTS_E_DPCCH_Info_r7(ctx, &pvalue->e_DPCCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-DPDCH-Info */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "e-DPDCH-Info");
-      stat = asn1PE_UMTS_E_DPDCH_Info_r7(ctx, &pvalue->e_DPDCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* schedulingTransmConfiguration */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "schedulingTransmConfiguration");
-      stat = asn1PE_UMTS_E_DPDCH_SchedulingTransmConfiguration(ctx, &pvalue->schedulingTransmConfiguration);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-16QAM-Settings */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "ul-16QAM-Settings");
-      stat = asn1PE_UMTS_UL_16QAM_Settings(ctx, &pvalue->ul_16QAM_Settings);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_EDCH_Information_r7_modeSpecificInfo_tdd(rtxContext* ctx, const UL_EDCH_Information_r7_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* e-RUCCH-Info */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "e-RUCCH-Info");
-      stat = asn1PE_UMTS_E_RUCCH_Info(ctx, &pvalue->e_RUCCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-PUCH-Info */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "e-PUCH-Info");
-      stat = asn1PE_UMTS_E_PUCH_Info(ctx, &pvalue->e_PUCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* non-ScheduledTransGrantInfo */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "non-ScheduledTransGrantInfo");
-      stat = asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD(ctx, &pvalue->non_ScheduledTransGrantInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_EDCH_Information_r7_modeSpecificInfo(rtxContext* ctx, const UL_EDCH_Information_r7_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_EDCH_Information_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UL_EDCH_Information_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_EDCH_Information_r7(rtxContext* ctx, const UL_EDCH_Information_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UL-EDCH-Information-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* mac-es-e-resetIndicator */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "mac-es-e-resetIndicator");
-      if (pvalue->mac_es_e_resetIndicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->mac_es_e_resetIndicator);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mac_es_e_resetIndicator, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_UL_EDCH_Information_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SatID(rtxContext* ctx, SatID value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SatID");
-   if ((uint64_t)value > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DopplerUncertainty(rtxContext* ctx, DopplerUncertainty value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DopplerUncertainty");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ExtraDopplerInfo(rtxContext* ctx, const ExtraDopplerInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ExtraDopplerInfo");
-   /* doppler1stOrder */
-   rtxCtxtPushElemName(ctx, "doppler1stOrder");
-   if (pvalue->doppler1stOrder < -42 || pvalue->doppler1stOrder > 21) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->doppler1stOrder);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->doppler1stOrder, -42, 21);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dopplerUncertainty */
-   rtxCtxtPushElemName(ctx, "dopplerUncertainty");
-   rtxCtxtPushTypeName(ctx, "DopplerUncertainty");
-   if (pvalue->dopplerUncertainty > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->dopplerUncertainty);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dopplerUncertainty, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CodePhaseSearchWindow(rtxContext* ctx, CodePhaseSearchWindow value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CodePhaseSearchWindow");
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_AzimuthAndElevation(rtxContext* ctx, const AzimuthAndElevation* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "AzimuthAndElevation");
-   /* azimuth */
-   rtxCtxtPushElemName(ctx, "azimuth");
-   if ((uint64_t)pvalue->azimuth > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->azimuth);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->azimuth, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* elevation */
-   rtxCtxtPushElemName(ctx, "elevation");
-   if ((uint64_t)pvalue->elevation > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->elevation);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->elevation, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_AcquisitionSatInfo(rtxContext* ctx, const AcquisitionSatInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "AcquisitionSatInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* satID */
-   rtxCtxtPushElemName(ctx, "satID");
-   rtxCtxtPushTypeName(ctx, "SatID");
-   if ((uint64_t)pvalue->satID > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->satID);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->satID, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* doppler0thOrder */
-   rtxCtxtPushElemName(ctx, "doppler0thOrder");
-   if (pvalue->doppler0thOrder < -2048 || pvalue->doppler0thOrder > 2047) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->doppler0thOrder);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->doppler0thOrder, -2048, 2047);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* extraDopplerInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "extraDopplerInfo");
-      stat = asn1PE_UMTS_ExtraDopplerInfo(ctx, &pvalue->extraDopplerInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* codePhase */
-   rtxCtxtPushElemName(ctx, "codePhase");
-   if ((uint64_t)pvalue->codePhase > 1022u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->codePhase);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->codePhase, 0, 1022);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* integerCodePhase */
-   rtxCtxtPushElemName(ctx, "integerCodePhase");
-   if ((uint64_t)pvalue->integerCodePhase > 19u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->integerCodePhase);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->integerCodePhase, 0, 19);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gps-BitNumber */
-   rtxCtxtPushElemName(ctx, "gps-BitNumber");
-   if ((uint64_t)pvalue->gps_BitNumber > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->gps_BitNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->gps_BitNumber, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* codePhaseSearchWindow */
-   rtxCtxtPushElemName(ctx, "codePhaseSearchWindow");
-   rtxCtxtPushTypeName(ctx, "CodePhaseSearchWindow");
-   if (pvalue->codePhaseSearchWindow > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->codePhaseSearchWindow);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->codePhaseSearchWindow, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* azimuthAndElevation */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "azimuthAndElevation");
-      stat = asn1PE_UMTS_AzimuthAndElevation(ctx, &pvalue->azimuthAndElevation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_AcquisitionSatInfoList(rtxContext* ctx, const AcquisitionSatInfoList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "AcquisitionSatInfoList");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "AcquisitionSatInfo", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_AcquisitionSatInfo(ctx, (const AcquisitionSatInfo*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_AdditionalMeasurementID_List(rtxContext* ctx, const AdditionalMeasurementID_List* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "AdditionalMeasurementID-List");
    RT_SET_SIZE(ctx, 1, 4);
    stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GERANIu-MessageList");
    for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "MeasurementIdentity", i);
-      rtxCtxtPushTypeName(ctx, "MeasurementIdentity");
-      if ((uint64_t)(pvalue->elem[i] - 1) > 15u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
+      stat = asn1PE_UMTS_GERANIu_MessageList_element(ctx, &pvalue->elem[i]);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "GERANIu-MessageList");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_AlmanacSatInfo(rtxContext* ctx, const AlmanacSatInfo* pvalue)
+int asn1PE_UMTS_GERANIu_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, const GERANIu_RadioAccessCapability* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "AlmanacSatInfo");
-   /* dataID */
-   rtxCtxtPushElemName(ctx, "dataID");
-   if ((uint64_t)pvalue->dataID > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->dataID);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dataID, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* satID */
-   rtxCtxtPushElemName(ctx, "satID");
-   rtxCtxtPushTypeName(ctx, "SatID");
-   if ((uint64_t)pvalue->satID > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->satID);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->satID, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* e */
-   rtxCtxtPushElemName(ctx, "e");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->e, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* t-oa */
-   rtxCtxtPushElemName(ctx, "t-oa");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->t_oa, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* deltaI */
-   rtxCtxtPushElemName(ctx, "deltaI");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->deltaI, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* omegaDot */
-   rtxCtxtPushElemName(ctx, "omegaDot");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->omegaDot, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* satHealth */
-   rtxCtxtPushElemName(ctx, "satHealth");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->satHealth, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* a-Sqrt */
-   rtxCtxtPushElemName(ctx, "a-Sqrt");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->a_Sqrt, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* omega0 */
-   rtxCtxtPushElemName(ctx, "omega0");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->omega0, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* m0 */
-   rtxCtxtPushElemName(ctx, "m0");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->m0, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* omega */
-   rtxCtxtPushElemName(ctx, "omega");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->omega, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* af0 */
-   rtxCtxtPushElemName(ctx, "af0");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->af0, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* af1 */
-   rtxCtxtPushElemName(ctx, "af1");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->af1, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GERANIu-RadioAccessCapability");
+   RT_SET_SIZE(ctx, 1, 170);
+   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
+   RT_CHECK(ctx, stat, 0, 0, -1, "GERANIu-RadioAccessCapability");
    return 0;
 }
 
-int asn1PE_UMTS_AlmanacSatInfoList(rtxContext* ctx, const AlmanacSatInfoList* pvalue)
+int asn1PE_UMTS_InterRAT_UE_RadioAccessCapability_gsm(rtxContext* RT_RESTRICT ctx, const InterRAT_UE_RadioAccessCapability_gsm* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "AlmanacSatInfoList");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "AlmanacSatInfo", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_AlmanacSatInfo(ctx, (const AlmanacSatInfo*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* gsm-Classmark2 */
+   stat = asn1PE_UMTS_GSM_Classmark2(ctx, &pvalue->gsm_Classmark2);
+   RT_CHECK(ctx, stat, 0, "gsm-Classmark2", -1, 0);
+   /* gsm-Classmark3 */
+   stat = asn1PE_UMTS_GSM_Classmark3(ctx, &pvalue->gsm_Classmark3);
+   RT_CHECK(ctx, stat, 0, "gsm-Classmark3", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_GANSS_SAT_Info_Almanac_SBASecef(rtxContext* ctx, const GANSS_SAT_Info_Almanac_SBASecef* pvalue)
+int asn1PE_UMTS_InterRAT_UE_RadioAccessCapability_cdma2000(rtxContext* RT_RESTRICT ctx, const InterRAT_UE_RadioAccessCapability_cdma2000* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "GANSS-SAT-Info-Almanac-SBASecef");
-   /* sbasAlmDataID */
-   rtxCtxtPushElemName(ctx, "sbasAlmDataID");
-   RT_SET_SIZE(ctx, 2, 2);
-   stat = pe_BitString32(ctx, &pvalue->sbasAlmDataID, 2, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* svID */
-   rtxCtxtPushElemName(ctx, "svID");
-   if ((uint64_t)pvalue->svID > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->svID);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->svID, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sbasAlmHealth */
-   rtxCtxtPushElemName(ctx, "sbasAlmHealth");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->sbasAlmHealth, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sbasAlmXg */
-   rtxCtxtPushElemName(ctx, "sbasAlmXg");
-   RT_SET_SIZE(ctx, 15, 15);
-   stat = pe_BitString32(ctx, &pvalue->sbasAlmXg, 15, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sbasAlmYg */
-   rtxCtxtPushElemName(ctx, "sbasAlmYg");
-   RT_SET_SIZE(ctx, 15, 15);
-   stat = pe_BitString32(ctx, &pvalue->sbasAlmYg, 15, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sbasAlmZg */
-   rtxCtxtPushElemName(ctx, "sbasAlmZg");
-   RT_SET_SIZE(ctx, 9, 9);
-   stat = pe_BitString32(ctx, &pvalue->sbasAlmZg, 9, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sbasAlmXgdot */
-   rtxCtxtPushElemName(ctx, "sbasAlmXgdot");
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pe_BitString32(ctx, &pvalue->sbasAlmXgdot, 3, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sbasAlmYgDot */
-   rtxCtxtPushElemName(ctx, "sbasAlmYgDot");
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pe_BitString32(ctx, &pvalue->sbasAlmYgDot, 3, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sbasAlmZgDot */
-   rtxCtxtPushElemName(ctx, "sbasAlmZgDot");
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pe_BitString32(ctx, &pvalue->sbasAlmZgDot, 4, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sbasAlmTo */
-   rtxCtxtPushElemName(ctx, "sbasAlmTo");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->sbasAlmTo, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* cdma2000-MessageList */
+   stat = asn1PE_UMTS_CDMA2000_MessageList(ctx, &pvalue->cdma2000_MessageList);
+   RT_CHECK(ctx, stat, 0, "cdma2000-MessageList", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_GANSS_SAT_Info_Almanac_SBASecefList(rtxContext* ctx, const GANSS_SAT_Info_Almanac_SBASecefList* pvalue)
+int asn1PE_UMTS_InterRAT_UE_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, const InterRAT_UE_RadioAccessCapability* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "GANSS-SAT-Info-Almanac-SBASecefList");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "GANSS-SAT-Info-Almanac-SBASecef", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_GANSS_SAT_Info_Almanac_SBASecef(ctx, (const GANSS_SAT_Info_Almanac_SBASecef*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ALM_ECEFsbasAlmanacSet(rtxContext* ctx, const ALM_ECEFsbasAlmanacSet* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ALM-ECEFsbasAlmanacSet");
-   /* sat-info-SBASecefList */
-   rtxCtxtPushElemName(ctx, "sat-info-SBASecefList");
-   stat = asn1PE_UMTS_GANSS_SAT_Info_Almanac_SBASecefList(ctx, &pvalue->sat_info_SBASecefList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSS_SAT_Info_Almanac_GLOkp(rtxContext* ctx, const GANSS_SAT_Info_Almanac_GLOkp* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "GANSS-SAT-Info-Almanac-GLOkp");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* gloAlmNA */
-   rtxCtxtPushElemName(ctx, "gloAlmNA");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->gloAlmNA, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloAlmnA */
-   rtxCtxtPushElemName(ctx, "gloAlmnA");
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pe_BitString32(ctx, &pvalue->gloAlmnA, 5, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloAlmHA */
-   rtxCtxtPushElemName(ctx, "gloAlmHA");
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pe_BitString32(ctx, &pvalue->gloAlmHA, 5, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloAlmLambdaA */
-   rtxCtxtPushElemName(ctx, "gloAlmLambdaA");
-   RT_SET_SIZE(ctx, 21, 21);
-   stat = pe_BitString32(ctx, &pvalue->gloAlmLambdaA, 21, 21);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloAlmTlambdaA */
-   rtxCtxtPushElemName(ctx, "gloAlmTlambdaA");
-   RT_SET_SIZE(ctx, 21, 21);
-   stat = pe_BitString32(ctx, &pvalue->gloAlmTlambdaA, 21, 21);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloAlmDeltaIA */
-   rtxCtxtPushElemName(ctx, "gloAlmDeltaIA");
-   RT_SET_SIZE(ctx, 18, 18);
-   stat = pe_BitString32(ctx, &pvalue->gloAlmDeltaIA, 18, 18);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloAkmDeltaTA */
-   rtxCtxtPushElemName(ctx, "gloAkmDeltaTA");
-   RT_SET_SIZE(ctx, 22, 22);
-   stat = pe_BitString32(ctx, &pvalue->gloAkmDeltaTA, 22, 22);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloAlmDeltaTdotA */
-   rtxCtxtPushElemName(ctx, "gloAlmDeltaTdotA");
-   RT_SET_SIZE(ctx, 7, 7);
-   stat = pe_BitString32(ctx, &pvalue->gloAlmDeltaTdotA, 7, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloAlmEpsilonA */
-   rtxCtxtPushElemName(ctx, "gloAlmEpsilonA");
-   RT_SET_SIZE(ctx, 15, 15);
-   stat = pe_BitString32(ctx, &pvalue->gloAlmEpsilonA, 15, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloAlmOmegaA */
-   rtxCtxtPushElemName(ctx, "gloAlmOmegaA");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->gloAlmOmegaA, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloAlmTauA */
-   rtxCtxtPushElemName(ctx, "gloAlmTauA");
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pe_BitString32(ctx, &pvalue->gloAlmTauA, 10, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloAlmCA */
-   rtxCtxtPushElemName(ctx, "gloAlmCA");
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pe_BitString32(ctx, &pvalue->gloAlmCA, 1, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloAlmMA */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "gloAlmMA");
-      RT_SET_SIZE(ctx, 2, 2);
-      stat = pe_BitString32(ctx, &pvalue->gloAlmMA, 2, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSS_SAT_Info_Almanac_GLOkpList(rtxContext* ctx, const GANSS_SAT_Info_Almanac_GLOkpList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "GANSS-SAT-Info-Almanac-GLOkpList");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "GANSS-SAT-Info-Almanac-GLOkp", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_GANSS_SAT_Info_Almanac_GLOkp(ctx, (const GANSS_SAT_Info_Almanac_GLOkp*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ALM_GlonassAlmanacSet(rtxContext* ctx, const ALM_GlonassAlmanacSet* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ALM-GlonassAlmanacSet");
-   /* sat-info-GLOkpList */
-   rtxCtxtPushElemName(ctx, "sat-info-GLOkpList");
-   stat = asn1PE_UMTS_GANSS_SAT_Info_Almanac_GLOkpList(ctx, &pvalue->sat_info_GLOkpList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSS_SAT_Info_Almanac_Kp(rtxContext* ctx, const GANSS_SAT_Info_Almanac_Kp* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "GANSS-SAT-Info-Almanac-Kp");
-   /* svId */
-   rtxCtxtPushElemName(ctx, "svId");
-   if ((uint64_t)pvalue->svId > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->svId);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->svId, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganss-alm-e */
-   rtxCtxtPushElemName(ctx, "ganss-alm-e");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->ganss_alm_e, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganss-delta-I-alm */
-   rtxCtxtPushElemName(ctx, "ganss-delta-I-alm");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->ganss_delta_I_alm, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganss-omegadot-alm */
-   rtxCtxtPushElemName(ctx, "ganss-omegadot-alm");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->ganss_omegadot_alm, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganss-svhealth-alm */
-   rtxCtxtPushElemName(ctx, "ganss-svhealth-alm");
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pe_BitString32(ctx, &pvalue->ganss_svhealth_alm, 4, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganss-delta-a-sqrt-alm */
-   rtxCtxtPushElemName(ctx, "ganss-delta-a-sqrt-alm");
-   RT_SET_SIZE(ctx, 17, 17);
-   stat = pe_BitString32(ctx, &pvalue->ganss_delta_a_sqrt_alm, 17, 17);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganss-omegazero-alm */
-   rtxCtxtPushElemName(ctx, "ganss-omegazero-alm");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->ganss_omegazero_alm, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganss-m-zero-alm */
-   rtxCtxtPushElemName(ctx, "ganss-m-zero-alm");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->ganss_m_zero_alm, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganss-omega-alm */
-   rtxCtxtPushElemName(ctx, "ganss-omega-alm");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->ganss_omega_alm, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganss-af-zero-alm */
-   rtxCtxtPushElemName(ctx, "ganss-af-zero-alm");
-   RT_SET_SIZE(ctx, 14, 14);
-   stat = pe_BitString32(ctx, &pvalue->ganss_af_zero_alm, 14, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganss-af-one-alm */
-   rtxCtxtPushElemName(ctx, "ganss-af-one-alm");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->ganss_af_one_alm, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSS_SAT_Info_Almanac_KpList(rtxContext* ctx, const GANSS_SAT_Info_Almanac_KpList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "GANSS-SAT-Info-Almanac-KpList");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "GANSS-SAT-Info-Almanac-Kp", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_GANSS_SAT_Info_Almanac_Kp(ctx, (const GANSS_SAT_Info_Almanac_Kp*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ALM_keplerianParameters(rtxContext* ctx, const ALM_keplerianParameters* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ALM-keplerianParameters");
-   /* t-oa */
-   rtxCtxtPushElemName(ctx, "t-oa");
-   if ((uint64_t)pvalue->t_oa > 147u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->t_oa);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->t_oa, 0, 147);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* iod-a */
-   rtxCtxtPushElemName(ctx, "iod-a");
-   if ((uint64_t)pvalue->iod_a > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->iod_a);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->iod_a, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sat-info-kpList */
-   rtxCtxtPushElemName(ctx, "sat-info-kpList");
-   stat = asn1PE_UMTS_GANSS_SAT_Info_Almanac_KpList(ctx, &pvalue->sat_info_kpList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSS_SAT_Info_Almanac_MIDIkp(rtxContext* ctx, const GANSS_SAT_Info_Almanac_MIDIkp* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "GANSS-SAT-Info-Almanac-MIDIkp");
-   /* svID */
-   rtxCtxtPushElemName(ctx, "svID");
-   if ((uint64_t)pvalue->svID > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->svID);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->svID, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midiAlmE */
-   rtxCtxtPushElemName(ctx, "midiAlmE");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->midiAlmE, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midiAlmDeltaI */
-   rtxCtxtPushElemName(ctx, "midiAlmDeltaI");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->midiAlmDeltaI, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midiAlmOmegaDot */
-   rtxCtxtPushElemName(ctx, "midiAlmOmegaDot");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->midiAlmOmegaDot, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midiAlmSqrtA */
-   rtxCtxtPushElemName(ctx, "midiAlmSqrtA");
-   RT_SET_SIZE(ctx, 17, 17);
-   stat = pe_BitString32(ctx, &pvalue->midiAlmSqrtA, 17, 17);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midiAlmOmega0 */
-   rtxCtxtPushElemName(ctx, "midiAlmOmega0");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->midiAlmOmega0, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midiAlmOmega */
-   rtxCtxtPushElemName(ctx, "midiAlmOmega");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->midiAlmOmega, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midiAlmMo */
-   rtxCtxtPushElemName(ctx, "midiAlmMo");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->midiAlmMo, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midiAlmaf0 */
-   rtxCtxtPushElemName(ctx, "midiAlmaf0");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->midiAlmaf0, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midiAlmaf1 */
-   rtxCtxtPushElemName(ctx, "midiAlmaf1");
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pe_BitString32(ctx, &pvalue->midiAlmaf1, 10, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midiAlmL1Health */
-   rtxCtxtPushElemName(ctx, "midiAlmL1Health");
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pe_BitString32(ctx, &pvalue->midiAlmL1Health, 1, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midiAlmL2Health */
-   rtxCtxtPushElemName(ctx, "midiAlmL2Health");
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pe_BitString32(ctx, &pvalue->midiAlmL2Health, 1, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* midiAlmL5Health */
-   rtxCtxtPushElemName(ctx, "midiAlmL5Health");
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pe_BitString32(ctx, &pvalue->midiAlmL5Health, 1, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSS_SAT_Info_Almanac_MIDIkpList(rtxContext* ctx, const GANSS_SAT_Info_Almanac_MIDIkpList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "GANSS-SAT-Info-Almanac-MIDIkpList");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "GANSS-SAT-Info-Almanac-MIDIkp", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_GANSS_SAT_Info_Almanac_MIDIkp(ctx, (const GANSS_SAT_Info_Almanac_MIDIkp*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ALM_MidiAlmanacSet(rtxContext* ctx, const ALM_MidiAlmanacSet* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ALM-MidiAlmanacSet");
-   /* t-oa */
-   rtxCtxtPushElemName(ctx, "t-oa");
-   if ((uint64_t)pvalue->t_oa > 147u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->t_oa);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->t_oa, 0, 147);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sat-info-MIDIkpList */
-   rtxCtxtPushElemName(ctx, "sat-info-MIDIkpList");
-   stat = asn1PE_UMTS_GANSS_SAT_Info_Almanac_MIDIkpList(ctx, &pvalue->sat_info_MIDIkpList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSS_SAT_Info_Almanac_NAVkp(rtxContext* ctx, const GANSS_SAT_Info_Almanac_NAVkp* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "GANSS-SAT-Info-Almanac-NAVkp");
-   /* svID */
-   rtxCtxtPushElemName(ctx, "svID");
-   if ((uint64_t)pvalue->svID > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->svID);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->svID, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navAlmE */
-   rtxCtxtPushElemName(ctx, "navAlmE");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->navAlmE, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navAlmDeltaI */
-   rtxCtxtPushElemName(ctx, "navAlmDeltaI");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->navAlmDeltaI, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navAlmOMEGADOT */
-   rtxCtxtPushElemName(ctx, "navAlmOMEGADOT");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->navAlmOMEGADOT, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navAlmSVHealth */
-   rtxCtxtPushElemName(ctx, "navAlmSVHealth");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->navAlmSVHealth, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navAlmSqrtA */
-   rtxCtxtPushElemName(ctx, "navAlmSqrtA");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->navAlmSqrtA, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navAlmOMEGAo */
-   rtxCtxtPushElemName(ctx, "navAlmOMEGAo");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->navAlmOMEGAo, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navAlmOmega */
-   rtxCtxtPushElemName(ctx, "navAlmOmega");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->navAlmOmega, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navAlmMo */
-   rtxCtxtPushElemName(ctx, "navAlmMo");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->navAlmMo, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navAlmaf0 */
-   rtxCtxtPushElemName(ctx, "navAlmaf0");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->navAlmaf0, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navAlmaf1 */
-   rtxCtxtPushElemName(ctx, "navAlmaf1");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->navAlmaf1, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSS_SAT_Info_Almanac_NAVkpList(rtxContext* ctx, const GANSS_SAT_Info_Almanac_NAVkpList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "GANSS-SAT-Info-Almanac-NAVkpList");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "GANSS-SAT-Info-Almanac-NAVkp", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_GANSS_SAT_Info_Almanac_NAVkp(ctx, (const GANSS_SAT_Info_Almanac_NAVkp*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ALM_NAVKeplerianSet(rtxContext* ctx, const ALM_NAVKeplerianSet* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ALM-NAVKeplerianSet");
-   /* t-oa */
-   rtxCtxtPushElemName(ctx, "t-oa");
-   if ((uint64_t)pvalue->t_oa > 147u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->t_oa);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->t_oa, 0, 147);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sat-info-NAVkpList */
-   rtxCtxtPushElemName(ctx, "sat-info-NAVkpList");
-   stat = asn1PE_UMTS_GANSS_SAT_Info_Almanac_NAVkpList(ctx, &pvalue->sat_info_NAVkpList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSS_SAT_Info_Almanac_REDkp(rtxContext* ctx, const GANSS_SAT_Info_Almanac_REDkp* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "GANSS-SAT-Info-Almanac-REDkp");
-   /* svID */
-   rtxCtxtPushElemName(ctx, "svID");
-   if ((uint64_t)pvalue->svID > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->svID);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->svID, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* redAlmDeltaA */
-   rtxCtxtPushElemName(ctx, "redAlmDeltaA");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->redAlmDeltaA, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* redAlmOmega0 */
-   rtxCtxtPushElemName(ctx, "redAlmOmega0");
-   RT_SET_SIZE(ctx, 7, 7);
-   stat = pe_BitString32(ctx, &pvalue->redAlmOmega0, 7, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* redAlmPhi0 */
-   rtxCtxtPushElemName(ctx, "redAlmPhi0");
-   RT_SET_SIZE(ctx, 7, 7);
-   stat = pe_BitString32(ctx, &pvalue->redAlmPhi0, 7, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* redAlmL1Health */
-   rtxCtxtPushElemName(ctx, "redAlmL1Health");
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pe_BitString32(ctx, &pvalue->redAlmL1Health, 1, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* redAlmL2Health */
-   rtxCtxtPushElemName(ctx, "redAlmL2Health");
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pe_BitString32(ctx, &pvalue->redAlmL2Health, 1, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* redAlmL5Health */
-   rtxCtxtPushElemName(ctx, "redAlmL5Health");
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pe_BitString32(ctx, &pvalue->redAlmL5Health, 1, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSS_SAT_Info_Almanac_REDkpList(rtxContext* ctx, const GANSS_SAT_Info_Almanac_REDkpList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "GANSS-SAT-Info-Almanac-REDkpList");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "GANSS-SAT-Info-Almanac-REDkp", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_GANSS_SAT_Info_Almanac_REDkp(ctx, (const GANSS_SAT_Info_Almanac_REDkp*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ALM_ReducedKeplerianSet(rtxContext* ctx, const ALM_ReducedKeplerianSet* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ALM-ReducedKeplerianSet");
-   /* t-oa */
-   rtxCtxtPushElemName(ctx, "t-oa");
-   if ((uint64_t)pvalue->t_oa > 147u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->t_oa);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->t_oa, 0, 147);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sat-info-REDkpList */
-   rtxCtxtPushElemName(ctx, "sat-info-REDkpList");
-   stat = asn1PE_UMTS_GANSS_SAT_Info_Almanac_REDkpList(ctx, &pvalue->sat_info_REDkpList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_AuxInfoGANSS_ID1_element(rtxContext* ctx, const AuxInfoGANSS_ID1_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "AuxInfoGANSS-ID1-element");
-   /* svID */
-   rtxCtxtPushElemName(ctx, "svID");
-   if ((uint64_t)pvalue->svID > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->svID);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->svID, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* signalsAvailable */
-   rtxCtxtPushElemName(ctx, "signalsAvailable");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->signalsAvailable, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_AuxInfoGANSS_ID1(rtxContext* ctx, const AuxInfoGANSS_ID1* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "AuxInfoGANSS-ID1");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "AuxInfoGANSS-ID1-element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_AuxInfoGANSS_ID1_element(ctx, (const AuxInfoGANSS_ID1_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_AuxInfoGANSS_ID3_element(rtxContext* ctx, const AuxInfoGANSS_ID3_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "AuxInfoGANSS-ID3-element");
-   /* svID */
-   rtxCtxtPushElemName(ctx, "svID");
-   if ((uint64_t)pvalue->svID > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->svID);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->svID, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* signalsAvailable */
-   rtxCtxtPushElemName(ctx, "signalsAvailable");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->signalsAvailable, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* channelNumber */
-   rtxCtxtPushElemName(ctx, "channelNumber");
-   if (pvalue->channelNumber < -7 || pvalue->channelNumber > 13) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->channelNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->channelNumber, -7, 13);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_AuxInfoGANSS_ID3(rtxContext* ctx, const AuxInfoGANSS_ID3* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "AuxInfoGANSS-ID3");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "AuxInfoGANSS-ID3-element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_AuxInfoGANSS_ID3_element(ctx, (const AuxInfoGANSS_ID3_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_AverageRLC_BufferPayload(rtxContext* ctx, AverageRLC_BufferPayload value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "AverageRLC-BufferPayload");
-   if (value > 31) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_BadSatList_element(rtxContext* ctx, BadSatList_element value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 63);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_BadSatList(rtxContext* ctx, const BadSatList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "BadSatList");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if ((uint64_t)pvalue->elem[i] > 63u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_TransportChannelBLER(rtxContext* ctx, DL_TransportChannelBLER value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DL-TransportChannelBLER");
-   if ((uint64_t)value > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_BLER_MeasurementResults(rtxContext* ctx, const BLER_MeasurementResults* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "BLER-MeasurementResults");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* transportChannelIdentity */
-   rtxCtxtPushElemName(ctx, "transportChannelIdentity");
-   rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-   if ((uint64_t)(pvalue->transportChannelIdentity - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->transportChannelIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->transportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dl-TransportChannelBLER */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-TransportChannelBLER");
-      rtxCtxtPushTypeName(ctx, "DL-TransportChannelBLER");
-      if ((uint64_t)pvalue->dl_TransportChannelBLER > 63u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->dl_TransportChannelBLER);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dl_TransportChannelBLER, 0, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_BLER_MeasurementResultsList(rtxContext* ctx, const BLER_MeasurementResultsList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "BLER-MeasurementResultsList");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "BLER-MeasurementResults", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_BLER_MeasurementResults(ctx, (const BLER_MeasurementResults*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_BLER_TransChIdList(rtxContext* ctx, const BLER_TransChIdList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "BLER-TransChIdList");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "TransportChannelIdentity", i);
-      rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-      if ((uint64_t)(pvalue->elem[i] - 1) > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 1, 32);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_BSIC_VerificationRequired(rtxContext* ctx, BSIC_VerificationRequired value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "BSIC-VerificationRequired");
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_BSICReported(rtxContext* ctx, const BSICReported* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "BSICReported");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRAT-UE-RadioAccessCapability");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "InterRAT-UE-RadioAccessCapability");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterRAT-UE-RadioAccessCapability");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "verifiedBSIC");
-         if ((uint64_t)pvalue->u.verifiedBSIC > 32u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.verifiedBSIC);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.verifiedBSIC, 0, 32);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm", -1, "InterRAT-UE-RadioAccessCapability");
+         stat = asn1PE_UMTS_InterRAT_UE_RadioAccessCapability_gsm(ctx, pvalue->u.gsm);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, "InterRAT-UE-RadioAccessCapability");
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "nonVerifiedBSIC");
-         rtxCtxtPushTypeName(ctx, "BCCH-ARFCN");
-         if ((uint64_t)pvalue->u.nonVerifiedBSIC > 1023u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.nonVerifiedBSIC);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.nonVerifiedBSIC, 0, 1023);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_BurstModeParameters(rtxContext* ctx, const BurstModeParameters* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "BurstModeParameters");
-   /* burstStart */
-   rtxCtxtPushElemName(ctx, "burstStart");
-   if ((uint64_t)pvalue->burstStart > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->burstStart);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->burstStart, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* burstLength */
-   rtxCtxtPushElemName(ctx, "burstLength");
-   if ((uint64_t)(pvalue->burstLength - 10) > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->burstLength);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->burstLength, 10, 25);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* burstFreq */
-   rtxCtxtPushElemName(ctx, "burstFreq");
-   if ((uint64_t)(pvalue->burstFreq - 1) > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->burstFreq);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->burstFreq, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellDCHMeasOccasionPattern_LCR_statusFlag(rtxContext* ctx, CellDCHMeasOccasionPattern_LCR_statusFlag value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementOccasionPatternParameter(rtxContext* ctx, const MeasurementOccasionPatternParameter* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementOccasionPatternParameter");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measurement-Occasion-Coeff */
-   rtxCtxtPushElemName(ctx, "measurement-Occasion-Coeff");
-   if ((uint64_t)(pvalue->measurement_Occasion_Coeff - 1) > 8u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->measurement_Occasion_Coeff);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->measurement_Occasion_Coeff, 1, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurement-Occasion-Offset */
-   rtxCtxtPushElemName(ctx, "measurement-Occasion-Offset");
-   if ((uint64_t)pvalue->measurement_Occasion_Offset > 511u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->measurement_Occasion_Offset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->measurement_Occasion_Offset, 0, 511);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurement-Occasion-Length */
-   rtxCtxtPushElemName(ctx, "measurement-Occasion-Length");
-   if ((uint64_t)(pvalue->measurement_Occasion_Length - 1) > 511u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->measurement_Occasion_Length);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->measurement_Occasion_Length, 1, 512);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* timeslotBitmap */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "timeslotBitmap");
-      RT_SET_SIZE(ctx, 7, 7);
-      stat = pe_BitString32(ctx, &pvalue->timeslotBitmap, 7, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellDCHMeasOccasionPattern_LCR(rtxContext* ctx, const CellDCHMeasOccasionPattern_LCR* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellDCHMeasOccasionPattern-LCR");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* patternIdentifier */
-   rtxCtxtPushElemName(ctx, "patternIdentifier");
-   if ((uint64_t)pvalue->patternIdentifier > 4u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->patternIdentifier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->patternIdentifier, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* statusFlag */
-   rtxCtxtPushElemName(ctx, "statusFlag");
-   if (pvalue->statusFlag > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->statusFlag);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->statusFlag, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementPurpose */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measurementPurpose");
-      RT_SET_SIZE(ctx, 5, 5);
-      stat = pe_BitString32(ctx, &pvalue->measurementPurpose, 5, 5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementOccasionPatternParameter */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "measurementOccasionPatternParameter");
-      stat = asn1PE_UMTS_MeasurementOccasionPatternParameter(ctx, &pvalue->measurementOccasionPatternParameter);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellDCHMeasOccasionInfo_TDD128_r9_cellDCHMeasOccasionSequenceList(rtxContext* ctx, const CellDCHMeasOccasionInfo_TDD128_r9_cellDCHMeasOccasionSequenceList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 5);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "CellDCHMeasOccasionPattern-LCR", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_CellDCHMeasOccasionPattern_LCR(ctx, (const CellDCHMeasOccasionPattern_LCR*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellDCHMeasOccasionInfo_TDD128_r9(rtxContext* ctx, const CellDCHMeasOccasionInfo_TDD128_r9* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellDCHMeasOccasionInfo-TDD128-r9");
-   /* cellDCHMeasOccasionSequenceList */
-   rtxCtxtPushElemName(ctx, "cellDCHMeasOccasionSequenceList");
-   stat = asn1PE_UMTS_CellDCHMeasOccasionInfo_TDD128_r9_cellDCHMeasOccasionSequenceList(ctx, &pvalue->cellDCHMeasOccasionSequenceList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfo_modeSpecificInfo_fdd(rtxContext* ctx, const CellInfo_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* primaryCPICH-Info */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* primaryCPICH-TX-Power */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-TX-Power");
-      rtxCtxtPushTypeName(ctx, "PrimaryCPICH-TX-Power");
-      if (pvalue->primaryCPICH_TX_Power < -10 || pvalue->primaryCPICH_TX_Power > 50) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->primaryCPICH_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->primaryCPICH_TX_Power, -10, 50);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* readSFN-Indicator */
-   rtxCtxtPushElemName(ctx, "readSFN-Indicator");
-   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tx-DiversityIndicator */
-   rtxCtxtPushElemName(ctx, "tx-DiversityIndicator");
-   stat = rtxEncBit(ctx, pvalue->tx_DiversityIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfo_modeSpecificInfo_tdd(rtxContext* ctx, const CellInfo_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* primaryCCPCH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-Info");
-   stat = asn1PE_UMTS_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-      rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-      if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* timeslotInfoList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "timeslotInfoList");
-      stat = asn1PE_UMTS_TimeslotInfoList(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* readSFN-Indicator */
-   rtxCtxtPushElemName(ctx, "readSFN-Indicator");
-   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfo_modeSpecificInfo(rtxContext* ctx, const CellInfo_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.cdma2000 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cdma2000", -1, "InterRAT-UE-RadioAccessCapability");
+         stat = asn1PE_UMTS_InterRAT_UE_RadioAccessCapability_cdma2000(ctx, pvalue->u.cdma2000);
+         RT_CHECK(ctx, stat, 0, "cdma2000", -1, "InterRAT-UE-RadioAccessCapability");
          break;
       default:
          break;
@@ -8332,222 +8822,55 @@ int asn1PE_UMTS_CellInfo_modeSpecificInfo(rtxContext* ctx, const CellInfo_modeSp
    return 0;
 }
 
-int asn1PE_UMTS_CellInfo(rtxContext* ctx, const CellInfo* pvalue)
+int asn1PE_UMTS_InterRAT_UE_RadioAccessCapabilityList(rtxContext* RT_RESTRICT ctx, const InterRAT_UE_RadioAccessCapabilityList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 1) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* cellIndividualOffset */
-   if (pvalue->cellIndividualOffset != 0) {
-      rtxCtxtPushElemName(ctx, "cellIndividualOffset");
-      rtxCtxtPushTypeName(ctx, "CellIndividualOffset");
-      if (pvalue->cellIndividualOffset < -20 || pvalue->cellIndividualOffset > 20) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->cellIndividualOffset);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* referenceTimeDifferenceToCell */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "referenceTimeDifferenceToCell");
-      stat = asn1PE_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_CellInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfo_r4_modeSpecificInfo_fdd(rtxContext* ctx, const CellInfo_r4_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* primaryCPICH-Info */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* primaryCPICH-TX-Power */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-TX-Power");
-      rtxCtxtPushTypeName(ctx, "PrimaryCPICH-TX-Power");
-      if (pvalue->primaryCPICH_TX_Power < -10 || pvalue->primaryCPICH_TX_Power > 50) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->primaryCPICH_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->primaryCPICH_TX_Power, -10, 50);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* readSFN-Indicator */
-   rtxCtxtPushElemName(ctx, "readSFN-Indicator");
-   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tx-DiversityIndicator */
-   rtxCtxtPushElemName(ctx, "tx-DiversityIndicator");
-   stat = rtxEncBit(ctx, pvalue->tx_DiversityIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TimeslotInfoList_r4_tdd384(rtxContext* ctx, const TimeslotInfoList_r4_tdd384* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRAT-UE-RadioAccessCapabilityList");
    const rtxDListNode* node;
    uint32_t i;
-   RT_SET_SIZE(ctx, 1, 14);
+   RT_SET_SIZE(ctx, 1, 4);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "InterRAT-UE-RadioAccessCapabilityList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "TimeslotInfo", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_TimeslotInfo(ctx, (const TimeslotInfo*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "InterRAT-UE-RadioAccessCapability", (int32_t)i, "InterRAT-UE-RadioAccessCapabilityList");
+      stat = asn1PE_UMTS_InterRAT_UE_RadioAccessCapability(ctx, (const InterRAT_UE_RadioAccessCapability*)node->data);
+      RT_CHECK(ctx, stat, 0, "InterRAT-UE-RadioAccessCapability", (int32_t)i, "InterRAT-UE-RadioAccessCapabilityList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_TimeslotInfoList_r4_tdd128(rtxContext* ctx, const TimeslotInfoList_r4_tdd128* pvalue)
+int asn1PE_UMTS_InterRAT_UE_RadioAccessCapability_v590ext(rtxContext* RT_RESTRICT ctx, const InterRAT_UE_RadioAccessCapability_v590ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 6);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "TimeslotInfo-LCR-r4", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_TimeslotInfo_LCR_r4(ctx, (const TimeslotInfo_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRAT-UE-RadioAccessCapability-v590ext");
+   /* geranIu-RadioAccessCapability */
+   stat = asn1PE_UMTS_GERANIu_RadioAccessCapability(ctx, &pvalue->geranIu_RadioAccessCapability);
+   RT_CHECK(ctx, stat, 0, "geranIu-RadioAccessCapability", -1, "InterRAT-UE-RadioAccessCapability-v590ext");
    return 0;
 }
 
-int asn1PE_UMTS_TimeslotInfoList_r4(rtxContext* ctx, const TimeslotInfoList_r4* pvalue)
+int asn1PE_UMTS_InterRAT_UE_SecurityCapability_gsm(rtxContext* RT_RESTRICT ctx, const InterRAT_UE_SecurityCapability_gsm* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TimeslotInfoList-r4");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* gsmSecurityCapability */
+   stat = asn1PE_UMTS_GsmSecurityCapability(ctx, pvalue->gsmSecurityCapability);
+   RT_CHECK(ctx, stat, 0, "gsmSecurityCapability", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_InterRAT_UE_SecurityCapability(rtxContext* RT_RESTRICT ctx, const InterRAT_UE_SecurityCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRAT-UE-SecurityCapability");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 0);
+   RT_CHECK(ctx, stat, 0, "t", -1, "InterRAT-UE-SecurityCapability");
+   if (pvalue->t - 1 > 0) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterRAT-UE-SecurityCapability");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TimeslotInfoList_r4_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TimeslotInfoList_r4_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfo_r4_modeSpecificInfo_tdd(rtxContext* ctx, const CellInfo_r4_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* primaryCCPCH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-Info");
-   stat = asn1PE_UMTS_PrimaryCCPCH_Info_r4(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-      rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-      if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* timeslotInfoList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "timeslotInfoList");
-      stat = asn1PE_UMTS_TimeslotInfoList_r4(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* readSFN-Indicator */
-   rtxCtxtPushElemName(ctx, "readSFN-Indicator");
-   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfo_r4_modeSpecificInfo(rtxContext* ctx, const CellInfo_r4_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellInfo_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellInfo_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm", -1, "InterRAT-UE-SecurityCapability");
+         stat = asn1PE_UMTS_InterRAT_UE_SecurityCapability_gsm(ctx, pvalue->u.gsm);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, "InterRAT-UE-SecurityCapability");
          break;
       default:
          break;
@@ -8555,162 +8878,65 @@ int asn1PE_UMTS_CellInfo_r4_modeSpecificInfo(rtxContext* ctx, const CellInfo_r4_
    return 0;
 }
 
-int asn1PE_UMTS_CellInfo_r4(rtxContext* ctx, const CellInfo_r4* pvalue)
+int asn1PE_UMTS_InterRAT_UE_SecurityCapList(rtxContext* RT_RESTRICT ctx, const InterRAT_UE_SecurityCapList* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellInfo-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 1) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* cellIndividualOffset */
-   if (pvalue->cellIndividualOffset != 0) {
-      rtxCtxtPushElemName(ctx, "cellIndividualOffset");
-      rtxCtxtPushTypeName(ctx, "CellIndividualOffset");
-      if (pvalue->cellIndividualOffset < -20 || pvalue->cellIndividualOffset > 20) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->cellIndividualOffset);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* referenceTimeDifferenceToCell */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "referenceTimeDifferenceToCell");
-      stat = asn1PE_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_CellInfo_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_fdd(rtxContext* ctx, const CellSelectReselectInfoMC_RSCP_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* q-QualMin */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "q-QualMin");
-      rtxCtxtPushTypeName(ctx, "Q-QualMin");
-      if (pvalue->q_QualMin < -24 || pvalue->q_QualMin > 0) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->q_QualMin);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_QualMin, -24, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* q-RxlevMin */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "q-RxlevMin");
-      rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
-      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRAT-UE-SecurityCapList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "InterRAT-UE-SecurityCapList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "InterRAT-UE-SecurityCapability", (int32_t)i, "InterRAT-UE-SecurityCapList");
+      stat = asn1PE_UMTS_InterRAT_UE_SecurityCapability(ctx, (const InterRAT_UE_SecurityCapability*)node->data);
+      RT_CHECK(ctx, stat, 0, "InterRAT-UE-SecurityCapability", (int32_t)i, "InterRAT-UE-SecurityCapList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_tdd(rtxContext* ctx, const CellSelectReselectInfoMC_RSCP_modeSpecificInfo_tdd* pvalue)
+int asn1PE_UMTS_InterRAT_HO_FailureCause(rtxContext* RT_RESTRICT ctx, const InterRAT_HO_FailureCause* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* q-RxlevMin */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "q-RxlevMin");
-      rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
-      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_gsm(rtxContext* ctx, const CellSelectReselectInfoMC_RSCP_modeSpecificInfo_gsm* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* q-RxlevMin */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "q-RxlevMin");
-      rtxCtxtPushTypeName(ctx, "Q-RxlevMin");
-      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo(rtxContext* ctx, const CellSelectReselectInfoMC_RSCP_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRAT-HO-FailureCause");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 15);
+   RT_CHECK(ctx, stat, 0, "t", -1, "InterRAT-HO-FailureCause");
+   if (pvalue->t - 1 > 15) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterRAT-HO-FailureCause");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "gsm");
-         if (pvalue->u.gsm == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.protocolError == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "protocolError", -1, "InterRAT-HO-FailureCause");
+         stat = asn1PE_UMTS_ProtocolErrorInformation(ctx, pvalue->u.protocolError);
+         RT_CHECK(ctx, stat, 0, "protocolError", -1, "InterRAT-HO-FailureCause");
+         break;
+      case 4:
+         break;
+      case 5:
+         break;
+      case 6:
+         break;
+      case 7:
+         break;
+      case 8:
+         break;
+      case 9:
+         break;
+      case 10:
+         break;
+      case 11:
+         break;
+      case 12:
+         break;
+      case 13:
+         break;
+      case 14:
+         break;
+      case 15:
+         break;
+      case 16:
          break;
       default:
          break;
@@ -8718,301 +8944,92 @@ int asn1PE_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo(rtxContext* ctx, 
    return 0;
 }
 
-int asn1PE_UMTS_CellSelectReselectInfoMC_RSCP(rtxContext* ctx, const CellSelectReselectInfoMC_RSCP* pvalue)
+int asn1PE_UMTS_TDD_UMTS_Frequency_List(rtxContext* RT_RESTRICT ctx, const TDD_UMTS_Frequency_List* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellSelectReselectInfoMC-RSCP");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TDD-UMTS-Frequency-List");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "TDD-UMTS-Frequency-List");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "FrequencyInfoTDD", (int32_t)i, "TDD-UMTS-Frequency-List");
+      stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, (const FrequencyInfoTDD*)node->data);
+      RT_CHECK(ctx, stat, 0, "FrequencyInfoTDD", (int32_t)i, "TDD-UMTS-Frequency-List");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Rplmn_Information(rtxContext* RT_RESTRICT ctx, const Rplmn_Information* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Rplmn-Information");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->q_OffsetS_N != 0) << 2) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* q-OffsetS-N */
-   if (pvalue->q_OffsetS_N != 0) {
-      rtxCtxtPushElemName(ctx, "q-OffsetS-N");
-      rtxCtxtPushTypeName(ctx, "Q-OffsetS-N");
-      if (pvalue->q_OffsetS_N < -50 || pvalue->q_OffsetS_N > 50) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->q_OffsetS_N);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_OffsetS_N, -50, 50);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Rplmn-Information");
+   /* gsm-BA-Range-List */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_GSM_BA_Range_List(ctx, &pvalue->gsm_BA_Range_List);
+      RT_CHECK(ctx, stat, 0, "gsm-BA-Range-List", -1, "Rplmn-Information");
    }
-   /* hcs-NeighbouringCellInformation-RSCP */
+   /* fdd-UMTS-Frequency-List */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "hcs-NeighbouringCellInformation-RSCP");
-      stat = asn1PE_UMTS_HCS_NeighbouringCellInformation_RSCP(ctx, &pvalue->hcs_NeighbouringCellInformation_RSCP);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_FDD_UMTS_Frequency_List(ctx, &pvalue->fdd_UMTS_Frequency_List);
+      RT_CHECK(ctx, stat, 0, "fdd-UMTS-Frequency-List", -1, "Rplmn-Information");
    }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   /* tdd-UMTS-Frequency-List */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_TDD_UMTS_Frequency_List(ctx, &pvalue->tdd_UMTS_Frequency_List);
+      RT_CHECK(ctx, stat, 0, "tdd-UMTS-Frequency-List", -1, "Rplmn-Information");
+   }
+   /* cdma2000-UMTS-Frequency-List */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_CDMA2000_UMTS_Frequency_List(ctx, &pvalue->cdma2000_UMTS_Frequency_List);
+      RT_CHECK(ctx, stat, 0, "cdma2000-UMTS-Frequency-List", -1, "Rplmn-Information");
+   }
    return 0;
 }
 
-int asn1PE_UMTS_CellInfo_LCR_r8_ext(rtxContext* ctx, const CellInfo_LCR_r8_ext* pvalue)
+int asn1PE_UMTS_Rplmn_Information_r4(rtxContext* RT_RESTRICT ctx, const Rplmn_Information_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellInfo-LCR-r8-ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Rplmn-Information-r4");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellSelectionReselectionInfo */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "Rplmn-Information-r4");
+   /* gsm-BA-Range-List */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellSelectionReselectionInfo");
-      stat = asn1PE_UMTS_CellSelectReselectInfoMC_RSCP(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_GSM_BA_Range_List(ctx, &pvalue->gsm_BA_Range_List);
+      RT_CHECK(ctx, stat, 0, "gsm-BA-Range-List", -1, "Rplmn-Information-r4");
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfo_r9_modeSpecificInfo_fdd(rtxContext* ctx, const CellInfo_r9_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* primaryCPICH-Info */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* primaryCPICH-TX-Power */
+   /* fdd-UMTS-Frequency-List */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "primaryCPICH-TX-Power");
-      rtxCtxtPushTypeName(ctx, "PrimaryCPICH-TX-Power");
-      if (pvalue->primaryCPICH_TX_Power < -10 || pvalue->primaryCPICH_TX_Power > 50) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->primaryCPICH_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->primaryCPICH_TX_Power, -10, 50);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_FDD_UMTS_Frequency_List(ctx, &pvalue->fdd_UMTS_Frequency_List);
+      RT_CHECK(ctx, stat, 0, "fdd-UMTS-Frequency-List", -1, "Rplmn-Information-r4");
    }
-   /* readSFN-Indicator */
-   rtxCtxtPushElemName(ctx, "readSFN-Indicator");
-   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tx-DiversityIndicator */
-   rtxCtxtPushElemName(ctx, "tx-DiversityIndicator");
-   stat = rtxEncBit(ctx, pvalue->tx_DiversityIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfo_r9_modeSpecificInfo_tdd(rtxContext* ctx, const CellInfo_r9_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* primaryCCPCH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-Info");
-   stat = asn1PE_UMTS_PrimaryCCPCH_Info_r4(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-      rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-      if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+   /* tdd384-UMTS-Frequency-List */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_TDD_UMTS_Frequency_List(ctx, &pvalue->tdd384_UMTS_Frequency_List);
+      RT_CHECK(ctx, stat, 0, "tdd384-UMTS-Frequency-List", -1, "Rplmn-Information-r4");
    }
-   /* timeslotInfoList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "timeslotInfoList");
-      stat = asn1PE_UMTS_TimeslotInfoList_r4(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   /* tdd128-UMTS-Frequency-List */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_TDD_UMTS_Frequency_List(ctx, &pvalue->tdd128_UMTS_Frequency_List);
+      RT_CHECK(ctx, stat, 0, "tdd128-UMTS-Frequency-List", -1, "Rplmn-Information-r4");
    }
-   /* readSFN-Indicator */
-   rtxCtxtPushElemName(ctx, "readSFN-Indicator");
-   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfo_r9_modeSpecificInfo(rtxContext* ctx, const CellInfo_r9_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellInfo_r9_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellInfo_r9_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
+   /* cdma2000-UMTS-Frequency-List */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_CDMA2000_UMTS_Frequency_List(ctx, &pvalue->cdma2000_UMTS_Frequency_List);
+      RT_CHECK(ctx, stat, 0, "cdma2000-UMTS-Frequency-List", -1, "Rplmn-Information-r4");
    }
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfo_r9(rtxContext* ctx, const CellInfo_r9* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellInfo-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 2) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* cellIndividualOffset */
-   if (pvalue->cellIndividualOffset != 0) {
-      rtxCtxtPushElemName(ctx, "cellIndividualOffset");
-      rtxCtxtPushTypeName(ctx, "CellIndividualOffset");
-      if (pvalue->cellIndividualOffset < -20 || pvalue->cellIndividualOffset > 20) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->cellIndividualOffset);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* referenceTimeDifferenceToCell */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "referenceTimeDifferenceToCell");
-      stat = asn1PE_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_CellInfo_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellSelectionReselectionInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "cellSelectionReselectionInfo");
-      stat = asn1PE_UMTS_CellSelectReselectInfoMC_RSCP(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SFN_SFN_ObsTimeDifference1(rtxContext* ctx, SFN_SFN_ObsTimeDifference1 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SFN-SFN-ObsTimeDifference1");
-   if ((uint64_t)value > 16777215u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 16777215);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SFN_SFN_ObsTimeDifference2(rtxContext* ctx, SFN_SFN_ObsTimeDifference2 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SFN-SFN-ObsTimeDifference2");
-   stat = pe_ConsUInt64(ctx, value, 0, 65535);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SFN_SFN_ObsTimeDifference(rtxContext* ctx, const SFN_SFN_ObsTimeDifference* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SFN-SFN-ObsTimeDifference");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "type1");
-         rtxCtxtPushTypeName(ctx, "SFN-SFN-ObsTimeDifference1");
-         if ((uint64_t)pvalue->u.type1 > 16777215u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.type1);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.type1, 0, 16777215);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "type2");
-         rtxCtxtPushTypeName(ctx, "SFN-SFN-ObsTimeDifference2");
-         stat = pe_ConsUInt64(ctx, pvalue->u.type2, 0, 65535);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 

@@ -6,838 +6,1364 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PE_UMTS_CountC_SFN_Frame_difference(rtxContext* ctx, const CountC_SFN_Frame_difference* pvalue)
+int asn1PE_UMTS_SysInfoType4_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType4_v4b0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CountC-SFN-Frame-difference");
-   /* countC-SFN-High */
-   rtxCtxtPushElemName(ctx, "countC-SFN-High");
-   if ((uint64_t)pvalue->countC_SFN_High > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->countC_SFN_High);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->countC_SFN_High, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* off */
-   rtxCtxtPushElemName(ctx, "off");
-   stat = pe_ConsUInt64(ctx, pvalue->off, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellSynchronisationInfo_modeSpecificInfo_fdd(rtxContext* ctx, const CellSynchronisationInfo_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType4-v4b0ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* countC-SFN-Frame-difference */
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType4-v4b0ext-IEs");
+   /* mapping-LCR */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "countC-SFN-Frame-difference");
-      stat = asn1PE_UMTS_CountC_SFN_Frame_difference(ctx, &pvalue->countC_SFN_Frame_difference);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_Mapping_LCR_r4(ctx, &pvalue->mapping_LCR);
+      RT_CHECK(ctx, stat, 0, "mapping-LCR", -1, "SysInfoType4-v4b0ext-IEs");
    }
-   /* tm */
-   rtxCtxtPushElemName(ctx, "tm");
-   if ((uint64_t)pvalue->tm > 38399u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->tm);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tm, 0, 38399);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_CellSynchronisationInfo_modeSpecificInfo_tdd(rtxContext* ctx, const CellSynchronisationInfo_modeSpecificInfo_tdd* pvalue)
+int asn1PE_UMTS_SysInfoType4_v590ext(rtxContext* RT_RESTRICT ctx, const SysInfoType4_v590ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType4-v590ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* countC-SFN-Frame-difference */
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType4-v590ext");
+   /* cellSelectReselectInfo-v590ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "countC-SFN-Frame-difference");
-      stat = asn1PE_UMTS_CountC_SFN_Frame_difference(ctx, &pvalue->countC_SFN_Frame_difference);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CellSelectReselectInfo_v590ext(ctx, &pvalue->cellSelectReselectInfo_v590ext);
+      RT_CHECK(ctx, stat, 0, "cellSelectReselectInfo-v590ext", -1, "SysInfoType4-v590ext");
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellSynchronisationInfo_modeSpecificInfo(rtxContext* ctx, const CellSynchronisationInfo_modeSpecificInfo* pvalue)
+int asn1PE_UMTS_SysInfoType4_v5b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType4_v5b0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellSynchronisationInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellSynchronisationInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSynchronisationInfo(rtxContext* ctx, const CellSynchronisationInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellSynchronisationInfo");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_CellSynchronisationInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CPICH_Ec_N0(rtxContext* ctx, CPICH_Ec_N0 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CPICH-Ec-N0");
-   if ((uint64_t)value > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CPICH_RSCP(rtxContext* ctx, CPICH_RSCP value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "CPICH-RSCP");
-   if ((uint64_t)value > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Pathloss(rtxContext* ctx, Pathloss value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Pathloss");
-   if ((uint64_t)(value - 46) > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 46, 173);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellMeasuredResults_modeSpecificInfo_fdd(rtxContext* ctx, const CellMeasuredResults_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType4-v5b0ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cpich-Ec-N0 */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType4-v5b0ext-IEs");
+   /* cellSelectReselectInfoPCHFACH-v5b0ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cpich-Ec-N0");
-      rtxCtxtPushTypeName(ctx, "CPICH-Ec-N0");
-      if ((uint64_t)pvalue->cpich_Ec_N0 > 63u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->cpich_Ec_N0);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->cpich_Ec_N0, 0, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cpich-RSCP */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "cpich-RSCP");
-      rtxCtxtPushTypeName(ctx, "CPICH-RSCP");
-      if ((uint64_t)pvalue->cpich_RSCP > 127u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->cpich_RSCP);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->cpich_RSCP, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pathloss */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "pathloss");
-      rtxCtxtPushTypeName(ctx, "Pathloss");
-      if ((uint64_t)(pvalue->pathloss - 46) > 127u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->pathloss);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->pathloss, 46, 173);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CellSelectReselectInfoPCHFACH_v5b0ext(ctx, &pvalue->cellSelectReselectInfoPCHFACH_v5b0ext);
+      RT_CHECK(ctx, stat, 0, "cellSelectReselectInfoPCHFACH-v5b0ext", -1, "SysInfoType4-v5b0ext-IEs");
    }
    return 0;
 }
 
-int asn1PE_UMTS_PrimaryCCPCH_RSCP(rtxContext* ctx, PrimaryCCPCH_RSCP value)
+int asn1PE_UMTS_SysInfoType4_v5c0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType4_v5c0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-RSCP");
-   if ((uint64_t)value > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TimeslotISCP(rtxContext* ctx, TimeslotISCP value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TimeslotISCP");
-   if ((uint64_t)value > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TimeslotISCP_List(rtxContext* ctx, const TimeslotISCP_List* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "TimeslotISCP-List");
-   RT_SET_SIZE(ctx, 1, 14);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "TimeslotISCP", i);
-      rtxCtxtPushTypeName(ctx, "TimeslotISCP");
-      if ((uint64_t)pvalue->elem[i] > 127u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellMeasuredResults_modeSpecificInfo_tdd(rtxContext* ctx, const CellMeasuredResults_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType4-v5c0ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* cellParametersID */
-   rtxCtxtPushElemName(ctx, "cellParametersID");
-   rtxCtxtPushTypeName(ctx, "CellParametersID");
-   if ((uint64_t)pvalue->cellParametersID > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cellParametersID, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* proposedTGSN */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType4-v5c0ext-IEs");
+   /* cellSelectReselectInfoTreselectionScaling-v5c0ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "proposedTGSN");
-      rtxCtxtPushTypeName(ctx, "TGSN");
-      if ((uint64_t)pvalue->proposedTGSN > 14u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->proposedTGSN);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->proposedTGSN, 0, 14);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* primaryCCPCH-RSCP */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "primaryCCPCH-RSCP");
-      rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-RSCP");
-      if ((uint64_t)pvalue->primaryCCPCH_RSCP > 127u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_RSCP);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_RSCP, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pathloss */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "pathloss");
-      rtxCtxtPushTypeName(ctx, "Pathloss");
-      if ((uint64_t)(pvalue->pathloss - 46) > 127u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->pathloss);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->pathloss, 46, 173);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* timeslotISCP-List */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "timeslotISCP-List");
-      stat = asn1PE_UMTS_TimeslotISCP_List(ctx, &pvalue->timeslotISCP_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CellSelectReselectInfoTreselectionScaling_v5c0ext(ctx, &pvalue->cellSelectReselectInfoTreselectionScaling_v5c0ext);
+      RT_CHECK(ctx, stat, 0, "cellSelectReselectInfoTreselectionScaling-v5c0ext", -1, "SysInfoType4-v5c0ext-IEs");
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellMeasuredResults_modeSpecificInfo(rtxContext* ctx, const CellMeasuredResults_modeSpecificInfo* pvalue)
+int asn1PE_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellMeasuredResults_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellMeasuredResults_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CellMeasuredResults(rtxContext* ctx, const CellMeasuredResults* pvalue)
+int asn1PE_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellMeasuredResults");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType4-v5c0ext */
+   stat = asn1PE_UMTS_SysInfoType4_v5c0ext_IEs(ctx, &pvalue->sysInfoType4_v5c0ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType4-v5c0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType4-v5b0ext */
+   stat = asn1PE_UMTS_SysInfoType4_v5b0ext_IEs(ctx, &pvalue->sysInfoType4_v5b0ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType4-v5b0ext", -1, 0);
+   /* v5c0NonCriticalExtension */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension(ctx, &pvalue->v5c0NonCriticalExtension);
+      RT_CHECK(ctx, stat, 0, "v5c0NonCriticalExtension", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType4-v590ext */
+   stat = asn1PE_UMTS_SysInfoType4_v590ext(ctx, &pvalue->sysInfoType4_v590ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType4-v590ext", -1, 0);
+   /* v5b0NonCriticalExtension */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension(ctx, &pvalue->v5b0NonCriticalExtension);
+      RT_CHECK(ctx, stat, 0, "v5b0NonCriticalExtension", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType4_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType4_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType4-v4b0ext */
+   stat = asn1PE_UMTS_SysInfoType4_v4b0ext_IEs(ctx, &pvalue->sysInfoType4_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType4-v4b0ext", -1, 0);
+   /* v590NonCriticalExtension */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension(ctx, &pvalue->v590NonCriticalExtension);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtension", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType4(rtxContext* RT_RESTRICT ctx, const SysInfoType4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType4");
    /* cellIdentity */
+   stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->cellIdentity);
+   RT_CHECK(ctx, stat, 0, "cellIdentity", -1, "SysInfoType4");
+   /* cellSelectReselectInfo */
+   stat = asn1PE_UMTS_CellSelectReselectInfoSIB_3_4(ctx, &pvalue->cellSelectReselectInfo);
+   RT_CHECK(ctx, stat, 0, "cellSelectReselectInfo", -1, "SysInfoType4");
+   /* cellAccessRestriction */
+   stat = asn1PE_UMTS_CellAccessRestriction(ctx, &pvalue->cellAccessRestriction);
+   RT_CHECK(ctx, stat, 0, "cellAccessRestriction", -1, "SysInfoType4");
+   /* v4b0NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellIdentity");
-      stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->cellIdentity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_SysInfoType4_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType4");
    }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType5bis(rtxContext* RT_RESTRICT ctx, const SysInfoType5bis* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType5bis");
+   stat = asn1PE_UMTS_SysInfoType5(ctx, pvalue);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5bis");
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SysInfoType6_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* aich-PowerOffset */
+   if (pvalue->aich_PowerOffset < -22 || pvalue->aich_PowerOffset > 5) {
+      rtxErrAddStrParm(ctx, "AICH-PowerOffset");
+      rtxErrAddIntParm(ctx, pvalue->aich_PowerOffset);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "AICH-PowerOffset", "aich-PowerOffset", -1, 0);
+   }
+   stat = pe_ConsInt64(ctx, pvalue->aich_PowerOffset, -22, 5);
+   RT_CHECK(ctx, stat, "AICH-PowerOffset", "aich-PowerOffset", -1, 0);
    /* dummy */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      stat = asn1PE_UMTS_SFN_SFN_ObsTimeDifference(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   if (pvalue->m & 0x1u) {
+      if (pvalue->dummy < -10 || pvalue->dummy > 5) {
+         rtxErrAddStrParm(ctx, "CSICH-PowerOffset");
+         rtxErrAddIntParm(ctx, pvalue->dummy);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "CSICH-PowerOffset", "dummy", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->dummy, -10, 5);
+      RT_CHECK(ctx, stat, "CSICH-PowerOffset", "dummy", -1, 0);
    }
-   /* cellSynchronisationInfo */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "cellSynchronisationInfo");
-      stat = asn1PE_UMTS_CellSynchronisationInfo(ctx, &pvalue->cellSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_CellMeasuredResults_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_DeltaRSCPPerCell(rtxContext* ctx, const DeltaRSCPPerCell* pvalue)
+int asn1PE_UMTS_SysInfoType6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const SysInfoType6_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DeltaRSCPPerCell");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* pusch-SysInfoList-SFN */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PUSCH_SysInfoList_SFN(ctx, &pvalue->pusch_SysInfoList_SFN);
+      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
+   }
+   /* pdsch-SysInfoList-SFN */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_PDSCH_SysInfoList_SFN(ctx, &pvalue->pdsch_SysInfoList_SFN);
+      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
+   }
+   /* openLoopPowerControl-TDD */
+   stat = asn1PE_UMTS_OpenLoopPowerControl_TDD(ctx, &pvalue->openLoopPowerControl_TDD);
+   RT_CHECK(ctx, stat, 0, "openLoopPowerControl-TDD", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType6_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_SysInfoType6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_SysInfoType6_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType6_v4b0ext_IEs_tdd128SpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType6_v4b0ext_IEs_tdd128SpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* pusch-SysInfoList-SFN */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PUSCH_SysInfoList_SFN_LCR_r4(ctx, &pvalue->pusch_SysInfoList_SFN);
+      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
+   }
+   /* pdsch-SysInfoList-SFN */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_PDSCH_SysInfoList_SFN_LCR_r4(ctx, &pvalue->pdsch_SysInfoList_SFN);
+      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
+   }
+   /* pCCPCH-LCR-Extensions */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_PrimaryCCPCH_Info_LCR_r4_ext(ctx, &pvalue->pCCPCH_LCR_Extensions);
+      RT_CHECK(ctx, stat, 0, "pCCPCH-LCR-Extensions", -1, 0);
+   }
+   /* sCCPCH-LCR-ExtensionsList */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_SCCPCH_SystemInformationList_LCR_r4_ext(ctx, &pvalue->sCCPCH_LCR_ExtensionsList);
+      RT_CHECK(ctx, stat, 0, "sCCPCH-LCR-ExtensionsList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType6_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType6_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType6-v4b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType6-v4b0ext-IEs");
+   /* openLoopPowerControl-IPDL-TDD */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_OpenLoopPowerControl_IPDL_TDD_r4(ctx, &pvalue->openLoopPowerControl_IPDL_TDD);
+      RT_CHECK(ctx, stat, 0, "openLoopPowerControl-IPDL-TDD", -1, "SysInfoType6-v4b0ext-IEs");
+   }
+   /* prach-SystemInformationList-LCR-r4 */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_PRACH_SystemInformationList_LCR_r4(ctx, &pvalue->prach_SystemInformationList_LCR_r4);
+      RT_CHECK(ctx, stat, 0, "prach-SystemInformationList-LCR-r4", -1, "SysInfoType6-v4b0ext-IEs");
+   }
+   /* tdd128SpecificInfo */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_SysInfoType6_v4b0ext_IEs_tdd128SpecificInfo(ctx, &pvalue->tdd128SpecificInfo);
+      RT_CHECK(ctx, stat, 0, "tdd128SpecificInfo", -1, "SysInfoType6-v4b0ext-IEs");
+   }
+   /* frequencyBandIndicator */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->frequencyBandIndicator > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->frequencyBandIndicator);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandFDD", "frequencyBandIndicator", -1, "SysInfoType6-v4b0ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->frequencyBandIndicator, 0, 7);
+      RT_CHECK(ctx, stat, "RadioFrequencyBandFDD", "frequencyBandIndicator", -1, "SysInfoType6-v4b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType6_v590ext_IEs_hcr_r5_SpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType6_v590ext_IEs_hcr_r5_SpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* pusch-SysInfoList-SFN */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PUSCH_SysInfoList_SFN_HCR_r5(ctx, &pvalue->pusch_SysInfoList_SFN);
+      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
+   }
+   /* pdsch-SysInfoList-SFN */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_PDSCH_SysInfoList_SFN_HCR_r5(ctx, &pvalue->pdsch_SysInfoList_SFN);
+      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType6_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType6_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType6-v590ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* deltaRSCP */
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType6-v590ext-IEs");
+   /* hcr-r5-SpecificInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "deltaRSCP");
-      rtxCtxtPushTypeName(ctx, "DeltaRSCP");
-      if (pvalue->deltaRSCP < -5 || pvalue->deltaRSCP > -1) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->deltaRSCP);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->deltaRSCP, -5, -1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_SysInfoType6_v590ext_IEs_hcr_r5_SpecificInfo(ctx, &pvalue->hcr_r5_SpecificInfo);
+      RT_CHECK(ctx, stat, 0, "hcr-r5-SpecificInfo", -1, "SysInfoType6-v590ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_CellMeasuredResults_r9_modeSpecificInfo_fdd(rtxContext* ctx, const CellMeasuredResults_r9_modeSpecificInfo_fdd* pvalue)
+int asn1PE_UMTS_SysInfoType6_v650ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType6_v650ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType6-v650ext-IEs");
+   /* frequencyBandIndicator2 */
+   if (pvalue->frequencyBandIndicator2 > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->frequencyBandIndicator2);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandFDD2", "frequencyBandIndicator2", -1, "SysInfoType6-v650ext-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->frequencyBandIndicator2, 0, 15);
+   RT_CHECK(ctx, stat, "RadioFrequencyBandFDD2", "frequencyBandIndicator2", -1, "SysInfoType6-v650ext-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType6_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType6_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType6-v690ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cpich-Ec-N0 */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType6-v690ext-IEs");
+   /* additionalPRACH-TF-and-TFCS-CCCH-List */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cpich-Ec-N0");
-      rtxCtxtPushTypeName(ctx, "CPICH-Ec-N0");
-      if ((uint64_t)pvalue->cpich_Ec_N0 > 63u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->cpich_Ec_N0);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->cpich_Ec_N0, 0, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cpich-RSCP */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "cpich-RSCP");
-      rtxCtxtPushTypeName(ctx, "CPICH-RSCP");
-      if ((uint64_t)pvalue->cpich_RSCP > 127u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->cpich_RSCP);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->cpich_RSCP, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* deltaRSCPPerCell */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "deltaRSCPPerCell");
-      stat = asn1PE_UMTS_DeltaRSCPPerCell(ctx, &pvalue->deltaRSCPPerCell);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pathloss */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "pathloss");
-      rtxCtxtPushTypeName(ctx, "Pathloss");
-      if ((uint64_t)(pvalue->pathloss - 46) > 127u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->pathloss);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->pathloss, 46, 173);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH_List(ctx, &pvalue->additionalPRACH_TF_and_TFCS_CCCH_List);
+      RT_CHECK(ctx, stat, 0, "additionalPRACH-TF-and-TFCS-CCCH-List", -1, "SysInfoType6-v690ext-IEs");
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellMeasuredResults_r9_modeSpecificInfo_tdd(rtxContext* ctx, const CellMeasuredResults_r9_modeSpecificInfo_tdd* pvalue)
+int asn1PE_UMTS_SysInfoType6_v770ext_IEs_tdd768SpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType6_v770ext_IEs_tdd768SpecificInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* cellParametersID */
-   rtxCtxtPushElemName(ctx, "cellParametersID");
-   rtxCtxtPushTypeName(ctx, "CellParametersID");
-   if ((uint64_t)pvalue->cellParametersID > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cellParametersID, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* proposedTGSN */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* pusch-SysInfoList-SFN */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "proposedTGSN");
-      rtxCtxtPushTypeName(ctx, "TGSN");
-      if ((uint64_t)pvalue->proposedTGSN > 14u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->proposedTGSN);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->proposedTGSN, 0, 14);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_PUSCH_SysInfoList_SFN_VHCR(ctx, &pvalue->pusch_SysInfoList_SFN);
+      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
    }
-   /* primaryCCPCH-RSCP */
+   /* pdsch-SysInfoList-SFN */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "primaryCCPCH-RSCP");
-      rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-RSCP");
-      if ((uint64_t)pvalue->primaryCCPCH_RSCP > 127u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_RSCP);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_RSCP, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_PDSCH_SysInfoList_VHCR_r7(ctx, &pvalue->pdsch_SysInfoList_SFN);
+      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
    }
-   /* pathloss */
+   /* prach-SystemInformationList */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "pathloss");
-      rtxCtxtPushTypeName(ctx, "Pathloss");
-      if ((uint64_t)(pvalue->pathloss - 46) > 127u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->pathloss);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->pathloss, 46, 173);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* timeslotISCP-List */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "timeslotISCP-List");
-      stat = asn1PE_UMTS_TimeslotISCP_List(ctx, &pvalue->timeslotISCP_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_PRACH_SystemInformationList_VHCR_r7(ctx, &pvalue->prach_SystemInformationList);
+      RT_CHECK(ctx, stat, 0, "prach-SystemInformationList", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellMeasuredResults_r9_modeSpecificInfo(rtxContext* ctx, const CellMeasuredResults_r9_modeSpecificInfo* pvalue)
+int asn1PE_UMTS_SysInfoType6_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType6_v770ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellMeasuredResults_r9_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellMeasuredResults_r9_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellMeasuredResults_r9(rtxContext* ctx, const CellMeasuredResults_r9* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellMeasuredResults-r9");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType6-v770ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* cellIdentity */
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType6-v770ext-IEs");
+   /* tdd768SpecificInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellIdentity");
-      stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->cellIdentity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_SysInfoType6_v770ext_IEs_tdd768SpecificInfo(ctx, &pvalue->tdd768SpecificInfo);
+      RT_CHECK(ctx, stat, 0, "tdd768SpecificInfo", -1, "SysInfoType6-v770ext-IEs");
    }
-   /* cellSynchronisationInfo */
+   /* sccpch-SystemInformationList */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "cellSynchronisationInfo");
-      stat = asn1PE_UMTS_CellSynchronisationInfo(ctx, &pvalue->cellSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_SCCPCH_SystemInformationList_HCR_VHCR_r7(ctx, &pvalue->sccpch_SystemInformationList);
+      RT_CHECK(ctx, stat, 0, "sccpch-SystemInformationList", -1, "SysInfoType6-v770ext-IEs");
    }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType6-v770ext */
+   stat = asn1PE_UMTS_SysInfoType6_v770ext_IEs(ctx, &pvalue->sysInfoType6_v770ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType6-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType6-v690ext */
+   stat = asn1PE_UMTS_SysInfoType6_v690ext_IEs(ctx, &pvalue->sysInfoType6_v690ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType6-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType6-v650ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType6_v650ext_IEs(ctx, &pvalue->sysInfoType6_v650ext);
+      RT_CHECK(ctx, stat, 0, "sysInfoType6-v650ext", -1, 0);
+   }
+   /* v690nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions(ctx, &pvalue->v690nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType6-v590ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType6_v590ext_IEs(ctx, &pvalue->sysInfoType6_v590ext);
+      RT_CHECK(ctx, stat, 0, "sysInfoType6-v590ext", -1, 0);
+   }
+   /* v650nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions(ctx, &pvalue->v650nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v650nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType6_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType6_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType6-v4b0ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType6_v4b0ext_IEs(ctx, &pvalue->sysInfoType6_v4b0ext);
+      RT_CHECK(ctx, stat, 0, "sysInfoType6-v4b0ext", -1, 0);
+   }
+   /* v590NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType6(rtxContext* RT_RESTRICT ctx, const SysInfoType6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType6");
+   /* pich-PowerOffset */
+   if (pvalue->pich_PowerOffset < -10 || pvalue->pich_PowerOffset > 5) {
+      rtxErrAddStrParm(ctx, "PICH-PowerOffset");
+      rtxErrAddIntParm(ctx, pvalue->pich_PowerOffset);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PICH-PowerOffset", "pich-PowerOffset", -1, "SysInfoType6");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->pich_PowerOffset, -10, 5);
+   RT_CHECK(ctx, stat, "PICH-PowerOffset", "pich-PowerOffset", -1, "SysInfoType6");
    /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_CellMeasuredResults_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellMeasuredResults_v920ext_csgMemberIndication(rtxContext* ctx, CellMeasuredResults_v920ext_csgMemberIndication value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+   stat = asn1PE_UMTS_SysInfoType6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SysInfoType6");
+   /* primaryCCPCH-Info */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info);
+      RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "SysInfoType6");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
+   /* prach-SystemInformationList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_PRACH_SystemInformationList(ctx, &pvalue->prach_SystemInformationList);
+      RT_CHECK(ctx, stat, 0, "prach-SystemInformationList", -1, "SysInfoType6");
+   }
+   /* sCCPCH-SystemInformationList */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_SCCPCH_SystemInformationList(ctx, &pvalue->sCCPCH_SystemInformationList);
+      RT_CHECK(ctx, stat, 0, "sCCPCH-SystemInformationList", -1, "SysInfoType6");
+   }
+   /* cbs-DRX-Level1Information */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_CBS_DRX_Level1Information(ctx, &pvalue->cbs_DRX_Level1Information);
+      RT_CHECK(ctx, stat, 0, "cbs-DRX-Level1Information", -1, "SysInfoType6");
+   }
+   /* v4b0NonCriticalExtensions */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_SysInfoType6_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType6");
+   }
    return 0;
 }
 
-int asn1PE_UMTS_CellMeasuredResults_v920ext(rtxContext* ctx, const CellMeasuredResults_v920ext* pvalue)
+int asn1PE_UMTS_SysInfoType8_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType8_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellMeasuredResults-v920ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType8(rtxContext* RT_RESTRICT ctx, const SysInfoType8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType8");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType8");
+   /* dummy1 */
+   stat = asn1PE_UMTS_CPCH_Parameters(ctx, &pvalue->dummy1);
+   RT_CHECK(ctx, stat, 0, "dummy1", -1, "SysInfoType8");
+   /* dummy2 */
+   stat = asn1PE_UMTS_CPCH_SetInfoList(ctx, &pvalue->dummy2);
+   RT_CHECK(ctx, stat, 0, "dummy2", -1, "SysInfoType8");
+   /* dummy3 */
+   if (pvalue->dummy3 < -10 || pvalue->dummy3 > 5) {
+      rtxErrAddStrParm(ctx, "CSICH-PowerOffset");
+      rtxErrAddIntParm(ctx, pvalue->dummy3);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "CSICH-PowerOffset", "dummy3", -1, "SysInfoType8");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->dummy3, -10, 5);
+   RT_CHECK(ctx, stat, "CSICH-PowerOffset", "dummy3", -1, "SysInfoType8");
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType8_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType9_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType9(rtxContext* RT_RESTRICT ctx, const SysInfoType9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType9");
+   /* dummy */
+   stat = asn1PE_UMTS_CPCH_PersistenceLevelsList(ctx, &pvalue->dummy);
+   RT_CHECK(ctx, stat, 0, "dummy", -1, "SysInfoType9");
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType10_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType10_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType10(rtxContext* RT_RESTRICT ctx, const SysInfoType10* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType10");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType10");
+   /* dummy */
+   stat = asn1PE_UMTS_DRAC_SysInfoList(ctx, &pvalue->dummy);
+   RT_CHECK(ctx, stat, 0, "dummy", -1, "SysInfoType10");
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType10_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType10");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType13_v3a0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType13_v3a0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType13-v3a0ext-IEs");
+   /* ue-IdleTimersAndConstants-v3a0ext */
+   stat = asn1PE_UMTS_UE_IdleTimersAndConstants_v3a0ext(ctx, &pvalue->ue_IdleTimersAndConstants_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "ue-IdleTimersAndConstants-v3a0ext", -1, "SysInfoType13-v3a0ext-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType13_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType13_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType13-v4b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType13-v4b0ext-IEs");
+   /* capabilityUpdateRequirement-r4Ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CapabilityUpdateRequirement_r4_ext(ctx, &pvalue->capabilityUpdateRequirement_r4Ext);
+      RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement-r4Ext", -1, "SysInfoType13-v4b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType13_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType13_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType13-v770ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType13-v770ext-IEs");
+   /* capabilityUpdateRequirement */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CapabilityUpdateRequirement_v770ext(ctx, &pvalue->capabilityUpdateRequirement);
+      RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement", -1, "SysInfoType13-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType13-v770ext */
+   stat = asn1PE_UMTS_SysInfoType13_v770ext_IEs(ctx, &pvalue->sysInfoType13_v770ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType13-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType13-v4b0ext */
+   stat = asn1PE_UMTS_SysInfoType13_v4b0ext_IEs(ctx, &pvalue->sysInfoType13_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType13-v4b0ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType13_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType13_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType13-v3a0ext */
+   stat = asn1PE_UMTS_SysInfoType13_v3a0ext_IEs(ctx, &pvalue->sysInfoType13_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType13-v3a0ext", -1, 0);
+   /* v4b0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType13(rtxContext* RT_RESTRICT ctx, const SysInfoType13* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType13");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType13");
+   /* cn-DomainSysInfoList */
+   stat = asn1PE_UMTS_CN_DomainSysInfoList(ctx, &pvalue->cn_DomainSysInfoList);
+   RT_CHECK(ctx, stat, 0, "cn-DomainSysInfoList", -1, "SysInfoType13");
+   /* ue-IdleTimersAndConstants */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_IdleTimersAndConstants(ctx, &pvalue->ue_IdleTimersAndConstants);
+      RT_CHECK(ctx, stat, 0, "ue-IdleTimersAndConstants", -1, "SysInfoType13");
+   }
+   /* capabilityUpdateRequirement */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CapabilityUpdateRequirement(ctx, &pvalue->capabilityUpdateRequirement);
+      RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement", -1, "SysInfoType13");
+   }
+   /* v3a0NonCriticalExtensions */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_SysInfoType13_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, "SysInfoType13");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ANSI_41_RAND_Information(rtxContext* RT_RESTRICT ctx, const ANSI_41_RAND_Information* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ANSI-41-RAND-Information");
+   stat = asn1PE_UMTS_ANSI_41_NAS_Parameter(ctx, pvalue);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ANSI-41-RAND-Information");
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType13_1_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType13_1_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType13_1(rtxContext* RT_RESTRICT ctx, const SysInfoType13_1* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType13-1");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType13-1");
+   /* ansi-41-RAND-Information */
+   stat = asn1PE_UMTS_ANSI_41_RAND_Information(ctx, &pvalue->ansi_41_RAND_Information);
+   RT_CHECK(ctx, stat, 0, "ansi-41-RAND-Information", -1, "SysInfoType13-1");
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType13_1_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType13-1");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ANSI_41_UserZoneID_Information(rtxContext* RT_RESTRICT ctx, const ANSI_41_UserZoneID_Information* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ANSI-41-UserZoneID-Information");
+   stat = asn1PE_UMTS_ANSI_41_NAS_Parameter(ctx, pvalue);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ANSI-41-UserZoneID-Information");
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType13_2_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType13_2_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType13_2(rtxContext* RT_RESTRICT ctx, const SysInfoType13_2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType13-2");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType13-2");
+   /* ansi-41-UserZoneID-Information */
+   stat = asn1PE_UMTS_ANSI_41_UserZoneID_Information(ctx, &pvalue->ansi_41_UserZoneID_Information);
+   RT_CHECK(ctx, stat, 0, "ansi-41-UserZoneID-Information", -1, "SysInfoType13-2");
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType13_2_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType13-2");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ANSI_41_PrivateNeighbourListInfo(rtxContext* RT_RESTRICT ctx, const ANSI_41_PrivateNeighbourListInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ANSI-41-PrivateNeighbourListInfo");
+   stat = asn1PE_UMTS_ANSI_41_NAS_Parameter(ctx, pvalue);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ANSI-41-PrivateNeighbourListInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType13_3_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType13_3_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType13_3(rtxContext* RT_RESTRICT ctx, const SysInfoType13_3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType13-3");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType13-3");
+   /* ansi-41-PrivateNeighbourListInfo */
+   stat = asn1PE_UMTS_ANSI_41_PrivateNeighbourListInfo(ctx, &pvalue->ansi_41_PrivateNeighbourListInfo);
+   RT_CHECK(ctx, stat, 0, "ansi-41-PrivateNeighbourListInfo", -1, "SysInfoType13-3");
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType13_3_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType13-3");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ANSI_41_GlobalServiceRedirectInfo(rtxContext* RT_RESTRICT ctx, const ANSI_41_GlobalServiceRedirectInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ANSI-41-GlobalServiceRedirectInfo");
+   stat = asn1PE_UMTS_ANSI_41_NAS_Parameter(ctx, pvalue);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ANSI-41-GlobalServiceRedirectInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType13_4_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType13_4_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType13_4(rtxContext* RT_RESTRICT ctx, const SysInfoType13_4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType13-4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType13-4");
+   /* ansi-41-GlobalServiceRedirectInfo */
+   stat = asn1PE_UMTS_ANSI_41_GlobalServiceRedirectInfo(ctx, &pvalue->ansi_41_GlobalServiceRedirectInfo);
+   RT_CHECK(ctx, stat, 0, "ansi-41-GlobalServiceRedirectInfo", -1, "SysInfoType13-4");
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType13_4_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType13-4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType14_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType14_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType14(rtxContext* RT_RESTRICT ctx, const SysInfoType14* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType14");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* csgIdentity */
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType14");
+   /* individualTS-InterferenceList */
+   stat = asn1PE_UMTS_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList);
+   RT_CHECK(ctx, stat, 0, "individualTS-InterferenceList", -1, "SysInfoType14");
+   /* expirationTimeFactor */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "csgIdentity");
-      stat = asn1PE_UMTS_CSG_Identity(ctx, pvalue->csgIdentity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* csgMemberIndication */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "csgMemberIndication");
-      if (pvalue->csgMemberIndication > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->csgMemberIndication);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+      if ((uint64_t)(pvalue->expirationTimeFactor - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "ExpirationTimeFactor");
+         rtxErrAddUIntParm(ctx, pvalue->expirationTimeFactor);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "ExpirationTimeFactor", "expirationTimeFactor", -1, "SysInfoType14");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->csgMemberIndication, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->expirationTimeFactor, 1, 8);
+      RT_CHECK(ctx, stat, "ExpirationTimeFactor", "expirationTimeFactor", -1, "SysInfoType14");
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellMeasurementEventResults_fdd(rtxContext* ctx, const CellMeasurementEventResults_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "PrimaryCPICH-Info", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, (const PrimaryCPICH_Info*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_SysInfoType14_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType14");
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellMeasurementEventResults_tdd(rtxContext* ctx, const CellMeasurementEventResults_tdd* pvalue)
+int asn1PE_UMTS_SysInfoType15_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType15_v4b0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "PrimaryCCPCH-Info", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_PrimaryCCPCH_Info(ctx, (const PrimaryCCPCH_Info*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-v4b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-v4b0ext-IEs");
+   /* up-Ipdl-Parameters-TDD */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters_TDD_r4_ext(ctx, &pvalue->up_Ipdl_Parameters_TDD);
+      RT_CHECK(ctx, stat, 0, "up-Ipdl-Parameters-TDD", -1, "SysInfoType15-v4b0ext-IEs");
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellMeasurementEventResults(rtxContext* ctx, const CellMeasurementEventResults* pvalue)
+int asn1PE_UMTS_SysInfoType15_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType15_v770ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellMeasurementEventResults");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellMeasurementEventResults_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellMeasurementEventResults_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-v770ext-IEs");
+   /* ue-Positioning-GPS-ReferenceTime */
+   stat = asn1PE_UMTS_UE_Positioning_GPS_ReferenceTime_v770ext(ctx, &pvalue->ue_Positioning_GPS_ReferenceTime);
+   RT_CHECK(ctx, stat, 0, "ue-Positioning-GPS-ReferenceTime", -1, "SysInfoType15-v770ext-IEs");
    return 0;
 }
 
-int asn1PE_UMTS_CellMeasurementEventResultsOnSecUlFreq_fdd(rtxContext* ctx, const CellMeasurementEventResultsOnSecUlFreq_fdd* pvalue)
+int asn1PE_UMTS_SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "PrimaryCPICH-Info", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, (const PrimaryCPICH_Info*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType15-v770ext */
+   stat = asn1PE_UMTS_SysInfoType15_v770ext_IEs(ctx, &pvalue->sysInfoType15_v770ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType15-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellMeasurementEventResultsOnSecUlFreq(rtxContext* ctx, const CellMeasurementEventResultsOnSecUlFreq* pvalue)
+int asn1PE_UMTS_SysInfoType15_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellMeasurementEventResultsOnSecUlFreq");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellMeasurementEventResultsOnSecUlFreq_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "spare");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType15-v4b0ext */
+   stat = asn1PE_UMTS_SysInfoType15_v4b0ext_IEs(ctx, &pvalue->sysInfoType15_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType15-v4b0ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_CellMeasurementEventResults_LCR_r4(rtxContext* ctx, const CellMeasurementEventResults_LCR_r4* pvalue)
+int asn1PE_UMTS_SysInfoType15(rtxContext* RT_RESTRICT ctx, const SysInfoType15* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "CellMeasurementEventResults-LCR-r4");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "PrimaryCCPCH-Info-LCR-r4", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_PrimaryCCPCH_Info_LCR_r4(ctx, (const PrimaryCCPCH_Info_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15");
+   /* ue-positioning-GPS-CipherParameters */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_CipherParameters(ctx, &pvalue->ue_positioning_GPS_CipherParameters);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-CipherParameters", -1, "SysInfoType15");
    }
-   rtxCtxtPopTypeName(ctx);
+   /* ue-positioning-GPS-ReferenceLocation */
+   stat = asn1PE_UMTS_ReferenceLocation(ctx, &pvalue->ue_positioning_GPS_ReferenceLocation);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceLocation", -1, "SysInfoType15");
+   /* ue-positioning-GPS-ReferenceTime */
+   stat = asn1PE_UMTS_UE_Positioning_GPS_ReferenceTime(ctx, &pvalue->ue_positioning_GPS_ReferenceTime);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceTime", -1, "SysInfoType15");
+   /* ue-positioning-GPS-Real-timeIntegrity */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_BadSatList(ctx, &pvalue->ue_positioning_GPS_Real_timeIntegrity);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Real-timeIntegrity", -1, "SysInfoType15");
+   }
+   /* v4b0NonCriticalExtensions */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_SysInfoType15_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType15");
+   }
    return 0;
 }
 
-int asn1PE_UMTS_CellSelectReselectInfoPCHFACH_v5b0ext(rtxContext* ctx, const CellSelectReselectInfoPCHFACH_v5b0ext* pvalue)
+int asn1PE_UMTS_SysInfoType15bis_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType15bis_v860ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellSelectReselectInfoPCHFACH-v5b0ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15bis-v860ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15bis-v860ext-IEs");
+   /* ue-Positioning-GANSS-AddIonoModel */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_AddIonoModel(ctx, &pvalue->ue_Positioning_GANSS_AddIonoModel);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-GANSS-AddIonoModel", -1, "SysInfoType15bis-v860ext-IEs");
+   }
+   /* ue-Positioning-GANSS-EarthOrientationPara */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_EarthOrientPara(ctx, &pvalue->ue_Positioning_GANSS_EarthOrientationPara);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-GANSS-EarthOrientationPara", -1, "SysInfoType15bis-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15bis_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15bis_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15bis_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15bis_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType15bis-v860ext */
+   stat = asn1PE_UMTS_SysInfoType15bis_v860ext_IEs(ctx, &pvalue->sysInfoType15bis_v860ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType15bis-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType15bis_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15bis(rtxContext* RT_RESTRICT ctx, const SysInfoType15bis* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15bis");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15bis");
+   /* ue-positioning-GANSS-ReferencePosition */
+   stat = asn1PE_UMTS_ReferenceLocationGANSS(ctx, &pvalue->ue_positioning_GANSS_ReferencePosition);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-ReferencePosition", -1, "SysInfoType15bis");
+   /* ue-positioning-GANSS-ReferenceTime */
+   stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime(ctx, &pvalue->ue_positioning_GANSS_ReferenceTime);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-ReferenceTime", -1, "SysInfoType15bis");
+   /* ue-positioning-GANSS-IonosphericModel */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_IonosphericModel(ctx, &pvalue->ue_positioning_GANSS_IonosphericModel);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-IonosphericModel", -1, "SysInfoType15bis");
+   }
+   /* v860NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_SysInfoType15bis_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, "SysInfoType15bis");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15_1_v920ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType15_1_v920ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-1-v920ext-IEs");
+   /* ue-positioning-GPS-DGPS-Corrections */
+   stat = asn1PE_UMTS_UE_Positioning_GPS_DGPS_Corrections_v920ext(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-DGPS-Corrections", -1, "SysInfoType15-1-v920ext-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15_1_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_1_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15_1_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_1_v920NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType15-1-v920ext */
+   stat = asn1PE_UMTS_SysInfoType15_1_v920ext_IEs(ctx, &pvalue->sysInfoType15_1_v920ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType15-1-v920ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType15_1_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15_1(rtxContext* RT_RESTRICT ctx, const SysInfoType15_1* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-1");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-1");
+   /* ue-positioning-GPS-DGPS-Corrections */
+   stat = asn1PE_UMTS_UE_Positioning_GPS_DGPS_Corrections(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-DGPS-Corrections", -1, "SysInfoType15-1");
+   /* v920NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType15_1_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtensions", -1, "SysInfoType15-1");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15_1bis_v920ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType15_1bis_v920ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-1bis-v920ext-IEs");
+   /* ue-positioning-GANSS-DGANSS-Corrections */
+   stat = asn1PE_UMTS_UE_Positioning_DGANSSCorrections_v920ext(ctx, &pvalue->ue_positioning_GANSS_DGANSS_Corrections);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-DGANSS-Corrections", -1, "SysInfoType15-1bis-v920ext-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15_1bis_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_1bis_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15_1bis_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_1bis_v920NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType15-1bis-v920ext */
+   stat = asn1PE_UMTS_SysInfoType15_1bis_v920ext_IEs(ctx, &pvalue->sysInfoType15_1bis_v920ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType15-1bis-v920ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType15_1bis_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15_1bis(rtxContext* RT_RESTRICT ctx, const SysInfoType15_1bis* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-1bis");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-1bis");
+   /* ue-positioning-GANSS-DGANSS-Corrections */
+   stat = asn1PE_UMTS_UE_Positioning_DGANSSCorrections(ctx, &pvalue->ue_positioning_GANSS_DGANSS_Corrections);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-DGANSS-Corrections", -1, "SysInfoType15-1bis");
+   /* v920NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType15_1bis_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtensions", -1, "SysInfoType15-1bis");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15_2_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_2_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15_2(rtxContext* RT_RESTRICT ctx, const SysInfoType15_2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-2");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-2");
+   /* transmissionTOW */
+   if ((uint64_t)pvalue->transmissionTOW > 604799u) {
+      rtxErrAddStrParm(ctx, "GPS-TOW-1sec");
+      rtxErrAddUIntParm(ctx, pvalue->transmissionTOW);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "GPS-TOW-1sec", "transmissionTOW", -1, "SysInfoType15-2");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->transmissionTOW, 0, 604799);
+   RT_CHECK(ctx, stat, "GPS-TOW-1sec", "transmissionTOW", -1, "SysInfoType15-2");
+   /* satID */
+   if ((uint64_t)pvalue->satID > 63u) {
+      rtxErrAddStrParm(ctx, "SatID");
+      rtxErrAddUIntParm(ctx, pvalue->satID);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "SatID", "satID", -1, "SysInfoType15-2");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->satID, 0, 63);
+   RT_CHECK(ctx, stat, "SatID", "satID", -1, "SysInfoType15-2");
+   /* ephemerisParameter */
+   stat = asn1PE_UMTS_EphemerisParameter(ctx, &pvalue->ephemerisParameter);
+   RT_CHECK(ctx, stat, 0, "ephemerisParameter", -1, "SysInfoType15-2");
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType15_2_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType15-2");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15_2bis_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_2bis_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15_2bis(rtxContext* RT_RESTRICT ctx, const SysInfoType15_2bis* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-2bis");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-2bis");
+   /* ue-positioning-GANSS-navigationModel */
+   stat = asn1PE_UMTS_UE_Positioning_GANSS_NavigationModel(ctx, &pvalue->ue_positioning_GANSS_navigationModel);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-navigationModel", -1, "SysInfoType15-2bis");
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType15_2bis_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType15-2bis");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15_2ter_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_2ter_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15_2ter(rtxContext* RT_RESTRICT ctx, const SysInfoType15_2ter* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-2ter");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-2ter");
+   /* ue-positioning-GANSS-AddNavigationModels */
+   stat = asn1PE_UMTS_UE_Positioning_GANSS_AddNavigationModels(ctx, &pvalue->ue_positioning_GANSS_AddNavigationModels);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AddNavigationModels", -1, "SysInfoType15-2ter");
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType15_2ter_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType15-2ter");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15_3_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_3_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15_3(rtxContext* RT_RESTRICT ctx, const SysInfoType15_3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-3");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
@@ -845,228 +1371,6602 @@ int asn1PE_UMTS_CellSelectReselectInfoPCHFACH_v5b0ext(rtxContext* ctx, const Cel
       ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat);
-   /* q-Hyst-l-S-PCH */
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-3");
+   /* transmissionTOW */
+   if ((uint64_t)pvalue->transmissionTOW > 604799u) {
+      rtxErrAddStrParm(ctx, "GPS-TOW-1sec");
+      rtxErrAddUIntParm(ctx, pvalue->transmissionTOW);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "GPS-TOW-1sec", "transmissionTOW", -1, "SysInfoType15-3");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->transmissionTOW, 0, 604799);
+   RT_CHECK(ctx, stat, "GPS-TOW-1sec", "transmissionTOW", -1, "SysInfoType15-3");
+   /* ue-positioning-GPS-Almanac */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "q-Hyst-l-S-PCH");
-      rtxCtxtPushTypeName(ctx, "Q-Hyst-S-Fine");
-      if ((uint64_t)pvalue->q_Hyst_l_S_PCH > 40u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->q_Hyst_l_S_PCH);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->q_Hyst_l_S_PCH, 0, 40);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UE_Positioning_GPS_Almanac(ctx, &pvalue->ue_positioning_GPS_Almanac);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Almanac", -1, "SysInfoType15-3");
    }
-   /* q-Hyst-l-S-FACH */
+   /* ue-positioning-GPS-IonosphericModel */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "q-Hyst-l-S-FACH");
-      rtxCtxtPushTypeName(ctx, "Q-Hyst-S-Fine");
-      if ((uint64_t)pvalue->q_Hyst_l_S_FACH > 40u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->q_Hyst_l_S_FACH);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->q_Hyst_l_S_FACH, 0, 40);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UE_Positioning_GPS_IonosphericModel(ctx, &pvalue->ue_positioning_GPS_IonosphericModel);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-IonosphericModel", -1, "SysInfoType15-3");
    }
-   /* q-Hyst-2-S-PCH */
+   /* ue-positioning-GPS-UTC-Model */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "q-Hyst-2-S-PCH");
-      rtxCtxtPushTypeName(ctx, "Q-Hyst-S-Fine");
-      if ((uint64_t)pvalue->q_Hyst_2_S_PCH > 40u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->q_Hyst_2_S_PCH);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->q_Hyst_2_S_PCH, 0, 40);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UE_Positioning_GPS_UTC_Model(ctx, &pvalue->ue_positioning_GPS_UTC_Model);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-UTC-Model", -1, "SysInfoType15-3");
    }
-   /* q-Hyst-2-S-FACH */
+   /* satMask */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "q-Hyst-2-S-FACH");
-      rtxCtxtPushTypeName(ctx, "Q-Hyst-S-Fine");
-      if ((uint64_t)pvalue->q_Hyst_2_S_FACH > 40u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->q_Hyst_2_S_FACH);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->q_Hyst_2_S_FACH, 0, 40);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_SET_SIZE(ctx, 1, 32);
+      stat = pe_BitString32(ctx, &pvalue->satMask, 1, 32);
+      RT_CHECK(ctx, stat, 0, "satMask", -1, "SysInfoType15-3");
    }
-   /* t-Reselection-S-PCH */
+   /* lsbTOW */
    if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "t-Reselection-S-PCH");
-      rtxCtxtPushTypeName(ctx, "T-Reselection-S");
-      if ((uint64_t)pvalue->t_Reselection_S_PCH > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->t_Reselection_S_PCH);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_Reselection_S_PCH, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pe_BitString32(ctx, &pvalue->lsbTOW, 8, 8);
+      RT_CHECK(ctx, stat, 0, "lsbTOW", -1, "SysInfoType15-3");
    }
-   /* t-Reselection-S-FACH */
+   /* nonCriticalExtensions */
    if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "t-Reselection-S-FACH");
-      rtxCtxtPushTypeName(ctx, "T-Reselection-S-Fine");
-      if ((uint64_t)pvalue->t_Reselection_S_FACH > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->t_Reselection_S_FACH);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_Reselection_S_FACH, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_SysInfoType15_3_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType15-3");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_CellsForInterFreqMeasList(rtxContext* ctx, const CellsForInterFreqMeasList* pvalue)
+int asn1PE_UMTS_SysInfoType15_3bis_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType15_3bis_v860ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "CellsForInterFreqMeasList");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "InterFreqCellID", i);
-      rtxCtxtPushTypeName(ctx, "InterFreqCellID");
-      if ((uint64_t)pvalue->elem[i] > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-3bis-v860ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-3bis-v860ext-IEs");
+   /* ue-Positioning-GANSS-Almanac */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_Almanac_v860ext(ctx, &pvalue->ue_Positioning_GANSS_Almanac);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-GANSS-Almanac", -1, "SysInfoType15-3bis-v860ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
+   /* ue-Positioning-GANSS-AddUTCModels */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_AddUTCModels(ctx, &pvalue->ue_Positioning_GANSS_AddUTCModels);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-GANSS-AddUTCModels", -1, "SysInfoType15-3bis-v860ext-IEs");
+   }
+   /* ue-Positioning-GANSS-AuxiliaryInfo */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_AuxiliaryInfo(ctx, &pvalue->ue_Positioning_GANSS_AuxiliaryInfo);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-GANSS-AuxiliaryInfo", -1, "SysInfoType15-3bis-v860ext-IEs");
+   }
    return 0;
 }
 
-int asn1PE_UMTS_CellsForIntraFreqMeasList(rtxContext* ctx, const CellsForIntraFreqMeasList* pvalue)
+int asn1PE_UMTS_SysInfoType15_3bis_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_3bis_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "CellsForIntraFreqMeasList");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "IntraFreqCellID", i);
-      rtxCtxtPushTypeName(ctx, "IntraFreqCellID");
-      if ((uint64_t)pvalue->elem[i] > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqCellIDOnSecULFreq(rtxContext* ctx, IntraFreqCellIDOnSecULFreq value)
+int asn1PE_UMTS_SysInfoType15_3bis_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_3bis_v860NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "IntraFreqCellIDOnSecULFreq");
-   if ((uint64_t)value > 31u) {
-      rtxErrAddElemNameParm(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType15-3bis-v860ext */
+   stat = asn1PE_UMTS_SysInfoType15_3bis_v860ext_IEs(ctx, &pvalue->sysInfoType15_3bis_v860ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType15-3bis-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType15_3bis_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15_3bis(rtxContext* RT_RESTRICT ctx, const SysInfoType15_3bis* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-3bis");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-3bis");
+   /* ue-positioning-GANSS-Almanac */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_Almanac(ctx, &pvalue->ue_positioning_GANSS_Almanac);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-Almanac", -1, "SysInfoType15-3bis");
+   }
+   /* ue-positioning-GANSS-TimeModels */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_TimeModels(ctx, &pvalue->ue_positioning_GANSS_TimeModels);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-TimeModels", -1, "SysInfoType15-3bis");
+   }
+   /* ue-positioning-GANSS-UTC-Model */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_UTCModel(ctx, &pvalue->ue_positioning_GANSS_UTC_Model);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-UTC-Model", -1, "SysInfoType15-3bis");
+   }
+   /* v860NonCriticalExtensions */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_SysInfoType15_3bis_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, "SysInfoType15-3bis");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15_4_v3a0ext(rtxContext* RT_RESTRICT ctx, const SysInfoType15_4_v3a0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-4-v3a0ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-4-v3a0ext");
+   /* sfn-Offset-Validity */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->sfn_Offset_Validity > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->sfn_Offset_Validity);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "SysInfoType15-4-v3a0ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->sfn_Offset_Validity, 0, 0);
+      RT_CHECK(ctx, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "SysInfoType15-4-v3a0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15_4_v4b0ext(rtxContext* RT_RESTRICT ctx, const SysInfoType15_4_v4b0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-4-v4b0ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-4-v4b0ext");
+   /* ue-Positioning-OTDOA-AssistanceData-r4ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_r4ext(ctx, &pvalue->ue_Positioning_OTDOA_AssistanceData_r4ext);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-OTDOA-AssistanceData-r4ext", -1, "SysInfoType15-4-v4b0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType15-4-v4b0ext */
+   stat = asn1PE_UMTS_SysInfoType15_4_v4b0ext(ctx, &pvalue->sysInfoType15_4_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType15-4-v4b0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_4_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType15-4-v3a0ext */
+   stat = asn1PE_UMTS_SysInfoType15_4_v3a0ext(ctx, &pvalue->sysInfoType15_4_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType15-4-v3a0ext", -1, 0);
+   /* v4b0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15_4(rtxContext* RT_RESTRICT ctx, const SysInfoType15_4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-4");
+   /* ue-positioning-OTDOA-CipherParameters */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_CipherParameters(ctx, &pvalue->ue_positioning_OTDOA_CipherParameters);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-CipherParameters", -1, "SysInfoType15-4");
+   }
+   /* ue-positioning-OTDOA-AssistanceData */
+   stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData", -1, "SysInfoType15-4");
+   /* v3a0NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, "SysInfoType15-4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15_5_v3a0ext(rtxContext* RT_RESTRICT ctx, const SysInfoType15_5_v3a0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-5-v3a0ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-5-v3a0ext");
+   /* sfn-Offset-Validity */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->sfn_Offset_Validity > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->sfn_Offset_Validity);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "SysInfoType15-5-v3a0ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->sfn_Offset_Validity, 0, 0);
+      RT_CHECK(ctx, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "SysInfoType15-5-v3a0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15_5_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType15_5_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-5-v770ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-5-v770ext-IEs");
+   /* ue-Positioning-OTDOA-AssistanceData-UEB-ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB_ext(ctx, &pvalue->ue_Positioning_OTDOA_AssistanceData_UEB_ext);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-OTDOA-AssistanceData-UEB-ext", -1, "SysInfoType15-5-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType15-5-v770ext */
+   stat = asn1PE_UMTS_SysInfoType15_5_v770ext_IEs(ctx, &pvalue->sysInfoType15_5_v770ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType15-5-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_5_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType15-5-v3a0ext */
+   stat = asn1PE_UMTS_SysInfoType15_5_v3a0ext(ctx, &pvalue->sysInfoType15_5_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType15-5-v3a0ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15_5(rtxContext* RT_RESTRICT ctx, const SysInfoType15_5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-5");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-5");
+   /* ue-positioning-OTDOA-AssistanceData-UEB */
+   stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData_UEB);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData-UEB", -1, "SysInfoType15-5");
+   /* v3a0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, "SysInfoType15-5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15_6_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_6_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15_6(rtxContext* RT_RESTRICT ctx, const SysInfoType15_6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-6");
+   /* ue-positioning-GANSS-TOD */
+   if ((uint64_t)pvalue->ue_positioning_GANSS_TOD > 86399u) {
+      rtxErrAddStrParm(ctx, "ue-positioning-GANSS-TOD");
+      rtxErrAddUIntParm(ctx, pvalue->ue_positioning_GANSS_TOD);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ue-positioning-GANSS-TOD", -1, "SysInfoType15-6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ue_positioning_GANSS_TOD, 0, 86399);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-TOD", -1, "SysInfoType15-6");
+   /* ue-positioning-GANSS-ReferenceMeasurementInformation */
+   stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceMeasurementInfo(ctx, &pvalue->ue_positioning_GANSS_ReferenceMeasurementInformation);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-ReferenceMeasurementInformation", -1, "SysInfoType15-6");
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType15_6_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType15-6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15_7_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_7_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15_7(rtxContext* RT_RESTRICT ctx, const SysInfoType15_7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-7");
+   /* ue-positioning-GANSS-DataBitAssistance */
+   stat = asn1PE_UMTS_UE_Positioning_GANSS_Data_Bit_Assistance(ctx, &pvalue->ue_positioning_GANSS_DataBitAssistance);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-DataBitAssistance", -1, "SysInfoType15-7");
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType15_7_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType15-7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15_8_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_8_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType15_8(rtxContext* RT_RESTRICT ctx, const SysInfoType15_8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-8");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-8");
+   /* ue-positioning-GANSS-DataCipheringInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_CipherParameters(ctx, &pvalue->ue_positioning_GANSS_DataCipheringInfo);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-DataCipheringInfo", -1, "SysInfoType15-8");
+   }
+   /* ue-positioning-GANSS-realTimeIntegrity */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_RealTimeIntegrity(ctx, &pvalue->ue_positioning_GANSS_realTimeIntegrity);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-realTimeIntegrity", -1, "SysInfoType15-8");
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_SysInfoType15_8_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType15-8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType17_v4b0ext_IEs_tdd128SpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType17_v4b0ext_IEs_tdd128SpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* pusch-SysInfoList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PUSCH_SysInfoList_LCR_r4(ctx, &pvalue->pusch_SysInfoList);
+      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList", -1, 0);
+   }
+   /* pdsch-SysInfoList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_PDSCH_SysInfoList_LCR_r4(ctx, &pvalue->pdsch_SysInfoList);
+      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType17_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType17_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType17-v4b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType17-v4b0ext-IEs");
+   /* tdd128SpecificInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType17_v4b0ext_IEs_tdd128SpecificInfo(ctx, &pvalue->tdd128SpecificInfo);
+      RT_CHECK(ctx, stat, 0, "tdd128SpecificInfo", -1, "SysInfoType17-v4b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType17_v590ext_IEs_hcr_r5_SpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType17_v590ext_IEs_hcr_r5_SpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* pusch-SysInfoList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PUSCH_SysInfoList_HCR_r5(ctx, &pvalue->pusch_SysInfoList);
+      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList", -1, 0);
+   }
+   /* pdsch-SysInfoList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_PDSCH_SysInfoList_HCR_r5(ctx, &pvalue->pdsch_SysInfoList);
+      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType17_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType17_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType17-v590ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType17-v590ext-IEs");
+   /* hcr-r5-SpecificInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType17_v590ext_IEs_hcr_r5_SpecificInfo(ctx, &pvalue->hcr_r5_SpecificInfo);
+      RT_CHECK(ctx, stat, 0, "hcr-r5-SpecificInfo", -1, "SysInfoType17-v590ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType17_v770ext_IEs_tdd768SpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType17_v770ext_IEs_tdd768SpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* pusch-SysInfoList-SFN */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PUSCH_SysInfoList_SFN_VHCR(ctx, &pvalue->pusch_SysInfoList_SFN);
+      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
+   }
+   /* pdsch-SysInfoList-SFN */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_PDSCH_SysInfoList_VHCR_r7(ctx, &pvalue->pdsch_SysInfoList_SFN);
+      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType17_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType17_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType17-v770ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType17-v770ext-IEs");
+   /* tdd768SpecificInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType17_v770ext_IEs_tdd768SpecificInfo(ctx, &pvalue->tdd768SpecificInfo);
+      RT_CHECK(ctx, stat, 0, "tdd768SpecificInfo", -1, "SysInfoType17-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType17-v770ext */
+   stat = asn1PE_UMTS_SysInfoType17_v770ext_IEs(ctx, &pvalue->sysInfoType17_v770ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType17-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType17-v590ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType17_v590ext_IEs(ctx, &pvalue->sysInfoType17_v590ext);
+      RT_CHECK(ctx, stat, 0, "sysInfoType17-v590ext", -1, 0);
+   }
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType17_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType17_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType17-v4b0ext */
+   stat = asn1PE_UMTS_SysInfoType17_v4b0ext_IEs(ctx, &pvalue->sysInfoType17_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType17-v4b0ext", -1, 0);
+   /* v590NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType17(rtxContext* RT_RESTRICT ctx, const SysInfoType17* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType17");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType17");
+   /* pusch-SysInfoList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PUSCH_SysInfoList(ctx, &pvalue->pusch_SysInfoList);
+      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList", -1, "SysInfoType17");
+   }
+   /* pdsch-SysInfoList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_PDSCH_SysInfoList(ctx, &pvalue->pdsch_SysInfoList);
+      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList", -1, "SysInfoType17");
+   }
+   /* v4b0NonCriticalExtensions */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_SysInfoType17_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType17");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType19_v920ext(rtxContext* RT_RESTRICT ctx, const SysInfoType19_v920ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType19-v920ext");
+   /* utra-PriorityInfoList-v920ext */
+   stat = asn1PE_UMTS_UTRA_PriorityInfoList_v920ext(ctx, &pvalue->utra_PriorityInfoList_v920ext);
+   RT_CHECK(ctx, stat, 0, "utra-PriorityInfoList-v920ext", -1, "SysInfoType19-v920ext");
+   /* eutra-FrequencyAndPriorityInfoList-v920ext */
+   stat = asn1PE_UMTS_EUTRA_FrequencyAndPriorityInfoList_v920ext(ctx, &pvalue->eutra_FrequencyAndPriorityInfoList_v920ext);
+   RT_CHECK(ctx, stat, 0, "eutra-FrequencyAndPriorityInfoList-v920ext", -1, "SysInfoType19-v920ext");
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType19_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType19_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType19_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType19_v920NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sysInfoType19-v920ext */
+   stat = asn1PE_UMTS_SysInfoType19_v920ext(ctx, &pvalue->sysInfoType19_v920ext);
+   RT_CHECK(ctx, stat, 0, "sysInfoType19-v920ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SysInfoType19_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType19(rtxContext* RT_RESTRICT ctx, const SysInfoType19* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType19");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType19");
+   /* utra-PriorityInfoList */
+   stat = asn1PE_UMTS_UTRA_PriorityInfoList(ctx, &pvalue->utra_PriorityInfoList);
+   RT_CHECK(ctx, stat, 0, "utra-PriorityInfoList", -1, "SysInfoType19");
+   /* gsm-PriorityInfoList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_GSM_PriorityInfoList(ctx, &pvalue->gsm_PriorityInfoList);
+      RT_CHECK(ctx, stat, 0, "gsm-PriorityInfoList", -1, "SysInfoType19");
+   }
+   /* eutra-FrequencyAndPriorityInfoList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_EUTRA_FrequencyAndPriorityInfoList(ctx, &pvalue->eutra_FrequencyAndPriorityInfoList);
+      RT_CHECK(ctx, stat, 0, "eutra-FrequencyAndPriorityInfoList", -1, "SysInfoType19");
+   }
+   /* v920NonCriticalExtensions */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_SysInfoType19_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtensions", -1, "SysInfoType19");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType20_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType20_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType20(rtxContext* RT_RESTRICT ctx, const SysInfoType20* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType20");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType20");
+   /* hNBName */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HNBName(ctx, &pvalue->hNBName);
+      RT_CHECK(ctx, stat, 0, "hNBName", -1, "SysInfoType20");
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_SysInfoType20_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType20");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_HistoryInformation(rtxContext* RT_RESTRICT ctx, const UE_HistoryInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-HistoryInformation");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-HistoryInformation");
+   /* ue-InactivityPeriod */
+   if ((uint64_t)(pvalue->ue_InactivityPeriod - 1) > 119u) {
+      rtxErrAddStrParm(ctx, "ue-InactivityPeriod");
+      rtxErrAddUIntParm(ctx, pvalue->ue_InactivityPeriod);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ue-InactivityPeriod", -1, "UE-HistoryInformation");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ue_InactivityPeriod, 1, 120);
+   RT_CHECK(ctx, stat, 0, "ue-InactivityPeriod", -1, "UE-HistoryInformation");
+   /* ueMobilityStateIndicator */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->ueMobilityStateIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->ueMobilityStateIndicator);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "UE-HistoryInformation");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ueMobilityStateIndicator, 0, 0);
+      RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "UE-HistoryInformation");
+   }
+   /* ul-dataVolumeHistory */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_DataVolumeHistory(ctx, &pvalue->ul_dataVolumeHistory);
+      RT_CHECK(ctx, stat, 0, "ul-dataVolumeHistory", -1, "UE-HistoryInformation");
+   }
+   /* dl-dataVolumeHistory */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_DataVolumeHistory(ctx, &pvalue->dl_dataVolumeHistory);
+      RT_CHECK(ctx, stat, 0, "dl-dataVolumeHistory", -1, "UE-HistoryInformation");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_AccessProbabilityFactor(rtxContext* RT_RESTRICT ctx, MBMS_AccessProbabilityFactor value)
+{
+   int stat = 0;
+   if (value > 31) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MBMS-AccessProbabilityFactor");
    }
    stat = pe_ConsUInt64(ctx, value, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-AccessProbabilityFactor");
    return 0;
 }
 
-int asn1PE_UMTS_CellsForIntraFreqMeasListOnSecULFreq(rtxContext* ctx, const CellsForIntraFreqMeasListOnSecULFreq* pvalue)
+int asn1PE_UMTS_MBMS_CellGroupIdentity_r6(rtxContext* RT_RESTRICT ctx, MBMS_CellGroupIdentity_r6 value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "CellsForIntraFreqMeasListOnSecULFreq");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "IntraFreqCellIDOnSecULFreq", i);
-      rtxCtxtPushTypeName(ctx, "IntraFreqCellIDOnSecULFreq");
-      if ((uint64_t)pvalue->elem[i] > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
+   RT_SET_SIZE(ctx, 12, 12);
+   stat = pe_BitString32(ctx, &value, 12, 12);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-CellGroupIdentity-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_CommonCCTrChIdentity(rtxContext* RT_RESTRICT ctx, MBMS_CommonCCTrChIdentity value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "MBMS-CommonCCTrChIdentity");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MBMS-CommonCCTrChIdentity");
    }
-   rtxCtxtPopTypeName(ctx);
+   stat = pe_ConsUInt64(ctx, value, 1, 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-CommonCCTrChIdentity");
    return 0;
 }
 
-int asn1PE_UMTS_CellToReport(rtxContext* ctx, const CellToReport* pvalue)
+int asn1PE_UMTS_MBMS_CommonPhyChIdentity(rtxContext* RT_RESTRICT ctx, MBMS_CommonPhyChIdentity value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellToReport");
-   /* bsicReported */
-   rtxCtxtPushElemName(ctx, "bsicReported");
-   stat = asn1PE_UMTS_BSICReported(ctx, &pvalue->bsicReported);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   if ((uint64_t)(value - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "MBMS-CommonPhyChIdentity");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MBMS-CommonPhyChIdentity");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-CommonPhyChIdentity");
    return 0;
 }
 
-int asn1PE_UMTS_CellToReportList(rtxContext* ctx, const CellToReportList* pvalue)
+int asn1PE_UMTS_MBMS_CommonRBIdentity(rtxContext* RT_RESTRICT ctx, MBMS_CommonRBIdentity value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if ((uint64_t)(value - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "MBMS-CommonRBIdentity");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MBMS-CommonRBIdentity");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-CommonRBIdentity");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_CommonRBInformation_r6(rtxContext* RT_RESTRICT ctx, const MBMS_CommonRBInformation_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-CommonRBInformation-r6");
+   /* commonRBIdentity */
+   if ((uint64_t)(pvalue->commonRBIdentity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "MBMS-CommonRBIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->commonRBIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-CommonRBIdentity", "commonRBIdentity", -1, "MBMS-CommonRBInformation-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->commonRBIdentity, 1, 32);
+   RT_CHECK(ctx, stat, "MBMS-CommonRBIdentity", "commonRBIdentity", -1, "MBMS-CommonRBInformation-r6");
+   /* pdcp-Info */
+   stat = asn1PE_UMTS_PDCP_Info_r4(ctx, &pvalue->pdcp_Info);
+   RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "MBMS-CommonRBInformation-r6");
+   /* rlc-Info */
+   stat = asn1PE_UMTS_RLC_Info_MTCH_r6(ctx, &pvalue->rlc_Info);
+   RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "MBMS-CommonRBInformation-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_CommonRBInformationList_r6(rtxContext* RT_RESTRICT ctx, const MBMS_CommonRBInformationList_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-CommonRBInformationList-r6");
    const rtxDListNode* node;
    uint32_t i;
-   rtxCtxtPushTypeName(ctx, "CellToReportList");
    RT_SET_SIZE(ctx, 1, 32);
    stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-CommonRBInformationList-r6");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "CellToReport", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_CellToReport(ctx, (const CellToReport*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-CommonRBInformation-r6", (int32_t)i, "MBMS-CommonRBInformationList-r6");
+      stat = asn1PE_UMTS_MBMS_CommonRBInformation_r6(ctx, (const MBMS_CommonRBInformation_r6*)node->data);
+      RT_CHECK(ctx, stat, 0, "MBMS-CommonRBInformation-r6", (int32_t)i, "MBMS-CommonRBInformationList-r6");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_CNAVclockModel(rtxContext* ctx, const CNAVclockModel* pvalue)
+int asn1PE_UMTS_MBMS_CommonTrChIdentity(rtxContext* RT_RESTRICT ctx, MBMS_CommonTrChIdentity value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CNAVclockModel");
+   if ((uint64_t)(value - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "MBMS-CommonTrChIdentity");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MBMS-CommonTrChIdentity");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-CommonTrChIdentity");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_ConnectedModeCountingScope(rtxContext* RT_RESTRICT ctx, const MBMS_ConnectedModeCountingScope* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-ConnectedModeCountingScope");
+   /* countingForUraPCH */
+   stat = rtxEncBit(ctx, pvalue->countingForUraPCH);
+   RT_CHECK(ctx, stat, 0, "countingForUraPCH", -1, "MBMS-ConnectedModeCountingScope");
+   /* countingForCellPCH */
+   stat = rtxEncBit(ctx, pvalue->countingForCellPCH);
+   RT_CHECK(ctx, stat, 0, "countingForCellPCH", -1, "MBMS-ConnectedModeCountingScope");
+   /* countingForCellFACH */
+   stat = rtxEncBit(ctx, pvalue->countingForCellFACH);
+   RT_CHECK(ctx, stat, 0, "countingForCellFACH", -1, "MBMS-ConnectedModeCountingScope");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_SCCPCHIdentity(rtxContext* RT_RESTRICT ctx, MBMS_SCCPCHIdentity value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "MBMS-SCCPCHIdentity");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MBMS-SCCPCHIdentity");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 16);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-SCCPCHIdentity");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_SoftComb_TimingOffset(rtxContext* RT_RESTRICT ctx, MBMS_SoftComb_TimingOffset value)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MBMS-SoftComb-TimingOffset");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-SoftComb-TimingOffset");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_ShortTransmissionID(rtxContext* RT_RESTRICT ctx, MBMS_ShortTransmissionID value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "MBMS-ShortTransmissionID");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MBMS-ShortTransmissionID");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 64);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-ShortTransmissionID");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_LogicalChIdentity(rtxContext* RT_RESTRICT ctx, MBMS_LogicalChIdentity value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 14u) {
+      rtxErrAddStrParm(ctx, "MBMS-LogicalChIdentity");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MBMS-LogicalChIdentity");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-LogicalChIdentity");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_PTM_RBInformation_C(rtxContext* RT_RESTRICT ctx, const MBMS_PTM_RBInformation_C* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-PTM-RBInformation-C");
+   /* rbInformation */
+   if ((uint64_t)(pvalue->rbInformation - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "MBMS-CommonRBIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->rbInformation);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-CommonRBIdentity", "rbInformation", -1, "MBMS-PTM-RBInformation-C");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rbInformation, 1, 32);
+   RT_CHECK(ctx, stat, "MBMS-CommonRBIdentity", "rbInformation", -1, "MBMS-PTM-RBInformation-C");
+   /* shortTransmissionID */
+   if ((uint64_t)(pvalue->shortTransmissionID - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "MBMS-ShortTransmissionID");
+      rtxErrAddUIntParm(ctx, pvalue->shortTransmissionID);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-ShortTransmissionID", "shortTransmissionID", -1, "MBMS-PTM-RBInformation-C");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->shortTransmissionID, 1, 64);
+   RT_CHECK(ctx, stat, "MBMS-ShortTransmissionID", "shortTransmissionID", -1, "MBMS-PTM-RBInformation-C");
+   /* logicalChIdentity */
+   if ((uint64_t)(pvalue->logicalChIdentity - 1) > 14u) {
+      rtxErrAddStrParm(ctx, "MBMS-LogicalChIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->logicalChIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-LogicalChIdentity", "logicalChIdentity", -1, "MBMS-PTM-RBInformation-C");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->logicalChIdentity, 1, 15);
+   RT_CHECK(ctx, stat, "MBMS-LogicalChIdentity", "logicalChIdentity", -1, "MBMS-PTM-RBInformation-C");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_PTM_RBInformation_CList(rtxContext* RT_RESTRICT ctx, const MBMS_PTM_RBInformation_CList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-PTM-RBInformation-CList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-PTM-RBInformation-CList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-PTM-RBInformation-C", (int32_t)i, "MBMS-PTM-RBInformation-CList");
+      stat = asn1PE_UMTS_MBMS_PTM_RBInformation_C(ctx, (const MBMS_PTM_RBInformation_C*)node->data);
+      RT_CHECK(ctx, stat, 0, "MBMS-PTM-RBInformation-C", (int32_t)i, "MBMS-PTM-RBInformation-CList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_TrCHInformation_Curr(rtxContext* RT_RESTRICT ctx, const MBMS_TrCHInformation_Curr* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-TrCHInformation-Curr");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-TrCHInformation-Curr");
+   /* transpCh-Info */
+   if ((uint64_t)(pvalue->transpCh_Info - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "MBMS-CommonTrChIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->transpCh_Info);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-CommonTrChIdentity", "transpCh-Info", -1, "MBMS-TrCHInformation-Curr");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->transpCh_Info, 1, 32);
+   RT_CHECK(ctx, stat, "MBMS-CommonTrChIdentity", "transpCh-Info", -1, "MBMS-TrCHInformation-Curr");
+   /* rbInformation */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBMS_PTM_RBInformation_CList(ctx, &pvalue->rbInformation);
+      RT_CHECK(ctx, stat, 0, "rbInformation", -1, "MBMS-TrCHInformation-Curr");
+   }
+   /* msch-ConfigurationInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_MBMS_MSCH_ConfigurationInfo_r6(ctx, &pvalue->msch_ConfigurationInfo);
+      RT_CHECK(ctx, stat, 0, "msch-ConfigurationInfo", -1, "MBMS-TrCHInformation-Curr");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_TrCHInformation_CurrList(rtxContext* RT_RESTRICT ctx, const MBMS_TrCHInformation_CurrList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-TrCHInformation-CurrList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-TrCHInformation-CurrList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-TrCHInformation-Curr", (int32_t)i, "MBMS-TrCHInformation-CurrList");
+      stat = asn1PE_UMTS_MBMS_TrCHInformation_Curr(ctx, (const MBMS_TrCHInformation_Curr*)node->data);
+      RT_CHECK(ctx, stat, 0, "MBMS-TrCHInformation-Curr", (int32_t)i, "MBMS-TrCHInformation-CurrList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_CurrentCell_SCCPCH_r6(rtxContext* RT_RESTRICT ctx, const MBMS_CurrentCell_SCCPCH_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-CurrentCell-SCCPCH-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-CurrentCell-SCCPCH-r6");
+   /* sccpchIdentity */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->sccpchIdentity - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "MBMS-SCCPCHIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->sccpchIdentity);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-SCCPCHIdentity", "sccpchIdentity", -1, "MBMS-CurrentCell-SCCPCH-r6");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->sccpchIdentity, 1, 16);
+      RT_CHECK(ctx, stat, "MBMS-SCCPCHIdentity", "sccpchIdentity", -1, "MBMS-CurrentCell-SCCPCH-r6");
+   }
+   /* secondaryCCPCH-Info */
+   if ((uint64_t)(pvalue->secondaryCCPCH_Info - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "MBMS-CommonPhyChIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->secondaryCCPCH_Info);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-CommonPhyChIdentity", "secondaryCCPCH-Info", -1, "MBMS-CurrentCell-SCCPCH-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->secondaryCCPCH_Info, 1, 32);
+   RT_CHECK(ctx, stat, "MBMS-CommonPhyChIdentity", "secondaryCCPCH-Info", -1, "MBMS-CurrentCell-SCCPCH-r6");
+   /* softComb-TimingOffset */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->softComb_TimingOffset > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->softComb_TimingOffset);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-SoftComb-TimingOffset", "softComb-TimingOffset", -1, "MBMS-CurrentCell-SCCPCH-r6");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->softComb_TimingOffset, 0, 3);
+      RT_CHECK(ctx, stat, "MBMS-SoftComb-TimingOffset", "softComb-TimingOffset", -1, "MBMS-CurrentCell-SCCPCH-r6");
+   }
+   /* transpCh-InfoCommonForAllTrCh */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)(pvalue->transpCh_InfoCommonForAllTrCh - 1) > 31u) {
+         rtxErrAddStrParm(ctx, "MBMS-CommonCCTrChIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->transpCh_InfoCommonForAllTrCh);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-CommonCCTrChIdentity", "transpCh-InfoCommonForAllTrCh", -1, "MBMS-CurrentCell-SCCPCH-r6");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->transpCh_InfoCommonForAllTrCh, 1, 32);
+      RT_CHECK(ctx, stat, "MBMS-CommonCCTrChIdentity", "transpCh-InfoCommonForAllTrCh", -1, "MBMS-CurrentCell-SCCPCH-r6");
+   }
+   /* transpCHInformation */
+   stat = asn1PE_UMTS_MBMS_TrCHInformation_CurrList(ctx, &pvalue->transpCHInformation);
+   RT_CHECK(ctx, stat, 0, "transpCHInformation", -1, "MBMS-CurrentCell-SCCPCH-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_CurrentCell_SCCPCHList_r6(rtxContext* RT_RESTRICT ctx, const MBMS_CurrentCell_SCCPCHList_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-CurrentCell-SCCPCHList-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-CurrentCell-SCCPCHList-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-CurrentCell-SCCPCH-r6", (int32_t)i, "MBMS-CurrentCell-SCCPCHList-r6");
+      stat = asn1PE_UMTS_MBMS_CurrentCell_SCCPCH_r6(ctx, (const MBMS_CurrentCell_SCCPCH_r6*)node->data);
+      RT_CHECK(ctx, stat, 0, "MBMS-CurrentCell-SCCPCH-r6", (int32_t)i, "MBMS-CurrentCell-SCCPCHList-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_JoinedInformation_r6(rtxContext* RT_RESTRICT ctx, const MBMS_JoinedInformation_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-JoinedInformation-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-JoinedInformation-r6");
+   /* p-TMSI */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_P_TMSI_GSM_MAP(ctx, pvalue->p_TMSI);
+      RT_CHECK(ctx, stat, 0, "p-TMSI", -1, "MBMS-JoinedInformation-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, const MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* periodStart */
+   if ((uint64_t)pvalue->periodStart > 7u) {
+      rtxErrAddStrParm(ctx, "periodStart");
+      rtxErrAddUIntParm(ctx, pvalue->periodStart);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "periodStart", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->periodStart, 0, 7);
+   RT_CHECK(ctx, stat, 0, "periodStart", -1, 0);
+   /* periodDuration */
+   if ((uint64_t)(pvalue->periodDuration - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "periodDuration");
+      rtxErrAddUIntParm(ctx, pvalue->periodDuration);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "periodDuration", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->periodDuration, 1, 8);
+   RT_CHECK(ctx, stat, 0, "periodDuration", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, const MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
+      stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element(ctx, (const MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element*)node->data);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_L1CombiningSchedule_32(rtxContext* RT_RESTRICT ctx, const MBMS_L1CombiningSchedule_32* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-L1CombiningSchedule-32");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-L1CombiningSchedule-32");
+   /* cycleOffset */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->cycleOffset > 7u) {
+         rtxErrAddStrParm(ctx, "cycleOffset");
+         rtxErrAddUIntParm(ctx, pvalue->cycleOffset);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-32");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->cycleOffset, 0, 7);
+      RT_CHECK(ctx, stat, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-32");
+   }
+   /* mtch-L1CombiningPeriodList */
+   stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList);
+   RT_CHECK(ctx, stat, 0, "mtch-L1CombiningPeriodList", -1, "MBMS-L1CombiningSchedule-32");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, const MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* periodStart */
+   if ((uint64_t)pvalue->periodStart > 15u) {
+      rtxErrAddStrParm(ctx, "periodStart");
+      rtxErrAddUIntParm(ctx, pvalue->periodStart);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "periodStart", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->periodStart, 0, 15);
+   RT_CHECK(ctx, stat, 0, "periodStart", -1, 0);
+   /* periodDuration */
+   if ((uint64_t)(pvalue->periodDuration - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "periodDuration");
+      rtxErrAddUIntParm(ctx, pvalue->periodDuration);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "periodDuration", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->periodDuration, 1, 16);
+   RT_CHECK(ctx, stat, 0, "periodDuration", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, const MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
+      stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element(ctx, (const MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element*)node->data);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_L1CombiningSchedule_64(rtxContext* RT_RESTRICT ctx, const MBMS_L1CombiningSchedule_64* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-L1CombiningSchedule-64");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-L1CombiningSchedule-64");
+   /* cycleOffset */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->cycleOffset > 15u) {
+         rtxErrAddStrParm(ctx, "cycleOffset");
+         rtxErrAddUIntParm(ctx, pvalue->cycleOffset);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-64");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->cycleOffset, 0, 15);
+      RT_CHECK(ctx, stat, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-64");
+   }
+   /* mtch-L1CombiningPeriodList */
+   stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList);
+   RT_CHECK(ctx, stat, 0, "mtch-L1CombiningPeriodList", -1, "MBMS-L1CombiningSchedule-64");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, const MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* periodStart */
+   if ((uint64_t)pvalue->periodStart > 31u) {
+      rtxErrAddStrParm(ctx, "periodStart");
+      rtxErrAddUIntParm(ctx, pvalue->periodStart);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "periodStart", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->periodStart, 0, 31);
+   RT_CHECK(ctx, stat, 0, "periodStart", -1, 0);
+   /* periodDuration */
+   if ((uint64_t)(pvalue->periodDuration - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "periodDuration");
+      rtxErrAddUIntParm(ctx, pvalue->periodDuration);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "periodDuration", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->periodDuration, 1, 32);
+   RT_CHECK(ctx, stat, 0, "periodDuration", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, const MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
+      stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element(ctx, (const MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element*)node->data);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_L1CombiningSchedule_128(rtxContext* RT_RESTRICT ctx, const MBMS_L1CombiningSchedule_128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-L1CombiningSchedule-128");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-L1CombiningSchedule-128");
+   /* cycleOffset */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->cycleOffset > 31u) {
+         rtxErrAddStrParm(ctx, "cycleOffset");
+         rtxErrAddUIntParm(ctx, pvalue->cycleOffset);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-128");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->cycleOffset, 0, 31);
+      RT_CHECK(ctx, stat, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-128");
+   }
+   /* mtch-L1CombiningPeriodList */
+   stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList);
+   RT_CHECK(ctx, stat, 0, "mtch-L1CombiningPeriodList", -1, "MBMS-L1CombiningSchedule-128");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, const MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* periodStart */
+   if ((uint64_t)pvalue->periodStart > 63u) {
+      rtxErrAddStrParm(ctx, "periodStart");
+      rtxErrAddUIntParm(ctx, pvalue->periodStart);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "periodStart", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->periodStart, 0, 63);
+   RT_CHECK(ctx, stat, 0, "periodStart", -1, 0);
+   /* periodDuration */
+   if ((uint64_t)(pvalue->periodDuration - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "periodDuration");
+      rtxErrAddUIntParm(ctx, pvalue->periodDuration);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "periodDuration", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->periodDuration, 1, 64);
+   RT_CHECK(ctx, stat, 0, "periodDuration", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, const MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
+      stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element(ctx, (const MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element*)node->data);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_L1CombiningSchedule_256(rtxContext* RT_RESTRICT ctx, const MBMS_L1CombiningSchedule_256* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-L1CombiningSchedule-256");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-L1CombiningSchedule-256");
+   /* cycleOffset */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->cycleOffset > 63u) {
+         rtxErrAddStrParm(ctx, "cycleOffset");
+         rtxErrAddUIntParm(ctx, pvalue->cycleOffset);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-256");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->cycleOffset, 0, 63);
+      RT_CHECK(ctx, stat, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-256");
+   }
+   /* mtch-L1CombiningPeriodList */
+   stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList);
+   RT_CHECK(ctx, stat, 0, "mtch-L1CombiningPeriodList", -1, "MBMS-L1CombiningSchedule-256");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, const MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* periodStart */
+   if ((uint64_t)pvalue->periodStart > 127u) {
+      rtxErrAddStrParm(ctx, "periodStart");
+      rtxErrAddUIntParm(ctx, pvalue->periodStart);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "periodStart", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->periodStart, 0, 127);
+   RT_CHECK(ctx, stat, 0, "periodStart", -1, 0);
+   /* periodDuration */
+   if ((uint64_t)(pvalue->periodDuration - 1) > 127u) {
+      rtxErrAddStrParm(ctx, "periodDuration");
+      rtxErrAddUIntParm(ctx, pvalue->periodDuration);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "periodDuration", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->periodDuration, 1, 128);
+   RT_CHECK(ctx, stat, 0, "periodDuration", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, const MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
+      stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element(ctx, (const MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element*)node->data);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_L1CombiningSchedule_512(rtxContext* RT_RESTRICT ctx, const MBMS_L1CombiningSchedule_512* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-L1CombiningSchedule-512");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-L1CombiningSchedule-512");
+   /* cycleOffset */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->cycleOffset > 127u) {
+         rtxErrAddStrParm(ctx, "cycleOffset");
+         rtxErrAddUIntParm(ctx, pvalue->cycleOffset);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-512");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->cycleOffset, 0, 127);
+      RT_CHECK(ctx, stat, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-512");
+   }
+   /* mtch-L1CombiningPeriodList */
+   stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList);
+   RT_CHECK(ctx, stat, 0, "mtch-L1CombiningPeriodList", -1, "MBMS-L1CombiningSchedule-512");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, const MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* periodStart */
+   stat = pe_ConsUInt64(ctx, pvalue->periodStart, 0, 255);
+   RT_CHECK(ctx, stat, 0, "periodStart", -1, 0);
+   /* periodDuration */
+   if ((uint64_t)(pvalue->periodDuration - 1) > 255u) {
+      rtxErrAddStrParm(ctx, "periodDuration");
+      rtxErrAddUIntParm(ctx, pvalue->periodDuration);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "periodDuration", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->periodDuration, 1, 256);
+   RT_CHECK(ctx, stat, 0, "periodDuration", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, const MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
+      stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element(ctx, (const MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element*)node->data);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_L1CombiningSchedule_1024(rtxContext* RT_RESTRICT ctx, const MBMS_L1CombiningSchedule_1024* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-L1CombiningSchedule-1024");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-L1CombiningSchedule-1024");
+   /* cycleOffset */
+   if (pvalue->m & 0x1u) {
+      stat = pe_ConsUInt64(ctx, pvalue->cycleOffset, 0, 255);
+      RT_CHECK(ctx, stat, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-1024");
+   }
+   /* mtch-L1CombiningPeriodList */
+   stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList);
+   RT_CHECK(ctx, stat, 0, "mtch-L1CombiningPeriodList", -1, "MBMS-L1CombiningSchedule-1024");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_L1CombiningSchedule(rtxContext* RT_RESTRICT ctx, const MBMS_L1CombiningSchedule* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-L1CombiningSchedule");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 5);
+   RT_CHECK(ctx, stat, 0, "t", -1, "MBMS-L1CombiningSchedule");
+   if (pvalue->t - 1 > 5) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MBMS-L1CombiningSchedule");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.cycleLength_32 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cycleLength-32", -1, "MBMS-L1CombiningSchedule");
+         stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_32(ctx, pvalue->u.cycleLength_32);
+         RT_CHECK(ctx, stat, 0, "cycleLength-32", -1, "MBMS-L1CombiningSchedule");
+         break;
+      case 2:
+         if (pvalue->u.cycleLength_64 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cycleLength-64", -1, "MBMS-L1CombiningSchedule");
+         stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_64(ctx, pvalue->u.cycleLength_64);
+         RT_CHECK(ctx, stat, 0, "cycleLength-64", -1, "MBMS-L1CombiningSchedule");
+         break;
+      case 3:
+         if (pvalue->u.cycleLength_128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cycleLength-128", -1, "MBMS-L1CombiningSchedule");
+         stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_128(ctx, pvalue->u.cycleLength_128);
+         RT_CHECK(ctx, stat, 0, "cycleLength-128", -1, "MBMS-L1CombiningSchedule");
+         break;
+      case 4:
+         if (pvalue->u.cycleLength_256 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cycleLength-256", -1, "MBMS-L1CombiningSchedule");
+         stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_256(ctx, pvalue->u.cycleLength_256);
+         RT_CHECK(ctx, stat, 0, "cycleLength-256", -1, "MBMS-L1CombiningSchedule");
+         break;
+      case 5:
+         if (pvalue->u.cycleLength_512 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cycleLength-512", -1, "MBMS-L1CombiningSchedule");
+         stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_512(ctx, pvalue->u.cycleLength_512);
+         RT_CHECK(ctx, stat, 0, "cycleLength-512", -1, "MBMS-L1CombiningSchedule");
+         break;
+      case 6:
+         if (pvalue->u.cycleLength_1024 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cycleLength-1024", -1, "MBMS-L1CombiningSchedule");
+         stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_1024(ctx, pvalue->u.cycleLength_1024);
+         RT_CHECK(ctx, stat, 0, "cycleLength-1024", -1, "MBMS-L1CombiningSchedule");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_L1CombiningTransmTimeDiff(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningTransmTimeDiff value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 3u) {
+      rtxErrAddStrParm(ctx, "MBMS-L1CombiningTransmTimeDiff");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MBMS-L1CombiningTransmTimeDiff");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-L1CombiningTransmTimeDiff");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_L23Configuration_sameAsCurrent(rtxContext* RT_RESTRICT ctx, const MBMS_L23Configuration_sameAsCurrent* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* currentCell-SCCPCH */
+   if ((uint64_t)(pvalue->currentCell_SCCPCH - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "MBMS-SCCPCHIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->currentCell_SCCPCH);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-SCCPCHIdentity", "currentCell-SCCPCH", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->currentCell_SCCPCH, 1, 16);
+   RT_CHECK(ctx, stat, "MBMS-SCCPCHIdentity", "currentCell-SCCPCH", -1, 0);
+   /* msch-ConfigurationInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBMS_MSCH_ConfigurationInfo_r6(ctx, &pvalue->msch_ConfigurationInfo);
+      RT_CHECK(ctx, stat, 0, "msch-ConfigurationInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_PTM_RBInformation_N(rtxContext* RT_RESTRICT ctx, const MBMS_PTM_RBInformation_N* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-PTM-RBInformation-N");
+   /* shortTransmissionID */
+   if ((uint64_t)(pvalue->shortTransmissionID - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "MBMS-ShortTransmissionID");
+      rtxErrAddUIntParm(ctx, pvalue->shortTransmissionID);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-ShortTransmissionID", "shortTransmissionID", -1, "MBMS-PTM-RBInformation-N");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->shortTransmissionID, 1, 64);
+   RT_CHECK(ctx, stat, "MBMS-ShortTransmissionID", "shortTransmissionID", -1, "MBMS-PTM-RBInformation-N");
+   /* logicalChIdentity */
+   if ((uint64_t)(pvalue->logicalChIdentity - 1) > 14u) {
+      rtxErrAddStrParm(ctx, "MBMS-LogicalChIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->logicalChIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-LogicalChIdentity", "logicalChIdentity", -1, "MBMS-PTM-RBInformation-N");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->logicalChIdentity, 1, 15);
+   RT_CHECK(ctx, stat, "MBMS-LogicalChIdentity", "logicalChIdentity", -1, "MBMS-PTM-RBInformation-N");
+   /* layer1-CombiningStatus */
+   stat = rtxEncBit(ctx, pvalue->layer1_CombiningStatus);
+   RT_CHECK(ctx, stat, 0, "layer1-CombiningStatus", -1, "MBMS-PTM-RBInformation-N");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_PTM_RBInformation_NList(rtxContext* RT_RESTRICT ctx, const MBMS_PTM_RBInformation_NList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-PTM-RBInformation-NList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-PTM-RBInformation-NList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-PTM-RBInformation-N", (int32_t)i, "MBMS-PTM-RBInformation-NList");
+      stat = asn1PE_UMTS_MBMS_PTM_RBInformation_N(ctx, (const MBMS_PTM_RBInformation_N*)node->data);
+      RT_CHECK(ctx, stat, 0, "MBMS-PTM-RBInformation-N", (int32_t)i, "MBMS-PTM-RBInformation-NList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_TrCHInformation_Neighb(rtxContext* RT_RESTRICT ctx, const MBMS_TrCHInformation_Neighb* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-TrCHInformation-Neighb");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-TrCHInformation-Neighb");
+   /* transpCh-Info */
+   if ((uint64_t)(pvalue->transpCh_Info - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "MBMS-CommonTrChIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->transpCh_Info);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-CommonTrChIdentity", "transpCh-Info", -1, "MBMS-TrCHInformation-Neighb");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->transpCh_Info, 1, 32);
+   RT_CHECK(ctx, stat, "MBMS-CommonTrChIdentity", "transpCh-Info", -1, "MBMS-TrCHInformation-Neighb");
+   /* transpCh-CombiningStatus */
+   stat = rtxEncBit(ctx, pvalue->transpCh_CombiningStatus);
+   RT_CHECK(ctx, stat, 0, "transpCh-CombiningStatus", -1, "MBMS-TrCHInformation-Neighb");
+   /* rbInformation */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBMS_PTM_RBInformation_NList(ctx, &pvalue->rbInformation);
+      RT_CHECK(ctx, stat, 0, "rbInformation", -1, "MBMS-TrCHInformation-Neighb");
+   }
+   /* msch-ConfigurationInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_MBMS_MSCH_ConfigurationInfo_r6(ctx, &pvalue->msch_ConfigurationInfo);
+      RT_CHECK(ctx, stat, 0, "msch-ConfigurationInfo", -1, "MBMS-TrCHInformation-Neighb");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_TrCHInformation_NeighbList(rtxContext* RT_RESTRICT ctx, const MBMS_TrCHInformation_NeighbList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-TrCHInformation-NeighbList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-TrCHInformation-NeighbList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-TrCHInformation-Neighb", (int32_t)i, "MBMS-TrCHInformation-NeighbList");
+      stat = asn1PE_UMTS_MBMS_TrCHInformation_Neighb(ctx, (const MBMS_TrCHInformation_Neighb*)node->data);
+      RT_CHECK(ctx, stat, 0, "MBMS-TrCHInformation-Neighb", (int32_t)i, "MBMS-TrCHInformation-NeighbList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_L23Configuration_different(rtxContext* RT_RESTRICT ctx, const MBMS_L23Configuration_different* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transpCh-InfoCommonForAllTrCh */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->transpCh_InfoCommonForAllTrCh - 1) > 31u) {
+         rtxErrAddStrParm(ctx, "MBMS-CommonCCTrChIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->transpCh_InfoCommonForAllTrCh);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-CommonCCTrChIdentity", "transpCh-InfoCommonForAllTrCh", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->transpCh_InfoCommonForAllTrCh, 1, 32);
+      RT_CHECK(ctx, stat, "MBMS-CommonCCTrChIdentity", "transpCh-InfoCommonForAllTrCh", -1, 0);
+   }
+   /* transpCHInformation */
+   stat = asn1PE_UMTS_MBMS_TrCHInformation_NeighbList(ctx, &pvalue->transpCHInformation);
+   RT_CHECK(ctx, stat, 0, "transpCHInformation", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_L23Configuration(rtxContext* RT_RESTRICT ctx, const MBMS_L23Configuration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-L23Configuration");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "MBMS-L23Configuration");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MBMS-L23Configuration");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.sameAsCurrent == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sameAsCurrent", -1, "MBMS-L23Configuration");
+         stat = asn1PE_UMTS_MBMS_L23Configuration_sameAsCurrent(ctx, pvalue->u.sameAsCurrent);
+         RT_CHECK(ctx, stat, 0, "sameAsCurrent", -1, "MBMS-L23Configuration");
+         break;
+      case 2:
+         if (pvalue->u.different == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "different", -1, "MBMS-L23Configuration");
+         stat = asn1PE_UMTS_MBMS_L23Configuration_different(ctx, pvalue->u.different);
+         RT_CHECK(ctx, stat, 0, "different", -1, "MBMS-L23Configuration");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_MICHPowerOffset(rtxContext* RT_RESTRICT ctx, MBMS_MICHPowerOffset value)
+{
+   int stat = 0;
+   if (value < -10 || value > 5) {
+      rtxErrAddStrParm(ctx, "MBMS-MICHPowerOffset");
+      rtxErrAddIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MBMS-MICHPowerOffset");
+   }
+   stat = pe_ConsInt64(ctx, value, -10, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-MICHPowerOffset");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_NI_CountPerFrame(rtxContext* RT_RESTRICT ctx, MBMS_NI_CountPerFrame value)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MBMS-NI-CountPerFrame");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-NI-CountPerFrame");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_MICHConfigurationInfo_r6_mode_fdd(rtxContext* RT_RESTRICT ctx, const MBMS_MICHConfigurationInfo_r6_mode_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* channelisationCode256 */
+   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode256, 0, 255);
+   RT_CHECK(ctx, stat, "ChannelisationCode256", "channelisationCode256", -1, 0);
+   /* ni-CountPerFrame */
+   if (pvalue->ni_CountPerFrame > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->ni_CountPerFrame);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-NI-CountPerFrame", "ni-CountPerFrame", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ni_CountPerFrame, 0, 3);
+   RT_CHECK(ctx, stat, "MBMS-NI-CountPerFrame", "ni-CountPerFrame", -1, 0);
+   /* sttd-Indicator */
+   stat = rtxEncBit(ctx, pvalue->sttd_Indicator);
+   RT_CHECK(ctx, stat, 0, "sttd-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_MICHNotificationIndLength(rtxContext* RT_RESTRICT ctx, MBMS_MICHNotificationIndLength value)
+{
+   int stat = 0;
+   if (value > 2) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MBMS-MICHNotificationIndLength");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-MICHNotificationIndLength");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd384(rtxContext* RT_RESTRICT ctx, const MBMS_MICHConfigurationInfo_r6_mode_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)(pvalue->mbmsNotificationIndLength != 0) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* timeslot */
+   if ((uint64_t)pvalue->timeslot > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslot);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslot", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 14);
+   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, 0);
+   /* midambleShiftAndBurstType */
+   stat = asn1PE_UMTS_MidambleShiftAndBurstType(ctx, &pvalue->midambleShiftAndBurstType);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, 0);
+   /* channelisationCode */
+   if (pvalue->channelisationCode > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TS-ChannelisationCode", "channelisationCode", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 15);
+   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode", "channelisationCode", -1, 0);
+   /* repetitionPeriodLengthOffset */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RepPerLengthOffset_MICH(ctx, &pvalue->repetitionPeriodLengthOffset);
+      RT_CHECK(ctx, stat, 0, "repetitionPeriodLengthOffset", -1, 0);
+   }
+   /* mbmsNotificationIndLength */
+   if (pvalue->mbmsNotificationIndLength != 0) {
+      if (pvalue->mbmsNotificationIndLength > 2) {
+         rtxErrAddUIntParm(ctx, pvalue->mbmsNotificationIndLength);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-MICHNotificationIndLength", "mbmsNotificationIndLength", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mbmsNotificationIndLength, 0, 2);
+      RT_CHECK(ctx, stat, "MBMS-MICHNotificationIndLength", "mbmsNotificationIndLength", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd128_channelisationCodeList(rtxContext* RT_RESTRICT ctx, const MBMS_MICHConfigurationInfo_r6_mode_tdd128_channelisationCodeList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 2);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TS-ChannelisationCode", "DL-TS-ChannelisationCode", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 15);
+      RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode", "DL-TS-ChannelisationCode", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd128(rtxContext* RT_RESTRICT ctx, const MBMS_MICHConfigurationInfo_r6_mode_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)(pvalue->mbmsNotificationIndLength != 0) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* timeslot */
+   if ((uint64_t)pvalue->timeslot > 6u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
+      rtxErrAddUIntParm(ctx, pvalue->timeslot);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslot", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 6);
+   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslot", -1, 0);
+   /* midambleShiftAndBurstType */
+   stat = asn1PE_UMTS_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, 0);
+   /* channelisationCodeList */
+   stat = asn1PE_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd128_channelisationCodeList(ctx, &pvalue->channelisationCodeList);
+   RT_CHECK(ctx, stat, 0, "channelisationCodeList", -1, 0);
+   /* repetitionPeriodLengthOffset */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RepPerLengthOffset_MICH(ctx, &pvalue->repetitionPeriodLengthOffset);
+      RT_CHECK(ctx, stat, 0, "repetitionPeriodLengthOffset", -1, 0);
+   }
+   /* mbmsNotificationIndLength */
+   if (pvalue->mbmsNotificationIndLength != 0) {
+      if (pvalue->mbmsNotificationIndLength > 2) {
+         rtxErrAddUIntParm(ctx, pvalue->mbmsNotificationIndLength);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-MICHNotificationIndLength", "mbmsNotificationIndLength", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mbmsNotificationIndLength, 0, 2);
+      RT_CHECK(ctx, stat, "MBMS-MICHNotificationIndLength", "mbmsNotificationIndLength", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_MICHConfigurationInfo_r6_mode(rtxContext* RT_RESTRICT ctx, const MBMS_MICHConfigurationInfo_r6_mode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_MBMS_MICHConfigurationInfo_r6_mode_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = asn1PE_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = asn1PE_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_MICHConfigurationInfo_r6(rtxContext* RT_RESTRICT ctx, const MBMS_MICHConfigurationInfo_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-MICHConfigurationInfo-r6");
+   /* michPowerOffset */
+   if (pvalue->michPowerOffset < -10 || pvalue->michPowerOffset > 5) {
+      rtxErrAddStrParm(ctx, "MBMS-MICHPowerOffset");
+      rtxErrAddIntParm(ctx, pvalue->michPowerOffset);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-MICHPowerOffset", "michPowerOffset", -1, "MBMS-MICHConfigurationInfo-r6");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->michPowerOffset, -10, 5);
+   RT_CHECK(ctx, stat, "MBMS-MICHPowerOffset", "michPowerOffset", -1, "MBMS-MICHConfigurationInfo-r6");
+   /* mode */
+   stat = asn1PE_UMTS_MBMS_MICHConfigurationInfo_r6_mode(ctx, &pvalue->mode);
+   RT_CHECK(ctx, stat, 0, "mode", -1, "MBMS-MICHConfigurationInfo-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd384(rtxContext* RT_RESTRICT ctx, const MBMS_MICHConfigurationInfo_v770ext_mode_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleShiftAndBurstType */
+   stat = asn1PE_UMTS_MidambleShiftAndBurstType_r7(ctx, &pvalue->midambleShiftAndBurstType);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd768(rtxContext* RT_RESTRICT ctx, const MBMS_MICHConfigurationInfo_v770ext_mode_tdd768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleShiftAndBurstType */
+   stat = asn1PE_UMTS_MidambleShiftAndBurstType_VHCR(ctx, &pvalue->midambleShiftAndBurstType);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd128(rtxContext* RT_RESTRICT ctx, const MBMS_MICHConfigurationInfo_v770ext_mode_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* mbsfnSpecialTimeSlot */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->mbsfnSpecialTimeSlot > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->mbsfnSpecialTimeSlot);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TimeSlotLCR-ext", "mbsfnSpecialTimeSlot", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mbsfnSpecialTimeSlot, 0, 3);
+      RT_CHECK(ctx, stat, "TimeSlotLCR-ext", "mbsfnSpecialTimeSlot", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode(rtxContext* RT_RESTRICT ctx, const MBMS_MICHConfigurationInfo_v770ext_mode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = asn1PE_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
+         stat = asn1PE_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd768(ctx, pvalue->u.tdd768);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = asn1PE_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_MICHConfigurationInfo_v770ext(rtxContext* RT_RESTRICT ctx, const MBMS_MICHConfigurationInfo_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-MICHConfigurationInfo-v770ext");
+   /* mode */
+   stat = asn1PE_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode(ctx, &pvalue->mode);
+   RT_CHECK(ctx, stat, 0, "mode", -1, "MBMS-MICHConfigurationInfo-v770ext");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_NI_CountPerFrame_IMB384(rtxContext* RT_RESTRICT ctx, MBMS_NI_CountPerFrame_IMB384 value)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MBMS-NI-CountPerFrame-IMB384");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-NI-CountPerFrame-IMB384");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_MICHConfigurationInfo_v890ext_mode_imb384(rtxContext* RT_RESTRICT ctx, const MBMS_MICHConfigurationInfo_v890ext_mode_imb384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* channelisationCode256 */
+   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode256, 0, 255);
+   RT_CHECK(ctx, stat, "ChannelisationCode256", "channelisationCode256", -1, 0);
+   /* ni-CountPerFrame */
+   if (pvalue->ni_CountPerFrame > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->ni_CountPerFrame);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-NI-CountPerFrame-IMB384", "ni-CountPerFrame", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ni_CountPerFrame, 0, 3);
+   RT_CHECK(ctx, stat, "MBMS-NI-CountPerFrame-IMB384", "ni-CountPerFrame", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_MICHConfigurationInfo_v890ext_mode(rtxContext* RT_RESTRICT ctx, const MBMS_MICHConfigurationInfo_v890ext_mode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 0);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 0) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.imb384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "imb384", -1, 0);
+         stat = asn1PE_UMTS_MBMS_MICHConfigurationInfo_v890ext_mode_imb384(ctx, pvalue->u.imb384);
+         RT_CHECK(ctx, stat, 0, "imb384", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_MICHConfigurationInfo_v890ext(rtxContext* RT_RESTRICT ctx, const MBMS_MICHConfigurationInfo_v890ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-MICHConfigurationInfo-v890ext");
+   /* mode */
+   stat = asn1PE_UMTS_MBMS_MICHConfigurationInfo_v890ext_mode(ctx, &pvalue->mode);
+   RT_CHECK(ctx, stat, 0, "mode", -1, "MBMS-MICHConfigurationInfo-v890ext");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_ServiceIdentity_r6_serviceIdentity(rtxContext* RT_RESTRICT ctx, const MBMS_ServiceIdentity_r6_serviceIdentity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 3, 3);
+   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_ServiceIdentity_r6_plmn_Identity_other(rtxContext* RT_RESTRICT ctx, const MBMS_ServiceIdentity_r6_plmn_Identity_other* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)(pvalue->u.sameAsMIB_MultiPLMN_Id - 1) > 4u) {
+            rtxErrAddStrParm(ctx, "sameAsMIB-MultiPLMN-Id");
+            rtxErrAddUIntParm(ctx, pvalue->u.sameAsMIB_MultiPLMN_Id);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sameAsMIB-MultiPLMN-Id", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.sameAsMIB_MultiPLMN_Id, 1, 5);
+         RT_CHECK(ctx, stat, 0, "sameAsMIB-MultiPLMN-Id", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.explicitPLMN_Id == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "explicitPLMN-Id", -1, 0);
+         stat = asn1PE_UMTS_PLMN_Identity(ctx, pvalue->u.explicitPLMN_Id);
+         RT_CHECK(ctx, stat, 0, "explicitPLMN-Id", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_ServiceIdentity_r6_plmn_Identity(rtxContext* RT_RESTRICT ctx, const MBMS_ServiceIdentity_r6_plmn_Identity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.other == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "other", -1, 0);
+         stat = asn1PE_UMTS_MBMS_ServiceIdentity_r6_plmn_Identity_other(ctx, pvalue->u.other);
+         RT_CHECK(ctx, stat, 0, "other", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_ServiceIdentity_r6(rtxContext* RT_RESTRICT ctx, const MBMS_ServiceIdentity_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-ServiceIdentity-r6");
+   /* serviceIdentity */
+   stat = asn1PE_UMTS_MBMS_ServiceIdentity_r6_serviceIdentity(ctx, &pvalue->serviceIdentity);
+   RT_CHECK(ctx, stat, 0, "serviceIdentity", -1, "MBMS-ServiceIdentity-r6");
+   /* plmn-Identity */
+   stat = asn1PE_UMTS_MBMS_ServiceIdentity_r6_plmn_Identity(ctx, &pvalue->plmn_Identity);
+   RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, "MBMS-ServiceIdentity-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_TransmissionIdentity(rtxContext* RT_RESTRICT ctx, const MBMS_TransmissionIdentity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-TransmissionIdentity");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-TransmissionIdentity");
+   /* mbms-ServiceIdentity */
+   stat = asn1PE_UMTS_MBMS_ServiceIdentity_r6(ctx, &pvalue->mbms_ServiceIdentity);
+   RT_CHECK(ctx, stat, 0, "mbms-ServiceIdentity", -1, "MBMS-TransmissionIdentity");
+   /* mbms-SessionIdentity */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBMS_SessionIdentity(ctx, &pvalue->mbms_SessionIdentity);
+      RT_CHECK(ctx, stat, 0, "mbms-SessionIdentity", -1, "MBMS-TransmissionIdentity");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_RequiredUEAction_Mod(rtxContext* RT_RESTRICT ctx, MBMS_RequiredUEAction_Mod value)
+{
+   int stat = 0;
+   if (value > 5) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MBMS-RequiredUEAction-Mod");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-RequiredUEAction-Mod");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_PFLIndex(rtxContext* RT_RESTRICT ctx, MBMS_PFLIndex value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 3u) {
+      rtxErrAddStrParm(ctx, "MBMS-PFLIndex");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MBMS-PFLIndex");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PFLIndex");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_PFLInfo(rtxContext* RT_RESTRICT ctx, const MBMS_PFLInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-PFLInfo");
+   stat = asn1PE_UMTS_FrequencyInfo(ctx, pvalue);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PFLInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_ModifedService_r6_mbms_PreferredFrequency(rtxContext* RT_RESTRICT ctx, const MBMS_ModifedService_r6_mbms_PreferredFrequency* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)(pvalue->u.mcch - 1) > 3u) {
+            rtxErrAddStrParm(ctx, "MBMS-PFLIndex");
+            rtxErrAddUIntParm(ctx, pvalue->u.mcch);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-PFLIndex", "mcch", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.mcch, 1, 4);
+         RT_CHECK(ctx, stat, "MBMS-PFLIndex", "mcch", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.dcch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dcch", -1, 0);
+         stat = asn1PE_UMTS_MBMS_PFLInfo(ctx, pvalue->u.dcch);
+         RT_CHECK(ctx, stat, 0, "dcch", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_ModifedService_r6_dummy(rtxContext* RT_RESTRICT ctx, MBMS_ModifedService_r6_dummy value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_ModifedService_r6(rtxContext* RT_RESTRICT ctx, const MBMS_ModifedService_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-ModifedService-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-ModifedService-r6");
+   /* mbms-TransmissionIdentity */
+   stat = asn1PE_UMTS_MBMS_TransmissionIdentity(ctx, &pvalue->mbms_TransmissionIdentity);
+   RT_CHECK(ctx, stat, 0, "mbms-TransmissionIdentity", -1, "MBMS-ModifedService-r6");
+   /* mbms-RequiredUEAction */
+   if (pvalue->mbms_RequiredUEAction > 5) {
+      rtxErrAddUIntParm(ctx, pvalue->mbms_RequiredUEAction);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-RequiredUEAction-Mod", "mbms-RequiredUEAction", -1, "MBMS-ModifedService-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->mbms_RequiredUEAction, 0, 5);
+   RT_CHECK(ctx, stat, "MBMS-RequiredUEAction-Mod", "mbms-RequiredUEAction", -1, "MBMS-ModifedService-r6");
+   /* mbms-PreferredFrequency */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBMS_ModifedService_r6_mbms_PreferredFrequency(ctx, &pvalue->mbms_PreferredFrequency);
+      RT_CHECK(ctx, stat, 0, "mbms-PreferredFrequency", -1, "MBMS-ModifedService-r6");
+   }
+   /* dummy */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->dummy > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->dummy);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "dummy", -1, "MBMS-ModifedService-r6");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dummy, 0, 0);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "MBMS-ModifedService-r6");
+   }
+   /* continueMCCHReading */
+   stat = rtxEncBit(ctx, pvalue->continueMCCHReading);
+   RT_CHECK(ctx, stat, 0, "continueMCCHReading", -1, "MBMS-ModifedService-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_ModifedServiceList_r6(rtxContext* RT_RESTRICT ctx, const MBMS_ModifedServiceList_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-ModifedServiceList-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-ModifedServiceList-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-ModifedService-r6", (int32_t)i, "MBMS-ModifedServiceList-r6");
+      stat = asn1PE_UMTS_MBMS_ModifedService_r6(ctx, (const MBMS_ModifedService_r6*)node->data);
+      RT_CHECK(ctx, stat, 0, "MBMS-ModifedService-r6", (int32_t)i, "MBMS-ModifedServiceList-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBSFN_ClusterFrequency_r7(rtxContext* RT_RESTRICT ctx, MBSFN_ClusterFrequency_r7 value)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "MBSFN-ClusterFrequency-r7");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MBSFN-ClusterFrequency-r7");
+   }
+   stat = pe_ConsUInt64(ctx, value, 1, 16);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBSFN-ClusterFrequency-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_ModifiedService_v770ext(rtxContext* RT_RESTRICT ctx, const MBMS_ModifiedService_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-ModifiedService-v770ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-ModifiedService-v770ext");
+   /* mbsfnClusterFrequency */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->mbsfnClusterFrequency - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "MBSFN-ClusterFrequency-r7");
+         rtxErrAddUIntParm(ctx, pvalue->mbsfnClusterFrequency);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MBSFN-ClusterFrequency-r7", "mbsfnClusterFrequency", -1, "MBMS-ModifiedService-v770ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mbsfnClusterFrequency, 1, 16);
+      RT_CHECK(ctx, stat, "MBSFN-ClusterFrequency-r7", "mbsfnClusterFrequency", -1, "MBMS-ModifiedService-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_PTM_RBReleaseCause_LCR_r7(rtxContext* RT_RESTRICT ctx, MBMS_PTM_RBReleaseCause_LCR_r7 value)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MBMS-PTM-RBReleaseCause-LCR-r7");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PTM-RBReleaseCause-LCR-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_ModifiedService_LCR_v7c0ext(rtxContext* RT_RESTRICT ctx, const MBMS_ModifiedService_LCR_v7c0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-ModifiedService-LCR-v7c0ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-ModifiedService-LCR-v7c0ext");
+   /* rbReleaseCause */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->rbReleaseCause > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->rbReleaseCause);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-PTM-RBReleaseCause-LCR-r7", "rbReleaseCause", -1, "MBMS-ModifiedService-LCR-v7c0ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->rbReleaseCause, 0, 7);
+      RT_CHECK(ctx, stat, "MBMS-PTM-RBReleaseCause-LCR-r7", "rbReleaseCause", -1, "MBMS-ModifiedService-LCR-v7c0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_ModifiedServiceList_v770ext(rtxContext* RT_RESTRICT ctx, const MBMS_ModifiedServiceList_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-ModifiedServiceList-v770ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-ModifiedServiceList-v770ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-ModifiedService-v770ext", (int32_t)i, "MBMS-ModifiedServiceList-v770ext");
+      stat = asn1PE_UMTS_MBMS_ModifiedService_v770ext(ctx, (const MBMS_ModifiedService_v770ext*)node->data);
+      RT_CHECK(ctx, stat, 0, "MBMS-ModifiedService-v770ext", (int32_t)i, "MBMS-ModifiedServiceList-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_ModifiedServiceList_LCR_v7c0ext(rtxContext* RT_RESTRICT ctx, const MBMS_ModifiedServiceList_LCR_v7c0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-ModifiedServiceList-LCR-v7c0ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-ModifiedServiceList-LCR-v7c0ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-ModifiedService-LCR-v7c0ext", (int32_t)i, "MBMS-ModifiedServiceList-LCR-v7c0ext");
+      stat = asn1PE_UMTS_MBMS_ModifiedService_LCR_v7c0ext(ctx, (const MBMS_ModifiedService_LCR_v7c0ext*)node->data);
+      RT_CHECK(ctx, stat, 0, "MBMS-ModifiedService-LCR-v7c0ext", (int32_t)i, "MBMS-ModifiedServiceList-LCR-v7c0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_SCCPCHPwrOffsetDiff(rtxContext* RT_RESTRICT ctx, MBMS_SCCPCHPwrOffsetDiff value)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MBMS-SCCPCHPwrOffsetDiff");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-SCCPCHPwrOffsetDiff");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_NeighbouringCellSCCPCH_r6_layer1Combining_fdd(rtxContext* RT_RESTRICT ctx, const MBMS_NeighbouringCellSCCPCH_r6_layer1Combining_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* softComb-TimingOffset */
+   if (pvalue->softComb_TimingOffset > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->softComb_TimingOffset);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-SoftComb-TimingOffset", "softComb-TimingOffset", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->softComb_TimingOffset, 0, 3);
+   RT_CHECK(ctx, stat, "MBMS-SoftComb-TimingOffset", "softComb-TimingOffset", -1, 0);
+   /* mbms-L1CombiningTransmTimeDiff */
+   if ((uint64_t)pvalue->mbms_L1CombiningTransmTimeDiff > 3u) {
+      rtxErrAddStrParm(ctx, "MBMS-L1CombiningTransmTimeDiff");
+      rtxErrAddUIntParm(ctx, pvalue->mbms_L1CombiningTransmTimeDiff);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-L1CombiningTransmTimeDiff", "mbms-L1CombiningTransmTimeDiff", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->mbms_L1CombiningTransmTimeDiff, 0, 3);
+   RT_CHECK(ctx, stat, "MBMS-L1CombiningTransmTimeDiff", "mbms-L1CombiningTransmTimeDiff", -1, 0);
+   /* mbms-L1CombiningSchedule */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBMS_L1CombiningSchedule(ctx, &pvalue->mbms_L1CombiningSchedule);
+      RT_CHECK(ctx, stat, 0, "mbms-L1CombiningSchedule", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_NeighbouringCellSCCPCH_r6_layer1Combining(rtxContext* RT_RESTRICT ctx, const MBMS_NeighbouringCellSCCPCH_r6_layer1Combining* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_MBMS_NeighbouringCellSCCPCH_r6_layer1Combining_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_NeighbouringCellSCCPCH_r6(rtxContext* RT_RESTRICT ctx, const MBMS_NeighbouringCellSCCPCH_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-NeighbouringCellSCCPCH-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-NeighbouringCellSCCPCH-r6");
+   /* secondaryCCPCH-Info */
+   if ((uint64_t)(pvalue->secondaryCCPCH_Info - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "MBMS-CommonPhyChIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->secondaryCCPCH_Info);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-CommonPhyChIdentity", "secondaryCCPCH-Info", -1, "MBMS-NeighbouringCellSCCPCH-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->secondaryCCPCH_Info, 1, 32);
+   RT_CHECK(ctx, stat, "MBMS-CommonPhyChIdentity", "secondaryCCPCH-Info", -1, "MBMS-NeighbouringCellSCCPCH-r6");
+   /* secondaryCCPCHPwrOffsetDiff */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->secondaryCCPCHPwrOffsetDiff > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->secondaryCCPCHPwrOffsetDiff);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-SCCPCHPwrOffsetDiff", "secondaryCCPCHPwrOffsetDiff", -1, "MBMS-NeighbouringCellSCCPCH-r6");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->secondaryCCPCHPwrOffsetDiff, 0, 3);
+      RT_CHECK(ctx, stat, "MBMS-SCCPCHPwrOffsetDiff", "secondaryCCPCHPwrOffsetDiff", -1, "MBMS-NeighbouringCellSCCPCH-r6");
+   }
+   /* layer1Combining */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_MBMS_NeighbouringCellSCCPCH_r6_layer1Combining(ctx, &pvalue->layer1Combining);
+      RT_CHECK(ctx, stat, 0, "layer1Combining", -1, "MBMS-NeighbouringCellSCCPCH-r6");
+   }
+   /* mbms-L23Configuration */
+   stat = asn1PE_UMTS_MBMS_L23Configuration(ctx, &pvalue->mbms_L23Configuration);
+   RT_CHECK(ctx, stat, 0, "mbms-L23Configuration", -1, "MBMS-NeighbouringCellSCCPCH-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining_fdd(rtxContext* RT_RESTRICT ctx, const MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* softComb-TimingOffset */
+   if (pvalue->softComb_TimingOffset > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->softComb_TimingOffset);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-SoftComb-TimingOffset", "softComb-TimingOffset", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->softComb_TimingOffset, 0, 3);
+   RT_CHECK(ctx, stat, "MBMS-SoftComb-TimingOffset", "softComb-TimingOffset", -1, 0);
+   /* mbms-L1CombiningTransmTimeDiff */
+   if ((uint64_t)pvalue->mbms_L1CombiningTransmTimeDiff > 3u) {
+      rtxErrAddStrParm(ctx, "MBMS-L1CombiningTransmTimeDiff");
+      rtxErrAddUIntParm(ctx, pvalue->mbms_L1CombiningTransmTimeDiff);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-L1CombiningTransmTimeDiff", "mbms-L1CombiningTransmTimeDiff", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->mbms_L1CombiningTransmTimeDiff, 0, 3);
+   RT_CHECK(ctx, stat, "MBMS-L1CombiningTransmTimeDiff", "mbms-L1CombiningTransmTimeDiff", -1, 0);
+   /* mbms-L1CombiningSchedule */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBMS_L1CombiningSchedule(ctx, &pvalue->mbms_L1CombiningSchedule);
+      RT_CHECK(ctx, stat, 0, "mbms-L1CombiningSchedule", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining(rtxContext* RT_RESTRICT ctx, const MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext(rtxContext* RT_RESTRICT ctx, const MBMS_NeighbouringCellSCCPCH_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-NeighbouringCellSCCPCH-v770ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-NeighbouringCellSCCPCH-v770ext");
+   /* secondaryCCPCH-Info */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->secondaryCCPCH_Info - 1) > 31u) {
+         rtxErrAddStrParm(ctx, "MBMS-CommonPhyChIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->secondaryCCPCH_Info);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-CommonPhyChIdentity", "secondaryCCPCH-Info", -1, "MBMS-NeighbouringCellSCCPCH-v770ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->secondaryCCPCH_Info, 1, 32);
+      RT_CHECK(ctx, stat, "MBMS-CommonPhyChIdentity", "secondaryCCPCH-Info", -1, "MBMS-NeighbouringCellSCCPCH-v770ext");
+   }
+   /* secondaryCCPCH-InfoDiff */
+   stat = asn1PE_UMTS_SecondaryCCPCHInfoDiff_MBMS(ctx, &pvalue->secondaryCCPCH_InfoDiff);
+   RT_CHECK(ctx, stat, 0, "secondaryCCPCH-InfoDiff", -1, "MBMS-NeighbouringCellSCCPCH-v770ext");
+   /* secondaryCCPCHPwrOffsetDiff */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->secondaryCCPCHPwrOffsetDiff > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->secondaryCCPCHPwrOffsetDiff);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-SCCPCHPwrOffsetDiff", "secondaryCCPCHPwrOffsetDiff", -1, "MBMS-NeighbouringCellSCCPCH-v770ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->secondaryCCPCHPwrOffsetDiff, 0, 3);
+      RT_CHECK(ctx, stat, "MBMS-SCCPCHPwrOffsetDiff", "secondaryCCPCHPwrOffsetDiff", -1, "MBMS-NeighbouringCellSCCPCH-v770ext");
+   }
+   /* layer1Combining */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining(ctx, &pvalue->layer1Combining);
+      RT_CHECK(ctx, stat, 0, "layer1Combining", -1, "MBMS-NeighbouringCellSCCPCH-v770ext");
+   }
+   /* mbms-L23Configuration */
+   stat = asn1PE_UMTS_MBMS_L23Configuration(ctx, &pvalue->mbms_L23Configuration);
+   RT_CHECK(ctx, stat, 0, "mbms-L23Configuration", -1, "MBMS-NeighbouringCellSCCPCH-v770ext");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_NeighbouringCellSCCPCHList_r6(rtxContext* RT_RESTRICT ctx, const MBMS_NeighbouringCellSCCPCHList_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-NeighbouringCellSCCPCHList-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-NeighbouringCellSCCPCHList-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-NeighbouringCellSCCPCH-r6", (int32_t)i, "MBMS-NeighbouringCellSCCPCHList-r6");
+      stat = asn1PE_UMTS_MBMS_NeighbouringCellSCCPCH_r6(ctx, (const MBMS_NeighbouringCellSCCPCH_r6*)node->data);
+      RT_CHECK(ctx, stat, 0, "MBMS-NeighbouringCellSCCPCH-r6", (int32_t)i, "MBMS-NeighbouringCellSCCPCHList-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_NeighbouringCellSCCPCHList_v770ext(rtxContext* RT_RESTRICT ctx, const MBMS_NeighbouringCellSCCPCHList_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-NeighbouringCellSCCPCHList-v770ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-NeighbouringCellSCCPCHList-v770ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-NeighbouringCellSCCPCH-v770ext", (int32_t)i, "MBMS-NeighbouringCellSCCPCHList-v770ext");
+      stat = asn1PE_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext(ctx, (const MBMS_NeighbouringCellSCCPCH_v770ext*)node->data);
+      RT_CHECK(ctx, stat, 0, "MBMS-NeighbouringCellSCCPCH-v770ext", (int32_t)i, "MBMS-NeighbouringCellSCCPCHList-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_NetworkStandardTimeInformation_LCR_v890ext_networkStandardTime(rtxContext* RT_RESTRICT ctx, const MBMS_NetworkStandardTimeInformation_LCR_v890ext_networkStandardTime* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 40, 40);
+   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_NetworkStandardTimeInformation_LCR_v890ext(rtxContext* RT_RESTRICT ctx, const MBMS_NetworkStandardTimeInformation_LCR_v890ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-NetworkStandardTimeInformation-LCR-v890ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-NetworkStandardTimeInformation-LCR-v890ext");
+   /* networkStandardTime */
+   stat = asn1PE_UMTS_MBMS_NetworkStandardTimeInformation_LCR_v890ext_networkStandardTime(ctx, &pvalue->networkStandardTime);
+   RT_CHECK(ctx, stat, 0, "networkStandardTime", -1, "MBMS-NetworkStandardTimeInformation-LCR-v890ext");
+   /* correlativeSFN */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->correlativeSFN > 4095u) {
+         rtxErrAddStrParm(ctx, "correlativeSFN");
+         rtxErrAddUIntParm(ctx, pvalue->correlativeSFN);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "correlativeSFN", -1, "MBMS-NetworkStandardTimeInformation-LCR-v890ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->correlativeSFN, 0, 4095);
+      RT_CHECK(ctx, stat, 0, "correlativeSFN", -1, "MBMS-NetworkStandardTimeInformation-LCR-v890ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_NumberOfNeighbourCells_r6(rtxContext* RT_RESTRICT ctx, MBMS_NumberOfNeighbourCells_r6 value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 32u) {
+      rtxErrAddStrParm(ctx, "MBMS-NumberOfNeighbourCells-r6");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MBMS-NumberOfNeighbourCells-r6");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-NumberOfNeighbourCells-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_PhyChInformation_IMB384(rtxContext* RT_RESTRICT ctx, const MBMS_PhyChInformation_IMB384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-PhyChInformation-IMB384");
+   /* mbms-CommonPhyChIdentity */
+   if ((uint64_t)(pvalue->mbms_CommonPhyChIdentity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "MBMS-CommonPhyChIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->mbms_CommonPhyChIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-CommonPhyChIdentity", "mbms-CommonPhyChIdentity", -1, "MBMS-PhyChInformation-IMB384");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->mbms_CommonPhyChIdentity, 1, 32);
+   RT_CHECK(ctx, stat, "MBMS-CommonPhyChIdentity", "mbms-CommonPhyChIdentity", -1, "MBMS-PhyChInformation-IMB384");
+   /* secondaryCCPCHInfo-MBMS */
+   stat = asn1PE_UMTS_SecondaryCCPCHFrameType2Info(ctx, &pvalue->secondaryCCPCHInfo_MBMS);
+   RT_CHECK(ctx, stat, 0, "secondaryCCPCHInfo-MBMS", -1, "MBMS-PhyChInformation-IMB384");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_PhyChInformationList_IMB384(rtxContext* RT_RESTRICT ctx, const MBMS_PhyChInformationList_IMB384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-PhyChInformationList-IMB384");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-PhyChInformationList-IMB384");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-PhyChInformation-IMB384", (int32_t)i, "MBMS-PhyChInformationList-IMB384");
+      stat = asn1PE_UMTS_MBMS_PhyChInformation_IMB384(ctx, (const MBMS_PhyChInformation_IMB384*)node->data);
+      RT_CHECK(ctx, stat, 0, "MBMS-PhyChInformation-IMB384", (int32_t)i, "MBMS-PhyChInformationList-IMB384");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_PhyChInformation_r6(rtxContext* RT_RESTRICT ctx, const MBMS_PhyChInformation_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-PhyChInformation-r6");
+   /* mbms-CommonPhyChIdentity */
+   if ((uint64_t)(pvalue->mbms_CommonPhyChIdentity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "MBMS-CommonPhyChIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->mbms_CommonPhyChIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-CommonPhyChIdentity", "mbms-CommonPhyChIdentity", -1, "MBMS-PhyChInformation-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->mbms_CommonPhyChIdentity, 1, 32);
+   RT_CHECK(ctx, stat, "MBMS-CommonPhyChIdentity", "mbms-CommonPhyChIdentity", -1, "MBMS-PhyChInformation-r6");
+   /* secondaryCCPCHInfo-MBMS */
+   stat = asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r6(ctx, &pvalue->secondaryCCPCHInfo_MBMS);
+   RT_CHECK(ctx, stat, 0, "secondaryCCPCHInfo-MBMS", -1, "MBMS-PhyChInformation-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_PhyChInformation_r7(rtxContext* RT_RESTRICT ctx, const MBMS_PhyChInformation_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-PhyChInformation-r7");
+   /* mbms-CommonPhyChIdentity */
+   if ((uint64_t)(pvalue->mbms_CommonPhyChIdentity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "MBMS-CommonPhyChIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->mbms_CommonPhyChIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-CommonPhyChIdentity", "mbms-CommonPhyChIdentity", -1, "MBMS-PhyChInformation-r7");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->mbms_CommonPhyChIdentity, 1, 32);
+   RT_CHECK(ctx, stat, "MBMS-CommonPhyChIdentity", "mbms-CommonPhyChIdentity", -1, "MBMS-PhyChInformation-r7");
+   /* secondaryCCPCHInfo-MBMS */
+   stat = asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7(ctx, &pvalue->secondaryCCPCHInfo_MBMS);
+   RT_CHECK(ctx, stat, 0, "secondaryCCPCHInfo-MBMS", -1, "MBMS-PhyChInformation-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_PhyChInformationList_r6(rtxContext* RT_RESTRICT ctx, const MBMS_PhyChInformationList_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-PhyChInformationList-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-PhyChInformationList-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-PhyChInformation-r6", (int32_t)i, "MBMS-PhyChInformationList-r6");
+      stat = asn1PE_UMTS_MBMS_PhyChInformation_r6(ctx, (const MBMS_PhyChInformation_r6*)node->data);
+      RT_CHECK(ctx, stat, 0, "MBMS-PhyChInformation-r6", (int32_t)i, "MBMS-PhyChInformationList-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_PhyChInformationList_r7(rtxContext* RT_RESTRICT ctx, const MBMS_PhyChInformationList_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-PhyChInformationList-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-PhyChInformationList-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-PhyChInformation-r7", (int32_t)i, "MBMS-PhyChInformationList-r7");
+      stat = asn1PE_UMTS_MBMS_PhyChInformation_r7(ctx, (const MBMS_PhyChInformation_r7*)node->data);
+      RT_CHECK(ctx, stat, 0, "MBMS-PhyChInformation-r7", (int32_t)i, "MBMS-PhyChInformationList-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_PL_ServiceRestrictInfo_r6(rtxContext* RT_RESTRICT ctx, MBMS_PL_ServiceRestrictInfo_r6 value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MBMS-PL-ServiceRestrictInfo-r6");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PL-ServiceRestrictInfo-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_Qoffset(rtxContext* RT_RESTRICT ctx, MBMS_Qoffset value)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MBMS-Qoffset");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-Qoffset");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_PreferredFrequencyInfo_r6_layerConvergenceInformation(rtxContext* RT_RESTRICT ctx, const MBMS_PreferredFrequencyInfo_r6_layerConvergenceInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.mbms_Qoffset > 7) {
+            rtxErrAddUIntParm(ctx, pvalue->u.mbms_Qoffset);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-Qoffset", "mbms-Qoffset", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.mbms_Qoffset, 0, 7);
+         RT_CHECK(ctx, stat, "MBMS-Qoffset", "mbms-Qoffset", -1, 0);
+         break;
+      case 2:
+         if ((uint64_t)pvalue->u.mbms_HCSoffset > 7u) {
+            rtxErrAddStrParm(ctx, "mbms-HCSoffset");
+            rtxErrAddUIntParm(ctx, pvalue->u.mbms_HCSoffset);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "mbms-HCSoffset", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.mbms_HCSoffset, 0, 7);
+         RT_CHECK(ctx, stat, 0, "mbms-HCSoffset", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_PreferredFrequencyInfo_r6(rtxContext* RT_RESTRICT ctx, const MBMS_PreferredFrequencyInfo_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-PreferredFrequencyInfo-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PreferredFrequencyInfo-r6");
+   /* mbmsPreferredFrequency */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->mbmsPreferredFrequency - 1) > 3u) {
+         rtxErrAddStrParm(ctx, "mbmsPreferredFrequency");
+         rtxErrAddUIntParm(ctx, pvalue->mbmsPreferredFrequency);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "mbmsPreferredFrequency", -1, "MBMS-PreferredFrequencyInfo-r6");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mbmsPreferredFrequency, 1, 4);
+      RT_CHECK(ctx, stat, 0, "mbmsPreferredFrequency", -1, "MBMS-PreferredFrequencyInfo-r6");
+   }
+   /* layerConvergenceInformation */
+   stat = asn1PE_UMTS_MBMS_PreferredFrequencyInfo_r6_layerConvergenceInformation(ctx, &pvalue->layerConvergenceInformation);
+   RT_CHECK(ctx, stat, 0, "layerConvergenceInformation", -1, "MBMS-PreferredFrequencyInfo-r6");
+   /* mbms-PL-ServiceRestrictInfo */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "MBMS-PreferredFrequencyInfo-r6");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
+      RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "MBMS-PreferredFrequencyInfo-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_PreferredFrequencyList_r6(rtxContext* RT_RESTRICT ctx, const MBMS_PreferredFrequencyList_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-PreferredFrequencyList-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-PreferredFrequencyList-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-PreferredFrequencyInfo-r6", (int32_t)i, "MBMS-PreferredFrequencyList-r6");
+      stat = asn1PE_UMTS_MBMS_PreferredFrequencyInfo_r6(ctx, (const MBMS_PreferredFrequencyInfo_r6*)node->data);
+      RT_CHECK(ctx, stat, 0, "MBMS-PreferredFrequencyInfo-r6", (int32_t)i, "MBMS-PreferredFrequencyList-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_PTMActivationTime_r6(rtxContext* RT_RESTRICT ctx, MBMS_PTMActivationTime_r6 value)
+{
+   int stat = 0;
+   if ((uint64_t)value > 2047u) {
+      rtxErrAddStrParm(ctx, "MBMS-PTMActivationTime-r6");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MBMS-PTMActivationTime-r6");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 2047);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PTMActivationTime-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_RequiredUEAction_UMod(rtxContext* RT_RESTRICT ctx, MBMS_RequiredUEAction_UMod value)
+{
+   int stat = 0;
+   if (value > 2) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MBMS-RequiredUEAction-UMod");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-RequiredUEAction-UMod");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_SelectedServicesListFull(rtxContext* RT_RESTRICT ctx, const MBMS_SelectedServicesListFull* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-SelectedServicesListFull");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-SelectedServicesListFull");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-ServiceIdentity-r6", (int32_t)i, "MBMS-SelectedServicesListFull");
+      stat = asn1PE_UMTS_MBMS_ServiceIdentity_r6(ctx, (const MBMS_ServiceIdentity_r6*)node->data);
+      RT_CHECK(ctx, stat, 0, "MBMS-ServiceIdentity-r6", (int32_t)i, "MBMS-SelectedServicesListFull");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_SelectedServiceInfo_status(rtxContext* RT_RESTRICT ctx, const MBMS_SelectedServiceInfo_status* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.some == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "some", -1, 0);
+         stat = asn1PE_UMTS_MBMS_SelectedServicesListFull(ctx, pvalue->u.some);
+         RT_CHECK(ctx, stat, 0, "some", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_SelectedServiceInfo(rtxContext* RT_RESTRICT ctx, const MBMS_SelectedServiceInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-SelectedServiceInfo");
+   /* status */
+   stat = asn1PE_UMTS_MBMS_SelectedServiceInfo_status(ctx, &pvalue->status);
+   RT_CHECK(ctx, stat, 0, "status", -1, "MBMS-SelectedServiceInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_SelectedServicesListShort(rtxContext* RT_RESTRICT ctx, const MBMS_SelectedServicesListShort* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-SelectedServicesListShort");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->n);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-SelectedServicesListShort");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)(pvalue->elem[i] - 1) > 63u) {
+         rtxErrAddStrParm(ctx, "MBMS-ShortTransmissionID");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-ShortTransmissionID", "MBMS-ShortTransmissionID", (int32_t)i, "MBMS-SelectedServicesListShort");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 1, 64);
+      RT_CHECK(ctx, stat, "MBMS-ShortTransmissionID", "MBMS-ShortTransmissionID", (int32_t)i, "MBMS-SelectedServicesListShort");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_SelectedServicesShort(rtxContext* RT_RESTRICT ctx, const MBMS_SelectedServicesShort* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-SelectedServicesShort");
+   /* mbms-SelectedServicesList */
+   stat = asn1PE_UMTS_MBMS_SelectedServicesListShort(ctx, &pvalue->mbms_SelectedServicesList);
+   RT_CHECK(ctx, stat, 0, "mbms-SelectedServicesList", -1, "MBMS-SelectedServicesShort");
+   /* modificationPeriodIdentity */
+   if ((uint64_t)pvalue->modificationPeriodIdentity > 1u) {
+      rtxErrAddStrParm(ctx, "modificationPeriodIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->modificationPeriodIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "modificationPeriodIdentity", -1, "MBMS-SelectedServicesShort");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->modificationPeriodIdentity, 0, 1);
+   RT_CHECK(ctx, stat, 0, "modificationPeriodIdentity", -1, "MBMS-SelectedServicesShort");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_ServiceAccessInfo_r6(rtxContext* RT_RESTRICT ctx, const MBMS_ServiceAccessInfo_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-ServiceAccessInfo-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-ServiceAccessInfo-r6");
+   /* shortTransmissionID */
+   if ((uint64_t)(pvalue->shortTransmissionID - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "MBMS-ShortTransmissionID");
+      rtxErrAddUIntParm(ctx, pvalue->shortTransmissionID);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-ShortTransmissionID", "shortTransmissionID", -1, "MBMS-ServiceAccessInfo-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->shortTransmissionID, 1, 64);
+   RT_CHECK(ctx, stat, "MBMS-ShortTransmissionID", "shortTransmissionID", -1, "MBMS-ServiceAccessInfo-r6");
+   /* accessprobabilityFactor-Idle */
+   if (pvalue->accessprobabilityFactor_Idle > 31) {
+      rtxErrAddUIntParm(ctx, pvalue->accessprobabilityFactor_Idle);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-AccessProbabilityFactor", "accessprobabilityFactor-Idle", -1, "MBMS-ServiceAccessInfo-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->accessprobabilityFactor_Idle, 0, 31);
+   RT_CHECK(ctx, stat, "MBMS-AccessProbabilityFactor", "accessprobabilityFactor-Idle", -1, "MBMS-ServiceAccessInfo-r6");
+   /* accessprobabilityFactor-Connected */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->accessprobabilityFactor_Connected > 31) {
+         rtxErrAddUIntParm(ctx, pvalue->accessprobabilityFactor_Connected);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-AccessProbabilityFactor", "accessprobabilityFactor-Connected", -1, "MBMS-ServiceAccessInfo-r6");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->accessprobabilityFactor_Connected, 0, 31);
+      RT_CHECK(ctx, stat, "MBMS-AccessProbabilityFactor", "accessprobabilityFactor-Connected", -1, "MBMS-ServiceAccessInfo-r6");
+   }
+   /* mbms-ConnectedModeCountingScope */
+   stat = asn1PE_UMTS_MBMS_ConnectedModeCountingScope(ctx, &pvalue->mbms_ConnectedModeCountingScope);
+   RT_CHECK(ctx, stat, 0, "mbms-ConnectedModeCountingScope", -1, "MBMS-ServiceAccessInfo-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_ServiceAccessInfoList_r6(rtxContext* RT_RESTRICT ctx, const MBMS_ServiceAccessInfoList_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-ServiceAccessInfoList-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-ServiceAccessInfoList-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-ServiceAccessInfo-r6", (int32_t)i, "MBMS-ServiceAccessInfoList-r6");
+      stat = asn1PE_UMTS_MBMS_ServiceAccessInfo_r6(ctx, (const MBMS_ServiceAccessInfo_r6*)node->data);
+      RT_CHECK(ctx, stat, 0, "MBMS-ServiceAccessInfo-r6", (int32_t)i, "MBMS-ServiceAccessInfoList-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_ServiceTransmInfo(rtxContext* RT_RESTRICT ctx, const MBMS_ServiceTransmInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-ServiceTransmInfo");
+   /* start */
+   stat = pe_ConsUInt64(ctx, pvalue->start, 0, 255);
+   RT_CHECK(ctx, stat, 0, "start", -1, "MBMS-ServiceTransmInfo");
+   /* duration */
+   if ((uint64_t)(pvalue->duration - 1) > 255u) {
+      rtxErrAddStrParm(ctx, "duration");
+      rtxErrAddUIntParm(ctx, pvalue->duration);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "duration", -1, "MBMS-ServiceTransmInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->duration, 1, 256);
+   RT_CHECK(ctx, stat, 0, "duration", -1, "MBMS-ServiceTransmInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_ServiceTransmInfoList(rtxContext* RT_RESTRICT ctx, const MBMS_ServiceTransmInfoList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-ServiceTransmInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-ServiceTransmInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-ServiceTransmInfo", (int32_t)i, "MBMS-ServiceTransmInfoList");
+      stat = asn1PE_UMTS_MBMS_ServiceTransmInfo(ctx, (const MBMS_ServiceTransmInfo*)node->data);
+      RT_CHECK(ctx, stat, 0, "MBMS-ServiceTransmInfo", (int32_t)i, "MBMS-ServiceTransmInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_ServiceSchedulingInfo_r6(rtxContext* RT_RESTRICT ctx, const MBMS_ServiceSchedulingInfo_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-ServiceSchedulingInfo-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-ServiceSchedulingInfo-r6");
+   /* mbms-TransmissionIdentity */
+   stat = asn1PE_UMTS_MBMS_TransmissionIdentity(ctx, &pvalue->mbms_TransmissionIdentity);
+   RT_CHECK(ctx, stat, 0, "mbms-TransmissionIdentity", -1, "MBMS-ServiceSchedulingInfo-r6");
+   /* mbms-ServiceTransmInfoList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBMS_ServiceTransmInfoList(ctx, &pvalue->mbms_ServiceTransmInfoList);
+      RT_CHECK(ctx, stat, 0, "mbms-ServiceTransmInfoList", -1, "MBMS-ServiceSchedulingInfo-r6");
+   }
+   /* nextSchedulingperiod */
+   if ((uint64_t)pvalue->nextSchedulingperiod > 31u) {
+      rtxErrAddStrParm(ctx, "nextSchedulingperiod");
+      rtxErrAddUIntParm(ctx, pvalue->nextSchedulingperiod);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "nextSchedulingperiod", -1, "MBMS-ServiceSchedulingInfo-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->nextSchedulingperiod, 0, 31);
+   RT_CHECK(ctx, stat, 0, "nextSchedulingperiod", -1, "MBMS-ServiceSchedulingInfo-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_ServiceSchedulingInfoList_r6(rtxContext* RT_RESTRICT ctx, const MBMS_ServiceSchedulingInfoList_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-ServiceSchedulingInfoList-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-ServiceSchedulingInfoList-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-ServiceSchedulingInfo-r6", (int32_t)i, "MBMS-ServiceSchedulingInfoList-r6");
+      stat = asn1PE_UMTS_MBMS_ServiceSchedulingInfo_r6(ctx, (const MBMS_ServiceSchedulingInfo_r6*)node->data);
+      RT_CHECK(ctx, stat, 0, "MBMS-ServiceSchedulingInfo-r6", (int32_t)i, "MBMS-ServiceSchedulingInfoList-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_TrCHInformation_SIB5(rtxContext* RT_RESTRICT ctx, const MBMS_TrCHInformation_SIB5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-TrCHInformation-SIB5");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-TrCHInformation-SIB5");
+   /* transpCh-Identity */
+   if ((uint64_t)(pvalue->transpCh_Identity - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "transpCh-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->transpCh_Identity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "transpCh-Identity", -1, "MBMS-TrCHInformation-SIB5");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->transpCh_Identity, 1, 8);
+   RT_CHECK(ctx, stat, 0, "transpCh-Identity", -1, "MBMS-TrCHInformation-SIB5");
+   /* rbInformation */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBMS_PTM_RBInformation_CList(ctx, &pvalue->rbInformation);
+      RT_CHECK(ctx, stat, 0, "rbInformation", -1, "MBMS-TrCHInformation-SIB5");
+   }
+   /* msch-ConfigurationInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_MBMS_MSCH_ConfigurationInfo_r6(ctx, &pvalue->msch_ConfigurationInfo);
+      RT_CHECK(ctx, stat, 0, "msch-ConfigurationInfo", -1, "MBMS-TrCHInformation-SIB5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_TrCHInformation_SIB5List(rtxContext* RT_RESTRICT ctx, const MBMS_TrCHInformation_SIB5List* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-TrCHInformation-SIB5List");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-TrCHInformation-SIB5List");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-TrCHInformation-SIB5", (int32_t)i, "MBMS-TrCHInformation-SIB5List");
+      stat = asn1PE_UMTS_MBMS_TrCHInformation_SIB5(ctx, (const MBMS_TrCHInformation_SIB5*)node->data);
+      RT_CHECK(ctx, stat, 0, "MBMS-TrCHInformation-SIB5", (int32_t)i, "MBMS-TrCHInformation-SIB5List");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_SIBType5_SCCPCH_r6(rtxContext* RT_RESTRICT ctx, const MBMS_SIBType5_SCCPCH_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-SIBType5-SCCPCH-r6");
+   /* sccpchIdentity */
+   if ((uint64_t)(pvalue->sccpchIdentity - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "MBMS-SCCPCHIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->sccpchIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-SCCPCHIdentity", "sccpchIdentity", -1, "MBMS-SIBType5-SCCPCH-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->sccpchIdentity, 1, 16);
+   RT_CHECK(ctx, stat, "MBMS-SCCPCHIdentity", "sccpchIdentity", -1, "MBMS-SIBType5-SCCPCH-r6");
+   /* transpCHInformation */
+   stat = asn1PE_UMTS_MBMS_TrCHInformation_SIB5List(ctx, &pvalue->transpCHInformation);
+   RT_CHECK(ctx, stat, 0, "transpCHInformation", -1, "MBMS-SIBType5-SCCPCH-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_SIBType5_SCCPCHList_r6(rtxContext* RT_RESTRICT ctx, const MBMS_SIBType5_SCCPCHList_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-SIBType5-SCCPCHList-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-SIBType5-SCCPCHList-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-SIBType5-SCCPCH-r6", (int32_t)i, "MBMS-SIBType5-SCCPCHList-r6");
+      stat = asn1PE_UMTS_MBMS_SIBType5_SCCPCH_r6(ctx, (const MBMS_SIBType5_SCCPCH_r6*)node->data);
+      RT_CHECK(ctx, stat, 0, "MBMS-SIBType5-SCCPCH-r6", (int32_t)i, "MBMS-SIBType5-SCCPCHList-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_TimersAndCounters_r6(rtxContext* RT_RESTRICT ctx, const MBMS_TimersAndCounters_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-TimersAndCounters-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->t_318 != 3) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-TimersAndCounters-r6");
+   /* t-318 */
+   if (pvalue->t_318 != 3) {
+      if (pvalue->t_318 > 14) {
+         rtxErrAddUIntParm(ctx, pvalue->t_318);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "T-318", "t-318", -1, "MBMS-TimersAndCounters-r6");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->t_318, 0, 14);
+      RT_CHECK(ctx, stat, "T-318", "t-318", -1, "MBMS-TimersAndCounters-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_TranspChInfoForCCTrCh_r6(rtxContext* RT_RESTRICT ctx, const MBMS_TranspChInfoForCCTrCh_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-TranspChInfoForCCTrCh-r6");
+   /* commonCCTrChIdentity */
+   if ((uint64_t)(pvalue->commonCCTrChIdentity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "MBMS-CommonCCTrChIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->commonCCTrChIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-CommonCCTrChIdentity", "commonCCTrChIdentity", -1, "MBMS-TranspChInfoForCCTrCh-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->commonCCTrChIdentity, 1, 32);
+   RT_CHECK(ctx, stat, "MBMS-CommonCCTrChIdentity", "commonCCTrChIdentity", -1, "MBMS-TranspChInfoForCCTrCh-r6");
+   /* transportFormatCombinationSet */
+   stat = asn1PE_UMTS_TFCS(ctx, &pvalue->transportFormatCombinationSet);
+   RT_CHECK(ctx, stat, 0, "transportFormatCombinationSet", -1, "MBMS-TranspChInfoForCCTrCh-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_TranspChInfoForEachCCTrCh_r6(rtxContext* RT_RESTRICT ctx, const MBMS_TranspChInfoForEachCCTrCh_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-TranspChInfoForEachCCTrCh-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-TranspChInfoForEachCCTrCh-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-TranspChInfoForCCTrCh-r6", (int32_t)i, "MBMS-TranspChInfoForEachCCTrCh-r6");
+      stat = asn1PE_UMTS_MBMS_TranspChInfoForCCTrCh_r6(ctx, (const MBMS_TranspChInfoForCCTrCh_r6*)node->data);
+      RT_CHECK(ctx, stat, 0, "MBMS-TranspChInfoForCCTrCh-r6", (int32_t)i, "MBMS-TranspChInfoForEachCCTrCh-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_TranspChInfoForTrCh_r6(rtxContext* RT_RESTRICT ctx, const MBMS_TranspChInfoForTrCh_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-TranspChInfoForTrCh-r6");
+   /* commonTrChIdentity */
+   if ((uint64_t)(pvalue->commonTrChIdentity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "MBMS-CommonTrChIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->commonTrChIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-CommonTrChIdentity", "commonTrChIdentity", -1, "MBMS-TranspChInfoForTrCh-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->commonTrChIdentity, 1, 32);
+   RT_CHECK(ctx, stat, "MBMS-CommonTrChIdentity", "commonTrChIdentity", -1, "MBMS-TranspChInfoForTrCh-r6");
+   /* transportFormatSet */
+   stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->transportFormatSet);
+   RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, "MBMS-TranspChInfoForTrCh-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_TranspChInfoForEachTrCh_r6(rtxContext* RT_RESTRICT ctx, const MBMS_TranspChInfoForEachTrCh_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-TranspChInfoForEachTrCh-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-TranspChInfoForEachTrCh-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-TranspChInfoForTrCh-r6", (int32_t)i, "MBMS-TranspChInfoForEachTrCh-r6");
+      stat = asn1PE_UMTS_MBMS_TranspChInfoForTrCh_r6(ctx, (const MBMS_TranspChInfoForTrCh_r6*)node->data);
+      RT_CHECK(ctx, stat, 0, "MBMS-TranspChInfoForTrCh-r6", (int32_t)i, "MBMS-TranspChInfoForEachTrCh-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_UnmodifiedService_r6(rtxContext* RT_RESTRICT ctx, const MBMS_UnmodifiedService_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-UnmodifiedService-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-UnmodifiedService-r6");
+   /* mbms-TransmissionIdentity */
+   stat = asn1PE_UMTS_MBMS_TransmissionIdentity(ctx, &pvalue->mbms_TransmissionIdentity);
+   RT_CHECK(ctx, stat, 0, "mbms-TransmissionIdentity", -1, "MBMS-UnmodifiedService-r6");
+   /* mbms-RequiredUEAction */
+   if (pvalue->mbms_RequiredUEAction > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->mbms_RequiredUEAction);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-RequiredUEAction-UMod", "mbms-RequiredUEAction", -1, "MBMS-UnmodifiedService-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->mbms_RequiredUEAction, 0, 2);
+   RT_CHECK(ctx, stat, "MBMS-RequiredUEAction-UMod", "mbms-RequiredUEAction", -1, "MBMS-UnmodifiedService-r6");
+   /* mbms-PreferredFrequency */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->mbms_PreferredFrequency - 1) > 3u) {
+         rtxErrAddStrParm(ctx, "MBMS-PFLIndex");
+         rtxErrAddUIntParm(ctx, pvalue->mbms_PreferredFrequency);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-PFLIndex", "mbms-PreferredFrequency", -1, "MBMS-UnmodifiedService-r6");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mbms_PreferredFrequency, 1, 4);
+      RT_CHECK(ctx, stat, "MBMS-PFLIndex", "mbms-PreferredFrequency", -1, "MBMS-UnmodifiedService-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_UnmodifiedServiceList_r6(rtxContext* RT_RESTRICT ctx, const MBMS_UnmodifiedServiceList_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-UnmodifiedServiceList-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-UnmodifiedServiceList-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-UnmodifiedService-r6", (int32_t)i, "MBMS-UnmodifiedServiceList-r6");
+      stat = asn1PE_UMTS_MBMS_UnmodifiedService_r6(ctx, (const MBMS_UnmodifiedService_r6*)node->data);
+      RT_CHECK(ctx, stat, 0, "MBMS-UnmodifiedService-r6", (int32_t)i, "MBMS-UnmodifiedServiceList-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_UnmodifiedService_v770ext(rtxContext* RT_RESTRICT ctx, const MBMS_UnmodifiedService_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-UnmodifiedService-v770ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-UnmodifiedService-v770ext");
+   /* mbsfnClusterFrequency */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->mbsfnClusterFrequency - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "MBSFN-ClusterFrequency-r7");
+         rtxErrAddUIntParm(ctx, pvalue->mbsfnClusterFrequency);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MBSFN-ClusterFrequency-r7", "mbsfnClusterFrequency", -1, "MBMS-UnmodifiedService-v770ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mbsfnClusterFrequency, 1, 16);
+      RT_CHECK(ctx, stat, "MBSFN-ClusterFrequency-r7", "mbsfnClusterFrequency", -1, "MBMS-UnmodifiedService-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_UnmodifiedServiceList_v770ext(rtxContext* RT_RESTRICT ctx, const MBMS_UnmodifiedServiceList_v770ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-UnmodifiedServiceList-v770ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-UnmodifiedServiceList-v770ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-UnmodifiedService-v770ext", (int32_t)i, "MBMS-UnmodifiedServiceList-v770ext");
+      stat = asn1PE_UMTS_MBMS_UnmodifiedService_v770ext(ctx, (const MBMS_UnmodifiedService_v770ext*)node->data);
+      RT_CHECK(ctx, stat, 0, "MBMS-UnmodifiedService-v770ext", (int32_t)i, "MBMS-UnmodifiedServiceList-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBSFNservicesNotNotified_r7_notificationOfAllMBSFNServicesInTheBand(rtxContext* RT_RESTRICT ctx, MBSFNservicesNotNotified_r7_notificationOfAllMBSFNServicesInTheBand value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MBSFNservicesNotNotified_r7(rtxContext* RT_RESTRICT ctx, const MBSFNservicesNotNotified_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBSFNservicesNotNotified-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBSFNservicesNotNotified-r7");
+   /* notificationOfAllMBSFNServicesInTheBand */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->notificationOfAllMBSFNServicesInTheBand > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->notificationOfAllMBSFNServicesInTheBand);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "notificationOfAllMBSFNServicesInTheBand", -1, "MBSFNservicesNotNotified-r7");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->notificationOfAllMBSFNServicesInTheBand, 0, 0);
+      RT_CHECK(ctx, stat, 0, "notificationOfAllMBSFNServicesInTheBand", -1, "MBSFNservicesNotNotified-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBSFNInterFrequencyNeighbour_r7_mbsfnServicesNotification(rtxContext* RT_RESTRICT ctx, const MBSFNInterFrequencyNeighbour_r7_mbsfnServicesNotification* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.mbsfnServicesNotNotified == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "mbsfnServicesNotNotified", -1, 0);
+         stat = asn1PE_UMTS_MBSFNservicesNotNotified_r7(ctx, pvalue->u.mbsfnServicesNotNotified);
+         RT_CHECK(ctx, stat, 0, "mbsfnServicesNotNotified", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBSFNInterFrequencyNeighbour_r7(rtxContext* RT_RESTRICT ctx, const MBSFNInterFrequencyNeighbour_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBSFNInterFrequencyNeighbour-r7");
+   /* mbsfnFrequency */
+   stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->mbsfnFrequency);
+   RT_CHECK(ctx, stat, 0, "mbsfnFrequency", -1, "MBSFNInterFrequencyNeighbour-r7");
+   /* mbsfnServicesNotification */
+   stat = asn1PE_UMTS_MBSFNInterFrequencyNeighbour_r7_mbsfnServicesNotification(ctx, &pvalue->mbsfnServicesNotification);
+   RT_CHECK(ctx, stat, 0, "mbsfnServicesNotification", -1, "MBSFNInterFrequencyNeighbour-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_MBSFNInterFrequencyNeighbour_v860ext_imb_Indication(rtxContext* RT_RESTRICT ctx, MBSFNInterFrequencyNeighbour_v860ext_imb_Indication value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MBSFNInterFrequencyNeighbour_v860ext(rtxContext* RT_RESTRICT ctx, const MBSFNInterFrequencyNeighbour_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBSFNInterFrequencyNeighbour-v860ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBSFNInterFrequencyNeighbour-v860ext");
+   /* imb-Indication */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->imb_Indication > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->imb_Indication);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "imb-Indication", -1, "MBSFNInterFrequencyNeighbour-v860ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->imb_Indication, 0, 0);
+      RT_CHECK(ctx, stat, 0, "imb-Indication", -1, "MBSFNInterFrequencyNeighbour-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBSFN_InterFrequencyNeighbourList_r7(rtxContext* RT_RESTRICT ctx, const MBSFN_InterFrequencyNeighbourList_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBSFN-InterFrequencyNeighbourList-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBSFN-InterFrequencyNeighbourList-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBSFNInterFrequencyNeighbour-r7", (int32_t)i, "MBSFN-InterFrequencyNeighbourList-r7");
+      stat = asn1PE_UMTS_MBSFNInterFrequencyNeighbour_r7(ctx, (const MBSFNInterFrequencyNeighbour_r7*)node->data);
+      RT_CHECK(ctx, stat, 0, "MBSFNInterFrequencyNeighbour-r7", (int32_t)i, "MBSFN-InterFrequencyNeighbourList-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBSFN_InterFrequencyNeighbourList_v860ext(rtxContext* RT_RESTRICT ctx, const MBSFN_InterFrequencyNeighbourList_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBSFN-InterFrequencyNeighbourList-v860ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBSFN-InterFrequencyNeighbourList-v860ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBSFNInterFrequencyNeighbour-v860ext", (int32_t)i, "MBSFN-InterFrequencyNeighbourList-v860ext");
+      stat = asn1PE_UMTS_MBSFNInterFrequencyNeighbour_v860ext(ctx, (const MBSFNInterFrequencyNeighbour_v860ext*)node->data);
+      RT_CHECK(ctx, stat, 0, "MBSFNInterFrequencyNeighbour-v860ext", (int32_t)i, "MBSFN-InterFrequencyNeighbourList-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBSFN_TDDTimeSlotInfo(rtxContext* RT_RESTRICT ctx, const MBSFN_TDDTimeSlotInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBSFN-TDDTimeSlotInfo");
+   /* timeSlotNumber */
+   if ((uint64_t)pvalue->timeSlotNumber > 6u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
+      rtxErrAddUIntParm(ctx, pvalue->timeSlotNumber);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeSlotNumber", -1, "MBSFN-TDDTimeSlotInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeSlotNumber, 0, 6);
+   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeSlotNumber", -1, "MBSFN-TDDTimeSlotInfo");
+   /* cellParametersID */
+   if ((uint64_t)pvalue->cellParametersID > 127u) {
+      rtxErrAddStrParm(ctx, "CellParametersID");
+      rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "CellParametersID", "cellParametersID", -1, "MBSFN-TDDTimeSlotInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cellParametersID, 0, 127);
+   RT_CHECK(ctx, stat, "CellParametersID", "cellParametersID", -1, "MBSFN-TDDTimeSlotInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_MBSFN_TDDInformation(rtxContext* RT_RESTRICT ctx, const MBSFN_TDDInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBSFN-TDDInformation");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 14);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBSFN-TDDInformation");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBSFN-TDDTimeSlotInfo", (int32_t)i, "MBSFN-TDDInformation");
+      stat = asn1PE_UMTS_MBSFN_TDDTimeSlotInfo(ctx, (const MBSFN_TDDTimeSlotInfo*)node->data);
+      RT_CHECK(ctx, stat, 0, "MBSFN-TDDTimeSlotInfo", (int32_t)i, "MBSFN-TDDInformation");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBSFN_TDDTimeSlotInfo_LCR(rtxContext* RT_RESTRICT ctx, const MBSFN_TDDTimeSlotInfo_LCR* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBSFN-TDDTimeSlotInfo-LCR");
+   /* frequencyIndex */
+   if ((uint64_t)(pvalue->frequencyIndex - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "frequencyIndex");
+      rtxErrAddUIntParm(ctx, pvalue->frequencyIndex);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "frequencyIndex", -1, "MBSFN-TDDTimeSlotInfo-LCR");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->frequencyIndex, 1, 16);
+   RT_CHECK(ctx, stat, 0, "frequencyIndex", -1, "MBSFN-TDDTimeSlotInfo-LCR");
+   /* timeSlotList */
+   stat = asn1PE_UMTS_MBSFN_TDDInformation(ctx, &pvalue->timeSlotList);
+   RT_CHECK(ctx, stat, 0, "timeSlotList", -1, "MBSFN-TDDTimeSlotInfo-LCR");
+   return 0;
+}
+
+int asn1PE_UMTS_MBSFN_TDDInformation_LCR(rtxContext* RT_RESTRICT ctx, const MBSFN_TDDInformation_LCR* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBSFN-TDDInformation-LCR");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBSFN-TDDInformation-LCR");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBSFN-TDDTimeSlotInfo-LCR", (int32_t)i, "MBSFN-TDDInformation-LCR");
+      stat = asn1PE_UMTS_MBSFN_TDDTimeSlotInfo_LCR(ctx, (const MBSFN_TDDTimeSlotInfo_LCR*)node->data);
+      RT_CHECK(ctx, stat, 0, "MBSFN-TDDTimeSlotInfo-LCR", (int32_t)i, "MBSFN-TDDInformation-LCR");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBSFN_TDM_Info(rtxContext* RT_RESTRICT ctx, const MBSFN_TDM_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBSFN-TDM-Info");
+   /* shortTransmissionID */
+   if ((uint64_t)(pvalue->shortTransmissionID - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "MBMS-ShortTransmissionID");
+      rtxErrAddUIntParm(ctx, pvalue->shortTransmissionID);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-ShortTransmissionID", "shortTransmissionID", -1, "MBSFN-TDM-Info");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->shortTransmissionID, 1, 64);
+   RT_CHECK(ctx, stat, "MBMS-ShortTransmissionID", "shortTransmissionID", -1, "MBSFN-TDM-Info");
+   /* tDMPeriod */
+   if ((uint64_t)(pvalue->tDMPeriod - 2) > 7u) {
+      rtxErrAddStrParm(ctx, "tDMPeriod");
+      rtxErrAddUIntParm(ctx, pvalue->tDMPeriod);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "tDMPeriod", -1, "MBSFN-TDM-Info");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->tDMPeriod, 2, 9);
+   RT_CHECK(ctx, stat, 0, "tDMPeriod", -1, "MBSFN-TDM-Info");
+   /* tDMOffset */
+   if ((uint64_t)pvalue->tDMOffset > 8u) {
+      rtxErrAddStrParm(ctx, "tDMOffset");
+      rtxErrAddUIntParm(ctx, pvalue->tDMOffset);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "tDMOffset", -1, "MBSFN-TDM-Info");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->tDMOffset, 0, 8);
+   RT_CHECK(ctx, stat, 0, "tDMOffset", -1, "MBSFN-TDM-Info");
+   /* tDMLength */
+   if ((uint64_t)(pvalue->tDMLength - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "tDMLength");
+      rtxErrAddUIntParm(ctx, pvalue->tDMLength);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "tDMLength", -1, "MBSFN-TDM-Info");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->tDMLength, 1, 8);
+   RT_CHECK(ctx, stat, 0, "tDMLength", -1, "MBSFN-TDM-Info");
+   return 0;
+}
+
+int asn1PE_UMTS_MBSFN_TDM_Info_List(rtxContext* RT_RESTRICT ctx, const MBSFN_TDM_Info_List* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBSFN-TDM-Info-List");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBSFN-TDM-Info-List");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBSFN-TDM-Info", (int32_t)i, "MBSFN-TDM-Info-List");
+      stat = asn1PE_UMTS_MBSFN_TDM_Info(ctx, (const MBSFN_TDM_Info*)node->data);
+      RT_CHECK(ctx, stat, 0, "MBSFN-TDM-Info", (int32_t)i, "MBSFN-TDM-Info-List");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_r3_IEs(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ActiveSetUpdate-r3-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 0), 11);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "ActiveSetUpdate-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "ActiveSetUpdate-r3-IEs");
+   /* dummy */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "ActiveSetUpdate-r3-IEs");
+   }
+   /* dummy2 */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, "ActiveSetUpdate-r3-IEs");
+   }
+   /* activationTime */
+   if (pvalue->m & 0x4u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "ActiveSetUpdate-r3-IEs");
+   }
+   /* newU-RNTI */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->newU_RNTI);
+      RT_CHECK(ctx, stat, 0, "newU-RNTI", -1, "ActiveSetUpdate-r3-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "ActiveSetUpdate-r3-IEs");
+   }
+   /* dummy3 */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dummy3);
+      RT_CHECK(ctx, stat, 0, "dummy3", -1, "ActiveSetUpdate-r3-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x40u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "ActiveSetUpdate-r3-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "ActiveSetUpdate-r3-IEs");
+   }
+   /* rl-AdditionInformationList */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_RL_AdditionInformationList(ctx, &pvalue->rl_AdditionInformationList);
+      RT_CHECK(ctx, stat, 0, "rl-AdditionInformationList", -1, "ActiveSetUpdate-r3-IEs");
+   }
+   /* rl-RemovalInformationList */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_RL_RemovalInformationList(ctx, &pvalue->rl_RemovalInformationList);
+      RT_CHECK(ctx, stat, 0, "rl-RemovalInformationList", -1, "ActiveSetUpdate-r3-IEs");
+   }
+   /* tx-DiversityMode */
+   if (pvalue->m & 0x200u) {
+      if (pvalue->tx_DiversityMode > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->tx_DiversityMode);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TX-DiversityMode", "tx-DiversityMode", -1, "ActiveSetUpdate-r3-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->tx_DiversityMode, 0, 3);
+      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, "ActiveSetUpdate-r3-IEs");
+   }
+   /* dummy4 */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_SSDT_Information(ctx, &pvalue->dummy4);
+      RT_CHECK(ctx, stat, 0, "dummy4", -1, "ActiveSetUpdate-r3-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ActiveSetUpdate-v4b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-v4b0ext-IEs");
+   /* dummy */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->dummy > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->dummy);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "SSDT-UL", "dummy", -1, "ActiveSetUpdate-v4b0ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dummy, 0, 1);
+      RT_CHECK(ctx, stat, "SSDT-UL", "dummy", -1, "ActiveSetUpdate-v4b0ext-IEs");
+   }
+   /* cell-id-PerRL-List */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CellIdentity_PerRL_List(ctx, &pvalue->cell_id_PerRL_List);
+      RT_CHECK(ctx, stat, 0, "cell-id-PerRL-List", -1, "ActiveSetUpdate-v4b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ActiveSetUpdate-v590ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-v590ext-IEs");
+   /* dpc-Mode */
+   if (pvalue->dpc_Mode > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->dpc_Mode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DPC-Mode", "dpc-Mode", -1, "ActiveSetUpdate-v590ext-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->dpc_Mode, 0, 1);
+   RT_CHECK(ctx, stat, "DPC-Mode", "dpc-Mode", -1, "ActiveSetUpdate-v590ext-IEs");
+   /* dl-TPC-PowerOffsetPerRL-List */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_TPC_PowerOffsetPerRL_List(ctx, &pvalue->dl_TPC_PowerOffsetPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-TPC-PowerOffsetPerRL-List", -1, "ActiveSetUpdate-v590ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ActiveSetUpdate-v690ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-v690ext-IEs");
+   /* primary-plmn-Identity */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
+      RT_CHECK(ctx, stat, 0, "primary-plmn-Identity", -1, "ActiveSetUpdate-v690ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-v690ext */
+   stat = asn1PE_UMTS_ActiveSetUpdate_v690ext_IEs(ctx, &pvalue->activeSetUpdate_v690ext);
+   RT_CHECK(ctx, stat, 0, "activeSetUpdate-v690ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-v590ext */
+   stat = asn1PE_UMTS_ActiveSetUpdate_v590ext_IEs(ctx, &pvalue->activeSetUpdate_v590ext);
+   RT_CHECK(ctx, stat, 0, "activeSetUpdate-v590ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-v4b0ext */
+   stat = asn1PE_UMTS_ActiveSetUpdate_v4b0ext_IEs(ctx, &pvalue->activeSetUpdate_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "activeSetUpdate-v4b0ext", -1, 0);
+   /* v590NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->activeSetUpdate_r3_add_ext.numbits, pvalue->activeSetUpdate_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "activeSetUpdate-r3-add-ext", -1, 0);
+   }
+   /* v4b0NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_r3(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-r3 */
+   stat = asn1PE_UMTS_ActiveSetUpdate_r3_IEs(ctx, &pvalue->activeSetUpdate_r3);
+   RT_CHECK(ctx, stat, 0, "activeSetUpdate-r3", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_r6_IEs(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_r6_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ActiveSetUpdate-r6-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 0), 13);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-r6-IEs");
+   /* activationTime */
+   if (pvalue->m & 0x1u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "ActiveSetUpdate-r6-IEs");
+   }
+   /* newU-RNTI */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->newU_RNTI);
+      RT_CHECK(ctx, stat, 0, "newU-RNTI", -1, "ActiveSetUpdate-r6-IEs");
+   }
+   /* newH-RNTI */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->newH_RNTI);
+      RT_CHECK(ctx, stat, 0, "newH-RNTI", -1, "ActiveSetUpdate-r6-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "ActiveSetUpdate-r6-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "ActiveSetUpdate-r6-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "ActiveSetUpdate-r6-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x40u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "ActiveSetUpdate-r6-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "ActiveSetUpdate-r6-IEs");
+   }
+   /* rl-AdditionInformationList */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_RL_AdditionInformationList_r6(ctx, &pvalue->rl_AdditionInformationList);
+      RT_CHECK(ctx, stat, 0, "rl-AdditionInformationList", -1, "ActiveSetUpdate-r6-IEs");
+   }
+   /* rl-RemovalInformationList */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_RL_RemovalInformationList(ctx, &pvalue->rl_RemovalInformationList);
+      RT_CHECK(ctx, stat, 0, "rl-RemovalInformationList", -1, "ActiveSetUpdate-r6-IEs");
+   }
+   /* tx-DiversityMode */
+   if (pvalue->m & 0x200u) {
+      if (pvalue->tx_DiversityMode > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->tx_DiversityMode);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TX-DiversityMode", "tx-DiversityMode", -1, "ActiveSetUpdate-r6-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->tx_DiversityMode, 0, 3);
+      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, "ActiveSetUpdate-r6-IEs");
+   }
+   /* dpc-Mode */
+   if (pvalue->m & 0x400u) {
+      if (pvalue->dpc_Mode > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->dpc_Mode);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "DPC-Mode", "dpc-Mode", -1, "ActiveSetUpdate-r6-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dpc_Mode, 0, 1);
+      RT_CHECK(ctx, stat, "DPC-Mode", "dpc-Mode", -1, "ActiveSetUpdate-r6-IEs");
+   }
+   /* serving-HSDSCH-CellInformation */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_Serving_HSDSCH_CellInformation(ctx, &pvalue->serving_HSDSCH_CellInformation);
+      RT_CHECK(ctx, stat, 0, "serving-HSDSCH-CellInformation", -1, "ActiveSetUpdate-r6-IEs");
+   }
+   /* e-dch-ReconfigurationInfo */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_E_DCH_ReconfigurationInfo(ctx, &pvalue->e_dch_ReconfigurationInfo);
+      RT_CHECK(ctx, stat, 0, "e-dch-ReconfigurationInfo", -1, "ActiveSetUpdate-r6-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_v6b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ActiveSetUpdate-v6b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-v6b0ext-IEs");
+   /* rl-AdditionInformation-list-v6b0ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RL_AdditionInformation_list_v6b0ext(ctx, &pvalue->rl_AdditionInformation_list_v6b0ext);
+      RT_CHECK(ctx, stat, 0, "rl-AdditionInformation-list-v6b0ext", -1, "ActiveSetUpdate-v6b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-v6b0ext */
+   stat = asn1PE_UMTS_ActiveSetUpdate_v6b0ext_IEs(ctx, &pvalue->activeSetUpdate_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "activeSetUpdate-v6b0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-r6 */
+   stat = asn1PE_UMTS_ActiveSetUpdate_r6_IEs(ctx, &pvalue->activeSetUpdate_r6);
+   RT_CHECK(ctx, stat, 0, "activeSetUpdate-r6", -1, 0);
+   /* activeSetUpdate-r6-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->activeSetUpdate_r6_add_ext.numbits, pvalue->activeSetUpdate_r6_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "activeSetUpdate-r6-add-ext", -1, 0);
+   }
+   /* v6b0NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_r7_IEs(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_r7_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ActiveSetUpdate-r7-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 20) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 20) & 1u) << 0), 21);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-r7-IEs");
+   /* activationTime */
+   if (pvalue->m & 0x1u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* newU-RNTI */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->newU_RNTI);
+      RT_CHECK(ctx, stat, 0, "newU-RNTI", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* newH-RNTI */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->newH_RNTI);
+      RT_CHECK(ctx, stat, 0, "newH-RNTI", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* dtx-drx-Info */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* mimoParameters */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_MIMO_Parameters_r7(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x400u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "ActiveSetUpdate-r7-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* rl-AdditionInformationList */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_RL_AdditionInformationList_r7(ctx, &pvalue->rl_AdditionInformationList);
+      RT_CHECK(ctx, stat, 0, "rl-AdditionInformationList", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* rl-RemovalInformationList */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_RL_RemovalInformationList(ctx, &pvalue->rl_RemovalInformationList);
+      RT_CHECK(ctx, stat, 0, "rl-RemovalInformationList", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* tx-DiversityMode */
+   if (pvalue->m & 0x2000u) {
+      if (pvalue->tx_DiversityMode > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->tx_DiversityMode);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TX-DiversityMode", "tx-DiversityMode", -1, "ActiveSetUpdate-r7-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->tx_DiversityMode, 0, 3);
+      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* dpc-Mode */
+   if (pvalue->m & 0x4000u) {
+      if (pvalue->dpc_Mode > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->dpc_Mode);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "DPC-Mode", "dpc-Mode", -1, "ActiveSetUpdate-r7-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dpc_Mode, 0, 1);
+      RT_CHECK(ctx, stat, "DPC-Mode", "dpc-Mode", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* serving-HSDSCH-CellInformation */
+   if (pvalue->m & 0x8000u) {
+      stat = asn1PE_UMTS_Serving_HSDSCH_CellInformation_r7(ctx, &pvalue->serving_HSDSCH_CellInformation);
+      RT_CHECK(ctx, stat, 0, "serving-HSDSCH-CellInformation", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* e-dch-ReconfigurationInfo */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_E_DCH_ReconfigurationInfo_r7(ctx, &pvalue->e_dch_ReconfigurationInfo);
+      RT_CHECK(ctx, stat, 0, "e-dch-ReconfigurationInfo", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* ul-16QAM-Config */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_UL_16QAM_Config(ctx, &pvalue->ul_16QAM_Config);
+      RT_CHECK(ctx, stat, 0, "ul-16QAM-Config", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* e-dch-ReconfInfoSameCell */
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_E_DCH_RL_InfoSameServingCell(ctx, &pvalue->e_dch_ReconfInfoSameCell);
+      RT_CHECK(ctx, stat, 0, "e-dch-ReconfInfoSameCell", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* e-TFC-Boost-Info */
+   if (pvalue->m & 0x80000u) {
+      stat = asn1PE_UMTS_E_TFC_Boost_Info_r7(ctx, &pvalue->e_TFC_Boost_Info);
+      RT_CHECK(ctx, stat, 0, "e-TFC-Boost-Info", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   /* e-DPDCH-PowerInterpolation */
+   if (pvalue->m & 0x100000u) {
+      stat = rtxEncBit(ctx, pvalue->e_DPDCH_PowerInterpolation);
+      RT_CHECK(ctx, stat, "E-DPDCH-PowerInterpolation", "e-DPDCH-PowerInterpolation", -1, "ActiveSetUpdate-r7-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_v780ext_IEs(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_v780ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ActiveSetUpdate-v780ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-v780ext-IEs");
+   /* hs-DSCH-TBSizeTable */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->hs_DSCH_TBSizeTable > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->hs_DSCH_TBSizeTable);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "ActiveSetUpdate-v780ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->hs_DSCH_TBSizeTable, 0, 0);
+      RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "ActiveSetUpdate-v780ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_v7f0ext_IEs(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_v7f0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ActiveSetUpdate-v7f0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-v7f0ext-IEs");
+   /* mimoParameters */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MIMO_Parameters_v7f0ext(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "ActiveSetUpdate-v7f0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_v7g0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ActiveSetUpdate-v7g0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-v7g0ext-IEs");
+   /* mimoParameters */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MIMO_Parameters_v7g0ext(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "ActiveSetUpdate-v7g0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* activeSetUdpate-v7g0ext */
+   stat = asn1PE_UMTS_ActiveSetUpdate_v7g0ext_IEs(ctx, &pvalue->activeSetUdpate_v7g0ext);
+   RT_CHECK(ctx, stat, 0, "activeSetUdpate-v7g0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* activeSetUdpate-v7f0ext */
+   stat = asn1PE_UMTS_ActiveSetUpdate_v7f0ext_IEs(ctx, &pvalue->activeSetUdpate_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "activeSetUdpate-v7f0ext", -1, 0);
+   /* v7g0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-v780ext */
+   stat = asn1PE_UMTS_ActiveSetUpdate_v780ext_IEs(ctx, &pvalue->activeSetUpdate_v780ext);
+   RT_CHECK(ctx, stat, 0, "activeSetUpdate-v780ext", -1, 0);
+   /* v7f0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-r7 */
+   stat = asn1PE_UMTS_ActiveSetUpdate_r7_IEs(ctx, &pvalue->activeSetUpdate_r7);
+   RT_CHECK(ctx, stat, 0, "activeSetUpdate-r7", -1, 0);
+   /* activeSetUpdate-r7-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->activeSetUpdate_r7_add_ext.numbits, pvalue->activeSetUpdate_r7_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "activeSetUpdate-r7-add-ext", -1, 0);
+   }
+   /* v780NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v780NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_r8_IEs(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_r8_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ActiveSetUpdate-r8-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 22) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 21) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 20) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 20) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 21) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 22) & 1u) << 0), 23);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-r8-IEs");
+   /* activationTime */
+   if (pvalue->m & 0x1u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* newU-RNTI */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->newU_RNTI);
+      RT_CHECK(ctx, stat, 0, "newU-RNTI", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* newH-RNTI */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->newH_RNTI);
+      RT_CHECK(ctx, stat, 0, "newH-RNTI", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* dtx-drx-Info */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* mimoParameters */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_MIMO_Parameters_r8(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x400u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "ActiveSetUpdate-r8-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* rl-AdditionInformationList */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_RL_AdditionInformationList_r8(ctx, &pvalue->rl_AdditionInformationList);
+      RT_CHECK(ctx, stat, 0, "rl-AdditionInformationList", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* servingCellChangeParameters */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_ServingCellChangeParameters(ctx, &pvalue->servingCellChangeParameters);
+      RT_CHECK(ctx, stat, 0, "servingCellChangeParameters", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* rl-RemovalInformationList */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_RL_RemovalInformationList(ctx, &pvalue->rl_RemovalInformationList);
+      RT_CHECK(ctx, stat, 0, "rl-RemovalInformationList", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* tx-DiversityMode */
+   if (pvalue->m & 0x4000u) {
+      if (pvalue->tx_DiversityMode > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->tx_DiversityMode);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TX-DiversityMode", "tx-DiversityMode", -1, "ActiveSetUpdate-r8-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->tx_DiversityMode, 0, 3);
+      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* dpc-Mode */
+   if (pvalue->m & 0x8000u) {
+      if (pvalue->dpc_Mode > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->dpc_Mode);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "DPC-Mode", "dpc-Mode", -1, "ActiveSetUpdate-r8-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dpc_Mode, 0, 1);
+      RT_CHECK(ctx, stat, "DPC-Mode", "dpc-Mode", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* serving-HSDSCH-CellInformation */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_Serving_HSDSCH_CellInformation_r8(ctx, &pvalue->serving_HSDSCH_CellInformation);
+      RT_CHECK(ctx, stat, 0, "serving-HSDSCH-CellInformation", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* e-dch-ReconfigurationInfo */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_E_DCH_ReconfigurationInfo_r7(ctx, &pvalue->e_dch_ReconfigurationInfo);
+      RT_CHECK(ctx, stat, 0, "e-dch-ReconfigurationInfo", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* ul-16QAM-Config */
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_UL_16QAM_Config(ctx, &pvalue->ul_16QAM_Config);
+      RT_CHECK(ctx, stat, 0, "ul-16QAM-Config", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* e-dch-ReconfInfoSameCell */
+   if (pvalue->m & 0x80000u) {
+      stat = asn1PE_UMTS_E_DCH_RL_InfoSameServingCell(ctx, &pvalue->e_dch_ReconfInfoSameCell);
+      RT_CHECK(ctx, stat, 0, "e-dch-ReconfInfoSameCell", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* e-TFC-Boost-Info */
+   if (pvalue->m & 0x100000u) {
+      stat = asn1PE_UMTS_E_TFC_Boost_Info_r7(ctx, &pvalue->e_TFC_Boost_Info);
+      RT_CHECK(ctx, stat, 0, "e-TFC-Boost-Info", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* e-DPDCH-PowerInterpolation */
+   if (pvalue->m & 0x200000u) {
+      stat = rtxEncBit(ctx, pvalue->e_DPDCH_PowerInterpolation);
+      RT_CHECK(ctx, stat, "E-DPDCH-PowerInterpolation", "e-DPDCH-PowerInterpolation", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   /* dl-SecondaryCellInfoFDD */
+   if (pvalue->m & 0x400000u) {
+      stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD(ctx, &pvalue->dl_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "ActiveSetUpdate-r8-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_v890ext_IEs(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_v890ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ActiveSetUpdate-v890ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-v890ext-IEs");
+   /* dl-SecondaryCellInfoFDD-v890ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD_v890ext(ctx, &pvalue->dl_SecondaryCellInfoFDD_v890ext);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD-v890ext", -1, "ActiveSetUpdate-v890ext-IEs");
+   }
+   /* mimoParameters */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_MIMO_Parameters_v7f0ext(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "ActiveSetUpdate-v890ext-IEs");
+   }
+   /* rl-AdditionInformationList */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_RL_AdditionInformationList_v890ext(ctx, &pvalue->rl_AdditionInformationList);
+      RT_CHECK(ctx, stat, 0, "rl-AdditionInformationList", -1, "ActiveSetUpdate-v890ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-v7g0ext */
+   stat = asn1PE_UMTS_ActiveSetUpdate_v7g0ext_IEs(ctx, &pvalue->activeSetUpdate_v7g0ext);
+   RT_CHECK(ctx, stat, 0, "activeSetUpdate-v7g0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-v890ext */
+   stat = asn1PE_UMTS_ActiveSetUpdate_v890ext_IEs(ctx, &pvalue->activeSetUpdate_v890ext);
+   RT_CHECK(ctx, stat, 0, "activeSetUpdate-v890ext", -1, 0);
+   /* v7g0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-r8 */
+   stat = asn1PE_UMTS_ActiveSetUpdate_r8_IEs(ctx, &pvalue->activeSetUpdate_r8);
+   RT_CHECK(ctx, stat, 0, "activeSetUpdate-r8", -1, 0);
+   /* activeSetUpdate-r8-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->activeSetUpdate_r8_add_ext.numbits, pvalue->activeSetUpdate_r8_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "activeSetUpdate-r8-add-ext", -1, 0);
+   }
+   /* v890NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_r9_IEs(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_r9_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ActiveSetUpdate-r9-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 26) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 25) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 24) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 23) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 22) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 21) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 20) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 20) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 21) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 22) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 23) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 24) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 25) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 26) & 1u) << 0), 27);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-r9-IEs");
+   /* activationTime */
+   if (pvalue->m & 0x1u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* newU-RNTI */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->newU_RNTI);
+      RT_CHECK(ctx, stat, 0, "newU-RNTI", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* newH-RNTI */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->newH_RNTI);
+      RT_CHECK(ctx, stat, 0, "newH-RNTI", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* dtx-drx-Info */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* mimoParameters */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_MIMO_Parameters_r9(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x400u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "ActiveSetUpdate-r9-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* ul-SecondaryCellInfoFDD */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_UL_SecondaryCellInfoFDD(ctx, &pvalue->ul_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "ul-SecondaryCellInfoFDD", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* e-dch-ReconfigurationInfo-SecULFrequency */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_E_DCH_ReconfigurationInfo_SecULFrequency(ctx, &pvalue->e_dch_ReconfigurationInfo_SecULFrequency);
+      RT_CHECK(ctx, stat, 0, "e-dch-ReconfigurationInfo-SecULFrequency", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* rl-AdditionInformationList */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_RL_AdditionInformationList_r9(ctx, &pvalue->rl_AdditionInformationList);
+      RT_CHECK(ctx, stat, 0, "rl-AdditionInformationList", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* rl-AdditionInformationList-SecULFreq */
+   if (pvalue->m & 0x4000u) {
+      stat = asn1PE_UMTS_RL_AdditionInformationList_SecULFreq(ctx, &pvalue->rl_AdditionInformationList_SecULFreq);
+      RT_CHECK(ctx, stat, 0, "rl-AdditionInformationList-SecULFreq", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* servingCellChangeParameters */
+   if (pvalue->m & 0x8000u) {
+      stat = asn1PE_UMTS_ServingCellChangeParameters(ctx, &pvalue->servingCellChangeParameters);
+      RT_CHECK(ctx, stat, 0, "servingCellChangeParameters", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* rl-RemovalInformationList */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_RL_RemovalInformationList(ctx, &pvalue->rl_RemovalInformationList);
+      RT_CHECK(ctx, stat, 0, "rl-RemovalInformationList", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* rl-RemovalInformationList-SecULFreq */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_RL_RemovalInformationList_SecULFreq(ctx, &pvalue->rl_RemovalInformationList_SecULFreq);
+      RT_CHECK(ctx, stat, 0, "rl-RemovalInformationList-SecULFreq", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* tx-DiversityMode */
+   if (pvalue->m & 0x40000u) {
+      if (pvalue->tx_DiversityMode > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->tx_DiversityMode);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TX-DiversityMode", "tx-DiversityMode", -1, "ActiveSetUpdate-r9-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->tx_DiversityMode, 0, 3);
+      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* dpc-Mode */
+   if (pvalue->m & 0x80000u) {
+      if (pvalue->dpc_Mode > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->dpc_Mode);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "DPC-Mode", "dpc-Mode", -1, "ActiveSetUpdate-r9-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dpc_Mode, 0, 1);
+      RT_CHECK(ctx, stat, "DPC-Mode", "dpc-Mode", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* serving-HSDSCH-CellInformation */
+   if (pvalue->m & 0x100000u) {
+      stat = asn1PE_UMTS_Serving_HSDSCH_CellInformation_r9(ctx, &pvalue->serving_HSDSCH_CellInformation);
+      RT_CHECK(ctx, stat, 0, "serving-HSDSCH-CellInformation", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* e-dch-ReconfigurationInfo */
+   if (pvalue->m & 0x200000u) {
+      stat = asn1PE_UMTS_E_DCH_ReconfigurationInfo_r7(ctx, &pvalue->e_dch_ReconfigurationInfo);
+      RT_CHECK(ctx, stat, 0, "e-dch-ReconfigurationInfo", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* ul-16QAM-Config */
+   if (pvalue->m & 0x400000u) {
+      stat = asn1PE_UMTS_UL_16QAM_Config(ctx, &pvalue->ul_16QAM_Config);
+      RT_CHECK(ctx, stat, 0, "ul-16QAM-Config", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* e-dch-ReconfInfoSameCell */
+   if (pvalue->m & 0x800000u) {
+      stat = asn1PE_UMTS_E_DCH_RL_InfoSameServingCell(ctx, &pvalue->e_dch_ReconfInfoSameCell);
+      RT_CHECK(ctx, stat, 0, "e-dch-ReconfInfoSameCell", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* e-TFC-Boost-Info */
+   if (pvalue->m & 0x1000000u) {
+      stat = asn1PE_UMTS_E_TFC_Boost_Info_r7(ctx, &pvalue->e_TFC_Boost_Info);
+      RT_CHECK(ctx, stat, 0, "e-TFC-Boost-Info", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* e-DPDCH-PowerInterpolation */
+   if (pvalue->m & 0x2000000u) {
+      stat = rtxEncBit(ctx, pvalue->e_DPDCH_PowerInterpolation);
+      RT_CHECK(ctx, stat, "E-DPDCH-PowerInterpolation", "e-DPDCH-PowerInterpolation", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   /* dl-SecondaryCellInfoFDD */
+   if (pvalue->m & 0x4000000u) {
+      stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD_r9(ctx, &pvalue->dl_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "ActiveSetUpdate-r9-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* activeSetUpdate-r9 */
+   stat = asn1PE_UMTS_ActiveSetUpdate_r9_IEs(ctx, &pvalue->activeSetUpdate_r9);
+   RT_CHECK(ctx, stat, 0, "activeSetUpdate-r9", -1, 0);
+   /* activeSetUpdate-r9-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->activeSetUpdate_r9_add_ext.numbits, pvalue->activeSetUpdate_r9_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "activeSetUpdate-r9-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r9 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r9", -1, 0);
+         stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
+         RT_CHECK(ctx, stat, 0, "r9", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r8 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r8", -1, 0);
+         stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
+         RT_CHECK(ctx, stat, 0, "r8", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r7", -1, 0);
+         stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
+         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r6 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r6", -1, 0);
+         stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6(ctx, pvalue->u.r6);
+         RT_CHECK(ctx, stat, 0, "r6", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate_later_than_r3(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdate(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ActiveSetUpdate");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "ActiveSetUpdate");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ActiveSetUpdate");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r3", -1, "ActiveSetUpdate");
+         stat = asn1PE_UMTS_ActiveSetUpdate_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "ActiveSetUpdate");
+         break;
+      case 2:
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "later-than-r3", -1, "ActiveSetUpdate");
+         stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "ActiveSetUpdate");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdateComplete_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdateComplete_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdateComplete_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdateComplete_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* activeSetUpdateComplete-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->activeSetUpdateComplete_r3_add_ext.numbits, pvalue->activeSetUpdateComplete_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "activeSetUpdateComplete-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_ActiveSetUpdateComplete_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdateComplete(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdateComplete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ActiveSetUpdateComplete");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdateComplete");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "ActiveSetUpdateComplete");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "ActiveSetUpdateComplete");
+   /* dummy */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtActivationInfo(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "ActiveSetUpdateComplete");
+   }
+   /* dummy2 */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, "ActiveSetUpdateComplete");
+   }
+   /* dummy3 */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_UL_CounterSynchronisationInfo(ctx, &pvalue->dummy3);
+      RT_CHECK(ctx, stat, 0, "dummy3", -1, "ActiveSetUpdateComplete");
+   }
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_ActiveSetUpdateComplete_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "ActiveSetUpdateComplete");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdateFailure_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdateFailure_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdateFailure_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdateFailure_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* activeSetUpdateFailure-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->activeSetUpdateFailure_r3_add_ext.numbits, pvalue->activeSetUpdateFailure_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "activeSetUpdateFailure-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_ActiveSetUpdateFailure_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ActiveSetUpdateFailure(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdateFailure* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ActiveSetUpdateFailure");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdateFailure");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "ActiveSetUpdateFailure");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "ActiveSetUpdateFailure");
+   /* failureCause */
+   stat = asn1PE_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
+   RT_CHECK(ctx, stat, 0, "failureCause", -1, "ActiveSetUpdateFailure");
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ActiveSetUpdateFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "ActiveSetUpdateFailure");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AssistanceDataDelivery_r3_IEs(rtxContext* RT_RESTRICT ctx, const AssistanceDataDelivery_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AssistanceDataDelivery-r3-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AssistanceDataDelivery-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "AssistanceDataDelivery-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "AssistanceDataDelivery-r3-IEs");
+   /* ue-positioning-GPS-AssistanceData */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_GPS_AssistanceData(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AssistanceData", -1, "AssistanceDataDelivery-r3-IEs");
+   }
+   /* ue-positioning-OTDOA-AssistanceData-UEB */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData_UEB);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData-UEB", -1, "AssistanceDataDelivery-r3-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AssistanceDataDelivery_v3a0ext(rtxContext* RT_RESTRICT ctx, const AssistanceDataDelivery_v3a0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AssistanceDataDelivery-v3a0ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AssistanceDataDelivery-v3a0ext");
+   /* sfn-Offset-Validity */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->sfn_Offset_Validity > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->sfn_Offset_Validity);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "AssistanceDataDelivery-v3a0ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->sfn_Offset_Validity, 0, 0);
+      RT_CHECK(ctx, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "AssistanceDataDelivery-v3a0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AssistanceDataDelivery_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const AssistanceDataDelivery_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AssistanceDataDelivery-v4b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AssistanceDataDelivery-v4b0ext-IEs");
+   /* ue-Positioning-OTDOA-AssistanceData-r4ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_r4ext(ctx, &pvalue->ue_Positioning_OTDOA_AssistanceData_r4ext);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-OTDOA-AssistanceData-r4ext", -1, "AssistanceDataDelivery-v4b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AssistanceDataDelivery_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const AssistanceDataDelivery_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AssistanceDataDelivery-v770ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AssistanceDataDelivery-v770ext-IEs");
+   /* ue-Positioning-OTDOA-AssistanceData-UEB-ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB_ext(ctx, &pvalue->ue_Positioning_OTDOA_AssistanceData_UEB_ext);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-OTDOA-AssistanceData-UEB-ext", -1, "AssistanceDataDelivery-v770ext-IEs");
+   }
+   /* ue-Positioning-GPS-AssistanceData */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_Positioning_GPS_AssistanceData_v770ext(ctx, &pvalue->ue_Positioning_GPS_AssistanceData);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-GPS-AssistanceData", -1, "AssistanceDataDelivery-v770ext-IEs");
+   }
+   /* ue-positioning-GANSS-AssistanceData */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_AssistanceData(ctx, &pvalue->ue_positioning_GANSS_AssistanceData);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AssistanceData", -1, "AssistanceDataDelivery-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AssistanceDataDelivery_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const AssistanceDataDelivery_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AssistanceDataDelivery-v860ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AssistanceDataDelivery-v860ext-IEs");
+   /* ue-positioning-GANSS-AssistanceData-v860ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_AssistanceData_v860ext(ctx, &pvalue->ue_positioning_GANSS_AssistanceData_v860ext);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AssistanceData-v860ext", -1, "AssistanceDataDelivery-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AssistanceDataDelivery_v920ext_IEs(rtxContext* RT_RESTRICT ctx, const AssistanceDataDelivery_v920ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AssistanceDataDelivery-v920ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "AssistanceDataDelivery-v920ext-IEs");
+   /* ue-positioning-GPS-AssistanceData-v920ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_GPS_AssistanceData_v920ext(ctx, &pvalue->ue_positioning_GPS_AssistanceData_v920ext);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AssistanceData-v920ext", -1, "AssistanceDataDelivery-v920ext-IEs");
+   }
+   /* ue-positioning-GANSS-AssistanceData-v920ext */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_Positioning_GANSS_AssistanceData_v920ext(ctx, &pvalue->ue_positioning_GANSS_AssistanceData_v920ext);
+      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AssistanceData-v920ext", -1, "AssistanceDataDelivery-v920ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* assistanceDataDelivery-v920ext */
+   stat = asn1PE_UMTS_AssistanceDataDelivery_v920ext_IEs(ctx, &pvalue->assistanceDataDelivery_v920ext);
+   RT_CHECK(ctx, stat, 0, "assistanceDataDelivery-v920ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* assistanceDataDelivery-v860ext */
+   stat = asn1PE_UMTS_AssistanceDataDelivery_v860ext_IEs(ctx, &pvalue->assistanceDataDelivery_v860ext);
+   RT_CHECK(ctx, stat, 0, "assistanceDataDelivery-v860ext", -1, 0);
+   /* v920NonCriticalExtension */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension(ctx, &pvalue->v920NonCriticalExtension);
+      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtension", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* assistanceDataDelivery-v770ext */
+   stat = asn1PE_UMTS_AssistanceDataDelivery_v770ext_IEs(ctx, &pvalue->assistanceDataDelivery_v770ext);
+   RT_CHECK(ctx, stat, 0, "assistanceDataDelivery-v770ext", -1, 0);
+   /* v860NonCriticalExtension */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension(ctx, &pvalue->v860NonCriticalExtension);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtension", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* assistanceDataDelivery-v4b0ext */
+   stat = asn1PE_UMTS_AssistanceDataDelivery_v4b0ext_IEs(ctx, &pvalue->assistanceDataDelivery_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "assistanceDataDelivery-v4b0ext", -1, 0);
+   /* v770NonCriticalExtension */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension(ctx, &pvalue->v770NonCriticalExtension);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtension", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* assistanceDataDelivery-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->assistanceDataDelivery_r3_add_ext.numbits, pvalue->assistanceDataDelivery_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "assistanceDataDelivery-r3-add-ext", -1, 0);
+   }
+   /* v4b0NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const AssistanceDataDelivery_r3_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* assistanceDataDelivery-v3a0ext */
+   stat = asn1PE_UMTS_AssistanceDataDelivery_v3a0ext(ctx, &pvalue->assistanceDataDelivery_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "assistanceDataDelivery-v3a0ext", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AssistanceDataDelivery_r3(rtxContext* RT_RESTRICT ctx, const AssistanceDataDelivery_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* assistanceDataDelivery-r3 */
+   stat = asn1PE_UMTS_AssistanceDataDelivery_r3_IEs(ctx, &pvalue->assistanceDataDelivery_r3);
+   RT_CHECK(ctx, stat, 0, "assistanceDataDelivery-r3", -1, 0);
+   /* v3a0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AssistanceDataDelivery_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, const AssistanceDataDelivery_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_AssistanceDataDelivery_later_than_r3(rtxContext* RT_RESTRICT ctx, const AssistanceDataDelivery_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PE_UMTS_AssistanceDataDelivery_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_AssistanceDataDelivery(rtxContext* RT_RESTRICT ctx, const AssistanceDataDelivery* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AssistanceDataDelivery");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "AssistanceDataDelivery");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "AssistanceDataDelivery");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r3", -1, "AssistanceDataDelivery");
+         stat = asn1PE_UMTS_AssistanceDataDelivery_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "AssistanceDataDelivery");
+         break;
+      case 2:
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "later-than-r3", -1, "AssistanceDataDelivery");
+         stat = asn1PE_UMTS_AssistanceDataDelivery_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "AssistanceDataDelivery");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellChangeOrderFromUTRAN_r3_IEs(rtxContext* RT_RESTRICT ctx, const CellChangeOrderFromUTRAN_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellChangeOrderFromUTRAN-r3-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellChangeOrderFromUTRAN-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "CellChangeOrderFromUTRAN-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "CellChangeOrderFromUTRAN-r3-IEs");
+   /* dummy */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "CellChangeOrderFromUTRAN-r3-IEs");
+   }
+   /* activationTime */
+   if (pvalue->m & 0x2u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "CellChangeOrderFromUTRAN-r3-IEs");
+   }
+   /* rab-InformationList */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_RAB_InformationList(ctx, &pvalue->rab_InformationList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationList", -1, "CellChangeOrderFromUTRAN-r3-IEs");
+   }
+   /* interRAT-TargetCellDescription */
+   stat = asn1PE_UMTS_InterRAT_TargetCellDescription(ctx, &pvalue->interRAT_TargetCellDescription);
+   RT_CHECK(ctx, stat, 0, "interRAT-TargetCellDescription", -1, "CellChangeOrderFromUTRAN-r3-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_CellChangeOrderFromUTRAN_v590ext_IEs_geran_SystemInfoType(rtxContext* RT_RESTRICT ctx, const CellChangeOrderFromUTRAN_v590ext_IEs_geran_SystemInfoType* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.sI == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sI", -1, 0);
+         stat = asn1PE_UMTS_GERAN_SystemInformation(ctx, pvalue->u.sI);
+         RT_CHECK(ctx, stat, 0, "sI", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.pSI == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "pSI", -1, 0);
+         stat = asn1PE_UMTS_GERAN_SystemInformation(ctx, pvalue->u.pSI);
+         RT_CHECK(ctx, stat, 0, "pSI", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellChangeOrderFromUTRAN_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const CellChangeOrderFromUTRAN_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellChangeOrderFromUTRAN-v590ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellChangeOrderFromUTRAN-v590ext-IEs");
+   /* geran-SystemInfoType */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellChangeOrderFromUTRAN_v590ext_IEs_geran_SystemInfoType(ctx, &pvalue->geran_SystemInfoType);
+      RT_CHECK(ctx, stat, 0, "geran-SystemInfoType", -1, "CellChangeOrderFromUTRAN-v590ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellChangeOrderFromUTRAN-v590ext */
+   stat = asn1PE_UMTS_CellChangeOrderFromUTRAN_v590ext_IEs(ctx, &pvalue->cellChangeOrderFromUTRAN_v590ext);
+   RT_CHECK(ctx, stat, 0, "cellChangeOrderFromUTRAN-v590ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellChangeOrderFromUTRAN-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->cellChangeOrderFromUTRAN_r3_add_ext.numbits, pvalue->cellChangeOrderFromUTRAN_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "cellChangeOrderFromUTRAN-r3-add-ext", -1, 0);
+   }
+   /* v590NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellChangeOrderFromUTRAN_r3(rtxContext* RT_RESTRICT ctx, const CellChangeOrderFromUTRAN_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellChangeOrderFromUTRAN-IEs */
+   stat = asn1PE_UMTS_CellChangeOrderFromUTRAN_r3_IEs(ctx, &pvalue->cellChangeOrderFromUTRAN_IEs);
+   RT_CHECK(ctx, stat, 0, "cellChangeOrderFromUTRAN-IEs", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellChangeOrderFromUTRAN_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, const CellChangeOrderFromUTRAN_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellChangeOrderFromUTRAN_later_than_r3(rtxContext* RT_RESTRICT ctx, const CellChangeOrderFromUTRAN_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PE_UMTS_CellChangeOrderFromUTRAN_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellChangeOrderFromUTRAN(rtxContext* RT_RESTRICT ctx, const CellChangeOrderFromUTRAN* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellChangeOrderFromUTRAN");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "CellChangeOrderFromUTRAN");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CellChangeOrderFromUTRAN");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r3", -1, "CellChangeOrderFromUTRAN");
+         stat = asn1PE_UMTS_CellChangeOrderFromUTRAN_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "CellChangeOrderFromUTRAN");
+         break;
+      case 2:
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "later-than-r3", -1, "CellChangeOrderFromUTRAN");
+         stat = asn1PE_UMTS_CellChangeOrderFromUTRAN_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "CellChangeOrderFromUTRAN");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellChangeOrderFromUTRANFailure_r3_IEs(rtxContext* RT_RESTRICT ctx, const CellChangeOrderFromUTRANFailure_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellChangeOrderFromUTRANFailure-r3-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellChangeOrderFromUTRANFailure-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "CellChangeOrderFromUTRANFailure-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "CellChangeOrderFromUTRANFailure-r3-IEs");
+   /* dummy */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "CellChangeOrderFromUTRANFailure-r3-IEs");
+   }
+   /* interRAT-ChangeFailureCause */
+   stat = asn1PE_UMTS_InterRAT_ChangeFailureCause(ctx, &pvalue->interRAT_ChangeFailureCause);
+   RT_CHECK(ctx, stat, 0, "interRAT-ChangeFailureCause", -1, "CellChangeOrderFromUTRANFailure-r3-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellChangeOrderFromUTRANFailure-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->cellChangeOrderFromUTRANFailure_r3_add_ext.numbits, pvalue->cellChangeOrderFromUTRANFailure_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "cellChangeOrderFromUTRANFailure-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellChangeOrderFromUTRANFailure_r3(rtxContext* RT_RESTRICT ctx, const CellChangeOrderFromUTRANFailure_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellChangeOrderFromUTRANFailure-r3 */
+   stat = asn1PE_UMTS_CellChangeOrderFromUTRANFailure_r3_IEs(ctx, &pvalue->cellChangeOrderFromUTRANFailure_r3);
+   RT_CHECK(ctx, stat, 0, "cellChangeOrderFromUTRANFailure-r3", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellChangeOrderFromUTRANFailure_dummy_criticalExtensions(rtxContext* RT_RESTRICT ctx, const CellChangeOrderFromUTRANFailure_dummy_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellChangeOrderFromUTRANFailure_dummy(rtxContext* RT_RESTRICT ctx, const CellChangeOrderFromUTRANFailure_dummy* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PE_UMTS_CellChangeOrderFromUTRANFailure_dummy_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellChangeOrderFromUTRANFailure(rtxContext* RT_RESTRICT ctx, const CellChangeOrderFromUTRANFailure* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellChangeOrderFromUTRANFailure");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "CellChangeOrderFromUTRANFailure");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CellChangeOrderFromUTRANFailure");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r3", -1, "CellChangeOrderFromUTRANFailure");
+         stat = asn1PE_UMTS_CellChangeOrderFromUTRANFailure_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "CellChangeOrderFromUTRANFailure");
+         break;
+      case 2:
+         if (pvalue->u.dummy == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dummy", -1, "CellChangeOrderFromUTRANFailure");
+         stat = asn1PE_UMTS_CellChangeOrderFromUTRANFailure_dummy(ctx, pvalue->u.dummy);
+         RT_CHECK(ctx, stat, 0, "dummy", -1, "CellChangeOrderFromUTRANFailure");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdate_v7e0ext_IEs_supportForTwoDRXSchemesInPCH(rtxContext* RT_RESTRICT ctx, CellUpdate_v7e0ext_IEs_supportForTwoDRXSchemesInPCH value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdate_v7e0ext_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdate_v7e0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdate-v7e0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdate-v7e0ext-IEs");
+   /* supportForTwoDRXSchemesInPCH */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportForTwoDRXSchemesInPCH > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportForTwoDRXSchemesInPCH);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportForTwoDRXSchemesInPCH", -1, "CellUpdate-v7e0ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportForTwoDRXSchemesInPCH, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportForTwoDRXSchemesInPCH", -1, "CellUpdate-v7e0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdate_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdate_v7g0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdate-v7g0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdate-v7g0ext-IEs");
+   /* measuredResultsOnRACH-v7g0ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasuredResultsOnRACH_v7g0ext(ctx, &pvalue->measuredResultsOnRACH_v7g0ext);
+      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACH-v7g0ext", -1, "CellUpdate-v7g0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdate-v7g0ext */
+   stat = asn1PE_UMTS_CellUpdate_v7g0ext_IEs(ctx, &pvalue->cellUpdate_v7g0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdate-v7g0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdate_r3_add_ext_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdate_r3_add_ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdate-r3-add-ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdate-r3-add-ext-IEs");
+   /* cellUpdate-v7e0ext */
+   stat = asn1PE_UMTS_CellUpdate_v7e0ext_IEs(ctx, &pvalue->cellUpdate_v7e0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdate-v7e0ext", -1, "CellUpdate-r3-add-ext-IEs");
+   /* v7g0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, "CellUpdate-r3-add-ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdate_v590ext(rtxContext* RT_RESTRICT ctx, const CellUpdate_v590ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdate-v590ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdate-v590ext");
+   /* establishmentCause */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->establishmentCause > 31) {
+         rtxErrAddUIntParm(ctx, pvalue->establishmentCause);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "EstablishmentCause", "establishmentCause", -1, "CellUpdate-v590ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->establishmentCause, 0, 31);
+      RT_CHECK(ctx, stat, "EstablishmentCause", "establishmentCause", -1, "CellUpdate-v590ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdate_v690ext_IEs_trafficVolumeIndicator(rtxContext* RT_RESTRICT ctx, CellUpdate_v690ext_IEs_trafficVolumeIndicator value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdate_v690ext_IEs_reconfigurationStatusIndicator(rtxContext* RT_RESTRICT ctx, CellUpdate_v690ext_IEs_reconfigurationStatusIndicator value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdate_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdate_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdate-v690ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdate-v690ext-IEs");
+   /* cellUpdateCause-ext */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->cellUpdateCause_ext > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->cellUpdateCause_ext);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "CellUpdateCause-ext", "cellUpdateCause-ext", -1, "CellUpdate-v690ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->cellUpdateCause_ext, 0, 3);
+      RT_CHECK(ctx, stat, "CellUpdateCause-ext", "cellUpdateCause-ext", -1, "CellUpdate-v690ext-IEs");
+   }
+   /* trafficVolumeIndicator */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->trafficVolumeIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->trafficVolumeIndicator);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "trafficVolumeIndicator", -1, "CellUpdate-v690ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->trafficVolumeIndicator, 0, 0);
+      RT_CHECK(ctx, stat, 0, "trafficVolumeIndicator", -1, "CellUpdate-v690ext-IEs");
+   }
+   /* measuredResultsOnRACHinterFreq */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_MeasuredResultsOnRACHinterFreq(ctx, &pvalue->measuredResultsOnRACHinterFreq);
+      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACHinterFreq", -1, "CellUpdate-v690ext-IEs");
+   }
+   /* reconfigurationStatusIndicator */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->reconfigurationStatusIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->reconfigurationStatusIndicator);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "reconfigurationStatusIndicator", -1, "CellUpdate-v690ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->reconfigurationStatusIndicator, 0, 0);
+      RT_CHECK(ctx, stat, 0, "reconfigurationStatusIndicator", -1, "CellUpdate-v690ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdate_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdate_v6b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdate-v6b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdate-v6b0ext-IEs");
+   /* mbmsSelectedServices */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBMS_SelectedServicesShort(ctx, &pvalue->mbmsSelectedServices);
+      RT_CHECK(ctx, stat, 0, "mbmsSelectedServices", -1, "CellUpdate-v6b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdate_v770ext_IEs_csCallType(rtxContext* RT_RESTRICT ctx, CellUpdate_v770ext_IEs_csCallType value)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdate_v770ext_IEs_hspdschReception_CellFach(rtxContext* RT_RESTRICT ctx, CellUpdate_v770ext_IEs_hspdschReception_CellFach value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdate_v770ext_IEs_capabilityChangeIndicator(rtxContext* RT_RESTRICT ctx, CellUpdate_v770ext_IEs_capabilityChangeIndicator value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdate_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdate_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdate-v770ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdate-v770ext-IEs");
+   /* csCallType */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->csCallType > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->csCallType);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "csCallType", -1, "CellUpdate-v770ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->csCallType, 0, 3);
+      RT_CHECK(ctx, stat, 0, "csCallType", -1, "CellUpdate-v770ext-IEs");
+   }
+   /* hspdschReception-CellFach */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->hspdschReception_CellFach > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->hspdschReception_CellFach);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "hspdschReception-CellFach", -1, "CellUpdate-v770ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->hspdschReception_CellFach, 0, 0);
+      RT_CHECK(ctx, stat, 0, "hspdschReception-CellFach", -1, "CellUpdate-v770ext-IEs");
+   }
+   /* ueMobilityStateIndicator */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->ueMobilityStateIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->ueMobilityStateIndicator);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "CellUpdate-v770ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ueMobilityStateIndicator, 0, 0);
+      RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "CellUpdate-v770ext-IEs");
+   }
+   /* capabilityChangeIndicator */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->capabilityChangeIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->capabilityChangeIndicator);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "capabilityChangeIndicator", -1, "CellUpdate-v770ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->capabilityChangeIndicator, 0, 0);
+      RT_CHECK(ctx, stat, 0, "capabilityChangeIndicator", -1, "CellUpdate-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdate_v860ext_IEs_supportOfCommonEDCH(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs_supportOfCommonEDCH value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdate_v860ext_IEs_supportOfHS_DSCHDRXOperation(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs_supportOfHS_DSCHDRXOperation value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdate_v860ext_IEs_supportOfMACiis(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs_supportOfMACiis value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdate_v860ext_IEs_supportOfSPSOperation(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs_supportOfSPSOperation value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdate_v860ext_IEs_supportOfControlChannelDRXOperation(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs_supportOfControlChannelDRXOperation value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdate_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdate_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdate-v860ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdate-v860ext-IEs");
+   /* supportOfCommonEDCH */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportOfCommonEDCH > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfCommonEDCH);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfCommonEDCH", -1, "CellUpdate-v860ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfCommonEDCH, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportOfCommonEDCH", -1, "CellUpdate-v860ext-IEs");
+   }
+   /* supportOfHS-DSCHDRXOperation */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->supportOfHS_DSCHDRXOperation > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfHS_DSCHDRXOperation);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfHS-DSCHDRXOperation", -1, "CellUpdate-v860ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfHS_DSCHDRXOperation, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportOfHS-DSCHDRXOperation", -1, "CellUpdate-v860ext-IEs");
+   }
+   /* supportOfMACiis */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->supportOfMACiis > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfMACiis);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfMACiis", -1, "CellUpdate-v860ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfMACiis, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportOfMACiis", -1, "CellUpdate-v860ext-IEs");
+   }
+   /* supportOfSPSOperation */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->supportOfSPSOperation > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfSPSOperation);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfSPSOperation", -1, "CellUpdate-v860ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfSPSOperation, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportOfSPSOperation", -1, "CellUpdate-v860ext-IEs");
+   }
+   /* supportOfControlChannelDRXOperation */
+   if (pvalue->m & 0x10u) {
+      if (pvalue->supportOfControlChannelDRXOperation > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfControlChannelDRXOperation);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfControlChannelDRXOperation", -1, "CellUpdate-v860ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfControlChannelDRXOperation, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportOfControlChannelDRXOperation", -1, "CellUpdate-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdate-v860ext */
+   stat = asn1PE_UMTS_CellUpdate_v860ext_IEs(ctx, &pvalue->cellUpdate_v860ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdate-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdate-v770ext */
+   stat = asn1PE_UMTS_CellUpdate_v770ext_IEs(ctx, &pvalue->cellUpdate_v770ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdate-v770ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdate-v6b0ext */
+   stat = asn1PE_UMTS_CellUpdate_v6b0ext_IEs(ctx, &pvalue->cellUpdate_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdate-v6b0ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdate-v690ext */
+   stat = asn1PE_UMTS_CellUpdate_v690ext_IEs(ctx, &pvalue->cellUpdate_v690ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdate-v690ext", -1, 0);
+   /* v6b0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdate-v590ext */
+   stat = asn1PE_UMTS_CellUpdate_v590ext(ctx, &pvalue->cellUpdate_v590ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdate-v590ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdate_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdate-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      {
+         rtxContext outer;
+         const uint8_t* data;
+         uint32_t len;
+         rtxCopyContext(&outer, ctx);
+         stat = rtxInitContextBuffer(ctx, 0, 0);
+         RT_CHECK(ctx, stat, 0, "cellUpdate-r3-add-ext", -1, 0);
+         stat = asn1PE_UMTS_CellUpdate_r3_add_ext_IEs(ctx, &pvalue->cellUpdate_r3_add_ext);
+         RT_CHECK(ctx, stat, 0, "cellUpdate-r3-add-ext", -1, 0);
+         data = ctx->buffer_data;
+         len = ctx->byte_index * 8 + 8 - ctx->bit_offset;
+         rtxCopyContext(ctx, &outer);
+         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+         stat = pe_BitString(ctx, len, data);
+         rtxMemHeapFreePtr(ctx, (void*)data);
+         RT_CHECK(ctx, stat, 0, "cellUpdate-r3-add-ext", -1, 0);
+      }
+   }
+   /* v590NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return stat;
+}
+
+int asn1PE_UMTS_CellUpdate(rtxContext* RT_RESTRICT ctx, const CellUpdate* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdate");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdate");
+   /* u-RNTI */
+   stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, "CellUpdate");
+   /* startList */
+   stat = asn1PE_UMTS_STARTList(ctx, &pvalue->startList);
+   RT_CHECK(ctx, stat, 0, "startList", -1, "CellUpdate");
+   /* am-RLC-ErrorIndicationRb2-3or4 */
+   stat = rtxEncBit(ctx, pvalue->am_RLC_ErrorIndicationRb2_3or4);
+   RT_CHECK(ctx, stat, 0, "am-RLC-ErrorIndicationRb2-3or4", -1, "CellUpdate");
+   /* am-RLC-ErrorIndicationRb5orAbove */
+   stat = rtxEncBit(ctx, pvalue->am_RLC_ErrorIndicationRb5orAbove);
+   RT_CHECK(ctx, stat, 0, "am-RLC-ErrorIndicationRb5orAbove", -1, "CellUpdate");
+   /* cellUpdateCause */
+   if (pvalue->cellUpdateCause > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->cellUpdateCause);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CellUpdateCause", "cellUpdateCause", -1, "CellUpdate");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cellUpdateCause, 0, 7);
+   RT_CHECK(ctx, stat, "CellUpdateCause", "cellUpdateCause", -1, "CellUpdate");
+   /* failureCause */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_FailureCauseWithProtErrTrId(ctx, &pvalue->failureCause);
+      RT_CHECK(ctx, stat, 0, "failureCause", -1, "CellUpdate");
+   }
+   /* rb-timer-indicator */
+   stat = asn1PE_UMTS_Rb_timer_indicator(ctx, &pvalue->rb_timer_indicator);
+   RT_CHECK(ctx, stat, 0, "rb-timer-indicator", -1, "CellUpdate");
+   /* measuredResultsOnRACH */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_MeasuredResultsOnRACH(ctx, &pvalue->measuredResultsOnRACH);
+      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACH", -1, "CellUpdate");
+   }
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "CellUpdate");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->dummy - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "CPCH-SetID");
+         rtxErrAddUIntParm(ctx, pvalue->dummy);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "CPCH-SetID", "dummy", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dummy, 1, 16);
+      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy", -1, 0);
+   }
+   /* dummy2 */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_r3_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdateConfirm-r3-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 22) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 21) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 20) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 20) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 21) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 22) & 1u) << 0), 23);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "CellUpdateConfirm-r3-IEs");
+   /* integrityProtectionModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* activationTime */
+   if (pvalue->m & 0x4u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* new-U-RNTI */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* new-C-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r3-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (pvalue->m & 0x20u) {
+      if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
+         rtxErrAddStrParm(ctx, "UTRAN-DRX-CycleLengthCoefficient");
+         rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r3-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* rlc-Re-establishIndicatorRb2-3or4 */
+   stat = rtxEncBit(ctx, pvalue->rlc_Re_establishIndicatorRb2_3or4);
+   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb2-3or4", -1, "CellUpdateConfirm-r3-IEs");
+   /* rlc-Re-establishIndicatorRb5orAbove */
+   stat = rtxEncBit(ctx, pvalue->rlc_Re_establishIndicatorRb5orAbove);
+   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb5orAbove", -1, "CellUpdateConfirm-r3-IEs");
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* rb-InformationReleaseList */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* rb-InformationReconfigList */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_RB_InformationReconfigList(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_RB_InformationAffectedList(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (pvalue->m & 0x4000u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* modeSpecificTransChInfo */
+   stat = asn1PE_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo(ctx, &pvalue->modeSpecificTransChInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificTransChInfo", -1, "CellUpdateConfirm-r3-IEs");
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x8000u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_DL_DeletedTransChInfoList(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x80000u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r3-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* ul-ChannelRequirement */
+   if (pvalue->m & 0x100000u) {
+      stat = asn1PE_UMTS_UL_ChannelRequirement(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* modeSpecificPhysChInfo */
+   stat = asn1PE_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "CellUpdateConfirm-r3-IEs");
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x200000u) {
+      stat = asn1PE_UMTS_DL_CommonInformation(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x400000u) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "CellUpdateConfirm-r3-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_v3a0ext(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_v3a0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdateConfirm-v3a0ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v3a0ext");
+   /* new-DSCH-RNTI */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "CellUpdateConfirm-v3a0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdateConfirm-v4b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v4b0ext-IEs");
+   /* dummy */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->dummy > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->dummy);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "SSDT-UL", "dummy", -1, "CellUpdateConfirm-v4b0ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dummy, 0, 1);
+      RT_CHECK(ctx, stat, "SSDT-UL", "dummy", -1, "CellUpdateConfirm-v4b0ext-IEs");
+   }
+   /* cell-id-PerRL-List */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CellIdentity_PerRL_List(ctx, &pvalue->cell_id_PerRL_List);
+      RT_CHECK(ctx, stat, 0, "cell-id-PerRL-List", -1, "CellUpdateConfirm-v4b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdateConfirm-v590ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v590ext-IEs");
+   /* dl-TPC-PowerOffsetPerRL-List */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_TPC_PowerOffsetPerRL_List(ctx, &pvalue->dl_TPC_PowerOffsetPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-TPC-PowerOffsetPerRL-List", -1, "CellUpdateConfirm-v590ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_v5d0ext_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_v5d0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdateConfirm-v5d0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v5d0ext-IEs");
+   /* pdcp-ROHC-TargetMode */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->pdcp_ROHC_TargetMode > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->pdcp_ROHC_TargetMode);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "CellUpdateConfirm-v5d0ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->pdcp_ROHC_TargetMode, 0, 1);
+      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "CellUpdateConfirm-v5d0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_v690ext_IEs_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v690ext_IEs_postVerificationPeriod value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdateConfirm-v690ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
@@ -1074,4664 +7974,239 @@ int asn1PE_UMTS_CNAVclockModel(rtxContext* ctx, const CNAVclockModel* pvalue)
       ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat);
-   /* cnavToc */
-   rtxCtxtPushElemName(ctx, "cnavToc");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->cnavToc, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavTop */
-   rtxCtxtPushElemName(ctx, "cnavTop");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->cnavTop, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavURA0 */
-   rtxCtxtPushElemName(ctx, "cnavURA0");
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pe_BitString32(ctx, &pvalue->cnavURA0, 5, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavURA1 */
-   rtxCtxtPushElemName(ctx, "cnavURA1");
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pe_BitString32(ctx, &pvalue->cnavURA1, 3, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavURA2 */
-   rtxCtxtPushElemName(ctx, "cnavURA2");
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pe_BitString32(ctx, &pvalue->cnavURA2, 3, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavAf2 */
-   rtxCtxtPushElemName(ctx, "cnavAf2");
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pe_BitString32(ctx, &pvalue->cnavAf2, 10, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavAf1 */
-   rtxCtxtPushElemName(ctx, "cnavAf1");
-   RT_SET_SIZE(ctx, 20, 20);
-   stat = pe_BitString32(ctx, &pvalue->cnavAf1, 20, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavAf0 */
-   rtxCtxtPushElemName(ctx, "cnavAf0");
-   RT_SET_SIZE(ctx, 26, 26);
-   stat = pe_BitString32(ctx, &pvalue->cnavAf0, 26, 26);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavTgd */
-   rtxCtxtPushElemName(ctx, "cnavTgd");
-   RT_SET_SIZE(ctx, 13, 13);
-   stat = pe_BitString32(ctx, &pvalue->cnavTgd, 13, 13);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavISCl1cp */
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v690ext-IEs");
+   /* primary-plmn-Identity */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cnavISCl1cp");
-      RT_SET_SIZE(ctx, 13, 13);
-      stat = pe_BitString32(ctx, &pvalue->cnavISCl1cp, 13, 13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
+      RT_CHECK(ctx, stat, 0, "primary-plmn-Identity", -1, "CellUpdateConfirm-v690ext-IEs");
    }
-   /* cnavISCl1cd */
+   /* harq-Preamble-Mode */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "cnavISCl1cd");
-      RT_SET_SIZE(ctx, 13, 13);
-      stat = pe_BitString32(ctx, &pvalue->cnavISCl1cd, 13, 13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if ((uint64_t)pvalue->harq_Preamble_Mode > 1u) {
+         rtxErrAddStrParm(ctx, "HARQ-Preamble-Mode");
+         rtxErrAddUIntParm(ctx, pvalue->harq_Preamble_Mode);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "CellUpdateConfirm-v690ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->harq_Preamble_Mode, 0, 1);
+      RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "CellUpdateConfirm-v690ext-IEs");
    }
-   /* cnavISCl1ca */
+   /* beaconPLEst */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "cnavISCl1ca");
-      RT_SET_SIZE(ctx, 13, 13);
-      stat = pe_BitString32(ctx, &pvalue->cnavISCl1ca, 13, 13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if (pvalue->beaconPLEst > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->beaconPLEst);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "BEACON-PL-Est", "beaconPLEst", -1, "CellUpdateConfirm-v690ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->beaconPLEst, 0, 0);
+      RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "CellUpdateConfirm-v690ext-IEs");
    }
-   /* cnavISCl2c */
+   /* postVerificationPeriod */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "cnavISCl2c");
-      RT_SET_SIZE(ctx, 13, 13);
-      stat = pe_BitString32(ctx, &pvalue->cnavISCl2c, 13, 13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if (pvalue->postVerificationPeriod > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->postVerificationPeriod);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "postVerificationPeriod", -1, "CellUpdateConfirm-v690ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->postVerificationPeriod, 0, 0);
+      RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "CellUpdateConfirm-v690ext-IEs");
    }
-   /* cnavISCl5i5 */
+   /* dhs-sync */
    if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "cnavISCl5i5");
-      RT_SET_SIZE(ctx, 13, 13);
-      stat = pe_BitString32(ctx, &pvalue->cnavISCl5i5, 13, 13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if (pvalue->dhs_sync < -20 || pvalue->dhs_sync > 10) {
+         rtxErrAddStrParm(ctx, "DHS-Sync");
+         rtxErrAddIntParm(ctx, pvalue->dhs_sync);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DHS-Sync", "dhs-sync", -1, "CellUpdateConfirm-v690ext-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->dhs_sync, -20, 10);
+      RT_CHECK(ctx, stat, "DHS-Sync", "dhs-sync", -1, "CellUpdateConfirm-v690ext-IEs");
    }
-   /* cnavISCl5q5 */
+   /* mbms-PL-ServiceRestrictInfo */
    if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "cnavISCl5q5");
-      RT_SET_SIZE(ctx, 13, 13);
-      stat = pe_BitString32(ctx, &pvalue->cnavISCl5q5, 13, 13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CSGCellInfo_modeSpecificInfo_fdd(rtxContext* ctx, const CSGCellInfo_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* startPSC */
-   rtxCtxtPushElemName(ctx, "startPSC");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->startPSC);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* numberOfPSCs */
-   rtxCtxtPushElemName(ctx, "numberOfPSCs");
-   if ((uint64_t)(pvalue->numberOfPSCs - 1) > 511u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->numberOfPSCs);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->numberOfPSCs, 1, 512);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CSGCellInfo_modeSpecificInfo(rtxContext* ctx, const CSGCellInfo_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CSGCellInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CSGCellInfo(rtxContext* ctx, const CSGCellInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CSGCellInfo");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_CSGCellInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CSGCellInfoList(rtxContext* ctx, const CSGCellInfoList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "CSGCellInfoList");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "CSGCellInfo", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_CSGCellInfo(ctx, (const CSGCellInfo*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CSGInterFreqCellInfo(rtxContext* ctx, const CSGInterFreqCellInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CSGInterFreqCellInfo");
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cSGInterFreqCellInfoListperFreq */
-   rtxCtxtPushElemName(ctx, "cSGInterFreqCellInfoListperFreq");
-   stat = asn1PE_UMTS_CSGCellInfoList(ctx, &pvalue->cSGInterFreqCellInfoListperFreq);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CSGInterFreqCellInfoList(rtxContext* ctx, const CSGInterFreqCellInfoList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "CSGInterFreqCellInfoList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "CSGInterFreqCellInfo", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_CSGInterFreqCellInfo(ctx, (const CSGInterFreqCellInfo*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CSGIntraFreqCellInfoList(rtxContext* ctx, const CSGIntraFreqCellInfoList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CSGIntraFreqCellInfoList");
-   stat = asn1PE_UMTS_CSGCellInfoList(ctx, pvalue);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CSGProximityDetection_uTRACSGProximityDetec(rtxContext* ctx, CSGProximityDetection_uTRACSGProximityDetec value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_CSGProximityDetection_e_UTRACSGProximityDetec(rtxContext* ctx, CSGProximityDetection_e_UTRACSGProximityDetec value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_CSGProximityDetection(rtxContext* ctx, const CSGProximityDetection* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CSGProximityDetection");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* uTRACSGProximityDetec */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "uTRACSGProximityDetec");
-      if (pvalue->uTRACSGProximityDetec > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->uTRACSGProximityDetec);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+      if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-v690ext-IEs");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->uTRACSGProximityDetec, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-UTRACSGProximityDetec */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "e-UTRACSGProximityDetec");
-      if (pvalue->e_UTRACSGProximityDetec > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->e_UTRACSGProximityDetec);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->e_UTRACSGProximityDetec, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CSGProximityIndication_cSGproximityInd(rtxContext* ctx, CSGProximityIndication_cSGproximityInd value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_CSGProximityIndication_radioAccessTechnology_uTRA(rtxContext* ctx, const CSGProximityIndication_radioAccessTechnology_uTRA* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* cSGFrequencyInfoUTRA */
-   rtxCtxtPushElemName(ctx, "cSGFrequencyInfoUTRA");
-   stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->cSGFrequencyInfoUTRA);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CSGProximityIndication_radioAccessTechnology_e_UTRA(rtxContext* ctx, const CSGProximityIndication_radioAccessTechnology_e_UTRA* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* cSGFrequencyInfoEUTRA */
-   rtxCtxtPushElemName(ctx, "cSGFrequencyInfoEUTRA");
-   rtxCtxtPushTypeName(ctx, "EARFCN");
-   stat = pe_ConsUInt64(ctx, pvalue->cSGFrequencyInfoEUTRA, 0, 65535);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CSGProximityIndication_radioAccessTechnology(rtxContext* ctx, const CSGProximityIndication_radioAccessTechnology* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "uTRA");
-         if (pvalue->u.uTRA == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CSGProximityIndication_radioAccessTechnology_uTRA(ctx, pvalue->u.uTRA);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "e-UTRA");
-         if (pvalue->u.e_UTRA == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CSGProximityIndication_radioAccessTechnology_e_UTRA(ctx, pvalue->u.e_UTRA);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
+      stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
+      RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-v690ext-IEs");
    }
    return 0;
 }
 
-int asn1PE_UMTS_CSGProximityIndication(rtxContext* ctx, const CSGProximityIndication* pvalue)
+int asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CSGProximityIndication");
-   /* cSGproximityInd */
-   rtxCtxtPushElemName(ctx, "cSGproximityInd");
-   if (pvalue->cSGproximityInd > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->cSGproximityInd);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cSGproximityInd, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* radioAccessTechnology */
-   rtxCtxtPushElemName(ctx, "radioAccessTechnology");
-   stat = asn1PE_UMTS_CSGProximityIndication_radioAccessTechnology(ctx, &pvalue->radioAccessTechnology);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_DataBitAssistance_data_bits(rtxContext* ctx, const DataBitAssistance_data_bits* pvalue)
+int asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   RT_SET_SIZE(ctx, 1, 1024);
-   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_DataBitAssistance(rtxContext* ctx, const DataBitAssistance* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DataBitAssistance");
-   /* ganss-signal-id */
-   rtxCtxtPushElemName(ctx, "ganss-signal-id");
-   rtxCtxtPushTypeName(ctx, "GANSS-Signal-Id");
-   if ((uint64_t)pvalue->ganss_signal_id > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ganss_signal_id);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ganss_signal_id, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* data-bits */
-   rtxCtxtPushElemName(ctx, "data-bits");
-   stat = asn1PE_UMTS_DataBitAssistance_data_bits(ctx, &pvalue->data_bits);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DataBitAssistanceSgnList(rtxContext* ctx, const DataBitAssistanceSgnList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "DataBitAssistanceSgnList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "DataBitAssistance", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_DataBitAssistance(ctx, (const DataBitAssistance*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DataBitAssistanceSat(rtxContext* ctx, const DataBitAssistanceSat* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DataBitAssistanceSat");
-   /* satID */
-   rtxCtxtPushElemName(ctx, "satID");
-   if ((uint64_t)pvalue->satID > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->satID);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->satID, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dataBitAssistanceSgnList */
-   rtxCtxtPushElemName(ctx, "dataBitAssistanceSgnList");
-   stat = asn1PE_UMTS_DataBitAssistanceSgnList(ctx, &pvalue->dataBitAssistanceSgnList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DataBitAssistanceList(rtxContext* ctx, const DataBitAssistanceList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "DataBitAssistanceList");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "DataBitAssistanceSat", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_DataBitAssistanceSat(ctx, (const DataBitAssistanceSat*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DeltaPRC(rtxContext* ctx, DeltaPRC value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DeltaPRC");
-   if (value < -127 || value > 127) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, value, -127, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DeltaRRC(rtxContext* ctx, DeltaRRC value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DeltaRRC");
-   if (value < -7 || value > 7) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, value, -7, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DeltaUT1(rtxContext* ctx, const DeltaUT1* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DeltaUT1");
-   /* b1 */
-   rtxCtxtPushElemName(ctx, "b1");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->b1, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* b2 */
-   rtxCtxtPushElemName(ctx, "b2");
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pe_BitString32(ctx, &pvalue->b2, 10, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSS_Status_Health(rtxContext* ctx, GANSS_Status_Health value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "GANSS-Status-Health");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UDRE(rtxContext* ctx, UDRE value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UDRE");
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DGANSSSignalInformation(rtxContext* ctx, const DGANSSSignalInformation* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DGANSSSignalInformation");
-   /* satId */
-   rtxCtxtPushElemName(ctx, "satId");
-   if ((uint64_t)pvalue->satId > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->satId);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->satId, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* iode-dganss */
-   rtxCtxtPushElemName(ctx, "iode-dganss");
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pe_BitString32(ctx, &pvalue->iode_dganss, 10, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* udre */
-   rtxCtxtPushElemName(ctx, "udre");
-   rtxCtxtPushTypeName(ctx, "UDRE");
-   if (pvalue->udre > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->udre);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->udre, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ganss-prc */
-   rtxCtxtPushElemName(ctx, "ganss-prc");
-   if (pvalue->ganss_prc < -2047 || pvalue->ganss_prc > 2047) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->ganss_prc);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->ganss_prc, -2047, 2047);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganss-rrc */
-   rtxCtxtPushElemName(ctx, "ganss-rrc");
-   if (pvalue->ganss_rrc < -127 || pvalue->ganss_rrc > 127) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->ganss_rrc);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->ganss_rrc, -127, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DGANSSSignalInformationList(rtxContext* ctx, const DGANSSSignalInformationList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "DGANSSSignalInformationList");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "DGANSSSignalInformation", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_DGANSSSignalInformation(ctx, (const DGANSSSignalInformation*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DGANSSInfo(rtxContext* ctx, const DGANSSInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DGANSSInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ganssSignalId */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ganssSignalId");
-      rtxCtxtPushTypeName(ctx, "GANSS-Signal-Id");
-      if ((uint64_t)pvalue->ganssSignalId > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->ganssSignalId);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssSignalId, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssStatusHealth */
-   rtxCtxtPushElemName(ctx, "ganssStatusHealth");
-   rtxCtxtPushTypeName(ctx, "GANSS-Status-Health");
-   if (pvalue->ganssStatusHealth > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->ganssStatusHealth);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ganssStatusHealth, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dgansssignalInformationList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dgansssignalInformationList");
-      stat = asn1PE_UMTS_DGANSSSignalInformationList(ctx, &pvalue->dgansssignalInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UDREGrowthRate(rtxContext* ctx, UDREGrowthRate value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UDREGrowthRate");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UDREValidityTime(rtxContext* ctx, UDREValidityTime value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UDREValidityTime");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DGANSSSignalInformation_r9(rtxContext* ctx, const DGANSSSignalInformation_r9* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DGANSSSignalInformation-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* satId */
-   rtxCtxtPushElemName(ctx, "satId");
-   if ((uint64_t)pvalue->satId > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->satId);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->satId, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* iode-dganss */
-   rtxCtxtPushElemName(ctx, "iode-dganss");
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pe_BitString32(ctx, &pvalue->iode_dganss, 10, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* udre */
-   rtxCtxtPushElemName(ctx, "udre");
-   rtxCtxtPushTypeName(ctx, "UDRE");
-   if (pvalue->udre > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->udre);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->udre, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ganss-prc */
-   rtxCtxtPushElemName(ctx, "ganss-prc");
-   if (pvalue->ganss_prc < -2047 || pvalue->ganss_prc > 2047) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->ganss_prc);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->ganss_prc, -2047, 2047);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganss-rrc */
-   rtxCtxtPushElemName(ctx, "ganss-rrc");
-   if (pvalue->ganss_rrc < -127 || pvalue->ganss_rrc > 127) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->ganss_rrc);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->ganss_rrc, -127, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* udreGrowthRate */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "udreGrowthRate");
-      rtxCtxtPushTypeName(ctx, "UDREGrowthRate");
-      if (pvalue->udreGrowthRate > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->udreGrowthRate);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->udreGrowthRate, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* udreValidityTime */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "udreValidityTime");
-      rtxCtxtPushTypeName(ctx, "UDREValidityTime");
-      if (pvalue->udreValidityTime > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->udreValidityTime);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->udreValidityTime, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DGANSSSignalInformationList_r9(rtxContext* ctx, const DGANSSSignalInformationList_r9* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "DGANSSSignalInformationList-r9");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "DGANSSSignalInformation-r9", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_DGANSSSignalInformation_r9(ctx, (const DGANSSSignalInformation_r9*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DGANSSInfo_r9(rtxContext* ctx, const DGANSSInfo_r9* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DGANSSInfo-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ganssSignalId */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ganssSignalId");
-      rtxCtxtPushTypeName(ctx, "GANSS-Signal-Id");
-      if ((uint64_t)pvalue->ganssSignalId > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->ganssSignalId);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssSignalId, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssStatusHealth */
-   rtxCtxtPushElemName(ctx, "ganssStatusHealth");
-   rtxCtxtPushTypeName(ctx, "GANSS-Status-Health");
-   if (pvalue->ganssStatusHealth > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->ganssStatusHealth);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ganssStatusHealth, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dgansssignalInformationList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dgansssignalInformationList");
-      stat = asn1PE_UMTS_DGANSSSignalInformationList_r9(ctx, &pvalue->dgansssignalInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DGANSSSignalInformation_v920ext(rtxContext* ctx, const DGANSSSignalInformation_v920ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DGANSSSignalInformation-v920ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* udreGrowthRate */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "udreGrowthRate");
-      rtxCtxtPushTypeName(ctx, "UDREGrowthRate");
-      if (pvalue->udreGrowthRate > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->udreGrowthRate);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->udreGrowthRate, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* udreValidityTime */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "udreValidityTime");
-      rtxCtxtPushTypeName(ctx, "UDREValidityTime");
-      if (pvalue->udreValidityTime > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->udreValidityTime);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->udreValidityTime, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DGANSSSignalInformationList_v920ext(rtxContext* ctx, const DGANSSSignalInformationList_v920ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "DGANSSSignalInformationList-v920ext");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "DGANSSSignalInformation-v920ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_DGANSSSignalInformation_v920ext(ctx, (const DGANSSSignalInformation_v920ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DGANSSInfo_v920ext(rtxContext* ctx, const DGANSSInfo_v920ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DGANSSInfo-v920ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* dgansssignalInformationList */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v690ext */
+   stat = asn1PE_UMTS_CellUpdateConfirm_v690ext_IEs(ctx, &pvalue->cellUpdateConfirm_v690ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v690ext", -1, 0);
+   /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dgansssignalInformationList");
-      stat = asn1PE_UMTS_DGANSSSignalInformationList_v920ext(ctx, &pvalue->dgansssignalInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DGANSSInfoList(rtxContext* ctx, const DGANSSInfoList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "DGANSSInfoList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "DGANSSInfo", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_DGANSSInfo(ctx, (const DGANSSInfo*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DGANSSInfoList_r9(rtxContext* ctx, const DGANSSInfoList_r9* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "DGANSSInfoList-r9");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "DGANSSInfo-r9", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_DGANSSInfo_r9(ctx, (const DGANSSInfo_r9*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DGANSSInfoList_v920ext(rtxContext* ctx, const DGANSSInfoList_v920ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "DGANSSInfoList-v920ext");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "DGANSSInfo-v920ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_DGANSSInfo_v920ext(ctx, (const DGANSSInfo_v920ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DGANSS_Sig_Id_Req(rtxContext* ctx, DGANSS_Sig_Id_Req value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DGANSS-Sig-Id-Req");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &value, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IODE(rtxContext* ctx, IODE value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "IODE");
-   stat = pe_ConsUInt64(ctx, value, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PRC(rtxContext* ctx, PRC value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PRC");
-   if (value < -2047 || value > 2047) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, value, -2047, 2047);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RRC(rtxContext* ctx, RRC value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RRC");
-   if (value < -127 || value > 127) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, value, -127, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DGPS_CorrectionSatInfo(rtxContext* ctx, const DGPS_CorrectionSatInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DGPS-CorrectionSatInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* satID */
-   rtxCtxtPushElemName(ctx, "satID");
-   rtxCtxtPushTypeName(ctx, "SatID");
-   if ((uint64_t)pvalue->satID > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->satID);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->satID, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* iode */
-   rtxCtxtPushElemName(ctx, "iode");
-   rtxCtxtPushTypeName(ctx, "IODE");
-   stat = pe_ConsUInt64(ctx, pvalue->iode, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* udre */
-   rtxCtxtPushElemName(ctx, "udre");
-   rtxCtxtPushTypeName(ctx, "UDRE");
-   if (pvalue->udre > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->udre);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->udre, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* prc */
-   rtxCtxtPushElemName(ctx, "prc");
-   rtxCtxtPushTypeName(ctx, "PRC");
-   if (pvalue->prc < -2047 || pvalue->prc > 2047) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->prc);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->prc, -2047, 2047);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* rrc */
-   rtxCtxtPushElemName(ctx, "rrc");
-   rtxCtxtPushTypeName(ctx, "RRC");
-   if (pvalue->rrc < -127 || pvalue->rrc > 127) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->rrc);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->rrc, -127, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dummy1 */
-   rtxCtxtPushElemName(ctx, "dummy1");
-   rtxCtxtPushTypeName(ctx, "DeltaPRC");
-   if (pvalue->dummy1 < -127 || pvalue->dummy1 > 127) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->dummy1);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->dummy1, -127, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dummy2 */
-   rtxCtxtPushElemName(ctx, "dummy2");
-   rtxCtxtPushTypeName(ctx, "DeltaRRC");
-   if (pvalue->dummy2 < -7 || pvalue->dummy2 > 7) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->dummy2);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->dummy2, -7, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dummy3 */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dummy3");
-      rtxCtxtPushTypeName(ctx, "DeltaPRC");
-      if (pvalue->dummy3 < -127 || pvalue->dummy3 > 127) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->dummy3);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->dummy3, -127, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy4 */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dummy4");
-      rtxCtxtPushTypeName(ctx, "DeltaRRC");
-      if (pvalue->dummy4 < -7 || pvalue->dummy4 > 7) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->dummy4);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->dummy4, -7, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DGPS_CorrectionSatInfo_r9(rtxContext* ctx, const DGPS_CorrectionSatInfo_r9* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DGPS-CorrectionSatInfo-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* satID */
-   rtxCtxtPushElemName(ctx, "satID");
-   rtxCtxtPushTypeName(ctx, "SatID");
-   if ((uint64_t)pvalue->satID > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->satID);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->satID, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* iode */
-   rtxCtxtPushElemName(ctx, "iode");
-   rtxCtxtPushTypeName(ctx, "IODE");
-   stat = pe_ConsUInt64(ctx, pvalue->iode, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* udre */
-   rtxCtxtPushElemName(ctx, "udre");
-   rtxCtxtPushTypeName(ctx, "UDRE");
-   if (pvalue->udre > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->udre);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->udre, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* prc */
-   rtxCtxtPushElemName(ctx, "prc");
-   rtxCtxtPushTypeName(ctx, "PRC");
-   if (pvalue->prc < -2047 || pvalue->prc > 2047) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->prc);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->prc, -2047, 2047);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* rrc */
-   rtxCtxtPushElemName(ctx, "rrc");
-   rtxCtxtPushTypeName(ctx, "RRC");
-   if (pvalue->rrc < -127 || pvalue->rrc > 127) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->rrc);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->rrc, -127, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* udreGrowthRate */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "udreGrowthRate");
-      rtxCtxtPushTypeName(ctx, "UDREGrowthRate");
-      if (pvalue->udreGrowthRate > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->udreGrowthRate);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->udreGrowthRate, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* udreValidityTime */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "udreValidityTime");
-      rtxCtxtPushTypeName(ctx, "UDREValidityTime");
-      if (pvalue->udreValidityTime > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->udreValidityTime);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->udreValidityTime, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DGPS_CorrectionSatInfo_v920ext(rtxContext* ctx, const DGPS_CorrectionSatInfo_v920ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DGPS-CorrectionSatInfo-v920ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* udreGrowthRate */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "udreGrowthRate");
-      rtxCtxtPushTypeName(ctx, "UDREGrowthRate");
-      if (pvalue->udreGrowthRate > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->udreGrowthRate);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->udreGrowthRate, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* udreValidityTime */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "udreValidityTime");
-      rtxCtxtPushTypeName(ctx, "UDREValidityTime");
-      if (pvalue->udreValidityTime > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->udreValidityTime);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->udreValidityTime, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DGPS_CorrectionSatInfoList(rtxContext* ctx, const DGPS_CorrectionSatInfoList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "DGPS-CorrectionSatInfoList");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "DGPS-CorrectionSatInfo", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_DGPS_CorrectionSatInfo(ctx, (const DGPS_CorrectionSatInfo*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DGPS_CorrectionSatInfoList_r9(rtxContext* ctx, const DGPS_CorrectionSatInfoList_r9* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "DGPS-CorrectionSatInfoList-r9");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "DGPS-CorrectionSatInfo-r9", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_DGPS_CorrectionSatInfo_r9(ctx, (const DGPS_CorrectionSatInfo_r9*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DGPS_CorrectionSatInfoList_v920ext(rtxContext* ctx, const DGPS_CorrectionSatInfoList_v920ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "DGPS-CorrectionSatInfoList-v920ext");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "DGPS-CorrectionSatInfo-v920ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_DGPS_CorrectionSatInfo_v920ext(ctx, (const DGPS_CorrectionSatInfo_v920ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DiffCorrectionStatus(rtxContext* ctx, DiffCorrectionStatus value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "DiffCorrectionStatus");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_EllipsoidPoint_latitudeSign(rtxContext* ctx, EllipsoidPoint_latitudeSign value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_EllipsoidPoint(rtxContext* ctx, const EllipsoidPoint* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "EllipsoidPoint");
-   /* latitudeSign */
-   rtxCtxtPushElemName(ctx, "latitudeSign");
-   if (pvalue->latitudeSign > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->latitudeSign);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->latitudeSign, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* latitude */
-   rtxCtxtPushElemName(ctx, "latitude");
-   if ((uint64_t)pvalue->latitude > 8388607u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->latitude);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->latitude, 0, 8388607);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* longitude */
-   rtxCtxtPushElemName(ctx, "longitude");
-   if (pvalue->longitude < -8388608 || pvalue->longitude > 8388607) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->longitude);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->longitude, -8388608, 8388607);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_EllipsoidPointAltitude_latitudeSign(rtxContext* ctx, EllipsoidPointAltitude_latitudeSign value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_EllipsoidPointAltitude_altitudeDirection(rtxContext* ctx, EllipsoidPointAltitude_altitudeDirection value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_EllipsoidPointAltitude(rtxContext* ctx, const EllipsoidPointAltitude* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "EllipsoidPointAltitude");
-   /* latitudeSign */
-   rtxCtxtPushElemName(ctx, "latitudeSign");
-   if (pvalue->latitudeSign > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->latitudeSign);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->latitudeSign, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* latitude */
-   rtxCtxtPushElemName(ctx, "latitude");
-   if ((uint64_t)pvalue->latitude > 8388607u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->latitude);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->latitude, 0, 8388607);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* longitude */
-   rtxCtxtPushElemName(ctx, "longitude");
-   if (pvalue->longitude < -8388608 || pvalue->longitude > 8388607) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->longitude);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->longitude, -8388608, 8388607);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* altitudeDirection */
-   rtxCtxtPushElemName(ctx, "altitudeDirection");
-   if (pvalue->altitudeDirection > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->altitudeDirection);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->altitudeDirection, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* altitude */
-   rtxCtxtPushElemName(ctx, "altitude");
-   if ((uint64_t)pvalue->altitude > 32767u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->altitude);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->altitude, 0, 32767);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_EllipsoidPointAltitudeEllipsoide_latitudeSign(rtxContext* ctx, EllipsoidPointAltitudeEllipsoide_latitudeSign value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_EllipsoidPointAltitudeEllipsoide_altitudeDirection(rtxContext* ctx, EllipsoidPointAltitudeEllipsoide_altitudeDirection value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_EllipsoidPointAltitudeEllipsoide(rtxContext* ctx, const EllipsoidPointAltitudeEllipsoide* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "EllipsoidPointAltitudeEllipsoide");
-   /* latitudeSign */
-   rtxCtxtPushElemName(ctx, "latitudeSign");
-   if (pvalue->latitudeSign > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->latitudeSign);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->latitudeSign, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* latitude */
-   rtxCtxtPushElemName(ctx, "latitude");
-   if ((uint64_t)pvalue->latitude > 8388607u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->latitude);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->latitude, 0, 8388607);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* longitude */
-   rtxCtxtPushElemName(ctx, "longitude");
-   if (pvalue->longitude < -8388608 || pvalue->longitude > 8388607) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->longitude);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->longitude, -8388608, 8388607);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* altitudeDirection */
-   rtxCtxtPushElemName(ctx, "altitudeDirection");
-   if (pvalue->altitudeDirection > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->altitudeDirection);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->altitudeDirection, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* altitude */
-   rtxCtxtPushElemName(ctx, "altitude");
-   if ((uint64_t)pvalue->altitude > 32767u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->altitude);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->altitude, 0, 32767);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* uncertaintySemiMajor */
-   rtxCtxtPushElemName(ctx, "uncertaintySemiMajor");
-   if ((uint64_t)pvalue->uncertaintySemiMajor > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->uncertaintySemiMajor);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->uncertaintySemiMajor, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* uncertaintySemiMinor */
-   rtxCtxtPushElemName(ctx, "uncertaintySemiMinor");
-   if ((uint64_t)pvalue->uncertaintySemiMinor > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->uncertaintySemiMinor);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->uncertaintySemiMinor, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* orientationMajorAxis */
-   rtxCtxtPushElemName(ctx, "orientationMajorAxis");
-   if ((uint64_t)pvalue->orientationMajorAxis > 89u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->orientationMajorAxis);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->orientationMajorAxis, 0, 89);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* uncertaintyAltitude */
-   rtxCtxtPushElemName(ctx, "uncertaintyAltitude");
-   if ((uint64_t)pvalue->uncertaintyAltitude > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->uncertaintyAltitude);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->uncertaintyAltitude, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* confidence */
-   rtxCtxtPushElemName(ctx, "confidence");
-   if ((uint64_t)pvalue->confidence > 100u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->confidence);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->confidence, 0, 100);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_EllipsoidPointUncertCircle_latitudeSign(rtxContext* ctx, EllipsoidPointUncertCircle_latitudeSign value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_EllipsoidPointUncertCircle(rtxContext* ctx, const EllipsoidPointUncertCircle* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "EllipsoidPointUncertCircle");
-   /* latitudeSign */
-   rtxCtxtPushElemName(ctx, "latitudeSign");
-   if (pvalue->latitudeSign > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->latitudeSign);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->latitudeSign, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* latitude */
-   rtxCtxtPushElemName(ctx, "latitude");
-   if ((uint64_t)pvalue->latitude > 8388607u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->latitude);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->latitude, 0, 8388607);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* longitude */
-   rtxCtxtPushElemName(ctx, "longitude");
-   if (pvalue->longitude < -8388608 || pvalue->longitude > 8388607) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->longitude);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->longitude, -8388608, 8388607);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* uncertaintyCode */
-   rtxCtxtPushElemName(ctx, "uncertaintyCode");
-   if ((uint64_t)pvalue->uncertaintyCode > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->uncertaintyCode);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->uncertaintyCode, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_EllipsoidPointUncertEllipse_latitudeSign(rtxContext* ctx, EllipsoidPointUncertEllipse_latitudeSign value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_EllipsoidPointUncertEllipse(rtxContext* ctx, const EllipsoidPointUncertEllipse* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "EllipsoidPointUncertEllipse");
-   /* latitudeSign */
-   rtxCtxtPushElemName(ctx, "latitudeSign");
-   if (pvalue->latitudeSign > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->latitudeSign);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->latitudeSign, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* latitude */
-   rtxCtxtPushElemName(ctx, "latitude");
-   if ((uint64_t)pvalue->latitude > 8388607u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->latitude);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->latitude, 0, 8388607);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* longitude */
-   rtxCtxtPushElemName(ctx, "longitude");
-   if (pvalue->longitude < -8388608 || pvalue->longitude > 8388607) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->longitude);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->longitude, -8388608, 8388607);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* uncertaintySemiMajor */
-   rtxCtxtPushElemName(ctx, "uncertaintySemiMajor");
-   if ((uint64_t)pvalue->uncertaintySemiMajor > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->uncertaintySemiMajor);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->uncertaintySemiMajor, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* uncertaintySemiMinor */
-   rtxCtxtPushElemName(ctx, "uncertaintySemiMinor");
-   if ((uint64_t)pvalue->uncertaintySemiMinor > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->uncertaintySemiMinor);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->uncertaintySemiMinor, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* orientationMajorAxis */
-   rtxCtxtPushElemName(ctx, "orientationMajorAxis");
-   if ((uint64_t)pvalue->orientationMajorAxis > 89u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->orientationMajorAxis);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->orientationMajorAxis, 0, 89);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* confidence */
-   rtxCtxtPushElemName(ctx, "confidence");
-   if ((uint64_t)pvalue->confidence > 100u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->confidence);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->confidence, 0, 100);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_EnvironmentCharacterisation(rtxContext* ctx, EnvironmentCharacterisation value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "EnvironmentCharacterisation");
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Eutra_EventResult_reportedCells(rtxContext* ctx, const Eutra_EventResult_reportedCells* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "EUTRA-PhysicalCellIdentity", i);
-      rtxCtxtPushTypeName(ctx, "EUTRA-PhysicalCellIdentity");
-      if ((uint64_t)pvalue->elem[i] > 503u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 503);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
+      stat = asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_Eutra_EventResult(rtxContext* ctx, const Eutra_EventResult* pvalue)
+int asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Eutra-EventResult");
-   /* earfcn */
-   rtxCtxtPushElemName(ctx, "earfcn");
-   rtxCtxtPushTypeName(ctx, "EARFCN");
-   stat = pe_ConsUInt64(ctx, pvalue->earfcn, 0, 65535);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportedCells */
-   rtxCtxtPushElemName(ctx, "reportedCells");
-   stat = asn1PE_UMTS_Eutra_EventResult_reportedCells(ctx, &pvalue->reportedCells);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Eutra_EventResultList(rtxContext* ctx, const Eutra_EventResultList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "Eutra-EventResultList");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "Eutra-EventResult", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_Eutra_EventResult(ctx, (const Eutra_EventResult*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_EventIDInterRAT(rtxContext* ctx, EventIDInterRAT value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "EventIDInterRAT");
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_EUTRA_EventResults(rtxContext* ctx, const EUTRA_EventResults* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "EUTRA-EventResults");
-   /* eventID */
-   rtxCtxtPushElemName(ctx, "eventID");
-   rtxCtxtPushTypeName(ctx, "EventIDInterRAT");
-   if (pvalue->eventID > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->eventID);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->eventID, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* eutra-EventResultsList */
-   rtxCtxtPushElemName(ctx, "eutra-EventResultsList");
-   stat = asn1PE_UMTS_Eutra_EventResultList(ctx, &pvalue->eutra_EventResultsList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_EUTRA_MeasurementBandwidth(rtxContext* ctx, EUTRA_MeasurementBandwidth value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "EUTRA-MeasurementBandwidth");
-   if (value > 5) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_EUTRA_FrequencyAndPriorityInfo(rtxContext* ctx, const EUTRA_FrequencyAndPriorityInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "EUTRA-FrequencyAndPriorityInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* earfcn */
-   rtxCtxtPushElemName(ctx, "earfcn");
-   rtxCtxtPushTypeName(ctx, "EARFCN");
-   stat = pe_ConsUInt64(ctx, pvalue->earfcn, 0, 65535);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* measurementBandwidth */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measurementBandwidth");
-      rtxCtxtPushTypeName(ctx, "EUTRA-MeasurementBandwidth");
-      if (pvalue->measurementBandwidth > 5) {
-         rtxErrAddUIntParm(ctx, pvalue->measurementBandwidth);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->measurementBandwidth, 0, 5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* priority */
-   rtxCtxtPushElemName(ctx, "priority");
-   if ((uint64_t)pvalue->priority > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->priority);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->priority, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* qRxLevMinEUTRA */
-   rtxCtxtPushElemName(ctx, "qRxLevMinEUTRA");
-   if (pvalue->qRxLevMinEUTRA < -70 || pvalue->qRxLevMinEUTRA > -22) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->qRxLevMinEUTRA);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->qRxLevMinEUTRA, -70, -22);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* threshXhigh */
-   rtxCtxtPushElemName(ctx, "threshXhigh");
-   if ((uint64_t)pvalue->threshXhigh > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->threshXhigh);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->threshXhigh, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* threshXlow */
-   rtxCtxtPushElemName(ctx, "threshXlow");
-   if ((uint64_t)pvalue->threshXlow > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->threshXlow);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->threshXlow, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* eutra-blackListedCellList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "eutra-blackListedCellList");
-      stat = asn1PE_UMTS_EUTRA_BlacklistedCellPerFreqList(ctx, &pvalue->eutra_blackListedCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* eutraDetection */
-   rtxCtxtPushElemName(ctx, "eutraDetection");
-   stat = rtxEncBit(ctx, pvalue->eutraDetection);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_EUTRA_FrequencyAndPriorityInfo_v920ext(rtxContext* ctx, const EUTRA_FrequencyAndPriorityInfo_v920ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "EUTRA-FrequencyAndPriorityInfo-v920ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* qqualMinEUTRA */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "qqualMinEUTRA");
-      if (pvalue->qqualMinEUTRA < -34 || pvalue->qqualMinEUTRA > -3) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->qqualMinEUTRA);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->qqualMinEUTRA, -34, -3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* threshXhigh2 */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "threshXhigh2");
-      if ((uint64_t)pvalue->threshXhigh2 > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->threshXhigh2);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->threshXhigh2, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* threshXlow2 */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "threshXlow2");
-      if ((uint64_t)pvalue->threshXlow2 > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->threshXlow2);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->threshXlow2, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_EUTRA_FrequencyAndPriorityInfoList(rtxContext* ctx, const EUTRA_FrequencyAndPriorityInfoList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "EUTRA-FrequencyAndPriorityInfoList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "EUTRA-FrequencyAndPriorityInfo", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_EUTRA_FrequencyAndPriorityInfo(ctx, (const EUTRA_FrequencyAndPriorityInfo*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_EUTRA_FrequencyAndPriorityInfoList_v920ext(rtxContext* ctx, const EUTRA_FrequencyAndPriorityInfoList_v920ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "EUTRA-FrequencyAndPriorityInfoList-v920ext");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "EUTRA-FrequencyAndPriorityInfo-v920ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_EUTRA_FrequencyAndPriorityInfo_v920ext(ctx, (const EUTRA_FrequencyAndPriorityInfo_v920ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_EUTRA_FrequencyRemoval_removeSomeFrequencies(rtxContext* ctx, const EUTRA_FrequencyRemoval_removeSomeFrequencies* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "EARFCN", i);
-      rtxCtxtPushTypeName(ctx, "EARFCN");
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 65535);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_EUTRA_FrequencyRemoval(rtxContext* ctx, const EUTRA_FrequencyRemoval* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "EUTRA-FrequencyRemoval");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "removeAllFrequencies");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "removeSomeFrequencies");
-         if (pvalue->u.removeSomeFrequencies == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_EUTRA_FrequencyRemoval_removeSomeFrequencies(ctx, pvalue->u.removeSomeFrequencies);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "removeNoFrequencies");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_EUTRA_FrequencyInfo(rtxContext* ctx, const EUTRA_FrequencyInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "EUTRA-FrequencyInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* earfcn */
-   rtxCtxtPushElemName(ctx, "earfcn");
-   rtxCtxtPushTypeName(ctx, "EARFCN");
-   stat = pe_ConsUInt64(ctx, pvalue->earfcn, 0, 65535);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* measurementBandwidth */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measurementBandwidth");
-      rtxCtxtPushTypeName(ctx, "EUTRA-MeasurementBandwidth");
-      if (pvalue->measurementBandwidth > 5) {
-         rtxErrAddUIntParm(ctx, pvalue->measurementBandwidth);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->measurementBandwidth, 0, 5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* eutra-blackListedCellList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "eutra-blackListedCellList");
-      stat = asn1PE_UMTS_EUTRA_BlacklistedCellPerFreqList(ctx, &pvalue->eutra_blackListedCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_EUTRA_FrequencyInfoList(rtxContext* ctx, const EUTRA_FrequencyInfoList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "EUTRA-FrequencyInfoList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "EUTRA-FrequencyInfo", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_EUTRA_FrequencyInfo(ctx, (const EUTRA_FrequencyInfo*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_EUTRA_FrequencyList(rtxContext* ctx, const EUTRA_FrequencyList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "EUTRA-FrequencyList");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* eutraFrequencyRemoval */
-   rtxCtxtPushElemName(ctx, "eutraFrequencyRemoval");
-   stat = asn1PE_UMTS_EUTRA_FrequencyRemoval(ctx, &pvalue->eutraFrequencyRemoval);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* eutraNewFrequencies */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v5d0ext */
+   stat = asn1PE_UMTS_CellUpdateConfirm_v5d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v5d0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v5d0ext", -1, 0);
+   /* v690NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "eutraNewFrequencies");
-      stat = asn1PE_UMTS_EUTRA_FrequencyInfoList(ctx, &pvalue->eutraNewFrequencies);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_EUTRA_SIAcquisition(rtxContext* ctx, const EUTRA_SIAcquisition* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "EUTRA-SIAcquisition");
-   /* earfcn */
-   rtxCtxtPushElemName(ctx, "earfcn");
-   rtxCtxtPushTypeName(ctx, "EARFCN");
-   stat = pe_ConsUInt64(ctx, pvalue->earfcn, 0, 65535);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* physicalCellIdentity */
-   rtxCtxtPushElemName(ctx, "physicalCellIdentity");
-   rtxCtxtPushTypeName(ctx, "EUTRA-PhysicalCellIdentity");
-   if ((uint64_t)pvalue->physicalCellIdentity > 503u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->physicalCellIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->physicalCellIdentity, 0, 503);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_EUTRA_FrequencyList_r9(rtxContext* ctx, const EUTRA_FrequencyList_r9* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "EUTRA-FrequencyList-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* eutraFrequencyRemoval */
-   rtxCtxtPushElemName(ctx, "eutraFrequencyRemoval");
-   stat = asn1PE_UMTS_EUTRA_FrequencyRemoval(ctx, &pvalue->eutraFrequencyRemoval);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* eutraNewFrequencies */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "eutraNewFrequencies");
-      stat = asn1PE_UMTS_EUTRA_FrequencyInfoList(ctx, &pvalue->eutraNewFrequencies);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* eutraSIAcquisition */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "eutraSIAcquisition");
-      stat = asn1PE_UMTS_EUTRA_SIAcquisition(ctx, &pvalue->eutraSIAcquisition);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_EUTRA_MeasuredCells(rtxContext* ctx, const EUTRA_MeasuredCells* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "EUTRA-MeasuredCells");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* physicalCellIdentity */
-   rtxCtxtPushElemName(ctx, "physicalCellIdentity");
-   rtxCtxtPushTypeName(ctx, "EUTRA-PhysicalCellIdentity");
-   if ((uint64_t)pvalue->physicalCellIdentity > 503u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->physicalCellIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->physicalCellIdentity, 0, 503);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* rSRP */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "rSRP");
-      if ((uint64_t)pvalue->rSRP > 97u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->rSRP);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->rSRP, 0, 97);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rSRQ */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "rSRQ");
-      if ((uint64_t)pvalue->rSRQ > 33u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->rSRQ);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->rSRQ, 0, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Eutra_MeasuredResult_measuredEUTRACells(rtxContext* ctx, const Eutra_MeasuredResult_measuredEUTRACells* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "EUTRA-MeasuredCells", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_EUTRA_MeasuredCells(ctx, (const EUTRA_MeasuredCells*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+      stat = asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_Eutra_MeasuredResult(rtxContext* ctx, const Eutra_MeasuredResult* pvalue)
+int asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Eutra-MeasuredResult");
-   /* earfcn */
-   rtxCtxtPushElemName(ctx, "earfcn");
-   rtxCtxtPushTypeName(ctx, "EARFCN");
-   stat = pe_ConsUInt64(ctx, pvalue->earfcn, 0, 65535);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* measuredEUTRACells */
-   rtxCtxtPushElemName(ctx, "measuredEUTRACells");
-   stat = asn1PE_UMTS_Eutra_MeasuredResult_measuredEUTRACells(ctx, &pvalue->measuredEUTRACells);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Eutra_MeasuredResultList(rtxContext* ctx, const Eutra_MeasuredResultList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "Eutra-MeasuredResultList");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "Eutra-MeasuredResult", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_Eutra_MeasuredResult(ctx, (const Eutra_MeasuredResult*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_EUTRA_MeasuredResults(rtxContext* ctx, const EUTRA_MeasuredResults* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "EUTRA-MeasuredResults");
-   /* eutraMeasuredResultList */
-   rtxCtxtPushElemName(ctx, "eutraMeasuredResultList");
-   stat = asn1PE_UMTS_Eutra_MeasuredResultList(ctx, &pvalue->eutraMeasuredResultList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_EUTRA_SIacquisitionResults_cgiInfo(rtxContext* ctx, const EUTRA_SIacquisitionResults_cgiInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* plmn-Identity */
-   rtxCtxtPushElemName(ctx, "plmn-Identity");
-   stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellIdentity */
-   rtxCtxtPushElemName(ctx, "cellIdentity");
-   RT_SET_SIZE(ctx, 28, 28);
-   stat = pe_BitString32(ctx, &pvalue->cellIdentity, 28, 28);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* trackingAreaCode */
-   rtxCtxtPushElemName(ctx, "trackingAreaCode");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->trackingAreaCode, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_EUTRA_SIacquisitionResults_csgMemberIndication(rtxContext* ctx, EUTRA_SIacquisitionResults_csgMemberIndication value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_EUTRA_SIacquisitionResults(rtxContext* ctx, const EUTRA_SIacquisitionResults* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "EUTRA-SIacquisitionResults");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* cgiInfo */
-   rtxCtxtPushElemName(ctx, "cgiInfo");
-   stat = asn1PE_UMTS_EUTRA_SIacquisitionResults_cgiInfo(ctx, &pvalue->cgiInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* csgIdentity */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "csgIdentity");
-      stat = asn1PE_UMTS_CSG_Identity(ctx, pvalue->csgIdentity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* csgMemberIndication */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "csgMemberIndication");
-      if (pvalue->csgMemberIndication > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->csgMemberIndication);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->csgMemberIndication, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_EUTRA_MeasuredCells_v920ext(rtxContext* ctx, const EUTRA_MeasuredCells_v920ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "EUTRA-MeasuredCells-v920ext");
-   /* eutraSIacquisitionResults */
-   rtxCtxtPushElemName(ctx, "eutraSIacquisitionResults");
-   stat = asn1PE_UMTS_EUTRA_SIacquisitionResults(ctx, &pvalue->eutraSIacquisitionResults);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Eutra_MeasuredResult_v920ext_measuredEUTRACells_v920ext(rtxContext* ctx, const Eutra_MeasuredResult_v920ext_measuredEUTRACells_v920ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "EUTRA-MeasuredCells-v920ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_EUTRA_MeasuredCells_v920ext(ctx, (const EUTRA_MeasuredCells_v920ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Eutra_MeasuredResult_v920ext(rtxContext* ctx, const Eutra_MeasuredResult_v920ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Eutra-MeasuredResult-v920ext");
-   /* measuredEUTRACells-v920ext */
-   rtxCtxtPushElemName(ctx, "measuredEUTRACells-v920ext");
-   stat = asn1PE_UMTS_Eutra_MeasuredResult_v920ext_measuredEUTRACells_v920ext(ctx, &pvalue->measuredEUTRACells_v920ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Eutra_MeasuredResultList_v920ext(rtxContext* ctx, const Eutra_MeasuredResultList_v920ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "Eutra-MeasuredResultList-v920ext");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "Eutra-MeasuredResult-v920ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_Eutra_MeasuredResult_v920ext(ctx, (const Eutra_MeasuredResult_v920ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_EUTRA_MeasuredResults_v920ext(rtxContext* ctx, const EUTRA_MeasuredResults_v920ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "EUTRA-MeasuredResults-v920ext");
-   /* eutraMeasuredResultList-v920ext */
-   rtxCtxtPushElemName(ctx, "eutraMeasuredResultList-v920ext");
-   stat = asn1PE_UMTS_Eutra_MeasuredResultList_v920ext(ctx, &pvalue->eutraMeasuredResultList_v920ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ForbiddenAffectCell_r4(rtxContext* ctx, const ForbiddenAffectCell_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ForbiddenAffectCell-r4");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ForbiddenAffectCellList_r4(rtxContext* ctx, const ForbiddenAffectCellList_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "ForbiddenAffectCellList-r4");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "ForbiddenAffectCell-r4", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_ForbiddenAffectCell_r4(ctx, (const ForbiddenAffectCell_r4*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Event1a_r4(rtxContext* ctx, const Event1a_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Event1a-r4");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* triggeringCondition */
-   rtxCtxtPushElemName(ctx, "triggeringCondition");
-   rtxCtxtPushTypeName(ctx, "TriggeringCondition2");
-   if (pvalue->triggeringCondition > 4) {
-      rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingRange */
-   rtxCtxtPushElemName(ctx, "reportingRange");
-   rtxCtxtPushTypeName(ctx, "ReportingRange");
-   if ((uint64_t)pvalue->reportingRange > 29u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->reportingRange);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingRange, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* forbiddenAffectCellList */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v590ext */
+   stat = asn1PE_UMTS_CellUpdateConfirm_v590ext_IEs(ctx, &pvalue->cellUpdateConfirm_v590ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v590ext", -1, 0);
+   /* v5d0NonCriticalExtenstions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "forbiddenAffectCellList");
-      stat = asn1PE_UMTS_ForbiddenAffectCellList_r4(ctx, &pvalue->forbiddenAffectCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
+      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
    }
-   /* w */
-   rtxCtxtPushElemName(ctx, "w");
-   rtxCtxtPushTypeName(ctx, "W");
-   if ((uint64_t)pvalue->w > 20u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->w);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportDeactivationThreshold */
-   rtxCtxtPushElemName(ctx, "reportDeactivationThreshold");
-   rtxCtxtPushTypeName(ctx, "ReportDeactivationThreshold");
-   if (pvalue->reportDeactivationThreshold > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->reportDeactivationThreshold);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportDeactivationThreshold, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingAmount */
-   rtxCtxtPushElemName(ctx, "reportingAmount");
-   rtxCtxtPushTypeName(ctx, "ReportingAmount");
-   if (pvalue->reportingAmount > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->reportingAmount);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingAmount, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingInterval */
-   rtxCtxtPushElemName(ctx, "reportingInterval");
-   rtxCtxtPushTypeName(ctx, "ReportingInterval");
-   if (pvalue->reportingInterval > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->reportingInterval);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingInterval, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_ForbiddenAffectCellOnSecULFreq(rtxContext* ctx, const ForbiddenAffectCellOnSecULFreq* pvalue)
+int asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ForbiddenAffectCellOnSecULFreq");
-   /* primaryCPICH */
-   rtxCtxtPushElemName(ctx, "primaryCPICH");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ForbiddenAffectCellListOnSecULFreq(rtxContext* ctx, const ForbiddenAffectCellListOnSecULFreq* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "ForbiddenAffectCellListOnSecULFreq");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "ForbiddenAffectCellOnSecULFreq", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_ForbiddenAffectCellOnSecULFreq(ctx, (const ForbiddenAffectCellOnSecULFreq*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Event1a_OnSecUlFreq_r9(rtxContext* ctx, const Event1a_OnSecUlFreq_r9* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Event1a-OnSecUlFreq-r9");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* triggeringCondition */
-   rtxCtxtPushElemName(ctx, "triggeringCondition");
-   rtxCtxtPushTypeName(ctx, "TriggeringCondition2");
-   if (pvalue->triggeringCondition > 4) {
-      rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingRange */
-   rtxCtxtPushElemName(ctx, "reportingRange");
-   rtxCtxtPushTypeName(ctx, "ReportingRange");
-   if ((uint64_t)pvalue->reportingRange > 29u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->reportingRange);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingRange, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* forbiddenAffectCellListOnSecULFreq */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v4b0ext */
+   stat = asn1PE_UMTS_CellUpdateConfirm_v4b0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v4b0ext", -1, 0);
+   /* v590NonCriticalExtenstions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "forbiddenAffectCellListOnSecULFreq");
-      stat = asn1PE_UMTS_ForbiddenAffectCellListOnSecULFreq(ctx, &pvalue->forbiddenAffectCellListOnSecULFreq);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions(ctx, &pvalue->v590NonCriticalExtenstions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtenstions", -1, 0);
    }
-   /* w */
-   rtxCtxtPushElemName(ctx, "w");
-   rtxCtxtPushTypeName(ctx, "W");
-   if ((uint64_t)pvalue->w > 20u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->w);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportDeactivationThreshold */
-   rtxCtxtPushElemName(ctx, "reportDeactivationThreshold");
-   rtxCtxtPushTypeName(ctx, "ReportDeactivationThreshold");
-   if (pvalue->reportDeactivationThreshold > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->reportDeactivationThreshold);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportDeactivationThreshold, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingAmount */
-   rtxCtxtPushElemName(ctx, "reportingAmount");
-   rtxCtxtPushTypeName(ctx, "ReportingAmount");
-   if (pvalue->reportingAmount > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->reportingAmount);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingAmount, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingInterval */
-   rtxCtxtPushElemName(ctx, "reportingInterval");
-   rtxCtxtPushTypeName(ctx, "ReportingInterval");
-   if (pvalue->reportingInterval > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->reportingInterval);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingInterval, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_Event1b_r4(rtxContext* ctx, const Event1b_r4* pvalue)
+int asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Event1b-r4");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->cellUpdateConfirm_r3_add_ext.numbits, pvalue->cellUpdateConfirm_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r3-add-ext", -1, 0);
+   }
+   /* v4b0NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r3_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* triggeringCondition */
-   rtxCtxtPushElemName(ctx, "triggeringCondition");
-   rtxCtxtPushTypeName(ctx, "TriggeringCondition1");
-   if (pvalue->triggeringCondition > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingRange */
-   rtxCtxtPushElemName(ctx, "reportingRange");
-   rtxCtxtPushTypeName(ctx, "ReportingRange");
-   if ((uint64_t)pvalue->reportingRange > 29u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->reportingRange);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingRange, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* forbiddenAffectCellList */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v3a0ext */
+   stat = asn1PE_UMTS_CellUpdateConfirm_v3a0ext(ctx, &pvalue->cellUpdateConfirm_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v3a0ext", -1, 0);
+   /* laterNonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "forbiddenAffectCellList");
-      stat = asn1PE_UMTS_ForbiddenAffectCellList_r4(ctx, &pvalue->forbiddenAffectCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
    }
-   /* w */
-   rtxCtxtPushElemName(ctx, "w");
-   rtxCtxtPushTypeName(ctx, "W");
-   if ((uint64_t)pvalue->w > 20u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->w);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_Event1b_r7(rtxContext* ctx, const Event1b_r7* pvalue)
+int asn1PE_UMTS_CellUpdateConfirm_r3(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r3* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Event1b-r7");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r3 */
+   stat = asn1PE_UMTS_CellUpdateConfirm_r3_IEs(ctx, &pvalue->cellUpdateConfirm_r3);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r3", -1, 0);
+   /* v3a0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* triggeringCondition */
-   rtxCtxtPushElemName(ctx, "triggeringCondition");
-   rtxCtxtPushTypeName(ctx, "TriggeringCondition1");
-   if (pvalue->triggeringCondition > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingRange */
-   rtxCtxtPushElemName(ctx, "reportingRange");
-   rtxCtxtPushTypeName(ctx, "ReportingRange");
-   if ((uint64_t)pvalue->reportingRange > 29u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->reportingRange);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingRange, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* forbiddenAffectCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "forbiddenAffectCellList");
-      stat = asn1PE_UMTS_ForbiddenAffectCellList_r4(ctx, &pvalue->forbiddenAffectCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* w */
-   rtxCtxtPushElemName(ctx, "w");
-   rtxCtxtPushTypeName(ctx, "W");
-   if ((uint64_t)pvalue->w > 20u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->w);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* periodicReportingInfo-1b */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "periodicReportingInfo-1b");
-      stat = asn1PE_UMTS_PeriodicReportingInfo_1b(ctx, &pvalue->periodicReportingInfo_1b);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Event1b_OnSecUlFreq_r9(rtxContext* ctx, const Event1b_OnSecUlFreq_r9* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Event1b-OnSecUlFreq-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* triggeringCondition */
-   rtxCtxtPushElemName(ctx, "triggeringCondition");
-   rtxCtxtPushTypeName(ctx, "TriggeringCondition1");
-   if (pvalue->triggeringCondition > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingRange */
-   rtxCtxtPushElemName(ctx, "reportingRange");
-   rtxCtxtPushTypeName(ctx, "ReportingRange");
-   if ((uint64_t)pvalue->reportingRange > 29u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->reportingRange);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingRange, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* forbiddenAffectCellListOnSecULFreq */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "forbiddenAffectCellListOnSecULFreq");
-      stat = asn1PE_UMTS_ForbiddenAffectCellListOnSecULFreq(ctx, &pvalue->forbiddenAffectCellListOnSecULFreq);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* w */
-   rtxCtxtPushElemName(ctx, "w");
-   rtxCtxtPushTypeName(ctx, "W");
-   if ((uint64_t)pvalue->w > 20u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->w);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* periodicReportingInfo-1b */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "periodicReportingInfo-1b");
-      stat = asn1PE_UMTS_PeriodicReportingInfo_1b(ctx, &pvalue->periodicReportingInfo_1b);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Event1d(rtxContext* ctx, const Event1d* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Event1d");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* triggeringCondition */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "triggeringCondition");
-      rtxCtxtPushTypeName(ctx, "TriggeringCondition2");
-      if (pvalue->triggeringCondition > 4) {
-         rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 4);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* useCIO */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "useCIO");
-      stat = rtxEncBit(ctx, pvalue->useCIO);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ThresholdUsedFrequency_r6(rtxContext* ctx, ThresholdUsedFrequency_r6 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ThresholdUsedFrequency-r6");
-   if (value < -120 || value > 165) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, value, -120, 165);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Event1e_r6(rtxContext* ctx, const Event1e_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Event1e-r6");
-   /* triggeringCondition */
-   rtxCtxtPushElemName(ctx, "triggeringCondition");
-   rtxCtxtPushTypeName(ctx, "TriggeringCondition2");
-   if (pvalue->triggeringCondition > 4) {
-      rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* thresholdUsedFrequency */
-   rtxCtxtPushElemName(ctx, "thresholdUsedFrequency");
-   rtxCtxtPushTypeName(ctx, "ThresholdUsedFrequency-r6");
-   if (pvalue->thresholdUsedFrequency < -120 || pvalue->thresholdUsedFrequency > 165) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->thresholdUsedFrequency);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->thresholdUsedFrequency, -120, 165);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Event1f_r6(rtxContext* ctx, const Event1f_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Event1f-r6");
-   /* triggeringCondition */
-   rtxCtxtPushElemName(ctx, "triggeringCondition");
-   rtxCtxtPushTypeName(ctx, "TriggeringCondition1");
-   if (pvalue->triggeringCondition > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* thresholdUsedFrequency */
-   rtxCtxtPushElemName(ctx, "thresholdUsedFrequency");
-   rtxCtxtPushTypeName(ctx, "ThresholdUsedFrequency-r6");
-   if (pvalue->thresholdUsedFrequency < -120 || pvalue->thresholdUsedFrequency > 165) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->thresholdUsedFrequency);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->thresholdUsedFrequency, -120, 165);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Event1j_r6(rtxContext* ctx, const Event1j_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Event1j-r6");
-   /* replacementActivationThreshold */
-   rtxCtxtPushElemName(ctx, "replacementActivationThreshold");
-   rtxCtxtPushTypeName(ctx, "ReplacementActivationThreshold");
-   if (pvalue->replacementActivationThreshold > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->replacementActivationThreshold);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->replacementActivationThreshold, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingAmount */
-   rtxCtxtPushElemName(ctx, "reportingAmount");
-   rtxCtxtPushTypeName(ctx, "ReportingAmount");
-   if (pvalue->reportingAmount > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->reportingAmount);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingAmount, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingInterval */
-   rtxCtxtPushElemName(ctx, "reportingInterval");
-   rtxCtxtPushTypeName(ctx, "ReportingInterval");
-   if (pvalue->reportingInterval > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->reportingInterval);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingInterval, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HysteresisInterFreq(rtxContext* ctx, HysteresisInterFreq value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "HysteresisInterFreq");
-   if ((uint64_t)value > 29u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NonUsedFreqParameter(rtxContext* ctx, const NonUsedFreqParameter* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NonUsedFreqParameter");
-   /* nonUsedFreqThreshold */
-   rtxCtxtPushElemName(ctx, "nonUsedFreqThreshold");
-   rtxCtxtPushTypeName(ctx, "Threshold");
-   if (pvalue->nonUsedFreqThreshold < -115 || pvalue->nonUsedFreqThreshold > 0) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->nonUsedFreqThreshold);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->nonUsedFreqThreshold, -115, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* nonUsedFreqW */
-   rtxCtxtPushElemName(ctx, "nonUsedFreqW");
-   rtxCtxtPushTypeName(ctx, "W");
-   if ((uint64_t)pvalue->nonUsedFreqW > 20u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->nonUsedFreqW);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->nonUsedFreqW, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NonUsedFreqParameterList(rtxContext* ctx, const NonUsedFreqParameterList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NonUsedFreqParameterList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "NonUsedFreqParameter", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_NonUsedFreqParameter(ctx, (const NonUsedFreqParameter*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Event2a(rtxContext* ctx, const Event2a* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Event2a");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* dummy */
-   rtxCtxtPushElemName(ctx, "dummy");
-   rtxCtxtPushTypeName(ctx, "Threshold");
-   if (pvalue->dummy < -115 || pvalue->dummy > 0) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->dummy);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->dummy, -115, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* usedFreqW */
-   rtxCtxtPushElemName(ctx, "usedFreqW");
-   rtxCtxtPushTypeName(ctx, "W");
-   if ((uint64_t)pvalue->usedFreqW > 20u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->usedFreqW);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->usedFreqW, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "HysteresisInterFreq");
-   if ((uint64_t)pvalue->hysteresis > 29u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonUsedFreqParameterList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "nonUsedFreqParameterList");
-      stat = asn1PE_UMTS_NonUsedFreqParameterList(ctx, &pvalue->nonUsedFreqParameterList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NonUsedFreqWList_r6(rtxContext* ctx, const NonUsedFreqWList_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NonUsedFreqWList-r6");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "W", i);
-      rtxCtxtPushTypeName(ctx, "W");
-      if ((uint64_t)pvalue->elem[i] > 20u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+      if ((uint64_t)(pvalue->dummy - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "CPCH-SetID");
+         rtxErrAddUIntParm(ctx, pvalue->dummy);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "CPCH-SetID", "dummy", -1, 0);
       }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 20);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->dummy, 1, 16);
+      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Event2a_r6(rtxContext* ctx, const Event2a_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Event2a-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* usedFreqW */
-   rtxCtxtPushElemName(ctx, "usedFreqW");
-   rtxCtxtPushTypeName(ctx, "W");
-   if ((uint64_t)pvalue->usedFreqW > 20u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->usedFreqW);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->usedFreqW, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "HysteresisInterFreq");
-   if ((uint64_t)pvalue->hysteresis > 29u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonUsedFreqParameterList */
+   /* dummy2 */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "nonUsedFreqParameterList");
-      stat = asn1PE_UMTS_NonUsedFreqWList_r6(ctx, &pvalue->nonUsedFreqParameterList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_Event2b(rtxContext* ctx, const Event2b* pvalue)
+int asn1PE_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Event2b");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* usedFreqThreshold */
-   rtxCtxtPushElemName(ctx, "usedFreqThreshold");
-   rtxCtxtPushTypeName(ctx, "Threshold");
-   if (pvalue->usedFreqThreshold < -115 || pvalue->usedFreqThreshold > 0) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->usedFreqThreshold);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->usedFreqThreshold, -115, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* usedFreqW */
-   rtxCtxtPushElemName(ctx, "usedFreqW");
-   rtxCtxtPushTypeName(ctx, "W");
-   if ((uint64_t)pvalue->usedFreqW > 20u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->usedFreqW);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->usedFreqW, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "HysteresisInterFreq");
-   if ((uint64_t)pvalue->hysteresis > 29u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonUsedFreqParameterList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "nonUsedFreqParameterList");
-      stat = asn1PE_UMTS_NonUsedFreqParameterList(ctx, &pvalue->nonUsedFreqParameterList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Threshold_r6(rtxContext* ctx, Threshold_r6 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Threshold-r6");
-   if (value < -120 || value > 0) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, value, -120, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NonUsedFreqParameter_r6(rtxContext* ctx, const NonUsedFreqParameter_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NonUsedFreqParameter-r6");
-   /* nonUsedFreqThreshold */
-   rtxCtxtPushElemName(ctx, "nonUsedFreqThreshold");
-   rtxCtxtPushTypeName(ctx, "Threshold-r6");
-   if (pvalue->nonUsedFreqThreshold < -120 || pvalue->nonUsedFreqThreshold > 0) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->nonUsedFreqThreshold);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->nonUsedFreqThreshold, -120, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* nonUsedFreqW */
-   rtxCtxtPushElemName(ctx, "nonUsedFreqW");
-   rtxCtxtPushTypeName(ctx, "W");
-   if ((uint64_t)pvalue->nonUsedFreqW > 20u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->nonUsedFreqW);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->nonUsedFreqW, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NonUsedFreqParameterList_r6(rtxContext* ctx, const NonUsedFreqParameterList_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NonUsedFreqParameterList-r6");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "NonUsedFreqParameter-r6", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_NonUsedFreqParameter_r6(ctx, (const NonUsedFreqParameter_r6*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Event2b_r6(rtxContext* ctx, const Event2b_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Event2b-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* usedFreqThreshold */
-   rtxCtxtPushElemName(ctx, "usedFreqThreshold");
-   rtxCtxtPushTypeName(ctx, "Threshold-r6");
-   if (pvalue->usedFreqThreshold < -120 || pvalue->usedFreqThreshold > 0) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->usedFreqThreshold);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->usedFreqThreshold, -120, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* usedFreqW */
-   rtxCtxtPushElemName(ctx, "usedFreqW");
-   rtxCtxtPushTypeName(ctx, "W");
-   if ((uint64_t)pvalue->usedFreqW > 20u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->usedFreqW);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->usedFreqW, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "HysteresisInterFreq");
-   if ((uint64_t)pvalue->hysteresis > 29u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonUsedFreqParameterList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "nonUsedFreqParameterList");
-      stat = asn1PE_UMTS_NonUsedFreqParameterList_r6(ctx, &pvalue->nonUsedFreqParameterList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Event2c(rtxContext* ctx, const Event2c* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Event2c");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "HysteresisInterFreq");
-   if ((uint64_t)pvalue->hysteresis > 29u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonUsedFreqParameterList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "nonUsedFreqParameterList");
-      stat = asn1PE_UMTS_NonUsedFreqParameterList(ctx, &pvalue->nonUsedFreqParameterList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Event2c_r6(rtxContext* ctx, const Event2c_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Event2c-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "HysteresisInterFreq");
-   if ((uint64_t)pvalue->hysteresis > 29u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonUsedFreqParameterList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "nonUsedFreqParameterList");
-      stat = asn1PE_UMTS_NonUsedFreqParameterList_r6(ctx, &pvalue->nonUsedFreqParameterList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Event2d(rtxContext* ctx, const Event2d* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Event2d");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* usedFreqThreshold */
-   rtxCtxtPushElemName(ctx, "usedFreqThreshold");
-   rtxCtxtPushTypeName(ctx, "Threshold");
-   if (pvalue->usedFreqThreshold < -115 || pvalue->usedFreqThreshold > 0) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->usedFreqThreshold);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->usedFreqThreshold, -115, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* usedFreqW */
-   rtxCtxtPushElemName(ctx, "usedFreqW");
-   rtxCtxtPushTypeName(ctx, "W");
-   if ((uint64_t)pvalue->usedFreqW > 20u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->usedFreqW);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->usedFreqW, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "HysteresisInterFreq");
-   if ((uint64_t)pvalue->hysteresis > 29u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Event2d_r6(rtxContext* ctx, const Event2d_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Event2d-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* usedFreqThreshold */
-   rtxCtxtPushElemName(ctx, "usedFreqThreshold");
-   rtxCtxtPushTypeName(ctx, "Threshold-r6");
-   if (pvalue->usedFreqThreshold < -120 || pvalue->usedFreqThreshold > 0) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->usedFreqThreshold);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->usedFreqThreshold, -120, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* usedFreqW */
-   rtxCtxtPushElemName(ctx, "usedFreqW");
-   rtxCtxtPushTypeName(ctx, "W");
-   if ((uint64_t)pvalue->usedFreqW > 20u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->usedFreqW);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->usedFreqW, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "HysteresisInterFreq");
-   if ((uint64_t)pvalue->hysteresis > 29u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Event2e(rtxContext* ctx, const Event2e* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Event2e");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "HysteresisInterFreq");
-   if ((uint64_t)pvalue->hysteresis > 29u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonUsedFreqParameterList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "nonUsedFreqParameterList");
-      stat = asn1PE_UMTS_NonUsedFreqParameterList(ctx, &pvalue->nonUsedFreqParameterList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Event2e_r6(rtxContext* ctx, const Event2e_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Event2e-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "HysteresisInterFreq");
-   if ((uint64_t)pvalue->hysteresis > 29u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonUsedFreqParameterList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "nonUsedFreqParameterList");
-      stat = asn1PE_UMTS_NonUsedFreqParameterList_r6(ctx, &pvalue->nonUsedFreqParameterList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Event2f(rtxContext* ctx, const Event2f* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Event2f");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* usedFreqThreshold */
-   rtxCtxtPushElemName(ctx, "usedFreqThreshold");
-   rtxCtxtPushTypeName(ctx, "Threshold");
-   if (pvalue->usedFreqThreshold < -115 || pvalue->usedFreqThreshold > 0) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->usedFreqThreshold);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->usedFreqThreshold, -115, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* usedFreqW */
-   rtxCtxtPushElemName(ctx, "usedFreqW");
-   rtxCtxtPushTypeName(ctx, "W");
-   if ((uint64_t)pvalue->usedFreqW > 20u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->usedFreqW);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->usedFreqW, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "HysteresisInterFreq");
-   if ((uint64_t)pvalue->hysteresis > 29u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Event2f_r6(rtxContext* ctx, const Event2f_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Event2f-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* usedFreqThreshold */
-   rtxCtxtPushElemName(ctx, "usedFreqThreshold");
-   rtxCtxtPushTypeName(ctx, "Threshold-r6");
-   if (pvalue->usedFreqThreshold < -120 || pvalue->usedFreqThreshold > 0) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->usedFreqThreshold);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->usedFreqThreshold, -120, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* usedFreqW */
-   rtxCtxtPushElemName(ctx, "usedFreqW");
-   rtxCtxtPushTypeName(ctx, "W");
-   if ((uint64_t)pvalue->usedFreqW > 20u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->usedFreqW);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->usedFreqW, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "HysteresisInterFreq");
-   if ((uint64_t)pvalue->hysteresis > 29u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Event3a(rtxContext* ctx, const Event3a* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Event3a");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* thresholdOwnSystem */
-   rtxCtxtPushElemName(ctx, "thresholdOwnSystem");
-   rtxCtxtPushTypeName(ctx, "Threshold");
-   if (pvalue->thresholdOwnSystem < -115 || pvalue->thresholdOwnSystem > 0) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->thresholdOwnSystem);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->thresholdOwnSystem, -115, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* w */
-   rtxCtxtPushElemName(ctx, "w");
-   rtxCtxtPushTypeName(ctx, "W");
-   if ((uint64_t)pvalue->w > 20u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->w);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* thresholdOtherSystem */
-   rtxCtxtPushElemName(ctx, "thresholdOtherSystem");
-   rtxCtxtPushTypeName(ctx, "Threshold");
-   if (pvalue->thresholdOtherSystem < -115 || pvalue->thresholdOtherSystem > 0) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->thresholdOtherSystem);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->thresholdOtherSystem, -115, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "Hysteresis");
-   if ((uint64_t)pvalue->hysteresis > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Event3b(rtxContext* ctx, const Event3b* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Event3b");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* thresholdOtherSystem */
-   rtxCtxtPushElemName(ctx, "thresholdOtherSystem");
-   rtxCtxtPushTypeName(ctx, "Threshold");
-   if (pvalue->thresholdOtherSystem < -115 || pvalue->thresholdOtherSystem > 0) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->thresholdOtherSystem);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->thresholdOtherSystem, -115, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "Hysteresis");
-   if ((uint64_t)pvalue->hysteresis > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Event3c(rtxContext* ctx, const Event3c* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Event3c");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* thresholdOtherSystem */
-   rtxCtxtPushElemName(ctx, "thresholdOtherSystem");
-   rtxCtxtPushTypeName(ctx, "Threshold");
-   if (pvalue->thresholdOtherSystem < -115 || pvalue->thresholdOtherSystem > 0) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->thresholdOtherSystem);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->thresholdOtherSystem, -115, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "Hysteresis");
-   if ((uint64_t)pvalue->hysteresis > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Event3d(rtxContext* ctx, const Event3d* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Event3d");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "Hysteresis");
-   if ((uint64_t)pvalue->hysteresis > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_EventIDInterFreq(rtxContext* ctx, EventIDInterFreq value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "EventIDInterFreq");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_EventIDIntraFreq(rtxContext* ctx, EventIDIntraFreq value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "EventIDIntraFreq");
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqEventResults(rtxContext* ctx, const IntraFreqEventResults* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqEventResults");
-   /* eventID */
-   rtxCtxtPushElemName(ctx, "eventID");
-   rtxCtxtPushTypeName(ctx, "EventIDIntraFreq");
-   if (pvalue->eventID > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->eventID);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->eventID, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* cellMeasurementEventResults */
-   rtxCtxtPushElemName(ctx, "cellMeasurementEventResults");
-   stat = asn1PE_UMTS_CellMeasurementEventResults(ctx, &pvalue->cellMeasurementEventResults);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqCell(rtxContext* ctx, const InterFreqCell* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqCell");
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonFreqRelatedEventResults */
-   rtxCtxtPushElemName(ctx, "nonFreqRelatedEventResults");
-   stat = asn1PE_UMTS_CellMeasurementEventResults(ctx, &pvalue->nonFreqRelatedEventResults);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqCellList(rtxContext* ctx, const InterFreqCellList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "InterFreqCellList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "InterFreqCell", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_InterFreqCell(ctx, (const InterFreqCell*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqEventResults(rtxContext* ctx, const InterFreqEventResults* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqEventResults");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* eventID */
-   rtxCtxtPushElemName(ctx, "eventID");
-   rtxCtxtPushTypeName(ctx, "EventIDInterFreq");
-   if (pvalue->eventID > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->eventID);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->eventID, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* interFreqCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interFreqCellList");
-      stat = asn1PE_UMTS_InterFreqCellList(ctx, &pvalue->interFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATEventResults(rtxContext* ctx, const InterRATEventResults* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATEventResults");
-   /* eventID */
-   rtxCtxtPushElemName(ctx, "eventID");
-   rtxCtxtPushTypeName(ctx, "EventIDInterRAT");
-   if (pvalue->eventID > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->eventID);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->eventID, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* cellToReportList */
-   rtxCtxtPushElemName(ctx, "cellToReportList");
-   stat = asn1PE_UMTS_CellToReportList(ctx, &pvalue->cellToReportList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TrafficVolumeEventResults(rtxContext* ctx, const TrafficVolumeEventResults* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TrafficVolumeEventResults");
-   /* ul-transportChannelCausingEvent */
-   rtxCtxtPushElemName(ctx, "ul-transportChannelCausingEvent");
-   stat = asn1PE_UMTS_UL_TrCH_Identity(ctx, &pvalue->ul_transportChannelCausingEvent);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* trafficVolumeEventIdentity */
-   rtxCtxtPushElemName(ctx, "trafficVolumeEventIdentity");
-   rtxCtxtPushTypeName(ctx, "TrafficVolumeEventType");
-   if (pvalue->trafficVolumeEventIdentity > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->trafficVolumeEventIdentity);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->trafficVolumeEventIdentity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_QualityEventResults(rtxContext* ctx, const QualityEventResults* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "QualityEventResults");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "TransportChannelIdentity", i);
-      rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-      if ((uint64_t)(pvalue->elem[i] - 1) > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 1, 32);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalEventResults(rtxContext* ctx, const UE_InternalEventResults* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-InternalEventResults");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 7) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "event6a");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "event6b");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "event6c");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "event6d");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "event6e");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "event6f");
-         if (pvalue->u.event6f == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, pvalue->u.event6f);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "event6g");
-         if (pvalue->u.event6g == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, pvalue->u.event6g);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 8:
-         rtxCtxtPushElemName(ctx, "spare");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UTRAN_GPSReferenceTimeResult_ue_GPSTimingOfCell(rtxContext* ctx, const UTRAN_GPSReferenceTimeResult_ue_GPSTimingOfCell* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* ms-part */
-   rtxCtxtPushElemName(ctx, "ms-part");
-   if ((uint64_t)pvalue->ms_part > 16383u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ms_part);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ms_part, 0, 16383);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ls-part */
-   rtxCtxtPushElemName(ctx, "ls-part");
-   stat = pe_ConsUInt64(ctx, pvalue->ls_part, 0, 4294967295ULL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_fdd(rtxContext* ctx, const UTRAN_GPSReferenceTimeResult_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* referenceIdentity */
-   rtxCtxtPushElemName(ctx, "referenceIdentity");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->referenceIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_tdd(rtxContext* ctx, const UTRAN_GPSReferenceTimeResult_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* referenceIdentity */
-   rtxCtxtPushElemName(ctx, "referenceIdentity");
-   rtxCtxtPushTypeName(ctx, "CellParametersID");
-   if ((uint64_t)pvalue->referenceIdentity > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->referenceIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->referenceIdentity, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UTRAN_GPSReferenceTimeResult_modeSpecificInfo(rtxContext* ctx, const UTRAN_GPSReferenceTimeResult_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
          break;
       default:
          break;
@@ -5739,454 +8214,35 @@ int asn1PE_UMTS_UTRAN_GPSReferenceTimeResult_modeSpecificInfo(rtxContext* ctx, c
    return 0;
 }
 
-int asn1PE_UMTS_UTRAN_GPSReferenceTimeResult(rtxContext* ctx, const UTRAN_GPSReferenceTimeResult* pvalue)
+int asn1PE_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UTRAN-GPSReferenceTimeResult");
-   /* ue-GPSTimingOfCell */
-   rtxCtxtPushElemName(ctx, "ue-GPSTimingOfCell");
-   stat = asn1PE_UMTS_UTRAN_GPSReferenceTimeResult_ue_GPSTimingOfCell(ctx, &pvalue->ue_GPSTimingOfCell);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_UTRAN_GPSReferenceTimeResult_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sfn */
-   rtxCtxtPushElemName(ctx, "sfn");
-   if ((uint64_t)pvalue->sfn > 4095u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->sfn);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->sfn, 0, 4095);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GPS_TOW_1msec(rtxContext* ctx, GPS_TOW_1msec value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "GPS-TOW-1msec");
-   if ((uint64_t)value > 604799999u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 604799999);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_fdd(rtxContext* ctx, const UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_tdd(rtxContext* ctx, const UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* cellAndChannelIdentity */
-   rtxCtxtPushElemName(ctx, "cellAndChannelIdentity");
-   stat = asn1PE_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo(rtxContext* ctx, const UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing(rtxContext* ctx, const UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* sfn */
-   rtxCtxtPushElemName(ctx, "sfn");
-   if ((uint64_t)pvalue->sfn > 4095u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->sfn);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->sfn, 0, 4095);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime(rtxContext* ctx, const UE_Positioning_PositionEstimateInfo_referenceTime* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "utran-GPSReferenceTimeResult");
-         if (pvalue->u.utran_GPSReferenceTimeResult == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UTRAN_GPSReferenceTimeResult(ctx, pvalue->u.utran_GPSReferenceTimeResult);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "gps-ReferenceTimeOnly");
-         rtxCtxtPushTypeName(ctx, "GPS-TOW-1msec");
-         if ((uint64_t)pvalue->u.gps_ReferenceTimeOnly > 604799999u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.gps_ReferenceTimeOnly);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.gps_ReferenceTimeOnly, 0, 604799999);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "cell-Timing");
-         if (pvalue->u.cell_Timing == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing(ctx, pvalue->u.cell_Timing);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PositionEstimate(rtxContext* ctx, const PositionEstimate* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PositionEstimate");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 4) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "ellipsoidPoint");
-         if (pvalue->u.ellipsoidPoint == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_EllipsoidPoint(ctx, pvalue->u.ellipsoidPoint);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ellipsoidPointUncertCircle");
-         if (pvalue->u.ellipsoidPointUncertCircle == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_EllipsoidPointUncertCircle(ctx, pvalue->u.ellipsoidPointUncertCircle);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "ellipsoidPointUncertEllipse");
-         if (pvalue->u.ellipsoidPointUncertEllipse == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_EllipsoidPointUncertEllipse(ctx, pvalue->u.ellipsoidPointUncertEllipse);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "ellipsoidPointAltitude");
-         if (pvalue->u.ellipsoidPointAltitude == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_EllipsoidPointAltitude(ctx, pvalue->u.ellipsoidPointAltitude);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "ellipsoidPointAltitudeEllipse");
-         if (pvalue->u.ellipsoidPointAltitudeEllipse == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_EllipsoidPointAltitudeEllipsoide(ctx, pvalue->u.ellipsoidPointAltitudeEllipse);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo(rtxContext* ctx, const UE_Positioning_PositionEstimateInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-PositionEstimateInfo");
-   /* referenceTime */
-   rtxCtxtPushElemName(ctx, "referenceTime");
-   stat = asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime(ctx, &pvalue->referenceTime);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* positionEstimate */
-   rtxCtxtPushElemName(ctx, "positionEstimate");
-   stat = asn1PE_UMTS_PositionEstimate(ctx, &pvalue->positionEstimate);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RX_TX_TimeDifferenceType2(rtxContext* ctx, UE_RX_TX_TimeDifferenceType2 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-RX-TX-TimeDifferenceType2");
-   if ((uint64_t)value > 8191u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 8191);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_Quality(rtxContext* ctx, const UE_Positioning_OTDOA_Quality* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-Quality");
-   /* stdResolution */
-   rtxCtxtPushElemName(ctx, "stdResolution");
-   RT_SET_SIZE(ctx, 2, 2);
-   stat = pe_BitString32(ctx, &pvalue->stdResolution, 2, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* numberOfOTDOA-Measurements */
-   rtxCtxtPushElemName(ctx, "numberOfOTDOA-Measurements");
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pe_BitString32(ctx, &pvalue->numberOfOTDOA_Measurements, 3, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* stdOfOTDOA-Measurements */
-   rtxCtxtPushElemName(ctx, "stdOfOTDOA-Measurements");
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pe_BitString32(ctx, &pvalue->stdOfOTDOA_Measurements, 5, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NeighbourQuality(rtxContext* ctx, const NeighbourQuality* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NeighbourQuality");
-   /* ue-Positioning-OTDOA-Quality */
-   rtxCtxtPushElemName(ctx, "ue-Positioning-OTDOA-Quality");
-   stat = asn1PE_UMTS_UE_Positioning_OTDOA_Quality(ctx, &pvalue->ue_Positioning_OTDOA_Quality);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RX_TX_TimeDifferenceType2Info(rtxContext* ctx, const UE_RX_TX_TimeDifferenceType2Info* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-RX-TX-TimeDifferenceType2Info");
-   /* ue-RX-TX-TimeDifferenceType2 */
-   rtxCtxtPushElemName(ctx, "ue-RX-TX-TimeDifferenceType2");
-   rtxCtxtPushTypeName(ctx, "UE-RX-TX-TimeDifferenceType2");
-   if ((uint64_t)pvalue->ue_RX_TX_TimeDifferenceType2 > 8191u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ue_RX_TX_TimeDifferenceType2);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_RX_TX_TimeDifferenceType2, 0, 8191);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* neighbourQuality */
-   rtxCtxtPushElemName(ctx, "neighbourQuality");
-   stat = asn1PE_UMTS_NeighbourQuality(ctx, &pvalue->neighbourQuality);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_fdd(rtxContext* ctx, const UE_Positioning_OTDOA_Measurement_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* referenceCellIDentity */
-   rtxCtxtPushElemName(ctx, "referenceCellIDentity");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->referenceCellIDentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-RX-TX-TimeDifferenceType2Info */
-   rtxCtxtPushElemName(ctx, "ue-RX-TX-TimeDifferenceType2Info");
-   stat = asn1PE_UMTS_UE_RX_TX_TimeDifferenceType2Info(ctx, &pvalue->ue_RX_TX_TimeDifferenceType2Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_tdd(rtxContext* ctx, const UE_Positioning_OTDOA_Measurement_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* referenceCellIdentity */
-   rtxCtxtPushElemName(ctx, "referenceCellIdentity");
-   rtxCtxtPushTypeName(ctx, "CellParametersID");
-   if ((uint64_t)pvalue->referenceCellIdentity > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->referenceCellIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->referenceCellIdentity, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_Measurement_modeSpecificInfo(rtxContext* ctx, const UE_Positioning_OTDOA_Measurement_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Neighbour_modeSpecificInfo_fdd(rtxContext* ctx, const Neighbour_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* neighbourIdentity */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "neighbourIdentity");
-      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->neighbourIdentity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uE-RX-TX-TimeDifferenceType2Info */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "uE-RX-TX-TimeDifferenceType2Info");
-      stat = asn1PE_UMTS_UE_RX_TX_TimeDifferenceType2Info(ctx, &pvalue->uE_RX_TX_TimeDifferenceType2Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Neighbour_modeSpecificInfo_tdd(rtxContext* ctx, const Neighbour_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* neighbourAndChannelIdentity */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "neighbourAndChannelIdentity");
-      stat = asn1PE_UMTS_CellAndChannelIdentity(ctx, &pvalue->neighbourAndChannelIdentity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_Neighbour_modeSpecificInfo(rtxContext* ctx, const Neighbour_modeSpecificInfo* pvalue)
+int asn1PE_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Neighbour_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Neighbour_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
          break;
       default:
          break;
@@ -6194,2836 +8250,857 @@ int asn1PE_UMTS_Neighbour_modeSpecificInfo(rtxContext* ctx, const Neighbour_mode
    return 0;
 }
 
-int asn1PE_UMTS_Neighbour(rtxContext* ctx, const Neighbour* pvalue)
+int asn1PE_UMTS_CellUpdateConfirm_r4_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r4_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Neighbour");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_Neighbour_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* neighbourQuality */
-   rtxCtxtPushElemName(ctx, "neighbourQuality");
-   stat = asn1PE_UMTS_NeighbourQuality(ctx, &pvalue->neighbourQuality);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sfn-SFN-ObsTimeDifference2 */
-   rtxCtxtPushElemName(ctx, "sfn-SFN-ObsTimeDifference2");
-   rtxCtxtPushTypeName(ctx, "SFN-SFN-ObsTimeDifference2");
-   stat = pe_ConsUInt64(ctx, pvalue->sfn_SFN_ObsTimeDifference2, 0, 65535);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NeighbourList(rtxContext* ctx, const NeighbourList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NeighbourList");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "Neighbour", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_Neighbour(ctx, (const Neighbour*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_Measurement(rtxContext* ctx, const UE_Positioning_OTDOA_Measurement* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-Measurement");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdateConfirm-r4-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sfn */
-   rtxCtxtPushElemName(ctx, "sfn");
-   if ((uint64_t)pvalue->sfn > 4095u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->sfn);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->sfn, 0, 4095);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_UE_Positioning_OTDOA_Measurement_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* neighbourList */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 23) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 22) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 21) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 20) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 20) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 21) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 22) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 23) & 1u) << 0), 24);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-r4-IEs");
+   /* integrityProtectionModeInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "neighbourList");
-      stat = asn1PE_UMTS_NeighbourList(ctx, &pvalue->neighbourList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "CellUpdateConfirm-r4-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_MeasurementResults_referenceTime(rtxContext* ctx, const UE_Positioning_GPS_MeasurementResults_referenceTime* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "utran-GPSReferenceTimeResult");
-         if (pvalue->u.utran_GPSReferenceTimeResult == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UTRAN_GPSReferenceTimeResult(ctx, pvalue->u.utran_GPSReferenceTimeResult);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "gps-ReferenceTimeOnly");
-         rtxCtxtPushTypeName(ctx, "GPS-TOW-1msec");
-         if ((uint64_t)pvalue->u.gps_ReferenceTimeOnly > 604799999u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.gps_ReferenceTimeOnly);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.gps_ReferenceTimeOnly, 0, 604799999);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MultipathIndicator(rtxContext* ctx, MultipathIndicator value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MultipathIndicator");
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GPS_MeasurementParam(rtxContext* ctx, const GPS_MeasurementParam* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "GPS-MeasurementParam");
-   /* satelliteID */
-   rtxCtxtPushElemName(ctx, "satelliteID");
-   if ((uint64_t)pvalue->satelliteID > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->satelliteID);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->satelliteID, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* c-N0 */
-   rtxCtxtPushElemName(ctx, "c-N0");
-   if ((uint64_t)pvalue->c_N0 > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->c_N0);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->c_N0, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* doppler */
-   rtxCtxtPushElemName(ctx, "doppler");
-   if (pvalue->doppler < -32768 || pvalue->doppler > 32768) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->doppler);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->doppler, -32768, 32768);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* wholeGPS-Chips */
-   rtxCtxtPushElemName(ctx, "wholeGPS-Chips");
-   if ((uint64_t)pvalue->wholeGPS_Chips > 1022u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->wholeGPS_Chips);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->wholeGPS_Chips, 0, 1022);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* fractionalGPS-Chips */
-   rtxCtxtPushElemName(ctx, "fractionalGPS-Chips");
-   if ((uint64_t)pvalue->fractionalGPS_Chips > 1023u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->fractionalGPS_Chips);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->fractionalGPS_Chips, 0, 1023);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* multipathIndicator */
-   rtxCtxtPushElemName(ctx, "multipathIndicator");
-   rtxCtxtPushTypeName(ctx, "MultipathIndicator");
-   if (pvalue->multipathIndicator > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->multipathIndicator);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->multipathIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* pseudorangeRMS-Error */
-   rtxCtxtPushElemName(ctx, "pseudorangeRMS-Error");
-   if ((uint64_t)pvalue->pseudorangeRMS_Error > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->pseudorangeRMS_Error);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pseudorangeRMS_Error, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GPS_MeasurementParamList(rtxContext* ctx, const GPS_MeasurementParamList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "GPS-MeasurementParamList");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "GPS-MeasurementParam", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_GPS_MeasurementParam(ctx, (const GPS_MeasurementParam*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_MeasurementResults(rtxContext* ctx, const UE_Positioning_GPS_MeasurementResults* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-MeasurementResults");
-   /* referenceTime */
-   rtxCtxtPushElemName(ctx, "referenceTime");
-   stat = asn1PE_UMTS_UE_Positioning_GPS_MeasurementResults_referenceTime(ctx, &pvalue->referenceTime);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gps-MeasurementParamList */
-   rtxCtxtPushElemName(ctx, "gps-MeasurementParamList");
-   stat = asn1PE_UMTS_GPS_MeasurementParamList(ctx, &pvalue->gps_MeasurementParamList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_MeasurementEventResults(rtxContext* ctx, const UE_Positioning_MeasurementEventResults* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-MeasurementEventResults");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 3) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "event7a");
-         if (pvalue->u.event7a == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_PositionEstimateInfo(ctx, pvalue->u.event7a);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "event7b");
-         if (pvalue->u.event7b == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_Measurement(ctx, pvalue->u.event7b);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "event7c");
-         if (pvalue->u.event7c == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_GPS_MeasurementResults(ctx, pvalue->u.event7c);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "additionalOrReplacedPosMeasEvent");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_EventResults(rtxContext* ctx, const EventResults* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "EventResults");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 7) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "intraFreqEventResults");
-         if (pvalue->u.intraFreqEventResults == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_IntraFreqEventResults(ctx, pvalue->u.intraFreqEventResults);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "interFreqEventResults");
-         if (pvalue->u.interFreqEventResults == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterFreqEventResults(ctx, pvalue->u.interFreqEventResults);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "interRATEventResults");
-         if (pvalue->u.interRATEventResults == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterRATEventResults(ctx, pvalue->u.interRATEventResults);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "trafficVolumeEventResults");
-         if (pvalue->u.trafficVolumeEventResults == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TrafficVolumeEventResults(ctx, pvalue->u.trafficVolumeEventResults);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "qualityEventResults");
-         if (pvalue->u.qualityEventResults == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_QualityEventResults(ctx, pvalue->u.qualityEventResults);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "ue-InternalEventResults");
-         if (pvalue->u.ue_InternalEventResults == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_InternalEventResults(ctx, pvalue->u.ue_InternalEventResults);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "ue-positioning-MeasurementEventResults");
-         if (pvalue->u.ue_positioning_MeasurementEventResults == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_MeasurementEventResults(ctx, pvalue->u.ue_positioning_MeasurementEventResults);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 8:
-         rtxCtxtPushElemName(ctx, "spare");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UTRAN_GANSSReferenceTime_ue_GANSSTimingOfCellFrames(rtxContext* ctx, const UTRAN_GANSSReferenceTime_ue_GANSSTimingOfCellFrames* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* ms-Part */
-   rtxCtxtPushElemName(ctx, "ms-Part");
-   if ((uint64_t)pvalue->ms_Part > 80u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ms_Part);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ms_Part, 0, 80);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ls-Part */
-   rtxCtxtPushElemName(ctx, "ls-Part");
-   stat = pe_ConsUInt64(ctx, pvalue->ls_Part, 0, 4294967295ULL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UTRAN_GANSSReferenceTime_mode_fdd(rtxContext* ctx, const UTRAN_GANSSReferenceTime_mode_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* primary-CPICH-Info */
-   rtxCtxtPushElemName(ctx, "primary-CPICH-Info");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primary_CPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UTRAN_GANSSReferenceTime_mode_tdd(rtxContext* ctx, const UTRAN_GANSSReferenceTime_mode_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* cellParameters */
-   rtxCtxtPushElemName(ctx, "cellParameters");
-   rtxCtxtPushTypeName(ctx, "CellParametersID");
-   if ((uint64_t)pvalue->cellParameters > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->cellParameters);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cellParameters, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UTRAN_GANSSReferenceTime_mode(rtxContext* ctx, const UTRAN_GANSSReferenceTime_mode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UTRAN_GANSSReferenceTime_mode_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UTRAN_GANSSReferenceTime_mode_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UTRAN_GANSSReferenceTime(rtxContext* ctx, const UTRAN_GANSSReferenceTime* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UTRAN-GANSSReferenceTime");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ue-GANSSTimingOfCellFrames */
-   rtxCtxtPushElemName(ctx, "ue-GANSSTimingOfCellFrames");
-   stat = asn1PE_UMTS_UTRAN_GANSSReferenceTime_ue_GANSSTimingOfCellFrames(ctx, &pvalue->ue_GANSSTimingOfCellFrames);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gANSS-TimeId */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "gANSS-TimeId");
-      if ((uint64_t)pvalue->gANSS_TimeId > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->gANSS_TimeId);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->gANSS_TimeId, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* gANSS-TimeUncertainty */
+   /* cipheringModeInfo */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "gANSS-TimeUncertainty");
-      if ((uint64_t)pvalue->gANSS_TimeUncertainty > 127u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->gANSS_TimeUncertainty);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->gANSS_TimeUncertainty, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "CellUpdateConfirm-r4-IEs");
    }
-   /* mode */
-   rtxCtxtPushElemName(ctx, "mode");
-   stat = asn1PE_UMTS_UTRAN_GANSSReferenceTime_mode(ctx, &pvalue->mode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* referenceSfn */
-   rtxCtxtPushElemName(ctx, "referenceSfn");
-   if ((uint64_t)pvalue->referenceSfn > 4095u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->referenceSfn);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->referenceSfn, 0, 4095);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSReferenceTimeOnly(rtxContext* ctx, const GANSSReferenceTimeOnly* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "GANSSReferenceTimeOnly");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* gANSS-tod */
-   rtxCtxtPushElemName(ctx, "gANSS-tod");
-   if ((uint64_t)pvalue->gANSS_tod > 3599999u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->gANSS_tod);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->gANSS_tod, 0, 3599999);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gANSS-timeId */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "gANSS-timeId");
-      if ((uint64_t)pvalue->gANSS_timeId > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->gANSS_timeId);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->gANSS_timeId, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* gANSS-tod-uncertainty */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "gANSS-tod-uncertainty");
-      if ((uint64_t)pvalue->gANSS_tod_uncertainty > 127u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->gANSS_tod_uncertainty);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->gANSS_tod_uncertainty, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7_referenceTime(rtxContext* ctx, const UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7_referenceTime* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "utran-GANSSReferenceTimeResult");
-         if (pvalue->u.utran_GANSSReferenceTimeResult == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UTRAN_GANSSReferenceTime(ctx, pvalue->u.utran_GANSSReferenceTimeResult);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ganssReferenceTimeOnly");
-         if (pvalue->u.ganssReferenceTimeOnly == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_GANSSReferenceTimeOnly(ctx, pvalue->u.ganssReferenceTimeOnly);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7(rtxContext* ctx, const UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* referenceTime */
-   rtxCtxtPushElemName(ctx, "referenceTime");
-   stat = asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7_referenceTime(ctx, &pvalue->referenceTime);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* positionEstimate */
-   rtxCtxtPushElemName(ctx, "positionEstimate");
-   stat = asn1PE_UMTS_PositionEstimate(ctx, &pvalue->positionEstimate);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions(rtxContext* ctx, const UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "earlier-than-r7");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "r7");
-         if (pvalue->u.r7 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7(ctx, pvalue->u.r7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HorizontalVelocity(rtxContext* ctx, const HorizontalVelocity* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HorizontalVelocity");
-   /* bearing */
-   rtxCtxtPushElemName(ctx, "bearing");
-   if ((uint64_t)pvalue->bearing > 359u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->bearing);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->bearing, 0, 359);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* horizontalSpeed */
-   rtxCtxtPushElemName(ctx, "horizontalSpeed");
-   if ((uint64_t)pvalue->horizontalSpeed > 2047u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->horizontalSpeed);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->horizontalSpeed, 0, 2047);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HorizontalWithVerticalVelocity_verticalSpeedDirection(rtxContext* ctx, HorizontalWithVerticalVelocity_verticalSpeedDirection value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_HorizontalWithVerticalVelocity(rtxContext* ctx, const HorizontalWithVerticalVelocity* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HorizontalWithVerticalVelocity");
-   /* verticalSpeedDirection */
-   rtxCtxtPushElemName(ctx, "verticalSpeedDirection");
-   if (pvalue->verticalSpeedDirection > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->verticalSpeedDirection);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->verticalSpeedDirection, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* bearing */
-   rtxCtxtPushElemName(ctx, "bearing");
-   if ((uint64_t)pvalue->bearing > 359u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->bearing);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->bearing, 0, 359);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* horizontalSpeed */
-   rtxCtxtPushElemName(ctx, "horizontalSpeed");
-   if ((uint64_t)pvalue->horizontalSpeed > 2047u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->horizontalSpeed);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->horizontalSpeed, 0, 2047);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* verticalSpeed */
-   rtxCtxtPushElemName(ctx, "verticalSpeed");
-   stat = pe_ConsUInt64(ctx, pvalue->verticalSpeed, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HorizontalVelocityWithUncertainty(rtxContext* ctx, const HorizontalVelocityWithUncertainty* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HorizontalVelocityWithUncertainty");
-   /* bearing */
-   rtxCtxtPushElemName(ctx, "bearing");
-   if ((uint64_t)pvalue->bearing > 359u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->bearing);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->bearing, 0, 359);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* horizontalSpeed */
-   rtxCtxtPushElemName(ctx, "horizontalSpeed");
-   if ((uint64_t)pvalue->horizontalSpeed > 2047u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->horizontalSpeed);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->horizontalSpeed, 0, 2047);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* horizontalSpeedUncertainty */
-   rtxCtxtPushElemName(ctx, "horizontalSpeedUncertainty");
-   stat = pe_ConsUInt64(ctx, pvalue->horizontalSpeedUncertainty, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HorizontalWithVerticalVelocityAndUncertainty_verticalSpeedDirection(rtxContext* ctx, HorizontalWithVerticalVelocityAndUncertainty_verticalSpeedDirection value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_HorizontalWithVerticalVelocityAndUncertainty(rtxContext* ctx, const HorizontalWithVerticalVelocityAndUncertainty* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HorizontalWithVerticalVelocityAndUncertainty");
-   /* verticalSpeedDirection */
-   rtxCtxtPushElemName(ctx, "verticalSpeedDirection");
-   if (pvalue->verticalSpeedDirection > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->verticalSpeedDirection);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->verticalSpeedDirection, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* bearing */
-   rtxCtxtPushElemName(ctx, "bearing");
-   if ((uint64_t)pvalue->bearing > 359u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->bearing);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->bearing, 0, 359);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* horizontalSpeed */
-   rtxCtxtPushElemName(ctx, "horizontalSpeed");
-   if ((uint64_t)pvalue->horizontalSpeed > 2047u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->horizontalSpeed);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->horizontalSpeed, 0, 2047);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* verticalSpeed */
-   rtxCtxtPushElemName(ctx, "verticalSpeed");
-   stat = pe_ConsUInt64(ctx, pvalue->verticalSpeed, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* horizontalUncertaintySpeed */
-   rtxCtxtPushElemName(ctx, "horizontalUncertaintySpeed");
-   stat = pe_ConsUInt64(ctx, pvalue->horizontalUncertaintySpeed, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* verticalUncertaintySpeed */
-   rtxCtxtPushElemName(ctx, "verticalUncertaintySpeed");
-   stat = pe_ConsUInt64(ctx, pvalue->verticalUncertaintySpeed, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_VelocityEstimate(rtxContext* ctx, const VelocityEstimate* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "VelocityEstimate");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 3) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "horizontalVelocity");
-         if (pvalue->u.horizontalVelocity == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HorizontalVelocity(ctx, pvalue->u.horizontalVelocity);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "horizontalWithVerticalVelocity");
-         if (pvalue->u.horizontalWithVerticalVelocity == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HorizontalWithVerticalVelocity(ctx, pvalue->u.horizontalWithVerticalVelocity);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "horizontalVelocityWithUncertainty");
-         if (pvalue->u.horizontalVelocityWithUncertainty == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HorizontalVelocityWithUncertainty(ctx, pvalue->u.horizontalVelocityWithUncertainty);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "horizontalWithVerticalVelocityAndUncertainty");
-         if (pvalue->u.horizontalWithVerticalVelocityAndUncertainty == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HorizontalWithVerticalVelocityAndUncertainty(ctx, pvalue->u.horizontalWithVerticalVelocityAndUncertainty);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_ReferenceTimeUncertainty(rtxContext* ctx, UE_Positioning_GPS_ReferenceTimeUncertainty value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-ReferenceTimeUncertainty");
-   if ((uint64_t)value > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_v770ext(rtxContext* ctx, const UE_Positioning_PositionEstimateInfo_v770ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-PositionEstimateInfo-v770ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* referenceTimeOptions */
-   rtxCtxtPushElemName(ctx, "referenceTimeOptions");
-   stat = asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions(ctx, &pvalue->referenceTimeOptions);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* positionData */
-   rtxCtxtPushElemName(ctx, "positionData");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->positionData, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* velocityEstimate */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "velocityEstimate");
-      stat = asn1PE_UMTS_VelocityEstimate(ctx, &pvalue->velocityEstimate);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-GPS-ReferenceTimeUncertainty");
-      rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-ReferenceTimeUncertainty");
-      if ((uint64_t)pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty > 127u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_MeasurementResults_v770ext(rtxContext* ctx, const UE_Positioning_GPS_MeasurementResults_v770ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-MeasurementResults-v770ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-GPS-ReferenceTimeUncertainty");
-      rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-ReferenceTimeUncertainty");
-      if ((uint64_t)pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty > 127u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_MeasuredResults_referenceTime(rtxContext* ctx, const UE_Positioning_GANSS_MeasuredResults_referenceTime* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "utran-GANSSReferenceTimeResult");
-         if (pvalue->u.utran_GANSSReferenceTimeResult == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UTRAN_GANSSReferenceTime(ctx, pvalue->u.utran_GANSSReferenceTimeResult);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ganssReferenceTimeOnly");
-         if (pvalue->u.ganssReferenceTimeOnly == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_GANSSReferenceTimeOnly(ctx, pvalue->u.ganssReferenceTimeOnly);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSMeasurementParameters_element_multipathIndicator(rtxContext* ctx, GANSSMeasurementParameters_element_multipathIndicator value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSMeasurementParameters_element(rtxContext* ctx, const GANSSMeasurementParameters_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* satId */
-   rtxCtxtPushElemName(ctx, "satId");
-   if ((uint64_t)pvalue->satId > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->satId);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->satId, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cSurNzero */
-   rtxCtxtPushElemName(ctx, "cSurNzero");
-   if ((uint64_t)pvalue->cSurNzero > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->cSurNzero);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cSurNzero, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* multipathIndicator */
-   rtxCtxtPushElemName(ctx, "multipathIndicator");
-   if (pvalue->multipathIndicator > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->multipathIndicator);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->multipathIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* carrierQualityIndication */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "carrierQualityIndication");
-      RT_SET_SIZE(ctx, 2, 2);
-      stat = pe_BitString32(ctx, &pvalue->carrierQualityIndication, 2, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssCodePhase */
-   rtxCtxtPushElemName(ctx, "ganssCodePhase");
-   if ((uint64_t)pvalue->ganssCodePhase > 2097151u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ganssCodePhase);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ganssCodePhase, 0, 2097151);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganssIntegerCodePhase */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ganssIntegerCodePhase");
-      if ((uint64_t)pvalue->ganssIntegerCodePhase > 63u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->ganssIntegerCodePhase);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssIntegerCodePhase, 0, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* codePhaseRmsError */
-   rtxCtxtPushElemName(ctx, "codePhaseRmsError");
-   if ((uint64_t)pvalue->codePhaseRmsError > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->codePhaseRmsError);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->codePhaseRmsError, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* doppler */
-   rtxCtxtPushElemName(ctx, "doppler");
-   stat = pe_ConsInt64(ctx, pvalue->doppler, -32768, 32767);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* adr */
+   /* activationTime */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "adr");
-      if ((uint64_t)pvalue->adr > 33554431u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->adr);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->adr, 0, 33554431);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "CellUpdateConfirm-r4-IEs");
    }
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSMeasurementParameters(rtxContext* ctx, const GANSSMeasurementParameters* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "GANSSMeasurementParameters");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_GANSSMeasurementParameters_element(ctx, (const GANSSMeasurementParameters_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSMeasurementSignalList_element(rtxContext* ctx, const GANSSMeasurementSignalList_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ganssSignalId */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ganssSignalId");
-      rtxCtxtPushTypeName(ctx, "GANSS-Signal-Id");
-      if ((uint64_t)pvalue->ganssSignalId > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->ganssSignalId);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssSignalId, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssCodePhaseAmbiguity */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ganssCodePhaseAmbiguity");
-      if ((uint64_t)pvalue->ganssCodePhaseAmbiguity > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->ganssCodePhaseAmbiguity);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssCodePhaseAmbiguity, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssMeasurementParameters */
-   rtxCtxtPushElemName(ctx, "ganssMeasurementParameters");
-   stat = asn1PE_UMTS_GANSSMeasurementParameters(ctx, &pvalue->ganssMeasurementParameters);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSMeasurementSignalList(rtxContext* ctx, const GANSSMeasurementSignalList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "GANSSMeasurementSignalList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_GANSSMeasurementSignalList_element(ctx, (const GANSSMeasurementSignalList_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSGenericMeasurementInfo_element(rtxContext* ctx, const GANSSGenericMeasurementInfo_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ganssId */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ganssId");
-      if ((uint64_t)pvalue->ganssId > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->ganssId);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssId, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssMeasurementSignalList */
-   rtxCtxtPushElemName(ctx, "ganssMeasurementSignalList");
-   stat = asn1PE_UMTS_GANSSMeasurementSignalList(ctx, &pvalue->ganssMeasurementSignalList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSGenericMeasurementInfo(rtxContext* ctx, const GANSSGenericMeasurementInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "GANSSGenericMeasurementInfo");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_GANSSGenericMeasurementInfo_element(ctx, (const GANSSGenericMeasurementInfo_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_MeasuredResults(rtxContext* ctx, const UE_Positioning_GANSS_MeasuredResults* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-MeasuredResults");
-   /* referenceTime */
-   rtxCtxtPushElemName(ctx, "referenceTime");
-   stat = asn1PE_UMTS_UE_Positioning_GANSS_MeasuredResults_referenceTime(ctx, &pvalue->referenceTime);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganssGenericMeasurementInfo */
-   rtxCtxtPushElemName(ctx, "ganssGenericMeasurementInfo");
-   stat = asn1PE_UMTS_GANSSGenericMeasurementInfo(ctx, &pvalue->ganssGenericMeasurementInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_MeasurementEventResults_v770ext(rtxContext* ctx, const UE_Positioning_MeasurementEventResults_v770ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-MeasurementEventResults-v770ext");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 3) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "event7a");
-         if (pvalue->u.event7a == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_v770ext(ctx, pvalue->u.event7a);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "event7c");
-         if (pvalue->u.event7c == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_GPS_MeasurementResults_v770ext(ctx, pvalue->u.event7c);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "event7d");
-         if (pvalue->u.event7d == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_GANSS_MeasuredResults(ctx, pvalue->u.event7d);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "spare");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_EventResults_v770ext(rtxContext* ctx, const EventResults_v770ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "EventResults-v770ext");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 0) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "ue-positioning-MeasurementEventResults");
-         if (pvalue->u.ue_positioning_MeasurementEventResults == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_MeasurementEventResults_v770ext(ctx, pvalue->u.ue_positioning_MeasurementEventResults);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSMeasurementParameters_v860ext_element(rtxContext* ctx, const GANSSMeasurementParameters_v860ext_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ganssIntegerCodePhaseExt */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ganssIntegerCodePhaseExt");
-      if ((uint64_t)(pvalue->ganssIntegerCodePhaseExt - 64) > 63u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->ganssIntegerCodePhaseExt);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssIntegerCodePhaseExt, 64, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSMeasurementParameters_v860ext(rtxContext* ctx, const GANSSMeasurementParameters_v860ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "GANSSMeasurementParameters-v860ext");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_GANSSMeasurementParameters_v860ext_element(ctx, (const GANSSMeasurementParameters_v860ext_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSMeasurementSignalList_v860ext_element(rtxContext* ctx, const GANSSMeasurementSignalList_v860ext_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ganssCodePhaseAmbiguityExt */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ganssCodePhaseAmbiguityExt");
-      if ((uint64_t)(pvalue->ganssCodePhaseAmbiguityExt - 32) > 95u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->ganssCodePhaseAmbiguityExt);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssCodePhaseAmbiguityExt, 32, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssMeasurementParameters */
-   rtxCtxtPushElemName(ctx, "ganssMeasurementParameters");
-   stat = asn1PE_UMTS_GANSSMeasurementParameters_v860ext(ctx, &pvalue->ganssMeasurementParameters);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSMeasurementSignalList_v860ext(rtxContext* ctx, const GANSSMeasurementSignalList_v860ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "GANSSMeasurementSignalList-v860ext");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_GANSSMeasurementSignalList_v860ext_element(ctx, (const GANSSMeasurementSignalList_v860ext_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSGenericMeasurementInfo_v860ext_element(rtxContext* ctx, const GANSSGenericMeasurementInfo_v860ext_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* ganssMeasurementSignalList */
-   rtxCtxtPushElemName(ctx, "ganssMeasurementSignalList");
-   stat = asn1PE_UMTS_GANSSMeasurementSignalList_v860ext(ctx, &pvalue->ganssMeasurementSignalList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSGenericMeasurementInfo_v860ext(rtxContext* ctx, const GANSSGenericMeasurementInfo_v860ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "GANSSGenericMeasurementInfo-v860ext");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_GANSSGenericMeasurementInfo_v860ext_element(ctx, (const GANSSGenericMeasurementInfo_v860ext_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_MeasuredResults_v860ext(rtxContext* ctx, const UE_Positioning_GANSS_MeasuredResults_v860ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-MeasuredResults-v860ext");
-   /* ganssGenericMeasurementInfo */
-   rtxCtxtPushElemName(ctx, "ganssGenericMeasurementInfo");
-   stat = asn1PE_UMTS_GANSSGenericMeasurementInfo_v860ext(ctx, &pvalue->ganssGenericMeasurementInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_MeasurementEventResults_v860ext(rtxContext* ctx, const UE_Positioning_MeasurementEventResults_v860ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-MeasurementEventResults-v860ext");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 0) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "event7d");
-         if (pvalue->u.event7d == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_GANSS_MeasuredResults_v860ext(ctx, pvalue->u.event7d);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_EventResults_v860ext(rtxContext* ctx, const EventResults_v860ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "EventResults-v860ext");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 0) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "ue-positioning-MeasurementEventResults");
-         if (pvalue->u.ue_positioning_MeasurementEventResults == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_MeasurementEventResults_v860ext(ctx, pvalue->u.ue_positioning_MeasurementEventResults);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqEventResultsOnSecUlFreq(rtxContext* ctx, const IntraFreqEventResultsOnSecUlFreq* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqEventResultsOnSecUlFreq");
-   /* eventID */
-   rtxCtxtPushElemName(ctx, "eventID");
-   rtxCtxtPushTypeName(ctx, "EventIDIntraFreq");
-   if (pvalue->eventID > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->eventID);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->eventID, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* cellMeasurementEventResultsOnSecUlFreq */
-   rtxCtxtPushElemName(ctx, "cellMeasurementEventResultsOnSecUlFreq");
-   stat = asn1PE_UMTS_CellMeasurementEventResultsOnSecUlFreq(ctx, &pvalue->cellMeasurementEventResultsOnSecUlFreq);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_EventResultsOnSecUlFreq(rtxContext* ctx, const EventResultsOnSecUlFreq* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "EventResultsOnSecUlFreq");
-   /* intraFreqEventResults */
-   rtxCtxtPushElemName(ctx, "intraFreqEventResults");
-   stat = asn1PE_UMTS_IntraFreqEventResultsOnSecUlFreq(ctx, &pvalue->intraFreqEventResults);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ExtraDoppler_dopplerUncertainty(rtxContext* ctx, ExtraDoppler_dopplerUncertainty value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_ExtraDoppler(rtxContext* ctx, const ExtraDoppler* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ExtraDoppler");
-   /* dopplerFirstOrder */
-   rtxCtxtPushElemName(ctx, "dopplerFirstOrder");
-   if (pvalue->dopplerFirstOrder < -42 || pvalue->dopplerFirstOrder > 21) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->dopplerFirstOrder);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->dopplerFirstOrder, -42, 21);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dopplerUncertainty */
-   rtxCtxtPushElemName(ctx, "dopplerUncertainty");
-   if (pvalue->dopplerUncertainty > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->dopplerUncertainty);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dopplerUncertainty, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_FineSFN_SFN(rtxContext* ctx, FineSFN_SFN value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "FineSFN-SFN");
-   if ((uint64_t)value > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_FreqQualityEstimateQuantity_FDD(rtxContext* ctx, FreqQualityEstimateQuantity_FDD value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "FreqQualityEstimateQuantity-FDD");
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_FreqQualityEstimateQuantity_TDD(rtxContext* ctx, FreqQualityEstimateQuantity_TDD value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "FreqQualityEstimateQuantity-TDD");
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ReqDataBitAssistance_ganssSatelliteInfo_element(rtxContext* ctx, ReqDataBitAssistance_ganssSatelliteInfo_element value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 63);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_ReqDataBitAssistance_ganssSatelliteInfo(rtxContext* ctx, const ReqDataBitAssistance_ganssSatelliteInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if ((uint64_t)pvalue->elem[i] > 63u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ReqDataBitAssistance(rtxContext* ctx, const ReqDataBitAssistance* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ReqDataBitAssistance");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ganssSignalID */
-   rtxCtxtPushElemName(ctx, "ganssSignalID");
-   stat = asn1PE_UMTS_DGANSS_Sig_Id_Req(ctx, pvalue->ganssSignalID);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganssDataBitInterval */
-   rtxCtxtPushElemName(ctx, "ganssDataBitInterval");
-   if ((uint64_t)pvalue->ganssDataBitInterval > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ganssDataBitInterval);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ganssDataBitInterval, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganssSatelliteInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ganssSatelliteInfo");
-      stat = asn1PE_UMTS_ReqDataBitAssistance_ganssSatelliteInfo(ctx, &pvalue->ganssSatelliteInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GanssDataBits(rtxContext* ctx, const GanssDataBits* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "GanssDataBits");
-   /* ganssTod */
-   rtxCtxtPushElemName(ctx, "ganssTod");
-   if ((uint64_t)pvalue->ganssTod > 86399u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ganssTod);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ganssTod, 0, 86399);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dataBitAssistance */
-   rtxCtxtPushElemName(ctx, "dataBitAssistance");
-   stat = asn1PE_UMTS_ReqDataBitAssistance(ctx, &pvalue->dataBitAssistance);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSDecipheringKeys_currentDecipheringKey(rtxContext* ctx, const GANSSDecipheringKeys_currentDecipheringKey* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   RT_SET_SIZE(ctx, 56, 56);
-   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSDecipheringKeys_nextDecipheringKey(rtxContext* ctx, const GANSSDecipheringKeys_nextDecipheringKey* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   RT_SET_SIZE(ctx, 56, 56);
-   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSDecipheringKeys(rtxContext* ctx, const GANSSDecipheringKeys* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "GANSSDecipheringKeys");
-   /* currentDecipheringKey */
-   rtxCtxtPushElemName(ctx, "currentDecipheringKey");
-   stat = asn1PE_UMTS_GANSSDecipheringKeys_currentDecipheringKey(ctx, &pvalue->currentDecipheringKey);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nextDecipheringKey */
-   rtxCtxtPushElemName(ctx, "nextDecipheringKey");
-   stat = asn1PE_UMTS_GANSSDecipheringKeys_nextDecipheringKey(ctx, &pvalue->nextDecipheringKey);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_TimeModel_gnss_to_id(rtxContext* ctx, UE_Positioning_GANSS_TimeModel_gnss_to_id value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_TimeModel(rtxContext* ctx, const UE_Positioning_GANSS_TimeModel* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-TimeModel");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* ganss-timeModelreferenceTime */
-   rtxCtxtPushElemName(ctx, "ganss-timeModelreferenceTime");
-   if ((uint64_t)pvalue->ganss_timeModelreferenceTime > 37799u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ganss_timeModelreferenceTime);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ganss_timeModelreferenceTime, 0, 37799);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganss-t-a0 */
-   rtxCtxtPushElemName(ctx, "ganss-t-a0");
-   if (pvalue->ganss_t_a0 < -2147483648LL || pvalue->ganss_t_a0 > 2147483647) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->ganss_t_a0);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->ganss_t_a0, -2147483648LL, 2147483647);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganss-t-a1 */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ganss-t-a1");
-      if (pvalue->ganss_t_a1 < -8388608 || pvalue->ganss_t_a1 > 8388607) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->ganss_t_a1);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->ganss_t_a1, -8388608, 8388607);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganss-t-a2 */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ganss-t-a2");
-      if (pvalue->ganss_t_a2 < -64 || pvalue->ganss_t_a2 > 63) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->ganss_t_a2);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->ganss_t_a2, -64, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* gnss-to-id */
-   rtxCtxtPushElemName(ctx, "gnss-to-id");
-   if (pvalue->gnss_to_id > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->gnss_to_id);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->gnss_to_id, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganss-wk-number */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "ganss-wk-number");
-      if ((uint64_t)pvalue->ganss_wk_number > 8191u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->ganss_wk_number);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganss_wk_number, 0, 8191);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSTimeModelsList(rtxContext* ctx, const GANSSTimeModelsList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "GANSSTimeModelsList");
-   RT_SET_SIZE(ctx, 1, 7);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "UE-Positioning-GANSS-TimeModel", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_TimeModel(ctx, (const UE_Positioning_GANSS_TimeModel*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_DGANSSCorrections(rtxContext* ctx, const UE_Positioning_DGANSSCorrections* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-DGANSSCorrections");
-   /* dganssreferencetime */
-   rtxCtxtPushElemName(ctx, "dganssreferencetime");
-   if ((uint64_t)pvalue->dganssreferencetime > 119u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->dganssreferencetime);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dganssreferencetime, 0, 119);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dganssInfoList */
-   rtxCtxtPushElemName(ctx, "dganssInfoList");
-   stat = asn1PE_UMTS_DGANSSInfoList(ctx, &pvalue->dganssInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_NavigationModel_non_broadcastIndication(rtxContext* ctx, UE_Positioning_GANSS_NavigationModel_non_broadcastIndication value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_Satellite_clock_model(rtxContext* ctx, const Satellite_clock_model* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Satellite-clock-model");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* t-oc */
-   rtxCtxtPushElemName(ctx, "t-oc");
-   RT_SET_SIZE(ctx, 14, 14);
-   stat = pe_BitString32(ctx, &pvalue->t_oc, 14, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* af2 */
-   rtxCtxtPushElemName(ctx, "af2");
-   RT_SET_SIZE(ctx, 12, 12);
-   stat = pe_BitString32(ctx, &pvalue->af2, 12, 12);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* af1 */
-   rtxCtxtPushElemName(ctx, "af1");
-   RT_SET_SIZE(ctx, 18, 18);
-   stat = pe_BitString32(ctx, &pvalue->af1, 18, 18);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* af0 */
-   rtxCtxtPushElemName(ctx, "af0");
-   RT_SET_SIZE(ctx, 28, 28);
-   stat = pe_BitString32(ctx, &pvalue->af0, 28, 28);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tgd */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "tgd");
-      RT_SET_SIZE(ctx, 10, 10);
-      stat = pe_BitString32(ctx, &pvalue->tgd, 10, 10);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* model-id */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "model-id");
-      if ((uint64_t)pvalue->model_id > 1u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->model_id);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->model_id, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Satellite_clock_modelList(rtxContext* ctx, const Satellite_clock_modelList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "Satellite-clock-modelList");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "Satellite-clock-model", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_Satellite_clock_model(ctx, (const Satellite_clock_model*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_ClockModel(rtxContext* ctx, const UE_Positioning_GANSS_ClockModel* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-ClockModel");
-   /* satellite-clock-modelList */
-   rtxCtxtPushElemName(ctx, "satellite-clock-modelList");
-   stat = asn1PE_UMTS_Satellite_clock_modelList(ctx, &pvalue->satellite_clock_modelList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_KeplerianParameters(rtxContext* ctx, const KeplerianParameters* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "KeplerianParameters");
-   /* toe-nav */
-   rtxCtxtPushElemName(ctx, "toe-nav");
-   RT_SET_SIZE(ctx, 14, 14);
-   stat = pe_BitString32(ctx, &pvalue->toe_nav, 14, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganss-omega-nav */
-   rtxCtxtPushElemName(ctx, "ganss-omega-nav");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->ganss_omega_nav, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* delta-n-nav */
-   rtxCtxtPushElemName(ctx, "delta-n-nav");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->delta_n_nav, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* m-zero-nav */
-   rtxCtxtPushElemName(ctx, "m-zero-nav");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->m_zero_nav, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* omegadot-nav */
-   rtxCtxtPushElemName(ctx, "omegadot-nav");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->omegadot_nav, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganss-e-nav */
-   rtxCtxtPushElemName(ctx, "ganss-e-nav");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->ganss_e_nav, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* idot-nav */
-   rtxCtxtPushElemName(ctx, "idot-nav");
-   RT_SET_SIZE(ctx, 14, 14);
-   stat = pe_BitString32(ctx, &pvalue->idot_nav, 14, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* a-sqrt-nav */
-   rtxCtxtPushElemName(ctx, "a-sqrt-nav");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->a_sqrt_nav, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* i-zero-nav */
-   rtxCtxtPushElemName(ctx, "i-zero-nav");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->i_zero_nav, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* omega-zero-nav */
-   rtxCtxtPushElemName(ctx, "omega-zero-nav");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->omega_zero_nav, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* c-rs-nav */
-   rtxCtxtPushElemName(ctx, "c-rs-nav");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->c_rs_nav, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* c-is-nav */
-   rtxCtxtPushElemName(ctx, "c-is-nav");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->c_is_nav, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* c-us-nav */
-   rtxCtxtPushElemName(ctx, "c-us-nav");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->c_us_nav, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* c-rc-nav */
-   rtxCtxtPushElemName(ctx, "c-rc-nav");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->c_rc_nav, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* c-ic-nav */
-   rtxCtxtPushElemName(ctx, "c-ic-nav");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->c_ic_nav, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* c-uc-nav */
-   rtxCtxtPushElemName(ctx, "c-uc-nav");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->c_uc_nav, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_OrbitModel(rtxContext* ctx, const UE_Positioning_GANSS_OrbitModel* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-OrbitModel");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* keplerianParameters */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "keplerianParameters");
-      stat = asn1PE_UMTS_KeplerianParameters(ctx, &pvalue->keplerianParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Ganss_Sat_Info_Nav(rtxContext* ctx, const Ganss_Sat_Info_Nav* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Ganss-Sat-Info-Nav");
-   /* satId */
-   rtxCtxtPushElemName(ctx, "satId");
-   if ((uint64_t)pvalue->satId > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->satId);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->satId, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* svHealth */
-   rtxCtxtPushElemName(ctx, "svHealth");
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pe_BitString32(ctx, &pvalue->svHealth, 5, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* iod */
-   rtxCtxtPushElemName(ctx, "iod");
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pe_BitString32(ctx, &pvalue->iod, 10, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganssClockModel */
-   rtxCtxtPushElemName(ctx, "ganssClockModel");
-   stat = asn1PE_UMTS_UE_Positioning_GANSS_ClockModel(ctx, &pvalue->ganssClockModel);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganssOrbitModel */
-   rtxCtxtPushElemName(ctx, "ganssOrbitModel");
-   stat = asn1PE_UMTS_UE_Positioning_GANSS_OrbitModel(ctx, &pvalue->ganssOrbitModel);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Ganss_Sat_Info_NavList(rtxContext* ctx, const Ganss_Sat_Info_NavList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "Ganss-Sat-Info-NavList");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "Ganss-Sat-Info-Nav", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_Ganss_Sat_Info_Nav(ctx, (const Ganss_Sat_Info_Nav*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_NavigationModel(rtxContext* ctx, const UE_Positioning_GANSS_NavigationModel* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-NavigationModel");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* non-broadcastIndication */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "non-broadcastIndication");
-      if (pvalue->non_broadcastIndication > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->non_broadcastIndication);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->non_broadcastIndication, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssSatInfoNavList */
-   rtxCtxtPushElemName(ctx, "ganssSatInfoNavList");
-   stat = asn1PE_UMTS_Ganss_Sat_Info_NavList(ctx, &pvalue->ganssSatInfoNavList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_RealTimeIntegrity_element(rtxContext* ctx, const UE_Positioning_GANSS_RealTimeIntegrity_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* bad-ganss-satId */
-   rtxCtxtPushElemName(ctx, "bad-ganss-satId");
-   if ((uint64_t)pvalue->bad_ganss_satId > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->bad_ganss_satId);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->bad_ganss_satId, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* bad-ganss-signalId */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "bad-ganss-signalId");
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pe_BitString32(ctx, &pvalue->bad_ganss_signalId, 8, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_RealTimeIntegrity(rtxContext* ctx, const UE_Positioning_GANSS_RealTimeIntegrity* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-RealTimeIntegrity");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_RealTimeIntegrity_element(ctx, (const UE_Positioning_GANSS_RealTimeIntegrity_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_Data_Bit_Assistance(rtxContext* ctx, const UE_Positioning_GANSS_Data_Bit_Assistance* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-Data-Bit-Assistance");
-   /* ganss-tod */
-   rtxCtxtPushElemName(ctx, "ganss-tod");
-   if ((uint64_t)pvalue->ganss_tod > 59u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ganss_tod);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ganss_tod, 0, 59);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dataBitAssistanceList */
-   rtxCtxtPushElemName(ctx, "dataBitAssistanceList");
-   stat = asn1PE_UMTS_DataBitAssistanceList(ctx, &pvalue->dataBitAssistanceList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSSatelliteInformation(rtxContext* ctx, const GANSSSatelliteInformation* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "GANSSSatelliteInformation");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ganssSatId */
-   rtxCtxtPushElemName(ctx, "ganssSatId");
-   if ((uint64_t)pvalue->ganssSatId > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ganssSatId);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ganssSatId, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dopplerZeroOrder */
-   rtxCtxtPushElemName(ctx, "dopplerZeroOrder");
-   if (pvalue->dopplerZeroOrder < -2048 || pvalue->dopplerZeroOrder > 2047) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->dopplerZeroOrder);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->dopplerZeroOrder, -2048, 2047);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* extraDoppler */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "extraDoppler");
-      stat = asn1PE_UMTS_ExtraDoppler(ctx, &pvalue->extraDoppler);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* codePhase */
-   rtxCtxtPushElemName(ctx, "codePhase");
-   if ((uint64_t)pvalue->codePhase > 1023u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->codePhase);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->codePhase, 0, 1023);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* integerCodePhase */
-   rtxCtxtPushElemName(ctx, "integerCodePhase");
-   if ((uint64_t)pvalue->integerCodePhase > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->integerCodePhase);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->integerCodePhase, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* codePhaseSearchWindow */
-   rtxCtxtPushElemName(ctx, "codePhaseSearchWindow");
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pe_BitString32(ctx, &pvalue->codePhaseSearchWindow, 5, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* azimuthandElevation */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "azimuthandElevation");
-      stat = asn1PE_UMTS_AzimuthAndElevation(ctx, &pvalue->azimuthandElevation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSSatelliteInformationList(rtxContext* ctx, const GANSSSatelliteInformationList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "GANSSSatelliteInformationList");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "GANSSSatelliteInformation", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_GANSSSatelliteInformation(ctx, (const GANSSSatelliteInformation*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_ReferenceMeasurementInfo(rtxContext* ctx, const UE_Positioning_GANSS_ReferenceMeasurementInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-ReferenceMeasurementInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ganssSignalId */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ganssSignalId");
-      rtxCtxtPushTypeName(ctx, "GANSS-Signal-Id");
-      if ((uint64_t)pvalue->ganssSignalId > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->ganssSignalId);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssSignalId, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* satelliteInformationList */
-   rtxCtxtPushElemName(ctx, "satelliteInformationList");
-   stat = asn1PE_UMTS_GANSSSatelliteInformationList(ctx, &pvalue->satelliteInformationList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_Almanac(rtxContext* ctx, const UE_Positioning_GANSS_Almanac* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-Almanac");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ganss-wk-number */
-   rtxCtxtPushElemName(ctx, "ganss-wk-number");
-   stat = pe_ConsUInt64(ctx, pvalue->ganss_wk_number, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* alm-keplerianParameters */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "alm-keplerianParameters");
-      stat = asn1PE_UMTS_ALM_keplerianParameters(ctx, &pvalue->alm_keplerianParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_UTCModel(rtxContext* ctx, const UE_Positioning_GANSS_UTCModel* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-UTCModel");
-   /* a-one-utc */
-   rtxCtxtPushElemName(ctx, "a-one-utc");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->a_one_utc, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* a-zero-utc */
-   rtxCtxtPushElemName(ctx, "a-zero-utc");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->a_zero_utc, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* t-ot-utc */
-   rtxCtxtPushElemName(ctx, "t-ot-utc");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->t_ot_utc, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* delta-t-ls-utc */
-   rtxCtxtPushElemName(ctx, "delta-t-ls-utc");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->delta_t_ls_utc, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* w-n-t-utc */
-   rtxCtxtPushElemName(ctx, "w-n-t-utc");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->w_n_t_utc, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* w-n-lsf-utc */
-   rtxCtxtPushElemName(ctx, "w-n-lsf-utc");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->w_n_lsf_utc, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dn-utc */
-   rtxCtxtPushElemName(ctx, "dn-utc");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->dn_utc, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* delta-t-lsf-utc */
-   rtxCtxtPushElemName(ctx, "delta-t-lsf-utc");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->delta_t_lsf_utc, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSGenericData(rtxContext* ctx, const GANSSGenericData* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "GANSSGenericData");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 0), 9);
-   RT_CHECK(ctx, stat);
-   /* ganssId */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ganssId");
-      if ((uint64_t)pvalue->ganssId > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->ganssId);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssId, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssTimeModelsList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ganssTimeModelsList");
-      stat = asn1PE_UMTS_GANSSTimeModelsList(ctx, &pvalue->ganssTimeModelsList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningDGANSSCorrections */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "uePositioningDGANSSCorrections");
-      stat = asn1PE_UMTS_UE_Positioning_DGANSSCorrections(ctx, &pvalue->uePositioningDGANSSCorrections);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSNavigationModel */
+   /* new-U-RNTI */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSNavigationModel");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_NavigationModel(ctx, &pvalue->uePositioningGANSSNavigationModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "CellUpdateConfirm-r4-IEs");
    }
-   /* uePositioningGANSSRealTimeIntegrity */
+   /* new-C-RNTI */
    if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSRealTimeIntegrity");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_RealTimeIntegrity(ctx, &pvalue->uePositioningGANSSRealTimeIntegrity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "CellUpdateConfirm-r4-IEs");
    }
-   /* uePositioningGANSSDataBitAssistance */
+   /* new-DSCH-RNTI */
    if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSDataBitAssistance");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_Data_Bit_Assistance(ctx, &pvalue->uePositioningGANSSDataBitAssistance);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "CellUpdateConfirm-r4-IEs");
    }
-   /* uePositioningGANSSReferenceMeasurementInfo */
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r4-IEs");
+   /* utran-DRX-CycleLengthCoeff */
    if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSReferenceMeasurementInfo");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceMeasurementInfo(ctx, &pvalue->uePositioningGANSSReferenceMeasurementInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
+         rtxErrAddStrParm(ctx, "UTRAN-DRX-CycleLengthCoefficient");
+         rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r4-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r4-IEs");
    }
-   /* uePositioningGANSSAlmanac */
+   /* rlc-Re-establishIndicatorRb2-3or4 */
+   stat = rtxEncBit(ctx, pvalue->rlc_Re_establishIndicatorRb2_3or4);
+   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb2-3or4", -1, "CellUpdateConfirm-r4-IEs");
+   /* rlc-Re-establishIndicatorRb5orAbove */
+   stat = rtxEncBit(ctx, pvalue->rlc_Re_establishIndicatorRb5orAbove);
+   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb5orAbove", -1, "CellUpdateConfirm-r4-IEs");
+   /* cn-InformationInfo */
    if (pvalue->m & 0x80u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSAlmanac");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_Almanac(ctx, &pvalue->uePositioningGANSSAlmanac);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "CellUpdateConfirm-r4-IEs");
    }
-   /* uePositioningGANSSUTCModel */
+   /* ura-Identity */
    if (pvalue->m & 0x100u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSUTCModel");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_UTCModel(ctx, &pvalue->uePositioningGANSSUTCModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "CellUpdateConfirm-r4-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_AddNavigationModels_non_broadcastIndication(rtxContext* ctx, UE_Positioning_GANSS_AddNavigationModels_non_broadcastIndication value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+   /* rb-InformationReleaseList */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "CellUpdateConfirm-r4-IEs");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
+   /* rb-InformationReconfigList */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_RB_InformationReconfigList_r4(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_RB_InformationAffectedList(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (pvalue->m & 0x4000u) {
+      stat = asn1PE_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (pvalue->m & 0x8000u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* modeSpecificTransChInfo */
+   stat = asn1PE_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo(ctx, &pvalue->modeSpecificTransChInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificTransChInfo", -1, "CellUpdateConfirm-r4-IEs");
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_DL_DeletedTransChInfoList(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r4(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x80000u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x100000u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r4-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* ul-ChannelRequirement */
+   if (pvalue->m & 0x200000u) {
+      stat = asn1PE_UMTS_UL_ChannelRequirement_r4(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* modeSpecificPhysChInfo */
+   stat = asn1PE_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "CellUpdateConfirm-r4-IEs");
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x400000u) {
+      stat = asn1PE_UMTS_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "CellUpdateConfirm-r4-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x800000u) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_r4(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "CellUpdateConfirm-r4-IEs");
+   }
    return 0;
 }
 
-int asn1PE_UMTS_NAVclockModel(rtxContext* ctx, const NAVclockModel* pvalue)
+int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NAVclockModel");
-   /* navToc */
-   rtxCtxtPushElemName(ctx, "navToc");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->navToc, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navaf2 */
-   rtxCtxtPushElemName(ctx, "navaf2");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->navaf2, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navaf1 */
-   rtxCtxtPushElemName(ctx, "navaf1");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->navaf1, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navaf0 */
-   rtxCtxtPushElemName(ctx, "navaf0");
-   RT_SET_SIZE(ctx, 22, 22);
-   stat = pe_BitString32(ctx, &pvalue->navaf0, 22, 22);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navTgd */
-   rtxCtxtPushElemName(ctx, "navTgd");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->navTgd, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_GLONASSclockModel(rtxContext* ctx, const GLONASSclockModel* pvalue)
+int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "GLONASSclockModel");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* gloTau */
-   rtxCtxtPushElemName(ctx, "gloTau");
-   RT_SET_SIZE(ctx, 22, 22);
-   stat = pe_BitString32(ctx, &pvalue->gloTau, 22, 22);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloGamma */
-   rtxCtxtPushElemName(ctx, "gloGamma");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->gloGamma, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloDeltaTau */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v690ext */
+   stat = asn1PE_UMTS_CellUpdateConfirm_v690ext_IEs(ctx, &pvalue->cellUpdateConfirm_v690ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v690ext", -1, 0);
+   /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "gloDeltaTau");
-      RT_SET_SIZE(ctx, 5, 5);
-      stat = pe_BitString32(ctx, &pvalue->gloDeltaTau, 5, 5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SBASclockModel(rtxContext* ctx, const SBASclockModel* pvalue)
+int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SBASclockModel");
-   /* sbasTo */
-   rtxCtxtPushElemName(ctx, "sbasTo");
-   RT_SET_SIZE(ctx, 13, 13);
-   stat = pe_BitString32(ctx, &pvalue->sbasTo, 13, 13);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sbasAgfo */
-   rtxCtxtPushElemName(ctx, "sbasAgfo");
-   RT_SET_SIZE(ctx, 12, 12);
-   stat = pe_BitString32(ctx, &pvalue->sbasAgfo, 12, 12);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sbasAgf1 */
-   rtxCtxtPushElemName(ctx, "sbasAgf1");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->sbasAgf1, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_AddClockModels(rtxContext* ctx, const UE_Positioning_GANSS_AddClockModels* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-AddClockModels");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* navClockModel */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v5d0ext */
+   stat = asn1PE_UMTS_CellUpdateConfirm_v5d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v5d0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v5d0ext", -1, 0);
+   /* v690NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "navClockModel");
-      stat = asn1PE_UMTS_NAVclockModel(ctx, &pvalue->navClockModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
    }
-   /* cnavClockModel */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "cnavClockModel");
-      stat = asn1PE_UMTS_CNAVclockModel(ctx, &pvalue->cnavClockModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* glonassClockModel */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "glonassClockModel");
-      stat = asn1PE_UMTS_GLONASSclockModel(ctx, &pvalue->glonassClockModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sbasClockModel */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "sbasClockModel");
-      stat = asn1PE_UMTS_SBASclockModel(ctx, &pvalue->sbasClockModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_NavModel_NAVKeplerianSet(rtxContext* ctx, const NavModel_NAVKeplerianSet* pvalue)
+int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NavModel-NAVKeplerianSet");
-   /* navURA */
-   rtxCtxtPushElemName(ctx, "navURA");
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pe_BitString32(ctx, &pvalue->navURA, 4, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navFitFlag */
-   rtxCtxtPushElemName(ctx, "navFitFlag");
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pe_BitString32(ctx, &pvalue->navFitFlag, 1, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navToe */
-   rtxCtxtPushElemName(ctx, "navToe");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->navToe, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navOmega */
-   rtxCtxtPushElemName(ctx, "navOmega");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->navOmega, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navDeltaN */
-   rtxCtxtPushElemName(ctx, "navDeltaN");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->navDeltaN, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navM0 */
-   rtxCtxtPushElemName(ctx, "navM0");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->navM0, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navOmegaADot */
-   rtxCtxtPushElemName(ctx, "navOmegaADot");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->navOmegaADot, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navE */
-   rtxCtxtPushElemName(ctx, "navE");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->navE, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navIDot */
-   rtxCtxtPushElemName(ctx, "navIDot");
-   RT_SET_SIZE(ctx, 14, 14);
-   stat = pe_BitString32(ctx, &pvalue->navIDot, 14, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navAPowerHalf */
-   rtxCtxtPushElemName(ctx, "navAPowerHalf");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->navAPowerHalf, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navI0 */
-   rtxCtxtPushElemName(ctx, "navI0");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->navI0, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navOmegaA0 */
-   rtxCtxtPushElemName(ctx, "navOmegaA0");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->navOmegaA0, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navCrs */
-   rtxCtxtPushElemName(ctx, "navCrs");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->navCrs, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navCis */
-   rtxCtxtPushElemName(ctx, "navCis");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->navCis, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navCus */
-   rtxCtxtPushElemName(ctx, "navCus");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->navCus, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navCrc */
-   rtxCtxtPushElemName(ctx, "navCrc");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->navCrc, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navCic */
-   rtxCtxtPushElemName(ctx, "navCic");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->navCic, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navCuc */
-   rtxCtxtPushElemName(ctx, "navCuc");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->navCuc, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v590ext */
+   stat = asn1PE_UMTS_CellUpdateConfirm_v590ext_IEs(ctx, &pvalue->cellUpdateConfirm_v590ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v590ext", -1, 0);
+   /* v5d0NonCriticalExtenstions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
+      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r4-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->cellUpdateConfirm_r4_add_ext.numbits, pvalue->cellUpdateConfirm_r4_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r4-add-ext", -1, 0);
+   }
+   /* v590NonCriticalExtenstions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions(ctx, &pvalue->v590NonCriticalExtenstions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtenstions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r4 */
+   stat = asn1PE_UMTS_CellUpdateConfirm_r4_IEs(ctx, &pvalue->cellUpdateConfirm_r4);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r4", -1, 0);
+   /* v4d0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->dummy - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "CPCH-SetID");
+         rtxErrAddUIntParm(ctx, pvalue->dummy);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "CPCH-SetID", "dummy", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dummy, 1, 16);
+      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy", -1, 0);
+   }
+   /* dummy2 */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_r5_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r5_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdateConfirm-r5-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 25) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 24) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 23) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 22) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 21) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 20) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 20) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 21) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 22) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 23) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 24) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 25) & 1u) << 0), 26);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-r5-IEs");
+   /* integrityProtectionModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* activationTime */
+   if (pvalue->m & 0x4u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* new-U-RNTI */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* new-C-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* new-H-RNTI */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r5-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (pvalue->m & 0x80u) {
+      if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
+         rtxErrAddStrParm(ctx, "UTRAN-DRX-CycleLengthCoefficient");
+         rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r5-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* rlc-Re-establishIndicatorRb2-3or4 */
+   stat = rtxEncBit(ctx, pvalue->rlc_Re_establishIndicatorRb2_3or4);
+   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb2-3or4", -1, "CellUpdateConfirm-r5-IEs");
+   /* rlc-Re-establishIndicatorRb5orAbove */
+   stat = rtxEncBit(ctx, pvalue->rlc_Re_establishIndicatorRb5orAbove);
+   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb5orAbove", -1, "CellUpdateConfirm-r5-IEs");
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* rb-InformationReleaseList */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* rb-InformationReconfigList */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_RB_InformationReconfigList_r5(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_RB_InformationAffectedList_r5(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x4000u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (pvalue->m & 0x8000u) {
+      stat = asn1PE_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* modeSpecificTransChInfo */
+   stat = asn1PE_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo(ctx, &pvalue->modeSpecificTransChInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificTransChInfo", -1, "CellUpdateConfirm-r5-IEs");
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_DL_DeletedTransChInfoList_r5(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (pvalue->m & 0x80000u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x100000u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x200000u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r5-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* ul-ChannelRequirement */
+   if (pvalue->m & 0x400000u) {
+      stat = asn1PE_UMTS_UL_ChannelRequirement_r5(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* modeSpecificPhysChInfo */
+   stat = asn1PE_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "CellUpdateConfirm-r5-IEs");
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x800000u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x1000000u) {
+      stat = asn1PE_UMTS_DL_CommonInformation_r5(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x2000000u) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_r5(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "CellUpdateConfirm-r5-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v690ext */
+   stat = asn1PE_UMTS_CellUpdateConfirm_v690ext_IEs(ctx, &pvalue->cellUpdateConfirm_v690ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v690ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v5d0ext */
+   stat = asn1PE_UMTS_CellUpdateConfirm_v5d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v5d0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v5d0ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r5 */
+   stat = asn1PE_UMTS_CellUpdateConfirm_r5_IEs(ctx, &pvalue->cellUpdateConfirm_r5);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r5", -1, 0);
+   /* cellUpdateConfirm-r5-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->cellUpdateConfirm_r5_add_ext.numbits, pvalue->cellUpdateConfirm_r5_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r5-add-ext", -1, 0);
+   }
+   /* v5d0NonCriticalExtenstions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
+      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_r6_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r6_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdateConfirm-r6-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 30) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 29) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 28) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 27) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 26) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 25) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 24) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 23) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 22) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 21) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 20) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 20) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 21) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 22) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 23) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 24) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 25) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 26) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 27) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 28) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 29) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 30) & 1u) << 0), 31);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-r6-IEs");
+   /* integrityProtectionModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* activationTime */
+   if (pvalue->m & 0x4u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* new-U-RNTI */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* new-C-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* new-H-RNTI */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r6-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (pvalue->m & 0x200u) {
+      if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
+         rtxErrAddStrParm(ctx, "UTRAN-DRX-CycleLengthCoefficient");
+         rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r6-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* rlc-Re-establishIndicatorRb2-3or4 */
+   stat = rtxEncBit(ctx, pvalue->rlc_Re_establishIndicatorRb2_3or4);
+   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb2-3or4", -1, "CellUpdateConfirm-r6-IEs");
+   /* rlc-Re-establishIndicatorRb5orAbove */
+   stat = rtxEncBit(ctx, pvalue->rlc_Re_establishIndicatorRb5orAbove);
+   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb5orAbove", -1, "CellUpdateConfirm-r6-IEs");
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* rb-InformationReleaseList */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* rb-InformationReconfigList */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_RB_InformationReconfigList_r6(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (pvalue->m & 0x4000u) {
+      stat = asn1PE_UMTS_RB_InformationAffectedList_r6(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (pvalue->m & 0x8000u) {
+      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* pdcp-ROHC-TargetMode */
+   if (pvalue->m & 0x10000u) {
+      if (pvalue->pdcp_ROHC_TargetMode > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->pdcp_ROHC_TargetMode);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "CellUpdateConfirm-r6-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->pdcp_ROHC_TargetMode, 0, 1);
+      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (pvalue->m & 0x80000u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList_r6(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x100000u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (pvalue->m & 0x200000u) {
+      stat = asn1PE_UMTS_DL_DeletedTransChInfoList_r5(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (pvalue->m & 0x400000u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x800000u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x1000000u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r6-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (pvalue->m & 0x2000000u) {
+      stat = asn1PE_UMTS_UL_DPCH_Info_r6(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (pvalue->m & 0x4000000u) {
+      stat = asn1PE_UMTS_UL_EDCH_Information_r6(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x8000000u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r6(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x10000000u) {
+      stat = asn1PE_UMTS_DL_CommonInformation_r6(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x20000000u) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_r6(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "CellUpdateConfirm-r6-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (pvalue->m & 0x40000000u) {
+      if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-r6-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
+      RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-r6-IEs");
+   }
    return 0;
 }
 

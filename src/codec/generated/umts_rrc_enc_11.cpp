@@ -6,2292 +6,2762 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PE_UMTS_NavModel_CNAVKeplerianSet_cnavMo(rtxContext* ctx, const NavModel_CNAVKeplerianSet_cnavMo* pvalue)
+int asn1PE_UMTS_CellUpdateConfirm_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_v6b0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   RT_SET_SIZE(ctx, 33, 33);
-   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_NavModel_CNAVKeplerianSet_cnavE(rtxContext* ctx, const NavModel_CNAVKeplerianSet_cnavE* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   RT_SET_SIZE(ctx, 33, 33);
-   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_NavModel_CNAVKeplerianSet_cnavOmega(rtxContext* ctx, const NavModel_CNAVKeplerianSet_cnavOmega* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   RT_SET_SIZE(ctx, 33, 33);
-   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_NavModel_CNAVKeplerianSet_cnavOMEGA0(rtxContext* ctx, const NavModel_CNAVKeplerianSet_cnavOMEGA0* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   RT_SET_SIZE(ctx, 33, 33);
-   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_NavModel_CNAVKeplerianSet_cnavIo(rtxContext* ctx, const NavModel_CNAVKeplerianSet_cnavIo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   RT_SET_SIZE(ctx, 33, 33);
-   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_NavModel_CNAVKeplerianSet(rtxContext* ctx, const NavModel_CNAVKeplerianSet* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NavModel-CNAVKeplerianSet");
-   /* cnavTop */
-   rtxCtxtPushElemName(ctx, "cnavTop");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->cnavTop, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavURAindex */
-   rtxCtxtPushElemName(ctx, "cnavURAindex");
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pe_BitString32(ctx, &pvalue->cnavURAindex, 5, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavDeltaA */
-   rtxCtxtPushElemName(ctx, "cnavDeltaA");
-   RT_SET_SIZE(ctx, 26, 26);
-   stat = pe_BitString32(ctx, &pvalue->cnavDeltaA, 26, 26);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavAdot */
-   rtxCtxtPushElemName(ctx, "cnavAdot");
-   RT_SET_SIZE(ctx, 25, 25);
-   stat = pe_BitString32(ctx, &pvalue->cnavAdot, 25, 25);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavDeltaNo */
-   rtxCtxtPushElemName(ctx, "cnavDeltaNo");
-   RT_SET_SIZE(ctx, 17, 17);
-   stat = pe_BitString32(ctx, &pvalue->cnavDeltaNo, 17, 17);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavDeltaNoDot */
-   rtxCtxtPushElemName(ctx, "cnavDeltaNoDot");
-   RT_SET_SIZE(ctx, 23, 23);
-   stat = pe_BitString32(ctx, &pvalue->cnavDeltaNoDot, 23, 23);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavMo */
-   rtxCtxtPushElemName(ctx, "cnavMo");
-   stat = asn1PE_UMTS_NavModel_CNAVKeplerianSet_cnavMo(ctx, &pvalue->cnavMo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavE */
-   rtxCtxtPushElemName(ctx, "cnavE");
-   stat = asn1PE_UMTS_NavModel_CNAVKeplerianSet_cnavE(ctx, &pvalue->cnavE);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavOmega */
-   rtxCtxtPushElemName(ctx, "cnavOmega");
-   stat = asn1PE_UMTS_NavModel_CNAVKeplerianSet_cnavOmega(ctx, &pvalue->cnavOmega);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavOMEGA0 */
-   rtxCtxtPushElemName(ctx, "cnavOMEGA0");
-   stat = asn1PE_UMTS_NavModel_CNAVKeplerianSet_cnavOMEGA0(ctx, &pvalue->cnavOMEGA0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavDeltaOmegaDot */
-   rtxCtxtPushElemName(ctx, "cnavDeltaOmegaDot");
-   RT_SET_SIZE(ctx, 17, 17);
-   stat = pe_BitString32(ctx, &pvalue->cnavDeltaOmegaDot, 17, 17);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavIo */
-   rtxCtxtPushElemName(ctx, "cnavIo");
-   stat = asn1PE_UMTS_NavModel_CNAVKeplerianSet_cnavIo(ctx, &pvalue->cnavIo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavIoDot */
-   rtxCtxtPushElemName(ctx, "cnavIoDot");
-   RT_SET_SIZE(ctx, 15, 15);
-   stat = pe_BitString32(ctx, &pvalue->cnavIoDot, 15, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavCis */
-   rtxCtxtPushElemName(ctx, "cnavCis");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->cnavCis, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavCic */
-   rtxCtxtPushElemName(ctx, "cnavCic");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->cnavCic, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavCrs */
-   rtxCtxtPushElemName(ctx, "cnavCrs");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->cnavCrs, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavCrc */
-   rtxCtxtPushElemName(ctx, "cnavCrc");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->cnavCrc, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavCus */
-   rtxCtxtPushElemName(ctx, "cnavCus");
-   RT_SET_SIZE(ctx, 21, 21);
-   stat = pe_BitString32(ctx, &pvalue->cnavCus, 21, 21);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cnavCuc */
-   rtxCtxtPushElemName(ctx, "cnavCuc");
-   RT_SET_SIZE(ctx, 21, 21);
-   stat = pe_BitString32(ctx, &pvalue->cnavCuc, 21, 21);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NavModel_GLONASSecef(rtxContext* ctx, const NavModel_GLONASSecef* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NavModel-GLONASSecef");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdateConfirm-v6b0ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* gloEn */
-   rtxCtxtPushElemName(ctx, "gloEn");
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pe_BitString32(ctx, &pvalue->gloEn, 5, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloP1 */
-   rtxCtxtPushElemName(ctx, "gloP1");
-   RT_SET_SIZE(ctx, 2, 2);
-   stat = pe_BitString32(ctx, &pvalue->gloP1, 2, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloP2 */
-   rtxCtxtPushElemName(ctx, "gloP2");
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pe_BitString32(ctx, &pvalue->gloP2, 1, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloM */
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v6b0ext-IEs");
+   /* dl-InformationPerRL-List-v6b0ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "gloM");
-      RT_SET_SIZE(ctx, 2, 2);
-      stat = pe_BitString32(ctx, &pvalue->gloM, 2, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_v6b0ext(ctx, &pvalue->dl_InformationPerRL_List_v6b0ext);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List-v6b0ext", -1, "CellUpdateConfirm-v6b0ext-IEs");
    }
-   /* gloX */
-   rtxCtxtPushElemName(ctx, "gloX");
-   RT_SET_SIZE(ctx, 27, 27);
-   stat = pe_BitString32(ctx, &pvalue->gloX, 27, 27);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloXdot */
-   rtxCtxtPushElemName(ctx, "gloXdot");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->gloXdot, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloXdotdot */
-   rtxCtxtPushElemName(ctx, "gloXdotdot");
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pe_BitString32(ctx, &pvalue->gloXdotdot, 5, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloY */
-   rtxCtxtPushElemName(ctx, "gloY");
-   RT_SET_SIZE(ctx, 27, 27);
-   stat = pe_BitString32(ctx, &pvalue->gloY, 27, 27);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloYdot */
-   rtxCtxtPushElemName(ctx, "gloYdot");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->gloYdot, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloYdotdot */
-   rtxCtxtPushElemName(ctx, "gloYdotdot");
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pe_BitString32(ctx, &pvalue->gloYdotdot, 5, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloZ */
-   rtxCtxtPushElemName(ctx, "gloZ");
-   RT_SET_SIZE(ctx, 27, 27);
-   stat = pe_BitString32(ctx, &pvalue->gloZ, 27, 27);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloZdot */
-   rtxCtxtPushElemName(ctx, "gloZdot");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->gloZdot, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gloZdotdot */
-   rtxCtxtPushElemName(ctx, "gloZdotdot");
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pe_BitString32(ctx, &pvalue->gloZdotdot, 5, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_NavModel_SBASecef(rtxContext* ctx, const NavModel_SBASecef* pvalue)
+int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NavModel-SBASecef");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sbasTo */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v6b0ext */
+   stat = asn1PE_UMTS_CellUpdateConfirm_v6b0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v6b0ext", -1, 0);
+   /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sbasTo");
-      RT_SET_SIZE(ctx, 13, 13);
-      stat = pe_BitString32(ctx, &pvalue->sbasTo, 13, 13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
-   /* sbasAccuracy */
-   rtxCtxtPushElemName(ctx, "sbasAccuracy");
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pe_BitString32(ctx, &pvalue->sbasAccuracy, 4, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sbasXg */
-   rtxCtxtPushElemName(ctx, "sbasXg");
-   RT_SET_SIZE(ctx, 30, 30);
-   stat = pe_BitString32(ctx, &pvalue->sbasXg, 30, 30);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sbasYg */
-   rtxCtxtPushElemName(ctx, "sbasYg");
-   RT_SET_SIZE(ctx, 30, 30);
-   stat = pe_BitString32(ctx, &pvalue->sbasYg, 30, 30);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sbasZg */
-   rtxCtxtPushElemName(ctx, "sbasZg");
-   RT_SET_SIZE(ctx, 25, 25);
-   stat = pe_BitString32(ctx, &pvalue->sbasZg, 25, 25);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sbasXgDot */
-   rtxCtxtPushElemName(ctx, "sbasXgDot");
-   RT_SET_SIZE(ctx, 17, 17);
-   stat = pe_BitString32(ctx, &pvalue->sbasXgDot, 17, 17);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sbasYgDot */
-   rtxCtxtPushElemName(ctx, "sbasYgDot");
-   RT_SET_SIZE(ctx, 17, 17);
-   stat = pe_BitString32(ctx, &pvalue->sbasYgDot, 17, 17);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sbasZgDot */
-   rtxCtxtPushElemName(ctx, "sbasZgDot");
-   RT_SET_SIZE(ctx, 18, 18);
-   stat = pe_BitString32(ctx, &pvalue->sbasZgDot, 18, 18);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sbasXgDotDot */
-   rtxCtxtPushElemName(ctx, "sbasXgDotDot");
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pe_BitString32(ctx, &pvalue->sbasXgDotDot, 10, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sbagYgDotDot */
-   rtxCtxtPushElemName(ctx, "sbagYgDotDot");
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pe_BitString32(ctx, &pvalue->sbagYgDotDot, 10, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sbasZgDotDot */
-   rtxCtxtPushElemName(ctx, "sbasZgDotDot");
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pe_BitString32(ctx, &pvalue->sbasZgDotDot, 10, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_GANSS_AddOrbitModels(rtxContext* ctx, const UE_Positioning_GANSS_AddOrbitModels* pvalue)
+int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-AddOrbitModels");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* navKeplerianSet */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "navKeplerianSet");
-      stat = asn1PE_UMTS_NavModel_NAVKeplerianSet(ctx, &pvalue->navKeplerianSet);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cnavKeplerianSet */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "cnavKeplerianSet");
-      stat = asn1PE_UMTS_NavModel_CNAVKeplerianSet(ctx, &pvalue->cnavKeplerianSet);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* glonassECEF */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "glonassECEF");
-      stat = asn1PE_UMTS_NavModel_GLONASSecef(ctx, &pvalue->glonassECEF);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sbasECEF */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "sbasECEF");
-      stat = asn1PE_UMTS_NavModel_SBASecef(ctx, &pvalue->sbasECEF);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Ganss_Sat_Info_AddNav(rtxContext* ctx, const Ganss_Sat_Info_AddNav* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Ganss-Sat-Info-AddNav");
-   /* satId */
-   rtxCtxtPushElemName(ctx, "satId");
-   if ((uint64_t)pvalue->satId > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->satId);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->satId, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* svHealth */
-   rtxCtxtPushElemName(ctx, "svHealth");
-   RT_SET_SIZE(ctx, 6, 6);
-   stat = pe_BitString32(ctx, &pvalue->svHealth, 6, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* iod */
-   rtxCtxtPushElemName(ctx, "iod");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->iod, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganssClockModel */
-   rtxCtxtPushElemName(ctx, "ganssClockModel");
-   stat = asn1PE_UMTS_UE_Positioning_GANSS_AddClockModels(ctx, &pvalue->ganssClockModel);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganssOrbitModel */
-   rtxCtxtPushElemName(ctx, "ganssOrbitModel");
-   stat = asn1PE_UMTS_UE_Positioning_GANSS_AddOrbitModels(ctx, &pvalue->ganssOrbitModel);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Ganss_Sat_Info_AddNavList(rtxContext* ctx, const Ganss_Sat_Info_AddNavList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "Ganss-Sat-Info-AddNavList");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "Ganss-Sat-Info-AddNav", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_Ganss_Sat_Info_AddNav(ctx, (const Ganss_Sat_Info_AddNav*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_AddNavigationModels(rtxContext* ctx, const UE_Positioning_GANSS_AddNavigationModels* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-AddNavigationModels");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* non-broadcastIndication */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "non-broadcastIndication");
-      if (pvalue->non_broadcastIndication > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->non_broadcastIndication);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->non_broadcastIndication, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssSatInfoNavList */
-   rtxCtxtPushElemName(ctx, "ganssSatInfoNavList");
-   stat = asn1PE_UMTS_Ganss_Sat_Info_AddNavList(ctx, &pvalue->ganssSatInfoNavList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_Almanac_v860ext(rtxContext* ctx, const UE_Positioning_GANSS_Almanac_v860ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-Almanac-v860ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat);
-   /* alm-keplerianNAVAlmanac */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "alm-keplerianNAVAlmanac");
-      stat = asn1PE_UMTS_ALM_NAVKeplerianSet(ctx, &pvalue->alm_keplerianNAVAlmanac);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* alm-keplerianReducedAlmanac */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "alm-keplerianReducedAlmanac");
-      stat = asn1PE_UMTS_ALM_ReducedKeplerianSet(ctx, &pvalue->alm_keplerianReducedAlmanac);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* alm-keplerianMidiAlmanac */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "alm-keplerianMidiAlmanac");
-      stat = asn1PE_UMTS_ALM_MidiAlmanacSet(ctx, &pvalue->alm_keplerianMidiAlmanac);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* alm-keplerianGLONASS */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "alm-keplerianGLONASS");
-      stat = asn1PE_UMTS_ALM_GlonassAlmanacSet(ctx, &pvalue->alm_keplerianGLONASS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* alm-ecefSBASAlmanac */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "alm-ecefSBASAlmanac");
-      stat = asn1PE_UMTS_ALM_ECEFsbasAlmanacSet(ctx, &pvalue->alm_ecefSBASAlmanac);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UTCmodelSet1(rtxContext* ctx, const UTCmodelSet1* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UTCmodelSet1");
-   /* utcA0 */
-   rtxCtxtPushElemName(ctx, "utcA0");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->utcA0, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* utcA1 */
-   rtxCtxtPushElemName(ctx, "utcA1");
-   RT_SET_SIZE(ctx, 13, 13);
-   stat = pe_BitString32(ctx, &pvalue->utcA1, 13, 13);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* utcA2 */
-   rtxCtxtPushElemName(ctx, "utcA2");
-   RT_SET_SIZE(ctx, 7, 7);
-   stat = pe_BitString32(ctx, &pvalue->utcA2, 7, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* utcDeltaTls */
-   rtxCtxtPushElemName(ctx, "utcDeltaTls");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->utcDeltaTls, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* utcTot */
-   rtxCtxtPushElemName(ctx, "utcTot");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->utcTot, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* utcWNot */
-   rtxCtxtPushElemName(ctx, "utcWNot");
-   RT_SET_SIZE(ctx, 13, 13);
-   stat = pe_BitString32(ctx, &pvalue->utcWNot, 13, 13);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* utcWNlsf */
-   rtxCtxtPushElemName(ctx, "utcWNlsf");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->utcWNlsf, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* utcDN */
-   rtxCtxtPushElemName(ctx, "utcDN");
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pe_BitString32(ctx, &pvalue->utcDN, 4, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* utcDeltaTlsf */
-   rtxCtxtPushElemName(ctx, "utcDeltaTlsf");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->utcDeltaTlsf, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UTCmodelSet2(rtxContext* ctx, const UTCmodelSet2* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UTCmodelSet2");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* nA */
-   rtxCtxtPushElemName(ctx, "nA");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->nA, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tauC */
-   rtxCtxtPushElemName(ctx, "tauC");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->tauC, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* deltaUT1 */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r6 */
+   stat = asn1PE_UMTS_CellUpdateConfirm_r6_IEs(ctx, &pvalue->cellUpdateConfirm_r6);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r6", -1, 0);
+   /* cellUpdateConfirm-r6-add-ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "deltaUT1");
-      stat = asn1PE_UMTS_DeltaUT1(ctx, &pvalue->deltaUT1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->cellUpdateConfirm_r6_add_ext.numbits, pvalue->cellUpdateConfirm_r6_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r6-add-ext", -1, 0);
    }
-   /* kp */
+   /* v6b0NonCriticalExtensions */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "kp");
-      RT_SET_SIZE(ctx, 2, 2);
-      stat = pe_BitString32(ctx, &pvalue->kp, 2, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_UTCmodelSet3(rtxContext* ctx, const UTCmodelSet3* pvalue)
+int asn1PE_UMTS_CellUpdateConfirm_r7_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r7_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UTCmodelSet3");
-   /* utcA1wnt */
-   rtxCtxtPushElemName(ctx, "utcA1wnt");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->utcA1wnt, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* utcA0wnt */
-   rtxCtxtPushElemName(ctx, "utcA0wnt");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->utcA0wnt, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* utcTot */
-   rtxCtxtPushElemName(ctx, "utcTot");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->utcTot, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* utcWNt */
-   rtxCtxtPushElemName(ctx, "utcWNt");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->utcWNt, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* utcDeltaTls */
-   rtxCtxtPushElemName(ctx, "utcDeltaTls");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->utcDeltaTls, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* utcWNlsf */
-   rtxCtxtPushElemName(ctx, "utcWNlsf");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->utcWNlsf, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* utcDN */
-   rtxCtxtPushElemName(ctx, "utcDN");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->utcDN, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* utcDeltaTlsf */
-   rtxCtxtPushElemName(ctx, "utcDeltaTlsf");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->utcDeltaTlsf, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* utcStandardID */
-   rtxCtxtPushElemName(ctx, "utcStandardID");
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pe_BitString32(ctx, &pvalue->utcStandardID, 3, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_AddUTCModels(rtxContext* ctx, const UE_Positioning_GANSS_AddUTCModels* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-AddUTCModels");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdateConfirm-r7-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* utcModel1 */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 31) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 30) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 29) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 28) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 27) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 26) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 25) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 24) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 23) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 22) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 21) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 20) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 20) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 21) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 22) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 23) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 24) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 25) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 26) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 27) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 28) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 29) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 30) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 31) & 1u) << 0), 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-r7-IEs");
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 32) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 33) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 34) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 35) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 36) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 37) & 1u) << 0), 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-r7-IEs");
+   /* integrityProtectionModeInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "utcModel1");
-      stat = asn1PE_UMTS_UTCmodelSet1(ctx, &pvalue->utcModel1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "CellUpdateConfirm-r7-IEs");
    }
-   /* utcModel2 */
+   /* cipheringModeInfo */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "utcModel2");
-      stat = asn1PE_UMTS_UTCmodelSet2(ctx, &pvalue->utcModel2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "CellUpdateConfirm-r7-IEs");
    }
-   /* utcModel3 */
+   /* activationTime */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "utcModel3");
-      stat = asn1PE_UMTS_UTCmodelSet3(ctx, &pvalue->utcModel3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "CellUpdateConfirm-r7-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
+   /* new-U-RNTI */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* new-C-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* new-H-RNTI */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r7-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* waitTime */
+   if (pvalue->m & 0x400u) {
+      if ((uint64_t)pvalue->waitTime > 15u) {
+         rtxErrAddStrParm(ctx, "WaitTime");
+         rtxErrAddUIntParm(ctx, pvalue->waitTime);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "WaitTime", "waitTime", -1, "CellUpdateConfirm-r7-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->waitTime, 0, 15);
+      RT_CHECK(ctx, stat, "WaitTime", "waitTime", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* rlc-Re-establishIndicatorRb2-3or4 */
+   stat = rtxEncBit(ctx, pvalue->rlc_Re_establishIndicatorRb2_3or4);
+   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb2-3or4", -1, "CellUpdateConfirm-r7-IEs");
+   /* rlc-Re-establishIndicatorRb5orAbove */
+   stat = rtxEncBit(ctx, pvalue->rlc_Re_establishIndicatorRb5orAbove);
+   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb5orAbove", -1, "CellUpdateConfirm-r7-IEs");
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   if (pvalue->m & 0x2000u) {
+      stat = rtxEncBit(ctx, pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* rb-InformationReleaseList */
+   if (pvalue->m & 0x4000u) {
+      stat = asn1PE_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* rb-InformationReconfigList */
+   if (pvalue->m & 0x8000u) {
+      stat = asn1PE_UMTS_RB_InformationReconfigList_r7(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_RB_InformationAffectedList_r7(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* pdcp-ROHC-TargetMode */
+   if (pvalue->m & 0x40000u) {
+      if (pvalue->pdcp_ROHC_TargetMode > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->pdcp_ROHC_TargetMode);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "CellUpdateConfirm-r7-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->pdcp_ROHC_TargetMode, 0, 1);
+      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x80000u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (pvalue->m & 0x100000u) {
+      stat = asn1PE_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (pvalue->m & 0x200000u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList_r7(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x400000u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (pvalue->m & 0x800000u) {
+      stat = asn1PE_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (pvalue->m & 0x1000000u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x2000000u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (pvalue->m & 0x4000000u) {
+      stat = asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (pvalue->m & 0x8000000u) {
+      stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* dtx-drx-Info */
+   if (pvalue->m & 0x10000000u) {
+      stat = asn1PE_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (pvalue->m & 0x20000000u) {
+      stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* mimoParameters */
+   if (pvalue->m & 0x40000000u) {
+      stat = asn1PE_UMTS_MIMO_Parameters_r7(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x80000000u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r7-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (pvalue->m & 0x100000000ull) {
+      stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (pvalue->m & 0x200000000ull) {
+      stat = asn1PE_UMTS_UL_EDCH_Information_r7(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x400000000ull) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r7(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x800000000ull) {
+      stat = asn1PE_UMTS_DL_CommonInformation_r7(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x1000000000ull) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "CellUpdateConfirm-r7-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (pvalue->m & 0x2000000000ull) {
+      if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-r7-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
+      RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-r7-IEs");
+   }
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_GANSS_AuxiliaryInfo(rtxContext* ctx, const UE_Positioning_GANSS_AuxiliaryInfo* pvalue)
+int asn1PE_UMTS_CellUpdateConfirm_v7d0ext_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_v7d0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-AuxiliaryInfo");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdateConfirm-v7d0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v7d0ext-IEs");
+   /* ul-EDCH-Information */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UL_EDCH_Information_ext(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "CellUpdateConfirm-v7d0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_v7f0ext_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_v7f0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdateConfirm-v7f0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v7f0ext-IEs");
+   /* mimoParameters */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MIMO_Parameters_v7f0ext(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "CellUpdateConfirm-v7f0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_v7g0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdateConfirm-v7g0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v7g0ext-IEs");
+   /* mimoParameters */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MIMO_Parameters_v7g0ext(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "CellUpdateConfirm-v7g0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v7g0ext */
+   stat = asn1PE_UMTS_CellUpdateConfirm_v7g0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7g0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v7g0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v7f0ext */
+   stat = asn1PE_UMTS_CellUpdateConfirm_v7f0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v7f0ext", -1, 0);
+   /* v7g0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_r7_add_ext_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r7_add_ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdateConfirm-r7-add-ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-r7-add-ext-IEs");
+   /* cellUpdateConfirm-v7d0ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellUpdateConfirm_v7d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7d0ext);
+      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v7d0ext", -1, "CellUpdateConfirm-r7-add-ext-IEs");
+   }
+   /* v7f0NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, "CellUpdateConfirm-r7-add-ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_v780ext_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_v780ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdateConfirm-v780ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v780ext-IEs");
+   /* hs-DSCH-TBSizeTable */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->hs_DSCH_TBSizeTable > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->hs_DSCH_TBSizeTable);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "CellUpdateConfirm-v780ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->hs_DSCH_TBSizeTable, 0, 0);
+      RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "CellUpdateConfirm-v780ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_v860ext_IEs_rab_InformationSetup(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_v860ext_IEs_rab_InformationSetup* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* rab-InformationSetup-r7 */
+   stat = asn1PE_UMTS_RAB_InformationSetup_r7(ctx, &pvalue->rab_InformationSetup_r7);
+   RT_CHECK(ctx, stat, 0, "rab-InformationSetup-r7", -1, 0);
+   /* rab-InformationSetup-v820ext */
+   stat = asn1PE_UMTS_RAB_InformationSetup_v820ext(ctx, &pvalue->rab_InformationSetup_v820ext);
+   RT_CHECK(ctx, stat, 0, "rab-InformationSetup-v820ext", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdateConfirm-v860ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v860ext-IEs");
+   /* rab-InformationSetup */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellUpdateConfirm_v860ext_IEs_rab_InformationSetup(ctx, &pvalue->rab_InformationSetup);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetup", -1, "CellUpdateConfirm-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v860ext */
+   stat = asn1PE_UMTS_CellUpdateConfirm_v860ext_IEs(ctx, &pvalue->cellUpdateConfirm_v860ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v780ext */
+   stat = asn1PE_UMTS_CellUpdateConfirm_v780ext_IEs(ctx, &pvalue->cellUpdateConfirm_v780ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v780ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r7 */
+   stat = asn1PE_UMTS_CellUpdateConfirm_r7_IEs(ctx, &pvalue->cellUpdateConfirm_r7);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r7", -1, 0);
+   /* cellUpdateConfirm-r7-add-ext */
+   if (pvalue->m & 0x1u) {
+      {
+         rtxContext outer;
+         const uint8_t* data;
+         uint32_t len;
+         rtxCopyContext(&outer, ctx);
+         stat = rtxInitContextBuffer(ctx, 0, 0);
+         RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r7-add-ext", -1, 0);
+         stat = asn1PE_UMTS_CellUpdateConfirm_r7_add_ext_IEs(ctx, &pvalue->cellUpdateConfirm_r7_add_ext);
+         RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r7-add-ext", -1, 0);
+         data = ctx->buffer_data;
+         len = ctx->byte_index * 8 + 8 - ctx->bit_offset;
+         rtxCopyContext(ctx, &outer);
+         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+         stat = pe_BitString(ctx, len, data);
+         rtxMemHeapFreePtr(ctx, (void*)data);
+         RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r7-add-ext", -1, 0);
+      }
+   }
+   /* v780NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v780NonCriticalExtensions", -1, 0);
+   }
+   return stat;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_r8_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r8_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdateConfirm-r8-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 31) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 30) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 29) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 28) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 27) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 26) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 25) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 24) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 23) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 22) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 21) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 20) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 20) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 21) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 22) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 23) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 24) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 25) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 26) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 27) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 28) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 29) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 30) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 31) & 1u) << 0), 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-r8-IEs");
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 32) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 33) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 34) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 35) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 36) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 37) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 38) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 39) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 40) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 41) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 42) & 1u) << 0), 11);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-r8-IEs");
+   /* integrityProtectionModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* activationTime */
+   if (pvalue->m & 0x4u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* new-U-RNTI */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* new-C-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* new-H-RNTI */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r8-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* waitTime */
+   if (pvalue->m & 0x400u) {
+      if ((uint64_t)pvalue->waitTime > 15u) {
+         rtxErrAddStrParm(ctx, "WaitTime");
+         rtxErrAddUIntParm(ctx, pvalue->waitTime);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "WaitTime", "waitTime", -1, "CellUpdateConfirm-r8-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->waitTime, 0, 15);
+      RT_CHECK(ctx, stat, "WaitTime", "waitTime", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* rlc-Re-establishIndicatorRb2-3or4 */
+   stat = rtxEncBit(ctx, pvalue->rlc_Re_establishIndicatorRb2_3or4);
+   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb2-3or4", -1, "CellUpdateConfirm-r8-IEs");
+   /* rlc-Re-establishIndicatorRb5orAbove */
+   stat = rtxEncBit(ctx, pvalue->rlc_Re_establishIndicatorRb5orAbove);
+   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb5orAbove", -1, "CellUpdateConfirm-r8-IEs");
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   if (pvalue->m & 0x2000u) {
+      stat = rtxEncBit(ctx, pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* defaultConfigForCellFACH */
+   if (pvalue->m & 0x4000u) {
+      stat = asn1PE_UMTS_DefaultConfigForCellFACH(ctx, &pvalue->defaultConfigForCellFACH);
+      RT_CHECK(ctx, stat, 0, "defaultConfigForCellFACH", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* rab-InformationSetup */
+   if (pvalue->m & 0x8000u) {
+      stat = asn1PE_UMTS_RAB_InformationSetup_r8(ctx, &pvalue->rab_InformationSetup);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetup", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* rb-InformationReleaseList */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* rb-InformationReconfigList */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_RB_InformationReconfigList_r8(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_RB_InformationAffectedList_r8(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (pvalue->m & 0x80000u) {
+      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* pdcp-ROHC-TargetMode */
+   if (pvalue->m & 0x100000u) {
+      if (pvalue->pdcp_ROHC_TargetMode > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->pdcp_ROHC_TargetMode);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "CellUpdateConfirm-r8-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->pdcp_ROHC_TargetMode, 0, 1);
+      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x200000u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (pvalue->m & 0x400000u) {
+      stat = asn1PE_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (pvalue->m & 0x800000u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x1000000u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (pvalue->m & 0x2000000u) {
+      stat = asn1PE_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (pvalue->m & 0x4000000u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x8000000u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (pvalue->m & 0x10000000u) {
+      stat = asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (pvalue->m & 0x20000000u) {
+      stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* dtx-drx-Info */
+   if (pvalue->m & 0x40000000u) {
+      stat = asn1PE_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (pvalue->m & 0x80000000u) {
+      stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* mimoParameters */
+   if (pvalue->m & 0x100000000ull) {
+      stat = asn1PE_UMTS_MIMO_Parameters_r8(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x200000000ull) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r8-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (pvalue->m & 0x400000000ull) {
+      stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (pvalue->m & 0x800000000ull) {
+      stat = asn1PE_UMTS_UL_EDCH_Information_r8(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x1000000000ull) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x2000000000ull) {
+      stat = asn1PE_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x4000000000ull) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* dl-SecondaryCellInfoFDD */
+   if (pvalue->m & 0x8000000000ull) {
+      stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD(ctx, &pvalue->dl_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* controlChannelDRXInfo-TDD128 */
+   if (pvalue->m & 0x10000000000ull) {
+      stat = asn1PE_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
+      RT_CHECK(ctx, stat, 0, "controlChannelDRXInfo-TDD128", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* sps-Information-TDD128 */
+   if (pvalue->m & 0x20000000000ull) {
+      stat = asn1PE_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
+      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (pvalue->m & 0x40000000000ull) {
+      if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-r8-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
+      RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-r8-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_v890ext_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_v890ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdateConfirm-v890ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v890ext-IEs");
+   /* dl-SecondaryCellInfoFDD-v890ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD_v890ext(ctx, &pvalue->dl_SecondaryCellInfoFDD_v890ext);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD-v890ext", -1, "CellUpdateConfirm-v890ext-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_ext(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "CellUpdateConfirm-v890ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_v8a0ext_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_v8a0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdateConfirm-v8a0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v8a0ext-IEs");
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_ext2(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "CellUpdateConfirm-v8a0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v8a0ext */
+   stat = asn1PE_UMTS_CellUpdateConfirm_v8a0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v8a0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v8a0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v7g0ext */
+   stat = asn1PE_UMTS_CellUpdateConfirm_v7g0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7g0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v7g0ext", -1, 0);
+   /* v8a0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v8a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v890ext */
+   stat = asn1PE_UMTS_CellUpdateConfirm_v890ext_IEs(ctx, &pvalue->cellUpdateConfirm_v890ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v890ext", -1, 0);
+   /* v7g0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v7f0ext */
+   stat = asn1PE_UMTS_CellUpdateConfirm_v7f0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v7f0ext", -1, 0);
+   /* v890NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v7d0ext */
+   stat = asn1PE_UMTS_CellUpdateConfirm_v7d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7d0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v7d0ext", -1, 0);
+   /* v7f0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r8 */
+   stat = asn1PE_UMTS_CellUpdateConfirm_r8_IEs(ctx, &pvalue->cellUpdateConfirm_r8);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r8", -1, 0);
+   /* cellUpdateConfirm-r8-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->cellUpdateConfirm_r8_add_ext.numbits, pvalue->cellUpdateConfirm_r8_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r8-add-ext", -1, 0);
+   }
+   /* v7d0NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_r9_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r9_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdateConfirm-r9-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 31) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 30) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 29) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 28) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 27) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 26) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 25) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 24) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 23) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 22) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 21) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 20) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 20) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 21) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 22) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 23) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 24) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 25) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 26) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 27) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 28) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 29) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 30) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 31) & 1u) << 0), 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-r9-IEs");
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 32) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 33) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 34) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 35) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 36) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 37) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 38) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 39) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 40) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 41) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 42) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 43) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 44) & 1u) << 0), 13);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-r9-IEs");
+   /* integrityProtectionModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* activationTime */
+   if (pvalue->m & 0x4u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* new-U-RNTI */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* new-C-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* new-H-RNTI */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r9-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* waitTime */
+   if (pvalue->m & 0x400u) {
+      if ((uint64_t)pvalue->waitTime > 15u) {
+         rtxErrAddStrParm(ctx, "WaitTime");
+         rtxErrAddUIntParm(ctx, pvalue->waitTime);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "WaitTime", "waitTime", -1, "CellUpdateConfirm-r9-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->waitTime, 0, 15);
+      RT_CHECK(ctx, stat, "WaitTime", "waitTime", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* rlc-Re-establishIndicatorRb2-3or4 */
+   stat = rtxEncBit(ctx, pvalue->rlc_Re_establishIndicatorRb2_3or4);
+   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb2-3or4", -1, "CellUpdateConfirm-r9-IEs");
+   /* rlc-Re-establishIndicatorRb5orAbove */
+   stat = rtxEncBit(ctx, pvalue->rlc_Re_establishIndicatorRb5orAbove);
+   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb5orAbove", -1, "CellUpdateConfirm-r9-IEs");
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   if (pvalue->m & 0x2000u) {
+      stat = rtxEncBit(ctx, pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* defaultConfigForCellFACH */
+   if (pvalue->m & 0x4000u) {
+      stat = asn1PE_UMTS_DefaultConfigForCellFACH(ctx, &pvalue->defaultConfigForCellFACH);
+      RT_CHECK(ctx, stat, 0, "defaultConfigForCellFACH", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* rab-InformationSetup */
+   if (pvalue->m & 0x8000u) {
+      stat = asn1PE_UMTS_RAB_InformationSetup_r8(ctx, &pvalue->rab_InformationSetup);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetup", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* rb-InformationReleaseList */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* rb-InformationReconfigList */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_RB_InformationReconfigList_r8(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_RB_InformationAffectedList_r8(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (pvalue->m & 0x80000u) {
+      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* pdcp-ROHC-TargetMode */
+   if (pvalue->m & 0x100000u) {
+      if (pvalue->pdcp_ROHC_TargetMode > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->pdcp_ROHC_TargetMode);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "CellUpdateConfirm-r9-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->pdcp_ROHC_TargetMode, 0, 1);
+      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x200000u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (pvalue->m & 0x400000u) {
+      stat = asn1PE_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (pvalue->m & 0x800000u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x1000000u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (pvalue->m & 0x2000000u) {
+      stat = asn1PE_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (pvalue->m & 0x4000000u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r9(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x8000000u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (pvalue->m & 0x10000000u) {
+      stat = asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (pvalue->m & 0x20000000u) {
+      stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* dtx-drx-Info */
+   if (pvalue->m & 0x40000000u) {
+      stat = asn1PE_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (pvalue->m & 0x80000000u) {
+      stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* mimoParameters */
+   if (pvalue->m & 0x100000000ull) {
+      stat = asn1PE_UMTS_MIMO_Parameters_r9(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x200000000ull) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r9-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (pvalue->m & 0x400000000ull) {
+      stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (pvalue->m & 0x800000000ull) {
+      stat = asn1PE_UMTS_UL_EDCH_Information_r9(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* ul-SecondaryCellInfoFDD */
+   if (pvalue->m & 0x1000000000ull) {
+      stat = asn1PE_UMTS_UL_SecondaryCellInfoFDD(ctx, &pvalue->ul_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "ul-SecondaryCellInfoFDD", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x2000000000ull) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x4000000000ull) {
+      stat = asn1PE_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x8000000000ull) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* dl-SecondaryCellInfoFDD */
+   if (pvalue->m & 0x10000000000ull) {
+      stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD_r9(ctx, &pvalue->dl_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* controlChannelDRXInfo-TDD128 */
+   if (pvalue->m & 0x20000000000ull) {
+      stat = asn1PE_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
+      RT_CHECK(ctx, stat, 0, "controlChannelDRXInfo-TDD128", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* sps-Information-TDD128 */
+   if (pvalue->m & 0x40000000000ull) {
+      stat = asn1PE_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
+      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (pvalue->m & 0x80000000000ull) {
+      if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-r9-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
+      RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   /* cellDCHMeasOccasionInfo-TDD128 */
+   if (pvalue->m & 0x100000000000ull) {
+      stat = asn1PE_UMTS_CellDCHMeasOccasionInfo_TDD128_r9(ctx, &pvalue->cellDCHMeasOccasionInfo_TDD128);
+      RT_CHECK(ctx, stat, 0, "cellDCHMeasOccasionInfo-TDD128", -1, "CellUpdateConfirm-r9-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r9 */
+   stat = asn1PE_UMTS_CellUpdateConfirm_r9_IEs(ctx, &pvalue->cellUpdateConfirm_r9);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r9", -1, 0);
+   /* cellUpdateConfirm-r9-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->cellUpdateConfirm_r9_add_ext.numbits, pvalue->cellUpdateConfirm_r9_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r9-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "ganssID1");
-         if (pvalue->u.ganssID1 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_AuxInfoGANSS_ID1(ctx, pvalue->u.ganssID1);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.r9 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r9", -1, 0);
+         stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
+         RT_CHECK(ctx, stat, 0, "r9", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "ganssID3");
-         if (pvalue->u.ganssID3 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_AuxInfoGANSS_ID3(ctx, pvalue->u.ganssID3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_GANSSGenericData_v860ext(rtxContext* ctx, const GANSSGenericData_v860ext* pvalue)
+int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "GANSSGenericData-v860ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat);
-   /* uePositiningGANSSsbasID */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "uePositiningGANSSsbasID");
-      rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-SBAS-ID");
-      if (pvalue->uePositiningGANSSsbasID > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->uePositiningGANSSsbasID);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->uePositiningGANSSsbasID, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r8 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r8", -1, 0);
+         stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
+         RT_CHECK(ctx, stat, 0, "r8", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
    }
-   /* uePositioningGANSSAddNavigationModels */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSAddNavigationModels");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AddNavigationModels(ctx, &pvalue->uePositioningGANSSAddNavigationModels);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSAlmanac */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSAlmanac");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_Almanac_v860ext(ctx, &pvalue->uePositioningGANSSAlmanac);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSAddUTCModels */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSAddUTCModels");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AddUTCModels(ctx, &pvalue->uePositioningGANSSAddUTCModels);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSAuxiliaryInfo */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSAuxiliaryInfo");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AuxiliaryInfo(ctx, &pvalue->uePositioningGANSSAuxiliaryInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_GANSS_Almanac_r8(rtxContext* ctx, const UE_Positioning_GANSS_Almanac_r8* pvalue)
+int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-Almanac-r8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat);
-   /* ganss-wk-number */
-   rtxCtxtPushElemName(ctx, "ganss-wk-number");
-   stat = pe_ConsUInt64(ctx, pvalue->ganss_wk_number, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* alm-keplerianParameters */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "alm-keplerianParameters");
-      stat = asn1PE_UMTS_ALM_keplerianParameters(ctx, &pvalue->alm_keplerianParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r7", -1, 0);
+         stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
+         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
    }
-   /* alm-keplerianNAVAlmanac */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "alm-keplerianNAVAlmanac");
-      stat = asn1PE_UMTS_ALM_NAVKeplerianSet(ctx, &pvalue->alm_keplerianNAVAlmanac);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* alm-keplerianReducedAlmanac */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "alm-keplerianReducedAlmanac");
-      stat = asn1PE_UMTS_ALM_ReducedKeplerianSet(ctx, &pvalue->alm_keplerianReducedAlmanac);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* alm-keplerianMidiAlmanac */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "alm-keplerianMidiAlmanac");
-      stat = asn1PE_UMTS_ALM_MidiAlmanacSet(ctx, &pvalue->alm_keplerianMidiAlmanac);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* alm-keplerianGLONASS */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "alm-keplerianGLONASS");
-      stat = asn1PE_UMTS_ALM_GlonassAlmanacSet(ctx, &pvalue->alm_keplerianGLONASS);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* alm-ecefSBASAlmanac */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "alm-ecefSBASAlmanac");
-      stat = asn1PE_UMTS_ALM_ECEFsbasAlmanacSet(ctx, &pvalue->alm_ecefSBASAlmanac);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_GANSSGenericData_r8(rtxContext* ctx, const GANSSGenericData_r8* pvalue)
+int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "GANSSGenericData-r8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 12) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 11) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 10) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 9) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 9) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 10) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 11) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 12) & 1u) << 0), 13);
-   RT_CHECK(ctx, stat);
-   /* ganssId */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ganssId");
-      if ((uint64_t)pvalue->ganssId > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->ganssId);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssId, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r6 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r6", -1, 0);
+         stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(ctx, pvalue->u.r6);
+         RT_CHECK(ctx, stat, 0, "r6", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
    }
-   /* uePositiningGANSSsbasID */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "uePositiningGANSSsbasID");
-      rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-SBAS-ID");
-      if (pvalue->uePositiningGANSSsbasID > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->uePositiningGANSSsbasID);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->uePositiningGANSSsbasID, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssTimeModelsList */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "ganssTimeModelsList");
-      stat = asn1PE_UMTS_GANSSTimeModelsList(ctx, &pvalue->ganssTimeModelsList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningDGANSSCorrections */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "uePositioningDGANSSCorrections");
-      stat = asn1PE_UMTS_UE_Positioning_DGANSSCorrections(ctx, &pvalue->uePositioningDGANSSCorrections);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSNavigationModel */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSNavigationModel");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_NavigationModel(ctx, &pvalue->uePositioningGANSSNavigationModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSAddNavigationModels */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSAddNavigationModels");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AddNavigationModels(ctx, &pvalue->uePositioningGANSSAddNavigationModels);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSRealTimeIntegrity */
-   if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSRealTimeIntegrity");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_RealTimeIntegrity(ctx, &pvalue->uePositioningGANSSRealTimeIntegrity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSDataBitAssistance */
-   if (pvalue->m & 0x80u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSDataBitAssistance");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_Data_Bit_Assistance(ctx, &pvalue->uePositioningGANSSDataBitAssistance);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSReferenceMeasurementInfo */
-   if (pvalue->m & 0x100u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSReferenceMeasurementInfo");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceMeasurementInfo(ctx, &pvalue->uePositioningGANSSReferenceMeasurementInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSAlmanac */
-   if (pvalue->m & 0x200u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSAlmanac");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_Almanac_r8(ctx, &pvalue->uePositioningGANSSAlmanac);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSUTCModel */
-   if (pvalue->m & 0x400u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSUTCModel");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_UTCModel(ctx, &pvalue->uePositioningGANSSUTCModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSAddUTCModels */
-   if (pvalue->m & 0x800u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSAddUTCModels");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AddUTCModels(ctx, &pvalue->uePositioningGANSSAddUTCModels);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSAuxiliaryInfo */
-   if (pvalue->m & 0x1000u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSAuxiliaryInfo");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AuxiliaryInfo(ctx, &pvalue->uePositioningGANSSAuxiliaryInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_DGANSSCorrections_r9(rtxContext* ctx, const UE_Positioning_DGANSSCorrections_r9* pvalue)
+int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-DGANSSCorrections-r9");
-   /* dganssreferencetime */
-   rtxCtxtPushElemName(ctx, "dganssreferencetime");
-   if ((uint64_t)pvalue->dganssreferencetime > 119u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->dganssreferencetime);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r5", -1, 0);
+         stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5(ctx, pvalue->u.r5);
+         RT_CHECK(ctx, stat, 0, "r5", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
    }
-   stat = pe_ConsUInt64(ctx, pvalue->dganssreferencetime, 0, 119);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dganssInfoList */
-   rtxCtxtPushElemName(ctx, "dganssInfoList");
-   stat = asn1PE_UMTS_DGANSSInfoList_r9(ctx, &pvalue->dganssInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_GANSSGenericData_r9(rtxContext* ctx, const GANSSGenericData_r9* pvalue)
+int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "GANSSGenericData-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 12) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 11) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 10) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 9) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 9) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 10) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 11) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 12) & 1u) << 0), 13);
-   RT_CHECK(ctx, stat);
-   /* ganssId */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ganssId");
-      if ((uint64_t)pvalue->ganssId > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->ganssId);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssId, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r4", -1, 0);
+         stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
+         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
    }
-   /* uePositiningGANSSsbasID */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "uePositiningGANSSsbasID");
-      rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-SBAS-ID");
-      if (pvalue->uePositiningGANSSsbasID > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->uePositiningGANSSsbasID);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->uePositiningGANSSsbasID, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssTimeModelsList */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "ganssTimeModelsList");
-      stat = asn1PE_UMTS_GANSSTimeModelsList(ctx, &pvalue->ganssTimeModelsList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningDGANSSCorrections */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "uePositioningDGANSSCorrections");
-      stat = asn1PE_UMTS_UE_Positioning_DGANSSCorrections_r9(ctx, &pvalue->uePositioningDGANSSCorrections);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSNavigationModel */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSNavigationModel");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_NavigationModel(ctx, &pvalue->uePositioningGANSSNavigationModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSAddNavigationModels */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSAddNavigationModels");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AddNavigationModels(ctx, &pvalue->uePositioningGANSSAddNavigationModels);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSRealTimeIntegrity */
-   if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSRealTimeIntegrity");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_RealTimeIntegrity(ctx, &pvalue->uePositioningGANSSRealTimeIntegrity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSDataBitAssistance */
-   if (pvalue->m & 0x80u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSDataBitAssistance");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_Data_Bit_Assistance(ctx, &pvalue->uePositioningGANSSDataBitAssistance);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSReferenceMeasurementInfo */
-   if (pvalue->m & 0x100u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSReferenceMeasurementInfo");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceMeasurementInfo(ctx, &pvalue->uePositioningGANSSReferenceMeasurementInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSAlmanac */
-   if (pvalue->m & 0x200u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSAlmanac");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_Almanac_r8(ctx, &pvalue->uePositioningGANSSAlmanac);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSUTCModel */
-   if (pvalue->m & 0x400u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSUTCModel");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_UTCModel(ctx, &pvalue->uePositioningGANSSUTCModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSAddUTCModels */
-   if (pvalue->m & 0x800u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSAddUTCModels");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AddUTCModels(ctx, &pvalue->uePositioningGANSSAddUTCModels);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGANSSAuxiliaryInfo */
-   if (pvalue->m & 0x1000u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGANSSAuxiliaryInfo");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AuxiliaryInfo(ctx, &pvalue->uePositioningGANSSAuxiliaryInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_DGANSSCorrections_v920ext(rtxContext* ctx, const UE_Positioning_DGANSSCorrections_v920ext* pvalue)
+int asn1PE_UMTS_CellUpdateConfirm_later_than_r3(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-DGANSSCorrections-v920ext");
-   /* dganssInfoList */
-   rtxCtxtPushElemName(ctx, "dganssInfoList");
-   stat = asn1PE_UMTS_DGANSSInfoList_v920ext(ctx, &pvalue->dganssInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_GANSSGenericData_v920ext(rtxContext* ctx, const GANSSGenericData_v920ext* pvalue)
+int asn1PE_UMTS_CellUpdateConfirm(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "GANSSGenericData-v920ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdateConfirm");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "CellUpdateConfirm");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CellUpdateConfirm");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r3", -1, "CellUpdateConfirm");
+         stat = asn1PE_UMTS_CellUpdateConfirm_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "CellUpdateConfirm");
+         break;
+      case 2:
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "later-than-r3", -1, "CellUpdateConfirm");
+         stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "CellUpdateConfirm");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* uePositioningDGANSSCorrections */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v690ext */
+   stat = asn1PE_UMTS_CellUpdateConfirm_v690ext_IEs(ctx, &pvalue->cellUpdateConfirm_v690ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v690ext", -1, 0);
+   /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "uePositioningDGANSSCorrections");
-      stat = asn1PE_UMTS_UE_Positioning_DGANSSCorrections_v920ext(ctx, &pvalue->uePositioningDGANSSCorrections);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_GANSSGenericDataList(rtxContext* ctx, const GANSSGenericDataList* pvalue)
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "GANSSGenericDataList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "GANSSGenericData", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_GANSSGenericData(ctx, (const GANSSGenericData*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSGenericDataList_v860ext(rtxContext* ctx, const GANSSGenericDataList_v860ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "GANSSGenericDataList-v860ext");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "GANSSGenericData-v860ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_GANSSGenericData_v860ext(ctx, (const GANSSGenericData_v860ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSGenericDataList_r8(rtxContext* ctx, const GANSSGenericDataList_r8* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "GANSSGenericDataList-r8");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "GANSSGenericData-r8", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_GANSSGenericData_r8(ctx, (const GANSSGenericData_r8*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSGenericDataList_r9(rtxContext* ctx, const GANSSGenericDataList_r9* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "GANSSGenericDataList-r9");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "GANSSGenericData-r9", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_GANSSGenericData_r9(ctx, (const GANSSGenericData_r9*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSGenericDataList_v920ext(rtxContext* ctx, const GANSSGenericDataList_v920ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "GANSSGenericDataList-v920ext");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "GANSSGenericData-v920ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_GANSSGenericData_v920ext(ctx, (const GANSSGenericData_v920ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SatellitesListRelatedData(rtxContext* ctx, const SatellitesListRelatedData* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SatellitesListRelatedData");
-   /* satId */
-   rtxCtxtPushElemName(ctx, "satId");
-   if ((uint64_t)pvalue->satId > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->satId);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->satId, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* iod */
-   rtxCtxtPushElemName(ctx, "iod");
-   if ((uint64_t)pvalue->iod > 1023u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->iod);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->iod, 0, 1023);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SatellitesListRelatedDataList(rtxContext* ctx, const SatellitesListRelatedDataList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "SatellitesListRelatedDataList");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "SatellitesListRelatedData", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_SatellitesListRelatedData(ctx, (const SatellitesListRelatedData*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GanssNavigationModelAdditionalData(rtxContext* ctx, const GanssNavigationModelAdditionalData* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "GanssNavigationModelAdditionalData");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ganssWeek */
-   rtxCtxtPushElemName(ctx, "ganssWeek");
-   if ((uint64_t)pvalue->ganssWeek > 4095u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ganssWeek);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ganssWeek, 0, 4095);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganssToe */
-   rtxCtxtPushElemName(ctx, "ganssToe");
-   if ((uint64_t)pvalue->ganssToe > 167u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ganssToe);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ganssToe, 0, 167);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* t-toeLimit */
-   rtxCtxtPushElemName(ctx, "t-toeLimit");
-   if ((uint64_t)pvalue->t_toeLimit > 10u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->t_toeLimit);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->t_toeLimit, 0, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* satellitesListRelatedDataList */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v5d0ext */
+   stat = asn1PE_UMTS_CellUpdateConfirm_v5d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v5d0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v5d0ext", -1, 0);
+   /* v690NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "satellitesListRelatedDataList");
-      stat = asn1PE_UMTS_SatellitesListRelatedDataList(ctx, &pvalue->satellitesListRelatedDataList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_GanssReqGenericData(rtxContext* ctx, const GanssReqGenericData* pvalue)
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "GanssReqGenericData");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat);
-   /* ganssId */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v590ext */
+   stat = asn1PE_UMTS_CellUpdateConfirm_v590ext_IEs(ctx, &pvalue->cellUpdateConfirm_v590ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v590ext", -1, 0);
+   /* v5d0NonCriticalExtenstions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ganssId");
-      if ((uint64_t)pvalue->ganssId > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->ganssId);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssId, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
+      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
    }
-   /* ganssRealTimeIntegrity */
-   rtxCtxtPushElemName(ctx, "ganssRealTimeIntegrity");
-   stat = rtxEncBit(ctx, pvalue->ganssRealTimeIntegrity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganssDifferentialCorrection */
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v4b0ext */
+   stat = asn1PE_UMTS_CellUpdateConfirm_v4b0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v4b0ext", -1, 0);
+   /* v590NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-CCCH-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->cellUpdateConfirm_CCCH_r3_add_ext.numbits, pvalue->cellUpdateConfirm_CCCH_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-CCCH-r3-add-ext", -1, 0);
+   }
+   /* v4b0NonCriticalExtensions */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ganssDifferentialCorrection");
-      stat = asn1PE_UMTS_DGANSS_Sig_Id_Req(ctx, pvalue->ganssDifferentialCorrection);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
    }
-   /* ganssAlmanac */
-   rtxCtxtPushElemName(ctx, "ganssAlmanac");
-   stat = rtxEncBit(ctx, pvalue->ganssAlmanac);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganssNavigationModel */
-   rtxCtxtPushElemName(ctx, "ganssNavigationModel");
-   stat = rtxEncBit(ctx, pvalue->ganssNavigationModel);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganssTimeModelGNSS-GNSS */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "ganssTimeModelGNSS-GNSS");
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pe_BitString32(ctx, &pvalue->ganssTimeModelGNSS_GNSS, 8, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssReferenceMeasurementInfo */
-   rtxCtxtPushElemName(ctx, "ganssReferenceMeasurementInfo");
-   stat = rtxEncBit(ctx, pvalue->ganssReferenceMeasurementInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganssDataBits */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "ganssDataBits");
-      stat = asn1PE_UMTS_GanssDataBits(ctx, &pvalue->ganssDataBits);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssUTCModel */
-   rtxCtxtPushElemName(ctx, "ganssUTCModel");
-   stat = rtxEncBit(ctx, pvalue->ganssUTCModel);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganssNavigationModelAdditionalData */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "ganssNavigationModelAdditionalData");
-      stat = asn1PE_UMTS_GanssNavigationModelAdditionalData(ctx, &pvalue->ganssNavigationModelAdditionalData);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_GanssReqGenericData_v860ext_ganssAddNavigationModel(rtxContext* ctx, GanssReqGenericData_v860ext_ganssAddNavigationModel value)
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_r3(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_r3* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_GanssReqGenericData_v860ext_ganssAddUTCmodel(rtxContext* ctx, GanssReqGenericData_v860ext_ganssAddUTCmodel value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_GanssReqGenericData_v860ext_ganssAuxInfo(rtxContext* ctx, GanssReqGenericData_v860ext_ganssAuxInfo value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_GanssReqGenericData_v860ext_ganssAddADchoices(rtxContext* ctx, const GanssReqGenericData_v860ext_ganssAddADchoices* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* orbitModelID */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* u-RNTI */
+   stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, 0);
+   /* cellUpdateConfirm-r3 */
+   stat = asn1PE_UMTS_CellUpdateConfirm_r3_IEs(ctx, &pvalue->cellUpdateConfirm_r3);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r3", -1, 0);
+   /* laterNonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "orbitModelID");
-      if ((uint64_t)pvalue->orbitModelID > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->orbitModelID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->orbitModelID, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
    }
-   /* clockModelID */
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v690ext */
+   stat = asn1PE_UMTS_CellUpdateConfirm_v690ext_IEs(ctx, &pvalue->cellUpdateConfirm_v690ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v690ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v5d0ext */
+   stat = asn1PE_UMTS_CellUpdateConfirm_v5d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v5d0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v5d0ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v590ext */
+   stat = asn1PE_UMTS_CellUpdateConfirm_v590ext_IEs(ctx, &pvalue->cellUpdateConfirm_v590ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v590ext", -1, 0);
+   /* v5d0NonCriticalExtenstions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
+      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-CCCH-r4-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->cellUpdateConfirm_CCCH_r4_add_ext.numbits, pvalue->cellUpdateConfirm_CCCH_r4_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-CCCH-r4-add-ext", -1, 0);
+   }
+   /* v590NonCriticalExtensions */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "clockModelID");
-      if ((uint64_t)pvalue->clockModelID > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->clockModelID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->clockModelID, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* utcModelID */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "utcModelID");
-      if ((uint64_t)pvalue->utcModelID > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->utcModelID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->utcModelID, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* almanacModelID */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "almanacModelID");
-      if ((uint64_t)pvalue->almanacModelID > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->almanacModelID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->almanacModelID, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_GanssReqGenericData_v860ext(rtxContext* ctx, const GanssReqGenericData_v860ext* pvalue)
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "GanssReqGenericData-v860ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat);
-   /* sbasId */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r4 */
+   stat = asn1PE_UMTS_CellUpdateConfirm_r4_IEs(ctx, &pvalue->cellUpdateConfirm_r4);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r4", -1, 0);
+   /* v4d0NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sbasId");
-      rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-SBAS-ID");
-      if (pvalue->sbasId > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->sbasId);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->sbasId, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
    }
-   /* ganssAddNavigationModel */
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v690ext */
+   stat = asn1PE_UMTS_CellUpdateConfirm_v690ext_IEs(ctx, &pvalue->cellUpdateConfirm_v690ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v690ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v5d0ext */
+   stat = asn1PE_UMTS_CellUpdateConfirm_v5d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v5d0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v5d0ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r5 */
+   stat = asn1PE_UMTS_CellUpdateConfirm_r5_IEs(ctx, &pvalue->cellUpdateConfirm_r5);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r5", -1, 0);
+   /* cellUpdateConfirm-CCCH-r5-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->cellUpdateConfirm_CCCH_r5_add_ext.numbits, pvalue->cellUpdateConfirm_CCCH_r5_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-CCCH-r5-add-ext", -1, 0);
+   }
+   /* v5d0NonCriticalExtenstions */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ganssAddNavigationModel");
-      if (pvalue->ganssAddNavigationModel > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->ganssAddNavigationModel);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssAddNavigationModel, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
+      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
    }
-   /* ganssAddUTCmodel */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "ganssAddUTCmodel");
-      if (pvalue->ganssAddUTCmodel > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->ganssAddUTCmodel);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssAddUTCmodel, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssAuxInfo */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "ganssAuxInfo");
-      if (pvalue->ganssAuxInfo > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->ganssAuxInfo);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssAuxInfo, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssAddADchoices */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "ganssAddADchoices");
-      stat = asn1PE_UMTS_GanssReqGenericData_v860ext_ganssAddADchoices(ctx, &pvalue->ganssAddADchoices);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_GanssRequestedGenericAssistanceDataList(rtxContext* ctx, const GanssRequestedGenericAssistanceDataList* pvalue)
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "GanssRequestedGenericAssistanceDataList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "GanssReqGenericData", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_GanssReqGenericData(ctx, (const GanssReqGenericData*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_GanssRequestedGenericAssistanceDataList_v860ext(rtxContext* ctx, const GanssRequestedGenericAssistanceDataList_v860ext* pvalue)
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "GanssRequestedGenericAssistanceDataList-v860ext");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "GanssReqGenericData-v860ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_GanssReqGenericData_v860ext(ctx, (const GanssReqGenericData_v860ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSS_Storm_Flag(rtxContext* ctx, const GANSS_Storm_Flag* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "GANSS-Storm-Flag");
-   /* storm-flag-one */
-   rtxCtxtPushElemName(ctx, "storm-flag-one");
-   stat = rtxEncBit(ctx, pvalue->storm_flag_one);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* storm-flag-two */
-   rtxCtxtPushElemName(ctx, "storm-flag-two");
-   stat = rtxEncBit(ctx, pvalue->storm_flag_two);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* storm-flag-three */
-   rtxCtxtPushElemName(ctx, "storm-flag-three");
-   stat = rtxEncBit(ctx, pvalue->storm_flag_three);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* storm-flag-four */
-   rtxCtxtPushElemName(ctx, "storm-flag-four");
-   stat = rtxEncBit(ctx, pvalue->storm_flag_four);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* storm-flag-five */
-   rtxCtxtPushElemName(ctx, "storm-flag-five");
-   stat = rtxEncBit(ctx, pvalue->storm_flag_five);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_CarrierRSSI(rtxContext* ctx, GSM_CarrierRSSI value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "GSM-CarrierRSSI");
-   RT_SET_SIZE(ctx, 6, 6);
-   stat = pe_BitString32(ctx, &value, 6, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ObservedTimeDifferenceToGSM(rtxContext* ctx, ObservedTimeDifferenceToGSM value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ObservedTimeDifferenceToGSM");
-   if ((uint64_t)value > 4095u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 4095);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_MeasuredResults(rtxContext* ctx, const GSM_MeasuredResults* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "GSM-MeasuredResults");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* gsm-CarrierRSSI */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v6b0ext */
+   stat = asn1PE_UMTS_CellUpdateConfirm_v6b0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v6b0ext", -1, 0);
+   /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "gsm-CarrierRSSI");
-      stat = asn1PE_UMTS_GSM_CarrierRSSI(ctx, pvalue->gsm_CarrierRSSI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r6 */
+   stat = asn1PE_UMTS_CellUpdateConfirm_r6_IEs(ctx, &pvalue->cellUpdateConfirm_r6);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r6", -1, 0);
+   /* cellUpdateConfirm-r6-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->cellUpdateConfirm_r6_add_ext.numbits, pvalue->cellUpdateConfirm_r6_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r6-add-ext", -1, 0);
+   }
+   /* v6b0NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v860ext */
+   stat = asn1PE_UMTS_CellUpdateConfirm_v860ext_IEs(ctx, &pvalue->cellUpdateConfirm_v860ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v780ext */
+   stat = asn1PE_UMTS_CellUpdateConfirm_v780ext_IEs(ctx, &pvalue->cellUpdateConfirm_v780ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v780ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r7 */
+   stat = asn1PE_UMTS_CellUpdateConfirm_r7_IEs(ctx, &pvalue->cellUpdateConfirm_r7);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r7", -1, 0);
+   /* cellUpdateConfirm-r7-add-ext */
+   if (pvalue->m & 0x1u) {
+      {
+         rtxContext outer;
+         const uint8_t* data;
+         uint32_t len;
+         rtxCopyContext(&outer, ctx);
+         stat = rtxInitContextBuffer(ctx, 0, 0);
+         RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r7-add-ext", -1, 0);
+         stat = asn1PE_UMTS_CellUpdateConfirm_r7_add_ext_IEs(ctx, &pvalue->cellUpdateConfirm_r7_add_ext);
+         RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r7-add-ext", -1, 0);
+         data = ctx->buffer_data;
+         len = ctx->byte_index * 8 + 8 - ctx->bit_offset;
+         rtxCopyContext(ctx, &outer);
+         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+         stat = pe_BitString(ctx, len, data);
+         rtxMemHeapFreePtr(ctx, (void*)data);
+         RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r7-add-ext", -1, 0);
+      }
+   }
+   /* v780NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v780NonCriticalExtensions", -1, 0);
+   }
+   return stat;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v8a0ext */
+   stat = asn1PE_UMTS_CellUpdateConfirm_v8a0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v8a0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v8a0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v890ext */
+   stat = asn1PE_UMTS_CellUpdateConfirm_v890ext_IEs(ctx, &pvalue->cellUpdateConfirm_v890ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v890ext", -1, 0);
+   /* v8a0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v8a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-v7d0ext */
+   stat = asn1PE_UMTS_CellUpdateConfirm_v7d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7d0ext);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v7d0ext", -1, 0);
+   /* v890NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r8 */
+   stat = asn1PE_UMTS_CellUpdateConfirm_r8_IEs(ctx, &pvalue->cellUpdateConfirm_r8);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r8", -1, 0);
+   /* cellUpdateConfirm-r8-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->cellUpdateConfirm_r8_add_ext.numbits, pvalue->cellUpdateConfirm_r8_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r8-add-ext", -1, 0);
+   }
+   /* v7d0NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* cellUpdateConfirm-r9 */
+   stat = asn1PE_UMTS_CellUpdateConfirm_r9_IEs(ctx, &pvalue->cellUpdateConfirm_r9);
+   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r9", -1, 0);
+   /* cellUpdateConfirm-r9-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->cellUpdateConfirm_r9_add_ext.numbits, pvalue->cellUpdateConfirm_r9_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r9-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r9 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r9", -1, 0);
+         stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
+         RT_CHECK(ctx, stat, 0, "r9", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r8 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r8", -1, 0);
+         stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
+         RT_CHECK(ctx, stat, 0, "r8", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r7", -1, 0);
+         stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
+         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r6 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r6", -1, 0);
+         stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(ctx, pvalue->u.r6);
+         RT_CHECK(ctx, stat, 0, "r6", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r5", -1, 0);
+         stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5(ctx, pvalue->u.r5);
+         RT_CHECK(ctx, stat, 0, "r5", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r4", -1, 0);
+         stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
+         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* u-RNTI */
+   stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, 0);
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateConfirm_CCCH(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_CCCH* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdateConfirm-CCCH");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "CellUpdateConfirm-CCCH");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CellUpdateConfirm-CCCH");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r3", -1, "CellUpdateConfirm-CCCH");
+         stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "CellUpdateConfirm-CCCH");
+         break;
+      case 2:
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "later-than-r3", -1, "CellUpdateConfirm-CCCH");
+         stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "CellUpdateConfirm-CCCH");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CounterCheck_r3_IEs(rtxContext* RT_RESTRICT ctx, const CounterCheck_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CounterCheck-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "CounterCheck-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "CounterCheck-r3-IEs");
+   /* rb-COUNT-C-MSB-InformationList */
+   stat = asn1PE_UMTS_RB_COUNT_C_MSB_InformationList(ctx, &pvalue->rb_COUNT_C_MSB_InformationList);
+   RT_CHECK(ctx, stat, 0, "rb-COUNT-C-MSB-InformationList", -1, "CounterCheck-r3-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_CounterCheck_r3_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CounterCheck_r3_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CounterCheck_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CounterCheck_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* counterCheck-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->counterCheck_r3_add_ext.numbits, pvalue->counterCheck_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "counterCheck-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CounterCheck_r3_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CounterCheck_r3(rtxContext* RT_RESTRICT ctx, const CounterCheck_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* counterCheck-r3 */
+   stat = asn1PE_UMTS_CounterCheck_r3_IEs(ctx, &pvalue->counterCheck_r3);
+   RT_CHECK(ctx, stat, 0, "counterCheck-r3", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CounterCheck_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CounterCheck_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, const CounterCheck_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CounterCheck_later_than_r3(rtxContext* RT_RESTRICT ctx, const CounterCheck_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PE_UMTS_CounterCheck_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CounterCheck(rtxContext* RT_RESTRICT ctx, const CounterCheck* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CounterCheck");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "CounterCheck");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CounterCheck");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r3", -1, "CounterCheck");
+         stat = asn1PE_UMTS_CounterCheck_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "CounterCheck");
+         break;
+      case 2:
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "later-than-r3", -1, "CounterCheck");
+         stat = asn1PE_UMTS_CounterCheck_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "CounterCheck");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CounterCheckResponse_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CounterCheckResponse_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CounterCheckResponse_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CounterCheckResponse_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* counterCheckResponse-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->counterCheckResponse_r3_add_ext.numbits, pvalue->counterCheckResponse_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "counterCheckResponse-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CounterCheckResponse_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CounterCheckResponse(rtxContext* RT_RESTRICT ctx, const CounterCheckResponse* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CounterCheckResponse");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CounterCheckResponse");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "CounterCheckResponse");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "CounterCheckResponse");
+   /* rb-COUNT-C-InformationList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RB_COUNT_C_InformationList(ctx, &pvalue->rb_COUNT_C_InformationList);
+      RT_CHECK(ctx, stat, 0, "rb-COUNT-C-InformationList", -1, "CounterCheckResponse");
+   }
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CounterCheckResponse_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "CounterCheckResponse");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkDirectTransfer_r3_IEs(rtxContext* RT_RESTRICT ctx, const DownlinkDirectTransfer_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DownlinkDirectTransfer-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "DownlinkDirectTransfer-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "DownlinkDirectTransfer-r3-IEs");
+   /* cn-DomainIdentity */
+   if (pvalue->cn_DomainIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "DownlinkDirectTransfer-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "DownlinkDirectTransfer-r3-IEs");
+   /* nas-Message */
+   stat = asn1PE_UMTS_NAS_Message(ctx, &pvalue->nas_Message);
+   RT_CHECK(ctx, stat, 0, "nas-Message", -1, "DownlinkDirectTransfer-r3-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkDirectTransfer_r3_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const DownlinkDirectTransfer_r3_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkDirectTransfer_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const DownlinkDirectTransfer_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* downlinkDirectTransfer-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->downlinkDirectTransfer_r3_add_ext.numbits, pvalue->downlinkDirectTransfer_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "downlinkDirectTransfer-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_DownlinkDirectTransfer_r3_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkDirectTransfer_r3(rtxContext* RT_RESTRICT ctx, const DownlinkDirectTransfer_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* downlinkDirectTransfer-r3 */
+   stat = asn1PE_UMTS_DownlinkDirectTransfer_r3_IEs(ctx, &pvalue->downlinkDirectTransfer_r3);
+   RT_CHECK(ctx, stat, 0, "downlinkDirectTransfer-r3", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DownlinkDirectTransfer_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkDirectTransfer_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, const DownlinkDirectTransfer_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkDirectTransfer_later_than_r3(rtxContext* RT_RESTRICT ctx, const DownlinkDirectTransfer_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PE_UMTS_DownlinkDirectTransfer_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkDirectTransfer(rtxContext* RT_RESTRICT ctx, const DownlinkDirectTransfer* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DownlinkDirectTransfer");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "DownlinkDirectTransfer");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DownlinkDirectTransfer");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r3", -1, "DownlinkDirectTransfer");
+         stat = asn1PE_UMTS_DownlinkDirectTransfer_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "DownlinkDirectTransfer");
+         break;
+      case 2:
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "later-than-r3", -1, "DownlinkDirectTransfer");
+         stat = asn1PE_UMTS_DownlinkDirectTransfer_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "DownlinkDirectTransfer");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ETWSPrimaryNotificationWithSecurity_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ETWSPrimaryNotificationWithSecurity_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_ETWSPrimaryNotificationWithSecurity(rtxContext* RT_RESTRICT ctx, const ETWSPrimaryNotificationWithSecurity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ETWSPrimaryNotificationWithSecurity");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ETWSPrimaryNotificationWithSecurity");
+   /* etws-Information */
+   stat = asn1PE_UMTS_ETWS_Information(ctx, &pvalue->etws_Information);
+   RT_CHECK(ctx, stat, 0, "etws-Information", -1, "ETWSPrimaryNotificationWithSecurity");
+   /* etws-WarningSecurityInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ETWS_WarningSecurityInfo(ctx, &pvalue->etws_WarningSecurityInfo);
+      RT_CHECK(ctx, stat, 0, "etws-WarningSecurityInfo", -1, "ETWSPrimaryNotificationWithSecurity");
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_ETWSPrimaryNotificationWithSecurity_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "ETWSPrimaryNotificationWithSecurity");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* dummy */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      if ((uint64_t)(pvalue->dummy - 46) > 127u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->dummy);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dummy, 46, 173);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
    }
-   /* bsicReported */
-   rtxCtxtPushElemName(ctx, "bsicReported");
-   stat = asn1PE_UMTS_BSICReported(ctx, &pvalue->bsicReported);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
    /* dummy2 */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "dummy2");
-      rtxCtxtPushTypeName(ctx, "ObservedTimeDifferenceToGSM");
-      if ((uint64_t)pvalue->dummy2 > 4095u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->dummy2);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dummy2, 0, 4095);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_MeasuredResultsList(rtxContext* ctx, const GSM_MeasuredResultsList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "GSM-MeasuredResultsList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "GSM-MeasuredResults", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_GSM_MeasuredResults(ctx, (const GSM_MeasuredResults*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GPS_TOW_1sec(rtxContext* ctx, GPS_TOW_1sec value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "GPS-TOW-1sec");
-   if ((uint64_t)value > 604799u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 604799);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GPS_TOW_Assist(rtxContext* ctx, const GPS_TOW_Assist* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "GPS-TOW-Assist");
-   /* satID */
-   rtxCtxtPushElemName(ctx, "satID");
-   rtxCtxtPushTypeName(ctx, "SatID");
-   if ((uint64_t)pvalue->satID > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->satID);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->satID, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* tlm-Message */
-   rtxCtxtPushElemName(ctx, "tlm-Message");
-   RT_SET_SIZE(ctx, 14, 14);
-   stat = pe_BitString32(ctx, &pvalue->tlm_Message, 14, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tlm-Reserved */
-   rtxCtxtPushElemName(ctx, "tlm-Reserved");
-   RT_SET_SIZE(ctx, 2, 2);
-   stat = pe_BitString32(ctx, &pvalue->tlm_Reserved, 2, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* alert */
-   rtxCtxtPushElemName(ctx, "alert");
-   stat = rtxEncBit(ctx, pvalue->alert);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* antiSpoof */
-   rtxCtxtPushElemName(ctx, "antiSpoof");
-   stat = rtxEncBit(ctx, pvalue->antiSpoof);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GPS_TOW_AssistList(rtxContext* ctx, const GPS_TOW_AssistList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "GPS-TOW-AssistList");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "GPS-TOW-Assist", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_GPS_TOW_Assist(ctx, (const GPS_TOW_Assist*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_CellID(rtxContext* ctx, const GSM_CellID* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "GSM-CellID");
-   /* gsm-CellID */
-   rtxCtxtPushElemName(ctx, "gsm-CellID");
-   if ((uint64_t)pvalue->gsm_CellID > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->gsm_CellID);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->gsm_CellID, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_PriorityInfo(rtxContext* ctx, const GSM_PriorityInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "GSM-PriorityInfo");
-   /* gsmCellGroup */
-   rtxCtxtPushElemName(ctx, "gsmCellGroup");
-   stat = asn1PE_UMTS_GSM_CellGroup(ctx, &pvalue->gsmCellGroup);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* priority */
-   rtxCtxtPushElemName(ctx, "priority");
-   if ((uint64_t)pvalue->priority > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->priority);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->priority, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* qRxLevMinGSM */
-   rtxCtxtPushElemName(ctx, "qRxLevMinGSM");
-   if (pvalue->qRxLevMinGSM < -58 || pvalue->qRxLevMinGSM > -13) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->qRxLevMinGSM);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->qRxLevMinGSM, -58, -13);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* threshXhigh */
-   rtxCtxtPushElemName(ctx, "threshXhigh");
-   if ((uint64_t)pvalue->threshXhigh > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->threshXhigh);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->threshXhigh, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* threshXlow */
-   rtxCtxtPushElemName(ctx, "threshXlow");
-   if ((uint64_t)pvalue->threshXlow > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->threshXlow);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->threshXlow, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_PriorityInfoList(rtxContext* ctx, const GSM_PriorityInfoList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "GSM-PriorityInfoList");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "GSM-PriorityInfo", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_GSM_PriorityInfo(ctx, (const GSM_PriorityInfo*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GSMCellGroupingList(rtxContext* ctx, const GSMCellGroupingList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "GSMCellGroupingList");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "GSM-CellID", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_GSM_CellID(ctx, (const GSM_CellID*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IdleIntervalInfo(rtxContext* ctx, const IdleIntervalInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IdleIntervalInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* k */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "k");
-      if ((uint64_t)(pvalue->k - 2) > 1u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->k);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->k, 2, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* offset */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "offset");
-      if ((uint64_t)pvalue->offset > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->offset);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->offset, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CPCH_SetInfo(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_InterFreqCell_LCR_r4(rtxContext* ctx, const InterFreqCell_LCR_r4* pvalue)
+int asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqCell-LCR-r4");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r3_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* srb-InformationSetupList */
+   stat = asn1PE_UMTS_SRB_InformationSetupList(ctx, &pvalue->srb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, 0);
+   /* rab-InformationSetupList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RAB_InformationSetupList(ctx, &pvalue->rab_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, 0);
+   }
+   /* ul-CommonTransChInfo */
+   stat = asn1PE_UMTS_UL_CommonTransChInfo(ctx, &pvalue->ul_CommonTransChInfo);
+   RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
+   /* ul-AddReconfTransChInfoList */
+   stat = asn1PE_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+   RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
+   /* dl-CommonTransChInfo */
+   stat = asn1PE_UMTS_DL_CommonTransChInfo(ctx, &pvalue->dl_CommonTransChInfo);
+   RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
+   /* dl-AddReconfTransChInfoList */
+   stat = asn1PE_UMTS_DL_AddReconfTransChInfoList(ctx, &pvalue->dl_AddReconfTransChInfoList);
+   RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PE_UMTS_UL_DPCH_Info(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
+   /* dl-CommonInformation */
+   stat = asn1PE_UMTS_DL_CommonInformation(ctx, &pvalue->dl_CommonInformation);
+   RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, 0);
+   /* dl-InformationPerRL-List */
+   stat = asn1PE_UMTS_DL_InformationPerRL_List(ctx, &pvalue->dl_InformationPerRL_List);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
    /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
    stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonFreqRelatedEventResults */
-   rtxCtxtPushElemName(ctx, "nonFreqRelatedEventResults");
-   stat = asn1PE_UMTS_CellMeasurementEventResults_LCR_r4(ctx, &pvalue->nonFreqRelatedEventResults);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_NewInterFreqCell(rtxContext* ctx, const NewInterFreqCell* pvalue)
+int asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCell");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellID */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interFreqCellID");
-      rtxCtxtPushTypeName(ctx, "InterFreqCellID");
-      if ((uint64_t)pvalue->interFreqCellID > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* defaultConfigMode */
+   if (pvalue->defaultConfigMode > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigMode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DefaultConfigMode", "defaultConfigMode", -1, 0);
    }
-   /* frequencyInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   /* defaultConfigIdentity */
+   if ((uint64_t)pvalue->defaultConfigIdentity > 10u) {
+      rtxErrAddStrParm(ctx, "DefaultConfigIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultConfigIdentity", "defaultConfigIdentity", -1, 0);
    }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PE_UMTS_CellInfo(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigIdentity, 0, 10);
+   RT_CHECK(ctx, stat, "DefaultConfigIdentity", "defaultConfigIdentity", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_NewInterFreqCellList(rtxContext* ctx, const NewInterFreqCellList* pvalue)
+int asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellList");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "NewInterFreqCell", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_NewInterFreqCell(ctx, (const NewInterFreqCell*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqCellInfoList(rtxContext* ctx, const InterFreqCellInfoList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqCellInfoList");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* removedInterFreqCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "removedInterFreqCellList");
-      stat = asn1PE_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      stat = asn1PE_UMTS_NewInterFreqCellList(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellsForInterFreqMeasList */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "cellsForInterFreqMeasList");
-      stat = asn1PE_UMTS_CellsForInterFreqMeasList(ctx, &pvalue->cellsForInterFreqMeasList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCell_r4(rtxContext* ctx, const NewInterFreqCell_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCell-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellID */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interFreqCellID");
-      rtxCtxtPushTypeName(ctx, "InterFreqCellID");
-      if ((uint64_t)pvalue->interFreqCellID > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PE_UMTS_CellInfo_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCellList_r4(rtxContext* ctx, const NewInterFreqCellList_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellList-r4");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "NewInterFreqCell-r4", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_NewInterFreqCell_r4(ctx, (const NewInterFreqCell_r4*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqCellInfoList_r4(rtxContext* ctx, const InterFreqCellInfoList_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqCellInfoList-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* removedInterFreqCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "removedInterFreqCellList");
-      stat = asn1PE_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      stat = asn1PE_UMTS_NewInterFreqCellList_r4(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellsForInterFreqMeasList */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "cellsForInterFreqMeasList");
-      stat = asn1PE_UMTS_CellsForInterFreqMeasList(ctx, &pvalue->cellsForInterFreqMeasList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCell_r8_modeSpecificInfo_tdd128(rtxContext* ctx, const NewInterFreqCell_r8_modeSpecificInfo_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* intraSecondaryFreqIndicator */
-   rtxCtxtPushElemName(ctx, "intraSecondaryFreqIndicator");
-   stat = rtxEncBit(ctx, pvalue->intraSecondaryFreqIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCell_r8_modeSpecificInfo(rtxContext* ctx, const NewInterFreqCell_r8_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "noInfo");
-         rtxCtxtPopElemName(ctx);
+         if ((uint64_t)pvalue->u.predefinedConfigIdentity > 15u) {
+            rtxErrAddStrParm(ctx, "PredefinedConfigIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.predefinedConfigIdentity);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.predefinedConfigIdentity, 0, 15);
+         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_NewInterFreqCell_r8_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "defaultConfig", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
+         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
          break;
       default:
          break;
@@ -2299,138 +2769,114 @@ int asn1PE_UMTS_NewInterFreqCell_r8_modeSpecificInfo(rtxContext* ctx, const NewI
    return 0;
 }
 
-int asn1PE_UMTS_NewInterFreqCell_r8(rtxContext* ctx, const NewInterFreqCell_r8* pvalue)
+int asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCell-r8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellID */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interFreqCellID");
-      rtxCtxtPushTypeName(ctx, "InterFreqCellID");
-      if ((uint64_t)pvalue->interFreqCellID > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PE_UMTS_UL_DPCH_InfoPostFDD(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-CommonInformationPost */
+   stat = asn1PE_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
+   RT_CHECK(ctx, stat, 0, "dl-CommonInformationPost", -1, 0);
+   /* dl-InformationPerRL-List */
+   stat = asn1PE_UMTS_DL_InformationPerRL_ListPostFDD(ctx, &pvalue->dl_InformationPerRL_List);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
    /* frequencyInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   stat = asn1PE_UMTS_FrequencyInfoFDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PE_UMTS_UL_DPCH_InfoPostTDD(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-CommonInformationPost */
+   stat = asn1PE_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
+   RT_CHECK(ctx, stat, 0, "dl-CommonInformationPost", -1, 0);
+   /* dl-InformationPerRL */
+   stat = asn1PE_UMTS_DL_InformationPerRL_PostTDD(ctx, &pvalue->dl_InformationPerRL);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+      rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
    }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PE_UMTS_CellInfo_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* preConfigMode */
+   stat = asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
+   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
+   /* rab-Info */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RAB_Info_Post(ctx, &pvalue->rab_Info);
+      RT_CHECK(ctx, stat, 0, "rab-Info", -1, 0);
+   }
    /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_NewInterFreqCell_r8_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   stat = asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_NewInterFreqCellList_r8(rtxContext* ctx, const NewInterFreqCellList_r8* pvalue)
+int asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r3_IEs_specificationMode* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellList-r8");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "NewInterFreqCell-r8", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_NewInterFreqCell_r8(ctx, (const NewInterFreqCell_r8*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqCellInfoList_r8(rtxContext* ctx, const InterFreqCellInfoList_r8* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqCellInfoList-r8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* removedInterFreqCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "removedInterFreqCellList");
-      stat = asn1PE_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      stat = asn1PE_UMTS_NewInterFreqCellList_r8(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellsForInterFreqMeasList */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "cellsForInterFreqMeasList");
-      stat = asn1PE_UMTS_CellsForInterFreqMeasList(ctx, &pvalue->cellsForInterFreqMeasList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCell_r9_modeSpecificInfo_tdd128(rtxContext* ctx, const NewInterFreqCell_r9_modeSpecificInfo_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* intraSecondaryFreqIndicator */
-   rtxCtxtPushElemName(ctx, "intraSecondaryFreqIndicator");
-   stat = rtxEncBit(ctx, pvalue->intraSecondaryFreqIndicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCell_r9_modeSpecificInfo(rtxContext* ctx, const NewInterFreqCell_r9_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "noInfo");
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "complete", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_NewInterFreqCell_r9_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "preconfiguration", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
+         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
          break;
       default:
          break;
@@ -2438,103 +2884,105 @@ int asn1PE_UMTS_NewInterFreqCell_r9_modeSpecificInfo(rtxContext* ctx, const NewI
    return 0;
 }
 
-int asn1PE_UMTS_NewInterFreqCell_r9(rtxContext* ctx, const NewInterFreqCell_r9* pvalue)
+int asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r3_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCell-r9");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HandoverToUTRANCommand-r3-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellID */
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-r3-IEs");
+   /* new-U-RNTI */
+   stat = asn1PE_UMTS_U_RNTI_Short(ctx, &pvalue->new_U_RNTI);
+   RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "HandoverToUTRANCommand-r3-IEs");
+   /* dummy */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interFreqCellID");
-      rtxCtxtPushTypeName(ctx, "InterFreqCellID");
-      if ((uint64_t)pvalue->interFreqCellID > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->dummy, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "dummy", -1, "HandoverToUTRANCommand-r3-IEs");
    }
-   /* frequencyInfo */
+   /* cipheringAlgorithm */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if (pvalue->cipheringAlgorithm > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->cipheringAlgorithm);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "CipheringAlgorithm", "cipheringAlgorithm", -1, "HandoverToUTRANCommand-r3-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->cipheringAlgorithm, 0, 1);
+      RT_CHECK(ctx, stat, "CipheringAlgorithm", "cipheringAlgorithm", -1, "HandoverToUTRANCommand-r3-IEs");
    }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PE_UMTS_CellInfo_r9(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_NewInterFreqCell_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCellList_r9(rtxContext* ctx, const NewInterFreqCellList_r9* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellList-r9");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "NewInterFreqCell-r9", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_NewInterFreqCell_r9(ctx, (const NewInterFreqCell_r9*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+   /* specificationMode */
+   stat = asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "HandoverToUTRANCommand-r3-IEs");
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+      rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+      rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "HandoverToUTRANCommand-r3-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
+   stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+   RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "HandoverToUTRANCommand-r3-IEs");
    return 0;
 }
 
-int asn1PE_UMTS_InterFreqSIAcquisition_modeSpecificInfo_fdd(rtxContext* ctx, const InterFreqSIAcquisition_modeSpecificInfo_fdd* pvalue)
+int asn1PE_UMTS_HandoverToUTRANCommand_r3_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r3_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* primaryScramblingCode */
-   rtxCtxtPushElemName(ctx, "primaryScramblingCode");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryScramblingCode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_InterFreqSIAcquisition_modeSpecificInfo(rtxContext* ctx, const InterFreqSIAcquisition_modeSpecificInfo* pvalue)
+int asn1PE_UMTS_HandoverToUTRANCommand_r3(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r3* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverToUTRANCommand-r3 */
+   stat = asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs(ctx, &pvalue->handoverToUTRANCommand_r3);
+   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-r3", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HandoverToUTRANCommand_r3_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   /* dummy2 */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CPCH_SetInfo(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterFreqSIAcquisition_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
          break;
       default:
          break;
@@ -2542,517 +2990,1132 @@ int asn1PE_UMTS_InterFreqSIAcquisition_modeSpecificInfo(rtxContext* ctx, const I
    return 0;
 }
 
-int asn1PE_UMTS_InterFreqSIAcquisition(rtxContext* ctx, const InterFreqSIAcquisition* pvalue)
+int asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r4_IEs_specificationMode_complete* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqSIAcquisition");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* srb-InformationSetupList */
+   stat = asn1PE_UMTS_SRB_InformationSetupList(ctx, &pvalue->srb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, 0);
+   /* rab-InformationSetupList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RAB_InformationSetupList_r4(ctx, &pvalue->rab_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, 0);
+   }
+   /* ul-CommonTransChInfo */
+   stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+   RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
+   /* ul-AddReconfTransChInfoList */
+   stat = asn1PE_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+   RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
+   /* dl-CommonTransChInfo */
+   stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+   RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
+   /* dl-AddReconfTransChInfoList */
+   stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r4(ctx, &pvalue->dl_AddReconfTransChInfoList);
+   RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PE_UMTS_UL_DPCH_Info_r4(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
+   /* dl-CommonInformation */
+   stat = asn1PE_UMTS_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation);
+   RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, 0);
+   /* dl-InformationPerRL-List */
+   stat = asn1PE_UMTS_DL_InformationPerRL_List_r4(ctx, &pvalue->dl_InformationPerRL_List);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
    /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
    stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_InterFreqSIAcquisition_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_InterFreqCellInfoList_r9(rtxContext* ctx, const InterFreqCellInfoList_r9* pvalue)
+int asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqCellInfoList-r9");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* defaultConfigMode */
+   if (pvalue->defaultConfigMode > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigMode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   /* defaultConfigIdentity */
+   if ((uint64_t)pvalue->defaultConfigIdentity > 12u) {
+      rtxErrAddStrParm(ctx, "DefaultConfigIdentity-r4");
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultConfigIdentity-r4", "defaultConfigIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigIdentity, 0, 12);
+   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r4", "defaultConfigIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)pvalue->u.predefinedConfigIdentity > 15u) {
+            rtxErrAddStrParm(ctx, "PredefinedConfigIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.predefinedConfigIdentity);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.predefinedConfigIdentity, 0, 15);
+         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "defaultConfig", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
+         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PE_UMTS_UL_DPCH_InfoPostFDD(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-CommonInformationPost */
+   stat = asn1PE_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
+   RT_CHECK(ctx, stat, 0, "dl-CommonInformationPost", -1, 0);
+   /* dl-InformationPerRL-List */
+   stat = asn1PE_UMTS_DL_InformationPerRL_ListPostFDD(ctx, &pvalue->dl_InformationPerRL_List);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PE_UMTS_FrequencyInfoFDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PE_UMTS_UL_DPCH_InfoPostTDD(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-InformationPerRL */
+   stat = asn1PE_UMTS_DL_InformationPerRL_PostTDD(ctx, &pvalue->dl_InformationPerRL);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+      rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PE_UMTS_UL_DPCH_InfoPostTDD_LCR_r4(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-InformationPerRL */
+   stat = asn1PE_UMTS_DL_InformationPerRL_PostTDD_LCR_r4(ctx, &pvalue->dl_InformationPerRL);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+      rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat);
-   /* removedInterFreqCellList */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* preConfigMode */
+   stat = asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
+   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
+   /* rab-Info */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "removedInterFreqCellList");
-      stat = asn1PE_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RAB_Info_Post(ctx, &pvalue->rab_Info);
+      RT_CHECK(ctx, stat, 0, "rab-Info", -1, 0);
    }
-   /* newInterFreqCellList */
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r4_IEs_specificationMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "complete", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "preconfiguration", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
+         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r4_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HandoverToUTRANCommand-r4-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-r4-IEs");
+   /* new-U-RNTI */
+   stat = asn1PE_UMTS_U_RNTI_Short(ctx, &pvalue->new_U_RNTI);
+   RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "HandoverToUTRANCommand-r4-IEs");
+   /* cipheringAlgorithm */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->cipheringAlgorithm > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->cipheringAlgorithm);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "CipheringAlgorithm", "cipheringAlgorithm", -1, "HandoverToUTRANCommand-r4-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->cipheringAlgorithm, 0, 1);
+      RT_CHECK(ctx, stat, "CipheringAlgorithm", "cipheringAlgorithm", -1, "HandoverToUTRANCommand-r4-IEs");
+   }
+   /* specificationMode */
+   stat = asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "HandoverToUTRANCommand-r4-IEs");
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+      rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+      rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "HandoverToUTRANCommand-r4-IEs");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+   RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "HandoverToUTRANCommand-r4-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_r4_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_criticalExtensions_r4_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_criticalExtensions_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverToUTRANCommand-r4 */
+   stat = asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs(ctx, &pvalue->handoverToUTRANCommand_r4);
+   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-r4", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_r4_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   /* dummy2 */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      stat = asn1PE_UMTS_NewInterFreqCellList_r9(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CPCH_SetInfo(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
    }
-   /* cellsForInterFreqMeasList */
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r5_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* srb-InformationSetupList */
+   stat = asn1PE_UMTS_SRB_InformationSetupList_r5(ctx, &pvalue->srb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, 0);
+   /* rab-InformationSetupList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RAB_InformationSetupList_r5(ctx, &pvalue->rab_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, 0);
+   }
+   /* ul-CommonTransChInfo */
+   stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+   RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
+   /* ul-AddReconfTransChInfoList */
+   stat = asn1PE_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+   RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
+   /* dl-CommonTransChInfo */
+   stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+   RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
+   /* dl-AddReconfTransChInfoList */
+   stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
+   RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PE_UMTS_UL_DPCH_Info_r5(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
+   /* dl-CommonInformation */
+   stat = asn1PE_UMTS_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation);
+   RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, 0);
+   /* dl-InformationPerRL-List */
+   stat = asn1PE_UMTS_DL_InformationPerRL_List_r5(ctx, &pvalue->dl_InformationPerRL_List);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* defaultConfigMode */
+   if (pvalue->defaultConfigMode > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigMode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   /* defaultConfigIdentity */
+   if ((uint64_t)pvalue->defaultConfigIdentity > 13u) {
+      rtxErrAddStrParm(ctx, "DefaultConfigIdentity-r5");
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultConfigIdentity-r5", "defaultConfigIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigIdentity, 0, 13);
+   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r5", "defaultConfigIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)pvalue->u.predefinedConfigIdentity > 15u) {
+            rtxErrAddStrParm(ctx, "PredefinedConfigIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.predefinedConfigIdentity);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.predefinedConfigIdentity, 0, 15);
+         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "defaultConfig", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
+         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PE_UMTS_UL_DPCH_InfoPostFDD(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-CommonInformationPost */
+   stat = asn1PE_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
+   RT_CHECK(ctx, stat, 0, "dl-CommonInformationPost", -1, 0);
+   /* dl-InformationPerRL-List */
+   stat = asn1PE_UMTS_DL_InformationPerRL_ListPostFDD(ctx, &pvalue->dl_InformationPerRL_List);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PE_UMTS_FrequencyInfoFDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PE_UMTS_UL_DPCH_InfoPostTDD(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-InformationPerRL */
+   stat = asn1PE_UMTS_DL_InformationPerRL_PostTDD(ctx, &pvalue->dl_InformationPerRL);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+      rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PE_UMTS_UL_DPCH_InfoPostTDD_LCR_r4(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-InformationPerRL */
+   stat = asn1PE_UMTS_DL_InformationPerRL_PostTDD_LCR_r4(ctx, &pvalue->dl_InformationPerRL);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+      rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* preConfigMode */
+   stat = asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
+   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
+   /* rab-Info */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RAB_Info_Post(ctx, &pvalue->rab_Info);
+      RT_CHECK(ctx, stat, 0, "rab-Info", -1, 0);
+   }
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r5_IEs_specificationMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "complete", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "preconfiguration", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
+         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r5_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HandoverToUTRANCommand-r5-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-r5-IEs");
+   /* new-U-RNTI */
+   stat = asn1PE_UMTS_U_RNTI_Short(ctx, &pvalue->new_U_RNTI);
+   RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "HandoverToUTRANCommand-r5-IEs");
+   /* cipheringAlgorithm */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->cipheringAlgorithm > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->cipheringAlgorithm);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "CipheringAlgorithm", "cipheringAlgorithm", -1, "HandoverToUTRANCommand-r5-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->cipheringAlgorithm, 0, 1);
+      RT_CHECK(ctx, stat, "CipheringAlgorithm", "cipheringAlgorithm", -1, "HandoverToUTRANCommand-r5-IEs");
+   }
+   /* specificationMode */
+   stat = asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "HandoverToUTRANCommand-r5-IEs");
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+      rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+      rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "HandoverToUTRANCommand-r5-IEs");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+   RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "HandoverToUTRANCommand-r5-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverToUTRANCommand-r5 */
+   stat = asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs(ctx, &pvalue->handoverToUTRANCommand_r5);
+   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-r5", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r6_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* srb-InformationSetupList */
+   stat = asn1PE_UMTS_SRB_InformationSetupList_r6(ctx, &pvalue->srb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, 0);
+   /* rab-InformationSetupList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RAB_InformationSetupList_r6(ctx, &pvalue->rab_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, 0);
+   }
+   /* ul-CommonTransChInfo */
+   stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+   RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
+   /* ul-AddReconfTransChInfoList */
+   stat = asn1PE_UMTS_UL_AddReconfTransChInfoList_r6(ctx, &pvalue->ul_AddReconfTransChInfoList);
+   RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
+   /* dl-CommonTransChInfo */
+   stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+   RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
+   /* dl-AddReconfTransChInfoList */
+   stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
+   RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PE_UMTS_UL_DPCH_Info_r6(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* ul-EDCH-Information */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UL_EDCH_Information_r6(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, 0);
+   }
+   /* dl-HSPDSCH-Information */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "cellsForInterFreqMeasList");
-      stat = asn1PE_UMTS_CellsForInterFreqMeasList(ctx, &pvalue->cellsForInterFreqMeasList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r6(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, 0);
    }
-   /* cSGInterFreqCellInfoList */
+   /* dl-CommonInformation */
+   stat = asn1PE_UMTS_DL_CommonInformation_r6(ctx, &pvalue->dl_CommonInformation);
+   RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, 0);
+   /* dl-InformationPerRL-List */
+   stat = asn1PE_UMTS_DL_InformationPerRL_List_r6(ctx, &pvalue->dl_InformationPerRL_List);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* defaultConfigMode */
+   if (pvalue->defaultConfigMode > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigMode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   /* defaultConfigIdentity */
+   if ((uint64_t)pvalue->defaultConfigIdentity > 31u) {
+      rtxErrAddStrParm(ctx, "DefaultConfigIdentity-r6");
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigIdentity, 0, 31);
+   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)pvalue->u.predefinedConfigIdentity > 15u) {
+            rtxErrAddStrParm(ctx, "PredefinedConfigIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.predefinedConfigIdentity);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.predefinedConfigIdentity, 0, 15);
+         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "defaultConfig", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
+         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PE_UMTS_UL_DPCH_InfoPostFDD(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-CommonInformationPost */
+   stat = asn1PE_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
+   RT_CHECK(ctx, stat, 0, "dl-CommonInformationPost", -1, 0);
+   /* dl-InformationPerRL-List */
+   stat = asn1PE_UMTS_DL_InformationPerRL_ListPostFDD(ctx, &pvalue->dl_InformationPerRL_List);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PE_UMTS_FrequencyInfoFDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PE_UMTS_UL_DPCH_InfoPostTDD(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-InformationPerRL */
+   stat = asn1PE_UMTS_DL_InformationPerRL_PostTDD(ctx, &pvalue->dl_InformationPerRL);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+      rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PE_UMTS_UL_DPCH_InfoPostTDD_LCR_r4(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-InformationPerRL */
+   stat = asn1PE_UMTS_DL_InformationPerRL_PostTDD_LCR_r4(ctx, &pvalue->dl_InformationPerRL);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+      rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* preConfigMode */
+   stat = asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
+   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
+   /* rab-Info */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RAB_Info_Post(ctx, &pvalue->rab_Info);
+      RT_CHECK(ctx, stat, 0, "rab-Info", -1, 0);
+   }
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r6_IEs_specificationMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "complete", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "preconfiguration", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
+         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r6_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HandoverToUTRANCommand-r6-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-r6-IEs");
+   /* new-U-RNTI */
+   stat = asn1PE_UMTS_U_RNTI_Short(ctx, &pvalue->new_U_RNTI);
+   RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "HandoverToUTRANCommand-r6-IEs");
+   /* cipheringAlgorithm */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->cipheringAlgorithm > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->cipheringAlgorithm);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "CipheringAlgorithm", "cipheringAlgorithm", -1, "HandoverToUTRANCommand-r6-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->cipheringAlgorithm, 0, 1);
+      RT_CHECK(ctx, stat, "CipheringAlgorithm", "cipheringAlgorithm", -1, "HandoverToUTRANCommand-r6-IEs");
+   }
+   /* specificationMode */
+   stat = asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "HandoverToUTRANCommand-r6-IEs");
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+      rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+      rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "HandoverToUTRANCommand-r6-IEs");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+   RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "HandoverToUTRANCommand-r6-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_v6b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HandoverToUTRANCommand-v6b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-v6b0ext-IEs");
+   /* ue-hspa-identities */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_HSPA_Identities_r6(ctx, &pvalue->ue_hspa_identities);
+      RT_CHECK(ctx, stat, 0, "ue-hspa-identities", -1, "HandoverToUTRANCommand-v6b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverToUTRANCommand-v6b0ext */
+   stat = asn1PE_UMTS_HandoverToUTRANCommand_v6b0ext_IEs(ctx, &pvalue->handoverToUTRANCommand_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-v6b0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverToUTRANCommand-r6 */
+   stat = asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs(ctx, &pvalue->handoverToUTRANCommand_r6);
+   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-r6", -1, 0);
+   /* v6b0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r7_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* srb-InformationSetupList */
+   stat = asn1PE_UMTS_SRB_InformationSetupList_r7(ctx, &pvalue->srb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, 0);
+   /* rab-InformationSetupList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RAB_InformationSetupList_r7(ctx, &pvalue->rab_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, 0);
+   }
+   /* ul-CommonTransChInfo */
+   stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+   RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
+   /* ul-AddReconfTransChInfoList */
+   stat = asn1PE_UMTS_UL_AddReconfTransChInfoList_r7(ctx, &pvalue->ul_AddReconfTransChInfoList);
+   RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
+   /* dl-CommonTransChInfo */
+   stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+   RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
+   /* dl-AddReconfTransChInfoList */
+   stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
+   RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* ul-EDCH-Information */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UL_EDCH_Information_r7(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, 0);
+   }
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r7(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, 0);
+   }
+   /* dl-CommonInformation */
+   stat = asn1PE_UMTS_DL_CommonInformation_r7(ctx, &pvalue->dl_CommonInformation);
+   RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, 0);
+   /* dl-InformationPerRL-List */
+   stat = asn1PE_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   /* multi-frequencyInfo */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "cSGInterFreqCellInfoList");
-      stat = asn1PE_UMTS_CSGInterFreqCellInfoList(ctx, &pvalue->cSGInterFreqCellInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, 0);
    }
-   /* interFreqSIAcquisition */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "interFreqSIAcquisition");
-      stat = asn1PE_UMTS_InterFreqSIAcquisition(ctx, &pvalue->interFreqSIAcquisition);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_InterFreqCellList_LCR_r4_ext(rtxContext* ctx, const InterFreqCellList_LCR_r4_ext* pvalue)
+int asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "InterFreqCellList-LCR-r4-ext");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "InterFreqCell-LCR-r4", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_InterFreqCell_LCR_r4(ctx, (const InterFreqCell_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* defaultConfigMode */
+   if (pvalue->defaultConfigMode > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigMode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DefaultConfigMode", "defaultConfigMode", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
+   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   /* defaultConfigIdentity */
+   if ((uint64_t)pvalue->defaultConfigIdentity > 31u) {
+      rtxErrAddStrParm(ctx, "DefaultConfigIdentity-r6");
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigIdentity, 0, 31);
+   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_InterFreqCellMeasuredResultsList(rtxContext* ctx, const InterFreqCellMeasuredResultsList* pvalue)
+int asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "InterFreqCellMeasuredResultsList");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "CellMeasuredResults", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_CellMeasuredResults(ctx, (const CellMeasuredResults*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqCellMeasuredResultsList_v920ext(rtxContext* ctx, const InterFreqCellMeasuredResultsList_v920ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "InterFreqCellMeasuredResultsList-v920ext");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "CellMeasuredResults-v920ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_CellMeasuredResults_v920ext(ctx, (const CellMeasuredResults_v920ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqEvent(rtxContext* ctx, const InterFreqEvent* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqEvent");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 5) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "event2a");
-         if (pvalue->u.event2a == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event2a(ctx, pvalue->u.event2a);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "event2b");
-         if (pvalue->u.event2b == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event2b(ctx, pvalue->u.event2b);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "event2c");
-         if (pvalue->u.event2c == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event2c(ctx, pvalue->u.event2c);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "event2d");
-         if (pvalue->u.event2d == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event2d(ctx, pvalue->u.event2d);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "event2e");
-         if (pvalue->u.event2e == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event2e(ctx, pvalue->u.event2e);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "event2f");
-         if (pvalue->u.event2f == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event2f(ctx, pvalue->u.event2f);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqEvent_r6(rtxContext* ctx, const InterFreqEvent_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqEvent-r6");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 5) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "event2a");
-         if (pvalue->u.event2a == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event2a_r6(ctx, pvalue->u.event2a);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "event2b");
-         if (pvalue->u.event2b == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event2b_r6(ctx, pvalue->u.event2b);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "event2c");
-         if (pvalue->u.event2c == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event2c_r6(ctx, pvalue->u.event2c);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "event2d");
-         if (pvalue->u.event2d == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event2d_r6(ctx, pvalue->u.event2d);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "event2e");
-         if (pvalue->u.event2e == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event2e_r6(ctx, pvalue->u.event2e);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "event2f");
-         if (pvalue->u.event2f == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event2f_r6(ctx, pvalue->u.event2f);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqEventList(rtxContext* ctx, const InterFreqEventList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "InterFreqEventList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "InterFreqEvent", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_InterFreqEvent(ctx, (const InterFreqEvent*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqEventList_r6(rtxContext* ctx, const InterFreqEventList_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "InterFreqEventList-r6");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "InterFreqEvent-r6", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_InterFreqEvent_r6(ctx, (const InterFreqEvent_r6*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFrequencyMeasuredResultsList_v590ext(rtxContext* ctx, const InterFrequencyMeasuredResultsList_v590ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "InterFrequencyMeasuredResultsList-v590ext");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "DeltaRSCPPerCell", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_DeltaRSCPPerCell(ctx, (const DeltaRSCPPerCell*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ThreholdNonUsedFrequency_deltaList(rtxContext* ctx, const ThreholdNonUsedFrequency_deltaList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "ThreholdNonUsedFrequency-deltaList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "DeltaRSCPPerCell", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_DeltaRSCPPerCell(ctx, (const DeltaRSCPPerCell*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Inter_FreqEventCriteria_v590ext(rtxContext* ctx, const Inter_FreqEventCriteria_v590ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Inter-FreqEventCriteria-v590ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* threholdUsedFrequency-delta */
-   rtxCtxtPushElemName(ctx, "threholdUsedFrequency-delta");
-   rtxCtxtPushTypeName(ctx, "DeltaRSCP");
-   if (pvalue->threholdUsedFrequency_delta < -5 || pvalue->threholdUsedFrequency_delta > -1) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->threholdUsedFrequency_delta);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->threholdUsedFrequency_delta, -5, -1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* threholdNonUsedFrequency-deltaList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "threholdNonUsedFrequency-deltaList");
-      stat = asn1PE_UMTS_ThreholdNonUsedFrequency_deltaList(ctx, &pvalue->threholdNonUsedFrequency_deltaList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Inter_FreqEventCriteriaList_v590ext(rtxContext* ctx, const Inter_FreqEventCriteriaList_v590ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "Inter-FreqEventCriteriaList-v590ext");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "Inter-FreqEventCriteria-v590ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_Inter_FreqEventCriteria_v590ext(ctx, (const Inter_FreqEventCriteria_v590ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFrequencyMeasuredResultsList_v590ext(rtxContext* ctx, const IntraFrequencyMeasuredResultsList_v590ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "IntraFrequencyMeasuredResultsList-v590ext");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "DeltaRSCPPerCell", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_DeltaRSCPPerCell(ctx, (const DeltaRSCPPerCell*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqEventResults_LCR_r4_ext(rtxContext* ctx, const InterFreqEventResults_LCR_r4_ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqEventResults-LCR-r4-ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* eventID */
-   rtxCtxtPushElemName(ctx, "eventID");
-   rtxCtxtPushTypeName(ctx, "EventIDInterFreq");
-   if (pvalue->eventID > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->eventID);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->eventID, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* interFreqCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interFreqCellList");
-      stat = asn1PE_UMTS_InterFreqCellList_LCR_r4_ext(ctx, &pvalue->interFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria(rtxContext* ctx, const InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* intraFreqMeasQuantity */
-   rtxCtxtPushElemName(ctx, "intraFreqMeasQuantity");
-   stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_fdd(rtxContext* ctx, const InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* freqQualityEstimateQuantity-FDD */
-   rtxCtxtPushElemName(ctx, "freqQualityEstimateQuantity-FDD");
-   rtxCtxtPushTypeName(ctx, "FreqQualityEstimateQuantity-FDD");
-   if (pvalue->freqQualityEstimateQuantity_FDD > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->freqQualityEstimateQuantity_FDD);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->freqQualityEstimateQuantity_FDD, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_tdd(rtxContext* ctx, const InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* freqQualityEstimateQuantity-TDD */
-   rtxCtxtPushElemName(ctx, "freqQualityEstimateQuantity-TDD");
-   rtxCtxtPushTypeName(ctx, "FreqQualityEstimateQuantity-TDD");
-   if (pvalue->freqQualityEstimateQuantity_TDD > 0) {
-      rtxErrAddUIntParm(ctx, pvalue->freqQualityEstimateQuantity_TDD);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->freqQualityEstimateQuantity_TDD, 0, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo(rtxContext* ctx, const InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if ((uint64_t)pvalue->u.predefinedConfigIdentity > 15u) {
+            rtxErrAddStrParm(ctx, "PredefinedConfigIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.predefinedConfigIdentity);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.predefinedConfigIdentity, 0, 15);
+         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "defaultConfig", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
+         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
          break;
       default:
          break;
@@ -3060,1786 +4123,980 @@ int asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriter
    return 0;
 }
 
-int asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria(rtxContext* ctx, const InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria* pvalue)
+int asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->filterCoefficient != 0) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* filterCoefficient */
-   if (pvalue->filterCoefficient != 0) {
-      rtxCtxtPushElemName(ctx, "filterCoefficient");
-      rtxCtxtPushTypeName(ctx, "FilterCoefficient");
-      if (pvalue->filterCoefficient > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->filterCoefficient);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->filterCoefficient, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria(rtxContext* ctx, const InterFreqMeasQuantity_reportingCriteria* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "intraFreqReportingCriteria");
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "interFreqReportingCriteria");
-         if (pvalue->u.interFreqReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria(ctx, pvalue->u.interFreqReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqMeasQuantity(rtxContext* ctx, const InterFreqMeasQuantity* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqMeasQuantity");
-   /* reportingCriteria */
-   rtxCtxtPushElemName(ctx, "reportingCriteria");
-   stat = asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria(ctx, &pvalue->reportingCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UTRA_CarrierRSSI(rtxContext* ctx, UTRA_CarrierRSSI value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UTRA-CarrierRSSI");
-   if ((uint64_t)value > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqMeasuredResults(rtxContext* ctx, const InterFreqMeasuredResults* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqMeasuredResults");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PE_UMTS_UL_DPCH_InfoPostFDD(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-CommonInformationPost */
+   stat = asn1PE_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
+   RT_CHECK(ctx, stat, 0, "dl-CommonInformationPost", -1, 0);
+   /* dl-InformationPerRL-List */
+   stat = asn1PE_UMTS_DL_InformationPerRL_ListPostFDD(ctx, &pvalue->dl_InformationPerRL_List);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
    /* frequencyInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* utra-CarrierRSSI */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "utra-CarrierRSSI");
-      rtxCtxtPushTypeName(ctx, "UTRA-CarrierRSSI");
-      if ((uint64_t)pvalue->utra_CarrierRSSI > 127u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->utra_CarrierRSSI);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->utra_CarrierRSSI, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interFreqCellMeasuredResultsList */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "interFreqCellMeasuredResultsList");
-      stat = asn1PE_UMTS_InterFreqCellMeasuredResultsList(ctx, &pvalue->interFreqCellMeasuredResultsList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
+   stat = asn1PE_UMTS_FrequencyInfoFDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_InterFreqMeasuredResults_v920ext(rtxContext* ctx, const InterFreqMeasuredResults_v920ext* pvalue)
+int asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqMeasuredResults-v920ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellMeasuredResultsList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interFreqCellMeasuredResultsList");
-      stat = asn1PE_UMTS_InterFreqCellMeasuredResultsList_v920ext(ctx, &pvalue->interFreqCellMeasuredResultsList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqMeasuredResultsList(rtxContext* ctx, const InterFreqMeasuredResultsList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "InterFreqMeasuredResultsList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "InterFreqMeasuredResults", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_InterFreqMeasuredResults(ctx, (const InterFreqMeasuredResults*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqMeasuredResultsList_v920ext(rtxContext* ctx, const InterFreqMeasuredResultsList_v920ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "InterFreqMeasuredResultsList-v920ext");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "InterFreqMeasuredResults-v920ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_InterFreqMeasuredResults_v920ext(ctx, (const InterFreqMeasuredResults_v920ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqRACHRepCellsList(rtxContext* ctx, const InterFreqRACHRepCellsList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "InterFreqRACHRepCellsList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "InterFreqCellID", i);
-      rtxCtxtPushTypeName(ctx, "InterFreqCellID");
-      if ((uint64_t)pvalue->elem[i] > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqReportingCriteria(rtxContext* ctx, const InterFreqReportingCriteria* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqReportingCriteria");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* interFreqEventList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interFreqEventList");
-      stat = asn1PE_UMTS_InterFreqEventList(ctx, &pvalue->interFreqEventList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PeriodicalWithReportingCellStatus(rtxContext* ctx, const PeriodicalWithReportingCellStatus* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PeriodicalWithReportingCellStatus");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* periodicalReportingCriteria */
-   rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-   stat = asn1PE_UMTS_PeriodicalReportingCriteria(ctx, &pvalue->periodicalReportingCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ReportingCellStatusOpt(rtxContext* ctx, const ReportingCellStatusOpt* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ReportingCellStatusOpt");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqReportCriteria(rtxContext* ctx, const InterFreqReportCriteria* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqReportCriteria");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 3) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "intraFreqReportingCriteria");
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_IntraFreqReportingCriteria(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "interFreqReportingCriteria");
-         if (pvalue->u.interFreqReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterFreqReportingCriteria(ctx, pvalue->u.interFreqReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "noReporting");
-         if (pvalue->u.noReporting == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqEvent_r4(rtxContext* ctx, const IntraFreqEvent_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqEvent-r4");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 8) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "e1a");
-         if (pvalue->u.e1a == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event1a_r4(ctx, pvalue->u.e1a);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "e1b");
-         if (pvalue->u.e1b == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event1b_r4(ctx, pvalue->u.e1b);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "e1c");
-         if (pvalue->u.e1c == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event1c(ctx, pvalue->u.e1c);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "e1d");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "e1e");
-         if (pvalue->u.e1e == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event1e(ctx, pvalue->u.e1e);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "e1f");
-         if (pvalue->u.e1f == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event1f(ctx, pvalue->u.e1f);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "e1g");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 8:
-         rtxCtxtPushElemName(ctx, "e1h");
-         rtxCtxtPushTypeName(ctx, "ThresholdUsedFrequency");
-         if (pvalue->u.e1h < -115 || pvalue->u.e1h > 165) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddIntParm(ctx, pvalue->u.e1h);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsInt64(ctx, pvalue->u.e1h, -115, 165);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 9:
-         rtxCtxtPushElemName(ctx, "e1i");
-         rtxCtxtPushTypeName(ctx, "ThresholdUsedFrequency");
-         if (pvalue->u.e1i < -115 || pvalue->u.e1i > 165) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddIntParm(ctx, pvalue->u.e1i);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsInt64(ctx, pvalue->u.e1i, -115, 165);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqEventCriteria_r4(rtxContext* ctx, const IntraFreqEventCriteria_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqEventCriteria-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* event */
-   rtxCtxtPushElemName(ctx, "event");
-   stat = asn1PE_UMTS_IntraFreqEvent_r4(ctx, &pvalue->event);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "Hysteresis");
-   if ((uint64_t)pvalue->hysteresis > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqEventCriteriaList_r4(rtxContext* ctx, const IntraFreqEventCriteriaList_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "IntraFreqEventCriteriaList-r4");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "IntraFreqEventCriteria-r4", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_IntraFreqEventCriteria_r4(ctx, (const IntraFreqEventCriteria_r4*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqReportingCriteria_r4(rtxContext* ctx, const IntraFreqReportingCriteria_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqReportingCriteria-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* eventCriteriaList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "eventCriteriaList");
-      stat = asn1PE_UMTS_IntraFreqEventCriteriaList_r4(ctx, &pvalue->eventCriteriaList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqReportCriteria_r4(rtxContext* ctx, const InterFreqReportCriteria_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqReportCriteria-r4");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 3) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "intraFreqReportingCriteria");
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_IntraFreqReportingCriteria_r4(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "interFreqReportingCriteria");
-         if (pvalue->u.interFreqReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterFreqReportingCriteria(ctx, pvalue->u.interFreqReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "noReporting");
-         if (pvalue->u.noReporting == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqEvent_r6(rtxContext* ctx, const IntraFreqEvent_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqEvent-r6");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 9) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "e1a");
-         if (pvalue->u.e1a == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event1a_r4(ctx, pvalue->u.e1a);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "e1b");
-         if (pvalue->u.e1b == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event1b_r4(ctx, pvalue->u.e1b);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "e1c");
-         if (pvalue->u.e1c == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event1c(ctx, pvalue->u.e1c);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "e1d");
-         if (pvalue->u.e1d == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event1d(ctx, pvalue->u.e1d);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "e1e");
-         if (pvalue->u.e1e == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event1e_r6(ctx, pvalue->u.e1e);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "e1f");
-         if (pvalue->u.e1f == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event1f_r6(ctx, pvalue->u.e1f);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "e1g");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 8:
-         rtxCtxtPushElemName(ctx, "e1h");
-         rtxCtxtPushTypeName(ctx, "ThresholdUsedFrequency-r6");
-         if (pvalue->u.e1h < -120 || pvalue->u.e1h > 165) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddIntParm(ctx, pvalue->u.e1h);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsInt64(ctx, pvalue->u.e1h, -120, 165);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 9:
-         rtxCtxtPushElemName(ctx, "e1i");
-         rtxCtxtPushTypeName(ctx, "ThresholdUsedFrequency-r6");
-         if (pvalue->u.e1i < -120 || pvalue->u.e1i > 165) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddIntParm(ctx, pvalue->u.e1i);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsInt64(ctx, pvalue->u.e1i, -120, 165);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 10:
-         rtxCtxtPushElemName(ctx, "e1j");
-         if (pvalue->u.e1j == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event1j_r6(ctx, pvalue->u.e1j);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqEventCriteria_r6(rtxContext* ctx, const IntraFreqEventCriteria_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqEventCriteria-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* event */
-   rtxCtxtPushElemName(ctx, "event");
-   stat = asn1PE_UMTS_IntraFreqEvent_r6(ctx, &pvalue->event);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "Hysteresis");
-   if ((uint64_t)pvalue->hysteresis > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqEventCriteriaList_r6(rtxContext* ctx, const IntraFreqEventCriteriaList_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "IntraFreqEventCriteriaList-r6");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "IntraFreqEventCriteria-r6", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_IntraFreqEventCriteria_r6(ctx, (const IntraFreqEventCriteria_r6*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqReportingCriteria_r6(rtxContext* ctx, const IntraFreqReportingCriteria_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqReportingCriteria-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* eventCriteriaList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "eventCriteriaList");
-      stat = asn1PE_UMTS_IntraFreqEventCriteriaList_r6(ctx, &pvalue->eventCriteriaList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqReportingCriteria_r6(rtxContext* ctx, const InterFreqReportingCriteria_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqReportingCriteria-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* interFreqEventList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interFreqEventList");
-      stat = asn1PE_UMTS_InterFreqEventList_r6(ctx, &pvalue->interFreqEventList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqReportCriteria_r6(rtxContext* ctx, const InterFreqReportCriteria_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqReportCriteria-r6");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 3) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "intraFreqReportingCriteria");
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_IntraFreqReportingCriteria_r6(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "interFreqReportingCriteria");
-         if (pvalue->u.interFreqReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterFreqReportingCriteria_r6(ctx, pvalue->u.interFreqReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "noReporting");
-         if (pvalue->u.noReporting == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqEvent_r7(rtxContext* ctx, const IntraFreqEvent_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqEvent-r7");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 9) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "e1a");
-         if (pvalue->u.e1a == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event1a_r4(ctx, pvalue->u.e1a);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "e1b");
-         if (pvalue->u.e1b == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event1b_r7(ctx, pvalue->u.e1b);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "e1c");
-         if (pvalue->u.e1c == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event1c(ctx, pvalue->u.e1c);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "e1d");
-         if (pvalue->u.e1d == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event1d(ctx, pvalue->u.e1d);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "e1e");
-         if (pvalue->u.e1e == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event1e_r6(ctx, pvalue->u.e1e);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "e1f");
-         if (pvalue->u.e1f == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event1f_r6(ctx, pvalue->u.e1f);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "e1g");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 8:
-         rtxCtxtPushElemName(ctx, "e1h");
-         rtxCtxtPushTypeName(ctx, "ThresholdUsedFrequency-r6");
-         if (pvalue->u.e1h < -120 || pvalue->u.e1h > 165) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddIntParm(ctx, pvalue->u.e1h);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsInt64(ctx, pvalue->u.e1h, -120, 165);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 9:
-         rtxCtxtPushElemName(ctx, "e1i");
-         rtxCtxtPushTypeName(ctx, "ThresholdUsedFrequency-r6");
-         if (pvalue->u.e1i < -120 || pvalue->u.e1i > 165) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddIntParm(ctx, pvalue->u.e1i);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsInt64(ctx, pvalue->u.e1i, -120, 165);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 10:
-         rtxCtxtPushElemName(ctx, "e1j");
-         if (pvalue->u.e1j == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event1j_r6(ctx, pvalue->u.e1j);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqEventCriteria_r7(rtxContext* ctx, const IntraFreqEventCriteria_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqEventCriteria-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* event */
-   rtxCtxtPushElemName(ctx, "event");
-   stat = asn1PE_UMTS_IntraFreqEvent_r7(ctx, &pvalue->event);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "Hysteresis");
-   if ((uint64_t)pvalue->hysteresis > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqEventCriteriaList_r7(rtxContext* ctx, const IntraFreqEventCriteriaList_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "IntraFreqEventCriteriaList-r7");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "IntraFreqEventCriteria-r7", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_IntraFreqEventCriteria_r7(ctx, (const IntraFreqEventCriteria_r7*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqReportingCriteria_r7(rtxContext* ctx, const IntraFreqReportingCriteria_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqReportingCriteria-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* eventCriteriaList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "eventCriteriaList");
-      stat = asn1PE_UMTS_IntraFreqEventCriteriaList_r7(ctx, &pvalue->eventCriteriaList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqReportCriteria_r7(rtxContext* ctx, const InterFreqReportCriteria_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqReportCriteria-r7");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 3) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "intraFreqReportingCriteria");
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_IntraFreqReportingCriteria_r7(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "interFreqReportingCriteria");
-         if (pvalue->u.interFreqReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterFreqReportingCriteria_r6(ctx, pvalue->u.interFreqReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "noReporting");
-         if (pvalue->u.noReporting == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqEventOnSecULFreq(rtxContext* ctx, const IntraFreqEventOnSecULFreq* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqEventOnSecULFreq");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 4) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "e1a");
-         if (pvalue->u.e1a == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event1a_OnSecUlFreq_r9(ctx, pvalue->u.e1a);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "e1b");
-         if (pvalue->u.e1b == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event1b_OnSecUlFreq_r9(ctx, pvalue->u.e1b);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "e1c");
-         if (pvalue->u.e1c == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event1c(ctx, pvalue->u.e1c);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "e1e");
-         if (pvalue->u.e1e == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event1e_r6(ctx, pvalue->u.e1e);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "e1f");
-         if (pvalue->u.e1f == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event1f_r6(ctx, pvalue->u.e1f);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqEventCriteriaOnSecULFreq(rtxContext* ctx, const IntraFreqEventCriteriaOnSecULFreq* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqEventCriteriaOnSecULFreq");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* event */
-   rtxCtxtPushElemName(ctx, "event");
-   stat = asn1PE_UMTS_IntraFreqEventOnSecULFreq(ctx, &pvalue->event);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* hysteresis */
-   rtxCtxtPushElemName(ctx, "hysteresis");
-   rtxCtxtPushTypeName(ctx, "Hysteresis");
-   if ((uint64_t)pvalue->hysteresis > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "reportingCellStatus");
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqEventCriteriaListOnSecULFreq_intraFreqEventCriteria(rtxContext* ctx, const IntraFreqEventCriteriaListOnSecULFreq_intraFreqEventCriteria* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "IntraFreqEventCriteriaOnSecULFreq", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_IntraFreqEventCriteriaOnSecULFreq(ctx, (const IntraFreqEventCriteriaOnSecULFreq*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqEventCriteriaListOnSecULFreq(rtxContext* ctx, const IntraFreqEventCriteriaListOnSecULFreq* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqEventCriteriaListOnSecULFreq");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PE_UMTS_UL_DPCH_InfoPostTDD(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-InformationPerRL */
+   stat = asn1PE_UMTS_DL_InformationPerRL_PostTDD(ctx, &pvalue->dl_InformationPerRL);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
    /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* intraFreqEventCriteria */
-   rtxCtxtPushElemName(ctx, "intraFreqEventCriteria");
-   stat = asn1PE_UMTS_IntraFreqEventCriteriaListOnSecULFreq_intraFreqEventCriteria(ctx, &pvalue->intraFreqEventCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+      rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqReportingCriteria_r9(rtxContext* ctx, const IntraFreqReportingCriteria_r9* pvalue)
+int asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqReportingCriteria-r9");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* eventCriteriaList */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-InformationPerRL */
+   stat = asn1PE_UMTS_DL_InformationPerRL_PostTDD_LCR_r4(ctx, &pvalue->dl_InformationPerRL);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+      rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   /* multi-frequencyInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "eventCriteriaList");
-      stat = asn1PE_UMTS_IntraFreqEventCriteriaList_r7(ctx, &pvalue->eventCriteriaList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, 0);
    }
-   /* eventCriteriaListOnSecULFreq */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "eventCriteriaListOnSecULFreq");
-      stat = asn1PE_UMTS_IntraFreqEventCriteriaListOnSecULFreq(ctx, &pvalue->eventCriteriaListOnSecULFreq);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_InterFreqReportCriteria_r9(rtxContext* ctx, const InterFreqReportCriteria_r9* pvalue)
+int asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqReportCriteria-r9");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 3) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "intraFreqReportingCriteria");
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_IntraFreqReportingCriteria_r9(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "interFreqReportingCriteria");
-         if (pvalue->u.interFreqReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterFreqReportingCriteria_r6(ctx, pvalue->u.interFreqReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "noReporting");
-         if (pvalue->u.noReporting == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-InformationPerRL */
+   stat = asn1PE_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+      rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
+   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_InterFreqReportingQuantity(rtxContext* ctx, const InterFreqReportingQuantity* pvalue)
+int asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFreqReportingQuantity");
-   /* utra-Carrier-RSSI */
-   rtxCtxtPushElemName(ctx, "utra-Carrier-RSSI");
-   stat = rtxEncBit(ctx, pvalue->utra_Carrier_RSSI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyQualityEstimate */
-   rtxCtxtPushElemName(ctx, "frequencyQualityEstimate");
-   stat = rtxEncBit(ctx, pvalue->frequencyQualityEstimate);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonFreqRelatedQuantities */
-   rtxCtxtPushElemName(ctx, "nonFreqRelatedQuantities");
-   stat = asn1PE_UMTS_CellReportingQuantities(ctx, &pvalue->nonFreqRelatedQuantities);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RL_AdditionInfoList(rtxContext* ctx, const RL_AdditionInfoList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "RL-AdditionInfoList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "PrimaryCPICH-Info", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, (const PrimaryCPICH_Info*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RL_InformationLists(rtxContext* ctx, const RL_InformationLists* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RL-InformationLists");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* rl-AdditionInfoList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "rl-AdditionInfoList");
-      stat = asn1PE_UMTS_RL_AdditionInfoList(ctx, &pvalue->rl_AdditionInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rL-RemovalInformationList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "rL-RemovalInformationList");
-      stat = asn1PE_UMTS_RL_RemovalInformationList(ctx, &pvalue->rL_RemovalInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_AutonomousUpdateMode(rtxContext* ctx, const UE_AutonomousUpdateMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-AutonomousUpdateMode");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "dummy");
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "onWithNoReporting");
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "dummy2");
-         if (pvalue->u.dummy2 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_RL_InformationLists(ctx, pvalue->u.dummy2);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_InterFrequencyMeasurement(rtxContext* ctx, const InterFrequencyMeasurement* pvalue)
+int asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFrequencyMeasurement");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* preConfigMode */
+   stat = asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
+   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
+   /* rab-Info */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RAB_Info_Post(ctx, &pvalue->rab_Info);
+      RT_CHECK(ctx, stat, 0, "rab-Info", -1, 0);
+   }
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r7_IEs_specificationMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "complete", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "preconfiguration", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
+         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r7_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HandoverToUTRANCommand-r7-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellInfoList */
-   rtxCtxtPushElemName(ctx, "interFreqCellInfoList");
-   stat = asn1PE_UMTS_InterFreqCellInfoList(ctx, &pvalue->interFreqCellInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* interFreqMeasQuantity */
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-r7-IEs");
+   /* new-U-RNTI */
+   stat = asn1PE_UMTS_U_RNTI_Short(ctx, &pvalue->new_U_RNTI);
+   RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "HandoverToUTRANCommand-r7-IEs");
+   /* cipheringAlgorithm */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interFreqMeasQuantity");
-      stat = asn1PE_UMTS_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if (pvalue->cipheringAlgorithm > 2) {
+         rtxErrAddUIntParm(ctx, pvalue->cipheringAlgorithm);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "CipheringAlgorithm-r7", "cipheringAlgorithm", -1, "HandoverToUTRANCommand-r7-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->cipheringAlgorithm, 0, 2);
+      RT_CHECK(ctx, stat, "CipheringAlgorithm-r7", "cipheringAlgorithm", -1, "HandoverToUTRANCommand-r7-IEs");
    }
-   /* interFreqReportingQuantity */
+   /* supportForChangeOfUE-Capability */
+   stat = rtxEncBit(ctx, pvalue->supportForChangeOfUE_Capability);
+   RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "HandoverToUTRANCommand-r7-IEs");
+   /* new-H-RNTI */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "interFreqReportingQuantity");
-      stat = asn1PE_UMTS_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "HandoverToUTRANCommand-r7-IEs");
    }
-   /* measurementValidity */
+   /* newPrimary-E-RNTI */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "measurementValidity");
-      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "HandoverToUTRANCommand-r7-IEs");
    }
-   /* interFreqSetUpdate */
+   /* newSecondary-E-RNTI */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "interFreqSetUpdate");
-      stat = asn1PE_UMTS_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "HandoverToUTRANCommand-r7-IEs");
    }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PE_UMTS_InterFreqReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   /* specificationMode */
+   stat = asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "HandoverToUTRANCommand-r7-IEs");
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+      rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+      rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "HandoverToUTRANCommand-r7-IEs");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+   RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "HandoverToUTRANCommand-r7-IEs");
    return 0;
 }
 
-int asn1PE_UMTS_InterFrequencyMeasurement_r4(rtxContext* ctx, const InterFrequencyMeasurement_r4* pvalue)
+int asn1PE_UMTS_HandoverToUTRANCommand_v780ext_IEs(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_v780ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFrequencyMeasurement-r4");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HandoverToUTRANCommand-v780ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-v780ext-IEs");
+   /* hs-DSCH-TBSizeTable */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->hs_DSCH_TBSizeTable > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->hs_DSCH_TBSizeTable);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "HandoverToUTRANCommand-v780ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->hs_DSCH_TBSizeTable, 0, 0);
+      RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "HandoverToUTRANCommand-v780ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_v820ext_IEs(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_v820ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HandoverToUTRANCommand-v820ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-v820ext-IEs");
+   /* rab-InformationSetupList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RAB_InformationSetupList_v820ext(ctx, &pvalue->rab_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, "HandoverToUTRANCommand-v820ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_v7d0ext_IEs(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_v7d0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HandoverToUTRANCommand-v7d0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-v7d0ext-IEs");
+   /* ul-EDCH-Information */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UL_EDCH_Information_ext(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "HandoverToUTRANCommand-v7d0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_v7d0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_v7d0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverToUTRANCommand-v7d0ext */
+   stat = asn1PE_UMTS_HandoverToUTRANCommand_v7d0ext_IEs(ctx, &pvalue->handoverToUTRANCommand_v7d0ext);
+   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-v7d0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_v7d0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverToUTRANCommand-v820ext */
+   stat = asn1PE_UMTS_HandoverToUTRANCommand_v820ext_IEs(ctx, &pvalue->handoverToUTRANCommand_v820ext);
+   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-v820ext", -1, 0);
+   /* v7d0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverToUTRANCommand-v780ext */
+   stat = asn1PE_UMTS_HandoverToUTRANCommand_v780ext_IEs(ctx, &pvalue->handoverToUTRANCommand_v780ext);
+   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-v780ext", -1, 0);
+   /* v820NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions(ctx, &pvalue->v820NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v820NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverToUTRANCommand-r7 */
+   stat = asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs(ctx, &pvalue->handoverToUTRANCommand_r7);
+   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-r7", -1, 0);
+   /* v780NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v780NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r8_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellInfoList */
-   rtxCtxtPushElemName(ctx, "interFreqCellInfoList");
-   stat = asn1PE_UMTS_InterFreqCellInfoList_r4(ctx, &pvalue->interFreqCellInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* interFreqMeasQuantity */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* srb-InformationSetupList */
+   stat = asn1PE_UMTS_SRB_InformationSetupList_r8(ctx, &pvalue->srb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, 0);
+   /* rab-InformationSetupList */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interFreqMeasQuantity");
-      stat = asn1PE_UMTS_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RAB_InformationSetupList_r8(ctx, &pvalue->rab_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, 0);
    }
-   /* interFreqReportingQuantity */
+   /* ul-CommonTransChInfo */
+   stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+   RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
+   /* ul-AddReconfTransChInfoList */
+   stat = asn1PE_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
+   RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
+   /* dl-CommonTransChInfo */
+   stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+   RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
+   /* dl-AddReconfTransChInfoList */
+   stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
+   RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* ul-EDCH-Information */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "interFreqReportingQuantity");
-      stat = asn1PE_UMTS_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UL_EDCH_Information_r8(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, 0);
    }
-   /* measurementValidity */
+   /* dl-HSPDSCH-Information */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "measurementValidity");
-      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, 0);
    }
-   /* interFreqSetUpdate */
+   /* dl-CommonInformation */
+   stat = asn1PE_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
+   RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, 0);
+   /* dl-InformationPerRL-List */
+   stat = asn1PE_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   /* multi-frequencyInfo */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "interFreqSetUpdate");
-      stat = asn1PE_UMTS_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, 0);
    }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PE_UMTS_InterFreqReportCriteria_r4(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_InterFrequencyMeasurement_r6(rtxContext* ctx, const InterFrequencyMeasurement_r6* pvalue)
+int asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFrequencyMeasurement-r6");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellInfoList */
-   rtxCtxtPushElemName(ctx, "interFreqCellInfoList");
-   stat = asn1PE_UMTS_InterFreqCellInfoList_r4(ctx, &pvalue->interFreqCellInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* interFreqMeasQuantity */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* defaultConfigMode */
+   if (pvalue->defaultConfigMode > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigMode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   /* defaultConfigIdentity */
+   if ((uint64_t)pvalue->defaultConfigIdentity > 31u) {
+      rtxErrAddStrParm(ctx, "DefaultConfigIdentity-r6");
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigIdentity, 0, 31);
+   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
+   /* dlul-HSPA-Information */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interFreqMeasQuantity");
-      stat = asn1PE_UMTS_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_DLUL_HSPA_Information_r8(ctx, &pvalue->dlul_HSPA_Information);
+      RT_CHECK(ctx, stat, 0, "dlul-HSPA-Information", -1, 0);
    }
-   /* interFreqReportingQuantity */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "interFreqReportingQuantity");
-      stat = asn1PE_UMTS_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementValidity */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "measurementValidity");
-      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interFreqSetUpdate */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "interFreqSetUpdate");
-      stat = asn1PE_UMTS_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PE_UMTS_InterFreqReportCriteria_r6(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_InterFrequencyMeasurement_r7(rtxContext* ctx, const InterFrequencyMeasurement_r7* pvalue)
+int asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFrequencyMeasurement-r7");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)pvalue->u.predefinedConfigIdentity > 15u) {
+            rtxErrAddStrParm(ctx, "PredefinedConfigIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.predefinedConfigIdentity);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.predefinedConfigIdentity, 0, 15);
+         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "defaultConfig", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
+         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PE_UMTS_UL_DPCH_InfoPostFDD(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-CommonInformationPost */
+   stat = asn1PE_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
+   RT_CHECK(ctx, stat, 0, "dl-CommonInformationPost", -1, 0);
+   /* dl-InformationPerRL-List */
+   stat = asn1PE_UMTS_DL_InformationPerRL_ListPostFDD(ctx, &pvalue->dl_InformationPerRL_List);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PE_UMTS_FrequencyInfoFDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PE_UMTS_UL_DPCH_InfoPostTDD(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-InformationPerRL */
+   stat = asn1PE_UMTS_DL_InformationPerRL_PostTDD(ctx, &pvalue->dl_InformationPerRL);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+      rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellInfoList */
-   rtxCtxtPushElemName(ctx, "interFreqCellInfoList");
-   stat = asn1PE_UMTS_InterFreqCellInfoList_r4(ctx, &pvalue->interFreqCellInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* interFreqMeasQuantity */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-InformationPerRL */
+   stat = asn1PE_UMTS_DL_InformationPerRL_PostTDD_LCR_r4(ctx, &pvalue->dl_InformationPerRL);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+      rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   /* multi-frequencyInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interFreqMeasQuantity");
-      stat = asn1PE_UMTS_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, 0);
    }
-   /* interFreqReportingQuantity */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "interFreqReportingQuantity");
-      stat = asn1PE_UMTS_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementValidity */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "measurementValidity");
-      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interFreqSetUpdate */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "interFreqSetUpdate");
-      stat = asn1PE_UMTS_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PE_UMTS_InterFreqReportCriteria_r7(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_InterFrequencyMeasurement_r8(rtxContext* ctx, const InterFrequencyMeasurement_r8* pvalue)
+int asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFrequencyMeasurement-r8");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-InformationPerRL */
+   stat = asn1PE_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+      rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* preConfigMode */
+   stat = asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
+   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
+   /* rab-Info */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RAB_Info_Post(ctx, &pvalue->rab_Info);
+      RT_CHECK(ctx, stat, 0, "rab-Info", -1, 0);
+   }
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r8_IEs_specificationMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "complete", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "preconfiguration", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
+         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r8_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HandoverToUTRANCommand-r8-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellInfoList */
-   rtxCtxtPushElemName(ctx, "interFreqCellInfoList");
-   stat = asn1PE_UMTS_InterFreqCellInfoList_r8(ctx, &pvalue->interFreqCellInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* interFreqMeasQuantity */
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-r8-IEs");
+   /* new-U-RNTI */
+   stat = asn1PE_UMTS_U_RNTI_Short(ctx, &pvalue->new_U_RNTI);
+   RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "HandoverToUTRANCommand-r8-IEs");
+   /* cipheringAlgorithm */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interFreqMeasQuantity");
-      stat = asn1PE_UMTS_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if (pvalue->cipheringAlgorithm > 2) {
+         rtxErrAddUIntParm(ctx, pvalue->cipheringAlgorithm);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "CipheringAlgorithm-r7", "cipheringAlgorithm", -1, "HandoverToUTRANCommand-r8-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->cipheringAlgorithm, 0, 2);
+      RT_CHECK(ctx, stat, "CipheringAlgorithm-r7", "cipheringAlgorithm", -1, "HandoverToUTRANCommand-r8-IEs");
    }
-   /* interFreqReportingQuantity */
+   /* supportForChangeOfUE-Capability */
+   stat = rtxEncBit(ctx, pvalue->supportForChangeOfUE_Capability);
+   RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "HandoverToUTRANCommand-r8-IEs");
+   /* new-H-RNTI */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "interFreqReportingQuantity");
-      stat = asn1PE_UMTS_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "HandoverToUTRANCommand-r8-IEs");
    }
-   /* measurementValidity */
+   /* newPrimary-E-RNTI */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "measurementValidity");
-      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "HandoverToUTRANCommand-r8-IEs");
    }
-   /* interFreqSetUpdate */
+   /* newSecondary-E-RNTI */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "interFreqSetUpdate");
-      stat = asn1PE_UMTS_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "HandoverToUTRANCommand-r8-IEs");
    }
-   /* adjacentFrequencyIndex */
+   /* defaultConfigForCellFACH */
    if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "adjacentFrequencyIndex");
-      if ((uint64_t)pvalue->adjacentFrequencyIndex > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->adjacentFrequencyIndex);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->adjacentFrequencyIndex, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_DefaultConfigForCellFACH(ctx, &pvalue->defaultConfigForCellFACH);
+      RT_CHECK(ctx, stat, 0, "defaultConfigForCellFACH", -1, "HandoverToUTRANCommand-r8-IEs");
    }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PE_UMTS_InterFreqReportCriteria_r7(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   /* specificationMode */
+   stat = asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "HandoverToUTRANCommand-r8-IEs");
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+      rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+      rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "HandoverToUTRANCommand-r8-IEs");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+   RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "HandoverToUTRANCommand-r8-IEs");
    return 0;
 }
 
-int asn1PE_UMTS_InterFrequencyMeasurement_r9(rtxContext* ctx, const InterFrequencyMeasurement_r9* pvalue)
+int asn1PE_UMTS_HandoverToUTRANCommand_v890ext_IEs(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_v890ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterFrequencyMeasurement-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat);
-   /* interFreqCellInfoList */
-   rtxCtxtPushElemName(ctx, "interFreqCellInfoList");
-   stat = asn1PE_UMTS_InterFreqCellInfoList_r9(ctx, &pvalue->interFreqCellInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* interFreqMeasQuantity */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interFreqMeasQuantity");
-      stat = asn1PE_UMTS_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interFreqReportingQuantity */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "interFreqReportingQuantity");
-      stat = asn1PE_UMTS_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementValidity */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "measurementValidity");
-      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interFreqSetUpdate */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "interFreqSetUpdate");
-      stat = asn1PE_UMTS_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* adjacentFrequencyIndex */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "adjacentFrequencyIndex");
-      if ((uint64_t)pvalue->adjacentFrequencyIndex > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->adjacentFrequencyIndex);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->adjacentFrequencyIndex, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interBandFrequencyIndex */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "interBandFrequencyIndex");
-      if ((uint64_t)pvalue->interBandFrequencyIndex > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->interBandFrequencyIndex);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->interBandFrequencyIndex, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PE_UMTS_InterFreqReportCriteria_r9(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NC_Mode(rtxContext* ctx, NC_Mode value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "NC-Mode");
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pe_BitString32(ctx, &value, 3, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRAT_TargetCellDescription_technologySpecificInfo_gsm(rtxContext* ctx, const InterRAT_TargetCellDescription_technologySpecificInfo_gsm* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HandoverToUTRANCommand-v890ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* bsic */
-   rtxCtxtPushElemName(ctx, "bsic");
-   stat = asn1PE_UMTS_BSIC(ctx, &pvalue->bsic);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequency-band */
-   rtxCtxtPushElemName(ctx, "frequency-band");
-   rtxCtxtPushTypeName(ctx, "Frequency-Band");
-   if (pvalue->frequency_band > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->frequency_band);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->frequency_band, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* bcch-ARFCN */
-   rtxCtxtPushElemName(ctx, "bcch-ARFCN");
-   rtxCtxtPushTypeName(ctx, "BCCH-ARFCN");
-   if ((uint64_t)pvalue->bcch_ARFCN > 1023u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->bcch_ARFCN);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->bcch_ARFCN, 0, 1023);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ncMode */
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-v890ext-IEs");
+   /* dl-HSPDSCH-Information */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ncMode");
-      stat = asn1PE_UMTS_NC_Mode(ctx, pvalue->ncMode);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_ext(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "HandoverToUTRANCommand-v890ext-IEs");
    }
    return 0;
 }
 
-int asn1PE_UMTS_InterRAT_TargetCellDescription_technologySpecificInfo(rtxContext* ctx, const InterRAT_TargetCellDescription_technologySpecificInfo* pvalue)
+int asn1PE_UMTS_HandoverToUTRANCommand_v8a0ext_IEs(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_v8a0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 3) RT_RAISE(ctx, RT_ERR_INVOPT);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HandoverToUTRANCommand-v8a0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-v8a0ext-IEs");
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_ext2(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "HandoverToUTRANCommand-v8a0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverToUTRANCommand-v8a0ext */
+   stat = asn1PE_UMTS_HandoverToUTRANCommand_v8a0ext_IEs(ctx, &pvalue->handoverToUTRANCommand_v8a0ext);
+   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-v8a0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverToUTRANCommand-v890ext */
+   stat = asn1PE_UMTS_HandoverToUTRANCommand_v890ext_IEs(ctx, &pvalue->handoverToUTRANCommand_v890ext);
+   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-v890ext", -1, 0);
+   /* v8a0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v8a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverToUTRANCommand-v7d0ext */
+   stat = asn1PE_UMTS_HandoverToUTRANCommand_v7d0ext_IEs(ctx, &pvalue->handoverToUTRANCommand_v7d0ext);
+   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-v7d0ext", -1, 0);
+   /* v890NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverToUTRANCommand-r8 */
+   stat = asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs(ctx, &pvalue->handoverToUTRANCommand_r8);
+   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-r8", -1, 0);
+   /* v7d0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r9_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* srb-InformationSetupList */
+   stat = asn1PE_UMTS_SRB_InformationSetupList_r8(ctx, &pvalue->srb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, 0);
+   /* rab-InformationSetupList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RAB_InformationSetupList_r8(ctx, &pvalue->rab_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, 0);
+   }
+   /* ul-CommonTransChInfo */
+   stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+   RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
+   /* ul-AddReconfTransChInfoList */
+   stat = asn1PE_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
+   RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
+   /* dl-CommonTransChInfo */
+   stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+   RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
+   /* dl-AddReconfTransChInfoList */
+   stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r9(ctx, &pvalue->dl_AddReconfTransChInfoList);
+   RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* ul-EDCH-Information */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UL_EDCH_Information_r9(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, 0);
+   }
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, 0);
+   }
+   /* dl-CommonInformation */
+   stat = asn1PE_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
+   RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, 0);
+   /* dl-InformationPerRL-List */
+   stat = asn1PE_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   /* multi-frequencyInfo */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* defaultConfigMode */
+   if (pvalue->defaultConfigMode > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigMode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   /* defaultConfigIdentity */
+   if ((uint64_t)pvalue->defaultConfigIdentity > 31u) {
+      rtxErrAddStrParm(ctx, "DefaultConfigIdentity-r6");
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigIdentity, 0, 31);
+   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
+   /* dlul-HSPA-Information */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DLUL_HSPA_Information_r9(ctx, &pvalue->dlul_HSPA_Information);
+      RT_CHECK(ctx, stat, 0, "dlul-HSPA-Information", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "gsm");
-         if (pvalue->u.gsm == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterRAT_TargetCellDescription_technologySpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if ((uint64_t)pvalue->u.predefinedConfigIdentity > 15u) {
+            rtxErrAddStrParm(ctx, "PredefinedConfigIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.predefinedConfigIdentity);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.predefinedConfigIdentity, 0, 15);
+         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "is-2000");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "spare2");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "spare1");
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "defaultConfig", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
+         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
          break;
       default:
          break;
@@ -4847,318 +5104,1242 @@ int asn1PE_UMTS_InterRAT_TargetCellDescription_technologySpecificInfo(rtxContext
    return 0;
 }
 
-int asn1PE_UMTS_InterRAT_TargetCellDescription(rtxContext* ctx, const InterRAT_TargetCellDescription* pvalue)
+int asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRAT-TargetCellDescription");
-   /* technologySpecificInfo */
-   rtxCtxtPushElemName(ctx, "technologySpecificInfo");
-   stat = asn1PE_UMTS_InterRAT_TargetCellDescription_technologySpecificInfo(ctx, &pvalue->technologySpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PE_UMTS_UL_DPCH_InfoPostFDD(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-CommonInformationPost */
+   stat = asn1PE_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
+   RT_CHECK(ctx, stat, 0, "dl-CommonInformationPost", -1, 0);
+   /* dl-InformationPerRL-List */
+   stat = asn1PE_UMTS_DL_InformationPerRL_ListPostFDD(ctx, &pvalue->dl_InformationPerRL_List);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PE_UMTS_FrequencyInfoFDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_InterRATCellInfoIndication(rtxContext* ctx, InterRATCellInfoIndication value)
+int asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "InterRATCellInfoIndication");
-   if ((uint64_t)value > 3u) {
-      rtxErrAddElemNameParm(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PE_UMTS_UL_DPCH_InfoPostTDD(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-InformationPerRL */
+   stat = asn1PE_UMTS_DL_InformationPerRL_PostTDD(ctx, &pvalue->dl_InformationPerRL);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+      rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-InformationPerRL */
+   stat = asn1PE_UMTS_DL_InformationPerRL_PostTDD_LCR_r4(ctx, &pvalue->dl_InformationPerRL);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+      rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   /* multi-frequencyInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ul-DPCH-Info */
+   stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, 0);
+   /* dl-InformationPerRL */
+   stat = asn1PE_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL", -1, 0);
+   /* frequencyInfo */
+   stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+      rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* preConfigMode */
+   stat = asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
+   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
+   /* rab-Info */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RAB_Info_Post(ctx, &pvalue->rab_Info);
+      RT_CHECK(ctx, stat, 0, "rab-Info", -1, 0);
+   }
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r9_IEs_specificationMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "complete", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "preconfiguration", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
+         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_r9_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HandoverToUTRANCommand-r9-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANCommand-r9-IEs");
+   /* new-U-RNTI */
+   stat = asn1PE_UMTS_U_RNTI_Short(ctx, &pvalue->new_U_RNTI);
+   RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "HandoverToUTRANCommand-r9-IEs");
+   /* cipheringAlgorithm */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->cipheringAlgorithm > 2) {
+         rtxErrAddUIntParm(ctx, pvalue->cipheringAlgorithm);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "CipheringAlgorithm-r7", "cipheringAlgorithm", -1, "HandoverToUTRANCommand-r9-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->cipheringAlgorithm, 0, 2);
+      RT_CHECK(ctx, stat, "CipheringAlgorithm-r7", "cipheringAlgorithm", -1, "HandoverToUTRANCommand-r9-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   stat = rtxEncBit(ctx, pvalue->supportForChangeOfUE_Capability);
+   RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "HandoverToUTRANCommand-r9-IEs");
+   /* new-H-RNTI */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "HandoverToUTRANCommand-r9-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "HandoverToUTRANCommand-r9-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "HandoverToUTRANCommand-r9-IEs");
+   }
+   /* defaultConfigForCellFACH */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_DefaultConfigForCellFACH(ctx, &pvalue->defaultConfigForCellFACH);
+      RT_CHECK(ctx, stat, 0, "defaultConfigForCellFACH", -1, "HandoverToUTRANCommand-r9-IEs");
+   }
+   /* specificationMode */
+   stat = asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "HandoverToUTRANCommand-r9-IEs");
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+      rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+      rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "HandoverToUTRANCommand-r9-IEs");
+   }
+   stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+   RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "HandoverToUTRANCommand-r9-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverToUTRANCommand-r9 */
+   stat = asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs(ctx, &pvalue->handoverToUTRANCommand_r9);
+   RT_CHECK(ctx, stat, 0, "handoverToUTRANCommand-r9", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r9 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r9", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
+         RT_CHECK(ctx, stat, 0, "r9", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r8 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r8", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
+         RT_CHECK(ctx, stat, 0, "r8", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r7", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
+         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r6 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r6", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6(ctx, pvalue->u.r6);
+         RT_CHECK(ctx, stat, 0, "r6", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r5", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5(ctx, pvalue->u.r5);
+         RT_CHECK(ctx, stat, 0, "r5", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r4", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_r4(ctx, pvalue->u.r4);
+         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANCommand(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANCommand* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HandoverToUTRANCommand");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "HandoverToUTRANCommand");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "HandoverToUTRANCommand");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r3", -1, "HandoverToUTRANCommand");
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "HandoverToUTRANCommand");
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, "HandoverToUTRANCommand");
+         stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, "HandoverToUTRANCommand");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANComplete_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANComplete_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANComplete_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANComplete_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverToUTRANComplete-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->handoverToUTRANComplete_r3_add_ext.numbits, pvalue->handoverToUTRANComplete_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "handoverToUTRANComplete-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_HandoverToUTRANComplete_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverToUTRANComplete(rtxContext* RT_RESTRICT ctx, const HandoverToUTRANComplete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HandoverToUTRANComplete");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverToUTRANComplete");
+   /* startList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_STARTList(ctx, &pvalue->startList);
+      RT_CHECK(ctx, stat, 0, "startList", -1, "HandoverToUTRANComplete");
+   }
+   /* count-C-ActivationTime */
+   if (pvalue->m & 0x2u) {
+      stat = pe_ConsUInt64(ctx, pvalue->count_C_ActivationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "count-C-ActivationTime", -1, "HandoverToUTRANComplete");
+   }
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_HandoverToUTRANComplete_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "HandoverToUTRANComplete");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InitialDirectTransfer_v3a0ext(rtxContext* RT_RESTRICT ctx, const InitialDirectTransfer_v3a0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InitialDirectTransfer-v3a0ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InitialDirectTransfer-v3a0ext");
+   /* start-Value */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_START_Value(ctx, pvalue->start_Value);
+      RT_CHECK(ctx, stat, 0, "start-Value", -1, "InitialDirectTransfer-v3a0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InitialDirectTransfer_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, const InitialDirectTransfer_v7g0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InitialDirectTransfer-v7g0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InitialDirectTransfer-v7g0ext-IEs");
+   /* measuredResultsOnRACH-v7g0ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasuredResultsOnRACH_v7g0ext(ctx, &pvalue->measuredResultsOnRACH_v7g0ext);
+      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACH-v7g0ext", -1, "InitialDirectTransfer-v7g0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InitialDirectTransfer_r3_add_ext_IEs_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const InitialDirectTransfer_r3_add_ext_IEs_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_InitialDirectTransfer_r3_add_ext_IEs(rtxContext* RT_RESTRICT ctx, const InitialDirectTransfer_r3_add_ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InitialDirectTransfer-r3-add-ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InitialDirectTransfer-r3-add-ext-IEs");
+   /* initialDirectTransfer-v7g0ext */
+   stat = asn1PE_UMTS_InitialDirectTransfer_v7g0ext_IEs(ctx, &pvalue->initialDirectTransfer_v7g0ext);
+   RT_CHECK(ctx, stat, 0, "initialDirectTransfer-v7g0ext", -1, "InitialDirectTransfer-r3-add-ext-IEs");
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InitialDirectTransfer_r3_add_ext_IEs_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "InitialDirectTransfer-r3-add-ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InitialDirectTransfer_v590ext(rtxContext* RT_RESTRICT ctx, const InitialDirectTransfer_v590ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InitialDirectTransfer-v590ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InitialDirectTransfer-v590ext");
+   /* establishmentCause */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->establishmentCause > 31) {
+         rtxErrAddUIntParm(ctx, pvalue->establishmentCause);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "EstablishmentCause", "establishmentCause", -1, "InitialDirectTransfer-v590ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->establishmentCause, 0, 31);
+      RT_CHECK(ctx, stat, "EstablishmentCause", "establishmentCause", -1, "InitialDirectTransfer-v590ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InitialDirectTransfer_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const InitialDirectTransfer_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InitialDirectTransfer-v690ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InitialDirectTransfer-v690ext-IEs");
+   /* plmn-Identity */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
+      RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, "InitialDirectTransfer-v690ext-IEs");
+   }
+   /* measuredResultsOnRACHinterFreq */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_MeasuredResultsOnRACHinterFreq(ctx, &pvalue->measuredResultsOnRACHinterFreq);
+      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACHinterFreq", -1, "InitialDirectTransfer-v690ext-IEs");
+   }
+   /* mbms-JoinedInformation */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_MBMS_JoinedInformation_r6(ctx, &pvalue->mbms_JoinedInformation);
+      RT_CHECK(ctx, stat, 0, "mbms-JoinedInformation", -1, "InitialDirectTransfer-v690ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InitialDirectTransfer_v770ext_IEs_csCallType(rtxContext* RT_RESTRICT ctx, InitialDirectTransfer_v770ext_IEs_csCallType value)
+{
+   int stat = 0;
+   if (value > 3) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_InterRATCellInfoList_r4(rtxContext* ctx, const InterRATCellInfoList_r4* pvalue)
+int asn1PE_UMTS_InitialDirectTransfer_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const InitialDirectTransfer_v770ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATCellInfoList-r4");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InitialDirectTransfer-v770ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InitialDirectTransfer-v770ext-IEs");
+   /* csCallType */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->csCallType > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->csCallType);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "csCallType", -1, "InitialDirectTransfer-v770ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->csCallType, 0, 3);
+      RT_CHECK(ctx, stat, 0, "csCallType", -1, "InitialDirectTransfer-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InitialDirectTransfer_v860ext_IEs_supportOfCSG(rtxContext* RT_RESTRICT ctx, InitialDirectTransfer_v860ext_IEs_supportOfCSG value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_InitialDirectTransfer_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const InitialDirectTransfer_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InitialDirectTransfer-v860ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InitialDirectTransfer-v860ext-IEs");
+   /* supportOfCSG */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportOfCSG > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfCSG);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfCSG", -1, "InitialDirectTransfer-v860ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfCSG, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportOfCSG", -1, "InitialDirectTransfer-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* initialDirectTransfer-v860ext */
+   stat = asn1PE_UMTS_InitialDirectTransfer_v860ext_IEs(ctx, &pvalue->initialDirectTransfer_v860ext);
+   RT_CHECK(ctx, stat, 0, "initialDirectTransfer-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* initialDirectTransfer-v770ext */
+   stat = asn1PE_UMTS_InitialDirectTransfer_v770ext_IEs(ctx, &pvalue->initialDirectTransfer_v770ext);
+   RT_CHECK(ctx, stat, 0, "initialDirectTransfer-v770ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* initialDirectTransfer-v690ext */
+   stat = asn1PE_UMTS_InitialDirectTransfer_v690ext_IEs(ctx, &pvalue->initialDirectTransfer_v690ext);
+   RT_CHECK(ctx, stat, 0, "initialDirectTransfer-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* initialDirectTransfer-v590ext */
+   stat = asn1PE_UMTS_InitialDirectTransfer_v590ext(ctx, &pvalue->initialDirectTransfer_v590ext);
+   RT_CHECK(ctx, stat, 0, "initialDirectTransfer-v590ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* removedInterRATCellList */
-   rtxCtxtPushElemName(ctx, "removedInterRATCellList");
-   stat = asn1PE_UMTS_RemovedInterRATCellList(ctx, &pvalue->removedInterRATCellList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* newInterRATCellList */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* initialDirectTransfer-r3-add-ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "newInterRATCellList");
-      stat = asn1PE_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      {
+         rtxContext outer;
+         const uint8_t* data;
+         uint32_t len;
+         rtxCopyContext(&outer, ctx);
+         stat = rtxInitContextBuffer(ctx, 0, 0);
+         RT_CHECK(ctx, stat, 0, "initialDirectTransfer-r3-add-ext", -1, 0);
+         stat = asn1PE_UMTS_InitialDirectTransfer_r3_add_ext_IEs(ctx, &pvalue->initialDirectTransfer_r3_add_ext);
+         RT_CHECK(ctx, stat, 0, "initialDirectTransfer-r3-add-ext", -1, 0);
+         data = ctx->buffer_data;
+         len = ctx->byte_index * 8 + 8 - ctx->bit_offset;
+         rtxCopyContext(ctx, &outer);
+         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+         stat = pe_BitString(ctx, len, data);
+         rtxMemHeapFreePtr(ctx, (void*)data);
+         RT_CHECK(ctx, stat, 0, "initialDirectTransfer-r3-add-ext", -1, 0);
+      }
    }
-   /* cellsForInterRATMeasList */
+   /* v590NonCriticalExtensions */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "cellsForInterRATMeasList");
-      stat = asn1PE_UMTS_CellsForInterRATMeasList(ctx, &pvalue->cellsForInterRATMeasList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
+   return stat;
+}
+
+int asn1PE_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const InitialDirectTransfer_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* initialDirectTransfer-v3a0ext */
+   stat = asn1PE_UMTS_InitialDirectTransfer_v3a0ext(ctx, &pvalue->initialDirectTransfer_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "initialDirectTransfer-v3a0ext", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
    return 0;
 }
 
-int asn1PE_UMTS_InterRATCellInfoList_r6(rtxContext* ctx, const InterRATCellInfoList_r6* pvalue)
+int asn1PE_UMTS_InitialDirectTransfer(rtxContext* RT_RESTRICT ctx, const InitialDirectTransfer* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATCellInfoList-r6");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InitialDirectTransfer");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InitialDirectTransfer");
+   /* cn-DomainIdentity */
+   if (pvalue->cn_DomainIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "InitialDirectTransfer");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "InitialDirectTransfer");
+   /* intraDomainNasNodeSelector */
+   stat = asn1PE_UMTS_IntraDomainNasNodeSelector(ctx, &pvalue->intraDomainNasNodeSelector);
+   RT_CHECK(ctx, stat, 0, "intraDomainNasNodeSelector", -1, "InitialDirectTransfer");
+   /* nas-Message */
+   stat = asn1PE_UMTS_NAS_Message(ctx, &pvalue->nas_Message);
+   RT_CHECK(ctx, stat, 0, "nas-Message", -1, "InitialDirectTransfer");
+   /* measuredResultsOnRACH */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasuredResultsOnRACH(ctx, &pvalue->measuredResultsOnRACH);
+      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACH", -1, "InitialDirectTransfer");
+   }
+   /* v3a0NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, "InitialDirectTransfer");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_single_GSM_Message(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_single_GSM_Message* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_gsm_MessageList(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_gsm_MessageList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* gsm-Messages */
+   stat = asn1PE_UMTS_GSM_MessageList(ctx, &pvalue->gsm_Messages);
+   RT_CHECK(ctx, stat, 0, "gsm-Messages", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.single_GSM_Message == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "single-GSM-Message", -1, 0);
+         stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_single_GSM_Message(ctx, pvalue->u.single_GSM_Message);
+         RT_CHECK(ctx, stat, 0, "single-GSM-Message", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.gsm_MessageList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm-MessageList", -1, 0);
+         stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_gsm_MessageList(ctx, pvalue->u.gsm_MessageList);
+         RT_CHECK(ctx, stat, 0, "gsm-MessageList", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_GSM_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HandoverFromUTRANCommand-GSM-r3-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverFromUTRANCommand-GSM-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "HandoverFromUTRANCommand-GSM-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "HandoverFromUTRANCommand-GSM-r3-IEs");
+   /* activationTime */
+   if (pvalue->m & 0x1u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "HandoverFromUTRANCommand-GSM-r3-IEs");
+   }
+   /* toHandoverRAB-Info */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RAB_Info(ctx, &pvalue->toHandoverRAB_Info);
+      RT_CHECK(ctx, stat, 0, "toHandoverRAB-Info", -1, "HandoverFromUTRANCommand-GSM-r3-IEs");
+   }
+   /* frequency-band */
+   if (pvalue->frequency_band > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->frequency_band);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "Frequency-Band", "frequency-band", -1, "HandoverFromUTRANCommand-GSM-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->frequency_band, 0, 1);
+   RT_CHECK(ctx, stat, "Frequency-Band", "frequency-band", -1, "HandoverFromUTRANCommand-GSM-r3-IEs");
+   /* gsm-message */
+   stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message(ctx, &pvalue->gsm_message);
+   RT_CHECK(ctx, stat, 0, "gsm-message", -1, "HandoverFromUTRANCommand-GSM-r3-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_v690ext_IEs_geran_SystemInfoType(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_GSM_v690ext_IEs_geran_SystemInfoType* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.sI == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sI", -1, 0);
+         stat = asn1PE_UMTS_GERAN_SystemInformation(ctx, pvalue->u.sI);
+         RT_CHECK(ctx, stat, 0, "sI", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.pSI == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "pSI", -1, 0);
+         stat = asn1PE_UMTS_GERAN_SystemInformation(ctx, pvalue->u.pSI);
+         RT_CHECK(ctx, stat, 0, "pSI", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_GSM_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HandoverFromUTRANCommand-GSM-v690ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverFromUTRANCommand-GSM-v690ext-IEs");
+   /* geran-SystemInfoType */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_v690ext_IEs_geran_SystemInfoType(ctx, &pvalue->geran_SystemInfoType);
+      RT_CHECK(ctx, stat, 0, "geran-SystemInfoType", -1, "HandoverFromUTRANCommand-GSM-v690ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_GSM_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HandoverFromUTRANCommand-GSM-v860ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverFromUTRANCommand-GSM-v860ext-IEs");
+   /* sr-vcc-SecurityRABInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SR_VCC_SecurityRABInfo_v860ext(ctx, &pvalue->sr_vcc_SecurityRABInfo);
+      RT_CHECK(ctx, stat, 0, "sr-vcc-SecurityRABInfo", -1, "HandoverFromUTRANCommand-GSM-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverFromUTRANCommand-GSM-v860ext */
+   stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_v860ext_IEs(ctx, &pvalue->handoverFromUTRANCommand_GSM_v860ext);
+   RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-GSM-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverFromUTRANCommand-GSM-v690ext */
+   stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_v690ext_IEs(ctx, &pvalue->handoverFromUTRANCommand_GSM_v690ext);
+   RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-GSM-v690ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverFromUTRANCommand-GSM-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->handoverFromUTRANCommand_GSM_r3_add_ext.numbits, pvalue->handoverFromUTRANCommand_GSM_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-GSM-r3-add-ext", -1, 0);
+   }
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r3(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_GSM_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverFromUTRANCommand-GSM-r3 */
+   stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs(ctx, &pvalue->handoverFromUTRANCommand_GSM_r3);
+   RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-GSM-r3", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_single_GSM_Message(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_single_GSM_Message* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_gsm_MessageList(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_gsm_MessageList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* gsm-Messages */
+   stat = asn1PE_UMTS_GSM_MessageList(ctx, &pvalue->gsm_Messages);
+   RT_CHECK(ctx, stat, 0, "gsm-Messages", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.single_GSM_Message == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "single-GSM-Message", -1, 0);
+         stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_single_GSM_Message(ctx, pvalue->u.single_GSM_Message);
+         RT_CHECK(ctx, stat, 0, "single-GSM-Message", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.gsm_MessageList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm-MessageList", -1, 0);
+         stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_gsm_MessageList(ctx, pvalue->u.gsm_MessageList);
+         RT_CHECK(ctx, stat, 0, "gsm-MessageList", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_geran_SystemInfoType(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_GSM_r6_IEs_geran_SystemInfoType* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.sI == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sI", -1, 0);
+         stat = asn1PE_UMTS_GERAN_SystemInformation(ctx, pvalue->u.sI);
+         RT_CHECK(ctx, stat, 0, "sI", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.pSI == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "pSI", -1, 0);
+         stat = asn1PE_UMTS_GERAN_SystemInformation(ctx, pvalue->u.pSI);
+         RT_CHECK(ctx, stat, 0, "pSI", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_GSM_r6_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HandoverFromUTRANCommand-GSM-r6-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* removedInterRATCellList */
-   rtxCtxtPushElemName(ctx, "removedInterRATCellList");
-   stat = asn1PE_UMTS_RemovedInterRATCellList(ctx, &pvalue->removedInterRATCellList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* newInterRATCellList */
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverFromUTRANCommand-GSM-r6-IEs");
+   /* activationTime */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "newInterRATCellList");
-      stat = asn1PE_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "HandoverFromUTRANCommand-GSM-r6-IEs");
    }
-   /* cellsForInterRATMeasList */
+   /* toHandoverRAB-Info */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "cellsForInterRATMeasList");
-      stat = asn1PE_UMTS_CellsForInterRATMeasList(ctx, &pvalue->cellsForInterRATMeasList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RAB_InformationList_r6(ctx, &pvalue->toHandoverRAB_Info);
+      RT_CHECK(ctx, stat, 0, "toHandoverRAB-Info", -1, "HandoverFromUTRANCommand-GSM-r6-IEs");
    }
-   /* interRATCellInfoIndication-r6 */
+   /* frequency-band */
+   if (pvalue->frequency_band > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->frequency_band);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "Frequency-Band", "frequency-band", -1, "HandoverFromUTRANCommand-GSM-r6-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->frequency_band, 0, 1);
+   RT_CHECK(ctx, stat, "Frequency-Band", "frequency-band", -1, "HandoverFromUTRANCommand-GSM-r6-IEs");
+   /* gsm-message */
+   stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message(ctx, &pvalue->gsm_message);
+   RT_CHECK(ctx, stat, 0, "gsm-message", -1, "HandoverFromUTRANCommand-GSM-r6-IEs");
+   /* geran-SystemInfoType */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "interRATCellInfoIndication-r6");
-      rtxCtxtPushTypeName(ctx, "InterRATCellInfoIndication");
-      if ((uint64_t)pvalue->interRATCellInfoIndication_r6 > 3u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->interRATCellInfoIndication_r6);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->interRATCellInfoIndication_r6, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_geran_SystemInfoType(ctx, &pvalue->geran_SystemInfoType);
+      RT_CHECK(ctx, stat, 0, "geran-SystemInfoType", -1, "HandoverFromUTRANCommand-GSM-r6-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_InterRATEvent(rtxContext* ctx, const InterRATEvent* pvalue)
+int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATEvent");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 3) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "event3a");
-         if (pvalue->u.event3a == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event3a(ctx, pvalue->u.event3a);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "event3b");
-         if (pvalue->u.event3b == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event3b(ctx, pvalue->u.event3b);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "event3c");
-         if (pvalue->u.event3c == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event3c(ctx, pvalue->u.event3c);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "event3d");
-         if (pvalue->u.event3d == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Event3d(ctx, pvalue->u.event3d);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_InterRATEventList(rtxContext* ctx, const InterRATEventList* pvalue)
+int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6_v860NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "InterRATEventList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "InterRATEvent", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_InterRATEvent(ctx, (const InterRATEvent*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementQuantityGSM(rtxContext* ctx, MeasurementQuantityGSM value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MeasurementQuantityGSM");
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATMeasQuantity_ratSpecificInfo_gsm(rtxContext* ctx, const InterRATMeasQuantity_ratSpecificInfo_gsm* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->filterCoefficient != 0) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measurementQuantity */
-   rtxCtxtPushElemName(ctx, "measurementQuantity");
-   rtxCtxtPushTypeName(ctx, "MeasurementQuantityGSM");
-   if (pvalue->measurementQuantity > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->measurementQuantity);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverFromUTRANCommand-GSM-v860ext */
+   stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_v860ext_IEs(ctx, &pvalue->handoverFromUTRANCommand_GSM_v860ext);
+   RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-GSM-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->measurementQuantity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* filterCoefficient */
-   if (pvalue->filterCoefficient != 0) {
-      rtxCtxtPushElemName(ctx, "filterCoefficient");
-      rtxCtxtPushTypeName(ctx, "FilterCoefficient");
-      if (pvalue->filterCoefficient > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->filterCoefficient);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->filterCoefficient, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* bsic-VerificationRequired */
-   rtxCtxtPushElemName(ctx, "bsic-VerificationRequired");
-   rtxCtxtPushTypeName(ctx, "BSIC-VerificationRequired");
-   if (pvalue->bsic_VerificationRequired > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->bsic_VerificationRequired);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->bsic_VerificationRequired, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_InterRATMeasQuantity_ratSpecificInfo_is_2000(rtxContext* ctx, const InterRATMeasQuantity_ratSpecificInfo_is_2000* pvalue)
+int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* tadd-EcIo */
-   rtxCtxtPushElemName(ctx, "tadd-EcIo");
-   if ((uint64_t)pvalue->tadd_EcIo > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->tadd_EcIo);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tadd_EcIo, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tcomp-EcIo */
-   rtxCtxtPushElemName(ctx, "tcomp-EcIo");
-   if ((uint64_t)pvalue->tcomp_EcIo > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->tcomp_EcIo);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tcomp_EcIo, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* softSlope */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverFromUTRANCommand-GSM-r6 */
+   stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs(ctx, &pvalue->handoverFromUTRANCommand_GSM_r6);
+   RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-GSM-r6", -1, 0);
+   /* handoverFromUTRANCommand-GSM-r6-add-ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "softSlope");
-      if ((uint64_t)pvalue->softSlope > 63u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->softSlope);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->softSlope, 0, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->handoverFromUTRANCommand_GSM_r6_add_ext.numbits, pvalue->handoverFromUTRANCommand_GSM_r6_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-GSM-r6-add-ext", -1, 0);
    }
-   /* addIntercept */
+   /* v860NonCriticalExtensions */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "addIntercept");
-      if ((uint64_t)pvalue->addIntercept > 63u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->addIntercept);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->addIntercept, 0, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_InterRATMeasQuantity_ratSpecificInfo(rtxContext* ctx, const InterRATMeasQuantity_ratSpecificInfo* pvalue)
+int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "gsm");
-         if (pvalue->u.gsm == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterRATMeasQuantity_ratSpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.r6 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r6", -1, 0);
+         stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6(ctx, pvalue->u.r6);
+         RT_CHECK(ctx, stat, 0, "r6", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "is-2000");
-         if (pvalue->u.is_2000 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterRATMeasQuantity_ratSpecificInfo_is_2000(ctx, pvalue->u.is_2000);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
          break;
       default:
          break;
@@ -5166,1733 +6347,2656 @@ int asn1PE_UMTS_InterRATMeasQuantity_ratSpecificInfo(rtxContext* ctx, const Inte
    return 0;
 }
 
-int asn1PE_UMTS_InterRATMeasQuantity(rtxContext* ctx, const InterRATMeasQuantity* pvalue)
+int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_GSM_later_than_r3* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATMeasQuantity");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANCommand_GSM(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_GSM* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HandoverFromUTRANCommand-GSM");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "HandoverFromUTRANCommand-GSM");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "HandoverFromUTRANCommand-GSM");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r3", -1, "HandoverFromUTRANCommand-GSM");
+         stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "HandoverFromUTRANCommand-GSM");
+         break;
+      case 2:
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "later-than-r3", -1, "HandoverFromUTRANCommand-GSM");
+         stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "HandoverFromUTRANCommand-GSM");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_single_GERANIu_Message(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_single_GERANIu_Message* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_geranIu_MessageList(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_geranIu_MessageList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* geranIu-Messages */
+   stat = asn1PE_UMTS_GERANIu_MessageList(ctx, &pvalue->geranIu_Messages);
+   RT_CHECK(ctx, stat, 0, "geranIu-Messages", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.single_GERANIu_Message == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "single-GERANIu-Message", -1, 0);
+         stat = asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_single_GERANIu_Message(ctx, pvalue->u.single_GERANIu_Message);
+         RT_CHECK(ctx, stat, 0, "single-GERANIu-Message", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.geranIu_MessageList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "geranIu-MessageList", -1, 0);
+         stat = asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_geranIu_MessageList(ctx, pvalue->u.geranIu_MessageList);
+         RT_CHECK(ctx, stat, 0, "geranIu-MessageList", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_GERANIu_r5_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HandoverFromUTRANCommand-GERANIu-r5-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measQuantityUTRAN-QualityEstimate */
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverFromUTRANCommand-GERANIu-r5-IEs");
+   /* activationTime */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measQuantityUTRAN-QualityEstimate");
-      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->measQuantityUTRAN_QualityEstimate);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "HandoverFromUTRANCommand-GERANIu-r5-IEs");
    }
-   /* ratSpecificInfo */
-   rtxCtxtPushElemName(ctx, "ratSpecificInfo");
-   stat = asn1PE_UMTS_InterRATMeasQuantity_ratSpecificInfo(ctx, &pvalue->ratSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   /* frequency-Band */
+   if (pvalue->frequency_Band > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->frequency_Band);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "Frequency-Band", "frequency-Band", -1, "HandoverFromUTRANCommand-GERANIu-r5-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->frequency_Band, 0, 1);
+   RT_CHECK(ctx, stat, "Frequency-Band", "frequency-Band", -1, "HandoverFromUTRANCommand-GERANIu-r5-IEs");
+   /* geranIu-Message */
+   stat = asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message(ctx, &pvalue->geranIu_Message);
+   RT_CHECK(ctx, stat, 0, "geranIu-Message", -1, "HandoverFromUTRANCommand-GERANIu-r5-IEs");
    return 0;
 }
 
-int asn1PE_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_gsm(rtxContext* ctx, const InterRATMeasQuantity_r8_ratSpecificInfo_gsm* pvalue)
+int asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->filterCoefficient != 0) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measurementQuantity */
-   rtxCtxtPushElemName(ctx, "measurementQuantity");
-   rtxCtxtPushTypeName(ctx, "MeasurementQuantityGSM");
-   if (pvalue->measurementQuantity > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->measurementQuantity);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverFromUTRANCommand-GERANIu-r5 */
+   stat = asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs(ctx, &pvalue->handoverFromUTRANCommand_GERANIu_r5);
+   RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-GERANIu-r5", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->measurementQuantity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* filterCoefficient */
-   if (pvalue->filterCoefficient != 0) {
-      rtxCtxtPushElemName(ctx, "filterCoefficient");
-      rtxCtxtPushTypeName(ctx, "FilterCoefficient");
-      if (pvalue->filterCoefficient > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->filterCoefficient);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->filterCoefficient, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* bsic-VerificationRequired */
-   rtxCtxtPushElemName(ctx, "bsic-VerificationRequired");
-   rtxCtxtPushTypeName(ctx, "BSIC-VerificationRequired");
-   if (pvalue->bsic_VerificationRequired > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->bsic_VerificationRequired);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->bsic_VerificationRequired, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_is_2000(rtxContext* ctx, const InterRATMeasQuantity_r8_ratSpecificInfo_is_2000* pvalue)
+int asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_later_than_r5_criticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_later_than_r5_criticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_later_than_r5(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_later_than_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* criticalExtensions */
+   stat = asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_later_than_r5_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r5", -1, 0);
+         stat = asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5(ctx, pvalue->u.r5);
+         RT_CHECK(ctx, stat, 0, "r5", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.later_than_r5 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "later-than-r5", -1, 0);
+         stat = asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_later_than_r5(ctx, pvalue->u.later_than_r5);
+         RT_CHECK(ctx, stat, 0, "later-than-r5", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_GERANIu* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HandoverFromUTRANCommand-GERANIu");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "HandoverFromUTRANCommand-GERANIu");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "HandoverFromUTRANCommand-GERANIu");
+   /* handoverFromUTRANCommand-GERANIu */
+   stat = asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu(ctx, &pvalue->handoverFromUTRANCommand_GERANIu);
+   RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-GERANIu", -1, "HandoverFromUTRANCommand-GERANIu");
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANCommand_CDMA2000_r3_IEs(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_CDMA2000_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HandoverFromUTRANCommand-CDMA2000-r3-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* tadd-EcIo */
-   rtxCtxtPushElemName(ctx, "tadd-EcIo");
-   if ((uint64_t)pvalue->tadd_EcIo > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->tadd_EcIo);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverFromUTRANCommand-CDMA2000-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "HandoverFromUTRANCommand-CDMA2000-r3-IEs");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->tadd_EcIo, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tcomp-EcIo */
-   rtxCtxtPushElemName(ctx, "tcomp-EcIo");
-   if ((uint64_t)pvalue->tcomp_EcIo > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->tcomp_EcIo);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tcomp_EcIo, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* softSlope */
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "HandoverFromUTRANCommand-CDMA2000-r3-IEs");
+   /* activationTime */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "softSlope");
-      if ((uint64_t)pvalue->softSlope > 63u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->softSlope);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->softSlope, 0, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "HandoverFromUTRANCommand-CDMA2000-r3-IEs");
    }
-   /* addIntercept */
+   /* toHandoverRAB-Info */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "addIntercept");
-      if ((uint64_t)pvalue->addIntercept > 63u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->addIntercept);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->addIntercept, 0, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RAB_Info(ctx, &pvalue->toHandoverRAB_Info);
+      RT_CHECK(ctx, stat, 0, "toHandoverRAB-Info", -1, "HandoverFromUTRANCommand-CDMA2000-r3-IEs");
    }
+   /* cdma2000-MessageList */
+   stat = asn1PE_UMTS_CDMA2000_MessageList(ctx, &pvalue->cdma2000_MessageList);
+   RT_CHECK(ctx, stat, 0, "cdma2000-MessageList", -1, "HandoverFromUTRANCommand-CDMA2000-r3-IEs");
    return 0;
 }
 
-int asn1PE_UMTS_MeasurementQuantityEUTRA(rtxContext* ctx, MeasurementQuantityEUTRA value)
+int asn1PE_UMTS_HandoverFromUTRANCommand_CDMA2000_r3_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_CDMA2000_r3_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MeasurementQuantityEUTRA");
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_e_UTRA(rtxContext* ctx, const InterRATMeasQuantity_r8_ratSpecificInfo_e_UTRA* pvalue)
+int asn1PE_UMTS_HandoverFromUTRANCommand_CDMA2000_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_CDMA2000_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->filterCoefficient != 0) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measurementQuantity */
-   rtxCtxtPushElemName(ctx, "measurementQuantity");
-   rtxCtxtPushTypeName(ctx, "MeasurementQuantityEUTRA");
-   if (pvalue->measurementQuantity > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->measurementQuantity);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverFromUTRANCommand-CDMA2000-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->handoverFromUTRANCommand_CDMA2000_r3_add_ext.numbits, pvalue->handoverFromUTRANCommand_CDMA2000_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-CDMA2000-r3-add-ext", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->measurementQuantity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* filterCoefficient */
-   if (pvalue->filterCoefficient != 0) {
-      rtxCtxtPushElemName(ctx, "filterCoefficient");
-      rtxCtxtPushTypeName(ctx, "FilterCoefficient");
-      if (pvalue->filterCoefficient > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->filterCoefficient);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->filterCoefficient, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_HandoverFromUTRANCommand_CDMA2000_r3_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo(rtxContext* ctx, const InterRATMeasQuantity_r8_ratSpecificInfo* pvalue)
+int asn1PE_UMTS_HandoverFromUTRANCommand_CDMA2000_r3(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_CDMA2000_r3* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "gsm");
-         if (pvalue->u.gsm == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "is-2000");
-         if (pvalue->u.is_2000 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_is_2000(ctx, pvalue->u.is_2000);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "e-UTRA");
-         if (pvalue->u.e_UTRA == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_e_UTRA(ctx, pvalue->u.e_UTRA);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATMeasQuantity_r8(rtxContext* ctx, const InterRATMeasQuantity_r8* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATMeasQuantity-r8");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measQuantityUTRAN-QualityEstimate */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverFromUTRANCommand-CDMA2000-r3 */
+   stat = asn1PE_UMTS_HandoverFromUTRANCommand_CDMA2000_r3_IEs(ctx, &pvalue->handoverFromUTRANCommand_CDMA2000_r3);
+   RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-CDMA2000-r3", -1, 0);
+   /* laterNonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measQuantityUTRAN-QualityEstimate");
-      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->measQuantityUTRAN_QualityEstimate);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_HandoverFromUTRANCommand_CDMA2000_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
    }
-   /* ratSpecificInfo */
-   rtxCtxtPushElemName(ctx, "ratSpecificInfo");
-   stat = asn1PE_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo(ctx, &pvalue->ratSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_InterRATMeasuredResults(rtxContext* ctx, const InterRATMeasuredResults* pvalue)
+int asn1PE_UMTS_HandoverFromUTRANCommand_CDMA2000_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_CDMA2000_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATMeasuredResults");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANCommand_CDMA2000_later_than_r3(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_CDMA2000_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PE_UMTS_HandoverFromUTRANCommand_CDMA2000_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANCommand_CDMA2000(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_CDMA2000* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HandoverFromUTRANCommand-CDMA2000");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "HandoverFromUTRANCommand-CDMA2000");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "HandoverFromUTRANCommand-CDMA2000");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "gsm");
-         if (pvalue->u.gsm == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_GSM_MeasuredResultsList(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r3", -1, "HandoverFromUTRANCommand-CDMA2000");
+         stat = asn1PE_UMTS_HandoverFromUTRANCommand_CDMA2000_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "HandoverFromUTRANCommand-CDMA2000");
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "spare");
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "later-than-r3", -1, "HandoverFromUTRANCommand-CDMA2000");
+         stat = asn1PE_UMTS_HandoverFromUTRANCommand_CDMA2000_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "HandoverFromUTRANCommand-CDMA2000");
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_InterRATMeasuredResultsList(rtxContext* ctx, const InterRATMeasuredResultsList* pvalue)
+int asn1PE_UMTS_HandoverFromUTRANCommand_EUTRA_r8_IEs(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_EUTRA_r8_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "InterRATMeasuredResultsList");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "InterRATMeasuredResults", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_InterRATMeasuredResults(ctx, (const InterRATMeasuredResults*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HandoverFromUTRANCommand-EUTRA-r8-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverFromUTRANCommand-EUTRA-r8-IEs");
+   /* activationTime */
+   if (pvalue->m & 0x1u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "HandoverFromUTRANCommand-EUTRA-r8-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
+   /* toHandoverRAB-Info */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RAB_InformationList(ctx, &pvalue->toHandoverRAB_Info);
+      RT_CHECK(ctx, stat, 0, "toHandoverRAB-Info", -1, "HandoverFromUTRANCommand-EUTRA-r8-IEs");
+   }
+   /* eutra-Message */
+   RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+   stat = pe_OctetString(ctx, pvalue->eutra_Message.numocts, pvalue->eutra_Message.data);
+   RT_CHECK(ctx, stat, 0, "eutra-Message", -1, "HandoverFromUTRANCommand-EUTRA-r8-IEs");
    return 0;
 }
 
-int asn1PE_UMTS_InterRATReportingQuantity_ratSpecificInfo_gsm(rtxContext* ctx, const InterRATReportingQuantity_ratSpecificInfo_gsm* pvalue)
+int asn1PE_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverFromUTRANCommand-EUTRA-r8 */
+   stat = asn1PE_UMTS_HandoverFromUTRANCommand_EUTRA_r8_IEs(ctx, &pvalue->handoverFromUTRANCommand_EUTRA_r8);
+   RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-EUTRA-r8", -1, 0);
+   /* handoverFromUTRANCommand-EUTRA-r8-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->handoverFromUTRANCommand_EUTRA_r8_add_ext.numbits, pvalue->handoverFromUTRANCommand_EUTRA_r8_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-EUTRA-r8-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_EUTRA_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_EUTRA_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r8 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r8", -1, 0);
+         stat = asn1PE_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8(ctx, pvalue->u.r8);
+         RT_CHECK(ctx, stat, 0, "r8", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANCommand_EUTRA(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANCommand_EUTRA* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HandoverFromUTRANCommand-EUTRA");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "HandoverFromUTRANCommand-EUTRA");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "HandoverFromUTRANCommand-EUTRA");
+   /* criticalExtensions */
+   stat = asn1PE_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, "HandoverFromUTRANCommand-EUTRA");
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANFailure_interRATMessage_gsm(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANFailure_interRATMessage_gsm* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* gsm-MessageList */
+   stat = asn1PE_UMTS_GSM_MessageList(ctx, &pvalue->gsm_MessageList);
+   RT_CHECK(ctx, stat, 0, "gsm-MessageList", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANFailure_interRATMessage_cdma2000(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANFailure_interRATMessage_cdma2000* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* cdma2000-MessageList */
+   stat = asn1PE_UMTS_CDMA2000_MessageList(ctx, &pvalue->cdma2000_MessageList);
+   RT_CHECK(ctx, stat, 0, "cdma2000-MessageList", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANFailure_interRATMessage(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANFailure_interRATMessage* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm", -1, 0);
+         stat = asn1PE_UMTS_HandoverFromUTRANFailure_interRATMessage_gsm(ctx, pvalue->u.gsm);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.cdma2000 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cdma2000", -1, 0);
+         stat = asn1PE_UMTS_HandoverFromUTRANFailure_interRATMessage_cdma2000(ctx, pvalue->u.cdma2000);
+         RT_CHECK(ctx, stat, 0, "cdma2000", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUtranFailure_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const HandoverFromUtranFailure_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HandoverFromUtranFailure-v590ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverFromUtranFailure-v590ext-IEs");
+   /* geranIu-MessageList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_GERANIu_MessageList(ctx, &pvalue->geranIu_MessageList);
+      RT_CHECK(ctx, stat, 0, "geranIu-MessageList", -1, "HandoverFromUtranFailure-v590ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUtranFailure_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const HandoverFromUtranFailure_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HandoverFromUtranFailure-v860ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverFromUtranFailure-v860ext-IEs");
+   /* eutra-Message */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_OctetString(ctx, pvalue->eutra_Message.numocts, pvalue->eutra_Message.data);
+      RT_CHECK(ctx, stat, 0, "eutra-Message", -1, "HandoverFromUtranFailure-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverFromUTRANFailure-v860ext */
+   stat = asn1PE_UMTS_HandoverFromUtranFailure_v860ext_IEs(ctx, &pvalue->handoverFromUTRANFailure_v860ext);
+   RT_CHECK(ctx, stat, 0, "handoverFromUTRANFailure-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverFromUTRANFailure-v590ext */
+   stat = asn1PE_UMTS_HandoverFromUtranFailure_v590ext_IEs(ctx, &pvalue->handoverFromUTRANFailure_v590ext);
+   RT_CHECK(ctx, stat, 0, "handoverFromUTRANFailure-v590ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANFailure_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* handoverFromUTRANFailure-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->handoverFromUTRANFailure_r3_add_ext.numbits, pvalue->handoverFromUTRANFailure_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "handoverFromUTRANFailure-r3-add-ext", -1, 0);
+   }
+   /* v590NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HandoverFromUTRANFailure(rtxContext* RT_RESTRICT ctx, const HandoverFromUTRANFailure* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HandoverFromUTRANFailure");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "HandoverFromUTRANFailure");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "HandoverFromUTRANFailure");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "HandoverFromUTRANFailure");
+   /* interRAT-HO-FailureCause */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterRAT_HO_FailureCause(ctx, &pvalue->interRAT_HO_FailureCause);
+      RT_CHECK(ctx, stat, 0, "interRAT-HO-FailureCause", -1, "HandoverFromUTRANFailure");
+   }
+   /* interRATMessage */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_HandoverFromUTRANFailure_interRATMessage(ctx, &pvalue->interRATMessage);
+      RT_CHECK(ctx, stat, 0, "interRATMessage", -1, "HandoverFromUTRANFailure");
+   }
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "HandoverFromUTRANFailure");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_predefinedConfigStatusList(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_predefinedConfigStatusList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.present == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "present", -1, 0);
+         stat = asn1PE_UMTS_PredefinedConfigStatusList(ctx, pvalue->u.present);
+         RT_CHECK(ctx, stat, 0, "present", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_uE_SecurityInformation(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_uE_SecurityInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.present == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "present", -1, 0);
+         stat = asn1PE_UMTS_UE_SecurityInformation(ctx, pvalue->u.present);
+         RT_CHECK(ctx, stat, 0, "present", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_ue_CapabilityContainer_present(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_ue_CapabilityContainer_present* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 0, 63);
+   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_ue_CapabilityContainer(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_ue_CapabilityContainer* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.present == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "present", -1, 0);
+         stat = asn1PE_UMTS_InterRATHandoverInfo_ue_CapabilityContainer_present(ctx, pvalue->u.present);
+         RT_CHECK(ctx, stat, 0, "present", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_v390ext_IEs(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_v390ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATHandoverInfo-v390ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v390ext-IEs");
+   /* ue-RadioAccessCapability-v380ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapability_v380ext(ctx, &pvalue->ue_RadioAccessCapability_v380ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v380ext", -1, "InterRATHandoverInfo-v390ext-IEs");
+   }
+   /* dl-PhysChCapabilityFDD-v380ext */
+   stat = asn1PE_UMTS_DL_PhysChCapabilityFDD_v380ext(ctx, &pvalue->dl_PhysChCapabilityFDD_v380ext);
+   RT_CHECK(ctx, stat, 0, "dl-PhysChCapabilityFDD-v380ext", -1, "InterRATHandoverInfo-v390ext-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_v3a0ext_IEs(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_v3a0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATHandoverInfo-v3a0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v3a0ext-IEs");
+   /* ue-RadioAccessCapability-v3a0ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapability_v3a0ext(ctx, &pvalue->ue_RadioAccessCapability_v3a0ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v3a0ext", -1, "InterRATHandoverInfo-v3a0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_v3d0ext_IEs(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_v3d0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATHandoverInfo-v3d0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v3d0ext-IEs");
+   /* uESpecificBehaviourInformation1interRAT */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UESpecificBehaviourInformation1interRAT(ctx, pvalue->uESpecificBehaviourInformation1interRAT);
+      RT_CHECK(ctx, stat, 0, "uESpecificBehaviourInformation1interRAT", -1, "InterRATHandoverInfo-v3d0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_v690ext1_IEs(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_v690ext1_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATHandoverInfo-v690ext1-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v690ext1-IEs");
+   /* ue-RadioAccessCapability-v650ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapability_v650ext(ctx, &pvalue->ue_RadioAccessCapability_v650ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v650ext", -1, "InterRATHandoverInfo-v690ext1-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_v7e0ext_IEs(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_v7e0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATHandoverInfo-v7e0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v7e0ext-IEs");
+   /* ue-RadioAccessCapability */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapability_v7e0ext(ctx, &pvalue->ue_RadioAccessCapability);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "InterRATHandoverInfo-v7e0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_v7f0ext_IEs(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_v7f0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATHandoverInfo-v7f0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v7f0ext-IEs");
+   /* ue-RadioAccessCapability */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapability_v7f0ext(ctx, &pvalue->ue_RadioAccessCapability);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "InterRATHandoverInfo-v7f0ext-IEs");
+   }
+   /* ue-RadioAccessCapabilityComp2 */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v7f0ext(ctx, &pvalue->ue_RadioAccessCapabilityComp2);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityComp2", -1, "InterRATHandoverInfo-v7f0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfo-v7f0ext */
+   stat = asn1PE_UMTS_InterRATHandoverInfo_v7f0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v7f0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfo-v7e0ext */
+   stat = asn1PE_UMTS_InterRATHandoverInfo_v7e0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v7e0ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v7e0ext", -1, 0);
+   /* v7f0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_r3_add_ext_IEs(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_r3_add_ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATHandoverInfo-r3-add-ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-r3-add-ext-IEs");
+   /* interRATHandoverInfo-v690ext1 */
+   stat = asn1PE_UMTS_InterRATHandoverInfo_v690ext1_IEs(ctx, &pvalue->interRATHandoverInfo_v690ext1);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v690ext1", -1, "InterRATHandoverInfo-r3-add-ext-IEs");
+   /* v7e0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions(ctx, &pvalue->v7e0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7e0NonCriticalExtensions", -1, "InterRATHandoverInfo-r3-add-ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_v3g0ext_IEs(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_v3g0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATHandoverInfo-v3g0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v3g0ext-IEs");
+   /* ue-RadioAccessCapability-v3g0ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapability_v3g0ext(ctx, &pvalue->ue_RadioAccessCapability_v3g0ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v3g0ext", -1, "InterRATHandoverInfo-v3g0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATHandoverInfo-v4b0ext-IEs");
+   /* accessStratumReleaseIndicator */
+   if (pvalue->accessStratumReleaseIndicator > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->accessStratumReleaseIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "AccessStratumReleaseIndicator", "accessStratumReleaseIndicator", -1, "InterRATHandoverInfo-v4b0ext-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->accessStratumReleaseIndicator, 0, 15);
+   RT_CHECK(ctx, stat, "AccessStratumReleaseIndicator", "accessStratumReleaseIndicator", -1, "InterRATHandoverInfo-v4b0ext-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_v4d0ext_IEs(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_v4d0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATHandoverInfo-v4d0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v4d0ext-IEs");
+   /* tdd128-RF-Capability */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->tdd128_RF_Capability > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->tdd128_RF_Capability);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandTDDList", "tdd128-RF-Capability", -1, "InterRATHandoverInfo-v4d0ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->tdd128_RF_Capability, 0, 7);
+      RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList", "tdd128-RF-Capability", -1, "InterRATHandoverInfo-v4d0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATHandoverInfo-v590ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v590ext-IEs");
+   /* predefinedConfigStatusListComp */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PredefinedConfigStatusListComp(ctx, &pvalue->predefinedConfigStatusListComp);
+      RT_CHECK(ctx, stat, 0, "predefinedConfigStatusListComp", -1, "InterRATHandoverInfo-v590ext-IEs");
+   }
+   /* ue-RadioAccessCapabilityComp */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapabilityComp(ctx, &pvalue->ue_RadioAccessCapabilityComp);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityComp", -1, "InterRATHandoverInfo-v590ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATHandoverInfo-v690ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v690ext-IEs");
+   /* ue-SecurityInformation2 */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_SecurityInformation2(ctx, &pvalue->ue_SecurityInformation2);
+      RT_CHECK(ctx, stat, 0, "ue-SecurityInformation2", -1, "InterRATHandoverInfo-v690ext-IEs");
+   }
+   /* ue-RadioAccessCapabilityComp */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapabilityComp_ext(ctx, &pvalue->ue_RadioAccessCapabilityComp);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityComp", -1, "InterRATHandoverInfo-v690ext-IEs");
+   }
+   /* ue-RadioAccessCapabilityComp2 */
+   stat = asn1PE_UMTS_UE_RadioAccessCapabilityComp2(ctx, &pvalue->ue_RadioAccessCapabilityComp2);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityComp2", -1, "InterRATHandoverInfo-v690ext-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_v6b0ext_IEs_supportForSIB11bis(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v6b0ext_IEs_supportForSIB11bis value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_v6b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATHandoverInfo-v6b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v6b0ext-IEs");
+   /* supportForSIB11bis */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportForSIB11bis > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportForSIB11bis);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportForSIB11bis", -1, "InterRATHandoverInfo-v6b0ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportForSIB11bis, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportForSIB11bis", -1, "InterRATHandoverInfo-v6b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_v6e0ext_IEs_supportForFDPCH(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v6e0ext_IEs_supportForFDPCH value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_v6e0ext_IEs(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_v6e0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATHandoverInfo-v6e0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v6e0ext-IEs");
+   /* supportForFDPCH */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportForFDPCH > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportForFDPCH);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportForFDPCH", -1, "InterRATHandoverInfo-v6e0ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportForFDPCH, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportForFDPCH", -1, "InterRATHandoverInfo-v6e0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATHandoverInfo-v770ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v770ext-IEs");
+   /* ue-RadioAccessCapabilityInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapabilityInfo_v770ext(ctx, &pvalue->ue_RadioAccessCapabilityInfo);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityInfo", -1, "InterRATHandoverInfo-v770ext-IEs");
+   }
+   /* ue-RadioAccessCapabilityComp */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapabilityComp_v770ext(ctx, &pvalue->ue_RadioAccessCapabilityComp);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityComp", -1, "InterRATHandoverInfo-v770ext-IEs");
+   }
+   /* ue-RadioAccessCapabilityComp2 */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v770ext(ctx, &pvalue->ue_RadioAccessCapabilityComp2);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityComp2", -1, "InterRATHandoverInfo-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_v790ext_IEs_supportForEDPCCHPowerBoosting(rtxContext* RT_RESTRICT ctx, InterRATHandoverInfo_v790ext_IEs_supportForEDPCCHPowerBoosting value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_v790ext_IEs(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_v790ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATHandoverInfo-v790ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v790ext-IEs");
+   /* supportForEDPCCHPowerBoosting */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportForEDPCCHPowerBoosting > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportForEDPCCHPowerBoosting);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportForEDPCCHPowerBoosting", -1, "InterRATHandoverInfo-v790ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportForEDPCCHPowerBoosting, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportForEDPCCHPowerBoosting", -1, "InterRATHandoverInfo-v790ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATHandoverInfo-v860ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v860ext-IEs");
+   /* ue-RadioAccessCapabilityInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapability_v860ext(ctx, &pvalue->ue_RadioAccessCapabilityInfo);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityInfo", -1, "InterRATHandoverInfo-v860ext-IEs");
+   }
+   /* ue-RadioAccessCapabilityComp2 */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v860ext(ctx, &pvalue->ue_RadioAccessCapabilityComp2);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityComp2", -1, "InterRATHandoverInfo-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_v880ext_IEs(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_v880ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATHandoverInfo-v880ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v880ext-IEs");
+   /* ue-RadioAccessCapabilityInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapability_v880ext(ctx, &pvalue->ue_RadioAccessCapabilityInfo);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityInfo", -1, "InterRATHandoverInfo-v880ext-IEs");
+   }
+   /* ue-RadioAccessCapabilityInfo-TDD128 */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapabilityComp_TDD128(ctx, &pvalue->ue_RadioAccessCapabilityInfo_TDD128);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityInfo-TDD128", -1, "InterRATHandoverInfo-v880ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_v920ext_IEs(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_v920ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATHandoverInfo-v920ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-v920ext-IEs");
+   /* ue-RadioAccessCapabilityInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapability_v920ext(ctx, &pvalue->ue_RadioAccessCapabilityInfo);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityInfo", -1, "InterRATHandoverInfo-v920ext-IEs");
+   }
+   /* ue-RadioAccessCapabilityComp2 */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v920ext(ctx, &pvalue->ue_RadioAccessCapabilityComp2);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityComp2", -1, "InterRATHandoverInfo-v920ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v920NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfo-v920ext */
+   stat = asn1PE_UMTS_InterRATHandoverInfo_v920ext_IEs(ctx, &pvalue->interRATHandoverInfo_v920ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v920ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfo-v880ext */
+   stat = asn1PE_UMTS_InterRATHandoverInfo_v880ext_IEs(ctx, &pvalue->interRATHandoverInfo_v880ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v880ext", -1, 0);
+   /* v920NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfo-v860ext */
+   stat = asn1PE_UMTS_InterRATHandoverInfo_v860ext_IEs(ctx, &pvalue->interRATHandoverInfo_v860ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v860ext", -1, 0);
+   /* v880NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions(ctx, &pvalue->v880NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v880NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfo-v790ext */
+   stat = asn1PE_UMTS_InterRATHandoverInfo_v790ext_IEs(ctx, &pvalue->interRATHandoverInfo_v790ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v790ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfo-v770ext */
+   stat = asn1PE_UMTS_InterRATHandoverInfo_v770ext_IEs(ctx, &pvalue->interRATHandoverInfo_v770ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v770ext", -1, 0);
+   /* v790nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions(ctx, &pvalue->v790nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v790nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfo-v6e0ext */
+   stat = asn1PE_UMTS_InterRATHandoverInfo_v6e0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v6e0ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v6e0ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATHandoverInfo-NonCriticalExtension-v6b0-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfo-NonCriticalExtension-v6b0-IEs");
+   /* interRATHandoverInfo-v6b0ext */
+   stat = asn1PE_UMTS_InterRATHandoverInfo_v6b0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v6b0ext", -1, "InterRATHandoverInfo-NonCriticalExtension-v6b0-IEs");
+   /* v6e0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions(ctx, &pvalue->v6e0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6e0NonCriticalExtensions", -1, "InterRATHandoverInfo-NonCriticalExtension-v6b0-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfo-v690ext */
+   stat = asn1PE_UMTS_InterRATHandoverInfo_v690ext_IEs(ctx, &pvalue->interRATHandoverInfo_v690ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v690ext", -1, 0);
+   /* v6b0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfo-v590ext */
+   stat = asn1PE_UMTS_InterRATHandoverInfo_v590ext_IEs(ctx, &pvalue->interRATHandoverInfo_v590ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v590ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfo-v4d0ext */
+   stat = asn1PE_UMTS_InterRATHandoverInfo_v4d0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v4d0ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v4d0ext", -1, 0);
+   /* v590NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfo-v4b0ext */
+   stat = asn1PE_UMTS_InterRATHandoverInfo_v4b0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v4b0ext", -1, 0);
+   /* v4d0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfo-v3g0ext */
+   stat = asn1PE_UMTS_InterRATHandoverInfo_v3g0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v3g0ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v3g0ext", -1, 0);
+   /* v4b0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfo-v3d0ext */
+   stat = asn1PE_UMTS_InterRATHandoverInfo_v3d0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v3d0ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v3d0ext", -1, 0);
+   /* interRATHandoverInfo-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      {
+         rtxContext outer;
+         const uint8_t* data;
+         uint32_t len;
+         rtxCopyContext(&outer, ctx);
+         stat = rtxInitContextBuffer(ctx, 0, 0);
+         RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-r3-add-ext", -1, 0);
+         stat = asn1PE_UMTS_InterRATHandoverInfo_r3_add_ext_IEs(ctx, &pvalue->interRATHandoverInfo_r3_add_ext);
+         RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-r3-add-ext", -1, 0);
+         data = ctx->buffer_data;
+         len = ctx->byte_index * 8 + 8 - ctx->bit_offset;
+         rtxCopyContext(ctx, &outer);
+         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+         stat = pe_BitString(ctx, len, data);
+         rtxMemHeapFreePtr(ctx, (void*)data);
+         RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-r3-add-ext", -1, 0);
+      }
+   }
+   /* v3g0NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions(ctx, &pvalue->v3g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3g0NonCriticalExtensions", -1, 0);
+   }
+   return stat;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfo-v3a0ext */
+   stat = asn1PE_UMTS_InterRATHandoverInfo_v3a0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v3a0ext", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_v390NonCriticalExtensions_present* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfo-v390ext */
+   stat = asn1PE_UMTS_InterRATHandoverInfo_v390ext_IEs(ctx, &pvalue->interRATHandoverInfo_v390ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-v390ext", -1, 0);
+   /* v3a0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo_v390NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.present == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "present", -1, 0);
+         stat = asn1PE_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present(ctx, pvalue->u.present);
+         RT_CHECK(ctx, stat, 0, "present", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfo(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATHandoverInfo");
+   /* predefinedConfigStatusList */
+   stat = asn1PE_UMTS_InterRATHandoverInfo_predefinedConfigStatusList(ctx, &pvalue->predefinedConfigStatusList);
+   RT_CHECK(ctx, stat, 0, "predefinedConfigStatusList", -1, "InterRATHandoverInfo");
+   /* uE-SecurityInformation */
+   stat = asn1PE_UMTS_InterRATHandoverInfo_uE_SecurityInformation(ctx, &pvalue->uE_SecurityInformation);
+   RT_CHECK(ctx, stat, 0, "uE-SecurityInformation", -1, "InterRATHandoverInfo");
+   /* ue-CapabilityContainer */
+   stat = asn1PE_UMTS_InterRATHandoverInfo_ue_CapabilityContainer(ctx, &pvalue->ue_CapabilityContainer);
+   RT_CHECK(ctx, stat, 0, "ue-CapabilityContainer", -1, "InterRATHandoverInfo");
+   /* v390NonCriticalExtensions */
+   stat = asn1PE_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions(ctx, &pvalue->v390NonCriticalExtensions);
+   RT_CHECK(ctx, stat, 0, "v390NonCriticalExtensions", -1, "InterRATHandoverInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_r3_IEs(rtxContext* RT_RESTRICT ctx, const MeasurementControl_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementControl-r3-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "MeasurementControl-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "MeasurementControl-r3-IEs");
+   /* measurementIdentity */
+   if ((uint64_t)(pvalue->measurementIdentity - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "MeasurementIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->measurementIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementIdentity", "measurementIdentity", -1, "MeasurementControl-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->measurementIdentity, 1, 16);
+   RT_CHECK(ctx, stat, "MeasurementIdentity", "measurementIdentity", -1, "MeasurementControl-r3-IEs");
+   /* measurementCommand */
+   stat = asn1PE_UMTS_MeasurementCommand(ctx, &pvalue->measurementCommand);
+   RT_CHECK(ctx, stat, 0, "measurementCommand", -1, "MeasurementControl-r3-IEs");
+   /* measurementReportingMode */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
+      RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "MeasurementControl-r3-IEs");
+   }
+   /* additionalMeasurementList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementList);
+      RT_CHECK(ctx, stat, 0, "additionalMeasurementList", -1, "MeasurementControl-r3-IEs");
+   }
+   /* dpch-CompressedModeStatusInfo */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_DPCH_CompressedModeStatusInfo(ctx, &pvalue->dpch_CompressedModeStatusInfo);
+      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeStatusInfo", -1, "MeasurementControl-r3-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_v390ext(rtxContext* RT_RESTRICT ctx, const MeasurementControl_v390ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementControl-v390ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-v390ext");
+   /* ue-Positioning-Measurement-v390ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_Positioning_Measurement_v390ext(ctx, &pvalue->ue_Positioning_Measurement_v390ext);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-Measurement-v390ext", -1, "MeasurementControl-v390ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_v3a0ext(rtxContext* RT_RESTRICT ctx, const MeasurementControl_v3a0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementControl-v3a0ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-v3a0ext");
+   /* sfn-Offset-Validity */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->sfn_Offset_Validity > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->sfn_Offset_Validity);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "MeasurementControl-v3a0ext");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->sfn_Offset_Validity, 0, 0);
+      RT_CHECK(ctx, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "MeasurementControl-v3a0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_v590ext_IEs_measurementCommand_v590ext(rtxContext* RT_RESTRICT ctx, const MeasurementControl_v590ext_IEs_measurementCommand_v590ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.intra_frequency == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intra-frequency", -1, 0);
+         stat = asn1PE_UMTS_Intra_FreqEventCriteriaList_v590ext(ctx, pvalue->u.intra_frequency);
+         RT_CHECK(ctx, stat, 0, "intra-frequency", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.inter_frequency == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "inter-frequency", -1, 0);
+         stat = asn1PE_UMTS_Inter_FreqEventCriteriaList_v590ext(ctx, pvalue->u.inter_frequency);
+         RT_CHECK(ctx, stat, 0, "inter-frequency", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const MeasurementControl_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementControl-v590ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-v590ext-IEs");
+   /* measurementCommand-v590ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementControl_v590ext_IEs_measurementCommand_v590ext(ctx, &pvalue->measurementCommand_v590ext);
+      RT_CHECK(ctx, stat, 0, "measurementCommand-v590ext", -1, "MeasurementControl-v590ext-IEs");
+   }
+   /* intraFreqReportingCriteria-1b-r5 */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_IntraFreqReportingCriteria_1b_r5(ctx, &pvalue->intraFreqReportingCriteria_1b_r5);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria-1b-r5", -1, "MeasurementControl-v590ext-IEs");
+   }
+   /* intraFreqEvent-1d-r5 */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_IntraFreqEvent_1d_r5(ctx, &pvalue->intraFreqEvent_1d_r5);
+      RT_CHECK(ctx, stat, 0, "intraFreqEvent-1d-r5", -1, "MeasurementControl-v590ext-IEs");
+   }
+   /* rrc-TransactionIdentifier-MSP-v590ext */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier_MSP_v590ext > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier_MSP_v590ext);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier-MSP-v590ext", -1, "MeasurementControl-v590ext-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier_MSP_v590ext, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier-MSP-v590ext", -1, "MeasurementControl-v590ext-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_v5b0ext_IEs(rtxContext* RT_RESTRICT ctx, const MeasurementControl_v5b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementControl-v5b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-v5b0ext-IEs");
+   /* interRATCellInfoIndication */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->interRATCellInfoIndication > 3u) {
+         rtxErrAddStrParm(ctx, "InterRATCellInfoIndication");
+         rtxErrAddUIntParm(ctx, pvalue->interRATCellInfoIndication);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterRATCellInfoIndication", "interRATCellInfoIndication", -1, "MeasurementControl-v5b0ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->interRATCellInfoIndication, 0, 3);
+      RT_CHECK(ctx, stat, "InterRATCellInfoIndication", "interRATCellInfoIndication", -1, "MeasurementControl-v5b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementControl-v5b0ext */
+   stat = asn1PE_UMTS_MeasurementControl_v5b0ext_IEs(ctx, &pvalue->measurementControl_v5b0ext);
+   RT_CHECK(ctx, stat, 0, "measurementControl-v5b0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementControl-v590ext */
+   stat = asn1PE_UMTS_MeasurementControl_v590ext_IEs(ctx, &pvalue->measurementControl_v590ext);
+   RT_CHECK(ctx, stat, 0, "measurementControl-v590ext", -1, 0);
+   /* v5b0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions(ctx, &pvalue->v5b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v5b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* v590NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementControl-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->measurementControl_r3_add_ext.numbits, pvalue->measurementControl_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "measurementControl-r3-add-ext", -1, 0);
+   }
+   /* v4b0NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementControl-v3a0ext */
+   stat = asn1PE_UMTS_MeasurementControl_v3a0ext(ctx, &pvalue->measurementControl_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "measurementControl-v3a0ext", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_r3_v390nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MeasurementControl_r3_v390nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementControl-v390ext */
+   stat = asn1PE_UMTS_MeasurementControl_v390ext(ctx, &pvalue->measurementControl_v390ext);
+   RT_CHECK(ctx, stat, 0, "measurementControl-v390ext", -1, 0);
+   /* v3a0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_r3(rtxContext* RT_RESTRICT ctx, const MeasurementControl_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementControl-r3 */
+   stat = asn1PE_UMTS_MeasurementControl_r3_IEs(ctx, &pvalue->measurementControl_r3);
+   RT_CHECK(ctx, stat, 0, "measurementControl-r3", -1, 0);
+   /* v390nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementControl_r3_v390nonCriticalExtensions(ctx, &pvalue->v390nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v390nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_r4_IEs(rtxContext* RT_RESTRICT ctx, const MeasurementControl_r4_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementControl-r4-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-r4-IEs");
+   /* measurementIdentity */
+   if ((uint64_t)(pvalue->measurementIdentity - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "MeasurementIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->measurementIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementIdentity", "measurementIdentity", -1, "MeasurementControl-r4-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->measurementIdentity, 1, 16);
+   RT_CHECK(ctx, stat, "MeasurementIdentity", "measurementIdentity", -1, "MeasurementControl-r4-IEs");
+   /* measurementCommand */
+   stat = asn1PE_UMTS_MeasurementCommand_r4(ctx, &pvalue->measurementCommand);
+   RT_CHECK(ctx, stat, 0, "measurementCommand", -1, "MeasurementControl-r4-IEs");
+   /* measurementReportingMode */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
+      RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "MeasurementControl-r4-IEs");
+   }
+   /* additionalMeasurementList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementList);
+      RT_CHECK(ctx, stat, 0, "additionalMeasurementList", -1, "MeasurementControl-r4-IEs");
+   }
+   /* dpch-CompressedModeStatusInfo */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_DPCH_CompressedModeStatusInfo(ctx, &pvalue->dpch_CompressedModeStatusInfo);
+      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeStatusInfo", -1, "MeasurementControl-r4-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementControl-v5b0ext */
+   stat = asn1PE_UMTS_MeasurementControl_v5b0ext_IEs(ctx, &pvalue->measurementControl_v5b0ext);
+   RT_CHECK(ctx, stat, 0, "measurementControl-v5b0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementControl-v590ext */
+   stat = asn1PE_UMTS_MeasurementControl_v590ext_IEs(ctx, &pvalue->measurementControl_v590ext);
+   RT_CHECK(ctx, stat, 0, "measurementControl-v590ext", -1, 0);
+   /* v5b0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions(ctx, &pvalue->v5b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v5b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementControl-r4-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->measurementControl_r4_add_ext.numbits, pvalue->measurementControl_r4_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "measurementControl-r4-add-ext", -1, 0);
+   }
+   /* v590NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, const MeasurementControl_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementControl-r4 */
+   stat = asn1PE_UMTS_MeasurementControl_r4_IEs(ctx, &pvalue->measurementControl_r4);
+   RT_CHECK(ctx, stat, 0, "measurementControl-r4", -1, 0);
+   /* v4d0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_r6_IEs(rtxContext* RT_RESTRICT ctx, const MeasurementControl_r6_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementControl-r6-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-r6-IEs");
+   /* measurementIdentity */
+   if ((uint64_t)(pvalue->measurementIdentity - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "MeasurementIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->measurementIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementIdentity", "measurementIdentity", -1, "MeasurementControl-r6-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->measurementIdentity, 1, 16);
+   RT_CHECK(ctx, stat, "MeasurementIdentity", "measurementIdentity", -1, "MeasurementControl-r6-IEs");
+   /* measurementCommand */
+   stat = asn1PE_UMTS_MeasurementCommand_r6(ctx, &pvalue->measurementCommand);
+   RT_CHECK(ctx, stat, 0, "measurementCommand", -1, "MeasurementControl-r6-IEs");
+   /* measurementReportingMode */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
+      RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "MeasurementControl-r6-IEs");
+   }
+   /* additionalMeasurementList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementList);
+      RT_CHECK(ctx, stat, 0, "additionalMeasurementList", -1, "MeasurementControl-r6-IEs");
+   }
+   /* dpch-CompressedModeStatusInfo */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_DPCH_CompressedModeStatusInfo(ctx, &pvalue->dpch_CompressedModeStatusInfo);
+      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeStatusInfo", -1, "MeasurementControl-r6-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_v6a0ext_IEs(rtxContext* RT_RESTRICT ctx, const MeasurementControl_v6a0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementControl-v6a0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-v6a0ext-IEs");
+   /* intraFreqReportingCriteria-1b-r5 */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntraFreqReportingCriteria_1b_r5(ctx, &pvalue->intraFreqReportingCriteria_1b_r5);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria-1b-r5", -1, "MeasurementControl-v6a0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6_v6a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6_v6a0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6_v6a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6_v6a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementControl-v6a0ext */
+   stat = asn1PE_UMTS_MeasurementControl_v6a0ext_IEs(ctx, &pvalue->measurementControl_v6a0ext);
+   RT_CHECK(ctx, stat, 0, "measurementControl-v6a0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6_v6a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, const MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementControl-r6 */
+   stat = asn1PE_UMTS_MeasurementControl_r6_IEs(ctx, &pvalue->measurementControl_r6);
+   RT_CHECK(ctx, stat, 0, "measurementControl-r6", -1, 0);
+   /* v6a0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6_v6a0NonCriticalExtensions(ctx, &pvalue->v6a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_r7_IEs(rtxContext* RT_RESTRICT ctx, const MeasurementControl_r7_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementControl-r7-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-r7-IEs");
+   /* measurementIdentity */
+   if ((uint64_t)(pvalue->measurementIdentity - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "MeasurementIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->measurementIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementIdentity", "measurementIdentity", -1, "MeasurementControl-r7-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->measurementIdentity, 1, 16);
+   RT_CHECK(ctx, stat, "MeasurementIdentity", "measurementIdentity", -1, "MeasurementControl-r7-IEs");
+   /* measurementCommand */
+   stat = asn1PE_UMTS_MeasurementCommand_r7(ctx, &pvalue->measurementCommand);
+   RT_CHECK(ctx, stat, 0, "measurementCommand", -1, "MeasurementControl-r7-IEs");
+   /* measurementReportingMode */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
+      RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "MeasurementControl-r7-IEs");
+   }
+   /* additionalMeasurementList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementList);
+      RT_CHECK(ctx, stat, 0, "additionalMeasurementList", -1, "MeasurementControl-r7-IEs");
+   }
+   /* dpch-CompressedModeStatusInfo */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_DPCH_CompressedModeStatusInfo(ctx, &pvalue->dpch_CompressedModeStatusInfo);
+      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeStatusInfo", -1, "MeasurementControl-r7-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_v7b0ext_IEs(rtxContext* RT_RESTRICT ctx, const MeasurementControl_v7b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementControl-v7b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-v7b0ext-IEs");
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_NewInterFreqCellList_v7b0ext(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "MeasurementControl-v7b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7_v7b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7_v7b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7_v7b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7_v7b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementControl-v7b0ext */
+   stat = asn1PE_UMTS_MeasurementControl_v7b0ext_IEs(ctx, &pvalue->measurementControl_v7b0ext);
+   RT_CHECK(ctx, stat, 0, "measurementControl-v7b0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7_v7b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, const MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementControl-r7 */
+   stat = asn1PE_UMTS_MeasurementControl_r7_IEs(ctx, &pvalue->measurementControl_r7);
+   RT_CHECK(ctx, stat, 0, "measurementControl-r7", -1, 0);
+   /* measurementControl-r7-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->measurementControl_r7_add_ext.numbits, pvalue->measurementControl_r7_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "measurementControl-r7-add-ext", -1, 0);
+   }
+   /* v7b0NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7_v7b0NonCriticalExtensions(ctx, &pvalue->v7b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_r8_IEs(rtxContext* RT_RESTRICT ctx, const MeasurementControl_r8_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementControl-r8-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-r8-IEs");
+   /* measurementIdentity */
+   if ((uint64_t)(pvalue->measurementIdentity - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "MeasurementIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->measurementIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementIdentity", "measurementIdentity", -1, "MeasurementControl-r8-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->measurementIdentity, 1, 16);
+   RT_CHECK(ctx, stat, "MeasurementIdentity", "measurementIdentity", -1, "MeasurementControl-r8-IEs");
+   /* measurementCommand */
+   stat = asn1PE_UMTS_MeasurementCommand_r8(ctx, &pvalue->measurementCommand);
+   RT_CHECK(ctx, stat, 0, "measurementCommand", -1, "MeasurementControl-r8-IEs");
+   /* measurementReportingMode */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
+      RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "MeasurementControl-r8-IEs");
+   }
+   /* additionalMeasurementList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementList);
+      RT_CHECK(ctx, stat, 0, "additionalMeasurementList", -1, "MeasurementControl-r8-IEs");
+   }
+   /* dpch-CompressedModeStatusInfo */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_DPCH_CompressedModeStatusInfo(ctx, &pvalue->dpch_CompressedModeStatusInfo);
+      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeStatusInfo", -1, "MeasurementControl-r8-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_v8a0ext_IEs(rtxContext* RT_RESTRICT ctx, const MeasurementControl_v8a0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementControl-v8a0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-v8a0ext-IEs");
+   /* newIntraFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_NewIntraFreqCellList_LCR_v8a0ext(ctx, &pvalue->newIntraFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "MeasurementControl-v8a0ext-IEs");
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_NewInterFreqCellList_LCR_v8a0ext(ctx, &pvalue->newInterFreqCellList);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "MeasurementControl-v8a0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8_v8a0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8_v8a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8_v8a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementControl-v8a0ext */
+   stat = asn1PE_UMTS_MeasurementControl_v8a0ext_IEs(ctx, &pvalue->measurementControl_v8a0ext);
+   RT_CHECK(ctx, stat, 0, "measurementControl-v8a0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, const MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementControl-r8 */
+   stat = asn1PE_UMTS_MeasurementControl_r8_IEs(ctx, &pvalue->measurementControl_r8);
+   RT_CHECK(ctx, stat, 0, "measurementControl-r8", -1, 0);
+   /* measurementControl-r8-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->measurementControl_r8_add_ext.numbits, pvalue->measurementControl_r8_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "measurementControl-r8-add-ext", -1, 0);
+   }
+   /* v8a0NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v8a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_r9_IEs(rtxContext* RT_RESTRICT ctx, const MeasurementControl_r9_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementControl-r9-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControl-r9-IEs");
+   /* measurementIdentity */
+   if ((uint64_t)(pvalue->measurementIdentity - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "MeasurementIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->measurementIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementIdentity", "measurementIdentity", -1, "MeasurementControl-r9-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->measurementIdentity, 1, 16);
+   RT_CHECK(ctx, stat, "MeasurementIdentity", "measurementIdentity", -1, "MeasurementControl-r9-IEs");
+   /* measurementCommand */
+   stat = asn1PE_UMTS_MeasurementCommand_r9(ctx, &pvalue->measurementCommand);
+   RT_CHECK(ctx, stat, 0, "measurementCommand", -1, "MeasurementControl-r9-IEs");
+   /* measurementReportingMode */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
+      RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "MeasurementControl-r9-IEs");
+   }
+   /* additionalMeasurementList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementList);
+      RT_CHECK(ctx, stat, 0, "additionalMeasurementList", -1, "MeasurementControl-r9-IEs");
+   }
+   /* cellDCHMeasOccasionInfo-TDD128 */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_CellDCHMeasOccasionInfo_TDD128_r9(ctx, &pvalue->cellDCHMeasOccasionInfo_TDD128);
+      RT_CHECK(ctx, stat, 0, "cellDCHMeasOccasionInfo-TDD128", -1, "MeasurementControl-r9-IEs");
+   }
+   /* dpch-CompressedModeStatusInfo */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_DPCH_CompressedModeStatusInfo(ctx, &pvalue->dpch_CompressedModeStatusInfo);
+      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeStatusInfo", -1, "MeasurementControl-r9-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, const MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementControl-r9 */
+   stat = asn1PE_UMTS_MeasurementControl_r9_IEs(ctx, &pvalue->measurementControl_r9);
+   RT_CHECK(ctx, stat, 0, "measurementControl-r9", -1, 0);
+   /* measurementControl-r9-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->measurementControl_r9_add_ext.numbits, pvalue->measurementControl_r9_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "measurementControl-r9-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r9 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r9", -1, 0);
+         stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
+         RT_CHECK(ctx, stat, 0, "r9", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r8 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r8", -1, 0);
+         stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
+         RT_CHECK(ctx, stat, 0, "r8", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r7", -1, 0);
+         stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
+         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions(rtxContext* RT_RESTRICT ctx, const MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r6 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r6", -1, 0);
+         stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6(ctx, pvalue->u.r6);
+         RT_CHECK(ctx, stat, 0, "r6", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4(rtxContext* RT_RESTRICT ctx, const MeasurementControl_later_than_r3_criticalExtensions_later_than_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* rrc-TransactionIdentifier-MSP */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier_MSP > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier_MSP);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier-MSP", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier_MSP, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier-MSP", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, const MeasurementControl_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r4", -1, 0);
+         stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
+         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.later_than_r4 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "later-than-r4", -1, 0);
+         stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4(ctx, pvalue->u.later_than_r4);
+         RT_CHECK(ctx, stat, 0, "later-than-r4", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl_later_than_r3(rtxContext* RT_RESTRICT ctx, const MeasurementControl_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControl(rtxContext* RT_RESTRICT ctx, const MeasurementControl* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementControl");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "MeasurementControl");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementControl");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r3", -1, "MeasurementControl");
+         stat = asn1PE_UMTS_MeasurementControl_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "MeasurementControl");
+         break;
+      case 2:
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "later-than-r3", -1, "MeasurementControl");
+         stat = asn1PE_UMTS_MeasurementControl_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "MeasurementControl");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlFailure_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const MeasurementControlFailure_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementControlFailure-v590ext-IEs");
+   /* rrc-TransactionIdentifier-MSP-v590ext */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier_MSP_v590ext > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier_MSP_v590ext);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier-MSP-v590ext", -1, "MeasurementControlFailure-v590ext-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier_MSP_v590ext, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier-MSP-v590ext", -1, "MeasurementControlFailure-v590ext-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MeasurementControlFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlFailure_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MeasurementControlFailure_laterNonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementControlFailure-v590ext */
+   stat = asn1PE_UMTS_MeasurementControlFailure_v590ext_IEs(ctx, &pvalue->measurementControlFailure_v590ext);
+   RT_CHECK(ctx, stat, 0, "measurementControlFailure-v590ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementControlFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlFailure_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MeasurementControlFailure_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementControlFailure-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->measurementControlFailure_r3_add_ext.numbits, pvalue->measurementControlFailure_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "measurementControlFailure-r3-add-ext", -1, 0);
+   }
+   /* v590NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_MeasurementControlFailure_laterNonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlFailure(rtxContext* RT_RESTRICT ctx, const MeasurementControlFailure* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementControlFailure");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControlFailure");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "MeasurementControlFailure");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "MeasurementControlFailure");
+   /* failureCause */
+   stat = asn1PE_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
+   RT_CHECK(ctx, stat, 0, "failureCause", -1, "MeasurementControlFailure");
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementControlFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "MeasurementControlFailure");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementReport_v390ext(rtxContext* RT_RESTRICT ctx, const MeasurementReport_v390ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementReport-v390ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementReport-v390ext");
+   /* measuredResults-v390ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasuredResults_v390ext(ctx, &pvalue->measuredResults_v390ext);
+      RT_CHECK(ctx, stat, 0, "measuredResults-v390ext", -1, "MeasurementReport-v390ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementReport_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const MeasurementReport_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementReport-v4b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementReport-v4b0ext-IEs");
+   /* interFreqEventResults-LCR */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterFreqEventResults_LCR_r4_ext(ctx, &pvalue->interFreqEventResults_LCR);
+      RT_CHECK(ctx, stat, 0, "interFreqEventResults-LCR", -1, "MeasurementReport-v4b0ext-IEs");
+   }
+   /* additionalMeasuredResults-LCR */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_MeasuredResultsList_LCR_r4_ext(ctx, &pvalue->additionalMeasuredResults_LCR);
+      RT_CHECK(ctx, stat, 0, "additionalMeasuredResults-LCR", -1, "MeasurementReport-v4b0ext-IEs");
+   }
    /* dummy */
-   rtxCtxtPushElemName(ctx, "dummy");
-   stat = rtxEncBit(ctx, pvalue->dummy);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dummy2 */
-   rtxCtxtPushElemName(ctx, "dummy2");
-   stat = rtxEncBit(ctx, pvalue->dummy2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gsm-Carrier-RSSI */
-   rtxCtxtPushElemName(ctx, "gsm-Carrier-RSSI");
-   stat = rtxEncBit(ctx, pvalue->gsm_Carrier_RSSI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATReportingQuantity_ratSpecificInfo(rtxContext* ctx, const InterRATReportingQuantity_ratSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 0) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "gsm");
-         if (pvalue->u.gsm == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterRATReportingQuantity_ratSpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "MeasurementReport-v4b0ext-IEs");
    }
    return 0;
 }
 
-int asn1PE_UMTS_InterRATReportingQuantity(rtxContext* ctx, const InterRATReportingQuantity* pvalue)
+int asn1PE_UMTS_MeasurementReport_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const MeasurementReport_v590ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATReportingQuantity");
-   /* utran-EstimatedQuality */
-   rtxCtxtPushElemName(ctx, "utran-EstimatedQuality");
-   stat = rtxEncBit(ctx, pvalue->utran_EstimatedQuality);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ratSpecificInfo */
-   rtxCtxtPushElemName(ctx, "ratSpecificInfo");
-   stat = asn1PE_UMTS_InterRATReportingQuantity_ratSpecificInfo(ctx, &pvalue->ratSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATReportingCriteria(rtxContext* ctx, const InterRATReportingCriteria* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATReportingCriteria");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementReport-v590ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* interRATEventList */
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementReport-v590ext-IEs");
+   /* measuredResults-v590ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interRATEventList");
-      stat = asn1PE_UMTS_InterRATEventList(ctx, &pvalue->interRATEventList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_MeasuredResults_v590ext(ctx, &pvalue->measuredResults_v590ext);
+      RT_CHECK(ctx, stat, 0, "measuredResults-v590ext", -1, "MeasurementReport-v590ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_InterRATReportCriteria(rtxContext* ctx, const InterRATReportCriteria* pvalue)
+int asn1PE_UMTS_MeasurementReport_v5b0ext_IEs(rtxContext* RT_RESTRICT ctx, const MeasurementReport_v5b0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATReportCriteria");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "interRATReportingCriteria");
-         if (pvalue->u.interRATReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterRATReportingCriteria(ctx, pvalue->u.interRATReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "noReporting");
-         if (pvalue->u.noReporting == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATMeasurement(rtxContext* ctx, const InterRATMeasurement* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATMeasurement");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementReport-v5b0ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* interRATCellInfoList */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementReport-v5b0ext-IEs");
+   /* interRATCellInfoIndication */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interRATCellInfoList");
-      stat = asn1PE_UMTS_InterRATCellInfoList(ctx, &pvalue->interRATCellInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if ((uint64_t)pvalue->interRATCellInfoIndication > 3u) {
+         rtxErrAddStrParm(ctx, "InterRATCellInfoIndication");
+         rtxErrAddUIntParm(ctx, pvalue->interRATCellInfoIndication);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterRATCellInfoIndication", "interRATCellInfoIndication", -1, "MeasurementReport-v5b0ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->interRATCellInfoIndication, 0, 3);
+      RT_CHECK(ctx, stat, "InterRATCellInfoIndication", "interRATCellInfoIndication", -1, "MeasurementReport-v5b0ext-IEs");
    }
-   /* interRATMeasQuantity */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "interRATMeasQuantity");
-      stat = asn1PE_UMTS_InterRATMeasQuantity(ctx, &pvalue->interRATMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interRATReportingQuantity */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "interRATReportingQuantity");
-      stat = asn1PE_UMTS_InterRATReportingQuantity(ctx, &pvalue->interRATReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PE_UMTS_InterRATReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_InterRATMeasurement_r4(rtxContext* ctx, const InterRATMeasurement_r4* pvalue)
+int asn1PE_UMTS_MeasurementReport_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const MeasurementReport_v690ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATMeasurement-r4");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementReport-v690ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* interRATCellInfoList */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementReport-v690ext-IEs");
+   /* measuredResultsOnRACHinterFreq */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interRATCellInfoList");
-      stat = asn1PE_UMTS_InterRATCellInfoList_r4(ctx, &pvalue->interRATCellInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interRATMeasQuantity */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "interRATMeasQuantity");
-      stat = asn1PE_UMTS_InterRATMeasQuantity(ctx, &pvalue->interRATMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interRATReportingQuantity */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "interRATReportingQuantity");
-      stat = asn1PE_UMTS_InterRATReportingQuantity(ctx, &pvalue->interRATReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PE_UMTS_InterRATReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATMeasurement_r6(rtxContext* ctx, const InterRATMeasurement_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATMeasurement-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* interRATCellInfoList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interRATCellInfoList");
-      stat = asn1PE_UMTS_InterRATCellInfoList_r6(ctx, &pvalue->interRATCellInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interRATMeasQuantity */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "interRATMeasQuantity");
-      stat = asn1PE_UMTS_InterRATMeasQuantity(ctx, &pvalue->interRATMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interRATReportingQuantity */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "interRATReportingQuantity");
-      stat = asn1PE_UMTS_InterRATReportingQuantity(ctx, &pvalue->interRATReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PE_UMTS_InterRATReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATMeasurement_r8_interRATMeasurementObjects(rtxContext* ctx, const InterRATMeasurement_r8_interRATMeasurementObjects* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "interRATCellInfoList");
-         if (pvalue->u.interRATCellInfoList == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterRATCellInfoList_r6(ctx, pvalue->u.interRATCellInfoList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "eutra-FrequencyList");
-         if (pvalue->u.eutra_FrequencyList == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_EUTRA_FrequencyList(ctx, pvalue->u.eutra_FrequencyList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
+      stat = asn1PE_UMTS_MeasuredResultsOnRACHinterFreq(ctx, &pvalue->measuredResultsOnRACHinterFreq);
+      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACHinterFreq", -1, "MeasurementReport-v690ext-IEs");
    }
    return 0;
 }
 
-int asn1PE_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo_gsm(rtxContext* ctx, const InterRATReportingQuantity_r8_ratSpecificInfo_gsm* pvalue)
+int asn1PE_UMTS_MeasurementReport_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const MeasurementReport_v770ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* gsm-Carrier-RSSI */
-   rtxCtxtPushElemName(ctx, "gsm-Carrier-RSSI");
-   stat = rtxEncBit(ctx, pvalue->gsm_Carrier_RSSI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo_eutra_reportingQuantity(rtxContext* ctx, InterRATReportingQuantity_r8_ratSpecificInfo_eutra_reportingQuantity value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo_eutra(rtxContext* ctx, const InterRATReportingQuantity_r8_ratSpecificInfo_eutra* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* reportingQuantity */
-   rtxCtxtPushElemName(ctx, "reportingQuantity");
-   if (pvalue->reportingQuantity > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->reportingQuantity);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingQuantity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo(rtxContext* ctx, const InterRATReportingQuantity_r8_ratSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "gsm");
-         if (pvalue->u.gsm == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "eutra");
-         if (pvalue->u.eutra == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo_eutra(ctx, pvalue->u.eutra);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATReportingQuantity_r8(rtxContext* ctx, const InterRATReportingQuantity_r8* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATReportingQuantity-r8");
-   /* utran-EstimatedQuality */
-   rtxCtxtPushElemName(ctx, "utran-EstimatedQuality");
-   stat = rtxEncBit(ctx, pvalue->utran_EstimatedQuality);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ratSpecificInfo */
-   rtxCtxtPushElemName(ctx, "ratSpecificInfo");
-   stat = asn1PE_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo(ctx, &pvalue->ratSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATMeasurement_r8(rtxContext* ctx, const InterRATMeasurement_r8* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATMeasurement-r8");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementReport-v770ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* interRATMeasurementObjects */
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementReport-v770ext-IEs");
+   /* measuredResults */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interRATMeasurementObjects");
-      stat = asn1PE_UMTS_InterRATMeasurement_r8_interRATMeasurementObjects(ctx, &pvalue->interRATMeasurementObjects);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_MeasuredResults_v770ext(ctx, &pvalue->measuredResults);
+      RT_CHECK(ctx, stat, 0, "measuredResults", -1, "MeasurementReport-v770ext-IEs");
    }
-   /* interRATMeasQuantity */
+   /* additionalMeasuredResults */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "interRATMeasQuantity");
-      stat = asn1PE_UMTS_InterRATMeasQuantity_r8(ctx, &pvalue->interRATMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_MeasuredResultsList_v770xet(ctx, &pvalue->additionalMeasuredResults);
+      RT_CHECK(ctx, stat, 0, "additionalMeasuredResults", -1, "MeasurementReport-v770ext-IEs");
    }
-   /* interRATReportingQuantity */
+   /* eventResults */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "interRATReportingQuantity");
-      stat = asn1PE_UMTS_InterRATReportingQuantity_r8(ctx, &pvalue->interRATReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_EventResults_v770ext(ctx, &pvalue->eventResults);
+      RT_CHECK(ctx, stat, 0, "eventResults", -1, "MeasurementReport-v770ext-IEs");
    }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PE_UMTS_InterRATReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* idleIntervalInfo */
+   /* ue-Positioning-OTDOA-MeasuredResults */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "idleIntervalInfo");
-      stat = asn1PE_UMTS_IdleIntervalInfo(ctx, &pvalue->idleIntervalInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATMeasurement_r9_interRATMeasurementObjects(rtxContext* ctx, const InterRATMeasurement_r9_interRATMeasurementObjects* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "interRATCellInfoList");
-         if (pvalue->u.interRATCellInfoList == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterRATCellInfoList_r6(ctx, pvalue->u.interRATCellInfoList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "eutra-FrequencyList");
-         if (pvalue->u.eutra_FrequencyList == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_EUTRA_FrequencyList_r9(ctx, pvalue->u.eutra_FrequencyList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
+      stat = asn1PE_UMTS_UE_Positioning_OTDOA_MeasuredResultsTDD_ext(ctx, &pvalue->ue_Positioning_OTDOA_MeasuredResults);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-OTDOA-MeasuredResults", -1, "MeasurementReport-v770ext-IEs");
    }
    return 0;
 }
 
-int asn1PE_UMTS_InterRATMeasurement_r9(rtxContext* ctx, const InterRATMeasurement_r9* pvalue)
+int asn1PE_UMTS_MeasurementReport_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const MeasurementReport_v860ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATMeasurement-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* interRATMeasurementObjects */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interRATMeasurementObjects");
-      stat = asn1PE_UMTS_InterRATMeasurement_r9_interRATMeasurementObjects(ctx, &pvalue->interRATMeasurementObjects);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interRATMeasQuantity */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "interRATMeasQuantity");
-      stat = asn1PE_UMTS_InterRATMeasQuantity_r8(ctx, &pvalue->interRATMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interRATReportingQuantity */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "interRATReportingQuantity");
-      stat = asn1PE_UMTS_InterRATReportingQuantity_r8(ctx, &pvalue->interRATReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PE_UMTS_InterRATReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* idleIntervalInfo */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "idleIntervalInfo");
-      stat = asn1PE_UMTS_IdleIntervalInfo(ctx, &pvalue->idleIntervalInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCell(rtxContext* ctx, const NewIntraFreqCell* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCell");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* intraFreqCellID */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellID");
-      rtxCtxtPushTypeName(ctx, "IntraFreqCellID");
-      if ((uint64_t)pvalue->intraFreqCellID > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->intraFreqCellID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PE_UMTS_CellInfo(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCellList(rtxContext* ctx, const NewIntraFreqCellList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellList");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "NewIntraFreqCell", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_NewIntraFreqCell(ctx, (const NewIntraFreqCell*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqCellInfoList(rtxContext* ctx, const IntraFreqCellInfoList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqCellInfoList");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* removedIntraFreqCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "removedIntraFreqCellList");
-      stat = asn1PE_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newIntraFreqCellList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
-      stat = asn1PE_UMTS_NewIntraFreqCellList(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellsForIntraFreqMeasList */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "cellsForIntraFreqMeasList");
-      stat = asn1PE_UMTS_CellsForIntraFreqMeasList(ctx, &pvalue->cellsForIntraFreqMeasList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCell_r4(rtxContext* ctx, const NewIntraFreqCell_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCell-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* intraFreqCellID */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellID");
-      rtxCtxtPushTypeName(ctx, "IntraFreqCellID");
-      if ((uint64_t)pvalue->intraFreqCellID > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->intraFreqCellID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PE_UMTS_CellInfo_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCellList_r4(rtxContext* ctx, const NewIntraFreqCellList_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellList-r4");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "NewIntraFreqCell-r4", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_NewIntraFreqCell_r4(ctx, (const NewIntraFreqCell_r4*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqCellInfoList_r4(rtxContext* ctx, const IntraFreqCellInfoList_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqCellInfoList-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* removedIntraFreqCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "removedIntraFreqCellList");
-      stat = asn1PE_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newIntraFreqCellList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
-      stat = asn1PE_UMTS_NewIntraFreqCellList_r4(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellsForIntraFreqMeasList */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "cellsForIntraFreqMeasList");
-      stat = asn1PE_UMTS_CellsForIntraFreqMeasList(ctx, &pvalue->cellsForIntraFreqMeasList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RemovedIntraFreqCellListOnSecULFreq_removeSomeIntraFreqCells(rtxContext* ctx, const RemovedIntraFreqCellListOnSecULFreq_removeSomeIntraFreqCells* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "IntraFreqCellIDOnSecULFreq", i);
-      rtxCtxtPushTypeName(ctx, "IntraFreqCellIDOnSecULFreq");
-      if ((uint64_t)pvalue->elem[i] > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RemovedIntraFreqCellListOnSecULFreq(rtxContext* ctx, const RemovedIntraFreqCellListOnSecULFreq* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "RemovedIntraFreqCellListOnSecULFreq");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "removeAllIntraFreqCells");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "removeSomeIntraFreqCells");
-         if (pvalue->u.removeSomeIntraFreqCells == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_RemovedIntraFreqCellListOnSecULFreq_removeSomeIntraFreqCells(ctx, pvalue->u.removeSomeIntraFreqCells);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "removeNoIntraFreqCells");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCellOnSecULFreq(rtxContext* ctx, const NewIntraFreqCellOnSecULFreq* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellOnSecULFreq");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* intraFreqCellIDOnSecULFreq */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellIDOnSecULFreq");
-      rtxCtxtPushTypeName(ctx, "IntraFreqCellIDOnSecULFreq");
-      if ((uint64_t)pvalue->intraFreqCellIDOnSecULFreq > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->intraFreqCellIDOnSecULFreq);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->intraFreqCellIDOnSecULFreq, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PE_UMTS_CellInfo_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCellListOnSecULFreq(rtxContext* ctx, const NewIntraFreqCellListOnSecULFreq* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellListOnSecULFreq");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "NewIntraFreqCellOnSecULFreq", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_NewIntraFreqCellOnSecULFreq(ctx, (const NewIntraFreqCellOnSecULFreq*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqCellInfoListInfoOnSecULFreq(rtxContext* ctx, const IntraFreqCellInfoListInfoOnSecULFreq* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqCellInfoListInfoOnSecULFreq");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* removedIntraFreqCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "removedIntraFreqCellList");
-      stat = asn1PE_UMTS_RemovedIntraFreqCellListOnSecULFreq(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newIntraFreqCellList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
-      stat = asn1PE_UMTS_NewIntraFreqCellListOnSecULFreq(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellsForIntraFreqMeasList */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "cellsForIntraFreqMeasList");
-      stat = asn1PE_UMTS_CellsForIntraFreqMeasListOnSecULFreq(ctx, &pvalue->cellsForIntraFreqMeasList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqCellInfoListOnSecULFreq(rtxContext* ctx, const IntraFreqCellInfoListOnSecULFreq* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqCellInfoListOnSecULFreq");
-   /* intraFreqCellInfoListOnSecULFreq */
-   rtxCtxtPushElemName(ctx, "intraFreqCellInfoListOnSecULFreq");
-   stat = asn1PE_UMTS_IntraFreqCellInfoListInfoOnSecULFreq(ctx, &pvalue->intraFreqCellInfoListOnSecULFreq);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCell_r9(rtxContext* ctx, const NewIntraFreqCell_r9* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCell-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* intraFreqCellID */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellID");
-      rtxCtxtPushTypeName(ctx, "IntraFreqCellID");
-      if ((uint64_t)pvalue->intraFreqCellID > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->intraFreqCellID);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellInfo */
-   rtxCtxtPushElemName(ctx, "cellInfo");
-   stat = asn1PE_UMTS_CellInfo_r9(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCellList_r9(rtxContext* ctx, const NewIntraFreqCellList_r9* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellList-r9");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "NewIntraFreqCell-r9", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_NewIntraFreqCell_r9(ctx, (const NewIntraFreqCell_r9*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqSIAcquisitionInfo(rtxContext* ctx, const IntraFreqSIAcquisitionInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "IntraFreqSIAcquisitionInfo");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "PrimaryCPICH-Info", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, (const PrimaryCPICH_Info*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqSIAcquisition_modeSpecificInfo_fdd(rtxContext* ctx, const IntraFreqSIAcquisition_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* intraFreqSIAcquisitionInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "intraFreqSIAcquisitionInfo");
-      stat = asn1PE_UMTS_IntraFreqSIAcquisitionInfo(ctx, &pvalue->intraFreqSIAcquisitionInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqSIAcquisition_modeSpecificInfo(rtxContext* ctx, const IntraFreqSIAcquisition_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_IntraFreqSIAcquisition_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqSIAcquisition(rtxContext* ctx, const IntraFreqSIAcquisition* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqSIAcquisition");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_IntraFreqSIAcquisition_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqCellInfoList_r9(rtxContext* ctx, const IntraFreqCellInfoList_r9* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqCellInfoList-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat);
-   /* removedIntraFreqCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "removedIntraFreqCellList");
-      stat = asn1PE_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newIntraFreqCellList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
-      stat = asn1PE_UMTS_NewIntraFreqCellList_r9(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellsForIntraFreqMeasList */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "cellsForIntraFreqMeasList");
-      stat = asn1PE_UMTS_CellsForIntraFreqMeasList(ctx, &pvalue->cellsForIntraFreqMeasList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cSGIntraFreqCellInfoList */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "cSGIntraFreqCellInfoList");
-      stat = asn1PE_UMTS_CSGIntraFreqCellInfoList(ctx, &pvalue->cSGIntraFreqCellInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqSIAcquisition */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "intraFreqSIAcquisition");
-      stat = asn1PE_UMTS_IntraFreqSIAcquisition(ctx, &pvalue->intraFreqSIAcquisition);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqMeasuredResultsList(rtxContext* ctx, const IntraFreqMeasuredResultsList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "IntraFreqMeasuredResultsList");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "CellMeasuredResults", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_CellMeasuredResults(ctx, (const CellMeasuredResults*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqMeasuredResultsList_v920ext(rtxContext* ctx, const IntraFreqMeasuredResultsList_v920ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "IntraFreqMeasuredResultsList-v920ext");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "CellMeasuredResults-v920ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_CellMeasuredResults_v920ext(ctx, (const CellMeasuredResults_v920ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqReportCriteria(rtxContext* ctx, const IntraFreqReportCriteria* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqReportCriteria");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "intraFreqReportingCriteria");
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_IntraFreqReportingCriteria(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "noReporting");
-         if (pvalue->u.noReporting == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqReportCriteria_r4(rtxContext* ctx, const IntraFreqReportCriteria_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqReportCriteria-r4");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "intraFreqReportingCriteria");
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_IntraFreqReportingCriteria_r4(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "noReporting");
-         if (pvalue->u.noReporting == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqReportCriteria_r6(rtxContext* ctx, const IntraFreqReportCriteria_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqReportCriteria-r6");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "intraFreqReportingCriteria");
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_IntraFreqReportingCriteria_r6(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "noReporting");
-         if (pvalue->u.noReporting == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqReportCriteria_r7(rtxContext* ctx, const IntraFreqReportCriteria_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqReportCriteria-r7");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "intraFreqReportingCriteria");
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_IntraFreqReportingCriteria_r7(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "noReporting");
-         if (pvalue->u.noReporting == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqReportCriteria_r9(rtxContext* ctx, const IntraFreqReportCriteria_r9* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFreqReportCriteria-r9");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "intraFreqReportingCriteria");
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_IntraFreqReportingCriteria_r9(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "noReporting");
-         if (pvalue->u.noReporting == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFrequencyMeasurement(rtxContext* ctx, const IntraFrequencyMeasurement* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFrequencyMeasurement");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat);
-   /* intraFreqCellInfoList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellInfoList");
-      stat = asn1PE_UMTS_IntraFreqCellInfoList(ctx, &pvalue->intraFreqCellInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqMeasQuantity */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasQuantity");
-      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqReportingQuantity */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "intraFreqReportingQuantity");
-      stat = asn1PE_UMTS_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementValidity */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "measurementValidity");
-      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "reportCriteria");
-      stat = asn1PE_UMTS_IntraFreqReportCriteria(ctx, &pvalue->reportCriteria);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFrequencyMeasurement_r4(rtxContext* ctx, const IntraFrequencyMeasurement_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFrequencyMeasurement-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat);
-   /* intraFreqCellInfoList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellInfoList");
-      stat = asn1PE_UMTS_IntraFreqCellInfoList_r4(ctx, &pvalue->intraFreqCellInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqMeasQuantity */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasQuantity");
-      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqReportingQuantity */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "intraFreqReportingQuantity");
-      stat = asn1PE_UMTS_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementValidity */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "measurementValidity");
-      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "reportCriteria");
-      stat = asn1PE_UMTS_IntraFreqReportCriteria_r4(ctx, &pvalue->reportCriteria);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFrequencyMeasurement_r6(rtxContext* ctx, const IntraFrequencyMeasurement_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFrequencyMeasurement-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* intraFreqCellInfoList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellInfoList");
-      stat = asn1PE_UMTS_IntraFreqCellInfoList_r4(ctx, &pvalue->intraFreqCellInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqMeasQuantity */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasQuantity");
-      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqReportingQuantity */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "intraFreqReportingQuantity");
-      stat = asn1PE_UMTS_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementValidity */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "measurementValidity");
-      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PE_UMTS_IntraFreqReportCriteria_r6(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFrequencyMeasurement_r7(rtxContext* ctx, const IntraFrequencyMeasurement_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFrequencyMeasurement-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat);
-   /* intraFreqCellInfoList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellInfoList");
-      stat = asn1PE_UMTS_IntraFreqCellInfoList_r4(ctx, &pvalue->intraFreqCellInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqMeasQuantity */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasQuantity");
-      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqReportingQuantity */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "intraFreqReportingQuantity");
-      stat = asn1PE_UMTS_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementValidity */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "measurementValidity");
-      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "reportCriteria");
-      stat = asn1PE_UMTS_IntraFreqReportCriteria_r7(ctx, &pvalue->reportCriteria);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFrequencyMeasurement_r9(rtxContext* ctx, const IntraFrequencyMeasurement_r9* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "IntraFrequencyMeasurement-r9");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementReport-v860ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
@@ -6900,2110 +9004,37 @@ int asn1PE_UMTS_IntraFrequencyMeasurement_r9(rtxContext* ctx, const IntraFrequen
       ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat);
-   /* intraFreqCellInfoList */
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementReport-v860ext-IEs");
+   /* activationTime */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellInfoList");
-      stat = asn1PE_UMTS_IntraFreqCellInfoList_r9(ctx, &pvalue->intraFreqCellInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "MeasurementReport-v860ext-IEs");
    }
-   /* intraFreqCellInfoListOnSecULFreq */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "intraFreqCellInfoListOnSecULFreq");
-      stat = asn1PE_UMTS_IntraFreqCellInfoListOnSecULFreq(ctx, &pvalue->intraFreqCellInfoListOnSecULFreq);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqMeasQuantity */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "intraFreqMeasQuantity");
-      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqReportingQuantity */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "intraFreqReportingQuantity");
-      stat = asn1PE_UMTS_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementValidity */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "measurementValidity");
-      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "reportCriteria");
-      stat = asn1PE_UMTS_IntraFreqReportCriteria_r9(ctx, &pvalue->reportCriteria);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFrequencyMeasuredResultsListOnSecULFreq(rtxContext* ctx, const IntraFrequencyMeasuredResultsListOnSecULFreq* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "IntraFrequencyMeasuredResultsListOnSecULFreq");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "CellMeasuredResults-r9", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_CellMeasuredResults_r9(ctx, (const CellMeasuredResults_r9*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IP_Length(rtxContext* ctx, IP_Length value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "IP-Length");
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IP_PCCPCH_r4(rtxContext* ctx, IP_PCCPCH_r4 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "IP-PCCPCH-r4");
-   stat = rtxEncBit(ctx, value);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IP_Spacing(rtxContext* ctx, IP_Spacing value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "IP-Spacing");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_IP_Spacing_TDD(rtxContext* ctx, IP_Spacing_TDD value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "IP-Spacing-TDD");
-   if (value > 4) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_RLC_BuffersPayload(rtxContext* ctx, RLC_BuffersPayload value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "RLC-BuffersPayload");
-   if (value > 31) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_VarianceOfRLC_BufferPayload(rtxContext* ctx, VarianceOfRLC_BufferPayload value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "VarianceOfRLC-BufferPayload");
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TrafficVolumeMeasuredResults(rtxContext* ctx, const TrafficVolumeMeasuredResults* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TrafficVolumeMeasuredResults");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* rb-Identity */
-   rtxCtxtPushElemName(ctx, "rb-Identity");
-   rtxCtxtPushTypeName(ctx, "RB-Identity");
-   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* rlc-BuffersPayload */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "rlc-BuffersPayload");
-      rtxCtxtPushTypeName(ctx, "RLC-BuffersPayload");
-      if (pvalue->rlc_BuffersPayload > 31) {
-         rtxErrAddUIntParm(ctx, pvalue->rlc_BuffersPayload);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->rlc_BuffersPayload, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* averageRLC-BufferPayload */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "averageRLC-BufferPayload");
-      rtxCtxtPushTypeName(ctx, "AverageRLC-BufferPayload");
-      if (pvalue->averageRLC_BufferPayload > 31) {
-         rtxErrAddUIntParm(ctx, pvalue->averageRLC_BufferPayload);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->averageRLC_BufferPayload, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* varianceOfRLC-BufferPayload */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "varianceOfRLC-BufferPayload");
-      rtxCtxtPushTypeName(ctx, "VarianceOfRLC-BufferPayload");
-      if (pvalue->varianceOfRLC_BufferPayload > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->varianceOfRLC_BufferPayload);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->varianceOfRLC_BufferPayload, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TrafficVolumeMeasuredResultsList(rtxContext* ctx, const TrafficVolumeMeasuredResultsList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "TrafficVolumeMeasuredResultsList");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "TrafficVolumeMeasuredResults", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_TrafficVolumeMeasuredResults(ctx, (const TrafficVolumeMeasuredResults*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SIR(rtxContext* ctx, SIR value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SIR");
-   if ((uint64_t)value > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SIR_TimeslotList(rtxContext* ctx, const SIR_TimeslotList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "SIR-TimeslotList");
-   RT_SET_SIZE(ctx, 1, 14);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "SIR", i);
-      rtxCtxtPushTypeName(ctx, "SIR");
-      if ((uint64_t)pvalue->elem[i] > 63u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SIR_MeasurementResults(rtxContext* ctx, const SIR_MeasurementResults* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SIR-MeasurementResults");
-   /* tfcs-ID */
-   rtxCtxtPushElemName(ctx, "tfcs-ID");
-   rtxCtxtPushTypeName(ctx, "TFCS-IdentityPlain");
-   if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* sir-TimeslotList */
-   rtxCtxtPushElemName(ctx, "sir-TimeslotList");
-   stat = asn1PE_UMTS_SIR_TimeslotList(ctx, &pvalue->sir_TimeslotList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SIR_MeasurementList(rtxContext* ctx, const SIR_MeasurementList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "SIR-MeasurementList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "SIR-MeasurementResults", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_SIR_MeasurementResults(ctx, (const SIR_MeasurementResults*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_QualityMeasuredResults_modeSpecificInfo_tdd(rtxContext* ctx, const QualityMeasuredResults_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sir-MeasurementResults */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sir-MeasurementResults");
-      stat = asn1PE_UMTS_SIR_MeasurementList(ctx, &pvalue->sir_MeasurementResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_QualityMeasuredResults_modeSpecificInfo(rtxContext* ctx, const QualityMeasuredResults_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_QualityMeasuredResults_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_QualityMeasuredResults(rtxContext* ctx, const QualityMeasuredResults* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "QualityMeasuredResults");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* blerMeasurementResultsList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "blerMeasurementResultsList");
-      stat = asn1PE_UMTS_BLER_MeasurementResultsList(ctx, &pvalue->blerMeasurementResultsList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_QualityMeasuredResults_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_TransmittedPower(rtxContext* ctx, UE_TransmittedPower value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-TransmittedPower");
-   if ((uint64_t)value > 104u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 104);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RX_TX_TimeDifferenceType1(rtxContext* ctx, UE_RX_TX_TimeDifferenceType1 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-RX-TX-TimeDifferenceType1");
-   if ((uint64_t)(value - 768) > 1023u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 768, 1791);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RX_TX_ReportEntry(rtxContext* ctx, const UE_RX_TX_ReportEntry* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-RX-TX-ReportEntry");
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-RX-TX-TimeDifferenceType1 */
-   rtxCtxtPushElemName(ctx, "ue-RX-TX-TimeDifferenceType1");
-   rtxCtxtPushTypeName(ctx, "UE-RX-TX-TimeDifferenceType1");
-   if ((uint64_t)(pvalue->ue_RX_TX_TimeDifferenceType1 - 768) > 1023u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ue_RX_TX_TimeDifferenceType1);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_RX_TX_TimeDifferenceType1, 768, 1791);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RX_TX_ReportEntryList(rtxContext* ctx, const UE_RX_TX_ReportEntryList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "UE-RX-TX-ReportEntryList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "UE-RX-TX-ReportEntry", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_UE_RX_TX_ReportEntry(ctx, (const UE_RX_TX_ReportEntry*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalMeasuredResults_modeSpecificInfo_fdd(rtxContext* ctx, const UE_InternalMeasuredResults_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ue-TransmittedPowerFDD */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-TransmittedPowerFDD");
-      rtxCtxtPushTypeName(ctx, "UE-TransmittedPower");
-      if ((uint64_t)pvalue->ue_TransmittedPowerFDD > 104u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->ue_TransmittedPowerFDD);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ue_TransmittedPowerFDD, 0, 104);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-RX-TX-ReportEntryList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-RX-TX-ReportEntryList");
-      stat = asn1PE_UMTS_UE_RX_TX_ReportEntryList(ctx, &pvalue->ue_RX_TX_ReportEntryList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_TransmittedPowerTDD_List(rtxContext* ctx, const UE_TransmittedPowerTDD_List* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "UE-TransmittedPowerTDD-List");
-   RT_SET_SIZE(ctx, 1, 14);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "UE-TransmittedPower", i);
-      rtxCtxtPushTypeName(ctx, "UE-TransmittedPower");
-      if ((uint64_t)pvalue->elem[i] > 104u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 104);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalMeasuredResults_modeSpecificInfo_tdd(rtxContext* ctx, const UE_InternalMeasuredResults_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ue-TransmittedPowerTDD-List */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-TransmittedPowerTDD-List");
-      stat = asn1PE_UMTS_UE_TransmittedPowerTDD_List(ctx, &pvalue->ue_TransmittedPowerTDD_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* appliedTA */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "appliedTA");
-      rtxCtxtPushTypeName(ctx, "UL-TimingAdvance");
-      if ((uint64_t)pvalue->appliedTA > 63u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->appliedTA);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->appliedTA, 0, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalMeasuredResults_modeSpecificInfo(rtxContext* ctx, const UE_InternalMeasuredResults_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_InternalMeasuredResults_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_InternalMeasuredResults_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalMeasuredResults(rtxContext* ctx, const UE_InternalMeasuredResults* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-InternalMeasuredResults");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_UE_InternalMeasuredResults_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_ErrorCause(rtxContext* ctx, UE_Positioning_ErrorCause value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-ErrorCause");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SatData(rtxContext* ctx, const SatData* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SatData");
-   /* satID */
-   rtxCtxtPushElemName(ctx, "satID");
-   rtxCtxtPushTypeName(ctx, "SatID");
-   if ((uint64_t)pvalue->satID > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->satID);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->satID, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* iode */
-   rtxCtxtPushElemName(ctx, "iode");
-   rtxCtxtPushTypeName(ctx, "IODE");
-   stat = pe_ConsUInt64(ctx, pvalue->iode, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SatDataList(rtxContext* ctx, const SatDataList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "SatDataList");
-   RT_SET_SIZE(ctx, 0, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "SatData", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_SatData(ctx, (const SatData*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_NavModelAddDataReq(rtxContext* ctx, const UE_Positioning_GPS_NavModelAddDataReq* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-NavModelAddDataReq");
-   /* gps-Week */
-   rtxCtxtPushElemName(ctx, "gps-Week");
-   if ((uint64_t)pvalue->gps_Week > 1023u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->gps_Week);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->gps_Week, 0, 1023);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gps-Toe */
-   rtxCtxtPushElemName(ctx, "gps-Toe");
-   stat = pe_ConsUInt64(ctx, pvalue->gps_Toe, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tToeLimit */
-   rtxCtxtPushElemName(ctx, "tToeLimit");
-   if ((uint64_t)pvalue->tToeLimit > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->tToeLimit);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tToeLimit, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* satDataList */
-   rtxCtxtPushElemName(ctx, "satDataList");
-   stat = asn1PE_UMTS_SatDataList(ctx, &pvalue->satDataList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_AdditionalAssistanceDataRequest(rtxContext* ctx, const UE_Positioning_GPS_AdditionalAssistanceDataRequest* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* almanacRequest */
-   rtxCtxtPushElemName(ctx, "almanacRequest");
-   stat = rtxEncBit(ctx, pvalue->almanacRequest);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* utcModelRequest */
-   rtxCtxtPushElemName(ctx, "utcModelRequest");
-   stat = rtxEncBit(ctx, pvalue->utcModelRequest);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ionosphericModelRequest */
-   rtxCtxtPushElemName(ctx, "ionosphericModelRequest");
-   stat = rtxEncBit(ctx, pvalue->ionosphericModelRequest);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navigationModelRequest */
-   rtxCtxtPushElemName(ctx, "navigationModelRequest");
-   stat = rtxEncBit(ctx, pvalue->navigationModelRequest);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dgpsCorrectionsRequest */
-   rtxCtxtPushElemName(ctx, "dgpsCorrectionsRequest");
-   stat = rtxEncBit(ctx, pvalue->dgpsCorrectionsRequest);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* referenceLocationRequest */
-   rtxCtxtPushElemName(ctx, "referenceLocationRequest");
-   stat = rtxEncBit(ctx, pvalue->referenceLocationRequest);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* referenceTimeRequest */
-   rtxCtxtPushElemName(ctx, "referenceTimeRequest");
-   stat = rtxEncBit(ctx, pvalue->referenceTimeRequest);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* aquisitionAssistanceRequest */
-   rtxCtxtPushElemName(ctx, "aquisitionAssistanceRequest");
-   stat = rtxEncBit(ctx, pvalue->aquisitionAssistanceRequest);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* realTimeIntegrityRequest */
-   rtxCtxtPushElemName(ctx, "realTimeIntegrityRequest");
-   stat = rtxEncBit(ctx, pvalue->realTimeIntegrityRequest);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* navModelAddDataRequest */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "navModelAddDataRequest");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_NavModelAddDataReq(ctx, &pvalue->navModelAddDataRequest);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_Error(rtxContext* ctx, const UE_Positioning_Error* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-Error");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* errorReason */
-   rtxCtxtPushElemName(ctx, "errorReason");
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-ErrorCause");
-   if (pvalue->errorReason > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->errorReason);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->errorReason, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ue-positioning-GPS-additionalAssistanceDataRequest */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-additionalAssistanceDataRequest");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_AdditionalAssistanceDataRequest(ctx, &pvalue->ue_positioning_GPS_additionalAssistanceDataRequest);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_MeasuredResults(rtxContext* ctx, const UE_Positioning_MeasuredResults* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-MeasuredResults");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-OTDOA-Measurement */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-Measurement");
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_Measurement(ctx, &pvalue->ue_positioning_OTDOA_Measurement);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-PositionEstimateInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-PositionEstimateInfo");
-      stat = asn1PE_UMTS_UE_Positioning_PositionEstimateInfo(ctx, &pvalue->ue_positioning_PositionEstimateInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-Measurement */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-Measurement");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_MeasurementResults(ctx, &pvalue->ue_positioning_GPS_Measurement);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-Error */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-Error");
-      stat = asn1PE_UMTS_UE_Positioning_Error(ctx, &pvalue->ue_positioning_Error);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasuredResults(rtxContext* ctx, const MeasuredResults* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasuredResults");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 7) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "intraFreqMeasuredResultsList");
-         if (pvalue->u.intraFreqMeasuredResultsList == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_IntraFreqMeasuredResultsList(ctx, pvalue->u.intraFreqMeasuredResultsList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "interFreqMeasuredResultsList");
-         if (pvalue->u.interFreqMeasuredResultsList == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterFreqMeasuredResultsList(ctx, pvalue->u.interFreqMeasuredResultsList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "interRATMeasuredResultsList");
-         if (pvalue->u.interRATMeasuredResultsList == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterRATMeasuredResultsList(ctx, pvalue->u.interRATMeasuredResultsList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "trafficVolumeMeasuredResultsList");
-         if (pvalue->u.trafficVolumeMeasuredResultsList == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TrafficVolumeMeasuredResultsList(ctx, pvalue->u.trafficVolumeMeasuredResultsList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "qualityMeasuredResults");
-         if (pvalue->u.qualityMeasuredResults == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_QualityMeasuredResults(ctx, pvalue->u.qualityMeasuredResults);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "ue-InternalMeasuredResults");
-         if (pvalue->u.ue_InternalMeasuredResults == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_InternalMeasuredResults(ctx, pvalue->u.ue_InternalMeasuredResults);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "ue-positioning-MeasuredResults");
-         if (pvalue->u.ue_positioning_MeasuredResults == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_MeasuredResults(ctx, pvalue->u.ue_positioning_MeasuredResults);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 8:
-         rtxCtxtPushElemName(ctx, "spare");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasuredResultsOnSecUlFreq(rtxContext* ctx, const MeasuredResultsOnSecUlFreq* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasuredResultsOnSecUlFreq");
-   /* intraFreqMeasuredResultsList */
-   rtxCtxtPushElemName(ctx, "intraFreqMeasuredResultsList");
-   stat = asn1PE_UMTS_IntraFrequencyMeasuredResultsListOnSecULFreq(ctx, &pvalue->intraFreqMeasuredResultsList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Neighbour_v390ext_modeSpecificInfo_fdd(rtxContext* ctx, const Neighbour_v390ext_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Neighbour_v390ext_modeSpecificInfo(rtxContext* ctx, const Neighbour_v390ext_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Neighbour_v390ext_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Neighbour_v390ext(rtxContext* ctx, const Neighbour_v390ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Neighbour-v390ext");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_Neighbour_v390ext_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NeighbourList_v390ext(rtxContext* ctx, const NeighbourList_v390ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NeighbourList-v390ext");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "Neighbour-v390ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_Neighbour_v390ext(ctx, (const Neighbour_v390ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_Measurement_v390ext(rtxContext* ctx, const UE_Positioning_OTDOA_Measurement_v390ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-Measurement-v390ext");
-   /* neighbourList-v390ext */
-   rtxCtxtPushElemName(ctx, "neighbourList-v390ext");
-   stat = asn1PE_UMTS_NeighbourList_v390ext(ctx, &pvalue->neighbourList_v390ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_MeasuredResults_v390ext(rtxContext* ctx, const UE_Positioning_MeasuredResults_v390ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-MeasuredResults-v390ext");
-   /* ue-Positioning-OTDOA-Measurement-v390ext */
-   rtxCtxtPushElemName(ctx, "ue-Positioning-OTDOA-Measurement-v390ext");
-   stat = asn1PE_UMTS_UE_Positioning_OTDOA_Measurement_v390ext(ctx, &pvalue->ue_Positioning_OTDOA_Measurement_v390ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasuredResults_v390ext(rtxContext* ctx, const MeasuredResults_v390ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasuredResults-v390ext");
-   /* ue-positioning-MeasuredResults-v390ext */
-   rtxCtxtPushElemName(ctx, "ue-positioning-MeasuredResults-v390ext");
-   stat = asn1PE_UMTS_UE_Positioning_MeasuredResults_v390ext(ctx, &pvalue->ue_positioning_MeasuredResults_v390ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasuredResults_v590ext(rtxContext* ctx, const MeasuredResults_v590ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasuredResults-v590ext");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "intraFrequencyMeasuredResultsList");
-         if (pvalue->u.intraFrequencyMeasuredResultsList == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_IntraFrequencyMeasuredResultsList_v590ext(ctx, pvalue->u.intraFrequencyMeasuredResultsList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "interFrequencyMeasuredResultsList");
-         if (pvalue->u.interFrequencyMeasuredResultsList == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterFrequencyMeasuredResultsList_v590ext(ctx, pvalue->u.interFrequencyMeasuredResultsList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd384_768(rtxContext* ctx, const UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd384_768* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* appliedTA */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "appliedTA");
-      stat = asn1PE_UMTS_EXT_UL_TimingAdvance(ctx, &pvalue->appliedTA);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_T_ADVinfo_ext(rtxContext* ctx, const T_ADVinfo_ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "T-ADVinfo-ext");
-   /* t-ADV */
-   rtxCtxtPushElemName(ctx, "t-ADV");
-   if ((uint64_t)pvalue->t_ADV > 8191u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->t_ADV);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->t_ADV, 0, 8191);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sfn */
-   rtxCtxtPushElemName(ctx, "sfn");
-   if ((uint64_t)pvalue->sfn > 4095u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->sfn);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->sfn, 0, 4095);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd128(rtxContext* ctx, const UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* t-ADVinfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "t-ADVinfo");
-      stat = asn1PE_UMTS_T_ADVinfo_ext(ctx, &pvalue->t_ADVinfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo(rtxContext* ctx, const UE_InternalMeasuredResults_v770ext_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384-768");
-         if (pvalue->u.tdd384_768 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd384_768(ctx, pvalue->u.tdd384_768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalMeasuredResults_v770ext(rtxContext* ctx, const UE_InternalMeasuredResults_v770ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-InternalMeasuredResults-v770ext");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_ErrorCause_r7(rtxContext* ctx, UE_Positioning_ErrorCause_r7 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-ErrorCause-r7");
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_AdditionalAssistanceDataRequest(rtxContext* ctx, const UE_Positioning_GANSS_AdditionalAssistanceDataRequest* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest");
-   /* ganssReferenceTime */
-   rtxCtxtPushElemName(ctx, "ganssReferenceTime");
-   stat = rtxEncBit(ctx, pvalue->ganssReferenceTime);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganssreferenceLocation */
-   rtxCtxtPushElemName(ctx, "ganssreferenceLocation");
-   stat = rtxEncBit(ctx, pvalue->ganssreferenceLocation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganssIonosphericModel */
-   rtxCtxtPushElemName(ctx, "ganssIonosphericModel");
-   stat = rtxEncBit(ctx, pvalue->ganssIonosphericModel);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganssRequestedGenericAssistanceDataList */
-   rtxCtxtPushElemName(ctx, "ganssRequestedGenericAssistanceDataList");
-   stat = asn1PE_UMTS_GanssRequestedGenericAssistanceDataList(ctx, &pvalue->ganssRequestedGenericAssistanceDataList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_Error_r7(rtxContext* ctx, const UE_Positioning_Error_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-Error-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* errorReason */
-   rtxCtxtPushElemName(ctx, "errorReason");
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-ErrorCause-r7");
-   if (pvalue->errorReason > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->errorReason);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->errorReason, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ue-positioning-GPS-additionalAssistanceDataRequest */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-additionalAssistanceDataRequest");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_AdditionalAssistanceDataRequest(ctx, &pvalue->ue_positioning_GPS_additionalAssistanceDataRequest);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GANSS-additionalAssistanceDataRequest */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-additionalAssistanceDataRequest");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AdditionalAssistanceDataRequest(ctx, &pvalue->ue_positioning_GANSS_additionalAssistanceDataRequest);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_MeasuredResults_v770ext(rtxContext* ctx, const UE_Positioning_MeasuredResults_v770ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-MeasuredResults-v770ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-PositionEstimateInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-PositionEstimateInfo");
-      stat = asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_v770ext(ctx, &pvalue->ue_positioning_PositionEstimateInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-Measurement */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-Measurement");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_MeasurementResults_v770ext(ctx, &pvalue->ue_positioning_GPS_Measurement);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-Error */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-Error");
-      stat = asn1PE_UMTS_UE_Positioning_Error_r7(ctx, &pvalue->ue_positioning_Error);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-Ganss-MeasuredResults */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-Ganss-MeasuredResults");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_MeasuredResults(ctx, &pvalue->ue_positioning_Ganss_MeasuredResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasuredResults_v770ext(rtxContext* ctx, const MeasuredResults_v770ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasuredResults-v770ext");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "ueInternalMeasuredResults");
-         if (pvalue->u.ueInternalMeasuredResults == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_InternalMeasuredResults_v770ext(ctx, pvalue->u.ueInternalMeasuredResults);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ue-positioning-MeasuredResults");
-         if (pvalue->u.ue_positioning_MeasuredResults == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_MeasuredResults_v770ext(ctx, pvalue->u.ue_positioning_MeasuredResults);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext_ganssEOPreq(rtxContext* ctx, UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext_ganssEOPreq value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext(rtxContext* ctx, const UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest-v860ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ganssAddIonoModelReq */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ganssAddIonoModelReq");
-      RT_SET_SIZE(ctx, 2, 2);
-      stat = pe_BitString32(ctx, &pvalue->ganssAddIonoModelReq, 2, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssEOPreq */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ganssEOPreq");
-      if (pvalue->ganssEOPreq > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->ganssEOPreq);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssEOPreq, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssRequestedGenericAssistanceDataList */
-   rtxCtxtPushElemName(ctx, "ganssRequestedGenericAssistanceDataList");
-   stat = asn1PE_UMTS_GanssRequestedGenericAssistanceDataList_v860ext(ctx, &pvalue->ganssRequestedGenericAssistanceDataList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_Error_v860ext(rtxContext* ctx, const UE_Positioning_Error_v860ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-Error-v860ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GANSS-additionalAssistanceDataRequest */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-additionalAssistanceDataRequest");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext(ctx, &pvalue->ue_positioning_GANSS_additionalAssistanceDataRequest);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_MeasuredResults_v860ext(rtxContext* ctx, const UE_Positioning_MeasuredResults_v860ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-MeasuredResults-v860ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-Error */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-Error");
-      stat = asn1PE_UMTS_UE_Positioning_Error_v860ext(ctx, &pvalue->ue_positioning_Error);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-Ganss-MeasurementResults */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-Ganss-MeasurementResults");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_MeasuredResults_v860ext(ctx, &pvalue->ue_positioning_Ganss_MeasurementResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasuredResults_v860ext(rtxContext* ctx, const MeasuredResults_v860ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasuredResults-v860ext");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 0) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "ue-positioning-MeasuredResults");
-         if (pvalue->u.ue_positioning_MeasuredResults == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_MeasuredResults_v860ext(ctx, pvalue->u.ue_positioning_MeasuredResults);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasuredResults_v920ext(rtxContext* ctx, const MeasuredResults_v920ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasuredResults-v920ext");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "intraFreqMeasuredResultsList");
-         if (pvalue->u.intraFreqMeasuredResultsList == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_IntraFreqMeasuredResultsList_v920ext(ctx, pvalue->u.intraFreqMeasuredResultsList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "interFreqMeasuredResultsList");
-         if (pvalue->u.interFreqMeasuredResultsList == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterFreqMeasuredResultsList_v920ext(ctx, pvalue->u.interFreqMeasuredResultsList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasuredResultsList_v920ext(rtxContext* ctx, const MeasuredResultsList_v920ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MeasuredResultsList-v920ext");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "MeasuredResults-v920ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MeasuredResults_v920ext(ctx, (const MeasuredResults_v920ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasuredResultsListOnSecUlFreq(rtxContext* ctx, const MeasuredResultsListOnSecUlFreq* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MeasuredResultsListOnSecUlFreq");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "MeasuredResultsOnSecUlFreq", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MeasuredResultsOnSecUlFreq(ctx, (const MeasuredResultsOnSecUlFreq*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_T_ADVinfo(rtxContext* ctx, const T_ADVinfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "T-ADVinfo");
-   /* t-ADV */
-   rtxCtxtPushElemName(ctx, "t-ADV");
-   if ((uint64_t)pvalue->t_ADV > 2047u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->t_ADV);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->t_ADV, 0, 2047);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sfn */
-   rtxCtxtPushElemName(ctx, "sfn");
-   if ((uint64_t)pvalue->sfn > 4095u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->sfn);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->sfn, 0, 4095);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalMeasuredResults_LCR_r4(rtxContext* ctx, const UE_InternalMeasuredResults_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-InternalMeasuredResults-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ue-TransmittedPowerTDD-List */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-TransmittedPowerTDD-List");
-      stat = asn1PE_UMTS_UE_TransmittedPowerTDD_List(ctx, &pvalue->ue_TransmittedPowerTDD_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* t-ADVinfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "t-ADVinfo");
-      stat = asn1PE_UMTS_T_ADVinfo(ctx, &pvalue->t_ADVinfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasuredResults_LCR_r4(rtxContext* ctx, const MeasuredResults_LCR_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasuredResults-LCR-r4");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 7) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "intraFreqMeasuredResultsList");
-         if (pvalue->u.intraFreqMeasuredResultsList == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_IntraFreqMeasuredResultsList(ctx, pvalue->u.intraFreqMeasuredResultsList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "interFreqMeasuredResultsList");
-         if (pvalue->u.interFreqMeasuredResultsList == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterFreqMeasuredResultsList(ctx, pvalue->u.interFreqMeasuredResultsList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "interRATMeasuredResultsList");
-         if (pvalue->u.interRATMeasuredResultsList == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterRATMeasuredResultsList(ctx, pvalue->u.interRATMeasuredResultsList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "trafficVolumeMeasuredResultsList");
-         if (pvalue->u.trafficVolumeMeasuredResultsList == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TrafficVolumeMeasuredResultsList(ctx, pvalue->u.trafficVolumeMeasuredResultsList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "qualityMeasuredResults");
-         if (pvalue->u.qualityMeasuredResults == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_QualityMeasuredResults(ctx, pvalue->u.qualityMeasuredResults);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "ue-InternalMeasuredResults");
-         if (pvalue->u.ue_InternalMeasuredResults == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_InternalMeasuredResults_LCR_r4(ctx, pvalue->u.ue_InternalMeasuredResults);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "ue-positioniing-MeasuredResults");
-         if (pvalue->u.ue_positioniing_MeasuredResults == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_MeasuredResults(ctx, pvalue->u.ue_positioniing_MeasuredResults);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 8:
-         rtxCtxtPushElemName(ctx, "spare");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasuredResultsList(rtxContext* ctx, const MeasuredResultsList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MeasuredResultsList");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "MeasuredResults", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MeasuredResults(ctx, (const MeasuredResults*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasuredResultsList_LCR_r4_ext(rtxContext* ctx, const MeasuredResultsList_LCR_r4_ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MeasuredResultsList-LCR-r4-ext");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "MeasuredResults-LCR-r4", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MeasuredResults_LCR_r4(ctx, (const MeasuredResults_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasuredResultsList_v770xet_element(rtxContext* ctx, const MeasuredResultsList_v770xet_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
    /* measuredResults */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measuredResults");
-      stat = asn1PE_UMTS_MeasuredResults_v770ext(ctx, &pvalue->measuredResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasuredResultsList_v770xet(rtxContext* ctx, const MeasuredResultsList_v770xet* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MeasuredResultsList-v770xet");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MeasuredResultsList_v770xet_element(ctx, (const MeasuredResultsList_v770xet_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasuredResultsList_v860ext_element(rtxContext* ctx, const MeasuredResultsList_v860ext_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measuredResults */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measuredResults");
+   if (pvalue->m & 0x2u) {
       stat = asn1PE_UMTS_MeasuredResults_v860ext(ctx, &pvalue->measuredResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "measuredResults", -1, "MeasurementReport-v860ext-IEs");
    }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasuredResultsList_v860ext(rtxContext* ctx, const MeasuredResultsList_v860ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MeasuredResultsList-v860ext");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MeasuredResultsList_v860ext_element(ctx, (const MeasuredResultsList_v860ext_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+   /* additionalMeasuredResults */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_MeasuredResultsList_v860ext(ctx, &pvalue->additionalMeasuredResults);
+      RT_CHECK(ctx, stat, 0, "additionalMeasuredResults", -1, "MeasurementReport-v860ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd_measurementQuantity(rtxContext* ctx, const MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd_measurementQuantity* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 3) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "cpich-Ec-N0");
-         rtxCtxtPushTypeName(ctx, "CPICH-Ec-N0");
-         if ((uint64_t)pvalue->u.cpich_Ec_N0 > 63u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.cpich_Ec_N0);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.cpich_Ec_N0, 0, 63);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "cpich-RSCP");
-         rtxCtxtPushTypeName(ctx, "CPICH-RSCP");
-         if ((uint64_t)pvalue->u.cpich_RSCP > 127u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.cpich_RSCP);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.cpich_RSCP, 0, 127);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "pathloss");
-         rtxCtxtPushTypeName(ctx, "Pathloss");
-         if ((uint64_t)(pvalue->u.pathloss - 46) > 127u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.pathloss);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.pathloss, 46, 173);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "spare");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
+   /* eventResults */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_EventResults_v860ext(ctx, &pvalue->eventResults);
+      RT_CHECK(ctx, stat, 0, "eventResults", -1, "MeasurementReport-v860ext-IEs");
    }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd(rtxContext* ctx, const MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* measurementQuantity */
-   rtxCtxtPushElemName(ctx, "measurementQuantity");
-   stat = asn1PE_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd_measurementQuantity(ctx, &pvalue->measurementQuantity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_tdd(rtxContext* ctx, const MeasuredResultsOnRACH_currentCell_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* timeslotISCP */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "timeslotISCP");
-      stat = asn1PE_UMTS_TimeslotISCP_List(ctx, &pvalue->timeslotISCP);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   /* eutra-MeasuredResults */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_EUTRA_MeasuredResults(ctx, &pvalue->eutra_MeasuredResults);
+      RT_CHECK(ctx, stat, 0, "eutra-MeasuredResults", -1, "MeasurementReport-v860ext-IEs");
    }
-   /* primaryCCPCH-RSCP */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "primaryCCPCH-RSCP");
-      rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-RSCP");
-      if ((uint64_t)pvalue->primaryCCPCH_RSCP > 127u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_RSCP);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_RSCP, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+   /* eutra-EventResults */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_EUTRA_EventResults(ctx, &pvalue->eutra_EventResults);
+      RT_CHECK(ctx, stat, 0, "eutra-EventResults", -1, "MeasurementReport-v860ext-IEs");
    }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo(rtxContext* ctx, const MeasuredResultsOnRACH_currentCell_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasuredResultsOnRACH_currentCell(rtxContext* ctx, const MeasuredResultsOnRACH_currentCell* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MonitoredCellRACH_Result_modeSpecificInfo_fdd_measurementQuantity(rtxContext* ctx, const MonitoredCellRACH_Result_modeSpecificInfo_fdd_measurementQuantity* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 3) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "cpich-Ec-N0");
-         rtxCtxtPushTypeName(ctx, "CPICH-Ec-N0");
-         if ((uint64_t)pvalue->u.cpich_Ec_N0 > 63u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.cpich_Ec_N0);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.cpich_Ec_N0, 0, 63);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "cpich-RSCP");
-         rtxCtxtPushTypeName(ctx, "CPICH-RSCP");
-         if ((uint64_t)pvalue->u.cpich_RSCP > 127u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.cpich_RSCP);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.cpich_RSCP, 0, 127);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "pathloss");
-         rtxCtxtPushTypeName(ctx, "Pathloss");
-         if ((uint64_t)(pvalue->u.pathloss - 46) > 127u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.pathloss);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.pathloss, 46, 173);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "spare");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MonitoredCellRACH_Result_modeSpecificInfo_fdd(rtxContext* ctx, const MonitoredCellRACH_Result_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementQuantity */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measurementQuantity");
-      stat = asn1PE_UMTS_MonitoredCellRACH_Result_modeSpecificInfo_fdd_measurementQuantity(ctx, &pvalue->measurementQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MonitoredCellRACH_Result_modeSpecificInfo_tdd(rtxContext* ctx, const MonitoredCellRACH_Result_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* cellParametersID */
-   rtxCtxtPushElemName(ctx, "cellParametersID");
-   rtxCtxtPushTypeName(ctx, "CellParametersID");
-   if ((uint64_t)pvalue->cellParametersID > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cellParametersID, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-RSCP */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-RSCP");
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-RSCP");
-   if ((uint64_t)pvalue->primaryCCPCH_RSCP > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_RSCP);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_RSCP, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MonitoredCellRACH_Result_modeSpecificInfo(rtxContext* ctx, const MonitoredCellRACH_Result_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MonitoredCellRACH_Result_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MonitoredCellRACH_Result_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MonitoredCellRACH_Result(rtxContext* ctx, const MonitoredCellRACH_Result* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MonitoredCellRACH-Result");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sfn-SFN-ObsTimeDifference */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sfn-SFN-ObsTimeDifference");
-      stat = asn1PE_UMTS_SFN_SFN_ObsTimeDifference(ctx, &pvalue->sfn_SFN_ObsTimeDifference);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_MonitoredCellRACH_Result_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MonitoredCellRACH_List(rtxContext* ctx, const MonitoredCellRACH_List* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MonitoredCellRACH-List");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "MonitoredCellRACH-Result", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MonitoredCellRACH_Result(ctx, (const MonitoredCellRACH_Result*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 

@@ -6,3900 +6,10 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PE_UMTS_MeasuredResultsOnRACH(rtxContext* ctx, const MeasuredResultsOnRACH* pvalue)
+int asn1PE_UMTS_MeasurementReport_v920ext_IEs(rtxContext* RT_RESTRICT ctx, const MeasurementReport_v920ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasuredResultsOnRACH");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* currentCell */
-   rtxCtxtPushElemName(ctx, "currentCell");
-   stat = asn1PE_UMTS_MeasuredResultsOnRACH_currentCell(ctx, &pvalue->currentCell);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* monitoredCells */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "monitoredCells");
-      stat = asn1PE_UMTS_MonitoredCellRACH_List(ctx, &pvalue->monitoredCells);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MonitoredCellRACH_List_v7g0ext(rtxContext* ctx, const MonitoredCellRACH_List_v7g0ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MonitoredCellRACH-List-v7g0ext");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "DeltaRSCPPerCell", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_DeltaRSCPPerCell(ctx, (const DeltaRSCPPerCell*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasuredResultsOnRACH_v7g0ext(rtxContext* ctx, const MeasuredResultsOnRACH_v7g0ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasuredResultsOnRACH-v7g0ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* currentCell-DeltaRSCP */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "currentCell-DeltaRSCP");
-      stat = asn1PE_UMTS_DeltaRSCPPerCell(ctx, &pvalue->currentCell_DeltaRSCP);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* monitoredCellRACH-List-v7g0ext */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "monitoredCellRACH-List-v7g0ext");
-      stat = asn1PE_UMTS_MonitoredCellRACH_List_v7g0ext(ctx, &pvalue->monitoredCellRACH_List_v7g0ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasuredResultsOnRACHinterFreq(rtxContext* ctx, const MeasuredResultsOnRACHinterFreq* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasuredResultsOnRACHinterFreq");
-   /* interFreqCellIndication-SIB11 */
-   rtxCtxtPushElemName(ctx, "interFreqCellIndication-SIB11");
-   if ((uint64_t)pvalue->interFreqCellIndication_SIB11 > 1u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->interFreqCellIndication_SIB11);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->interFreqCellIndication_SIB11, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* interFreqCellIndication-SIB12 */
-   rtxCtxtPushElemName(ctx, "interFreqCellIndication-SIB12");
-   if ((uint64_t)pvalue->interFreqCellIndication_SIB12 > 1u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->interFreqCellIndication_SIB12);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->interFreqCellIndication_SIB12, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* interFreqRACHRepCellsList */
-   rtxCtxtPushElemName(ctx, "interFreqRACHRepCellsList");
-   stat = asn1PE_UMTS_InterFreqRACHRepCellsList(ctx, &pvalue->interFreqRACHRepCellsList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_MethodType(rtxContext* ctx, UE_Positioning_MethodType value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-MethodType");
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PositioningMethod(rtxContext* ctx, PositioningMethod value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "PositioningMethod");
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_ResponseTime(rtxContext* ctx, UE_Positioning_ResponseTime value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-ResponseTime");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_Accuracy(rtxContext* ctx, UE_Positioning_Accuracy value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-Accuracy");
-   RT_SET_SIZE(ctx, 7, 7);
-   stat = pe_BitString32(ctx, &value, 7, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_ReportingQuantity(rtxContext* ctx, const UE_Positioning_ReportingQuantity* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-ReportingQuantity");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* methodType */
-   rtxCtxtPushElemName(ctx, "methodType");
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-MethodType");
-   if (pvalue->methodType > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->methodType);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->methodType, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* positioningMethod */
-   rtxCtxtPushElemName(ctx, "positioningMethod");
-   rtxCtxtPushTypeName(ctx, "PositioningMethod");
-   if (pvalue->positioningMethod > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->positioningMethod);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->positioningMethod, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dummy1 */
-   rtxCtxtPushElemName(ctx, "dummy1");
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-ResponseTime");
-   if (pvalue->dummy1 > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->dummy1);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dummy1, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* horizontal-Accuracy */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "horizontal-Accuracy");
-      stat = asn1PE_UMTS_UE_Positioning_Accuracy(ctx, pvalue->horizontal_Accuracy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* gps-TimingOfCellWanted */
-   rtxCtxtPushElemName(ctx, "gps-TimingOfCellWanted");
-   stat = rtxEncBit(ctx, pvalue->gps_TimingOfCellWanted);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dummy2 */
-   rtxCtxtPushElemName(ctx, "dummy2");
-   stat = rtxEncBit(ctx, pvalue->dummy2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* additionalAssistanceDataRequest */
-   rtxCtxtPushElemName(ctx, "additionalAssistanceDataRequest");
-   stat = rtxEncBit(ctx, pvalue->additionalAssistanceDataRequest);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* environmentCharacterisation */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "environmentCharacterisation");
-      rtxCtxtPushTypeName(ctx, "EnvironmentCharacterisation");
-      if (pvalue->environmentCharacterisation > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->environmentCharacterisation);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->environmentCharacterisation, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_MeasurementInterval(rtxContext* ctx, UE_Positioning_MeasurementInterval value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-MeasurementInterval");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ThresholdPositionChange(rtxContext* ctx, ThresholdPositionChange value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ThresholdPositionChange");
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ThresholdSFN_SFN_Change(rtxContext* ctx, ThresholdSFN_SFN_Change value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ThresholdSFN-SFN-Change");
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ThresholdSFN_GPS_TOW(rtxContext* ctx, ThresholdSFN_GPS_TOW value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ThresholdSFN-GPS-TOW");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_EventSpecificInfo(rtxContext* ctx, const UE_Positioning_EventSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-EventSpecificInfo");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "e7a");
-         rtxCtxtPushTypeName(ctx, "ThresholdPositionChange");
-         if (pvalue->u.e7a > 15) {
-            rtxErrAddUIntParm(ctx, pvalue->u.e7a);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.e7a, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "e7b");
-         rtxCtxtPushTypeName(ctx, "ThresholdSFN-SFN-Change");
-         if (pvalue->u.e7b > 15) {
-            rtxErrAddUIntParm(ctx, pvalue->u.e7b);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.e7b, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "e7c");
-         rtxCtxtPushTypeName(ctx, "ThresholdSFN-GPS-TOW");
-         if (pvalue->u.e7c > 7) {
-            rtxErrAddUIntParm(ctx, pvalue->u.e7c);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.e7c, 0, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_EventParam(rtxContext* ctx, const UE_Positioning_EventParam* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-EventParam");
-   /* reportingAmount */
-   rtxCtxtPushElemName(ctx, "reportingAmount");
-   rtxCtxtPushTypeName(ctx, "ReportingAmount");
-   if (pvalue->reportingAmount > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->reportingAmount);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingAmount, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportFirstFix */
-   rtxCtxtPushElemName(ctx, "reportFirstFix");
-   stat = rtxEncBit(ctx, pvalue->reportFirstFix);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementInterval */
-   rtxCtxtPushElemName(ctx, "measurementInterval");
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-MeasurementInterval");
-   if (pvalue->measurementInterval > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->measurementInterval);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->measurementInterval, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* eventSpecificInfo */
-   rtxCtxtPushElemName(ctx, "eventSpecificInfo");
-   stat = asn1PE_UMTS_UE_Positioning_EventSpecificInfo(ctx, &pvalue->eventSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_EventParamList(rtxContext* ctx, const UE_Positioning_EventParamList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-EventParamList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "UE-Positioning-EventParam", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_UE_Positioning_EventParam(ctx, (const UE_Positioning_EventParam*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_ReportCriteria(rtxContext* ctx, const UE_Positioning_ReportCriteria* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-ReportCriteria");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "ue-positioning-ReportingCriteria");
-         if (pvalue->u.ue_positioning_ReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_EventParamList(ctx, pvalue->u.ue_positioning_ReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "noReporting");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_fdd(rtxContext* ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_tdd(rtxContext* ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* cellAndChannelIdentity */
-   rtxCtxtPushElemName(ctx, "cellAndChannelIdentity");
-   stat = asn1PE_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo(rtxContext* ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueBased(rtxContext* ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueBased* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueAssisted(rtxContext* ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueAssisted* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode(rtxContext* ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "ueBased");
-         if (pvalue->u.ueBased == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueBased(ctx, pvalue->u.ueBased);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ueAssisted");
-         if (pvalue->u.ueAssisted == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueAssisted(ctx, pvalue->u.ueAssisted);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_IPDL_Parameters(rtxContext* ctx, const UE_Positioning_IPDL_Parameters* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-IPDL-Parameters");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ip-Spacing */
-   rtxCtxtPushElemName(ctx, "ip-Spacing");
-   rtxCtxtPushTypeName(ctx, "IP-Spacing");
-   if (pvalue->ip_Spacing > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->ip_Spacing);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ip_Spacing, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ip-Length */
-   rtxCtxtPushElemName(ctx, "ip-Length");
-   rtxCtxtPushTypeName(ctx, "IP-Length");
-   if (pvalue->ip_Length > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->ip_Length);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ip_Length, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ip-Offset */
-   rtxCtxtPushElemName(ctx, "ip-Offset");
-   if ((uint64_t)pvalue->ip_Offset > 9u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ip_Offset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ip_Offset, 0, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* seed */
-   rtxCtxtPushElemName(ctx, "seed");
-   if ((uint64_t)pvalue->seed > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->seed);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->seed, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* burstModeParameters */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "burstModeParameters");
-      stat = asn1PE_UMTS_BurstModeParameters(ctx, &pvalue->burstModeParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo(rtxContext* ctx, const UE_Positioning_OTDOA_ReferenceCellInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-ReferenceCellInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* sfn */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sfn");
-      if ((uint64_t)pvalue->sfn > 4095u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->sfn);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->sfn, 0, 4095);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* positioningMode */
-   rtxCtxtPushElemName(ctx, "positioningMode");
-   stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode(ctx, &pvalue->positioningMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-positioning-IPDL-Paremeters */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-IPDL-Paremeters");
-      stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_fdd(rtxContext* ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_tdd(rtxContext* ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* cellAndChannelIdentity */
-   rtxCtxtPushElemName(ctx, "cellAndChannelIdentity");
-   stat = asn1PE_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo(rtxContext* ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SFN_SFN_RelTimeDifference1(rtxContext* ctx, const SFN_SFN_RelTimeDifference1* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SFN-SFN-RelTimeDifference1");
-   /* sfn-Offset */
-   rtxCtxtPushElemName(ctx, "sfn-Offset");
-   if ((uint64_t)pvalue->sfn_Offset > 4095u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->sfn_Offset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->sfn_Offset, 0, 4095);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sfn-sfn-Reltimedifference */
-   rtxCtxtPushElemName(ctx, "sfn-sfn-Reltimedifference");
-   if ((uint64_t)pvalue->sfn_sfn_Reltimedifference > 38399u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->sfn_sfn_Reltimedifference);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->sfn_sfn_Reltimedifference, 0, 38399);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SFN_SFN_Drift(rtxContext* ctx, SFN_SFN_Drift value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SFN-SFN-Drift");
-   if (value > 28) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 28);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_OTDOA_SearchWindowSize(rtxContext* ctx, OTDOA_SearchWindowSize value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "OTDOA-SearchWindowSize");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueBased(rtxContext* ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueBased* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueAssisted(rtxContext* ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueAssisted* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode(rtxContext* ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "ueBased");
-         if (pvalue->u.ueBased == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueBased(ctx, pvalue->u.ueBased);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ueAssisted");
-         if (pvalue->u.ueAssisted == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueAssisted(ctx, pvalue->u.ueAssisted);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo(rtxContext* ctx, const UE_Positioning_OTDOA_NeighbourCellInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-NeighbourCellInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-IPDL-Paremeters */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-IPDL-Paremeters");
-      stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sfn-SFN-RelTimeDifference */
-   rtxCtxtPushElemName(ctx, "sfn-SFN-RelTimeDifference");
-   stat = asn1PE_UMTS_SFN_SFN_RelTimeDifference1(ctx, &pvalue->sfn_SFN_RelTimeDifference);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sfn-SFN-Drift */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "sfn-SFN-Drift");
-      rtxCtxtPushTypeName(ctx, "SFN-SFN-Drift");
-      if (pvalue->sfn_SFN_Drift > 28) {
-         rtxErrAddUIntParm(ctx, pvalue->sfn_SFN_Drift);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->sfn_SFN_Drift, 0, 28);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* searchWindowSize */
-   rtxCtxtPushElemName(ctx, "searchWindowSize");
-   rtxCtxtPushTypeName(ctx, "OTDOA-SearchWindowSize");
-   if (pvalue->searchWindowSize > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->searchWindowSize);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->searchWindowSize, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* positioningMode */
-   rtxCtxtPushElemName(ctx, "positioningMode");
-   stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode(ctx, &pvalue->positioningMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellList(rtxContext* ctx, const UE_Positioning_OTDOA_NeighbourCellList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-NeighbourCellList");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "UE-Positioning-OTDOA-NeighbourCellInfo", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo(ctx, (const UE_Positioning_OTDOA_NeighbourCellInfo*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData(rtxContext* ctx, const UE_Positioning_OTDOA_AssistanceData* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-AssistanceData");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-OTDOA-ReferenceCellInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-ReferenceCellInfo");
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo(ctx, &pvalue->ue_positioning_OTDOA_ReferenceCellInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-OTDOA-NeighbourCellList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-NeighbourCellList");
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellList(ctx, &pvalue->ue_positioning_OTDOA_NeighbourCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UTRAN_GPSReferenceTime_utran_GPSTimingOfCell(rtxContext* ctx, const UTRAN_GPSReferenceTime_utran_GPSTimingOfCell* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* ms-part */
-   rtxCtxtPushElemName(ctx, "ms-part");
-   if ((uint64_t)pvalue->ms_part > 1023u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ms_part);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ms_part, 0, 1023);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ls-part */
-   rtxCtxtPushElemName(ctx, "ls-part");
-   stat = pe_ConsUInt64(ctx, pvalue->ls_part, 0, 4294967295ULL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UTRAN_GPSReferenceTime_modeSpecificInfo_fdd(rtxContext* ctx, const UTRAN_GPSReferenceTime_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* referenceIdentity */
-   rtxCtxtPushElemName(ctx, "referenceIdentity");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->referenceIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UTRAN_GPSReferenceTime_modeSpecificInfo_tdd(rtxContext* ctx, const UTRAN_GPSReferenceTime_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* referenceIdentity */
-   rtxCtxtPushElemName(ctx, "referenceIdentity");
-   rtxCtxtPushTypeName(ctx, "CellParametersID");
-   if ((uint64_t)pvalue->referenceIdentity > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->referenceIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->referenceIdentity, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UTRAN_GPSReferenceTime_modeSpecificInfo(rtxContext* ctx, const UTRAN_GPSReferenceTime_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UTRAN_GPSReferenceTime_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UTRAN_GPSReferenceTime_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UTRAN_GPSReferenceTime(rtxContext* ctx, const UTRAN_GPSReferenceTime* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UTRAN-GPSReferenceTime");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* utran-GPSTimingOfCell */
-   rtxCtxtPushElemName(ctx, "utran-GPSTimingOfCell");
-   stat = asn1PE_UMTS_UTRAN_GPSReferenceTime_utran_GPSTimingOfCell(ctx, &pvalue->utran_GPSTimingOfCell);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* modeSpecificInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-      stat = asn1PE_UMTS_UTRAN_GPSReferenceTime_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sfn */
-   rtxCtxtPushElemName(ctx, "sfn");
-   if ((uint64_t)pvalue->sfn > 4095u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->sfn);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->sfn, 0, 4095);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SFN_TOW_Uncertainty(rtxContext* ctx, SFN_TOW_Uncertainty value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SFN-TOW-Uncertainty");
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UTRAN_GPS_DriftRate(rtxContext* ctx, UTRAN_GPS_DriftRate value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UTRAN-GPS-DriftRate");
-   if (value > 14) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_ReferenceTime(rtxContext* ctx, const UE_Positioning_GPS_ReferenceTime* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-ReferenceTime");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* gps-Week */
-   rtxCtxtPushElemName(ctx, "gps-Week");
-   if ((uint64_t)pvalue->gps_Week > 1023u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->gps_Week);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->gps_Week, 0, 1023);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gps-tow-1msec */
-   rtxCtxtPushElemName(ctx, "gps-tow-1msec");
-   rtxCtxtPushTypeName(ctx, "GPS-TOW-1msec");
-   if ((uint64_t)pvalue->gps_tow_1msec > 604799999u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->gps_tow_1msec);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->gps_tow_1msec, 0, 604799999);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* utran-GPSReferenceTime */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "utran-GPSReferenceTime");
-      stat = asn1PE_UMTS_UTRAN_GPSReferenceTime(ctx, &pvalue->utran_GPSReferenceTime);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sfn-tow-Uncertainty */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "sfn-tow-Uncertainty");
-      rtxCtxtPushTypeName(ctx, "SFN-TOW-Uncertainty");
-      if (pvalue->sfn_tow_Uncertainty > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->sfn_tow_Uncertainty);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->sfn_tow_Uncertainty, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* utran-GPS-DriftRate */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "utran-GPS-DriftRate");
-      rtxCtxtPushTypeName(ctx, "UTRAN-GPS-DriftRate");
-      if (pvalue->utran_GPS_DriftRate > 14) {
-         rtxErrAddUIntParm(ctx, pvalue->utran_GPS_DriftRate);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->utran_GPS_DriftRate, 0, 14);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* gps-TOW-AssistList */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "gps-TOW-AssistList");
-      stat = asn1PE_UMTS_GPS_TOW_AssistList(ctx, &pvalue->gps_TOW_AssistList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ReferenceLocation(rtxContext* ctx, const ReferenceLocation* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ReferenceLocation");
-   /* ellipsoidPointAltitudeEllipsoide */
-   rtxCtxtPushElemName(ctx, "ellipsoidPointAltitudeEllipsoide");
-   stat = asn1PE_UMTS_EllipsoidPointAltitudeEllipsoide(ctx, &pvalue->ellipsoidPointAltitudeEllipsoide);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_DGPS_Corrections(rtxContext* ctx, const UE_Positioning_GPS_DGPS_Corrections* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-DGPS-Corrections");
-   /* gps-TOW */
-   rtxCtxtPushElemName(ctx, "gps-TOW");
-   rtxCtxtPushTypeName(ctx, "GPS-TOW-1sec");
-   if ((uint64_t)pvalue->gps_TOW > 604799u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->gps_TOW);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->gps_TOW, 0, 604799);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* statusHealth */
-   rtxCtxtPushElemName(ctx, "statusHealth");
-   rtxCtxtPushTypeName(ctx, "DiffCorrectionStatus");
-   if (pvalue->statusHealth > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->statusHealth);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->statusHealth, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dgps-CorrectionSatInfoList */
-   rtxCtxtPushElemName(ctx, "dgps-CorrectionSatInfoList");
-   stat = asn1PE_UMTS_DGPS_CorrectionSatInfoList(ctx, &pvalue->dgps_CorrectionSatInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SatelliteStatus(rtxContext* ctx, SatelliteStatus value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SatelliteStatus");
-   if (value > 4) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SubFrame1Reserved(rtxContext* ctx, const SubFrame1Reserved* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SubFrame1Reserved");
-   /* reserved1 */
-   rtxCtxtPushElemName(ctx, "reserved1");
-   RT_SET_SIZE(ctx, 23, 23);
-   stat = pe_BitString32(ctx, &pvalue->reserved1, 23, 23);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* reserved2 */
-   rtxCtxtPushElemName(ctx, "reserved2");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->reserved2, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* reserved3 */
-   rtxCtxtPushElemName(ctx, "reserved3");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->reserved3, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* reserved4 */
-   rtxCtxtPushElemName(ctx, "reserved4");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->reserved4, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_EphemerisParameter(rtxContext* ctx, const EphemerisParameter* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "EphemerisParameter");
-   /* codeOnL2 */
-   rtxCtxtPushElemName(ctx, "codeOnL2");
-   RT_SET_SIZE(ctx, 2, 2);
-   stat = pe_BitString32(ctx, &pvalue->codeOnL2, 2, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* uraIndex */
-   rtxCtxtPushElemName(ctx, "uraIndex");
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pe_BitString32(ctx, &pvalue->uraIndex, 4, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* satHealth */
-   rtxCtxtPushElemName(ctx, "satHealth");
-   RT_SET_SIZE(ctx, 6, 6);
-   stat = pe_BitString32(ctx, &pvalue->satHealth, 6, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* iodc */
-   rtxCtxtPushElemName(ctx, "iodc");
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pe_BitString32(ctx, &pvalue->iodc, 10, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* l2Pflag */
-   rtxCtxtPushElemName(ctx, "l2Pflag");
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pe_BitString32(ctx, &pvalue->l2Pflag, 1, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sf1Revd */
-   rtxCtxtPushElemName(ctx, "sf1Revd");
-   stat = asn1PE_UMTS_SubFrame1Reserved(ctx, &pvalue->sf1Revd);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* t-GD */
-   rtxCtxtPushElemName(ctx, "t-GD");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->t_GD, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* t-oc */
-   rtxCtxtPushElemName(ctx, "t-oc");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->t_oc, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* af2 */
-   rtxCtxtPushElemName(ctx, "af2");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->af2, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* af1 */
-   rtxCtxtPushElemName(ctx, "af1");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->af1, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* af0 */
-   rtxCtxtPushElemName(ctx, "af0");
-   RT_SET_SIZE(ctx, 22, 22);
-   stat = pe_BitString32(ctx, &pvalue->af0, 22, 22);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* c-rs */
-   rtxCtxtPushElemName(ctx, "c-rs");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->c_rs, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* delta-n */
-   rtxCtxtPushElemName(ctx, "delta-n");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->delta_n, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* m0 */
-   rtxCtxtPushElemName(ctx, "m0");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->m0, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* c-uc */
-   rtxCtxtPushElemName(ctx, "c-uc");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->c_uc, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* e */
-   rtxCtxtPushElemName(ctx, "e");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->e, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* c-us */
-   rtxCtxtPushElemName(ctx, "c-us");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->c_us, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* a-Sqrt */
-   rtxCtxtPushElemName(ctx, "a-Sqrt");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->a_Sqrt, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* t-oe */
-   rtxCtxtPushElemName(ctx, "t-oe");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->t_oe, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* fitInterval */
-   rtxCtxtPushElemName(ctx, "fitInterval");
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pe_BitString32(ctx, &pvalue->fitInterval, 1, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* aodo */
-   rtxCtxtPushElemName(ctx, "aodo");
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pe_BitString32(ctx, &pvalue->aodo, 5, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* c-ic */
-   rtxCtxtPushElemName(ctx, "c-ic");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->c_ic, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* omega0 */
-   rtxCtxtPushElemName(ctx, "omega0");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->omega0, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* c-is */
-   rtxCtxtPushElemName(ctx, "c-is");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->c_is, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* i0 */
-   rtxCtxtPushElemName(ctx, "i0");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->i0, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* c-rc */
-   rtxCtxtPushElemName(ctx, "c-rc");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->c_rc, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* omega */
-   rtxCtxtPushElemName(ctx, "omega");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->omega, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* omegaDot */
-   rtxCtxtPushElemName(ctx, "omegaDot");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->omegaDot, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* iDot */
-   rtxCtxtPushElemName(ctx, "iDot");
-   RT_SET_SIZE(ctx, 14, 14);
-   stat = pe_BitString32(ctx, &pvalue->iDot, 14, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NavigationModelSatInfo(rtxContext* ctx, const NavigationModelSatInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NavigationModelSatInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* satID */
-   rtxCtxtPushElemName(ctx, "satID");
-   rtxCtxtPushTypeName(ctx, "SatID");
-   if ((uint64_t)pvalue->satID > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->satID);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->satID, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* satelliteStatus */
-   rtxCtxtPushElemName(ctx, "satelliteStatus");
-   rtxCtxtPushTypeName(ctx, "SatelliteStatus");
-   if (pvalue->satelliteStatus > 4) {
-      rtxErrAddUIntParm(ctx, pvalue->satelliteStatus);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->satelliteStatus, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ephemerisParameter */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ephemerisParameter");
-      stat = asn1PE_UMTS_EphemerisParameter(ctx, &pvalue->ephemerisParameter);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NavigationModelSatInfoList(rtxContext* ctx, const NavigationModelSatInfoList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NavigationModelSatInfoList");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "NavigationModelSatInfo", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_NavigationModelSatInfo(ctx, (const NavigationModelSatInfo*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_NavigationModel(rtxContext* ctx, const UE_Positioning_GPS_NavigationModel* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-NavigationModel");
-   /* navigationModelSatInfoList */
-   rtxCtxtPushElemName(ctx, "navigationModelSatInfoList");
-   stat = asn1PE_UMTS_NavigationModelSatInfoList(ctx, &pvalue->navigationModelSatInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_IonosphericModel(rtxContext* ctx, const UE_Positioning_GPS_IonosphericModel* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-IonosphericModel");
-   /* alpha0 */
-   rtxCtxtPushElemName(ctx, "alpha0");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->alpha0, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* alpha1 */
-   rtxCtxtPushElemName(ctx, "alpha1");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->alpha1, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* alpha2 */
-   rtxCtxtPushElemName(ctx, "alpha2");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->alpha2, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* alpha3 */
-   rtxCtxtPushElemName(ctx, "alpha3");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->alpha3, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* beta0 */
-   rtxCtxtPushElemName(ctx, "beta0");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->beta0, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* beta1 */
-   rtxCtxtPushElemName(ctx, "beta1");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->beta1, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* beta2 */
-   rtxCtxtPushElemName(ctx, "beta2");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->beta2, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* beta3 */
-   rtxCtxtPushElemName(ctx, "beta3");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->beta3, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_UTC_Model(rtxContext* ctx, const UE_Positioning_GPS_UTC_Model* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-UTC-Model");
-   /* a1 */
-   rtxCtxtPushElemName(ctx, "a1");
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->a1, 24, 24);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* a0 */
-   rtxCtxtPushElemName(ctx, "a0");
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->a0, 32, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* t-ot */
-   rtxCtxtPushElemName(ctx, "t-ot");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->t_ot, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* wn-t */
-   rtxCtxtPushElemName(ctx, "wn-t");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->wn_t, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* delta-t-LS */
-   rtxCtxtPushElemName(ctx, "delta-t-LS");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->delta_t_LS, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* wn-lsf */
-   rtxCtxtPushElemName(ctx, "wn-lsf");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->wn_lsf, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dn */
-   rtxCtxtPushElemName(ctx, "dn");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->dn, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* delta-t-LSF */
-   rtxCtxtPushElemName(ctx, "delta-t-LSF");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->delta_t_LSF, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_Almanac_sv_GlobalHealth(rtxContext* ctx, const UE_Positioning_GPS_Almanac_sv_GlobalHealth* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   RT_SET_SIZE(ctx, 364, 364);
-   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_Almanac(rtxContext* ctx, const UE_Positioning_GPS_Almanac* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-Almanac");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* wn-a */
-   rtxCtxtPushElemName(ctx, "wn-a");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->wn_a, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* almanacSatInfoList */
-   rtxCtxtPushElemName(ctx, "almanacSatInfoList");
-   stat = asn1PE_UMTS_AlmanacSatInfoList(ctx, &pvalue->almanacSatInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sv-GlobalHealth */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sv-GlobalHealth");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_Almanac_sv_GlobalHealth(ctx, &pvalue->sv_GlobalHealth);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_AcquisitionAssistance(rtxContext* ctx, const UE_Positioning_GPS_AcquisitionAssistance* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-AcquisitionAssistance");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* gps-ReferenceTime */
-   rtxCtxtPushElemName(ctx, "gps-ReferenceTime");
-   rtxCtxtPushTypeName(ctx, "GPS-TOW-1msec");
-   if ((uint64_t)pvalue->gps_ReferenceTime > 604799999u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->gps_ReferenceTime);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->gps_ReferenceTime, 0, 604799999);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* utran-GPSReferenceTime */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "utran-GPSReferenceTime");
-      stat = asn1PE_UMTS_UTRAN_GPSReferenceTime(ctx, &pvalue->utran_GPSReferenceTime);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* satelliteInformationList */
-   rtxCtxtPushElemName(ctx, "satelliteInformationList");
-   stat = asn1PE_UMTS_AcquisitionSatInfoList(ctx, &pvalue->satelliteInformationList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_fdd(rtxContext* ctx, const UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* referenceIdentity */
-   rtxCtxtPushElemName(ctx, "referenceIdentity");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->referenceIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_tdd(rtxContext* ctx, const UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* referenceIdentity */
-   rtxCtxtPushElemName(ctx, "referenceIdentity");
-   rtxCtxtPushTypeName(ctx, "CellParametersID");
-   if ((uint64_t)pvalue->referenceIdentity > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->referenceIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->referenceIdentity, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo(rtxContext* ctx, const UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_ReferenceCellInfo(rtxContext* ctx, const UE_Positioning_GPS_ReferenceCellInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-ReferenceCellInfo");
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_AssistanceData(rtxContext* ctx, const UE_Positioning_GPS_AssistanceData* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-AssistanceData");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 9) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 9) & 1u) << 0), 10);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GPS-ReferenceTime */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-ReferenceTime");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_ReferenceTime(ctx, &pvalue->ue_positioning_GPS_ReferenceTime);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-ReferenceLocation */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-ReferenceLocation");
-      stat = asn1PE_UMTS_ReferenceLocation(ctx, &pvalue->ue_positioning_GPS_ReferenceLocation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-DGPS-Corrections */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-DGPS-Corrections");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_DGPS_Corrections(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-NavigationModel */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-NavigationModel");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_NavigationModel(ctx, &pvalue->ue_positioning_GPS_NavigationModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-IonosphericModel */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-IonosphericModel");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_IonosphericModel(ctx, &pvalue->ue_positioning_GPS_IonosphericModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-UTC-Model */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-UTC-Model");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_UTC_Model(ctx, &pvalue->ue_positioning_GPS_UTC_Model);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-Almanac */
-   if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-Almanac");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_Almanac(ctx, &pvalue->ue_positioning_GPS_Almanac);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-AcquisitionAssistance */
-   if (pvalue->m & 0x80u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-AcquisitionAssistance");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_AcquisitionAssistance(ctx, &pvalue->ue_positioning_GPS_AcquisitionAssistance);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-Real-timeIntegrity */
-   if (pvalue->m & 0x100u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-Real-timeIntegrity");
-      stat = asn1PE_UMTS_BadSatList(ctx, &pvalue->ue_positioning_GPS_Real_timeIntegrity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy */
-   if (pvalue->m & 0x200u) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_ReferenceCellInfo(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_Measurement(rtxContext* ctx, const UE_Positioning_Measurement* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-Measurement");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-ReportingQuantity */
-   rtxCtxtPushElemName(ctx, "ue-positioning-ReportingQuantity");
-   stat = asn1PE_UMTS_UE_Positioning_ReportingQuantity(ctx, &pvalue->ue_positioning_ReportingQuantity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PE_UMTS_UE_Positioning_ReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-positioning-OTDOA-AssistanceData */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-AssistanceData");
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-AssistanceData */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-AssistanceData");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_AssistanceData(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TrafficVolumeReportCriteria(rtxContext* ctx, const TrafficVolumeReportCriteria* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TrafficVolumeReportCriteria");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "trafficVolumeReportingCriteria");
-         if (pvalue->u.trafficVolumeReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TrafficVolumeReportingCriteria(ctx, pvalue->u.trafficVolumeReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "noReporting");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TrafficVolumeMeasurement(rtxContext* ctx, const TrafficVolumeMeasurement* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TrafficVolumeMeasurement");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* trafficVolumeMeasurementObjectList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "trafficVolumeMeasurementObjectList");
-      stat = asn1PE_UMTS_TrafficVolumeMeasurementObjectList(ctx, &pvalue->trafficVolumeMeasurementObjectList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* trafficVolumeMeasQuantity */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "trafficVolumeMeasQuantity");
-      stat = asn1PE_UMTS_TrafficVolumeMeasQuantity(ctx, &pvalue->trafficVolumeMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* trafficVolumeReportingQuantity */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "trafficVolumeReportingQuantity");
-      stat = asn1PE_UMTS_TrafficVolumeReportingQuantity(ctx, &pvalue->trafficVolumeReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measurementValidity */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "measurementValidity");
-      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PE_UMTS_TrafficVolumeReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SIR_TFCS(rtxContext* ctx, SIR_TFCS value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SIR-TFCS");
-   stat = asn1PE_UMTS_TFCS_IdentityPlain(ctx, value);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SIR_TFCS_List(rtxContext* ctx, const SIR_TFCS_List* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "SIR-TFCS-List");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "SIR-TFCS", i);
-      stat = asn1PE_UMTS_SIR_TFCS(ctx, pvalue->elem[i]);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_QualityReportingQuantity_modeSpecificInfo_tdd(rtxContext* ctx, const QualityReportingQuantity_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sir-TFCS-List */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sir-TFCS-List");
-      stat = asn1PE_UMTS_SIR_TFCS_List(ctx, &pvalue->sir_TFCS_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_QualityReportingQuantity_modeSpecificInfo(rtxContext* ctx, const QualityReportingQuantity_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_QualityReportingQuantity_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_QualityReportingQuantity(rtxContext* ctx, const QualityReportingQuantity* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "QualityReportingQuantity");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* dl-TransChBLER */
-   rtxCtxtPushElemName(ctx, "dl-TransChBLER");
-   stat = rtxEncBit(ctx, pvalue->dl_TransChBLER);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* bler-dl-TransChIdList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "bler-dl-TransChIdList");
-      stat = asn1PE_UMTS_BLER_TransChIdList(ctx, &pvalue->bler_dl_TransChIdList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_QualityReportingQuantity_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_QualityReportingCriteriaSingle(rtxContext* ctx, const QualityReportingCriteriaSingle* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "QualityReportingCriteriaSingle");
-   /* transportChannelIdentity */
-   rtxCtxtPushElemName(ctx, "transportChannelIdentity");
-   rtxCtxtPushTypeName(ctx, "TransportChannelIdentity");
-   if ((uint64_t)(pvalue->transportChannelIdentity - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->transportChannelIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->transportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* totalCRC */
-   rtxCtxtPushElemName(ctx, "totalCRC");
-   if ((uint64_t)(pvalue->totalCRC - 1) > 511u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->totalCRC);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->totalCRC, 1, 512);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* badCRC */
-   rtxCtxtPushElemName(ctx, "badCRC");
-   if ((uint64_t)(pvalue->badCRC - 1) > 511u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->badCRC);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->badCRC, 1, 512);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* pendingAfterTrigger */
-   rtxCtxtPushElemName(ctx, "pendingAfterTrigger");
-   if ((uint64_t)(pvalue->pendingAfterTrigger - 1) > 511u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->pendingAfterTrigger);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pendingAfterTrigger, 1, 512);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_QualityReportingCriteria(rtxContext* ctx, const QualityReportingCriteria* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "QualityReportingCriteria");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "QualityReportingCriteriaSingle", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_QualityReportingCriteriaSingle(ctx, (const QualityReportingCriteriaSingle*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_QualityReportCriteria(rtxContext* ctx, const QualityReportCriteria* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "QualityReportCriteria");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "qualityReportingCriteria");
-         if (pvalue->u.qualityReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_QualityReportingCriteria(ctx, pvalue->u.qualityReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "noReporting");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_QualityMeasurement(rtxContext* ctx, const QualityMeasurement* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "QualityMeasurement");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* qualityReportingQuantity */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "qualityReportingQuantity");
-      stat = asn1PE_UMTS_QualityReportingQuantity(ctx, &pvalue->qualityReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PE_UMTS_QualityReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalReportingQuantity_modeSpecificInfo_fdd(rtxContext* ctx, const UE_InternalReportingQuantity_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* ue-RX-TX-TimeDifference */
-   rtxCtxtPushElemName(ctx, "ue-RX-TX-TimeDifference");
-   stat = rtxEncBit(ctx, pvalue->ue_RX_TX_TimeDifference);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalReportingQuantity_modeSpecificInfo_tdd(rtxContext* ctx, const UE_InternalReportingQuantity_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* appliedTA */
-   rtxCtxtPushElemName(ctx, "appliedTA");
-   stat = rtxEncBit(ctx, pvalue->appliedTA);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalReportingQuantity_modeSpecificInfo(rtxContext* ctx, const UE_InternalReportingQuantity_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_InternalReportingQuantity_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_InternalReportingQuantity_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalReportingQuantity(rtxContext* ctx, const UE_InternalReportingQuantity* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-InternalReportingQuantity");
-   /* ue-TransmittedPower */
-   rtxCtxtPushElemName(ctx, "ue-TransmittedPower");
-   stat = rtxEncBit(ctx, pvalue->ue_TransmittedPower);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_UE_InternalReportingQuantity_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TransmittedPowerThreshold(rtxContext* ctx, TransmittedPowerThreshold value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "TransmittedPowerThreshold");
-   if (value < -50 || value > 33) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, value, -50, 33);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_6AB_Event(rtxContext* ctx, const UE_6AB_Event* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-6AB-Event");
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* transmittedPowerThreshold */
-   rtxCtxtPushElemName(ctx, "transmittedPowerThreshold");
-   rtxCtxtPushTypeName(ctx, "TransmittedPowerThreshold");
-   if (pvalue->transmittedPowerThreshold < -50 || pvalue->transmittedPowerThreshold > 33) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->transmittedPowerThreshold);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->transmittedPowerThreshold, -50, 33);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RX_TX_TimeDifferenceThreshold(rtxContext* ctx, UE_RX_TX_TimeDifferenceThreshold value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "UE-RX-TX-TimeDifferenceThreshold");
-   if ((uint64_t)(value - 768) > 512u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 768, 1280);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_6FG_Event(rtxContext* ctx, const UE_6FG_Event* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-6FG-Event");
-   /* timeToTrigger */
-   rtxCtxtPushElemName(ctx, "timeToTrigger");
-   rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ue-RX-TX-TimeDifferenceThreshold */
-   rtxCtxtPushElemName(ctx, "ue-RX-TX-TimeDifferenceThreshold");
-   rtxCtxtPushTypeName(ctx, "UE-RX-TX-TimeDifferenceThreshold");
-   if ((uint64_t)(pvalue->ue_RX_TX_TimeDifferenceThreshold - 768) > 512u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ue_RX_TX_TimeDifferenceThreshold);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_RX_TX_TimeDifferenceThreshold, 768, 1280);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalEventParam(rtxContext* ctx, const UE_InternalEventParam* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-InternalEventParam");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 6) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "event6a");
-         if (pvalue->u.event6a == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_6AB_Event(ctx, pvalue->u.event6a);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "event6b");
-         if (pvalue->u.event6b == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_6AB_Event(ctx, pvalue->u.event6b);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "event6c");
-         rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-         if (pvalue->u.event6c > 15) {
-            rtxErrAddUIntParm(ctx, pvalue->u.event6c);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.event6c, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "event6d");
-         rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-         if (pvalue->u.event6d > 15) {
-            rtxErrAddUIntParm(ctx, pvalue->u.event6d);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.event6d, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "event6e");
-         rtxCtxtPushTypeName(ctx, "TimeToTrigger");
-         if (pvalue->u.event6e > 15) {
-            rtxErrAddUIntParm(ctx, pvalue->u.event6e);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.event6e, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "event6f");
-         if (pvalue->u.event6f == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_6FG_Event(ctx, pvalue->u.event6f);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "event6g");
-         if (pvalue->u.event6g == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_6FG_Event(ctx, pvalue->u.event6g);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalEventParamList(rtxContext* ctx, const UE_InternalEventParamList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "UE-InternalEventParamList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "UE-InternalEventParam", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_UE_InternalEventParam(ctx, (const UE_InternalEventParam*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalReportingCriteria(rtxContext* ctx, const UE_InternalReportingCriteria* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-InternalReportingCriteria");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-InternalEventParamList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-InternalEventParamList");
-      stat = asn1PE_UMTS_UE_InternalEventParamList(ctx, &pvalue->ue_InternalEventParamList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalReportCriteria(rtxContext* ctx, const UE_InternalReportCriteria* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-InternalReportCriteria");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "ue-InternalReportingCriteria");
-         if (pvalue->u.ue_InternalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_InternalReportingCriteria(ctx, pvalue->u.ue_InternalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "noReporting");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalMeasurement(rtxContext* ctx, const UE_InternalMeasurement* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-InternalMeasurement");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ue-InternalMeasQuantity */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-InternalMeasQuantity");
-      stat = asn1PE_UMTS_UE_InternalMeasQuantity(ctx, &pvalue->ue_InternalMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-InternalReportingQuantity */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-InternalReportingQuantity");
-      stat = asn1PE_UMTS_UE_InternalReportingQuantity(ctx, &pvalue->ue_InternalReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PE_UMTS_UE_InternalReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementType(rtxContext* ctx, const MeasurementType* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementType");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 6) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "intraFrequencyMeasurement");
-         if (pvalue->u.intraFrequencyMeasurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_IntraFrequencyMeasurement(ctx, pvalue->u.intraFrequencyMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "interFrequencyMeasurement");
-         if (pvalue->u.interFrequencyMeasurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterFrequencyMeasurement(ctx, pvalue->u.interFrequencyMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "interRATMeasurement");
-         if (pvalue->u.interRATMeasurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterRATMeasurement(ctx, pvalue->u.interRATMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "ue-positioning-Measurement");
-         if (pvalue->u.ue_positioning_Measurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_Measurement(ctx, pvalue->u.ue_positioning_Measurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "trafficVolumeMeasurement");
-         if (pvalue->u.trafficVolumeMeasurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "qualityMeasurement");
-         if (pvalue->u.qualityMeasurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_QualityMeasurement(ctx, pvalue->u.qualityMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "ue-InternalMeasurement");
-         if (pvalue->u.ue_InternalMeasurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_InternalMeasurement(ctx, pvalue->u.ue_InternalMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCommand_modify(rtxContext* ctx, const MeasurementCommand_modify* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measurementType */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measurementType");
-      stat = asn1PE_UMTS_MeasurementType(ctx, &pvalue->measurementType);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCommand(rtxContext* ctx, const MeasurementCommand* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementCommand");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "setup");
-         if (pvalue->u.setup == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementType(ctx, pvalue->u.setup);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "modify");
-         if (pvalue->u.modify == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementCommand_modify(ctx, pvalue->u.modify);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "release");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_ReportingQuantity_r4(rtxContext* ctx, const UE_Positioning_ReportingQuantity_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-ReportingQuantity-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* methodType */
-   rtxCtxtPushElemName(ctx, "methodType");
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-MethodType");
-   if (pvalue->methodType > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->methodType);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->methodType, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* positioningMethod */
-   rtxCtxtPushElemName(ctx, "positioningMethod");
-   rtxCtxtPushTypeName(ctx, "PositioningMethod");
-   if (pvalue->positioningMethod > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->positioningMethod);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->positioningMethod, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* horizontalAccuracy */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "horizontalAccuracy");
-      stat = asn1PE_UMTS_UE_Positioning_Accuracy(ctx, pvalue->horizontalAccuracy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* verticalAccuracy */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "verticalAccuracy");
-      stat = asn1PE_UMTS_UE_Positioning_Accuracy(ctx, pvalue->verticalAccuracy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* gps-TimingOfCellWanted */
-   rtxCtxtPushElemName(ctx, "gps-TimingOfCellWanted");
-   stat = rtxEncBit(ctx, pvalue->gps_TimingOfCellWanted);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* additionalAssistanceDataReq */
-   rtxCtxtPushElemName(ctx, "additionalAssistanceDataReq");
-   stat = rtxEncBit(ctx, pvalue->additionalAssistanceDataReq);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* environmentCharacterisation */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "environmentCharacterisation");
-      rtxCtxtPushTypeName(ctx, "EnvironmentCharacterisation");
-      if (pvalue->environmentCharacterisation > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->environmentCharacterisation);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->environmentCharacterisation, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_fdd(rtxContext* ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_tdd(rtxContext* ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* cellAndChannelIdentity */
-   rtxCtxtPushElemName(ctx, "cellAndChannelIdentity");
-   stat = asn1PE_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo(rtxContext* ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ReferenceCellPosition(rtxContext* ctx, const ReferenceCellPosition* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ReferenceCellPosition");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "ellipsoidPoint");
-         if (pvalue->u.ellipsoidPoint == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_EllipsoidPoint(ctx, pvalue->u.ellipsoidPoint);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ellipsoidPointWithAltitude");
-         if (pvalue->u.ellipsoidPointWithAltitude == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_EllipsoidPointAltitude(ctx, pvalue->u.ellipsoidPointWithAltitude);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueBased(rtxContext* ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueBased* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* cellPosition */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellPosition");
-      stat = asn1PE_UMTS_ReferenceCellPosition(ctx, &pvalue->cellPosition);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* roundTripTime */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "roundTripTime");
-      if ((uint64_t)pvalue->roundTripTime > 32766u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->roundTripTime);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->roundTripTime, 0, 32766);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueAssisted(rtxContext* ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueAssisted* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode(rtxContext* ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "ueBased");
-         if (pvalue->u.ueBased == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueBased(ctx, pvalue->u.ueBased);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ueAssisted");
-         if (pvalue->u.ueAssisted == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueAssisted(ctx, pvalue->u.ueAssisted);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_fdd(rtxContext* ctx, const UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* ip-Spacing */
-   rtxCtxtPushElemName(ctx, "ip-Spacing");
-   rtxCtxtPushTypeName(ctx, "IP-Spacing");
-   if (pvalue->ip_Spacing > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->ip_Spacing);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ip_Spacing, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ip-Length */
-   rtxCtxtPushElemName(ctx, "ip-Length");
-   rtxCtxtPushTypeName(ctx, "IP-Length");
-   if (pvalue->ip_Length > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->ip_Length);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ip_Length, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ip-Offset */
-   rtxCtxtPushElemName(ctx, "ip-Offset");
-   if ((uint64_t)pvalue->ip_Offset > 9u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ip_Offset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ip_Offset, 0, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* seed */
-   rtxCtxtPushElemName(ctx, "seed");
-   if ((uint64_t)pvalue->seed > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->seed);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->seed, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_tdd(rtxContext* ctx, const UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ip-Spacing-TDD */
-   rtxCtxtPushElemName(ctx, "ip-Spacing-TDD");
-   rtxCtxtPushTypeName(ctx, "IP-Spacing-TDD");
-   if (pvalue->ip_Spacing_TDD > 4) {
-      rtxErrAddUIntParm(ctx, pvalue->ip_Spacing_TDD);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ip_Spacing_TDD, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ip-slot */
-   rtxCtxtPushElemName(ctx, "ip-slot");
-   if ((uint64_t)pvalue->ip_slot > 14u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ip_slot);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ip_slot, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ip-Start */
-   rtxCtxtPushElemName(ctx, "ip-Start");
-   if ((uint64_t)pvalue->ip_Start > 4095u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ip_Start);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ip_Start, 0, 4095);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ip-PCCPCG */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ip-PCCPCG");
-      rtxCtxtPushTypeName(ctx, "IP-PCCPCH-r4");
-      stat = rtxEncBit(ctx, pvalue->ip_PCCPCG);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo(rtxContext* ctx, const UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_IPDL_Parameters_r4(rtxContext* ctx, const UE_Positioning_IPDL_Parameters_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-IPDL-Parameters-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* burstModeParameters */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "burstModeParameters");
-      stat = asn1PE_UMTS_BurstModeParameters(ctx, &pvalue->burstModeParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4(rtxContext* ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-ReferenceCellInfo-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* sfn */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sfn");
-      if ((uint64_t)pvalue->sfn > 4095u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->sfn);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->sfn, 0, 4095);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* positioningMode */
-   rtxCtxtPushElemName(ctx, "positioningMode");
-   stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode(ctx, &pvalue->positioningMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-positioning-IPDL-Paremeters */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-IPDL-Paremeters");
-      stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters_r4(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_fdd(rtxContext* ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_tdd(rtxContext* ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* cellAndChannelIdentity */
-   rtxCtxtPushElemName(ctx, "cellAndChannelIdentity");
-   stat = asn1PE_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo(rtxContext* ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SFN_Offset_Validity(rtxContext* ctx, SFN_Offset_Validity value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "SFN-Offset-Validity");
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueBased(rtxContext* ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueBased* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat);
-   /* relativeNorth */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "relativeNorth");
-      if (pvalue->relativeNorth < -20000 || pvalue->relativeNorth > 20000) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->relativeNorth);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->relativeNorth, -20000, 20000);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* relativeEast */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "relativeEast");
-      if (pvalue->relativeEast < -20000 || pvalue->relativeEast > 20000) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->relativeEast);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->relativeEast, -20000, 20000);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* relativeAltitude */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "relativeAltitude");
-      if (pvalue->relativeAltitude < -4000 || pvalue->relativeAltitude > 4000) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->relativeAltitude);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->relativeAltitude, -4000, 4000);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* fineSFN-SFN */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "fineSFN-SFN");
-      rtxCtxtPushTypeName(ctx, "FineSFN-SFN");
-      if ((uint64_t)pvalue->fineSFN_SFN > 15u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->fineSFN_SFN);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->fineSFN_SFN, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* roundTripTime */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "roundTripTime");
-      if ((uint64_t)pvalue->roundTripTime > 32766u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->roundTripTime);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->roundTripTime, 0, 32766);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueAssisted(rtxContext* ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueAssisted* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode(rtxContext* ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "ueBased");
-         if (pvalue->u.ueBased == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueBased(ctx, pvalue->u.ueBased);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ueAssisted");
-         if (pvalue->u.ueAssisted == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueAssisted(ctx, pvalue->u.ueAssisted);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4(rtxContext* ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-IPDL-Paremeters */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-IPDL-Paremeters");
-      stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters_r4(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sfn-SFN-RelTimeDifference */
-   rtxCtxtPushElemName(ctx, "sfn-SFN-RelTimeDifference");
-   stat = asn1PE_UMTS_SFN_SFN_RelTimeDifference1(ctx, &pvalue->sfn_SFN_RelTimeDifference);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sfn-Offset-Validity */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "sfn-Offset-Validity");
-      rtxCtxtPushTypeName(ctx, "SFN-Offset-Validity");
-      if (pvalue->sfn_Offset_Validity > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->sfn_Offset_Validity);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->sfn_Offset_Validity, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sfn-SFN-Drift */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "sfn-SFN-Drift");
-      rtxCtxtPushTypeName(ctx, "SFN-SFN-Drift");
-      if (pvalue->sfn_SFN_Drift > 28) {
-         rtxErrAddUIntParm(ctx, pvalue->sfn_SFN_Drift);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->sfn_SFN_Drift, 0, 28);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* searchWindowSize */
-   rtxCtxtPushElemName(ctx, "searchWindowSize");
-   rtxCtxtPushTypeName(ctx, "OTDOA-SearchWindowSize");
-   if (pvalue->searchWindowSize > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->searchWindowSize);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->searchWindowSize, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* positioningMode */
-   rtxCtxtPushElemName(ctx, "positioningMode");
-   stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode(ctx, &pvalue->positioningMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellList_r4(rtxContext* ctx, const UE_Positioning_OTDOA_NeighbourCellList_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-NeighbourCellList-r4");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "UE-Positioning-OTDOA-NeighbourCellInfo-r4", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4(ctx, (const UE_Positioning_OTDOA_NeighbourCellInfo_r4*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_r4(rtxContext* ctx, const UE_Positioning_OTDOA_AssistanceData_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-AssistanceData-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-OTDOA-ReferenceCellInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-ReferenceCellInfo");
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4(ctx, &pvalue->ue_positioning_OTDOA_ReferenceCellInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-OTDOA-NeighbourCellList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-NeighbourCellList");
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellList_r4(ctx, &pvalue->ue_positioning_OTDOA_NeighbourCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_Measurement_r4(rtxContext* ctx, const UE_Positioning_Measurement_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-Measurement-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-ReportingQuantity */
-   rtxCtxtPushElemName(ctx, "ue-positioning-ReportingQuantity");
-   stat = asn1PE_UMTS_UE_Positioning_ReportingQuantity_r4(ctx, &pvalue->ue_positioning_ReportingQuantity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementValidity */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measurementValidity");
-      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PE_UMTS_UE_Positioning_ReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-positioning-OTDOA-AssistanceData */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-AssistanceData");
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_r4(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-AssistanceData */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-AssistanceData");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_AssistanceData(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_fdd(rtxContext* ctx, const UE_InternalReportingQuantity_r4_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* ue-RX-TX-TimeDifference */
-   rtxCtxtPushElemName(ctx, "ue-RX-TX-TimeDifference");
-   stat = rtxEncBit(ctx, pvalue->ue_RX_TX_TimeDifference);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd384(rtxContext* ctx, const UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd384* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* appliedTA */
-   rtxCtxtPushElemName(ctx, "appliedTA");
-   stat = rtxEncBit(ctx, pvalue->appliedTA);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* ctx, const UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* t-ADVinfo */
-   rtxCtxtPushElemName(ctx, "t-ADVinfo");
-   stat = rtxEncBit(ctx, pvalue->t_ADVinfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption(rtxContext* ctx, const UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd(rtxContext* ctx, const UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* tddOption */
-   rtxCtxtPushElemName(ctx, "tddOption");
-   stat = asn1PE_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo(rtxContext* ctx, const UE_InternalReportingQuantity_r4_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalReportingQuantity_r4(rtxContext* ctx, const UE_InternalReportingQuantity_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-InternalReportingQuantity-r4");
-   /* ue-TransmittedPower */
-   rtxCtxtPushElemName(ctx, "ue-TransmittedPower");
-   stat = rtxEncBit(ctx, pvalue->ue_TransmittedPower);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalMeasurement_r4(rtxContext* ctx, const UE_InternalMeasurement_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-InternalMeasurement-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ue-InternalMeasQuantity */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-InternalMeasQuantity");
-      stat = asn1PE_UMTS_UE_InternalMeasQuantity(ctx, &pvalue->ue_InternalMeasQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-InternalReportingQuantity */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-InternalReportingQuantity");
-      stat = asn1PE_UMTS_UE_InternalReportingQuantity_r4(ctx, &pvalue->ue_InternalReportingQuantity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PE_UMTS_UE_InternalReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementType_r4(rtxContext* ctx, const MeasurementType_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementType-r4");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 6) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "intraFrequencyMeasurement");
-         if (pvalue->u.intraFrequencyMeasurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_IntraFrequencyMeasurement_r4(ctx, pvalue->u.intraFrequencyMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "interFrequencyMeasurement");
-         if (pvalue->u.interFrequencyMeasurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterFrequencyMeasurement_r4(ctx, pvalue->u.interFrequencyMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "interRATMeasurement");
-         if (pvalue->u.interRATMeasurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterRATMeasurement_r4(ctx, pvalue->u.interRATMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "up-Measurement");
-         if (pvalue->u.up_Measurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_Measurement_r4(ctx, pvalue->u.up_Measurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "trafficVolumeMeasurement");
-         if (pvalue->u.trafficVolumeMeasurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "qualityMeasurement");
-         if (pvalue->u.qualityMeasurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_QualityMeasurement(ctx, pvalue->u.qualityMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "ue-InternalMeasurement");
-         if (pvalue->u.ue_InternalMeasurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_InternalMeasurement_r4(ctx, pvalue->u.ue_InternalMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCommand_r4_modify(rtxContext* ctx, const MeasurementCommand_r4_modify* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measurementType */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measurementType");
-      stat = asn1PE_UMTS_MeasurementType_r4(ctx, &pvalue->measurementType);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCommand_r4(rtxContext* ctx, const MeasurementCommand_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementCommand-r4");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "setup");
-         if (pvalue->u.setup == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementType_r4(ctx, pvalue->u.setup);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "modify");
-         if (pvalue->u.modify == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementCommand_r4_modify(ctx, pvalue->u.modify);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "release");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementType_r6(rtxContext* ctx, const MeasurementType_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementType-r6");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 6) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "intraFrequencyMeasurement");
-         if (pvalue->u.intraFrequencyMeasurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_IntraFrequencyMeasurement_r6(ctx, pvalue->u.intraFrequencyMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "interFrequencyMeasurement");
-         if (pvalue->u.interFrequencyMeasurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterFrequencyMeasurement_r6(ctx, pvalue->u.interFrequencyMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "interRATMeasurement");
-         if (pvalue->u.interRATMeasurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterRATMeasurement_r6(ctx, pvalue->u.interRATMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "up-Measurement");
-         if (pvalue->u.up_Measurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_Measurement_r4(ctx, pvalue->u.up_Measurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "trafficVolumeMeasurement");
-         if (pvalue->u.trafficVolumeMeasurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "qualityMeasurement");
-         if (pvalue->u.qualityMeasurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_QualityMeasurement(ctx, pvalue->u.qualityMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "ue-InternalMeasurement");
-         if (pvalue->u.ue_InternalMeasurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_InternalMeasurement_r4(ctx, pvalue->u.ue_InternalMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCommand_r6_modify(rtxContext* ctx, const MeasurementCommand_r6_modify* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measurementType */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measurementType");
-      stat = asn1PE_UMTS_MeasurementType_r6(ctx, &pvalue->measurementType);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCommand_r6(rtxContext* ctx, const MeasurementCommand_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementCommand-r6");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "setup");
-         if (pvalue->u.setup == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementType_r6(ctx, pvalue->u.setup);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "modify");
-         if (pvalue->u.modify == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementCommand_r6_modify(ctx, pvalue->u.modify);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "release");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_ReportingQuantity_r7_velocityRequested(rtxContext* ctx, UE_Positioning_ReportingQuantity_r7_velocityRequested value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_ReportingQuantity_r7(rtxContext* ctx, const UE_Positioning_ReportingQuantity_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-ReportingQuantity-r7");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementReport-v920ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 6) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 5) |
@@ -3908,1489 +18,688 @@ int asn1PE_UMTS_UE_Positioning_ReportingQuantity_r7(rtxContext* ctx, const UE_Po
       ((uint64_t)((pvalue->m >> 4) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 5) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 6) & 1u) << 0), 7);
-   RT_CHECK(ctx, stat);
-   /* methodType */
-   rtxCtxtPushElemName(ctx, "methodType");
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-MethodType");
-   if (pvalue->methodType > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->methodType);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->methodType, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* positioningMethod */
-   rtxCtxtPushElemName(ctx, "positioningMethod");
-   rtxCtxtPushTypeName(ctx, "PositioningMethod");
-   if (pvalue->positioningMethod > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->positioningMethod);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->positioningMethod, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* horizontalAccuracy */
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementReport-v920ext-IEs");
+   /* cSGProximityIndication */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "horizontalAccuracy");
-      stat = asn1PE_UMTS_UE_Positioning_Accuracy(ctx, pvalue->horizontalAccuracy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CSGProximityIndication(ctx, &pvalue->cSGProximityIndication);
+      RT_CHECK(ctx, stat, 0, "cSGProximityIndication", -1, "MeasurementReport-v920ext-IEs");
    }
-   /* verticalAccuracy */
+   /* measuredResults */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "verticalAccuracy");
-      stat = asn1PE_UMTS_UE_Positioning_Accuracy(ctx, pvalue->verticalAccuracy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_MeasuredResults_v920ext(ctx, &pvalue->measuredResults);
+      RT_CHECK(ctx, stat, 0, "measuredResults", -1, "MeasurementReport-v920ext-IEs");
    }
-   /* gps-TimingOfCellWanted */
-   rtxCtxtPushElemName(ctx, "gps-TimingOfCellWanted");
-   stat = rtxEncBit(ctx, pvalue->gps_TimingOfCellWanted);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* additionalAssistanceDataReq */
-   rtxCtxtPushElemName(ctx, "additionalAssistanceDataReq");
-   stat = rtxEncBit(ctx, pvalue->additionalAssistanceDataReq);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* environmentCharacterisation */
+   /* measuredResultsOnSecUlFreq */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "environmentCharacterisation");
-      rtxCtxtPushTypeName(ctx, "EnvironmentCharacterisation");
-      if (pvalue->environmentCharacterisation > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->environmentCharacterisation);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->environmentCharacterisation, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_MeasuredResultsOnSecUlFreq(ctx, &pvalue->measuredResultsOnSecUlFreq);
+      RT_CHECK(ctx, stat, 0, "measuredResultsOnSecUlFreq", -1, "MeasurementReport-v920ext-IEs");
    }
-   /* velocityRequested */
+   /* additionalMeasuredResults */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "velocityRequested");
-      if (pvalue->velocityRequested > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->velocityRequested);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->velocityRequested, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_MeasuredResultsList_v920ext(ctx, &pvalue->additionalMeasuredResults);
+      RT_CHECK(ctx, stat, 0, "additionalMeasuredResults", -1, "MeasurementReport-v920ext-IEs");
    }
-   /* gANSSPositioningMethods */
+   /* additionalMeasuredResultsOnSecUlFreq */
    if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "gANSSPositioningMethods");
-      RT_SET_SIZE(ctx, 16, 16);
-      stat = pe_BitString32(ctx, &pvalue->gANSSPositioningMethods, 16, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_MeasuredResultsListOnSecUlFreq(ctx, &pvalue->additionalMeasuredResultsOnSecUlFreq);
+      RT_CHECK(ctx, stat, 0, "additionalMeasuredResultsOnSecUlFreq", -1, "MeasurementReport-v920ext-IEs");
    }
-   /* gANSSTimingOfCellWanted */
+   /* eventResultsOnSecUlFreq */
    if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "gANSSTimingOfCellWanted");
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pe_BitString32(ctx, &pvalue->gANSSTimingOfCellWanted, 8, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_EventResultsOnSecUlFreq(ctx, &pvalue->eventResultsOnSecUlFreq);
+      RT_CHECK(ctx, stat, 0, "eventResultsOnSecUlFreq", -1, "MeasurementReport-v920ext-IEs");
    }
-   /* gANSSCarrierPhaseMeasurementRequested */
+   /* eutra-MeasuredResults */
    if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "gANSSCarrierPhaseMeasurementRequested");
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pe_BitString32(ctx, &pvalue->gANSSCarrierPhaseMeasurementRequested, 8, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ThresholdSFN_GPS_TOW_us(rtxContext* ctx, ThresholdSFN_GPS_TOW_us value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ThresholdSFN-GPS-TOW-us");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ThresholdSFN_GANSS_TOW(rtxContext* ctx, ThresholdSFN_GANSS_TOW value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "ThresholdSFN-GANSS-TOW");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_EventSpecificInfo_r7(rtxContext* ctx, const UE_Positioning_EventSpecificInfo_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-EventSpecificInfo-r7");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 3) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "e7a");
-         rtxCtxtPushTypeName(ctx, "ThresholdPositionChange");
-         if (pvalue->u.e7a > 15) {
-            rtxErrAddUIntParm(ctx, pvalue->u.e7a);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.e7a, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "e7b");
-         rtxCtxtPushTypeName(ctx, "ThresholdSFN-SFN-Change");
-         if (pvalue->u.e7b > 15) {
-            rtxErrAddUIntParm(ctx, pvalue->u.e7b);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.e7b, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "e7c");
-         rtxCtxtPushTypeName(ctx, "ThresholdSFN-GPS-TOW-us");
-         if (pvalue->u.e7c > 7) {
-            rtxErrAddUIntParm(ctx, pvalue->u.e7c);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.e7c, 0, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "e7d");
-         rtxCtxtPushTypeName(ctx, "ThresholdSFN-GANSS-TOW");
-         if (pvalue->u.e7d > 7) {
-            rtxErrAddUIntParm(ctx, pvalue->u.e7d);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.e7d, 0, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_EventParam_r7(rtxContext* ctx, const UE_Positioning_EventParam_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-EventParam-r7");
-   /* reportingAmount */
-   rtxCtxtPushElemName(ctx, "reportingAmount");
-   rtxCtxtPushTypeName(ctx, "ReportingAmount");
-   if (pvalue->reportingAmount > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->reportingAmount);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingAmount, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* reportFirstFix */
-   rtxCtxtPushElemName(ctx, "reportFirstFix");
-   stat = rtxEncBit(ctx, pvalue->reportFirstFix);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementInterval */
-   rtxCtxtPushElemName(ctx, "measurementInterval");
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-MeasurementInterval");
-   if (pvalue->measurementInterval > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->measurementInterval);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->measurementInterval, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* eventSpecificInfo */
-   rtxCtxtPushElemName(ctx, "eventSpecificInfo");
-   stat = asn1PE_UMTS_UE_Positioning_EventSpecificInfo_r7(ctx, &pvalue->eventSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_EventParamList_r7(rtxContext* ctx, const UE_Positioning_EventParamList_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-EventParamList-r7");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "UE-Positioning-EventParam-r7", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_UE_Positioning_EventParam_r7(ctx, (const UE_Positioning_EventParam_r7*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_ReportCriteria_r7(rtxContext* ctx, const UE_Positioning_ReportCriteria_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-ReportCriteria-r7");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "ue-positioning-ReportingCriteria");
-         if (pvalue->u.ue_positioning_ReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_EventParamList_r7(ctx, pvalue->u.ue_positioning_ReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "periodicalReportingCriteria");
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "noReporting");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_fdd(rtxContext* ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_tdd(rtxContext* ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* cellAndChannelIdentity */
-   rtxCtxtPushElemName(ctx, "cellAndChannelIdentity");
-   stat = asn1PE_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo(rtxContext* ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
+      stat = asn1PE_UMTS_EUTRA_MeasuredResults_v920ext(ctx, &pvalue->eutra_MeasuredResults);
+      RT_CHECK(ctx, stat, 0, "eutra-MeasuredResults", -1, "MeasurementReport-v920ext-IEs");
    }
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueBased(rtxContext* ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueBased* pvalue)
+int asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* cellPosition */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementReport-v920ext */
+   stat = asn1PE_UMTS_MeasurementReport_v920ext_IEs(ctx, &pvalue->measurementReport_v920ext);
+   RT_CHECK(ctx, stat, 0, "measurementReport-v920ext", -1, 0);
+   /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellPosition");
-      stat = asn1PE_UMTS_ReferenceCellPosition(ctx, &pvalue->cellPosition);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* roundTripTime */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "roundTripTime");
-      if ((uint64_t)pvalue->roundTripTime > 32766u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->roundTripTime);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->roundTripTime, 0, 32766);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* roundTripTimeExtension */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "roundTripTimeExtension");
-      if ((uint64_t)pvalue->roundTripTimeExtension > 70274u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->roundTripTimeExtension);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->roundTripTimeExtension, 0, 70274);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueAssisted(rtxContext* ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueAssisted* pvalue)
+int asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode(rtxContext* ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "ueBased");
-         if (pvalue->u.ueBased == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueBased(ctx, pvalue->u.ueBased);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ueAssisted");
-         if (pvalue->u.ueAssisted == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueAssisted(ctx, pvalue->u.ueAssisted);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7(rtxContext* ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-ReferenceCellInfo-r7");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* sfn */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementReport-v860ext */
+   stat = asn1PE_UMTS_MeasurementReport_v860ext_IEs(ctx, &pvalue->measurementReport_v860ext);
+   RT_CHECK(ctx, stat, 0, "measurementReport-v860ext", -1, 0);
+   /* v920NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sfn");
-      if ((uint64_t)pvalue->sfn > 4095u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->sfn);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->sfn, 0, 4095);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* positioningMode */
-   rtxCtxtPushElemName(ctx, "positioningMode");
-   stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode(ctx, &pvalue->positioningMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-positioning-IPDL-Paremeters */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-IPDL-Paremeters");
-      stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters_r4(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_fdd(rtxContext* ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_tdd(rtxContext* ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* cellAndChannelIdentity */
-   rtxCtxtPushElemName(ctx, "cellAndChannelIdentity");
-   stat = asn1PE_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo(rtxContext* ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
+      stat = asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueBased(rtxContext* ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueBased* pvalue)
+int asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat);
-   /* relativeNorth */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementReport-v770ext */
+   stat = asn1PE_UMTS_MeasurementReport_v770ext_IEs(ctx, &pvalue->measurementReport_v770ext);
+   RT_CHECK(ctx, stat, 0, "measurementReport-v770ext", -1, 0);
+   /* v860NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "relativeNorth");
-      if (pvalue->relativeNorth < -20000 || pvalue->relativeNorth > 20000) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->relativeNorth);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->relativeNorth, -20000, 20000);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* relativeEast */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "relativeEast");
-      if (pvalue->relativeEast < -20000 || pvalue->relativeEast > 20000) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->relativeEast);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->relativeEast, -20000, 20000);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* relativeAltitude */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "relativeAltitude");
-      if (pvalue->relativeAltitude < -4000 || pvalue->relativeAltitude > 4000) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->relativeAltitude);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->relativeAltitude, -4000, 4000);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* fineSFN-SFN */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "fineSFN-SFN");
-      rtxCtxtPushTypeName(ctx, "FineSFN-SFN");
-      if ((uint64_t)pvalue->fineSFN_SFN > 15u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->fineSFN_SFN);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->fineSFN_SFN, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* roundTripTime */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "roundTripTime");
-      if ((uint64_t)pvalue->roundTripTime > 32766u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->roundTripTime);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->roundTripTime, 0, 32766);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* roundTripTimeExtension */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "roundTripTimeExtension");
-      if ((uint64_t)pvalue->roundTripTimeExtension > 70274u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->roundTripTimeExtension);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->roundTripTimeExtension, 0, 70274);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueAssisted(rtxContext* ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueAssisted* pvalue)
+int asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode(rtxContext* ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "ueBased");
-         if (pvalue->u.ueBased == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueBased(ctx, pvalue->u.ueBased);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "ueAssisted");
-         if (pvalue->u.ueAssisted == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueAssisted(ctx, pvalue->u.ueAssisted);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7(rtxContext* ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementReport-v690ext */
+   stat = asn1PE_UMTS_MeasurementReport_v690ext_IEs(ctx, &pvalue->measurementReport_v690ext);
+   RT_CHECK(ctx, stat, 0, "measurementReport-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
    }
-   /* ue-positioning-IPDL-Paremeters */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-IPDL-Paremeters");
-      stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters_r4(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sfn-SFN-RelTimeDifference */
-   rtxCtxtPushElemName(ctx, "sfn-SFN-RelTimeDifference");
-   stat = asn1PE_UMTS_SFN_SFN_RelTimeDifference1(ctx, &pvalue->sfn_SFN_RelTimeDifference);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sfn-Offset-Validity */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "sfn-Offset-Validity");
-      rtxCtxtPushTypeName(ctx, "SFN-Offset-Validity");
-      if (pvalue->sfn_Offset_Validity > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->sfn_Offset_Validity);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->sfn_Offset_Validity, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sfn-SFN-Drift */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "sfn-SFN-Drift");
-      rtxCtxtPushTypeName(ctx, "SFN-SFN-Drift");
-      if (pvalue->sfn_SFN_Drift > 28) {
-         rtxErrAddUIntParm(ctx, pvalue->sfn_SFN_Drift);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->sfn_SFN_Drift, 0, 28);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* searchWindowSize */
-   rtxCtxtPushElemName(ctx, "searchWindowSize");
-   rtxCtxtPushTypeName(ctx, "OTDOA-SearchWindowSize");
-   if (pvalue->searchWindowSize > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->searchWindowSize);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->searchWindowSize, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* positioningMode */
-   rtxCtxtPushElemName(ctx, "positioningMode");
-   stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode(ctx, &pvalue->positioningMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellList_r7(rtxContext* ctx, const UE_Positioning_OTDOA_NeighbourCellList_r7* pvalue)
+int asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-NeighbourCellList-r7");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "UE-Positioning-OTDOA-NeighbourCellInfo-r7", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7(ctx, (const UE_Positioning_OTDOA_NeighbourCellInfo_r7*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementReport-v5b0ext */
+   stat = asn1PE_UMTS_MeasurementReport_v5b0ext_IEs(ctx, &pvalue->measurementReport_v5b0ext);
+   RT_CHECK(ctx, stat, 0, "measurementReport-v5b0ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_r7(rtxContext* ctx, const UE_Positioning_OTDOA_AssistanceData_r7* pvalue)
+int asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-AssistanceData-r7");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementReport-v590ext */
+   stat = asn1PE_UMTS_MeasurementReport_v590ext_IEs(ctx, &pvalue->measurementReport_v590ext);
+   RT_CHECK(ctx, stat, 0, "measurementReport-v590ext", -1, 0);
+   /* v5b0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions(ctx, &pvalue->v5b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v5b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementReport-v4b0ext */
+   stat = asn1PE_UMTS_MeasurementReport_v4b0ext_IEs(ctx, &pvalue->measurementReport_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "measurementReport-v4b0ext", -1, 0);
+   /* v590NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-OTDOA-ReferenceCellInfo */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementReport-r3-add-ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-ReferenceCellInfo");
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7(ctx, &pvalue->ue_positioning_OTDOA_ReferenceCellInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->measurementReport_r3_add_ext.numbits, pvalue->measurementReport_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "measurementReport-r3-add-ext", -1, 0);
    }
-   /* ue-positioning-OTDOA-NeighbourCellList */
+   /* v4b0NonCriticalExtensions */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-NeighbourCellList");
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellList_r7(ctx, &pvalue->ue_positioning_OTDOA_NeighbourCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_GPS_ReferenceTime_r7(rtxContext* ctx, const UE_Positioning_GPS_ReferenceTime_r7* pvalue)
+int asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MeasurementReport_v390nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-ReferenceTime-r7");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* measurementReport-v390ext */
+   stat = asn1PE_UMTS_MeasurementReport_v390ext(ctx, &pvalue->measurementReport_v390ext);
+   RT_CHECK(ctx, stat, 0, "measurementReport-v390ext", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementReport(rtxContext* RT_RESTRICT ctx, const MeasurementReport* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementReport");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat);
-   /* gps-Week */
-   rtxCtxtPushElemName(ctx, "gps-Week");
-   if ((uint64_t)pvalue->gps_Week > 1023u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->gps_Week);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementReport");
+   /* measurementIdentity */
+   if ((uint64_t)(pvalue->measurementIdentity - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "MeasurementIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->measurementIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementIdentity", "measurementIdentity", -1, "MeasurementReport");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->gps_Week, 0, 1023);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gps-tow-1msec */
-   rtxCtxtPushElemName(ctx, "gps-tow-1msec");
-   rtxCtxtPushTypeName(ctx, "GPS-TOW-1msec");
-   if ((uint64_t)pvalue->gps_tow_1msec > 604799999u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->gps_tow_1msec);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->gps_tow_1msec, 0, 604799999);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* utran-GPSReferenceTime */
+   stat = pe_ConsUInt64(ctx, pvalue->measurementIdentity, 1, 16);
+   RT_CHECK(ctx, stat, "MeasurementIdentity", "measurementIdentity", -1, "MeasurementReport");
+   /* measuredResults */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "utran-GPSReferenceTime");
-      stat = asn1PE_UMTS_UTRAN_GPSReferenceTime(ctx, &pvalue->utran_GPSReferenceTime);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_MeasuredResults(ctx, &pvalue->measuredResults);
+      RT_CHECK(ctx, stat, 0, "measuredResults", -1, "MeasurementReport");
    }
-   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
+   /* measuredResultsOnRACH */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-GPS-ReferenceTimeUncertainty");
-      rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-ReferenceTimeUncertainty");
-      if ((uint64_t)pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty > 127u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_MeasuredResultsOnRACH(ctx, &pvalue->measuredResultsOnRACH);
+      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACH", -1, "MeasurementReport");
    }
-   /* sfn-tow-Uncertainty */
+   /* additionalMeasuredResults */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "sfn-tow-Uncertainty");
-      rtxCtxtPushTypeName(ctx, "SFN-TOW-Uncertainty");
-      if (pvalue->sfn_tow_Uncertainty > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->sfn_tow_Uncertainty);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->sfn_tow_Uncertainty, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_MeasuredResultsList(ctx, &pvalue->additionalMeasuredResults);
+      RT_CHECK(ctx, stat, 0, "additionalMeasuredResults", -1, "MeasurementReport");
    }
-   /* utran-GPS-DriftRate */
+   /* eventResults */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "utran-GPS-DriftRate");
-      rtxCtxtPushTypeName(ctx, "UTRAN-GPS-DriftRate");
-      if (pvalue->utran_GPS_DriftRate > 14) {
-         rtxErrAddUIntParm(ctx, pvalue->utran_GPS_DriftRate);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->utran_GPS_DriftRate, 0, 14);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_EventResults(ctx, &pvalue->eventResults);
+      RT_CHECK(ctx, stat, 0, "eventResults", -1, "MeasurementReport");
    }
-   /* gps-TOW-AssistList */
+   /* v390nonCriticalExtensions */
    if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "gps-TOW-AssistList");
-      stat = asn1PE_UMTS_GPS_TOW_AssistList(ctx, &pvalue->gps_TOW_AssistList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions(ctx, &pvalue->v390nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v390nonCriticalExtensions", -1, "MeasurementReport");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_GPS_AcquisitionAssistance_r7(rtxContext* ctx, const UE_Positioning_GPS_AcquisitionAssistance_r7* pvalue)
+int asn1PE_UMTS_PagingType1_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const PagingType1_v590ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-AcquisitionAssistance-r7");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PagingType1-v590ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PagingType1-v590ext-IEs");
+   /* pagingRecord2List */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PagingRecord2List_r5(ctx, &pvalue->pagingRecord2List);
+      RT_CHECK(ctx, stat, 0, "pagingRecord2List", -1, "PagingType1-v590ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PagingType1_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const PagingType1_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PagingType1-v860ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PagingType1-v860ext-IEs");
+   /* etws-Information */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ETWS_Information(ctx, &pvalue->etws_Information);
+      RT_CHECK(ctx, stat, 0, "etws-Information", -1, "PagingType1-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* pagingType1-v860ext */
+   stat = asn1PE_UMTS_PagingType1_v860ext_IEs(ctx, &pvalue->pagingType1_v860ext);
+   RT_CHECK(ctx, stat, 0, "pagingType1-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* pagingType1-v590ext */
+   stat = asn1PE_UMTS_PagingType1_v590ext_IEs(ctx, &pvalue->pagingType1_v590ext);
+   RT_CHECK(ctx, stat, 0, "pagingType1-v590ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PagingType1_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PagingType1_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* gps-ReferenceTime */
-   rtxCtxtPushElemName(ctx, "gps-ReferenceTime");
-   rtxCtxtPushTypeName(ctx, "GPS-TOW-1msec");
-   if ((uint64_t)pvalue->gps_ReferenceTime > 604799999u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->gps_ReferenceTime);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->gps_ReferenceTime, 0, 604799999);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* utran-GPSReferenceTime */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* pagingType1-r3-add-ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "utran-GPSReferenceTime");
-      stat = asn1PE_UMTS_UTRAN_GPSReferenceTime(ctx, &pvalue->utran_GPSReferenceTime);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->pagingType1_r3_add_ext.numbits, pvalue->pagingType1_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "pagingType1-r3-add-ext", -1, 0);
    }
-   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
+   /* v590NonCriticalExtensions */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-GPS-ReferenceTimeUncertainty");
-      rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-ReferenceTimeUncertainty");
-      if ((uint64_t)pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty > 127u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
    }
-   /* satelliteInformationList */
-   rtxCtxtPushElemName(ctx, "satelliteInformationList");
-   stat = asn1PE_UMTS_AcquisitionSatInfoList(ctx, &pvalue->satelliteInformationList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_GPS_AssistanceData_r7(rtxContext* ctx, const UE_Positioning_GPS_AssistanceData_r7* pvalue)
+int asn1PE_UMTS_PagingType1(rtxContext* RT_RESTRICT ctx, const PagingType1* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-AssistanceData-r7");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PagingType1");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 0), 9);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GPS-ReferenceTime */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PagingType1");
+   /* pagingRecordList */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-ReferenceTime");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_ReferenceTime_r7(ctx, &pvalue->ue_positioning_GPS_ReferenceTime);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_PagingRecordList(ctx, &pvalue->pagingRecordList);
+      RT_CHECK(ctx, stat, 0, "pagingRecordList", -1, "PagingType1");
    }
-   /* ue-positioning-GPS-ReferenceLocation */
+   /* bcch-ModificationInfo */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-ReferenceLocation");
-      stat = asn1PE_UMTS_ReferenceLocation(ctx, &pvalue->ue_positioning_GPS_ReferenceLocation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_BCCH_ModificationInfo(ctx, &pvalue->bcch_ModificationInfo);
+      RT_CHECK(ctx, stat, 0, "bcch-ModificationInfo", -1, "PagingType1");
    }
-   /* ue-positioning-GPS-DGPS-Corrections */
+   /* laterNonCriticalExtensions */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-DGPS-Corrections");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_DGPS_Corrections(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_PagingType1_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "PagingType1");
    }
-   /* ue-positioning-GPS-NavigationModel */
+   return 0;
+}
+
+int asn1PE_UMTS_PagingType2_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PagingType2_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PagingType2_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PagingType2_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* pagingType2-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->pagingType2_r3_add_ext.numbits, pvalue->pagingType2_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "pagingType2-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_PagingType2_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PagingType2(rtxContext* RT_RESTRICT ctx, const PagingType2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PagingType2");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PagingType2");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "PagingType2");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "PagingType2");
+   /* pagingCause */
+   if (pvalue->pagingCause > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->pagingCause);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "PagingCause", "pagingCause", -1, "PagingType2");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->pagingCause, 0, 7);
+   RT_CHECK(ctx, stat, "PagingCause", "pagingCause", -1, "PagingType2");
+   /* cn-DomainIdentity */
+   if (pvalue->cn_DomainIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "PagingType2");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "PagingType2");
+   /* pagingRecordTypeID */
+   if (pvalue->pagingRecordTypeID > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->pagingRecordTypeID);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "PagingRecordTypeID", "pagingRecordTypeID", -1, "PagingType2");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->pagingRecordTypeID, 0, 3);
+   RT_CHECK(ctx, stat, "PagingRecordTypeID", "pagingRecordTypeID", -1, "PagingType2");
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PagingType2_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "PagingType2");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_r3_IEs(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelReconfiguration-r3-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 0), 14);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "PhysicalChannelReconfiguration-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "PhysicalChannelReconfiguration-r3-IEs");
+   /* integrityProtectionModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "PhysicalChannelReconfiguration-r3-IEs");
+   }
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "PhysicalChannelReconfiguration-r3-IEs");
+   }
+   /* activationTime */
+   if (pvalue->m & 0x4u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "PhysicalChannelReconfiguration-r3-IEs");
+   }
+   /* new-U-RNTI */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-NavigationModel");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_NavigationModel(ctx, &pvalue->ue_positioning_GPS_NavigationModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "PhysicalChannelReconfiguration-r3-IEs");
    }
-   /* ue-positioning-GPS-IonosphericModel */
+   /* new-C-RNTI */
    if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-IonosphericModel");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_IonosphericModel(ctx, &pvalue->ue_positioning_GPS_IonosphericModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "PhysicalChannelReconfiguration-r3-IEs");
    }
-   /* ue-positioning-GPS-UTC-Model */
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "PhysicalChannelReconfiguration-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "PhysicalChannelReconfiguration-r3-IEs");
+   /* utran-DRX-CycleLengthCoeff */
    if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-UTC-Model");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_UTC_Model(ctx, &pvalue->ue_positioning_GPS_UTC_Model);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
+         rtxErrAddStrParm(ctx, "UTRAN-DRX-CycleLengthCoefficient");
+         rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "PhysicalChannelReconfiguration-r3-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "PhysicalChannelReconfiguration-r3-IEs");
    }
-   /* ue-positioning-GPS-Almanac */
+   /* cn-InformationInfo */
    if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-Almanac");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_Almanac(ctx, &pvalue->ue_positioning_GPS_Almanac);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "PhysicalChannelReconfiguration-r3-IEs");
    }
-   /* ue-positioning-GPS-AcquisitionAssistance */
+   /* ura-Identity */
    if (pvalue->m & 0x80u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-AcquisitionAssistance");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_AcquisitionAssistance_r7(ctx, &pvalue->ue_positioning_GPS_AcquisitionAssistance);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "PhysicalChannelReconfiguration-r3-IEs");
    }
-   /* ue-positioning-GPS-Real-timeIntegrity */
+   /* dl-CounterSynchronisationInfo */
    if (pvalue->m & 0x100u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-Real-timeIntegrity");
-      stat = asn1PE_UMTS_BadSatList(ctx, &pvalue->ue_positioning_GPS_Real_timeIntegrity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "PhysicalChannelReconfiguration-r3-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_fdd(rtxContext* ctx, const UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* primary-CPICH-Info */
-   rtxCtxtPushElemName(ctx, "primary-CPICH-Info");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primary_CPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_tdd(rtxContext* ctx, const UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* cellParameters */
-   rtxCtxtPushElemName(ctx, "cellParameters");
-   rtxCtxtPushTypeName(ctx, "CellParametersID");
-   if ((uint64_t)pvalue->cellParameters > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->cellParameters);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+   /* frequencyInfo */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "PhysicalChannelReconfiguration-r3-IEs");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->cellParameters, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode(rtxContext* ctx, const UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime(rtxContext* ctx, const UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* timingOfCellFrames */
-   rtxCtxtPushElemName(ctx, "timingOfCellFrames");
-   if ((uint64_t)pvalue->timingOfCellFrames > 3999999u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->timingOfCellFrames);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timingOfCellFrames, 0, 3999999);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* mode */
-   rtxCtxtPushElemName(ctx, "mode");
-   stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode(ctx, &pvalue->mode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* referenceSfn */
-   rtxCtxtPushElemName(ctx, "referenceSfn");
-   if ((uint64_t)pvalue->referenceSfn > 4095u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->referenceSfn);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->referenceSfn, 0, 4095);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Tutran_Ganss_DriftRate(rtxContext* ctx, Tutran_Ganss_DriftRate value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "Tutran-Ganss-DriftRate");
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime(rtxContext* ctx, const UE_Positioning_GANSS_ReferenceTime* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-ReferenceTime");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat);
-   /* ganssDay */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ganssDay");
-      if ((uint64_t)pvalue->ganssDay > 8191u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->ganssDay);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x400u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "PhysicalChannelReconfiguration-r3-IEs");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssDay, 0, 8191);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "PhysicalChannelReconfiguration-r3-IEs");
    }
-   /* ganssTod */
-   rtxCtxtPushElemName(ctx, "ganssTod");
-   if ((uint64_t)pvalue->ganssTod > 86399u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ganssTod);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+   /* ul-ChannelRequirement */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_UL_ChannelRequirementWithCPCH_SetID(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "PhysicalChannelReconfiguration-r3-IEs");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->ganssTod, 0, 86399);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ganssTodUncertainty */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ganssTodUncertainty");
-      if ((uint64_t)pvalue->ganssTodUncertainty > 127u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->ganssTodUncertainty);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssTodUncertainty, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "PhysicalChannelReconfiguration-r3-IEs");
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_DL_CommonInformation(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "PhysicalChannelReconfiguration-r3-IEs");
    }
-   /* ganssTimeId */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "ganssTimeId");
-      if ((uint64_t)pvalue->ganssTimeId > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->ganssTimeId);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssTimeId, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "PhysicalChannelReconfiguration-r3-IEs");
    }
-   /* utran-ganssreferenceTime */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "utran-ganssreferenceTime");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime(ctx, &pvalue->utran_ganssreferenceTime);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tutran-ganss-driftRate */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "tutran-ganss-driftRate");
-      rtxCtxtPushTypeName(ctx, "Tutran-Ganss-DriftRate");
-      if (pvalue->tutran_ganss_driftRate > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->tutran_ganss_driftRate);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tutran_ganss_driftRate, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_ReferenceLocationGANSS(rtxContext* ctx, const ReferenceLocationGANSS* pvalue)
+int asn1PE_UMTS_PhysicalChannelReconfiguration_v3a0ext(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_v3a0ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ReferenceLocationGANSS");
-   /* ellipsoidPointAltitudeEllipsoide */
-   rtxCtxtPushElemName(ctx, "ellipsoidPointAltitudeEllipsoide");
-   stat = asn1PE_UMTS_EllipsoidPointAltitudeEllipsoide(ctx, &pvalue->ellipsoidPointAltitudeEllipsoide);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_IonosphericModel(rtxContext* ctx, const UE_Positioning_GANSS_IonosphericModel* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-IonosphericModel");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelReconfiguration-v3a0ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* alpha-zero-ionos */
-   rtxCtxtPushElemName(ctx, "alpha-zero-ionos");
-   RT_SET_SIZE(ctx, 12, 12);
-   stat = pe_BitString32(ctx, &pvalue->alpha_zero_ionos, 12, 12);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* alpha-one-ionos */
-   rtxCtxtPushElemName(ctx, "alpha-one-ionos");
-   RT_SET_SIZE(ctx, 12, 12);
-   stat = pe_BitString32(ctx, &pvalue->alpha_one_ionos, 12, 12);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* alpha-two-ionos */
-   rtxCtxtPushElemName(ctx, "alpha-two-ionos");
-   RT_SET_SIZE(ctx, 12, 12);
-   stat = pe_BitString32(ctx, &pvalue->alpha_two_ionos, 12, 12);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gANSS-storm-flags */
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-v3a0ext");
+   /* new-DSCH-RNTI */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "gANSS-storm-flags");
-      stat = asn1PE_UMTS_GANSS_Storm_Flag(ctx, &pvalue->gANSS_storm_flags);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "PhysicalChannelReconfiguration-v3a0ext");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_GANSS_AssistanceData(rtxContext* ctx, const UE_Positioning_GANSS_AssistanceData* pvalue)
+int asn1PE_UMTS_PhysicalChannelReconfiguration_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_v4b0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-AssistanceData");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelReconfiguration-v4b0ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GANSS-ReferenceTime */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-v4b0ext-IEs");
+   /* dummy */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-ReferenceTime");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime(ctx, &pvalue->ue_positioning_GANSS_ReferenceTime);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if (pvalue->dummy > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->dummy);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "SSDT-UL", "dummy", -1, "PhysicalChannelReconfiguration-v4b0ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dummy, 0, 1);
+      RT_CHECK(ctx, stat, "SSDT-UL", "dummy", -1, "PhysicalChannelReconfiguration-v4b0ext-IEs");
    }
-   /* uePositioningGanssReferencePosition */
+   /* cell-id-PerRL-List */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGanssReferencePosition");
-      stat = asn1PE_UMTS_ReferenceLocationGANSS(ctx, &pvalue->uePositioningGanssReferencePosition);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CellIdentity_PerRL_List(ctx, &pvalue->cell_id_PerRL_List);
+      RT_CHECK(ctx, stat, 0, "cell-id-PerRL-List", -1, "PhysicalChannelReconfiguration-v4b0ext-IEs");
    }
-   /* uePositioningGanssIonosphericModel */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGanssIonosphericModel");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_IonosphericModel(ctx, &pvalue->uePositioningGanssIonosphericModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssGenericDataList */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "ganssGenericDataList");
-      stat = asn1PE_UMTS_GANSSGenericDataList(ctx, &pvalue->ganssGenericDataList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_Measurement_r7(rtxContext* ctx, const UE_Positioning_Measurement_r7* pvalue)
+int asn1PE_UMTS_PhysicalChannelReconfiguration_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_v590ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-Measurement-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-ReportingQuantity */
-   rtxCtxtPushElemName(ctx, "ue-positioning-ReportingQuantity");
-   stat = asn1PE_UMTS_UE_Positioning_ReportingQuantity_r7(ctx, &pvalue->ue_positioning_ReportingQuantity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementValidity */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measurementValidity");
-      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PE_UMTS_UE_Positioning_ReportCriteria_r7(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-positioning-OTDOA-AssistanceData */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-AssistanceData");
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_r7(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-AssistanceData */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-AssistanceData");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_AssistanceData_r7(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GANSS-AssistanceData */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-AssistanceData");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AssistanceData(ctx, &pvalue->ue_positioning_GANSS_AssistanceData);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementType_r7(rtxContext* ctx, const MeasurementType_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementType-r7");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 6) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "intraFrequencyMeasurement");
-         if (pvalue->u.intraFrequencyMeasurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_IntraFrequencyMeasurement_r7(ctx, pvalue->u.intraFrequencyMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "interFrequencyMeasurement");
-         if (pvalue->u.interFrequencyMeasurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterFrequencyMeasurement_r7(ctx, pvalue->u.interFrequencyMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "interRATMeasurement");
-         if (pvalue->u.interRATMeasurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterRATMeasurement_r6(ctx, pvalue->u.interRATMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "up-Measurement");
-         if (pvalue->u.up_Measurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_Measurement_r7(ctx, pvalue->u.up_Measurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "trafficVolumeMeasurement");
-         if (pvalue->u.trafficVolumeMeasurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "qualityMeasurement");
-         if (pvalue->u.qualityMeasurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_QualityMeasurement(ctx, pvalue->u.qualityMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "ue-InternalMeasurement");
-         if (pvalue->u.ue_InternalMeasurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_InternalMeasurement_r4(ctx, pvalue->u.ue_InternalMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCommand_r7_modify(rtxContext* ctx, const MeasurementCommand_r7_modify* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelReconfiguration-v590ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measurementType */
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-v590ext-IEs");
+   /* dl-TPC-PowerOffsetPerRL-List */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measurementType");
-      stat = asn1PE_UMTS_MeasurementType_r7(ctx, &pvalue->measurementType);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_DL_TPC_PowerOffsetPerRL_List(ctx, &pvalue->dl_TPC_PowerOffsetPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-TPC-PowerOffsetPerRL-List", -1, "PhysicalChannelReconfiguration-v590ext-IEs");
    }
    return 0;
 }
 
-int asn1PE_UMTS_MeasurementCommand_r7(rtxContext* ctx, const MeasurementCommand_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementCommand-r7");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "setup");
-         if (pvalue->u.setup == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementType_r7(ctx, pvalue->u.setup);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "modify");
-         if (pvalue->u.modify == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementCommand_r7_modify(ctx, pvalue->u.modify);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "release");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_ReportingQuantity_r8_velocityRequested(rtxContext* ctx, UE_Positioning_ReportingQuantity_r8_velocityRequested value)
+int asn1PE_UMTS_PhysicalChannelReconfiguration_v690ext_IEs_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_v690ext_IEs_postVerificationPeriod value)
 {
    int stat = 0;
    if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_ReportingQuantity_r8(rtxContext* ctx, const UE_Positioning_ReportingQuantity_r8* pvalue)
+int asn1PE_UMTS_PhysicalChannelReconfiguration_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_v690ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-ReportingQuantity-r8");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelReconfiguration-v690ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 7) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 6) |
@@ -5400,1340 +709,265 @@ int asn1PE_UMTS_UE_Positioning_ReportingQuantity_r8(rtxContext* ctx, const UE_Po
       ((uint64_t)((pvalue->m >> 5) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 6) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 7) & 1u) << 0), 8);
-   RT_CHECK(ctx, stat);
-   /* methodType */
-   rtxCtxtPushElemName(ctx, "methodType");
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-MethodType");
-   if (pvalue->methodType > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->methodType);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->methodType, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* positioningMethod */
-   rtxCtxtPushElemName(ctx, "positioningMethod");
-   rtxCtxtPushTypeName(ctx, "PositioningMethod");
-   if (pvalue->positioningMethod > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->positioningMethod);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->positioningMethod, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* horizontalAccuracy */
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-v690ext-IEs");
+   /* delayRestrictionFlag */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "horizontalAccuracy");
-      stat = asn1PE_UMTS_UE_Positioning_Accuracy(ctx, pvalue->horizontalAccuracy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if (pvalue->delayRestrictionFlag > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->delayRestrictionFlag);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->delayRestrictionFlag, 0, 0);
+      RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
    }
-   /* verticalAccuracy */
+   /* primary-plmn-Identity */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "verticalAccuracy");
-      stat = asn1PE_UMTS_UE_Positioning_Accuracy(ctx, pvalue->verticalAccuracy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
+      RT_CHECK(ctx, stat, 0, "primary-plmn-Identity", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
    }
-   /* gps-TimingOfCellWanted */
-   rtxCtxtPushElemName(ctx, "gps-TimingOfCellWanted");
-   stat = rtxEncBit(ctx, pvalue->gps_TimingOfCellWanted);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* additionalAssistanceDataReq */
-   rtxCtxtPushElemName(ctx, "additionalAssistanceDataReq");
-   stat = rtxEncBit(ctx, pvalue->additionalAssistanceDataReq);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* environmentCharacterisation */
+   /* harq-Preamble-Mode */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "environmentCharacterisation");
-      rtxCtxtPushTypeName(ctx, "EnvironmentCharacterisation");
-      if (pvalue->environmentCharacterisation > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->environmentCharacterisation);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+      if ((uint64_t)pvalue->harq_Preamble_Mode > 1u) {
+         rtxErrAddStrParm(ctx, "HARQ-Preamble-Mode");
+         rtxErrAddUIntParm(ctx, pvalue->harq_Preamble_Mode);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->environmentCharacterisation, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->harq_Preamble_Mode, 0, 1);
+      RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
    }
-   /* velocityRequested */
+   /* beaconPLEst */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "velocityRequested");
-      if (pvalue->velocityRequested > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->velocityRequested);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+      if (pvalue->beaconPLEst > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->beaconPLEst);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "BEACON-PL-Est", "beaconPLEst", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->velocityRequested, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->beaconPLEst, 0, 0);
+      RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
    }
-   /* gANSSPositioningMethods */
+   /* postVerificationPeriod */
    if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "gANSSPositioningMethods");
-      RT_SET_SIZE(ctx, 16, 16);
-      stat = pe_BitString32(ctx, &pvalue->gANSSPositioningMethods, 16, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if (pvalue->postVerificationPeriod > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->postVerificationPeriod);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "postVerificationPeriod", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->postVerificationPeriod, 0, 0);
+      RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
    }
-   /* gANSSTimingOfCellWanted */
+   /* dhs-sync */
    if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "gANSSTimingOfCellWanted");
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pe_BitString32(ctx, &pvalue->gANSSTimingOfCellWanted, 8, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if (pvalue->dhs_sync < -20 || pvalue->dhs_sync > 10) {
+         rtxErrAddStrParm(ctx, "DHS-Sync");
+         rtxErrAddIntParm(ctx, pvalue->dhs_sync);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DHS-Sync", "dhs-sync", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->dhs_sync, -20, 10);
+      RT_CHECK(ctx, stat, "DHS-Sync", "dhs-sync", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
    }
-   /* gANSSCarrierPhaseMeasurementRequested */
+   /* timingMaintainedSynchInd */
    if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "gANSSCarrierPhaseMeasurementRequested");
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pe_BitString32(ctx, &pvalue->gANSSCarrierPhaseMeasurementRequested, 8, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if (pvalue->timingMaintainedSynchInd > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->timingMaintainedSynchInd);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TimingMaintainedSynchInd", "timingMaintainedSynchInd", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->timingMaintainedSynchInd, 0, 0);
+      RT_CHECK(ctx, stat, "TimingMaintainedSynchInd", "timingMaintainedSynchInd", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
    }
-   /* gANSSMultiFreqMeasurementRequested */
+   /* mbms-PL-ServiceRestrictInfo */
    if (pvalue->m & 0x80u) {
-      rtxCtxtPushElemName(ctx, "gANSSMultiFreqMeasurementRequested");
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pe_BitString32(ctx, &pvalue->gANSSMultiFreqMeasurementRequested, 8, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_AddIonoModel(rtxContext* ctx, const UE_Positioning_GANSS_AddIonoModel* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-AddIonoModel");
-   /* dataID */
-   rtxCtxtPushElemName(ctx, "dataID");
-   RT_SET_SIZE(ctx, 2, 2);
-   stat = pe_BitString32(ctx, &pvalue->dataID, 2, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* alpha-beta-parameters */
-   rtxCtxtPushElemName(ctx, "alpha-beta-parameters");
-   stat = asn1PE_UMTS_UE_Positioning_GPS_IonosphericModel(ctx, &pvalue->alpha_beta_parameters);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_EarthOrientPara(rtxContext* ctx, const UE_Positioning_GANSS_EarthOrientPara* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-EarthOrientPara");
-   /* teop */
-   rtxCtxtPushElemName(ctx, "teop");
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->teop, 16, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* pmX */
-   rtxCtxtPushElemName(ctx, "pmX");
-   RT_SET_SIZE(ctx, 21, 21);
-   stat = pe_BitString32(ctx, &pvalue->pmX, 21, 21);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* pmXdot */
-   rtxCtxtPushElemName(ctx, "pmXdot");
-   RT_SET_SIZE(ctx, 15, 15);
-   stat = pe_BitString32(ctx, &pvalue->pmXdot, 15, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* pmY */
-   rtxCtxtPushElemName(ctx, "pmY");
-   RT_SET_SIZE(ctx, 21, 21);
-   stat = pe_BitString32(ctx, &pvalue->pmY, 21, 21);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* pmYdot */
-   rtxCtxtPushElemName(ctx, "pmYdot");
-   RT_SET_SIZE(ctx, 15, 15);
-   stat = pe_BitString32(ctx, &pvalue->pmYdot, 15, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* deltaUT1 */
-   rtxCtxtPushElemName(ctx, "deltaUT1");
-   RT_SET_SIZE(ctx, 31, 31);
-   stat = pe_BitString32(ctx, &pvalue->deltaUT1, 31, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* deltaUT1dot */
-   rtxCtxtPushElemName(ctx, "deltaUT1dot");
-   RT_SET_SIZE(ctx, 19, 19);
-   stat = pe_BitString32(ctx, &pvalue->deltaUT1dot, 19, 19);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_AssistanceData_r8(rtxContext* ctx, const UE_Positioning_GANSS_AssistanceData_r8* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-AssistanceData-r8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GANSS-ReferenceTime */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-ReferenceTime");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime(ctx, &pvalue->ue_positioning_GANSS_ReferenceTime);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGanssReferencePosition */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGanssReferencePosition");
-      stat = asn1PE_UMTS_ReferenceLocationGANSS(ctx, &pvalue->uePositioningGanssReferencePosition);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGanssIonosphericModel */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGanssIonosphericModel");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_IonosphericModel(ctx, &pvalue->uePositioningGanssIonosphericModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGanssAddIonoModel */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGanssAddIonoModel");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AddIonoModel(ctx, &pvalue->uePositioningGanssAddIonoModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGanssEarthOrientationPara */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGanssEarthOrientationPara");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_EarthOrientPara(ctx, &pvalue->uePositioningGanssEarthOrientationPara);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssGenericDataList */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "ganssGenericDataList");
-      stat = asn1PE_UMTS_GANSSGenericDataList_r8(ctx, &pvalue->ganssGenericDataList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_Measurement_r8(rtxContext* ctx, const UE_Positioning_Measurement_r8* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-Measurement-r8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-ReportingQuantity */
-   rtxCtxtPushElemName(ctx, "ue-positioning-ReportingQuantity");
-   stat = asn1PE_UMTS_UE_Positioning_ReportingQuantity_r8(ctx, &pvalue->ue_positioning_ReportingQuantity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementValidity */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measurementValidity");
-      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PE_UMTS_UE_Positioning_ReportCriteria_r7(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-positioning-OTDOA-AssistanceData */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-AssistanceData");
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_r7(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-AssistanceData */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-AssistanceData");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_AssistanceData_r7(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GANSS-AssistanceData */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-AssistanceData");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AssistanceData_r8(ctx, &pvalue->ue_positioning_GANSS_AssistanceData);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementType_r8(rtxContext* ctx, const MeasurementType_r8* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementType-r8");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 6) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "intraFrequencyMeasurement");
-         if (pvalue->u.intraFrequencyMeasurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_IntraFrequencyMeasurement_r7(ctx, pvalue->u.intraFrequencyMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "interFrequencyMeasurement");
-         if (pvalue->u.interFrequencyMeasurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterFrequencyMeasurement_r8(ctx, pvalue->u.interFrequencyMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "interRATMeasurement");
-         if (pvalue->u.interRATMeasurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterRATMeasurement_r8(ctx, pvalue->u.interRATMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "up-Measurement");
-         if (pvalue->u.up_Measurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_Measurement_r8(ctx, pvalue->u.up_Measurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "trafficVolumeMeasurement");
-         if (pvalue->u.trafficVolumeMeasurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "qualityMeasurement");
-         if (pvalue->u.qualityMeasurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_QualityMeasurement(ctx, pvalue->u.qualityMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "ue-InternalMeasurement");
-         if (pvalue->u.ue_InternalMeasurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_InternalMeasurement_r4(ctx, pvalue->u.ue_InternalMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCommand_r8_modify(rtxContext* ctx, const MeasurementCommand_r8_modify* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measurementType */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measurementType");
-      stat = asn1PE_UMTS_MeasurementType_r8(ctx, &pvalue->measurementType);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCommand_r8(rtxContext* ctx, const MeasurementCommand_r8* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementCommand-r8");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "setup");
-         if (pvalue->u.setup == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementType_r8(ctx, pvalue->u.setup);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "modify");
-         if (pvalue->u.modify == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementCommand_r8_modify(ctx, pvalue->u.modify);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "release");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_DGPS_Corrections_r9(rtxContext* ctx, const UE_Positioning_GPS_DGPS_Corrections_r9* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-DGPS-Corrections-r9");
-   /* gps-TOW */
-   rtxCtxtPushElemName(ctx, "gps-TOW");
-   rtxCtxtPushTypeName(ctx, "GPS-TOW-1sec");
-   if ((uint64_t)pvalue->gps_TOW > 604799u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->gps_TOW);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->gps_TOW, 0, 604799);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* statusHealth */
-   rtxCtxtPushElemName(ctx, "statusHealth");
-   rtxCtxtPushTypeName(ctx, "DiffCorrectionStatus");
-   if (pvalue->statusHealth > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->statusHealth);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->statusHealth, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dgps-CorrectionSatInfoList */
-   rtxCtxtPushElemName(ctx, "dgps-CorrectionSatInfoList");
-   stat = asn1PE_UMTS_DGPS_CorrectionSatInfoList_r9(ctx, &pvalue->dgps_CorrectionSatInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_AssistanceData_r9(rtxContext* ctx, const UE_Positioning_GPS_AssistanceData_r9* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-AssistanceData-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 0), 9);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GPS-ReferenceTime */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-ReferenceTime");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_ReferenceTime_r7(ctx, &pvalue->ue_positioning_GPS_ReferenceTime);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-ReferenceLocation */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-ReferenceLocation");
-      stat = asn1PE_UMTS_ReferenceLocation(ctx, &pvalue->ue_positioning_GPS_ReferenceLocation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-DGPS-Corrections */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-DGPS-Corrections");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_DGPS_Corrections_r9(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-NavigationModel */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-NavigationModel");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_NavigationModel(ctx, &pvalue->ue_positioning_GPS_NavigationModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-IonosphericModel */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-IonosphericModel");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_IonosphericModel(ctx, &pvalue->ue_positioning_GPS_IonosphericModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-UTC-Model */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-UTC-Model");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_UTC_Model(ctx, &pvalue->ue_positioning_GPS_UTC_Model);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-Almanac */
-   if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-Almanac");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_Almanac(ctx, &pvalue->ue_positioning_GPS_Almanac);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-AcquisitionAssistance */
-   if (pvalue->m & 0x80u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-AcquisitionAssistance");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_AcquisitionAssistance_r7(ctx, &pvalue->ue_positioning_GPS_AcquisitionAssistance);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-Real-timeIntegrity */
-   if (pvalue->m & 0x100u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-Real-timeIntegrity");
-      stat = asn1PE_UMTS_BadSatList(ctx, &pvalue->ue_positioning_GPS_Real_timeIntegrity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_AssistanceData_r9(rtxContext* ctx, const UE_Positioning_GANSS_AssistanceData_r9* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-AssistanceData-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GANSS-ReferenceTime */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-ReferenceTime");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime(ctx, &pvalue->ue_positioning_GANSS_ReferenceTime);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGanssReferencePosition */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGanssReferencePosition");
-      stat = asn1PE_UMTS_ReferenceLocationGANSS(ctx, &pvalue->uePositioningGanssReferencePosition);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGanssIonosphericModel */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGanssIonosphericModel");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_IonosphericModel(ctx, &pvalue->uePositioningGanssIonosphericModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGanssAddIonoModel */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGanssAddIonoModel");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AddIonoModel(ctx, &pvalue->uePositioningGanssAddIonoModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGanssEarthOrientationPara */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGanssEarthOrientationPara");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_EarthOrientPara(ctx, &pvalue->uePositioningGanssEarthOrientationPara);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssGenericDataList */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "ganssGenericDataList");
-      stat = asn1PE_UMTS_GANSSGenericDataList_r9(ctx, &pvalue->ganssGenericDataList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_Measurement_r9(rtxContext* ctx, const UE_Positioning_Measurement_r9* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-Measurement-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-ReportingQuantity */
-   rtxCtxtPushElemName(ctx, "ue-positioning-ReportingQuantity");
-   stat = asn1PE_UMTS_UE_Positioning_ReportingQuantity_r8(ctx, &pvalue->ue_positioning_ReportingQuantity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementValidity */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measurementValidity");
-      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reportCriteria */
-   rtxCtxtPushElemName(ctx, "reportCriteria");
-   stat = asn1PE_UMTS_UE_Positioning_ReportCriteria_r7(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-positioning-OTDOA-AssistanceData */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-AssistanceData");
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_r7(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-AssistanceData */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-AssistanceData");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_AssistanceData_r9(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GANSS-AssistanceData */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-AssistanceData");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AssistanceData_r9(ctx, &pvalue->ue_positioning_GANSS_AssistanceData);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementType_r9(rtxContext* ctx, const MeasurementType_r9* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementType-r9");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 7) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "intraFrequencyMeasurement");
-         if (pvalue->u.intraFrequencyMeasurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_IntraFrequencyMeasurement_r9(ctx, pvalue->u.intraFrequencyMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "interFrequencyMeasurement");
-         if (pvalue->u.interFrequencyMeasurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterFrequencyMeasurement_r9(ctx, pvalue->u.interFrequencyMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "interRATMeasurement");
-         if (pvalue->u.interRATMeasurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterRATMeasurement_r9(ctx, pvalue->u.interRATMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "up-Measurement");
-         if (pvalue->u.up_Measurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_Measurement_r9(ctx, pvalue->u.up_Measurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "trafficVolumeMeasurement");
-         if (pvalue->u.trafficVolumeMeasurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "qualityMeasurement");
-         if (pvalue->u.qualityMeasurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_QualityMeasurement(ctx, pvalue->u.qualityMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "ue-InternalMeasurement");
-         if (pvalue->u.ue_InternalMeasurement == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_InternalMeasurement_r4(ctx, pvalue->u.ue_InternalMeasurement);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 8:
-         rtxCtxtPushElemName(ctx, "csgProximityDetection");
-         if (pvalue->u.csgProximityDetection == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CSGProximityDetection(ctx, pvalue->u.csgProximityDetection);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCommand_r9_modify(rtxContext* ctx, const MeasurementCommand_r9_modify* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measurementType */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measurementType");
-      stat = asn1PE_UMTS_MeasurementType_r9(ctx, &pvalue->measurementType);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCommand_r9(rtxContext* ctx, const MeasurementCommand_r9* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementCommand-r9");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "setup");
-         if (pvalue->u.setup == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementType_r9(ctx, pvalue->u.setup);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "modify");
-         if (pvalue->u.modify == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementCommand_r9_modify(ctx, pvalue->u.modify);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "release");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Neighbour_TDD_r7(rtxContext* ctx, const Neighbour_TDD_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Neighbour-TDD-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* uarfcn */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "uarfcn");
-      rtxCtxtPushTypeName(ctx, "UARFCN");
-      if ((uint64_t)pvalue->uarfcn > 16383u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->uarfcn);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+      if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->uarfcn, 0, 16383);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
+      RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "PhysicalChannelReconfiguration-v690ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_NeighbourList_TDD_r7(rtxContext* ctx, const NeighbourList_TDD_r7* pvalue)
+int asn1PE_UMTS_PhysicalChannelReconfiguration_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_v770ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NeighbourList-TDD-r7");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "Neighbour-TDD-r7", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_Neighbour_TDD_r7(ctx, (const Neighbour_TDD_r7*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCell_LCR_v8a0ext(rtxContext* ctx, const NewInterFreqCell_LCR_v8a0ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCell-LCR-v8a0ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelReconfiguration-v770ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellInfo-LCR-r8 */
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-v770ext-IEs");
+   /* ueMobilityStateIndicator */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellInfo-LCR-r8");
-      stat = asn1PE_UMTS_CellInfo_LCR_r8_ext(ctx, &pvalue->cellInfo_LCR_r8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCellList_LCR_v8a0ext(rtxContext* ctx, const NewInterFreqCellList_LCR_v8a0ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NewInterFreqCellList-LCR-v8a0ext");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "NewInterFreqCell-LCR-v8a0ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_NewInterFreqCell_LCR_v8a0ext(ctx, (const NewInterFreqCell_LCR_v8a0ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCell_LCR_v8a0ext(rtxContext* ctx, const NewIntraFreqCell_LCR_v8a0ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCell-LCR-v8a0ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellInfo-LCR-r8 */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellInfo-LCR-r8");
-      stat = asn1PE_UMTS_CellInfo_LCR_r8_ext(ctx, &pvalue->cellInfo_LCR_r8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCellList_LCR_v8a0ext(rtxContext* ctx, const NewIntraFreqCellList_LCR_v8a0ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "NewIntraFreqCellList-LCR-v8a0ext");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "NewIntraFreqCell-LCR-v8a0ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_NewIntraFreqCell_LCR_v8a0ext(ctx, (const NewIntraFreqCell_LCR_v8a0ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TimeslotWithISCP(rtxContext* ctx, const TimeslotWithISCP* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "TimeslotWithISCP");
-   /* timeslot */
-   rtxCtxtPushElemName(ctx, "timeslot");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
-   if ((uint64_t)pvalue->timeslot > 14u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->timeslot);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* timeslotISCP */
-   rtxCtxtPushElemName(ctx, "timeslotISCP");
-   rtxCtxtPushTypeName(ctx, "TimeslotISCP");
-   if ((uint64_t)pvalue->timeslotISCP > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->timeslotISCP);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotISCP, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TimeslotListWithISCP(rtxContext* ctx, const TimeslotListWithISCP* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "TimeslotListWithISCP");
-   RT_SET_SIZE(ctx, 1, 14);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "TimeslotWithISCP", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_TimeslotWithISCP(ctx, (const TimeslotWithISCP*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_CipherParameters(rtxContext* ctx, const UE_Positioning_CipherParameters* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-CipherParameters");
-   /* cipheringKeyFlag */
-   rtxCtxtPushElemName(ctx, "cipheringKeyFlag");
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pe_BitString32(ctx, &pvalue->cipheringKeyFlag, 1, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cipheringSerialNumber */
-   rtxCtxtPushElemName(ctx, "cipheringSerialNumber");
-   stat = pe_ConsUInt64(ctx, pvalue->cipheringSerialNumber, 0, 65535);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_AssistanceData_v860ext(rtxContext* ctx, const UE_Positioning_GANSS_AssistanceData_v860ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-AssistanceData-v860ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* uePositioningGanssAddIonoModel */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGanssAddIonoModel");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AddIonoModel(ctx, &pvalue->uePositioningGanssAddIonoModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGanssEarthOrientationPara */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGanssEarthOrientationPara");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_EarthOrientPara(ctx, &pvalue->uePositioningGanssEarthOrientationPara);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssGenericDataList */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "ganssGenericDataList");
-      stat = asn1PE_UMTS_GANSSGenericDataList_v860ext(ctx, &pvalue->ganssGenericDataList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_AssistanceData_v920ext(rtxContext* ctx, const UE_Positioning_GANSS_AssistanceData_v920ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-AssistanceData-v920ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ganssGenericDataList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ganssGenericDataList");
-      stat = asn1PE_UMTS_GANSSGenericDataList_v920ext(ctx, &pvalue->ganssGenericDataList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_Data(rtxContext* ctx, const UE_Positioning_GANSS_Data* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-Data");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat);
-   /* ganssDataCipheringInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ganssDataCipheringInfo");
-      stat = asn1PE_UMTS_UE_Positioning_CipherParameters(ctx, &pvalue->ganssDataCipheringInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssDecipheringKeys */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ganssDecipheringKeys");
-      stat = asn1PE_UMTS_GANSSDecipheringKeys(ctx, &pvalue->ganssDecipheringKeys);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGanssReferenceTime */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGanssReferenceTime");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime(ctx, &pvalue->uePositioningGanssReferenceTime);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGanssReferencePosition */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGanssReferencePosition");
-      stat = asn1PE_UMTS_ReferenceLocationGANSS(ctx, &pvalue->uePositioningGanssReferencePosition);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* uePositioningGanssIonosphericModel */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "uePositioningGanssIonosphericModel");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_IonosphericModel(ctx, &pvalue->uePositioningGanssIonosphericModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ganssGenericDataList */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "ganssGenericDataList");
-      stat = asn1PE_UMTS_GANSSGenericDataList(ctx, &pvalue->ganssGenericDataList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_TimeModels(rtxContext* ctx, const UE_Positioning_GANSS_TimeModels* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GANSS-TimeModels");
-   RT_SET_SIZE(ctx, 1, 7);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "UE-Positioning-GANSS-TimeModel", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_TimeModel(ctx, (const UE_Positioning_GANSS_TimeModel*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_AcquisitionAssistance_v770ext(rtxContext* ctx, const UE_Positioning_GPS_AcquisitionAssistance_v770ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-AcquisitionAssistance-v770ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-GPS-ReferenceTimeUncertainty");
-      rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-ReferenceTimeUncertainty");
-      if ((uint64_t)pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty > 127u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+      if (pvalue->ueMobilityStateIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->ueMobilityStateIndicator);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "PhysicalChannelReconfiguration-v770ext-IEs");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->ueMobilityStateIndicator, 0, 0);
+      RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "PhysicalChannelReconfiguration-v770ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_GPS_ReferenceTime_v770ext(rtxContext* ctx, const UE_Positioning_GPS_ReferenceTime_v770ext* pvalue)
+int asn1PE_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-ReferenceTime-v770ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v770ext */
+   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v770ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v770ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v770ext", -1, 0);
+   /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-GPS-ReferenceTimeUncertainty");
-      rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-ReferenceTimeUncertainty");
-      if ((uint64_t)pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty > 127u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_GPS_AssistanceData_v770ext(rtxContext* ctx, const UE_Positioning_GPS_AssistanceData_v770ext* pvalue)
+int asn1PE_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-AssistanceData-v770ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v690ext */
+   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v690ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v690ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v590ext */
+   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v590ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v590ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v590ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v4b0ext */
+   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v4b0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v4b0ext", -1, 0);
+   /* v590NonCriticalExtenstions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions(ctx, &pvalue->v590NonCriticalExtenstions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtenstions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GPS-ReferenceTime */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-r3-add-ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-ReferenceTime");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_ReferenceTime_v770ext(ctx, &pvalue->ue_positioning_GPS_ReferenceTime);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->physicalChannelReconfiguration_r3_add_ext.numbits, pvalue->physicalChannelReconfiguration_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r3-add-ext", -1, 0);
    }
-   /* ue-positioning-GPS-AcquisitionAssistance */
+   /* v4b0NonCriticalExtenstions */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-AcquisitionAssistance");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_AcquisitionAssistance_v770ext(ctx, &pvalue->ue_positioning_GPS_AcquisitionAssistance);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions(ctx, &pvalue->v4b0NonCriticalExtenstions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtenstions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_GPS_DGPS_Corrections_v920ext(rtxContext* ctx, const UE_Positioning_GPS_DGPS_Corrections_v920ext* pvalue)
+int asn1PE_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-DGPS-Corrections-v920ext");
-   /* dgps-CorrectionSatInfoList */
-   rtxCtxtPushElemName(ctx, "dgps-CorrectionSatInfoList");
-   stat = asn1PE_UMTS_DGPS_CorrectionSatInfoList_v920ext(ctx, &pvalue->dgps_CorrectionSatInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_AssistanceData_v920ext(rtxContext* ctx, const UE_Positioning_GPS_AssistanceData_v920ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-GPS-AssistanceData-v920ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GPS-DGPS-Corrections */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v3a0ext */
+   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v3a0ext(ctx, &pvalue->physicalChannelReconfiguration_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v3a0ext", -1, 0);
+   /* laterNonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-DGPS-Corrections");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_DGPS_Corrections_v920ext(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_IPDL_Parameters_TDD_r4_ext(rtxContext* ctx, const UE_Positioning_IPDL_Parameters_TDD_r4_ext* pvalue)
+int asn1PE_UMTS_PhysicalChannelReconfiguration_r3(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_r3* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ip-Spacing */
-   rtxCtxtPushElemName(ctx, "ip-Spacing");
-   rtxCtxtPushTypeName(ctx, "IP-Spacing-TDD");
-   if (pvalue->ip_Spacing > 4) {
-      rtxErrAddUIntParm(ctx, pvalue->ip_Spacing);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ip_Spacing, 0, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ip-slot */
-   rtxCtxtPushElemName(ctx, "ip-slot");
-   if ((uint64_t)pvalue->ip_slot > 14u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ip_slot);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ip_slot, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ip-Start */
-   rtxCtxtPushElemName(ctx, "ip-Start");
-   if ((uint64_t)pvalue->ip_Start > 4095u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ip_Start);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ip_Start, 0, 4095);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ip-PCCPCG */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-r3 */
+   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r3_IEs(ctx, &pvalue->physicalChannelReconfiguration_r3);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r3", -1, 0);
+   /* v3a0NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ip-PCCPCG");
-      rtxCtxtPushTypeName(ctx, "IP-PCCPCH-r4");
-      stat = rtxEncBit(ctx, pvalue->ip_PCCPCG);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, 0);
    }
-   /* burstModeParameters */
-   rtxCtxtPushElemName(ctx, "burstModeParameters");
-   stat = asn1PE_UMTS_BurstModeParameters(ctx, &pvalue->burstModeParameters);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_ReportingQuantity_v390ext(rtxContext* ctx, const UE_Positioning_ReportingQuantity_v390ext* pvalue)
+int asn1PE_UMTS_PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-ReportingQuantity-v390ext");
-   /* vertical-Accuracy */
-   rtxCtxtPushElemName(ctx, "vertical-Accuracy");
-   stat = asn1PE_UMTS_UE_Positioning_Accuracy(ctx, pvalue->vertical_Accuracy);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_fdd(rtxContext* ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_fdd* pvalue)
+int asn1PE_UMTS_PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_tdd(rtxContext* ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* cellAndChannelIdentity */
-   rtxCtxtPushElemName(ctx, "cellAndChannelIdentity");
-   stat = asn1PE_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo(rtxContext* ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
          break;
       default:
          break;
@@ -6741,119 +975,255 @@ int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo(rtxC
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB(rtxContext* ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_UEB* pvalue)
+int asn1PE_UMTS_PhysicalChannelReconfiguration_r4_IEs(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_r4_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelReconfiguration-r4-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat);
-   /* sfn */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 0), 15);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-r4-IEs");
+   /* integrityProtectionModeInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sfn");
-      if ((uint64_t)pvalue->sfn > 4095u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->sfn);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "PhysicalChannelReconfiguration-r4-IEs");
+   }
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "PhysicalChannelReconfiguration-r4-IEs");
+   }
+   /* activationTime */
+   if (pvalue->m & 0x4u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "PhysicalChannelReconfiguration-r4-IEs");
+   }
+   /* new-U-RNTI */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "PhysicalChannelReconfiguration-r4-IEs");
+   }
+   /* new-C-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "PhysicalChannelReconfiguration-r4-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "PhysicalChannelReconfiguration-r4-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "PhysicalChannelReconfiguration-r4-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "PhysicalChannelReconfiguration-r4-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (pvalue->m & 0x40u) {
+      if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
+         rtxErrAddStrParm(ctx, "UTRAN-DRX-CycleLengthCoefficient");
+         rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "PhysicalChannelReconfiguration-r4-IEs");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->sfn, 0, 4095);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "PhysicalChannelReconfiguration-r4-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "PhysicalChannelReconfiguration-r4-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "PhysicalChannelReconfiguration-r4-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "PhysicalChannelReconfiguration-r4-IEs");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "PhysicalChannelReconfiguration-r4-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x800u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "PhysicalChannelReconfiguration-r4-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "PhysicalChannelReconfiguration-r4-IEs");
+   }
+   /* ul-ChannelRequirement */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_UL_ChannelRequirementWithCPCH_SetID_r4(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "PhysicalChannelReconfiguration-r4-IEs");
    }
    /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
+   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "PhysicalChannelReconfiguration-r4-IEs");
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "PhysicalChannelReconfiguration-r4-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x4000u) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_r4(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "PhysicalChannelReconfiguration-r4-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v770ext */
+   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v770ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v770ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v690ext */
+   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v690ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v690ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v590ext */
+   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v590ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v590ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v590ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-r4-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->physicalChannelReconfiguration_r4_add_ext.numbits, pvalue->physicalChannelReconfiguration_r4_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r4-add-ext", -1, 0);
+   }
+   /* v590NonCriticalExtenstions */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions(ctx, &pvalue->v590NonCriticalExtenstions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtenstions", -1, 0);
    }
-   /* cellPosition */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "cellPosition");
-      stat = asn1PE_UMTS_ReferenceCellPosition(ctx, &pvalue->cellPosition);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* roundTripTime */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "roundTripTime");
-      if ((uint64_t)pvalue->roundTripTime > 32766u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->roundTripTime);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->roundTripTime, 0, 32766);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-IPDL-Paremeters */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-IPDL-Paremeters");
-      stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_fdd(rtxContext* ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_fdd* pvalue)
+int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* primaryCPICH-Info */
-   rtxCtxtPushElemName(ctx, "primaryCPICH-Info");
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-r4 */
+   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r4_IEs(ctx, &pvalue->physicalChannelReconfiguration_r4);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r4", -1, 0);
+   /* v4d0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
+   }
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_tdd(rtxContext* ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_tdd* pvalue)
+int asn1PE_UMTS_PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* cellAndChannelIdentity */
-   rtxCtxtPushElemName(ctx, "cellAndChannelIdentity");
-   stat = asn1PE_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo(rtxContext* ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo* pvalue)
+int asn1PE_UMTS_PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
          break;
       default:
          break;
@@ -6861,11 +1231,1976 @@ int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo(rtxC
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB(rtxContext* ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_UEB* pvalue)
+int asn1PE_UMTS_PhysicalChannelReconfiguration_r5_IEs(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_r5_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelReconfiguration-r5-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 0), 17);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-r5-IEs");
+   /* integrityProtectionModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   }
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   }
+   /* activationTime */
+   if (pvalue->m & 0x4u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   }
+   /* new-U-RNTI */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   }
+   /* new-C-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   }
+   /* new-H-RNTI */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (pvalue->m & 0x80u) {
+      if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
+         rtxErrAddStrParm(ctx, "UTRAN-DRX-CycleLengthCoefficient");
+         rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "PhysicalChannelReconfiguration-r5-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x1000u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "PhysicalChannelReconfiguration-r5-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   }
+   /* ul-ChannelRequirement */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_UL_ChannelRequirementWithCPCH_SetID_r5(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x4000u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   }
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x8000u) {
+      stat = asn1PE_UMTS_DL_CommonInformation_r5(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_r5(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "PhysicalChannelReconfiguration-r5-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v770ext */
+   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v770ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v770ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v690ext */
+   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v690ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v690ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-r5 */
+   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r5_IEs(ctx, &pvalue->physicalChannelReconfiguration_r5);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r5", -1, 0);
+   /* physicalChannelReconfiguration-r5-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->physicalChannelReconfiguration_r5_add_ext.numbits, pvalue->physicalChannelReconfiguration_r5_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r5-add-ext", -1, 0);
+   }
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_r6_IEs(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_r6_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelReconfiguration-r6-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 21) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 20) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 20) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 21) & 1u) << 0), 22);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-r6-IEs");
+   /* integrityProtectionModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* activationTime */
+   if (pvalue->m & 0x4u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* delayRestrictionFlag */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->delayRestrictionFlag > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->delayRestrictionFlag);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "PhysicalChannelReconfiguration-r6-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->delayRestrictionFlag, 0, 0);
+      RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* new-U-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* new-C-RNTI */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* new-H-RNTI */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (pvalue->m & 0x400u) {
+      if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
+         rtxErrAddStrParm(ctx, "UTRAN-DRX-CycleLengthCoefficient");
+         rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "PhysicalChannelReconfiguration-r6-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x4000u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x8000u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "PhysicalChannelReconfiguration-r6-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_UL_DPCH_Info_r6(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_UL_EDCH_Information_r6(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r6(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x80000u) {
+      stat = asn1PE_UMTS_DL_CommonInformation_r6(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x100000u) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_r6(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (pvalue->m & 0x200000u) {
+      if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "PhysicalChannelReconfiguration-r6-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
+      RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "PhysicalChannelReconfiguration-r6-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_v6b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelReconfiguration-v6b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-v6b0ext-IEs");
+   /* dl-InformationPerRL-List-v6b0ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_v6b0ext(ctx, &pvalue->dl_InformationPerRL_List_v6b0ext);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List-v6b0ext", -1, "PhysicalChannelReconfiguration-v6b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v770ext */
+   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v770ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v770ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v6b0ext */
+   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v6b0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v6b0ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-r6 */
+   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r6_IEs(ctx, &pvalue->physicalChannelReconfiguration_r6);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r6", -1, 0);
+   /* physicalChannelReconfiguration-r6-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->physicalChannelReconfiguration_r6_add_ext.numbits, pvalue->physicalChannelReconfiguration_r6_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r6-add-ext", -1, 0);
+   }
+   /* v6b0NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_r7_IEs_responseToChangeOfUE_Capability(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r7_IEs_responseToChangeOfUE_Capability value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_r7_IEs(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_r7_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelReconfiguration-r7-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 29) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 28) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 27) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 26) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 25) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 24) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 23) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 22) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 21) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 20) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 20) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 21) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 22) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 23) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 24) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 25) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 26) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 27) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 28) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 29) & 1u) << 0), 30);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-r7-IEs");
+   /* integrityProtectionModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* activationTime */
+   if (pvalue->m & 0x4u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* delayRestrictionFlag */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->delayRestrictionFlag > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->delayRestrictionFlag);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "PhysicalChannelReconfiguration-r7-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->delayRestrictionFlag, 0, 0);
+      RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* new-U-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* new-C-RNTI */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* new-H-RNTI */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   /* ueMobilityStateIndicator */
+   if (pvalue->m & 0x400u) {
+      if (pvalue->ueMobilityStateIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->ueMobilityStateIndicator);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "PhysicalChannelReconfiguration-r7-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ueMobilityStateIndicator, 0, 0);
+      RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* utran-DRX-CycleLengthCoeff */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   if (pvalue->m & 0x4000u) {
+      stat = rtxEncBit(ctx, pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* responseToChangeOfUE-Capability */
+   if (pvalue->m & 0x8000u) {
+      if (pvalue->responseToChangeOfUE_Capability > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->responseToChangeOfUE_Capability);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "responseToChangeOfUE-Capability", -1, "PhysicalChannelReconfiguration-r7-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->responseToChangeOfUE_Capability, 0, 0);
+      RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (pvalue->m & 0x80000u) {
+      stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* dtx-drx-Info */
+   if (pvalue->m & 0x100000u) {
+      stat = asn1PE_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (pvalue->m & 0x200000u) {
+      stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* mimoParameters */
+   if (pvalue->m & 0x400000u) {
+      stat = asn1PE_UMTS_MIMO_Parameters_r7(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x800000u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "PhysicalChannelReconfiguration-r7-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (pvalue->m & 0x1000000u) {
+      stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (pvalue->m & 0x2000000u) {
+      stat = asn1PE_UMTS_UL_EDCH_Information_r7(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x4000000u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r7(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x8000000u) {
+      stat = asn1PE_UMTS_DL_CommonInformation_r7(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x10000000u) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (pvalue->m & 0x20000000u) {
+      if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "PhysicalChannelReconfiguration-r7-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
+      RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "PhysicalChannelReconfiguration-r7-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_v780ext_IEs(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_v780ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelReconfiguration-v780ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-v780ext-IEs");
+   /* harqInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
+      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "PhysicalChannelReconfiguration-v780ext-IEs");
+   }
+   /* hs-DSCH-TBSizeTable */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->hs_DSCH_TBSizeTable > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->hs_DSCH_TBSizeTable);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "PhysicalChannelReconfiguration-v780ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->hs_DSCH_TBSizeTable, 0, 0);
+      RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "PhysicalChannelReconfiguration-v780ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_v7d0ext_IEs(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_v7d0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelReconfiguration-v7d0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-v7d0ext-IEs");
+   /* ul-EDCH-Information */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UL_EDCH_Information_ext(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "PhysicalChannelReconfiguration-v7d0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_v7f0ext_IEs(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_v7f0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelReconfiguration-v7f0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-v7f0ext-IEs");
+   /* mimoParameters */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MIMO_Parameters_v7f0ext(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "PhysicalChannelReconfiguration-v7f0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_v7g0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelReconfiguration-v7g0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-v7g0ext-IEs");
+   /* mimoParameters */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MIMO_Parameters_v7g0ext(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "PhysicalChannelReconfiguration-v7g0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v7g0ext */
+   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v7g0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v7g0ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v7g0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v7f0ext */
+   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v7f0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v7f0ext", -1, 0);
+   /* v7g0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v7d0ext */
+   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v7d0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v7d0ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v7d0ext", -1, 0);
+   /* v7f0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v780ext */
+   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v780ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v780ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v780ext", -1, 0);
+   /* v7d0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-r7 */
+   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r7_IEs(ctx, &pvalue->physicalChannelReconfiguration_r7);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r7", -1, 0);
+   /* physicalChannelReconfiguration-r7-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->physicalChannelReconfiguration_r7_add_ext.numbits, pvalue->physicalChannelReconfiguration_r7_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r7-add-ext", -1, 0);
+   }
+   /* v780NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v780NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_r8_IEs_responseToChangeOfUE_Capability(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r8_IEs_responseToChangeOfUE_Capability value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_r8_IEs(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_r8_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelReconfiguration-r8-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 31) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 30) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 29) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 28) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 27) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 26) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 25) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 24) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 23) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 22) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 21) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 20) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 20) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 21) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 22) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 23) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 24) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 25) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 26) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 27) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 28) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 29) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 30) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 31) & 1u) << 0), 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-r8-IEs");
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 32) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 33) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-r8-IEs");
+   /* integrityProtectionModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* activationTime */
+   if (pvalue->m & 0x4u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* delayRestrictionFlag */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->delayRestrictionFlag > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->delayRestrictionFlag);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "PhysicalChannelReconfiguration-r8-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->delayRestrictionFlag, 0, 0);
+      RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* new-U-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* new-C-RNTI */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* new-H-RNTI */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   /* ueMobilityStateIndicator */
+   if (pvalue->m & 0x400u) {
+      if (pvalue->ueMobilityStateIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->ueMobilityStateIndicator);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "PhysicalChannelReconfiguration-r8-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ueMobilityStateIndicator, 0, 0);
+      RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* utran-DRX-CycleLengthCoeff */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   if (pvalue->m & 0x4000u) {
+      stat = rtxEncBit(ctx, pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* responseToChangeOfUE-Capability */
+   if (pvalue->m & 0x8000u) {
+      if (pvalue->responseToChangeOfUE_Capability > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->responseToChangeOfUE_Capability);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "responseToChangeOfUE-Capability", -1, "PhysicalChannelReconfiguration-r8-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->responseToChangeOfUE_Capability, 0, 0);
+      RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* harqInfo */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
+      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (pvalue->m & 0x80000u) {
+      stat = asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (pvalue->m & 0x100000u) {
+      stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* dtx-drx-Info */
+   if (pvalue->m & 0x200000u) {
+      stat = asn1PE_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (pvalue->m & 0x400000u) {
+      stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* mimoParameters */
+   if (pvalue->m & 0x800000u) {
+      stat = asn1PE_UMTS_MIMO_Parameters_r8(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x1000000u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "PhysicalChannelReconfiguration-r8-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (pvalue->m & 0x2000000u) {
+      stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (pvalue->m & 0x4000000u) {
+      stat = asn1PE_UMTS_UL_EDCH_Information_r8(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x8000000u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x10000000u) {
+      stat = asn1PE_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x20000000u) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* dl-SecondaryCellInfoFDD */
+   if (pvalue->m & 0x40000000u) {
+      stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD(ctx, &pvalue->dl_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* controlChannelDRXInfo-TDD128 */
+   if (pvalue->m & 0x80000000u) {
+      stat = asn1PE_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
+      RT_CHECK(ctx, stat, 0, "controlChannelDRXInfo-TDD128", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* sps-Information-TDD128 */
+   if (pvalue->m & 0x100000000ull) {
+      stat = asn1PE_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
+      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (pvalue->m & 0x200000000ull) {
+      if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "PhysicalChannelReconfiguration-r8-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
+      RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "PhysicalChannelReconfiguration-r8-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_v890ext_IEs(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_v890ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelReconfiguration-v890ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-v890ext-IEs");
+   /* dl-SecondaryCellInfoFDD-v890ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD_v890ext(ctx, &pvalue->dl_SecondaryCellInfoFDD_v890ext);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD-v890ext", -1, "PhysicalChannelReconfiguration-v890ext-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_ext(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "PhysicalChannelReconfiguration-v890ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_v8a0ext_IEs(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_v8a0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelReconfiguration-v8a0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-v8a0ext-IEs");
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_ext2(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "PhysicalChannelReconfiguration-v8a0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v8a0ext */
+   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v8a0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v8a0ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v8a0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v7g0ext */
+   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v7g0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v7g0ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v7g0ext", -1, 0);
+   /* v8a0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v8a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v890ext */
+   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v890ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v890ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v890ext", -1, 0);
+   /* v7g0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v7f0ext */
+   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v7f0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v7f0ext", -1, 0);
+   /* v890NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-v7d0ext */
+   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v7d0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v7d0ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-v7d0ext", -1, 0);
+   /* v7f0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-r8 */
+   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r8_IEs(ctx, &pvalue->physicalChannelReconfiguration_r8);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r8", -1, 0);
+   /* physicalChannelReconfiguration-r8-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->physicalChannelReconfiguration_r8_add_ext.numbits, pvalue->physicalChannelReconfiguration_r8_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r8-add-ext", -1, 0);
+   }
+   /* v7d0NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_r9_IEs_responseToChangeOfUE_Capability(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfiguration_r9_IEs_responseToChangeOfUE_Capability value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_r9_IEs(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_r9_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelReconfiguration-r9-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 31) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 30) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 29) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 28) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 27) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 26) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 25) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 24) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 23) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 22) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 21) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 20) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 20) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 21) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 22) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 23) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 24) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 25) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 26) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 27) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 28) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 29) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 30) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 31) & 1u) << 0), 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-r9-IEs");
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 32) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 33) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 34) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 35) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfiguration-r9-IEs");
+   /* integrityProtectionModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* activationTime */
+   if (pvalue->m & 0x4u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* delayRestrictionFlag */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->delayRestrictionFlag > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->delayRestrictionFlag);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "PhysicalChannelReconfiguration-r9-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->delayRestrictionFlag, 0, 0);
+      RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* new-U-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* new-C-RNTI */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* new-H-RNTI */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   /* ueMobilityStateIndicator */
+   if (pvalue->m & 0x400u) {
+      if (pvalue->ueMobilityStateIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->ueMobilityStateIndicator);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "PhysicalChannelReconfiguration-r9-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ueMobilityStateIndicator, 0, 0);
+      RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* utran-DRX-CycleLengthCoeff */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   if (pvalue->m & 0x4000u) {
+      stat = rtxEncBit(ctx, pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* responseToChangeOfUE-Capability */
+   if (pvalue->m & 0x8000u) {
+      if (pvalue->responseToChangeOfUE_Capability > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->responseToChangeOfUE_Capability);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "responseToChangeOfUE-Capability", -1, "PhysicalChannelReconfiguration-r9-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->responseToChangeOfUE_Capability, 0, 0);
+      RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* harqInfo */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
+      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (pvalue->m & 0x80000u) {
+      stat = asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (pvalue->m & 0x100000u) {
+      stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* dtx-drx-Info */
+   if (pvalue->m & 0x200000u) {
+      stat = asn1PE_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (pvalue->m & 0x400000u) {
+      stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* mimoParameters */
+   if (pvalue->m & 0x800000u) {
+      stat = asn1PE_UMTS_MIMO_Parameters_r9(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* controlChannelDRXInfo-TDD128 */
+   if (pvalue->m & 0x1000000u) {
+      stat = asn1PE_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
+      RT_CHECK(ctx, stat, 0, "controlChannelDRXInfo-TDD128", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* sps-Information-TDD128 */
+   if (pvalue->m & 0x2000000u) {
+      stat = asn1PE_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
+      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x4000000u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "PhysicalChannelReconfiguration-r9-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (pvalue->m & 0x8000000u) {
+      stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (pvalue->m & 0x10000000u) {
+      stat = asn1PE_UMTS_UL_EDCH_Information_r9(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* ul-SecondaryCellInfoFDD */
+   if (pvalue->m & 0x20000000u) {
+      stat = asn1PE_UMTS_UL_SecondaryCellInfoFDD(ctx, &pvalue->ul_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "ul-SecondaryCellInfoFDD", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x40000000u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x80000000u) {
+      stat = asn1PE_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x100000000ull) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* dl-SecondaryCellInfoFDD */
+   if (pvalue->m & 0x200000000ull) {
+      stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD_r9(ctx, &pvalue->dl_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (pvalue->m & 0x400000000ull) {
+      if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "PhysicalChannelReconfiguration-r9-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
+      RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   /* cellDCHMeasOccasionInfo-TDD128 */
+   if (pvalue->m & 0x800000000ull) {
+      stat = asn1PE_UMTS_CellDCHMeasOccasionInfo_TDD128_r9(ctx, &pvalue->cellDCHMeasOccasionInfo_TDD128);
+      RT_CHECK(ctx, stat, 0, "cellDCHMeasOccasionInfo-TDD128", -1, "PhysicalChannelReconfiguration-r9-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfiguration-r9 */
+   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r9_IEs(ctx, &pvalue->physicalChannelReconfiguration_r9);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r9", -1, 0);
+   /* physicalChannelReconfiguration-r9-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->physicalChannelReconfiguration_r9_add_ext.numbits, pvalue->physicalChannelReconfiguration_r9_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration-r9-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r9 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r9", -1, 0);
+         stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
+         RT_CHECK(ctx, stat, 0, "r9", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r8 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r8", -1, 0);
+         stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
+         RT_CHECK(ctx, stat, 0, "r8", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r7", -1, 0);
+         stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
+         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r6 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r6", -1, 0);
+         stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(ctx, pvalue->u.r6);
+         RT_CHECK(ctx, stat, 0, "r6", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r5", -1, 0);
+         stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5(ctx, pvalue->u.r5);
+         RT_CHECK(ctx, stat, 0, "r5", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r4", -1, 0);
+         stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
+         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfiguration(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelReconfiguration");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "PhysicalChannelReconfiguration");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PhysicalChannelReconfiguration");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r3", -1, "PhysicalChannelReconfiguration");
+         stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "PhysicalChannelReconfiguration");
+         break;
+      case 2:
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "later-than-r3", -1, "PhysicalChannelReconfiguration");
+         stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "PhysicalChannelReconfiguration");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfigurationComplete_v770ext_IEs_deferredMeasurementControlReading(rtxContext* RT_RESTRICT ctx, PhysicalChannelReconfigurationComplete_v770ext_IEs_deferredMeasurementControlReading value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfigurationComplete_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfigurationComplete_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelReconfigurationComplete-v770ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfigurationComplete-v770ext-IEs");
+   /* ext-UL-TimingAdvance */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_EXT_UL_TimingAdvance(ctx, &pvalue->ext_UL_TimingAdvance);
+      RT_CHECK(ctx, stat, 0, "ext-UL-TimingAdvance", -1, "PhysicalChannelReconfigurationComplete-v770ext-IEs");
+   }
+   /* deferredMeasurementControlReading */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->deferredMeasurementControlReading > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->deferredMeasurementControlReading);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "deferredMeasurementControlReading", -1, "PhysicalChannelReconfigurationComplete-v770ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->deferredMeasurementControlReading, 0, 0);
+      RT_CHECK(ctx, stat, 0, "deferredMeasurementControlReading", -1, "PhysicalChannelReconfigurationComplete-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfigurationComplete-v770ext */
+   stat = asn1PE_UMTS_PhysicalChannelReconfigurationComplete_v770ext_IEs(ctx, &pvalue->physicalChannelReconfigurationComplete_v770ext);
+   RT_CHECK(ctx, stat, 0, "physicalChannelReconfigurationComplete-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfigurationComplete-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->physicalChannelReconfigurationComplete_r3_add_ext.numbits, pvalue->physicalChannelReconfigurationComplete_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "physicalChannelReconfigurationComplete-r3-add-ext", -1, 0);
+   }
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfigurationComplete(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfigurationComplete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelReconfigurationComplete");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfigurationComplete");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "PhysicalChannelReconfigurationComplete");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "PhysicalChannelReconfigurationComplete");
+   /* ul-IntegProtActivationInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtActivationInfo(ctx, &pvalue->ul_IntegProtActivationInfo);
+      RT_CHECK(ctx, stat, 0, "ul-IntegProtActivationInfo", -1, "PhysicalChannelReconfigurationComplete");
+   }
+   /* ul-TimingAdvance */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->ul_TimingAdvance > 63u) {
+         rtxErrAddStrParm(ctx, "UL-TimingAdvance");
+         rtxErrAddUIntParm(ctx, pvalue->ul_TimingAdvance);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-TimingAdvance", "ul-TimingAdvance", -1, "PhysicalChannelReconfigurationComplete");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ul_TimingAdvance, 0, 63);
+      RT_CHECK(ctx, stat, "UL-TimingAdvance", "ul-TimingAdvance", -1, "PhysicalChannelReconfigurationComplete");
+   }
+   /* count-C-ActivationTime */
+   if (pvalue->m & 0x4u) {
+      stat = pe_ConsUInt64(ctx, pvalue->count_C_ActivationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "count-C-ActivationTime", -1, "PhysicalChannelReconfigurationComplete");
+   }
+   /* dummy */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "PhysicalChannelReconfigurationComplete");
+   }
+   /* ul-CounterSynchronisationInfo */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_UL_CounterSynchronisationInfo(ctx, &pvalue->ul_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CounterSynchronisationInfo", -1, "PhysicalChannelReconfigurationComplete");
+   }
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "PhysicalChannelReconfigurationComplete");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfigurationFailure_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfigurationFailure_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfigurationFailure_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfigurationFailure_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalChannelReconfigurationFailure-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->physicalChannelReconfigurationFailure_r3_add_ext.numbits, pvalue->physicalChannelReconfigurationFailure_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "physicalChannelReconfigurationFailure-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_PhysicalChannelReconfigurationFailure_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelReconfigurationFailure(rtxContext* RT_RESTRICT ctx, const PhysicalChannelReconfigurationFailure* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelReconfigurationFailure");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelReconfigurationFailure");
+   /* rrc-TransactionIdentifier */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+         rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+         rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "PhysicalChannelReconfigurationFailure");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+      RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "PhysicalChannelReconfigurationFailure");
+   }
+   /* failureCause */
+   stat = asn1PE_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
+   RT_CHECK(ctx, stat, 0, "failureCause", -1, "PhysicalChannelReconfigurationFailure");
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_PhysicalChannelReconfigurationFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "PhysicalChannelReconfigurationFailure");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalSharedChannelAllocation_r3_IEs_confirmRequest(rtxContext* RT_RESTRICT ctx, PhysicalSharedChannelAllocation_r3_IEs_confirmRequest value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalSharedChannelAllocation_r3_IEs(rtxContext* RT_RESTRICT ctx, const PhysicalSharedChannelAllocation_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalSharedChannelAllocation-r3-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 6) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 5) |
@@ -6874,1964 +3209,324 @@ int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB(rtxContext* ctx, cons
       ((uint64_t)((pvalue->m >> 4) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 5) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 6) & 1u) << 0), 7);
-   RT_CHECK(ctx, stat);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalSharedChannelAllocation-r3-IEs");
+   /* dsch-RNTI */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->dsch_RNTI);
+      RT_CHECK(ctx, stat, 0, "dsch-RNTI", -1, "PhysicalSharedChannelAllocation-r3-IEs");
    }
-   /* ue-positioning-IPDL-Paremeters */
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "PhysicalSharedChannelAllocation-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "PhysicalSharedChannelAllocation-r3-IEs");
+   /* ul-TimingAdvance */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-IPDL-Paremeters");
-      stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UL_TimingAdvanceControl(ctx, &pvalue->ul_TimingAdvance);
+      RT_CHECK(ctx, stat, 0, "ul-TimingAdvance", -1, "PhysicalSharedChannelAllocation-r3-IEs");
    }
-   /* sfn-SFN-RelTimeDifference */
-   rtxCtxtPushElemName(ctx, "sfn-SFN-RelTimeDifference");
-   stat = asn1PE_UMTS_SFN_SFN_RelTimeDifference1(ctx, &pvalue->sfn_SFN_RelTimeDifference);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* sfn-SFN-Drift */
+   /* pusch-CapacityAllocationInfo */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "sfn-SFN-Drift");
-      rtxCtxtPushTypeName(ctx, "SFN-SFN-Drift");
-      if (pvalue->sfn_SFN_Drift > 28) {
-         rtxErrAddUIntParm(ctx, pvalue->sfn_SFN_Drift);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->sfn_SFN_Drift, 0, 28);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_PUSCH_CapacityAllocationInfo(ctx, &pvalue->pusch_CapacityAllocationInfo);
+      RT_CHECK(ctx, stat, 0, "pusch-CapacityAllocationInfo", -1, "PhysicalSharedChannelAllocation-r3-IEs");
    }
-   /* searchWindowSize */
-   rtxCtxtPushElemName(ctx, "searchWindowSize");
-   rtxCtxtPushTypeName(ctx, "OTDOA-SearchWindowSize");
-   if (pvalue->searchWindowSize > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->searchWindowSize);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->searchWindowSize, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* relativeNorth */
+   /* pdsch-CapacityAllocationInfo */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "relativeNorth");
-      if (pvalue->relativeNorth < -20000 || pvalue->relativeNorth > 20000) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->relativeNorth);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->relativeNorth, -20000, 20000);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_PDSCH_CapacityAllocationInfo(ctx, &pvalue->pdsch_CapacityAllocationInfo);
+      RT_CHECK(ctx, stat, 0, "pdsch-CapacityAllocationInfo", -1, "PhysicalSharedChannelAllocation-r3-IEs");
    }
-   /* relativeEast */
+   /* confirmRequest */
    if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "relativeEast");
-      if (pvalue->relativeEast < -20000 || pvalue->relativeEast > 20000) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->relativeEast);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+      if (pvalue->confirmRequest > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->confirmRequest);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "confirmRequest", -1, "PhysicalSharedChannelAllocation-r3-IEs");
       }
-      stat = pe_ConsInt64(ctx, pvalue->relativeEast, -20000, 20000);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->confirmRequest, 0, 1);
+      RT_CHECK(ctx, stat, 0, "confirmRequest", -1, "PhysicalSharedChannelAllocation-r3-IEs");
    }
-   /* relativeAltitude */
+   /* trafficVolumeReportRequest */
    if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "relativeAltitude");
-      if (pvalue->relativeAltitude < -4000 || pvalue->relativeAltitude > 4000) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->relativeAltitude);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->relativeAltitude, -4000, 4000);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->trafficVolumeReportRequest, 0, 255);
+      RT_CHECK(ctx, stat, 0, "trafficVolumeReportRequest", -1, "PhysicalSharedChannelAllocation-r3-IEs");
    }
-   /* fineSFN-SFN */
-   rtxCtxtPushElemName(ctx, "fineSFN-SFN");
-   rtxCtxtPushTypeName(ctx, "FineSFN-SFN");
-   if ((uint64_t)pvalue->fineSFN_SFN > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->fineSFN_SFN);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->fineSFN_SFN, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* roundTripTime */
+   /* iscpTimeslotList */
    if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "roundTripTime");
-      if ((uint64_t)pvalue->roundTripTime > 32766u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->roundTripTime);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->roundTripTime, 0, 32766);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_TimeslotList(ctx, &pvalue->iscpTimeslotList);
+      RT_CHECK(ctx, stat, 0, "iscpTimeslotList", -1, "PhysicalSharedChannelAllocation-r3-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
+   /* requestPCCPCHRSCP */
+   stat = rtxEncBit(ctx, pvalue->requestPCCPCHRSCP);
+   RT_CHECK(ctx, stat, 0, "requestPCCPCHRSCP", -1, "PhysicalSharedChannelAllocation-r3-IEs");
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellList_UEB(rtxContext* ctx, const UE_Positioning_OTDOA_NeighbourCellList_UEB* pvalue)
+int asn1PE_UMTS_PhysicalSharedChannelAllocation_r3_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalSharedChannelAllocation_r3_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-NeighbourCellList-UEB");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB(ctx, (const UE_Positioning_OTDOA_NeighbourCellInfo_UEB*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB(rtxContext* ctx, const UE_Positioning_OTDOA_AssistanceData_UEB* pvalue)
+int asn1PE_UMTS_PhysicalSharedChannelAllocation_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalSharedChannelAllocation_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-AssistanceData-UEB");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-OTDOA-ReferenceCellInfo-UEB */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalSharedChannelAllocation-r3-add-ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-ReferenceCellInfo-UEB");
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB(ctx, &pvalue->ue_positioning_OTDOA_ReferenceCellInfo_UEB);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->physicalSharedChannelAllocation_r3_add_ext.numbits, pvalue->physicalSharedChannelAllocation_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "physicalSharedChannelAllocation-r3-add-ext", -1, 0);
    }
-   /* ue-positioning-OTDOA-NeighbourCellList-UEB */
+   /* nonCriticalExtensions */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-NeighbourCellList-UEB");
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellList_UEB(ctx, &pvalue->ue_positioning_OTDOA_NeighbourCellList_UEB);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_PhysicalSharedChannelAllocation_r3_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_Measurement_v390ext(rtxContext* ctx, const UE_Positioning_Measurement_v390ext* pvalue)
+int asn1PE_UMTS_PhysicalSharedChannelAllocation_r3(rtxContext* RT_RESTRICT ctx, const PhysicalSharedChannelAllocation_r3* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-Measurement-v390ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalSharedChannelAllocation-r3 */
+   stat = asn1PE_UMTS_PhysicalSharedChannelAllocation_r3_IEs(ctx, &pvalue->physicalSharedChannelAllocation_r3);
+   RT_CHECK(ctx, stat, 0, "physicalSharedChannelAllocation-r3", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PhysicalSharedChannelAllocation_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalSharedChannelAllocation_r4_IEs_confirmRequest(rtxContext* RT_RESTRICT ctx, PhysicalSharedChannelAllocation_r4_IEs_confirmRequest value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalSharedChannelAllocation_r4_IEs(rtxContext* RT_RESTRICT ctx, const PhysicalSharedChannelAllocation_r4_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalSharedChannelAllocation-r4-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalSharedChannelAllocation-r4-IEs");
+   /* ul-TimingAdvance */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UL_TimingAdvanceControl_r4(ctx, &pvalue->ul_TimingAdvance);
+      RT_CHECK(ctx, stat, 0, "ul-TimingAdvance", -1, "PhysicalSharedChannelAllocation-r4-IEs");
+   }
+   /* pusch-CapacityAllocationInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r4(ctx, &pvalue->pusch_CapacityAllocationInfo);
+      RT_CHECK(ctx, stat, 0, "pusch-CapacityAllocationInfo", -1, "PhysicalSharedChannelAllocation-r4-IEs");
+   }
+   /* pdsch-CapacityAllocationInfo */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r4(ctx, &pvalue->pdsch_CapacityAllocationInfo);
+      RT_CHECK(ctx, stat, 0, "pdsch-CapacityAllocationInfo", -1, "PhysicalSharedChannelAllocation-r4-IEs");
+   }
+   /* confirmRequest */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->confirmRequest > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->confirmRequest);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "confirmRequest", -1, "PhysicalSharedChannelAllocation-r4-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->confirmRequest, 0, 1);
+      RT_CHECK(ctx, stat, 0, "confirmRequest", -1, "PhysicalSharedChannelAllocation-r4-IEs");
+   }
+   /* trafficVolumeReportRequest */
+   if (pvalue->m & 0x10u) {
+      stat = pe_ConsUInt64(ctx, pvalue->trafficVolumeReportRequest, 0, 255);
+      RT_CHECK(ctx, stat, 0, "trafficVolumeReportRequest", -1, "PhysicalSharedChannelAllocation-r4-IEs");
+   }
+   /* iscpTimeslotList */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_TimeslotList_r4(ctx, &pvalue->iscpTimeslotList);
+      RT_CHECK(ctx, stat, 0, "iscpTimeslotList", -1, "PhysicalSharedChannelAllocation-r4-IEs");
+   }
+   /* requestPCCPCHRSCP */
+   stat = rtxEncBit(ctx, pvalue->requestPCCPCHRSCP);
+   RT_CHECK(ctx, stat, 0, "requestPCCPCHRSCP", -1, "PhysicalSharedChannelAllocation-r4-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalSharedChannelAllocation_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const PhysicalSharedChannelAllocation_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalSharedChannelAllocation-v690ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalSharedChannelAllocation-v690ext-IEs");
+   /* beaconPLEst */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->beaconPLEst > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->beaconPLEst);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "BEACON-PL-Est", "beaconPLEst", -1, "PhysicalSharedChannelAllocation-v690ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->beaconPLEst, 0, 0);
+      RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "PhysicalSharedChannelAllocation-v690ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalSharedChannelAllocation_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const PhysicalSharedChannelAllocation_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalSharedChannelAllocation-v770ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-ReportingQuantity-v390ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalSharedChannelAllocation-v770ext-IEs");
+   /* ul-TimingAdvance */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-ReportingQuantity-v390ext");
-      stat = asn1PE_UMTS_UE_Positioning_ReportingQuantity_v390ext(ctx, &pvalue->ue_positioning_ReportingQuantity_v390ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UL_TimingAdvanceControl_r7(ctx, &pvalue->ul_TimingAdvance);
+      RT_CHECK(ctx, stat, 0, "ul-TimingAdvance", -1, "PhysicalSharedChannelAllocation-v770ext-IEs");
    }
-   /* measurementValidity */
+   /* pusch-CapacityAllocationInfo */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "measurementValidity");
-      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r7(ctx, &pvalue->pusch_CapacityAllocationInfo);
+      RT_CHECK(ctx, stat, 0, "pusch-CapacityAllocationInfo", -1, "PhysicalSharedChannelAllocation-v770ext-IEs");
    }
-   /* ue-positioning-OTDOA-AssistanceData-UEB */
+   /* pdsch-CapacityAllocationInfo */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-AssistanceData-UEB");
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData_UEB);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r7(ctx, &pvalue->pdsch_CapacityAllocationInfo);
+      RT_CHECK(ctx, stat, 0, "pdsch-CapacityAllocationInfo", -1, "PhysicalSharedChannelAllocation-v770ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_Measurement_v920ext(rtxContext* ctx, const UE_Positioning_Measurement_v920ext* pvalue)
+int asn1PE_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-Measurement-v920ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GPS-AssistanceData */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-AssistanceData");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_AssistanceData_v920ext(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GANSS-AssistanceData */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-AssistanceData");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AssistanceData_v920ext(ctx, &pvalue->ue_positioning_GANSS_AssistanceData);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_IPDL_Parameters_TDDList_r4_ext(rtxContext* ctx, const UE_Positioning_IPDL_Parameters_TDDList_r4_ext* pvalue)
+int asn1PE_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-IPDL-Parameters-TDDList-r4-ext");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "UE-Positioning-IPDL-Parameters-TDD-r4-ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters_TDD_r4_ext(ctx, (const UE_Positioning_IPDL_Parameters_TDD_r4_ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_r4ext(rtxContext* ctx, const UE_Positioning_OTDOA_AssistanceData_r4ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-AssistanceData-r4ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ue-Positioning-IPDL-Parameters-TDD-r4-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-IPDL-Parameters-TDD-r4-ext");
-      stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters_TDD_r4_ext(ctx, &pvalue->ue_Positioning_IPDL_Parameters_TDD_r4_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-Positioning-IPDL-Parameters-TDDList-r4-ext */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-IPDL-Parameters-TDDList-r4-ext");
-      stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters_TDDList_r4_ext(ctx, &pvalue->ue_Positioning_IPDL_Parameters_TDDList_r4_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_ext(rtxContext* ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_UEB_ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB-ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* roundTripTimeExtension */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "roundTripTimeExtension");
-      if ((uint64_t)pvalue->roundTripTimeExtension > 70274u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->roundTripTimeExtension);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->roundTripTimeExtension, 0, 70274);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext(rtxContext* ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB-ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* roundTripTimeExtension */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "roundTripTimeExtension");
-      if ((uint64_t)pvalue->roundTripTimeExtension > 70274u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->roundTripTimeExtension);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->roundTripTimeExtension, 0, 70274);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellList_UEB_ext(rtxContext* ctx, const UE_Positioning_OTDOA_NeighbourCellList_UEB_ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-NeighbourCellList-UEB-ext");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB-ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext(ctx, (const UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB_ext(rtxContext* ctx, const UE_Positioning_OTDOA_AssistanceData_UEB_ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-AssistanceData-UEB-ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-OTDOA-ReferenceCellInfo-UEB-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-ReferenceCellInfo-UEB-ext");
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_ext(ctx, &pvalue->ue_positioning_OTDOA_ReferenceCellInfo_UEB_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-OTDOA-NeighbourCellList-UEB-ext */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-NeighbourCellList-UEB-ext");
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellList_UEB_ext(ctx, &pvalue->ue_positioning_OTDOA_NeighbourCellList_UEB_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_MeasuredResultsTDD_ext(rtxContext* ctx, const UE_Positioning_OTDOA_MeasuredResultsTDD_ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-Positioning-OTDOA-MeasuredResultsTDD-ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* neighbourList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "neighbourList");
-      stat = asn1PE_UMTS_NeighbourList_TDD_r7(ctx, &pvalue->neighbourList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UTRAN_FDD_Frequency(rtxContext* ctx, const UTRAN_FDD_Frequency* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UTRAN-FDD-Frequency");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* uarfcn */
-   rtxCtxtPushElemName(ctx, "uarfcn");
-   rtxCtxtPushTypeName(ctx, "UARFCN");
-   if ((uint64_t)pvalue->uarfcn > 16383u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->uarfcn);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->uarfcn, 0, 16383);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* priority */
-   rtxCtxtPushElemName(ctx, "priority");
-   if ((uint64_t)pvalue->priority > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->priority);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->priority, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* threshXhigh */
-   rtxCtxtPushElemName(ctx, "threshXhigh");
-   if ((uint64_t)pvalue->threshXhigh > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->threshXhigh);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->threshXhigh, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* threshXlow */
-   rtxCtxtPushElemName(ctx, "threshXlow");
-   if ((uint64_t)pvalue->threshXlow > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->threshXlow);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->threshXlow, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* qQualMinFDD */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "qQualMinFDD");
-      if (pvalue->qQualMinFDD < -24 || pvalue->qQualMinFDD > 0) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->qQualMinFDD);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->qQualMinFDD, -24, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* qRxLevMinFDD */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "qRxLevMinFDD");
-      if (pvalue->qRxLevMinFDD < -60 || pvalue->qRxLevMinFDD > -13) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->qRxLevMinFDD);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->qRxLevMinFDD, -60, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UTRAN_FDD_FrequencyList(rtxContext* ctx, const UTRAN_FDD_FrequencyList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "UTRAN-FDD-FrequencyList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "UTRAN-FDD-Frequency", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_UTRAN_FDD_Frequency(ctx, (const UTRAN_FDD_Frequency*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UTRAN_TDD_Frequency(rtxContext* ctx, const UTRAN_TDD_Frequency* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UTRAN-TDD-Frequency");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* uarfcn */
-   rtxCtxtPushElemName(ctx, "uarfcn");
-   rtxCtxtPushTypeName(ctx, "UARFCN");
-   if ((uint64_t)pvalue->uarfcn > 16383u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->uarfcn);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->uarfcn, 0, 16383);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* priority */
-   rtxCtxtPushElemName(ctx, "priority");
-   if ((uint64_t)pvalue->priority > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->priority);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->priority, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* threshXhigh */
-   rtxCtxtPushElemName(ctx, "threshXhigh");
-   if ((uint64_t)pvalue->threshXhigh > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->threshXhigh);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->threshXhigh, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* threshXlow */
-   rtxCtxtPushElemName(ctx, "threshXlow");
-   if ((uint64_t)pvalue->threshXlow > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->threshXlow);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->threshXlow, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* qRxLevMinTDD */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "qRxLevMinTDD");
-      if (pvalue->qRxLevMinTDD < -60 || pvalue->qRxLevMinTDD > -13) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->qRxLevMinTDD);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->qRxLevMinTDD, -60, -13);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UTRAN_TDD_FrequencyList(rtxContext* ctx, const UTRAN_TDD_FrequencyList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "UTRAN-TDD-FrequencyList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "UTRAN-TDD-Frequency", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_UTRAN_TDD_Frequency(ctx, (const UTRAN_TDD_Frequency*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UTRA_PriorityInfoList_utra_ServingCell(rtxContext* ctx, const UTRA_PriorityInfoList_utra_ServingCell* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* priority */
-   rtxCtxtPushElemName(ctx, "priority");
-   if ((uint64_t)pvalue->priority > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->priority);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->priority, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* s-PrioritySearch1 */
-   rtxCtxtPushElemName(ctx, "s-PrioritySearch1");
-   if ((uint64_t)pvalue->s_PrioritySearch1 > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->s_PrioritySearch1);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->s_PrioritySearch1, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* s-PrioritySearch2 */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "s-PrioritySearch2");
-      if ((uint64_t)pvalue->s_PrioritySearch2 > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->s_PrioritySearch2);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->s_PrioritySearch2, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* threshServingLow */
-   rtxCtxtPushElemName(ctx, "threshServingLow");
-   if ((uint64_t)pvalue->threshServingLow > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->threshServingLow);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->threshServingLow, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UTRA_PriorityInfoList(rtxContext* ctx, const UTRA_PriorityInfoList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UTRA-PriorityInfoList");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* utra-ServingCell */
-   rtxCtxtPushElemName(ctx, "utra-ServingCell");
-   stat = asn1PE_UMTS_UTRA_PriorityInfoList_utra_ServingCell(ctx, &pvalue->utra_ServingCell);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* utran-FDD-FrequencyList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "utran-FDD-FrequencyList");
-      stat = asn1PE_UMTS_UTRAN_FDD_FrequencyList(ctx, &pvalue->utran_FDD_FrequencyList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* utran-TDD-FrequencyList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "utran-TDD-FrequencyList");
-      stat = asn1PE_UMTS_UTRAN_TDD_FrequencyList(ctx, &pvalue->utran_TDD_FrequencyList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UTRA_PriorityInfoList_v920ext(rtxContext* ctx, const UTRA_PriorityInfoList_v920ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UTRA-PriorityInfoList-v920ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* threshServingLow2 */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "threshServingLow2");
-      if ((uint64_t)pvalue->threshServingLow2 > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->threshServingLow2);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->threshServingLow2, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_BCCH_ModificationTime(rtxContext* ctx, BCCH_ModificationTime value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "BCCH-ModificationTime");
-   if ((uint64_t)value > 511u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 511);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_BCCH_ModificationInfo(rtxContext* ctx, const BCCH_ModificationInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "BCCH-ModificationInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* mib-ValueTag */
-   rtxCtxtPushElemName(ctx, "mib-ValueTag");
-   rtxCtxtPushTypeName(ctx, "MIB-ValueTag");
-   if ((uint64_t)(pvalue->mib_ValueTag - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->mib_ValueTag);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mib_ValueTag, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* bcch-ModificationTime */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "bcch-ModificationTime");
-      rtxCtxtPushTypeName(ctx, "BCCH-ModificationTime");
-      if ((uint64_t)pvalue->bcch_ModificationTime > 511u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->bcch_ModificationTime);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->bcch_ModificationTime, 0, 511);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CDMA2000_Message_payload(rtxContext* ctx, const CDMA2000_Message_payload* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   RT_SET_SIZE(ctx, 1, 512);
-   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_CDMA2000_Message(rtxContext* ctx, const CDMA2000_Message* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CDMA2000-Message");
-   /* msg-Type */
-   rtxCtxtPushElemName(ctx, "msg-Type");
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->msg_Type, 8, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* payload */
-   rtxCtxtPushElemName(ctx, "payload");
-   stat = asn1PE_UMTS_CDMA2000_Message_payload(ctx, &pvalue->payload);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CDMA2000_MessageList(rtxContext* ctx, const CDMA2000_MessageList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "CDMA2000-MessageList");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "CDMA2000-Message", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_CDMA2000_Message(ctx, (const CDMA2000_Message*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_FrequencyInfoCDMA2000(rtxContext* ctx, const FrequencyInfoCDMA2000* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "FrequencyInfoCDMA2000");
-   /* band-Class */
-   rtxCtxtPushElemName(ctx, "band-Class");
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pe_BitString32(ctx, &pvalue->band_Class, 5, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cdma-Freq */
-   rtxCtxtPushElemName(ctx, "cdma-Freq");
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->cdma_Freq, 11, 11);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CDMA2000_UMTS_Frequency_List(rtxContext* ctx, const CDMA2000_UMTS_Frequency_List* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "CDMA2000-UMTS-Frequency-List");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "FrequencyInfoCDMA2000", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_FrequencyInfoCDMA2000(ctx, (const FrequencyInfoCDMA2000*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DataTransmFrequency_dataTransmFreqGranularity(rtxContext* ctx, DataTransmFrequency_dataTransmFreqGranularity value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_DataTransmFrequency(rtxContext* ctx, const DataTransmFrequency* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DataTransmFrequency");
-   /* dataTransmFreqGranularity */
-   rtxCtxtPushElemName(ctx, "dataTransmFreqGranularity");
-   if (pvalue->dataTransmFreqGranularity > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->dataTransmFreqGranularity);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dataTransmFreqGranularity, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* numberOfDataTransmOcc */
-   rtxCtxtPushElemName(ctx, "numberOfDataTransmOcc");
-   if ((uint64_t)(pvalue->numberOfDataTransmOcc - 1) > 609u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->numberOfDataTransmOcc);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->numberOfDataTransmOcc, 1, 610);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DataVolumePerRB(rtxContext* ctx, const DataVolumePerRB* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DataVolumePerRB");
-   /* rb-Identity */
-   rtxCtxtPushElemName(ctx, "rb-Identity");
-   rtxCtxtPushTypeName(ctx, "RB-Identity");
-   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dataVolume */
-   rtxCtxtPushElemName(ctx, "dataVolume");
-   stat = pe_ConsUInt64(ctx, pvalue->dataVolume, 0, 4294967295ULL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DataVolumePerRB_List(rtxContext* ctx, const DataVolumePerRB_List* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "DataVolumePerRB-List");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "DataVolumePerRB", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_DataVolumePerRB(ctx, (const DataVolumePerRB*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DataVolumeHistory(rtxContext* ctx, const DataVolumeHistory* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DataVolumeHistory");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* dataVolumeMontoringWindow */
-   rtxCtxtPushElemName(ctx, "dataVolumeMontoringWindow");
-   if ((uint64_t)(pvalue->dataVolumeMontoringWindow - 1) > 119u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->dataVolumeMontoringWindow);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dataVolumeMontoringWindow, 1, 120);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dataTransmFrequency */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dataTransmFrequency");
-      stat = asn1PE_UMTS_DataTransmFrequency(ctx, &pvalue->dataTransmFrequency);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dataVolumePerRB */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dataVolumePerRB");
-      stat = asn1PE_UMTS_DataVolumePerRB_List(ctx, &pvalue->dataVolumePerRB);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ETWS_Information_warningType(rtxContext* ctx, const ETWS_Information_warningType* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   RT_SET_SIZE(ctx, 1, 2);
-   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_ETWS_Information_messageIdentifier(rtxContext* ctx, const ETWS_Information_messageIdentifier* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   RT_SET_SIZE(ctx, 2, 2);
-   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_ETWS_Information_serialNumber(rtxContext* ctx, const ETWS_Information_serialNumber* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   RT_SET_SIZE(ctx, 2, 2);
-   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_ETWS_Information(rtxContext* ctx, const ETWS_Information* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ETWS-Information");
-   /* warningType */
-   rtxCtxtPushElemName(ctx, "warningType");
-   stat = asn1PE_UMTS_ETWS_Information_warningType(ctx, &pvalue->warningType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* messageIdentifier */
-   rtxCtxtPushElemName(ctx, "messageIdentifier");
-   stat = asn1PE_UMTS_ETWS_Information_messageIdentifier(ctx, &pvalue->messageIdentifier);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* serialNumber */
-   rtxCtxtPushElemName(ctx, "serialNumber");
-   stat = asn1PE_UMTS_ETWS_Information_serialNumber(ctx, &pvalue->serialNumber);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ETWS_WarningSecurityInfo(rtxContext* ctx, const ETWS_WarningSecurityInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ETWS-WarningSecurityInfo");
-   RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_FDD_UMTS_Frequency_List(rtxContext* ctx, const FDD_UMTS_Frequency_List* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "FDD-UMTS-Frequency-List");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "FrequencyInfoFDD", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_FrequencyInfoFDD(ctx, (const FrequencyInfoFDD*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GERAN_SystemInfoBlock(rtxContext* ctx, const GERAN_SystemInfoBlock* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "GERAN-SystemInfoBlock");
-   RT_SET_SIZE(ctx, 1, 23);
-   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GERAN_SystemInformation(rtxContext* ctx, const GERAN_SystemInformation* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "GERAN-SystemInformation");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "GERAN-SystemInfoBlock", i);
-      stat = asn1PE_UMTS_GERAN_SystemInfoBlock(ctx, &pvalue->elem[i]);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_BA_Range(rtxContext* ctx, const GSM_BA_Range* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "GSM-BA-Range");
-   /* gsmLowRangeUARFCN */
-   rtxCtxtPushElemName(ctx, "gsmLowRangeUARFCN");
-   rtxCtxtPushTypeName(ctx, "UARFCN");
-   if ((uint64_t)pvalue->gsmLowRangeUARFCN > 16383u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->gsmLowRangeUARFCN);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->gsmLowRangeUARFCN, 0, 16383);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* gsmUpRangeUARFCN */
-   rtxCtxtPushElemName(ctx, "gsmUpRangeUARFCN");
-   rtxCtxtPushTypeName(ctx, "UARFCN");
-   if ((uint64_t)pvalue->gsmUpRangeUARFCN > 16383u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->gsmUpRangeUARFCN);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->gsmUpRangeUARFCN, 0, 16383);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_BA_Range_List(rtxContext* ctx, const GSM_BA_Range_List* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "GSM-BA-Range-List");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "GSM-BA-Range", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_GSM_BA_Range(ctx, (const GSM_BA_Range*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_Classmark2(rtxContext* ctx, const GSM_Classmark2* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "GSM-Classmark2");
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_Classmark3(rtxContext* ctx, const GSM_Classmark3* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "GSM-Classmark3");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_MessageList_element(rtxContext* ctx, const GSM_MessageList_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   RT_SET_SIZE(ctx, 1, 512);
-   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_MessageList(rtxContext* ctx, const GSM_MessageList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "GSM-MessageList");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      stat = asn1PE_UMTS_GSM_MessageList_element(ctx, &pvalue->elem[i]);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GsmSecurityCapability(rtxContext* ctx, GsmSecurityCapability value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "GsmSecurityCapability");
-   {
-      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
-      uint32_t used = (uint32_t)(last + 1);
-      value.numbits = used <= 7 ? 7 : used;
-      if (last < -1) RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   RT_SET_SIZE(ctx, 7, 7);
-   stat = pe_BitString32(ctx, &value, 7, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HNBName(rtxContext* ctx, const HNBName* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HNBName");
-   RT_SET_SIZE(ctx, 1, 48);
-   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRAT_ChangeFailureCause(rtxContext* ctx, const InterRAT_ChangeFailureCause* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRAT-ChangeFailureCause");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 7) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "configurationUnacceptable");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "physicalChannelFailure");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "protocolError");
-         if (pvalue->u.protocolError == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_ProtocolErrorInformation(ctx, pvalue->u.protocolError);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "unspecified");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "spare4");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "spare3");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "spare2");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 8:
-         rtxCtxtPushElemName(ctx, "spare1");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GERANIu_MessageList_element(rtxContext* ctx, const GERANIu_MessageList_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   RT_SET_SIZE(ctx, 1, 32768);
-   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_GERANIu_MessageList(rtxContext* ctx, const GERANIu_MessageList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "GERANIu-MessageList");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      stat = asn1PE_UMTS_GERANIu_MessageList_element(ctx, &pvalue->elem[i]);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_GERANIu_RadioAccessCapability(rtxContext* ctx, const GERANIu_RadioAccessCapability* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "GERANIu-RadioAccessCapability");
-   RT_SET_SIZE(ctx, 1, 170);
-   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRAT_UE_RadioAccessCapability_gsm(rtxContext* ctx, const InterRAT_UE_RadioAccessCapability_gsm* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* gsm-Classmark2 */
-   rtxCtxtPushElemName(ctx, "gsm-Classmark2");
-   stat = asn1PE_UMTS_GSM_Classmark2(ctx, &pvalue->gsm_Classmark2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gsm-Classmark3 */
-   rtxCtxtPushElemName(ctx, "gsm-Classmark3");
-   stat = asn1PE_UMTS_GSM_Classmark3(ctx, &pvalue->gsm_Classmark3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRAT_UE_RadioAccessCapability_cdma2000(rtxContext* ctx, const InterRAT_UE_RadioAccessCapability_cdma2000* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* cdma2000-MessageList */
-   rtxCtxtPushElemName(ctx, "cdma2000-MessageList");
-   stat = asn1PE_UMTS_CDMA2000_MessageList(ctx, &pvalue->cdma2000_MessageList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRAT_UE_RadioAccessCapability(rtxContext* ctx, const InterRAT_UE_RadioAccessCapability* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRAT-UE-RadioAccessCapability");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "gsm");
-         if (pvalue->u.gsm == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterRAT_UE_RadioAccessCapability_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "cdma2000");
-         if (pvalue->u.cdma2000 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterRAT_UE_RadioAccessCapability_cdma2000(ctx, pvalue->u.cdma2000);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRAT_UE_RadioAccessCapabilityList(rtxContext* ctx, const InterRAT_UE_RadioAccessCapabilityList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "InterRAT-UE-RadioAccessCapabilityList");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "InterRAT-UE-RadioAccessCapability", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_InterRAT_UE_RadioAccessCapability(ctx, (const InterRAT_UE_RadioAccessCapability*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRAT_UE_RadioAccessCapability_v590ext(rtxContext* ctx, const InterRAT_UE_RadioAccessCapability_v590ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRAT-UE-RadioAccessCapability-v590ext");
-   /* geranIu-RadioAccessCapability */
-   rtxCtxtPushElemName(ctx, "geranIu-RadioAccessCapability");
-   stat = asn1PE_UMTS_GERANIu_RadioAccessCapability(ctx, &pvalue->geranIu_RadioAccessCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRAT_UE_SecurityCapability_gsm(rtxContext* ctx, const InterRAT_UE_SecurityCapability_gsm* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* gsmSecurityCapability */
-   rtxCtxtPushElemName(ctx, "gsmSecurityCapability");
-   stat = asn1PE_UMTS_GsmSecurityCapability(ctx, pvalue->gsmSecurityCapability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRAT_UE_SecurityCapability(rtxContext* ctx, const InterRAT_UE_SecurityCapability* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRAT-UE-SecurityCapability");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 0) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "gsm");
-         if (pvalue->u.gsm == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterRAT_UE_SecurityCapability_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRAT_UE_SecurityCapList(rtxContext* ctx, const InterRAT_UE_SecurityCapList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "InterRAT-UE-SecurityCapList");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "InterRAT-UE-SecurityCapability", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_InterRAT_UE_SecurityCapability(ctx, (const InterRAT_UE_SecurityCapability*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRAT_HO_FailureCause(rtxContext* ctx, const InterRAT_HO_FailureCause* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRAT-HO-FailureCause");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 15) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "configurationUnacceptable");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "physicalChannelFailure");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "protocolError");
-         if (pvalue->u.protocolError == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_ProtocolErrorInformation(ctx, pvalue->u.protocolError);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "interRAT-ProtocolError");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "unspecified");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "spare11");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 7:
-         rtxCtxtPushElemName(ctx, "spare10");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 8:
-         rtxCtxtPushElemName(ctx, "spare9");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 9:
-         rtxCtxtPushElemName(ctx, "spare8");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 10:
-         rtxCtxtPushElemName(ctx, "spare7");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 11:
-         rtxCtxtPushElemName(ctx, "spare6");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 12:
-         rtxCtxtPushElemName(ctx, "spare5");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 13:
-         rtxCtxtPushElemName(ctx, "spare4");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 14:
-         rtxCtxtPushElemName(ctx, "spare3");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 15:
-         rtxCtxtPushElemName(ctx, "spare2");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 16:
-         rtxCtxtPushElemName(ctx, "spare1");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_TDD_UMTS_Frequency_List(rtxContext* ctx, const TDD_UMTS_Frequency_List* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "TDD-UMTS-Frequency-List");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "FrequencyInfoTDD", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, (const FrequencyInfoTDD*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Rplmn_Information(rtxContext* ctx, const Rplmn_Information* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Rplmn-Information");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* gsm-BA-Range-List */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "gsm-BA-Range-List");
-      stat = asn1PE_UMTS_GSM_BA_Range_List(ctx, &pvalue->gsm_BA_Range_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* fdd-UMTS-Frequency-List */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "fdd-UMTS-Frequency-List");
-      stat = asn1PE_UMTS_FDD_UMTS_Frequency_List(ctx, &pvalue->fdd_UMTS_Frequency_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tdd-UMTS-Frequency-List */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "tdd-UMTS-Frequency-List");
-      stat = asn1PE_UMTS_TDD_UMTS_Frequency_List(ctx, &pvalue->tdd_UMTS_Frequency_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cdma2000-UMTS-Frequency-List */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "cdma2000-UMTS-Frequency-List");
-      stat = asn1PE_UMTS_CDMA2000_UMTS_Frequency_List(ctx, &pvalue->cdma2000_UMTS_Frequency_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_Rplmn_Information_r4(rtxContext* ctx, const Rplmn_Information_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "Rplmn-Information-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat);
-   /* gsm-BA-Range-List */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "gsm-BA-Range-List");
-      stat = asn1PE_UMTS_GSM_BA_Range_List(ctx, &pvalue->gsm_BA_Range_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* fdd-UMTS-Frequency-List */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "fdd-UMTS-Frequency-List");
-      stat = asn1PE_UMTS_FDD_UMTS_Frequency_List(ctx, &pvalue->fdd_UMTS_Frequency_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tdd384-UMTS-Frequency-List */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "tdd384-UMTS-Frequency-List");
-      stat = asn1PE_UMTS_TDD_UMTS_Frequency_List(ctx, &pvalue->tdd384_UMTS_Frequency_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tdd128-UMTS-Frequency-List */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "tdd128-UMTS-Frequency-List");
-      stat = asn1PE_UMTS_TDD_UMTS_Frequency_List(ctx, &pvalue->tdd128_UMTS_Frequency_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cdma2000-UMTS-Frequency-List */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "cdma2000-UMTS-Frequency-List");
-      stat = asn1PE_UMTS_CDMA2000_UMTS_Frequency_List(ctx, &pvalue->cdma2000_UMTS_Frequency_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType4_v4b0ext_IEs(rtxContext* ctx, const SysInfoType4_v4b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType4-v4b0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* mapping-LCR */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "mapping-LCR");
-      stat = asn1PE_UMTS_Mapping_LCR_r4(ctx, &pvalue->mapping_LCR);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType4_v590ext(rtxContext* ctx, const SysInfoType4_v590ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType4-v590ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellSelectReselectInfo-v590ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellSelectReselectInfo-v590ext");
-      stat = asn1PE_UMTS_CellSelectReselectInfo_v590ext(ctx, &pvalue->cellSelectReselectInfo_v590ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType4_v5b0ext_IEs(rtxContext* ctx, const SysInfoType4_v5b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType4-v5b0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellSelectReselectInfoPCHFACH-v5b0ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellSelectReselectInfoPCHFACH-v5b0ext");
-      stat = asn1PE_UMTS_CellSelectReselectInfoPCHFACH_v5b0ext(ctx, &pvalue->cellSelectReselectInfoPCHFACH_v5b0ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType4_v5c0ext_IEs(rtxContext* ctx, const SysInfoType4_v5c0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType4-v5c0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellSelectReselectInfoTreselectionScaling-v5c0ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellSelectReselectInfoTreselectionScaling-v5c0ext");
-      stat = asn1PE_UMTS_CellSelectReselectInfoTreselectionScaling_v5c0ext(ctx, &pvalue->cellSelectReselectInfoTreselectionScaling_v5c0ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension_nonCriticalExtensions(rtxContext* ctx, const SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension(rtxContext* ctx, const SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType4-v5c0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType4-v5c0ext");
-   stat = asn1PE_UMTS_SysInfoType4_v5c0ext_IEs(ctx, &pvalue->sysInfoType4_v5c0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalSharedChannelAllocation-v770ext */
+   stat = asn1PE_UMTS_PhysicalSharedChannelAllocation_v770ext_IEs(ctx, &pvalue->physicalSharedChannelAllocation_v770ext);
+   RT_CHECK(ctx, stat, 0, "physicalSharedChannelAllocation-v770ext", -1, 0);
    /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension(rtxContext* ctx, const SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension* pvalue)
+int asn1PE_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType4-v5b0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType4-v5b0ext");
-   stat = asn1PE_UMTS_SysInfoType4_v5b0ext_IEs(ctx, &pvalue->sysInfoType4_v5b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v5c0NonCriticalExtension */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalSharedChannelAllocation-v690ext */
+   stat = asn1PE_UMTS_PhysicalSharedChannelAllocation_v690ext_IEs(ctx, &pvalue->physicalSharedChannelAllocation_v690ext);
+   RT_CHECK(ctx, stat, 0, "physicalSharedChannelAllocation-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v5c0NonCriticalExtension");
-      stat = asn1PE_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension(ctx, &pvalue->v5c0NonCriticalExtension);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* ctx, const SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension* pvalue)
+int asn1PE_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType4-v590ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType4-v590ext");
-   stat = asn1PE_UMTS_SysInfoType4_v590ext(ctx, &pvalue->sysInfoType4_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v5b0NonCriticalExtension */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v5b0NonCriticalExtension");
-      stat = asn1PE_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension(ctx, &pvalue->v5b0NonCriticalExtension);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType4_v4b0NonCriticalExtensions(rtxContext* ctx, const SysInfoType4_v4b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType4-v4b0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType4-v4b0ext");
-   stat = asn1PE_UMTS_SysInfoType4_v4b0ext_IEs(ctx, &pvalue->sysInfoType4_v4b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v590NonCriticalExtension */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtension");
-      stat = asn1PE_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension(ctx, &pvalue->v590NonCriticalExtension);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType4(rtxContext* ctx, const SysInfoType4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellIdentity */
-   rtxCtxtPushElemName(ctx, "cellIdentity");
-   stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->cellIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellSelectReselectInfo */
-   rtxCtxtPushElemName(ctx, "cellSelectReselectInfo");
-   stat = asn1PE_UMTS_CellSelectReselectInfoSIB_3_4(ctx, &pvalue->cellSelectReselectInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellAccessRestriction */
-   rtxCtxtPushElemName(ctx, "cellAccessRestriction");
-   stat = asn1PE_UMTS_CellAccessRestriction(ctx, &pvalue->cellAccessRestriction);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v4b0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v4b0NonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType4_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType5bis(rtxContext* ctx, const SysInfoType5bis* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType5bis");
-   stat = asn1PE_UMTS_SysInfoType5(ctx, pvalue);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType6_modeSpecificInfo_fdd(rtxContext* ctx, const SysInfoType6_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* aich-PowerOffset */
-   rtxCtxtPushElemName(ctx, "aich-PowerOffset");
-   rtxCtxtPushTypeName(ctx, "AICH-PowerOffset");
-   if (pvalue->aich_PowerOffset < -22 || pvalue->aich_PowerOffset > 5) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->aich_PowerOffset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->aich_PowerOffset, -22, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dummy */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      rtxCtxtPushTypeName(ctx, "CSICH-PowerOffset");
-      if (pvalue->dummy < -10 || pvalue->dummy > 5) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->dummy);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->dummy, -10, 5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType6_modeSpecificInfo_tdd(rtxContext* ctx, const SysInfoType6_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* pusch-SysInfoList-SFN */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalSharedChannelAllocation-r4-add-ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pusch-SysInfoList-SFN");
-      stat = asn1PE_UMTS_PUSCH_SysInfoList_SFN(ctx, &pvalue->pusch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->physicalSharedChannelAllocation_r4_add_ext.numbits, pvalue->physicalSharedChannelAllocation_r4_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "physicalSharedChannelAllocation-r4-add-ext", -1, 0);
    }
-   /* pdsch-SysInfoList-SFN */
+   /* v690NonCriticalExtensions */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "pdsch-SysInfoList-SFN");
-      stat = asn1PE_UMTS_PDSCH_SysInfoList_SFN(ctx, &pvalue->pdsch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
    }
-   /* openLoopPowerControl-TDD */
-   rtxCtxtPushElemName(ctx, "openLoopPowerControl-TDD");
-   stat = asn1PE_UMTS_OpenLoopPowerControl_TDD(ctx, &pvalue->openLoopPowerControl_TDD);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType6_modeSpecificInfo(rtxContext* ctx, const SysInfoType6_modeSpecificInfo* pvalue)
+int asn1PE_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, const PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* physicalSharedChannelAllocation-r4 */
+   stat = asn1PE_UMTS_PhysicalSharedChannelAllocation_r4_IEs(ctx, &pvalue->physicalSharedChannelAllocation_r4);
+   RT_CHECK(ctx, stat, 0, "physicalSharedChannelAllocation-r4", -1, 0);
+   /* v4d0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, const PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_SysInfoType6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r4", -1, 0);
+         stat = asn1PE_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
+         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_SysInfoType6_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
          break;
       default:
          break;
@@ -8839,176 +3534,5659 @@ int asn1PE_UMTS_SysInfoType6_modeSpecificInfo(rtxContext* ctx, const SysInfoType
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType6_v4b0ext_IEs_tdd128SpecificInfo(rtxContext* ctx, const SysInfoType6_v4b0ext_IEs_tdd128SpecificInfo* pvalue)
+int asn1PE_UMTS_PhysicalSharedChannelAllocation_later_than_r3(rtxContext* RT_RESTRICT ctx, const PhysicalSharedChannelAllocation_later_than_r3* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* pusch-SysInfoList-SFN */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dsch-RNTI */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pusch-SysInfoList-SFN");
-      stat = asn1PE_UMTS_PUSCH_SysInfoList_SFN_LCR_r4(ctx, &pvalue->pusch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->dsch_RNTI);
+      RT_CHECK(ctx, stat, 0, "dsch-RNTI", -1, 0);
    }
-   /* pdsch-SysInfoList-SFN */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "pdsch-SysInfoList-SFN");
-      stat = asn1PE_UMTS_PDSCH_SysInfoList_SFN_LCR_r4(ctx, &pvalue->pdsch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
    }
-   /* pCCPCH-LCR-Extensions */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "pCCPCH-LCR-Extensions");
-      stat = asn1PE_UMTS_PrimaryCCPCH_Info_LCR_r4_ext(ctx, &pvalue->pCCPCH_LCR_Extensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sCCPCH-LCR-ExtensionsList */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "sCCPCH-LCR-ExtensionsList");
-      stat = asn1PE_UMTS_SCCPCH_SystemInformationList_LCR_r4_ext(ctx, &pvalue->sCCPCH_LCR_ExtensionsList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PE_UMTS_PhysicalSharedChannelAllocation_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalSharedChannelAllocation(rtxContext* RT_RESTRICT ctx, const PhysicalSharedChannelAllocation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalSharedChannelAllocation");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "PhysicalSharedChannelAllocation");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PhysicalSharedChannelAllocation");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r3", -1, "PhysicalSharedChannelAllocation");
+         stat = asn1PE_UMTS_PhysicalSharedChannelAllocation_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "PhysicalSharedChannelAllocation");
+         break;
+      case 2:
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "later-than-r3", -1, "PhysicalSharedChannelAllocation");
+         stat = asn1PE_UMTS_PhysicalSharedChannelAllocation_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "PhysicalSharedChannelAllocation");
+         break;
+      default:
+         break;
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType6_v4b0ext_IEs(rtxContext* ctx, const SysInfoType6_v4b0ext_IEs* pvalue)
+int asn1PE_UMTS_PUSCHCapacityRequest_allocationConfirmation(rtxContext* RT_RESTRICT ctx, const PUSCHCapacityRequest_allocationConfirmation* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType6-v4b0ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)(pvalue->u.pdschConfirmation - 1) > 63u) {
+            rtxErrAddStrParm(ctx, "PDSCH-Identity");
+            rtxErrAddUIntParm(ctx, pvalue->u.pdschConfirmation);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "PDSCH-Identity", "pdschConfirmation", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.pdschConfirmation, 1, 64);
+         RT_CHECK(ctx, stat, "PDSCH-Identity", "pdschConfirmation", -1, 0);
+         break;
+      case 2:
+         if ((uint64_t)(pvalue->u.puschConfirmation - 1) > 63u) {
+            rtxErrAddStrParm(ctx, "PUSCH-Identity");
+            rtxErrAddUIntParm(ctx, pvalue->u.puschConfirmation);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "PUSCH-Identity", "puschConfirmation", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.puschConfirmation, 1, 64);
+         RT_CHECK(ctx, stat, "PUSCH-Identity", "puschConfirmation", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCHCapacityRequest_v590ext(rtxContext* RT_RESTRICT ctx, const PUSCHCapacityRequest_v590ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PUSCHCapacityRequest-v590ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* openLoopPowerControl-IPDL-TDD */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCHCapacityRequest-v590ext");
+   /* primaryCCPCH-RSCP-delta */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "openLoopPowerControl-IPDL-TDD");
-      stat = asn1PE_UMTS_OpenLoopPowerControl_IPDL_TDD_r4(ctx, &pvalue->openLoopPowerControl_IPDL_TDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* prach-SystemInformationList-LCR-r4 */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "prach-SystemInformationList-LCR-r4");
-      stat = asn1PE_UMTS_PRACH_SystemInformationList_LCR_r4(ctx, &pvalue->prach_SystemInformationList_LCR_r4);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tdd128SpecificInfo */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "tdd128SpecificInfo");
-      stat = asn1PE_UMTS_SysInfoType6_v4b0ext_IEs_tdd128SpecificInfo(ctx, &pvalue->tdd128SpecificInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyBandIndicator */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "frequencyBandIndicator");
-      rtxCtxtPushTypeName(ctx, "RadioFrequencyBandFDD");
-      if (pvalue->frequencyBandIndicator > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->frequencyBandIndicator);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+      if (pvalue->primaryCCPCH_RSCP_delta < -5 || pvalue->primaryCCPCH_RSCP_delta > -1) {
+         rtxErrAddStrParm(ctx, "DeltaRSCP");
+         rtxErrAddIntParm(ctx, pvalue->primaryCCPCH_RSCP_delta);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaRSCP", "primaryCCPCH-RSCP-delta", -1, "PUSCHCapacityRequest-v590ext");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->frequencyBandIndicator, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsInt64(ctx, pvalue->primaryCCPCH_RSCP_delta, -5, -1);
+      RT_CHECK(ctx, stat, "DeltaRSCP", "primaryCCPCH-RSCP-delta", -1, "PUSCHCapacityRequest-v590ext");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType6_v590ext_IEs_hcr_r5_SpecificInfo(rtxContext* ctx, const SysInfoType6_v590ext_IEs_hcr_r5_SpecificInfo* pvalue)
+int asn1PE_UMTS_PUSCHCapacityRequest_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PUSCHCapacityRequest_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCHCapacityRequest_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PUSCHCapacityRequest_laterNonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* puschCapacityRequest-v590ext */
+   stat = asn1PE_UMTS_PUSCHCapacityRequest_v590ext(ctx, &pvalue->puschCapacityRequest_v590ext);
+   RT_CHECK(ctx, stat, 0, "puschCapacityRequest-v590ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PUSCHCapacityRequest_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCHCapacityRequest_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const PUSCHCapacityRequest_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* pusch-SysInfoList-SFN */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* puschCapacityRequest-r3-add-ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pusch-SysInfoList-SFN");
-      stat = asn1PE_UMTS_PUSCH_SysInfoList_SFN_HCR_r5(ctx, &pvalue->pusch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->puschCapacityRequest_r3_add_ext.numbits, pvalue->puschCapacityRequest_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "puschCapacityRequest-r3-add-ext", -1, 0);
    }
-   /* pdsch-SysInfoList-SFN */
+   /* v590NonCriticalExtensions */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "pdsch-SysInfoList-SFN");
-      stat = asn1PE_UMTS_PDSCH_SysInfoList_SFN_HCR_r5(ctx, &pvalue->pdsch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_PUSCHCapacityRequest_laterNonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType6_v590ext_IEs(rtxContext* ctx, const SysInfoType6_v590ext_IEs* pvalue)
+int asn1PE_UMTS_PUSCHCapacityRequest(rtxContext* RT_RESTRICT ctx, const PUSCHCapacityRequest* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType6-v590ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PUSCHCapacityRequest");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCHCapacityRequest");
+   /* dsch-RNTI */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->dsch_RNTI);
+      RT_CHECK(ctx, stat, 0, "dsch-RNTI", -1, "PUSCHCapacityRequest");
+   }
+   /* trafficVolume */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_TrafficVolumeMeasuredResultsList(ctx, &pvalue->trafficVolume);
+      RT_CHECK(ctx, stat, 0, "trafficVolume", -1, "PUSCHCapacityRequest");
+   }
+   /* timeslotListWithISCP */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_TimeslotListWithISCP(ctx, &pvalue->timeslotListWithISCP);
+      RT_CHECK(ctx, stat, 0, "timeslotListWithISCP", -1, "PUSCHCapacityRequest");
+   }
+   /* primaryCCPCH-RSCP */
+   if (pvalue->m & 0x8u) {
+      if ((uint64_t)pvalue->primaryCCPCH_RSCP > 127u) {
+         rtxErrAddStrParm(ctx, "PrimaryCCPCH-RSCP");
+         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_RSCP);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-RSCP", "primaryCCPCH-RSCP", -1, "PUSCHCapacityRequest");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_RSCP, 0, 127);
+      RT_CHECK(ctx, stat, "PrimaryCCPCH-RSCP", "primaryCCPCH-RSCP", -1, "PUSCHCapacityRequest");
+   }
+   /* allocationConfirmation */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_PUSCHCapacityRequest_allocationConfirmation(ctx, &pvalue->allocationConfirmation);
+      RT_CHECK(ctx, stat, 0, "allocationConfirmation", -1, "PUSCHCapacityRequest");
+   }
+   /* protocolErrorIndicator */
+   stat = asn1PE_UMTS_ProtocolErrorIndicatorWithMoreInfo(ctx, &pvalue->protocolErrorIndicator);
+   RT_CHECK(ctx, stat, 0, "protocolErrorIndicator", -1, "PUSCHCapacityRequest");
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_PUSCHCapacityRequest_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "PUSCHCapacityRequest");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r3_IEs_dummy_fdd(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r3_IEs_dummy_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy1 */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->dummy1 - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "CPCH-SetID");
+         rtxErrAddUIntParm(ctx, pvalue->dummy1);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "CPCH-SetID", "dummy1", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dummy1, 1, 16);
+      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy1", -1, 0);
+   }
+   /* dummy2 */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r3_IEs_dummy(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r3_IEs_dummy* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerReconfiguration_r3_IEs_dummy_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r3_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r3_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* hcr-r5-SpecificInfo */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "hcr-r5-SpecificInfo");
-      stat = asn1PE_UMTS_SysInfoType6_v590ext_IEs_hcr_r5_SpecificInfo(ctx, &pvalue->hcr_r5_SpecificInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType6_v650ext_IEs(rtxContext* ctx, const SysInfoType6_v650ext_IEs* pvalue)
+int asn1PE_UMTS_RadioBearerReconfiguration_r3_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r3_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType6-v650ext-IEs");
-   /* frequencyBandIndicator2 */
-   rtxCtxtPushElemName(ctx, "frequencyBandIndicator2");
-   rtxCtxtPushTypeName(ctx, "RadioFrequencyBandFDD2");
-   if (pvalue->frequencyBandIndicator2 > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->frequencyBandIndicator2);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerReconfiguration_r3_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
    }
-   stat = pe_ConsUInt64(ctx, pvalue->frequencyBandIndicator2, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType6_v690ext_IEs(rtxContext* ctx, const SysInfoType6_v690ext_IEs* pvalue)
+int asn1PE_UMTS_RadioBearerReconfiguration_r3_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r3_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType6-v690ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerReconfiguration-r3-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 20) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 20) & 1u) << 0), 21);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RadioBearerReconfiguration-r3-IEs");
+   /* integrityProtectionModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* activationTime */
+   if (pvalue->m & 0x4u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* new-U-RNTI */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* new-C-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerReconfiguration-r3-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (pvalue->m & 0x20u) {
+      if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
+         rtxErrAddStrParm(ctx, "UTRAN-DRX-CycleLengthCoefficient");
+         rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerReconfiguration-r3-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* rab-InformationReconfigList */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* rb-InformationReconfigList */
+   stat = asn1PE_UMTS_RB_InformationReconfigList(ctx, &pvalue->rb_InformationReconfigList);
+   RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "RadioBearerReconfiguration-r3-IEs");
+   /* rb-InformationAffectedList */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_RB_InformationAffectedList(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* dummy */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_RadioBearerReconfiguration_r3_IEs_dummy(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x4000u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (pvalue->m & 0x8000u) {
+      stat = asn1PE_UMTS_DL_DeletedTransChInfoList(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfo2List(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x40000u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerReconfiguration-r3-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* ul-ChannelRequirement */
+   if (pvalue->m & 0x80000u) {
+      stat = asn1PE_UMTS_UL_ChannelRequirement(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* modeSpecificPhysChInfo */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_r3_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "RadioBearerReconfiguration-r3-IEs");
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x100000u) {
+      stat = asn1PE_UMTS_DL_CommonInformation(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerReconfiguration-r3-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   stat = asn1PE_UMTS_DL_InformationPerRL_List(ctx, &pvalue->dl_InformationPerRL_List);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerReconfiguration-r3-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_v3a0ext(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_v3a0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerReconfiguration-v3a0ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* additionalPRACH-TF-and-TFCS-CCCH-List */
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v3a0ext");
+   /* new-DSCH-RNTI */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "additionalPRACH-TF-and-TFCS-CCCH-List");
-      stat = asn1PE_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH_List(ctx, &pvalue->additionalPRACH_TF_and_TFCS_CCCH_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerReconfiguration-v3a0ext");
    }
-   rtxCtxtPopTypeName(ctx);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerReconfiguration-v4b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v4b0ext-IEs");
+   /* dummy */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->dummy > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->dummy);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "SSDT-UL", "dummy", -1, "RadioBearerReconfiguration-v4b0ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dummy, 0, 1);
+      RT_CHECK(ctx, stat, "SSDT-UL", "dummy", -1, "RadioBearerReconfiguration-v4b0ext-IEs");
+   }
+   /* cell-id-PerRL-List */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CellIdentity_PerRL_List(ctx, &pvalue->cell_id_PerRL_List);
+      RT_CHECK(ctx, stat, 0, "cell-id-PerRL-List", -1, "RadioBearerReconfiguration-v4b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerReconfiguration-v590ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v590ext-IEs");
+   /* dl-TPC-PowerOffsetPerRL-List */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_TPC_PowerOffsetPerRL_List(ctx, &pvalue->dl_TPC_PowerOffsetPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-TPC-PowerOffsetPerRL-List", -1, "RadioBearerReconfiguration-v590ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_v5d0ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_v5d0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerReconfiguration-v5d0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v5d0ext-IEs");
+   /* pdcp-ROHC-TargetMode */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->pdcp_ROHC_TargetMode > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->pdcp_ROHC_TargetMode);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "RadioBearerReconfiguration-v5d0ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->pdcp_ROHC_TargetMode, 0, 1);
+      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "RadioBearerReconfiguration-v5d0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_v690ext_IEs_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_v690ext_IEs_postVerificationPeriod value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerReconfiguration-v690ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 0), 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v690ext-IEs");
+   /* delayRestrictionFlag */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->delayRestrictionFlag > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->delayRestrictionFlag);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "RadioBearerReconfiguration-v690ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->delayRestrictionFlag, 0, 0);
+      RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "RadioBearerReconfiguration-v690ext-IEs");
+   }
+   /* primary-plmn-Identity */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
+      RT_CHECK(ctx, stat, 0, "primary-plmn-Identity", -1, "RadioBearerReconfiguration-v690ext-IEs");
+   }
+   /* harq-Preamble-Mode */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)pvalue->harq_Preamble_Mode > 1u) {
+         rtxErrAddStrParm(ctx, "HARQ-Preamble-Mode");
+         rtxErrAddUIntParm(ctx, pvalue->harq_Preamble_Mode);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "RadioBearerReconfiguration-v690ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->harq_Preamble_Mode, 0, 1);
+      RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "RadioBearerReconfiguration-v690ext-IEs");
+   }
+   /* beaconPLEst */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->beaconPLEst > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->beaconPLEst);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "BEACON-PL-Est", "beaconPLEst", -1, "RadioBearerReconfiguration-v690ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->beaconPLEst, 0, 0);
+      RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "RadioBearerReconfiguration-v690ext-IEs");
+   }
+   /* postVerificationPeriod */
+   if (pvalue->m & 0x10u) {
+      if (pvalue->postVerificationPeriod > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->postVerificationPeriod);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "postVerificationPeriod", -1, "RadioBearerReconfiguration-v690ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->postVerificationPeriod, 0, 0);
+      RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "RadioBearerReconfiguration-v690ext-IEs");
+   }
+   /* dhs-sync */
+   if (pvalue->m & 0x20u) {
+      if (pvalue->dhs_sync < -20 || pvalue->dhs_sync > 10) {
+         rtxErrAddStrParm(ctx, "DHS-Sync");
+         rtxErrAddIntParm(ctx, pvalue->dhs_sync);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DHS-Sync", "dhs-sync", -1, "RadioBearerReconfiguration-v690ext-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->dhs_sync, -20, 10);
+      RT_CHECK(ctx, stat, "DHS-Sync", "dhs-sync", -1, "RadioBearerReconfiguration-v690ext-IEs");
+   }
+   /* timingMaintainedSynchInd */
+   if (pvalue->m & 0x40u) {
+      if (pvalue->timingMaintainedSynchInd > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->timingMaintainedSynchInd);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TimingMaintainedSynchInd", "timingMaintainedSynchInd", -1, "RadioBearerReconfiguration-v690ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->timingMaintainedSynchInd, 0, 0);
+      RT_CHECK(ctx, stat, "TimingMaintainedSynchInd", "timingMaintainedSynchInd", -1, "RadioBearerReconfiguration-v690ext-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (pvalue->m & 0x80u) {
+      if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerReconfiguration-v690ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
+      RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerReconfiguration-v690ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerReconfiguration-v770ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v770ext-IEs");
+   /* ueMobilityStateIndicator */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->ueMobilityStateIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->ueMobilityStateIndicator);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerReconfiguration-v770ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ueMobilityStateIndicator, 0, 0);
+      RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerReconfiguration-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v770ext */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_v770ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v770ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v690ext */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_v690ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v690ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v5d0ext */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_v5d0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v5d0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v5d0ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v590ext */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_v590ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v590ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v590ext", -1, 0);
+   /* v5d0NonCriticalExtenstions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
+      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v4b0ext */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_v4b0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v4b0ext", -1, 0);
+   /* v590NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->radioBearerReconfiguration_r3_add_ext.numbits, pvalue->radioBearerReconfiguration_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r3-add-ext", -1, 0);
+   }
+   /* v4b0NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v3a0ext */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_v3a0ext(ctx, &pvalue->radioBearerReconfiguration_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v3a0ext", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r3(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-r3 */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_r3_IEs(ctx, &pvalue->radioBearerReconfiguration_r3);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r3", -1, 0);
+   /* v3aoNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerReconfiguration_r3_v3aoNonCriticalExtensions(ctx, &pvalue->v3aoNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3aoNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r4_IEs_dummy_fdd(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r4_IEs_dummy_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy1 */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->dummy1 - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "CPCH-SetID");
+         rtxErrAddUIntParm(ctx, pvalue->dummy1);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "CPCH-SetID", "dummy1", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dummy1, 1, 16);
+      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy1", -1, 0);
+   }
+   /* dummy2 */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r4_IEs_dummy(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r4_IEs_dummy* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerReconfiguration_r4_IEs_dummy_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r4_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r4_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r4_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r4_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerReconfiguration_r4_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r4_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r4_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerReconfiguration-r4-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 23) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 22) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 21) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 20) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 20) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 21) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 22) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 23) & 1u) << 0), 24);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-r4-IEs");
+   /* integrityProtectionModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* activationTime */
+   if (pvalue->m & 0x4u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* new-U-RNTI */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* new-C-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerReconfiguration-r4-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (pvalue->m & 0x40u) {
+      if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
+         rtxErrAddStrParm(ctx, "UTRAN-DRX-CycleLengthCoefficient");
+         rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerReconfiguration-r4-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* rab-InformationReconfigList */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* rb-InformationReconfigList */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_RB_InformationReconfigList_r4(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_RB_InformationAffectedList(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (pvalue->m & 0x4000u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* dummy */
+   if (pvalue->m & 0x8000u) {
+      stat = asn1PE_UMTS_RadioBearerReconfiguration_r4_IEs_dummy(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_DL_DeletedTransChInfoList(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r4(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x80000u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x100000u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerReconfiguration-r4-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* ul-ChannelRequirement */
+   if (pvalue->m & 0x200000u) {
+      stat = asn1PE_UMTS_UL_ChannelRequirement_r4(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* modeSpecificPhysChInfo */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_r4_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "RadioBearerReconfiguration-r4-IEs");
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x400000u) {
+      stat = asn1PE_UMTS_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x800000u) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_r4(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerReconfiguration-r4-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v770ext */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_v770ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v770ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v690ext */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_v690ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v690ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v5d0ext */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_v5d0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v5d0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v5d0ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v590ext */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_v590ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v590ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v590ext", -1, 0);
+   /* v5d0NonCriticalExtenstions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
+      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-r4-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->radioBearerReconfiguration_r4_add_ext.numbits, pvalue->radioBearerReconfiguration_r4_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r4-add-ext", -1, 0);
+   }
+   /* v590NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-r4 */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_r4_IEs(ctx, &pvalue->radioBearerReconfiguration_r4);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r4", -1, 0);
+   /* v4d0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_complete_dummy_fdd(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r5_IEs_specificationMode_complete_dummy_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy1 */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->dummy1 - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "CPCH-SetID");
+         rtxErrAddUIntParm(ctx, pvalue->dummy1);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "CPCH-SetID", "dummy1", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dummy1, 1, 16);
+      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy1", -1, 0);
+   }
+   /* dummy2 */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_complete_dummy(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r5_IEs_specificationMode_complete_dummy* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_complete_dummy_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r5_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 0), 11);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rab-InformationReconfigList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, 0);
+   }
+   /* rb-InformationReconfigList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RB_InformationReconfigList_r5(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, 0);
+   }
+   /* rb-InformationAffectedList */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_RB_InformationAffectedList_r5(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, 0);
+   }
+   /* rb-PDCPContextRelocationList */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_RB_PDCPContextRelocationList(ctx, &pvalue->rb_PDCPContextRelocationList);
+      RT_CHECK(ctx, stat, 0, "rb-PDCPContextRelocationList", -1, 0);
+   }
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
+   }
+   /* ul-deletedTransChInfoList */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, 0);
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
+   }
+   /* dummy */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_complete_dummy(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
+   }
+   /* dl-DeletedTransChInfoList */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_DL_DeletedTransChInfoList_r5(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, 0);
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* defaultConfigMode */
+   if (pvalue->defaultConfigMode > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigMode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   /* defaultConfigIdentity */
+   if ((uint64_t)pvalue->defaultConfigIdentity > 13u) {
+      rtxErrAddStrParm(ctx, "DefaultConfigIdentity-r5");
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultConfigIdentity-r5", "defaultConfigIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigIdentity, 0, 13);
+   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r5", "defaultConfigIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)pvalue->u.predefinedConfigIdentity > 15u) {
+            rtxErrAddStrParm(ctx, "PredefinedConfigIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.predefinedConfigIdentity);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.predefinedConfigIdentity, 0, 15);
+         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "defaultConfig", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
+         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* preConfigMode */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
+   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r5_IEs_specificationMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "complete", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "preconfiguration", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
+         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r5_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r5_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r5_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r5_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerReconfiguration_r5_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r5_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r5_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerReconfiguration-r5-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 0), 16);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-r5-IEs");
+   /* integrityProtectionModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerReconfiguration-r5-IEs");
+   }
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerReconfiguration-r5-IEs");
+   }
+   /* activationTime */
+   if (pvalue->m & 0x4u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerReconfiguration-r5-IEs");
+   }
+   /* new-U-RNTI */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerReconfiguration-r5-IEs");
+   }
+   /* new-C-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerReconfiguration-r5-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerReconfiguration-r5-IEs");
+   }
+   /* new-H-RNTI */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerReconfiguration-r5-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerReconfiguration-r5-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerReconfiguration-r5-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (pvalue->m & 0x80u) {
+      if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
+         rtxErrAddStrParm(ctx, "UTRAN-DRX-CycleLengthCoefficient");
+         rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerReconfiguration-r5-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerReconfiguration-r5-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerReconfiguration-r5-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerReconfiguration-r5-IEs");
+   }
+   /* specificationMode */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_r5_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "RadioBearerReconfiguration-r5-IEs");
+   /* frequencyInfo */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerReconfiguration-r5-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x800u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerReconfiguration-r5-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerReconfiguration-r5-IEs");
+   }
+   /* ul-ChannelRequirement */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_UL_ChannelRequirement_r5(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "RadioBearerReconfiguration-r5-IEs");
+   }
+   /* modeSpecificPhysChInfo */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_r5_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "RadioBearerReconfiguration-r5-IEs");
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerReconfiguration-r5-IEs");
+   }
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x4000u) {
+      stat = asn1PE_UMTS_DL_CommonInformation_r5(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerReconfiguration-r5-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x8000u) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_r5(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerReconfiguration-r5-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v770ext */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_v770ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v770ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v690ext */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_v690ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v690ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v5d0ext */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_v5d0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v5d0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v5d0ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-r5 */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_r5_IEs(ctx, &pvalue->radioBearerReconfiguration_r5);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r5", -1, 0);
+   /* radioBearerReconfiguration-r5-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->radioBearerReconfiguration_r5_add_ext.numbits, pvalue->radioBearerReconfiguration_r5_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r5-add-ext", -1, 0);
+   }
+   /* v5d0NonCriticalExtenstions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
+      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r6_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 0), 11);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rab-InformationReconfigList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, 0);
+   }
+   /* rb-InformationReconfigList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RB_InformationReconfigList_r6(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, 0);
+   }
+   /* rb-InformationAffectedList */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_RB_InformationAffectedList_r6(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, 0);
+   }
+   /* rb-PDCPContextRelocationList */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_RB_PDCPContextRelocationList(ctx, &pvalue->rb_PDCPContextRelocationList);
+      RT_CHECK(ctx, stat, 0, "rb-PDCPContextRelocationList", -1, 0);
+   }
+   /* pdcp-ROHC-TargetMode */
+   if (pvalue->m & 0x10u) {
+      if (pvalue->pdcp_ROHC_TargetMode > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->pdcp_ROHC_TargetMode);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->pdcp_ROHC_TargetMode, 0, 1);
+      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, 0);
+   }
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
+   }
+   /* ul-deletedTransChInfoList */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, 0);
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList_r6(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
+   }
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
+   }
+   /* dl-DeletedTransChInfoList */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_DL_DeletedTransChInfoList_r5(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, 0);
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* defaultConfigMode */
+   if (pvalue->defaultConfigMode > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigMode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   /* defaultConfigIdentity */
+   if ((uint64_t)pvalue->defaultConfigIdentity > 31u) {
+      rtxErrAddStrParm(ctx, "DefaultConfigIdentity-r6");
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigIdentity, 0, 31);
+   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)pvalue->u.predefinedConfigIdentity > 15u) {
+            rtxErrAddStrParm(ctx, "PredefinedConfigIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.predefinedConfigIdentity);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.predefinedConfigIdentity, 0, 15);
+         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "defaultConfig", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
+         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* preConfigMode */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
+   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r6_IEs_specificationMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "complete", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "preconfiguration", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
+         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r6_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r6_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerReconfiguration-r6-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 20) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 20) & 1u) << 0), 21);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-r6-IEs");
+   /* integrityProtectionModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* activationTime */
+   if (pvalue->m & 0x4u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* delayRestrictionFlag */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->delayRestrictionFlag > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->delayRestrictionFlag);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "RadioBearerReconfiguration-r6-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->delayRestrictionFlag, 0, 0);
+      RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* new-U-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* new-C-RNTI */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* new-H-RNTI */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerReconfiguration-r6-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (pvalue->m & 0x400u) {
+      if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
+         rtxErrAddStrParm(ctx, "UTRAN-DRX-CycleLengthCoefficient");
+         rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerReconfiguration-r6-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* specificationMode */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_r6_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "RadioBearerReconfiguration-r6-IEs");
+   /* frequencyInfo */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x4000u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerReconfiguration-r6-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (pvalue->m & 0x8000u) {
+      stat = asn1PE_UMTS_UL_DPCH_Info_r6(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_UL_EDCH_Information_r6(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r6(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_DL_CommonInformation_r6(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x80000u) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_r6(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (pvalue->m & 0x100000u) {
+      if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerReconfiguration-r6-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
+      RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerReconfiguration-r6-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_v6b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerReconfiguration-v6b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v6b0ext-IEs");
+   /* dl-InformationPerRL-List-v6b0ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_v6b0ext(ctx, &pvalue->dl_InformationPerRL_List_v6b0ext);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List-v6b0ext", -1, "RadioBearerReconfiguration-v6b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_v6f0ext_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_v6f0ext_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rab-InformationMBMSPtpList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RAB_InformationMBMSPtpList(ctx, &pvalue->rab_InformationMBMSPtpList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationMBMSPtpList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_v6f0ext_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_v6f0ext_IEs_specificationMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 0);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 0) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "complete", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerReconfiguration_v6f0ext_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_v6f0ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_v6f0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerReconfiguration-v6f0ext-IEs");
+   /* specificationMode */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_v6f0ext_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "RadioBearerReconfiguration-v6f0ext-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v770ext */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_v770ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v770ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRconfiguration-v6f0ext */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_v6f0ext_IEs(ctx, &pvalue->radioBearerRconfiguration_v6f0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRconfiguration-v6f0ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v6b0ext */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_v6b0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v6b0ext", -1, 0);
+   /* v6f0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions(ctx, &pvalue->v6f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6f0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-r6 */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_r6_IEs(ctx, &pvalue->radioBearerReconfiguration_r6);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r6", -1, 0);
+   /* radioBearerReconfiguration-r6-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->radioBearerReconfiguration_r6_add_ext.numbits, pvalue->radioBearerReconfiguration_r6_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r6-add-ext", -1, 0);
+   }
+   /* v6b0NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r7_IEs_responseToChangeOfUE_Capability(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r7_IEs_responseToChangeOfUE_Capability value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r7_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 0), 12);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rab-InformationReconfigList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, 0);
+   }
+   /* rab-InformationMBMSPtpList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RAB_InformationMBMSPtpList(ctx, &pvalue->rab_InformationMBMSPtpList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationMBMSPtpList", -1, 0);
+   }
+   /* rb-InformationReconfigList */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_RB_InformationReconfigList_r7(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, 0);
+   }
+   /* rb-InformationAffectedList */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_RB_InformationAffectedList_r7(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, 0);
+   }
+   /* rb-PDCPContextRelocationList */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_RB_PDCPContextRelocationList(ctx, &pvalue->rb_PDCPContextRelocationList);
+      RT_CHECK(ctx, stat, 0, "rb-PDCPContextRelocationList", -1, 0);
+   }
+   /* pdcp-ROHC-TargetMode */
+   if (pvalue->m & 0x20u) {
+      if (pvalue->pdcp_ROHC_TargetMode > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->pdcp_ROHC_TargetMode);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->pdcp_ROHC_TargetMode, 0, 1);
+      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, 0);
+   }
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
+   }
+   /* ul-deletedTransChInfoList */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, 0);
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList_r7(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
+   }
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
+   }
+   /* dl-DeletedTransChInfoList */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, 0);
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* defaultConfigMode */
+   if (pvalue->defaultConfigMode > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigMode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   /* defaultConfigIdentity */
+   if ((uint64_t)pvalue->defaultConfigIdentity > 31u) {
+      rtxErrAddStrParm(ctx, "DefaultConfigIdentity-r6");
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigIdentity, 0, 31);
+   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)pvalue->u.predefinedConfigIdentity > 15u) {
+            rtxErrAddStrParm(ctx, "PredefinedConfigIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.predefinedConfigIdentity);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.predefinedConfigIdentity, 0, 15);
+         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "defaultConfig", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
+         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* preConfigMode */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
+   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r7_IEs_specificationMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "complete", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "preconfiguration", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
+         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r7_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r7_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerReconfiguration-r7-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 28) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 27) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 26) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 25) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 24) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 23) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 22) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 21) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 20) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 20) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 21) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 22) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 23) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 24) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 25) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 26) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 27) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 28) & 1u) << 0), 29);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-r7-IEs");
+   /* integrityProtectionModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* activationTime */
+   if (pvalue->m & 0x4u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* delayRestrictionFlag */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->delayRestrictionFlag > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->delayRestrictionFlag);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "RadioBearerReconfiguration-r7-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->delayRestrictionFlag, 0, 0);
+      RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* new-U-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* new-C-RNTI */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* new-H-RNTI */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerReconfiguration-r7-IEs");
+   /* ueMobilityStateIndicator */
+   if (pvalue->m & 0x400u) {
+      if (pvalue->ueMobilityStateIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->ueMobilityStateIndicator);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerReconfiguration-r7-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ueMobilityStateIndicator, 0, 0);
+      RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* utran-DRX-CycleLengthCoeff */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   if (pvalue->m & 0x4000u) {
+      stat = rtxEncBit(ctx, pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* responseToChangeOfUE-Capability */
+   if (pvalue->m & 0x8000u) {
+      if (pvalue->responseToChangeOfUE_Capability > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->responseToChangeOfUE_Capability);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "responseToChangeOfUE-Capability", -1, "RadioBearerReconfiguration-r7-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->responseToChangeOfUE_Capability, 0, 0);
+      RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* specificationMode */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_r7_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "RadioBearerReconfiguration-r7-IEs");
+   /* frequencyInfo */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* dtx-drx-Info */
+   if (pvalue->m & 0x80000u) {
+      stat = asn1PE_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (pvalue->m & 0x100000u) {
+      stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* mimoParameters */
+   if (pvalue->m & 0x200000u) {
+      stat = asn1PE_UMTS_MIMO_Parameters_r7(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x400000u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerReconfiguration-r7-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (pvalue->m & 0x800000u) {
+      stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (pvalue->m & 0x1000000u) {
+      stat = asn1PE_UMTS_UL_EDCH_Information_r7(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x2000000u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r7(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x4000000u) {
+      stat = asn1PE_UMTS_DL_CommonInformation_r7(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x8000000u) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (pvalue->m & 0x10000000u) {
+      if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerReconfiguration-r7-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
+      RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerReconfiguration-r7-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_v780ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_v780ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerReconfiguration-v780ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v780ext-IEs");
+   /* hs-DSCH-TBSizeTable */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->hs_DSCH_TBSizeTable > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->hs_DSCH_TBSizeTable);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "RadioBearerReconfiguration-v780ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->hs_DSCH_TBSizeTable, 0, 0);
+      RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "RadioBearerReconfiguration-v780ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_v790ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_v790ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerReconfiguration-v790ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v790ext-IEs");
+   /* radioBearerReconfiguration-r7-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->radioBearerReconfiguration_r7_add_ext.numbits, pvalue->radioBearerReconfiguration_r7_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r7-add-ext", -1, "RadioBearerReconfiguration-v790ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_v7d0ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_v7d0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerReconfiguration-v7d0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v7d0ext-IEs");
+   /* ul-EDCH-Information */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UL_EDCH_Information_ext(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerReconfiguration-v7d0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_v7f0ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_v7f0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerReconfiguration-v7f0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v7f0ext-IEs");
+   /* mimoParameters */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MIMO_Parameters_v7f0ext(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerReconfiguration-v7f0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_v7g0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerReconfiguration-v7g0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v7g0ext-IEs");
+   /* mimoParameters */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MIMO_Parameters_v7g0ext(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerReconfiguration-v7g0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v7g0ext */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_v7g0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v7g0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v7g0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v7f0ext */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_v7f0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v7f0ext", -1, 0);
+   /* v7g0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v7d0ext */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_v7d0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v7d0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v7d0ext", -1, 0);
+   /* v7f0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v790ext */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_v790ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v790ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v790ext", -1, 0);
+   /* v7d0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v780ext */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_v780ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v780ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v780ext", -1, 0);
+   /* v790NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v790NonCriticalExtensions(ctx, &pvalue->v790NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v790NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-r7 */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_r7_IEs(ctx, &pvalue->radioBearerReconfiguration_r7);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r7", -1, 0);
+   /* v780NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v780NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r8_IEs_responseToChangeOfUE_Capability(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r8_IEs_responseToChangeOfUE_Capability value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r8_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 0), 12);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rab-InformationReconfigList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RAB_InformationReconfigList_r8(ctx, &pvalue->rab_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, 0);
+   }
+   /* rab-InformationMBMSPtpList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RAB_InformationMBMSPtpList(ctx, &pvalue->rab_InformationMBMSPtpList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationMBMSPtpList", -1, 0);
+   }
+   /* rb-InformationReconfigList */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_RB_InformationReconfigList_r8(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, 0);
+   }
+   /* rb-InformationAffectedList */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_RB_InformationAffectedList_r8(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, 0);
+   }
+   /* rb-PDCPContextRelocationList */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_RB_PDCPContextRelocationList(ctx, &pvalue->rb_PDCPContextRelocationList);
+      RT_CHECK(ctx, stat, 0, "rb-PDCPContextRelocationList", -1, 0);
+   }
+   /* pdcp-ROHC-TargetMode */
+   if (pvalue->m & 0x20u) {
+      if (pvalue->pdcp_ROHC_TargetMode > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->pdcp_ROHC_TargetMode);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->pdcp_ROHC_TargetMode, 0, 1);
+      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, 0);
+   }
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
+   }
+   /* ul-deletedTransChInfoList */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, 0);
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
+   }
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
+   }
+   /* dl-DeletedTransChInfoList */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, 0);
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* defaultConfigMode */
+   if (pvalue->defaultConfigMode > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigMode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   /* defaultConfigIdentity */
+   if ((uint64_t)pvalue->defaultConfigIdentity > 31u) {
+      rtxErrAddStrParm(ctx, "DefaultConfigIdentity-r6");
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigIdentity, 0, 31);
+   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)pvalue->u.predefinedConfigIdentity > 15u) {
+            rtxErrAddStrParm(ctx, "PredefinedConfigIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.predefinedConfigIdentity);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.predefinedConfigIdentity, 0, 15);
+         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "defaultConfig", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
+         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* preConfigMode */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
+   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r8_IEs_specificationMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "complete", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "preconfiguration", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
+         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r8_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r8_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerReconfiguration-r8-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 31) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 30) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 29) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 28) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 27) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 26) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 25) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 24) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 23) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 22) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 21) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 20) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 20) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 21) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 22) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 23) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 24) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 25) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 26) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 27) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 28) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 29) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 30) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 31) & 1u) << 0), 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-r8-IEs");
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 32) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-r8-IEs");
+   /* integrityProtectionModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* activationTime */
+   if (pvalue->m & 0x4u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* delayRestrictionFlag */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->delayRestrictionFlag > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->delayRestrictionFlag);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "RadioBearerReconfiguration-r8-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->delayRestrictionFlag, 0, 0);
+      RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* new-U-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* new-C-RNTI */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* new-H-RNTI */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerReconfiguration-r8-IEs");
+   /* ueMobilityStateIndicator */
+   if (pvalue->m & 0x400u) {
+      if (pvalue->ueMobilityStateIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->ueMobilityStateIndicator);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerReconfiguration-r8-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ueMobilityStateIndicator, 0, 0);
+      RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* utran-DRX-CycleLengthCoeff */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   if (pvalue->m & 0x4000u) {
+      stat = rtxEncBit(ctx, pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* responseToChangeOfUE-Capability */
+   if (pvalue->m & 0x8000u) {
+      if (pvalue->responseToChangeOfUE_Capability > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->responseToChangeOfUE_Capability);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "responseToChangeOfUE-Capability", -1, "RadioBearerReconfiguration-r8-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->responseToChangeOfUE_Capability, 0, 0);
+      RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* defaultConfigForCellFACH */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_DefaultConfigForCellFACH(ctx, &pvalue->defaultConfigForCellFACH);
+      RT_CHECK(ctx, stat, 0, "defaultConfigForCellFACH", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* specificationMode */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_r8_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "RadioBearerReconfiguration-r8-IEs");
+   /* frequencyInfo */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (pvalue->m & 0x80000u) {
+      stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* dtx-drx-Info */
+   if (pvalue->m & 0x100000u) {
+      stat = asn1PE_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (pvalue->m & 0x200000u) {
+      stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* mimoParameters */
+   if (pvalue->m & 0x400000u) {
+      stat = asn1PE_UMTS_MIMO_Parameters_r8(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x800000u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerReconfiguration-r8-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (pvalue->m & 0x1000000u) {
+      stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (pvalue->m & 0x2000000u) {
+      stat = asn1PE_UMTS_UL_EDCH_Information_r8(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x4000000u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x8000000u) {
+      stat = asn1PE_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x10000000u) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* dl-SecondaryCellInfoFDD */
+   if (pvalue->m & 0x20000000u) {
+      stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD(ctx, &pvalue->dl_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* controlChannelDRXInfo-TDD128 */
+   if (pvalue->m & 0x40000000u) {
+      stat = asn1PE_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
+      RT_CHECK(ctx, stat, 0, "controlChannelDRXInfo-TDD128", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* sps-Information-TDD128 */
+   if (pvalue->m & 0x80000000u) {
+      stat = asn1PE_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
+      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (pvalue->m & 0x100000000ull) {
+      if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerReconfiguration-r8-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
+      RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerReconfiguration-r8-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_v890ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_v890ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerReconfiguration-v890ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v890ext-IEs");
+   /* dl-SecondaryCellInfoFDD-v890ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD_v890ext(ctx, &pvalue->dl_SecondaryCellInfoFDD_v890ext);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD-v890ext", -1, "RadioBearerReconfiguration-v890ext-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_ext(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerReconfiguration-v890ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_v8a0ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_v8a0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerReconfiguration-v8a0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-v8a0ext-IEs");
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_ext2(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerReconfiguration-v8a0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v8a0ext */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_v8a0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v8a0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v8a0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v7g0ext */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_v7g0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v7g0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v7g0ext", -1, 0);
+   /* v8a0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v8a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v890ext */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_v890ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v890ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v890ext", -1, 0);
+   /* v7g0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v7f0ext */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_v7f0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v7f0ext", -1, 0);
+   /* v890NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-v7d0ext */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_v7d0ext_IEs(ctx, &pvalue->radioBearerReconfiguration_v7d0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-v7d0ext", -1, 0);
+   /* v7f0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-r8 */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_r8_IEs(ctx, &pvalue->radioBearerReconfiguration_r8);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r8", -1, 0);
+   /* radioBearerReconfiguration-r8-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->radioBearerReconfiguration_r8_add_ext.numbits, pvalue->radioBearerReconfiguration_r8_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r8-add-ext", -1, 0);
+   }
+   /* v7d0NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r9_IEs_responseToChangeOfUE_Capability(rtxContext* RT_RESTRICT ctx, RadioBearerReconfiguration_r9_IEs_responseToChangeOfUE_Capability value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r9_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 0), 12);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rab-InformationReconfigList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RAB_InformationReconfigList_r8(ctx, &pvalue->rab_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, 0);
+   }
+   /* rab-InformationMBMSPtpList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RAB_InformationMBMSPtpList(ctx, &pvalue->rab_InformationMBMSPtpList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationMBMSPtpList", -1, 0);
+   }
+   /* rb-InformationReconfigList */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_RB_InformationReconfigList_r8(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, 0);
+   }
+   /* rb-InformationAffectedList */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_RB_InformationAffectedList_r8(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, 0);
+   }
+   /* rb-PDCPContextRelocationList */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_RB_PDCPContextRelocationList(ctx, &pvalue->rb_PDCPContextRelocationList);
+      RT_CHECK(ctx, stat, 0, "rb-PDCPContextRelocationList", -1, 0);
+   }
+   /* pdcp-ROHC-TargetMode */
+   if (pvalue->m & 0x20u) {
+      if (pvalue->pdcp_ROHC_TargetMode > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->pdcp_ROHC_TargetMode);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->pdcp_ROHC_TargetMode, 0, 1);
+      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, 0);
+   }
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
+   }
+   /* ul-deletedTransChInfoList */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, 0);
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
+   }
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
+   }
+   /* dl-DeletedTransChInfoList */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, 0);
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r9(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* defaultConfigMode */
+   if (pvalue->defaultConfigMode > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigMode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   /* defaultConfigIdentity */
+   if ((uint64_t)pvalue->defaultConfigIdentity > 31u) {
+      rtxErrAddStrParm(ctx, "DefaultConfigIdentity-r6");
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigIdentity, 0, 31);
+   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)pvalue->u.predefinedConfigIdentity > 15u) {
+            rtxErrAddStrParm(ctx, "PredefinedConfigIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.predefinedConfigIdentity);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.predefinedConfigIdentity, 0, 15);
+         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "defaultConfig", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
+         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* preConfigMode */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
+   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r9_IEs_specificationMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "complete", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "preconfiguration", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
+         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_r9_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_r9_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerReconfiguration-r9-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 31) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 30) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 29) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 28) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 27) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 26) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 25) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 24) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 23) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 22) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 21) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 20) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 20) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 21) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 22) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 23) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 24) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 25) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 26) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 27) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 28) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 29) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 30) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 31) & 1u) << 0), 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-r9-IEs");
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 32) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 33) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 34) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfiguration-r9-IEs");
+   /* integrityProtectionModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* activationTime */
+   if (pvalue->m & 0x4u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* delayRestrictionFlag */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->delayRestrictionFlag > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->delayRestrictionFlag);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "RadioBearerReconfiguration-r9-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->delayRestrictionFlag, 0, 0);
+      RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* new-U-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* new-C-RNTI */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* new-H-RNTI */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerReconfiguration-r9-IEs");
+   /* ueMobilityStateIndicator */
+   if (pvalue->m & 0x400u) {
+      if (pvalue->ueMobilityStateIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->ueMobilityStateIndicator);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerReconfiguration-r9-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ueMobilityStateIndicator, 0, 0);
+      RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* utran-DRX-CycleLengthCoeff */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   if (pvalue->m & 0x4000u) {
+      stat = rtxEncBit(ctx, pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* responseToChangeOfUE-Capability */
+   if (pvalue->m & 0x8000u) {
+      if (pvalue->responseToChangeOfUE_Capability > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->responseToChangeOfUE_Capability);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "responseToChangeOfUE-Capability", -1, "RadioBearerReconfiguration-r9-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->responseToChangeOfUE_Capability, 0, 0);
+      RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* defaultConfigForCellFACH */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_DefaultConfigForCellFACH(ctx, &pvalue->defaultConfigForCellFACH);
+      RT_CHECK(ctx, stat, 0, "defaultConfigForCellFACH", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* specificationMode */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_r9_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "RadioBearerReconfiguration-r9-IEs");
+   /* frequencyInfo */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (pvalue->m & 0x80000u) {
+      stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* dtx-drx-Info */
+   if (pvalue->m & 0x100000u) {
+      stat = asn1PE_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (pvalue->m & 0x200000u) {
+      stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* mimoParameters */
+   if (pvalue->m & 0x400000u) {
+      stat = asn1PE_UMTS_MIMO_Parameters_r9(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x800000u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerReconfiguration-r9-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (pvalue->m & 0x1000000u) {
+      stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (pvalue->m & 0x2000000u) {
+      stat = asn1PE_UMTS_UL_EDCH_Information_r9(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* ul-SecondaryCellInfoFDD */
+   if (pvalue->m & 0x4000000u) {
+      stat = asn1PE_UMTS_UL_SecondaryCellInfoFDD(ctx, &pvalue->ul_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "ul-SecondaryCellInfoFDD", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x8000000u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x10000000u) {
+      stat = asn1PE_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x20000000u) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* dl-SecondaryCellInfoFDD */
+   if (pvalue->m & 0x40000000u) {
+      stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD_r9(ctx, &pvalue->dl_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* controlChannelDRXInfo-TDD128 */
+   if (pvalue->m & 0x80000000u) {
+      stat = asn1PE_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
+      RT_CHECK(ctx, stat, 0, "controlChannelDRXInfo-TDD128", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* sps-Information-TDD128 */
+   if (pvalue->m & 0x100000000ull) {
+      stat = asn1PE_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
+      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (pvalue->m & 0x200000000ull) {
+      if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerReconfiguration-r9-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
+      RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   /* cellDCHMeasOccasionInfo-TDD128 */
+   if (pvalue->m & 0x400000000ull) {
+      stat = asn1PE_UMTS_CellDCHMeasOccasionInfo_TDD128_r9(ctx, &pvalue->cellDCHMeasOccasionInfo_TDD128);
+      RT_CHECK(ctx, stat, 0, "cellDCHMeasOccasionInfo-TDD128", -1, "RadioBearerReconfiguration-r9-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfiguration-r9 */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_r9_IEs(ctx, &pvalue->radioBearerReconfiguration_r9);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r9", -1, 0);
+   /* radioBearerReconfiguration-r9-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->radioBearerReconfiguration_r9_add_ext.numbits, pvalue->radioBearerReconfiguration_r9_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration-r9-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r9 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r9", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
+         RT_CHECK(ctx, stat, 0, "r9", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r8 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r8", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
+         RT_CHECK(ctx, stat, 0, "r8", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r7", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
+         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r6 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r6", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(ctx, pvalue->u.r6);
+         RT_CHECK(ctx, stat, 0, "r6", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r5", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5(ctx, pvalue->u.r5);
+         RT_CHECK(ctx, stat, 0, "r5", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r4", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
+         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfiguration(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerReconfiguration");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "RadioBearerReconfiguration");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RadioBearerReconfiguration");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r3", -1, "RadioBearerReconfiguration");
+         stat = asn1PE_UMTS_RadioBearerReconfiguration_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "RadioBearerReconfiguration");
+         break;
+      case 2:
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "later-than-r3", -1, "RadioBearerReconfiguration");
+         stat = asn1PE_UMTS_RadioBearerReconfiguration_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "RadioBearerReconfiguration");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfigurationComplete_v770ext_IEs_deferredMeasurementControlReading(rtxContext* RT_RESTRICT ctx, RadioBearerReconfigurationComplete_v770ext_IEs_deferredMeasurementControlReading value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfigurationComplete_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfigurationComplete_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerReconfigurationComplete-v770ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfigurationComplete-v770ext-IEs");
+   /* ext-UL-TimingAdvance */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_EXT_UL_TimingAdvance(ctx, &pvalue->ext_UL_TimingAdvance);
+      RT_CHECK(ctx, stat, 0, "ext-UL-TimingAdvance", -1, "RadioBearerReconfigurationComplete-v770ext-IEs");
+   }
+   /* deferredMeasurementControlReading */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->deferredMeasurementControlReading > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->deferredMeasurementControlReading);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "deferredMeasurementControlReading", -1, "RadioBearerReconfigurationComplete-v770ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->deferredMeasurementControlReading, 0, 0);
+      RT_CHECK(ctx, stat, 0, "deferredMeasurementControlReading", -1, "RadioBearerReconfigurationComplete-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfigurationComplete-v770ext */
+   stat = asn1PE_UMTS_RadioBearerReconfigurationComplete_v770ext_IEs(ctx, &pvalue->radioBearerReconfigurationComplete_v770ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReconfigurationComplete-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfigurationComplete_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfigurationComplete_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfigurationComplete-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->radioBearerReconfigurationComplete_r3_add_ext.numbits, pvalue->radioBearerReconfigurationComplete_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "radioBearerReconfigurationComplete-r3-add-ext", -1, 0);
+   }
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RadioBearerReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfigurationComplete(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfigurationComplete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerReconfigurationComplete");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfigurationComplete");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RadioBearerReconfigurationComplete");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RadioBearerReconfigurationComplete");
+   /* ul-IntegProtActivationInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtActivationInfo(ctx, &pvalue->ul_IntegProtActivationInfo);
+      RT_CHECK(ctx, stat, 0, "ul-IntegProtActivationInfo", -1, "RadioBearerReconfigurationComplete");
+   }
+   /* ul-TimingAdvance */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->ul_TimingAdvance > 63u) {
+         rtxErrAddStrParm(ctx, "UL-TimingAdvance");
+         rtxErrAddUIntParm(ctx, pvalue->ul_TimingAdvance);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-TimingAdvance", "ul-TimingAdvance", -1, "RadioBearerReconfigurationComplete");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ul_TimingAdvance, 0, 63);
+      RT_CHECK(ctx, stat, "UL-TimingAdvance", "ul-TimingAdvance", -1, "RadioBearerReconfigurationComplete");
+   }
+   /* count-C-ActivationTime */
+   if (pvalue->m & 0x4u) {
+      stat = pe_ConsUInt64(ctx, pvalue->count_C_ActivationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "count-C-ActivationTime", -1, "RadioBearerReconfigurationComplete");
+   }
+   /* dummy */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "RadioBearerReconfigurationComplete");
+   }
+   /* ul-CounterSynchronisationInfo */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_UL_CounterSynchronisationInfo(ctx, &pvalue->ul_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CounterSynchronisationInfo", -1, "RadioBearerReconfigurationComplete");
+   }
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_RadioBearerReconfigurationComplete_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "RadioBearerReconfigurationComplete");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfigurationFailure_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfigurationFailure_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfigurationFailure_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfigurationFailure_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReconfigurationFailure-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->radioBearerReconfigurationFailure_r3_add_ext.numbits, pvalue->radioBearerReconfigurationFailure_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "radioBearerReconfigurationFailure-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RadioBearerReconfigurationFailure_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReconfigurationFailure(rtxContext* RT_RESTRICT ctx, const RadioBearerReconfigurationFailure* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerReconfigurationFailure");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReconfigurationFailure");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RadioBearerReconfigurationFailure");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RadioBearerReconfigurationFailure");
+   /* failureCause */
+   stat = asn1PE_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
+   RT_CHECK(ctx, stat, 0, "failureCause", -1, "RadioBearerReconfigurationFailure");
+   /* potentiallySuccesfulBearerList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RB_IdentityList(ctx, &pvalue->potentiallySuccesfulBearerList);
+      RT_CHECK(ctx, stat, 0, "potentiallySuccesfulBearerList", -1, "RadioBearerReconfigurationFailure");
+   }
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RadioBearerReconfigurationFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "RadioBearerReconfigurationFailure");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_r3_IEs_dummy_fdd(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_r3_IEs_dummy_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy1 */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->dummy1 - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "CPCH-SetID");
+         rtxErrAddUIntParm(ctx, pvalue->dummy1);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "CPCH-SetID", "dummy1", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dummy1, 1, 16);
+      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy1", -1, 0);
+   }
+   /* dummy2 */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_r3_IEs_dummy(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_r3_IEs_dummy* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerRelease_r3_IEs_dummy_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_r3_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_r3_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_r3_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_r3_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerRelease_r3_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_r3_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerRelease-r3-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 23) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 22) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 21) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 20) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 20) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 21) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 22) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 23) & 1u) << 0), 24);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RadioBearerRelease-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RadioBearerRelease-r3-IEs");
+   /* integrityProtectionModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* activationTime */
+   if (pvalue->m & 0x4u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* new-U-RNTI */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* new-C-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerRelease-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerRelease-r3-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (pvalue->m & 0x20u) {
+      if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
+         rtxErrAddStrParm(ctx, "UTRAN-DRX-CycleLengthCoefficient");
+         rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerRelease-r3-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* signallingConnectionRelIndication */
+   if (pvalue->m & 0x80u) {
+      if (pvalue->signallingConnectionRelIndication > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->signallingConnectionRelIndication);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "signallingConnectionRelIndication", -1, "RadioBearerRelease-r3-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->signallingConnectionRelIndication, 0, 1);
+      RT_CHECK(ctx, stat, "CN-DomainIdentity", "signallingConnectionRelIndication", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* rab-InformationReconfigList */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* rb-InformationReleaseList */
+   stat = asn1PE_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
+   RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "RadioBearerRelease-r3-IEs");
+   /* rb-InformationAffectedList */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_RB_InformationAffectedList(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (pvalue->m & 0x4000u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* dummy */
+   if (pvalue->m & 0x8000u) {
+      stat = asn1PE_UMTS_RadioBearerRelease_r3_IEs_dummy(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_DL_DeletedTransChInfoList(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfo2List(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x80000u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x100000u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerRelease-r3-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* ul-ChannelRequirement */
+   if (pvalue->m & 0x200000u) {
+      stat = asn1PE_UMTS_UL_ChannelRequirement(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* modeSpecificPhysChInfo */
+   stat = asn1PE_UMTS_RadioBearerRelease_r3_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "RadioBearerRelease-r3-IEs");
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x400000u) {
+      stat = asn1PE_UMTS_DL_CommonInformation(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerRelease-r3-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x800000u) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerRelease-r3-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_v3a0ext(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_v3a0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerRelease-v3a0ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-v3a0ext");
+   /* new-DSCH-RNTI */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerRelease-v3a0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerRelease-v4b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-v4b0ext-IEs");
+   /* dummy */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->dummy > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->dummy);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "SSDT-UL", "dummy", -1, "RadioBearerRelease-v4b0ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dummy, 0, 1);
+      RT_CHECK(ctx, stat, "SSDT-UL", "dummy", -1, "RadioBearerRelease-v4b0ext-IEs");
+   }
+   /* cell-id-PerRL-List */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CellIdentity_PerRL_List(ctx, &pvalue->cell_id_PerRL_List);
+      RT_CHECK(ctx, stat, 0, "cell-id-PerRL-List", -1, "RadioBearerRelease-v4b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerRelease-v590ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-v590ext-IEs");
+   /* dl-TPC-PowerOffsetPerRL-List */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_TPC_PowerOffsetPerRL_List(ctx, &pvalue->dl_TPC_PowerOffsetPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-TPC-PowerOffsetPerRL-List", -1, "RadioBearerRelease-v590ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_v690ext_IEs_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, RadioBearerRelease_v690ext_IEs_postVerificationPeriod value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerRelease-v690ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 0), 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-v690ext-IEs");
+   /* primary-plmn-Identity */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
+      RT_CHECK(ctx, stat, 0, "primary-plmn-Identity", -1, "RadioBearerRelease-v690ext-IEs");
+   }
+   /* harq-Preamble-Mode */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->harq_Preamble_Mode > 1u) {
+         rtxErrAddStrParm(ctx, "HARQ-Preamble-Mode");
+         rtxErrAddUIntParm(ctx, pvalue->harq_Preamble_Mode);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "RadioBearerRelease-v690ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->harq_Preamble_Mode, 0, 1);
+      RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "RadioBearerRelease-v690ext-IEs");
+   }
+   /* beaconPLEst */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->beaconPLEst > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->beaconPLEst);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "BEACON-PL-Est", "beaconPLEst", -1, "RadioBearerRelease-v690ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->beaconPLEst, 0, 0);
+      RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "RadioBearerRelease-v690ext-IEs");
+   }
+   /* postVerificationPeriod */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->postVerificationPeriod > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->postVerificationPeriod);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "postVerificationPeriod", -1, "RadioBearerRelease-v690ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->postVerificationPeriod, 0, 0);
+      RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "RadioBearerRelease-v690ext-IEs");
+   }
+   /* dhs-sync */
+   if (pvalue->m & 0x10u) {
+      if (pvalue->dhs_sync < -20 || pvalue->dhs_sync > 10) {
+         rtxErrAddStrParm(ctx, "DHS-Sync");
+         rtxErrAddIntParm(ctx, pvalue->dhs_sync);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DHS-Sync", "dhs-sync", -1, "RadioBearerRelease-v690ext-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->dhs_sync, -20, 10);
+      RT_CHECK(ctx, stat, "DHS-Sync", "dhs-sync", -1, "RadioBearerRelease-v690ext-IEs");
+   }
+   /* timingMaintainedSynchInd */
+   if (pvalue->m & 0x20u) {
+      if (pvalue->timingMaintainedSynchInd > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->timingMaintainedSynchInd);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TimingMaintainedSynchInd", "timingMaintainedSynchInd", -1, "RadioBearerRelease-v690ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->timingMaintainedSynchInd, 0, 0);
+      RT_CHECK(ctx, stat, "TimingMaintainedSynchInd", "timingMaintainedSynchInd", -1, "RadioBearerRelease-v690ext-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (pvalue->m & 0x40u) {
+      if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerRelease-v690ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
+      RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerRelease-v690ext-IEs");
+   }
+   /* mbms-RB-ListReleasedToChangeTransferMode */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_RB_InformationReleaseList(ctx, &pvalue->mbms_RB_ListReleasedToChangeTransferMode);
+      RT_CHECK(ctx, stat, 0, "mbms-RB-ListReleasedToChangeTransferMode", -1, "RadioBearerRelease-v690ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerRelease-v770ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-v770ext-IEs");
+   /* ueMobilityStateIndicator */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->ueMobilityStateIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->ueMobilityStateIndicator);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerRelease-v770ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ueMobilityStateIndicator, 0, 0);
+      RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerRelease-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v770ext */
+   stat = asn1PE_UMTS_RadioBearerRelease_v770ext_IEs(ctx, &pvalue->radioBearerRelease_v770ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v690ext */
+   stat = asn1PE_UMTS_RadioBearerRelease_v690ext_IEs(ctx, &pvalue->radioBearerRelease_v690ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v590ext */
+   stat = asn1PE_UMTS_RadioBearerRelease_v590ext_IEs(ctx, &pvalue->radioBearerRelease_v590ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v590ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v4b0ext */
+   stat = asn1PE_UMTS_RadioBearerRelease_v4b0ext_IEs(ctx, &pvalue->radioBearerRelease_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v4b0ext", -1, 0);
+   /* v590NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->radioBearerRelease_r3_add_ext.numbits, pvalue->radioBearerRelease_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "radioBearerRelease-r3-add-ext", -1, 0);
+   }
+   /* v4b0NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_r3_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v3a0ext */
+   stat = asn1PE_UMTS_RadioBearerRelease_v3a0ext(ctx, &pvalue->radioBearerRelease_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v3a0ext", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_r3(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-r3 */
+   stat = asn1PE_UMTS_RadioBearerRelease_r3_IEs(ctx, &pvalue->radioBearerRelease_r3);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-r3", -1, 0);
+   /* v3a0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerRelease_r3_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_r4_IEs_dummy_fdd(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_r4_IEs_dummy_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy1 */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->dummy1 - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "CPCH-SetID");
+         rtxErrAddUIntParm(ctx, pvalue->dummy1);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "CPCH-SetID", "dummy1", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dummy1, 1, 16);
+      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy1", -1, 0);
+   }
+   /* dummy2 */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_r4_IEs_dummy(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_r4_IEs_dummy* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerRelease_r4_IEs_dummy_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_r4_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_r4_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_r4_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_r4_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerRelease_r4_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_r4_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_r4_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerRelease-r4-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 24) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 23) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 22) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 21) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 20) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 20) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 21) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 22) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 23) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 24) & 1u) << 0), 25);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-r4-IEs");
+   /* integrityProtectionModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerRelease-r4-IEs");
+   }
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerRelease-r4-IEs");
+   }
+   /* activationTime */
+   if (pvalue->m & 0x4u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerRelease-r4-IEs");
+   }
+   /* new-U-RNTI */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerRelease-r4-IEs");
+   }
+   /* new-C-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerRelease-r4-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerRelease-r4-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerRelease-r4-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerRelease-r4-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (pvalue->m & 0x40u) {
+      if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
+         rtxErrAddStrParm(ctx, "UTRAN-DRX-CycleLengthCoefficient");
+         rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerRelease-r4-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerRelease-r4-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerRelease-r4-IEs");
+   }
+   /* signallingConnectionRelIndication */
+   if (pvalue->m & 0x100u) {
+      if (pvalue->signallingConnectionRelIndication > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->signallingConnectionRelIndication);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "signallingConnectionRelIndication", -1, "RadioBearerRelease-r4-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->signallingConnectionRelIndication, 0, 1);
+      RT_CHECK(ctx, stat, "CN-DomainIdentity", "signallingConnectionRelIndication", -1, "RadioBearerRelease-r4-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerRelease-r4-IEs");
+   }
+   /* rab-InformationReconfigList */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, "RadioBearerRelease-r4-IEs");
+   }
+   /* rb-InformationReleaseList */
+   stat = asn1PE_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
+   RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "RadioBearerRelease-r4-IEs");
+   /* rb-InformationAffectedList */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_RB_InformationAffectedList(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerRelease-r4-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "RadioBearerRelease-r4-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerRelease-r4-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (pvalue->m & 0x4000u) {
+      stat = asn1PE_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerRelease-r4-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (pvalue->m & 0x8000u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerRelease-r4-IEs");
+   }
+   /* dummy */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_RadioBearerRelease_r4_IEs_dummy(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "RadioBearerRelease-r4-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerRelease-r4-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_DL_DeletedTransChInfoList(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerRelease-r4-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (pvalue->m & 0x80000u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r4(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerRelease-r4-IEs");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x100000u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerRelease-r4-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x200000u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerRelease-r4-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerRelease-r4-IEs");
+   }
+   /* ul-ChannelRequirement */
+   if (pvalue->m & 0x400000u) {
+      stat = asn1PE_UMTS_UL_ChannelRequirement_r4(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "RadioBearerRelease-r4-IEs");
+   }
+   /* modeSpecificPhysChInfo */
+   stat = asn1PE_UMTS_RadioBearerRelease_r4_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "RadioBearerRelease-r4-IEs");
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x800000u) {
+      stat = asn1PE_UMTS_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerRelease-r4-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x1000000u) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_r4(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerRelease-r4-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v770ext */
+   stat = asn1PE_UMTS_RadioBearerRelease_v770ext_IEs(ctx, &pvalue->radioBearerRelease_v770ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v690ext */
+   stat = asn1PE_UMTS_RadioBearerRelease_v690ext_IEs(ctx, &pvalue->radioBearerRelease_v690ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v590ext */
+   stat = asn1PE_UMTS_RadioBearerRelease_v590ext_IEs(ctx, &pvalue->radioBearerRelease_v590ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v590ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-r4-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->radioBearerRelease_r4_add_ext.numbits, pvalue->radioBearerRelease_r4_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "radioBearerRelease-r4-add-ext", -1, 0);
+   }
+   /* v590NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-r4 */
+   stat = asn1PE_UMTS_RadioBearerRelease_r4_IEs(ctx, &pvalue->radioBearerRelease_r4);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-r4", -1, 0);
+   /* v4d0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_r5_IEs_dummy_fdd(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_r5_IEs_dummy_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy1 */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->dummy1 - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "CPCH-SetID");
+         rtxErrAddUIntParm(ctx, pvalue->dummy1);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "CPCH-SetID", "dummy1", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dummy1, 1, 16);
+      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy1", -1, 0);
+   }
+   /* dummy2 */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_r5_IEs_dummy(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_r5_IEs_dummy* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerRelease_r5_IEs_dummy_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_r5_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_r5_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_r5_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_r5_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerRelease_r5_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_r5_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_r5_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerRelease-r5-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 26) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 25) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 24) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 23) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 22) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 21) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 20) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 20) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 21) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 22) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 23) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 24) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 25) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 26) & 1u) << 0), 27);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-r5-IEs");
+   /* integrityProtectionModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* activationTime */
+   if (pvalue->m & 0x4u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* new-U-RNTI */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* new-C-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* new-H-RNTI */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerRelease-r5-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerRelease-r5-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (pvalue->m & 0x80u) {
+      if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
+         rtxErrAddStrParm(ctx, "UTRAN-DRX-CycleLengthCoefficient");
+         rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerRelease-r5-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* signallingConnectionRelIndication */
+   if (pvalue->m & 0x200u) {
+      if (pvalue->signallingConnectionRelIndication > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->signallingConnectionRelIndication);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "signallingConnectionRelIndication", -1, "RadioBearerRelease-r5-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->signallingConnectionRelIndication, 0, 1);
+      RT_CHECK(ctx, stat, "CN-DomainIdentity", "signallingConnectionRelIndication", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* rab-InformationReconfigList */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* rb-InformationReleaseList */
+   stat = asn1PE_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
+   RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "RadioBearerRelease-r5-IEs");
+   /* rb-InformationAffectedList */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_RB_InformationAffectedList_r5(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x4000u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (pvalue->m & 0x8000u) {
+      stat = asn1PE_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* dummy */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_RadioBearerRelease_r5_IEs_dummy(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (pvalue->m & 0x80000u) {
+      stat = asn1PE_UMTS_DL_DeletedTransChInfoList_r5(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (pvalue->m & 0x100000u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x200000u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x400000u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerRelease-r5-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* ul-ChannelRequirement */
+   if (pvalue->m & 0x800000u) {
+      stat = asn1PE_UMTS_UL_ChannelRequirement_r5(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* modeSpecificPhysChInfo */
+   stat = asn1PE_UMTS_RadioBearerRelease_r5_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "RadioBearerRelease-r5-IEs");
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x1000000u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x2000000u) {
+      stat = asn1PE_UMTS_DL_CommonInformation_r5(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerRelease-r5-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x4000000u) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_r5(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerRelease-r5-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v770ext */
+   stat = asn1PE_UMTS_RadioBearerRelease_v770ext_IEs(ctx, &pvalue->radioBearerRelease_v770ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v690ext */
+   stat = asn1PE_UMTS_RadioBearerRelease_v690ext_IEs(ctx, &pvalue->radioBearerRelease_v690ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-r5 */
+   stat = asn1PE_UMTS_RadioBearerRelease_r5_IEs(ctx, &pvalue->radioBearerRelease_r5);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-r5", -1, 0);
+   /* radioBearerRelease-r5-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->radioBearerRelease_r5_add_ext.numbits, pvalue->radioBearerRelease_r5_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "radioBearerRelease-r5-add-ext", -1, 0);
+   }
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_r6_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_r6_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerRelease-r6-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 31) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 30) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 29) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 28) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 27) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 26) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 25) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 24) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 23) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 22) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 21) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 20) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 20) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 21) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 22) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 23) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 24) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 25) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 26) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 27) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 28) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 29) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 30) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 31) & 1u) << 0), 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-r6-IEs");
+   /* integrityProtectionModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* activationTime */
+   if (pvalue->m & 0x4u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* new-U-RNTI */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* new-C-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* new-H-RNTI */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerRelease-r6-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerRelease-r6-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (pvalue->m & 0x200u) {
+      if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
+         rtxErrAddStrParm(ctx, "UTRAN-DRX-CycleLengthCoefficient");
+         rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerRelease-r6-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* signallingConnectionRelIndication */
+   if (pvalue->m & 0x800u) {
+      if (pvalue->signallingConnectionRelIndication > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->signallingConnectionRelIndication);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "signallingConnectionRelIndication", -1, "RadioBearerRelease-r6-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->signallingConnectionRelIndication, 0, 1);
+      RT_CHECK(ctx, stat, "CN-DomainIdentity", "signallingConnectionRelIndication", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* rab-InformationReconfigList */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* rb-InformationReleaseList */
+   stat = asn1PE_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
+   RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "RadioBearerRelease-r6-IEs");
+   /* rb-InformationReconfigList */
+   if (pvalue->m & 0x4000u) {
+      stat = asn1PE_UMTS_RB_InformationReconfigList_r6(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (pvalue->m & 0x8000u) {
+      stat = asn1PE_UMTS_RB_InformationAffectedList_r6(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (pvalue->m & 0x80000u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList_r6(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x100000u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (pvalue->m & 0x200000u) {
+      stat = asn1PE_UMTS_DL_DeletedTransChInfoList_r5(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (pvalue->m & 0x400000u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x800000u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x1000000u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerRelease-r6-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (pvalue->m & 0x2000000u) {
+      stat = asn1PE_UMTS_UL_DPCH_Info_r6(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (pvalue->m & 0x4000000u) {
+      stat = asn1PE_UMTS_UL_EDCH_Information_r6(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x8000000u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r6(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x10000000u) {
+      stat = asn1PE_UMTS_DL_CommonInformation_r6(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x20000000u) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_r6(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (pvalue->m & 0x40000000u) {
+      if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerRelease-r6-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
+      RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerRelease-r6-IEs");
+   }
+   /* mbms-RB-ListReleasedToChangeTransferMode */
+   if (pvalue->m & 0x80000000u) {
+      stat = asn1PE_UMTS_RB_InformationReleaseList(ctx, &pvalue->mbms_RB_ListReleasedToChangeTransferMode);
+      RT_CHECK(ctx, stat, 0, "mbms-RB-ListReleasedToChangeTransferMode", -1, "RadioBearerRelease-r6-IEs");
+   }
    return 0;
 }
 

@@ -6,1234 +6,1583 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PE_UMTS_SysInfoType6_v770ext_IEs_tdd768SpecificInfo(rtxContext* ctx, const SysInfoType6_v770ext_IEs_tdd768SpecificInfo* pvalue)
+int asn1PE_UMTS_RadioBearerRelease_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_v6b0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* pusch-SysInfoList-SFN */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pusch-SysInfoList-SFN");
-      stat = asn1PE_UMTS_PUSCH_SysInfoList_SFN_VHCR(ctx, &pvalue->pusch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdsch-SysInfoList-SFN */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "pdsch-SysInfoList-SFN");
-      stat = asn1PE_UMTS_PDSCH_SysInfoList_VHCR_r7(ctx, &pvalue->pdsch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* prach-SystemInformationList */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "prach-SystemInformationList");
-      stat = asn1PE_UMTS_PRACH_SystemInformationList_VHCR_r7(ctx, &pvalue->prach_SystemInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType6_v770ext_IEs(rtxContext* ctx, const SysInfoType6_v770ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType6-v770ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* tdd768SpecificInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "tdd768SpecificInfo");
-      stat = asn1PE_UMTS_SysInfoType6_v770ext_IEs_tdd768SpecificInfo(ctx, &pvalue->tdd768SpecificInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sccpch-SystemInformationList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "sccpch-SystemInformationList");
-      stat = asn1PE_UMTS_SCCPCH_SystemInformationList_HCR_VHCR_r7(ctx, &pvalue->sccpch_SystemInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, const SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerRelease-v6b0ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType6-v770ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType6-v770ext");
-   stat = asn1PE_UMTS_SysInfoType6_v770ext_IEs(ctx, &pvalue->sysInfoType6_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-v6b0ext-IEs");
+   /* dl-InformationPerRL-List-v6b0ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_v6b0ext(ctx, &pvalue->dl_InformationPerRL_List_v6b0ext);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List-v6b0ext", -1, "RadioBearerRelease-v6b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v770ext */
+   stat = asn1PE_UMTS_RadioBearerRelease_v770ext_IEs(ctx, &pvalue->radioBearerRelease_v770ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v770ext", -1, 0);
    /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions(rtxContext* ctx, const SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions* pvalue)
+int asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType6-v690ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType6-v690ext");
-   stat = asn1PE_UMTS_SysInfoType6_v690ext_IEs(ctx, &pvalue->sysInfoType6_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v6b0ext */
+   stat = asn1PE_UMTS_RadioBearerRelease_v6b0ext_IEs(ctx, &pvalue->radioBearerRelease_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v6b0ext", -1, 0);
    /* v770NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions(rtxContext* ctx, const SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions* pvalue)
+int asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType6-v650ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-r6 */
+   stat = asn1PE_UMTS_RadioBearerRelease_r6_IEs(ctx, &pvalue->radioBearerRelease_r6);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-r6", -1, 0);
+   /* radioBearerRelease-r6-add-ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sysInfoType6-v650ext");
-      stat = asn1PE_UMTS_SysInfoType6_v650ext_IEs(ctx, &pvalue->sysInfoType6_v650ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->radioBearerRelease_r6_add_ext.numbits, pvalue->radioBearerRelease_r6_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "radioBearerRelease-r6-add-ext", -1, 0);
    }
-   /* v690nonCriticalExtensions */
+   /* v6b0NonCriticalExtensions */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v690nonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions(ctx, &pvalue->v690nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* ctx, const SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_RadioBearerRelease_r7_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_r7_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerRelease-r7-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType6-v590ext */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 31) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 30) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 29) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 28) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 27) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 26) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 25) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 24) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 23) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 22) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 21) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 20) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 20) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 21) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 22) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 23) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 24) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 25) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 26) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 27) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 28) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 29) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 30) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 31) & 1u) << 0), 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-r7-IEs");
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 32) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 33) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 34) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 35) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 36) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 37) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 38) & 1u) << 0), 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-r7-IEs");
+   /* integrityProtectionModeInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sysInfoType6-v590ext");
-      stat = asn1PE_UMTS_SysInfoType6_v590ext_IEs(ctx, &pvalue->sysInfoType6_v590ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerRelease-r7-IEs");
    }
-   /* v650nonCriticalExtensions */
+   /* cipheringModeInfo */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v650nonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions(ctx, &pvalue->v650nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerRelease-r7-IEs");
    }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType6_v4b0NonCriticalExtensions(rtxContext* ctx, const SysInfoType6_v4b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType6-v4b0ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sysInfoType6-v4b0ext");
-      stat = asn1PE_UMTS_SysInfoType6_v4b0ext_IEs(ctx, &pvalue->sysInfoType6_v4b0ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v590NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType6(rtxContext* ctx, const SysInfoType6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat);
-   /* pich-PowerOffset */
-   rtxCtxtPushElemName(ctx, "pich-PowerOffset");
-   rtxCtxtPushTypeName(ctx, "PICH-PowerOffset");
-   if (pvalue->pich_PowerOffset < -10 || pvalue->pich_PowerOffset > 5) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->pich_PowerOffset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->pich_PowerOffset, -10, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_SysInfoType6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-Info */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "primaryCCPCH-Info");
-      stat = asn1PE_UMTS_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* prach-SystemInformationList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "prach-SystemInformationList");
-      stat = asn1PE_UMTS_PRACH_SystemInformationList(ctx, &pvalue->prach_SystemInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sCCPCH-SystemInformationList */
+   /* activationTime */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "sCCPCH-SystemInformationList");
-      stat = asn1PE_UMTS_SCCPCH_SystemInformationList(ctx, &pvalue->sCCPCH_SystemInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerRelease-r7-IEs");
    }
-   /* cbs-DRX-Level1Information */
+   /* new-U-RNTI */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "cbs-DRX-Level1Information");
-      stat = asn1PE_UMTS_CBS_DRX_Level1Information(ctx, &pvalue->cbs_DRX_Level1Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerRelease-r7-IEs");
    }
-   /* v4b0NonCriticalExtensions */
+   /* new-C-RNTI */
    if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "v4b0NonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType6_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerRelease-r7-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType8_nonCriticalExtensions(rtxContext* ctx, const SysInfoType8_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType8(rtxContext* ctx, const SysInfoType8* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* dummy1 */
-   rtxCtxtPushElemName(ctx, "dummy1");
-   stat = asn1PE_UMTS_CPCH_Parameters(ctx, &pvalue->dummy1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dummy2 */
-   rtxCtxtPushElemName(ctx, "dummy2");
-   stat = asn1PE_UMTS_CPCH_SetInfoList(ctx, &pvalue->dummy2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dummy3 */
-   rtxCtxtPushElemName(ctx, "dummy3");
-   rtxCtxtPushTypeName(ctx, "CSICH-PowerOffset");
-   if (pvalue->dummy3 < -10 || pvalue->dummy3 > 5) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->dummy3);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+   /* new-DSCH-RNTI */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerRelease-r7-IEs");
    }
-   stat = pe_ConsInt64(ctx, pvalue->dummy3, -10, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType8_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   /* new-H-RNTI */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerRelease-r7-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType9_nonCriticalExtensions(rtxContext* ctx, const SysInfoType9_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType9(rtxContext* ctx, const SysInfoType9* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   rtxCtxtPushElemName(ctx, "dummy");
-   stat = asn1PE_UMTS_CPCH_PersistenceLevelsList(ctx, &pvalue->dummy);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   /* newPrimary-E-RNTI */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RadioBearerRelease-r7-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType10_nonCriticalExtensions(rtxContext* ctx, const SysInfoType10_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType10(rtxContext* ctx, const SysInfoType10* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType10");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   rtxCtxtPushElemName(ctx, "dummy");
-   stat = asn1PE_UMTS_DRAC_SysInfoList(ctx, &pvalue->dummy);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType10_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   /* newSecondary-E-RNTI */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RadioBearerRelease-r7-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType13_v3a0ext_IEs(rtxContext* ctx, const SysInfoType13_v3a0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType13-v3a0ext-IEs");
-   /* ue-IdleTimersAndConstants-v3a0ext */
-   rtxCtxtPushElemName(ctx, "ue-IdleTimersAndConstants-v3a0ext");
-   stat = asn1PE_UMTS_UE_IdleTimersAndConstants_v3a0ext(ctx, &pvalue->ue_IdleTimersAndConstants_v3a0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType13_v4b0ext_IEs(rtxContext* ctx, const SysInfoType13_v4b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType13-v4b0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* capabilityUpdateRequirement-r4Ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "capabilityUpdateRequirement-r4Ext");
-      stat = asn1PE_UMTS_CapabilityUpdateRequirement_r4_ext(ctx, &pvalue->capabilityUpdateRequirement_r4Ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerRelease-r7-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType13_v770ext_IEs(rtxContext* ctx, const SysInfoType13_v770ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType13-v770ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* capabilityUpdateRequirement */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "capabilityUpdateRequirement");
-      stat = asn1PE_UMTS_CapabilityUpdateRequirement_v770ext(ctx, &pvalue->capabilityUpdateRequirement);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, const SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType13-v770ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType13-v770ext");
-   stat = asn1PE_UMTS_SysInfoType13_v770ext_IEs(ctx, &pvalue->sysInfoType13_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* ctx, const SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType13-v4b0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType13-v4b0ext");
-   stat = asn1PE_UMTS_SysInfoType13_v4b0ext_IEs(ctx, &pvalue->sysInfoType13_v4b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v770NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType13_v3a0NonCriticalExtensions(rtxContext* ctx, const SysInfoType13_v3a0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType13-v3a0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType13-v3a0ext");
-   stat = asn1PE_UMTS_SysInfoType13_v3a0ext_IEs(ctx, &pvalue->sysInfoType13_v3a0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v4b0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v4b0NonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType13(rtxContext* ctx, const SysInfoType13* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType13");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* cn-DomainSysInfoList */
-   rtxCtxtPushElemName(ctx, "cn-DomainSysInfoList");
-   stat = asn1PE_UMTS_CN_DomainSysInfoList(ctx, &pvalue->cn_DomainSysInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-IdleTimersAndConstants */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-IdleTimersAndConstants");
-      stat = asn1PE_UMTS_UE_IdleTimersAndConstants(ctx, &pvalue->ue_IdleTimersAndConstants);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* capabilityUpdateRequirement */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "capabilityUpdateRequirement");
-      stat = asn1PE_UMTS_CapabilityUpdateRequirement(ctx, &pvalue->capabilityUpdateRequirement);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v3a0NonCriticalExtensions */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "v3a0NonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType13_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ANSI_41_RAND_Information(rtxContext* ctx, const ANSI_41_RAND_Information* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ANSI-41-RAND-Information");
-   stat = asn1PE_UMTS_ANSI_41_NAS_Parameter(ctx, pvalue);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType13_1_nonCriticalExtensions(rtxContext* ctx, const SysInfoType13_1_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType13_1(rtxContext* ctx, const SysInfoType13_1* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType13-1");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ansi-41-RAND-Information */
-   rtxCtxtPushElemName(ctx, "ansi-41-RAND-Information");
-   stat = asn1PE_UMTS_ANSI_41_RAND_Information(ctx, &pvalue->ansi_41_RAND_Information);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType13_1_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ANSI_41_UserZoneID_Information(rtxContext* ctx, const ANSI_41_UserZoneID_Information* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ANSI-41-UserZoneID-Information");
-   stat = asn1PE_UMTS_ANSI_41_NAS_Parameter(ctx, pvalue);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType13_2_nonCriticalExtensions(rtxContext* ctx, const SysInfoType13_2_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType13_2(rtxContext* ctx, const SysInfoType13_2* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType13-2");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ansi-41-UserZoneID-Information */
-   rtxCtxtPushElemName(ctx, "ansi-41-UserZoneID-Information");
-   stat = asn1PE_UMTS_ANSI_41_UserZoneID_Information(ctx, &pvalue->ansi_41_UserZoneID_Information);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType13_2_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ANSI_41_PrivateNeighbourListInfo(rtxContext* ctx, const ANSI_41_PrivateNeighbourListInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ANSI-41-PrivateNeighbourListInfo");
-   stat = asn1PE_UMTS_ANSI_41_NAS_Parameter(ctx, pvalue);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType13_3_nonCriticalExtensions(rtxContext* ctx, const SysInfoType13_3_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType13_3(rtxContext* ctx, const SysInfoType13_3* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType13-3");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ansi-41-PrivateNeighbourListInfo */
-   rtxCtxtPushElemName(ctx, "ansi-41-PrivateNeighbourListInfo");
-   stat = asn1PE_UMTS_ANSI_41_PrivateNeighbourListInfo(ctx, &pvalue->ansi_41_PrivateNeighbourListInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType13_3_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ANSI_41_GlobalServiceRedirectInfo(rtxContext* ctx, const ANSI_41_GlobalServiceRedirectInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ANSI-41-GlobalServiceRedirectInfo");
-   stat = asn1PE_UMTS_ANSI_41_NAS_Parameter(ctx, pvalue);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType13_4_nonCriticalExtensions(rtxContext* ctx, const SysInfoType13_4_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType13_4(rtxContext* ctx, const SysInfoType13_4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType13-4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ansi-41-GlobalServiceRedirectInfo */
-   rtxCtxtPushElemName(ctx, "ansi-41-GlobalServiceRedirectInfo");
-   stat = asn1PE_UMTS_ANSI_41_GlobalServiceRedirectInfo(ctx, &pvalue->ansi_41_GlobalServiceRedirectInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType13_4_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType14_nonCriticalExtensions(rtxContext* ctx, const SysInfoType14_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType14(rtxContext* ctx, const SysInfoType14* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType14");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* individualTS-InterferenceList */
-   rtxCtxtPushElemName(ctx, "individualTS-InterferenceList");
-   stat = asn1PE_UMTS_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* expirationTimeFactor */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "expirationTimeFactor");
-      rtxCtxtPushTypeName(ctx, "ExpirationTimeFactor");
-      if ((uint64_t)(pvalue->expirationTimeFactor - 1) > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->expirationTimeFactor);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerRelease-r7-IEs");
+   /* ueMobilityStateIndicator */
+   if (pvalue->m & 0x200u) {
+      if (pvalue->ueMobilityStateIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->ueMobilityStateIndicator);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerRelease-r7-IEs");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->expirationTimeFactor, 1, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->ueMobilityStateIndicator, 0, 0);
+      RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerRelease-r7-IEs");
    }
+   /* utran-DRX-CycleLengthCoeff */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* signallingConnectionRelIndication */
+   if (pvalue->m & 0x1000u) {
+      if (pvalue->signallingConnectionRelIndication > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->signallingConnectionRelIndication);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "signallingConnectionRelIndication", -1, "RadioBearerRelease-r7-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->signallingConnectionRelIndication, 0, 1);
+      RT_CHECK(ctx, stat, "CN-DomainIdentity", "signallingConnectionRelIndication", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   if (pvalue->m & 0x4000u) {
+      stat = rtxEncBit(ctx, pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* rab-InformationReconfigList */
+   if (pvalue->m & 0x8000u) {
+      stat = asn1PE_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* rb-InformationReleaseList */
+   stat = asn1PE_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
+   RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "RadioBearerRelease-r7-IEs");
+   /* rb-InformationReconfigList */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_RB_InformationReconfigList_r7(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_RB_InformationAffectedList_r7(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x80000u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (pvalue->m & 0x100000u) {
+      stat = asn1PE_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (pvalue->m & 0x200000u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList_r7(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x400000u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (pvalue->m & 0x800000u) {
+      stat = asn1PE_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (pvalue->m & 0x1000000u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x2000000u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (pvalue->m & 0x4000000u) {
+      stat = asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (pvalue->m & 0x8000000u) {
+      stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* dtx-drx-Info */
+   if (pvalue->m & 0x10000000u) {
+      stat = asn1PE_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (pvalue->m & 0x20000000u) {
+      stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* mimoParameters */
+   if (pvalue->m & 0x40000000u) {
+      stat = asn1PE_UMTS_MIMO_Parameters_r7(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x80000000u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerRelease-r7-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (pvalue->m & 0x100000000ull) {
+      stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (pvalue->m & 0x200000000ull) {
+      stat = asn1PE_UMTS_UL_EDCH_Information_r7(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x400000000ull) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r7(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x800000000ull) {
+      stat = asn1PE_UMTS_DL_CommonInformation_r7(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x1000000000ull) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (pvalue->m & 0x2000000000ull) {
+      if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerRelease-r7-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
+      RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerRelease-r7-IEs");
+   }
+   /* mbms-RB-ListReleasedToChangeTransferMode */
+   if (pvalue->m & 0x4000000000ull) {
+      stat = asn1PE_UMTS_RB_InformationReleaseList(ctx, &pvalue->mbms_RB_ListReleasedToChangeTransferMode);
+      RT_CHECK(ctx, stat, 0, "mbms-RB-ListReleasedToChangeTransferMode", -1, "RadioBearerRelease-r7-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_v780ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_v780ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerRelease-v780ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-v780ext-IEs");
+   /* hs-DSCH-TBSizeTable */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->hs_DSCH_TBSizeTable > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->hs_DSCH_TBSizeTable);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "RadioBearerRelease-v780ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->hs_DSCH_TBSizeTable, 0, 0);
+      RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "RadioBearerRelease-v780ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_v7d0ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_v7d0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerRelease-v7d0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-v7d0ext-IEs");
+   /* ul-EDCH-Information */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UL_EDCH_Information_ext(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerRelease-v7d0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_v7f0ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_v7f0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerRelease-v7f0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-v7f0ext-IEs");
+   /* mimoParameters */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MIMO_Parameters_v7f0ext(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerRelease-v7f0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_v7g0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerRelease-v7g0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-v7g0ext-IEs");
+   /* mimoParameters */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MIMO_Parameters_v7g0ext(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerRelease-v7g0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v7g0ext */
+   stat = asn1PE_UMTS_RadioBearerRelease_v7g0ext_IEs(ctx, &pvalue->radioBearerRelease_v7g0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v7g0ext", -1, 0);
    /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v7f0ext */
+   stat = asn1PE_UMTS_RadioBearerRelease_v7f0ext_IEs(ctx, &pvalue->radioBearerRelease_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v7f0ext", -1, 0);
+   /* v7g0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v7d0ext */
+   stat = asn1PE_UMTS_RadioBearerRelease_v7d0ext_IEs(ctx, &pvalue->radioBearerRelease_v7d0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v7d0ext", -1, 0);
+   /* v7f0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v780ext */
+   stat = asn1PE_UMTS_RadioBearerRelease_v780ext_IEs(ctx, &pvalue->radioBearerRelease_v780ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v780ext", -1, 0);
+   /* v7d0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-r7 */
+   stat = asn1PE_UMTS_RadioBearerRelease_r7_IEs(ctx, &pvalue->radioBearerRelease_r7);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-r7", -1, 0);
+   /* radioBearerRelease-r7-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->radioBearerRelease_r7_add_ext.numbits, pvalue->radioBearerRelease_r7_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "radioBearerRelease-r7-add-ext", -1, 0);
+   }
+   /* v780NonCriticalExtensions */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType14_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v780NonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType15_v4b0ext_IEs(rtxContext* ctx, const SysInfoType15_v4b0ext_IEs* pvalue)
+int asn1PE_UMTS_RadioBearerRelease_r8_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_r8_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-v4b0ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerRelease-r8-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* up-Ipdl-Parameters-TDD */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 31) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 30) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 29) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 28) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 27) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 26) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 25) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 24) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 23) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 22) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 21) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 20) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 20) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 21) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 22) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 23) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 24) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 25) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 26) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 27) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 28) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 29) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 30) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 31) & 1u) << 0), 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-r8-IEs");
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 32) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 33) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 34) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 35) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 36) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 37) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 38) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 39) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 40) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 41) & 1u) << 0), 10);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-r8-IEs");
+   /* integrityProtectionModeInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "up-Ipdl-Parameters-TDD");
-      stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters_TDD_r4_ext(ctx, &pvalue->up_Ipdl_Parameters_TDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerRelease-r8-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_v770ext_IEs(rtxContext* ctx, const SysInfoType15_v770ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-v770ext-IEs");
-   /* ue-Positioning-GPS-ReferenceTime */
-   rtxCtxtPushElemName(ctx, "ue-Positioning-GPS-ReferenceTime");
-   stat = asn1PE_UMTS_UE_Positioning_GPS_ReferenceTime_v770ext(ctx, &pvalue->ue_Positioning_GPS_ReferenceTime);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, const SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType15-v770ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType15-v770ext");
-   stat = asn1PE_UMTS_SysInfoType15_v770ext_IEs(ctx, &pvalue->sysInfoType15_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_v4b0NonCriticalExtensions(rtxContext* ctx, const SysInfoType15_v4b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType15-v4b0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType15-v4b0ext");
-   stat = asn1PE_UMTS_SysInfoType15_v4b0ext_IEs(ctx, &pvalue->sysInfoType15_v4b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v770NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15(rtxContext* ctx, const SysInfoType15* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType15");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GPS-CipherParameters */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-CipherParameters");
-      stat = asn1PE_UMTS_UE_Positioning_CipherParameters(ctx, &pvalue->ue_positioning_GPS_CipherParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-ReferenceLocation */
-   rtxCtxtPushElemName(ctx, "ue-positioning-GPS-ReferenceLocation");
-   stat = asn1PE_UMTS_ReferenceLocation(ctx, &pvalue->ue_positioning_GPS_ReferenceLocation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-positioning-GPS-ReferenceTime */
-   rtxCtxtPushElemName(ctx, "ue-positioning-GPS-ReferenceTime");
-   stat = asn1PE_UMTS_UE_Positioning_GPS_ReferenceTime(ctx, &pvalue->ue_positioning_GPS_ReferenceTime);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-positioning-GPS-Real-timeIntegrity */
+   /* cipheringModeInfo */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-Real-timeIntegrity");
-      stat = asn1PE_UMTS_BadSatList(ctx, &pvalue->ue_positioning_GPS_Real_timeIntegrity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerRelease-r8-IEs");
    }
-   /* v4b0NonCriticalExtensions */
+   /* activationTime */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "v4b0NonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType15_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerRelease-r8-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
+   /* new-U-RNTI */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* new-C-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* new-H-RNTI */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerRelease-r8-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerRelease-r8-IEs");
+   /* ueMobilityStateIndicator */
+   if (pvalue->m & 0x200u) {
+      if (pvalue->ueMobilityStateIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->ueMobilityStateIndicator);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerRelease-r8-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ueMobilityStateIndicator, 0, 0);
+      RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* utran-DRX-CycleLengthCoeff */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* signallingConnectionRelIndication */
+   if (pvalue->m & 0x1000u) {
+      if (pvalue->signallingConnectionRelIndication > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->signallingConnectionRelIndication);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "signallingConnectionRelIndication", -1, "RadioBearerRelease-r8-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->signallingConnectionRelIndication, 0, 1);
+      RT_CHECK(ctx, stat, "CN-DomainIdentity", "signallingConnectionRelIndication", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   if (pvalue->m & 0x4000u) {
+      stat = rtxEncBit(ctx, pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* rab-InformationReconfigList */
+   if (pvalue->m & 0x8000u) {
+      stat = asn1PE_UMTS_RAB_InformationReconfigList_r8(ctx, &pvalue->rab_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* rb-InformationReleaseList */
+   stat = asn1PE_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
+   RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "RadioBearerRelease-r8-IEs");
+   /* rb-InformationReconfigList */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_RB_InformationReconfigList_r8(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_RB_InformationAffectedList_r8(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x80000u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (pvalue->m & 0x100000u) {
+      stat = asn1PE_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (pvalue->m & 0x200000u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x400000u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (pvalue->m & 0x800000u) {
+      stat = asn1PE_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (pvalue->m & 0x1000000u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x2000000u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (pvalue->m & 0x4000000u) {
+      stat = asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (pvalue->m & 0x8000000u) {
+      stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* dtx-drx-Info */
+   if (pvalue->m & 0x10000000u) {
+      stat = asn1PE_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (pvalue->m & 0x20000000u) {
+      stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* mimoParameters */
+   if (pvalue->m & 0x40000000u) {
+      stat = asn1PE_UMTS_MIMO_Parameters_r8(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x80000000u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerRelease-r8-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (pvalue->m & 0x100000000ull) {
+      stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (pvalue->m & 0x200000000ull) {
+      stat = asn1PE_UMTS_UL_EDCH_Information_r8(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x400000000ull) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x800000000ull) {
+      stat = asn1PE_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x1000000000ull) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* dl-SecondaryCellInfoFDD */
+   if (pvalue->m & 0x2000000000ull) {
+      stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD(ctx, &pvalue->dl_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* controlChannelDRXInfo-TDD128 */
+   if (pvalue->m & 0x4000000000ull) {
+      stat = asn1PE_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
+      RT_CHECK(ctx, stat, 0, "controlChannelDRXInfo-TDD128", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* sps-Information-TDD128 */
+   if (pvalue->m & 0x8000000000ull) {
+      stat = asn1PE_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
+      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (pvalue->m & 0x10000000000ull) {
+      if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerRelease-r8-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
+      RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerRelease-r8-IEs");
+   }
+   /* mbms-RB-ListReleasedToChangeTransferMode */
+   if (pvalue->m & 0x20000000000ull) {
+      stat = asn1PE_UMTS_RB_InformationReleaseList(ctx, &pvalue->mbms_RB_ListReleasedToChangeTransferMode);
+      RT_CHECK(ctx, stat, 0, "mbms-RB-ListReleasedToChangeTransferMode", -1, "RadioBearerRelease-r8-IEs");
+   }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType15bis_v860ext_IEs(rtxContext* ctx, const SysInfoType15bis_v860ext_IEs* pvalue)
+int asn1PE_UMTS_RadioBearerRelease_v890ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_v890ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType15bis-v860ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerRelease-v890ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ue-Positioning-GANSS-AddIonoModel */
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-v890ext-IEs");
+   /* dl-SecondaryCellInfoFDD-v890ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-GANSS-AddIonoModel");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AddIonoModel(ctx, &pvalue->ue_Positioning_GANSS_AddIonoModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD_v890ext(ctx, &pvalue->dl_SecondaryCellInfoFDD_v890ext);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD-v890ext", -1, "RadioBearerRelease-v890ext-IEs");
    }
-   /* ue-Positioning-GANSS-EarthOrientationPara */
+   /* dl-HSPDSCH-Information */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-GANSS-EarthOrientationPara");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_EarthOrientPara(ctx, &pvalue->ue_Positioning_GANSS_EarthOrientationPara);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_ext(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerRelease-v890ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType15bis_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const SysInfoType15bis_v860NonCriticalExtensions_nonCriticalExtensions* pvalue)
+int asn1PE_UMTS_RadioBearerRelease_v8a0ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_v8a0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15bis_v860NonCriticalExtensions(rtxContext* ctx, const SysInfoType15bis_v860NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerRelease-v8a0ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType15bis-v860ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType15bis-v860ext");
-   stat = asn1PE_UMTS_SysInfoType15bis_v860ext_IEs(ctx, &pvalue->sysInfoType15bis_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-v8a0ext-IEs");
+   /* dl-HSPDSCH-Information */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType15bis_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_ext2(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerRelease-v8a0ext-IEs");
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType15bis(rtxContext* ctx, const SysInfoType15bis* pvalue)
+int asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType15bis");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v8a0ext */
+   stat = asn1PE_UMTS_RadioBearerRelease_v8a0ext_IEs(ctx, &pvalue->radioBearerRelease_v8a0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v8a0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v7g0ext */
+   stat = asn1PE_UMTS_RadioBearerRelease_v7g0ext_IEs(ctx, &pvalue->radioBearerRelease_v7g0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v7g0ext", -1, 0);
+   /* v8a0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v8a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v890ext */
+   stat = asn1PE_UMTS_RadioBearerRelease_v890ext_IEs(ctx, &pvalue->radioBearerRelease_v890ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v890ext", -1, 0);
+   /* v7g0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v7f0ext */
+   stat = asn1PE_UMTS_RadioBearerRelease_v7f0ext_IEs(ctx, &pvalue->radioBearerRelease_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v7f0ext", -1, 0);
+   /* v890NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-v7d0ext */
+   stat = asn1PE_UMTS_RadioBearerRelease_v7d0ext_IEs(ctx, &pvalue->radioBearerRelease_v7d0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-v7d0ext", -1, 0);
+   /* v7f0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GANSS-ReferencePosition */
-   rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-ReferencePosition");
-   stat = asn1PE_UMTS_ReferenceLocationGANSS(ctx, &pvalue->ue_positioning_GANSS_ReferencePosition);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-positioning-GANSS-ReferenceTime */
-   rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-ReferenceTime");
-   stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime(ctx, &pvalue->ue_positioning_GANSS_ReferenceTime);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-positioning-GANSS-IonosphericModel */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-r8 */
+   stat = asn1PE_UMTS_RadioBearerRelease_r8_IEs(ctx, &pvalue->radioBearerRelease_r8);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-r8", -1, 0);
+   /* radioBearerRelease-r8-add-ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-IonosphericModel");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_IonosphericModel(ctx, &pvalue->ue_positioning_GANSS_IonosphericModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->radioBearerRelease_r8_add_ext.numbits, pvalue->radioBearerRelease_r8_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "radioBearerRelease-r8-add-ext", -1, 0);
    }
-   /* v860NonCriticalExtensions */
+   /* v7d0NonCriticalExtensions */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType15bis_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType15_1_v920ext_IEs(rtxContext* ctx, const SysInfoType15_1_v920ext_IEs* pvalue)
+int asn1PE_UMTS_RadioBearerRelease_r9_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_r9_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-1-v920ext-IEs");
-   /* ue-positioning-GPS-DGPS-Corrections */
-   rtxCtxtPushElemName(ctx, "ue-positioning-GPS-DGPS-Corrections");
-   stat = asn1PE_UMTS_UE_Positioning_GPS_DGPS_Corrections_v920ext(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerRelease-r9-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 31) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 30) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 29) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 28) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 27) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 26) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 25) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 24) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 23) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 22) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 21) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 20) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 20) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 21) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 22) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 23) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 24) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 25) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 26) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 27) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 28) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 29) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 30) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 31) & 1u) << 0), 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-r9-IEs");
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 32) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 33) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 34) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 35) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 36) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 37) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 38) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 39) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 40) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 41) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 42) & 1u) << 0), 11);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerRelease-r9-IEs");
+   /* integrityProtectionModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* activationTime */
+   if (pvalue->m & 0x4u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* new-U-RNTI */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* new-C-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* new-H-RNTI */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerRelease-r9-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerRelease-r9-IEs");
+   /* ueMobilityStateIndicator */
+   if (pvalue->m & 0x200u) {
+      if (pvalue->ueMobilityStateIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->ueMobilityStateIndicator);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerRelease-r9-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ueMobilityStateIndicator, 0, 0);
+      RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* utran-DRX-CycleLengthCoeff */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* signallingConnectionRelIndication */
+   if (pvalue->m & 0x1000u) {
+      if (pvalue->signallingConnectionRelIndication > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->signallingConnectionRelIndication);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "signallingConnectionRelIndication", -1, "RadioBearerRelease-r9-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->signallingConnectionRelIndication, 0, 1);
+      RT_CHECK(ctx, stat, "CN-DomainIdentity", "signallingConnectionRelIndication", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   if (pvalue->m & 0x4000u) {
+      stat = rtxEncBit(ctx, pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* rab-InformationReconfigList */
+   if (pvalue->m & 0x8000u) {
+      stat = asn1PE_UMTS_RAB_InformationReconfigList_r8(ctx, &pvalue->rab_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* rb-InformationReleaseList */
+   stat = asn1PE_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
+   RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "RadioBearerRelease-r9-IEs");
+   /* rb-InformationReconfigList */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_RB_InformationReconfigList_r8(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_RB_InformationAffectedList_r8(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x80000u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (pvalue->m & 0x100000u) {
+      stat = asn1PE_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (pvalue->m & 0x200000u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x400000u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (pvalue->m & 0x800000u) {
+      stat = asn1PE_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (pvalue->m & 0x1000000u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r9(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x2000000u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (pvalue->m & 0x4000000u) {
+      stat = asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (pvalue->m & 0x8000000u) {
+      stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* dtx-drx-Info */
+   if (pvalue->m & 0x10000000u) {
+      stat = asn1PE_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (pvalue->m & 0x20000000u) {
+      stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* mimoParameters */
+   if (pvalue->m & 0x40000000u) {
+      stat = asn1PE_UMTS_MIMO_Parameters_r9(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x80000000u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerRelease-r9-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (pvalue->m & 0x100000000ull) {
+      stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (pvalue->m & 0x200000000ull) {
+      stat = asn1PE_UMTS_UL_EDCH_Information_r9(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* ul-SecondaryCellInfoFDD */
+   if (pvalue->m & 0x400000000ull) {
+      stat = asn1PE_UMTS_UL_SecondaryCellInfoFDD(ctx, &pvalue->ul_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "ul-SecondaryCellInfoFDD", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x800000000ull) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x1000000000ull) {
+      stat = asn1PE_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x2000000000ull) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* dl-SecondaryCellInfoFDD */
+   if (pvalue->m & 0x4000000000ull) {
+      stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD_r9(ctx, &pvalue->dl_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* controlChannelDRXInfo-TDD128 */
+   if (pvalue->m & 0x8000000000ull) {
+      stat = asn1PE_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
+      RT_CHECK(ctx, stat, 0, "controlChannelDRXInfo-TDD128", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* sps-Information-TDD128 */
+   if (pvalue->m & 0x10000000000ull) {
+      stat = asn1PE_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
+      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (pvalue->m & 0x20000000000ull) {
+      if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerRelease-r9-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
+      RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerRelease-r9-IEs");
+   }
+   /* mbms-RB-ListReleasedToChangeTransferMode */
+   if (pvalue->m & 0x40000000000ull) {
+      stat = asn1PE_UMTS_RB_InformationReleaseList(ctx, &pvalue->mbms_RB_ListReleasedToChangeTransferMode);
+      RT_CHECK(ctx, stat, 0, "mbms-RB-ListReleasedToChangeTransferMode", -1, "RadioBearerRelease-r9-IEs");
+   }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType15_1_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const SysInfoType15_1_v920NonCriticalExtensions_nonCriticalExtensions* pvalue)
+int asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType15_1_v920NonCriticalExtensions(rtxContext* ctx, const SysInfoType15_1_v920NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerRelease-r9 */
+   stat = asn1PE_UMTS_RadioBearerRelease_r9_IEs(ctx, &pvalue->radioBearerRelease_r9);
+   RT_CHECK(ctx, stat, 0, "radioBearerRelease-r9", -1, 0);
+   /* radioBearerRelease-r9-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->radioBearerRelease_r9_add_ext.numbits, pvalue->radioBearerRelease_r9_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "radioBearerRelease-r9-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r9 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r9", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
+         RT_CHECK(ctx, stat, 0, "r9", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r8 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r8", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
+         RT_CHECK(ctx, stat, 0, "r8", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r7", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
+         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r6 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r6", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(ctx, pvalue->u.r6);
+         RT_CHECK(ctx, stat, 0, "r6", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r5", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_r5(ctx, pvalue->u.r5);
+         RT_CHECK(ctx, stat, 0, "r5", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r4", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
+         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease_later_than_r3(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PE_UMTS_RadioBearerRelease_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerRelease(rtxContext* RT_RESTRICT ctx, const RadioBearerRelease* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerRelease");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "RadioBearerRelease");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RadioBearerRelease");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r3", -1, "RadioBearerRelease");
+         stat = asn1PE_UMTS_RadioBearerRelease_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "RadioBearerRelease");
+         break;
+      case 2:
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "later-than-r3", -1, "RadioBearerRelease");
+         stat = asn1PE_UMTS_RadioBearerRelease_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "RadioBearerRelease");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReleaseComplete_v770ext_IEs_deferredMeasurementControlReading(rtxContext* RT_RESTRICT ctx, RadioBearerReleaseComplete_v770ext_IEs_deferredMeasurementControlReading value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReleaseComplete_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerReleaseComplete_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerReleaseComplete-v770ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReleaseComplete-v770ext-IEs");
+   /* ext-UL-TimingAdvance */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_EXT_UL_TimingAdvance(ctx, &pvalue->ext_UL_TimingAdvance);
+      RT_CHECK(ctx, stat, 0, "ext-UL-TimingAdvance", -1, "RadioBearerReleaseComplete-v770ext-IEs");
+   }
+   /* deferredMeasurementControlReading */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->deferredMeasurementControlReading > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->deferredMeasurementControlReading);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "deferredMeasurementControlReading", -1, "RadioBearerReleaseComplete-v770ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->deferredMeasurementControlReading, 0, 0);
+      RT_CHECK(ctx, stat, 0, "deferredMeasurementControlReading", -1, "RadioBearerReleaseComplete-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReleaseComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReleaseComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReleaseComplete_laterNonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReleaseComplete_laterNonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType15-1-v920ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType15-1-v920ext");
-   stat = asn1PE_UMTS_SysInfoType15_1_v920ext_IEs(ctx, &pvalue->sysInfoType15_1_v920ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReleaseComplete-v770ext */
+   stat = asn1PE_UMTS_RadioBearerReleaseComplete_v770ext_IEs(ctx, &pvalue->radioBearerReleaseComplete_v770ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerReleaseComplete-v770ext", -1, 0);
    /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType15_1_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RadioBearerReleaseComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType15_1(rtxContext* ctx, const SysInfoType15_1* pvalue)
+int asn1PE_UMTS_RadioBearerReleaseComplete_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReleaseComplete_laterNonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-1");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GPS-DGPS-Corrections */
-   rtxCtxtPushElemName(ctx, "ue-positioning-GPS-DGPS-Corrections");
-   stat = asn1PE_UMTS_UE_Positioning_GPS_DGPS_Corrections(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v920NonCriticalExtensions */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReleaseComplete-r3-add-ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v920NonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType15_1_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->radioBearerReleaseComplete_r3_add_ext.numbits, pvalue->radioBearerReleaseComplete_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "radioBearerReleaseComplete-r3-add-ext", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_1bis_v920ext_IEs(rtxContext* ctx, const SysInfoType15_1bis_v920ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-1bis-v920ext-IEs");
-   /* ue-positioning-GANSS-DGANSS-Corrections */
-   rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-DGANSS-Corrections");
-   stat = asn1PE_UMTS_UE_Positioning_DGANSSCorrections_v920ext(ctx, &pvalue->ue_positioning_GANSS_DGANSS_Corrections);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_1bis_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const SysInfoType15_1bis_v920NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_1bis_v920NonCriticalExtensions(rtxContext* ctx, const SysInfoType15_1bis_v920NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType15-1bis-v920ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType15-1bis-v920ext");
-   stat = asn1PE_UMTS_SysInfoType15_1bis_v920ext_IEs(ctx, &pvalue->sysInfoType15_1bis_v920ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType15_1bis_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RadioBearerReleaseComplete_laterNonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType15_1bis(rtxContext* ctx, const SysInfoType15_1bis* pvalue)
+int asn1PE_UMTS_RadioBearerReleaseComplete(rtxContext* RT_RESTRICT ctx, const RadioBearerReleaseComplete* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-1bis");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GANSS-DGANSS-Corrections */
-   rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-DGANSS-Corrections");
-   stat = asn1PE_UMTS_UE_Positioning_DGANSSCorrections(ctx, &pvalue->ue_positioning_GANSS_DGANSS_Corrections);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v920NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v920NonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType15_1bis_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_2_nonCriticalExtensions(rtxContext* ctx, const SysInfoType15_2_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_2(rtxContext* ctx, const SysInfoType15_2* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-2");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* transmissionTOW */
-   rtxCtxtPushElemName(ctx, "transmissionTOW");
-   rtxCtxtPushTypeName(ctx, "GPS-TOW-1sec");
-   if ((uint64_t)pvalue->transmissionTOW > 604799u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->transmissionTOW);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->transmissionTOW, 0, 604799);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* satID */
-   rtxCtxtPushElemName(ctx, "satID");
-   rtxCtxtPushTypeName(ctx, "SatID");
-   if ((uint64_t)pvalue->satID > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->satID);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->satID, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ephemerisParameter */
-   rtxCtxtPushElemName(ctx, "ephemerisParameter");
-   stat = asn1PE_UMTS_EphemerisParameter(ctx, &pvalue->ephemerisParameter);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType15_2_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_2bis_nonCriticalExtensions(rtxContext* ctx, const SysInfoType15_2bis_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_2bis(rtxContext* ctx, const SysInfoType15_2bis* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-2bis");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GANSS-navigationModel */
-   rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-navigationModel");
-   stat = asn1PE_UMTS_UE_Positioning_GANSS_NavigationModel(ctx, &pvalue->ue_positioning_GANSS_navigationModel);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType15_2bis_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_2ter_nonCriticalExtensions(rtxContext* ctx, const SysInfoType15_2ter_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_2ter(rtxContext* ctx, const SysInfoType15_2ter* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-2ter");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GANSS-AddNavigationModels */
-   rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-AddNavigationModels");
-   stat = asn1PE_UMTS_UE_Positioning_GANSS_AddNavigationModels(ctx, &pvalue->ue_positioning_GANSS_AddNavigationModels);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType15_2ter_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_3_nonCriticalExtensions(rtxContext* ctx, const SysInfoType15_3_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_3(rtxContext* ctx, const SysInfoType15_3* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-3");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerReleaseComplete");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
@@ -1241,5834 +1590,1134 @@ int asn1PE_UMTS_SysInfoType15_3(rtxContext* ctx, const SysInfoType15_3* pvalue)
       ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat);
-   /* transmissionTOW */
-   rtxCtxtPushElemName(ctx, "transmissionTOW");
-   rtxCtxtPushTypeName(ctx, "GPS-TOW-1sec");
-   if ((uint64_t)pvalue->transmissionTOW > 604799u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->transmissionTOW);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->transmissionTOW, 0, 604799);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ue-positioning-GPS-Almanac */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-Almanac");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_Almanac(ctx, &pvalue->ue_positioning_GPS_Almanac);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-IonosphericModel */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-IonosphericModel");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_IonosphericModel(ctx, &pvalue->ue_positioning_GPS_IonosphericModel);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GPS-UTC-Model */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-UTC-Model");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_UTC_Model(ctx, &pvalue->ue_positioning_GPS_UTC_Model);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* satMask */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "satMask");
-      RT_SET_SIZE(ctx, 1, 32);
-      stat = pe_BitString32(ctx, &pvalue->satMask, 1, 32);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* lsbTOW */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "lsbTOW");
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pe_BitString32(ctx, &pvalue->lsbTOW, 8, 8);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType15_3_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_3bis_v860ext_IEs(rtxContext* ctx, const SysInfoType15_3bis_v860ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-3bis-v860ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* ue-Positioning-GANSS-Almanac */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-GANSS-Almanac");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_Almanac_v860ext(ctx, &pvalue->ue_Positioning_GANSS_Almanac);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-Positioning-GANSS-AddUTCModels */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-GANSS-AddUTCModels");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AddUTCModels(ctx, &pvalue->ue_Positioning_GANSS_AddUTCModels);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-Positioning-GANSS-AuxiliaryInfo */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-GANSS-AuxiliaryInfo");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AuxiliaryInfo(ctx, &pvalue->ue_Positioning_GANSS_AuxiliaryInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_3bis_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const SysInfoType15_3bis_v860NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_3bis_v860NonCriticalExtensions(rtxContext* ctx, const SysInfoType15_3bis_v860NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType15-3bis-v860ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType15-3bis-v860ext");
-   stat = asn1PE_UMTS_SysInfoType15_3bis_v860ext_IEs(ctx, &pvalue->sysInfoType15_3bis_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType15_3bis_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_3bis(rtxContext* ctx, const SysInfoType15_3bis* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-3bis");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GANSS-Almanac */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-Almanac");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_Almanac(ctx, &pvalue->ue_positioning_GANSS_Almanac);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GANSS-TimeModels */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-TimeModels");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_TimeModels(ctx, &pvalue->ue_positioning_GANSS_TimeModels);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GANSS-UTC-Model */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-UTC-Model");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_UTCModel(ctx, &pvalue->ue_positioning_GANSS_UTC_Model);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v860NonCriticalExtensions */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType15_3bis_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_4_v3a0ext(rtxContext* ctx, const SysInfoType15_4_v3a0ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-4-v3a0ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sfn-Offset-Validity */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sfn-Offset-Validity");
-      rtxCtxtPushTypeName(ctx, "SFN-Offset-Validity");
-      if (pvalue->sfn_Offset_Validity > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->sfn_Offset_Validity);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->sfn_Offset_Validity, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_4_v4b0ext(rtxContext* ctx, const SysInfoType15_4_v4b0ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-4-v4b0ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-Positioning-OTDOA-AssistanceData-r4ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-OTDOA-AssistanceData-r4ext");
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_r4ext(ctx, &pvalue->ue_Positioning_OTDOA_AssistanceData_r4ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* ctx, const SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType15-4-v4b0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType15-4-v4b0ext");
-   stat = asn1PE_UMTS_SysInfoType15_4_v4b0ext(ctx, &pvalue->sysInfoType15_4_v4b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions(rtxContext* ctx, const SysInfoType15_4_v3a0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType15-4-v3a0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType15-4-v3a0ext");
-   stat = asn1PE_UMTS_SysInfoType15_4_v3a0ext(ctx, &pvalue->sysInfoType15_4_v3a0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v4b0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v4b0NonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_4(rtxContext* ctx, const SysInfoType15_4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-OTDOA-CipherParameters */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-CipherParameters");
-      stat = asn1PE_UMTS_UE_Positioning_CipherParameters(ctx, &pvalue->ue_positioning_OTDOA_CipherParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-OTDOA-AssistanceData */
-   rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-AssistanceData");
-   stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v3a0NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v3a0NonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_5_v3a0ext(rtxContext* ctx, const SysInfoType15_5_v3a0ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-5-v3a0ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sfn-Offset-Validity */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sfn-Offset-Validity");
-      rtxCtxtPushTypeName(ctx, "SFN-Offset-Validity");
-      if (pvalue->sfn_Offset_Validity > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->sfn_Offset_Validity);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->sfn_Offset_Validity, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_5_v770ext_IEs(rtxContext* ctx, const SysInfoType15_5_v770ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-5-v770ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-Positioning-OTDOA-AssistanceData-UEB-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-OTDOA-AssistanceData-UEB-ext");
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB_ext(ctx, &pvalue->ue_Positioning_OTDOA_AssistanceData_UEB_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, const SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType15-5-v770ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType15-5-v770ext");
-   stat = asn1PE_UMTS_SysInfoType15_5_v770ext_IEs(ctx, &pvalue->sysInfoType15_5_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions(rtxContext* ctx, const SysInfoType15_5_v3a0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType15-5-v3a0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType15-5-v3a0ext");
-   stat = asn1PE_UMTS_SysInfoType15_5_v3a0ext(ctx, &pvalue->sysInfoType15_5_v3a0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v770NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_5(rtxContext* ctx, const SysInfoType15_5* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-5");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-OTDOA-AssistanceData-UEB */
-   rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-AssistanceData-UEB");
-   stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData_UEB);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v3a0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v3a0NonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_6_nonCriticalExtensions(rtxContext* ctx, const SysInfoType15_6_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_6(rtxContext* ctx, const SysInfoType15_6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GANSS-TOD */
-   rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-TOD");
-   if ((uint64_t)pvalue->ue_positioning_GANSS_TOD > 86399u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ue_positioning_GANSS_TOD);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_positioning_GANSS_TOD, 0, 86399);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-positioning-GANSS-ReferenceMeasurementInformation */
-   rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-ReferenceMeasurementInformation");
-   stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceMeasurementInfo(ctx, &pvalue->ue_positioning_GANSS_ReferenceMeasurementInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType15_6_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_7_nonCriticalExtensions(rtxContext* ctx, const SysInfoType15_7_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_7(rtxContext* ctx, const SysInfoType15_7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GANSS-DataBitAssistance */
-   rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-DataBitAssistance");
-   stat = asn1PE_UMTS_UE_Positioning_GANSS_Data_Bit_Assistance(ctx, &pvalue->ue_positioning_GANSS_DataBitAssistance);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType15_7_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_8_nonCriticalExtensions(rtxContext* ctx, const SysInfoType15_8_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_8(rtxContext* ctx, const SysInfoType15_8* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType15-8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GANSS-DataCipheringInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-DataCipheringInfo");
-      stat = asn1PE_UMTS_UE_Positioning_CipherParameters(ctx, &pvalue->ue_positioning_GANSS_DataCipheringInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GANSS-realTimeIntegrity */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-realTimeIntegrity");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_RealTimeIntegrity(ctx, &pvalue->ue_positioning_GANSS_realTimeIntegrity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType15_8_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType17_v4b0ext_IEs_tdd128SpecificInfo(rtxContext* ctx, const SysInfoType17_v4b0ext_IEs_tdd128SpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* pusch-SysInfoList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pusch-SysInfoList");
-      stat = asn1PE_UMTS_PUSCH_SysInfoList_LCR_r4(ctx, &pvalue->pusch_SysInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdsch-SysInfoList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "pdsch-SysInfoList");
-      stat = asn1PE_UMTS_PDSCH_SysInfoList_LCR_r4(ctx, &pvalue->pdsch_SysInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType17_v4b0ext_IEs(rtxContext* ctx, const SysInfoType17_v4b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType17-v4b0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* tdd128SpecificInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "tdd128SpecificInfo");
-      stat = asn1PE_UMTS_SysInfoType17_v4b0ext_IEs_tdd128SpecificInfo(ctx, &pvalue->tdd128SpecificInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType17_v590ext_IEs_hcr_r5_SpecificInfo(rtxContext* ctx, const SysInfoType17_v590ext_IEs_hcr_r5_SpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* pusch-SysInfoList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pusch-SysInfoList");
-      stat = asn1PE_UMTS_PUSCH_SysInfoList_HCR_r5(ctx, &pvalue->pusch_SysInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdsch-SysInfoList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "pdsch-SysInfoList");
-      stat = asn1PE_UMTS_PDSCH_SysInfoList_HCR_r5(ctx, &pvalue->pdsch_SysInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType17_v590ext_IEs(rtxContext* ctx, const SysInfoType17_v590ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType17-v590ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* hcr-r5-SpecificInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "hcr-r5-SpecificInfo");
-      stat = asn1PE_UMTS_SysInfoType17_v590ext_IEs_hcr_r5_SpecificInfo(ctx, &pvalue->hcr_r5_SpecificInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType17_v770ext_IEs_tdd768SpecificInfo(rtxContext* ctx, const SysInfoType17_v770ext_IEs_tdd768SpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* pusch-SysInfoList-SFN */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pusch-SysInfoList-SFN");
-      stat = asn1PE_UMTS_PUSCH_SysInfoList_SFN_VHCR(ctx, &pvalue->pusch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdsch-SysInfoList-SFN */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "pdsch-SysInfoList-SFN");
-      stat = asn1PE_UMTS_PDSCH_SysInfoList_VHCR_r7(ctx, &pvalue->pdsch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType17_v770ext_IEs(rtxContext* ctx, const SysInfoType17_v770ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType17-v770ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* tdd768SpecificInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "tdd768SpecificInfo");
-      stat = asn1PE_UMTS_SysInfoType17_v770ext_IEs_tdd768SpecificInfo(ctx, &pvalue->tdd768SpecificInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, const SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType17-v770ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType17-v770ext");
-   stat = asn1PE_UMTS_SysInfoType17_v770ext_IEs(ctx, &pvalue->sysInfoType17_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* ctx, const SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType17-v590ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sysInfoType17-v590ext");
-      stat = asn1PE_UMTS_SysInfoType17_v590ext_IEs(ctx, &pvalue->sysInfoType17_v590ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v770NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType17_v4b0NonCriticalExtensions(rtxContext* ctx, const SysInfoType17_v4b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType17-v4b0ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType17-v4b0ext");
-   stat = asn1PE_UMTS_SysInfoType17_v4b0ext_IEs(ctx, &pvalue->sysInfoType17_v4b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v590NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType17(rtxContext* ctx, const SysInfoType17* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType17");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* pusch-SysInfoList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pusch-SysInfoList");
-      stat = asn1PE_UMTS_PUSCH_SysInfoList(ctx, &pvalue->pusch_SysInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdsch-SysInfoList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "pdsch-SysInfoList");
-      stat = asn1PE_UMTS_PDSCH_SysInfoList(ctx, &pvalue->pdsch_SysInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v4b0NonCriticalExtensions */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "v4b0NonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType17_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType19_v920ext(rtxContext* ctx, const SysInfoType19_v920ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType19-v920ext");
-   /* utra-PriorityInfoList-v920ext */
-   rtxCtxtPushElemName(ctx, "utra-PriorityInfoList-v920ext");
-   stat = asn1PE_UMTS_UTRA_PriorityInfoList_v920ext(ctx, &pvalue->utra_PriorityInfoList_v920ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* eutra-FrequencyAndPriorityInfoList-v920ext */
-   rtxCtxtPushElemName(ctx, "eutra-FrequencyAndPriorityInfoList-v920ext");
-   stat = asn1PE_UMTS_EUTRA_FrequencyAndPriorityInfoList_v920ext(ctx, &pvalue->eutra_FrequencyAndPriorityInfoList_v920ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType19_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const SysInfoType19_v920NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType19_v920NonCriticalExtensions(rtxContext* ctx, const SysInfoType19_v920NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sysInfoType19-v920ext */
-   rtxCtxtPushElemName(ctx, "sysInfoType19-v920ext");
-   stat = asn1PE_UMTS_SysInfoType19_v920ext(ctx, &pvalue->sysInfoType19_v920ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType19_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType19(rtxContext* ctx, const SysInfoType19* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType19");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* utra-PriorityInfoList */
-   rtxCtxtPushElemName(ctx, "utra-PriorityInfoList");
-   stat = asn1PE_UMTS_UTRA_PriorityInfoList(ctx, &pvalue->utra_PriorityInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* gsm-PriorityInfoList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "gsm-PriorityInfoList");
-      stat = asn1PE_UMTS_GSM_PriorityInfoList(ctx, &pvalue->gsm_PriorityInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* eutra-FrequencyAndPriorityInfoList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "eutra-FrequencyAndPriorityInfoList");
-      stat = asn1PE_UMTS_EUTRA_FrequencyAndPriorityInfoList(ctx, &pvalue->eutra_FrequencyAndPriorityInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v920NonCriticalExtensions */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "v920NonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType19_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType20_nonCriticalExtensions(rtxContext* ctx, const SysInfoType20_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType20(rtxContext* ctx, const SysInfoType20* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "SysInfoType20");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* hNBName */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "hNBName");
-      stat = asn1PE_UMTS_HNBName(ctx, &pvalue->hNBName);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_SysInfoType20_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_HistoryInformation(rtxContext* ctx, const UE_HistoryInformation* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "UE-HistoryInformation");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* ue-InactivityPeriod */
-   rtxCtxtPushElemName(ctx, "ue-InactivityPeriod");
-   if ((uint64_t)(pvalue->ue_InactivityPeriod - 1) > 119u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->ue_InactivityPeriod);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_InactivityPeriod, 1, 120);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ueMobilityStateIndicator */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ueMobilityStateIndicator");
-      rtxCtxtPushTypeName(ctx, "High-MobilityDetected");
-      if (pvalue->ueMobilityStateIndicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->ueMobilityStateIndicator);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ueMobilityStateIndicator, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-dataVolumeHistory */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ul-dataVolumeHistory");
-      stat = asn1PE_UMTS_DataVolumeHistory(ctx, &pvalue->ul_dataVolumeHistory);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-dataVolumeHistory */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "dl-dataVolumeHistory");
-      stat = asn1PE_UMTS_DataVolumeHistory(ctx, &pvalue->dl_dataVolumeHistory);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_AccessProbabilityFactor(rtxContext* ctx, MBMS_AccessProbabilityFactor value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-AccessProbabilityFactor");
-   if (value > 31) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_CellGroupIdentity_r6(rtxContext* ctx, MBMS_CellGroupIdentity_r6 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-CellGroupIdentity-r6");
-   RT_SET_SIZE(ctx, 12, 12);
-   stat = pe_BitString32(ctx, &value, 12, 12);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_CommonCCTrChIdentity(rtxContext* ctx, MBMS_CommonCCTrChIdentity value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-CommonCCTrChIdentity");
-   if ((uint64_t)(value - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_CommonPhyChIdentity(rtxContext* ctx, MBMS_CommonPhyChIdentity value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-CommonPhyChIdentity");
-   if ((uint64_t)(value - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_CommonRBIdentity(rtxContext* ctx, MBMS_CommonRBIdentity value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-CommonRBIdentity");
-   if ((uint64_t)(value - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_CommonRBInformation_r6(rtxContext* ctx, const MBMS_CommonRBInformation_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-CommonRBInformation-r6");
-   /* commonRBIdentity */
-   rtxCtxtPushElemName(ctx, "commonRBIdentity");
-   rtxCtxtPushTypeName(ctx, "MBMS-CommonRBIdentity");
-   if ((uint64_t)(pvalue->commonRBIdentity - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->commonRBIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->commonRBIdentity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* pdcp-Info */
-   rtxCtxtPushElemName(ctx, "pdcp-Info");
-   stat = asn1PE_UMTS_PDCP_Info_r4(ctx, &pvalue->pdcp_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rlc-Info */
-   rtxCtxtPushElemName(ctx, "rlc-Info");
-   stat = asn1PE_UMTS_RLC_Info_MTCH_r6(ctx, &pvalue->rlc_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_CommonRBInformationList_r6(rtxContext* ctx, const MBMS_CommonRBInformationList_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MBMS-CommonRBInformationList-r6");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "MBMS-CommonRBInformation-r6", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MBMS_CommonRBInformation_r6(ctx, (const MBMS_CommonRBInformation_r6*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_CommonTrChIdentity(rtxContext* ctx, MBMS_CommonTrChIdentity value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-CommonTrChIdentity");
-   if ((uint64_t)(value - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ConnectedModeCountingScope(rtxContext* ctx, const MBMS_ConnectedModeCountingScope* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-ConnectedModeCountingScope");
-   /* countingForUraPCH */
-   rtxCtxtPushElemName(ctx, "countingForUraPCH");
-   stat = rtxEncBit(ctx, pvalue->countingForUraPCH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* countingForCellPCH */
-   rtxCtxtPushElemName(ctx, "countingForCellPCH");
-   stat = rtxEncBit(ctx, pvalue->countingForCellPCH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* countingForCellFACH */
-   rtxCtxtPushElemName(ctx, "countingForCellFACH");
-   stat = rtxEncBit(ctx, pvalue->countingForCellFACH);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_SCCPCHIdentity(rtxContext* ctx, MBMS_SCCPCHIdentity value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-SCCPCHIdentity");
-   if ((uint64_t)(value - 1) > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_SoftComb_TimingOffset(rtxContext* ctx, MBMS_SoftComb_TimingOffset value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-SoftComb-TimingOffset");
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ShortTransmissionID(rtxContext* ctx, MBMS_ShortTransmissionID value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-ShortTransmissionID");
-   if ((uint64_t)(value - 1) > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_LogicalChIdentity(rtxContext* ctx, MBMS_LogicalChIdentity value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-LogicalChIdentity");
-   if ((uint64_t)(value - 1) > 14u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_PTM_RBInformation_C(rtxContext* ctx, const MBMS_PTM_RBInformation_C* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-PTM-RBInformation-C");
-   /* rbInformation */
-   rtxCtxtPushElemName(ctx, "rbInformation");
-   rtxCtxtPushTypeName(ctx, "MBMS-CommonRBIdentity");
-   if ((uint64_t)(pvalue->rbInformation - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rbInformation);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rbInformation, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* shortTransmissionID */
-   rtxCtxtPushElemName(ctx, "shortTransmissionID");
-   rtxCtxtPushTypeName(ctx, "MBMS-ShortTransmissionID");
-   if ((uint64_t)(pvalue->shortTransmissionID - 1) > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->shortTransmissionID);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->shortTransmissionID, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* logicalChIdentity */
-   rtxCtxtPushElemName(ctx, "logicalChIdentity");
-   rtxCtxtPushTypeName(ctx, "MBMS-LogicalChIdentity");
-   if ((uint64_t)(pvalue->logicalChIdentity - 1) > 14u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->logicalChIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->logicalChIdentity, 1, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_PTM_RBInformation_CList(rtxContext* ctx, const MBMS_PTM_RBInformation_CList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MBMS-PTM-RBInformation-CList");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "MBMS-PTM-RBInformation-C", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MBMS_PTM_RBInformation_C(ctx, (const MBMS_PTM_RBInformation_C*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_TrCHInformation_Curr(rtxContext* ctx, const MBMS_TrCHInformation_Curr* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-TrCHInformation-Curr");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* transpCh-Info */
-   rtxCtxtPushElemName(ctx, "transpCh-Info");
-   rtxCtxtPushTypeName(ctx, "MBMS-CommonTrChIdentity");
-   if ((uint64_t)(pvalue->transpCh_Info - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->transpCh_Info);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->transpCh_Info, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* rbInformation */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "rbInformation");
-      stat = asn1PE_UMTS_MBMS_PTM_RBInformation_CList(ctx, &pvalue->rbInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* msch-ConfigurationInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "msch-ConfigurationInfo");
-      stat = asn1PE_UMTS_MBMS_MSCH_ConfigurationInfo_r6(ctx, &pvalue->msch_ConfigurationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_TrCHInformation_CurrList(rtxContext* ctx, const MBMS_TrCHInformation_CurrList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MBMS-TrCHInformation-CurrList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "MBMS-TrCHInformation-Curr", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MBMS_TrCHInformation_Curr(ctx, (const MBMS_TrCHInformation_Curr*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_CurrentCell_SCCPCH_r6(rtxContext* ctx, const MBMS_CurrentCell_SCCPCH_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-CurrentCell-SCCPCH-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* sccpchIdentity */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sccpchIdentity");
-      rtxCtxtPushTypeName(ctx, "MBMS-SCCPCHIdentity");
-      if ((uint64_t)(pvalue->sccpchIdentity - 1) > 15u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->sccpchIdentity);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->sccpchIdentity, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* secondaryCCPCH-Info */
-   rtxCtxtPushElemName(ctx, "secondaryCCPCH-Info");
-   rtxCtxtPushTypeName(ctx, "MBMS-CommonPhyChIdentity");
-   if ((uint64_t)(pvalue->secondaryCCPCH_Info - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->secondaryCCPCH_Info);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->secondaryCCPCH_Info, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* softComb-TimingOffset */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "softComb-TimingOffset");
-      rtxCtxtPushTypeName(ctx, "MBMS-SoftComb-TimingOffset");
-      if (pvalue->softComb_TimingOffset > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->softComb_TimingOffset);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->softComb_TimingOffset, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* transpCh-InfoCommonForAllTrCh */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "transpCh-InfoCommonForAllTrCh");
-      rtxCtxtPushTypeName(ctx, "MBMS-CommonCCTrChIdentity");
-      if ((uint64_t)(pvalue->transpCh_InfoCommonForAllTrCh - 1) > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->transpCh_InfoCommonForAllTrCh);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->transpCh_InfoCommonForAllTrCh, 1, 32);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* transpCHInformation */
-   rtxCtxtPushElemName(ctx, "transpCHInformation");
-   stat = asn1PE_UMTS_MBMS_TrCHInformation_CurrList(ctx, &pvalue->transpCHInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_CurrentCell_SCCPCHList_r6(rtxContext* ctx, const MBMS_CurrentCell_SCCPCHList_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MBMS-CurrentCell-SCCPCHList-r6");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "MBMS-CurrentCell-SCCPCH-r6", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MBMS_CurrentCell_SCCPCH_r6(ctx, (const MBMS_CurrentCell_SCCPCH_r6*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_JoinedInformation_r6(rtxContext* ctx, const MBMS_JoinedInformation_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-JoinedInformation-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* p-TMSI */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "p-TMSI");
-      stat = asn1PE_UMTS_P_TMSI_GSM_MAP(ctx, pvalue->p_TMSI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element(rtxContext* ctx, const MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* periodStart */
-   rtxCtxtPushElemName(ctx, "periodStart");
-   if ((uint64_t)pvalue->periodStart > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->periodStart);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->periodStart, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* periodDuration */
-   rtxCtxtPushElemName(ctx, "periodDuration");
-   if ((uint64_t)(pvalue->periodDuration - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->periodDuration);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->periodDuration, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList(rtxContext* ctx, const MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element(ctx, (const MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningSchedule_32(rtxContext* ctx, const MBMS_L1CombiningSchedule_32* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-L1CombiningSchedule-32");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cycleOffset */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cycleOffset");
-      if ((uint64_t)pvalue->cycleOffset > 7u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->cycleOffset);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->cycleOffset, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mtch-L1CombiningPeriodList */
-   rtxCtxtPushElemName(ctx, "mtch-L1CombiningPeriodList");
-   stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element(rtxContext* ctx, const MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* periodStart */
-   rtxCtxtPushElemName(ctx, "periodStart");
-   if ((uint64_t)pvalue->periodStart > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->periodStart);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->periodStart, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* periodDuration */
-   rtxCtxtPushElemName(ctx, "periodDuration");
-   if ((uint64_t)(pvalue->periodDuration - 1) > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->periodDuration);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->periodDuration, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList(rtxContext* ctx, const MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element(ctx, (const MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningSchedule_64(rtxContext* ctx, const MBMS_L1CombiningSchedule_64* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-L1CombiningSchedule-64");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cycleOffset */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cycleOffset");
-      if ((uint64_t)pvalue->cycleOffset > 15u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->cycleOffset);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->cycleOffset, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mtch-L1CombiningPeriodList */
-   rtxCtxtPushElemName(ctx, "mtch-L1CombiningPeriodList");
-   stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element(rtxContext* ctx, const MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* periodStart */
-   rtxCtxtPushElemName(ctx, "periodStart");
-   if ((uint64_t)pvalue->periodStart > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->periodStart);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->periodStart, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* periodDuration */
-   rtxCtxtPushElemName(ctx, "periodDuration");
-   if ((uint64_t)(pvalue->periodDuration - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->periodDuration);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->periodDuration, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList(rtxContext* ctx, const MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element(ctx, (const MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningSchedule_128(rtxContext* ctx, const MBMS_L1CombiningSchedule_128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-L1CombiningSchedule-128");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cycleOffset */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cycleOffset");
-      if ((uint64_t)pvalue->cycleOffset > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->cycleOffset);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->cycleOffset, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mtch-L1CombiningPeriodList */
-   rtxCtxtPushElemName(ctx, "mtch-L1CombiningPeriodList");
-   stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element(rtxContext* ctx, const MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* periodStart */
-   rtxCtxtPushElemName(ctx, "periodStart");
-   if ((uint64_t)pvalue->periodStart > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->periodStart);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->periodStart, 0, 63);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* periodDuration */
-   rtxCtxtPushElemName(ctx, "periodDuration");
-   if ((uint64_t)(pvalue->periodDuration - 1) > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->periodDuration);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->periodDuration, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList(rtxContext* ctx, const MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element(ctx, (const MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningSchedule_256(rtxContext* ctx, const MBMS_L1CombiningSchedule_256* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-L1CombiningSchedule-256");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cycleOffset */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cycleOffset");
-      if ((uint64_t)pvalue->cycleOffset > 63u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->cycleOffset);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->cycleOffset, 0, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mtch-L1CombiningPeriodList */
-   rtxCtxtPushElemName(ctx, "mtch-L1CombiningPeriodList");
-   stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element(rtxContext* ctx, const MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* periodStart */
-   rtxCtxtPushElemName(ctx, "periodStart");
-   if ((uint64_t)pvalue->periodStart > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->periodStart);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->periodStart, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* periodDuration */
-   rtxCtxtPushElemName(ctx, "periodDuration");
-   if ((uint64_t)(pvalue->periodDuration - 1) > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->periodDuration);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->periodDuration, 1, 128);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList(rtxContext* ctx, const MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element(ctx, (const MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningSchedule_512(rtxContext* ctx, const MBMS_L1CombiningSchedule_512* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-L1CombiningSchedule-512");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cycleOffset */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cycleOffset");
-      if ((uint64_t)pvalue->cycleOffset > 127u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->cycleOffset);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->cycleOffset, 0, 127);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mtch-L1CombiningPeriodList */
-   rtxCtxtPushElemName(ctx, "mtch-L1CombiningPeriodList");
-   stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element(rtxContext* ctx, const MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* periodStart */
-   rtxCtxtPushElemName(ctx, "periodStart");
-   stat = pe_ConsUInt64(ctx, pvalue->periodStart, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* periodDuration */
-   rtxCtxtPushElemName(ctx, "periodDuration");
-   if ((uint64_t)(pvalue->periodDuration - 1) > 255u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->periodDuration);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->periodDuration, 1, 256);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList(rtxContext* ctx, const MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "element", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element(ctx, (const MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningSchedule_1024(rtxContext* ctx, const MBMS_L1CombiningSchedule_1024* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-L1CombiningSchedule-1024");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cycleOffset */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cycleOffset");
-      stat = pe_ConsUInt64(ctx, pvalue->cycleOffset, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mtch-L1CombiningPeriodList */
-   rtxCtxtPushElemName(ctx, "mtch-L1CombiningPeriodList");
-   stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningSchedule(rtxContext* ctx, const MBMS_L1CombiningSchedule* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-L1CombiningSchedule");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 5) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "cycleLength-32");
-         if (pvalue->u.cycleLength_32 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_32(ctx, pvalue->u.cycleLength_32);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "cycleLength-64");
-         if (pvalue->u.cycleLength_64 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_64(ctx, pvalue->u.cycleLength_64);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "cycleLength-128");
-         if (pvalue->u.cycleLength_128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_128(ctx, pvalue->u.cycleLength_128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 4:
-         rtxCtxtPushElemName(ctx, "cycleLength-256");
-         if (pvalue->u.cycleLength_256 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_256(ctx, pvalue->u.cycleLength_256);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 5:
-         rtxCtxtPushElemName(ctx, "cycleLength-512");
-         if (pvalue->u.cycleLength_512 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_512(ctx, pvalue->u.cycleLength_512);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 6:
-         rtxCtxtPushElemName(ctx, "cycleLength-1024");
-         if (pvalue->u.cycleLength_1024 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_1024(ctx, pvalue->u.cycleLength_1024);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningTransmTimeDiff(rtxContext* ctx, MBMS_L1CombiningTransmTimeDiff value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-L1CombiningTransmTimeDiff");
-   if ((uint64_t)value > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L23Configuration_sameAsCurrent(rtxContext* ctx, const MBMS_L23Configuration_sameAsCurrent* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* currentCell-SCCPCH */
-   rtxCtxtPushElemName(ctx, "currentCell-SCCPCH");
-   rtxCtxtPushTypeName(ctx, "MBMS-SCCPCHIdentity");
-   if ((uint64_t)(pvalue->currentCell_SCCPCH - 1) > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->currentCell_SCCPCH);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->currentCell_SCCPCH, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* msch-ConfigurationInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "msch-ConfigurationInfo");
-      stat = asn1PE_UMTS_MBMS_MSCH_ConfigurationInfo_r6(ctx, &pvalue->msch_ConfigurationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_PTM_RBInformation_N(rtxContext* ctx, const MBMS_PTM_RBInformation_N* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-PTM-RBInformation-N");
-   /* shortTransmissionID */
-   rtxCtxtPushElemName(ctx, "shortTransmissionID");
-   rtxCtxtPushTypeName(ctx, "MBMS-ShortTransmissionID");
-   if ((uint64_t)(pvalue->shortTransmissionID - 1) > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->shortTransmissionID);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->shortTransmissionID, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* logicalChIdentity */
-   rtxCtxtPushElemName(ctx, "logicalChIdentity");
-   rtxCtxtPushTypeName(ctx, "MBMS-LogicalChIdentity");
-   if ((uint64_t)(pvalue->logicalChIdentity - 1) > 14u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->logicalChIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->logicalChIdentity, 1, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* layer1-CombiningStatus */
-   rtxCtxtPushElemName(ctx, "layer1-CombiningStatus");
-   stat = rtxEncBit(ctx, pvalue->layer1_CombiningStatus);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_PTM_RBInformation_NList(rtxContext* ctx, const MBMS_PTM_RBInformation_NList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MBMS-PTM-RBInformation-NList");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "MBMS-PTM-RBInformation-N", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MBMS_PTM_RBInformation_N(ctx, (const MBMS_PTM_RBInformation_N*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_TrCHInformation_Neighb(rtxContext* ctx, const MBMS_TrCHInformation_Neighb* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-TrCHInformation-Neighb");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* transpCh-Info */
-   rtxCtxtPushElemName(ctx, "transpCh-Info");
-   rtxCtxtPushTypeName(ctx, "MBMS-CommonTrChIdentity");
-   if ((uint64_t)(pvalue->transpCh_Info - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->transpCh_Info);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->transpCh_Info, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* transpCh-CombiningStatus */
-   rtxCtxtPushElemName(ctx, "transpCh-CombiningStatus");
-   stat = rtxEncBit(ctx, pvalue->transpCh_CombiningStatus);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rbInformation */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "rbInformation");
-      stat = asn1PE_UMTS_MBMS_PTM_RBInformation_NList(ctx, &pvalue->rbInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* msch-ConfigurationInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "msch-ConfigurationInfo");
-      stat = asn1PE_UMTS_MBMS_MSCH_ConfigurationInfo_r6(ctx, &pvalue->msch_ConfigurationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_TrCHInformation_NeighbList(rtxContext* ctx, const MBMS_TrCHInformation_NeighbList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MBMS-TrCHInformation-NeighbList");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "MBMS-TrCHInformation-Neighb", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MBMS_TrCHInformation_Neighb(ctx, (const MBMS_TrCHInformation_Neighb*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L23Configuration_different(rtxContext* ctx, const MBMS_L23Configuration_different* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* transpCh-InfoCommonForAllTrCh */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "transpCh-InfoCommonForAllTrCh");
-      rtxCtxtPushTypeName(ctx, "MBMS-CommonCCTrChIdentity");
-      if ((uint64_t)(pvalue->transpCh_InfoCommonForAllTrCh - 1) > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->transpCh_InfoCommonForAllTrCh);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->transpCh_InfoCommonForAllTrCh, 1, 32);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* transpCHInformation */
-   rtxCtxtPushElemName(ctx, "transpCHInformation");
-   stat = asn1PE_UMTS_MBMS_TrCHInformation_NeighbList(ctx, &pvalue->transpCHInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L23Configuration(rtxContext* ctx, const MBMS_L23Configuration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-L23Configuration");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "sameAsCurrent");
-         if (pvalue->u.sameAsCurrent == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MBMS_L23Configuration_sameAsCurrent(ctx, pvalue->u.sameAsCurrent);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "different");
-         if (pvalue->u.different == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MBMS_L23Configuration_different(ctx, pvalue->u.different);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_MICHPowerOffset(rtxContext* ctx, MBMS_MICHPowerOffset value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-MICHPowerOffset");
-   if (value < -10 || value > 5) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, value, -10, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_NI_CountPerFrame(rtxContext* ctx, MBMS_NI_CountPerFrame value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-NI-CountPerFrame");
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_MICHConfigurationInfo_r6_mode_fdd(rtxContext* ctx, const MBMS_MICHConfigurationInfo_r6_mode_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* channelisationCode256 */
-   rtxCtxtPushElemName(ctx, "channelisationCode256");
-   rtxCtxtPushTypeName(ctx, "ChannelisationCode256");
-   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode256, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ni-CountPerFrame */
-   rtxCtxtPushElemName(ctx, "ni-CountPerFrame");
-   rtxCtxtPushTypeName(ctx, "MBMS-NI-CountPerFrame");
-   if (pvalue->ni_CountPerFrame > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->ni_CountPerFrame);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ni_CountPerFrame, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* sttd-Indicator */
-   rtxCtxtPushElemName(ctx, "sttd-Indicator");
-   stat = rtxEncBit(ctx, pvalue->sttd_Indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_MICHNotificationIndLength(rtxContext* ctx, MBMS_MICHNotificationIndLength value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-MICHNotificationIndLength");
-   if (value > 2) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd384(rtxContext* ctx, const MBMS_MICHConfigurationInfo_r6_mode_tdd384* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)(pvalue->mbmsNotificationIndLength != 0) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* timeslot */
-   rtxCtxtPushElemName(ctx, "timeslot");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber");
-   if ((uint64_t)pvalue->timeslot > 14u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->timeslot);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 14);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleShiftAndBurstType */
-   rtxCtxtPushElemName(ctx, "midambleShiftAndBurstType");
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* channelisationCode */
-   rtxCtxtPushElemName(ctx, "channelisationCode");
-   rtxCtxtPushTypeName(ctx, "DL-TS-ChannelisationCode");
-   if (pvalue->channelisationCode > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* repetitionPeriodLengthOffset */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "repetitionPeriodLengthOffset");
-      stat = asn1PE_UMTS_RepPerLengthOffset_MICH(ctx, &pvalue->repetitionPeriodLengthOffset);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mbmsNotificationIndLength */
-   if (pvalue->mbmsNotificationIndLength != 0) {
-      rtxCtxtPushElemName(ctx, "mbmsNotificationIndLength");
-      rtxCtxtPushTypeName(ctx, "MBMS-MICHNotificationIndLength");
-      if (pvalue->mbmsNotificationIndLength > 2) {
-         rtxErrAddUIntParm(ctx, pvalue->mbmsNotificationIndLength);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mbmsNotificationIndLength, 0, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd128_channelisationCodeList(rtxContext* ctx, const MBMS_MICHConfigurationInfo_r6_mode_tdd128_channelisationCodeList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 2);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "DL-TS-ChannelisationCode", i);
-      rtxCtxtPushTypeName(ctx, "DL-TS-ChannelisationCode");
-      if (pvalue->elem[i] > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd128(rtxContext* ctx, const MBMS_MICHConfigurationInfo_r6_mode_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)(pvalue->mbmsNotificationIndLength != 0) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* timeslot */
-   rtxCtxtPushElemName(ctx, "timeslot");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-LCR-r4");
-   if ((uint64_t)pvalue->timeslot > 6u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->timeslot);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* midambleShiftAndBurstType */
-   rtxCtxtPushElemName(ctx, "midambleShiftAndBurstType");
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* channelisationCodeList */
-   rtxCtxtPushElemName(ctx, "channelisationCodeList");
-   stat = asn1PE_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd128_channelisationCodeList(ctx, &pvalue->channelisationCodeList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* repetitionPeriodLengthOffset */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "repetitionPeriodLengthOffset");
-      stat = asn1PE_UMTS_RepPerLengthOffset_MICH(ctx, &pvalue->repetitionPeriodLengthOffset);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mbmsNotificationIndLength */
-   if (pvalue->mbmsNotificationIndLength != 0) {
-      rtxCtxtPushElemName(ctx, "mbmsNotificationIndLength");
-      rtxCtxtPushTypeName(ctx, "MBMS-MICHNotificationIndLength");
-      if (pvalue->mbmsNotificationIndLength > 2) {
-         rtxErrAddUIntParm(ctx, pvalue->mbmsNotificationIndLength);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mbmsNotificationIndLength, 0, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_MICHConfigurationInfo_r6_mode(rtxContext* ctx, const MBMS_MICHConfigurationInfo_r6_mode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MBMS_MICHConfigurationInfo_r6_mode_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_MICHConfigurationInfo_r6(rtxContext* ctx, const MBMS_MICHConfigurationInfo_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-MICHConfigurationInfo-r6");
-   /* michPowerOffset */
-   rtxCtxtPushElemName(ctx, "michPowerOffset");
-   rtxCtxtPushTypeName(ctx, "MBMS-MICHPowerOffset");
-   if (pvalue->michPowerOffset < -10 || pvalue->michPowerOffset > 5) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->michPowerOffset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->michPowerOffset, -10, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* mode */
-   rtxCtxtPushElemName(ctx, "mode");
-   stat = asn1PE_UMTS_MBMS_MICHConfigurationInfo_r6_mode(ctx, &pvalue->mode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd384(rtxContext* ctx, const MBMS_MICHConfigurationInfo_v770ext_mode_tdd384* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* midambleShiftAndBurstType */
-   rtxCtxtPushElemName(ctx, "midambleShiftAndBurstType");
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_r7(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd768(rtxContext* ctx, const MBMS_MICHConfigurationInfo_v770ext_mode_tdd768* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* midambleShiftAndBurstType */
-   rtxCtxtPushElemName(ctx, "midambleShiftAndBurstType");
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_VHCR(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd128(rtxContext* ctx, const MBMS_MICHConfigurationInfo_v770ext_mode_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* mbsfnSpecialTimeSlot */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "mbsfnSpecialTimeSlot");
-      rtxCtxtPushTypeName(ctx, "TimeSlotLCR-ext");
-      if (pvalue->mbsfnSpecialTimeSlot > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->mbsfnSpecialTimeSlot);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mbsfnSpecialTimeSlot, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode(rtxContext* ctx, const MBMS_MICHConfigurationInfo_v770ext_mode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd768");
-         if (pvalue->u.tdd768 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_MICHConfigurationInfo_v770ext(rtxContext* ctx, const MBMS_MICHConfigurationInfo_v770ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-MICHConfigurationInfo-v770ext");
-   /* mode */
-   rtxCtxtPushElemName(ctx, "mode");
-   stat = asn1PE_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode(ctx, &pvalue->mode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_NI_CountPerFrame_IMB384(rtxContext* ctx, MBMS_NI_CountPerFrame_IMB384 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-NI-CountPerFrame-IMB384");
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_MICHConfigurationInfo_v890ext_mode_imb384(rtxContext* ctx, const MBMS_MICHConfigurationInfo_v890ext_mode_imb384* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* channelisationCode256 */
-   rtxCtxtPushElemName(ctx, "channelisationCode256");
-   rtxCtxtPushTypeName(ctx, "ChannelisationCode256");
-   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode256, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ni-CountPerFrame */
-   rtxCtxtPushElemName(ctx, "ni-CountPerFrame");
-   rtxCtxtPushTypeName(ctx, "MBMS-NI-CountPerFrame-IMB384");
-   if (pvalue->ni_CountPerFrame > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->ni_CountPerFrame);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ni_CountPerFrame, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_MICHConfigurationInfo_v890ext_mode(rtxContext* ctx, const MBMS_MICHConfigurationInfo_v890ext_mode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 0) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "imb384");
-         if (pvalue->u.imb384 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MBMS_MICHConfigurationInfo_v890ext_mode_imb384(ctx, pvalue->u.imb384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_MICHConfigurationInfo_v890ext(rtxContext* ctx, const MBMS_MICHConfigurationInfo_v890ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-MICHConfigurationInfo-v890ext");
-   /* mode */
-   rtxCtxtPushElemName(ctx, "mode");
-   stat = asn1PE_UMTS_MBMS_MICHConfigurationInfo_v890ext_mode(ctx, &pvalue->mode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ServiceIdentity_r6_serviceIdentity(rtxContext* ctx, const MBMS_ServiceIdentity_r6_serviceIdentity* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ServiceIdentity_r6_plmn_Identity_other(rtxContext* ctx, const MBMS_ServiceIdentity_r6_plmn_Identity_other* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "sameAsMIB-MultiPLMN-Id");
-         if ((uint64_t)(pvalue->u.sameAsMIB_MultiPLMN_Id - 1) > 4u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.sameAsMIB_MultiPLMN_Id);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sameAsMIB_MultiPLMN_Id, 1, 5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "explicitPLMN-Id");
-         if (pvalue->u.explicitPLMN_Id == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PLMN_Identity(ctx, pvalue->u.explicitPLMN_Id);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ServiceIdentity_r6_plmn_Identity(rtxContext* ctx, const MBMS_ServiceIdentity_r6_plmn_Identity* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "sameAsMIB-PLMN-Id");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "other");
-         if (pvalue->u.other == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MBMS_ServiceIdentity_r6_plmn_Identity_other(ctx, pvalue->u.other);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ServiceIdentity_r6(rtxContext* ctx, const MBMS_ServiceIdentity_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-ServiceIdentity-r6");
-   /* serviceIdentity */
-   rtxCtxtPushElemName(ctx, "serviceIdentity");
-   stat = asn1PE_UMTS_MBMS_ServiceIdentity_r6_serviceIdentity(ctx, &pvalue->serviceIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* plmn-Identity */
-   rtxCtxtPushElemName(ctx, "plmn-Identity");
-   stat = asn1PE_UMTS_MBMS_ServiceIdentity_r6_plmn_Identity(ctx, &pvalue->plmn_Identity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_TransmissionIdentity(rtxContext* ctx, const MBMS_TransmissionIdentity* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-TransmissionIdentity");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* mbms-ServiceIdentity */
-   rtxCtxtPushElemName(ctx, "mbms-ServiceIdentity");
-   stat = asn1PE_UMTS_MBMS_ServiceIdentity_r6(ctx, &pvalue->mbms_ServiceIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* mbms-SessionIdentity */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "mbms-SessionIdentity");
-      stat = asn1PE_UMTS_MBMS_SessionIdentity(ctx, &pvalue->mbms_SessionIdentity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_RequiredUEAction_Mod(rtxContext* ctx, MBMS_RequiredUEAction_Mod value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-RequiredUEAction-Mod");
-   if (value > 5) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_PFLIndex(rtxContext* ctx, MBMS_PFLIndex value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-PFLIndex");
-   if ((uint64_t)(value - 1) > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_PFLInfo(rtxContext* ctx, const MBMS_PFLInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-PFLInfo");
-   stat = asn1PE_UMTS_FrequencyInfo(ctx, pvalue);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ModifedService_r6_mbms_PreferredFrequency(rtxContext* ctx, const MBMS_ModifedService_r6_mbms_PreferredFrequency* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "mcch");
-         rtxCtxtPushTypeName(ctx, "MBMS-PFLIndex");
-         if ((uint64_t)(pvalue->u.mcch - 1) > 3u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.mcch);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.mcch, 1, 4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "dcch");
-         if (pvalue->u.dcch == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MBMS_PFLInfo(ctx, pvalue->u.dcch);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ModifedService_r6_dummy(rtxContext* ctx, MBMS_ModifedService_r6_dummy value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ModifedService_r6(rtxContext* ctx, const MBMS_ModifedService_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-ModifedService-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* mbms-TransmissionIdentity */
-   rtxCtxtPushElemName(ctx, "mbms-TransmissionIdentity");
-   stat = asn1PE_UMTS_MBMS_TransmissionIdentity(ctx, &pvalue->mbms_TransmissionIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* mbms-RequiredUEAction */
-   rtxCtxtPushElemName(ctx, "mbms-RequiredUEAction");
-   rtxCtxtPushTypeName(ctx, "MBMS-RequiredUEAction-Mod");
-   if (pvalue->mbms_RequiredUEAction > 5) {
-      rtxErrAddUIntParm(ctx, pvalue->mbms_RequiredUEAction);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mbms_RequiredUEAction, 0, 5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* mbms-PreferredFrequency */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "mbms-PreferredFrequency");
-      stat = asn1PE_UMTS_MBMS_ModifedService_r6_mbms_PreferredFrequency(ctx, &pvalue->mbms_PreferredFrequency);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      if (pvalue->dummy > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->dummy);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dummy, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* continueMCCHReading */
-   rtxCtxtPushElemName(ctx, "continueMCCHReading");
-   stat = rtxEncBit(ctx, pvalue->continueMCCHReading);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ModifedServiceList_r6(rtxContext* ctx, const MBMS_ModifedServiceList_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MBMS-ModifedServiceList-r6");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "MBMS-ModifedService-r6", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MBMS_ModifedService_r6(ctx, (const MBMS_ModifedService_r6*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBSFN_ClusterFrequency_r7(rtxContext* ctx, MBSFN_ClusterFrequency_r7 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBSFN-ClusterFrequency-r7");
-   if ((uint64_t)(value - 1) > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ModifiedService_v770ext(rtxContext* ctx, const MBMS_ModifiedService_v770ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-ModifiedService-v770ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* mbsfnClusterFrequency */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "mbsfnClusterFrequency");
-      rtxCtxtPushTypeName(ctx, "MBSFN-ClusterFrequency-r7");
-      if ((uint64_t)(pvalue->mbsfnClusterFrequency - 1) > 15u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->mbsfnClusterFrequency);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mbsfnClusterFrequency, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_PTM_RBReleaseCause_LCR_r7(rtxContext* ctx, MBMS_PTM_RBReleaseCause_LCR_r7 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-PTM-RBReleaseCause-LCR-r7");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ModifiedService_LCR_v7c0ext(rtxContext* ctx, const MBMS_ModifiedService_LCR_v7c0ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-ModifiedService-LCR-v7c0ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* rbReleaseCause */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "rbReleaseCause");
-      rtxCtxtPushTypeName(ctx, "MBMS-PTM-RBReleaseCause-LCR-r7");
-      if (pvalue->rbReleaseCause > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->rbReleaseCause);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->rbReleaseCause, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ModifiedServiceList_v770ext(rtxContext* ctx, const MBMS_ModifiedServiceList_v770ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MBMS-ModifiedServiceList-v770ext");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "MBMS-ModifiedService-v770ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MBMS_ModifiedService_v770ext(ctx, (const MBMS_ModifiedService_v770ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ModifiedServiceList_LCR_v7c0ext(rtxContext* ctx, const MBMS_ModifiedServiceList_LCR_v7c0ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MBMS-ModifiedServiceList-LCR-v7c0ext");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "MBMS-ModifiedService-LCR-v7c0ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MBMS_ModifiedService_LCR_v7c0ext(ctx, (const MBMS_ModifiedService_LCR_v7c0ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_SCCPCHPwrOffsetDiff(rtxContext* ctx, MBMS_SCCPCHPwrOffsetDiff value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-SCCPCHPwrOffsetDiff");
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_NeighbouringCellSCCPCH_r6_layer1Combining_fdd(rtxContext* ctx, const MBMS_NeighbouringCellSCCPCH_r6_layer1Combining_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* softComb-TimingOffset */
-   rtxCtxtPushElemName(ctx, "softComb-TimingOffset");
-   rtxCtxtPushTypeName(ctx, "MBMS-SoftComb-TimingOffset");
-   if (pvalue->softComb_TimingOffset > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->softComb_TimingOffset);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->softComb_TimingOffset, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* mbms-L1CombiningTransmTimeDiff */
-   rtxCtxtPushElemName(ctx, "mbms-L1CombiningTransmTimeDiff");
-   rtxCtxtPushTypeName(ctx, "MBMS-L1CombiningTransmTimeDiff");
-   if ((uint64_t)pvalue->mbms_L1CombiningTransmTimeDiff > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->mbms_L1CombiningTransmTimeDiff);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mbms_L1CombiningTransmTimeDiff, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* mbms-L1CombiningSchedule */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "mbms-L1CombiningSchedule");
-      stat = asn1PE_UMTS_MBMS_L1CombiningSchedule(ctx, &pvalue->mbms_L1CombiningSchedule);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_NeighbouringCellSCCPCH_r6_layer1Combining(rtxContext* ctx, const MBMS_NeighbouringCellSCCPCH_r6_layer1Combining* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MBMS_NeighbouringCellSCCPCH_r6_layer1Combining_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_NeighbouringCellSCCPCH_r6(rtxContext* ctx, const MBMS_NeighbouringCellSCCPCH_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-NeighbouringCellSCCPCH-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* secondaryCCPCH-Info */
-   rtxCtxtPushElemName(ctx, "secondaryCCPCH-Info");
-   rtxCtxtPushTypeName(ctx, "MBMS-CommonPhyChIdentity");
-   if ((uint64_t)(pvalue->secondaryCCPCH_Info - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->secondaryCCPCH_Info);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->secondaryCCPCH_Info, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* secondaryCCPCHPwrOffsetDiff */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "secondaryCCPCHPwrOffsetDiff");
-      rtxCtxtPushTypeName(ctx, "MBMS-SCCPCHPwrOffsetDiff");
-      if (pvalue->secondaryCCPCHPwrOffsetDiff > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->secondaryCCPCHPwrOffsetDiff);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->secondaryCCPCHPwrOffsetDiff, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* layer1Combining */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "layer1Combining");
-      stat = asn1PE_UMTS_MBMS_NeighbouringCellSCCPCH_r6_layer1Combining(ctx, &pvalue->layer1Combining);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mbms-L23Configuration */
-   rtxCtxtPushElemName(ctx, "mbms-L23Configuration");
-   stat = asn1PE_UMTS_MBMS_L23Configuration(ctx, &pvalue->mbms_L23Configuration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining_fdd(rtxContext* ctx, const MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* softComb-TimingOffset */
-   rtxCtxtPushElemName(ctx, "softComb-TimingOffset");
-   rtxCtxtPushTypeName(ctx, "MBMS-SoftComb-TimingOffset");
-   if (pvalue->softComb_TimingOffset > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->softComb_TimingOffset);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->softComb_TimingOffset, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* mbms-L1CombiningTransmTimeDiff */
-   rtxCtxtPushElemName(ctx, "mbms-L1CombiningTransmTimeDiff");
-   rtxCtxtPushTypeName(ctx, "MBMS-L1CombiningTransmTimeDiff");
-   if ((uint64_t)pvalue->mbms_L1CombiningTransmTimeDiff > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->mbms_L1CombiningTransmTimeDiff);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mbms_L1CombiningTransmTimeDiff, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* mbms-L1CombiningSchedule */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "mbms-L1CombiningSchedule");
-      stat = asn1PE_UMTS_MBMS_L1CombiningSchedule(ctx, &pvalue->mbms_L1CombiningSchedule);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining(rtxContext* ctx, const MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext(rtxContext* ctx, const MBMS_NeighbouringCellSCCPCH_v770ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-NeighbouringCellSCCPCH-v770ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* secondaryCCPCH-Info */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "secondaryCCPCH-Info");
-      rtxCtxtPushTypeName(ctx, "MBMS-CommonPhyChIdentity");
-      if ((uint64_t)(pvalue->secondaryCCPCH_Info - 1) > 31u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->secondaryCCPCH_Info);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->secondaryCCPCH_Info, 1, 32);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* secondaryCCPCH-InfoDiff */
-   rtxCtxtPushElemName(ctx, "secondaryCCPCH-InfoDiff");
-   stat = asn1PE_UMTS_SecondaryCCPCHInfoDiff_MBMS(ctx, &pvalue->secondaryCCPCH_InfoDiff);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* secondaryCCPCHPwrOffsetDiff */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "secondaryCCPCHPwrOffsetDiff");
-      rtxCtxtPushTypeName(ctx, "MBMS-SCCPCHPwrOffsetDiff");
-      if (pvalue->secondaryCCPCHPwrOffsetDiff > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->secondaryCCPCHPwrOffsetDiff);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->secondaryCCPCHPwrOffsetDiff, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* layer1Combining */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "layer1Combining");
-      stat = asn1PE_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining(ctx, &pvalue->layer1Combining);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mbms-L23Configuration */
-   rtxCtxtPushElemName(ctx, "mbms-L23Configuration");
-   stat = asn1PE_UMTS_MBMS_L23Configuration(ctx, &pvalue->mbms_L23Configuration);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_NeighbouringCellSCCPCHList_r6(rtxContext* ctx, const MBMS_NeighbouringCellSCCPCHList_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MBMS-NeighbouringCellSCCPCHList-r6");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "MBMS-NeighbouringCellSCCPCH-r6", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MBMS_NeighbouringCellSCCPCH_r6(ctx, (const MBMS_NeighbouringCellSCCPCH_r6*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_NeighbouringCellSCCPCHList_v770ext(rtxContext* ctx, const MBMS_NeighbouringCellSCCPCHList_v770ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MBMS-NeighbouringCellSCCPCHList-v770ext");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "MBMS-NeighbouringCellSCCPCH-v770ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext(ctx, (const MBMS_NeighbouringCellSCCPCH_v770ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_NetworkStandardTimeInformation_LCR_v890ext_networkStandardTime(rtxContext* ctx, const MBMS_NetworkStandardTimeInformation_LCR_v890ext_networkStandardTime* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   RT_SET_SIZE(ctx, 40, 40);
-   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_NetworkStandardTimeInformation_LCR_v890ext(rtxContext* ctx, const MBMS_NetworkStandardTimeInformation_LCR_v890ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-NetworkStandardTimeInformation-LCR-v890ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* networkStandardTime */
-   rtxCtxtPushElemName(ctx, "networkStandardTime");
-   stat = asn1PE_UMTS_MBMS_NetworkStandardTimeInformation_LCR_v890ext_networkStandardTime(ctx, &pvalue->networkStandardTime);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* correlativeSFN */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "correlativeSFN");
-      if ((uint64_t)pvalue->correlativeSFN > 4095u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->correlativeSFN);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->correlativeSFN, 0, 4095);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_NumberOfNeighbourCells_r6(rtxContext* ctx, MBMS_NumberOfNeighbourCells_r6 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-NumberOfNeighbourCells-r6");
-   if ((uint64_t)value > 32u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_PhyChInformation_IMB384(rtxContext* ctx, const MBMS_PhyChInformation_IMB384* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-PhyChInformation-IMB384");
-   /* mbms-CommonPhyChIdentity */
-   rtxCtxtPushElemName(ctx, "mbms-CommonPhyChIdentity");
-   rtxCtxtPushTypeName(ctx, "MBMS-CommonPhyChIdentity");
-   if ((uint64_t)(pvalue->mbms_CommonPhyChIdentity - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->mbms_CommonPhyChIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mbms_CommonPhyChIdentity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* secondaryCCPCHInfo-MBMS */
-   rtxCtxtPushElemName(ctx, "secondaryCCPCHInfo-MBMS");
-   stat = asn1PE_UMTS_SecondaryCCPCHFrameType2Info(ctx, &pvalue->secondaryCCPCHInfo_MBMS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_PhyChInformationList_IMB384(rtxContext* ctx, const MBMS_PhyChInformationList_IMB384* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MBMS-PhyChInformationList-IMB384");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "MBMS-PhyChInformation-IMB384", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MBMS_PhyChInformation_IMB384(ctx, (const MBMS_PhyChInformation_IMB384*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_PhyChInformation_r6(rtxContext* ctx, const MBMS_PhyChInformation_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-PhyChInformation-r6");
-   /* mbms-CommonPhyChIdentity */
-   rtxCtxtPushElemName(ctx, "mbms-CommonPhyChIdentity");
-   rtxCtxtPushTypeName(ctx, "MBMS-CommonPhyChIdentity");
-   if ((uint64_t)(pvalue->mbms_CommonPhyChIdentity - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->mbms_CommonPhyChIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mbms_CommonPhyChIdentity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* secondaryCCPCHInfo-MBMS */
-   rtxCtxtPushElemName(ctx, "secondaryCCPCHInfo-MBMS");
-   stat = asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r6(ctx, &pvalue->secondaryCCPCHInfo_MBMS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_PhyChInformation_r7(rtxContext* ctx, const MBMS_PhyChInformation_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-PhyChInformation-r7");
-   /* mbms-CommonPhyChIdentity */
-   rtxCtxtPushElemName(ctx, "mbms-CommonPhyChIdentity");
-   rtxCtxtPushTypeName(ctx, "MBMS-CommonPhyChIdentity");
-   if ((uint64_t)(pvalue->mbms_CommonPhyChIdentity - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->mbms_CommonPhyChIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mbms_CommonPhyChIdentity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* secondaryCCPCHInfo-MBMS */
-   rtxCtxtPushElemName(ctx, "secondaryCCPCHInfo-MBMS");
-   stat = asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7(ctx, &pvalue->secondaryCCPCHInfo_MBMS);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_PhyChInformationList_r6(rtxContext* ctx, const MBMS_PhyChInformationList_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MBMS-PhyChInformationList-r6");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "MBMS-PhyChInformation-r6", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MBMS_PhyChInformation_r6(ctx, (const MBMS_PhyChInformation_r6*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_PhyChInformationList_r7(rtxContext* ctx, const MBMS_PhyChInformationList_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MBMS-PhyChInformationList-r7");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "MBMS-PhyChInformation-r7", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MBMS_PhyChInformation_r7(ctx, (const MBMS_PhyChInformation_r7*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_PL_ServiceRestrictInfo_r6(rtxContext* ctx, MBMS_PL_ServiceRestrictInfo_r6 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-PL-ServiceRestrictInfo-r6");
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_Qoffset(rtxContext* ctx, MBMS_Qoffset value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-Qoffset");
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_PreferredFrequencyInfo_r6_layerConvergenceInformation(rtxContext* ctx, const MBMS_PreferredFrequencyInfo_r6_layerConvergenceInformation* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "mbms-Qoffset");
-         rtxCtxtPushTypeName(ctx, "MBMS-Qoffset");
-         if (pvalue->u.mbms_Qoffset > 7) {
-            rtxErrAddUIntParm(ctx, pvalue->u.mbms_Qoffset);
-            RT_RAISE(ctx, RT_ERR_INVENUM);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.mbms_Qoffset, 0, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "mbms-HCSoffset");
-         if ((uint64_t)pvalue->u.mbms_HCSoffset > 7u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.mbms_HCSoffset);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.mbms_HCSoffset, 0, 7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_PreferredFrequencyInfo_r6(rtxContext* ctx, const MBMS_PreferredFrequencyInfo_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-PreferredFrequencyInfo-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* mbmsPreferredFrequency */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "mbmsPreferredFrequency");
-      if ((uint64_t)(pvalue->mbmsPreferredFrequency - 1) > 3u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->mbmsPreferredFrequency);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mbmsPreferredFrequency, 1, 4);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* layerConvergenceInformation */
-   rtxCtxtPushElemName(ctx, "layerConvergenceInformation");
-   stat = asn1PE_UMTS_MBMS_PreferredFrequencyInfo_r6_layerConvergenceInformation(ctx, &pvalue->layerConvergenceInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* mbms-PL-ServiceRestrictInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "mbms-PL-ServiceRestrictInfo");
-      rtxCtxtPushTypeName(ctx, "MBMS-PL-ServiceRestrictInfo-r6");
-      if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_PreferredFrequencyList_r6(rtxContext* ctx, const MBMS_PreferredFrequencyList_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MBMS-PreferredFrequencyList-r6");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "MBMS-PreferredFrequencyInfo-r6", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MBMS_PreferredFrequencyInfo_r6(ctx, (const MBMS_PreferredFrequencyInfo_r6*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_PTMActivationTime_r6(rtxContext* ctx, MBMS_PTMActivationTime_r6 value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-PTMActivationTime-r6");
-   if ((uint64_t)value > 2047u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 2047);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_RequiredUEAction_UMod(rtxContext* ctx, MBMS_RequiredUEAction_UMod value)
-{
-   int stat = 0;
-   rtxCtxtPushTypeName(ctx, "MBMS-RequiredUEAction-UMod");
-   if (value > 2) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_SelectedServicesListFull(rtxContext* ctx, const MBMS_SelectedServicesListFull* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MBMS-SelectedServicesListFull");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "MBMS-ServiceIdentity-r6", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MBMS_ServiceIdentity_r6(ctx, (const MBMS_ServiceIdentity_r6*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_SelectedServiceInfo_status(rtxContext* ctx, const MBMS_SelectedServiceInfo_status* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "none");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "some");
-         if (pvalue->u.some == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MBMS_SelectedServicesListFull(ctx, pvalue->u.some);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_SelectedServiceInfo(rtxContext* ctx, const MBMS_SelectedServiceInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-SelectedServiceInfo");
-   /* status */
-   rtxCtxtPushElemName(ctx, "status");
-   stat = asn1PE_UMTS_MBMS_SelectedServiceInfo_status(ctx, &pvalue->status);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_SelectedServicesListShort(rtxContext* ctx, const MBMS_SelectedServicesListShort* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MBMS-SelectedServicesListShort");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (i = 0; i < pvalue->n; i++) {
-      rtxCtxtPushArrayElemName(ctx, "MBMS-ShortTransmissionID", i);
-      rtxCtxtPushTypeName(ctx, "MBMS-ShortTransmissionID");
-      if ((uint64_t)(pvalue->elem[i] - 1) > 63u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 1, 64);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_SelectedServicesShort(rtxContext* ctx, const MBMS_SelectedServicesShort* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-SelectedServicesShort");
-   /* mbms-SelectedServicesList */
-   rtxCtxtPushElemName(ctx, "mbms-SelectedServicesList");
-   stat = asn1PE_UMTS_MBMS_SelectedServicesListShort(ctx, &pvalue->mbms_SelectedServicesList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* modificationPeriodIdentity */
-   rtxCtxtPushElemName(ctx, "modificationPeriodIdentity");
-   if ((uint64_t)pvalue->modificationPeriodIdentity > 1u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->modificationPeriodIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->modificationPeriodIdentity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ServiceAccessInfo_r6(rtxContext* ctx, const MBMS_ServiceAccessInfo_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-ServiceAccessInfo-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* shortTransmissionID */
-   rtxCtxtPushElemName(ctx, "shortTransmissionID");
-   rtxCtxtPushTypeName(ctx, "MBMS-ShortTransmissionID");
-   if ((uint64_t)(pvalue->shortTransmissionID - 1) > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->shortTransmissionID);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->shortTransmissionID, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* accessprobabilityFactor-Idle */
-   rtxCtxtPushElemName(ctx, "accessprobabilityFactor-Idle");
-   rtxCtxtPushTypeName(ctx, "MBMS-AccessProbabilityFactor");
-   if (pvalue->accessprobabilityFactor_Idle > 31) {
-      rtxErrAddUIntParm(ctx, pvalue->accessprobabilityFactor_Idle);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->accessprobabilityFactor_Idle, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* accessprobabilityFactor-Connected */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "accessprobabilityFactor-Connected");
-      rtxCtxtPushTypeName(ctx, "MBMS-AccessProbabilityFactor");
-      if (pvalue->accessprobabilityFactor_Connected > 31) {
-         rtxErrAddUIntParm(ctx, pvalue->accessprobabilityFactor_Connected);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->accessprobabilityFactor_Connected, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mbms-ConnectedModeCountingScope */
-   rtxCtxtPushElemName(ctx, "mbms-ConnectedModeCountingScope");
-   stat = asn1PE_UMTS_MBMS_ConnectedModeCountingScope(ctx, &pvalue->mbms_ConnectedModeCountingScope);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ServiceAccessInfoList_r6(rtxContext* ctx, const MBMS_ServiceAccessInfoList_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MBMS-ServiceAccessInfoList-r6");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "MBMS-ServiceAccessInfo-r6", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MBMS_ServiceAccessInfo_r6(ctx, (const MBMS_ServiceAccessInfo_r6*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ServiceTransmInfo(rtxContext* ctx, const MBMS_ServiceTransmInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-ServiceTransmInfo");
-   /* start */
-   rtxCtxtPushElemName(ctx, "start");
-   stat = pe_ConsUInt64(ctx, pvalue->start, 0, 255);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* duration */
-   rtxCtxtPushElemName(ctx, "duration");
-   if ((uint64_t)(pvalue->duration - 1) > 255u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->duration);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->duration, 1, 256);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ServiceTransmInfoList(rtxContext* ctx, const MBMS_ServiceTransmInfoList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MBMS-ServiceTransmInfoList");
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "MBMS-ServiceTransmInfo", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MBMS_ServiceTransmInfo(ctx, (const MBMS_ServiceTransmInfo*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ServiceSchedulingInfo_r6(rtxContext* ctx, const MBMS_ServiceSchedulingInfo_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-ServiceSchedulingInfo-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* mbms-TransmissionIdentity */
-   rtxCtxtPushElemName(ctx, "mbms-TransmissionIdentity");
-   stat = asn1PE_UMTS_MBMS_TransmissionIdentity(ctx, &pvalue->mbms_TransmissionIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* mbms-ServiceTransmInfoList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "mbms-ServiceTransmInfoList");
-      stat = asn1PE_UMTS_MBMS_ServiceTransmInfoList(ctx, &pvalue->mbms_ServiceTransmInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nextSchedulingperiod */
-   rtxCtxtPushElemName(ctx, "nextSchedulingperiod");
-   if ((uint64_t)pvalue->nextSchedulingperiod > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->nextSchedulingperiod);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->nextSchedulingperiod, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ServiceSchedulingInfoList_r6(rtxContext* ctx, const MBMS_ServiceSchedulingInfoList_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MBMS-ServiceSchedulingInfoList-r6");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "MBMS-ServiceSchedulingInfo-r6", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MBMS_ServiceSchedulingInfo_r6(ctx, (const MBMS_ServiceSchedulingInfo_r6*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_TrCHInformation_SIB5(rtxContext* ctx, const MBMS_TrCHInformation_SIB5* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-TrCHInformation-SIB5");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* transpCh-Identity */
-   rtxCtxtPushElemName(ctx, "transpCh-Identity");
-   if ((uint64_t)(pvalue->transpCh_Identity - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->transpCh_Identity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->transpCh_Identity, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rbInformation */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "rbInformation");
-      stat = asn1PE_UMTS_MBMS_PTM_RBInformation_CList(ctx, &pvalue->rbInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* msch-ConfigurationInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "msch-ConfigurationInfo");
-      stat = asn1PE_UMTS_MBMS_MSCH_ConfigurationInfo_r6(ctx, &pvalue->msch_ConfigurationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_TrCHInformation_SIB5List(rtxContext* ctx, const MBMS_TrCHInformation_SIB5List* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MBMS-TrCHInformation-SIB5List");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "MBMS-TrCHInformation-SIB5", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MBMS_TrCHInformation_SIB5(ctx, (const MBMS_TrCHInformation_SIB5*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_SIBType5_SCCPCH_r6(rtxContext* ctx, const MBMS_SIBType5_SCCPCH_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-SIBType5-SCCPCH-r6");
-   /* sccpchIdentity */
-   rtxCtxtPushElemName(ctx, "sccpchIdentity");
-   rtxCtxtPushTypeName(ctx, "MBMS-SCCPCHIdentity");
-   if ((uint64_t)(pvalue->sccpchIdentity - 1) > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->sccpchIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->sccpchIdentity, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* transpCHInformation */
-   rtxCtxtPushElemName(ctx, "transpCHInformation");
-   stat = asn1PE_UMTS_MBMS_TrCHInformation_SIB5List(ctx, &pvalue->transpCHInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_SIBType5_SCCPCHList_r6(rtxContext* ctx, const MBMS_SIBType5_SCCPCHList_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MBMS-SIBType5-SCCPCHList-r6");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "MBMS-SIBType5-SCCPCH-r6", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MBMS_SIBType5_SCCPCH_r6(ctx, (const MBMS_SIBType5_SCCPCH_r6*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_TimersAndCounters_r6(rtxContext* ctx, const MBMS_TimersAndCounters_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-TimersAndCounters-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->t_318 != 3) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* t-318 */
-   if (pvalue->t_318 != 3) {
-      rtxCtxtPushElemName(ctx, "t-318");
-      rtxCtxtPushTypeName(ctx, "T-318");
-      if (pvalue->t_318 > 14) {
-         rtxErrAddUIntParm(ctx, pvalue->t_318);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_318, 0, 14);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_TranspChInfoForCCTrCh_r6(rtxContext* ctx, const MBMS_TranspChInfoForCCTrCh_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-TranspChInfoForCCTrCh-r6");
-   /* commonCCTrChIdentity */
-   rtxCtxtPushElemName(ctx, "commonCCTrChIdentity");
-   rtxCtxtPushTypeName(ctx, "MBMS-CommonCCTrChIdentity");
-   if ((uint64_t)(pvalue->commonCCTrChIdentity - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->commonCCTrChIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->commonCCTrChIdentity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* transportFormatCombinationSet */
-   rtxCtxtPushElemName(ctx, "transportFormatCombinationSet");
-   stat = asn1PE_UMTS_TFCS(ctx, &pvalue->transportFormatCombinationSet);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_TranspChInfoForEachCCTrCh_r6(rtxContext* ctx, const MBMS_TranspChInfoForEachCCTrCh_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MBMS-TranspChInfoForEachCCTrCh-r6");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "MBMS-TranspChInfoForCCTrCh-r6", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MBMS_TranspChInfoForCCTrCh_r6(ctx, (const MBMS_TranspChInfoForCCTrCh_r6*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_TranspChInfoForTrCh_r6(rtxContext* ctx, const MBMS_TranspChInfoForTrCh_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-TranspChInfoForTrCh-r6");
-   /* commonTrChIdentity */
-   rtxCtxtPushElemName(ctx, "commonTrChIdentity");
-   rtxCtxtPushTypeName(ctx, "MBMS-CommonTrChIdentity");
-   if ((uint64_t)(pvalue->commonTrChIdentity - 1) > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->commonTrChIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->commonTrChIdentity, 1, 32);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* transportFormatSet */
-   rtxCtxtPushElemName(ctx, "transportFormatSet");
-   stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->transportFormatSet);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_TranspChInfoForEachTrCh_r6(rtxContext* ctx, const MBMS_TranspChInfoForEachTrCh_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MBMS-TranspChInfoForEachTrCh-r6");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "MBMS-TranspChInfoForTrCh-r6", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MBMS_TranspChInfoForTrCh_r6(ctx, (const MBMS_TranspChInfoForTrCh_r6*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_UnmodifiedService_r6(rtxContext* ctx, const MBMS_UnmodifiedService_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-UnmodifiedService-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* mbms-TransmissionIdentity */
-   rtxCtxtPushElemName(ctx, "mbms-TransmissionIdentity");
-   stat = asn1PE_UMTS_MBMS_TransmissionIdentity(ctx, &pvalue->mbms_TransmissionIdentity);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* mbms-RequiredUEAction */
-   rtxCtxtPushElemName(ctx, "mbms-RequiredUEAction");
-   rtxCtxtPushTypeName(ctx, "MBMS-RequiredUEAction-UMod");
-   if (pvalue->mbms_RequiredUEAction > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->mbms_RequiredUEAction);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mbms_RequiredUEAction, 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* mbms-PreferredFrequency */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "mbms-PreferredFrequency");
-      rtxCtxtPushTypeName(ctx, "MBMS-PFLIndex");
-      if ((uint64_t)(pvalue->mbms_PreferredFrequency - 1) > 3u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->mbms_PreferredFrequency);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mbms_PreferredFrequency, 1, 4);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_UnmodifiedServiceList_r6(rtxContext* ctx, const MBMS_UnmodifiedServiceList_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MBMS-UnmodifiedServiceList-r6");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "MBMS-UnmodifiedService-r6", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MBMS_UnmodifiedService_r6(ctx, (const MBMS_UnmodifiedService_r6*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_UnmodifiedService_v770ext(rtxContext* ctx, const MBMS_UnmodifiedService_v770ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBMS-UnmodifiedService-v770ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* mbsfnClusterFrequency */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "mbsfnClusterFrequency");
-      rtxCtxtPushTypeName(ctx, "MBSFN-ClusterFrequency-r7");
-      if ((uint64_t)(pvalue->mbsfnClusterFrequency - 1) > 15u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->mbsfnClusterFrequency);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mbsfnClusterFrequency, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_UnmodifiedServiceList_v770ext(rtxContext* ctx, const MBMS_UnmodifiedServiceList_v770ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MBMS-UnmodifiedServiceList-v770ext");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "MBMS-UnmodifiedService-v770ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MBMS_UnmodifiedService_v770ext(ctx, (const MBMS_UnmodifiedService_v770ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBSFNservicesNotNotified_r7_notificationOfAllMBSFNServicesInTheBand(rtxContext* ctx, MBSFNservicesNotNotified_r7_notificationOfAllMBSFNServicesInTheBand value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_MBSFNservicesNotNotified_r7(rtxContext* ctx, const MBSFNservicesNotNotified_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBSFNservicesNotNotified-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* notificationOfAllMBSFNServicesInTheBand */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "notificationOfAllMBSFNServicesInTheBand");
-      if (pvalue->notificationOfAllMBSFNServicesInTheBand > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->notificationOfAllMBSFNServicesInTheBand);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->notificationOfAllMBSFNServicesInTheBand, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBSFNInterFrequencyNeighbour_r7_mbsfnServicesNotification(rtxContext* ctx, const MBSFNInterFrequencyNeighbour_r7_mbsfnServicesNotification* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "mbsfnServicesNotified");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "mbsfnServicesNotNotified");
-         if (pvalue->u.mbsfnServicesNotNotified == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MBSFNservicesNotNotified_r7(ctx, pvalue->u.mbsfnServicesNotNotified);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBSFNInterFrequencyNeighbour_r7(rtxContext* ctx, const MBSFNInterFrequencyNeighbour_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBSFNInterFrequencyNeighbour-r7");
-   /* mbsfnFrequency */
-   rtxCtxtPushElemName(ctx, "mbsfnFrequency");
-   stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->mbsfnFrequency);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* mbsfnServicesNotification */
-   rtxCtxtPushElemName(ctx, "mbsfnServicesNotification");
-   stat = asn1PE_UMTS_MBSFNInterFrequencyNeighbour_r7_mbsfnServicesNotification(ctx, &pvalue->mbsfnServicesNotification);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBSFNInterFrequencyNeighbour_v860ext_imb_Indication(rtxContext* ctx, MBSFNInterFrequencyNeighbour_v860ext_imb_Indication value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_MBSFNInterFrequencyNeighbour_v860ext(rtxContext* ctx, const MBSFNInterFrequencyNeighbour_v860ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBSFNInterFrequencyNeighbour-v860ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* imb-Indication */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "imb-Indication");
-      if (pvalue->imb_Indication > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->imb_Indication);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->imb_Indication, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBSFN_InterFrequencyNeighbourList_r7(rtxContext* ctx, const MBSFN_InterFrequencyNeighbourList_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MBSFN-InterFrequencyNeighbourList-r7");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "MBSFNInterFrequencyNeighbour-r7", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MBSFNInterFrequencyNeighbour_r7(ctx, (const MBSFNInterFrequencyNeighbour_r7*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBSFN_InterFrequencyNeighbourList_v860ext(rtxContext* ctx, const MBSFN_InterFrequencyNeighbourList_v860ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MBSFN-InterFrequencyNeighbourList-v860ext");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "MBSFNInterFrequencyNeighbour-v860ext", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MBSFNInterFrequencyNeighbour_v860ext(ctx, (const MBSFNInterFrequencyNeighbour_v860ext*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBSFN_TDDTimeSlotInfo(rtxContext* ctx, const MBSFN_TDDTimeSlotInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBSFN-TDDTimeSlotInfo");
-   /* timeSlotNumber */
-   rtxCtxtPushElemName(ctx, "timeSlotNumber");
-   rtxCtxtPushTypeName(ctx, "TimeslotNumber-LCR-r4");
-   if ((uint64_t)pvalue->timeSlotNumber > 6u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->timeSlotNumber);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeSlotNumber, 0, 6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* cellParametersID */
-   rtxCtxtPushElemName(ctx, "cellParametersID");
-   rtxCtxtPushTypeName(ctx, "CellParametersID");
-   if ((uint64_t)pvalue->cellParametersID > 127u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cellParametersID, 0, 127);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBSFN_TDDInformation(rtxContext* ctx, const MBSFN_TDDInformation* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MBSFN-TDDInformation");
-   RT_SET_SIZE(ctx, 1, 14);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "MBSFN-TDDTimeSlotInfo", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MBSFN_TDDTimeSlotInfo(ctx, (const MBSFN_TDDTimeSlotInfo*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBSFN_TDDTimeSlotInfo_LCR(rtxContext* ctx, const MBSFN_TDDTimeSlotInfo_LCR* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBSFN-TDDTimeSlotInfo-LCR");
-   /* frequencyIndex */
-   rtxCtxtPushElemName(ctx, "frequencyIndex");
-   if ((uint64_t)(pvalue->frequencyIndex - 1) > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->frequencyIndex);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->frequencyIndex, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* timeSlotList */
-   rtxCtxtPushElemName(ctx, "timeSlotList");
-   stat = asn1PE_UMTS_MBSFN_TDDInformation(ctx, &pvalue->timeSlotList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBSFN_TDDInformation_LCR(rtxContext* ctx, const MBSFN_TDDInformation_LCR* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MBSFN-TDDInformation-LCR");
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "MBSFN-TDDTimeSlotInfo-LCR", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MBSFN_TDDTimeSlotInfo_LCR(ctx, (const MBSFN_TDDTimeSlotInfo_LCR*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBSFN_TDM_Info(rtxContext* ctx, const MBSFN_TDM_Info* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MBSFN-TDM-Info");
-   /* shortTransmissionID */
-   rtxCtxtPushElemName(ctx, "shortTransmissionID");
-   rtxCtxtPushTypeName(ctx, "MBMS-ShortTransmissionID");
-   if ((uint64_t)(pvalue->shortTransmissionID - 1) > 63u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->shortTransmissionID);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->shortTransmissionID, 1, 64);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* tDMPeriod */
-   rtxCtxtPushElemName(ctx, "tDMPeriod");
-   if ((uint64_t)(pvalue->tDMPeriod - 2) > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->tDMPeriod);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tDMPeriod, 2, 9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tDMOffset */
-   rtxCtxtPushElemName(ctx, "tDMOffset");
-   if ((uint64_t)pvalue->tDMOffset > 8u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->tDMOffset);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tDMOffset, 0, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* tDMLength */
-   rtxCtxtPushElemName(ctx, "tDMLength");
-   if ((uint64_t)(pvalue->tDMLength - 1) > 7u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->tDMLength);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tDMLength, 1, 8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MBSFN_TDM_Info_List(rtxContext* ctx, const MBSFN_TDM_Info_List* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   const rtxDListNode* node;
-   uint32_t i;
-   rtxCtxtPushTypeName(ctx, "MBSFN-TDM-Info-List");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_RAISE(ctx, stat);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      rtxCtxtPushArrayElemName(ctx, "MBSFN-TDM-Info", i);
-      if (node->data == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-      stat = asn1PE_UMTS_MBSFN_TDM_Info(ctx, (const MBSFN_TDM_Info*)node->data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopArrayElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_r3_IEs(rtxContext* ctx, const ActiveSetUpdate_r3_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ActiveSetUpdate-r3-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 10) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 9) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 9) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 10) & 1u) << 0), 11);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReleaseComplete");
    /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
    if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
       rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RadioBearerReleaseComplete");
    }
    stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dummy */
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RadioBearerReleaseComplete");
+   /* ul-IntegProtActivationInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_IntegrityProtActivationInfo(ctx, &pvalue->ul_IntegProtActivationInfo);
+      RT_CHECK(ctx, stat, 0, "ul-IntegProtActivationInfo", -1, "RadioBearerReleaseComplete");
+   }
+   /* ul-TimingAdvance */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->ul_TimingAdvance > 63u) {
+         rtxErrAddStrParm(ctx, "UL-TimingAdvance");
+         rtxErrAddUIntParm(ctx, pvalue->ul_TimingAdvance);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-TimingAdvance", "ul-TimingAdvance", -1, "RadioBearerReleaseComplete");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ul_TimingAdvance, 0, 63);
+      RT_CHECK(ctx, stat, "UL-TimingAdvance", "ul-TimingAdvance", -1, "RadioBearerReleaseComplete");
+   }
+   /* count-C-ActivationTime */
+   if (pvalue->m & 0x4u) {
+      stat = pe_ConsUInt64(ctx, pvalue->count_C_ActivationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "count-C-ActivationTime", -1, "RadioBearerReleaseComplete");
+   }
+   /* dummy */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "RadioBearerReleaseComplete");
+   }
+   /* ul-CounterSynchronisationInfo */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_UL_CounterSynchronisationInfo(ctx, &pvalue->ul_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CounterSynchronisationInfo", -1, "RadioBearerReleaseComplete");
+   }
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_RadioBearerReleaseComplete_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "RadioBearerReleaseComplete");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReleaseFailure_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReleaseFailure_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReleaseFailure_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerReleaseFailure_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerReleaseFailure-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->radioBearerReleaseFailure_r3_add_ext.numbits, pvalue->radioBearerReleaseFailure_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "radioBearerReleaseFailure-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RadioBearerReleaseFailure_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerReleaseFailure(rtxContext* RT_RESTRICT ctx, const RadioBearerReleaseFailure* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerReleaseFailure");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerReleaseFailure");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RadioBearerReleaseFailure");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RadioBearerReleaseFailure");
+   /* failureCause */
+   stat = asn1PE_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
+   RT_CHECK(ctx, stat, 0, "failureCause", -1, "RadioBearerReleaseFailure");
+   /* potentiallySuccesfulBearerList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RB_IdentityList(ctx, &pvalue->potentiallySuccesfulBearerList);
+      RT_CHECK(ctx, stat, 0, "potentiallySuccesfulBearerList", -1, "RadioBearerReleaseFailure");
+   }
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RadioBearerReleaseFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "RadioBearerReleaseFailure");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_r3_IEs_dummy_fdd(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_r3_IEs_dummy_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy1 */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->dummy1 - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "CPCH-SetID");
+         rtxErrAddUIntParm(ctx, pvalue->dummy1);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "CPCH-SetID", "dummy1", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dummy1, 1, 16);
+      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy1", -1, 0);
    }
    /* dummy2 */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dummy2");
-      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
    }
-   /* activationTime */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newU-RNTI */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "newU-RNTI");
-      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->newU_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cn-InformationInfo */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      stat = asn1PE_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy3 */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "dummy3");
-      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dummy3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rl-AdditionInformationList */
-   if (pvalue->m & 0x80u) {
-      rtxCtxtPushElemName(ctx, "rl-AdditionInformationList");
-      stat = asn1PE_UMTS_RL_AdditionInformationList(ctx, &pvalue->rl_AdditionInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rl-RemovalInformationList */
-   if (pvalue->m & 0x100u) {
-      rtxCtxtPushElemName(ctx, "rl-RemovalInformationList");
-      stat = asn1PE_UMTS_RL_RemovalInformationList(ctx, &pvalue->rl_RemovalInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tx-DiversityMode */
-   if (pvalue->m & 0x200u) {
-      rtxCtxtPushElemName(ctx, "tx-DiversityMode");
-      rtxCtxtPushTypeName(ctx, "TX-DiversityMode");
-      if (pvalue->tx_DiversityMode > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->tx_DiversityMode);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tx_DiversityMode, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy4 */
-   if (pvalue->m & 0x400u) {
-      rtxCtxtPushElemName(ctx, "dummy4");
-      stat = asn1PE_UMTS_SSDT_Information(ctx, &pvalue->dummy4);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_ActiveSetUpdate_v4b0ext_IEs(rtxContext* ctx, const ActiveSetUpdate_v4b0ext_IEs* pvalue)
+int asn1PE_UMTS_RadioBearerSetup_r3_IEs_dummy(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_r3_IEs_dummy* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ActiveSetUpdate-v4b0ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerSetup_r3_IEs_dummy_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_r3_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_r3_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_r3_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_r3_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerSetup_r3_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_r3_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerSetup-r3-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 23) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 22) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 21) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 20) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 20) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 21) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 22) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 23) & 1u) << 0), 24);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RadioBearerSetup-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RadioBearerSetup-r3-IEs");
+   /* integrityProtectionModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* activationTime */
+   if (pvalue->m & 0x4u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* new-U-RNTI */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* new-C-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerSetup-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerSetup-r3-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (pvalue->m & 0x20u) {
+      if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
+         rtxErrAddStrParm(ctx, "UTRAN-DRX-CycleLengthCoefficient");
+         rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerSetup-r3-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* srb-InformationSetupList */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_SRB_InformationSetupList(ctx, &pvalue->srb_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* rab-InformationSetupList */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_RAB_InformationSetupList(ctx, &pvalue->rab_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_RB_InformationAffectedList(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (pvalue->m & 0x4000u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* dummy */
+   if (pvalue->m & 0x8000u) {
+      stat = asn1PE_UMTS_RadioBearerSetup_r3_IEs_dummy(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_DL_DeletedTransChInfoList(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x80000u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x100000u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerSetup-r3-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* ul-ChannelRequirement */
+   if (pvalue->m & 0x200000u) {
+      stat = asn1PE_UMTS_UL_ChannelRequirement(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* modeSpecificPhysChInfo */
+   stat = asn1PE_UMTS_RadioBearerSetup_r3_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "RadioBearerSetup-r3-IEs");
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x400000u) {
+      stat = asn1PE_UMTS_DL_CommonInformation(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerSetup-r3-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x800000u) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerSetup-r3-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_v3a0ext(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_v3a0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerSetup-v3a0ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v3a0ext");
+   /* new-DSCH-RNTI */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerSetup-v3a0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerSetup-v4b0ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v4b0ext-IEs");
    /* dummy */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      rtxCtxtPushTypeName(ctx, "SSDT-UL");
       if (pvalue->dummy > 1) {
          rtxErrAddUIntParm(ctx, pvalue->dummy);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "SSDT-UL", "dummy", -1, "RadioBearerSetup-v4b0ext-IEs");
       }
       stat = pe_ConsUInt64(ctx, pvalue->dummy, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "SSDT-UL", "dummy", -1, "RadioBearerSetup-v4b0ext-IEs");
    }
    /* cell-id-PerRL-List */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "cell-id-PerRL-List");
       stat = asn1PE_UMTS_CellIdentity_PerRL_List(ctx, &pvalue->cell_id_PerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "cell-id-PerRL-List", -1, "RadioBearerSetup-v4b0ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_ActiveSetUpdate_v590ext_IEs(rtxContext* ctx, const ActiveSetUpdate_v590ext_IEs* pvalue)
+int asn1PE_UMTS_RadioBearerSetup_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_v590ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ActiveSetUpdate-v590ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerSetup-v590ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* dpc-Mode */
-   rtxCtxtPushElemName(ctx, "dpc-Mode");
-   rtxCtxtPushTypeName(ctx, "DPC-Mode");
-   if (pvalue->dpc_Mode > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->dpc_Mode);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dpc_Mode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v590ext-IEs");
    /* dl-TPC-PowerOffsetPerRL-List */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-TPC-PowerOffsetPerRL-List");
       stat = asn1PE_UMTS_DL_TPC_PowerOffsetPerRL_List(ctx, &pvalue->dl_TPC_PowerOffsetPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dl-TPC-PowerOffsetPerRL-List", -1, "RadioBearerSetup-v590ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_ActiveSetUpdate_v690ext_IEs(rtxContext* ctx, const ActiveSetUpdate_v690ext_IEs* pvalue)
+int asn1PE_UMTS_RadioBearerSetup_v5d0ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_v5d0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ActiveSetUpdate-v690ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerSetup-v5d0ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v5d0ext-IEs");
+   /* pdcp-ROHC-TargetMode */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->pdcp_ROHC_TargetMode > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->pdcp_ROHC_TargetMode);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "RadioBearerSetup-v5d0ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->pdcp_ROHC_TargetMode, 0, 1);
+      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "RadioBearerSetup-v5d0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_v690ext_IEs_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, RadioBearerSetup_v690ext_IEs_postVerificationPeriod value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerSetup-v690ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 0), 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v690ext-IEs");
    /* primary-plmn-Identity */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "primary-plmn-Identity");
       stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "primary-plmn-Identity", -1, "RadioBearerSetup-v690ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
+   /* harq-Preamble-Mode */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->harq_Preamble_Mode > 1u) {
+         rtxErrAddStrParm(ctx, "HARQ-Preamble-Mode");
+         rtxErrAddUIntParm(ctx, pvalue->harq_Preamble_Mode);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "RadioBearerSetup-v690ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->harq_Preamble_Mode, 0, 1);
+      RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "RadioBearerSetup-v690ext-IEs");
+   }
+   /* beaconPLEst */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->beaconPLEst > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->beaconPLEst);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "BEACON-PL-Est", "beaconPLEst", -1, "RadioBearerSetup-v690ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->beaconPLEst, 0, 0);
+      RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "RadioBearerSetup-v690ext-IEs");
+   }
+   /* postVerificationPeriod */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->postVerificationPeriod > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->postVerificationPeriod);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "postVerificationPeriod", -1, "RadioBearerSetup-v690ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->postVerificationPeriod, 0, 0);
+      RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "RadioBearerSetup-v690ext-IEs");
+   }
+   /* dhs-sync */
+   if (pvalue->m & 0x10u) {
+      if (pvalue->dhs_sync < -20 || pvalue->dhs_sync > 10) {
+         rtxErrAddStrParm(ctx, "DHS-Sync");
+         rtxErrAddIntParm(ctx, pvalue->dhs_sync);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DHS-Sync", "dhs-sync", -1, "RadioBearerSetup-v690ext-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->dhs_sync, -20, 10);
+      RT_CHECK(ctx, stat, "DHS-Sync", "dhs-sync", -1, "RadioBearerSetup-v690ext-IEs");
+   }
+   /* timingMaintainedSynchInd */
+   if (pvalue->m & 0x20u) {
+      if (pvalue->timingMaintainedSynchInd > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->timingMaintainedSynchInd);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TimingMaintainedSynchInd", "timingMaintainedSynchInd", -1, "RadioBearerSetup-v690ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->timingMaintainedSynchInd, 0, 0);
+      RT_CHECK(ctx, stat, "TimingMaintainedSynchInd", "timingMaintainedSynchInd", -1, "RadioBearerSetup-v690ext-IEs");
+   }
+   /* rab-InformationSetupList */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_RAB_InformationSetupList_r6_ext(ctx, &pvalue->rab_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, "RadioBearerSetup-v690ext-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (pvalue->m & 0x80u) {
+      if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerSetup-v690ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
+      RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerSetup-v690ext-IEs");
+   }
    return 0;
 }
 
-int asn1PE_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions* pvalue)
+int asn1PE_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* ctx, const ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* activeSetUpdate-v690ext */
-   rtxCtxtPushElemName(ctx, "activeSetUpdate-v690ext");
-   stat = asn1PE_UMTS_ActiveSetUpdate_v690ext_IEs(ctx, &pvalue->activeSetUpdate_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v690ext */
+   stat = asn1PE_UMTS_RadioBearerSetup_v690ext_IEs(ctx, &pvalue->radioBearerSetup_v690ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v690ext", -1, 0);
    /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* ctx, const ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* activeSetUpdate-v590ext */
-   rtxCtxtPushElemName(ctx, "activeSetUpdate-v590ext");
-   stat = asn1PE_UMTS_ActiveSetUpdate_v590ext_IEs(ctx, &pvalue->activeSetUpdate_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v5d0ext */
+   stat = asn1PE_UMTS_RadioBearerSetup_v5d0ext_IEs(ctx, &pvalue->radioBearerSetup_v5d0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v5d0ext", -1, 0);
    /* v690NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      stat = asn1PE_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* ctx, const ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* activeSetUpdate-v4b0ext */
-   rtxCtxtPushElemName(ctx, "activeSetUpdate-v4b0ext");
-   stat = asn1PE_UMTS_ActiveSetUpdate_v4b0ext_IEs(ctx, &pvalue->activeSetUpdate_v4b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v590NonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v590ext */
+   stat = asn1PE_UMTS_RadioBearerSetup_v590ext_IEs(ctx, &pvalue->radioBearerSetup_v590ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v590ext", -1, 0);
+   /* v5d0NonCriticalExtenstions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtensions");
-      stat = asn1PE_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
+      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions(rtxContext* ctx, const ActiveSetUpdate_r3_laterNonCriticalExtensions* pvalue)
+int asn1PE_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v4b0ext */
+   stat = asn1PE_UMTS_RadioBearerSetup_v4b0ext_IEs(ctx, &pvalue->radioBearerSetup_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v4b0ext", -1, 0);
+   /* v590NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* activeSetUpdate-r3-add-ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-r3-add-ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "activeSetUpdate-r3-add-ext");
       RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->activeSetUpdate_r3_add_ext.numbits, pvalue->activeSetUpdate_r3_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_BitString(ctx, pvalue->radioBearerSetup_r3_add_ext.numbits, pvalue->radioBearerSetup_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "radioBearerSetup-r3-add-ext", -1, 0);
    }
    /* v4b0NonCriticalExtensions */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v4b0NonCriticalExtensions");
-      stat = asn1PE_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_ActiveSetUpdate_r3(rtxContext* ctx, const ActiveSetUpdate_r3* pvalue)
+int asn1PE_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_r3_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* activeSetUpdate-r3 */
-   rtxCtxtPushElemName(ctx, "activeSetUpdate-r3");
-   stat = asn1PE_UMTS_ActiveSetUpdate_r3_IEs(ctx, &pvalue->activeSetUpdate_r3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v3a0ext */
+   stat = asn1PE_UMTS_RadioBearerSetup_v3a0ext(ctx, &pvalue->radioBearerSetup_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v3a0ext", -1, 0);
    /* laterNonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      stat = asn1PE_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_ActiveSetUpdate_r6_IEs(rtxContext* ctx, const ActiveSetUpdate_r6_IEs* pvalue)
+int asn1PE_UMTS_RadioBearerSetup_r3(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_r3* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ActiveSetUpdate-r6-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 12) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 11) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 10) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 9) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 9) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 10) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 11) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 12) & 1u) << 0), 13);
-   RT_CHECK(ctx, stat);
-   /* activationTime */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newU-RNTI */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "newU-RNTI");
-      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->newU_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newH-RNTI */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "newH-RNTI");
-      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->newH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newPrimary-E-RNTI */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newSecondary-E-RNTI */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cn-InformationInfo */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rl-AdditionInformationList */
-   if (pvalue->m & 0x80u) {
-      rtxCtxtPushElemName(ctx, "rl-AdditionInformationList");
-      stat = asn1PE_UMTS_RL_AdditionInformationList_r6(ctx, &pvalue->rl_AdditionInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rl-RemovalInformationList */
-   if (pvalue->m & 0x100u) {
-      rtxCtxtPushElemName(ctx, "rl-RemovalInformationList");
-      stat = asn1PE_UMTS_RL_RemovalInformationList(ctx, &pvalue->rl_RemovalInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tx-DiversityMode */
-   if (pvalue->m & 0x200u) {
-      rtxCtxtPushElemName(ctx, "tx-DiversityMode");
-      rtxCtxtPushTypeName(ctx, "TX-DiversityMode");
-      if (pvalue->tx_DiversityMode > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->tx_DiversityMode);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tx_DiversityMode, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dpc-Mode */
-   if (pvalue->m & 0x400u) {
-      rtxCtxtPushElemName(ctx, "dpc-Mode");
-      rtxCtxtPushTypeName(ctx, "DPC-Mode");
-      if (pvalue->dpc_Mode > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->dpc_Mode);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dpc_Mode, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* serving-HSDSCH-CellInformation */
-   if (pvalue->m & 0x800u) {
-      rtxCtxtPushElemName(ctx, "serving-HSDSCH-CellInformation");
-      stat = asn1PE_UMTS_Serving_HSDSCH_CellInformation(ctx, &pvalue->serving_HSDSCH_CellInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-dch-ReconfigurationInfo */
-   if (pvalue->m & 0x1000u) {
-      rtxCtxtPushElemName(ctx, "e-dch-ReconfigurationInfo");
-      stat = asn1PE_UMTS_E_DCH_ReconfigurationInfo(ctx, &pvalue->e_dch_ReconfigurationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_v6b0ext_IEs(rtxContext* ctx, const ActiveSetUpdate_v6b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ActiveSetUpdate-v6b0ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* rl-AdditionInformation-list-v6b0ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-r3 */
+   stat = asn1PE_UMTS_RadioBearerSetup_r3_IEs(ctx, &pvalue->radioBearerSetup_r3);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-r3", -1, 0);
+   /* v3a0NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "rl-AdditionInformation-list-v6b0ext");
-      stat = asn1PE_UMTS_RL_AdditionInformation_list_v6b0ext(ctx, &pvalue->rl_AdditionInformation_list_v6b0ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* activeSetUpdate-v6b0ext */
-   rtxCtxtPushElemName(ctx, "activeSetUpdate-v6b0ext");
-   stat = asn1PE_UMTS_ActiveSetUpdate_v6b0ext_IEs(ctx, &pvalue->activeSetUpdate_v6b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RadioBearerSetup_r3_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6(rtxContext* ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_r6* pvalue)
+int asn1PE_UMTS_RadioBearerSetup_r4_IEs_dummy_fdd(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_r4_IEs_dummy_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* activeSetUpdate-r6 */
-   rtxCtxtPushElemName(ctx, "activeSetUpdate-r6");
-   stat = asn1PE_UMTS_ActiveSetUpdate_r6_IEs(ctx, &pvalue->activeSetUpdate_r6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* activeSetUpdate-r6-add-ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy1 */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "activeSetUpdate-r6-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->activeSetUpdate_r6_add_ext.numbits, pvalue->activeSetUpdate_r6_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if ((uint64_t)(pvalue->dummy1 - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "CPCH-SetID");
+         rtxErrAddUIntParm(ctx, pvalue->dummy1);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "CPCH-SetID", "dummy1", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dummy1, 1, 16);
+      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy1", -1, 0);
    }
-   /* v6b0NonCriticalExtensions */
+   /* dummy2 */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v6b0NonCriticalExtensions");
-      stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_ActiveSetUpdate_r7_IEs(rtxContext* ctx, const ActiveSetUpdate_r7_IEs* pvalue)
+int asn1PE_UMTS_RadioBearerSetup_r4_IEs_dummy(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_r4_IEs_dummy* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ActiveSetUpdate-r7-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerSetup_r4_IEs_dummy_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_r4_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_r4_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 20) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 19) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 18) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 17) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 16) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 15) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 14) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 13) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 12) |
-      ((uint64_t)((pvalue->m >> 9) & 1u) << 11) |
-      ((uint64_t)((pvalue->m >> 10) & 1u) << 10) |
-      ((uint64_t)((pvalue->m >> 11) & 1u) << 9) |
-      ((uint64_t)((pvalue->m >> 12) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 13) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 14) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 15) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 16) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 17) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 18) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 19) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 20) & 1u) << 0), 21);
-   RT_CHECK(ctx, stat);
-   /* activationTime */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
    }
-   /* newU-RNTI */
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_r4_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_r4_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerSetup_r4_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_r4_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_r4_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerSetup-r4-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 24) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 23) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 22) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 21) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 20) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 20) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 21) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 22) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 23) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 24) & 1u) << 0), 25);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-r4-IEs");
+   /* integrityProtectionModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* cipheringModeInfo */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "newU-RNTI");
-      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->newU_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerSetup-r4-IEs");
    }
-   /* newH-RNTI */
+   /* activationTime */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "newH-RNTI");
-      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->newH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerSetup-r4-IEs");
    }
-   /* newPrimary-E-RNTI */
+   /* new-U-RNTI */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerSetup-r4-IEs");
    }
-   /* newSecondary-E-RNTI */
+   /* new-C-RNTI */
    if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerSetup-r4-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerSetup-r4-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (pvalue->m & 0x40u) {
+      if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
+         rtxErrAddStrParm(ctx, "UTRAN-DRX-CycleLengthCoefficient");
+         rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerSetup-r4-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerSetup-r4-IEs");
    }
    /* cn-InformationInfo */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dtx-drx-TimingInfo */
-   if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-TimingInfo");
-      stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dtx-drx-Info */
-   if (pvalue->m & 0x80u) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-Info");
-      stat = asn1PE_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hs-scch-LessInfo */
    if (pvalue->m & 0x100u) {
-      rtxCtxtPushElemName(ctx, "hs-scch-LessInfo");
-      stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerSetup-r4-IEs");
    }
-   /* mimoParameters */
+   /* srb-InformationSetupList */
    if (pvalue->m & 0x200u) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
-      stat = asn1PE_UMTS_MIMO_Parameters_r7(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_SRB_InformationSetupList(ctx, &pvalue->srb_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* rab-InformationSetupList */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_RAB_InformationSetupList_r4(ctx, &pvalue->rab_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_RB_InformationAffectedList(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (pvalue->m & 0x4000u) {
+      stat = asn1PE_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (pvalue->m & 0x8000u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* dummy */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_RadioBearerSetup_r4_IEs_dummy(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_DL_DeletedTransChInfoList(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (pvalue->m & 0x80000u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r4(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x100000u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerSetup-r4-IEs");
    }
    /* maxAllowedUL-TX-Power */
-   if (pvalue->m & 0x400u) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rl-AdditionInformationList */
-   if (pvalue->m & 0x800u) {
-      rtxCtxtPushElemName(ctx, "rl-AdditionInformationList");
-      stat = asn1PE_UMTS_RL_AdditionInformationList_r7(ctx, &pvalue->rl_AdditionInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rl-RemovalInformationList */
-   if (pvalue->m & 0x1000u) {
-      rtxCtxtPushElemName(ctx, "rl-RemovalInformationList");
-      stat = asn1PE_UMTS_RL_RemovalInformationList(ctx, &pvalue->rl_RemovalInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tx-DiversityMode */
-   if (pvalue->m & 0x2000u) {
-      rtxCtxtPushElemName(ctx, "tx-DiversityMode");
-      rtxCtxtPushTypeName(ctx, "TX-DiversityMode");
-      if (pvalue->tx_DiversityMode > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->tx_DiversityMode);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tx_DiversityMode, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dpc-Mode */
-   if (pvalue->m & 0x4000u) {
-      rtxCtxtPushElemName(ctx, "dpc-Mode");
-      rtxCtxtPushTypeName(ctx, "DPC-Mode");
-      if (pvalue->dpc_Mode > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->dpc_Mode);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dpc_Mode, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* serving-HSDSCH-CellInformation */
-   if (pvalue->m & 0x8000u) {
-      rtxCtxtPushElemName(ctx, "serving-HSDSCH-CellInformation");
-      stat = asn1PE_UMTS_Serving_HSDSCH_CellInformation_r7(ctx, &pvalue->serving_HSDSCH_CellInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-dch-ReconfigurationInfo */
-   if (pvalue->m & 0x10000u) {
-      rtxCtxtPushElemName(ctx, "e-dch-ReconfigurationInfo");
-      stat = asn1PE_UMTS_E_DCH_ReconfigurationInfo_r7(ctx, &pvalue->e_dch_ReconfigurationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-16QAM-Config */
-   if (pvalue->m & 0x20000u) {
-      rtxCtxtPushElemName(ctx, "ul-16QAM-Config");
-      stat = asn1PE_UMTS_UL_16QAM_Config(ctx, &pvalue->ul_16QAM_Config);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-dch-ReconfInfoSameCell */
-   if (pvalue->m & 0x40000u) {
-      rtxCtxtPushElemName(ctx, "e-dch-ReconfInfoSameCell");
-      stat = asn1PE_UMTS_E_DCH_RL_InfoSameServingCell(ctx, &pvalue->e_dch_ReconfInfoSameCell);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-TFC-Boost-Info */
-   if (pvalue->m & 0x80000u) {
-      rtxCtxtPushElemName(ctx, "e-TFC-Boost-Info");
-      stat = asn1PE_UMTS_E_TFC_Boost_Info_r7(ctx, &pvalue->e_TFC_Boost_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-DPDCH-PowerInterpolation */
-   if (pvalue->m & 0x100000u) {
-      rtxCtxtPushElemName(ctx, "e-DPDCH-PowerInterpolation");
-      rtxCtxtPushTypeName(ctx, "E-DPDCH-PowerInterpolation");
-      stat = rtxEncBit(ctx, pvalue->e_DPDCH_PowerInterpolation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_v780ext_IEs(rtxContext* ctx, const ActiveSetUpdate_v780ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ActiveSetUpdate-v780ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* hs-DSCH-TBSizeTable */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "hs-DSCH-TBSizeTable");
-      rtxCtxtPushTypeName(ctx, "HS-DSCH-TBSizeTable");
-      if (pvalue->hs_DSCH_TBSizeTable > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->hs_DSCH_TBSizeTable);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hs_DSCH_TBSizeTable, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_v7f0ext_IEs(rtxContext* ctx, const ActiveSetUpdate_v7f0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ActiveSetUpdate-v7f0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* mimoParameters */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
-      stat = asn1PE_UMTS_MIMO_Parameters_v7f0ext(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_v7g0ext_IEs(rtxContext* ctx, const ActiveSetUpdate_v7g0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ActiveSetUpdate-v7g0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* mimoParameters */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
-      stat = asn1PE_UMTS_MIMO_Parameters_v7g0ext(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* activeSetUdpate-v7g0ext */
-   rtxCtxtPushElemName(ctx, "activeSetUdpate-v7g0ext");
-   stat = asn1PE_UMTS_ActiveSetUpdate_v7g0ext_IEs(ctx, &pvalue->activeSetUdpate_v7g0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* activeSetUdpate-v7f0ext */
-   rtxCtxtPushElemName(ctx, "activeSetUdpate-v7f0ext");
-   stat = asn1PE_UMTS_ActiveSetUpdate_v7f0ext_IEs(ctx, &pvalue->activeSetUdpate_v7f0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v7g0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v7g0NonCriticalExtensions");
-      stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* activeSetUpdate-v780ext */
-   rtxCtxtPushElemName(ctx, "activeSetUpdate-v780ext");
-   stat = asn1PE_UMTS_ActiveSetUpdate_v780ext_IEs(ctx, &pvalue->activeSetUpdate_v780ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v7f0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v7f0NonCriticalExtensions");
-      stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7(rtxContext* ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* activeSetUpdate-r7 */
-   rtxCtxtPushElemName(ctx, "activeSetUpdate-r7");
-   stat = asn1PE_UMTS_ActiveSetUpdate_r7_IEs(ctx, &pvalue->activeSetUpdate_r7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* activeSetUpdate-r7-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "activeSetUpdate-r7-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->activeSetUpdate_r7_add_ext.numbits, pvalue->activeSetUpdate_r7_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v780NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v780NonCriticalExtensions");
-      stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_r8_IEs(rtxContext* ctx, const ActiveSetUpdate_r8_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ActiveSetUpdate-r8-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 22) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 21) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 20) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 19) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 18) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 17) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 16) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 15) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 14) |
-      ((uint64_t)((pvalue->m >> 9) & 1u) << 13) |
-      ((uint64_t)((pvalue->m >> 10) & 1u) << 12) |
-      ((uint64_t)((pvalue->m >> 11) & 1u) << 11) |
-      ((uint64_t)((pvalue->m >> 12) & 1u) << 10) |
-      ((uint64_t)((pvalue->m >> 13) & 1u) << 9) |
-      ((uint64_t)((pvalue->m >> 14) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 15) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 16) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 17) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 18) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 19) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 20) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 21) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 22) & 1u) << 0), 23);
-   RT_CHECK(ctx, stat);
-   /* activationTime */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newU-RNTI */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "newU-RNTI");
-      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->newU_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newH-RNTI */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "newH-RNTI");
-      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->newH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newPrimary-E-RNTI */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newSecondary-E-RNTI */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cn-InformationInfo */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dtx-drx-TimingInfo */
-   if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-TimingInfo");
-      stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dtx-drx-Info */
-   if (pvalue->m & 0x80u) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-Info");
-      stat = asn1PE_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hs-scch-LessInfo */
-   if (pvalue->m & 0x100u) {
-      rtxCtxtPushElemName(ctx, "hs-scch-LessInfo");
-      stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mimoParameters */
-   if (pvalue->m & 0x200u) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
-      stat = asn1PE_UMTS_MIMO_Parameters_r8(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (pvalue->m & 0x400u) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rl-AdditionInformationList */
-   if (pvalue->m & 0x800u) {
-      rtxCtxtPushElemName(ctx, "rl-AdditionInformationList");
-      stat = asn1PE_UMTS_RL_AdditionInformationList_r8(ctx, &pvalue->rl_AdditionInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* servingCellChangeParameters */
-   if (pvalue->m & 0x1000u) {
-      rtxCtxtPushElemName(ctx, "servingCellChangeParameters");
-      stat = asn1PE_UMTS_ServingCellChangeParameters(ctx, &pvalue->servingCellChangeParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rl-RemovalInformationList */
-   if (pvalue->m & 0x2000u) {
-      rtxCtxtPushElemName(ctx, "rl-RemovalInformationList");
-      stat = asn1PE_UMTS_RL_RemovalInformationList(ctx, &pvalue->rl_RemovalInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tx-DiversityMode */
-   if (pvalue->m & 0x4000u) {
-      rtxCtxtPushElemName(ctx, "tx-DiversityMode");
-      rtxCtxtPushTypeName(ctx, "TX-DiversityMode");
-      if (pvalue->tx_DiversityMode > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->tx_DiversityMode);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tx_DiversityMode, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dpc-Mode */
-   if (pvalue->m & 0x8000u) {
-      rtxCtxtPushElemName(ctx, "dpc-Mode");
-      rtxCtxtPushTypeName(ctx, "DPC-Mode");
-      if (pvalue->dpc_Mode > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->dpc_Mode);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dpc_Mode, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* serving-HSDSCH-CellInformation */
-   if (pvalue->m & 0x10000u) {
-      rtxCtxtPushElemName(ctx, "serving-HSDSCH-CellInformation");
-      stat = asn1PE_UMTS_Serving_HSDSCH_CellInformation_r8(ctx, &pvalue->serving_HSDSCH_CellInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-dch-ReconfigurationInfo */
-   if (pvalue->m & 0x20000u) {
-      rtxCtxtPushElemName(ctx, "e-dch-ReconfigurationInfo");
-      stat = asn1PE_UMTS_E_DCH_ReconfigurationInfo_r7(ctx, &pvalue->e_dch_ReconfigurationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-16QAM-Config */
-   if (pvalue->m & 0x40000u) {
-      rtxCtxtPushElemName(ctx, "ul-16QAM-Config");
-      stat = asn1PE_UMTS_UL_16QAM_Config(ctx, &pvalue->ul_16QAM_Config);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-dch-ReconfInfoSameCell */
-   if (pvalue->m & 0x80000u) {
-      rtxCtxtPushElemName(ctx, "e-dch-ReconfInfoSameCell");
-      stat = asn1PE_UMTS_E_DCH_RL_InfoSameServingCell(ctx, &pvalue->e_dch_ReconfInfoSameCell);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-TFC-Boost-Info */
-   if (pvalue->m & 0x100000u) {
-      rtxCtxtPushElemName(ctx, "e-TFC-Boost-Info");
-      stat = asn1PE_UMTS_E_TFC_Boost_Info_r7(ctx, &pvalue->e_TFC_Boost_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-DPDCH-PowerInterpolation */
    if (pvalue->m & 0x200000u) {
-      rtxCtxtPushElemName(ctx, "e-DPDCH-PowerInterpolation");
-      rtxCtxtPushTypeName(ctx, "E-DPDCH-PowerInterpolation");
-      stat = rtxEncBit(ctx, pvalue->e_DPDCH_PowerInterpolation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerSetup-r4-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerSetup-r4-IEs");
    }
-   /* dl-SecondaryCellInfoFDD */
+   /* ul-ChannelRequirement */
    if (pvalue->m & 0x400000u) {
-      rtxCtxtPushElemName(ctx, "dl-SecondaryCellInfoFDD");
-      stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD(ctx, &pvalue->dl_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UL_ChannelRequirement_r4(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "RadioBearerSetup-r4-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
+   /* modeSpecificPhysChInfo */
+   stat = asn1PE_UMTS_RadioBearerSetup_r4_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "RadioBearerSetup-r4-IEs");
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x800000u) {
+      stat = asn1PE_UMTS_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerSetup-r4-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x1000000u) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_r4(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerSetup-r4-IEs");
+   }
    return 0;
 }
 
-int asn1PE_UMTS_ActiveSetUpdate_v890ext_IEs(rtxContext* ctx, const ActiveSetUpdate_v890ext_IEs* pvalue)
+int asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ActiveSetUpdate-v890ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* dl-SecondaryCellInfoFDD-v890ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-SecondaryCellInfoFDD-v890ext");
-      stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD_v890ext(ctx, &pvalue->dl_SecondaryCellInfoFDD_v890ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mimoParameters */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
-      stat = asn1PE_UMTS_MIMO_Parameters_v7f0ext(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rl-AdditionInformationList */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "rl-AdditionInformationList");
-      stat = asn1PE_UMTS_RL_AdditionInformationList_v890ext(ctx, &pvalue->rl_AdditionInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* pvalue)
+int asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* activeSetUpdate-v7g0ext */
-   rtxCtxtPushElemName(ctx, "activeSetUpdate-v7g0ext");
-   stat = asn1PE_UMTS_ActiveSetUpdate_v7g0ext_IEs(ctx, &pvalue->activeSetUpdate_v7g0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v690ext */
+   stat = asn1PE_UMTS_RadioBearerSetup_v690ext_IEs(ctx, &pvalue->radioBearerSetup_v690ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v690ext", -1, 0);
    /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions(rtxContext* ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* activeSetUpdate-v890ext */
-   rtxCtxtPushElemName(ctx, "activeSetUpdate-v890ext");
-   stat = asn1PE_UMTS_ActiveSetUpdate_v890ext_IEs(ctx, &pvalue->activeSetUpdate_v890ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v7g0NonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v5d0ext */
+   stat = asn1PE_UMTS_RadioBearerSetup_v5d0ext_IEs(ctx, &pvalue->radioBearerSetup_v5d0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v5d0ext", -1, 0);
+   /* v690NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v7g0NonCriticalExtensions");
-      stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8* pvalue)
+int asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v590ext */
+   stat = asn1PE_UMTS_RadioBearerSetup_v590ext_IEs(ctx, &pvalue->radioBearerSetup_v590ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v590ext", -1, 0);
+   /* v5d0NonCriticalExtenstions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
+      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* activeSetUpdate-r8 */
-   rtxCtxtPushElemName(ctx, "activeSetUpdate-r8");
-   stat = asn1PE_UMTS_ActiveSetUpdate_r8_IEs(ctx, &pvalue->activeSetUpdate_r8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* activeSetUpdate-r8-add-ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-r4-add-ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "activeSetUpdate-r8-add-ext");
       RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->activeSetUpdate_r8_add_ext.numbits, pvalue->activeSetUpdate_r8_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_BitString(ctx, pvalue->radioBearerSetup_r4_add_ext.numbits, pvalue->radioBearerSetup_r4_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "radioBearerSetup-r4-add-ext", -1, 0);
    }
-   /* v890NonCriticalExtensions */
+   /* v590NonCriticalExtensions */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v890NonCriticalExtensions");
-      stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_ActiveSetUpdate_r9_IEs(rtxContext* ctx, const ActiveSetUpdate_r9_IEs* pvalue)
+int asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ActiveSetUpdate-r9-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-r4 */
+   stat = asn1PE_UMTS_RadioBearerSetup_r4_IEs(ctx, &pvalue->radioBearerSetup_r4);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-r4", -1, 0);
+   /* v4d0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_r5_IEs_dummy_fdd(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_r5_IEs_dummy_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy1 */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->dummy1 - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "CPCH-SetID");
+         rtxErrAddUIntParm(ctx, pvalue->dummy1);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "CPCH-SetID", "dummy1", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dummy1, 1, 16);
+      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy1", -1, 0);
+   }
+   /* dummy2 */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_r5_IEs_dummy(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_r5_IEs_dummy* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerSetup_r5_IEs_dummy_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_r5_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_r5_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_r5_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_r5_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerSetup_r5_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_r5_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_r5_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerSetup-r5-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 26) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 25) |
@@ -7097,1919 +2746,6272 @@ int asn1PE_UMTS_ActiveSetUpdate_r9_IEs(rtxContext* ctx, const ActiveSetUpdate_r9
       ((uint64_t)((pvalue->m >> 24) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 25) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 26) & 1u) << 0), 27);
-   RT_CHECK(ctx, stat);
-   /* activationTime */
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-r5-IEs");
+   /* integrityProtectionModeInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerSetup-r5-IEs");
    }
-   /* newU-RNTI */
+   /* cipheringModeInfo */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "newU-RNTI");
-      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->newU_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerSetup-r5-IEs");
    }
-   /* newH-RNTI */
+   /* activationTime */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "newH-RNTI");
-      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->newH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerSetup-r5-IEs");
    }
-   /* newPrimary-E-RNTI */
+   /* new-U-RNTI */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerSetup-r5-IEs");
    }
-   /* newSecondary-E-RNTI */
+   /* new-C-RNTI */
    if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* new-H-RNTI */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerSetup-r5-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerSetup-r5-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (pvalue->m & 0x80u) {
+      if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
+         rtxErrAddStrParm(ctx, "UTRAN-DRX-CycleLengthCoefficient");
+         rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerSetup-r5-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerSetup-r5-IEs");
    }
    /* cn-InformationInfo */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dtx-drx-TimingInfo */
-   if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-TimingInfo");
-      stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dtx-drx-Info */
-   if (pvalue->m & 0x80u) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-Info");
-      stat = asn1PE_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hs-scch-LessInfo */
-   if (pvalue->m & 0x100u) {
-      rtxCtxtPushElemName(ctx, "hs-scch-LessInfo");
-      stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mimoParameters */
    if (pvalue->m & 0x200u) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
-      stat = asn1PE_UMTS_MIMO_Parameters_r9(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* srb-InformationSetupList */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_SRB_InformationSetupList_r5(ctx, &pvalue->srb_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* rab-InformationSetupList */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_RAB_InformationSetupList_r5(ctx, &pvalue->rab_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_RB_InformationAffectedList_r5(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x4000u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (pvalue->m & 0x8000u) {
+      stat = asn1PE_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* dummy */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_RadioBearerSetup_r5_IEs_dummy(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (pvalue->m & 0x80000u) {
+      stat = asn1PE_UMTS_DL_DeletedTransChInfoList_r5(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (pvalue->m & 0x100000u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerSetup-r5-IEs");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x200000u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerSetup-r5-IEs");
    }
    /* maxAllowedUL-TX-Power */
-   if (pvalue->m & 0x400u) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
+   if (pvalue->m & 0x400000u) {
       if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
          rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerSetup-r5-IEs");
       }
       stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerSetup-r5-IEs");
    }
-   /* ul-SecondaryCellInfoFDD */
-   if (pvalue->m & 0x800u) {
-      rtxCtxtPushElemName(ctx, "ul-SecondaryCellInfoFDD");
-      stat = asn1PE_UMTS_UL_SecondaryCellInfoFDD(ctx, &pvalue->ul_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-dch-ReconfigurationInfo-SecULFrequency */
-   if (pvalue->m & 0x1000u) {
-      rtxCtxtPushElemName(ctx, "e-dch-ReconfigurationInfo-SecULFrequency");
-      stat = asn1PE_UMTS_E_DCH_ReconfigurationInfo_SecULFrequency(ctx, &pvalue->e_dch_ReconfigurationInfo_SecULFrequency);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rl-AdditionInformationList */
-   if (pvalue->m & 0x2000u) {
-      rtxCtxtPushElemName(ctx, "rl-AdditionInformationList");
-      stat = asn1PE_UMTS_RL_AdditionInformationList_r9(ctx, &pvalue->rl_AdditionInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rl-AdditionInformationList-SecULFreq */
-   if (pvalue->m & 0x4000u) {
-      rtxCtxtPushElemName(ctx, "rl-AdditionInformationList-SecULFreq");
-      stat = asn1PE_UMTS_RL_AdditionInformationList_SecULFreq(ctx, &pvalue->rl_AdditionInformationList_SecULFreq);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* servingCellChangeParameters */
-   if (pvalue->m & 0x8000u) {
-      rtxCtxtPushElemName(ctx, "servingCellChangeParameters");
-      stat = asn1PE_UMTS_ServingCellChangeParameters(ctx, &pvalue->servingCellChangeParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rl-RemovalInformationList */
-   if (pvalue->m & 0x10000u) {
-      rtxCtxtPushElemName(ctx, "rl-RemovalInformationList");
-      stat = asn1PE_UMTS_RL_RemovalInformationList(ctx, &pvalue->rl_RemovalInformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rl-RemovalInformationList-SecULFreq */
-   if (pvalue->m & 0x20000u) {
-      rtxCtxtPushElemName(ctx, "rl-RemovalInformationList-SecULFreq");
-      stat = asn1PE_UMTS_RL_RemovalInformationList_SecULFreq(ctx, &pvalue->rl_RemovalInformationList_SecULFreq);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* tx-DiversityMode */
-   if (pvalue->m & 0x40000u) {
-      rtxCtxtPushElemName(ctx, "tx-DiversityMode");
-      rtxCtxtPushTypeName(ctx, "TX-DiversityMode");
-      if (pvalue->tx_DiversityMode > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->tx_DiversityMode);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tx_DiversityMode, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dpc-Mode */
-   if (pvalue->m & 0x80000u) {
-      rtxCtxtPushElemName(ctx, "dpc-Mode");
-      rtxCtxtPushTypeName(ctx, "DPC-Mode");
-      if (pvalue->dpc_Mode > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->dpc_Mode);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dpc_Mode, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* serving-HSDSCH-CellInformation */
-   if (pvalue->m & 0x100000u) {
-      rtxCtxtPushElemName(ctx, "serving-HSDSCH-CellInformation");
-      stat = asn1PE_UMTS_Serving_HSDSCH_CellInformation_r9(ctx, &pvalue->serving_HSDSCH_CellInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-dch-ReconfigurationInfo */
-   if (pvalue->m & 0x200000u) {
-      rtxCtxtPushElemName(ctx, "e-dch-ReconfigurationInfo");
-      stat = asn1PE_UMTS_E_DCH_ReconfigurationInfo_r7(ctx, &pvalue->e_dch_ReconfigurationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-16QAM-Config */
-   if (pvalue->m & 0x400000u) {
-      rtxCtxtPushElemName(ctx, "ul-16QAM-Config");
-      stat = asn1PE_UMTS_UL_16QAM_Config(ctx, &pvalue->ul_16QAM_Config);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* e-dch-ReconfInfoSameCell */
+   /* ul-ChannelRequirement */
    if (pvalue->m & 0x800000u) {
-      rtxCtxtPushElemName(ctx, "e-dch-ReconfInfoSameCell");
-      stat = asn1PE_UMTS_E_DCH_RL_InfoSameServingCell(ctx, &pvalue->e_dch_ReconfInfoSameCell);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UL_ChannelRequirement_r5(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "RadioBearerSetup-r5-IEs");
    }
-   /* e-TFC-Boost-Info */
+   /* modeSpecificPhysChInfo */
+   stat = asn1PE_UMTS_RadioBearerSetup_r5_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "RadioBearerSetup-r5-IEs");
+   /* dl-HSPDSCH-Information */
    if (pvalue->m & 0x1000000u) {
-      rtxCtxtPushElemName(ctx, "e-TFC-Boost-Info");
-      stat = asn1PE_UMTS_E_TFC_Boost_Info_r7(ctx, &pvalue->e_TFC_Boost_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerSetup-r5-IEs");
    }
-   /* e-DPDCH-PowerInterpolation */
+   /* dl-CommonInformation */
    if (pvalue->m & 0x2000000u) {
-      rtxCtxtPushElemName(ctx, "e-DPDCH-PowerInterpolation");
-      rtxCtxtPushTypeName(ctx, "E-DPDCH-PowerInterpolation");
-      stat = rtxEncBit(ctx, pvalue->e_DPDCH_PowerInterpolation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_DL_CommonInformation_r5(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerSetup-r5-IEs");
    }
-   /* dl-SecondaryCellInfoFDD */
+   /* dl-InformationPerRL-List */
    if (pvalue->m & 0x4000000u) {
-      rtxCtxtPushElemName(ctx, "dl-SecondaryCellInfoFDD");
-      stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD_r9(ctx, &pvalue->dl_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_r5(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerSetup-r5-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* pvalue)
+int asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* pvalue)
+int asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v690ext */
+   stat = asn1PE_UMTS_RadioBearerSetup_v690ext_IEs(ctx, &pvalue->radioBearerSetup_v690ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v690ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v5d0ext */
+   stat = asn1PE_UMTS_RadioBearerSetup_v5d0ext_IEs(ctx, &pvalue->radioBearerSetup_v5d0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v5d0ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* activeSetUpdate-r9 */
-   rtxCtxtPushElemName(ctx, "activeSetUpdate-r9");
-   stat = asn1PE_UMTS_ActiveSetUpdate_r9_IEs(ctx, &pvalue->activeSetUpdate_r9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* activeSetUpdate-r9-add-ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-r5 */
+   stat = asn1PE_UMTS_RadioBearerSetup_r5_IEs(ctx, &pvalue->radioBearerSetup_r5);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-r5", -1, 0);
+   /* radioBearerSetup-r5-add-ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "activeSetUpdate-r9-add-ext");
       RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->activeSetUpdate_r9_add_ext.numbits, pvalue->activeSetUpdate_r9_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_BitString(ctx, pvalue->radioBearerSetup_r5_add_ext.numbits, pvalue->radioBearerSetup_r5_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "radioBearerSetup-r5-add-ext", -1, 0);
    }
-   /* nonCriticalExtensions */
+   /* v5d0NonCriticalExtenstions */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
+      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
+int asn1PE_UMTS_RadioBearerSetup_r6_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_r6_IEs_specificationMode_complete* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r9");
-         if (pvalue->u.r9 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r8");
-         if (pvalue->u.r8 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r7");
-         if (pvalue->u.r7 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions(rtxContext* ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r6");
-         if (pvalue->u.r6 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6(ctx, pvalue->u.r6);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3(rtxContext* ctx, const ActiveSetUpdate_later_than_r3* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* criticalExtensions */
-   rtxCtxtPushElemName(ctx, "criticalExtensions");
-   stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate(rtxContext* ctx, const ActiveSetUpdate* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ActiveSetUpdate");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r3");
-         if (pvalue->u.r3 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_ActiveSetUpdate_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "later-than-r3");
-         if (pvalue->u.later_than_r3 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdateComplete_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const ActiveSetUpdateComplete_laterNonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdateComplete_laterNonCriticalExtensions(rtxContext* ctx, const ActiveSetUpdateComplete_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* activeSetUpdateComplete-r3-add-ext */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 0), 13);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* srb-InformationSetupList */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "activeSetUpdateComplete-r3-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->activeSetUpdateComplete_r3_add_ext.numbits, pvalue->activeSetUpdateComplete_r3_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_SRB_InformationSetupList_r6(ctx, &pvalue->srb_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, 0);
    }
-   /* nonCriticalExtensions */
+   /* rab-InformationSetupList */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_ActiveSetUpdateComplete_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RAB_InformationSetupList_r6(ctx, &pvalue->rab_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, 0);
    }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdateComplete(rtxContext* ctx, const ActiveSetUpdateComplete* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ActiveSetUpdateComplete");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dummy */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      stat = asn1PE_UMTS_IntegrityProtActivationInfo(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy2 */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dummy2");
-      stat = asn1PE_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy3 */
+   /* rab-InformationReconfigList */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "dummy3");
-      stat = asn1PE_UMTS_UL_CounterSynchronisationInfo(ctx, &pvalue->dummy3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, 0);
    }
-   /* laterNonCriticalExtensions */
+   /* rb-InformationReconfigList */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      stat = asn1PE_UMTS_ActiveSetUpdateComplete_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RB_InformationReconfigList_r6(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdateFailure_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const ActiveSetUpdateFailure_laterNonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdateFailure_laterNonCriticalExtensions(rtxContext* ctx, const ActiveSetUpdateFailure_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* activeSetUpdateFailure-r3-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "activeSetUpdateFailure-r3-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->activeSetUpdateFailure_r3_add_ext.numbits, pvalue->activeSetUpdateFailure_r3_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   /* rb-InformationAffectedList */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_RB_InformationAffectedList_r6(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, 0);
    }
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_ActiveSetUpdateFailure_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   /* dl-CounterSynchronisationInfo */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, 0);
    }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdateFailure(rtxContext* ctx, const ActiveSetUpdateFailure* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ActiveSetUpdateFailure");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* failureCause */
-   rtxCtxtPushElemName(ctx, "failureCause");
-   stat = asn1PE_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* laterNonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      stat = asn1PE_UMTS_ActiveSetUpdateFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_AssistanceDataDelivery_r3_IEs(rtxContext* ctx, const AssistanceDataDelivery_r3_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "AssistanceDataDelivery-r3-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ue-positioning-GPS-AssistanceData */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-AssistanceData");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_AssistanceData(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-OTDOA-AssistanceData-UEB */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-OTDOA-AssistanceData-UEB");
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData_UEB);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_AssistanceDataDelivery_v3a0ext(rtxContext* ctx, const AssistanceDataDelivery_v3a0ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "AssistanceDataDelivery-v3a0ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sfn-Offset-Validity */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sfn-Offset-Validity");
-      rtxCtxtPushTypeName(ctx, "SFN-Offset-Validity");
-      if (pvalue->sfn_Offset_Validity > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->sfn_Offset_Validity);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+   /* pdcp-ROHC-TargetMode */
+   if (pvalue->m & 0x40u) {
+      if (pvalue->pdcp_ROHC_TargetMode > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->pdcp_ROHC_TargetMode);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, 0);
       }
-      stat = pe_ConsUInt64(ctx, pvalue->sfn_Offset_Validity, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->pdcp_ROHC_TargetMode, 0, 1);
+      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
+   }
+   /* ul-deletedTransChInfoList */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, 0);
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList_r6(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
+   }
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
+   }
+   /* dl-DeletedTransChInfoList */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_DL_DeletedTransChInfoList_r5(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, 0);
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
+   }
    return 0;
 }
 
-int asn1PE_UMTS_AssistanceDataDelivery_v4b0ext_IEs(rtxContext* ctx, const AssistanceDataDelivery_v4b0ext_IEs* pvalue)
+int asn1PE_UMTS_RadioBearerSetup_r6_IEs_specificationMode_dummy(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_r6_IEs_specificationMode_dummy* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "AssistanceDataDelivery-v4b0ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-Positioning-OTDOA-AssistanceData-r4ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rab-Info */
+   stat = asn1PE_UMTS_RAB_Info_r6(ctx, &pvalue->rab_Info);
+   RT_CHECK(ctx, stat, 0, "rab-Info", -1, 0);
+   /* defaultConfigMode */
+   if (pvalue->defaultConfigMode > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigMode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   /* defaultConfigIdentity */
+   if ((uint64_t)pvalue->defaultConfigIdentity > 31u) {
+      rtxErrAddStrParm(ctx, "DefaultConfigIdentity-r6");
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigIdentity, 0, 31);
+   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
+   /* rb-InformationChangedList */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-OTDOA-AssistanceData-r4ext");
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_r4ext(ctx, &pvalue->ue_Positioning_OTDOA_AssistanceData_r4ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RB_InformationChangedList_r6(ctx, &pvalue->rb_InformationChangedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationChangedList", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
+   /* powerOffsetInfoShort */
+   stat = asn1PE_UMTS_PowerOffsetInfoShort(ctx, &pvalue->powerOffsetInfoShort);
+   RT_CHECK(ctx, stat, 0, "powerOffsetInfoShort", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_AssistanceDataDelivery_v770ext_IEs(rtxContext* ctx, const AssistanceDataDelivery_v770ext_IEs* pvalue)
+int asn1PE_UMTS_RadioBearerSetup_r6_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_r6_IEs_specificationMode* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "AssistanceDataDelivery-v770ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* ue-Positioning-OTDOA-AssistanceData-UEB-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-OTDOA-AssistanceData-UEB-ext");
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB_ext(ctx, &pvalue->ue_Positioning_OTDOA_AssistanceData_UEB_ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-Positioning-GPS-AssistanceData */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-GPS-AssistanceData");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_AssistanceData_v770ext(ctx, &pvalue->ue_Positioning_GPS_AssistanceData);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GANSS-AssistanceData */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-AssistanceData");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AssistanceData(ctx, &pvalue->ue_positioning_GANSS_AssistanceData);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_AssistanceDataDelivery_v860ext_IEs(rtxContext* ctx, const AssistanceDataDelivery_v860ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "AssistanceDataDelivery-v860ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GANSS-AssistanceData-v860ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-AssistanceData-v860ext");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AssistanceData_v860ext(ctx, &pvalue->ue_positioning_GANSS_AssistanceData_v860ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_AssistanceDataDelivery_v920ext_IEs(rtxContext* ctx, const AssistanceDataDelivery_v920ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "AssistanceDataDelivery-v920ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ue-positioning-GPS-AssistanceData-v920ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GPS-AssistanceData-v920ext");
-      stat = asn1PE_UMTS_UE_Positioning_GPS_AssistanceData_v920ext(ctx, &pvalue->ue_positioning_GPS_AssistanceData_v920ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-positioning-GANSS-AssistanceData-v920ext */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-positioning-GANSS-AssistanceData-v920ext");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AssistanceData_v920ext(ctx, &pvalue->ue_positioning_GANSS_AssistanceData_v920ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension_nonCriticalExtensions(rtxContext* ctx, const AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension(rtxContext* ctx, const AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* assistanceDataDelivery-v920ext */
-   rtxCtxtPushElemName(ctx, "assistanceDataDelivery-v920ext");
-   stat = asn1PE_UMTS_AssistanceDataDelivery_v920ext_IEs(ctx, &pvalue->assistanceDataDelivery_v920ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension(rtxContext* ctx, const AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* assistanceDataDelivery-v860ext */
-   rtxCtxtPushElemName(ctx, "assistanceDataDelivery-v860ext");
-   stat = asn1PE_UMTS_AssistanceDataDelivery_v860ext_IEs(ctx, &pvalue->assistanceDataDelivery_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v920NonCriticalExtension */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v920NonCriticalExtension");
-      stat = asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension(ctx, &pvalue->v920NonCriticalExtension);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension(rtxContext* ctx, const AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* assistanceDataDelivery-v770ext */
-   rtxCtxtPushElemName(ctx, "assistanceDataDelivery-v770ext");
-   stat = asn1PE_UMTS_AssistanceDataDelivery_v770ext_IEs(ctx, &pvalue->assistanceDataDelivery_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v860NonCriticalExtension */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtension");
-      stat = asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension(ctx, &pvalue->v860NonCriticalExtension);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* ctx, const AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* assistanceDataDelivery-v4b0ext */
-   rtxCtxtPushElemName(ctx, "assistanceDataDelivery-v4b0ext");
-   stat = asn1PE_UMTS_AssistanceDataDelivery_v4b0ext_IEs(ctx, &pvalue->assistanceDataDelivery_v4b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v770NonCriticalExtension */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtension");
-      stat = asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension(ctx, &pvalue->v770NonCriticalExtension);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* ctx, const AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* assistanceDataDelivery-r3-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "assistanceDataDelivery-r3-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->assistanceDataDelivery_r3_add_ext.numbits, pvalue->assistanceDataDelivery_r3_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v4b0NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v4b0NonCriticalExtensions");
-      stat = asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions(rtxContext* ctx, const AssistanceDataDelivery_r3_v3a0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* assistanceDataDelivery-v3a0ext */
-   rtxCtxtPushElemName(ctx, "assistanceDataDelivery-v3a0ext");
-   stat = asn1PE_UMTS_AssistanceDataDelivery_v3a0ext(ctx, &pvalue->assistanceDataDelivery_v3a0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* laterNonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      stat = asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AssistanceDataDelivery_r3(rtxContext* ctx, const AssistanceDataDelivery_r3* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* assistanceDataDelivery-r3 */
-   rtxCtxtPushElemName(ctx, "assistanceDataDelivery-r3");
-   stat = asn1PE_UMTS_AssistanceDataDelivery_r3_IEs(ctx, &pvalue->assistanceDataDelivery_r3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v3a0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v3a0NonCriticalExtensions");
-      stat = asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AssistanceDataDelivery_later_than_r3_criticalExtensions(rtxContext* ctx, const AssistanceDataDelivery_later_than_r3_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_AssistanceDataDelivery_later_than_r3(rtxContext* ctx, const AssistanceDataDelivery_later_than_r3* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* criticalExtensions */
-   rtxCtxtPushElemName(ctx, "criticalExtensions");
-   stat = asn1PE_UMTS_AssistanceDataDelivery_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_AssistanceDataDelivery(rtxContext* ctx, const AssistanceDataDelivery* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "AssistanceDataDelivery");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "r3");
-         if (pvalue->u.r3 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_AssistanceDataDelivery_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "complete", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerSetup_r6_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "later-than-r3");
-         if (pvalue->u.later_than_r3 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_AssistanceDataDelivery_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.dummy == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dummy", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerSetup_r6_IEs_specificationMode_dummy(ctx, pvalue->u.dummy);
+         RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_CellChangeOrderFromUTRAN_r3_IEs(rtxContext* ctx, const CellChangeOrderFromUTRAN_r3_IEs* pvalue)
+int asn1PE_UMTS_RadioBearerSetup_r6_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_r6_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellChangeOrderFromUTRAN-r3-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerSetup-r6-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dummy */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 0), 20);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-r6-IEs");
+   /* integrityProtectionModeInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerSetup-r6-IEs");
+   }
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerSetup-r6-IEs");
    }
    /* activationTime */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rab-InformationList */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "rab-InformationList");
-      stat = asn1PE_UMTS_RAB_InformationList(ctx, &pvalue->rab_InformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerSetup-r6-IEs");
    }
-   /* interRAT-TargetCellDescription */
-   rtxCtxtPushElemName(ctx, "interRAT-TargetCellDescription");
-   stat = asn1PE_UMTS_InterRAT_TargetCellDescription(ctx, &pvalue->interRAT_TargetCellDescription);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellChangeOrderFromUTRAN_v590ext_IEs_geran_SystemInfoType(rtxContext* ctx, const CellChangeOrderFromUTRAN_v590ext_IEs_geran_SystemInfoType* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "sI");
-         if (pvalue->u.sI == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_GERAN_SystemInformation(ctx, pvalue->u.sI);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "pSI");
-         if (pvalue->u.pSI == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_GERAN_SystemInformation(ctx, pvalue->u.pSI);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
+   /* new-U-RNTI */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerSetup-r6-IEs");
    }
-   return 0;
-}
-
-int asn1PE_UMTS_CellChangeOrderFromUTRAN_v590ext_IEs(rtxContext* ctx, const CellChangeOrderFromUTRAN_v590ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellChangeOrderFromUTRAN-v590ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* geran-SystemInfoType */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "geran-SystemInfoType");
-      stat = asn1PE_UMTS_CellChangeOrderFromUTRAN_v590ext_IEs_geran_SystemInfoType(ctx, &pvalue->geran_SystemInfoType);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   /* new-C-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerSetup-r6-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* ctx, const CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellChangeOrderFromUTRAN-v590ext */
-   rtxCtxtPushElemName(ctx, "cellChangeOrderFromUTRAN-v590ext");
-   stat = asn1PE_UMTS_CellChangeOrderFromUTRAN_v590ext_IEs(ctx, &pvalue->cellChangeOrderFromUTRAN_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   /* new-DSCH-RNTI */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerSetup-r6-IEs");
    }
-   return 0;
-}
-
-int asn1PE_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions(rtxContext* ctx, const CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* cellChangeOrderFromUTRAN-r3-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellChangeOrderFromUTRAN-r3-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->cellChangeOrderFromUTRAN_r3_add_ext.numbits, pvalue->cellChangeOrderFromUTRAN_r3_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   /* new-H-RNTI */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerSetup-r6-IEs");
    }
-   /* v590NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtensions");
-      stat = asn1PE_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   /* newPrimary-E-RNTI */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RadioBearerSetup-r6-IEs");
    }
-   return 0;
-}
-
-int asn1PE_UMTS_CellChangeOrderFromUTRAN_r3(rtxContext* ctx, const CellChangeOrderFromUTRAN_r3* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellChangeOrderFromUTRAN-IEs */
-   rtxCtxtPushElemName(ctx, "cellChangeOrderFromUTRAN-IEs");
-   stat = asn1PE_UMTS_CellChangeOrderFromUTRAN_r3_IEs(ctx, &pvalue->cellChangeOrderFromUTRAN_IEs);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* laterNonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      stat = asn1PE_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   /* newSecondary-E-RNTI */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RadioBearerSetup-r6-IEs");
    }
-   return 0;
-}
-
-int asn1PE_UMTS_CellChangeOrderFromUTRAN_later_than_r3_criticalExtensions(rtxContext* ctx, const CellChangeOrderFromUTRAN_later_than_r3_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_CellChangeOrderFromUTRAN_later_than_r3(rtxContext* ctx, const CellChangeOrderFromUTRAN_later_than_r3* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerSetup-r6-IEs");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* criticalExtensions */
-   rtxCtxtPushElemName(ctx, "criticalExtensions");
-   stat = asn1PE_UMTS_CellChangeOrderFromUTRAN_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellChangeOrderFromUTRAN(rtxContext* ctx, const CellChangeOrderFromUTRAN* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellChangeOrderFromUTRAN");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r3");
-         if (pvalue->u.r3 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellChangeOrderFromUTRAN_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "later-than-r3");
-         if (pvalue->u.later_than_r3 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellChangeOrderFromUTRAN_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellChangeOrderFromUTRANFailure_r3_IEs(rtxContext* ctx, const CellChangeOrderFromUTRANFailure_r3_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellChangeOrderFromUTRANFailure-r3-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dummy */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interRAT-ChangeFailureCause */
-   rtxCtxtPushElemName(ctx, "interRAT-ChangeFailureCause");
-   stat = asn1PE_UMTS_InterRAT_ChangeFailureCause(ctx, &pvalue->interRAT_ChangeFailureCause);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions(rtxContext* ctx, const CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* cellChangeOrderFromUTRANFailure-r3-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellChangeOrderFromUTRANFailure-r3-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->cellChangeOrderFromUTRANFailure_r3_add_ext.numbits, pvalue->cellChangeOrderFromUTRANFailure_r3_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellChangeOrderFromUTRANFailure_r3(rtxContext* ctx, const CellChangeOrderFromUTRANFailure_r3* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellChangeOrderFromUTRANFailure-r3 */
-   rtxCtxtPushElemName(ctx, "cellChangeOrderFromUTRANFailure-r3");
-   stat = asn1PE_UMTS_CellChangeOrderFromUTRANFailure_r3_IEs(ctx, &pvalue->cellChangeOrderFromUTRANFailure_r3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* laterNonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      stat = asn1PE_UMTS_CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellChangeOrderFromUTRANFailure_dummy_criticalExtensions(rtxContext* ctx, const CellChangeOrderFromUTRANFailure_dummy_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_CellChangeOrderFromUTRANFailure_dummy(rtxContext* ctx, const CellChangeOrderFromUTRANFailure_dummy* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* criticalExtensions */
-   rtxCtxtPushElemName(ctx, "criticalExtensions");
-   stat = asn1PE_UMTS_CellChangeOrderFromUTRANFailure_dummy_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellChangeOrderFromUTRANFailure(rtxContext* ctx, const CellChangeOrderFromUTRANFailure* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellChangeOrderFromUTRANFailure");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r3");
-         if (pvalue->u.r3 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellChangeOrderFromUTRANFailure_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "dummy");
-         if (pvalue->u.dummy == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellChangeOrderFromUTRANFailure_dummy(ctx, pvalue->u.dummy);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdate_v7e0ext_IEs_supportForTwoDRXSchemesInPCH(rtxContext* ctx, CellUpdate_v7e0ext_IEs_supportForTwoDRXSchemesInPCH value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdate_v7e0ext_IEs(rtxContext* ctx, const CellUpdate_v7e0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellUpdate-v7e0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* supportForTwoDRXSchemesInPCH */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "supportForTwoDRXSchemesInPCH");
-      if (pvalue->supportForTwoDRXSchemesInPCH > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportForTwoDRXSchemesInPCH);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerSetup-r6-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (pvalue->m & 0x200u) {
+      if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
+         rtxErrAddStrParm(ctx, "UTRAN-DRX-CycleLengthCoefficient");
+         rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerSetup-r6-IEs");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->supportForTwoDRXSchemesInPCH, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RadioBearerSetup-r6-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
+   /* ura-Identity */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerSetup-r6-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerSetup-r6-IEs");
+   }
+   /* specificationMode */
+   stat = asn1PE_UMTS_RadioBearerSetup_r6_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "RadioBearerSetup-r6-IEs");
+   /* frequencyInfo */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerSetup-r6-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x2000u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerSetup-r6-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerSetup-r6-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (pvalue->m & 0x4000u) {
+      stat = asn1PE_UMTS_UL_DPCH_Info_r6(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RadioBearerSetup-r6-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (pvalue->m & 0x8000u) {
+      stat = asn1PE_UMTS_UL_EDCH_Information_r6(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerSetup-r6-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r6(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerSetup-r6-IEs");
+   }
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_DL_CommonInformation_r6(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerSetup-r6-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_r6(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerSetup-r6-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (pvalue->m & 0x80000u) {
+      if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerSetup-r6-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
+      RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerSetup-r6-IEs");
+   }
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdate_v7g0ext_IEs(rtxContext* ctx, const CellUpdate_v7g0ext_IEs* pvalue)
+int asn1PE_UMTS_RadioBearerSetup_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_v6b0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellUpdate-v7g0ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerSetup-v6b0ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measuredResultsOnRACH-v7g0ext */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v6b0ext-IEs");
+   /* dl-InformationPerRL-List-v6b0ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measuredResultsOnRACH-v7g0ext");
-      stat = asn1PE_UMTS_MeasuredResultsOnRACH_v7g0ext(ctx, &pvalue->measuredResultsOnRACH_v7g0ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_v6b0ext(ctx, &pvalue->dl_InformationPerRL_List_v6b0ext);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List-v6b0ext", -1, "RadioBearerSetup-v6b0ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
+   /* rab-InformationSetupListExt */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RAB_InformationSetupList_v6b0ext(ctx, &pvalue->rab_InformationSetupListExt);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupListExt", -1, "RadioBearerSetup-v6b0ext-IEs");
+   }
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions_nonCriticalExtensions* pvalue)
+int asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions(rtxContext* ctx, const CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdate-v7g0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdate-v7g0ext");
-   stat = asn1PE_UMTS_CellUpdate_v7g0ext_IEs(ctx, &pvalue->cellUpdate_v7g0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v6b0ext */
+   stat = asn1PE_UMTS_RadioBearerSetup_v6b0ext_IEs(ctx, &pvalue->radioBearerSetup_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v6b0ext", -1, 0);
    /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdate_r3_add_ext_IEs(rtxContext* ctx, const CellUpdate_r3_add_ext_IEs* pvalue)
+int asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellUpdate-r3-add-ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-r6 */
+   stat = asn1PE_UMTS_RadioBearerSetup_r6_IEs(ctx, &pvalue->radioBearerSetup_r6);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-r6", -1, 0);
+   /* radioBearerSetup-r6-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->radioBearerSetup_r6_add_ext.numbits, pvalue->radioBearerSetup_r6_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "radioBearerSetup-r6-add-ext", -1, 0);
+   }
+   /* v6b0NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_r7_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_r7_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 0), 13);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* srb-InformationSetupList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRB_InformationSetupList_r7(ctx, &pvalue->srb_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, 0);
+   }
+   /* rab-InformationSetupList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RAB_InformationSetupList_r7(ctx, &pvalue->rab_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, 0);
+   }
+   /* rab-InformationReconfigList */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_RAB_InformationReconfigList(ctx, &pvalue->rab_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, 0);
+   }
+   /* rb-InformationReconfigList */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_RB_InformationReconfigList_r7(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, 0);
+   }
+   /* rb-InformationAffectedList */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_RB_InformationAffectedList_r7(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, 0);
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, 0);
+   }
+   /* pdcp-ROHC-TargetMode */
+   if (pvalue->m & 0x40u) {
+      if (pvalue->pdcp_ROHC_TargetMode > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->pdcp_ROHC_TargetMode);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->pdcp_ROHC_TargetMode, 0, 1);
+      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, 0);
+   }
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
+   }
+   /* ul-deletedTransChInfoList */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, 0);
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList_r7(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
+   }
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
+   }
+   /* dl-DeletedTransChInfoList */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, 0);
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_r7_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_r7_IEs_specificationMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "complete", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerSetup_r7_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_r7_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_r7_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerSetup-r7-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 25) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 24) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 23) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 22) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 21) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 20) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 20) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 21) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 22) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 23) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 24) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 25) & 1u) << 0), 26);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-r7-IEs");
+   /* integrityProtectionModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* activationTime */
+   if (pvalue->m & 0x4u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* new-U-RNTI */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* new-C-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* new-H-RNTI */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerSetup-r7-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerSetup-r7-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   if (pvalue->m & 0x800u) {
+      stat = rtxEncBit(ctx, pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* specificationMode */
+   stat = asn1PE_UMTS_RadioBearerSetup_r7_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "RadioBearerSetup-r7-IEs");
+   /* frequencyInfo */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (pvalue->m & 0x4000u) {
+      stat = asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (pvalue->m & 0x8000u) {
+      stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* dtx-drx-Info */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* mimoParameters */
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_MIMO_Parameters_r7(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x80000u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerSetup-r7-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (pvalue->m & 0x100000u) {
+      stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (pvalue->m & 0x200000u) {
+      stat = asn1PE_UMTS_UL_EDCH_Information_r7(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x400000u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r7(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x800000u) {
+      stat = asn1PE_UMTS_DL_CommonInformation_r7(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x1000000u) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerSetup-r7-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (pvalue->m & 0x2000000u) {
+      if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerSetup-r7-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
+      RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerSetup-r7-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_v7d0ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_v7d0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerSetup-v7d0ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdate-v7e0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdate-v7e0ext");
-   stat = asn1PE_UMTS_CellUpdate_v7e0ext_IEs(ctx, &pvalue->cellUpdate_v7e0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v7d0ext-IEs");
+   /* ul-EDCH-Information */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UL_EDCH_Information_ext(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerSetup-v7d0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_v7f0ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_v7f0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerSetup-v7f0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v7f0ext-IEs");
+   /* mimoParameters */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MIMO_Parameters_v7f0ext(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerSetup-v7f0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_v7g0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerSetup-v7g0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v7g0ext-IEs");
+   /* mimoParameters */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MIMO_Parameters_v7g0ext(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerSetup-v7g0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v7g0ext */
+   stat = asn1PE_UMTS_RadioBearerSetup_v7g0ext_IEs(ctx, &pvalue->radioBearerSetup_v7g0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v7g0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerSetup_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_r7_add_ext_IEs_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_r7_add_ext_IEs_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v7f0ext */
+   stat = asn1PE_UMTS_RadioBearerSetup_v7f0ext_IEs(ctx, &pvalue->radioBearerSetup_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v7f0ext", -1, 0);
    /* v7g0NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v7g0NonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RadioBearerSetup_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdate_v590ext(rtxContext* ctx, const CellUpdate_v590ext* pvalue)
+int asn1PE_UMTS_RadioBearerSetup_r7_add_ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_r7_add_ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellUpdate-v590ext");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerSetup-r7-add-ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* establishmentCause */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-r7-add-ext-IEs");
+   /* radioBearerSetup-v7d0ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "establishmentCause");
-      rtxCtxtPushTypeName(ctx, "EstablishmentCause");
-      if (pvalue->establishmentCause > 31) {
-         rtxErrAddUIntParm(ctx, pvalue->establishmentCause);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->establishmentCause, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RadioBearerSetup_v7d0ext_IEs(ctx, &pvalue->radioBearerSetup_v7d0ext);
+      RT_CHECK(ctx, stat, 0, "radioBearerSetup-v7d0ext", -1, "RadioBearerSetup-r7-add-ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdate_v690ext_IEs_trafficVolumeIndicator(rtxContext* ctx, CellUpdate_v690ext_IEs_trafficVolumeIndicator value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdate_v690ext_IEs_reconfigurationStatusIndicator(rtxContext* ctx, CellUpdate_v690ext_IEs_reconfigurationStatusIndicator value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdate_v690ext_IEs(rtxContext* ctx, const CellUpdate_v690ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellUpdate-v690ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateCause-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellUpdateCause-ext");
-      rtxCtxtPushTypeName(ctx, "CellUpdateCause-ext");
-      if (pvalue->cellUpdateCause_ext > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->cellUpdateCause_ext);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->cellUpdateCause_ext, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* trafficVolumeIndicator */
+   /* v7f0NonCriticalExtensions */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "trafficVolumeIndicator");
-      if (pvalue->trafficVolumeIndicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->trafficVolumeIndicator);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->trafficVolumeIndicator, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RadioBearerSetup_r7_add_ext_IEs_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, "RadioBearerSetup-r7-add-ext-IEs");
    }
-   /* measuredResultsOnRACHinterFreq */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "measuredResultsOnRACHinterFreq");
-      stat = asn1PE_UMTS_MeasuredResultsOnRACHinterFreq(ctx, &pvalue->measuredResultsOnRACHinterFreq);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* reconfigurationStatusIndicator */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "reconfigurationStatusIndicator");
-      if (pvalue->reconfigurationStatusIndicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->reconfigurationStatusIndicator);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->reconfigurationStatusIndicator, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdate_v6b0ext_IEs(rtxContext* ctx, const CellUpdate_v6b0ext_IEs* pvalue)
+int asn1PE_UMTS_RadioBearerSetup_v780ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_v780ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellUpdate-v6b0ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerSetup-v780ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* mbmsSelectedServices */
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v780ext-IEs");
+   /* hs-DSCH-TBSizeTable */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "mbmsSelectedServices");
-      stat = asn1PE_UMTS_MBMS_SelectedServicesShort(ctx, &pvalue->mbmsSelectedServices);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if (pvalue->hs_DSCH_TBSizeTable > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->hs_DSCH_TBSizeTable);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "RadioBearerSetup-v780ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->hs_DSCH_TBSizeTable, 0, 0);
+      RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "RadioBearerSetup-v780ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdate_v770ext_IEs_csCallType(rtxContext* ctx, CellUpdate_v770ext_IEs_csCallType value)
+int asn1PE_UMTS_RadioBearerSetup_v820ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_v820ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerSetup-v820ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v820ext-IEs");
+   /* rab-InformationSetupList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RAB_InformationSetupList_v820ext(ctx, &pvalue->rab_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, "RadioBearerSetup-v820ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v820ext */
+   stat = asn1PE_UMTS_RadioBearerSetup_v820ext_IEs(ctx, &pvalue->radioBearerSetup_v820ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v820ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v780ext */
+   stat = asn1PE_UMTS_RadioBearerSetup_v780ext_IEs(ctx, &pvalue->radioBearerSetup_v780ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v780ext", -1, 0);
+   /* v820NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions(ctx, &pvalue->v820NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v820NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-r7 */
+   stat = asn1PE_UMTS_RadioBearerSetup_r7_IEs(ctx, &pvalue->radioBearerSetup_r7);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-r7", -1, 0);
+   /* radioBearerSetup-r7-add-ext */
+   if (pvalue->m & 0x1u) {
+      {
+         rtxContext outer;
+         const uint8_t* data;
+         uint32_t len;
+         rtxCopyContext(&outer, ctx);
+         stat = rtxInitContextBuffer(ctx, 0, 0);
+         RT_CHECK(ctx, stat, 0, "radioBearerSetup-r7-add-ext", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerSetup_r7_add_ext_IEs(ctx, &pvalue->radioBearerSetup_r7_add_ext);
+         RT_CHECK(ctx, stat, 0, "radioBearerSetup-r7-add-ext", -1, 0);
+         data = ctx->buffer_data;
+         len = ctx->byte_index * 8 + 8 - ctx->bit_offset;
+         rtxCopyContext(ctx, &outer);
+         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+         stat = pe_BitString(ctx, len, data);
+         rtxMemHeapFreePtr(ctx, (void*)data);
+         RT_CHECK(ctx, stat, 0, "radioBearerSetup-r7-add-ext", -1, 0);
+      }
+   }
+   /* v780NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v780NonCriticalExtensions", -1, 0);
+   }
+   return stat;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_r8_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_r8_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerSetup-r8-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 31) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 30) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 29) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 28) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 27) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 26) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 25) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 24) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 23) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 22) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 21) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 20) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 20) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 21) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 22) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 23) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 24) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 25) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 26) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 27) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 28) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 29) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 30) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 31) & 1u) << 0), 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-r8-IEs");
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 32) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 33) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 34) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 35) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 36) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 37) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 38) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 39) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 40) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 41) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 42) & 1u) << 0), 11);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-r8-IEs");
+   /* integrityProtectionModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* sr-vcc-Info */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_SR_VCC_Info(ctx, &pvalue->sr_vcc_Info);
+      RT_CHECK(ctx, stat, 0, "sr-vcc-Info", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* activationTime */
+   if (pvalue->m & 0x8u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* new-U-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* new-C-RNTI */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* new-H-RNTI */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerSetup-r8-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerSetup-r8-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   if (pvalue->m & 0x1000u) {
+      stat = rtxEncBit(ctx, pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* srb-InformationSetupList */
+   if (pvalue->m & 0x4000u) {
+      stat = asn1PE_UMTS_SRB_InformationSetupList_r8(ctx, &pvalue->srb_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* rab-InformationSetupList */
+   if (pvalue->m & 0x8000u) {
+      stat = asn1PE_UMTS_RAB_InformationSetupList_r8(ctx, &pvalue->rab_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* rab-InformationReconfigList */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_RAB_InformationReconfigList_r8(ctx, &pvalue->rab_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* rb-InformationReconfigList */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_RB_InformationReconfigList_r8(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_RB_InformationAffectedList_r8(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (pvalue->m & 0x80000u) {
+      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* pdcp-ROHC-TargetMode */
+   if (pvalue->m & 0x100000u) {
+      if (pvalue->pdcp_ROHC_TargetMode > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->pdcp_ROHC_TargetMode);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "RadioBearerSetup-r8-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->pdcp_ROHC_TargetMode, 0, 1);
+      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x200000u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (pvalue->m & 0x400000u) {
+      stat = asn1PE_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (pvalue->m & 0x800000u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x1000000u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (pvalue->m & 0x2000000u) {
+      stat = asn1PE_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (pvalue->m & 0x4000000u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x8000000u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (pvalue->m & 0x10000000u) {
+      stat = asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (pvalue->m & 0x20000000u) {
+      stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* dtx-drx-Info */
+   if (pvalue->m & 0x40000000u) {
+      stat = asn1PE_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (pvalue->m & 0x80000000u) {
+      stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* mimoParameters */
+   if (pvalue->m & 0x100000000ull) {
+      stat = asn1PE_UMTS_MIMO_Parameters_r8(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x200000000ull) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerSetup-r8-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (pvalue->m & 0x400000000ull) {
+      stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (pvalue->m & 0x800000000ull) {
+      stat = asn1PE_UMTS_UL_EDCH_Information_r8(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x1000000000ull) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x2000000000ull) {
+      stat = asn1PE_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x4000000000ull) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* dl-SecondaryCellInfoFDD */
+   if (pvalue->m & 0x8000000000ull) {
+      stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD(ctx, &pvalue->dl_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* controlChannelDRXInfo-TDD128 */
+   if (pvalue->m & 0x10000000000ull) {
+      stat = asn1PE_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
+      RT_CHECK(ctx, stat, 0, "controlChannelDRXInfo-TDD128", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* sps-Information-TDD128 */
+   if (pvalue->m & 0x20000000000ull) {
+      stat = asn1PE_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
+      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "RadioBearerSetup-r8-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (pvalue->m & 0x40000000000ull) {
+      if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerSetup-r8-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
+      RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerSetup-r8-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_v890ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_v890ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerSetup-v890ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v890ext-IEs");
+   /* dl-SecondaryCellInfoFDD-v890ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD_v890ext(ctx, &pvalue->dl_SecondaryCellInfoFDD_v890ext);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD-v890ext", -1, "RadioBearerSetup-v890ext-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_ext(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerSetup-v890ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_v8a0ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_v8a0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerSetup-v8a0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-v8a0ext-IEs");
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_ext2(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerSetup-v8a0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v8a0ext */
+   stat = asn1PE_UMTS_RadioBearerSetup_v8a0ext_IEs(ctx, &pvalue->radioBearerSetup_v8a0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v8a0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v7g0ext */
+   stat = asn1PE_UMTS_RadioBearerSetup_v7g0ext_IEs(ctx, &pvalue->radioBearerSetup_v7g0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v7g0ext", -1, 0);
+   /* v8a0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v8a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v890ext */
+   stat = asn1PE_UMTS_RadioBearerSetup_v890ext_IEs(ctx, &pvalue->radioBearerSetup_v890ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v890ext", -1, 0);
+   /* v7g0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v7f0ext */
+   stat = asn1PE_UMTS_RadioBearerSetup_v7f0ext_IEs(ctx, &pvalue->radioBearerSetup_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v7f0ext", -1, 0);
+   /* v890NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-v7d0ext */
+   stat = asn1PE_UMTS_RadioBearerSetup_v7d0ext_IEs(ctx, &pvalue->radioBearerSetup_v7d0ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-v7d0ext", -1, 0);
+   /* v7f0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-r8 */
+   stat = asn1PE_UMTS_RadioBearerSetup_r8_IEs(ctx, &pvalue->radioBearerSetup_r8);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-r8", -1, 0);
+   /* radioBearerSetup-r8-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->radioBearerSetup_r8_add_ext.numbits, pvalue->radioBearerSetup_r8_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "radioBearerSetup-r8-add-ext", -1, 0);
+   }
+   /* v7d0NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_r9_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_r9_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerSetup-r9-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 31) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 30) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 29) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 28) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 27) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 26) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 25) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 24) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 23) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 22) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 21) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 20) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 20) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 21) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 22) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 23) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 24) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 25) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 26) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 27) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 28) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 29) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 30) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 31) & 1u) << 0), 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-r9-IEs");
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 32) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 33) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 34) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 35) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 36) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 37) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 38) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 39) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 40) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 41) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 42) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 43) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 44) & 1u) << 0), 13);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetup-r9-IEs");
+   /* integrityProtectionModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* sr-vcc-Info */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_SR_VCC_Info(ctx, &pvalue->sr_vcc_Info);
+      RT_CHECK(ctx, stat, 0, "sr-vcc-Info", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* activationTime */
+   if (pvalue->m & 0x8u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* new-U-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* new-C-RNTI */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* new-H-RNTI */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerSetup-r9-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RadioBearerSetup-r9-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   if (pvalue->m & 0x1000u) {
+      stat = rtxEncBit(ctx, pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* srb-InformationSetupList */
+   if (pvalue->m & 0x4000u) {
+      stat = asn1PE_UMTS_SRB_InformationSetupList_r8(ctx, &pvalue->srb_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* rab-InformationSetupList */
+   if (pvalue->m & 0x8000u) {
+      stat = asn1PE_UMTS_RAB_InformationSetupList_r8(ctx, &pvalue->rab_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* rab-InformationReconfigList */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_RAB_InformationReconfigList_r8(ctx, &pvalue->rab_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationReconfigList", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* rb-InformationReconfigList */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_RB_InformationReconfigList_r8(ctx, &pvalue->rb_InformationReconfigList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* rb-InformationAffectedList */
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_RB_InformationAffectedList_r8(ctx, &pvalue->rb_InformationAffectedList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (pvalue->m & 0x80000u) {
+      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* pdcp-ROHC-TargetMode */
+   if (pvalue->m & 0x100000u) {
+      if (pvalue->pdcp_ROHC_TargetMode > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->pdcp_ROHC_TargetMode);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "RadioBearerSetup-r9-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->pdcp_ROHC_TargetMode, 0, 1);
+      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x200000u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* ul-deletedTransChInfoList */
+   if (pvalue->m & 0x400000u) {
+      stat = asn1PE_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (pvalue->m & 0x800000u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x1000000u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* dl-DeletedTransChInfoList */
+   if (pvalue->m & 0x2000000u) {
+      stat = asn1PE_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (pvalue->m & 0x4000000u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r9(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x8000000u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (pvalue->m & 0x10000000u) {
+      stat = asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (pvalue->m & 0x20000000u) {
+      stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* dtx-drx-Info */
+   if (pvalue->m & 0x40000000u) {
+      stat = asn1PE_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (pvalue->m & 0x80000000u) {
+      stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* mimoParameters */
+   if (pvalue->m & 0x100000000ull) {
+      stat = asn1PE_UMTS_MIMO_Parameters_r9(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x200000000ull) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerSetup-r9-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (pvalue->m & 0x400000000ull) {
+      stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (pvalue->m & 0x800000000ull) {
+      stat = asn1PE_UMTS_UL_EDCH_Information_r9(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* ul-SecondaryCellInfoFDD */
+   if (pvalue->m & 0x1000000000ull) {
+      stat = asn1PE_UMTS_UL_SecondaryCellInfoFDD(ctx, &pvalue->ul_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "ul-SecondaryCellInfoFDD", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x2000000000ull) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x4000000000ull) {
+      stat = asn1PE_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x8000000000ull) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* dl-SecondaryCellInfoFDD */
+   if (pvalue->m & 0x10000000000ull) {
+      stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD_r9(ctx, &pvalue->dl_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* controlChannelDRXInfo-TDD128 */
+   if (pvalue->m & 0x20000000000ull) {
+      stat = asn1PE_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
+      RT_CHECK(ctx, stat, 0, "controlChannelDRXInfo-TDD128", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* sps-Information-TDD128 */
+   if (pvalue->m & 0x40000000000ull) {
+      stat = asn1PE_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
+      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (pvalue->m & 0x80000000000ull) {
+      if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerSetup-r9-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
+      RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "RadioBearerSetup-r9-IEs");
+   }
+   /* cellDCHMeasOccasionInfo-TDD128 */
+   if (pvalue->m & 0x100000000000ull) {
+      stat = asn1PE_UMTS_CellDCHMeasOccasionInfo_TDD128_r9(ctx, &pvalue->cellDCHMeasOccasionInfo_TDD128);
+      RT_CHECK(ctx, stat, 0, "cellDCHMeasOccasionInfo-TDD128", -1, "RadioBearerSetup-r9-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetup-r9 */
+   stat = asn1PE_UMTS_RadioBearerSetup_r9_IEs(ctx, &pvalue->radioBearerSetup_r9);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetup-r9", -1, 0);
+   /* radioBearerSetup-r9-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->radioBearerSetup_r9_add_ext.numbits, pvalue->radioBearerSetup_r9_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "radioBearerSetup-r9-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r9 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r9", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
+         RT_CHECK(ctx, stat, 0, "r9", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r8 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r8", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
+         RT_CHECK(ctx, stat, 0, "r8", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r7", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
+         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r6 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r6", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(ctx, pvalue->u.r6);
+         RT_CHECK(ctx, stat, 0, "r6", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r5", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_r5(ctx, pvalue->u.r5);
+         RT_CHECK(ctx, stat, 0, "r5", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r4", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
+         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup_later_than_r3(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PE_UMTS_RadioBearerSetup_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetup(rtxContext* RT_RESTRICT ctx, const RadioBearerSetup* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerSetup");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "RadioBearerSetup");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RadioBearerSetup");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r3", -1, "RadioBearerSetup");
+         stat = asn1PE_UMTS_RadioBearerSetup_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "RadioBearerSetup");
+         break;
+      case 2:
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "later-than-r3", -1, "RadioBearerSetup");
+         stat = asn1PE_UMTS_RadioBearerSetup_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "RadioBearerSetup");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetupComplete_v770ext_IEs_deferredMeasurementControlReading(rtxContext* RT_RESTRICT ctx, RadioBearerSetupComplete_v770ext_IEs_deferredMeasurementControlReading value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetupComplete_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const RadioBearerSetupComplete_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerSetupComplete-v770ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetupComplete-v770ext-IEs");
+   /* ext-UL-TimingAdvance */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_EXT_UL_TimingAdvance(ctx, &pvalue->ext_UL_TimingAdvance);
+      RT_CHECK(ctx, stat, 0, "ext-UL-TimingAdvance", -1, "RadioBearerSetupComplete-v770ext-IEs");
+   }
+   /* deferredMeasurementControlReading */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->deferredMeasurementControlReading > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->deferredMeasurementControlReading);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "deferredMeasurementControlReading", -1, "RadioBearerSetupComplete-v770ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->deferredMeasurementControlReading, 0, 0);
+      RT_CHECK(ctx, stat, 0, "deferredMeasurementControlReading", -1, "RadioBearerSetupComplete-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetupComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetupComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetupComplete_laterNonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetupComplete_laterNonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetupComplete-v770ext */
+   stat = asn1PE_UMTS_RadioBearerSetupComplete_v770ext_IEs(ctx, &pvalue->radioBearerSetupComplete_v770ext);
+   RT_CHECK(ctx, stat, 0, "radioBearerSetupComplete-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RadioBearerSetupComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetupComplete_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetupComplete_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetupComplete-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->radioBearerSetupComplete_r3_add_ext.numbits, pvalue->radioBearerSetupComplete_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "radioBearerSetupComplete-r3-add-ext", -1, 0);
+   }
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RadioBearerSetupComplete_laterNonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetupComplete(rtxContext* RT_RESTRICT ctx, const RadioBearerSetupComplete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerSetupComplete");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 0), 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetupComplete");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RadioBearerSetupComplete");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RadioBearerSetupComplete");
+   /* ul-IntegProtActivationInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtActivationInfo(ctx, &pvalue->ul_IntegProtActivationInfo);
+      RT_CHECK(ctx, stat, 0, "ul-IntegProtActivationInfo", -1, "RadioBearerSetupComplete");
+   }
+   /* ul-TimingAdvance */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->ul_TimingAdvance > 63u) {
+         rtxErrAddStrParm(ctx, "UL-TimingAdvance");
+         rtxErrAddUIntParm(ctx, pvalue->ul_TimingAdvance);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-TimingAdvance", "ul-TimingAdvance", -1, "RadioBearerSetupComplete");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ul_TimingAdvance, 0, 63);
+      RT_CHECK(ctx, stat, "UL-TimingAdvance", "ul-TimingAdvance", -1, "RadioBearerSetupComplete");
+   }
+   /* start-Value */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_START_Value(ctx, pvalue->start_Value);
+      RT_CHECK(ctx, stat, 0, "start-Value", -1, "RadioBearerSetupComplete");
+   }
+   /* count-C-ActivationTime */
+   if (pvalue->m & 0x8u) {
+      stat = pe_ConsUInt64(ctx, pvalue->count_C_ActivationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "count-C-ActivationTime", -1, "RadioBearerSetupComplete");
+   }
+   /* dummy */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "RadioBearerSetupComplete");
+   }
+   /* ul-CounterSynchronisationInfo */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_UL_CounterSynchronisationInfo(ctx, &pvalue->ul_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CounterSynchronisationInfo", -1, "RadioBearerSetupComplete");
+   }
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_RadioBearerSetupComplete_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "RadioBearerSetupComplete");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetupFailure_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetupFailure_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetupFailure_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RadioBearerSetupFailure_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* radioBearerSetupFailure-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->radioBearerSetupFailure_r3_add_ext.numbits, pvalue->radioBearerSetupFailure_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "radioBearerSetupFailure-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RadioBearerSetupFailure_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RadioBearerSetupFailure(rtxContext* RT_RESTRICT ctx, const RadioBearerSetupFailure* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioBearerSetupFailure");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RadioBearerSetupFailure");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RadioBearerSetupFailure");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RadioBearerSetupFailure");
+   /* failureCause */
+   stat = asn1PE_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
+   RT_CHECK(ctx, stat, 0, "failureCause", -1, "RadioBearerSetupFailure");
+   /* potentiallySuccesfulBearerList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RB_IdentityList(ctx, &pvalue->potentiallySuccesfulBearerList);
+      RT_CHECK(ctx, stat, 0, "potentiallySuccesfulBearerList", -1, "RadioBearerSetupFailure");
+   }
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RadioBearerSetupFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "RadioBearerSetupFailure");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionReject_r3_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionReject_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionReject-r3-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionReject-r3-IEs");
+   /* initialUE-Identity */
+   stat = asn1PE_UMTS_InitialUE_Identity(ctx, &pvalue->initialUE_Identity);
+   RT_CHECK(ctx, stat, 0, "initialUE-Identity", -1, "RRCConnectionReject-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RRCConnectionReject-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RRCConnectionReject-r3-IEs");
+   /* rejectionCause */
+   if (pvalue->rejectionCause > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->rejectionCause);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RejectionCause", "rejectionCause", -1, "RRCConnectionReject-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rejectionCause, 0, 1);
+   RT_CHECK(ctx, stat, "RejectionCause", "rejectionCause", -1, "RRCConnectionReject-r3-IEs");
+   /* waitTime */
+   if ((uint64_t)pvalue->waitTime > 15u) {
+      rtxErrAddStrParm(ctx, "WaitTime");
+      rtxErrAddUIntParm(ctx, pvalue->waitTime);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "WaitTime", "waitTime", -1, "RRCConnectionReject-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->waitTime, 0, 15);
+   RT_CHECK(ctx, stat, "WaitTime", "waitTime", -1, "RRCConnectionReject-r3-IEs");
+   /* redirectionInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RedirectionInfo(ctx, &pvalue->redirectionInfo);
+      RT_CHECK(ctx, stat, 0, "redirectionInfo", -1, "RRCConnectionReject-r3-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionReject_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionReject_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionReject-v690ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionReject-v690ext-IEs");
+   /* redirectionInfo-v690ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_GSM_TargetCellInfoList(ctx, &pvalue->redirectionInfo_v690ext);
+      RT_CHECK(ctx, stat, 0, "redirectionInfo-v690ext", -1, "RRCConnectionReject-v690ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionReject_v6f0ext_IEs_countingCompletion(rtxContext* RT_RESTRICT ctx, RRCConnectionReject_v6f0ext_IEs_countingCompletion value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionReject_v6f0ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionReject_v6f0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionReject-v6f0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionReject-v6f0ext-IEs");
+   /* countingCompletion */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->countingCompletion > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->countingCompletion);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "countingCompletion", -1, "RRCConnectionReject-v6f0ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->countingCompletion, 0, 0);
+      RT_CHECK(ctx, stat, 0, "countingCompletion", -1, "RRCConnectionReject-v6f0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionReject_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionReject_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionReject-v860ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionReject-v860ext-IEs");
+   /* redirectionInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RedirectionInfo_v860ext(ctx, &pvalue->redirectionInfo);
+      RT_CHECK(ctx, stat, 0, "redirectionInfo", -1, "RRCConnectionReject-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionReject_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v6f0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionReject_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v6f0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionReject_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v6f0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionReject_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v6f0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionReject-v860ext */
+   stat = asn1PE_UMTS_RRCConnectionReject_v860ext_IEs(ctx, &pvalue->rrcConnectionReject_v860ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionReject-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionReject_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v6f0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionReject_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v6f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionReject_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v6f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionReject-v6f0ext */
+   stat = asn1PE_UMTS_RRCConnectionReject_v6f0ext_IEs(ctx, &pvalue->rrcConnectionReject_v6f0ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionReject-v6f0ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionReject_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v6f0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionReject_r3_laterNonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionReject_r3_laterNonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionReject-v690ext */
+   stat = asn1PE_UMTS_RRCConnectionReject_v690ext_IEs(ctx, &pvalue->rrcConnectionReject_v690ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionReject-v690ext", -1, 0);
+   /* v6f0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionReject_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v6f0NonCriticalExtensions(ctx, &pvalue->v6f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6f0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionReject_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionReject_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionReject-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->rrcConnectionReject_r3_add_ext.numbits, pvalue->rrcConnectionReject_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "rrcConnectionReject-r3-add-ext", -1, 0);
+   }
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RRCConnectionReject_r3_laterNonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionReject_r3(rtxContext* RT_RESTRICT ctx, const RRCConnectionReject_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionReject-r3 */
+   stat = asn1PE_UMTS_RRCConnectionReject_r3_IEs(ctx, &pvalue->rrcConnectionReject_r3);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionReject-r3", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionReject_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionReject_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionReject_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionReject_later_than_r3(rtxContext* RT_RESTRICT ctx, const RRCConnectionReject_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* initialUE-Identity */
+   stat = asn1PE_UMTS_InitialUE_Identity(ctx, &pvalue->initialUE_Identity);
+   RT_CHECK(ctx, stat, 0, "initialUE-Identity", -1, 0);
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PE_UMTS_RRCConnectionReject_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionReject(rtxContext* RT_RESTRICT ctx, const RRCConnectionReject* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionReject");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "RRCConnectionReject");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RRCConnectionReject");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r3", -1, "RRCConnectionReject");
+         stat = asn1PE_UMTS_RRCConnectionReject_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "RRCConnectionReject");
+         break;
+      case 2:
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "later-than-r3", -1, "RRCConnectionReject");
+         stat = asn1PE_UMTS_RRCConnectionReject_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "RRCConnectionReject");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_r3_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionRelease-r3-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRelease-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RRCConnectionRelease-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RRCConnectionRelease-r3-IEs");
+   /* n-308 */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->n_308 - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "N-308");
+         rtxErrAddUIntParm(ctx, pvalue->n_308);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "N-308", "n-308", -1, "RRCConnectionRelease-r3-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->n_308, 1, 8);
+      RT_CHECK(ctx, stat, "N-308", "n-308", -1, "RRCConnectionRelease-r3-IEs");
+   }
+   /* releaseCause */
+   if (pvalue->releaseCause > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->releaseCause);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ReleaseCause", "releaseCause", -1, "RRCConnectionRelease-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->releaseCause, 0, 7);
+   RT_CHECK(ctx, stat, "ReleaseCause", "releaseCause", -1, "RRCConnectionRelease-r3-IEs");
+   /* rplmn-information */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_Rplmn_Information(ctx, &pvalue->rplmn_information);
+      RT_CHECK(ctx, stat, 0, "rplmn-information", -1, "RRCConnectionRelease-r3-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionRelease-v690ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRelease-v690ext-IEs");
+   /* redirectionInfo-v690ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RedirectionInfo_r6(ctx, &pvalue->redirectionInfo_v690ext);
+      RT_CHECK(ctx, stat, 0, "redirectionInfo-v690ext", -1, "RRCConnectionRelease-v690ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionRelease-v770ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRelease-v770ext-IEs");
+   /* ueMobilityStateIndicator */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->ueMobilityStateIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->ueMobilityStateIndicator);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RRCConnectionRelease-v770ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ueMobilityStateIndicator, 0, 0);
+      RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RRCConnectionRelease-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionRelease-v860ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRelease-v860ext-IEs");
+   /* redirectionInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RedirectionInfo_v860ext(ctx, &pvalue->redirectionInfo);
+      RT_CHECK(ctx, stat, 0, "redirectionInfo", -1, "RRCConnectionRelease-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-v860ext */
+   stat = asn1PE_UMTS_RRCConnectionRelease_v860ext_IEs(ctx, &pvalue->rrcConnectionRelease_v860ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionRelease_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-v770ext */
+   stat = asn1PE_UMTS_RRCConnectionRelease_v770ext_IEs(ctx, &pvalue->rrcConnectionRelease_v770ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-v770ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionRelease_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_r3_laterNonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_r3_laterNonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-v690ext */
+   stat = asn1PE_UMTS_RRCConnectionRelease_v690ext_IEs(ctx, &pvalue->rrcConnectionRelease_v690ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionRelease_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->rrcConnectionRelease_r3_add_ext.numbits, pvalue->rrcConnectionRelease_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-r3-add-ext", -1, 0);
+   }
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RRCConnectionRelease_r3_laterNonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_r3(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-r3 */
+   stat = asn1PE_UMTS_RRCConnectionRelease_r3_IEs(ctx, &pvalue->rrcConnectionRelease_r3);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-r3", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionRelease_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_r4_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_r4_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionRelease-r4-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRelease-r4-IEs");
+   /* n-308 */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->n_308 - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "N-308");
+         rtxErrAddUIntParm(ctx, pvalue->n_308);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "N-308", "n-308", -1, "RRCConnectionRelease-r4-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->n_308, 1, 8);
+      RT_CHECK(ctx, stat, "N-308", "n-308", -1, "RRCConnectionRelease-r4-IEs");
+   }
+   /* releaseCause */
+   if (pvalue->releaseCause > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->releaseCause);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ReleaseCause", "releaseCause", -1, "RRCConnectionRelease-r4-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->releaseCause, 0, 7);
+   RT_CHECK(ctx, stat, "ReleaseCause", "releaseCause", -1, "RRCConnectionRelease-r4-IEs");
+   /* rplmn-information */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_Rplmn_Information_r4(ctx, &pvalue->rplmn_information);
+      RT_CHECK(ctx, stat, 0, "rplmn-information", -1, "RRCConnectionRelease-r4-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-v860ext */
+   stat = asn1PE_UMTS_RRCConnectionRelease_v860ext_IEs(ctx, &pvalue->rrcConnectionRelease_v860ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-v770ext */
+   stat = asn1PE_UMTS_RRCConnectionRelease_v770ext_IEs(ctx, &pvalue->rrcConnectionRelease_v770ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-v770ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-v690ext */
+   stat = asn1PE_UMTS_RRCConnectionRelease_v690ext_IEs(ctx, &pvalue->rrcConnectionRelease_v690ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-r4-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->rrcConnectionRelease_r4_add_ext.numbits, pvalue->rrcConnectionRelease_r4_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-r4-add-ext", -1, 0);
+   }
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-r4 */
+   stat = asn1PE_UMTS_RRCConnectionRelease_r4_IEs(ctx, &pvalue->rrcConnectionRelease_r4);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-r4", -1, 0);
+   /* v4d0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r4", -1, 0);
+         stat = asn1PE_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
+         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_later_than_r3(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PE_UMTS_RRCConnectionRelease_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionRelease");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "RRCConnectionRelease");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RRCConnectionRelease");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r3", -1, "RRCConnectionRelease");
+         stat = asn1PE_UMTS_RRCConnectionRelease_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "RRCConnectionRelease");
+         break;
+      case 2:
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "later-than-r3", -1, "RRCConnectionRelease");
+         stat = asn1PE_UMTS_RRCConnectionRelease_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "RRCConnectionRelease");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_CCCH_r3_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_CCCH_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionRelease-CCCH-r3-IEs");
+   /* u-RNTI */
+   stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, "RRCConnectionRelease-CCCH-r3-IEs");
+   /* rrcConnectionRelease */
+   stat = asn1PE_UMTS_RRCConnectionRelease_r3_IEs(ctx, &pvalue->rrcConnectionRelease);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease", -1, "RRCConnectionRelease-CCCH-r3-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_CCCH_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_CCCH_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionRelease-CCCH-v690ext-IEs");
+   stat = asn1PE_UMTS_RRCConnectionRelease_v690ext_IEs(ctx, pvalue);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRelease-CCCH-v690ext-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_CCCH_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_CCCH_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionRelease-CCCH-v860ext-IEs");
+   stat = asn1PE_UMTS_RRCConnectionRelease_v860ext_IEs(ctx, pvalue);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRelease-CCCH-v860ext-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-v860ext */
+   stat = asn1PE_UMTS_RRCConnectionRelease_CCCH_v860ext_IEs(ctx, &pvalue->rrcConnectionRelease_v860ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionRelease_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-v690ext */
+   stat = asn1PE_UMTS_RRCConnectionRelease_CCCH_v690ext_IEs(ctx, &pvalue->rrcConnectionRelease_v690ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-v690ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionRelease_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_CCCH_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_CCCH_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-CCCH-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->rrcConnectionRelease_CCCH_r3_add_ext.numbits, pvalue->rrcConnectionRelease_CCCH_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-CCCH-r3-add-ext", -1, 0);
+   }
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RRCConnectionRelease_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_CCCH_r3(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_CCCH_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-CCCH-r3 */
+   stat = asn1PE_UMTS_RRCConnectionRelease_CCCH_r3_IEs(ctx, &pvalue->rrcConnectionRelease_CCCH_r3);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-CCCH-r3", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionRelease_CCCH_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_CCCH_r4_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_CCCH_r4_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionRelease-CCCH-r4-IEs");
+   /* rrcConnectionRelease */
+   stat = asn1PE_UMTS_RRCConnectionRelease_r4_IEs(ctx, &pvalue->rrcConnectionRelease);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease", -1, "RRCConnectionRelease-CCCH-r4-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-v860ext */
+   stat = asn1PE_UMTS_RRCConnectionRelease_CCCH_v860ext_IEs(ctx, &pvalue->rrcConnectionRelease_v860ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-v690ext */
+   stat = asn1PE_UMTS_RRCConnectionRelease_CCCH_v690ext_IEs(ctx, &pvalue->rrcConnectionRelease_v690ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-v690ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-CCCH-r4-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->rrcConnectionRelease_CCCH_r4_add_ext.numbits, pvalue->rrcConnectionRelease_CCCH_r4_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-CCCH-r4-add-ext", -1, 0);
+   }
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-CCCH-r4 */
+   stat = asn1PE_UMTS_RRCConnectionRelease_CCCH_r4_IEs(ctx, &pvalue->rrcConnectionRelease_CCCH_r4);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-CCCH-r4", -1, 0);
+   /* v4d0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_groupIdentity(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_groupIdentity* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GroupReleaseInformation", (int32_t)i, 0);
+      stat = asn1PE_UMTS_GroupReleaseInformation(ctx, (const GroupReleaseInformation*)node->data);
+      RT_CHECK(ctx, stat, 0, "GroupReleaseInformation", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_CCCH_r5_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_CCCH_r5_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionRelease-CCCH-r5-IEs");
+   stat = asn1PE_UMTS_RRCConnectionRelease_CCCH_r4_IEs(ctx, pvalue);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRelease-CCCH-r5-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-v860ext */
+   stat = asn1PE_UMTS_RRCConnectionRelease_CCCH_v860ext_IEs(ctx, &pvalue->rrcConnectionRelease_v860ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-v690ext */
+   stat = asn1PE_UMTS_RRCConnectionRelease_CCCH_v690ext_IEs(ctx, &pvalue->rrcConnectionRelease_v690ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-v690ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRelease-CCCH-r5 */
+   stat = asn1PE_UMTS_RRCConnectionRelease_CCCH_r5_IEs(ctx, &pvalue->rrcConnectionRelease_CCCH_r5);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-CCCH-r5", -1, 0);
+   /* rrcConnectionRelease-CCCH-r5-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->rrcConnectionRelease_CCCH_r5_add_ext.numbits, pvalue->rrcConnectionRelease_CCCH_r5_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "rrcConnectionRelease-CCCH-r5-add-ext", -1, 0);
+   }
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r5", -1, 0);
+         stat = asn1PE_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r5(ctx, pvalue->u.r5);
+         RT_CHECK(ctx, stat, 0, "r5", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* groupIdentity */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_groupIdentity(ctx, &pvalue->groupIdentity);
+      RT_CHECK(ctx, stat, 0, "groupIdentity", -1, 0);
+   }
+   /* criticalExtensions */
+   stat = asn1PE_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r4", -1, 0);
+         stat = asn1PE_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
+         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_CCCH_later_than_r3(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_CCCH_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* u-RNTI */
+   stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, 0);
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PE_UMTS_RRCConnectionRelease_CCCH_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRelease_CCCH(rtxContext* RT_RESTRICT ctx, const RRCConnectionRelease_CCCH* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionRelease-CCCH");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "RRCConnectionRelease-CCCH");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RRCConnectionRelease-CCCH");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r3", -1, "RRCConnectionRelease-CCCH");
+         stat = asn1PE_UMTS_RRCConnectionRelease_CCCH_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "RRCConnectionRelease-CCCH");
+         break;
+      case 2:
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "later-than-r3", -1, "RRCConnectionRelease-CCCH");
+         stat = asn1PE_UMTS_RRCConnectionRelease_CCCH_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "RRCConnectionRelease-CCCH");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionReleaseComplete_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionReleaseComplete_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionReleaseComplete_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionReleaseComplete_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionReleaseComplete-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->rrcConnectionReleaseComplete_r3_add_ext.numbits, pvalue->rrcConnectionReleaseComplete_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "rrcConnectionReleaseComplete-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RRCConnectionReleaseComplete_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionReleaseComplete(rtxContext* RT_RESTRICT ctx, const RRCConnectionReleaseComplete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionReleaseComplete");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionReleaseComplete");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RRCConnectionReleaseComplete");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RRCConnectionReleaseComplete");
+   /* errorIndication */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_FailureCauseWithProtErr(ctx, &pvalue->errorIndication);
+      RT_CHECK(ctx, stat, 0, "errorIndication", -1, "RRCConnectionReleaseComplete");
+   }
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RRCConnectionReleaseComplete_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "RRCConnectionReleaseComplete");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRequest_v3d0ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionRequest_v3d0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionRequest-v3d0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRequest-v3d0ext-IEs");
+   /* uESpecificBehaviourInformation1idle */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UESpecificBehaviourInformation1idle(ctx, pvalue->uESpecificBehaviourInformation1idle);
+      RT_CHECK(ctx, stat, 0, "uESpecificBehaviourInformation1idle", -1, "RRCConnectionRequest-v3d0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRequest_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionRequest_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionRequest-v4b0ext-IEs");
+   /* accessStratumReleaseIndicator */
+   if (pvalue->accessStratumReleaseIndicator > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->accessStratumReleaseIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "AccessStratumReleaseIndicator", "accessStratumReleaseIndicator", -1, "RRCConnectionRequest-v4b0ext-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->accessStratumReleaseIndicator, 0, 15);
+   RT_CHECK(ctx, stat, "AccessStratumReleaseIndicator", "accessStratumReleaseIndicator", -1, "RRCConnectionRequest-v4b0ext-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRequest_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionRequest_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionRequest-v590ext-IEs");
+   /* predefinedConfigStatusInfo */
+   stat = rtxEncBit(ctx, pvalue->predefinedConfigStatusInfo);
+   RT_CHECK(ctx, stat, 0, "predefinedConfigStatusInfo", -1, "RRCConnectionRequest-v590ext-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRequest_v690ext_IEs_ueCapabilityIndication(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v690ext_IEs_ueCapabilityIndication value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRequest_v690ext_IEs_domainIndicator_cs_domain_csCallType(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v690ext_IEs_domainIndicator_cs_domain_csCallType value)
 {
    int stat = 0;
    if (value > 3) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdate_v770ext_IEs_hspdschReception_CellFach(rtxContext* ctx, CellUpdate_v770ext_IEs_hspdschReception_CellFach value)
+int asn1PE_UMTS_RRCConnectionRequest_v690ext_IEs_domainIndicator_cs_domain(rtxContext* RT_RESTRICT ctx, const RRCConnectionRequest_v690ext_IEs_domainIndicator_cs_domain* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* csCallType */
+   if (pvalue->csCallType > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->csCallType);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "csCallType", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->csCallType, 0, 3);
+   RT_CHECK(ctx, stat, 0, "csCallType", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRequest_v690ext_IEs_domainIndicator(rtxContext* RT_RESTRICT ctx, const RRCConnectionRequest_v690ext_IEs_domainIndicator* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.cs_domain == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cs-domain", -1, 0);
+         stat = asn1PE_UMTS_RRCConnectionRequest_v690ext_IEs_domainIndicator_cs_domain(ctx, pvalue->u.cs_domain);
+         RT_CHECK(ctx, stat, 0, "cs-domain", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRequest_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionRequest_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionRequest-v690ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRequest-v690ext-IEs");
+   /* ueCapabilityIndication */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->ueCapabilityIndication > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->ueCapabilityIndication);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "ueCapabilityIndication", -1, "RRCConnectionRequest-v690ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ueCapabilityIndication, 0, 1);
+      RT_CHECK(ctx, stat, 0, "ueCapabilityIndication", -1, "RRCConnectionRequest-v690ext-IEs");
+   }
+   /* measuredResultsOnRACHinterFreq */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_MeasuredResultsOnRACHinterFreq(ctx, &pvalue->measuredResultsOnRACHinterFreq);
+      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACHinterFreq", -1, "RRCConnectionRequest-v690ext-IEs");
+   }
+   /* domainIndicator */
+   stat = asn1PE_UMTS_RRCConnectionRequest_v690ext_IEs_domainIndicator(ctx, &pvalue->domainIndicator);
+   RT_CHECK(ctx, stat, 0, "domainIndicator", -1, "RRCConnectionRequest-v690ext-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRequest_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionRequest_v6b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionRequest-v6b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRequest-v6b0ext-IEs");
+   /* mbmsSelectedServices */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBMS_SelectedServicesShort(ctx, &pvalue->mbmsSelectedServices);
+      RT_CHECK(ctx, stat, 0, "mbmsSelectedServices", -1, "RRCConnectionRequest-v6b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRequest_v6e0ext_IEs_supportForFDPCH(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v6e0ext_IEs_supportForFDPCH value)
 {
    int stat = 0;
    if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdate_v770ext_IEs_capabilityChangeIndicator(rtxContext* ctx, CellUpdate_v770ext_IEs_capabilityChangeIndicator value)
+int asn1PE_UMTS_RRCConnectionRequest_v6e0ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionRequest_v6e0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionRequest-v6e0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRequest-v6e0ext-IEs");
+   /* supportForFDPCH */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportForFDPCH > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportForFDPCH);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportForFDPCH", -1, "RRCConnectionRequest-v6e0ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportForFDPCH, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportForFDPCH", -1, "RRCConnectionRequest-v6e0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRequest_v770ext_IEs_hspdschReception_CellFach(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v770ext_IEs_hspdschReception_CellFach value)
 {
    int stat = 0;
    if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdate_v770ext_IEs(rtxContext* ctx, const CellUpdate_v770ext_IEs* pvalue)
+int asn1PE_UMTS_RRCConnectionRequest_v770ext_IEs_mac_ehsSupport(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v770ext_IEs_mac_ehsSupport value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellUpdate-v770ext-IEs");
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRequest_v770ext_IEs_discontinuousDpcchTransmission(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v770ext_IEs_discontinuousDpcchTransmission value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRequest_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionRequest_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionRequest-v770ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* csCallType */
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRequest-v770ext-IEs");
+   /* ueMobilityStateIndicator */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "csCallType");
-      if (pvalue->csCallType > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->csCallType);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+      if (pvalue->ueMobilityStateIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->ueMobilityStateIndicator);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RRCConnectionRequest-v770ext-IEs");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->csCallType, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->ueMobilityStateIndicator, 0, 0);
+      RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "RRCConnectionRequest-v770ext-IEs");
    }
    /* hspdschReception-CellFach */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "hspdschReception-CellFach");
       if (pvalue->hspdschReception_CellFach > 0) {
          rtxErrAddUIntParm(ctx, pvalue->hspdschReception_CellFach);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "hspdschReception-CellFach", -1, "RRCConnectionRequest-v770ext-IEs");
       }
       stat = pe_ConsUInt64(ctx, pvalue->hspdschReception_CellFach, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "hspdschReception-CellFach", -1, "RRCConnectionRequest-v770ext-IEs");
    }
-   /* ueMobilityStateIndicator */
+   /* mac-ehsSupport */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "ueMobilityStateIndicator");
-      rtxCtxtPushTypeName(ctx, "High-MobilityDetected");
-      if (pvalue->ueMobilityStateIndicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->ueMobilityStateIndicator);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+      if (pvalue->mac_ehsSupport > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mac_ehsSupport);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "mac-ehsSupport", -1, "RRCConnectionRequest-v770ext-IEs");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->ueMobilityStateIndicator, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->mac_ehsSupport, 0, 0);
+      RT_CHECK(ctx, stat, 0, "mac-ehsSupport", -1, "RRCConnectionRequest-v770ext-IEs");
    }
-   /* capabilityChangeIndicator */
+   /* discontinuousDpcchTransmission */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "capabilityChangeIndicator");
-      if (pvalue->capabilityChangeIndicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->capabilityChangeIndicator);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+      if (pvalue->discontinuousDpcchTransmission > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->discontinuousDpcchTransmission);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "discontinuousDpcchTransmission", -1, "RRCConnectionRequest-v770ext-IEs");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->capabilityChangeIndicator, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->discontinuousDpcchTransmission, 0, 0);
+      RT_CHECK(ctx, stat, 0, "discontinuousDpcchTransmission", -1, "RRCConnectionRequest-v770ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdate_v860ext_IEs_supportOfCommonEDCH(rtxContext* ctx, CellUpdate_v860ext_IEs_supportOfCommonEDCH value)
+int asn1PE_UMTS_RRCConnectionRequest_v7b0ext_IEs_supportForE_FDPCH(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v7b0ext_IEs_supportForE_FDPCH value)
 {
    int stat = 0;
    if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdate_v860ext_IEs_supportOfHS_DSCHDRXOperation(rtxContext* ctx, CellUpdate_v860ext_IEs_supportOfHS_DSCHDRXOperation value)
+int asn1PE_UMTS_RRCConnectionRequest_v7b0ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionRequest_v7b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionRequest-v7b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRequest-v7b0ext-IEs");
+   /* supportForE-FDPCH */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportForE_FDPCH > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportForE_FDPCH);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportForE-FDPCH", -1, "RRCConnectionRequest-v7b0ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportForE_FDPCH, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportForE-FDPCH", -1, "RRCConnectionRequest-v7b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRequest_v860ext_IEs_supportOfCommonEDCH(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v860ext_IEs_supportOfCommonEDCH value)
 {
    int stat = 0;
    if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdate_v860ext_IEs_supportOfMACiis(rtxContext* ctx, CellUpdate_v860ext_IEs_supportOfMACiis value)
+int asn1PE_UMTS_RRCConnectionRequest_v860ext_IEs_multiCellSupport(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v860ext_IEs_multiCellSupport value)
 {
    int stat = 0;
    if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdate_v860ext_IEs_supportOfSPSOperation(rtxContext* ctx, CellUpdate_v860ext_IEs_supportOfSPSOperation value)
+int asn1PE_UMTS_RRCConnectionRequest_v860ext_IEs_supportOfMACiis(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v860ext_IEs_supportOfMACiis value)
 {
    int stat = 0;
    if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdate_v860ext_IEs_supportOfControlChannelDRXOperation(rtxContext* ctx, CellUpdate_v860ext_IEs_supportOfControlChannelDRXOperation value)
+int asn1PE_UMTS_RRCConnectionRequest_v860ext_IEs_supportOfSPSOperation(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v860ext_IEs_supportOfSPSOperation value)
 {
    int stat = 0;
    if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdate_v860ext_IEs(rtxContext* ctx, const CellUpdate_v860ext_IEs* pvalue)
+int asn1PE_UMTS_RRCConnectionRequest_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionRequest_v860ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellUpdate-v860ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionRequest-v860ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRequest-v860ext-IEs");
    /* supportOfCommonEDCH */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "supportOfCommonEDCH");
       if (pvalue->supportOfCommonEDCH > 0) {
          rtxErrAddUIntParm(ctx, pvalue->supportOfCommonEDCH);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfCommonEDCH", -1, "RRCConnectionRequest-v860ext-IEs");
       }
       stat = pe_ConsUInt64(ctx, pvalue->supportOfCommonEDCH, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "supportOfCommonEDCH", -1, "RRCConnectionRequest-v860ext-IEs");
    }
-   /* supportOfHS-DSCHDRXOperation */
+   /* multiCellSupport */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "supportOfHS-DSCHDRXOperation");
-      if (pvalue->supportOfHS_DSCHDRXOperation > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfHS_DSCHDRXOperation);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+      if (pvalue->multiCellSupport > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->multiCellSupport);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "multiCellSupport", -1, "RRCConnectionRequest-v860ext-IEs");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfHS_DSCHDRXOperation, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->multiCellSupport, 0, 0);
+      RT_CHECK(ctx, stat, 0, "multiCellSupport", -1, "RRCConnectionRequest-v860ext-IEs");
+   }
+   /* pre-redirectionInfo */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_Pre_RedirectionInfo(ctx, &pvalue->pre_redirectionInfo);
+      RT_CHECK(ctx, stat, 0, "pre-redirectionInfo", -1, "RRCConnectionRequest-v860ext-IEs");
    }
    /* supportOfMACiis */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "supportOfMACiis");
+   if (pvalue->m & 0x8u) {
       if (pvalue->supportOfMACiis > 0) {
          rtxErrAddUIntParm(ctx, pvalue->supportOfMACiis);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfMACiis", -1, "RRCConnectionRequest-v860ext-IEs");
       }
       stat = pe_ConsUInt64(ctx, pvalue->supportOfMACiis, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "supportOfMACiis", -1, "RRCConnectionRequest-v860ext-IEs");
    }
    /* supportOfSPSOperation */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "supportOfSPSOperation");
+   if (pvalue->m & 0x10u) {
       if (pvalue->supportOfSPSOperation > 0) {
          rtxErrAddUIntParm(ctx, pvalue->supportOfSPSOperation);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfSPSOperation", -1, "RRCConnectionRequest-v860ext-IEs");
       }
       stat = pe_ConsUInt64(ctx, pvalue->supportOfSPSOperation, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "supportOfSPSOperation", -1, "RRCConnectionRequest-v860ext-IEs");
    }
-   /* supportOfControlChannelDRXOperation */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "supportOfControlChannelDRXOperation");
-      if (pvalue->supportOfControlChannelDRXOperation > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfControlChannelDRXOperation);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfControlChannelDRXOperation, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* pvalue)
+int asn1PE_UMTS_RRCConnectionRequest_v7e0ext_IEs_supportForCSVoiceoverHSPA(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v7e0ext_IEs_supportForCSVoiceoverHSPA value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* ctx, const CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_RRCConnectionRequest_v7e0ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionRequest_v7e0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionRequest-v7e0ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdate-v860ext */
-   rtxCtxtPushElemName(ctx, "cellUpdate-v860ext");
-   stat = asn1PE_UMTS_CellUpdate_v860ext_IEs(ctx, &pvalue->cellUpdate_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRequest-v7e0ext-IEs");
+   /* supportForCSVoiceoverHSPA */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportForCSVoiceoverHSPA > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportForCSVoiceoverHSPA);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportForCSVoiceoverHSPA", -1, "RRCConnectionRequest-v7e0ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportForCSVoiceoverHSPA, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportForCSVoiceoverHSPA", -1, "RRCConnectionRequest-v7e0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRequest_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionRequest_v7g0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionRequest-v7g0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRequest-v7g0ext-IEs");
+   /* measuredResultsOnRACH-v7g0ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasuredResultsOnRACH_v7g0ext(ctx, &pvalue->measuredResultsOnRACH_v7g0ext);
+      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACH-v7g0ext", -1, "RRCConnectionRequest-v7g0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRequest_v920ext_IEs_supportOfDualCellMIMO(rtxContext* RT_RESTRICT ctx, RRCConnectionRequest_v920ext_IEs_supportOfDualCellMIMO value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRequest_v920ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionRequest_v920ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionRequest-v920ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRequest-v920ext-IEs");
+   /* supportOfDualCellMIMO */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportOfDualCellMIMO > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfDualCellMIMO);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfDualCellMIMO", -1, "RRCConnectionRequest-v920ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfDualCellMIMO, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportOfDualCellMIMO", -1, "RRCConnectionRequest-v920ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_v7e0NonCriticalExtensions_v7g0NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_v7e0NonCriticalExtensions_v7g0NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_v7e0NonCriticalExtensions_v7g0NonCriticalExtensions_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_v7e0NonCriticalExtensions_v7g0NonCriticalExtensions_v920NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRequest-v920ext */
+   stat = asn1PE_UMTS_RRCConnectionRequest_v920ext_IEs(ctx, &pvalue->rrcConnectionRequest_v920ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRequest-v920ext", -1, 0);
    /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_v7e0NonCriticalExtensions_v7g0NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, const CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_v7e0NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_v7e0NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdate-v770ext */
-   rtxCtxtPushElemName(ctx, "cellUpdate-v770ext");
-   stat = asn1PE_UMTS_CellUpdate_v770ext_IEs(ctx, &pvalue->cellUpdate_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRequest-v7g0ext */
+   stat = asn1PE_UMTS_RRCConnectionRequest_v7g0ext_IEs(ctx, &pvalue->rrcConnectionRequest_v7g0ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRequest-v7g0ext", -1, 0);
+   /* v920NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_v7e0NonCriticalExtensions_v7g0NonCriticalExtensions_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_v7e0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_v7e0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRequest-v7e0ext */
+   stat = asn1PE_UMTS_RRCConnectionRequest_v7e0ext_IEs(ctx, &pvalue->rrcConnectionRequest_v7e0ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRequest-v7e0ext", -1, 0);
+   /* v7g0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_v7e0NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRequest-v860ext */
+   stat = asn1PE_UMTS_RRCConnectionRequest_v860ext_IEs(ctx, &pvalue->rrcConnectionRequest_v860ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRequest-v860ext", -1, 0);
+   /* v7e0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_v7e0NonCriticalExtensions(ctx, &pvalue->v7e0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7e0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRequest-v7b0ext */
+   stat = asn1PE_UMTS_RRCConnectionRequest_v7b0ext_IEs(ctx, &pvalue->rrcConnectionRequest_v7b0ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRequest-v7b0ext", -1, 0);
    /* v860NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* ctx, const CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdate-v6b0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdate-v6b0ext");
-   stat = asn1PE_UMTS_CellUpdate_v6b0ext_IEs(ctx, &pvalue->cellUpdate_v6b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRequest-v770ext */
+   stat = asn1PE_UMTS_RRCConnectionRequest_v770ext_IEs(ctx, &pvalue->rrcConnectionRequest_v770ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRequest-v770ext", -1, 0);
+   /* v7b0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions(ctx, &pvalue->v7b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRequest-v6e0ext */
+   stat = asn1PE_UMTS_RRCConnectionRequest_v6e0ext_IEs(ctx, &pvalue->rrcConnectionRequest_v6e0ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRequest-v6e0ext", -1, 0);
    /* v770NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRequest-v6b0ext */
+   stat = asn1PE_UMTS_RRCConnectionRequest_v6b0ext_IEs(ctx, &pvalue->rrcConnectionRequest_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRequest-v6b0ext", -1, 0);
+   /* v6e0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions(ctx, &pvalue->v6e0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6e0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRequest-v690ext */
+   stat = asn1PE_UMTS_RRCConnectionRequest_v690ext_IEs(ctx, &pvalue->rrcConnectionRequest_v690ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRequest-v690ext", -1, 0);
+   /* v6b0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRequest-v590ext */
+   stat = asn1PE_UMTS_RRCConnectionRequest_v590ext_IEs(ctx, &pvalue->rrcConnectionRequest_v590ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRequest-v590ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionRequest-v4b0ext */
+   stat = asn1PE_UMTS_RRCConnectionRequest_v4b0ext_IEs(ctx, &pvalue->rrcConnectionRequest_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionRequest-v4b0ext", -1, 0);
+   /* v590NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionRequest_v3d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rRCConnectionRequest-v3d0ext */
+   stat = asn1PE_UMTS_RRCConnectionRequest_v3d0ext_IEs(ctx, &pvalue->rRCConnectionRequest_v3d0ext);
+   RT_CHECK(ctx, stat, 0, "rRCConnectionRequest-v3d0ext", -1, 0);
+   /* v4b0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionRequest(rtxContext* RT_RESTRICT ctx, const RRCConnectionRequest* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionRequest");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionRequest");
+   /* initialUE-Identity */
+   stat = asn1PE_UMTS_InitialUE_Identity(ctx, &pvalue->initialUE_Identity);
+   RT_CHECK(ctx, stat, 0, "initialUE-Identity", -1, "RRCConnectionRequest");
+   /* establishmentCause */
+   if (pvalue->establishmentCause > 31) {
+      rtxErrAddUIntParm(ctx, pvalue->establishmentCause);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "EstablishmentCause", "establishmentCause", -1, "RRCConnectionRequest");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->establishmentCause, 0, 31);
+   RT_CHECK(ctx, stat, "EstablishmentCause", "establishmentCause", -1, "RRCConnectionRequest");
+   /* protocolErrorIndicator */
+   if (pvalue->protocolErrorIndicator > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->protocolErrorIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ProtocolErrorIndicator", "protocolErrorIndicator", -1, "RRCConnectionRequest");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->protocolErrorIndicator, 0, 1);
+   RT_CHECK(ctx, stat, "ProtocolErrorIndicator", "protocolErrorIndicator", -1, "RRCConnectionRequest");
+   /* measuredResultsOnRACH */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasuredResultsOnRACH(ctx, &pvalue->measuredResultsOnRACH);
+      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACH", -1, "RRCConnectionRequest");
+   }
+   /* v3d0NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RRCConnectionRequest_v3d0NonCriticalExtensions(ctx, &pvalue->v3d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3d0NonCriticalExtensions", -1, "RRCConnectionRequest");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_r3_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionSetup-r3-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 0), 10);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetup-r3-IEs");
+   /* initialUE-Identity */
+   stat = asn1PE_UMTS_InitialUE_Identity(ctx, &pvalue->initialUE_Identity);
+   RT_CHECK(ctx, stat, 0, "initialUE-Identity", -1, "RRCConnectionSetup-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RRCConnectionSetup-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RRCConnectionSetup-r3-IEs");
+   /* activationTime */
+   if (pvalue->m & 0x1u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RRCConnectionSetup-r3-IEs");
+   }
+   /* new-U-RNTI */
+   stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+   RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RRCConnectionSetup-r3-IEs");
+   /* new-c-RNTI */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_c_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-c-RNTI", -1, "RRCConnectionSetup-r3-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RRCConnectionSetup-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RRCConnectionSetup-r3-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
+      rtxErrAddStrParm(ctx, "UTRAN-DRX-CycleLengthCoefficient");
+      rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RRCConnectionSetup-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+   RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RRCConnectionSetup-r3-IEs");
+   /* capabilityUpdateRequirement */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_CapabilityUpdateRequirement(ctx, &pvalue->capabilityUpdateRequirement);
+      RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement", -1, "RRCConnectionSetup-r3-IEs");
+   }
+   /* srb-InformationSetupList */
+   stat = asn1PE_UMTS_SRB_InformationSetupList2(ctx, &pvalue->srb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, "RRCConnectionSetup-r3-IEs");
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RRCConnectionSetup-r3-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   stat = asn1PE_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+   RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RRCConnectionSetup-r3-IEs");
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RRCConnectionSetup-r3-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   stat = asn1PE_UMTS_DL_AddReconfTransChInfoList(ctx, &pvalue->dl_AddReconfTransChInfoList);
+   RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RRCConnectionSetup-r3-IEs");
+   /* frequencyInfo */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RRCConnectionSetup-r3-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x40u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RRCConnectionSetup-r3-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RRCConnectionSetup-r3-IEs");
+   }
+   /* ul-ChannelRequirement */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_UL_ChannelRequirement(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "RRCConnectionSetup-r3-IEs");
+   }
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_DL_CommonInformation(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RRCConnectionSetup-r3-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RRCConnectionSetup-r3-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionSetup-v4b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetup-v4b0ext-IEs");
+   /* capabilityUpdateRequirement-r4-ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CapabilityUpdateRequirement_r4_ext(ctx, &pvalue->capabilityUpdateRequirement_r4_ext);
+      RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement-r4-ext", -1, "RRCConnectionSetup-v4b0ext-IEs");
+   }
+   /* dummy */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->dummy > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->dummy);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "SSDT-UL", "dummy", -1, "RRCConnectionSetup-v4b0ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dummy, 0, 1);
+      RT_CHECK(ctx, stat, "SSDT-UL", "dummy", -1, "RRCConnectionSetup-v4b0ext-IEs");
+   }
+   /* cell-id-PerRL-List */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_CellIdentity_PerRL_List(ctx, &pvalue->cell_id_PerRL_List);
+      RT_CHECK(ctx, stat, 0, "cell-id-PerRL-List", -1, "RRCConnectionSetup-v4b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionSetup-v590ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetup-v590ext-IEs");
+   /* systemSpecificCapUpdateReq */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->systemSpecificCapUpdateReq > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->systemSpecificCapUpdateReq);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "SystemSpecificCapUpdateReq-v590ext", "systemSpecificCapUpdateReq", -1, "RRCConnectionSetup-v590ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->systemSpecificCapUpdateReq, 0, 0);
+      RT_CHECK(ctx, stat, "SystemSpecificCapUpdateReq-v590ext", "systemSpecificCapUpdateReq", -1, "RRCConnectionSetup-v590ext-IEs");
+   }
+   /* dl-TPC-PowerOffsetPerRL-List */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_DL_TPC_PowerOffsetPerRL_List(ctx, &pvalue->dl_TPC_PowerOffsetPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-TPC-PowerOffsetPerRL-List", -1, "RRCConnectionSetup-v590ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_v690ext_IEs_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, RRCConnectionSetup_v690ext_IEs_postVerificationPeriod value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionSetup-v690ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetup-v690ext-IEs");
+   /* beaconPLEst */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->beaconPLEst > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->beaconPLEst);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "BEACON-PL-Est", "beaconPLEst", -1, "RRCConnectionSetup-v690ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->beaconPLEst, 0, 0);
+      RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "RRCConnectionSetup-v690ext-IEs");
+   }
+   /* postVerificationPeriod */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->postVerificationPeriod > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->postVerificationPeriod);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "postVerificationPeriod", -1, "RRCConnectionSetup-v690ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->postVerificationPeriod, 0, 0);
+      RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "RRCConnectionSetup-v690ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-v690ext */
+   stat = asn1PE_UMTS_RRCConnectionSetup_v690ext_IEs(ctx, &pvalue->rrcConnectionSetup_v690ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-v690ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionSetup_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-v590ext */
+   stat = asn1PE_UMTS_RRCConnectionSetup_v590ext_IEs(ctx, &pvalue->rrcConnectionSetup_v590ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-v590ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionSetup_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-v4b0ext */
+   stat = asn1PE_UMTS_RRCConnectionSetup_v4b0ext_IEs(ctx, &pvalue->rrcConnectionSetup_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-v4b0ext", -1, 0);
+   /* v590NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionSetup_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->rrcConnectionSetup_r3_add_ext.numbits, pvalue->rrcConnectionSetup_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-r3-add-ext", -1, 0);
+   }
+   /* v4b0NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RRCConnectionSetup_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_r3(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-r3 */
+   stat = asn1PE_UMTS_RRCConnectionSetup_r3_IEs(ctx, &pvalue->rrcConnectionSetup_r3);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-r3", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionSetup_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_r4_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_r4_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionSetup-r4-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 0), 12);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetup-r4-IEs");
+   /* activationTime */
+   if (pvalue->m & 0x1u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RRCConnectionSetup-r4-IEs");
+   }
+   /* new-U-RNTI */
+   stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+   RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RRCConnectionSetup-r4-IEs");
+   /* new-c-RNTI */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_c_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-c-RNTI", -1, "RRCConnectionSetup-r4-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RRCConnectionSetup-r4-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RRCConnectionSetup-r4-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
+      rtxErrAddStrParm(ctx, "UTRAN-DRX-CycleLengthCoefficient");
+      rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RRCConnectionSetup-r4-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+   RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RRCConnectionSetup-r4-IEs");
+   /* capabilityUpdateRequirement */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_CapabilityUpdateRequirement_r4(ctx, &pvalue->capabilityUpdateRequirement);
+      RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement", -1, "RRCConnectionSetup-r4-IEs");
+   }
+   /* srb-InformationSetupList */
+   stat = asn1PE_UMTS_SRB_InformationSetupList2(ctx, &pvalue->srb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, "RRCConnectionSetup-r4-IEs");
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "RRCConnectionSetup-r4-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "RRCConnectionSetup-r4-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "RRCConnectionSetup-r4-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r4(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "RRCConnectionSetup-r4-IEs");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RRCConnectionSetup-r4-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x100u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RRCConnectionSetup-r4-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RRCConnectionSetup-r4-IEs");
+   }
+   /* ul-ChannelRequirement */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_UL_ChannelRequirement_r4(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "RRCConnectionSetup-r4-IEs");
+   }
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RRCConnectionSetup-r4-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_r4(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RRCConnectionSetup-r4-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-v690ext */
+   stat = asn1PE_UMTS_RRCConnectionSetup_v690ext_IEs(ctx, &pvalue->rrcConnectionSetup_v690ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-v690ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-v590ext */
+   stat = asn1PE_UMTS_RRCConnectionSetup_v590ext_IEs(ctx, &pvalue->rrcConnectionSetup_v590ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-v590ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-r4-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->rrcConnectionSetup_r4_add_ext.numbits, pvalue->rrcConnectionSetup_r4_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-r4-add-ext", -1, 0);
+   }
+   /* v590NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-r4 */
+   stat = asn1PE_UMTS_RRCConnectionSetup_r4_IEs(ctx, &pvalue->rrcConnectionSetup_r4);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-r4", -1, 0);
+   /* v4d0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_r5_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_r5_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* srb-InformationSetupList */
+   stat = asn1PE_UMTS_SRB_InformationSetupList2(ctx, &pvalue->srb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, 0);
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
+   }
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r4(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* defaultConfigMode */
+   if (pvalue->defaultConfigMode > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigMode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   /* defaultConfigIdentity */
+   if ((uint64_t)pvalue->defaultConfigIdentity > 13u) {
+      rtxErrAddStrParm(ctx, "DefaultConfigIdentity-r5");
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultConfigIdentity-r5", "defaultConfigIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigIdentity, 0, 13);
+   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r5", "defaultConfigIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_r5_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_r5_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)pvalue->u.predefinedConfigIdentity > 15u) {
+            rtxErrAddStrParm(ctx, "PredefinedConfigIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.predefinedConfigIdentity);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.predefinedConfigIdentity, 0, 15);
+         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "defaultConfig", -1, 0);
+         stat = asn1PE_UMTS_RRCConnectionSetup_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
+         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_r5_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_r5_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* preConfigMode */
+   stat = asn1PE_UMTS_RRCConnectionSetup_r5_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
+   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_r5_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_r5_IEs_specificationMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "complete", -1, 0);
+         stat = asn1PE_UMTS_RRCConnectionSetup_r5_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "preconfiguration", -1, 0);
+         stat = asn1PE_UMTS_RRCConnectionSetup_r5_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
+         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_r5_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_r5_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionSetup-r5-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 0), 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetup-r5-IEs");
+   /* activationTime */
+   if (pvalue->m & 0x1u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RRCConnectionSetup-r5-IEs");
+   }
+   /* new-U-RNTI */
+   stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+   RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RRCConnectionSetup-r5-IEs");
+   /* new-c-RNTI */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_c_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-c-RNTI", -1, "RRCConnectionSetup-r5-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RRCConnectionSetup-r5-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RRCConnectionSetup-r5-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
+      rtxErrAddStrParm(ctx, "UTRAN-DRX-CycleLengthCoefficient");
+      rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RRCConnectionSetup-r5-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+   RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RRCConnectionSetup-r5-IEs");
+   /* capabilityUpdateRequirement */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_CapabilityUpdateRequirement_r5(ctx, &pvalue->capabilityUpdateRequirement);
+      RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement", -1, "RRCConnectionSetup-r5-IEs");
+   }
+   /* specificationMode */
+   stat = asn1PE_UMTS_RRCConnectionSetup_r5_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "RRCConnectionSetup-r5-IEs");
+   /* frequencyInfo */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RRCConnectionSetup-r5-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x10u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RRCConnectionSetup-r5-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RRCConnectionSetup-r5-IEs");
+   }
+   /* ul-ChannelRequirement */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_UL_ChannelRequirement_r4(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "RRCConnectionSetup-r5-IEs");
+   }
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RRCConnectionSetup-r5-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_r5bis(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RRCConnectionSetup-r5-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-v690ext */
+   stat = asn1PE_UMTS_RRCConnectionSetup_v690ext_IEs(ctx, &pvalue->rrcConnectionSetup_v690ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-v690ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-r5 */
+   stat = asn1PE_UMTS_RRCConnectionSetup_r5_IEs(ctx, &pvalue->rrcConnectionSetup_r5);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-r5", -1, 0);
+   /* rrcConnectionSetup-r5-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->rrcConnectionSetup_r5_add_ext.numbits, pvalue->rrcConnectionSetup_r5_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-r5-add-ext", -1, 0);
+   }
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_r6_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_r6_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* srb-InformationSetupList */
+   stat = asn1PE_UMTS_SRB_InformationSetupList2_r6(ctx, &pvalue->srb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, 0);
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList_r6(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
+   }
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* defaultConfigMode */
+   if (pvalue->defaultConfigMode > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigMode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   /* defaultConfigIdentity */
+   if ((uint64_t)pvalue->defaultConfigIdentity > 31u) {
+      rtxErrAddStrParm(ctx, "DefaultConfigIdentity-r6");
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigIdentity, 0, 31);
+   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_r6_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_r6_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)pvalue->u.predefinedConfigIdentity > 15u) {
+            rtxErrAddStrParm(ctx, "PredefinedConfigIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.predefinedConfigIdentity);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.predefinedConfigIdentity, 0, 15);
+         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "defaultConfig", -1, 0);
+         stat = asn1PE_UMTS_RRCConnectionSetup_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
+         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_r6_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_r6_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* preConfigMode */
+   stat = asn1PE_UMTS_RRCConnectionSetup_r6_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
+   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_r6_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_r6_IEs_specificationMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "complete", -1, 0);
+         stat = asn1PE_UMTS_RRCConnectionSetup_r6_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "preconfiguration", -1, 0);
+         stat = asn1PE_UMTS_RRCConnectionSetup_r6_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
+         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_r6_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_r6_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionSetup-r6-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 0), 13);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetup-r6-IEs");
+   /* activationTime */
+   if (pvalue->m & 0x1u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RRCConnectionSetup-r6-IEs");
+   }
+   /* new-U-RNTI */
+   stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+   RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RRCConnectionSetup-r6-IEs");
+   /* new-c-RNTI */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_c_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-c-RNTI", -1, "RRCConnectionSetup-r6-IEs");
+   }
+   /* new-H-RNTI */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RRCConnectionSetup-r6-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RRCConnectionSetup-r6-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RRCConnectionSetup-r6-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RRCConnectionSetup-r6-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RRCConnectionSetup-r6-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
+      rtxErrAddStrParm(ctx, "UTRAN-DRX-CycleLengthCoefficient");
+      rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RRCConnectionSetup-r6-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+   RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "RRCConnectionSetup-r6-IEs");
+   /* capabilityUpdateRequirement */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_CapabilityUpdateRequirement_r5(ctx, &pvalue->capabilityUpdateRequirement);
+      RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement", -1, "RRCConnectionSetup-r6-IEs");
+   }
+   /* specificationMode */
+   stat = asn1PE_UMTS_RRCConnectionSetup_r6_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "RRCConnectionSetup-r6-IEs");
+   /* frequencyInfo */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RRCConnectionSetup-r6-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x80u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RRCConnectionSetup-r6-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RRCConnectionSetup-r6-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_UL_DPCH_Info_r6(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RRCConnectionSetup-r6-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_UL_EDCH_Information_r6(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RRCConnectionSetup-r6-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r6(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RRCConnectionSetup-r6-IEs");
+   }
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_DL_CommonInformation_r6(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RRCConnectionSetup-r6-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_r6(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RRCConnectionSetup-r6-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_v6b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionSetup-v6b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetup-v6b0ext-IEs");
+   /* dl-InformationPerRL-List-v6b0ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_v6b0ext(ctx, &pvalue->dl_InformationPerRL_List_v6b0ext);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List-v6b0ext", -1, "RRCConnectionSetup-v6b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-v6b0ext */
+   stat = asn1PE_UMTS_RRCConnectionSetup_v6b0ext_IEs(ctx, &pvalue->rrcConnectionSetup_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-v6b0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-r6 */
+   stat = asn1PE_UMTS_RRCConnectionSetup_r6_IEs(ctx, &pvalue->rrcConnectionSetup_r6);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-r6", -1, 0);
+   /* rrcConnectionSetup-r6-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->rrcConnectionSetup_r6_add_ext.numbits, pvalue->rrcConnectionSetup_r6_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-r6-add-ext", -1, 0);
+   }
+   /* v6b0NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_r7_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_r7_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* srb-InformationSetupList */
+   stat = asn1PE_UMTS_SRB_InformationSetupList2_r7(ctx, &pvalue->srb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, 0);
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList_r7(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
+   }
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* defaultConfigMode */
+   if (pvalue->defaultConfigMode > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigMode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   /* defaultConfigIdentity */
+   if ((uint64_t)pvalue->defaultConfigIdentity > 31u) {
+      rtxErrAddStrParm(ctx, "DefaultConfigIdentity-r6");
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigIdentity, 0, 31);
+   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_r7_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_r7_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)pvalue->u.predefinedConfigIdentity > 15u) {
+            rtxErrAddStrParm(ctx, "PredefinedConfigIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.predefinedConfigIdentity);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.predefinedConfigIdentity, 0, 15);
+         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "defaultConfig", -1, 0);
+         stat = asn1PE_UMTS_RRCConnectionSetup_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
+         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_r7_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_r7_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* preConfigMode */
+   stat = asn1PE_UMTS_RRCConnectionSetup_r7_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
+   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_r7_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_r7_IEs_specificationMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "complete", -1, 0);
+         stat = asn1PE_UMTS_RRCConnectionSetup_r7_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "preconfiguration", -1, 0);
+         stat = asn1PE_UMTS_RRCConnectionSetup_r7_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
+         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_r7_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_r7_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionSetup-r7-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 0), 17);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetup-r7-IEs");
+   /* activationTime */
+   if (pvalue->m & 0x1u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RRCConnectionSetup-r7-IEs");
+   }
+   /* new-U-RNTI */
+   stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+   RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RRCConnectionSetup-r7-IEs");
+   /* new-c-RNTI */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_c_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-c-RNTI", -1, "RRCConnectionSetup-r7-IEs");
+   }
+   /* new-H-RNTI */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RRCConnectionSetup-r7-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RRCConnectionSetup-r7-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RRCConnectionSetup-r7-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RRCConnectionSetup-r7-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RRCConnectionSetup-r7-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   stat = asn1PE_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+   RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "RRCConnectionSetup-r7-IEs");
+   /* capabilityUpdateRequirement */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_CapabilityUpdateRequirement_r7(ctx, &pvalue->capabilityUpdateRequirement);
+      RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement", -1, "RRCConnectionSetup-r7-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   stat = rtxEncBit(ctx, pvalue->supportForChangeOfUE_Capability);
+   RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "RRCConnectionSetup-r7-IEs");
+   /* specificationMode */
+   stat = asn1PE_UMTS_RRCConnectionSetup_r7_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "RRCConnectionSetup-r7-IEs");
+   /* frequencyInfo */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RRCConnectionSetup-r7-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "RRCConnectionSetup-r7-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "RRCConnectionSetup-r7-IEs");
+   }
+   /* dtx-drx-Info */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "RRCConnectionSetup-r7-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "RRCConnectionSetup-r7-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x800u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RRCConnectionSetup-r7-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RRCConnectionSetup-r7-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RRCConnectionSetup-r7-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_UL_EDCH_Information_r7(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RRCConnectionSetup-r7-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x4000u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r7(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RRCConnectionSetup-r7-IEs");
+   }
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x8000u) {
+      stat = asn1PE_UMTS_DL_CommonInformation_r7(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RRCConnectionSetup-r7-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RRCConnectionSetup-r7-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_v780ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_v780ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionSetup-v780ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetup-v780ext-IEs");
+   /* hs-DSCH-TBSizeTable */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->hs_DSCH_TBSizeTable > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->hs_DSCH_TBSizeTable);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "RRCConnectionSetup-v780ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->hs_DSCH_TBSizeTable, 0, 0);
+      RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "RRCConnectionSetup-v780ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_v7d0ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_v7d0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionSetup-v7d0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetup-v7d0ext-IEs");
+   /* ul-EDCH-Information */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UL_EDCH_Information_ext(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RRCConnectionSetup-v7d0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-v7d0ext */
+   stat = asn1PE_UMTS_RRCConnectionSetup_v7d0ext_IEs(ctx, &pvalue->rrcConnectionSetup_v7d0ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-v7d0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-v780ext */
+   stat = asn1PE_UMTS_RRCConnectionSetup_v780ext_IEs(ctx, &pvalue->rrcConnectionSetup_v780ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-v780ext", -1, 0);
+   /* v7d0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-r7 */
+   stat = asn1PE_UMTS_RRCConnectionSetup_r7_IEs(ctx, &pvalue->rrcConnectionSetup_r7);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-r7", -1, 0);
+   /* rrcConnectionSetup-r7-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->rrcConnectionSetup_r7_add_ext.numbits, pvalue->rrcConnectionSetup_r7_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-r7-add-ext", -1, 0);
+   }
+   /* v780NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v780NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_r8_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_r8_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* srb-InformationSetupList */
+   stat = asn1PE_UMTS_SRB_InformationSetupList2_r8(ctx, &pvalue->srb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, 0);
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
+   }
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* defaultConfigMode */
+   if (pvalue->defaultConfigMode > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigMode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   /* defaultConfigIdentity */
+   if ((uint64_t)pvalue->defaultConfigIdentity > 31u) {
+      rtxErrAddStrParm(ctx, "DefaultConfigIdentity-r6");
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigIdentity, 0, 31);
+   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_r8_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_r8_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)pvalue->u.predefinedConfigIdentity > 15u) {
+            rtxErrAddStrParm(ctx, "PredefinedConfigIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.predefinedConfigIdentity);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.predefinedConfigIdentity, 0, 15);
+         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "defaultConfig", -1, 0);
+         stat = asn1PE_UMTS_RRCConnectionSetup_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
+         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_r8_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_r8_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* preConfigMode */
+   stat = asn1PE_UMTS_RRCConnectionSetup_r8_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
+   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_r8_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_r8_IEs_specificationMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "complete", -1, 0);
+         stat = asn1PE_UMTS_RRCConnectionSetup_r8_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "preconfiguration", -1, 0);
+         stat = asn1PE_UMTS_RRCConnectionSetup_r8_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
+         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_r8_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_r8_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionSetup-r8-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 0), 20);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetup-r8-IEs");
+   /* activationTime */
+   if (pvalue->m & 0x1u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   /* new-U-RNTI */
+   stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+   RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RRCConnectionSetup-r8-IEs");
+   /* new-c-RNTI */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_c_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-c-RNTI", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   /* new-H-RNTI */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RRCConnectionSetup-r8-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   stat = asn1PE_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+   RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "RRCConnectionSetup-r8-IEs");
+   /* capabilityUpdateRequirement */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_CapabilityUpdateRequirement_r8(ctx, &pvalue->capabilityUpdateRequirement);
+      RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   stat = rtxEncBit(ctx, pvalue->supportForChangeOfUE_Capability);
+   RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "RRCConnectionSetup-r8-IEs");
+   /* defaultConfigForCellFACH */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_DefaultConfigForCellFACH(ctx, &pvalue->defaultConfigForCellFACH);
+      RT_CHECK(ctx, stat, 0, "defaultConfigForCellFACH", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   /* specificationMode */
+   stat = asn1PE_UMTS_RRCConnectionSetup_r8_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "RRCConnectionSetup-r8-IEs");
+   /* frequencyInfo */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   /* dtx-drx-Info */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x1000u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RRCConnectionSetup-r8-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (pvalue->m & 0x4000u) {
+      stat = asn1PE_UMTS_UL_EDCH_Information_r8(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x8000u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   /* dl-SecondaryCellInfoFDD */
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD(ctx, &pvalue->dl_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   /* sps-Information-TDD128 */
+   if (pvalue->m & 0x80000u) {
+      stat = asn1PE_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
+      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "RRCConnectionSetup-r8-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_v890ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_v890ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionSetup-v890ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetup-v890ext-IEs");
+   /* dl-SecondaryCellInfoFDD-v890ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD_v890ext(ctx, &pvalue->dl_SecondaryCellInfoFDD_v890ext);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD-v890ext", -1, "RRCConnectionSetup-v890ext-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_ext(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RRCConnectionSetup-v890ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_v8a0ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_v8a0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionSetup-v8a0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetup-v8a0ext-IEs");
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_ext2(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RRCConnectionSetup-v8a0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-v8a0ext */
+   stat = asn1PE_UMTS_RRCConnectionSetup_v8a0ext_IEs(ctx, &pvalue->rrcConnectionSetup_v8a0ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-v8a0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-v890ext */
+   stat = asn1PE_UMTS_RRCConnectionSetup_v890ext_IEs(ctx, &pvalue->rrcConnectionSetup_v890ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-v890ext", -1, 0);
+   /* v8a0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v8a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-v7d0ext */
+   stat = asn1PE_UMTS_RRCConnectionSetup_v7d0ext_IEs(ctx, &pvalue->rrcConnectionSetup_v7d0ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-v7d0ext", -1, 0);
+   /* v890NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-r8 */
+   stat = asn1PE_UMTS_RRCConnectionSetup_r8_IEs(ctx, &pvalue->rrcConnectionSetup_r8);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-r8", -1, 0);
+   /* rrcConnectionSetup-r8-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->rrcConnectionSetup_r8_add_ext.numbits, pvalue->rrcConnectionSetup_r8_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-r8-add-ext", -1, 0);
+   }
+   /* v7d0NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_r9_IEs_specificationMode_complete(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_r9_IEs_specificationMode_complete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* srb-InformationSetupList */
+   stat = asn1PE_UMTS_SRB_InformationSetupList2_r8(ctx, &pvalue->srb_InformationSetupList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationSetupList", -1, 0);
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, 0);
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, 0);
+   }
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, 0);
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r9(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* defaultConfigMode */
+   if (pvalue->defaultConfigMode > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigMode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, 0);
+   /* defaultConfigIdentity */
+   if ((uint64_t)pvalue->defaultConfigIdentity > 31u) {
+      rtxErrAddStrParm(ctx, "DefaultConfigIdentity-r6");
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigIdentity, 0, 31);
+   RT_CHECK(ctx, stat, "DefaultConfigIdentity-r6", "defaultConfigIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_r9_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_r9_IEs_specificationMode_preconfiguration_preConfigMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)pvalue->u.predefinedConfigIdentity > 15u) {
+            rtxErrAddStrParm(ctx, "PredefinedConfigIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.predefinedConfigIdentity);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.predefinedConfigIdentity, 0, 15);
+         RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.defaultConfig == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "defaultConfig", -1, 0);
+         stat = asn1PE_UMTS_RRCConnectionSetup_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
+         RT_CHECK(ctx, stat, 0, "defaultConfig", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_r9_IEs_specificationMode_preconfiguration(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_r9_IEs_specificationMode_preconfiguration* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* preConfigMode */
+   stat = asn1PE_UMTS_RRCConnectionSetup_r9_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
+   RT_CHECK(ctx, stat, 0, "preConfigMode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_r9_IEs_specificationMode(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_r9_IEs_specificationMode* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "complete", -1, 0);
+         stat = asn1PE_UMTS_RRCConnectionSetup_r9_IEs_specificationMode_complete(ctx, pvalue->u.complete);
+         RT_CHECK(ctx, stat, 0, "complete", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.preconfiguration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "preconfiguration", -1, 0);
+         stat = asn1PE_UMTS_RRCConnectionSetup_r9_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
+         RT_CHECK(ctx, stat, 0, "preconfiguration", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_r9_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_r9_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionSetup-r9-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 0), 20);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetup-r9-IEs");
+   /* activationTime */
+   if (pvalue->m & 0x1u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   /* new-U-RNTI */
+   stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+   RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "RRCConnectionSetup-r9-IEs");
+   /* new-c-RNTI */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_c_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-c-RNTI", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   /* new-H-RNTI */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   /* newSecondary-E-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "RRCConnectionSetup-r9-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   stat = asn1PE_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+   RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "RRCConnectionSetup-r9-IEs");
+   /* capabilityUpdateRequirement */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_CapabilityUpdateRequirement_r8(ctx, &pvalue->capabilityUpdateRequirement);
+      RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   stat = rtxEncBit(ctx, pvalue->supportForChangeOfUE_Capability);
+   RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "RRCConnectionSetup-r9-IEs");
+   /* defaultConfigForCellFACH */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_DefaultConfigForCellFACH(ctx, &pvalue->defaultConfigForCellFACH);
+      RT_CHECK(ctx, stat, 0, "defaultConfigForCellFACH", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   /* specificationMode */
+   stat = asn1PE_UMTS_RRCConnectionSetup_r9_IEs_specificationMode(ctx, &pvalue->specificationMode);
+   RT_CHECK(ctx, stat, 0, "specificationMode", -1, "RRCConnectionSetup-r9-IEs");
+   /* frequencyInfo */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   /* multi-frequencyInfo */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   /* dtx-drx-TimingInfo */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   /* dtx-drx-Info */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   /* hs-scch-LessInfo */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x1000u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RRCConnectionSetup-r9-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   /* ul-DPCH-Info */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   /* ul-EDCH-Information */
+   if (pvalue->m & 0x4000u) {
+      stat = asn1PE_UMTS_UL_EDCH_Information_r9(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x8000u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   /* dl-SecondaryCellInfoFDD */
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD_r9(ctx, &pvalue->dl_SecondaryCellInfoFDD);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   /* sps-Information-TDD128 */
+   if (pvalue->m & 0x80000u) {
+      stat = asn1PE_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
+      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "RRCConnectionSetup-r9-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetup-r9 */
+   stat = asn1PE_UMTS_RRCConnectionSetup_r9_IEs(ctx, &pvalue->rrcConnectionSetup_r9);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-r9", -1, 0);
+   /* rrcConnectionSetup-r9-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->rrcConnectionSetup_r9_add_ext.numbits, pvalue->rrcConnectionSetup_r9_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "rrcConnectionSetup-r9-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }

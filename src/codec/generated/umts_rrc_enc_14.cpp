@@ -6,932 +6,1709 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* ctx, const CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdate-v690ext */
-   rtxCtxtPushElemName(ctx, "cellUpdate-v690ext");
-   stat = asn1PE_UMTS_CellUpdate_v690ext_IEs(ctx, &pvalue->cellUpdate_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v6b0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v6b0NonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r9 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r9", -1, 0);
+         stat = asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
+         RT_CHECK(ctx, stat, 0, "r9", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* ctx, const CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdate-v590ext */
-   rtxCtxtPushElemName(ctx, "cellUpdate-v590ext");
-   stat = asn1PE_UMTS_CellUpdate_v590ext(ctx, &pvalue->cellUpdate_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v690NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r8 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r8", -1, 0);
+         stat = asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
+         RT_CHECK(ctx, stat, 0, "r8", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions(rtxContext* ctx, const CellUpdate_laterNonCriticalExtensions* pvalue)
+int asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r7", -1, 0);
+         stat = asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
+         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r6 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r6", -1, 0);
+         stat = asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(ctx, pvalue->u.r6);
+         RT_CHECK(ctx, stat, 0, "r6", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r5", -1, 0);
+         stat = asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_r5(ctx, pvalue->u.r5);
+         RT_CHECK(ctx, stat, 0, "r5", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r4", -1, 0);
+         stat = asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
+         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup_later_than_r3(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* initialUE-Identity */
+   stat = asn1PE_UMTS_InitialUE_Identity(ctx, &pvalue->initialUE_Identity);
+   RT_CHECK(ctx, stat, 0, "initialUE-Identity", -1, 0);
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PE_UMTS_RRCConnectionSetup_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetup(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetup* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionSetup");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "RRCConnectionSetup");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RRCConnectionSetup");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r3", -1, "RRCConnectionSetup");
+         stat = asn1PE_UMTS_RRCConnectionSetup_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "RRCConnectionSetup");
+         break;
+      case 2:
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "later-than-r3", -1, "RRCConnectionSetup");
+         stat = asn1PE_UMTS_RRCConnectionSetup_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "RRCConnectionSetup");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetupComplete_v370ext(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetupComplete_v370ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionSetupComplete-v370ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetupComplete-v370ext");
+   /* ue-RadioAccessCapability-v370ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapability_v370ext(ctx, &pvalue->ue_RadioAccessCapability_v370ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v370ext", -1, "RRCConnectionSetupComplete-v370ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetupComplete_v380ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetupComplete_v380ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionSetupComplete-v380ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetupComplete-v380ext-IEs");
+   /* ue-RadioAccessCapability-v380ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapability_v380ext(ctx, &pvalue->ue_RadioAccessCapability_v380ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v380ext", -1, "RRCConnectionSetupComplete-v380ext-IEs");
+   }
+   /* dl-PhysChCapabilityFDD-v380ext */
+   stat = asn1PE_UMTS_DL_PhysChCapabilityFDD_v380ext(ctx, &pvalue->dl_PhysChCapabilityFDD_v380ext);
+   RT_CHECK(ctx, stat, 0, "dl-PhysChCapabilityFDD-v380ext", -1, "RRCConnectionSetupComplete-v380ext-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetupComplete_v3a0ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetupComplete_v3a0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionSetupComplete-v3a0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetupComplete-v3a0ext-IEs");
+   /* ue-RadioAccessCapability-v3a0ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapability_v3a0ext(ctx, &pvalue->ue_RadioAccessCapability_v3a0ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v3a0ext", -1, "RRCConnectionSetupComplete-v3a0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetupComplete_v650ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetupComplete_v650ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionSetupComplete-v650ext-IEs");
+   /* ue-RadioAccessCapability-v650ext */
+   stat = asn1PE_UMTS_UE_RadioAccessCapability_v650ext(ctx, &pvalue->ue_RadioAccessCapability_v650ext);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v650ext", -1, "RRCConnectionSetupComplete-v650ext-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetupComplete_v680ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetupComplete_v680ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionSetupComplete-v680ext-IEs");
+   /* ue-RadioAccessCapability-v680ext */
+   stat = asn1PE_UMTS_UE_RadioAccessCapability_v680ext(ctx, &pvalue->ue_RadioAccessCapability_v680ext);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v680ext", -1, "RRCConnectionSetupComplete-v680ext-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetupComplete_v7e0ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetupComplete_v7e0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionSetupComplete-v7e0ext-IEs");
+   /* ue-RadioAccessCapability */
+   stat = asn1PE_UMTS_UE_RadioAccessCapability_v7e0ext(ctx, &pvalue->ue_RadioAccessCapability);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "RRCConnectionSetupComplete-v7e0ext-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetupComplete_v7f0ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetupComplete_v7f0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionSetupComplete-v7f0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetupComplete-v7f0ext-IEs");
+   /* ue-RadioAccessCapability */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapability_v7f0ext(ctx, &pvalue->ue_RadioAccessCapability);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "RRCConnectionSetupComplete-v7f0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetupComplete_r3_add_ext_IEs_v680NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetupComplete_r3_add_ext_IEs_v680NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetupComplete_r3_add_ext_IEs_v680NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetupComplete_r3_add_ext_IEs_v680NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetupComplete-v7f0ext */
+   stat = asn1PE_UMTS_RRCConnectionSetupComplete_v7f0ext_IEs(ctx, &pvalue->rrcConnectionSetupComplete_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetupComplete-v7f0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionSetupComplete_r3_add_ext_IEs_v680NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetupComplete_r3_add_ext_IEs_v680NonCriticalExtensions_v7e0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetupComplete_r3_add_ext_IEs_v680NonCriticalExtensions_v7e0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetupComplete-v7e0ext */
+   stat = asn1PE_UMTS_RRCConnectionSetupComplete_v7e0ext_IEs(ctx, &pvalue->rrcConnectionSetupComplete_v7e0ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetupComplete-v7e0ext", -1, 0);
+   /* v7f0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionSetupComplete_r3_add_ext_IEs_v680NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetupComplete_r3_add_ext_IEs_v680NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetupComplete_r3_add_ext_IEs_v680NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetupComplete-v680ext */
+   stat = asn1PE_UMTS_RRCConnectionSetupComplete_v680ext_IEs(ctx, &pvalue->rrcConnectionSetupComplete_v680ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetupComplete-v680ext", -1, 0);
+   /* v7e0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionSetupComplete_r3_add_ext_IEs_v680NonCriticalExtensions_v7e0NonCriticalExtensions(ctx, &pvalue->v7e0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7e0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetupComplete_r3_add_ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetupComplete_r3_add_ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionSetupComplete-r3-add-ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* cellUpdate-r3-add-ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetupComplete-r3-add-ext-IEs");
+   /* rrcConnectionSetupComplete-v650ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellUpdate-r3-add-ext");
+      stat = asn1PE_UMTS_RRCConnectionSetupComplete_v650ext_IEs(ctx, &pvalue->rrcConnectionSetupComplete_v650ext);
+      RT_CHECK(ctx, stat, 0, "rrcConnectionSetupComplete-v650ext", -1, "RRCConnectionSetupComplete-r3-add-ext-IEs");
+   }
+   /* v680NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RRCConnectionSetupComplete_r3_add_ext_IEs_v680NonCriticalExtensions(ctx, &pvalue->v680NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v680NonCriticalExtensions", -1, "RRCConnectionSetupComplete-r3-add-ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetupComplete_v3g0ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetupComplete_v3g0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionSetupComplete-v3g0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetupComplete-v3g0ext-IEs");
+   /* ue-RadioAccessCapability-v3g0ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapability_v3g0ext(ctx, &pvalue->ue_RadioAccessCapability_v3g0ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v3g0ext", -1, "RRCConnectionSetupComplete-v3g0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetupComplete_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetupComplete_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionSetupComplete-v4b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetupComplete-v4b0ext-IEs");
+   /* ue-RadioAccessCapability-v4b0ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapability_v4b0ext(ctx, &pvalue->ue_RadioAccessCapability_v4b0ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v4b0ext", -1, "RRCConnectionSetupComplete-v4b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetupComplete_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetupComplete_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionSetupComplete-v590ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetupComplete-v590ext-IEs");
+   /* ue-RadioAccessCapability-v590ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapability_v590ext(ctx, &pvalue->ue_RadioAccessCapability_v590ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v590ext", -1, "RRCConnectionSetupComplete-v590ext-IEs");
+   }
+   /* ue-RATSpecificCapability-v590ext */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_InterRAT_UE_RadioAccessCapability_v590ext(ctx, &pvalue->ue_RATSpecificCapability_v590ext);
+      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability-v590ext", -1, "RRCConnectionSetupComplete-v590ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetupComplete_v5c0ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetupComplete_v5c0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionSetupComplete-v5c0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetupComplete-v5c0ext-IEs");
+   /* ue-RadioAccessCapability-v5c0ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapability_v5c0ext(ctx, &pvalue->ue_RadioAccessCapability_v5c0ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v5c0ext", -1, "RRCConnectionSetupComplete-v5c0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetupComplete_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetupComplete_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionSetupComplete-v690ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetupComplete-v690ext-IEs");
+   /* ueCapabilityContainer */
+   if (pvalue->m & 0x1u) {
       {
          rtxContext outer;
          const uint8_t* data;
          uint32_t len;
          rtxCopyContext(&outer, ctx);
          stat = rtxInitContextBuffer(ctx, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = asn1PE_UMTS_CellUpdate_r3_add_ext_IEs(ctx, &pvalue->cellUpdate_r3_add_ext);
-         RT_CHECK(ctx, stat);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer", -1, "RRCConnectionSetupComplete-v690ext-IEs");
+         stat = asn1PE_UMTS_UE_CapabilityContainer_IEs(ctx, &pvalue->ueCapabilityContainer);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer", -1, "RRCConnectionSetupComplete-v690ext-IEs");
          data = ctx->buffer_data;
          len = ctx->byte_index * 8 + 8 - ctx->bit_offset;
          rtxCopyContext(ctx, &outer);
          RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
          stat = pe_BitString(ctx, len, data);
          rtxMemHeapFreePtr(ctx, (void*)data);
-         RT_CHECK(ctx, stat);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer", -1, "RRCConnectionSetupComplete-v690ext-IEs");
       }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v590NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
    }
    return stat;
 }
 
-int asn1PE_UMTS_CellUpdate(rtxContext* ctx, const CellUpdate* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellUpdate");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* u-RNTI */
-   rtxCtxtPushElemName(ctx, "u-RNTI");
-   stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* startList */
-   rtxCtxtPushElemName(ctx, "startList");
-   stat = asn1PE_UMTS_STARTList(ctx, &pvalue->startList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* am-RLC-ErrorIndicationRb2-3or4 */
-   rtxCtxtPushElemName(ctx, "am-RLC-ErrorIndicationRb2-3or4");
-   stat = rtxEncBit(ctx, pvalue->am_RLC_ErrorIndicationRb2_3or4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* am-RLC-ErrorIndicationRb5orAbove */
-   rtxCtxtPushElemName(ctx, "am-RLC-ErrorIndicationRb5orAbove");
-   stat = rtxEncBit(ctx, pvalue->am_RLC_ErrorIndicationRb5orAbove);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellUpdateCause */
-   rtxCtxtPushElemName(ctx, "cellUpdateCause");
-   rtxCtxtPushTypeName(ctx, "CellUpdateCause");
-   if (pvalue->cellUpdateCause > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->cellUpdateCause);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cellUpdateCause, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* failureCause */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "failureCause");
-      stat = asn1PE_UMTS_FailureCauseWithProtErrTrId(ctx, &pvalue->failureCause);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-timer-indicator */
-   rtxCtxtPushElemName(ctx, "rb-timer-indicator");
-   stat = asn1PE_UMTS_Rb_timer_indicator(ctx, &pvalue->rb_timer_indicator);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measuredResultsOnRACH */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "measuredResultsOnRACH");
-      stat = asn1PE_UMTS_MeasuredResultsOnRACH(ctx, &pvalue->measuredResultsOnRACH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* laterNonCriticalExtensions */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo_fdd(rtxContext* ctx, const CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      rtxCtxtPushTypeName(ctx, "CPCH-SetID");
-      if ((uint64_t)(pvalue->dummy - 1) > 15u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->dummy);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dummy, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy2 */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dummy2");
-      stat = asn1PE_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo(rtxContext* ctx, const CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo_fdd(rtxContext* ctx, const CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      stat = asn1PE_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo(rtxContext* ctx, const CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_r3_IEs(rtxContext* ctx, const CellUpdateConfirm_r3_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-r3-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 22) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 21) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 20) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 19) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 18) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 17) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 16) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 15) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 14) |
-      ((uint64_t)((pvalue->m >> 9) & 1u) << 13) |
-      ((uint64_t)((pvalue->m >> 10) & 1u) << 12) |
-      ((uint64_t)((pvalue->m >> 11) & 1u) << 11) |
-      ((uint64_t)((pvalue->m >> 12) & 1u) << 10) |
-      ((uint64_t)((pvalue->m >> 13) & 1u) << 9) |
-      ((uint64_t)((pvalue->m >> 14) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 15) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 16) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 17) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 18) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 19) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 20) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 21) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 22) & 1u) << 0), 23);
-   RT_CHECK(ctx, stat);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* integrityProtectionModeInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
-      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cipheringModeInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
-      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* activationTime */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-U-RNTI */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
-      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-C-RNTI */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
-      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
-   if (pvalue->rrc_StateIndicator > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* utran-DRX-CycleLengthCoeff */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
-      rtxCtxtPushTypeName(ctx, "UTRAN-DRX-CycleLengthCoefficient");
-      if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rlc-Re-establishIndicatorRb2-3or4 */
-   rtxCtxtPushElemName(ctx, "rlc-Re-establishIndicatorRb2-3or4");
-   stat = rtxEncBit(ctx, pvalue->rlc_Re_establishIndicatorRb2_3or4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rlc-Re-establishIndicatorRb5orAbove */
-   rtxCtxtPushElemName(ctx, "rlc-Re-establishIndicatorRb5orAbove");
-   stat = rtxEncBit(ctx, pvalue->rlc_Re_establishIndicatorRb5orAbove);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cn-InformationInfo */
-   if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      stat = asn1PE_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ura-Identity */
-   if (pvalue->m & 0x80u) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
-      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReleaseList */
-   if (pvalue->m & 0x100u) {
-      rtxCtxtPushElemName(ctx, "rb-InformationReleaseList");
-      stat = asn1PE_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReconfigList */
-   if (pvalue->m & 0x200u) {
-      rtxCtxtPushElemName(ctx, "rb-InformationReconfigList");
-      stat = asn1PE_UMTS_RB_InformationReconfigList(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationAffectedList */
-   if (pvalue->m & 0x400u) {
-      rtxCtxtPushElemName(ctx, "rb-InformationAffectedList");
-      stat = asn1PE_UMTS_RB_InformationAffectedList(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (pvalue->m & 0x800u) {
-      rtxCtxtPushElemName(ctx, "dl-CounterSynchronisationInfo");
-      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CommonTransChInfo */
-   if (pvalue->m & 0x1000u) {
-      rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
-      stat = asn1PE_UMTS_UL_CommonTransChInfo(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-deletedTransChInfoList */
-   if (pvalue->m & 0x2000u) {
-      rtxCtxtPushElemName(ctx, "ul-deletedTransChInfoList");
-      stat = asn1PE_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (pvalue->m & 0x4000u) {
-      rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
-      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificTransChInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificTransChInfo");
-   stat = asn1PE_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo(ctx, &pvalue->modeSpecificTransChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonTransChInfo */
-   if (pvalue->m & 0x8000u) {
-      rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
-      stat = asn1PE_UMTS_DL_CommonTransChInfo(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-DeletedTransChInfoList */
-   if (pvalue->m & 0x10000u) {
-      rtxCtxtPushElemName(ctx, "dl-DeletedTransChInfoList");
-      stat = asn1PE_UMTS_DL_DeletedTransChInfoList(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (pvalue->m & 0x20000u) {
-      rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
-      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (pvalue->m & 0x40000u) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (pvalue->m & 0x80000u) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-ChannelRequirement */
-   if (pvalue->m & 0x100000u) {
-      rtxCtxtPushElemName(ctx, "ul-ChannelRequirement");
-      stat = asn1PE_UMTS_UL_ChannelRequirement(ctx, &pvalue->ul_ChannelRequirement);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificPhysChInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificPhysChInfo");
-   stat = asn1PE_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonInformation */
-   if (pvalue->m & 0x200000u) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-      stat = asn1PE_UMTS_DL_CommonInformation(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-InformationPerRL-List */
-   if (pvalue->m & 0x400000u) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-      stat = asn1PE_UMTS_DL_InformationPerRL_List(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_v3a0ext(rtxContext* ctx, const CellUpdateConfirm_v3a0ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-v3a0ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* new-DSCH-RNTI */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
-      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_v4b0ext_IEs(rtxContext* ctx, const CellUpdateConfirm_v4b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-v4b0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      rtxCtxtPushTypeName(ctx, "SSDT-UL");
-      if (pvalue->dummy > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->dummy);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dummy, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cell-id-PerRL-List */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "cell-id-PerRL-List");
-      stat = asn1PE_UMTS_CellIdentity_PerRL_List(ctx, &pvalue->cell_id_PerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_v590ext_IEs(rtxContext* ctx, const CellUpdateConfirm_v590ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-v590ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* dl-TPC-PowerOffsetPerRL-List */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-TPC-PowerOffsetPerRL-List");
-      stat = asn1PE_UMTS_DL_TPC_PowerOffsetPerRL_List(ctx, &pvalue->dl_TPC_PowerOffsetPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_v5d0ext_IEs(rtxContext* ctx, const CellUpdateConfirm_v5d0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-v5d0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* pdcp-ROHC-TargetMode */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pdcp-ROHC-TargetMode");
-      rtxCtxtPushTypeName(ctx, "PDCP-ROHC-TargetMode");
-      if (pvalue->pdcp_ROHC_TargetMode > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->pdcp_ROHC_TargetMode);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->pdcp_ROHC_TargetMode, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_v690ext_IEs_postVerificationPeriod(rtxContext* ctx, CellUpdateConfirm_v690ext_IEs_postVerificationPeriod value)
+int asn1PE_UMTS_RRCConnectionSetupComplete_v770ext_IEs_deferredMeasurementControlReading(rtxContext* RT_RESTRICT ctx, RRCConnectionSetupComplete_v770ext_IEs_deferredMeasurementControlReading value)
 {
    int stat = 0;
    if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_v690ext_IEs(rtxContext* ctx, const CellUpdateConfirm_v690ext_IEs* pvalue)
+int asn1PE_UMTS_RRCConnectionSetupComplete_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetupComplete_v770ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-v690ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat);
-   /* primary-plmn-Identity */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "primary-plmn-Identity");
-      stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* harq-Preamble-Mode */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "harq-Preamble-Mode");
-      rtxCtxtPushTypeName(ctx, "HARQ-Preamble-Mode");
-      if ((uint64_t)pvalue->harq_Preamble_Mode > 1u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->harq_Preamble_Mode);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->harq_Preamble_Mode, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* beaconPLEst */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "beaconPLEst");
-      rtxCtxtPushTypeName(ctx, "BEACON-PL-Est");
-      if (pvalue->beaconPLEst > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->beaconPLEst);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->beaconPLEst, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* postVerificationPeriod */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "postVerificationPeriod");
-      if (pvalue->postVerificationPeriod > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->postVerificationPeriod);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->postVerificationPeriod, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dhs-sync */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "dhs-sync");
-      rtxCtxtPushTypeName(ctx, "DHS-Sync");
-      if (pvalue->dhs_sync < -20 || pvalue->dhs_sync > 10) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->dhs_sync);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->dhs_sync, -20, 10);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "mbms-PL-ServiceRestrictInfo");
-      rtxCtxtPushTypeName(ctx, "MBMS-PL-ServiceRestrictInfo-r6");
-      if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionSetupComplete-v770ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v690ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v690ext");
-   stat = asn1PE_UMTS_CellUpdateConfirm_v690ext_IEs(ctx, &pvalue->cellUpdateConfirm_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetupComplete-v770ext-IEs");
+   /* deferredMeasurementControlReading */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->deferredMeasurementControlReading > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->deferredMeasurementControlReading);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "deferredMeasurementControlReading", -1, "RRCConnectionSetupComplete-v770ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->deferredMeasurementControlReading, 0, 0);
+      RT_CHECK(ctx, stat, 0, "deferredMeasurementControlReading", -1, "RRCConnectionSetupComplete-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConectionSetupComplete-v770ext */
+   stat = asn1PE_UMTS_RRCConnectionSetupComplete_v770ext_IEs(ctx, &pvalue->rrcConectionSetupComplete_v770ext);
+   RT_CHECK(ctx, stat, 0, "rrcConectionSetupComplete-v770ext", -1, 0);
    /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions(rtxContext* ctx, const CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions* pvalue)
+int asn1PE_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v5d0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v5d0ext");
-   stat = asn1PE_UMTS_CellUpdateConfirm_v5d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v5d0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetupComplete-v690ext */
+   stat = asn1PE_UMTS_RRCConnectionSetupComplete_v690ext_IEs(ctx, &pvalue->rrcConnectionSetupComplete_v690ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetupComplete-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetupComplete-v5c0ext */
+   stat = asn1PE_UMTS_RRCConnectionSetupComplete_v5c0ext_IEs(ctx, &pvalue->rrcConnectionSetupComplete_v5c0ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetupComplete-v5c0ext", -1, 0);
    /* v690NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions(rtxContext* ctx, const CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions* pvalue)
+int asn1PE_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v590ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v590ext");
-   stat = asn1PE_UMTS_CellUpdateConfirm_v590ext_IEs(ctx, &pvalue->cellUpdateConfirm_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v5d0NonCriticalExtenstions */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetupComplete-v590ext */
+   stat = asn1PE_UMTS_RRCConnectionSetupComplete_v590ext_IEs(ctx, &pvalue->rrcConnectionSetupComplete_v590ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetupComplete-v590ext", -1, 0);
+   /* v5c0NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v5d0NonCriticalExtenstions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions(ctx, &pvalue->v5c0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v5c0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v4b0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v4b0ext");
-   stat = asn1PE_UMTS_CellUpdateConfirm_v4b0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v4b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v590NonCriticalExtenstions */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetupComplete-v4b0ext */
+   stat = asn1PE_UMTS_RRCConnectionSetupComplete_v4b0ext_IEs(ctx, &pvalue->rrcConnectionSetupComplete_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetupComplete-v4b0ext", -1, 0);
+   /* v590NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtenstions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions(ctx, &pvalue->v590NonCriticalExtenstions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions* pvalue)
+int asn1PE_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetupComplete-v3g0ext */
+   stat = asn1PE_UMTS_RRCConnectionSetupComplete_v3g0ext_IEs(ctx, &pvalue->rrcConnectionSetupComplete_v3g0ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetupComplete-v3g0ext", -1, 0);
+   /* v4b0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-r3-add-ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetupComplete-r3-add-ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r3-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->cellUpdateConfirm_r3_add_ext.numbits, pvalue->cellUpdateConfirm_r3_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      {
+         rtxContext outer;
+         const uint8_t* data;
+         uint32_t len;
+         rtxCopyContext(&outer, ctx);
+         stat = rtxInitContextBuffer(ctx, 0, 0);
+         RT_CHECK(ctx, stat, 0, "rrcConnectionSetupComplete-r3-add-ext", -1, 0);
+         stat = asn1PE_UMTS_RRCConnectionSetupComplete_r3_add_ext_IEs(ctx, &pvalue->rrcConnectionSetupComplete_r3_add_ext);
+         RT_CHECK(ctx, stat, 0, "rrcConnectionSetupComplete-r3-add-ext", -1, 0);
+         data = ctx->buffer_data;
+         len = ctx->byte_index * 8 + 8 - ctx->bit_offset;
+         rtxCopyContext(ctx, &outer);
+         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+         stat = pe_BitString(ctx, len, data);
+         rtxMemHeapFreePtr(ctx, (void*)data);
+         RT_CHECK(ctx, stat, 0, "rrcConnectionSetupComplete-r3-add-ext", -1, 0);
+      }
    }
-   /* v4b0NonCriticalExtensions */
+   /* v3g0NonCriticalExtensions */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v4b0NonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions(ctx, &pvalue->v3g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3g0NonCriticalExtensions", -1, 0);
    }
-   return 0;
+   return stat;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_r3_v3a0NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v3a0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v3a0ext");
-   stat = asn1PE_UMTS_CellUpdateConfirm_v3a0ext(ctx, &pvalue->cellUpdateConfirm_v3a0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetupComplete-v3a0ext */
+   stat = asn1PE_UMTS_RRCConnectionSetupComplete_v3a0ext_IEs(ctx, &pvalue->rrcConnectionSetupComplete_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetupComplete-v3a0ext", -1, 0);
    /* laterNonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_r3(rtxContext* ctx, const CellUpdateConfirm_r3* pvalue)
+int asn1PE_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-r3 */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r3");
-   stat = asn1PE_UMTS_CellUpdateConfirm_r3_IEs(ctx, &pvalue->cellUpdateConfirm_r3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetupComplete-v380ext */
+   stat = asn1PE_UMTS_RRCConnectionSetupComplete_v380ext_IEs(ctx, &pvalue->rrcConnectionSetupComplete_v380ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetupComplete-v380ext", -1, 0);
    /* v3a0NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v3a0NonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo_fdd(rtxContext* ctx, const CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo_fdd* pvalue)
+int asn1PE_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetupComplete_v370NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcConnectionSetupComplete-v370ext */
+   stat = asn1PE_UMTS_RRCConnectionSetupComplete_v370ext(ctx, &pvalue->rrcConnectionSetupComplete_v370ext);
+   RT_CHECK(ctx, stat, 0, "rrcConnectionSetupComplete-v370ext", -1, 0);
+   /* v380NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions_v380NonCriticalExtensions(ctx, &pvalue->v380NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v380NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCConnectionSetupComplete(rtxContext* RT_RESTRICT ctx, const RRCConnectionSetupComplete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCConnectionSetupComplete");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCConnectionSetupComplete");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RRCConnectionSetupComplete");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "RRCConnectionSetupComplete");
+   /* startList */
+   stat = asn1PE_UMTS_STARTList(ctx, &pvalue->startList);
+   RT_CHECK(ctx, stat, 0, "startList", -1, "RRCConnectionSetupComplete");
+   /* ue-RadioAccessCapability */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapability(ctx, &pvalue->ue_RadioAccessCapability);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "RRCConnectionSetupComplete");
+   }
+   /* ue-RATSpecificCapability */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_InterRAT_UE_RadioAccessCapabilityList(ctx, &pvalue->ue_RATSpecificCapability);
+      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability", -1, "RRCConnectionSetupComplete");
+   }
+   /* v370NonCriticalExtensions */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_RRCConnectionSetupComplete_v370NonCriticalExtensions(ctx, &pvalue->v370NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v370NonCriticalExtensions", -1, "RRCConnectionSetupComplete");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRC_FailureInfo_r3_IEs(rtxContext* RT_RESTRICT ctx, const RRC_FailureInfo_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRC-FailureInfo-r3-IEs");
+   /* failureCauseWithProtErr */
+   stat = asn1PE_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCauseWithProtErr);
+   RT_CHECK(ctx, stat, 0, "failureCauseWithProtErr", -1, "RRC-FailureInfo-r3-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_RRC_FailureInfo_r3_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRC_FailureInfo_r3_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRC_FailureInfo_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRC_FailureInfo_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* dummy */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrc-FailureInfo-r3-add-ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      rtxCtxtPushTypeName(ctx, "CPCH-SetID");
-      if ((uint64_t)(pvalue->dummy - 1) > 15u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->dummy);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->rrc_FailureInfo_r3_add_ext.numbits, pvalue->rrc_FailureInfo_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "rrc-FailureInfo-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RRC_FailureInfo_r3_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRC_FailureInfo_r3(rtxContext* RT_RESTRICT ctx, const RRC_FailureInfo_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rRC-FailureInfo-r3 */
+   stat = asn1PE_UMTS_RRC_FailureInfo_r3_IEs(ctx, &pvalue->rRC_FailureInfo_r3);
+   RT_CHECK(ctx, stat, 0, "rRC-FailureInfo-r3", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRC_FailureInfo_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRC_FailureInfo_criticalExtensions(rtxContext* RT_RESTRICT ctx, const RRC_FailureInfo_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRC_FailureInfo(rtxContext* RT_RESTRICT ctx, const RRC_FailureInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRC-FailureInfo");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "RRC-FailureInfo");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RRC-FailureInfo");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r3", -1, "RRC-FailureInfo");
+         stat = asn1PE_UMTS_RRC_FailureInfo_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "RRC-FailureInfo");
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, "RRC-FailureInfo");
+         stat = asn1PE_UMTS_RRC_FailureInfo_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, "RRC-FailureInfo");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCStatus_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCStatus_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRCStatus_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RRCStatus_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rrcStatus-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->rrcStatus_r3_add_ext.numbits, pvalue->rrcStatus_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "rrcStatus-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RRCStatus_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRCStatus(rtxContext* RT_RESTRICT ctx, const RRCStatus* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRCStatus");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RRCStatus");
+   /* protocolErrorInformation */
+   stat = asn1PE_UMTS_ProtocolErrorMoreInformation(ctx, &pvalue->protocolErrorInformation);
+   RT_CHECK(ctx, stat, 0, "protocolErrorInformation", -1, "RRCStatus");
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RRCStatus_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "RRCStatus");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SecurityModeCommand_r3_IEs(rtxContext* RT_RESTRICT ctx, const SecurityModeCommand_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SecurityModeCommand-r3-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SecurityModeCommand-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "SecurityModeCommand-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "SecurityModeCommand-r3-IEs");
+   /* securityCapability */
+   stat = asn1PE_UMTS_SecurityCapability(ctx, &pvalue->securityCapability);
+   RT_CHECK(ctx, stat, 0, "securityCapability", -1, "SecurityModeCommand-r3-IEs");
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "SecurityModeCommand-r3-IEs");
+   }
+   /* integrityProtectionModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "SecurityModeCommand-r3-IEs");
+   }
+   /* cn-DomainIdentity */
+   if (pvalue->cn_DomainIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "SecurityModeCommand-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "SecurityModeCommand-r3-IEs");
+   /* ue-SystemSpecificSecurityCap */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_InterRAT_UE_SecurityCapList(ctx, &pvalue->ue_SystemSpecificSecurityCap);
+      RT_CHECK(ctx, stat, 0, "ue-SystemSpecificSecurityCap", -1, "SecurityModeCommand-r3-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SecurityModeCommand_r3_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SecurityModeCommand_r3_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SecurityModeCommand_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SecurityModeCommand_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* securityModeCommand-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->securityModeCommand_r3_add_ext.numbits, pvalue->securityModeCommand_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "securityModeCommand-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_SecurityModeCommand_r3_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SecurityModeCommand_r3(rtxContext* RT_RESTRICT ctx, const SecurityModeCommand_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* securityModeCommand-r3 */
+   stat = asn1PE_UMTS_SecurityModeCommand_r3_IEs(ctx, &pvalue->securityModeCommand_r3);
+   RT_CHECK(ctx, stat, 0, "securityModeCommand-r3", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SecurityModeCommand_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SecurityModeCommand_r7_IEs(rtxContext* RT_RESTRICT ctx, const SecurityModeCommand_r7_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SecurityModeCommand-r7-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SecurityModeCommand-r7-IEs");
+   /* securityCapability */
+   stat = asn1PE_UMTS_SecurityCapability(ctx, &pvalue->securityCapability);
+   RT_CHECK(ctx, stat, 0, "securityCapability", -1, "SecurityModeCommand-r7-IEs");
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "SecurityModeCommand-r7-IEs");
+   }
+   /* integrityProtectionModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "SecurityModeCommand-r7-IEs");
+   }
+   /* cn-DomainIdentity */
+   if (pvalue->cn_DomainIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "SecurityModeCommand-r7-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "SecurityModeCommand-r7-IEs");
+   /* ue-SystemSpecificSecurityCap */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_InterRAT_UE_SecurityCapList(ctx, &pvalue->ue_SystemSpecificSecurityCap);
+      RT_CHECK(ctx, stat, 0, "ue-SystemSpecificSecurityCap", -1, "SecurityModeCommand-r7-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SecurityModeCommand_later_than_r3_criticalExtensions_r7_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SecurityModeCommand_later_than_r3_criticalExtensions_r7_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SecurityModeCommand_later_than_r3_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, const SecurityModeCommand_later_than_r3_criticalExtensions_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* securityModeCommand-r7 */
+   stat = asn1PE_UMTS_SecurityModeCommand_r7_IEs(ctx, &pvalue->securityModeCommand_r7);
+   RT_CHECK(ctx, stat, 0, "securityModeCommand-r7", -1, 0);
+   /* securityModeCommand-r7-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->securityModeCommand_r7_add_ext.numbits, pvalue->securityModeCommand_r7_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "securityModeCommand-r7-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_SecurityModeCommand_later_than_r3_criticalExtensions_r7_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SecurityModeCommand_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const SecurityModeCommand_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SecurityModeCommand_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, const SecurityModeCommand_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r7", -1, 0);
+         stat = asn1PE_UMTS_SecurityModeCommand_later_than_r3_criticalExtensions_r7(ctx, pvalue->u.r7);
+         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_SecurityModeCommand_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SecurityModeCommand_later_than_r3(rtxContext* RT_RESTRICT ctx, const SecurityModeCommand_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PE_UMTS_SecurityModeCommand_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SecurityModeCommand(rtxContext* RT_RESTRICT ctx, const SecurityModeCommand* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SecurityModeCommand");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "SecurityModeCommand");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SecurityModeCommand");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r3", -1, "SecurityModeCommand");
+         stat = asn1PE_UMTS_SecurityModeCommand_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "SecurityModeCommand");
+         break;
+      case 2:
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "later-than-r3", -1, "SecurityModeCommand");
+         stat = asn1PE_UMTS_SecurityModeCommand_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "SecurityModeCommand");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SecurityModeComplete_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SecurityModeComplete_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SecurityModeComplete_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SecurityModeComplete_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* securityModeComplete-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->securityModeComplete_r3_add_ext.numbits, pvalue->securityModeComplete_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "securityModeComplete-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_SecurityModeComplete_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SecurityModeComplete(rtxContext* RT_RESTRICT ctx, const SecurityModeComplete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SecurityModeComplete");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SecurityModeComplete");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "SecurityModeComplete");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "SecurityModeComplete");
+   /* ul-IntegProtActivationInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtActivationInfo(ctx, &pvalue->ul_IntegProtActivationInfo);
+      RT_CHECK(ctx, stat, 0, "ul-IntegProtActivationInfo", -1, "SecurityModeComplete");
+   }
+   /* rb-UL-CiphActivationTimeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->rb_UL_CiphActivationTimeInfo);
+      RT_CHECK(ctx, stat, 0, "rb-UL-CiphActivationTimeInfo", -1, "SecurityModeComplete");
+   }
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_SecurityModeComplete_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "SecurityModeComplete");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SecurityModeFailure_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SecurityModeFailure_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SecurityModeFailure_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SecurityModeFailure_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* securityModeFailure-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->securityModeFailure_r3_add_ext.numbits, pvalue->securityModeFailure_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "securityModeFailure-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_SecurityModeFailure_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SecurityModeFailure(rtxContext* RT_RESTRICT ctx, const SecurityModeFailure* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SecurityModeFailure");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SecurityModeFailure");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "SecurityModeFailure");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "SecurityModeFailure");
+   /* failureCause */
+   stat = asn1PE_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
+   RT_CHECK(ctx, stat, 0, "failureCause", -1, "SecurityModeFailure");
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SecurityModeFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "SecurityModeFailure");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SignallingConnectionRelease_r3_IEs(rtxContext* RT_RESTRICT ctx, const SignallingConnectionRelease_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SignallingConnectionRelease-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "SignallingConnectionRelease-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "SignallingConnectionRelease-r3-IEs");
+   /* cn-DomainIdentity */
+   if (pvalue->cn_DomainIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "SignallingConnectionRelease-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "SignallingConnectionRelease-r3-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_SignallingConnectionRelease_r3_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SignallingConnectionRelease_r3_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SignallingConnectionRelease_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SignallingConnectionRelease_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* signallingConnectionRelease-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->signallingConnectionRelease_r3_add_ext.numbits, pvalue->signallingConnectionRelease_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "signallingConnectionRelease-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_SignallingConnectionRelease_r3_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SignallingConnectionRelease_r3(rtxContext* RT_RESTRICT ctx, const SignallingConnectionRelease_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* signallingConnectionRelease-r3 */
+   stat = asn1PE_UMTS_SignallingConnectionRelease_r3_IEs(ctx, &pvalue->signallingConnectionRelease_r3);
+   RT_CHECK(ctx, stat, 0, "signallingConnectionRelease-r3", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SignallingConnectionRelease_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SignallingConnectionRelease_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, const SignallingConnectionRelease_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SignallingConnectionRelease_later_than_r3(rtxContext* RT_RESTRICT ctx, const SignallingConnectionRelease_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PE_UMTS_SignallingConnectionRelease_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SignallingConnectionRelease(rtxContext* RT_RESTRICT ctx, const SignallingConnectionRelease* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SignallingConnectionRelease");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "SignallingConnectionRelease");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SignallingConnectionRelease");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r3", -1, "SignallingConnectionRelease");
+         stat = asn1PE_UMTS_SignallingConnectionRelease_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "SignallingConnectionRelease");
+         break;
+      case 2:
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "later-than-r3", -1, "SignallingConnectionRelease");
+         stat = asn1PE_UMTS_SignallingConnectionRelease_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "SignallingConnectionRelease");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SignallingConnectionReleaseIndication_v860ext_signallingConnectionReleaseIndicationCause(rtxContext* RT_RESTRICT ctx, SignallingConnectionReleaseIndication_v860ext_signallingConnectionReleaseIndicationCause value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SignallingConnectionReleaseIndication_v860ext(rtxContext* RT_RESTRICT ctx, const SignallingConnectionReleaseIndication_v860ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SignallingConnectionReleaseIndication-v860ext");
+   /* signallingConnectionReleaseIndicationCause */
+   if (pvalue->signallingConnectionReleaseIndicationCause > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->signallingConnectionReleaseIndicationCause);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "signallingConnectionReleaseIndicationCause", -1, "SignallingConnectionReleaseIndication-v860ext");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->signallingConnectionReleaseIndicationCause, 0, 1);
+   RT_CHECK(ctx, stat, 0, "signallingConnectionReleaseIndicationCause", -1, "SignallingConnectionReleaseIndication-v860ext");
+   return 0;
+}
+
+int asn1PE_UMTS_SignallingConnectionReleaseIndication_laterNonCriticalExtensions_v860nonCriticalExtentions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SignallingConnectionReleaseIndication_laterNonCriticalExtensions_v860nonCriticalExtentions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SignallingConnectionReleaseIndication_laterNonCriticalExtensions_v860nonCriticalExtentions(rtxContext* RT_RESTRICT ctx, const SignallingConnectionReleaseIndication_laterNonCriticalExtensions_v860nonCriticalExtentions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* signallingConnectionReleaseIndication-v860ext */
+   stat = asn1PE_UMTS_SignallingConnectionReleaseIndication_v860ext(ctx, &pvalue->signallingConnectionReleaseIndication_v860ext);
+   RT_CHECK(ctx, stat, 0, "signallingConnectionReleaseIndication-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SignallingConnectionReleaseIndication_laterNonCriticalExtensions_v860nonCriticalExtentions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SignallingConnectionReleaseIndication_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SignallingConnectionReleaseIndication_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* signallingConnectionReleaseIndication-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->signallingConnectionReleaseIndication_r3_add_ext.numbits, pvalue->signallingConnectionReleaseIndication_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "signallingConnectionReleaseIndication-r3-add-ext", -1, 0);
+   }
+   /* v860nonCriticalExtentions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_SignallingConnectionReleaseIndication_laterNonCriticalExtensions_v860nonCriticalExtentions(ctx, &pvalue->v860nonCriticalExtentions);
+      RT_CHECK(ctx, stat, 0, "v860nonCriticalExtentions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SignallingConnectionReleaseIndication(rtxContext* RT_RESTRICT ctx, const SignallingConnectionReleaseIndication* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SignallingConnectionReleaseIndication");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SignallingConnectionReleaseIndication");
+   /* cn-DomainIdentity */
+   if (pvalue->cn_DomainIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "SignallingConnectionReleaseIndication");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "SignallingConnectionReleaseIndication");
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SignallingConnectionReleaseIndication_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "SignallingConnectionReleaseIndication");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SystemInformation_FACH_payload_lastAndFirst(rtxContext* RT_RESTRICT ctx, const SystemInformation_FACH_payload_lastAndFirst* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* lastSegmentShort */
+   stat = asn1PE_UMTS_LastSegmentShort(ctx, &pvalue->lastSegmentShort);
+   RT_CHECK(ctx, stat, 0, "lastSegmentShort", -1, 0);
+   /* firstSegment */
+   stat = asn1PE_UMTS_FirstSegmentShort(ctx, &pvalue->firstSegment);
+   RT_CHECK(ctx, stat, 0, "firstSegment", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SystemInformation_FACH_payload_lastAndComplete(rtxContext* RT_RESTRICT ctx, const SystemInformation_FACH_payload_lastAndComplete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* lastSegmentShort */
+   stat = asn1PE_UMTS_LastSegmentShort(ctx, &pvalue->lastSegmentShort);
+   RT_CHECK(ctx, stat, 0, "lastSegmentShort", -1, 0);
+   /* completeSIB-List */
+   stat = asn1PE_UMTS_CompleteSIB_List(ctx, &pvalue->completeSIB_List);
+   RT_CHECK(ctx, stat, 0, "completeSIB-List", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SystemInformation_FACH_payload_lastAndCompleteAndFirst(rtxContext* RT_RESTRICT ctx, const SystemInformation_FACH_payload_lastAndCompleteAndFirst* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* lastSegmentShort */
+   stat = asn1PE_UMTS_LastSegmentShort(ctx, &pvalue->lastSegmentShort);
+   RT_CHECK(ctx, stat, 0, "lastSegmentShort", -1, 0);
+   /* completeSIB-List */
+   stat = asn1PE_UMTS_CompleteSIB_List(ctx, &pvalue->completeSIB_List);
+   RT_CHECK(ctx, stat, 0, "completeSIB-List", -1, 0);
+   /* firstSegment */
+   stat = asn1PE_UMTS_FirstSegmentShort(ctx, &pvalue->firstSegment);
+   RT_CHECK(ctx, stat, 0, "firstSegment", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SystemInformation_FACH_payload_completeAndFirst(rtxContext* RT_RESTRICT ctx, const SystemInformation_FACH_payload_completeAndFirst* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* completeSIB-List */
+   stat = asn1PE_UMTS_CompleteSIB_List(ctx, &pvalue->completeSIB_List);
+   RT_CHECK(ctx, stat, 0, "completeSIB-List", -1, 0);
+   /* firstSegment */
+   stat = asn1PE_UMTS_FirstSegmentShort(ctx, &pvalue->firstSegment);
+   RT_CHECK(ctx, stat, 0, "firstSegment", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SystemInformation_FACH_payload(rtxContext* RT_RESTRICT ctx, const SystemInformation_FACH_payload* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 15);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 15) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.firstSegment == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "firstSegment", -1, 0);
+         stat = asn1PE_UMTS_FirstSegment(ctx, pvalue->u.firstSegment);
+         RT_CHECK(ctx, stat, 0, "firstSegment", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.subsequentSegment == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "subsequentSegment", -1, 0);
+         stat = asn1PE_UMTS_SubsequentSegment(ctx, pvalue->u.subsequentSegment);
+         RT_CHECK(ctx, stat, 0, "subsequentSegment", -1, 0);
+         break;
+      case 4:
+         if (pvalue->u.lastSegmentShort == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "lastSegmentShort", -1, 0);
+         stat = asn1PE_UMTS_LastSegmentShort(ctx, pvalue->u.lastSegmentShort);
+         RT_CHECK(ctx, stat, 0, "lastSegmentShort", -1, 0);
+         break;
+      case 5:
+         if (pvalue->u.lastAndFirst == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "lastAndFirst", -1, 0);
+         stat = asn1PE_UMTS_SystemInformation_FACH_payload_lastAndFirst(ctx, pvalue->u.lastAndFirst);
+         RT_CHECK(ctx, stat, 0, "lastAndFirst", -1, 0);
+         break;
+      case 6:
+         if (pvalue->u.lastAndComplete == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "lastAndComplete", -1, 0);
+         stat = asn1PE_UMTS_SystemInformation_FACH_payload_lastAndComplete(ctx, pvalue->u.lastAndComplete);
+         RT_CHECK(ctx, stat, 0, "lastAndComplete", -1, 0);
+         break;
+      case 7:
+         if (pvalue->u.lastAndCompleteAndFirst == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "lastAndCompleteAndFirst", -1, 0);
+         stat = asn1PE_UMTS_SystemInformation_FACH_payload_lastAndCompleteAndFirst(ctx, pvalue->u.lastAndCompleteAndFirst);
+         RT_CHECK(ctx, stat, 0, "lastAndCompleteAndFirst", -1, 0);
+         break;
+      case 8:
+         if (pvalue->u.completeSIB_List == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "completeSIB-List", -1, 0);
+         stat = asn1PE_UMTS_CompleteSIB_List(ctx, pvalue->u.completeSIB_List);
+         RT_CHECK(ctx, stat, 0, "completeSIB-List", -1, 0);
+         break;
+      case 9:
+         if (pvalue->u.completeAndFirst == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "completeAndFirst", -1, 0);
+         stat = asn1PE_UMTS_SystemInformation_FACH_payload_completeAndFirst(ctx, pvalue->u.completeAndFirst);
+         RT_CHECK(ctx, stat, 0, "completeAndFirst", -1, 0);
+         break;
+      case 10:
+         if (pvalue->u.completeSIB == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "completeSIB", -1, 0);
+         stat = asn1PE_UMTS_CompleteSIB(ctx, pvalue->u.completeSIB);
+         RT_CHECK(ctx, stat, 0, "completeSIB", -1, 0);
+         break;
+      case 11:
+         if (pvalue->u.lastSegment == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "lastSegment", -1, 0);
+         stat = asn1PE_UMTS_LastSegment(ctx, pvalue->u.lastSegment);
+         RT_CHECK(ctx, stat, 0, "lastSegment", -1, 0);
+         break;
+      case 12:
+         break;
+      case 13:
+         break;
+      case 14:
+         break;
+      case 15:
+         break;
+      case 16:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SystemInformation_FACH(rtxContext* RT_RESTRICT ctx, const SystemInformation_FACH* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SystemInformation-FACH");
+   /* payload */
+   stat = asn1PE_UMTS_SystemInformation_FACH_payload(ctx, &pvalue->payload);
+   RT_CHECK(ctx, stat, 0, "payload", -1, "SystemInformation-FACH");
+   return 0;
+}
+
+int asn1PE_UMTS_SystemInformationChangeIndication_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const SystemInformationChangeIndication_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SystemInformationChangeIndication-v860ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SystemInformationChangeIndication-v860ext-IEs");
+   /* etws-Information */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ETWS_Information(ctx, &pvalue->etws_Information);
+      RT_CHECK(ctx, stat, 0, "etws-Information", -1, "SystemInformationChangeIndication-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SystemInformationChangeIndication_laterNonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SystemInformationChangeIndication_laterNonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SystemInformationChangeIndication_laterNonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SystemInformationChangeIndication_laterNonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* systemInformationChangeIndication-v860ext */
+   stat = asn1PE_UMTS_SystemInformationChangeIndication_v860ext_IEs(ctx, &pvalue->systemInformationChangeIndication_v860ext);
+   RT_CHECK(ctx, stat, 0, "systemInformationChangeIndication-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SystemInformationChangeIndication_laterNonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SystemInformationChangeIndication_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SystemInformationChangeIndication_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* systemInformationChangeIndication-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->systemInformationChangeIndication_r3_add_ext.numbits, pvalue->systemInformationChangeIndication_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "systemInformationChangeIndication-r3-add-ext", -1, 0);
+   }
+   /* v860NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_SystemInformationChangeIndication_laterNonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SystemInformationChangeIndication(rtxContext* RT_RESTRICT ctx, const SystemInformationChangeIndication* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SystemInformationChangeIndication");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SystemInformationChangeIndication");
+   /* bcch-ModificationInfo */
+   stat = asn1PE_UMTS_BCCH_ModificationInfo(ctx, &pvalue->bcch_ModificationInfo);
+   RT_CHECK(ctx, stat, 0, "bcch-ModificationInfo", -1, "SystemInformationChangeIndication");
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SystemInformationChangeIndication_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "SystemInformationChangeIndication");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_r3_IEs_dummy_fdd(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_r3_IEs_dummy_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy1 */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->dummy1 - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "CPCH-SetID");
+         rtxErrAddUIntParm(ctx, pvalue->dummy1);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "CPCH-SetID", "dummy1", -1, 0);
       }
-      stat = pe_ConsUInt64(ctx, pvalue->dummy, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->dummy1, 1, 16);
+      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy1", -1, 0);
    }
    /* dummy2 */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dummy2");
       stat = asn1PE_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo(rtxContext* ctx, const CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_r3_IEs_dummy(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_r3_IEs_dummy* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_TransportChannelReconfiguration_r3_IEs_dummy_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
          break;
       default:
          break;
@@ -939,43 +1716,35 @@ int asn1PE_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo(rtxContext* ctx
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo_fdd(rtxContext* ctx, const CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo_fdd* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_r3_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_r3_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* dummy */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dummy");
       stat = asn1PE_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo(rtxContext* ctx, const CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_r3_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_r3_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_TransportChannelReconfiguration_r3_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
          break;
       default:
          break;
@@ -983,429 +1752,507 @@ int asn1PE_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo(rtxContext* ctx,
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_r4_IEs(rtxContext* ctx, const CellUpdateConfirm_r4_IEs* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_r3_IEs(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_r3_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-r4-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransportChannelReconfiguration-r3-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 23) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 22) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 21) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 20) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 19) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 18) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 17) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 16) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 15) |
-      ((uint64_t)((pvalue->m >> 9) & 1u) << 14) |
-      ((uint64_t)((pvalue->m >> 10) & 1u) << 13) |
-      ((uint64_t)((pvalue->m >> 11) & 1u) << 12) |
-      ((uint64_t)((pvalue->m >> 12) & 1u) << 11) |
-      ((uint64_t)((pvalue->m >> 13) & 1u) << 10) |
-      ((uint64_t)((pvalue->m >> 14) & 1u) << 9) |
-      ((uint64_t)((pvalue->m >> 15) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 16) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 17) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 18) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 19) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 20) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 21) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 22) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 23) & 1u) << 0), 24);
-   RT_CHECK(ctx, stat);
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 0), 19);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "TransportChannelReconfiguration-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "TransportChannelReconfiguration-r3-IEs");
    /* integrityProtectionModeInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
       stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "TransportChannelReconfiguration-r3-IEs");
    }
    /* cipheringModeInfo */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
       stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "TransportChannelReconfiguration-r3-IEs");
    }
    /* activationTime */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
       stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "TransportChannelReconfiguration-r3-IEs");
    }
    /* new-U-RNTI */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
       stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "TransportChannelReconfiguration-r3-IEs");
    }
    /* new-C-RNTI */
    if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
       stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-DSCH-RNTI */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
-      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "TransportChannelReconfiguration-r3-IEs");
    }
    /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
    if (pvalue->rrc_StateIndicator > 3) {
       rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "TransportChannelReconfiguration-r3-IEs");
    }
    stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "TransportChannelReconfiguration-r3-IEs");
    /* utran-DRX-CycleLengthCoeff */
-   if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
-      rtxCtxtPushTypeName(ctx, "UTRAN-DRX-CycleLengthCoefficient");
+   if (pvalue->m & 0x20u) {
       if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "UTRAN-DRX-CycleLengthCoefficient");
          rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "TransportChannelReconfiguration-r3-IEs");
       }
       stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "TransportChannelReconfiguration-r3-IEs");
    }
-   /* rlc-Re-establishIndicatorRb2-3or4 */
-   rtxCtxtPushElemName(ctx, "rlc-Re-establishIndicatorRb2-3or4");
-   stat = rtxEncBit(ctx, pvalue->rlc_Re_establishIndicatorRb2_3or4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rlc-Re-establishIndicatorRb5orAbove */
-   rtxCtxtPushElemName(ctx, "rlc-Re-establishIndicatorRb5orAbove");
-   stat = rtxEncBit(ctx, pvalue->rlc_Re_establishIndicatorRb5orAbove);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
    /* cn-InformationInfo */
-   if (pvalue->m & 0x80u) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
+   if (pvalue->m & 0x40u) {
       stat = asn1PE_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "TransportChannelReconfiguration-r3-IEs");
    }
    /* ura-Identity */
-   if (pvalue->m & 0x100u) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
+   if (pvalue->m & 0x80u) {
       stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReleaseList */
-   if (pvalue->m & 0x200u) {
-      rtxCtxtPushElemName(ctx, "rb-InformationReleaseList");
-      stat = asn1PE_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReconfigList */
-   if (pvalue->m & 0x400u) {
-      rtxCtxtPushElemName(ctx, "rb-InformationReconfigList");
-      stat = asn1PE_UMTS_RB_InformationReconfigList_r4(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationAffectedList */
-   if (pvalue->m & 0x800u) {
-      rtxCtxtPushElemName(ctx, "rb-InformationAffectedList");
-      stat = asn1PE_UMTS_RB_InformationAffectedList(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "TransportChannelReconfiguration-r3-IEs");
    }
    /* dl-CounterSynchronisationInfo */
-   if (pvalue->m & 0x1000u) {
-      rtxCtxtPushElemName(ctx, "dl-CounterSynchronisationInfo");
+   if (pvalue->m & 0x100u) {
       stat = asn1PE_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "TransportChannelReconfiguration-r3-IEs");
    }
    /* ul-CommonTransChInfo */
-   if (pvalue->m & 0x2000u) {
-      rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
-      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-deletedTransChInfoList */
-   if (pvalue->m & 0x4000u) {
-      rtxCtxtPushElemName(ctx, "ul-deletedTransChInfoList");
-      stat = asn1PE_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "TransportChannelReconfiguration-r3-IEs");
    }
    /* ul-AddReconfTransChInfoList */
-   if (pvalue->m & 0x8000u) {
-      rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
+   if (pvalue->m & 0x400u) {
       stat = asn1PE_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "TransportChannelReconfiguration-r3-IEs");
    }
-   /* modeSpecificTransChInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificTransChInfo");
-   stat = asn1PE_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo(ctx, &pvalue->modeSpecificTransChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   /* dummy */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_TransportChannelReconfiguration_r3_IEs_dummy(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "TransportChannelReconfiguration-r3-IEs");
+   }
    /* dl-CommonTransChInfo */
-   if (pvalue->m & 0x10000u) {
-      rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
-      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-DeletedTransChInfoList */
-   if (pvalue->m & 0x20000u) {
-      rtxCtxtPushElemName(ctx, "dl-DeletedTransChInfoList");
-      stat = asn1PE_UMTS_DL_DeletedTransChInfoList(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "TransportChannelReconfiguration-r3-IEs");
    }
    /* dl-AddReconfTransChInfoList */
-   if (pvalue->m & 0x40000u) {
-      rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
-      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r4(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "TransportChannelReconfiguration-r3-IEs");
    }
    /* frequencyInfo */
-   if (pvalue->m & 0x80000u) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
+   if (pvalue->m & 0x4000u) {
       stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "TransportChannelReconfiguration-r3-IEs");
    }
    /* maxAllowedUL-TX-Power */
-   if (pvalue->m & 0x100000u) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
+   if (pvalue->m & 0x8000u) {
       if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
          rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "TransportChannelReconfiguration-r3-IEs");
       }
       stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "TransportChannelReconfiguration-r3-IEs");
    }
    /* ul-ChannelRequirement */
-   if (pvalue->m & 0x200000u) {
-      rtxCtxtPushElemName(ctx, "ul-ChannelRequirement");
-      stat = asn1PE_UMTS_UL_ChannelRequirement_r4(ctx, &pvalue->ul_ChannelRequirement);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_UL_ChannelRequirement(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "TransportChannelReconfiguration-r3-IEs");
    }
    /* modeSpecificPhysChInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificPhysChInfo");
-   stat = asn1PE_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   stat = asn1PE_UMTS_TransportChannelReconfiguration_r3_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "TransportChannelReconfiguration-r3-IEs");
    /* dl-CommonInformation */
-   if (pvalue->m & 0x400000u) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-      stat = asn1PE_UMTS_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_DL_CommonInformation(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "TransportChannelReconfiguration-r3-IEs");
    }
    /* dl-InformationPerRL-List */
-   if (pvalue->m & 0x800000u) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-      stat = asn1PE_UMTS_DL_InformationPerRL_List_r4(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "TransportChannelReconfiguration-r3-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_v3a0ext(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_v3a0ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransportChannelReconfiguration-v3a0ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v690ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v690ext");
-   stat = asn1PE_UMTS_CellUpdateConfirm_v690ext_IEs(ctx, &pvalue->cellUpdateConfirm_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-v3a0ext");
+   /* new-DSCH-RNTI */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "TransportChannelReconfiguration-v3a0ext");
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions(rtxContext* ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_v4b0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v5d0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v5d0ext");
-   stat = asn1PE_UMTS_CellUpdateConfirm_v5d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v5d0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v690NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions(rtxContext* ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v590ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v590ext");
-   stat = asn1PE_UMTS_CellUpdateConfirm_v590ext_IEs(ctx, &pvalue->cellUpdateConfirm_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v5d0NonCriticalExtenstions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v5d0NonCriticalExtenstions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransportChannelReconfiguration-v4b0ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-r4-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r4-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->cellUpdateConfirm_r4_add_ext.numbits, pvalue->cellUpdateConfirm_r4_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v590NonCriticalExtenstions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtenstions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions(ctx, &pvalue->v590NonCriticalExtenstions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4(rtxContext* ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-r4 */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r4");
-   stat = asn1PE_UMTS_CellUpdateConfirm_r4_IEs(ctx, &pvalue->cellUpdateConfirm_r4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v4d0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v4d0NonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo_fdd(rtxContext* ctx, const CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-v4b0ext-IEs");
    /* dummy */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      rtxCtxtPushTypeName(ctx, "CPCH-SetID");
-      if ((uint64_t)(pvalue->dummy - 1) > 15u) {
-         rtxErrAddElemNameParm(ctx);
+      if (pvalue->dummy > 1) {
          rtxErrAddUIntParm(ctx, pvalue->dummy);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "SSDT-UL", "dummy", -1, "TransportChannelReconfiguration-v4b0ext-IEs");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->dummy, 1, 16);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->dummy, 0, 1);
+      RT_CHECK(ctx, stat, "SSDT-UL", "dummy", -1, "TransportChannelReconfiguration-v4b0ext-IEs");
+   }
+   /* cell-id-PerRL-List */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CellIdentity_PerRL_List(ctx, &pvalue->cell_id_PerRL_List);
+      RT_CHECK(ctx, stat, 0, "cell-id-PerRL-List", -1, "TransportChannelReconfiguration-v4b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransportChannelReconfiguration-v590ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-v590ext-IEs");
+   /* dl-TPC-PowerOffsetPerRL-List */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_TPC_PowerOffsetPerRL_List(ctx, &pvalue->dl_TPC_PowerOffsetPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-TPC-PowerOffsetPerRL-List", -1, "TransportChannelReconfiguration-v590ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_v690ext_IEs_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_v690ext_IEs_postVerificationPeriod value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransportChannelReconfiguration-v690ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 0), 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-v690ext-IEs");
+   /* delayRestrictionFlag */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->delayRestrictionFlag > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->delayRestrictionFlag);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "TransportChannelReconfiguration-v690ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->delayRestrictionFlag, 0, 0);
+      RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "TransportChannelReconfiguration-v690ext-IEs");
+   }
+   /* primary-plmn-Identity */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
+      RT_CHECK(ctx, stat, 0, "primary-plmn-Identity", -1, "TransportChannelReconfiguration-v690ext-IEs");
+   }
+   /* harq-Preamble-Mode */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)pvalue->harq_Preamble_Mode > 1u) {
+         rtxErrAddStrParm(ctx, "HARQ-Preamble-Mode");
+         rtxErrAddUIntParm(ctx, pvalue->harq_Preamble_Mode);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "TransportChannelReconfiguration-v690ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->harq_Preamble_Mode, 0, 1);
+      RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "TransportChannelReconfiguration-v690ext-IEs");
+   }
+   /* beaconPLEst */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->beaconPLEst > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->beaconPLEst);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "BEACON-PL-Est", "beaconPLEst", -1, "TransportChannelReconfiguration-v690ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->beaconPLEst, 0, 0);
+      RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "TransportChannelReconfiguration-v690ext-IEs");
+   }
+   /* postVerificationPeriod */
+   if (pvalue->m & 0x10u) {
+      if (pvalue->postVerificationPeriod > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->postVerificationPeriod);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "postVerificationPeriod", -1, "TransportChannelReconfiguration-v690ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->postVerificationPeriod, 0, 0);
+      RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "TransportChannelReconfiguration-v690ext-IEs");
+   }
+   /* dhs-sync */
+   if (pvalue->m & 0x20u) {
+      if (pvalue->dhs_sync < -20 || pvalue->dhs_sync > 10) {
+         rtxErrAddStrParm(ctx, "DHS-Sync");
+         rtxErrAddIntParm(ctx, pvalue->dhs_sync);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DHS-Sync", "dhs-sync", -1, "TransportChannelReconfiguration-v690ext-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->dhs_sync, -20, 10);
+      RT_CHECK(ctx, stat, "DHS-Sync", "dhs-sync", -1, "TransportChannelReconfiguration-v690ext-IEs");
+   }
+   /* timingMaintainedSynchInd */
+   if (pvalue->m & 0x40u) {
+      if (pvalue->timingMaintainedSynchInd > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->timingMaintainedSynchInd);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TimingMaintainedSynchInd", "timingMaintainedSynchInd", -1, "TransportChannelReconfiguration-v690ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->timingMaintainedSynchInd, 0, 0);
+      RT_CHECK(ctx, stat, "TimingMaintainedSynchInd", "timingMaintainedSynchInd", -1, "TransportChannelReconfiguration-v690ext-IEs");
+   }
+   /* mbms-PL-ServiceRestrictInfo */
+   if (pvalue->m & 0x80u) {
+      if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "TransportChannelReconfiguration-v690ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
+      RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "TransportChannelReconfiguration-v690ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransportChannelReconfiguration-v770ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-v770ext-IEs");
+   /* ueMobilityStateIndicator */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->ueMobilityStateIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->ueMobilityStateIndicator);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "TransportChannelReconfiguration-v770ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ueMobilityStateIndicator, 0, 0);
+      RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "TransportChannelReconfiguration-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v770ext */
+   stat = asn1PE_UMTS_TransportChannelReconfiguration_v770ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v770ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v690ext */
+   stat = asn1PE_UMTS_TransportChannelReconfiguration_v690ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v690ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v590ext */
+   stat = asn1PE_UMTS_TransportChannelReconfiguration_v590ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v590ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v590ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v4b0ext */
+   stat = asn1PE_UMTS_TransportChannelReconfiguration_v4b0ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v4b0ext", -1, 0);
+   /* v590NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->transportChannelReconfiguration_r3_add_ext.numbits, pvalue->transportChannelReconfiguration_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-r3-add-ext", -1, 0);
+   }
+   /* v4b0NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v3a0ext */
+   stat = asn1PE_UMTS_TransportChannelReconfiguration_v3a0ext(ctx, &pvalue->transportChannelReconfiguration_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v3a0ext", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_r3(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-r3 */
+   stat = asn1PE_UMTS_TransportChannelReconfiguration_r3_IEs(ctx, &pvalue->transportChannelReconfiguration_r3);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-r3", -1, 0);
+   /* v3a0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TransportChannelReconfiguration_r3_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_r4_IEs_dummy_fdd(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_r4_IEs_dummy_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy1 */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->dummy1 - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "CPCH-SetID");
+         rtxErrAddUIntParm(ctx, pvalue->dummy1);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "CPCH-SetID", "dummy1", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dummy1, 1, 16);
+      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy1", -1, 0);
    }
    /* dummy2 */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dummy2");
       stat = asn1PE_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo(rtxContext* ctx, const CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_r4_IEs_dummy(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_r4_IEs_dummy* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_TransportChannelReconfiguration_r4_IEs_dummy_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
          break;
       default:
          break;
@@ -1413,43 +2260,35 @@ int asn1PE_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo(rtxContext* ctx
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo_fdd(rtxContext* ctx, const CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo_fdd* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_r4_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_r4_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    /* dummy */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dummy");
       stat = asn1PE_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo(rtxContext* ctx, const CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_r4_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_r4_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_TransportChannelReconfiguration_r4_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
          break;
       default:
          break;
@@ -1457,11 +2296,572 @@ int asn1PE_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo(rtxContext* ctx,
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_r5_IEs(rtxContext* ctx, const CellUpdateConfirm_r5_IEs* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_r4_IEs(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_r4_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-r5-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransportChannelReconfiguration-r4-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 0), 20);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-r4-IEs");
+   /* integrityProtectionModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   /* activationTime */
+   if (pvalue->m & 0x4u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   /* new-U-RNTI */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   /* new-C-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "TransportChannelReconfiguration-r4-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (pvalue->m & 0x40u) {
+      if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
+         rtxErrAddStrParm(ctx, "UTRAN-DRX-CycleLengthCoefficient");
+         rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "TransportChannelReconfiguration-r4-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   /* dummy */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_TransportChannelReconfiguration_r4_IEs_dummy(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (pvalue->m & 0x4000u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r4(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x8000u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x10000u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "TransportChannelReconfiguration-r4-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   /* ul-ChannelRequirement */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_UL_ChannelRequirement_r4(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   /* modeSpecificPhysChInfo */
+   stat = asn1PE_UMTS_TransportChannelReconfiguration_r4_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "TransportChannelReconfiguration-r4-IEs");
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x80000u) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_r4(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "TransportChannelReconfiguration-r4-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v770ext */
+   stat = asn1PE_UMTS_TransportChannelReconfiguration_v770ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v770ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v690ext */
+   stat = asn1PE_UMTS_TransportChannelReconfiguration_v690ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v690ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v590ext */
+   stat = asn1PE_UMTS_TransportChannelReconfiguration_v590ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v590ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v590ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-r4-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->transportChannelReconfiguration_r4_add_ext.numbits, pvalue->transportChannelReconfiguration_r4_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-r4-add-ext", -1, 0);
+   }
+   /* v590NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-r4 */
+   stat = asn1PE_UMTS_TransportChannelReconfiguration_r4_IEs(ctx, &pvalue->transportChannelReconfiguration_r4);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-r4", -1, 0);
+   /* v4d0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_r5_IEs_dummy_fdd(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_r5_IEs_dummy_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy1 */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->dummy1 - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "CPCH-SetID");
+         rtxErrAddUIntParm(ctx, pvalue->dummy1);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "CPCH-SetID", "dummy1", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dummy1, 1, 16);
+      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy1", -1, 0);
+   }
+   /* dummy2 */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_r5_IEs_dummy(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_r5_IEs_dummy* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_TransportChannelReconfiguration_r5_IEs_dummy_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_r5_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_r5_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_r5_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_r5_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_TransportChannelReconfiguration_r5_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_r5_IEs(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_r5_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransportChannelReconfiguration-r5-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 21) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 20) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 20) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 21) & 1u) << 0), 22);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-r5-IEs");
+   /* integrityProtectionModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* activationTime */
+   if (pvalue->m & 0x4u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* new-U-RNTI */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* new-C-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* new-DSCH-RNTI */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* new-H-RNTI */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "TransportChannelReconfiguration-r5-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (pvalue->m & 0x80u) {
+      if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
+         rtxErrAddStrParm(ctx, "UTRAN-DRX-CycleLengthCoefficient");
+         rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "TransportChannelReconfiguration-r5-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* ul-AddReconfTransChInfoList */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* dummy */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_TransportChannelReconfiguration_r5_IEs_dummy(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x4000u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* dl-AddReconfTransChInfoList */
+   if (pvalue->m & 0x8000u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x20000u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "TransportChannelReconfiguration-r5-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* ul-ChannelRequirement */
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_UL_ChannelRequirement_r5(ctx, &pvalue->ul_ChannelRequirement);
+      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* modeSpecificPhysChInfo */
+   stat = asn1PE_UMTS_TransportChannelReconfiguration_r5_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "TransportChannelReconfiguration-r5-IEs");
+   /* dl-HSPDSCH-Information */
+   if (pvalue->m & 0x80000u) {
+      stat = asn1PE_UMTS_DL_HSPDSCH_Information(ctx, &pvalue->dl_HSPDSCH_Information);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* dl-CommonInformation */
+   if (pvalue->m & 0x100000u) {
+      stat = asn1PE_UMTS_DL_CommonInformation_r5(ctx, &pvalue->dl_CommonInformation);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   /* dl-InformationPerRL-List */
+   if (pvalue->m & 0x200000u) {
+      stat = asn1PE_UMTS_DL_InformationPerRL_List_r5(ctx, &pvalue->dl_InformationPerRL_List);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "TransportChannelReconfiguration-r5-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v770ext */
+   stat = asn1PE_UMTS_TransportChannelReconfiguration_v770ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v770ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v690ext */
+   stat = asn1PE_UMTS_TransportChannelReconfiguration_v690ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v690ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-r5 */
+   stat = asn1PE_UMTS_TransportChannelReconfiguration_r5_IEs(ctx, &pvalue->transportChannelReconfiguration_r5);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-r5", -1, 0);
+   /* transportChannelReconfiguration-r5-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->transportChannelReconfiguration_r5_add_ext.numbits, pvalue->transportChannelReconfiguration_r5_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-r5-add-ext", -1, 0);
+   }
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_r6_IEs(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_r6_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransportChannelReconfiguration-r6-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 25) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 24) |
@@ -1489,714 +2889,264 @@ int asn1PE_UMTS_CellUpdateConfirm_r5_IEs(rtxContext* ctx, const CellUpdateConfir
       ((uint64_t)((pvalue->m >> 23) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 24) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 25) & 1u) << 0), 26);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-r6-IEs");
    /* integrityProtectionModeInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
       stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "TransportChannelReconfiguration-r6-IEs");
    }
    /* cipheringModeInfo */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
       stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "TransportChannelReconfiguration-r6-IEs");
    }
    /* activationTime */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
       stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "TransportChannelReconfiguration-r6-IEs");
+   }
+   /* delayRestrictionFlag */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->delayRestrictionFlag > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->delayRestrictionFlag);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "TransportChannelReconfiguration-r6-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->delayRestrictionFlag, 0, 0);
+      RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "TransportChannelReconfiguration-r6-IEs");
    }
    /* new-U-RNTI */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
+   if (pvalue->m & 0x10u) {
       stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "TransportChannelReconfiguration-r6-IEs");
    }
    /* new-C-RNTI */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
+   if (pvalue->m & 0x20u) {
       stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "TransportChannelReconfiguration-r6-IEs");
    }
    /* new-DSCH-RNTI */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
+   if (pvalue->m & 0x40u) {
       stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "TransportChannelReconfiguration-r6-IEs");
    }
    /* new-H-RNTI */
-   if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "new-H-RNTI");
-      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
-   if (pvalue->rrc_StateIndicator > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* utran-DRX-CycleLengthCoeff */
    if (pvalue->m & 0x80u) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
-      rtxCtxtPushTypeName(ctx, "UTRAN-DRX-CycleLengthCoefficient");
-      if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rlc-Re-establishIndicatorRb2-3or4 */
-   rtxCtxtPushElemName(ctx, "rlc-Re-establishIndicatorRb2-3or4");
-   stat = rtxEncBit(ctx, pvalue->rlc_Re_establishIndicatorRb2_3or4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rlc-Re-establishIndicatorRb5orAbove */
-   rtxCtxtPushElemName(ctx, "rlc-Re-establishIndicatorRb5orAbove");
-   stat = rtxEncBit(ctx, pvalue->rlc_Re_establishIndicatorRb5orAbove);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cn-InformationInfo */
-   if (pvalue->m & 0x100u) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      stat = asn1PE_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ura-Identity */
-   if (pvalue->m & 0x200u) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
-      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReleaseList */
-   if (pvalue->m & 0x400u) {
-      rtxCtxtPushElemName(ctx, "rb-InformationReleaseList");
-      stat = asn1PE_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReconfigList */
-   if (pvalue->m & 0x800u) {
-      rtxCtxtPushElemName(ctx, "rb-InformationReconfigList");
-      stat = asn1PE_UMTS_RB_InformationReconfigList_r5(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationAffectedList */
-   if (pvalue->m & 0x1000u) {
-      rtxCtxtPushElemName(ctx, "rb-InformationAffectedList");
-      stat = asn1PE_UMTS_RB_InformationAffectedList_r5(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (pvalue->m & 0x2000u) {
-      rtxCtxtPushElemName(ctx, "dl-CounterSynchronisationInfo");
-      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CommonTransChInfo */
-   if (pvalue->m & 0x4000u) {
-      rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
-      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-deletedTransChInfoList */
-   if (pvalue->m & 0x8000u) {
-      rtxCtxtPushElemName(ctx, "ul-deletedTransChInfoList");
-      stat = asn1PE_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (pvalue->m & 0x10000u) {
-      rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
-      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificTransChInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificTransChInfo");
-   stat = asn1PE_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo(ctx, &pvalue->modeSpecificTransChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonTransChInfo */
-   if (pvalue->m & 0x20000u) {
-      rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
-      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-DeletedTransChInfoList */
-   if (pvalue->m & 0x40000u) {
-      rtxCtxtPushElemName(ctx, "dl-DeletedTransChInfoList");
-      stat = asn1PE_UMTS_DL_DeletedTransChInfoList_r5(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (pvalue->m & 0x80000u) {
-      rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
-      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (pvalue->m & 0x100000u) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (pvalue->m & 0x200000u) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-ChannelRequirement */
-   if (pvalue->m & 0x400000u) {
-      rtxCtxtPushElemName(ctx, "ul-ChannelRequirement");
-      stat = asn1PE_UMTS_UL_ChannelRequirement_r5(ctx, &pvalue->ul_ChannelRequirement);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificPhysChInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificPhysChInfo");
-   stat = asn1PE_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-HSPDSCH-Information */
-   if (pvalue->m & 0x800000u) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      stat = asn1PE_UMTS_DL_HSPDSCH_Information(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonInformation */
-   if (pvalue->m & 0x1000000u) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-      stat = asn1PE_UMTS_DL_CommonInformation_r5(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-InformationPerRL-List */
-   if (pvalue->m & 0x2000000u) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-      stat = asn1PE_UMTS_DL_InformationPerRL_List_r5(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v690ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v690ext");
-   stat = asn1PE_UMTS_CellUpdateConfirm_v690ext_IEs(ctx, &pvalue->cellUpdateConfirm_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(rtxContext* ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v5d0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v5d0ext");
-   stat = asn1PE_UMTS_CellUpdateConfirm_v5d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v5d0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v690NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5(rtxContext* ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-r5 */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r5");
-   stat = asn1PE_UMTS_CellUpdateConfirm_r5_IEs(ctx, &pvalue->cellUpdateConfirm_r5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellUpdateConfirm-r5-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r5-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->cellUpdateConfirm_r5_add_ext.numbits, pvalue->cellUpdateConfirm_r5_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v5d0NonCriticalExtenstions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v5d0NonCriticalExtenstions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_r6_IEs(rtxContext* ctx, const CellUpdateConfirm_r6_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-r6-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 30) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 29) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 28) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 27) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 26) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 25) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 24) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 23) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 22) |
-      ((uint64_t)((pvalue->m >> 9) & 1u) << 21) |
-      ((uint64_t)((pvalue->m >> 10) & 1u) << 20) |
-      ((uint64_t)((pvalue->m >> 11) & 1u) << 19) |
-      ((uint64_t)((pvalue->m >> 12) & 1u) << 18) |
-      ((uint64_t)((pvalue->m >> 13) & 1u) << 17) |
-      ((uint64_t)((pvalue->m >> 14) & 1u) << 16) |
-      ((uint64_t)((pvalue->m >> 15) & 1u) << 15) |
-      ((uint64_t)((pvalue->m >> 16) & 1u) << 14) |
-      ((uint64_t)((pvalue->m >> 17) & 1u) << 13) |
-      ((uint64_t)((pvalue->m >> 18) & 1u) << 12) |
-      ((uint64_t)((pvalue->m >> 19) & 1u) << 11) |
-      ((uint64_t)((pvalue->m >> 20) & 1u) << 10) |
-      ((uint64_t)((pvalue->m >> 21) & 1u) << 9) |
-      ((uint64_t)((pvalue->m >> 22) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 23) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 24) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 25) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 26) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 27) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 28) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 29) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 30) & 1u) << 0), 31);
-   RT_CHECK(ctx, stat);
-   /* integrityProtectionModeInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
-      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cipheringModeInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
-      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* activationTime */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-U-RNTI */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
-      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-C-RNTI */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
-      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-DSCH-RNTI */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
-      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-H-RNTI */
-   if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "new-H-RNTI");
       stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "TransportChannelReconfiguration-r6-IEs");
    }
    /* newPrimary-E-RNTI */
-   if (pvalue->m & 0x80u) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
+   if (pvalue->m & 0x100u) {
       stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "TransportChannelReconfiguration-r6-IEs");
    }
    /* newSecondary-E-RNTI */
-   if (pvalue->m & 0x100u) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
+   if (pvalue->m & 0x200u) {
       stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "TransportChannelReconfiguration-r6-IEs");
    }
    /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
    if (pvalue->rrc_StateIndicator > 3) {
       rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "TransportChannelReconfiguration-r6-IEs");
    }
    stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "TransportChannelReconfiguration-r6-IEs");
    /* utran-DRX-CycleLengthCoeff */
-   if (pvalue->m & 0x200u) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
-      rtxCtxtPushTypeName(ctx, "UTRAN-DRX-CycleLengthCoefficient");
+   if (pvalue->m & 0x400u) {
       if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "UTRAN-DRX-CycleLengthCoefficient");
          rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "TransportChannelReconfiguration-r6-IEs");
       }
       stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "TransportChannelReconfiguration-r6-IEs");
    }
-   /* rlc-Re-establishIndicatorRb2-3or4 */
-   rtxCtxtPushElemName(ctx, "rlc-Re-establishIndicatorRb2-3or4");
-   stat = rtxEncBit(ctx, pvalue->rlc_Re_establishIndicatorRb2_3or4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rlc-Re-establishIndicatorRb5orAbove */
-   rtxCtxtPushElemName(ctx, "rlc-Re-establishIndicatorRb5orAbove");
-   stat = rtxEncBit(ctx, pvalue->rlc_Re_establishIndicatorRb5orAbove);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
    /* cn-InformationInfo */
-   if (pvalue->m & 0x400u) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
+   if (pvalue->m & 0x800u) {
       stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "TransportChannelReconfiguration-r6-IEs");
    }
    /* ura-Identity */
-   if (pvalue->m & 0x800u) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
-      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReleaseList */
    if (pvalue->m & 0x1000u) {
-      rtxCtxtPushElemName(ctx, "rb-InformationReleaseList");
-      stat = asn1PE_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReconfigList */
-   if (pvalue->m & 0x2000u) {
-      rtxCtxtPushElemName(ctx, "rb-InformationReconfigList");
-      stat = asn1PE_UMTS_RB_InformationReconfigList_r6(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationAffectedList */
-   if (pvalue->m & 0x4000u) {
-      rtxCtxtPushElemName(ctx, "rb-InformationAffectedList");
-      stat = asn1PE_UMTS_RB_InformationAffectedList_r6(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "TransportChannelReconfiguration-r6-IEs");
    }
    /* dl-CounterSynchronisationInfo */
-   if (pvalue->m & 0x8000u) {
-      rtxCtxtPushElemName(ctx, "dl-CounterSynchronisationInfo");
+   if (pvalue->m & 0x2000u) {
       stat = asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdcp-ROHC-TargetMode */
-   if (pvalue->m & 0x10000u) {
-      rtxCtxtPushElemName(ctx, "pdcp-ROHC-TargetMode");
-      rtxCtxtPushTypeName(ctx, "PDCP-ROHC-TargetMode");
-      if (pvalue->pdcp_ROHC_TargetMode > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->pdcp_ROHC_TargetMode);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->pdcp_ROHC_TargetMode, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "TransportChannelReconfiguration-r6-IEs");
    }
    /* ul-CommonTransChInfo */
-   if (pvalue->m & 0x20000u) {
-      rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
+   if (pvalue->m & 0x4000u) {
       stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-deletedTransChInfoList */
-   if (pvalue->m & 0x40000u) {
-      rtxCtxtPushElemName(ctx, "ul-deletedTransChInfoList");
-      stat = asn1PE_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "TransportChannelReconfiguration-r6-IEs");
    }
    /* ul-AddReconfTransChInfoList */
-   if (pvalue->m & 0x80000u) {
-      rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
+   if (pvalue->m & 0x8000u) {
       stat = asn1PE_UMTS_UL_AddReconfTransChInfoList_r6(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "TransportChannelReconfiguration-r6-IEs");
    }
    /* dl-CommonTransChInfo */
-   if (pvalue->m & 0x100000u) {
-      rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
+   if (pvalue->m & 0x10000u) {
       stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-DeletedTransChInfoList */
-   if (pvalue->m & 0x200000u) {
-      rtxCtxtPushElemName(ctx, "dl-DeletedTransChInfoList");
-      stat = asn1PE_UMTS_DL_DeletedTransChInfoList_r5(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "TransportChannelReconfiguration-r6-IEs");
    }
    /* dl-AddReconfTransChInfoList */
-   if (pvalue->m & 0x400000u) {
-      rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
+   if (pvalue->m & 0x20000u) {
       stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "TransportChannelReconfiguration-r6-IEs");
    }
    /* frequencyInfo */
-   if (pvalue->m & 0x800000u) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
+   if (pvalue->m & 0x40000u) {
       stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "TransportChannelReconfiguration-r6-IEs");
    }
    /* maxAllowedUL-TX-Power */
-   if (pvalue->m & 0x1000000u) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
+   if (pvalue->m & 0x80000u) {
       if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
          rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "TransportChannelReconfiguration-r6-IEs");
       }
       stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "TransportChannelReconfiguration-r6-IEs");
    }
    /* ul-DPCH-Info */
-   if (pvalue->m & 0x2000000u) {
-      rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
+   if (pvalue->m & 0x100000u) {
       stat = asn1PE_UMTS_UL_DPCH_Info_r6(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "TransportChannelReconfiguration-r6-IEs");
    }
    /* ul-EDCH-Information */
-   if (pvalue->m & 0x4000000u) {
-      rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
+   if (pvalue->m & 0x200000u) {
       stat = asn1PE_UMTS_UL_EDCH_Information_r6(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "TransportChannelReconfiguration-r6-IEs");
    }
    /* dl-HSPDSCH-Information */
-   if (pvalue->m & 0x8000000u) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
+   if (pvalue->m & 0x400000u) {
       stat = asn1PE_UMTS_DL_HSPDSCH_Information_r6(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "TransportChannelReconfiguration-r6-IEs");
    }
    /* dl-CommonInformation */
-   if (pvalue->m & 0x10000000u) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
+   if (pvalue->m & 0x800000u) {
       stat = asn1PE_UMTS_DL_CommonInformation_r6(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "TransportChannelReconfiguration-r6-IEs");
    }
    /* dl-InformationPerRL-List */
-   if (pvalue->m & 0x20000000u) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
+   if (pvalue->m & 0x1000000u) {
       stat = asn1PE_UMTS_DL_InformationPerRL_List_r6(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "TransportChannelReconfiguration-r6-IEs");
    }
    /* mbms-PL-ServiceRestrictInfo */
-   if (pvalue->m & 0x40000000u) {
-      rtxCtxtPushElemName(ctx, "mbms-PL-ServiceRestrictInfo");
-      rtxCtxtPushTypeName(ctx, "MBMS-PL-ServiceRestrictInfo-r6");
+   if (pvalue->m & 0x2000000u) {
       if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
          rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "TransportChannelReconfiguration-r6-IEs");
       }
       stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "TransportChannelReconfiguration-r6-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_v6b0ext_IEs(rtxContext* ctx, const CellUpdateConfirm_v6b0ext_IEs* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_v6b0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-v6b0ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransportChannelReconfiguration-v6b0ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-v6b0ext-IEs");
    /* dl-InformationPerRL-List-v6b0ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List-v6b0ext");
       stat = asn1PE_UMTS_DL_InformationPerRL_List_v6b0ext(ctx, &pvalue->dl_InformationPerRL_List_v6b0ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List-v6b0ext", -1, "TransportChannelReconfiguration-v6b0ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v6b0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v6b0ext");
-   stat = asn1PE_UMTS_CellUpdateConfirm_v6b0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v6b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v770ext */
+   stat = asn1PE_UMTS_TransportChannelReconfiguration_v770ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v770ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v770ext", -1, 0);
    /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(rtxContext* ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v6b0ext */
+   stat = asn1PE_UMTS_TransportChannelReconfiguration_v6b0ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v6b0ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-r6 */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r6");
-   stat = asn1PE_UMTS_CellUpdateConfirm_r6_IEs(ctx, &pvalue->cellUpdateConfirm_r6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellUpdateConfirm-r6-add-ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-r6 */
+   stat = asn1PE_UMTS_TransportChannelReconfiguration_r6_IEs(ctx, &pvalue->transportChannelReconfiguration_r6);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-r6", -1, 0);
+   /* transportChannelReconfiguration-r6-add-ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r6-add-ext");
       RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->cellUpdateConfirm_r6_add_ext.numbits, pvalue->cellUpdateConfirm_r6_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_BitString(ctx, pvalue->transportChannelReconfiguration_r6_add_ext.numbits, pvalue->transportChannelReconfiguration_r6_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-r6-add-ext", -1, 0);
    }
    /* v6b0NonCriticalExtensions */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v6b0NonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_r7_IEs(rtxContext* ctx, const CellUpdateConfirm_r7_IEs* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_r7_IEs_responseToChangeOfUE_Capability(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_r7_IEs_responseToChangeOfUE_Capability value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-r7-IEs");
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_r7_IEs(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_r7_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransportChannelReconfiguration-r7-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 31) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 30) |
@@ -2230,630 +3180,395 @@ int asn1PE_UMTS_CellUpdateConfirm_r7_IEs(rtxContext* ctx, const CellUpdateConfir
       ((uint64_t)((pvalue->m >> 29) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 30) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 31) & 1u) << 0), 32);
-   RT_CHECK(ctx, stat);
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 32) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 33) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 34) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 35) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 36) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 37) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-r7-IEs");
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 32) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 33) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-r7-IEs");
    /* integrityProtectionModeInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
       stat = asn1PE_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "TransportChannelReconfiguration-r7-IEs");
    }
    /* cipheringModeInfo */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
       stat = asn1PE_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "TransportChannelReconfiguration-r7-IEs");
    }
    /* activationTime */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
       stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "TransportChannelReconfiguration-r7-IEs");
+   }
+   /* delayRestrictionFlag */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->delayRestrictionFlag > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->delayRestrictionFlag);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "TransportChannelReconfiguration-r7-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->delayRestrictionFlag, 0, 0);
+      RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "TransportChannelReconfiguration-r7-IEs");
    }
    /* new-U-RNTI */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
+   if (pvalue->m & 0x10u) {
       stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "TransportChannelReconfiguration-r7-IEs");
    }
    /* new-C-RNTI */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
+   if (pvalue->m & 0x20u) {
       stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "TransportChannelReconfiguration-r7-IEs");
    }
    /* new-DSCH-RNTI */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
+   if (pvalue->m & 0x40u) {
       stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "TransportChannelReconfiguration-r7-IEs");
    }
    /* new-H-RNTI */
-   if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "new-H-RNTI");
+   if (pvalue->m & 0x80u) {
       stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "TransportChannelReconfiguration-r7-IEs");
    }
    /* newPrimary-E-RNTI */
-   if (pvalue->m & 0x80u) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
+   if (pvalue->m & 0x100u) {
       stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "TransportChannelReconfiguration-r7-IEs");
    }
    /* newSecondary-E-RNTI */
-   if (pvalue->m & 0x100u) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
+   if (pvalue->m & 0x200u) {
       stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "TransportChannelReconfiguration-r7-IEs");
    }
    /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
    if (pvalue->rrc_StateIndicator > 3) {
       rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "TransportChannelReconfiguration-r7-IEs");
    }
    stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* utran-DRX-CycleLengthCoeff */
-   if (pvalue->m & 0x200u) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
-      stat = asn1PE_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* waitTime */
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "TransportChannelReconfiguration-r7-IEs");
+   /* ueMobilityStateIndicator */
    if (pvalue->m & 0x400u) {
-      rtxCtxtPushElemName(ctx, "waitTime");
-      rtxCtxtPushTypeName(ctx, "WaitTime");
-      if ((uint64_t)pvalue->waitTime > 15u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->waitTime);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+      if (pvalue->ueMobilityStateIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->ueMobilityStateIndicator);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "TransportChannelReconfiguration-r7-IEs");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->waitTime, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->ueMobilityStateIndicator, 0, 0);
+      RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "TransportChannelReconfiguration-r7-IEs");
    }
-   /* rlc-Re-establishIndicatorRb2-3or4 */
-   rtxCtxtPushElemName(ctx, "rlc-Re-establishIndicatorRb2-3or4");
-   stat = rtxEncBit(ctx, pvalue->rlc_Re_establishIndicatorRb2_3or4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rlc-Re-establishIndicatorRb5orAbove */
-   rtxCtxtPushElemName(ctx, "rlc-Re-establishIndicatorRb5orAbove");
-   stat = rtxEncBit(ctx, pvalue->rlc_Re_establishIndicatorRb5orAbove);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cn-InformationInfo */
+   /* utran-DRX-CycleLengthCoeff */
    if (pvalue->m & 0x800u) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
+      stat = asn1PE_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "TransportChannelReconfiguration-r7-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x1000u) {
       stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "TransportChannelReconfiguration-r7-IEs");
    }
    /* ura-Identity */
-   if (pvalue->m & 0x1000u) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
+   if (pvalue->m & 0x2000u) {
       stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "TransportChannelReconfiguration-r7-IEs");
    }
    /* supportForChangeOfUE-Capability */
-   if (pvalue->m & 0x2000u) {
-      rtxCtxtPushElemName(ctx, "supportForChangeOfUE-Capability");
-      stat = rtxEncBit(ctx, pvalue->supportForChangeOfUE_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReleaseList */
    if (pvalue->m & 0x4000u) {
-      rtxCtxtPushElemName(ctx, "rb-InformationReleaseList");
-      stat = asn1PE_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = rtxEncBit(ctx, pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "TransportChannelReconfiguration-r7-IEs");
    }
-   /* rb-InformationReconfigList */
+   /* responseToChangeOfUE-Capability */
    if (pvalue->m & 0x8000u) {
-      rtxCtxtPushElemName(ctx, "rb-InformationReconfigList");
-      stat = asn1PE_UMTS_RB_InformationReconfigList_r7(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationAffectedList */
-   if (pvalue->m & 0x10000u) {
-      rtxCtxtPushElemName(ctx, "rb-InformationAffectedList");
-      stat = asn1PE_UMTS_RB_InformationAffectedList_r7(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if (pvalue->responseToChangeOfUE_Capability > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->responseToChangeOfUE_Capability);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "responseToChangeOfUE-Capability", -1, "TransportChannelReconfiguration-r7-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->responseToChangeOfUE_Capability, 0, 0);
+      RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "TransportChannelReconfiguration-r7-IEs");
    }
    /* dl-CounterSynchronisationInfo */
-   if (pvalue->m & 0x20000u) {
-      rtxCtxtPushElemName(ctx, "dl-CounterSynchronisationInfo");
+   if (pvalue->m & 0x10000u) {
       stat = asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdcp-ROHC-TargetMode */
-   if (pvalue->m & 0x40000u) {
-      rtxCtxtPushElemName(ctx, "pdcp-ROHC-TargetMode");
-      rtxCtxtPushTypeName(ctx, "PDCP-ROHC-TargetMode");
-      if (pvalue->pdcp_ROHC_TargetMode > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->pdcp_ROHC_TargetMode);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->pdcp_ROHC_TargetMode, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "TransportChannelReconfiguration-r7-IEs");
    }
    /* ul-CommonTransChInfo */
-   if (pvalue->m & 0x80000u) {
-      rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
+   if (pvalue->m & 0x20000u) {
       stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-deletedTransChInfoList */
-   if (pvalue->m & 0x100000u) {
-      rtxCtxtPushElemName(ctx, "ul-deletedTransChInfoList");
-      stat = asn1PE_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "TransportChannelReconfiguration-r7-IEs");
    }
    /* ul-AddReconfTransChInfoList */
-   if (pvalue->m & 0x200000u) {
-      rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
+   if (pvalue->m & 0x40000u) {
       stat = asn1PE_UMTS_UL_AddReconfTransChInfoList_r7(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "TransportChannelReconfiguration-r7-IEs");
    }
    /* dl-CommonTransChInfo */
-   if (pvalue->m & 0x400000u) {
-      rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
+   if (pvalue->m & 0x80000u) {
       stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-DeletedTransChInfoList */
-   if (pvalue->m & 0x800000u) {
-      rtxCtxtPushElemName(ctx, "dl-DeletedTransChInfoList");
-      stat = asn1PE_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "TransportChannelReconfiguration-r7-IEs");
    }
    /* dl-AddReconfTransChInfoList */
-   if (pvalue->m & 0x1000000u) {
-      rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
+   if (pvalue->m & 0x100000u) {
       stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "TransportChannelReconfiguration-r7-IEs");
    }
    /* frequencyInfo */
-   if (pvalue->m & 0x2000000u) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
+   if (pvalue->m & 0x200000u) {
       stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "TransportChannelReconfiguration-r7-IEs");
    }
    /* multi-frequencyInfo */
-   if (pvalue->m & 0x4000000u) {
-      rtxCtxtPushElemName(ctx, "multi-frequencyInfo");
+   if (pvalue->m & 0x400000u) {
       stat = asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "TransportChannelReconfiguration-r7-IEs");
    }
    /* dtx-drx-TimingInfo */
-   if (pvalue->m & 0x8000000u) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-TimingInfo");
+   if (pvalue->m & 0x800000u) {
       stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "TransportChannelReconfiguration-r7-IEs");
    }
    /* dtx-drx-Info */
-   if (pvalue->m & 0x10000000u) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-Info");
+   if (pvalue->m & 0x1000000u) {
       stat = asn1PE_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "TransportChannelReconfiguration-r7-IEs");
    }
    /* hs-scch-LessInfo */
-   if (pvalue->m & 0x20000000u) {
-      rtxCtxtPushElemName(ctx, "hs-scch-LessInfo");
+   if (pvalue->m & 0x2000000u) {
       stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "TransportChannelReconfiguration-r7-IEs");
    }
    /* mimoParameters */
-   if (pvalue->m & 0x40000000u) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
+   if (pvalue->m & 0x4000000u) {
       stat = asn1PE_UMTS_MIMO_Parameters_r7(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "TransportChannelReconfiguration-r7-IEs");
    }
    /* maxAllowedUL-TX-Power */
-   if (pvalue->m & 0x80000000u) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
+   if (pvalue->m & 0x8000000u) {
       if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
          rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "TransportChannelReconfiguration-r7-IEs");
       }
       stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "TransportChannelReconfiguration-r7-IEs");
    }
    /* ul-DPCH-Info */
-   if (pvalue->m & 0x100000000ull) {
-      rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
+   if (pvalue->m & 0x10000000u) {
       stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "TransportChannelReconfiguration-r7-IEs");
    }
    /* ul-EDCH-Information */
-   if (pvalue->m & 0x200000000ull) {
-      rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
+   if (pvalue->m & 0x20000000u) {
       stat = asn1PE_UMTS_UL_EDCH_Information_r7(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "TransportChannelReconfiguration-r7-IEs");
    }
    /* dl-HSPDSCH-Information */
-   if (pvalue->m & 0x400000000ull) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
+   if (pvalue->m & 0x40000000u) {
       stat = asn1PE_UMTS_DL_HSPDSCH_Information_r7(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "TransportChannelReconfiguration-r7-IEs");
    }
    /* dl-CommonInformation */
-   if (pvalue->m & 0x800000000ull) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
+   if (pvalue->m & 0x80000000u) {
       stat = asn1PE_UMTS_DL_CommonInformation_r7(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "TransportChannelReconfiguration-r7-IEs");
    }
    /* dl-InformationPerRL-List */
-   if (pvalue->m & 0x1000000000ull) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
+   if (pvalue->m & 0x100000000ull) {
       stat = asn1PE_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "TransportChannelReconfiguration-r7-IEs");
    }
    /* mbms-PL-ServiceRestrictInfo */
-   if (pvalue->m & 0x2000000000ull) {
-      rtxCtxtPushElemName(ctx, "mbms-PL-ServiceRestrictInfo");
-      rtxCtxtPushTypeName(ctx, "MBMS-PL-ServiceRestrictInfo-r6");
+   if (pvalue->m & 0x200000000ull) {
       if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
          rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "TransportChannelReconfiguration-r7-IEs");
       }
       stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "TransportChannelReconfiguration-r7-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_v7d0ext_IEs(rtxContext* ctx, const CellUpdateConfirm_v7d0ext_IEs* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_v780ext_IEs(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_v780ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-v7d0ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransportChannelReconfiguration-v780ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ul-EDCH-Information */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
-      stat = asn1PE_UMTS_UL_EDCH_Information_ext(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_v7f0ext_IEs(rtxContext* ctx, const CellUpdateConfirm_v7f0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-v7f0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* mimoParameters */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
-      stat = asn1PE_UMTS_MIMO_Parameters_v7f0ext(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_v7g0ext_IEs(rtxContext* ctx, const CellUpdateConfirm_v7g0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-v7g0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* mimoParameters */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
-      stat = asn1PE_UMTS_MIMO_Parameters_v7g0ext(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v7g0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v7g0ext");
-   stat = asn1PE_UMTS_CellUpdateConfirm_v7g0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7g0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v7f0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v7f0ext");
-   stat = asn1PE_UMTS_CellUpdateConfirm_v7f0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7f0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v7g0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v7g0NonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_r7_add_ext_IEs(rtxContext* ctx, const CellUpdateConfirm_r7_add_ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-r7-add-ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v7d0ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v7d0ext");
-      stat = asn1PE_UMTS_CellUpdateConfirm_v7d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7d0ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v7f0NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v7f0NonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_r7_add_ext_IEs_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_v780ext_IEs(rtxContext* ctx, const CellUpdateConfirm_v780ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-v780ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-v780ext-IEs");
    /* hs-DSCH-TBSizeTable */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "hs-DSCH-TBSizeTable");
-      rtxCtxtPushTypeName(ctx, "HS-DSCH-TBSizeTable");
       if (pvalue->hs_DSCH_TBSizeTable > 0) {
          rtxErrAddUIntParm(ctx, pvalue->hs_DSCH_TBSizeTable);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "TransportChannelReconfiguration-v780ext-IEs");
       }
       stat = pe_ConsUInt64(ctx, pvalue->hs_DSCH_TBSizeTable, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "TransportChannelReconfiguration-v780ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_v860ext_IEs_rab_InformationSetup(rtxContext* ctx, const CellUpdateConfirm_v860ext_IEs_rab_InformationSetup* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_v7d0ext_IEs(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_v7d0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* rab-InformationSetup-r7 */
-   rtxCtxtPushElemName(ctx, "rab-InformationSetup-r7");
-   stat = asn1PE_UMTS_RAB_InformationSetup_r7(ctx, &pvalue->rab_InformationSetup_r7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rab-InformationSetup-v820ext */
-   rtxCtxtPushElemName(ctx, "rab-InformationSetup-v820ext");
-   stat = asn1PE_UMTS_RAB_InformationSetup_v820ext(ctx, &pvalue->rab_InformationSetup_v820ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_v860ext_IEs(rtxContext* ctx, const CellUpdateConfirm_v860ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-v860ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransportChannelReconfiguration-v7d0ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* rab-InformationSetup */
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-v7d0ext-IEs");
+   /* ul-EDCH-Information */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "rab-InformationSetup");
-      stat = asn1PE_UMTS_CellUpdateConfirm_v860ext_IEs_rab_InformationSetup(ctx, &pvalue->rab_InformationSetup);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UL_EDCH_Information_ext(ctx, &pvalue->ul_EDCH_Information);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "TransportChannelReconfiguration-v7d0ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_v7f0ext_IEs(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_v7f0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransportChannelReconfiguration-v7f0ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v860ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v860ext");
-   stat = asn1PE_UMTS_CellUpdateConfirm_v860ext_IEs(ctx, &pvalue->cellUpdateConfirm_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-v7f0ext-IEs");
+   /* mimoParameters */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MIMO_Parameters_v7f0ext(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "TransportChannelReconfiguration-v7f0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_v7g0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransportChannelReconfiguration-v7g0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-v7g0ext-IEs");
+   /* mimoParameters */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MIMO_Parameters_v7g0ext(ctx, &pvalue->mimoParameters);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "TransportChannelReconfiguration-v7g0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v7g0ext */
+   stat = asn1PE_UMTS_TransportChannelReconfiguration_v7g0ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v7g0ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v7g0ext", -1, 0);
    /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v780ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v780ext");
-   stat = asn1PE_UMTS_CellUpdateConfirm_v780ext_IEs(ctx, &pvalue->cellUpdateConfirm_v780ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v860NonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v7f0ext */
+   stat = asn1PE_UMTS_TransportChannelReconfiguration_v7f0ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v7f0ext", -1, 0);
+   /* v7g0NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v7d0ext */
+   stat = asn1PE_UMTS_TransportChannelReconfiguration_v7d0ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v7d0ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v7d0ext", -1, 0);
+   /* v7f0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v780ext */
+   stat = asn1PE_UMTS_TransportChannelReconfiguration_v780ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v780ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v780ext", -1, 0);
+   /* v7d0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-r7 */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r7");
-   stat = asn1PE_UMTS_CellUpdateConfirm_r7_IEs(ctx, &pvalue->cellUpdateConfirm_r7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellUpdateConfirm-r7-add-ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-r7 */
+   stat = asn1PE_UMTS_TransportChannelReconfiguration_r7_IEs(ctx, &pvalue->transportChannelReconfiguration_r7);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-r7", -1, 0);
+   /* transportChannelReconfiguration-r7-add-ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r7-add-ext");
-      {
-         rtxContext outer;
-         const uint8_t* data;
-         uint32_t len;
-         rtxCopyContext(&outer, ctx);
-         stat = rtxInitContextBuffer(ctx, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = asn1PE_UMTS_CellUpdateConfirm_r7_add_ext_IEs(ctx, &pvalue->cellUpdateConfirm_r7_add_ext);
-         RT_CHECK(ctx, stat);
-         data = ctx->buffer_data;
-         len = ctx->byte_index * 8 + 8 - ctx->bit_offset;
-         rtxCopyContext(ctx, &outer);
-         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-         stat = pe_BitString(ctx, len, data);
-         rtxMemHeapFreePtr(ctx, (void*)data);
-         RT_CHECK(ctx, stat);
-      }
-      rtxCtxtPopElemName(ctx);
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->transportChannelReconfiguration_r7_add_ext.numbits, pvalue->transportChannelReconfiguration_r7_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-r7-add-ext", -1, 0);
    }
    /* v780NonCriticalExtensions */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v780NonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v780NonCriticalExtensions", -1, 0);
    }
-   return stat;
+   return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_r8_IEs(rtxContext* ctx, const CellUpdateConfirm_r8_IEs* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_r8_IEs_responseToChangeOfUE_Capability(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_r8_IEs_responseToChangeOfUE_Capability value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-r8-IEs");
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_r8_IEs(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_r8_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransportChannelReconfiguration-r8-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 31) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 30) |
@@ -2887,572 +3602,403 @@ int asn1PE_UMTS_CellUpdateConfirm_r8_IEs(rtxContext* ctx, const CellUpdateConfir
       ((uint64_t)((pvalue->m >> 29) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 30) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 31) & 1u) << 0), 32);
-   RT_CHECK(ctx, stat);
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 32) & 1u) << 10) |
-      ((uint64_t)((pvalue->m >> 33) & 1u) << 9) |
-      ((uint64_t)((pvalue->m >> 34) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 35) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 36) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 37) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 38) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 39) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 40) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 41) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 42) & 1u) << 0), 11);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-r8-IEs");
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 32) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 33) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 34) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 35) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 36) & 1u) << 0), 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-r8-IEs");
    /* integrityProtectionModeInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
       stat = asn1PE_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "TransportChannelReconfiguration-r8-IEs");
    }
    /* cipheringModeInfo */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
       stat = asn1PE_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "TransportChannelReconfiguration-r8-IEs");
    }
    /* activationTime */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
       stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "TransportChannelReconfiguration-r8-IEs");
+   }
+   /* delayRestrictionFlag */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->delayRestrictionFlag > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->delayRestrictionFlag);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "TransportChannelReconfiguration-r8-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->delayRestrictionFlag, 0, 0);
+      RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "TransportChannelReconfiguration-r8-IEs");
    }
    /* new-U-RNTI */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
+   if (pvalue->m & 0x10u) {
       stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "TransportChannelReconfiguration-r8-IEs");
    }
    /* new-C-RNTI */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
+   if (pvalue->m & 0x20u) {
       stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "TransportChannelReconfiguration-r8-IEs");
    }
    /* new-DSCH-RNTI */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
+   if (pvalue->m & 0x40u) {
       stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "TransportChannelReconfiguration-r8-IEs");
    }
    /* new-H-RNTI */
-   if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "new-H-RNTI");
+   if (pvalue->m & 0x80u) {
       stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "TransportChannelReconfiguration-r8-IEs");
    }
    /* newPrimary-E-RNTI */
-   if (pvalue->m & 0x80u) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
+   if (pvalue->m & 0x100u) {
       stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "TransportChannelReconfiguration-r8-IEs");
    }
    /* newSecondary-E-RNTI */
-   if (pvalue->m & 0x100u) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
+   if (pvalue->m & 0x200u) {
       stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "TransportChannelReconfiguration-r8-IEs");
    }
    /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
    if (pvalue->rrc_StateIndicator > 3) {
       rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "TransportChannelReconfiguration-r8-IEs");
    }
    stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* utran-DRX-CycleLengthCoeff */
-   if (pvalue->m & 0x200u) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
-      stat = asn1PE_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* waitTime */
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "TransportChannelReconfiguration-r8-IEs");
+   /* ueMobilityStateIndicator */
    if (pvalue->m & 0x400u) {
-      rtxCtxtPushElemName(ctx, "waitTime");
-      rtxCtxtPushTypeName(ctx, "WaitTime");
-      if ((uint64_t)pvalue->waitTime > 15u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->waitTime);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+      if (pvalue->ueMobilityStateIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->ueMobilityStateIndicator);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "TransportChannelReconfiguration-r8-IEs");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->waitTime, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->ueMobilityStateIndicator, 0, 0);
+      RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "TransportChannelReconfiguration-r8-IEs");
    }
-   /* rlc-Re-establishIndicatorRb2-3or4 */
-   rtxCtxtPushElemName(ctx, "rlc-Re-establishIndicatorRb2-3or4");
-   stat = rtxEncBit(ctx, pvalue->rlc_Re_establishIndicatorRb2_3or4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rlc-Re-establishIndicatorRb5orAbove */
-   rtxCtxtPushElemName(ctx, "rlc-Re-establishIndicatorRb5orAbove");
-   stat = rtxEncBit(ctx, pvalue->rlc_Re_establishIndicatorRb5orAbove);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cn-InformationInfo */
+   /* utran-DRX-CycleLengthCoeff */
    if (pvalue->m & 0x800u) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
+      stat = asn1PE_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "TransportChannelReconfiguration-r8-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x1000u) {
       stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "TransportChannelReconfiguration-r8-IEs");
    }
    /* ura-Identity */
-   if (pvalue->m & 0x1000u) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
+   if (pvalue->m & 0x2000u) {
       stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "TransportChannelReconfiguration-r8-IEs");
    }
    /* supportForChangeOfUE-Capability */
-   if (pvalue->m & 0x2000u) {
-      rtxCtxtPushElemName(ctx, "supportForChangeOfUE-Capability");
-      stat = rtxEncBit(ctx, pvalue->supportForChangeOfUE_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* defaultConfigForCellFACH */
    if (pvalue->m & 0x4000u) {
-      rtxCtxtPushElemName(ctx, "defaultConfigForCellFACH");
-      stat = asn1PE_UMTS_DefaultConfigForCellFACH(ctx, &pvalue->defaultConfigForCellFACH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = rtxEncBit(ctx, pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "TransportChannelReconfiguration-r8-IEs");
    }
-   /* rab-InformationSetup */
+   /* responseToChangeOfUE-Capability */
    if (pvalue->m & 0x8000u) {
-      rtxCtxtPushElemName(ctx, "rab-InformationSetup");
-      stat = asn1PE_UMTS_RAB_InformationSetup_r8(ctx, &pvalue->rab_InformationSetup);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReleaseList */
-   if (pvalue->m & 0x10000u) {
-      rtxCtxtPushElemName(ctx, "rb-InformationReleaseList");
-      stat = asn1PE_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReconfigList */
-   if (pvalue->m & 0x20000u) {
-      rtxCtxtPushElemName(ctx, "rb-InformationReconfigList");
-      stat = asn1PE_UMTS_RB_InformationReconfigList_r8(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationAffectedList */
-   if (pvalue->m & 0x40000u) {
-      rtxCtxtPushElemName(ctx, "rb-InformationAffectedList");
-      stat = asn1PE_UMTS_RB_InformationAffectedList_r8(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if (pvalue->responseToChangeOfUE_Capability > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->responseToChangeOfUE_Capability);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "responseToChangeOfUE-Capability", -1, "TransportChannelReconfiguration-r8-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->responseToChangeOfUE_Capability, 0, 0);
+      RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "TransportChannelReconfiguration-r8-IEs");
    }
    /* dl-CounterSynchronisationInfo */
-   if (pvalue->m & 0x80000u) {
-      rtxCtxtPushElemName(ctx, "dl-CounterSynchronisationInfo");
+   if (pvalue->m & 0x10000u) {
       stat = asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdcp-ROHC-TargetMode */
-   if (pvalue->m & 0x100000u) {
-      rtxCtxtPushElemName(ctx, "pdcp-ROHC-TargetMode");
-      rtxCtxtPushTypeName(ctx, "PDCP-ROHC-TargetMode");
-      if (pvalue->pdcp_ROHC_TargetMode > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->pdcp_ROHC_TargetMode);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->pdcp_ROHC_TargetMode, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "TransportChannelReconfiguration-r8-IEs");
    }
    /* ul-CommonTransChInfo */
-   if (pvalue->m & 0x200000u) {
-      rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
+   if (pvalue->m & 0x20000u) {
       stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-deletedTransChInfoList */
-   if (pvalue->m & 0x400000u) {
-      rtxCtxtPushElemName(ctx, "ul-deletedTransChInfoList");
-      stat = asn1PE_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "TransportChannelReconfiguration-r8-IEs");
    }
    /* ul-AddReconfTransChInfoList */
-   if (pvalue->m & 0x800000u) {
-      rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
+   if (pvalue->m & 0x40000u) {
       stat = asn1PE_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "TransportChannelReconfiguration-r8-IEs");
    }
    /* dl-CommonTransChInfo */
-   if (pvalue->m & 0x1000000u) {
-      rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
+   if (pvalue->m & 0x80000u) {
       stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-DeletedTransChInfoList */
-   if (pvalue->m & 0x2000000u) {
-      rtxCtxtPushElemName(ctx, "dl-DeletedTransChInfoList");
-      stat = asn1PE_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "TransportChannelReconfiguration-r8-IEs");
    }
    /* dl-AddReconfTransChInfoList */
-   if (pvalue->m & 0x4000000u) {
-      rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
+   if (pvalue->m & 0x100000u) {
       stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "TransportChannelReconfiguration-r8-IEs");
    }
    /* frequencyInfo */
-   if (pvalue->m & 0x8000000u) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
+   if (pvalue->m & 0x200000u) {
       stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "TransportChannelReconfiguration-r8-IEs");
    }
    /* multi-frequencyInfo */
-   if (pvalue->m & 0x10000000u) {
-      rtxCtxtPushElemName(ctx, "multi-frequencyInfo");
+   if (pvalue->m & 0x400000u) {
       stat = asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "TransportChannelReconfiguration-r8-IEs");
    }
    /* dtx-drx-TimingInfo */
-   if (pvalue->m & 0x20000000u) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-TimingInfo");
+   if (pvalue->m & 0x800000u) {
       stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "TransportChannelReconfiguration-r8-IEs");
    }
    /* dtx-drx-Info */
-   if (pvalue->m & 0x40000000u) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-Info");
+   if (pvalue->m & 0x1000000u) {
       stat = asn1PE_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "TransportChannelReconfiguration-r8-IEs");
    }
    /* hs-scch-LessInfo */
-   if (pvalue->m & 0x80000000u) {
-      rtxCtxtPushElemName(ctx, "hs-scch-LessInfo");
+   if (pvalue->m & 0x2000000u) {
       stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "TransportChannelReconfiguration-r8-IEs");
    }
    /* mimoParameters */
-   if (pvalue->m & 0x100000000ull) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
+   if (pvalue->m & 0x4000000u) {
       stat = asn1PE_UMTS_MIMO_Parameters_r8(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "TransportChannelReconfiguration-r8-IEs");
    }
    /* maxAllowedUL-TX-Power */
-   if (pvalue->m & 0x200000000ull) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
+   if (pvalue->m & 0x8000000u) {
       if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
          rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "TransportChannelReconfiguration-r8-IEs");
       }
       stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "TransportChannelReconfiguration-r8-IEs");
    }
    /* ul-DPCH-Info */
-   if (pvalue->m & 0x400000000ull) {
-      rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
+   if (pvalue->m & 0x10000000u) {
       stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "TransportChannelReconfiguration-r8-IEs");
    }
    /* ul-EDCH-Information */
-   if (pvalue->m & 0x800000000ull) {
-      rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
+   if (pvalue->m & 0x20000000u) {
       stat = asn1PE_UMTS_UL_EDCH_Information_r8(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "TransportChannelReconfiguration-r8-IEs");
    }
    /* dl-HSPDSCH-Information */
-   if (pvalue->m & 0x1000000000ull) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
+   if (pvalue->m & 0x40000000u) {
       stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "TransportChannelReconfiguration-r8-IEs");
    }
    /* dl-CommonInformation */
-   if (pvalue->m & 0x2000000000ull) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
+   if (pvalue->m & 0x80000000u) {
       stat = asn1PE_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "TransportChannelReconfiguration-r8-IEs");
    }
    /* dl-InformationPerRL-List */
-   if (pvalue->m & 0x4000000000ull) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
+   if (pvalue->m & 0x100000000ull) {
       stat = asn1PE_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "TransportChannelReconfiguration-r8-IEs");
    }
    /* dl-SecondaryCellInfoFDD */
-   if (pvalue->m & 0x8000000000ull) {
-      rtxCtxtPushElemName(ctx, "dl-SecondaryCellInfoFDD");
+   if (pvalue->m & 0x200000000ull) {
       stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD(ctx, &pvalue->dl_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "TransportChannelReconfiguration-r8-IEs");
    }
    /* controlChannelDRXInfo-TDD128 */
-   if (pvalue->m & 0x10000000000ull) {
-      rtxCtxtPushElemName(ctx, "controlChannelDRXInfo-TDD128");
+   if (pvalue->m & 0x400000000ull) {
       stat = asn1PE_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "controlChannelDRXInfo-TDD128", -1, "TransportChannelReconfiguration-r8-IEs");
    }
    /* sps-Information-TDD128 */
-   if (pvalue->m & 0x20000000000ull) {
-      rtxCtxtPushElemName(ctx, "sps-Information-TDD128");
+   if (pvalue->m & 0x800000000ull) {
       stat = asn1PE_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "TransportChannelReconfiguration-r8-IEs");
    }
    /* mbms-PL-ServiceRestrictInfo */
-   if (pvalue->m & 0x40000000000ull) {
-      rtxCtxtPushElemName(ctx, "mbms-PL-ServiceRestrictInfo");
-      rtxCtxtPushTypeName(ctx, "MBMS-PL-ServiceRestrictInfo-r6");
+   if (pvalue->m & 0x1000000000ull) {
       if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
          rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "TransportChannelReconfiguration-r8-IEs");
       }
       stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "TransportChannelReconfiguration-r8-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_v890ext_IEs(rtxContext* ctx, const CellUpdateConfirm_v890ext_IEs* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_v890ext_IEs(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_v890ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-v890ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransportChannelReconfiguration-v890ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-v890ext-IEs");
    /* dl-SecondaryCellInfoFDD-v890ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-SecondaryCellInfoFDD-v890ext");
       stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD_v890ext(ctx, &pvalue->dl_SecondaryCellInfoFDD_v890ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD-v890ext", -1, "TransportChannelReconfiguration-v890ext-IEs");
    }
    /* dl-HSPDSCH-Information */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
       stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_ext(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "TransportChannelReconfiguration-v890ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_v8a0ext_IEs(rtxContext* ctx, const CellUpdateConfirm_v8a0ext_IEs* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_v8a0ext_IEs(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_v8a0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-v8a0ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransportChannelReconfiguration-v8a0ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-v8a0ext-IEs");
    /* dl-HSPDSCH-Information */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
       stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_ext2(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "TransportChannelReconfiguration-v8a0ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v8a0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v8a0ext");
-   stat = asn1PE_UMTS_CellUpdateConfirm_v8a0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v8a0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v8a0ext */
+   stat = asn1PE_UMTS_TransportChannelReconfiguration_v8a0ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v8a0ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v8a0ext", -1, 0);
    /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v7g0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v7g0ext");
-   stat = asn1PE_UMTS_CellUpdateConfirm_v7g0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7g0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v7g0ext */
+   stat = asn1PE_UMTS_TransportChannelReconfiguration_v7g0ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v7g0ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v7g0ext", -1, 0);
    /* v8a0NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v8a0NonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v8a0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v890ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v890ext");
-   stat = asn1PE_UMTS_CellUpdateConfirm_v890ext_IEs(ctx, &pvalue->cellUpdateConfirm_v890ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v890ext */
+   stat = asn1PE_UMTS_TransportChannelReconfiguration_v890ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v890ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v890ext", -1, 0);
    /* v7g0NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v7g0NonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v7f0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v7f0ext");
-   stat = asn1PE_UMTS_CellUpdateConfirm_v7f0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7f0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v7f0ext */
+   stat = asn1PE_UMTS_TransportChannelReconfiguration_v7f0ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v7f0ext", -1, 0);
    /* v890NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v890NonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v7d0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v7d0ext");
-   stat = asn1PE_UMTS_CellUpdateConfirm_v7d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7d0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-v7d0ext */
+   stat = asn1PE_UMTS_TransportChannelReconfiguration_v7d0ext_IEs(ctx, &pvalue->transportChannelReconfiguration_v7d0ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-v7d0ext", -1, 0);
    /* v7f0NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v7f0NonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-r8 */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r8");
-   stat = asn1PE_UMTS_CellUpdateConfirm_r8_IEs(ctx, &pvalue->cellUpdateConfirm_r8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellUpdateConfirm-r8-add-ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-r8 */
+   stat = asn1PE_UMTS_TransportChannelReconfiguration_r8_IEs(ctx, &pvalue->transportChannelReconfiguration_r8);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-r8", -1, 0);
+   /* transportChannelReconfiguration-r8-add-ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r8-add-ext");
       RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->cellUpdateConfirm_r8_add_ext.numbits, pvalue->cellUpdateConfirm_r8_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_BitString(ctx, pvalue->transportChannelReconfiguration_r8_add_ext.numbits, pvalue->transportChannelReconfiguration_r8_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-r8-add-ext", -1, 0);
    }
    /* v7d0NonCriticalExtensions */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v7d0NonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7d0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_r9_IEs(rtxContext* ctx, const CellUpdateConfirm_r9_IEs* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_r9_IEs_responseToChangeOfUE_Capability(rtxContext* RT_RESTRICT ctx, TransportChannelReconfiguration_r9_IEs_responseToChangeOfUE_Capability value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-r9-IEs");
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfiguration_r9_IEs(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_r9_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransportChannelReconfiguration-r9-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 31) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 30) |
@@ -3486,457 +4032,297 @@ int asn1PE_UMTS_CellUpdateConfirm_r9_IEs(rtxContext* ctx, const CellUpdateConfir
       ((uint64_t)((pvalue->m >> 29) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 30) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 31) & 1u) << 0), 32);
-   RT_CHECK(ctx, stat);
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 32) & 1u) << 12) |
-      ((uint64_t)((pvalue->m >> 33) & 1u) << 11) |
-      ((uint64_t)((pvalue->m >> 34) & 1u) << 10) |
-      ((uint64_t)((pvalue->m >> 35) & 1u) << 9) |
-      ((uint64_t)((pvalue->m >> 36) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 37) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 38) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 39) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 40) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 41) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 42) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 43) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 44) & 1u) << 0), 13);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-r9-IEs");
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 32) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 33) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 34) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 35) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 36) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 37) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 38) & 1u) << 0), 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfiguration-r9-IEs");
    /* integrityProtectionModeInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
       stat = asn1PE_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "TransportChannelReconfiguration-r9-IEs");
    }
    /* cipheringModeInfo */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
       stat = asn1PE_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "TransportChannelReconfiguration-r9-IEs");
    }
    /* activationTime */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
       stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "TransportChannelReconfiguration-r9-IEs");
+   }
+   /* delayRestrictionFlag */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->delayRestrictionFlag > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->delayRestrictionFlag);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "TransportChannelReconfiguration-r9-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->delayRestrictionFlag, 0, 0);
+      RT_CHECK(ctx, stat, "DelayRestrictionFlag", "delayRestrictionFlag", -1, "TransportChannelReconfiguration-r9-IEs");
    }
    /* new-U-RNTI */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
+   if (pvalue->m & 0x10u) {
       stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "TransportChannelReconfiguration-r9-IEs");
    }
    /* new-C-RNTI */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
+   if (pvalue->m & 0x20u) {
       stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "TransportChannelReconfiguration-r9-IEs");
    }
    /* new-DSCH-RNTI */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
+   if (pvalue->m & 0x40u) {
       stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "TransportChannelReconfiguration-r9-IEs");
    }
    /* new-H-RNTI */
-   if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "new-H-RNTI");
+   if (pvalue->m & 0x80u) {
       stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "TransportChannelReconfiguration-r9-IEs");
    }
    /* newPrimary-E-RNTI */
-   if (pvalue->m & 0x80u) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
+   if (pvalue->m & 0x100u) {
       stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "TransportChannelReconfiguration-r9-IEs");
    }
    /* newSecondary-E-RNTI */
-   if (pvalue->m & 0x100u) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
+   if (pvalue->m & 0x200u) {
       stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "TransportChannelReconfiguration-r9-IEs");
    }
    /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
    if (pvalue->rrc_StateIndicator > 3) {
       rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "TransportChannelReconfiguration-r9-IEs");
    }
    stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* utran-DRX-CycleLengthCoeff */
-   if (pvalue->m & 0x200u) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
-      stat = asn1PE_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* waitTime */
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "TransportChannelReconfiguration-r9-IEs");
+   /* ueMobilityStateIndicator */
    if (pvalue->m & 0x400u) {
-      rtxCtxtPushElemName(ctx, "waitTime");
-      rtxCtxtPushTypeName(ctx, "WaitTime");
-      if ((uint64_t)pvalue->waitTime > 15u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->waitTime);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+      if (pvalue->ueMobilityStateIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->ueMobilityStateIndicator);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "TransportChannelReconfiguration-r9-IEs");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->waitTime, 0, 15);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->ueMobilityStateIndicator, 0, 0);
+      RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "TransportChannelReconfiguration-r9-IEs");
    }
-   /* rlc-Re-establishIndicatorRb2-3or4 */
-   rtxCtxtPushElemName(ctx, "rlc-Re-establishIndicatorRb2-3or4");
-   stat = rtxEncBit(ctx, pvalue->rlc_Re_establishIndicatorRb2_3or4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rlc-Re-establishIndicatorRb5orAbove */
-   rtxCtxtPushElemName(ctx, "rlc-Re-establishIndicatorRb5orAbove");
-   stat = rtxEncBit(ctx, pvalue->rlc_Re_establishIndicatorRb5orAbove);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cn-InformationInfo */
+   /* utran-DRX-CycleLengthCoeff */
    if (pvalue->m & 0x800u) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
+      stat = asn1PE_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "TransportChannelReconfiguration-r9-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x1000u) {
       stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "TransportChannelReconfiguration-r9-IEs");
    }
    /* ura-Identity */
-   if (pvalue->m & 0x1000u) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
+   if (pvalue->m & 0x2000u) {
       stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "TransportChannelReconfiguration-r9-IEs");
    }
    /* supportForChangeOfUE-Capability */
-   if (pvalue->m & 0x2000u) {
-      rtxCtxtPushElemName(ctx, "supportForChangeOfUE-Capability");
-      stat = rtxEncBit(ctx, pvalue->supportForChangeOfUE_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* defaultConfigForCellFACH */
    if (pvalue->m & 0x4000u) {
-      rtxCtxtPushElemName(ctx, "defaultConfigForCellFACH");
-      stat = asn1PE_UMTS_DefaultConfigForCellFACH(ctx, &pvalue->defaultConfigForCellFACH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = rtxEncBit(ctx, pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "TransportChannelReconfiguration-r9-IEs");
    }
-   /* rab-InformationSetup */
+   /* responseToChangeOfUE-Capability */
    if (pvalue->m & 0x8000u) {
-      rtxCtxtPushElemName(ctx, "rab-InformationSetup");
-      stat = asn1PE_UMTS_RAB_InformationSetup_r8(ctx, &pvalue->rab_InformationSetup);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReleaseList */
-   if (pvalue->m & 0x10000u) {
-      rtxCtxtPushElemName(ctx, "rb-InformationReleaseList");
-      stat = asn1PE_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationReconfigList */
-   if (pvalue->m & 0x20000u) {
-      rtxCtxtPushElemName(ctx, "rb-InformationReconfigList");
-      stat = asn1PE_UMTS_RB_InformationReconfigList_r8(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rb-InformationAffectedList */
-   if (pvalue->m & 0x40000u) {
-      rtxCtxtPushElemName(ctx, "rb-InformationAffectedList");
-      stat = asn1PE_UMTS_RB_InformationAffectedList_r8(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if (pvalue->responseToChangeOfUE_Capability > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->responseToChangeOfUE_Capability);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "responseToChangeOfUE-Capability", -1, "TransportChannelReconfiguration-r9-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->responseToChangeOfUE_Capability, 0, 0);
+      RT_CHECK(ctx, stat, 0, "responseToChangeOfUE-Capability", -1, "TransportChannelReconfiguration-r9-IEs");
    }
    /* dl-CounterSynchronisationInfo */
-   if (pvalue->m & 0x80000u) {
-      rtxCtxtPushElemName(ctx, "dl-CounterSynchronisationInfo");
+   if (pvalue->m & 0x10000u) {
       stat = asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdcp-ROHC-TargetMode */
-   if (pvalue->m & 0x100000u) {
-      rtxCtxtPushElemName(ctx, "pdcp-ROHC-TargetMode");
-      rtxCtxtPushTypeName(ctx, "PDCP-ROHC-TargetMode");
-      if (pvalue->pdcp_ROHC_TargetMode > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->pdcp_ROHC_TargetMode);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->pdcp_ROHC_TargetMode, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "TransportChannelReconfiguration-r9-IEs");
    }
    /* ul-CommonTransChInfo */
-   if (pvalue->m & 0x200000u) {
-      rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
+   if (pvalue->m & 0x20000u) {
       stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-deletedTransChInfoList */
-   if (pvalue->m & 0x400000u) {
-      rtxCtxtPushElemName(ctx, "ul-deletedTransChInfoList");
-      stat = asn1PE_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "TransportChannelReconfiguration-r9-IEs");
    }
    /* ul-AddReconfTransChInfoList */
-   if (pvalue->m & 0x800000u) {
-      rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
+   if (pvalue->m & 0x40000u) {
       stat = asn1PE_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "TransportChannelReconfiguration-r9-IEs");
    }
    /* dl-CommonTransChInfo */
-   if (pvalue->m & 0x1000000u) {
-      rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
+   if (pvalue->m & 0x80000u) {
       stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-DeletedTransChInfoList */
-   if (pvalue->m & 0x2000000u) {
-      rtxCtxtPushElemName(ctx, "dl-DeletedTransChInfoList");
-      stat = asn1PE_UMTS_DL_DeletedTransChInfoList_r7(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "TransportChannelReconfiguration-r9-IEs");
    }
    /* dl-AddReconfTransChInfoList */
-   if (pvalue->m & 0x4000000u) {
-      rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
+   if (pvalue->m & 0x100000u) {
       stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r9(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "TransportChannelReconfiguration-r9-IEs");
    }
    /* frequencyInfo */
-   if (pvalue->m & 0x8000000u) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
+   if (pvalue->m & 0x200000u) {
       stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "TransportChannelReconfiguration-r9-IEs");
    }
    /* multi-frequencyInfo */
-   if (pvalue->m & 0x10000000u) {
-      rtxCtxtPushElemName(ctx, "multi-frequencyInfo");
+   if (pvalue->m & 0x400000u) {
       stat = asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "multi-frequencyInfo", -1, "TransportChannelReconfiguration-r9-IEs");
    }
    /* dtx-drx-TimingInfo */
-   if (pvalue->m & 0x20000000u) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-TimingInfo");
+   if (pvalue->m & 0x800000u) {
       stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "TransportChannelReconfiguration-r9-IEs");
    }
    /* dtx-drx-Info */
-   if (pvalue->m & 0x40000000u) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-Info");
+   if (pvalue->m & 0x1000000u) {
       stat = asn1PE_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "TransportChannelReconfiguration-r9-IEs");
    }
    /* hs-scch-LessInfo */
-   if (pvalue->m & 0x80000000u) {
-      rtxCtxtPushElemName(ctx, "hs-scch-LessInfo");
+   if (pvalue->m & 0x2000000u) {
       stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "TransportChannelReconfiguration-r9-IEs");
    }
    /* mimoParameters */
-   if (pvalue->m & 0x100000000ull) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
+   if (pvalue->m & 0x4000000u) {
       stat = asn1PE_UMTS_MIMO_Parameters_r9(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "TransportChannelReconfiguration-r9-IEs");
    }
    /* maxAllowedUL-TX-Power */
-   if (pvalue->m & 0x200000000ull) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
+   if (pvalue->m & 0x8000000u) {
       if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-         rtxErrAddElemNameParm(ctx);
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
          rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "TransportChannelReconfiguration-r9-IEs");
       }
       stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "TransportChannelReconfiguration-r9-IEs");
    }
    /* ul-DPCH-Info */
-   if (pvalue->m & 0x400000000ull) {
-      rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
+   if (pvalue->m & 0x10000000u) {
       stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "TransportChannelReconfiguration-r9-IEs");
    }
    /* ul-EDCH-Information */
-   if (pvalue->m & 0x800000000ull) {
-      rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
+   if (pvalue->m & 0x20000000u) {
       stat = asn1PE_UMTS_UL_EDCH_Information_r9(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "TransportChannelReconfiguration-r9-IEs");
    }
    /* ul-SecondaryCellInfoFDD */
-   if (pvalue->m & 0x1000000000ull) {
-      rtxCtxtPushElemName(ctx, "ul-SecondaryCellInfoFDD");
+   if (pvalue->m & 0x40000000u) {
       stat = asn1PE_UMTS_UL_SecondaryCellInfoFDD(ctx, &pvalue->ul_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ul-SecondaryCellInfoFDD", -1, "TransportChannelReconfiguration-r9-IEs");
    }
    /* dl-HSPDSCH-Information */
-   if (pvalue->m & 0x2000000000ull) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
+   if (pvalue->m & 0x80000000u) {
       stat = asn1PE_UMTS_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "TransportChannelReconfiguration-r9-IEs");
    }
    /* dl-CommonInformation */
-   if (pvalue->m & 0x4000000000ull) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
+   if (pvalue->m & 0x100000000ull) {
       stat = asn1PE_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "TransportChannelReconfiguration-r9-IEs");
    }
    /* dl-InformationPerRL-List */
-   if (pvalue->m & 0x8000000000ull) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
+   if (pvalue->m & 0x200000000ull) {
       stat = asn1PE_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "TransportChannelReconfiguration-r9-IEs");
    }
    /* dl-SecondaryCellInfoFDD */
-   if (pvalue->m & 0x10000000000ull) {
-      rtxCtxtPushElemName(ctx, "dl-SecondaryCellInfoFDD");
+   if (pvalue->m & 0x400000000ull) {
       stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD_r9(ctx, &pvalue->dl_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "TransportChannelReconfiguration-r9-IEs");
    }
    /* controlChannelDRXInfo-TDD128 */
-   if (pvalue->m & 0x20000000000ull) {
-      rtxCtxtPushElemName(ctx, "controlChannelDRXInfo-TDD128");
+   if (pvalue->m & 0x800000000ull) {
       stat = asn1PE_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "controlChannelDRXInfo-TDD128", -1, "TransportChannelReconfiguration-r9-IEs");
    }
    /* sps-Information-TDD128 */
-   if (pvalue->m & 0x40000000000ull) {
-      rtxCtxtPushElemName(ctx, "sps-Information-TDD128");
+   if (pvalue->m & 0x1000000000ull) {
       stat = asn1PE_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "sps-Information-TDD128", -1, "TransportChannelReconfiguration-r9-IEs");
    }
    /* mbms-PL-ServiceRestrictInfo */
-   if (pvalue->m & 0x80000000000ull) {
-      rtxCtxtPushElemName(ctx, "mbms-PL-ServiceRestrictInfo");
-      rtxCtxtPushTypeName(ctx, "MBMS-PL-ServiceRestrictInfo-r6");
+   if (pvalue->m & 0x2000000000ull) {
       if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
          rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "TransportChannelReconfiguration-r9-IEs");
       }
       stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "TransportChannelReconfiguration-r9-IEs");
    }
    /* cellDCHMeasOccasionInfo-TDD128 */
-   if (pvalue->m & 0x100000000000ull) {
-      rtxCtxtPushElemName(ctx, "cellDCHMeasOccasionInfo-TDD128");
+   if (pvalue->m & 0x4000000000ull) {
       stat = asn1PE_UMTS_CellDCHMeasOccasionInfo_TDD128_r9(ctx, &pvalue->cellDCHMeasOccasionInfo_TDD128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "cellDCHMeasOccasionInfo-TDD128", -1, "TransportChannelReconfiguration-r9-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-r9 */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r9");
-   stat = asn1PE_UMTS_CellUpdateConfirm_r9_IEs(ctx, &pvalue->cellUpdateConfirm_r9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellUpdateConfirm-r9-add-ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfiguration-r9 */
+   stat = asn1PE_UMTS_TransportChannelReconfiguration_r9_IEs(ctx, &pvalue->transportChannelReconfiguration_r9);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-r9", -1, 0);
+   /* transportChannelReconfiguration-r9-add-ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r9-add-ext");
       RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->cellUpdateConfirm_r9_add_ext.numbits, pvalue->cellUpdateConfirm_r9_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_BitString(ctx, pvalue->transportChannelReconfiguration_r9_add_ext.numbits, pvalue->transportChannelReconfiguration_r9_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration-r9-add-ext", -1, 0);
    }
    /* nonCriticalExtensions */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "r9");
-         if (pvalue->u.r9 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.r9 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r9", -1, 0);
+         stat = asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
+         RT_CHECK(ctx, stat, 0, "r9", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
          break;
       default:
          break;
@@ -3944,29 +4330,23 @@ int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExten
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "r8");
-         if (pvalue->u.r8 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.r8 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r8", -1, 0);
+         stat = asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
+         RT_CHECK(ctx, stat, 0, "r8", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
          break;
       default:
          break;
@@ -3974,29 +4354,23 @@ int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExten
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "r7");
-         if (pvalue->u.r7 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r7", -1, 0);
+         stat = asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
+         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
          break;
       default:
          break;
@@ -4004,29 +4378,23 @@ int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExten
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "r6");
-         if (pvalue->u.r6 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(ctx, pvalue->u.r6);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.r6 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r6", -1, 0);
+         stat = asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(ctx, pvalue->u.r6);
+         RT_CHECK(ctx, stat, 0, "r6", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
          break;
       default:
          break;
@@ -4034,29 +4402,23 @@ int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExten
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "r5");
-         if (pvalue->u.r5 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5(ctx, pvalue->u.r5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r5", -1, 0);
+         stat = asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5(ctx, pvalue->u.r5);
+         RT_CHECK(ctx, stat, 0, "r5", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
          break;
       default:
          break;
@@ -4064,29 +4426,23 @@ int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExten
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions(rtxContext* ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "r4");
-         if (pvalue->u.r4 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r4", -1, 0);
+         stat = asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
+         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
          break;
       default:
          break;
@@ -4094,4658 +4450,1896 @@ int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions(rtxContext* c
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3(rtxContext* ctx, const CellUpdateConfirm_later_than_r3* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration_later_than_r3* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
    if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
       rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
    /* criticalExtensions */
-   rtxCtxtPushElemName(ctx, "criticalExtensions");
-   stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   stat = asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm(rtxContext* ctx, const CellUpdateConfirm* pvalue)
+int asn1PE_UMTS_TransportChannelReconfiguration(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfiguration* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransportChannelReconfiguration");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "TransportChannelReconfiguration");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TransportChannelReconfiguration");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "r3");
-         if (pvalue->u.r3 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellUpdateConfirm_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r3", -1, "TransportChannelReconfiguration");
+         stat = asn1PE_UMTS_TransportChannelReconfiguration_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "TransportChannelReconfiguration");
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "later-than-r3");
-         if (pvalue->u.later_than_r3 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "later-than-r3", -1, "TransportChannelReconfiguration");
+         stat = asn1PE_UMTS_TransportChannelReconfiguration_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "TransportChannelReconfiguration");
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* pvalue)
+int asn1PE_UMTS_TransportChannelReconfigurationComplete_v770ext_IEs_deferredMeasurementControlReading(rtxContext* RT_RESTRICT ctx, TransportChannelReconfigurationComplete_v770ext_IEs_deferredMeasurementControlReading value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v690ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v690ext");
-   stat = asn1PE_UMTS_CellUpdateConfirm_v690ext_IEs(ctx, &pvalue->cellUpdateConfirm_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(rtxContext* ctx, const CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions* pvalue)
+int asn1PE_UMTS_TransportChannelReconfigurationComplete_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfigurationComplete_v770ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v5d0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v5d0ext");
-   stat = asn1PE_UMTS_CellUpdateConfirm_v5d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v5d0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v690NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v590ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v590ext");
-   stat = asn1PE_UMTS_CellUpdateConfirm_v590ext_IEs(ctx, &pvalue->cellUpdateConfirm_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v5d0NonCriticalExtenstions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v5d0NonCriticalExtenstions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v4b0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v4b0ext");
-   stat = asn1PE_UMTS_CellUpdateConfirm_v4b0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v4b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v590NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransportChannelReconfigurationComplete-v770ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-CCCH-r3-add-ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfigurationComplete-v770ext-IEs");
+   /* ext-UL-TimingAdvance */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellUpdateConfirm-CCCH-r3-add-ext");
+      stat = asn1PE_UMTS_EXT_UL_TimingAdvance(ctx, &pvalue->ext_UL_TimingAdvance);
+      RT_CHECK(ctx, stat, 0, "ext-UL-TimingAdvance", -1, "TransportChannelReconfigurationComplete-v770ext-IEs");
+   }
+   /* deferredMeasurementControlReading */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->deferredMeasurementControlReading > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->deferredMeasurementControlReading);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "deferredMeasurementControlReading", -1, "TransportChannelReconfigurationComplete-v770ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->deferredMeasurementControlReading, 0, 0);
+      RT_CHECK(ctx, stat, 0, "deferredMeasurementControlReading", -1, "TransportChannelReconfigurationComplete-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfigurationComplete-v770ext */
+   stat = asn1PE_UMTS_TransportChannelReconfigurationComplete_v770ext_IEs(ctx, &pvalue->transportChannelReconfigurationComplete_v770ext);
+   RT_CHECK(ctx, stat, 0, "transportChannelReconfigurationComplete-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TransportChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfigurationComplete_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfigurationComplete_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfigurationComplete-r3-add-ext */
+   if (pvalue->m & 0x1u) {
       RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->cellUpdateConfirm_CCCH_r3_add_ext.numbits, pvalue->cellUpdateConfirm_CCCH_r3_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_BitString(ctx, pvalue->transportChannelReconfigurationComplete_r3_add_ext.numbits, pvalue->transportChannelReconfigurationComplete_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "transportChannelReconfigurationComplete-r3-add-ext", -1, 0);
+   }
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_TransportChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfigurationComplete(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfigurationComplete* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransportChannelReconfigurationComplete");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfigurationComplete");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "TransportChannelReconfigurationComplete");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "TransportChannelReconfigurationComplete");
+   /* ul-IntegProtActivationInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtActivationInfo(ctx, &pvalue->ul_IntegProtActivationInfo);
+      RT_CHECK(ctx, stat, 0, "ul-IntegProtActivationInfo", -1, "TransportChannelReconfigurationComplete");
+   }
+   /* ul-TimingAdvance */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->ul_TimingAdvance > 63u) {
+         rtxErrAddStrParm(ctx, "UL-TimingAdvance");
+         rtxErrAddUIntParm(ctx, pvalue->ul_TimingAdvance);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-TimingAdvance", "ul-TimingAdvance", -1, "TransportChannelReconfigurationComplete");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ul_TimingAdvance, 0, 63);
+      RT_CHECK(ctx, stat, "UL-TimingAdvance", "ul-TimingAdvance", -1, "TransportChannelReconfigurationComplete");
+   }
+   /* count-C-ActivationTime */
+   if (pvalue->m & 0x4u) {
+      stat = pe_ConsUInt64(ctx, pvalue->count_C_ActivationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "count-C-ActivationTime", -1, "TransportChannelReconfigurationComplete");
+   }
+   /* dummy */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "TransportChannelReconfigurationComplete");
+   }
+   /* ul-CounterSynchronisationInfo */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_UL_CounterSynchronisationInfo(ctx, &pvalue->ul_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CounterSynchronisationInfo", -1, "TransportChannelReconfigurationComplete");
+   }
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_TransportChannelReconfigurationComplete_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "TransportChannelReconfigurationComplete");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfigurationFailure_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfigurationFailure_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfigurationFailure_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfigurationFailure_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportChannelReconfigurationFailure-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->transportChannelReconfigurationFailure_r3_add_ext.numbits, pvalue->transportChannelReconfigurationFailure_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "transportChannelReconfigurationFailure-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_TransportChannelReconfigurationFailure_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelReconfigurationFailure(rtxContext* RT_RESTRICT ctx, const TransportChannelReconfigurationFailure* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransportChannelReconfigurationFailure");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelReconfigurationFailure");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "TransportChannelReconfigurationFailure");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "TransportChannelReconfigurationFailure");
+   /* failureCause */
+   stat = asn1PE_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
+   RT_CHECK(ctx, stat, 0, "failureCause", -1, "TransportChannelReconfigurationFailure");
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TransportChannelReconfigurationFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "TransportChannelReconfigurationFailure");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportFormatCombinationControl_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const TransportFormatCombinationControl_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* tfcs-ID */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TFCS_Identity(ctx, &pvalue->tfcs_ID);
+      RT_CHECK(ctx, stat, 0, "tfcs-ID", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportFormatCombinationControl_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const TransportFormatCombinationControl_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = asn1PE_UMTS_TransportFormatCombinationControl_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportFormatCombinationControl_v820ext_IEs(rtxContext* RT_RESTRICT ctx, const TransportFormatCombinationControl_v820ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransportFormatCombinationControl-v820ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportFormatCombinationControl-v820ext-IEs");
+   /* ul-AMR-Rate */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->ul_AMR_Rate > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->ul_AMR_Rate);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "UL-AMR-Rate", "ul-AMR-Rate", -1, "TransportFormatCombinationControl-v820ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ul_AMR_Rate, 0, 15);
+      RT_CHECK(ctx, stat, "UL-AMR-Rate", "ul-AMR-Rate", -1, "TransportFormatCombinationControl-v820ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportFormatCombinationControl_laterNonCriticalExtensions_v820NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportFormatCombinationControl_laterNonCriticalExtensions_v820NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_TransportFormatCombinationControl_laterNonCriticalExtensions_v820NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportFormatCombinationControl_laterNonCriticalExtensions_v820NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportformatcombinationcontrol-v820ext */
+   stat = asn1PE_UMTS_TransportFormatCombinationControl_v820ext_IEs(ctx, &pvalue->transportformatcombinationcontrol_v820ext);
+   RT_CHECK(ctx, stat, 0, "transportformatcombinationcontrol-v820ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TransportFormatCombinationControl_laterNonCriticalExtensions_v820NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportFormatCombinationControl_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportFormatCombinationControl_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportFormatCombinationControl-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->transportFormatCombinationControl_r3_add_ext.numbits, pvalue->transportFormatCombinationControl_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "transportFormatCombinationControl-r3-add-ext", -1, 0);
+   }
+   /* v820NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_TransportFormatCombinationControl_laterNonCriticalExtensions_v820NonCriticalExtensions(ctx, &pvalue->v820NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v820NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportFormatCombinationControl(rtxContext* RT_RESTRICT ctx, const TransportFormatCombinationControl* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransportFormatCombinationControl");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportFormatCombinationControl");
+   /* rrc-TransactionIdentifier */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+         rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+         rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "TransportFormatCombinationControl");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+      RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "TransportFormatCombinationControl");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_TransportFormatCombinationControl_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "TransportFormatCombinationControl");
+   /* dpch-TFCS-InUplink */
+   stat = asn1PE_UMTS_TFC_Subset(ctx, &pvalue->dpch_TFCS_InUplink);
+   RT_CHECK(ctx, stat, 0, "dpch-TFCS-InUplink", -1, "TransportFormatCombinationControl");
+   /* activationTimeForTFCSubset */
+   if (pvalue->m & 0x2u) {
+      stat = pe_ConsUInt64(ctx, pvalue->activationTimeForTFCSubset, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "activationTimeForTFCSubset", -1, "TransportFormatCombinationControl");
+   }
+   /* tfc-ControlDuration */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->tfc_ControlDuration > 12) {
+         rtxErrAddUIntParm(ctx, pvalue->tfc_ControlDuration);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "TFC-ControlDuration", "tfc-ControlDuration", -1, "TransportFormatCombinationControl");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->tfc_ControlDuration, 0, 12);
+      RT_CHECK(ctx, stat, "TFC-ControlDuration", "tfc-ControlDuration", -1, "TransportFormatCombinationControl");
+   }
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_TransportFormatCombinationControl_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "TransportFormatCombinationControl");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportFormatCombinationControlFailure_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportFormatCombinationControlFailure_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_TransportFormatCombinationControlFailure_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const TransportFormatCombinationControlFailure_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* transportFormatCombinationControlFailure-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->transportFormatCombinationControlFailure_r3_add_ext.numbits, pvalue->transportFormatCombinationControlFailure_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "transportFormatCombinationControlFailure-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_TransportFormatCombinationControlFailure_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportFormatCombinationControlFailure(rtxContext* RT_RESTRICT ctx, const TransportFormatCombinationControlFailure* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransportFormatCombinationControlFailure");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TransportFormatCombinationControlFailure");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "TransportFormatCombinationControlFailure");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "TransportFormatCombinationControlFailure");
+   /* failureCause */
+   stat = asn1PE_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
+   RT_CHECK(ctx, stat, 0, "failureCause", -1, "TransportFormatCombinationControlFailure");
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TransportFormatCombinationControlFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "TransportFormatCombinationControlFailure");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UECapabilityEnquiry_r3_IEs(rtxContext* RT_RESTRICT ctx, const UECapabilityEnquiry_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UECapabilityEnquiry-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "UECapabilityEnquiry-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "UECapabilityEnquiry-r3-IEs");
+   /* capabilityUpdateRequirement */
+   stat = asn1PE_UMTS_CapabilityUpdateRequirement(ctx, &pvalue->capabilityUpdateRequirement);
+   RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement", -1, "UECapabilityEnquiry-r3-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_UECapabilityEnquiry_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const UECapabilityEnquiry_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UECapabilityEnquiry-v4b0ext-IEs");
+   /* capabilityUpdateRequirement-r4-ext */
+   stat = asn1PE_UMTS_CapabilityUpdateRequirement_r4_ext(ctx, &pvalue->capabilityUpdateRequirement_r4_ext);
+   RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement-r4-ext", -1, "UECapabilityEnquiry-v4b0ext-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_UECapabilityEnquiry_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const UECapabilityEnquiry_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UECapabilityEnquiry-v590ext-IEs");
+   /* systemSpecificCapUpdateReq */
+   if (pvalue->systemSpecificCapUpdateReq > 0) {
+      rtxErrAddUIntParm(ctx, pvalue->systemSpecificCapUpdateReq);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "SystemSpecificCapUpdateReq-v590ext", "systemSpecificCapUpdateReq", -1, "UECapabilityEnquiry-v590ext-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->systemSpecificCapUpdateReq, 0, 0);
+   RT_CHECK(ctx, stat, "SystemSpecificCapUpdateReq-v590ext", "systemSpecificCapUpdateReq", -1, "UECapabilityEnquiry-v590ext-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_UECapabilityEnquiry_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const UECapabilityEnquiry_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UECapabilityEnquiry-v770ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UECapabilityEnquiry-v770ext-IEs");
+   /* capabilityUpdateRequirement */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CapabilityUpdateRequirement_v770ext(ctx, &pvalue->capabilityUpdateRequirement);
+      RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement", -1, "UECapabilityEnquiry-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UECapabilityEnquiry_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const UECapabilityEnquiry_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UECapabilityEnquiry-v860ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UECapabilityEnquiry-v860ext-IEs");
+   /* capabilityUpdateRequirement */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CapabilityUpdateRequirement_v860ext(ctx, &pvalue->capabilityUpdateRequirement);
+      RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement", -1, "UECapabilityEnquiry-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UECapabilityEnquiry_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UECapabilityEnquiry_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UECapabilityEnquiry_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UECapabilityEnquiry_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityEnquiry-v860ext */
+   stat = asn1PE_UMTS_UECapabilityEnquiry_v860ext_IEs(ctx, &pvalue->ueCapabilityEnquiry_v860ext);
+   RT_CHECK(ctx, stat, 0, "ueCapabilityEnquiry-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UECapabilityEnquiry_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UECapabilityEnquiry_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UECapabilityEnquiry_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityEnquiry-v770ext */
+   stat = asn1PE_UMTS_UECapabilityEnquiry_v770ext_IEs(ctx, &pvalue->ueCapabilityEnquiry_v770ext);
+   RT_CHECK(ctx, stat, 0, "ueCapabilityEnquiry-v770ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UECapabilityEnquiry_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UECapabilityEnquiry_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UECapabilityEnquiry_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityEnquiry-v590ext */
+   stat = asn1PE_UMTS_UECapabilityEnquiry_v590ext_IEs(ctx, &pvalue->ueCapabilityEnquiry_v590ext);
+   RT_CHECK(ctx, stat, 0, "ueCapabilityEnquiry-v590ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UECapabilityEnquiry_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UECapabilityEnquiry_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UECapabilityEnquiry_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityEnquiry-v4b0ext */
+   stat = asn1PE_UMTS_UECapabilityEnquiry_v4b0ext_IEs(ctx, &pvalue->ueCapabilityEnquiry_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "ueCapabilityEnquiry-v4b0ext", -1, 0);
+   /* v590NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UECapabilityEnquiry_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UECapabilityEnquiry_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UECapabilityEnquiry_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityEnquiry-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->ueCapabilityEnquiry_r3_add_ext.numbits, pvalue->ueCapabilityEnquiry_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "ueCapabilityEnquiry-r3-add-ext", -1, 0);
    }
    /* v4b0NonCriticalExtensions */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v4b0NonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UECapabilityEnquiry_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_r3(rtxContext* ctx, const CellUpdateConfirm_CCCH_r3* pvalue)
+int asn1PE_UMTS_UECapabilityEnquiry_r3(rtxContext* RT_RESTRICT ctx, const UECapabilityEnquiry_r3* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* u-RNTI */
-   rtxCtxtPushElemName(ctx, "u-RNTI");
-   stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellUpdateConfirm-r3 */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r3");
-   stat = asn1PE_UMTS_CellUpdateConfirm_r3_IEs(ctx, &pvalue->cellUpdateConfirm_r3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityEnquiry-r3 */
+   stat = asn1PE_UMTS_UECapabilityEnquiry_r3_IEs(ctx, &pvalue->ueCapabilityEnquiry_r3);
+   RT_CHECK(ctx, stat, 0, "ueCapabilityEnquiry-r3", -1, 0);
    /* laterNonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UECapabilityEnquiry_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* pvalue)
+int asn1PE_UMTS_UECapabilityEnquiry_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, const UECapabilityEnquiry_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_UECapabilityEnquiry_later_than_r3(rtxContext* RT_RESTRICT ctx, const UECapabilityEnquiry_later_than_r3* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v690ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v690ext");
-   stat = asn1PE_UMTS_CellUpdateConfirm_v690ext_IEs(ctx, &pvalue->cellUpdateConfirm_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(rtxContext* ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v5d0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v5d0ext");
-   stat = asn1PE_UMTS_CellUpdateConfirm_v5d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v5d0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v690NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v590ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v590ext");
-   stat = asn1PE_UMTS_CellUpdateConfirm_v590ext_IEs(ctx, &pvalue->cellUpdateConfirm_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v5d0NonCriticalExtenstions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v5d0NonCriticalExtenstions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-CCCH-r4-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellUpdateConfirm-CCCH-r4-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->cellUpdateConfirm_CCCH_r4_add_ext.numbits, pvalue->cellUpdateConfirm_CCCH_r4_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v590NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4(rtxContext* ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-r4 */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r4");
-   stat = asn1PE_UMTS_CellUpdateConfirm_r4_IEs(ctx, &pvalue->cellUpdateConfirm_r4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v4d0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v4d0NonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v690ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v690ext");
-   stat = asn1PE_UMTS_CellUpdateConfirm_v690ext_IEs(ctx, &pvalue->cellUpdateConfirm_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(rtxContext* ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v5d0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v5d0ext");
-   stat = asn1PE_UMTS_CellUpdateConfirm_v5d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v5d0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v690NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5(rtxContext* ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-r5 */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r5");
-   stat = asn1PE_UMTS_CellUpdateConfirm_r5_IEs(ctx, &pvalue->cellUpdateConfirm_r5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellUpdateConfirm-CCCH-r5-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellUpdateConfirm-CCCH-r5-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->cellUpdateConfirm_CCCH_r5_add_ext.numbits, pvalue->cellUpdateConfirm_CCCH_r5_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v5d0NonCriticalExtenstions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v5d0NonCriticalExtenstions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v6b0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v6b0ext");
-   stat = asn1PE_UMTS_CellUpdateConfirm_v6b0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v6b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(rtxContext* ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-r6 */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r6");
-   stat = asn1PE_UMTS_CellUpdateConfirm_r6_IEs(ctx, &pvalue->cellUpdateConfirm_r6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellUpdateConfirm-r6-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r6-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->cellUpdateConfirm_r6_add_ext.numbits, pvalue->cellUpdateConfirm_r6_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v6b0NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v6b0NonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v860ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v860ext");
-   stat = asn1PE_UMTS_CellUpdateConfirm_v860ext_IEs(ctx, &pvalue->cellUpdateConfirm_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v780ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v780ext");
-   stat = asn1PE_UMTS_CellUpdateConfirm_v780ext_IEs(ctx, &pvalue->cellUpdateConfirm_v780ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v860NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-r7 */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r7");
-   stat = asn1PE_UMTS_CellUpdateConfirm_r7_IEs(ctx, &pvalue->cellUpdateConfirm_r7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellUpdateConfirm-r7-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r7-add-ext");
-      {
-         rtxContext outer;
-         const uint8_t* data;
-         uint32_t len;
-         rtxCopyContext(&outer, ctx);
-         stat = rtxInitContextBuffer(ctx, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = asn1PE_UMTS_CellUpdateConfirm_r7_add_ext_IEs(ctx, &pvalue->cellUpdateConfirm_r7_add_ext);
-         RT_CHECK(ctx, stat);
-         data = ctx->buffer_data;
-         len = ctx->byte_index * 8 + 8 - ctx->bit_offset;
-         rtxCopyContext(ctx, &outer);
-         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-         stat = pe_BitString(ctx, len, data);
-         rtxMemHeapFreePtr(ctx, (void*)data);
-         RT_CHECK(ctx, stat);
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v780NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v780NonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return stat;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v8a0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v8a0ext");
-   stat = asn1PE_UMTS_CellUpdateConfirm_v8a0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v8a0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v890ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v890ext");
-   stat = asn1PE_UMTS_CellUpdateConfirm_v890ext_IEs(ctx, &pvalue->cellUpdateConfirm_v890ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v8a0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v8a0NonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-v7d0ext */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-v7d0ext");
-   stat = asn1PE_UMTS_CellUpdateConfirm_v7d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v7d0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v890NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v890NonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-r8 */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r8");
-   stat = asn1PE_UMTS_CellUpdateConfirm_r8_IEs(ctx, &pvalue->cellUpdateConfirm_r8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellUpdateConfirm-r8-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r8-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->cellUpdateConfirm_r8_add_ext.numbits, pvalue->cellUpdateConfirm_r8_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v7d0NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v7d0NonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* cellUpdateConfirm-r9 */
-   rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r9");
-   stat = asn1PE_UMTS_CellUpdateConfirm_r9_IEs(ctx, &pvalue->cellUpdateConfirm_r9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cellUpdateConfirm-r9-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cellUpdateConfirm-r9-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->cellUpdateConfirm_r9_add_ext.numbits, pvalue->cellUpdateConfirm_r9_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r9");
-         if (pvalue->u.r9 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r8");
-         if (pvalue->u.r8 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r7");
-         if (pvalue->u.r7 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r6");
-         if (pvalue->u.r6 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(ctx, pvalue->u.r6);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r5");
-         if (pvalue->u.r5 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_r5(ctx, pvalue->u.r5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions(rtxContext* ctx, const CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r4");
-         if (pvalue->u.r4 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3(rtxContext* ctx, const CellUpdateConfirm_CCCH_later_than_r3* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* u-RNTI */
-   rtxCtxtPushElemName(ctx, "u-RNTI");
-   stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
    if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddElemNameParm(ctx);
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
       rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
    }
    stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
    /* criticalExtensions */
-   rtxCtxtPushElemName(ctx, "criticalExtensions");
-   stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   stat = asn1PE_UMTS_UECapabilityEnquiry_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_CCCH(rtxContext* ctx, const CellUpdateConfirm_CCCH* pvalue)
+int asn1PE_UMTS_UECapabilityEnquiry(rtxContext* RT_RESTRICT ctx, const UECapabilityEnquiry* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CellUpdateConfirm-CCCH");
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UECapabilityEnquiry");
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, "UECapabilityEnquiry");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UECapabilityEnquiry");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "r3");
-         if (pvalue->u.r3 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r3", -1, "UECapabilityEnquiry");
+         stat = asn1PE_UMTS_UECapabilityEnquiry_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "UECapabilityEnquiry");
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "later-than-r3");
-         if (pvalue->u.later_than_r3 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CellUpdateConfirm_CCCH_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "later-than-r3", -1, "UECapabilityEnquiry");
+         stat = asn1PE_UMTS_UECapabilityEnquiry_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "UECapabilityEnquiry");
          break;
       default:
          break;
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_CounterCheck_r3_IEs(rtxContext* ctx, const CounterCheck_r3_IEs* pvalue)
+int asn1PE_UMTS_UECapabilityInformation_v370ext(rtxContext* RT_RESTRICT ctx, const UECapabilityInformation_v370ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CounterCheck-r3-IEs");
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* rb-COUNT-C-MSB-InformationList */
-   rtxCtxtPushElemName(ctx, "rb-COUNT-C-MSB-InformationList");
-   stat = asn1PE_UMTS_RB_COUNT_C_MSB_InformationList(ctx, &pvalue->rb_COUNT_C_MSB_InformationList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CounterCheck_r3_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const CounterCheck_r3_laterNonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_CounterCheck_r3_laterNonCriticalExtensions(rtxContext* ctx, const CounterCheck_r3_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* counterCheck-r3-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "counterCheck-r3-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->counterCheck_r3_add_ext.numbits, pvalue->counterCheck_r3_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_CounterCheck_r3_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CounterCheck_r3(rtxContext* ctx, const CounterCheck_r3* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UECapabilityInformation-v370ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* counterCheck-r3 */
-   rtxCtxtPushElemName(ctx, "counterCheck-r3");
-   stat = asn1PE_UMTS_CounterCheck_r3_IEs(ctx, &pvalue->counterCheck_r3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* laterNonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, "UECapabilityInformation-v370ext");
+   /* ue-RadioAccessCapability-v370ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      stat = asn1PE_UMTS_CounterCheck_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UE_RadioAccessCapability_v370ext(ctx, &pvalue->ue_RadioAccessCapability_v370ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v370ext", -1, "UECapabilityInformation-v370ext");
    }
    return 0;
 }
 
-int asn1PE_UMTS_CounterCheck_later_than_r3_criticalExtensions(rtxContext* ctx, const CounterCheck_later_than_r3_criticalExtensions* pvalue)
+int asn1PE_UMTS_UECapabilityInformation_v380ext_IEs(rtxContext* RT_RESTRICT ctx, const UECapabilityInformation_v380ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_CounterCheck_later_than_r3(rtxContext* ctx, const CounterCheck_later_than_r3* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* criticalExtensions */
-   rtxCtxtPushElemName(ctx, "criticalExtensions");
-   stat = asn1PE_UMTS_CounterCheck_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CounterCheck(rtxContext* ctx, const CounterCheck* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CounterCheck");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r3");
-         if (pvalue->u.r3 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CounterCheck_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "later-than-r3");
-         if (pvalue->u.later_than_r3 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_CounterCheck_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_CounterCheckResponse_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const CounterCheckResponse_laterNonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_CounterCheckResponse_laterNonCriticalExtensions(rtxContext* ctx, const CounterCheckResponse_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* counterCheckResponse-r3-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "counterCheckResponse-r3-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->counterCheckResponse_r3_add_ext.numbits, pvalue->counterCheckResponse_r3_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_CounterCheckResponse_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CounterCheckResponse(rtxContext* ctx, const CounterCheckResponse* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "CounterCheckResponse");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* rb-COUNT-C-InformationList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "rb-COUNT-C-InformationList");
-      stat = asn1PE_UMTS_RB_COUNT_C_InformationList(ctx, &pvalue->rb_COUNT_C_InformationList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* laterNonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      stat = asn1PE_UMTS_CounterCheckResponse_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkDirectTransfer_r3_IEs(rtxContext* ctx, const DownlinkDirectTransfer_r3_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DownlinkDirectTransfer-r3-IEs");
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* cn-DomainIdentity */
-   rtxCtxtPushElemName(ctx, "cn-DomainIdentity");
-   rtxCtxtPushTypeName(ctx, "CN-DomainIdentity");
-   if (pvalue->cn_DomainIdentity > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* nas-Message */
-   rtxCtxtPushElemName(ctx, "nas-Message");
-   stat = asn1PE_UMTS_NAS_Message(ctx, &pvalue->nas_Message);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkDirectTransfer_r3_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const DownlinkDirectTransfer_r3_laterNonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkDirectTransfer_r3_laterNonCriticalExtensions(rtxContext* ctx, const DownlinkDirectTransfer_r3_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* downlinkDirectTransfer-r3-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "downlinkDirectTransfer-r3-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->downlinkDirectTransfer_r3_add_ext.numbits, pvalue->downlinkDirectTransfer_r3_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_DownlinkDirectTransfer_r3_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkDirectTransfer_r3(rtxContext* ctx, const DownlinkDirectTransfer_r3* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UECapabilityInformation-v380ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* downlinkDirectTransfer-r3 */
-   rtxCtxtPushElemName(ctx, "downlinkDirectTransfer-r3");
-   stat = asn1PE_UMTS_DownlinkDirectTransfer_r3_IEs(ctx, &pvalue->downlinkDirectTransfer_r3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* laterNonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, "UECapabilityInformation-v380ext-IEs");
+   /* ue-RadioAccessCapability-v380ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      stat = asn1PE_UMTS_DownlinkDirectTransfer_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UE_RadioAccessCapability_v380ext(ctx, &pvalue->ue_RadioAccessCapability_v380ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v380ext", -1, "UECapabilityInformation-v380ext-IEs");
    }
+   /* dl-PhysChCapabilityFDD-v380ext */
+   stat = asn1PE_UMTS_DL_PhysChCapabilityFDD_v380ext(ctx, &pvalue->dl_PhysChCapabilityFDD_v380ext);
+   RT_CHECK(ctx, stat, 0, "dl-PhysChCapabilityFDD-v380ext", -1, "UECapabilityInformation-v380ext-IEs");
    return 0;
 }
 
-int asn1PE_UMTS_DownlinkDirectTransfer_later_than_r3_criticalExtensions(rtxContext* ctx, const DownlinkDirectTransfer_later_than_r3_criticalExtensions* pvalue)
+int asn1PE_UMTS_UECapabilityInformation_v3a0ext_IEs(rtxContext* RT_RESTRICT ctx, const UECapabilityInformation_v3a0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkDirectTransfer_later_than_r3(rtxContext* ctx, const DownlinkDirectTransfer_later_than_r3* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* criticalExtensions */
-   rtxCtxtPushElemName(ctx, "criticalExtensions");
-   stat = asn1PE_UMTS_DownlinkDirectTransfer_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkDirectTransfer(rtxContext* ctx, const DownlinkDirectTransfer* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "DownlinkDirectTransfer");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r3");
-         if (pvalue->u.r3 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DownlinkDirectTransfer_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "later-than-r3");
-         if (pvalue->u.later_than_r3 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_DownlinkDirectTransfer_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_ETWSPrimaryNotificationWithSecurity_nonCriticalExtensions(rtxContext* ctx, const ETWSPrimaryNotificationWithSecurity_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_ETWSPrimaryNotificationWithSecurity(rtxContext* ctx, const ETWSPrimaryNotificationWithSecurity* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "ETWSPrimaryNotificationWithSecurity");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* etws-Information */
-   rtxCtxtPushElemName(ctx, "etws-Information");
-   stat = asn1PE_UMTS_ETWS_Information(ctx, &pvalue->etws_Information);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* etws-WarningSecurityInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "etws-WarningSecurityInfo");
-      stat = asn1PE_UMTS_ETWS_WarningSecurityInfo(ctx, &pvalue->etws_WarningSecurityInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_ETWSPrimaryNotificationWithSecurity_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo_fdd(rtxContext* ctx, const HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      stat = asn1PE_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy2 */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dummy2");
-      stat = asn1PE_UMTS_CPCH_SetInfo(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo(rtxContext* ctx, const HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_complete(rtxContext* ctx, const HandoverToUTRANCommand_r3_IEs_specificationMode_complete* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UECapabilityInformation-v3a0ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* srb-InformationSetupList */
-   rtxCtxtPushElemName(ctx, "srb-InformationSetupList");
-   stat = asn1PE_UMTS_SRB_InformationSetupList(ctx, &pvalue->srb_InformationSetupList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rab-InformationSetupList */
+   RT_CHECK(ctx, stat, 0, 0, -1, "UECapabilityInformation-v3a0ext-IEs");
+   /* ue-RadioAccessCapability-v3a0ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "rab-InformationSetupList");
-      stat = asn1PE_UMTS_RAB_InformationSetupList(ctx, &pvalue->rab_InformationSetupList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CommonTransChInfo */
-   rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
-   stat = asn1PE_UMTS_UL_CommonTransChInfo(ctx, &pvalue->ul_CommonTransChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-AddReconfTransChInfoList */
-   rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
-   stat = asn1PE_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonTransChInfo */
-   rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
-   stat = asn1PE_UMTS_DL_CommonTransChInfo(ctx, &pvalue->dl_CommonTransChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-AddReconfTransChInfoList */
-   rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
-   stat = asn1PE_UMTS_DL_AddReconfTransChInfoList(ctx, &pvalue->dl_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PE_UMTS_UL_DPCH_Info(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_complete_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonInformation */
-   rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-   stat = asn1PE_UMTS_DL_CommonInformation(ctx, &pvalue->dl_CommonInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL-List */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-   stat = asn1PE_UMTS_DL_InformationPerRL_List(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* ctx, const HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* defaultConfigMode */
-   rtxCtxtPushElemName(ctx, "defaultConfigMode");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigMode");
-   if (pvalue->defaultConfigMode > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->defaultConfigMode);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigMode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* defaultConfigIdentity */
-   rtxCtxtPushElemName(ctx, "defaultConfigIdentity");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigIdentity");
-   if ((uint64_t)pvalue->defaultConfigIdentity > 10u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->defaultConfigIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigIdentity, 0, 10);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* ctx, const HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_preConfigMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "predefinedConfigIdentity");
-         rtxCtxtPushTypeName(ctx, "PredefinedConfigIdentity");
-         if ((uint64_t)pvalue->u.predefinedConfigIdentity > 15u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.predefinedConfigIdentity);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.predefinedConfigIdentity, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "defaultConfig");
-         if (pvalue->u.defaultConfig == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
+      stat = asn1PE_UMTS_UE_RadioAccessCapability_v3a0ext(ctx, &pvalue->ue_RadioAccessCapability_v3a0ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v3a0ext", -1, "UECapabilityInformation-v3a0ext-IEs");
    }
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(rtxContext* ctx, const HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd* pvalue)
+int asn1PE_UMTS_UECapabilityInformation_v650ext_IEs(rtxContext* RT_RESTRICT ctx, const UECapabilityInformation_v650ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PE_UMTS_UL_DPCH_InfoPostFDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonInformationPost */
-   rtxCtxtPushElemName(ctx, "dl-CommonInformationPost");
-   stat = asn1PE_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL-List */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-   stat = asn1PE_UMTS_DL_InformationPerRL_ListPostFDD(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PE_UMTS_FrequencyInfoFDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UECapabilityInformation-v650ext-IEs");
+   /* ue-RadioAccessCapability-v650ext */
+   stat = asn1PE_UMTS_UE_RadioAccessCapability_v650ext(ctx, &pvalue->ue_RadioAccessCapability_v650ext);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v650ext", -1, "UECapabilityInformation-v650ext-IEs");
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(rtxContext* ctx, const HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd* pvalue)
+int asn1PE_UMTS_UECapabilityInformation_v680ext_IEs(rtxContext* RT_RESTRICT ctx, const UECapabilityInformation_v680ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PE_UMTS_UL_DPCH_InfoPostTDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonInformationPost */
-   rtxCtxtPushElemName(ctx, "dl-CommonInformationPost");
-   stat = asn1PE_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL");
-   stat = asn1PE_UMTS_DL_InformationPerRL_PostTDD(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UECapabilityInformation-v680ext-IEs");
+   /* ue-RadioAccessCapability-v680ext */
+   stat = asn1PE_UMTS_UE_RadioAccessCapability_v680ext(ctx, &pvalue->ue_RadioAccessCapability_v680ext);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v680ext", -1, "UECapabilityInformation-v680ext-IEs");
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo(rtxContext* ctx, const HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo* pvalue)
+int asn1PE_UMTS_UECapabilityInformation_v7e0ext_IEs(rtxContext* RT_RESTRICT ctx, const UECapabilityInformation_v7e0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UECapabilityInformation-v7e0ext-IEs");
+   /* ue-RadioAccessCapability */
+   stat = asn1PE_UMTS_UE_RadioAccessCapability_v7e0ext(ctx, &pvalue->ue_RadioAccessCapability);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "UECapabilityInformation-v7e0ext-IEs");
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration(rtxContext* ctx, const HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration* pvalue)
+int asn1PE_UMTS_UECapabilityInformation_v7f0ext_IEs(rtxContext* RT_RESTRICT ctx, const UECapabilityInformation_v7f0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UECapabilityInformation-v7f0ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* preConfigMode */
-   rtxCtxtPushElemName(ctx, "preConfigMode");
-   stat = asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rab-Info */
+   RT_CHECK(ctx, stat, 0, 0, -1, "UECapabilityInformation-v7f0ext-IEs");
+   /* ue-RadioAccessCapability */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "rab-Info");
-      stat = asn1PE_UMTS_RAB_Info_Post(ctx, &pvalue->rab_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode(rtxContext* ctx, const HandoverToUTRANCommand_r3_IEs_specificationMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "complete");
-         if (pvalue->u.complete == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_complete(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "preconfiguration");
-         if (pvalue->u.preconfiguration == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
+      stat = asn1PE_UMTS_UE_RadioAccessCapability_v7f0ext(ctx, &pvalue->ue_RadioAccessCapability);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "UECapabilityInformation-v7f0ext-IEs");
    }
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs(rtxContext* ctx, const HandoverToUTRANCommand_r3_IEs* pvalue)
+int asn1PE_UMTS_UECapabilityInformation_r3_add_ext_IEs_v680NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UECapabilityInformation_r3_add_ext_IEs_v680NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HandoverToUTRANCommand-r3-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* new-U-RNTI */
-   rtxCtxtPushElemName(ctx, "new-U-RNTI");
-   stat = asn1PE_UMTS_U_RNTI_Short(ctx, &pvalue->new_U_RNTI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dummy */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pe_ConsUInt64(ctx, pvalue->dummy, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cipheringAlgorithm */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "cipheringAlgorithm");
-      rtxCtxtPushTypeName(ctx, "CipheringAlgorithm");
-      if (pvalue->cipheringAlgorithm > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->cipheringAlgorithm);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->cipheringAlgorithm, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* specificationMode */
-   rtxCtxtPushElemName(ctx, "specificationMode");
-   stat = asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs_specificationMode(ctx, &pvalue->specificationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* maxAllowedUL-TX-Power */
-   rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-   rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-   if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANCommand_r3_nonCriticalExtensions(rtxContext* ctx, const HandoverToUTRANCommand_r3_nonCriticalExtensions* pvalue)
+int asn1PE_UMTS_UECapabilityInformation_r3_add_ext_IEs_v680NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UECapabilityInformation_r3_add_ext_IEs_v680NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r3(rtxContext* ctx, const HandoverToUTRANCommand_r3* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* handoverToUTRANCommand-r3 */
-   rtxCtxtPushElemName(ctx, "handoverToUTRANCommand-r3");
-   stat = asn1PE_UMTS_HandoverToUTRANCommand_r3_IEs(ctx, &pvalue->handoverToUTRANCommand_r3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityInformation-v7f0ext */
+   stat = asn1PE_UMTS_UECapabilityInformation_v7f0ext_IEs(ctx, &pvalue->ueCapabilityInformation_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "ueCapabilityInformation-v7f0ext", -1, 0);
    /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_HandoverToUTRANCommand_r3_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UECapabilityInformation_r3_add_ext_IEs_v680NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo_fdd(rtxContext* ctx, const HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo_fdd* pvalue)
+int asn1PE_UMTS_UECapabilityInformation_r3_add_ext_IEs_v680NonCriticalExtensions_v7e0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UECapabilityInformation_r3_add_ext_IEs_v680NonCriticalExtensions_v7e0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityInformation-v7e0ext */
+   stat = asn1PE_UMTS_UECapabilityInformation_v7e0ext_IEs(ctx, &pvalue->ueCapabilityInformation_v7e0ext);
+   RT_CHECK(ctx, stat, 0, "ueCapabilityInformation-v7e0ext", -1, 0);
+   /* v7f0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UECapabilityInformation_r3_add_ext_IEs_v680NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UECapabilityInformation_r3_add_ext_IEs_v680NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UECapabilityInformation_r3_add_ext_IEs_v680NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityInformation-v680ext */
+   stat = asn1PE_UMTS_UECapabilityInformation_v680ext_IEs(ctx, &pvalue->ueCapabilityInformation_v680ext);
+   RT_CHECK(ctx, stat, 0, "ueCapabilityInformation-v680ext", -1, 0);
+   /* v7e0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UECapabilityInformation_r3_add_ext_IEs_v680NonCriticalExtensions_v7e0NonCriticalExtensions(ctx, &pvalue->v7e0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7e0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UECapabilityInformation_r3_add_ext_IEs(rtxContext* RT_RESTRICT ctx, const UECapabilityInformation_r3_add_ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UECapabilityInformation-r3-add-ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* dummy */
+   RT_CHECK(ctx, stat, 0, 0, -1, "UECapabilityInformation-r3-add-ext-IEs");
+   /* ueCapabilityInformation-v650ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      stat = asn1PE_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UECapabilityInformation_v650ext_IEs(ctx, &pvalue->ueCapabilityInformation_v650ext);
+      RT_CHECK(ctx, stat, 0, "ueCapabilityInformation-v650ext", -1, "UECapabilityInformation-r3-add-ext-IEs");
    }
-   /* dummy2 */
+   /* v680NonCriticalExtensions */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dummy2");
-      stat = asn1PE_UMTS_CPCH_SetInfo(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UECapabilityInformation_r3_add_ext_IEs_v680NonCriticalExtensions(ctx, &pvalue->v680NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v680NonCriticalExtensions", -1, "UECapabilityInformation-r3-add-ext-IEs");
    }
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo(rtxContext* ctx, const HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo* pvalue)
+int asn1PE_UMTS_UECapabilityInformation_v4b0ext(rtxContext* RT_RESTRICT ctx, const UECapabilityInformation_v4b0ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_complete(rtxContext* ctx, const HandoverToUTRANCommand_r4_IEs_specificationMode_complete* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UECapabilityInformation-v4b0ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* srb-InformationSetupList */
-   rtxCtxtPushElemName(ctx, "srb-InformationSetupList");
-   stat = asn1PE_UMTS_SRB_InformationSetupList(ctx, &pvalue->srb_InformationSetupList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rab-InformationSetupList */
+   RT_CHECK(ctx, stat, 0, 0, -1, "UECapabilityInformation-v4b0ext");
+   /* ue-RadioAccessCapability-v4b0ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "rab-InformationSetupList");
-      stat = asn1PE_UMTS_RAB_InformationSetupList_r4(ctx, &pvalue->rab_InformationSetupList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CommonTransChInfo */
-   rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
-   stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-AddReconfTransChInfoList */
-   rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
-   stat = asn1PE_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonTransChInfo */
-   rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
-   stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-AddReconfTransChInfoList */
-   rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
-   stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r4(ctx, &pvalue->dl_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PE_UMTS_UL_DPCH_Info_r4(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_complete_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonInformation */
-   rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-   stat = asn1PE_UMTS_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL-List */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-   stat = asn1PE_UMTS_DL_InformationPerRL_List_r4(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* ctx, const HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* defaultConfigMode */
-   rtxCtxtPushElemName(ctx, "defaultConfigMode");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigMode");
-   if (pvalue->defaultConfigMode > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->defaultConfigMode);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigMode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* defaultConfigIdentity */
-   rtxCtxtPushElemName(ctx, "defaultConfigIdentity");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigIdentity-r4");
-   if ((uint64_t)pvalue->defaultConfigIdentity > 12u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->defaultConfigIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigIdentity, 0, 12);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* ctx, const HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_preConfigMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "predefinedConfigIdentity");
-         rtxCtxtPushTypeName(ctx, "PredefinedConfigIdentity");
-         if ((uint64_t)pvalue->u.predefinedConfigIdentity > 15u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.predefinedConfigIdentity);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.predefinedConfigIdentity, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "defaultConfig");
-         if (pvalue->u.defaultConfig == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
+      stat = asn1PE_UMTS_UE_RadioAccessCapability_v4b0ext(ctx, &pvalue->ue_RadioAccessCapability_v4b0ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v4b0ext", -1, "UECapabilityInformation-v4b0ext");
    }
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(rtxContext* ctx, const HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd* pvalue)
+int asn1PE_UMTS_UECapabilityInformation_v590ext(rtxContext* RT_RESTRICT ctx, const UECapabilityInformation_v590ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PE_UMTS_UL_DPCH_InfoPostFDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonInformationPost */
-   rtxCtxtPushElemName(ctx, "dl-CommonInformationPost");
-   stat = asn1PE_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL-List */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-   stat = asn1PE_UMTS_DL_InformationPerRL_ListPostFDD(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PE_UMTS_FrequencyInfoFDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(rtxContext* ctx, const HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PE_UMTS_UL_DPCH_InfoPostTDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL");
-   stat = asn1PE_UMTS_DL_InformationPerRL_PostTDD(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(rtxContext* ctx, const HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PE_UMTS_UL_DPCH_InfoPostTDD_LCR_r4(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL");
-   stat = asn1PE_UMTS_DL_InformationPerRL_PostTDD_LCR_r4(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(rtxContext* ctx, const HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo(rtxContext* ctx, const HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration(rtxContext* ctx, const HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* preConfigMode */
-   rtxCtxtPushElemName(ctx, "preConfigMode");
-   stat = asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rab-Info */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "rab-Info");
-      stat = asn1PE_UMTS_RAB_Info_Post(ctx, &pvalue->rab_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode(rtxContext* ctx, const HandoverToUTRANCommand_r4_IEs_specificationMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "complete");
-         if (pvalue->u.complete == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_complete(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "preconfiguration");
-         if (pvalue->u.preconfiguration == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs(rtxContext* ctx, const HandoverToUTRANCommand_r4_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HandoverToUTRANCommand-r4-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* new-U-RNTI */
-   rtxCtxtPushElemName(ctx, "new-U-RNTI");
-   stat = asn1PE_UMTS_U_RNTI_Short(ctx, &pvalue->new_U_RNTI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cipheringAlgorithm */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cipheringAlgorithm");
-      rtxCtxtPushTypeName(ctx, "CipheringAlgorithm");
-      if (pvalue->cipheringAlgorithm > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->cipheringAlgorithm);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->cipheringAlgorithm, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* specificationMode */
-   rtxCtxtPushElemName(ctx, "specificationMode");
-   stat = asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs_specificationMode(ctx, &pvalue->specificationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* maxAllowedUL-TX-Power */
-   rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-   rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-   if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_r4_nonCriticalExtensions(rtxContext* ctx, const HandoverToUTRANCommand_criticalExtensions_r4_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_r4(rtxContext* ctx, const HandoverToUTRANCommand_criticalExtensions_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* handoverToUTRANCommand-r4 */
-   rtxCtxtPushElemName(ctx, "handoverToUTRANCommand-r4");
-   stat = asn1PE_UMTS_HandoverToUTRANCommand_r4_IEs(ctx, &pvalue->handoverToUTRANCommand_r4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_r4_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo_fdd(rtxContext* ctx, const HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      stat = asn1PE_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy2 */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dummy2");
-      stat = asn1PE_UMTS_CPCH_SetInfo(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo(rtxContext* ctx, const HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_complete(rtxContext* ctx, const HandoverToUTRANCommand_r5_IEs_specificationMode_complete* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* srb-InformationSetupList */
-   rtxCtxtPushElemName(ctx, "srb-InformationSetupList");
-   stat = asn1PE_UMTS_SRB_InformationSetupList_r5(ctx, &pvalue->srb_InformationSetupList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rab-InformationSetupList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "rab-InformationSetupList");
-      stat = asn1PE_UMTS_RAB_InformationSetupList_r5(ctx, &pvalue->rab_InformationSetupList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CommonTransChInfo */
-   rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
-   stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-AddReconfTransChInfoList */
-   rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
-   stat = asn1PE_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonTransChInfo */
-   rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
-   stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-AddReconfTransChInfoList */
-   rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
-   stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PE_UMTS_UL_DPCH_Info_r5(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_complete_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonInformation */
-   rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-   stat = asn1PE_UMTS_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL-List */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-   stat = asn1PE_UMTS_DL_InformationPerRL_List_r5(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* ctx, const HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* defaultConfigMode */
-   rtxCtxtPushElemName(ctx, "defaultConfigMode");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigMode");
-   if (pvalue->defaultConfigMode > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->defaultConfigMode);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigMode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* defaultConfigIdentity */
-   rtxCtxtPushElemName(ctx, "defaultConfigIdentity");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigIdentity-r5");
-   if ((uint64_t)pvalue->defaultConfigIdentity > 13u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->defaultConfigIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigIdentity, 0, 13);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* ctx, const HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_preConfigMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "predefinedConfigIdentity");
-         rtxCtxtPushTypeName(ctx, "PredefinedConfigIdentity");
-         if ((uint64_t)pvalue->u.predefinedConfigIdentity > 15u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.predefinedConfigIdentity);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.predefinedConfigIdentity, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "defaultConfig");
-         if (pvalue->u.defaultConfig == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(rtxContext* ctx, const HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PE_UMTS_UL_DPCH_InfoPostFDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonInformationPost */
-   rtxCtxtPushElemName(ctx, "dl-CommonInformationPost");
-   stat = asn1PE_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL-List */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-   stat = asn1PE_UMTS_DL_InformationPerRL_ListPostFDD(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PE_UMTS_FrequencyInfoFDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(rtxContext* ctx, const HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PE_UMTS_UL_DPCH_InfoPostTDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL");
-   stat = asn1PE_UMTS_DL_InformationPerRL_PostTDD(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(rtxContext* ctx, const HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PE_UMTS_UL_DPCH_InfoPostTDD_LCR_r4(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL");
-   stat = asn1PE_UMTS_DL_InformationPerRL_PostTDD_LCR_r4(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(rtxContext* ctx, const HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo(rtxContext* ctx, const HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration(rtxContext* ctx, const HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* preConfigMode */
-   rtxCtxtPushElemName(ctx, "preConfigMode");
-   stat = asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rab-Info */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "rab-Info");
-      stat = asn1PE_UMTS_RAB_Info_Post(ctx, &pvalue->rab_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode(rtxContext* ctx, const HandoverToUTRANCommand_r5_IEs_specificationMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "complete");
-         if (pvalue->u.complete == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_complete(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "preconfiguration");
-         if (pvalue->u.preconfiguration == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs(rtxContext* ctx, const HandoverToUTRANCommand_r5_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HandoverToUTRANCommand-r5-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* new-U-RNTI */
-   rtxCtxtPushElemName(ctx, "new-U-RNTI");
-   stat = asn1PE_UMTS_U_RNTI_Short(ctx, &pvalue->new_U_RNTI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cipheringAlgorithm */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cipheringAlgorithm");
-      rtxCtxtPushTypeName(ctx, "CipheringAlgorithm");
-      if (pvalue->cipheringAlgorithm > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->cipheringAlgorithm);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->cipheringAlgorithm, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* specificationMode */
-   rtxCtxtPushElemName(ctx, "specificationMode");
-   stat = asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs_specificationMode(ctx, &pvalue->specificationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* maxAllowedUL-TX-Power */
-   rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-   rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-   if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5_nonCriticalExtensions(rtxContext* ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5(rtxContext* ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* handoverToUTRANCommand-r5 */
-   rtxCtxtPushElemName(ctx, "handoverToUTRANCommand-r5");
-   stat = asn1PE_UMTS_HandoverToUTRANCommand_r5_IEs(ctx, &pvalue->handoverToUTRANCommand_r5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_complete(rtxContext* ctx, const HandoverToUTRANCommand_r6_IEs_specificationMode_complete* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UECapabilityInformation-v590ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* srb-InformationSetupList */
-   rtxCtxtPushElemName(ctx, "srb-InformationSetupList");
-   stat = asn1PE_UMTS_SRB_InformationSetupList_r6(ctx, &pvalue->srb_InformationSetupList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rab-InformationSetupList */
+   RT_CHECK(ctx, stat, 0, 0, -1, "UECapabilityInformation-v590ext");
+   /* ue-RadioAccessCapability-v3g0ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "rab-InformationSetupList");
-      stat = asn1PE_UMTS_RAB_InformationSetupList_r6(ctx, &pvalue->rab_InformationSetupList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UE_RadioAccessCapability_v3g0ext(ctx, &pvalue->ue_RadioAccessCapability_v3g0ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v3g0ext", -1, "UECapabilityInformation-v590ext");
    }
-   /* ul-CommonTransChInfo */
-   rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
-   stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-AddReconfTransChInfoList */
-   rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
-   stat = asn1PE_UMTS_UL_AddReconfTransChInfoList_r6(ctx, &pvalue->ul_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonTransChInfo */
-   rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
-   stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-AddReconfTransChInfoList */
-   rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
-   stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PE_UMTS_UL_DPCH_Info_r6(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-EDCH-Information */
+   /* ue-RadioAccessCapability-v590ext */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
-      stat = asn1PE_UMTS_UL_EDCH_Information_r6(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UE_RadioAccessCapability_v590ext(ctx, &pvalue->ue_RadioAccessCapability_v590ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v590ext", -1, "UECapabilityInformation-v590ext");
    }
-   /* dl-HSPDSCH-Information */
+   /* ue-RATSpecificCapability-v590ext */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r6(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonInformation */
-   rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-   stat = asn1PE_UMTS_DL_CommonInformation_r6(ctx, &pvalue->dl_CommonInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL-List */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-   stat = asn1PE_UMTS_DL_InformationPerRL_List_r6(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* ctx, const HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* defaultConfigMode */
-   rtxCtxtPushElemName(ctx, "defaultConfigMode");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigMode");
-   if (pvalue->defaultConfigMode > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->defaultConfigMode);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigMode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* defaultConfigIdentity */
-   rtxCtxtPushElemName(ctx, "defaultConfigIdentity");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigIdentity-r6");
-   if ((uint64_t)pvalue->defaultConfigIdentity > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->defaultConfigIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigIdentity, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* ctx, const HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_preConfigMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "predefinedConfigIdentity");
-         rtxCtxtPushTypeName(ctx, "PredefinedConfigIdentity");
-         if ((uint64_t)pvalue->u.predefinedConfigIdentity > 15u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.predefinedConfigIdentity);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.predefinedConfigIdentity, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "defaultConfig");
-         if (pvalue->u.defaultConfig == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
+      stat = asn1PE_UMTS_InterRAT_UE_RadioAccessCapability_v590ext(ctx, &pvalue->ue_RATSpecificCapability_v590ext);
+      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability-v590ext", -1, "UECapabilityInformation-v590ext");
    }
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(rtxContext* ctx, const HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd* pvalue)
+int asn1PE_UMTS_UECapabilityInformation_v5c0ext(rtxContext* RT_RESTRICT ctx, const UECapabilityInformation_v5c0ext* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PE_UMTS_UL_DPCH_InfoPostFDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonInformationPost */
-   rtxCtxtPushElemName(ctx, "dl-CommonInformationPost");
-   stat = asn1PE_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL-List */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-   stat = asn1PE_UMTS_DL_InformationPerRL_ListPostFDD(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PE_UMTS_FrequencyInfoFDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(rtxContext* ctx, const HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PE_UMTS_UL_DPCH_InfoPostTDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL");
-   stat = asn1PE_UMTS_DL_InformationPerRL_PostTDD(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(rtxContext* ctx, const HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PE_UMTS_UL_DPCH_InfoPostTDD_LCR_r4(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL");
-   stat = asn1PE_UMTS_DL_InformationPerRL_PostTDD_LCR_r4(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(rtxContext* ctx, const HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo(rtxContext* ctx, const HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration(rtxContext* ctx, const HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UECapabilityInformation-v5c0ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* preConfigMode */
-   rtxCtxtPushElemName(ctx, "preConfigMode");
-   stat = asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rab-Info */
+   RT_CHECK(ctx, stat, 0, 0, -1, "UECapabilityInformation-v5c0ext");
+   /* ue-RadioAccessCapability-v5c0ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "rab-Info");
-      stat = asn1PE_UMTS_RAB_Info_Post(ctx, &pvalue->rab_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode(rtxContext* ctx, const HandoverToUTRANCommand_r6_IEs_specificationMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "complete");
-         if (pvalue->u.complete == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_complete(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "preconfiguration");
-         if (pvalue->u.preconfiguration == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
+      stat = asn1PE_UMTS_UE_RadioAccessCapability_v5c0ext(ctx, &pvalue->ue_RadioAccessCapability_v5c0ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v5c0ext", -1, "UECapabilityInformation-v5c0ext");
    }
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs(rtxContext* ctx, const HandoverToUTRANCommand_r6_IEs* pvalue)
+int asn1PE_UMTS_UECapabilityInformation_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const UECapabilityInformation_v690ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HandoverToUTRANCommand-r6-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UECapabilityInformation-v690ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* new-U-RNTI */
-   rtxCtxtPushElemName(ctx, "new-U-RNTI");
-   stat = asn1PE_UMTS_U_RNTI_Short(ctx, &pvalue->new_U_RNTI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cipheringAlgorithm */
+   RT_CHECK(ctx, stat, 0, 0, -1, "UECapabilityInformation-v690ext-IEs");
+   /* ueCapabilityContainer */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cipheringAlgorithm");
-      rtxCtxtPushTypeName(ctx, "CipheringAlgorithm");
-      if (pvalue->cipheringAlgorithm > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->cipheringAlgorithm);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+      {
+         rtxContext outer;
+         const uint8_t* data;
+         uint32_t len;
+         rtxCopyContext(&outer, ctx);
+         stat = rtxInitContextBuffer(ctx, 0, 0);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer", -1, "UECapabilityInformation-v690ext-IEs");
+         stat = asn1PE_UMTS_UE_CapabilityContainer_IEs(ctx, &pvalue->ueCapabilityContainer);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer", -1, "UECapabilityInformation-v690ext-IEs");
+         data = ctx->buffer_data;
+         len = ctx->byte_index * 8 + 8 - ctx->bit_offset;
+         rtxCopyContext(ctx, &outer);
+         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+         stat = pe_BitString(ctx, len, data);
+         rtxMemHeapFreePtr(ctx, (void*)data);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer", -1, "UECapabilityInformation-v690ext-IEs");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->cipheringAlgorithm, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
    }
-   /* specificationMode */
-   rtxCtxtPushElemName(ctx, "specificationMode");
-   stat = asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs_specificationMode(ctx, &pvalue->specificationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* maxAllowedUL-TX-Power */
-   rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-   rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-   if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
+   return stat;
+}
+
+int asn1PE_UMTS_UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANCommand_v6b0ext_IEs(rtxContext* ctx, const HandoverToUTRANCommand_v6b0ext_IEs* pvalue)
+int asn1PE_UMTS_UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HandoverToUTRANCommand-v6b0ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-hspa-identities */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-hspa-identities");
-      stat = asn1PE_UMTS_UE_HSPA_Identities_r6(ctx, &pvalue->ue_hspa_identities);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* handoverToUTRANCommand-v6b0ext */
-   rtxCtxtPushElemName(ctx, "handoverToUTRANCommand-v6b0ext");
-   stat = asn1PE_UMTS_HandoverToUTRANCommand_v6b0ext_IEs(ctx, &pvalue->handoverToUTRANCommand_v6b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityInformation-v690ext */
+   stat = asn1PE_UMTS_UECapabilityInformation_v690ext_IEs(ctx, &pvalue->ueCapabilityInformation_v690ext);
+   RT_CHECK(ctx, stat, 0, "ueCapabilityInformation-v690ext", -1, 0);
    /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6(rtxContext* ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6* pvalue)
+int asn1PE_UMTS_UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* handoverToUTRANCommand-r6 */
-   rtxCtxtPushElemName(ctx, "handoverToUTRANCommand-r6");
-   stat = asn1PE_UMTS_HandoverToUTRANCommand_r6_IEs(ctx, &pvalue->handoverToUTRANCommand_r6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v6b0NonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityInformation-v5c0ext */
+   stat = asn1PE_UMTS_UECapabilityInformation_v5c0ext(ctx, &pvalue->ueCapabilityInformation_v5c0ext);
+   RT_CHECK(ctx, stat, 0, "ueCapabilityInformation-v5c0ext", -1, 0);
+   /* v690NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v6b0NonCriticalExtensions");
-      stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_complete(rtxContext* ctx, const HandoverToUTRANCommand_r7_IEs_specificationMode_complete* pvalue)
+int asn1PE_UMTS_UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityInformation-v590ext */
+   stat = asn1PE_UMTS_UECapabilityInformation_v590ext(ctx, &pvalue->ueCapabilityInformation_v590ext);
+   RT_CHECK(ctx, stat, 0, "ueCapabilityInformation-v590ext", -1, 0);
+   /* v5c0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5c0NonCriticalExtensions(ctx, &pvalue->v5c0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v5c0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityInformation-v4b0ext */
+   stat = asn1PE_UMTS_UECapabilityInformation_v4b0ext(ctx, &pvalue->ueCapabilityInformation_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "ueCapabilityInformation-v4b0ext", -1, 0);
+   /* v590NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityInformation-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      {
+         rtxContext outer;
+         const uint8_t* data;
+         uint32_t len;
+         rtxCopyContext(&outer, ctx);
+         stat = rtxInitContextBuffer(ctx, 0, 0);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityInformation-r3-add-ext", -1, 0);
+         stat = asn1PE_UMTS_UECapabilityInformation_r3_add_ext_IEs(ctx, &pvalue->ueCapabilityInformation_r3_add_ext);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityInformation-r3-add-ext", -1, 0);
+         data = ctx->buffer_data;
+         len = ctx->byte_index * 8 + 8 - ctx->bit_offset;
+         rtxCopyContext(ctx, &outer);
+         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+         stat = pe_BitString(ctx, len, data);
+         rtxMemHeapFreePtr(ctx, (void*)data);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityInformation-r3-add-ext", -1, 0);
+      }
+   }
+   /* v4b0NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
+   }
+   return stat;
+}
+
+int asn1PE_UMTS_UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityInformation-v3a0ext */
+   stat = asn1PE_UMTS_UECapabilityInformation_v3a0ext_IEs(ctx, &pvalue->ueCapabilityInformation_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "ueCapabilityInformation-v3a0ext", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityInformation-v380ext */
+   stat = asn1PE_UMTS_UECapabilityInformation_v380ext_IEs(ctx, &pvalue->ueCapabilityInformation_v380ext);
+   RT_CHECK(ctx, stat, 0, "ueCapabilityInformation-v380ext", -1, 0);
+   /* v3a0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UECapabilityInformation_v370NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UECapabilityInformation_v370NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityInformation-v370ext */
+   stat = asn1PE_UMTS_UECapabilityInformation_v370ext(ctx, &pvalue->ueCapabilityInformation_v370ext);
+   RT_CHECK(ctx, stat, 0, "ueCapabilityInformation-v370ext", -1, 0);
+   /* v380NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UECapabilityInformation_v370NonCriticalExtensions_v380NonCriticalExtensions(ctx, &pvalue->v380NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v380NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UECapabilityInformation(rtxContext* RT_RESTRICT ctx, const UECapabilityInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UECapabilityInformation");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* srb-InformationSetupList */
-   rtxCtxtPushElemName(ctx, "srb-InformationSetupList");
-   stat = asn1PE_UMTS_SRB_InformationSetupList_r7(ctx, &pvalue->srb_InformationSetupList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rab-InformationSetupList */
+   RT_CHECK(ctx, stat, 0, 0, -1, "UECapabilityInformation");
+   /* rrc-TransactionIdentifier */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "rab-InformationSetupList");
-      stat = asn1PE_UMTS_RAB_InformationSetupList_r7(ctx, &pvalue->rab_InformationSetupList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CommonTransChInfo */
-   rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
-   stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-AddReconfTransChInfoList */
-   rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
-   stat = asn1PE_UMTS_UL_AddReconfTransChInfoList_r7(ctx, &pvalue->ul_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonTransChInfo */
-   rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
-   stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-AddReconfTransChInfoList */
-   rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
-   stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-EDCH-Information */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
-      stat = asn1PE_UMTS_UL_EDCH_Information_r7(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-HSPDSCH-Information */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r7(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonInformation */
-   rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-   stat = asn1PE_UMTS_DL_CommonInformation_r7(ctx, &pvalue->dl_CommonInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL-List */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-   stat = asn1PE_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* multi-frequencyInfo */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "multi-frequencyInfo");
-      stat = asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* ctx, const HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* defaultConfigMode */
-   rtxCtxtPushElemName(ctx, "defaultConfigMode");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigMode");
-   if (pvalue->defaultConfigMode > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->defaultConfigMode);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigMode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* defaultConfigIdentity */
-   rtxCtxtPushElemName(ctx, "defaultConfigIdentity");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigIdentity-r6");
-   if ((uint64_t)pvalue->defaultConfigIdentity > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->defaultConfigIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigIdentity, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* ctx, const HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_preConfigMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "predefinedConfigIdentity");
-         rtxCtxtPushTypeName(ctx, "PredefinedConfigIdentity");
-         if ((uint64_t)pvalue->u.predefinedConfigIdentity > 15u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.predefinedConfigIdentity);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.predefinedConfigIdentity, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "defaultConfig");
-         if (pvalue->u.defaultConfig == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(rtxContext* ctx, const HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PE_UMTS_UL_DPCH_InfoPostFDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonInformationPost */
-   rtxCtxtPushElemName(ctx, "dl-CommonInformationPost");
-   stat = asn1PE_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL-List */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-   stat = asn1PE_UMTS_DL_InformationPerRL_ListPostFDD(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PE_UMTS_FrequencyInfoFDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(rtxContext* ctx, const HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PE_UMTS_UL_DPCH_InfoPostTDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL");
-   stat = asn1PE_UMTS_DL_InformationPerRL_PostTDD(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(rtxContext* ctx, const HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL");
-   stat = asn1PE_UMTS_DL_InformationPerRL_PostTDD_LCR_r4(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* multi-frequencyInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "multi-frequencyInfo");
-      stat = asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(rtxContext* ctx, const HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL");
-   stat = asn1PE_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(rtxContext* ctx, const HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "tdd768");
-         if (pvalue->u.tdd768 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo(rtxContext* ctx, const HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration(rtxContext* ctx, const HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* preConfigMode */
-   rtxCtxtPushElemName(ctx, "preConfigMode");
-   stat = asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rab-Info */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "rab-Info");
-      stat = asn1PE_UMTS_RAB_Info_Post(ctx, &pvalue->rab_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode(rtxContext* ctx, const HandoverToUTRANCommand_r7_IEs_specificationMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "complete");
-         if (pvalue->u.complete == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_complete(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "preconfiguration");
-         if (pvalue->u.preconfiguration == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs(rtxContext* ctx, const HandoverToUTRANCommand_r7_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HandoverToUTRANCommand-r7-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* new-U-RNTI */
-   rtxCtxtPushElemName(ctx, "new-U-RNTI");
-   stat = asn1PE_UMTS_U_RNTI_Short(ctx, &pvalue->new_U_RNTI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cipheringAlgorithm */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cipheringAlgorithm");
-      rtxCtxtPushTypeName(ctx, "CipheringAlgorithm-r7");
-      if (pvalue->cipheringAlgorithm > 2) {
-         rtxErrAddUIntParm(ctx, pvalue->cipheringAlgorithm);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+      if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+         rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+         rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "UECapabilityInformation");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->cipheringAlgorithm, 0, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+      RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "UECapabilityInformation");
    }
-   /* supportForChangeOfUE-Capability */
-   rtxCtxtPushElemName(ctx, "supportForChangeOfUE-Capability");
-   stat = rtxEncBit(ctx, pvalue->supportForChangeOfUE_Capability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* new-H-RNTI */
+   /* ue-RadioAccessCapability */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "new-H-RNTI");
-      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UE_RadioAccessCapability(ctx, &pvalue->ue_RadioAccessCapability);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "UECapabilityInformation");
    }
-   /* newPrimary-E-RNTI */
+   /* ue-RATSpecificCapability */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_InterRAT_UE_RadioAccessCapabilityList(ctx, &pvalue->ue_RATSpecificCapability);
+      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability", -1, "UECapabilityInformation");
    }
-   /* newSecondary-E-RNTI */
+   /* v370NonCriticalExtensions */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UECapabilityInformation_v370NonCriticalExtensions(ctx, &pvalue->v370NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v370NonCriticalExtensions", -1, "UECapabilityInformation");
    }
-   /* specificationMode */
-   rtxCtxtPushElemName(ctx, "specificationMode");
-   stat = asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs_specificationMode(ctx, &pvalue->specificationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* maxAllowedUL-TX-Power */
-   rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-   rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-   if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANCommand_v780ext_IEs(rtxContext* ctx, const HandoverToUTRANCommand_v780ext_IEs* pvalue)
+int asn1PE_UMTS_UECapabilityInformationConfirm_r3_IEs(rtxContext* RT_RESTRICT ctx, const UECapabilityInformationConfirm_r3_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HandoverToUTRANCommand-v780ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UECapabilityInformationConfirm-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "UECapabilityInformationConfirm-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "UECapabilityInformationConfirm-r3-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_UECapabilityInformationConfirm_v770ext_IEs_acceptanceOfChangeOfCapability(rtxContext* RT_RESTRICT ctx, UECapabilityInformationConfirm_v770ext_IEs_acceptanceOfChangeOfCapability value)
+{
+   int stat = 0;
+   if (value > 2) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UECapabilityInformationConfirm_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const UECapabilityInformationConfirm_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UECapabilityInformationConfirm-v770ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* hs-DSCH-TBSizeTable */
+   RT_CHECK(ctx, stat, 0, 0, -1, "UECapabilityInformationConfirm-v770ext-IEs");
+   /* acceptanceOfChangeOfCapability */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "hs-DSCH-TBSizeTable");
-      rtxCtxtPushTypeName(ctx, "HS-DSCH-TBSizeTable");
-      if (pvalue->hs_DSCH_TBSizeTable > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->hs_DSCH_TBSizeTable);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+      if (pvalue->acceptanceOfChangeOfCapability > 2) {
+         rtxErrAddUIntParm(ctx, pvalue->acceptanceOfChangeOfCapability);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "acceptanceOfChangeOfCapability", -1, "UECapabilityInformationConfirm-v770ext-IEs");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->hs_DSCH_TBSizeTable, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->acceptanceOfChangeOfCapability, 0, 2);
+      RT_CHECK(ctx, stat, 0, "acceptanceOfChangeOfCapability", -1, "UECapabilityInformationConfirm-v770ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANCommand_v820ext_IEs(rtxContext* ctx, const HandoverToUTRANCommand_v820ext_IEs* pvalue)
+int asn1PE_UMTS_UECapabilityInformationConfirm_r3_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UECapabilityInformationConfirm_r3_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HandoverToUTRANCommand-v820ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UECapabilityInformationConfirm_r3_laterNonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UECapabilityInformationConfirm_r3_laterNonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* rab-InformationSetupList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "rab-InformationSetupList");
-      stat = asn1PE_UMTS_RAB_InformationSetupList_v820ext(ctx, &pvalue->rab_InformationSetupList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_v7d0ext_IEs(rtxContext* ctx, const HandoverToUTRANCommand_v7d0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HandoverToUTRANCommand-v7d0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ul-EDCH-Information */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
-      stat = asn1PE_UMTS_UL_EDCH_Information_ext(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_v7d0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_v7d0NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_v7d0NonCriticalExtensions(rtxContext* ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_v7d0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* handoverToUTRANCommand-v7d0ext */
-   rtxCtxtPushElemName(ctx, "handoverToUTRANCommand-v7d0ext");
-   stat = asn1PE_UMTS_HandoverToUTRANCommand_v7d0ext_IEs(ctx, &pvalue->handoverToUTRANCommand_v7d0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityInformationConfirm-v770ext */
+   stat = asn1PE_UMTS_UECapabilityInformationConfirm_v770ext_IEs(ctx, &pvalue->ueCapabilityInformationConfirm_v770ext);
+   RT_CHECK(ctx, stat, 0, "ueCapabilityInformationConfirm-v770ext", -1, 0);
    /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_v7d0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UECapabilityInformationConfirm_r3_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions(rtxContext* ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_UECapabilityInformationConfirm_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UECapabilityInformationConfirm_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* handoverToUTRANCommand-v820ext */
-   rtxCtxtPushElemName(ctx, "handoverToUTRANCommand-v820ext");
-   stat = asn1PE_UMTS_HandoverToUTRANCommand_v820ext_IEs(ctx, &pvalue->handoverToUTRANCommand_v820ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v7d0NonCriticalExtensions */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityInformationConfirm-r3-add-ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v7d0NonCriticalExtensions");
-      stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->ueCapabilityInformationConfirm_r3_add_ext.numbits, pvalue->ueCapabilityInformationConfirm_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "ueCapabilityInformationConfirm-r3-add-ext", -1, 0);
    }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* handoverToUTRANCommand-v780ext */
-   rtxCtxtPushElemName(ctx, "handoverToUTRANCommand-v780ext");
-   stat = asn1PE_UMTS_HandoverToUTRANCommand_v780ext_IEs(ctx, &pvalue->handoverToUTRANCommand_v780ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v820NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v820NonCriticalExtensions");
-      stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v820NonCriticalExtensions(ctx, &pvalue->v820NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* handoverToUTRANCommand-r7 */
-   rtxCtxtPushElemName(ctx, "handoverToUTRANCommand-r7");
-   stat = asn1PE_UMTS_HandoverToUTRANCommand_r7_IEs(ctx, &pvalue->handoverToUTRANCommand_r7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v780NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v780NonCriticalExtensions");
-      stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_complete(rtxContext* ctx, const HandoverToUTRANCommand_r8_IEs_specificationMode_complete* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* srb-InformationSetupList */
-   rtxCtxtPushElemName(ctx, "srb-InformationSetupList");
-   stat = asn1PE_UMTS_SRB_InformationSetupList_r8(ctx, &pvalue->srb_InformationSetupList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rab-InformationSetupList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "rab-InformationSetupList");
-      stat = asn1PE_UMTS_RAB_InformationSetupList_r8(ctx, &pvalue->rab_InformationSetupList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CommonTransChInfo */
-   rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
-   stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-AddReconfTransChInfoList */
-   rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
-   stat = asn1PE_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonTransChInfo */
-   rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
-   stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-AddReconfTransChInfoList */
-   rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
-   stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-EDCH-Information */
+   /* v770NonCriticalExtensions */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
-      stat = asn1PE_UMTS_UL_EDCH_Information_r8(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UECapabilityInformationConfirm_r3_laterNonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
    }
-   /* dl-HSPDSCH-Information */
+   return 0;
+}
+
+int asn1PE_UMTS_UECapabilityInformationConfirm_r3(rtxContext* RT_RESTRICT ctx, const UECapabilityInformationConfirm_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ueCapabilityInformationConfirm-r3 */
+   stat = asn1PE_UMTS_UECapabilityInformationConfirm_r3_IEs(ctx, &pvalue->ueCapabilityInformationConfirm_r3);
+   RT_CHECK(ctx, stat, 0, "ueCapabilityInformationConfirm-r3", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UECapabilityInformationConfirm_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UECapabilityInformationConfirm_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, const UECapabilityInformationConfirm_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UECapabilityInformationConfirm_later_than_r3(rtxContext* RT_RESTRICT ctx, const UECapabilityInformationConfirm_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PE_UMTS_UECapabilityInformationConfirm_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UECapabilityInformationConfirm(rtxContext* RT_RESTRICT ctx, const UECapabilityInformationConfirm* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UECapabilityInformationConfirm");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "UECapabilityInformationConfirm");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UECapabilityInformationConfirm");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r3", -1, "UECapabilityInformationConfirm");
+         stat = asn1PE_UMTS_UECapabilityInformationConfirm_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "UECapabilityInformationConfirm");
+         break;
+      case 2:
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "later-than-r3", -1, "UECapabilityInformationConfirm");
+         stat = asn1PE_UMTS_UECapabilityInformationConfirm_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "UECapabilityInformationConfirm");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkDirectTransfer_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const UplinkDirectTransfer_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UplinkDirectTransfer-v690ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UplinkDirectTransfer-v690ext-IEs");
+   /* measuredResultsOnRACHinterFreq */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasuredResultsOnRACHinterFreq(ctx, &pvalue->measuredResultsOnRACHinterFreq);
+      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACHinterFreq", -1, "UplinkDirectTransfer-v690ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkDirectTransfer_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, const UplinkDirectTransfer_v7g0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UplinkDirectTransfer-v7g0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UplinkDirectTransfer-v7g0ext-IEs");
+   /* measuredResultsOnRACH-v7g0ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasuredResultsOnRACH_v7g0ext(ctx, &pvalue->measuredResultsOnRACH_v7g0ext);
+      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACH-v7g0ext", -1, "UplinkDirectTransfer-v7g0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkDirectTransfer_laterNonCriticalExtensions_v690NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UplinkDirectTransfer_laterNonCriticalExtensions_v690NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkDirectTransfer_laterNonCriticalExtensions_v690NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UplinkDirectTransfer_laterNonCriticalExtensions_v690NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uplinkDirectTransfer-v7g0ext */
+   stat = asn1PE_UMTS_UplinkDirectTransfer_v7g0ext_IEs(ctx, &pvalue->uplinkDirectTransfer_v7g0ext);
+   RT_CHECK(ctx, stat, 0, "uplinkDirectTransfer-v7g0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UplinkDirectTransfer_laterNonCriticalExtensions_v690NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkDirectTransfer_laterNonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UplinkDirectTransfer_laterNonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uplinkDirectTransfer-v690ext */
+   stat = asn1PE_UMTS_UplinkDirectTransfer_v690ext_IEs(ctx, &pvalue->uplinkDirectTransfer_v690ext);
+   RT_CHECK(ctx, stat, 0, "uplinkDirectTransfer-v690ext", -1, 0);
+   /* v7g0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UplinkDirectTransfer_laterNonCriticalExtensions_v690NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkDirectTransfer_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UplinkDirectTransfer_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uplinkDirectTransfer-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->uplinkDirectTransfer_r3_add_ext.numbits, pvalue->uplinkDirectTransfer_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "uplinkDirectTransfer-r3-add-ext", -1, 0);
+   }
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UplinkDirectTransfer_laterNonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkDirectTransfer(rtxContext* RT_RESTRICT ctx, const UplinkDirectTransfer* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UplinkDirectTransfer");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UplinkDirectTransfer");
+   /* cn-DomainIdentity */
+   if (pvalue->cn_DomainIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "UplinkDirectTransfer");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "UplinkDirectTransfer");
+   /* nas-Message */
+   stat = asn1PE_UMTS_NAS_Message(ctx, &pvalue->nas_Message);
+   RT_CHECK(ctx, stat, 0, "nas-Message", -1, "UplinkDirectTransfer");
+   /* measuredResultsOnRACH */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasuredResultsOnRACH(ctx, &pvalue->measuredResultsOnRACH);
+      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACH", -1, "UplinkDirectTransfer");
+   }
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UplinkDirectTransfer_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "UplinkDirectTransfer");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkPhysicalChannelControl_r3_IEs(rtxContext* RT_RESTRICT ctx, const UplinkPhysicalChannelControl_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UplinkPhysicalChannelControl-r3-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UplinkPhysicalChannelControl-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "UplinkPhysicalChannelControl-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "UplinkPhysicalChannelControl-r3-IEs");
+   /* ccTrCH-PowerControlInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CCTrCH_PowerControlInfo(ctx, &pvalue->ccTrCH_PowerControlInfo);
+      RT_CHECK(ctx, stat, 0, "ccTrCH-PowerControlInfo", -1, "UplinkPhysicalChannelControl-r3-IEs");
+   }
+   /* timingAdvance */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UL_TimingAdvanceControl(ctx, &pvalue->timingAdvance);
+      RT_CHECK(ctx, stat, 0, "timingAdvance", -1, "UplinkPhysicalChannelControl-r3-IEs");
+   }
+   /* alpha */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if ((uint64_t)pvalue->alpha > 8u) {
+         rtxErrAddStrParm(ctx, "Alpha");
+         rtxErrAddUIntParm(ctx, pvalue->alpha);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Alpha", "alpha", -1, "UplinkPhysicalChannelControl-r3-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->alpha, 0, 8);
+      RT_CHECK(ctx, stat, "Alpha", "alpha", -1, "UplinkPhysicalChannelControl-r3-IEs");
    }
-   /* dl-CommonInformation */
-   rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-   stat = asn1PE_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL-List */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-   stat = asn1PE_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* multi-frequencyInfo */
+   /* specialBurstScheduling */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "multi-frequencyInfo");
-      stat = asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if ((uint64_t)pvalue->specialBurstScheduling > 7u) {
+         rtxErrAddStrParm(ctx, "SpecialBurstScheduling");
+         rtxErrAddUIntParm(ctx, pvalue->specialBurstScheduling);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "SpecialBurstScheduling", "specialBurstScheduling", -1, "UplinkPhysicalChannelControl-r3-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->specialBurstScheduling, 0, 7);
+      RT_CHECK(ctx, stat, "SpecialBurstScheduling", "specialBurstScheduling", -1, "UplinkPhysicalChannelControl-r3-IEs");
+   }
+   /* prach-ConstantValue */
+   if (pvalue->m & 0x10u) {
+      if (pvalue->prach_ConstantValue < -35 || pvalue->prach_ConstantValue > 10) {
+         rtxErrAddStrParm(ctx, "ConstantValueTdd");
+         rtxErrAddIntParm(ctx, pvalue->prach_ConstantValue);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "ConstantValueTdd", "prach-ConstantValue", -1, "UplinkPhysicalChannelControl-r3-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->prach_ConstantValue, -35, 10);
+      RT_CHECK(ctx, stat, "ConstantValueTdd", "prach-ConstantValue", -1, "UplinkPhysicalChannelControl-r3-IEs");
+   }
+   /* pusch-ConstantValue */
+   if (pvalue->m & 0x20u) {
+      if (pvalue->pusch_ConstantValue < -35 || pvalue->pusch_ConstantValue > 10) {
+         rtxErrAddStrParm(ctx, "ConstantValueTdd");
+         rtxErrAddIntParm(ctx, pvalue->pusch_ConstantValue);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "ConstantValueTdd", "pusch-ConstantValue", -1, "UplinkPhysicalChannelControl-r3-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->pusch_ConstantValue, -35, 10);
+      RT_CHECK(ctx, stat, "ConstantValueTdd", "pusch-ConstantValue", -1, "UplinkPhysicalChannelControl-r3-IEs");
    }
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* ctx, const HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* pvalue)
+int asn1PE_UMTS_UplinkPhysicalChannelControl_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const UplinkPhysicalChannelControl_v4b0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UplinkPhysicalChannelControl-v4b0ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* defaultConfigMode */
-   rtxCtxtPushElemName(ctx, "defaultConfigMode");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigMode");
-   if (pvalue->defaultConfigMode > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->defaultConfigMode);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigMode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* defaultConfigIdentity */
-   rtxCtxtPushElemName(ctx, "defaultConfigIdentity");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigIdentity-r6");
-   if ((uint64_t)pvalue->defaultConfigIdentity > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->defaultConfigIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigIdentity, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dlul-HSPA-Information */
+   RT_CHECK(ctx, stat, 0, 0, -1, "UplinkPhysicalChannelControl-v4b0ext-IEs");
+   /* openLoopPowerControl-IPDL-TDD */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dlul-HSPA-Information");
-      stat = asn1PE_UMTS_DLUL_HSPA_Information_r8(ctx, &pvalue->dlul_HSPA_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_OpenLoopPowerControl_IPDL_TDD_r4(ctx, &pvalue->openLoopPowerControl_IPDL_TDD);
+      RT_CHECK(ctx, stat, 0, "openLoopPowerControl-IPDL-TDD", -1, "UplinkPhysicalChannelControl-v4b0ext-IEs");
    }
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* ctx, const HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode* pvalue)
+int asn1PE_UMTS_UplinkPhysicalChannelControl_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_noncriticalExtensions(rtxContext* RT_RESTRICT ctx, const UplinkPhysicalChannelControl_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_noncriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "predefinedConfigIdentity");
-         rtxCtxtPushTypeName(ctx, "PredefinedConfigIdentity");
-         if ((uint64_t)pvalue->u.predefinedConfigIdentity > 15u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.predefinedConfigIdentity);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.predefinedConfigIdentity, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "defaultConfig");
-         if (pvalue->u.defaultConfig == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(rtxContext* ctx, const HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd* pvalue)
+int asn1PE_UMTS_UplinkPhysicalChannelControl_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UplinkPhysicalChannelControl_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PE_UMTS_UL_DPCH_InfoPostFDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonInformationPost */
-   rtxCtxtPushElemName(ctx, "dl-CommonInformationPost");
-   stat = asn1PE_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL-List */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-   stat = asn1PE_UMTS_DL_InformationPerRL_ListPostFDD(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PE_UMTS_FrequencyInfoFDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(rtxContext* ctx, const HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PE_UMTS_UL_DPCH_InfoPostTDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL");
-   stat = asn1PE_UMTS_DL_InformationPerRL_PostTDD(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(rtxContext* ctx, const HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL");
-   stat = asn1PE_UMTS_DL_InformationPerRL_PostTDD_LCR_r4(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* multi-frequencyInfo */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uplinkPysicalChannelControl-v4b0ext */
+   stat = asn1PE_UMTS_UplinkPhysicalChannelControl_v4b0ext_IEs(ctx, &pvalue->uplinkPysicalChannelControl_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "uplinkPysicalChannelControl-v4b0ext", -1, 0);
+   /* noncriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "multi-frequencyInfo");
-      stat = asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UplinkPhysicalChannelControl_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_noncriticalExtensions(ctx, &pvalue->noncriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "noncriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(rtxContext* ctx, const HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768* pvalue)
+int asn1PE_UMTS_UplinkPhysicalChannelControl_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UplinkPhysicalChannelControl_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL");
-   stat = asn1PE_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uplinkPhysicalChannelControl-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->uplinkPhysicalChannelControl_r3_add_ext.numbits, pvalue->uplinkPhysicalChannelControl_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "uplinkPhysicalChannelControl-r3-add-ext", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(rtxContext* ctx, const HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 3:
-         rtxCtxtPushElemName(ctx, "tdd768");
-         if (pvalue->u.tdd768 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
+   /* v4b0NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UplinkPhysicalChannelControl_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo(rtxContext* ctx, const HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo* pvalue)
+int asn1PE_UMTS_UplinkPhysicalChannelControl_r3(rtxContext* RT_RESTRICT ctx, const UplinkPhysicalChannelControl_r3* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration(rtxContext* ctx, const HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* preConfigMode */
-   rtxCtxtPushElemName(ctx, "preConfigMode");
-   stat = asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rab-Info */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uplinkPhysicalChannelControl-r3 */
+   stat = asn1PE_UMTS_UplinkPhysicalChannelControl_r3_IEs(ctx, &pvalue->uplinkPhysicalChannelControl_r3);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysicalChannelControl-r3", -1, 0);
+   /* laterNonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "rab-Info");
-      stat = asn1PE_UMTS_RAB_Info_Post(ctx, &pvalue->rab_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode(rtxContext* ctx, const HandoverToUTRANCommand_r8_IEs_specificationMode* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "complete");
-         if (pvalue->u.complete == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_complete(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "preconfiguration");
-         if (pvalue->u.preconfiguration == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
+      stat = asn1PE_UMTS_UplinkPhysicalChannelControl_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs(rtxContext* ctx, const HandoverToUTRANCommand_r8_IEs* pvalue)
+int asn1PE_UMTS_UplinkPhysicalChannelControl_r4_IEs_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UplinkPhysicalChannelControl_r4_IEs_tddOption_tdd384* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HandoverToUTRANCommand-r8-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat);
-   /* new-U-RNTI */
-   rtxCtxtPushElemName(ctx, "new-U-RNTI");
-   stat = asn1PE_UMTS_U_RNTI_Short(ctx, &pvalue->new_U_RNTI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cipheringAlgorithm */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* timingAdvance */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cipheringAlgorithm");
-      rtxCtxtPushTypeName(ctx, "CipheringAlgorithm-r7");
-      if (pvalue->cipheringAlgorithm > 2) {
-         rtxErrAddUIntParm(ctx, pvalue->cipheringAlgorithm);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->cipheringAlgorithm, 0, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UL_TimingAdvanceControl_r4(ctx, &pvalue->timingAdvance);
+      RT_CHECK(ctx, stat, 0, "timingAdvance", -1, 0);
    }
-   /* supportForChangeOfUE-Capability */
-   rtxCtxtPushElemName(ctx, "supportForChangeOfUE-Capability");
-   stat = rtxEncBit(ctx, pvalue->supportForChangeOfUE_Capability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* new-H-RNTI */
+   /* alpha */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "new-H-RNTI");
-      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if ((uint64_t)pvalue->alpha > 8u) {
+         rtxErrAddStrParm(ctx, "Alpha");
+         rtxErrAddUIntParm(ctx, pvalue->alpha);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Alpha", "alpha", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->alpha, 0, 8);
+      RT_CHECK(ctx, stat, "Alpha", "alpha", -1, 0);
    }
-   /* newPrimary-E-RNTI */
+   /* prach-ConstantValue */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if (pvalue->prach_ConstantValue < -35 || pvalue->prach_ConstantValue > 10) {
+         rtxErrAddStrParm(ctx, "ConstantValueTdd");
+         rtxErrAddIntParm(ctx, pvalue->prach_ConstantValue);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "ConstantValueTdd", "prach-ConstantValue", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->prach_ConstantValue, -35, 10);
+      RT_CHECK(ctx, stat, "ConstantValueTdd", "prach-ConstantValue", -1, 0);
    }
-   /* newSecondary-E-RNTI */
+   /* pusch-ConstantValue */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if (pvalue->pusch_ConstantValue < -35 || pvalue->pusch_ConstantValue > 10) {
+         rtxErrAddStrParm(ctx, "ConstantValueTdd");
+         rtxErrAddIntParm(ctx, pvalue->pusch_ConstantValue);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "ConstantValueTdd", "pusch-ConstantValue", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->pusch_ConstantValue, -35, 10);
+      RT_CHECK(ctx, stat, "ConstantValueTdd", "pusch-ConstantValue", -1, 0);
    }
-   /* defaultConfigForCellFACH */
+   /* openLoopPowerControl-IPDL-TDD */
    if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "defaultConfigForCellFACH");
-      stat = asn1PE_UMTS_DefaultConfigForCellFACH(ctx, &pvalue->defaultConfigForCellFACH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_OpenLoopPowerControl_IPDL_TDD_r4(ctx, &pvalue->openLoopPowerControl_IPDL_TDD);
+      RT_CHECK(ctx, stat, 0, "openLoopPowerControl-IPDL-TDD", -1, 0);
    }
-   /* specificationMode */
-   rtxCtxtPushElemName(ctx, "specificationMode");
-   stat = asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs_specificationMode(ctx, &pvalue->specificationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* maxAllowedUL-TX-Power */
-   rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-   rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-   if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANCommand_v890ext_IEs(rtxContext* ctx, const HandoverToUTRANCommand_v890ext_IEs* pvalue)
+int asn1PE_UMTS_UplinkPhysicalChannelControl_r4_IEs_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UplinkPhysicalChannelControl_r4_IEs_tddOption_tdd128* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HandoverToUTRANCommand-v890ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* dl-HSPDSCH-Information */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ul-SynchronisationParameters */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_ext(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UL_SynchronisationParameters_r4(ctx, &pvalue->ul_SynchronisationParameters);
+      RT_CHECK(ctx, stat, 0, "ul-SynchronisationParameters", -1, 0);
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANCommand_v8a0ext_IEs(rtxContext* ctx, const HandoverToUTRANCommand_v8a0ext_IEs* pvalue)
+int asn1PE_UMTS_UplinkPhysicalChannelControl_r4_IEs_tddOption(rtxContext* RT_RESTRICT ctx, const UplinkPhysicalChannelControl_r4_IEs_tddOption* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HandoverToUTRANCommand-v8a0ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = asn1PE_UMTS_UplinkPhysicalChannelControl_r4_IEs_tddOption_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = asn1PE_UMTS_UplinkPhysicalChannelControl_r4_IEs_tddOption_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkPhysicalChannelControl_r4_IEs(rtxContext* RT_RESTRICT ctx, const UplinkPhysicalChannelControl_r4_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UplinkPhysicalChannelControl-r4-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* dl-HSPDSCH-Information */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UplinkPhysicalChannelControl-r4-IEs");
+   /* ccTrCH-PowerControlInfo */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_ext2(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CCTrCH_PowerControlInfo_r4(ctx, &pvalue->ccTrCH_PowerControlInfo);
+      RT_CHECK(ctx, stat, 0, "ccTrCH-PowerControlInfo", -1, "UplinkPhysicalChannelControl-r4-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
+   /* specialBurstScheduling */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->specialBurstScheduling > 7u) {
+         rtxErrAddStrParm(ctx, "SpecialBurstScheduling");
+         rtxErrAddUIntParm(ctx, pvalue->specialBurstScheduling);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "SpecialBurstScheduling", "specialBurstScheduling", -1, "UplinkPhysicalChannelControl-r4-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->specialBurstScheduling, 0, 7);
+      RT_CHECK(ctx, stat, "SpecialBurstScheduling", "specialBurstScheduling", -1, "UplinkPhysicalChannelControl-r4-IEs");
+   }
+   /* tddOption */
+   stat = asn1PE_UMTS_UplinkPhysicalChannelControl_r4_IEs_tddOption(ctx, &pvalue->tddOption);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, "UplinkPhysicalChannelControl-r4-IEs");
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions* pvalue)
+int asn1PE_UMTS_UplinkPhysicalChannelControl_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const UplinkPhysicalChannelControl_v690ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions(rtxContext* ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UplinkPhysicalChannelControl-v690ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* handoverToUTRANCommand-v8a0ext */
-   rtxCtxtPushElemName(ctx, "handoverToUTRANCommand-v8a0ext");
-   stat = asn1PE_UMTS_HandoverToUTRANCommand_v8a0ext_IEs(ctx, &pvalue->handoverToUTRANCommand_v8a0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UplinkPhysicalChannelControl-v690ext-IEs");
+   /* beaconPLEst */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->beaconPLEst > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->beaconPLEst);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "BEACON-PL-Est", "beaconPLEst", -1, "UplinkPhysicalChannelControl-v690ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->beaconPLEst, 0, 0);
+      RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "UplinkPhysicalChannelControl-v690ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uplinkPhysicalChannelControl-v690ext */
+   stat = asn1PE_UMTS_UplinkPhysicalChannelControl_v690ext_IEs(ctx, &pvalue->uplinkPhysicalChannelControl_v690ext);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysicalChannelControl-v690ext", -1, 0);
    /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* handoverToUTRANCommand-v890ext */
-   rtxCtxtPushElemName(ctx, "handoverToUTRANCommand-v890ext");
-   stat = asn1PE_UMTS_HandoverToUTRANCommand_v890ext_IEs(ctx, &pvalue->handoverToUTRANCommand_v890ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v8a0NonCriticalExtensions */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uplinkPhysicalChannelControl-r4-add-ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v8a0NonCriticalExtensions");
-      stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->uplinkPhysicalChannelControl_r4_add_ext.numbits, pvalue->uplinkPhysicalChannelControl_r4_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "uplinkPhysicalChannelControl-r4-add-ext", -1, 0);
    }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(rtxContext* ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* handoverToUTRANCommand-v7d0ext */
-   rtxCtxtPushElemName(ctx, "handoverToUTRANCommand-v7d0ext");
-   stat = asn1PE_UMTS_HandoverToUTRANCommand_v7d0ext_IEs(ctx, &pvalue->handoverToUTRANCommand_v7d0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v890NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v890NonCriticalExtensions");
-      stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* handoverToUTRANCommand-r8 */
-   rtxCtxtPushElemName(ctx, "handoverToUTRANCommand-r8");
-   stat = asn1PE_UMTS_HandoverToUTRANCommand_r8_IEs(ctx, &pvalue->handoverToUTRANCommand_r8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v7d0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v7d0NonCriticalExtensions");
-      stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_complete(rtxContext* ctx, const HandoverToUTRANCommand_r9_IEs_specificationMode_complete* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* srb-InformationSetupList */
-   rtxCtxtPushElemName(ctx, "srb-InformationSetupList");
-   stat = asn1PE_UMTS_SRB_InformationSetupList_r8(ctx, &pvalue->srb_InformationSetupList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rab-InformationSetupList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "rab-InformationSetupList");
-      stat = asn1PE_UMTS_RAB_InformationSetupList_r8(ctx, &pvalue->rab_InformationSetupList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CommonTransChInfo */
-   rtxCtxtPushElemName(ctx, "ul-CommonTransChInfo");
-   stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-AddReconfTransChInfoList */
-   rtxCtxtPushElemName(ctx, "ul-AddReconfTransChInfoList");
-   stat = asn1PE_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonTransChInfo */
-   rtxCtxtPushElemName(ctx, "dl-CommonTransChInfo");
-   stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-AddReconfTransChInfoList */
-   rtxCtxtPushElemName(ctx, "dl-AddReconfTransChInfoList");
-   stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r9(ctx, &pvalue->dl_AddReconfTransChInfoList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ul-EDCH-Information */
+   /* v690NonCriticalExtensions */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
-      stat = asn1PE_UMTS_UL_EDCH_Information_r9(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-HSPDSCH-Information */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonInformation */
-   rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-   stat = asn1PE_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL-List */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-   stat = asn1PE_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* multi-frequencyInfo */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "multi-frequencyInfo");
-      stat = asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(rtxContext* ctx, const HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig* pvalue)
+int asn1PE_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, const UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* defaultConfigMode */
-   rtxCtxtPushElemName(ctx, "defaultConfigMode");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigMode");
-   if (pvalue->defaultConfigMode > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->defaultConfigMode);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigMode, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* defaultConfigIdentity */
-   rtxCtxtPushElemName(ctx, "defaultConfigIdentity");
-   rtxCtxtPushTypeName(ctx, "DefaultConfigIdentity-r6");
-   if ((uint64_t)pvalue->defaultConfigIdentity > 31u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->defaultConfigIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigIdentity, 0, 31);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* dlul-HSPA-Information */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uplinkPhysicalChannelControl-r4 */
+   stat = asn1PE_UMTS_UplinkPhysicalChannelControl_r4_IEs(ctx, &pvalue->uplinkPhysicalChannelControl_r4);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysicalChannelControl-r4", -1, 0);
+   /* v4d0NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dlul-HSPA-Information");
-      stat = asn1PE_UMTS_DLUL_HSPA_Information_r9(ctx, &pvalue->dlul_HSPA_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode(rtxContext* ctx, const HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode* pvalue)
+int asn1PE_UMTS_UplinkPhysicalChannelControl_r5_IEs_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UplinkPhysicalChannelControl_r5_IEs_tddOption_tdd384* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* timingAdvance */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UL_TimingAdvanceControl_r4(ctx, &pvalue->timingAdvance);
+      RT_CHECK(ctx, stat, 0, "timingAdvance", -1, 0);
+   }
+   /* alpha */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->alpha > 8u) {
+         rtxErrAddStrParm(ctx, "Alpha");
+         rtxErrAddUIntParm(ctx, pvalue->alpha);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Alpha", "alpha", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->alpha, 0, 8);
+      RT_CHECK(ctx, stat, "Alpha", "alpha", -1, 0);
+   }
+   /* prach-ConstantValue */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->prach_ConstantValue < -35 || pvalue->prach_ConstantValue > 10) {
+         rtxErrAddStrParm(ctx, "ConstantValueTdd");
+         rtxErrAddIntParm(ctx, pvalue->prach_ConstantValue);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "ConstantValueTdd", "prach-ConstantValue", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->prach_ConstantValue, -35, 10);
+      RT_CHECK(ctx, stat, "ConstantValueTdd", "prach-ConstantValue", -1, 0);
+   }
+   /* pusch-ConstantValue */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->pusch_ConstantValue < -35 || pvalue->pusch_ConstantValue > 10) {
+         rtxErrAddStrParm(ctx, "ConstantValueTdd");
+         rtxErrAddIntParm(ctx, pvalue->pusch_ConstantValue);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "ConstantValueTdd", "pusch-ConstantValue", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->pusch_ConstantValue, -35, 10);
+      RT_CHECK(ctx, stat, "ConstantValueTdd", "pusch-ConstantValue", -1, 0);
+   }
+   /* openLoopPowerControl-IPDL-TDD */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_OpenLoopPowerControl_IPDL_TDD_r4(ctx, &pvalue->openLoopPowerControl_IPDL_TDD);
+      RT_CHECK(ctx, stat, 0, "openLoopPowerControl-IPDL-TDD", -1, 0);
+   }
+   /* hs-SICH-PowerControl */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_HS_SICH_Power_Control_Info_TDD384(ctx, &pvalue->hs_SICH_PowerControl);
+      RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkPhysicalChannelControl_r5_IEs_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UplinkPhysicalChannelControl_r5_IEs_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ul-SynchronisationParameters */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UL_SynchronisationParameters_r4(ctx, &pvalue->ul_SynchronisationParameters);
+      RT_CHECK(ctx, stat, 0, "ul-SynchronisationParameters", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkPhysicalChannelControl_r5_IEs_tddOption(rtxContext* RT_RESTRICT ctx, const UplinkPhysicalChannelControl_r5_IEs_tddOption* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "predefinedConfigIdentity");
-         rtxCtxtPushTypeName(ctx, "PredefinedConfigIdentity");
-         if ((uint64_t)pvalue->u.predefinedConfigIdentity > 15u) {
-            rtxErrAddElemNameParm(ctx);
-            rtxErrAddUIntParm(ctx, pvalue->u.predefinedConfigIdentity);
-            RT_RAISE(ctx, RT_ERR_CONSVIO);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.predefinedConfigIdentity, 0, 15);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopTypeName(ctx);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = asn1PE_UMTS_UplinkPhysicalChannelControl_r5_IEs_tddOption_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "defaultConfig");
-         if (pvalue->u.defaultConfig == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode_defaultConfig(ctx, pvalue->u.defaultConfig);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = asn1PE_UMTS_UplinkPhysicalChannelControl_r5_IEs_tddOption_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
          break;
       default:
          break;
@@ -8753,175 +6347,335 @@ int asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(rtxContext* ctx, const HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd* pvalue)
+int asn1PE_UMTS_UplinkPhysicalChannelControl_r5_IEs(rtxContext* RT_RESTRICT ctx, const UplinkPhysicalChannelControl_r5_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PE_UMTS_UL_DPCH_InfoPostFDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonInformationPost */
-   rtxCtxtPushElemName(ctx, "dl-CommonInformationPost");
-   stat = asn1PE_UMTS_DL_CommonInformationPost(ctx, &pvalue->dl_CommonInformationPost);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL-List */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-   stat = asn1PE_UMTS_DL_InformationPerRL_ListPostFDD(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PE_UMTS_FrequencyInfoFDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(rtxContext* ctx, const HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PE_UMTS_UL_DPCH_InfoPostTDD(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL");
-   stat = asn1PE_UMTS_DL_InformationPerRL_PostTDD(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UplinkPhysicalChannelControl-r5-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UplinkPhysicalChannelControl-r5-IEs");
+   /* ccTrCH-PowerControlInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CCTrCH_PowerControlInfo_r5(ctx, &pvalue->ccTrCH_PowerControlInfo);
+      RT_CHECK(ctx, stat, 0, "ccTrCH-PowerControlInfo", -1, "UplinkPhysicalChannelControl-r5-IEs");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
+   /* specialBurstScheduling */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->specialBurstScheduling > 7u) {
+         rtxErrAddStrParm(ctx, "SpecialBurstScheduling");
+         rtxErrAddUIntParm(ctx, pvalue->specialBurstScheduling);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "SpecialBurstScheduling", "specialBurstScheduling", -1, "UplinkPhysicalChannelControl-r5-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->specialBurstScheduling, 0, 7);
+      RT_CHECK(ctx, stat, "SpecialBurstScheduling", "specialBurstScheduling", -1, "UplinkPhysicalChannelControl-r5-IEs");
+   }
+   /* tddOption */
+   stat = asn1PE_UMTS_UplinkPhysicalChannelControl_r5_IEs_tddOption(ctx, &pvalue->tddOption);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, "UplinkPhysicalChannelControl-r5-IEs");
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(rtxContext* ctx, const HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128* pvalue)
+int asn1PE_UMTS_UplinkPhysicalChannelControl_v6a0ext_IEs_tpc_Step_Size(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_v6a0ext_IEs_tpc_Step_Size value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkPhysicalChannelControl_v6a0ext_IEs(rtxContext* RT_RESTRICT ctx, const UplinkPhysicalChannelControl_v6a0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UplinkPhysicalChannelControl-v6a0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UplinkPhysicalChannelControl-v6a0ext-IEs");
+   /* desired-HS-SICH-PowerLevel */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->desired_HS_SICH_PowerLevel < -120 || pvalue->desired_HS_SICH_PowerLevel > -58) {
+         rtxErrAddStrParm(ctx, "desired-HS-SICH-PowerLevel");
+         rtxErrAddIntParm(ctx, pvalue->desired_HS_SICH_PowerLevel);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "desired-HS-SICH-PowerLevel", -1, "UplinkPhysicalChannelControl-v6a0ext-IEs");
+      }
+      stat = pe_ConsInt64(ctx, pvalue->desired_HS_SICH_PowerLevel, -120, -58);
+      RT_CHECK(ctx, stat, 0, "desired-HS-SICH-PowerLevel", -1, "UplinkPhysicalChannelControl-v6a0ext-IEs");
+   }
+   /* tpc-Step-Size */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->tpc_Step_Size > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->tpc_Step_Size);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "tpc-Step-Size", -1, "UplinkPhysicalChannelControl-v6a0ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->tpc_Step_Size, 0, 3);
+      RT_CHECK(ctx, stat, 0, "tpc-Step-Size", -1, "UplinkPhysicalChannelControl-v6a0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v6a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v6a0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v6a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v6a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL");
-   stat = asn1PE_UMTS_DL_InformationPerRL_PostTDD_LCR_r4(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* multi-frequencyInfo */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uplinkPhysicalChannelControl-v6a0ext */
+   stat = asn1PE_UMTS_UplinkPhysicalChannelControl_v6a0ext_IEs(ctx, &pvalue->uplinkPhysicalChannelControl_v6a0ext);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysicalChannelControl-v6a0ext", -1, 0);
+   /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "multi-frequencyInfo");
-      stat = asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v6a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(rtxContext* ctx, const HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768* pvalue)
+int asn1PE_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* ul-DPCH-Info */
-   rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-   stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-InformationPerRL */
-   rtxCtxtPushElemName(ctx, "dl-InformationPerRL");
-   stat = asn1PE_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* frequencyInfo */
-   rtxCtxtPushElemName(ctx, "frequencyInfo");
-   stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* primaryCCPCH-TX-Power */
-   rtxCtxtPushElemName(ctx, "primaryCCPCH-TX-Power");
-   rtxCtxtPushTypeName(ctx, "PrimaryCCPCH-TX-Power");
-   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uplinkPhysicalChannelControl-v690ext */
+   stat = asn1PE_UMTS_UplinkPhysicalChannelControl_v690ext_IEs(ctx, &pvalue->uplinkPhysicalChannelControl_v690ext);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysicalChannelControl-v690ext", -1, 0);
+   /* v6a0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v6a0NonCriticalExtensions(ctx, &pvalue->v6a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6a0NonCriticalExtensions", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(rtxContext* ctx, const HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd* pvalue)
+int asn1PE_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, const UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_r5* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uplinkPhysicalChannelControl-r5 */
+   stat = asn1PE_UMTS_UplinkPhysicalChannelControl_r5_IEs(ctx, &pvalue->uplinkPhysicalChannelControl_r5);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysicalChannelControl-r5", -1, 0);
+   /* uplinkPhysicalChannelControl-r5-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->uplinkPhysicalChannelControl_r5_add_ext.numbits, pvalue->uplinkPhysicalChannelControl_r5_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "uplinkPhysicalChannelControl-r5-add-ext", -1, 0);
+   }
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkPhysicalChannelControl_r7_IEs_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UplinkPhysicalChannelControl_r7_IEs_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* timingAdvance */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UL_TimingAdvanceControl_r4(ctx, &pvalue->timingAdvance);
+      RT_CHECK(ctx, stat, 0, "timingAdvance", -1, 0);
+   }
+   /* alpha */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->alpha > 8u) {
+         rtxErrAddStrParm(ctx, "Alpha");
+         rtxErrAddUIntParm(ctx, pvalue->alpha);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Alpha", "alpha", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->alpha, 0, 8);
+      RT_CHECK(ctx, stat, "Alpha", "alpha", -1, 0);
+   }
+   /* prach-ConstantValue */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->prach_ConstantValue < -35 || pvalue->prach_ConstantValue > 10) {
+         rtxErrAddStrParm(ctx, "ConstantValueTdd");
+         rtxErrAddIntParm(ctx, pvalue->prach_ConstantValue);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "ConstantValueTdd", "prach-ConstantValue", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->prach_ConstantValue, -35, 10);
+      RT_CHECK(ctx, stat, "ConstantValueTdd", "prach-ConstantValue", -1, 0);
+   }
+   /* pusch-ConstantValue */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->pusch_ConstantValue < -35 || pvalue->pusch_ConstantValue > 10) {
+         rtxErrAddStrParm(ctx, "ConstantValueTdd");
+         rtxErrAddIntParm(ctx, pvalue->pusch_ConstantValue);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "ConstantValueTdd", "pusch-ConstantValue", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->pusch_ConstantValue, -35, 10);
+      RT_CHECK(ctx, stat, "ConstantValueTdd", "pusch-ConstantValue", -1, 0);
+   }
+   /* openLoopPowerControl-IPDL-TDD */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_OpenLoopPowerControl_IPDL_TDD_r4(ctx, &pvalue->openLoopPowerControl_IPDL_TDD);
+      RT_CHECK(ctx, stat, 0, "openLoopPowerControl-IPDL-TDD", -1, 0);
+   }
+   /* hs-SICH-PowerControl */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_HS_SICH_Power_Control_Info_TDD384(ctx, &pvalue->hs_SICH_PowerControl);
+      RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkPhysicalChannelControl_r7_IEs_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, const UplinkPhysicalChannelControl_r7_IEs_tddOption_tdd768* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* timingAdvance */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UL_TimingAdvanceControl_r7(ctx, &pvalue->timingAdvance);
+      RT_CHECK(ctx, stat, 0, "timingAdvance", -1, 0);
+   }
+   /* alpha */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->alpha > 8u) {
+         rtxErrAddStrParm(ctx, "Alpha");
+         rtxErrAddUIntParm(ctx, pvalue->alpha);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "Alpha", "alpha", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->alpha, 0, 8);
+      RT_CHECK(ctx, stat, "Alpha", "alpha", -1, 0);
+   }
+   /* prach-ConstantValue */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->prach_ConstantValue < -35 || pvalue->prach_ConstantValue > 10) {
+         rtxErrAddStrParm(ctx, "ConstantValueTdd");
+         rtxErrAddIntParm(ctx, pvalue->prach_ConstantValue);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "ConstantValueTdd", "prach-ConstantValue", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->prach_ConstantValue, -35, 10);
+      RT_CHECK(ctx, stat, "ConstantValueTdd", "prach-ConstantValue", -1, 0);
+   }
+   /* pusch-ConstantValue */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->pusch_ConstantValue < -35 || pvalue->pusch_ConstantValue > 10) {
+         rtxErrAddStrParm(ctx, "ConstantValueTdd");
+         rtxErrAddIntParm(ctx, pvalue->pusch_ConstantValue);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "ConstantValueTdd", "pusch-ConstantValue", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->pusch_ConstantValue, -35, 10);
+      RT_CHECK(ctx, stat, "ConstantValueTdd", "pusch-ConstantValue", -1, 0);
+   }
+   /* openLoopPowerControl-IPDL-TDD */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_OpenLoopPowerControl_IPDL_TDD_r4(ctx, &pvalue->openLoopPowerControl_IPDL_TDD);
+      RT_CHECK(ctx, stat, 0, "openLoopPowerControl-IPDL-TDD", -1, 0);
+   }
+   /* hs-SICH-PowerControl */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_HS_SICH_Power_Control_Info_TDD768(ctx, &pvalue->hs_SICH_PowerControl);
+      RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkPhysicalChannelControl_r7_IEs_tddOption_tdd128_tpc_Step_Size(rtxContext* RT_RESTRICT ctx, UplinkPhysicalChannelControl_r7_IEs_tddOption_tdd128_tpc_Step_Size value)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkPhysicalChannelControl_r7_IEs_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UplinkPhysicalChannelControl_r7_IEs_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* ul-SynchronisationParameters */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UL_SynchronisationParameters_r4(ctx, &pvalue->ul_SynchronisationParameters);
+      RT_CHECK(ctx, stat, 0, "ul-SynchronisationParameters", -1, 0);
+   }
+   /* desired-HS-SICH-PowerLevel */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->desired_HS_SICH_PowerLevel < -120 || pvalue->desired_HS_SICH_PowerLevel > -58) {
+         rtxErrAddStrParm(ctx, "desired-HS-SICH-PowerLevel");
+         rtxErrAddIntParm(ctx, pvalue->desired_HS_SICH_PowerLevel);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "desired-HS-SICH-PowerLevel", -1, 0);
+      }
+      stat = pe_ConsInt64(ctx, pvalue->desired_HS_SICH_PowerLevel, -120, -58);
+      RT_CHECK(ctx, stat, 0, "desired-HS-SICH-PowerLevel", -1, 0);
+   }
+   /* tpc-Step-Size */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->tpc_Step_Size > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->tpc_Step_Size);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "tpc-Step-Size", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->tpc_Step_Size, 0, 3);
+      RT_CHECK(ctx, stat, 0, "tpc-Step-Size", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkPhysicalChannelControl_r7_IEs_tddOption(rtxContext* RT_RESTRICT ctx, const UplinkPhysicalChannelControl_r7_IEs_tddOption* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 2) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "tdd384");
-         if (pvalue->u.tdd384 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = asn1PE_UMTS_UplinkPhysicalChannelControl_r7_IEs_tddOption_tdd384(ctx, pvalue->u.tdd384);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd128");
-         if (pvalue->u.tdd128 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
+         stat = asn1PE_UMTS_UplinkPhysicalChannelControl_r7_IEs_tddOption_tdd768(ctx, pvalue->u.tdd768);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
          break;
       case 3:
-         rtxCtxtPushElemName(ctx, "tdd768");
-         if (pvalue->u.tdd768 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = asn1PE_UMTS_UplinkPhysicalChannelControl_r7_IEs_tddOption_tdd128(ctx, pvalue->u.tdd128);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
          break;
       default:
          break;
@@ -8929,29 +6683,91 @@ int asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo(rtxContext* ctx, const HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo* pvalue)
+int asn1PE_UMTS_UplinkPhysicalChannelControl_r7_IEs(rtxContext* RT_RESTRICT ctx, const UplinkPhysicalChannelControl_r7_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UplinkPhysicalChannelControl-r7-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UplinkPhysicalChannelControl-r7-IEs");
+   /* ccTrCH-PowerControlInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CCTrCH_PowerControlInfo_r7(ctx, &pvalue->ccTrCH_PowerControlInfo);
+      RT_CHECK(ctx, stat, 0, "ccTrCH-PowerControlInfo", -1, "UplinkPhysicalChannelControl-r7-IEs");
+   }
+   /* specialBurstScheduling */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->specialBurstScheduling > 7u) {
+         rtxErrAddStrParm(ctx, "SpecialBurstScheduling");
+         rtxErrAddUIntParm(ctx, pvalue->specialBurstScheduling);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "SpecialBurstScheduling", "specialBurstScheduling", -1, "UplinkPhysicalChannelControl-r7-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->specialBurstScheduling, 0, 7);
+      RT_CHECK(ctx, stat, "SpecialBurstScheduling", "specialBurstScheduling", -1, "UplinkPhysicalChannelControl-r7-IEs");
+   }
+   /* tddOption */
+   stat = asn1PE_UMTS_UplinkPhysicalChannelControl_r7_IEs_tddOption(ctx, &pvalue->tddOption);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, "UplinkPhysicalChannelControl-r7-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, const UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uplinkPhysicalChannelControl-r7 */
+   stat = asn1PE_UMTS_UplinkPhysicalChannelControl_r7_IEs(ctx, &pvalue->uplinkPhysicalChannelControl_r7);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysicalChannelControl-r7", -1, 0);
+   /* uplinkPhysicalChannelControl-r7-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->uplinkPhysicalChannelControl_r7_add_ext.numbits, pvalue->uplinkPhysicalChannelControl_r7_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "uplinkPhysicalChannelControl-r7-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r7", -1, 0);
+         stat = asn1PE_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
+         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         if (pvalue->u.tdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
          break;
       default:
          break;
@@ -8959,60 +6775,2241 @@ int asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration(rtxContext* ctx, const HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration* pvalue)
+int asn1PE_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r5", -1, 0);
+         stat = asn1PE_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_r5(ctx, pvalue->u.r5);
+         RT_CHECK(ctx, stat, 0, "r5", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, const UplinkPhysicalChannelControl_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r4", -1, 0);
+         stat = asn1PE_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
+         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkPhysicalChannelControl_later_than_r3(rtxContext* RT_RESTRICT ctx, const UplinkPhysicalChannelControl_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PE_UMTS_UplinkPhysicalChannelControl_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkPhysicalChannelControl(rtxContext* RT_RESTRICT ctx, const UplinkPhysicalChannelControl* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UplinkPhysicalChannelControl");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "UplinkPhysicalChannelControl");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UplinkPhysicalChannelControl");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r3", -1, "UplinkPhysicalChannelControl");
+         stat = asn1PE_UMTS_UplinkPhysicalChannelControl_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "UplinkPhysicalChannelControl");
+         break;
+      case 2:
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "later-than-r3", -1, "UplinkPhysicalChannelControl");
+         stat = asn1PE_UMTS_UplinkPhysicalChannelControl_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "UplinkPhysicalChannelControl");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdate_v7e0ext_IEs_supportForTwoDRXSchemesInPCH(rtxContext* RT_RESTRICT ctx, URAUpdate_v7e0ext_IEs_supportForTwoDRXSchemesInPCH value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdate_v7e0ext_IEs(rtxContext* RT_RESTRICT ctx, const URAUpdate_v7e0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "URAUpdate-v7e0ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* preConfigMode */
-   rtxCtxtPushElemName(ctx, "preConfigMode");
-   stat = asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_preConfigMode(ctx, &pvalue->preConfigMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* rab-Info */
+   RT_CHECK(ctx, stat, 0, 0, -1, "URAUpdate-v7e0ext-IEs");
+   /* supportForTwoDRXSchemesInPCH */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "rab-Info");
-      stat = asn1PE_UMTS_RAB_Info_Post(ctx, &pvalue->rab_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if (pvalue->supportForTwoDRXSchemesInPCH > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportForTwoDRXSchemesInPCH);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportForTwoDRXSchemesInPCH", -1, "URAUpdate-v7e0ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportForTwoDRXSchemesInPCH, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportForTwoDRXSchemesInPCH", -1, "URAUpdate-v7e0ext-IEs");
    }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode(rtxContext* ctx, const HandoverToUTRANCommand_r9_IEs_specificationMode* pvalue)
+int asn1PE_UMTS_URAUpdate_r3_add_ext_IEs_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const URAUpdate_r3_add_ext_IEs_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdate_r3_add_ext_IEs(rtxContext* RT_RESTRICT ctx, const URAUpdate_r3_add_ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "URAUpdate-r3-add-ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "URAUpdate-r3-add-ext-IEs");
+   /* uraUpdate-v7e0ext */
+   stat = asn1PE_UMTS_URAUpdate_v7e0ext_IEs(ctx, &pvalue->uraUpdate_v7e0ext);
+   RT_CHECK(ctx, stat, 0, "uraUpdate-v7e0ext", -1, "URAUpdate-r3-add-ext-IEs");
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_URAUpdate_r3_add_ext_IEs_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "URAUpdate-r3-add-ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UraUpdate_v770ext_IEs_support_hsdschReception_CellUraPch(rtxContext* RT_RESTRICT ctx, UraUpdate_v770ext_IEs_support_hsdschReception_CellUraPch value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UraUpdate_v770ext_IEs_support_hsdschReception_CellFach(rtxContext* RT_RESTRICT ctx, UraUpdate_v770ext_IEs_support_hsdschReception_CellFach value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UraUpdate_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const UraUpdate_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UraUpdate-v770ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UraUpdate-v770ext-IEs");
+   /* support-hsdschReception-CellUraPch */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->support_hsdschReception_CellUraPch > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->support_hsdschReception_CellUraPch);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "support-hsdschReception-CellUraPch", -1, "UraUpdate-v770ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->support_hsdschReception_CellUraPch, 0, 0);
+      RT_CHECK(ctx, stat, 0, "support-hsdschReception-CellUraPch", -1, "UraUpdate-v770ext-IEs");
+   }
+   /* support-hsdschReception-CellFach */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->support_hsdschReception_CellFach > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->support_hsdschReception_CellFach);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "support-hsdschReception-CellFach", -1, "UraUpdate-v770ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->support_hsdschReception_CellFach, 0, 0);
+      RT_CHECK(ctx, stat, 0, "support-hsdschReception-CellFach", -1, "UraUpdate-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdate_v860ext_IEs_supportOfHS_DSCHDRXOperation(rtxContext* RT_RESTRICT ctx, URAUpdate_v860ext_IEs_supportOfHS_DSCHDRXOperation value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdate_v860ext_IEs_supportOfCommonEDCH(rtxContext* RT_RESTRICT ctx, URAUpdate_v860ext_IEs_supportOfCommonEDCH value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdate_v860ext_IEs_supportOfMACiis(rtxContext* RT_RESTRICT ctx, URAUpdate_v860ext_IEs_supportOfMACiis value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdate_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const URAUpdate_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "URAUpdate-v860ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "URAUpdate-v860ext-IEs");
+   /* supportOfHS-DSCHDRXOperation */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportOfHS_DSCHDRXOperation > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfHS_DSCHDRXOperation);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfHS-DSCHDRXOperation", -1, "URAUpdate-v860ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfHS_DSCHDRXOperation, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportOfHS-DSCHDRXOperation", -1, "URAUpdate-v860ext-IEs");
+   }
+   /* supportOfCommonEDCH */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->supportOfCommonEDCH > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfCommonEDCH);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfCommonEDCH", -1, "URAUpdate-v860ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfCommonEDCH, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportOfCommonEDCH", -1, "URAUpdate-v860ext-IEs");
+   }
+   /* supportOfMACiis */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->supportOfMACiis > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfMACiis);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfMACiis", -1, "URAUpdate-v860ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->supportOfMACiis, 0, 0);
+      RT_CHECK(ctx, stat, 0, "supportOfMACiis", -1, "URAUpdate-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdate_laterNonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const URAUpdate_laterNonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdate_laterNonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const URAUpdate_laterNonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uraUpdate-v860ext */
+   stat = asn1PE_UMTS_URAUpdate_v860ext_IEs(ctx, &pvalue->uraUpdate_v860ext);
+   RT_CHECK(ctx, stat, 0, "uraUpdate-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_URAUpdate_laterNonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdate_laterNonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const URAUpdate_laterNonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uraUpdate-v770ext */
+   stat = asn1PE_UMTS_UraUpdate_v770ext_IEs(ctx, &pvalue->uraUpdate_v770ext);
+   RT_CHECK(ctx, stat, 0, "uraUpdate-v770ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_URAUpdate_laterNonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdate_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const URAUpdate_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uraUpdate-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      {
+         rtxContext outer;
+         const uint8_t* data;
+         uint32_t len;
+         rtxCopyContext(&outer, ctx);
+         stat = rtxInitContextBuffer(ctx, 0, 0);
+         RT_CHECK(ctx, stat, 0, "uraUpdate-r3-add-ext", -1, 0);
+         stat = asn1PE_UMTS_URAUpdate_r3_add_ext_IEs(ctx, &pvalue->uraUpdate_r3_add_ext);
+         RT_CHECK(ctx, stat, 0, "uraUpdate-r3-add-ext", -1, 0);
+         data = ctx->buffer_data;
+         len = ctx->byte_index * 8 + 8 - ctx->bit_offset;
+         rtxCopyContext(ctx, &outer);
+         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+         stat = pe_BitString(ctx, len, data);
+         rtxMemHeapFreePtr(ctx, (void*)data);
+         RT_CHECK(ctx, stat, 0, "uraUpdate-r3-add-ext", -1, 0);
+      }
+   }
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_URAUpdate_laterNonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return stat;
+}
+
+int asn1PE_UMTS_URAUpdate(rtxContext* RT_RESTRICT ctx, const URAUpdate* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "URAUpdate");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "URAUpdate");
+   /* u-RNTI */
+   stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, "URAUpdate");
+   /* ura-UpdateCause */
+   if (pvalue->ura_UpdateCause > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->ura_UpdateCause);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "URA-UpdateCause", "ura-UpdateCause", -1, "URAUpdate");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ura_UpdateCause, 0, 3);
+   RT_CHECK(ctx, stat, "URA-UpdateCause", "ura-UpdateCause", -1, "URAUpdate");
+   /* protocolErrorIndicator */
+   stat = asn1PE_UMTS_ProtocolErrorIndicatorWithMoreInfo(ctx, &pvalue->protocolErrorIndicator);
+   RT_CHECK(ctx, stat, 0, "protocolErrorIndicator", -1, "URAUpdate");
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_URAUpdate_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "URAUpdate");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdateConfirm_r3_IEs(rtxContext* RT_RESTRICT ctx, const URAUpdateConfirm_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "URAUpdateConfirm-r3-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 0), 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "URAUpdateConfirm-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "URAUpdateConfirm-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "URAUpdateConfirm-r3-IEs");
+   /* integrityProtectionModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "URAUpdateConfirm-r3-IEs");
+   }
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "URAUpdateConfirm-r3-IEs");
+   }
+   /* new-U-RNTI */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "URAUpdateConfirm-r3-IEs");
+   }
+   /* new-C-RNTI */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "URAUpdateConfirm-r3-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "URAUpdateConfirm-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "URAUpdateConfirm-r3-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (pvalue->m & 0x10u) {
+      if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
+         rtxErrAddStrParm(ctx, "UTRAN-DRX-CycleLengthCoefficient");
+         rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "URAUpdateConfirm-r3-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "URAUpdateConfirm-r3-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "URAUpdateConfirm-r3-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "URAUpdateConfirm-r3-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "URAUpdateConfirm-r3-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdateConfirm_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const URAUpdateConfirm_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "URAUpdateConfirm-v690ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "URAUpdateConfirm-v690ext-IEs");
+   /* primary-plmn-Identity */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
+      RT_CHECK(ctx, stat, 0, "primary-plmn-Identity", -1, "URAUpdateConfirm-v690ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdateConfirm_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const URAUpdateConfirm_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdateConfirm_r3_laterNonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const URAUpdateConfirm_r3_laterNonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uraUpdateConfirm-v690ext */
+   stat = asn1PE_UMTS_URAUpdateConfirm_v690ext_IEs(ctx, &pvalue->uraUpdateConfirm_v690ext);
+   RT_CHECK(ctx, stat, 0, "uraUpdateConfirm-v690ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_URAUpdateConfirm_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdateConfirm_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const URAUpdateConfirm_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uraUpdateConfirm-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->uraUpdateConfirm_r3_add_ext.numbits, pvalue->uraUpdateConfirm_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "uraUpdateConfirm-r3-add-ext", -1, 0);
+   }
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_URAUpdateConfirm_r3_laterNonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdateConfirm_r3(rtxContext* RT_RESTRICT ctx, const URAUpdateConfirm_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uraUpdateConfirm-r3 */
+   stat = asn1PE_UMTS_URAUpdateConfirm_r3_IEs(ctx, &pvalue->uraUpdateConfirm_r3);
+   RT_CHECK(ctx, stat, 0, "uraUpdateConfirm-r3", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_URAUpdateConfirm_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdateConfirm_r5_IEs(rtxContext* RT_RESTRICT ctx, const URAUpdateConfirm_r5_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "URAUpdateConfirm-r5-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 0), 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "URAUpdateConfirm-r5-IEs");
+   /* integrityProtectionModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "URAUpdateConfirm-r5-IEs");
+   }
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "URAUpdateConfirm-r5-IEs");
+   }
+   /* new-U-RNTI */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "URAUpdateConfirm-r5-IEs");
+   }
+   /* new-C-RNTI */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "URAUpdateConfirm-r5-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "URAUpdateConfirm-r5-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "URAUpdateConfirm-r5-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (pvalue->m & 0x10u) {
+      if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
+         rtxErrAddStrParm(ctx, "UTRAN-DRX-CycleLengthCoefficient");
+         rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "URAUpdateConfirm-r5-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
+      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "URAUpdateConfirm-r5-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "URAUpdateConfirm-r5-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "URAUpdateConfirm-r5-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "URAUpdateConfirm-r5-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions_r5_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const URAUpdateConfirm_later_than_r3_criticalExtensions_r5_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions_r5_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const URAUpdateConfirm_later_than_r3_criticalExtensions_r5_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uraUpdateConfirm-v690ext */
+   stat = asn1PE_UMTS_URAUpdateConfirm_v690ext_IEs(ctx, &pvalue->uraUpdateConfirm_v690ext);
+   RT_CHECK(ctx, stat, 0, "uraUpdateConfirm-v690ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions_r5_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, const URAUpdateConfirm_later_than_r3_criticalExtensions_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uraUpdateConfirm-r5 */
+   stat = asn1PE_UMTS_URAUpdateConfirm_r5_IEs(ctx, &pvalue->uraUpdateConfirm_r5);
+   RT_CHECK(ctx, stat, 0, "uraUpdateConfirm-r5", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions_r5_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdateConfirm_r7_IEs(rtxContext* RT_RESTRICT ctx, const URAUpdateConfirm_r7_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "URAUpdateConfirm-r7-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 0), 10);
+   RT_CHECK(ctx, stat, 0, 0, -1, "URAUpdateConfirm-r7-IEs");
+   /* integrityProtectionModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "URAUpdateConfirm-r7-IEs");
+   }
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "URAUpdateConfirm-r7-IEs");
+   }
+   /* new-U-RNTI */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "URAUpdateConfirm-r7-IEs");
+   }
+   /* new-C-RNTI */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "URAUpdateConfirm-r7-IEs");
+   }
+   /* rrc-StateIndicator */
+   if (pvalue->rrc_StateIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "URAUpdateConfirm-r7-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "URAUpdateConfirm-r7-IEs");
+   /* utran-DRX-CycleLengthCoeff */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
+      RT_CHECK(ctx, stat, 0, "utran-DRX-CycleLengthCoeff", -1, "URAUpdateConfirm-r7-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "URAUpdateConfirm-r7-IEs");
+   }
+   /* primary-plmn-Identity */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
+      RT_CHECK(ctx, stat, 0, "primary-plmn-Identity", -1, "URAUpdateConfirm-r7-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "URAUpdateConfirm-r7-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   if (pvalue->m & 0x100u) {
+      stat = rtxEncBit(ctx, pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "URAUpdateConfirm-r7-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "URAUpdateConfirm-r7-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdateConfirm_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const URAUpdateConfirm_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "URAUpdateConfirm-v860ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "URAUpdateConfirm-v860ext-IEs");
+   /* new-H-RNTI */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "URAUpdateConfirm-v860ext-IEs");
+   }
+   /* newPrimary-E-RNTI */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "URAUpdateConfirm-v860ext-IEs");
+   }
+   /* defaultConfigForCellFACH */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_DefaultConfigForCellFACH(ctx, &pvalue->defaultConfigForCellFACH);
+      RT_CHECK(ctx, stat, 0, "defaultConfigForCellFACH", -1, "URAUpdateConfirm-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r7_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const URAUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r7_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r7_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const URAUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r7_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uraUpdateConfirm-v860ext */
+   stat = asn1PE_UMTS_URAUpdateConfirm_v860ext_IEs(ctx, &pvalue->uraUpdateConfirm_v860ext);
+   RT_CHECK(ctx, stat, 0, "uraUpdateConfirm-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r7_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, const URAUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uraUpdateConfirm-r7 */
+   stat = asn1PE_UMTS_URAUpdateConfirm_r7_IEs(ctx, &pvalue->uraUpdateConfirm_r7);
+   RT_CHECK(ctx, stat, 0, "uraUpdateConfirm-r7", -1, 0);
+   /* uraUpdateConfirm-r7-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->uraUpdateConfirm_r7_add_ext.numbits, pvalue->uraUpdateConfirm_r7_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "uraUpdateConfirm-r7-add-ext", -1, 0);
+   }
+   /* v860NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r7_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const URAUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const URAUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "complete");
-         if (pvalue->u.complete == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_complete(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r7", -1, 0);
+         stat = asn1PE_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
+         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "preconfiguration");
-         if (pvalue->u.preconfiguration == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode_preconfiguration(ctx, pvalue->u.preconfiguration);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
          break;
       default:
          break;
    }
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, const URAUpdateConfirm_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r5", -1, 0);
+         stat = asn1PE_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions_r5(ctx, pvalue->u.r5);
+         RT_CHECK(ctx, stat, 0, "r5", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdateConfirm_later_than_r3(rtxContext* RT_RESTRICT ctx, const URAUpdateConfirm_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PE_UMTS_URAUpdateConfirm_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdateConfirm(rtxContext* RT_RESTRICT ctx, const URAUpdateConfirm* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "URAUpdateConfirm");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "URAUpdateConfirm");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "URAUpdateConfirm");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r3", -1, "URAUpdateConfirm");
+         stat = asn1PE_UMTS_URAUpdateConfirm_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "URAUpdateConfirm");
+         break;
+      case 2:
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "later-than-r3", -1, "URAUpdateConfirm");
+         stat = asn1PE_UMTS_URAUpdateConfirm_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "URAUpdateConfirm");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdateConfirm_CCCH_r3_IEs(rtxContext* RT_RESTRICT ctx, const URAUpdateConfirm_CCCH_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "URAUpdateConfirm-CCCH-r3-IEs");
+   /* u-RNTI */
+   stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, "URAUpdateConfirm-CCCH-r3-IEs");
+   /* uraUpdateConfirm */
+   stat = asn1PE_UMTS_URAUpdateConfirm_r3_IEs(ctx, &pvalue->uraUpdateConfirm);
+   RT_CHECK(ctx, stat, 0, "uraUpdateConfirm", -1, "URAUpdateConfirm-CCCH-r3-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const URAUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const URAUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uraUpdateConfirm-v860ext */
+   stat = asn1PE_UMTS_URAUpdateConfirm_v860ext_IEs(ctx, &pvalue->uraUpdateConfirm_v860ext);
+   RT_CHECK(ctx, stat, 0, "uraUpdateConfirm-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_URAUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const URAUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uraUpdateConfirm-v690ext */
+   stat = asn1PE_UMTS_URAUpdateConfirm_v690ext_IEs(ctx, &pvalue->uraUpdateConfirm_v690ext);
+   RT_CHECK(ctx, stat, 0, "uraUpdateConfirm-v690ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_URAUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdateConfirm_CCCH_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const URAUpdateConfirm_CCCH_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uraUpdateConfirm-CCCH-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->uraUpdateConfirm_CCCH_r3_add_ext.numbits, pvalue->uraUpdateConfirm_CCCH_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "uraUpdateConfirm-CCCH-r3-add-ext", -1, 0);
+   }
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_URAUpdateConfirm_CCCH_r3_laterNonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdateConfirm_CCCH_r3(rtxContext* RT_RESTRICT ctx, const URAUpdateConfirm_CCCH_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* uraUpdateConfirm-CCCH-r3 */
+   stat = asn1PE_UMTS_URAUpdateConfirm_CCCH_r3_IEs(ctx, &pvalue->uraUpdateConfirm_CCCH_r3);
+   RT_CHECK(ctx, stat, 0, "uraUpdateConfirm-CCCH-r3", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_URAUpdateConfirm_CCCH_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdateConfirm_CCCH_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, const URAUpdateConfirm_CCCH_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdateConfirm_CCCH_later_than_r3(rtxContext* RT_RESTRICT ctx, const URAUpdateConfirm_CCCH_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* u-RNTI */
+   stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, 0);
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PE_UMTS_URAUpdateConfirm_CCCH_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_URAUpdateConfirm_CCCH(rtxContext* RT_RESTRICT ctx, const URAUpdateConfirm_CCCH* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "URAUpdateConfirm-CCCH");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "URAUpdateConfirm-CCCH");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "URAUpdateConfirm-CCCH");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r3", -1, "URAUpdateConfirm-CCCH");
+         stat = asn1PE_UMTS_URAUpdateConfirm_CCCH_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "URAUpdateConfirm-CCCH");
+         break;
+      case 2:
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "later-than-r3", -1, "URAUpdateConfirm-CCCH");
+         stat = asn1PE_UMTS_URAUpdateConfirm_CCCH_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "URAUpdateConfirm-CCCH");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UTRANMobilityInformation_r3_IEs_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UTRANMobilityInformation_r3_IEs_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UTRANMobilityInformation_r3_IEs(rtxContext* RT_RESTRICT ctx, const UTRANMobilityInformation_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UTRANMobilityInformation-r3-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 0), 9);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UTRANMobilityInformation-r3-IEs");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "UTRANMobilityInformation-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "UTRANMobilityInformation-r3-IEs");
+   /* integrityProtectionModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "UTRANMobilityInformation-r3-IEs");
+   }
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "UTRANMobilityInformation-r3-IEs");
+   }
+   /* new-U-RNTI */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "UTRANMobilityInformation-r3-IEs");
+   }
+   /* new-C-RNTI */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "UTRANMobilityInformation-r3-IEs");
+   }
+   /* ue-ConnTimersAndConstants */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_UE_ConnTimersAndConstants(ctx, &pvalue->ue_ConnTimersAndConstants);
+      RT_CHECK(ctx, stat, 0, "ue-ConnTimersAndConstants", -1, "UTRANMobilityInformation-r3-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_CN_InformationInfoFull(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "UTRANMobilityInformation-r3-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "UTRANMobilityInformation-r3-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "UTRANMobilityInformation-r3-IEs");
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_UTRANMobilityInformation_r3_IEs_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "UTRANMobilityInformation-r3-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UTRANMobilityInformation_v3a0ext_IEs(rtxContext* RT_RESTRICT ctx, const UTRANMobilityInformation_v3a0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UTRANMobilityInformation-v3a0ext-IEs");
+   /* ue-ConnTimersAndConstants-v3a0ext */
+   stat = asn1PE_UMTS_UE_ConnTimersAndConstants_v3a0ext(ctx, &pvalue->ue_ConnTimersAndConstants_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "ue-ConnTimersAndConstants-v3a0ext", -1, "UTRANMobilityInformation-v3a0ext-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_UtranMobilityInformation_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const UtranMobilityInformation_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UtranMobilityInformation-v690ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UtranMobilityInformation-v690ext-IEs");
+   /* primary-plmn-Identity */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
+      RT_CHECK(ctx, stat, 0, "primary-plmn-Identity", -1, "UtranMobilityInformation-v690ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UTRANMobilityInformation_v860ext1_IEs(rtxContext* RT_RESTRICT ctx, const UTRANMobilityInformation_v860ext1_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UTRANMobilityInformation-v860ext1-IEs");
+   /* ue-ConnTimersAndConstants */
+   stat = asn1PE_UMTS_UE_ConnTimersAndConstants_v860ext(ctx, &pvalue->ue_ConnTimersAndConstants);
+   RT_CHECK(ctx, stat, 0, "ue-ConnTimersAndConstants", -1, "UTRANMobilityInformation-v860ext1-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_UTRANMobilityInformation_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtentions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UTRANMobilityInformation_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtentions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UTRANMobilityInformation_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtentions(rtxContext* RT_RESTRICT ctx, const UTRANMobilityInformation_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtentions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* utranMobilityInformation-v860ext */
+   stat = asn1PE_UMTS_UTRANMobilityInformation_v860ext1_IEs(ctx, &pvalue->utranMobilityInformation_v860ext);
+   RT_CHECK(ctx, stat, 0, "utranMobilityInformation-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UTRANMobilityInformation_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtentions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UTRANMobilityInformation_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UTRANMobilityInformation_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* utranMobilityInformation-v690ext */
+   stat = asn1PE_UMTS_UtranMobilityInformation_v690ext_IEs(ctx, &pvalue->utranMobilityInformation_v690ext);
+   RT_CHECK(ctx, stat, 0, "utranMobilityInformation-v690ext", -1, 0);
+   /* v860NonCriticalExtentions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UTRANMobilityInformation_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtentions(ctx, &pvalue->v860NonCriticalExtentions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtentions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UTRANMobilityInformation_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UTRANMobilityInformation_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* utranMobilityInformation-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->utranMobilityInformation_r3_add_ext.numbits, pvalue->utranMobilityInformation_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "utranMobilityInformation-r3-add-ext", -1, 0);
+   }
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UTRANMobilityInformation_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UTRANMobilityInformation_r3_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UTRANMobilityInformation_r3_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* utranMobilityInformation-v3a0ext */
+   stat = asn1PE_UMTS_UTRANMobilityInformation_v3a0ext_IEs(ctx, &pvalue->utranMobilityInformation_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "utranMobilityInformation-v3a0ext", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UTRANMobilityInformation_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UTRANMobilityInformation_r3(rtxContext* RT_RESTRICT ctx, const UTRANMobilityInformation_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* utranMobilityInformation-r3 */
+   stat = asn1PE_UMTS_UTRANMobilityInformation_r3_IEs(ctx, &pvalue->utranMobilityInformation_r3);
+   RT_CHECK(ctx, stat, 0, "utranMobilityInformation-r3", -1, 0);
+   /* v3a0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UTRANMobilityInformation_r3_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UTRANMobilityInformation_r5_IEs(rtxContext* RT_RESTRICT ctx, const UTRANMobilityInformation_r5_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UTRANMobilityInformation-r5-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 0), 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UTRANMobilityInformation-r5-IEs");
+   /* integrityProtectionModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "UTRANMobilityInformation-r5-IEs");
+   }
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "UTRANMobilityInformation-r5-IEs");
+   }
+   /* new-U-RNTI */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "UTRANMobilityInformation-r5-IEs");
+   }
+   /* new-C-RNTI */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "UTRANMobilityInformation-r5-IEs");
+   }
+   /* ue-ConnTimersAndConstants */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_UE_ConnTimersAndConstants_r5(ctx, &pvalue->ue_ConnTimersAndConstants);
+      RT_CHECK(ctx, stat, 0, "ue-ConnTimersAndConstants", -1, "UTRANMobilityInformation-r5-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_CN_InformationInfoFull(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "UTRANMobilityInformation-r5-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "UTRANMobilityInformation-r5-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "UTRANMobilityInformation-r5-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_r5_v690NonCriticalExtensions_v860NonCriticalExtentions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UTRANMobilityInformation_later_than_r3_criticalExtensions_r5_v690NonCriticalExtensions_v860NonCriticalExtentions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_r5_v690NonCriticalExtensions_v860NonCriticalExtentions(rtxContext* RT_RESTRICT ctx, const UTRANMobilityInformation_later_than_r3_criticalExtensions_r5_v690NonCriticalExtensions_v860NonCriticalExtentions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* utranMobilityInformation-v860ext */
+   stat = asn1PE_UMTS_UTRANMobilityInformation_v860ext1_IEs(ctx, &pvalue->utranMobilityInformation_v860ext);
+   RT_CHECK(ctx, stat, 0, "utranMobilityInformation-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_r5_v690NonCriticalExtensions_v860NonCriticalExtentions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_r5_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UTRANMobilityInformation_later_than_r3_criticalExtensions_r5_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* utranMobilityInformation-v690ext */
+   stat = asn1PE_UMTS_UtranMobilityInformation_v690ext_IEs(ctx, &pvalue->utranMobilityInformation_v690ext);
+   RT_CHECK(ctx, stat, 0, "utranMobilityInformation-v690ext", -1, 0);
+   /* v860NonCriticalExtentions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_r5_v690NonCriticalExtensions_v860NonCriticalExtentions(ctx, &pvalue->v860NonCriticalExtentions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtentions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, const UTRANMobilityInformation_later_than_r3_criticalExtensions_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* utranMobilityInformation-r5 */
+   stat = asn1PE_UMTS_UTRANMobilityInformation_r5_IEs(ctx, &pvalue->utranMobilityInformation_r5);
+   RT_CHECK(ctx, stat, 0, "utranMobilityInformation-r5", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_r5_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UTRANMobilityInformation_r7_IEs(rtxContext* RT_RESTRICT ctx, const UTRANMobilityInformation_r7_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UTRANMobilityInformation-r7-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 0), 11);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UTRANMobilityInformation-r7-IEs");
+   /* integrityProtectionModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
+      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "UTRANMobilityInformation-r7-IEs");
+   }
+   /* cipheringModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
+      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "UTRANMobilityInformation-r7-IEs");
+   }
+   /* new-U-RNTI */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "UTRANMobilityInformation-r7-IEs");
+   }
+   /* new-C-RNTI */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "UTRANMobilityInformation-r7-IEs");
+   }
+   /* new-H-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "UTRANMobilityInformation-r7-IEs");
+   }
+   /* ue-ConnTimersAndConstants */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_UE_ConnTimersAndConstants_r5(ctx, &pvalue->ue_ConnTimersAndConstants);
+      RT_CHECK(ctx, stat, 0, "ue-ConnTimersAndConstants", -1, "UTRANMobilityInformation-r7-IEs");
+   }
+   /* cn-InformationInfo */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_CN_InformationInfoFull(ctx, &pvalue->cn_InformationInfo);
+      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "UTRANMobilityInformation-r7-IEs");
+   }
+   /* primary-plmn-Identity */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
+      RT_CHECK(ctx, stat, 0, "primary-plmn-Identity", -1, "UTRANMobilityInformation-r7-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "UTRANMobilityInformation-r7-IEs");
+   }
+   /* supportForChangeOfUE-Capability */
+   if (pvalue->m & 0x200u) {
+      stat = rtxEncBit(ctx, pvalue->supportForChangeOfUE_Capability);
+      RT_CHECK(ctx, stat, 0, "supportForChangeOfUE-Capability", -1, "UTRANMobilityInformation-r7-IEs");
+   }
+   /* dl-CounterSynchronisationInfo */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "UTRANMobilityInformation-r7-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UTRANMobilityInformation_v860ext2_IEs(rtxContext* RT_RESTRICT ctx, const UTRANMobilityInformation_v860ext2_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UTRANMobilityInformation-v860ext2-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UTRANMobilityInformation-v860ext2-IEs");
+   /* newPrimary-E-RNTI */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "UTRANMobilityInformation-v860ext2-IEs");
+   }
+   /* ue-ConnTimersAndConstants */
+   stat = asn1PE_UMTS_UE_ConnTimersAndConstants_v860ext(ctx, &pvalue->ue_ConnTimersAndConstants);
+   RT_CHECK(ctx, stat, 0, "ue-ConnTimersAndConstants", -1, "UTRANMobilityInformation-v860ext2-IEs");
+   /* dedicatedPriorityInformation */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_DedicatedPriorityInformation(ctx, &pvalue->dedicatedPriorityInformation);
+      RT_CHECK(ctx, stat, 0, "dedicatedPriorityInformation", -1, "UTRANMobilityInformation-v860ext2-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_criticalExtensions_r7_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UTRANMobilityInformation_later_than_r3_criticalExtensions_criticalExtensions_r7_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_criticalExtensions_r7_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UTRANMobilityInformation_later_than_r3_criticalExtensions_criticalExtensions_r7_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* utranMobilityInformation-v860ext */
+   stat = asn1PE_UMTS_UTRANMobilityInformation_v860ext2_IEs(ctx, &pvalue->utranMobilityInformation_v860ext);
+   RT_CHECK(ctx, stat, 0, "utranMobilityInformation-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_criticalExtensions_r7_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, const UTRANMobilityInformation_later_than_r3_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* utranMobilityInformation-r7 */
+   stat = asn1PE_UMTS_UTRANMobilityInformation_r7_IEs(ctx, &pvalue->utranMobilityInformation_r7);
+   RT_CHECK(ctx, stat, 0, "utranMobilityInformation-r7", -1, 0);
+   /* utranMobilityInformation-r7-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->utranMobilityInformation_r7_add_ext.numbits, pvalue->utranMobilityInformation_r7_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "utranMobilityInformation-r7-add-ext", -1, 0);
+   }
+   /* v860NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_criticalExtensions_r7_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const UTRANMobilityInformation_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const UTRANMobilityInformation_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r7", -1, 0);
+         stat = asn1PE_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
+         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, const UTRANMobilityInformation_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r5", -1, 0);
+         stat = asn1PE_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_r5(ctx, pvalue->u.r5);
+         RT_CHECK(ctx, stat, 0, "r5", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UTRANMobilityInformation_later_than_r3(rtxContext* RT_RESTRICT ctx, const UTRANMobilityInformation_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* criticalExtensions */
+   stat = asn1PE_UMTS_UTRANMobilityInformation_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
+   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UTRANMobilityInformation(rtxContext* RT_RESTRICT ctx, const UTRANMobilityInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UTRANMobilityInformation");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "UTRANMobilityInformation");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UTRANMobilityInformation");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r3", -1, "UTRANMobilityInformation");
+         stat = asn1PE_UMTS_UTRANMobilityInformation_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "UTRANMobilityInformation");
+         break;
+      case 2:
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "later-than-r3", -1, "UTRANMobilityInformation");
+         stat = asn1PE_UMTS_UTRANMobilityInformation_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "UTRANMobilityInformation");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UTRANMobilityInformationConfirm_v770ext_IEs_deferredMeasurementControlReading(rtxContext* RT_RESTRICT ctx, UTRANMobilityInformationConfirm_v770ext_IEs_deferredMeasurementControlReading value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UTRANMobilityInformationConfirm_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const UTRANMobilityInformationConfirm_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UTRANMobilityInformationConfirm-v770ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UTRANMobilityInformationConfirm-v770ext-IEs");
+   /* deferredMeasurementControlReading */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->deferredMeasurementControlReading > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->deferredMeasurementControlReading);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "deferredMeasurementControlReading", -1, "UTRANMobilityInformationConfirm-v770ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->deferredMeasurementControlReading, 0, 0);
+      RT_CHECK(ctx, stat, 0, "deferredMeasurementControlReading", -1, "UTRANMobilityInformationConfirm-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UTRANMobilityInformationConfirm_laterNonCriticalExtensions_v770NonCriticalExtension_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UTRANMobilityInformationConfirm_laterNonCriticalExtensions_v770NonCriticalExtension_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UTRANMobilityInformationConfirm_laterNonCriticalExtensions_v770NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const UTRANMobilityInformationConfirm_laterNonCriticalExtensions_v770NonCriticalExtension* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* utranMobilityInformationConfirm-v770ext */
+   stat = asn1PE_UMTS_UTRANMobilityInformationConfirm_v770ext_IEs(ctx, &pvalue->utranMobilityInformationConfirm_v770ext);
+   RT_CHECK(ctx, stat, 0, "utranMobilityInformationConfirm-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UTRANMobilityInformationConfirm_laterNonCriticalExtensions_v770NonCriticalExtension_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UTRANMobilityInformationConfirm_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UTRANMobilityInformationConfirm_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* utranMobilityInformationConfirm-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->utranMobilityInformationConfirm_r3_add_ext.numbits, pvalue->utranMobilityInformationConfirm_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "utranMobilityInformationConfirm-r3-add-ext", -1, 0);
+   }
+   /* v770NonCriticalExtension */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UTRANMobilityInformationConfirm_laterNonCriticalExtensions_v770NonCriticalExtension(ctx, &pvalue->v770NonCriticalExtension);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtension", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UTRANMobilityInformationConfirm(rtxContext* RT_RESTRICT ctx, const UTRANMobilityInformationConfirm* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UTRANMobilityInformationConfirm");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UTRANMobilityInformationConfirm");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "UTRANMobilityInformationConfirm");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "UTRANMobilityInformationConfirm");
+   /* ul-IntegProtActivationInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityProtActivationInfo(ctx, &pvalue->ul_IntegProtActivationInfo);
+      RT_CHECK(ctx, stat, 0, "ul-IntegProtActivationInfo", -1, "UTRANMobilityInformationConfirm");
+   }
+   /* count-C-ActivationTime */
+   if (pvalue->m & 0x2u) {
+      stat = pe_ConsUInt64(ctx, pvalue->count_C_ActivationTime, 0, 255);
+      RT_CHECK(ctx, stat, "ActivationTime", "count-C-ActivationTime", -1, "UTRANMobilityInformationConfirm");
+   }
+   /* dummy */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "UTRANMobilityInformationConfirm");
+   }
+   /* ul-CounterSynchronisationInfo */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_UL_CounterSynchronisationInfo(ctx, &pvalue->ul_CounterSynchronisationInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CounterSynchronisationInfo", -1, "UTRANMobilityInformationConfirm");
+   }
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_UTRANMobilityInformationConfirm_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "UTRANMobilityInformationConfirm");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UTRANMobilityInformationFailure_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UTRANMobilityInformationFailure_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UTRANMobilityInformationFailure_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UTRANMobilityInformationFailure_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* utranMobilityInformationFailure-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->utranMobilityInformationFailure_r3_add_ext.numbits, pvalue->utranMobilityInformationFailure_r3_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "utranMobilityInformationFailure-r3-add-ext", -1, 0);
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UTRANMobilityInformationFailure_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UTRANMobilityInformationFailure(rtxContext* RT_RESTRICT ctx, const UTRANMobilityInformationFailure* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UTRANMobilityInformationFailure");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UTRANMobilityInformationFailure");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "UTRANMobilityInformationFailure");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "UTRANMobilityInformationFailure");
+   /* failureCause */
+   stat = asn1PE_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
+   RT_CHECK(ctx, stat, 0, "failureCause", -1, "UTRANMobilityInformationFailure");
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UTRANMobilityInformationFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "UTRANMobilityInformationFailure");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMSAccessInformation_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MBMSAccessInformation_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MBMSAccessInformation(rtxContext* RT_RESTRICT ctx, const MBMSAccessInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMSAccessInformation");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSAccessInformation");
+   /* mbms-ServiceAccessInfoList */
+   stat = asn1PE_UMTS_MBMS_ServiceAccessInfoList_r6(ctx, &pvalue->mbms_ServiceAccessInfoList);
+   RT_CHECK(ctx, stat, 0, "mbms-ServiceAccessInfoList", -1, "MBMSAccessInformation");
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBMSAccessInformation_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "MBMSAccessInformation");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMSCommonPTMRBInformation_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const MBMSCommonPTMRBInformation_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMSCommonPTMRBInformation-v770ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSCommonPTMRBInformation-v770ext-IEs");
+   /* mbms-PhyChInformationList-r7 */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBMS_PhyChInformationList_r7(ctx, &pvalue->mbms_PhyChInformationList_r7);
+      RT_CHECK(ctx, stat, 0, "mbms-PhyChInformationList-r7", -1, "MBMSCommonPTMRBInformation-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMSCommonPTMRBInformation_v780ext_IEs(rtxContext* RT_RESTRICT ctx, const MBMSCommonPTMRBInformation_v780ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMSCommonPTMRBInformation-v780ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSCommonPTMRBInformation-v780ext-IEs");
+   /* mbsfn-TDDInformation-LCR */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBSFN_TDDInformation_LCR(ctx, &pvalue->mbsfn_TDDInformation_LCR);
+      RT_CHECK(ctx, stat, 0, "mbsfn-TDDInformation-LCR", -1, "MBMSCommonPTMRBInformation-v780ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMSCommonPTMRBInformation_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const MBMSCommonPTMRBInformation_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMSCommonPTMRBInformation-v860ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSCommonPTMRBInformation-v860ext-IEs");
+   /* mbms-PhyChInformationList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBMS_PhyChInformationList_IMB384(ctx, &pvalue->mbms_PhyChInformationList);
+      RT_CHECK(ctx, stat, 0, "mbms-PhyChInformationList", -1, "MBMSCommonPTMRBInformation-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMSCommonPTMRBInformation_v770NonCriticalExtensions_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MBMSCommonPTMRBInformation_v770NonCriticalExtensions_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MBMSCommonPTMRBInformation_v770NonCriticalExtensions_v780NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MBMSCommonPTMRBInformation_v770NonCriticalExtensions_v780NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* mbmsCommonPTMRBInformation-v860ext */
+   stat = asn1PE_UMTS_MBMSCommonPTMRBInformation_v860ext_IEs(ctx, &pvalue->mbmsCommonPTMRBInformation_v860ext);
+   RT_CHECK(ctx, stat, 0, "mbmsCommonPTMRBInformation-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBMSCommonPTMRBInformation_v770NonCriticalExtensions_v780NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMSCommonPTMRBInformation_v770NonCriticalExtensions_v780NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MBMSCommonPTMRBInformation_v770NonCriticalExtensions_v780NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* mbmsCommonPTMRBInformation-v780ext */
+   stat = asn1PE_UMTS_MBMSCommonPTMRBInformation_v780ext_IEs(ctx, &pvalue->mbmsCommonPTMRBInformation_v780ext);
+   RT_CHECK(ctx, stat, 0, "mbmsCommonPTMRBInformation-v780ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBMSCommonPTMRBInformation_v770NonCriticalExtensions_v780NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMSCommonPTMRBInformation_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MBMSCommonPTMRBInformation_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* mbmsCommonPTMRBInformation-v770ext */
+   stat = asn1PE_UMTS_MBMSCommonPTMRBInformation_v770ext_IEs(ctx, &pvalue->mbmsCommonPTMRBInformation_v770ext);
+   RT_CHECK(ctx, stat, 0, "mbmsCommonPTMRBInformation-v770ext", -1, 0);
+   /* v780NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBMSCommonPTMRBInformation_v770NonCriticalExtensions_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v780NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMSCommonPTMRBInformation(rtxContext* RT_RESTRICT ctx, const MBMSCommonPTMRBInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMSCommonPTMRBInformation");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSCommonPTMRBInformation");
+   /* mbms-CommonRBInformationList */
+   stat = asn1PE_UMTS_MBMS_CommonRBInformationList_r6(ctx, &pvalue->mbms_CommonRBInformationList);
+   RT_CHECK(ctx, stat, 0, "mbms-CommonRBInformationList", -1, "MBMSCommonPTMRBInformation");
+   /* mbms-TranspChInfoForEachTrCh */
+   stat = asn1PE_UMTS_MBMS_TranspChInfoForEachTrCh_r6(ctx, &pvalue->mbms_TranspChInfoForEachTrCh);
+   RT_CHECK(ctx, stat, 0, "mbms-TranspChInfoForEachTrCh", -1, "MBMSCommonPTMRBInformation");
+   /* mbms-TranspChInfoForEachCCTrCh */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBMS_TranspChInfoForEachCCTrCh_r6(ctx, &pvalue->mbms_TranspChInfoForEachCCTrCh);
+      RT_CHECK(ctx, stat, 0, "mbms-TranspChInfoForEachCCTrCh", -1, "MBMSCommonPTMRBInformation");
+   }
+   /* mbms-PhyChInformationList */
+   stat = asn1PE_UMTS_MBMS_PhyChInformationList_r6(ctx, &pvalue->mbms_PhyChInformationList);
+   RT_CHECK(ctx, stat, 0, "mbms-PhyChInformationList", -1, "MBMSCommonPTMRBInformation");
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_MBMSCommonPTMRBInformation_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, "MBMSCommonPTMRBInformation");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMSCurrentCellPTMRBInfo_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const MBMSCurrentCellPTMRBInfo_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMSCurrentCellPTMRBInfo-v770ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSCurrentCellPTMRBInfo-v770ext-IEs");
+   /* mbsfn-TDM-Info-List */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBSFN_TDM_Info_List(ctx, &pvalue->mbsfn_TDM_Info_List);
+      RT_CHECK(ctx, stat, 0, "mbsfn-TDM-Info-List", -1, "MBMSCurrentCellPTMRBInfo-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMSCurrentCellPTMRBInformation_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MBMSCurrentCellPTMRBInformation_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MBMSCurrentCellPTMRBInformation_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MBMSCurrentCellPTMRBInformation_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* mbmsCurrentCellPTMRBInfo-v770ext */
+   stat = asn1PE_UMTS_MBMSCurrentCellPTMRBInfo_v770ext_IEs(ctx, &pvalue->mbmsCurrentCellPTMRBInfo_v770ext);
+   RT_CHECK(ctx, stat, 0, "mbmsCurrentCellPTMRBInfo-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBMSCurrentCellPTMRBInformation_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMSCurrentCellPTMRBInformation(rtxContext* RT_RESTRICT ctx, const MBMSCurrentCellPTMRBInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMSCurrentCellPTMRBInformation");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSCurrentCellPTMRBInformation");
+   /* mbms-CurrentCell-SCCPCHList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBMS_CurrentCell_SCCPCHList_r6(ctx, &pvalue->mbms_CurrentCell_SCCPCHList);
+      RT_CHECK(ctx, stat, 0, "mbms-CurrentCell-SCCPCHList", -1, "MBMSCurrentCellPTMRBInformation");
+   }
+   /* mbms-SIBType5-SCCPCHList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_MBMS_SIBType5_SCCPCHList_r6(ctx, &pvalue->mbms_SIBType5_SCCPCHList);
+      RT_CHECK(ctx, stat, 0, "mbms-SIBType5-SCCPCHList", -1, "MBMSCurrentCellPTMRBInformation");
+   }
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_MBMSCurrentCellPTMRBInformation_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, "MBMSCurrentCellPTMRBInformation");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMSGeneralInformation_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, const MBMSGeneralInformation_v6b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMSGeneralInformation-v6b0ext-IEs");
+   /* indicateChangeInSelectedServices */
+   stat = rtxEncBit(ctx, pvalue->indicateChangeInSelectedServices);
+   RT_CHECK(ctx, stat, 0, "indicateChangeInSelectedServices", -1, "MBMSGeneralInformation-v6b0ext-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMSGeneralInformation_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const MBMSGeneralInformation_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMSGeneralInformation-v770ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSGeneralInformation-v770ext-IEs");
+   /* mbmsMICHConfiguration */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBMS_MICHConfigurationInfo_v770ext(ctx, &pvalue->mbmsMICHConfiguration);
+      RT_CHECK(ctx, stat, 0, "mbmsMICHConfiguration", -1, "MBMSGeneralInformation-v770ext-IEs");
+   }
+   /* mbsfnInterFrequencyNeighbourList */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_MBSFN_InterFrequencyNeighbourList_r7(ctx, &pvalue->mbsfnInterFrequencyNeighbourList);
+      RT_CHECK(ctx, stat, 0, "mbsfnInterFrequencyNeighbourList", -1, "MBMSGeneralInformation-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMSGeneralInformation_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const MBMSGeneralInformation_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMSGeneralInformation-v860ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSGeneralInformation-v860ext-IEs");
+   /* mbsfnInterFrequencyNeighbourList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBSFN_InterFrequencyNeighbourList_v860ext(ctx, &pvalue->mbsfnInterFrequencyNeighbourList);
+      RT_CHECK(ctx, stat, 0, "mbsfnInterFrequencyNeighbourList", -1, "MBMSGeneralInformation-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMSGeneralInformation_v890ext_IEs(rtxContext* RT_RESTRICT ctx, const MBMSGeneralInformation_v890ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMSGeneralInformation-v890ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSGeneralInformation-v890ext-IEs");
+   /* mbmsNetworkStandardTimeInformation-LCR */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBMS_NetworkStandardTimeInformation_LCR_v890ext(ctx, &pvalue->mbmsNetworkStandardTimeInformation_LCR);
+      RT_CHECK(ctx, stat, 0, "mbmsNetworkStandardTimeInformation-LCR", -1, "MBMSGeneralInformation-v890ext-IEs");
+   }
+   /* mbmsMICHConfiguration */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_MBMS_MICHConfigurationInfo_v890ext(ctx, &pvalue->mbmsMICHConfiguration);
+      RT_CHECK(ctx, stat, 0, "mbmsMICHConfiguration", -1, "MBMSGeneralInformation-v890ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMSGeneralInformation_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NoncriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MBMSGeneralInformation_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NoncriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MBMSGeneralInformation_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NoncriticalExtensions(rtxContext* RT_RESTRICT ctx, const MBMSGeneralInformation_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NoncriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* mbmsGeneralInformation-v890ext */
+   stat = asn1PE_UMTS_MBMSGeneralInformation_v890ext_IEs(ctx, &pvalue->mbmsGeneralInformation_v890ext);
+   RT_CHECK(ctx, stat, 0, "mbmsGeneralInformation-v890ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBMSGeneralInformation_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NoncriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMSGeneralInformation_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MBMSGeneralInformation_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* mbmsGeneralInformation-v860ext */
+   stat = asn1PE_UMTS_MBMSGeneralInformation_v860ext_IEs(ctx, &pvalue->mbmsGeneralInformation_v860ext);
+   RT_CHECK(ctx, stat, 0, "mbmsGeneralInformation-v860ext", -1, 0);
+   /* v890NoncriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBMSGeneralInformation_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NoncriticalExtensions(ctx, &pvalue->v890NoncriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v890NoncriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMSGeneralInformation_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MBMSGeneralInformation_v6b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* mbmsGeneralInformation-v770ext */
+   stat = asn1PE_UMTS_MBMSGeneralInformation_v770ext_IEs(ctx, &pvalue->mbmsGeneralInformation_v770ext);
+   RT_CHECK(ctx, stat, 0, "mbmsGeneralInformation-v770ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBMSGeneralInformation_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMSGeneralInformation_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MBMSGeneralInformation_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* mbmsGeneralInformation-v6b0ext */
+   stat = asn1PE_UMTS_MBMSGeneralInformation_v6b0ext_IEs(ctx, &pvalue->mbmsGeneralInformation_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "mbmsGeneralInformation-v6b0ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBMSGeneralInformation_v6b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMSGeneralInformation(rtxContext* RT_RESTRICT ctx, const MBMSGeneralInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMSGeneralInformation");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSGeneralInformation");
+   /* mbms-PreferredFrequencyInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBMS_PreferredFrequencyList_r6(ctx, &pvalue->mbms_PreferredFrequencyInfo);
+      RT_CHECK(ctx, stat, 0, "mbms-PreferredFrequencyInfo", -1, "MBMSGeneralInformation");
+   }
+   /* mbms-TimersAndCounters */
+   stat = asn1PE_UMTS_MBMS_TimersAndCounters_r6(ctx, &pvalue->mbms_TimersAndCounters);
+   RT_CHECK(ctx, stat, 0, "mbms-TimersAndCounters", -1, "MBMSGeneralInformation");
+   /* michConfigurationInfo */
+   stat = asn1PE_UMTS_MBMS_MICHConfigurationInfo_r6(ctx, &pvalue->michConfigurationInfo);
+   RT_CHECK(ctx, stat, 0, "michConfigurationInfo", -1, "MBMSGeneralInformation");
+   /* cellGroupIdentity */
+   stat = asn1PE_UMTS_MBMS_CellGroupIdentity_r6(ctx, pvalue->cellGroupIdentity);
+   RT_CHECK(ctx, stat, 0, "cellGroupIdentity", -1, "MBMSGeneralInformation");
+   /* mschDefaultConfigurationInfo */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_MBMS_MSCH_ConfigurationInfo_r6(ctx, &pvalue->mschDefaultConfigurationInfo);
+      RT_CHECK(ctx, stat, 0, "mschDefaultConfigurationInfo", -1, "MBMSGeneralInformation");
+   }
+   /* v6b0NonCriticalExtensions */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_MBMSGeneralInformation_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, "MBMSGeneralInformation");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMSModificationRequest_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, const MBMSModificationRequest_v6b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMSModificationRequest-v6b0ext-IEs");
+   /* mbmsSelectedServiceInfo */
+   stat = asn1PE_UMTS_MBMS_SelectedServiceInfo(ctx, &pvalue->mbmsSelectedServiceInfo);
+   RT_CHECK(ctx, stat, 0, "mbmsSelectedServiceInfo", -1, "MBMSModificationRequest-v6b0ext-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMSModificationRequest_v6f0ext_IEs_mbmsSupportOfServiceChangeForAPtpRB(rtxContext* RT_RESTRICT ctx, MBMSModificationRequest_v6f0ext_IEs_mbmsSupportOfServiceChangeForAPtpRB value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 

@@ -6,4720 +6,207 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs(rtxContext* ctx, const HandoverToUTRANCommand_r9_IEs* pvalue)
+int asn1PE_UMTS_MBMSModificationRequest_v6f0ext_IEs(rtxContext* RT_RESTRICT ctx, const MBMSModificationRequest_v6f0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HandoverToUTRANCommand-r9-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat);
-   /* new-U-RNTI */
-   rtxCtxtPushElemName(ctx, "new-U-RNTI");
-   stat = asn1PE_UMTS_U_RNTI_Short(ctx, &pvalue->new_U_RNTI);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* cipheringAlgorithm */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cipheringAlgorithm");
-      rtxCtxtPushTypeName(ctx, "CipheringAlgorithm-r7");
-      if (pvalue->cipheringAlgorithm > 2) {
-         rtxErrAddUIntParm(ctx, pvalue->cipheringAlgorithm);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->cipheringAlgorithm, 0, 2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportForChangeOfUE-Capability */
-   rtxCtxtPushElemName(ctx, "supportForChangeOfUE-Capability");
-   stat = rtxEncBit(ctx, pvalue->supportForChangeOfUE_Capability);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* new-H-RNTI */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "new-H-RNTI");
-      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newPrimary-E-RNTI */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newSecondary-E-RNTI */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* defaultConfigForCellFACH */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "defaultConfigForCellFACH");
-      stat = asn1PE_UMTS_DefaultConfigForCellFACH(ctx, &pvalue->defaultConfigForCellFACH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* specificationMode */
-   rtxCtxtPushElemName(ctx, "specificationMode");
-   stat = asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs_specificationMode(ctx, &pvalue->specificationMode);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* maxAllowedUL-TX-Power */
-   rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-   rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-   if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMSModificationRequest-v6f0ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* handoverToUTRANCommand-r9 */
-   rtxCtxtPushElemName(ctx, "handoverToUTRANCommand-r9");
-   stat = asn1PE_UMTS_HandoverToUTRANCommand_r9_IEs(ctx, &pvalue->handoverToUTRANCommand_r9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSModificationRequest-v6f0ext-IEs");
+   /* mbmsSupportOfServiceChangeForAPtpRB */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if (pvalue->mbmsSupportOfServiceChangeForAPtpRB > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mbmsSupportOfServiceChangeForAPtpRB);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "mbmsSupportOfServiceChangeForAPtpRB", -1, "MBMSModificationRequest-v6f0ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mbmsSupportOfServiceChangeForAPtpRB, 0, 0);
+      RT_CHECK(ctx, stat, 0, "mbmsSupportOfServiceChangeForAPtpRB", -1, "MBMSModificationRequest-v6f0ext-IEs");
    }
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
+int asn1PE_UMTS_MBMSModificationRequest_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MBMSModificationRequest_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
+int asn1PE_UMTS_MBMSModificationRequest_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MBMSModificationRequest_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r9");
-         if (pvalue->u.r9 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r8");
-         if (pvalue->u.r8 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r7");
-         if (pvalue->u.r7 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r6");
-         if (pvalue->u.r6 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_r6(ctx, pvalue->u.r6);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions(rtxContext* ctx, const HandoverToUTRANCommand_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r5");
-         if (pvalue->u.r5 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_r5(ctx, pvalue->u.r5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions(rtxContext* ctx, const HandoverToUTRANCommand_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r4");
-         if (pvalue->u.r4 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_r4(ctx, pvalue->u.r4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANCommand(rtxContext* ctx, const HandoverToUTRANCommand* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HandoverToUTRANCommand");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r3");
-         if (pvalue->u.r3 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverToUTRANCommand_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANComplete_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const HandoverToUTRANComplete_laterNonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverToUTRANComplete_laterNonCriticalExtensions(rtxContext* ctx, const HandoverToUTRANComplete_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* handoverToUTRANComplete-r3-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "handoverToUTRANComplete-r3-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->handoverToUTRANComplete_r3_add_ext.numbits, pvalue->handoverToUTRANComplete_r3_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* mbmsModificationRequest-v6f0ext */
+   stat = asn1PE_UMTS_MBMSModificationRequest_v6f0ext_IEs(ctx, &pvalue->mbmsModificationRequest_v6f0ext);
+   RT_CHECK(ctx, stat, 0, "mbmsModificationRequest-v6f0ext", -1, 0);
    /* nonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_HandoverToUTRANComplete_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBMSModificationRequest_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_HandoverToUTRANComplete(rtxContext* ctx, const HandoverToUTRANComplete* pvalue)
+int asn1PE_UMTS_MBMSModificationRequest_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MBMSModificationRequest_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HandoverToUTRANComplete");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* mbmsModificationRequest-v6b0ext */
+   stat = asn1PE_UMTS_MBMSModificationRequest_v6b0ext_IEs(ctx, &pvalue->mbmsModificationRequest_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "mbmsModificationRequest-v6b0ext", -1, 0);
+   /* v6f0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBMSModificationRequest_v6b0NonCriticalExtensions_v6f0NonCriticalExtensions(ctx, &pvalue->v6f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6f0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMSModificationRequest(rtxContext* RT_RESTRICT ctx, const MBMSModificationRequest* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMSModificationRequest");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* startList */
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSModificationRequest");
+   /* mbms-PreferredFreqRequest */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "startList");
-      stat = asn1PE_UMTS_STARTList(ctx, &pvalue->startList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_MBMS_ServiceIdentity_r6(ctx, &pvalue->mbms_PreferredFreqRequest);
+      RT_CHECK(ctx, stat, 0, "mbms-PreferredFreqRequest", -1, "MBMSModificationRequest");
    }
-   /* count-C-ActivationTime */
+   /* rb-InformationReleaseList */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "count-C-ActivationTime");
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pe_ConsUInt64(ctx, pvalue->count_C_ActivationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
+      RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "MBMSModificationRequest");
    }
-   /* laterNonCriticalExtensions */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      stat = asn1PE_UMTS_HandoverToUTRANComplete_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InitialDirectTransfer_v3a0ext(rtxContext* ctx, const InitialDirectTransfer_v3a0ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InitialDirectTransfer-v3a0ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* start-Value */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "start-Value");
-      stat = asn1PE_UMTS_START_Value(ctx, pvalue->start_Value);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InitialDirectTransfer_v7g0ext_IEs(rtxContext* ctx, const InitialDirectTransfer_v7g0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InitialDirectTransfer-v7g0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measuredResultsOnRACH-v7g0ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measuredResultsOnRACH-v7g0ext");
-      stat = asn1PE_UMTS_MeasuredResultsOnRACH_v7g0ext(ctx, &pvalue->measuredResultsOnRACH_v7g0ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InitialDirectTransfer_r3_add_ext_IEs_nonCriticalExtensions(rtxContext* ctx, const InitialDirectTransfer_r3_add_ext_IEs_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_InitialDirectTransfer_r3_add_ext_IEs(rtxContext* ctx, const InitialDirectTransfer_r3_add_ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InitialDirectTransfer-r3-add-ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* initialDirectTransfer-v7g0ext */
-   rtxCtxtPushElemName(ctx, "initialDirectTransfer-v7g0ext");
-   stat = asn1PE_UMTS_InitialDirectTransfer_v7g0ext_IEs(ctx, &pvalue->initialDirectTransfer_v7g0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_InitialDirectTransfer_r3_add_ext_IEs_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InitialDirectTransfer_v590ext(rtxContext* ctx, const InitialDirectTransfer_v590ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InitialDirectTransfer-v590ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* establishmentCause */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "establishmentCause");
-      rtxCtxtPushTypeName(ctx, "EstablishmentCause");
-      if (pvalue->establishmentCause > 31) {
-         rtxErrAddUIntParm(ctx, pvalue->establishmentCause);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->establishmentCause, 0, 31);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InitialDirectTransfer_v690ext_IEs(rtxContext* ctx, const InitialDirectTransfer_v690ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InitialDirectTransfer-v690ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* plmn-Identity */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "plmn-Identity");
-      stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measuredResultsOnRACHinterFreq */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "measuredResultsOnRACHinterFreq");
-      stat = asn1PE_UMTS_MeasuredResultsOnRACHinterFreq(ctx, &pvalue->measuredResultsOnRACHinterFreq);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mbms-JoinedInformation */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "mbms-JoinedInformation");
-      stat = asn1PE_UMTS_MBMS_JoinedInformation_r6(ctx, &pvalue->mbms_JoinedInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InitialDirectTransfer_v770ext_IEs_csCallType(rtxContext* ctx, InitialDirectTransfer_v770ext_IEs_csCallType value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_InitialDirectTransfer_v770ext_IEs(rtxContext* ctx, const InitialDirectTransfer_v770ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InitialDirectTransfer-v770ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* csCallType */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "csCallType");
-      if (pvalue->csCallType > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->csCallType);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->csCallType, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InitialDirectTransfer_v860ext_IEs_supportOfCSG(rtxContext* ctx, InitialDirectTransfer_v860ext_IEs_supportOfCSG value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_InitialDirectTransfer_v860ext_IEs(rtxContext* ctx, const InitialDirectTransfer_v860ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InitialDirectTransfer-v860ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* supportOfCSG */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "supportOfCSG");
-      if (pvalue->supportOfCSG > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfCSG);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfCSG, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* ctx, const InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* initialDirectTransfer-v860ext */
-   rtxCtxtPushElemName(ctx, "initialDirectTransfer-v860ext");
-   stat = asn1PE_UMTS_InitialDirectTransfer_v860ext_IEs(ctx, &pvalue->initialDirectTransfer_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, const InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* initialDirectTransfer-v770ext */
-   rtxCtxtPushElemName(ctx, "initialDirectTransfer-v770ext");
-   stat = asn1PE_UMTS_InitialDirectTransfer_v770ext_IEs(ctx, &pvalue->initialDirectTransfer_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v860NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtensions");
-      stat = asn1PE_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* ctx, const InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* initialDirectTransfer-v690ext */
-   rtxCtxtPushElemName(ctx, "initialDirectTransfer-v690ext");
-   stat = asn1PE_UMTS_InitialDirectTransfer_v690ext_IEs(ctx, &pvalue->initialDirectTransfer_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v770NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      stat = asn1PE_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* ctx, const InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* initialDirectTransfer-v590ext */
-   rtxCtxtPushElemName(ctx, "initialDirectTransfer-v590ext");
-   stat = asn1PE_UMTS_InitialDirectTransfer_v590ext(ctx, &pvalue->initialDirectTransfer_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v690NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      stat = asn1PE_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* ctx, const InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* initialDirectTransfer-r3-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "initialDirectTransfer-r3-add-ext");
-      {
-         rtxContext outer;
-         const uint8_t* data;
-         uint32_t len;
-         rtxCopyContext(&outer, ctx);
-         stat = rtxInitContextBuffer(ctx, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = asn1PE_UMTS_InitialDirectTransfer_r3_add_ext_IEs(ctx, &pvalue->initialDirectTransfer_r3_add_ext);
-         RT_CHECK(ctx, stat);
-         data = ctx->buffer_data;
-         len = ctx->byte_index * 8 + 8 - ctx->bit_offset;
-         rtxCopyContext(ctx, &outer);
-         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-         stat = pe_BitString(ctx, len, data);
-         rtxMemHeapFreePtr(ctx, (void*)data);
-         RT_CHECK(ctx, stat);
-      }
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v590NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtensions");
-      stat = asn1PE_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return stat;
-}
-
-int asn1PE_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions(rtxContext* ctx, const InitialDirectTransfer_v3a0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* initialDirectTransfer-v3a0ext */
-   rtxCtxtPushElemName(ctx, "initialDirectTransfer-v3a0ext");
-   stat = asn1PE_UMTS_InitialDirectTransfer_v3a0ext(ctx, &pvalue->initialDirectTransfer_v3a0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* laterNonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      stat = asn1PE_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InitialDirectTransfer(rtxContext* ctx, const InitialDirectTransfer* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InitialDirectTransfer");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* cn-DomainIdentity */
-   rtxCtxtPushElemName(ctx, "cn-DomainIdentity");
-   rtxCtxtPushTypeName(ctx, "CN-DomainIdentity");
-   if (pvalue->cn_DomainIdentity > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* intraDomainNasNodeSelector */
-   rtxCtxtPushElemName(ctx, "intraDomainNasNodeSelector");
-   stat = asn1PE_UMTS_IntraDomainNasNodeSelector(ctx, &pvalue->intraDomainNasNodeSelector);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nas-Message */
-   rtxCtxtPushElemName(ctx, "nas-Message");
-   stat = asn1PE_UMTS_NAS_Message(ctx, &pvalue->nas_Message);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measuredResultsOnRACH */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measuredResultsOnRACH");
-      stat = asn1PE_UMTS_MeasuredResultsOnRACH(ctx, &pvalue->measuredResultsOnRACH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v3a0NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v3a0NonCriticalExtensions");
-      stat = asn1PE_UMTS_InitialDirectTransfer_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_single_GSM_Message(rtxContext* ctx, const HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_single_GSM_Message* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_gsm_MessageList(rtxContext* ctx, const HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_gsm_MessageList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* gsm-Messages */
-   rtxCtxtPushElemName(ctx, "gsm-Messages");
-   stat = asn1PE_UMTS_GSM_MessageList(ctx, &pvalue->gsm_Messages);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message(rtxContext* ctx, const HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "single-GSM-Message");
-         if (pvalue->u.single_GSM_Message == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_single_GSM_Message(ctx, pvalue->u.single_GSM_Message);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "gsm-MessageList");
-         if (pvalue->u.gsm_MessageList == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message_gsm_MessageList(ctx, pvalue->u.gsm_MessageList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs(rtxContext* ctx, const HandoverFromUTRANCommand_GSM_r3_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HandoverFromUTRANCommand-GSM-r3-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* activationTime */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* toHandoverRAB-Info */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "toHandoverRAB-Info");
-      stat = asn1PE_UMTS_RAB_Info(ctx, &pvalue->toHandoverRAB_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequency-band */
-   rtxCtxtPushElemName(ctx, "frequency-band");
-   rtxCtxtPushTypeName(ctx, "Frequency-Band");
-   if (pvalue->frequency_band > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->frequency_band);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->frequency_band, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* gsm-message */
-   rtxCtxtPushElemName(ctx, "gsm-message");
-   stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs_gsm_message(ctx, &pvalue->gsm_message);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_v690ext_IEs_geran_SystemInfoType(rtxContext* ctx, const HandoverFromUTRANCommand_GSM_v690ext_IEs_geran_SystemInfoType* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "sI");
-         if (pvalue->u.sI == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_GERAN_SystemInformation(ctx, pvalue->u.sI);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "pSI");
-         if (pvalue->u.pSI == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_GERAN_SystemInformation(ctx, pvalue->u.pSI);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_v690ext_IEs(rtxContext* ctx, const HandoverFromUTRANCommand_GSM_v690ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HandoverFromUTRANCommand-GSM-v690ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* geran-SystemInfoType */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "geran-SystemInfoType");
-      stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_v690ext_IEs_geran_SystemInfoType(ctx, &pvalue->geran_SystemInfoType);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_v860ext_IEs(rtxContext* ctx, const HandoverFromUTRANCommand_GSM_v860ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HandoverFromUTRANCommand-GSM-v860ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sr-vcc-SecurityRABInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sr-vcc-SecurityRABInfo");
-      stat = asn1PE_UMTS_SR_VCC_SecurityRABInfo_v860ext(ctx, &pvalue->sr_vcc_SecurityRABInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* ctx, const HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* handoverFromUTRANCommand-GSM-v860ext */
-   rtxCtxtPushElemName(ctx, "handoverFromUTRANCommand-GSM-v860ext");
-   stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_v860ext_IEs(ctx, &pvalue->handoverFromUTRANCommand_GSM_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions(rtxContext* ctx, const HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* handoverFromUTRANCommand-GSM-v690ext */
-   rtxCtxtPushElemName(ctx, "handoverFromUTRANCommand-GSM-v690ext");
-   stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_v690ext_IEs(ctx, &pvalue->handoverFromUTRANCommand_GSM_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v860NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtensions");
-      stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions(rtxContext* ctx, const HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* handoverFromUTRANCommand-GSM-r3-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "handoverFromUTRANCommand-GSM-r3-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->handoverFromUTRANCommand_GSM_r3_add_ext.numbits, pvalue->handoverFromUTRANCommand_GSM_r3_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v690NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r3(rtxContext* ctx, const HandoverFromUTRANCommand_GSM_r3* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* handoverFromUTRANCommand-GSM-r3 */
-   rtxCtxtPushElemName(ctx, "handoverFromUTRANCommand-GSM-r3");
-   stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r3_IEs(ctx, &pvalue->handoverFromUTRANCommand_GSM_r3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* laterNonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_single_GSM_Message(rtxContext* ctx, const HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_single_GSM_Message* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_gsm_MessageList(rtxContext* ctx, const HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_gsm_MessageList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* gsm-Messages */
-   rtxCtxtPushElemName(ctx, "gsm-Messages");
-   stat = asn1PE_UMTS_GSM_MessageList(ctx, &pvalue->gsm_Messages);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message(rtxContext* ctx, const HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "single-GSM-Message");
-         if (pvalue->u.single_GSM_Message == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_single_GSM_Message(ctx, pvalue->u.single_GSM_Message);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "gsm-MessageList");
-         if (pvalue->u.gsm_MessageList == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message_gsm_MessageList(ctx, pvalue->u.gsm_MessageList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_geran_SystemInfoType(rtxContext* ctx, const HandoverFromUTRANCommand_GSM_r6_IEs_geran_SystemInfoType* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "sI");
-         if (pvalue->u.sI == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_GERAN_SystemInformation(ctx, pvalue->u.sI);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "pSI");
-         if (pvalue->u.pSI == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_GERAN_SystemInformation(ctx, pvalue->u.pSI);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs(rtxContext* ctx, const HandoverFromUTRANCommand_GSM_r6_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HandoverFromUTRANCommand-GSM-r6-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* activationTime */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* toHandoverRAB-Info */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "toHandoverRAB-Info");
-      stat = asn1PE_UMTS_RAB_InformationList_r6(ctx, &pvalue->toHandoverRAB_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequency-band */
-   rtxCtxtPushElemName(ctx, "frequency-band");
-   rtxCtxtPushTypeName(ctx, "Frequency-Band");
-   if (pvalue->frequency_band > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->frequency_band);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->frequency_band, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* gsm-message */
-   rtxCtxtPushElemName(ctx, "gsm-message");
-   stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_gsm_message(ctx, &pvalue->gsm_message);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* geran-SystemInfoType */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "geran-SystemInfoType");
-      stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs_geran_SystemInfoType(ctx, &pvalue->geran_SystemInfoType);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6_v860NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6_v860NonCriticalExtensions(rtxContext* ctx, const HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6_v860NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* handoverFromUTRANCommand-GSM-v860ext */
-   rtxCtxtPushElemName(ctx, "handoverFromUTRANCommand-GSM-v860ext");
-   stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_v860ext_IEs(ctx, &pvalue->handoverFromUTRANCommand_GSM_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6(rtxContext* ctx, const HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* handoverFromUTRANCommand-GSM-r6 */
-   rtxCtxtPushElemName(ctx, "handoverFromUTRANCommand-GSM-r6");
-   stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r6_IEs(ctx, &pvalue->handoverFromUTRANCommand_GSM_r6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* handoverFromUTRANCommand-GSM-r6-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "handoverFromUTRANCommand-GSM-r6-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->handoverFromUTRANCommand_GSM_r6_add_ext.numbits, pvalue->handoverFromUTRANCommand_GSM_r6_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v860NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtensions");
-      stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* ctx, const HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions(rtxContext* ctx, const HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r6");
-         if (pvalue->u.r6 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_r6(ctx, pvalue->u.r6);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3(rtxContext* ctx, const HandoverFromUTRANCommand_GSM_later_than_r3* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* criticalExtensions */
-   rtxCtxtPushElemName(ctx, "criticalExtensions");
-   stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_GSM(rtxContext* ctx, const HandoverFromUTRANCommand_GSM* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HandoverFromUTRANCommand-GSM");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r3");
-         if (pvalue->u.r3 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "later-than-r3");
-         if (pvalue->u.later_than_r3 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_single_GERANIu_Message(rtxContext* ctx, const HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_single_GERANIu_Message* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_geranIu_MessageList(rtxContext* ctx, const HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_geranIu_MessageList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* geranIu-Messages */
-   rtxCtxtPushElemName(ctx, "geranIu-Messages");
-   stat = asn1PE_UMTS_GERANIu_MessageList(ctx, &pvalue->geranIu_Messages);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message(rtxContext* ctx, const HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "single-GERANIu-Message");
-         if (pvalue->u.single_GERANIu_Message == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_single_GERANIu_Message(ctx, pvalue->u.single_GERANIu_Message);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "geranIu-MessageList");
-         if (pvalue->u.geranIu_MessageList == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message_geranIu_MessageList(ctx, pvalue->u.geranIu_MessageList);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs(rtxContext* ctx, const HandoverFromUTRANCommand_GERANIu_r5_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HandoverFromUTRANCommand-GERANIu-r5-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* activationTime */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequency-Band */
-   rtxCtxtPushElemName(ctx, "frequency-Band");
-   rtxCtxtPushTypeName(ctx, "Frequency-Band");
-   if (pvalue->frequency_Band > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->frequency_Band);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->frequency_Band, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* geranIu-Message */
-   rtxCtxtPushElemName(ctx, "geranIu-Message");
-   stat = asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs_geranIu_Message(ctx, &pvalue->geranIu_Message);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5_nonCriticalExtensions(rtxContext* ctx, const HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5(rtxContext* ctx, const HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* handoverFromUTRANCommand-GERANIu-r5 */
-   rtxCtxtPushElemName(ctx, "handoverFromUTRANCommand-GERANIu-r5");
-   stat = asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu_r5_IEs(ctx, &pvalue->handoverFromUTRANCommand_GERANIu_r5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_later_than_r5_criticalExtensions(rtxContext* ctx, const HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_later_than_r5_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_later_than_r5(rtxContext* ctx, const HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_later_than_r5* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* criticalExtensions */
-   rtxCtxtPushElemName(ctx, "criticalExtensions");
-   stat = asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_later_than_r5_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu(rtxContext* ctx, const HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r5");
-         if (pvalue->u.r5 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_r5(ctx, pvalue->u.r5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "later-than-r5");
-         if (pvalue->u.later_than_r5 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu_later_than_r5(ctx, pvalue->u.later_than_r5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu(rtxContext* ctx, const HandoverFromUTRANCommand_GERANIu* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HandoverFromUTRANCommand-GERANIu");
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* handoverFromUTRANCommand-GERANIu */
-   rtxCtxtPushElemName(ctx, "handoverFromUTRANCommand-GERANIu");
-   stat = asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu_handoverFromUTRANCommand_GERANIu(ctx, &pvalue->handoverFromUTRANCommand_GERANIu);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_CDMA2000_r3_IEs(rtxContext* ctx, const HandoverFromUTRANCommand_CDMA2000_r3_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HandoverFromUTRANCommand-CDMA2000-r3-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* activationTime */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* toHandoverRAB-Info */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "toHandoverRAB-Info");
-      stat = asn1PE_UMTS_RAB_Info(ctx, &pvalue->toHandoverRAB_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cdma2000-MessageList */
-   rtxCtxtPushElemName(ctx, "cdma2000-MessageList");
-   stat = asn1PE_UMTS_CDMA2000_MessageList(ctx, &pvalue->cdma2000_MessageList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_CDMA2000_r3_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const HandoverFromUTRANCommand_CDMA2000_r3_laterNonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_CDMA2000_r3_laterNonCriticalExtensions(rtxContext* ctx, const HandoverFromUTRANCommand_CDMA2000_r3_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* handoverFromUTRANCommand-CDMA2000-r3-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "handoverFromUTRANCommand-CDMA2000-r3-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->handoverFromUTRANCommand_CDMA2000_r3_add_ext.numbits, pvalue->handoverFromUTRANCommand_CDMA2000_r3_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_HandoverFromUTRANCommand_CDMA2000_r3_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_CDMA2000_r3(rtxContext* ctx, const HandoverFromUTRANCommand_CDMA2000_r3* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* handoverFromUTRANCommand-CDMA2000-r3 */
-   rtxCtxtPushElemName(ctx, "handoverFromUTRANCommand-CDMA2000-r3");
-   stat = asn1PE_UMTS_HandoverFromUTRANCommand_CDMA2000_r3_IEs(ctx, &pvalue->handoverFromUTRANCommand_CDMA2000_r3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* laterNonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      stat = asn1PE_UMTS_HandoverFromUTRANCommand_CDMA2000_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_CDMA2000_later_than_r3_criticalExtensions(rtxContext* ctx, const HandoverFromUTRANCommand_CDMA2000_later_than_r3_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_CDMA2000_later_than_r3(rtxContext* ctx, const HandoverFromUTRANCommand_CDMA2000_later_than_r3* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* criticalExtensions */
-   rtxCtxtPushElemName(ctx, "criticalExtensions");
-   stat = asn1PE_UMTS_HandoverFromUTRANCommand_CDMA2000_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_CDMA2000(rtxContext* ctx, const HandoverFromUTRANCommand_CDMA2000* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HandoverFromUTRANCommand-CDMA2000");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r3");
-         if (pvalue->u.r3 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverFromUTRANCommand_CDMA2000_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "later-than-r3");
-         if (pvalue->u.later_than_r3 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverFromUTRANCommand_CDMA2000_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_EUTRA_r8_IEs(rtxContext* ctx, const HandoverFromUTRANCommand_EUTRA_r8_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HandoverFromUTRANCommand-EUTRA-r8-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* activationTime */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* toHandoverRAB-Info */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "toHandoverRAB-Info");
-      stat = asn1PE_UMTS_RAB_InformationList(ctx, &pvalue->toHandoverRAB_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* eutra-Message */
-   rtxCtxtPushElemName(ctx, "eutra-Message");
-   RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-   stat = pe_OctetString(ctx, pvalue->eutra_Message.numocts, pvalue->eutra_Message.data);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8_nonCriticalExtensions(rtxContext* ctx, const HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8(rtxContext* ctx, const HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* handoverFromUTRANCommand-EUTRA-r8 */
-   rtxCtxtPushElemName(ctx, "handoverFromUTRANCommand-EUTRA-r8");
-   stat = asn1PE_UMTS_HandoverFromUTRANCommand_EUTRA_r8_IEs(ctx, &pvalue->handoverFromUTRANCommand_EUTRA_r8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* handoverFromUTRANCommand-EUTRA-r8-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "handoverFromUTRANCommand-EUTRA-r8-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->handoverFromUTRANCommand_EUTRA_r8_add_ext.numbits, pvalue->handoverFromUTRANCommand_EUTRA_r8_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions_criticalExtensions(rtxContext* ctx, const HandoverFromUTRANCommand_EUTRA_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions(rtxContext* ctx, const HandoverFromUTRANCommand_EUTRA_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r8");
-         if (pvalue->u.r8 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions_r8(ctx, pvalue->u.r8);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANCommand_EUTRA(rtxContext* ctx, const HandoverFromUTRANCommand_EUTRA* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HandoverFromUTRANCommand-EUTRA");
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* criticalExtensions */
-   rtxCtxtPushElemName(ctx, "criticalExtensions");
-   stat = asn1PE_UMTS_HandoverFromUTRANCommand_EUTRA_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANFailure_interRATMessage_gsm(rtxContext* ctx, const HandoverFromUTRANFailure_interRATMessage_gsm* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* gsm-MessageList */
-   rtxCtxtPushElemName(ctx, "gsm-MessageList");
-   stat = asn1PE_UMTS_GSM_MessageList(ctx, &pvalue->gsm_MessageList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANFailure_interRATMessage_cdma2000(rtxContext* ctx, const HandoverFromUTRANFailure_interRATMessage_cdma2000* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* cdma2000-MessageList */
-   rtxCtxtPushElemName(ctx, "cdma2000-MessageList");
-   stat = asn1PE_UMTS_CDMA2000_MessageList(ctx, &pvalue->cdma2000_MessageList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANFailure_interRATMessage(rtxContext* ctx, const HandoverFromUTRANFailure_interRATMessage* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "gsm");
-         if (pvalue->u.gsm == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverFromUTRANFailure_interRATMessage_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "cdma2000");
-         if (pvalue->u.cdma2000 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_HandoverFromUTRANFailure_interRATMessage_cdma2000(ctx, pvalue->u.cdma2000);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUtranFailure_v590ext_IEs(rtxContext* ctx, const HandoverFromUtranFailure_v590ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HandoverFromUtranFailure-v590ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* geranIu-MessageList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "geranIu-MessageList");
-      stat = asn1PE_UMTS_GERANIu_MessageList(ctx, &pvalue->geranIu_MessageList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUtranFailure_v860ext_IEs(rtxContext* ctx, const HandoverFromUtranFailure_v860ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HandoverFromUtranFailure-v860ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* eutra-Message */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "eutra-Message");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_OctetString(ctx, pvalue->eutra_Message.numocts, pvalue->eutra_Message.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* ctx, const HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* handoverFromUTRANFailure-v860ext */
-   rtxCtxtPushElemName(ctx, "handoverFromUTRANFailure-v860ext");
-   stat = asn1PE_UMTS_HandoverFromUtranFailure_v860ext_IEs(ctx, &pvalue->handoverFromUTRANFailure_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* ctx, const HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* handoverFromUTRANFailure-v590ext */
-   rtxCtxtPushElemName(ctx, "handoverFromUTRANFailure-v590ext");
-   stat = asn1PE_UMTS_HandoverFromUtranFailure_v590ext_IEs(ctx, &pvalue->handoverFromUTRANFailure_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v860NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtensions");
-      stat = asn1PE_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions(rtxContext* ctx, const HandoverFromUTRANFailure_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* handoverFromUTRANFailure-r3-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "handoverFromUTRANFailure-r3-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->handoverFromUTRANFailure_r3_add_ext.numbits, pvalue->handoverFromUTRANFailure_r3_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v590NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtensions");
-      stat = asn1PE_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HandoverFromUTRANFailure(rtxContext* ctx, const HandoverFromUTRANFailure* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "HandoverFromUTRANFailure");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* interRAT-HO-FailureCause */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interRAT-HO-FailureCause");
-      stat = asn1PE_UMTS_InterRAT_HO_FailureCause(ctx, &pvalue->interRAT_HO_FailureCause);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* interRATMessage */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "interRATMessage");
-      stat = asn1PE_UMTS_HandoverFromUTRANFailure_interRATMessage(ctx, &pvalue->interRATMessage);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* laterNonCriticalExtensions */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      stat = asn1PE_UMTS_HandoverFromUTRANFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_predefinedConfigStatusList(rtxContext* ctx, const InterRATHandoverInfo_predefinedConfigStatusList* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "absent");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "present");
-         if (pvalue->u.present == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PredefinedConfigStatusList(ctx, pvalue->u.present);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_uE_SecurityInformation(rtxContext* ctx, const InterRATHandoverInfo_uE_SecurityInformation* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "absent");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "present");
-         if (pvalue->u.present == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_UE_SecurityInformation(ctx, pvalue->u.present);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_ue_CapabilityContainer_present(rtxContext* ctx, const InterRATHandoverInfo_ue_CapabilityContainer_present* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   RT_SET_SIZE(ctx, 0, 63);
-   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_ue_CapabilityContainer(rtxContext* ctx, const InterRATHandoverInfo_ue_CapabilityContainer* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "absent");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "present");
-         if (pvalue->u.present == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterRATHandoverInfo_ue_CapabilityContainer_present(ctx, pvalue->u.present);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_v390ext_IEs(rtxContext* ctx, const InterRATHandoverInfo_v390ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-v390ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapability-v380ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapability-v380ext");
-      stat = asn1PE_UMTS_UE_RadioAccessCapability_v380ext(ctx, &pvalue->ue_RadioAccessCapability_v380ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-PhysChCapabilityFDD-v380ext */
-   rtxCtxtPushElemName(ctx, "dl-PhysChCapabilityFDD-v380ext");
-   stat = asn1PE_UMTS_DL_PhysChCapabilityFDD_v380ext(ctx, &pvalue->dl_PhysChCapabilityFDD_v380ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_v3a0ext_IEs(rtxContext* ctx, const InterRATHandoverInfo_v3a0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-v3a0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapability-v3a0ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapability-v3a0ext");
-      stat = asn1PE_UMTS_UE_RadioAccessCapability_v3a0ext(ctx, &pvalue->ue_RadioAccessCapability_v3a0ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_v3d0ext_IEs(rtxContext* ctx, const InterRATHandoverInfo_v3d0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-v3d0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* uESpecificBehaviourInformation1interRAT */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "uESpecificBehaviourInformation1interRAT");
-      stat = asn1PE_UMTS_UESpecificBehaviourInformation1interRAT(ctx, pvalue->uESpecificBehaviourInformation1interRAT);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_v690ext1_IEs(rtxContext* ctx, const InterRATHandoverInfo_v690ext1_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-v690ext1-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapability-v650ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapability-v650ext");
-      stat = asn1PE_UMTS_UE_RadioAccessCapability_v650ext(ctx, &pvalue->ue_RadioAccessCapability_v650ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_v7e0ext_IEs(rtxContext* ctx, const InterRATHandoverInfo_v7e0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-v7e0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapability */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapability");
-      stat = asn1PE_UMTS_UE_RadioAccessCapability_v7e0ext(ctx, &pvalue->ue_RadioAccessCapability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_v7f0ext_IEs(rtxContext* ctx, const InterRATHandoverInfo_v7f0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-v7f0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapability */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapability");
-      stat = asn1PE_UMTS_UE_RadioAccessCapability_v7f0ext(ctx, &pvalue->ue_RadioAccessCapability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-RadioAccessCapabilityComp2 */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapabilityComp2");
-      stat = asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v7f0ext(ctx, &pvalue->ue_RadioAccessCapabilityComp2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* ctx, const InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* interRATHandoverInfo-v7f0ext */
-   rtxCtxtPushElemName(ctx, "interRATHandoverInfo-v7f0ext");
-   stat = asn1PE_UMTS_InterRATHandoverInfo_v7f0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v7f0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions(rtxContext* ctx, const InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* interRATHandoverInfo-v7e0ext */
-   rtxCtxtPushElemName(ctx, "interRATHandoverInfo-v7e0ext");
-   stat = asn1PE_UMTS_InterRATHandoverInfo_v7e0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v7e0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v7f0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v7f0NonCriticalExtensions");
-      stat = asn1PE_UMTS_InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_r3_add_ext_IEs(rtxContext* ctx, const InterRATHandoverInfo_r3_add_ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-r3-add-ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* interRATHandoverInfo-v690ext1 */
-   rtxCtxtPushElemName(ctx, "interRATHandoverInfo-v690ext1");
-   stat = asn1PE_UMTS_InterRATHandoverInfo_v690ext1_IEs(ctx, &pvalue->interRATHandoverInfo_v690ext1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v7e0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v7e0NonCriticalExtensions");
-      stat = asn1PE_UMTS_InterRATHandoverInfo_r3_add_ext_IEs_v7e0NonCriticalExtensions(ctx, &pvalue->v7e0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_v3g0ext_IEs(rtxContext* ctx, const InterRATHandoverInfo_v3g0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-v3g0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapability-v3g0ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapability-v3g0ext");
-      stat = asn1PE_UMTS_UE_RadioAccessCapability_v3g0ext(ctx, &pvalue->ue_RadioAccessCapability_v3g0ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_v4b0ext_IEs(rtxContext* ctx, const InterRATHandoverInfo_v4b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-v4b0ext-IEs");
-   /* accessStratumReleaseIndicator */
-   rtxCtxtPushElemName(ctx, "accessStratumReleaseIndicator");
-   rtxCtxtPushTypeName(ctx, "AccessStratumReleaseIndicator");
-   if (pvalue->accessStratumReleaseIndicator > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->accessStratumReleaseIndicator);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->accessStratumReleaseIndicator, 0, 15);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_v4d0ext_IEs(rtxContext* ctx, const InterRATHandoverInfo_v4d0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-v4d0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* tdd128-RF-Capability */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "tdd128-RF-Capability");
-      rtxCtxtPushTypeName(ctx, "RadioFrequencyBandTDDList");
-      if (pvalue->tdd128_RF_Capability > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->tdd128_RF_Capability);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tdd128_RF_Capability, 0, 7);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_v590ext_IEs(rtxContext* ctx, const InterRATHandoverInfo_v590ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-v590ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* predefinedConfigStatusListComp */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "predefinedConfigStatusListComp");
-      stat = asn1PE_UMTS_PredefinedConfigStatusListComp(ctx, &pvalue->predefinedConfigStatusListComp);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-RadioAccessCapabilityComp */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapabilityComp");
-      stat = asn1PE_UMTS_UE_RadioAccessCapabilityComp(ctx, &pvalue->ue_RadioAccessCapabilityComp);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_v690ext_IEs(rtxContext* ctx, const InterRATHandoverInfo_v690ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-v690ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ue-SecurityInformation2 */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-SecurityInformation2");
-      stat = asn1PE_UMTS_UE_SecurityInformation2(ctx, &pvalue->ue_SecurityInformation2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-RadioAccessCapabilityComp */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapabilityComp");
-      stat = asn1PE_UMTS_UE_RadioAccessCapabilityComp_ext(ctx, &pvalue->ue_RadioAccessCapabilityComp);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-RadioAccessCapabilityComp2 */
-   rtxCtxtPushElemName(ctx, "ue-RadioAccessCapabilityComp2");
-   stat = asn1PE_UMTS_UE_RadioAccessCapabilityComp2(ctx, &pvalue->ue_RadioAccessCapabilityComp2);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_v6b0ext_IEs_supportForSIB11bis(rtxContext* ctx, InterRATHandoverInfo_v6b0ext_IEs_supportForSIB11bis value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_v6b0ext_IEs(rtxContext* ctx, const InterRATHandoverInfo_v6b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-v6b0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* supportForSIB11bis */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "supportForSIB11bis");
-      if (pvalue->supportForSIB11bis > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportForSIB11bis);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportForSIB11bis, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_v6e0ext_IEs_supportForFDPCH(rtxContext* ctx, InterRATHandoverInfo_v6e0ext_IEs_supportForFDPCH value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_v6e0ext_IEs(rtxContext* ctx, const InterRATHandoverInfo_v6e0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-v6e0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* supportForFDPCH */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "supportForFDPCH");
-      if (pvalue->supportForFDPCH > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportForFDPCH);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportForFDPCH, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_v770ext_IEs(rtxContext* ctx, const InterRATHandoverInfo_v770ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-v770ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapabilityInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapabilityInfo");
-      stat = asn1PE_UMTS_UE_RadioAccessCapabilityInfo_v770ext(ctx, &pvalue->ue_RadioAccessCapabilityInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-RadioAccessCapabilityComp */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapabilityComp");
-      stat = asn1PE_UMTS_UE_RadioAccessCapabilityComp_v770ext(ctx, &pvalue->ue_RadioAccessCapabilityComp);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-RadioAccessCapabilityComp2 */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapabilityComp2");
-      stat = asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v770ext(ctx, &pvalue->ue_RadioAccessCapabilityComp2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_v790ext_IEs_supportForEDPCCHPowerBoosting(rtxContext* ctx, InterRATHandoverInfo_v790ext_IEs_supportForEDPCCHPowerBoosting value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_v790ext_IEs(rtxContext* ctx, const InterRATHandoverInfo_v790ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-v790ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* supportForEDPCCHPowerBoosting */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "supportForEDPCCHPowerBoosting");
-      if (pvalue->supportForEDPCCHPowerBoosting > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportForEDPCCHPowerBoosting);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportForEDPCCHPowerBoosting, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_v860ext_IEs(rtxContext* ctx, const InterRATHandoverInfo_v860ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-v860ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapabilityInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapabilityInfo");
-      stat = asn1PE_UMTS_UE_RadioAccessCapability_v860ext(ctx, &pvalue->ue_RadioAccessCapabilityInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-RadioAccessCapabilityComp2 */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapabilityComp2");
-      stat = asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v860ext(ctx, &pvalue->ue_RadioAccessCapabilityComp2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_v880ext_IEs(rtxContext* ctx, const InterRATHandoverInfo_v880ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-v880ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapabilityInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapabilityInfo");
-      stat = asn1PE_UMTS_UE_RadioAccessCapability_v880ext(ctx, &pvalue->ue_RadioAccessCapabilityInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-RadioAccessCapabilityInfo-TDD128 */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapabilityInfo-TDD128");
-      stat = asn1PE_UMTS_UE_RadioAccessCapabilityComp_TDD128(ctx, &pvalue->ue_RadioAccessCapabilityInfo_TDD128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_v920ext_IEs(rtxContext* ctx, const InterRATHandoverInfo_v920ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-v920ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ue-RadioAccessCapabilityInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapabilityInfo");
-      stat = asn1PE_UMTS_UE_RadioAccessCapability_v920ext(ctx, &pvalue->ue_RadioAccessCapabilityInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-RadioAccessCapabilityComp2 */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ue-RadioAccessCapabilityComp2");
-      stat = asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v920ext(ctx, &pvalue->ue_RadioAccessCapabilityComp2);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v920NonCriticalExtensions(rtxContext* ctx, const InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v920NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* interRATHandoverInfo-v920ext */
-   rtxCtxtPushElemName(ctx, "interRATHandoverInfo-v920ext");
-   stat = asn1PE_UMTS_InterRATHandoverInfo_v920ext_IEs(ctx, &pvalue->interRATHandoverInfo_v920ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions(rtxContext* ctx, const InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* interRATHandoverInfo-v880ext */
-   rtxCtxtPushElemName(ctx, "interRATHandoverInfo-v880ext");
-   stat = asn1PE_UMTS_InterRATHandoverInfo_v880ext_IEs(ctx, &pvalue->interRATHandoverInfo_v880ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v920NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v920NonCriticalExtensions");
-      stat = asn1PE_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions(rtxContext* ctx, const InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* interRATHandoverInfo-v860ext */
-   rtxCtxtPushElemName(ctx, "interRATHandoverInfo-v860ext");
-   stat = asn1PE_UMTS_InterRATHandoverInfo_v860ext_IEs(ctx, &pvalue->interRATHandoverInfo_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v880NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v880NonCriticalExtensions");
-      stat = asn1PE_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions(ctx, &pvalue->v880NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions(rtxContext* ctx, const InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* interRATHandoverInfo-v790ext */
-   rtxCtxtPushElemName(ctx, "interRATHandoverInfo-v790ext");
-   stat = asn1PE_UMTS_InterRATHandoverInfo_v790ext_IEs(ctx, &pvalue->interRATHandoverInfo_v790ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v860NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtensions");
-      stat = asn1PE_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, const InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* interRATHandoverInfo-v770ext */
-   rtxCtxtPushElemName(ctx, "interRATHandoverInfo-v770ext");
-   stat = asn1PE_UMTS_InterRATHandoverInfo_v770ext_IEs(ctx, &pvalue->interRATHandoverInfo_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v790nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v790nonCriticalExtensions");
-      stat = asn1PE_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790nonCriticalExtensions(ctx, &pvalue->v790nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions(rtxContext* ctx, const InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* interRATHandoverInfo-v6e0ext */
-   rtxCtxtPushElemName(ctx, "interRATHandoverInfo-v6e0ext");
-   stat = asn1PE_UMTS_InterRATHandoverInfo_v6e0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v6e0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v770NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      stat = asn1PE_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs(rtxContext* ctx, const InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo-NonCriticalExtension-v6b0-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* interRATHandoverInfo-v6b0ext */
-   rtxCtxtPushElemName(ctx, "interRATHandoverInfo-v6b0ext");
-   stat = asn1PE_UMTS_InterRATHandoverInfo_v6b0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v6b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v6e0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v6e0NonCriticalExtensions");
-      stat = asn1PE_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs_v6e0NonCriticalExtensions(ctx, &pvalue->v6e0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* ctx, const InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* interRATHandoverInfo-v690ext */
-   rtxCtxtPushElemName(ctx, "interRATHandoverInfo-v690ext");
-   stat = asn1PE_UMTS_InterRATHandoverInfo_v690ext_IEs(ctx, &pvalue->interRATHandoverInfo_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
    /* v6b0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v6b0NonCriticalExtensions");
-      stat = asn1PE_UMTS_InterRATHandoverInfo_NonCriticalExtension_v6b0_IEs(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_MBMSModificationRequest_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, "MBMSModificationRequest");
    }
    return 0;
 }
 
-int asn1PE_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* ctx, const InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions_v590NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_MBMSModifiedServicesInformation_mbms_ReacquireMCCH(rtxContext* RT_RESTRICT ctx, MBMSModifiedServicesInformation_mbms_ReacquireMCCH value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* interRATHandoverInfo-v590ext */
-   rtxCtxtPushElemName(ctx, "interRATHandoverInfo-v590ext");
-   stat = asn1PE_UMTS_InterRATHandoverInfo_v590ext_IEs(ctx, &pvalue->interRATHandoverInfo_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v690NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      stat = asn1PE_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions(rtxContext* ctx, const InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_MBMSModifiedServicesInformation_mbms_AllUnmodifiedPTMServices(rtxContext* RT_RESTRICT ctx, MBMSModifiedServicesInformation_mbms_AllUnmodifiedPTMServices value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* interRATHandoverInfo-v4d0ext */
-   rtxCtxtPushElemName(ctx, "interRATHandoverInfo-v4d0ext");
-   stat = asn1PE_UMTS_InterRATHandoverInfo_v4d0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v4d0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v590NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtensions");
-      stat = asn1PE_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* ctx, const InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_MBMSModifiedServicesInformation_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const MBMSModifiedServicesInformation_v770ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* interRATHandoverInfo-v4b0ext */
-   rtxCtxtPushElemName(ctx, "interRATHandoverInfo-v4b0ext");
-   stat = asn1PE_UMTS_InterRATHandoverInfo_v4b0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v4b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v4d0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v4d0NonCriticalExtensions");
-      stat = asn1PE_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions(rtxContext* ctx, const InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* interRATHandoverInfo-v3g0ext */
-   rtxCtxtPushElemName(ctx, "interRATHandoverInfo-v3g0ext");
-   stat = asn1PE_UMTS_InterRATHandoverInfo_v3g0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v3g0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v4b0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v4b0NonCriticalExtensions");
-      stat = asn1PE_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* ctx, const InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMSModifiedServicesInformation-v770ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* interRATHandoverInfo-v3d0ext */
-   rtxCtxtPushElemName(ctx, "interRATHandoverInfo-v3d0ext");
-   stat = asn1PE_UMTS_InterRATHandoverInfo_v3d0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v3d0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* interRATHandoverInfo-r3-add-ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSModifiedServicesInformation-v770ext-IEs");
+   /* modifiedServiceList */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interRATHandoverInfo-r3-add-ext");
-      {
-         rtxContext outer;
-         const uint8_t* data;
-         uint32_t len;
-         rtxCopyContext(&outer, ctx);
-         stat = rtxInitContextBuffer(ctx, 0, 0);
-         RT_CHECK(ctx, stat);
-         stat = asn1PE_UMTS_InterRATHandoverInfo_r3_add_ext_IEs(ctx, &pvalue->interRATHandoverInfo_r3_add_ext);
-         RT_CHECK(ctx, stat);
-         data = ctx->buffer_data;
-         len = ctx->byte_index * 8 + 8 - ctx->bit_offset;
-         rtxCopyContext(ctx, &outer);
-         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-         stat = pe_BitString(ctx, len, data);
-         rtxMemHeapFreePtr(ctx, (void*)data);
-         RT_CHECK(ctx, stat);
+      stat = asn1PE_UMTS_MBMS_ModifiedServiceList_v770ext(ctx, &pvalue->modifiedServiceList);
+      RT_CHECK(ctx, stat, 0, "modifiedServiceList", -1, "MBMSModifiedServicesInformation-v770ext-IEs");
+   }
+   /* mib-ValueTag */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)(pvalue->mib_ValueTag - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "MIB-ValueTag");
+         rtxErrAddUIntParm(ctx, pvalue->mib_ValueTag);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MIB-ValueTag", "mib-ValueTag", -1, "MBMSModifiedServicesInformation-v770ext-IEs");
       }
-      rtxCtxtPopElemName(ctx);
+      stat = pe_ConsUInt64(ctx, pvalue->mib_ValueTag, 1, 8);
+      RT_CHECK(ctx, stat, "MIB-ValueTag", "mib-ValueTag", -1, "MBMSModifiedServicesInformation-v770ext-IEs");
    }
-   /* v3g0NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v3g0NonCriticalExtensions");
-      stat = asn1PE_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions(ctx, &pvalue->v3g0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return stat;
+   return 0;
 }
 
-int asn1PE_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions(rtxContext* ctx, const InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_MBMSModifiedServicesInformation_v7c0ext_IEs(rtxContext* RT_RESTRICT ctx, const MBMSModifiedServicesInformation_v7c0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMSModifiedServicesInformation-v7c0ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* interRATHandoverInfo-v3a0ext */
-   rtxCtxtPushElemName(ctx, "interRATHandoverInfo-v3a0ext");
-   stat = asn1PE_UMTS_InterRATHandoverInfo_v3a0ext_IEs(ctx, &pvalue->interRATHandoverInfo_v3a0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* laterNonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSModifiedServicesInformation-v7c0ext-IEs");
+   /* modifiedServiceList */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      stat = asn1PE_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_MBMS_ModifiedServiceList_LCR_v7c0ext(ctx, &pvalue->modifiedServiceList);
+      RT_CHECK(ctx, stat, 0, "modifiedServiceList", -1, "MBMSModifiedServicesInformation-v7c0ext-IEs");
    }
    return 0;
 }
 
-int asn1PE_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present(rtxContext* ctx, const InterRATHandoverInfo_v390NonCriticalExtensions_present* pvalue)
+int asn1PE_UMTS_MBMSModifiedServicesInformation_v770NonCriticalExtensions_v7c0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MBMSModifiedServicesInformation_v770NonCriticalExtensions_v7c0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MBMSModifiedServicesInformation_v770NonCriticalExtensions_v7c0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MBMSModifiedServicesInformation_v770NonCriticalExtensions_v7c0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* interRATHandoverInfo-v390ext */
-   rtxCtxtPushElemName(ctx, "interRATHandoverInfo-v390ext");
-   stat = asn1PE_UMTS_InterRATHandoverInfo_v390ext_IEs(ctx, &pvalue->interRATHandoverInfo_v390ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v3a0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v3a0NonCriticalExtensions");
-      stat = asn1PE_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions(rtxContext* ctx, const InterRATHandoverInfo_v390NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "absent");
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "present");
-         if (pvalue->u.present == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions_present(ctx, pvalue->u.present);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATHandoverInfo(rtxContext* ctx, const InterRATHandoverInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "InterRATHandoverInfo");
-   /* predefinedConfigStatusList */
-   rtxCtxtPushElemName(ctx, "predefinedConfigStatusList");
-   stat = asn1PE_UMTS_InterRATHandoverInfo_predefinedConfigStatusList(ctx, &pvalue->predefinedConfigStatusList);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* uE-SecurityInformation */
-   rtxCtxtPushElemName(ctx, "uE-SecurityInformation");
-   stat = asn1PE_UMTS_InterRATHandoverInfo_uE_SecurityInformation(ctx, &pvalue->uE_SecurityInformation);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* ue-CapabilityContainer */
-   rtxCtxtPushElemName(ctx, "ue-CapabilityContainer");
-   stat = asn1PE_UMTS_InterRATHandoverInfo_ue_CapabilityContainer(ctx, &pvalue->ue_CapabilityContainer);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v390NonCriticalExtensions */
-   rtxCtxtPushElemName(ctx, "v390NonCriticalExtensions");
-   stat = asn1PE_UMTS_InterRATHandoverInfo_v390NonCriticalExtensions(ctx, &pvalue->v390NonCriticalExtensions);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_r3_IEs(rtxContext* ctx, const MeasurementControl_r3_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementControl-r3-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* measurementIdentity */
-   rtxCtxtPushElemName(ctx, "measurementIdentity");
-   rtxCtxtPushTypeName(ctx, "MeasurementIdentity");
-   if ((uint64_t)(pvalue->measurementIdentity - 1) > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->measurementIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->measurementIdentity, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* measurementCommand */
-   rtxCtxtPushElemName(ctx, "measurementCommand");
-   stat = asn1PE_UMTS_MeasurementCommand(ctx, &pvalue->measurementCommand);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementReportingMode */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measurementReportingMode");
-      stat = asn1PE_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* additionalMeasurementList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "additionalMeasurementList");
-      stat = asn1PE_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dpch-CompressedModeStatusInfo */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "dpch-CompressedModeStatusInfo");
-      stat = asn1PE_UMTS_DPCH_CompressedModeStatusInfo(ctx, &pvalue->dpch_CompressedModeStatusInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_v390ext(rtxContext* ctx, const MeasurementControl_v390ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementControl-v390ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ue-Positioning-Measurement-v390ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-Measurement-v390ext");
-      stat = asn1PE_UMTS_UE_Positioning_Measurement_v390ext(ctx, &pvalue->ue_Positioning_Measurement_v390ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_v3a0ext(rtxContext* ctx, const MeasurementControl_v3a0ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementControl-v3a0ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* sfn-Offset-Validity */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "sfn-Offset-Validity");
-      rtxCtxtPushTypeName(ctx, "SFN-Offset-Validity");
-      if (pvalue->sfn_Offset_Validity > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->sfn_Offset_Validity);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->sfn_Offset_Validity, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_v590ext_IEs_measurementCommand_v590ext(rtxContext* ctx, const MeasurementControl_v590ext_IEs_measurementCommand_v590ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "intra-frequency");
-         if (pvalue->u.intra_frequency == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Intra_FreqEventCriteriaList_v590ext(ctx, pvalue->u.intra_frequency);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "inter-frequency");
-         if (pvalue->u.inter_frequency == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_Inter_FreqEventCriteriaList_v590ext(ctx, pvalue->u.inter_frequency);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_v590ext_IEs(rtxContext* ctx, const MeasurementControl_v590ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementControl-v590ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* measurementCommand-v590ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measurementCommand-v590ext");
-      stat = asn1PE_UMTS_MeasurementControl_v590ext_IEs_measurementCommand_v590ext(ctx, &pvalue->measurementCommand_v590ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqReportingCriteria-1b-r5 */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "intraFreqReportingCriteria-1b-r5");
-      stat = asn1PE_UMTS_IntraFreqReportingCriteria_1b_r5(ctx, &pvalue->intraFreqReportingCriteria_1b_r5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* intraFreqEvent-1d-r5 */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "intraFreqEvent-1d-r5");
-      stat = asn1PE_UMTS_IntraFreqEvent_1d_r5(ctx, &pvalue->intraFreqEvent_1d_r5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rrc-TransactionIdentifier-MSP-v590ext */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier-MSP-v590ext");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier_MSP_v590ext > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier_MSP_v590ext);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier_MSP_v590ext, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_v5b0ext_IEs(rtxContext* ctx, const MeasurementControl_v5b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementControl-v5b0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* interRATCellInfoIndication */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interRATCellInfoIndication");
-      rtxCtxtPushTypeName(ctx, "InterRATCellInfoIndication");
-      if ((uint64_t)pvalue->interRATCellInfoIndication > 3u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->interRATCellInfoIndication);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->interRATCellInfoIndication, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions(rtxContext* ctx, const MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measurementControl-v5b0ext */
-   rtxCtxtPushElemName(ctx, "measurementControl-v5b0ext");
-   stat = asn1PE_UMTS_MeasurementControl_v5b0ext_IEs(ctx, &pvalue->measurementControl_v5b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* mbmsModifiedServicesInformation-v7c0ext */
+   stat = asn1PE_UMTS_MBMSModifiedServicesInformation_v7c0ext_IEs(ctx, &pvalue->mbmsModifiedServicesInformation_v7c0ext);
+   RT_CHECK(ctx, stat, 0, "mbmsModifiedServicesInformation-v7c0ext", -1, 0);
    /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_MBMSModifiedServicesInformation_v770NonCriticalExtensions_v7c0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* ctx, const MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_MBMSModifiedServicesInformation_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MBMSModifiedServicesInformation_v770NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measurementControl-v590ext */
-   rtxCtxtPushElemName(ctx, "measurementControl-v590ext");
-   stat = asn1PE_UMTS_MeasurementControl_v590ext_IEs(ctx, &pvalue->measurementControl_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v5b0NonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* mbmsModifiedServicesInformation-v770ext */
+   stat = asn1PE_UMTS_MBMSModifiedServicesInformation_v770ext_IEs(ctx, &pvalue->mbmsModifiedServicesInformation_v770ext);
+   RT_CHECK(ctx, stat, 0, "mbmsModifiedServicesInformation-v770ext", -1, 0);
+   /* v7c0NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v5b0NonCriticalExtensions");
-      stat = asn1PE_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions(ctx, &pvalue->v5b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_MBMSModifiedServicesInformation_v770NonCriticalExtensions_v7c0NonCriticalExtensions(ctx, &pvalue->v7c0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7c0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* ctx, const MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_MBMSModifiedServicesInformation(rtxContext* RT_RESTRICT ctx, const MBMSModifiedServicesInformation* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* v590NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtensions");
-      stat = asn1PE_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* ctx, const MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* measurementControl-r3-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measurementControl-r3-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->measurementControl_r3_add_ext.numbits, pvalue->measurementControl_r3_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v4b0NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v4b0NonCriticalExtensions");
-      stat = asn1PE_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions(rtxContext* ctx, const MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measurementControl-v3a0ext */
-   rtxCtxtPushElemName(ctx, "measurementControl-v3a0ext");
-   stat = asn1PE_UMTS_MeasurementControl_v3a0ext(ctx, &pvalue->measurementControl_v3a0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* laterNonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      stat = asn1PE_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_r3_v390nonCriticalExtensions(rtxContext* ctx, const MeasurementControl_r3_v390nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measurementControl-v390ext */
-   rtxCtxtPushElemName(ctx, "measurementControl-v390ext");
-   stat = asn1PE_UMTS_MeasurementControl_v390ext(ctx, &pvalue->measurementControl_v390ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v3a0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v3a0NonCriticalExtensions");
-      stat = asn1PE_UMTS_MeasurementControl_r3_v390nonCriticalExtensions_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_r3(rtxContext* ctx, const MeasurementControl_r3* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measurementControl-r3 */
-   rtxCtxtPushElemName(ctx, "measurementControl-r3");
-   stat = asn1PE_UMTS_MeasurementControl_r3_IEs(ctx, &pvalue->measurementControl_r3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v390nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v390nonCriticalExtensions");
-      stat = asn1PE_UMTS_MeasurementControl_r3_v390nonCriticalExtensions(ctx, &pvalue->v390nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_r4_IEs(rtxContext* ctx, const MeasurementControl_r4_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementControl-r4-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* measurementIdentity */
-   rtxCtxtPushElemName(ctx, "measurementIdentity");
-   rtxCtxtPushTypeName(ctx, "MeasurementIdentity");
-   if ((uint64_t)(pvalue->measurementIdentity - 1) > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->measurementIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->measurementIdentity, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* measurementCommand */
-   rtxCtxtPushElemName(ctx, "measurementCommand");
-   stat = asn1PE_UMTS_MeasurementCommand_r4(ctx, &pvalue->measurementCommand);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementReportingMode */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measurementReportingMode");
-      stat = asn1PE_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* additionalMeasurementList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "additionalMeasurementList");
-      stat = asn1PE_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dpch-CompressedModeStatusInfo */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "dpch-CompressedModeStatusInfo");
-      stat = asn1PE_UMTS_DPCH_CompressedModeStatusInfo(ctx, &pvalue->dpch_CompressedModeStatusInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions(rtxContext* ctx, const MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measurementControl-v5b0ext */
-   rtxCtxtPushElemName(ctx, "measurementControl-v5b0ext");
-   stat = asn1PE_UMTS_MeasurementControl_v5b0ext_IEs(ctx, &pvalue->measurementControl_v5b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* ctx, const MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measurementControl-v590ext */
-   rtxCtxtPushElemName(ctx, "measurementControl-v590ext");
-   stat = asn1PE_UMTS_MeasurementControl_v590ext_IEs(ctx, &pvalue->measurementControl_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v5b0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v5b0NonCriticalExtensions");
-      stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions(ctx, &pvalue->v5b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* ctx, const MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* measurementControl-r4-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measurementControl-r4-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->measurementControl_r4_add_ext.numbits, pvalue->measurementControl_r4_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v590NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtensions");
-      stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4(rtxContext* ctx, const MeasurementControl_later_than_r3_criticalExtensions_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measurementControl-r4 */
-   rtxCtxtPushElemName(ctx, "measurementControl-r4");
-   stat = asn1PE_UMTS_MeasurementControl_r4_IEs(ctx, &pvalue->measurementControl_r4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v4d0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v4d0NonCriticalExtensions");
-      stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_r6_IEs(rtxContext* ctx, const MeasurementControl_r6_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementControl-r6-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* measurementIdentity */
-   rtxCtxtPushElemName(ctx, "measurementIdentity");
-   rtxCtxtPushTypeName(ctx, "MeasurementIdentity");
-   if ((uint64_t)(pvalue->measurementIdentity - 1) > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->measurementIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->measurementIdentity, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* measurementCommand */
-   rtxCtxtPushElemName(ctx, "measurementCommand");
-   stat = asn1PE_UMTS_MeasurementCommand_r6(ctx, &pvalue->measurementCommand);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementReportingMode */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measurementReportingMode");
-      stat = asn1PE_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* additionalMeasurementList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "additionalMeasurementList");
-      stat = asn1PE_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dpch-CompressedModeStatusInfo */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "dpch-CompressedModeStatusInfo");
-      stat = asn1PE_UMTS_DPCH_CompressedModeStatusInfo(ctx, &pvalue->dpch_CompressedModeStatusInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_v6a0ext_IEs(rtxContext* ctx, const MeasurementControl_v6a0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementControl-v6a0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* intraFreqReportingCriteria-1b-r5 */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "intraFreqReportingCriteria-1b-r5");
-      stat = asn1PE_UMTS_IntraFreqReportingCriteria_1b_r5(ctx, &pvalue->intraFreqReportingCriteria_1b_r5);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6_v6a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6_v6a0NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6_v6a0NonCriticalExtensions(rtxContext* ctx, const MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6_v6a0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measurementControl-v6a0ext */
-   rtxCtxtPushElemName(ctx, "measurementControl-v6a0ext");
-   stat = asn1PE_UMTS_MeasurementControl_v6a0ext_IEs(ctx, &pvalue->measurementControl_v6a0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6_v6a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6(rtxContext* ctx, const MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measurementControl-r6 */
-   rtxCtxtPushElemName(ctx, "measurementControl-r6");
-   stat = asn1PE_UMTS_MeasurementControl_r6_IEs(ctx, &pvalue->measurementControl_r6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v6a0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v6a0NonCriticalExtensions");
-      stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6_v6a0NonCriticalExtensions(ctx, &pvalue->v6a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_r7_IEs(rtxContext* ctx, const MeasurementControl_r7_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementControl-r7-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* measurementIdentity */
-   rtxCtxtPushElemName(ctx, "measurementIdentity");
-   rtxCtxtPushTypeName(ctx, "MeasurementIdentity");
-   if ((uint64_t)(pvalue->measurementIdentity - 1) > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->measurementIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->measurementIdentity, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* measurementCommand */
-   rtxCtxtPushElemName(ctx, "measurementCommand");
-   stat = asn1PE_UMTS_MeasurementCommand_r7(ctx, &pvalue->measurementCommand);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementReportingMode */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measurementReportingMode");
-      stat = asn1PE_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* additionalMeasurementList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "additionalMeasurementList");
-      stat = asn1PE_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dpch-CompressedModeStatusInfo */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "dpch-CompressedModeStatusInfo");
-      stat = asn1PE_UMTS_DPCH_CompressedModeStatusInfo(ctx, &pvalue->dpch_CompressedModeStatusInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_v7b0ext_IEs(rtxContext* ctx, const MeasurementControl_v7b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementControl-v7b0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      stat = asn1PE_UMTS_NewInterFreqCellList_v7b0ext(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7_v7b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7_v7b0NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7_v7b0NonCriticalExtensions(rtxContext* ctx, const MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7_v7b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measurementControl-v7b0ext */
-   rtxCtxtPushElemName(ctx, "measurementControl-v7b0ext");
-   stat = asn1PE_UMTS_MeasurementControl_v7b0ext_IEs(ctx, &pvalue->measurementControl_v7b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7_v7b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7(rtxContext* ctx, const MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* measurementControl-r7 */
-   rtxCtxtPushElemName(ctx, "measurementControl-r7");
-   stat = asn1PE_UMTS_MeasurementControl_r7_IEs(ctx, &pvalue->measurementControl_r7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementControl-r7-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measurementControl-r7-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->measurementControl_r7_add_ext.numbits, pvalue->measurementControl_r7_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v7b0NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v7b0NonCriticalExtensions");
-      stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7_v7b0NonCriticalExtensions(ctx, &pvalue->v7b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_r8_IEs(rtxContext* ctx, const MeasurementControl_r8_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementControl-r8-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* measurementIdentity */
-   rtxCtxtPushElemName(ctx, "measurementIdentity");
-   rtxCtxtPushTypeName(ctx, "MeasurementIdentity");
-   if ((uint64_t)(pvalue->measurementIdentity - 1) > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->measurementIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->measurementIdentity, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* measurementCommand */
-   rtxCtxtPushElemName(ctx, "measurementCommand");
-   stat = asn1PE_UMTS_MeasurementCommand_r8(ctx, &pvalue->measurementCommand);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementReportingMode */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measurementReportingMode");
-      stat = asn1PE_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* additionalMeasurementList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "additionalMeasurementList");
-      stat = asn1PE_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dpch-CompressedModeStatusInfo */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "dpch-CompressedModeStatusInfo");
-      stat = asn1PE_UMTS_DPCH_CompressedModeStatusInfo(ctx, &pvalue->dpch_CompressedModeStatusInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_v8a0ext_IEs(rtxContext* ctx, const MeasurementControl_v8a0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementControl-v8a0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* newIntraFreqCellList */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "newIntraFreqCellList");
-      stat = asn1PE_UMTS_NewIntraFreqCellList_LCR_v8a0ext(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "newInterFreqCellList");
-      stat = asn1PE_UMTS_NewInterFreqCellList_LCR_v8a0ext(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8_v8a0NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8_v8a0NonCriticalExtensions(rtxContext* ctx, const MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8_v8a0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measurementControl-v8a0ext */
-   rtxCtxtPushElemName(ctx, "measurementControl-v8a0ext");
-   stat = asn1PE_UMTS_MeasurementControl_v8a0ext_IEs(ctx, &pvalue->measurementControl_v8a0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* ctx, const MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* measurementControl-r8 */
-   rtxCtxtPushElemName(ctx, "measurementControl-r8");
-   stat = asn1PE_UMTS_MeasurementControl_r8_IEs(ctx, &pvalue->measurementControl_r8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementControl-r8-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measurementControl-r8-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->measurementControl_r8_add_ext.numbits, pvalue->measurementControl_r8_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v8a0NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v8a0NonCriticalExtensions");
-      stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_r9_IEs(rtxContext* ctx, const MeasurementControl_r9_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementControl-r9-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* measurementIdentity */
-   rtxCtxtPushElemName(ctx, "measurementIdentity");
-   rtxCtxtPushTypeName(ctx, "MeasurementIdentity");
-   if ((uint64_t)(pvalue->measurementIdentity - 1) > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->measurementIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->measurementIdentity, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* measurementCommand */
-   rtxCtxtPushElemName(ctx, "measurementCommand");
-   stat = asn1PE_UMTS_MeasurementCommand_r9(ctx, &pvalue->measurementCommand);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementReportingMode */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measurementReportingMode");
-      stat = asn1PE_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* additionalMeasurementList */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "additionalMeasurementList");
-      stat = asn1PE_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellDCHMeasOccasionInfo-TDD128 */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "cellDCHMeasOccasionInfo-TDD128");
-      stat = asn1PE_UMTS_CellDCHMeasOccasionInfo_TDD128_r9(ctx, &pvalue->cellDCHMeasOccasionInfo_TDD128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dpch-CompressedModeStatusInfo */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "dpch-CompressedModeStatusInfo");
-      stat = asn1PE_UMTS_DPCH_CompressedModeStatusInfo(ctx, &pvalue->dpch_CompressedModeStatusInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* ctx, const MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* ctx, const MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* measurementControl-r9 */
-   rtxCtxtPushElemName(ctx, "measurementControl-r9");
-   stat = asn1PE_UMTS_MeasurementControl_r9_IEs(ctx, &pvalue->measurementControl_r9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* measurementControl-r9-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measurementControl-r9-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->measurementControl_r9_add_ext.numbits, pvalue->measurementControl_r9_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, const MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, const MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r9");
-         if (pvalue->u.r9 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, const MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r8");
-         if (pvalue->u.r8 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions(rtxContext* ctx, const MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r7");
-         if (pvalue->u.r7 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions(rtxContext* ctx, const MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r6");
-         if (pvalue->u.r6 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_r6(ctx, pvalue->u.r6);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4(rtxContext* ctx, const MeasurementControl_later_than_r3_criticalExtensions_later_than_r4* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* rrc-TransactionIdentifier-MSP */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier-MSP");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier_MSP > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier_MSP);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier_MSP, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* criticalExtensions */
-   rtxCtxtPushElemName(ctx, "criticalExtensions");
-   stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions(rtxContext* ctx, const MeasurementControl_later_than_r3_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r4");
-         if (pvalue->u.r4 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "later-than-r4");
-         if (pvalue->u.later_than_r4 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions_later_than_r4(ctx, pvalue->u.later_than_r4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl_later_than_r3(rtxContext* ctx, const MeasurementControl_later_than_r3* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* criticalExtensions */
-   rtxCtxtPushElemName(ctx, "criticalExtensions");
-   stat = asn1PE_UMTS_MeasurementControl_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControl(rtxContext* ctx, const MeasurementControl* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementControl");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r3");
-         if (pvalue->u.r3 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementControl_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "later-than-r3");
-         if (pvalue->u.later_than_r3 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_MeasurementControl_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlFailure_v590ext_IEs(rtxContext* ctx, const MeasurementControlFailure_v590ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementControlFailure-v590ext-IEs");
-   /* rrc-TransactionIdentifier-MSP-v590ext */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier-MSP-v590ext");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier_MSP_v590ext > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier_MSP_v590ext);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier_MSP_v590ext, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const MeasurementControlFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlFailure_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* ctx, const MeasurementControlFailure_laterNonCriticalExtensions_v590NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measurementControlFailure-v590ext */
-   rtxCtxtPushElemName(ctx, "measurementControlFailure-v590ext");
-   stat = asn1PE_UMTS_MeasurementControlFailure_v590ext_IEs(ctx, &pvalue->measurementControlFailure_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_MeasurementControlFailure_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlFailure_laterNonCriticalExtensions(rtxContext* ctx, const MeasurementControlFailure_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* measurementControlFailure-r3-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measurementControlFailure-r3-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->measurementControlFailure_r3_add_ext.numbits, pvalue->measurementControlFailure_r3_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v590NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtensions");
-      stat = asn1PE_UMTS_MeasurementControlFailure_laterNonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlFailure(rtxContext* ctx, const MeasurementControlFailure* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementControlFailure");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* failureCause */
-   rtxCtxtPushElemName(ctx, "failureCause");
-   stat = asn1PE_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* laterNonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      stat = asn1PE_UMTS_MeasurementControlFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementReport_v390ext(rtxContext* ctx, const MeasurementReport_v390ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementReport-v390ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measuredResults-v390ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measuredResults-v390ext");
-      stat = asn1PE_UMTS_MeasuredResults_v390ext(ctx, &pvalue->measuredResults_v390ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementReport_v4b0ext_IEs(rtxContext* ctx, const MeasurementReport_v4b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementReport-v4b0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* interFreqEventResults-LCR */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interFreqEventResults-LCR");
-      stat = asn1PE_UMTS_InterFreqEventResults_LCR_r4_ext(ctx, &pvalue->interFreqEventResults_LCR);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* additionalMeasuredResults-LCR */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "additionalMeasuredResults-LCR");
-      stat = asn1PE_UMTS_MeasuredResultsList_LCR_r4_ext(ctx, &pvalue->additionalMeasuredResults_LCR);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementReport_v590ext_IEs(rtxContext* ctx, const MeasurementReport_v590ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementReport-v590ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measuredResults-v590ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measuredResults-v590ext");
-      stat = asn1PE_UMTS_MeasuredResults_v590ext(ctx, &pvalue->measuredResults_v590ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementReport_v5b0ext_IEs(rtxContext* ctx, const MeasurementReport_v5b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementReport-v5b0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* interRATCellInfoIndication */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "interRATCellInfoIndication");
-      rtxCtxtPushTypeName(ctx, "InterRATCellInfoIndication");
-      if ((uint64_t)pvalue->interRATCellInfoIndication > 3u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->interRATCellInfoIndication);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->interRATCellInfoIndication, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementReport_v690ext_IEs(rtxContext* ctx, const MeasurementReport_v690ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementReport-v690ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measuredResultsOnRACHinterFreq */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measuredResultsOnRACHinterFreq");
-      stat = asn1PE_UMTS_MeasuredResultsOnRACHinterFreq(ctx, &pvalue->measuredResultsOnRACHinterFreq);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementReport_v770ext_IEs(rtxContext* ctx, const MeasurementReport_v770ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementReport-v770ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* measuredResults */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measuredResults");
-      stat = asn1PE_UMTS_MeasuredResults_v770ext(ctx, &pvalue->measuredResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* additionalMeasuredResults */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "additionalMeasuredResults");
-      stat = asn1PE_UMTS_MeasuredResultsList_v770xet(ctx, &pvalue->additionalMeasuredResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* eventResults */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "eventResults");
-      stat = asn1PE_UMTS_EventResults_v770ext(ctx, &pvalue->eventResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ue-Positioning-OTDOA-MeasuredResults */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "ue-Positioning-OTDOA-MeasuredResults");
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_MeasuredResultsTDD_ext(ctx, &pvalue->ue_Positioning_OTDOA_MeasuredResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementReport_v860ext_IEs(rtxContext* ctx, const MeasurementReport_v860ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementReport-v860ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat);
-   /* activationTime */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measuredResults */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "measuredResults");
-      stat = asn1PE_UMTS_MeasuredResults_v860ext(ctx, &pvalue->measuredResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* additionalMeasuredResults */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "additionalMeasuredResults");
-      stat = asn1PE_UMTS_MeasuredResultsList_v860ext(ctx, &pvalue->additionalMeasuredResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* eventResults */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "eventResults");
-      stat = asn1PE_UMTS_EventResults_v860ext(ctx, &pvalue->eventResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* eutra-MeasuredResults */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "eutra-MeasuredResults");
-      stat = asn1PE_UMTS_EUTRA_MeasuredResults(ctx, &pvalue->eutra_MeasuredResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* eutra-EventResults */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "eutra-EventResults");
-      stat = asn1PE_UMTS_EUTRA_EventResults(ctx, &pvalue->eutra_EventResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementReport_v920ext_IEs(rtxContext* ctx, const MeasurementReport_v920ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementReport-v920ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMSModifiedServicesInformation");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 6) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 5) |
@@ -4728,1217 +215,3534 @@ int asn1PE_UMTS_MeasurementReport_v920ext_IEs(rtxContext* ctx, const Measurement
       ((uint64_t)((pvalue->m >> 4) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 5) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 6) & 1u) << 0), 7);
-   RT_CHECK(ctx, stat);
-   /* cSGProximityIndication */
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSModifiedServicesInformation");
+   /* modifedServiceList */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "cSGProximityIndication");
-      stat = asn1PE_UMTS_CSGProximityIndication(ctx, &pvalue->cSGProximityIndication);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_MBMS_ModifedServiceList_r6(ctx, &pvalue->modifedServiceList);
+      RT_CHECK(ctx, stat, 0, "modifedServiceList", -1, "MBMSModifiedServicesInformation");
    }
-   /* measuredResults */
+   /* mbms-ReacquireMCCH */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "measuredResults");
-      stat = asn1PE_UMTS_MeasuredResults_v920ext(ctx, &pvalue->measuredResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if (pvalue->mbms_ReacquireMCCH > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mbms_ReacquireMCCH);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "mbms-ReacquireMCCH", -1, "MBMSModifiedServicesInformation");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mbms_ReacquireMCCH, 0, 0);
+      RT_CHECK(ctx, stat, 0, "mbms-ReacquireMCCH", -1, "MBMSModifiedServicesInformation");
    }
-   /* measuredResultsOnSecUlFreq */
+   /* mbms-DynamicPersistenceLevel */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "measuredResultsOnSecUlFreq");
-      stat = asn1PE_UMTS_MeasuredResultsOnSecUlFreq(ctx, &pvalue->measuredResultsOnSecUlFreq);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if ((uint64_t)(pvalue->mbms_DynamicPersistenceLevel - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "DynamicPersistenceLevel");
+         rtxErrAddUIntParm(ctx, pvalue->mbms_DynamicPersistenceLevel);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "DynamicPersistenceLevel", "mbms-DynamicPersistenceLevel", -1, "MBMSModifiedServicesInformation");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mbms_DynamicPersistenceLevel, 1, 8);
+      RT_CHECK(ctx, stat, "DynamicPersistenceLevel", "mbms-DynamicPersistenceLevel", -1, "MBMSModifiedServicesInformation");
    }
-   /* additionalMeasuredResults */
+   /* endOfModifiedMCCHInformation */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "additionalMeasuredResults");
-      stat = asn1PE_UMTS_MeasuredResultsList_v920ext(ctx, &pvalue->additionalMeasuredResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if ((uint64_t)(pvalue->endOfModifiedMCCHInformation - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "endOfModifiedMCCHInformation");
+         rtxErrAddUIntParm(ctx, pvalue->endOfModifiedMCCHInformation);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "endOfModifiedMCCHInformation", -1, "MBMSModifiedServicesInformation");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->endOfModifiedMCCHInformation, 1, 16);
+      RT_CHECK(ctx, stat, 0, "endOfModifiedMCCHInformation", -1, "MBMSModifiedServicesInformation");
    }
-   /* additionalMeasuredResultsOnSecUlFreq */
+   /* mbmsNumberOfNeighbourCells */
+   if ((uint64_t)pvalue->mbmsNumberOfNeighbourCells > 32u) {
+      rtxErrAddStrParm(ctx, "MBMS-NumberOfNeighbourCells-r6");
+      rtxErrAddUIntParm(ctx, pvalue->mbmsNumberOfNeighbourCells);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-NumberOfNeighbourCells-r6", "mbmsNumberOfNeighbourCells", -1, "MBMSModifiedServicesInformation");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->mbmsNumberOfNeighbourCells, 0, 32);
+   RT_CHECK(ctx, stat, "MBMS-NumberOfNeighbourCells-r6", "mbmsNumberOfNeighbourCells", -1, "MBMSModifiedServicesInformation");
+   /* mbms-AllUnmodifiedPTMServices */
    if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "additionalMeasuredResultsOnSecUlFreq");
-      stat = asn1PE_UMTS_MeasuredResultsListOnSecUlFreq(ctx, &pvalue->additionalMeasuredResultsOnSecUlFreq);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if (pvalue->mbms_AllUnmodifiedPTMServices > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mbms_AllUnmodifiedPTMServices);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "mbms-AllUnmodifiedPTMServices", -1, "MBMSModifiedServicesInformation");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mbms_AllUnmodifiedPTMServices, 0, 0);
+      RT_CHECK(ctx, stat, 0, "mbms-AllUnmodifiedPTMServices", -1, "MBMSModifiedServicesInformation");
    }
-   /* eventResultsOnSecUlFreq */
+   /* mbms-PTMActivationTime */
    if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "eventResultsOnSecUlFreq");
-      stat = asn1PE_UMTS_EventResultsOnSecUlFreq(ctx, &pvalue->eventResultsOnSecUlFreq);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if ((uint64_t)pvalue->mbms_PTMActivationTime > 2047u) {
+         rtxErrAddStrParm(ctx, "MBMS-PTMActivationTime-r6");
+         rtxErrAddUIntParm(ctx, pvalue->mbms_PTMActivationTime);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-PTMActivationTime-r6", "mbms-PTMActivationTime", -1, "MBMSModifiedServicesInformation");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->mbms_PTMActivationTime, 0, 2047);
+      RT_CHECK(ctx, stat, "MBMS-PTMActivationTime-r6", "mbms-PTMActivationTime", -1, "MBMSModifiedServicesInformation");
    }
-   /* eutra-MeasuredResults */
+   /* v770NonCriticalExtensions */
    if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "eutra-MeasuredResults");
-      stat = asn1PE_UMTS_EUTRA_MeasuredResults_v920ext(ctx, &pvalue->eutra_MeasuredResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_MBMSModifiedServicesInformation_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, "MBMSModifiedServicesInformation");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions* pvalue)
+int asn1PE_UMTS_MBMSNeighbouringCellPTMRBInformation_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const MBMSNeighbouringCellPTMRBInformation_v770ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions(rtxContext* ctx, const MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMSNeighbouringCellPTMRBInformation-v770ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measurementReport-v920ext */
-   rtxCtxtPushElemName(ctx, "measurementReport-v920ext");
-   stat = asn1PE_UMTS_MeasurementReport_v920ext_IEs(ctx, &pvalue->measurementReport_v920ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSNeighbouringCellPTMRBInformation-v770ext-IEs");
+   /* neighbouringCellSCCPCHList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBMS_NeighbouringCellSCCPCHList_v770ext(ctx, &pvalue->neighbouringCellSCCPCHList);
+      RT_CHECK(ctx, stat, 0, "neighbouringCellSCCPCHList", -1, "MBMSNeighbouringCellPTMRBInformation-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMSNeighbouringCellPTMRBInformation_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MBMSNeighbouringCellPTMRBInformation_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MBMSNeighbouringCellPTMRBInformation_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MBMSNeighbouringCellPTMRBInformation_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* mbmsNeighbouringCellPTMRBInformation-v770ext */
+   stat = asn1PE_UMTS_MBMSNeighbouringCellPTMRBInformation_v770ext_IEs(ctx, &pvalue->mbmsNeighbouringCellPTMRBInformation_v770ext);
+   RT_CHECK(ctx, stat, 0, "mbmsNeighbouringCellPTMRBInformation-v770ext", -1, 0);
    /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_MBMSNeighbouringCellPTMRBInformation_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* ctx, const MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_MBMSNeighbouringCellPTMRBInformation(rtxContext* RT_RESTRICT ctx, const MBMSNeighbouringCellPTMRBInformation* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMSNeighbouringCellPTMRBInformation");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measurementReport-v860ext */
-   rtxCtxtPushElemName(ctx, "measurementReport-v860ext");
-   stat = asn1PE_UMTS_MeasurementReport_v860ext_IEs(ctx, &pvalue->measurementReport_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v920NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v920NonCriticalExtensions");
-      stat = asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSNeighbouringCellPTMRBInformation");
+   /* neighbouringCellIdentity */
+   if ((uint64_t)pvalue->neighbouringCellIdentity > 31u) {
+      rtxErrAddStrParm(ctx, "IntraFreqCellID");
+      rtxErrAddUIntParm(ctx, pvalue->neighbouringCellIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "IntraFreqCellID", "neighbouringCellIdentity", -1, "MBMSNeighbouringCellPTMRBInformation");
    }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, const MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measurementReport-v770ext */
-   rtxCtxtPushElemName(ctx, "measurementReport-v770ext");
-   stat = asn1PE_UMTS_MeasurementReport_v770ext_IEs(ctx, &pvalue->measurementReport_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v860NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtensions");
-      stat = asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* ctx, const MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measurementReport-v690ext */
-   rtxCtxtPushElemName(ctx, "measurementReport-v690ext");
-   stat = asn1PE_UMTS_MeasurementReport_v690ext_IEs(ctx, &pvalue->measurementReport_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   stat = pe_ConsUInt64(ctx, pvalue->neighbouringCellIdentity, 0, 31);
+   RT_CHECK(ctx, stat, "IntraFreqCellID", "neighbouringCellIdentity", -1, "MBMSNeighbouringCellPTMRBInformation");
+   /* neighbouringCellSCCPCHList */
+   stat = asn1PE_UMTS_MBMS_NeighbouringCellSCCPCHList_r6(ctx, &pvalue->neighbouringCellSCCPCHList);
+   RT_CHECK(ctx, stat, 0, "neighbouringCellSCCPCHList", -1, "MBMSNeighbouringCellPTMRBInformation");
    /* v770NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      stat = asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_MBMSNeighbouringCellPTMRBInformation_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, "MBMSNeighbouringCellPTMRBInformation");
    }
    return 0;
 }
 
-int asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions(rtxContext* ctx, const MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_MBMSSchedulingInformation_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MBMSSchedulingInformation_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MBMSSchedulingInformation(rtxContext* RT_RESTRICT ctx, const MBMSSchedulingInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMSSchedulingInformation");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measurementReport-v5b0ext */
-   rtxCtxtPushElemName(ctx, "measurementReport-v5b0ext");
-   stat = asn1PE_UMTS_MeasurementReport_v5b0ext_IEs(ctx, &pvalue->measurementReport_v5b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v690NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      stat = asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* ctx, const MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measurementReport-v590ext */
-   rtxCtxtPushElemName(ctx, "measurementReport-v590ext");
-   stat = asn1PE_UMTS_MeasurementReport_v590ext_IEs(ctx, &pvalue->measurementReport_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v5b0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v5b0NonCriticalExtensions");
-      stat = asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5b0NonCriticalExtensions(ctx, &pvalue->v5b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* ctx, const MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measurementReport-v4b0ext */
-   rtxCtxtPushElemName(ctx, "measurementReport-v4b0ext");
-   stat = asn1PE_UMTS_MeasurementReport_v4b0ext_IEs(ctx, &pvalue->measurementReport_v4b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v590NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtensions");
-      stat = asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions(rtxContext* ctx, const MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* measurementReport-r3-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measurementReport-r3-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->measurementReport_r3_add_ext.numbits, pvalue->measurementReport_r3_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v4b0NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v4b0NonCriticalExtensions");
-      stat = asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions(rtxContext* ctx, const MeasurementReport_v390nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* measurementReport-v390ext */
-   rtxCtxtPushElemName(ctx, "measurementReport-v390ext");
-   stat = asn1PE_UMTS_MeasurementReport_v390ext(ctx, &pvalue->measurementReport_v390ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* laterNonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      stat = asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementReport(rtxContext* ctx, const MeasurementReport* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "MeasurementReport");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat);
-   /* measurementIdentity */
-   rtxCtxtPushElemName(ctx, "measurementIdentity");
-   rtxCtxtPushTypeName(ctx, "MeasurementIdentity");
-   if ((uint64_t)(pvalue->measurementIdentity - 1) > 15u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->measurementIdentity);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->measurementIdentity, 1, 16);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* measuredResults */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "measuredResults");
-      stat = asn1PE_UMTS_MeasuredResults(ctx, &pvalue->measuredResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* measuredResultsOnRACH */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "measuredResultsOnRACH");
-      stat = asn1PE_UMTS_MeasuredResultsOnRACH(ctx, &pvalue->measuredResultsOnRACH);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* additionalMeasuredResults */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "additionalMeasuredResults");
-      stat = asn1PE_UMTS_MeasuredResultsList(ctx, &pvalue->additionalMeasuredResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* eventResults */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "eventResults");
-      stat = asn1PE_UMTS_EventResults(ctx, &pvalue->eventResults);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v390nonCriticalExtensions */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "v390nonCriticalExtensions");
-      stat = asn1PE_UMTS_MeasurementReport_v390nonCriticalExtensions(ctx, &pvalue->v390nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PagingType1_v590ext_IEs(rtxContext* ctx, const PagingType1_v590ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PagingType1-v590ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* pagingRecord2List */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pagingRecord2List");
-      stat = asn1PE_UMTS_PagingRecord2List_r5(ctx, &pvalue->pagingRecord2List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PagingType1_v860ext_IEs(rtxContext* ctx, const PagingType1_v860ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PagingType1-v860ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* etws-Information */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "etws-Information");
-      stat = asn1PE_UMTS_ETWS_Information(ctx, &pvalue->etws_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* ctx, const PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* pagingType1-v860ext */
-   rtxCtxtPushElemName(ctx, "pagingType1-v860ext");
-   stat = asn1PE_UMTS_PagingType1_v860ext_IEs(ctx, &pvalue->pagingType1_v860ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSSchedulingInformation");
+   /* serviceSchedulingInfoList */
+   stat = asn1PE_UMTS_MBMS_ServiceSchedulingInfoList_r6(ctx, &pvalue->serviceSchedulingInfoList);
+   RT_CHECK(ctx, stat, 0, "serviceSchedulingInfoList", -1, "MBMSSchedulingInformation");
    /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_MBMSSchedulingInformation_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "MBMSSchedulingInformation");
    }
    return 0;
 }
 
-int asn1PE_UMTS_PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* ctx, const PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_MBMSUnmodifiedServicesInformation_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const MBMSUnmodifiedServicesInformation_v770ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMSUnmodifiedServicesInformation-v770ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* pagingType1-v590ext */
-   rtxCtxtPushElemName(ctx, "pagingType1-v590ext");
-   stat = asn1PE_UMTS_PagingType1_v590ext_IEs(ctx, &pvalue->pagingType1_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v860NonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSUnmodifiedServicesInformation-v770ext-IEs");
+   /* unmodifiedServiceList */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v860NonCriticalExtensions");
-      stat = asn1PE_UMTS_PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_MBMS_UnmodifiedServiceList_v770ext(ctx, &pvalue->unmodifiedServiceList);
+      RT_CHECK(ctx, stat, 0, "unmodifiedServiceList", -1, "MBMSUnmodifiedServicesInformation-v770ext-IEs");
    }
    return 0;
 }
 
-int asn1PE_UMTS_PagingType1_laterNonCriticalExtensions(rtxContext* ctx, const PagingType1_laterNonCriticalExtensions* pvalue)
+int asn1PE_UMTS_MBMSUnmodifiedServicesInformation_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MBMSUnmodifiedServicesInformation_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MBMSUnmodifiedServicesInformation_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MBMSUnmodifiedServicesInformation_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* mbmsUnmodifiedServicesInformation-v770ext */
+   stat = asn1PE_UMTS_MBMSUnmodifiedServicesInformation_v770ext_IEs(ctx, &pvalue->mbmsUnmodifiedServicesInformation_v770ext);
+   RT_CHECK(ctx, stat, 0, "mbmsUnmodifiedServicesInformation-v770ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MBMSUnmodifiedServicesInformation_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMSUnmodifiedServicesInformation(rtxContext* RT_RESTRICT ctx, const MBMSUnmodifiedServicesInformation* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMSUnmodifiedServicesInformation");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* pagingType1-r3-add-ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, "MBMSUnmodifiedServicesInformation");
+   /* unmodifiedServiceList */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pagingType1-r3-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->pagingType1_r3_add_ext.numbits, pvalue->pagingType1_r3_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_MBMS_UnmodifiedServiceList_r6(ctx, &pvalue->unmodifiedServiceList);
+      RT_CHECK(ctx, stat, 0, "unmodifiedServiceList", -1, "MBMSUnmodifiedServicesInformation");
    }
-   /* v590NonCriticalExtensions */
+   /* v770NonCriticalExtensions */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtensions");
-      stat = asn1PE_UMTS_PagingType1_laterNonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_MBMSUnmodifiedServicesInformation_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, "MBMSUnmodifiedServicesInformation");
    }
    return 0;
 }
 
-int asn1PE_UMTS_PagingType1(rtxContext* ctx, const PagingType1* pvalue)
+int asn1PE_UMTS_System_Information_Container_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const System_Information_Container_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PagingType1");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_System_Information_Container(rtxContext* RT_RESTRICT ctx, const System_Information_Container* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "System-Information-Container");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
+   RT_CHECK(ctx, stat, 0, 0, -1, "System-Information-Container");
+   /* mib */
+   {
+      rtxContext outer;
+      const uint8_t* data;
+      uint32_t len;
+      rtxCopyContext(&outer, ctx);
+      stat = rtxInitContextBuffer(ctx, 0, 0);
+      RT_CHECK(ctx, stat, 0, "mib", -1, "System-Information-Container");
+      stat = asn1PE_UMTS_MasterInformationBlock(ctx, &pvalue->mib);
+      RT_CHECK(ctx, stat, 0, "mib", -1, "System-Information-Container");
+      data = ctx->buffer_data;
+      len = pu_getMsgLen(ctx);
+      rtxCopyContext(ctx, &outer);
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_OctetString(ctx, len, data);
+      rtxMemHeapFreePtr(ctx, (void*)data);
+      RT_CHECK(ctx, stat, 0, "mib", -1, "System-Information-Container");
+   }
+   /* sysInfoTypeSB1 */
+   if (pvalue->m & 0x1u) {
+      {
+         rtxContext outer;
+         const uint8_t* data;
+         uint32_t len;
+         rtxCopyContext(&outer, ctx);
+         stat = rtxInitContextBuffer(ctx, 0, 0);
+         RT_CHECK(ctx, stat, 0, "sysInfoTypeSB1", -1, "System-Information-Container");
+         stat = asn1PE_UMTS_SysInfoTypeSB1(ctx, &pvalue->sysInfoTypeSB1);
+         RT_CHECK(ctx, stat, 0, "sysInfoTypeSB1", -1, "System-Information-Container");
+         data = ctx->buffer_data;
+         len = pu_getMsgLen(ctx);
+         rtxCopyContext(ctx, &outer);
+         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+         stat = pe_OctetString(ctx, len, data);
+         rtxMemHeapFreePtr(ctx, (void*)data);
+         RT_CHECK(ctx, stat, 0, "sysInfoTypeSB1", -1, "System-Information-Container");
+      }
+   }
+   /* sysInfoTypeSB2 */
+   if (pvalue->m & 0x2u) {
+      {
+         rtxContext outer;
+         const uint8_t* data;
+         uint32_t len;
+         rtxCopyContext(&outer, ctx);
+         stat = rtxInitContextBuffer(ctx, 0, 0);
+         RT_CHECK(ctx, stat, 0, "sysInfoTypeSB2", -1, "System-Information-Container");
+         stat = asn1PE_UMTS_SysInfoTypeSB2(ctx, &pvalue->sysInfoTypeSB2);
+         RT_CHECK(ctx, stat, 0, "sysInfoTypeSB2", -1, "System-Information-Container");
+         data = ctx->buffer_data;
+         len = pu_getMsgLen(ctx);
+         rtxCopyContext(ctx, &outer);
+         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+         stat = pe_OctetString(ctx, len, data);
+         rtxMemHeapFreePtr(ctx, (void*)data);
+         RT_CHECK(ctx, stat, 0, "sysInfoTypeSB2", -1, "System-Information-Container");
+      }
+   }
+   /* sysInfoType1 */
+   {
+      rtxContext outer;
+      const uint8_t* data;
+      uint32_t len;
+      rtxCopyContext(&outer, ctx);
+      stat = rtxInitContextBuffer(ctx, 0, 0);
+      RT_CHECK(ctx, stat, 0, "sysInfoType1", -1, "System-Information-Container");
+      stat = asn1PE_UMTS_SysInfoType1(ctx, &pvalue->sysInfoType1);
+      RT_CHECK(ctx, stat, 0, "sysInfoType1", -1, "System-Information-Container");
+      data = ctx->buffer_data;
+      len = pu_getMsgLen(ctx);
+      rtxCopyContext(ctx, &outer);
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_OctetString(ctx, len, data);
+      rtxMemHeapFreePtr(ctx, (void*)data);
+      RT_CHECK(ctx, stat, 0, "sysInfoType1", -1, "System-Information-Container");
+   }
+   /* sysInfoType3 */
+   {
+      rtxContext outer;
+      const uint8_t* data;
+      uint32_t len;
+      rtxCopyContext(&outer, ctx);
+      stat = rtxInitContextBuffer(ctx, 0, 0);
+      RT_CHECK(ctx, stat, 0, "sysInfoType3", -1, "System-Information-Container");
+      stat = asn1PE_UMTS_SysInfoType3(ctx, &pvalue->sysInfoType3);
+      RT_CHECK(ctx, stat, 0, "sysInfoType3", -1, "System-Information-Container");
+      data = ctx->buffer_data;
+      len = pu_getMsgLen(ctx);
+      rtxCopyContext(ctx, &outer);
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_OctetString(ctx, len, data);
+      rtxMemHeapFreePtr(ctx, (void*)data);
+      RT_CHECK(ctx, stat, 0, "sysInfoType3", -1, "System-Information-Container");
+   }
+   /* sysInfoType5 */
+   {
+      rtxContext outer;
+      const uint8_t* data;
+      uint32_t len;
+      rtxCopyContext(&outer, ctx);
+      stat = rtxInitContextBuffer(ctx, 0, 0);
+      RT_CHECK(ctx, stat, 0, "sysInfoType5", -1, "System-Information-Container");
+      stat = asn1PE_UMTS_SysInfoType5(ctx, &pvalue->sysInfoType5);
+      RT_CHECK(ctx, stat, 0, "sysInfoType5", -1, "System-Information-Container");
+      data = ctx->buffer_data;
+      len = pu_getMsgLen(ctx);
+      rtxCopyContext(ctx, &outer);
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_OctetString(ctx, len, data);
+      rtxMemHeapFreePtr(ctx, (void*)data);
+      RT_CHECK(ctx, stat, 0, "sysInfoType5", -1, "System-Information-Container");
+   }
+   /* sysInfoType7 */
+   {
+      rtxContext outer;
+      const uint8_t* data;
+      uint32_t len;
+      rtxCopyContext(&outer, ctx);
+      stat = rtxInitContextBuffer(ctx, 0, 0);
+      RT_CHECK(ctx, stat, 0, "sysInfoType7", -1, "System-Information-Container");
+      stat = asn1PE_UMTS_SysInfoType7(ctx, &pvalue->sysInfoType7);
+      RT_CHECK(ctx, stat, 0, "sysInfoType7", -1, "System-Information-Container");
+      data = ctx->buffer_data;
+      len = pu_getMsgLen(ctx);
+      rtxCopyContext(ctx, &outer);
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_OctetString(ctx, len, data);
+      rtxMemHeapFreePtr(ctx, (void*)data);
+      RT_CHECK(ctx, stat, 0, "sysInfoType7", -1, "System-Information-Container");
+   }
+   /* sysInfoType11 */
+   if (pvalue->m & 0x4u) {
+      {
+         rtxContext outer;
+         const uint8_t* data;
+         uint32_t len;
+         rtxCopyContext(&outer, ctx);
+         stat = rtxInitContextBuffer(ctx, 0, 0);
+         RT_CHECK(ctx, stat, 0, "sysInfoType11", -1, "System-Information-Container");
+         stat = asn1PE_UMTS_SysInfoType11(ctx, &pvalue->sysInfoType11);
+         RT_CHECK(ctx, stat, 0, "sysInfoType11", -1, "System-Information-Container");
+         data = ctx->buffer_data;
+         len = pu_getMsgLen(ctx);
+         rtxCopyContext(ctx, &outer);
+         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+         stat = pe_OctetString(ctx, len, data);
+         rtxMemHeapFreePtr(ctx, (void*)data);
+         RT_CHECK(ctx, stat, 0, "sysInfoType11", -1, "System-Information-Container");
+      }
+   }
+   /* sysInfoType11bis */
+   if (pvalue->m & 0x8u) {
+      {
+         rtxContext outer;
+         const uint8_t* data;
+         uint32_t len;
+         rtxCopyContext(&outer, ctx);
+         stat = rtxInitContextBuffer(ctx, 0, 0);
+         RT_CHECK(ctx, stat, 0, "sysInfoType11bis", -1, "System-Information-Container");
+         stat = asn1PE_UMTS_SysInfoType11bis(ctx, &pvalue->sysInfoType11bis);
+         RT_CHECK(ctx, stat, 0, "sysInfoType11bis", -1, "System-Information-Container");
+         data = ctx->buffer_data;
+         len = pu_getMsgLen(ctx);
+         rtxCopyContext(ctx, &outer);
+         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+         stat = pe_OctetString(ctx, len, data);
+         rtxMemHeapFreePtr(ctx, (void*)data);
+         RT_CHECK(ctx, stat, 0, "sysInfoType11bis", -1, "System-Information-Container");
+      }
+   }
+   /* sysInfoType12 */
+   if (pvalue->m & 0x10u) {
+      {
+         rtxContext outer;
+         const uint8_t* data;
+         uint32_t len;
+         rtxCopyContext(&outer, ctx);
+         stat = rtxInitContextBuffer(ctx, 0, 0);
+         RT_CHECK(ctx, stat, 0, "sysInfoType12", -1, "System-Information-Container");
+         stat = asn1PE_UMTS_SysInfoType12(ctx, &pvalue->sysInfoType12);
+         RT_CHECK(ctx, stat, 0, "sysInfoType12", -1, "System-Information-Container");
+         data = ctx->buffer_data;
+         len = pu_getMsgLen(ctx);
+         rtxCopyContext(ctx, &outer);
+         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+         stat = pe_OctetString(ctx, len, data);
+         rtxMemHeapFreePtr(ctx, (void*)data);
+         RT_CHECK(ctx, stat, 0, "sysInfoType12", -1, "System-Information-Container");
+      }
+   }
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_System_Information_Container_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "System-Information-Container");
+   }
+   return stat;
+}
+
+int asn1PE_UMTS_DL_DCCH_MessageType(rtxContext* RT_RESTRICT ctx, const DL_DCCH_MessageType* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-DCCH-MessageType");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 31);
+   RT_CHECK(ctx, stat, 0, "t", -1, "DL-DCCH-MessageType");
+   if (pvalue->t - 1 > 31) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-DCCH-MessageType");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.activeSetUpdate == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "activeSetUpdate", -1, "DL-DCCH-MessageType");
+         stat = asn1PE_UMTS_ActiveSetUpdate(ctx, pvalue->u.activeSetUpdate);
+         RT_CHECK(ctx, stat, 0, "activeSetUpdate", -1, "DL-DCCH-MessageType");
+         break;
+      case 2:
+         if (pvalue->u.assistanceDataDelivery == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "assistanceDataDelivery", -1, "DL-DCCH-MessageType");
+         stat = asn1PE_UMTS_AssistanceDataDelivery(ctx, pvalue->u.assistanceDataDelivery);
+         RT_CHECK(ctx, stat, 0, "assistanceDataDelivery", -1, "DL-DCCH-MessageType");
+         break;
+      case 3:
+         if (pvalue->u.cellChangeOrderFromUTRAN == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cellChangeOrderFromUTRAN", -1, "DL-DCCH-MessageType");
+         stat = asn1PE_UMTS_CellChangeOrderFromUTRAN(ctx, pvalue->u.cellChangeOrderFromUTRAN);
+         RT_CHECK(ctx, stat, 0, "cellChangeOrderFromUTRAN", -1, "DL-DCCH-MessageType");
+         break;
+      case 4:
+         if (pvalue->u.cellUpdateConfirm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cellUpdateConfirm", -1, "DL-DCCH-MessageType");
+         stat = asn1PE_UMTS_CellUpdateConfirm(ctx, pvalue->u.cellUpdateConfirm);
+         RT_CHECK(ctx, stat, 0, "cellUpdateConfirm", -1, "DL-DCCH-MessageType");
+         break;
+      case 5:
+         if (pvalue->u.counterCheck == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "counterCheck", -1, "DL-DCCH-MessageType");
+         stat = asn1PE_UMTS_CounterCheck(ctx, pvalue->u.counterCheck);
+         RT_CHECK(ctx, stat, 0, "counterCheck", -1, "DL-DCCH-MessageType");
+         break;
+      case 6:
+         if (pvalue->u.downlinkDirectTransfer == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "downlinkDirectTransfer", -1, "DL-DCCH-MessageType");
+         stat = asn1PE_UMTS_DownlinkDirectTransfer(ctx, pvalue->u.downlinkDirectTransfer);
+         RT_CHECK(ctx, stat, 0, "downlinkDirectTransfer", -1, "DL-DCCH-MessageType");
+         break;
+      case 7:
+         if (pvalue->u.handoverFromUTRANCommand_GSM == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "handoverFromUTRANCommand-GSM", -1, "DL-DCCH-MessageType");
+         stat = asn1PE_UMTS_HandoverFromUTRANCommand_GSM(ctx, pvalue->u.handoverFromUTRANCommand_GSM);
+         RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-GSM", -1, "DL-DCCH-MessageType");
+         break;
+      case 8:
+         if (pvalue->u.handoverFromUTRANCommand_CDMA2000 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "handoverFromUTRANCommand-CDMA2000", -1, "DL-DCCH-MessageType");
+         stat = asn1PE_UMTS_HandoverFromUTRANCommand_CDMA2000(ctx, pvalue->u.handoverFromUTRANCommand_CDMA2000);
+         RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-CDMA2000", -1, "DL-DCCH-MessageType");
+         break;
+      case 9:
+         if (pvalue->u.measurementControl == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "measurementControl", -1, "DL-DCCH-MessageType");
+         stat = asn1PE_UMTS_MeasurementControl(ctx, pvalue->u.measurementControl);
+         RT_CHECK(ctx, stat, 0, "measurementControl", -1, "DL-DCCH-MessageType");
+         break;
+      case 10:
+         if (pvalue->u.pagingType2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "pagingType2", -1, "DL-DCCH-MessageType");
+         stat = asn1PE_UMTS_PagingType2(ctx, pvalue->u.pagingType2);
+         RT_CHECK(ctx, stat, 0, "pagingType2", -1, "DL-DCCH-MessageType");
+         break;
+      case 11:
+         if (pvalue->u.physicalChannelReconfiguration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "physicalChannelReconfiguration", -1, "DL-DCCH-MessageType");
+         stat = asn1PE_UMTS_PhysicalChannelReconfiguration(ctx, pvalue->u.physicalChannelReconfiguration);
+         RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration", -1, "DL-DCCH-MessageType");
+         break;
+      case 12:
+         if (pvalue->u.physicalSharedChannelAllocation == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "physicalSharedChannelAllocation", -1, "DL-DCCH-MessageType");
+         stat = asn1PE_UMTS_PhysicalSharedChannelAllocation(ctx, pvalue->u.physicalSharedChannelAllocation);
+         RT_CHECK(ctx, stat, 0, "physicalSharedChannelAllocation", -1, "DL-DCCH-MessageType");
+         break;
+      case 13:
+         if (pvalue->u.radioBearerReconfiguration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "radioBearerReconfiguration", -1, "DL-DCCH-MessageType");
+         stat = asn1PE_UMTS_RadioBearerReconfiguration(ctx, pvalue->u.radioBearerReconfiguration);
+         RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration", -1, "DL-DCCH-MessageType");
+         break;
+      case 14:
+         if (pvalue->u.radioBearerRelease == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "radioBearerRelease", -1, "DL-DCCH-MessageType");
+         stat = asn1PE_UMTS_RadioBearerRelease(ctx, pvalue->u.radioBearerRelease);
+         RT_CHECK(ctx, stat, 0, "radioBearerRelease", -1, "DL-DCCH-MessageType");
+         break;
+      case 15:
+         if (pvalue->u.radioBearerSetup == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "radioBearerSetup", -1, "DL-DCCH-MessageType");
+         stat = asn1PE_UMTS_RadioBearerSetup(ctx, pvalue->u.radioBearerSetup);
+         RT_CHECK(ctx, stat, 0, "radioBearerSetup", -1, "DL-DCCH-MessageType");
+         break;
+      case 16:
+         if (pvalue->u.rrcConnectionRelease == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "rrcConnectionRelease", -1, "DL-DCCH-MessageType");
+         stat = asn1PE_UMTS_RRCConnectionRelease(ctx, pvalue->u.rrcConnectionRelease);
+         RT_CHECK(ctx, stat, 0, "rrcConnectionRelease", -1, "DL-DCCH-MessageType");
+         break;
+      case 17:
+         if (pvalue->u.securityModeCommand == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "securityModeCommand", -1, "DL-DCCH-MessageType");
+         stat = asn1PE_UMTS_SecurityModeCommand(ctx, pvalue->u.securityModeCommand);
+         RT_CHECK(ctx, stat, 0, "securityModeCommand", -1, "DL-DCCH-MessageType");
+         break;
+      case 18:
+         if (pvalue->u.signallingConnectionRelease == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "signallingConnectionRelease", -1, "DL-DCCH-MessageType");
+         stat = asn1PE_UMTS_SignallingConnectionRelease(ctx, pvalue->u.signallingConnectionRelease);
+         RT_CHECK(ctx, stat, 0, "signallingConnectionRelease", -1, "DL-DCCH-MessageType");
+         break;
+      case 19:
+         if (pvalue->u.transportChannelReconfiguration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "transportChannelReconfiguration", -1, "DL-DCCH-MessageType");
+         stat = asn1PE_UMTS_TransportChannelReconfiguration(ctx, pvalue->u.transportChannelReconfiguration);
+         RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration", -1, "DL-DCCH-MessageType");
+         break;
+      case 20:
+         if (pvalue->u.transportFormatCombinationControl == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "transportFormatCombinationControl", -1, "DL-DCCH-MessageType");
+         stat = asn1PE_UMTS_TransportFormatCombinationControl(ctx, pvalue->u.transportFormatCombinationControl);
+         RT_CHECK(ctx, stat, 0, "transportFormatCombinationControl", -1, "DL-DCCH-MessageType");
+         break;
+      case 21:
+         if (pvalue->u.ueCapabilityEnquiry == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueCapabilityEnquiry", -1, "DL-DCCH-MessageType");
+         stat = asn1PE_UMTS_UECapabilityEnquiry(ctx, pvalue->u.ueCapabilityEnquiry);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityEnquiry", -1, "DL-DCCH-MessageType");
+         break;
+      case 22:
+         if (pvalue->u.ueCapabilityInformationConfirm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueCapabilityInformationConfirm", -1, "DL-DCCH-MessageType");
+         stat = asn1PE_UMTS_UECapabilityInformationConfirm(ctx, pvalue->u.ueCapabilityInformationConfirm);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityInformationConfirm", -1, "DL-DCCH-MessageType");
+         break;
+      case 23:
+         if (pvalue->u.uplinkPhysicalChannelControl == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "uplinkPhysicalChannelControl", -1, "DL-DCCH-MessageType");
+         stat = asn1PE_UMTS_UplinkPhysicalChannelControl(ctx, pvalue->u.uplinkPhysicalChannelControl);
+         RT_CHECK(ctx, stat, 0, "uplinkPhysicalChannelControl", -1, "DL-DCCH-MessageType");
+         break;
+      case 24:
+         if (pvalue->u.uraUpdateConfirm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "uraUpdateConfirm", -1, "DL-DCCH-MessageType");
+         stat = asn1PE_UMTS_URAUpdateConfirm(ctx, pvalue->u.uraUpdateConfirm);
+         RT_CHECK(ctx, stat, 0, "uraUpdateConfirm", -1, "DL-DCCH-MessageType");
+         break;
+      case 25:
+         if (pvalue->u.utranMobilityInformation == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "utranMobilityInformation", -1, "DL-DCCH-MessageType");
+         stat = asn1PE_UMTS_UTRANMobilityInformation(ctx, pvalue->u.utranMobilityInformation);
+         RT_CHECK(ctx, stat, 0, "utranMobilityInformation", -1, "DL-DCCH-MessageType");
+         break;
+      case 26:
+         if (pvalue->u.handoverFromUTRANCommand_GERANIu == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "handoverFromUTRANCommand-GERANIu", -1, "DL-DCCH-MessageType");
+         stat = asn1PE_UMTS_HandoverFromUTRANCommand_GERANIu(ctx, pvalue->u.handoverFromUTRANCommand_GERANIu);
+         RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-GERANIu", -1, "DL-DCCH-MessageType");
+         break;
+      case 27:
+         if (pvalue->u.mbmsModifiedServicesInformation == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "mbmsModifiedServicesInformation", -1, "DL-DCCH-MessageType");
+         stat = asn1PE_UMTS_MBMSModifiedServicesInformation(ctx, pvalue->u.mbmsModifiedServicesInformation);
+         RT_CHECK(ctx, stat, 0, "mbmsModifiedServicesInformation", -1, "DL-DCCH-MessageType");
+         break;
+      case 28:
+         if (pvalue->u.etwsPrimaryNotificationWithSecurity == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "etwsPrimaryNotificationWithSecurity", -1, "DL-DCCH-MessageType");
+         stat = asn1PE_UMTS_ETWSPrimaryNotificationWithSecurity(ctx, pvalue->u.etwsPrimaryNotificationWithSecurity);
+         RT_CHECK(ctx, stat, 0, "etwsPrimaryNotificationWithSecurity", -1, "DL-DCCH-MessageType");
+         break;
+      case 29:
+         if (pvalue->u.handoverFromUTRANCommand_EUTRA == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "handoverFromUTRANCommand-EUTRA", -1, "DL-DCCH-MessageType");
+         stat = asn1PE_UMTS_HandoverFromUTRANCommand_EUTRA(ctx, pvalue->u.handoverFromUTRANCommand_EUTRA);
+         RT_CHECK(ctx, stat, 0, "handoverFromUTRANCommand-EUTRA", -1, "DL-DCCH-MessageType");
+         break;
+      case 30:
+         break;
+      case 31:
+         break;
+      case 32:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DCCH_Message(rtxContext* RT_RESTRICT ctx, const DL_DCCH_Message* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-DCCH-Message");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-DCCH-Message");
+   /* integrityCheckInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityCheckInfo(ctx, &pvalue->integrityCheckInfo);
+      RT_CHECK(ctx, stat, 0, "integrityCheckInfo", -1, "DL-DCCH-Message");
+   }
+   /* message */
+   stat = asn1PE_UMTS_DL_DCCH_MessageType(ctx, &pvalue->message);
+   RT_CHECK(ctx, stat, 0, "message", -1, "DL-DCCH-Message");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DCCH_MessageType(rtxContext* RT_RESTRICT ctx, const UL_DCCH_MessageType* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-DCCH-MessageType");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 31);
+   RT_CHECK(ctx, stat, 0, "t", -1, "UL-DCCH-MessageType");
+   if (pvalue->t - 1 > 31) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-DCCH-MessageType");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.activeSetUpdateComplete == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "activeSetUpdateComplete", -1, "UL-DCCH-MessageType");
+         stat = asn1PE_UMTS_ActiveSetUpdateComplete(ctx, pvalue->u.activeSetUpdateComplete);
+         RT_CHECK(ctx, stat, 0, "activeSetUpdateComplete", -1, "UL-DCCH-MessageType");
+         break;
+      case 2:
+         if (pvalue->u.activeSetUpdateFailure == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "activeSetUpdateFailure", -1, "UL-DCCH-MessageType");
+         stat = asn1PE_UMTS_ActiveSetUpdateFailure(ctx, pvalue->u.activeSetUpdateFailure);
+         RT_CHECK(ctx, stat, 0, "activeSetUpdateFailure", -1, "UL-DCCH-MessageType");
+         break;
+      case 3:
+         if (pvalue->u.cellChangeOrderFromUTRANFailure == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cellChangeOrderFromUTRANFailure", -1, "UL-DCCH-MessageType");
+         stat = asn1PE_UMTS_CellChangeOrderFromUTRANFailure(ctx, pvalue->u.cellChangeOrderFromUTRANFailure);
+         RT_CHECK(ctx, stat, 0, "cellChangeOrderFromUTRANFailure", -1, "UL-DCCH-MessageType");
+         break;
+      case 4:
+         if (pvalue->u.counterCheckResponse == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "counterCheckResponse", -1, "UL-DCCH-MessageType");
+         stat = asn1PE_UMTS_CounterCheckResponse(ctx, pvalue->u.counterCheckResponse);
+         RT_CHECK(ctx, stat, 0, "counterCheckResponse", -1, "UL-DCCH-MessageType");
+         break;
+      case 5:
+         if (pvalue->u.handoverToUTRANComplete == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "handoverToUTRANComplete", -1, "UL-DCCH-MessageType");
+         stat = asn1PE_UMTS_HandoverToUTRANComplete(ctx, pvalue->u.handoverToUTRANComplete);
+         RT_CHECK(ctx, stat, 0, "handoverToUTRANComplete", -1, "UL-DCCH-MessageType");
+         break;
+      case 6:
+         if (pvalue->u.initialDirectTransfer == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "initialDirectTransfer", -1, "UL-DCCH-MessageType");
+         stat = asn1PE_UMTS_InitialDirectTransfer(ctx, pvalue->u.initialDirectTransfer);
+         RT_CHECK(ctx, stat, 0, "initialDirectTransfer", -1, "UL-DCCH-MessageType");
+         break;
+      case 7:
+         if (pvalue->u.handoverFromUTRANFailure == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "handoverFromUTRANFailure", -1, "UL-DCCH-MessageType");
+         stat = asn1PE_UMTS_HandoverFromUTRANFailure(ctx, pvalue->u.handoverFromUTRANFailure);
+         RT_CHECK(ctx, stat, 0, "handoverFromUTRANFailure", -1, "UL-DCCH-MessageType");
+         break;
+      case 8:
+         if (pvalue->u.measurementControlFailure == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "measurementControlFailure", -1, "UL-DCCH-MessageType");
+         stat = asn1PE_UMTS_MeasurementControlFailure(ctx, pvalue->u.measurementControlFailure);
+         RT_CHECK(ctx, stat, 0, "measurementControlFailure", -1, "UL-DCCH-MessageType");
+         break;
+      case 9:
+         if (pvalue->u.measurementReport == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "measurementReport", -1, "UL-DCCH-MessageType");
+         stat = asn1PE_UMTS_MeasurementReport(ctx, pvalue->u.measurementReport);
+         RT_CHECK(ctx, stat, 0, "measurementReport", -1, "UL-DCCH-MessageType");
+         break;
+      case 10:
+         if (pvalue->u.physicalChannelReconfigurationComplete == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "physicalChannelReconfigurationComplete", -1, "UL-DCCH-MessageType");
+         stat = asn1PE_UMTS_PhysicalChannelReconfigurationComplete(ctx, pvalue->u.physicalChannelReconfigurationComplete);
+         RT_CHECK(ctx, stat, 0, "physicalChannelReconfigurationComplete", -1, "UL-DCCH-MessageType");
+         break;
+      case 11:
+         if (pvalue->u.physicalChannelReconfigurationFailure == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "physicalChannelReconfigurationFailure", -1, "UL-DCCH-MessageType");
+         stat = asn1PE_UMTS_PhysicalChannelReconfigurationFailure(ctx, pvalue->u.physicalChannelReconfigurationFailure);
+         RT_CHECK(ctx, stat, 0, "physicalChannelReconfigurationFailure", -1, "UL-DCCH-MessageType");
+         break;
+      case 12:
+         if (pvalue->u.radioBearerReconfigurationComplete == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "radioBearerReconfigurationComplete", -1, "UL-DCCH-MessageType");
+         stat = asn1PE_UMTS_RadioBearerReconfigurationComplete(ctx, pvalue->u.radioBearerReconfigurationComplete);
+         RT_CHECK(ctx, stat, 0, "radioBearerReconfigurationComplete", -1, "UL-DCCH-MessageType");
+         break;
+      case 13:
+         if (pvalue->u.radioBearerReconfigurationFailure == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "radioBearerReconfigurationFailure", -1, "UL-DCCH-MessageType");
+         stat = asn1PE_UMTS_RadioBearerReconfigurationFailure(ctx, pvalue->u.radioBearerReconfigurationFailure);
+         RT_CHECK(ctx, stat, 0, "radioBearerReconfigurationFailure", -1, "UL-DCCH-MessageType");
+         break;
+      case 14:
+         if (pvalue->u.radioBearerReleaseComplete == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "radioBearerReleaseComplete", -1, "UL-DCCH-MessageType");
+         stat = asn1PE_UMTS_RadioBearerReleaseComplete(ctx, pvalue->u.radioBearerReleaseComplete);
+         RT_CHECK(ctx, stat, 0, "radioBearerReleaseComplete", -1, "UL-DCCH-MessageType");
+         break;
+      case 15:
+         if (pvalue->u.radioBearerReleaseFailure == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "radioBearerReleaseFailure", -1, "UL-DCCH-MessageType");
+         stat = asn1PE_UMTS_RadioBearerReleaseFailure(ctx, pvalue->u.radioBearerReleaseFailure);
+         RT_CHECK(ctx, stat, 0, "radioBearerReleaseFailure", -1, "UL-DCCH-MessageType");
+         break;
+      case 16:
+         if (pvalue->u.radioBearerSetupComplete == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "radioBearerSetupComplete", -1, "UL-DCCH-MessageType");
+         stat = asn1PE_UMTS_RadioBearerSetupComplete(ctx, pvalue->u.radioBearerSetupComplete);
+         RT_CHECK(ctx, stat, 0, "radioBearerSetupComplete", -1, "UL-DCCH-MessageType");
+         break;
+      case 17:
+         if (pvalue->u.radioBearerSetupFailure == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "radioBearerSetupFailure", -1, "UL-DCCH-MessageType");
+         stat = asn1PE_UMTS_RadioBearerSetupFailure(ctx, pvalue->u.radioBearerSetupFailure);
+         RT_CHECK(ctx, stat, 0, "radioBearerSetupFailure", -1, "UL-DCCH-MessageType");
+         break;
+      case 18:
+         if (pvalue->u.rrcConnectionReleaseComplete == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "rrcConnectionReleaseComplete", -1, "UL-DCCH-MessageType");
+         stat = asn1PE_UMTS_RRCConnectionReleaseComplete(ctx, pvalue->u.rrcConnectionReleaseComplete);
+         RT_CHECK(ctx, stat, 0, "rrcConnectionReleaseComplete", -1, "UL-DCCH-MessageType");
+         break;
+      case 19:
+         if (pvalue->u.rrcConnectionSetupComplete == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "rrcConnectionSetupComplete", -1, "UL-DCCH-MessageType");
+         stat = asn1PE_UMTS_RRCConnectionSetupComplete(ctx, pvalue->u.rrcConnectionSetupComplete);
+         RT_CHECK(ctx, stat, 0, "rrcConnectionSetupComplete", -1, "UL-DCCH-MessageType");
+         break;
+      case 20:
+         if (pvalue->u.rrcStatus == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "rrcStatus", -1, "UL-DCCH-MessageType");
+         stat = asn1PE_UMTS_RRCStatus(ctx, pvalue->u.rrcStatus);
+         RT_CHECK(ctx, stat, 0, "rrcStatus", -1, "UL-DCCH-MessageType");
+         break;
+      case 21:
+         if (pvalue->u.securityModeComplete == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "securityModeComplete", -1, "UL-DCCH-MessageType");
+         stat = asn1PE_UMTS_SecurityModeComplete(ctx, pvalue->u.securityModeComplete);
+         RT_CHECK(ctx, stat, 0, "securityModeComplete", -1, "UL-DCCH-MessageType");
+         break;
+      case 22:
+         if (pvalue->u.securityModeFailure == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "securityModeFailure", -1, "UL-DCCH-MessageType");
+         stat = asn1PE_UMTS_SecurityModeFailure(ctx, pvalue->u.securityModeFailure);
+         RT_CHECK(ctx, stat, 0, "securityModeFailure", -1, "UL-DCCH-MessageType");
+         break;
+      case 23:
+         if (pvalue->u.signallingConnectionReleaseIndication == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "signallingConnectionReleaseIndication", -1, "UL-DCCH-MessageType");
+         stat = asn1PE_UMTS_SignallingConnectionReleaseIndication(ctx, pvalue->u.signallingConnectionReleaseIndication);
+         RT_CHECK(ctx, stat, 0, "signallingConnectionReleaseIndication", -1, "UL-DCCH-MessageType");
+         break;
+      case 24:
+         if (pvalue->u.transportChannelReconfigurationComplete == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "transportChannelReconfigurationComplete", -1, "UL-DCCH-MessageType");
+         stat = asn1PE_UMTS_TransportChannelReconfigurationComplete(ctx, pvalue->u.transportChannelReconfigurationComplete);
+         RT_CHECK(ctx, stat, 0, "transportChannelReconfigurationComplete", -1, "UL-DCCH-MessageType");
+         break;
+      case 25:
+         if (pvalue->u.transportChannelReconfigurationFailure == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "transportChannelReconfigurationFailure", -1, "UL-DCCH-MessageType");
+         stat = asn1PE_UMTS_TransportChannelReconfigurationFailure(ctx, pvalue->u.transportChannelReconfigurationFailure);
+         RT_CHECK(ctx, stat, 0, "transportChannelReconfigurationFailure", -1, "UL-DCCH-MessageType");
+         break;
+      case 26:
+         if (pvalue->u.transportFormatCombinationControlFailure == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "transportFormatCombinationControlFailure", -1, "UL-DCCH-MessageType");
+         stat = asn1PE_UMTS_TransportFormatCombinationControlFailure(ctx, pvalue->u.transportFormatCombinationControlFailure);
+         RT_CHECK(ctx, stat, 0, "transportFormatCombinationControlFailure", -1, "UL-DCCH-MessageType");
+         break;
+      case 27:
+         if (pvalue->u.ueCapabilityInformation == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueCapabilityInformation", -1, "UL-DCCH-MessageType");
+         stat = asn1PE_UMTS_UECapabilityInformation(ctx, pvalue->u.ueCapabilityInformation);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityInformation", -1, "UL-DCCH-MessageType");
+         break;
+      case 28:
+         if (pvalue->u.uplinkDirectTransfer == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "uplinkDirectTransfer", -1, "UL-DCCH-MessageType");
+         stat = asn1PE_UMTS_UplinkDirectTransfer(ctx, pvalue->u.uplinkDirectTransfer);
+         RT_CHECK(ctx, stat, 0, "uplinkDirectTransfer", -1, "UL-DCCH-MessageType");
+         break;
+      case 29:
+         if (pvalue->u.utranMobilityInformationConfirm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "utranMobilityInformationConfirm", -1, "UL-DCCH-MessageType");
+         stat = asn1PE_UMTS_UTRANMobilityInformationConfirm(ctx, pvalue->u.utranMobilityInformationConfirm);
+         RT_CHECK(ctx, stat, 0, "utranMobilityInformationConfirm", -1, "UL-DCCH-MessageType");
+         break;
+      case 30:
+         if (pvalue->u.utranMobilityInformationFailure == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "utranMobilityInformationFailure", -1, "UL-DCCH-MessageType");
+         stat = asn1PE_UMTS_UTRANMobilityInformationFailure(ctx, pvalue->u.utranMobilityInformationFailure);
+         RT_CHECK(ctx, stat, 0, "utranMobilityInformationFailure", -1, "UL-DCCH-MessageType");
+         break;
+      case 31:
+         if (pvalue->u.mbmsModificationRequest == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "mbmsModificationRequest", -1, "UL-DCCH-MessageType");
+         stat = asn1PE_UMTS_MBMSModificationRequest(ctx, pvalue->u.mbmsModificationRequest);
+         RT_CHECK(ctx, stat, 0, "mbmsModificationRequest", -1, "UL-DCCH-MessageType");
+         break;
+      case 32:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DCCH_Message(rtxContext* RT_RESTRICT ctx, const UL_DCCH_Message* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-DCCH-Message");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DCCH-Message");
+   /* integrityCheckInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityCheckInfo(ctx, &pvalue->integrityCheckInfo);
+      RT_CHECK(ctx, stat, 0, "integrityCheckInfo", -1, "UL-DCCH-Message");
+   }
+   /* message */
+   stat = asn1PE_UMTS_UL_DCCH_MessageType(ctx, &pvalue->message);
+   RT_CHECK(ctx, stat, 0, "message", -1, "UL-DCCH-Message");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CCCH_MessageType(rtxContext* RT_RESTRICT ctx, const DL_CCCH_MessageType* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-CCCH-MessageType");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
+   RT_CHECK(ctx, stat, 0, "t", -1, "DL-CCCH-MessageType");
+   if (pvalue->t - 1 > 7) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-CCCH-MessageType");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.cellUpdateConfirm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cellUpdateConfirm", -1, "DL-CCCH-MessageType");
+         stat = asn1PE_UMTS_CellUpdateConfirm_CCCH(ctx, pvalue->u.cellUpdateConfirm);
+         RT_CHECK(ctx, stat, 0, "cellUpdateConfirm", -1, "DL-CCCH-MessageType");
+         break;
+      case 2:
+         if (pvalue->u.rrcConnectionReject == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "rrcConnectionReject", -1, "DL-CCCH-MessageType");
+         stat = asn1PE_UMTS_RRCConnectionReject(ctx, pvalue->u.rrcConnectionReject);
+         RT_CHECK(ctx, stat, 0, "rrcConnectionReject", -1, "DL-CCCH-MessageType");
+         break;
+      case 3:
+         if (pvalue->u.rrcConnectionRelease == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "rrcConnectionRelease", -1, "DL-CCCH-MessageType");
+         stat = asn1PE_UMTS_RRCConnectionRelease_CCCH(ctx, pvalue->u.rrcConnectionRelease);
+         RT_CHECK(ctx, stat, 0, "rrcConnectionRelease", -1, "DL-CCCH-MessageType");
+         break;
+      case 4:
+         if (pvalue->u.rrcConnectionSetup == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "rrcConnectionSetup", -1, "DL-CCCH-MessageType");
+         stat = asn1PE_UMTS_RRCConnectionSetup(ctx, pvalue->u.rrcConnectionSetup);
+         RT_CHECK(ctx, stat, 0, "rrcConnectionSetup", -1, "DL-CCCH-MessageType");
+         break;
+      case 5:
+         if (pvalue->u.uraUpdateConfirm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "uraUpdateConfirm", -1, "DL-CCCH-MessageType");
+         stat = asn1PE_UMTS_URAUpdateConfirm_CCCH(ctx, pvalue->u.uraUpdateConfirm);
+         RT_CHECK(ctx, stat, 0, "uraUpdateConfirm", -1, "DL-CCCH-MessageType");
+         break;
+      case 6:
+         if (pvalue->u.etwsPrimaryNotificationWithSecurity == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "etwsPrimaryNotificationWithSecurity", -1, "DL-CCCH-MessageType");
+         stat = asn1PE_UMTS_ETWSPrimaryNotificationWithSecurity(ctx, pvalue->u.etwsPrimaryNotificationWithSecurity);
+         RT_CHECK(ctx, stat, 0, "etwsPrimaryNotificationWithSecurity", -1, "DL-CCCH-MessageType");
+         break;
+      case 7:
+         break;
+      case 8:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CCCH_Message(rtxContext* RT_RESTRICT ctx, const DL_CCCH_Message* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-CCCH-Message");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CCCH-Message");
+   /* integrityCheckInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityCheckInfo(ctx, &pvalue->integrityCheckInfo);
+      RT_CHECK(ctx, stat, 0, "integrityCheckInfo", -1, "DL-CCCH-Message");
+   }
+   /* message */
+   stat = asn1PE_UMTS_DL_CCCH_MessageType(ctx, &pvalue->message);
+   RT_CHECK(ctx, stat, 0, "message", -1, "DL-CCCH-Message");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_CCCH_MessageType(rtxContext* RT_RESTRICT ctx, const UL_CCCH_MessageType* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-CCCH-MessageType");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK(ctx, stat, 0, "t", -1, "UL-CCCH-MessageType");
+   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-CCCH-MessageType");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.cellUpdate == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cellUpdate", -1, "UL-CCCH-MessageType");
+         stat = asn1PE_UMTS_CellUpdate(ctx, pvalue->u.cellUpdate);
+         RT_CHECK(ctx, stat, 0, "cellUpdate", -1, "UL-CCCH-MessageType");
+         break;
+      case 2:
+         if (pvalue->u.rrcConnectionRequest == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "rrcConnectionRequest", -1, "UL-CCCH-MessageType");
+         stat = asn1PE_UMTS_RRCConnectionRequest(ctx, pvalue->u.rrcConnectionRequest);
+         RT_CHECK(ctx, stat, 0, "rrcConnectionRequest", -1, "UL-CCCH-MessageType");
+         break;
+      case 3:
+         if (pvalue->u.uraUpdate == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "uraUpdate", -1, "UL-CCCH-MessageType");
+         stat = asn1PE_UMTS_URAUpdate(ctx, pvalue->u.uraUpdate);
+         RT_CHECK(ctx, stat, 0, "uraUpdate", -1, "UL-CCCH-MessageType");
+         break;
+      case 4:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_CCCH_Message(rtxContext* RT_RESTRICT ctx, const UL_CCCH_Message* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-CCCH-Message");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-CCCH-Message");
+   /* integrityCheckInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_IntegrityCheckInfo(ctx, &pvalue->integrityCheckInfo);
+      RT_CHECK(ctx, stat, 0, "integrityCheckInfo", -1, "UL-CCCH-Message");
+   }
+   /* message */
+   stat = asn1PE_UMTS_UL_CCCH_MessageType(ctx, &pvalue->message);
+   RT_CHECK(ctx, stat, 0, "message", -1, "UL-CCCH-Message");
+   return 0;
+}
+
+int asn1PE_UMTS_PCCH_MessageType(rtxContext* RT_RESTRICT ctx, const PCCH_MessageType* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PCCH-MessageType");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "PCCH-MessageType");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PCCH-MessageType");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.pagingType1 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "pagingType1", -1, "PCCH-MessageType");
+         stat = asn1PE_UMTS_PagingType1(ctx, pvalue->u.pagingType1);
+         RT_CHECK(ctx, stat, 0, "pagingType1", -1, "PCCH-MessageType");
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PCCH_Message(rtxContext* RT_RESTRICT ctx, const PCCH_Message* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PCCH-Message");
+   /* message */
+   stat = asn1PE_UMTS_PCCH_MessageType(ctx, &pvalue->message);
+   RT_CHECK(ctx, stat, 0, "message", -1, "PCCH-Message");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_SHCCH_MessageType(rtxContext* RT_RESTRICT ctx, const DL_SHCCH_MessageType* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-SHCCH-MessageType");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "DL-SHCCH-MessageType");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-SHCCH-MessageType");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.physicalSharedChannelAllocation == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "physicalSharedChannelAllocation", -1, "DL-SHCCH-MessageType");
+         stat = asn1PE_UMTS_PhysicalSharedChannelAllocation(ctx, pvalue->u.physicalSharedChannelAllocation);
+         RT_CHECK(ctx, stat, 0, "physicalSharedChannelAllocation", -1, "DL-SHCCH-MessageType");
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_SHCCH_Message(rtxContext* RT_RESTRICT ctx, const DL_SHCCH_Message* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-SHCCH-Message");
+   /* message */
+   stat = asn1PE_UMTS_DL_SHCCH_MessageType(ctx, &pvalue->message);
+   RT_CHECK(ctx, stat, 0, "message", -1, "DL-SHCCH-Message");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_SHCCH_MessageType(rtxContext* RT_RESTRICT ctx, const UL_SHCCH_MessageType* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-SHCCH-MessageType");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "UL-SHCCH-MessageType");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-SHCCH-MessageType");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.puschCapacityRequest == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "puschCapacityRequest", -1, "UL-SHCCH-MessageType");
+         stat = asn1PE_UMTS_PUSCHCapacityRequest(ctx, pvalue->u.puschCapacityRequest);
+         RT_CHECK(ctx, stat, 0, "puschCapacityRequest", -1, "UL-SHCCH-MessageType");
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_SHCCH_Message(rtxContext* RT_RESTRICT ctx, const UL_SHCCH_Message* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-SHCCH-Message");
+   /* message */
+   stat = asn1PE_UMTS_UL_SHCCH_MessageType(ctx, &pvalue->message);
+   RT_CHECK(ctx, stat, 0, "message", -1, "UL-SHCCH-Message");
+   return 0;
+}
+
+int asn1PE_UMTS_BCCH_FACH_MessageType(rtxContext* RT_RESTRICT ctx, const BCCH_FACH_MessageType* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "BCCH-FACH-MessageType");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK(ctx, stat, 0, "t", -1, "BCCH-FACH-MessageType");
+   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "BCCH-FACH-MessageType");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.systemInformation == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "systemInformation", -1, "BCCH-FACH-MessageType");
+         stat = asn1PE_UMTS_SystemInformation_FACH(ctx, pvalue->u.systemInformation);
+         RT_CHECK(ctx, stat, 0, "systemInformation", -1, "BCCH-FACH-MessageType");
+         break;
+      case 2:
+         if (pvalue->u.systemInformationChangeIndication == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "systemInformationChangeIndication", -1, "BCCH-FACH-MessageType");
+         stat = asn1PE_UMTS_SystemInformationChangeIndication(ctx, pvalue->u.systemInformationChangeIndication);
+         RT_CHECK(ctx, stat, 0, "systemInformationChangeIndication", -1, "BCCH-FACH-MessageType");
+         break;
+      case 3:
+         break;
+      case 4:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_BCCH_FACH_Message(rtxContext* RT_RESTRICT ctx, const BCCH_FACH_Message* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "BCCH-FACH-Message");
+   /* message */
+   stat = asn1PE_UMTS_BCCH_FACH_MessageType(ctx, &pvalue->message);
+   RT_CHECK(ctx, stat, 0, "message", -1, "BCCH-FACH-Message");
+   return 0;
+}
+
+int asn1PE_UMTS_MCCH_MessageType(rtxContext* RT_RESTRICT ctx, const MCCH_MessageType* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MCCH-MessageType");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 15);
+   RT_CHECK(ctx, stat, 0, "t", -1, "MCCH-MessageType");
+   if (pvalue->t - 1 > 15) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MCCH-MessageType");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.mbmsAccessInformation == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "mbmsAccessInformation", -1, "MCCH-MessageType");
+         stat = asn1PE_UMTS_MBMSAccessInformation(ctx, pvalue->u.mbmsAccessInformation);
+         RT_CHECK(ctx, stat, 0, "mbmsAccessInformation", -1, "MCCH-MessageType");
+         break;
+      case 2:
+         if (pvalue->u.mbmsCommonPTMRBInformation == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "mbmsCommonPTMRBInformation", -1, "MCCH-MessageType");
+         stat = asn1PE_UMTS_MBMSCommonPTMRBInformation(ctx, pvalue->u.mbmsCommonPTMRBInformation);
+         RT_CHECK(ctx, stat, 0, "mbmsCommonPTMRBInformation", -1, "MCCH-MessageType");
+         break;
+      case 3:
+         if (pvalue->u.mbmsCurrentCellPTMRBInformation == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "mbmsCurrentCellPTMRBInformation", -1, "MCCH-MessageType");
+         stat = asn1PE_UMTS_MBMSCurrentCellPTMRBInformation(ctx, pvalue->u.mbmsCurrentCellPTMRBInformation);
+         RT_CHECK(ctx, stat, 0, "mbmsCurrentCellPTMRBInformation", -1, "MCCH-MessageType");
+         break;
+      case 4:
+         if (pvalue->u.mbmsGeneralInformation == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "mbmsGeneralInformation", -1, "MCCH-MessageType");
+         stat = asn1PE_UMTS_MBMSGeneralInformation(ctx, pvalue->u.mbmsGeneralInformation);
+         RT_CHECK(ctx, stat, 0, "mbmsGeneralInformation", -1, "MCCH-MessageType");
+         break;
+      case 5:
+         if (pvalue->u.mbmsModifiedServicesInformation == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "mbmsModifiedServicesInformation", -1, "MCCH-MessageType");
+         stat = asn1PE_UMTS_MBMSModifiedServicesInformation(ctx, pvalue->u.mbmsModifiedServicesInformation);
+         RT_CHECK(ctx, stat, 0, "mbmsModifiedServicesInformation", -1, "MCCH-MessageType");
+         break;
+      case 6:
+         if (pvalue->u.mbmsNeighbouringCellPTMRBInformation == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "mbmsNeighbouringCellPTMRBInformation", -1, "MCCH-MessageType");
+         stat = asn1PE_UMTS_MBMSNeighbouringCellPTMRBInformation(ctx, pvalue->u.mbmsNeighbouringCellPTMRBInformation);
+         RT_CHECK(ctx, stat, 0, "mbmsNeighbouringCellPTMRBInformation", -1, "MCCH-MessageType");
+         break;
+      case 7:
+         if (pvalue->u.mbmsUnmodifiedServicesInformation == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "mbmsUnmodifiedServicesInformation", -1, "MCCH-MessageType");
+         stat = asn1PE_UMTS_MBMSUnmodifiedServicesInformation(ctx, pvalue->u.mbmsUnmodifiedServicesInformation);
+         RT_CHECK(ctx, stat, 0, "mbmsUnmodifiedServicesInformation", -1, "MCCH-MessageType");
+         break;
+      case 8:
+         break;
+      case 9:
+         break;
+      case 10:
+         break;
+      case 11:
+         break;
+      case 12:
+         break;
+      case 13:
+         break;
+      case 14:
+         break;
+      case 15:
+         break;
+      case 16:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MCCH_Message(rtxContext* RT_RESTRICT ctx, const MCCH_Message* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MCCH-Message");
+   /* message */
+   stat = asn1PE_UMTS_MCCH_MessageType(ctx, &pvalue->message);
+   RT_CHECK(ctx, stat, 0, "message", -1, "MCCH-Message");
+   return 0;
+}
+
+int asn1PE_UMTS_MSCH_MessageType(rtxContext* RT_RESTRICT ctx, const MSCH_MessageType* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MSCH-MessageType");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK(ctx, stat, 0, "t", -1, "MSCH-MessageType");
+   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MSCH-MessageType");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.mbmsSchedulingInformation == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "mbmsSchedulingInformation", -1, "MSCH-MessageType");
+         stat = asn1PE_UMTS_MBMSSchedulingInformation(ctx, pvalue->u.mbmsSchedulingInformation);
+         RT_CHECK(ctx, stat, 0, "mbmsSchedulingInformation", -1, "MSCH-MessageType");
+         break;
+      case 2:
+         break;
+      case 3:
+         break;
+      case 4:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MSCH_Message(rtxContext* RT_RESTRICT ctx, const MSCH_Message* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MSCH-Message");
+   /* message */
+   stat = asn1PE_UMTS_MSCH_MessageType(ctx, &pvalue->message);
+   RT_CHECK(ctx, stat, 0, "message", -1, "MSCH-Message");
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3_IEs_interRATHandoverInfo(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfoWithInterRATCapabilities_r3_IEs_interRATHandoverInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 0, 255);
+   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3_IEs(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfoWithInterRATCapabilities_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATHandoverInfoWithInterRATCapabilities-r3-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfoWithInterRATCapabilities-r3-IEs");
+   /* ue-RATSpecificCapability */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterRAT_UE_RadioAccessCapabilityList(ctx, &pvalue->ue_RATSpecificCapability);
+      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability", -1, "InterRATHandoverInfoWithInterRATCapabilities-r3-IEs");
+   }
+   /* interRATHandoverInfo */
+   stat = asn1PE_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3_IEs_interRATHandoverInfo(ctx, &pvalue->interRATHandoverInfo);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo", -1, "InterRATHandoverInfoWithInterRATCapabilities-r3-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfoWithInterRATCapabilities_v390ext_IEs(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfoWithInterRATCapabilities_v390ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATHandoverInfoWithInterRATCapabilities-v390ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfoWithInterRATCapabilities-v390ext-IEs");
+   /* failureCauseWithProtErr */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCauseWithProtErr);
+      RT_CHECK(ctx, stat, 0, "failureCauseWithProtErr", -1, "InterRATHandoverInfoWithInterRATCapabilities-v390ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfoWithInterRATCapabilities_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfoWithInterRATCapabilities_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATHandoverInfoWithInterRATCapabilities-v690ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfoWithInterRATCapabilities-v690ext-IEs");
+   /* ue-RATSpecificCapability-v690ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterRAT_UE_RadioAccessCapability_v690ext(ctx, &pvalue->ue_RATSpecificCapability_v690ext);
+      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability-v690ext", -1, "InterRATHandoverInfoWithInterRATCapabilities-v690ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfoWithInterRATCapabilities_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfoWithInterRATCapabilities_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATHandoverInfoWithInterRATCapabilities-v860ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfoWithInterRATCapabilities-v860ext-IEs");
+   /* ue-RATSpecificCapability */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterRAT_UE_RadioAccessCapability_v860ext(ctx, &pvalue->ue_RATSpecificCapability);
+      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability", -1, "InterRATHandoverInfoWithInterRATCapabilities-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfoWithInterRATCapabilities_v920ext_IEs(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfoWithInterRATCapabilities_v920ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATHandoverInfoWithInterRATCapabilities-v920ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATHandoverInfoWithInterRATCapabilities-v920ext-IEs");
+   /* ue-Inactivity-Period */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->ue_Inactivity_Period - 1) > 119u) {
+         rtxErrAddStrParm(ctx, "ue-Inactivity-Period");
+         rtxErrAddUIntParm(ctx, pvalue->ue_Inactivity_Period);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ue-Inactivity-Period", -1, "InterRATHandoverInfoWithInterRATCapabilities-v920ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->ue_Inactivity_Period, 1, 120);
+      RT_CHECK(ctx, stat, 0, "ue-Inactivity-Period", -1, "InterRATHandoverInfoWithInterRATCapabilities-v920ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3_r3_v390NonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfoWithInterRATCapabilities_r3_r3_v390NonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3_r3_v390NonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfoWithInterRATCapabilities_r3_r3_v390NonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfoWithInterRATCapabilities-v920ext */
+   stat = asn1PE_UMTS_InterRATHandoverInfoWithInterRATCapabilities_v920ext_IEs(ctx, &pvalue->interRATHandoverInfoWithInterRATCapabilities_v920ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfoWithInterRATCapabilities-v920ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3_r3_v390NonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3_r3_v390NonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfoWithInterRATCapabilities_r3_r3_v390NonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfoWithInterRATCapabilities-v860ext */
+   stat = asn1PE_UMTS_InterRATHandoverInfoWithInterRATCapabilities_v860ext_IEs(ctx, &pvalue->interRATHandoverInfoWithInterRATCapabilities_v860ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfoWithInterRATCapabilities-v860ext", -1, 0);
+   /* v920NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3_r3_v390NonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3_r3_v390NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfoWithInterRATCapabilities_r3_r3_v390NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfoWithInterRATCapabilities-v690ext */
+   stat = asn1PE_UMTS_InterRATHandoverInfoWithInterRATCapabilities_v690ext_IEs(ctx, &pvalue->interRATHandoverInfoWithInterRATCapabilities_v690ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfoWithInterRATCapabilities-v690ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3_r3_v390NonCriticalExtensions_v690NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3_r3_v390NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfoWithInterRATCapabilities_r3_r3_v390NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfoWithInterRATCapabilities-v390ext */
+   stat = asn1PE_UMTS_InterRATHandoverInfoWithInterRATCapabilities_v390ext_IEs(ctx, &pvalue->interRATHandoverInfoWithInterRATCapabilities_v390ext);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfoWithInterRATCapabilities-v390ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3_r3_v390NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3_r3(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfoWithInterRATCapabilities_r3_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* interRATHandoverInfo-r3 */
+   stat = asn1PE_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3_IEs(ctx, &pvalue->interRATHandoverInfo_r3);
+   RT_CHECK(ctx, stat, 0, "interRATHandoverInfo-r3", -1, 0);
+   /* v390NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3_r3_v390NonCriticalExtensions(ctx, &pvalue->v390NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v390NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfoWithInterRATCapabilities_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3(rtxContext* RT_RESTRICT ctx, const InterRATHandoverInfoWithInterRATCapabilities_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATHandoverInfoWithInterRATCapabilities-r3");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "InterRATHandoverInfoWithInterRATCapabilities-r3");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterRATHandoverInfoWithInterRATCapabilities-r3");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r3", -1, "InterRATHandoverInfoWithInterRATCapabilities-r3");
+         stat = asn1PE_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "InterRATHandoverInfoWithInterRATCapabilities-r3");
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, "InterRATHandoverInfoWithInterRATCapabilities-r3");
+         stat = asn1PE_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, "InterRATHandoverInfoWithInterRATCapabilities-r3");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_StateOfRRC(rtxContext* RT_RESTRICT ctx, StateOfRRC value)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "StateOfRRC");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "StateOfRRC");
+   return 0;
+}
+
+int asn1PE_UMTS_StateOfRRC_Procedure(rtxContext* RT_RESTRICT ctx, StateOfRRC_Procedure value)
+{
+   int stat = 0;
+   if (value > 11) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "StateOfRRC-Procedure");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 11);
+   RT_CHECK(ctx, stat, 0, 0, -1, "StateOfRRC-Procedure");
+   return 0;
+}
+
+int asn1PE_UMTS_CipheringStatus(rtxContext* RT_RESTRICT ctx, CipheringStatus value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "CipheringStatus");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CipheringStatus");
+   return 0;
+}
+
+int asn1PE_UMTS_CalculationTimeForCiphering(rtxContext* RT_RESTRICT ctx, const CalculationTimeForCiphering* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CalculationTimeForCiphering");
+   /* cell-Id */
+   stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->cell_Id);
+   RT_CHECK(ctx, stat, 0, "cell-Id", -1, "CalculationTimeForCiphering");
+   /* sfn */
+   if ((uint64_t)pvalue->sfn > 4095u) {
+      rtxErrAddStrParm(ctx, "sfn");
+      rtxErrAddUIntParm(ctx, pvalue->sfn);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sfn", -1, "CalculationTimeForCiphering");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->sfn, 0, 4095);
+   RT_CHECK(ctx, stat, 0, "sfn", -1, "CalculationTimeForCiphering");
+   return 0;
+}
+
+int asn1PE_UMTS_CipheringInfoPerRB(rtxContext* RT_RESTRICT ctx, const CipheringInfoPerRB* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CipheringInfoPerRB");
+   /* dl-HFN */
+   RT_SET_SIZE(ctx, 20, 25);
+   stat = pe_BitString32(ctx, &pvalue->dl_HFN, 20, 25);
+   RT_CHECK(ctx, stat, 0, "dl-HFN", -1, "CipheringInfoPerRB");
+   /* ul-HFN */
+   RT_SET_SIZE(ctx, 20, 25);
+   stat = pe_BitString32(ctx, &pvalue->ul_HFN, 20, 25);
+   RT_CHECK(ctx, stat, 0, "ul-HFN", -1, "CipheringInfoPerRB");
+   return 0;
+}
+
+int asn1PE_UMTS_CipheringInfoPerRB_List(rtxContext* RT_RESTRICT ctx, const CipheringInfoPerRB_List* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CipheringInfoPerRB-List");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CipheringInfoPerRB-List");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CipheringInfoPerRB", (int32_t)i, "CipheringInfoPerRB-List");
+      stat = asn1PE_UMTS_CipheringInfoPerRB(ctx, (const CipheringInfoPerRB*)node->data);
+      RT_CHECK(ctx, stat, 0, "CipheringInfoPerRB", (int32_t)i, "CipheringInfoPerRB-List");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_COUNT_CSingle(rtxContext* RT_RESTRICT ctx, const COUNT_CSingle* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "COUNT-CSingle");
+   /* cn-DomainIdentity */
+   if (pvalue->cn_DomainIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "COUNT-CSingle");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "COUNT-CSingle");
+   /* count-C */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32(ctx, &pvalue->count_C, 32, 32);
+   RT_CHECK(ctx, stat, 0, "count-C", -1, "COUNT-CSingle");
+   return 0;
+}
+
+int asn1PE_UMTS_COUNT_C_List(rtxContext* RT_RESTRICT ctx, const COUNT_C_List* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "COUNT-C-List");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "COUNT-C-List");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "COUNT-CSingle", (int32_t)i, "COUNT-C-List");
+      stat = asn1PE_UMTS_COUNT_CSingle(ctx, (const COUNT_CSingle*)node->data);
+      RT_CHECK(ctx, stat, 0, "COUNT-CSingle", (int32_t)i, "COUNT-C-List");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntegrityProtectionStatus(rtxContext* RT_RESTRICT ctx, IntegrityProtectionStatus value)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "IntegrityProtectionStatus");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntegrityProtectionStatus");
+   return 0;
+}
+
+int asn1PE_UMTS_SRB_SpecificIntegrityProtInfo(rtxContext* RT_RESTRICT ctx, const SRB_SpecificIntegrityProtInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRB-SpecificIntegrityProtInfo");
+   /* ul-RRC-HFN */
+   RT_SET_SIZE(ctx, 28, 28);
+   stat = pe_BitString32(ctx, &pvalue->ul_RRC_HFN, 28, 28);
+   RT_CHECK(ctx, stat, 0, "ul-RRC-HFN", -1, "SRB-SpecificIntegrityProtInfo");
+   /* dl-RRC-HFN */
+   RT_SET_SIZE(ctx, 28, 28);
+   stat = pe_BitString32(ctx, &pvalue->dl_RRC_HFN, 28, 28);
+   RT_CHECK(ctx, stat, 0, "dl-RRC-HFN", -1, "SRB-SpecificIntegrityProtInfo");
+   /* ul-RRC-SequenceNumber */
+   if ((uint64_t)pvalue->ul_RRC_SequenceNumber > 15u) {
+      rtxErrAddStrParm(ctx, "RRC-MessageSequenceNumber");
+      rtxErrAddUIntParm(ctx, pvalue->ul_RRC_SequenceNumber);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-MessageSequenceNumber", "ul-RRC-SequenceNumber", -1, "SRB-SpecificIntegrityProtInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ul_RRC_SequenceNumber, 0, 15);
+   RT_CHECK(ctx, stat, "RRC-MessageSequenceNumber", "ul-RRC-SequenceNumber", -1, "SRB-SpecificIntegrityProtInfo");
+   /* dl-RRC-SequenceNumber */
+   if ((uint64_t)pvalue->dl_RRC_SequenceNumber > 15u) {
+      rtxErrAddStrParm(ctx, "RRC-MessageSequenceNumber");
+      rtxErrAddUIntParm(ctx, pvalue->dl_RRC_SequenceNumber);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-MessageSequenceNumber", "dl-RRC-SequenceNumber", -1, "SRB-SpecificIntegrityProtInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->dl_RRC_SequenceNumber, 0, 15);
+   RT_CHECK(ctx, stat, "RRC-MessageSequenceNumber", "dl-RRC-SequenceNumber", -1, "SRB-SpecificIntegrityProtInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_SRB_SpecificIntegrityProtInfoList(rtxContext* RT_RESTRICT ctx, const SRB_SpecificIntegrityProtInfoList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRB-SpecificIntegrityProtInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 4, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SRB-SpecificIntegrityProtInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "SRB-SpecificIntegrityProtInfo", (int32_t)i, "SRB-SpecificIntegrityProtInfoList");
+      stat = asn1PE_UMTS_SRB_SpecificIntegrityProtInfo(ctx, (const SRB_SpecificIntegrityProtInfo*)node->data);
+      RT_CHECK(ctx, stat, 0, "SRB-SpecificIntegrityProtInfo", (int32_t)i, "SRB-SpecificIntegrityProtInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ImplementationSpecificParams(rtxContext* RT_RESTRICT ctx, const ImplementationSpecificParams* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ImplementationSpecificParams");
+   RT_SET_SIZE(ctx, 1, 512);
+   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
+   RT_CHECK(ctx, stat, 0, 0, -1, "ImplementationSpecificParams");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_LastKnownPos(rtxContext* RT_RESTRICT ctx, const UE_Positioning_LastKnownPos* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-LastKnownPos");
+   /* sfn */
+   if ((uint64_t)pvalue->sfn > 4095u) {
+      rtxErrAddStrParm(ctx, "sfn");
+      rtxErrAddUIntParm(ctx, pvalue->sfn);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sfn", -1, "UE-Positioning-LastKnownPos");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->sfn, 0, 4095);
+   RT_CHECK(ctx, stat, 0, "sfn", -1, "UE-Positioning-LastKnownPos");
+   /* cell-id */
+   stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->cell_id);
+   RT_CHECK(ctx, stat, 0, "cell-id", -1, "UE-Positioning-LastKnownPos");
+   /* positionEstimate */
+   stat = asn1PE_UMTS_PositionEstimate(ctx, &pvalue->positionEstimate);
+   RT_CHECK(ctx, stat, 0, "positionEstimate", -1, "UE-Positioning-LastKnownPos");
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementCommandWithType(rtxContext* RT_RESTRICT ctx, const MeasurementCommandWithType* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCommandWithType");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, "MeasurementCommandWithType");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommandWithType");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.setup == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "setup", -1, "MeasurementCommandWithType");
+         stat = asn1PE_UMTS_MeasurementType(ctx, pvalue->u.setup);
+         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommandWithType");
+         break;
+      case 2:
+         break;
+      case 3:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_OngoingMeasRep(rtxContext* RT_RESTRICT ctx, const OngoingMeasRep* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "OngoingMeasRep");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "OngoingMeasRep");
+   /* measurementIdentity */
+   if ((uint64_t)(pvalue->measurementIdentity - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "MeasurementIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->measurementIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementIdentity", "measurementIdentity", -1, "OngoingMeasRep");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->measurementIdentity, 1, 16);
+   RT_CHECK(ctx, stat, "MeasurementIdentity", "measurementIdentity", -1, "OngoingMeasRep");
+   /* measurementCommandWithType */
+   stat = asn1PE_UMTS_MeasurementCommandWithType(ctx, &pvalue->measurementCommandWithType);
+   RT_CHECK(ctx, stat, 0, "measurementCommandWithType", -1, "OngoingMeasRep");
+   /* measurementReportingMode */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
+      RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "OngoingMeasRep");
+   }
+   /* additionalMeasurementID-List */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementID_List);
+      RT_CHECK(ctx, stat, 0, "additionalMeasurementID-List", -1, "OngoingMeasRep");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_OngoingMeasRepList(rtxContext* RT_RESTRICT ctx, const OngoingMeasRepList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "OngoingMeasRepList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "OngoingMeasRepList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "OngoingMeasRep", (int32_t)i, "OngoingMeasRepList");
+      stat = asn1PE_UMTS_OngoingMeasRep(ctx, (const OngoingMeasRep*)node->data);
+      RT_CHECK(ctx, stat, 0, "OngoingMeasRep", (int32_t)i, "OngoingMeasRepList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_IEs_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_IEs_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->dummy - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "CPCH-SetID");
+         rtxErrAddUIntParm(ctx, pvalue->dummy);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "CPCH-SetID", "dummy", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dummy, 1, 16);
+      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy", -1, 0);
+   }
+   /* dummy2 */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_IEs_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_IEs_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_IEs_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_IEs(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRNC-RelocationInfo-r3-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 0), 16);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-r3-IEs");
+   /* stateOfRRC */
+   if (pvalue->stateOfRRC > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->stateOfRRC);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "StateOfRRC", "stateOfRRC", -1, "SRNC-RelocationInfo-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->stateOfRRC, 0, 3);
+   RT_CHECK(ctx, stat, "StateOfRRC", "stateOfRRC", -1, "SRNC-RelocationInfo-r3-IEs");
+   /* stateOfRRC-Procedure */
+   if (pvalue->stateOfRRC_Procedure > 11) {
+      rtxErrAddUIntParm(ctx, pvalue->stateOfRRC_Procedure);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "StateOfRRC-Procedure", "stateOfRRC-Procedure", -1, "SRNC-RelocationInfo-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->stateOfRRC_Procedure, 0, 11);
+   RT_CHECK(ctx, stat, "StateOfRRC-Procedure", "stateOfRRC-Procedure", -1, "SRNC-RelocationInfo-r3-IEs");
+   /* cipheringStatus */
+   if (pvalue->cipheringStatus > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cipheringStatus);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CipheringStatus", "cipheringStatus", -1, "SRNC-RelocationInfo-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cipheringStatus, 0, 1);
+   RT_CHECK(ctx, stat, "CipheringStatus", "cipheringStatus", -1, "SRNC-RelocationInfo-r3-IEs");
+   /* calculationTimeForCiphering */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CalculationTimeForCiphering(ctx, &pvalue->calculationTimeForCiphering);
+      RT_CHECK(ctx, stat, 0, "calculationTimeForCiphering", -1, "SRNC-RelocationInfo-r3-IEs");
+   }
+   /* cipheringInfoPerRB-List */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CipheringInfoPerRB_List(ctx, &pvalue->cipheringInfoPerRB_List);
+      RT_CHECK(ctx, stat, 0, "cipheringInfoPerRB-List", -1, "SRNC-RelocationInfo-r3-IEs");
+   }
+   /* count-C-List */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_COUNT_C_List(ctx, &pvalue->count_C_List);
+      RT_CHECK(ctx, stat, 0, "count-C-List", -1, "SRNC-RelocationInfo-r3-IEs");
+   }
+   /* integrityProtectionStatus */
+   if (pvalue->integrityProtectionStatus > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->integrityProtectionStatus);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "IntegrityProtectionStatus", "integrityProtectionStatus", -1, "SRNC-RelocationInfo-r3-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->integrityProtectionStatus, 0, 1);
+   RT_CHECK(ctx, stat, "IntegrityProtectionStatus", "integrityProtectionStatus", -1, "SRNC-RelocationInfo-r3-IEs");
+   /* srb-SpecificIntegrityProtInfo */
+   stat = asn1PE_UMTS_SRB_SpecificIntegrityProtInfoList(ctx, &pvalue->srb_SpecificIntegrityProtInfo);
+   RT_CHECK(ctx, stat, 0, "srb-SpecificIntegrityProtInfo", -1, "SRNC-RelocationInfo-r3-IEs");
+   /* implementationSpecificParams */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_ImplementationSpecificParams(ctx, &pvalue->implementationSpecificParams);
+      RT_CHECK(ctx, stat, 0, "implementationSpecificParams", -1, "SRNC-RelocationInfo-r3-IEs");
+   }
+   /* u-RNTI */
+   stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, "SRNC-RelocationInfo-r3-IEs");
+   /* c-RNTI */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->c_RNTI);
+      RT_CHECK(ctx, stat, 0, "c-RNTI", -1, "SRNC-RelocationInfo-r3-IEs");
+   }
+   /* ue-RadioAccessCapability */
+   stat = asn1PE_UMTS_UE_RadioAccessCapability(ctx, &pvalue->ue_RadioAccessCapability);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "SRNC-RelocationInfo-r3-IEs");
+   /* ue-Positioning-LastKnownPos */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_UE_Positioning_LastKnownPos(ctx, &pvalue->ue_Positioning_LastKnownPos);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-LastKnownPos", -1, "SRNC-RelocationInfo-r3-IEs");
+   }
+   /* ue-RATSpecificCapability */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_InterRAT_UE_RadioAccessCapabilityList(ctx, &pvalue->ue_RATSpecificCapability);
+      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability", -1, "SRNC-RelocationInfo-r3-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "SRNC-RelocationInfo-r3-IEs");
+   }
+   /* cn-CommonGSM-MAP-NAS-SysInfo */
+   stat = asn1PE_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo);
+   RT_CHECK(ctx, stat, 0, "cn-CommonGSM-MAP-NAS-SysInfo", -1, "SRNC-RelocationInfo-r3-IEs");
+   /* cn-DomainInformationList */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_CN_DomainInformationList(ctx, &pvalue->cn_DomainInformationList);
+      RT_CHECK(ctx, stat, 0, "cn-DomainInformationList", -1, "SRNC-RelocationInfo-r3-IEs");
+   }
+   /* ongoingMeasRepList */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_OngoingMeasRepList(ctx, &pvalue->ongoingMeasRepList);
+      RT_CHECK(ctx, stat, 0, "ongoingMeasRepList", -1, "SRNC-RelocationInfo-r3-IEs");
+   }
+   /* predefinedConfigStatusList */
+   stat = asn1PE_UMTS_PredefinedConfigStatusList(ctx, &pvalue->predefinedConfigStatusList);
+   RT_CHECK(ctx, stat, 0, "predefinedConfigStatusList", -1, "SRNC-RelocationInfo-r3-IEs");
+   /* srb-InformationList */
+   stat = asn1PE_UMTS_SRB_InformationSetupList(ctx, &pvalue->srb_InformationList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationList", -1, "SRNC-RelocationInfo-r3-IEs");
+   /* rab-InformationList */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_RAB_InformationSetupList(ctx, &pvalue->rab_InformationList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationList", -1, "SRNC-RelocationInfo-r3-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "SRNC-RelocationInfo-r3-IEs");
+   }
+   /* ul-TransChInfoList */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_TransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-TransChInfoList", -1, "SRNC-RelocationInfo-r3-IEs");
+   }
+   /* modeSpecificInfo */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_IEs_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SRNC-RelocationInfo-r3-IEs");
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "SRNC-RelocationInfo-r3-IEs");
+   }
+   /* dl-TransChInfoList */
+   if (pvalue->m & 0x4000u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList(ctx, &pvalue->dl_TransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-TransChInfoList", -1, "SRNC-RelocationInfo-r3-IEs");
+   }
+   /* measurementReport */
+   if (pvalue->m & 0x8000u) {
+      stat = asn1PE_UMTS_MeasurementReport(ctx, &pvalue->measurementReport);
+      RT_CHECK(ctx, stat, 0, "measurementReport", -1, "SRNC-RelocationInfo-r3-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CipheringStatusCNdomain(rtxContext* RT_RESTRICT ctx, const CipheringStatusCNdomain* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CipheringStatusCNdomain");
+   /* cn-DomainIdentity */
+   if (pvalue->cn_DomainIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "CipheringStatusCNdomain");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "CipheringStatusCNdomain");
+   /* cipheringStatus */
+   if (pvalue->cipheringStatus > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cipheringStatus);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CipheringStatus", "cipheringStatus", -1, "CipheringStatusCNdomain");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cipheringStatus, 0, 1);
+   RT_CHECK(ctx, stat, "CipheringStatus", "cipheringStatus", -1, "CipheringStatusCNdomain");
+   return 0;
+}
+
+int asn1PE_UMTS_CipheringStatusList(rtxContext* RT_RESTRICT ctx, const CipheringStatusList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CipheringStatusList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CipheringStatusList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CipheringStatusCNdomain", (int32_t)i, "CipheringStatusList");
+      stat = asn1PE_UMTS_CipheringStatusCNdomain(ctx, (const CipheringStatusCNdomain*)node->data);
+      RT_CHECK(ctx, stat, 0, "CipheringStatusCNdomain", (int32_t)i, "CipheringStatusList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_v380ext_IEs(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_v380ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRNC-RelocationInfo-v380ext-IEs");
+   /* cn-DomainIdentity */
+   if (pvalue->cn_DomainIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "SRNC-RelocationInfo-v380ext-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "SRNC-RelocationInfo-v380ext-IEs");
+   /* cipheringStatusList */
+   stat = asn1PE_UMTS_CipheringStatusList(ctx, &pvalue->cipheringStatusList);
+   RT_CHECK(ctx, stat, 0, "cipheringStatusList", -1, "SRNC-RelocationInfo-v380ext-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_CN_DomainInformation_v390ext(rtxContext* RT_RESTRICT ctx, const CN_DomainInformation_v390ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CN-DomainInformation-v390ext");
+   /* cn-DRX-CycleLengthCoeff */
+   if ((uint64_t)(pvalue->cn_DRX_CycleLengthCoeff - 6) > 3u) {
+      rtxErrAddStrParm(ctx, "CN-DRX-CycleLengthCoefficient");
+      rtxErrAddUIntParm(ctx, pvalue->cn_DRX_CycleLengthCoeff);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "CN-DRX-CycleLengthCoefficient", "cn-DRX-CycleLengthCoeff", -1, "CN-DomainInformation-v390ext");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cn_DRX_CycleLengthCoeff, 6, 9);
+   RT_CHECK(ctx, stat, "CN-DRX-CycleLengthCoefficient", "cn-DRX-CycleLengthCoeff", -1, "CN-DomainInformation-v390ext");
+   return 0;
+}
+
+int asn1PE_UMTS_CN_DomainInformationList_v390ext(rtxContext* RT_RESTRICT ctx, const CN_DomainInformationList_v390ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CN-DomainInformationList-v390ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CN-DomainInformationList-v390ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CN-DomainInformation-v390ext", (int32_t)i, "CN-DomainInformationList-v390ext");
+      stat = asn1PE_UMTS_CN_DomainInformation_v390ext(ctx, (const CN_DomainInformation_v390ext*)node->data);
+      RT_CHECK(ctx, stat, 0, "CN-DomainInformation-v390ext", (int32_t)i, "CN-DomainInformationList-v390ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_v390ext_IEs(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_v390ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRNC-RelocationInfo-v390ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-v390ext-IEs");
+   /* cn-DomainInformationList-v390ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CN_DomainInformationList_v390ext(ctx, &pvalue->cn_DomainInformationList_v390ext);
+      RT_CHECK(ctx, stat, 0, "cn-DomainInformationList-v390ext", -1, "SRNC-RelocationInfo-v390ext-IEs");
+   }
+   /* ue-RadioAccessCapability-v370ext */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapability_v370ext(ctx, &pvalue->ue_RadioAccessCapability_v370ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v370ext", -1, "SRNC-RelocationInfo-v390ext-IEs");
+   }
+   /* ue-RadioAccessCapability-v380ext */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapability_v380ext(ctx, &pvalue->ue_RadioAccessCapability_v380ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v380ext", -1, "SRNC-RelocationInfo-v390ext-IEs");
+   }
+   /* dl-PhysChCapabilityFDD-v380ext */
+   stat = asn1PE_UMTS_DL_PhysChCapabilityFDD_v380ext(ctx, &pvalue->dl_PhysChCapabilityFDD_v380ext);
+   RT_CHECK(ctx, stat, 0, "dl-PhysChCapabilityFDD-v380ext", -1, "SRNC-RelocationInfo-v390ext-IEs");
+   /* failureCauseWithProtErr */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCauseWithProtErr);
+      RT_CHECK(ctx, stat, 0, "failureCauseWithProtErr", -1, "SRNC-RelocationInfo-v390ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CipheringInfoPerRB_List_v3a0ext(rtxContext* RT_RESTRICT ctx, const CipheringInfoPerRB_List_v3a0ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CipheringInfoPerRB-List-v3a0ext");
+   /* dl-UM-SN */
+   RT_SET_SIZE(ctx, 7, 7);
+   stat = pe_BitString32(ctx, &pvalue->dl_UM_SN, 7, 7);
+   RT_CHECK(ctx, stat, 0, "dl-UM-SN", -1, "CipheringInfoPerRB-List-v3a0ext");
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_v3a0ext_IEs(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_v3a0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRNC-RelocationInfo-v3a0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-v3a0ext-IEs");
+   /* cipheringInfoForSRB1-v3a0ext */
+   stat = asn1PE_UMTS_CipheringInfoPerRB_List_v3a0ext(ctx, &pvalue->cipheringInfoForSRB1_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "cipheringInfoForSRB1-v3a0ext", -1, "SRNC-RelocationInfo-v3a0ext-IEs");
+   /* ue-RadioAccessCapability-v3a0ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapability_v3a0ext(ctx, &pvalue->ue_RadioAccessCapability_v3a0ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v3a0ext", -1, "SRNC-RelocationInfo-v3a0ext-IEs");
+   }
+   /* startValueForCiphering-v3a0ext */
+   stat = asn1PE_UMTS_START_Value(ctx, pvalue->startValueForCiphering_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "startValueForCiphering-v3a0ext", -1, "SRNC-RelocationInfo-v3a0ext-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_STARTList2(rtxContext* RT_RESTRICT ctx, const STARTList2* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "STARTList2");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 2, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "STARTList2");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "STARTSingle", (int32_t)i, "STARTList2");
+      stat = asn1PE_UMTS_STARTSingle(ctx, (const STARTSingle*)node->data);
+      RT_CHECK(ctx, stat, 0, "STARTSingle", (int32_t)i, "STARTList2");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_v3b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_v3b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRNC-RelocationInfo-v3b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-v3b0ext-IEs");
+   /* cn-DomainIdentity */
+   if (pvalue->cn_DomainIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "SRNC-RelocationInfo-v3b0ext-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "SRNC-RelocationInfo-v3b0ext-IEs");
+   /* startValueForCiphering-v3b0ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_STARTList2(ctx, &pvalue->startValueForCiphering_v3b0ext);
+      RT_CHECK(ctx, stat, 0, "startValueForCiphering-v3b0ext", -1, "SRNC-RelocationInfo-v3b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_v3c0ext_IEs(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_v3c0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRNC-RelocationInfo-v3c0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-v3c0ext-IEs");
+   /* rb-IdentityForHOMessage */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->rb_IdentityForHOMessage - 1) > 31u) {
+         rtxErrAddStrParm(ctx, "RB-Identity");
+         rtxErrAddUIntParm(ctx, pvalue->rb_IdentityForHOMessage);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-IdentityForHOMessage", -1, "SRNC-RelocationInfo-v3c0ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->rb_IdentityForHOMessage, 1, 32);
+      RT_CHECK(ctx, stat, "RB-Identity", "rb-IdentityForHOMessage", -1, "SRNC-RelocationInfo-v3c0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_v3d0ext_IEs(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_v3d0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRNC-RelocationInfo-v3d0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-v3d0ext-IEs");
+   /* uESpecificBehaviourInformation1idle */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UESpecificBehaviourInformation1idle(ctx, pvalue->uESpecificBehaviourInformation1idle);
+      RT_CHECK(ctx, stat, 0, "uESpecificBehaviourInformation1idle", -1, "SRNC-RelocationInfo-v3d0ext-IEs");
+   }
+   /* uESpecificBehaviourInformation1interRAT */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UESpecificBehaviourInformation1interRAT(ctx, pvalue->uESpecificBehaviourInformation1interRAT);
+      RT_CHECK(ctx, stat, 0, "uESpecificBehaviourInformation1interRAT", -1, "SRNC-RelocationInfo-v3d0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TPC_Combination_Info(rtxContext* RT_RESTRICT ctx, const TPC_Combination_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TPC-Combination-Info");
+   /* primaryCPICH-Info */
+   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "TPC-Combination-Info");
+   /* tpc-CombinationIndex */
+   if ((uint64_t)pvalue->tpc_CombinationIndex > 5u) {
+      rtxErrAddStrParm(ctx, "TPC-CombinationIndex");
+      rtxErrAddUIntParm(ctx, pvalue->tpc_CombinationIndex);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, "TPC-Combination-Info");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->tpc_CombinationIndex, 0, 5);
+   RT_CHECK(ctx, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, "TPC-Combination-Info");
+   return 0;
+}
+
+int asn1PE_UMTS_TPC_CombinationInfoList(rtxContext* RT_RESTRICT ctx, const TPC_CombinationInfoList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TPC-CombinationInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "TPC-CombinationInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "TPC-Combination-Info", (int32_t)i, "TPC-CombinationInfoList");
+      stat = asn1PE_UMTS_TPC_Combination_Info(ctx, (const TPC_Combination_Info*)node->data);
+      RT_CHECK(ctx, stat, 0, "TPC-Combination-Info", (int32_t)i, "TPC-CombinationInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_v3h0ext_IEs_nonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_v3h0ext_IEs_nonCriticalExtension* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_v3h0ext_IEs(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_v3h0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRNC-RelocationInfo-v3h0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-v3h0ext-IEs");
+   /* tpc-CombinationInfoList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TPC_CombinationInfoList(ctx, &pvalue->tpc_CombinationInfoList);
+      RT_CHECK(ctx, stat, 0, "tpc-CombinationInfoList", -1, "SRNC-RelocationInfo-v3h0ext-IEs");
+   }
+   /* nonCriticalExtension */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_v3h0ext_IEs_nonCriticalExtension(ctx, &pvalue->nonCriticalExtension);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtension", -1, "SRNC-RelocationInfo-v3h0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_v3g0ext_IEs(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_v3g0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRNC-RelocationInfo-v3g0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-v3g0ext-IEs");
+   /* ue-RadioAccessCapability-v3g0ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapability_v3g0ext(ctx, &pvalue->ue_RadioAccessCapability_v3g0ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v3g0ext", -1, "SRNC-RelocationInfo-v3g0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRNC-RelocationInfo-v4b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-v4b0ext-IEs");
+   /* ue-RadioAccessCapability-v4b0ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapability_v4b0ext(ctx, &pvalue->ue_RadioAccessCapability_v4b0ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v4b0ext", -1, "SRNC-RelocationInfo-v4b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRNC-RelocationInfo-v590ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-v590ext-IEs");
+   /* ue-RadioAccessCapability-v590ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapability_v590ext(ctx, &pvalue->ue_RadioAccessCapability_v590ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v590ext", -1, "SRNC-RelocationInfo-v590ext-IEs");
+   }
+   /* ue-RATSpecificCapability-v590ext */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_InterRAT_UE_RadioAccessCapability_v590ext(ctx, &pvalue->ue_RATSpecificCapability_v590ext);
+      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability-v590ext", -1, "SRNC-RelocationInfo-v590ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_StoredTGP_Sequence_current_tgps_Status_active(rtxContext* RT_RESTRICT ctx, const StoredTGP_Sequence_current_tgps_Status_active* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tgcfn */
+   stat = pe_ConsUInt64(ctx, pvalue->tgcfn, 0, 255);
+   RT_CHECK(ctx, stat, "TGCFN", "tgcfn", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_StoredTGP_Sequence_current_tgps_Status(rtxContext* RT_RESTRICT ctx, const StoredTGP_Sequence_current_tgps_Status* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.active == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "active", -1, 0);
+         stat = asn1PE_UMTS_StoredTGP_Sequence_current_tgps_Status_active(ctx, pvalue->u.active);
+         RT_CHECK(ctx, stat, 0, "active", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_StoredTGP_Sequence(rtxContext* RT_RESTRICT ctx, const StoredTGP_Sequence* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "StoredTGP-Sequence");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "StoredTGP-Sequence");
+   /* tgpsi */
+   if ((uint64_t)(pvalue->tgpsi - 1) > 5u) {
+      rtxErrAddStrParm(ctx, "TGPSI");
+      rtxErrAddUIntParm(ctx, pvalue->tgpsi);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TGPSI", "tgpsi", -1, "StoredTGP-Sequence");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->tgpsi, 1, 6);
+   RT_CHECK(ctx, stat, "TGPSI", "tgpsi", -1, "StoredTGP-Sequence");
+   /* current-tgps-Status */
+   stat = asn1PE_UMTS_StoredTGP_Sequence_current_tgps_Status(ctx, &pvalue->current_tgps_Status);
+   RT_CHECK(ctx, stat, 0, "current-tgps-Status", -1, "StoredTGP-Sequence");
+   /* tgps-ConfigurationParams */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TGPS_ConfigurationParams(ctx, &pvalue->tgps_ConfigurationParams);
+      RT_CHECK(ctx, stat, 0, "tgps-ConfigurationParams", -1, "StoredTGP-Sequence");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_StoredTGP_SequenceList(rtxContext* RT_RESTRICT ctx, const StoredTGP_SequenceList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "StoredTGP-SequenceList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 6);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "StoredTGP-SequenceList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "StoredTGP-Sequence", (int32_t)i, "StoredTGP-SequenceList");
+      stat = asn1PE_UMTS_StoredTGP_Sequence(ctx, (const StoredTGP_Sequence*)node->data);
+      RT_CHECK(ctx, stat, 0, "StoredTGP-Sequence", (int32_t)i, "StoredTGP-SequenceList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CodeChangeStatus(rtxContext* RT_RESTRICT ctx, const CodeChangeStatus* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CodeChangeStatus");
+   /* primaryCPICH-Info */
+   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "CodeChangeStatus");
+   /* scramblingCodeChange */
+   if (pvalue->scramblingCodeChange > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->scramblingCodeChange);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ScramblingCodeChange", "scramblingCodeChange", -1, "CodeChangeStatus");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->scramblingCodeChange, 0, 1);
+   RT_CHECK(ctx, stat, "ScramblingCodeChange", "scramblingCodeChange", -1, "CodeChangeStatus");
+   return 0;
+}
+
+int asn1PE_UMTS_CodeChangeStatusList(rtxContext* RT_RESTRICT ctx, const CodeChangeStatusList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CodeChangeStatusList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CodeChangeStatusList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CodeChangeStatus", (int32_t)i, "CodeChangeStatusList");
+      stat = asn1PE_UMTS_CodeChangeStatus(ctx, (const CodeChangeStatus*)node->data);
+      RT_CHECK(ctx, stat, 0, "CodeChangeStatus", (int32_t)i, "CodeChangeStatusList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_StoredCompressedModeInfo(rtxContext* RT_RESTRICT ctx, const StoredCompressedModeInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "StoredCompressedModeInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "StoredCompressedModeInfo");
+   /* storedTGP-SequenceList */
+   stat = asn1PE_UMTS_StoredTGP_SequenceList(ctx, &pvalue->storedTGP_SequenceList);
+   RT_CHECK(ctx, stat, 0, "storedTGP-SequenceList", -1, "StoredCompressedModeInfo");
+   /* codeChangeStatusList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CodeChangeStatusList(ctx, &pvalue->codeChangeStatusList);
+      RT_CHECK(ctx, stat, 0, "codeChangeStatusList", -1, "StoredCompressedModeInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_v5a0ext_IEs(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_v5a0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRNC-RelocationInfo-v5a0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-v5a0ext-IEs");
+   /* storedCompressedModeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_StoredCompressedModeInfo(ctx, &pvalue->storedCompressedModeInfo);
+      RT_CHECK(ctx, stat, 0, "storedCompressedModeInfo", -1, "SRNC-RelocationInfo-v5a0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_v5b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_v5b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRNC-RelocationInfo-v5b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-v5b0ext-IEs");
+   /* interRATCellInfoIndication */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->interRATCellInfoIndication > 3u) {
+         rtxErrAddStrParm(ctx, "InterRATCellInfoIndication");
+         rtxErrAddUIntParm(ctx, pvalue->interRATCellInfoIndication);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterRATCellInfoIndication", "interRATCellInfoIndication", -1, "SRNC-RelocationInfo-v5b0ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->interRATCellInfoIndication, 0, 3);
+      RT_CHECK(ctx, stat, "InterRATCellInfoIndication", "interRATCellInfoIndication", -1, "SRNC-RelocationInfo-v5b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_v5c0ext_IEs(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_v5c0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRNC-RelocationInfo-v5c0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-v5c0ext-IEs");
+   /* ue-RadioAccessCapability-v5c0ext */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapability_v5c0ext(ctx, &pvalue->ue_RadioAccessCapability_v5c0ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v5c0ext", -1, "SRNC-RelocationInfo-v5c0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqReportingCriteria_r6_ext(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingCriteria_r6_ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqReportingCriteria-r6-ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqReportingCriteria-r6-ext");
+   /* event */
+   stat = asn1PE_UMTS_Event1j_r6(ctx, &pvalue->event);
+   RT_CHECK(ctx, stat, 0, "event", -1, "IntraFreqReportingCriteria-r6-ext");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 15u) {
+      rtxErrAddStrParm(ctx, "Hysteresis");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "Hysteresis", "hysteresis", -1, "IntraFreqReportingCriteria-r6-ext");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 15);
+   RT_CHECK(ctx, stat, "Hysteresis", "hysteresis", -1, "IntraFreqReportingCriteria-r6-ext");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqReportingCriteria-r6-ext");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqReportingCriteria-r6-ext");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "IntraFreqReportingCriteria-r6-ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRNC-RelocationInfo-v690ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 0), 7);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-v690ext-IEs");
+   /* ueCapabilityContainer */
+   if (pvalue->m & 0x1u) {
+      {
+         rtxContext outer;
+         const uint8_t* data;
+         uint32_t len;
+         rtxCopyContext(&outer, ctx);
+         stat = rtxInitContextBuffer(ctx, 0, 0);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer", -1, "SRNC-RelocationInfo-v690ext-IEs");
+         stat = asn1PE_UMTS_UE_CapabilityContainer_IEs(ctx, &pvalue->ueCapabilityContainer);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer", -1, "SRNC-RelocationInfo-v690ext-IEs");
+         data = ctx->buffer_data;
+         len = ctx->byte_index * 8 + 8 - ctx->bit_offset;
+         rtxCopyContext(ctx, &outer);
+         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+         stat = pe_BitString(ctx, len, data);
+         rtxMemHeapFreePtr(ctx, (void*)data);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer", -1, "SRNC-RelocationInfo-v690ext-IEs");
+      }
+   }
+   /* ueCapabilityContainer-RSC */
+   if (pvalue->m & 0x2u) {
+      {
+         rtxContext outer;
+         const uint8_t* data;
+         uint32_t len;
+         rtxCopyContext(&outer, ctx);
+         stat = rtxInitContextBuffer(ctx, 0, 0);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-RSC", -1, "SRNC-RelocationInfo-v690ext-IEs");
+         stat = asn1PE_UMTS_RRCConnectionSetupComplete_r3_add_ext_IEs(ctx, &pvalue->ueCapabilityContainer_RSC);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-RSC", -1, "SRNC-RelocationInfo-v690ext-IEs");
+         data = ctx->buffer_data;
+         len = ctx->byte_index * 8 + 8 - ctx->bit_offset;
+         rtxCopyContext(ctx, &outer);
+         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+         stat = pe_BitString(ctx, len, data);
+         rtxMemHeapFreePtr(ctx, (void*)data);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-RSC", -1, "SRNC-RelocationInfo-v690ext-IEs");
+      }
+   }
+   /* ueCapabilityContainer-UCI */
+   if (pvalue->m & 0x4u) {
+      {
+         rtxContext outer;
+         const uint8_t* data;
+         uint32_t len;
+         rtxCopyContext(&outer, ctx);
+         stat = rtxInitContextBuffer(ctx, 0, 0);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-UCI", -1, "SRNC-RelocationInfo-v690ext-IEs");
+         stat = asn1PE_UMTS_UECapabilityInformation_r3_add_ext_IEs(ctx, &pvalue->ueCapabilityContainer_UCI);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-UCI", -1, "SRNC-RelocationInfo-v690ext-IEs");
+         data = ctx->buffer_data;
+         len = ctx->byte_index * 8 + 8 - ctx->bit_offset;
+         rtxCopyContext(ctx, &outer);
+         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+         stat = pe_BitString(ctx, len, data);
+         rtxMemHeapFreePtr(ctx, (void*)data);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-UCI", -1, "SRNC-RelocationInfo-v690ext-IEs");
+      }
+   }
+   /* rab-InformationSetupList */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_RAB_InformationSetupList_r6_ext(ctx, &pvalue->rab_InformationSetupList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupList", -1, "SRNC-RelocationInfo-v690ext-IEs");
+   }
+   /* measuredResultsOnRACHinterFreq */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_MeasuredResultsOnRACHinterFreq(ctx, &pvalue->measuredResultsOnRACHinterFreq);
+      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACHinterFreq", -1, "SRNC-RelocationInfo-v690ext-IEs");
+   }
+   /* mbms-JoinedInformation */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_MBMS_JoinedInformation_r6(ctx, &pvalue->mbms_JoinedInformation);
+      RT_CHECK(ctx, stat, 0, "mbms-JoinedInformation", -1, "SRNC-RelocationInfo-v690ext-IEs");
+   }
+   /* intraFreqReportingCriteria */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_IntraFreqReportingCriteria_r6_ext(ctx, &pvalue->intraFreqReportingCriteria);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "SRNC-RelocationInfo-v690ext-IEs");
+   }
+   return stat;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_v6b0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRNC-RelocationInfo-v6b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-v6b0ext-IEs");
+   /* rab-InformationSetupListExt */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RAB_InformationSetupList_v6b0ext(ctx, &pvalue->rab_InformationSetupListExt);
+      RT_CHECK(ctx, stat, 0, "rab-InformationSetupListExt", -1, "SRNC-RelocationInfo-v6b0ext-IEs");
+   }
+   /* mbmsSelectedServiceInfo */
+   stat = asn1PE_UMTS_MBMS_SelectedServiceInfo(ctx, &pvalue->mbmsSelectedServiceInfo);
+   RT_CHECK(ctx, stat, 0, "mbmsSelectedServiceInfo", -1, "SRNC-RelocationInfo-v6b0ext-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRNC-RelocationInfo-v770ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-v770ext-IEs");
+   /* thresholdSFN-GPS-TOW-us */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->thresholdSFN_GPS_TOW_us > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->thresholdSFN_GPS_TOW_us);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "ThresholdSFN-GPS-TOW-us", "thresholdSFN-GPS-TOW-us", -1, "SRNC-RelocationInfo-v770ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->thresholdSFN_GPS_TOW_us, 0, 7);
+      RT_CHECK(ctx, stat, "ThresholdSFN-GPS-TOW-us", "thresholdSFN-GPS-TOW-us", -1, "SRNC-RelocationInfo-v770ext-IEs");
+   }
+   /* srns-t-305 */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->srns_t_305 > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->srns_t_305);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "T-305", "srns-t-305", -1, "SRNC-RelocationInfo-v770ext-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->srns_t_305, 0, 7);
+      RT_CHECK(ctx, stat, "T-305", "srns-t-305", -1, "SRNC-RelocationInfo-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_v7e0ext_IEs(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_v7e0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRNC-RelocationInfo-v7e0ext-IEs");
+   /* ue-RadioAccessCapability */
+   stat = asn1PE_UMTS_UE_RadioAccessCapability_v7e0ext(ctx, &pvalue->ue_RadioAccessCapability);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "SRNC-RelocationInfo-v7e0ext-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_v7f0ext_IEs(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_v7f0ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRNC-RelocationInfo-v7f0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-v7f0ext-IEs");
+   /* ue-RadioAccessCapability */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapability_v7f0ext(ctx, &pvalue->ue_RadioAccessCapability);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "SRNC-RelocationInfo-v7f0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v7f0ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v7f0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v7f0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v7e0ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v7e0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v7e0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v7e0ext", -1, 0);
+   /* v7f0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v770ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v770ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v770ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v770ext", -1, 0);
+   /* v7e0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions(ctx, &pvalue->v7e0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7e0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v6b0ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v6b0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v6b0ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v690ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v690ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v690ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v690ext", -1, 0);
+   /* v6b0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v5c0ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v5c0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v5c0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v5c0ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v5b0ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v5b0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v5b0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v5b0ext", -1, 0);
+   /* v5c0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions(ctx, &pvalue->v5c0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v5c0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v5a0ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v5a0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v5a0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v5a0ext", -1, 0);
+   /* v5b0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions(ctx, &pvalue->v5b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v5b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v590ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v590ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v590ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v590ext", -1, 0);
+   /* v5a0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions(ctx, &pvalue->v5a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v5a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v4b0ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v4b0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v4b0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v4b0ext", -1, 0);
+   /* v590NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v3g0ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v3g0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v3g0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v3g0ext", -1, 0);
+   /* v4b0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v3d0ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v3d0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v3d0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v3d0ext", -1, 0);
+   /* sRNC-RelocationInfo-r3-add-ext */
+   if (pvalue->m & 0x1u) {
+      {
+         rtxContext outer;
+         const uint8_t* data;
+         uint32_t len;
+         rtxCopyContext(&outer, ctx);
+         stat = rtxInitContextBuffer(ctx, 0, 0);
+         RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-r3-add-ext", -1, 0);
+         stat = asn1PE_UMTS_SRNC_RelocationInfo_v3h0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_r3_add_ext);
+         RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-r3-add-ext", -1, 0);
+         data = ctx->buffer_data;
+         len = ctx->byte_index * 8 + 8 - ctx->bit_offset;
+         rtxCopyContext(ctx, &outer);
+         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+         stat = pe_BitString(ctx, len, data);
+         rtxMemHeapFreePtr(ctx, (void*)data);
+         RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-r3-add-ext", -1, 0);
+      }
+   }
+   /* v3g0NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions_v3g0NonCriticalExtensions(ctx, &pvalue->v3g0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3g0NonCriticalExtensions", -1, 0);
+   }
+   return stat;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v3c0ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v3c0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v3c0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v3c0ext", -1, 0);
+   /* laterNonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v3b0ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v3b0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v3b0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v3b0ext", -1, 0);
+   /* v3c0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions_v3c0NonCriticalExtensions(ctx, &pvalue->v3c0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3c0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v3a0ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v3a0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v3a0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v3a0ext", -1, 0);
+   /* v3b0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions_v3b0NonCriticalExtensions(ctx, &pvalue->v3b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v390ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v390ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v390ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v390ext", -1, 0);
+   /* v3a0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v380ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v380ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v380ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v380ext", -1, 0);
+   /* v390NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions_v390NonCriticalExtensions(ctx, &pvalue->v390NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v390NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_r3(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-r3 */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_IEs(ctx, &pvalue->sRNC_RelocationInfo_r3);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-r3", -1, 0);
+   /* v380NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_r3_v380NonCriticalExtensions(ctx, &pvalue->v380NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v380NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CipheringStatusCNdomain_r4(rtxContext* RT_RESTRICT ctx, const CipheringStatusCNdomain_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CipheringStatusCNdomain-r4");
+   /* cn-DomainIdentity */
+   if (pvalue->cn_DomainIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "CipheringStatusCNdomain-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "CipheringStatusCNdomain-r4");
+   /* cipheringStatus */
+   if (pvalue->cipheringStatus > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cipheringStatus);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CipheringStatus", "cipheringStatus", -1, "CipheringStatusCNdomain-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->cipheringStatus, 0, 1);
+   RT_CHECK(ctx, stat, "CipheringStatus", "cipheringStatus", -1, "CipheringStatusCNdomain-r4");
+   /* start-Value */
+   stat = asn1PE_UMTS_START_Value(ctx, pvalue->start_Value);
+   RT_CHECK(ctx, stat, 0, "start-Value", -1, "CipheringStatusCNdomain-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_CipheringStatusList_r4(rtxContext* RT_RESTRICT ctx, const CipheringStatusList_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CipheringStatusList-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CipheringStatusList-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CipheringStatusCNdomain-r4", (int32_t)i, "CipheringStatusList-r4");
+      stat = asn1PE_UMTS_CipheringStatusCNdomain_r4(ctx, (const CipheringStatusCNdomain_r4*)node->data);
+      RT_CHECK(ctx, stat, 0, "CipheringStatusCNdomain-r4", (int32_t)i, "CipheringStatusList-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CipheringInfoPerRB_r4(rtxContext* RT_RESTRICT ctx, const CipheringInfoPerRB_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CipheringInfoPerRB-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CipheringInfoPerRB-r4");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "CipheringInfoPerRB-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "CipheringInfoPerRB-r4");
+   /* dl-HFN */
+   RT_SET_SIZE(ctx, 20, 25);
+   stat = pe_BitString32(ctx, &pvalue->dl_HFN, 20, 25);
+   RT_CHECK(ctx, stat, 0, "dl-HFN", -1, "CipheringInfoPerRB-r4");
+   /* dl-UM-SN */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 7, 7);
+      stat = pe_BitString32(ctx, &pvalue->dl_UM_SN, 7, 7);
+      RT_CHECK(ctx, stat, 0, "dl-UM-SN", -1, "CipheringInfoPerRB-r4");
+   }
+   /* ul-HFN */
+   RT_SET_SIZE(ctx, 20, 25);
+   stat = pe_BitString32(ctx, &pvalue->ul_HFN, 20, 25);
+   RT_CHECK(ctx, stat, 0, "ul-HFN", -1, "CipheringInfoPerRB-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_CipheringInfoPerRB_List_r4(rtxContext* RT_RESTRICT ctx, const CipheringInfoPerRB_List_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CipheringInfoPerRB-List-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CipheringInfoPerRB-List-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CipheringInfoPerRB-r4", (int32_t)i, "CipheringInfoPerRB-List-r4");
+      stat = asn1PE_UMTS_CipheringInfoPerRB_r4(ctx, (const CipheringInfoPerRB_r4*)node->data);
+      RT_CHECK(ctx, stat, 0, "CipheringInfoPerRB-r4", (int32_t)i, "CipheringInfoPerRB-List-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_Capability_r4_supportForRfc2507(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_r4_supportForRfc2507* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.supported > 4) {
+            rtxErrAddUIntParm(ctx, pvalue->u.supported);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxHcContextSpace", "supported", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.supported, 0, 4);
+         RT_CHECK(ctx, stat, "MaxHcContextSpace", "supported", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_Capability_r4_supportForRfc3095_supported(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_r4_supportForRfc3095_supported* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->maxROHC_ContextSessions != 4) << 1) |
+      ((uint64_t)(pvalue->reverseCompressionDepth != 0) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* maxROHC-ContextSessions */
+   if (pvalue->maxROHC_ContextSessions != 4) {
+      if (pvalue->maxROHC_ContextSessions > 13) {
+         rtxErrAddUIntParm(ctx, pvalue->maxROHC_ContextSessions);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MaxROHC-ContextSessions-r4", "maxROHC-ContextSessions", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->maxROHC_ContextSessions, 0, 13);
+      RT_CHECK(ctx, stat, "MaxROHC-ContextSessions-r4", "maxROHC-ContextSessions", -1, 0);
+   }
+   /* reverseCompressionDepth */
+   if (pvalue->reverseCompressionDepth != 0) {
+      stat = pe_ConsUInt64(ctx, pvalue->reverseCompressionDepth, 0, 65535);
+      RT_CHECK(ctx, stat, 0, "reverseCompressionDepth", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_Capability_r4_supportForRfc3095(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_r4_supportForRfc3095* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "supported", -1, 0);
+         stat = asn1PE_UMTS_PDCP_Capability_r4_supportForRfc3095_supported(ctx, pvalue->u.supported);
+         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_Capability_r4(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDCP-Capability-r4");
+   /* losslessSRNS-RelocationSupport */
+   stat = rtxEncBit(ctx, pvalue->losslessSRNS_RelocationSupport);
+   RT_CHECK(ctx, stat, 0, "losslessSRNS-RelocationSupport", -1, "PDCP-Capability-r4");
+   /* supportForRfc2507 */
+   stat = asn1PE_UMTS_PDCP_Capability_r4_supportForRfc2507(ctx, &pvalue->supportForRfc2507);
+   RT_CHECK(ctx, stat, 0, "supportForRfc2507", -1, "PDCP-Capability-r4");
+   /* supportForRfc3095 */
+   stat = asn1PE_UMTS_PDCP_Capability_r4_supportForRfc3095(ctx, &pvalue->supportForRfc3095);
+   RT_CHECK(ctx, stat, 0, "supportForRfc3095", -1, "PDCP-Capability-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_RF_Capability_r4_fddRF_Capability(rtxContext* RT_RESTRICT ctx, const RF_Capability_r4_fddRF_Capability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ue-PowerClass */
+   if (pvalue->ue_PowerClass > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->ue_PowerClass);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "UE-PowerClassExt", "ue-PowerClass", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ue_PowerClass, 0, 7);
+   RT_CHECK(ctx, stat, "UE-PowerClassExt", "ue-PowerClass", -1, 0);
+   /* txRxFrequencySeparation */
+   if (pvalue->txRxFrequencySeparation > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->txRxFrequencySeparation);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TxRxFrequencySeparation", "txRxFrequencySeparation", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->txRxFrequencySeparation, 0, 2);
+   RT_CHECK(ctx, stat, "TxRxFrequencySeparation", "txRxFrequencySeparation", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RF_Capability_r4_tdd384_RF_Capability(rtxContext* RT_RESTRICT ctx, const RF_Capability_r4_tdd384_RF_Capability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ue-PowerClass */
+   if (pvalue->ue_PowerClass > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->ue_PowerClass);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "UE-PowerClassExt", "ue-PowerClass", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ue_PowerClass, 0, 7);
+   RT_CHECK(ctx, stat, "UE-PowerClassExt", "ue-PowerClass", -1, 0);
+   /* radioFrequencyBandTDDList */
+   if (pvalue->radioFrequencyBandTDDList > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandTDDList);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandTDDList", "radioFrequencyBandTDDList", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandTDDList, 0, 7);
+   RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList", "radioFrequencyBandTDDList", -1, 0);
+   /* chipRateCapability */
+   if (pvalue->chipRateCapability > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->chipRateCapability);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ChipRateCapability", "chipRateCapability", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->chipRateCapability, 0, 1);
+   RT_CHECK(ctx, stat, "ChipRateCapability", "chipRateCapability", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RF_Capability_r4_tdd128_RF_Capability(rtxContext* RT_RESTRICT ctx, const RF_Capability_r4_tdd128_RF_Capability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ue-PowerClass */
+   if (pvalue->ue_PowerClass > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->ue_PowerClass);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "UE-PowerClassExt", "ue-PowerClass", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ue_PowerClass, 0, 7);
+   RT_CHECK(ctx, stat, "UE-PowerClassExt", "ue-PowerClass", -1, 0);
+   /* radioFrequencyBandTDDList */
+   if (pvalue->radioFrequencyBandTDDList > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandTDDList);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandTDDList", "radioFrequencyBandTDDList", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandTDDList, 0, 7);
+   RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList", "radioFrequencyBandTDDList", -1, 0);
+   /* chipRateCapability */
+   if (pvalue->chipRateCapability > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->chipRateCapability);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "ChipRateCapability", "chipRateCapability", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->chipRateCapability, 0, 1);
+   RT_CHECK(ctx, stat, "ChipRateCapability", "chipRateCapability", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RF_Capability_r4(rtxContext* RT_RESTRICT ctx, const RF_Capability_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RF-Capability-r4");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat);
-   /* pagingRecordList */
+   RT_CHECK(ctx, stat, 0, 0, -1, "RF-Capability-r4");
+   /* fddRF-Capability */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pagingRecordList");
-      stat = asn1PE_UMTS_PagingRecordList(ctx, &pvalue->pagingRecordList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RF_Capability_r4_fddRF_Capability(ctx, &pvalue->fddRF_Capability);
+      RT_CHECK(ctx, stat, 0, "fddRF-Capability", -1, "RF-Capability-r4");
    }
-   /* bcch-ModificationInfo */
+   /* tdd384-RF-Capability */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "bcch-ModificationInfo");
-      stat = asn1PE_UMTS_BCCH_ModificationInfo(ctx, &pvalue->bcch_ModificationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RF_Capability_r4_tdd384_RF_Capability(ctx, &pvalue->tdd384_RF_Capability);
+      RT_CHECK(ctx, stat, 0, "tdd384-RF-Capability", -1, "RF-Capability-r4");
    }
-   /* laterNonCriticalExtensions */
+   /* tdd128-RF-Capability */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      stat = asn1PE_UMTS_PagingType1_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PagingType2_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const PagingType2_laterNonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_PagingType2_laterNonCriticalExtensions(rtxContext* ctx, const PagingType2_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* pagingType2-r3-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "pagingType2-r3-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->pagingType2_r3_add_ext.numbits, pvalue->pagingType2_r3_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_PagingType2_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RF_Capability_r4_tdd128_RF_Capability(ctx, &pvalue->tdd128_RF_Capability);
+      RT_CHECK(ctx, stat, 0, "tdd128-RF-Capability", -1, "RF-Capability-r4");
    }
    return 0;
 }
 
-int asn1PE_UMTS_PagingType2(rtxContext* ctx, const PagingType2* pvalue)
+int asn1PE_UMTS_DL_PhysChCapabilityFDD_r4(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityFDD_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PagingType2");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-PhysChCapabilityFDD-r4");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-PhysChCapabilityFDD-r4");
+   /* maxNoDPCH-PDSCH-Codes */
+   if ((uint64_t)(pvalue->maxNoDPCH_PDSCH_Codes - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "maxNoDPCH-PDSCH-Codes");
+      rtxErrAddUIntParm(ctx, pvalue->maxNoDPCH_PDSCH_Codes);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "maxNoDPCH-PDSCH-Codes", -1, "DL-PhysChCapabilityFDD-r4");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* pagingCause */
-   rtxCtxtPushElemName(ctx, "pagingCause");
-   rtxCtxtPushTypeName(ctx, "PagingCause");
-   if (pvalue->pagingCause > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->pagingCause);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+   stat = pe_ConsUInt64(ctx, pvalue->maxNoDPCH_PDSCH_Codes, 1, 8);
+   RT_CHECK(ctx, stat, 0, "maxNoDPCH-PDSCH-Codes", -1, "DL-PhysChCapabilityFDD-r4");
+   /* maxNoPhysChBitsReceived */
+   if (pvalue->maxNoPhysChBitsReceived > 14) {
+      rtxErrAddUIntParm(ctx, pvalue->maxNoPhysChBitsReceived);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNoPhysChBitsReceived", "maxNoPhysChBitsReceived", -1, "DL-PhysChCapabilityFDD-r4");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->pagingCause, 0, 7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* cn-DomainIdentity */
-   rtxCtxtPushElemName(ctx, "cn-DomainIdentity");
-   rtxCtxtPushTypeName(ctx, "CN-DomainIdentity");
-   if (pvalue->cn_DomainIdentity > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* pagingRecordTypeID */
-   rtxCtxtPushElemName(ctx, "pagingRecordTypeID");
-   rtxCtxtPushTypeName(ctx, "PagingRecordTypeID");
-   if (pvalue->pagingRecordTypeID > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->pagingRecordTypeID);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pagingRecordTypeID, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* laterNonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      stat = asn1PE_UMTS_PagingType2_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo_fdd(rtxContext* ctx, const PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
+   stat = pe_ConsUInt64(ctx, pvalue->maxNoPhysChBitsReceived, 0, 14);
+   RT_CHECK(ctx, stat, "MaxNoPhysChBitsReceived", "maxNoPhysChBitsReceived", -1, "DL-PhysChCapabilityFDD-r4");
+   /* supportForSF-512 */
+   stat = rtxEncBit(ctx, pvalue->supportForSF_512);
+   RT_CHECK(ctx, stat, 0, "supportForSF-512", -1, "DL-PhysChCapabilityFDD-r4");
    /* dummy */
+   stat = rtxEncBit(ctx, pvalue->dummy);
+   RT_CHECK(ctx, stat, 0, "dummy", -1, "DL-PhysChCapabilityFDD-r4");
+   /* dummy2 */
+   stat = asn1PE_UMTS_SimultaneousSCCPCH_DPCH_Reception(ctx, &pvalue->dummy2);
+   RT_CHECK(ctx, stat, 0, "dummy2", -1, "DL-PhysChCapabilityFDD-r4");
+   /* dummy3 */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      stat = asn1PE_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if (pvalue->dummy3 > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->dummy3);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "SupportOfDedicatedPilotsForChEstimation", "dummy3", -1, "DL-PhysChCapabilityFDD-r4");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dummy3, 0, 0);
+      RT_CHECK(ctx, stat, "SupportOfDedicatedPilotsForChEstimation", "dummy3", -1, "DL-PhysChCapabilityFDD-r4");
    }
    return 0;
 }
 
-int asn1PE_UMTS_PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo(rtxContext* ctx, const PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo* pvalue)
+int asn1PE_UMTS_PhysicalChannelCapability_r4_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_r4_fddPhysChCapability* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* downlinkPhysChCapability */
+   stat = asn1PE_UMTS_DL_PhysChCapabilityFDD_r4(ctx, &pvalue->downlinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = asn1PE_UMTS_UL_PhysChCapabilityFDD(ctx, &pvalue->uplinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_PhysicalChannelReconfiguration_r3_IEs(rtxContext* ctx, const PhysicalChannelReconfiguration_r3_IEs* pvalue)
+int asn1PE_UMTS_PhysicalChannelCapability_r4_tdd384_PhysChCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_r4_tdd384_PhysChCapability* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration-r3-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* downlinkPhysChCapability */
+   stat = asn1PE_UMTS_DL_PhysChCapabilityTDD(ctx, &pvalue->downlinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = asn1PE_UMTS_UL_PhysChCapabilityTDD(ctx, &pvalue->uplinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_r4_tdd128_PhysChCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_r4_tdd128_PhysChCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* downlinkPhysChCapability */
+   stat = asn1PE_UMTS_DL_PhysChCapabilityTDD_LCR_r4(ctx, &pvalue->downlinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = asn1PE_UMTS_UL_PhysChCapabilityTDD_LCR_r4(ctx, &pvalue->uplinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_r4(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelCapability-r4");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 13) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 12) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 11) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 10) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 9) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 9) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 10) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 11) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 12) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 13) & 1u) << 0), 14);
-   RT_CHECK(ctx, stat);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* integrityProtectionModeInfo */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelCapability-r4");
+   /* fddPhysChCapability */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
-      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_PhysicalChannelCapability_r4_fddPhysChCapability(ctx, &pvalue->fddPhysChCapability);
+      RT_CHECK(ctx, stat, 0, "fddPhysChCapability", -1, "PhysicalChannelCapability-r4");
    }
-   /* cipheringModeInfo */
+   /* tdd384-PhysChCapability */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
-      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_PhysicalChannelCapability_r4_tdd384_PhysChCapability(ctx, &pvalue->tdd384_PhysChCapability);
+      RT_CHECK(ctx, stat, 0, "tdd384-PhysChCapability", -1, "PhysicalChannelCapability-r4");
    }
-   /* activationTime */
+   /* tdd128-PhysChCapability */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_PhysicalChannelCapability_r4_tdd128_PhysChCapability(ctx, &pvalue->tdd128_PhysChCapability);
+      RT_CHECK(ctx, stat, 0, "tdd128-PhysChCapability", -1, "PhysicalChannelCapability-r4");
    }
-   /* new-U-RNTI */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
-      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-C-RNTI */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
-      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
-   if (pvalue->rrc_StateIndicator > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* utran-DRX-CycleLengthCoeff */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
-      rtxCtxtPushTypeName(ctx, "UTRAN-DRX-CycleLengthCoefficient");
-      if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cn-InformationInfo */
-   if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      stat = asn1PE_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ura-Identity */
-   if (pvalue->m & 0x80u) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
-      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (pvalue->m & 0x100u) {
-      rtxCtxtPushElemName(ctx, "dl-CounterSynchronisationInfo");
-      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (pvalue->m & 0x200u) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (pvalue->m & 0x400u) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-ChannelRequirement */
-   if (pvalue->m & 0x800u) {
-      rtxCtxtPushElemName(ctx, "ul-ChannelRequirement");
-      stat = asn1PE_UMTS_UL_ChannelRequirementWithCPCH_SetID(ctx, &pvalue->ul_ChannelRequirement);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r3_IEs_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonInformation */
-   if (pvalue->m & 0x1000u) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-      stat = asn1PE_UMTS_DL_CommonInformation(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-InformationPerRL-List */
-   if (pvalue->m & 0x2000u) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-      stat = asn1PE_UMTS_DL_InformationPerRL_List(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PhysicalChannelReconfiguration_v3a0ext(rtxContext* ctx, const PhysicalChannelReconfiguration_v3a0ext* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration-v3a0ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* new-DSCH-RNTI */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
-      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_v4b0ext_IEs(rtxContext* ctx, const PhysicalChannelReconfiguration_v4b0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration-v4b0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      rtxCtxtPushTypeName(ctx, "SSDT-UL");
-      if (pvalue->dummy > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->dummy);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dummy, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cell-id-PerRL-List */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "cell-id-PerRL-List");
-      stat = asn1PE_UMTS_CellIdentity_PerRL_List(ctx, &pvalue->cell_id_PerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_v590ext_IEs(rtxContext* ctx, const PhysicalChannelReconfiguration_v590ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration-v590ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* dl-TPC-PowerOffsetPerRL-List */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-TPC-PowerOffsetPerRL-List");
-      stat = asn1PE_UMTS_DL_TPC_PowerOffsetPerRL_List(ctx, &pvalue->dl_TPC_PowerOffsetPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_v690ext_IEs_postVerificationPeriod(rtxContext* ctx, PhysicalChannelReconfiguration_v690ext_IEs_postVerificationPeriod value)
+int asn1PE_UMTS_UE_Positioning_Capability_r4_validity_CellPCH_UraPCH(rtxContext* RT_RESTRICT ctx, UE_Positioning_Capability_r4_validity_CellPCH_UraPCH value)
 {
    int stat = 0;
    if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
    stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_PhysicalChannelReconfiguration_v690ext_IEs(rtxContext* ctx, const PhysicalChannelReconfiguration_v690ext_IEs* pvalue)
+int asn1PE_UMTS_UE_Positioning_Capability_r4_sfn_sfnType2Capability(rtxContext* RT_RESTRICT ctx, UE_Positioning_Capability_r4_sfn_sfnType2Capability value)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration-v690ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 0), 8);
-   RT_CHECK(ctx, stat);
-   /* delayRestrictionFlag */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "delayRestrictionFlag");
-      rtxCtxtPushTypeName(ctx, "DelayRestrictionFlag");
-      if (pvalue->delayRestrictionFlag > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->delayRestrictionFlag);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->delayRestrictionFlag, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
-   /* primary-plmn-Identity */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "primary-plmn-Identity");
-      stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* harq-Preamble-Mode */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "harq-Preamble-Mode");
-      rtxCtxtPushTypeName(ctx, "HARQ-Preamble-Mode");
-      if ((uint64_t)pvalue->harq_Preamble_Mode > 1u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->harq_Preamble_Mode);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->harq_Preamble_Mode, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* beaconPLEst */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "beaconPLEst");
-      rtxCtxtPushTypeName(ctx, "BEACON-PL-Est");
-      if (pvalue->beaconPLEst > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->beaconPLEst);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->beaconPLEst, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* postVerificationPeriod */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "postVerificationPeriod");
-      if (pvalue->postVerificationPeriod > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->postVerificationPeriod);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->postVerificationPeriod, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dhs-sync */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "dhs-sync");
-      rtxCtxtPushTypeName(ctx, "DHS-Sync");
-      if (pvalue->dhs_sync < -20 || pvalue->dhs_sync > 10) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->dhs_sync);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->dhs_sync, -20, 10);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* timingMaintainedSynchInd */
-   if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "timingMaintainedSynchInd");
-      rtxCtxtPushTypeName(ctx, "TimingMaintainedSynchInd");
-      if (pvalue->timingMaintainedSynchInd > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->timingMaintainedSynchInd);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->timingMaintainedSynchInd, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (pvalue->m & 0x80u) {
-      rtxCtxtPushElemName(ctx, "mbms-PL-ServiceRestrictInfo");
-      rtxCtxtPushTypeName(ctx, "MBMS-PL-ServiceRestrictInfo-r6");
-      if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_PhysicalChannelReconfiguration_v770ext_IEs(rtxContext* ctx, const PhysicalChannelReconfiguration_v770ext_IEs* pvalue)
+int asn1PE_UMTS_UE_Positioning_Capability_r4(rtxContext* RT_RESTRICT ctx, const UE_Positioning_Capability_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration-v770ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ueMobilityStateIndicator */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ueMobilityStateIndicator");
-      rtxCtxtPushTypeName(ctx, "High-MobilityDetected");
-      if (pvalue->ueMobilityStateIndicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->ueMobilityStateIndicator);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ueMobilityStateIndicator, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, const PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v770ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v770ext");
-   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v770ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* ctx, const PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v690ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v690ext");
-   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v690ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v770NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions(rtxContext* ctx, const PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v590ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v590ext");
-   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v590ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v690NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions(rtxContext* ctx, const PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v4b0ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v4b0ext");
-   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v4b0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v4b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v590NonCriticalExtenstions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtenstions");
-      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions_v590NonCriticalExtenstions(ctx, &pvalue->v590NonCriticalExtenstions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* ctx, const PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-Capability-r4");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-r3-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-r3-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->physicalChannelReconfiguration_r3_add_ext.numbits, pvalue->physicalChannelReconfiguration_r3_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Capability-r4");
+   /* standaloneLocMethodsSupported */
+   stat = rtxEncBit(ctx, pvalue->standaloneLocMethodsSupported);
+   RT_CHECK(ctx, stat, 0, "standaloneLocMethodsSupported", -1, "UE-Positioning-Capability-r4");
+   /* ue-BasedOTDOA-Supported */
+   stat = rtxEncBit(ctx, pvalue->ue_BasedOTDOA_Supported);
+   RT_CHECK(ctx, stat, 0, "ue-BasedOTDOA-Supported", -1, "UE-Positioning-Capability-r4");
+   /* networkAssistedGPS-Supported */
+   if (pvalue->networkAssistedGPS_Supported > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->networkAssistedGPS_Supported);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "NetworkAssistedGPS-Supported", "networkAssistedGPS-Supported", -1, "UE-Positioning-Capability-r4");
    }
-   /* v4b0NonCriticalExtenstions */
+   stat = pe_ConsUInt64(ctx, pvalue->networkAssistedGPS_Supported, 0, 3);
+   RT_CHECK(ctx, stat, "NetworkAssistedGPS-Supported", "networkAssistedGPS-Supported", -1, "UE-Positioning-Capability-r4");
+   /* supportForUE-GPS-TimingOfCellFrames */
+   stat = rtxEncBit(ctx, pvalue->supportForUE_GPS_TimingOfCellFrames);
+   RT_CHECK(ctx, stat, 0, "supportForUE-GPS-TimingOfCellFrames", -1, "UE-Positioning-Capability-r4");
+   /* supportForIPDL */
+   stat = rtxEncBit(ctx, pvalue->supportForIPDL);
+   RT_CHECK(ctx, stat, 0, "supportForIPDL", -1, "UE-Positioning-Capability-r4");
+   /* rx-tx-TimeDifferenceType2Capable */
+   stat = rtxEncBit(ctx, pvalue->rx_tx_TimeDifferenceType2Capable);
+   RT_CHECK(ctx, stat, 0, "rx-tx-TimeDifferenceType2Capable", -1, "UE-Positioning-Capability-r4");
+   /* validity-CellPCH-UraPCH */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->validity_CellPCH_UraPCH > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->validity_CellPCH_UraPCH);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "validity-CellPCH-UraPCH", -1, "UE-Positioning-Capability-r4");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->validity_CellPCH_UraPCH, 0, 0);
+      RT_CHECK(ctx, stat, 0, "validity-CellPCH-UraPCH", -1, "UE-Positioning-Capability-r4");
+   }
+   /* sfn-sfnType2Capability */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v4b0NonCriticalExtenstions");
-      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtenstions(ctx, &pvalue->v4b0NonCriticalExtenstions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if (pvalue->sfn_sfnType2Capability > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->sfn_sfnType2Capability);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "sfn-sfnType2Capability", -1, "UE-Positioning-Capability-r4");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->sfn_sfnType2Capability, 0, 0);
+      RT_CHECK(ctx, stat, 0, "sfn-sfnType2Capability", -1, "UE-Positioning-Capability-r4");
    }
    return 0;
 }
 
-int asn1PE_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions(rtxContext* ctx, const PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_CompressedModeMeasCapability_r4(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapability_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapability-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CompressedModeMeasCapability-r4");
+   /* fdd-Measurements */
+   stat = rtxEncBit(ctx, pvalue->fdd_Measurements);
+   RT_CHECK(ctx, stat, 0, "fdd-Measurements", -1, "CompressedModeMeasCapability-r4");
+   /* tdd384-Measurements */
+   if (pvalue->m & 0x1u) {
+      stat = rtxEncBit(ctx, pvalue->tdd384_Measurements);
+      RT_CHECK(ctx, stat, 0, "tdd384-Measurements", -1, "CompressedModeMeasCapability-r4");
+   }
+   /* tdd128-Measurements */
+   if (pvalue->m & 0x2u) {
+      stat = rtxEncBit(ctx, pvalue->tdd128_Measurements);
+      RT_CHECK(ctx, stat, 0, "tdd128-Measurements", -1, "CompressedModeMeasCapability-r4");
+   }
+   /* gsm-Measurements */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_GSM_Measurements(ctx, &pvalue->gsm_Measurements);
+      RT_CHECK(ctx, stat, 0, "gsm-Measurements", -1, "CompressedModeMeasCapability-r4");
+   }
+   /* multiCarrierMeasurements */
+   if (pvalue->m & 0x8u) {
+      stat = rtxEncBit(ctx, pvalue->multiCarrierMeasurements);
+      RT_CHECK(ctx, stat, 0, "multiCarrierMeasurements", -1, "CompressedModeMeasCapability-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementCapability_r4(rtxContext* RT_RESTRICT ctx, const MeasurementCapability_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCapability-r4");
+   /* downlinkCompressedMode */
+   stat = asn1PE_UMTS_CompressedModeMeasCapability_r4(ctx, &pvalue->downlinkCompressedMode);
+   RT_CHECK(ctx, stat, 0, "downlinkCompressedMode", -1, "MeasurementCapability-r4");
+   /* uplinkCompressedMode */
+   stat = asn1PE_UMTS_CompressedModeMeasCapability_r4(ctx, &pvalue->uplinkCompressedMode);
+   RT_CHECK(ctx, stat, 0, "uplinkCompressedMode", -1, "MeasurementCapability-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_r4(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-r4");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v3a0ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v3a0ext");
-   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v3a0ext(ctx, &pvalue->physicalChannelReconfiguration_v3a0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* laterNonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-r4");
+   /* accessStratumReleaseIndicator */
+   if (pvalue->accessStratumReleaseIndicator > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->accessStratumReleaseIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "AccessStratumReleaseIndicator", "accessStratumReleaseIndicator", -1, "UE-RadioAccessCapability-r4");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->accessStratumReleaseIndicator, 0, 15);
+   RT_CHECK(ctx, stat, "AccessStratumReleaseIndicator", "accessStratumReleaseIndicator", -1, "UE-RadioAccessCapability-r4");
+   /* pdcp-Capability */
+   stat = asn1PE_UMTS_PDCP_Capability_r4(ctx, &pvalue->pdcp_Capability);
+   RT_CHECK(ctx, stat, 0, "pdcp-Capability", -1, "UE-RadioAccessCapability-r4");
+   /* rlc-Capability */
+   stat = asn1PE_UMTS_RLC_Capability(ctx, &pvalue->rlc_Capability);
+   RT_CHECK(ctx, stat, 0, "rlc-Capability", -1, "UE-RadioAccessCapability-r4");
+   /* transportChannelCapability */
+   stat = asn1PE_UMTS_TransportChannelCapability(ctx, &pvalue->transportChannelCapability);
+   RT_CHECK(ctx, stat, 0, "transportChannelCapability", -1, "UE-RadioAccessCapability-r4");
+   /* rf-Capability */
+   stat = asn1PE_UMTS_RF_Capability_r4(ctx, &pvalue->rf_Capability);
+   RT_CHECK(ctx, stat, 0, "rf-Capability", -1, "UE-RadioAccessCapability-r4");
+   /* physicalChannelCapability */
+   stat = asn1PE_UMTS_PhysicalChannelCapability_r4(ctx, &pvalue->physicalChannelCapability);
+   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapability-r4");
+   /* ue-MultiModeRAT-Capability */
+   stat = asn1PE_UMTS_UE_MultiModeRAT_Capability(ctx, &pvalue->ue_MultiModeRAT_Capability);
+   RT_CHECK(ctx, stat, 0, "ue-MultiModeRAT-Capability", -1, "UE-RadioAccessCapability-r4");
+   /* securityCapability */
+   stat = asn1PE_UMTS_SecurityCapability(ctx, &pvalue->securityCapability);
+   RT_CHECK(ctx, stat, 0, "securityCapability", -1, "UE-RadioAccessCapability-r4");
+   /* ue-positioning-Capability */
+   stat = asn1PE_UMTS_UE_Positioning_Capability_r4(ctx, &pvalue->ue_positioning_Capability);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-Capability", -1, "UE-RadioAccessCapability-r4");
+   /* measurementCapability */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_MeasurementCapability_r4(ctx, &pvalue->measurementCapability);
+      RT_CHECK(ctx, stat, 0, "measurementCapability", -1, "UE-RadioAccessCapability-r4");
    }
    return 0;
 }
 
-int asn1PE_UMTS_PhysicalChannelReconfiguration_r3(rtxContext* ctx, const PhysicalChannelReconfiguration_r3* pvalue)
+int asn1PE_UMTS_MeasurementCommandWithType_r4(rtxContext* RT_RESTRICT ctx, const MeasurementCommandWithType_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-r3 */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-r3");
-   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r3_IEs(ctx, &pvalue->physicalChannelReconfiguration_r3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v3a0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v3a0NonCriticalExtensions");
-      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r3_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo_fdd(rtxContext* ctx, const PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo_fdd* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      stat = asn1PE_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo(rtxContext* ctx, const PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCommandWithType-r4");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, "MeasurementCommandWithType-r4");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommandWithType-r4");
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.setup == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "setup", -1, "MeasurementCommandWithType-r4");
+         stat = asn1PE_UMTS_MeasurementType_r4(ctx, pvalue->u.setup);
+         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommandWithType-r4");
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
+         break;
+      case 3:
          break;
       default:
          break;
@@ -5946,327 +3750,95 @@ int asn1PE_UMTS_PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo(rtxContex
    return 0;
 }
 
-int asn1PE_UMTS_PhysicalChannelReconfiguration_r4_IEs(rtxContext* ctx, const PhysicalChannelReconfiguration_r4_IEs* pvalue)
+int asn1PE_UMTS_OngoingMeasRep_r4(rtxContext* RT_RESTRICT ctx, const OngoingMeasRep_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration-r4-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 14) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 13) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 12) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 11) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 10) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 9) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 9) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 10) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 11) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 12) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 13) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 14) & 1u) << 0), 15);
-   RT_CHECK(ctx, stat);
-   /* integrityProtectionModeInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
-      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cipheringModeInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
-      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* activationTime */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-U-RNTI */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
-      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-C-RNTI */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
-      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-DSCH-RNTI */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
-      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
-   if (pvalue->rrc_StateIndicator > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* utran-DRX-CycleLengthCoeff */
-   if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
-      rtxCtxtPushTypeName(ctx, "UTRAN-DRX-CycleLengthCoefficient");
-      if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cn-InformationInfo */
-   if (pvalue->m & 0x80u) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      stat = asn1PE_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ura-Identity */
-   if (pvalue->m & 0x100u) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
-      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (pvalue->m & 0x200u) {
-      rtxCtxtPushElemName(ctx, "dl-CounterSynchronisationInfo");
-      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (pvalue->m & 0x400u) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (pvalue->m & 0x800u) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-ChannelRequirement */
-   if (pvalue->m & 0x1000u) {
-      rtxCtxtPushElemName(ctx, "ul-ChannelRequirement");
-      stat = asn1PE_UMTS_UL_ChannelRequirementWithCPCH_SetID_r4(ctx, &pvalue->ul_ChannelRequirement);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r4_IEs_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-CommonInformation */
-   if (pvalue->m & 0x2000u) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-      stat = asn1PE_UMTS_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-InformationPerRL-List */
-   if (pvalue->m & 0x4000u) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-      stat = asn1PE_UMTS_DL_InformationPerRL_List_r4(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v770ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v770ext");
-   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v770ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v690ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v690ext");
-   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v690ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v770NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions(rtxContext* ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v590ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v590ext");
-   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v590ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v590ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v690NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "OngoingMeasRep-r4");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-r4-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-r4-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->physicalChannelReconfiguration_r4_add_ext.numbits, pvalue->physicalChannelReconfiguration_r4_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, "OngoingMeasRep-r4");
+   /* measurementIdentity */
+   if ((uint64_t)(pvalue->measurementIdentity - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "MeasurementIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->measurementIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementIdentity", "measurementIdentity", -1, "OngoingMeasRep-r4");
    }
-   /* v590NonCriticalExtenstions */
+   stat = pe_ConsUInt64(ctx, pvalue->measurementIdentity, 1, 16);
+   RT_CHECK(ctx, stat, "MeasurementIdentity", "measurementIdentity", -1, "OngoingMeasRep-r4");
+   /* measurementCommandWithType */
+   stat = asn1PE_UMTS_MeasurementCommandWithType_r4(ctx, &pvalue->measurementCommandWithType);
+   RT_CHECK(ctx, stat, 0, "measurementCommandWithType", -1, "OngoingMeasRep-r4");
+   /* measurementReportingMode */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
+      RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "OngoingMeasRep-r4");
+   }
+   /* additionalMeasurementID-List */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v590NonCriticalExtenstions");
-      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions(ctx, &pvalue->v590NonCriticalExtenstions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementID_List);
+      RT_CHECK(ctx, stat, 0, "additionalMeasurementID-List", -1, "OngoingMeasRep-r4");
    }
    return 0;
 }
 
-int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4(rtxContext* ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4* pvalue)
+int asn1PE_UMTS_OngoingMeasRepList_r4(rtxContext* RT_RESTRICT ctx, const OngoingMeasRepList_r4* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "OngoingMeasRepList-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "OngoingMeasRepList-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "OngoingMeasRep-r4", (int32_t)i, "OngoingMeasRepList-r4");
+      stat = asn1PE_UMTS_OngoingMeasRep_r4(ctx, (const OngoingMeasRep_r4*)node->data);
+      RT_CHECK(ctx, stat, 0, "OngoingMeasRep-r4", (int32_t)i, "OngoingMeasRepList-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r4_IEs_dummy_fdd(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r4_IEs_dummy_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-r4 */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-r4");
-   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r4_IEs(ctx, &pvalue->physicalChannelReconfiguration_r4);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v4d0NonCriticalExtensions */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy1 */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v4d0NonCriticalExtensions");
-      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if ((uint64_t)(pvalue->dummy1 - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "CPCH-SetID");
+         rtxErrAddUIntParm(ctx, pvalue->dummy1);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "CPCH-SetID", "dummy1", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dummy1, 1, 16);
+      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy1", -1, 0);
+   }
+   /* dummy2 */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo_fdd(rtxContext* ctx, const PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo_fdd* pvalue)
+int asn1PE_UMTS_SRNC_RelocationInfo_r4_IEs_dummy(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r4_IEs_dummy* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* dummy */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      stat = asn1PE_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo(rtxContext* ctx, const PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         rtxCtxtPushElemName(ctx, "fdd");
-         if (pvalue->u.fdd == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_SRNC_RelocationInfo_r4_IEs_dummy_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         rtxCtxtPushElemName(ctx, "tdd");
-         rtxCtxtPopElemName(ctx);
          break;
       default:
          break;
@@ -6274,272 +3846,10 @@ int asn1PE_UMTS_PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo(rtxContex
    return 0;
 }
 
-int asn1PE_UMTS_PhysicalChannelReconfiguration_r5_IEs(rtxContext* ctx, const PhysicalChannelReconfiguration_r5_IEs* pvalue)
+int asn1PE_UMTS_SRNC_RelocationInfo_r4_IEs(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r4_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration-r5-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 16) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 15) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 14) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 13) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 12) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 11) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 10) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 9) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 9) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 10) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 11) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 12) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 13) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 14) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 15) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 16) & 1u) << 0), 17);
-   RT_CHECK(ctx, stat);
-   /* integrityProtectionModeInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
-      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cipheringModeInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
-      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* activationTime */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-U-RNTI */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
-      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-C-RNTI */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
-      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-DSCH-RNTI */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
-      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-H-RNTI */
-   if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "new-H-RNTI");
-      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
-   if (pvalue->rrc_StateIndicator > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* utran-DRX-CycleLengthCoeff */
-   if (pvalue->m & 0x80u) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
-      rtxCtxtPushTypeName(ctx, "UTRAN-DRX-CycleLengthCoefficient");
-      if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cn-InformationInfo */
-   if (pvalue->m & 0x100u) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      stat = asn1PE_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ura-Identity */
-   if (pvalue->m & 0x200u) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
-      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (pvalue->m & 0x400u) {
-      rtxCtxtPushElemName(ctx, "dl-CounterSynchronisationInfo");
-      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (pvalue->m & 0x800u) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (pvalue->m & 0x1000u) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-ChannelRequirement */
-   if (pvalue->m & 0x2000u) {
-      rtxCtxtPushElemName(ctx, "ul-ChannelRequirement");
-      stat = asn1PE_UMTS_UL_ChannelRequirementWithCPCH_SetID_r5(ctx, &pvalue->ul_ChannelRequirement);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* modeSpecificInfo */
-   rtxCtxtPushElemName(ctx, "modeSpecificInfo");
-   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r5_IEs_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* dl-HSPDSCH-Information */
-   if (pvalue->m & 0x4000u) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      stat = asn1PE_UMTS_DL_HSPDSCH_Information(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonInformation */
-   if (pvalue->m & 0x8000u) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-      stat = asn1PE_UMTS_DL_CommonInformation_r5(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-InformationPerRL-List */
-   if (pvalue->m & 0x10000u) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-      stat = asn1PE_UMTS_DL_InformationPerRL_List_r5(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v770ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v770ext");
-   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v770ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions(rtxContext* ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v690ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v690ext");
-   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v690ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v690ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v770NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5(rtxContext* ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-r5 */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-r5");
-   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r5_IEs(ctx, &pvalue->physicalChannelReconfiguration_r5);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* physicalChannelReconfiguration-r5-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-r5-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->physicalChannelReconfiguration_r5_add_ext.numbits, pvalue->physicalChannelReconfiguration_r5_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v690NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v690NonCriticalExtensions");
-      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_r6_IEs(rtxContext* ctx, const PhysicalChannelReconfiguration_r6_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration-r6-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRNC-RelocationInfo-r4-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 21) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 20) |
@@ -6563,2475 +3873,4340 @@ int asn1PE_UMTS_PhysicalChannelReconfiguration_r6_IEs(rtxContext* ctx, const Phy
       ((uint64_t)((pvalue->m >> 19) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 20) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 21) & 1u) << 0), 22);
-   RT_CHECK(ctx, stat);
-   /* integrityProtectionModeInfo */
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-r4-IEs");
+   /* rb-IdentityForHOMessage */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
-      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if ((uint64_t)(pvalue->rb_IdentityForHOMessage - 1) > 31u) {
+         rtxErrAddStrParm(ctx, "RB-Identity");
+         rtxErrAddUIntParm(ctx, pvalue->rb_IdentityForHOMessage);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-IdentityForHOMessage", -1, "SRNC-RelocationInfo-r4-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->rb_IdentityForHOMessage, 1, 32);
+      RT_CHECK(ctx, stat, "RB-Identity", "rb-IdentityForHOMessage", -1, "SRNC-RelocationInfo-r4-IEs");
    }
-   /* cipheringModeInfo */
+   /* stateOfRRC */
+   if (pvalue->stateOfRRC > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->stateOfRRC);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "StateOfRRC", "stateOfRRC", -1, "SRNC-RelocationInfo-r4-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->stateOfRRC, 0, 3);
+   RT_CHECK(ctx, stat, "StateOfRRC", "stateOfRRC", -1, "SRNC-RelocationInfo-r4-IEs");
+   /* stateOfRRC-Procedure */
+   if (pvalue->stateOfRRC_Procedure > 11) {
+      rtxErrAddUIntParm(ctx, pvalue->stateOfRRC_Procedure);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "StateOfRRC-Procedure", "stateOfRRC-Procedure", -1, "SRNC-RelocationInfo-r4-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->stateOfRRC_Procedure, 0, 11);
+   RT_CHECK(ctx, stat, "StateOfRRC-Procedure", "stateOfRRC-Procedure", -1, "SRNC-RelocationInfo-r4-IEs");
+   /* cipheringStatusList */
+   stat = asn1PE_UMTS_CipheringStatusList_r4(ctx, &pvalue->cipheringStatusList);
+   RT_CHECK(ctx, stat, 0, "cipheringStatusList", -1, "SRNC-RelocationInfo-r4-IEs");
+   /* latestConfiguredCN-Domain */
+   if (pvalue->latestConfiguredCN_Domain > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->latestConfiguredCN_Domain);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "latestConfiguredCN-Domain", -1, "SRNC-RelocationInfo-r4-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->latestConfiguredCN_Domain, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "latestConfiguredCN-Domain", -1, "SRNC-RelocationInfo-r4-IEs");
+   /* calculationTimeForCiphering */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
-      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CalculationTimeForCiphering(ctx, &pvalue->calculationTimeForCiphering);
+      RT_CHECK(ctx, stat, 0, "calculationTimeForCiphering", -1, "SRNC-RelocationInfo-r4-IEs");
    }
-   /* activationTime */
+   /* count-C-List */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_COUNT_C_List(ctx, &pvalue->count_C_List);
+      RT_CHECK(ctx, stat, 0, "count-C-List", -1, "SRNC-RelocationInfo-r4-IEs");
    }
-   /* delayRestrictionFlag */
+   /* cipheringInfoPerRB-List */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "delayRestrictionFlag");
-      rtxCtxtPushTypeName(ctx, "DelayRestrictionFlag");
-      if (pvalue->delayRestrictionFlag > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->delayRestrictionFlag);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->delayRestrictionFlag, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CipheringInfoPerRB_List_r4(ctx, &pvalue->cipheringInfoPerRB_List);
+      RT_CHECK(ctx, stat, 0, "cipheringInfoPerRB-List", -1, "SRNC-RelocationInfo-r4-IEs");
    }
-   /* new-U-RNTI */
+   /* integrityProtectionStatus */
+   if (pvalue->integrityProtectionStatus > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->integrityProtectionStatus);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "IntegrityProtectionStatus", "integrityProtectionStatus", -1, "SRNC-RelocationInfo-r4-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->integrityProtectionStatus, 0, 1);
+   RT_CHECK(ctx, stat, "IntegrityProtectionStatus", "integrityProtectionStatus", -1, "SRNC-RelocationInfo-r4-IEs");
+   /* srb-SpecificIntegrityProtInfo */
+   stat = asn1PE_UMTS_SRB_SpecificIntegrityProtInfoList(ctx, &pvalue->srb_SpecificIntegrityProtInfo);
+   RT_CHECK(ctx, stat, 0, "srb-SpecificIntegrityProtInfo", -1, "SRNC-RelocationInfo-r4-IEs");
+   /* implementationSpecificParams */
    if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
-      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_ImplementationSpecificParams(ctx, &pvalue->implementationSpecificParams);
+      RT_CHECK(ctx, stat, 0, "implementationSpecificParams", -1, "SRNC-RelocationInfo-r4-IEs");
    }
-   /* new-C-RNTI */
+   /* u-RNTI */
+   stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, "SRNC-RelocationInfo-r4-IEs");
+   /* c-RNTI */
    if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
-      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->c_RNTI);
+      RT_CHECK(ctx, stat, 0, "c-RNTI", -1, "SRNC-RelocationInfo-r4-IEs");
    }
-   /* new-DSCH-RNTI */
+   /* ue-RadioAccessCapability */
+   stat = asn1PE_UMTS_UE_RadioAccessCapability_r4(ctx, &pvalue->ue_RadioAccessCapability);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "SRNC-RelocationInfo-r4-IEs");
+   /* ue-RadioAccessCapability-ext */
    if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
-      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UE_RadioAccessCapabBandFDDList(ctx, &pvalue->ue_RadioAccessCapability_ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-ext", -1, "SRNC-RelocationInfo-r4-IEs");
    }
-   /* new-H-RNTI */
+   /* ue-Positioning-LastKnownPos */
    if (pvalue->m & 0x80u) {
-      rtxCtxtPushElemName(ctx, "new-H-RNTI");
-      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UE_Positioning_LastKnownPos(ctx, &pvalue->ue_Positioning_LastKnownPos);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-LastKnownPos", -1, "SRNC-RelocationInfo-r4-IEs");
    }
-   /* newPrimary-E-RNTI */
+   /* uESpecificBehaviourInformation1idle */
    if (pvalue->m & 0x100u) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UESpecificBehaviourInformation1idle(ctx, pvalue->uESpecificBehaviourInformation1idle);
+      RT_CHECK(ctx, stat, 0, "uESpecificBehaviourInformation1idle", -1, "SRNC-RelocationInfo-r4-IEs");
    }
-   /* newSecondary-E-RNTI */
+   /* uESpecificBehaviourInformation1interRAT */
    if (pvalue->m & 0x200u) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UESpecificBehaviourInformation1interRAT(ctx, pvalue->uESpecificBehaviourInformation1interRAT);
+      RT_CHECK(ctx, stat, 0, "uESpecificBehaviourInformation1interRAT", -1, "SRNC-RelocationInfo-r4-IEs");
    }
-   /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
-   if (pvalue->rrc_StateIndicator > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* utran-DRX-CycleLengthCoeff */
+   /* ue-RATSpecificCapability */
    if (pvalue->m & 0x400u) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
-      rtxCtxtPushTypeName(ctx, "UTRAN-DRX-CycleLengthCoefficient");
-      if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cn-InformationInfo */
-   if (pvalue->m & 0x800u) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_InterRAT_UE_RadioAccessCapabilityList(ctx, &pvalue->ue_RATSpecificCapability);
+      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability", -1, "SRNC-RelocationInfo-r4-IEs");
    }
    /* ura-Identity */
-   if (pvalue->m & 0x1000u) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
+   if (pvalue->m & 0x800u) {
       stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "SRNC-RelocationInfo-r4-IEs");
    }
-   /* dl-CounterSynchronisationInfo */
+   /* cn-CommonGSM-MAP-NAS-SysInfo */
+   stat = asn1PE_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo);
+   RT_CHECK(ctx, stat, 0, "cn-CommonGSM-MAP-NAS-SysInfo", -1, "SRNC-RelocationInfo-r4-IEs");
+   /* cn-DomainInformationList */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_CN_DomainInformationListFull(ctx, &pvalue->cn_DomainInformationList);
+      RT_CHECK(ctx, stat, 0, "cn-DomainInformationList", -1, "SRNC-RelocationInfo-r4-IEs");
+   }
+   /* ongoingMeasRepList */
    if (pvalue->m & 0x2000u) {
-      rtxCtxtPushElemName(ctx, "dl-CounterSynchronisationInfo");
-      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_OngoingMeasRepList_r4(ctx, &pvalue->ongoingMeasRepList);
+      RT_CHECK(ctx, stat, 0, "ongoingMeasRepList", -1, "SRNC-RelocationInfo-r4-IEs");
    }
-   /* frequencyInfo */
+   /* predefinedConfigStatusList */
+   stat = asn1PE_UMTS_PredefinedConfigStatusList(ctx, &pvalue->predefinedConfigStatusList);
+   RT_CHECK(ctx, stat, 0, "predefinedConfigStatusList", -1, "SRNC-RelocationInfo-r4-IEs");
+   /* srb-InformationList */
+   stat = asn1PE_UMTS_SRB_InformationSetupList(ctx, &pvalue->srb_InformationList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationList", -1, "SRNC-RelocationInfo-r4-IEs");
+   /* rab-InformationList */
    if (pvalue->m & 0x4000u) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RAB_InformationSetupList_r4(ctx, &pvalue->rab_InformationList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationList", -1, "SRNC-RelocationInfo-r4-IEs");
    }
-   /* maxAllowedUL-TX-Power */
+   /* ul-CommonTransChInfo */
    if (pvalue->m & 0x8000u) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "SRNC-RelocationInfo-r4-IEs");
    }
-   /* ul-DPCH-Info */
+   /* ul-TransChInfoList */
    if (pvalue->m & 0x10000u) {
-      rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-      stat = asn1PE_UMTS_UL_DPCH_Info_r6(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_TransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-TransChInfoList", -1, "SRNC-RelocationInfo-r4-IEs");
    }
-   /* ul-EDCH-Information */
+   /* dummy */
    if (pvalue->m & 0x20000u) {
-      rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
-      stat = asn1PE_UMTS_UL_EDCH_Information_r6(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r4_IEs_dummy(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "SRNC-RelocationInfo-r4-IEs");
    }
-   /* dl-HSPDSCH-Information */
+   /* dl-CommonTransChInfo */
    if (pvalue->m & 0x40000u) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r6(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "SRNC-RelocationInfo-r4-IEs");
    }
-   /* dl-CommonInformation */
+   /* dl-TransChInfoList */
    if (pvalue->m & 0x80000u) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-      stat = asn1PE_UMTS_DL_CommonInformation_r6(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r4(ctx, &pvalue->dl_TransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-TransChInfoList", -1, "SRNC-RelocationInfo-r4-IEs");
    }
-   /* dl-InformationPerRL-List */
+   /* measurementReport */
    if (pvalue->m & 0x100000u) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-      stat = asn1PE_UMTS_DL_InformationPerRL_List_r6(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_MeasurementReport(ctx, &pvalue->measurementReport);
+      RT_CHECK(ctx, stat, 0, "measurementReport", -1, "SRNC-RelocationInfo-r4-IEs");
    }
-   /* mbms-PL-ServiceRestrictInfo */
+   /* failureCause */
    if (pvalue->m & 0x200000u) {
-      rtxCtxtPushElemName(ctx, "mbms-PL-ServiceRestrictInfo");
-      rtxCtxtPushTypeName(ctx, "MBMS-PL-ServiceRestrictInfo-r6");
-      if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
+      RT_CHECK(ctx, stat, 0, "failureCause", -1, "SRNC-RelocationInfo-r4-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PhysicalChannelReconfiguration_v6b0ext_IEs(rtxContext* ctx, const PhysicalChannelReconfiguration_v6b0ext_IEs* pvalue)
+int asn1PE_UMTS_SRNC_RelocationInfo_v4d0ext_IEs(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_v4d0ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration-v6b0ext-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRNC-RelocationInfo-v4d0ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* dl-InformationPerRL-List-v6b0ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-v4d0ext-IEs");
+   /* tpc-CombinationInfoList */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List-v6b0ext");
-      stat = asn1PE_UMTS_DL_InformationPerRL_List_v6b0ext(ctx, &pvalue->dl_InformationPerRL_List_v6b0ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_TPC_CombinationInfoList(ctx, &pvalue->tpc_CombinationInfoList);
+      RT_CHECK(ctx, stat, 0, "tpc-CombinationInfoList", -1, "SRNC-RelocationInfo-v4d0ext-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* pvalue)
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v770ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v770ext");
-   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v770ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v7f0ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v7f0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v7f0ext", -1, 0);
    /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* pvalue)
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v6b0ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v6b0ext");
-   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v6b0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v6b0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v770NonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v7e0ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v7e0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v7e0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v7e0ext", -1, 0);
+   /* v7f0NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(rtxContext* ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6* pvalue)
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v770ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v770ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v770ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v770ext", -1, 0);
+   /* v7e0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions(ctx, &pvalue->v7e0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7e0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v6b0ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v6b0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v6b0ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v690ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v690ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v690ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v690ext", -1, 0);
+   /* v6b0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v5c0ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v5c0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v5c0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v5c0ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v5b0ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v5b0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v5b0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v5b0ext", -1, 0);
+   /* v5c0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions(ctx, &pvalue->v5c0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v5c0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v5a0ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v5a0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v5a0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v5a0ext", -1, 0);
+   /* v5b0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions(ctx, &pvalue->v5b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v5b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v590ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v590ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v590ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v590ext", -1, 0);
+   /* v5a0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions_v5a0NonCriticalExtensions(ctx, &pvalue->v5a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v5a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-r6 */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-r6");
-   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r6_IEs(ctx, &pvalue->physicalChannelReconfiguration_r6);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* physicalChannelReconfiguration-r6-add-ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v4d0ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v4d0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v4d0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v4d0ext", -1, 0);
+   /* sRNC-RelocationInfo-r4-add-ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-r6-add-ext");
       RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->physicalChannelReconfiguration_r6_add_ext.numbits, pvalue->physicalChannelReconfiguration_r6_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_BitString(ctx, pvalue->sRNC_RelocationInfo_r4_add_ext.numbits, pvalue->sRNC_RelocationInfo_r4_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-r4-add-ext", -1, 0);
+   }
+   /* v590NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_r4* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-r4 */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_r4_IEs(ctx, &pvalue->sRNC_RelocationInfo_r4);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-r4", -1, 0);
+   /* v4d0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MaxHcContextSpace_r5(rtxContext* RT_RESTRICT ctx, MaxHcContextSpace_r5 value)
+{
+   int stat = 0;
+   if (value > 8) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxHcContextSpace-r5");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 8);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MaxHcContextSpace-r5");
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_Capability_r5_supportForRfc2507(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_r5_supportForRfc2507* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.supported > 8) {
+            rtxErrAddUIntParm(ctx, pvalue->u.supported);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxHcContextSpace-r5", "supported", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.supported, 0, 8);
+         RT_CHECK(ctx, stat, "MaxHcContextSpace-r5", "supported", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_Capability_r5_supportForRfc3095_supported(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_r5_supportForRfc3095_supported* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->maxROHC_ContextSessions != 4) << 1) |
+      ((uint64_t)(pvalue->reverseCompressionDepth != 0) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* maxROHC-ContextSessions */
+   if (pvalue->maxROHC_ContextSessions != 4) {
+      if (pvalue->maxROHC_ContextSessions > 13) {
+         rtxErrAddUIntParm(ctx, pvalue->maxROHC_ContextSessions);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MaxROHC-ContextSessions-r4", "maxROHC-ContextSessions", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->maxROHC_ContextSessions, 0, 13);
+      RT_CHECK(ctx, stat, "MaxROHC-ContextSessions-r4", "maxROHC-ContextSessions", -1, 0);
+   }
+   /* reverseCompressionDepth */
+   if (pvalue->reverseCompressionDepth != 0) {
+      stat = pe_ConsUInt64(ctx, pvalue->reverseCompressionDepth, 0, 65535);
+      RT_CHECK(ctx, stat, 0, "reverseCompressionDepth", -1, 0);
+   }
+   /* supportForRfc3095ContextRelocation */
+   stat = rtxEncBit(ctx, pvalue->supportForRfc3095ContextRelocation);
+   RT_CHECK(ctx, stat, 0, "supportForRfc3095ContextRelocation", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_Capability_r5_supportForRfc3095(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_r5_supportForRfc3095* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "supported", -1, 0);
+         stat = asn1PE_UMTS_PDCP_Capability_r5_supportForRfc3095_supported(ctx, pvalue->u.supported);
+         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_Capability_r5(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDCP-Capability-r5");
+   /* losslessSRNS-RelocationSupport */
+   stat = rtxEncBit(ctx, pvalue->losslessSRNS_RelocationSupport);
+   RT_CHECK(ctx, stat, 0, "losslessSRNS-RelocationSupport", -1, "PDCP-Capability-r5");
+   /* supportForRfc2507 */
+   stat = asn1PE_UMTS_PDCP_Capability_r5_supportForRfc2507(ctx, &pvalue->supportForRfc2507);
+   RT_CHECK(ctx, stat, 0, "supportForRfc2507", -1, "PDCP-Capability-r5");
+   /* supportForRfc3095 */
+   stat = asn1PE_UMTS_PDCP_Capability_r5_supportForRfc3095(ctx, &pvalue->supportForRfc3095);
+   RT_CHECK(ctx, stat, 0, "supportForRfc3095", -1, "PDCP-Capability-r5");
+   return 0;
+}
+
+int asn1PE_UMTS_TotalRLC_AM_BufferSize_r5(rtxContext* RT_RESTRICT ctx, TotalRLC_AM_BufferSize_r5 value)
+{
+   int stat = 0;
+   if (value > 9) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TotalRLC-AM-BufferSize-r5");
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 9);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TotalRLC-AM-BufferSize-r5");
+   return 0;
+}
+
+int asn1PE_UMTS_RLC_Capability_r5(rtxContext* RT_RESTRICT ctx, const RLC_Capability_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-Capability-r5");
+   /* totalRLC-AM-BufferSize */
+   if (pvalue->totalRLC_AM_BufferSize > 9) {
+      rtxErrAddUIntParm(ctx, pvalue->totalRLC_AM_BufferSize);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "TotalRLC-AM-BufferSize-r5", "totalRLC-AM-BufferSize", -1, "RLC-Capability-r5");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->totalRLC_AM_BufferSize, 0, 9);
+   RT_CHECK(ctx, stat, "TotalRLC-AM-BufferSize-r5", "totalRLC-AM-BufferSize", -1, "RLC-Capability-r5");
+   /* maximumRLC-WindowSize */
+   if (pvalue->maximumRLC_WindowSize > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->maximumRLC_WindowSize);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MaximumRLC-WindowSize", "maximumRLC-WindowSize", -1, "RLC-Capability-r5");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maximumRLC_WindowSize, 0, 1);
+   RT_CHECK(ctx, stat, "MaximumRLC-WindowSize", "maximumRLC-WindowSize", -1, "RLC-Capability-r5");
+   /* maximumAM-EntityNumber */
+   if (pvalue->maximumAM_EntityNumber > 6) {
+      rtxErrAddUIntParm(ctx, pvalue->maximumAM_EntityNumber);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MaximumAM-EntityNumberRLC-Cap", "maximumAM-EntityNumber", -1, "RLC-Capability-r5");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maximumAM_EntityNumber, 0, 6);
+   RT_CHECK(ctx, stat, "MaximumAM-EntityNumberRLC-Cap", "maximumAM-EntityNumber", -1, "RLC-Capability-r5");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityFDD_r5_fdd_hspdsch_supported(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityFDD_r5_fdd_hspdsch_supported* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* hsdsch-physical-layer-category */
+   if ((uint64_t)(pvalue->hsdsch_physical_layer_category - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category");
+      rtxErrAddUIntParm(ctx, pvalue->hsdsch_physical_layer_category);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category", "hsdsch-physical-layer-category", -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->hsdsch_physical_layer_category, 1, 64);
+   RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category", "hsdsch-physical-layer-category", -1, 0);
+   /* dummy */
+   stat = rtxEncBit(ctx, pvalue->dummy);
+   RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   /* dummy2 */
+   stat = rtxEncBit(ctx, pvalue->dummy2);
+   RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityFDD_r5_fdd_hspdsch(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityFDD_r5_fdd_hspdsch* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "supported", -1, 0);
+         stat = asn1PE_UMTS_DL_PhysChCapabilityFDD_r5_fdd_hspdsch_supported(ctx, pvalue->u.supported);
+         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityFDD_r5(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityFDD_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-PhysChCapabilityFDD-r5");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-PhysChCapabilityFDD-r5");
+   /* maxNoDPCH-PDSCH-Codes */
+   if ((uint64_t)(pvalue->maxNoDPCH_PDSCH_Codes - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "maxNoDPCH-PDSCH-Codes");
+      rtxErrAddUIntParm(ctx, pvalue->maxNoDPCH_PDSCH_Codes);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "maxNoDPCH-PDSCH-Codes", -1, "DL-PhysChCapabilityFDD-r5");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxNoDPCH_PDSCH_Codes, 1, 8);
+   RT_CHECK(ctx, stat, 0, "maxNoDPCH-PDSCH-Codes", -1, "DL-PhysChCapabilityFDD-r5");
+   /* maxNoPhysChBitsReceived */
+   if (pvalue->maxNoPhysChBitsReceived > 14) {
+      rtxErrAddUIntParm(ctx, pvalue->maxNoPhysChBitsReceived);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNoPhysChBitsReceived", "maxNoPhysChBitsReceived", -1, "DL-PhysChCapabilityFDD-r5");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxNoPhysChBitsReceived, 0, 14);
+   RT_CHECK(ctx, stat, "MaxNoPhysChBitsReceived", "maxNoPhysChBitsReceived", -1, "DL-PhysChCapabilityFDD-r5");
+   /* supportForSF-512 */
+   stat = rtxEncBit(ctx, pvalue->supportForSF_512);
+   RT_CHECK(ctx, stat, 0, "supportForSF-512", -1, "DL-PhysChCapabilityFDD-r5");
+   /* dummy */
+   stat = rtxEncBit(ctx, pvalue->dummy);
+   RT_CHECK(ctx, stat, 0, "dummy", -1, "DL-PhysChCapabilityFDD-r5");
+   /* dummy2 */
+   stat = asn1PE_UMTS_SimultaneousSCCPCH_DPCH_Reception(ctx, &pvalue->dummy2);
+   RT_CHECK(ctx, stat, 0, "dummy2", -1, "DL-PhysChCapabilityFDD-r5");
+   /* dummy3 */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->dummy3 > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->dummy3);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "SupportOfDedicatedPilotsForChEstimation", "dummy3", -1, "DL-PhysChCapabilityFDD-r5");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dummy3, 0, 0);
+      RT_CHECK(ctx, stat, "SupportOfDedicatedPilotsForChEstimation", "dummy3", -1, "DL-PhysChCapabilityFDD-r5");
+   }
+   /* fdd-hspdsch */
+   stat = asn1PE_UMTS_DL_PhysChCapabilityFDD_r5_fdd_hspdsch(ctx, &pvalue->fdd_hspdsch);
+   RT_CHECK(ctx, stat, 0, "fdd-hspdsch", -1, "DL-PhysChCapabilityFDD-r5");
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_r5_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_r5_fddPhysChCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* downlinkPhysChCapability */
+   stat = asn1PE_UMTS_DL_PhysChCapabilityFDD_r5(ctx, &pvalue->downlinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = asn1PE_UMTS_UL_PhysChCapabilityFDD(ctx, &pvalue->uplinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityTDD_r5_tdd384_hspdsch(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityTDD_r5_tdd384_hspdsch* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)(pvalue->u.supported - 1) > 63u) {
+            rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category");
+            rtxErrAddUIntParm(ctx, pvalue->u.supported);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category", "supported", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.supported, 1, 64);
+         RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category", "supported", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityTDD_r5(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityTDD_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-PhysChCapabilityTDD-r5");
+   /* maxTS-PerFrame */
+   if ((uint64_t)(pvalue->maxTS_PerFrame - 1) > 13u) {
+      rtxErrAddStrParm(ctx, "MaxTS-PerFrame");
+      rtxErrAddUIntParm(ctx, pvalue->maxTS_PerFrame);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "DL-PhysChCapabilityTDD-r5");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxTS_PerFrame, 1, 14);
+   RT_CHECK(ctx, stat, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "DL-PhysChCapabilityTDD-r5");
+   /* maxPhysChPerFrame */
+   if ((uint64_t)(pvalue->maxPhysChPerFrame - 1) > 223u) {
+      rtxErrAddStrParm(ctx, "MaxPhysChPerFrame");
+      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerFrame);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxPhysChPerFrame", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityTDD-r5");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerFrame, 1, 224);
+   RT_CHECK(ctx, stat, "MaxPhysChPerFrame", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityTDD-r5");
+   /* minimumSF */
+   if (pvalue->minimumSF > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->minimumSF);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MinimumSF-DL", "minimumSF", -1, "DL-PhysChCapabilityTDD-r5");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->minimumSF, 0, 1);
+   RT_CHECK(ctx, stat, "MinimumSF-DL", "minimumSF", -1, "DL-PhysChCapabilityTDD-r5");
+   /* supportOfPDSCH */
+   stat = rtxEncBit(ctx, pvalue->supportOfPDSCH);
+   RT_CHECK(ctx, stat, 0, "supportOfPDSCH", -1, "DL-PhysChCapabilityTDD-r5");
+   /* maxPhysChPerTS */
+   if ((uint64_t)(pvalue->maxPhysChPerTS - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "MaxPhysChPerTS");
+      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerTS);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxPhysChPerTS", "maxPhysChPerTS", -1, "DL-PhysChCapabilityTDD-r5");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerTS, 1, 16);
+   RT_CHECK(ctx, stat, "MaxPhysChPerTS", "maxPhysChPerTS", -1, "DL-PhysChCapabilityTDD-r5");
+   /* tdd384-hspdsch */
+   stat = asn1PE_UMTS_DL_PhysChCapabilityTDD_r5_tdd384_hspdsch(ctx, &pvalue->tdd384_hspdsch);
+   RT_CHECK(ctx, stat, 0, "tdd384-hspdsch", -1, "DL-PhysChCapabilityTDD-r5");
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_r5_tdd384_PhysChCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_r5_tdd384_PhysChCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* downlinkPhysChCapability */
+   stat = asn1PE_UMTS_DL_PhysChCapabilityTDD_r5(ctx, &pvalue->downlinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = asn1PE_UMTS_UL_PhysChCapabilityTDD(ctx, &pvalue->uplinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityTDD_LCR_r5_tdd128_hspdsch(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityTDD_LCR_r5_tdd128_hspdsch* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)(pvalue->u.supported - 1) > 63u) {
+            rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category");
+            rtxErrAddUIntParm(ctx, pvalue->u.supported);
+            RT_FAIL(ctx, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category", "supported", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.supported, 1, 64);
+         RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category", "supported", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityTDD_LCR_r5(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityTDD_LCR_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-PhysChCapabilityTDD-LCR-r5");
+   /* maxTS-PerSubFrame */
+   if ((uint64_t)(pvalue->maxTS_PerSubFrame - 1) > 5u) {
+      rtxErrAddStrParm(ctx, "MaxTS-PerSubFrame-r4");
+      rtxErrAddUIntParm(ctx, pvalue->maxTS_PerSubFrame);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxTS-PerSubFrame-r4", "maxTS-PerSubFrame", -1, "DL-PhysChCapabilityTDD-LCR-r5");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxTS_PerSubFrame, 1, 6);
+   RT_CHECK(ctx, stat, "MaxTS-PerSubFrame-r4", "maxTS-PerSubFrame", -1, "DL-PhysChCapabilityTDD-LCR-r5");
+   /* maxPhysChPerFrame */
+   if ((uint64_t)(pvalue->maxPhysChPerFrame - 1) > 95u) {
+      rtxErrAddStrParm(ctx, "MaxPhysChPerSubFrame-r4");
+      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerFrame);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxPhysChPerSubFrame-r4", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityTDD-LCR-r5");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerFrame, 1, 96);
+   RT_CHECK(ctx, stat, "MaxPhysChPerSubFrame-r4", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityTDD-LCR-r5");
+   /* minimumSF */
+   if (pvalue->minimumSF > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->minimumSF);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MinimumSF-DL", "minimumSF", -1, "DL-PhysChCapabilityTDD-LCR-r5");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->minimumSF, 0, 1);
+   RT_CHECK(ctx, stat, "MinimumSF-DL", "minimumSF", -1, "DL-PhysChCapabilityTDD-LCR-r5");
+   /* supportOfPDSCH */
+   stat = rtxEncBit(ctx, pvalue->supportOfPDSCH);
+   RT_CHECK(ctx, stat, 0, "supportOfPDSCH", -1, "DL-PhysChCapabilityTDD-LCR-r5");
+   /* maxPhysChPerTS */
+   if ((uint64_t)(pvalue->maxPhysChPerTS - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "MaxPhysChPerTS");
+      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerTS);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxPhysChPerTS", "maxPhysChPerTS", -1, "DL-PhysChCapabilityTDD-LCR-r5");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerTS, 1, 16);
+   RT_CHECK(ctx, stat, "MaxPhysChPerTS", "maxPhysChPerTS", -1, "DL-PhysChCapabilityTDD-LCR-r5");
+   /* supportOf8PSK */
+   stat = rtxEncBit(ctx, pvalue->supportOf8PSK);
+   RT_CHECK(ctx, stat, 0, "supportOf8PSK", -1, "DL-PhysChCapabilityTDD-LCR-r5");
+   /* tdd128-hspdsch */
+   stat = asn1PE_UMTS_DL_PhysChCapabilityTDD_LCR_r5_tdd128_hspdsch(ctx, &pvalue->tdd128_hspdsch);
+   RT_CHECK(ctx, stat, 0, "tdd128-hspdsch", -1, "DL-PhysChCapabilityTDD-LCR-r5");
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_r5_tdd128_PhysChCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_r5_tdd128_PhysChCapability* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* downlinkPhysChCapability */
+   stat = asn1PE_UMTS_DL_PhysChCapabilityTDD_LCR_r5(ctx, &pvalue->downlinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = asn1PE_UMTS_UL_PhysChCapabilityTDD_LCR_r4(ctx, &pvalue->uplinkPhysChCapability);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_r5(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelCapability-r5");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelCapability-r5");
+   /* fddPhysChCapability */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_PhysicalChannelCapability_r5_fddPhysChCapability(ctx, &pvalue->fddPhysChCapability);
+      RT_CHECK(ctx, stat, 0, "fddPhysChCapability", -1, "PhysicalChannelCapability-r5");
+   }
+   /* tdd384-PhysChCapability */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_PhysicalChannelCapability_r5_tdd384_PhysChCapability(ctx, &pvalue->tdd384_PhysChCapability);
+      RT_CHECK(ctx, stat, 0, "tdd384-PhysChCapability", -1, "PhysicalChannelCapability-r5");
+   }
+   /* tdd128-PhysChCapability */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_PhysicalChannelCapability_r5_tdd128_PhysChCapability(ctx, &pvalue->tdd128_PhysChCapability);
+      RT_CHECK(ctx, stat, 0, "tdd128-PhysChCapability", -1, "PhysicalChannelCapability-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_MultiModeRAT_Capability_r5(rtxContext* RT_RESTRICT ctx, const UE_MultiModeRAT_Capability_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-MultiModeRAT-Capability-r5");
+   /* multiRAT-CapabilityList */
+   stat = asn1PE_UMTS_MultiRAT_Capability(ctx, &pvalue->multiRAT_CapabilityList);
+   RT_CHECK(ctx, stat, 0, "multiRAT-CapabilityList", -1, "UE-MultiModeRAT-Capability-r5");
+   /* multiModeCapability */
+   if (pvalue->multiModeCapability > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->multiModeCapability);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "MultiModeCapability", "multiModeCapability", -1, "UE-MultiModeRAT-Capability-r5");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->multiModeCapability, 0, 2);
+   RT_CHECK(ctx, stat, "MultiModeCapability", "multiModeCapability", -1, "UE-MultiModeRAT-Capability-r5");
+   /* supportOfUTRAN-ToGERAN-NACC */
+   stat = rtxEncBit(ctx, pvalue->supportOfUTRAN_ToGERAN_NACC);
+   RT_CHECK(ctx, stat, 0, "supportOfUTRAN-ToGERAN-NACC", -1, "UE-MultiModeRAT-Capability-r5");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_r5(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-r5");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-r5");
+   /* accessStratumReleaseIndicator */
+   if (pvalue->accessStratumReleaseIndicator > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->accessStratumReleaseIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "AccessStratumReleaseIndicator", "accessStratumReleaseIndicator", -1, "UE-RadioAccessCapability-r5");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->accessStratumReleaseIndicator, 0, 15);
+   RT_CHECK(ctx, stat, "AccessStratumReleaseIndicator", "accessStratumReleaseIndicator", -1, "UE-RadioAccessCapability-r5");
+   /* dl-CapabilityWithSimultaneousHS-DSCHConfig */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "DL-CapabilityWithSimultaneousHS-DSCHConfig", "dl-CapabilityWithSimultaneousHS-DSCHConfig", -1, "UE-RadioAccessCapability-r5");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig, 0, 3);
+      RT_CHECK(ctx, stat, "DL-CapabilityWithSimultaneousHS-DSCHConfig", "dl-CapabilityWithSimultaneousHS-DSCHConfig", -1, "UE-RadioAccessCapability-r5");
+   }
+   /* pdcp-Capability */
+   stat = asn1PE_UMTS_PDCP_Capability_r5(ctx, &pvalue->pdcp_Capability);
+   RT_CHECK(ctx, stat, 0, "pdcp-Capability", -1, "UE-RadioAccessCapability-r5");
+   /* rlc-Capability */
+   stat = asn1PE_UMTS_RLC_Capability_r5(ctx, &pvalue->rlc_Capability);
+   RT_CHECK(ctx, stat, 0, "rlc-Capability", -1, "UE-RadioAccessCapability-r5");
+   /* transportChannelCapability */
+   stat = asn1PE_UMTS_TransportChannelCapability(ctx, &pvalue->transportChannelCapability);
+   RT_CHECK(ctx, stat, 0, "transportChannelCapability", -1, "UE-RadioAccessCapability-r5");
+   /* rf-Capability */
+   stat = asn1PE_UMTS_RF_Capability_r4(ctx, &pvalue->rf_Capability);
+   RT_CHECK(ctx, stat, 0, "rf-Capability", -1, "UE-RadioAccessCapability-r5");
+   /* physicalChannelCapability */
+   stat = asn1PE_UMTS_PhysicalChannelCapability_r5(ctx, &pvalue->physicalChannelCapability);
+   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapability-r5");
+   /* ue-MultiModeRAT-Capability */
+   stat = asn1PE_UMTS_UE_MultiModeRAT_Capability_r5(ctx, &pvalue->ue_MultiModeRAT_Capability);
+   RT_CHECK(ctx, stat, 0, "ue-MultiModeRAT-Capability", -1, "UE-RadioAccessCapability-r5");
+   /* securityCapability */
+   stat = asn1PE_UMTS_SecurityCapability(ctx, &pvalue->securityCapability);
+   RT_CHECK(ctx, stat, 0, "securityCapability", -1, "UE-RadioAccessCapability-r5");
+   /* ue-positioning-Capability */
+   stat = asn1PE_UMTS_UE_Positioning_Capability_r4(ctx, &pvalue->ue_positioning_Capability);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-Capability", -1, "UE-RadioAccessCapability-r5");
+   /* measurementCapability */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_MeasurementCapability_r4(ctx, &pvalue->measurementCapability);
+      RT_CHECK(ctx, stat, 0, "measurementCapability", -1, "UE-RadioAccessCapability-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRAT_UE_RadioAccessCapabilityList_r5(rtxContext* RT_RESTRICT ctx, const InterRAT_UE_RadioAccessCapabilityList_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRAT-UE-RadioAccessCapabilityList-r5");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "InterRAT-UE-RadioAccessCapabilityList-r5");
+   /* interRAT-UE-RadioAccessCapability */
+   stat = asn1PE_UMTS_InterRAT_UE_RadioAccessCapabilityList(ctx, &pvalue->interRAT_UE_RadioAccessCapability);
+   RT_CHECK(ctx, stat, 0, "interRAT-UE-RadioAccessCapability", -1, "InterRAT-UE-RadioAccessCapabilityList-r5");
+   /* geranIu-RadioAccessCapability */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_GERANIu_RadioAccessCapability(ctx, &pvalue->geranIu_RadioAccessCapability);
+      RT_CHECK(ctx, stat, 0, "geranIu-RadioAccessCapability", -1, "InterRAT-UE-RadioAccessCapabilityList-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_OngoingMeasRep_r5_measurementCommand_v590ext(rtxContext* RT_RESTRICT ctx, const OngoingMeasRep_r5_measurementCommand_v590ext* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.intra_frequency == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intra-frequency", -1, 0);
+         stat = asn1PE_UMTS_Intra_FreqEventCriteriaList_v590ext(ctx, pvalue->u.intra_frequency);
+         RT_CHECK(ctx, stat, 0, "intra-frequency", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.inter_frequency == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "inter-frequency", -1, 0);
+         stat = asn1PE_UMTS_Inter_FreqEventCriteriaList_v590ext(ctx, pvalue->u.inter_frequency);
+         RT_CHECK(ctx, stat, 0, "inter-frequency", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_OngoingMeasRep_r5(rtxContext* RT_RESTRICT ctx, const OngoingMeasRep_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "OngoingMeasRep-r5");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "OngoingMeasRep-r5");
+   /* measurementIdentity */
+   if ((uint64_t)(pvalue->measurementIdentity - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "MeasurementIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->measurementIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementIdentity", "measurementIdentity", -1, "OngoingMeasRep-r5");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->measurementIdentity, 1, 16);
+   RT_CHECK(ctx, stat, "MeasurementIdentity", "measurementIdentity", -1, "OngoingMeasRep-r5");
+   /* measurementCommandWithType */
+   stat = asn1PE_UMTS_MeasurementCommandWithType_r4(ctx, &pvalue->measurementCommandWithType);
+   RT_CHECK(ctx, stat, 0, "measurementCommandWithType", -1, "OngoingMeasRep-r5");
+   /* measurementReportingMode */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
+      RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "OngoingMeasRep-r5");
+   }
+   /* additionalMeasurementID-List */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementID_List);
+      RT_CHECK(ctx, stat, 0, "additionalMeasurementID-List", -1, "OngoingMeasRep-r5");
+   }
+   /* measurementCommand-v590ext */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_OngoingMeasRep_r5_measurementCommand_v590ext(ctx, &pvalue->measurementCommand_v590ext);
+      RT_CHECK(ctx, stat, 0, "measurementCommand-v590ext", -1, "OngoingMeasRep-r5");
+   }
+   /* intraFreqReportingCriteria-1b-r5 */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_IntraFreqReportingCriteria_1b_r5(ctx, &pvalue->intraFreqReportingCriteria_1b_r5);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria-1b-r5", -1, "OngoingMeasRep-r5");
+   }
+   /* intraFreqEvent-1d-r5 */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_IntraFreqEvent_1d_r5(ctx, &pvalue->intraFreqEvent_1d_r5);
+      RT_CHECK(ctx, stat, 0, "intraFreqEvent-1d-r5", -1, "OngoingMeasRep-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_OngoingMeasRepList_r5(rtxContext* RT_RESTRICT ctx, const OngoingMeasRepList_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "OngoingMeasRepList-r5");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "OngoingMeasRepList-r5");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "OngoingMeasRep-r5", (int32_t)i, "OngoingMeasRepList-r5");
+      stat = asn1PE_UMTS_OngoingMeasRep_r5(ctx, (const OngoingMeasRep_r5*)node->data);
+      RT_CHECK(ctx, stat, 0, "OngoingMeasRep-r5", (int32_t)i, "OngoingMeasRepList-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r5_IEs_dummy_fdd(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r5_IEs_dummy_fdd* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dummy1 */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->dummy1 - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "CPCH-SetID");
+         rtxErrAddUIntParm(ctx, pvalue->dummy1);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "CPCH-SetID", "dummy1", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dummy1, 1, 16);
+      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy1", -1, 0);
+   }
+   /* dummy2 */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r5_IEs_dummy(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r5_IEs_dummy* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = asn1PE_UMTS_SRNC_RelocationInfo_r5_IEs_dummy_fdd(ctx, pvalue->u.fdd);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r5_IEs(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r5_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRNC-RelocationInfo-r5-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 23) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 22) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 21) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 20) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 20) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 21) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 22) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 23) & 1u) << 0), 24);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-r5-IEs");
+   /* rb-IdentityForHOMessage */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->rb_IdentityForHOMessage - 1) > 31u) {
+         rtxErrAddStrParm(ctx, "RB-Identity");
+         rtxErrAddUIntParm(ctx, pvalue->rb_IdentityForHOMessage);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-IdentityForHOMessage", -1, "SRNC-RelocationInfo-r5-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->rb_IdentityForHOMessage, 1, 32);
+      RT_CHECK(ctx, stat, "RB-Identity", "rb-IdentityForHOMessage", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* stateOfRRC */
+   if (pvalue->stateOfRRC > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->stateOfRRC);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "StateOfRRC", "stateOfRRC", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->stateOfRRC, 0, 3);
+   RT_CHECK(ctx, stat, "StateOfRRC", "stateOfRRC", -1, "SRNC-RelocationInfo-r5-IEs");
+   /* stateOfRRC-Procedure */
+   if (pvalue->stateOfRRC_Procedure > 11) {
+      rtxErrAddUIntParm(ctx, pvalue->stateOfRRC_Procedure);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "StateOfRRC-Procedure", "stateOfRRC-Procedure", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->stateOfRRC_Procedure, 0, 11);
+   RT_CHECK(ctx, stat, "StateOfRRC-Procedure", "stateOfRRC-Procedure", -1, "SRNC-RelocationInfo-r5-IEs");
+   /* cipheringStatusList */
+   stat = asn1PE_UMTS_CipheringStatusList_r4(ctx, &pvalue->cipheringStatusList);
+   RT_CHECK(ctx, stat, 0, "cipheringStatusList", -1, "SRNC-RelocationInfo-r5-IEs");
+   /* latestConfiguredCN-Domain */
+   if (pvalue->latestConfiguredCN_Domain > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->latestConfiguredCN_Domain);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "latestConfiguredCN-Domain", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->latestConfiguredCN_Domain, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "latestConfiguredCN-Domain", -1, "SRNC-RelocationInfo-r5-IEs");
+   /* calculationTimeForCiphering */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CalculationTimeForCiphering(ctx, &pvalue->calculationTimeForCiphering);
+      RT_CHECK(ctx, stat, 0, "calculationTimeForCiphering", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* count-C-List */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_COUNT_C_List(ctx, &pvalue->count_C_List);
+      RT_CHECK(ctx, stat, 0, "count-C-List", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* cipheringInfoPerRB-List */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_CipheringInfoPerRB_List_r4(ctx, &pvalue->cipheringInfoPerRB_List);
+      RT_CHECK(ctx, stat, 0, "cipheringInfoPerRB-List", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* integrityProtectionStatus */
+   if (pvalue->integrityProtectionStatus > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->integrityProtectionStatus);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "IntegrityProtectionStatus", "integrityProtectionStatus", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->integrityProtectionStatus, 0, 1);
+   RT_CHECK(ctx, stat, "IntegrityProtectionStatus", "integrityProtectionStatus", -1, "SRNC-RelocationInfo-r5-IEs");
+   /* srb-SpecificIntegrityProtInfo */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_SRB_SpecificIntegrityProtInfoList(ctx, &pvalue->srb_SpecificIntegrityProtInfo);
+      RT_CHECK(ctx, stat, 0, "srb-SpecificIntegrityProtInfo", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* implementationSpecificParams */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_ImplementationSpecificParams(ctx, &pvalue->implementationSpecificParams);
+      RT_CHECK(ctx, stat, 0, "implementationSpecificParams", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* u-RNTI */
+   stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, "SRNC-RelocationInfo-r5-IEs");
+   /* c-RNTI */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->c_RNTI);
+      RT_CHECK(ctx, stat, 0, "c-RNTI", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* ue-RadioAccessCapability */
+   stat = asn1PE_UMTS_UE_RadioAccessCapability_r5(ctx, &pvalue->ue_RadioAccessCapability);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "SRNC-RelocationInfo-r5-IEs");
+   /* ue-RadioAccessCapability-ext */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapabBandFDDList(ctx, &pvalue->ue_RadioAccessCapability_ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-ext", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* ue-Positioning-LastKnownPos */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_UE_Positioning_LastKnownPos(ctx, &pvalue->ue_Positioning_LastKnownPos);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-LastKnownPos", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* uESpecificBehaviourInformation1idle */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_UESpecificBehaviourInformation1idle(ctx, pvalue->uESpecificBehaviourInformation1idle);
+      RT_CHECK(ctx, stat, 0, "uESpecificBehaviourInformation1idle", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* uESpecificBehaviourInformation1interRAT */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_UESpecificBehaviourInformation1interRAT(ctx, pvalue->uESpecificBehaviourInformation1interRAT);
+      RT_CHECK(ctx, stat, 0, "uESpecificBehaviourInformation1interRAT", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* ue-RATSpecificCapability */
+   if (pvalue->m & 0x800u) {
+      stat = asn1PE_UMTS_InterRAT_UE_RadioAccessCapabilityList_r5(ctx, &pvalue->ue_RATSpecificCapability);
+      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x1000u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* cn-CommonGSM-MAP-NAS-SysInfo */
+   stat = asn1PE_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo);
+   RT_CHECK(ctx, stat, 0, "cn-CommonGSM-MAP-NAS-SysInfo", -1, "SRNC-RelocationInfo-r5-IEs");
+   /* cn-DomainInformationList */
+   if (pvalue->m & 0x2000u) {
+      stat = asn1PE_UMTS_CN_DomainInformationListFull(ctx, &pvalue->cn_DomainInformationList);
+      RT_CHECK(ctx, stat, 0, "cn-DomainInformationList", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* ongoingMeasRepList */
+   if (pvalue->m & 0x4000u) {
+      stat = asn1PE_UMTS_OngoingMeasRepList_r5(ctx, &pvalue->ongoingMeasRepList);
+      RT_CHECK(ctx, stat, 0, "ongoingMeasRepList", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* predefinedConfigStatusList */
+   stat = asn1PE_UMTS_PredefinedConfigStatusList(ctx, &pvalue->predefinedConfigStatusList);
+   RT_CHECK(ctx, stat, 0, "predefinedConfigStatusList", -1, "SRNC-RelocationInfo-r5-IEs");
+   /* srb-InformationList */
+   stat = asn1PE_UMTS_SRB_InformationSetupList_r5(ctx, &pvalue->srb_InformationList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationList", -1, "SRNC-RelocationInfo-r5-IEs");
+   /* rab-InformationList */
+   if (pvalue->m & 0x8000u) {
+      stat = asn1PE_UMTS_RAB_InformationSetupList_r5(ctx, &pvalue->rab_InformationList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationList", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* ul-TransChInfoList */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_TransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-TransChInfoList", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* dummy */
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r5_IEs_dummy(ctx, &pvalue->dummy);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x80000u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* dl-TransChInfoList */
+   if (pvalue->m & 0x100000u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_TransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-TransChInfoList", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* tpc-CombinationInfoList */
+   if (pvalue->m & 0x200000u) {
+      stat = asn1PE_UMTS_TPC_CombinationInfoList(ctx, &pvalue->tpc_CombinationInfoList);
+      RT_CHECK(ctx, stat, 0, "tpc-CombinationInfoList", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* measurementReport */
+   if (pvalue->m & 0x400000u) {
+      stat = asn1PE_UMTS_MeasurementReport(ctx, &pvalue->measurementReport);
+      RT_CHECK(ctx, stat, 0, "measurementReport", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   /* failureCause */
+   if (pvalue->m & 0x800000u) {
+      stat = asn1PE_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
+      RT_CHECK(ctx, stat, 0, "failureCause", -1, "SRNC-RelocationInfo-r5-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v7f0ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v7f0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v7f0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v7e0ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v7e0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v7e0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v7e0ext", -1, 0);
+   /* v7f0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v770ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v770ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v770ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v770ext", -1, 0);
+   /* v7e0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7e0NonCriticalExtensions(ctx, &pvalue->v7e0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7e0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v6b0ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v6b0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v6b0ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v690ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v690ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v690ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v690ext", -1, 0);
+   /* v6b0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v5c0ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v5c0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v5c0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v5c0ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v5b0ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v5b0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v5b0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v5b0ext", -1, 0);
+   /* v5c0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions_v5c0NonCriticalExtensions(ctx, &pvalue->v5c0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v5c0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v5a0ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v5a0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v5a0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v5a0ext", -1, 0);
+   /* v5b0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions_v5b0NonCriticalExtensions(ctx, &pvalue->v5b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v5b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-r5 */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_r5_IEs(ctx, &pvalue->sRNC_RelocationInfo_r5);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-r5", -1, 0);
+   /* sRNC-RelocationInfo-r5-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->sRNC_RelocationInfo_r5_add_ext.numbits, pvalue->sRNC_RelocationInfo_r5_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-r5-add-ext", -1, 0);
+   }
+   /* v5a0NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5_v5a0NonCriticalExtensions(ctx, &pvalue->v5a0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v5a0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_Capability_r6_losslessDLRLC_PDUSizeChange(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r6_losslessDLRLC_PDUSizeChange value)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 0);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_Capability_r6_supportForRfc2507(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_r6_supportForRfc2507* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.supported > 8) {
+            rtxErrAddUIntParm(ctx, pvalue->u.supported);
+            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxHcContextSpace-r5", "supported", -1, 0);
+         }
+         stat = pe_ConsUInt64(ctx, pvalue->u.supported, 0, 8);
+         RT_CHECK(ctx, stat, "MaxHcContextSpace-r5", "supported", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_Capability_r6_supportForRfc3095_supported(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_r6_supportForRfc3095_supported* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->maxROHC_ContextSessions != 4) << 1) |
+      ((uint64_t)(pvalue->reverseCompressionDepth != 0) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* maxROHC-ContextSessions */
+   if (pvalue->maxROHC_ContextSessions != 4) {
+      if (pvalue->maxROHC_ContextSessions > 13) {
+         rtxErrAddUIntParm(ctx, pvalue->maxROHC_ContextSessions);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "MaxROHC-ContextSessions-r4", "maxROHC-ContextSessions", -1, 0);
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->maxROHC_ContextSessions, 0, 13);
+      RT_CHECK(ctx, stat, "MaxROHC-ContextSessions-r4", "maxROHC-ContextSessions", -1, 0);
+   }
+   /* reverseCompressionDepth */
+   if (pvalue->reverseCompressionDepth != 0) {
+      stat = pe_ConsUInt64(ctx, pvalue->reverseCompressionDepth, 0, 65535);
+      RT_CHECK(ctx, stat, 0, "reverseCompressionDepth", -1, 0);
+   }
+   /* supportForRfc3095ContextRelocation */
+   stat = rtxEncBit(ctx, pvalue->supportForRfc3095ContextRelocation);
+   RT_CHECK(ctx, stat, 0, "supportForRfc3095ContextRelocation", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_Capability_r6_supportForRfc3095(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_r6_supportForRfc3095* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "supported", -1, 0);
+         stat = asn1PE_UMTS_PDCP_Capability_r6_supportForRfc3095_supported(ctx, pvalue->u.supported);
+         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_Capability_r6(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDCP-Capability-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "PDCP-Capability-r6");
+   /* losslessSRNS-RelocationSupport */
+   stat = rtxEncBit(ctx, pvalue->losslessSRNS_RelocationSupport);
+   RT_CHECK(ctx, stat, 0, "losslessSRNS-RelocationSupport", -1, "PDCP-Capability-r6");
+   /* losslessDLRLC-PDUSizeChange */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->losslessDLRLC_PDUSizeChange > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->losslessDLRLC_PDUSizeChange);
+         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "losslessDLRLC-PDUSizeChange", -1, "PDCP-Capability-r6");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->losslessDLRLC_PDUSizeChange, 0, 0);
+      RT_CHECK(ctx, stat, 0, "losslessDLRLC-PDUSizeChange", -1, "PDCP-Capability-r6");
+   }
+   /* supportForRfc2507 */
+   stat = asn1PE_UMTS_PDCP_Capability_r6_supportForRfc2507(ctx, &pvalue->supportForRfc2507);
+   RT_CHECK(ctx, stat, 0, "supportForRfc2507", -1, "PDCP-Capability-r6");
+   /* supportForRfc3095 */
+   stat = asn1PE_UMTS_PDCP_Capability_r6_supportForRfc3095(ctx, &pvalue->supportForRfc3095);
+   RT_CHECK(ctx, stat, 0, "supportForRfc3095", -1, "PDCP-Capability-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_r6(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-r6");
+   /* accessStratumReleaseIndicator */
+   if (pvalue->accessStratumReleaseIndicator > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->accessStratumReleaseIndicator);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "AccessStratumReleaseIndicator", "accessStratumReleaseIndicator", -1, "UE-RadioAccessCapability-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->accessStratumReleaseIndicator, 0, 15);
+   RT_CHECK(ctx, stat, "AccessStratumReleaseIndicator", "accessStratumReleaseIndicator", -1, "UE-RadioAccessCapability-r6");
+   /* dl-CapabilityWithSimultaneousHS-DSCHConfig */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "DL-CapabilityWithSimultaneousHS-DSCHConfig", "dl-CapabilityWithSimultaneousHS-DSCHConfig", -1, "UE-RadioAccessCapability-r6");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig, 0, 3);
+      RT_CHECK(ctx, stat, "DL-CapabilityWithSimultaneousHS-DSCHConfig", "dl-CapabilityWithSimultaneousHS-DSCHConfig", -1, "UE-RadioAccessCapability-r6");
+   }
+   /* pdcp-Capability */
+   stat = asn1PE_UMTS_PDCP_Capability_r6(ctx, &pvalue->pdcp_Capability);
+   RT_CHECK(ctx, stat, 0, "pdcp-Capability", -1, "UE-RadioAccessCapability-r6");
+   /* rlc-Capability */
+   stat = asn1PE_UMTS_RLC_Capability_r5(ctx, &pvalue->rlc_Capability);
+   RT_CHECK(ctx, stat, 0, "rlc-Capability", -1, "UE-RadioAccessCapability-r6");
+   /* transportChannelCapability */
+   stat = asn1PE_UMTS_TransportChannelCapability(ctx, &pvalue->transportChannelCapability);
+   RT_CHECK(ctx, stat, 0, "transportChannelCapability", -1, "UE-RadioAccessCapability-r6");
+   /* rf-Capability */
+   stat = asn1PE_UMTS_RF_Capability_r4(ctx, &pvalue->rf_Capability);
+   RT_CHECK(ctx, stat, 0, "rf-Capability", -1, "UE-RadioAccessCapability-r6");
+   /* physicalChannelCapability */
+   stat = asn1PE_UMTS_PhysicalChannelCapability_r5(ctx, &pvalue->physicalChannelCapability);
+   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapability-r6");
+   /* ue-MultiModeRAT-Capability */
+   stat = asn1PE_UMTS_UE_MultiModeRAT_Capability_r5(ctx, &pvalue->ue_MultiModeRAT_Capability);
+   RT_CHECK(ctx, stat, 0, "ue-MultiModeRAT-Capability", -1, "UE-RadioAccessCapability-r6");
+   /* securityCapability */
+   stat = asn1PE_UMTS_SecurityCapability(ctx, &pvalue->securityCapability);
+   RT_CHECK(ctx, stat, 0, "securityCapability", -1, "UE-RadioAccessCapability-r6");
+   /* ue-positioning-Capability */
+   stat = asn1PE_UMTS_UE_Positioning_Capability_r4(ctx, &pvalue->ue_positioning_Capability);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-Capability", -1, "UE-RadioAccessCapability-r6");
+   /* measurementCapability */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_MeasurementCapability_r4(ctx, &pvalue->measurementCapability);
+      RT_CHECK(ctx, stat, 0, "measurementCapability", -1, "UE-RadioAccessCapability-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementCommandWithType_r6(rtxContext* RT_RESTRICT ctx, const MeasurementCommandWithType_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCommandWithType-r6");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, "MeasurementCommandWithType-r6");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommandWithType-r6");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.setup == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "setup", -1, "MeasurementCommandWithType-r6");
+         stat = asn1PE_UMTS_MeasurementType_r6(ctx, pvalue->u.setup);
+         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommandWithType-r6");
+         break;
+      case 2:
+         break;
+      case 3:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_OngoingMeasRep_r6(rtxContext* RT_RESTRICT ctx, const OngoingMeasRep_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "OngoingMeasRep-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "OngoingMeasRep-r6");
+   /* measurementIdentity */
+   if ((uint64_t)(pvalue->measurementIdentity - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "MeasurementIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->measurementIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementIdentity", "measurementIdentity", -1, "OngoingMeasRep-r6");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->measurementIdentity, 1, 16);
+   RT_CHECK(ctx, stat, "MeasurementIdentity", "measurementIdentity", -1, "OngoingMeasRep-r6");
+   /* measurementCommandWithType */
+   stat = asn1PE_UMTS_MeasurementCommandWithType_r6(ctx, &pvalue->measurementCommandWithType);
+   RT_CHECK(ctx, stat, 0, "measurementCommandWithType", -1, "OngoingMeasRep-r6");
+   /* measurementReportingMode */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
+      RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "OngoingMeasRep-r6");
+   }
+   /* additionalMeasurementID-List */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementID_List);
+      RT_CHECK(ctx, stat, 0, "additionalMeasurementID-List", -1, "OngoingMeasRep-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_OngoingMeasRepList_r6(rtxContext* RT_RESTRICT ctx, const OngoingMeasRepList_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "OngoingMeasRepList-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "OngoingMeasRepList-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "OngoingMeasRep-r6", (int32_t)i, "OngoingMeasRepList-r6");
+      stat = asn1PE_UMTS_OngoingMeasRep_r6(ctx, (const OngoingMeasRep_r6*)node->data);
+      RT_CHECK(ctx, stat, 0, "OngoingMeasRep-r6", (int32_t)i, "OngoingMeasRepList-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r6_IEs(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r6_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRNC-RelocationInfo-r6-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 28) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 27) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 26) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 25) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 24) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 23) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 22) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 21) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 20) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 20) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 21) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 22) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 23) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 24) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 25) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 26) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 27) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 28) & 1u) << 0), 29);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-r6-IEs");
+   /* rb-IdentityForHOMessage */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->rb_IdentityForHOMessage - 1) > 31u) {
+         rtxErrAddStrParm(ctx, "RB-Identity");
+         rtxErrAddUIntParm(ctx, pvalue->rb_IdentityForHOMessage);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-IdentityForHOMessage", -1, "SRNC-RelocationInfo-r6-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->rb_IdentityForHOMessage, 1, 32);
+      RT_CHECK(ctx, stat, "RB-Identity", "rb-IdentityForHOMessage", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* stateOfRRC */
+   if (pvalue->stateOfRRC > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->stateOfRRC);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "StateOfRRC", "stateOfRRC", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->stateOfRRC, 0, 3);
+   RT_CHECK(ctx, stat, "StateOfRRC", "stateOfRRC", -1, "SRNC-RelocationInfo-r6-IEs");
+   /* stateOfRRC-Procedure */
+   if (pvalue->stateOfRRC_Procedure > 11) {
+      rtxErrAddUIntParm(ctx, pvalue->stateOfRRC_Procedure);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "StateOfRRC-Procedure", "stateOfRRC-Procedure", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->stateOfRRC_Procedure, 0, 11);
+   RT_CHECK(ctx, stat, "StateOfRRC-Procedure", "stateOfRRC-Procedure", -1, "SRNC-RelocationInfo-r6-IEs");
+   /* cipheringStatusList */
+   stat = asn1PE_UMTS_CipheringStatusList_r4(ctx, &pvalue->cipheringStatusList);
+   RT_CHECK(ctx, stat, 0, "cipheringStatusList", -1, "SRNC-RelocationInfo-r6-IEs");
+   /* latestConfiguredCN-Domain */
+   if (pvalue->latestConfiguredCN_Domain > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->latestConfiguredCN_Domain);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "latestConfiguredCN-Domain", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->latestConfiguredCN_Domain, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "latestConfiguredCN-Domain", -1, "SRNC-RelocationInfo-r6-IEs");
+   /* calculationTimeForCiphering */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CalculationTimeForCiphering(ctx, &pvalue->calculationTimeForCiphering);
+      RT_CHECK(ctx, stat, 0, "calculationTimeForCiphering", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* count-C-List */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_COUNT_C_List(ctx, &pvalue->count_C_List);
+      RT_CHECK(ctx, stat, 0, "count-C-List", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* cipheringInfoPerRB-List */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_CipheringInfoPerRB_List_r4(ctx, &pvalue->cipheringInfoPerRB_List);
+      RT_CHECK(ctx, stat, 0, "cipheringInfoPerRB-List", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* integrityProtectionStatus */
+   if (pvalue->integrityProtectionStatus > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->integrityProtectionStatus);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "IntegrityProtectionStatus", "integrityProtectionStatus", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->integrityProtectionStatus, 0, 1);
+   RT_CHECK(ctx, stat, "IntegrityProtectionStatus", "integrityProtectionStatus", -1, "SRNC-RelocationInfo-r6-IEs");
+   /* srb-SpecificIntegrityProtInfo */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_SRB_SpecificIntegrityProtInfoList(ctx, &pvalue->srb_SpecificIntegrityProtInfo);
+      RT_CHECK(ctx, stat, 0, "srb-SpecificIntegrityProtInfo", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* implementationSpecificParams */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_ImplementationSpecificParams(ctx, &pvalue->implementationSpecificParams);
+      RT_CHECK(ctx, stat, 0, "implementationSpecificParams", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* u-RNTI */
+   stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, "SRNC-RelocationInfo-r6-IEs");
+   /* c-RNTI */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->c_RNTI);
+      RT_CHECK(ctx, stat, 0, "c-RNTI", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* ue-RadioAccessCapability */
+   stat = asn1PE_UMTS_UE_RadioAccessCapability_r6(ctx, &pvalue->ue_RadioAccessCapability);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "SRNC-RelocationInfo-r6-IEs");
+   /* ue-RadioAccessCapability-ext */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapabBandFDDList(ctx, &pvalue->ue_RadioAccessCapability_ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-ext", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* ue-Positioning-LastKnownPos */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_UE_Positioning_LastKnownPos(ctx, &pvalue->ue_Positioning_LastKnownPos);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-LastKnownPos", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* uESpecificBehaviourInformation1idle */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_UESpecificBehaviourInformation1idle(ctx, pvalue->uESpecificBehaviourInformation1idle);
+      RT_CHECK(ctx, stat, 0, "uESpecificBehaviourInformation1idle", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* uESpecificBehaviourInformation1interRAT */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_UESpecificBehaviourInformation1interRAT(ctx, pvalue->uESpecificBehaviourInformation1interRAT);
+      RT_CHECK(ctx, stat, 0, "uESpecificBehaviourInformation1interRAT", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* ueCapabilityContainer */
+   if (pvalue->m & 0x800u) {
+      {
+         rtxContext outer;
+         const uint8_t* data;
+         uint32_t len;
+         rtxCopyContext(&outer, ctx);
+         stat = rtxInitContextBuffer(ctx, 0, 0);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer", -1, "SRNC-RelocationInfo-r6-IEs");
+         stat = asn1PE_UMTS_UE_CapabilityContainer_IEs(ctx, &pvalue->ueCapabilityContainer);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer", -1, "SRNC-RelocationInfo-r6-IEs");
+         data = ctx->buffer_data;
+         len = ctx->byte_index * 8 + 8 - ctx->bit_offset;
+         rtxCopyContext(ctx, &outer);
+         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+         stat = pe_BitString(ctx, len, data);
+         rtxMemHeapFreePtr(ctx, (void*)data);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer", -1, "SRNC-RelocationInfo-r6-IEs");
+      }
+   }
+   /* ueCapabilityContainer-RSC */
+   if (pvalue->m & 0x1000u) {
+      {
+         rtxContext outer;
+         const uint8_t* data;
+         uint32_t len;
+         rtxCopyContext(&outer, ctx);
+         stat = rtxInitContextBuffer(ctx, 0, 0);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-RSC", -1, "SRNC-RelocationInfo-r6-IEs");
+         stat = asn1PE_UMTS_RRCConnectionSetupComplete_r3_add_ext_IEs(ctx, &pvalue->ueCapabilityContainer_RSC);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-RSC", -1, "SRNC-RelocationInfo-r6-IEs");
+         data = ctx->buffer_data;
+         len = ctx->byte_index * 8 + 8 - ctx->bit_offset;
+         rtxCopyContext(ctx, &outer);
+         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+         stat = pe_BitString(ctx, len, data);
+         rtxMemHeapFreePtr(ctx, (void*)data);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-RSC", -1, "SRNC-RelocationInfo-r6-IEs");
+      }
+   }
+   /* ueCapabilityContainer-UCI */
+   if (pvalue->m & 0x2000u) {
+      {
+         rtxContext outer;
+         const uint8_t* data;
+         uint32_t len;
+         rtxCopyContext(&outer, ctx);
+         stat = rtxInitContextBuffer(ctx, 0, 0);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-UCI", -1, "SRNC-RelocationInfo-r6-IEs");
+         stat = asn1PE_UMTS_UECapabilityInformation_r3_add_ext_IEs(ctx, &pvalue->ueCapabilityContainer_UCI);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-UCI", -1, "SRNC-RelocationInfo-r6-IEs");
+         data = ctx->buffer_data;
+         len = ctx->byte_index * 8 + 8 - ctx->bit_offset;
+         rtxCopyContext(ctx, &outer);
+         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+         stat = pe_BitString(ctx, len, data);
+         rtxMemHeapFreePtr(ctx, (void*)data);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-UCI", -1, "SRNC-RelocationInfo-r6-IEs");
+      }
+   }
+   /* ue-RATSpecificCapability */
+   if (pvalue->m & 0x4000u) {
+      stat = asn1PE_UMTS_InterRAT_UE_RadioAccessCapabilityList_r5(ctx, &pvalue->ue_RATSpecificCapability);
+      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x8000u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* cn-CommonGSM-MAP-NAS-SysInfo */
+   stat = asn1PE_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo);
+   RT_CHECK(ctx, stat, 0, "cn-CommonGSM-MAP-NAS-SysInfo", -1, "SRNC-RelocationInfo-r6-IEs");
+   /* cn-DomainInformationList */
+   if (pvalue->m & 0x10000u) {
+      stat = asn1PE_UMTS_CN_DomainInformationListFull(ctx, &pvalue->cn_DomainInformationList);
+      RT_CHECK(ctx, stat, 0, "cn-DomainInformationList", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* ongoingMeasRepList */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_OngoingMeasRepList_r6(ctx, &pvalue->ongoingMeasRepList);
+      RT_CHECK(ctx, stat, 0, "ongoingMeasRepList", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* interRATCellInfoIndication */
+   if (pvalue->m & 0x40000u) {
+      if ((uint64_t)pvalue->interRATCellInfoIndication > 3u) {
+         rtxErrAddStrParm(ctx, "InterRATCellInfoIndication");
+         rtxErrAddUIntParm(ctx, pvalue->interRATCellInfoIndication);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterRATCellInfoIndication", "interRATCellInfoIndication", -1, "SRNC-RelocationInfo-r6-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->interRATCellInfoIndication, 0, 3);
+      RT_CHECK(ctx, stat, "InterRATCellInfoIndication", "interRATCellInfoIndication", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* predefinedConfigStatusList */
+   stat = asn1PE_UMTS_PredefinedConfigStatusList(ctx, &pvalue->predefinedConfigStatusList);
+   RT_CHECK(ctx, stat, 0, "predefinedConfigStatusList", -1, "SRNC-RelocationInfo-r6-IEs");
+   /* srb-InformationList */
+   stat = asn1PE_UMTS_SRB_InformationSetupList_r6(ctx, &pvalue->srb_InformationList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationList", -1, "SRNC-RelocationInfo-r6-IEs");
+   /* rab-InformationList */
+   if (pvalue->m & 0x80000u) {
+      stat = asn1PE_UMTS_RAB_InformationSetupList_r6(ctx, &pvalue->rab_InformationList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationList", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x100000u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* ul-TransChInfoList */
+   if (pvalue->m & 0x200000u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList_r6(ctx, &pvalue->ul_TransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-TransChInfoList", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x400000u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* dl-TransChInfoList */
+   if (pvalue->m & 0x800000u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_TransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-TransChInfoList", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* tpc-CombinationInfoList */
+   if (pvalue->m & 0x1000000u) {
+      stat = asn1PE_UMTS_TPC_CombinationInfoList(ctx, &pvalue->tpc_CombinationInfoList);
+      RT_CHECK(ctx, stat, 0, "tpc-CombinationInfoList", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* storedCompressedModeInfo */
+   if (pvalue->m & 0x2000000u) {
+      stat = asn1PE_UMTS_StoredCompressedModeInfo(ctx, &pvalue->storedCompressedModeInfo);
+      RT_CHECK(ctx, stat, 0, "storedCompressedModeInfo", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* measurementReport */
+   if (pvalue->m & 0x4000000u) {
+      {
+         rtxContext outer;
+         const uint8_t* data;
+         uint32_t len;
+         rtxCopyContext(&outer, ctx);
+         stat = rtxInitContextBuffer(ctx, 0, 0);
+         RT_CHECK(ctx, stat, 0, "measurementReport", -1, "SRNC-RelocationInfo-r6-IEs");
+         stat = asn1PE_UMTS_MeasurementReport(ctx, &pvalue->measurementReport);
+         RT_CHECK(ctx, stat, 0, "measurementReport", -1, "SRNC-RelocationInfo-r6-IEs");
+         data = ctx->buffer_data;
+         len = ctx->byte_index * 8 + 8 - ctx->bit_offset;
+         rtxCopyContext(ctx, &outer);
+         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+         stat = pe_BitString(ctx, len, data);
+         rtxMemHeapFreePtr(ctx, (void*)data);
+         RT_CHECK(ctx, stat, 0, "measurementReport", -1, "SRNC-RelocationInfo-r6-IEs");
+      }
+   }
+   /* failureCause */
+   if (pvalue->m & 0x8000000u) {
+      stat = asn1PE_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
+      RT_CHECK(ctx, stat, 0, "failureCause", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   /* mbms-JoinedInformation */
+   if (pvalue->m & 0x10000000u) {
+      stat = asn1PE_UMTS_MBMS_JoinedInformation_r6(ctx, &pvalue->mbms_JoinedInformation);
+      RT_CHECK(ctx, stat, 0, "mbms-JoinedInformation", -1, "SRNC-RelocationInfo-r6-IEs");
+   }
+   return stat;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r6_add_ext_IEs_v7f0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r6_add_ext_IEs_v7f0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r6_add_ext_IEs_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r6_add_ext_IEs_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v7f0ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v7f0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v7f0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r6_add_ext_IEs_v7f0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r6_add_ext_IEs(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r6_add_ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRNC-RelocationInfo-r6-add-ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-r6-add-ext-IEs");
+   /* sRNC-RelocationInfo-v7e0ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v7e0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v7e0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v7e0ext", -1, "SRNC-RelocationInfo-r6-add-ext-IEs");
+   /* v7f0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r6_add_ext_IEs_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, "SRNC-RelocationInfo-r6-add-ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_v820ext_IEs(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_v820ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRNC-RelocationInfo-v820ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-v820ext-IEs");
+   /* rab-InformationList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_RAB_InformationSetupList_v820ext(ctx, &pvalue->rab_InformationList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationList", -1, "SRNC-RelocationInfo-v820ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_RGCH_Combination_Info(rtxContext* RT_RESTRICT ctx, const E_RGCH_Combination_Info* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-RGCH-Combination-Info");
+   /* primaryCPICH-Info */
+   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "E-RGCH-Combination-Info");
+   /* rg-CombinationIndex */
+   if ((uint64_t)pvalue->rg_CombinationIndex > 5u) {
+      rtxErrAddStrParm(ctx, "rg-CombinationIndex");
+      rtxErrAddUIntParm(ctx, pvalue->rg_CombinationIndex);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rg-CombinationIndex", -1, "E-RGCH-Combination-Info");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rg_CombinationIndex, 0, 5);
+   RT_CHECK(ctx, stat, 0, "rg-CombinationIndex", -1, "E-RGCH-Combination-Info");
+   return 0;
+}
+
+int asn1PE_UMTS_E_RGCH_CombinationInfoList(rtxContext* RT_RESTRICT ctx, const E_RGCH_CombinationInfoList* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-RGCH-CombinationInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "E-RGCH-CombinationInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "E-RGCH-Combination-Info", (int32_t)i, "E-RGCH-CombinationInfoList");
+      stat = asn1PE_UMTS_E_RGCH_Combination_Info(ctx, (const E_RGCH_Combination_Info*)node->data);
+      RT_CHECK(ctx, stat, 0, "E-RGCH-Combination-Info", (int32_t)i, "E-RGCH-CombinationInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRNC-RelocationInfo-v860ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-v860ext-IEs");
+   /* e-RGCH-CombinationInfoList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_E_RGCH_CombinationInfoList(ctx, &pvalue->e_RGCH_CombinationInfoList);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-CombinationInfoList", -1, "SRNC-RelocationInfo-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v820NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v820NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v820NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v820NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v860ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v860ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v860ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v820NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v820NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v820NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* srnc-RelocationInfo-v820ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v820ext_IEs(ctx, &pvalue->srnc_RelocationInfo_v820ext);
+   RT_CHECK(ctx, stat, 0, "srnc-RelocationInfo-v820ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v820NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v770ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v770ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v770ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v770ext", -1, 0);
+   /* v820NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v820NonCriticalExtensions(ctx, &pvalue->v820NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v820NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v6b0ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v6b0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v6b0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v6b0ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-r6 */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_r6_IEs(ctx, &pvalue->sRNC_RelocationInfo_r6);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-r6", -1, 0);
+   /* sRNC-RelocationInfo-r6-add-ext */
+   if (pvalue->m & 0x1u) {
+      {
+         rtxContext outer;
+         const uint8_t* data;
+         uint32_t len;
+         rtxCopyContext(&outer, ctx);
+         stat = rtxInitContextBuffer(ctx, 0, 0);
+         RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-r6-add-ext", -1, 0);
+         stat = asn1PE_UMTS_SRNC_RelocationInfo_r6_add_ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_r6_add_ext);
+         RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-r6-add-ext", -1, 0);
+         data = ctx->buffer_data;
+         len = ctx->byte_index * 8 + 8 - ctx->bit_offset;
+         rtxCopyContext(ctx, &outer);
+         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+         stat = pe_BitString(ctx, len, data);
+         rtxMemHeapFreePtr(ctx, (void*)data);
+         RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-r6-add-ext", -1, 0);
+      }
    }
    /* v6b0NonCriticalExtensions */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v6b0NonCriticalExtensions");
-      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+   }
+   return stat;
+}
+
+int asn1PE_UMTS_MeasurementCommandWithType_r7(rtxContext* RT_RESTRICT ctx, const MeasurementCommandWithType_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCommandWithType-r7");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, "MeasurementCommandWithType-r7");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommandWithType-r7");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.setup == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "setup", -1, "MeasurementCommandWithType-r7");
+         stat = asn1PE_UMTS_MeasurementType_r7(ctx, pvalue->u.setup);
+         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommandWithType-r7");
+         break;
+      case 2:
+         break;
+      case 3:
+         break;
+      default:
+         break;
    }
    return 0;
 }
 
-int asn1PE_UMTS_PhysicalChannelReconfiguration_r7_IEs_responseToChangeOfUE_Capability(rtxContext* ctx, PhysicalChannelReconfiguration_r7_IEs_responseToChangeOfUE_Capability value)
+int asn1PE_UMTS_OngoingMeasRep_r7(rtxContext* RT_RESTRICT ctx, const OngoingMeasRep_r7* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_r7_IEs(rtxContext* ctx, const PhysicalChannelReconfiguration_r7_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration-r7-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "OngoingMeasRep-r7");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 29) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 28) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 27) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 26) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 25) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 24) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 23) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 22) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 21) |
-      ((uint64_t)((pvalue->m >> 9) & 1u) << 20) |
-      ((uint64_t)((pvalue->m >> 10) & 1u) << 19) |
-      ((uint64_t)((pvalue->m >> 11) & 1u) << 18) |
-      ((uint64_t)((pvalue->m >> 12) & 1u) << 17) |
-      ((uint64_t)((pvalue->m >> 13) & 1u) << 16) |
-      ((uint64_t)((pvalue->m >> 14) & 1u) << 15) |
-      ((uint64_t)((pvalue->m >> 15) & 1u) << 14) |
-      ((uint64_t)((pvalue->m >> 16) & 1u) << 13) |
-      ((uint64_t)((pvalue->m >> 17) & 1u) << 12) |
-      ((uint64_t)((pvalue->m >> 18) & 1u) << 11) |
-      ((uint64_t)((pvalue->m >> 19) & 1u) << 10) |
-      ((uint64_t)((pvalue->m >> 20) & 1u) << 9) |
-      ((uint64_t)((pvalue->m >> 21) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 22) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 23) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 24) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 25) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 26) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 27) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 28) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 29) & 1u) << 0), 30);
-   RT_CHECK(ctx, stat);
-   /* integrityProtectionModeInfo */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "OngoingMeasRep-r7");
+   /* measurementIdentity */
+   if ((uint64_t)(pvalue->measurementIdentity - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "MeasurementIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->measurementIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementIdentity", "measurementIdentity", -1, "OngoingMeasRep-r7");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->measurementIdentity, 1, 16);
+   RT_CHECK(ctx, stat, "MeasurementIdentity", "measurementIdentity", -1, "OngoingMeasRep-r7");
+   /* measurementCommandWithType */
+   stat = asn1PE_UMTS_MeasurementCommandWithType_r7(ctx, &pvalue->measurementCommandWithType);
+   RT_CHECK(ctx, stat, 0, "measurementCommandWithType", -1, "OngoingMeasRep-r7");
+   /* measurementReportingMode */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
-      stat = asn1PE_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
+      RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "OngoingMeasRep-r7");
    }
-   /* cipheringModeInfo */
+   /* additionalMeasurementID-List */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
-      stat = asn1PE_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementID_List);
+      RT_CHECK(ctx, stat, 0, "additionalMeasurementID-List", -1, "OngoingMeasRep-r7");
    }
-   /* activationTime */
+   return 0;
+}
+
+int asn1PE_UMTS_OngoingMeasRepList_r7(rtxContext* RT_RESTRICT ctx, const OngoingMeasRepList_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "OngoingMeasRepList-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "OngoingMeasRepList-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "OngoingMeasRep-r7", (int32_t)i, "OngoingMeasRepList-r7");
+      stat = asn1PE_UMTS_OngoingMeasRep_r7(ctx, (const OngoingMeasRep_r7*)node->data);
+      RT_CHECK(ctx, stat, 0, "OngoingMeasRep-r7", (int32_t)i, "OngoingMeasRepList-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r7_IEs(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r7_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRNC-RelocationInfo-r7-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 30) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 29) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 28) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 27) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 26) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 25) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 24) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 23) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 22) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 21) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 20) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 20) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 21) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 22) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 23) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 24) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 25) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 26) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 27) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 28) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 29) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 30) & 1u) << 0), 31);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-r7-IEs");
+   /* rb-IdentityForHOMessage */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->rb_IdentityForHOMessage - 1) > 31u) {
+         rtxErrAddStrParm(ctx, "RB-Identity");
+         rtxErrAddUIntParm(ctx, pvalue->rb_IdentityForHOMessage);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-IdentityForHOMessage", -1, "SRNC-RelocationInfo-r7-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->rb_IdentityForHOMessage, 1, 32);
+      RT_CHECK(ctx, stat, "RB-Identity", "rb-IdentityForHOMessage", -1, "SRNC-RelocationInfo-r7-IEs");
+   }
+   /* stateOfRRC */
+   if (pvalue->stateOfRRC > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->stateOfRRC);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "StateOfRRC", "stateOfRRC", -1, "SRNC-RelocationInfo-r7-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->stateOfRRC, 0, 3);
+   RT_CHECK(ctx, stat, "StateOfRRC", "stateOfRRC", -1, "SRNC-RelocationInfo-r7-IEs");
+   /* stateOfRRC-Procedure */
+   if (pvalue->stateOfRRC_Procedure > 11) {
+      rtxErrAddUIntParm(ctx, pvalue->stateOfRRC_Procedure);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "StateOfRRC-Procedure", "stateOfRRC-Procedure", -1, "SRNC-RelocationInfo-r7-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->stateOfRRC_Procedure, 0, 11);
+   RT_CHECK(ctx, stat, "StateOfRRC-Procedure", "stateOfRRC-Procedure", -1, "SRNC-RelocationInfo-r7-IEs");
+   /* cipheringStatusList */
+   stat = asn1PE_UMTS_CipheringStatusList_r4(ctx, &pvalue->cipheringStatusList);
+   RT_CHECK(ctx, stat, 0, "cipheringStatusList", -1, "SRNC-RelocationInfo-r7-IEs");
+   /* latestConfiguredCN-Domain */
+   if (pvalue->latestConfiguredCN_Domain > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->latestConfiguredCN_Domain);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "latestConfiguredCN-Domain", -1, "SRNC-RelocationInfo-r7-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->latestConfiguredCN_Domain, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "latestConfiguredCN-Domain", -1, "SRNC-RelocationInfo-r7-IEs");
+   /* calculationTimeForCiphering */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CalculationTimeForCiphering(ctx, &pvalue->calculationTimeForCiphering);
+      RT_CHECK(ctx, stat, 0, "calculationTimeForCiphering", -1, "SRNC-RelocationInfo-r7-IEs");
+   }
+   /* count-C-List */
    if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_COUNT_C_List(ctx, &pvalue->count_C_List);
+      RT_CHECK(ctx, stat, 0, "count-C-List", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* delayRestrictionFlag */
+   /* cipheringInfoPerRB-List */
    if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "delayRestrictionFlag");
-      rtxCtxtPushTypeName(ctx, "DelayRestrictionFlag");
-      if (pvalue->delayRestrictionFlag > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->delayRestrictionFlag);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->delayRestrictionFlag, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CipheringInfoPerRB_List_r4(ctx, &pvalue->cipheringInfoPerRB_List);
+      RT_CHECK(ctx, stat, 0, "cipheringInfoPerRB-List", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* new-U-RNTI */
+   /* integrityProtectionStatus */
+   if (pvalue->integrityProtectionStatus > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->integrityProtectionStatus);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "IntegrityProtectionStatus", "integrityProtectionStatus", -1, "SRNC-RelocationInfo-r7-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->integrityProtectionStatus, 0, 1);
+   RT_CHECK(ctx, stat, "IntegrityProtectionStatus", "integrityProtectionStatus", -1, "SRNC-RelocationInfo-r7-IEs");
+   /* srb-SpecificIntegrityProtInfo */
    if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
-      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_SRB_SpecificIntegrityProtInfoList(ctx, &pvalue->srb_SpecificIntegrityProtInfo);
+      RT_CHECK(ctx, stat, 0, "srb-SpecificIntegrityProtInfo", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* new-C-RNTI */
+   /* implementationSpecificParams */
    if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
-      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_ImplementationSpecificParams(ctx, &pvalue->implementationSpecificParams);
+      RT_CHECK(ctx, stat, 0, "implementationSpecificParams", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* new-DSCH-RNTI */
+   /* u-RNTI */
+   stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, "SRNC-RelocationInfo-r7-IEs");
+   /* c-RNTI */
    if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
-      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->c_RNTI);
+      RT_CHECK(ctx, stat, 0, "c-RNTI", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* new-H-RNTI */
+   /* ue-RadioAccessCapability */
+   stat = asn1PE_UMTS_UE_RadioAccessCapability_r6(ctx, &pvalue->ue_RadioAccessCapability);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "SRNC-RelocationInfo-r7-IEs");
+   /* ue-RadioAccessCapability-ext */
    if (pvalue->m & 0x80u) {
-      rtxCtxtPushElemName(ctx, "new-H-RNTI");
-      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UE_RadioAccessCapabBandFDDList(ctx, &pvalue->ue_RadioAccessCapability_ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-ext", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* newPrimary-E-RNTI */
+   /* ue-Positioning-LastKnownPos */
    if (pvalue->m & 0x100u) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UE_Positioning_LastKnownPos(ctx, &pvalue->ue_Positioning_LastKnownPos);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-LastKnownPos", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* newSecondary-E-RNTI */
+   /* uESpecificBehaviourInformation1idle */
    if (pvalue->m & 0x200u) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UESpecificBehaviourInformation1idle(ctx, pvalue->uESpecificBehaviourInformation1idle);
+      RT_CHECK(ctx, stat, 0, "uESpecificBehaviourInformation1idle", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
-   if (pvalue->rrc_StateIndicator > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ueMobilityStateIndicator */
+   /* uESpecificBehaviourInformation1interRAT */
    if (pvalue->m & 0x400u) {
-      rtxCtxtPushElemName(ctx, "ueMobilityStateIndicator");
-      rtxCtxtPushTypeName(ctx, "High-MobilityDetected");
-      if (pvalue->ueMobilityStateIndicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->ueMobilityStateIndicator);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ueMobilityStateIndicator, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UESpecificBehaviourInformation1interRAT(ctx, pvalue->uESpecificBehaviourInformation1interRAT);
+      RT_CHECK(ctx, stat, 0, "uESpecificBehaviourInformation1interRAT", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* utran-DRX-CycleLengthCoeff */
+   /* ueCapabilityContainer */
    if (pvalue->m & 0x800u) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
-      stat = asn1PE_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      {
+         rtxContext outer;
+         const uint8_t* data;
+         uint32_t len;
+         rtxCopyContext(&outer, ctx);
+         stat = rtxInitContextBuffer(ctx, 0, 0);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer", -1, "SRNC-RelocationInfo-r7-IEs");
+         stat = asn1PE_UMTS_UE_CapabilityContainer_IEs(ctx, &pvalue->ueCapabilityContainer);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer", -1, "SRNC-RelocationInfo-r7-IEs");
+         data = ctx->buffer_data;
+         len = ctx->byte_index * 8 + 8 - ctx->bit_offset;
+         rtxCopyContext(ctx, &outer);
+         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+         stat = pe_BitString(ctx, len, data);
+         rtxMemHeapFreePtr(ctx, (void*)data);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer", -1, "SRNC-RelocationInfo-r7-IEs");
+      }
    }
-   /* cn-InformationInfo */
+   /* ueCapabilityContainer-RSC */
    if (pvalue->m & 0x1000u) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      {
+         rtxContext outer;
+         const uint8_t* data;
+         uint32_t len;
+         rtxCopyContext(&outer, ctx);
+         stat = rtxInitContextBuffer(ctx, 0, 0);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-RSC", -1, "SRNC-RelocationInfo-r7-IEs");
+         stat = asn1PE_UMTS_RRCConnectionSetupComplete_r3_add_ext_IEs(ctx, &pvalue->ueCapabilityContainer_RSC);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-RSC", -1, "SRNC-RelocationInfo-r7-IEs");
+         data = ctx->buffer_data;
+         len = ctx->byte_index * 8 + 8 - ctx->bit_offset;
+         rtxCopyContext(ctx, &outer);
+         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+         stat = pe_BitString(ctx, len, data);
+         rtxMemHeapFreePtr(ctx, (void*)data);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-RSC", -1, "SRNC-RelocationInfo-r7-IEs");
+      }
+   }
+   /* ueCapabilityContainer-UCI */
+   if (pvalue->m & 0x2000u) {
+      {
+         rtxContext outer;
+         const uint8_t* data;
+         uint32_t len;
+         rtxCopyContext(&outer, ctx);
+         stat = rtxInitContextBuffer(ctx, 0, 0);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-UCI", -1, "SRNC-RelocationInfo-r7-IEs");
+         stat = asn1PE_UMTS_UECapabilityInformation_r3_add_ext_IEs(ctx, &pvalue->ueCapabilityContainer_UCI);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-UCI", -1, "SRNC-RelocationInfo-r7-IEs");
+         data = ctx->buffer_data;
+         len = ctx->byte_index * 8 + 8 - ctx->bit_offset;
+         rtxCopyContext(ctx, &outer);
+         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+         stat = pe_BitString(ctx, len, data);
+         rtxMemHeapFreePtr(ctx, (void*)data);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-UCI", -1, "SRNC-RelocationInfo-r7-IEs");
+      }
+   }
+   /* ue-RATSpecificCapability */
+   if (pvalue->m & 0x4000u) {
+      stat = asn1PE_UMTS_InterRAT_UE_RadioAccessCapabilityList_r5(ctx, &pvalue->ue_RATSpecificCapability);
+      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability", -1, "SRNC-RelocationInfo-r7-IEs");
    }
    /* ura-Identity */
-   if (pvalue->m & 0x2000u) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
-      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportForChangeOfUE-Capability */
-   if (pvalue->m & 0x4000u) {
-      rtxCtxtPushElemName(ctx, "supportForChangeOfUE-Capability");
-      stat = rtxEncBit(ctx, pvalue->supportForChangeOfUE_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* responseToChangeOfUE-Capability */
    if (pvalue->m & 0x8000u) {
-      rtxCtxtPushElemName(ctx, "responseToChangeOfUE-Capability");
-      if (pvalue->responseToChangeOfUE_Capability > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->responseToChangeOfUE_Capability);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->responseToChangeOfUE_Capability, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (pvalue->m & 0x10000u) {
-      rtxCtxtPushElemName(ctx, "dl-CounterSynchronisationInfo");
-      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (pvalue->m & 0x20000u) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* multi-frequencyInfo */
-   if (pvalue->m & 0x40000u) {
-      rtxCtxtPushElemName(ctx, "multi-frequencyInfo");
-      stat = asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dtx-drx-TimingInfo */
-   if (pvalue->m & 0x80000u) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-TimingInfo");
-      stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dtx-drx-Info */
-   if (pvalue->m & 0x100000u) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-Info");
-      stat = asn1PE_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hs-scch-LessInfo */
-   if (pvalue->m & 0x200000u) {
-      rtxCtxtPushElemName(ctx, "hs-scch-LessInfo");
-      stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mimoParameters */
-   if (pvalue->m & 0x400000u) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
-      stat = asn1PE_UMTS_MIMO_Parameters_r7(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (pvalue->m & 0x800000u) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-DPCH-Info */
-   if (pvalue->m & 0x1000000u) {
-      rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-      stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-EDCH-Information */
-   if (pvalue->m & 0x2000000u) {
-      rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
-      stat = asn1PE_UMTS_UL_EDCH_Information_r7(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-HSPDSCH-Information */
-   if (pvalue->m & 0x4000000u) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r7(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonInformation */
-   if (pvalue->m & 0x8000000u) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-      stat = asn1PE_UMTS_DL_CommonInformation_r7(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-InformationPerRL-List */
-   if (pvalue->m & 0x10000000u) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-      stat = asn1PE_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (pvalue->m & 0x20000000u) {
-      rtxCtxtPushElemName(ctx, "mbms-PL-ServiceRestrictInfo");
-      rtxCtxtPushTypeName(ctx, "MBMS-PL-ServiceRestrictInfo-r6");
-      if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_v780ext_IEs(rtxContext* ctx, const PhysicalChannelReconfiguration_v780ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration-v780ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* harqInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "harqInfo");
-      stat = asn1PE_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hs-DSCH-TBSizeTable */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "hs-DSCH-TBSizeTable");
-      rtxCtxtPushTypeName(ctx, "HS-DSCH-TBSizeTable");
-      if (pvalue->hs_DSCH_TBSizeTable > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->hs_DSCH_TBSizeTable);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hs_DSCH_TBSizeTable, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_v7d0ext_IEs(rtxContext* ctx, const PhysicalChannelReconfiguration_v7d0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration-v7d0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* ul-EDCH-Information */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
-      stat = asn1PE_UMTS_UL_EDCH_Information_ext(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_v7f0ext_IEs(rtxContext* ctx, const PhysicalChannelReconfiguration_v7f0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration-v7f0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* mimoParameters */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
-      stat = asn1PE_UMTS_MIMO_Parameters_v7f0ext(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_v7g0ext_IEs(rtxContext* ctx, const PhysicalChannelReconfiguration_v7g0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration-v7g0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* mimoParameters */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
-      stat = asn1PE_UMTS_MIMO_Parameters_v7g0ext(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v7g0ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v7g0ext");
-   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v7g0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v7g0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v7f0ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v7f0ext");
-   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v7f0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v7f0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v7g0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v7g0NonCriticalExtensions");
-      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions(rtxContext* ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v7d0ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v7d0ext");
-   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v7d0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v7d0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v7f0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v7f0NonCriticalExtensions");
-      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v780ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v780ext");
-   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v780ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v780ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v7d0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v7d0NonCriticalExtensions");
-      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-r7 */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-r7");
-   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r7_IEs(ctx, &pvalue->physicalChannelReconfiguration_r7);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* physicalChannelReconfiguration-r7-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-r7-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->physicalChannelReconfiguration_r7_add_ext.numbits, pvalue->physicalChannelReconfiguration_r7_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v780NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v780NonCriticalExtensions");
-      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_r8_IEs_responseToChangeOfUE_Capability(rtxContext* ctx, PhysicalChannelReconfiguration_r8_IEs_responseToChangeOfUE_Capability value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_r8_IEs(rtxContext* ctx, const PhysicalChannelReconfiguration_r8_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration-r8-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 31) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 30) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 29) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 28) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 27) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 26) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 25) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 24) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 23) |
-      ((uint64_t)((pvalue->m >> 9) & 1u) << 22) |
-      ((uint64_t)((pvalue->m >> 10) & 1u) << 21) |
-      ((uint64_t)((pvalue->m >> 11) & 1u) << 20) |
-      ((uint64_t)((pvalue->m >> 12) & 1u) << 19) |
-      ((uint64_t)((pvalue->m >> 13) & 1u) << 18) |
-      ((uint64_t)((pvalue->m >> 14) & 1u) << 17) |
-      ((uint64_t)((pvalue->m >> 15) & 1u) << 16) |
-      ((uint64_t)((pvalue->m >> 16) & 1u) << 15) |
-      ((uint64_t)((pvalue->m >> 17) & 1u) << 14) |
-      ((uint64_t)((pvalue->m >> 18) & 1u) << 13) |
-      ((uint64_t)((pvalue->m >> 19) & 1u) << 12) |
-      ((uint64_t)((pvalue->m >> 20) & 1u) << 11) |
-      ((uint64_t)((pvalue->m >> 21) & 1u) << 10) |
-      ((uint64_t)((pvalue->m >> 22) & 1u) << 9) |
-      ((uint64_t)((pvalue->m >> 23) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 24) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 25) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 26) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 27) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 28) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 29) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 30) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 31) & 1u) << 0), 32);
-   RT_CHECK(ctx, stat);
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 32) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 33) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* integrityProtectionModeInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
-      stat = asn1PE_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cipheringModeInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
-      stat = asn1PE_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* activationTime */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* delayRestrictionFlag */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "delayRestrictionFlag");
-      rtxCtxtPushTypeName(ctx, "DelayRestrictionFlag");
-      if (pvalue->delayRestrictionFlag > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->delayRestrictionFlag);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->delayRestrictionFlag, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-U-RNTI */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
-      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-C-RNTI */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
-      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-DSCH-RNTI */
-   if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
-      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-H-RNTI */
-   if (pvalue->m & 0x80u) {
-      rtxCtxtPushElemName(ctx, "new-H-RNTI");
-      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newPrimary-E-RNTI */
-   if (pvalue->m & 0x100u) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newSecondary-E-RNTI */
-   if (pvalue->m & 0x200u) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
-   if (pvalue->rrc_StateIndicator > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ueMobilityStateIndicator */
-   if (pvalue->m & 0x400u) {
-      rtxCtxtPushElemName(ctx, "ueMobilityStateIndicator");
-      rtxCtxtPushTypeName(ctx, "High-MobilityDetected");
-      if (pvalue->ueMobilityStateIndicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->ueMobilityStateIndicator);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ueMobilityStateIndicator, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* utran-DRX-CycleLengthCoeff */
-   if (pvalue->m & 0x800u) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
-      stat = asn1PE_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cn-InformationInfo */
-   if (pvalue->m & 0x1000u) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ura-Identity */
-   if (pvalue->m & 0x2000u) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
       stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* supportForChangeOfUE-Capability */
-   if (pvalue->m & 0x4000u) {
-      rtxCtxtPushElemName(ctx, "supportForChangeOfUE-Capability");
-      stat = rtxEncBit(ctx, pvalue->supportForChangeOfUE_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* responseToChangeOfUE-Capability */
-   if (pvalue->m & 0x8000u) {
-      rtxCtxtPushElemName(ctx, "responseToChangeOfUE-Capability");
-      if (pvalue->responseToChangeOfUE_Capability > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->responseToChangeOfUE_Capability);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->responseToChangeOfUE_Capability, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CounterSynchronisationInfo */
+   /* srns-t-305 */
    if (pvalue->m & 0x10000u) {
-      rtxCtxtPushElemName(ctx, "dl-CounterSynchronisationInfo");
-      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if (pvalue->srns_t_305 > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->srns_t_305);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "T-305", "srns-t-305", -1, "SRNC-RelocationInfo-r7-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->srns_t_305, 0, 7);
+      RT_CHECK(ctx, stat, "T-305", "srns-t-305", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* harqInfo */
+   /* cn-CommonGSM-MAP-NAS-SysInfo */
+   stat = asn1PE_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo);
+   RT_CHECK(ctx, stat, 0, "cn-CommonGSM-MAP-NAS-SysInfo", -1, "SRNC-RelocationInfo-r7-IEs");
+   /* cn-DomainInformationList */
    if (pvalue->m & 0x20000u) {
-      rtxCtxtPushElemName(ctx, "harqInfo");
-      stat = asn1PE_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_CN_DomainInformationListFull(ctx, &pvalue->cn_DomainInformationList);
+      RT_CHECK(ctx, stat, 0, "cn-DomainInformationList", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* frequencyInfo */
+   /* ongoingMeasRepList */
    if (pvalue->m & 0x40000u) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_OngoingMeasRepList_r7(ctx, &pvalue->ongoingMeasRepList);
+      RT_CHECK(ctx, stat, 0, "ongoingMeasRepList", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* multi-frequencyInfo */
+   /* interRATCellInfoIndication */
    if (pvalue->m & 0x80000u) {
-      rtxCtxtPushElemName(ctx, "multi-frequencyInfo");
-      stat = asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      if ((uint64_t)pvalue->interRATCellInfoIndication > 3u) {
+         rtxErrAddStrParm(ctx, "InterRATCellInfoIndication");
+         rtxErrAddUIntParm(ctx, pvalue->interRATCellInfoIndication);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterRATCellInfoIndication", "interRATCellInfoIndication", -1, "SRNC-RelocationInfo-r7-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->interRATCellInfoIndication, 0, 3);
+      RT_CHECK(ctx, stat, "InterRATCellInfoIndication", "interRATCellInfoIndication", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* dtx-drx-TimingInfo */
+   /* predefinedConfigStatusList */
+   stat = asn1PE_UMTS_PredefinedConfigStatusList(ctx, &pvalue->predefinedConfigStatusList);
+   RT_CHECK(ctx, stat, 0, "predefinedConfigStatusList", -1, "SRNC-RelocationInfo-r7-IEs");
+   /* srb-InformationList */
+   stat = asn1PE_UMTS_SRB_InformationSetupList_r7(ctx, &pvalue->srb_InformationList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationList", -1, "SRNC-RelocationInfo-r7-IEs");
+   /* rab-InformationList */
    if (pvalue->m & 0x100000u) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-TimingInfo");
-      stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RAB_InformationSetupList_r7(ctx, &pvalue->rab_InformationList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationList", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* dtx-drx-Info */
+   /* ul-CommonTransChInfo */
    if (pvalue->m & 0x200000u) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-Info");
-      stat = asn1PE_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* hs-scch-LessInfo */
+   /* ul-TransChInfoList */
    if (pvalue->m & 0x400000u) {
-      rtxCtxtPushElemName(ctx, "hs-scch-LessInfo");
-      stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList_r7(ctx, &pvalue->ul_TransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-TransChInfoList", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* mimoParameters */
+   /* dl-CommonTransChInfo */
    if (pvalue->m & 0x800000u) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
-      stat = asn1PE_UMTS_MIMO_Parameters_r8(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* maxAllowedUL-TX-Power */
+   /* dl-TransChInfoList */
    if (pvalue->m & 0x1000000u) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_TransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-TransChInfoList", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* ul-DPCH-Info */
+   /* tpc-CombinationInfoList */
    if (pvalue->m & 0x2000000u) {
-      rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-      stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_TPC_CombinationInfoList(ctx, &pvalue->tpc_CombinationInfoList);
+      RT_CHECK(ctx, stat, 0, "tpc-CombinationInfoList", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* ul-EDCH-Information */
+   /* storedCompressedModeInfo */
    if (pvalue->m & 0x4000000u) {
-      rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
-      stat = asn1PE_UMTS_UL_EDCH_Information_r8(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_StoredCompressedModeInfo(ctx, &pvalue->storedCompressedModeInfo);
+      RT_CHECK(ctx, stat, 0, "storedCompressedModeInfo", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   /* dl-HSPDSCH-Information */
+   /* measurementReport */
    if (pvalue->m & 0x8000000u) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonInformation */
-   if (pvalue->m & 0x10000000u) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-      stat = asn1PE_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-InformationPerRL-List */
-   if (pvalue->m & 0x20000000u) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-      stat = asn1PE_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-SecondaryCellInfoFDD */
-   if (pvalue->m & 0x40000000u) {
-      rtxCtxtPushElemName(ctx, "dl-SecondaryCellInfoFDD");
-      stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD(ctx, &pvalue->dl_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* controlChannelDRXInfo-TDD128 */
-   if (pvalue->m & 0x80000000u) {
-      rtxCtxtPushElemName(ctx, "controlChannelDRXInfo-TDD128");
-      stat = asn1PE_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sps-Information-TDD128 */
-   if (pvalue->m & 0x100000000ull) {
-      rtxCtxtPushElemName(ctx, "sps-Information-TDD128");
-      stat = asn1PE_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (pvalue->m & 0x200000000ull) {
-      rtxCtxtPushElemName(ctx, "mbms-PL-ServiceRestrictInfo");
-      rtxCtxtPushTypeName(ctx, "MBMS-PL-ServiceRestrictInfo-r6");
-      if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
+      {
+         rtxContext outer;
+         const uint8_t* data;
+         uint32_t len;
+         rtxCopyContext(&outer, ctx);
+         stat = rtxInitContextBuffer(ctx, 0, 0);
+         RT_CHECK(ctx, stat, 0, "measurementReport", -1, "SRNC-RelocationInfo-r7-IEs");
+         stat = asn1PE_UMTS_MeasurementReport(ctx, &pvalue->measurementReport);
+         RT_CHECK(ctx, stat, 0, "measurementReport", -1, "SRNC-RelocationInfo-r7-IEs");
+         data = ctx->buffer_data;
+         len = ctx->byte_index * 8 + 8 - ctx->bit_offset;
+         rtxCopyContext(ctx, &outer);
+         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+         stat = pe_BitString(ctx, len, data);
+         rtxMemHeapFreePtr(ctx, (void*)data);
+         RT_CHECK(ctx, stat, 0, "measurementReport", -1, "SRNC-RelocationInfo-r7-IEs");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_v890ext_IEs(rtxContext* ctx, const PhysicalChannelReconfiguration_v890ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration-v890ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* dl-SecondaryCellInfoFDD-v890ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-SecondaryCellInfoFDD-v890ext");
-      stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD_v890ext(ctx, &pvalue->dl_SecondaryCellInfoFDD_v890ext);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-HSPDSCH-Information */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_ext(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_v8a0ext_IEs(rtxContext* ctx, const PhysicalChannelReconfiguration_v8a0ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration-v8a0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* dl-HSPDSCH-Information */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_ext2(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(rtxContext* ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v8a0ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v8a0ext");
-   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v8a0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v8a0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v7g0ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v7g0ext");
-   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v7g0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v7g0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v8a0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v8a0NonCriticalExtensions");
-      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions_v8a0NonCriticalExtensions(ctx, &pvalue->v8a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v890ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v890ext");
-   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v890ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v890ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v7g0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v7g0NonCriticalExtensions");
-      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v7f0ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v7f0ext");
-   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v7f0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v7f0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v890NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v890NonCriticalExtensions");
-      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(rtxContext* ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-v7d0ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-v7d0ext");
-   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_v7d0ext_IEs(ctx, &pvalue->physicalChannelReconfiguration_v7d0ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* v7f0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "v7f0NonCriticalExtensions");
-      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-r8 */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-r8");
-   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r8_IEs(ctx, &pvalue->physicalChannelReconfiguration_r8);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* physicalChannelReconfiguration-r8-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-r8-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->physicalChannelReconfiguration_r8_add_ext.numbits, pvalue->physicalChannelReconfiguration_r8_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v7d0NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v7d0NonCriticalExtensions");
-      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7d0NonCriticalExtensions(ctx, &pvalue->v7d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_r9_IEs_responseToChangeOfUE_Capability(rtxContext* ctx, PhysicalChannelReconfiguration_r9_IEs_responseToChangeOfUE_Capability value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_r9_IEs(rtxContext* ctx, const PhysicalChannelReconfiguration_r9_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration-r9-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 31) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 30) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 29) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 28) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 27) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 26) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 25) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 24) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 23) |
-      ((uint64_t)((pvalue->m >> 9) & 1u) << 22) |
-      ((uint64_t)((pvalue->m >> 10) & 1u) << 21) |
-      ((uint64_t)((pvalue->m >> 11) & 1u) << 20) |
-      ((uint64_t)((pvalue->m >> 12) & 1u) << 19) |
-      ((uint64_t)((pvalue->m >> 13) & 1u) << 18) |
-      ((uint64_t)((pvalue->m >> 14) & 1u) << 17) |
-      ((uint64_t)((pvalue->m >> 15) & 1u) << 16) |
-      ((uint64_t)((pvalue->m >> 16) & 1u) << 15) |
-      ((uint64_t)((pvalue->m >> 17) & 1u) << 14) |
-      ((uint64_t)((pvalue->m >> 18) & 1u) << 13) |
-      ((uint64_t)((pvalue->m >> 19) & 1u) << 12) |
-      ((uint64_t)((pvalue->m >> 20) & 1u) << 11) |
-      ((uint64_t)((pvalue->m >> 21) & 1u) << 10) |
-      ((uint64_t)((pvalue->m >> 22) & 1u) << 9) |
-      ((uint64_t)((pvalue->m >> 23) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 24) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 25) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 26) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 27) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 28) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 29) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 30) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 31) & 1u) << 0), 32);
-   RT_CHECK(ctx, stat);
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 32) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 33) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 34) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 35) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat);
-   /* integrityProtectionModeInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "integrityProtectionModeInfo");
-      stat = asn1PE_UMTS_IntegrityProtectionModeInfo_r7(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cipheringModeInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "cipheringModeInfo");
-      stat = asn1PE_UMTS_CipheringModeInfo_r7(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* activationTime */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "activationTime");
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* delayRestrictionFlag */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "delayRestrictionFlag");
-      rtxCtxtPushTypeName(ctx, "DelayRestrictionFlag");
-      if (pvalue->delayRestrictionFlag > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->delayRestrictionFlag);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->delayRestrictionFlag, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-U-RNTI */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "new-U-RNTI");
-      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-C-RNTI */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "new-C-RNTI");
-      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-DSCH-RNTI */
-   if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "new-DSCH-RNTI");
-      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* new-H-RNTI */
-   if (pvalue->m & 0x80u) {
-      rtxCtxtPushElemName(ctx, "new-H-RNTI");
-      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newPrimary-E-RNTI */
-   if (pvalue->m & 0x100u) {
-      rtxCtxtPushElemName(ctx, "newPrimary-E-RNTI");
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* newSecondary-E-RNTI */
-   if (pvalue->m & 0x200u) {
-      rtxCtxtPushElemName(ctx, "newSecondary-E-RNTI");
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* rrc-StateIndicator */
-   rtxCtxtPushElemName(ctx, "rrc-StateIndicator");
-   rtxCtxtPushTypeName(ctx, "RRC-StateIndicator");
-   if (pvalue->rrc_StateIndicator > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ueMobilityStateIndicator */
-   if (pvalue->m & 0x400u) {
-      rtxCtxtPushElemName(ctx, "ueMobilityStateIndicator");
-      rtxCtxtPushTypeName(ctx, "High-MobilityDetected");
-      if (pvalue->ueMobilityStateIndicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->ueMobilityStateIndicator);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ueMobilityStateIndicator, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* utran-DRX-CycleLengthCoeff */
-   if (pvalue->m & 0x800u) {
-      rtxCtxtPushElemName(ctx, "utran-DRX-CycleLengthCoeff");
-      stat = asn1PE_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(ctx, &pvalue->utran_DRX_CycleLengthCoeff);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cn-InformationInfo */
-   if (pvalue->m & 0x1000u) {
-      rtxCtxtPushElemName(ctx, "cn-InformationInfo");
-      stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ura-Identity */
-   if (pvalue->m & 0x2000u) {
-      rtxCtxtPushElemName(ctx, "ura-Identity");
-      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* supportForChangeOfUE-Capability */
-   if (pvalue->m & 0x4000u) {
-      rtxCtxtPushElemName(ctx, "supportForChangeOfUE-Capability");
-      stat = rtxEncBit(ctx, pvalue->supportForChangeOfUE_Capability);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* responseToChangeOfUE-Capability */
-   if (pvalue->m & 0x8000u) {
-      rtxCtxtPushElemName(ctx, "responseToChangeOfUE-Capability");
-      if (pvalue->responseToChangeOfUE_Capability > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->responseToChangeOfUE_Capability);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->responseToChangeOfUE_Capability, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (pvalue->m & 0x10000u) {
-      rtxCtxtPushElemName(ctx, "dl-CounterSynchronisationInfo");
-      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* harqInfo */
-   if (pvalue->m & 0x20000u) {
-      rtxCtxtPushElemName(ctx, "harqInfo");
-      stat = asn1PE_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* frequencyInfo */
-   if (pvalue->m & 0x40000u) {
-      rtxCtxtPushElemName(ctx, "frequencyInfo");
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* multi-frequencyInfo */
-   if (pvalue->m & 0x80000u) {
-      rtxCtxtPushElemName(ctx, "multi-frequencyInfo");
-      stat = asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(ctx, &pvalue->multi_frequencyInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dtx-drx-TimingInfo */
-   if (pvalue->m & 0x100000u) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-TimingInfo");
-      stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dtx-drx-Info */
-   if (pvalue->m & 0x200000u) {
-      rtxCtxtPushElemName(ctx, "dtx-drx-Info");
-      stat = asn1PE_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* hs-scch-LessInfo */
-   if (pvalue->m & 0x400000u) {
-      rtxCtxtPushElemName(ctx, "hs-scch-LessInfo");
-      stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mimoParameters */
-   if (pvalue->m & 0x800000u) {
-      rtxCtxtPushElemName(ctx, "mimoParameters");
-      stat = asn1PE_UMTS_MIMO_Parameters_r9(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* controlChannelDRXInfo-TDD128 */
-   if (pvalue->m & 0x1000000u) {
-      rtxCtxtPushElemName(ctx, "controlChannelDRXInfo-TDD128");
-      stat = asn1PE_UMTS_ControlChannelDRXInfo_TDD128_r8(ctx, &pvalue->controlChannelDRXInfo_TDD128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* sps-Information-TDD128 */
-   if (pvalue->m & 0x2000000u) {
-      rtxCtxtPushElemName(ctx, "sps-Information-TDD128");
-      stat = asn1PE_UMTS_SPS_Information_TDD128_r8(ctx, &pvalue->sps_Information_TDD128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* maxAllowedUL-TX-Power */
-   if (pvalue->m & 0x4000000u) {
-      rtxCtxtPushElemName(ctx, "maxAllowedUL-TX-Power");
-      rtxCtxtPushTypeName(ctx, "MaxAllowedUL-TX-Power");
-      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-DPCH-Info */
-   if (pvalue->m & 0x8000000u) {
-      rtxCtxtPushElemName(ctx, "ul-DPCH-Info");
-      stat = asn1PE_UMTS_UL_DPCH_Info_r7(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-EDCH-Information */
-   if (pvalue->m & 0x10000000u) {
-      rtxCtxtPushElemName(ctx, "ul-EDCH-Information");
-      stat = asn1PE_UMTS_UL_EDCH_Information_r9(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-SecondaryCellInfoFDD */
-   if (pvalue->m & 0x20000000u) {
-      rtxCtxtPushElemName(ctx, "ul-SecondaryCellInfoFDD");
-      stat = asn1PE_UMTS_UL_SecondaryCellInfoFDD(ctx, &pvalue->ul_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-HSPDSCH-Information */
-   if (pvalue->m & 0x40000000u) {
-      rtxCtxtPushElemName(ctx, "dl-HSPDSCH-Information");
-      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-CommonInformation */
-   if (pvalue->m & 0x80000000u) {
-      rtxCtxtPushElemName(ctx, "dl-CommonInformation");
-      stat = asn1PE_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-InformationPerRL-List */
-   if (pvalue->m & 0x100000000ull) {
-      rtxCtxtPushElemName(ctx, "dl-InformationPerRL-List");
-      stat = asn1PE_UMTS_DL_InformationPerRL_List_r8(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dl-SecondaryCellInfoFDD */
-   if (pvalue->m & 0x200000000ull) {
-      rtxCtxtPushElemName(ctx, "dl-SecondaryCellInfoFDD");
-      stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD_r9(ctx, &pvalue->dl_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (pvalue->m & 0x400000000ull) {
-      rtxCtxtPushElemName(ctx, "mbms-PL-ServiceRestrictInfo");
-      rtxCtxtPushTypeName(ctx, "MBMS-PL-ServiceRestrictInfo-r6");
-      if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* cellDCHMeasOccasionInfo-TDD128 */
-   if (pvalue->m & 0x800000000ull) {
-      rtxCtxtPushElemName(ctx, "cellDCHMeasOccasionInfo-TDD128");
-      stat = asn1PE_UMTS_CellDCHMeasOccasionInfo_TDD128_r9(ctx, &pvalue->cellDCHMeasOccasionInfo_TDD128);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfiguration-r9 */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-r9");
-   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r9_IEs(ctx, &pvalue->physicalChannelReconfiguration_r9);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* physicalChannelReconfiguration-r9-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "physicalChannelReconfiguration-r9-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->physicalChannelReconfiguration_r9_add_ext.numbits, pvalue->physicalChannelReconfiguration_r9_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r9");
-         if (pvalue->u.r9 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r8");
-         if (pvalue->u.r8 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r7");
-         if (pvalue->u.r7 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r6");
-         if (pvalue->u.r6 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r6(ctx, pvalue->u.r6);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r5");
-         if (pvalue->u.r5 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_r5(ctx, pvalue->u.r5);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions(rtxContext* ctx, const PhysicalChannelReconfiguration_later_than_r3_criticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r4");
-         if (pvalue->u.r4 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_r4(ctx, pvalue->u.r4);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "criticalExtensions");
-         if (pvalue->u.criticalExtensions == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3(rtxContext* ctx, const PhysicalChannelReconfiguration_later_than_r3* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* criticalExtensions */
-   rtxCtxtPushElemName(ctx, "criticalExtensions");
-   stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfiguration(rtxContext* ctx, const PhysicalChannelReconfiguration* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfiguration");
-   rtxCtxtPushElemName(ctx, "t");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   if (pvalue->t - 1 > 1) RT_RAISE(ctx, RT_ERR_INVOPT);
-   switch (pvalue->t) {
-      case 1:
-         rtxCtxtPushElemName(ctx, "r3");
-         if (pvalue->u.r3 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PhysicalChannelReconfiguration_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      case 2:
-         rtxCtxtPushElemName(ctx, "later-than-r3");
-         if (pvalue->u.later_than_r3 == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-         stat = asn1PE_UMTS_PhysicalChannelReconfiguration_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat);
-         rtxCtxtPopElemName(ctx);
-         break;
-      default:
-         break;
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfigurationComplete_v770ext_IEs_deferredMeasurementControlReading(rtxContext* ctx, PhysicalChannelReconfigurationComplete_v770ext_IEs_deferredMeasurementControlReading value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfigurationComplete_v770ext_IEs(rtxContext* ctx, const PhysicalChannelReconfigurationComplete_v770ext_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfigurationComplete-v770ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* ext-UL-TimingAdvance */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ext-UL-TimingAdvance");
-      stat = asn1PE_UMTS_EXT_UL_TimingAdvance(ctx, &pvalue->ext_UL_TimingAdvance);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* deferredMeasurementControlReading */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "deferredMeasurementControlReading");
-      if (pvalue->deferredMeasurementControlReading > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->deferredMeasurementControlReading);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->deferredMeasurementControlReading, 0, 0);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions(rtxContext* ctx, const PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfigurationComplete-v770ext */
-   rtxCtxtPushElemName(ctx, "physicalChannelReconfigurationComplete-v770ext");
-   stat = asn1PE_UMTS_PhysicalChannelReconfigurationComplete_v770ext_IEs(ctx, &pvalue->physicalChannelReconfigurationComplete_v770ext);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions(rtxContext* ctx, const PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfigurationComplete-r3-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "physicalChannelReconfigurationComplete-r3-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->physicalChannelReconfigurationComplete_r3_add_ext.numbits, pvalue->physicalChannelReconfigurationComplete_r3_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* v770NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "v770NonCriticalExtensions");
-      stat = asn1PE_UMTS_PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfigurationComplete(rtxContext* ctx, const PhysicalChannelReconfigurationComplete* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfigurationComplete");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat);
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ul-IntegProtActivationInfo */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ul-IntegProtActivationInfo");
-      stat = asn1PE_UMTS_IntegrityProtActivationInfo(ctx, &pvalue->ul_IntegProtActivationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-TimingAdvance */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ul-TimingAdvance");
-      rtxCtxtPushTypeName(ctx, "UL-TimingAdvance");
-      if ((uint64_t)pvalue->ul_TimingAdvance > 63u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->ul_TimingAdvance);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ul_TimingAdvance, 0, 63);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* count-C-ActivationTime */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "count-C-ActivationTime");
-      rtxCtxtPushTypeName(ctx, "ActivationTime");
-      stat = pe_ConsUInt64(ctx, pvalue->count_C_ActivationTime, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* dummy */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "dummy");
-      stat = asn1PE_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* ul-CounterSynchronisationInfo */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "ul-CounterSynchronisationInfo");
-      stat = asn1PE_UMTS_UL_CounterSynchronisationInfo(ctx, &pvalue->ul_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* laterNonCriticalExtensions */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      stat = asn1PE_UMTS_PhysicalChannelReconfigurationComplete_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   rtxCtxtPopTypeName(ctx);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfigurationFailure_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const PhysicalChannelReconfigurationFailure_laterNonCriticalExtensions_nonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfigurationFailure_laterNonCriticalExtensions(rtxContext* ctx, const PhysicalChannelReconfigurationFailure_laterNonCriticalExtensions* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* physicalChannelReconfigurationFailure-r3-add-ext */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "physicalChannelReconfigurationFailure-r3-add-ext");
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->physicalChannelReconfigurationFailure_r3_add_ext.numbits, pvalue->physicalChannelReconfigurationFailure_r3_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_PhysicalChannelReconfigurationFailure_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelReconfigurationFailure(rtxContext* ctx, const PhysicalChannelReconfigurationFailure* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PhysicalChannelReconfigurationFailure");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* rrc-TransactionIdentifier */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-      rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-      if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-         rtxErrAddElemNameParm(ctx);
-         rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-         RT_RAISE(ctx, RT_ERR_CONSVIO);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopTypeName(ctx);
-      rtxCtxtPopElemName(ctx);
    }
    /* failureCause */
-   rtxCtxtPushElemName(ctx, "failureCause");
-   stat = asn1PE_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* laterNonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      stat = asn1PE_UMTS_PhysicalChannelReconfigurationFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   if (pvalue->m & 0x10000000u) {
+      stat = asn1PE_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
+      RT_CHECK(ctx, stat, 0, "failureCause", -1, "SRNC-RelocationInfo-r7-IEs");
    }
-   rtxCtxtPopTypeName(ctx);
+   /* mbms-JoinedInformation */
+   if (pvalue->m & 0x20000000u) {
+      stat = asn1PE_UMTS_MBMS_JoinedInformation_r6(ctx, &pvalue->mbms_JoinedInformation);
+      RT_CHECK(ctx, stat, 0, "mbms-JoinedInformation", -1, "SRNC-RelocationInfo-r7-IEs");
+   }
+   /* mbmsSelectedServiceInfo */
+   if (pvalue->m & 0x40000000u) {
+      stat = asn1PE_UMTS_MBMS_SelectedServiceInfo(ctx, &pvalue->mbmsSelectedServiceInfo);
+      RT_CHECK(ctx, stat, 0, "mbmsSelectedServiceInfo", -1, "SRNC-RelocationInfo-r7-IEs");
+   }
+   return stat;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r7_add_ext_IEs_v7f0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r7_add_ext_IEs_v7f0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_PhysicalSharedChannelAllocation_r3_IEs_confirmRequest(rtxContext* ctx, PhysicalSharedChannelAllocation_r3_IEs_confirmRequest value)
+int asn1PE_UMTS_SRNC_RelocationInfo_r7_add_ext_IEs_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r7_add_ext_IEs_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalSharedChannelAllocation_r3_IEs(rtxContext* ctx, const PhysicalSharedChannelAllocation_r3_IEs* pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PhysicalSharedChannelAllocation-r3-IEs");
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 0), 7);
-   RT_CHECK(ctx, stat);
-   /* dsch-RNTI */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v7f0ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v7f0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v7f0ext", -1, 0);
+   /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "dsch-RNTI");
-      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->dsch_RNTI);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r7_add_ext_IEs_v7f0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
-   /* rrc-TransactionIdentifier */
-   rtxCtxtPushElemName(ctx, "rrc-TransactionIdentifier");
-   rtxCtxtPushTypeName(ctx, "RRC-TransactionIdentifier");
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddElemNameParm(ctx);
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_RAISE(ctx, RT_ERR_CONSVIO);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopTypeName(ctx);
-   rtxCtxtPopElemName(ctx);
-   /* ul-TimingAdvance */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "ul-TimingAdvance");
-      stat = asn1PE_UMTS_UL_TimingAdvanceControl(ctx, &pvalue->ul_TimingAdvance);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pusch-CapacityAllocationInfo */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "pusch-CapacityAllocationInfo");
-      stat = asn1PE_UMTS_PUSCH_CapacityAllocationInfo(ctx, &pvalue->pusch_CapacityAllocationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* pdsch-CapacityAllocationInfo */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "pdsch-CapacityAllocationInfo");
-      stat = asn1PE_UMTS_PDSCH_CapacityAllocationInfo(ctx, &pvalue->pdsch_CapacityAllocationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* confirmRequest */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "confirmRequest");
-      if (pvalue->confirmRequest > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->confirmRequest);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->confirmRequest, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* trafficVolumeReportRequest */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "trafficVolumeReportRequest");
-      stat = pe_ConsUInt64(ctx, pvalue->trafficVolumeReportRequest, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* iscpTimeslotList */
-   if (pvalue->m & 0x40u) {
-      rtxCtxtPushElemName(ctx, "iscpTimeslotList");
-      stat = asn1PE_UMTS_TimeslotList(ctx, &pvalue->iscpTimeslotList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* requestPCCPCHRSCP */
-   rtxCtxtPushElemName(ctx, "requestPCCPCHRSCP");
-   stat = rtxEncBit(ctx, pvalue->requestPCCPCHRSCP);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 
-int asn1PE_UMTS_PhysicalSharedChannelAllocation_r3_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* ctx, const PhysicalSharedChannelAllocation_r3_laterNonCriticalExtensions_nonCriticalExtensions* pvalue)
+int asn1PE_UMTS_SRNC_RelocationInfo_r7_add_ext_IEs(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r7_add_ext_IEs* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRNC-RelocationInfo-r7-add-ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-r7-add-ext-IEs");
+   /* sRNC-RelocationInfo-v7e0ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v7e0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v7e0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v7e0ext", -1, "SRNC-RelocationInfo-r7-add-ext-IEs");
+   /* v7f0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r7_add_ext_IEs_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, "SRNC-RelocationInfo-r7-add-ext-IEs");
+   }
    return 0;
 }
 
-int asn1PE_UMTS_PhysicalSharedChannelAllocation_r3_laterNonCriticalExtensions(rtxContext* ctx, const PhysicalSharedChannelAllocation_r3_laterNonCriticalExtensions* pvalue)
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7_v820NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7_v820NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7_v820NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7_v820NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v860ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v860ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v860ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7_v820NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7_v820NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7_v820NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* srnc-RelocationInfo-v820ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v820ext_IEs(ctx, &pvalue->srnc_RelocationInfo_v820ext);
+   RT_CHECK(ctx, stat, 0, "srnc-RelocationInfo-v820ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7_v820NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat);
-   /* physicalSharedChannelAllocation-r3-add-ext */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-r7 */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_r7_IEs(ctx, &pvalue->sRNC_RelocationInfo_r7);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-r7", -1, 0);
+   /* sRNC-RelocationInfo-r7-add-ext */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "physicalSharedChannelAllocation-r3-add-ext");
+      {
+         rtxContext outer;
+         const uint8_t* data;
+         uint32_t len;
+         rtxCopyContext(&outer, ctx);
+         stat = rtxInitContextBuffer(ctx, 0, 0);
+         RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-r7-add-ext", -1, 0);
+         stat = asn1PE_UMTS_SRNC_RelocationInfo_r7_add_ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_r7_add_ext);
+         RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-r7-add-ext", -1, 0);
+         data = ctx->buffer_data;
+         len = ctx->byte_index * 8 + 8 - ctx->bit_offset;
+         rtxCopyContext(ctx, &outer);
+         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+         stat = pe_BitString(ctx, len, data);
+         rtxMemHeapFreePtr(ctx, (void*)data);
+         RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-r7-add-ext", -1, 0);
+      }
+   }
+   /* v820NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7_v820NonCriticalExtensions(ctx, &pvalue->v820NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v820NonCriticalExtensions", -1, 0);
+   }
+   return stat;
+}
+
+int asn1PE_UMTS_MeasurementCommandWithType_r8(rtxContext* RT_RESTRICT ctx, const MeasurementCommandWithType_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCommandWithType-r8");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, "MeasurementCommandWithType-r8");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommandWithType-r8");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.setup == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "setup", -1, "MeasurementCommandWithType-r8");
+         stat = asn1PE_UMTS_MeasurementType_r8(ctx, pvalue->u.setup);
+         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommandWithType-r8");
+         break;
+      case 2:
+         break;
+      case 3:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_OngoingMeasRep_r8(rtxContext* RT_RESTRICT ctx, const OngoingMeasRep_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "OngoingMeasRep-r8");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "OngoingMeasRep-r8");
+   /* measurementIdentity */
+   if ((uint64_t)(pvalue->measurementIdentity - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "MeasurementIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->measurementIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementIdentity", "measurementIdentity", -1, "OngoingMeasRep-r8");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->measurementIdentity, 1, 16);
+   RT_CHECK(ctx, stat, "MeasurementIdentity", "measurementIdentity", -1, "OngoingMeasRep-r8");
+   /* measurementCommandWithType */
+   stat = asn1PE_UMTS_MeasurementCommandWithType_r8(ctx, &pvalue->measurementCommandWithType);
+   RT_CHECK(ctx, stat, 0, "measurementCommandWithType", -1, "OngoingMeasRep-r8");
+   /* measurementReportingMode */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
+      RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "OngoingMeasRep-r8");
+   }
+   /* additionalMeasurementID-List */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementID_List);
+      RT_CHECK(ctx, stat, 0, "additionalMeasurementID-List", -1, "OngoingMeasRep-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_OngoingMeasRepList_r8(rtxContext* RT_RESTRICT ctx, const OngoingMeasRepList_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "OngoingMeasRepList-r8");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "OngoingMeasRepList-r8");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "OngoingMeasRep-r8", (int32_t)i, "OngoingMeasRepList-r8");
+      stat = asn1PE_UMTS_OngoingMeasRep_r8(ctx, (const OngoingMeasRep_r8*)node->data);
+      RT_CHECK(ctx, stat, 0, "OngoingMeasRep-r8", (int32_t)i, "OngoingMeasRepList-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_StoredTGP_Sequence_r8_current_tgps_Status_active(rtxContext* RT_RESTRICT ctx, const StoredTGP_Sequence_r8_current_tgps_Status_active* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tgcfn */
+   stat = pe_ConsUInt64(ctx, pvalue->tgcfn, 0, 255);
+   RT_CHECK(ctx, stat, "TGCFN", "tgcfn", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_StoredTGP_Sequence_r8_current_tgps_Status(rtxContext* RT_RESTRICT ctx, const StoredTGP_Sequence_r8_current_tgps_Status* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.active == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "active", -1, 0);
+         stat = asn1PE_UMTS_StoredTGP_Sequence_r8_current_tgps_Status_active(ctx, pvalue->u.active);
+         RT_CHECK(ctx, stat, 0, "active", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_StoredTGP_Sequence_r8(rtxContext* RT_RESTRICT ctx, const StoredTGP_Sequence_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "StoredTGP-Sequence-r8");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "StoredTGP-Sequence-r8");
+   /* tgpsi */
+   if ((uint64_t)(pvalue->tgpsi - 1) > 5u) {
+      rtxErrAddStrParm(ctx, "TGPSI");
+      rtxErrAddUIntParm(ctx, pvalue->tgpsi);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TGPSI", "tgpsi", -1, "StoredTGP-Sequence-r8");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->tgpsi, 1, 6);
+   RT_CHECK(ctx, stat, "TGPSI", "tgpsi", -1, "StoredTGP-Sequence-r8");
+   /* current-tgps-Status */
+   stat = asn1PE_UMTS_StoredTGP_Sequence_r8_current_tgps_Status(ctx, &pvalue->current_tgps_Status);
+   RT_CHECK(ctx, stat, 0, "current-tgps-Status", -1, "StoredTGP-Sequence-r8");
+   /* tgps-ConfigurationParams */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_TGPS_ConfigurationParams_r8(ctx, &pvalue->tgps_ConfigurationParams);
+      RT_CHECK(ctx, stat, 0, "tgps-ConfigurationParams", -1, "StoredTGP-Sequence-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_StoredTGP_SequenceList_r8(rtxContext* RT_RESTRICT ctx, const StoredTGP_SequenceList_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "StoredTGP-SequenceList-r8");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 6);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "StoredTGP-SequenceList-r8");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "StoredTGP-Sequence-r8", (int32_t)i, "StoredTGP-SequenceList-r8");
+      stat = asn1PE_UMTS_StoredTGP_Sequence_r8(ctx, (const StoredTGP_Sequence_r8*)node->data);
+      RT_CHECK(ctx, stat, 0, "StoredTGP-Sequence-r8", (int32_t)i, "StoredTGP-SequenceList-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_StoredCompressedModeInfo_r8(rtxContext* RT_RESTRICT ctx, const StoredCompressedModeInfo_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "StoredCompressedModeInfo-r8");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "StoredCompressedModeInfo-r8");
+   /* storedTGP-SequenceList */
+   stat = asn1PE_UMTS_StoredTGP_SequenceList_r8(ctx, &pvalue->storedTGP_SequenceList);
+   RT_CHECK(ctx, stat, 0, "storedTGP-SequenceList", -1, "StoredCompressedModeInfo-r8");
+   /* codeChangeStatusList */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_CodeChangeStatusList(ctx, &pvalue->codeChangeStatusList);
+      RT_CHECK(ctx, stat, 0, "codeChangeStatusList", -1, "StoredCompressedModeInfo-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r8_IEs(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r8_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRNC-RelocationInfo-r8-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 31) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 30) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 29) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 28) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 27) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 26) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 25) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 24) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 23) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 22) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 21) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 20) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 20) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 21) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 22) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 23) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 24) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 25) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 26) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 27) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 28) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 29) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 30) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 31) & 1u) << 0), 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-r8-IEs");
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 32) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-r8-IEs");
+   /* rb-IdentityForHOMessage */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->rb_IdentityForHOMessage - 1) > 31u) {
+         rtxErrAddStrParm(ctx, "RB-Identity");
+         rtxErrAddUIntParm(ctx, pvalue->rb_IdentityForHOMessage);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-IdentityForHOMessage", -1, "SRNC-RelocationInfo-r8-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->rb_IdentityForHOMessage, 1, 32);
+      RT_CHECK(ctx, stat, "RB-Identity", "rb-IdentityForHOMessage", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   /* stateOfRRC */
+   if (pvalue->stateOfRRC > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->stateOfRRC);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "StateOfRRC", "stateOfRRC", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->stateOfRRC, 0, 3);
+   RT_CHECK(ctx, stat, "StateOfRRC", "stateOfRRC", -1, "SRNC-RelocationInfo-r8-IEs");
+   /* stateOfRRC-Procedure */
+   if (pvalue->stateOfRRC_Procedure > 11) {
+      rtxErrAddUIntParm(ctx, pvalue->stateOfRRC_Procedure);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "StateOfRRC-Procedure", "stateOfRRC-Procedure", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->stateOfRRC_Procedure, 0, 11);
+   RT_CHECK(ctx, stat, "StateOfRRC-Procedure", "stateOfRRC-Procedure", -1, "SRNC-RelocationInfo-r8-IEs");
+   /* cipheringStatusList */
+   stat = asn1PE_UMTS_CipheringStatusList_r4(ctx, &pvalue->cipheringStatusList);
+   RT_CHECK(ctx, stat, 0, "cipheringStatusList", -1, "SRNC-RelocationInfo-r8-IEs");
+   /* latestConfiguredCN-Domain */
+   if (pvalue->latestConfiguredCN_Domain > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->latestConfiguredCN_Domain);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "latestConfiguredCN-Domain", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->latestConfiguredCN_Domain, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "latestConfiguredCN-Domain", -1, "SRNC-RelocationInfo-r8-IEs");
+   /* calculationTimeForCiphering */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CalculationTimeForCiphering(ctx, &pvalue->calculationTimeForCiphering);
+      RT_CHECK(ctx, stat, 0, "calculationTimeForCiphering", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   /* count-C-List */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_COUNT_C_List(ctx, &pvalue->count_C_List);
+      RT_CHECK(ctx, stat, 0, "count-C-List", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   /* cipheringInfoPerRB-List */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_CipheringInfoPerRB_List_r4(ctx, &pvalue->cipheringInfoPerRB_List);
+      RT_CHECK(ctx, stat, 0, "cipheringInfoPerRB-List", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   /* integrityProtectionStatus */
+   if (pvalue->integrityProtectionStatus > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->integrityProtectionStatus);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "IntegrityProtectionStatus", "integrityProtectionStatus", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->integrityProtectionStatus, 0, 1);
+   RT_CHECK(ctx, stat, "IntegrityProtectionStatus", "integrityProtectionStatus", -1, "SRNC-RelocationInfo-r8-IEs");
+   /* srb-SpecificIntegrityProtInfo */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_SRB_SpecificIntegrityProtInfoList(ctx, &pvalue->srb_SpecificIntegrityProtInfo);
+      RT_CHECK(ctx, stat, 0, "srb-SpecificIntegrityProtInfo", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   /* implementationSpecificParams */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_ImplementationSpecificParams(ctx, &pvalue->implementationSpecificParams);
+      RT_CHECK(ctx, stat, 0, "implementationSpecificParams", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   /* u-RNTI */
+   stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, "SRNC-RelocationInfo-r8-IEs");
+   /* c-RNTI */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->c_RNTI);
+      RT_CHECK(ctx, stat, 0, "c-RNTI", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   /* ue-RadioAccessCapability */
+   stat = asn1PE_UMTS_UE_RadioAccessCapability_r6(ctx, &pvalue->ue_RadioAccessCapability);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "SRNC-RelocationInfo-r8-IEs");
+   /* ue-RadioAccessCapability-ext */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapabBandFDDList(ctx, &pvalue->ue_RadioAccessCapability_ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-ext", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   /* ue-Positioning-LastKnownPos */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_UE_Positioning_LastKnownPos(ctx, &pvalue->ue_Positioning_LastKnownPos);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-LastKnownPos", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   /* uESpecificBehaviourInformation1idle */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_UESpecificBehaviourInformation1idle(ctx, pvalue->uESpecificBehaviourInformation1idle);
+      RT_CHECK(ctx, stat, 0, "uESpecificBehaviourInformation1idle", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   /* uESpecificBehaviourInformation1interRAT */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_UESpecificBehaviourInformation1interRAT(ctx, pvalue->uESpecificBehaviourInformation1interRAT);
+      RT_CHECK(ctx, stat, 0, "uESpecificBehaviourInformation1interRAT", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   /* ueCapabilityContainer */
+   if (pvalue->m & 0x800u) {
+      {
+         rtxContext outer;
+         const uint8_t* data;
+         uint32_t len;
+         rtxCopyContext(&outer, ctx);
+         stat = rtxInitContextBuffer(ctx, 0, 0);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer", -1, "SRNC-RelocationInfo-r8-IEs");
+         stat = asn1PE_UMTS_UE_CapabilityContainer_IEs(ctx, &pvalue->ueCapabilityContainer);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer", -1, "SRNC-RelocationInfo-r8-IEs");
+         data = ctx->buffer_data;
+         len = ctx->byte_index * 8 + 8 - ctx->bit_offset;
+         rtxCopyContext(ctx, &outer);
+         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+         stat = pe_BitString(ctx, len, data);
+         rtxMemHeapFreePtr(ctx, (void*)data);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer", -1, "SRNC-RelocationInfo-r8-IEs");
+      }
+   }
+   /* ueCapabilityContainer-RSC */
+   if (pvalue->m & 0x1000u) {
+      {
+         rtxContext outer;
+         const uint8_t* data;
+         uint32_t len;
+         rtxCopyContext(&outer, ctx);
+         stat = rtxInitContextBuffer(ctx, 0, 0);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-RSC", -1, "SRNC-RelocationInfo-r8-IEs");
+         stat = asn1PE_UMTS_RRCConnectionSetupComplete_r3_add_ext_IEs(ctx, &pvalue->ueCapabilityContainer_RSC);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-RSC", -1, "SRNC-RelocationInfo-r8-IEs");
+         data = ctx->buffer_data;
+         len = ctx->byte_index * 8 + 8 - ctx->bit_offset;
+         rtxCopyContext(ctx, &outer);
+         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+         stat = pe_BitString(ctx, len, data);
+         rtxMemHeapFreePtr(ctx, (void*)data);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-RSC", -1, "SRNC-RelocationInfo-r8-IEs");
+      }
+   }
+   /* ueCapabilityContainer-UCI */
+   if (pvalue->m & 0x2000u) {
+      {
+         rtxContext outer;
+         const uint8_t* data;
+         uint32_t len;
+         rtxCopyContext(&outer, ctx);
+         stat = rtxInitContextBuffer(ctx, 0, 0);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-UCI", -1, "SRNC-RelocationInfo-r8-IEs");
+         stat = asn1PE_UMTS_UECapabilityInformation_r3_add_ext_IEs(ctx, &pvalue->ueCapabilityContainer_UCI);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-UCI", -1, "SRNC-RelocationInfo-r8-IEs");
+         data = ctx->buffer_data;
+         len = ctx->byte_index * 8 + 8 - ctx->bit_offset;
+         rtxCopyContext(ctx, &outer);
+         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+         stat = pe_BitString(ctx, len, data);
+         rtxMemHeapFreePtr(ctx, (void*)data);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-UCI", -1, "SRNC-RelocationInfo-r8-IEs");
+      }
+   }
+   /* ue-RATSpecificCapability */
+   if (pvalue->m & 0x4000u) {
+      stat = asn1PE_UMTS_InterRAT_UE_RadioAccessCapabilityList_r5(ctx, &pvalue->ue_RATSpecificCapability);
+      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x8000u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   /* srns-t-305 */
+   if (pvalue->m & 0x10000u) {
+      if (pvalue->srns_t_305 > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->srns_t_305);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "T-305", "srns-t-305", -1, "SRNC-RelocationInfo-r8-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->srns_t_305, 0, 7);
+      RT_CHECK(ctx, stat, "T-305", "srns-t-305", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   /* cn-CommonGSM-MAP-NAS-SysInfo */
+   stat = asn1PE_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo);
+   RT_CHECK(ctx, stat, 0, "cn-CommonGSM-MAP-NAS-SysInfo", -1, "SRNC-RelocationInfo-r8-IEs");
+   /* cn-DomainInformationList */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_CN_DomainInformationListFull(ctx, &pvalue->cn_DomainInformationList);
+      RT_CHECK(ctx, stat, 0, "cn-DomainInformationList", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   /* ongoingMeasRepList */
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_OngoingMeasRepList_r8(ctx, &pvalue->ongoingMeasRepList);
+      RT_CHECK(ctx, stat, 0, "ongoingMeasRepList", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   /* interRATCellInfoIndication */
+   if (pvalue->m & 0x80000u) {
+      if ((uint64_t)pvalue->interRATCellInfoIndication > 3u) {
+         rtxErrAddStrParm(ctx, "InterRATCellInfoIndication");
+         rtxErrAddUIntParm(ctx, pvalue->interRATCellInfoIndication);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterRATCellInfoIndication", "interRATCellInfoIndication", -1, "SRNC-RelocationInfo-r8-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->interRATCellInfoIndication, 0, 3);
+      RT_CHECK(ctx, stat, "InterRATCellInfoIndication", "interRATCellInfoIndication", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   /* predefinedConfigStatusList */
+   stat = asn1PE_UMTS_PredefinedConfigStatusList(ctx, &pvalue->predefinedConfigStatusList);
+   RT_CHECK(ctx, stat, 0, "predefinedConfigStatusList", -1, "SRNC-RelocationInfo-r8-IEs");
+   /* srb-InformationList */
+   stat = asn1PE_UMTS_SRB_InformationSetupList_r8(ctx, &pvalue->srb_InformationList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationList", -1, "SRNC-RelocationInfo-r8-IEs");
+   /* rab-InformationList */
+   if (pvalue->m & 0x100000u) {
+      stat = asn1PE_UMTS_RAB_InformationSetupList_r8(ctx, &pvalue->rab_InformationList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationList", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x200000u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   /* ul-TransChInfoList */
+   if (pvalue->m & 0x400000u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_TransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-TransChInfoList", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x800000u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   /* dl-TransChInfoList */
+   if (pvalue->m & 0x1000000u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r7(ctx, &pvalue->dl_TransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-TransChInfoList", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   /* tpc-CombinationInfoList */
+   if (pvalue->m & 0x2000000u) {
+      stat = asn1PE_UMTS_TPC_CombinationInfoList(ctx, &pvalue->tpc_CombinationInfoList);
+      RT_CHECK(ctx, stat, 0, "tpc-CombinationInfoList", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   /* e-RGCH-CombinationInfoList */
+   if (pvalue->m & 0x4000000u) {
+      stat = asn1PE_UMTS_E_RGCH_CombinationInfoList(ctx, &pvalue->e_RGCH_CombinationInfoList);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-CombinationInfoList", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   /* storedCompressedModeInfo */
+   if (pvalue->m & 0x8000000u) {
+      stat = asn1PE_UMTS_StoredCompressedModeInfo_r8(ctx, &pvalue->storedCompressedModeInfo);
+      RT_CHECK(ctx, stat, 0, "storedCompressedModeInfo", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   /* measurementReport */
+   if (pvalue->m & 0x10000000u) {
+      {
+         rtxContext outer;
+         const uint8_t* data;
+         uint32_t len;
+         rtxCopyContext(&outer, ctx);
+         stat = rtxInitContextBuffer(ctx, 0, 0);
+         RT_CHECK(ctx, stat, 0, "measurementReport", -1, "SRNC-RelocationInfo-r8-IEs");
+         stat = asn1PE_UMTS_MeasurementReport(ctx, &pvalue->measurementReport);
+         RT_CHECK(ctx, stat, 0, "measurementReport", -1, "SRNC-RelocationInfo-r8-IEs");
+         data = ctx->buffer_data;
+         len = ctx->byte_index * 8 + 8 - ctx->bit_offset;
+         rtxCopyContext(ctx, &outer);
+         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+         stat = pe_BitString(ctx, len, data);
+         rtxMemHeapFreePtr(ctx, (void*)data);
+         RT_CHECK(ctx, stat, 0, "measurementReport", -1, "SRNC-RelocationInfo-r8-IEs");
+      }
+   }
+   /* failureCause */
+   if (pvalue->m & 0x20000000u) {
+      stat = asn1PE_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
+      RT_CHECK(ctx, stat, 0, "failureCause", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   /* ue-HistoryInformation */
+   if (pvalue->m & 0x40000000u) {
+      stat = asn1PE_UMTS_UE_HistoryInformation(ctx, &pvalue->ue_HistoryInformation);
+      RT_CHECK(ctx, stat, 0, "ue-HistoryInformation", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   /* mbms-JoinedInformation */
+   if (pvalue->m & 0x80000000u) {
+      stat = asn1PE_UMTS_MBMS_JoinedInformation_r6(ctx, &pvalue->mbms_JoinedInformation);
+      RT_CHECK(ctx, stat, 0, "mbms-JoinedInformation", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   /* mbmsSelectedServiceInfo */
+   if (pvalue->m & 0x100000000ull) {
+      stat = asn1PE_UMTS_MBMS_SelectedServiceInfo(ctx, &pvalue->mbmsSelectedServiceInfo);
+      RT_CHECK(ctx, stat, 0, "mbmsSelectedServiceInfo", -1, "SRNC-RelocationInfo-r8-IEs");
+   }
+   return stat;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v7f0ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v7f0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v7f0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v7f0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7e0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7e0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-v7e0ext */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_v7e0ext_IEs(ctx, &pvalue->sRNC_RelocationInfo_v7e0ext);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-v7e0ext", -1, 0);
+   /* v7f0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7e0NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-r8 */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_r8_IEs(ctx, &pvalue->sRNC_RelocationInfo_r8);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-r8", -1, 0);
+   /* sRNC-RelocationInfo-r8-add-ext */
+   if (pvalue->m & 0x1u) {
       RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->physicalSharedChannelAllocation_r3_add_ext.numbits, pvalue->physicalSharedChannelAllocation_r3_add_ext.data);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = pe_BitString(ctx, pvalue->sRNC_RelocationInfo_r8_add_ext.numbits, pvalue->sRNC_RelocationInfo_r8_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-r8-add-ext", -1, 0);
+   }
+   /* v7e0NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8_v7e0NonCriticalExtensions(ctx, &pvalue->v7e0NonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "v7e0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementCommandWithType_r9(rtxContext* RT_RESTRICT ctx, const MeasurementCommandWithType_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCommandWithType-r9");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK(ctx, stat, 0, "t", -1, "MeasurementCommandWithType-r9");
+   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommandWithType-r9");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.setup == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "setup", -1, "MeasurementCommandWithType-r9");
+         stat = asn1PE_UMTS_MeasurementType_r9(ctx, pvalue->u.setup);
+         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommandWithType-r9");
+         break;
+      case 2:
+         break;
+      case 3:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_OngoingMeasRep_r9(rtxContext* RT_RESTRICT ctx, const OngoingMeasRep_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "OngoingMeasRep-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, "OngoingMeasRep-r9");
+   /* measurementIdentity */
+   if ((uint64_t)(pvalue->measurementIdentity - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "MeasurementIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->measurementIdentity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementIdentity", "measurementIdentity", -1, "OngoingMeasRep-r9");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->measurementIdentity, 1, 16);
+   RT_CHECK(ctx, stat, "MeasurementIdentity", "measurementIdentity", -1, "OngoingMeasRep-r9");
+   /* measurementCommandWithType */
+   stat = asn1PE_UMTS_MeasurementCommandWithType_r9(ctx, &pvalue->measurementCommandWithType);
+   RT_CHECK(ctx, stat, 0, "measurementCommandWithType", -1, "OngoingMeasRep-r9");
+   /* measurementReportingMode */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
+      RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "OngoingMeasRep-r9");
+   }
+   /* additionalMeasurementID-List */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_AdditionalMeasurementID_List(ctx, &pvalue->additionalMeasurementID_List);
+      RT_CHECK(ctx, stat, 0, "additionalMeasurementID-List", -1, "OngoingMeasRep-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_OngoingMeasRepList_r9(rtxContext* RT_RESTRICT ctx, const OngoingMeasRepList_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "OngoingMeasRepList-r9");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "OngoingMeasRepList-r9");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "OngoingMeasRep-r9", (int32_t)i, "OngoingMeasRepList-r9");
+      stat = asn1PE_UMTS_OngoingMeasRep_r9(ctx, (const OngoingMeasRep_r9*)node->data);
+      RT_CHECK(ctx, stat, 0, "OngoingMeasRep-r9", (int32_t)i, "OngoingMeasRepList-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TPC_Combination_Info_r9(rtxContext* RT_RESTRICT ctx, const TPC_Combination_Info_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TPC-Combination-Info-r9");
+   /* primaryCPICH-Info */
+   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "TPC-Combination-Info-r9");
+   /* tpc-CombinationIndex */
+   if ((uint64_t)pvalue->tpc_CombinationIndex > 5u) {
+      rtxErrAddStrParm(ctx, "TPC-CombinationIndex");
+      rtxErrAddUIntParm(ctx, pvalue->tpc_CombinationIndex);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, "TPC-Combination-Info-r9");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->tpc_CombinationIndex, 0, 5);
+   RT_CHECK(ctx, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, "TPC-Combination-Info-r9");
+   return 0;
+}
+
+int asn1PE_UMTS_TPC_CombinationInfoList_r9(rtxContext* RT_RESTRICT ctx, const TPC_CombinationInfoList_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TPC-CombinationInfoList-r9");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "TPC-CombinationInfoList-r9");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "TPC-Combination-Info-r9", (int32_t)i, "TPC-CombinationInfoList-r9");
+      stat = asn1PE_UMTS_TPC_Combination_Info_r9(ctx, (const TPC_Combination_Info_r9*)node->data);
+      RT_CHECK(ctx, stat, 0, "TPC-Combination-Info-r9", (int32_t)i, "TPC-CombinationInfoList-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_RGCH_Combination_Info_r9(rtxContext* RT_RESTRICT ctx, const E_RGCH_Combination_Info_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-RGCH-Combination-Info-r9");
+   /* primaryCPICH-Info */
+   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "E-RGCH-Combination-Info-r9");
+   /* rg-CombinationIndex */
+   if ((uint64_t)pvalue->rg_CombinationIndex > 5u) {
+      rtxErrAddStrParm(ctx, "rg-CombinationIndex");
+      rtxErrAddUIntParm(ctx, pvalue->rg_CombinationIndex);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rg-CombinationIndex", -1, "E-RGCH-Combination-Info-r9");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rg_CombinationIndex, 0, 5);
+   RT_CHECK(ctx, stat, 0, "rg-CombinationIndex", -1, "E-RGCH-Combination-Info-r9");
+   return 0;
+}
+
+int asn1PE_UMTS_E_RGCH_CombinationInfoList_r9(rtxContext* RT_RESTRICT ctx, const E_RGCH_CombinationInfoList_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-RGCH-CombinationInfoList-r9");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "E-RGCH-CombinationInfoList-r9");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "E-RGCH-Combination-Info-r9", (int32_t)i, "E-RGCH-CombinationInfoList-r9");
+      stat = asn1PE_UMTS_E_RGCH_Combination_Info_r9(ctx, (const E_RGCH_Combination_Info_r9*)node->data);
+      RT_CHECK(ctx, stat, 0, "E-RGCH-Combination-Info-r9", (int32_t)i, "E-RGCH-CombinationInfoList-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r9_IEs(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r9_IEs* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRNC-RelocationInfo-r9-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 31) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 30) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 29) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 28) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 27) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 26) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 25) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 24) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 23) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 22) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 21) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 20) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 19) |
+      ((uint64_t)((pvalue->m >> 13) & 1u) << 18) |
+      ((uint64_t)((pvalue->m >> 14) & 1u) << 17) |
+      ((uint64_t)((pvalue->m >> 15) & 1u) << 16) |
+      ((uint64_t)((pvalue->m >> 16) & 1u) << 15) |
+      ((uint64_t)((pvalue->m >> 17) & 1u) << 14) |
+      ((uint64_t)((pvalue->m >> 18) & 1u) << 13) |
+      ((uint64_t)((pvalue->m >> 19) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 20) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 21) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 22) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 23) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 24) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 25) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 26) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 27) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 28) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 29) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 30) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 31) & 1u) << 0), 32);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-r9-IEs");
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 32) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 33) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 34) & 1u) << 0), 3);
+   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-RelocationInfo-r9-IEs");
+   /* rb-IdentityForHOMessage */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->rb_IdentityForHOMessage - 1) > 31u) {
+         rtxErrAddStrParm(ctx, "RB-Identity");
+         rtxErrAddUIntParm(ctx, pvalue->rb_IdentityForHOMessage);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-IdentityForHOMessage", -1, "SRNC-RelocationInfo-r9-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->rb_IdentityForHOMessage, 1, 32);
+      RT_CHECK(ctx, stat, "RB-Identity", "rb-IdentityForHOMessage", -1, "SRNC-RelocationInfo-r9-IEs");
+   }
+   /* stateOfRRC */
+   if (pvalue->stateOfRRC > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->stateOfRRC);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "StateOfRRC", "stateOfRRC", -1, "SRNC-RelocationInfo-r9-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->stateOfRRC, 0, 3);
+   RT_CHECK(ctx, stat, "StateOfRRC", "stateOfRRC", -1, "SRNC-RelocationInfo-r9-IEs");
+   /* stateOfRRC-Procedure */
+   if (pvalue->stateOfRRC_Procedure > 11) {
+      rtxErrAddUIntParm(ctx, pvalue->stateOfRRC_Procedure);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "StateOfRRC-Procedure", "stateOfRRC-Procedure", -1, "SRNC-RelocationInfo-r9-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->stateOfRRC_Procedure, 0, 11);
+   RT_CHECK(ctx, stat, "StateOfRRC-Procedure", "stateOfRRC-Procedure", -1, "SRNC-RelocationInfo-r9-IEs");
+   /* cipheringStatusList */
+   stat = asn1PE_UMTS_CipheringStatusList_r4(ctx, &pvalue->cipheringStatusList);
+   RT_CHECK(ctx, stat, 0, "cipheringStatusList", -1, "SRNC-RelocationInfo-r9-IEs");
+   /* latestConfiguredCN-Domain */
+   if (pvalue->latestConfiguredCN_Domain > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->latestConfiguredCN_Domain);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "latestConfiguredCN-Domain", -1, "SRNC-RelocationInfo-r9-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->latestConfiguredCN_Domain, 0, 1);
+   RT_CHECK(ctx, stat, "CN-DomainIdentity", "latestConfiguredCN-Domain", -1, "SRNC-RelocationInfo-r9-IEs");
+   /* calculationTimeForCiphering */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_CalculationTimeForCiphering(ctx, &pvalue->calculationTimeForCiphering);
+      RT_CHECK(ctx, stat, 0, "calculationTimeForCiphering", -1, "SRNC-RelocationInfo-r9-IEs");
+   }
+   /* count-C-List */
+   if (pvalue->m & 0x4u) {
+      stat = asn1PE_UMTS_COUNT_C_List(ctx, &pvalue->count_C_List);
+      RT_CHECK(ctx, stat, 0, "count-C-List", -1, "SRNC-RelocationInfo-r9-IEs");
+   }
+   /* cipheringInfoPerRB-List */
+   if (pvalue->m & 0x8u) {
+      stat = asn1PE_UMTS_CipheringInfoPerRB_List_r4(ctx, &pvalue->cipheringInfoPerRB_List);
+      RT_CHECK(ctx, stat, 0, "cipheringInfoPerRB-List", -1, "SRNC-RelocationInfo-r9-IEs");
+   }
+   /* integrityProtectionStatus */
+   if (pvalue->integrityProtectionStatus > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->integrityProtectionStatus);
+      RT_FAIL(ctx, RT_ERR_INVENUM, "IntegrityProtectionStatus", "integrityProtectionStatus", -1, "SRNC-RelocationInfo-r9-IEs");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->integrityProtectionStatus, 0, 1);
+   RT_CHECK(ctx, stat, "IntegrityProtectionStatus", "integrityProtectionStatus", -1, "SRNC-RelocationInfo-r9-IEs");
+   /* srb-SpecificIntegrityProtInfo */
+   if (pvalue->m & 0x10u) {
+      stat = asn1PE_UMTS_SRB_SpecificIntegrityProtInfoList(ctx, &pvalue->srb_SpecificIntegrityProtInfo);
+      RT_CHECK(ctx, stat, 0, "srb-SpecificIntegrityProtInfo", -1, "SRNC-RelocationInfo-r9-IEs");
+   }
+   /* implementationSpecificParams */
+   if (pvalue->m & 0x20u) {
+      stat = asn1PE_UMTS_ImplementationSpecificParams(ctx, &pvalue->implementationSpecificParams);
+      RT_CHECK(ctx, stat, 0, "implementationSpecificParams", -1, "SRNC-RelocationInfo-r9-IEs");
+   }
+   /* u-RNTI */
+   stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, "SRNC-RelocationInfo-r9-IEs");
+   /* c-RNTI */
+   if (pvalue->m & 0x40u) {
+      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->c_RNTI);
+      RT_CHECK(ctx, stat, 0, "c-RNTI", -1, "SRNC-RelocationInfo-r9-IEs");
+   }
+   /* ue-RadioAccessCapability */
+   stat = asn1PE_UMTS_UE_RadioAccessCapability_r6(ctx, &pvalue->ue_RadioAccessCapability);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "SRNC-RelocationInfo-r9-IEs");
+   /* ue-RadioAccessCapability-ext */
+   if (pvalue->m & 0x80u) {
+      stat = asn1PE_UMTS_UE_RadioAccessCapabBandFDDList(ctx, &pvalue->ue_RadioAccessCapability_ext);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-ext", -1, "SRNC-RelocationInfo-r9-IEs");
+   }
+   /* ue-Positioning-LastKnownPos */
+   if (pvalue->m & 0x100u) {
+      stat = asn1PE_UMTS_UE_Positioning_LastKnownPos(ctx, &pvalue->ue_Positioning_LastKnownPos);
+      RT_CHECK(ctx, stat, 0, "ue-Positioning-LastKnownPos", -1, "SRNC-RelocationInfo-r9-IEs");
+   }
+   /* uESpecificBehaviourInformation1idle */
+   if (pvalue->m & 0x200u) {
+      stat = asn1PE_UMTS_UESpecificBehaviourInformation1idle(ctx, pvalue->uESpecificBehaviourInformation1idle);
+      RT_CHECK(ctx, stat, 0, "uESpecificBehaviourInformation1idle", -1, "SRNC-RelocationInfo-r9-IEs");
+   }
+   /* uESpecificBehaviourInformation1interRAT */
+   if (pvalue->m & 0x400u) {
+      stat = asn1PE_UMTS_UESpecificBehaviourInformation1interRAT(ctx, pvalue->uESpecificBehaviourInformation1interRAT);
+      RT_CHECK(ctx, stat, 0, "uESpecificBehaviourInformation1interRAT", -1, "SRNC-RelocationInfo-r9-IEs");
+   }
+   /* ueCapabilityContainer */
+   if (pvalue->m & 0x800u) {
+      {
+         rtxContext outer;
+         const uint8_t* data;
+         uint32_t len;
+         rtxCopyContext(&outer, ctx);
+         stat = rtxInitContextBuffer(ctx, 0, 0);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer", -1, "SRNC-RelocationInfo-r9-IEs");
+         stat = asn1PE_UMTS_UE_CapabilityContainer_IEs(ctx, &pvalue->ueCapabilityContainer);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer", -1, "SRNC-RelocationInfo-r9-IEs");
+         data = ctx->buffer_data;
+         len = ctx->byte_index * 8 + 8 - ctx->bit_offset;
+         rtxCopyContext(ctx, &outer);
+         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+         stat = pe_BitString(ctx, len, data);
+         rtxMemHeapFreePtr(ctx, (void*)data);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer", -1, "SRNC-RelocationInfo-r9-IEs");
+      }
+   }
+   /* ueCapabilityContainer-RSC */
+   if (pvalue->m & 0x1000u) {
+      {
+         rtxContext outer;
+         const uint8_t* data;
+         uint32_t len;
+         rtxCopyContext(&outer, ctx);
+         stat = rtxInitContextBuffer(ctx, 0, 0);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-RSC", -1, "SRNC-RelocationInfo-r9-IEs");
+         stat = asn1PE_UMTS_RRCConnectionSetupComplete_r3_add_ext_IEs(ctx, &pvalue->ueCapabilityContainer_RSC);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-RSC", -1, "SRNC-RelocationInfo-r9-IEs");
+         data = ctx->buffer_data;
+         len = ctx->byte_index * 8 + 8 - ctx->bit_offset;
+         rtxCopyContext(ctx, &outer);
+         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+         stat = pe_BitString(ctx, len, data);
+         rtxMemHeapFreePtr(ctx, (void*)data);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-RSC", -1, "SRNC-RelocationInfo-r9-IEs");
+      }
+   }
+   /* ueCapabilityContainer-UCI */
+   if (pvalue->m & 0x2000u) {
+      {
+         rtxContext outer;
+         const uint8_t* data;
+         uint32_t len;
+         rtxCopyContext(&outer, ctx);
+         stat = rtxInitContextBuffer(ctx, 0, 0);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-UCI", -1, "SRNC-RelocationInfo-r9-IEs");
+         stat = asn1PE_UMTS_UECapabilityInformation_r3_add_ext_IEs(ctx, &pvalue->ueCapabilityContainer_UCI);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-UCI", -1, "SRNC-RelocationInfo-r9-IEs");
+         data = ctx->buffer_data;
+         len = ctx->byte_index * 8 + 8 - ctx->bit_offset;
+         rtxCopyContext(ctx, &outer);
+         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+         stat = pe_BitString(ctx, len, data);
+         rtxMemHeapFreePtr(ctx, (void*)data);
+         RT_CHECK(ctx, stat, 0, "ueCapabilityContainer-UCI", -1, "SRNC-RelocationInfo-r9-IEs");
+      }
+   }
+   /* ue-RATSpecificCapability */
+   if (pvalue->m & 0x4000u) {
+      stat = asn1PE_UMTS_InterRAT_UE_RadioAccessCapabilityList_r5(ctx, &pvalue->ue_RATSpecificCapability);
+      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability", -1, "SRNC-RelocationInfo-r9-IEs");
+   }
+   /* ura-Identity */
+   if (pvalue->m & 0x8000u) {
+      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
+      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "SRNC-RelocationInfo-r9-IEs");
+   }
+   /* srns-t-305 */
+   if (pvalue->m & 0x10000u) {
+      if (pvalue->srns_t_305 > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->srns_t_305);
+         RT_FAIL(ctx, RT_ERR_INVENUM, "T-305", "srns-t-305", -1, "SRNC-RelocationInfo-r9-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->srns_t_305, 0, 7);
+      RT_CHECK(ctx, stat, "T-305", "srns-t-305", -1, "SRNC-RelocationInfo-r9-IEs");
+   }
+   /* cn-CommonGSM-MAP-NAS-SysInfo */
+   stat = asn1PE_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo);
+   RT_CHECK(ctx, stat, 0, "cn-CommonGSM-MAP-NAS-SysInfo", -1, "SRNC-RelocationInfo-r9-IEs");
+   /* cn-DomainInformationList */
+   if (pvalue->m & 0x20000u) {
+      stat = asn1PE_UMTS_CN_DomainInformationListFull(ctx, &pvalue->cn_DomainInformationList);
+      RT_CHECK(ctx, stat, 0, "cn-DomainInformationList", -1, "SRNC-RelocationInfo-r9-IEs");
+   }
+   /* ongoingMeasRepList */
+   if (pvalue->m & 0x40000u) {
+      stat = asn1PE_UMTS_OngoingMeasRepList_r9(ctx, &pvalue->ongoingMeasRepList);
+      RT_CHECK(ctx, stat, 0, "ongoingMeasRepList", -1, "SRNC-RelocationInfo-r9-IEs");
+   }
+   /* interRATCellInfoIndication */
+   if (pvalue->m & 0x80000u) {
+      if ((uint64_t)pvalue->interRATCellInfoIndication > 3u) {
+         rtxErrAddStrParm(ctx, "InterRATCellInfoIndication");
+         rtxErrAddUIntParm(ctx, pvalue->interRATCellInfoIndication);
+         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterRATCellInfoIndication", "interRATCellInfoIndication", -1, "SRNC-RelocationInfo-r9-IEs");
+      }
+      stat = pe_ConsUInt64(ctx, pvalue->interRATCellInfoIndication, 0, 3);
+      RT_CHECK(ctx, stat, "InterRATCellInfoIndication", "interRATCellInfoIndication", -1, "SRNC-RelocationInfo-r9-IEs");
+   }
+   /* predefinedConfigStatusList */
+   stat = asn1PE_UMTS_PredefinedConfigStatusList(ctx, &pvalue->predefinedConfigStatusList);
+   RT_CHECK(ctx, stat, 0, "predefinedConfigStatusList", -1, "SRNC-RelocationInfo-r9-IEs");
+   /* srb-InformationList */
+   stat = asn1PE_UMTS_SRB_InformationSetupList_r8(ctx, &pvalue->srb_InformationList);
+   RT_CHECK(ctx, stat, 0, "srb-InformationList", -1, "SRNC-RelocationInfo-r9-IEs");
+   /* rab-InformationList */
+   if (pvalue->m & 0x100000u) {
+      stat = asn1PE_UMTS_RAB_InformationSetupList_r8(ctx, &pvalue->rab_InformationList);
+      RT_CHECK(ctx, stat, 0, "rab-InformationList", -1, "SRNC-RelocationInfo-r9-IEs");
+   }
+   /* ul-CommonTransChInfo */
+   if (pvalue->m & 0x200000u) {
+      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "SRNC-RelocationInfo-r9-IEs");
+   }
+   /* ul-TransChInfoList */
+   if (pvalue->m & 0x400000u) {
+      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList_r8(ctx, &pvalue->ul_TransChInfoList);
+      RT_CHECK(ctx, stat, 0, "ul-TransChInfoList", -1, "SRNC-RelocationInfo-r9-IEs");
+   }
+   /* dl-CommonTransChInfo */
+   if (pvalue->m & 0x800000u) {
+      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
+      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "SRNC-RelocationInfo-r9-IEs");
+   }
+   /* dl-TransChInfoList */
+   if (pvalue->m & 0x1000000u) {
+      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r9(ctx, &pvalue->dl_TransChInfoList);
+      RT_CHECK(ctx, stat, 0, "dl-TransChInfoList", -1, "SRNC-RelocationInfo-r9-IEs");
+   }
+   /* tpc-CombinationInfoList */
+   if (pvalue->m & 0x2000000u) {
+      stat = asn1PE_UMTS_TPC_CombinationInfoList(ctx, &pvalue->tpc_CombinationInfoList);
+      RT_CHECK(ctx, stat, 0, "tpc-CombinationInfoList", -1, "SRNC-RelocationInfo-r9-IEs");
+   }
+   /* e-RGCH-CombinationInfoList */
+   if (pvalue->m & 0x4000000u) {
+      stat = asn1PE_UMTS_E_RGCH_CombinationInfoList(ctx, &pvalue->e_RGCH_CombinationInfoList);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-CombinationInfoList", -1, "SRNC-RelocationInfo-r9-IEs");
+   }
+   /* storedCompressedModeInfo */
+   if (pvalue->m & 0x8000000u) {
+      stat = asn1PE_UMTS_StoredCompressedModeInfo_r8(ctx, &pvalue->storedCompressedModeInfo);
+      RT_CHECK(ctx, stat, 0, "storedCompressedModeInfo", -1, "SRNC-RelocationInfo-r9-IEs");
+   }
+   /* secondary-tpc-CombinationInfoList */
+   if (pvalue->m & 0x10000000u) {
+      stat = asn1PE_UMTS_TPC_CombinationInfoList_r9(ctx, &pvalue->secondary_tpc_CombinationInfoList);
+      RT_CHECK(ctx, stat, 0, "secondary-tpc-CombinationInfoList", -1, "SRNC-RelocationInfo-r9-IEs");
+   }
+   /* secondary-e-RGCH-CombinationInfoList */
+   if (pvalue->m & 0x20000000u) {
+      stat = asn1PE_UMTS_E_RGCH_CombinationInfoList_r9(ctx, &pvalue->secondary_e_RGCH_CombinationInfoList);
+      RT_CHECK(ctx, stat, 0, "secondary-e-RGCH-CombinationInfoList", -1, "SRNC-RelocationInfo-r9-IEs");
+   }
+   /* measurementReport */
+   if (pvalue->m & 0x40000000u) {
+      {
+         rtxContext outer;
+         const uint8_t* data;
+         uint32_t len;
+         rtxCopyContext(&outer, ctx);
+         stat = rtxInitContextBuffer(ctx, 0, 0);
+         RT_CHECK(ctx, stat, 0, "measurementReport", -1, "SRNC-RelocationInfo-r9-IEs");
+         stat = asn1PE_UMTS_MeasurementReport(ctx, &pvalue->measurementReport);
+         RT_CHECK(ctx, stat, 0, "measurementReport", -1, "SRNC-RelocationInfo-r9-IEs");
+         data = ctx->buffer_data;
+         len = ctx->byte_index * 8 + 8 - ctx->bit_offset;
+         rtxCopyContext(ctx, &outer);
+         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+         stat = pe_BitString(ctx, len, data);
+         rtxMemHeapFreePtr(ctx, (void*)data);
+         RT_CHECK(ctx, stat, 0, "measurementReport", -1, "SRNC-RelocationInfo-r9-IEs");
+      }
+   }
+   /* failureCause */
+   if (pvalue->m & 0x80000000u) {
+      stat = asn1PE_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
+      RT_CHECK(ctx, stat, 0, "failureCause", -1, "SRNC-RelocationInfo-r9-IEs");
+   }
+   /* ue-HistoryInformation */
+   if (pvalue->m & 0x100000000ull) {
+      stat = asn1PE_UMTS_UE_HistoryInformation(ctx, &pvalue->ue_HistoryInformation);
+      RT_CHECK(ctx, stat, 0, "ue-HistoryInformation", -1, "SRNC-RelocationInfo-r9-IEs");
+   }
+   /* mbms-JoinedInformation */
+   if (pvalue->m & 0x200000000ull) {
+      stat = asn1PE_UMTS_MBMS_JoinedInformation_r6(ctx, &pvalue->mbms_JoinedInformation);
+      RT_CHECK(ctx, stat, 0, "mbms-JoinedInformation", -1, "SRNC-RelocationInfo-r9-IEs");
+   }
+   /* mbmsSelectedServiceInfo */
+   if (pvalue->m & 0x400000000ull) {
+      stat = asn1PE_UMTS_MBMS_SelectedServiceInfo(ctx, &pvalue->mbmsSelectedServiceInfo);
+      RT_CHECK(ctx, stat, 0, "mbmsSelectedServiceInfo", -1, "SRNC-RelocationInfo-r9-IEs");
+   }
+   return stat;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* sRNC-RelocationInfo-r9 */
+   stat = asn1PE_UMTS_SRNC_RelocationInfo_r9_IEs(ctx, &pvalue->sRNC_RelocationInfo_r9);
+   RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-r9", -1, 0);
+   /* sRNC-RelocationInfo-r9-add-ext */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+      stat = pe_BitString(ctx, pvalue->sRNC_RelocationInfo_r9_add_ext.numbits, pvalue->sRNC_RelocationInfo_r9_add_ext.data);
+      RT_CHECK(ctx, stat, 0, "sRNC-RelocationInfo-r9-add-ext", -1, 0);
    }
    /* nonCriticalExtensions */
    if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "nonCriticalExtensions");
-      stat = asn1PE_UMTS_PhysicalSharedChannelAllocation_r3_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_PhysicalSharedChannelAllocation_r3(rtxContext* ctx, const PhysicalSharedChannelAllocation_r3* pvalue)
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r9 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r9", -1, 0);
+         stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
+         RT_CHECK(ctx, stat, 0, "r9", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r8 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r8", -1, 0);
+         stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
+         RT_CHECK(ctx, stat, 0, "r8", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r7", -1, 0);
+         stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
+         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r6 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r6", -1, 0);
+         stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_r6(ctx, pvalue->u.r6);
+         RT_CHECK(ctx, stat, 0, "r6", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r5", -1, 0);
+         stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_r5(ctx, pvalue->u.r5);
+         RT_CHECK(ctx, stat, 0, "r5", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3_later_than_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r4 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r4", -1, 0);
+         stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_r4(ctx, pvalue->u.r4);
+         RT_CHECK(ctx, stat, 0, "r4", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
+         stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_RelocationInfo_r3(rtxContext* RT_RESTRICT ctx, const SRNC_RelocationInfo_r3* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRNC-RelocationInfo-r3");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "SRNC-RelocationInfo-r3");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SRNC-RelocationInfo-r3");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r3", -1, "SRNC-RelocationInfo-r3");
+         stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_r3(ctx, pvalue->u.r3);
+         RT_CHECK(ctx, stat, 0, "r3", -1, "SRNC-RelocationInfo-r3");
+         break;
+      case 2:
+         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "later-than-r3", -1, "SRNC-RelocationInfo-r3");
+         stat = asn1PE_UMTS_SRNC_RelocationInfo_r3_later_than_r3(ctx, pvalue->u.later_than_r3);
+         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "SRNC-RelocationInfo-r3");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_RFC3095_Context_dl_mode(rtxContext* RT_RESTRICT ctx, DL_RFC3095_Context_dl_mode value)
+{
+   int stat = 0;
+   if (value > 2) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_RFC3095_Context_dl_ref_ir(rtxContext* RT_RESTRICT ctx, const DL_RFC3095_Context_dl_ref_ir* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 1, 3000);
+   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_RFC3095_Context(rtxContext* RT_RESTRICT ctx, const DL_RFC3095_Context* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-RFC3095-Context");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK(ctx, stat, 0, 0, -1, "DL-RFC3095-Context");
+   /* rfc3095-Context-Identity */
+   if ((uint64_t)pvalue->rfc3095_Context_Identity > 16383u) {
+      rtxErrAddStrParm(ctx, "rfc3095-Context-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rfc3095_Context_Identity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rfc3095-Context-Identity", -1, "DL-RFC3095-Context");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rfc3095_Context_Identity, 0, 16383);
+   RT_CHECK(ctx, stat, 0, "rfc3095-Context-Identity", -1, "DL-RFC3095-Context");
+   /* dl-mode */
+   if (pvalue->dl_mode > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->dl_mode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "dl-mode", -1, "DL-RFC3095-Context");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->dl_mode, 0, 2);
+   RT_CHECK(ctx, stat, 0, "dl-mode", -1, "DL-RFC3095-Context");
+   /* dl-ref-ir */
+   stat = asn1PE_UMTS_DL_RFC3095_Context_dl_ref_ir(ctx, &pvalue->dl_ref_ir);
+   RT_CHECK(ctx, stat, 0, "dl-ref-ir", -1, "DL-RFC3095-Context");
+   /* dl-ref-time */
+   if (pvalue->m & 0x1u) {
+      stat = pe_ConsUInt64(ctx, pvalue->dl_ref_time, 0, 4294967295ULL);
+      RT_CHECK(ctx, stat, 0, "dl-ref-time", -1, "DL-RFC3095-Context");
+   }
+   /* dl-curr-time */
+   if (pvalue->m & 0x2u) {
+      stat = pe_ConsUInt64(ctx, pvalue->dl_curr_time, 0, 4294967295ULL);
+      RT_CHECK(ctx, stat, 0, "dl-curr-time", -1, "DL-RFC3095-Context");
+   }
+   /* dl-syn-offset-id */
+   if (pvalue->m & 0x4u) {
+      stat = pe_ConsUInt64(ctx, pvalue->dl_syn_offset_id, 0, 65535);
+      RT_CHECK(ctx, stat, 0, "dl-syn-offset-id", -1, "DL-RFC3095-Context");
+   }
+   /* dl-syn-slope-ts */
+   if (pvalue->m & 0x8u) {
+      stat = pe_ConsUInt64(ctx, pvalue->dl_syn_slope_ts, 0, 4294967295ULL);
+      RT_CHECK(ctx, stat, 0, "dl-syn-slope-ts", -1, "DL-RFC3095-Context");
+   }
+   /* dl-dyn-changed */
+   stat = rtxEncBit(ctx, pvalue->dl_dyn_changed);
+   RT_CHECK(ctx, stat, 0, "dl-dyn-changed", -1, "DL-RFC3095-Context");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_RFC3095_Context_ul_mode(rtxContext* RT_RESTRICT ctx, UL_RFC3095_Context_ul_mode value)
+{
+   int stat = 0;
+   if (value > 2) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64(ctx, value, 0, 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_RFC3095_Context_ul_ref_ir(rtxContext* RT_RESTRICT ctx, const UL_RFC3095_Context_ul_ref_ir* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 1, 3000);
+   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_RFC3095_Context(rtxContext* RT_RESTRICT ctx, const UL_RFC3095_Context* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-RFC3095-Context");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK(ctx, stat, 0, 0, -1, "UL-RFC3095-Context");
+   /* rfc3095-Context-Identity */
+   if ((uint64_t)pvalue->rfc3095_Context_Identity > 16383u) {
+      rtxErrAddStrParm(ctx, "rfc3095-Context-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rfc3095_Context_Identity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rfc3095-Context-Identity", -1, "UL-RFC3095-Context");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rfc3095_Context_Identity, 0, 16383);
+   RT_CHECK(ctx, stat, 0, "rfc3095-Context-Identity", -1, "UL-RFC3095-Context");
+   /* ul-mode */
+   if (pvalue->ul_mode > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->ul_mode);
+      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "ul-mode", -1, "UL-RFC3095-Context");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->ul_mode, 0, 2);
+   RT_CHECK(ctx, stat, 0, "ul-mode", -1, "UL-RFC3095-Context");
+   /* ul-ref-ir */
+   stat = asn1PE_UMTS_UL_RFC3095_Context_ul_ref_ir(ctx, &pvalue->ul_ref_ir);
+   RT_CHECK(ctx, stat, 0, "ul-ref-ir", -1, "UL-RFC3095-Context");
+   /* ul-ref-time */
+   if (pvalue->m & 0x1u) {
+      stat = pe_ConsUInt64(ctx, pvalue->ul_ref_time, 0, 4294967295ULL);
+      RT_CHECK(ctx, stat, 0, "ul-ref-time", -1, "UL-RFC3095-Context");
+   }
+   /* ul-curr-time */
+   if (pvalue->m & 0x2u) {
+      stat = pe_ConsUInt64(ctx, pvalue->ul_curr_time, 0, 4294967295ULL);
+      RT_CHECK(ctx, stat, 0, "ul-curr-time", -1, "UL-RFC3095-Context");
+   }
+   /* ul-syn-offset-id */
+   if (pvalue->m & 0x4u) {
+      stat = pe_ConsUInt64(ctx, pvalue->ul_syn_offset_id, 0, 65535);
+      RT_CHECK(ctx, stat, 0, "ul-syn-offset-id", -1, "UL-RFC3095-Context");
+   }
+   /* ul-syn-slope-ts */
+   if (pvalue->m & 0x8u) {
+      stat = pe_ConsUInt64(ctx, pvalue->ul_syn_slope_ts, 0, 4294967295ULL);
+      RT_CHECK(ctx, stat, 0, "ul-syn-slope-ts", -1, "UL-RFC3095-Context");
+   }
+   /* ul-ref-sn-1 */
+   if (pvalue->m & 0x10u) {
+      stat = pe_ConsUInt64(ctx, pvalue->ul_ref_sn_1, 0, 65535);
+      RT_CHECK(ctx, stat, 0, "ul-ref-sn-1", -1, "UL-RFC3095-Context");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RFC3095_Context_List_element(rtxContext* RT_RESTRICT ctx, const RFC3095_Context_List_element* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* dl-RFC3095-Context */
+   if (pvalue->m & 0x1u) {
+      stat = asn1PE_UMTS_DL_RFC3095_Context(ctx, &pvalue->dl_RFC3095_Context);
+      RT_CHECK(ctx, stat, 0, "dl-RFC3095-Context", -1, 0);
+   }
+   /* ul-RFC3095-Context */
+   if (pvalue->m & 0x2u) {
+      stat = asn1PE_UMTS_UL_RFC3095_Context(ctx, &pvalue->ul_RFC3095_Context);
+      RT_CHECK(ctx, stat, 0, "ul-RFC3095-Context", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RFC3095_Context_List(rtxContext* RT_RESTRICT ctx, const RFC3095_Context_List* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RFC3095-Context-List");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16384);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RFC3095-Context-List");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "RFC3095-Context-List");
+      stat = asn1PE_UMTS_RFC3095_Context_List_element(ctx, (const RFC3095_Context_List_element*)node->data);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "RFC3095-Context-List");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RFC3095_ContextInfo(rtxContext* RT_RESTRICT ctx, const RFC3095_ContextInfo* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RFC3095-ContextInfo");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RFC3095-ContextInfo");
+   }
+   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
+   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RFC3095-ContextInfo");
+   /* rfc3095-Context-List */
+   stat = asn1PE_UMTS_RFC3095_Context_List(ctx, &pvalue->rfc3095_Context_List);
+   RT_CHECK(ctx, stat, 0, "rfc3095-Context-List", -1, "RFC3095-ContextInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_RFC3095_ContextInfoList_r5(rtxContext* RT_RESTRICT ctx, const RFC3095_ContextInfoList_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RFC3095-ContextInfoList-r5");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 27);
+   stat = pe_Length(ctx, pvalue->count);
+   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RFC3095-ContextInfoList-r5");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RFC3095-ContextInfo", (int32_t)i, "RFC3095-ContextInfoList-r5");
+      stat = asn1PE_UMTS_RFC3095_ContextInfo(ctx, (const RFC3095_ContextInfo*)node->data);
+      RT_CHECK(ctx, stat, 0, "RFC3095-ContextInfo", (int32_t)i, "RFC3095-ContextInfoList-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RFC3095_ContextInfo_r5_r5_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const RFC3095_ContextInfo_r5_r5_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RFC3095_ContextInfo_r5_r5(rtxContext* RT_RESTRICT ctx, const RFC3095_ContextInfo_r5_r5* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
    stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat);
-   /* physicalSharedChannelAllocation-r3 */
-   rtxCtxtPushElemName(ctx, "physicalSharedChannelAllocation-r3");
-   stat = asn1PE_UMTS_PhysicalSharedChannelAllocation_r3_IEs(ctx, &pvalue->physicalSharedChannelAllocation_r3);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   /* laterNonCriticalExtensions */
+   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* rFC3095-ContextInfoList-r5 */
+   stat = asn1PE_UMTS_RFC3095_ContextInfoList_r5(ctx, &pvalue->rFC3095_ContextInfoList_r5);
+   RT_CHECK(ctx, stat, 0, "rFC3095-ContextInfoList-r5", -1, 0);
+   /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "laterNonCriticalExtensions");
-      stat = asn1PE_UMTS_PhysicalSharedChannelAllocation_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+      stat = asn1PE_UMTS_RFC3095_ContextInfo_r5_r5_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_PhysicalSharedChannelAllocation_r4_IEs_confirmRequest(rtxContext* ctx, PhysicalSharedChannelAllocation_r4_IEs_confirmRequest value)
+int asn1PE_UMTS_RFC3095_ContextInfo_r5_criticalExtensions(rtxContext* RT_RESTRICT ctx, const RFC3095_ContextInfo_r5_criticalExtensions* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_RAISE(ctx, RT_ERR_INVENUM);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_PhysicalSharedChannelAllocation_r4_IEs(rtxContext* ctx, const PhysicalSharedChannelAllocation_r4_IEs* pvalue)
+int asn1PE_UMTS_RFC3095_ContextInfo_r5(rtxContext* RT_RESTRICT ctx, const RFC3095_ContextInfo_r5* RT_RESTRICT pvalue)
 {
    int stat = 0;
-   if (pvalue == 0) RT_RAISE(ctx, RT_ERR_INVPARAM);
-   rtxCtxtPushTypeName(ctx, "PhysicalSharedChannelAllocation-r4-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat);
-   /* ul-TimingAdvance */
-   if (pvalue->m & 0x1u) {
-      rtxCtxtPushElemName(ctx, "ul-TimingAdvance");
-      stat = asn1PE_UMTS_UL_TimingAdvanceControl_r4(ctx, &pvalue->ul_TimingAdvance);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RFC3095-ContextInfo-r5");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK(ctx, stat, 0, "t", -1, "RFC3095-ContextInfo-r5");
+   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RFC3095-ContextInfo-r5");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.r5 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r5", -1, "RFC3095-ContextInfo-r5");
+         stat = asn1PE_UMTS_RFC3095_ContextInfo_r5_r5(ctx, pvalue->u.r5);
+         RT_CHECK(ctx, stat, 0, "r5", -1, "RFC3095-ContextInfo-r5");
+         break;
+      case 2:
+         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, "RFC3095-ContextInfo-r5");
+         stat = asn1PE_UMTS_RFC3095_ContextInfo_r5_criticalExtensions(ctx, pvalue->u.criticalExtensions);
+         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, "RFC3095-ContextInfo-r5");
+         break;
+      default:
+         break;
    }
-   /* pusch-CapacityAllocationInfo */
-   if (pvalue->m & 0x2u) {
-      rtxCtxtPushElemName(ctx, "pusch-CapacityAllocationInfo");
-      stat = asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r4(ctx, &pvalue->pusch_CapacityAllocationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   return 0;
+}
+
+int asn1PE_UMTS_ToTargetRNC_Container(rtxContext* RT_RESTRICT ctx, const ToTargetRNC_Container* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ToTargetRNC-Container");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK(ctx, stat, 0, "t", -1, "ToTargetRNC-Container");
+   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ToTargetRNC-Container");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.interRATHandoverInfo == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interRATHandoverInfo", -1, "ToTargetRNC-Container");
+         stat = asn1PE_UMTS_InterRATHandoverInfoWithInterRATCapabilities_r3(ctx, pvalue->u.interRATHandoverInfo);
+         RT_CHECK(ctx, stat, 0, "interRATHandoverInfo", -1, "ToTargetRNC-Container");
+         break;
+      case 2:
+         if (pvalue->u.srncRelocation == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "srncRelocation", -1, "ToTargetRNC-Container");
+         stat = asn1PE_UMTS_SRNC_RelocationInfo_r3(ctx, pvalue->u.srncRelocation);
+         RT_CHECK(ctx, stat, 0, "srncRelocation", -1, "ToTargetRNC-Container");
+         break;
+      case 3:
+         if (pvalue->u.rfc3095_ContextInfo == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "rfc3095-ContextInfo", -1, "ToTargetRNC-Container");
+         stat = asn1PE_UMTS_RFC3095_ContextInfo_r5(ctx, pvalue->u.rfc3095_ContextInfo);
+         RT_CHECK(ctx, stat, 0, "rfc3095-ContextInfo", -1, "ToTargetRNC-Container");
+         break;
+      case 4:
+         break;
+      default:
+         break;
    }
-   /* pdsch-CapacityAllocationInfo */
-   if (pvalue->m & 0x4u) {
-      rtxCtxtPushElemName(ctx, "pdsch-CapacityAllocationInfo");
-      stat = asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r4(ctx, &pvalue->pdsch_CapacityAllocationInfo);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
+   return 0;
+}
+
+int asn1PE_UMTS_TargetRNC_ToSourceRNC_Container(rtxContext* RT_RESTRICT ctx, const TargetRNC_ToSourceRNC_Container* RT_RESTRICT pvalue)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TargetRNC-ToSourceRNC-Container");
+   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
+   RT_CHECK(ctx, stat, 0, "t", -1, "TargetRNC-ToSourceRNC-Container");
+   if (pvalue->t - 1 > 7) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TargetRNC-ToSourceRNC-Container");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.radioBearerSetup == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "radioBearerSetup", -1, "TargetRNC-ToSourceRNC-Container");
+         stat = asn1PE_UMTS_RadioBearerSetup(ctx, pvalue->u.radioBearerSetup);
+         RT_CHECK(ctx, stat, 0, "radioBearerSetup", -1, "TargetRNC-ToSourceRNC-Container");
+         break;
+      case 2:
+         if (pvalue->u.radioBearerReconfiguration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "radioBearerReconfiguration", -1, "TargetRNC-ToSourceRNC-Container");
+         stat = asn1PE_UMTS_RadioBearerReconfiguration(ctx, pvalue->u.radioBearerReconfiguration);
+         RT_CHECK(ctx, stat, 0, "radioBearerReconfiguration", -1, "TargetRNC-ToSourceRNC-Container");
+         break;
+      case 3:
+         if (pvalue->u.radioBearerRelease == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "radioBearerRelease", -1, "TargetRNC-ToSourceRNC-Container");
+         stat = asn1PE_UMTS_RadioBearerRelease(ctx, pvalue->u.radioBearerRelease);
+         RT_CHECK(ctx, stat, 0, "radioBearerRelease", -1, "TargetRNC-ToSourceRNC-Container");
+         break;
+      case 4:
+         if (pvalue->u.transportChannelReconfiguration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "transportChannelReconfiguration", -1, "TargetRNC-ToSourceRNC-Container");
+         stat = asn1PE_UMTS_TransportChannelReconfiguration(ctx, pvalue->u.transportChannelReconfiguration);
+         RT_CHECK(ctx, stat, 0, "transportChannelReconfiguration", -1, "TargetRNC-ToSourceRNC-Container");
+         break;
+      case 5:
+         if (pvalue->u.physicalChannelReconfiguration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "physicalChannelReconfiguration", -1, "TargetRNC-ToSourceRNC-Container");
+         stat = asn1PE_UMTS_PhysicalChannelReconfiguration(ctx, pvalue->u.physicalChannelReconfiguration);
+         RT_CHECK(ctx, stat, 0, "physicalChannelReconfiguration", -1, "TargetRNC-ToSourceRNC-Container");
+         break;
+      case 6:
+         if (pvalue->u.rrc_FailureInfo == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "rrc-FailureInfo", -1, "TargetRNC-ToSourceRNC-Container");
+         stat = asn1PE_UMTS_RRC_FailureInfo(ctx, pvalue->u.rrc_FailureInfo);
+         RT_CHECK(ctx, stat, 0, "rrc-FailureInfo", -1, "TargetRNC-ToSourceRNC-Container");
+         break;
+      case 7:
+         if (pvalue->u.dL_DCCHmessage == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dL-DCCHmessage", -1, "TargetRNC-ToSourceRNC-Container");
+         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+         stat = pe_OctetString(ctx, pvalue->u.dL_DCCHmessage->numocts, pvalue->u.dL_DCCHmessage->data);
+         RT_CHECK(ctx, stat, 0, "dL-DCCHmessage", -1, "TargetRNC-ToSourceRNC-Container");
+         break;
+      case 8:
+         break;
+      default:
+         break;
    }
-   /* confirmRequest */
-   if (pvalue->m & 0x8u) {
-      rtxCtxtPushElemName(ctx, "confirmRequest");
-      if (pvalue->confirmRequest > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->confirmRequest);
-         RT_RAISE(ctx, RT_ERR_INVENUM);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->confirmRequest, 0, 1);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* trafficVolumeReportRequest */
-   if (pvalue->m & 0x10u) {
-      rtxCtxtPushElemName(ctx, "trafficVolumeReportRequest");
-      stat = pe_ConsUInt64(ctx, pvalue->trafficVolumeReportRequest, 0, 255);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* iscpTimeslotList */
-   if (pvalue->m & 0x20u) {
-      rtxCtxtPushElemName(ctx, "iscpTimeslotList");
-      stat = asn1PE_UMTS_TimeslotList_r4(ctx, &pvalue->iscpTimeslotList);
-      RT_CHECK(ctx, stat);
-      rtxCtxtPopElemName(ctx);
-   }
-   /* requestPCCPCHRSCP */
-   rtxCtxtPushElemName(ctx, "requestPCCPCHRSCP");
-   stat = rtxEncBit(ctx, pvalue->requestPCCPCHRSCP);
-   RT_CHECK(ctx, stat);
-   rtxCtxtPopElemName(ctx);
-   rtxCtxtPopTypeName(ctx);
    return 0;
 }
 

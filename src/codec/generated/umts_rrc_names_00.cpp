@@ -55,7 +55,7 @@ int UMTS_SIB_Type_ToEnum2(rtxContext* ctx, const char* text, size_t length, SIB_
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_SIB_Type_ToEnum(rtxContext* ctx, const char* text, SIB_Type* pvalue)
@@ -96,7 +96,7 @@ int UMTS_SibOFF_ToEnum2(rtxContext* ctx, const char* text, size_t length, SibOFF
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_SibOFF_ToEnum(rtxContext* ctx, const char* text, SibOFF* pvalue)
@@ -129,7 +129,7 @@ int UMTS_UE_Positioning_GANSS_SBAS_ID_ToEnum2(rtxContext* ctx, const char* text,
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_Positioning_GANSS_SBAS_ID_ToEnum(rtxContext* ctx, const char* text, UE_Positioning_GANSS_SBAS_ID* pvalue)
@@ -154,7 +154,7 @@ int UMTS_MasterInformationBlock_v860ext_IEs_csg_Indicator_ToEnum2(rtxContext* ct
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MasterInformationBlock_v860ext_IEs_csg_Indicator_ToEnum(rtxContext* ctx, const char* text, MasterInformationBlock_v860ext_IEs_csg_Indicator* pvalue)
@@ -183,7 +183,7 @@ int UMTS_RAT_ToEnum2(rtxContext* ctx, const char* text, size_t length, RAT* pval
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RAT_ToEnum(rtxContext* ctx, const char* text, RAT* pvalue)
@@ -212,7 +212,7 @@ int UMTS_MappingFunctionType_ToEnum2(rtxContext* ctx, const char* text, size_t l
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MappingFunctionType_ToEnum(rtxContext* ctx, const char* text, MappingFunctionType* pvalue)
@@ -239,7 +239,7 @@ int UMTS_RAT_Identifier_ToEnum2(rtxContext* ctx, const char* text, size_t length
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RAT_Identifier_ToEnum(rtxContext* ctx, const char* text, RAT_Identifier* pvalue)
@@ -272,7 +272,7 @@ int UMTS_T_CRMaxHyst_ToEnum2(rtxContext* ctx, const char* text, size_t length, T
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_T_CRMaxHyst_ToEnum(rtxContext* ctx, const char* text, T_CRMaxHyst* pvalue)
@@ -299,7 +299,7 @@ int UMTS_AllowedIndicator_ToEnum2(rtxContext* ctx, const char* text, size_t leng
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_AllowedIndicator_ToEnum(rtxContext* ctx, const char* text, AllowedIndicator* pvalue)
@@ -332,7 +332,7 @@ int UMTS_T_Barred_ToEnum2(rtxContext* ctx, const char* text, size_t length, T_Ba
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_T_Barred_ToEnum(rtxContext* ctx, const char* text, T_Barred* pvalue)
@@ -359,7 +359,7 @@ int UMTS_ReservedIndicator_ToEnum2(rtxContext* ctx, const char* text, size_t len
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_ReservedIndicator_ToEnum(rtxContext* ctx, const char* text, ReservedIndicator* pvalue)
@@ -386,7 +386,7 @@ int UMTS_AccessClassBarred_ToEnum2(rtxContext* ctx, const char* text, size_t len
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_AccessClassBarred_ToEnum(rtxContext* ctx, const char* text, AccessClassBarred* pvalue)
@@ -413,7 +413,7 @@ int UMTS_IntraFreqMeasQuantity_FDD_sib3_ToEnum2(rtxContext* ctx, const char* tex
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_IntraFreqMeasQuantity_FDD_sib3_ToEnum(rtxContext* ctx, const char* text, IntraFreqMeasQuantity_FDD_sib3* pvalue)
@@ -440,7 +440,7 @@ int UMTS_IntraFreqMeasQuantity_TDD_sib3List_element_ToEnum2(rtxContext* ctx, con
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_IntraFreqMeasQuantity_TDD_sib3List_element_ToEnum(rtxContext* ctx, const char* text, IntraFreqMeasQuantity_TDD_sib3List_element* pvalue)
@@ -465,7 +465,7 @@ int UMTS_MBSFNOnlyService_ToEnum2(rtxContext* ctx, const char* text, size_t leng
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MBSFNOnlyService_ToEnum(rtxContext* ctx, const char* text, MBSFNOnlyService* pvalue)
@@ -494,7 +494,7 @@ int UMTS_PagingPermissionWithAccessControlParameters_pagingResponseRestrictionIn
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_PagingPermissionWithAccessControlParameters_pagingResponseRestrictionIndicator_ToEnum(rtxContext* ctx, const char* text, PagingPermissionWithAccessControlParameters_pagingResponseRestrictionIndicator* pvalue)
@@ -522,7 +522,7 @@ int UMTS_PagingPermissionWithAccessControlParameters_locationRegistrationRestric
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_PagingPermissionWithAccessControlParameters_locationRegistrationRestrictionIndicator_ToEnum(rtxContext* ctx, const char* text, PagingPermissionWithAccessControlParameters_locationRegistrationRestrictionIndicator* pvalue)
@@ -563,7 +563,7 @@ int UMTS_CSG_PSCSplitInfo_numberOfPSCs_ToEnum2(rtxContext* ctx, const char* text
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CSG_PSCSplitInfo_numberOfPSCs_ToEnum(rtxContext* ctx, const char* text, CSG_PSCSplitInfo_numberOfPSCs* pvalue)
@@ -588,7 +588,7 @@ int UMTS_CellAccessRestriction_v870ext_cellReservedForCSG_ToEnum2(rtxContext* ct
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CellAccessRestriction_v870ext_cellReservedForCSG_ToEnum(rtxContext* ctx, const char* text, CellAccessRestriction_v870ext_cellReservedForCSG* pvalue)
@@ -613,7 +613,7 @@ int UMTS_SysInfoType3_v920ext_IEs_imsEmergencySupportIndicator_ToEnum2(rtxContex
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_SysInfoType3_v920ext_IEs_imsEmergencySupportIndicator_ToEnum(rtxContext* ctx, const char* text, SysInfoType3_v920ext_IEs_imsEmergencySupportIndicator* pvalue)
@@ -640,7 +640,7 @@ int UMTS_CN_DomainIdentity_ToEnum2(rtxContext* ctx, const char* text, size_t len
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CN_DomainIdentity_ToEnum(rtxContext* ctx, const char* text, CN_DomainIdentity* pvalue)
@@ -681,7 +681,7 @@ int UMTS_T_301_ToEnum2(rtxContext* ctx, const char* text, size_t length, T_301* 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_T_301_ToEnum(rtxContext* ctx, const char* text, T_301* pvalue)
@@ -722,7 +722,7 @@ int UMTS_T_302_ToEnum2(rtxContext* ctx, const char* text, size_t length, T_302* 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_T_302_ToEnum(rtxContext* ctx, const char* text, T_302* pvalue)
@@ -755,7 +755,7 @@ int UMTS_T_304_ToEnum2(rtxContext* ctx, const char* text, size_t length, T_304* 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_T_304_ToEnum(rtxContext* ctx, const char* text, T_304* pvalue)
@@ -788,7 +788,7 @@ int UMTS_T_305_ToEnum2(rtxContext* ctx, const char* text, size_t length, T_305* 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_T_305_ToEnum(rtxContext* ctx, const char* text, T_305* pvalue)
@@ -821,7 +821,7 @@ int UMTS_T_307_ToEnum2(rtxContext* ctx, const char* text, size_t length, T_307* 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_T_307_ToEnum(rtxContext* ctx, const char* text, T_307* pvalue)
@@ -850,7 +850,7 @@ int UMTS_T_308_ToEnum2(rtxContext* ctx, const char* text, size_t length, T_308* 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_T_308_ToEnum(rtxContext* ctx, const char* text, T_308* pvalue)
@@ -883,7 +883,7 @@ int UMTS_T_310_ToEnum2(rtxContext* ctx, const char* text, size_t length, T_310* 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_T_310_ToEnum(rtxContext* ctx, const char* text, T_310* pvalue)
@@ -916,7 +916,7 @@ int UMTS_T_311_ToEnum2(rtxContext* ctx, const char* text, size_t length, T_311* 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_T_311_ToEnum(rtxContext* ctx, const char* text, T_311* pvalue)
@@ -949,7 +949,7 @@ int UMTS_N_312_ToEnum2(rtxContext* ctx, const char* text, size_t length, N_312* 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_N_312_ToEnum(rtxContext* ctx, const char* text, N_312* pvalue)
@@ -982,7 +982,7 @@ int UMTS_N_313_ToEnum2(rtxContext* ctx, const char* text, size_t length, N_313* 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_N_313_ToEnum(rtxContext* ctx, const char* text, N_313* pvalue)
@@ -1015,7 +1015,7 @@ int UMTS_T_314_ToEnum2(rtxContext* ctx, const char* text, size_t length, T_314* 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_T_314_ToEnum(rtxContext* ctx, const char* text, T_314* pvalue)
@@ -1048,7 +1048,7 @@ int UMTS_T_315_ToEnum2(rtxContext* ctx, const char* text, size_t length, T_315* 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_T_315_ToEnum(rtxContext* ctx, const char* text, T_315* pvalue)
@@ -1081,7 +1081,7 @@ int UMTS_N_315_ToEnum2(rtxContext* ctx, const char* text, size_t length, N_315* 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_N_315_ToEnum(rtxContext* ctx, const char* text, N_315* pvalue)
@@ -1114,7 +1114,7 @@ int UMTS_T_316_ToEnum2(rtxContext* ctx, const char* text, size_t length, T_316* 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_T_316_ToEnum(rtxContext* ctx, const char* text, T_316* pvalue)
@@ -1147,7 +1147,7 @@ int UMTS_T_317_ToEnum2(rtxContext* ctx, const char* text, size_t length, T_317* 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_T_317_ToEnum(rtxContext* ctx, const char* text, T_317* pvalue)
@@ -1187,7 +1187,7 @@ int UMTS_T_300_ToEnum2(rtxContext* ctx, const char* text, size_t length, T_300* 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_T_300_ToEnum(rtxContext* ctx, const char* text, T_300* pvalue)
@@ -1216,7 +1216,7 @@ int UMTS_N_312ext_ToEnum2(rtxContext* ctx, const char* text, size_t length, N_31
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_N_312ext_ToEnum(rtxContext* ctx, const char* text, N_312ext* pvalue)
@@ -1245,7 +1245,7 @@ int UMTS_N_315ext_ToEnum2(rtxContext* ctx, const char* text, size_t length, N_31
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_N_315ext_ToEnum(rtxContext* ctx, const char* text, N_315ext* pvalue)
@@ -1278,7 +1278,7 @@ int UMTS_T_323_ToEnum2(rtxContext* ctx, const char* text, size_t length, T_323* 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_T_323_ToEnum(rtxContext* ctx, const char* text, T_323* pvalue)
@@ -1305,7 +1305,7 @@ int UMTS_SecondInterleavingMode_ToEnum2(rtxContext* ctx, const char* text, size_
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_SecondInterleavingMode_ToEnum(rtxContext* ctx, const char* text, SecondInterleavingMode* pvalue)
@@ -1334,7 +1334,7 @@ int UMTS_TFCI_Coding_ToEnum2(rtxContext* ctx, const char* text, size_t length, T
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TFCI_Coding_ToEnum(rtxContext* ctx, const char* text, TFCI_Coding* pvalue)
@@ -1375,7 +1375,7 @@ int UMTS_PuncturingLimit_ToEnum2(rtxContext* ctx, const char* text, size_t lengt
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_PuncturingLimit_ToEnum(rtxContext* ctx, const char* text, PuncturingLimit* pvalue)
@@ -1403,7 +1403,7 @@ int UMTS_MidambleConfigurationBurstType1and3_ToEnum2(rtxContext* ctx, const char
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MidambleConfigurationBurstType1and3_ToEnum(rtxContext* ctx, const char* text, MidambleConfigurationBurstType1and3* pvalue)
@@ -1430,7 +1430,7 @@ int UMTS_MidambleConfigurationBurstType2_ToEnum2(rtxContext* ctx, const char* te
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MidambleConfigurationBurstType2_ToEnum(rtxContext* ctx, const char* text, MidambleConfigurationBurstType2* pvalue)
@@ -1486,7 +1486,7 @@ int UMTS_UL_TS_ChannelisationCode_ToEnum2(rtxContext* ctx, const char* text, siz
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UL_TS_ChannelisationCode_ToEnum(rtxContext* ctx, const char* text, UL_TS_ChannelisationCode* pvalue)
@@ -1515,7 +1515,7 @@ int UMTS_TransmissionTimeInterval_ToEnum2(rtxContext* ctx, const char* text, siz
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TransmissionTimeInterval_ToEnum(rtxContext* ctx, const char* text, TransmissionTimeInterval* pvalue)
@@ -1542,7 +1542,7 @@ int UMTS_CodingRate_ToEnum2(rtxContext* ctx, const char* text, size_t length, Co
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CodingRate_ToEnum(rtxContext* ctx, const char* text, CodingRate* pvalue)
@@ -1572,7 +1572,7 @@ int UMTS_CRC_Size_ToEnum2(rtxContext* ctx, const char* text, size_t length, CRC_
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CRC_Size_ToEnum(rtxContext* ctx, const char* text, CRC_Size* pvalue)
@@ -1599,7 +1599,7 @@ int UMTS_SplitType_ToEnum2(rtxContext* ctx, const char* text, size_t length, Spl
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_SplitType_ToEnum(rtxContext* ctx, const char* text, SplitType* pvalue)
@@ -1640,7 +1640,7 @@ int UMTS_DL_TS_ChannelisationCode_ToEnum2(rtxContext* ctx, const char* text, siz
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DL_TS_ChannelisationCode_ToEnum(rtxContext* ctx, const char* text, DL_TS_ChannelisationCode* pvalue)
@@ -1669,7 +1669,7 @@ int UMTS_SF_PRACH_ToEnum2(rtxContext* ctx, const char* text, size_t length, SF_P
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_SF_PRACH_ToEnum(rtxContext* ctx, const char* text, SF_PRACH* pvalue)
@@ -1702,7 +1702,7 @@ int UMTS_TDD_PRACH_CCode8_ToEnum2(rtxContext* ctx, const char* text, size_t leng
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TDD_PRACH_CCode8_ToEnum(rtxContext* ctx, const char* text, TDD_PRACH_CCode8* pvalue)
@@ -1743,7 +1743,7 @@ int UMTS_TDD_PRACH_CCode16_ToEnum2(rtxContext* ctx, const char* text, size_t len
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TDD_PRACH_CCode16_ToEnum(rtxContext* ctx, const char* text, TDD_PRACH_CCode16* pvalue)
@@ -1770,7 +1770,7 @@ int UMTS_PRACH_Midamble_ToEnum2(rtxContext* ctx, const char* text, size_t length
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_PRACH_Midamble_ToEnum(rtxContext* ctx, const char* text, PRACH_Midamble* pvalue)
@@ -1797,7 +1797,7 @@ int UMTS_AccessServiceClass_TDD_subchannelSize_size2_subchannels_ToEnum2(rtxCont
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_AccessServiceClass_TDD_subchannelSize_size2_subchannels_ToEnum(rtxContext* ctx, const char* text, AccessServiceClass_TDD_subchannelSize_size2_subchannels* pvalue)
@@ -1830,7 +1830,7 @@ int UMTS_PersistenceScalingFactor_ToEnum2(rtxContext* ctx, const char* text, siz
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_PersistenceScalingFactor_ToEnum(rtxContext* ctx, const char* text, PersistenceScalingFactor* pvalue)
@@ -1857,7 +1857,7 @@ int UMTS_AICH_TransmissionTiming_ToEnum2(rtxContext* ctx, const char* text, size
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_AICH_TransmissionTiming_ToEnum(rtxContext* ctx, const char* text, AICH_TransmissionTiming* pvalue)
@@ -1884,7 +1884,7 @@ int UMTS_PCPICH_UsageForChannelEst_ToEnum2(rtxContext* ctx, const char* text, si
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_PCPICH_UsageForChannelEst_ToEnum(rtxContext* ctx, const char* text, PCPICH_UsageForChannelEst* pvalue)
@@ -1911,7 +1911,7 @@ int UMTS_PositionFixedOrFlexible_ToEnum2(rtxContext* ctx, const char* text, size
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_PositionFixedOrFlexible_ToEnum(rtxContext* ctx, const char* text, PositionFixedOrFlexible* pvalue)
@@ -1952,7 +1952,7 @@ int UMTS_SCCPCH_ChannelisationCode_ToEnum2(rtxContext* ctx, const char* text, si
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_SCCPCH_ChannelisationCode_ToEnum(rtxContext* ctx, const char* text, SCCPCH_ChannelisationCode* pvalue)
@@ -1981,7 +1981,7 @@ int UMTS_PI_CountPerFrame_ToEnum2(rtxContext* ctx, const char* text, size_t leng
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_PI_CountPerFrame_ToEnum(rtxContext* ctx, const char* text, PI_CountPerFrame* pvalue)
@@ -2022,7 +2022,7 @@ int UMTS_TDD_PICH_CCode_ToEnum2(rtxContext* ctx, const char* text, size_t length
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TDD_PICH_CCode_ToEnum(rtxContext* ctx, const char* text, TDD_PICH_CCode* pvalue)
@@ -2050,7 +2050,7 @@ int UMTS_PagingIndicatorLength_ToEnum2(rtxContext* ctx, const char* text, size_t
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_PagingIndicatorLength_ToEnum(rtxContext* ctx, const char* text, PagingIndicatorLength* pvalue)
@@ -2078,7 +2078,7 @@ int UMTS_N_GAP_ToEnum2(rtxContext* ctx, const char* text, size_t length, N_GAP* 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_N_GAP_ToEnum(rtxContext* ctx, const char* text, N_GAP* pvalue)
@@ -2127,7 +2127,7 @@ int UMTS_PNBSCH_Allocation_r4_numberOfRepetitionsPerSFNPeriod_ToEnum2(rtxContext
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_PNBSCH_Allocation_r4_numberOfRepetitionsPerSFNPeriod_ToEnum(rtxContext* ctx, const char* text, PNBSCH_Allocation_r4_numberOfRepetitionsPerSFNPeriod* pvalue)
@@ -2156,7 +2156,7 @@ int UMTS_SYNC_UL_Info_r4_max_SYNC_UL_Transmissions_ToEnum2(rtxContext* ctx, cons
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_SYNC_UL_Info_r4_max_SYNC_UL_Transmissions_ToEnum(rtxContext* ctx, const char* text, SYNC_UL_Info_r4_max_SYNC_UL_Transmissions* pvalue)
@@ -2209,7 +2209,7 @@ int UMTS_TDD_PRACH_CCode_LCR_r4_ToEnum2(rtxContext* ctx, const char* text, size_
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TDD_PRACH_CCode_LCR_r4_ToEnum(rtxContext* ctx, const char* text, TDD_PRACH_CCode_LCR_r4* pvalue)
@@ -2250,7 +2250,7 @@ int UMTS_TDD_FPACH_CCode16_r4_ToEnum2(rtxContext* ctx, const char* text, size_t 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TDD_FPACH_CCode16_r4_ToEnum(rtxContext* ctx, const char* text, TDD_FPACH_CCode16_r4* pvalue)
@@ -2277,7 +2277,7 @@ int UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size2_subchannels_ToEnum2(
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size2_subchannels_ToEnum(rtxContext* ctx, const char* text, AccessServiceClass_TDD_LCR_r4_subchannelSize_size2_subchannels* pvalue)
@@ -2304,7 +2304,7 @@ int UMTS_IndividualTimeslotInfo_LCR_r4_modulation_ToEnum2(rtxContext* ctx, const
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_IndividualTimeslotInfo_LCR_r4_modulation_ToEnum(rtxContext* ctx, const char* text, IndividualTimeslotInfo_LCR_r4_modulation* pvalue)
@@ -2332,7 +2332,7 @@ int UMTS_IndividualTimeslotInfo_LCR_r4_ss_TPC_Symbols_ToEnum2(rtxContext* ctx, c
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_IndividualTimeslotInfo_LCR_r4_ss_TPC_Symbols_ToEnum(rtxContext* ctx, const char* text, IndividualTimeslotInfo_LCR_r4_ss_TPC_Symbols* pvalue)
@@ -2359,7 +2359,7 @@ int UMTS_IndividualTimeslotInfo_LCR_r4_ext_modulation_ToEnum2(rtxContext* ctx, c
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_IndividualTimeslotInfo_LCR_r4_ext_modulation_ToEnum(rtxContext* ctx, const char* text, IndividualTimeslotInfo_LCR_r4_ext_modulation* pvalue)
@@ -2387,7 +2387,7 @@ int UMTS_IndividualTimeslotInfo_LCR_r4_ext_ss_TPC_Symbols_ToEnum2(rtxContext* ct
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_IndividualTimeslotInfo_LCR_r4_ext_ss_TPC_Symbols_ToEnum(rtxContext* ctx, const char* text, IndividualTimeslotInfo_LCR_r4_ext_ss_TPC_Symbols* pvalue)
@@ -2420,7 +2420,7 @@ int UMTS_RadioFrequencyBandFDD_ToEnum2(rtxContext* ctx, const char* text, size_t
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RadioFrequencyBandFDD_ToEnum(rtxContext* ctx, const char* text, RadioFrequencyBandFDD* pvalue)
@@ -2461,7 +2461,7 @@ int UMTS_RadioFrequencyBandFDD2_ToEnum2(rtxContext* ctx, const char* text, size_
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RadioFrequencyBandFDD2_ToEnum(rtxContext* ctx, const char* text, RadioFrequencyBandFDD2* pvalue)
@@ -2486,7 +2486,7 @@ int UMTS_SysInfoType5_v680ext_IEs_hsdpa_CellIndicator_ToEnum2(rtxContext* ctx, c
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_SysInfoType5_v680ext_IEs_hsdpa_CellIndicator_ToEnum(rtxContext* ctx, const char* text, SysInfoType5_v680ext_IEs_hsdpa_CellIndicator* pvalue)
@@ -2511,7 +2511,7 @@ int UMTS_SysInfoType5_v690ext_IEs_edch_CellIndicator_ToEnum2(rtxContext* ctx, co
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_SysInfoType5_v690ext_IEs_edch_CellIndicator_ToEnum(rtxContext* ctx, const char* text, SysInfoType5_v690ext_IEs_edch_CellIndicator* pvalue)
@@ -2538,7 +2538,7 @@ int UMTS_DL_UM_RLC_LI_size_ToEnum2(rtxContext* ctx, const char* text, size_t len
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DL_UM_RLC_LI_size_ToEnum(rtxContext* ctx, const char* text, DL_UM_RLC_LI_size* pvalue)
@@ -2577,7 +2577,7 @@ int UMTS_TimerOSD_r6_ToEnum2(rtxContext* ctx, const char* text, size_t length, T
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TimerOSD_r6_ToEnum(rtxContext* ctx, const char* text, TimerOSD_r6* pvalue)
@@ -2609,7 +2609,7 @@ int UMTS_WindowSizeOSD_r6_ToEnum2(rtxContext* ctx, const char* text, size_t leng
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_WindowSizeOSD_r6_ToEnum(rtxContext* ctx, const char* text, WindowSizeOSD_r6* pvalue)
@@ -2634,7 +2634,7 @@ int UMTS_MBMS_TCTF_Presence_ToEnum2(rtxContext* ctx, const char* text, size_t le
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MBMS_TCTF_Presence_ToEnum(rtxContext* ctx, const char* text, MBMS_TCTF_Presence* pvalue)
@@ -2665,7 +2665,7 @@ int UMTS_CBS_DRX_Level1Information_extension_r6_ToEnum2(rtxContext* ctx, const c
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CBS_DRX_Level1Information_extension_r6_ToEnum(rtxContext* ctx, const char* text, CBS_DRX_Level1Information_extension_r6* pvalue)
@@ -2706,7 +2706,7 @@ int UMTS_T1_ReleaseTimer_ToEnum2(rtxContext* ctx, const char* text, size_t lengt
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_T1_ReleaseTimer_ToEnum(rtxContext* ctx, const char* text, T1_ReleaseTimer* pvalue)
@@ -2735,7 +2735,7 @@ int UMTS_Treset_ResetTimer_ToEnum2(rtxContext* ctx, const char* text, size_t len
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_Treset_ResetTimer_ToEnum(rtxContext* ctx, const char* text, Treset_ResetTimer* pvalue)
@@ -2767,7 +2767,7 @@ int UMTS_MAC_hs_WindowSize_ToEnum2(rtxContext* ctx, const char* text, size_t len
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MAC_hs_WindowSize_ToEnum(rtxContext* ctx, const char* text, MAC_hs_WindowSize* pvalue)
@@ -2853,7 +2853,7 @@ int UMTS_HARQMemorySize_ToEnum2(rtxContext* ctx, const char* text, size_t length
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_HARQMemorySize_ToEnum(rtxContext* ctx, const char* text, HARQMemorySize* pvalue)
@@ -2880,7 +2880,7 @@ int UMTS_MidambleConfigurationBurstType2_VHCR_ToEnum2(rtxContext* ctx, const cha
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MidambleConfigurationBurstType2_VHCR_ToEnum(rtxContext* ctx, const char* text, MidambleConfigurationBurstType2_VHCR* pvalue)
@@ -2968,7 +2968,7 @@ int UMTS_UL_TS_ChannelisationCode_VHCR_ToEnum2(rtxContext* ctx, const char* text
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UL_TS_ChannelisationCode_VHCR_ToEnum(rtxContext* ctx, const char* text, UL_TS_ChannelisationCode_VHCR* pvalue)
@@ -3025,7 +3025,7 @@ int UMTS_DL_TS_ChannelisationCode_VHCR_ToEnum2(rtxContext* ctx, const char* text
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DL_TS_ChannelisationCode_VHCR_ToEnum(rtxContext* ctx, const char* text, DL_TS_ChannelisationCode_VHCR* pvalue)
@@ -3066,7 +3066,7 @@ int UMTS_TDD768_PRACH_CCode32_ToEnum2(rtxContext* ctx, const char* text, size_t 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TDD768_PRACH_CCode32_ToEnum(rtxContext* ctx, const char* text, TDD768_PRACH_CCode32* pvalue)
@@ -3107,7 +3107,7 @@ int UMTS_TDD768_PRACH_CCode16_ToEnum2(rtxContext* ctx, const char* text, size_t 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TDD768_PRACH_CCode16_ToEnum(rtxContext* ctx, const char* text, TDD768_PRACH_CCode16* pvalue)
@@ -3134,7 +3134,7 @@ int UMTS_AccessServiceClass_TDD_r7_subchannelSize_size2_subchannels_ToEnum2(rtxC
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_AccessServiceClass_TDD_r7_subchannelSize_size2_subchannels_ToEnum(rtxContext* ctx, const char* text, AccessServiceClass_TDD_r7_subchannelSize_size2_subchannels* pvalue)
@@ -3191,7 +3191,7 @@ int UMTS_SCCPCH_ChannelisationCode_VHCR_ToEnum2(rtxContext* ctx, const char* tex
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_SCCPCH_ChannelisationCode_VHCR_ToEnum(rtxContext* ctx, const char* text, SCCPCH_ChannelisationCode_VHCR* pvalue)
@@ -3248,7 +3248,7 @@ int UMTS_TDD768_PICH_CCode_ToEnum2(rtxContext* ctx, const char* text, size_t len
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TDD768_PICH_CCode_ToEnum(rtxContext* ctx, const char* text, TDD768_PICH_CCode* pvalue)
@@ -3275,7 +3275,7 @@ int UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384_modulation_ToEnum2(r
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384_modulation_ToEnum(rtxContext* ctx, const char* text, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384_modulation* pvalue)
@@ -3302,7 +3302,7 @@ int UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768_modulation_ToEnum2(r
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768_modulation_ToEnum(rtxContext* ctx, const char* text, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768_modulation* pvalue)
@@ -3331,7 +3331,7 @@ int UMTS_TimeSlotLCR_ext_ToEnum2(rtxContext* ctx, const char* text, size_t lengt
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TimeSlotLCR_ext_ToEnum(rtxContext* ctx, const char* text, TimeSlotLCR_ext* pvalue)
@@ -3358,7 +3358,7 @@ int UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128_modulation_ToEnum2(r
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128_modulation_ToEnum(rtxContext* ctx, const char* text, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128_modulation* pvalue)
@@ -3387,7 +3387,7 @@ int UMTS_T_321_ToEnum2(rtxContext* ctx, const char* text, size_t length, T_321* 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_T_321_ToEnum(rtxContext* ctx, const char* text, T_321* pvalue)
@@ -3416,7 +3416,7 @@ int UMTS_HS_DSCH_DrxCycleFach_ToEnum2(rtxContext* ctx, const char* text, size_t 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_HS_DSCH_DrxCycleFach_ToEnum(rtxContext* ctx, const char* text, HS_DSCH_DrxCycleFach* pvalue)
@@ -3449,7 +3449,7 @@ int UMTS_HS_DSCH_DrxBurstFach_ToEnum2(rtxContext* ctx, const char* text, size_t 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_HS_DSCH_DrxBurstFach_ToEnum(rtxContext* ctx, const char* text, HS_DSCH_DrxBurstFach* pvalue)
@@ -3490,7 +3490,7 @@ int UMTS_HS_ChannelisationCode_LCR_ToEnum2(rtxContext* ctx, const char* text, si
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_HS_ChannelisationCode_LCR_ToEnum(rtxContext* ctx, const char* text, HS_ChannelisationCode_LCR* pvalue)
@@ -3519,7 +3519,7 @@ int UMTS_HS_SCCH_SystemInfo_TDD128_tpc_step_size_ToEnum2(rtxContext* ctx, const 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_HS_SCCH_SystemInfo_TDD128_tpc_step_size_ToEnum(rtxContext* ctx, const char* text, HS_SCCH_SystemInfo_TDD128_tpc_step_size* pvalue)
@@ -3574,7 +3574,7 @@ int UMTS_E_DCH_MAC_d_FlowRetransTimer_ToEnum2(rtxContext* ctx, const char* text,
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_E_DCH_MAC_d_FlowRetransTimer_ToEnum(rtxContext* ctx, const char* text, E_DCH_MAC_d_FlowRetransTimer* pvalue)
@@ -3601,7 +3601,7 @@ int UMTS_E_DCH_TTI_ToEnum2(rtxContext* ctx, const char* text, size_t length, E_D
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_E_DCH_TTI_ToEnum(rtxContext* ctx, const char* text, E_DCH_TTI* pvalue)
@@ -3628,7 +3628,7 @@ int UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_harq_Info_ToEnum2(rtxContext*
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_harq_Info_ToEnum(rtxContext* ctx, const char* text, CommonEDCHSystemInfo_modeSpecificInfo_fdd_harq_Info* pvalue)
@@ -3661,7 +3661,7 @@ int UMTS_HappyBit_DelayCondition_ToEnum2(rtxContext* ctx, const char* text, size
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_HappyBit_DelayCondition_ToEnum(rtxContext* ctx, const char* text, HappyBit_DelayCondition* pvalue)
@@ -3694,7 +3694,7 @@ int UMTS_MinReduced_E_DPDCH_GainFactor_ToEnum2(rtxContext* ctx, const char* text
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MinReduced_E_DPDCH_GainFactor_ToEnum(rtxContext* ctx, const char* text, MinReduced_E_DPDCH_GainFactor* pvalue)
@@ -3729,7 +3729,7 @@ int UMTS_E_DPDCH_MaxChannelisationCodes_ToEnum2(rtxContext* ctx, const char* tex
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_E_DPDCH_MaxChannelisationCodes_ToEnum(rtxContext* ctx, const char* text, E_DPDCH_MaxChannelisationCodes* pvalue)
@@ -3763,7 +3763,7 @@ int UMTS_E_DPDCH_PeriodicyOfSchedInfo_ToEnum2(rtxContext* ctx, const char* text,
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_E_DPDCH_PeriodicyOfSchedInfo_ToEnum(rtxContext* ctx, const char* text, E_DPDCH_PeriodicyOfSchedInfo* pvalue)
@@ -3796,7 +3796,7 @@ int UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_max_CCCH_ResourceAllocation_T
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_max_CCCH_ResourceAllocation_ToEnum(rtxContext* ctx, const char* text, CommonEDCHSystemInfo_modeSpecificInfo_fdd_max_CCCH_ResourceAllocation* pvalue)
@@ -3829,7 +3829,7 @@ int UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_e_dch_TransmitContinuationOff
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_e_dch_TransmitContinuationOffset_ToEnum(rtxContext* ctx, const char* text, CommonEDCHSystemInfo_modeSpecificInfo_fdd_e_dch_TransmitContinuationOffset* pvalue)
@@ -3870,7 +3870,7 @@ int UMTS_Feedback_cycle_r7_ToEnum2(rtxContext* ctx, const char* text, size_t len
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_Feedback_cycle_r7_ToEnum(rtxContext* ctx, const char* text, Feedback_cycle_r7* pvalue)
@@ -3897,7 +3897,7 @@ int UMTS_ScramblingCodeType_ToEnum2(rtxContext* ctx, const char* text, size_t le
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_ScramblingCodeType_ToEnum(rtxContext* ctx, const char* text, ScramblingCodeType* pvalue)
@@ -3938,7 +3938,7 @@ int UMTS_E_RUCCH_Info_TDD128_t_RUCCH_ToEnum2(rtxContext* ctx, const char* text, 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_E_RUCCH_Info_TDD128_t_RUCCH_ToEnum(rtxContext* ctx, const char* text, E_RUCCH_Info_TDD128_t_RUCCH* pvalue)
@@ -3971,7 +3971,7 @@ int UMTS_E_RUCCH_Info_TDD128_t_WAIT_ToEnum2(rtxContext* ctx, const char* text, s
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_E_RUCCH_Info_TDD128_t_WAIT_ToEnum(rtxContext* ctx, const char* text, E_RUCCH_Info_TDD128_t_WAIT* pvalue)
@@ -4003,7 +4003,7 @@ int UMTS_E_RUCCH_Info_TDD128_t_SI_ToEnum2(rtxContext* ctx, const char* text, siz
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_E_RUCCH_Info_TDD128_t_SI_ToEnum(rtxContext* ctx, const char* text, E_RUCCH_Info_TDD128_t_SI* pvalue)
@@ -4032,7 +4032,7 @@ int UMTS_SYNC_UL_InfoForE_RUCCH_max_SYNC_UL_Transmissions_ToEnum2(rtxContext* ct
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_SYNC_UL_InfoForE_RUCCH_max_SYNC_UL_Transmissions_ToEnum(rtxContext* ctx, const char* text, SYNC_UL_InfoForE_RUCCH_max_SYNC_UL_Transmissions* pvalue)
@@ -4059,7 +4059,7 @@ int UMTS_E_PUCH_Info_TDD128_snpl_ReportType_ToEnum2(rtxContext* ctx, const char*
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_E_PUCH_Info_TDD128_snpl_ReportType_ToEnum(rtxContext* ctx, const char* text, E_PUCH_Info_TDD128_snpl_ReportType* pvalue)
@@ -4114,7 +4114,7 @@ int UMTS_E_PUCH_Info_TDD128_retransTimerForSchedInfo_ToEnum2(rtxContext* ctx, co
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_E_PUCH_Info_TDD128_retransTimerForSchedInfo_ToEnum(rtxContext* ctx, const char* text, E_PUCH_Info_TDD128_retransTimerForSchedInfo* pvalue)
@@ -4141,7 +4141,7 @@ int UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_harq_Info_ToEnum2(rtxC
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_harq_Info_ToEnum(rtxContext* ctx, const char* text, CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_harq_Info* pvalue)
@@ -4189,7 +4189,7 @@ int UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info_harq_retransmission_timer_ToEnum(rtxContext* ctx, const char* text, CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info_harq_retransmission_timer* pvalue)
@@ -4214,7 +4214,7 @@ int UMTS_SysInfoType5_v8b0ext_IEs_tresetUsageIndicator_ToEnum2(rtxContext* ctx, 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_SysInfoType5_v8b0ext_IEs_tresetUsageIndicator_ToEnum(rtxContext* ctx, const char* text, SysInfoType5_v8b0ext_IEs_tresetUsageIndicator* pvalue)
@@ -4241,7 +4241,7 @@ int UMTS_CommonEDCHSystemInfoFDD_harq_Info_ToEnum2(rtxContext* ctx, const char* 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CommonEDCHSystemInfoFDD_harq_Info_ToEnum(rtxContext* ctx, const char* text, CommonEDCHSystemInfoFDD_harq_Info* pvalue)
@@ -4274,7 +4274,7 @@ int UMTS_CommonEDCHSystemInfoFDD_max_CCCH_ResourceAllocation_ToEnum2(rtxContext*
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CommonEDCHSystemInfoFDD_max_CCCH_ResourceAllocation_ToEnum(rtxContext* ctx, const char* text, CommonEDCHSystemInfoFDD_max_CCCH_ResourceAllocation* pvalue)
@@ -4307,7 +4307,7 @@ int UMTS_CommonEDCHSystemInfoFDD_e_dch_TransmitContinuationOffset_ToEnum2(rtxCon
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CommonEDCHSystemInfoFDD_e_dch_TransmitContinuationOffset_ToEnum(rtxContext* ctx, const char* text, CommonEDCHSystemInfoFDD_e_dch_TransmitContinuationOffset* pvalue)
@@ -4334,7 +4334,7 @@ int UMTS_RAT_Type_ToEnum2(rtxContext* ctx, const char* text, size_t length, RAT_
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RAT_Type_ToEnum(rtxContext* ctx, const char* text, RAT_Type* pvalue)
@@ -4361,7 +4361,7 @@ int UMTS_BurstType_ToEnum2(rtxContext* ctx, const char* text, size_t length, Bur
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_BurstType_ToEnum(rtxContext* ctx, const char* text, BurstType* pvalue)
@@ -4402,7 +4402,7 @@ int UMTS_FilterCoefficient_ToEnum2(rtxContext* ctx, const char* text, size_t len
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_FilterCoefficient_ToEnum(rtxContext* ctx, const char* text, FilterCoefficient* pvalue)
@@ -4431,7 +4431,7 @@ int UMTS_IntraFreqMeasQuantity_FDD_ToEnum2(rtxContext* ctx, const char* text, si
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_IntraFreqMeasQuantity_FDD_ToEnum(rtxContext* ctx, const char* text, IntraFreqMeasQuantity_FDD* pvalue)
@@ -4460,7 +4460,7 @@ int UMTS_IntraFreqMeasQuantity_TDD_ToEnum2(rtxContext* ctx, const char* text, si
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_IntraFreqMeasQuantity_TDD_ToEnum(rtxContext* ctx, const char* text, IntraFreqMeasQuantity_TDD* pvalue)
@@ -4488,7 +4488,7 @@ int UMTS_SFN_SFN_OTD_Type_ToEnum2(rtxContext* ctx, const char* text, size_t leng
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_SFN_SFN_OTD_Type_ToEnum(rtxContext* ctx, const char* text, SFN_SFN_OTD_Type* pvalue)
@@ -4517,7 +4517,7 @@ int UMTS_IntraFreqRepQuantityRACH_FDD_ToEnum2(rtxContext* ctx, const char* text,
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_IntraFreqRepQuantityRACH_FDD_ToEnum(rtxContext* ctx, const char* text, IntraFreqRepQuantityRACH_FDD* pvalue)
@@ -4545,7 +4545,7 @@ int UMTS_IntraFreqRepQuantityRACH_TDD_ToEnum2(rtxContext* ctx, const char* text,
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_IntraFreqRepQuantityRACH_TDD_ToEnum(rtxContext* ctx, const char* text, IntraFreqRepQuantityRACH_TDD* pvalue)
@@ -4578,7 +4578,7 @@ int UMTS_MaxReportedCellsOnRACH_ToEnum2(rtxContext* ctx, const char* text, size_
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MaxReportedCellsOnRACH_ToEnum(rtxContext* ctx, const char* text, MaxReportedCellsOnRACH* pvalue)
@@ -4605,7 +4605,7 @@ int UMTS_TransferMode_ToEnum2(rtxContext* ctx, const char* text, size_t length, 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TransferMode_ToEnum(rtxContext* ctx, const char* text, TransferMode* pvalue)
@@ -4632,7 +4632,7 @@ int UMTS_PeriodicalOrEventTrigger_ToEnum2(rtxContext* ctx, const char* text, siz
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_PeriodicalOrEventTrigger_ToEnum(rtxContext* ctx, const char* text, PeriodicalOrEventTrigger* pvalue)
@@ -4662,7 +4662,7 @@ int UMTS_TriggeringCondition2_ToEnum2(rtxContext* ctx, const char* text, size_t 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TriggeringCondition2_ToEnum(rtxContext* ctx, const char* text, TriggeringCondition2* pvalue)
@@ -4695,7 +4695,7 @@ int UMTS_ReportDeactivationThreshold_ToEnum2(rtxContext* ctx, const char* text, 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_ReportDeactivationThreshold_ToEnum(rtxContext* ctx, const char* text, ReportDeactivationThreshold* pvalue)
@@ -4728,7 +4728,7 @@ int UMTS_ReportingAmount_ToEnum2(rtxContext* ctx, const char* text, size_t lengt
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_ReportingAmount_ToEnum(rtxContext* ctx, const char* text, ReportingAmount* pvalue)
@@ -4761,7 +4761,7 @@ int UMTS_ReportingInterval_ToEnum2(rtxContext* ctx, const char* text, size_t len
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_ReportingInterval_ToEnum(rtxContext* ctx, const char* text, ReportingInterval* pvalue)
@@ -4789,7 +4789,7 @@ int UMTS_TriggeringCondition1_ToEnum2(rtxContext* ctx, const char* text, size_t 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TriggeringCondition1_ToEnum(rtxContext* ctx, const char* text, TriggeringCondition1* pvalue)
@@ -4822,7 +4822,7 @@ int UMTS_ReplacementActivationThreshold_ToEnum2(rtxContext* ctx, const char* tex
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_ReplacementActivationThreshold_ToEnum(rtxContext* ctx, const char* text, ReplacementActivationThreshold* pvalue)
@@ -4863,7 +4863,7 @@ int UMTS_TimeToTrigger_ToEnum2(rtxContext* ctx, const char* text, size_t length,
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TimeToTrigger_ToEnum(rtxContext* ctx, const char* text, TimeToTrigger* pvalue)
@@ -4894,7 +4894,7 @@ int UMTS_MaxNumberOfReportingCellsType1_ToEnum2(rtxContext* ctx, const char* tex
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MaxNumberOfReportingCellsType1_ToEnum(rtxContext* ctx, const char* text, MaxNumberOfReportingCellsType1* pvalue)
@@ -4925,7 +4925,7 @@ int UMTS_MaxNumberOfReportingCellsType3_ToEnum2(rtxContext* ctx, const char* tex
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MaxNumberOfReportingCellsType3_ToEnum(rtxContext* ctx, const char* text, MaxNumberOfReportingCellsType3* pvalue)
@@ -4962,7 +4962,7 @@ int UMTS_MaxNumberOfReportingCellsType2_ToEnum2(rtxContext* ctx, const char* tex
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MaxNumberOfReportingCellsType2_ToEnum(rtxContext* ctx, const char* text, MaxNumberOfReportingCellsType2* pvalue)
@@ -5003,7 +5003,7 @@ int UMTS_ReportingIntervalLong_ToEnum2(rtxContext* ctx, const char* text, size_t
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_ReportingIntervalLong_ToEnum(rtxContext* ctx, const char* text, ReportingIntervalLong* pvalue)
@@ -5036,7 +5036,7 @@ int UMTS_TemporaryOffset1_ToEnum2(rtxContext* ctx, const char* text, size_t leng
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TemporaryOffset1_ToEnum(rtxContext* ctx, const char* text, TemporaryOffset1* pvalue)
@@ -5063,7 +5063,7 @@ int UMTS_Frequency_Band_ToEnum2(rtxContext* ctx, const char* text, size_t length
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_Frequency_Band_ToEnum(rtxContext* ctx, const char* text, Frequency_Band* pvalue)
@@ -5093,7 +5093,7 @@ int UMTS_IS_2000SpecificMeasInfo_ToEnum2(rtxContext* ctx, const char* text, size
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_IS_2000SpecificMeasInfo_ToEnum(rtxContext* ctx, const char* text, IS_2000SpecificMeasInfo* pvalue)
@@ -5126,7 +5126,7 @@ int UMTS_TemporaryOffset2_ToEnum2(rtxContext* ctx, const char* text, size_t leng
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TemporaryOffset2_ToEnum(rtxContext* ctx, const char* text, TemporaryOffset2* pvalue)
@@ -5153,7 +5153,7 @@ int UMTS_TrafficVolumeEventType_ToEnum2(rtxContext* ctx, const char* text, size_
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TrafficVolumeEventType_ToEnum(rtxContext* ctx, const char* text, TrafficVolumeEventType* pvalue)
@@ -5204,7 +5204,7 @@ int UMTS_TrafficVolumeThreshold_ToEnum2(rtxContext* ctx, const char* text, size_
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TrafficVolumeThreshold_ToEnum(rtxContext* ctx, const char* text, TrafficVolumeThreshold* pvalue)
@@ -5236,7 +5236,7 @@ int UMTS_PendingTimeAfterTrigger_ToEnum2(rtxContext* ctx, const char* text, size
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_PendingTimeAfterTrigger_ToEnum(rtxContext* ctx, const char* text, PendingTimeAfterTrigger* pvalue)
@@ -5268,7 +5268,7 @@ int UMTS_TX_InterruptionAfterTrigger_ToEnum2(rtxContext* ctx, const char* text, 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TX_InterruptionAfterTrigger_ToEnum(rtxContext* ctx, const char* text, TX_InterruptionAfterTrigger* pvalue)
@@ -5296,7 +5296,7 @@ int UMTS_MeasurementValidity_ue_State_ToEnum2(rtxContext* ctx, const char* text,
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MeasurementValidity_ue_State_ToEnum(rtxContext* ctx, const char* text, MeasurementValidity_ue_State* pvalue)
@@ -5324,7 +5324,7 @@ int UMTS_UE_MeasurementQuantity_ToEnum2(rtxContext* ctx, const char* text, size_
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_MeasurementQuantity_ToEnum(rtxContext* ctx, const char* text, UE_MeasurementQuantity* pvalue)
@@ -5351,7 +5351,7 @@ int UMTS_InterFreqRepQuantityRACH_FDD_ToEnum2(rtxContext* ctx, const char* text,
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_InterFreqRepQuantityRACH_FDD_ToEnum(rtxContext* ctx, const char* text, InterFreqRepQuantityRACH_FDD* pvalue)
@@ -5378,7 +5378,7 @@ int UMTS_InterFreqRepQuantityRACH_TDD_ToEnum2(rtxContext* ctx, const char* text,
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_InterFreqRepQuantityRACH_TDD_ToEnum(rtxContext* ctx, const char* text, InterFreqRepQuantityRACH_TDD* pvalue)
@@ -5403,7 +5403,7 @@ int UMTS_MBSFNFrequency_v860ext_imb_Indication_ToEnum2(rtxContext* ctx, const ch
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MBSFNFrequency_v860ext_imb_Indication_ToEnum(rtxContext* ctx, const char* text, MBSFNFrequency_v860ext_imb_Indication* pvalue)
@@ -5430,7 +5430,7 @@ int UMTS_Re_EstablishmentTimer_ToEnum2(rtxContext* ctx, const char* text, size_t
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_Re_EstablishmentTimer_ToEnum(rtxContext* ctx, const char* text, Re_EstablishmentTimer* pvalue)
@@ -5471,7 +5471,7 @@ int UMTS_TimerMRW_ToEnum2(rtxContext* ctx, const char* text, size_t length, Time
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TimerMRW_ToEnum(rtxContext* ctx, const char* text, TimerMRW* pvalue)
@@ -5512,7 +5512,7 @@ int UMTS_TimerDiscard_ToEnum2(rtxContext* ctx, const char* text, size_t length, 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TimerDiscard_ToEnum(rtxContext* ctx, const char* text, TimerDiscard* pvalue)
@@ -5545,7 +5545,7 @@ int UMTS_MaxMRW_ToEnum2(rtxContext* ctx, const char* text, size_t length, MaxMRW
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MaxMRW_ToEnum(rtxContext* ctx, const char* text, MaxMRW* pvalue)
@@ -5580,7 +5580,7 @@ int UMTS_NoExplicitDiscard_ToEnum2(rtxContext* ctx, const char* text, size_t len
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_NoExplicitDiscard_ToEnum(rtxContext* ctx, const char* text, NoExplicitDiscard* pvalue)
@@ -5621,7 +5621,7 @@ int UMTS_MaxDAT_ToEnum2(rtxContext* ctx, const char* text, size_t length, MaxDAT
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MaxDAT_ToEnum(rtxContext* ctx, const char* text, MaxDAT* pvalue)
@@ -5662,7 +5662,7 @@ int UMTS_TransmissionWindowSize_ToEnum2(rtxContext* ctx, const char* text, size_
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TransmissionWindowSize_ToEnum(rtxContext* ctx, const char* text, TransmissionWindowSize* pvalue)
@@ -5703,7 +5703,7 @@ int UMTS_TimerRST_ToEnum2(rtxContext* ctx, const char* text, size_t length, Time
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TimerRST_ToEnum(rtxContext* ctx, const char* text, TimerRST* pvalue)
@@ -5736,7 +5736,7 @@ int UMTS_MaxRST_ToEnum2(rtxContext* ctx, const char* text, size_t length, MaxRST
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MaxRST_ToEnum(rtxContext* ctx, const char* text, MaxRST* pvalue)
@@ -5825,7 +5825,7 @@ int UMTS_TimerPollProhibit_ToEnum2(rtxContext* ctx, const char* text, size_t len
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TimerPollProhibit_ToEnum(rtxContext* ctx, const char* text, TimerPollProhibit* pvalue)
@@ -5914,7 +5914,7 @@ int UMTS_TimerPoll_ToEnum2(rtxContext* ctx, const char* text, size_t length, Tim
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TimerPoll_ToEnum(rtxContext* ctx, const char* text, TimerPoll* pvalue)
@@ -5947,7 +5947,7 @@ int UMTS_Poll_PDU_ToEnum2(rtxContext* ctx, const char* text, size_t length, Poll
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_Poll_PDU_ToEnum(rtxContext* ctx, const char* text, Poll_PDU* pvalue)
@@ -5976,7 +5976,7 @@ int UMTS_Poll_SDU_ToEnum2(rtxContext* ctx, const char* text, size_t length, Poll
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_Poll_SDU_ToEnum(rtxContext* ctx, const char* text, Poll_SDU* pvalue)
@@ -6009,7 +6009,7 @@ int UMTS_PollWindow_ToEnum2(rtxContext* ctx, const char* text, size_t length, Po
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_PollWindow_ToEnum(rtxContext* ctx, const char* text, PollWindow* pvalue)
@@ -6042,7 +6042,7 @@ int UMTS_TimerPollPeriodic_ToEnum2(rtxContext* ctx, const char* text, size_t len
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TimerPollPeriodic_ToEnum(rtxContext* ctx, const char* text, TimerPollPeriodic* pvalue)
@@ -6083,7 +6083,7 @@ int UMTS_ReceivingWindowSize_ToEnum2(rtxContext* ctx, const char* text, size_t l
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_ReceivingWindowSize_ToEnum(rtxContext* ctx, const char* text, ReceivingWindowSize* pvalue)
@@ -6172,7 +6172,7 @@ int UMTS_TimerStatusProhibit_ToEnum2(rtxContext* ctx, const char* text, size_t l
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TimerStatusProhibit_ToEnum(rtxContext* ctx, const char* text, TimerStatusProhibit* pvalue)
@@ -6213,7 +6213,7 @@ int UMTS_TimerEPC_ToEnum2(rtxContext* ctx, const char* text, size_t length, Time
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TimerEPC_ToEnum(rtxContext* ctx, const char* text, TimerEPC* pvalue)
@@ -6246,7 +6246,7 @@ int UMTS_TimerStatusPeriodic_ToEnum2(rtxContext* ctx, const char* text, size_t l
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TimerStatusPeriodic_ToEnum(rtxContext* ctx, const char* text, TimerStatusPeriodic* pvalue)
@@ -6273,7 +6273,7 @@ int UMTS_MaxPDCP_SN_WindowSize_ToEnum2(rtxContext* ctx, const char* text, size_t
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MaxPDCP_SN_WindowSize_ToEnum(rtxContext* ctx, const char* text, MaxPDCP_SN_WindowSize* pvalue)
@@ -6300,7 +6300,7 @@ int UMTS_PDCP_PDU_Header_ToEnum2(rtxContext* ctx, const char* text, size_t lengt
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_PDCP_PDU_Header_ToEnum(rtxContext* ctx, const char* text, PDCP_PDU_Header* pvalue)
@@ -6327,7 +6327,7 @@ int UMTS_ExpectReordering_ToEnum2(rtxContext* ctx, const char* text, size_t leng
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_ExpectReordering_ToEnum(rtxContext* ctx, const char* text, ExpectReordering* pvalue)
@@ -6354,7 +6354,7 @@ int UMTS_UL_TrCH_Type_ToEnum2(rtxContext* ctx, const char* text, size_t length, 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UL_TrCH_Type_ToEnum(rtxContext* ctx, const char* text, UL_TrCH_Type* pvalue)
@@ -6381,7 +6381,7 @@ int UMTS_DL_TrCH_Type_ToEnum2(rtxContext* ctx, const char* text, size_t length, 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DL_TrCH_Type_ToEnum(rtxContext* ctx, const char* text, DL_TrCH_Type* pvalue)
@@ -6406,7 +6406,7 @@ int UMTS_MessType_ToEnum2(rtxContext* ctx, const char* text, size_t length, Mess
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MessType_ToEnum(rtxContext* ctx, const char* text, MessType* pvalue)
@@ -6433,7 +6433,7 @@ int UMTS_PilotBits128_ToEnum2(rtxContext* ctx, const char* text, size_t length, 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_PilotBits128_ToEnum(rtxContext* ctx, const char* text, PilotBits128* pvalue)
@@ -6461,7 +6461,7 @@ int UMTS_PilotBits256_ToEnum2(rtxContext* ctx, const char* text, size_t length, 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_PilotBits256_ToEnum(rtxContext* ctx, const char* text, PilotBits256* pvalue)
@@ -6486,7 +6486,7 @@ int UMTS_NumberOfTPC_Bits_ToEnum2(rtxContext* ctx, const char* text, size_t leng
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_NumberOfTPC_Bits_ToEnum(rtxContext* ctx, const char* text, NumberOfTPC_Bits* pvalue)
@@ -6520,7 +6520,7 @@ int UMTS_MAC_hs_WindowSize_r9_ToEnum2(rtxContext* ctx, const char* text, size_t 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MAC_hs_WindowSize_r9_ToEnum(rtxContext* ctx, const char* text, MAC_hs_WindowSize_r9* pvalue)
@@ -6549,7 +6549,7 @@ int UMTS_PagingRecordTypeID_ToEnum2(rtxContext* ctx, const char* text, size_t le
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_PagingRecordTypeID_ToEnum(rtxContext* ctx, const char* text, PagingRecordTypeID* pvalue)
@@ -6582,7 +6582,7 @@ int UMTS_T_322_ToEnum2(rtxContext* ctx, const char* text, size_t length, T_322* 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_T_322_ToEnum(rtxContext* ctx, const char* text, T_322* pvalue)
@@ -6609,7 +6609,7 @@ int UMTS_GSM_CellGroup_bandIndicator_ToEnum2(rtxContext* ctx, const char* text, 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_GSM_CellGroup_bandIndicator_ToEnum(rtxContext* ctx, const char* text, GSM_CellGroup_bandIndicator* pvalue)
@@ -6650,7 +6650,7 @@ int UMTS_AccessStratumReleaseIndicator_ToEnum2(rtxContext* ctx, const char* text
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_AccessStratumReleaseIndicator_ToEnum(rtxContext* ctx, const char* text, AccessStratumReleaseIndicator* pvalue)
@@ -6677,7 +6677,7 @@ int UMTS_T_CPCH_ToEnum2(rtxContext* ctx, const char* text, size_t length, T_CPCH
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_T_CPCH_ToEnum(rtxContext* ctx, const char* text, T_CPCH* pvalue)
@@ -6702,7 +6702,7 @@ int UMTS_SystemSpecificCapUpdateReq_ToEnum2(rtxContext* ctx, const char* text, s
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_SystemSpecificCapUpdateReq_ToEnum(rtxContext* ctx, const char* text, SystemSpecificCapUpdateReq* pvalue)
@@ -6729,7 +6729,7 @@ int UMTS_SystemSpecificCapUpdateReq_r5_ToEnum2(rtxContext* ctx, const char* text
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_SystemSpecificCapUpdateReq_r5_ToEnum(rtxContext* ctx, const char* text, SystemSpecificCapUpdateReq_r5* pvalue)
@@ -6762,7 +6762,7 @@ int UMTS_SystemSpecificCapUpdateReq_r8_ToEnum2(rtxContext* ctx, const char* text
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_SystemSpecificCapUpdateReq_r8_ToEnum(rtxContext* ctx, const char* text, SystemSpecificCapUpdateReq_r8* pvalue)
@@ -6795,7 +6795,7 @@ int UMTS_CellUpdateCause_ToEnum2(rtxContext* ctx, const char* text, size_t lengt
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CellUpdateCause_ToEnum(rtxContext* ctx, const char* text, CellUpdateCause* pvalue)
@@ -6824,7 +6824,7 @@ int UMTS_CellUpdateCause_ext_ToEnum2(rtxContext* ctx, const char* text, size_t l
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CellUpdateCause_ext_ToEnum(rtxContext* ctx, const char* text, CellUpdateCause_ext* pvalue)
@@ -6851,7 +6851,7 @@ int UMTS_ChipRateCapability_ToEnum2(rtxContext* ctx, const char* text, size_t le
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_ChipRateCapability_ToEnum(rtxContext* ctx, const char* text, ChipRateCapability* pvalue)
@@ -6878,7 +6878,7 @@ int UMTS_CipheringAlgorithm_ToEnum2(rtxContext* ctx, const char* text, size_t le
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CipheringAlgorithm_ToEnum(rtxContext* ctx, const char* text, CipheringAlgorithm* pvalue)
@@ -6906,7 +6906,7 @@ int UMTS_CipheringAlgorithm_r7_ToEnum2(rtxContext* ctx, const char* text, size_t
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CipheringAlgorithm_r7_ToEnum(rtxContext* ctx, const char* text, CipheringAlgorithm_r7* pvalue)
@@ -6931,7 +6931,7 @@ int UMTS_CompressedModeMeasCapability_v860ext_adjacentFrequencyMeasurements_ToEn
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CompressedModeMeasCapability_v860ext_adjacentFrequencyMeasurements_ToEnum(rtxContext* ctx, const char* text, CompressedModeMeasCapability_v860ext_adjacentFrequencyMeasurements* pvalue)
@@ -6956,7 +6956,7 @@ int UMTS_CompressedModeMeasCapability_v920ext_interBandMeasurements_ToEnum2(rtxC
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CompressedModeMeasCapability_v920ext_interBandMeasurements_ToEnum(rtxContext* ctx, const char* text, CompressedModeMeasCapability_v920ext_interBandMeasurements* pvalue)
@@ -6985,7 +6985,7 @@ int UMTS_RadioFrequencyBandTDD_ToEnum2(rtxContext* ctx, const char* text, size_t
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RadioFrequencyBandTDD_ToEnum(rtxContext* ctx, const char* text, RadioFrequencyBandTDD* pvalue)
@@ -7026,7 +7026,7 @@ int UMTS_RadioFrequencyBandGSM_ToEnum2(rtxContext* ctx, const char* text, size_t
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RadioFrequencyBandGSM_ToEnum(rtxContext* ctx, const char* text, RadioFrequencyBandGSM* pvalue)
@@ -7051,7 +7051,7 @@ int UMTS_CSG_ProximityIndicationCapability_supportOfIntraFreqProximityIndication
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CSG_ProximityIndicationCapability_supportOfIntraFreqProximityIndication_ToEnum(rtxContext* ctx, const char* text, CSG_ProximityIndicationCapability_supportOfIntraFreqProximityIndication* pvalue)
@@ -7076,7 +7076,7 @@ int UMTS_CSG_ProximityIndicationCapability_supportOfInterFreqProximityIndication
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CSG_ProximityIndicationCapability_supportOfInterFreqProximityIndication_ToEnum(rtxContext* ctx, const char* text, CSG_ProximityIndicationCapability_supportOfInterFreqProximityIndication* pvalue)
@@ -7101,7 +7101,7 @@ int UMTS_CSG_ProximityIndicationCapability_supportOfE_UtraProximityIndication_To
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CSG_ProximityIndicationCapability_supportOfE_UtraProximityIndication_ToEnum(rtxContext* ctx, const char* text, CSG_ProximityIndicationCapability_supportOfE_UtraProximityIndication* pvalue)
@@ -7130,7 +7130,7 @@ int UMTS_DL_CapabilityWithSimultaneousHS_DSCHConfig_ToEnum2(rtxContext* ctx, con
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DL_CapabilityWithSimultaneousHS_DSCHConfig_ToEnum(rtxContext* ctx, const char* text, DL_CapabilityWithSimultaneousHS_DSCHConfig* pvalue)
@@ -7155,7 +7155,7 @@ int UMTS_STTDIndication_ToEnum2(rtxContext* ctx, const char* text, size_t length
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_STTDIndication_ToEnum(rtxContext* ctx, const char* text, STTDIndication* pvalue)
@@ -7195,7 +7195,7 @@ int UMTS_MaxNoPhysChBitsReceived_ToEnum2(rtxContext* ctx, const char* text, size
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MaxNoPhysChBitsReceived_ToEnum(rtxContext* ctx, const char* text, MaxNoPhysChBitsReceived* pvalue)
@@ -7220,7 +7220,7 @@ int UMTS_MaxNoSCCPCH_RL_ToEnum2(rtxContext* ctx, const char* text, size_t length
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MaxNoSCCPCH_RL_ToEnum(rtxContext* ctx, const char* text, MaxNoSCCPCH_RL* pvalue)
@@ -7245,7 +7245,7 @@ int UMTS_SupportOfDedicatedPilotsForChEstimation_ToEnum2(rtxContext* ctx, const 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_SupportOfDedicatedPilotsForChEstimation_ToEnum(rtxContext* ctx, const char* text, SupportOfDedicatedPilotsForChEstimation* pvalue)
@@ -7270,7 +7270,7 @@ int UMTS_DL_PhysChCapabilityFDD_v770ext_hsscchlessHsdschOperation_ToEnum2(rtxCon
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DL_PhysChCapabilityFDD_v770ext_hsscchlessHsdschOperation_ToEnum(rtxContext* ctx, const char* text, DL_PhysChCapabilityFDD_v770ext_hsscchlessHsdschOperation* pvalue)
@@ -7295,7 +7295,7 @@ int UMTS_DL_PhysChCapabilityFDD_v770ext_enhancedFdpch_ToEnum2(rtxContext* ctx, c
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DL_PhysChCapabilityFDD_v770ext_enhancedFdpch_ToEnum(rtxContext* ctx, const char* text, DL_PhysChCapabilityFDD_v770ext_enhancedFdpch* pvalue)
@@ -7320,7 +7320,7 @@ int UMTS_DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellFach_ToEnum2(rtxCont
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellFach_ToEnum(rtxContext* ctx, const char* text, DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellFach* pvalue)
@@ -7345,7 +7345,7 @@ int UMTS_DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellUraPch_ToEnum2(rtxCo
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellUraPch_ToEnum(rtxContext* ctx, const char* text, DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellUraPch* pvalue)
@@ -7370,7 +7370,7 @@ int UMTS_DL_PhysChCapabilityFDD_v860ext_supportOfTargetCellPreConfig_ToEnum2(rtx
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DL_PhysChCapabilityFDD_v860ext_supportOfTargetCellPreConfig_ToEnum(rtxContext* ctx, const char* text, DL_PhysChCapabilityFDD_v860ext_supportOfTargetCellPreConfig* pvalue)
@@ -7395,7 +7395,7 @@ int UMTS_DL_PhysChCapabilityFDD_v860ext_supportOfHsdschDrxOperation_ToEnum2(rtxC
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DL_PhysChCapabilityFDD_v860ext_supportOfHsdschDrxOperation_ToEnum(rtxContext* ctx, const char* text, DL_PhysChCapabilityFDD_v860ext_supportOfHsdschDrxOperation* pvalue)
@@ -7420,7 +7420,7 @@ int UMTS_DL_PhysChCapabilityFDD_v920ext_supportOfMimoOnlySingleStream_ToEnum2(rt
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DL_PhysChCapabilityFDD_v920ext_supportOfMimoOnlySingleStream_ToEnum(rtxContext* ctx, const char* text, DL_PhysChCapabilityFDD_v920ext_supportOfMimoOnlySingleStream* pvalue)
@@ -7447,7 +7447,7 @@ int UMTS_MinimumSF_DL_ToEnum2(rtxContext* ctx, const char* text, size_t length, 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MinimumSF_DL_ToEnum(rtxContext* ctx, const char* text, MinimumSF_DL* pvalue)
@@ -7474,7 +7474,7 @@ int UMTS_DL_PhysChCapabilityTDD_128_v860ext_supportOfSFModeForHSPDSCHDualStream_
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DL_PhysChCapabilityTDD_128_v860ext_supportOfSFModeForHSPDSCHDualStream_ToEnum(rtxContext* ctx, const char* text, DL_PhysChCapabilityTDD_128_v860ext_supportOfSFModeForHSPDSCHDualStream* pvalue)
@@ -7501,7 +7501,7 @@ int UMTS_MinimumSF_DL_768_ToEnum2(rtxContext* ctx, const char* text, size_t leng
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MinimumSF_DL_768_ToEnum(rtxContext* ctx, const char* text, MinimumSF_DL_768* pvalue)
@@ -7539,7 +7539,7 @@ int UMTS_MaxNoBits_ToEnum2(rtxContext* ctx, const char* text, size_t length, Max
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MaxNoBits_ToEnum(rtxContext* ctx, const char* text, MaxNoBits* pvalue)
@@ -7568,7 +7568,7 @@ int UMTS_MaxSimultaneousTransChsDL_ToEnum2(rtxContext* ctx, const char* text, si
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MaxSimultaneousTransChsDL_ToEnum(rtxContext* ctx, const char* text, MaxSimultaneousTransChsDL* pvalue)
@@ -7603,7 +7603,7 @@ int UMTS_MaxTransportBlocksDL_ToEnum2(rtxContext* ctx, const char* text, size_t 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MaxTransportBlocksDL_ToEnum(rtxContext* ctx, const char* text, MaxTransportBlocksDL* pvalue)
@@ -7637,7 +7637,7 @@ int UMTS_MaxNumberOfTFC_DL_ToEnum2(rtxContext* ctx, const char* text, size_t len
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MaxNumberOfTFC_DL_ToEnum(rtxContext* ctx, const char* text, MaxNumberOfTFC_DL* pvalue)
@@ -7668,7 +7668,7 @@ int UMTS_MaxNumberOfTF_ToEnum2(rtxContext* ctx, const char* text, size_t length,
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MaxNumberOfTF_ToEnum(rtxContext* ctx, const char* text, MaxNumberOfTF* pvalue)
@@ -7693,7 +7693,7 @@ int UMTS_DelayRestrictionFlag_ToEnum2(rtxContext* ctx, const char* text, size_t 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DelayRestrictionFlag_ToEnum(rtxContext* ctx, const char* text, DelayRestrictionFlag* pvalue)
@@ -7750,7 +7750,7 @@ int UMTS_EstablishmentCause_ToEnum2(rtxContext* ctx, const char* text, size_t le
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_EstablishmentCause_ToEnum(rtxContext* ctx, const char* text, EstablishmentCause* pvalue)
@@ -7783,7 +7783,7 @@ int UMTS_ProtocolErrorCause_ToEnum2(rtxContext* ctx, const char* text, size_t le
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_ProtocolErrorCause_ToEnum(rtxContext* ctx, const char* text, ProtocolErrorCause* pvalue)
@@ -7812,7 +7812,7 @@ int UMTS_GANSS_Mode_ToEnum2(rtxContext* ctx, const char* text, size_t length, GA
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_GANSS_Mode_ToEnum(rtxContext* ctx, const char* text, GANSS_Mode* pvalue)
@@ -7845,7 +7845,7 @@ int UMTS_ReleaseCause_ToEnum2(rtxContext* ctx, const char* text, size_t length, 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_ReleaseCause_ToEnum(rtxContext* ctx, const char* text, ReleaseCause* pvalue)
@@ -7870,7 +7870,7 @@ int UMTS_High_MobilityDetected_ToEnum2(rtxContext* ctx, const char* text, size_t
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_High_MobilityDetected_ToEnum(rtxContext* ctx, const char* text, High_MobilityDetected* pvalue)
@@ -7895,7 +7895,7 @@ int UMTS_IntegrityProtectionAlgorithm_ToEnum2(rtxContext* ctx, const char* text,
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_IntegrityProtectionAlgorithm_ToEnum(rtxContext* ctx, const char* text, IntegrityProtectionAlgorithm* pvalue)
@@ -7922,7 +7922,7 @@ int UMTS_IntegrityProtectionAlgorithm_r7_ToEnum2(rtxContext* ctx, const char* te
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_IntegrityProtectionAlgorithm_r7_ToEnum(rtxContext* ctx, const char* text, IntegrityProtectionAlgorithm_r7* pvalue)
@@ -7952,7 +7952,7 @@ int UMTS_MaxHcContextSpace_ToEnum2(rtxContext* ctx, const char* text, size_t len
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MaxHcContextSpace_ToEnum(rtxContext* ctx, const char* text, MaxHcContextSpace* pvalue)
@@ -7981,7 +7981,7 @@ int UMTS_MaxHcContextSpace_r5_ext_ToEnum2(rtxContext* ctx, const char* text, siz
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MaxHcContextSpace_r5_ext_ToEnum(rtxContext* ctx, const char* text, MaxHcContextSpace_r5_ext* pvalue)
@@ -8020,7 +8020,7 @@ int UMTS_MaxROHC_ContextSessions_r4_ToEnum2(rtxContext* ctx, const char* text, s
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MaxROHC_ContextSessions_r4_ToEnum(rtxContext* ctx, const char* text, MaxROHC_ContextSessions_r4* pvalue)
@@ -8052,7 +8052,7 @@ int UMTS_MaximumAM_EntityNumberRLC_Cap_ToEnum2(rtxContext* ctx, const char* text
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MaximumAM_EntityNumberRLC_Cap_ToEnum(rtxContext* ctx, const char* text, MaximumAM_EntityNumberRLC_Cap* pvalue)
@@ -8079,7 +8079,7 @@ int UMTS_MaximumRLC_WindowSize_ToEnum2(rtxContext* ctx, const char* text, size_t
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MaximumRLC_WindowSize_ToEnum(rtxContext* ctx, const char* text, MaximumRLC_WindowSize* pvalue)
@@ -8114,7 +8114,7 @@ int UMTS_MaxNoDPDCH_BitsTransmitted_ToEnum2(rtxContext* ctx, const char* text, s
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MaxNoDPDCH_BitsTransmitted_ToEnum(rtxContext* ctx, const char* text, MaxNoDPDCH_BitsTransmitted* pvalue)
@@ -8150,7 +8150,7 @@ int UMTS_MaxNumberOfTFC_UL_ToEnum2(rtxContext* ctx, const char* text, size_t len
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MaxNumberOfTFC_UL_ToEnum(rtxContext* ctx, const char* text, MaxNumberOfTFC_UL* pvalue)
@@ -8177,7 +8177,7 @@ int UMTS_MaxPhysChPerTimeslot_ToEnum2(rtxContext* ctx, const char* text, size_t 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MaxPhysChPerTimeslot_ToEnum(rtxContext* ctx, const char* text, MaxPhysChPerTimeslot* pvalue)
@@ -8207,7 +8207,7 @@ int UMTS_MaxSimultaneousTransChsUL_ToEnum2(rtxContext* ctx, const char* text, si
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MaxSimultaneousTransChsUL_ToEnum(rtxContext* ctx, const char* text, MaxSimultaneousTransChsUL* pvalue)
@@ -8243,7 +8243,7 @@ int UMTS_MaxTransportBlocksUL_ToEnum2(rtxContext* ctx, const char* text, size_t 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MaxTransportBlocksUL_ToEnum(rtxContext* ctx, const char* text, MaxTransportBlocksUL* pvalue)
@@ -8273,7 +8273,7 @@ int UMTS_MinimumSF_UL_ToEnum2(rtxContext* ctx, const char* text, size_t length, 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MinimumSF_UL_ToEnum(rtxContext* ctx, const char* text, MinimumSF_UL* pvalue)
@@ -8301,7 +8301,7 @@ int UMTS_MultiModeCapability_ToEnum2(rtxContext* ctx, const char* text, size_t l
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MultiModeCapability_ToEnum(rtxContext* ctx, const char* text, MultiModeCapability* pvalue)
@@ -8326,7 +8326,7 @@ int UMTS_MultiModeRAT_Capability_v680ext_supportOfHandoverToGAN_ToEnum2(rtxConte
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MultiModeRAT_Capability_v680ext_supportOfHandoverToGAN_ToEnum(rtxContext* ctx, const char* text, MultiModeRAT_Capability_v680ext_supportOfHandoverToGAN* pvalue)
@@ -8351,7 +8351,7 @@ int UMTS_MultiModeRAT_Capability_v770ext_supportOfPSHandoverToGAN_ToEnum2(rtxCon
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MultiModeRAT_Capability_v770ext_supportOfPSHandoverToGAN_ToEnum(rtxContext* ctx, const char* text, MultiModeRAT_Capability_v770ext_supportOfPSHandoverToGAN* pvalue)
@@ -8376,7 +8376,7 @@ int UMTS_MultiModeRAT_Capability_v860ext_supportOfEUTRAFDD_ToEnum2(rtxContext* c
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MultiModeRAT_Capability_v860ext_supportOfEUTRAFDD_ToEnum(rtxContext* ctx, const char* text, MultiModeRAT_Capability_v860ext_supportOfEUTRAFDD* pvalue)
@@ -8401,7 +8401,7 @@ int UMTS_MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRAFDD_ToEnum2(r
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRAFDD_ToEnum(rtxContext* ctx, const char* text, MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRAFDD* pvalue)
@@ -8426,7 +8426,7 @@ int UMTS_MultiModeRAT_Capability_v860ext_supportOfEUTRATDD_ToEnum2(rtxContext* c
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MultiModeRAT_Capability_v860ext_supportOfEUTRATDD_ToEnum(rtxContext* ctx, const char* text, MultiModeRAT_Capability_v860ext_supportOfEUTRATDD* pvalue)
@@ -8451,7 +8451,7 @@ int UMTS_MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRATDD_ToEnum2(r
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRATDD_ToEnum(rtxContext* ctx, const char* text, MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRATDD* pvalue)
@@ -8488,7 +8488,7 @@ int UMTS_N_312_r5_ToEnum2(rtxContext* ctx, const char* text, size_t length, N_31
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_N_312_r5_ToEnum(rtxContext* ctx, const char* text, N_312_r5* pvalue)
@@ -8525,7 +8525,7 @@ int UMTS_N_315_r5_ToEnum2(rtxContext* ctx, const char* text, size_t length, N_31
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_N_315_r5_ToEnum(rtxContext* ctx, const char* text, N_315_r5* pvalue)
@@ -8550,7 +8550,7 @@ int UMTS_NeighCellSI_AcquisitionCapability_supportOfIntraFreqSIAcquisitionForHO_
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_NeighCellSI_AcquisitionCapability_supportOfIntraFreqSIAcquisitionForHO_ToEnum(rtxContext* ctx, const char* text, NeighCellSI_AcquisitionCapability_supportOfIntraFreqSIAcquisitionForHO* pvalue)
@@ -8575,7 +8575,7 @@ int UMTS_NeighCellSI_AcquisitionCapability_supportOfInterFreqSIAcquisitionForHO_
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_NeighCellSI_AcquisitionCapability_supportOfInterFreqSIAcquisitionForHO_ToEnum(rtxContext* ctx, const char* text, NeighCellSI_AcquisitionCapability_supportOfInterFreqSIAcquisitionForHO* pvalue)
@@ -8600,7 +8600,7 @@ int UMTS_NeighCellSI_AcquisitionCapability_supportOfE_UtraSIAcquisitionForHO_ToE
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_NeighCellSI_AcquisitionCapability_supportOfE_UtraSIAcquisitionForHO_ToEnum(rtxContext* ctx, const char* text, NeighCellSI_AcquisitionCapability_supportOfE_UtraSIAcquisitionForHO* pvalue)
@@ -8633,7 +8633,7 @@ int UMTS_NetworkAssistedGANSS_Supported_List_element_gANSS_Id_ToEnum2(rtxContext
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_NetworkAssistedGANSS_Supported_List_element_gANSS_Id_ToEnum(rtxContext* ctx, const char* text, NetworkAssistedGANSS_Supported_List_element_gANSS_Id* pvalue)
@@ -8658,7 +8658,7 @@ int UMTS_NetworkAssistedGANSS_Supported_List_v860ext_element_non_native_AD_choic
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_NetworkAssistedGANSS_Supported_List_v860ext_element_non_native_AD_choices_supported_ToEnum(rtxContext* ctx, const char* text, NetworkAssistedGANSS_Supported_List_v860ext_element_non_native_AD_choices_supported* pvalue)
@@ -8687,7 +8687,7 @@ int UMTS_NetworkAssistedGPS_Supported_ToEnum2(rtxContext* ctx, const char* text,
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_NetworkAssistedGPS_Supported_ToEnum(rtxContext* ctx, const char* text, NetworkAssistedGPS_Supported* pvalue)
@@ -8720,7 +8720,7 @@ int UMTS_PagingCause_ToEnum2(rtxContext* ctx, const char* text, size_t length, P
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_PagingCause_ToEnum(rtxContext* ctx, const char* text, PagingCause* pvalue)
@@ -8745,7 +8745,7 @@ int UMTS_PDCP_Capability_r5_ext2_losslessDLRLC_PDUSizeChange_ToEnum2(rtxContext*
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_PDCP_Capability_r5_ext2_losslessDLRLC_PDUSizeChange_ToEnum(rtxContext* ctx, const char* text, PDCP_Capability_r5_ext2_losslessDLRLC_PDUSizeChange* pvalue)
@@ -8770,7 +8770,7 @@ int UMTS_PDCP_Capability_v770ext_supportForCSVoiceoverHSPA_ToEnum2(rtxContext* c
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_PDCP_Capability_v770ext_supportForCSVoiceoverHSPA_ToEnum(rtxContext* ctx, const char* text, PDCP_Capability_v770ext_supportForCSVoiceoverHSPA* pvalue)
@@ -8795,7 +8795,7 @@ int UMTS_UL_PhysChCapabilityFDD_v770ext_discontinuousDpcchTransmission_ToEnum2(r
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UL_PhysChCapabilityFDD_v770ext_discontinuousDpcchTransmission_ToEnum(rtxContext* ctx, const char* text, UL_PhysChCapabilityFDD_v770ext_discontinuousDpcchTransmission* pvalue)
@@ -8820,7 +8820,7 @@ int UMTS_UL_PhysChCapabilityFDD_v770ext_slotFormat4_ToEnum2(rtxContext* ctx, con
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UL_PhysChCapabilityFDD_v770ext_slotFormat4_ToEnum(rtxContext* ctx, const char* text, UL_PhysChCapabilityFDD_v770ext_slotFormat4* pvalue)
@@ -8847,7 +8847,7 @@ int UMTS_ProtocolErrorIndicator_ToEnum2(rtxContext* ctx, const char* text, size_
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_ProtocolErrorIndicator_ToEnum(rtxContext* ctx, const char* text, ProtocolErrorIndicator* pvalue)
@@ -8904,7 +8904,7 @@ int UMTS_ReceivedMessageType_ToEnum2(rtxContext* ctx, const char* text, size_t l
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_ReceivedMessageType_ToEnum(rtxContext* ctx, const char* text, ReceivedMessageType* pvalue)
@@ -8937,7 +8937,7 @@ int UMTS_RadioFrequencyBandTDDList_ToEnum2(rtxContext* ctx, const char* text, si
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RadioFrequencyBandTDDList_ToEnum(rtxContext* ctx, const char* text, RadioFrequencyBandTDDList* pvalue)
@@ -8978,7 +8978,7 @@ int UMTS_RadioFrequencyBandTDDList_r7_ToEnum2(rtxContext* ctx, const char* text,
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RadioFrequencyBandTDDList_r7_ToEnum(rtxContext* ctx, const char* text, RadioFrequencyBandTDDList_r7* pvalue)
@@ -9019,7 +9019,7 @@ int UMTS_RadioFrequencyBandTDDext_ToEnum2(rtxContext* ctx, const char* text, siz
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RadioFrequencyBandTDDext_ToEnum(rtxContext* ctx, const char* text, RadioFrequencyBandTDDext* pvalue)
@@ -9044,7 +9044,7 @@ int UMTS_InterRATInfo_ToEnum2(rtxContext* ctx, const char* text, size_t length, 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_InterRATInfo_ToEnum(rtxContext* ctx, const char* text, InterRATInfo* pvalue)
@@ -9071,7 +9071,7 @@ int UMTS_RejectionCause_ToEnum2(rtxContext* ctx, const char* text, size_t length
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RejectionCause_ToEnum(rtxContext* ctx, const char* text, RejectionCause* pvalue)
@@ -9099,7 +9099,7 @@ int UMTS_TxRxFrequencySeparation_ToEnum2(rtxContext* ctx, const char* text, size
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TxRxFrequencySeparation_ToEnum(rtxContext* ctx, const char* text, TxRxFrequencySeparation* pvalue)
@@ -9132,7 +9132,7 @@ int UMTS_TotalRLC_AM_BufferSize_ToEnum2(rtxContext* ctx, const char* text, size_
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TotalRLC_AM_BufferSize_ToEnum(rtxContext* ctx, const char* text, TotalRLC_AM_BufferSize* pvalue)
@@ -9161,7 +9161,7 @@ int UMTS_TotalRLC_AM_BufferSize_r5_ext_ToEnum2(rtxContext* ctx, const char* text
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TotalRLC_AM_BufferSize_r5_ext_ToEnum(rtxContext* ctx, const char* text, TotalRLC_AM_BufferSize_r5_ext* pvalue)
@@ -9188,7 +9188,7 @@ int UMTS_TotalRLC_AM_BufferSize_v920ext_ToEnum2(rtxContext* ctx, const char* tex
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TotalRLC_AM_BufferSize_v920ext_ToEnum(rtxContext* ctx, const char* text, TotalRLC_AM_BufferSize_v920ext* pvalue)
@@ -9217,7 +9217,7 @@ int UMTS_RRC_StateIndicator_ToEnum2(rtxContext* ctx, const char* text, size_t le
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RRC_StateIndicator_ToEnum(rtxContext* ctx, const char* text, RRC_StateIndicator* pvalue)
@@ -9244,7 +9244,7 @@ int UMTS_SecondaryEDCH_Info_Common_servingGrant_primary_Secondary_GrantSelector_
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_SecondaryEDCH_Info_Common_servingGrant_primary_Secondary_GrantSelector_ToEnum(rtxContext* ctx, const char* text, SecondaryEDCH_Info_Common_servingGrant_primary_Secondary_GrantSelector* pvalue)
@@ -9273,7 +9273,7 @@ int UMTS_HS_SICH_Configuration_TDD128_tpc_step_size_ToEnum2(rtxContext* ctx, con
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_HS_SICH_Configuration_TDD128_tpc_step_size_ToEnum(rtxContext* ctx, const char* text, HS_SICH_Configuration_TDD128_tpc_step_size* pvalue)
@@ -9307,7 +9307,7 @@ int UMTS_Feedback_cycle_ToEnum2(rtxContext* ctx, const char* text, size_t length
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_Feedback_cycle_ToEnum(rtxContext* ctx, const char* text, Feedback_cycle* pvalue)
@@ -9332,7 +9332,7 @@ int UMTS_Serving_HSDSCH_CellInformation_mac_hsResetIndicator_ToEnum2(rtxContext*
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_Serving_HSDSCH_CellInformation_mac_hsResetIndicator_ToEnum(rtxContext* ctx, const char* text, Serving_HSDSCH_CellInformation_mac_hsResetIndicator* pvalue)
@@ -9361,7 +9361,7 @@ int UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_tpc_step_size_ToEnum2(rtxCo
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_tpc_step_size_ToEnum(rtxContext* ctx, const char* text, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_tpc_step_size* pvalue)
@@ -9388,7 +9388,7 @@ int UMTS_DL_MultiCarrier_Information_tsn_Length_ToEnum2(rtxContext* ctx, const c
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DL_MultiCarrier_Information_tsn_Length_ToEnum(rtxContext* ctx, const char* text, DL_MultiCarrier_Information_tsn_Length* pvalue)
@@ -9413,7 +9413,7 @@ int UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd_dl_64QAM_Configured_ToEn
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd_dl_64QAM_Configured_ToEnum(rtxContext* ctx, const char* text, DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd_dl_64QAM_Configured* pvalue)
@@ -9449,7 +9449,7 @@ int UMTS_HARQ_Info_r7_numberOfProcesses_ToEnum2(rtxContext* ctx, const char* tex
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_HARQ_Info_r7_numberOfProcesses_ToEnum(rtxContext* ctx, const char* text, HARQ_Info_r7_numberOfProcesses* pvalue)
@@ -9474,7 +9474,7 @@ int UMTS_Serving_HSDSCH_CellInformation_r7_mac_hsResetIndicator_ToEnum2(rtxConte
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_Serving_HSDSCH_CellInformation_r7_mac_hsResetIndicator_ToEnum(rtxContext* ctx, const char* text, Serving_HSDSCH_CellInformation_r7_mac_hsResetIndicator* pvalue)
@@ -9499,7 +9499,7 @@ int UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd_dl_64QAM_Configured_ToEn
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd_dl_64QAM_Configured_ToEnum(rtxContext* ctx, const char* text, DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd_dl_64QAM_Configured* pvalue)
@@ -9524,7 +9524,7 @@ int UMTS_HS_DSCH_TBSizeTable_ToEnum2(rtxContext* ctx, const char* text, size_t l
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_HS_DSCH_TBSizeTable_ToEnum(rtxContext* ctx, const char* text, HS_DSCH_TBSizeTable* pvalue)
@@ -9549,7 +9549,7 @@ int UMTS_Serving_HSDSCH_CellInformation_r8_mac_hsResetIndicator_ToEnum2(rtxConte
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_Serving_HSDSCH_CellInformation_r8_mac_hsResetIndicator_ToEnum(rtxContext* ctx, const char* text, Serving_HSDSCH_CellInformation_r8_mac_hsResetIndicator* pvalue)
@@ -9578,7 +9578,7 @@ int UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_tpc_step_size_ToEnum2(rtxCo
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_tpc_step_size_ToEnum(rtxContext* ctx, const char* text, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_tpc_step_size* pvalue)
@@ -9607,7 +9607,7 @@ int UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size_ToEnu
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size_ToEnum(rtxContext* ctx, const char* text, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size* pvalue)
@@ -9632,7 +9632,7 @@ int UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128_tS0_Indicator_ToE
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128_tS0_Indicator_ToEnum(rtxContext* ctx, const char* text, DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128_tS0_Indicator* pvalue)
@@ -9665,7 +9665,7 @@ int UMTS_OutofSyncWindow_ToEnum2(rtxContext* ctx, const char* text, size_t lengt
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_OutofSyncWindow_ToEnum(rtxContext* ctx, const char* text, OutofSyncWindow* pvalue)
@@ -9690,7 +9690,7 @@ int UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd_dl_64QAM_Configured_ToEn
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd_dl_64QAM_Configured_ToEnum(rtxContext* ctx, const char* text, DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd_dl_64QAM_Configured* pvalue)
@@ -9715,7 +9715,7 @@ int UMTS_Serving_HSDSCH_CellInformation_r9_mac_hsResetIndicator_ToEnum2(rtxConte
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_Serving_HSDSCH_CellInformation_r9_mac_hsResetIndicator_ToEnum(rtxContext* ctx, const char* text, Serving_HSDSCH_CellInformation_r9_mac_hsResetIndicator* pvalue)
@@ -9740,7 +9740,7 @@ int UMTS_SystemSpecificCapUpdateReq_v590ext_ToEnum2(rtxContext* ctx, const char*
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_SystemSpecificCapUpdateReq_v590ext_ToEnum(rtxContext* ctx, const char* text, SystemSpecificCapUpdateReq_v590ext* pvalue)
@@ -9780,7 +9780,7 @@ int UMTS_T_318_ToEnum2(rtxContext* ctx, const char* text, size_t length, T_318* 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_T_318_ToEnum(rtxContext* ctx, const char* text, T_318* pvalue)
@@ -9812,7 +9812,7 @@ int UMTS_T_319_ToEnum2(rtxContext* ctx, const char* text, size_t length, T_319* 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_T_319_ToEnum(rtxContext* ctx, const char* text, T_319* pvalue)
@@ -9837,7 +9837,7 @@ int UMTS_UE_RadioAccessCapability_v690ext_deviceType_ToEnum2(rtxContext* ctx, co
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_RadioAccessCapability_v690ext_deviceType_ToEnum(rtxContext* ctx, const char* text, UE_RadioAccessCapability_v690ext_deviceType* pvalue)
@@ -9862,7 +9862,7 @@ int UMTS_InterRAT_UE_RadioAccessCapability_v690ext_supportOfInter_RAT_PS_Handove
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_InterRAT_UE_RadioAccessCapability_v690ext_supportOfInter_RAT_PS_Handover_ToEnum(rtxContext* ctx, const char* text, InterRAT_UE_RadioAccessCapability_v690ext_supportOfInter_RAT_PS_Handover* pvalue)
@@ -9887,7 +9887,7 @@ int UMTS_UE_RadioAccessCapability_v6b0ext_IEs_supportForSIB11bis_ToEnum2(rtxCont
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_RadioAccessCapability_v6b0ext_IEs_supportForSIB11bis_ToEnum(rtxContext* ctx, const char* text, UE_RadioAccessCapability_v6b0ext_IEs_supportForSIB11bis* pvalue)
@@ -9912,7 +9912,7 @@ int UMTS_UE_RadioAccessCapability_v6e0ext_IEs_supportForFDPCH_ToEnum2(rtxContext
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_RadioAccessCapability_v6e0ext_IEs_supportForFDPCH_ToEnum(rtxContext* ctx, const char* text, UE_RadioAccessCapability_v6e0ext_IEs_supportForFDPCH* pvalue)
@@ -9937,7 +9937,7 @@ int UMTS_UE_RadioAccessCapability_v770ext_IEs_mac_ehsSupport_ToEnum2(rtxContext*
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_RadioAccessCapability_v770ext_IEs_mac_ehsSupport_ToEnum(rtxContext* ctx, const char* text, UE_RadioAccessCapability_v770ext_IEs_mac_ehsSupport* pvalue)
@@ -9978,7 +9978,7 @@ int UMTS_UE_SpecificCapabilityInformation_LCRTDD_ToEnum2(rtxContext* ctx, const 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_SpecificCapabilityInformation_LCRTDD_ToEnum(rtxContext* ctx, const char* text, UE_SpecificCapabilityInformation_LCRTDD* pvalue)
@@ -10003,7 +10003,7 @@ int UMTS_UE_RadioAccessCapability_v790ext_IEs_supportForEDPCCHPowerBoosting_ToEn
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_RadioAccessCapability_v790ext_IEs_supportForEDPCCHPowerBoosting_ToEnum(rtxContext* ctx, const char* text, UE_RadioAccessCapability_v790ext_IEs_supportForEDPCCHPowerBoosting* pvalue)
@@ -10028,7 +10028,7 @@ int UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfCommonEDCH_ToEnum2(rtxCon
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfCommonEDCH_ToEnum(rtxContext* ctx, const char* text, UE_RadioAccessCapability_v860ext_IEs_supportOfCommonEDCH* pvalue)
@@ -10053,7 +10053,7 @@ int UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfMACiis_ToEnum2(rtxContext
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfMACiis_ToEnum(rtxContext* ctx, const char* text, UE_RadioAccessCapability_v860ext_IEs_supportOfMACiis* pvalue)
@@ -10078,7 +10078,7 @@ int UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfSPSOperation_ToEnum2(rtxC
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfSPSOperation_ToEnum(rtxContext* ctx, const char* text, UE_RadioAccessCapability_v860ext_IEs_supportOfSPSOperation* pvalue)
@@ -10103,7 +10103,7 @@ int UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfControlChannelDRXOperatio
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfControlChannelDRXOperation_ToEnum(rtxContext* ctx, const char* text, UE_RadioAccessCapability_v860ext_IEs_supportOfControlChannelDRXOperation* pvalue)
@@ -10128,7 +10128,7 @@ int UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfCSG_ToEnum2(rtxContext* c
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfCSG_ToEnum(rtxContext* ctx, const char* text, UE_RadioAccessCapability_v860ext_IEs_supportOfCSG* pvalue)
@@ -10153,7 +10153,7 @@ int UMTS_UE_RadioAccessCapability_v880ext_IEs_supportForPriorityReselectionInUTR
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_RadioAccessCapability_v880ext_IEs_supportForPriorityReselectionInUTRAN_ToEnum(rtxContext* ctx, const char* text, UE_RadioAccessCapability_v880ext_IEs_supportForPriorityReselectionInUTRAN* pvalue)
@@ -10178,7 +10178,7 @@ int UMTS_UE_RadioAccessCapability_v890ext_IEs_supportCellSpecificTxDiversityinDC
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_RadioAccessCapability_v890ext_IEs_supportCellSpecificTxDiversityinDC_Operation_ToEnum(rtxContext* ctx, const char* text, UE_RadioAccessCapability_v890ext_IEs_supportCellSpecificTxDiversityinDC_Operation* pvalue)
@@ -10203,7 +10203,7 @@ int UMTS_UE_RadioAccessCapability_v920ext_IEs_supportOfenhancedTS0_ToEnum2(rtxCo
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_RadioAccessCapability_v920ext_IEs_supportOfenhancedTS0_ToEnum(rtxContext* ctx, const char* text, UE_RadioAccessCapability_v920ext_IEs_supportOfenhancedTS0* pvalue)
@@ -10236,7 +10236,7 @@ int UMTS_UE_PowerClassExt_ToEnum2(rtxContext* ctx, const char* text, size_t leng
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_PowerClassExt_ToEnum(rtxContext* ctx, const char* text, UE_PowerClassExt* pvalue)
@@ -10261,7 +10261,7 @@ int UMTS_UE_PositioningCapabilityExt_v3a0_validity_CellPCH_UraPCH_ToEnum2(rtxCon
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_PositioningCapabilityExt_v3a0_validity_CellPCH_UraPCH_ToEnum(rtxContext* ctx, const char* text, UE_PositioningCapabilityExt_v3a0_validity_CellPCH_UraPCH* pvalue)
@@ -10286,7 +10286,7 @@ int UMTS_UE_PositioningCapabilityExt_v3g0_sfn_sfnType2Capability_ToEnum2(rtxCont
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_PositioningCapabilityExt_v3g0_sfn_sfnType2Capability_ToEnum(rtxContext* ctx, const char* text, UE_PositioningCapabilityExt_v3g0_sfn_sfnType2Capability* pvalue)
@@ -10311,7 +10311,7 @@ int UMTS_UE_RadioAccessCapability_v7e0ext_supportForTwoDRXSchemesInPCH_ToEnum2(r
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_RadioAccessCapability_v7e0ext_supportForTwoDRXSchemesInPCH_ToEnum(rtxContext* ctx, const char* text, UE_RadioAccessCapability_v7e0ext_supportForTwoDRXSchemesInPCH* pvalue)
@@ -10336,7 +10336,7 @@ int UMTS_UE_RadioAccessCapability_v7e0ext_supportEDPDCHPowerInterpolation_ToEnum
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_RadioAccessCapability_v7e0ext_supportEDPDCHPowerInterpolation_ToEnum(rtxContext* ctx, const char* text, UE_RadioAccessCapability_v7e0ext_supportEDPDCHPowerInterpolation* pvalue)
@@ -10361,7 +10361,7 @@ int UMTS_UE_RadioAccessCapability_v7f0ext_supportofTxDivOnNonMIMOChannel_ToEnum2
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_RadioAccessCapability_v7f0ext_supportofTxDivOnNonMIMOChannel_ToEnum(rtxContext* ctx, const char* text, UE_RadioAccessCapability_v7f0ext_supportofTxDivOnNonMIMOChannel* pvalue)
@@ -10386,7 +10386,7 @@ int UMTS_UE_RadioAccessCapabilityComp_TDD128_v7f0ext_supportForCSVoiceoverHSPA_T
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_RadioAccessCapabilityComp_TDD128_v7f0ext_supportForCSVoiceoverHSPA_ToEnum(rtxContext* ctx, const char* text, UE_RadioAccessCapabilityComp_TDD128_v7f0ext_supportForCSVoiceoverHSPA* pvalue)
@@ -10411,7 +10411,7 @@ int UMTS_UE_RadioAccessCapabilityInfo_v770ext_ganssSupportIndication_ToEnum2(rtx
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_RadioAccessCapabilityInfo_v770ext_ganssSupportIndication_ToEnum(rtxContext* ctx, const char* text, UE_RadioAccessCapabilityInfo_v770ext_ganssSupportIndication* pvalue)
@@ -10436,7 +10436,7 @@ int UMTS_UE_RadioAccessCapabilityInfo_v770ext_mac_ehsSupport_ToEnum2(rtxContext*
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_RadioAccessCapabilityInfo_v770ext_mac_ehsSupport_ToEnum(rtxContext* ctx, const char* text, UE_RadioAccessCapabilityInfo_v770ext_mac_ehsSupport* pvalue)
@@ -10461,7 +10461,7 @@ int UMTS_UE_RadioAccessCapability_v880ext_supportForPriorityReselectionInUTRAN_T
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_RadioAccessCapability_v880ext_supportForPriorityReselectionInUTRAN_ToEnum(rtxContext* ctx, const char* text, UE_RadioAccessCapability_v880ext_supportForPriorityReselectionInUTRAN* pvalue)
@@ -10486,7 +10486,7 @@ int UMTS_UE_RadioAccessCapability_v890ext_supportCellSpecificTxDiversityinDC_Ope
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_RadioAccessCapability_v890ext_supportCellSpecificTxDiversityinDC_Operation_ToEnum(rtxContext* ctx, const char* text, UE_RadioAccessCapability_v890ext_supportCellSpecificTxDiversityinDC_Operation* pvalue)
@@ -10511,7 +10511,7 @@ int UMTS_UE_RadioAccessCapability_v920ext_supportOfenhancedTS0_ToEnum2(rtxContex
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_RadioAccessCapability_v920ext_supportOfenhancedTS0_ToEnum(rtxContext* ctx, const char* text, UE_RadioAccessCapability_v920ext_supportOfenhancedTS0* pvalue)
@@ -10540,7 +10540,7 @@ int UMTS_RF_CapabBandFDDComp_ToEnum2(rtxContext* ctx, const char* text, size_t l
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RF_CapabBandFDDComp_ToEnum(rtxContext* ctx, const char* text, RF_CapabBandFDDComp* pvalue)
@@ -10565,7 +10565,7 @@ int UMTS_UE_RadioAccessCapabilityComp_v770ext_securityCapabilityIndication_ToEnu
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_RadioAccessCapabilityComp_v770ext_securityCapabilityIndication_ToEnum(rtxContext* ctx, const char* text, UE_RadioAccessCapabilityComp_v770ext_securityCapabilityIndication* pvalue)
@@ -10590,7 +10590,7 @@ int UMTS_UE_RadioAccessCapabilityComp_v770ext_ganssSupportIndication_ToEnum2(rtx
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_RadioAccessCapabilityComp_v770ext_ganssSupportIndication_ToEnum(rtxContext* ctx, const char* text, UE_RadioAccessCapabilityComp_v770ext_ganssSupportIndication* pvalue)
@@ -10615,7 +10615,7 @@ int UMTS_UE_RadioAccessCapabilityComp_v770ext_mac_ehsSupport_ToEnum2(rtxContext*
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_RadioAccessCapabilityComp_v770ext_mac_ehsSupport_ToEnum(rtxContext* ctx, const char* text, UE_RadioAccessCapabilityComp_v770ext_mac_ehsSupport* pvalue)
@@ -10640,7 +10640,7 @@ int UMTS_UE_RadioAccessCapabilityComp2_v770ext_hsscchlessHsdschOperation_ToEnum2
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_RadioAccessCapabilityComp2_v770ext_hsscchlessHsdschOperation_ToEnum(rtxContext* ctx, const char* text, UE_RadioAccessCapabilityComp2_v770ext_hsscchlessHsdschOperation* pvalue)
@@ -10665,7 +10665,7 @@ int UMTS_UE_RadioAccessCapabilityComp2_v770ext_enhancedFdpch_ToEnum2(rtxContext*
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_RadioAccessCapabilityComp2_v770ext_enhancedFdpch_ToEnum(rtxContext* ctx, const char* text, UE_RadioAccessCapabilityComp2_v770ext_enhancedFdpch* pvalue)
@@ -10690,7 +10690,7 @@ int UMTS_UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellFach_ToEnum2(
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellFach_ToEnum(rtxContext* ctx, const char* text, UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellFach* pvalue)
@@ -10715,7 +10715,7 @@ int UMTS_UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellUraPch_ToEnum
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellUraPch_ToEnum(rtxContext* ctx, const char* text, UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellUraPch* pvalue)
@@ -10740,7 +10740,7 @@ int UMTS_UE_RadioAccessCapabilityComp2_v770ext_discontinuousDpcchTransmission_To
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_RadioAccessCapabilityComp2_v770ext_discontinuousDpcchTransmission_ToEnum(rtxContext* ctx, const char* text, UE_RadioAccessCapabilityComp2_v770ext_discontinuousDpcchTransmission* pvalue)
@@ -10765,7 +10765,7 @@ int UMTS_UE_RadioAccessCapabilityComp2_v770ext_slotFormat4_ToEnum2(rtxContext* c
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_RadioAccessCapabilityComp2_v770ext_slotFormat4_ToEnum(rtxContext* ctx, const char* text, UE_RadioAccessCapabilityComp2_v770ext_slotFormat4* pvalue)
@@ -10790,7 +10790,7 @@ int UMTS_UE_RadioAccessCapabilityComp2_v7f0ext_supportofTxDivOnNonMIMOChannel_To
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_RadioAccessCapabilityComp2_v7f0ext_supportofTxDivOnNonMIMOChannel_ToEnum(rtxContext* ctx, const char* text, UE_RadioAccessCapabilityComp2_v7f0ext_supportofTxDivOnNonMIMOChannel* pvalue)
@@ -10815,7 +10815,7 @@ int UMTS_UE_RadioAccessCapabilityComp2_v860ext_supportOfMACiis_ToEnum2(rtxContex
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_RadioAccessCapabilityComp2_v860ext_supportOfMACiis_ToEnum(rtxContext* ctx, const char* text, UE_RadioAccessCapabilityComp2_v860ext_supportOfMACiis* pvalue)
@@ -10842,7 +10842,7 @@ int UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfSFModeForHSPDSCHDualStream
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfSFModeForHSPDSCHDualStream_ToEnum(rtxContext* ctx, const char* text, UE_RadioAccessCapabilityComp_TDD128_supportOfSFModeForHSPDSCHDualStream* pvalue)
@@ -10867,7 +10867,7 @@ int UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfCommonEDCH_ToEnum2(rtxCont
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfCommonEDCH_ToEnum(rtxContext* ctx, const char* text, UE_RadioAccessCapabilityComp_TDD128_supportOfCommonEDCH* pvalue)
@@ -10892,7 +10892,7 @@ int UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfMACiis_ToEnum2(rtxContext*
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfMACiis_ToEnum(rtxContext* ctx, const char* text, UE_RadioAccessCapabilityComp_TDD128_supportOfMACiis* pvalue)
@@ -10917,7 +10917,7 @@ int UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfSPSOperation_ToEnum2(rtxCo
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfSPSOperation_ToEnum(rtxContext* ctx, const char* text, UE_RadioAccessCapabilityComp_TDD128_supportOfSPSOperation* pvalue)
@@ -10942,7 +10942,7 @@ int UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfControlChannelDRXOperation
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfControlChannelDRXOperation_ToEnum(rtxContext* ctx, const char* text, UE_RadioAccessCapabilityComp_TDD128_supportOfControlChannelDRXOperation* pvalue)
@@ -10971,7 +10971,7 @@ int UMTS_URA_UpdateCause_ToEnum2(rtxContext* ctx, const char* text, size_t lengt
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_URA_UpdateCause_ToEnum(rtxContext* ctx, const char* text, URA_UpdateCause* pvalue)
@@ -10998,7 +10998,7 @@ int UMTS_CID_InclusionInfo_r4_ToEnum2(rtxContext* ctx, const char* text, size_t 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CID_InclusionInfo_r4_ToEnum(rtxContext* ctx, const char* text, CID_InclusionInfo_r4* pvalue)
@@ -11039,7 +11039,7 @@ int UMTS_UL_AMR_Rate_ToEnum2(rtxContext* ctx, const char* text, size_t length, U
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UL_AMR_Rate_ToEnum(rtxContext* ctx, const char* text, UL_AMR_Rate* pvalue)
@@ -11066,7 +11066,7 @@ int UMTS_DefaultConfigMode_ToEnum2(rtxContext* ctx, const char* text, size_t len
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DefaultConfigMode_ToEnum(rtxContext* ctx, const char* text, DefaultConfigMode* pvalue)
@@ -11093,7 +11093,7 @@ int UMTS_DL_AM_RLC_Mode_r7_dl_RLC_PDU_size_flexibleSize_ToEnum2(rtxContext* ctx,
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DL_AM_RLC_Mode_r7_dl_RLC_PDU_size_flexibleSize_ToEnum(rtxContext* ctx, const char* text, DL_AM_RLC_Mode_r7_dl_RLC_PDU_size_flexibleSize* pvalue)
@@ -11124,7 +11124,7 @@ int UMTS_DL_Reception_Window_Size_r6_ToEnum2(rtxContext* ctx, const char* text, 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DL_Reception_Window_Size_r6_ToEnum(rtxContext* ctx, const char* text, DL_Reception_Window_Size_r6* pvalue)
@@ -11151,7 +11151,7 @@ int UMTS_PDCP_ROHC_TargetMode_ToEnum2(rtxContext* ctx, const char* text, size_t 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_PDCP_ROHC_TargetMode_ToEnum(rtxContext* ctx, const char* text, PDCP_ROHC_TargetMode* pvalue)
@@ -11176,7 +11176,7 @@ int UMTS_RLC_Info_r6_altE_bitInterpretation_ToEnum2(rtxContext* ctx, const char*
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RLC_Info_r6_altE_bitInterpretation_ToEnum(rtxContext* ctx, const char* text, RLC_Info_r6_altE_bitInterpretation* pvalue)
@@ -11201,7 +11201,7 @@ int UMTS_RLC_Info_r7_altE_bitInterpretation_ToEnum2(rtxContext* ctx, const char*
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RLC_Info_r7_altE_bitInterpretation_ToEnum(rtxContext* ctx, const char* text, RLC_Info_r7_altE_bitInterpretation* pvalue)
@@ -11226,7 +11226,7 @@ int UMTS_RLC_Info_r7_useSpecialValueOfHEField_ToEnum2(rtxContext* ctx, const cha
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RLC_Info_r7_useSpecialValueOfHEField_ToEnum(rtxContext* ctx, const char* text, RLC_Info_r7_useSpecialValueOfHEField* pvalue)
@@ -11253,7 +11253,7 @@ int UMTS_RLC_PDU_SizeConstraint_lengthIndicatorSize_ToEnum2(rtxContext* ctx, con
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RLC_PDU_SizeConstraint_lengthIndicatorSize_ToEnum(rtxContext* ctx, const char* text, RLC_PDU_SizeConstraint_lengthIndicatorSize* pvalue)
@@ -11280,7 +11280,7 @@ int UMTS_RB_StopContinue_ToEnum2(rtxContext* ctx, const char* text, size_t lengt
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RB_StopContinue_ToEnum(rtxContext* ctx, const char* text, RB_StopContinue* pvalue)
@@ -11319,7 +11319,7 @@ int UMTS_TimerDAR_r6_ToEnum2(rtxContext* ctx, const char* text, size_t length, T
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TimerDAR_r6_ToEnum(rtxContext* ctx, const char* text, TimerDAR_r6* pvalue)
@@ -11352,7 +11352,7 @@ int UMTS_WindowSizeDAR_r6_ToEnum2(rtxContext* ctx, const char* text, size_t leng
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_WindowSizeDAR_r6_ToEnum(rtxContext* ctx, const char* text, WindowSizeDAR_r6* pvalue)
@@ -11379,7 +11379,7 @@ int UMTS_UL_AddReconfTransChInformation_r6_e_dch_harq_Info_ToEnum2(rtxContext* c
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UL_AddReconfTransChInformation_r6_e_dch_harq_Info_ToEnum(rtxContext* ctx, const char* text, UL_AddReconfTransChInformation_r6_e_dch_harq_Info* pvalue)
@@ -11406,7 +11406,7 @@ int UMTS_UL_AddReconfTransChInformation_r7_e_dch_harq_Info_ToEnum2(rtxContext* c
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UL_AddReconfTransChInformation_r7_e_dch_harq_Info_ToEnum(rtxContext* ctx, const char* text, UL_AddReconfTransChInformation_r7_e_dch_harq_Info* pvalue)
@@ -11431,7 +11431,7 @@ int UMTS_UL_AddReconfTransChInformation_r8_e_dch_ul_MAC_HeaderType_ToEnum2(rtxCo
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UL_AddReconfTransChInformation_r8_e_dch_ul_MAC_HeaderType_ToEnum(rtxContext* ctx, const char* text, UL_AddReconfTransChInformation_r8_e_dch_ul_MAC_HeaderType* pvalue)
@@ -11458,7 +11458,7 @@ int UMTS_UL_AddReconfTransChInformation_r8_e_dch_harq_Info_ToEnum2(rtxContext* c
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UL_AddReconfTransChInformation_r8_e_dch_harq_Info_ToEnum(rtxContext* ctx, const char* text, UL_AddReconfTransChInformation_r8_e_dch_harq_Info* pvalue)
@@ -11490,7 +11490,7 @@ int UMTS_MinimumSpreadingFactor_ToEnum2(rtxContext* ctx, const char* text, size_
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MinimumSpreadingFactor_ToEnum(rtxContext* ctx, const char* text, MinimumSpreadingFactor* pvalue)
@@ -11515,7 +11515,7 @@ int UMTS_BEACON_PL_Est_ToEnum2(rtxContext* ctx, const char* text, size_t length,
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_BEACON_PL_Est_ToEnum(rtxContext* ctx, const char* text, BEACON_PL_Est* pvalue)
@@ -11542,7 +11542,7 @@ int UMTS_ClosedLoopTimingAdjMode_ToEnum2(rtxContext* ctx, const char* text, size
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_ClosedLoopTimingAdjMode_ToEnum(rtxContext* ctx, const char* text, ClosedLoopTimingAdjMode* pvalue)
@@ -11574,7 +11574,7 @@ int UMTS_SF_PDSCH_ToEnum2(rtxContext* ctx, const char* text, size_t length, SF_P
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_SF_PDSCH_ToEnum(rtxContext* ctx, const char* text, SF_PDSCH* pvalue)
@@ -11603,7 +11603,7 @@ int UMTS_CodeWordSet_ToEnum2(rtxContext* ctx, const char* text, size_t length, C
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CodeWordSet_ToEnum(rtxContext* ctx, const char* text, CodeWordSet* pvalue)
@@ -11636,7 +11636,7 @@ int UMTS_ControlChannelDRXCycle_TDD128_ToEnum2(rtxContext* ctx, const char* text
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_ControlChannelDRXCycle_TDD128_ToEnum(rtxContext* ctx, const char* text, ControlChannelDRXCycle_TDD128* pvalue)
@@ -11677,7 +11677,7 @@ int UMTS_EnablingDelay_TDD128_ToEnum2(rtxContext* ctx, const char* text, size_t 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_EnablingDelay_TDD128_ToEnum(rtxContext* ctx, const char* text, EnablingDelay_TDD128* pvalue)
@@ -11718,7 +11718,7 @@ int UMTS_HS_SCCH_DRX_InactivityThreshold_TDD128_ToEnum2(rtxContext* ctx, const c
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_HS_SCCH_DRX_InactivityThreshold_TDD128_ToEnum(rtxContext* ctx, const char* text, HS_SCCH_DRX_InactivityThreshold_TDD128* pvalue)
@@ -11759,7 +11759,7 @@ int UMTS_E_AGCH_InactivityMonitorThreshold_TDD128_ToEnum2(rtxContext* ctx, const
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_E_AGCH_InactivityMonitorThreshold_TDD128_ToEnum(rtxContext* ctx, const char* text, E_AGCH_InactivityMonitorThreshold_TDD128* pvalue)
@@ -11787,7 +11787,7 @@ int UMTS_UL_DPCCH_SlotFormat_ToEnum2(rtxContext* ctx, const char* text, size_t l
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UL_DPCCH_SlotFormat_ToEnum(rtxContext* ctx, const char* text, UL_DPCCH_SlotFormat* pvalue)
@@ -11814,7 +11814,7 @@ int UMTS_CPCH_StatusIndicationMode_ToEnum2(rtxContext* ctx, const char* text, si
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CPCH_StatusIndicationMode_ToEnum(rtxContext* ctx, const char* text, CPCH_StatusIndicationMode* pvalue)
@@ -11841,7 +11841,7 @@ int UMTS_PCP_Length_ToEnum2(rtxContext* ctx, const char* text, size_t length, PC
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_PCP_Length_ToEnum(rtxContext* ctx, const char* text, PCP_Length* pvalue)
@@ -11882,7 +11882,7 @@ int UMTS_CQI_DTX_Timer_ToEnum2(rtxContext* ctx, const char* text, size_t length,
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CQI_DTX_Timer_ToEnum(rtxContext* ctx, const char* text, CQI_DTX_Timer* pvalue)
@@ -11909,7 +11909,7 @@ int UMTS_ScramblingCodeChange_ToEnum2(rtxContext* ctx, const char* text, size_t 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_ScramblingCodeChange_ToEnum(rtxContext* ctx, const char* text, ScramblingCodeChange* pvalue)
@@ -11936,7 +11936,7 @@ int UMTS_DPC_Mode_ToEnum2(rtxContext* ctx, const char* text, size_t length, DPC_
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DPC_Mode_ToEnum(rtxContext* ctx, const char* text, DPC_Mode* pvalue)
@@ -11967,7 +11967,7 @@ int UMTS_TGMP_ToEnum2(rtxContext* ctx, const char* text, size_t length, TGMP* pv
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TGMP_ToEnum(rtxContext* ctx, const char* text, TGMP* pvalue)
@@ -11994,7 +11994,7 @@ int UMTS_RPP_ToEnum2(rtxContext* ctx, const char* text, size_t length, RPP* pval
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RPP_ToEnum(rtxContext* ctx, const char* text, RPP* pvalue)
@@ -12021,7 +12021,7 @@ int UMTS_ITP_ToEnum2(rtxContext* ctx, const char* text, size_t length, ITP* pval
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_ITP_ToEnum(rtxContext* ctx, const char* text, ITP* pvalue)
@@ -12048,7 +12048,7 @@ int UMTS_UL_CompressedModeMethod_ToEnum2(rtxContext* ctx, const char* text, size
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UL_CompressedModeMethod_ToEnum(rtxContext* ctx, const char* text, UL_CompressedModeMethod* pvalue)
@@ -12076,7 +12076,7 @@ int UMTS_DL_CompressedModeMethod_ToEnum2(rtxContext* ctx, const char* text, size
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DL_CompressedModeMethod_ToEnum(rtxContext* ctx, const char* text, DL_CompressedModeMethod* pvalue)
@@ -12103,7 +12103,7 @@ int UMTS_DL_FrameType_ToEnum2(rtxContext* ctx, const char* text, size_t length, 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DL_FrameType_ToEnum(rtxContext* ctx, const char* text, DL_FrameType* pvalue)
@@ -12132,7 +12132,7 @@ int UMTS_TX_DiversityMode_ToEnum2(rtxContext* ctx, const char* text, size_t leng
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TX_DiversityMode_ToEnum(rtxContext* ctx, const char* text, TX_DiversityMode* pvalue)
@@ -12159,7 +12159,7 @@ int UMTS_S_Field_ToEnum2(rtxContext* ctx, const char* text, size_t length, S_Fie
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_S_Field_ToEnum(rtxContext* ctx, const char* text, S_Field* pvalue)
@@ -12186,7 +12186,7 @@ int UMTS_SSDT_UL_ToEnum2(rtxContext* ctx, const char* text, size_t length, SSDT_
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_SSDT_UL_ToEnum(rtxContext* ctx, const char* text, SSDT_UL* pvalue)
@@ -12211,7 +12211,7 @@ int UMTS_DL_CommonInformation_r5_mac_hsResetIndicator_ToEnum2(rtxContext* ctx, c
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DL_CommonInformation_r5_mac_hsResetIndicator_ToEnum(rtxContext* ctx, const char* text, DL_CommonInformation_r5_mac_hsResetIndicator* pvalue)
@@ -12236,7 +12236,7 @@ int UMTS_TimingMaintainedSynchInd_ToEnum2(rtxContext* ctx, const char* text, siz
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TimingMaintainedSynchInd_ToEnum(rtxContext* ctx, const char* text, TimingMaintainedSynchInd* pvalue)
@@ -12261,7 +12261,7 @@ int UMTS_DL_CommonInformation_r6_mac_hsResetIndicator_ToEnum2(rtxContext* ctx, c
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DL_CommonInformation_r6_mac_hsResetIndicator_ToEnum(rtxContext* ctx, const char* text, DL_CommonInformation_r6_mac_hsResetIndicator* pvalue)
@@ -12286,7 +12286,7 @@ int UMTS_DL_CommonInformation_r6_postVerificationPeriod_ToEnum2(rtxContext* ctx,
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DL_CommonInformation_r6_postVerificationPeriod_ToEnum(rtxContext* ctx, const char* text, DL_CommonInformation_r6_postVerificationPeriod* pvalue)
@@ -12311,7 +12311,7 @@ int UMTS_DL_CommonInformation_r7_mac_hsResetIndicator_ToEnum2(rtxContext* ctx, c
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DL_CommonInformation_r7_mac_hsResetIndicator_ToEnum(rtxContext* ctx, const char* text, DL_CommonInformation_r7_mac_hsResetIndicator* pvalue)
@@ -12336,7 +12336,7 @@ int UMTS_DL_CommonInformation_r7_postVerificationPeriod_ToEnum2(rtxContext* ctx,
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DL_CommonInformation_r7_postVerificationPeriod_ToEnum(rtxContext* ctx, const char* text, DL_CommonInformation_r7_postVerificationPeriod* pvalue)
@@ -12369,7 +12369,7 @@ int UMTS_TGMP_r8_ToEnum2(rtxContext* ctx, const char* text, size_t length, TGMP_
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TGMP_r8_ToEnum(rtxContext* ctx, const char* text, TGMP_r8* pvalue)
@@ -12394,7 +12394,7 @@ int UMTS_DL_CommonInformation_r8_mac_hsResetIndicator_ToEnum2(rtxContext* ctx, c
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DL_CommonInformation_r8_mac_hsResetIndicator_ToEnum(rtxContext* ctx, const char* text, DL_CommonInformation_r8_mac_hsResetIndicator* pvalue)
@@ -12419,7 +12419,7 @@ int UMTS_DL_CommonInformation_r8_postVerificationPeriod_ToEnum2(rtxContext* ctx,
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DL_CommonInformation_r8_postVerificationPeriod_ToEnum(rtxContext* ctx, const char* text, DL_CommonInformation_r8_postVerificationPeriod* pvalue)
@@ -12452,7 +12452,7 @@ int UMTS_SSDT_CellIdentity_ToEnum2(rtxContext* ctx, const char* text, size_t len
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_SSDT_CellIdentity_ToEnum(rtxContext* ctx, const char* text, SSDT_CellIdentity* pvalue)
@@ -12481,7 +12481,7 @@ int UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_tpc_step_size_ToEnum2(rtxCo
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_tpc_step_size_ToEnum(rtxContext* ctx, const char* text, HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_tpc_step_size* pvalue)
@@ -12510,7 +12510,7 @@ int UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size_T
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size_ToEnum(rtxContext* ctx, const char* text, HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size* pvalue)
@@ -12538,7 +12538,7 @@ int UMTS_MidambleConfigurationBurstType1_ToEnum2(rtxContext* ctx, const char* te
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MidambleConfigurationBurstType1_ToEnum(rtxContext* ctx, const char* text, MidambleConfigurationBurstType1* pvalue)
@@ -12565,7 +12565,7 @@ int UMTS_E_HICH_Information_TDD384_768_burst_Type_ToEnum2(rtxContext* ctx, const
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_E_HICH_Information_TDD384_768_burst_Type_ToEnum(rtxContext* ctx, const char* text, E_HICH_Information_TDD384_768_burst_Type* pvalue)
@@ -12592,7 +12592,7 @@ int UMTS_E_HICH_Information_TDD384_768_midamble_Allocation_Mode_ToEnum2(rtxConte
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_E_HICH_Information_TDD384_768_midamble_Allocation_Mode_ToEnum(rtxContext* ctx, const char* text, E_HICH_Information_TDD384_768_midamble_Allocation_Mode* pvalue)
@@ -12617,7 +12617,7 @@ int UMTS_DL_SecondaryCellInfoFDD_newConfiguration_dl_64QAM_Configured_ToEnum2(rt
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DL_SecondaryCellInfoFDD_newConfiguration_dl_64QAM_Configured_ToEnum(rtxContext* ctx, const char* text, DL_SecondaryCellInfoFDD_newConfiguration_dl_64QAM_Configured* pvalue)
@@ -12642,7 +12642,7 @@ int UMTS_DL_SecondaryCellInfoFDD_v890ext_differentTxModeFromServingHS_DSCHCell_T
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DL_SecondaryCellInfoFDD_v890ext_differentTxModeFromServingHS_DSCHCell_ToEnum(rtxContext* ctx, const char* text, DL_SecondaryCellInfoFDD_v890ext_differentTxModeFromServingHS_DSCHCell* pvalue)
@@ -12667,7 +12667,7 @@ int UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_dl_64QAM_
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_dl_64QAM_Configured_ToEnum(rtxContext* ctx, const char* text, DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_dl_64QAM_Configured* pvalue)
@@ -12692,7 +12692,7 @@ int UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_different
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_differentTxModeFromServingHS_DSCHCell_ToEnum(rtxContext* ctx, const char* text, DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_differentTxModeFromServingHS_DSCHCell* pvalue)
@@ -12727,7 +12727,7 @@ int UMTS_MIMO_N_M_Ratio_ToEnum2(rtxContext* ctx, const char* text, size_t length
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MIMO_N_M_Ratio_ToEnum(rtxContext* ctx, const char* text, MIMO_N_M_Ratio* pvalue)
@@ -12752,7 +12752,7 @@ int UMTS_UL_EDCH_Information_r8_mac_es_e_resetIndicator_ToEnum2(rtxContext* ctx,
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UL_EDCH_Information_r8_mac_es_e_resetIndicator_ToEnum(rtxContext* ctx, const char* text, UL_EDCH_Information_r8_mac_es_e_resetIndicator* pvalue)
@@ -12779,7 +12779,7 @@ int UMTS_E_DPDCH_SchedulingTransmConfiguration_servingGrant_primary_Secondary_Gr
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_E_DPDCH_SchedulingTransmConfiguration_servingGrant_primary_Secondary_GrantSelector_ToEnum(rtxContext* ctx, const char* text, E_DPDCH_SchedulingTransmConfiguration_servingGrant_primary_Secondary_GrantSelector* pvalue)
@@ -12812,7 +12812,7 @@ int UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_RUCCH_ToEnum2(rtxContext*
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_RUCCH_ToEnum(rtxContext* ctx, const char* text, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_RUCCH* pvalue)
@@ -12839,7 +12839,7 @@ int UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_e_RUCCH_Midamble_ToEnum2(rt
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_e_RUCCH_Midamble_ToEnum(rtxContext* ctx, const char* text, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_e_RUCCH_Midamble* pvalue)
@@ -12872,7 +12872,7 @@ int UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_adv_ToEnum2(rtxContext* c
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_adv_ToEnum(rtxContext* ctx, const char* text, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_adv* pvalue)
@@ -12905,7 +12905,7 @@ int UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_SCHED_ToEnum2(rtxContext*
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_SCHED_ToEnum(rtxContext* ctx, const char* text, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_SCHED* pvalue)
@@ -12938,7 +12938,7 @@ int UMTS_SF16Codes_ToEnum2(rtxContext* ctx, const char* text, size_t length, SF1
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_SF16Codes_ToEnum(rtxContext* ctx, const char* text, SF16Codes* pvalue)
@@ -12971,7 +12971,7 @@ int UMTS_SF8Codes_ToEnum2(rtxContext* ctx, const char* text, size_t length, SF8C
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_SF8Codes_ToEnum(rtxContext* ctx, const char* text, SF8Codes* pvalue)
@@ -13012,7 +13012,7 @@ int UMTS_SF32Codes_ToEnum2(rtxContext* ctx, const char* text, size_t length, SF3
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_SF32Codes_ToEnum(rtxContext* ctx, const char* text, SF32Codes* pvalue)
@@ -13053,7 +13053,7 @@ int UMTS_SF16Codes2_ToEnum2(rtxContext* ctx, const char* text, size_t length, SF
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_SF16Codes2_ToEnum(rtxContext* ctx, const char* text, SF16Codes2* pvalue)
@@ -13094,7 +13094,7 @@ int UMTS_E_RUCCH_Info_modeSpecificInfo_tdd128_t_RUCCH_ToEnum2(rtxContext* ctx, c
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_E_RUCCH_Info_modeSpecificInfo_tdd128_t_RUCCH_ToEnum(rtxContext* ctx, const char* text, E_RUCCH_Info_modeSpecificInfo_tdd128_t_RUCCH* pvalue)
@@ -13127,7 +13127,7 @@ int UMTS_E_RUCCH_Info_modeSpecificInfo_tdd128_t_WAIT_ToEnum2(rtxContext* ctx, co
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_E_RUCCH_Info_modeSpecificInfo_tdd128_t_WAIT_ToEnum(rtxContext* ctx, const char* text, E_RUCCH_Info_modeSpecificInfo_tdd128_t_WAIT* pvalue)
@@ -13159,7 +13159,7 @@ int UMTS_E_RUCCH_Info_modeSpecificInfo_tdd128_t_SI_ToEnum2(rtxContext* ctx, cons
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_E_RUCCH_Info_modeSpecificInfo_tdd128_t_SI_ToEnum(rtxContext* ctx, const char* text, E_RUCCH_Info_modeSpecificInfo_tdd128_t_SI* pvalue)
@@ -13186,7 +13186,7 @@ int UMTS_E_PUCH_Info_modeSpecificInfo_tdd128_snpl_ReportType_ToEnum2(rtxContext*
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_E_PUCH_Info_modeSpecificInfo_tdd128_snpl_ReportType_ToEnum(rtxContext* ctx, const char* text, E_PUCH_Info_modeSpecificInfo_tdd128_snpl_ReportType* pvalue)
@@ -13241,7 +13241,7 @@ int UMTS_E_PUCH_Info_modeSpecificInfo_tdd128_retransTimerForSchedInfo_ToEnum2(rt
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_E_PUCH_Info_modeSpecificInfo_tdd128_retransTimerForSchedInfo_ToEnum(rtxContext* ctx, const char* text, E_PUCH_Info_modeSpecificInfo_tdd128_retransTimerForSchedInfo* pvalue)
@@ -13266,7 +13266,7 @@ int UMTS_UL_EDCH_Information_r9_mac_es_e_resetIndicator_ToEnum2(rtxContext* ctx,
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UL_EDCH_Information_r9_mac_es_e_resetIndicator_ToEnum(rtxContext* ctx, const char* text, UL_EDCH_Information_r9_mac_es_e_resetIndicator* pvalue)
@@ -13298,7 +13298,7 @@ int UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd128_t_SI_nst_ToEnum2(rtxContext* c
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd128_t_SI_nst_ToEnum(rtxContext* ctx, const char* text, Non_ScheduledTransGrantInfoTDD_r9_tdd128_t_SI_nst* pvalue)
@@ -13339,7 +13339,7 @@ int UMTS_UE_DRX_Cycle_InactivityThreshold_ToEnum2(rtxContext* ctx, const char* t
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_DRX_Cycle_InactivityThreshold_ToEnum(rtxContext* ctx, const char* text, UE_DRX_Cycle_InactivityThreshold* pvalue)
@@ -13372,7 +13372,7 @@ int UMTS_UE_DRX_Cycle_ToEnum2(rtxContext* ctx, const char* text, size_t length, 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_DRX_Cycle_ToEnum(rtxContext* ctx, const char* text, UE_DRX_Cycle* pvalue)
@@ -13413,7 +13413,7 @@ int UMTS_UE_GrantMonitoring_InactivityThreshold_ToEnum2(rtxContext* ctx, const c
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_GrantMonitoring_InactivityThreshold_ToEnum(rtxContext* ctx, const char* text, UE_GrantMonitoring_InactivityThreshold* pvalue)
@@ -13442,7 +13442,7 @@ int UMTS_UE_DTX_Cycle1_10ms_ToEnum2(rtxContext* ctx, const char* text, size_t le
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_DTX_Cycle1_10ms_ToEnum(rtxContext* ctx, const char* text, UE_DTX_Cycle1_10ms* pvalue)
@@ -13475,7 +13475,7 @@ int UMTS_UE_DTX_Cycle2_10ms_ToEnum2(rtxContext* ctx, const char* text, size_t le
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_DTX_Cycle2_10ms_ToEnum(rtxContext* ctx, const char* text, UE_DTX_Cycle2_10ms* pvalue)
@@ -13504,7 +13504,7 @@ int UMTS_MAC_DTX_Cycle_10ms_ToEnum2(rtxContext* ctx, const char* text, size_t le
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MAC_DTX_Cycle_10ms_ToEnum(rtxContext* ctx, const char* text, MAC_DTX_Cycle_10ms* pvalue)
@@ -13537,7 +13537,7 @@ int UMTS_UE_DTX_Cycle1_2ms_ToEnum2(rtxContext* ctx, const char* text, size_t len
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_DTX_Cycle1_2ms_ToEnum(rtxContext* ctx, const char* text, UE_DTX_Cycle1_2ms* pvalue)
@@ -13578,7 +13578,7 @@ int UMTS_UE_DTX_Cycle2_2ms_ToEnum2(rtxContext* ctx, const char* text, size_t len
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_DTX_Cycle2_2ms_ToEnum(rtxContext* ctx, const char* text, UE_DTX_Cycle2_2ms* pvalue)
@@ -13611,7 +13611,7 @@ int UMTS_MAC_DTX_Cycle_2ms_ToEnum2(rtxContext* ctx, const char* text, size_t len
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MAC_DTX_Cycle_2ms_ToEnum(rtxContext* ctx, const char* text, MAC_DTX_Cycle_2ms* pvalue)
@@ -13652,7 +13652,7 @@ int UMTS_UE_DTX_Cycle2InactivityThreshold_ToEnum2(rtxContext* ctx, const char* t
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_DTX_Cycle2InactivityThreshold_ToEnum(rtxContext* ctx, const char* text, UE_DTX_Cycle2InactivityThreshold* pvalue)
@@ -13679,7 +13679,7 @@ int UMTS_UE_DTX_long_preamble_length_ToEnum2(rtxContext* ctx, const char* text, 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_DTX_long_preamble_length_ToEnum(rtxContext* ctx, const char* text, UE_DTX_long_preamble_length* pvalue)
@@ -13720,7 +13720,7 @@ int UMTS_MAC_InactivityThreshold_ToEnum2(rtxContext* ctx, const char* text, size
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MAC_InactivityThreshold_ToEnum(rtxContext* ctx, const char* text, MAC_InactivityThreshold* pvalue)
@@ -13749,7 +13749,7 @@ int UMTS_UE_DPCCH_Burst_ToEnum2(rtxContext* ctx, const char* text, size_t length
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_DPCCH_Burst_ToEnum(rtxContext* ctx, const char* text, UE_DPCCH_Burst* pvalue)
@@ -13778,7 +13778,7 @@ int UMTS_Uplink_DPCCH_Slot_Format_Information_ToEnum2(rtxContext* ctx, const cha
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_Uplink_DPCCH_Slot_Format_Information_ToEnum(rtxContext* ctx, const char* text, Uplink_DPCCH_Slot_Format_Information* pvalue)
@@ -13805,7 +13805,7 @@ int UMTS_E_DCH_RL_InfoNewServingCell_servingGrant_primary_Secondary_GrantSelecto
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_E_DCH_RL_InfoNewServingCell_servingGrant_primary_Secondary_GrantSelector_ToEnum(rtxContext* ctx, const char* text, E_DCH_RL_InfoNewServingCell_servingGrant_primary_Secondary_GrantSelector* pvalue)
@@ -13832,7 +13832,7 @@ int UMTS_E_DCH_RL_InfoNewServingCell_r7_servingGrant_primary_Secondary_GrantSele
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_E_DCH_RL_InfoNewServingCell_r7_servingGrant_primary_Secondary_GrantSelector_ToEnum(rtxContext* ctx, const char* text, E_DCH_RL_InfoNewServingCell_r7_servingGrant_primary_Secondary_GrantSelector* pvalue)
@@ -13873,7 +13873,7 @@ int UMTS_EnablingDelay_ToEnum2(rtxContext* ctx, const char* text, size_t length,
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_EnablingDelay_ToEnum(rtxContext* ctx, const char* text, EnablingDelay* pvalue)
@@ -13900,7 +13900,7 @@ int UMTS_HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH_modulation_ToEn
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH_modulation_ToEnum(rtxContext* ctx, const char* text, HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH_modulation* pvalue)
@@ -13927,7 +13927,7 @@ int UMTS_MIMO_Operation_ToEnum2(rtxContext* ctx, const char* text, size_t length
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MIMO_Operation_ToEnum(rtxContext* ctx, const char* text, MIMO_Operation* pvalue)
@@ -13952,7 +13952,7 @@ int UMTS_MIMO_Parameters_v7g0ext_precodingWeightSetRestriction_ToEnum2(rtxContex
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MIMO_Parameters_v7g0ext_precodingWeightSetRestriction_ToEnum(rtxContext* ctx, const char* text, MIMO_Parameters_v7g0ext_precodingWeightSetRestriction* pvalue)
@@ -13979,7 +13979,7 @@ int UMTS_MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDual
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream_ToEnum(rtxContext* ctx, const char* text, MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream* pvalue)
@@ -14004,7 +14004,7 @@ int UMTS_MIMO_Parameters_r9_modeSpecificInfo_fdd_precodingWeightSetRestriction_T
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MIMO_Parameters_r9_modeSpecificInfo_fdd_precodingWeightSetRestriction_ToEnum(rtxContext* ctx, const char* text, MIMO_Parameters_r9_modeSpecificInfo_fdd_precodingWeightSetRestriction* pvalue)
@@ -14031,7 +14031,7 @@ int UMTS_MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDual
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream_ToEnum(rtxContext* ctx, const char* text, MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream* pvalue)
@@ -14063,7 +14063,7 @@ int UMTS_Non_ScheduledTransGrantInfoTDD_ext_tdd128_t_SI_nst_ToEnum2(rtxContext* 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_Non_ScheduledTransGrantInfoTDD_ext_tdd128_t_SI_nst_ToEnum(rtxContext* ctx, const char* text, Non_ScheduledTransGrantInfoTDD_ext_tdd128_t_SI_nst* pvalue)
@@ -14092,7 +14092,7 @@ int UMTS_ServingCellChangeMsgType_ToEnum2(rtxContext* ctx, const char* text, siz
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_ServingCellChangeMsgType_ToEnum(rtxContext* ctx, const char* text, ServingCellChangeMsgType* pvalue)
@@ -14124,7 +14124,7 @@ int UMTS_SpreadingFactor_ToEnum2(rtxContext* ctx, const char* text, size_t lengt
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_SpreadingFactor_ToEnum(rtxContext* ctx, const char* text, SpreadingFactor* pvalue)
@@ -14153,7 +14153,7 @@ int UMTS_SYNC_UL_Procedure_r4_max_SYNC_UL_Transmissions_ToEnum2(rtxContext* ctx,
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_SYNC_UL_Procedure_r4_max_SYNC_UL_Transmissions_ToEnum(rtxContext* ctx, const char* text, SYNC_UL_Procedure_r4_max_SYNC_UL_Transmissions* pvalue)
@@ -14191,7 +14191,7 @@ int UMTS_TFC_ControlDuration_ToEnum2(rtxContext* ctx, const char* text, size_t l
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TFC_ControlDuration_ToEnum(rtxContext* ctx, const char* text, TFC_ControlDuration* pvalue)
@@ -14216,7 +14216,7 @@ int UMTS_UL_16QAM_Config_mac_es_e_resetIndicator_ToEnum2(rtxContext* ctx, const 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UL_16QAM_Config_mac_es_e_resetIndicator_ToEnum(rtxContext* ctx, const char* text, UL_16QAM_Config_mac_es_e_resetIndicator* pvalue)
@@ -14241,7 +14241,7 @@ int UMTS_UL_EDCH_Information_r6_mac_es_e_resetIndicator_ToEnum2(rtxContext* ctx,
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UL_EDCH_Information_r6_mac_es_e_resetIndicator_ToEnum(rtxContext* ctx, const char* text, UL_EDCH_Information_r6_mac_es_e_resetIndicator* pvalue)
@@ -14266,7 +14266,7 @@ int UMTS_UL_EDCH_Information_r7_mac_es_e_resetIndicator_ToEnum2(rtxContext* ctx,
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UL_EDCH_Information_r7_mac_es_e_resetIndicator_ToEnum(rtxContext* ctx, const char* text, UL_EDCH_Information_r7_mac_es_e_resetIndicator* pvalue)
@@ -14299,7 +14299,7 @@ int UMTS_DopplerUncertainty_ToEnum2(rtxContext* ctx, const char* text, size_t le
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DopplerUncertainty_ToEnum(rtxContext* ctx, const char* text, DopplerUncertainty* pvalue)
@@ -14340,7 +14340,7 @@ int UMTS_CodePhaseSearchWindow_ToEnum2(rtxContext* ctx, const char* text, size_t
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CodePhaseSearchWindow_ToEnum(rtxContext* ctx, const char* text, CodePhaseSearchWindow* pvalue)
@@ -14397,7 +14397,7 @@ int UMTS_AverageRLC_BufferPayload_ToEnum2(rtxContext* ctx, const char* text, siz
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_AverageRLC_BufferPayload_ToEnum(rtxContext* ctx, const char* text, AverageRLC_BufferPayload* pvalue)
@@ -14424,7 +14424,7 @@ int UMTS_BSIC_VerificationRequired_ToEnum2(rtxContext* ctx, const char* text, si
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_BSIC_VerificationRequired_ToEnum(rtxContext* ctx, const char* text, BSIC_VerificationRequired* pvalue)
@@ -14451,7 +14451,7 @@ int UMTS_CellDCHMeasOccasionPattern_LCR_statusFlag_ToEnum2(rtxContext* ctx, cons
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CellDCHMeasOccasionPattern_LCR_statusFlag_ToEnum(rtxContext* ctx, const char* text, CellDCHMeasOccasionPattern_LCR_statusFlag* pvalue)
@@ -14476,7 +14476,7 @@ int UMTS_CellMeasuredResults_v920ext_csgMemberIndication_ToEnum2(rtxContext* ctx
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CellMeasuredResults_v920ext_csgMemberIndication_ToEnum(rtxContext* ctx, const char* text, CellMeasuredResults_v920ext_csgMemberIndication* pvalue)
@@ -14501,7 +14501,7 @@ int UMTS_CSGProximityDetection_uTRACSGProximityDetec_ToEnum2(rtxContext* ctx, co
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CSGProximityDetection_uTRACSGProximityDetec_ToEnum(rtxContext* ctx, const char* text, CSGProximityDetection_uTRACSGProximityDetec* pvalue)
@@ -14526,7 +14526,7 @@ int UMTS_CSGProximityDetection_e_UTRACSGProximityDetec_ToEnum2(rtxContext* ctx, 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CSGProximityDetection_e_UTRACSGProximityDetec_ToEnum(rtxContext* ctx, const char* text, CSGProximityDetection_e_UTRACSGProximityDetec* pvalue)
@@ -14553,7 +14553,7 @@ int UMTS_CSGProximityIndication_cSGproximityInd_ToEnum2(rtxContext* ctx, const c
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CSGProximityIndication_cSGproximityInd_ToEnum(rtxContext* ctx, const char* text, CSGProximityIndication_cSGproximityInd* pvalue)
@@ -14586,7 +14586,7 @@ int UMTS_GANSS_Status_Health_ToEnum2(rtxContext* ctx, const char* text, size_t l
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_GANSS_Status_Health_ToEnum(rtxContext* ctx, const char* text, GANSS_Status_Health* pvalue)
@@ -14615,7 +14615,7 @@ int UMTS_UDRE_ToEnum2(rtxContext* ctx, const char* text, size_t length, UDRE* pv
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UDRE_ToEnum(rtxContext* ctx, const char* text, UDRE* pvalue)
@@ -14648,7 +14648,7 @@ int UMTS_UDREGrowthRate_ToEnum2(rtxContext* ctx, const char* text, size_t length
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UDREGrowthRate_ToEnum(rtxContext* ctx, const char* text, UDREGrowthRate* pvalue)
@@ -14681,7 +14681,7 @@ int UMTS_UDREValidityTime_ToEnum2(rtxContext* ctx, const char* text, size_t leng
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UDREValidityTime_ToEnum(rtxContext* ctx, const char* text, UDREValidityTime* pvalue)
@@ -14714,7 +14714,7 @@ int UMTS_DiffCorrectionStatus_ToEnum2(rtxContext* ctx, const char* text, size_t 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DiffCorrectionStatus_ToEnum(rtxContext* ctx, const char* text, DiffCorrectionStatus* pvalue)
@@ -14741,7 +14741,7 @@ int UMTS_EllipsoidPoint_latitudeSign_ToEnum2(rtxContext* ctx, const char* text, 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_EllipsoidPoint_latitudeSign_ToEnum(rtxContext* ctx, const char* text, EllipsoidPoint_latitudeSign* pvalue)
@@ -14768,7 +14768,7 @@ int UMTS_EllipsoidPointAltitude_latitudeSign_ToEnum2(rtxContext* ctx, const char
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_EllipsoidPointAltitude_latitudeSign_ToEnum(rtxContext* ctx, const char* text, EllipsoidPointAltitude_latitudeSign* pvalue)
@@ -14795,7 +14795,7 @@ int UMTS_EllipsoidPointAltitude_altitudeDirection_ToEnum2(rtxContext* ctx, const
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_EllipsoidPointAltitude_altitudeDirection_ToEnum(rtxContext* ctx, const char* text, EllipsoidPointAltitude_altitudeDirection* pvalue)
@@ -14822,7 +14822,7 @@ int UMTS_EllipsoidPointAltitudeEllipsoide_latitudeSign_ToEnum2(rtxContext* ctx, 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_EllipsoidPointAltitudeEllipsoide_latitudeSign_ToEnum(rtxContext* ctx, const char* text, EllipsoidPointAltitudeEllipsoide_latitudeSign* pvalue)
@@ -14849,7 +14849,7 @@ int UMTS_EllipsoidPointAltitudeEllipsoide_altitudeDirection_ToEnum2(rtxContext* 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_EllipsoidPointAltitudeEllipsoide_altitudeDirection_ToEnum(rtxContext* ctx, const char* text, EllipsoidPointAltitudeEllipsoide_altitudeDirection* pvalue)
@@ -14876,7 +14876,7 @@ int UMTS_EllipsoidPointUncertCircle_latitudeSign_ToEnum2(rtxContext* ctx, const 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_EllipsoidPointUncertCircle_latitudeSign_ToEnum(rtxContext* ctx, const char* text, EllipsoidPointUncertCircle_latitudeSign* pvalue)
@@ -14903,7 +14903,7 @@ int UMTS_EllipsoidPointUncertEllipse_latitudeSign_ToEnum2(rtxContext* ctx, const
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_EllipsoidPointUncertEllipse_latitudeSign_ToEnum(rtxContext* ctx, const char* text, EllipsoidPointUncertEllipse_latitudeSign* pvalue)
@@ -14932,7 +14932,7 @@ int UMTS_EnvironmentCharacterisation_ToEnum2(rtxContext* ctx, const char* text, 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_EnvironmentCharacterisation_ToEnum(rtxContext* ctx, const char* text, EnvironmentCharacterisation* pvalue)
@@ -14961,7 +14961,7 @@ int UMTS_EventIDInterRAT_ToEnum2(rtxContext* ctx, const char* text, size_t lengt
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_EventIDInterRAT_ToEnum(rtxContext* ctx, const char* text, EventIDInterRAT* pvalue)
@@ -14992,7 +14992,7 @@ int UMTS_EUTRA_MeasurementBandwidth_ToEnum2(rtxContext* ctx, const char* text, s
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_EUTRA_MeasurementBandwidth_ToEnum(rtxContext* ctx, const char* text, EUTRA_MeasurementBandwidth* pvalue)
@@ -15017,7 +15017,7 @@ int UMTS_EUTRA_SIacquisitionResults_csgMemberIndication_ToEnum2(rtxContext* ctx,
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_EUTRA_SIacquisitionResults_csgMemberIndication_ToEnum(rtxContext* ctx, const char* text, EUTRA_SIacquisitionResults_csgMemberIndication* pvalue)
@@ -15050,7 +15050,7 @@ int UMTS_EventIDInterFreq_ToEnum2(rtxContext* ctx, const char* text, size_t leng
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_EventIDInterFreq_ToEnum(rtxContext* ctx, const char* text, EventIDInterFreq* pvalue)
@@ -15091,7 +15091,7 @@ int UMTS_EventIDIntraFreq_ToEnum2(rtxContext* ctx, const char* text, size_t leng
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_EventIDIntraFreq_ToEnum(rtxContext* ctx, const char* text, EventIDIntraFreq* pvalue)
@@ -15120,7 +15120,7 @@ int UMTS_MultipathIndicator_ToEnum2(rtxContext* ctx, const char* text, size_t le
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MultipathIndicator_ToEnum(rtxContext* ctx, const char* text, MultipathIndicator* pvalue)
@@ -15147,7 +15147,7 @@ int UMTS_HorizontalWithVerticalVelocity_verticalSpeedDirection_ToEnum2(rtxContex
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_HorizontalWithVerticalVelocity_verticalSpeedDirection_ToEnum(rtxContext* ctx, const char* text, HorizontalWithVerticalVelocity_verticalSpeedDirection* pvalue)
@@ -15174,7 +15174,7 @@ int UMTS_HorizontalWithVerticalVelocityAndUncertainty_verticalSpeedDirection_ToE
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_HorizontalWithVerticalVelocityAndUncertainty_verticalSpeedDirection_ToEnum(rtxContext* ctx, const char* text, HorizontalWithVerticalVelocityAndUncertainty_verticalSpeedDirection* pvalue)
@@ -15203,7 +15203,7 @@ int UMTS_GANSSMeasurementParameters_element_multipathIndicator_ToEnum2(rtxContex
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_GANSSMeasurementParameters_element_multipathIndicator_ToEnum(rtxContext* ctx, const char* text, GANSSMeasurementParameters_element_multipathIndicator* pvalue)
@@ -15236,7 +15236,7 @@ int UMTS_ExtraDoppler_dopplerUncertainty_ToEnum2(rtxContext* ctx, const char* te
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_ExtraDoppler_dopplerUncertainty_ToEnum(rtxContext* ctx, const char* text, ExtraDoppler_dopplerUncertainty* pvalue)
@@ -15263,7 +15263,7 @@ int UMTS_FreqQualityEstimateQuantity_FDD_ToEnum2(rtxContext* ctx, const char* te
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_FreqQualityEstimateQuantity_FDD_ToEnum(rtxContext* ctx, const char* text, FreqQualityEstimateQuantity_FDD* pvalue)
@@ -15288,7 +15288,7 @@ int UMTS_FreqQualityEstimateQuantity_TDD_ToEnum2(rtxContext* ctx, const char* te
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_FreqQualityEstimateQuantity_TDD_ToEnum(rtxContext* ctx, const char* text, FreqQualityEstimateQuantity_TDD* pvalue)
@@ -15321,7 +15321,7 @@ int UMTS_UE_Positioning_GANSS_TimeModel_gnss_to_id_ToEnum2(rtxContext* ctx, cons
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_Positioning_GANSS_TimeModel_gnss_to_id_ToEnum(rtxContext* ctx, const char* text, UE_Positioning_GANSS_TimeModel_gnss_to_id* pvalue)
@@ -15346,7 +15346,7 @@ int UMTS_UE_Positioning_GANSS_NavigationModel_non_broadcastIndication_ToEnum2(rt
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_Positioning_GANSS_NavigationModel_non_broadcastIndication_ToEnum(rtxContext* ctx, const char* text, UE_Positioning_GANSS_NavigationModel_non_broadcastIndication* pvalue)
@@ -15371,7 +15371,7 @@ int UMTS_UE_Positioning_GANSS_AddNavigationModels_non_broadcastIndication_ToEnum
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_Positioning_GANSS_AddNavigationModels_non_broadcastIndication_ToEnum(rtxContext* ctx, const char* text, UE_Positioning_GANSS_AddNavigationModels_non_broadcastIndication* pvalue)
@@ -15396,7 +15396,7 @@ int UMTS_GanssReqGenericData_v860ext_ganssAddNavigationModel_ToEnum2(rtxContext*
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_GanssReqGenericData_v860ext_ganssAddNavigationModel_ToEnum(rtxContext* ctx, const char* text, GanssReqGenericData_v860ext_ganssAddNavigationModel* pvalue)
@@ -15421,7 +15421,7 @@ int UMTS_GanssReqGenericData_v860ext_ganssAddUTCmodel_ToEnum2(rtxContext* ctx, c
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_GanssReqGenericData_v860ext_ganssAddUTCmodel_ToEnum(rtxContext* ctx, const char* text, GanssReqGenericData_v860ext_ganssAddUTCmodel* pvalue)
@@ -15446,7 +15446,7 @@ int UMTS_GanssReqGenericData_v860ext_ganssAuxInfo_ToEnum2(rtxContext* ctx, const
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_GanssReqGenericData_v860ext_ganssAuxInfo_ToEnum(rtxContext* ctx, const char* text, GanssReqGenericData_v860ext_ganssAuxInfo* pvalue)
@@ -15473,7 +15473,7 @@ int UMTS_MeasurementQuantityGSM_ToEnum2(rtxContext* ctx, const char* text, size_
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MeasurementQuantityGSM_ToEnum(rtxContext* ctx, const char* text, MeasurementQuantityGSM* pvalue)
@@ -15500,7 +15500,7 @@ int UMTS_MeasurementQuantityEUTRA_ToEnum2(rtxContext* ctx, const char* text, siz
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MeasurementQuantityEUTRA_ToEnum(rtxContext* ctx, const char* text, MeasurementQuantityEUTRA* pvalue)
@@ -15527,7 +15527,7 @@ int UMTS_InterRATReportingQuantity_r8_ratSpecificInfo_eutra_reportingQuantity_To
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_InterRATReportingQuantity_r8_ratSpecificInfo_eutra_reportingQuantity_ToEnum(rtxContext* ctx, const char* text, InterRATReportingQuantity_r8_ratSpecificInfo_eutra_reportingQuantity* pvalue)
@@ -15554,7 +15554,7 @@ int UMTS_IP_Length_ToEnum2(rtxContext* ctx, const char* text, size_t length, IP_
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_IP_Length_ToEnum(rtxContext* ctx, const char* text, IP_Length* pvalue)
@@ -15587,7 +15587,7 @@ int UMTS_IP_Spacing_ToEnum2(rtxContext* ctx, const char* text, size_t length, IP
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_IP_Spacing_ToEnum(rtxContext* ctx, const char* text, IP_Spacing* pvalue)
@@ -15617,7 +15617,7 @@ int UMTS_IP_Spacing_TDD_ToEnum2(rtxContext* ctx, const char* text, size_t length
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_IP_Spacing_TDD_ToEnum(rtxContext* ctx, const char* text, IP_Spacing_TDD* pvalue)
@@ -15674,7 +15674,7 @@ int UMTS_RLC_BuffersPayload_ToEnum2(rtxContext* ctx, const char* text, size_t le
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RLC_BuffersPayload_ToEnum(rtxContext* ctx, const char* text, RLC_BuffersPayload* pvalue)
@@ -15715,7 +15715,7 @@ int UMTS_VarianceOfRLC_BufferPayload_ToEnum2(rtxContext* ctx, const char* text, 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_VarianceOfRLC_BufferPayload_ToEnum(rtxContext* ctx, const char* text, VarianceOfRLC_BufferPayload* pvalue)
@@ -15748,7 +15748,7 @@ int UMTS_UE_Positioning_ErrorCause_ToEnum2(rtxContext* ctx, const char* text, si
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_Positioning_ErrorCause_ToEnum(rtxContext* ctx, const char* text, UE_Positioning_ErrorCause* pvalue)
@@ -15789,7 +15789,7 @@ int UMTS_UE_Positioning_ErrorCause_r7_ToEnum2(rtxContext* ctx, const char* text,
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_Positioning_ErrorCause_r7_ToEnum(rtxContext* ctx, const char* text, UE_Positioning_ErrorCause_r7* pvalue)
@@ -15814,7 +15814,7 @@ int UMTS_UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext_ganssEOPre
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext_ganssEOPreq_ToEnum(rtxContext* ctx, const char* text, UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext_ganssEOPreq* pvalue)
@@ -15843,7 +15843,7 @@ int UMTS_UE_Positioning_MethodType_ToEnum2(rtxContext* ctx, const char* text, si
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_Positioning_MethodType_ToEnum(rtxContext* ctx, const char* text, UE_Positioning_MethodType* pvalue)
@@ -15872,7 +15872,7 @@ int UMTS_PositioningMethod_ToEnum2(rtxContext* ctx, const char* text, size_t len
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_PositioningMethod_ToEnum(rtxContext* ctx, const char* text, PositioningMethod* pvalue)
@@ -15905,7 +15905,7 @@ int UMTS_UE_Positioning_ResponseTime_ToEnum2(rtxContext* ctx, const char* text, 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_Positioning_ResponseTime_ToEnum(rtxContext* ctx, const char* text, UE_Positioning_ResponseTime* pvalue)
@@ -15938,7 +15938,7 @@ int UMTS_UE_Positioning_MeasurementInterval_ToEnum2(rtxContext* ctx, const char*
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_Positioning_MeasurementInterval_ToEnum(rtxContext* ctx, const char* text, UE_Positioning_MeasurementInterval* pvalue)
@@ -15979,7 +15979,7 @@ int UMTS_ThresholdPositionChange_ToEnum2(rtxContext* ctx, const char* text, size
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_ThresholdPositionChange_ToEnum(rtxContext* ctx, const char* text, ThresholdPositionChange* pvalue)
@@ -16020,7 +16020,7 @@ int UMTS_ThresholdSFN_SFN_Change_ToEnum2(rtxContext* ctx, const char* text, size
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_ThresholdSFN_SFN_Change_ToEnum(rtxContext* ctx, const char* text, ThresholdSFN_SFN_Change* pvalue)
@@ -16053,7 +16053,7 @@ int UMTS_ThresholdSFN_GPS_TOW_ToEnum2(rtxContext* ctx, const char* text, size_t 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_ThresholdSFN_GPS_TOW_ToEnum(rtxContext* ctx, const char* text, ThresholdSFN_GPS_TOW* pvalue)
@@ -16107,7 +16107,7 @@ int UMTS_SFN_SFN_Drift_ToEnum2(rtxContext* ctx, const char* text, size_t length,
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_SFN_SFN_Drift_ToEnum(rtxContext* ctx, const char* text, SFN_SFN_Drift* pvalue)
@@ -16140,7 +16140,7 @@ int UMTS_OTDOA_SearchWindowSize_ToEnum2(rtxContext* ctx, const char* text, size_
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_OTDOA_SearchWindowSize_ToEnum(rtxContext* ctx, const char* text, OTDOA_SearchWindowSize* pvalue)
@@ -16167,7 +16167,7 @@ int UMTS_SFN_TOW_Uncertainty_ToEnum2(rtxContext* ctx, const char* text, size_t l
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_SFN_TOW_Uncertainty_ToEnum(rtxContext* ctx, const char* text, SFN_TOW_Uncertainty* pvalue)
@@ -16207,7 +16207,7 @@ int UMTS_UTRAN_GPS_DriftRate_ToEnum2(rtxContext* ctx, const char* text, size_t l
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UTRAN_GPS_DriftRate_ToEnum(rtxContext* ctx, const char* text, UTRAN_GPS_DriftRate* pvalue)
@@ -16237,7 +16237,7 @@ int UMTS_SatelliteStatus_ToEnum2(rtxContext* ctx, const char* text, size_t lengt
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_SatelliteStatus_ToEnum(rtxContext* ctx, const char* text, SatelliteStatus* pvalue)
@@ -16262,7 +16262,7 @@ int UMTS_SFN_Offset_Validity_ToEnum2(rtxContext* ctx, const char* text, size_t l
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_SFN_Offset_Validity_ToEnum(rtxContext* ctx, const char* text, SFN_Offset_Validity* pvalue)
@@ -16287,7 +16287,7 @@ int UMTS_UE_Positioning_ReportingQuantity_r7_velocityRequested_ToEnum2(rtxContex
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_Positioning_ReportingQuantity_r7_velocityRequested_ToEnum(rtxContext* ctx, const char* text, UE_Positioning_ReportingQuantity_r7_velocityRequested* pvalue)
@@ -16320,7 +16320,7 @@ int UMTS_ThresholdSFN_GPS_TOW_us_ToEnum2(rtxContext* ctx, const char* text, size
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_ThresholdSFN_GPS_TOW_us_ToEnum(rtxContext* ctx, const char* text, ThresholdSFN_GPS_TOW_us* pvalue)
@@ -16353,7 +16353,7 @@ int UMTS_ThresholdSFN_GANSS_TOW_ToEnum2(rtxContext* ctx, const char* text, size_
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_ThresholdSFN_GANSS_TOW_ToEnum(rtxContext* ctx, const char* text, ThresholdSFN_GANSS_TOW* pvalue)
@@ -16394,7 +16394,7 @@ int UMTS_Tutran_Ganss_DriftRate_ToEnum2(rtxContext* ctx, const char* text, size_
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_Tutran_Ganss_DriftRate_ToEnum(rtxContext* ctx, const char* text, Tutran_Ganss_DriftRate* pvalue)
@@ -16419,7 +16419,7 @@ int UMTS_UE_Positioning_ReportingQuantity_r8_velocityRequested_ToEnum2(rtxContex
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_Positioning_ReportingQuantity_r8_velocityRequested_ToEnum(rtxContext* ctx, const char* text, UE_Positioning_ReportingQuantity_r8_velocityRequested* pvalue)
@@ -16452,7 +16452,7 @@ int UMTS_DataTransmFrequency_dataTransmFreqGranularity_ToEnum2(rtxContext* ctx, 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DataTransmFrequency_dataTransmFreqGranularity_ToEnum(rtxContext* ctx, const char* text, DataTransmFrequency_dataTransmFreqGranularity* pvalue)
@@ -16509,7 +16509,7 @@ int UMTS_MBMS_AccessProbabilityFactor_ToEnum2(rtxContext* ctx, const char* text,
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MBMS_AccessProbabilityFactor_ToEnum(rtxContext* ctx, const char* text, MBMS_AccessProbabilityFactor* pvalue)
@@ -16538,7 +16538,7 @@ int UMTS_MBMS_SoftComb_TimingOffset_ToEnum2(rtxContext* ctx, const char* text, s
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MBMS_SoftComb_TimingOffset_ToEnum(rtxContext* ctx, const char* text, MBMS_SoftComb_TimingOffset* pvalue)
@@ -16567,7 +16567,7 @@ int UMTS_MBMS_NI_CountPerFrame_ToEnum2(rtxContext* ctx, const char* text, size_t
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MBMS_NI_CountPerFrame_ToEnum(rtxContext* ctx, const char* text, MBMS_NI_CountPerFrame* pvalue)
@@ -16595,7 +16595,7 @@ int UMTS_MBMS_MICHNotificationIndLength_ToEnum2(rtxContext* ctx, const char* tex
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MBMS_MICHNotificationIndLength_ToEnum(rtxContext* ctx, const char* text, MBMS_MICHNotificationIndLength* pvalue)
@@ -16624,7 +16624,7 @@ int UMTS_MBMS_NI_CountPerFrame_IMB384_ToEnum2(rtxContext* ctx, const char* text,
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MBMS_NI_CountPerFrame_IMB384_ToEnum(rtxContext* ctx, const char* text, MBMS_NI_CountPerFrame_IMB384* pvalue)
@@ -16655,7 +16655,7 @@ int UMTS_MBMS_RequiredUEAction_Mod_ToEnum2(rtxContext* ctx, const char* text, si
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MBMS_RequiredUEAction_Mod_ToEnum(rtxContext* ctx, const char* text, MBMS_RequiredUEAction_Mod* pvalue)
@@ -16680,7 +16680,7 @@ int UMTS_MBMS_ModifedService_r6_dummy_ToEnum2(rtxContext* ctx, const char* text,
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MBMS_ModifedService_r6_dummy_ToEnum(rtxContext* ctx, const char* text, MBMS_ModifedService_r6_dummy* pvalue)
@@ -16713,7 +16713,7 @@ int UMTS_MBMS_PTM_RBReleaseCause_LCR_r7_ToEnum2(rtxContext* ctx, const char* tex
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MBMS_PTM_RBReleaseCause_LCR_r7_ToEnum(rtxContext* ctx, const char* text, MBMS_PTM_RBReleaseCause_LCR_r7* pvalue)
@@ -16742,7 +16742,7 @@ int UMTS_MBMS_SCCPCHPwrOffsetDiff_ToEnum2(rtxContext* ctx, const char* text, siz
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MBMS_SCCPCHPwrOffsetDiff_ToEnum(rtxContext* ctx, const char* text, MBMS_SCCPCHPwrOffsetDiff* pvalue)
@@ -16767,7 +16767,7 @@ int UMTS_MBMS_PL_ServiceRestrictInfo_r6_ToEnum2(rtxContext* ctx, const char* tex
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MBMS_PL_ServiceRestrictInfo_r6_ToEnum(rtxContext* ctx, const char* text, MBMS_PL_ServiceRestrictInfo_r6* pvalue)
@@ -16800,7 +16800,7 @@ int UMTS_MBMS_Qoffset_ToEnum2(rtxContext* ctx, const char* text, size_t length, 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MBMS_Qoffset_ToEnum(rtxContext* ctx, const char* text, MBMS_Qoffset* pvalue)
@@ -16828,7 +16828,7 @@ int UMTS_MBMS_RequiredUEAction_UMod_ToEnum2(rtxContext* ctx, const char* text, s
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MBMS_RequiredUEAction_UMod_ToEnum(rtxContext* ctx, const char* text, MBMS_RequiredUEAction_UMod* pvalue)
@@ -16853,7 +16853,7 @@ int UMTS_MBSFNservicesNotNotified_r7_notificationOfAllMBSFNServicesInTheBand_ToE
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MBSFNservicesNotNotified_r7_notificationOfAllMBSFNServicesInTheBand_ToEnum(rtxContext* ctx, const char* text, MBSFNservicesNotNotified_r7_notificationOfAllMBSFNServicesInTheBand* pvalue)
@@ -16878,7 +16878,7 @@ int UMTS_MBSFNInterFrequencyNeighbour_v860ext_imb_Indication_ToEnum2(rtxContext*
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MBSFNInterFrequencyNeighbour_v860ext_imb_Indication_ToEnum(rtxContext* ctx, const char* text, MBSFNInterFrequencyNeighbour_v860ext_imb_Indication* pvalue)
@@ -16903,7 +16903,7 @@ int UMTS_CellUpdate_v7e0ext_IEs_supportForTwoDRXSchemesInPCH_ToEnum2(rtxContext*
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CellUpdate_v7e0ext_IEs_supportForTwoDRXSchemesInPCH_ToEnum(rtxContext* ctx, const char* text, CellUpdate_v7e0ext_IEs_supportForTwoDRXSchemesInPCH* pvalue)
@@ -16928,7 +16928,7 @@ int UMTS_CellUpdate_v690ext_IEs_trafficVolumeIndicator_ToEnum2(rtxContext* ctx, 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CellUpdate_v690ext_IEs_trafficVolumeIndicator_ToEnum(rtxContext* ctx, const char* text, CellUpdate_v690ext_IEs_trafficVolumeIndicator* pvalue)
@@ -16953,7 +16953,7 @@ int UMTS_CellUpdate_v690ext_IEs_reconfigurationStatusIndicator_ToEnum2(rtxContex
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CellUpdate_v690ext_IEs_reconfigurationStatusIndicator_ToEnum(rtxContext* ctx, const char* text, CellUpdate_v690ext_IEs_reconfigurationStatusIndicator* pvalue)
@@ -16982,7 +16982,7 @@ int UMTS_CellUpdate_v770ext_IEs_csCallType_ToEnum2(rtxContext* ctx, const char* 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CellUpdate_v770ext_IEs_csCallType_ToEnum(rtxContext* ctx, const char* text, CellUpdate_v770ext_IEs_csCallType* pvalue)
@@ -17007,7 +17007,7 @@ int UMTS_CellUpdate_v770ext_IEs_hspdschReception_CellFach_ToEnum2(rtxContext* ct
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CellUpdate_v770ext_IEs_hspdschReception_CellFach_ToEnum(rtxContext* ctx, const char* text, CellUpdate_v770ext_IEs_hspdschReception_CellFach* pvalue)
@@ -17032,7 +17032,7 @@ int UMTS_CellUpdate_v770ext_IEs_capabilityChangeIndicator_ToEnum2(rtxContext* ct
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CellUpdate_v770ext_IEs_capabilityChangeIndicator_ToEnum(rtxContext* ctx, const char* text, CellUpdate_v770ext_IEs_capabilityChangeIndicator* pvalue)
@@ -17057,7 +17057,7 @@ int UMTS_CellUpdate_v860ext_IEs_supportOfCommonEDCH_ToEnum2(rtxContext* ctx, con
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CellUpdate_v860ext_IEs_supportOfCommonEDCH_ToEnum(rtxContext* ctx, const char* text, CellUpdate_v860ext_IEs_supportOfCommonEDCH* pvalue)
@@ -17082,7 +17082,7 @@ int UMTS_CellUpdate_v860ext_IEs_supportOfHS_DSCHDRXOperation_ToEnum2(rtxContext*
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CellUpdate_v860ext_IEs_supportOfHS_DSCHDRXOperation_ToEnum(rtxContext* ctx, const char* text, CellUpdate_v860ext_IEs_supportOfHS_DSCHDRXOperation* pvalue)
@@ -17107,7 +17107,7 @@ int UMTS_CellUpdate_v860ext_IEs_supportOfMACiis_ToEnum2(rtxContext* ctx, const c
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CellUpdate_v860ext_IEs_supportOfMACiis_ToEnum(rtxContext* ctx, const char* text, CellUpdate_v860ext_IEs_supportOfMACiis* pvalue)
@@ -17132,7 +17132,7 @@ int UMTS_CellUpdate_v860ext_IEs_supportOfSPSOperation_ToEnum2(rtxContext* ctx, c
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CellUpdate_v860ext_IEs_supportOfSPSOperation_ToEnum(rtxContext* ctx, const char* text, CellUpdate_v860ext_IEs_supportOfSPSOperation* pvalue)
@@ -17157,7 +17157,7 @@ int UMTS_CellUpdate_v860ext_IEs_supportOfControlChannelDRXOperation_ToEnum2(rtxC
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CellUpdate_v860ext_IEs_supportOfControlChannelDRXOperation_ToEnum(rtxContext* ctx, const char* text, CellUpdate_v860ext_IEs_supportOfControlChannelDRXOperation* pvalue)
@@ -17182,7 +17182,7 @@ int UMTS_CellUpdateConfirm_v690ext_IEs_postVerificationPeriod_ToEnum2(rtxContext
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CellUpdateConfirm_v690ext_IEs_postVerificationPeriod_ToEnum(rtxContext* ctx, const char* text, CellUpdateConfirm_v690ext_IEs_postVerificationPeriod* pvalue)
@@ -17211,7 +17211,7 @@ int UMTS_InitialDirectTransfer_v770ext_IEs_csCallType_ToEnum2(rtxContext* ctx, c
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_InitialDirectTransfer_v770ext_IEs_csCallType_ToEnum(rtxContext* ctx, const char* text, InitialDirectTransfer_v770ext_IEs_csCallType* pvalue)
@@ -17236,7 +17236,7 @@ int UMTS_InitialDirectTransfer_v860ext_IEs_supportOfCSG_ToEnum2(rtxContext* ctx,
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_InitialDirectTransfer_v860ext_IEs_supportOfCSG_ToEnum(rtxContext* ctx, const char* text, InitialDirectTransfer_v860ext_IEs_supportOfCSG* pvalue)
@@ -17261,7 +17261,7 @@ int UMTS_InterRATHandoverInfo_v6b0ext_IEs_supportForSIB11bis_ToEnum2(rtxContext*
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_InterRATHandoverInfo_v6b0ext_IEs_supportForSIB11bis_ToEnum(rtxContext* ctx, const char* text, InterRATHandoverInfo_v6b0ext_IEs_supportForSIB11bis* pvalue)
@@ -17286,7 +17286,7 @@ int UMTS_InterRATHandoverInfo_v6e0ext_IEs_supportForFDPCH_ToEnum2(rtxContext* ct
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_InterRATHandoverInfo_v6e0ext_IEs_supportForFDPCH_ToEnum(rtxContext* ctx, const char* text, InterRATHandoverInfo_v6e0ext_IEs_supportForFDPCH* pvalue)
@@ -17311,7 +17311,7 @@ int UMTS_InterRATHandoverInfo_v790ext_IEs_supportForEDPCCHPowerBoosting_ToEnum2(
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_InterRATHandoverInfo_v790ext_IEs_supportForEDPCCHPowerBoosting_ToEnum(rtxContext* ctx, const char* text, InterRATHandoverInfo_v790ext_IEs_supportForEDPCCHPowerBoosting* pvalue)
@@ -17336,7 +17336,7 @@ int UMTS_PhysicalChannelReconfiguration_v690ext_IEs_postVerificationPeriod_ToEnu
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_PhysicalChannelReconfiguration_v690ext_IEs_postVerificationPeriod_ToEnum(rtxContext* ctx, const char* text, PhysicalChannelReconfiguration_v690ext_IEs_postVerificationPeriod* pvalue)
@@ -17361,7 +17361,7 @@ int UMTS_PhysicalChannelReconfiguration_r7_IEs_responseToChangeOfUE_Capability_T
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_PhysicalChannelReconfiguration_r7_IEs_responseToChangeOfUE_Capability_ToEnum(rtxContext* ctx, const char* text, PhysicalChannelReconfiguration_r7_IEs_responseToChangeOfUE_Capability* pvalue)
@@ -17386,7 +17386,7 @@ int UMTS_PhysicalChannelReconfiguration_r8_IEs_responseToChangeOfUE_Capability_T
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_PhysicalChannelReconfiguration_r8_IEs_responseToChangeOfUE_Capability_ToEnum(rtxContext* ctx, const char* text, PhysicalChannelReconfiguration_r8_IEs_responseToChangeOfUE_Capability* pvalue)
@@ -17411,7 +17411,7 @@ int UMTS_PhysicalChannelReconfiguration_r9_IEs_responseToChangeOfUE_Capability_T
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_PhysicalChannelReconfiguration_r9_IEs_responseToChangeOfUE_Capability_ToEnum(rtxContext* ctx, const char* text, PhysicalChannelReconfiguration_r9_IEs_responseToChangeOfUE_Capability* pvalue)
@@ -17436,7 +17436,7 @@ int UMTS_PhysicalChannelReconfigurationComplete_v770ext_IEs_deferredMeasurementC
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_PhysicalChannelReconfigurationComplete_v770ext_IEs_deferredMeasurementControlReading_ToEnum(rtxContext* ctx, const char* text, PhysicalChannelReconfigurationComplete_v770ext_IEs_deferredMeasurementControlReading* pvalue)
@@ -17463,7 +17463,7 @@ int UMTS_PhysicalSharedChannelAllocation_r3_IEs_confirmRequest_ToEnum2(rtxContex
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_PhysicalSharedChannelAllocation_r3_IEs_confirmRequest_ToEnum(rtxContext* ctx, const char* text, PhysicalSharedChannelAllocation_r3_IEs_confirmRequest* pvalue)
@@ -17490,7 +17490,7 @@ int UMTS_PhysicalSharedChannelAllocation_r4_IEs_confirmRequest_ToEnum2(rtxContex
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_PhysicalSharedChannelAllocation_r4_IEs_confirmRequest_ToEnum(rtxContext* ctx, const char* text, PhysicalSharedChannelAllocation_r4_IEs_confirmRequest* pvalue)
@@ -17515,7 +17515,7 @@ int UMTS_RadioBearerReconfiguration_v690ext_IEs_postVerificationPeriod_ToEnum2(r
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RadioBearerReconfiguration_v690ext_IEs_postVerificationPeriod_ToEnum(rtxContext* ctx, const char* text, RadioBearerReconfiguration_v690ext_IEs_postVerificationPeriod* pvalue)
@@ -17540,7 +17540,7 @@ int UMTS_RadioBearerReconfiguration_r7_IEs_responseToChangeOfUE_Capability_ToEnu
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RadioBearerReconfiguration_r7_IEs_responseToChangeOfUE_Capability_ToEnum(rtxContext* ctx, const char* text, RadioBearerReconfiguration_r7_IEs_responseToChangeOfUE_Capability* pvalue)
@@ -17565,7 +17565,7 @@ int UMTS_RadioBearerReconfiguration_r8_IEs_responseToChangeOfUE_Capability_ToEnu
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RadioBearerReconfiguration_r8_IEs_responseToChangeOfUE_Capability_ToEnum(rtxContext* ctx, const char* text, RadioBearerReconfiguration_r8_IEs_responseToChangeOfUE_Capability* pvalue)
@@ -17590,7 +17590,7 @@ int UMTS_RadioBearerReconfiguration_r9_IEs_responseToChangeOfUE_Capability_ToEnu
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RadioBearerReconfiguration_r9_IEs_responseToChangeOfUE_Capability_ToEnum(rtxContext* ctx, const char* text, RadioBearerReconfiguration_r9_IEs_responseToChangeOfUE_Capability* pvalue)
@@ -17615,7 +17615,7 @@ int UMTS_RadioBearerReconfigurationComplete_v770ext_IEs_deferredMeasurementContr
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RadioBearerReconfigurationComplete_v770ext_IEs_deferredMeasurementControlReading_ToEnum(rtxContext* ctx, const char* text, RadioBearerReconfigurationComplete_v770ext_IEs_deferredMeasurementControlReading* pvalue)
@@ -17640,7 +17640,7 @@ int UMTS_RadioBearerRelease_v690ext_IEs_postVerificationPeriod_ToEnum2(rtxContex
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RadioBearerRelease_v690ext_IEs_postVerificationPeriod_ToEnum(rtxContext* ctx, const char* text, RadioBearerRelease_v690ext_IEs_postVerificationPeriod* pvalue)
@@ -17665,7 +17665,7 @@ int UMTS_RadioBearerReleaseComplete_v770ext_IEs_deferredMeasurementControlReadin
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RadioBearerReleaseComplete_v770ext_IEs_deferredMeasurementControlReading_ToEnum(rtxContext* ctx, const char* text, RadioBearerReleaseComplete_v770ext_IEs_deferredMeasurementControlReading* pvalue)
@@ -17690,7 +17690,7 @@ int UMTS_RadioBearerSetup_v690ext_IEs_postVerificationPeriod_ToEnum2(rtxContext*
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RadioBearerSetup_v690ext_IEs_postVerificationPeriod_ToEnum(rtxContext* ctx, const char* text, RadioBearerSetup_v690ext_IEs_postVerificationPeriod* pvalue)
@@ -17715,7 +17715,7 @@ int UMTS_RadioBearerSetupComplete_v770ext_IEs_deferredMeasurementControlReading_
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RadioBearerSetupComplete_v770ext_IEs_deferredMeasurementControlReading_ToEnum(rtxContext* ctx, const char* text, RadioBearerSetupComplete_v770ext_IEs_deferredMeasurementControlReading* pvalue)
@@ -17740,7 +17740,7 @@ int UMTS_RRCConnectionReject_v6f0ext_IEs_countingCompletion_ToEnum2(rtxContext* 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RRCConnectionReject_v6f0ext_IEs_countingCompletion_ToEnum(rtxContext* ctx, const char* text, RRCConnectionReject_v6f0ext_IEs_countingCompletion* pvalue)
@@ -17767,7 +17767,7 @@ int UMTS_RRCConnectionRequest_v690ext_IEs_ueCapabilityIndication_ToEnum2(rtxCont
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RRCConnectionRequest_v690ext_IEs_ueCapabilityIndication_ToEnum(rtxContext* ctx, const char* text, RRCConnectionRequest_v690ext_IEs_ueCapabilityIndication* pvalue)
@@ -17796,7 +17796,7 @@ int UMTS_RRCConnectionRequest_v690ext_IEs_domainIndicator_cs_domain_csCallType_T
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RRCConnectionRequest_v690ext_IEs_domainIndicator_cs_domain_csCallType_ToEnum(rtxContext* ctx, const char* text, RRCConnectionRequest_v690ext_IEs_domainIndicator_cs_domain_csCallType* pvalue)
@@ -17821,7 +17821,7 @@ int UMTS_RRCConnectionRequest_v6e0ext_IEs_supportForFDPCH_ToEnum2(rtxContext* ct
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RRCConnectionRequest_v6e0ext_IEs_supportForFDPCH_ToEnum(rtxContext* ctx, const char* text, RRCConnectionRequest_v6e0ext_IEs_supportForFDPCH* pvalue)
@@ -17846,7 +17846,7 @@ int UMTS_RRCConnectionRequest_v770ext_IEs_hspdschReception_CellFach_ToEnum2(rtxC
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RRCConnectionRequest_v770ext_IEs_hspdschReception_CellFach_ToEnum(rtxContext* ctx, const char* text, RRCConnectionRequest_v770ext_IEs_hspdschReception_CellFach* pvalue)
@@ -17871,7 +17871,7 @@ int UMTS_RRCConnectionRequest_v770ext_IEs_mac_ehsSupport_ToEnum2(rtxContext* ctx
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RRCConnectionRequest_v770ext_IEs_mac_ehsSupport_ToEnum(rtxContext* ctx, const char* text, RRCConnectionRequest_v770ext_IEs_mac_ehsSupport* pvalue)
@@ -17896,7 +17896,7 @@ int UMTS_RRCConnectionRequest_v770ext_IEs_discontinuousDpcchTransmission_ToEnum2
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RRCConnectionRequest_v770ext_IEs_discontinuousDpcchTransmission_ToEnum(rtxContext* ctx, const char* text, RRCConnectionRequest_v770ext_IEs_discontinuousDpcchTransmission* pvalue)
@@ -17921,7 +17921,7 @@ int UMTS_RRCConnectionRequest_v7b0ext_IEs_supportForE_FDPCH_ToEnum2(rtxContext* 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RRCConnectionRequest_v7b0ext_IEs_supportForE_FDPCH_ToEnum(rtxContext* ctx, const char* text, RRCConnectionRequest_v7b0ext_IEs_supportForE_FDPCH* pvalue)
@@ -17946,7 +17946,7 @@ int UMTS_RRCConnectionRequest_v860ext_IEs_supportOfCommonEDCH_ToEnum2(rtxContext
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RRCConnectionRequest_v860ext_IEs_supportOfCommonEDCH_ToEnum(rtxContext* ctx, const char* text, RRCConnectionRequest_v860ext_IEs_supportOfCommonEDCH* pvalue)
@@ -17971,7 +17971,7 @@ int UMTS_RRCConnectionRequest_v860ext_IEs_multiCellSupport_ToEnum2(rtxContext* c
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RRCConnectionRequest_v860ext_IEs_multiCellSupport_ToEnum(rtxContext* ctx, const char* text, RRCConnectionRequest_v860ext_IEs_multiCellSupport* pvalue)
@@ -17996,7 +17996,7 @@ int UMTS_RRCConnectionRequest_v860ext_IEs_supportOfMACiis_ToEnum2(rtxContext* ct
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RRCConnectionRequest_v860ext_IEs_supportOfMACiis_ToEnum(rtxContext* ctx, const char* text, RRCConnectionRequest_v860ext_IEs_supportOfMACiis* pvalue)
@@ -18021,7 +18021,7 @@ int UMTS_RRCConnectionRequest_v860ext_IEs_supportOfSPSOperation_ToEnum2(rtxConte
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RRCConnectionRequest_v860ext_IEs_supportOfSPSOperation_ToEnum(rtxContext* ctx, const char* text, RRCConnectionRequest_v860ext_IEs_supportOfSPSOperation* pvalue)
@@ -18046,7 +18046,7 @@ int UMTS_RRCConnectionRequest_v7e0ext_IEs_supportForCSVoiceoverHSPA_ToEnum2(rtxC
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RRCConnectionRequest_v7e0ext_IEs_supportForCSVoiceoverHSPA_ToEnum(rtxContext* ctx, const char* text, RRCConnectionRequest_v7e0ext_IEs_supportForCSVoiceoverHSPA* pvalue)
@@ -18071,7 +18071,7 @@ int UMTS_RRCConnectionRequest_v920ext_IEs_supportOfDualCellMIMO_ToEnum2(rtxConte
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RRCConnectionRequest_v920ext_IEs_supportOfDualCellMIMO_ToEnum(rtxContext* ctx, const char* text, RRCConnectionRequest_v920ext_IEs_supportOfDualCellMIMO* pvalue)
@@ -18096,7 +18096,7 @@ int UMTS_RRCConnectionSetup_v690ext_IEs_postVerificationPeriod_ToEnum2(rtxContex
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RRCConnectionSetup_v690ext_IEs_postVerificationPeriod_ToEnum(rtxContext* ctx, const char* text, RRCConnectionSetup_v690ext_IEs_postVerificationPeriod* pvalue)
@@ -18121,7 +18121,7 @@ int UMTS_RRCConnectionSetupComplete_v770ext_IEs_deferredMeasurementControlReadin
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_RRCConnectionSetupComplete_v770ext_IEs_deferredMeasurementControlReading_ToEnum(rtxContext* ctx, const char* text, RRCConnectionSetupComplete_v770ext_IEs_deferredMeasurementControlReading* pvalue)
@@ -18148,7 +18148,7 @@ int UMTS_SignallingConnectionReleaseIndication_v860ext_signallingConnectionRelea
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_SignallingConnectionReleaseIndication_v860ext_signallingConnectionReleaseIndicationCause_ToEnum(rtxContext* ctx, const char* text, SignallingConnectionReleaseIndication_v860ext_signallingConnectionReleaseIndicationCause* pvalue)
@@ -18173,7 +18173,7 @@ int UMTS_TransportChannelReconfiguration_v690ext_IEs_postVerificationPeriod_ToEn
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TransportChannelReconfiguration_v690ext_IEs_postVerificationPeriod_ToEnum(rtxContext* ctx, const char* text, TransportChannelReconfiguration_v690ext_IEs_postVerificationPeriod* pvalue)
@@ -18198,7 +18198,7 @@ int UMTS_TransportChannelReconfiguration_r7_IEs_responseToChangeOfUE_Capability_
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TransportChannelReconfiguration_r7_IEs_responseToChangeOfUE_Capability_ToEnum(rtxContext* ctx, const char* text, TransportChannelReconfiguration_r7_IEs_responseToChangeOfUE_Capability* pvalue)
@@ -18223,7 +18223,7 @@ int UMTS_TransportChannelReconfiguration_r8_IEs_responseToChangeOfUE_Capability_
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TransportChannelReconfiguration_r8_IEs_responseToChangeOfUE_Capability_ToEnum(rtxContext* ctx, const char* text, TransportChannelReconfiguration_r8_IEs_responseToChangeOfUE_Capability* pvalue)
@@ -18248,7 +18248,7 @@ int UMTS_TransportChannelReconfiguration_r9_IEs_responseToChangeOfUE_Capability_
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TransportChannelReconfiguration_r9_IEs_responseToChangeOfUE_Capability_ToEnum(rtxContext* ctx, const char* text, TransportChannelReconfiguration_r9_IEs_responseToChangeOfUE_Capability* pvalue)
@@ -18273,7 +18273,7 @@ int UMTS_TransportChannelReconfigurationComplete_v770ext_IEs_deferredMeasurement
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TransportChannelReconfigurationComplete_v770ext_IEs_deferredMeasurementControlReading_ToEnum(rtxContext* ctx, const char* text, TransportChannelReconfigurationComplete_v770ext_IEs_deferredMeasurementControlReading* pvalue)
@@ -18301,7 +18301,7 @@ int UMTS_UECapabilityInformationConfirm_v770ext_IEs_acceptanceOfChangeOfCapabili
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UECapabilityInformationConfirm_v770ext_IEs_acceptanceOfChangeOfCapability_ToEnum(rtxContext* ctx, const char* text, UECapabilityInformationConfirm_v770ext_IEs_acceptanceOfChangeOfCapability* pvalue)
@@ -18330,7 +18330,7 @@ int UMTS_UplinkPhysicalChannelControl_v6a0ext_IEs_tpc_Step_Size_ToEnum2(rtxConte
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UplinkPhysicalChannelControl_v6a0ext_IEs_tpc_Step_Size_ToEnum(rtxContext* ctx, const char* text, UplinkPhysicalChannelControl_v6a0ext_IEs_tpc_Step_Size* pvalue)
@@ -18359,7 +18359,7 @@ int UMTS_UplinkPhysicalChannelControl_r7_IEs_tddOption_tdd128_tpc_Step_Size_ToEn
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UplinkPhysicalChannelControl_r7_IEs_tddOption_tdd128_tpc_Step_Size_ToEnum(rtxContext* ctx, const char* text, UplinkPhysicalChannelControl_r7_IEs_tddOption_tdd128_tpc_Step_Size* pvalue)
@@ -18384,7 +18384,7 @@ int UMTS_URAUpdate_v7e0ext_IEs_supportForTwoDRXSchemesInPCH_ToEnum2(rtxContext* 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_URAUpdate_v7e0ext_IEs_supportForTwoDRXSchemesInPCH_ToEnum(rtxContext* ctx, const char* text, URAUpdate_v7e0ext_IEs_supportForTwoDRXSchemesInPCH* pvalue)
@@ -18409,7 +18409,7 @@ int UMTS_UraUpdate_v770ext_IEs_support_hsdschReception_CellUraPch_ToEnum2(rtxCon
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UraUpdate_v770ext_IEs_support_hsdschReception_CellUraPch_ToEnum(rtxContext* ctx, const char* text, UraUpdate_v770ext_IEs_support_hsdschReception_CellUraPch* pvalue)
@@ -18434,7 +18434,7 @@ int UMTS_UraUpdate_v770ext_IEs_support_hsdschReception_CellFach_ToEnum2(rtxConte
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UraUpdate_v770ext_IEs_support_hsdschReception_CellFach_ToEnum(rtxContext* ctx, const char* text, UraUpdate_v770ext_IEs_support_hsdschReception_CellFach* pvalue)
@@ -18459,7 +18459,7 @@ int UMTS_URAUpdate_v860ext_IEs_supportOfHS_DSCHDRXOperation_ToEnum2(rtxContext* 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_URAUpdate_v860ext_IEs_supportOfHS_DSCHDRXOperation_ToEnum(rtxContext* ctx, const char* text, URAUpdate_v860ext_IEs_supportOfHS_DSCHDRXOperation* pvalue)
@@ -18484,7 +18484,7 @@ int UMTS_URAUpdate_v860ext_IEs_supportOfCommonEDCH_ToEnum2(rtxContext* ctx, cons
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_URAUpdate_v860ext_IEs_supportOfCommonEDCH_ToEnum(rtxContext* ctx, const char* text, URAUpdate_v860ext_IEs_supportOfCommonEDCH* pvalue)
@@ -18509,7 +18509,7 @@ int UMTS_URAUpdate_v860ext_IEs_supportOfMACiis_ToEnum2(rtxContext* ctx, const ch
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_URAUpdate_v860ext_IEs_supportOfMACiis_ToEnum(rtxContext* ctx, const char* text, URAUpdate_v860ext_IEs_supportOfMACiis* pvalue)
@@ -18534,7 +18534,7 @@ int UMTS_UTRANMobilityInformationConfirm_v770ext_IEs_deferredMeasurementControlR
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UTRANMobilityInformationConfirm_v770ext_IEs_deferredMeasurementControlReading_ToEnum(rtxContext* ctx, const char* text, UTRANMobilityInformationConfirm_v770ext_IEs_deferredMeasurementControlReading* pvalue)
@@ -18559,7 +18559,7 @@ int UMTS_MBMSModificationRequest_v6f0ext_IEs_mbmsSupportOfServiceChangeForAPtpRB
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MBMSModificationRequest_v6f0ext_IEs_mbmsSupportOfServiceChangeForAPtpRB_ToEnum(rtxContext* ctx, const char* text, MBMSModificationRequest_v6f0ext_IEs_mbmsSupportOfServiceChangeForAPtpRB* pvalue)
@@ -18584,7 +18584,7 @@ int UMTS_MBMSModifiedServicesInformation_mbms_ReacquireMCCH_ToEnum2(rtxContext* 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MBMSModifiedServicesInformation_mbms_ReacquireMCCH_ToEnum(rtxContext* ctx, const char* text, MBMSModifiedServicesInformation_mbms_ReacquireMCCH* pvalue)
@@ -18609,7 +18609,7 @@ int UMTS_MBMSModifiedServicesInformation_mbms_AllUnmodifiedPTMServices_ToEnum2(r
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MBMSModifiedServicesInformation_mbms_AllUnmodifiedPTMServices_ToEnum(rtxContext* ctx, const char* text, MBMSModifiedServicesInformation_mbms_AllUnmodifiedPTMServices* pvalue)
@@ -18638,7 +18638,7 @@ int UMTS_StateOfRRC_ToEnum2(rtxContext* ctx, const char* text, size_t length, St
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_StateOfRRC_ToEnum(rtxContext* ctx, const char* text, StateOfRRC* pvalue)
@@ -18675,7 +18675,7 @@ int UMTS_StateOfRRC_Procedure_ToEnum2(rtxContext* ctx, const char* text, size_t 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_StateOfRRC_Procedure_ToEnum(rtxContext* ctx, const char* text, StateOfRRC_Procedure* pvalue)
@@ -18702,7 +18702,7 @@ int UMTS_CipheringStatus_ToEnum2(rtxContext* ctx, const char* text, size_t lengt
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_CipheringStatus_ToEnum(rtxContext* ctx, const char* text, CipheringStatus* pvalue)
@@ -18729,7 +18729,7 @@ int UMTS_IntegrityProtectionStatus_ToEnum2(rtxContext* ctx, const char* text, si
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_IntegrityProtectionStatus_ToEnum(rtxContext* ctx, const char* text, IntegrityProtectionStatus* pvalue)
@@ -18754,7 +18754,7 @@ int UMTS_UE_Positioning_Capability_r4_validity_CellPCH_UraPCH_ToEnum2(rtxContext
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_Positioning_Capability_r4_validity_CellPCH_UraPCH_ToEnum(rtxContext* ctx, const char* text, UE_Positioning_Capability_r4_validity_CellPCH_UraPCH* pvalue)
@@ -18779,7 +18779,7 @@ int UMTS_UE_Positioning_Capability_r4_sfn_sfnType2Capability_ToEnum2(rtxContext*
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UE_Positioning_Capability_r4_sfn_sfnType2Capability_ToEnum(rtxContext* ctx, const char* text, UE_Positioning_Capability_r4_sfn_sfnType2Capability* pvalue)
@@ -18813,7 +18813,7 @@ int UMTS_MaxHcContextSpace_r5_ToEnum2(rtxContext* ctx, const char* text, size_t 
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_MaxHcContextSpace_r5_ToEnum(rtxContext* ctx, const char* text, MaxHcContextSpace_r5* pvalue)
@@ -18848,7 +18848,7 @@ int UMTS_TotalRLC_AM_BufferSize_r5_ToEnum2(rtxContext* ctx, const char* text, si
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_TotalRLC_AM_BufferSize_r5_ToEnum(rtxContext* ctx, const char* text, TotalRLC_AM_BufferSize_r5* pvalue)
@@ -18873,7 +18873,7 @@ int UMTS_PDCP_Capability_r6_losslessDLRLC_PDUSizeChange_ToEnum2(rtxContext* ctx,
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_PDCP_Capability_r6_losslessDLRLC_PDUSizeChange_ToEnum(rtxContext* ctx, const char* text, PDCP_Capability_r6_losslessDLRLC_PDUSizeChange* pvalue)
@@ -18901,7 +18901,7 @@ int UMTS_DL_RFC3095_Context_dl_mode_ToEnum2(rtxContext* ctx, const char* text, s
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_DL_RFC3095_Context_dl_mode_ToEnum(rtxContext* ctx, const char* text, DL_RFC3095_Context_dl_mode* pvalue)
@@ -18929,7 +18929,7 @@ int UMTS_UL_RFC3095_Context_ul_mode_ToEnum2(rtxContext* ctx, const char* text, s
       return 0;
    }
    rtxErrAddStrnParm(ctx, text, length);
-   RT_RAISE(ctx, RT_ERR_INVENUM);
+   RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
 }
 
 int UMTS_UL_RFC3095_Context_ul_mode_ToEnum(rtxContext* ctx, const char* text, UL_RFC3095_Context_ul_mode* pvalue)

@@ -90,6 +90,19 @@ void putPath(TextOut& out, const rtxContext* ctx) {
     if (i > 0) out.put(".", 1);
     putEntry(out, ctx->path[i]);
   }
+  /* Names recorded on the way out of a failure, outermost first. */
+  for (uint32_t i = ctx->err.nunwound; i > 0; i--) {
+    if (n > 0 || i < ctx->err.nunwound) out.put(".", 1);
+    putEntry(out, ctx->err.unwound[i - 1]);
+  }
+}
+
+void unwindName(rtxErrInfo* e, const char* name, int32_t index, uint32_t kind) {
+  if (name == nullptr || e->nunwound >= RT_MAX_PATH) return;
+  e->unwound[e->nunwound].name = name;
+  e->unwound[e->nunwound].index = index;
+  e->unwound[e->nunwound].kind = kind;
+  e->nunwound++;
 }
 
 /* Next free parameter slot, or null when all are taken. */
@@ -104,9 +117,23 @@ char* nextParm(rtxContext* ctx) {
 
 int rtInitContext(rtxContext* ctx) {
   if (ctx == nullptr) return RT_ERR_INVPARAM;
-  std::memset(ctx, 0, sizeof *ctx);
+  /* Counters and pointers only: the path, error and heap storage behind them is written
+     before it is read, so a context starts in a few stores. */
+  ctx->buffer_data = nullptr;
+  ctx->byte_index = 0;
+  ctx->buffer_size = 0;
   ctx->bit_offset = 8;
+  ctx->aligned = 0;
+  ctx->dynamic = 0;
+  std::memset(&ctx->size_constraint_store, 0, sizeof ctx->size_constraint_store);
   ctx->size_constraint = &ctx->size_constraint_store;
+  ctx->path_depth = 0;
+  ctx->err.status = 0;
+  ctx->err.nlocs = 0;
+  ctx->err.nparms = 0;
+  ctx->err.nunwound = 0;
+  ctx->heap.blocks = nullptr;
+  ctx->heap.limit = 0;
   pointAtInlineBlock(&ctx->heap);
   ctx->magic = kContextMagic;
   return 0;
@@ -244,6 +271,17 @@ int rtxErrSetData(rtxContext* ctx, int status, const char* file, int line) {
   return status;
 }
 
+int rtxErrUnwind(rtxContext* ctx, int status, const char* file, int line, const char* inner, const char* elem,
+                 int32_t index, const char* outer) {
+  if (ctx == nullptr || status == 0) return status;
+  rtxErrSetData(ctx, status, file, line);
+  rtxErrInfo* e = &ctx->err;
+  unwindName(e, inner, -1, 0);
+  unwindName(e, elem, index, index >= 0 ? 2u : 1u);
+  unwindName(e, outer, -1, 0);
+  return status;
+}
+
 int rtxErrAddElemNameParm(rtxContext* ctx) {
   char* slot = nextParm(ctx);
   if (slot == nullptr) return RT_ERR_INVPARAM;
@@ -296,6 +334,7 @@ void rtxErrReset(rtxContext* ctx) {
   ctx->err.status = 0;
   ctx->err.nlocs = 0;
   ctx->err.nparms = 0;
+  ctx->err.nunwound = 0;
 }
 
 const char* rtxErrStatusText(int status) {

@@ -159,6 +159,45 @@ fail:
   return stat;
 }
 
+/* The common case of a bounded string whose length is a constrained count (upper bound
+   below 64K): count, bounds, capacity, then the units in one copy. Returns 1 when the
+   string was not of that kind and the general path must run. */
+int decBoundedString(rtxContext* ctx, const Bounds& b, uint32_t unit, uint8_t* dst, uint32_t capacity,
+                     uint32_t* pcount, int* pstat) {
+  if (!b.constrained || !usesConstrainedCount(b) || b.lower > b.upper) return 1;
+  const uint64_t start = rtxBitPos(ctx);
+  uint32_t count = b.lower;
+  if (b.upper != b.lower) {
+    uint32_t raw;
+    int stat = rtxDecBitsFast(ctx, &raw, rtxRangeBits(b.upper - b.lower));
+    if (stat != 0) {
+      *pstat = stat;
+      return 0;
+    }
+    if (raw > b.upper - b.lower) {
+      rtxSetBitPos(ctx, start);
+      *pstat = RT_ERR_CONSVIO;
+      return 0;
+    }
+    count += raw;
+  }
+  const uint64_t bits = static_cast<uint64_t>(count) * unit;
+  if ((bits + 7u) / 8u > capacity) {
+    rtxSetBitPos(ctx, start);
+    *pstat = RT_ERR_CONSVIO;
+    return 0;
+  }
+  int stat = rtxDecBitsToBytes(ctx, dst, static_cast<uint32_t>(bits));
+  if (stat != 0) {
+    rtxSetBitPos(ctx, start);
+    *pstat = stat;
+    return 0;
+  }
+  *pcount = count;
+  *pstat = 0;
+  return 0;
+}
+
 }  // namespace
 
 int pu_setBuffer(rtxContext* ctx, const uint8_t* data, uint32_t size, uint8_t aligned) {
@@ -192,6 +231,22 @@ int rtxDecBit(rtxContext* ctx, uint8_t* pvalue) {
 int rtxDecBits(rtxContext* ctx, uint32_t* pvalue, uint32_t nbits) {
   if (nbits > 32) return RT_ERR_INVPARAM;
   return rtxDecBitsFast(ctx, pvalue, nbits);
+}
+
+int rtxDecConsRangeWide(rtxContext* ctx, uint64_t* praw, uint64_t range) {
+  const uint32_t nbits = rtxRangeBits(range);
+  if (!haveBits(ctx, nbits)) return RT_ERR_ENDOFBUF;
+  const uint64_t start = rtxBitPos(ctx);
+  uint32_t hi = 0, lo = 0;
+  rtxDecBitsFast(ctx, &hi, nbits - 32);
+  rtxDecBitsFast(ctx, &lo, 32);
+  const uint64_t raw = (static_cast<uint64_t>(hi) << 32) | lo;
+  if (raw > range) {
+    rtxSetBitPos(ctx, start);
+    return RT_ERR_CONSVIO;
+  }
+  *praw = raw;
+  return 0;
 }
 
 int pd_ConsUnsignedSlow(rtxContext* ctx, uint64_t* pvalue, uint64_t lower, uint64_t upper) {
@@ -233,6 +288,30 @@ int pd_BitString32(rtxContext* ctx, rtxBitStr32* pvalue, uint32_t lower, uint32_
   if (pvalue == nullptr) return RT_ERR_INVPARAM;
   uint8_t data[4] = {0, 0, 0, 0};
   uint32_t numbits;
+  if (upper <= 32 && lower <= upper) {
+    /* At most 32 bits: count and data straight from one window. */
+    const uint64_t start = rtxBitPos(ctx);
+    uint32_t raw = 0, bits;
+    int stat = rtxDecBitsFast(ctx, &raw, rtxRangeBits(upper - lower));
+    if (stat != 0) return stat;
+    numbits = lower + raw;
+    if (numbits > upper) {
+      rtxSetBitPos(ctx, start);
+      return RT_ERR_CONSVIO;
+    }
+    stat = rtxDecBitsFast(ctx, &bits, numbits);
+    if (stat != 0) {
+      rtxSetBitPos(ctx, start);
+      return stat;
+    }
+    bits = numbits ? bits << (32u - numbits) : 0u;
+    pvalue->numbits = numbits;
+    pvalue->data[0] = static_cast<uint8_t>(bits >> 24);
+    pvalue->data[1] = static_cast<uint8_t>(bits >> 16);
+    pvalue->data[2] = static_cast<uint8_t>(bits >> 8);
+    pvalue->data[3] = static_cast<uint8_t>(bits);
+    return 0;
+  }
   int stat = decString(ctx, Bounds{true, lower, upper}, 1, data, 4, false, nullptr, &numbits);
   if (stat != 0) return stat;
   pvalue->numbits = numbits;
@@ -242,6 +321,8 @@ int pd_BitString32(rtxContext* ctx, rtxBitStr32* pvalue, uint32_t lower, uint32_
 
 int pd_BitString(rtxContext* ctx, uint32_t* numbits, uint8_t* data, uint32_t capacity) {
   if (numbits == nullptr) return RT_ERR_INVPARAM;
+  int stat;
+  if (decBoundedString(ctx, boundsOf(ctx->size_constraint), 1, data, capacity, numbits, &stat) == 0) return stat;
   return decString(ctx, boundsOf(ctx->size_constraint), 1, data, capacity, false, nullptr, numbits);
 }
 
@@ -258,6 +339,8 @@ int pd_DynBitString(rtxContext* ctx, rtxDynBitStr* pvalue) {
 
 int pd_OctetString(rtxContext* ctx, uint32_t* numocts, uint8_t* data, uint32_t capacity) {
   if (numocts == nullptr) return RT_ERR_INVPARAM;
+  int stat;
+  if (decBoundedString(ctx, boundsOf(ctx->size_constraint), 8, data, capacity, numocts, &stat) == 0) return stat;
   return decString(ctx, boundsOf(ctx->size_constraint), 8, data, capacity, false, nullptr, numocts);
 }
 
@@ -282,12 +365,24 @@ int rtxDecBitsToBytes(rtxContext* ctx, uint8_t* dst, uint32_t nbits) {
   if (shift == 0) {
     std::memcpy(dst, ctx->buffer_data + bi, nbytes);
   } else {
-    /* Each 64-bit window shifted into place yields 7 whole output bytes. Output byte o
-       starts inside input byte bi + o, so every window loaded starts inside the buffer. */
-    for (uint32_t o = 0; o < nbytes; o += 7) {
+    /* Eight output bytes per step: a 64-bit window shifted into place, topped up with the
+       high bits of the byte after it. Output byte o starts inside input byte bi + o, so every
+       window starts inside the buffer; rtxLoadWindow reads zero past its end. */
+    const uint8_t* src = ctx->buffer_data;
+    const uint32_t size = ctx->buffer_size;
+    uint32_t o = 0;
+    for (; o + 8u <= nbytes; o += 8u) {
       uint64_t w = rtxLoadWindow(ctx, bi + o) << shift;
-      uint32_t n = nbytes - o < 7u ? nbytes - o : 7u;
-      for (uint32_t k = 0; k < n; k++) dst[o + k] = static_cast<uint8_t>(w >> (56u - 8u * k));
+      uint32_t next = bi + o + 8u;
+      if (next < size) w |= static_cast<uint64_t>(src[next]) >> (8u - shift);
+      w = rtxBigEndian64(w);
+      std::memcpy(dst + o, &w, 8);
+    }
+    if (o < nbytes) {
+      uint64_t w = rtxLoadWindow(ctx, bi + o) << shift;
+      uint32_t next = bi + o + 8u;
+      if (next < size) w |= static_cast<uint64_t>(src[next]) >> (8u - shift);
+      for (uint32_t k = 0; o + k < nbytes; k++) dst[o + k] = static_cast<uint8_t>(w >> (56u - 8u * k));
     }
   }
   if (nbits & 7u) dst[nbytes - 1] &= static_cast<uint8_t>(0xFFu << (8u - (nbits & 7u)));
